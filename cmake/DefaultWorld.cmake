@@ -1,0 +1,1 @@
+# The default world: data/ from world/.

@@ -1,0 +1,101 @@
+#include "calendar/advanceday.h"
+
+#include "business/businesssteps.h"
+#include "calendar/daysteps.h"
+#include "records/dates.h"
+#include "records/sweeps.h"
+#include "rivals/rivalsteps.h"
+
+namespace grapplemont {
+
+namespace {
+
+#define STEP(routine) \
+  Step { #routine, routine }
+
+constexpr Step kDaily[] = {
+    STEP(OwnerlessPromotions), STEP(RivalWorkerHiring), STEP(RivalStaffHiring),
+    STEP(RivalSponsorSigning), STEP(DailyWorkerUpkeep),
+};
+
+constexpr Step kMonday[] = {
+    STEP(RivalPositions),    STEP(RivalHouseShows), STEP(WriterWorkload),   STEP(TvContractReview),
+    STEP(SponsorRiskReview), STEP(EconomyDrift),    STEP(RivalAdvertising), STEP(RosterSizeReview),
+};
+
+constexpr Step kFirstOfMonth[] = {
+    STEP(PoorFormMorale),
+    STEP(DiscoverFreeAgents),
+    STEP(DevelopmentMonth),
+    STEP(TrainingCampMonth),
+    STEP(StatusCountdown),
+    STEP(AgeAndRetire),
+    STEP(RivalNewTvShows),
+    STEP(PayWagesAndContracts),
+    STEP(RivalContractRenewals),
+    STEP(SponsorContractCountdown),
+    STEP(LoanRepayments),
+    STEP(MerchandiseIncome),
+    STEP(MonthlyCosts),
+    STEP(MonthlyReview),
+};
+
+constexpr Step kSecondFirstOfMonth[] = {
+    STEP(CloseMonthBooks),
+    STEP(BankruptcyCheck),
+    STEP(NewPromotionCheck),
+};
+
+constexpr Step kClosing[] = {
+    STEP(IncidentRoll),
+    STEP(SweepDeadPromotions),
+    STEP(SweepDeadShows),
+};
+
+#undef STEP
+
+void Tell(const StepWatcher& watcher, std::string_view step) {
+  if (watcher) watcher(step);
+}
+
+void Walk(World& world, std::span<const Step> steps, const StepWatcher& watcher) {
+  for (const Step& step : steps) {
+    Tell(watcher, step.Name);
+    step.Run(world);
+  }
+}
+
+void MoveDate(World& world) {
+  GameInfo& game = world.Game();
+  game.Today = world.Today() + std::chrono::days{1};
+  if (!IsFirstOfMonth(game.Today) || game.TapeWait == 0) return;
+  AnswerPromoTapes(world);
+  game.TapeWait = 0;
+}
+
+}  // namespace
+
+std::span<const Step> DailySteps() { return kDaily; }
+std::span<const Step> MondaySteps() { return kMonday; }
+std::span<const Step> FirstOfMonthSteps() { return kFirstOfMonth; }
+std::span<const Step> SecondFirstOfMonthSteps() { return kSecondFirstOfMonth; }
+std::span<const Step> ClosingSteps() { return kClosing; }
+
+void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher) {
+  world.Session.StartSize = world.Player().Size;
+  Tell(watcher, "PlayerShowConsequences");
+  PlayerShowConsequences(world, cancelled);
+  Tell(watcher, "RivalShows");
+  RivalShows(world);
+  MoveDate(world);
+  world.Session.StartSize = world.Player().Size;
+  Walk(world, kDaily, watcher);
+  if (IsMonday(world.Today())) Walk(world, kMonday, watcher);
+  if (IsFirstOfMonth(world.Today())) {
+    Walk(world, kFirstOfMonth, watcher);
+    Walk(world, kSecondFirstOfMonth, watcher);
+  }
+  Walk(world, kClosing, watcher);
+}
+
+}  // namespace grapplemont

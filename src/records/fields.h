@@ -1,0 +1,184 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <chrono>
+#include <cstdint>
+#include <cstring>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+// Field types whose bytes are the file's bytes: alignment 1, little-endian, no padding. A record struct made of
+// them is its own layout table.
+
+namespace grapplemont {
+
+/// A value that its field cannot hold; the field keeps what it held. `World::Explain` names record and field.
+class FieldOverflow : public std::range_error {
+ public:
+  FieldOverflow(const void* field, long long value, int bits);
+  const void* Field() const { return field_; }
+  long long Value() const { return value_; }
+
+ private:
+  const void* field_;
+  long long value_;
+};
+
+namespace detail {
+
+/// A signed little-endian whole number of `Bytes` bytes.
+template <int Bytes>
+class Integer {
+ public:
+  constexpr Integer() = default;
+  constexpr operator int() const {
+    std::uint32_t bits = 0;
+    for (int i = 0; i < Bytes; ++i) bits |= std::uint32_t{bytes_[i]} << (8 * i);
+    if constexpr (Bytes == 2) return static_cast<std::int16_t>(bits);
+    return static_cast<std::int32_t>(bits);
+  }
+
+ protected:
+  constexpr void Store(long long value) {
+    constexpr long long kMost = (1LL << (8 * Bytes - 1)) - 1;
+    if (value > kMost || value < -kMost - 1) throw FieldOverflow(this, value, 8 * Bytes);
+    for (int i = 0; i < Bytes; ++i) bytes_[i] = static_cast<std::uint8_t>(value >> (8 * i));
+  }
+
+ private:
+  std::uint8_t bytes_[Bytes] = {};
+};
+
+/// What every number field shares: it reads as an int and takes assignments through `Derived::Set`.
+template <class Derived, int Bytes>
+class Number : public Integer<Bytes> {
+ public:
+  constexpr Derived& operator=(long long value) { return Put(value); }
+  constexpr Derived& operator+=(long long change) { return Put(int(*this) + change); }
+  constexpr Derived& operator-=(long long change) { return Put(int(*this) - change); }
+  constexpr Derived& operator++() { return Put(int(*this) + 1LL); }
+  constexpr Derived& operator--() { return Put(int(*this) - 1LL); }
+
+ private:
+  constexpr Derived& Put(long long value) {
+    auto& self = static_cast<Derived&>(*this);
+    self.Set(value);
+    return self;
+  }
+};
+
+}  // namespace detail
+
+/// 16 bits, signed. Storing a value outside them throws FieldOverflow.
+class Word : public detail::Number<Word, 2> {
+ public:
+  constexpr Word() = default;
+  constexpr explicit Word(int value) { Set(value); }
+  using Number::operator=;
+  constexpr void Set(long long value) { Store(value); }
+};
+
+/// 16 bits that hold a percentage: storing saturates to 0..100, reading gives what the file holds.
+class Percent : public detail::Number<Percent, 2> {
+ public:
+  constexpr Percent() = default;
+  constexpr explicit Percent(int value) { Set(value); }
+  using Number::operator=;
+  constexpr void Set(long long value) { Store(std::clamp(value, 0LL, 100LL)); }
+};
+
+/// 32 bits, signed: whole dollars or thousands of dollars. Storing a value outside them throws FieldOverflow.
+class Long : public detail::Number<Long, 4> {
+ public:
+  constexpr Long() = default;
+  constexpr explicit Long(int value) { Set(value); }
+  using Number::operator=;
+  constexpr void Set(long long value) { Store(value); }
+};
+
+/// 16 bits that hold a truth: -1 or 0 when written, any non-zero is true when read.
+class Flag : private detail::Integer<2> {
+ public:
+  constexpr Flag() = default;
+  constexpr explicit Flag(bool value) { Store(value ? -1 : 0); }
+  constexpr operator bool() const { return Raw() != 0; }
+  constexpr Flag& operator=(bool value) {
+    Store(value ? -1 : 0);
+    return *this;
+  }
+  constexpr int Raw() const { return Integer::operator int(); }
+};
+
+using Day = std::chrono::sys_days;
+
+/// Day 0 of the file's calendar.
+inline constexpr Day kDayZero{std::chrono::year{1899} / 12 / 30};
+
+/// 8 bytes: days since 30 December 1899 as a floating-point number, its fraction the time of day.
+class Date {
+ public:
+  Date() = default;
+  explicit Date(Day day) { *this = day; }
+  /// The calendar day; day zero for a number that is none or lies outside the years 100 to 9999.
+  operator Day() const;
+  Date& operator=(Day day);
+  double Raw() const;
+  void SetRaw(double days);
+  bool IsNone() const { return Day(*this) == kDayZero; }
+
+ private:
+  std::uint8_t bytes_[8] = {};
+};
+
+namespace detail {
+/// The text between the first and the last character that is not a blank.
+std::string_view Trimmed(std::string_view text);
+}  // namespace detail
+
+/// N bytes of Windows-1252 text, padded with blanks. Cuts what is longer; reads and compares trimmed.
+template <int N>
+class Text {
+ public:
+  Text() { bytes_.fill(' '); }
+  explicit Text(std::string_view text) { *this = text; }
+  operator std::string_view() const { return View(); }
+  std::string_view View() const { return detail::Trimmed({bytes_.data(), N}); }
+  std::string Str() const { return std::string(View()); }
+  Text& operator=(std::string_view text) {
+    bytes_.fill(' ');
+    std::memmove(bytes_.data(), text.data(), std::min<std::size_t>(text.size(), N));
+    return *this;
+  }
+  friend bool operator==(const Text& a, std::string_view b) {
+    return a.View() == detail::Trimmed(b);
+  }
+  template <int M>
+  friend bool operator==(const Text& a, const Text<M>& b) {
+    return a.View() == b.View();
+  }
+  static constexpr int kWidth = N;
+
+ private:
+  std::array<char, N> bytes_;
+};
+
+template <int N>
+std::string operator+(const Text<N>& a, std::string_view b) {
+  return a.Str().append(b);
+}
+template <int N>
+std::string operator+(std::string_view a, const Text<N>& b) {
+  return std::string(a).append(b.View());
+}
+template <int N>
+std::string operator+(std::string&& a, const Text<N>& b) {
+  return std::move(a.append(b.View()));
+}
+
+/// A month count or index that says "no end", "nobody" or "no data".
+inline constexpr int kNoEnd = -1;
+
+}  // namespace grapplemont

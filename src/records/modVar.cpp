@@ -1,0 +1,35 @@
+#include "records/modVar.h"
+
+#include "records/dates.h"
+
+namespace grapplemont {
+
+void AddNews(World& world, std::string_view from, std::string_view body) {
+  if (world.News().Full()) world.News().Erase(1);
+  Mail mail;
+  mail.From = from;
+  mail.Date = ShortDate(world.Today());
+  mail.Body = body;
+  world.News().Append(mail);
+}
+
+bool HasNews(const World& world) { return world.News().Count() > 0; }
+
+std::string RatingText(int value) {
+  const int remainder = value % 100;
+  const std::string whole = std::to_string(value / 100);
+  if (remainder >= 1 && remainder <= 9) return whole + ". 0" + std::to_string(remainder);
+  std::string text = whole + "." + std::to_string(remainder);
+  if (remainder == 0) text += "0";
+  return text;
+}
+
+bool ShouldTell(const World& world, int option, int size) {
+  return option == 0 || (option == 1 && size <= world.Session.StartSize);
+}
+
+std::string Dollars(long long amount) {
+  return (amount < 0 ? "-$" : "$") + std::to_string(amount < 0 ? -amount : amount);
+}
+
+}  // namespace grapplemont

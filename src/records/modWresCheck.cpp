@@ -1,0 +1,163 @@
+#include "records/modWresCheck.h"
+
+#include <algorithm>
+
+namespace grapplemont {
+
+namespace {
+
+template <class T>
+int NextUid(const Records<T>& records) {
+  int highest = 0;
+  for (const T& record : records) highest = std::max<int>(highest, record.Uid);
+  return highest + 1;
+}
+
+template <class T>
+const T* FindNamed(const Records<T>& records, std::string_view name) {
+  const auto found =
+      std::find_if(records.begin(), records.end(), [&](auto& r) { return r.Name == name; });
+  return found == records.end() ? nullptr : &*found;
+}
+
+template <class T>
+std::string NameOrEmpty(const T* record) {
+  return record ? record->Name.Str() : std::string();
+}
+
+std::string Months(int months) {
+  return std::to_string(months) + (months == 1 ? " month" : " months");
+}
+
+std::string PerMonth(int wage) {
+  return std::to_string(wage) + (wage == 0 ? " per month" : ",000 per month");
+}
+
+constexpr Term kFinisherTexts[] = {{static_cast<int>(FinisherType::Impact), "", "Impact"},
+                                   {static_cast<int>(FinisherType::Submission), "", "Submission"},
+                                   {static_cast<int>(FinisherType::TopRope), "", "Top Rope"},
+                                   {static_cast<int>(FinisherType::Ground), "", "Ground"}};
+
+std::string_view KnownOr(std::string_view text) { return text.empty() ? "Unknown" : text; }
+
+std::string_view StoredOf(Vocabulary words, std::string_view text) {
+  const Term* term = FindTerm(words, text);
+  return term ? term->Stored : std::string_view();
+}
+
+}  // namespace
+
+int NextWorkerUid(const World& world) { return NextUid(world.Workers()); }
+int NextStaffUid(const World& world) { return NextUid(world.AllStaff()); }
+int NextPromotionUid(const World& world) { return NextUid(world.Promotions()); }
+
+bool WorkerNameFree(const World& world, std::string_view name) {
+  return !FindNamed(world.Workers(), name);
+}
+bool StaffNameFree(const World& world, std::string_view name) {
+  return !FindNamed(world.AllStaff(), name);
+}
+
+std::string PromotionName(const World& world, int promotionUid) {
+  const Promotion* promotion = world.FindPromotion(promotionUid);
+  return promotion ? promotion->Name.Str() : "None";
+}
+
+std::string PromotionInitials(const World& world, int promotionUid) {
+  const Promotion* promotion = world.FindPromotion(promotionUid);
+  return promotion ? promotion->Initials.Str() : "None";
+}
+
+std::string WorkerName(const World& world, int workerUid) {
+  return NameOrEmpty(world.FindWorker(workerUid));
+}
+
+std::string WorkerShortName(const World& world, int workerUid) {
+  const Worker* worker = world.FindWorker(workerUid);
+  return worker ? worker->ShortName.Str() : std::string();
+}
+
+std::string StaffName(const World& world, int staffUid) {
+  return NameOrEmpty(world.FindStaff(staffUid));
+}
+
+std::string TeamNameOf(const World& world, int workerA, int workerB) {
+  for (const Team& team : world.Teams())
+    if ((team.Worker1 == workerA && team.Worker2 == workerB) ||
+        (team.Worker1 == workerB && team.Worker2 == workerA))
+      return team.Name.Str();
+  return "None";
+}
+
+std::string PairName(const World& world, int workerA, int workerB) {
+  const std::string team = TeamNameOf(world, workerA, workerB);
+  return team != "None" ? team : WorkerName(world, workerA) + " \\ " + WorkerName(world, workerB);
+}
+
+std::string DevTerritoryName(const World& world, int promotionUid) {
+  const Promotion* promotion = world.FindPromotion(promotionUid);
+  return promotion ? promotion->DevName.Str() : "None";
+}
+
+const Stable* FindStable(const World& world, std::string_view name) {
+  return FindNamed(world.Stables(), name);
+}
+const Title* FindTitle(const World& world, std::string_view name) {
+  return FindNamed(world.Titles(), name);
+}
+
+const Staff* OwnerOf(const World& world, int promotionUid) {
+  for (const Staff& staff : world.AllStaff())
+    if (staff.Employer == promotionUid && staff.Position == kOwner) return &staff;
+  return nullptr;
+}
+
+std::string_view PositionText(int position) { return KnownOr(Says(kPositions, position)); }
+
+int PositionCode(std::string_view text) {
+  const Term* term = FindTerm(kPositions, text);
+  return term ? term->Code : 0;
+}
+
+std::string_view DispositionText(std::string_view code) { return KnownOr(Says(kDispositions, code)); }
+std::string_view DispositionCode(std::string_view text) { return StoredOf(kDispositions, text); }
+std::string_view ContractText(std::string_view code) { return KnownOr(Says(kContracts, code)); }
+std::string_view ContractCode(std::string_view text) { return StoredOf(kContracts, text); }
+
+std::string ContractLine(const Worker& worker) {
+  if (worker.Unsackable) return "Unsackable, agreement for $" + PerMonth(worker.Wage);
+  const std::string kind =
+      worker.ContractType == "Wri" ? "Written contract for " : "Verbal agreement for ";
+  return kind + std::to_string(worker.ContractMonths) + " months, at $" + PerMonth(worker.Wage);
+}
+
+std::string StatusLine(const Worker& worker) {
+  if (worker.Status == "Inj") return worker.InjuryName + ", out for " + Months(worker.StatusMonths);
+  if (worker.Status == "Sus") return "Suspended for " + Months(worker.StatusMonths);
+  if (worker.Status == "Reh") return "Currently in rehab";
+  if (worker.Status == "Hom") return "Sitting out contract";
+  return "Available";
+}
+
+std::string_view FinisherText(FinisherType type) {
+  return Says(kFinisherTexts, static_cast<int>(type));
+}
+
+FinisherType FinisherTypeOf(const Worker& worker, int slot) {
+  const bool first = slot == 1;
+  if (first ? worker.Finisher1Submission : worker.Finisher2Submission)
+    return FinisherType::Submission;
+  if (first ? worker.Finisher1TopRope : worker.Finisher2TopRope) return FinisherType::TopRope;
+  if (first ? worker.Finisher1Ground : worker.Finisher2Ground) return FinisherType::Ground;
+  return FinisherType::Impact;
+}
+
+void FinisherFlags(Worker& worker, int slot, FinisherType type) {
+  const bool first = slot == 1;
+  (first ? worker.Finisher1Submission : worker.Finisher2Submission) =
+      type == FinisherType::Submission;
+  (first ? worker.Finisher1TopRope : worker.Finisher2TopRope) = type == FinisherType::TopRope;
+  (first ? worker.Finisher1Ground : worker.Finisher2Ground) = type == FinisherType::Ground;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,115 @@
+#include "records/severing.h"
+
+#include <array>
+
+#include "records/dates.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// From this Over up comes the position; the last row takes all the rest.
+struct EarnedPosition {
+  int From;
+  int Position;
+};
+constexpr std::array<EarnedPosition, 5> kEarnedPositions = {
+    {{81, kUpperMidcard}, {71, kMidcard}, {51, kLowerMidcard}, {30, kOpener}, {-32768, kJobber}}};
+
+void LeaveOffice(World& world, const Worker& worker) {
+  Promotion* employer = world.FindPromotion(worker.Employer);
+  if (employer && employer->Commissioner == worker.Uid) employer->Commissioner = 0;
+}
+
+void EndPosting(Worker& worker) {
+  if (worker.Position > kSentToDevelopment) worker.Position -= kSentToDevelopment;
+  if (worker.Position == kDevelopmentDeal || worker.Position == kTrainingCamp)
+    worker.Position = PositionFromOver(worker.Over);
+}
+
+void EndContract(Worker& worker) {
+  if (worker.Status == "Hom") {
+    worker.Morale = 80;
+    worker.Status = "Nor";
+  }
+  worker.Employer = 0;
+  worker.Unsackable = false;
+  worker.ContractMonths = 0;
+  worker.Manager = 0;
+  worker.TurnPending = false;
+  worker.ContractType = "Non";
+  worker.Stable = "None";
+}
+
+void VacateTitlesOf(World& world, int workerUid) {
+  for (Title& title : world.Titles())
+    if (title.Holder == workerUid || title.Partner == workerUid) VacateTitle(world, title);
+}
+
+/// Only the player's shows keep their commentary in order; a rival's is looked up anew each time.
+void LeaveCommentary(World& world, int workerUid) {
+  for (Show& show : world.Shows()) {
+    if (show.Owner != world.PlayerUid() || !show.ColourIsWorker || show.Colour != workerUid)
+      continue;
+    show.ColourIsWorker = false;
+    show.Colour = 0;
+  }
+}
+
+}  // namespace
+
+int PositionFromOver(int over) {
+  for (const EarnedPosition& row : kEarnedPositions)
+    if (over >= row.From) return row.Position;
+  return kJobber;
+}
+
+void LeaveFeuds(World& world, int workerUid) {
+  for (Feud& feud : world.Feuds()) {
+    if (feud.Worker1 != workerUid && feud.Worker2 != workerUid && feud.Worker3 != workerUid &&
+        feud.Worker4 != workerUid)
+      continue;
+    feud.Worker1 = 0;
+    feud.Worker2 = 0;
+    feud.Worker3 = 0;
+    feud.Worker4 = 0;
+  }
+}
+
+void VacateTitle(World& world, Title& title) {
+  title.Holder = 0;
+  title.Partner = 0;
+  title.Image -= 20;
+  BeginReign(title, world.HasGame() ? world.Today() : kNoTitleDate, "Vacant");
+}
+
+void SeverWorker(World& world, Worker& worker) {
+  LeaveOffice(world, worker);
+  EndPosting(worker);
+  EndContract(worker);
+  if (worker.Uid == 0) return;
+  LeaveFeuds(world, worker.Uid);
+  VacateTitlesOf(world, worker.Uid);
+  LeaveCommentary(world, worker.Uid);
+}
+
+void SeverStaff(World& world, Staff& staff) {
+  staff.Employer = 0;
+  staff.ContractMonths = 0;
+  if (staff.Uid == 0) return;
+  for (Promotion& promotion : world.Promotions()) {
+    if (promotion.HeadTrainer == staff.Uid) promotion.HeadTrainer = 0;
+    if (promotion.DevBooker == staff.Uid) promotion.DevBooker = 0;
+  }
+  for (Show& show : world.Shows())
+    if (show.Owner == world.PlayerUid() && show.Announcer == staff.Uid) show.Announcer = 0;
+}
+
+void SeverWorkersAndStaff(World& world, int promotionUid) {
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == promotionUid) SeverWorker(world, worker);
+  for (Staff& staff : world.AllStaff())
+    if (staff.Employer == promotionUid) SeverStaff(world, staff);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "records/world.h"
+
+namespace grapplemont {
+
+/// The worker leaves his employer for any reason: contract, stable, manager, feuds, Titles and commentary end. His
+/// place in development or camp becomes the roster position that his Over earns.
+void SeverWorker(World& world, Worker& worker);
+/// The member of staff leaves his employer for any reason.
+void SeverStaff(World& world, Staff& staff);
+/// Everybody whom the promotion employs.
+void SeverWorkersAndStaff(World& world, int promotionUid);
+
+/// The roster position 2 to 6 that a worker out of development or camp gets from his Over.
+int PositionFromOver(int over);
+/// Takes all four participants out of every feud that names the worker.
+void LeaveFeuds(World& world, int workerUid);
+/// Vacates the Title: no holder, 20 off its image, a new reign of "Vacant" from today.
+void VacateTitle(World& world, Title& title);
+
+}  // namespace grapplemont

@@ -1,0 +1,88 @@
+#include "records/world.h"
+
+namespace grapplemont {
+
+World::World(std::unique_ptr<Draws> chance, std::unique_ptr<Draws> prose)
+    : chance_(std::move(chance)), prose_(std::move(prose)) {}
+
+GameInfo& World::Game() { return const_cast<GameInfo&>(std::as_const(*this).Game()); }
+
+const GameInfo& World::Game() const {
+  if (!HasGame()) throw WorldFault("This folder has no gameinfo.dat: no game is played in it.");
+  return gameInfos_[1];
+}
+
+Promotion& World::Player() { return const_cast<Promotion&>(std::as_const(*this).Player()); }
+
+const Promotion& World::Player() const {
+  const Promotion* player = FindPromotion(Game().PlayerPromotion);
+  if (!player)
+    throw WorldFault("gameinfo.dat, record 1, PlayerPromotion: promos.dat has no promotion " +
+                     std::to_string(Game().PlayerPromotion) +
+                     ". Put back the files of this game, or start a new one.");
+  return *player;
+}
+
+std::array<Table*, World::kTables> World::Tables() {
+  return {&titles_,  &events_, &networks_,  &promotions_, &sponsors_, &stables_,
+          &staff_,   &teams_,  &shows_,     &workers_,    &gameInfos_, &news_,
+          &notes_,   &feuds_,  &segments_,  &incidents_};
+}
+
+std::array<const Table*, World::kTables> World::Tables() const {
+  std::array<const Table*, kTables> tables{};
+  const auto own = const_cast<World*>(this)->Tables();
+  for (std::size_t i = 0; i < own.size(); ++i) tables[i] = own[i];
+  return tables;
+}
+
+void World::Load(const std::map<std::string, Bytes>& files) {
+  for (Table* table : Tables()) {
+    const auto file = files.find(std::string(table->File()));
+    if (file == files.end()) {
+      table->Remove();
+    } else {
+      table->Load(file->second);
+    }
+    table->MarkCommitted();
+  }
+}
+
+std::vector<FileChange> World::Changes() const {
+  std::vector<FileChange> changes;
+  for (const Table* table : Tables()) {
+    if (!table->Changed()) continue;
+    changes.push_back({std::string(table->File()), table->CommittedExists(), table->Exists(),
+                       table->Committed(), table->Contents()});
+  }
+  return changes;
+}
+
+void World::MarkCommitted() {
+  for (Table* table : Tables())
+    if (table->Changed()) table->MarkCommitted();
+}
+
+void World::Rollback() {
+  for (Table* table : Tables())
+    if (table->Changed()) table->Rollback();
+}
+
+std::string World::Explain(const FieldOverflow& fault) const {
+  const auto* at = static_cast<const std::byte*>(fault.Field());
+  for (const Table* table : Tables()) {
+    const ByteSpan bytes = table->Contents();
+    const RecordLayout* layout = table->Layout();
+    if (!layout || at < bytes.data() || at >= bytes.data() + bytes.size()) continue;
+    const auto offset = static_cast<int>(at - bytes.data());
+    const int number = offset / layout->Size + 1;
+    for (const Field& field : layout->Fields)
+      for (int i = 0; i < field.Count; ++i)
+        if (field.Offset + i * field.Stride == offset % layout->Size)
+          return std::string(layout->File) + ", record " + std::to_string(number) + ", " +
+                 FieldName(field, i) + ": " + fault.what();
+  }
+  return fault.what();
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "records/world.h"
+
+// People whom the program makes up: to fill a new world, and in the place of the retired.
+
+namespace grapplemont {
+
+struct DrawnFirstName {
+  std::string_view Name;
+  bool IsFemale = false;  // nothing else decides a made-up person's sex
+};
+
+// One draw each, over the whole table.
+std::string_view RandomSurname(World& world);
+DrawnFirstName RandomWorkerFirstName(World& world);
+DrawnFirstName RandomStaffFirstName(World& world);
+/// One draw over the moves of a kind, 'B' brawling, 'T' technical or 'S' speed; names the finisher of slot 1 or 2 and
+/// sets how it is done.
+void RandomMove(World& world, Worker& worker, char kind, int slot);
+
+enum class Generation { Filler, Rookie };  // a rookie is 19 to 22
+/// Age, body, skills, finishers, place and Over. Requires Gender.
+void NewWorkerAttributes(World& world, Worker& worker, Generation generation);
+/// Appends a free worker with a new name and uid.
+Worker& NewFillerWorker(World& world);
+/// Appends a free member of staff for the post.
+Staff& NewFillerStaff(World& world, int position);
+/// Talent, wage and the other words of a new person in the post, who keeps name, uid, sex and post.
+void NewStaffAttributes(World& world, Staff& staff);
+
+/// The Over that can never be lost again, by the Over reached: 0 under 51.
+int OverFloorFor(int over);
+/// The Over a worker can grow to when a game begins. Draws once for an Over under 66.
+int StartingPotential(World& world, int over);
+
+}  // namespace grapplemont

@@ -1,0 +1,259 @@
+#include "session/newgame.h"
+
+#include <algorithm>
+#include <array>
+
+#include "calendar/events.h"
+#include "records/dates.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "roster/invented.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// What a promotion spends when a game begins, by size from Global to Backyard.
+struct StartingSpend {
+  int TicketPrice;
+  int Production;  // this and what follows for rivals only
+  int Advertising;
+  int Merchandising;
+};
+constexpr std::array<StartingSpend, 6> kStartingSpend = {{
+    {60, 80, 4, 4},
+    {40, 60, 3, 3},
+    {30, 40, 2, 2},
+    {20, 20, 1, 1},
+    {10, 10, 0, 0},
+    {5, 0, 0, 0},
+}};
+
+struct PostTarget {
+  int PerPromotion;
+  int Most;
+};
+// By post from Owner to Trainer; the world has its Owners whatever its size.
+constexpr std::array<PostTarget, 8> kPostTargets = {
+    {{0, 45}, {5, 150}, {5, 150}, {6, 100}, {4, 120}, {8, 150}, {4, 150}, {3, 120}}};
+constexpr int kOwners = 45;
+
+void NewGameInfo(World& world, const NewGameChoice& choice) {
+  GameInfo game;
+  game.Version = kVersion;
+  game.PlayerName = choice.PlayerName;
+  game.SaveName = choice.SaveName;
+  game.PlayerPromotion = choice.PromotionUid;
+  game.Difficulty = choice.Difficulty;
+  game.Today = choice.Start;
+  game.StartDate = choice.Start;
+  game.Jobs[0].Started = choice.Start;
+  game.Reputation = 80;
+  for (Word GameInfo::* option :
+       {&GameInfo::MailOwners, &GameInfo::MailWorkerHire, &GameInfo::MailWorkerFire,
+        &GameInfo::MailStaffHire, &GameInfo::MailStaffFire, &GameInfo::MailTv,
+        &GameInfo::MailRetirement, &GameInfo::MailOtherFed, &GameInfo::MailSponsor,
+        &GameInfo::MailShows, &GameInfo::MailTvShow, &GameInfo::MailStaffRetire,
+        &GameInfo::Reporter})
+    game.*option = 1;
+  game.Economy = world.RandomDraw(20) + 50;
+  game.EconomyRising = world.RandomDraw(2) == 1;
+  for (std::size_t i = 1; i < game.Jobs.size(); ++i) game.Jobs[i].Promotion = "None";
+  world.GameInfos().Rewrite({game});
+}
+
+void EmptyFiles(World& world, const NewGameChoice& choice) {
+  world.News().Remove();
+  world.Segments().Remove();
+  world.Incidents().Remove();
+  world.Feuds().Rewrite(std::vector<Feud>(kFeuds));
+  NewGameInfo(world, choice);
+  world.Notes().Set("Notepad");
+}
+
+void RememberJob(World& world, const Promotion& promotion) {
+  Job& job = world.Game().Jobs[0];
+  job.Promotion = promotion.Name.View();
+  job.StartImage = int(promotion.Image);
+  job.StartSize = int(promotion.Size);
+}
+
+void StartPromotion(World& world, Promotion& promotion) {
+  const bool isPlayer = promotion.Uid == world.PlayerUid();
+  const auto& spend = kStartingSpend[static_cast<std::size_t>(std::clamp<int>(promotion.Size, 1, 6) - 1)];
+  if (isPlayer) {
+    RememberJob(world, promotion);
+  } else {
+    EnsureEvents(world, promotion);
+    promotion.Production = spend.Production;
+    promotion.Advertising = spend.Advertising;
+    promotion.Merchandising = spend.Merchandising;
+  }
+  promotion.TicketPrice = spend.TicketPrice;
+  promotion.Momentum = world.RandomDraw(4);
+  promotion.LoanAmount = 0;
+  promotion.LoanMonths = 0;
+  promotion.LoanRepaid = 0;
+  promotion.LoanMissed = 0;
+  promotion.ThisMonth = {};
+  promotion.LastMonth = {};
+  promotion.Sponsor = {};
+  for (Word& rank : promotion.Rank) rank = kNoEnd;
+  for (Long& money : promotion.MoneyBefore) money = kNoEnd;
+  promotion.Rank[0] = StandingScore(promotion);
+}
+
+void StartPromotions(World& world) {
+  for (Promotion& promotion : world.Promotions()) StartPromotion(world, promotion);
+}
+
+/// A player alone at the top may be challenged.
+void MaybeChallenge(World& world) {
+  const auto globals = std::count_if(world.Promotions().begin(), world.Promotions().end(),
+                                     [](const Promotion& p) { return p.Size == kGlobal; });
+  if (world.Player().Size == kGlobal && globals == 1 && world.RandomDraw(5) == 1 &&
+      world.Promotions().Count() < 20)
+    world.Game().EndCode = 100;
+}
+
+bool WaitsForDebut(const World& world, const Worker& worker) {
+  return worker.Employer == world.PlayerUid() &&
+         (worker.Position == kDevelopmentDeal || worker.Position == kTrainingCamp ||
+          worker.Position >= kSentToDevelopment);
+}
+
+void StartWorker(World& world, Worker& worker) {
+  if (worker.BirthMonth == 0) worker.BirthMonth = world.RandomDraw(12);
+  if (worker.Employer != 0) {
+    worker.ContractMonths = world.RandomDraw(30) + 8;
+    if (worker.Unsackable) worker.ContractMonths = kNoEnd;
+  } else {
+    worker.Unsackable = false;
+  }
+  worker.Condition = world.RandomDraw(14) + 75;
+  worker.Morale = world.RandomDraw(14) + 75;
+  // Nobody carries an old injury into a new world: without months it would never end.
+  worker.Status = "Nor";
+  worker.StatusMonths = 0;
+  worker.InjuryName = "";
+  worker.TurnPending = false;
+  worker.RetiringSoon = false;
+  worker.Debuted = !WaitsForDebut(world, worker);
+  worker.Loyalty = world.RandomDraw(30) + 70;
+  worker.LastTurn.SetRaw(0);
+  worker.OverFloor = std::max<int>(worker.OverFloor, OverFloorFor(worker.Over));
+  worker.Potential = StartingPotential(world, worker.Over);
+}
+
+void StartWorkers(World& world) {
+  for (Worker& worker : world.Workers()) StartWorker(world, worker);
+}
+
+void FillWorkers(World& world) {
+  const int target = WorkerTarget(world.Promotions().Count());
+  while (world.Workers().Count() < target) NewFillerWorker(world);
+}
+
+void StartStaff(World& world) {
+  for (Staff& staff : world.AllStaff()) {
+    if (staff.Employer != 0) staff.ContractMonths = world.RandomDraw(30) + 8;
+    if (staff.Unsackable || staff.Position == kOwner) staff.ContractMonths = kNoEnd;
+    staff.Morale = world.RandomDraw(40) + 60;
+    staff.Loyalty = world.RandomDraw(30) + 70;
+  }
+}
+
+void FillStaff(World& world) {
+  for (int position = kOwner; position <= kTrainer; ++position) {
+    auto count = std::count_if(world.AllStaff().begin(), world.AllStaff().end(),
+                               [&](const Staff& staff) { return staff.Position == position; });
+    const int target = StaffTarget(position, world.Promotions().Count());
+    for (; count < target && !world.AllStaff().Full(); ++count) NewFillerStaff(world, position);
+  }
+}
+
+void StartSponsors(World& world) {
+  for (Sponsor& sponsor : world.Sponsors()) {
+    sponsor.Promotion = 0;
+    sponsor.ContractMonths = 0;
+  }
+}
+
+void StartShows(World& world) {
+  for (Show& show : world.Shows())
+    if (show.Owner != 0) show.ContractWeeks = world.RandomDraw(36) + 12;
+}
+
+std::string HolderText(const World& world, const Title& title) {
+  if (title.Holder == 0) return "Vacant";
+  if (title.Singles) return WorkerName(world, title.Holder);
+  const std::string team = TeamNameOf(world, title.Holder, title.Partner);
+  if (team != "None") return team;
+  return WorkerShortName(world, title.Holder) + " \\ " + WorkerShortName(world, title.Partner);
+}
+
+void StartTitles(World& world) {
+  for (Title& title : world.Titles()) {
+    if (title.Owner != world.PlayerUid()) title.Holder = 0;
+    if (title.Holder == 0) title.Partner = 0;
+    for (Reign& reign : title.Reigns) {
+      reign.Won = kNoTitleDate;
+      reign.Lost = kNoTitleDate;
+      reign.Holder = "None";
+    }
+    title.Reigns[0].Holder = HolderText(world, title);
+  }
+}
+
+void WelcomeMail(World& world) {
+  const Staff* owner = OwnerOf(world, world.PlayerUid());
+  if (!owner) return;
+  const std::string player = world.Game().PlayerName.Str();
+  if (owner->Name == "Dalton Reeve") {
+    AddNews(world, owner->Name,
+            "Good golly Miss Molly, it's " + player +
+                " if you weeeel. I've hired you to keep my company running funky like a monkey, "
+                "so don't mess up or we'll be clubberin' outside boy!");
+  } else {
+    AddNews(world, owner->Name,
+            player + ", i wish you the best of luck with your new job. You have my full support.");
+  }
+}
+
+struct Generation {
+  std::string_view Name;
+  void (*Run)(World&);
+};
+
+// In this order: contracts are drawn before fillers are made, so that fillers have none, and titles are told by the
+// names of teams that stand.
+constexpr Generation kGeneration[] = {
+    {"Promotions", StartPromotions}, {"Challenge", MaybeChallenge}, {"Workers", StartWorkers},
+    {"New workers", FillWorkers},    {"Staff", StartStaff},         {"New staff", FillStaff},
+    {"Sponsors", StartSponsors},     {"Television", StartShows},    {"Titles", StartTitles},
+    {"Welcome", WelcomeMail},
+};
+
+}  // namespace
+
+int WorkerTarget(int promotions) { return std::min(promotions * 50, 750); }
+
+int StaffTarget(int position, int promotions) {
+  if (position == kOwner) return kOwners;
+  const PostTarget& target = kPostTargets.at(static_cast<std::size_t>(position - 1));
+  return std::min(promotions * target.PerPromotion, target.Most);
+}
+
+std::vector<Fault> NewGame(World& world, const NewGameChoice& choice,
+                           const std::function<void(std::string_view)>& watcher) {
+  EmptyFiles(world, choice);
+  if (watcher) watcher("Clean-up");
+  std::vector<Fault> mended = MendWorld(world);
+  for (const Generation& step : kGeneration) {
+    if (watcher) watcher(step.Name);
+    step.Run(world);
+  }
+  return mended;
+}
+
+}  // namespace grapplemont

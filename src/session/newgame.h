@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "records/checkworld.h"
+#include "records/world.h"
+
+namespace grapplemont {
+
+/// What the player chose for a new game.
+struct NewGameChoice {
+  std::string PlayerName;
+  int PromotionUid = 0;
+  int Difficulty = 2;  // 1 easy to 4 rock hard
+  Day Start{};         // the first of a month
+  std::string SaveName;
+};
+
+/// Turns a world of default data into a fresh game: its contracts, conditions, made-up people, the first mail. Requires
+/// a promotion of that uid. Gives what the clean-up of the data had to mend. `watcher` hears each step's name.
+std::vector<Fault> NewGame(World& world, const NewGameChoice& choice,
+                           const std::function<void(std::string_view)>& watcher = {});
+
+/// How many workers and how many staff of a post a new world has at least, by its count of promotions.
+int WorkerTarget(int promotions);
+int StaffTarget(int position, int promotions);
+
+}  // namespace grapplemont

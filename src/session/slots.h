@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/disk.h"
+#include "records/fields.h"
+
+namespace grapplemont {
+
+inline constexpr int kSlots = 8;
+
+/// What a slot's button and the label beside it say.
+struct SlotSummary {
+  std::string Caption = "<<<Empty Slot>>>";
+  std::string Details = {};
+  bool Empty = true;
+  bool Playable = false;
+};
+
+/// Reads no more than the slot's gameinfo.dat; a slot in use is exactly one that has it.
+SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder);
+
+/// The files of the data set that `folder` lacks, in their fixed order.
+std::vector<std::string> MissingDataFiles(Disk& disk, const std::string& folder);
+
+}  // namespace grapplemont

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "ui/desk.h"
+
+// What a player can do to the controls of a screen, by name. Every shell and every test goes this way. Each gives an
+// empty text, or why it cannot be done; then nothing has changed.
+
+namespace grapplemont::ui {
+
+/// A Button, a Picture with a handler, a CheckBox (turns it) or an OptionButton.
+std::string Click(Desk& desk, Screen& screen, std::string_view name);
+std::string Type(Desk& desk, Screen& screen, std::string_view name, std::string_view text);
+/// A row from 1 or the exact text of a row's first column; in a list that takes several it toggles.
+std::string Pick(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText);
+/// Picks the row and opens it, as a double click does.
+std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText);
+std::string Check(Desk& desk, Screen& screen, std::string_view name, bool on);
+std::string Slide(Desk& desk, Screen& screen, std::string_view name, int value);
+
+}  // namespace grapplemont::ui

@@ -1,0 +1,292 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/property.h"
+
+// The controls of a screen: values that a shell shows and a player works. They know no toolkit. A screen sets them
+// freely; what the player does comes through acts.h and runs the handlers.
+
+namespace grapplemont::ui {
+
+class Screen;
+
+using Handler = std::function<void()>;
+
+enum class Kind {
+  Label,
+  TextBox,
+  Button,
+  ListBox,
+  ComboBox,
+  CheckBox,
+  OptionButton,
+  ScrollBar,
+  Picture,
+  Chart,
+  Report
+};
+/// "Label", "TextBox" and so on.
+std::string_view KindName(Kind kind);
+
+/// What a colour says; a shell has one colour for each.
+enum class Tone { Plain, Muted, Gold, Blue, Red, Green, Amber };
+
+class Control {
+  unsigned revision_ = 1;  // stands before the properties that count in it
+
+ public:
+  Control(Screen& screen, std::string name, Kind kind, std::string text = {});
+  virtual ~Control();
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  const std::string& Name() const { return name_; }
+  Kind Is() const { return kind_; }
+  Screen& Parent() const { return screen_; }
+  /// Grows with every change that can be seen.
+  unsigned Revision() const { return revision_; }
+
+  Property<bool> Enabled{revision_, true};
+  Property<bool> Visible{revision_, true};
+  Property<std::string> Tip{revision_, {}};
+  /// A caption, the contents of a box, or the chosen row of a ComboBox.
+  Property<std::string> Text;
+  Property<Tone> Colour{revision_, Tone::Plain};
+
+ protected:
+  unsigned& Changes() { return revision_; }
+  /// Wraps a screen's member function as a handler.
+  template <class S>
+  static Handler Bind(Screen& screen, void (S::*method)()) {
+    return [&screen, method] { (static_cast<S&>(screen).*method)(); };
+  }
+
+ private:
+  Screen& screen_;
+  std::string name_;
+  Kind kind_;
+};
+
+class Label : public Control {
+ public:
+  Label(Screen& screen, std::string name, std::string text = {});
+};
+
+class Button : public Control {
+ public:
+  Button(Screen& screen, std::string name, std::string caption, Handler click = {});
+  template <class S>
+  Button(Screen& screen, std::string name, std::string caption, void (S::*click)())
+      : Button(screen, std::move(name), std::move(caption), Bind(screen, click)) {}
+  Handler OnClick;
+  /// A short word or number in a spot beside the caption, such as the count of mails.
+  Property<std::string> Badge{Changes(), {}};
+};
+
+class TextBox : public Control {
+ public:
+  TextBox(Screen& screen, std::string name, std::string text = {}, int maxLength = 0);
+  Handler OnChange;
+  int MaxLength;           // 0: any; typing beyond it is cut
+  bool MultiLine = false;  // many lines of plain text
+  std::string Hint;        // shown in an empty box
+};
+
+class CheckBox : public Control {
+ public:
+  CheckBox(Screen& screen, std::string name, std::string caption, bool checked = false,
+           Handler click = {});
+  template <class S>
+  CheckBox(Screen& screen, std::string name, std::string caption, bool checked, void (S::*click)())
+      : CheckBox(screen, std::move(name), std::move(caption), checked, Bind(screen, click)) {}
+  Property<bool> Checked;
+  Handler OnClick;
+};
+
+/// One of a group of which exactly one is checked.
+class OptionButton : public Control {
+ public:
+  OptionButton(Screen& screen, std::string name, std::string caption, std::string group,
+               bool checked = false, Handler click = {});
+  Property<bool> Checked;
+  std::string Group;
+  Handler OnClick;
+};
+
+class ScrollBar : public Control {
+ public:
+  ScrollBar(Screen& screen, std::string name, int min, int max, Handler change = {});
+  template <class S>
+  ScrollBar(Screen& screen, std::string name, int min, int max, void (S::*change)())
+      : ScrollBar(screen, std::move(name), min, max, Bind(screen, change)) {}
+  Property<int> Min, Max, Value;
+  Handler OnChange;
+};
+
+/// A picture of the folder gfx/, named by its file; it may be clicked when it has a handler.
+class Picture : public Control {
+ public:
+  Picture(Screen& screen, std::string name, std::string file = {}, Handler click = {});
+  template <class S>
+  Picture(Screen& screen, std::string name, std::string file, void (S::*click)())
+      : Picture(screen, std::move(name), std::move(file), Bind(screen, click)) {}
+  Property<std::string> File;  // for example "vxm_title.jpg"
+  Handler OnClick;
+};
+
+class ComboBox : public Control {
+ public:
+  ComboBox(Screen& screen, std::string name, Handler pick = {});
+  template <class S>
+  ComboBox(Screen& screen, std::string name, void (S::*pick)())
+      : ComboBox(screen, std::move(name), Bind(screen, pick)) {}
+  void Clear();
+  /// `key` is what the row stands for: a uid, a code, a record number.
+  void Add(std::string text, int key = 0);
+  const std::vector<std::string>& Rows() const { return rows_; }
+  int Count() const { return static_cast<int>(rows_.size()); }
+  int Selected() const { return selected_; }  // from 1; 0 none
+  int Key() const;                            // of the selected row; 0 none
+  int KeyOf(int row) const;
+  /// Selects without telling the handler; 0 none.
+  void Select(int row);
+  void SelectKey(int key);
+  Handler OnPick;
+
+ private:
+  std::vector<std::string> rows_;
+  std::vector<int> keys_;
+  int selected_ = 0;
+};
+
+/// How a column's cells are shown, aligned and sorted.
+enum class ColumnKind {
+  Text,
+  Number,   // right-aligned, sorted by Cell::Number
+  Percent,  // a bar with the number beside it, green to amber to red
+  Tag,      // one of a few words in a frame, by the cell's tone
+  Date      // sorted by Cell::Number (day count)
+};
+
+struct Column {
+  std::string Title;
+  ColumnKind Kind = ColumnKind::Text;
+  int Width = 0;        // share of the width; 0: by contents
+  std::string Tip = {};
+};
+
+struct Cell {
+  std::string Text;
+  double Number = 0;
+  Tone Colour = Tone::Plain;
+
+  Cell(std::string text, Tone tone = Tone::Plain) : Text(std::move(text)), Colour(tone) {}
+  Cell(const char* text, Tone tone = Tone::Plain) : Text(text), Colour(tone) {}
+  Cell(std::string_view text, Tone tone = Tone::Plain) : Text(text), Colour(tone) {}
+  /// A number that is shown as it is, or behind a text that reads otherwise ("$1,284,500").
+  Cell(int number, Tone tone = Tone::Plain)
+      : Text(std::to_string(number)), Number(number), Colour(tone) {}
+  Cell(double number, std::string text, Tone tone = Tone::Plain)
+      : Text(std::move(text)), Number(number), Colour(tone) {}
+  friend bool operator==(const Cell&, const Cell&) = default;
+};
+
+/// A table: any number of typed columns, one row or several selected.
+class ListBox : public Control {
+ public:
+  ListBox(Screen& screen, std::string name, std::vector<Column> columns = {{}}, Handler pick = {},
+          Handler open = {});
+  template <class S>
+  ListBox(Screen& screen, std::string name, std::vector<Column> columns, void (S::*pick)(),
+          void (S::*open)() = nullptr)
+      : ListBox(screen, std::move(name), std::move(columns), Bind(screen, pick),
+                open ? Bind(screen, open) : Handler{}) {}
+
+  struct Row {
+    std::vector<Cell> Cells;
+    int Key = 0;
+    bool Selected = false;
+    friend bool operator==(const Row&, const Row&) = default;
+  };
+  const std::vector<Column>& Columns() const { return columns_; }
+  void SetColumns(std::vector<Column> columns);
+  const std::vector<Row>& Rows() const { return rows_; }
+  void Clear();
+  void Add(std::vector<Cell> cells, int key = 0);
+  /// Puts other rows in; the selection stays on the same key when `keepSelection`.
+  void Fill(std::vector<Row> rows, bool keepSelection = true);
+  int Count() const { return static_cast<int>(rows_.size()); }
+  int Selected() const;        // the first selected row, from 1; 0 none
+  int Key() const;             // its key; 0 none
+  std::vector<int> Keys() const;  // of all selected rows
+  /// Selects one row alone (0 none) without telling the handler.
+  void Select(int row);
+  void SelectKey(int key);
+  /// Turns one row of a list that takes several.
+  void Toggle(int row);
+  bool Multi = false;
+  std::string EmptyText;  // what belongs here and how to get it
+  Handler OnPick;
+  Handler OnOpen;
+
+ private:
+  std::vector<Column> columns_;
+  std::vector<Row> rows_;
+};
+
+/// Lines or bars over time.
+class Chart : public Control {
+ public:
+  struct Series {
+    std::string Name;
+    std::vector<double> Values;
+    Tone Colour = Tone::Blue;
+    friend bool operator==(const Series&, const Series&) = default;
+  };
+  Chart(Screen& screen, std::string name, bool bars = false);
+  bool Bars;
+  Property<std::vector<std::string>> Captions{Changes(), {}};  // one a value, below the axis
+  Property<std::vector<Series>> Lines{Changes(), {}};
+};
+
+/// Long prose in paragraphs. `Text` holds the same, a paragraph a line.
+class Report : public Control {
+ public:
+  enum class Style { Body, Heading, Strong, Muted };
+  struct Paragraph {
+    Style As = Style::Body;
+    std::string Words;
+    friend bool operator==(const Paragraph&, const Paragraph&) = default;
+  };
+  Report(Screen& screen, std::string name);
+  void Write(std::vector<Paragraph> paragraphs);
+  void Write(std::string_view plain);  // line breaks part paragraphs
+  const std::vector<Paragraph>& Paragraphs() const { return paragraphs_; }
+
+ private:
+  std::vector<Paragraph> paragraphs_;
+};
+
+/// Controls of one kind under one name: cmdbook(1), cmdbook(2) ...
+template <class C>
+class Array {
+ public:
+  /// Makes `count` controls named NAME(1) to NAME(count); `make` takes the full name and the index from 1.
+  template <class Make>
+  Array(const std::string& name, int count, Make make) {
+    for (int i = 1; i <= count; ++i)
+      controls_.push_back(make(name + "(" + std::to_string(i) + ")", i));
+  }
+  C& operator()(int index) { return *controls_.at(static_cast<std::size_t>(index - 1)); }
+  int Count() const { return static_cast<int>(controls_.size()); }
+
+ private:
+  std::vector<std::unique_ptr<C>> controls_;
+};
+
+}  // namespace grapplemont::ui

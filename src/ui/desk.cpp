@@ -1,0 +1,89 @@
+#include "ui/desk.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace grapplemont::ui {
+
+Desk::Desk() = default;
+Desk::~Desk() = default;
+
+void Desk::Register(std::string name, Factory make) {
+  factories_.insert_or_assign(std::move(name), std::move(make));
+}
+
+bool Desk::Knows(std::string_view name) const { return factories_.contains(name); }
+
+void Desk::Open(std::string_view name) {
+  const auto found = factories_.find(name);
+  if (found == factories_.end()) throw std::logic_error("No screen named " + std::string(name));
+  Open(found->second());
+}
+
+void Desk::Open(std::unique_ptr<Screen> screen) {
+  screens_.push_back(std::move(screen));
+  LoadTop();
+}
+
+void Desk::LoadTop() {
+  Screen& top = *screens_.back();
+  if (top.loaded_) {
+    top.Return();
+  } else {
+    top.loaded_ = true;
+    top.Load();
+  }
+}
+
+void Desk::Close(Screen& screen) {
+  const auto found = std::find_if(screens_.begin(), screens_.end(),
+                                  [&](auto& held) { return held.get() == &screen; });
+  if (found == screens_.end()) return;
+  const bool wasTop = found + 1 == screens_.end();
+  closed_.push_back(std::move(*found));
+  screens_.erase(found);
+  if (wasTop && !screens_.empty()) LoadTop();
+  if (depth_ == 0) closed_.clear();
+}
+
+void Desk::CloseAll() {
+  for (auto& screen : screens_) closed_.push_back(std::move(screen));
+  screens_.clear();
+  if (depth_ == 0) closed_.clear();
+}
+
+bool Desk::Holds(const Screen& screen) const {
+  return std::any_of(screens_.begin(), screens_.end(),
+                     [&](auto& held) { return held.get() == &screen; });
+}
+
+void Desk::Event(const Handler& handler) {
+  if (!handler) return;
+  if (depth_ > 0) return handler();
+  const Stack before = screens_;
+  ++depth_;
+  try {
+    handler();
+    if (work_) work_->Commit();
+  } catch (const std::exception& fault) {
+    TakeBack(before, fault);
+  }
+  --depth_;
+  closed_.clear();
+}
+
+void Desk::TakeBack(const Stack& before, const std::exception& fault) {
+  std::string reason = work_ ? work_->Explain(fault) : fault.what();
+  try {
+    if (work_) work_->Rollback();
+  } catch (const std::exception& worse) {
+    reason += "\n" + (work_ ? work_->Explain(worse) : std::string(worse.what()));
+  }
+  for (auto& screen : screens_) closed_.push_back(screen);
+  screens_ = before;
+  for (auto& screen : screens_)
+    if (screen->loaded_) screen->Return();
+  Say("Error!", reason);
+}
+
+}  // namespace grapplemont::ui

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/screen.h"
+
+namespace grapplemont::ui {
+
+enum class Default { Yes, No };
+
+/// What an event is a transaction of. Commit and Rollback bring the world to a committed state or throw.
+class Work {
+ public:
+  virtual ~Work() = default;
+  virtual void Commit() = 0;
+  virtual void Rollback() = 0;
+  /// The sentence a player reads for an exception out of a handler or out of Commit.
+  virtual std::string Explain(const std::exception& fault) const = 0;
+};
+
+/// The table on which screens and boxes lie. A shell derives from it and shows them. Screens lie in a stack; the top
+/// one has the player's attention.
+class Desk {
+ public:
+  using Factory = std::function<std::unique_ptr<Screen>()>;
+
+  Desk();
+  virtual ~Desk();
+  Desk(const Desk&) = delete;
+  Desk& operator=(const Desk&) = delete;
+
+  // Boxes: each waits for its answer. Prompt gives an empty text when the player cancels.
+  virtual void Say(const std::string& title, const std::string& text) = 0;
+  virtual bool Ask(const std::string& title, const std::string& text,
+                   Default answer = Default::Yes) = 0;
+  virtual std::string Prompt(const std::string& title, const std::string& text,
+                             const std::string& offered) = 0;
+  /// Shows the present state in the midst of a long handler.
+  virtual void Repaint() {}
+
+  // Screens that need no argument are opened by name, once the program has said how they are made.
+  void Register(std::string name, Factory make);
+  bool Knows(std::string_view name) const;
+  void Open(std::string_view name);
+  void Open(std::unique_ptr<Screen> screen);
+  /// Takes the screen off the stack; it lives on until the outermost event has ended.
+  void Close(Screen& screen);
+  void CloseAll();
+  /// Nothing lies on the desk any more: the program is at its end.
+  bool Empty() const { return screens_.empty(); }
+  Screen* Top() const { return screens_.empty() ? nullptr : screens_.back().get(); }
+  const std::vector<std::shared_ptr<Screen>>& Screens() const { return screens_; }
+  bool Holds(const Screen& screen) const;
+
+  /// Runs a handler as one transaction: when the outermost one returns, Work commits; when it throws, Work and the
+  /// stack of screens go back to where they were and the player reads why.
+  void Event(const Handler& handler);
+  void SetWork(Work* work) { work_ = work; }
+
+ private:
+  using Stack = std::vector<std::shared_ptr<Screen>>;
+  void TakeBack(const Stack& before, const std::exception& fault);
+  void LoadTop();
+
+  std::map<std::string, Factory, std::less<>> factories_;
+  Stack screens_;
+  Stack closed_;  // kept until the outermost event has ended: a handler may close its own screen
+  Work* work_ = nullptr;
+  int depth_ = 0;
+};
+
+}  // namespace grapplemont::ui

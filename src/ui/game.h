@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "records/clock.h"
+#include "records/disk.h"
+#include "records/draws.h"
+#include "ui/desk.h"
+
+namespace grapplemont {
+
+class Slot;
+class World;
+
+/// The running program: its desk, its disk, its home folder, and the slot that is open. Every event of the desk is a
+/// commit of the open slot.
+class Game : public ui::Work {
+ public:
+  struct Options {
+    std::string Home = ".";             // holds data/, gfx/ and s1/ to s8/
+    Clock Today = MachineToday;
+    std::optional<std::uint64_t> Seed;  // none: from the operating system
+  };
+  Game(ui::Desk& desk, Disk& disk, Options options);
+  ~Game() override;
+
+  ui::Desk& Desk() { return desk_; }
+  grapplemont::Disk& Disk() { return disk_; }
+  const std::string& Home() const { return options_.Home; }
+  std::string DataFolder() const { return Path("data"); }
+  std::string PictureFolder() const { return Path("gfx"); }
+  /// "s1" to "s8" in the home.
+  std::string SlotFolder(int slot) const { return Path("s" + std::to_string(slot)); }
+  Day PresentDay() const { return options_.Today(); }
+  /// A source of chance for a world: from the seed if one was given, else from the operating system.
+  std::unique_ptr<Draws> NewDraws(std::uint64_t stream = 0);
+
+  /// Makes the slot's world the open one. Throws SlotBusy, SlotDamaged, DiskError or WorldFault; then none is open.
+  void OpenSlot(int slot);
+  /// Brings the open world's files up to date and lets go of it.
+  void CloseSlot();
+  bool HasWorld() const { return world_ != nullptr; }
+  /// Requires an open world.
+  grapplemont::World& World();
+
+  void Commit() override;
+  void Rollback() override;
+  std::string Explain(const std::exception& fault) const override;
+
+ private:
+  std::string Path(const std::string& name) const { return options_.Home + "/" + name; }
+
+  ui::Desk& desk_;
+  grapplemont::Disk& disk_;
+  Options options_;
+  int openSlot_ = 0;
+  std::unique_ptr<Slot> slot_;
+  std::unique_ptr<grapplemont::World> world_;
+};
+
+}  // namespace grapplemont

@@ -1,0 +1,24 @@
+#include "ui/screen.h"
+
+#include <algorithm>
+
+#include "ui/desk.h"
+
+namespace grapplemont::ui {
+
+Screen::Screen(Desk& desk, std::string name, std::string title, Role role)
+    : desk_(desk), name_(std::move(name)), role_(role) {
+  Title = std::move(title);
+}
+
+Screen::~Screen() = default;
+
+Control* Screen::Find(std::string_view name) const {
+  const auto found =
+      std::find_if(controls_.begin(), controls_.end(), [&](auto* c) { return c->Name() == name; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void Screen::Close() { desk_.Close(*this); }
+
+}  // namespace grapplemont::ui
