@@ -10,7 +10,7 @@ constexpr Field kShowFields[] = {
     FIELD(Show, Name).Means("Name of the show."),
     FIELD(Show, Owner).In(0, 32767).LeadsTo(Refers::Promotion).Means("The promotion it belongs to."),
     FIELD(Show, Day).From(kWeekDays).Means("Day of the week."),
-    FIELD(Show, Slot).From(kSlots).Means("Time of the evening."),
+    FIELD(Show, Slot).From(kTimeSlots).Means("Time of the evening."),
     FIELD(Show, Network).In(0, 32767).LeadsTo(Refers::Network).Means("The network that airs it."),
     FIELD(Show, ContractWeeks).In(0, 520).Counts("weeks").Means("Weeks left of the deal."),
     FIELD(Show, Announcer).In(0, 32767).LeadsTo(Refers::Staff).Means("Primary announcer."),

@@ -173,11 +173,6 @@ template <int N>
 std::string operator+(std::string_view a, const Text<N>& b) {
   return std::string(a).append(b.View());
 }
-template <int N>
-std::string operator+(std::string&& a, const Text<N>& b) {
-  return std::move(a.append(b.View()));
-}
-
 /// A month count or index that says "no end", "nobody" or "no data".
 inline constexpr int kNoEnd = -1;
 

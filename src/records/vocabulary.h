@@ -82,7 +82,7 @@ inline constexpr Term kWeekDays[] = {
     {7, "Sunday", "Sunday"}};
 inline constexpr Term kCampFacilities[] = {
     {0, "", "None"}, {1, "", "Poor"}, {2, "", "Average"}, {3, "", "Good"}, {4, "", "Superb"}};
-inline constexpr Term kSlots[] = {{0, "E", "Early Evening"},
+inline constexpr Term kTimeSlots[] = {{0, "E", "Early Evening"},
                                   {0, "P", "Prime Time"},
                                   {0, "L", "Late Night"},
                                   {0, "G", "Graveyard"}};

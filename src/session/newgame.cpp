@@ -220,14 +220,14 @@ void WelcomeMail(World& world) {
   }
 }
 
-struct Generation {
+struct Preparation {
   std::string_view Name;
   void (*Run)(World&);
 };
 
 // In this order: contracts are drawn before fillers are made, so that fillers have none, and titles are told by the
 // names of teams that stand.
-constexpr Generation kGeneration[] = {
+constexpr Preparation kPreparations[] = {
     {"Promotions", StartPromotions}, {"Challenge", MaybeChallenge}, {"Workers", StartWorkers},
     {"New workers", FillWorkers},    {"Staff", StartStaff},         {"New staff", FillStaff},
     {"Sponsors", StartSponsors},     {"Television", StartShows},    {"Titles", StartTitles},
@@ -249,7 +249,7 @@ std::vector<Fault> NewGame(World& world, const NewGameChoice& choice,
   EmptyFiles(world, choice);
   if (watcher) watcher("Clean-up");
   std::vector<Fault> mended = MendWorld(world);
-  for (const Generation& step : kGeneration) {
+  for (const Preparation& step : kPreparations) {
     if (watcher) watcher(step.Name);
     step.Run(world);
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -37,6 +38,12 @@ class Game : public ui::Work {
   Day PresentDay() const { return options_.Today(); }
   /// A source of chance for a world: from the seed if one was given, else from the operating system.
   std::unique_ptr<Draws> NewDraws(std::uint64_t stream = 0);
+
+  /// A number that no other world has, for a slot that is made.
+  std::uint64_t NewWorldId();
+
+  /// How the main screen ends a day; booking sheets and shows end in it. Set when the main screen is registered.
+  std::function<void(bool cancelled)> AdvanceDay;
 
   /// Makes the slot's world the open one. Throws SlotBusy, SlotDamaged, DiskError or WorldFault; then none is open.
   void OpenSlot(int slot);

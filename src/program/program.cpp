@@ -1,0 +1,19 @@
+#include "program/program.h"
+
+#include "booking/bookingscreens.h"
+#include "calendar/calendarscreens.h"
+#include "info/infoscreens.h"
+#include "session/sessionscreens.h"
+#include "storylines/storyscreens.h"
+
+namespace grapplemont {
+
+void RegisterScreens(Game& game) {
+  RegisterStoryScreens(game);
+  RegisterBookingScreens(game);
+  RegisterCalendarScreens(game);
+  RegisterInfoScreens(game);
+  RegisterSessionScreens(game);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,84 @@
+#include "records/checkworld.h"
+
+#include <iterator>
+
+#include "records/checkrules.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// Where a rule holds. What the rules of the game may upset while it runs is held in default data alone.
+enum class Held { Always, InData, InGames };
+
+struct Rule {
+  void (*Look)(Inspection&);
+  Held When = Held::Always;
+};
+
+// In an order in which a remedy rarely makes work for a rule before it: first what removes records, then what they
+// hold, then what they lead to, then how they agree.
+constexpr Rule kRules[] = {
+    {WholeRecords},
+    {NoTombstones},
+    {FieldsHoldWhatTheyMay},
+    {NoRecordStandsTwice, Held::InData},
+    {KeysAreUnique},
+    {ReferencesLeadSomewhere},
+    {UnsackableHasEmployerAndNoEnd},
+    {OneOwnerEach, Held::InData},
+    {UnemployedAreFree},
+    {StablesOfTheEmployer, Held::InData},
+    {SplitsOfTheEmployer, Held::InData},
+    {ManagersOfTheEmployer, Held::InData},
+    {DivasAreWomen, Held::InData},
+    {FloorNotAboveOver, Held::InData},
+    {PotentialOfThirty, Held::InGames},
+    {EverybodyHasABirthday, Held::InGames},
+    {OfficesAreHeldByTheOwn, Held::InData},
+    {TitlesAgree},
+    {ChampionsWorkForTheOwner, Held::InData},
+    {VacantTitlesSaySo, Held::InGames},
+    {TitlesAndStablesHaveOneName, Held::InData},
+    {NobodyTeamsWithHimself},
+    {TeamsAreTwo, Held::InData},
+    {OneEventAMonth},
+    {ThreeShowsAtMost},
+    {OneShowASpot},
+    {SponsorsAgree},
+    {GameInfoStands},
+    {ShortlistWithoutDoubles, Held::InGames},
+    {EightFeuds, Held::InGames},
+    {FeudsAreEmptyOrComplete, Held::InGames},
+    {MailsAreDated, Held::InGames},
+};
+
+/// One remedy may bring to light what another rule minds; a handful of rounds settles all of them.
+constexpr int kMostRounds = 20;
+
+std::vector<Fault> Inspect(World& world, Inspection::Purpose purpose) {
+  Inspection inspection(world, purpose);
+  for (const Rule& rule : kRules)
+    if (rule.When == Held::Always || (rule.When == Held::InData) == inspection.AsData())
+      rule.Look(inspection);
+  return std::move(inspection.Found());
+}
+
+}  // namespace
+
+std::vector<Fault> CheckWorld(const World& world) {
+  // A check applies no remedy, so that the rules leave the world as it is.
+  return Inspect(const_cast<World&>(world), Inspection::Purpose::Check);
+}
+
+std::vector<Fault> MendWorld(World& world) {
+  std::vector<Fault> mended;
+  for (int round = 0; round < kMostRounds; ++round) {
+    std::vector<Fault> now = Inspect(world, Inspection::Purpose::Mend);
+    if (now.empty()) break;
+    std::move(now.begin(), now.end(), std::back_inserter(mended));
+  }
+  return mended;
+}
+
+}  // namespace grapplemont

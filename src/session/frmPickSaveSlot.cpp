@@ -1,0 +1,82 @@
+#include "records/slot.h"
+#include "session/newgame.h"
+#include "session/sessionscreens.h"
+#include "session/slots.h"
+#include "ui/waiting.h"
+
+namespace grapplemont {
+
+namespace {
+
+class frmPickSaveSlot : public ui::Screen {
+ public:
+  frmPickSaveSlot(Game& game, NewGameChoice choice)
+      : Screen(game.Desk(), "frmPickSaveSlot", "Pick A Save Slot", ui::Role::Cover),
+        game_(game),
+        choice_(std::move(choice)) {}
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Actions = {&cmdback};
+    page.Cancel = &cmdback;
+    std::vector<ui::Box> rows;
+    for (int slot = 1; slot <= kSlots; ++slot)
+      rows.push_back(ui::Columns({ui::Grow(cmdload(slot), 2), ui::Grow(lbldetails(slot), 3)}));
+    page.Body = ui::Rows({ui::Group("Where is the game to be kept?", std::move(rows)), ui::Spacer()});
+    return page;
+  }
+
+  void Load() override {
+    for (int slot = 1; slot <= kSlots; ++slot) {
+      const SlotSummary summary = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot));
+      cmdload(slot).Text = summary.Caption;
+      lbldetails(slot).Text = summary.Details;
+    }
+  }
+  void Return() override { Load(); }
+
+ private:
+  void cmdload_Click(int slot) {
+    if (!ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot)).Empty &&
+        !desk().Ask("Are you sure?", "Are you sure you want to overwrite this slot?"))
+      return;
+    choice_.SaveName =
+        desk().Prompt("User Entry", "Save Game Name:", "Save Game " + std::to_string(slot));
+    if (detail::Trimmed(choice_.SaveName).empty()) return;
+    World world(game_.NewDraws(0), game_.NewDraws(1));
+    world.Load(ReadWorldFiles(game_.Disk(), game_.DataFolder()));
+    desk().Say("Database creation",
+               "The database for this game will now be created.\n"
+               "This process can take up to 10 minutes depending on the speed of your machine.\n"
+               "Do not press ctrl-alt-del while it is happening, as you will corrupt your data.");
+    Waiting waiting(game_);
+    NewGame(world, choice_, [&](std::string_view step) { waiting.Tell(step); });
+    Slot::Create(game_.Disk(), game_.SlotFolder(slot), FilesOf(world), game_.NewWorldId());
+    game_.OpenSlot(slot);
+    desk().CloseAll();
+    desk().Open("frmMainScreen");
+  }
+  void cmdback_Click() { Close(); }
+
+  Game& game_;
+  NewGameChoice choice_;
+  ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
+  ui::Array<ui::Button> cmdload{"cmdload", kSlots, [this](const std::string&, int slot) {
+                                  return std::make_unique<ui::Button>(
+                                      *this, "cmdload" + std::to_string(slot), "",
+                                      [this, slot] { cmdload_Click(slot); });
+                                }};
+  ui::Array<ui::Label> lbldetails{"lbldetails", kSlots, [this](const std::string&, int slot) {
+                                    return std::make_unique<ui::Label>(
+                                        *this, "lbldetails" + std::to_string(slot));
+                                  }};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmPickSaveSlot::cmdback_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmPickSaveSlot(Game& game, NewGameChoice choice) {
+  return std::make_unique<frmPickSaveSlot>(game, std::move(choice));
+}
+
+}  // namespace grapplemont
