@@ -13,10 +13,9 @@ int WritersNeeded(int shows) {
 
 int PlayerWriters(const World& world) {
   const int player = world.PlayerUid();
-  return static_cast<int>(
-      std::count_if(world.AllStaff().begin(), world.AllStaff().end(), [&](const Staff& staff) {
-        return staff.Employer == player && staff.Position == kWriter;
-      }));
+  return static_cast<int>(std::count_if(
+      world.AllStaff().begin(), world.AllStaff().end(),
+      [&](const Staff& staff) { return staff.Employer == player && staff.Position == kWriter; }));
 }
 
 int PlayerShows(const World& world) {

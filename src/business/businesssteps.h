@@ -2,7 +2,8 @@
 
 #include "records/world.h"
 
-// What networks and sponsors do by themselves: steps of the day. Not built yet: each leaves the world as it is.
+// What networks and sponsors do by themselves: steps of the day. Not built yet: each leaves the
+// world as it is.
 
 namespace grapplemont {
 

@@ -11,7 +11,9 @@ namespace grapplemont {
 namespace {
 
 #define STEP(routine) \
-  Step { #routine, routine }
+  Step {              \
+#routine, routine \
+  }
 
 constexpr Step kDaily[] = {
     STEP(OwnerlessPromotions), STEP(RivalWorkerHiring), STEP(RivalStaffHiring),
@@ -24,20 +26,13 @@ constexpr Step kMonday[] = {
 };
 
 constexpr Step kFirstOfMonth[] = {
-    STEP(PoorFormMorale),
-    STEP(DiscoverFreeAgents),
-    STEP(DevelopmentMonth),
-    STEP(TrainingCampMonth),
-    STEP(StatusCountdown),
-    STEP(AgeAndRetire),
-    STEP(RivalNewTvShows),
-    STEP(PayWagesAndContracts),
-    STEP(RivalContractRenewals),
-    STEP(SponsorContractCountdown),
-    STEP(LoanRepayments),
-    STEP(MerchandiseIncome),
-    STEP(MonthlyCosts),
-    STEP(MonthlyReview),
+    STEP(PoorFormMorale),        STEP(DiscoverFreeAgents),
+    STEP(DevelopmentMonth),      STEP(TrainingCampMonth),
+    STEP(StatusCountdown),       STEP(AgeAndRetire),
+    STEP(RivalNewTvShows),       STEP(PayWagesAndContracts),
+    STEP(RivalContractRenewals), STEP(SponsorContractCountdown),
+    STEP(LoanRepayments),        STEP(MerchandiseIncome),
+    STEP(MonthlyCosts),          STEP(MonthlyReview),
 };
 
 constexpr Step kSecondFirstOfMonth[] = {
@@ -75,11 +70,21 @@ void MoveDate(World& world) {
 
 }  // namespace
 
-std::span<const Step> DailySteps() { return kDaily; }
-std::span<const Step> MondaySteps() { return kMonday; }
-std::span<const Step> FirstOfMonthSteps() { return kFirstOfMonth; }
-std::span<const Step> SecondFirstOfMonthSteps() { return kSecondFirstOfMonth; }
-std::span<const Step> ClosingSteps() { return kClosing; }
+std::span<const Step> DailySteps() {
+  return kDaily;
+}
+std::span<const Step> MondaySteps() {
+  return kMonday;
+}
+std::span<const Step> FirstOfMonthSteps() {
+  return kFirstOfMonth;
+}
+std::span<const Step> SecondFirstOfMonthSteps() {
+  return kSecondFirstOfMonth;
+}
+std::span<const Step> ClosingSteps() {
+  return kClosing;
+}
 
 void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher) {
   world.Session.StartSize = world.Player().Size;

@@ -10,8 +10,8 @@ namespace grapplemont {
 /// A show day of the player's that is still to come.
 struct Appointment {
   Day On;
-  std::string What;   // the name of the show or Event, or what is missing
-  std::string Kind;   // "Television", "Event", "No Event"
+  std::string What;  // the name of the show or Event, or what is missing
+  std::string Kind;  // "Television", "Event", "No Event"
 };
 
 /// The player's show days from today on, for so many days.

@@ -2,8 +2,8 @@
 
 #include "records/world.h"
 
-// The day's own steps: what shows leave behind, what days do to people, the month's books. Those not built yet leave
-// the world as it is.
+// The day's own steps: what shows leave behind, what days do to people, the month's books. Those
+// not built yet leave the world as it is.
 
 namespace grapplemont {
 

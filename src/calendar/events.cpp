@@ -34,7 +34,8 @@ void AddEvent(World& world, const Promotion& promotion, int month) {
 }  // namespace
 
 int NewEventType(const Promotion& promotion) {
-  if (promotion.Size < kGlobal || promotion.Size > kBackyard) return kNewEventTypes.back().ImageAbove60;
+  if (promotion.Size < kGlobal || promotion.Size > kBackyard)
+    return kNewEventTypes.back().ImageAbove60;
   const EventTypes& types = kNewEventTypes[static_cast<std::size_t>(promotion.Size - 1)];
   return promotion.Image >= 61 ? types.ImageAbove60 : types.Image60OrLess;
 }

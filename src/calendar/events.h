@@ -4,8 +4,8 @@
 
 namespace grapplemont {
 
-/// The Event.Type (1 pay-per-view to 4 small) of the promotion's Event this month, 0 for none. A rival without one
-/// gets one first.
+/// The Event.Type (1 pay-per-view to 4 small) of the promotion's Event this month, 0 for none. A
+/// rival without one gets one first.
 int EventThisMonth(World& world, const Promotion& promotion);
 /// The player's Event of a month 1 to 12; nullptr for none.
 const Event* PlayerEvent(const World& world, int month);

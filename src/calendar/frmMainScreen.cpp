@@ -13,7 +13,8 @@ namespace grapplemont {
 
 namespace {
 
-/// A command of the hub: the control, its caption, the screen it opens, its group and key in the side bar.
+/// A command of the hub: the control, its caption, the screen it opens, its group and key in the
+/// side bar.
 struct Command {
   const char* Control;
   const char* Caption;
@@ -74,9 +75,8 @@ class frmMainScreen : public ui::Screen {
     page.TopActions = {&txtname, &cmduntil, &cmdnext};
     page.Main = &cmdnext;
     page.Cancel = &cmdquit;
-    page.Body =
-        ui::Columns({ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow(2),
-                     ui::Group("Latest mail", {imgmail, ui::Grow(lstmail)}).Grow(3)});
+    page.Body = ui::Columns({ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow(2),
+                             ui::Group("Latest mail", {imgmail, ui::Grow(lstmail)}).Grow(3)});
     return page;
   }
 
@@ -102,8 +102,7 @@ class frmMainScreen : public ui::Screen {
   World& world() { return game_.World(); }
 
   void Advance(Waiting& waiting, bool cancelled) {
-    grapplemont::AdvanceDay(world(), cancelled,
-                            [&](std::string_view step) { waiting.Tell(step); });
+    grapplemont::AdvanceDay(world(), cancelled, [&](std::string_view step) { waiting.Tell(step); });
   }
 
   void RefreshMainScreen() {
@@ -133,9 +132,9 @@ class frmMainScreen : public ui::Screen {
     std::vector<ui::ListBox::Row> rows;
     for (int number = count; number >= 1 && number > count - kMailsShown; --number) {
       const Mail& mail = world().News()[number];
-      rows.push_back({{mail.From.View(), ui::Cell(mail.Date.View(), ui::Tone::Muted),
-                       mail.Body.View()},
-                      number});
+      rows.push_back(
+          {{mail.From.View(), ui::Cell(mail.Date.View(), ui::Tone::Muted), mail.Body.View()},
+           number});
     }
     lstmail.Fill(std::move(rows));
   }
@@ -149,8 +148,7 @@ class frmMainScreen : public ui::Screen {
                       in + 1});
     }
     lstahead.Fill(std::move(rows));
-    lblfacts.Text = NeedsThePlayer(world()) ? "A show is due today."
-                                            : "Nothing is due today.";
+    lblfacts.Text = NeedsThePlayer(world()) ? "A show is due today." : "Nothing is due today.";
   }
 
   static ui::Tone ToneOf(const Appointment& show) {
@@ -158,7 +156,8 @@ class frmMainScreen : public ui::Screen {
     return show.Kind == "Television" ? ui::Tone::Plain : ui::Tone::Red;
   }
 
-  /// What stops the game until the player has dealt with it. Such a screen opens once its room has it.
+  /// What stops the game until the player has dealt with it. Such a screen opens once its room has
+  /// it.
   void OpenWhatWaits() {
     const int endCode = world().Game().EndCode;
     if (endCode >= 1 && endCode <= 9) return OpenIfKnown("frmTheEnd");
@@ -230,14 +229,10 @@ class frmMainScreen : public ui::Screen {
                                             [this, &command] { desk().Open(command.Screen); });
       }};
   ui::Label imgmail{*this, "imgmail"};
-  ui::ListBox lstahead{*this,
-                       "lstahead",
-                       {{"Date", K::Number}, {"Day"}, {"Show"}, {"Kind", K::Tag}}};
-  ui::ListBox lstmail{*this,
-                      "lstmail",
-                      {{"From"}, {"Date"}, {"Mail"}},
-                      ui::Handler{},
-                      [this] { lstmail_Open(); }};
+  ui::ListBox lstahead{
+      *this, "lstahead", {{"Date", K::Number}, {"Day"}, {"Show"}, {"Kind", K::Tag}}};
+  ui::ListBox lstmail{
+      *this, "lstmail", {{"From"}, {"Date"}, {"Mail"}}, ui::Handler{}, [this] { lstmail_Open(); }};
   ui::Button cmdquit{*this, "cmdquit", "Quit", &frmMainScreen::cmdquit_Click};
 };
 

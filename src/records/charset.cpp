@@ -25,7 +25,8 @@ std::optional<char> ByteOf(char32_t letter) {
   return static_cast<char>(0x80 + (found - kHigh.begin()));
 }
 
-/// Takes one letter off the front and says how many bytes it had; a broken one has one byte and is no letter.
+/// Takes one letter off the front and says how many bytes it had; a broken one has one byte and is
+/// no letter.
 struct Taken {
   std::optional<char32_t> Letter;
   std::size_t Length = 1;

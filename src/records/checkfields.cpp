@@ -24,14 +24,21 @@ constexpr std::array<Loose, 4> kLooseInGames = {{
     {"Staff", "Age"},
 }};
 
-bool MayLeaveItsRange(const Inspection& inspection, const RecordLayout& layout, const Field& field) {
+bool MayLeaveItsRange(const Inspection& inspection, const RecordLayout& layout,
+                      const Field& field) {
   return !inspection.AsData() &&
          std::any_of(kLooseInGames.begin(), kLooseInGames.end(), [&](const Loose& loose) {
            return loose.Record == layout.Name && loose.Field == field.Name;
          });
 }
 
-std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+std::string Quoted(std::string_view text) {
+  std::string quoted = "\"" + std::string(text) + "\"";
+  std::replace_if(
+      quoted.begin(), quoted.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; },
+      ' ');
+  return quoted;
+}
 
 Remedy MakeNumber(const Field& field, const Place& place, int index, long long value) {
   return {"made " + std::to_string(value),
@@ -61,9 +68,9 @@ void InspectNumber(Inspection& inspection, const Place& place, const Field& fiel
   if (field.MayBeNone && value == kNoEnd) return;
   if (!field.Words.empty() && field.Kind != FieldKind::Text) {
     if (!Says(field.Words, static_cast<int>(value)).empty()) return;
-    inspection.NoteField(place, FieldName(field, index), "is " + std::to_string(value) + ", no known code",
-                         MakeNumber(field, place, index,
-                                    SensibleCode(place.Layout, field, place.Record, value)));
+    inspection.NoteField(
+        place, FieldName(field, index), "is " + std::to_string(value) + ", no known code",
+        MakeNumber(field, place, index, SensibleCode(place.Layout, field, place.Record, value)));
     return;
   }
   if (value >= field.Min && value <= field.Max) return;
@@ -96,9 +103,9 @@ bool IsControl(char c) {
 }
 
 void InspectText(Inspection& inspection, const Place& place, const Field& field, int index) {
-  const std::string raw(reinterpret_cast<const char*>(place.Record) + field.Offset +
-                            index * field.Stride,
-                        static_cast<std::size_t>(field.Width));
+  const std::string raw(
+      reinterpret_cast<const char*>(place.Record) + field.Offset + index * field.Stride,
+      static_cast<std::size_t>(field.Width));
   if (std::any_of(raw.begin(), raw.end(), IsControl)) {
     inspection.NoteField(place, FieldName(field, index), "has a control character in it",
                          {"made a blank", [&field, &place, index, raw] {
@@ -150,13 +157,14 @@ void WholeRecords(Inspection& inspection) {
                                             " records, more than its most of " +
                                             std::to_string(layout->Limit));
     if (bytes.size() % size == 0) continue;
-    inspection.NoteFile(layout->File,
-                        "ends in " + std::to_string(bytes.size() % size) +
-                            " bytes that are no whole record",
-                        {"cut off", [&] {
-                           const Bytes whole(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(count * size));
-                           table->Load(whole);
-                         }});
+    inspection.NoteFile(
+        layout->File,
+        "ends in " + std::to_string(bytes.size() % size) + " bytes that are no whole record",
+        {"cut off", [&] {
+           const Bytes whole(bytes.begin(),
+                             bytes.begin() + static_cast<std::ptrdiff_t>(count * size));
+           table->Load(whole);
+         }});
   }
 }
 

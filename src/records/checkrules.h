@@ -2,7 +2,8 @@
 
 #include "records/inspection.h"
 
-// The rules of a world in order, grouped by what they speak of. Each looks at the whole world and notes every fault.
+// The rules of a world in order, grouped by what they speak of. Each looks at the whole world and
+// notes every fault.
 
 namespace grapplemont {
 

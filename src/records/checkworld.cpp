@@ -8,7 +8,8 @@ namespace grapplemont {
 
 namespace {
 
-/// Where a rule holds. What the rules of the game may upset while it runs is held in default data alone.
+/// Where a rule holds. What the rules of the game may upset while it runs is held in default data
+/// alone.
 enum class Held { Always, InData, InGames };
 
 struct Rule {
@@ -16,8 +17,8 @@ struct Rule {
   Held When = Held::Always;
 };
 
-// In an order in which a remedy rarely makes work for a rule before it: first what removes records, then what they
-// hold, then what they lead to, then how they agree.
+// In an order in which a remedy rarely makes work for a rule before it: first what removes records,
+// then what they hold, then what they lead to, then how they agree.
 constexpr Rule kRules[] = {
     {WholeRecords},
     {NoTombstones},

@@ -9,21 +9,21 @@ namespace grapplemont {
 
 /// One thing that is wrong in a world.
 struct Fault {
-  std::string File;    // "wrestler.dat"
-  int Record = 0;      // 0: the file as a whole
-  std::string Who;     // the record's own name, where it has one
-  std::string Field;   // "Morale"; empty for the record as a whole
-  std::string What;    // "is 140, outside 0 to 100"
+  std::string File;   // "wrestler.dat"
+  int Record = 0;     // 0: the file as a whole
+  std::string Who;    // the record's own name, where it has one
+  std::string Field;  // "Morale"; empty for the record as a whole
+  std::string What;   // "is 140, outside 0 to 100"
   /// "wrestler.dat, record 17 (Bram Okafor), Morale: is 140, outside 0 to 100"
   std::string Line() const;
 };
 
-/// Every invariant of a world that does not hold. A running game (one with gameinfo.dat) is held to more than a
-/// folder of default data.
+/// Every invariant of a world that does not hold. A running game (one with gameinfo.dat) is held to
+/// more than a folder of default data.
 std::vector<Fault> CheckWorld(const World& world);
 
-/// The clean-up of a copied database: references to nobody and to the gone, doubles and values out of range are mended.
-/// What was done, a line each; nothing for a world in order. Draws nothing.
+/// The clean-up of a copied database: references to nobody and to the gone, doubles and values out
+/// of range are mended. What was done, a line each; nothing for a world in order. Draws nothing.
 std::vector<Fault> MendWorld(World& world);
 
 }  // namespace grapplemont

@@ -8,7 +8,10 @@ namespace {
 
 constexpr Field kShowFields[] = {
     FIELD(Show, Name).Means("Name of the show."),
-    FIELD(Show, Owner).In(0, 32767).LeadsTo(Refers::Promotion).Means("The promotion it belongs to."),
+    FIELD(Show, Owner)
+        .In(0, 32767)
+        .LeadsTo(Refers::Promotion)
+        .Means("The promotion it belongs to."),
     FIELD(Show, Day).From(kWeekDays).Means("Day of the week."),
     FIELD(Show, Slot).From(kTimeSlots).Means("Time of the evening."),
     FIELD(Show, Network).In(0, 32767).LeadsTo(Refers::Network).Means("The network that airs it."),
@@ -16,7 +19,10 @@ constexpr Field kShowFields[] = {
     FIELD(Show, Announcer).In(0, 32767).LeadsTo(Refers::Staff).Means("Primary announcer."),
     FIELD(Show, Colour).In(0, 32767).LeadsTo(Refers::Commentator).Means("Colour commentator."),
     FIELD(Show, ColourIsWorker).Means("The colour commentator is a worker, not staff."),
-    FIELD(Show, Rating1).In(0, 32767).Counts("hundredths").Means("Highest rating; 0 before the first show."),
+    FIELD(Show, Rating1)
+        .In(0, 32767)
+        .Counts("hundredths")
+        .Means("Highest rating; 0 before the first show."),
     FIELD(Show, Rating2).In(0, 32767).Counts("hundredths").Means("Lowest rating."),
     FIELD(Show, Rating3).In(0, 32767).Counts("hundredths").Means("Last rating."),
     FIELD(Show, Rating4).In(0, 32767).Means("Strikes against the show."),
@@ -27,13 +33,26 @@ constexpr Field kNetworkFields[] = {
     FIELD(Network, Uid).In(1, 32767).Key().Means("The number by which shows know the network."),
     FIELD(Network, Name).Key().Means("Name."),
     FIELD(Network, EarlyAudience).In(0, 32767).Counts("hundredths").Means("Audience of 6 to 8 pm."),
-    FIELD(Network, PrimeAudience).In(0, 32767).Counts("hundredths").Means("Audience of 8 to 10 pm."),
-    FIELD(Network, LateAudience).In(0, 32767).Counts("hundredths").Means("Audience of 10 pm to midnight."),
-    FIELD(Network, GraveAudience).In(0, 32767).Counts("hundredths").Means("Audience of midnight to 2 am."),
+    FIELD(Network, PrimeAudience)
+        .In(0, 32767)
+        .Counts("hundredths")
+        .Means("Audience of 8 to 10 pm."),
+    FIELD(Network, LateAudience)
+        .In(0, 32767)
+        .Counts("hundredths")
+        .Means("Audience of 10 pm to midnight."),
+    FIELD(Network, GraveAudience)
+        .In(0, 32767)
+        .Counts("hundredths")
+        .Means("Audience of midnight to 2 am."),
     FIELD(Network, EarlyRisk).Counts("percent").Means("Highest risk tolerated from 6 to 8 pm."),
     FIELD(Network, PrimeRisk).Counts("percent").Means("Highest risk tolerated from 8 to 10 pm."),
-    FIELD(Network, LateRisk).Counts("percent").Means("Highest risk tolerated from 10 pm to midnight."),
-    FIELD(Network, GraveRisk).Counts("percent").Means("Highest risk tolerated from midnight to 2 am."),
+    FIELD(Network, LateRisk)
+        .Counts("percent")
+        .Means("Highest risk tolerated from 10 pm to midnight."),
+    FIELD(Network, GraveRisk)
+        .Counts("percent")
+        .Means("Highest risk tolerated from midnight to 2 am."),
     FIELD(Network, Production).Counts("percent").Means("Lowest production values accepted."),
     FIELD(Network, Generic).Means("Has room for more than one show at a time."),
 };
@@ -41,10 +60,16 @@ constexpr RecordLayout kNetworkLayout{"Network", "network.dat", sizeof(Network),
                                       kNetworkFields};
 
 constexpr Field kSponsorFields[] = {
-    FIELD(Sponsor, Uid).In(1, 32767).Key().Means("The number by which promotions know the sponsor."),
+    FIELD(Sponsor, Uid)
+        .In(1, 32767)
+        .Key()
+        .Means("The number by which promotions know the sponsor."),
     FIELD(Sponsor, Name).Key().Means("Name."),
     FIELD(Sponsor, Slogan).Means("Slogan."),
-    FIELD(Sponsor, Promotion).In(0, 32767).LeadsTo(Refers::Promotion).Means("The promotion sponsored."),
+    FIELD(Sponsor, Promotion)
+        .In(0, 32767)
+        .LeadsTo(Refers::Promotion)
+        .Means("The promotion sponsored."),
     FIELD(Sponsor, ContractMonths).In(0, 600).Counts("months").Means("Months left."),
     FIELD(Sponsor, Morality).Counts("percent").Means("High morality tolerates less risk."),
     FIELD(Sponsor, Pay).In(0, 100000).Counts("thousand dollars a show").Means("Payment."),
@@ -54,7 +79,10 @@ constexpr RecordLayout kSponsorLayout{"Sponsor", "sponsor.dat", sizeof(Sponsor),
 
 constexpr Field kEventFields[] = {
     FIELD(Event, Name).Means("Name of the event."),
-    FIELD(Event, Owner).In(0, 32767).LeadsTo(Refers::Promotion).Means("The promotion it belongs to."),
+    FIELD(Event, Owner)
+        .In(0, 32767)
+        .LeadsTo(Refers::Promotion)
+        .Means("The promotion it belongs to."),
     FIELD(Event, Month).In(1, 12).Means("Month it is held in."),
     FIELD(Event, Type).In(1, 4).From(kEventTypes).Means("Pay-per-view or how large a show."),
 };

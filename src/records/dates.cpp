@@ -32,15 +32,24 @@ std::optional<int> ParseNumber(std::string_view text) {
 
 }  // namespace
 
-std::string_view DayName(Day day) { return kDays[weekday{day}.iso_encoding() - 1]; }
-
-std::string_view MonthName(int month) {
-  return month < 1 || month > 12 ? std::string_view() : kMonths[static_cast<std::size_t>(month - 1)];
+std::string_view DayName(Day day) {
+  return kDays[weekday{day}.iso_encoding() - 1];
 }
 
-int YearOf(Day day) { return int(year_month_day{day}.year()); }
-int MonthOf(Day day) { return static_cast<int>(unsigned(year_month_day{day}.month())); }
-int DayOfMonth(Day day) { return static_cast<int>(unsigned(year_month_day{day}.day())); }
+std::string_view MonthName(int month) {
+  return month < 1 || month > 12 ? std::string_view()
+                                 : kMonths[static_cast<std::size_t>(month - 1)];
+}
+
+int YearOf(Day day) {
+  return int(year_month_day{day}.year());
+}
+int MonthOf(Day day) {
+  return static_cast<int>(unsigned(year_month_day{day}.month()));
+}
+int DayOfMonth(Day day) {
+  return static_cast<int>(unsigned(year_month_day{day}.day()));
+}
 
 int DayNumber(std::string_view dayName) {
   for (std::size_t i = 0; i < kDays.size(); ++i)
@@ -48,8 +57,12 @@ int DayNumber(std::string_view dayName) {
   return 0;
 }
 
-std::string LongDate(Day day) { return std::string(DayName(day)) + ", " + PlainDate(day); }
-std::string PlainDate(Day day) { return Digits(DayOfMonth(day), 2) + " " + MonthYear(day); }
+std::string LongDate(Day day) {
+  return std::string(DayName(day)) + ", " + PlainDate(day);
+}
+std::string PlainDate(Day day) {
+  return Digits(DayOfMonth(day), 2) + " " + MonthYear(day);
+}
 std::string MonthYear(Day day) {
   return std::string(MonthName(MonthOf(day))) + " " + Digits(YearOf(day), 4);
 }
@@ -72,8 +85,12 @@ std::optional<Day> ParseIsoDate(std::string_view text) {
   return Day{date};
 }
 
-bool IsMonday(Day day) { return weekday{day} == Monday; }
-bool IsFirstOfMonth(Day day) { return DayOfMonth(day) == 1; }
+bool IsMonday(Day day) {
+  return weekday{day} == Monday;
+}
+bool IsFirstOfMonth(Day day) {
+  return DayOfMonth(day) == 1;
+}
 bool IsEventDay(Day day) {
   return weekday{day} == Sunday && MonthOf(day + days{7}) != MonthOf(day);
 }

@@ -3,7 +3,8 @@
 namespace grapplemont {
 
 int SeededDraws::Draw(int n) {
-  // A draw is spent even where there is no choice, so that a table that shrinks to one row moves no later result.
+  // A draw is spent even where there is no choice, so that a table that shrinks to one row moves no
+  // later result.
   const double uniform = static_cast<double>(engine_() >> 11) * 0x1.0p-53;
   return n < 2 ? 1 : static_cast<int>(uniform * n) + 1;
 }

@@ -55,8 +55,7 @@ long long FieldNumber(const Field& field, const std::byte* record, int index) {
 }
 
 std::string_view FieldText(const Field& field, const std::byte* record, int index) {
-  return detail::Trimmed(
-      {At<char>(field, record, index), static_cast<std::size_t>(field.Width)});
+  return detail::Trimmed({At<char>(field, record, index), static_cast<std::size_t>(field.Width)});
 }
 
 double FieldDate(const Field& field, const std::byte* record, int index) {

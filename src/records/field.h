@@ -7,17 +7,29 @@
 
 #include "records/fields.h"
 
-// One list of fields per record: all that must know a record's fields (the check, the tables, the editor, tool-tips,
-// the file-format page) reads it, and nothing else does it by hand.
+// One list of fields per record: all that must know a record's fields (the check, the tables, the
+// editor, tool-tips, the file-format page) reads it, and nothing else does it by hand.
 
 namespace grapplemont {
 
 enum class FieldKind { Word, Percent, Long, Flag, Date, Text };
 
 /// What a field's number or text leads to.
-enum class Refers { Nothing, Worker, Promotion, Staff, Commentator, Network, Sponsor, Stable, Split, Title };
+enum class Refers {
+  Nothing,
+  Worker,
+  Promotion,
+  Staff,
+  Commentator,
+  Network,
+  Sponsor,
+  Stable,
+  Split,
+  Title
+};
 
-/// One word of a vocabulary: the code as stored (a number, or a text for text fields) and what it says.
+/// One word of a vocabulary: the code as stored (a number, or a text for text fields) and what it
+/// says.
 struct Term {
   int Code = 0;
   std::string_view Stored;
@@ -100,8 +112,10 @@ const RecordLayout& LayoutOf();
 /// "Rank3" for the third of "Rank#".
 std::string FieldName(const Field& field, int index);
 
-// Access to a field of a record's bytes by its description; `index` counts from 0 within a numbered field.
-long long FieldNumber(const Field& field, const std::byte* record, int index = 0);  // no Text, no Date
+// Access to a field of a record's bytes by its description; `index` counts from 0 within a numbered
+// field.
+long long FieldNumber(const Field& field, const std::byte* record,
+                      int index = 0);  // no Text, no Date
 std::string_view FieldText(const Field& field, const std::byte* record, int index = 0);
 double FieldDate(const Field& field, const std::byte* record, int index = 0);
 /// Throws FieldOverflow when the number does not fit; percentages are not saturated here.
@@ -173,12 +187,12 @@ constexpr Field MakeNumbered(std::string_view name, std::size_t offset) {
 // A member, a numbered array of fields, and a member of each element of an array of parts.
 #define GM_FIELD(Record, Member) \
   ::grapplemont::detail::MakeField<decltype(Record::Member)>(#Member, offsetof(Record, Member))
-#define GM_NUMBERED(Record, Member) \
+#define GM_NUMBERED(Record, Member)                                          \
   ::grapplemont::detail::MakeNumbered<decltype(Record::Member)>(#Member "#", \
                                                                 offsetof(Record, Member))
-#define GM_PART(Record, Array, Part, Member, Name)                             \
-  ::grapplemont::detail::MakeField<decltype(Part::Member)>(                    \
-      Name, offsetof(Record, Array) + offsetof(Part, Member),                  \
+#define GM_PART(Record, Array, Part, Member, Name)            \
+  ::grapplemont::detail::MakeField<decltype(Part::Member)>(   \
+      Name, offsetof(Record, Array) + offsetof(Part, Member), \
       static_cast<int>(std::tuple_size_v<decltype(Record::Array)>), sizeof(Part))
 
 }  // namespace grapplemont

@@ -10,12 +10,13 @@
 #include <string>
 #include <string_view>
 
-// Field types whose bytes are the file's bytes: alignment 1, little-endian, no padding. A record struct made of
-// them is its own layout table.
+// Field types whose bytes are the file's bytes: alignment 1, little-endian, no padding. A record
+// struct made of them is its own layout table.
 
 namespace grapplemont {
 
-/// A value that its field cannot hold; the field keeps what it held. `World::Explain` names record and field.
+/// A value that its field cannot hold; the field keeps what it held. `World::Explain` names record
+/// and field.
 class FieldOverflow : public std::range_error {
  public:
   FieldOverflow(const void* field, long long value, int bits);
@@ -90,7 +91,8 @@ class Percent : public detail::Number<Percent, 2> {
   constexpr void Set(long long value) { Store(std::clamp(value, 0LL, 100LL)); }
 };
 
-/// 32 bits, signed: whole dollars or thousands of dollars. Storing a value outside them throws FieldOverflow.
+/// 32 bits, signed: whole dollars or thousands of dollars. Storing a value outside them throws
+/// FieldOverflow.
 class Long : public detail::Number<Long, 4> {
  public:
   constexpr Long() = default;
@@ -138,7 +140,8 @@ namespace detail {
 std::string_view Trimmed(std::string_view text);
 }  // namespace detail
 
-/// N bytes of Windows-1252 text, padded with blanks. Cuts what is longer; reads and compares trimmed.
+/// N bytes of Windows-1252 text, padded with blanks. Cuts what is longer; reads and compares
+/// trimmed.
 template <int N>
 class Text {
  public:

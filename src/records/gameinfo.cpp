@@ -12,7 +12,10 @@ constexpr Field kFields[] = {
     FIELD(PlayerName).Means("The player's name."),
     FIELD(Reputation).In(0, 100).Counts("percent").Means("The player's standing."),
     FIELD(StartDate).Means("The day the game began."),
-    GM_NUMBERED(GameInfo, Shortlist).In(0, 32767).LeadsTo(Refers::Worker).Means("Workers to keep an eye on."),
+    GM_NUMBERED(GameInfo, Shortlist)
+        .In(0, 32767)
+        .LeadsTo(Refers::Worker)
+        .Means("Workers to keep an eye on."),
     JOB(Promotion).Means("Employer, or None."),
     JOB(Started).Means("The day the job began."),
     JOB(StartImage).In(0, 100).Counts("percent").Means("Image of the promotion at that day."),
@@ -21,8 +24,14 @@ constexpr Field kFields[] = {
     JOB(EndSize).In(0, 6).Means("Size at the end; 0 for the present job."),
     FIELD(SaveName).Means("The name of the saved game."),
     FIELD(LoadingSet).In(0, 4).Means("Pictures of the waiting screen; 0 the program's own."),
-    FIELD(TapeWait).In(0, 32767).LeadsTo(Refers::Network).Means("The network that holds a promo tape."),
-    FIELD(TvOfferWait).In(0, 32767).LeadsTo(Refers::Network).Means("The network that has made an offer."),
+    FIELD(TapeWait)
+        .In(0, 32767)
+        .LeadsTo(Refers::Network)
+        .Means("The network that holds a promo tape."),
+    FIELD(TvOfferWait)
+        .In(0, 32767)
+        .LeadsTo(Refers::Network)
+        .Means("The network that has made an offer."),
     FIELD(PlayerPromotion).In(1, 32767).LeadsTo(Refers::Promotion).Means("The player's promotion."),
     FIELD(Difficulty).In(1, 4).From(kDifficulties).Means("Difficulty."),
     FIELD(Today).Means("The present day."),

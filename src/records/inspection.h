@@ -7,8 +7,9 @@
 
 #include "records/checkworld.h"
 
-// A walk over a world that looks for faults. The same rules serve the check and the clean-up, so that the two never
-// disagree: a rule tells each fault together with its remedy, and the inspection decides whether to apply it.
+// A walk over a world that looks for faults. The same rules serve the check and the clean-up, so
+// that the two never disagree: a rule tells each fault together with its remedy, and the inspection
+// decides whether to apply it.
 
 namespace grapplemont {
 
@@ -32,14 +33,15 @@ class Inspection {
   Inspection(World& world, Purpose purpose);
 
   World& Of() const { return world_; }
-  /// Looked at as default data: the ten files of a data set, all in order for a game to begin. Else as a running game,
-  /// in which some things may go their own way.
+  /// Looked at as default data: the ten files of a data set, all in order for a game to begin. Else
+  /// as a running game, in which some things may go their own way.
   bool AsData() const { return asData_; }
   /// Whether this file is looked at.
   bool Covers(const RecordLayout& layout) const;
 
   void NoteFile(std::string_view file, std::string what, const Remedy& remedy = {});
-  void NoteField(const Place& place, std::string_view field, std::string what, const Remedy& remedy = {});
+  void NoteField(const Place& place, std::string_view field, std::string what,
+                 const Remedy& remedy = {});
   template <class T>
   void Note(Records<T>& file, T& record, std::string_view field, std::string what,
             const Remedy& remedy = {}) {

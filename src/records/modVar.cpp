@@ -13,7 +13,9 @@ void AddNews(World& world, std::string_view from, std::string_view body) {
   world.News().Append(mail);
 }
 
-bool HasNews(const World& world) { return world.News().Count() > 0; }
+bool HasNews(const World& world) {
+  return world.News().Count() > 0;
+}
 
 std::string RatingText(int value) {
   const int remainder = value % 100;

@@ -9,7 +9,8 @@
 
 namespace grapplemont {
 
-/// Appends a mail dated today; what is longer than 30 and 250 letters is cut. A full mailbox drops its oldest mail.
+/// Appends a mail dated today; what is longer than 30 and 250 letters is cut. A full mailbox drops
+/// its oldest mail.
 void AddNews(World& world, std::string_view from, std::string_view body);
 /// True when there is at least one mail.
 bool HasNews(const World& world);
@@ -17,8 +18,8 @@ bool HasNews(const World& world);
 /// A rating held in hundredths: "2.50" for 250, "2.00" for 200, "2. 05" for 205 (with the blank).
 std::string RatingText(int value);
 
-/// Whether a mail under this option word (0 always, 1 direct rivals or above, 2 never) is told about a promotion of
-/// this size, by the player's size as the day last saw it.
+/// Whether a mail under this option word (0 always, 1 direct rivals or above, 2 never) is told
+/// about a promotion of this size, by the player's size as the day last saw it.
 bool ShouldTell(const World& world, int option, int size);
 
 /// "$1284500", with a minus sign in front for a debt.

@@ -38,7 +38,9 @@ constexpr Term kFinisherTexts[] = {{static_cast<int>(FinisherType::Impact), "", 
                                    {static_cast<int>(FinisherType::TopRope), "", "Top Rope"},
                                    {static_cast<int>(FinisherType::Ground), "", "Ground"}};
 
-std::string_view KnownOr(std::string_view text) { return text.empty() ? "Unknown" : text; }
+std::string_view KnownOr(std::string_view text) {
+  return text.empty() ? "Unknown" : text;
+}
 
 std::string_view StoredOf(Vocabulary words, std::string_view text) {
   const Term* term = FindTerm(words, text);
@@ -47,9 +49,15 @@ std::string_view StoredOf(Vocabulary words, std::string_view text) {
 
 }  // namespace
 
-int NextWorkerUid(const World& world) { return NextUid(world.Workers()); }
-int NextStaffUid(const World& world) { return NextUid(world.AllStaff()); }
-int NextPromotionUid(const World& world) { return NextUid(world.Promotions()); }
+int NextWorkerUid(const World& world) {
+  return NextUid(world.Workers());
+}
+int NextStaffUid(const World& world) {
+  return NextUid(world.AllStaff());
+}
+int NextPromotionUid(const World& world) {
+  return NextUid(world.Promotions());
+}
 
 bool WorkerNameFree(const World& world, std::string_view name) {
   return !FindNamed(world.Workers(), name);
@@ -112,17 +120,27 @@ const Staff* OwnerOf(const World& world, int promotionUid) {
   return nullptr;
 }
 
-std::string_view PositionText(int position) { return KnownOr(Says(kPositions, position)); }
+std::string_view PositionText(int position) {
+  return KnownOr(Says(kPositions, position));
+}
 
 int PositionCode(std::string_view text) {
   const Term* term = FindTerm(kPositions, text);
   return term ? term->Code : 0;
 }
 
-std::string_view DispositionText(std::string_view code) { return KnownOr(Says(kDispositions, code)); }
-std::string_view DispositionCode(std::string_view text) { return StoredOf(kDispositions, text); }
-std::string_view ContractText(std::string_view code) { return KnownOr(Says(kContracts, code)); }
-std::string_view ContractCode(std::string_view text) { return StoredOf(kContracts, text); }
+std::string_view DispositionText(std::string_view code) {
+  return KnownOr(Says(kDispositions, code));
+}
+std::string_view DispositionCode(std::string_view text) {
+  return StoredOf(kDispositions, text);
+}
+std::string_view ContractText(std::string_view code) {
+  return KnownOr(Says(kContracts, code));
+}
+std::string_view ContractCode(std::string_view text) {
+  return StoredOf(kContracts, text);
+}
 
 std::string ContractLine(const Worker& worker) {
   if (worker.Unsackable) return "Unsackable, agreement for $" + PerMonth(worker.Wage);

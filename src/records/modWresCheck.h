@@ -36,7 +36,8 @@ const Title* FindTitle(const World& world, std::string_view name);
 /// The promotion's Owner on the staff; nullptr for a promotion without one.
 const Staff* OwnerOf(const World& world, int promotionUid);
 
-/// "Main Event" and so on; "Unknown" for a code without a text. PositionCode gives 0 for an unknown text.
+/// "Main Event" and so on; "Unknown" for a code without a text. PositionCode gives 0 for an unknown
+/// text.
 std::string_view PositionText(int position);
 int PositionCode(std::string_view text);
 /// "Face", "Heel", "Tweener", "Unknown"; the code is "F", "H", "T", empty for an unknown text.

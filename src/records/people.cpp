@@ -11,15 +11,30 @@ namespace {
 #define FIELD(record, member) GM_FIELD(record, member)
 
 constexpr Field kStaffFields[] = {
-    FIELD(Staff, Uid).In(1, 32767).Key().Means("The number by which other records know the person."),
+    FIELD(Staff, Uid)
+        .In(1, 32767)
+        .Key()
+        .Means("The number by which other records know the person."),
     FIELD(Staff, Name).Key().Means("Full name."),
     FIELD(Staff, Gender).From(kGenders).Means("Male or female."),
     FIELD(Staff, BirthMonth).In(0, 12).Means("Month of the birthday."),
     FIELD(Staff, Age).In(0, 120).Counts("years").Means("Age."),
-    FIELD(Staff, Employer).In(0, 32767).LeadsTo(Refers::Promotion).Means("The promotion worked for."),
-    FIELD(Staff, ContractMonths).In(0, 120).OrNone().Counts("months").Means("Months left; -1 has no end."),
-    FIELD(Staff, ContractType).From(kContracts).Means("A written contract, or none but a word given."),
-    FIELD(Staff, Wage).In(0, 32767).Counts("thousand dollars a month").Means("Wage; an Owner's style 1 to 6."),
+    FIELD(Staff, Employer)
+        .In(0, 32767)
+        .LeadsTo(Refers::Promotion)
+        .Means("The promotion worked for."),
+    FIELD(Staff, ContractMonths)
+        .In(0, 120)
+        .OrNone()
+        .Counts("months")
+        .Means("Months left; -1 has no end."),
+    FIELD(Staff, ContractType)
+        .From(kContracts)
+        .Means("A written contract, or none but a word given."),
+    FIELD(Staff, Wage)
+        .In(0, 32767)
+        .Counts("thousand dollars a month")
+        .Means("Wage; an Owner's style 1 to 6."),
     FIELD(Staff, Position).In(1, 8).From(kStaffPositions).Means("Post."),
     FIELD(Staff, Talent).Counts("percent").Means("Talent at the post."),
     FIELD(Staff, Morale).Counts("percent").Means("Morale."),
@@ -41,24 +56,34 @@ constexpr RecordLayout kTeamLayout{"Team", "teams.dat", sizeof(Team), 10000, kTe
 
 constexpr Field kStableFields[] = {
     FIELD(Stable, Name).Means("Name of the stable."),
-    FIELD(Stable, Owner).In(0, 32767).OrNone().LeadsTo(Refers::Promotion).Means("The promotion it belongs to."),
+    FIELD(Stable, Owner)
+        .In(0, 32767)
+        .OrNone()
+        .LeadsTo(Refers::Promotion)
+        .Means("The promotion it belongs to."),
 };
-constexpr RecordLayout kStableLayout{"Stable", "stables.dat", sizeof(Stable), 10000,
-                                     kStableFields};
+constexpr RecordLayout kStableLayout{"Stable", "stables.dat", sizeof(Stable), 10000, kStableFields};
 
 constexpr Field kTitleFields[] = {
     FIELD(Title, Name).Means("Name of the belt."),
     FIELD(Title, Singles).Means("A singles title; else a tag title."),
-    FIELD(Title, Owner).In(0, 32767).OrNone().LeadsTo(Refers::Promotion).Means("The promotion it belongs to."),
+    FIELD(Title, Owner)
+        .In(0, 32767)
+        .OrNone()
+        .LeadsTo(Refers::Promotion)
+        .Means("The promotion it belongs to."),
     FIELD(Title, Holder).In(0, 32767).LeadsTo(Refers::Worker).Means("The champion."),
     FIELD(Title, Partner).In(0, 32767).LeadsTo(Refers::Worker).Means("The champion's partner."),
     FIELD(Title, Lightweight).Means("Lightweights only."),
     FIELD(Title, Woman).Means("Women only."),
-    FIELD(Title, Image).Counts("percent").Means("How marketable the belt is in the eyes of the fans."),
+    FIELD(Title, Image)
+        .Counts("percent")
+        .Means("How marketable the belt is in the eyes of the fans."),
     FIELD(Title, Suspended).Means("No title matches until reactivated."),
     GM_PART(Title, Reigns, Reign, Won, "Won#").Means("The day a reign began."),
     GM_PART(Title, Reigns, Reign, Holder, "Holder#").Means("Who reigned."),
-    GM_PART(Title, Reigns, Reign, Lost, "Lost#").Means("The day a reign ended; 1980-01-01 for none."),
+    GM_PART(Title, Reigns, Reign, Lost, "Lost#")
+        .Means("The day a reign ended; 1980-01-01 for none."),
 };
 constexpr RecordLayout kTitleLayout{"Title", "belt.dat", sizeof(Title), 5000, kTitleFields};
 

@@ -101,7 +101,8 @@ const RecordLayout& LayoutOf<Stable>();
 template <>
 const RecordLayout& LayoutOf<Title>();
 
-/// Ends the present reign on `today` and begins one of `holder` ("Vacant" for nobody); the oldest line falls away.
+/// Ends the present reign on `today` and begins one of `holder` ("Vacant" for nobody); the oldest
+/// line falls away.
 void BeginReign(Title& title, Day today, std::string_view holder);
 
 }  // namespace grapplemont

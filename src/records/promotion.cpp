@@ -6,9 +6,9 @@ namespace {
 
 #define FIELD(member) GM_FIELD(Promotion, member)
 #define NUMBERED(member) GM_NUMBERED(Promotion, member)
-#define BOOK(month, member, name)                                                       \
-  detail::MakeField<decltype(MonthBooks::member)>(                                      \
-      name, offsetof(Promotion, month) + offsetof(MonthBooks, member))                  \
+#define BOOK(month, member, name)                                      \
+  detail::MakeField<decltype(MonthBooks::member)>(                     \
+      name, offsetof(Promotion, month) + offsetof(MonthBooks, member)) \
       .Counts("dollars")
 
 constexpr Field kFields[] = {
@@ -21,17 +21,24 @@ constexpr Field kFields[] = {
     FIELD(TicketPrice).In(0, 1000).Counts("dollars").Means("Price of a ticket."),
     FIELD(Image).Counts("percent").Means("Standing within the size class."),
     FIELD(Momentum).Means("The way the image is going."),
-    FIELD(Commissioner).In(0, 32767).LeadsTo(Refers::Worker).Means("A non-wrestler who rules on screen."),
+    FIELD(Commissioner)
+        .In(0, 32767)
+        .LeadsTo(Refers::Worker)
+        .Means("A non-wrestler who rules on screen."),
     FIELD(Production).Counts("percent").Means("Production values."),
     FIELD(Risk).Counts("percent").Means("Riskiness of the product."),
     FIELD(Advertising).In(0, 100).Counts("levels of $10000 a month").Means("Advertising."),
     FIELD(Merchandising).In(0, 100).Counts("levels of $20000 a month").Means("Merchandise."),
     FIELD(MeetingDay).From(kWeekDays).Means("Day of the weekly staff meeting."),
     NUMBERED(Rank).In(0, 600).OrNone().Means("Standing at past month ends, newest first."),
-    detail::MakeNumbered<decltype(Promotion::MoneyBefore)>("Money#", offsetof(Promotion, MoneyBefore))
+    detail::MakeNumbered<decltype(Promotion::MoneyBefore)>("Money#",
+                                                           offsetof(Promotion, MoneyBefore))
         .Counts("dollars")
         .Means("Cash at past month ends, newest first; -1 for no data."),
-    FIELD(LoanAmount).In(0, 2147483647LL).Counts("dollars").Means("Bank loan to repay; 0 for none."),
+    FIELD(LoanAmount)
+        .In(0, 2147483647LL)
+        .Counts("dollars")
+        .Means("Bank loan to repay; 0 for none."),
     FIELD(LoanMonths).In(0, 600).Counts("months").Means("Length of the loan."),
     FIELD(LoanRepaid).In(0, 2147483647LL).Counts("dollars").Means("Repaid so far."),
     FIELD(LoanMissed).In(0, 100).Means("Missed repayments."),
@@ -54,7 +61,10 @@ constexpr Field kFields[] = {
     BOOK(LastMonth, AdvertisingCost, "LastAdvertisingCost").Means("Advertising last month."),
     BOOK(LastMonth, MerchCost, "LastMerchCost").Means("Cost of merchandise last month."),
     NUMBERED(Split).Means("Name of a part of the roster, or None."),
-    NUMBERED(Sponsor).In(0, 32767).LeadsTo(Refers::Sponsor).Means("Sponsors; the first is the main one."),
+    NUMBERED(Sponsor)
+        .In(0, 32767)
+        .LeadsTo(Refers::Sponsor)
+        .Means("Sponsors; the first is the main one."),
     FIELD(CampName).Means("Training camp, or None."),
     FIELD(CampFacilities).In(0, 4).From(kCampFacilities).Means("Facilities of the camp."),
     FIELD(HeadTrainer).In(0, 32767).LeadsTo(Refers::Staff).Means("Head trainer of the camp."),
@@ -71,7 +81,9 @@ const RecordLayout& LayoutOf<Promotion>() {
   return kLayout;
 }
 
-std::string_view SizeText(int size) { return Says(kSizes, size); }
+std::string_view SizeText(int size) {
+  return Says(kSizes, size);
+}
 
 int StandingScore(const Promotion& promotion) {
   return (6 - promotion.Size) * 100 + promotion.Image;

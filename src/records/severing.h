@@ -4,8 +4,9 @@
 
 namespace grapplemont {
 
-/// The worker leaves his employer for any reason: contract, stable, manager, feuds, Titles and commentary end. His
-/// place in development or camp becomes the roster position that his Over earns.
+/// The worker leaves his employer for any reason: contract, stable, manager, feuds, Titles and
+/// commentary end. His place in development or camp becomes the roster position that his Over
+/// earns.
 void SeverWorker(World& world, Worker& worker);
 /// The member of staff leaves his employer for any reason.
 void SeverStaff(World& world, Staff& staff);

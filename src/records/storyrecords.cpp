@@ -47,7 +47,10 @@ constexpr Field kSegmentFields[] = {
     WORKER(Segment, Other3).Means("First run-in afterwards."),
     WORKER(Segment, Other4).Means("Second run-in afterwards."),
     FIELD(Segment, Aftermath).In(0, 32767).Means("What follows."),
-    GM_NUMBERED(Segment, Worker).In(0, 32767).LeadsTo(Refers::Worker).Means("Those taking part, side by side."),
+    GM_NUMBERED(Segment, Worker)
+        .In(0, 32767)
+        .LeadsTo(Refers::Worker)
+        .Means("Those taking part, side by side."),
     FIELD(Segment, Text).Means("A stable or a further name, or None."),
 };
 constexpr RecordLayout kSegmentLayout{"Segment", "match.dat", sizeof(Segment), 11, kSegmentFields};
@@ -61,7 +64,9 @@ constexpr RecordLayout kMailLayout{"Mail", "news.dat", sizeof(Mail), 20000, kMai
 
 constexpr Field kIncidentFields[] = {
     FIELD(Incident, Type).In(0, 6).From(kIncidents).Means("What happened."),
-    FIELD(Incident, Uid).In(0, 32767).Means("The worker it happened to, or the promotion that offers a job."),
+    FIELD(Incident, Uid)
+        .In(0, 32767)
+        .Means("The worker it happened to, or the promotion that offers a job."),
 };
 constexpr RecordLayout kIncidentLayout{"Incident", "incident.tmp", sizeof(Incident), 10,
                                        kIncidentFields};

@@ -5,12 +5,14 @@
 #include "records/field.h"
 #include "records/vocabulary.h"
 
-// Records that only a running game has: feuds, the Segments of the show being booked, mails, incidents.
+// Records that only a running game has: feuds, the Segments of the show being booked, mails,
+// incidents.
 
 namespace grapplemont {
 
-/// A rivalry: one of the eight records of feudinfo.dat; Worker1 0 is an empty slot. In a singles feud the sides are
-/// Worker1 and Worker2; in a tag feud they are Worker1 with Worker2, and Worker3 with Worker4.
+/// A rivalry: one of the eight records of feudinfo.dat; Worker1 0 is an empty slot. In a singles
+/// feud the sides are Worker1 and Worker2; in a tag feud they are Worker1 with Worker2, and Worker3
+/// with Worker4.
 struct Feud {
   Flag Singles;
   Word Worker1;
@@ -41,8 +43,8 @@ static_assert(offsetof(Feud, Started) == 28);
 
 inline constexpr int kFeuds = 8;
 
-/// A match, an interview or an angle of the show being booked: a record of match.dat. (Its member Text hides the type
-/// of that name.)
+/// A match, an interview or an angle of the show being booked: a record of match.dat. (Its member
+/// Text hides the type of that name.)
 struct Segment {
   Percent Rating;
   Word Kind;

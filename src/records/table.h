@@ -11,7 +11,8 @@
 
 namespace grapplemont {
 
-/// A file's bytes cannot be a world's: names file, record and field where there is one, and what to do.
+/// A file's bytes cannot be a world's: names file, record and field where there is one, and what to
+/// do.
 class WorldFault : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -69,8 +70,8 @@ class TextFile : public Table {
   std::string text_;
 };
 
-/// The records of one file, numbered from 1. References stay valid across Append (room for all records a file may hold
-/// is reserved); Keep and Load move records.
+/// The records of one file, numbered from 1. References stay valid across Append (room for all
+/// records a file may hold is reserved); Keep and Load move records.
 template <class T>
 class Records : public Table {
  public:
@@ -139,7 +140,7 @@ class Records : public Table {
   }
 
   std::vector<T> records_;
-  Bytes surplus_;          // behind the last whole record; the next append overwrites it
+  Bytes surplus_;  // behind the last whole record; the next append overwrites it
   mutable Bytes joined_;
 };
 

@@ -8,8 +8,8 @@ namespace grapplemont {
 
 enum Size { kGlobal = 1, kNational, kCult, kRegional, kSmall, kBackyard };
 
-/// Worker.Position. Under 7 is the active wrestling roster; 81 to 86 is a roster position sent to the development
-/// territory.
+/// Worker.Position. Under 7 is the active wrestling roster; 81 to 86 is a roster position sent to
+/// the development territory.
 enum Position {
   kMainEvent = 1,
   kUpperMidcard,
@@ -47,16 +47,11 @@ inline constexpr Term kStatuses[] = {{0, "Nor", "Normal"},
                                      {0, "Sus", "Suspended"},
                                      {0, "Reh", "In rehab"},
                                      {0, "Hom", "Sitting out contract"}};
-inline constexpr Term kPositions[] = {{1, "", "Main Event"},
-                                      {2, "", "Upper Midcard"},
-                                      {3, "", "Midcard"},
-                                      {4, "", "Lower Midcard"},
-                                      {5, "", "Opener"},
-                                      {6, "", "Jobber"},
-                                      {7, "", "Development Deal"},
-                                      {25, "", "Non-wrestler"},
-                                      {50, "", "Manager"},
-                                      {75, "", "Training Camp"}};
+inline constexpr Term kPositions[] = {{1, "", "Main Event"},       {2, "", "Upper Midcard"},
+                                      {3, "", "Midcard"},          {4, "", "Lower Midcard"},
+                                      {5, "", "Opener"},           {6, "", "Jobber"},
+                                      {7, "", "Development Deal"}, {25, "", "Non-wrestler"},
+                                      {50, "", "Manager"},         {75, "", "Training Camp"}};
 /// The same with the postings to the development territory, which screens show as "Unknown".
 inline constexpr Term kStoredPositions[] = {{1, "", "Main Event"},
                                             {2, "", "Upper Midcard"},
@@ -76,16 +71,16 @@ inline constexpr Term kStoredPositions[] = {{1, "", "Main Event"},
                                             {86, "", "Jobber (sent to development)"}};
 inline constexpr Term kSizes[] = {{1, "", "Global"},   {2, "", "National"}, {3, "", "Cult"},
                                   {4, "", "Regional"}, {5, "", "Small"},    {6, "", "Backyard"}};
-inline constexpr Term kWeekDays[] = {
-    {1, "Monday", "Monday"},     {2, "Tuesday", "Tuesday"}, {3, "Wednesday", "Wednesday"},
-    {4, "Thursday", "Thursday"}, {5, "Friday", "Friday"},   {6, "Saturday", "Saturday"},
-    {7, "Sunday", "Sunday"}};
+inline constexpr Term kWeekDays[] = {{1, "Monday", "Monday"},       {2, "Tuesday", "Tuesday"},
+                                     {3, "Wednesday", "Wednesday"}, {4, "Thursday", "Thursday"},
+                                     {5, "Friday", "Friday"},       {6, "Saturday", "Saturday"},
+                                     {7, "Sunday", "Sunday"}};
 inline constexpr Term kCampFacilities[] = {
     {0, "", "None"}, {1, "", "Poor"}, {2, "", "Average"}, {3, "", "Good"}, {4, "", "Superb"}};
 inline constexpr Term kTimeSlots[] = {{0, "E", "Early Evening"},
-                                  {0, "P", "Prime Time"},
-                                  {0, "L", "Late Night"},
-                                  {0, "G", "Graveyard"}};
+                                      {0, "P", "Prime Time"},
+                                      {0, "L", "Late Night"},
+                                      {0, "G", "Graveyard"}};
 inline constexpr Term kEventTypes[] = {
     {1, "", "Pay-Per-View"}, {2, "", "Large"}, {3, "", "Medium"}, {4, "", "Small"}};
 inline constexpr Term kStaffPositions[] = {
@@ -96,8 +91,8 @@ inline constexpr Term kDifficulties[] = {
 inline constexpr Term kSegmentKinds[] = {
     {0, "", "Empty"}, {1, "", "Match"}, {2, "", "Interview"}, {3, "", "Angle"}};
 inline constexpr Term kIncidents[] = {
-    {0, "", "None"},           {1, "", "Backstage fight"}, {2, "", "Late for the show"},
-    {3, "", "Police matter"},  {4, "", "Rehab"},           {5, "", "Injury"},
+    {0, "", "None"},          {1, "", "Backstage fight"}, {2, "", "Late for the show"},
+    {3, "", "Police matter"}, {4, "", "Rehab"},           {5, "", "Injury"},
     {6, "", "Job offer"}};
 /// Mail options: who must be concerned for a mail to come.
 inline constexpr Term kMailOptions[] = {

@@ -77,8 +77,7 @@ bool IsOnRoster(const Worker& worker) {
 }
 
 bool IsSentAway(const Worker& worker) {
-  return worker.Position > kSentToDevelopment &&
-         worker.Position <= kSentToDevelopment + kJobber;
+  return worker.Position > kSentToDevelopment && worker.Position <= kSentToDevelopment + kJobber;
 }
 
 }  // namespace grapplemont

@@ -5,14 +5,18 @@ namespace grapplemont {
 World::World(std::unique_ptr<Draws> chance, std::unique_ptr<Draws> prose)
     : chance_(std::move(chance)), prose_(std::move(prose)) {}
 
-GameInfo& World::Game() { return const_cast<GameInfo&>(std::as_const(*this).Game()); }
+GameInfo& World::Game() {
+  return const_cast<GameInfo&>(std::as_const(*this).Game());
+}
 
 const GameInfo& World::Game() const {
   if (!HasGame()) throw WorldFault("This folder has no gameinfo.dat: no game is played in it.");
   return gameInfos_[1];
 }
 
-Promotion& World::Player() { return const_cast<Promotion&>(std::as_const(*this).Player()); }
+Promotion& World::Player() {
+  return const_cast<Promotion&>(std::as_const(*this).Player());
+}
 
 const Promotion& World::Player() const {
   const Promotion* player = FindPromotion(Game().PlayerPromotion);
@@ -24,9 +28,9 @@ const Promotion& World::Player() const {
 }
 
 std::array<Table*, World::kTables> World::Tables() {
-  return {&titles_,  &events_, &networks_,  &promotions_, &sponsors_, &stables_,
-          &staff_,   &teams_,  &shows_,     &workers_,    &gameInfos_, &news_,
-          &notes_,   &feuds_,  &segments_,  &incidents_};
+  return {&titles_, &events_, &networks_, &promotions_, &sponsors_,  &stables_,
+          &staff_,  &teams_,  &shows_,    &workers_,    &gameInfos_, &news_,
+          &notes_,  &feuds_,  &segments_, &incidents_};
 }
 
 std::array<const Table*, World::kTables> World::Tables() const {

@@ -21,16 +21,18 @@ namespace grapplemont {
 
 /// Words of the running session that no file keeps.
 struct SessionWords {
-  int ShowRating = 0;  // runs up as the sum during a show, holds its rating once it closes; cleared by the next day
+  int ShowRating = 0;  // runs up as the sum during a show, holds its rating once it closes; cleared
+                       // by the next day
   int ShowFlag = 0;    // Segments summed so far
   int StartSize = 0;   // the player's Promotion.Size as the day's stages refresh it
 };
 
-/// An open folder of the game: a table per file, and the sources of chance. Rules change records in place; what has
-/// changed since the last commit is found by comparison.
+/// An open folder of the game: a table per file, and the sources of chance. Rules change records in
+/// place; what has changed since the last commit is found by comparison.
 class World {
  public:
-  /// An empty world. Prose draws from a stream of its own, so that a new sentence never moves a result.
+  /// An empty world. Prose draws from a stream of its own, so that a new sentence never moves a
+  /// result.
   explicit World(std::unique_ptr<Draws> chance = std::make_unique<SeededDraws>(1),
                  std::unique_ptr<Draws> prose = std::make_unique<SeededDraws>(2));
 
@@ -109,7 +111,8 @@ class World {
   std::vector<FileChange> Changes() const;
   void MarkCommitted();
   void Rollback();
-  /// "Worker 17 (Bram Okafor), Morale: The value ..." for a field of this world, else the fault's own text.
+  /// "Worker 17 (Bram Okafor), Morale: The value ..." for a field of this world, else the fault's
+  /// own text.
   std::string Explain(const FieldOverflow& fault) const;
 
  private:
@@ -145,21 +148,23 @@ class World {
   std::unique_ptr<Draws> chance_, prose_;
 };
 
-/// The names of the ten files that a new game copies and the file check looks for, in their fixed order.
+/// The names of the ten files that a new game copies and the file check looks for, in their fixed
+/// order.
 inline constexpr std::array<std::string_view, 10> kDataSet = {
     "belt.dat",    "event.dat", "network.dat", "promos.dat", "sponsor.dat",
     "stables.dat", "staff.dat", "teams.dat",   "tv.dat",     "wrestler.dat"};
 
 /// The files a folder may hold and how long each may be.
 std::vector<KnownFile> KnownFiles();
-/// Reads the known files of a folder; others are left alone. Throws DiskError, and WorldFault for a file that is too
-/// long or is none (a folder, a link).
+/// Reads the known files of a folder; others are left alone. Throws DiskError, and WorldFault for a
+/// file that is too long or is none (a folder, a link).
 std::map<std::string, Bytes> ReadWorldFiles(Disk& disk, const std::string& folder);
 
 /// Every file that the world has, whole: what a slot is made of.
 std::vector<NewFile> FilesOf(const World& world);
 
-/// "Worker 17 Morale: 61, expected 60" for the first field that differs; empty when the worlds are the same.
+/// "Worker 17 Morale: 61, expected 60" for the first field that differs; empty when the worlds are
+/// the same.
 std::string FirstDifference(const World& world, const World& expected);
 
 template <class T>

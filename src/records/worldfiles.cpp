@@ -47,7 +47,8 @@ std::string RecordDifference(const RecordLayout& layout, const std::byte* record
   for (const Field& field : layout.Fields) {
     for (int i = 0; i < field.Count; ++i) {
       const auto offset = static_cast<std::size_t>(field.Offset + i * field.Stride);
-      if (std::memcmp(record + offset, expected + offset, static_cast<std::size_t>(field.Width)) == 0)
+      if (std::memcmp(record + offset, expected + offset, static_cast<std::size_t>(field.Width)) ==
+          0)
         continue;
       return std::string(layout.Name) + " " + std::to_string(number) + " " + FieldName(field, i) +
              ": " + FieldShown(field, record, i) + ", expected " + FieldShown(field, expected, i);

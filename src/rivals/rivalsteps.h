@@ -2,7 +2,8 @@
 
 #include "records/world.h"
 
-// What rival promotions do by themselves: steps of the day. Not built yet: each leaves the world as it is.
+// What rival promotions do by themselves: steps of the day. Not built yet: each leaves the world as
+// it is.
 
 namespace grapplemont {
 

@@ -24,7 +24,7 @@ DrawnFirstName DrawFirstName(World& world, const Names& names, int lastMale) {
 /// What a wrestler is built for.
 struct Build {
   char Moves;
-  Percent Worker::* Strong;
+  Percent Worker::*Strong;
   std::array<Percent Worker::*, 2> Weak;
 };
 
@@ -49,7 +49,8 @@ const Build& DrawBuild(World& world, Worker& worker) {
   return kTechnician;
 }
 
-/// What a wrestler of a tier starts with: each figure is a base and the size of a draw on top of it.
+/// What a wrestler of a tier starts with: each figure is a base and the size of a draw on top of
+/// it.
 struct Range {
   int Base;
   int Draw;
@@ -69,7 +70,9 @@ constexpr std::array<Tier, 3> kTiers = {{
     {25, kJobber, 5, {15, 20}, {0, 5}, {0, 15}, {0, 25}},
 }};
 
-int DrawIn(World& world, Range range) { return range.Base + world.RandomDraw(range.Draw); }
+int DrawIn(World& world, Range range) {
+  return range.Base + world.RandomDraw(range.Draw);
+}
 
 void CharismaBonus(Worker& worker) {
   if (worker.Charisma <= 70) return;
@@ -113,7 +116,9 @@ void DrawName(World& world, Worker& worker) {
 
 }  // namespace
 
-std::string_view RandomSurname(World& world) { return DrawFrom(world, Surnames); }
+std::string_view RandomSurname(World& world) {
+  return DrawFrom(world, Surnames);
+}
 
 DrawnFirstName RandomWorkerFirstName(World& world) {
   return DrawFirstName(world, WorkerFirstNames, kLastMaleWorkerFirstName);

@@ -18,8 +18,8 @@ struct DrawnFirstName {
 std::string_view RandomSurname(World& world);
 DrawnFirstName RandomWorkerFirstName(World& world);
 DrawnFirstName RandomStaffFirstName(World& world);
-/// One draw over the moves of a kind, 'B' brawling, 'T' technical or 'S' speed; names the finisher of slot 1 or 2 and
-/// sets how it is done.
+/// One draw over the moves of a kind, 'B' brawling, 'T' technical or 'S' speed; names the finisher
+/// of slot 1 or 2 and sets how it is done.
 void RandomMove(World& world, Worker& worker, char kind, int slot);
 
 enum class Generation { Filler, Rookie };  // a rookie is 19 to 22

@@ -8,18 +8,19 @@ class frmCredits : public ui::Screen {
  public:
   explicit frmCredits(Game& game) : Screen(game.Desk(), "frmCredits", "Credits", ui::Role::Cover) {
     using Style = ui::Report::Style;
-    rptcredits.Write({{Style::Heading, "Grapplemont"},
-                      {Style::Body, "Made by the people of the Grapplemont project."},
-                      {Style::Strong, "The rules, the records, the screens, the prose, the pictures"},
-                      {Style::Body, "Written and drawn for this game, every line."},
-                      {Style::Strong, "The world"},
-                      {Style::Body,
-                       "Every promotion, worker, network and sponsor is invented. The people who "
-                       "invented them apologise to nobody."},
-                      {Style::Strong, "Thanks"},
-                      {Style::Body,
-                       "To everybody who has ever taken a fall on a hard canvas so that somebody "
-                       "else looked good."}});
+    rptcredits.Write(
+        {{Style::Heading, "Grapplemont"},
+         {Style::Body, "Made by the people of the Grapplemont project."},
+         {Style::Strong, "The rules, the records, the screens, the prose, the pictures"},
+         {Style::Body, "Written and drawn for this game, every line."},
+         {Style::Strong, "The world"},
+         {Style::Body,
+          "Every promotion, worker, network and sponsor is invented. The people who "
+          "invented them apologise to nobody."},
+         {Style::Strong, "Thanks"},
+         {Style::Body,
+          "To everybody who has ever taken a fall on a hard canvas so that somebody "
+          "else looked good."}});
   }
 
   ui::Page Layout() override {
@@ -46,14 +47,16 @@ class frmCreditsXtra : public ui::Screen {
   explicit frmCreditsXtra(Game& game)
       : Screen(game.Desk(), "frmCreditsXtra", "Other Credits", ui::Role::Cover) {
     using Style = ui::Report::Style;
-    rptcredits.Write(
-        {{Style::Strong, "Built with"},
-         {Style::Body, "Qt (the window), GoogleTest and Google Benchmark (the proof), and the "
-                       "compilers and libraries of Debian, by their many authors, each under its own free licence."},
-         {Style::Strong, "Lettering"},
-         {Style::Body, "Inter by Rasmus Andersson, where it is installed."},
-         {Style::Strong, "Licence"},
-         {Style::Body, "Grapplemont is free software under the GNU General Public License, version "
+    rptcredits.Write({{Style::Strong, "Built with"},
+                      {Style::Body,
+                       "Qt (the window), GoogleTest and Google Benchmark (the proof), and the "
+                       "compilers and libraries of Debian, by their many authors, each under its "
+                       "own free licence."},
+                      {Style::Strong, "Lettering"},
+                      {Style::Body, "Inter by Rasmus Andersson, where it is installed."},
+                      {Style::Strong, "Licence"},
+                      {Style::Body,
+                       "Grapplemont is free software under the GNU General Public License, version "
                        "3 or later. It comes without any warranty, as does wrestling."}});
   }
 

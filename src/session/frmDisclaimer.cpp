@@ -70,7 +70,8 @@ class frmDisclaimer : public ui::Screen {
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Label lblstatement{
       *this, "lblstatement",
-      "Grapplemont is a game about running a wrestling promotion. It is free, and it is unofficial: "
+      "Grapplemont is a game about running a wrestling promotion. It is free, and it is "
+      "unofficial: "
       "it has no connection with any promotion, network, sponsor or person of the real "
       "world.\n\nEverybody and everything you are about to meet is made up. Should a name, a "
       "slogan or a moustache remind you of somebody, that is chance, or wrestling.\n\nThe world "
@@ -79,8 +80,7 @@ class frmDisclaimer : public ui::Screen {
   ui::Array<ui::Label> lblfiles{"lblfiles", static_cast<int>(kDataSet.size()),
                                 [this](const std::string&, int i) {
                                   return std::make_unique<ui::Label>(
-                                      *this,
-                                      LabelName(kDataSet[static_cast<std::size_t>(i - 1)]));
+                                      *this, LabelName(kDataSet[static_cast<std::size_t>(i - 1)]));
                                 }};
   ui::Label lblverdict{*this, "lblverdict"};
   ui::Button cmdquit{*this, "cmdquit", "Quit", &frmDisclaimer::cmdquit_Click};

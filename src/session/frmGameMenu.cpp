@@ -16,7 +16,8 @@ class frmGameMenu : public ui::Screen {
     ui::Page page;
     page.Main = &cmdnewgame;
     page.Cancel = &cmdquit;
-    page.Body = ui::Rows({ui::Grow(imgtitle), cmdnewgame, cmdloadgame, cmdeditor, cmdcredits, cmdquit});
+    page.Body =
+        ui::Rows({ui::Grow(imgtitle), cmdnewgame, cmdloadgame, cmdeditor, cmdcredits, cmdquit});
     return page;
   }
 

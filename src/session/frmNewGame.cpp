@@ -40,8 +40,9 @@ class frmNewGame : public ui::Screen {
     page.Body = ui::Columns(
         {ui::Rows({ui::Group("You", {ui::Field("Name", txtname), ui::Field("Promotion", cmbPromo),
                                      ui::Field("Difficulty", cmbdifficulty)}),
-                   ui::Group("The promotion", {ui::Field("Size", lblsize), ui::Field("Image", lblimage),
-                                               ui::Field("Money", lblmoney), ui::Field("Owner", lblowner)}),
+                   ui::Group("The promotion",
+                             {ui::Field("Size", lblsize), ui::Field("Image", lblimage),
+                              ui::Field("Money", lblmoney), ui::Field("Owner", lblowner)}),
                    ui::Spacer()})
              .Grow(2),
          ui::Rows({ui::Group("Television", {ui::Grow(lstshows)}).Grow(1),
@@ -114,7 +115,8 @@ class frmNewGame : public ui::Screen {
     std::vector<const Worker*> roster;
     for (const Worker& worker : world_.Workers())
       if (worker.Employer == promotion.Uid) roster.push_back(&worker);
-    std::stable_sort(roster.begin(), roster.end(), [](auto* a, auto* b) { return a->Over > b->Over; });
+    std::stable_sort(roster.begin(), roster.end(),
+                     [](auto* a, auto* b) { return a->Over > b->Over; });
     lstroster.Clear();
     for (const Worker* worker : roster)
       lstroster.Add({worker->Name + RoleSuffix(*worker), PositionText(worker->Position),
@@ -165,6 +167,8 @@ void frmNewGame::cmdbegin_Click() {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmNewGame(Game& game) { return std::make_unique<frmNewGame>(game); }
+std::unique_ptr<ui::Screen> MakefrmNewGame(Game& game) {
+  return std::make_unique<frmNewGame>(game);
+}
 
 }  // namespace grapplemont

@@ -22,7 +22,8 @@ class frmPickSaveSlot : public ui::Screen {
     std::vector<ui::Box> rows;
     for (int slot = 1; slot <= kSlots; ++slot)
       rows.push_back(ui::Columns({ui::Grow(cmdload(slot), 2), ui::Grow(lbldetails(slot), 3)}));
-    page.Body = ui::Rows({ui::Group("Where is the game to be kept?", std::move(rows)), ui::Spacer()});
+    page.Body =
+        ui::Rows({ui::Group("Where is the game to be kept?", std::move(rows)), ui::Spacer()});
     return page;
   }
 

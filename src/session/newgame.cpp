@@ -49,7 +49,7 @@ void NewGameInfo(World& world, const NewGameChoice& choice) {
   game.StartDate = choice.Start;
   game.Jobs[0].Started = choice.Start;
   game.Reputation = 80;
-  for (Word GameInfo::* option :
+  for (Word GameInfo::*option :
        {&GameInfo::MailOwners, &GameInfo::MailWorkerHire, &GameInfo::MailWorkerFire,
         &GameInfo::MailStaffHire, &GameInfo::MailStaffFire, &GameInfo::MailTv,
         &GameInfo::MailRetirement, &GameInfo::MailOtherFed, &GameInfo::MailSponsor,
@@ -80,7 +80,8 @@ void RememberJob(World& world, const Promotion& promotion) {
 
 void StartPromotion(World& world, Promotion& promotion) {
   const bool isPlayer = promotion.Uid == world.PlayerUid();
-  const auto& spend = kStartingSpend[static_cast<std::size_t>(std::clamp<int>(promotion.Size, 1, 6) - 1)];
+  const auto& spend =
+      kStartingSpend[static_cast<std::size_t>(std::clamp<int>(promotion.Size, 1, 6) - 1)];
   if (isPlayer) {
     RememberJob(world, promotion);
   } else {
@@ -225,8 +226,8 @@ struct Preparation {
   void (*Run)(World&);
 };
 
-// In this order: contracts are drawn before fillers are made, so that fillers have none, and titles are told by the
-// names of teams that stand.
+// In this order: contracts are drawn before fillers are made, so that fillers have none, and titles
+// are told by the names of teams that stand.
 constexpr Preparation kPreparations[] = {
     {"Promotions", StartPromotions}, {"Challenge", MaybeChallenge}, {"Workers", StartWorkers},
     {"New workers", FillWorkers},    {"Staff", StartStaff},         {"New staff", FillStaff},
@@ -236,7 +237,9 @@ constexpr Preparation kPreparations[] = {
 
 }  // namespace
 
-int WorkerTarget(int promotions) { return std::min(promotions * 50, 750); }
+int WorkerTarget(int promotions) {
+  return std::min(promotions * 50, 750);
+}
 
 int StaffTarget(int position, int promotions) {
   if (position == kOwner) return kOwners;

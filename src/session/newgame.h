@@ -19,12 +19,14 @@ struct NewGameChoice {
   std::string SaveName;
 };
 
-/// Turns a world of default data into a fresh game: its contracts, conditions, made-up people, the first mail. Requires
-/// a promotion of that uid. Gives what the clean-up of the data had to mend. `watcher` hears each step's name.
+/// Turns a world of default data into a fresh game: its contracts, conditions, made-up people, the
+/// first mail. Requires a promotion of that uid. Gives what the clean-up of the data had to mend.
+/// `watcher` hears each step's name.
 std::vector<Fault> NewGame(World& world, const NewGameChoice& choice,
                            const std::function<void(std::string_view)>& watcher = {});
 
-/// How many workers and how many staff of a post a new world has at least, by its count of promotions.
+/// How many workers and how many staff of a post a new world has at least, by its count of
+/// promotions.
 int WorkerTarget(int promotions);
 int StaffTarget(int position, int promotions);
 

@@ -7,9 +7,9 @@ std::vector<std::string> WaitingPictures(Disk& disk, const std::string& pictureF
   const int most = set == 0 ? 4 : 10;
   for (int i = 1; i <= most; ++i) {
     const std::string number = std::to_string(i);
-    const std::string file = set == 0 ? "VXM_load" + number + ".jpg"
-                                      : "VXM_Set" + std::to_string(set) + "_" +
-                                            (i < 10 ? "0" : "") + number + ".jpg";
+    const std::string file =
+        set == 0 ? "VXM_load" + number + ".jpg"
+                 : "VXM_Set" + std::to_string(set) + "_" + (i < 10 ? "0" : "") + number + ".jpg";
     if (disk.Look(pictureFolder + "/" + file) == Disk::Kind::File) pictures.push_back(file);
   }
   return pictures;

@@ -50,7 +50,8 @@ std::string FirstColumn(const ListBox& list, int row) {
 
 void Choose(Screen& screen, OptionButton& chosen) {
   for (Control* control : screen.Controls())
-    if (auto* option = dynamic_cast<OptionButton*>(control); option && option->Group == chosen.Group)
+    if (auto* option = dynamic_cast<OptionButton*>(control);
+        option && option->Group == chosen.Group)
       option->Checked = option == &chosen;
 }
 
@@ -98,8 +99,7 @@ std::string Pick(Desk& desk, Screen& screen, std::string_view name, std::string_
     combo->Select(row);
     desk.Event(combo->OnPick);
   } else if (auto* list = dynamic_cast<ListBox*>(control)) {
-    const int row =
-        FindRow(rowOrText, list->Count(), [&](int r) { return FirstColumn(*list, r); });
+    const int row = FindRow(rowOrText, list->Count(), [&](int r) { return FirstColumn(*list, r); });
     if (row == 0) return NoRow(*list, rowOrText);
     list->Multi ? list->Toggle(row) : list->Select(row);
     desk.Event(list->OnPick);
@@ -109,8 +109,7 @@ std::string Pick(Desk& desk, Screen& screen, std::string_view name, std::string_
   return {};
 }
 
-std::string OpenRow(Desk& desk, Screen& screen, std::string_view name,
-                    std::string_view rowOrText) {
+std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText) {
   std::string why;
   Control* control = Reach(screen, name, why);
   if (!control) return why;

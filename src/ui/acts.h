@@ -5,8 +5,8 @@
 
 #include "ui/desk.h"
 
-// What a player can do to the controls of a screen, by name. Every shell and every test goes this way. Each gives an
-// empty text, or why it cannot be done; then nothing has changed.
+// What a player can do to the controls of a screen, by name. Every shell and every test goes this
+// way. Each gives an empty text, or why it cannot be done; then nothing has changed.
 
 namespace grapplemont::ui {
 

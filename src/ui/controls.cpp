@@ -19,7 +19,9 @@ Control::Control(Screen& screen, std::string name, Kind kind, std::string text)
   screen_.controls_.push_back(this);
 }
 
-Control::~Control() { std::erase(screen_.controls_, this); }
+Control::~Control() {
+  std::erase(screen_.controls_, this);
+}
 
 Label::Label(Screen& screen, std::string name, std::string text)
     : Control(screen, std::move(name), Kind::Label, std::move(text)) {}
@@ -37,8 +39,8 @@ CheckBox::CheckBox(Screen& screen, std::string name, std::string caption, bool c
       Checked(Changes(), checked),
       OnClick(std::move(click)) {}
 
-OptionButton::OptionButton(Screen& screen, std::string name, std::string caption,
-                           std::string group, bool checked, Handler click)
+OptionButton::OptionButton(Screen& screen, std::string name, std::string caption, std::string group,
+                           bool checked, Handler click)
     : Control(screen, std::move(name), Kind::OptionButton, std::move(caption)),
       Checked(Changes(), checked),
       Group(std::move(group)),
@@ -72,7 +74,9 @@ void ComboBox::Add(std::string text, int key) {
   ++Changes();
 }
 
-int ComboBox::Key() const { return KeyOf(selected_); }
+int ComboBox::Key() const {
+  return KeyOf(selected_);
+}
 
 int ComboBox::KeyOf(int row) const {
   return row < 1 || row > Count() ? 0 : keys_[static_cast<std::size_t>(row - 1)];
@@ -92,8 +96,7 @@ void ComboBox::SelectKey(int key) {
 Chart::Chart(Screen& screen, std::string name, bool bars)
     : Control(screen, std::move(name), Kind::Chart), Bars(bars) {}
 
-Report::Report(Screen& screen, std::string name)
-    : Control(screen, std::move(name), Kind::Report) {}
+Report::Report(Screen& screen, std::string name) : Control(screen, std::move(name), Kind::Report) {}
 
 void Report::Write(std::vector<Paragraph> paragraphs) {
   paragraphs_ = std::move(paragraphs);

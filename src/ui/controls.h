@@ -8,8 +8,8 @@
 
 #include "ui/property.h"
 
-// The controls of a screen: values that a shell shows and a player works. They know no toolkit. A screen sets them
-// freely; what the player does comes through acts.h and runs the handlers.
+// The controls of a screen: values that a shell shows and a player works. They know no toolkit. A
+// screen sets them freely; what the player does comes through acts.h and runs the handlers.
 
 namespace grapplemont::ui {
 
@@ -176,7 +176,7 @@ enum class ColumnKind {
 struct Column {
   std::string Title;
   ColumnKind Kind = ColumnKind::Text;
-  int Width = 0;        // share of the width; 0: by contents
+  int Width = 0;  // share of the width; 0: by contents
   std::string Tip = {};
 };
 
@@ -221,8 +221,8 @@ class ListBox : public Control {
   /// Puts other rows in; the selection stays on the same key when `keepSelection`.
   void Fill(std::vector<Row> rows, bool keepSelection = true);
   int Count() const { return static_cast<int>(rows_.size()); }
-  int Selected() const;        // the first selected row, from 1; 0 none
-  int Key() const;             // its key; 0 none
+  int Selected() const;           // the first selected row, from 1; 0 none
+  int Key() const;                // its key; 0 none
   std::vector<int> Keys() const;  // of all selected rows
   /// Selects one row alone (0 none) without telling the handler.
   void Select(int row);
@@ -276,7 +276,8 @@ class Report : public Control {
 template <class C>
 class Array {
  public:
-  /// Makes `count` controls named NAME(1) to NAME(count); `make` takes the full name and the index from 1.
+  /// Makes `count` controls named NAME(1) to NAME(count); `make` takes the full name and the index
+  /// from 1.
   template <class Make>
   Array(const std::string& name, int count, Make make) {
     for (int i = 1; i <= count; ++i)

@@ -12,7 +12,9 @@ void Desk::Register(std::string name, Factory make) {
   factories_.insert_or_assign(std::move(name), std::move(make));
 }
 
-bool Desk::Knows(std::string_view name) const { return factories_.contains(name); }
+bool Desk::Knows(std::string_view name) const {
+  return factories_.contains(name);
+}
 
 void Desk::Open(std::string_view name) {
   const auto found = factories_.find(name);

@@ -13,7 +13,8 @@ namespace grapplemont::ui {
 
 enum class Default { Yes, No };
 
-/// What an event is a transaction of. Commit and Rollback bring the world to a committed state or throw.
+/// What an event is a transaction of. Commit and Rollback bring the world to a committed state or
+/// throw.
 class Work {
  public:
   virtual ~Work() = default;
@@ -23,8 +24,8 @@ class Work {
   virtual std::string Explain(const std::exception& fault) const = 0;
 };
 
-/// The table on which screens and boxes lie. A shell derives from it and shows them. Screens lie in a stack; the top
-/// one has the player's attention.
+/// The table on which screens and boxes lie. A shell derives from it and shows them. Screens lie in
+/// a stack; the top one has the player's attention.
 class Desk {
  public:
   using Factory = std::function<std::unique_ptr<Screen>()>;
@@ -57,8 +58,8 @@ class Desk {
   const std::vector<std::shared_ptr<Screen>>& Screens() const { return screens_; }
   bool Holds(const Screen& screen) const;
 
-  /// Runs a handler as one transaction: when the outermost one returns, Work commits; when it throws, Work and the
-  /// stack of screens go back to where they were and the player reads why.
+  /// Runs a handler as one transaction: when the outermost one returns, Work commits; when it
+  /// throws, Work and the stack of screens go back to where they were and the player reads why.
   void Event(const Handler& handler);
   void SetWork(Work* work) { work_ = work; }
 

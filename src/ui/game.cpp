@@ -10,7 +10,9 @@ Game::Game(ui::Desk& desk, grapplemont::Disk& disk, Options options)
   desk_.SetWork(this);
 }
 
-Game::~Game() { desk_.SetWork(nullptr); }
+Game::~Game() {
+  desk_.SetWork(nullptr);
+}
 
 std::unique_ptr<Draws> Game::NewDraws(std::uint64_t stream) {
   return std::make_unique<SeededDraws>(options_.Seed ? *options_.Seed + stream : MachineSeed());

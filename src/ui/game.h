@@ -16,12 +16,12 @@ namespace grapplemont {
 class Slot;
 class World;
 
-/// The running program: its desk, its disk, its home folder, and the slot that is open. Every event of the desk is a
-/// commit of the open slot.
+/// The running program: its desk, its disk, its home folder, and the slot that is open. Every event
+/// of the desk is a commit of the open slot.
 class Game : public ui::Work {
  public:
   struct Options {
-    std::string Home = ".";             // holds data/, gfx/ and s1/ to s8/
+    std::string Home = ".";  // holds data/, gfx/ and s1/ to s8/
     Clock Today = MachineToday;
     std::optional<std::uint64_t> Seed;  // none: from the operating system
   };
@@ -36,16 +36,19 @@ class Game : public ui::Work {
   /// "s1" to "s8" in the home.
   std::string SlotFolder(int slot) const { return Path("s" + std::to_string(slot)); }
   Day PresentDay() const { return options_.Today(); }
-  /// A source of chance for a world: from the seed if one was given, else from the operating system.
+  /// A source of chance for a world: from the seed if one was given, else from the operating
+  /// system.
   std::unique_ptr<Draws> NewDraws(std::uint64_t stream = 0);
 
   /// A number that no other world has, for a slot that is made.
   std::uint64_t NewWorldId();
 
-  /// How the main screen ends a day; booking sheets and shows end in it. Set when the main screen is registered.
+  /// How the main screen ends a day; booking sheets and shows end in it. Set when the main screen
+  /// is registered.
   std::function<void(bool cancelled)> AdvanceDay;
 
-  /// Makes the slot's world the open one. Throws SlotBusy, SlotDamaged, DiskError or WorldFault; then none is open.
+  /// Makes the slot's world the open one. Throws SlotBusy, SlotDamaged, DiskError or WorldFault;
+  /// then none is open.
   void OpenSlot(int slot);
   /// Brings the open world's files up to date and lets go of it.
   void CloseSlot();

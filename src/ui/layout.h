@@ -12,10 +12,10 @@ namespace grapplemont::ui {
 struct Box {
   enum class Kind { Item, Field, Rows, Columns, Group, Tabs, Spacer };
   Kind Is = Kind::Spacer;
-  std::string Title = {};       // a Field's label, a Group's or a tab's heading
-  Control* Shown = nullptr;     // an Item's or a Field's control
+  std::string Title = {};    // a Field's label, a Group's or a tab's heading
+  Control* Shown = nullptr;  // an Item's or a Field's control
   std::vector<Box> Parts = {};
-  int Stretch = 0;              // share of the room left over; 0 takes what it needs
+  int Stretch = 0;  // share of the room left over; 0 takes what it needs
 
   Box() = default;
   Box(Control& control) : Is(Kind::Item), Shown(&control) {}
@@ -28,14 +28,20 @@ struct Box {
   }
 };
 
-inline Box Rows(std::vector<Box> parts) { return {Box::Kind::Rows, {}, std::move(parts)}; }
-inline Box Columns(std::vector<Box> parts) { return {Box::Kind::Columns, {}, std::move(parts)}; }
+inline Box Rows(std::vector<Box> parts) {
+  return {Box::Kind::Rows, {}, std::move(parts)};
+}
+inline Box Columns(std::vector<Box> parts) {
+  return {Box::Kind::Columns, {}, std::move(parts)};
+}
 /// A card with a heading (may be empty).
 inline Box Group(std::string title, std::vector<Box> parts) {
   return {Box::Kind::Group, std::move(title), std::move(parts)};
 }
 /// Each part is a Group whose title names its tab.
-inline Box Tabs(std::vector<Box> parts) { return {Box::Kind::Tabs, {}, std::move(parts)}; }
+inline Box Tabs(std::vector<Box> parts) {
+  return {Box::Kind::Tabs, {}, std::move(parts)};
+}
 /// A control with its label.
 inline Box Field(std::string label, Control& control) {
   Box box(control);
@@ -43,8 +49,12 @@ inline Box Field(std::string label, Control& control) {
   box.Title = std::move(label);
   return box;
 }
-inline Box Grow(Control& control, int share = 1) { return Box(control).Grow(share); }
-inline Box Spacer() { return {}; }
+inline Box Grow(Control& control, int share = 1) {
+  return Box(control).Grow(share);
+}
+inline Box Spacer() {
+  return {};
+}
 
 /// A group of the hub's commands in the side bar.
 struct SideGroup {
@@ -56,8 +66,9 @@ struct SideGroup {
   std::vector<Command> Commands;
 };
 
-/// A screen's arrangement. Facts is the line under the title. Actions stand right of the title, in order; Main is
-/// gold, stands last and is what Enter does; Cancel is what Escape does. Main and Cancel need not be among Actions.
+/// A screen's arrangement. Facts is the line under the title. Actions stand right of the title, in
+/// order; Main is gold, stands last and is what Enter does; Cancel is what Escape does. Main and
+/// Cancel need not be among Actions.
 struct Page {
   Label* Facts = nullptr;
   std::vector<Button*> Actions = {};

@@ -19,6 +19,8 @@ Control* Screen::Find(std::string_view name) const {
   return found == controls_.end() ? nullptr : *found;
 }
 
-void Screen::Close() { desk_.Close(*this); }
+void Screen::Close() {
+  desk_.Close(*this);
+}
 
 }  // namespace grapplemont::ui

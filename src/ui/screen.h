@@ -12,8 +12,9 @@ namespace grapplemont::ui {
 
 class Desk;
 
-/// What a shell makes of a screen: Cover fills the window (title, menu); the Hub gives side bar and top bar; a Page
-/// fills the room beside them; a Dialog stands over what is below it; Wait takes no input.
+/// What a shell makes of a screen: Cover fills the window (title, menu); the Hub gives side bar and
+/// top bar; a Page fills the room beside them; a Dialog stands over what is below it; Wait takes no
+/// input.
 enum class Role { Cover, Hub, Page, Dialog, Wait };
 
 /// A window of the program: its controls are its members, its handlers ask rules and show answers.
@@ -31,7 +32,8 @@ class Screen {
   virtual Page Layout() = 0;
   /// Runs once, when the screen has come to the top for the first time.
   virtual void Load() {}
-  /// Runs when a screen above it has closed, and when an event was taken back: shows the world as it is.
+  /// Runs when a screen above it has closed, and when an event was taken back: shows the world as
+  /// it is.
   virtual void Return() {}
 
   /// In the order of their members; nullptr for an unknown name.

@@ -7,8 +7,8 @@
 
 namespace grapplemont {
 
-/// Puts the waiting screen up and tells on it what is going on. A handler that throws takes it down with all else that
-/// it opened.
+/// Puts the waiting screen up and tells on it what is going on. A handler that throws takes it down
+/// with all else that it opened.
 class Waiting {
  public:
   explicit Waiting(Game& game);

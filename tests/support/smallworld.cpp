@@ -375,7 +375,7 @@ int SmallWorld::WorkerUid(std::string_view name) const {
   return Named(world_.Workers(), name).Uid;
 }
 
-std::map<std::string, Bytes> FilesOf(const World& world) {
+std::map<std::string, Bytes> BytesOf(const World& world) {
   std::map<std::string, Bytes> files;
   for (const Table* table : world.Tables())
     if (table->Exists())
@@ -385,7 +385,7 @@ std::map<std::string, Bytes> FilesOf(const World& world) {
 
 World CopyOf(const World& world) {
   World copy;
-  copy.Load(FilesOf(world));
+  copy.Load(BytesOf(world));
   copy.Session = world.Session;
   return copy;
 }

@@ -112,7 +112,7 @@ auto& Named(R& records, std::string_view name) {
 }
 
 /// All bytes of a world, as a folder would hold them.
-std::map<std::string, Bytes> FilesOf(const World& world);
+std::map<std::string, Bytes> BytesOf(const World& world);
 /// A second world of the same bytes, for a comparison later.
 World CopyOf(const World& world);
 /// Fails the test with the first record and field in which the worlds differ.

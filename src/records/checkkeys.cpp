@@ -1,0 +1,141 @@
+#include <cstring>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "records/checkrules.h"
+
+// What records are known by is there and stands once.
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kHighestUid = 32767;
+
+/// Numbers for records whose own is none or taken: behind the highest, in gaps when there is
+/// nothing behind it.
+class FreeUids {
+ public:
+  template <class T>
+  explicit FreeUids(const Records<T>& records) {
+    for (const T& record : records) {
+      taken_.insert(record.Uid);
+      highest_ = std::max<int>(highest_, record.Uid);
+    }
+  }
+  int Take() {
+    int uid = highest_ + 1;
+    if (uid > kHighestUid) {
+      uid = 1;
+      while (taken_.contains(uid)) ++uid;
+    }
+    taken_.insert(uid);
+    highest_ = std::max(highest_, uid);
+    return uid;
+  }
+
+ private:
+  std::unordered_set<int> taken_;
+  int highest_ = 0;
+};
+
+template <class T>
+void InspectUids(Inspection& inspection, Records<T>& records) {
+  std::unordered_map<int, int> firstWith;
+  FreeUids free(records);
+  Removal<T> removal(records);
+  for (T& record : records) {
+    const int number = records.NumberOf(record);
+    const int uid = record.Uid;
+    const auto renumber = [&] {
+      const int fresh = free.Take();
+      return Remedy{"made " + std::to_string(fresh), [&record, fresh] { record.Uid = fresh; }};
+    };
+    if (uid < 1) {
+      inspection.Note(records, record, "Uid", "is " + std::to_string(uid) + ", no number from 1 up",
+                      renumber());
+      continue;
+    }
+    const auto [first, isFirst] = firstWith.try_emplace(uid, number);
+    if (isFirst) continue;
+    const T& other = records[first->second];
+    const std::string where = "record " + std::to_string(first->second);
+    if (other.Name == record.Name)
+      inspection.Note(records, record, "", "is the double of " + where, removal.Of(record));
+    else
+      inspection.Note(records, record, "Uid",
+                      "is " + std::to_string(uid) + ", which " + where + " has too", renumber());
+  }
+  removal.Apply();
+}
+
+/// "Bram Okafor 2" for the second of a name, cut to its field.
+std::string Numbered(std::string_view name, int number, int width) {
+  const std::string behind = (width > 6 && !name.empty() ? " " : "") + std::to_string(number);
+  return std::string(
+             detail::Trimmed(name.substr(0, static_cast<std::size_t>(width) - behind.size()))) +
+         behind;
+}
+
+template <class T>
+void InspectNames(Inspection& inspection, Records<T>& records, const Field& field) {
+  std::unordered_map<std::string, int> firstWith;
+  for (const T& record : records) {
+    const auto* bytes = reinterpret_cast<const std::byte*>(&record);
+    firstWith.try_emplace(std::string(FieldText(field, bytes)), records.NumberOf(record));
+  }
+  for (T& record : records) {
+    const Place place{LayoutOf<T>(), records.NumberOf(record),
+                      reinterpret_cast<std::byte*>(&record)};
+    const std::string name(FieldText(field, place.Record));
+    const int first = firstWith.at(name);
+    if (name == kToBeDeleted || (!name.empty() && first == place.Number)) continue;
+    std::string fresh;
+    const std::string stem = name.empty() ? std::string(LayoutOf<T>().Name) : name;
+    for (int n = name.empty() ? place.Number : 2; fresh.empty() || firstWith.contains(fresh); ++n)
+      fresh = Numbered(stem, n, field.Width);
+    firstWith.emplace(fresh, place.Number);
+    inspection.NoteField(
+        place, field.Name,
+        name.empty() ? "is empty" : "is \"" + name + "\" as in record " + std::to_string(first),
+        {"made \"" + fresh + "\"", [&] { SetFieldText(field, place.Record, 0, fresh); }});
+  }
+}
+
+template <class T>
+void InspectKeys(Inspection& inspection, Records<T>& records) {
+  if constexpr (requires(T & record) {
+                  record.Uid;
+                  record.Name;
+                })
+    InspectUids(inspection, records);
+  for (const Field& field : LayoutOf<T>().Fields)
+    if (field.IsKey && field.Kind == FieldKind::Text) InspectNames(inspection, records, field);
+}
+
+}  // namespace
+
+void NoRecordStandsTwice(Inspection& inspection) {
+  ForEachFile(inspection, [&]<class T>(Records<T>& records) {
+    if constexpr (!requires(T & record) { record.Uid; }) {
+      std::unordered_map<std::string_view, int> firstLike;
+      Removal<T> removal(records);
+      for (T& record : records) {
+        const std::string_view bytes(reinterpret_cast<const char*>(&record), sizeof(T));
+        const auto [first, isFirst] = firstLike.try_emplace(bytes, records.NumberOf(record));
+        if (!isFirst)
+          inspection.Note(records, record, "",
+                          "is the double of record " + std::to_string(first->second),
+                          removal.Of(record));
+      }
+      removal.Apply();
+    }
+  });
+}
+
+void KeysAreUnique(Inspection& inspection) {
+  ForEachFile(inspection, [&](auto& records) { InspectKeys(inspection, records); });
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,202 @@
+#include "records/fields.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "records/dates.h"
+
+namespace grapplemont {
+namespace {
+
+using namespace std::string_literals;
+
+/// The bytes of a field, for all to see.
+template <class T>
+std::string BytesOf(const T& field) {
+  return std::string(reinterpret_cast<const char*>(&field), sizeof field);
+}
+
+template <class T>
+T FromBytes(const std::string& bytes) {
+  T field;
+  std::memcpy(static_cast<void*>(&field), bytes.data(), sizeof field);
+  return field;
+}
+
+TEST(Word, StoresLittleEndianWithItsSign) {
+  const struct {
+    int Value;
+    std::string Bytes;
+  } rows[] = {{0, "\0\0"s},     {1, "\x01\0"s},    {-1, "\xFF\xFF"s},    {255, "\xFF\0"s},
+              {256, "\0\x01"s}, {-256, "\0\xFF"s}, {32767, "\xFF\x7F"s}, {-32768, "\0\x80"s}};
+  for (const auto& row : rows) {
+    const Word word(row.Value);
+    EXPECT_EQ(row.Bytes, BytesOf(word)) << row.Value;
+    EXPECT_EQ(row.Value, FromBytes<Word>(row.Bytes));
+  }
+}
+
+TEST(Word, RefusesWhatDoesNotFitAndKeepsItsValue) {
+  for (const long long value : {32768LL, -32769LL, 65535LL, 1LL << 40}) {
+    Word word(7);
+    try {
+      word = value;
+      ADD_FAILURE() << value << " was taken";
+    } catch (const FieldOverflow& fault) {
+      EXPECT_EQ(value, fault.Value());
+      EXPECT_EQ(&word, fault.Field());
+      EXPECT_NE(std::string::npos, std::string(fault.what()).find(std::to_string(value)));
+    }
+    EXPECT_EQ(7, word);
+  }
+}
+
+TEST(Word, StepsUpToItsLimitsAndNoFurther) {
+  Word word(32766);
+  ++word;
+  EXPECT_EQ(32767, word);
+  EXPECT_THROW(++word, FieldOverflow);
+  EXPECT_THROW(word += 1, FieldOverflow);
+  EXPECT_EQ(32767, word);
+  word = -32767;
+  --word;
+  EXPECT_EQ(-32768, word);
+  EXPECT_THROW(--word, FieldOverflow);
+  EXPECT_THROW(word -= 1, FieldOverflow);
+  EXPECT_EQ(-32768, word);
+  word += 65535;
+  EXPECT_EQ(32767, word);
+}
+
+TEST(Long, HoldsThirtyTwoBitsOfDollars) {
+  EXPECT_EQ("\x80\x3D\xCD\xFF"s, BytesOf(Long(-3326592)));
+  Long money(2147483647);
+  EXPECT_EQ("\xFF\xFF\xFF\x7F"s, BytesOf(money));
+  EXPECT_THROW(money += 1, FieldOverflow);
+  EXPECT_THROW(money = 1LL << 60, FieldOverflow);
+  EXPECT_EQ(2147483647, money);
+  money = -2147483648LL;
+  EXPECT_THROW(money -= 1, FieldOverflow);
+  EXPECT_EQ("\0\0\0\x80"s, BytesOf(money));
+}
+
+TEST(Percent, SaturatesWhatIsStoredAndReadsWhatIsThere) {
+  const struct {
+    long long Stored;
+    int Read;
+  } rows[] = {{0, 0}, {100, 100}, {101, 100}, {-1, 0}, {1LL << 40, 100}, {-(1LL << 40), 0}};
+  for (const auto& row : rows) {
+    Percent percent;
+    percent = row.Stored;
+    EXPECT_EQ(row.Read, percent) << row.Stored;
+  }
+  Percent percent = FromBytes<Percent>("\x8C\0"s);
+  EXPECT_EQ(140, percent);
+  percent += 0;
+  EXPECT_EQ(100, percent);
+  percent -= 250;
+  EXPECT_EQ(0, percent);
+}
+
+TEST(Flag, WritesMinusOneAndReadsAnyBit) {
+  EXPECT_EQ("\xFF\xFF"s, BytesOf(Flag(true)));
+  EXPECT_EQ("\0\0"s, BytesOf(Flag(false)));
+  for (const std::string& bytes : {"\x01\0"s, "\0\x01"s, "\xFF\xFF"s, "\0\x80"s})
+    EXPECT_TRUE(FromBytes<Flag>(bytes));
+  Flag flag = FromBytes<Flag>("\x05\0"s);
+  EXPECT_EQ(5, flag.Raw());
+  flag = true;
+  EXPECT_EQ(-1, flag.Raw());
+}
+
+TEST(Date, CountsDaysFromTheEndOf1899) {
+  using namespace std::chrono;
+  const struct {
+    Day When;
+    double Days;
+  } rows[] = {{year{1899} / 12 / 30, 0},    {year{1899} / 12 / 29, -1},
+              {year{1900} / 3 / 1, 61},     {year{1970} / 1 / 1, 25569},
+              {year{2000} / 2 / 29, 36585}, {year{2026} / 3 / 1, 46082},
+              {year{100} / 1 / 1, -657434}, {year{9999} / 12 / 31, 2958465}};
+  for (const auto& row : rows) {
+    Date date;
+    date = row.When;
+    EXPECT_EQ(row.Days, date.Raw()) << IsoDate(row.When);
+    EXPECT_EQ(row.When, Day(date)) << row.Days;
+  }
+  EXPECT_EQ("\0\0\0\0\x40\x80\xE6\x40"s, BytesOf(Date(year{2026} / 3 / 1)));
+}
+
+TEST(Date, ReadsTheDayWhateverTheHourAndNoneFromNonsense) {
+  const struct {
+    double Days;
+    Day Read;
+  } rows[] = {
+      {46082.999, std::chrono::year{2026} / 3 / 1},
+      {2958465.9, std::chrono::year{9999} / 12 / 31},
+      {2958466, kDayZero},
+      {-657434.5, kDayZero},
+      {1e300, kDayZero},
+      {-1e300, kDayZero},
+      {std::numeric_limits<double>::quiet_NaN(), kDayZero},
+      {std::numeric_limits<double>::infinity(), kDayZero},
+      {-std::numeric_limits<double>::infinity(), kDayZero},
+      {std::numeric_limits<double>::denorm_min(), kDayZero},
+  };
+  for (const auto& row : rows) {
+    Date date;
+    date.SetRaw(row.Days);
+    EXPECT_EQ(row.Read, Day(date)) << row.Days;
+    EXPECT_EQ(row.Read == kDayZero, date.IsNone()) << row.Days;
+  }
+}
+
+TEST(Text, PadsCutsAndTrims) {
+  const struct {
+    std::string Stored, Bytes, Read;
+  } rows[] = {{"", "     ", ""},           {"CWA", "CWA  ", "CWA"},
+              {"ABCDE", "ABCDE", "ABCDE"}, {"ABCDEFG", "ABCDE", "ABCDE"},
+              {" AB", " AB  ", "AB"},      {"A B", "A B  ", "A B"},
+              {"ABCD F", "ABCD ", "ABCD"}, {"     ", "     ", ""}};
+  for (const auto& row : rows) {
+    Text<5> text;
+    text = row.Stored;
+    EXPECT_EQ(row.Bytes, BytesOf(text)) << row.Stored;
+    EXPECT_EQ(row.Read, text.Str()) << row.Stored;
+  }
+}
+
+TEST(Text, HoldsANameAsWideAsItsField) {
+  const std::string name = "Bartholomew Featherstone-";
+  ASSERT_EQ(25u, name.size());
+  Text<25> text(name);
+  EXPECT_EQ(name, text.View());
+  EXPECT_TRUE(text == name);
+  EXPECT_FALSE(text == name.substr(0, 24));
+  text = name + "haugh";
+  EXPECT_EQ(name, text.View());
+}
+
+TEST(Text, ComparesTrimmedAndByCase) {
+  const Text<10> text("Nor");
+  EXPECT_TRUE(text == "Nor");
+  EXPECT_TRUE(text == "  Nor ");
+  EXPECT_FALSE(text == "nor");
+  EXPECT_FALSE(text == "Norm");
+  EXPECT_TRUE(text == Text<3>("Nor"));
+  EXPECT_EQ("Nor!", text + "!");
+  EXPECT_EQ("-Nor", "-" + text);
+}
+
+TEST(Text, TakesItsOwnTailAndEveryByte) {
+  Text<6> text("abcdef");
+  text = text.View().substr(2);
+  EXPECT_EQ("cdef", text.View());
+  Text<4> odd("\xE9\0\xFF\n"s);
+  EXPECT_EQ("\xE9\0\xFF\n"s, odd.View());
+}
+
+}  // namespace
+}  // namespace grapplemont
