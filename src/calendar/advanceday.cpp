@@ -49,13 +49,9 @@ constexpr Step kClosing[] = {
 
 #undef STEP
 
-void Tell(const StepWatcher& watcher, std::string_view step) {
-  if (watcher) watcher(step);
-}
-
 void Walk(World& world, std::span<const Step> steps, const StepWatcher& watcher) {
   for (const Step& step : steps) {
-    Tell(watcher, step.Name);
+    if (watcher) watcher(step.Name);
     step.Run(world);
   }
 }
@@ -88,9 +84,7 @@ std::span<const Step> ClosingSteps() {
 
 void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher) {
   world.Session.StartSize = world.Player().Size;
-  Tell(watcher, "PlayerShowConsequences");
   PlayerShowConsequences(world, cancelled);
-  Tell(watcher, "RivalShows");
   RivalShows(world);
   MoveDate(world);
   world.Session.StartSize = world.Player().Size;

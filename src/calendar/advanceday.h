@@ -21,7 +21,8 @@ std::span<const Step> FirstOfMonthSteps();
 std::span<const Step> SecondFirstOfMonthSteps();
 std::span<const Step> ClosingSteps();
 
-/// Hears the name of each step before it runs.
+/// Hears the name of each step of the new day before it runs; what the old day leaves behind comes
+/// first and untold, since it may show screens of its own.
 using StepWatcher = std::function<void(std::string_view step)>;
 
 /// Ends the day (`cancelled`: its show was called off) and runs the next one's routines.

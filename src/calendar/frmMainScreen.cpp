@@ -7,6 +7,7 @@
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "ui/acts.h"
 #include "ui/waiting.h"
 
 namespace grapplemont {
@@ -53,12 +54,11 @@ class frmMainScreen : public ui::Screen {
  public:
   explicit frmMainScreen(Game& game)
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
-    cmdfed().Tip = "Click for promotional matters.";
+    CommandNamed("cmdfed").Tip = "Click for promotional matters.";
     for (int i = 1; i <= commands.Count(); ++i)
       OfferOnlyWhatIsThere(commands(i), kCommands[static_cast<std::size_t>(i - 1)].Screen);
     OfferOnlyWhatIsThere(txtname, "frmUser");
     lstmail.EmptyText = "No mail. What the world has to tell you arrives here.";
-    lstahead.EmptyText = "No shows in the next five weeks.";
   }
 
   ui::Page Layout() override {
@@ -81,13 +81,21 @@ class frmMainScreen : public ui::Screen {
   }
 
   void Load() override { RefreshMainScreen(); }
-  void Return() override { RefreshMainScreen(); }
+  void Return() override { ShowTheWorld(); }
+
+  /// Shows the world as it is, and opens what waits for the player.
+  void RefreshMainScreen() {
+    if (!game_.HasWorld()) return;
+    ShowTheWorld();
+    OpenWhatWaits();
+  }
 
   /// Ends the day under the waiting screen and shows the next.
   void AdvanceDay(bool cancelled) {
     Waiting waiting(game_);
     Advance(waiting, cancelled);
     waiting.Done();
+    RefreshMainScreen();
   }
 
  private:
@@ -97,29 +105,33 @@ class frmMainScreen : public ui::Screen {
     button.Tip = "This comes with a later version.";
   }
 
-  ui::Button& cmdfed() { return commands(9); }
-  ui::Button& cmdnews() { return commands(15); }
+  ui::Button& CommandNamed(std::string_view control) {
+    for (int i = 1; i <= commands.Count(); ++i)
+      if (commands(i).Name() == control) return commands(i);
+    throw std::logic_error("No command " + std::string(control));
+  }
   World& world() { return game_.World(); }
 
   void Advance(Waiting& waiting, bool cancelled) {
     grapplemont::AdvanceDay(world(), cancelled, [&](std::string_view step) { waiting.Tell(step); });
   }
 
-  void RefreshMainScreen() {
+  void ShowTheWorld() {
     if (!game_.HasWorld()) return;
     ShowTopBar();
     ShowMail();
     ShowAhead();
-    OpenWhatWaits();
   }
 
   void ShowTopBar() {
     const Promotion& player = world().Player();
     txtdate.Text = LongDate(world().Today());
     txtname.Text = world().Game().PlayerName.Str();
-    cmdfed().Text = player.Initials.Str();
+    CommandNamed("cmdfed").Text = player.Initials.Str();
     lblpromotion.Text = player.Name + " (" + std::string(SizeText(player.Size)) + ")";
     lblimage.Text = "Image " + std::to_string(player.Image) + "%";
+    lblimage.Trend = player.Rank[0] == kNoEnd ? 0 : StandingScore(player) - player.Rank[0];
+    lblimage.Tip = "The arrow compares it with the last month end.";
     lblmoney.Text = Dollars(player.Money);
     lblmoney.Colour = player.Money < 0 ? ui::Tone::Red : ui::Tone::Plain;
   }
@@ -128,7 +140,7 @@ class frmMainScreen : public ui::Screen {
     const int count = world().News().Count();
     imgmail.Enabled = HasNews(world());
     imgmail.Text = count == 1 ? "1 mail" : std::to_string(count) + " mails";
-    cmdnews().Badge = count == 0 ? std::string() : std::to_string(count);
+    CommandNamed("cmdnews").Badge = count == 0 ? std::string() : std::to_string(count);
     std::vector<ui::ListBox::Row> rows;
     for (int number = count; number >= 1 && number > count - kMailsShown; --number) {
       const Mail& mail = world().News()[number];
@@ -141,14 +153,17 @@ class frmMainScreen : public ui::Screen {
 
   void ShowAhead() {
     std::vector<ui::ListBox::Row> rows;
+    std::string today;
     for (const Appointment& show : ComingShows(world(), kDaysShown)) {
-      const int in = static_cast<int>((show.On - world().Today()).count());
-      rows.push_back({{ui::Cell(in, in == 0 ? std::string("Today") : ShortDate(show.On)),
+      const int day = static_cast<int>((show.On - kDayZero).count());
+      const bool isToday = show.On == world().Today();
+      if (isToday) today += (today.empty() ? "" : ", ") + show.What;
+      rows.push_back({{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)),
                        DayName(show.On), show.What, ui::Cell(show.Kind, ToneOf(show))},
-                      in + 1});
+                      static_cast<int>(rows.size()) + 1});
     }
-    lstahead.Fill(std::move(rows));
-    lblfacts.Text = NeedsThePlayer(world()) ? "A show is due today." : "Nothing is due today.";
+    lstahead.Fill(std::move(rows), false);
+    lblfacts.Text = today.empty() ? "Nothing is due today." : "Due today: " + today + ".";
   }
 
   static ui::Tone ToneOf(const Appointment& show) {
@@ -162,8 +177,7 @@ class frmMainScreen : public ui::Screen {
     const int endCode = world().Game().EndCode;
     if (endCode >= 1 && endCode <= 9) return OpenIfKnown("frmTheEnd");
     if (endCode == 100) return OpenIfKnown("frmPinky");
-    if (endCode == 0 && world().Incidents().Count() > 0 && world().Incidents()[1].Type != 0)
-      OpenIfKnown("frmIncident");
+    if (endCode == 0 && HasIncident()) OpenIfKnown("frmIncident");
   }
 
   void OpenIfKnown(const char* screen) {
@@ -176,7 +190,8 @@ class frmMainScreen : public ui::Screen {
     const auto holdNone = [this] {
       return desk().Ask("No Show!",
                         "It is the end of the month, yet you have no major show planned!\n"
-                        "Are you sure you wish to not hold a big event this month?");
+                        "Are you sure you wish to not hold a big event this month?",
+                        ui::Default::No);
     };
     switch (DayKindToday(world(), holdNone)) {
       case DayKind::Plain:
@@ -194,15 +209,24 @@ class frmMainScreen : public ui::Screen {
   void cmduntil_Click() {
     if (NeedsThePlayer(world())) return cmdnext_Click();
     Waiting waiting(game_);
+    const int endCode = world().Game().EndCode;
     for (int day = 0; day < kLongestWait; ++day) {
       Advance(waiting, false);
-      const bool incident = world().Incidents().Count() > 0 && world().Incidents()[1].Type != 0;
-      if (NeedsThePlayer(world()) || world().Game().EndCode != 0 || incident) break;
+      if (NeedsThePlayer(world()) || world().Game().EndCode != endCode || HasIncident()) break;
     }
     waiting.Done();
+    RefreshMainScreen();
   }
 
-  void lstmail_Open() { OpenIfKnown("frmNews"); }
+  bool HasIncident() { return world().Incidents().Count() > 0 && world().Incidents()[1].Type != 0; }
+
+  /// The mailbox lists the same mails in the same order.
+  void lstmail_Open() {
+    if (!desk().Knows("frmNews")) return;
+    const int row = lstmail.Selected();
+    desk().Open("frmNews");
+    ui::Pick(desk(), *desk().Top(), "lstnews", row);
+  }
 
   void cmdquit_Click() {
     if (!desk().Ask("Quit?", "Are you sure you want to quit?")) return;
@@ -246,6 +270,9 @@ frmMainScreen* FindMainScreen(Game& game) {
 
 void RegisterCalendarScreens(Game& game) {
   game.Desk().Register("frmMainScreen", [&game] { return std::make_unique<frmMainScreen>(game); });
+  game.RefreshMainScreen = [&game] {
+    if (frmMainScreen* main = FindMainScreen(game)) main->RefreshMainScreen();
+  };
   game.AdvanceDay = [&game](bool cancelled) {
     if (frmMainScreen* main = FindMainScreen(game)) main->AdvanceDay(cancelled);
   };

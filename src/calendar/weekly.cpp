@@ -34,7 +34,7 @@ void EconomyDrift(World& world) {
   const int step = economy < 20 ? 7 : 1;
   economy += game.EconomyRising ? step : -step;
   // Steps of 7 can pass over 0, and then nothing but the field's own end stops the fall.
-  game.Economy = std::max(economy, -32768);
+  game.Economy = std::clamp(economy, -32768, 32767);
   if (economy == 100) game.EconomyRising = false;
   if (economy == 0) game.EconomyRising = true;
 }

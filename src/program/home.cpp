@@ -8,7 +8,7 @@ namespace grapplemont {
 namespace {
 
 bool HasWorld(Disk& disk, const std::string& folder) {
-  return disk.Look(folder + "/data") == Disk::Kind::Folder;
+  return disk.Look(folder + "/data") != Disk::Kind::Nothing;
 }
 
 /// $XDG_DATA_HOME/grapplemont, by the rules of the desktop's base folders.

@@ -152,10 +152,6 @@ void WholeRecords(Inspection& inspection) {
     const ByteSpan bytes = table->Contents();
     const auto size = static_cast<std::size_t>(layout->Size);
     const std::size_t count = bytes.size() / size;
-    if (count > static_cast<std::size_t>(layout->Limit))
-      inspection.NoteFile(layout->File, "holds " + std::to_string(count) +
-                                            " records, more than its most of " +
-                                            std::to_string(layout->Limit));
     if (bytes.size() % size == 0) continue;
     inspection.NoteFile(
         layout->File,

@@ -61,8 +61,6 @@ void GameInfoStands(Inspection& inspection) {
   if (!(game.Version == kVersion)) note("Version", "is not \"" + std::string(kVersion) + "\"");
   if (!IsEndCode(game.EndCode))
     note("EndCode", "is " + std::to_string(game.EndCode) + ", neither 0 to 9 nor 100");
-  if (game.MailDev == 1) note("MailDev", "is 1, neither Always nor Never");
-  if (game.MailTrain == 1) note("MailTrain", "is 1, neither Always nor Never");
   if (Day(game.Today) < Day(game.StartDate)) note("Today", "lies before the game's start");
 }
 

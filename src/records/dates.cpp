@@ -67,7 +67,8 @@ std::string MonthYear(Day day) {
   return std::string(MonthName(MonthOf(day))) + " " + Digits(YearOf(day), 4);
 }
 std::string ShortDate(Day day) {
-  return Digits(DayOfMonth(day), 2) + "/" + Digits(MonthOf(day), 2) + "/" + Digits(YearOf(day), 4);
+  return Digits(DayOfMonth(day), 2) + "/" + Digits(MonthOf(day), 2) + "/" +
+         Digits(YearOf(day) % 100, 2);
 }
 std::string IsoDate(Day day) {
   return Digits(YearOf(day), 4) + "-" + Digits(MonthOf(day), 2) + "-" + Digits(DayOfMonth(day), 2);

@@ -23,7 +23,7 @@ int DayNumber(std::string_view dayName);
 std::string LongDate(Day day);   // "Monday, 09 March 2026"
 std::string PlainDate(Day day);  // "09 March 2026"
 std::string MonthYear(Day day);  // "March 2026"
-std::string ShortDate(Day day);  // "09/03/2026", the form of mails
+std::string ShortDate(Day day);  // "09/03/26", the form of mails
 std::string IsoDate(Day day);    // "2026-03-09"
 std::optional<Day> ParseIsoDate(std::string_view text);
 

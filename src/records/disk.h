@@ -14,19 +14,21 @@ namespace grapplemont {
 using Bytes = std::vector<std::byte>;
 using ByteSpan = std::span<const std::byte>;
 
-/// A disk that would not do what it was asked: which file, which action and the system's own reason, in one sentence
-/// for the player.
+/// A disk that would not do what it was asked: which file, which action and the system's own
+/// reason, in one sentence for the player.
 class DiskError : public std::runtime_error {
  public:
   DiskError(std::string_view path, std::string_view action, std::string_view reason);
+  /// The same fault, followed by a sentence on what becomes of the player's step.
+  DiskError(const DiskError& fault, std::string_view consequence);
   const std::string& Path() const { return path_; }
 
  private:
   std::string path_;
 };
 
-/// All file access of the program. Paths are relative to nothing but themselves; "/" parts folders. Every call throws
-/// DiskError when it fails, unless it says otherwise.
+/// All file access of the program. Paths are relative to nothing but themselves; "/" parts folders.
+/// Every call throws DiskError when it fails, unless it says otherwise.
 class Disk {
  public:
   using Handle = int;
@@ -37,36 +39,61 @@ class Disk {
   virtual Kind Look(const std::string& path) = 0;
   /// The names in a folder, sorted.
   virtual std::vector<std::string> List(const std::string& folder) = 0;
-  /// Opens for reading and writing; `create` makes the file if absent.
+  /// Opens a plain file for reading and writing (one that may only be read, for reading); `create`
+  /// makes it if absent. Links are not followed.
   virtual Handle Open(const std::string& path, bool create) = 0;
   virtual void Close(Handle file) = 0;  // never throws
   virtual std::int64_t Size(Handle file) = 0;
   /// Fills the whole buffer; a file too short for it is a DiskError.
   virtual void ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) = 0;
   virtual void WriteAt(Handle file, std::int64_t offset, ByteSpan bytes) = 0;
-  virtual void Sync(Handle file) = 0;                             // contents and length, as fdatasync
-  virtual void SyncFolder(const std::string& folder) = 0;         // its names
-  virtual void Allocate(Handle file, std::int64_t size) = 0;      // room up to `size`; never shortens
+  virtual void Sync(Handle file) = 0;                      // contents and length, as fdatasync
+  virtual void SyncFolder(const std::string& folder) = 0;  // its names
+  /// Room up to `size`, where the file system can promise it; the length stays.
+  virtual void Allocate(Handle file, std::int64_t size) = 0;
   virtual void Resize(Handle file, std::int64_t size) = 0;
   virtual void Rename(const std::string& from, const std::string& to) = 0;  // replaces a file
-  /// Swaps two folders (or files) that both exist, in one step.
-  virtual void Exchange(const std::string& a, const std::string& b) = 0;
-  virtual void Remove(const std::string& path) = 0;               // a file or an empty folder
-  virtual void MakeFolder(const std::string& path) = 0;           // its parent exists; an existing folder is no error
-  /// Takes the lock that this file stands for, for as long as this Disk lives or until Unlock; false when another
-  /// program (or another Disk) has it.
+  /// Swaps two folders (or files) that both exist, in one step; false where the file system knows
+  /// no such step, and then nothing was done.
+  virtual bool Exchange(const std::string& a, const std::string& b) = 0;
+  virtual void Remove(const std::string& path) = 0;  // a file or an empty folder
+  /// Its parent exists; an existing folder is no error.
+  virtual void MakeFolder(const std::string& path) = 0;
+  /// Takes the lock that this file stands for, until Unlock or for as long as this Disk lives;
+  /// false when anybody, this Disk included, has it. The file stays.
   virtual bool Lock(const std::string& path) = 0;
-  virtual void Unlock(const std::string& path) = 0;
+  virtual void Unlock(const std::string& path) = 0;  // never throws
 };
 
-/// The machine's own files.
-std::unique_ptr<Disk> RealDisk();
+/// Whether a disk's syncs wait for the hardware. Without, a power cut may cost anything; a killed
+/// process still costs nothing.
+enum class Syncs { Real, None };
 
+/// The machine's own files.
+std::unique_ptr<Disk> RealDisk(Syncs syncs = Syncs::Real);
+
+/// A file that is closed on every way out.
+class OpenedFile {
+ public:
+  OpenedFile(Disk& disk, const std::string& path, bool create)
+      : disk_(disk), handle_(disk.Open(path, create)) {}
+  ~OpenedFile() { disk_.Close(handle_); }
+  OpenedFile(const OpenedFile&) = delete;
+  OpenedFile& operator=(const OpenedFile&) = delete;
+  operator Disk::Handle() const { return handle_; }
+
+ private:
+  Disk& disk_;
+  Disk::Handle handle_;
+};
+
+/// The folder that a path lies in; "." for a bare name.
+std::string ParentOf(const std::string& path);
 /// The whole file.
 Bytes ReadFile(Disk& disk, const std::string& path);
-/// Replaces or makes the file: written beside it, synced, renamed over it.
+/// Replaces or makes the file: written beside it (".tmp"), synced, renamed over it.
 void WriteFile(Disk& disk, const std::string& path, ByteSpan bytes);
-/// Removes a folder and all in it; nothing there is no error.
-void RemoveTree(Disk& disk, const std::string& folder);
+/// Removes a folder and all in it, or a file; nothing there is no error.
+void RemoveTree(Disk& disk, const std::string& path);
 
 }  // namespace grapplemont

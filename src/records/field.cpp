@@ -73,8 +73,9 @@ void SetFieldNumber(const Field& field, std::byte* record, int index, long long 
 void SetFieldText(const Field& field, std::byte* record, int index, std::string_view text) {
   char* bytes = At<char>(field, record, index);
   const auto width = static_cast<std::size_t>(field.Width);
-  std::memset(bytes, ' ', width);
-  std::memcpy(bytes, text.data(), std::min(text.size(), width));
+  const std::size_t length = std::min(text.size(), width);
+  if (length > 0) std::memmove(bytes, text.data(), length);
+  std::memset(bytes + length, ' ', width - length);
 }
 
 void SetFieldDate(const Field& field, std::byte* record, int index, double days) {
@@ -90,8 +91,11 @@ std::string FieldShown(const Field& field, const std::byte* record, int index) {
     }
     case FieldKind::Date:
       return IsoDate(*At<Date>(field, record, index));
-    case FieldKind::Flag:
-      return FieldNumber(field, record, index) != 0 ? "yes" : "no";
+    case FieldKind::Flag: {
+      const bool isSet = FieldNumber(field, record, index) != 0;
+      const std::string_view words = Says(field.Words, isSet ? -1 : 0);
+      return words.empty() ? (isSet ? "yes" : "no") : std::string(words);
+    }
     default: {
       const auto number = FieldNumber(field, record, index);
       const std::string_view words =

@@ -102,16 +102,19 @@ class Long : public detail::Number<Long, 4> {
 };
 
 /// 16 bits that hold a truth: -1 or 0 when written, any non-zero is true when read.
-class Flag : private detail::Integer<2> {
+class Flag {
  public:
   constexpr Flag() = default;
-  constexpr explicit Flag(bool value) { Store(value ? -1 : 0); }
+  constexpr explicit Flag(bool value) { *this = value; }
   constexpr operator bool() const { return Raw() != 0; }
   constexpr Flag& operator=(bool value) {
-    Store(value ? -1 : 0);
+    bytes_[0] = bytes_[1] = value ? 0xFF : 0;
     return *this;
   }
-  constexpr int Raw() const { return Integer::operator int(); }
+  constexpr int Raw() const { return static_cast<std::int16_t>(bytes_[0] | bytes_[1] << 8); }
+
+ private:
+  std::uint8_t bytes_[2] = {};
 };
 
 using Day = std::chrono::sys_days;
@@ -151,8 +154,10 @@ class Text {
   std::string_view View() const { return detail::Trimmed({bytes_.data(), N}); }
   std::string Str() const { return std::string(View()); }
   Text& operator=(std::string_view text) {
-    bytes_.fill(' ');
-    std::memmove(bytes_.data(), text.data(), std::min<std::size_t>(text.size(), N));
+    // The text may be a piece of this field's own: moved before the rest is blanked.
+    const std::size_t length = std::min<std::size_t>(text.size(), N);
+    if (length > 0) std::memmove(bytes_.data(), text.data(), length);
+    std::fill(bytes_.begin() + static_cast<std::ptrdiff_t>(length), bytes_.end(), ' ');
     return *this;
   }
   friend bool operator==(const Text& a, std::string_view b) {

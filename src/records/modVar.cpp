@@ -4,8 +4,16 @@
 
 namespace grapplemont {
 
+namespace {
+constexpr int kMailsDropped = 1000;
+}
+
 void AddNews(World& world, std::string_view from, std::string_view body) {
-  if (world.News().Full()) world.News().Erase(1);
+  if (world.News().Full()) {
+    // A thousand at once: making room must not move the whole file with every mail.
+    int number = 0;
+    world.News().Keep([&](const Mail&) { return ++number > kMailsDropped; });
+  }
   Mail mail;
   mail.From = from;
   mail.Date = ShortDate(world.Today());

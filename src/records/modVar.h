@@ -10,7 +10,7 @@
 namespace grapplemont {
 
 /// Appends a mail dated today; what is longer than 30 and 250 letters is cut. A full mailbox drops
-/// its oldest mail.
+/// its thousand oldest mails.
 void AddNews(World& world, std::string_view from, std::string_view body);
 /// True when there is at least one mail.
 bool HasNews(const World& world);

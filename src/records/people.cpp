@@ -17,7 +17,7 @@ constexpr Field kStaffFields[] = {
         .Means("The number by which other records know the person."),
     FIELD(Staff, Name).Key().Means("Full name."),
     FIELD(Staff, Gender).From(kGenders).Means("Male or female."),
-    FIELD(Staff, BirthMonth).In(0, 12).Means("Month of the birthday."),
+    FIELD(Staff, BirthMonth).In(1, 12).Means("Month of the birthday."),
     FIELD(Staff, Age).In(0, 120).Counts("years").Means("Age."),
     FIELD(Staff, Employer)
         .In(0, 32767)

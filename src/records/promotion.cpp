@@ -16,10 +16,11 @@ constexpr Field kFields[] = {
     FIELD(Active).Means("Set for every promotion that exists."),
     FIELD(Name).Key().Means("Full name."),
     FIELD(Initials).Key().Means("Initials, shown almost everywhere instead of the name."),
-    FIELD(Size).In(1, 6).From(kSizes).Means("Size class; at 100% image it rises, at 0% it falls."),
+    FIELD(Size).In(1, 6).From(kSizes).Means("Size class."),
     FIELD(Money).Counts("dollars").Means("Cash; may be negative."),
     FIELD(TicketPrice).In(0, 1000).Counts("dollars").Means("Price of a ticket."),
-    FIELD(Image).Counts("percent").Means("Standing within the size class."),
+    FIELD(Image).Counts("percent").Means("For a promotion to go to the \"next size\", they have to "
+                                         "reach 100% image during the game."),
     FIELD(Momentum).Means("The way the image is going."),
     FIELD(Commissioner)
         .In(0, 32767)

@@ -46,8 +46,9 @@ void VacateTitlesOf(World& world, int workerUid) {
     if (title.Holder == workerUid || title.Partner == workerUid) VacateTitle(world, title);
 }
 
-/// Only the player's shows keep their commentary in order; a rival's is looked up anew each time.
+/// Only the player's shows lose their commentator with him.
 void LeaveCommentary(World& world, int workerUid) {
+  if (!world.HasGame()) return;
   for (Show& show : world.Shows()) {
     if (show.Owner != world.PlayerUid() || !show.ColourIsWorker || show.Colour != workerUid)
       continue;
@@ -101,6 +102,7 @@ void SeverStaff(World& world, Staff& staff) {
     if (promotion.HeadTrainer == staff.Uid) promotion.HeadTrainer = 0;
     if (promotion.DevBooker == staff.Uid) promotion.DevBooker = 0;
   }
+  if (!world.HasGame()) return;
   for (Show& show : world.Shows())
     if (show.Owner == world.PlayerUid() && show.Announcer == staff.Uid) show.Announcer = 0;
 }

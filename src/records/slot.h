@@ -1,11 +1,14 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "records/disk.h"
+#include "records/journal.h"
 
 namespace grapplemont {
 
@@ -22,44 +25,76 @@ struct NewFile {
   Bytes Contents;
 };
 
-/// A file of a slot that may not be there at all: which names a slot knows and how long each may be.
-struct KnownFile {
-  std::string Name;
-  std::int64_t MaxBytes;
+/// Another program has the slot open; nothing of it was touched.
+class SlotBusy : public std::runtime_error {
+ public:
+  explicit SlotBusy(const std::string& folder);
 };
 
-/// The folder of a running world and its journal. Every commit is all or nothing across all its files, whatever
-/// becomes of the power, the disk or the process.
+/// The slot's journal cannot be vouched for: something that was once finished in it is lost. Nothing
+/// was touched. Opening with `Damage::Drop` first keeps the folder as it is at CopyFolder() and then
+/// goes on from the last world that is whole.
+class SlotDamaged : public std::runtime_error {
+ public:
+  SlotDamaged(const std::string& folder, std::string copy);
+  const std::string& CopyFolder() const { return copy_; }
+
+ private:
+  std::string copy_;
+};
+
+enum class Damage { Refuse, Drop };
+
+struct SlotOptions {
+  std::int64_t JournalBytes = 4 << 20;
+  JournalQuirks Quirks = {};
+};
+
+/// The folder of a running world and its journal. Every commit is all or nothing across all its
+/// files, whatever becomes of the power, the disk or the process.
 class Slot {
  public:
-  /// Makes a slot with these files at `folder`, in place of what stands there: built beside it, swapped in by one
-  /// step. Either the old folder or the new one stands there at any moment.
-  static void Create(Disk& disk, const std::string& folder, const std::vector<NewFile>& files);
+  /// Makes a slot with these files at `folder`, in place of what stands there: built beside it,
+  /// swapped in by one step, so that either the old folder or the new one stands there at any
+  /// moment. `worldId` is a number that no other world has. Throws SlotBusy, also while this
+  /// program has the slot open; DiskError.
+  static void Create(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
+                     std::uint64_t worldId, const SlotOptions& options = {});
 
-  /// Takes the slot's lock, replays its journal and reads all known files. Throws SlotBusy when another program has
-  /// the slot, SlotDamaged when the journal holds more than it can vouch for, DiskError.
-  Slot(Disk& disk, std::string folder, const std::vector<KnownFile>& known);
+  /// One file as the slot would hold it if it were opened now; nothing where there is none. Changes
+  /// nothing, takes no lock, and does not mind damage. Throws DiskError.
+  static std::optional<Bytes> Peek(Disk& disk, const std::string& folder,
+                                   const std::vector<KnownFile>& known, const std::string& name);
+
+  /// Takes the slot's lock, replays its journal and reads all known files. Throws SlotBusy,
+  /// SlotDamaged, DiskError; then the world on disk is as it was.
+  Slot(Disk& disk, std::string folder, std::vector<KnownFile> known,
+       Damage damage = Damage::Refuse, const SlotOptions& options = {});
   ~Slot();  // no checkpoint: call Checkpoint for a clean exit
   Slot(const Slot&) = delete;
   Slot& operator=(const Slot&) = delete;
 
   /// The files as they stood when the slot was opened (after replay); absent ones are left out.
-  const std::map<std::string, Bytes>& Files() const { return files_; }
+  const std::map<std::string, Bytes>& Files() const;
   /// Frees what Files() holds once it has been taken over.
-  void Forget() { files_.clear(); }
-  /// What was met and left aside on opening (a journal of another world, unknown files, links), a line each.
-  const std::vector<std::string>& Remarks() const { return remarks_; }
+  void Forget();
+  /// What was met on opening and left aside or mended (a journal of another world, unknown files,
+  /// damage), a line each for the player.
+  const std::vector<std::string>& Remarks() const;
 
-  /// Puts the changes on disk, all or nothing. On DiskError nothing of them stands on disk after the recovery that has
-  /// then already run, unless `Committed()` says that they do.
+  /// Puts the changes on disk, all or nothing; they are there, for good, when it returns. `Before`
+  /// is what the last commit left. Throws DiskError, whose text says what became of the step;
+  /// Committed() then tells whether the changes stand all the same (what failed came after the
+  /// commit itself). The slot has recovered by then, or does so before the next commit.
   void Commit(const std::vector<FileChange>& changes);
-  /// Brings the record files themselves up to date and empties the journal.
+  bool Committed() const;
+  /// Brings the record files themselves up to date and empties the journal. Throws DiskError; no
+  /// commit is lost then.
   void Checkpoint();
 
  private:
-  // (the journal's insides)
-  std::map<std::string, Bytes> files_;
-  std::vector<std::string> remarks_;
+  struct Insides;
+  std::unique_ptr<Insides> insides_;
 };
 
 }  // namespace grapplemont

@@ -33,7 +33,7 @@ constexpr Field kSegmentFields[] = {
     FIELD(Segment, MatchType).In(0, 32767).Means("Type of a match, within its style."),
     FIELD(Segment, Purpose).In(0, 32767).Means("What it is to achieve."),
     WORKER(Segment, Winner).Means("The winner; 0 for a draw."),
-    WORKER(Segment, Loser).Means("Who takes the fall; 1 when nobody does."),
+    FIELD(Segment, Loser).In(0, 32767).Means("Who takes the fall; 1 when nobody does."),
     WORKER(Segment, Place3).Means("Second one eliminated."),
     WORKER(Segment, Place4).Means("Third one eliminated."),
     WORKER(Segment, Place5).Means("Fourth one eliminated."),
@@ -57,7 +57,7 @@ constexpr RecordLayout kSegmentLayout{"Segment", "match.dat", sizeof(Segment), 1
 
 constexpr Field kMailFields[] = {
     FIELD(Mail, From).Means("Sender."),
-    FIELD(Mail, Date).Means("Day it came, dd/mm/yyyy."),
+    FIELD(Mail, Date).Means("Day it came, dd/mm/yy."),
     FIELD(Mail, Body).Means("Text."),
 };
 constexpr RecordLayout kMailLayout{"Mail", "news.dat", sizeof(Mail), 20000, kMailFields};

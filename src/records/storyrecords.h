@@ -86,7 +86,7 @@ static_assert(offsetof(Segment, Worker) == 58 && offsetof(Segment, Text) == 118)
 /// A mail to the player: a record of news.dat.
 struct Mail {
   Text<30> From;
-  Text<10> Date;  // "dd/mm/yyyy"
+  Text<10> Date;  // "dd/mm/yy"
   Text<250> Body;
 };
 

@@ -33,6 +33,8 @@ class Table {
   virtual const RecordLayout* Layout() const { return nullptr; }
   /// All bytes the file holds now; records lie one behind the other.
   virtual ByteSpan Contents() const = 0;
+  /// Where its records lie in memory; empty for plain text.
+  virtual ByteSpan RecordBytes() const { return {}; }
   virtual std::int64_t MaxBytes() const = 0;
   bool Exists() const { return exists_; }
   virtual void Remove() = 0;
@@ -95,8 +97,9 @@ class Records : public Table {
     surplus_.clear();
     return records_.emplace_back(record);
   }
-  /// The file with these records and no others.
+  /// The file with these records and no others. Throws TableFull for more than the file's limit.
   void Rewrite(std::vector<T> records) {
+    if (static_cast<int>(records.size()) > LayoutOf<T>().Limit) throw TableFull(LayoutOf<T>());
     exists_ = true;
     surplus_.clear();
     records_.assign(records.begin(), records.end());
@@ -120,6 +123,7 @@ class Records : public Table {
   /// The number of a record of this table.
   int NumberOf(const T& record) const { return static_cast<int>(&record - records_.data()) + 1; }
 
+  ByteSpan RecordBytes() const override { return std::as_bytes(std::span(records_)); }
   ByteSpan Contents() const override {
     if (surplus_.empty()) return std::as_bytes(std::span(records_));
     const auto whole = std::as_bytes(std::span(records_));

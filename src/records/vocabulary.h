@@ -47,12 +47,6 @@ inline constexpr Term kStatuses[] = {{0, "Nor", "Normal"},
                                      {0, "Sus", "Suspended"},
                                      {0, "Reh", "In rehab"},
                                      {0, "Hom", "Sitting out contract"}};
-inline constexpr Term kPositions[] = {{1, "", "Main Event"},       {2, "", "Upper Midcard"},
-                                      {3, "", "Midcard"},          {4, "", "Lower Midcard"},
-                                      {5, "", "Opener"},           {6, "", "Jobber"},
-                                      {7, "", "Development Deal"}, {25, "", "Non-wrestler"},
-                                      {50, "", "Manager"},         {75, "", "Training Camp"}};
-/// The same with the postings to the development territory, which screens show as "Unknown".
 inline constexpr Term kStoredPositions[] = {{1, "", "Main Event"},
                                             {2, "", "Upper Midcard"},
                                             {3, "", "Midcard"},
@@ -69,6 +63,8 @@ inline constexpr Term kStoredPositions[] = {{1, "", "Main Event"},
                                             {84, "", "Lower Midcard (sent to development)"},
                                             {85, "", "Opener (sent to development)"},
                                             {86, "", "Jobber (sent to development)"}};
+/// What screens know; a posting to the development territory shows as "Unknown".
+inline constexpr Vocabulary kPositions = Vocabulary(kStoredPositions).first(10);
 inline constexpr Term kSizes[] = {{1, "", "Global"},   {2, "", "National"}, {3, "", "Cult"},
                                   {4, "", "Regional"}, {5, "", "Small"},    {6, "", "Backyard"}};
 inline constexpr Term kWeekDays[] = {{1, "Monday", "Monday"},       {2, "Tuesday", "Tuesday"},
@@ -97,5 +93,8 @@ inline constexpr Term kIncidents[] = {
 /// Mail options: who must be concerned for a mail to come.
 inline constexpr Term kMailOptions[] = {
     {0, "", "Always"}, {1, "", "Only for direct rivals or above"}, {2, "", "Never"}};
+
+/// The same for reports about the player's own, which have no direct rivals.
+inline constexpr Term kTwoWayMailOptions[] = {{0, "", "Always"}, {2, "", "Never"}};
 
 }  // namespace grapplemont

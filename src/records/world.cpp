@@ -1,5 +1,7 @@
 #include "records/world.h"
 
+#include <functional>
+
 namespace grapplemont {
 
 World::World(std::unique_ptr<Draws> chance, std::unique_ptr<Draws> prose)
@@ -41,6 +43,10 @@ std::array<const Table*, World::kTables> World::Tables() const {
 }
 
 void World::Load(const std::map<std::string, Bytes>& files) {
+  // An old guess that still holds would hide an earlier record of the same uid.
+  for (UidIndex* index :
+       {&workerIndex_, &promotionIndex_, &staffIndex_, &networkIndex_, &sponsorIndex_})
+    index->Numbers.clear();
   for (Table* table : Tables()) {
     const auto file = files.find(std::string(table->File()));
     if (file == files.end()) {
@@ -65,19 +71,23 @@ std::vector<FileChange> World::Changes() const {
 void World::MarkCommitted() {
   for (Table* table : Tables())
     if (table->Changed()) table->MarkCommitted();
+  committedSession_ = Session;
 }
 
 void World::Rollback() {
   for (Table* table : Tables())
     if (table->Changed()) table->Rollback();
+  Session = committedSession_;
 }
 
 std::string World::Explain(const FieldOverflow& fault) const {
   const auto* at = static_cast<const std::byte*>(fault.Field());
   for (const Table* table : Tables()) {
-    const ByteSpan bytes = table->Contents();
+    const ByteSpan bytes = table->RecordBytes();
     const RecordLayout* layout = table->Layout();
-    if (!layout || at < bytes.data() || at >= bytes.data() + bytes.size()) continue;
+    const auto before = std::less<const std::byte*>();
+    if (bytes.empty() || before(at, bytes.data()) || !before(at, bytes.data() + bytes.size()))
+      continue;
     const auto offset = static_cast<int>(at - bytes.data());
     const int number = offset / layout->Size + 1;
     for (const Field& field : layout->Fields)

@@ -75,7 +75,8 @@ class World {
   bool HasGame() const { return gameInfos_.Count() > 0; }
   Day Today() const { return Game().Today; }
 
-  // By uid; nullptr for 0 and for a uid that leads nowhere. Constant time.
+  // By uid; nullptr for 0 and for a uid that leads nowhere. Constant time for a uid that leads
+  // somewhere.
   Worker* FindWorker(int uid) { return Find(workers_, workerIndex_, uid); }
   const Worker* FindWorker(int uid) const { return Find(workers_, workerIndex_, uid); }
   Promotion* FindPromotion(int uid) { return Find(promotions_, promotionIndex_, uid); }
@@ -111,7 +112,7 @@ class World {
   std::vector<FileChange> Changes() const;
   void MarkCommitted();
   void Rollback();
-  /// "Worker 17 (Bram Okafor), Morale: The value ..." for a field of this world, else the fault's
+  /// "wrestler.dat, record 17, Morale: The value ..." for a field of this world, else the fault's
   /// own text.
   std::string Explain(const FieldOverflow& fault) const;
 
@@ -146,6 +147,7 @@ class World {
   TextFile notes_{"notes.dat"};
   mutable UidIndex workerIndex_, promotionIndex_, staffIndex_, networkIndex_, sponsorIndex_;
   std::unique_ptr<Draws> chance_, prose_;
+  SessionWords committedSession_;
 };
 
 /// The names of the ten files that a new game copies and the file check looks for, in their fixed
@@ -175,6 +177,8 @@ int World::NumberByUid(const Records<T>& records, UidIndex& index, int uid) {
     return number >= 1 && number <= records.Count() && records[number].Uid == uid;
   };
   if (at < index.Numbers.size() && holds(index.Numbers[at])) return index.Numbers[at];
+  if (const int last = records.Count(); holds(last) && at < index.Numbers.size())
+    return index.Numbers[at] = last;  // just appended
   int found = 0;
   for (int number = 1; number <= records.Count() && found == 0; ++number)
     if (records[number].Uid == uid) found = number;

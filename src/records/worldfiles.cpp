@@ -73,6 +73,8 @@ std::string TableDifference(const Table& table, const Table& expected) {
   } else if (bytes.size() == wanted.size()) {
     return std::equal(bytes.begin(), bytes.end(), wanted.begin()) ? "" : file + " reads otherwise";
   }
+  if (bytes.size() == wanted.size() && !std::equal(bytes.begin(), bytes.end(), wanted.begin()))
+    return file + " differs behind its last record";
   if (bytes.size() != wanted.size())
     return file + ": " + std::to_string(bytes.size()) + " bytes, expected " +
            std::to_string(wanted.size());

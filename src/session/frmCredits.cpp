@@ -17,6 +17,10 @@ class frmCredits : public ui::Screen {
          {Style::Body,
           "Every promotion, worker, network and sponsor is invented. The people who "
           "invented them apologise to nobody."},
+         {Style::Strong, "The office"},
+         {Style::Body,
+          "Maeve (the writers' room), The Lamplighter, Rafe Tolland and QVD (the "
+          "columns), Dalton Reeve (who owns more than he should)."},
          {Style::Strong, "Thanks"},
          {Style::Body,
           "To everybody who has ever taken a fall on a hard canvas so that somebody "

@@ -60,6 +60,11 @@ class frmDisclaimer : public ui::Screen {
   }
 
  private:
+  void imgback_Click() {
+    Load();  // what was missing may have been put back
+    if (cmdcontinue.Enabled) return cmdcontinue_Click();
+    desk().Say("Error!", lblverdict.Text);
+  }
   void cmdcontinue_Click() {
     Close();
     desk().Open("frmGameMenu");
@@ -67,7 +72,7 @@ class frmDisclaimer : public ui::Screen {
   void cmdquit_Click() { desk().CloseAll(); }
 
   Game& game_;
-  ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
+  ui::Picture imgback{*this, "imgback", "vxm_back.jpg", &frmDisclaimer::imgback_Click};
   ui::Label lblstatement{
       *this, "lblstatement",
       "Grapplemont is a game about running a wrestling promotion. It is free, and it is "

@@ -1,3 +1,4 @@
+#include "session/screensenter.h"
 #include "session/sessionscreens.h"
 #include "session/slots.h"
 
@@ -26,18 +27,16 @@ class frmLoadGame : public ui::Screen {
       const SlotSummary summary = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot));
       cmdload(slot).Text = summary.Caption;
       cmdload(slot).Enabled = summary.Playable;
-      if (summary.Empty) cmdload(slot).Tip = "No game is kept in this slot.";
+      cmdload(slot).Tip = summary.Empty      ? "No game is kept in this slot."
+                          : summary.Playable ? ""
+                                             : "This slot can't be loaded.";
       lbldetails(slot).Text = summary.Details;
     }
   }
   void Return() override { Load(); }
 
  private:
-  void cmdload_Click(int slot) {
-    game_.OpenSlot(slot);
-    desk().CloseAll();
-    desk().Open("frmMainScreen");
-  }
+  void cmdload_Click(int slot) { EnterSlot(game_, slot); }
   void cmdback_Click() { Close(); }
 
   Game& game_;

@@ -119,7 +119,9 @@ class frmNewGame : public ui::Screen {
                      [](auto* a, auto* b) { return a->Over > b->Over; });
     lstroster.Clear();
     for (const Worker* worker : roster)
-      lstroster.Add({worker->Name + RoleSuffix(*worker), PositionText(worker->Position),
+      lstroster.Add({worker->Name + RoleSuffix(*worker),
+                     PositionText(IsSentAway(*worker) ? worker->Position - kSentToDevelopment
+                                                      : int(worker->Position)),
                      ui::Cell(DispositionText(worker->Disposition), ToneOf(*worker)),
                      ui::Cell(worker->Over)});
   }

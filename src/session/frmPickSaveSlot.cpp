@@ -1,5 +1,8 @@
+#include <algorithm>
+
 #include "records/slot.h"
 #include "session/newgame.h"
+#include "session/screensenter.h"
 #include "session/sessionscreens.h"
 #include "session/slots.h"
 #include "ui/waiting.h"
@@ -38,24 +41,38 @@ class frmPickSaveSlot : public ui::Screen {
 
  private:
   void cmdload_Click(int slot) {
+    if (Slot::Busy(game_.Disk(), game_.SlotFolder(slot))) throw SlotBusy(game_.SlotFolder(slot));
     if (!ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot)).Empty &&
-        !desk().Ask("Are you sure?", "Are you sure you want to overwrite this slot?"))
+        !desk().Ask("Are you sure?", "Are you sure you want to overwrite this slot?",
+                    ui::Default::No))
       return;
     choice_.SaveName =
         desk().Prompt("User Entry", "Save Game Name:", "Save Game " + std::to_string(slot));
     if (detail::Trimmed(choice_.SaveName).empty()) return;
-    World world(game_.NewDraws(0), game_.NewDraws(1));
+    World world(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse));
     world.Load(ReadWorldFiles(game_.Disk(), game_.DataFolder()));
     desk().Say("Database creation",
                "The database for this game will now be created.\n"
                "This process can take up to 10 minutes depending on the speed of your machine.\n"
                "Do not press ctrl-alt-del while it is happening, as you will corrupt your data.");
     Waiting waiting(game_);
-    NewGame(world, choice_, [&](std::string_view step) { waiting.Tell(step); });
+    const auto mended = NewGame(world, choice_, [&](std::string_view step) { waiting.Tell(step); });
     Slot::Create(game_.Disk(), game_.SlotFolder(slot), FilesOf(world), game_.NewWorldId());
-    game_.OpenSlot(slot);
-    desk().CloseAll();
-    desk().Open("frmMainScreen");
+    waiting.Done();
+    TellOfMending(mended);
+    EnterSlot(game_, slot);
+  }
+
+  /// What the clean-up of the data had to put right; a world in order is not worth a word.
+  void TellOfMending(const std::vector<Fault>& mended) {
+    if (mended.empty()) return;
+    constexpr std::size_t kShown = 12;
+    std::string text = "The default data was not in order. For this game it was put right:";
+    for (std::size_t i = 0; i < std::min(mended.size(), kShown); ++i)
+      text += "\n" + mended[i].Line();
+    if (mended.size() > kShown)
+      text += "\nand " + std::to_string(mended.size() - kShown) + " more.";
+    desk().Say("Database creation", text);
   }
   void cmdback_Click() { Close(); }
 

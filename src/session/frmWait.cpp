@@ -10,9 +10,8 @@ class frmWait : public ui::Screen {
  public:
   explicit frmWait(Game& game) : Screen(game.Desk(), "frmWait", "One Moment", ui::Role::Wait) {
     const int set = game.HasWorld() ? int(game.World().Game().LoadingSet) : 0;
-    const auto draws = game.NewDraws(2);
-    imgwait.File = DrawWaitingPicture(game.Disk(), game.PictureFolder(), set,
-                                      game.HasWorld() ? game.World().Prose() : *draws);
+    imgwait.File =
+        DrawWaitingPicture(game.Disk(), game.PictureFolder(), set, *game.NewDraws(Game::kPictures));
   }
 
   ui::Page Layout() override {
@@ -33,7 +32,7 @@ class frmLoadingScreens : public ui::Screen {
       : Screen(game.Desk(), "frmLoadingScreens", "Loading Screens"), game_(game) {
     cmbset.Add("Graphics Set Default", 0);
     for (int set = 1; set <= 4; ++set) cmbset.Add("Graphics Set " + std::to_string(set), set);
-    cmbset.Select(1);
+    cmbset.SelectKey(game.HasWorld() ? int(game.World().Game().LoadingSet) : 0);
   }
 
   ui::Page Layout() override {

@@ -30,13 +30,19 @@ constexpr std::array<StartingSpend, 6> kStartingSpend = {{
 }};
 
 struct PostTarget {
+  int Base;
   int PerPromotion;
   int Most;
 };
 // By post from Owner to Trainer; the world has its Owners whatever its size.
-constexpr std::array<PostTarget, 8> kPostTargets = {
-    {{0, 45}, {5, 150}, {5, 150}, {6, 100}, {4, 120}, {8, 150}, {4, 150}, {3, 120}}};
-constexpr int kOwners = 45;
+constexpr std::array<PostTarget, 8> kPostTargets = {{{45, 0, 45},
+                                                     {0, 5, 150},
+                                                     {0, 5, 150},
+                                                     {0, 6, 100},
+                                                     {0, 4, 120},
+                                                     {0, 8, 150},
+                                                     {0, 4, 150},
+                                                     {0, 3, 120}}};
 
 void NewGameInfo(World& world, const NewGameChoice& choice) {
   GameInfo game;
@@ -242,9 +248,8 @@ int WorkerTarget(int promotions) {
 }
 
 int StaffTarget(int position, int promotions) {
-  if (position == kOwner) return kOwners;
   const PostTarget& target = kPostTargets.at(static_cast<std::size_t>(position - 1));
-  return std::min(promotions * target.PerPromotion, target.Most);
+  return std::min(target.Base + promotions * target.PerPromotion, target.Most);
 }
 
 std::vector<Fault> NewGame(World& world, const NewGameChoice& choice,

@@ -7,20 +7,37 @@
 
 namespace grapplemont {
 
-SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) {
-  const std::string path = folder + "/" + std::string(LayoutOf<GameInfo>().File);
-  if (disk.Look(path) != Disk::Kind::File) return {};
-  SlotSummary summary{"Save Slot Not In 2.0 Format", "", false, false};
-  const Bytes bytes = ReadFile(disk, path);
+namespace {
+
+SlotSummary Unreadable(const std::string& reason) {
+  return {"Slot Cannot Be Read", reason, false, false};
+}
+
+SlotSummary OtherFormat() {
+  return {"Save Slot Not In 2.0 Format", "", false, false};
+}
+
+}  // namespace
+
+SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
+  const std::string name(LayoutOf<GameInfo>().File);
+  const Disk::Kind kind = disk.Look(folder + "/" + name);
+  if (kind == Disk::Kind::Folder || kind == Disk::Kind::Other)
+    return Unreadable(name + " is no plain file.");
+  if (disk.Look(folder) == Disk::Kind::Nothing && disk.Look(folder + ".old") == Disk::Kind::Nothing)
+    return {};
+  const auto bytes = Slot::Peek(disk, folder, name);
+  if (!bytes) return {};
   GameInfo game;
-  if (bytes.size() < sizeof(GameInfo)) return summary;
-  std::memcpy(&game, bytes.data(), sizeof(GameInfo));
-  if (!(game.Version == kVersion)) return summary;
-  summary.Caption = game.SaveName.Str();
-  summary.Details = "( " + std::string(Says(kDifficulties, game.Difficulty)) + " level, started " +
-                    MonthYear(game.StartDate) + ", current date " + MonthYear(game.Today) + ")";
-  summary.Playable = true;
-  return summary;
+  if (bytes->size() < sizeof(GameInfo)) return OtherFormat();
+  std::memcpy(&game, bytes->data(), sizeof(GameInfo));
+  if (!(game.Version == kVersion)) return OtherFormat();
+  return {game.SaveName.Str(),
+          "( " + std::string(Says(kDifficulties, game.Difficulty)) + " level, started " +
+              MonthYear(game.StartDate) + ", current date " + MonthYear(game.Today) + ")",
+          false, true};
+} catch (const DiskError& fault) {
+  return Unreadable(fault.what());
 }
 
 std::vector<std::string> MissingDataFiles(Disk& disk, const std::string& folder) {

@@ -87,42 +87,75 @@ std::string Type(Desk& desk, Screen& screen, std::string_view name, std::string_
   return {};
 }
 
-std::string Pick(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText) {
+namespace {
+
+using FindIn = int (*)(const Control& control, std::string_view wanted);
+
+int ByNumberOrText(const Control& control, std::string_view wanted) {
+  if (const auto* combo = dynamic_cast<const ComboBox*>(&control))
+    return FindRow(wanted, combo->Count(), [&](int row) -> std::string_view {
+      return combo->Rows()[static_cast<std::size_t>(row - 1)];
+    });
+  const auto& list = dynamic_cast<const ListBox&>(control);
+  return FindRow(wanted, list.Count(), [&](int row) { return FirstColumn(list, row); });
+}
+
+int ByNumber(const Control& control, std::string_view wanted) {
+  const auto* combo = dynamic_cast<const ComboBox*>(&control);
+  const int count = combo ? combo->Count() : dynamic_cast<const ListBox&>(control).Count();
+  return FindRow(wanted, count, [](int) { return std::string_view(); });
+}
+
+std::string PickBy(FindIn find, Desk& desk, Screen& screen, std::string_view name,
+                   std::string_view wanted) {
   std::string why;
   Control* control = Reach(screen, name, why);
   if (!control) return why;
-  if (auto* combo = dynamic_cast<ComboBox*>(control)) {
-    const int row = FindRow(rowOrText, combo->Count(), [&](int r) -> std::string_view {
-      return combo->Rows()[static_cast<std::size_t>(r - 1)];
-    });
-    if (row == 0) return NoRow(*combo, rowOrText);
+  auto* combo = dynamic_cast<ComboBox*>(control);
+  auto* list = dynamic_cast<ListBox*>(control);
+  if (!combo && !list) return CannotBe(*control, "picked from");
+  const int row = find(*control, wanted);
+  if (row == 0) return NoRow(*control, wanted);
+  if (combo) {
     combo->Select(row);
     desk.Event(combo->OnPick);
-  } else if (auto* list = dynamic_cast<ListBox*>(control)) {
-    const int row = FindRow(rowOrText, list->Count(), [&](int r) { return FirstColumn(*list, r); });
-    if (row == 0) return NoRow(*list, rowOrText);
+  } else {
     list->Multi ? list->Toggle(row) : list->Select(row);
     desk.Event(list->OnPick);
-  } else {
-    return CannotBe(*control, "picked from");
   }
   return {};
 }
 
-std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText) {
+std::string OpenBy(FindIn find, Desk& desk, Screen& screen, std::string_view name,
+                   std::string_view wanted) {
   std::string why;
   Control* control = Reach(screen, name, why);
   if (!control) return why;
   auto* list = dynamic_cast<ListBox*>(control);
   if (!list || !list->OnOpen) return CannotBe(*control, "opened");
-  const int row = FindRow(rowOrText, list->Count(), [&](int r) { return FirstColumn(*list, r); });
-  if (row == 0) return NoRow(*list, rowOrText);
+  const int row = find(*control, wanted);
+  if (row == 0) return NoRow(*list, wanted);
   list->Select(row);
   desk.Event([list] {
     if (list->OnPick) list->OnPick();
     list->OnOpen();
   });
   return {};
+}
+
+}  // namespace
+
+std::string Pick(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText) {
+  return PickBy(ByNumberOrText, desk, screen, name, rowOrText);
+}
+std::string Pick(Desk& desk, Screen& screen, std::string_view name, int row) {
+  return PickBy(ByNumber, desk, screen, name, std::to_string(row));
+}
+std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText) {
+  return OpenBy(ByNumberOrText, desk, screen, name, rowOrText);
+}
+std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, int row) {
+  return OpenBy(ByNumber, desk, screen, name, std::to_string(row));
 }
 
 std::string Check(Desk& desk, Screen& screen, std::string_view name, bool on) {

@@ -15,8 +15,11 @@ std::string Click(Desk& desk, Screen& screen, std::string_view name);
 std::string Type(Desk& desk, Screen& screen, std::string_view name, std::string_view text);
 /// A row from 1 or the exact text of a row's first column; in a list that takes several it toggles.
 std::string Pick(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText);
+/// The row of this number, whatever its text and that of others.
+std::string Pick(Desk& desk, Screen& screen, std::string_view name, int row);
 /// Picks the row and opens it, as a double click does.
 std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText);
+std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, int row);
 std::string Check(Desk& desk, Screen& screen, std::string_view name, bool on);
 std::string Slide(Desk& desk, Screen& screen, std::string_view name, int value);
 

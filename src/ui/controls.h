@@ -75,6 +75,8 @@ class Control {
 class Label : public Control {
  public:
   Label(Screen& screen, std::string name, std::string text = {});
+  /// Where the number in the text is heading: an arrow up beside it above 0, down below 0.
+  Property<int> Trend{Changes(), 0};
 };
 
 class Button : public Control {
@@ -221,6 +223,8 @@ class ListBox : public Control {
   /// Puts other rows in; the selection stays on the same key when `keepSelection`.
   void Fill(std::vector<Row> rows, bool keepSelection = true);
   int Count() const { return static_cast<int>(rows_.size()); }
+  /// Grows with every change of columns or rows; picking leaves it as it is.
+  unsigned Contents() const { return contents_; }
   int Selected() const;           // the first selected row, from 1; 0 none
   int Key() const;                // its key; 0 none
   std::vector<int> Keys() const;  // of all selected rows
@@ -235,8 +239,11 @@ class ListBox : public Control {
   Handler OnOpen;
 
  private:
+  void ContentsChanged();
+
   std::vector<Column> columns_;
   std::vector<Row> rows_;
+  unsigned contents_ = 1;
 };
 
 /// Lines or bars over time.

@@ -23,6 +23,7 @@ void Desk::Open(std::string_view name) {
 }
 
 void Desk::Open(std::unique_ptr<Screen> screen) {
+  if (depth_ == 0) return Event([&] { Open(std::move(screen)); });
   screens_.push_back(std::move(screen));
   LoadTop();
 }
@@ -75,17 +76,24 @@ void Desk::Event(const Handler& handler) {
 }
 
 void Desk::TakeBack(const Stack& before, const std::exception& fault) {
-  std::string reason = work_ ? work_->Explain(fault) : fault.what();
-  try {
-    if (work_) work_->Rollback();
-  } catch (const std::exception& worse) {
-    reason += "\n" + (work_ ? work_->Explain(worse) : std::string(worse.what()));
-  }
+  std::string reason = Explained(fault);
+  const auto attempt = [&](const Handler& step) {
+    try {
+      step();
+    } catch (const std::exception& worse) {
+      reason += "\n" + Explained(worse);
+    }
+  };
+  if (work_) attempt([this] { work_->Rollback(); });
   for (auto& screen : screens_) closed_.push_back(screen);
   screens_ = before;
-  for (auto& screen : screens_)
-    if (screen->loaded_) screen->Return();
+  for (auto& screen : before)
+    if (screen->loaded_) attempt([&] { screen->Return(); });
   Say("Error!", reason);
+}
+
+std::string Desk::Explained(const std::exception& fault) const {
+  return work_ ? work_->Explain(fault) : fault.what();
 }
 
 }  // namespace grapplemont::ui

@@ -66,6 +66,7 @@ class Desk {
  private:
   using Stack = std::vector<std::shared_ptr<Screen>>;
   void TakeBack(const Stack& before, const std::exception& fault);
+  std::string Explained(const std::exception& fault) const;
   void LoadTop();
 
   std::map<std::string, Factory, std::less<>> factories_;

@@ -14,30 +14,40 @@ Game::~Game() {
   desk_.SetWork(nullptr);
 }
 
-std::unique_ptr<Draws> Game::NewDraws(std::uint64_t stream) {
-  return std::make_unique<SeededDraws>(options_.Seed ? *options_.Seed + stream : MachineSeed());
+std::unique_ptr<Draws> Game::NewDraws(Stream stream) {
+  // Streams of one seed lie far apart, and no stream of a seed is another's of the next seed.
+  constexpr std::uint64_t kApart = 0x9E3779B97F4A7C15;
+  return std::make_unique<SeededDraws>(options_.Seed ? *options_.Seed ^ (kApart * stream)
+                                                     : MachineSeed());
 }
 
 std::uint64_t Game::NewWorldId() {
   return MachineSeed();
 }
 
-void Game::OpenSlot(int slot) {
+std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   CloseSlot();
-  auto files = std::make_unique<Slot>(disk_, SlotFolder(slot), KnownFiles());
-  auto world = std::make_unique<grapplemont::World>(NewDraws(0), NewDraws(1));
+  auto files = std::make_unique<Slot>(disk_, SlotFolder(slot), KnownFiles(),
+                                      dropDamaged ? Damage::Drop : Damage::Refuse);
+  auto world = std::make_unique<grapplemont::World>(NewDraws(kPlay), NewDraws(kProse));
   world->Load(files->Files());
   files->Forget();
   world->Session.StartSize = world->Player().Size;
+  world->MarkCommitted();
   slot_ = std::move(files);
   world_ = std::move(world);
+  return slot_->Remarks();
 }
 
 void Game::CloseSlot() {
   if (!slot_) return;
   const std::unique_ptr<Slot> closing = std::move(slot_);
   world_.reset();
-  closing->Checkpoint();
+  try {
+    closing->Checkpoint();
+  } catch (const DiskError&) {
+    // The journal still holds every commit; the next opening replays it.
+  }
 }
 
 World& Game::World() {
@@ -49,7 +59,12 @@ void Game::Commit() {
   if (!world_) return;
   const auto changes = world_->Changes();
   if (changes.empty()) return;
-  slot_->Commit(changes);
+  try {
+    slot_->Commit(changes);
+  } catch (const DiskError&) {
+    if (slot_->Committed()) world_->MarkCommitted();
+    throw;
+  }
   world_->MarkCommitted();
 }
 

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "records/clock.h"
 #include "records/disk.h"
@@ -36,9 +37,10 @@ class Game : public ui::Work {
   /// "s1" to "s8" in the home.
   std::string SlotFolder(int slot) const { return Path("s" + std::to_string(slot)); }
   Day PresentDay() const { return options_.Today(); }
-  /// A source of chance for a world: from the seed if one was given, else from the operating
-  /// system.
-  std::unique_ptr<Draws> NewDraws(std::uint64_t stream = 0);
+  /// What chance is for; each has a stream of its own.
+  enum Stream : std::uint64_t { kPlay, kProse, kWorldMaking, kWorldProse, kPictures };
+  /// A source of chance: from the seed if one was given, else from the operating system.
+  std::unique_ptr<Draws> NewDraws(Stream stream);
 
   /// A number that no other world has, for a slot that is made.
   std::uint64_t NewWorldId();
@@ -47,9 +49,14 @@ class Game : public ui::Work {
   /// is registered.
   std::function<void(bool cancelled)> AdvanceDay;
 
-  /// Makes the slot's world the open one. Throws SlotBusy, SlotDamaged, DiskError or WorldFault;
-  /// then none is open.
-  void OpenSlot(int slot);
+  /// Brings what the main screen shows up to date, and opens what waits for the player; screens
+  /// that manage something call it when they close. Set when the main screen is registered.
+  std::function<void()> RefreshMainScreen;
+
+  /// Makes the slot's world the open one. Throws SlotBusy, DiskError, WorldFault, and SlotDamaged
+  /// unless the commits behind the damage may be dropped; then none is open. Gives what was left
+  /// aside, a line each.
+  std::vector<std::string> OpenSlot(int slot, bool dropDamaged = false);
   /// Brings the open world's files up to date and lets go of it.
   void CloseSlot();
   bool HasWorld() const { return world_ != nullptr; }
@@ -66,7 +73,6 @@ class Game : public ui::Work {
   ui::Desk& desk_;
   grapplemont::Disk& disk_;
   Options options_;
-  int openSlot_ = 0;
   std::unique_ptr<Slot> slot_;
   std::unique_ptr<grapplemont::World> world_;
 };

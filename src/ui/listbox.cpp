@@ -11,27 +11,33 @@ ListBox::ListBox(Screen& screen, std::string name, std::vector<Column> columns, 
       OnOpen(std::move(open)),
       columns_(std::move(columns)) {}
 
+void ListBox::ContentsChanged() {
+  ++contents_;
+  ++Changes();
+}
+
 void ListBox::SetColumns(std::vector<Column> columns) {
   columns_ = std::move(columns);
-  ++Changes();
+  ContentsChanged();
 }
 
 void ListBox::Clear() {
   rows_.clear();
-  ++Changes();
+  ContentsChanged();
 }
 
 void ListBox::Add(std::vector<Cell> cells, int key) {
   rows_.push_back({std::move(cells), key, false});
-  ++Changes();
+  ContentsChanged();
 }
 
 void ListBox::Fill(std::vector<Row> rows, bool keepSelection) {
-  const std::vector<int> kept = keepSelection ? Keys() : std::vector<int>{};
-  for (Row& row : rows) row.Selected = std::find(kept.begin(), kept.end(), row.Key) != kept.end();
+  std::vector<int> kept = keepSelection ? Keys() : std::vector<int>{};
+  std::sort(kept.begin(), kept.end());
+  for (Row& row : rows) row.Selected = std::binary_search(kept.begin(), kept.end(), row.Key);
   if (rows == rows_) return;
   rows_ = std::move(rows);
-  ++Changes();
+  ContentsChanged();
 }
 
 int ListBox::Selected() const {

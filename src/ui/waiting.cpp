@@ -4,20 +4,17 @@
 
 namespace grapplemont {
 
-Waiting::Waiting(Game& game) : game_(game) {
-  if (!game_.Desk().Knows("frmWait")) return;
-  game_.Desk().Open("frmWait");
-  screen_ = game_.Desk().Top();
-  game_.Desk().Repaint();
-}
-
 void Waiting::Done() {
   if (screen_) game_.Desk().Close(*screen_);
   screen_ = nullptr;
 }
 
 void Waiting::Tell(std::string_view step) {
-  if (!screen_) return;
+  if (!screen_) {
+    if (!game_.Desk().Knows("frmWait")) return;
+    game_.Desk().Open("frmWait");
+    screen_ = game_.Desk().Top();
+  }
   if (ui::Control* label = screen_->Find("lblstep")) label->Text = InWords(step);
   game_.Desk().Repaint();
 }

@@ -11,7 +11,7 @@ namespace grapplemont {
 /// with all else that it opened.
 class Waiting {
  public:
-  explicit Waiting(Game& game);
+  explicit Waiting(Game& game) : game_(game) {}
   Waiting(const Waiting&) = delete;
   Waiting& operator=(const Waiting&) = delete;
   /// "RivalWorkerHiring" is shown as "Rival worker hiring".

@@ -22,7 +22,6 @@ std::vector<std::string> StepsOfDayInto(Day morning) {
   return steps;
 }
 
-const std::vector<std::string> kEvening = {"PlayerShowConsequences", "RivalShows"};
 const std::vector<std::string> kDailyNames = {"OwnerlessPromotions", "RivalWorkerHiring",
                                               "RivalStaffHiring", "RivalSponsorSigning",
                                               "DailyWorkerUpkeep"};
@@ -48,13 +47,11 @@ std::vector<std::string> Joined(std::initializer_list<std::vector<std::string>> 
 }
 
 TEST(AdvanceDay, RunsItsBlocksInTheirFixedOrder) {
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 3), Joined({kEvening, kDailyNames, kClosingNames}));
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9),
-            Joined({kEvening, kDailyNames, kMondayNames, kClosingNames}));
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1),
-            Joined({kEvening, kDailyNames, kFirstNames, kClosingNames}));
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 3), Joined({kDailyNames, kClosingNames}));
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9), Joined({kDailyNames, kMondayNames, kClosingNames}));
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1), Joined({kDailyNames, kFirstNames, kClosingNames}));
   EXPECT_EQ(StepsOfDayInto(year{2026} / 6 / 1),
-            Joined({kEvening, kDailyNames, kMondayNames, kFirstNames, kClosingNames}));
+            Joined({kDailyNames, kMondayNames, kFirstNames, kClosingNames}));
 }
 
 TEST(AdvanceDay, AnswersTapesOnlyOnTheFirstOfAMonth) {
@@ -146,7 +143,9 @@ TEST(WriterWorkload, BringsAMailWhenTheWritersAreTooFew) {
     World world = small.Promotion("NEW").Staff("Rival Pen", kWriter).Game("CWA");
     WriterWorkload(world);
     EXPECT_EQ(world.News().Count(), c.Mail ? 1 : 0) << c.Shows << " shows, " << c.Writers;
-    if (c.Mail) EXPECT_EQ(world.News()[1].From.View(), "Maeve");
+    if (c.Mail) {
+      EXPECT_EQ(world.News()[1].From.View(), "Maeve");
+    }
   }
 }
 

@@ -58,7 +58,7 @@ TEST(Dates, ReadAsTheScreensShowThem) {
     ASSERT_EQ(Format("%A, %d %B %Y", parts), LongDate(day));
     ASSERT_EQ(Format("%d %B %Y", parts), PlainDate(day));
     ASSERT_EQ(Format("%B %Y", parts), MonthYear(day));
-    ASSERT_EQ(Format("%d/%m/%Y", parts), ShortDate(day));
+    ASSERT_EQ(Format("%d/%m/%y", parts), ShortDate(day));
     ASSERT_EQ(Format("%Y-%m-%d", parts), IsoDate(day));
     ASSERT_EQ(day, ParseIsoDate(IsoDate(day)));
   }

@@ -194,6 +194,8 @@ TEST(Text, TakesItsOwnTailAndEveryByte) {
   Text<6> text("abcdef");
   text = text.View().substr(2);
   EXPECT_EQ("cdef", text.View());
+  text = std::string_view();
+  EXPECT_EQ("", text.View());
   Text<4> odd("\xE9\0\xFF\n"s);
   EXPECT_EQ("\xE9\0\xFF\n"s, odd.View());
 }

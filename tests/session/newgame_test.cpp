@@ -154,8 +154,9 @@ TEST(NewGame, StartsWorkersFreshAndTheNovicesUndebuted) {
     EXPECT_GE(worker.Potential, 30) << worker.Name.Str();
     const bool novice = worker.Name == "Dev One" || worker.Name == "Camp One";
     EXPECT_EQ(worker.Debuted, !novice) << worker.Name.Str();
-    if (worker.Employer != 0 && !worker.Unsackable)
+    if (worker.Employer != 0 && !worker.Unsackable) {
       EXPECT_TRUE(worker.ContractMonths >= 9 && worker.ContractMonths <= 38);
+    }
   }
 }
 
@@ -180,7 +181,7 @@ TEST(NewGame, BringsTheOwnersWelcome) {
   const World plain = Started("CWA");
   ASSERT_EQ(plain.News().Count(), 1);
   EXPECT_EQ(plain.News()[1].From.View(), "Ruth Vane");
-  EXPECT_EQ(plain.News()[1].Date.View(), "01/04/2026");
+  EXPECT_EQ(plain.News()[1].Date.View(), "01/04/26");
   EXPECT_EQ(plain.News()[1].Body.View(),
             "Pat Lee, i wish you the best of luck with your new job. You have my full support.");
   const World merry = Started("NEW");

@@ -387,6 +387,7 @@ World CopyOf(const World& world) {
   World copy;
   copy.Load(BytesOf(world));
   copy.Session = world.Session;
+  copy.MarkCommitted();
   return copy;
 }
 

@@ -1,0 +1,103 @@
+#include "console/command.h"
+
+#include <algorithm>
+#include <array>
+
+namespace grapplemont::console {
+
+namespace {
+
+using A = Arguments;
+constexpr std::array<VerbRow, 14> kVerbs = {{
+    {Verb::Show, A::MaybeName, "show", "show [NAME]", "the top screen, or all of one control"},
+    {Verb::Click, A::Name, "click", "click NAME", "press a button, a picture or a box"},
+    {Verb::Type, A::NameAndMaybeText, "type", "type NAME TEXT",
+     "put TEXT into a text box; without TEXT empty it; \\n starts a new line in a long one"},
+    {Verb::Pick, A::NameAndText, "pick", "pick NAME ROW-or-TEXT",
+     "choose a row by its number from 1 or its first column"},
+    {Verb::Open, A::NameAndText, "open", "open NAME ROW-or-TEXT", "double click a row"},
+    {Verb::Check, A::NameAndText, "check", "check NAME on|off", "set a check box or an option"},
+    {Verb::Slide, A::NameAndText, "slide", "slide NAME VALUE", "move a scroll bar"},
+    {Verb::Ok, A::None, "ok", "ok", "to a message: go on"},
+    {Verb::Yes, A::None, "yes", "yes", "to a question"},
+    {Verb::No, A::None, "no", "no", "to a question"},
+    {Verb::Enter, A::MaybeText, "enter", "enter TEXT", "to a box that wants a text"},
+    {Verb::Cancel, A::None, "cancel", "cancel", "to a box that wants a text: give none"},
+    {Verb::Help, A::None, "help", "help", "these lines"},
+    {Verb::Quit, A::None, "quit", "quit", "leave; every click is saved already"},
+}};
+static_assert([] {
+  for (std::size_t i = 0; i < kVerbs.size(); ++i)
+    if (kVerbs[i].Is != static_cast<Verb>(i)) return false;
+  return true;
+}());
+
+constexpr std::string_view kBlanks = " \t";
+
+std::string_view WithoutBlanks(std::string_view text) {
+  const auto first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+/// Takes the first word and the one blank behind it off the front.
+std::string_view TakeWord(std::string_view& text) {
+  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+  const std::string_view word = text.substr(0, text.find_first_of(kBlanks));
+  text.remove_prefix(std::min(word.size() + 1, text.size()));
+  return word;
+}
+
+bool Fits(const VerbRow& row, const Command& command) {
+  const bool noText = WithoutBlanks(command.Text).empty();
+  switch (row.Takes) {
+    case A::None:
+    case A::MaybeName:
+      return noText;
+    case A::Name:
+      return !command.Name.empty() && noText;
+    case A::NameAndText:
+      return !command.Name.empty() && !command.Text.empty();
+    case A::NameAndMaybeText:
+      return !command.Name.empty();
+    case A::MaybeText:
+      return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::span<const VerbRow> Verbs() {
+  return kVerbs;
+}
+
+std::optional<Command> ReadCommand(std::string_view line, std::string& why) {
+  if (WithoutBlanks(line).empty()) return Command{};
+  const std::string_view word = TakeWord(line);
+  const auto row =
+      std::find_if(kVerbs.begin(), kVerbs.end(), [&](auto& v) { return v.Word == word; });
+  if (row == kVerbs.end()) {
+    why = "There is no command \"" + std::string(word) + "\"; \"help\" lists them.";
+    return std::nullopt;
+  }
+  Command command{row->Is, {}, {}};
+  if (row->Takes != A::None && row->Takes != A::MaybeText) command.Name = TakeWord(line);
+  command.Text = line;
+  if (Fits(*row, command)) return command;
+  why = "Write it as \"" + std::string(row->Form) + "\".";
+  return std::nullopt;
+}
+
+std::string HelpText() {
+  std::size_t width = 0;
+  for (const VerbRow& row : kVerbs) width = std::max(width, row.Form.size());
+  std::string text;
+  for (const VerbRow& row : kVerbs) {
+    text += "  " + std::string(row.Form) + std::string(width + 2 - row.Form.size(), ' ');
+    text += std::string(row.Does) + "\n";
+  }
+  return text;
+}
+
+}  // namespace grapplemont::console

@@ -1,0 +1,176 @@
+#include "console/console.h"
+
+#include <charconv>
+
+#include "console/lines.h"
+#include "records/charset.h"
+#include "ui/acts.h"
+
+namespace grapplemont::console {
+
+namespace {
+
+constexpr std::size_t kLongestError = 300;
+
+/// Line breaks and backslashes of a long text box as they are typed on one line.
+std::string Unescaped(std::string_view typed) {
+  std::string text;
+  for (std::size_t i = 0; i < typed.size(); ++i) {
+    const char next = typed[i] == '\\' && i + 1 < typed.size() ? typed[i + 1] : '\0';
+    if (next != 'n' && next != '\\') {
+      text += typed[i];
+      continue;
+    }
+    text += next == 'n' ? '\n' : '\\';
+    ++i;
+  }
+  return text;
+}
+
+std::string Typed(const ui::Screen& screen, const Command& command) {
+  const auto* box = dynamic_cast<const ui::TextBox*>(screen.Find(command.Name));
+  return box && box->MultiLine ? Unescaped(command.Text) : command.Text;
+}
+
+std::string Check(ui::Desk& desk, ui::Screen& screen, const Command& command) {
+  if (command.Text != "on" && command.Text != "off")
+    return "Write it as \"" + std::string(RowOf(command.Is).Form) + "\".";
+  return ui::Check(desk, screen, command.Name, command.Text == "on");
+}
+
+std::string Slide(ui::Desk& desk, ui::Screen& screen, const Command& command) {
+  int value = 0;
+  const char* const last = command.Text.data() + command.Text.size();
+  const auto [end, fault] = std::from_chars(command.Text.data(), last, value);
+  if (fault != std::errc() || end != last)
+    return "\"" + command.Text + "\" is no whole number that a scroll bar could go to.";
+  return ui::Slide(desk, screen, command.Name, value);
+}
+
+bool Answers(Verb verb, Box::Kind box) {
+  switch (box) {
+    case Box::Kind::Ok:
+      return verb == Verb::Ok;
+    case Box::Kind::YesNo:
+      return verb == Verb::Yes || verb == Verb::No;
+    case Box::Kind::Input:
+      return verb == Verb::Enter || verb == Verb::Cancel;
+  }
+  return false;
+}
+
+std::string WaitsFor(Box::Kind box) {
+  constexpr const char* kAnswers[] = {"\"ok\"", "\"yes\" or \"no\"",
+                                      "\"enter TEXT\" or \"cancel\""};
+  return std::string("A box is open; answer it with ") + kAnswers[static_cast<int>(box)] + ".";
+}
+
+}  // namespace
+
+Console::Console(std::istream& in, std::ostream& out, Settings settings)
+    : in_(in), out_(out), settings_(settings), due_(settings.Prompt) {}
+
+void Console::Run() {
+  while (!ended_ && !Empty())
+    if (const auto command = NextCommand()) Perform(*command);
+  if (Empty()) GiveAnswer();
+}
+
+void Console::Refuse(std::string why) {
+  if (why.size() > kLongestError) why = why.substr(0, kLongestError) + "...";
+  answer_.Error = ToUtf8(why);
+}
+
+void Console::GiveAnswer() {
+  if (due_) {
+    answer_.Top = Top();
+    answer_.Open = box_ ? &*box_ : nullptr;
+    out_ << (settings_.Json ? JsonAnswer(answer_) + "\n" : TextAnswer(answer_, settings_.Width));
+  }
+  due_ = false;
+  answer_ = {};
+}
+
+std::optional<Command> Console::NextCommand() {
+  for (;;) {
+    GiveAnswer();
+    if (settings_.Prompt) out_ << "> ";
+    out_.flush();
+    const auto line = out_ ? ReadLine(in_) : std::nullopt;
+    if (!line) break;
+    due_ = true;
+    std::string why;
+    const auto letters = Letters(*line, answer_.Error);
+    const auto command = letters ? ReadCommand(*letters, why) : std::nullopt;
+    if (!why.empty()) Refuse(why);
+    if (!command) continue;
+    if (command->Is == Verb::Quit) break;
+    if (!Look(*command)) return command;
+  }
+  due_ = false;
+  ended_ = true;
+  return std::nullopt;
+}
+
+bool Console::Look(const Command& command) {
+  if (command.Is == Verb::Help) {
+    answer_.Help = HelpText();
+  } else if (command.Is != Verb::Show) {
+    return false;
+  } else if (!command.Name.empty()) {
+    const ui::Control* control = Top() ? Top()->Find(command.Name) : nullptr;
+    if (control && control->Visible)
+      answer_.Only = command.Name;
+    else
+      Refuse("There is no \"" + command.Name + "\" to be seen.");
+  }
+  return true;
+}
+
+void Console::Perform(const Command& command) {
+  ui::Screen& top = *Top();
+  switch (command.Is) {
+    case Verb::Click:
+      return Refuse(ui::Click(*this, top, command.Name));
+    case Verb::Type:
+      return Refuse(ui::Type(*this, top, command.Name, Typed(top, command)));
+    case Verb::Pick:
+      return Refuse(ui::Pick(*this, top, command.Name, command.Text));
+    case Verb::Open:
+      return Refuse(ui::OpenRow(*this, top, command.Name, command.Text));
+    case Verb::Check:
+      return Refuse(Check(*this, top, command));
+    case Verb::Slide:
+      return Refuse(Slide(*this, top, command));
+    default:
+      return Refuse("No box is open.");
+  }
+}
+
+std::optional<Command> Console::AnswerTo(Box box) {
+  if (ended_) return std::nullopt;
+  const Box::Kind kind = box.Is;
+  box_ = std::move(box);
+  std::optional<Command> command;
+  while ((command = NextCommand()) && !Answers(command->Is, kind)) Refuse(WaitsFor(kind));
+  box_.reset();
+  return command;
+}
+
+void Console::Say(const std::string& title, const std::string& text) {
+  AnswerTo({Box::Kind::Ok, title, text});
+}
+
+bool Console::Ask(const std::string& title, const std::string& text, ui::Default answer) {
+  const auto command =
+      AnswerTo({Box::Kind::YesNo, title, text, answer == ui::Default::Yes ? "yes" : "no"});
+  return command && command->Is == Verb::Yes;
+}
+
+std::string Console::Prompt(const std::string& title, const std::string& text,
+                            const std::string& offered) {
+  const auto command = AnswerTo({Box::Kind::Input, title, text, offered});
+  return command && command->Is == Verb::Enter ? command->Text : std::string();
+}
+
+}  // namespace grapplemont::console

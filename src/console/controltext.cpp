@@ -1,0 +1,221 @@
+#include "console/controltext.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "console/columns.h"
+
+namespace grapplemont::console {
+
+namespace {
+
+// What is shown of a long control before "show NAME" is needed.
+constexpr int kRowsShown = 12;
+constexpr std::size_t kLinesShown = 60;
+constexpr std::size_t kNameWidth = 16, kKindWidth = 12, kIndent = 4;
+
+std::string Number(double value) {
+  if (std::abs(value) < 1e15 && value == std::floor(value))
+    return std::to_string(static_cast<long long>(value));
+  std::string text = std::to_string(value);
+  return text.substr(0, text.find('.') + 3);
+}
+
+std::string Counted(int count, const std::string& thing) {
+  return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
+}
+
+std::string Quoted(const std::string& text) {
+  return "\"" + text + "\"";
+}
+
+std::string Padded(std::string text, std::size_t width) {
+  text.resize(std::max(text.size(), width), ' ');
+  return text;
+}
+
+std::string Says(const ui::TextBox& box) {
+  return Quoted(box.Text) + (box.Text->empty() && !box.Hint.empty() ? " (" + box.Hint + ")" : "");
+}
+
+std::string Says(const ui::ComboBox& combo) {
+  if (combo.Count() == 0) return "nothing to choose from";
+  if (combo.Selected() == 0) return "nothing chosen of " + std::to_string(combo.Count());
+  return combo.Text.Get() + " (" + std::to_string(combo.Selected()) + " of " +
+         std::to_string(combo.Count()) + ")";
+}
+
+std::string Says(const ui::ListBox& list) {
+  if (list.Count() == 0) return list.EmptyText.empty() ? "no rows" : list.EmptyText;
+  std::string rows;
+  int chosen = 0;
+  for (int row = 1; row <= list.Count(); ++row) {
+    if (!list.Rows()[static_cast<std::size_t>(row - 1)].Selected) continue;
+    if (++chosen <= kRowsShown) rows += (chosen == 1 ? " " : ", ") + std::to_string(row);
+    if (chosen == kRowsShown + 1) rows += ", ...";
+  }
+  std::string text = Counted(list.Count(), "row");
+  if (chosen > 0) text += ", chosen" + rows;
+  if (list.Multi) text += " (any number may be chosen)";
+  return text;
+}
+
+std::string Says(const ui::Picture& picture) {
+  const std::string& text = picture.Text->empty() ? picture.File.Get() : picture.Text.Get();
+  return text + (picture.OnClick ? " (can be clicked)" : "");
+}
+
+std::string TrendWord(int trend) {
+  return trend == 0 ? "" : trend > 0 ? " (rising)" : " (falling)";
+}
+
+/// What stands behind name and kind.
+std::string Says(const ui::Control& control) {
+  using ui::Kind;
+  switch (control.Is()) {
+    case Kind::TextBox:
+      return Says(static_cast<const ui::TextBox&>(control));
+    case Kind::Button: {
+      const std::string& badge = static_cast<const ui::Button&>(control).Badge;
+      return control.Text.Get() + (badge.empty() ? "" : " [" + badge + "]");
+    }
+    case Kind::ComboBox:
+      return Says(static_cast<const ui::ComboBox&>(control));
+    case Kind::ListBox:
+      return Says(static_cast<const ui::ListBox&>(control));
+    case Kind::CheckBox:
+      return (static_cast<const ui::CheckBox&>(control).Checked ? "[x] " : "[ ] ") +
+             control.Text.Get();
+    case Kind::OptionButton:
+      return (static_cast<const ui::OptionButton&>(control).Checked ? "(o) " : "( ) ") +
+             control.Text.Get();
+    case Kind::ScrollBar: {
+      const auto& bar = static_cast<const ui::ScrollBar&>(control);
+      return std::to_string(bar.Value) + ", from " + std::to_string(bar.Min) + " to " +
+             std::to_string(bar.Max);
+    }
+    case Kind::Picture:
+      return Says(static_cast<const ui::Picture&>(control));
+    case Kind::Chart:
+    case Kind::Report:
+      return {};
+    case Kind::Label:
+      return control.Text.Get() + TrendWord(static_cast<const ui::Label&>(control).Trend);
+  }
+  return {};
+}
+
+/// The rows of a table, the chosen ones among them even where only the first few are shown.
+class Rows {
+ public:
+  Rows(std::vector<TableColumn> columns, bool whole) : text_(std::move(columns)), whole_(whole) {}
+
+  void Add(bool chosen, std::vector<std::string> cells) {
+    ++count_;
+    if (!whole_ && count_ > kRowsShown && (!chosen || count_ - hidden_ > 2 * kRowsShown)) {
+      ++hidden_;
+      return;
+    }
+    for (std::string& cell : cells) cell = Printable(cell);
+    text_.Add(count_, chosen, std::move(cells));
+  }
+
+  std::vector<std::string> Lines(const std::string& name, int width) const {
+    auto lines = text_.Lines(whole_ ? 0 : static_cast<std::size_t>(width) - kIndent);
+    if (hidden_ > 0) lines.push_back("... " + Counted(hidden_, "more row") + ": show " + name);
+    return lines;
+  }
+
+ private:
+  TableText text_;
+  bool whole_;
+  int count_ = 0, hidden_ = 0;
+};
+
+std::vector<std::string> RowsOf(const ui::ListBox& list, bool whole, int width) {
+  std::vector<TableColumn> columns;
+  for (const ui::Column& column : list.Columns())
+    columns.push_back({column.Title, column.Kind == ui::ColumnKind::Number ||
+                                         column.Kind == ui::ColumnKind::Percent});
+  Rows rows(std::move(columns), whole);
+  for (const ui::ListBox::Row& row : list.Rows()) {
+    std::vector<std::string> cells;
+    for (const ui::Cell& cell : row.Cells) cells.push_back(cell.Text);
+    rows.Add(row.Selected, std::move(cells));
+  }
+  return list.Count() == 0 ? std::vector<std::string>{} : rows.Lines(list.Name(), width);
+}
+
+std::vector<std::string> RowsOf(const ui::ComboBox& combo, bool whole, int width) {
+  Rows rows({{}}, whole);
+  int number = 0;
+  for (const std::string& row : combo.Rows()) rows.Add(++number == combo.Selected(), {row});
+  return rows.Lines(combo.Name(), width);
+}
+
+std::vector<std::string> LinesOf(const ui::Control& control, const std::string& text, bool whole,
+                                 int width) {
+  if (text.empty()) return {};
+  auto lines = Wrapped(Printable(text), static_cast<std::size_t>(width) - kIndent);
+  if (whole || lines.size() <= kLinesShown) return lines;
+  const auto hidden = static_cast<int>(lines.size() - kLinesShown);
+  lines.resize(kLinesShown);
+  lines.push_back("... " + Counted(hidden, "more line") + ": show " + control.Name());
+  return lines;
+}
+
+/// What stands below the control's own line.
+std::vector<std::string> Below(const ui::Control& control, bool whole, int width) {
+  if (const auto* list = dynamic_cast<const ui::ListBox*>(&control))
+    return RowsOf(*list, whole, width);
+  if (const auto* combo = dynamic_cast<const ui::ComboBox*>(&control))
+    return RowsOf(*combo, whole, width);
+  if (const auto* chart = dynamic_cast<const ui::Chart*>(&control))
+    return LinesOf(control, ChartText(*chart), whole, width);
+  if (control.Is() == ui::Kind::Report) return LinesOf(control, control.Text, whole, width);
+  return {};
+}
+
+}  // namespace
+
+std::string ControlText(const Section::Part& part, bool whole, int width) {
+  const ui::Control& control = *part.Shown;
+  const std::string head = "  " + Padded(control.Name(), kNameWidth) + " " +
+                           Padded(std::string(ui::KindName(control.Is())), kKindWidth) + " ";
+  std::string says = (part.Label.empty() ? "" : part.Label + ": ") + Says(control);
+  if (!control.Enabled)
+    says += (says.empty() ? "(disabled" : " (disabled") +
+            (control.Tip->empty() ? "" : ": " + control.Tip.Get()) + ")";
+  else if (whole && !control.Tip->empty())
+    says += (says.empty() ? "(" : " (") + control.Tip.Get() + ")";
+  std::string text, before = head;
+  const std::size_t room = static_cast<std::size_t>(std::max(width, 60)) - head.size();
+  for (const std::string& line : Wrapped(Printable(says), std::max<std::size_t>(room, 20))) {
+    text += before + line + "\n";
+    before.assign(head.size(), ' ');
+  }
+  for (const std::string& line : Below(control, whole, width))
+    text += std::string(kIndent, ' ') + line + "\n";
+  return text;
+}
+
+std::string ChartText(const ui::Chart& chart) {
+  const std::vector<std::string>& captions = chart.Captions;
+  std::size_t count = captions.size();
+  for (const auto& series : chart.Lines.Get()) count = std::max(count, series.Values.size());
+  std::string text;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (i > 0) text += '\n';
+    text += i < captions.size() ? captions[i] + ":" : std::string();
+    bool first = true;
+    for (const auto& series : chart.Lines.Get()) {
+      if (i >= series.Values.size()) continue;
+      text += std::string(first ? " " : ", ") + series.Name + (series.Name.empty() ? "" : " ") +
+              Number(series.Values[i]);
+      first = false;
+    }
+  }
+  return text;
+}
+
+}  // namespace grapplemont::console

@@ -1,0 +1,255 @@
+#include "desktop/chartview.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "desktop/housestyle.h"
+#include "desktop/letters.h"
+#include "desktop/look.h"
+#include "desktop/palette.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+constexpr int kSteps = 4;  // about so many lines across the chart
+
+/// 1, 2 or 5 times a power of ten, at least `rough`.
+double RoundStep(double rough) {
+  const double power = std::pow(10, std::floor(std::log10(rough)));
+  for (const double times : {1.0, 2.0, 5.0})
+    if (rough <= times * power) return times * power;
+  return 10 * power;
+}
+
+QString Short(double value) {
+  const double size = std::abs(value);
+  if (size >= 1e6) return QString::number(value / 1e6, 'g', 4) + "m";
+  if (size >= 1e4) return QString::number(value / 1e3, 'g', 4) + "k";
+  return QString::number(value, 'g', 6);
+}
+
+QFont SmallFont() {
+  return TextFont(11);
+}
+
+}  // namespace
+
+/// Where a place and a value lie within the widget.
+struct ChartView::Scale {
+  QRectF Plot;
+  int Count = 0;
+  double Low = 0, High = 1, Step = 1;
+
+  double Slot() const { return Plot.width() / std::max(1, Count); }
+  double X(int place) const { return Plot.left() + (place + 0.5) * Slot(); }
+  double Y(double value) const {
+    return Plot.bottom() - (value - Low) / (High - Low) * Plot.height();
+  }
+};
+
+ChartView::ChartView(ui::Chart& chart, Stage& stage, QWidget* parent)
+    : QWidget(parent), ControlView(chart, stage), chart_(chart) {
+  setMouseTracking(true);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+QSize ChartView::sizeHint() const {
+  return {Px(280), Px(170)};
+}
+
+QSize ChartView::minimumSizeHint() const {
+  return {Px(160), Px(120)};
+}
+
+void ChartView::Show() {
+  hover_ = -1;
+  update();
+}
+
+int ChartView::Count() const {
+  std::size_t count = 0;
+  for (const auto& series : chart_.Lines.Get()) count = std::max(count, series.Values.size());
+  return static_cast<int>(count);
+}
+
+ChartView::Scale ChartView::MakeScale() const {
+  double low = std::numeric_limits<double>::infinity(), high = -low;
+  for (const auto& series : chart_.Lines.Get())
+    for (const double value : series.Values) {
+      if (!std::isfinite(value)) continue;
+      low = std::min(low, value);
+      high = std::max(high, value);
+    }
+  if (low > high) low = 0, high = 1;
+  if (chart_.Bars) low = std::min(low, 0.0), high = std::max(high, 0.0);
+  if (high - low < 1e-9) low -= 1, high += 1;
+  Scale scale;
+  scale.Step = RoundStep((high - low) / kSteps);
+  scale.Low = std::floor(low / scale.Step) * scale.Step;
+  scale.High = std::ceil(high / scale.Step) * scale.Step;
+  scale.Count = Count();
+  const QFontMetrics small(SmallFont());
+  const int left = std::max(FiguresWidth(small, Short(scale.Low)),
+                            FiguresWidth(small, Short(scale.High))) + Px(8);
+  const bool named = std::any_of(chart_.Lines->begin(), chart_.Lines->end(),
+                                 [](const auto& series) { return !series.Name.empty(); });
+  const int top = small.height() + (named ? small.height() + Px(6) : 0);
+  const int bottom = chart_.Captions->empty() ? Px(4) : small.height() + Px(6);
+  scale.Plot = QRectF(rect()).adjusted(left, top, -Px(4), -bottom);
+  return scale;
+}
+
+void ChartView::DrawAxis(QPainter& painter, const Scale& scale) const {
+  const Colours& c = ColoursOf(this);
+  painter.setFont(SmallFont());
+  for (double value = scale.Low; value <= scale.High + scale.Step / 2; value += scale.Step) {
+    const double y = std::round(scale.Y(value)) + 0.5;
+    painter.setPen(c.Line);
+    painter.drawLine(QPointF(scale.Plot.left(), y), QPointF(scale.Plot.right(), y));
+    painter.setPen(c.Muted);
+    DrawFigures(painter, QRectF(0, y - 8, scale.Plot.left() - Px(8), 16), Qt::AlignRight,
+                Short(value));
+  }
+  const auto& captions = chart_.Captions.Get();
+  const QFontMetrics small(SmallFont());
+  double free = 0;  // what lies left of here is taken by a caption
+  for (int place = 0; place < scale.Count && place < static_cast<int>(captions.size()); ++place) {
+    const QString words = Shown(captions[static_cast<std::size_t>(place)]);
+    const int width = small.horizontalAdvance(words);
+    const double x = std::clamp(scale.X(place) - width / 2.0, 0.0,
+                                std::max(0.0, static_cast<double>(this->width() - width)));
+    if (words.isEmpty() || x < free) continue;
+    painter.drawText(QRectF(x, scale.Plot.bottom() + Px(5), width + 1, small.height()),
+                     Qt::AlignCenter, words);
+    free = x + width + Px(8);
+  }
+}
+
+void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
+  const Colours& c = ColoursOf(this);
+  const auto& lines = chart_.Lines.Get();
+  const double gap = std::min<double>(Px(6), scale.Slot() * 0.2);
+  const double width = (scale.Slot() - gap) / static_cast<double>(std::max<std::size_t>(1, lines.size()));
+  for (std::size_t s = 0; s < lines.size(); ++s) {
+    const int count = static_cast<int>(lines[s].Values.size());
+    for (int place = 0; place < count; ++place) {
+      const double value = lines[s].Values[static_cast<std::size_t>(place)];
+      if (!std::isfinite(value)) continue;
+      const bool now = lines.size() == 1 && place + 1 == scale.Count;  // the last is the present
+      const double x = scale.X(place) - (scale.Slot() - gap) / 2 + static_cast<double>(s) * width;
+      QRectF bar(QPointF(x, scale.Y(std::max(value, 0.0))),
+                 QPointF(x + std::max(1.0, width - 1), scale.Y(std::min(value, 0.0))));
+      const QColor fill = now ? c.GoldFill : FillColour(c, lines[s].Colour);
+      painter.fillRect(bar, place == hover_ ? fill.lighter(115) : fill);
+      const QString number = Short(value);
+      const QFontMetrics small(SmallFont());
+      if (FiguresWidth(small, number) > width + gap) continue;
+      painter.setPen(now ? c.Gold : c.Muted);
+      DrawFigures(painter, QRectF(bar.left(), bar.top() - small.height() - 1, bar.width(),
+                                  small.height()),
+                  Qt::AlignHCenter, number);
+    }
+  }
+}
+
+void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
+  const Colours& c = ColoursOf(this);
+  for (const auto& series : chart_.Lines.Get()) {
+    painter.setPen(QPen(TextColour(c, series.Colour), 2, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
+    QPolygonF run;
+    const auto finish = [&] {
+      run.size() == 1 ? painter.drawPoint(run.front()) : painter.drawPolyline(run);
+      run.clear();
+    };
+    for (std::size_t place = 0; place < series.Values.size(); ++place) {
+      const double value = series.Values[place];
+      if (std::isfinite(value)) {
+        run << QPointF(scale.X(static_cast<int>(place)), scale.Y(value));
+      } else {
+        finish();
+      }
+    }
+    finish();
+  }
+}
+
+/// What the lines stand for, above them.
+void ChartView::DrawNames(QPainter& painter) const {
+  const Colours& c = ColoursOf(this);
+  const QFontMetrics small(SmallFont());
+  painter.setFont(SmallFont());
+  double x = 0;
+  for (const auto& series : chart_.Lines.Get()) {
+    if (series.Name.empty()) continue;
+    const QString name = Shown(series.Name);
+    const QColor mark =
+        chart_.Bars ? FillColour(c, series.Colour) : TextColour(c, series.Colour);
+    DrawBox(painter, QRectF(x, small.height() / 2.0 - Px(4), Px(8), Px(8)), mark, QColor(), 2);
+    x += Px(8) + Px(6);
+    painter.setPen(c.Muted);
+    painter.drawText(QPointF(x, small.ascent()), name);
+    x += small.horizontalAdvance(name) + Px(14);
+  }
+}
+
+void ChartView::DrawHover(QPainter& painter, const Scale& scale) const {
+  const Colours& c = ColoursOf(this);
+  QStringList words;
+  const auto at = static_cast<std::size_t>(hover_);
+  if (at < chart_.Captions->size()) words << Shown(chart_.Captions.Get()[at]);
+  for (const auto& series : chart_.Lines.Get()) {
+    if (at >= series.Values.size() || !std::isfinite(series.Values[at])) continue;
+    const QString number = QString::number(series.Values[at], 'f', series.Values[at] == std::floor(series.Values[at]) ? 0 : 2);
+    words << (series.Name.empty() ? number : Shown(series.Name) + " " + number);
+    if (!chart_.Bars)
+      DrawBox(painter,
+              QRectF(scale.X(hover_) - 4, scale.Y(series.Values[at]) - 4, 8, 8),
+              TextColour(c, series.Colour), c.Card, 4);
+  }
+  const QString text = words.join(" \u00B7 ");
+  const QFontMetrics small(SmallFont());
+  const double width = small.horizontalAdvance(text) + Px(16);
+  const double x = std::clamp(scale.X(hover_) - width / 2, 0.0,
+                              std::max(0.0, this->width() - width));
+  const QRectF box(x, scale.Plot.top(), width, small.height() + Px(8));
+  DrawBox(painter, box, c.Button, c.Edge, Px(4));
+  painter.setPen(c.Text);
+  painter.drawText(box, Qt::AlignCenter, text);
+}
+
+void ChartView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const Scale scale = MakeScale();
+  if (scale.Count == 0) {
+    painter.setPen(ColoursOf(this).Muted);
+    painter.drawText(rect(), Qt::AlignCenter, "Nothing to show yet.");
+    return;
+  }
+  DrawAxis(painter, scale);
+  chart_.Bars ? DrawBars(painter, scale) : DrawLines(painter, scale);
+  DrawNames(painter);
+  if (hover_ >= 0 && hover_ < scale.Count) DrawHover(painter, scale);
+}
+
+void ChartView::mouseMoveEvent(QMouseEvent* event) {
+  const Scale scale = MakeScale();
+  const double x = event->position().x();
+  const bool within = scale.Count > 0 && x >= scale.Plot.left() && x < scale.Plot.right();
+  const int place = within ? static_cast<int>((x - scale.Plot.left()) / scale.Slot()) : -1;
+  if (place == hover_) return;
+  hover_ = place;
+  update();
+}
+
+void ChartView::leaveEvent(QEvent*) {
+  hover_ = -1;
+  update();
+}
+
+}  // namespace grapplemont::desktop

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QRadioButton>
+
+#include "desktop/controlview.h"
+
+namespace grapplemont::desktop {
+
+class ComboView : public QComboBox, public ControlView {
+ public:
+  ComboView(ui::ComboBox& combo, Stage& stage, QWidget* parent);
+  QWidget* Widget() override { return this; }
+
+ protected:
+  void Show() override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  ui::ComboBox& combo_;
+};
+
+class CheckView : public QCheckBox, public ControlView {
+ public:
+  CheckView(ui::CheckBox& box, Stage& stage, QWidget* parent);
+  QWidget* Widget() override { return this; }
+
+ protected:
+  void Show() override;
+
+ private:
+  ui::CheckBox& box_;
+};
+
+class OptionView : public QRadioButton, public ControlView {
+ public:
+  OptionView(ui::OptionButton& option, Stage& stage, QWidget* parent);
+  QWidget* Widget() override { return this; }
+
+ protected:
+  void Show() override;
+
+ private:
+  ui::OptionButton& option_;
+};
+
+}  // namespace grapplemont::desktop

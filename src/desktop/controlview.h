@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <string>
+
+#include "desktop/settings.h"
+#include "ui/desk.h"
+
+namespace grapplemont::desktop {
+
+/// What a view needs of the window that it stands in.
+class Stage {
+ public:
+  virtual ~Stage() = default;
+  virtual ui::Desk& Desk() = 0;
+  virtual Settings& Kept() = 0;
+  /// Where a picture of the program lies.
+  virtual QString PictureFile(const std::string& name) const = 0;
+  /// Does what the player does, an act of ui/acts.h, and shows what has come of it. The views of
+  /// closed screens live on until control returns to the event loop.
+  virtual void Act(const std::function<std::string()>& act) = 0;
+  /// Says something short beside a widget for a few seconds.
+  virtual void Hint(QWidget& beside, const QString& text) = 0;
+};
+
+/// What stands in the window for a control; its widget is one with it or owns it.
+class ControlView {
+ public:
+  ControlView(ui::Control& control, Stage& stage) : control_(control), stage_(stage) {}
+  virtual ~ControlView() = default;
+  ControlView(const ControlView&) = delete;
+  ControlView& operator=(const ControlView&) = delete;
+
+  virtual QWidget* Widget() = 0;
+  /// Brings the widget up to date if the control has changed.
+  void Refresh();
+  /// Called before the screen's views are taken away.
+  virtual void Leave() {}
+  /// Where the keyboard goes when it goes to this control.
+  virtual QWidget* FocusTarget() { return Widget(); }
+
+  ui::Control& Shows() const { return control_; }
+  /// A label that is shown and hidden together with the control.
+  void SetCompanion(QWidget* label) { companion_ = label; }
+
+ protected:
+  virtual void Show() = 0;
+  Stage& OnStage() const { return stage_; }
+  /// Runs one of the acts that take a control's name.
+  template <class... Value>
+  void Do(std::string (*act)(ui::Desk&, ui::Screen&, std::string_view, Value...), Value... value) {
+    stage_.Act([&] { return act(stage_.Desk(), control_.Parent(), control_.Name(), value...); });
+  }
+
+ private:
+  ui::Control& control_;
+  Stage& stage_;
+  unsigned seen_ = 0;
+  QWidget* companion_ = nullptr;
+};
+
+/// A view of any control. The widget is a child of `parent`, which owns the view.
+ControlView* MakeView(ui::Control& control, Stage& stage, QWidget* parent);
+
+}  // namespace grapplemont::desktop

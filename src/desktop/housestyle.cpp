@@ -1,0 +1,212 @@
+#include "desktop/housestyle.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+
+#include "desktop/look.h"
+#include "desktop/palette.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+constexpr double kCorner = 6;
+
+bool Has(const QStyleOption* option, QStyle::StateFlag state) {
+  return option->state.testFlag(state);
+}
+
+void DrawField(const QStyleOption* option, QPainter* painter) {
+  const Colours& c = ColoursOf(option->palette);
+  const bool focus = Has(option, QStyle::State_HasFocus) && Has(option, QStyle::State_Enabled);
+  DrawBox(*painter, option->rect, Has(option, QStyle::State_Enabled) ? c.Field : c.Card, c.Edge,
+          Px(kCorner));
+  if (focus) DrawFocus(*painter, option->rect, Px(kCorner), option->palette);
+}
+
+void DrawTick(const QStyleOption* option, QPainter* painter) {
+  const Colours& c = ColoursOf(option->palette);
+  const QRectF box = QRectF(option->rect);
+  const bool on = Has(option, QStyle::State_On);
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  DrawBox(*painter, box, on ? (enabled ? c.GoldFill : c.DimGold) : c.Field,
+          on ? QColor() : c.Edge, Px(4));
+  if (!on) return;
+  QPainterPath tick;
+  tick.moveTo(box.left() + box.width() * 0.26, box.top() + box.height() * 0.52);
+  tick.lineTo(box.left() + box.width() * 0.44, box.top() + box.height() * 0.70);
+  tick.lineTo(box.left() + box.width() * 0.75, box.top() + box.height() * 0.32);
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(QPen(c.OnGold, box.width() / 8.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter->drawPath(tick);
+  painter->restore();
+}
+
+void DrawDot(const QStyleOption* option, QPainter* painter) {
+  const Colours& c = ColoursOf(option->palette);
+  const QRectF box = QRectF(option->rect);
+  const bool on = Has(option, QStyle::State_On);
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const QColor gold = enabled ? c.GoldFill : c.DimGold;
+  DrawBox(*painter, box, on ? gold : c.Field, on ? QColor() : c.Edge, box.width() / 2);
+  const qreal inset = box.width() * 0.32;
+  if (on)
+    DrawBox(*painter, box.adjusted(inset, inset, -inset, -inset), c.OnGold, QColor(),
+            box.width() / 2);
+}
+
+}  // namespace
+
+void DrawBox(QPainter& painter, const QRectF& where, const QColor& fill, const QColor& edge,
+             double radius) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
+  painter.setPen(edge.isValid() ? QPen(edge, 1) : QPen(Qt::NoPen));
+  const QRectF inner = edge.isValid() ? where.adjusted(0.5, 0.5, -0.5, -0.5) : where;
+  painter.drawRoundedRect(inner, radius, radius);
+  painter.restore();
+}
+
+void DrawFocus(QPainter& painter, const QRectF& where, double radius, const QPalette& palette) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(ColoursOf(palette).Blue, 1.6));
+  painter.drawRoundedRect(where.adjusted(0.8, 0.8, -0.8, -0.8), radius, radius);
+  painter.restore();
+}
+
+void DrawChevron(QPainter& painter, const QPointF& centre, double width, const QColor& colour) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(colour, width / 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const double half = width / 2, drop = width / 4;
+  painter.drawPolyline(QPolygonF{{centre.x() - half, centre.y() - drop},
+                                 {centre.x(), centre.y() + drop},
+                                 {centre.x() + half, centre.y() - drop}});
+  painter.restore();
+}
+
+HouseStyle::HouseStyle() : QProxyStyle("Fusion") {}
+
+int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                            const QWidget* widget) const {
+  switch (metric) {
+    case PM_ScrollBarExtent:
+      return Px(12);
+    case PM_ScrollBarSliderMin:
+      return Px(28);
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+      return Px(16);
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+      return Px(8);
+    case PM_SliderThickness:
+    case PM_SliderControlThickness:
+      return Px(18);
+    case PM_SliderLength:
+      return Px(16);
+    case PM_MenuPanelWidth:
+    case PM_MenuVMargin:
+      return Px(4);
+    case PM_TabBarTabHSpace:
+      return Px(28);
+    case PM_TabBarTabVSpace:
+      return Px(16);
+    case PM_TabBarTabShiftVertical:
+    case PM_TabBarTabShiftHorizontal:
+    case PM_TabBarBaseOverlap:
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+      return 0;
+    default:
+      return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+}
+
+int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* returned) const {
+  switch (hint) {
+    case SH_Slider_AbsoluteSetButtons:
+      return Qt::LeftButton;
+    case SH_ScrollBar_LeftClickAbsolutePosition:
+      return 1;
+    case SH_ComboBox_Popup:
+    case SH_EtchDisabledText:
+    case SH_DitherDisabledText:
+    case SH_UnderlineShortcut:
+    case SH_Widget_Animate:
+    case SH_ItemView_ActivateItemOnSingleClick:
+    case SH_ItemView_ArrowKeysNavigateIntoChildren:
+      return 0;
+    default:
+      return QProxyStyle::styleHint(hint, option, widget, returned);
+  }
+}
+
+QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                   const QSize& size, const QWidget* widget) const {
+  const QSize given = QProxyStyle::sizeFromContents(type, option, size, widget);
+  switch (type) {
+    case CT_LineEdit:
+      return {given.width(), Px(32)};
+    case CT_ComboBox:
+      return {given.width() + Px(20), Px(32)};
+    case CT_MenuItem: {
+      const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+      if (item && item->menuItemType == QStyleOptionMenuItem::Separator) return given;
+      return {given.width() + Px(12), Px(28)};
+    }
+    default:
+      return given;
+  }
+}
+
+void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const {
+  const Colours& c = ColoursOf(option->palette);
+  switch (element) {
+    case PE_PanelLineEdit:
+      if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+          frame && frame->lineWidth > 0)
+        DrawField(option, painter);
+      return;
+    case PE_Frame:
+    case PE_FrameLineEdit:
+      DrawBox(*painter, option->rect, QColor(), c.Edge, Px(kCorner));
+      if (Has(option, State_HasFocus))
+        DrawFocus(*painter, option->rect, Px(kCorner), option->palette);
+      return;
+    case PE_IndicatorCheckBox:
+      return DrawTick(option, painter);
+    case PE_IndicatorRadioButton:
+      return DrawDot(option, painter);
+    case PE_FrameFocusRect:
+      return DrawFocus(*painter, option->rect, Px(4), option->palette);
+    case PE_PanelMenu:
+    case PE_PanelTipLabel:
+      painter->fillRect(option->rect, c.Button);
+      painter->setPen(c.Edge);
+      painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+      return;
+    case PE_FrameMenu:
+    case PE_FrameTabBarBase:
+    case PE_IndicatorTabTear:
+      return;
+    case PE_PanelItemViewRow:
+    case PE_PanelItemViewItem:
+      if (Has(option, State_Selected) || Has(option, State_MouseOver))
+        painter->fillRect(option->rect, c.Chosen);
+      return;
+    default:
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+}
+
+}  // namespace grapplemont::desktop

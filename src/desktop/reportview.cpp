@@ -1,0 +1,108 @@
+#include "desktop/reportview.h"
+
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QTextBlock>
+
+#include "desktop/letters.h"
+#include "desktop/look.h"
+#include "desktop/palette.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+using Style = ui::Report::Style;
+
+constexpr double kLine = 175;  // per cent of the letters' height
+
+QTextCharFormat LettersOf(Style style, const Colours& colours) {
+  QTextCharFormat format;
+  switch (style) {
+    case Style::Heading:
+      format.setFont(TextFont(22, QFont::Bold));
+      break;
+    case Style::Strong:
+      format.setFont(TextFont(15, QFont::DemiBold));
+      break;
+    case Style::Muted:
+      format.setFont(TextFont());
+      break;
+    case Style::Body:
+      format.setFont(ProseFont());
+      break;
+  }
+  format.setForeground(style == Style::Muted ? colours.Muted : colours.Text);
+  return format;
+}
+
+QTextBlockFormat BlockOf(Style style, bool first) {
+  QTextBlockFormat format;
+  const bool prose = style == Style::Body;
+  format.setLineHeight(prose ? kLine : 130, QTextBlockFormat::ProportionalHeight);
+  format.setTopMargin(first ? 0 : Px(style == Style::Heading ? 14 : style == Style::Strong ? 8 : 0));
+  format.setBottomMargin(Px(prose ? 6 : 4));
+  return format;
+}
+
+}  // namespace
+
+ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
+    : QTextEdit(parent), ControlView(report, stage), report_(report) {
+  setReadOnly(true);
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::StrongFocus);
+  setTextInteractionFlags(Qt::TextSelectableByMouse);
+  viewport()->setAutoFillBackground(false);
+  document()->setDocumentMargin(0);
+  setMinimumHeight(Px(96));
+}
+
+QSize ReportView::sizeHint() const {
+  return {Px(420), Px(240)};
+}
+
+void ReportView::Show() {
+  clear();
+  const Colours& colours = ColoursOf(this);
+  QTextCursor cursor(document());
+  bool first = true;
+  for (const auto& paragraph : report_.Paragraphs()) {
+    const QTextBlockFormat block = BlockOf(paragraph.As, first);
+    const QTextCharFormat letters = LettersOf(paragraph.As, colours);
+    if (first) {
+      cursor.setBlockFormat(block);
+      cursor.setCharFormat(letters);
+    } else {
+      cursor.insertBlock(block, letters);
+    }
+    cursor.insertText(Shown(paragraph.Words), letters);
+    first = false;
+  }
+  verticalScrollBar()->setValue(0);
+}
+
+/// Arrows and pages scroll; Enter and Escape are the screen's.
+void ReportView::keyPressEvent(QKeyEvent* event) {
+  QScrollBar* bar = verticalScrollBar();
+  switch (event->key()) {
+    case Qt::Key_Down:
+      return bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    case Qt::Key_Up:
+      return bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    case Qt::Key_PageDown:
+    case Qt::Key_Space:
+      return bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+    case Qt::Key_PageUp:
+      return bar->triggerAction(QAbstractSlider::SliderPageStepSub);
+    case Qt::Key_Home:
+      return bar->setValue(bar->minimum());
+    case Qt::Key_End:
+      return bar->setValue(bar->maximum());
+    default:
+      if (event->matches(QKeySequence::Copy)) return copy();
+      event->ignore();
+  }
+}
+
+}  // namespace grapplemont::desktop

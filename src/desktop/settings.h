@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QSettings>
+#include <QString>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "desktop/look.h"
+#include "ui/table.h"
+
+namespace grapplemont::desktop {
+
+/// What the player has set about the window; it has nothing to do with any world.
+class Settings {
+ public:
+  /// An empty file name keeps nothing beyond the program's run.
+  explicit Settings(const QString& file);
+
+  Scheme Colours() const;
+  void SetColours(Scheme scheme);
+  /// The player's step above or below the desktop's size of text, in pixels.
+  int Zoom() const;
+  void SetZoom(int zoom);
+  QByteArray Place() const;  // of the window
+  void SetPlace(const QByteArray& place);
+
+  /// By the list's name: "frmRoster.lstwres".
+  ui::TableState Table(const std::string& list);
+  void SetTable(const std::string& list, const ui::TableState& state);
+
+ private:
+  QVariant Read(const QString& key) const;
+  void Write(const QString& key, const QVariant& value);
+
+  std::unique_ptr<QSettings> file_;
+  std::map<QString, QVariant> kept_;
+};
+
+}  // namespace grapplemont::desktop

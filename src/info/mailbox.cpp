@@ -1,0 +1,29 @@
+#include "info/mailbox.h"
+
+#include <set>
+
+namespace grapplemont {
+
+std::vector<std::string> MailSenders(const World& world) {
+  std::set<std::string> senders;
+  for (const Mail& mail : world.News())
+    if (!mail.From.View().empty()) senders.insert(mail.From.Str());
+  return {senders.begin(), senders.end()};
+}
+
+std::vector<int> MailsNewestFirst(const World& world, std::string_view from) {
+  std::vector<int> numbers;
+  for (int number = world.News().Count(); number >= 1; --number)
+    if (from.empty() || world.News()[number].From == from) numbers.push_back(number);
+  return numbers;
+}
+
+void DeleteMail(World& world, int number) {
+  world.News().Erase(number);
+}
+
+void EmptyMailbox(World& world) {
+  world.News().Rewrite({});
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "records/tablekinds.h"
+
+// One field of a record as the cell of a table, in UTF-8. What leads to another record by its
+// number is told in tablenames.h.
+
+namespace grapplemont {
+
+/// How strictly numbers are held to their field's range: a running game may carry some out of it.
+enum class Ranges { OfTheField, OfItsBytes };
+
+/// The cell from which TakeCell makes the very same bytes again.
+std::string CellOf(const TableKind& kind, const Column& column, const std::byte* record);
+
+/// Puts what the cell says into the record; an empty one takes the default. Gives what is wrong
+/// with it, or nothing.
+std::string TakeCell(const TableKind& kind, const Column& column, std::string_view cell,
+                     std::byte* record, Ranges ranges);
+
+/// `"Ovr"`, cut when it is long.
+std::string QuotedCell(std::string_view cell);
+
+}  // namespace grapplemont

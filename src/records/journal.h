@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "records/disk.h"
+
+// The form of a journal: two blocks for its marker, then one record a commit, each padded to whole
+// blocks, one behind the other. All numbers are little-endian. docs/saving.md tells how it is used.
+
+namespace grapplemont {
+
+inline constexpr std::int64_t kJournalBlock = 4096;
+/// Where the first record stands.
+inline constexpr std::int64_t kJournalStart = 2 * kJournalBlock;
+
+constexpr std::int64_t RoundedToBlocks(std::int64_t size) {
+  return (size + kJournalBlock - 1) / kJournalBlock * kJournalBlock;
+}
+
+/// Steps of the protocol left out on purpose, by tests that must notice it. All false is right.
+struct JournalQuirks {
+  bool EmptyBeforeFiles = false;  // the journal is emptied before the record files are synced
+  bool BareRanges = false;        // ranges are not rounded out to blocks
+  bool NoChecksum = false;
+  bool NoSequence = false;         // any record of the world is taken for the next one
+  bool RetrySync = false;          // a failed sync is tried once more on the same handle
+  bool TrustWhatIsRead = false;    // a chain is applied without a copy that is known to be on disk
+  bool RemoveBeforeSwap = false;   // a creation clears the old folder before the swap is synced
+};
+
+/// Which world the journal belongs to, and the sequence up to which the record files themselves hold
+/// everything: the chain of records that counts begins with the next one.
+struct JournalMarker {
+  std::uint64_t World = 0;
+  std::uint64_t Sequence = 0;
+  std::uint64_t Digest = 0;  // of the world at that sequence (WorldDigest)
+};
+
+/// A stretch of a file's new contents; begins on a block and ends on one, or with the file.
+struct JournalRange {
+  std::int64_t Offset = 0;
+  ByteSpan Contents;
+};
+
+/// What a commit does to one file.
+struct FilePatch {
+  std::string Name;
+  bool Exists = false;
+  std::int64_t Length = 0;
+  std::vector<JournalRange> Ranges;
+};
+
+struct JournalRecord {
+  std::uint64_t World = 0;
+  std::uint64_t Sequence = 0;
+  std::uint64_t Digest = 0;  // of the world after this commit
+  std::vector<FilePatch> Files;
+};
+
+/// A file that a slot may hold, and how long it may be.
+struct KnownFile {
+  std::string Name;
+  std::int64_t MaxBytes;
+};
+
+/// One block.
+Bytes PackMarker(const JournalMarker& marker);
+/// Nothing where the block is no whole marker.
+std::optional<JournalMarker> UnpackMarker(ByteSpan block);
+
+/// The record's bytes, padded to whole blocks.
+Bytes PackRecord(const JournalRecord& record);
+
+/// A record read at a place of the journal.
+struct JournalEntry {
+  JournalRecord Record;   // its ranges point into the journal's bytes
+  std::int64_t Size = 0;  // padded
+};
+/// The record that begins at `offset`. Nothing where there is none that is whole, or where it would
+/// touch anything but the known files within their limits.
+std::optional<JournalEntry> UnpackRecord(ByteSpan journal, std::int64_t offset,
+                                         const std::vector<KnownFile>& known,
+                                         const JournalQuirks& quirks = {});
+
+/// The blocks of `after` that differ from `before`, joined where they touch.
+std::vector<JournalRange> ChangedRanges(ByteSpan before, ByteSpan after,
+                                        const JournalQuirks& quirks = {});
+
+}  // namespace grapplemont

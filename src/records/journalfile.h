@@ -1,0 +1,51 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "records/journal.h"
+
+namespace grapplemont {
+
+/// The open journal of a slot: where it ends, how large it is. Every call throws DiskError.
+class JournalFile {
+ public:
+  JournalFile(Disk& disk, std::string folder, std::int64_t bytes, const JournalQuirks& quirks);
+  ~JournalFile() { Drop(); }
+  JournalFile(const JournalFile&) = delete;
+  JournalFile& operator=(const JournalFile&) = delete;
+
+  /// The whole file, but not more than a journal can ever need; empty where there is none.
+  Bytes Read(std::int64_t limit);
+  /// Tells where the chain that was read ends and which block its marker stands in.
+  void Continue(std::int64_t end, int markerBlock);
+  /// Replaces the file by a fresh one that holds these bytes, in one step, all of it on disk when
+  /// this returns.
+  void Replace(ByteSpan bytes);
+  bool Fits(ByteSpan record) const { return end_ + std::ssize(record) <= size_; }
+  /// Room for the record behind the last one; the journal becomes longer if it must.
+  void MakeRoom(ByteSpan record);
+  /// Writes the record behind the last one; it is on disk when this returns.
+  void Append(ByteSpan record);
+  bool IsEmpty() const { return end_ == kJournalStart; }
+  /// The files hold everything: the marker says so, and no record counts any more.
+  void Empty(const JournalMarker& marker);
+  void Drop();
+
+ private:
+  Disk::Handle Handle();
+  void Sync();
+
+  Disk& disk_;
+  std::string folder_, path_;
+  std::int64_t bytes_;  // its usual size
+  const JournalQuirks& quirks_;
+  std::optional<Disk::Handle> handle_;
+  std::int64_t size_ = 0, end_ = kJournalStart;
+  int markerBlock_ = 1;
+};
+
+/// The bytes of a journal without records.
+Bytes EmptyJournal(const JournalMarker& marker);
+
+}  // namespace grapplemont

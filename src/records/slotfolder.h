@@ -1,0 +1,60 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "records/slot.h"
+
+// What lies in a slot's folder and beside it, and how a whole folder takes another's place.
+
+namespace grapplemont {
+
+inline constexpr const char* kJournalName = "journal";
+inline constexpr const char* kWorldIdName = "world.id";
+/// Where a journal that is another world's is put.
+inline constexpr const char* kOtherJournalName = "journal.other";
+inline constexpr const char* kBesideSuffix = ".new";  // being made, to replace the name without it
+inline constexpr const char* kRoomSuffix = ".room";   // room for a file that a commit will make
+
+/// Holds a slot's lock. Throws SlotBusy when somebody else has it.
+class SlotLock {
+ public:
+  SlotLock(Disk& disk, const std::string& folder);
+  ~SlotLock() { disk_.Unlock(path_); }
+  SlotLock(const SlotLock&) = delete;
+  SlotLock& operator=(const SlotLock&) = delete;
+
+ private:
+  Disk& disk_;
+  std::string path_;
+};
+
+/// Makes a file that did not exist, on disk when this returns (its name is not).
+void WriteNewFile(Disk& disk, const std::string& path, ByteSpan bytes);
+/// The same for a journal that begins with these bytes and has room for at least `size`.
+void WriteJournal(Disk& disk, const std::string& path, ByteSpan bytes, std::int64_t size);
+
+/// The contents of world.id, and back; nothing where they are no id.
+Bytes PackWorldId(std::uint64_t id);
+std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes);
+
+/// Builds a whole slot beside `folder` and puts it in its place; what stood there is gone then.
+/// Requires the lock and FinishSwap.
+void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
+                 std::uint64_t worldId, std::int64_t journalBytes, const JournalQuirks& quirks);
+
+/// Brings a ReplaceSlot that was cut short to its end, or takes it back, and clears its leavings.
+/// Requires the lock.
+void FinishSwap(Disk& disk, const std::string& folder);
+
+/// Where the slot's files are at this moment, FinishSwap or not; "" when nowhere.
+std::string StandingFolder(Disk& disk, const std::string& folder);
+
+/// A name beside the folder that is still free: "s1.damaged", "s1.damaged-2" and on.
+std::string FreeCopyName(Disk& disk, const std::string& folder);
+/// Copies the plain files of a folder to a new one beside it, whole or not at all. Requires the lock
+/// and FinishSwap.
+void CopyBeside(Disk& disk, const std::string& folder, const std::string& copy);
+
+}  // namespace grapplemont

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "records/cells.h"
+
+// In tables records lead to each other by name: a promotion by its initials, all others by their
+// name. "#17" is the record of that number, for what no name can tell.
+
+namespace grapplemont {
+
+/// Whether the field is the number of another record.
+bool IsReference(const Field& field);
+
+/// What the records of a world are called.
+class TableNames {
+ public:
+  /// `recordsOf` gives the bytes of a file's records.
+  explicit TableNames(const std::function<ByteSpan(const RecordLayout&)>& recordsOf);
+
+  /// The cell from which Take makes the same number again.
+  std::string CellOf(const Column& column, const std::byte* record) const;
+  /// Puts the number that the cell leads to into the record; nobody for an empty one. Gives what is
+  /// wrong with it, or nothing. `mayBeGone`: a number may lead to nobody.
+  std::string Take(const Column& column, std::string_view cell, std::byte* record,
+                   bool mayBeGone) const;
+
+ private:
+  struct Index {
+    std::unordered_map<std::string, int> Uids;   // by name; the first of a name that stands twice
+    std::unordered_map<int, std::string> Names;  // by number; empty where no name can tell it
+  };
+  const Index& IndexOf(const Field& field, const std::byte* record) const;
+  std::string NobodyOf(const Field& field, std::string_view cell, const std::byte* record) const;
+
+  std::map<Refers, Index> indices_;
+};
+
+}  // namespace grapplemont

@@ -1,0 +1,193 @@
+#include "records/tablereader.h"
+
+#include <algorithm>
+#include <optional>
+#include <set>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "records/nearest.h"
+#include "records/tablenames.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// An author's own column, which says nothing about the world.
+bool IsRemark(std::string_view name) {
+  return name == "Note" || name.starts_with('#');
+}
+
+std::string Ordinal(std::size_t number) {
+  return "column " + std::to_string(number);
+}
+
+class TableReader {
+ public:
+  TableReader(const TableKind& kind, Ranges ranges)
+      : kind_(kind), ranges_(ranges), all_(ColumnsOf(kind)) {
+    table_.Kind = &kind;
+  }
+
+  ReadTable Read(std::string_view text) {
+    const CsvTable csv = ReadCsv(text);
+    if (!csv.Rows.empty() && TakeHeader(csv.Rows.front())) TakeRows(csv);
+    if (csv.FaultLine != 0) NoteLoss(csv.FaultLine, {}, csv.Fault);
+    if (csv.Rows.empty() && csv.FaultLine == 0)
+      NoteLoss(1, {}, "is missing; the first line of a table names its columns");
+    NumberRecords();
+    FindDoubles();
+    return std::move(table_);
+  }
+
+ private:
+  void Note(int line, std::string column, std::string what) {
+    table_.Mistakes.push_back({std::string(kind_.Name), line, std::move(column), std::move(what)});
+  }
+
+  /// A mistake for which some record or its name is not there.
+  void NoteLoss(int line, std::string column, std::string what) {
+    table_.NamesAll = false;
+    Note(line, std::move(column), std::move(what));
+  }
+
+  const Column* Find(std::string_view name) const {
+    const auto found =
+        std::find_if(all_.begin(), all_.end(), [&](const Column& c) { return c.Name() == name; });
+    return found == all_.end() ? nullptr : &*found;
+  }
+
+  bool TakeHeader(const CsvRow& header) {
+    headerLine_ = header.Line;
+    if (header.Cells.size() == 1 && header.Cells[0].find(';') != std::string::npos) {
+      NoteLoss(header.Line, {}, "has semicolons between its cells; save the table with commas");
+      return false;
+    }
+    std::set<std::string> met;
+    for (std::size_t i = 0; i < header.Cells.size(); ++i) {
+      const std::string& name = header.Cells[i];
+      columns_.push_back(IsRemark(name) ? nullptr : Find(name));
+      if (IsRemark(name)) continue;
+      if (name.empty()) {
+        Note(header.Line, {}, Ordinal(i + 1) + " has no name");
+      } else if (!columns_.back()) {
+        NoteUnknown(header.Line, name);
+      } else if (!met.insert(name).second) {
+        Note(header.Line, name, "stands there twice");
+        columns_.back() = nullptr;
+      }
+    }
+    for (const Column& column : all_)
+      if (!HasDefault(kind_, column) && !met.contains(column.Name())) missing_.push_back(column);
+    return true;
+  }
+
+  void NoteUnknown(int line, const std::string& name) {
+    std::vector<std::string> names;
+    for (const Column& column : all_) names.push_back(column.Name());
+    Note(line, name, "there is no such column" + DidYouMean(name, {names.begin(), names.end()}));
+  }
+
+  void TakeRows(const CsvTable& csv) {
+    const auto limit = static_cast<std::size_t>(kind_.Layout->Limit);
+    for (std::size_t i = 1; i < csv.Rows.size(); ++i) {
+      const CsvRow& row = csv.Rows[i];
+      if (row.IsBlank()) continue;
+      if (table_.Count() == limit) {
+        NoteLoss(row.Line, {},
+                 "is one too many; the table may have " + std::to_string(limit) + " records");
+        break;
+      }
+      TakeRow(row);
+    }
+    // A column that is not there is missed once, not on every line.
+    if (table_.Count() > 0)
+      for (const Column& column : missing_) {
+        if (column.Of->IsKey) table_.NamesAll = false;
+        Note(headerLine_, column.Name(), "is missing; it has no default");
+      }
+  }
+
+  void TakeRow(const CsvRow& row) {
+    if (row.Cells.size() != columns_.size()) {
+      NoteLoss(row.Line, {},
+               "has " + std::to_string(row.Cells.size()) + " cells where the header has " +
+                   std::to_string(columns_.size()));
+      return;
+    }
+    const std::size_t number = table_.Count();
+    table_.Records.insert(table_.Records.end(), kind_.Default.begin(), kind_.Default.end());
+    table_.Lines.push_back(row.Line);
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+      if (columns_[i]) TakeCellOf(*columns_[i], row.Cells[i], number);
+  }
+
+  void TakeCellOf(const Column& column, const std::string& cell, std::size_t number) {
+    if (IsReference(*column.Of)) {
+      table_.Waiting.push_back({column, number, cell});
+      return;
+    }
+    if (IsUid(*column.Of) && !detail::Trimmed(cell).empty()) numbered_.insert(number);
+    // A number is never out of its range: nothing could lead to it.
+    const Ranges ranges = IsUid(*column.Of) ? Ranges::OfTheField : ranges_;
+    std::string wrong = TakeCell(kind_, column, cell, table_.Record(number), ranges);
+    if (wrong.empty()) return;
+    if (column.Of->IsKey) table_.NamesAll = false;
+    table_.Note(number, column.Name(), std::move(wrong));
+  }
+
+  /// The records that are not numbered take the free numbers in their order.
+  void NumberRecords() {
+    if (!IsUid(*all_.front().Of)) return;
+    const Field& uid = *all_.front().Of;
+    std::unordered_set<long long> taken;
+    for (const std::size_t row : numbered_) taken.insert(FieldNumber(uid, table_.Record(row)));
+    int next = 1;
+    for (std::size_t row = 0; row < table_.Count(); ++row) {
+      if (numbered_.contains(row)) continue;
+      while (taken.contains(next)) ++next;
+      SetFieldNumber(uid, table_.Record(row), 0, next++);
+    }
+  }
+
+  void FindDoubles() {
+    for (const Column& column : all_) {
+      if (!column.Of->IsKey) continue;
+      std::unordered_map<std::string, int> lines;
+      for (std::size_t row = 0; row < table_.Count(); ++row) {
+        const std::string key = CellOf(kind_, column, table_.Record(row));
+        // What is empty or no number has been told already.
+        if (key.empty() || (IsUid(*column.Of) && key == "0")) continue;
+        const auto [first, isFirst] = lines.try_emplace(key, table_.Lines[row]);
+        if (!isFirst)
+          table_.Note(
+              row, column.Name(),
+              QuotedCell(key) + " stands on line " + std::to_string(first->second) + " already");
+      }
+    }
+  }
+
+  const TableKind& kind_;
+  Ranges ranges_;
+  std::vector<Column> all_;
+  std::vector<const Column*> columns_;  // by cell; nullptr for one that is passed over
+  std::vector<Column> missing_;
+  std::set<std::size_t> numbered_;
+  int headerLine_ = 1;
+  ReadTable table_;
+};
+
+}  // namespace
+
+std::string Mistake::Text() const {
+  std::string text = Table;
+  if (Line != 0) text += ", line " + std::to_string(Line);
+  if (!Column.empty()) text += ", column " + Column;
+  return text + ": " + What;
+}
+
+ReadTable ReadTableOf(const TableKind& kind, std::string_view text, Ranges ranges) {
+  return TableReader(kind, ranges).Read(text);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,214 @@
+#include "records/worldtables.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "records/charset.h"
+#include "records/checkworld.h"
+#include "records/nearest.h"
+#include "records/tablenames.h"
+
+namespace grapplemont {
+
+namespace {
+
+// The search for nearest names would take its time over a table that is wrong on every line.
+constexpr std::size_t kMostMistakes = 200;
+
+bool IsTable(std::string_view name) {
+  return name == kNotesTable || FindTableKind(name) != nullptr;
+}
+
+/// From the tables' texts to a world, step by step; what is wrong is gathered on the way.
+class Builder {
+ public:
+  explicit Builder(const Tables& tables)
+      : tables_(tables), isGame_(tables.contains(std::string(kGameTable))) {}
+
+  Building Build() {
+    FindStrangers();
+    const bool namesAll = ReadAll();
+    if (namesAll) Connect();
+    if (!HasMistakes()) Load();
+    if (!HasMistakes()) FindHomelessNames();
+    if (!HasMistakes()) Check();
+    return Result();
+  }
+
+ private:
+  void FindStrangers() {
+    std::vector<std::string_view> names;
+    for (const TableKind& kind : TableKinds()) names.push_back(kind.Name);
+    for (const auto& [name, text] : tables_)
+      if (!IsTable(name) && name.ends_with(".csv"))
+        general_.push_back({name, 0, {}, "is no table of a world" + DidYouMean(name, names)});
+  }
+
+  /// False when some record is not known by its name.
+  bool ReadAll() {
+    bool namesAll = true;
+    const Ranges ranges = isGame_ ? Ranges::OfItsBytes : Ranges::OfTheField;
+    for (const TableKind& kind : TableKinds()) {
+      const auto text = tables_.find(std::string(kind.Name));
+      if (text != tables_.end()) {
+        read_.push_back(ReadTableOf(kind, text->second, ranges));
+        namesAll = namesAll && read_.back().NamesAll;
+      } else if (!kind.OfGame) {
+        general_.push_back({std::string(kind.Name),
+                            0,
+                            {},
+                            "is missing; a table without records has only its header"});
+        namesAll = false;
+      }
+    }
+    return namesAll;
+  }
+
+  ReadTable* Read(const RecordLayout& layout) {
+    const auto found = std::find_if(read_.begin(), read_.end(), [&](const ReadTable& table) {
+      return table.Kind->Layout == &layout;
+    });
+    return found == read_.end() ? nullptr : &*found;
+  }
+
+  void Connect() {
+    const TableNames names([&](const RecordLayout& layout) -> ByteSpan {
+      const ReadTable* table = Read(layout);
+      return table ? ByteSpan(table->Records) : ByteSpan();
+    });
+    for (ReadTable& table : read_) {
+      for (const WaitingCell& cell : table.Waiting) {
+        std::string wrong = names.Take(cell.Place, cell.Cell, table.Record(cell.Row), isGame_);
+        if (wrong.empty()) continue;
+        table.Note(cell.Row, cell.Place.Name(), std::move(wrong));
+        if (table.Mistakes.size() < kMostMistakes) continue;
+        table.Note(cell.Row, {}, "more may be wrong from here on; mend what stands above first");
+        break;
+      }
+    }
+  }
+
+  void Load() {
+    for (Table* table : world_.Tables())
+      if (const RecordLayout* layout = table->Layout())
+        if (const ReadTable* read = Read(*layout)) table->Load(read->Records);
+    LoadNotes();
+    world_.MarkCommitted();
+  }
+
+  void LoadNotes() {
+    const auto notes = tables_.find(std::string(kNotesTable));
+    if (notes == tables_.end()) return;
+    const auto text = FromUtf8(notes->second);
+    const auto note = [&](std::string what) {
+      general_.push_back({std::string(kNotesTable), 0, {}, std::move(what)});
+    };
+    if (!text)
+      note("has the letter " + FirstForeignLetter(notes->second) +
+           ", which the game cannot hold: it knows those of Windows-1252");
+    else if (static_cast<std::int64_t>(text->size()) > world_.Notes().MaxBytes())
+      note("is longer than " + std::to_string(world_.Notes().MaxBytes()) + " letters");
+    else
+      world_.Notes().Set(*text);
+  }
+
+  /// Stables and splits are kept as names, so that a wrong one would only be found by the check,
+  /// which knows no better name. A running game may hold names of what is gone.
+  void FindHomelessNames() {
+    if (isGame_) return;
+    std::multimap<int, std::string> stables;
+    for (const Stable& stable : world_.Stables())
+      stables.emplace(stable.Owner, ToUtf8(stable.Name));
+    for (const Worker& worker : world_.Workers()) {
+      const Promotion* employer = world_.FindPromotion(worker.Employer);
+      if (!employer) continue;
+      std::vector<std::string> own, splits;
+      for (auto [at, end] = stables.equal_range(employer->Uid); at != end; ++at)
+        own.push_back(at->second);
+      for (const auto& split : employer->Split)
+        if (!(split == "None")) splits.push_back(ToUtf8(split));
+      FindHomeless(worker, "Stable", "stable", ToUtf8(worker.Stable), own);
+      FindHomeless(worker, "Split", "part of its roster", ToUtf8(worker.Split), splits);
+    }
+  }
+
+  void FindHomeless(const Worker& worker, const char* column, const std::string& what,
+                    const std::string& name, const std::vector<std::string>& names) {
+    if (name.empty() || name == "None") return;
+    if (std::find(names.begin(), names.end(), name) != names.end()) return;
+    const std::string employer = world_.FindPromotion(worker.Employer)->Initials.Str();
+    const auto row = static_cast<std::size_t>(world_.Workers().NumberOf(worker) - 1);
+    Read(LayoutOf<Worker>())
+        ->Note(row, column,
+               ToUtf8(employer) + " has no " + what + " of the name " + name +
+                   DidYouMean(name, {names.begin(), names.end()}));
+  }
+
+  void Check() {
+    for (const Fault& fault : CheckWorld(world_)) Translate(fault);
+  }
+
+  /// A fault of a record as a mistake of its line.
+  void Translate(const Fault& fault) {
+    const auto table = std::find_if(read_.begin(), read_.end(), [&](const ReadTable& read) {
+      return read.Kind->Layout->File == fault.File;
+    });
+    if (table == read_.end()) {
+      general_.push_back({fault.File, 0, fault.Field, fault.What});
+    } else if (fault.Record == 0) {
+      general_.push_back({std::string(table->Kind->Name), 0, fault.Field, fault.What});
+    } else {
+      const std::string who = fault.Who.empty() ? "" : ToUtf8(fault.Who) + " ";
+      table->Note(static_cast<std::size_t>(fault.Record - 1), fault.Field,
+                  who + ToUtf8(ByLines(fault.What, *table)));
+    }
+  }
+
+  /// A fault that names a further record of its file names its line instead.
+  static std::string ByLines(const std::string& what, const ReadTable& table) {
+    constexpr std::string_view kRecord = "record ";
+    const auto at = what.find(kRecord);
+    if (at == std::string::npos) return what;
+    const std::size_t start = at + kRecord.size();
+    std::size_t end = start;
+    while (end < what.size() && std::isdigit(static_cast<unsigned char>(what[end]))) ++end;
+    if (end == start || end - start > 6) return what;
+    const auto number = static_cast<std::size_t>(std::stoi(what.substr(start, end - start)));
+    if (number < 1 || number > table.Count()) return what;
+    return what.substr(0, at) + "line " + std::to_string(table.Lines[number - 1]) +
+           what.substr(end);
+  }
+
+  bool HasMistakes() const {
+    return !general_.empty() || std::any_of(read_.begin(), read_.end(), [](const ReadTable& table) {
+      return !table.Mistakes.empty();
+    });
+  }
+
+  Building Result() {
+    Building building;
+    building.Mistakes = std::move(general_);
+    for (ReadTable& table : read_) {
+      std::stable_sort(table.Mistakes.begin(), table.Mistakes.end(),
+                       [](const Mistake& a, const Mistake& b) { return a.Line < b.Line; });
+      std::move(table.Mistakes.begin(), table.Mistakes.end(),
+                std::back_inserter(building.Mistakes));
+    }
+    if (building.Mistakes.empty()) building.Made = std::move(world_);
+    return building;
+  }
+
+  const Tables& tables_;
+  bool isGame_;
+  std::vector<ReadTable> read_;
+  std::vector<Mistake> general_;
+  World world_;
+};
+
+}  // namespace
+
+Building BuildWorld(const Tables& tables) {
+  return Builder(tables).Build();
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,204 @@
+#include "storylines/feuds.h"
+
+#include <algorithm>
+
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// An opponent is too low when he is more than this below the worker; teams count it per head.
+constexpr int kLeagueGap = 20;
+
+constexpr int kContrastBonus = 10;
+constexpr int kColdestStart = 10;
+constexpr int kHottestStart = 90;
+
+/// Fewer wins and attacks than these, and nobody has noticed the feud yet.
+constexpr int kNoticed = 4;
+/// A feud that just stops hurts one in so many of its people, as much as losing the last bout does.
+constexpr int kHurtOdds = 4;
+constexpr int kHurtOver = 2;
+/// From this Attitude on a complaint is put politely.
+constexpr int kPolite = 61;
+
+std::vector<int> Members(const FeudSide& side) {
+  return side.IsTeam() ? std::vector{side.First, side.Second} : std::vector{side.First};
+}
+
+std::vector<int> Members(const FeudSides& sides) {
+  std::vector<int> all = Members(sides.One);
+  for (const int uid : Members(sides.Two)) all.push_back(uid);
+  return all;
+}
+
+int OverOf(const World& world, const FeudSide& side) {
+  int sum = 0;
+  for (const int uid : Members(side))
+    if (const Worker* worker = world.FindWorker(uid)) sum += worker->Over;
+  return sum;
+}
+
+/// The disposition that all of a side have; empty when they differ.
+std::string_view DispositionOf(const World& world, const FeudSide& side) {
+  const Worker* first = world.FindWorker(side.First);
+  if (!first) return {};
+  if (!side.IsTeam()) return first->Disposition;
+  const Worker* second = world.FindWorker(side.Second);
+  if (!second || !(second->Disposition == first->Disposition)) return {};
+  return first->Disposition;
+}
+
+int ContrastOf(std::string_view one, std::string_view two) {
+  if ((one == "F" && two == "H") || (one == "H" && two == "F")) return kContrastBonus;
+  return !one.empty() && one == two ? -kContrastBonus : 0;
+}
+
+bool IsTooLow(const World& world, const FeudSide& speaker, const FeudSide& opponent) {
+  const int gap = kLeagueGap * static_cast<int>(Members(speaker).size());
+  return OverOf(world, speaker) - gap > OverOf(world, opponent);
+}
+
+bool HasCreativeControl(const World& world, const FeudSide& side) {
+  const std::vector<int> members = Members(side);
+  return std::any_of(members.begin(), members.end(), [&](int uid) {
+    const Worker* worker = world.FindWorker(uid);
+    return worker && worker->CreativeControl;
+  });
+}
+
+FeudRefusal Refuse(const World& world, const FeudSide& speaker, const FeudSide& opponent) {
+  const bool veto = HasCreativeControl(world, speaker);
+  const std::string name = SideName(world, speaker);
+  if (speaker.IsTeam())
+    return {name +
+                ": 'We are not willing to do this feud, our opponents are not in our "
+                "league.'",
+            veto ? "They have creative control, and refuse." : ""};
+  return {name + ": 'I am not willing to do this feud, " + SideName(world, opponent) +
+              " is not in my league.'",
+          veto ? name + " has creative control, and refuses." : ""};
+}
+
+void Complain(World& world, const Worker& worker) {
+  AddNews(world, worker.Name,
+          worker.Attitude >= kPolite
+              ? "Ending my last feud off-camera was a bad move, i think it has hurt my popularity."
+              : "Ending my last feud off-camera was a stupid move, it has hurt my popularity.");
+}
+
+}  // namespace
+
+bool IsFreeSlot(const Feud& feud) {
+  return feud.Worker1 == 0;
+}
+
+int FreeFeudSlot(const World& world) {
+  int slot = 0;
+  for (const Feud& feud : world.Feuds()) {
+    ++slot;
+    if (IsFreeSlot(feud)) return slot;
+  }
+  return slot < kFeuds ? slot + 1 : 0;
+}
+
+FeudSides SidesOf(const Feud& feud) {
+  if (feud.Singles) return {{feud.Worker1, 0}, {feud.Worker2, 0}};
+  return {{feud.Worker1, feud.Worker2}, {feud.Worker3, feud.Worker4}};
+}
+
+std::string SideName(const World& world, const FeudSide& side) {
+  return side.IsTeam() ? PairName(world, side.First, side.Second) : WorkerName(world, side.First);
+}
+
+FeudScore FeudWins(const Feud& feud) {
+  return {feud.Clean1 + feud.Dirty1 + feud.Interference1 + feud.Sneak1,
+          feud.Clean2 + feud.Dirty2 + feud.Interference2 + feud.Sneak2};
+}
+
+bool FeudExists(const World& world, int workerA, int workerB) {
+  return FeudExists(world, {{workerA, 0}, {workerB, 0}});
+}
+
+bool FeudExists(const World& world, const FeudSides& sides) {
+  return std::any_of(world.Feuds().begin(), world.Feuds().end(), [&](const Feud& feud) {
+    if (IsFreeSlot(feud) || bool(feud.Singles) == sides.One.IsTeam()) return false;
+    const FeudSides held = SidesOf(feud);
+    return (held.One == sides.One && held.Two == sides.Two) ||
+           (held.One == sides.Two && held.Two == sides.One);
+  });
+}
+
+bool MayFeud(const World& world, const Worker& worker) {
+  const bool isSeen =
+      IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
+  return worker.Employer != 0 && worker.Employer == world.PlayerUid() && worker.Status == "Nor" &&
+         isSeen;
+}
+
+std::vector<const Worker*> FeudRoster(const World& world) {
+  std::vector<const Worker*> roster;
+  for (const Worker& worker : world.Workers())
+    if (MayFeud(world, worker)) roster.push_back(&worker);
+  std::stable_sort(roster.begin(), roster.end(),
+                   [](const Worker* a, const Worker* b) { return a->Over > b->Over; });
+  return roster;
+}
+
+StartingHeat StartingHeatOf(const World& world, const FeudSides& sides) {
+  StartingHeat start;
+  const int heads = static_cast<int>(Members(sides).size());
+  start.Popularity = (OverOf(world, sides.One) + OverOf(world, sides.Two)) / heads;
+  start.Contrast = ContrastOf(DispositionOf(world, sides.One), DispositionOf(world, sides.Two));
+  start.Heat = std::clamp(start.Popularity + start.Contrast, kColdestStart, kHottestStart);
+  return start;
+}
+
+std::string WhyNoFeud(const World& world, const FeudSides& sides) {
+  const FeudSide& one = sides.One;
+  if (sides.Two.Has(one.First) || sides.Two.Has(one.Second))
+    return "Wrestlers cannot feud with themselves!";
+  if (one.First == one.Second || sides.Two.First == sides.Two.Second)
+    return "You have selected the same worker twice!";
+  if (FeudExists(world, sides)) return "They are already in a feud with each other!";
+  if (FreeFeudSlot(world) == 0) return "All eight feud slots are taken. End a feud first.";
+  return {};
+}
+
+std::optional<FeudRefusal> RefusalOf(const World& world, const FeudSides& sides) {
+  if (IsTooLow(world, sides.One, sides.Two)) return Refuse(world, sides.One, sides.Two);
+  if (IsTooLow(world, sides.Two, sides.One)) return Refuse(world, sides.Two, sides.One);
+  return std::nullopt;
+}
+
+int StartFeud(World& world, const FeudSides& sides) {
+  const int slot = FreeFeudSlot(world);
+  while (world.Feuds().Count() < slot) world.Feuds().Append({});
+  Feud feud;
+  feud.Singles = !sides.One.IsTeam();
+  feud.Worker1 = sides.One.First;
+  feud.Worker2 = feud.Singles ? sides.Two.First : sides.One.Second;
+  feud.Worker3 = feud.Singles ? 0 : sides.Two.First;
+  feud.Worker4 = feud.Singles ? 0 : sides.Two.Second;
+  feud.Heat = StartingHeatOf(world, sides).Heat;
+  feud.Started = world.Today();
+  world.Feuds()[slot] = feud;
+  return slot;
+}
+
+void EndFeudOffCamera(World& world, int slot) {
+  const Feud ended = world.Feuds()[slot];
+  world.Feuds()[slot] = Feud{};
+  const FeudScore score = FeudWins(ended);
+  if (score.One + score.Two < kNoticed) return;
+  for (const int uid : Members(SidesOf(ended))) {
+    Worker* worker = world.FindWorker(uid);
+    if (!worker || world.RandomDraw(kHurtOdds) != 1 || worker->Over <= 0) continue;
+    worker->Over -= kHurtOver;
+    Complain(world, *worker);
+  }
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,264 @@
+#include "ui/filter.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "records/dates.h"
+
+namespace grapplemont::ui {
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t";
+
+std::string_view Trim(std::string_view text) {
+  const auto first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::vector<std::string_view> Split(std::string_view text, char at) {
+  std::vector<std::string_view> parts;
+  for (;;) {
+    const auto end = std::min(text.find(at), text.size());
+    if (const auto part = Trim(text.substr(0, end)); !part.empty()) parts.push_back(part);
+    if (end == text.size()) return parts;
+    text.remove_prefix(end + 1);
+  }
+}
+
+bool TakeFront(std::string_view& text, std::string_view start) {
+  if (!text.starts_with(start)) return false;
+  text = Trim(text.substr(start.size()));
+  return true;
+}
+
+std::optional<int> WholeNumber(std::string_view text) {
+  int number = 0;
+  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (fault != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+/// "09/03/2026" or "2026-03-09" as the day count of the records.
+std::optional<double> ReadDate(std::string_view text) {
+  const auto count = [](Day day) {
+    constexpr Day kDayZero{std::chrono::year{1899} / 12 / 30};
+    return static_cast<double>((day - kDayZero).count());
+  };
+  if (const auto iso = ParseIsoDate(text)) return count(*iso);
+  const auto parts = Split(text, '/');
+  if (parts.size() != 3) return std::nullopt;
+  const auto day = WholeNumber(parts[0]), month = WholeNumber(parts[1]),
+             year = WholeNumber(parts[2]);
+  if (!day || !month || !year || *day < 1 || *month < 1) return std::nullopt;
+  const std::chrono::year_month_day date{std::chrono::year{*year < 100 ? *year + 2000 : *year},
+                                         std::chrono::month{static_cast<unsigned>(*month)},
+                                         std::chrono::day{static_cast<unsigned>(*day)}};
+  return date.ok() ? std::optional(count(Day{date})) : std::nullopt;
+}
+
+/// "70", "70%", "-3.5", "$1200", "250k", "1.5m" or a date.
+std::optional<double> ReadNumber(std::string_view text) {
+  if (const auto date = ReadDate(text)) return date;
+  const bool negative = TakeFront(text, "-");
+  TakeFront(text, "$");
+  double unit = 1;
+  constexpr std::array<std::pair<char, double>, 5> kUnits = {
+      {{'%', 1}, {'k', 1e3}, {'K', 1e3}, {'m', 1e6}, {'M', 1e6}}};
+  for (const auto& [letter, worth] : kUnits)
+    if (text.ends_with(letter)) {
+      text.remove_suffix(1);
+      unit = worth;
+      break;
+    }
+  double number = 0;
+  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (fault != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return (negative ? -number : number) * unit;
+}
+
+/// What the letters 0xC0 to 0xFF are without their accents.
+constexpr std::string_view kBare =
+    "aaaaaa\xe6"
+    "ceeeeiiii\xf0"
+    "nooooo\xd7"
+    "ouuuuy\xfe\xdf"
+    "aaaaaa\xe6"
+    "ceeeeiiii\xf0"
+    "nooooo\xf7"
+    "ouuuuy\xfey";
+static_assert(kBare.size() == 64);
+
+char Fold(char letter) {
+  const auto byte = static_cast<unsigned char>(letter);
+  if (byte >= 'A' && byte <= 'Z') return static_cast<char>(byte + ('a' - 'A'));
+  if (byte >= 0xC0) return kBare[byte - 0xC0u];
+  switch (byte) {
+    case 0x8A:
+    case 0x9A:
+      return 's';
+    case 0x8E:
+    case 0x9E:
+      return 'z';
+    case 0x9F:
+      return 'y';
+    case 0x8C:
+      return '\x9c';
+    default:
+      return letter;
+  }
+}
+
+}  // namespace
+
+std::string Folded(std::string_view text) {
+  std::string folded(text);
+  std::transform(folded.begin(), folded.end(), folded.begin(), Fold);
+  return folded;
+}
+
+bool IsNumeric(ColumnKind kind) {
+  return kind == ColumnKind::Number || kind == ColumnKind::Percent || kind == ColumnKind::Date;
+}
+
+Filter::Filter(std::string_view expression) {
+  expression = Trim(expression);
+  if (expression.find('|') != expression.npos) not_ = TakeFront(expression, "!");
+  for (const std::string_view alternative : Split(expression, '|')) {
+    std::vector<Term> terms;
+    for (const std::string_view part : Split(alternative, '&'))
+      if (auto term = Read(part)) terms.push_back(std::move(*term));
+    if (!terms.empty()) alternatives_.push_back(std::move(terms));
+  }
+}
+
+std::optional<Filter::Term> Filter::Read(std::string_view text) {
+  constexpr std::array<std::pair<std::string_view, Test>, 6> kOperators = {
+      {{">=", Test::GreaterOrEqual},
+       {"<=", Test::LessOrEqual},
+       {"==", Test::Equals},
+       {">", Test::Greater},
+       {"<", Test::Less},
+       {"=", Test::Equals}}};
+  Term term;
+  term.Not = TakeFront(text, "!");
+  for (const auto& [sign, test] : kOperators)
+    if (TakeFront(text, sign)) {
+      term.How = test;
+      break;
+    }
+  if (text.empty()) return std::nullopt;
+  term.Text = Folded(text);
+  if (const auto dots = text.find(".."); term.How == Test::Holds && dots != text.npos) {
+    term.Low = ReadNumber(Trim(text.substr(0, dots)));
+    term.High = ReadNumber(Trim(text.substr(dots + 2)));
+    if (term.Low && term.High) term.How = Test::Between;
+  } else {
+    term.Low = ReadNumber(text);
+  }
+  return term;
+}
+
+bool Filter::Fits(const Term& term, const Cell& cell, ColumnKind kind) {
+  const bool asNumber = IsNumeric(kind) && term.Low;
+  if (term.How == Test::Holds || (term.How == Test::Between && !asNumber))
+    return Folded(cell.Text).find(term.Text) != std::string::npos;
+  if (asNumber) {
+    const double number = cell.Number;
+    switch (term.How) {
+      case Test::Less:
+        return number < *term.Low;
+      case Test::LessOrEqual:
+        return number <= *term.Low;
+      case Test::Greater:
+        return number > *term.Low;
+      case Test::GreaterOrEqual:
+        return number >= *term.Low;
+      case Test::Between:
+        return number >= *term.Low && number <= *term.High;
+      default:
+        return number == *term.Low;
+    }
+  }
+  const int order = Folded(cell.Text).compare(term.Text);
+  switch (term.How) {
+    case Test::Less:
+      return order < 0;
+    case Test::LessOrEqual:
+      return order <= 0;
+    case Test::Greater:
+      return order > 0;
+    case Test::GreaterOrEqual:
+      return order >= 0;
+    default:
+      return order == 0;
+  }
+}
+
+bool Filter::Fits(const Cell& cell, ColumnKind kind) const {
+  if (Empty()) return true;
+  return not_ != std::any_of(alternatives_.begin(), alternatives_.end(), [&](const auto& terms) {
+           return std::all_of(terms.begin(), terms.end(),
+                              [&](const Term& term) { return Fits(term, cell, kind) != term.Not; });
+         });
+}
+
+namespace {
+
+constexpr std::string_view kSigns = "<>=!:";
+
+bool IsComparison(std::string_view text) {
+  return !text.empty() && (text.front() == '<' || text.front() == '>' || text.front() == '=');
+}
+
+/// The column that a name means: its whole title, or the only one that begins so.
+std::optional<std::size_t> ColumnNamed(std::string_view name, const std::vector<Column>& columns) {
+  const std::string wanted = Folded(name);
+  std::optional<std::size_t> begins;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    const std::string title = Folded(columns[i].Title);
+    if (title == wanted || title == wanted + ".") return i;
+    if (!title.starts_with(wanted)) continue;
+    if (begins) return std::nullopt;
+    begins = i;
+  }
+  return begins;
+}
+
+}  // namespace
+
+Search::Search(std::string_view line, const std::vector<Column>& columns) {
+  for (std::string_view text : Split(line, ',')) {
+    Term term;
+    const auto sign = text.find_first_of(kSigns);
+    if (sign != 0 && sign != text.npos)
+      term.Column = ColumnNamed(Trim(text.substr(0, sign)), columns);
+    if (term.Column) {
+      text = text.substr(sign);
+      TakeFront(text, ":");
+    } else {
+      term.Not = TakeFront(text, "!");
+      term.NumbersAlone = IsComparison(text);
+    }
+    term.Wanted = Filter(text);
+    if (!term.Wanted.Empty()) terms_.push_back(std::move(term));
+  }
+}
+
+bool Search::Fits(const std::vector<Cell>& cells, const std::vector<Column>& columns) const {
+  const auto fits = [&](const Term& term, std::size_t i) {
+    if (i >= cells.size()) return false;
+    const ColumnKind kind = i < columns.size() ? columns[i].Kind : ColumnKind::Text;
+    return (!term.NumbersAlone || IsNumeric(kind)) && term.Wanted.Fits(cells[i], kind);
+  };
+  return std::all_of(terms_.begin(), terms_.end(), [&](const Term& term) {
+    if (term.Column) return fits(term, *term.Column);
+    bool found = false;
+    for (std::size_t i = 0; i < cells.size() && !found; ++i) found = fits(term, i);
+    return found != term.Not;
+  });
+}
+
+}  // namespace grapplemont::ui

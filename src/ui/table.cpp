@@ -1,0 +1,226 @@
+#include "ui/table.h"
+
+#include <algorithm>
+#include <compare>
+#include <numeric>
+
+#include "ui/filter.h"
+
+namespace grapplemont::ui {
+
+namespace {
+
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
+
+const Cell& CellOf(const ListBox::Row& row, int column) {
+  static const Cell kNone("");
+  return Index(column) < row.Cells.size() ? row.Cells[Index(column)] : kNone;
+}
+
+}  // namespace
+
+std::string ColumnId(const std::vector<Column>& columns, int column) {
+  const std::string& title = columns[Index(column)].Title;
+  return title.empty() ? "#" + std::to_string(column + 1) : title;
+}
+
+Table::Table(const ListBox& list, TableState state) : list_(list), state_(std::move(state)) {
+  Follow();
+}
+
+bool Table::Follow() {
+  if (seen_ == list_.Contents()) return false;
+  seen_ = list_.Contents();
+  ArrangeColumns();
+  ArrangeRows();
+  return true;
+}
+
+const ListBox::Row& Table::RowAt(int shownRow) const {
+  return list_.Rows()[Index(rows_[Index(shownRow)])];
+}
+
+const Cell& Table::At(int shownRow, int listColumn) const {
+  return CellOf(RowAt(shownRow), listColumn);
+}
+
+int Table::ShownRow(int listRow) const {
+  const auto found = std::find(rows_.begin(), rows_.end(), listRow);
+  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+void Table::ArrangeColumns() {
+  const int count = static_cast<int>(list_.Columns().size());
+  columns_.clear();
+  const auto place = [&](int column) {
+    if (std::find(columns_.begin(), columns_.end(), column) == columns_.end())
+      columns_.push_back(column);
+  };
+  for (const std::string& id : state_.Order)
+    for (int column = 0; column < count; ++column)
+      if (Id(column) == id) place(column);
+  for (int column = 0; column < count; ++column) place(column);
+  const auto hidden = [&](int column) { return state_.Hidden.contains(Id(column)); };
+  if (!std::all_of(columns_.begin(), columns_.end(), hidden)) std::erase_if(columns_, hidden);
+}
+
+void Table::ArrangeRows() {
+  const auto& columns = list_.Columns();
+  const Search search(state_.Search, columns);
+  std::vector<std::pair<int, Filter>> filters;
+  for (int column = 0; Index(column) < columns.size(); ++column)
+    if (Filter filter(FilterOf(column)); !filter.Empty()) filters.emplace_back(column, filter);
+
+  rows_.clear();
+  for (int row = 0; row < list_.Count(); ++row) {
+    const ListBox::Row& candidate = list_.Rows()[Index(row)];
+    const bool fits = std::all_of(filters.begin(), filters.end(), [&](const auto& filter) {
+      return filter.second.Fits(CellOf(candidate, filter.first), columns[Index(filter.first)].Kind);
+    });
+    if (fits && search.Fits(candidate.Cells, columns)) rows_.push_back(row);
+  }
+  SortRows();
+}
+
+namespace {
+
+/// The cells of a column in a form that compares quickly.
+struct SortColumn {
+  bool Descending;
+  std::vector<double> Numbers;
+  std::vector<std::string> Texts;
+
+  /// Rows without a text come last, whichever way the others go.
+  std::weak_ordering Compare(std::size_t a, std::size_t b) const {
+    if (Texts[a].empty() != Texts[b].empty()) return Texts[b].empty() <=> Texts[a].empty();
+    auto order = std::weak_order(Numbers[a], Numbers[b]);
+    if (order == 0) order = Texts[a] <=> Texts[b];
+    return Descending ? 0 <=> order : order;
+  }
+};
+
+}  // namespace
+
+void Table::SortRows() {
+  std::vector<SortColumn> keys;
+  for (const auto& [id, descending] : state_.Sort)
+    for (int column = 0; Index(column) < list_.Columns().size(); ++column) {
+      if (Id(column) != id) continue;
+      SortColumn& key = keys.emplace_back();
+      key.Descending = descending;
+      const bool numeric = IsNumeric(list_.Columns()[Index(column)].Kind);
+      for (const ListBox::Row& row : list_.Rows()) {
+        const Cell& cell = CellOf(row, column);
+        key.Numbers.push_back(numeric ? cell.Number : 0);
+        key.Texts.push_back(Folded(cell.Text));
+      }
+      break;
+    }
+  if (keys.empty()) return;
+  std::stable_sort(rows_.begin(), rows_.end(), [&](int a, int b) {
+    for (const SortColumn& key : keys)
+      if (const auto order = key.Compare(Index(a), Index(b)); order != 0) return order < 0;
+    return false;
+  });
+}
+
+TableState::SortKey* Table::KeyFor(int listColumn) {
+  const std::string id = Id(listColumn);
+  const auto found = std::find_if(state_.Sort.begin(), state_.Sort.end(),
+                                  [&](const auto& key) { return key.Column == id; });
+  return found == state_.Sort.end() ? nullptr : &*found;
+}
+
+void Table::TurnSort(int listColumn, bool second) {
+  const bool falls = IsNumeric(list_.Columns()[Index(listColumn)].Kind) &&
+                     list_.Columns()[Index(listColumn)].Kind != ColumnKind::Date;
+  const std::string id = Id(listColumn);
+  auto& sort = state_.Sort;
+  if (!second && (sort.size() != 1 || sort.front().Column != id)) {
+    sort = {{id, falls}};
+  } else if (TableState::SortKey* key = KeyFor(listColumn); !key) {
+    if (sort.size() > 1) sort.resize(1);
+    sort.push_back({id, falls});
+  } else if (key->Descending == falls) {
+    key->Descending = !falls;
+  } else {
+    std::erase_if(sort, [&](const auto& held) { return held.Column == id; });
+  }
+  ArrangeRows();
+}
+
+int Table::SortPlace(int listColumn) const {
+  const std::string id = Id(listColumn);
+  for (std::size_t i = 0; i < state_.Sort.size(); ++i)
+    if (state_.Sort[i].Column == id) return static_cast<int>(i) + 1;
+  return 0;
+}
+
+bool Table::SortsDown(int listColumn) const {
+  const int place = SortPlace(listColumn);
+  return place > 0 && state_.Sort[Index(place - 1)].Descending;
+}
+
+void Table::SetFilter(int listColumn, std::string expression) {
+  if (Filter(expression).Empty()) {
+    state_.Filters.erase(Id(listColumn));
+  } else {
+    state_.Filters[Id(listColumn)] = std::move(expression);
+  }
+  ArrangeRows();
+}
+
+const std::string& Table::FilterOf(int listColumn) const {
+  static const std::string kNone;
+  const auto found = state_.Filters.find(Id(listColumn));
+  return found == state_.Filters.end() ? kNone : found->second;
+}
+
+void Table::SetSearch(std::string line) {
+  state_.Search = std::move(line);
+  ArrangeRows();
+}
+
+void Table::ClearFilters() {
+  state_.Filters.clear();
+  SetSearch({});
+}
+
+bool Table::Shows(int listColumn) const {
+  return std::find(columns_.begin(), columns_.end(), listColumn) != columns_.end();
+}
+
+void Table::Show(int listColumn, bool shown) {
+  if (shown) {
+    state_.Hidden.erase(Id(listColumn));
+  } else if (columns_.size() > 1) {
+    state_.Hidden.insert(Id(listColumn));
+  }
+  ArrangeColumns();
+}
+
+void Table::SetOrder(const std::vector<int>& listColumns) {
+  state_.Order.clear();
+  for (const int column : listColumns) state_.Order.push_back(Id(column));
+  ArrangeColumns();
+}
+
+void Table::ResetColumns() {
+  state_.Order.clear();
+  state_.Hidden.clear();
+  state_.Widths.clear();
+  ArrangeColumns();
+}
+
+void Table::SetWidth(int listColumn, int width) {
+  state_.Widths[Id(listColumn)] = width;
+}
+
+void Table::SetPlace(int topRow, int currentKey) {
+  state_.TopRow = topRow;
+  state_.CurrentKey = currentKey;
+}
+
+}  // namespace grapplemont::ui

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/controls.h"
+
+// The half of the table component that knows no toolkit: which rows and columns of a ListBox are
+// shown, in which order.
+
+namespace grapplemont::ui {
+
+/// What the player has made of a table. Columns go by their ids (see ColumnId).
+struct TableState {
+  struct SortKey {
+    std::string Column;
+    bool Descending = false;
+    friend bool operator==(const SortKey&, const SortKey&) = default;
+  };
+  std::vector<SortKey> Sort;  // the first counts most; two at most
+  std::map<std::string, std::string> Filters;
+  std::string Search;
+  std::vector<std::string> Order;  // columns that are not named keep their places
+  std::set<std::string> Hidden;
+  std::map<std::string, int> Widths;  // set by hand, in pixels at the usual size of text
+  int TopRow = 0;                     // where the table is scrolled to, from 0
+  int CurrentKey = 0;                 // the key of the row under the cursor
+  friend bool operator==(const TableState&, const TableState&) = default;
+};
+
+/// A state as a text of one line, and back. Any text can be read: what is not understood is left
+/// out.
+std::string Written(const TableState& state);
+TableState ReadTableState(std::string_view text);
+
+/// A column's title, or "#2" for the second when it has none.
+std::string ColumnId(const std::vector<Column>& columns, int column);
+
+/// Rows and columns count from 0 here, in the list and as shown.
+class Table {
+ public:
+  explicit Table(const ListBox& list, TableState state = {});
+
+  /// Follows a change of the list's contents; true when there was one.
+  bool Follow();
+  const std::vector<int>& Rows() const { return rows_; }
+  const std::vector<int>& Columns() const { return columns_; }
+  /// An empty cell where the row has none.
+  const Cell& At(int shownRow, int listColumn) const;
+  const ListBox::Row& RowAt(int shownRow) const;
+  /// -1 when the row is filtered away.
+  int ShownRow(int listRow) const;
+  bool Filtered() const { return rows_.size() != list_.Rows().size(); }
+
+  const TableState& State() const { return state_; }
+  /// The next of: the kind's own order (numbers fall, texts rise), the other way round, unsorted.
+  /// `second` leaves the first key as it is.
+  void TurnSort(int listColumn, bool second);
+  /// 0 not sorted by this column, else 1 or 2 for its place among the keys.
+  int SortPlace(int listColumn) const;
+  bool SortsDown(int listColumn) const;
+  void SetFilter(int listColumn, std::string expression);
+  const std::string& FilterOf(int listColumn) const;
+  void SetSearch(std::string line);
+  void ClearFilters();  // and the search
+  void Show(int listColumn, bool shown);
+  bool Shows(int listColumn) const;
+  /// Puts the shown columns in another order.
+  void SetOrder(const std::vector<int>& listColumns);
+  void ResetColumns();
+  void SetWidth(int listColumn, int width);
+  void SetPlace(int topRow, int currentKey);
+
+  /// What is shown, headings first, lines ending as RFC 4180 has it.
+  std::string Csv() const;
+
+ private:
+  void ArrangeColumns();
+  void ArrangeRows();
+  void SortRows();
+  TableState::SortKey* KeyFor(int listColumn);
+  std::string Id(int listColumn) const { return ColumnId(list_.Columns(), listColumn); }
+
+  const ListBox& list_;
+  TableState state_;
+  unsigned seen_ = 0;
+  std::vector<int> rows_, columns_;
+};
+
+}  // namespace grapplemont::ui

@@ -1,0 +1,221 @@
+#include <gtest/gtest.h>
+
+#include "info/mailoptions.h"
+#include "support/gameonworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+SmallWorld Plain() {
+  SmallWorld small;
+  small.Promotion("CWA").Game("CWA");
+  return small;
+}
+
+TEST(frmOptions, OffersTheThreeChoicesOrTwo) {
+  GameOnWorld play(Plain());
+  play.Desk.Open("frmOptions");
+  const Names three = {"Always", "Only for direct rivals or above", "Never"};
+  const Names two = {"Always", "Never"};
+  for (const char* name :
+       {"cmbowners", "cmbwreshire", "cmbwresfire", "cmbstaffhire", "cmbstafffire", "cmbtv",
+        "cmbretirement", "cmbotherfed", "cmbsponsor", "cmbshows", "cmbtvshow", "cmbstaffretire"}) {
+    EXPECT_EQ(play.Desk.FirstColumn(name), three) << name;
+    EXPECT_EQ(play.Desk.Text(name), three[1]) << name;
+  }
+  for (const char* name : {"cmbdev", "cmbtrain"}) {
+    EXPECT_EQ(play.Desk.FirstColumn(name), two) << name;
+    EXPECT_EQ(play.Desk.Text(name), "Always") << name;
+  }
+  EXPECT_EQ(play.Desk.FirstColumn("cmbreport"), (Names{"The Lamplighter", "Rafe Tolland", "QVD"}));
+  EXPECT_EQ(play.Desk.Text("cmbreport"), "Rafe Tolland");
+  EXPECT_EQ(play.Desk.FirstColumn("cmbload"),
+            (Names{"Graphics Set Default", "Graphics Set 1", "Graphics Set 2", "Graphics Set 3",
+                   "Graphics Set 4"}));
+}
+
+TEST(frmOptions, KeepsEveryChoice) {
+  GameOnWorld play(Plain());
+  play.Desk.Open("frmOptions");
+  // A different pattern of choices in each control, so that no two of them can be mixed up.
+  const int kChoices[] = {2, 0, 1, 0, 2, 1, 1, 2, 0, 0, 1, 2, 2, 0};
+  for (std::size_t i = 0; i < kMailOptionTable.size(); ++i)
+    play.Desk.Pick(kMailOptionTable[i].Control, std::string(Says(kMailOptions, kChoices[i])));
+  play.Desk.Pick("cmbreport", "QVD");
+  play.Desk.Pick("cmbload", "Graphics Set 3");
+  play.Desk.Click("cmddone");
+  EXPECT_TRUE(play.Desk.Empty());
+  play.Reopen();
+  const GameInfo& game = play.World().Game();
+  const int kStored[] = {game.MailOwners,     game.MailWorkerHire, game.MailWorkerFire,
+                         game.MailStaffHire,  game.MailStaffFire,  game.MailTv,
+                         game.MailRetirement, game.MailOtherFed,   game.MailSponsor,
+                         game.MailShows,      game.MailTvShow,     game.MailStaffRetire,
+                         game.MailDev,        game.MailTrain};
+  for (std::size_t i = 0; i < kMailOptionTable.size(); ++i)
+    EXPECT_EQ(kStored[i], kChoices[i]) << kMailOptionTable[i].Control;
+  EXPECT_EQ(game.Reporter, 2);
+  EXPECT_EQ(game.LoadingSet, 3);
+}
+
+TEST(frmOptions, SetsAllAtOnce) {
+  struct Case {
+    const char* Button;
+    const char* Choice;
+    const char* TwoWay;
+  };
+  const Case kCases[] = {{"cmdnever", "Never", "Never"},
+                         {"cmddirect", "Only for direct rivals or above", "Always"},
+                         {"cmdalways", "Always", "Always"}};
+  GameOnWorld play(Plain());
+  play.Desk.Open("frmOptions");
+  for (const Case& c : kCases) {
+    play.Desk.Click(c.Button);
+    for (const MailOption& option : kMailOptionTable)
+      EXPECT_EQ(play.Desk.Text(option.Control), option.TwoWay ? c.TwoWay : c.Choice)
+          << c.Button << " " << option.Control;
+  }
+}
+
+TEST(frmOptions, ShowsStrayWordsWithoutChangingThem) {
+  GameOnWorld play(SmallWorld()
+                       .Promotion("CWA")
+                       .Game("CWA", kGameStart,
+                             [](GameInfo& game) {
+                               game.MailDev = 1;
+                               game.MailTv = 7;
+                               game.Reporter = -3;
+                             })
+                       .BuildUnchecked());
+  play.Desk.Open("frmOptions");
+  EXPECT_EQ(play.Desk.Text("cmbdev"), "Always");
+  EXPECT_EQ(play.Desk.Text("cmbtv"), "");
+  play.Desk.Click("cmdview");
+  EXPECT_EQ(play.Desk.TopName(), "frmLoadingScreens");
+  play.Desk.Click("cmdback");
+  play.Desk.Click("cmddone");
+  EXPECT_EQ(play.World().Game().MailTv, 7);
+  EXPECT_EQ(play.World().Game().Reporter, -3);
+}
+
+SmallWorld SixMails() {
+  SmallWorld small = Plain();
+  for (const char* body : {"1", "2", "3", "4"}) small.Mail("Maeve", body);
+  small.Mail("Bram Okafor", "5").Mail("Maeve", "6");
+  return small;
+}
+
+/// The bodies in the order shown, and the one that is open.
+void ExpectMails(ScriptDesk& desk, const Names& bodies, const std::string& open) {
+  Names shown;
+  for (const auto& row : desk.Rows("lstnews")) shown.push_back(row.at(2));
+  EXPECT_EQ(shown, bodies);
+  EXPECT_EQ(desk.Text("txtbody"), open);
+}
+
+TEST(frmNews, ShowsTheNewestFirst) {
+  GameOnWorld play(SixMails());
+  play.Desk.Open("frmNews");
+  ExpectMails(play.Desk, {"6", "5", "4", "3", "2", "1"}, "6");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "6 mails.");
+  play.Desk.Pick("lstnews", 2);
+  EXPECT_EQ(play.Desk.Text("lblfrom"), "Bram Okafor");
+  EXPECT_EQ(play.Desk.Text("lbldate"), play.World().News()[5].Date.Str());
+  EXPECT_EQ(play.Desk.Text("txtbody"), "5");
+}
+
+TEST(frmNews, KeepsItsPlaceAfterADelete) {
+  GameOnWorld play(SixMails());
+  play.Desk.Open("frmNews");
+  play.Desk.Pick("lstnews", 3);
+  play.Desk.Click("cmddelete");
+  ExpectMails(play.Desk, {"6", "5", "3", "2", "1"}, "3");
+  EXPECT_EQ(play.Desk.Selected("lstnews"), std::vector{3});
+  play.Desk.Pick("lstnews", 5);
+  play.Desk.Click("cmddelete");
+  ExpectMails(play.Desk, {"6", "5", "3", "2"}, "2");
+  for (int left = 4; left > 0; --left) play.Desk.Click("cmddelete");
+  ExpectMails(play.Desk, {}, "");
+  EXPECT_FALSE(play.Desk.Enabled("cmddelete"));
+  EXPECT_FALSE(play.Desk.Enabled("cmdempty"));
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "0 mails.");
+  play.Reopen();
+  EXPECT_EQ(play.World().News().Count(), 0);
+}
+
+TEST(frmNews, FiltersBySender) {
+  GameOnWorld play(SixMails());
+  play.Desk.Open("frmNews");
+  EXPECT_EQ(play.Desk.FirstColumn("cmbfrom"), (Names{"Everybody", "Bram Okafor", "Maeve"}));
+  play.Desk.Pick("cmbfrom", "Maeve");
+  ExpectMails(play.Desk, {"6", "4", "3", "2", "1"}, "6");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "5 of 6 mails.");
+  play.Desk.Pick("lstnews", 2);
+  play.Desk.Click("cmddelete");
+  ExpectMails(play.Desk, {"6", "3", "2", "1"}, "3");
+  EXPECT_EQ(play.Desk.Text("cmbfrom"), "Maeve");
+  // The filter goes with its sender's last mail.
+  play.Desk.Pick("cmbfrom", "Bram Okafor");
+  ExpectMails(play.Desk, {"5"}, "5");
+  play.Desk.Click("cmddelete");
+  EXPECT_EQ(play.Desk.Text("cmbfrom"), "Everybody");
+  ExpectMails(play.Desk, {"6", "3", "2", "1"}, "6");
+}
+
+TEST(frmNews, EmptiesTheMailboxAfterAsking) {
+  GameOnWorld play(SixMails());
+  play.Desk.Open("frmMainScreen");
+  EXPECT_EQ(play.Desk.Text("imgmail"), "6 mails");
+  play.Desk.Click("cmdnews");
+  const std::string question = "Are you sure you want to delete all 6 mails?";
+  play.Desk.ExpectAsk("Empty?", question, false, ui::Default::No);
+  play.Desk.Click("cmdempty");
+  EXPECT_EQ(play.World().News().Count(), 6);
+  play.Desk.Pick("cmbfrom", "Bram Okafor");
+  play.Desk.ExpectAsk("Empty?", question, true);
+  play.Desk.Click("cmdempty");
+  ExpectMails(play.Desk, {}, "");
+  EXPECT_EQ(play.Desk.FirstColumn("cmbfrom"), (Names{"Everybody"}));
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.Text("imgmail"), "0 mails");
+  EXPECT_FALSE(play.Desk.Enabled("imgmail"));
+}
+
+TEST(frmNotepad, KeepsWhatIsTypedHoweverItCloses) {
+  GameOnWorld play(Plain());
+  play.Desk.Open("frmNotepad");
+  EXPECT_EQ(play.Desk.Text("txtnotes"), "Notepad");
+  const std::string notes =
+      "Push Bram.\r\n\tDrop Ilya.\n\n  caf\xE9 \x80"
+      "5\n";
+  play.Desk.Type("txtnotes", notes);
+  play.Desk.CloseAll();
+  play.Reopen();
+  EXPECT_EQ(play.World().Notes().Text(), notes);
+  play.Desk.Open("frmNotepad");
+  EXPECT_EQ(play.Desk.Text("txtnotes"), notes);
+  play.Desk.Type("txtnotes", "");
+  play.Desk.Click("cmdback");
+  EXPECT_TRUE(play.Desk.Empty());
+  play.Reopen();
+  EXPECT_EQ(play.World().Notes().Text(), "");
+}
+
+TEST(frmNotepad, RefusesMoreThanItHolds) {
+  GameOnWorld play(Plain());
+  play.Desk.Open("frmNotepad");
+  std::string notes(1 << 20, 'n');
+  play.Desk.Type("txtnotes", notes);
+  EXPECT_EQ(play.World().Notes().Text(), notes);
+  play.Desk.ExpectSay("Error!",
+                      "The notepad holds 1048576 letters at most. Your notes are as they were "
+                      "before.");
+  play.Desk.Type("txtnotes", notes + "n");
+  EXPECT_EQ(play.Desk.Text("txtnotes"), notes);
+  EXPECT_EQ(play.World().Notes().Text(), notes);
+}
+
+}  // namespace
+}  // namespace grapplemont::test

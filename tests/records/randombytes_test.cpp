@@ -1,0 +1,236 @@
+#include <gtest/gtest.h>
+
+#include "records/checkworld.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "records/severing.h"
+#include "records/sweeps.h"
+#include "support/randomworld.h"
+#include "support/smallworld.h"
+
+// Files from elsewhere may hold anything: any bytes give a world that can be looked at and mended,
+// or a message that names the file.
+
+namespace grapplemont {
+namespace {
+
+using test::BytesOf;
+using test::Dice;
+using test::SmallWorld;
+
+using Files = std::map<std::string, Bytes>;
+
+const World& Sample() {
+  static const World world = SmallWorld()
+                                 .Network("Channel Nine")
+                                 .Promotion("CWA", kCult)
+                                 .Owner("Ruth Vane")
+                                 .Staff("Vic Tolliver", kAnnouncer)
+                                 .Crew(6)
+                                 .Team("Pair", "CWA Hand 1", "CWA Hand 2")
+                                 .Stable("The Bench", {"CWA Hand 3"})
+                                 .Title("CWA Crown", "CWA Hand 1")
+                                 .Show("Friday Fire", "Friday", "Channel Nine")
+                                 .Sponsor("Colossal Cola")
+                                 .Event(3)
+                                 .Promotion("NEW", kSmall)
+                                 .Crew(4)
+                                 .Game("CWA")
+                                 .Feud("CWA Hand 1", "CWA Hand 2")
+                                 .Mail("Maeve", "Good morning.");
+  return world;
+}
+
+Bytes RandomBytes(Dice& dice, std::size_t length) {
+  Bytes bytes(length);
+  // Mostly noise, often few different bytes, so that uids and codes meet.
+  const int kinds = dice.OneIn(2) ? 256 : dice.From(1, 4);
+  for (std::byte& byte : bytes) byte = static_cast<std::byte>(dice.From(0, kinds - 1));
+  return bytes;
+}
+
+/// Every file of noise, or none of it.
+Files Noise(Dice& dice) {
+  Files files;
+  for (const Table* table : Sample().Tables()) {
+    if (dice.OneIn(6)) continue;
+    const int record = table->Layout() ? table->Layout()->Size : 7;
+    const int most = dice.OneIn(20) ? 40 * record : 6 * record;
+    files[std::string(table->File())] =
+        RandomBytes(dice, static_cast<std::size_t>(dice.From(0, most)));
+  }
+  // Most games have one record of it; more than one is no game at all.
+  if (!dice.OneIn(5)) files["gameinfo.dat"] = RandomBytes(dice, sizeof(GameInfo));
+  return files;
+}
+
+void Spoil(Dice& dice, Bytes& bytes) {
+  const auto somewhere = [&] {
+    return bytes.begin() + dice.From(0, static_cast<int>(bytes.size()) - 1);
+  };
+  if (bytes.empty()) return;
+  switch (dice.From(1, 6)) {
+    case 1:
+      bytes.erase(somewhere(), bytes.end());
+      break;
+    case 2:
+      bytes.insert(somewhere(), dice.Byte());
+      break;
+    case 3: {
+      const Bytes whole = bytes;
+      bytes.insert(bytes.end(), whole.begin(), whole.end());
+      break;
+    }
+    case 4:
+      bytes.clear();
+      break;
+    default:
+      for (int i = dice.From(1, 30); i > 0; --i) *somewhere() = dice.Byte();
+  }
+}
+
+/// A good game with some of its files spoiled.
+Files Spoiled(Dice& dice) {
+  Files files = BytesOf(Sample());
+  for (int i = dice.From(1, 3); i > 0; --i) {
+    auto file = std::next(files.begin(), dice.From(0, static_cast<int>(files.size()) - 1));
+    if (dice.OneIn(8) && files.size() > 1)
+      files.erase(file);
+    else
+      Spoil(dice, file->second);
+  }
+  return files;
+}
+
+/// Everything that reads a world without a rule of the game; the sum of lengths, so that nothing is
+/// left out.
+std::size_t LookAtEverything(World& world) {
+  std::size_t length = 0;
+  for (const Fault& fault : CheckWorld(world)) length += fault.Line().size();
+  for (const Worker& worker : world.Workers()) {
+    length += ContractLine(worker).size() + StatusLine(worker).size() +
+              PositionText(worker.Position).size() + DispositionText(worker.Disposition).size();
+    length += PromotionInitials(world, worker.Employer).size() +
+              WorkerName(world, worker.Manager).size() +
+              PairName(world, worker.Uid, worker.Manager).size();
+  }
+  for (const Show& show : world.Shows()) length += RatingText(show.Rating1).size();
+  for (const Promotion& promotion : world.Promotions())
+    length += Dollars(promotion.Money).size() + SizeText(promotion.Size).size() +
+              DevTerritoryName(world, promotion.Uid).size();
+  for (const Table* table : world.Tables()) {
+    if (!table->Layout()) continue;
+    const auto size = static_cast<std::size_t>(table->Layout()->Size);
+    const ByteSpan bytes = table->Contents();
+    for (std::size_t at = 0; at + size <= bytes.size(); at += size)
+      for (const Field& field : table->Layout()->Fields)
+        length += FieldShown(field, bytes.data() + at, field.Count - 1).size();
+  }
+  return length;
+}
+
+void ChangeALittle(World& world) {
+  if (world.Workers().Count() > 0) SeverWorker(world, world.Workers()[1]);
+  if (world.AllStaff().Count() > 0) SeverStaff(world, world.AllStaff()[1]);
+  if (world.Promotions().Count() > 0) world.Promotions()[1].Name = kToBeDeleted;
+  SweepDeadPromotions(world);
+  SweepDeadShows(world);
+  if (world.HasGame()) AddNews(world, "Maeve", "Well, well.");
+}
+
+bool NamesAFile(const std::string& message) {
+  for (const Table* table : Sample().Tables())
+    if (message.find(table->File()) != std::string::npos) return true;
+  return false;
+}
+
+/// How many of the cases gave a world.
+int LoadAndLive(int cases, std::uint64_t seed, Files (*make)(Dice&)) {
+  int worlds = 0;
+  for (int i = 0; i < cases; ++i) {
+    Dice dice(seed + static_cast<std::uint64_t>(i));
+    const Files files = make(dice);
+    SCOPED_TRACE("seed " + std::to_string(seed + static_cast<std::uint64_t>(i)));
+    World world;
+    try {
+      world.Load(files);
+    } catch (const WorldFault& fault) {
+      EXPECT_TRUE(NamesAFile(fault.what())) << fault.what();
+      continue;
+    }
+    ++worlds;
+    EXPECT_EQ(files, BytesOf(world));
+    EXPECT_GT(LookAtEverything(world), 0u);
+    try {
+      ChangeALittle(world);
+    } catch (const FieldOverflow& fault) {
+      EXPECT_TRUE(NamesAFile(world.Explain(fault))) << world.Explain(fault);
+    }
+    world.Rollback();
+    EXPECT_EQ(files, BytesOf(world));
+
+    world.GameInfos().Remove();
+    MendWorld(world);
+    std::string left;
+    for (const Fault& fault : CheckWorld(world)) left += fault.Line() + "\n";
+    EXPECT_EQ("", left);
+    EXPECT_TRUE(MendWorld(world).empty());
+    if (testing::Test::HasFailure()) break;
+  }
+  return worlds;
+}
+
+TEST(RandomBytes, OfNoiseGiveAWorldOrAMessage) {
+  const int worlds = LoadAndLive(2500, 1000, Noise);
+  EXPECT_GT(worlds, 500);
+  EXPECT_LT(worlds, 2500);
+}
+
+TEST(RandomBytes, InAGoodGameGiveAWorldOrAMessage) {
+  const int worlds = LoadAndLive(2500, 9000, Spoiled);
+  EXPECT_GT(worlds, 1500);
+}
+
+TEST(RandomFields, OfAllKindsAreMendedForGood) {
+  for (std::uint64_t seed = 1; seed <= 300; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    Dice dice(seed);
+    World world = test::RandomData(seed);
+    const auto spoil = [&]<class T>(Records<T>& records) {
+      for (T& record : records)
+        for (const Field& field : LayoutOf<T>().Fields)
+          if (dice.OneIn(40))
+            test::Scramble(dice, field, dice.From(0, field.Count - 1),
+                           reinterpret_cast<std::byte*>(&record));
+    };
+    spoil(world.Workers());
+    spoil(world.Promotions());
+    spoil(world.AllStaff());
+    spoil(world.Titles());
+    spoil(world.Shows());
+    spoil(world.Sponsors());
+    spoil(world.Teams());
+    MendWorld(world);
+    ASSERT_TRUE(CheckWorld(world).empty()) << CheckWorld(world)[0].Line();
+    ASSERT_TRUE(MendWorld(world).empty());
+  }
+}
+
+TEST(RandomData, IsSoundAndTheSameForItsSeed) {
+  int workers = 0, champions = 0, shows = 0;
+  for (std::uint64_t seed = 1; seed <= 100; ++seed) {
+    World world = test::RandomData(seed);
+    const auto faults = CheckWorld(world);
+    ASSERT_TRUE(faults.empty()) << seed << ": " << faults[0].Line();
+    workers += world.Workers().Count();
+    shows += world.Shows().Count();
+    for (const Title& title : world.Titles()) champions += title.Holder != 0 ? 1 : 0;
+    if (seed % 10 == 0) test::ExpectSame(test::RandomData(seed), world);
+  }
+  EXPECT_GT(workers, 1000);
+  EXPECT_GT(shows, 100);
+  EXPECT_GT(champions, 10);
+}
+
+}  // namespace
+}  // namespace grapplemont

@@ -1,0 +1,228 @@
+#include "records/world.h"
+
+#include <gtest/gtest.h>
+
+#include "records/sweeps.h"
+#include "support/smallworld.h"
+
+namespace grapplemont {
+namespace {
+
+using test::BytesOf;
+using test::CopyOf;
+using test::ExpectSame;
+using test::Named;
+using test::SmallWorld;
+
+World Small() {
+  return SmallWorld()
+      .Promotion("CWA", kCult)
+      .Worker("Bram Okafor")
+      .Worker("Ilya Marsh")
+      .Promotion("NEW", kSmall)
+      .Worker("Cal Drift")
+      .Game("CWA");
+}
+
+std::string ChangedFiles(const World& world) {
+  std::string files;
+  for (const FileChange& change : world.Changes()) files += change.Name + " ";
+  return files;
+}
+
+TEST(World, TellsWhatHasChangedFileByFile) {
+  World world = Small();
+  EXPECT_EQ("", ChangedFiles(world));
+  Named(world.Workers(), "Bram Okafor").Morale = 61;
+  world.News().Append({});
+  world.Feuds().Remove();
+  EXPECT_EQ("wrestler.dat news.dat feudinfo.dat ", ChangedFiles(world));
+  const auto changes = world.Changes();
+  EXPECT_TRUE(changes[0].ExistsBefore && changes[0].ExistsAfter);
+  EXPECT_EQ(3 * sizeof(Worker), changes[0].Before.size());
+  EXPECT_FALSE(changes[1].ExistsBefore);
+  EXPECT_EQ(sizeof(Mail), changes[1].After.size());
+  EXPECT_FALSE(changes[2].ExistsAfter);
+  EXPECT_EQ(8 * sizeof(Feud), changes[2].Before.size());
+  world.MarkCommitted();
+  EXPECT_EQ("", ChangedFiles(world));
+}
+
+TEST(World, GoesBackToTheLastCommit) {
+  World world = Small();
+  const World before = CopyOf(world);
+  world.Workers()[1].Name = "Somebody Else";
+  world.Workers().Append(world.Workers()[2]);
+  world.Promotions()[2].Name = kToBeDeleted;
+  SweepDeadPromotions(world);
+  world.Game().Today = world.Today() + std::chrono::days{1};
+  world.Notes().Set("Scribbled over");
+  world.GameInfos().Remove();
+  world.Incidents().Append({});
+  world.Rollback();
+  ExpectSame(world, before);
+  EXPECT_EQ("", ChangedFiles(world));
+}
+
+TEST(World, LoadsExactlyTheFilesItIsGiven) {
+  World world = Small();
+  auto files = BytesOf(world);
+  files.erase("wrestler.dat");
+  files["notes.dat"] = {};
+  world.Workers()[1].Age = 44;
+  world.Load(files);
+  EXPECT_EQ("", ChangedFiles(world));
+  EXPECT_FALSE(world.Workers().Exists());
+  EXPECT_TRUE(world.Notes().Exists());
+  EXPECT_EQ(files, BytesOf(world));
+}
+
+TEST(World, LooksUpByUid) {
+  const World world = Small();
+  EXPECT_EQ("Ilya Marsh", world.FindWorker(2)->Name.View());
+  EXPECT_EQ("NEW", world.FindPromotion(2)->Initials.View());
+  for (const int uid : {0, -1, 4, 32767, 32768, -32768, 2147483647, -2147483647})
+    EXPECT_EQ(nullptr, world.FindWorker(uid)) << uid;
+  const World empty;
+  EXPECT_EQ(nullptr, empty.FindWorker(1));
+  EXPECT_EQ(nullptr, empty.FindPromotion(1));
+  EXPECT_EQ(nullptr, empty.FindStaff(1));
+  EXPECT_EQ(nullptr, empty.FindNetwork(1));
+  EXPECT_EQ(nullptr, empty.FindSponsor(1));
+}
+
+TEST(World, FindsRecordsWhereverTheyHaveGone) {
+  World world = SmallWorld().Promotion("CWA").Crew(50);
+  for (int uid = 1; uid <= 50; ++uid) ASSERT_EQ(uid, world.FindWorker(uid)->Uid);
+
+  world.Workers().Keep([](const Worker& worker) { return worker.Uid % 3 != 0; });
+  for (int uid = 1; uid <= 50; ++uid) {
+    const Worker* worker = world.FindWorker(uid);
+    ASSERT_EQ(uid % 3 != 0, worker != nullptr) << uid;
+    EXPECT_EQ(worker ? uid : 0, worker ? int(worker->Uid) : 0);
+  }
+
+  world.Workers()[1].Uid = 900;  // another person in an old record
+  EXPECT_EQ(nullptr, world.FindWorker(1));
+  EXPECT_EQ(&world.Workers()[1], world.FindWorker(900));
+
+  Worker fresh;
+  fresh.Uid = 32767;
+  EXPECT_EQ(nullptr, world.FindWorker(32767));
+  world.Workers().Append(fresh);
+  EXPECT_EQ(world.Workers().Count(), world.Workers().NumberOf(*world.FindWorker(32767)));
+
+  world.Rollback();
+  for (int uid = 1; uid <= 50; ++uid) ASSERT_EQ(uid, world.FindWorker(uid)->Uid);
+  EXPECT_EQ(nullptr, world.FindWorker(900));
+}
+
+TEST(World, TheFirstOfTwoWithOneUidIsTheOneFound) {
+  World world = SmallWorld().Promotion("CWA").Crew(4);
+  world.Workers()[3].Uid = 2;
+  EXPECT_EQ(&world.Workers()[2], world.FindWorker(2));
+  EXPECT_EQ(&world.Workers()[4], world.FindWorker(4));  // builds the index anew
+  EXPECT_EQ(&world.Workers()[2], world.FindWorker(2));
+  world.Workers().Erase(2);
+  EXPECT_EQ(&world.Workers()[2], world.FindWorker(2));
+}
+
+TEST(World, AFolderLoadedAnewIsLookedUpAnew) {
+  World world = SmallWorld().Promotion("CWA").Crew(4);
+  const auto files = BytesOf(world);
+  world.Workers()[1].Uid = 4;
+  const auto changed = BytesOf(world);
+  world.Load(files);
+  ASSERT_EQ(&world.Workers()[4], world.FindWorker(4));
+  world.Load(changed);
+  EXPECT_EQ(&world.Workers()[1], world.FindWorker(4));
+}
+
+TEST(World, AFolderWithoutAGameSaysSo) {
+  World world = SmallWorld().Promotion("CWA");
+  EXPECT_FALSE(world.HasGame());
+  EXPECT_EQ(0, world.PlayerUid());
+  EXPECT_THROW(world.Game(), WorldFault);
+  EXPECT_THROW(world.Player(), WorldFault);
+  EXPECT_THROW(world.Today(), WorldFault);
+}
+
+TEST(World, AGameWithoutItsPromotionNamesTheField) {
+  World world = Small();
+  world.Game().PlayerPromotion = 77;
+  try {
+    world.Player();
+    FAIL();
+  } catch (const WorldFault& fault) {
+    EXPECT_NE(std::string::npos, std::string(fault.what())
+                                     .find("gameinfo.dat, record 1, PlayerPromotion: promos.dat "
+                                           "has no promotion 77"));
+  }
+}
+
+TEST(World, ExplainsAnOverflowByRecordAndField) {
+  World world = Small();
+  const auto explain = [&](auto change) {
+    try {
+      change();
+    } catch (const FieldOverflow& fault) {
+      return world.Explain(fault);
+    }
+    return std::string("no overflow");
+  };
+  EXPECT_EQ("wrestler.dat, record 3, Age: The value 40000 does not fit a field of 16 bits.",
+            explain([&] { world.Workers()[3].Age = 40000; }));
+  EXPECT_EQ("promos.dat, record 2, Money4: The value 9999999999 does not fit a field of 32 bits.",
+            explain([&] { world.Promotions()[2].MoneyBefore[3] = 9999999999LL; }));
+  EXPECT_EQ(
+      "gameinfo.dat, record 1, Job2EndSize: The value -40000 does not fit a field of 16 bits.",
+      explain([&] { world.Game().Jobs[1].EndSize = -40000; }));
+  EXPECT_EQ("The value 70000 does not fit a field of 16 bits.", explain([] {
+              Worker nowhere;
+              nowhere.Age = 70000;
+            }));
+}
+
+TEST(FirstDifference, NamesRecordAndField) {
+  const World expected = Small();
+  const struct {
+    const char* Says;
+    void (*Change)(World&);
+  } rows[] = {
+      {"", [](World&) {}},
+      {"Worker 2 Morale: 61, expected 80", [](World& w) { w.Workers()[2].Morale = 61; }},
+      {"Worker 1 Status: Injured, expected Normal",
+       [](World& w) { w.Workers()[1].Status = "Inj"; }},
+      {"Promotion 1 Rank3: 12, expected -1", [](World& w) { w.Promotions()[1].Rank[2] = 12; }},
+      {"GameInfo 1 Today: 2026-03-02, expected 2026-03-01",
+       [](World& w) { w.Game().Today = w.Today() + std::chrono::days{1}; }},
+      {"wrestler.dat: 474 bytes, expected 711", [](World& w) { w.Workers().Erase(3); }},
+      {"news.dat exists, expected none", [](World& w) { w.News().Append({}); }},
+      {"feudinfo.dat is missing", [](World& w) { w.Feuds().Remove(); }},
+      {"notes.dat reads otherwise", [](World& w) { w.Notes().Set("notepad"); }},
+      {"notes.dat: 8 bytes, expected 7", [](World& w) { w.Notes().Set("Notepads"); }},
+  };
+  for (const auto& row : rows) {
+    World world = CopyOf(expected);
+    row.Change(world);
+    EXPECT_EQ(row.Says, FirstDifference(world, expected));
+  }
+}
+
+TEST(World, KnowsItsFilesAndHowLongEachMayBe) {
+  const auto known = KnownFiles();
+  ASSERT_EQ(16u, known.size());
+  for (std::size_t i = 0; i < kDataSet.size(); ++i) EXPECT_EQ(kDataSet[i], known[i].Name);
+  EXPECT_EQ("wrestler.dat", known[9].Name);
+  EXPECT_EQ(25000 * 237 + 236, known[9].MaxBytes);
+}
+
+TEST(World, ListsItsFilesWhole) {
+  const World world = Small();
+  std::map<std::string, Bytes> files;
+  for (const NewFile& file : FilesOf(world)) files[file.Name] = file.Contents;
+  EXPECT_EQ(BytesOf(world), files);
+}
+
+}  // namespace
+}  // namespace grapplemont
