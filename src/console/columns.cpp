@@ -16,21 +16,22 @@ std::string Padded(std::string text, std::size_t width, bool right) {
   return right ? blanks + text : text + blanks;
 }
 
-std::string_view WithoutBlanksBehind(std::string_view line) {
-  return line.substr(0, line.find_last_not_of(' ') + 1);
-}
-
 void WrapLine(std::string_view line, std::size_t width, std::vector<std::string>& lines) {
   while (line.size() > width) {
     const auto blank = line.rfind(' ', width);
     const bool hasBlank = blank != std::string_view::npos && blank > 0;
-    lines.emplace_back(WithoutBlanksBehind(line.substr(0, hasBlank ? blank : width)));
+    lines.push_back(TrimmedBehind(std::string(line.substr(0, hasBlank ? blank : width))));
     line.remove_prefix(hasBlank ? blank + 1 : width);
   }
   lines.emplace_back(line);
 }
 
 }  // namespace
+
+std::string TrimmedBehind(std::string line) {
+  line.resize(line.find_last_not_of(' ') + 1);
+  return line;
+}
 
 std::string Printable(std::string_view text) {
   std::string printable(text);
@@ -96,7 +97,7 @@ std::string TableText::Line(char mark, const std::string& number,
     line +=
         std::string(kGap, ' ') + Padded(Shortened(cell, widths[i]), widths[i], columns_[i].Right);
   }
-  return std::string(WithoutBlanksBehind(line));
+  return TrimmedBehind(std::move(line));
 }
 
 std::vector<std::string> TableText::Lines(std::size_t width) const {

@@ -12,6 +12,8 @@ namespace grapplemont::console {
 
 /// The text without anything that would move a terminal's cursor; line ends stay.
 std::string Printable(std::string_view text);
+/// The line without the blanks behind it.
+std::string TrimmedBehind(std::string line);
 /// Lines of at most `width` letters, broken at blanks where there are any; never none.
 std::vector<std::string> Wrapped(std::string_view text, std::size_t width);
 /// The text on one line, with "..." in place of what `width` has no room for.

@@ -176,6 +176,13 @@ std::vector<std::string> Below(const ui::Control& control, bool whole, int width
   return {};
 }
 
+/// Why it cannot be used, or what it is for.
+std::string Remark(const ui::Control& control, bool whole) {
+  const std::string& tip = control.Tip;
+  if (control.Enabled) return whole ? tip : std::string();
+  return tip.empty() ? "disabled" : "disabled: " + tip;
+}
+
 }  // namespace
 
 std::string ControlText(const Section::Part& part, bool whole, int width) {
@@ -183,19 +190,16 @@ std::string ControlText(const Section::Part& part, bool whole, int width) {
   const std::string head = "  " + Padded(control.Name(), kNameWidth) + " " +
                            Padded(std::string(ui::KindName(control.Is())), kKindWidth) + " ";
   std::string says = (part.Label.empty() ? "" : part.Label + ": ") + Says(control);
-  if (!control.Enabled)
-    says += (says.empty() ? "(disabled" : " (disabled") +
-            (control.Tip->empty() ? "" : ": " + control.Tip.Get()) + ")";
-  else if (whole && !control.Tip->empty())
-    says += (says.empty() ? "(" : " (") + control.Tip.Get() + ")";
+  if (const std::string remark = Remark(control, whole); !remark.empty())
+    says += (says.empty() ? "(" : " (") + remark + ")";
   std::string text, before = head;
-  const std::size_t room = static_cast<std::size_t>(std::max(width, 60)) - head.size();
-  for (const std::string& line : Wrapped(Printable(says), std::max<std::size_t>(room, 20))) {
-    text += before + line + "\n";
+  const std::size_t room = static_cast<std::size_t>(width) - std::min<std::size_t>(head.size(), 40);
+  for (const std::string& line : Wrapped(Printable(says), room)) {
+    text += TrimmedBehind(before + line) + "\n";
     before.assign(head.size(), ' ');
   }
   for (const std::string& line : Below(control, whole, width))
-    text += std::string(kIndent, ' ') + line + "\n";
+    text += TrimmedBehind(std::string(kIndent, ' ') + line) + "\n";
   return text;
 }
 

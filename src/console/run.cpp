@@ -1,6 +1,7 @@
 #include "console/run.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "console/options.h"
 #include "program/program.h"
@@ -37,6 +38,7 @@ void Play(const Options& options, Console& console) {
   Game game(console, *disk, choice);
   RegisterScreens(game);
   console.Open("frmTitleScreen");
+  if (console.Empty()) throw std::runtime_error("The game could not start.");
   console.Run();
   console.CloseAll();
   game.CloseSlot();

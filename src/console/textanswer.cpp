@@ -21,7 +21,7 @@ std::string Rule(char stroke, const std::string& left, const std::string& right,
 }
 
 /// The commands that some control of the screen takes.
-std::string Possible(const ui::Screen& screen) {
+std::string Possible(const ui::Screen& screen, int width) {
   bool takes[static_cast<int>(Verb::Slide) + 1] = {};
   const auto can = [&](Verb verb) -> bool& { return takes[static_cast<int>(verb)]; };
   for (const ui::Control* control : screen.Controls()) {
@@ -39,7 +39,11 @@ std::string Possible(const ui::Screen& screen) {
   std::string text = "Type: ";
   for (Verb verb : {Verb::Click, Verb::Type, Verb::Pick, Verb::Open, Verb::Check, Verb::Slide})
     if (can(verb)) text += std::string(RowOf(verb).Form) + ", ";
-  return text + "show [NAME], help, quit\n";
+  std::string wrapped;
+  for (const std::string& line :
+       Wrapped(text + "show [NAME], help, quit", static_cast<std::size_t>(width)))
+    wrapped += line + "\n";
+  return wrapped;
 }
 
 std::string ScreenText(ui::Screen& screen, int width) {
@@ -48,7 +52,7 @@ std::string ScreenText(ui::Screen& screen, int width) {
     text += section.Heading.empty() ? "\n" : "\n" + Printable(section.Heading) + "\n";
     for (const Section::Part& part : section.Parts) text += ControlText(part, false, width);
   }
-  return text + "\n" + Possible(screen);
+  return text + "\n" + Possible(screen, width);
 }
 
 std::string BoxText(const Box& box, int width) {

@@ -8,7 +8,7 @@ namespace grapplemont::desktop {
 
 ButtonView::ButtonView(ui::Button& button, Stage& stage, QWidget* parent)
     : PushButton(parent), ControlView(button, stage), button_(button) {
-  connect(this, &QAbstractButton::clicked, this, [this] { Do(ui::Click); });
+  connect(this, &QAbstractButton::clicked, this, [this] { Pressed ? Pressed() : Do(ui::Click); });
 }
 
 void ButtonView::Show() {

@@ -9,6 +9,8 @@ class ButtonView : public PushButton, public ControlView {
  public:
   ButtonView(ui::Button& button, Stage& stage, QWidget* parent);
   QWidget* Widget() override { return this; }
+  /// What a click does instead of clicking the control.
+  std::function<void()> Pressed;
 
  protected:
   void Show() override;

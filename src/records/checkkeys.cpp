@@ -1,4 +1,4 @@
-#include <cstring>
+#include <algorithm>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
@@ -27,8 +27,8 @@ class FreeUids {
   int Take() {
     int uid = highest_ + 1;
     if (uid > kHighestUid) {
-      uid = 1;
-      while (taken_.contains(uid)) ++uid;
+      while (taken_.contains(gap_)) ++gap_;
+      uid = gap_;
     }
     taken_.insert(uid);
     highest_ = std::max(highest_, uid);
@@ -38,6 +38,7 @@ class FreeUids {
  private:
   std::unordered_set<int> taken_;
   int highest_ = 0;
+  int gap_ = 1;  // no number below it is free
 };
 
 template <class T>
@@ -80,7 +81,7 @@ std::string Numbered(std::string_view name, int number, int width) {
 
 template <class T>
 void InspectNames(Inspection& inspection, Records<T>& records, const Field& field) {
-  std::unordered_map<std::string, int> firstWith;
+  std::unordered_map<std::string, int> firstWith, nextOf;
   for (const T& record : records) {
     const auto* bytes = reinterpret_cast<const std::byte*>(&record);
     firstWith.try_emplace(std::string(FieldText(field, bytes)), records.NumberOf(record));
@@ -91,10 +92,10 @@ void InspectNames(Inspection& inspection, Records<T>& records, const Field& fiel
     const std::string name(FieldText(field, place.Record));
     const int first = firstWith.at(name);
     if (name == kToBeDeleted || (!name.empty() && first == place.Number)) continue;
-    std::string fresh;
     const std::string stem = name.empty() ? std::string(LayoutOf<T>().Name) : name;
-    for (int n = name.empty() ? place.Number : 2; fresh.empty() || firstWith.contains(fresh); ++n)
-      fresh = Numbered(stem, n, field.Width);
+    int& next = nextOf.try_emplace(stem, name.empty() ? place.Number : 2).first->second;
+    std::string fresh;
+    while (fresh.empty() || firstWith.contains(fresh)) fresh = Numbered(stem, next++, field.Width);
     firstWith.emplace(fresh, place.Number);
     inspection.NoteField(
         place, field.Name,

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <unordered_map>
 
 #include "records/checkrules.h"
@@ -9,7 +10,7 @@ namespace grapplemont {
 
 namespace {
 
-/// Workers from `when` on: what is wrong with the field, and what mends it.
+/// Notes every worker for whom `wrong` holds; without `mend` it stays.
 template <class Wrong>
 void ForWorkers(Inspection& inspection, std::string_view field, std::string_view what,
                 std::string_view how, Wrong wrong, void (*mend)(Worker&)) {

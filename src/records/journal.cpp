@@ -19,7 +19,9 @@ constexpr std::size_t kChecksumAt = 12, kChecked = 20;
 constexpr std::size_t kMarkerSize = 44, kRecordHeader = 56;
 constexpr std::size_t kLengthAt = 36;
 
-std::uint64_t Checksum(ByteSpan bytes) { return XXH3_64bits(bytes.data(), bytes.size()); }
+std::uint64_t Checksum(ByteSpan bytes) {
+  return XXH3_64bits(bytes.data(), bytes.size());
+}
 
 class Packer {
  public:

@@ -25,14 +25,14 @@ struct JournalQuirks {
   bool EmptyBeforeFiles = false;  // the journal is emptied before the record files are synced
   bool BareRanges = false;        // ranges are not rounded out to blocks
   bool NoChecksum = false;
-  bool NoSequence = false;         // any record of the world is taken for the next one
-  bool RetrySync = false;          // a failed sync is tried once more on the same handle
-  bool TrustWhatIsRead = false;    // a chain is applied without a copy that is known to be on disk
-  bool RemoveBeforeSwap = false;   // a creation clears the old folder before the swap is synced
+  bool NoSequence = false;        // any record of the world is taken for the next one
+  bool RetrySync = false;         // a failed sync is tried once more on the same handle
+  bool TrustWhatIsRead = false;   // a chain is applied without a copy that is known to be on disk
+  bool RemoveBeforeSwap = false;  // a creation clears the old folder before the swap is synced
 };
 
-/// Which world the journal belongs to, and the sequence up to which the record files themselves hold
-/// everything: the chain of records that counts begins with the next one.
+/// Which world the journal belongs to, and the sequence up to which the record files themselves
+/// hold everything: the chain of records that counts begins with the next one.
 struct JournalMarker {
   std::uint64_t World = 0;
   std::uint64_t Sequence = 0;

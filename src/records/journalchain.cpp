@@ -71,8 +71,8 @@ class ChainReader {
            (quirks_.NoSequence || record.Sequence == chain_.Last() + 1);
   }
 
-  /// Records from before the journal was last emptied have sequences that the chain is past. A later
-  /// one can stand behind its end only when the one between was once on disk, whole.
+  /// Records from before the journal was last emptied have sequences that the chain is past. A
+  /// later one can stand behind its end only when the one between was once on disk, whole.
   void LookBehind() {
     for (std::int64_t at = chain_.End; at < std::ssize(journal_); at += kJournalBlock) {
       auto entry = At(at);

@@ -8,9 +8,15 @@ namespace {
 
 template <class T>
 int NextUid(const Records<T>& records) {
+  constexpr int kHighestUid = 32767;
   int highest = 0;
   for (const T& record : records) highest = std::max<int>(highest, record.Uid);
-  return highest + 1;
+  if (highest < kHighestUid) return highest + 1;
+  // Nothing is left behind the highest, but no file holds as many records as there are numbers.
+  std::vector<bool> taken(kHighestUid + 1);
+  for (const T& record : records)
+    if (record.Uid > 0) taken[static_cast<std::size_t>(int(record.Uid))] = true;
+  return static_cast<int>(std::find(taken.begin() + 1, taken.end(), false) - taken.begin());
 }
 
 template <class T>

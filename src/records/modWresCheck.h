@@ -9,7 +9,7 @@
 
 namespace grapplemont {
 
-/// The highest uid present plus 1.
+/// The highest uid present plus 1; once that is used up, the lowest that is free.
 int NextWorkerUid(const World& world);
 int NextStaffUid(const World& world);
 int NextPromotionUid(const World& world);

@@ -32,7 +32,9 @@ auto Persist(Call call) {
   return result;
 }
 
-bool NotOffered() { return errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP; }
+bool NotOffered() {
+  return errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+}
 
 class MachineDisk : public Disk {
  public:
@@ -128,8 +130,8 @@ class MachineDisk : public Disk {
 
   void SyncFolder(const std::string& folder) override {
     if (syncs_ == Syncs::None) return;
-    const int handle = Persist(
-        [&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
+    const int handle =
+        Persist([&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
     if (handle < 0) Fail(folder, "open the folder");
     const int result = ::fsync(handle);
     const int reason = errno;
@@ -209,6 +211,8 @@ class MachineDisk : public Disk {
 
 }  // namespace
 
-std::unique_ptr<Disk> RealDisk(Syncs syncs) { return std::make_unique<MachineDisk>(syncs); }
+std::unique_ptr<Disk> RealDisk(Syncs syncs) {
+  return std::make_unique<MachineDisk>(syncs);
+}
 
 }  // namespace grapplemont

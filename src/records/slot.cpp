@@ -1,382 +1,370 @@
 #include "records/slot.h"
 
 #include <algorithm>
-#include <cstring>
 
-#include "records/journal.h"
+#include "records/journalchain.h"
+#include "records/journalfile.h"
+#include "records/slotfiles.h"
+#include "records/slotfolder.h"
+#include "records/slotrescue.h"
+#include "records/worlddigest.h"
 
 namespace grapplemont {
 
 namespace {
 
-constexpr const char* kJournalFile = "journal";
-constexpr const char* kIdFile = "world.id";
-constexpr std::uint64_t kAll = ~std::uint64_t{0};
+constexpr const char* kTakenBack = "Your last step was taken back.";
+constexpr const char* kKept = "Your last step is kept.";
+constexpr const char* kUntilMended =
+    "Your last step was taken back, and nothing can be kept until the disk answers again.";
+constexpr const char* kKeptUntilMended =
+    "Your last step is kept, but nothing further can be until the disk answers again.";
 
-std::string ParentOf(const std::string& folder) {
-  const auto slash = folder.rfind('/');
-  return slash == std::string::npos ? "." : folder.substr(0, slash);
-}
-
-std::string LockOf(const std::string& folder) {
-  return folder + ".lock";
-}
-std::string BuildOf(const std::string& folder) {
-  return folder + ".new";
-}
-std::string OldOf(const std::string& folder) {
-  return folder + ".old";
-}
-
-void RequireLock(Disk& disk, const std::string& folder) {
-  if (!disk.Lock(LockOf(folder))) throw SlotBusy(folder);
-}
-
-/// Clears away what a creation that was cut short has left.
-void Settle(Disk& disk, const std::string& folder) {
-  if (disk.Look(folder) == Disk::Kind::Nothing && disk.Look(OldOf(folder)) != Disk::Kind::Nothing) {
-    disk.Rename(OldOf(folder), folder);
-    disk.SyncFolder(ParentOf(folder));
-  }
-  RemoveTree(disk, OldOf(folder));
-  RemoveTree(disk, BuildOf(folder));
-}
-
-void WriteSynced(Disk& disk, const std::string& path, ByteSpan bytes) {
-  const Disk::Handle file = disk.Open(path, true);
-  try {
-    disk.WriteAt(file, 0, bytes);
-    disk.Sync(file);
-  } catch (...) {
-    disk.Close(file);
-    throw;
-  }
-  disk.Close(file);
-}
-
-Bytes IdBytes(std::uint64_t id) {
-  Bytes bytes(8);
-  for (std::size_t i = 0; i < 8; ++i) bytes[i] = static_cast<std::byte>(id >> (8 * i));
+/// More than the longest record of these files and a usual journal before it.
+std::int64_t LongestJournal(const std::vector<KnownFile>& known, std::int64_t usual) {
+  std::int64_t bytes = usual + kJournalStart + kJournalBlock;
+  for (const KnownFile& file : known)
+    bytes += RoundedToBlocks(file.MaxBytes) + RoundedToBlocks(file.MaxBytes) / 64 + kJournalBlock;
   return bytes;
-}
-
-void CopyTree(Disk& disk, const std::string& from, const std::string& to) {
-  disk.MakeFolder(to);
-  for (const std::string& name : disk.List(from))
-    if (disk.Look(from + "/" + name) == Disk::Kind::File)
-      WriteFile(disk, to + "/" + name, ReadFile(disk, from + "/" + name));
-}
-
-/// What a journal's record makes of a file's contents.
-std::optional<Bytes> Overlaid(std::optional<Bytes> contents, const JournalFile& file) {
-  if (!file.Exists) return std::nullopt;
-  if (!contents) contents.emplace();
-  contents->resize(static_cast<std::size_t>(file.Length));
-  for (const JournalRange& range : file.Ranges)
-    if (range.Offset + range.Contents.size() <= contents->size())
-      std::copy(range.Contents.begin(), range.Contents.end(),
-                contents->begin() + static_cast<std::ptrdiff_t>(range.Offset));
-  return contents;
 }
 
 }  // namespace
 
 SlotBusy::SlotBusy(const std::string& folder)
-    : std::runtime_error(
-          "The slot " + folder +
-          " is open in another program. Close it there first; nothing was changed.") {}
+    : std::runtime_error("The slot " + folder +
+                         " is open in another program. Close it there first; nothing was "
+                         "changed.") {}
 
 SlotDamaged::SlotDamaged(const std::string& folder, std::string copy)
     : std::runtime_error("The journal of the slot " + folder +
-                         " is damaged. A copy of the slot as it is was put into " + copy +
-                         "; the game can go on from before the damage."),
+                         " is damaged: something that was kept in it is lost. The game can go on "
+                         "from the last state that is whole; the slot as it is now will be kept "
+                         "in " +
+                         copy + "."),
       copy_(std::move(copy)) {}
 
-void Slot::Create(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
-                  std::uint64_t worldId) {
-  RequireLock(disk, folder);
-  try {
-    Settle(disk, folder);
-    const std::string build = BuildOf(folder);
-    disk.MakeFolder(build);
-    for (const NewFile& file : files) WriteSynced(disk, build + "/" + file.Name, file.Contents);
-    WriteSynced(disk, build + "/" + kIdFile, IdBytes(worldId));
-    Bytes journal = PackMarker({worldId, 0});
-    journal.resize(static_cast<std::size_t>(kJournalSize));
-    WriteSynced(disk, build + "/" + kJournalFile, journal);
-    disk.SyncFolder(build);
-    if (disk.Look(folder) == Disk::Kind::Nothing) {
-      disk.Rename(build, folder);
-    } else {
-      disk.Exchange(build, folder);
+struct Slot::Insides {
+  Insides(grapplemont::Disk& disk, std::string folder, std::vector<KnownFile> known,
+          const SlotOptions& options)
+      : Options(options),
+        Disk(disk),
+        Folder(std::move(folder)),
+        Known(std::move(known)),
+        Lock(disk, Folder),
+        Journal(disk, Folder, options.JournalBytes, Options.Quirks),
+        Records(disk, Folder) {}
+
+  SlotOptions Options;
+  grapplemont::Disk& Disk;
+  std::string Folder;
+  std::vector<KnownFile> Known;
+  SlotLock Lock;
+  JournalFile Journal;
+  SlotFiles Records;
+  std::map<std::string, Bytes> Files;
+  std::vector<std::string> Remarks;
+  WorldDigest Digest;
+  std::uint64_t World = 0;
+  std::uint64_t Sequence = 0;  // the last number spent; every commit up to it is on disk for good
+  bool Committed = false;
+  bool Broken = false;  // a call has failed, and recovery has not succeeded since
+
+  std::string Path(const std::string& name) const { return Folder + "/" + name; }
+  Bytes ReadJournal() { return Journal.Read(LongestJournal(Known, Options.JournalBytes)); }
+
+  void Open(Damage damage);
+  void LookOver();
+  void TakeOver();
+  void Adopt();
+  void SetJournalAside(const std::string& remark);
+  void Replay(ByteSpan journal, const JournalChain& chain);
+  void Rescue(ByteSpan journal, std::optional<std::uint64_t> id);
+
+  void Recover();
+  bool TryRecover();
+  void Require(const std::vector<FileChange>& changes) const;
+  void MakeRoom(const std::vector<FileChange>& changes, ByteSpan record);
+  void Checkpoint();
+};
+
+// Opening.
+
+void Slot::Insides::Open(Damage damage) {
+  FinishSwap(Disk, Folder);
+  if (Disk.Look(Folder) != Disk::Kind::Folder)
+    throw DiskError(Folder, "open", "it is no plain folder");
+  LookOver();
+  if (Disk.Look(Path(kWorldIdName)) == Disk::Kind::Nothing) return Adopt();
+  const auto id = UnpackWorldId(ReadFile(Disk, Path(kWorldIdName)));
+  const Bytes journal = ReadJournal();
+  const JournalChain chain = ReadChain(journal, id, Known, ~std::uint64_t{0}, Options.Quirks);
+  if (!id || chain.Found == JournalChain::State::Damaged) {
+    if (damage == Damage::Refuse) throw SlotDamaged(Folder, FreeCopyName(Disk, Folder));
+    Rescue(journal, id);
+    return Open(Damage::Refuse);
+  }
+  World = *id;
+  if (chain.Found == JournalChain::State::Foreign) {
+    SetJournalAside("The journal of another world lay in this slot. It was left aside.");
+  } else if (chain.Found == JournalChain::State::Unreadable) {
+    SetJournalAside(journal.empty()
+                        ? "This slot had no journal; it has a new one now."
+                        : "What lay in the journal's place is none. It was left aside.");
+  } else {
+    Replay(journal, chain);
+  }
+}
+
+/// Only known names, plain files and no links; whatever else lies there is told and left alone.
+void Slot::Insides::LookOver() {
+  constexpr std::size_t kMostRemarks = 20;
+  std::size_t unknown = 0;
+  for (const std::string& name : Disk.List(Folder)) {
+    const auto is = [&](const std::string& suffix) {
+      return [&name, suffix](const KnownFile& file) { return file.Name + suffix == name; };
+    };
+    if (std::any_of(Known.begin(), Known.end(), is("")) || name == kWorldIdName ||
+        name == kJournalName) {
+      if (Disk.Look(Path(name)) != Disk::Kind::File)
+        throw DiskError(Path(name), "open", "it is no plain file");
+    } else if (std::any_of(Known.begin(), Known.end(), is(kRoomSuffix)) ||
+               name == kJournalName + std::string(kBesideSuffix) ||
+               name == kWorldIdName + std::string(".tmp")) {
+      RemoveTree(Disk, Path(name));
+    } else if (name != kOtherJournalName && ++unknown <= kMostRemarks) {
+      Remarks.push_back(DiskError(Path(name), "use", "it is no file of a game").what());
     }
-    disk.SyncFolder(ParentOf(folder));
-    RemoveTree(disk, build);
-  } catch (...) {
-    disk.Unlock(LockOf(folder));
-    throw;
   }
-  disk.Unlock(LockOf(folder));
+  if (unknown > kMostRemarks)
+    Remarks.push_back("The slot holds " + std::to_string(unknown) +
+                      " files in all that are none of a game.");
 }
 
-bool Slot::Busy(Disk& disk, const std::string& folder) {
-  if (!disk.Lock(LockOf(folder))) return true;
-  disk.Unlock(LockOf(folder));
-  return false;
+/// Reads the files, and sees to it that they are on disk: who wrote them last, and whether it was
+/// ever synced, is not known. What is promised from now on builds on them.
+void Slot::Insides::TakeOver() {
+  Files = ReadKnownFiles(Disk, Folder, Known);
+  Digest = DigestOf(Files);
+  for (const auto& [name, contents] : Files) Records.Touch(name);
+  Records.Sync();
+  Disk.SyncFolder(ParentOf(Folder));
 }
 
-std::optional<Bytes> Slot::Peek(Disk& disk, const std::string& folder, const std::string& name) {
-  if (disk.Lock(LockOf(folder))) {
-    Settle(disk, folder);
-    disk.Unlock(LockOf(folder));
-  }
-  std::optional<Bytes> contents;
-  if (disk.Look(folder + "/" + name) == Disk::Kind::File) contents = ReadFile(disk, folder + "/" + name);
-  if (disk.Look(folder + "/" + kJournalFile) != Disk::Kind::File) return contents;
-  const Bytes journal = ReadFile(disk, folder + "/" + kJournalFile);
-  const auto marker = UnpackMarker(journal);
-  if (!marker) return contents;
-  std::uint64_t sequence = marker->Sequence;
-  for (std::int64_t at = kJournalBlock;;) {
-    const auto entry = UnpackRecord(journal, at);
-    if (!entry || entry->Record.World != marker->World || entry->Record.Sequence != sequence + 1)
-      return contents;
-    sequence = entry->Record.Sequence;
-    at += entry->Size;
-    for (const JournalFile& file : entry->Record.Files)
-      if (file.Name == name) contents = Overlaid(std::move(contents), file);
-  }
+/// A folder from elsewhere: only its record files are believed, and from now on it is a slot.
+void Slot::Insides::Adopt() {
+  TakeOver();
+  World = Digest.Value();
+  SetJournalAside(Disk.Look(Path(kJournalName)) == Disk::Kind::Nothing
+                      ? "This folder had no journal; it has a new one now."
+                      : "The journal that lay in this folder cannot be known to be its own. It was "
+                        "left aside.");
+  WriteFile(Disk, Path(kWorldIdName), PackWorldId(World));
 }
 
-Slot::Slot(Disk& disk, std::string folder, std::vector<KnownFile> known, Damage damage)
-    : disk_(disk), folder_(std::move(folder)), known_(std::move(known)) {
-  RequireLock(disk_, folder_);
+void Slot::Insides::SetJournalAside(const std::string& remark) {
+  TakeOver();
+  Journal.Drop();
+  if (Disk.Look(Path(kJournalName)) != Disk::Kind::Nothing) {
+    Disk.Rename(Path(kJournalName), Path(kOtherJournalName));
+    Disk.SyncFolder(Folder);
+  }
+  Journal.Replace(EmptyJournal({World, 0, Digest.Value()}));
+  Remarks.push_back(remark);
+}
+
+void Slot::Insides::Replay(ByteSpan journal, const JournalChain& chain) {
+  // The last record may have been read out of the system's memory only: a process killed before its
+  // sync leaves that, and so does a sync that failed. Were its effects to reach the files first, a
+  // power cut would leave half of it and no way back. So all of it goes to disk once more, in a
+  // file of its own: rewriting a record in its place could lose one that was already promised.
+  if (!chain.Records.empty() && !Options.Quirks.TrustWhatIsRead)
+    Journal.Replace(journal.first(static_cast<std::size_t>(chain.End)));
+  for (const JournalRecord& record : chain.Records)
+    for (const FilePatch& patch : record.Files) Records.Apply(patch);
+  TakeOver();
+  if (chain.MarkerRead && Digest.Value() != chain.Digest())
+    Remarks.push_back(
+        "Files of this slot were changed from outside since the game last kept them.");
+  Sequence = chain.Last();
+  Journal.Continue(chain.End, chain.MarkerBlock);
+  Journal.Empty({World, Sequence, Digest.Value()});
+}
+
+void Slot::Insides::Rescue(ByteSpan journal, std::optional<std::uint64_t> id) {
+  Journal.Drop();
+  RescuedWorld rescued = RescueWorld(ReadKnownFiles(Disk, Folder, Known), journal, id, Known);
+  const std::string copy = FreeCopyName(Disk, Folder);
+  CopyBeside(Disk, Folder, copy);
+  ReplaceSlot(Disk, Folder, rescued.Files, rescued.World, Options.JournalBytes, Options.Quirks);
+  Remarks = {rescued.Remark, "The slot as it was is kept in " + copy + "."};
+}
+
+// Running.
+
+/// From the start on new handles: what a disk said about the old ones is worth nothing. A record
+/// that was never promised is dropped for good, its number spent.
+void Slot::Insides::Recover() {
+  Broken = true;
+  Journal.Drop();
+  Records.Drop();
+  const Bytes journal = ReadJournal();
+  const JournalChain chain = ReadChain(journal, World, Known, Sequence, Options.Quirks);
+  if (chain.Found != JournalChain::State::Sound || chain.Last() < Sequence)
+    throw SlotDamaged(Folder, FreeCopyName(Disk, Folder));
+  for (const JournalRecord& record : chain.Records)
+    for (const FilePatch& patch : record.Files) Records.Apply(patch);
+  Records.Sync();
+  const std::uint64_t spent = std::max(Sequence + 1, chain.Last());
+  Journal.Empty({World, spent, Digest.Value()});
+  Sequence = spent;
+  Broken = false;
+}
+
+bool Slot::Insides::TryRecover() {
   try {
-    Settle(disk_, folder_);
-    Recover(damage, kAll);
-    ReadFiles();
-  } catch (...) {
-    DropHandles();
-    disk_.Unlock(LockOf(folder_));
-    throw;
+    Recover();
+    return true;
+  } catch (const DiskError&) {
+    return false;
   }
 }
 
-Slot::~Slot() {
-  DropHandles();
-  disk_.Unlock(LockOf(folder_));
-}
-
-bool Slot::Knows(const std::string& name) const {
-  return std::any_of(known_.begin(), known_.end(), [&](auto& file) { return file.Name == name; });
-}
-
-Disk::Handle Slot::Handle(const std::string& name, bool create) {
-  const auto open = handles_.find(name);
-  if (open != handles_.end()) return open->second;
-  return handles_[name] = disk_.Open(Path(name), create);
-}
-
-void Slot::DropHandles() {
-  for (const auto& [name, handle] : handles_) disk_.Close(handle);
-  handles_.clear();
-}
-
-template <class File>
-void Slot::Apply(const File& file) {
-  if (!file.Exists) {
-    if (const auto open = handles_.find(file.Name); open != handles_.end()) {
-      disk_.Close(open->second);
-      handles_.erase(open);
-    }
-    if (disk_.Look(Path(file.Name)) != Disk::Kind::Nothing) disk_.Remove(Path(file.Name));
-    return;
-  }
-  const Disk::Handle handle = Handle(file.Name, true);
-  for (const JournalRange& range : file.Ranges)
-    disk_.WriteAt(handle, static_cast<std::int64_t>(range.Offset), range.Contents);
-  if (disk_.Size(handle) != static_cast<std::int64_t>(file.Length))
-    disk_.Resize(handle, static_cast<std::int64_t>(file.Length));
-}
-
-void Slot::ReadWorldId() {
-  if (disk_.Look(Path(kIdFile)) != Disk::Kind::File) {
-    // A folder from elsewhere: no journal can be this world's but one that says so too.
-    worldId_ = 0;
-    return;
-  }
-  const Bytes bytes = ReadFile(disk_, Path(kIdFile));
-  worldId_ = 0;
-  for (std::size_t i = 0; i < std::min<std::size_t>(bytes.size(), 8); ++i)
-    worldId_ |= std::to_integer<std::uint64_t>(bytes[i]) << (8 * i);
-}
-
-void Slot::Recover(Damage damage, std::uint64_t upTo) {
-  DropHandles();
-  if (disk_.Look(folder_) != Disk::Kind::Folder)
-    throw DiskError(folder_, "open the slot", "there is no such folder");
-  ReadWorldId();
-  const Disk::Kind kind = disk_.Look(Path(kJournalFile));
-  if (kind != Disk::Kind::File && kind != Disk::Kind::Nothing)
-    throw DiskError(Path(kJournalFile), "open", "it is no plain file");
-  const Disk::Handle journal = Handle(kJournalFile, true);
-  journalSize_ = disk_.Size(journal);
-  Bytes bytes(static_cast<std::size_t>(journalSize_));
-  if (!bytes.empty()) disk_.ReadAt(journal, 0, bytes);
-  Replay(bytes, damage, upTo);
-  if (journalSize_ < kJournalSize) {
-    // A journal that came without its room gets it before anything is written to it.
-    disk_.WriteAt(journal, journalSize_,
-                  Bytes(static_cast<std::size_t>(kJournalSize - journalSize_)));
-    journalSize_ = kJournalSize;
-  }
-  EmptyJournal();
-  broken_ = false;
-}
-
-void Slot::Replay(ByteSpan journal, Damage damage, std::uint64_t upTo) {
-  end_ = kJournalBlock;
-  sequence_ = 0;
-  const auto marker = UnpackMarker(journal);
-  auto entry = UnpackRecord(journal, end_);
-  if (marker && marker->World != worldId_) {
-    remarks_.push_back("The journal belongs to another world and was left aside.");
-    return;
-  }
-  if (marker) {
-    sequence_ = marker->Sequence;
-  } else if (entry) {
-    // The marker was lost while the journal was emptied: all of its records stand in the files
-    // already, and no new one can have been written. Replaying them changes nothing.
-    sequence_ = entry->Record.Sequence - 1;
-  }
-  while (entry && entry->Record.World == worldId_ && entry->Record.Sequence == sequence_ + 1 &&
-         entry->Record.Sequence <= upTo &&
-         std::all_of(entry->Record.Files.begin(), entry->Record.Files.end(),
-                     [&](auto& file) { return Knows(file.Name); })) {
-    sequence_ = entry->Record.Sequence;
-    for (const JournalFile& file : entry->Record.Files) Apply(file);
-    end_ += entry->Size;
-    entry = UnpackRecord(journal, end_);
-  }
-  if (upTo == kAll) return RefuseDamage(journal, damage);
-  // The record that failed may stand there whole: its number is spent, so that it is never taken
-  // for the next one.
-  sequence_ = upTo + 1;
-}
-
-/// Records left from before the journal was last emptied have lower sequences than the chain. A
-/// higher one behind its end can only stand there when the one between was once whole.
-void Slot::RefuseDamage(ByteSpan journal, Damage damage) {
-  std::uint64_t highest = sequence_;
-  for (std::int64_t at = end_ + kJournalBlock; at < std::ssize(journal); at += kJournalBlock)
-    if (const auto entry = UnpackRecord(journal, at);
-        entry && entry->Record.World == worldId_ && entry->Record.Sequence > sequence_ + 1)
-      highest = std::max(highest, entry->Record.Sequence);
-  if (highest == sequence_) return;
-  if (damage == Damage::Drop) {
-    remarks_.push_back("What came behind a damaged place of the journal was dropped.");
-    sequence_ = highest;
-    return;
-  }
-  const std::string copy = folder_ + ".damaged";
-  RemoveTree(disk_, copy);
-  CopyTree(disk_, folder_, copy);
-  throw SlotDamaged(folder_, copy);
-}
-
-void Slot::ReadFiles() {
-  files_.clear();
-  for (const KnownFile& known : known_) {
-    const std::string path = Path(known.Name);
-    const Disk::Kind kind = disk_.Look(path);
-    if (kind == Disk::Kind::Nothing) continue;
-    if (kind != Disk::Kind::File) throw DiskError(path, "open", "it is no plain file");
-    const Disk::Handle handle = Handle(known.Name, false);
-    const std::int64_t size = disk_.Size(handle);
-    if (size > known.MaxBytes)
-      throw DiskError(path, "open",
-                      "it is " + std::to_string(size) + " bytes long, more than its most of " +
-                          std::to_string(known.MaxBytes));
-    Bytes bytes(static_cast<std::size_t>(size));
-    if (size > 0) disk_.ReadAt(handle, 0, bytes);
-    files_.emplace(known.Name, std::move(bytes));
-  }
-}
-
-void Slot::MakeRoom(const std::vector<FileChange>& changes, std::int64_t recordSize) {
-  for (const FileChange& change : changes)
-    if (change.ExistsAfter && change.ExistsBefore && change.After.size() > change.Before.size())
-      disk_.Allocate(Handle(change.Name, false), std::ssize(change.After));
-  if (end_ + recordSize <= journalSize_) return;
-  Checkpoint();
-  if (end_ + recordSize <= journalSize_) return;
-  const Disk::Handle journal = Handle(kJournalFile, false);
-  disk_.Allocate(journal, end_ + recordSize);
-  disk_.Resize(journal, end_ + recordSize);
-  disk_.Sync(journal);
-  journalSize_ = end_ + recordSize;
-}
-
-void Slot::Commit(const std::vector<FileChange>& changes) {
-  committed_ = false;
-  if (changes.empty()) return;
-  if (broken_) Recover(Damage::Refuse, sequence_);
-  JournalRecord record{worldId_, sequence_ + 1, {}};
+/// What the next opening would not believe is not written either.
+void Slot::Insides::Require(const std::vector<FileChange>& changes) const {
   for (const FileChange& change : changes) {
-    record.Files.push_back({change.Name, change.ExistsAfter, change.After.size(), {}});
-    if (change.ExistsAfter) record.Files.back().Ranges = ChangedRanges(change.Before, change.After);
+    const auto known = std::find_if(Known.begin(), Known.end(),
+                                    [&](auto& file) { return file.Name == change.Name; });
+    if (known == Known.end()) throw std::invalid_argument(change.Name + " is no file of a slot.");
+    if (std::ssize(change.After) > known->MaxBytes)
+      throw std::invalid_argument(change.Name + " would be longer than its most of " +
+                                  std::to_string(known->MaxBytes) + " bytes.");
   }
+}
+
+void Slot::Insides::MakeRoom(const std::vector<FileChange>& changes, ByteSpan record) {
+  if (!Journal.Fits(record)) Checkpoint();
   try {
-    Append(changes, record);
-  } catch (const DiskError&) {
-    // What the disk holds now is unknown: only reading it anew tells, and it is never asked to sync
-    // the same pages again. Where even that fails, the next commit begins with it.
-    broken_ = true;
-    try {
-      Recover(Damage::Refuse, sequence_);
-    } catch (const DiskError&) {
+    Journal.MakeRoom(record);
+    for (const FileChange& change : changes) {
+      if (!change.ExistsAfter) continue;
+      if (!change.ExistsBefore)
+        Records.ReserveNew(change.Name, std::ssize(change.After));
+      else if (change.After.size() > change.Before.size())
+        Records.Reserve(change.Name, std::ssize(change.After));
     }
-    throw;
-  }
-  committed_ = true;
-  try {
-    for (const JournalFile& file : record.Files) Apply(file);
   } catch (const DiskError&) {
-    broken_ = true;
+    Records.GiveBack();
     throw;
   }
 }
 
-void Slot::Append(const std::vector<FileChange>& changes, JournalRecord& record) {
-  Bytes packed = PackRecord(record);
-  MakeRoom(changes, std::ssize(packed));
-  const Disk::Handle journal = Handle(kJournalFile, false);
-  disk_.WriteAt(journal, end_, packed);
-  disk_.Sync(journal);
-  sequence_ = record.Sequence;
-  end_ += std::ssize(packed);
+void Slot::Insides::Checkpoint() {
+  if (Broken) return Recover();
+  if (Journal.IsEmpty()) return;
+  try {
+    const JournalMarker marker{World, Sequence, Digest.Value()};
+    if (Options.Quirks.EmptyBeforeFiles) Journal.Empty(marker);
+    Records.Sync();
+    if (!Options.Quirks.EmptyBeforeFiles) Journal.Empty(marker);
+  } catch (const DiskError&) {
+    Broken = true;
+    TryRecover();
+    throw;
+  }
+}
+
+void Slot::Create(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
+                  std::uint64_t worldId, const SlotOptions& options) {
+  const SlotLock lock(disk, folder);
+  FinishSwap(disk, folder);
+  ReplaceSlot(disk, folder, files, worldId, options.JournalBytes, options.Quirks);
+}
+
+std::optional<Bytes> Slot::Peek(Disk& disk, const std::string& folder,
+                                const std::vector<KnownFile>& known, const std::string& name) {
+  const std::string standing = StandingFolder(disk, folder);
+  if (standing.empty()) return std::nullopt;
+  std::optional<Bytes> file;
+  const std::string path = standing + "/" + name;
+  if (disk.Look(path) == Disk::Kind::File) file = ReadFile(disk, path);
+  if (disk.Look(standing + "/" + kWorldIdName) != Disk::Kind::File) return file;
+  const auto id = UnpackWorldId(ReadFile(disk, standing + "/" + kWorldIdName));
+  const SlotOptions usual;
+  JournalFile journal(disk, standing, usual.JournalBytes, usual.Quirks);
+  const Bytes bytes = journal.Read(LongestJournal(known, usual.JournalBytes));
+  for (const JournalRecord& record : ReadChain(bytes, id, known).Records)
+    for (const FilePatch& patch : record.Files)
+      if (patch.Name == name) ApplyTo(file, patch);
+  return file;
+}
+
+Slot::Slot(Disk& disk, std::string folder, std::vector<KnownFile> known, Damage damage,
+           const SlotOptions& options) {
+  // No lock is left beside a slot that is not there.
+  if (StandingFolder(disk, folder).empty())
+    throw DiskError(folder, "open", "there is no such folder");
+  insides_ = std::make_unique<Insides>(disk, std::move(folder), std::move(known), options);
+  insides_->Open(damage);
+}
+
+Slot::~Slot() = default;
+
+const std::map<std::string, Bytes>& Slot::Files() const {
+  return insides_->Files;
+}
+
+void Slot::Forget() {
+  insides_->Files.clear();
+}
+
+const std::vector<std::string>& Slot::Remarks() const {
+  return insides_->Remarks;
+}
+
+bool Slot::Committed() const {
+  return insides_->Committed;
 }
 
 void Slot::Checkpoint() {
-  if (broken_) return Recover(Damage::Refuse, sequence_);
-  if (end_ == kJournalBlock) return;
-  try {
-    EmptyJournal();
-  } catch (const DiskError&) {
-    broken_ = true;
-    throw;
-  }
+  insides_->Checkpoint();
 }
 
-void Slot::EmptyJournal() {
-  for (const KnownFile& known : known_)
-    if (disk_.Look(Path(known.Name)) == Disk::Kind::File) disk_.Sync(Handle(known.Name, false));
-  disk_.SyncFolder(folder_);
-  const Disk::Handle journal = Handle(kJournalFile, false);
-  disk_.WriteAt(journal, 0, PackMarker({worldId_, sequence_}));
-  disk_.Sync(journal);
-  end_ = kJournalBlock;
+void Slot::Commit(const std::vector<FileChange>& changes) {
+  Insides& in = *insides_;
+  in.Committed = changes.empty();
+  if (changes.empty()) return;
+  in.Require(changes);
+  bool written = false;
+  try {
+    if (in.Broken) in.Recover();
+    JournalRecord record{in.World, in.Sequence + 1, 0, {}};
+    WorldDigest digest = in.Digest;
+    for (const FileChange& change : changes) {
+      FilePatch patch{change.Name, change.ExistsAfter, std::ssize(change.After), {}};
+      if (change.ExistsAfter) {
+        patch.Ranges = ChangedRanges(change.Before, change.After, in.Options.Quirks);
+        digest.Set(change.Name, change.After);
+      } else {
+        patch.Length = 0;
+        digest.Remove(change.Name);
+      }
+      record.Files.push_back(std::move(patch));
+    }
+    record.Digest = digest.Value();
+    const Bytes packed = PackRecord(record);
+    in.MakeRoom(changes, packed);
+    written = true;
+    in.Journal.Append(packed);
+    in.Sequence = record.Sequence;
+    in.Digest = std::move(digest);
+    in.Committed = true;
+    for (const FilePatch& patch : record.Files) in.Records.Apply(patch);
+  } catch (const DiskError& fault) {
+    // What the disk holds now is unknown: only reading it anew tells.
+    if (written) in.TryRecover();
+    if (in.Committed) throw DiskError(fault, in.Broken ? kKeptUntilMended : kKept);
+    throw DiskError(fault, in.Broken ? kUntilMended : kTakenBack);
+  }
 }
 
 }  // namespace grapplemont

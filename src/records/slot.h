@@ -31,9 +31,9 @@ class SlotBusy : public std::runtime_error {
   explicit SlotBusy(const std::string& folder);
 };
 
-/// The slot's journal cannot be vouched for: something that was once finished in it is lost. Nothing
-/// was touched. Opening with `Damage::Drop` first keeps the folder as it is at CopyFolder() and then
-/// goes on from the last world that is whole.
+/// The slot's journal cannot be vouched for: something that was once finished in it is lost.
+/// Nothing was touched. Opening with `Damage::Drop` first keeps the folder as it is at CopyFolder()
+/// and then goes on from the last world that is whole.
 class SlotDamaged : public std::runtime_error {
  public:
   SlotDamaged(const std::string& folder, std::string copy);
@@ -68,8 +68,8 @@ class Slot {
 
   /// Takes the slot's lock, replays its journal and reads all known files. Throws SlotBusy,
   /// SlotDamaged, DiskError; then the world on disk is as it was.
-  Slot(Disk& disk, std::string folder, std::vector<KnownFile> known,
-       Damage damage = Damage::Refuse, const SlotOptions& options = {});
+  Slot(Disk& disk, std::string folder, std::vector<KnownFile> known, Damage damage = Damage::Refuse,
+       const SlotOptions& options = {});
   ~Slot();  // no checkpoint: call Checkpoint for a clean exit
   Slot(const Slot&) = delete;
   Slot& operator=(const Slot&) = delete;
@@ -85,7 +85,8 @@ class Slot {
   /// Puts the changes on disk, all or nothing; they are there, for good, when it returns. `Before`
   /// is what the last commit left. Throws DiskError, whose text says what became of the step;
   /// Committed() then tells whether the changes stand all the same (what failed came after the
-  /// commit itself). The slot has recovered by then, or does so before the next commit.
+  /// commit itself). The slot has recovered by then, or does so before the next commit. Throws
+  /// std::invalid_argument for a file that the slot does not know or that is too long.
   void Commit(const std::vector<FileChange>& changes);
   bool Committed() const;
   /// Brings the record files themselves up to date and empties the journal. Throws DiskError; no

@@ -66,8 +66,7 @@ void SlotFiles::Apply(const FilePatch& patch) {
     return;
   }
   const Disk::Handle file = Open(patch.Name).Handle;
-  for (const JournalRange& range : patch.Ranges)
-    disk_.WriteAt(file, range.Offset, range.Contents);
+  for (const JournalRange& range : patch.Ranges) disk_.WriteAt(file, range.Offset, range.Contents);
   if (disk_.Size(file) != patch.Length) disk_.Resize(file, patch.Length);
 }
 

@@ -24,11 +24,15 @@ class SlotFiles {
   void ReserveNew(const std::string& name, std::int64_t size);
   /// Takes back what ReserveNew made and nobody used; never throws.
   void GiveBack();
-  /// Brings a file to what the patch says, without syncing; however much of it stands there already.
+  /// Brings a file to what the patch says, without syncing; however much of it stands there
+  /// already.
   void Apply(const FilePatch& patch);
+  /// Counts the file as applied to, whatever was written to it before.
+  void Touch(const std::string& name) { touched_.insert(name); }
   /// Syncs every file that was applied to since the last time, and the folder.
   void Sync();
   /// Closes all and forgets what is unsynced: for when it is to be done again from the journal.
+  /// Never throws.
   void Drop();
 
  private:

@@ -13,8 +13,12 @@ namespace {
 
 constexpr std::size_t kIdSize = 8, kSealedIdSize = 16;
 
-std::string NewOf(const std::string& folder) { return folder + kBesideSuffix; }
-std::string OldOf(const std::string& folder) { return folder + ".old"; }
+std::string NewOf(const std::string& folder) {
+  return folder + kBesideSuffix;
+}
+std::string OldOf(const std::string& folder) {
+  return folder + ".old";
+}
 
 std::uint64_t NumberAt(ByteSpan bytes, std::size_t at) {
   std::uint64_t number = 0;
@@ -91,7 +95,8 @@ Bytes PackWorldId(std::uint64_t id) {
 }
 
 std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes) {
-  if (bytes.size() != kSealedIdSize || NumberAt(bytes, kIdSize) != XXH3_64bits(bytes.data(), kIdSize))
+  if (bytes.size() != kSealedIdSize ||
+      NumberAt(bytes, kIdSize) != XXH3_64bits(bytes.data(), kIdSize))
     return std::nullopt;
   return NumberAt(bytes, 0);
 }

@@ -53,8 +53,8 @@ std::string StandingFolder(Disk& disk, const std::string& folder);
 
 /// A name beside the folder that is still free: "s1.damaged", "s1.damaged-2" and on.
 std::string FreeCopyName(Disk& disk, const std::string& folder);
-/// Copies the plain files of a folder to a new one beside it, whole or not at all. Requires the lock
-/// and FinishSwap.
+/// Copies the plain files of a folder to a new one beside it, whole or not at all. Requires the
+/// lock and FinishSwap.
 void CopyBeside(Disk& disk, const std::string& folder, const std::string& copy);
 
 }  // namespace grapplemont

@@ -68,16 +68,24 @@ class TableWriter {
     return static_cast<std::size_t>(column.Of->Width);
   }
 
+  /// The column that every table has: the name of its records, where they have one.
+  static const Column& Anchor(const std::vector<Column>& columns) {
+    const auto text = std::find_if(columns.begin(), columns.end(), [](const Column& column) {
+      return column.Of->Kind == FieldKind::Text;
+    });
+    return text == columns.end() ? columns.front() : *text;
+  }
+
   std::vector<Column> ColumnsWorthWriting() const {
+    const std::vector<Column> all = ColumnsOf(kind_);
+    const Column& anchor = Anchor(all);
     std::vector<Column> columns;
-    for (const Column& column : ColumnsOf(kind_)) {
-      const bool first = columns.empty();  // every table has at least its first column
-      if (IsUid(*column.Of)) {
-        if (!AreNumberedInOrder(column)) columns.push_back(column);
-      } else if (first || Count() == 0 || !HasDefault(kind_, column) ||
-                 !HoldsOnlyDefaults(column)) {
-        columns.push_back(column);
-      }
+    for (const Column& column : all) {
+      const bool worth = IsUid(*column.Of)
+                             ? !AreNumberedInOrder(column)
+                             : &column == &anchor || Count() == 0 || !HasDefault(kind_, column) ||
+                                   !HoldsOnlyDefaults(column);
+      if (worth) columns.push_back(column);
     }
     return columns;
   }

@@ -53,7 +53,7 @@ class Builder {
       if (text != tables_.end()) {
         read_.push_back(ReadTableOf(kind, text->second, ranges));
         namesAll = namesAll && read_.back().NamesAll;
-      } else if (!kind.OfGame) {
+      } else if (!kind.OfGame && !isGame_) {
         general_.push_back({std::string(kind.Name),
                             0,
                             {},

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "records/slot.h"
+#include "records/slotfolder.h"
 #include "session/newgame.h"
 #include "session/screensenter.h"
 #include "session/sessionscreens.h"
@@ -41,7 +41,9 @@ class frmPickSaveSlot : public ui::Screen {
 
  private:
   void cmdload_Click(int slot) {
-    if (Slot::Busy(game_.Disk(), game_.SlotFolder(slot))) throw SlotBusy(game_.SlotFolder(slot));
+    {
+      const SlotLock free(game_.Disk(), game_.SlotFolder(slot));
+    }  // before any question: it may be busy
     if (!ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot)).Empty &&
         !desk().Ask("Are you sure?", "Are you sure you want to overwrite this slot?",
                     ui::Default::No))

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "records/dates.h"
+#include "records/slotfolder.h"
 #include "records/world.h"
 
 namespace grapplemont {
@@ -21,12 +22,12 @@ SlotSummary OtherFormat() {
 
 SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
   const std::string name(LayoutOf<GameInfo>().File);
-  const Disk::Kind kind = disk.Look(folder + "/" + name);
+  const std::string standing = StandingFolder(disk, folder);
+  if (standing.empty()) return {};
+  const Disk::Kind kind = disk.Look(standing + "/" + name);
   if (kind == Disk::Kind::Folder || kind == Disk::Kind::Other)
     return Unreadable(name + " is no plain file.");
-  if (disk.Look(folder) == Disk::Kind::Nothing && disk.Look(folder + ".old") == Disk::Kind::Nothing)
-    return {};
-  const auto bytes = Slot::Peek(disk, folder, name);
+  const auto bytes = Slot::Peek(disk, folder, KnownFiles(), name);
   if (!bytes) return {};
   GameInfo game;
   if (bytes->size() < sizeof(GameInfo)) return OtherFormat();

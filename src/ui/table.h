@@ -23,7 +23,7 @@ struct TableState {
   std::vector<SortKey> Sort;  // the first counts most; two at most
   std::map<std::string, std::string> Filters;
   std::string Search;
-  std::vector<std::string> Order;  // columns that are not named keep their places
+  std::vector<std::string> Order;  // columns that are not named follow in their own order
   std::set<std::string> Hidden;
   std::map<std::string, int> Widths;  // set by hand, in pixels at the usual size of text
   int TopRow = 0;                     // where the table is scrolled to, from 0

@@ -183,39 +183,5 @@ TEST(frmNews, EmptiesTheMailboxAfterAsking) {
   EXPECT_FALSE(play.Desk.Enabled("imgmail"));
 }
 
-TEST(frmNotepad, KeepsWhatIsTypedHoweverItCloses) {
-  GameOnWorld play(Plain());
-  play.Desk.Open("frmNotepad");
-  EXPECT_EQ(play.Desk.Text("txtnotes"), "Notepad");
-  const std::string notes =
-      "Push Bram.\r\n\tDrop Ilya.\n\n  caf\xE9 \x80"
-      "5\n";
-  play.Desk.Type("txtnotes", notes);
-  play.Desk.CloseAll();
-  play.Reopen();
-  EXPECT_EQ(play.World().Notes().Text(), notes);
-  play.Desk.Open("frmNotepad");
-  EXPECT_EQ(play.Desk.Text("txtnotes"), notes);
-  play.Desk.Type("txtnotes", "");
-  play.Desk.Click("cmdback");
-  EXPECT_TRUE(play.Desk.Empty());
-  play.Reopen();
-  EXPECT_EQ(play.World().Notes().Text(), "");
-}
-
-TEST(frmNotepad, RefusesMoreThanItHolds) {
-  GameOnWorld play(Plain());
-  play.Desk.Open("frmNotepad");
-  std::string notes(1 << 20, 'n');
-  play.Desk.Type("txtnotes", notes);
-  EXPECT_EQ(play.World().Notes().Text(), notes);
-  play.Desk.ExpectSay("Error!",
-                      "The notepad holds 1048576 letters at most. Your notes are as they were "
-                      "before.");
-  play.Desk.Type("txtnotes", notes + "n");
-  EXPECT_EQ(play.Desk.Text("txtnotes"), notes);
-  EXPECT_EQ(play.World().Notes().Text(), notes);
-}
-
 }  // namespace
 }  // namespace grapplemont::test

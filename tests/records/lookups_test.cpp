@@ -72,6 +72,8 @@ TEST(LookUps, CountUidsOnFromTheHighest) {
   EXPECT_EQ(30001, NextWorkerUid(world));
   EXPECT_EQ(3, NextStaffUid(world));
   EXPECT_EQ(3, NextPromotionUid(world));
+  world.Workers()[3].Uid = 32767;
+  EXPECT_EQ(3, NextWorkerUid(world)) << "the lowest that is free, with none behind the highest";
   world.Workers().Erase(3);
   EXPECT_EQ(3, NextWorkerUid(world));
   EXPECT_EQ(1, NextWorkerUid(World()));

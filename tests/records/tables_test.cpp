@@ -304,7 +304,7 @@ TEST(Tables, OfTheDefaultWorldBuildAndComeBack) {
 }
 
 TEST(Tables, OfAnyValidWorldComeBack) {
-  for (std::uint64_t seed = 1; seed <= 100; ++seed) {
+  for (std::uint64_t seed = 1; seed <= 60; ++seed) {
     SCOPED_TRACE(seed);
     ExpectToComeBack(RandomData(seed));
   }
@@ -333,6 +333,7 @@ TEST(Tables, TellWhatNoNameCanTell) {
   cwa.Initials = "none";  // what a Title without a promotion says
   Title title;
   title.Name = "Crown";
+  title.Singles = true;
   title.Owner = cwa.Uid;
   title.Holder = Named(world.Workers(), "Bram Okafor").Uid;
   Named(world.Workers(), "Bram Okafor").Name = "#2";
@@ -353,7 +354,7 @@ TEST(Tables, TellWhatNoNameCanTell) {
   world.MarkCommitted();
   ExpectToComeBack(world);
   const Tables tables = ExportWorld(world);
-  EXPECT_EQ("Name,Owner\n\\,\n", tables.at("stables.csv"));
+  EXPECT_EQ("Name\n\\\n", tables.at("stables.csv"));
   const std::string& titles = tables.at("titles.csv");
   for (const char* told :
        {",#1,#1,", ",1899-12-30,", ",2023-03-15+0.25,", ",@-1e-20,", ",0100-01-01,"})
@@ -392,7 +393,7 @@ TEST(Tables, OfAnyMailComeBack) {
     World world = Plain().Game("CWA");
     for (int i = 0; i < 40; ++i) {
       Mail mail;
-      mail.Date = "01/03/2026";
+      mail.Date = ShortDate(world.Today());
       std::string body;
       for (int letter = dice.From(0, 250); letter > 0; --letter)
         body += static_cast<char>(dice.OneIn(4) ? ' ' : dice.From(0xA0, 0xFF));

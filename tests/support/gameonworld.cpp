@@ -29,7 +29,7 @@ Game::Options OptionsIn(const std::string& home) {
 
 GameOnWorld::GameOnWorld(grapplemont::World world, std::unique_ptr<Disk> disk)
     : home_(NewHome()),
-      disk_(disk ? std::move(disk) : RealDisk()),
+      disk_(disk ? std::move(disk) : RealDisk(Syncs::None)),
       Play(Desk, *disk_, OptionsIn(home_)) {
   RegisterScreens(Play);
   Slot::Create(*disk_, Play.SlotFolder(kSlot), grapplemont::FilesOf(world), Play.NewWorldId());

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "support/samplescreen.h"
 #include "support/scriptdesk.h"
 
@@ -48,12 +50,11 @@ TEST_F(Controls, CountEveryChangeThatCanBeSeen) {
       {"combo", Screen.cmbkind, [&] { Screen.cmbkind.Select(2); }},
   };
   for (const Row& row : kRows) EXPECT_TRUE(Shows(row.Control, row.Change)) << row.What;
-  // Putting the same there again changes nothing to look at.
-  for (const char* what : {"text", "enabled", "visible", "tip", "colour", "badge", "checked",
-                           "value", "range", "file", "captions"})
-    for (const Row& row : kRows)
-      if (std::string_view(row.What) == what)
-        EXPECT_FALSE(Shows(row.Control, row.Change)) << row.What;
+  const std::set<std::string_view> kAlwaysCount = {"rows", "selection", "combo"};
+  for (const Row& row : kRows) {
+    if (kAlwaysCount.contains(row.What)) continue;
+    EXPECT_FALSE(Shows(row.Control, row.Change)) << row.What << ", the same again";
+  }
 }
 
 TEST_F(Controls, AListKeepsItsSelectionByKey) {

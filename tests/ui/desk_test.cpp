@@ -109,12 +109,25 @@ TEST(DeskEvents, WorkWithoutAnyWork) {
 }
 
 TEST(Desk, LoadsAScreenOnceAndTellsItOfItsReturn) {
+  ScriptDesk desk;
+  Log log;
+  SampleScreen::On(desk, log);
+  SampleScreen& above = SampleScreen::On(desk, log);
+  EXPECT_EQ(log, (Log{"Load", "Load"}));
+  desk.Close(above);
+  EXPECT_EQ(log, (Log{"Load", "Load", "Return"}));
+}
+
+TEST(Desk, OpensAScreenAsAnEventOfItsOwn) {
   Table table;
-  table.Sample();
-  SampleScreen& above = SampleScreen::On(table.Desk, table.Said);
-  EXPECT_EQ(table.Said, (Log{"Load"}));
-  table.Desk.Close(above);
-  EXPECT_EQ(table.Said, (Log{"Load", "Return"}));
+  SampleScreen::On(table.Desk, table.Said);
+  EXPECT_EQ(table.Said, (Log{"Load", "Commit"}));
+  table.Work.CommitFails = true;
+  table.Said.clear();
+  table.Desk.ExpectSay("Error!", "Explained: no space");
+  SampleScreen::On(table.Desk, table.Said);
+  EXPECT_EQ(table.Said, (Log{"Load", "Commit", "Rollback", "Return"}));
+  EXPECT_EQ(table.Desk.Screens().size(), 1u);
 }
 
 TEST(Desk, ClosesAScreenBelowTheTopWithoutWakingAnother) {

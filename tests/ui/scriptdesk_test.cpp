@@ -57,12 +57,11 @@ TEST_F(TheScriptDesk, FailsOnABoxThatNeverComes) {
   Desk.ExpectSay("Told", "First.");
   EXPECT_NONFATAL_FAILURE(Desk.Finish(), "Say(\"Told\", \"First.\") was expected and never came.");
   Desk.Finish();  // once is enough
-  EXPECT_NONFATAL_FAILURE(
-      {
-        ScriptDesk other;
-        other.ExpectAsk("Quit?", kAnyText, true);
-      },
-      "Ask(\"Quit?\", any text) was expected");
+  const auto leaveOne = [] {
+    ScriptDesk other;
+    other.ExpectAsk("Quit?", kAnyText, true);
+  };
+  EXPECT_NONFATAL_FAILURE(leaveOne(), "Ask(\"Quit?\", any text) was expected");
 }
 
 TEST_F(TheScriptDesk, FailsOnAnActThatAPlayerCannotDo) {
@@ -101,34 +100,28 @@ TEST(ScriptedDraws, GiveTheScript) {
 }
 
 TEST(ScriptedDraws, FailLoudly) {
-  EXPECT_NONFATAL_FAILURE(
-      {
-        ScriptedDraws draws{2};
-        EXPECT_EQ(draws.Draw(2), 2);
-        EXPECT_THROW(draws.Draw(9), std::logic_error);
-      },
-      "Draw number 2, of 9, is one more than the script holds.");
-  EXPECT_NONFATAL_FAILURE(
-      {
-        ScriptedDraws draws{3, 1, 5};
-        EXPECT_EQ(draws.Draw(4), 3);
-      },
-      "Only 1 numbers of the script were drawn; left over: 1 5");
-  for (const int value : {0, -1, 7}) {
-    EXPECT_NONFATAL_FAILURE(
-        {
-          ScriptedDraws draws{value};
-          EXPECT_THROW(draws.Draw(6), std::logic_error);
-        },
-        "cannot give " + std::to_string(value));
-  }
-  EXPECT_NONFATAL_FAILURE(
-      {
-        const ScriptedDraw hundred(100, 3);
-        ScriptedDraws draws{hundred};
-        EXPECT_EQ(draws.Draw(10), 3);
-      },
-      "should be a draw of 100.");
+  const auto runOut = [] {
+    ScriptedDraws draws{2};
+    EXPECT_EQ(draws.Draw(2), 2);
+    EXPECT_THROW(draws.Draw(9), std::logic_error);
+  };
+  EXPECT_NONFATAL_FAILURE(runOut(), "Draw number 2, of 9, is one more than the script holds.");
+  const auto leaveSome = [] {
+    ScriptedDraws draws{3, 1, 5};
+    EXPECT_EQ(draws.Draw(4), 3);
+  };
+  EXPECT_NONFATAL_FAILURE(leaveSome(), "Only 1 numbers of the script were drawn; left over: 1 5");
+  const auto lieOutside = [](int value) {
+    ScriptedDraws draws{value};
+    EXPECT_THROW(draws.Draw(6), std::logic_error);
+  };
+  for (const int value : {0, -1, 7})
+    EXPECT_NONFATAL_FAILURE(lieOutside(value), "cannot give " + std::to_string(value));
+  const auto drawOfAnother = [] {
+    ScriptedDraws draws{{100, 3}};
+    EXPECT_EQ(draws.Draw(10), 3);
+  };
+  EXPECT_NONFATAL_FAILURE(drawOfAnother(), "should be a draw of 100.");
 }
 
 }  // namespace

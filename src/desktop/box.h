@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QEventLoop>
+#include <QLineEdit>
+#include <optional>
+
+#include "desktop/button.h"
+#include "desktop/card.h"
+
+namespace grapplemont::desktop {
+
+class Stage;
+
+/// A question or a message over the window that waits for its answer.
+class MessageBox : public Veil {
+ public:
+  MessageBox(QWidget* ground, const QString& title, const QString& text);
+  /// Enter means the button that is usual, Escape the answer of a dismissal.
+  void AddButton(const QString& caption, int answer, bool usual);
+  void AddLine(const QString& offered, Stage& stage);
+  /// Waits; the answer of the button that was pressed, nothing when the box was dismissed.
+  std::optional<int> Run();
+  void Dismiss();
+  QString Line() const { return line_ ? line_->text() : QString(); }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  struct Choice {
+    PushButton* Press;
+    int Answer;
+    bool Usual;
+  };
+  void Answer(int answer);
+  void PressLetter(const QString& letter);
+
+  QLayout* foot_;
+  QLineEdit* line_ = nullptr;
+  QWidget* place_;  // where the line goes
+  std::vector<Choice> choices_;
+  std::optional<int> answer_;
+  QEventLoop loop_;
+};
+
+}  // namespace grapplemont::desktop

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+namespace grapplemont::desktop {
+
+/// A sheet with round corners and a hairline.
+class Card : public QWidget {
+ public:
+  explicit Card(QWidget* parent) : QWidget(parent) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+/// A widget in which Tab goes round, instead of leaving it.
+class FocusRing : public QWidget {
+ public:
+  explicit FocusRing(QWidget* parent) : QWidget(parent) {}
+  /// Gives the keyboard to the first that takes it by Tab.
+  void FocusFirst();
+
+ protected:
+  bool focusNextPrevChild(bool next) override;
+};
+
+/// The ground that is dimmed below a dialog or a box, with a card in its middle.
+class Veil : public FocusRing {
+ public:
+  explicit Veil(QWidget* ground);
+  Card& Sheet() { return *card_; }
+  /// How large the card is, in drawn pixels; none: as its contents are.
+  void SetWanted(const QSize& drawn) { wanted_ = drawn; }
+  /// At the top of the window instead of the middle.
+  void SetAtTop() { atTop_ = true; }
+  void PlaceCard();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  Card* card_;
+  QSize wanted_;
+  bool atTop_ = false;
+};
+
+}  // namespace grapplemont::desktop

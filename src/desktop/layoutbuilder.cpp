@@ -1,0 +1,309 @@
+#include "desktop/layoutbuilder.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <algorithm>
+
+#include "desktop/buttonview.h"
+#include "desktop/flowlayout.h"
+#include "desktop/labelview.h"
+#include "desktop/letters.h"
+#include "desktop/look.h"
+#include "desktop/palette.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+using ui::Box;
+using Kind = ui::Box::Kind;
+
+constexpr int kWide = 14, kClose = 8;  // between cards, within a card
+constexpr int kCardSide = 14;
+
+bool IsButton(const Box& box) {
+  return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
+}
+
+/// A row of controls alone, such as one of several alike below each other.
+bool IsPlainRow(const Box& box) {
+  return box.Is == Kind::Columns && box.Parts.size() > 1 &&
+         std::all_of(box.Parts.begin(), box.Parts.end(),
+                     [](const Box& part) { return part.Is == Kind::Item && !Grows(part); }) &&
+         !std::all_of(box.Parts.begin(), box.Parts.end(), IsButton);
+}
+
+bool GrowsByItself(const ui::Control& control) {
+  switch (control.Is()) {
+    case ui::Kind::ListBox:
+    case ui::Kind::Report:
+    case ui::Kind::Chart:
+      return true;
+    case ui::Kind::TextBox:
+      return dynamic_cast<const ui::TextBox&>(control).MultiLine;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+bool Grows(const Box& box) {
+  switch (box.Is) {
+    case Kind::Item:
+    case Kind::Field:
+      return GrowsByItself(*box.Shown) ||
+             (box.Stretch > 0 && box.Shown->Is() == ui::Kind::Picture);
+    case Kind::Spacer:
+      return false;
+    case Kind::Tabs:
+      return true;
+    default:
+      return std::any_of(box.Parts.begin(), box.Parts.end(), Grows);
+  }
+}
+
+void CollectControls(const Box& box, std::vector<ui::Control*>& controls) {
+  if (box.Shown) controls.push_back(box.Shown);
+  for (const Box& part : box.Parts) CollectControls(part, controls);
+}
+
+LayoutBuilder::LayoutBuilder(Stage& stage, QWidget* holder, bool cover)
+    : stage_(stage), holder_(holder), cover_(cover) {}
+
+ControlView* LayoutBuilder::View(ui::Control& control) {
+  ControlView* view = MakeView(control, stage_, holder_);
+  views_.push_back(view);
+  return view;
+}
+
+void LayoutBuilder::Build(const Box& root, QVBoxLayout* into) {
+  if (root.Is == Kind::Spacer) return into->addStretch(1);
+  Add(root, into);
+  if (!Grows(root) && root.Is != Kind::Rows) into->addStretch(1);
+}
+
+/// Boxes one below the other. Room that nobody wants stays at the end.
+void LayoutBuilder::AddAll(const std::vector<Box>& boxes, QBoxLayout* into) {
+  const bool filled = std::any_of(boxes.begin(), boxes.end(), [](const Box& box) {
+    return box.Is == Kind::Spacer || box.Stretch > 0 || Grows(box);
+  });
+  for (std::size_t at = 0; at < boxes.size();) at = AddRun(boxes, at, into);
+  if (!filled) into->addStretch(1);
+}
+
+/// Adds the box at `from`, or those alike that follow it as one; gives the first after them.
+std::size_t LayoutBuilder::AddRun(const std::vector<Box>& boxes, std::size_t from,
+                                  QBoxLayout* into) {
+  const auto run = [&](auto fits) {
+    Run alike;
+    for (std::size_t i = from; i < boxes.size() && fits(boxes[i]); ++i) alike.push_back(&boxes[i]);
+    return alike;
+  };
+  if (const Run fields = run([](const Box& box) { return box.Is == Kind::Field; });
+      !fields.empty()) {
+    AddForm(fields, into);
+    return from + fields.size();
+  }
+  if (const Run buttons = run([](const Box& box) { return IsButton(box) && box.Stretch == 0; });
+      !buttons.empty()) {
+    AddButtons(buttons, into);
+    return from + buttons.size();
+  }
+  const std::size_t parts = boxes[from].Parts.size();
+  if (const Run rows = run([&](const Box& box) {
+        return IsPlainRow(box) && box.Parts.size() == parts;
+      });
+      rows.size() > 1) {
+    AddGrid(rows, into);
+    return from + rows.size();
+  }
+  Add(boxes[from], into);
+  return from + 1;
+}
+
+void LayoutBuilder::Add(const Box& box, QBoxLayout* into) {
+  switch (box.Is) {
+    case Kind::Item:
+      return AddItem(box, into);
+    case Kind::Field:
+      return AddForm({&box}, into);
+    case Kind::Rows: {
+      auto* rows = new QVBoxLayout;
+      rows->setSpacing(Px(inCard_ ? kClose : kWide));
+      into->addLayout(rows, std::max(box.Stretch, Grows(box) || !inCard_ ? 1 : 0));
+      return AddAll(box.Parts, rows);
+    }
+    case Kind::Columns:
+      return AddColumns(box, into);
+    case Kind::Group:
+      return AddGroup(box, into);
+    case Kind::Tabs:
+      return AddTabs(box, into);
+    case Kind::Spacer:
+      return into->addStretch(1);
+  }
+}
+
+void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
+  ControlView* view = View(*box.Shown);
+  QWidget* widget = view->Widget();
+  const bool across = into->direction() == QBoxLayout::LeftToRight;
+  int stretch = box.Stretch;
+  if (!across && stretch == 0 && Grows(box)) stretch = 1;
+  if (IsButton(box) && stretch > 0)
+    widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  const bool fills = Grows(box) || (stretch > 0 && !IsButton(box));
+  const Qt::Alignment place = across && !fills ? Qt::AlignVCenter : Qt::Alignment();
+  into->addWidget(widget, stretch, place);
+}
+
+void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
+  if (std::all_of(box.Parts.begin(), box.Parts.end(), [](const Box& part) {
+        return IsButton(part) && part.Stretch == 0;
+      })) {
+    Run buttons;
+    for (const Box& part : box.Parts) buttons.push_back(&part);
+    return AddButtons(buttons, into);
+  }
+  auto* columns = new QHBoxLayout;
+  const bool cards = std::any_of(box.Parts.begin(), box.Parts.end(), [](const Box& part) {
+    return part.Is == Kind::Group || part.Is == Kind::Rows;
+  });
+  columns->setSpacing(Px(cards && !inCard_ ? kWide : kClose));
+  into->addLayout(columns, std::max(box.Stretch, Grows(box) ? 1 : 0));
+  bool filled = cards;
+  for (const Box& part : box.Parts) {
+    filled = filled || part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
+    Add(part, columns);
+  }
+  if (!filled) columns->addStretch(1);
+}
+
+void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
+  if (inCard_) {  // a card on a card is a heading with what belongs to it
+    auto* part = new QVBoxLayout;
+    part->setSpacing(Px(kClose));
+    if (!box.Title.empty()) {
+      auto* title = new WrappedLabel(holder_, Shown(box.Title));
+      title->setFont(TextFont(13, QFont::DemiBold));
+      part->addWidget(title);
+    }
+    into->addLayout(part, std::max(box.Stretch, Grows(box) ? 1 : 0));
+    return AddAll(box.Parts, part);
+  }
+  auto* card = new Card(holder_);
+  auto* inside = new QVBoxLayout(card);
+  inside->setContentsMargins(Px(kCardSide), Px(kCardSide), Px(kCardSide), Px(kCardSide));
+  inside->setSpacing(Px(kClose));
+  if (!box.Title.empty()) {
+    auto* title = new WrappedLabel(card, Shown(box.Title));
+    title->setFont(TextFont(13, QFont::DemiBold));
+    inside->addWidget(title);
+  }
+  QWidget* const outer = holder_;
+  holder_ = card;
+  inCard_ = true;
+  const std::size_t before = views_.size();
+  AddAll(box.Parts, inside);
+  inCard_ = false;
+  holder_ = outer;
+  cards_.push_back({card, {views_.begin() + static_cast<std::ptrdiff_t>(before), views_.end()}});
+  into->addWidget(card, std::max(box.Stretch, Grows(box) ? 1 : 0));
+}
+
+void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
+  auto* holder = new QWidget(holder_);
+  auto* rows = new QVBoxLayout(holder);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(Px(kWide));
+  auto* bar = new QTabBar(holder);
+  bar->setDrawBase(false);
+  bar->setExpanding(false);
+  bar->setFocusPolicy(Qt::TabFocus);
+  auto* pages = new QStackedWidget(holder);
+  rows->addWidget(bar, 0, Qt::AlignLeft);
+  rows->addWidget(pages, 1);
+  QWidget* const outer = holder_;
+  for (const Box& part : box.Parts) {
+    auto* page = new QWidget(pages);
+    auto* inside = new QVBoxLayout(page);
+    inside->setContentsMargins(0, 0, 0, 0);
+    holder_ = page;
+    Box untitled = part;
+    untitled.Title.clear();
+    Build(untitled, inside);
+    pages->addWidget(page);
+    bar->addTab(Shown(part.Title));
+  }
+  holder_ = outer;
+  QObject::connect(bar, &QTabBar::currentChanged, pages, &QStackedWidget::setCurrentIndex);
+  into->addWidget(holder, std::max(1, box.Stretch));
+}
+
+QWidget* LayoutBuilder::FieldLabel(const Box& field, ControlView& view) {
+  auto* label = new WrappedLabel(holder_, Shown(field.Title));
+  label->setWordWrap(false);
+  SetInk(*label, ColoursOf(holder_).Muted);
+  view.SetCompanion(label);
+  label->setBuddy(view.FocusTarget());
+  return label;
+}
+
+/// Labels in one column, what they name in the next.
+void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
+  auto* form = new QGridLayout;
+  form->setHorizontalSpacing(Px(14));
+  form->setVerticalSpacing(Px(kClose));
+  form->setColumnStretch(1, 1);
+  int row = 0;
+  bool grows = false;
+  for (const Box* field : fields) {
+    ControlView* view = View(*field->Shown);
+    const bool tall = Grows(*field);
+    grows = grows || tall;
+    form->addWidget(FieldLabel(*field, *view), row, 0,
+                    tall ? Qt::AlignTop | Qt::AlignLeft : Qt::AlignVCenter | Qt::AlignLeft);
+    form->addWidget(view->Widget(), row, 1, tall ? Qt::Alignment() : Qt::AlignVCenter);
+    form->setRowStretch(row, tall ? 1 : 0);
+    ++row;
+  }
+  into->addLayout(form, grows || into->direction() == QBoxLayout::LeftToRight ? 1 : 0);
+}
+
+void LayoutBuilder::AddButtons(const Run& buttons, QBoxLayout* into) {
+  auto* flow = new FlowLayout(Px(kClose), cover_ && !inCard_ ? Qt::AlignHCenter : Qt::AlignLeft);
+  for (const Box* button : buttons) {
+    ControlView* view = View(*button->Shown);
+    if (cover_ && !inCard_) dynamic_cast<PushButton*>(view->Widget())->SetLeast(132, 40);
+    flow->addWidget(view->Widget());
+  }
+  into->addLayout(flow);
+}
+
+/// Rows alike share their columns' widths.
+void LayoutBuilder::AddGrid(const Run& rows, QBoxLayout* into) {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(Px(14));
+  grid->setVerticalSpacing(Px(kClose));
+  int row = 0, most = 0;
+  for (const Box* line : rows) {
+    int column = 0;
+    for (const Box& part : line->Parts) {
+      ControlView* view = View(*part.Shown);
+      if (IsButton(part) && part.Stretch > 0)
+        view->Widget()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+      grid->addWidget(view->Widget(), row, column, Qt::AlignVCenter);
+      grid->setColumnStretch(column, part.Stretch);
+      most = std::max(most, part.Stretch);
+      ++column;
+    }
+    ++row;
+  }
+  if (most == 0) grid->setColumnStretch(grid->columnCount(), 1);
+  into->addLayout(grid);
+}
+
+}  // namespace grapplemont::desktop

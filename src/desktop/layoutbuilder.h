@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <vector>
+
+#include "desktop/card.h"
+#include "desktop/controlview.h"
+#include "ui/layout.h"
+
+namespace grapplemont::desktop {
+
+/// Makes widgets and layouts of a screen's boxes.
+class LayoutBuilder {
+ public:
+  /// On a cover, buttons are large and stand in the middle.
+  LayoutBuilder(Stage& stage, QWidget* holder, bool cover);
+
+  /// Puts a box into a column, where it fills what room there is.
+  void Build(const ui::Box& root, QVBoxLayout* into);
+
+  /// In the order of the boxes.
+  const std::vector<ControlView*>& Views() const { return views_; }
+  /// A card is shown while one of the controls on it is.
+  struct CardContents {
+    QWidget* Sheet;
+    std::vector<ControlView*> Views;
+  };
+  const std::vector<CardContents>& Cards() const { return cards_; }
+
+ private:
+  using Run = std::vector<const ui::Box*>;
+  ControlView* View(ui::Control& control);
+  void AddAll(const std::vector<ui::Box>& boxes, QBoxLayout* into);
+  std::size_t AddRun(const std::vector<ui::Box>& boxes, std::size_t from, QBoxLayout* into);
+  void Add(const ui::Box& box, QBoxLayout* into);
+  void AddItem(const ui::Box& box, QBoxLayout* into);
+  void AddColumns(const ui::Box& box, QBoxLayout* into);
+  void AddGroup(const ui::Box& box, QBoxLayout* into);
+  void AddTabs(const ui::Box& box, QBoxLayout* into);
+  void AddForm(const Run& fields, QBoxLayout* into);
+  void AddButtons(const Run& buttons, QBoxLayout* into);
+  void AddGrid(const Run& rows, QBoxLayout* into);
+  QWidget* FieldLabel(const ui::Box& field, ControlView& view);
+
+  Stage& stage_;
+  QWidget* holder_;
+  bool cover_;
+  bool inCard_ = false;
+  std::vector<ControlView*> views_;
+  std::vector<CardContents> cards_;
+};
+
+/// Whether a box makes use of more room than it needs, upright.
+bool Grows(const ui::Box& box);
+/// The controls of a box in order.
+void CollectControls(const ui::Box& box, std::vector<ui::Control*>& controls);
+
+}  // namespace grapplemont::desktop

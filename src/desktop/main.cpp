@@ -1,0 +1,57 @@
+#include <QApplication>
+#include <QIcon>
+#include <QMessageBox>
+
+#include "desktop/letters.h"
+#include "desktop/look.h"
+#include "desktop/window.h"
+#include "program/program.h"
+#include "ui/game.h"
+
+namespace {
+
+using namespace grapplemont;
+
+int Play(QApplication& app) {
+  RealDisk disk;
+  const std::string home = FindHome(disk);
+  const QString folder = QString::fromStdString(home);
+  app.setWindowIcon(QIcon(folder + "/gfx/icon.png"));
+
+  desktop::WindowDesk desk;
+  Game game(desk, disk, {.Home = home});
+  RegisterScreens(game);
+  desktop::Window::Options options;
+  options.Pictures = folder + "/gfx";
+  options.Settings = folder + "/settings.ini";
+  options.Closing = [&] {
+    try {
+      game.CloseSlot();
+    } catch (const std::exception& fault) {
+      desk.Say("Error!", game.Explain(fault));
+    }
+  };
+  desktop::Window window(desk, options);
+  window.show();
+  desk.Event([&] { desk.Open("frmTitleScreen"); });
+  window.Sync();
+  if (desk.Empty()) return 1;
+  const int result = QApplication::exec();
+  desk.CloseAll();
+  return result;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication app(argc, argv);
+  QApplication::setApplicationName("Grapplemont");
+  QApplication::setDesktopFileName("grapplemont");
+  grapplemont::desktop::ReadDesktop();
+  try {
+    return Play(app);
+  } catch (const std::exception& fault) {
+    QMessageBox::critical(nullptr, "Grapplemont", fault.what());
+    return 1;
+  }
+}

@@ -1,0 +1,296 @@
+#include "desktop/screenview.h"
+
+#include <QPainter>
+#include <QScrollArea>
+#include <algorithm>
+
+#include "desktop/letters.h"
+#include "desktop/look.h"
+#include "desktop/palette.h"
+#include "desktop/tableview.h"
+#include "ui/acts.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+constexpr int kPageSide = 20;
+constexpr int kCoverSide = 36;
+
+bool IsBackdropFile(const std::string& file) {
+  return file == "vxm_back.jpg" || file == "vxm_title.jpg";
+}
+
+bool Contains(const std::vector<ui::Control*>& controls, const ui::Control* control) {
+  return std::find(controls.begin(), controls.end(), control) != controls.end();
+}
+
+/// A body that scrolls when the window is too low for it.
+class Scroller : public QScrollArea {
+ public:
+  explicit Scroller(QWidget* parent) : QScrollArea(parent) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    viewport()->setAutoFillBackground(false);
+  }
+  void Hold(QWidget* body) {
+    setWidget(body);
+    body->setAutoFillBackground(false);
+  }
+  QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
+}  // namespace
+
+ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget* parent)
+    : QWidget(parent), screen_(std::move(screen)), stage_(stage), page_(screen_->Layout()) {
+  setObjectName(Shown(screen_->Name()));
+  setFocusPolicy(Qt::ClickFocus);
+  const ui::Role role = screen_->Is();
+  // The pictures behind covers are dark, so what stands on them is light in both sets of colours.
+  if (role == ui::Role::Cover || role == ui::Role::Wait) setPalette(PaletteOf(DarkColours()));
+  FindBackdrop();
+  if (role == ui::Role::Wait) {
+    BuildWait();
+  } else if (role == ui::Role::Dialog) {
+    BuildDialog();
+  } else {
+    BuildPage();
+  }
+  DressPictures();
+  Refresh();
+}
+
+ControlView* ScreenView::Add(ControlView* view) {
+  views_.push_back(view);
+  return view;
+}
+
+/// The picture behind all: one that has no place of its own, else the one the screen is about.
+void ScreenView::FindBackdrop() {
+  if (screen_->Is() != ui::Role::Cover && screen_->Is() != ui::Role::Wait) return;
+  std::vector<ui::Control*> placed;
+  CollectControls(page_.Body, placed);
+  const bool wait = screen_->Is() == ui::Role::Wait;
+  for (const bool inBody : {false, true})
+    for (ui::Control* control : screen_->Controls()) {
+      auto* picture = dynamic_cast<ui::Picture*>(control);
+      if (behind_ || !picture || Contains(placed, picture) != inBody) continue;
+      if (wait || IsBackdropFile(picture->File.Get())) behind_ = picture;
+    }
+}
+
+bool ScreenView::HasTitlePicture() const {
+  return std::any_of(views_.begin(), views_.end(), [](const ControlView* view) {
+    const auto* picture = dynamic_cast<const ui::Picture*>(&view->Shows());
+    return picture && picture->File.Get() == "vxm_title.jpg";
+  });
+}
+
+void ScreenView::DressPictures() {
+  for (ControlView* view : views_) {
+    auto* picture = dynamic_cast<PictureView*>(view);
+    if (!picture) continue;
+    if (&view->Shows() == behind_) picture->SetSeeThrough();
+    else if (behind_) picture->SetFading();
+  }
+}
+
+void ScreenView::BuildPage() {
+  const bool cover = screen_->Is() == ui::Role::Cover;
+  auto* rows = new QVBoxLayout(this);
+  const int side = Px(cover ? kCoverSide : kPageSide);
+  rows->setContentsMargins(side, cover ? side : Px(18), side, cover ? side : Px(kPageSide));
+  rows->setSpacing(Px(14));
+  rows->addLayout(BuildHead(true));
+  BuildBody(rows);
+  const bool bare = cover && HasTitlePicture() && page_.Actions.empty();
+  title_->setVisible(!bare);
+  PlaceSearch();
+}
+
+void ScreenView::BuildDialog() {
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(Px(14));
+  rows->addLayout(BuildHead(false));
+  BuildBody(rows);
+  auto* foot = new QHBoxLayout;
+  foot->setSpacing(Px(12));
+  foot->addStretch(1);
+  BuildActions(foot);
+  rows->addLayout(foot);
+}
+
+void ScreenView::BuildWait() {
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(Px(28), Px(28), Px(28), Px(24));
+  rows->addStretch(1);
+  for (ui::Control* control : screen_->Controls())
+    if (control->Is() == ui::Kind::Label)
+      rows->addWidget(Add(MakeView(*control, stage_, this))->Widget(), 0, Qt::AlignHCenter);
+}
+
+/// Title and facts at the left, actions at the right.
+QLayout* ScreenView::BuildHead(bool withActions) {
+  head_ = new QHBoxLayout;
+  head_->setSpacing(Px(12));
+  auto* words = new QVBoxLayout;
+  words->setSpacing(Px(1));
+  title_ = new WrappedLabel(this);
+  title_->setObjectName("title");
+  title_->setFont(TextFont(19, QFont::DemiBold));
+  words->addWidget(title_);
+  if (page_.Facts) {
+    auto* facts = dynamic_cast<LabelView*>(Add(MakeView(*page_.Facts, stage_, this)));
+    facts->SetUsual(ui::Tone::Muted);
+    words->addWidget(facts);
+  }
+  head_->addLayout(words, 1);
+  if (withActions) BuildActions(head_);
+  return head_;
+}
+
+/// Main stands last. Main and Cancel are there even where the layout has no place for them.
+std::vector<ui::Button*> ScreenView::ActionsInOrder() const {
+  std::vector<ui::Control*> placed;
+  CollectControls(page_.Body, placed);
+  for (const auto& group : page_.Side)
+    for (const auto& command : group.Commands) placed.push_back(command.Press);
+  placed.insert(placed.end(), page_.TopActions.begin(), page_.TopActions.end());
+  std::vector<ui::Button*> actions = page_.Actions;
+  const auto has = [&](ui::Button* button) {
+    return std::find(actions.begin(), actions.end(), button) != actions.end();
+  };
+  if (page_.Cancel && !has(page_.Cancel) && !Contains(placed, page_.Cancel) &&
+      page_.Cancel != page_.Main)
+    actions.insert(actions.begin(), page_.Cancel);
+  if (page_.Main && (has(page_.Main) || !Contains(placed, page_.Main))) {
+    std::erase(actions, page_.Main);
+    actions.push_back(page_.Main);
+  }
+  return actions;
+}
+
+void ScreenView::BuildActions(QBoxLayout* into) {
+  for (ui::Button* action : ActionsInOrder())
+    into->addWidget(Add(MakeView(*action, stage_, this))->Widget(), 0, Qt::AlignBottom);
+}
+
+void ScreenView::BuildBody(QVBoxLayout* into) {
+  auto* scroller = new Scroller(this);
+  auto* body = new QWidget(scroller);
+  auto* column = new QVBoxLayout(body);
+  column->setContentsMargins(0, 0, 0, 0);
+  LayoutBuilder builder(stage_, body, screen_->Is() == ui::Role::Cover);
+  builder.Build(page_.Body, column);
+  scroller->Hold(body);
+  into->addWidget(scroller, 1);
+  views_.insert(views_.end(), builder.Views().begin(), builder.Views().end());
+  cards_ = builder.Cards();
+  for (ControlView* view : views_)
+    if (&view->Shows() == page_.Main) main_ = dynamic_cast<ButtonView*>(view);
+  if (main_) main_->SetGold(true);
+}
+
+/// The only table of a page has its search line beside the page's title.
+void ScreenView::PlaceSearch() {
+  if (screen_->Is() != ui::Role::Page) return;
+  TableView* only = nullptr;
+  for (ControlView* view : views_)
+    if (auto* table = dynamic_cast<TableView*>(view)) {
+      if (only) return;
+      only = table;
+    }
+  if (only) head_->insertWidget(1, only->TakeSearchRow(), 0, Qt::AlignBottom);
+}
+
+QSize ScreenView::DialogSize() const {
+  return Grows(page_.Body) ? QSize(800, 560) : QSize();
+}
+
+void ScreenView::Refresh() {
+  if (seen_ != screen_->Revision()) {
+    seen_ = screen_->Revision();
+    if (title_) title_->setText(Shown(screen_->Title.Get()));
+  }
+  if (behind_) {
+    const QString file = behind_->File->empty() ? QString() : stage_.PictureFile(behind_->File.Get());
+    if (file != backdrop_.File()) {
+      backdrop_.SetFile(file);
+      update();
+    }
+  }
+  for (ControlView* view : views_) view->Refresh();
+  for (const auto& card : cards_)
+    card.Sheet->setVisible(card.Views.empty() ||
+                           std::any_of(card.Views.begin(), card.Views.end(), [](auto* view) {
+                             return view->Shows().Visible.Get();
+                           }));
+}
+
+void ScreenView::Leave() {
+  for (ControlView* view : views_) view->Leave();
+}
+
+void ScreenView::SetOnTop(bool onTop) {
+  if (main_) main_->SetEnter(onTop && page_.Main->Enabled);
+}
+
+void ScreenView::RememberKeyboard() {
+  QWidget* focus = window()->focusWidget();
+  if (focus && isAncestorOf(focus)) keyboard_ = focus;
+}
+
+void ScreenView::TakeKeyboard() {
+  if (keyboard_ && keyboard_->isEnabled() && keyboard_->isVisibleTo(this))
+    return keyboard_->setFocus(Qt::OtherFocusReason);
+  if (screen_->Is() != ui::Role::Hub)
+    for (ControlView* view : views_) {
+      const ui::Kind kind = view->Shows().Is();
+      const bool begins = kind == ui::Kind::TextBox || kind == ui::Kind::ListBox;
+      if (begins && view->Shows().Enabled && view->FocusTarget()->isVisibleTo(this))
+        return view->FocusTarget()->setFocus(Qt::OtherFocusReason);
+    }
+  setFocus(Qt::OtherFocusReason);
+}
+
+bool ScreenView::Press(ui::Button* button) {
+  if (!button || !button->Enabled || !button->Visible) return false;
+  stage_.Act([&] { return ui::Click(stage_.Desk(), *screen_, button->Name()); });
+  return true;
+}
+
+bool ScreenView::HandleKey(int key) {
+  if (key == Qt::Key_Return || key == Qt::Key_Enter) return Press(page_.Main);
+  return key == Qt::Key_Escape && Press(page_.Cancel);
+}
+
+bool ScreenView::FocusSearch() {
+  return std::any_of(views_.begin(), views_.end(), [](ControlView* view) {
+    auto* table = dynamic_cast<TableView*>(view);
+    return table && table->isVisible() && table->FocusSearch();
+  });
+}
+
+void ScreenView::paintEvent(QPaintEvent*) {
+  const ui::Role role = screen_->Is();
+  if (role != ui::Role::Cover && role != ui::Role::Wait) return;
+  QPainter painter(this);
+  const Colours& c = ColoursOf(this);
+  painter.fillRect(rect(), c.Ground);
+  backdrop_.Paint(painter, *this);
+  if (role == ui::Role::Wait || !title_->isHidden()) {
+    // Words stand on the picture: it steps back, at the bottom alone while one waits.
+    QLinearGradient veil(0, 0, 0, height());
+    QColor shade = c.Ground;
+    shade.setAlphaF(role == ui::Role::Wait ? 0.F : 0.45F);
+    veil.setColorAt(role == ui::Role::Wait ? 0.75 : 0, shade);
+    shade.setAlphaF(role == ui::Role::Wait ? 0.85F : 0.55F);
+    veil.setColorAt(1, shade);
+    painter.fillRect(rect(), veil);
+  }
+}
+
+}  // namespace grapplemont::desktop

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QLabel>
+#include <QPointer>
+#include <QVBoxLayout>
+#include <memory>
+
+#include "desktop/buttonview.h"
+#include "desktop/labelview.h"
+#include "desktop/layoutbuilder.h"
+#include "desktop/pictureview.h"
+#include "ui/screen.h"
+
+namespace grapplemont::desktop {
+
+class TableView;
+
+/// A screen with its title, facts, actions and body. Its layout is built once; afterwards only what
+/// has changed is brought up to date. It keeps the screen alive until it goes itself.
+class ScreenView : public QWidget {
+ public:
+  ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget* parent);
+
+  ui::Screen& Shows() const { return *screen_; }
+  const ui::Page& Page() const { return page_; }
+  void Refresh();
+  /// Remembers what is to be remembered; the view is taken away next.
+  void Leave();
+  /// Whether the screen has the player's attention; then its main button bears the Enter sign.
+  void SetOnTop(bool onTop);
+  /// Gives the keyboard to what had it last here, else to where one begins.
+  void TakeKeyboard();
+  void RememberKeyboard();
+  /// Enter and Escape; true when the key meant something.
+  bool HandleKey(int key);
+  bool FocusSearch();
+  /// How large a dialog wants to be, in drawn pixels; invalid: as its contents are.
+  QSize DialogSize() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void BuildPage();
+  void BuildDialog();
+  void BuildWait();
+  QLayout* BuildHead(bool withActions);
+  void BuildBody(QVBoxLayout* into);
+  void BuildActions(QBoxLayout* into);
+  std::vector<ui::Button*> ActionsInOrder() const;
+  void FindBackdrop();
+  void DressPictures();
+  void PlaceSearch();
+  bool HasTitlePicture() const;
+  ControlView* Add(ControlView* view);
+  bool Press(ui::Button* button);
+
+  std::shared_ptr<ui::Screen> screen_;
+  Stage& stage_;
+  ui::Page page_;
+  std::vector<ControlView*> views_;
+  std::vector<LayoutBuilder::CardContents> cards_;
+  QLabel* title_ = nullptr;
+  QBoxLayout* head_ = nullptr;
+  ButtonView* main_ = nullptr;
+  unsigned seen_ = 0;
+  Backdrop backdrop_;
+  ui::Picture* behind_ = nullptr;
+  QPointer<QWidget> keyboard_;
+};
+
+}  // namespace grapplemont::desktop

@@ -1,0 +1,234 @@
+#include "desktop/sidebar.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollArea>
+#include <algorithm>
+
+#include "desktop/button.h"
+#include "desktop/housestyle.h"
+#include "desktop/labelview.h"
+#include "desktop/letters.h"
+#include "desktop/look.h"
+#include "desktop/palette.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+constexpr int kWidth = 188;
+constexpr int kLine = 26, kLeastLine = 21, kHeading = 29, kLeastHeading = 22;
+constexpr int kSide = 16;
+
+class Heading : public QWidget {
+ public:
+  Heading(QWidget* parent, const QString& title) : QWidget(parent), title_(title.toUpper()) {}
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    QFont font = TextFont(10.5);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, 0.8);
+    painter.setFont(font);
+    painter.setPen(ColoursOf(this).Muted);
+    painter.drawText(rect().adjusted(Px(kSide), 0, 0, -Px(6)), Qt::AlignBottom, title_);
+  }
+
+ private:
+  QString title_;
+};
+
+/// The name of the game, which leads home.
+class Logo : public QAbstractButton {
+ public:
+  explicit Logo(QWidget* parent) : QAbstractButton(parent) {
+    setText("GRAPPLEMONT");
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::NoFocus);
+    setFixedHeight(Px(48));
+    setToolTip("Back to the desk");
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    QFont font = TextFont(16, QFont::Bold);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, 0.6);
+    painter.setFont(font);
+    painter.setPen(ColoursOf(this).Gold);
+    painter.drawText(rect().adjusted(Px(kSide), 0, 0, 0), Qt::AlignVCenter, text());
+  }
+};
+
+}  // namespace
+
+SideLine::SideLine(QWidget* parent, const QString& caption, const QString& key)
+    : QAbstractButton(parent), key_(key) {
+  setText(caption);
+  setFocusPolicy(Qt::TabFocus);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void SideLine::SetBadge(const QString& badge) {
+  badge_ = badge;
+  update();
+}
+
+void SideLine::SetNow(bool now) {
+  if (now_ == now) return;
+  now_ = now;
+  update();
+}
+
+QSize SideLine::sizeHint() const {
+  return {Px(kWidth), Px(kLine)};
+}
+
+void SideLine::paintEvent(QPaintEvent*) {
+  const Colours& c = ColoursOf(this);
+  QPainter painter(this);
+  if (now_) {
+    painter.fillRect(rect(), c.Now);
+    painter.fillRect(0, 0, Px(3), height(), c.GoldFill);
+  } else if (isEnabled() && underMouse()) {
+    painter.fillRect(rect(), c.Now);
+  }
+  const QRect room = rect().adjusted(Px(kSide), 0, -Px(kSide), 0);
+  painter.setFont(TextFont(quiet_ ? 12 : 13));
+  painter.setPen(!isEnabled() ? c.Faint : now_ ? c.Text : quiet_ ? c.Muted : c.Soft);
+  painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft, text());
+  if (!badge_.isEmpty()) {
+    const int width = BadgeWidthFor(badge_);
+    DrawBadge(painter,
+              QRectF(room.right() + 1 - width, (height() - Px(17)) / 2.0, width, Px(17)), badge_,
+              this);
+  } else if (!key_.isEmpty()) {
+    painter.setFont(TextFont(11));
+    painter.setPen(isEnabled() ? c.Muted : c.Faint);
+    painter.drawText(room, Qt::AlignVCenter | Qt::AlignRight, key_);
+  }
+  if (hasFocus()) DrawFocus(painter, rect().adjusted(2, 1, -2, -1), Px(4), palette());
+}
+
+void SideLine::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && !event->isAutoRepeat()) return click();
+  QAbstractButton::keyPressEvent(event);
+}
+
+void SideLine::enterEvent(QEnterEvent*) {
+  update();
+}
+
+void SideLine::leaveEvent(QEvent*) {
+  update();
+}
+
+class SideBar::Command : public SideLine, public ControlView {
+ public:
+  Command(ui::Button& button, const QString& key, Stage& stage, QWidget* parent)
+      : SideLine(parent, {}, key), ControlView(button, stage), button_(button) {
+    setObjectName(Shown(button.Name()));
+  }
+  QWidget* Widget() override { return this; }
+  ui::Button& Presses() const { return button_; }
+
+ protected:
+  void Show() override {
+    setText(Shown(button_.Text.Get()));
+    SetBadge(Shown(button_.Badge.Get()));
+  }
+
+ private:
+  ui::Button& button_;
+};
+
+SideBar::SideBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(parent) {
+  setFixedWidth(Px(kWidth));
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 1, Px(12));
+  rows->setSpacing(0);
+  auto* logo = new Logo(this);
+  connect(logo, &QAbstractButton::clicked, this, [this] { Home(); });
+  rows->addWidget(logo);
+
+  auto* scroller = new QScrollArea(this);
+  scroller->setFrameShape(QFrame::NoFrame);
+  scroller->setWidgetResizable(true);
+  scroller->setFocusPolicy(Qt::NoFocus);
+  scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroller->viewport()->setAutoFillBackground(false);
+  middle_ = new QWidget;
+  auto* lines = new QVBoxLayout(middle_);
+  lines->setContentsMargins(0, 0, 0, 0);
+  lines->setSpacing(0);
+  for (const ui::SideGroup& group : page.Side) {
+    if (group.Title.empty()) continue;
+    headings_.push_back(new Heading(middle_, Shown(group.Title)));
+    lines->addWidget(headings_.back());
+    for (const auto& command : group.Commands) AddCommand(command, stage, middle_, lines);
+  }
+  lines->addStretch(1);
+  scroller->setWidget(middle_);
+  middle_->setAutoFillBackground(false);
+  rows->addWidget(scroller, 1);
+
+  auto* search = new SideLine(this, "Search everything", "Ctrl K");
+  search->SetQuiet();
+  search->setObjectName("searcheverything");
+  connect(search, &QAbstractButton::clicked, this, [this] { Search(); });
+  rows->addSpacing(Px(8));
+  rows->addWidget(search);
+  for (const ui::SideGroup& group : page.Side)
+    if (group.Title.empty())
+      for (const auto& command : group.Commands) AddCommand(command, stage, this, rows);
+}
+
+void SideBar::AddCommand(const ui::SideGroup::Command& command, Stage& stage, QWidget* holder,
+                         QVBoxLayout* into) {
+  auto* line = new Command(*command.Press, Shown(command.Key), stage, holder);
+  connect(line, &QAbstractButton::clicked, this, [this, line] { Pressed(line->Presses()); });
+  commands_.push_back(line);
+  into->addWidget(line);
+}
+
+void SideBar::Refresh() {
+  for (Command* command : commands_) command->Refresh();
+}
+
+void SideBar::SetNow(const ui::Button* present) {
+  for (Command* command : commands_) command->SetNow(&command->Presses() == present);
+}
+
+/// In a low window the lines move closer together before anything has to scroll.
+void SideBar::FitLines() {
+  const int lines = static_cast<int>(std::count_if(
+      commands_.begin(), commands_.end(),
+      [this](const Command* command) { return command->parentWidget() == middle_; }));
+  const int headings = static_cast<int>(headings_.size());
+  const int room = height() - Px(48) - Px(12) - Px(8) -
+                   Px(kLine) * (static_cast<int>(commands_.size()) - lines + 1);
+  const int wanted = lines * Px(kLine) + headings * Px(kHeading);
+  const double fit = std::min(1.0, static_cast<double>(room) / std::max(1, wanted));
+  const auto height = [fit](int usual, int least) {
+    return std::max(Px(least), static_cast<int>(Px(usual) * fit));
+  };
+  for (Command* command : commands_)
+    command->setFixedHeight(command->parentWidget() == middle_ ? height(kLine, kLeastLine)
+                                                               : Px(kLine));
+  for (QWidget* heading : headings_) heading->setFixedHeight(height(kHeading, kLeastHeading));
+}
+
+void SideBar::resizeEvent(QResizeEvent*) {
+  FitLines();
+}
+
+void SideBar::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const Colours& c = ColoursOf(this);
+  painter.fillRect(rect(), c.Side);
+  painter.fillRect(width() - 1, 0, 1, height(), c.Line);
+}
+
+}  // namespace grapplemont::desktop

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QVBoxLayout>
+#include <functional>
+
+#include "desktop/controlview.h"
+#include "ui/layout.h"
+
+namespace grapplemont::desktop {
+
+/// A line of the side bar: a caption, a key, a spot.
+class SideLine : public QAbstractButton {
+ public:
+  SideLine(QWidget* parent, const QString& caption, const QString& key);
+  void SetBadge(const QString& badge);
+  void SetNow(bool now);
+  void SetQuiet() { quiet_ = true; }
+  bool IsNow() const { return now_; }
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  QString key_, badge_;
+  bool now_ = false, quiet_ = false;
+};
+
+/// The hub's commands in their groups. What has no group's title stands at the bottom.
+class SideBar : public QWidget {
+ public:
+  SideBar(const ui::Page& page, Stage& stage, QWidget* parent);
+
+  std::function<void(ui::Button& command)> Pressed;
+  std::function<void()> Search, Home;
+  void Refresh();
+  /// The command whose page is open; none: nullptr.
+  void SetNow(const ui::Button* command);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  class Command;
+  void AddCommand(const ui::SideGroup::Command& command, Stage& stage, QWidget* holder,
+                  QVBoxLayout* into);
+  void FitLines();
+
+  std::vector<Command*> commands_;
+  std::vector<QWidget*> headings_;
+  QWidget* middle_;
+};
+
+}  // namespace grapplemont::desktop

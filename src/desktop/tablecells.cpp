@@ -1,0 +1,145 @@
+#include "desktop/tablecells.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "desktop/housestyle.h"
+#include "desktop/letters.h"
+#include "desktop/look.h"
+#include "desktop/palette.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+using ui::ColumnKind;
+
+constexpr int kBarWidth = 56, kBarHeight = 6;
+constexpr int kTagHeight = 19, kTagSide = 6;
+
+bool IsFigure(const std::string& text) {
+  return !text.empty() && text.find_first_not_of("0123456789.%-") == text.npos &&
+         text.find_first_of("0123456789") != text.npos;
+}
+
+/// A word in a bar's column, such as an injury, is framed like a tag.
+bool IsTag(const ui::Cell& cell, ColumnKind kind) {
+  if (cell.Text.empty()) return false;
+  return kind == ColumnKind::Tag || (kind == ColumnKind::Percent && !IsFigure(cell.Text));
+}
+
+QFont TagFont() {
+  return TextFont(11);
+}
+
+void DrawTag(QPainter& painter, const QRect& room, const ui::Cell& cell, const Colours& c) {
+  const QFontMetrics metrics(TagFont());
+  const QString words =
+      metrics.elidedText(Shown(cell.Text), Qt::ElideRight, room.width() - 2 * Px(kTagSide));
+  const int width = metrics.horizontalAdvance(words) + 2 * Px(kTagSide);
+  const QRectF box(room.left(), room.center().y() - Px(kTagHeight) / 2.0 + 1, width,
+                   Px(kTagHeight));
+  const ui::Tone tone = cell.Colour;
+  DrawBox(painter, box, QColor(), EdgeColour(c, tone), Px(4));
+  painter.setFont(TagFont());
+  painter.setPen(tone == ui::Tone::Plain ? c.Soft : TextColour(c, tone));
+  painter.drawText(box, Qt::AlignCenter, words);
+}
+
+void DrawBar(QPainter& painter, const QRect& room, const ui::Cell& cell, const Colours& c) {
+  const double height = Px(kBarHeight);
+  const QRectF track(room.left(), room.center().y() + 1 - height / 2, Px(kBarWidth), height);
+  DrawBox(painter, track, c.Track, QColor(), height / 2);
+  QRectF bar = track;
+  bar.setWidth(std::max(height, track.width() * std::clamp(cell.Number, 0.0, 100.0) / 100));
+  if (cell.Number > 0) DrawBox(painter, bar, PercentColour(c, cell.Number), QColor(), height / 2);
+  painter.setPen(TextColour(c, cell.Colour));
+  const int from = static_cast<int>(track.right()) + Px(8);
+  DrawFigures(painter, QRectF(from, room.top(), room.right() + 1 - from, room.height()),
+              Qt::AlignLeft, Shown(cell.Text));
+}
+
+}  // namespace
+
+bool AlignsRight(ColumnKind kind) {
+  return kind == ColumnKind::Number;
+}
+
+int CellWidth(const ui::Cell& cell, ColumnKind kind) {
+  const int sides = 2 * Px(kCellSide);
+  const QString text = Shown(cell.Text);
+  if (IsTag(cell, kind))
+    return QFontMetrics(TagFont()).horizontalAdvance(text) + 2 * Px(kTagSide) + sides;
+  const QFontMetrics metrics(TextFont());
+  if (kind == ColumnKind::Percent)
+    return Px(kBarWidth) + Px(8) + FiguresWidth(metrics, text) + sides;
+  if (kind == ColumnKind::Number || kind == ColumnKind::Date)
+    return FiguresWidth(metrics, text) + sides;
+  return metrics.horizontalAdvance(text) + sides + 1;
+}
+
+/// What opens is shown as a link: the first words of its row.
+bool TableCells::IsLink(const QModelIndex& index) const {
+  if (!model_.List().OnOpen) return false;
+  for (const int column : model_.Table().Columns())
+    if (model_.List().Columns()[static_cast<std::size_t>(column)].Kind == ColumnKind::Text)
+      return column == index.column();
+  return false;
+}
+
+void TableCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                       const QModelIndex& index) const {
+  const Colours& c = ColoursOf(option.palette);
+  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+  const auto& row = model_.Table().RowAt(index.row());
+  if (row.Selected) {
+    painter->fillRect(option.rect, c.Chosen);
+  } else if (index.row() == hover_ && enabled) {
+    painter->fillRect(option.rect, c.Field);
+  }
+  painter->fillRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1, c.RowLine);
+
+  const ui::Cell& cell = model_.Table().At(index.row(), index.column());
+  const ColumnKind kind = model_.List().Columns()[static_cast<std::size_t>(index.column())].Kind;
+  const QRect room = option.rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
+  painter->save();
+  painter->setFont(TextFont());
+  if (IsTag(cell, kind)) {
+    DrawTag(*painter, room, cell, c);
+  } else if (kind == ColumnKind::Percent && !cell.Text.empty()) {
+    DrawBar(*painter, room, cell, c);
+  } else {
+    const bool link = cell.Colour == ui::Tone::Plain && IsLink(index);
+    painter->setPen(!enabled ? c.Faint : link ? c.Blue : TextColour(c, cell.Colour));
+    const QString text = painter->fontMetrics().elidedText(Shown(cell.Text), Qt::ElideRight,
+                                                           room.width() + 1);
+    if (kind == ColumnKind::Number || kind == ColumnKind::Date) {
+      DrawFigures(*painter, room, AlignsRight(kind) ? Qt::AlignRight : Qt::AlignLeft, text);
+    } else {
+      painter->drawText(room, Qt::AlignVCenter | Qt::AlignLeft, text);
+    }
+  }
+  painter->restore();
+}
+
+QSize TableCells::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
+  const ColumnKind kind = model_.List().Columns()[static_cast<std::size_t>(index.column())].Kind;
+  return {CellWidth(model_.Table().At(index.row(), index.column()), kind), Px(kRowHeight)};
+}
+
+/// A text that is cut is told whole.
+bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                           const QStyleOptionViewItem& option, const QModelIndex& index) {
+  if (!index.isValid() || event->type() != QEvent::ToolTip) return false;
+  if (sizeHint(option, index).width() <= option.rect.width() + 2) {
+    QToolTip::hideText();
+    return true;
+  }
+  const QString text = Shown(model_.Table().At(index.row(), index.column()).Text);
+  QToolTip::showText(event->globalPos(), "<p>" + text.toHtmlEscaped() + "</p>", view);
+  return true;
+}
+
+}  // namespace grapplemont::desktop

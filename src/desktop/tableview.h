@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QMenu>
+
+#include "desktop/controlview.h"
+#include "desktop/tablegrid.h"
+
+namespace grapplemont::desktop {
+
+class PushButton;
+
+/// A ListBox: the grid, a search line above it once it is worth one, and the menus that filter and
+/// choose columns.
+class TableView : public QWidget, public ControlView {
+ public:
+  TableView(ui::ListBox& list, Stage& stage, QWidget* parent);
+  QWidget* Widget() override { return this; }
+  QWidget* FocusTarget() override { return grid_; }
+  void Leave() override;
+  /// The search line's row, for a page that has a better place for it.
+  QWidget* TakeSearchRow();
+  /// Puts the keyboard into the search line if it is there.
+  bool FocusSearch();
+
+ protected:
+  void Show() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QString Name() const;
+  void BuildSearchRow();
+  void Connect();
+  void Act(int shownRow, bool open);
+  /// Shows the rows anew; the cursor stays on its row.
+  void Rearrange();
+  void ShowSearchRow();
+  void ShowSelection();
+  void FitColumns();
+  std::vector<int> NaturalWidths() const;
+  void ApplyColumns();
+  void TakeOrder();
+  void RestorePlace();
+  void Remember();
+  void CopyCsv() const;
+
+  // Menus, in tablemenu.cpp.
+  void OpenHeadingMenu(const QPoint& at);
+  void OpenColumnsMenu(const QPoint& globally);
+  void AddColumnChoices(QMenu& menu);
+  void AddFilterLine(QMenu& menu, int column);
+  void MoveColumn(int column, int by);
+
+  ui::ListBox& list_;
+  std::string id_;
+  ui::Table table_;
+  TableModel model_;
+  TableGrid* grid_;
+  QWidget* searchRow_;
+  QLineEdit* search_;
+  QWidget* count_;
+  PushButton* columns_;
+  bool arranging_ = false;
+  int currentKey_ = 0;
+};
+
+}  // namespace grapplemont::desktop

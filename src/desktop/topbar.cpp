@@ -1,0 +1,134 @@
+#include "desktop/topbar.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include "desktop/labelview.h"
+#include "desktop/letters.h"
+#include "desktop/look.h"
+#include "desktop/palette.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+/// A label of the bar. Its weight tells what matters: "Image **62%**", "**The promotion** · Cult".
+class TopLabel : public QWidget, public ControlView {
+ public:
+  TopLabel(ui::Label& label, bool first, Stage& stage, QWidget* parent)
+      : QWidget(parent), ControlView(label, stage), label_(label), first_(first) {
+    setObjectName(Shown(label.Name()));
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+  }
+  QWidget* Widget() override { return this; }
+
+  QSize sizeHint() const override {
+    int width = 0;
+    for (const Piece& piece : pieces_)
+      width += QFontMetrics(FontOf(piece)).horizontalAdvance(piece.Words);
+    return {width + 2, Px(32)};
+  }
+  QSize minimumSizeHint() const override {
+    const QSize whole = sizeHint();
+    return {std::min(whole.width(), first_ ? whole.width() : Px(72)), whole.height()};
+  }
+
+ protected:
+  void Show() override {
+    TakeApart(Shown(label_.Text.Get()));
+    if (label_.Trend != 0)
+      pieces_.push_back({label_.Trend > 0 ? QStringLiteral(" \u25B2") : QStringLiteral(" \u25BC"),
+                         false});
+    updateGeometry();
+    update();
+  }
+
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const Colours& c = ColoursOf(this);
+    int x = 0;
+    for (const Piece& piece : pieces_) {
+      const QFontMetrics metrics(FontOf(piece));
+      const QString words = metrics.elidedText(piece.Words, Qt::ElideRight, width() - x);
+      painter.setFont(FontOf(piece));
+      painter.setPen(piece.Matters ? TextColour(c, label_.Colour.Get()) : c.Muted);
+      painter.drawText(QRect(x, 0, width() - x, height()), Qt::AlignVCenter, words);
+      x += metrics.horizontalAdvance(words);
+    }
+  }
+
+ private:
+  struct Piece {
+    QString Words;
+    bool Matters;
+  };
+
+  QFont FontOf(const Piece& piece) const {
+    if (first_) return TextFont(15, QFont::DemiBold);
+    return TextFont(13, piece.Matters ? QFont::DemiBold : QFont::Normal);
+  }
+
+  /// Parts what matters from what it is called.
+  void TakeApart(const QString& text) {
+    pieces_.clear();
+    const auto bracket = text.lastIndexOf(" (");
+    const auto blank = text.lastIndexOf(' ');
+    if (first_) {
+      pieces_ = {{text, true}};
+    } else if (bracket > 0 && text.endsWith(')')) {
+      pieces_ = {{text.left(bracket), true},
+                 {QStringLiteral(" \u00B7 ") + text.mid(bracket + 2).chopped(1), false}};
+    } else if (blank > 0 && blank + 1 < text.size() &&
+               (text[blank + 1].isDigit() || text[blank + 1] == '$' || text[blank + 1] == '-')) {
+      pieces_ = {{text.left(blank + 1), false}, {text.mid(blank + 1), true}};
+    } else {
+      pieces_ = {{text, true}};
+    }
+  }
+
+  ui::Label& label_;
+  bool first_;
+  std::vector<Piece> pieces_;
+};
+
+}  // namespace
+
+TopBar::TopBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(parent) {
+  setFixedHeight(Px(52));
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(Px(20), 0, Px(20), 1);
+  row->setSpacing(Px(18));
+  for (ui::Label* label : page.Top) {
+    auto* view = new TopLabel(*label, views_.empty(), stage, this);
+    views_.push_back(view);
+    row->addWidget(view);
+  }
+  row->addStretch(1);
+  for (ui::Button* action : page.TopActions) {
+    auto* view = dynamic_cast<ButtonView*>(MakeView(*action, stage, this));
+    view->Pressed = [this, action] { Pressed(*action); };
+    views_.push_back(view);
+    row->addWidget(view);
+    if (action == page.Main) {
+      main_ = view;
+      view->SetGold(true);
+    }
+  }
+}
+
+void TopBar::Refresh() {
+  for (ControlView* view : views_) view->Refresh();
+}
+
+void TopBar::SetEnter(bool enter) {
+  if (main_) main_->SetEnter(enter && main_->isEnabled());
+}
+
+void TopBar::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const Colours& c = ColoursOf(this);
+  painter.fillRect(rect(), c.Bar);
+  painter.fillRect(0, height() - 1, width(), 1, c.Line);
+}
+
+}  // namespace grapplemont::desktop

@@ -1,0 +1,334 @@
+#include "desktop/window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QTimer>
+#include <algorithm>
+
+#include "desktop/letters.h"
+#include "desktop/look.h"
+#include "desktop/palette.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+constexpr QSize kUsualSize(1280, 800), kLeastSize(1024, 640);
+/// A waiting screen is shown only to those who wait: a plain day is over before.
+constexpr qint64 kPatience = 200;   // milliseconds
+constexpr qint64 kFrame = 33;       // between two pictures of a long event
+constexpr int kHintTime = 6000;
+
+bool Fills(ui::Role role) {
+  return role != ui::Role::Dialog;
+}
+
+}  // namespace
+
+Window::Window(WindowDesk& desk, Options options)
+    : desk_(desk),
+      options_(std::move(options)),
+      settings_(options_.Settings),
+      ground_(new QWidget(this)),
+      full_(new QStackedLayout(ground_)) {
+  desk_.window_ = this;
+  ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
+  setWindowTitle("Grapplemont");
+  setCentralWidget(ground_);
+  setMinimumSize(kLeastSize);
+  resize(kUsualSize);
+  if (const QByteArray place = settings_.Place(); !place.isEmpty()) restoreGeometry(place);
+  qApp->installEventFilter(this);
+}
+
+Window::~Window() {
+  qApp->removeEventFilter(this);
+  desk_.window_ = nullptr;
+}
+
+QString Window::PictureFile(const std::string& name) const {
+  return options_.Pictures + "/" + Shown(name);
+}
+
+bool Window::IsPatient(const ui::Screen& screen) const {
+  if (waitsFor_ != &screen) {
+    waitsFor_ = &screen;
+    waiting_.start();
+  }
+  return waiting_.elapsed() < kPatience;
+}
+
+Window::Scene Window::Survey() const {
+  Scene scene;
+  const auto& screens = desk_.Screens();
+  const int count = static_cast<int>(screens.size());
+  const ui::Screen* waiting = nullptr;
+  for (int place = 0; place < count; ++place) {
+    const ui::Screen& screen = *screens[static_cast<std::size_t>(place)];
+    const ui::Role role = screen.Is();
+    if (role == ui::Role::Wait) {
+      waiting = &screen;
+      if (IsPatient(screen)) continue;
+    }
+    if (Fills(role)) {
+      scene.Base = place;
+      scene.Dialogs.clear();
+      if (role == ui::Role::Hub) scene.Hub = place;
+    } else {
+      scene.Dialogs.push_back(place);
+    }
+  }
+  if (!waiting) waitsFor_ = nullptr;
+  return scene;
+}
+
+void Window::DropGone() {
+  for (Layer& layer : layers_) {
+    const bool held = std::any_of(desk_.Screens().begin(), desk_.Screens().end(),
+                                  [&](const auto& screen) { return screen.get() == layer.Screen; });
+    if (!held) Retire(layer);
+  }
+  std::erase_if(layers_, [](const Layer& layer) { return !layer.View; });
+}
+
+/// Takes a view away. It is deleted once control is back in the event loop: the event that has
+/// closed it may have come from one of its widgets.
+void Window::Retire(Layer& layer) {
+  if (!layer.View) return;
+  layer.View->Leave();
+  if (frame_ && layer.Screen == framed_) {
+    // What lies in the frame goes with it.
+    HubFrame* const frame = std::exchange(frame_, nullptr);
+    framed_ = nullptr;
+    for (Layer& other : layers_)
+      if (other.View && other.View != layer.View && frame->isAncestorOf(other.View)) {
+        other.View->Leave();
+        other.View = nullptr;
+      }
+    frame->hide();
+    frame->deleteLater();
+  } else {
+    QWidget* const widget =
+        layer.Over ? static_cast<QWidget*>(layer.Over.data()) : static_cast<QWidget*>(layer.View);
+    widget->hide();
+    widget->deleteLater();
+  }
+  layer.View = nullptr;
+}
+
+void Window::RetireAll() {
+  for (Layer& layer : layers_) Retire(layer);
+  layers_.clear();
+  top_ = nullptr;
+}
+
+Window::Layer& Window::LayerOf(int place, const Scene& scene) {
+  const auto& screen = desk_.Screens()[static_cast<std::size_t>(place)];
+  for (Layer& layer : layers_)
+    if (layer.Screen == screen.get()) return layer;
+  Layer layer{screen.get(), nullptr, nullptr};
+  if (screen->Is() == ui::Role::Dialog) {
+    layer.Over = new Veil(ground_);
+    auto* inside = new QVBoxLayout(&layer.Over->Sheet());
+    inside->setContentsMargins(Px(20), Px(18), Px(20), Px(18));
+    layer.View = new ScreenView(screen, *this, &layer.Over->Sheet());
+    inside->addWidget(layer.View);
+    layer.View->setMinimumWidth(Px(380));
+    layer.Over->SetWanted(layer.View->DialogSize());
+  } else {
+    layer.View = new ScreenView(screen, *this, ground_);
+    Place(*layer.View, scene);
+  }
+  layers_.push_back(layer);
+  return layers_.back();
+}
+
+/// Puts a page into the room beside the side bar, all else over the whole window.
+void Window::Place(ScreenView& view, const Scene& scene) {
+  const ui::Role role = view.Shows().Is();
+  if (role == ui::Role::Hub) {
+    FrameOf(scene.Hub).Room().addWidget(&view);
+  } else if (role == ui::Role::Page && scene.Hub >= 0) {
+    LayerOf(scene.Hub, scene);  // the frame comes with the hub
+    FrameOf(scene.Hub).Room().addWidget(&view);
+  } else {
+    full_->addWidget(&view);
+  }
+}
+
+HubFrame& Window::FrameOf(int hub) {
+  ui::Screen* const screen = desk_.Screens()[static_cast<std::size_t>(hub)].get();
+  if (frame_ && framed_ == screen) return *frame_;
+  frame_ = new HubFrame(screen->Layout(), *this, ground_);
+  framed_ = screen;
+  frame_->Side().Pressed = [this](ui::Button& command) { PressHub(command); };
+  frame_->Side().Search = [this] { OpenFinder(); };
+  frame_->Side().Home = [this] {
+    if (framed_) LeaveUpTo(*framed_);
+  };
+  frame_->Top().Pressed = [this](ui::Button& action) { PressHub(action); };
+  full_->addWidget(frame_);
+  return *frame_;
+}
+
+void Window::Sync() {
+  if (syncing_) return;
+  syncing_ = true;
+  if (ScreenView* top = TopView()) top->RememberKeyboard();
+  DropGone();
+  const Scene scene = Survey();
+  if (scene.Base >= 0) ShowNow(scene);
+  syncing_ = false;
+}
+
+void Window::ShowNow(const Scene& scene) {
+  ScreenView* const base = LayerOf(scene.Base, scene).View;
+  const bool framed = frame_ && frame_->isAncestorOf(base);
+  if (framed) {
+    frame_->Room().setCurrentWidget(base);
+    frame_->Refresh();
+    frame_->Side().SetNow(CommandOf(scene));
+  }
+  base->Refresh();
+  full_->setCurrentWidget(framed ? static_cast<QWidget*>(frame_) : base);
+  ScreenView* top = base;
+  for (const int place : scene.Dialogs) {
+    Layer& layer = LayerOf(place, scene);
+    layer.View->Refresh();
+    layer.Over->PlaceCard();
+    layer.Over->show();
+    layer.Over->raise();
+    top = layer.View;
+  }
+  for (const Layer& layer : layers_)
+    if (layer.View && layer.View != top) layer.View->SetOnTop(false);
+  const bool hubOnTop = scene.Dialogs.empty() && scene.Base == scene.Hub;
+  if (framed) frame_->Top().SetEnter(hubOnTop);
+  top->SetOnTop(true);
+  if (box_) box_->raise();
+  if (top_ == &top->Shows()) return;
+  top_ = &top->Shows();
+  if (!box_) top->TakeKeyboard();
+}
+
+/// The view of the desk's top screen, if it has been shown.
+ScreenView* Window::TopView() const {
+  for (const Layer& layer : layers_)
+    if (layer.View && layer.Screen == top_) return layer.View;
+  return nullptr;
+}
+
+void Window::Act(const std::function<std::string()>& act) {
+  if (acting_ > 0 || syncing_) return;
+  ++acting_;
+  const std::string why = act();
+  --acting_;
+  Sync();
+  if (!why.empty()) Hint(*this, Shown(why));
+  AfterEvent();
+}
+
+/// The program ends when nothing lies on the desk any more, or when the window was to be closed
+/// amid an event.
+void Window::AfterEvent() {
+  if (!desk_.Empty() && !closing_) return;
+  QTimer::singleShot(0, this, [this] { close(); });
+}
+
+std::optional<int> Window::RunBox(MessageBox& box) {
+  const QPointer<QWidget> focus = focusWidget();
+  const QPointer<MessageBox> before = box_;
+  const bool busy = std::exchange(busy_, false);
+  box_ = &box;
+  const auto answer = box.Run();
+  box_ = before;
+  busy_ = busy;
+  if (focus && focus->isVisible()) focus->setFocus(Qt::OtherFocusReason);
+  return answer;
+}
+
+void Window::Say(const std::string& title, const std::string& text) {
+  if (closing_) return;
+  Sync();
+  MessageBox box(ground_, Shown(title), Shown(text));
+  box.AddButton("OK", 1, true);
+  RunBox(box);
+}
+
+bool Window::Ask(const std::string& title, const std::string& text, ui::Default answer) {
+  if (closing_) return false;
+  Sync();
+  MessageBox box(ground_, Shown(title), Shown(text));
+  const bool yes = answer == ui::Default::Yes;
+  box.AddButton("No", 0, !yes);
+  box.AddButton("Yes", 1, yes);
+  return RunBox(box).value_or(0) == 1;
+}
+
+std::string Window::Prompt(const std::string& title, const std::string& text,
+                           const std::string& offered) {
+  if (closing_) return {};
+  Sync();
+  MessageBox box(ground_, Shown(title), Shown(text));
+  box.AddLine(Shown(offered), *this);
+  box.AddButton("Cancel", 0, false);
+  box.AddButton("OK", 1, true);
+  return RunBox(box).value_or(0) == 1 ? Keep(box.Line()).Text : std::string();
+}
+
+void Window::RepaintNow() {
+  if (busy_) return;
+  const auto& screens = desk_.Screens();
+  if (!screens.empty() && screens.back()->Is() == ui::Role::Wait && IsPatient(*screens.back()))
+    return;
+  if (lastPaint_.isValid() && lastPaint_.elapsed() < kFrame) return;
+  Sync();
+  busy_ = true;
+  QApplication::processEvents();
+  busy_ = false;
+  lastPaint_.start();
+}
+
+void Window::Hint(QWidget& beside, const QString& text) {
+  if (hint_) hint_->deleteLater();
+  hint_ = new WrappedLabel(ground_, text);
+  hint_->setObjectName("hint");
+  const Colours& c = ColoursOf(this);
+  QPalette colours = hint_->palette();
+  colours.setColor(QPalette::Window, c.Button);
+  hint_->setPalette(colours);
+  hint_->setAutoFillBackground(true);
+  SetInk(*hint_, c.Red);
+  hint_->setContentsMargins(Px(10), Px(6), Px(10), Px(6));
+  hint_->adjustSize();
+  QPoint at = &beside == this ? QPoint((ground_->width() - hint_->width()) / 2, Px(60))
+                              : beside.mapTo(ground_, QPoint(0, beside.height() + Px(4)));
+  at.setX(std::clamp(at.x(), 0, std::max(0, ground_->width() - hint_->width())));
+  at.setY(std::clamp(at.y(), 0, std::max(0, ground_->height() - hint_->height())));
+  hint_->move(at);
+  hint_->show();
+  hint_->raise();
+  QTimer::singleShot(kHintTime, hint_.data(), &QObject::deleteLater);
+}
+
+void Window::KeepPlace() {
+  for (const Layer& layer : layers_)
+    if (layer.View) layer.View->Leave();
+  settings_.SetPlace(saveGeometry());
+}
+
+/// There is nothing to save, so nothing is asked. Amid an event, its boxes get the careful answer
+/// and the window goes once the event has ended.
+void Window::closeEvent(QCloseEvent* event) {
+  if (acting_ > 0) {
+    closing_ = true;
+    if (box_) box_->Dismiss();
+    return event->ignore();
+  }
+  KeepPlace();
+  if (options_.Closing) options_.Closing();
+  event->accept();
+}
+
+}  // namespace grapplemont::desktop

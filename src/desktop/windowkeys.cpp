@@ -1,0 +1,104 @@
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "desktop/look.h"
+#include "desktop/window.h"
+
+// The keys that mean the same everywhere, and input that comes at the wrong time.
+
+namespace grapplemont::desktop {
+
+/// What no widget has wanted: Enter and Escape are the top screen's.
+void Window::keyPressEvent(QKeyEvent* event) {
+  ScreenView* top = TopView();
+  if (!top || box_ || finder_ || acting_ > 0 || event->isAutoRepeat()) return;
+  if (top->HandleKey(event->key())) return;
+  // The home page of the hub has its main action in the top bar; its layout names it too.
+  QMainWindow::keyPressEvent(event);
+}
+
+bool Window::HandleCommonKey(const QKeyEvent& event) {
+  if (box_ || finder_ || acting_ > 0) return false;
+  const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+  if (modifiers == Qt::NoModifier) return PressSideKey(event);
+  if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier)) return false;
+  switch (event.key()) {
+    case Qt::Key_K:
+      OpenFinder();
+      return true;
+    case Qt::Key_L:
+      TurnColours();
+      return true;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+      SetZoom(settings_.Zoom() + 1);
+      return true;
+    case Qt::Key_Minus:
+      SetZoom(settings_.Zoom() - 1);
+      return true;
+    case Qt::Key_0:
+      SetZoom(0);
+      return true;
+    case Qt::Key_F:
+      return TopView() && TopView()->FocusSearch();
+    default:
+      return false;
+  }
+}
+
+void Window::TurnColours() {
+  settings_.SetColours(IsDark(settings_.Colours()) ? Scheme::Light : Scheme::Dark);
+  Relook();
+}
+
+void Window::SetZoom(int zoom) {
+  const int text = std::clamp(DesktopText() + zoom, kSmallestText, kLargestText);
+  settings_.SetZoom(text - DesktopText());
+  Relook();
+}
+
+/// All views are made anew: their sizes and colours were taken when they were built.
+void Window::Relook() {
+  RetireAll();
+  ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
+  Sync();
+}
+
+/// While an event is under way and shows itself, nothing that is typed or clicked counts.
+bool Window::SwallowWhileBusy(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Close:
+      if (watched != this) return false;
+      closing_ = true;
+      event->ignore();
+      return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool Window::eventFilter(QObject* watched, QEvent* event) {
+  if (busy_ && SwallowWhileBusy(watched, event)) return true;
+  if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
+    return QMainWindow::eventFilter(watched, event);
+  const auto* widget = static_cast<QWidget*>(watched);
+  const bool ours = widget->window() == this;
+  return ours && HandleCommonKey(*static_cast<QKeyEvent*>(event));
+}
+
+}  // namespace grapplemont::desktop

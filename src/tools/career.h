@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+
+#include "ui/game.h"
+
+namespace grapplemont::tools {
+
+/// What becomes of the player's shows while nobody watches.
+enum class Shows { Auto, Cancel };
+
+/// A desk where nobody sits: every question is answered yes, every text by what is offered.
+class EmptyDesk : public ui::Desk {
+ public:
+  void Say(const std::string&, const std::string&) override {}
+  bool Ask(const std::string&, const std::string&, ui::Default) override { return true; }
+  std::string Prompt(const std::string&, const std::string&, const std::string& offered) override {
+    return offered;
+  }
+};
+
+/// How far a career went.
+struct CareerEnd {
+  int Days = 0;     // that passed
+  int EndCode = 0;  // 1 to 9: why it is over; 0: it goes on
+};
+
+/// Plays so many days of the open game, a commit each; a day is over when the next one's routines
+/// are. `dayPassed` hears of each.
+CareerEnd PlayDays(Game& game, int days, Shows shows,
+                   const std::function<void(int day)>& dayPassed);
+
+}  // namespace grapplemont::tools

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "tools/arguments.h"
+#include "tools/tool.h"
+
+namespace grapplemont::tools {
+
+/// One command of the tool.
+struct Command {
+  std::string_view Name;
+  std::string_view Usage;    // what stands behind the name
+  std::string_view Summary;  // one line for --help
+  std::size_t Places = 0;    // words that are no options
+  std::span<const OptionKind> Options;
+  int (*Run)(const Arguments& arguments, Shell& shell);
+};
+
+// Worlds as tables and as files.
+extern const Command kBuild, kExport, kCheck;
+// Games without a window.
+extern const Command kNew, kRun;
+// Pages of docs/.
+extern const Command kFormats, kColumns;
+
+}  // namespace grapplemont::tools

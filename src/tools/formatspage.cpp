@@ -1,0 +1,170 @@
+#include <ostream>
+
+#include "records/tablekinds.h"
+#include "records/world.h"
+#include "tools/commands.h"
+#include "tools/pages.h"
+
+namespace grapplemont::tools {
+
+namespace {
+
+constexpr std::string_view kIntroduction = R"(# File formats
+
+This page is made by `grapplemont-world formats` from the lists of fields that the program itself works with.
+
+## Folders
+
+A world is a folder of record files. Two kinds of folder hold one, both in the *home* (the working directory if it has
+`data`, else the user's data folder):
+
+- `data` is the default world, which a new game copies. It holds the ten files of the data set: `belt.dat`,
+  `event.dat`, `network.dat`, `promos.dat`, `sponsor.dat`, `stables.dat`, `staff.dat`, `teams.dat`, `tv.dat`,
+  `wrestler.dat`.
+- `s1` to `s8` are the save slots. Each is a complete running world: the ten files, and those that only a game has:
+  `gameinfo.dat` (a slot is in use exactly when it has one), `news.dat`, `notes.dat`, `feudinfo.dat`, `match.dat` while
+  a show is booked, and `incident.tmp` when something happened backstage.
+
+## The journal
+
+A slot also has a `journal`. Every click of the player is one commit: what it changed in any of the files is first
+written to the journal as one checked record and brought to the disk, and only then copied into the files. A commit is
+there whole or not at all, whatever becomes of the power. The files alone may therefore lag behind the journal; opening
+the slot replays it. `world.id` tells which journal belongs to the world, and `s1.lock` beside the slot keeps a second
+program out. [How saving works](saving.md) tells the rest. Copy a slot as a whole folder while no program has it open.
+
+## Records
+
+Except for `notes.dat`, which is plain text, a file is a row of records of one length, without a header. Records are
+numbered from 1. What stands behind the last whole record is ignored, and overwritten by the next one.
+
+| Type | Bytes | Holds |
+| --- | --- | --- |
+| text | as wide as the field | letters of Windows-1252, one byte each, filled up with blanks |
+| 16-bit | 2 | a whole number, signed, little-endian; -1 (bytes FF FF) often stands for "none" or "no end" |
+| percent | 2 | the same, from 0 to 100 |
+| flag | 2 | the same: -1 is yes, 0 is no |
+| 32-bit | 4 | a whole number, signed, little-endian |
+| date | 8 | days since 30 December 1899, a little-endian floating-point number of double precision; its fraction is the time of day |
+
+Records know each other by uid, a number in the first two bytes of a record that keeps for life; 0 is nobody. Workers
+are led to Stables and to the parts of a split roster by name.
+)";
+
+std::string TypeName(const Field& field) {
+  switch (field.Kind) {
+    case FieldKind::Word:
+      return "16-bit";
+    case FieldKind::Percent:
+      return "percent";
+    case FieldKind::Long:
+      return "32-bit";
+    case FieldKind::Flag:
+      return "flag";
+    case FieldKind::Date:
+      return "date";
+    default:
+      return "text";
+  }
+}
+
+std::string NumberRange(const Field& field) {
+  if (field.Min == -32768 && field.Max == 32767) return "any";
+  if (field.Min == -2147483648LL) return "any";
+  const std::string range = std::to_string(field.Min) + " to " + std::to_string(field.Max);
+  return range + (field.MayBeNone ? ", or -1" : "");
+}
+
+std::string Range(const Field& field) {
+  std::string words;
+  for (const Term& term : field.Words) {
+    if (!words.empty()) words += ", ";
+    words += field.Kind == FieldKind::Text ? "\"" + std::string(term.Stored) + "\""
+                                           : std::to_string(term.Code);
+    words += " " + std::string(term.Says);
+  }
+  if (!words.empty()) return words;
+  switch (field.Kind) {
+    case FieldKind::Text:
+      return field.IsKey ? "unique" : "";
+    case FieldKind::Date:
+    case FieldKind::Flag:
+      return "";
+    default:
+      return NumberRange(field) + (field.IsKey ? ", unique" : "");
+  }
+}
+
+std::string RefersTo(const Field& field) {
+  switch (field.To) {
+    case Refers::Nothing:
+      return "";
+    case Refers::Worker:
+      return "Worker";
+    case Refers::Promotion:
+      return "Promotion";
+    case Refers::Staff:
+      return "Staff";
+    case Refers::Commentator:
+      return "Staff, or Worker if ColourIsWorker";
+    case Refers::Network:
+      return "Network";
+    case Refers::Sponsor:
+      return "Sponsor";
+    case Refers::Stable:
+      return "Stable, by name";
+    case Refers::Split:
+      return "Split1 to Split4 of the employer, by name";
+    case Refers::Title:
+      return "Title, by name";
+  }
+  return "";
+}
+
+std::string NameOf(const Field& field) {
+  if (field.Count == 1) return "`" + FieldName(field, 0) + "`";
+  return "`" + FieldName(field, 0) + "` to `" + FieldName(field, field.Count - 1) + "`";
+}
+
+std::string OffsetOf(const Field& field) {
+  const std::string first = std::to_string(field.Offset);
+  return field.Count == 1 ? first : first + ", every " + std::to_string(field.Stride);
+}
+
+std::string FileSection(const RecordLayout& layout) {
+  std::string text = "\n## " + std::string(layout.File) + ": " + std::string(layout.Name) + "\n\n";
+  text += layout.Limit == 1 ? "One record" : "At most " + std::to_string(layout.Limit) + " records";
+  text += " of " + std::to_string(layout.Size) + " bytes.\n\n";
+  text += "| Offset | Width | Type | Field | Values | Refers to | Unit | Meaning |\n";
+  text += "| --- | --- | --- | --- | --- | --- | --- | --- |\n";
+  for (const Field& field : layout.Fields) {
+    const std::string cells[] = {OffsetOf(field),
+                                 std::to_string(field.Width),
+                                 TypeName(field),
+                                 NameOf(field),
+                                 Range(field),
+                                 RefersTo(field),
+                                 std::string(field.Unit),
+                                 std::string(field.Help)};
+    for (const std::string& cell : cells) text += "| " + cell + (cell.empty() ? "" : " ");
+    text += "|\n";
+  }
+  return text;
+}
+
+int Formats(const Arguments&, Shell& shell) {
+  shell.Out << FormatsPage();
+  return 0;
+}
+
+}  // namespace
+
+std::string FormatsPage() {
+  std::string page(kIntroduction);
+  for (const TableKind& kind : TableKinds()) page += FileSection(*kind.Layout);
+  return page;
+}
+
+const Command kFormats{"formats", "", "Prints docs/file-formats.md.", 0, {}, Formats};
+
+}  // namespace grapplemont::tools

@@ -1,0 +1,72 @@
+#include "tools/monthstats.h"
+
+#include <cmath>
+#include <nlohmann/json.hpp>
+
+#include "records/charset.h"
+#include "records/dates.h"
+
+namespace grapplemont::tools {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+void Increase(Json& count) {
+  count = count.get<int>() + 1;
+}
+
+Json PromotionsBySize(const World& world) {
+  Json counts;
+  for (const Term& size : kSizes) counts[std::string(size.Says)] = 0;
+  counts["all"] = 0;
+  for (const Promotion& promotion : world.Promotions()) {
+    if (promotion.Name == kToBeDeleted) continue;
+    for (const std::string_view size : {SizeText(promotion.Size), std::string_view("all")})
+      if (!size.empty()) Increase(counts[std::string(size)]);
+  }
+  return counts;
+}
+
+Json WorkerCounts(const World& world) {
+  int employed = 0, over = 0;
+  for (const Worker& worker : world.Workers()) {
+    if (worker.Employer == 0) continue;
+    ++employed;
+    over += worker.Over;
+  }
+  Json counts{{"employed", employed}, {"free", world.Workers().Count() - employed}};
+  counts["meanOver"] = employed == 0 ? Json() : Json(std::round(100.0 * over / employed) / 100);
+  return counts;
+}
+
+Json PlayerState(const World& world) {
+  const Promotion* promotion = world.FindPromotion(world.PlayerUid());
+  if (!promotion) return {};
+  return {{"promotion", ToUtf8(promotion->Initials)},
+          {"size", SizeText(promotion->Size)},
+          {"image", int(promotion->Image)},
+          {"money", int(promotion->Money)},
+          {"reputation", int(world.Game().Reputation)}};
+}
+
+}  // namespace
+
+std::string MonthSummary(const World& world) {
+  return Json{{"date", IsoDate(world.Today())},        {"economy", int(world.Game().Economy)},
+              {"promotions", PromotionsBySize(world)}, {"workers", WorkerCounts(world)},
+              {"player", PlayerState(world)},          {"mails", world.News().Count()}}
+      .dump();
+}
+
+StatsFile::StatsFile(Disk& disk, const std::string& path) : disk_(disk), file_(disk, path, true) {
+  disk_.Resize(file_, 0);
+}
+
+void StatsFile::Add(const std::string& line) {
+  const std::string text = line + "\n";
+  disk_.WriteAt(file_, end_, std::as_bytes(std::span(text)));
+  end_ += static_cast<std::int64_t>(text.size());
+}
+
+}  // namespace grapplemont::tools

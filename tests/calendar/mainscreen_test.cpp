@@ -1,0 +1,159 @@
+#include <gtest/gtest.h>
+
+#include "records/dates.h"
+#include "records/modVar.h"
+#include "support/gameonworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+using std::chrono::year;
+
+SmallWorld Playing() {
+  SmallWorld small;
+  small.Network("Nine").Promotion("CWA", kCult).Owner("Ruth Vane").Crew(6);
+  small.Show("Friday Fire", "Friday", "Nine").Event(3, 2, "Marchmania");
+  return small;
+}
+
+constexpr const char* kBackText =
+    "Are you sure you wish to go back? It will erase any booking you have done so far.";
+
+TEST(MainScreen, SaysWhoAndWhenAndWhatIsAhead) {
+  GameOnWorld play(Playing().Game("CWA", year{2026} / 3 / 24).Mail("Ruth Vane", "Hello."));
+  Promotion& own = Named(play.World().Promotions(), "CWA");
+  own.Money = -1250;
+  play.Desk.Open("frmMainScreen");
+  EXPECT_EQ(play.Desk.Text("txtdate"), "Tuesday, 24 March 2026");
+  EXPECT_EQ(play.Desk.Text("cmdfed"), "CWA");
+  EXPECT_EQ(play.Desk.Text("lblmoney"), "-$1250");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "Nothing is due today.");
+  EXPECT_TRUE(play.Desk.Enabled("imgmail"));
+  EXPECT_EQ(play.Desk.Rows("lstmail")[0][2], "Hello.");
+  const auto ahead = play.Desk.Rows("lstahead");
+  ASSERT_GE(ahead.size(), 3u);
+  EXPECT_EQ(ahead[0][2], "Friday Fire");
+  EXPECT_EQ(ahead[1][2], "Marchmania");
+  EXPECT_EQ(ahead.back()[3], "No Event");
+}
+
+TEST(MainScreen, OffersOnlyTheScreensThatAreThere) {
+  GameOnWorld play(Playing().Game("CWA"));
+  play.Desk.Open("frmMainScreen");
+  for (const auto& [button, screen] : {std::pair{"cmdroster", "frmRoster"},
+                                       {"cmdstaff", "frmStaff"},
+                                       {"cmdtag", "frmTagTeams"},
+                                       {"cmdstables", "frmStables"},
+                                       {"cmdbelt", "frmBelts"},
+                                       {"cmdfeud", "frmFeuds"},
+                                       {"cmdevents", "frmEvent"},
+                                       {"cmdtv", "frmTelevision"},
+                                       {"cmdfed", "frmFed"},
+                                       {"cmdfinance", "frmFinance"},
+                                       {"cmdmeeting", "frmTalk"},
+                                       {"cmdnews", "frmNews"},
+                                       {"cmdnet", "frmInternet"},
+                                       {"cmdnotepad", "frmNotepad"},
+                                       {"cmdoptions", "frmOptions"},
+                                       {"cmdotherwres", "frmOtherWres"},
+                                       {"cmdotherstaff", "frmOtherStaff"},
+                                       {"cmdotherfed", "frmOtherFed"},
+                                       {"txtname", "frmUser"}}) {
+    EXPECT_EQ(play.Desk.Enabled(button), play.Desk.Knows(screen)) << button;
+    EXPECT_EQ(play.Desk.Enabled(button),
+              play.Desk.Tip(button) != "This comes with a later version.")
+        << button;
+    if (!play.Desk.Knows(screen)) continue;
+    play.Desk.Click(button);
+    EXPECT_EQ(play.Desk.TopName(), screen);
+    play.Desk.Click("cmdback");
+    EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
+  }
+}
+
+TEST(MainScreen, MovesAPlainDayAndKeepsItOnDisk) {
+  GameOnWorld play(Playing().Game("CWA", year{2026} / 3 / 2));
+  play.Desk.Open("frmMainScreen");
+  play.World().Session.ShowRating = 55;
+  bool waited = false;
+  play.Desk.OnRepaint = [&] { waited |= play.Desk.TopName() == "frmWait"; };
+  play.Desk.Click("cmdnext");
+  EXPECT_TRUE(waited);
+  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
+  EXPECT_EQ(play.Desk.Text("txtdate"), "Tuesday, 03 March 2026");
+  EXPECT_EQ(play.World().Session.ShowRating, 0);
+  play.Reopen();
+  EXPECT_EQ(IsoDate(play.World().Today()), "2026-03-03");
+}
+
+TEST(MainScreen, OpensTheSheetOfAShowDayAndLeavesTheDateAlone) {
+  GameOnWorld play(Playing().Game("CWA", year{2026} / 3 / 6));
+  play.Desk.Open("frmMainScreen");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "Due today: Friday Fire.");
+  play.Desk.Click("cmdnext");
+  EXPECT_EQ(play.Desk.TopName(), "frmBooking");
+  EXPECT_EQ(play.Desk.Title(), "Television Booking Sheet For Friday Fire");
+  play.Desk.ExpectAsk("Confirm", kBackText, false, ui::Default::No);
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.TopName(), "frmBooking");
+  play.Desk.ExpectAsk("Confirm", kBackText, true);
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.Text("txtdate"), "Friday, 06 March 2026");
+}
+
+TEST(MainScreen, MovesOnFromACancelledEvent) {
+  GameOnWorld play(Playing().Game("CWA", year{2026} / 3 / 29));
+  play.Desk.Open("frmMainScreen");
+  play.Desk.Click("cmdnext");
+  EXPECT_EQ(play.Desk.TopName(), "frmPPVBooking");
+  EXPECT_EQ(play.Desk.Title(), "Event Booking Sheet For Marchmania");
+  play.Desk.ExpectAsk("Cancel?", "Are You Sure You Wish To Cancel The Show?", true,
+                      ui::Default::No);
+  play.Desk.Click("cmdcancel");
+  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
+  EXPECT_EQ(play.Desk.Text("txtdate"), "Monday, 30 March 2026");
+}
+
+TEST(MainScreen, AsksWhetherAMonthShallPassWithoutAnEvent) {
+  GameOnWorld play(Playing().Game("CWA", year{2026} / 4 / 26));
+  const std::string text =
+      "It is the end of the month, yet you have no major show planned!\nAre you sure you wish to "
+      "not hold a big event this month?";
+  play.Desk.Open("frmMainScreen");
+  play.Desk.ExpectAsk("No Show!", text, false);
+  play.Desk.Click("cmdnext");
+  EXPECT_EQ(play.Desk.Text("txtdate"), "Sunday, 26 April 2026");
+  play.Desk.ExpectAsk("No Show!", text, true);
+  play.Desk.Click("cmdnext");
+  EXPECT_EQ(play.Desk.Text("txtdate"), "Monday, 27 April 2026");
+}
+
+TEST(MainScreen, LetsPlainDaysPassUntilTheNextShow) {
+  GameOnWorld play(Playing().Game("CWA", year{2026} / 3 / 2));
+  play.Desk.Open("frmMainScreen");
+  play.Desk.Click("cmduntil");
+  EXPECT_EQ(play.Desk.Text("txtdate"), "Friday, 06 March 2026");
+  play.Desk.Click("cmduntil");
+  EXPECT_EQ(play.Desk.TopName(), "frmBooking");
+}
+
+TEST(MainScreen, KeepsAYearOfNextDays) {
+  GameOnWorld play(Playing().Game("CWA", year{2026} / 3 / 1));
+  play.Desk.Open("frmMainScreen");
+  for (int presses = 0; presses < 1000 && play.World().Today() < Day{year{2027} / 3 / 1};
+       ++presses) {
+    if (IsEventDay(play.World().Today()) && MonthOf(play.World().Today()) != 3)
+      play.Desk.ExpectAsk("No Show!", kAnyText, true);
+    play.Desk.Click("cmdnext");
+    if (play.Desk.TopName() == "frmMainScreen") continue;
+    play.Desk.ExpectAsk("Cancel?", kAnyText, true);
+    play.Desk.Click("cmdcancel");
+  }
+  EXPECT_EQ(play.Desk.Text("txtdate"), "Monday, 01 March 2027");
+  const World shown = CopyOf(play.World());
+  play.Reopen();
+  ExpectSame(play.World(), shown);
+}
+
+}  // namespace
+}  // namespace grapplemont::test

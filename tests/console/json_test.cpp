@@ -1,0 +1,122 @@
+#include "console/served.h"
+
+namespace grapplemont::test {
+namespace {
+
+Json ControlOf(const Json& answer, const std::string& name) {
+  for (const Json& control : answer.at("controls"))
+    if (control.at("name") == name) return control;
+  ADD_FAILURE() << "no control " << name;
+  return {};
+}
+
+TEST(JsonAnswer, SaysOfEachControlWhatItsKindHas) {
+  const Json answer = LastAnswer("show\n");
+  EXPECT_EQ(answer.size(), 3u) << answer;
+  EXPECT_EQ(answer.at("screen"), "frmSample");
+  EXPECT_EQ(answer.at("title"), "Sample");
+  const char* const kExpected[] = {
+      R"({"name":"lblfacts","kind":"Label","text":"Two of everything.",
+          "enabled":true,"visible":true})",
+      R"({"name":"txtname","kind":"TextBox","text":"Pat","enabled":true,"visible":true})",
+      R"({"name":"txtnotes","kind":"TextBox","text":"","enabled":true,"visible":true})",
+      R"({"name":"cmddoit","kind":"Button","text":"Do It","enabled":true,"visible":true})",
+      R"({"name":"cmdoff","kind":"Button","text":"Off","enabled":false,"visible":true,
+          "tip":"Not yet."})",
+      R"({"name":"cmdhidden","kind":"Button","text":"Hidden","enabled":true,"visible":false})",
+      R"({"name":"lstpeople","kind":"ListBox","enabled":true,"visible":true,"selected":[],
+          "rows":[["Bram Okafor","88"],["3","40"],["Ilya Marsh","$1,284,500"]]})",
+      R"({"name":"lstmany","kind":"ListBox","enabled":true,"visible":true,"selected":[],
+          "rows":[["Red"],["Green"],["Blue"]]})",
+      R"({"name":"cmbkind","kind":"ComboBox","text":"Singles","enabled":true,"visible":true,
+          "rows":[["Singles"],["Tag Team"]],"selected":[1]})",
+      R"({"name":"chkday","kind":"CheckBox","text":"Every day","enabled":true,"visible":true,
+          "checked":false})",
+      R"({"name":"optface","kind":"OptionButton","text":"Face","enabled":true,"visible":true,
+          "checked":true})",
+      R"({"name":"hsprice","kind":"ScrollBar","enabled":true,"visible":true,
+          "value":20,"min":5,"max":100})",
+      R"({"name":"imgdoor","kind":"Picture","enabled":true,"visible":true})",
+      R"({"name":"chtmoney","kind":"Chart","enabled":true,"visible":true,
+          "text":"Jan: Money 1200, Image 61\nFeb: Money -50.25"})",
+      R"({"name":"rptshow","kind":"Report","text":"The bell rings.\nIt is over.",
+          "enabled":true,"visible":true})",
+  };
+  for (const char* text : kExpected) {
+    const Json expected = Json::parse(text);
+    EXPECT_EQ(ControlOf(answer, expected.at("name")), expected);
+  }
+  EXPECT_EQ(answer.at("controls").size(), 23u);
+}
+
+TEST(JsonAnswer, KeepsTheOrderOfItsFields) {
+  const std::string line = Served("click cmdask\n", kJson).Out();
+  std::size_t last = 0;
+  for (const char* field : {"{\"screen\":", "\"title\":", "\"controls\":[{\"name\":", "\"kind\":",
+                            "\"text\":", "\"enabled\":", "\"visible\":", "\"box\":{\"kind\":"}) {
+    const auto at = line.find(field, last);
+    ASSERT_NE(at, std::string::npos) << field;
+    last = at;
+  }
+}
+
+TEST(JsonAnswer, SelectsRowsFromOne) {
+  EXPECT_EQ(ControlOf(LastAnswer("pick lstpeople Ilya Marsh\n"), "lstpeople").at("selected"),
+            Json({3}));
+  EXPECT_EQ(ControlOf(LastAnswer("pick lstmany 3\npick lstmany Red\n"), "lstmany").at("selected"),
+            Json({1, 3}));
+}
+
+TEST(JsonAnswer, TellsOfAnOpenBox) {
+  struct Row {
+    const char *Lines, *Box;
+  };
+  const Row kRows[] = {
+      {"click cmdsay\n", R"({"kind":"ok","title":"Told","text":"First."})"},
+      {"click cmdsay\nok\n", R"({"kind":"ok","title":"Told","text":"Second."})"},
+      {"click cmdask\n", R"({"kind":"yesno","title":"Sure?","text":"Really?","default":"no"})"},
+      {"click cmdprompt\n",
+       R"({"kind":"input","title":"Name?","text":"A new name:","default":"Pat"})"},
+  };
+  for (const Row& row : kRows) {
+    const Json answer = LastAnswer(row.Lines);
+    EXPECT_EQ(answer.at("box"), Json::parse(row.Box)) << row.Lines;
+    EXPECT_EQ(answer.at("screen"), "frmSample");
+    EXPECT_FALSE(answer.contains("error"));
+  }
+  EXPECT_FALSE(LastAnswer("click cmdsay\nok\nok\n").contains("box"));
+}
+
+TEST(JsonAnswer, IsOneLineForEachCommand) {
+  const Served served("show\nclick cmdsay\nok\nnonsense\nok\n\nhelp\nclick cmddoit\nquit\nshow\n",
+                      kJson);
+  const auto answers = Answers(served);
+  ASSERT_EQ(answers.size(), 8u) << "quit is not answered, and what follows it is not read";
+  EXPECT_TRUE(answers[3].contains("error"));
+  EXPECT_TRUE(answers[3].contains("box")) << "an error leaves the box open";
+  EXPECT_TRUE(answers[6].contains("help"));
+  EXPECT_EQ(served.Log, (std::vector<std::string>{"said", "cmddoit"}));
+}
+
+TEST(JsonAnswer, IsEmptyWhenNothingLiesThere) {
+  const Served served("click cmdclose\nshow\n", kJson);
+  EXPECT_EQ(served.Out(), "{}\n");
+  EXPECT_FALSE(served.Open);
+}
+
+TEST(JsonAnswer, SpeaksUtf8) {
+  const Json answer = LastAnswer("type txtname \xC3\x89lan \xE2\x82\xAC\"\\\n");
+  EXPECT_EQ(ControlOf(answer, "txtname").at("text"), "\xC3\x89lan \xE2\x82\xAC\"\\");
+  EXPECT_EQ(Served("type txtname \xC3\x89lan \xE2\x82\xAC\n", kJson).Name, "\xC9lan \x80")
+      << "and Windows-1252 inside";
+}
+
+TEST(JsonAnswer, TellsWhyACommandThatThrewWasTakenBack) {
+  const Json answer = LastAnswer("click cmdthrow\n");
+  EXPECT_EQ(answer.at("box"),
+            Json::parse(R"({"kind":"ok","title":"Error!","text":"The disk is full."})"));
+  EXPECT_EQ(answer.at("screen"), "frmSample");
+}
+
+}  // namespace
+}  // namespace grapplemont::test

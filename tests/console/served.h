@@ -1,0 +1,59 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "console/console.h"
+#include "support/samplescreen.h"
+
+namespace grapplemont::test {
+
+using Json = nlohmann::json;
+
+/// A console over one SampleScreen, served with all the lines of a script.
+class Served {
+ public:
+  explicit Served(const std::string& lines, console::Settings settings = {}) : in_(lines) {
+    console::Console desk(in_, out_, settings);
+    SampleScreen& screen = SampleScreen::On(desk, Log);
+    Log.clear();
+    desk.Run();
+    Open = !desk.Empty();
+    Price = Open ? screen.hsprice.Value.Get() : 0;
+    Name = Open ? screen.txtname.Text.Get() : std::string();
+    Notes = Open ? screen.txtnotes.Text.Get() : std::string();
+  }
+
+  std::string Out() const { return out_.str(); }
+
+  std::vector<std::string> Log;  // of the screen's handlers
+  bool Open = false;             // whether the screen still lies there at the end
+  int Price = 0;
+  std::string Name, Notes;
+
+ private:
+  std::istringstream in_;
+  std::ostringstream out_;
+};
+
+/// The objects that the lines are answered with.
+inline std::vector<Json> Answers(const Served& served) {
+  std::vector<Json> answers;
+  std::istringstream lines(served.Out());
+  for (std::string line; std::getline(lines, line);) answers.push_back(Json::parse(line));
+  return answers;
+}
+
+inline constexpr console::Settings kJson{.Json = true};
+
+/// The last answer to the lines.
+inline Json LastAnswer(const std::string& lines) {
+  const auto answers = Answers(Served(lines, kJson));
+  return answers.empty() ? Json() : answers.back();
+}
+
+}  // namespace grapplemont::test

@@ -1,0 +1,200 @@
+#include <algorithm>
+
+#include "console/columns.h"
+#include "console/served.h"
+
+namespace grapplemont::test {
+namespace {
+
+std::vector<std::string> LinesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  return lines;
+}
+
+std::string Shown(const std::string& lines, int width = 80) {
+  return Served(lines, {.Width = width}).Out();
+}
+
+TEST(TextAnswer, ShowsTheScreenAfterItsLayout) {
+  const char* const kExpected =
+      R"(== Sample ========================================================= frmSample ==
+
+  lblfacts         Label        Two of everything.
+
+Who
+  txtname          TextBox      Name: "Pat"
+  lstpeople        ListBox      3 rows
+        Name               Over
+     1  Bram Okafor          88
+     2  3                    40
+     3  Ilya Marsh   $1,284,500
+
+How
+  cmbkind          ComboBox     Singles (1 of 2)
+    >1  Singles
+     2  Tag Team
+  chkday           CheckBox     [ ] Every day
+  optface          OptionButton (o) Face
+  optheel          OptionButton ( ) Heel
+
+What
+  hsprice          ScrollBar    20, from 5 to 100
+  chtmoney         Chart
+    Jan: Money 1200, Image 61
+    Feb: Money -50.25
+  rptshow          Report
+    The bell rings.
+    It is over.
+
+  cmdsay           Button       Say
+  cmdask           Button       Ask
+  cmdprompt        Button       Prompt
+  cmdthrow         Button       Throw
+  cmddoit          Button       Do It
+  cmdclose         Button       Close
+
+  txtnotes         TextBox      ""
+  cmdoff           Button       Off (disabled: Not yet.)
+  lstmany          ListBox      3 rows (any number may be chosen)
+     1  Red
+     2  Green
+     3  Blue
+  optother         OptionButton (o) Other
+  imgdoor          Picture      door.jpg (can be clicked)
+  imgback          Picture      back.jpg
+
+Type: click NAME, type NAME TEXT, pick NAME ROW-or-TEXT, open NAME
+ROW-or-TEXT, check NAME on|off, slide NAME VALUE, show [NAME], help, quit
+)";
+  const auto expected = LinesOf(kExpected), shown = LinesOf(Shown("show\n"));
+  for (std::size_t i = 0; i < std::max(expected.size(), shown.size()); ++i)
+    EXPECT_EQ(i < shown.size() ? shown[i] : "(no line)",
+              i < expected.size() ? expected[i] : "(no line)");
+}
+
+bool Has(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+TEST(TextAnswer, FramesABoxWithItsAnswers) {
+  EXPECT_EQ(Shown("click cmdsay\n", 40),
+            "-- Told -------------------------- ok --\n"
+            "  First.\n");
+  EXPECT_EQ(Shown("click cmdask\n", 40),
+            "-- Sure? ---------------- yes or [no] --\n"
+            "  Really?\n");
+  EXPECT_EQ(Shown("click cmdprompt\n", 40),
+            "-- Name? ------- enter TEXT or cancel --\n"
+            "  A new name:\n"
+            "  Offered: Pat\n");
+}
+
+TEST(TextAnswer, GivesAnErrorALineOfItsOwn) {
+  EXPECT_EQ(Shown("click cmdoff\n"), "Error: \"cmdoff\" is disabled.\n");
+  EXPECT_EQ(Shown("click cmdclose\n"), "The game has ended.\n");
+}
+
+TEST(TextAnswer, MarksWhatIsChosen) {
+  const std::string text =
+      Shown("pick lstpeople Ilya Marsh\npick lstmany 1\npick lstmany 3\nshow\n");
+  EXPECT_TRUE(Has(text, "    >3  Ilya Marsh   $1,284,500\n")) << text;
+  EXPECT_TRUE(Has(text, "3 rows, chosen 1, 3 (any number may be chosen)\n    >1  Red\n     2"));
+}
+
+TEST(TextAnswer, ShowsOneControlWhole) {
+  EXPECT_EQ(Shown("show cmdoff\n"), "  cmdoff           Button       Off (disabled: Not yet.)\n");
+  EXPECT_EQ(Shown("show txtname\n"), "  txtname          TextBox      Name: \"Pat\"\n");
+}
+
+TEST(TextAnswer, AsksForCommandsAtATerminal) {
+  const std::string text = Served("click cmddoit\nquit\n", {.Prompt = true, .Width = 80}).Out();
+  EXPECT_TRUE(text.starts_with("== Sample ==")) << "the screen is there before any command";
+  EXPECT_EQ(LinesOf(text).back(), "> ");
+  EXPECT_TRUE(Has(text, "> == Sample"));
+}
+
+/// A console over one long list.
+class LongList : public ui::Screen {
+ public:
+  explicit LongList(ui::Desk& desk) : Screen(desk, "frmLong", "Long") {
+    lstlong.Multi = true;
+    for (int row = 1; row <= 40; ++row)
+      lstlong.Add({"Row " + std::to_string(row), std::string(row == 2 ? 200 : 3, 'x'),
+                   "one\ntwo\x1B[2J\x81"});
+    for (int line = 1; line <= 70; ++line) prose_ += "Line " + std::to_string(line) + "\n";
+    rptlong.Write(prose_);
+  }
+  ui::Page Layout() override { return {}; }
+
+ private:
+  std::string prose_;
+  ui::ListBox lstlong{*this, "lstlong", {{"First"}, {"Second"}, {"Third"}}};
+  ui::Report rptlong{*this, "rptlong"};
+};
+
+std::string ShownLong(const std::string& lines) {
+  std::istringstream in(lines);
+  std::ostringstream out;
+  console::Console desk(in, out, {.Width = 80});
+  desk.Open(std::make_unique<LongList>(desk));
+  desk.Run();
+  return out.str();
+}
+
+TEST(TextAnswer, ShortensWhatIsLongAndShowsItWholeOnDemand) {
+  const std::string text = ShownLong("show\n");
+  EXPECT_TRUE(Has(text, "     12  Row 12")) << text;
+  EXPECT_FALSE(Has(text, "Row 13"));
+  EXPECT_TRUE(Has(text, "    ... 28 more rows: show lstlong\n"));
+  EXPECT_TRUE(Has(text, "    Line 60\n    ... 10 more lines: show rptlong\n"));
+  for (const std::string& line : LinesOf(text)) EXPECT_LE(line.size(), 80u) << line;
+
+  const std::string list = ShownLong("show lstlong\n");
+  EXPECT_TRUE(Has(list, "     40  Row 40"));
+  EXPECT_TRUE(Has(list, std::string(200, 'x')));
+  EXPECT_TRUE(Has(ShownLong("show rptlong\n"), "    Line 70\n"));
+}
+
+TEST(TextAnswer, ShowsChosenRowsAmongTheHidden) {
+  const std::string text = ShownLong("pick lstlong 25\npick lstlong Row 40\n");
+  EXPECT_TRUE(Has(text, "40 rows, chosen 25, 40 "));
+  EXPECT_TRUE(Has(text, "    >25  Row 25"));
+  EXPECT_TRUE(Has(text, "    >40  Row 40"));
+  EXPECT_TRUE(Has(text, "... 26 more rows"));
+}
+
+TEST(TextAnswer, SendsATerminalNothingButLetters) {
+  const std::string text = ShownLong("show lstlong\n");
+  for (const char letter : text)
+    EXPECT_TRUE(letter == '\n' || static_cast<unsigned char>(letter) >= 0x20);
+  EXPECT_TRUE(Has(text, "one two?[2J?\n"));
+  EXPECT_FALSE(Has(text, "\xC2\x81"));
+}
+
+TEST(Wrapped, BreaksAtBlanksWhereThereAreAny) {
+  using Lines = std::vector<std::string>;
+  struct Row {
+    const char* Text;
+    Lines Expected;
+  };
+  const Row kRows[] = {{"", {""}},
+                       {"short", {"short"}},
+                       {"ten chars!", {"ten chars!"}},
+                       {"ten chars! and", {"ten chars!", "and"}},
+                       {"one two three four", {"one two", "three four"}},
+                       {"unbreakableword", {"unbreakabl", "eword"}},
+                       {"a\n\nb\n", {"a", "", "b", ""}}};
+  for (const Row& row : kRows) EXPECT_EQ(console::Wrapped(row.Text, 10), row.Expected) << row.Text;
+}
+
+TEST(Shortened, EndsInDotsWhereItIsCut) {
+  EXPECT_EQ(console::Shortened("Bram Okafor", 11), "Bram Okafor");
+  EXPECT_EQ(console::Shortened("Bram Okafor", 10), "Bram Ok...");
+  EXPECT_EQ(console::Shortened("Bram Okafor", 2), "Br");
+  EXPECT_EQ(console::Shortened("one\ntwo", 9), "one two");
+}
+
+}  // namespace
+}  // namespace grapplemont::test

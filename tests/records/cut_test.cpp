@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include "records/slot.h"
+#include "support/storeworld.h"
+
+// The power is cut at every moment of what a slot does, many thousand times over; what is then
+// found must be a committed world, and never one older than the last that was shown.
+
+namespace grapplemont::test {
+namespace {
+
+/// A found world takes a further commit and gives it back.
+void ExpectToGoOn(CutDisk& disk, const Story& story, int found) {
+  const Files& before = story.Worlds[static_cast<std::size_t>(found)];
+  Files after = before;
+  after["news.dat"] = BytesOf("The show goes on.");
+  {
+    Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, story.Options);
+    ASSERT_EQ(before, slot.Files());
+    slot.Commit(ChangesBetween(before, after));
+  }
+  EXPECT_EQ(0, FoundWorld(disk, {after}, 0, 0, story.Options));
+}
+
+TEST(PowerCuts, LeaveACommittedWorldAtEveryMoment) {
+  int cuts = 0;
+  for (std::uint64_t seed = 1; seed <= 10; ++seed) {
+    const Story story = TellStory(16, seed);
+    cuts += ForEveryCut(story.Recorded, 24, seed, [&](CutDisk& after, const Cut& cut) {
+      std::string why;
+      const int found = FoundWorld(after, story.Worlds, cut.Least, cut.Most, story.Options, &why);
+      ASSERT_GE(found, 0) << "seed " << seed << ", call " << cut.Index << ", " << cut.Where << ": "
+                          << why;
+      if (cut.Index % 16 == 0) ExpectToGoOn(after, story, found);
+    });
+    ASSERT_FALSE(HasFailure());
+  }
+  RecordProperty("cuts", cuts);
+  EXPECT_GE(cuts, 20000);
+}
+
+/// Opens the slot on a disk that is recorded meanwhile, and cuts that short too.
+/// Where `mayBeNone`, no slot at all will do as long as none was shown.
+int CutTheRecovery(CutDisk& disk, const Story& story, const Cut& outer, int count,
+                   bool mayBeNone = false) {
+  disk.Begins(outer.Most);
+  disk.Shows(outer.Least);
+  disk.Record();
+  std::string why;
+  const int found = FoundWorld(disk, story.Worlds, outer.Least, outer.Most, story.Options, &why);
+  EXPECT_GE(found, 0) << outer.Where << ": " << why;
+  if (found < 0) return 0;
+  disk.Begins(found);
+  disk.Shows(found);
+  return ForSomeCuts(
+      disk, count, static_cast<std::uint64_t>(outer.Index), [&](CutDisk& after, const Cut& cut) {
+        if (mayBeNone && cut.Least == 0 && after.Look(kStore) == Disk::Kind::Nothing) return;
+        const int again = FoundWorld(after, story.Worlds, cut.Least, cut.Most, story.Options, &why);
+        EXPECT_GE(again, 0) << "first " << outer.Index << " " << outer.Where << ", then "
+                            << cut.Index << " " << cut.Where << ": " << why;
+      });
+}
+
+TEST(PowerCuts, WithinTheRecoveryFromAPowerCutDoNoHarm) {
+  int cuts = 0;
+  for (std::uint64_t seed = 21; seed <= 22; ++seed) {
+    const Story story = TellStory(16, seed);
+    ForEveryCut(story.Recorded, 1, seed, [&](CutDisk& after, const Cut& cut) {
+      cuts += CutTheRecovery(after, story, cut, 20);
+    });
+  }
+  RecordProperty("cuts", cuts);
+  EXPECT_GE(cuts, 5000);
+}
+
+TEST(PowerCuts, WithinTheRecoveryFromAKilledProcessDoNoHarm) {
+  int cuts = 0;
+  for (std::uint64_t seed = 31; seed <= 32; ++seed) {
+    const Story story = TellStory(16, seed);
+    ForEveryDeath(story.Recorded, [&](CutDisk& after, const Cut& cut) {
+      cuts += CutTheRecovery(after, story, cut, 20);
+    });
+  }
+  RecordProperty("cuts", cuts);
+  EXPECT_GE(cuts, 5000);
+}
+
+/// A new game over an old one (or over none), world 1 over world 0.
+struct Creation {
+  bool OverAnOldOne;
+  bool InOneStep;
+};
+
+class Creations : public testing::TestWithParam<Creation> {};
+
+TEST_P(Creations, LeaveTheOldSlotOrTheNewOne) {
+  const auto [overAnOldOne, inOneStep] = GetParam();
+  Story story{CutDisk(), {RandomWorlds(3, 41)[2], RandomWorlds(1, 42)[0]}, SmallJournal()};
+  CutDisk& disk = story.Recorded;
+  if (!inOneStep) disk.KnowNoExchange();
+  if (overAnOldOne) {
+    const auto old = RandomWorlds(3, 41);
+    Slot::Create(disk, kStore, NewFiles(old[0]), 1, story.Options);
+    // Not closed cleanly: what is swapped out has a journal in use.
+    Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, story.Options);
+    for (std::size_t i = 1; i < old.size(); ++i) slot.Commit(ChangesBetween(old[i - 1], old[i]));
+  }
+  disk.Record();
+  disk.Begins(1);
+  Slot::Create(disk, kStore, NewFiles(story.Worlds[1]), 2, story.Options);
+  disk.Shows(1);
+  const auto check = [&](CutDisk& after, const Cut& cut) {
+    if (!inOneStep) after.KnowNoExchange();
+    // No slot yet is the old state where there was none.
+    if (!overAnOldOne && cut.Least == 0 && after.Look(kStore) == Disk::Kind::Nothing) {
+      EXPECT_FALSE(Slot::Peek(after, kStore, StoreFiles(), "news.dat"));
+    } else {
+      const auto peeked = Slot::Peek(after, kStore, StoreFiles(), "staff.dat");
+      CutTheRecovery(after, story, cut, 2, !overAnOldOne);
+      const bool isNew = FoundWorld(after, story.Worlds, 0, 1, story.Options) == 1;
+      const Files& found = story.Worlds[isNew ? 1 : 0];
+      const auto wanted = found.find("staff.dat");
+      ASSERT_EQ(wanted != found.end(), peeked.has_value());
+      if (peeked) {
+        EXPECT_EQ(wanted->second, *peeked);
+      }
+    }
+    // Whatever stands there, the next new game finds its way.
+    Slot::Create(after, kStore, NewFiles(story.Worlds[1]), 3, story.Options);
+    EXPECT_EQ(1, FoundWorld(after, story.Worlds, 1, 1, story.Options));
+    for (const std::string& name : after.List(".")) EXPECT_TRUE(name == kStore) << name;
+  };
+  EXPECT_GE(ForEveryCut(disk, 20, 43, check), 500);
+  ForEveryDeath(disk, check);
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryWay, Creations,
+                         testing::Values(Creation{false, true}, Creation{true, true},
+                                         Creation{true, false}));
+
+}  // namespace
+}  // namespace grapplemont::test

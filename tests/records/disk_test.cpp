@@ -1,0 +1,312 @@
+#include "records/disk.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "support/cutdisk.h"
+#include "support/scratchfolder.h"
+#include "support/storeworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+/// The machine's disk and the double keep the same contract.
+class EveryDisk : public testing::TestWithParam<const char*> {
+ protected:
+  EveryDisk() {
+    const std::string which = GetParam();
+    if (which == "Double") {
+      disk_ = std::make_unique<CutDisk>();
+      disk_->MakeFolder("home");
+      home_ = "home";
+    } else {
+      disk_ = RealDisk(which == "Real" ? Syncs::Real : Syncs::None);
+      home_ = scratch_ / "home";
+      disk_->MakeFolder(home_);
+    }
+  }
+  std::string At(const std::string& name) const { return home_ + "/" + name; }
+  void Put(const std::string& name, std::string_view text) {
+    WriteFile(*disk_, At(name), BytesOf(text));
+  }
+  std::string Get(const std::string& name) {
+    const Bytes bytes = ReadFile(*disk_, At(name));
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+  }
+
+  ScratchFolder scratch_;
+  std::unique_ptr<Disk> disk_;
+  std::string home_;
+};
+
+INSTANTIATE_TEST_SUITE_P(, EveryDisk, testing::Values("Real", "Unsynced", "Double"),
+                         [](const auto& info) { return std::string(info.param); });
+
+TEST_P(EveryDisk, KeepsWhatIsWrittenWhereItIsWritten) {
+  const OpenedFile file(*disk_, At("a"), true);
+  disk_->WriteAt(file, 5000, BytesOf("behind"));
+  disk_->WriteAt(file, 0, BytesOf("first"));
+  EXPECT_EQ(5006, disk_->Size(file));
+  Bytes bytes(5006);
+  disk_->ReadAt(file, 0, bytes);
+  EXPECT_EQ(std::byte{'f'}, bytes[0]);
+  EXPECT_EQ(std::byte{0}, bytes[4999]);
+  EXPECT_EQ(std::byte{'b'}, bytes[5000]);
+  disk_->Resize(file, 5002);
+  disk_->Resize(file, 5006);
+  disk_->Allocate(file, 100000);
+  disk_->Sync(file);
+  disk_->SyncFolder(home_);
+  disk_->ReadAt(file, 5000, std::span(bytes).first(6));
+  EXPECT_EQ(BytesOf(std::string_view("be\0\0\0\0", 6)), Bytes(bytes.begin(), bytes.begin() + 6));
+  EXPECT_EQ(5006, disk_->Size(file));
+  EXPECT_THROW(disk_->ReadAt(file, 5000, std::span(bytes).first(7)), DiskError);
+}
+
+TEST_P(EveryDisk, TellsWhatStandsThere) {
+  Put("file", "x");
+  disk_->MakeFolder(At("folder"));
+  disk_->MakeFolder(At("folder"));
+  EXPECT_EQ(Disk::Kind::File, disk_->Look(At("file")));
+  EXPECT_EQ(Disk::Kind::Folder, disk_->Look(At("folder")));
+  EXPECT_EQ(Disk::Kind::Nothing, disk_->Look(At("nobody")));
+  EXPECT_EQ(Disk::Kind::Nothing, disk_->Look(At("file/below")));
+  EXPECT_EQ((std::vector<std::string>{"file", "folder"}), disk_->List(home_));
+}
+
+TEST_P(EveryDisk, RenamesSwapsAndRemoves) {
+  Put("a", "1");
+  Put("b", "2");
+  disk_->Rename(At("a"), At("b"));
+  EXPECT_EQ("1", Get("b"));
+  EXPECT_EQ(Disk::Kind::Nothing, disk_->Look(At("a")));
+  for (const char* folder : {"old", "new"}) {
+    disk_->MakeFolder(At(folder));
+    Put(std::string(folder) + "/name", folder);
+  }
+  if (disk_->Exchange(At("old"), At("new"))) {
+    EXPECT_EQ("new", Get("old/name"));
+    EXPECT_EQ("old", Get("new/name"));
+  }
+  EXPECT_THROW(disk_->Rename(At("new"), At("old")), DiskError);
+  EXPECT_THROW(disk_->Remove(At("old")), DiskError);
+  RemoveTree(*disk_, At("old"));
+  RemoveTree(*disk_, At("nobody"));
+  disk_->Remove(At("b"));
+  EXPECT_EQ(std::vector<std::string>{"new"}, disk_->List(home_));
+}
+
+TEST_P(EveryDisk, ReplacesAFileWhole) {
+  Put("a", "a long text to begin with");
+  Put("a.tmp", "what an earlier try left");
+  Put("a", "short");
+  EXPECT_EQ("short", Get("a"));
+  EXPECT_EQ(std::vector<std::string>{"a"}, disk_->List(home_));
+  Put("empty", "");
+  EXPECT_EQ("", Get("empty"));
+}
+
+TEST_P(EveryDisk, SaysWhatItCouldNotDo) {
+  const auto message = [&](auto action) {
+    try {
+      action();
+    } catch (const DiskError& fault) {
+      return std::string(fault.what());
+    }
+    return std::string("nothing");
+  };
+  const std::string missing = At("nobody");
+  EXPECT_TRUE(message([&] {
+                disk_->Open(missing, false);
+              }).starts_with("Could not open " + missing + ": No such file"));
+  for (const std::string& text :
+       {message([&] { disk_->List(missing); }), message([&] { disk_->Remove(missing); }),
+        message([&] { disk_->Rename(missing, At("b")); }),
+        message([&] { disk_->Open(missing + "/below", true); }),
+        message([&] { disk_->MakeFolder(missing + "/below"); })})
+    EXPECT_TRUE(text.find("nobody") != text.npos && text.ends_with("directory.")) << text;
+}
+
+TEST_P(EveryDisk, GivesALockToOneAtATime) {
+  EXPECT_TRUE(disk_->Lock(At("s1.lock")));
+  EXPECT_FALSE(disk_->Lock(At("s1.lock")));
+  EXPECT_TRUE(disk_->Lock(At("s2.lock")));
+  disk_->Unlock(At("s1.lock"));
+  disk_->Unlock(At("never taken"));
+  EXPECT_TRUE(disk_->Lock(At("s1.lock")));
+}
+
+// What only the machine's own disk has.
+
+TEST(TheMachinesDisk, LocksOutAnotherProgramUntilItIsGone) {
+  const ScratchFolder scratch;
+  const std::string path = scratch / "s1.lock";
+  int ready[2], leave[2];
+  ASSERT_EQ(0, ::pipe(ready));
+  ASSERT_EQ(0, ::pipe(leave));
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const auto other = RealDisk();
+    const char got = other->Lock(path) ? 'y' : 'n';
+    char end = 0;
+    const bool told = ::write(ready[1], &got, 1) == 1 && ::read(leave[0], &end, 1) == 1;
+    ::_exit(told ? 0 : 1);  // as a killed process: nothing is unlocked
+  }
+  char got = 0;
+  ASSERT_EQ(1, ::read(ready[0], &got, 1));
+  EXPECT_EQ('y', got);
+  const auto disk = RealDisk();
+  EXPECT_FALSE(disk->Lock(path));
+  ASSERT_EQ(1, ::write(leave[1], "x", 1));
+  int status = 0;
+  ASSERT_EQ(child, ::waitpid(child, &status, 0));
+  EXPECT_EQ(0, status);
+  EXPECT_TRUE(disk->Lock(path));
+  EXPECT_FALSE(RealDisk()->Lock(path));
+  for (const int end : {ready[0], ready[1], leave[0], leave[1]}) ::close(end);
+}
+
+TEST(TheMachinesDisk, FollowsNoLinksAndOpensPlainFilesOnly) {
+  const ScratchFolder scratch;
+  const auto disk = RealDisk();
+  WriteFile(*disk, scratch / "file", BytesOf("x"));
+  disk->MakeFolder(scratch / "folder");
+  std::filesystem::create_symlink(scratch / "file", scratch / "link");
+  ASSERT_EQ(0, ::mkfifo((scratch / "pipe").c_str(), 0600));
+  for (const char* name : {"link", "pipe"}) {
+    EXPECT_EQ(Disk::Kind::Other, disk->Look(scratch / name)) << name;
+    EXPECT_THROW(disk->Open(scratch / name, true), DiskError) << name;
+    EXPECT_THROW(disk->Open(scratch / name, false), DiskError) << name;
+  }
+  EXPECT_THROW(disk->Open(scratch / "folder", false), DiskError);
+  EXPECT_THROW(disk->MakeFolder(scratch / "file"), DiskError);
+  // A tree that is removed takes its links along, not what they lead to.
+  std::filesystem::create_symlink(scratch / "file", (scratch / "folder") + "/link");
+  RemoveTree(*disk, scratch / "folder");
+  EXPECT_EQ(Disk::Kind::File, disk->Look(scratch / "file"));
+}
+
+TEST(TheMachinesDisk, ReadsWhatMayOnlyBeRead) {
+  const ScratchFolder scratch;
+  const std::string path = scratch / "file";
+  WriteFile(*RealDisk(), path, BytesOf("text"));
+  ASSERT_EQ(0, ::chmod(path.c_str(), 0444));
+  ASSERT_EQ(0, ::chmod(ParentOf(path).c_str(), 0755));
+  const pid_t child = ::fork();
+  if (child == 0) {
+    // Root may write anything, so this is for somebody else.
+    const bool plain = ::geteuid() != 0 || ::setuid(65534) == 0;
+    const auto disk = RealDisk();
+    bool refused = false;
+    try {
+      disk->WriteAt(disk->Open(path, false), 0, BytesOf("x"));
+    } catch (const DiskError&) {
+      refused = true;
+    }
+    ::_exit(plain && refused && ReadFile(*disk, path) == BytesOf("text") ? 0 : 1);
+  }
+  int status = 1;
+  ASSERT_EQ(child, ::waitpid(child, &status, 0));
+  EXPECT_EQ(0, status);
+}
+
+TEST(ADiskError, NamesAPathInTheProgramsOwnLetters) {
+  EXPECT_STREQ("Could not open home/jos\xe9/s1: gone.",
+               DiskError("home/jos\xc3\xa9/s1", "open", "gone").what());
+  EXPECT_STREQ("Could not open a?: gone.", DiskError("a\xff", "open", "gone").what());
+  const DiskError fault("a", "write", "gone");
+  EXPECT_STREQ("Could not write a: gone. Sorry.", DiskError(fault, "Sorry.").what());
+  EXPECT_EQ("a", DiskError(fault, "Sorry.").Path());
+}
+
+TEST(AParent, IsTheFolderOfAPath) {
+  EXPECT_EQ("a/b", ParentOf("a/b/c"));
+  EXPECT_EQ(".", ParentOf("a"));
+  EXPECT_EQ("/", ParentOf("/a"));
+}
+
+// The double: what it cuts away and what not.
+
+TEST(ThePowerCutDouble, KeepsWhatWasSyncedAndNothingElseForSure) {
+  CutDisk disk;
+  disk.MakeFolder("s");
+  disk.SyncFolder(".");
+  const OpenedFile file(disk, "s/a", true);
+  disk.WriteAt(file, 0, Bytes(1000, std::byte{'1'}));
+  disk.Sync(file);
+  disk.SyncFolder("s");
+  disk.WriteAt(file, 0, Bytes(1000, std::byte{'2'}));
+  disk.Rename("s/a", "s/b");
+  bool kept = false, landed = false, torn = false, trashed = false, renamed = false, stayed = false;
+  Chance chance(81);
+  for (int i = 0; i < 2000; ++i) {
+    CutDisk after = disk.AfterPowerCut(chance);
+    const bool isNew = after.Look("s/b") == Disk::Kind::File;
+    (isNew ? renamed : stayed) = true;
+    ASSERT_NE(isNew, after.Look("s/a") == Disk::Kind::File);
+    const Bytes bytes = ReadFile(after, isNew ? "s/b" : "s/a");
+    ASSERT_EQ(1000u, bytes.size());
+    const auto count = [&](char letter) {
+      return std::count(bytes.begin(), bytes.end(), static_cast<std::byte>(letter));
+    };
+    kept |= count('1') == 1000;
+    landed |= count('2') == 1000;
+    torn |= count('1') == 512 && count('2') == 488;
+    trashed |= count('1') + count('2') < 600;
+  }
+  EXPECT_TRUE(kept && landed && torn && trashed && renamed && stayed);
+}
+
+TEST(ThePowerCutDouble, ForgetsWhatASyncFailedToWrite) {
+  int kept = 0;
+  for (int seed = 0; seed < 50; ++seed) {
+    CutDisk disk;
+    const OpenedFile file(disk, "a", true);
+    disk.SyncFolder(".");
+    disk.WriteAt(file, 0, Bytes(4096, std::byte{'1'}));
+    disk.Sync(file);
+    for (int i = 0; i < seed; ++i) disk.Look("a");  // another call, another luck
+    disk.WriteAt(file, 0, Bytes(4096, std::byte{'2'}));
+    disk.FailCall(1, Fault::Broken, false);
+    EXPECT_THROW(disk.Sync(file), DiskError);
+    // Every program still sees it, and a second sync is content.
+    EXPECT_EQ(Bytes(4096, std::byte{'2'}), ReadFile(disk, "a"));
+    disk.Sync(file);
+    Chance chance(82);
+    CutDisk after = disk.AfterPowerCut(chance);
+    kept += ReadFile(after, "a") == Bytes(4096, std::byte{'2'});
+  }
+  EXPECT_GT(kept, 0);
+  EXPECT_LT(kept, 40);
+}
+
+TEST(ThePowerCutDouble, KnowsItsMomentsAndTheirWorlds) {
+  CutDisk disk;
+  const OpenedFile file(disk, "a", true);
+  disk.SyncFolder(".");
+  disk.Record();
+  disk.Begins(1);
+  disk.WriteAt(file, 0, BytesOf("1"));
+  disk.Sync(file);
+  disk.Shows(1);
+  std::vector<std::string> moments;
+  const int cuts = ForEveryCut(disk, 30, 83, [&](CutDisk& after, const Cut& cut) {
+    const std::size_t size = ReadFile(after, "a").size();
+    EXPECT_GE(size, static_cast<std::size_t>(cut.Least)) << cut.Where;
+    const std::string moment =
+        cut.Where + " " + std::to_string(cut.Least) + ".." + std::to_string(cut.Most);
+    if (moments.empty() || moments.back() != moment) moments.push_back(moment);
+  });
+  EXPECT_EQ((std::vector<std::string>{"before the first call 0..1", "write a at 0, 1 0..1",
+                                      "sync a 0..1", "sync a 1..1"}),
+            moments);
+  EXPECT_EQ(120, cuts);
+}
+
+}  // namespace
+}  // namespace grapplemont::test

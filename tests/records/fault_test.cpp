@@ -1,0 +1,253 @@
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+#include "records/slot.h"
+#include "support/storeworld.h"
+
+// Every call fails, once and for good, with a full disk and with a broken one. Each time somebody
+// reads why, the world on disk is a committed one, the same as the one in memory, and the next step
+// works once the disk does.
+
+namespace grapplemont::test {
+namespace {
+
+struct Trouble {
+  Fault Kind;
+  bool ForGood;
+};
+
+void PrintTo(const Trouble& trouble, std::ostream* out) {
+  *out << (trouble.Kind == Fault::NoSpace ? "no space" : "broken")
+       << (trouble.ForGood ? ", for good" : ", once");
+}
+
+/// A player at a slot: the world in memory, and what the last exception left open.
+class Player {
+ public:
+  Player(CutDisk& disk, std::vector<Files> worlds)
+      : disk_(disk), worlds_(std::move(worlds)), world_(worlds_[0]) {}
+
+  /// Opens the slot, again if it must.
+  void Open() {
+    try {
+      Load();
+    } catch (const DiskError& fault) {
+      ExpectMessage(fault, "");
+      ExpectOnDisk({world_});
+      disk_.Heal();
+      Load();
+    }
+    ASSERT_EQ(world_, slot_->Files());
+  }
+
+  void Step(std::size_t number) {
+    const Files before = world_;
+    if (Try(worlds_[number])) return;
+    // A second try while the disk is still at fault changes nothing for the worse.
+    if (world_ == before) Try(worlds_[number]);
+    disk_.Heal();
+    const bool done = world_ != before || Try(worlds_[number]);
+    EXPECT_TRUE(done);
+    ExpectOnDisk({world_});
+  }
+
+  void Leave() {
+    try {
+      slot_->Checkpoint();
+    } catch (const DiskError& fault) {
+      ExpectMessage(fault, "");
+    }
+    slot_.reset();
+    disk_.Heal();
+    ExpectOnDisk({world_});
+  }
+
+  /// What may be on disk: the world in memory, and what was tried since if that is still open.
+  const std::vector<Files>& Possible() const { return possible_; }
+  const SlotOptions& Options() const { return options_; }
+
+  bool Try(const Files& next) {
+    const Files before = world_;
+    possible_ = {before, next};
+    try {
+      slot_->Commit(ChangesBetween(before, next));
+      world_ = next;
+      possible_ = {world_};
+      return true;
+    } catch (const DiskError& fault) {
+      const std::string text = fault.what();
+      if (slot_->Committed()) world_ = next;
+      ExpectMessage(fault, slot_->Committed() ? "Your last step is kept" : "was taken back");
+      // Only where recovery failed too may the step come up again.
+      const bool open = !slot_->Committed() && text.find("until the disk answers") != text.npos;
+      possible_ = open ? std::vector{before, next} : std::vector{world_};
+      ExpectOnDisk(possible_);
+      return false;
+    }
+  }
+
+ private:
+  void Load() {
+    slot_.reset();
+    slot_ = std::make_unique<Slot>(disk_, kStore, StoreFiles(), Damage::Refuse, options_);
+  }
+
+  static void ExpectMessage(const DiskError& fault, const std::string& part) {
+    const std::string text = fault.what();
+    EXPECT_TRUE(text.starts_with("Could not ") && text.find(part) != text.npos) << text;
+  }
+
+  /// Whatever comes next, a new process or a power cut.
+  void ExpectOnDisk(const std::vector<Files>& worlds) {
+    const int last = static_cast<int>(std::ssize(worlds)) - 1;
+    std::string why;
+    CutDisk restarted = disk_.Restarted();
+    EXPECT_GE(FoundWorld(restarted, worlds, 0, last, options_, &why), 0) << why;
+    Chance chance(static_cast<std::uint64_t>(disk_.Calls()));
+    for (int i = 0; i < 3; ++i) {
+      CutDisk after = disk_.AfterPowerCut(chance);
+      EXPECT_GE(FoundWorld(after, worlds, 0, last, options_, &why), 0) << why;
+    }
+  }
+
+  CutDisk& disk_;
+  std::vector<Files> worlds_;
+  Files world_;
+  std::vector<Files> possible_;
+  SlotOptions options_ = SmallJournal();
+  std::unique_ptr<Slot> slot_;
+};
+
+constexpr int kSteps = 9;
+
+CutDisk DiskWithSlot(const Files& world) {
+  CutDisk disk;
+  Slot::Create(disk, kStore, NewFiles(world), kStoreId, SmallJournal());
+  disk.Record();
+  return disk;
+}
+
+class FaultyDisks : public testing::TestWithParam<Trouble> {};
+
+TEST_P(FaultyDisks, CostNoWorldOnOpeningCommitsAndCheckpoints) {
+  const auto worlds = RandomWorlds(kSteps + 1, 61);
+  const CutDisk start = DiskWithSlot(worlds[0]);
+  int failed = 0;
+  for (int call = 1;; ++call) {
+    SCOPED_TRACE("call " + std::to_string(call));
+    CutDisk disk = start;
+    disk.FailCall(call, GetParam().Kind, GetParam().ForGood);
+    Player player(disk, worlds);
+    player.Open();
+    for (std::size_t step = 1; step <= kSteps; ++step) player.Step(step);
+    player.Leave();
+    ASSERT_FALSE(HasFailure());
+    failed += disk.HasFailed();
+    if (disk.Calls() < call) break;
+  }
+  RecordProperty("failures", failed);
+  EXPECT_GT(failed, 60);
+}
+
+TEST_P(FaultyDisks, CostNoSlotOnACreation) {
+  const std::vector<Files> worlds{RandomWorlds(1, 62)[0], RandomWorlds(1, 63)[0]};
+  const CutDisk start = DiskWithSlot(worlds[0]);
+  int failed = 0;
+  for (int call = 1;; ++call) {
+    SCOPED_TRACE("call " + std::to_string(call));
+    CutDisk disk = start;
+    disk.FailCall(call, GetParam().Kind, GetParam().ForGood);
+    bool told = false;
+    try {
+      Slot::Create(disk, kStore, NewFiles(worlds[1]), 2, SmallJournal());
+    } catch (const DiskError& fault) {
+      told = true;
+      EXPECT_TRUE(std::string(fault.what()).starts_with("Could not ")) << fault.what();
+    }
+    failed += disk.HasFailed();
+    disk.Heal();
+    CutDisk restarted = disk.Restarted();
+    EXPECT_GE(FoundWorld(restarted, worlds, told ? 0 : 1, 1, SmallJournal()), 0);
+    Slot::Create(disk, kStore, NewFiles(worlds[1]), 3, SmallJournal());
+    EXPECT_EQ(1, FoundWorld(disk, worlds, 1, 1, SmallJournal()));
+    EXPECT_EQ(std::vector<std::string>{kStore}, disk.List("."));
+    ASSERT_FALSE(HasFailure());
+    if (disk.Calls() < call) break;
+  }
+  EXPECT_GT(failed, 25);
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryCall, FaultyDisks,
+                         testing::Values(Trouble{Fault::NoSpace, false},
+                                         Trouble{Fault::NoSpace, true},
+                                         Trouble{Fault::Broken, false},
+                                         Trouble{Fault::Broken, true}));
+
+TEST(ADyingProcess, LeavesACommittedWorldAtEveryCall) {
+  const auto worlds = RandomWorlds(kSteps + 1, 64);
+  const CutDisk start = DiskWithSlot(worlds[0]);
+  for (int call = 1;; ++call) {
+    CutDisk disk = start;
+    disk.DieAtCall(call);
+    int shown = 0;
+    bool died = false;
+    try {
+      Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, SmallJournal());
+      for (std::size_t step = 1; step <= kSteps; ++step) {
+        slot.Commit(ChangesBetween(worlds[step - 1], worlds[step]));
+        shown = static_cast<int>(step);
+      }
+      slot.Checkpoint();
+    } catch (const ProcessDied&) {
+      died = true;
+    }
+    CutDisk restarted = disk.Restarted();
+    std::string why;
+    ASSERT_GE(
+        FoundWorld(restarted, worlds, shown, std::min(shown + 1, kSteps), SmallJournal(), &why), 0)
+        << "call " << call << ": " << why;
+    if (!died) break;
+  }
+}
+
+/// A sync fails, and the process dies before it can recover: the system shows pages that are not on
+/// disk and never will be. A new process builds on them, and then the power goes.
+TEST(AFailedSyncThatNobodyRecoveredFrom, IsNotBuiltUpon) {
+  const auto worlds = RandomWorlds(kSteps + 1, 65);
+  const CutDisk start = DiskWithSlot(worlds[0]);
+  int cuts = 0;
+  for (int call = 1;; ++call) {
+    CutDisk disk = start;
+    disk.FailCall(call, Fault::Broken, true);
+    std::vector<Files> possible{worlds[0]};
+    try {
+      Player player(disk, worlds);
+      player.Open();
+      for (std::size_t step = 1; step <= kSteps && !disk.HasFailed(); ++step) {
+        player.Try(worlds[step]);
+        possible = player.Possible();
+      }
+    } catch (const DiskError&) {
+    }
+    if (!disk.HasFailed()) break;
+    const int last = static_cast<int>(std::ssize(possible)) - 1;
+    CutDisk second = disk.Restarted();
+    second.Begins(last);
+    second.Record();
+    std::string why;
+    const int found = FoundWorld(second, possible, 0, last, SmallJournal(), &why);
+    ASSERT_GE(found, 0) << "call " << call << ": " << why;
+    second.Begins(found);
+    second.Shows(found);
+    cuts += ForEveryCut(
+        second, 1, static_cast<std::uint64_t>(call), [&](CutDisk& after, const Cut& cut) {
+          EXPECT_GE(FoundWorld(after, possible, cut.Least, cut.Most, SmallJournal(), &why), 0)
+              << "call " << call << " failed, then cut after " << cut.Where << ": " << why;
+        });
+  }
+  EXPECT_GT(cuts, 2000);
+}
+
+}  // namespace
+}  // namespace grapplemont::test

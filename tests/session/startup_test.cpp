@@ -1,0 +1,267 @@
+#include <gtest/gtest.h>
+
+#include "records/slot.h"
+#include "records/world.h"
+#include "session/slots.h"
+#include "support/homefolder.h"
+#include "support/smallworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+World TwoPromotions() {
+  return SmallWorld()
+      .Network("Channel Nine")
+      .Promotion("CWA", kCult)
+      .Owner("Ruth Vane")
+      .Crew(6)
+      .Worker("Mana Ger", kManager, 40)
+      .Worker("Commis Sioner", kNonWrestler, 50)
+      .Worker("Dev Hand", kDevelopmentDeal, 20)
+      .Worker("Camp Hand", kTrainingCamp, 5)
+      .Title("CWA Crown", "CWA Hand 1")
+      .Show("Friday Fire", "Friday", "Channel Nine")
+      .Promotion("NEW", kSmall)
+      .Crew(4)
+      .Build();
+}
+
+TEST(TitleScreen, LeadsOnWithAClick) {
+  HomeFolder home(TwoPromotions());
+  home.Desk.Open("frmTitleScreen");
+  home.Desk.Click("imgtitle");
+  EXPECT_EQ(home.Desk.TopName(), "frmDisclaimer");
+  EXPECT_EQ(home.Desk.Screens().size(), 1u);
+  home.Desk.Click("imgback");
+  EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
+}
+
+TEST(TitleScreen, EndsTheProgramWithoutItsPictures) {
+  for (const char* picture : {"gfx/vxm_back.jpg", "gfx/vxm_title.jpg"}) {
+    HomeFolder home(TwoPromotions());
+    home.Remove(picture);
+    home.Desk.ExpectSay("Error Loading",
+                        "Sorry, some graphics files seem to be missing, and so the game cannot "
+                        "load.\nPlease see the help file that comes with this game for details on "
+                        "what files should be placed in which directory.");
+    home.Desk.Open("frmTitleScreen");
+    EXPECT_TRUE(home.Desk.Empty());
+  }
+}
+
+TEST(Disclaimer, TellsOfEveryFileAndStopsWhereOneIsMissing) {
+  HomeFolder home(TwoPromotions());
+  home.Desk.Open("frmDisclaimer");
+  EXPECT_EQ(home.Desk.Text("lblbelt"), "Belt.dat data file found!");
+  EXPECT_EQ(home.Desk.Text("lblwrestler"), "Wrestler.dat data file found!");
+  EXPECT_FALSE(home.Desk.Visible("lblverdict"));
+  home.Desk.CloseAll();
+  home.Remove("data/belt.dat");
+  home.Remove("data/tv.dat");
+  home.Remove("data/wrestler.dat");
+  home.Desk.Open("frmDisclaimer");
+  EXPECT_EQ(home.Desk.Text("lblbelt"), "ERROR : belt.dat data file missing!");
+  EXPECT_EQ(home.Desk.Text("lblevent"), "Event.dat data file found!");
+  EXPECT_EQ(home.Desk.Text("lbltv"), "ERROR : tv.dat data file missing!");
+  EXPECT_EQ(home.Desk.Text("lblwrestler"), "ERROR : Wrestler.dat data file missing!");
+  EXPECT_FALSE(home.Desk.Enabled("cmdcontinue"));
+  const std::string verdict = home.Desk.Text("lblverdict");
+  EXPECT_NE(verdict.find("belt.dat, tv.dat, wrestler.dat"), std::string::npos) << verdict;
+  home.Desk.ExpectSay("Error!", verdict);
+  home.Desk.Click("imgback");
+  EXPECT_EQ(home.Desk.TopName(), "frmDisclaimer");
+}
+
+TEST(GameMenu, OpensItsScreensAndAsksBeforeItEnds) {
+  HomeFolder home(TwoPromotions());
+  home.Desk.Open("frmGameMenu");
+  for (const auto& [button, screen] : {std::pair{"cmdnewgame", "frmNewGame"},
+                                       {"cmdloadgame", "frmLoadGame"},
+                                       {"cmdcredits", "frmCredits"}}) {
+    home.Desk.Click(button);
+    EXPECT_EQ(home.Desk.TopName(), screen);
+    home.Desk.Click("cmdback");
+    EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
+  }
+  home.Desk.Click("cmdcredits");
+  home.Desk.Click("cmdothers");
+  EXPECT_EQ(home.Desk.TopName(), "frmCreditsXtra");
+  home.Desk.Click("cmdback");
+  home.Desk.Click("cmdback");
+  home.Desk.ExpectAsk("Quit?", "Are you sure you want to quit?", false);
+  home.Desk.Click("cmdquit");
+  EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
+  home.Desk.ExpectAsk("Quit?", "Are you sure you want to quit?", true);
+  home.Desk.Click("cmdquit");
+  EXPECT_TRUE(home.Desk.Empty());
+}
+
+TEST(NewGameScreen, ShowsThePromotionPicked) {
+  HomeFolder home(TwoPromotions());
+  home.Desk.Open("frmNewGame");
+  EXPECT_EQ(home.Desk.Text("lblsize"), "Cult");
+  EXPECT_EQ(home.Desk.Text("cmbdifficulty"), "Medium");
+  EXPECT_EQ(home.Desk.Text("lblfacts"), "The game begins on Wednesday, 01 April 2026.");
+  EXPECT_EQ(home.Desk.Rows("lstshows"),
+            (std::vector<std::vector<std::string>>{
+                {"Friday Fire", "Channel Nine", "Friday", home.Desk.Rows("lstshows")[0][3]}}));
+  EXPECT_EQ(home.Desk.Rows("lstbelts")[0][1], "CWA Hand 1");
+  EXPECT_EQ(home.Desk.Rows("lststaff")[0][1], "Owner");
+  const auto roster = home.Desk.FirstColumn("lstroster");
+  for (const char* name : {"Mana Ger (Manager)", "Commis Sioner (Non-Wrestler)",
+                           "Dev Hand (Development)", "Camp Hand (Training Camp)"})
+    EXPECT_NE(std::find(roster.begin(), roster.end(), name), roster.end()) << name;
+  home.Desk.Pick("cmbPromo", 2);
+  EXPECT_EQ(home.Desk.Text("lblsize"), "Small");
+  EXPECT_EQ(home.Desk.Rows("lstroster").size(), 4u);
+  EXPECT_EQ(home.Desk.Text("lblowner"), "None");
+}
+
+TEST(NewGameScreen, WantsAName) {
+  HomeFolder home(TwoPromotions());
+  home.Desk.Open("frmNewGame");
+  for (const char* name : {"", "   "}) {
+    home.Desk.Type("txtname", name);
+    home.Desk.ExpectSay("Error!", "Please enter your name first.");
+    home.Desk.Click("cmdbegin");
+    EXPECT_EQ(home.Desk.TopName(), "frmNewGame");
+  }
+  home.Desk.Type("txtname", std::string(300, 'x'));
+  EXPECT_EQ(home.Desk.Text("txtname"), std::string(25, 'x'));
+}
+
+TEST(NewGameScreen, SaysWhichFileOfTheDataIsNoFile) {
+  HomeFolder home(TwoPromotions());
+  home.Write("data/promos.dat", std::string(309 * 36, 'x'));
+  home.Desk.Open("frmGameMenu");
+  home.Desk.ExpectSay("Error!", kAnyText);
+  home.Desk.Click("cmdnewgame");
+  EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
+  EXPECT_NE(home.Desk.Boxes().back().Text.find("promos.dat"), std::string::npos);
+}
+
+TEST(PickSaveSlot, LeavesTheSlotAloneWithoutAName) {
+  HomeFolder home(TwoPromotions());
+  home.Write("s1/news.dat", "stale");
+  home.Desk.Open("frmNewGame");
+  home.Desk.Type("txtname", "Pat Lee");
+  home.Desk.Click("cmdbegin");
+  EXPECT_EQ(home.Desk.Text("cmdload1"), "<<<Empty Slot>>>");
+  EXPECT_EQ(home.Desk.Text("cmdload8"), "<<<Empty Slot>>>");
+  home.Desk.ExpectPrompt("User Entry", "Save Game Name:", "", "Save Game 1");
+  home.Desk.Click("cmdload1");
+  EXPECT_EQ(home.Desk.TopName(), "frmPickSaveSlot");
+  EXPECT_EQ(RealDisk()->List(home.Path("s1")), std::vector<std::string>{"news.dat"});
+}
+
+TEST(PickSaveSlot, MakesAGameThatIsThereWhenItIsLoaded) {
+  HomeFolder home(TwoPromotions());
+  home.Write("s1/news.dat", std::string(290, 'x'));
+  home.StartNewGame();
+  EXPECT_EQ(home.Play.World().News().Count(), 1) << "the old mail is gone, the welcome is there";
+  EXPECT_EQ(home.Desk.Text("txtdate"), "Wednesday, 01 April 2026");
+  EXPECT_EQ(home.Desk.Text("txtname"), "Pat Lee");
+  EXPECT_EQ(home.Desk.Text("cmdfed"), "CWA");
+  home.Desk.ExpectAsk("Quit?", "Are you sure you want to quit?", true);
+  home.Desk.Click("cmdquit");
+  EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
+  home.Desk.Click("cmdloadgame");
+  EXPECT_EQ(home.Desk.Text("cmdload1"), "First");
+  EXPECT_EQ(home.Desk.Text("lbldetails1"),
+            "( Medium level, started April 2026, current date April 2026)");
+  EXPECT_FALSE(home.Desk.Enabled("cmdload2"));
+  home.Desk.Click("cmdload1");
+  EXPECT_EQ(home.Desk.TopName(), "frmMainScreen");
+  EXPECT_EQ(home.Desk.Text("txtname"), "Pat Lee");
+}
+
+TEST(PickSaveSlot, AsksBeforeItOverwrites) {
+  HomeFolder home(TwoPromotions());
+  home.StartNewGame("First Player");
+  home.Desk.ExpectAsk("Quit?", kAnyText, true);
+  home.Desk.Click("cmdquit");
+  home.Desk.Click("cmdnewgame");
+  home.Desk.Type("txtname", "Second Player");
+  home.Desk.Pick("cmbdifficulty", "Rock Hard");
+  home.Desk.Click("cmdbegin");
+  home.Desk.ExpectAsk("Are you sure?", "Are you sure you want to overwrite this slot?", false);
+  home.Desk.Click("cmdload1");
+  EXPECT_EQ(home.Desk.TopName(), "frmPickSaveSlot");
+  home.Desk.ExpectAsk("Are you sure?", "Are you sure you want to overwrite this slot?", true);
+  home.Desk.ExpectPrompt("User Entry", "Save Game Name:", "Again", "Save Game 1");
+  home.Desk.ExpectSay("Database creation",
+                      "The database for this game will now be created.\nThis process can take up "
+                      "to 10 minutes depending on the speed of your machine.\nDo not press "
+                      "ctrl-alt-del while it is happening, as you will corrupt your data.");
+  home.Desk.Click("cmdload1");
+  EXPECT_EQ(home.Desk.Text("txtname"), "Second Player");
+  EXPECT_EQ(home.Play.World().Game().Difficulty, kRockHard);
+}
+
+TEST(LoadGame, TellsOfSlotsThatCannotBePlayed) {
+  HomeFolder home(TwoPromotions());
+  home.StartNewGame();
+  Bytes info = ReadFile(*RealDisk(), home.Path("s1/gameinfo.dat"));
+  std::string old(reinterpret_cast<const char*>(info.data()), info.size());
+  old.replace(429, 11, "Version 1.0");
+  home.Write("s2/gameinfo.dat", old);
+  home.Write("s3/gameinfo.dat", old.substr(0, 100));
+  home.Write("s4/gameinfo.dat/inside", "a folder");
+  home.Desk.Open("frmLoadGame");
+  EXPECT_EQ(home.Desk.Text("cmdload1"), "First");
+  for (const char* slot : {"cmdload2", "cmdload3"})
+    EXPECT_EQ(home.Desk.Text(slot), "Save Slot Not In 2.0 Format");
+  EXPECT_EQ(home.Desk.Text("cmdload4"), "Slot Cannot Be Read");
+  for (const char* slot : {"cmdload2", "cmdload3", "cmdload4", "cmdload5"})
+    EXPECT_FALSE(home.Desk.Enabled(slot)) << slot;
+}
+
+TEST(LoadGame, SaysWhenAnotherProgramHasTheSlot) {
+  HomeFolder home(TwoPromotions());
+  home.StartNewGame();
+  home.Play.CloseSlot();
+  home.Desk.CloseAll();
+  const auto other = RealDisk();
+  const Slot held(*other, home.Path("s1"), KnownFiles());
+  home.Desk.Open("frmLoadGame");
+  home.Desk.ExpectSay("Error!", kAnyText);
+  home.Desk.Click("cmdload1");
+  EXPECT_EQ(home.Desk.TopName(), "frmLoadGame");
+  EXPECT_NE(home.Desk.Boxes().back().Text.find("another program"), std::string::npos);
+  EXPECT_FALSE(home.Play.HasWorld());
+}
+
+TEST(LoadGame, RefusesAGameWhosePromotionIsGone) {
+  HomeFolder home(TwoPromotions());
+  home.StartNewGame();
+  home.Play.World().Promotions().Remove();
+  home.Play.Commit();
+  home.Play.CloseSlot();
+  home.Desk.CloseAll();
+  home.Desk.Open("frmLoadGame");
+  home.Desk.ExpectSay("Error!", kAnyText);
+  home.Desk.Click("cmdload1");
+  EXPECT_EQ(home.Desk.TopName(), "frmLoadGame");
+  EXPECT_NE(home.Desk.Boxes().back().Text.find("PlayerPromotion"), std::string::npos);
+}
+
+TEST(LoadingScreens, ShowTheSetsAndHowToAddOnesOwn) {
+  HomeFolder home(TwoPromotions());
+  home.Write("gfx/VXM_Set2_01.jpg", "picture");
+  home.Write("gfx/VXM_Set2_03.jpg", "picture");
+  home.Desk.Open("frmLoadingScreens");
+  EXPECT_EQ(home.Desk.Text("cmbset"), "Graphics Set Default");
+  home.Desk.Pick("cmbset", "Graphics Set 2");
+  EXPECT_EQ(home.Desk.Text("lbltext"),
+            "To use this graphics set (maximum 10 graphics per set), please add your "
+            "VXM_Set2_01.jpg to VXM_Set2_10.jpg. They must be in order, and there must be at least "
+            "1 graphic present.");
+  EXPECT_EQ(home.Desk.Text("lblcount"), "1 of 2, VXM_Set2_01.jpg");
+  home.Desk.Click("cmdnext");
+  EXPECT_EQ(home.Desk.Text("lblcount"), "2 of 2, VXM_Set2_03.jpg");
+  home.Desk.Pick("cmbset", "Graphics Set 3");
+  EXPECT_FALSE(home.Desk.Enabled("cmdnext"));
+}
+
+}  // namespace
+}  // namespace grapplemont::test

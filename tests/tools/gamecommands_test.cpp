@@ -1,0 +1,167 @@
+#include <nlohmann/json.hpp>
+
+#include "records/checkworld.h"
+#include "toolhome.h"
+
+namespace grapplemont::test {
+namespace {
+
+class GameCommands : public ToolHome {
+ protected:
+  Ran New(const std::string& slot, const std::string& seed, const std::string& promotion = "CWA") {
+    return Run({"new", "--home", Home, "--slot", slot, "--player", "Pat Lee", "--promotion",
+                promotion, "--difficulty", "3", "--start", "2026-03-09", "--seed", seed});
+  }
+  Ran Days(const std::string& slot, const std::string& days,
+           std::vector<std::string> more = {"--shows", "cancel"}) {
+    std::vector<std::string> all = {"run",  "--home", Home,     "--slot", slot,
+                                    "--days", days,   "--seed", "4"};
+    all.insert(all.end(), more.begin(), more.end());
+    return Run(all);
+  }
+  World Saved(const std::string& slot) {
+    Slot files(*Machine, In("s" + slot), KnownFiles());
+    World world;
+    world.Load(files.Files());
+    return world;
+  }
+};
+
+TEST_F(GameCommands, NewBeginsTheGameThatWasChosen) {
+  BuildSmallData();
+  const Ran ran = New("2", "11");
+  EXPECT_EQ(0, ran.Code) << ran.Errors;
+  EXPECT_EQ("Slot 2: Pat Lee takes over CWA Wrestling (Hard) on Wednesday, 01 April 2026.\n",
+            ran.Out);
+  const World world = Saved("2");
+  EXPECT_EQ("Pat Lee", world.Game().PlayerName.View());
+  EXPECT_EQ("Save Game 2", world.Game().SaveName.View());
+  EXPECT_EQ("CWA", world.Player().Initials.View());
+  EXPECT_EQ(kHard, world.Game().Difficulty);
+  for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
+}
+
+TEST_F(GameCommands, NewMakesTheSameWorldFromTheSameSeed) {
+  BuildSmallData();
+  for (const auto& [slot, seed] : {std::pair("1", "11"), {"2", "11"}, {"3", "12"}})
+    ASSERT_EQ(0, New(slot, seed).Code);
+  const auto wrestlers = [&](const char* slot) {
+    return RecordFiles(slot).at("wrestler.dat");
+  };
+  EXPECT_EQ(wrestlers("s1"), wrestlers("s2"));
+  EXPECT_NE(wrestlers("s1"), wrestlers("s3"));
+  ASSERT_EQ(0, New("1", "12").Code) << "a game takes the place of another";
+  EXPECT_EQ(wrestlers("s1"), wrestlers("s3"));
+}
+
+TEST_F(GameCommands, NewSaysWhatIsNotThere) {
+  std::filesystem::create_directories(In("data"));
+  EXPECT_EQ(
+      "grapplemont-world new: H/data/belt.dat is missing. Build the default world first.\n",
+      New("1", "1").Errors);
+  BuildSmallData();
+  const Ran ran = New("1", "1", "CWAA");
+  EXPECT_EQ(1, ran.Code);
+  EXPECT_EQ(
+      "grapplemont-world new: promos.dat: no promotion has the initials CWAA; did you mean CWA?\n",
+      ran.Errors);
+  EXPECT_FALSE(std::filesystem::exists(In("s1")));
+  EXPECT_EQ("grapplemont-world new: \"H/none\" is no folder.\n",
+            Run({"new", "--home", In("none"), "--slot", "1", "--player", "P", "--promotion", "CWA"})
+                .Errors);
+}
+
+TEST_F(GameCommands, RunPlaysTheDaysAndKeepsThem) {
+  BuildSmallData();
+  ASSERT_EQ(0, New("1", "11").Code);
+  const Ran ran = Days("1", "45");
+  EXPECT_EQ(0, ran.Code) << ran.Errors;
+  EXPECT_EQ("After 45 days it is Saturday, 16 May 2026.\n", ran.Out);
+  EXPECT_EQ("", ran.Errors);
+  const World world = Saved("1");
+  EXPECT_EQ(Day(std::chrono::year{2026} / 5 / 16), world.Today());
+  for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
+  EXPECT_EQ("After 0 days it is Saturday, 16 May 2026.\n", Days("1", "0").Out);
+  EXPECT_EQ("After 1 day it is Sunday, 17 May 2026.\n", Days("1", "1").Out);
+}
+
+TEST_F(GameCommands, RunGivesTheSameBytesFromTheSameSeed) {
+  BuildSmallData();
+  ASSERT_EQ(0, New("1", "11").Code);
+  ASSERT_EQ(0, New("2", "11").Code);
+  ASSERT_EQ(0, Days("1", "70").Code);
+  const Ran unsynced = Days("2", "70", {"--no-sync"});
+  EXPECT_EQ(0, unsynced.Code);
+  EXPECT_EQ("There is no auto booker yet: the player's shows are cancelled.\n", unsynced.Errors);
+  EXPECT_EQ(RecordFiles("s1"), RecordFiles("s2"));
+}
+
+TEST_F(GameCommands, RunSumsUpEveryMonth) {
+  BuildSmallData();
+  ASSERT_EQ(0, New("1", "11").Code);
+  ASSERT_EQ(0, Days("1", "61", {"--shows", "cancel", "--stats", In("stats")}).Code);
+  std::istringstream lines(Read("stats"));
+  std::vector<nlohmann::json> months;
+  for (std::string line; std::getline(lines, line);) months.push_back(nlohmann::json::parse(line));
+  ASSERT_EQ(2u, months.size());
+  EXPECT_EQ("2026-05-01", months[0]["date"]);
+  EXPECT_EQ("2026-06-01", months[1]["date"]);
+  const World world = Saved("1");
+  const nlohmann::json& last = months[1];
+  EXPECT_EQ(2, last["promotions"]["all"]);
+  EXPECT_EQ(1, last["promotions"]["Cult"]);
+  EXPECT_EQ(0, last["promotions"]["Global"]);
+  EXPECT_EQ("CWA", last["player"]["promotion"]);
+  EXPECT_EQ("Cult", last["player"]["size"]);
+  EXPECT_EQ(int(world.Player().Money), last["player"]["money"]);
+  EXPECT_EQ(int(world.Player().Image), last["player"]["image"]);
+  EXPECT_EQ(world.News().Count(), last["mails"]);
+  int employed = 0, over = 0;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer != 0) {
+      ++employed;
+      over += worker.Over;
+    }
+  EXPECT_EQ(employed, last["workers"]["employed"]);
+  EXPECT_EQ(world.Workers().Count() - employed, last["workers"]["free"]);
+  EXPECT_NEAR(double(over) / employed, last["workers"]["meanOver"].get<double>(), 0.005);
+}
+
+TEST_F(GameCommands, RunStopsWhenTheCareerEnds) {
+  World over = Small().Game("CWA", kGameStart, [](GameInfo& game) { game.EndCode = 3; });
+  Slot::Create(*Machine, In("s1"), FilesOf(over), 1);
+  const auto before = RecordFiles("s1");
+  const Ran ran = Days("1", "30");
+  EXPECT_EQ(0, ran.Code) << ran.Errors;
+  EXPECT_EQ("The career ended after 0 days, on Sunday, 01 March 2026 (reason 3).\n", ran.Out);
+  EXPECT_EQ(before, RecordFiles("s1"));
+
+  World challenged = Small().Game("CWA", kGameStart, [](GameInfo& game) { game.EndCode = 100; });
+  Slot::Create(*Machine, In("s2"), FilesOf(challenged), 1);
+  EXPECT_EQ("After 3 days it is Wednesday, 04 March 2026.\n", Days("2", "3").Out);
+}
+
+TEST_F(GameCommands, RunTellsOfItsProgressOnlyToATerminal) {
+  World world = Small().Game("CWA");
+  Slot::Create(*Machine, In("s1"), FilesOf(world), 1);
+  const Ran ran = Run({"run", "--home", Home, "--slot", "1", "--days", "2", "--shows", "cancel"}, true);
+  EXPECT_EQ("\r2026-03-02, day 1 of 2\r2026-03-03, day 2 of 2\r\x1B[K", ran.Errors);
+  EXPECT_EQ("After 2 days it is Tuesday, 03 March 2026.\n", ran.Out);
+}
+
+TEST_F(GameCommands, RunSaysWhyASlotCannotBePlayed) {
+  EXPECT_EQ("grapplemont-world run: Slot 4 is empty.\n", Days("4", "1").Errors);
+  World old = Small().Game("CWA", kGameStart, [](GameInfo& game) { game.Version = "Version 1.0"; });
+  Slot::Create(*Machine, In("s1"), FilesOf(old), 1);
+  EXPECT_EQ("grapplemont-world run: Slot 1: Save Slot Not In 2.0 Format.\n", Days("1", "1").Errors);
+  World open = Small().Game("CWA");
+  Slot::Create(*Machine, In("s2"), FilesOf(open), 1);
+  Slot held(*Machine, In("s2"), KnownFiles());
+  const Ran busy = Days("2", "1");
+  EXPECT_EQ(1, busy.Code);
+  EXPECT_EQ("", busy.Out);
+  EXPECT_EQ(1, std::count(busy.Errors.begin(), busy.Errors.end(), '\n')) << busy.Errors;
+}
+
+}  // namespace
+}  // namespace grapplemont::test

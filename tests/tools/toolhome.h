@@ -1,0 +1,99 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "records/slot.h"
+#include "records/worldtables.h"
+#include "support/smallworld.h"
+#include "tools/tool.h"
+
+namespace grapplemont::test {
+
+/// A home folder for one test, and the tool to work in it.
+class ToolHome : public ::testing::Test {
+ protected:
+  struct Ran {
+    int Code = 0;
+    std::string Out, Errors;
+  };
+
+  ToolHome() {
+    std::string name = (std::filesystem::temp_directory_path() / "grapplemont-XXXXXX").string();
+    if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
+    Home = name;
+  }
+  ~ToolHome() override { std::filesystem::remove_all(Home); }
+
+  Ran Run(const std::vector<std::string>& arguments, bool terminal = false) {
+    std::ostringstream out, errors;
+    const auto today = [] { return Day(std::chrono::year{2026} / 3 / 20); };
+    const int code = tools::RunWorldTool(arguments, {out, errors, terminal, today});
+    // What a test expects does not depend on where its home is.
+    return {code, Homeless(out.str()), Homeless(errors.str())};
+  }
+
+  std::string In(const std::string& name) const { return Home + "/" + name; }
+
+  std::string Read(const std::string& name) const {
+    std::ifstream file(In(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  void Write(const std::string& name, const std::string& text) const {
+    std::filesystem::create_directories(std::filesystem::path(In(name)).parent_path());
+    std::ofstream(In(name), std::ios::binary) << text;
+  }
+  /// The record files of a folder, by name.
+  std::map<std::string, std::string> RecordFiles(const std::string& folder) const {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : std::filesystem::directory_iterator(In(folder)))
+      if (entry.path().extension() == ".dat")
+        files[entry.path().filename()] = Read(folder + "/" + entry.path().filename().string());
+    return files;
+  }
+
+  /// Two promotions with all ten files, as default data.
+  static SmallWorld Small() {
+    SmallWorld small;
+    small.Network("Nine")
+        .Promotion("CWA", kCult)
+        .Owner("Ruth Vane")
+        .Crew(8)
+        .Team("The Hands", "CWA Hand 2", "CWA Hand 3")
+        .Stable("The Bench", {"CWA Hand 1"})
+        .Title("CWA Crown", "CWA Hand 1")
+        .Show("Friday Fire", "Friday", "Nine")
+        .Event(3)
+        .Promotion("NEW", kSmall)
+        .Crew(6)
+        .OnTheMarket()
+        .Sponsor("Gulp");
+    return small;
+  }
+  void WriteSmallTables(const std::string& folder) {
+    WriteTables(*Machine, In(folder), ExportWorld(Small()));
+  }
+  void BuildSmallData() {
+    WriteSmallTables("world");
+    const Ran ran = Run({"build", In("world"), In("data")});
+    ASSERT_EQ(0, ran.Code) << ran.Errors;
+  }
+
+  std::string Home;
+  std::unique_ptr<Disk> Machine = RealDisk();
+
+ private:
+  std::string Homeless(std::string text) const {
+    for (auto at = text.find(Home); at != std::string::npos; at = text.find(Home))
+      text.replace(at, Home.size(), "H");
+    return text;
+  }
+};
+
+}  // namespace grapplemont::test
