@@ -1,5 +1,7 @@
 #include "desktop/letters.h"
 
+#include <QList>
+
 #include "records/charset.h"
 
 namespace grapplemont::desktop {

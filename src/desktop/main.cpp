@@ -13,13 +13,13 @@ namespace {
 using namespace grapplemont;
 
 int Play(QApplication& app) {
-  RealDisk disk;
-  const std::string home = FindHome(disk);
+  const std::unique_ptr<Disk> disk = RealDisk();
+  const std::string home = FindHome(*disk);
   const QString folder = QString::fromStdString(home);
   app.setWindowIcon(QIcon(folder + "/gfx/icon.png"));
 
   desktop::WindowDesk desk;
-  Game game(desk, disk, {.Home = home});
+  Game game(desk, *disk, {.Home = home});
   RegisterScreens(game);
   desktop::Window::Options options;
   options.Pictures = folder + "/gfx";

@@ -13,11 +13,11 @@ class TableHeading : public QHeaderView {
   TableHeading(const TableModel& model, QWidget* parent);
   /// The width that a heading needs with its marks.
   int HeadingWidth(int column) const;
+  QSize sizeHint() const override;
   std::function<void(int column, bool second)> Clicked;
 
  protected:
   void paintSection(QPainter* painter, const QRect& rect, int column) const override;
-  QSize sizeHint() const override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 

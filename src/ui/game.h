@@ -24,7 +24,7 @@ class Game : public ui::Work {
   struct Options {
     std::string Home = ".";  // holds data/, gfx/ and s1/ to s8/
     Clock Today = MachineToday;
-    std::optional<std::uint64_t> Seed;  // none: from the operating system
+    std::optional<std::uint64_t> Seed = {};  // none: from the operating system
   };
   Game(ui::Desk& desk, Disk& disk, Options options);
   ~Game() override;

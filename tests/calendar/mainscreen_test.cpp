@@ -66,7 +66,7 @@ TEST(MainScreen, OffersOnlyTheScreensThatAreThere) {
     if (!play.Desk.Knows(screen)) continue;
     play.Desk.Click(button);
     EXPECT_EQ(play.Desk.TopName(), screen);
-    play.Desk.Click("cmdback");
+    play.Desk.Click(play.Desk.Top()->Layout().Cancel->Name());
     EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
   }
 }

@@ -65,8 +65,8 @@ What
   imgdoor          Picture      door.jpg (can be clicked)
   imgback          Picture      back.jpg
 
-Type: click NAME, type NAME TEXT, pick NAME ROW-or-TEXT, open NAME
-ROW-or-TEXT, check NAME on|off, slide NAME VALUE, show [NAME], help, quit
+Type: click NAME, type NAME TEXT, pick NAME ROW-or-TEXT, open NAME ROW-or-TEXT,
+check NAME on|off, slide NAME VALUE, show [NAME], help, quit
 )";
   const auto expected = LinesOf(kExpected), shown = LinesOf(Shown("show\n"));
   for (std::size_t i = 0; i < std::max(expected.size(), shown.size()); ++i)

@@ -109,6 +109,7 @@ TEST_P(Creations, LeaveTheOldSlotOrTheNewOne) {
   disk.Begins(1);
   Slot::Create(disk, kStore, NewFiles(story.Worlds[1]), 2, story.Options);
   disk.Shows(1);
+  int inner = 0;  // cuts within each recovery
   const auto check = [&](CutDisk& after, const Cut& cut) {
     if (!inOneStep) after.KnowNoExchange();
     // No slot yet is the old state where there was none.
@@ -116,7 +117,7 @@ TEST_P(Creations, LeaveTheOldSlotOrTheNewOne) {
       EXPECT_FALSE(Slot::Peek(after, kStore, StoreFiles(), "news.dat"));
     } else {
       const auto peeked = Slot::Peek(after, kStore, StoreFiles(), "staff.dat");
-      CutTheRecovery(after, story, cut, 2, !overAnOldOne);
+      CutTheRecovery(after, story, cut, inner, !overAnOldOne);
       const bool isNew = FoundWorld(after, story.Worlds, 0, 1, story.Options) == 1;
       const Files& found = story.Worlds[isNew ? 1 : 0];
       const auto wanted = found.find("staff.dat");
@@ -130,7 +131,9 @@ TEST_P(Creations, LeaveTheOldSlotOrTheNewOne) {
     EXPECT_EQ(1, FoundWorld(after, story.Worlds, 1, 1, story.Options));
     for (const std::string& name : after.List(".")) EXPECT_TRUE(name == kStore) << name;
   };
+  inner = 2;
   EXPECT_GE(ForEveryCut(disk, 20, 43, check), 500);
+  inner = 60;
   ForEveryDeath(disk, check);
 }
 

@@ -50,6 +50,8 @@ class Player {
     const bool done = world_ != before || Try(worlds_[number]);
     EXPECT_TRUE(done);
     ExpectOnDisk({world_});
+    for (const std::string& name : disk_.List(kStore))
+      EXPECT_FALSE(name.ends_with(".room")) << name;
   }
 
   void Leave() {
