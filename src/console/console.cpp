@@ -97,7 +97,10 @@ std::optional<Command> Console::NextCommand() {
     if (settings_.Prompt) out_ << "> ";
     out_.flush();
     const auto line = out_ ? ReadLine(in_) : std::nullopt;
-    if (!line) break;
+    if (!line) {
+      if (settings_.Prompt) out_ << "\n";
+      break;
+    }
     due_ = true;
     std::string why;
     const auto letters = Letters(*line, answer_.Error);

@@ -56,7 +56,7 @@ void Veil::PlaceCard() {
   const QSize most = size() - QSize(2 * Px(kMargin), 2 * Px(kMargin));
   QSize wanted = wanted_.isValid() ? QSize(Px(wanted_.width()), Px(wanted_.height()))
                                    : card_->sizeHint();
-  if (wanted_.isValid()) wanted = wanted.expandedTo(card_->minimumSizeHint());
+  if (wanted_.isValid()) wanted = wanted.expandedTo(card_->sizeHint());
   wanted = wanted.boundedTo(most);
   if (!wanted_.isValid() && card_->layout() && card_->layout()->hasHeightForWidth())
     wanted.setHeight(

@@ -107,6 +107,8 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption* option,
       if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
         return DrawMenuItem(*item, *painter);
       break;
+    case CE_HeaderEmptyArea:
+      return;
     case CE_ComboBoxLabel:
       if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
         const Colours& c = ColoursOf(option->palette);
@@ -129,6 +131,12 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
   if (control == CC_ComboBox)
     if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option))
       return DrawCombo(*combo, *painter);
+  if (control == CC_SpinBox) {
+    QStyleOptionFrame field;
+    field.QStyleOption::operator=(*option);
+    field.lineWidth = 1;
+    return drawPrimitive(PE_PanelLineEdit, &field, painter, widget);
+  }
   if (const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
     if (control == CC_Slider)
       return DrawSlider(*slider, *painter, subControlRect(control, option, SC_SliderHandle, widget));

@@ -155,6 +155,7 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option
   const QSize given = QProxyStyle::sizeFromContents(type, option, size, widget);
   switch (type) {
     case CT_LineEdit:
+    case CT_SpinBox:
       return {given.width(), Px(32)};
     case CT_ComboBox:
       return {given.width() + Px(20), Px(32)};

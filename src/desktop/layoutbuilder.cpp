@@ -35,6 +35,13 @@ bool IsPlainRow(const Box& box) {
          !std::all_of(box.Parts.begin(), box.Parts.end(), IsButton);
 }
 
+/// Whether some part of a column takes the room that is left over.
+bool Fills(const Box& box) {
+  return std::any_of(box.Parts.begin(), box.Parts.end(), [](const Box& part) {
+    return part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
+  });
+}
+
 bool GrowsByItself(const ui::Control& control) {
   switch (control.Is()) {
     case ui::Kind::ListBox:
@@ -87,10 +94,10 @@ void LayoutBuilder::Build(const Box& root, QVBoxLayout* into) {
 
 /// Boxes one below the other. Room that nobody wants stays at the end.
 void LayoutBuilder::AddAll(const std::vector<Box>& boxes, QBoxLayout* into) {
+  for (std::size_t at = 0; at < boxes.size();) at = AddRun(boxes, at, into);
   const bool filled = std::any_of(boxes.begin(), boxes.end(), [](const Box& box) {
     return box.Is == Kind::Spacer || box.Stretch > 0 || Grows(box);
   });
-  for (std::size_t at = 0; at < boxes.size();) at = AddRun(boxes, at, into);
   if (!filled) into->addStretch(1);
 }
 
@@ -134,7 +141,10 @@ void LayoutBuilder::Add(const Box& box, QBoxLayout* into) {
       auto* rows = new QVBoxLayout;
       rows->setSpacing(Px(inCard_ ? kClose : kWide));
       into->addLayout(rows, std::max(box.Stretch, Grows(box) || !inCard_ ? 1 : 0));
-      return AddAll(box.Parts, rows);
+      if (!inCard_ || Fills(box)) return AddAll(box.Parts, rows);
+      into->setAlignment(rows, Qt::AlignTop);  // it must not ask its card for more
+      for (std::size_t at = 0; at < box.Parts.size();) at = AddRun(box.Parts, at, rows);
+      return;
     }
     case Kind::Columns:
       return AddColumns(box, into);

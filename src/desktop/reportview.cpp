@@ -14,7 +14,7 @@ namespace {
 
 using Style = ui::Report::Style;
 
-constexpr double kLine = 175;  // per cent of the letters' height
+constexpr double kLine = 26.2;  // from one line of prose to the next, in drawn pixels
 
 QTextCharFormat LettersOf(Style style, const Colours& colours) {
   QTextCharFormat format;
@@ -39,7 +39,11 @@ QTextCharFormat LettersOf(Style style, const Colours& colours) {
 QTextBlockFormat BlockOf(Style style, bool first) {
   QTextBlockFormat format;
   const bool prose = style == Style::Body;
-  format.setLineHeight(prose ? kLine : 130, QTextBlockFormat::ProportionalHeight);
+  if (prose) {
+    format.setLineHeight(Px(kLine), QTextBlockFormat::FixedHeight);
+  } else {
+    format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
+  }
   format.setTopMargin(first ? 0 : Px(style == Style::Heading ? 14 : style == Style::Strong ? 8 : 0));
   format.setBottomMargin(Px(prose ? 6 : 4));
   return format;

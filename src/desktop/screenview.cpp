@@ -1,5 +1,6 @@
 #include "desktop/screenview.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollArea>
 #include <algorithm>
@@ -28,7 +29,7 @@ bool Contains(const std::vector<ui::Control*>& controls, const ui::Control* cont
 /// A body that scrolls when the window is too low for it.
 class Scroller : public QScrollArea {
  public:
-  explicit Scroller(QWidget* parent) : QScrollArea(parent) {
+  Scroller(QWidget* parent, bool tight) : QScrollArea(parent), tight_(tight) {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
@@ -38,7 +39,12 @@ class Scroller : public QScrollArea {
     setWidget(body);
     body->setAutoFillBackground(false);
   }
-  QSize sizeHint() const override { return widget()->sizeHint(); }
+  QSize sizeHint() const override {
+    return tight_ ? widget()->minimumSizeHint() : widget()->sizeHint();
+  }
+
+ private:
+  bool tight_;  // asks for what the body needs, not for what it would like
 };
 
 }  // namespace
@@ -59,6 +65,9 @@ ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget
     BuildPage();
   }
   DressPictures();
+  for (ControlView* view : views_)
+    if (&view->Shows() == page_.Main) main_ = dynamic_cast<ButtonView*>(view);
+  if (main_) main_->SetGold(true);
   Refresh();
 }
 
@@ -179,7 +188,7 @@ void ScreenView::BuildActions(QBoxLayout* into) {
 }
 
 void ScreenView::BuildBody(QVBoxLayout* into) {
-  auto* scroller = new Scroller(this);
+  auto* scroller = new Scroller(this, Grows(page_.Body));
   auto* body = new QWidget(scroller);
   auto* column = new QVBoxLayout(body);
   column->setContentsMargins(0, 0, 0, 0);
@@ -189,9 +198,6 @@ void ScreenView::BuildBody(QVBoxLayout* into) {
   into->addWidget(scroller, 1);
   views_.insert(views_.end(), builder.Views().begin(), builder.Views().end());
   cards_ = builder.Cards();
-  for (ControlView* view : views_)
-    if (&view->Shows() == page_.Main) main_ = dynamic_cast<ButtonView*>(view);
-  if (main_) main_->SetGold(true);
 }
 
 /// The only table of a page has its search line beside the page's title.
@@ -272,6 +278,12 @@ bool ScreenView::FocusSearch() {
     auto* table = dynamic_cast<TableView*>(view);
     return table && table->isVisible() && table->FocusSearch();
   });
+}
+
+/// A click beside everything is one on the picture behind.
+void ScreenView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && behind_ && behind_->OnClick && behind_->Enabled)
+    stage_.Act([&] { return ui::Click(stage_.Desk(), *screen_, behind_->Name()); });
 }
 
 void ScreenView::paintEvent(QPaintEvent*) {

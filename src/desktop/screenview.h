@@ -39,6 +39,7 @@ class ScreenView : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   void BuildPage();

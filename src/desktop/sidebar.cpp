@@ -18,7 +18,7 @@ namespace grapplemont::desktop {
 namespace {
 
 constexpr int kWidth = 188;
-constexpr int kLine = 26, kLeastLine = 21, kHeading = 29, kLeastHeading = 22;
+constexpr int kLine = 26, kLeastLine = 21, kHeading = 28, kLeastHeading = 22;
 constexpr int kSide = 16;
 
 class Heading : public QWidget {
@@ -32,7 +32,7 @@ class Heading : public QWidget {
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0.8);
     painter.setFont(font);
     painter.setPen(ColoursOf(this).Muted);
-    painter.drawText(rect().adjusted(Px(kSide), 0, 0, -Px(6)), Qt::AlignBottom, title_);
+    painter.drawText(rect().adjusted(Px(kSide), 0, 0, -Px(5)), Qt::AlignBottom, title_);
   }
 
  private:

@@ -143,6 +143,9 @@ void TableGrid::DrawCursor(QPainter& painter) {
   if (!hasFocus() || CurrentRow() < 0) return;
   const QRect row(0, rowViewportPosition(CurrentRow()), viewport()->width(),
                   rowHeight(CurrentRow()));
+  // A selected row stands out already.
+  if (model_.Table().RowAt(CurrentRow()).Selected)
+    return painter.fillRect(QRect(0, row.top(), Px(2), row.height() - 1), ColoursOf(this).Blue);
   DrawFocus(painter, QRectF(row).adjusted(0, 0, 0, -1), Px(3), palette());
 }
 

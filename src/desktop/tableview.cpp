@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 #include "desktop/button.h"
@@ -25,9 +26,15 @@ constexpr int kMeasuredRows = 200;  // rows that are measured one by one for a c
 
 /// What the search line offers, in the table's own words.
 QString SearchHint(const ui::ListBox& list) {
-  for (const ui::Column& column : list.Columns())
-    if (ui::IsNumeric(column.Kind) && column.Kind != ui::ColumnKind::Date && !column.Title.empty())
+  for (std::size_t i = 0; i < list.Columns().size(); ++i) {
+    const ui::Column& column = list.Columns()[i];
+    const bool number = column.Kind == ui::ColumnKind::Number ||
+                        column.Kind == ui::ColumnKind::Percent;
+    const bool plain = list.Count() == 0 || i >= list.Rows().front().Cells.size() ||
+                       list.Rows().front().Cells[i].Text.find('/') == std::string::npos;
+    if (number && plain && !column.Title.empty())
       return "Filter: a word, " + Shown(column.Title) + " >60\u2026";
+  }
   return "Filter: a word, !word\u2026";
 }
 
@@ -212,13 +219,17 @@ void TableView::FitColumns() {
     shares.push_back(share);
     room -= widths[i];
   }
-  const double all = std::accumulate(shares.begin(), shares.end(), 0.0);
-  for (std::size_t i = 0; room > 0 && all > 0 && i < shown.size(); ++i)
-    widths[i] += static_cast<int>(room * shares[i] / all);
+  double all = std::accumulate(shares.begin(), shares.end(), 0.0);
+  for (std::size_t i = 0; room > 0 && all > 0 && i < shown.size(); ++i) {
+    const int more = static_cast<int>(std::lround(room * shares[i] / all));
+    widths[i] += more;
+    room -= more;
+    all -= shares[i];
+  }
   while (room < 0) {
     const auto excess = [&](std::size_t i) {
       const bool text = list_.Columns()[Index(shown[i])].Kind == ui::ColumnKind::Text;
-      const int least = std::max(grid_->Heading().HeadingWidth(shown[i]), Px(72));
+      const int least = std::max(grid_->Heading().HeadingWidth(shown[i]), Px(i == 0 ? 110 : 72));
       return text && shares[i] >= 0 ? widths[i] - least : 0;
     };
     std::size_t widest = 0;

@@ -34,6 +34,7 @@ Window::Window(WindowDesk& desk, Options options)
       full_(new QStackedLayout(ground_)) {
   desk_.window_ = this;
   ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
+  setPalette(QApplication::palette());
   setWindowTitle("Grapplemont");
   setCentralWidget(ground_);
   setMinimumSize(kLeastSize);

@@ -63,6 +63,7 @@ void Window::SetZoom(int zoom) {
 void Window::Relook() {
   RetireAll();
   ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
+  setPalette(QApplication::palette());
   Sync();
 }
 

@@ -39,14 +39,12 @@ std::string ReferenceInWords(Refers to) {
   }
 }
 
+/// "dollars, 0 to 1000"
 std::string NumberInWords(const Field& field) {
-  std::string text;
-  if (field.Min == -32768 || field.Min == -2147483648LL)
-    text = "a whole number, also below 0";
-  else
-    text = std::to_string(field.Min) + " to " + std::to_string(field.Max);
-  if (!field.Unit.empty()) text += " " + std::string(field.Unit);
-  return text;
+  const bool any = field.Min == -32768 || field.Min == -2147483648LL;
+  return (field.Unit.empty() ? "" : std::string(field.Unit) + ", ") +
+         (any ? "any whole number"
+              : std::to_string(field.Min) + " to " + std::to_string(field.Max));
 }
 
 std::string GoesIn(const Field& field) {

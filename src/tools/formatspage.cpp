@@ -75,13 +75,17 @@ std::string NumberRange(const Field& field) {
   return range + (field.MayBeNone ? ", or -1" : "");
 }
 
+std::string Stored(const Field& field, const Term& term) {
+  if (field.Kind == FieldKind::Text) return "\"" + std::string(term.Stored) + "\"";
+  return std::to_string(term.Code);
+}
+
 std::string Range(const Field& field) {
   std::string words;
   for (const Term& term : field.Words) {
     if (!words.empty()) words += ", ";
-    words += field.Kind == FieldKind::Text ? "\"" + std::string(term.Stored) + "\""
-                                           : std::to_string(term.Code);
-    words += " " + std::string(term.Says);
+    words += Stored(field, term);
+    if (term.Stored != term.Says) words += " " + std::string(term.Says);
   }
   if (!words.empty()) return words;
   switch (field.Kind) {

@@ -1,5 +1,7 @@
 #include "console/command.h"
 
+#include <random>
+
 #include "console/lines.h"
 #include "console/served.h"
 
@@ -169,6 +171,28 @@ TEST(Commands, SurviveALineOfAnyLength) {
   ASSERT_EQ(answers.size(), 2u);
   EXPECT_EQ(answers[0].at("error"), "The line is longer than 2097152 bytes.");
   EXPECT_FALSE(answers[1].contains("error"));
+}
+
+TEST(Commands, OfAnyKindGetOneAnswerEach) {
+  const std::vector<std::string> kWords = {
+      "show",        "click",     "type",     "pick",     "open",      "check",
+      "slide",       "ok",        "yes",      "no",       "enter",     "cancel",
+      "help",        "cmddoit",   "cmdsay",   "cmdask",   "cmdoff",    "cmdprompt",
+      "cmdthrow",    "cmdhidden", "txtname",  "txtnotes", "lstpeople", "lstmany",
+      "cmbkind",     "chkday",    "optheel",  "hsprice",  "imgdoor",   "rptshow",
+      "Bram Okafor", "on",        "off",      "1",        "3",         "-7",
+      "99",          "\xC3\x89",  "\xE2\x82", "\t",       "\r",        std::string(1, '\0'),
+      "\\n",         "\x7F",      "\xFF",     "\""};
+  std::mt19937 chance(7);
+  std::string lines;
+  constexpr int kLines = 3000;
+  for (int line = 0; line < kLines; ++line) {
+    // Mostly what could be meant: a verb, a name, an argument.
+    for (auto words = chance() % 4; words > 0; --words)
+      lines += kWords[chance() % kWords.size()] + (chance() % 8 == 0 ? "" : " ");
+    lines += chance() % 9 == 0 ? "\r\n" : "\n";
+  }
+  EXPECT_EQ(Answers(Served(lines, kJson)).size(), static_cast<std::size_t>(kLines));
 }
 
 TEST(Commands, GoOnAfterAHandlerThrew) {

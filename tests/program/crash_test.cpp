@@ -1,0 +1,241 @@
+#include <gtest/gtest.h>
+
+#include "program/program.h"
+#include "records/slot.h"
+#include "records/slotfolder.h"
+#include "records/world.h"
+#include "support/cutdisk.h"
+#include "support/smallworld.h"
+#include "ui/acts.h"
+#include "ui/game.h"
+
+// The whole program over a disk that loses its power, dies or fails at any call: a new game, next
+// days, a mail deleted, a clean exit.
+
+namespace grapplemont::test {
+namespace {
+
+constexpr const char* kSlot = "h/s1";
+
+/// A player who reads every message and says yes to every question.
+class PatientDesk : public ui::Desk {
+ public:
+  void Say(const std::string& title, const std::string& text) override {
+    if (title == "Error!") Errors.push_back(text);
+  }
+  bool Ask(const std::string&, const std::string&, ui::Default) override { return true; }
+  std::string Prompt(const std::string&, const std::string&, const std::string& offered) override {
+    return offered;
+  }
+  void Click(const char* name) { ui::Click(*this, *Top(), name); }
+  std::vector<std::string> Errors;
+};
+
+/// The program in a home "h" of this disk.
+struct Running {
+  explicit Running(CutDisk& disk)
+      : Play(Desk, disk, {"h", [] { return Day{std::chrono::year{2026} / 6 / 28}; }, 5}) {
+    RegisterScreens(Play);
+  }
+  PatientDesk Desk;
+  Game Play;
+
+  void NewGame() {
+    Desk.Open("frmNewGame");
+    ui::Type(Desk, *Desk.Top(), "txtname", "Pat Lee");
+    Desk.Click("cmdbegin");
+    Desk.Click("cmdload1");
+  }
+  void Load() {
+    Play.OpenSlot(1);
+    Desk.Open("frmMainScreen");
+  }
+  void DeleteAMail() {
+    Desk.Click("cmdnews");
+    Desk.Click("cmddelete");
+    Desk.Click("cmdback");
+  }
+  std::map<std::string, Bytes> Files() { return BytesOf(Play.World()); }
+};
+
+/// A disk with default data of two promotions and no slot.
+CutDisk FreshHome() {
+  CutDisk disk;
+  const World data = SmallWorld()
+                         .Network("Nine")
+                         .Promotion("CWA", kCult)
+                         .Owner("Ruth Vane")
+                         .Crew(8)
+                         .Promotion("NEW", kSmall)
+                         .Crew(4)
+                         .Build();
+  disk.MakeFolder("h");
+  disk.MakeFolder("h/data");
+  for (const auto& [name, bytes] : BytesOf(data)) WriteFile(disk, "h/data/" + name, bytes);
+  for (const char* folder : {"h/data", "h", "."}) disk.SyncFolder(folder);
+  return disk;
+}
+
+/// What stands in the slot, read by the real code; empty where there is no slot.
+std::map<std::string, Bytes> Found(CutDisk& disk) {
+  if (StandingFolder(disk, kSlot).empty()) return {};
+  const Slot slot(disk, kSlot, KnownFiles());
+  return slot.Files();
+}
+
+/// A run that was recorded, and the world after each of its clicks; world 0 is no slot at all.
+struct Story {
+  CutDisk Disk = FreshHome();
+  std::vector<std::map<std::string, Bytes>> Worlds{{}};
+};
+
+Story PlayOnce() {
+  Story story;
+  Running run(story.Disk);
+  const auto click = [&](const std::function<void()>& what) {
+    story.Disk.Begins(static_cast<int>(story.Worlds.size()));
+    what();
+    story.Worlds.push_back(run.Files());
+    story.Disk.Shows(static_cast<int>(story.Worlds.size()) - 1);
+  };
+  story.Disk.Record();
+  click([&] { run.NewGame(); });
+  click([&] { run.Desk.Click("cmdnext"); });
+  click([&] { run.DeleteAMail(); });
+  click([&] { run.Desk.Click("cmdnext"); });
+  run.Play.CloseSlot();
+  EXPECT_TRUE(run.Desk.Errors.empty());
+  return story;
+}
+
+std::string Difference(const std::map<std::string, Bytes>& found,
+                       const std::map<std::string, Bytes>& expected) {
+  for (const auto& [name, bytes] : expected) {
+    const auto file = found.find(name);
+    if (file == found.end()) return name + " is missing of " + std::to_string(found.size()) + " files";
+    if (file->second != bytes)
+      return name + " has " + std::to_string(file->second.size()) + " bytes, expected " +
+             std::to_string(bytes.size());
+  }
+  return found.size() > expected.size() ? "a file too many" : "";
+}
+
+void ExpectACommittedWorld(const Story& story, CutDisk& after, const Cut& cut) {
+  const auto found = Found(after);
+  for (int world = cut.Least; world <= cut.Most; ++world)
+    if (found == story.Worlds[static_cast<std::size_t>(world)]) return;
+  ADD_FAILURE() << "no world from " << cut.Least << " to " << cut.Most << " after " << cut.Where
+                << ": " << Difference(found, story.Worlds[static_cast<std::size_t>(cut.Most)]);
+}
+
+TEST(Crashes, LeaveAWorldThatWasShownOrTheNextOne) {
+  const Story story = PlayOnce();
+  const int cuts = ForEveryCut(story.Disk, 5, 77, [&](CutDisk& after, const Cut& cut) {
+    ExpectACommittedWorld(story, after, cut);
+  });
+  EXPECT_GE(cuts, 200);
+  ForEveryDeath(story.Disk,
+                [&](CutDisk& after, const Cut& cut) { ExpectACommittedWorld(story, after, cut); });
+}
+
+/// A disk with a game that is one day old, and a mail.
+CutDisk GameOnDisk() {
+  CutDisk disk = FreshHome();
+  Running run(disk);
+  run.NewGame();
+  run.Play.CloseSlot();
+  return disk;
+}
+
+struct FaultCase {
+  Fault Kind;
+  bool ForGood;
+};
+
+class Faults : public testing::TestWithParam<FaultCase> {};
+
+/// The click fails at each of its disk calls in turn: there is a message, the world in memory and
+/// the one on disk are committed ones, and once the disk answers again the game goes on.
+void ExpectToSurvive(const FaultCase& fault, const CutDisk& home, void (*click)(Running&)) {
+  CutDisk counted = home.Restarted();
+  Running smooth(counted);
+  smooth.Load();
+  const auto before = smooth.Files();
+  const int from = counted.Calls();
+  click(smooth);
+  const int calls = counted.Calls() - from;
+  const auto after = smooth.Files();
+  ASSERT_GT(calls, 0);
+  for (int call = 1; call <= calls; ++call) {
+    SCOPED_TRACE("call " + std::to_string(call) + " of " + std::to_string(calls));
+    CutDisk disk = home.Restarted();
+    Running run(disk);
+    run.Load();
+    disk.FailCall(call, fault.Kind, fault.ForGood);
+    click(run);
+    EXPECT_EQ(run.Desk.Errors.empty(), !disk.HasFailed()) << "the player is told";
+    ASSERT_TRUE(run.Play.HasWorld());
+    const auto held = run.Files();
+    EXPECT_TRUE(held == before || held == after) << "in memory";
+    disk.Heal();
+    CutDisk later = disk.Restarted();
+    const auto found = Found(later);
+    EXPECT_TRUE(found == before || found == after) << "on disk";
+    while (run.Desk.Top()->Name() != "frmMainScreen") run.Desk.Click("cmdback");
+    run.Desk.Errors.clear();
+    const Day today = run.Play.World().Today();
+    run.Desk.Click("cmdnext");
+    EXPECT_TRUE(run.Desk.Errors.empty()) << run.Desk.Errors.front();
+    EXPECT_EQ(run.Play.World().Today(), today + std::chrono::days{1}) << "the game goes on";
+    CutDisk atLast = disk.Restarted();
+    EXPECT_TRUE(Found(atLast) == run.Files()) << "and is on disk";
+    if (testing::Test::HasFailure()) return;
+  }
+}
+
+TEST_P(Faults, OfANextDayAreSurvived) {
+  ExpectToSurvive(GetParam(), GameOnDisk(), [](Running& run) { run.Desk.Click("cmdnext"); });
+}
+
+TEST_P(Faults, OfAMailDeletedAreSurvived) {
+  ExpectToSurvive(GetParam(), GameOnDisk(), [](Running& run) { run.DeleteAMail(); });
+}
+
+TEST_P(Faults, OfANewGameLeaveTheOldOne) {
+  CutDisk home = GameOnDisk();
+  const auto before = Found(home);
+  CutDisk counted = home.Restarted();
+  {
+    Running smooth(counted);
+    smooth.NewGame();
+  }
+  for (int call = 1; call <= counted.Calls(); ++call) {
+    SCOPED_TRACE("call " + std::to_string(call));
+    CutDisk disk = home.Restarted();
+    Running run(disk);
+    disk.FailCall(call, GetParam().Kind, GetParam().ForGood);
+    run.NewGame();
+    disk.Heal();
+    const bool opened = run.Play.HasWorld();
+    const auto held = opened ? run.Files() : before;
+    run.Play.CloseSlot();
+    CutDisk later = disk.Restarted();
+    const auto found = Found(later);
+    const bool isNew = found != before && !found.empty() && found.contains("gameinfo.dat");
+    EXPECT_TRUE(found == before || isNew) << "whole, the old one or the new";
+    EXPECT_TRUE(!opened || found == held);
+    if (testing::Test::HasFailure()) return;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Each, Faults,
+    testing::Values(FaultCase{Fault::NoSpace, false}, FaultCase{Fault::NoSpace, true},
+                    FaultCase{Fault::Broken, false}, FaultCase{Fault::Broken, true}),
+    [](const auto& info) {
+      return std::string(info.param.Kind == Fault::NoSpace ? "NoSpace" : "Broken") +
+             (info.param.ForGood ? "ForGood" : "Once");
+    });
+
+}  // namespace
+}  // namespace grapplemont::test
