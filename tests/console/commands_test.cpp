@@ -185,7 +185,7 @@ TEST(Commands, OfAnyKindGetOneAnswerEach) {
       "\\n",         "\x7F",      "\xFF",     "\""};
   std::mt19937 chance(7);
   std::string lines;
-  constexpr int kLines = 3000;
+  constexpr int kLines = 1000;
   for (int line = 0; line < kLines; ++line) {
     // Mostly what could be meant: a verb, a name, an argument.
     for (auto words = chance() % 4; words > 0; --words)

@@ -41,7 +41,8 @@ struct Running {
   Game Play;
 
   void NewGame() {
-    Desk.Open("frmNewGame");
+    Desk.Open("frmGameMenu");
+    Desk.Click("cmdnewgame");
     ui::Type(Desk, *Desk.Top(), "txtname", "Pat Lee");
     Desk.Click("cmdbegin");
     Desk.Click("cmdload1");
