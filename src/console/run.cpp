@@ -4,7 +4,8 @@
 #include <stdexcept>
 
 #include "console/options.h"
-#include "program/program.h"
+#include "program/home.h"
+#include "program/screens.h"
 #include "records/charset.h"
 
 namespace grapplemont::console {

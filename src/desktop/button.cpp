@@ -12,7 +12,7 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kSide = 15;       // room beside the caption
+constexpr int kSide = 15;        // room beside the caption
 constexpr int kEnterWidth = 12;  // of the sign
 constexpr int kGap = 8;
 constexpr int kBadgeHeight = 17;

@@ -54,13 +54,12 @@ Veil::Veil(QWidget* ground) : FocusRing(ground), card_(new Card(this)) {
 
 void Veil::PlaceCard() {
   const QSize most = size() - QSize(2 * Px(kMargin), 2 * Px(kMargin));
-  QSize wanted = wanted_.isValid() ? QSize(Px(wanted_.width()), Px(wanted_.height()))
-                                   : card_->sizeHint();
+  QSize wanted =
+      wanted_.isValid() ? QSize(Px(wanted_.width()), Px(wanted_.height())) : card_->sizeHint();
   if (wanted_.isValid()) wanted = wanted.expandedTo(card_->sizeHint());
   wanted = wanted.boundedTo(most);
   if (!wanted_.isValid() && card_->layout() && card_->layout()->hasHeightForWidth())
-    wanted.setHeight(
-        std::min(most.height(), card_->layout()->totalHeightForWidth(wanted.width())));
+    wanted.setHeight(std::min(most.height(), card_->layout()->totalHeightForWidth(wanted.width())));
   const int top = atTop_ ? Px(80) : std::max(0, (height() - wanted.height()) / 2);
   card_->setGeometry((width() - wanted.width()) / 2, top, wanted.width(), wanted.height());
 }

@@ -93,8 +93,9 @@ ChartView::Scale ChartView::MakeScale() const {
   scale.High = std::ceil(high / scale.Step) * scale.Step;
   scale.Count = Count();
   const QFontMetrics small(SmallFont());
-  const int left = std::max(FiguresWidth(small, Short(scale.Low)),
-                            FiguresWidth(small, Short(scale.High))) + Px(8);
+  const int left =
+      std::max(FiguresWidth(small, Short(scale.Low)), FiguresWidth(small, Short(scale.High))) +
+      Px(8);
   const bool named = std::any_of(chart_.Lines->begin(), chart_.Lines->end(),
                                  [](const auto& series) { return !series.Name.empty(); });
   const int top = small.height() + (named ? small.height() + Px(6) : 0);
@@ -133,7 +134,8 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
   const auto& lines = chart_.Lines.Get();
   const double gap = std::min<double>(Px(6), scale.Slot() * 0.2);
-  const double width = (scale.Slot() - gap) / static_cast<double>(std::max<std::size_t>(1, lines.size()));
+  const double width =
+      (scale.Slot() - gap) / static_cast<double>(std::max<std::size_t>(1, lines.size()));
   for (std::size_t s = 0; s < lines.size(); ++s) {
     const int count = static_cast<int>(lines[s].Values.size());
     for (int place = 0; place < count; ++place) {
@@ -149,8 +151,8 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
       const QFontMetrics small(SmallFont());
       if (FiguresWidth(small, number) > width + gap) continue;
       painter.setPen(now ? c.Gold : c.Muted);
-      DrawFigures(painter, QRectF(bar.left(), bar.top() - small.height() - 1, bar.width(),
-                                  small.height()),
+      DrawFigures(painter,
+                  QRectF(bar.left(), bar.top() - small.height() - 1, bar.width(), small.height()),
                   Qt::AlignHCenter, number);
     }
   }
@@ -159,8 +161,8 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
 void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
   for (const auto& series : chart_.Lines.Get()) {
-    painter.setPen(QPen(TextColour(c, series.Colour), 2, Qt::SolidLine, Qt::RoundCap,
-                        Qt::RoundJoin));
+    painter.setPen(
+        QPen(TextColour(c, series.Colour), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     QPolygonF run;
     const auto finish = [&] {
       run.size() == 1 ? painter.drawPoint(run.front()) : painter.drawPolyline(run);
@@ -187,8 +189,7 @@ void ChartView::DrawNames(QPainter& painter) const {
   for (const auto& series : chart_.Lines.Get()) {
     if (series.Name.empty()) continue;
     const QString name = Shown(series.Name);
-    const QColor mark =
-        chart_.Bars ? FillColour(c, series.Colour) : TextColour(c, series.Colour);
+    const QColor mark = chart_.Bars ? FillColour(c, series.Colour) : TextColour(c, series.Colour);
     DrawBox(painter, QRectF(x, small.height() / 2.0 - Px(4), Px(8), Px(8)), mark, QColor(), 2);
     x += Px(8) + Px(6);
     painter.setPen(c.Muted);
@@ -204,18 +205,18 @@ void ChartView::DrawHover(QPainter& painter, const Scale& scale) const {
   if (at < chart_.Captions->size()) words << Shown(chart_.Captions.Get()[at]);
   for (const auto& series : chart_.Lines.Get()) {
     if (at >= series.Values.size() || !std::isfinite(series.Values[at])) continue;
-    const QString number = QString::number(series.Values[at], 'f', series.Values[at] == std::floor(series.Values[at]) ? 0 : 2);
+    const QString number = QString::number(
+        series.Values[at], 'f', series.Values[at] == std::floor(series.Values[at]) ? 0 : 2);
     words << (series.Name.empty() ? number : Shown(series.Name) + " " + number);
     if (!chart_.Bars)
-      DrawBox(painter,
-              QRectF(scale.X(hover_) - 4, scale.Y(series.Values[at]) - 4, 8, 8),
+      DrawBox(painter, QRectF(scale.X(hover_) - 4, scale.Y(series.Values[at]) - 4, 8, 8),
               TextColour(c, series.Colour), c.Card, 4);
   }
   const QString text = words.join(" \u00B7 ");
   const QFontMetrics small(SmallFont());
   const double width = small.horizontalAdvance(text) + Px(16);
-  const double x = std::clamp(scale.X(hover_) - width / 2, 0.0,
-                              std::max(0.0, this->width() - width));
+  const double x =
+      std::clamp(scale.X(hover_) - width / 2, 0.0, std::max(0.0, this->width() - width));
   const QRectF box(x, scale.Plot.top(), width, small.height() + Px(8));
   DrawBox(painter, box, c.Button, c.Edge, Px(4));
   painter.setPen(c.Text);

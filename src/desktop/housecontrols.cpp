@@ -45,8 +45,8 @@ void DrawSlider(const QStyleOptionSlider& option, QPainter& painter, const QRect
 void DrawScrollBar(const QStyleOptionSlider& option, QPainter& painter, QRectF slider) {
   if (option.maximum <= option.minimum) return;
   const Colours& c = ColoursOf(option.palette);
-  const bool busy = option.state.testFlag(QStyle::State_MouseOver) ||
-                    option.state.testFlag(QStyle::State_Sunken);
+  const bool busy =
+      option.state.testFlag(QStyle::State_MouseOver) || option.state.testFlag(QStyle::State_Sunken);
   const double inset = Px(busy ? 2 : 3);
   slider.adjust(inset, inset, -inset, -inset);
   const double radius = std::min(slider.width(), slider.height()) / 2;
@@ -114,9 +114,9 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption* option,
         const Colours& c = ColoursOf(option->palette);
         painter->setPen(option->state.testFlag(State_Enabled) ? c.Text : c.Faint);
         const QRect text = option->rect.adjusted(Px(11), 0, -Px(26), 0);
-        painter->drawText(text, Qt::AlignVCenter | Qt::AlignLeft,
-                          option->fontMetrics.elidedText(combo->currentText, Qt::ElideRight,
-                                                         text.width()));
+        painter->drawText(
+            text, Qt::AlignVCenter | Qt::AlignLeft,
+            option->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, text.width()));
         return;
       }
       break;
@@ -139,7 +139,8 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
   }
   if (const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
     if (control == CC_Slider)
-      return DrawSlider(*slider, *painter, subControlRect(control, option, SC_SliderHandle, widget));
+      return DrawSlider(*slider, *painter,
+                        subControlRect(control, option, SC_SliderHandle, widget));
     if (control == CC_ScrollBar)
       return DrawScrollBar(*slider, *painter,
                            subControlRect(control, option, SC_ScrollBarSlider, widget));
@@ -158,9 +159,9 @@ QRect HouseStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
   const int range = bar->maximum - bar->minimum;
   int length = room;
   if (range > 0)
-    length = std::clamp(static_cast<int>(static_cast<qint64>(room) * bar->pageStep /
-                                         (range + bar->pageStep)),
-                        std::min(Px(28), room), room);
+    length = std::clamp(
+        static_cast<int>(static_cast<qint64>(room) * bar->pageStep / (range + bar->pageStep)),
+        std::min(Px(28), room), room);
   const int at = sliderPositionFromValue(bar->minimum, bar->maximum, bar->sliderPosition,
                                          room - length, bar->upsideDown);
   const auto piece = [&](int from, int size) {

@@ -30,8 +30,8 @@ void DrawTick(const QStyleOption* option, QPainter* painter) {
   const QRectF box = QRectF(option->rect);
   const bool on = Has(option, QStyle::State_On);
   const bool enabled = Has(option, QStyle::State_Enabled);
-  DrawBox(*painter, box, on ? (enabled ? c.GoldFill : c.DimGold) : c.Field,
-          on ? QColor() : c.Edge, Px(4));
+  DrawBox(*painter, box, on ? (enabled ? c.GoldFill : c.DimGold) : c.Field, on ? QColor() : c.Edge,
+          Px(4));
   if (!on) return;
   QPainterPath tick;
   tick.moveTo(box.left() + box.width() * 0.26, box.top() + box.height() * 0.52);
@@ -150,8 +150,8 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
   }
 }
 
-QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
-                                   const QSize& size, const QWidget* widget) const {
+QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                   const QWidget* widget) const {
   const QSize given = QProxyStyle::sizeFromContents(type, option, size, widget);
   switch (type) {
     case CT_LineEdit:

@@ -99,12 +99,10 @@ std::vector<Finder::Entry> Window::FinderEntries() {
   if (view && top) {
     for (ui::Button* action : view->Page().Actions)
       if (CanPress(action))
-        entries.push_back({Shown(action->Text.Get()), Shown(top->Title.Get()), {},
-                           [this, action] {
-                             Act([&] {
-                               return ui::Click(desk_, action->Parent(), action->Name());
-                             });
-                           }});
+        entries.push_back(
+            {Shown(action->Text.Get()), Shown(top->Title.Get()), {}, [this, action] {
+               Act([&] { return ui::Click(desk_, action->Parent(), action->Name()); });
+             }});
   }
   const bool hubInReach = top && (top->Is() == ui::Role::Hub || top->Is() == ui::Role::Page);
   if (ScreenView* const hub = HubView(); hub && hubInReach) {

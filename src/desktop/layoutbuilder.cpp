@@ -61,8 +61,7 @@ bool Grows(const Box& box) {
   switch (box.Is) {
     case Kind::Item:
     case Kind::Field:
-      return GrowsByItself(*box.Shown) ||
-             (box.Stretch > 0 && box.Shown->Is() == ui::Kind::Picture);
+      return GrowsByItself(*box.Shown) || (box.Stretch > 0 && box.Shown->Is() == ui::Kind::Picture);
     case Kind::Spacer:
       return false;
     case Kind::Tabs:
@@ -120,9 +119,8 @@ std::size_t LayoutBuilder::AddRun(const std::vector<Box>& boxes, std::size_t fro
     return from + buttons.size();
   }
   const std::size_t parts = boxes[from].Parts.size();
-  if (const Run rows = run([&](const Box& box) {
-        return IsPlainRow(box) && box.Parts.size() == parts;
-      });
+  if (const Run rows =
+          run([&](const Box& box) { return IsPlainRow(box) && box.Parts.size() == parts; });
       rows.size() > 1) {
     AddGrid(rows, into);
     return from + rows.size();
@@ -171,9 +169,8 @@ void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
 }
 
 void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
-  if (std::all_of(box.Parts.begin(), box.Parts.end(), [](const Box& part) {
-        return IsButton(part) && part.Stretch == 0;
-      })) {
+  if (std::all_of(box.Parts.begin(), box.Parts.end(),
+                  [](const Box& part) { return IsButton(part) && part.Stretch == 0; })) {
     Run buttons;
     for (const Box& part : box.Parts) buttons.push_back(&part);
     return AddButtons(buttons, into);

@@ -11,7 +11,8 @@ QString Shown(std::string_view text) {
 }
 
 Keepable Keep(const QString& typed) {
-  // An accent typed after its letter becomes one letter with it; line ends of elsewhere become ours.
+  // An accent typed after its letter becomes one letter with it; line ends of elsewhere become
+  // ours.
   QString text = typed.normalized(QString::NormalizationForm_C);
   text.replace("\r\n", "\n").replace(QChar::ParagraphSeparator, '\n');
   Keepable kept;

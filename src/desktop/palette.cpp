@@ -105,16 +105,25 @@ const Colours& ColoursOf(const QPalette& palette) {
 QPalette PaletteOf(const Colours& c) {
   QPalette palette;
   const std::pair<QPalette::ColorRole, QColor> roles[] = {
-      {QPalette::Window, c.Ground},        {QPalette::WindowText, c.Text},
-      {QPalette::Base, c.Field},           {QPalette::AlternateBase, c.Chosen},
-      {QPalette::Text, c.Text},            {QPalette::Button, c.Button},
-      {QPalette::ButtonText, c.Text},      {QPalette::BrightText, c.Red},
-      {QPalette::Light, c.Hover},          {QPalette::Midlight, c.Edge},
-      {QPalette::Mid, c.Line},             {QPalette::Dark, c.Line},
-      {QPalette::Shadow, c.Side},          {QPalette::Highlight, c.BlueFill},
+      {QPalette::Window, c.Ground},
+      {QPalette::WindowText, c.Text},
+      {QPalette::Base, c.Field},
+      {QPalette::AlternateBase, c.Chosen},
+      {QPalette::Text, c.Text},
+      {QPalette::Button, c.Button},
+      {QPalette::ButtonText, c.Text},
+      {QPalette::BrightText, c.Red},
+      {QPalette::Light, c.Hover},
+      {QPalette::Midlight, c.Edge},
+      {QPalette::Mid, c.Line},
+      {QPalette::Dark, c.Line},
+      {QPalette::Shadow, c.Side},
+      {QPalette::Highlight, c.BlueFill},
       {QPalette::HighlightedText, c.Dark ? c.Text : c.OnGold},
-      {QPalette::Link, c.Blue},            {QPalette::LinkVisited, c.Blue},
-      {QPalette::ToolTipBase, c.Button},   {QPalette::ToolTipText, c.Text},
+      {QPalette::Link, c.Blue},
+      {QPalette::LinkVisited, c.Blue},
+      {QPalette::ToolTipBase, c.Button},
+      {QPalette::ToolTipText, c.Text},
       {QPalette::PlaceholderText, c.Muted}};
   for (const auto& [role, colour] : roles) palette.setColor(QPalette::All, role, colour);
   for (const auto role : {QPalette::Text, QPalette::ButtonText})

@@ -13,16 +13,16 @@ namespace grapplemont::desktop {
 
 struct Colours {
   bool Dark;
-  QColor Ground, Side, Bar, Card;           // the page, the side bar, the top bar, a card
-  QColor Line, RowLine, Edge;               // hairlines of cards, of rows, of buttons
+  QColor Ground, Side, Bar, Card;            // the page, the side bar, the top bar, a card
+  QColor Line, RowLine, Edge;                // hairlines of cards, of rows, of buttons
   QColor Button, Field, Hover, Chosen, Now;  // Chosen: a selected row; Now: the present command
-  QColor Track;                             // what a bar or a slider runs in
-  QColor Text, Soft, Muted, Faint;          // Soft: the side bar's; Faint: what is disabled
-  QColor Gold, Blue, Green, Amber, Red;     // as texts
-  QColor GoldFill, OnGold, DimGold;         // the main button; DimGold: disabled
+  QColor Track;                              // what a bar or a slider runs in
+  QColor Text, Soft, Muted, Faint;           // Soft: the side bar's; Faint: what is disabled
+  QColor Gold, Blue, Green, Amber, Red;      // as texts
+  QColor GoldFill, OnGold, DimGold;          // the main button; DimGold: disabled
   QColor BlueFill, GreenFill, AmberFill, RedFill, YellowFill;  // bars and spots
-  QColor BlueEdge, RedEdge;                 // frames of tags
-  QColor Shade;                             // over what lies below a dialog
+  QColor BlueEdge, RedEdge;                                    // frames of tags
+  QColor Shade;                                                // over what lies below a dialog
 };
 
 const Colours& DarkColours();

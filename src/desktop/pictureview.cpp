@@ -71,8 +71,8 @@ void Backdrop::Paint(QPainter& painter, const QWidget& on) {
   }
   if (scaled_.isNull()) return;
   const QSizeF size = scaled_.deviceIndependentSize();
-  painter.drawPixmap(
-      QPointF((on.width() - size.width()) / 2, (on.height() - size.height()) / 2), scaled_);
+  painter.drawPixmap(QPointF((on.width() - size.width()) / 2, (on.height() - size.height()) / 2),
+                     scaled_);
 }
 
 PictureView::PictureView(ui::Picture& picture, Stage& stage, QWidget* parent)

@@ -29,8 +29,8 @@ class PictureView : public QWidget, public ControlView {
   bool Clickable() const;
   ui::Picture& picture_;
   QString file_;
-  QSize full_;       // of the file
-  QPixmap scaled_;   // for the present size
+  QSize full_;      // of the file
+  QPixmap scaled_;  // for the present size
   bool seeThrough_ = false, fading_ = false;
 };
 

@@ -44,7 +44,10 @@ QTextBlockFormat BlockOf(Style style, bool first) {
   } else {
     format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
   }
-  format.setTopMargin(first ? 0 : Px(style == Style::Heading ? 14 : style == Style::Strong ? 8 : 0));
+  format.setTopMargin(first ? 0
+                            : Px(style == Style::Heading  ? 14
+                                 : style == Style::Strong ? 8
+                                                          : 0));
   format.setBottomMargin(Px(prose ? 6 : 4));
   return format;
 }

@@ -101,8 +101,10 @@ void ScreenView::DressPictures() {
   for (ControlView* view : views_) {
     auto* picture = dynamic_cast<PictureView*>(view);
     if (!picture) continue;
-    if (&view->Shows() == behind_) picture->SetSeeThrough();
-    else if (behind_) picture->SetFading();
+    if (&view->Shows() == behind_)
+      picture->SetSeeThrough();
+    else if (behind_)
+      picture->SetFading();
   }
 }
 
@@ -222,7 +224,8 @@ void ScreenView::Refresh() {
     if (title_) title_->setText(Shown(screen_->Title.Get()));
   }
   if (behind_) {
-    const QString file = behind_->File->empty() ? QString() : stage_.PictureFile(behind_->File.Get());
+    const QString file =
+        behind_->File->empty() ? QString() : stage_.PictureFile(behind_->File.Get());
     if (file != backdrop_.File()) {
       backdrop_.SetFile(file);
       update();
@@ -231,9 +234,8 @@ void ScreenView::Refresh() {
   for (ControlView* view : views_) view->Refresh();
   for (const auto& card : cards_)
     card.Sheet->setVisible(card.Views.empty() ||
-                           std::any_of(card.Views.begin(), card.Views.end(), [](auto* view) {
-                             return view->Shows().Visible.Get();
-                           }));
+                           std::any_of(card.Views.begin(), card.Views.end(),
+                                       [](auto* view) { return view->Shows().Visible.Get(); }));
 }
 
 void ScreenView::Leave() {

@@ -43,9 +43,7 @@ Scheme Settings::Colours() const {
 }
 
 void Settings::SetColours(Scheme scheme) {
-  Write(kColours, scheme == Scheme::Dark    ? "dark"
-                  : scheme == Scheme::Light ? "light"
-                                            : "system");
+  Write(kColours, scheme == Scheme::Dark ? "dark" : scheme == Scheme::Light ? "light" : "system");
 }
 
 int Settings::Zoom() const {

@@ -100,9 +100,8 @@ void SideLine::paintEvent(QPaintEvent*) {
   painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft, text());
   if (!badge_.isEmpty()) {
     const int width = BadgeWidthFor(badge_);
-    DrawBadge(painter,
-              QRectF(room.right() + 1 - width, (height() - Px(17)) / 2.0, width, Px(17)), badge_,
-              this);
+    DrawBadge(painter, QRectF(room.right() + 1 - width, (height() - Px(17)) / 2.0, width, Px(17)),
+              badge_, this);
   } else if (!key_.isEmpty()) {
     painter.setFont(TextFont(11));
     painter.setPen(isEnabled() ? c.Muted : c.Faint);
@@ -203,9 +202,9 @@ void SideBar::SetNow(const ui::Button* present) {
 
 /// In a low window the lines move closer together before anything has to scroll.
 void SideBar::FitLines() {
-  const int lines = static_cast<int>(std::count_if(
-      commands_.begin(), commands_.end(),
-      [this](const Command* command) { return command->parentWidget() == middle_; }));
+  const int lines = static_cast<int>(
+      std::count_if(commands_.begin(), commands_.end(),
+                    [this](const Command* command) { return command->parentWidget() == middle_; }));
   const int headings = static_cast<int>(headings_.size());
   const int room = height() - Px(48) - Px(12) - Px(8) -
                    Px(kLine) * (static_cast<int>(commands_.size()) - lines + 1);

@@ -113,8 +113,8 @@ void TableCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
   } else {
     const bool link = cell.Colour == ui::Tone::Plain && IsLink(index);
     painter->setPen(!enabled ? c.Faint : link ? c.Blue : TextColour(c, cell.Colour));
-    const QString text = painter->fontMetrics().elidedText(Shown(cell.Text), Qt::ElideRight,
-                                                           room.width() + 1);
+    const QString text =
+        painter->fontMetrics().elidedText(Shown(cell.Text), Qt::ElideRight, room.width() + 1);
     if (kind == ColumnKind::Number || kind == ColumnKind::Date) {
       DrawFigures(*painter, room, AlignsRight(kind) ? Qt::AlignRight : Qt::AlignLeft, text);
     } else {

@@ -28,8 +28,8 @@ void DrawArrow(QPainter& painter, const QPointF& centre, bool down, const QColor
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(colour);
-  painter.drawPolygon(QPolygonF{
-      {centre.x() - half, base}, {centre.x() + half, base}, {centre.x(), tip}});
+  painter.drawPolygon(
+      QPolygonF{{centre.x() - half, base}, {centre.x() + half, base}, {centre.x(), tip}});
 }
 
 }  // namespace

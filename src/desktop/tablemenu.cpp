@@ -84,8 +84,7 @@ void TableView::AddFilterLine(QMenu& menu, int column) {
   auto* rows = new QVBoxLayout(holder);
   rows->setContentsMargins(Px(10), Px(6), Px(10), Px(8));
   rows->setSpacing(Px(6));
-  auto* heading = new QLabel(
-      "Filter " + Shown(ui::ColumnId(list_.Columns(), column)), holder);
+  auto* heading = new QLabel("Filter " + Shown(ui::ColumnId(list_.Columns(), column)), holder);
   auto* line = new QLineEdit(Shown(table_.FilterOf(column)), holder);
   line->setObjectName("columnfilter");
   line->setTextMargins(Px(8), 0, Px(8), 0);

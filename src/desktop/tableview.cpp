@@ -28,8 +28,8 @@ constexpr int kMeasuredRows = 200;  // rows that are measured one by one for a c
 QString SearchHint(const ui::ListBox& list) {
   for (std::size_t i = 0; i < list.Columns().size(); ++i) {
     const ui::Column& column = list.Columns()[i];
-    const bool number = column.Kind == ui::ColumnKind::Number ||
-                        column.Kind == ui::ColumnKind::Percent;
+    const bool number =
+        column.Kind == ui::ColumnKind::Number || column.Kind == ui::ColumnKind::Percent;
     const bool plain = list.Count() == 0 || i >= list.Rows().front().Cells.size() ||
                        list.Rows().front().Cells[i].Text.find('/') == std::string::npos;
     if (number && plain && !column.Title.empty())
@@ -95,9 +95,8 @@ void TableView::Connect() {
     table_.SetSearch(Keep(text).Text);
     Rearrange();
   });
-  connect(columns_, &QAbstractButton::clicked, this, [this] {
-    OpenColumnsMenu(columns_->mapToGlobal(QPoint(0, columns_->height() + 4)));
-  });
+  connect(columns_, &QAbstractButton::clicked, this,
+          [this] { OpenColumnsMenu(columns_->mapToGlobal(QPoint(0, columns_->height() + 4))); });
   TableHeading& heading = grid_->Heading();
   heading.Clicked = [this](int column, bool second) {
     table_.TurnSort(column, second);
@@ -151,8 +150,7 @@ void TableView::Rearrange() {
   grid_->SetCurrentRow(row);
   grid_->verticalScrollBar()->setValue(top);
   ShowSearchRow();
-  grid_->SetEmptyText(list_.Count() > 0 ? "Nothing here fits the filter."
-                                        : Shown(list_.EmptyText));
+  grid_->SetEmptyText(list_.Count() > 0 ? "Nothing here fits the filter." : Shown(list_.EmptyText));
   grid_->updateGeometry();
   arranging_ = false;
 }
@@ -161,8 +159,9 @@ void TableView::ShowSearchRow() {
   const bool filters = !table_.State().Search.empty() || !table_.State().Filters.empty();
   searchRow_->setVisible(list_.Count() > kWorthSearching || filters);
   auto* count = static_cast<QLabel*>(count_);
-  count->setText(!table_.Filtered() ? QString()
-                                    : QString("%1 of %2").arg(model_.rowCount()).arg(list_.Count()));
+  count->setText(!table_.Filtered()
+                     ? QString()
+                     : QString("%1 of %2").arg(model_.rowCount()).arg(list_.Count()));
   SetInk(*count, ColoursOf(this).Muted);
 }
 
@@ -204,14 +203,14 @@ void TableView::FitColumns() {
   std::vector<int> widths = NaturalWidths();
   std::vector<double> shares;
   bool anyShare = false;
-  for (const int column : shown)
-    anyShare = anyShare || list_.Columns()[Index(column)].Width > 0;
+  for (const int column : shown) anyShare = anyShare || list_.Columns()[Index(column)].Width > 0;
   int room = grid_->viewport()->width();
   for (std::size_t i = 0; i < shown.size(); ++i) {
     const ui::Column& column = list_.Columns()[Index(shown[i])];
     const auto byHand = table_.State().Widths.find(ui::ColumnId(list_.Columns(), shown[i]));
-    double share = anyShare ? column.Width : column.Kind == ui::ColumnKind::Text ? widths[i]
-                                                                                  : widths[i] * 0.3;
+    double share = anyShare                              ? column.Width
+                   : column.Kind == ui::ColumnKind::Text ? widths[i]
+                                                         : widths[i] * 0.3;
     if (byHand != table_.State().Widths.end()) {
       widths[i] = std::max(Px(28), Px(byHand->second));
       share = 0;

@@ -89,8 +89,7 @@ void NotesView::Show() {
 /// Enter makes a line here; with Ctrl it goes on to the page.
 void NotesView::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if ((enter && event->modifiers().testFlag(Qt::ControlModifier)) ||
-      event->key() == Qt::Key_Escape)
+  if ((enter && event->modifiers().testFlag(Qt::ControlModifier)) || event->key() == Qt::Key_Escape)
     return event->ignore();
   QPlainTextEdit::keyPressEvent(event);
 }

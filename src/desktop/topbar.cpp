@@ -37,8 +37,8 @@ class TopLabel : public QWidget, public ControlView {
   void Show() override {
     TakeApart(Shown(label_.Text.Get()));
     if (label_.Trend != 0)
-      pieces_.push_back({label_.Trend > 0 ? QStringLiteral(" \u25B2") : QStringLiteral(" \u25BC"),
-                         false});
+      pieces_.push_back(
+          {label_.Trend > 0 ? QStringLiteral(" \u25B2") : QStringLiteral(" \u25BC"), false});
     updateGeometry();
     update();
   }

@@ -16,8 +16,8 @@ namespace {
 
 constexpr QSize kUsualSize(1280, 800), kLeastSize(1024, 640);
 /// A waiting screen is shown only to those who wait: a plain day is over before.
-constexpr qint64 kPatience = 200;   // milliseconds
-constexpr qint64 kFrame = 33;       // between two pictures of a long event
+constexpr qint64 kPatience = 200;  // milliseconds
+constexpr qint64 kFrame = 33;      // between two pictures of a long event
 constexpr int kHintTime = 6000;
 
 bool Fills(ui::Role role) {

@@ -33,8 +33,7 @@ class Window : public QMainWindow, public Stage {
   // What the desk asks for.
   void Say(const std::string& title, const std::string& text);
   bool Ask(const std::string& title, const std::string& text, ui::Default answer);
-  std::string Prompt(const std::string& title, const std::string& text,
-                     const std::string& offered);
+  std::string Prompt(const std::string& title, const std::string& text, const std::string& offered);
   void RepaintNow();
 
   // The stage of the views.

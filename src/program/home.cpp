@@ -1,7 +1,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "program/program.h"
+#include "program/home.h"
 
 namespace grapplemont {
 

@@ -2,7 +2,7 @@
 #include <optional>
 #include <ostream>
 
-#include "program/program.h"
+#include "program/home.h"
 #include "records/charset.h"
 #include "records/dates.h"
 #include "records/nearest.h"

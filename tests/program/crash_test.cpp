@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "program/program.h"
+#include "program/screens.h"
 #include "records/slot.h"
 #include "records/slotfolder.h"
 #include "records/world.h"
@@ -113,7 +113,8 @@ std::string Difference(const std::map<std::string, Bytes>& found,
                        const std::map<std::string, Bytes>& expected) {
   for (const auto& [name, bytes] : expected) {
     const auto file = found.find(name);
-    if (file == found.end()) return name + " is missing of " + std::to_string(found.size()) + " files";
+    if (file == found.end())
+      return name + " is missing of " + std::to_string(found.size()) + " files";
     if (file->second != bytes)
       return name + " has " + std::to_string(file->second.size()) + " bytes, expected " +
              std::to_string(bytes.size());

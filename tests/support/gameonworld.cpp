@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "program/program.h"
+#include "program/screens.h"
 #include "records/slot.h"
 
 namespace grapplemont::test {

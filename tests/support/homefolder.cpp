@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "program/program.h"
+#include "program/screens.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {

@@ -54,8 +54,14 @@ TEST(AFilter, UnderstandsWhatPeopleType) {
       {"<10/03/2026", march, K::Date, true},
       {">9/3/26", march, K::Date, false},
       {"=2026-03-09", march, K::Date, true},
-      {"elan", ui::Cell("\xC9lan \x8C" "arl"), K::Text, true},
-      {"\xDF", ui::Cell("Stra\xDF" "e"), K::Text, true},
+      {"elan",
+       ui::Cell("\xC9lan \x8C"
+                "arl"),
+       K::Text, true},
+      {"\xDF",
+       ui::Cell("Stra\xDF"
+                "e"),
+       K::Text, true},
   };
   for (const FilterRow& row : kRows)
     EXPECT_EQ(ui::Filter(row.Expression).Fits(row.Cell, row.Kind), row.Fits)
@@ -161,7 +167,8 @@ TEST_F(TheTable, PutsRowsWithoutATextLastWhicheverWayItSorts) {
 TEST_F(TheTable, KeepsItsStateWhenTheRowsChange) {
   Table.TurnSort(2, false);
   Table.SetFilter(1, "Heel");
-  List.Fill({{{"New Heel", "Heel", 99, 1}, 21}, {{"New Face", "Face", 98, 1}, 22},
+  List.Fill({{{"New Heel", "Heel", 99, 1}, 21},
+             {{"New Face", "Face", 98, 1}, 22},
              {{"Low Heel", "Heel", 3, 1}, 23}});
   EXPECT_TRUE(Table.Follow());
   EXPECT_EQ(Keys(), Numbers({21, 23}));
@@ -212,8 +219,8 @@ TEST(ATableState, ComesBackFromItsText) {
 }
 
 TEST(ATableState, CanBeReadFromAnyText) {
-  for (const char* text : {";;;", "up", "up:", "place:x:y", "down:A;down:B;down:C", "\\", "filter:a",
-                           "width:Name:99999999999999999999;", "nonsense:1:2:3:4"})
+  for (const char* text : {";;;", "up", "up:", "place:x:y", "down:A;down:B;down:C", "\\",
+                           "filter:a", "width:Name:99999999999999999999;", "nonsense:1:2:3:4"})
     EXPECT_LE(ui::ReadTableState(text).Sort.size(), 2U) << text;
   EXPECT_EQ(ui::ReadTableState("down:Over;what:1;search:x").Search, "x");
 }

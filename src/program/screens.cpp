@@ -1,4 +1,4 @@
-#include "program/program.h"
+#include "program/screens.h"
 
 #include "booking/bookingscreens.h"
 #include "calendar/calendarscreens.h"
