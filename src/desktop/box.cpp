@@ -81,6 +81,9 @@ std::optional<int> MessageBox::Run() {
     line_->selectAll();
   } else {
     setFocus(Qt::OtherFocusReason);
+    // The arrows start from the answer that Enter gives.
+    for (const Choice& choice : choices_)
+      if (choice.Usual) choice.Press->setFocus(Qt::OtherFocusReason);
   }
   loop_.exec();
   hide();
@@ -112,6 +115,8 @@ void MessageBox::keyPressEvent(QKeyEvent* event) {
       return Dismiss();
     case Qt::Key_Return:
     case Qt::Key_Enter:
+      for (const Choice& choice : choices_)
+        if (choice.Press == window()->focusWidget()) return choice.Press->click();
       for (const Choice& choice : choices_)
         if (choice.Usual) return choice.Press->click();
       return;

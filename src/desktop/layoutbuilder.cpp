@@ -35,12 +35,13 @@ bool IsPlainRow(const Box& box) {
          !std::all_of(box.Parts.begin(), box.Parts.end(), IsButton);
 }
 
-/// Whether some part of a column takes the room that is left over.
-bool Fills(const Box& box) {
-  return std::any_of(box.Parts.begin(), box.Parts.end(), [](const Box& part) {
-    return part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
-  });
-}
+/// A column within a card: its own last stretch must not ask the card for more.
+class CalmColumn : public QVBoxLayout {
+ public:
+  Qt::Orientations expandingDirections() const override {
+    return QVBoxLayout::expandingDirections() & ~Qt::Vertical;
+  }
+};
 
 bool GrowsByItself(const ui::Control& control) {
   switch (control.Is()) {
@@ -136,13 +137,10 @@ void LayoutBuilder::Add(const Box& box, QBoxLayout* into) {
     case Kind::Field:
       return AddForm({&box}, into);
     case Kind::Rows: {
-      auto* rows = new QVBoxLayout;
+      auto* rows = inCard_ ? new CalmColumn : new QVBoxLayout;
       rows->setSpacing(Px(inCard_ ? kClose : kWide));
       into->addLayout(rows, std::max(box.Stretch, Grows(box) || !inCard_ ? 1 : 0));
-      if (!inCard_ || Fills(box)) return AddAll(box.Parts, rows);
-      into->setAlignment(rows, Qt::AlignTop);  // it must not ask its card for more
-      for (std::size_t at = 0; at < box.Parts.size();) at = AddRun(box.Parts, at, rows);
-      return;
+      return AddAll(box.Parts, rows);
     }
     case Kind::Columns:
       return AddColumns(box, into);

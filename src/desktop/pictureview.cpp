@@ -81,7 +81,9 @@ PictureView::PictureView(ui::Picture& picture, Stage& stage, QWidget* parent)
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
   }
-  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
 }
 
 bool PictureView::Clickable() const {
@@ -108,6 +110,11 @@ QSize PictureView::sizeHint() const {
 
 QSize PictureView::minimumSizeHint() const {
   return sizeHint().boundedTo({Px(120), Px(80)});
+}
+
+int PictureView::heightForWidth(int width) const {
+  if (!full_.isValid() || seeThrough_) return Px(80);
+  return std::min(sizeHint().height(), width * full_.height() / std::max(1, full_.width()));
 }
 
 void PictureView::Show() {

@@ -18,6 +18,7 @@ class PictureView : public QWidget, public ControlView {
   void SetFading();
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  int heightForWidth(int width) const override;
 
  protected:
   void Show() override;

@@ -26,24 +26,52 @@ bool Contains(const std::vector<ui::Control*>& controls, const ui::Control* cont
   return std::find(controls.begin(), controls.end(), control) != controls.end();
 }
 
-/// A body that scrolls when the window is too low for it.
+/// A body that scrolls when the window is too low for what it needs at least.
 class Scroller : public QScrollArea {
  public:
   Scroller(QWidget* parent, bool tight) : QScrollArea(parent), tight_(tight) {
     setFrameShape(QFrame::NoFrame);
-    setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setAutoFillBackground(false);
   }
   void Hold(QWidget* body) {
     setWidget(body);
     body->setAutoFillBackground(false);
+    body->installEventFilter(this);
   }
   QSize sizeHint() const override {
-    return tight_ ? widget()->minimumSizeHint() : widget()->sizeHint();
+    const QSize wanted = widget()->sizeHint();
+    return tight_ ? QSize(wanted.width(), LeastHeight(std::max(width(), Px(480)))) : wanted;
+  }
+  QSize minimumSizeHint() const override {
+    return {widget()->minimumSizeHint().width(), Px(80)};
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QScrollArea::resizeEvent(event);
+    Fit();
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+      Fit();
+      updateGeometry();
+    }
+    return QScrollArea::eventFilter(watched, event);
   }
 
  private:
+  int LeastHeight(int width) const {
+    const QLayout* layout = widget()->layout();
+    return layout->hasHeightForWidth() ? layout->totalMinimumHeightForWidth(width)
+                                       : layout->totalMinimumSize().height();
+  }
+  void Fit() {
+    const QSize room = viewport()->size();
+    widget()->resize(room.width(), std::max(room.height(), LeastHeight(room.width())));
+  }
+
   bool tight_;  // asks for what the body needs, not for what it would like
 };
 

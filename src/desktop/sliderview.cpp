@@ -41,7 +41,6 @@ SliderView::SliderView(ui::ScrollBar& bar, Stage& stage, QWidget* parent)
   slider_->setMinimumWidth(Px(120));
   value_->setButtonSymbols(QAbstractSpinBox::NoButtons);
   value_->setAlignment(Qt::AlignRight);
-  value_->setKeyboardTracking(false);
   row->addWidget(slider_, 1);
   row->addWidget(value_);
   setFocusProxy(slider_);

@@ -45,6 +45,9 @@ Window::Window(WindowDesk& desk, Options options)
 
 Window::~Window() {
   qApp->removeEventFilter(this);
+  // A field that is left tells what was typed in it; nobody listens any more.
+  syncing_ = true;
+  qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
   desk_.window_ = nullptr;
 }
 

@@ -1,6 +1,7 @@
 #include "records/nearest.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace grapplemont {
 
@@ -18,25 +19,49 @@ int Exchange(char a, char b) {
   return Lower(a) == Lower(b) ? kCase : kLetter;
 }
 
-/// Edit distance with neighbours swapped, row by row; no less than `limit` once it is sure to be.
-int Distance(std::string_view a, std::string_view b, int limit) {
-  std::vector<int> beforeLast, last(b.size() + 1), row(b.size() + 1);
-  for (std::size_t j = 0; j <= b.size(); ++j) last[j] = static_cast<int>(j) * kLetter;
-  for (std::size_t i = 1; i <= a.size(); ++i) {
-    row[0] = static_cast<int>(i) * kLetter;
-    for (std::size_t j = 1; j <= b.size(); ++j) {
-      row[j] = std::min(
-          {last[j] + kLetter, row[j - 1] + kLetter, last[j - 1] + Exchange(a[i - 1], b[j - 1])});
-      const bool swapped = i > 1 && j > 1 && Lower(a[i - 1]) == Lower(b[j - 2]) &&
-                           Lower(a[i - 2]) == Lower(b[j - 1]);
-      if (swapped) row[j] = std::min(row[j], beforeLast[j - 2] + kLetter);
+/// Measures how far names are from one name; keeps its rows, for there may be many thousand names.
+class Measure {
+ public:
+  explicit Measure(std::string_view name) : name_(name) {}
+
+  /// Edit distance with neighbours swapped, row by row; no less than `limit` once it is sure to be.
+  int To(std::string_view other, int limit) {
+    const int longer = static_cast<int>(name_.size()) - static_cast<int>(other.size());
+    if (std::abs(longer) * kLetter >= limit) return limit;
+    Begin(other.size());
+    for (std::size_t i = 1; i <= name_.size(); ++i) {
+      if (TakeLetter(i, other) >= limit) return limit;
+      std::swap(beforeLast_, last_);
+      std::swap(last_, row_);
     }
-    if (*std::min_element(row.begin(), row.end()) >= limit) return limit;
-    beforeLast = last;
-    std::swap(last, row);
+    return last_[other.size()];
   }
-  return last.back();
-}
+
+ private:
+  void Begin(std::size_t letters) {
+    for (std::vector<int>* row : {&beforeLast_, &last_, &row_}) row->resize(letters + 1);
+    for (std::size_t j = 0; j <= letters; ++j) last_[j] = static_cast<int>(j) * kLetter;
+  }
+
+  /// Fills the row of the name's letter `i` and gives its least distance.
+  int TakeLetter(std::size_t i, std::string_view other) {
+    const char letter = name_[i - 1];
+    int least = row_[0] = static_cast<int>(i) * kLetter;
+    for (std::size_t j = 1; j <= other.size(); ++j) {
+      int& here = row_[j];
+      here = std::min({last_[j] + kLetter, row_[j - 1] + kLetter,
+                       last_[j - 1] + Exchange(letter, other[j - 1])});
+      const bool swapped = i > 1 && j > 1 && Lower(letter) == Lower(other[j - 2]) &&
+                           Lower(name_[i - 2]) == Lower(other[j - 1]);
+      if (swapped) here = std::min(here, beforeLast_[j - 2] + kLetter);
+      least = std::min(least, here);
+    }
+    return least;
+  }
+
+  std::string_view name_;
+  std::vector<int> beforeLast_, last_, row_;
+};
 
 struct Candidate {
   std::string_view Name;
@@ -45,8 +70,9 @@ struct Candidate {
 
 Candidate Find(std::string_view name, const std::vector<std::string_view>& candidates) {
   Candidate best{{}, static_cast<int>(name.size() + 1000) * kLetter};
+  Measure measure(name);
   for (const std::string_view candidate : candidates) {
-    const int distance = Distance(name, candidate, best.Distance);
+    const int distance = measure.To(candidate, best.Distance);
     if (distance < best.Distance) best = {candidate, distance};
   }
   return best;

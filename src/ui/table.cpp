@@ -94,7 +94,7 @@ struct SortColumn {
 
   /// Rows without a text come last, whichever way the others go.
   std::weak_ordering Compare(std::size_t a, std::size_t b) const {
-    if (Texts[a].empty() != Texts[b].empty()) return Texts[b].empty() <=> Texts[a].empty();
+    if (Texts[a].empty() != Texts[b].empty()) return Texts[a].empty() <=> Texts[b].empty();
     auto order = std::weak_order(Numbers[a], Numbers[b]);
     if (order == 0) order = Texts[a] <=> Texts[b];
     return Descending ? 0 <=> order : order;

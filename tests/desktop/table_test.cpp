@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include <QMenu>
+#include <QApplication>
+#include <QClipboard>
+#include <QTemporaryDir>
+
+#include "desktop/player.h"
+
+// The table under a player's hands.
+
+namespace grapplemont::test {
+namespace {
+
+class TheTableInTheWindow : public testing::Test {
+ protected:
+  void Open(bool multi = false) {
+    Page = new PeoplePage(Play.Desk, Notes, multi);
+    Play.Desk.Open(std::unique_ptr<ui::Screen>(Page));
+    Play.Window.Sync();
+  }
+  std::vector<QString> Names() { return Play.Column("lstpeople", 1); }
+
+  Log Notes;
+  Player Play;
+  PeoplePage* Page = nullptr;
+};
+
+TEST_F(TheTableInTheWindow, PicksTheRowThatWasClickedNotTheOneOfThatText) {
+  Open();
+  Play.ClickRow("lstpeople", 1);  // its first cell reads "9"
+  EXPECT_EQ(Page->lstpeople.Key(), 102);
+  Play.DoubleClickRow("lstpeople", 3);
+  EXPECT_EQ(Notes, Log({"picked 102", "picked 104", "picked 104", "opened 104"}));
+}
+
+TEST_F(TheTableInTheWindow, FollowsTheArrowsAndOpensWithEnter) {
+  Open();
+  Play.Grid("lstpeople").setFocus();
+  Play.Key(Qt::Key_Down);
+  Play.Key(Qt::Key_Down);
+  EXPECT_EQ(Page->lstpeople.Key(), 102);
+  Play.Key(Qt::Key_End);
+  EXPECT_EQ(Page->lstpeople.Key(), 110);
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Notes.back(), "opened 110");
+}
+
+TEST_F(TheTableInTheWindow, DoesNotPickByHavingTheKeyboardAlone) {
+  Open();
+  Play.Grid("lstpeople").setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(Page->lstpeople.Selected(), 0);
+  EXPECT_EQ(Notes, Log());
+}
+
+TEST_F(TheTableInTheWindow, SortsByAClickOnAHeadingAndPicksWhatIsSeen) {
+  Open();
+  Play.ClickHeading("lstpeople", 1);
+  EXPECT_EQ(Names().front(), "Bram");
+  Play.ClickHeading("lstpeople", 1);
+  EXPECT_EQ(Names().front(), "Salt");
+  Play.ClickRow("lstpeople", 0);
+  EXPECT_EQ(Page->lstpeople.Key(), 109);
+  Play.ClickHeading("lstpeople", 2);
+  Play.ClickHeading("lstpeople", 3, Qt::ShiftModifier);
+  EXPECT_EQ(Names(), std::vector<QString>({"Petey", "Salt", "Dane", "Rory", "Bram", "Fetch", "Ludo",
+                                           "Kid", "Iron", "Hattie"}));
+  EXPECT_EQ(Play.Grid("lstpeople").CurrentRow(), 1) << "the cursor stays with its row";
+}
+
+TEST_F(TheTableInTheWindow, FiltersByTheSearchLine) {
+  Open();
+  Play.Grid("lstpeople").setFocus();
+  Play.Type("Over >54, heel");  // typing into the table is searching
+  EXPECT_EQ(Play.FocusName(), "lstpeople_search");
+  EXPECT_EQ(Names(), std::vector<QString>({"Ludo", "Kid", "Fetch"}));
+  Play.Key(Qt::Key_Down);
+  Play.Key(Qt::Key_Down);
+  EXPECT_EQ(Page->lstpeople.Key(), 102);
+  Play.Key(Qt::Key_F, Qt::ControlModifier);
+  Play.Key(Qt::Key_Escape);
+  EXPECT_EQ(Names().size(), 10U);
+  EXPECT_EQ(Play.Desk.Top(), Page) << "the first Escape only empties the line";
+}
+
+TEST_F(TheTableInTheWindow, FiltersAColumnFromItsHeading) {
+  Open();
+  QHeaderView& heading = Play.Grid("lstpeople").Heading();
+  const QPoint at(heading.sectionViewportPosition(2) + 10, 10);
+  emit heading.customContextMenuRequested(at);
+  auto* menu = Play.Window.findChild<QMenu*>("headingmenu");
+  ASSERT_NE(menu, nullptr);
+  QTest::keyClicks(menu->findChild<QLineEdit*>("columnfilter"), "!Heel");
+  menu->close();
+  EXPECT_EQ(Names().size(), 5U);
+  EXPECT_EQ(Play.Column("lstpeople", 2).front(), "Face");
+}
+
+TEST_F(TheTableInTheWindow, HidesAColumnAndCopiesWhatIsShown) {
+  Open();
+  Play.See("lstpeople_search")->setFocus();
+  Play.Type("Bram");
+  Play.Click("lstpeople_columns");
+  auto* menu = Play.Window.findChild<QMenu*>("columnsmenu");
+  ASSERT_NE(menu, nullptr);
+  for (QAction* action : menu->actions())
+    if (action->text() == "Disp.") action->trigger();
+  menu->close();
+  Play.Grid("lstpeople").setFocus();
+  Play.Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "#,Name,Over\r\n10,Bram,50\r\n");
+}
+
+TEST_F(TheTableInTheWindow, TogglesRowsOfAListThatTakesSeveral) {
+  Open(true);
+  Play.ClickRow("lstpeople", 0);
+  Play.ClickRow("lstpeople", 2);
+  Play.Key(Qt::Key_Down);
+  Play.Key(Qt::Key_Space);
+  EXPECT_EQ(Page->lstpeople.Keys(), std::vector<int>({101, 103, 104}));
+  Play.ClickRow("lstpeople", 0);
+  EXPECT_EQ(Page->lstpeople.Keys(), std::vector<int>({103, 104}));
+}
+
+TEST_F(TheTableInTheWindow, FollowsRowsThatComeAndGo) {
+  Open();
+  Play.ClickRow("lstpeople", 4);
+  std::vector<ui::ListBox::Row> rows = Page->lstpeople.Rows();
+  rows.erase(rows.begin(), rows.begin() + 2);
+  Page->lstpeople.Fill(rows);
+  Play.Window.Sync();
+  EXPECT_EQ(Names().size(), 8U);
+  EXPECT_EQ(Play.Grid("lstpeople").CurrentRow(), 2) << "still on Petey";
+  Page->lstpeople.Clear();
+  Page->lstpeople.EmptyText = "Nobody yet.";
+  Play.Window.Sync();
+  EXPECT_TRUE(Names().empty());
+  Play.Key(Qt::Key_Down);
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Notes, Log({"picked 105"}));
+}
+
+TEST(TheSettings, KeepATableAndTheLookBeyondTheProgram) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("settings.ini");
+  Log notes;
+  int height = 0;
+  {
+    Player play(file);
+    play.Desk.Open(std::make_unique<PeoplePage>(play.Desk, notes));
+    play.Window.Sync();
+    play.ClickHeading("lstpeople", 1);
+    play.Key(Qt::Key_Plus, Qt::ControlModifier);
+    height = play.See("cmdback")->height();
+    play.See("lstpeople_search")->setFocus();
+    play.Type("heel");
+    play.Window.close();
+  }
+  Player again(file);
+  again.Desk.Open(std::make_unique<PeoplePage>(again.Desk, notes));
+  again.Window.Sync();
+  EXPECT_EQ(again.Column("lstpeople", 1),
+            std::vector<QString>({"Fetch", "Hattie", "Iron", "Kid", "Ludo"}));
+  EXPECT_EQ(again.TextOf("lstpeople_search"), "heel");
+  EXPECT_EQ(again.See("cmdback")->height(), height);
+  again.Key(Qt::Key_0, Qt::ControlModifier);
+}
+
+}  // namespace
+}  // namespace grapplemont::test

@@ -1,0 +1,237 @@
+#include <gtest/gtest.h>
+
+#include "desktop/player.h"
+#include "desktop/sidebar.h"
+
+// The window as a whole: side bar, keys, boxes, dialogs, its end.
+
+namespace grapplemont::test {
+namespace {
+
+class TheWindow : public testing::Test {
+ protected:
+  TheWindow() {
+    Play.Desk.Open(std::make_unique<Hub>(Play.Desk, Notes));
+    Play.Window.Sync();
+  }
+  ~TheWindow() override { EXPECT_TRUE(Play.EveryBoxCame()); }
+
+  std::string Top() const { return Play.Desk.Top() ? Play.Desk.Top()->Name() : ""; }
+  DeskPage& OpenDesk() {
+    Play.Click("cmddesk");
+    Notes.clear();
+    return dynamic_cast<DeskPage&>(*Play.Desk.Top());
+  }
+  bool IsNow(const QString& command) {
+    return dynamic_cast<desktop::SideLine*>(Play.See(command))->IsNow();
+  }
+  bool BearsEnter(const QString& button) {
+    return dynamic_cast<desktop::PushButton*>(Play.See(button))->ShowsEnter();
+  }
+
+  Log Notes;
+  Player Play;
+};
+
+TEST_F(TheWindow, OpensAPageByAClickInTheSideBarAndMarksItsCommand) {
+  EXPECT_TRUE(BearsEnter("cmdnext"));
+  Play.Click("cmdpeople");
+  EXPECT_EQ(Top(), "frmPeople");
+  EXPECT_TRUE(Play.Sees("lstpeople"));
+  EXPECT_TRUE(IsNow("cmdpeople"));
+  EXPECT_FALSE(IsNow("cmddesk"));
+  EXPECT_FALSE(BearsEnter("cmdnext"));
+}
+
+TEST_F(TheWindow, LeavesAPageBeforeAnotherCommandIsPressed) {
+  Play.Click("cmdpeople");
+  Play.Click("cmddesk");
+  EXPECT_EQ(Top(), "frmDesk");
+  EXPECT_EQ(Play.Desk.Screens().size(), 2U);
+  EXPECT_EQ(Notes, Log({"hub again"}));
+  EXPECT_TRUE(IsNow("cmddesk"));
+  EXPECT_FALSE(Play.Sees("lstpeople"));
+}
+
+TEST_F(TheWindow, StaysOnAPageThatDoesNotWantToBeLeft) {
+  OpenDesk().AsksBeforeItGoes = true;
+  Play.AtNextBox([&] {
+    EXPECT_EQ(Play.TextOf("boxtitle"), "Leave?");
+    Play.Key(Qt::Key_Return);  // the default is No
+  });
+  Play.Click("cmdpeople");
+  EXPECT_EQ(Top(), "frmDesk");
+  Play.AtNextBox([&] { Play.Click("boxyes"); });
+  Play.Click("cmdnext");
+  EXPECT_EQ(Top(), "frmHub");
+  EXPECT_EQ(Notes.back(), "next day") << "the top bar leaves pages too";
+}
+
+TEST_F(TheWindow, KnowsTheKeysOfTheSideBar) {
+  Play.Key(Qt::Key_F2);
+  EXPECT_EQ(Top(), "frmPeople");
+  Play.Key(Qt::Key_F4);
+  EXPECT_EQ(Top(), "frmDesk");
+  Play.Key(Qt::Key_F5);
+  EXPECT_EQ(Top(), "frmDesk") << "a disabled command has no key";
+}
+
+TEST_F(TheWindow, TakesEnterForMainAndEscapeForCancel) {
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Notes, Log({"next day"}));
+  OpenDesk();
+  EXPECT_EQ(Play.FocusName(), "txtname");
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Notes, Log({"done"}));
+  Play.Key(Qt::Key_Escape);
+  EXPECT_EQ(Top(), "frmHub");
+}
+
+TEST_F(TheWindow, GivesEnterToAButtonThatWasReachedByTab) {
+  OpenDesk();
+  for (int i = 0; i < 40 && Play.FocusName() != "cmdmore"; ++i) Play.Key(Qt::Key_Tab);
+  ASSERT_EQ(Play.FocusName(), "cmdmore");
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Top(), "frmMore");
+}
+
+TEST_F(TheWindow, ShowsADialogOverThePageAndNothingBelowTakesClicks) {
+  OpenDesk();
+  Play.Click("cmdmore");
+  ASSERT_EQ(Top(), "frmMore");
+  EXPECT_TRUE(BearsEnter("cmdok"));
+  Play.Click("cmdpeople");
+  Play.Click("cmdnext");
+  Play.Key(Qt::Key_F2);
+  EXPECT_EQ(Top(), "frmMore");
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Notes, Log({"ok", "page again"}));
+  Play.Click("cmdmore");
+  Play.Key(Qt::Key_Escape);
+  EXPECT_EQ(Notes, Log({"ok", "page again", "cancel", "page again"}));
+  EXPECT_EQ(Top(), "frmDesk");
+}
+
+TEST_F(TheWindow, AsksAndTakesTheAnswerByKeyOrClick) {
+  OpenDesk();
+  const std::pair<std::function<void()>, const char*> kAnswers[] = {
+      {[&] { Play.Key(Qt::Key_Return); }, "yes"}, {[&] { Play.Key(Qt::Key_Escape); }, "no"},
+      {[&] { Play.Click("boxno"); }, "no"},       {[&] { Play.Click("boxyes"); }, "yes"},
+      {[&] { Play.Type("n"); }, "no"},            {[&] { Play.Type("Y"); }, "yes"},
+  };
+  for (const auto& [answer, noted] : kAnswers) {
+    Notes.clear();
+    Play.AtNextBox(answer);
+    Play.Click("cmdask");
+    EXPECT_EQ(Notes, Log({noted}));
+  }
+  Play.AtNextBox([&] {
+    EXPECT_EQ(Play.TextOf("boxtext"), "Are you sure?\nReally?");
+    Play.Key(Qt::Key_Left);  // to No, and round again
+    Play.Key(Qt::Key_Return);
+  });
+  Play.Click("cmdask");
+  EXPECT_EQ(Notes.back(), "no");
+}
+
+TEST_F(TheWindow, PromptsWithWhatItOffersSelected) {
+  OpenDesk();
+  Play.AtNextBox([&] { Play.Key(Qt::Key_Return); });
+  Play.Click("cmdname");
+  Play.AtNextBox([&] {
+    Play.Type(QString::fromUtf8("M\u00FCller"));
+    Play.Key(Qt::Key_Return);
+  });
+  Play.Click("cmdname");
+  Play.AtNextBox([&] { Play.Key(Qt::Key_Escape); });
+  Play.Click("cmdname");
+  EXPECT_EQ(Notes, Log({"[Save Game 1]", "[M\xFCller]", "[]"}));
+}
+
+TEST_F(TheWindow, KeepsTheKeyboardWithinABox) {
+  OpenDesk();
+  Play.AtNextBox([&] {
+    for (int i = 0; i < 7; ++i) {
+      Play.Key(Qt::Key_Tab);
+      EXPECT_TRUE(Play.FocusName().startsWith("box")) << Play.FocusName().toStdString();
+    }
+    Play.Key(Qt::Key_F2);
+    Play.Click("cmdpeople");
+    Play.Key(Qt::Key_Escape);
+  });
+  Play.Click("cmdask");
+  EXPECT_EQ(Top(), "frmDesk");
+}
+
+TEST_F(TheWindow, TellsAFaultAndGoesBackToWhereItWas) {
+  OpenDesk();
+  Play.AtNextBox([&] {
+    EXPECT_EQ(Play.TextOf("boxtext"), "The disk is full.");
+    Play.Click("boxok");
+  });
+  Play.Click("cmdthrow");
+  EXPECT_EQ(Top(), "frmDesk");
+  EXPECT_TRUE(Play.Sees("cmdthrow"));
+  EXPECT_FALSE(Play.Sees("frmMore"));
+}
+
+TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
+  OpenDesk();
+  Play.Key(Qt::Key_K, Qt::ControlModifier);
+  ASSERT_TRUE(Play.Sees("finder"));
+  Play.Type("ppl");
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Top(), "frmPeople");
+  EXPECT_FALSE(Play.Sees("finder"));
+  Play.Click("searcheverything");
+  Play.Type("later");
+  Play.Key(Qt::Key_Return);
+  EXPECT_TRUE(Play.Sees("finder")) << "what is disabled is not found";
+  Play.Key(Qt::Key_Escape);
+  EXPECT_FALSE(Play.Sees("finder"));
+  EXPECT_EQ(Top(), "frmPeople");
+}
+
+TEST_F(TheWindow, EndsWhenNothingLiesOnTheDesk) {
+  Play.Click("cmdquit");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !Play.Window.isVisible(); }, 10000));
+  EXPECT_EQ(Play.Closings, 1);
+}
+
+TEST_F(TheWindow, ClosesWithoutAQuestion) {
+  OpenDesk().AsksBeforeItGoes = true;
+  EXPECT_TRUE(Play.Window.close());
+  EXPECT_EQ(Play.Closings, 1);
+  EXPECT_EQ(Notes, Log());
+}
+
+TEST_F(TheWindow, ClosedAmidAQuestionGivesTheCarefulAnswerFirst) {
+  OpenDesk();
+  Play.AtNextBox([&] {
+    EXPECT_FALSE(Play.Window.close());
+    EXPECT_EQ(Play.Closings, 0);
+  });
+  Play.Click("cmdask");
+  EXPECT_EQ(Notes, Log({"no"}));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !Play.Window.isVisible(); }, 10000));
+  EXPECT_EQ(Play.Closings, 1);
+}
+
+TEST_F(TheWindow, ChangesColoursAndSizeByKeyAndGoesOn) {
+  DeskPage& page = OpenDesk();
+  const int before = Play.See("cmdask")->height();
+  Play.Type("Al");
+  Play.Key(Qt::Key_L, Qt::ControlModifier);
+  Play.Key(Qt::Key_Plus, Qt::ControlModifier);
+  Play.Key(Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_GT(Play.See("cmdask")->height(), before);
+  EXPECT_EQ(Play.TextOf("txtname"), "Al");
+  EXPECT_TRUE(IsNow("cmddesk"));
+  Play.Click("chkday");
+  EXPECT_TRUE(page.chkday.Checked.Get());
+  Play.Key(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(Play.See("cmdask")->height(), before);
+}
+
+}  // namespace
+}  // namespace grapplemont::test
