@@ -1,14 +1,12 @@
 #include <benchmark/benchmark.h>
 
-#include <cstring>
 #include <filesystem>
 
+#include "bench/worlds.h"
 #include "calendar/advanceday.h"
 #include "records/dates.h"
 #include "records/disk.h"
 #include "records/world.h"
-#include "roster/invented.h"
-#include "session/newgame.h"
 #include "ui/waiting.h"
 
 // The day and the new game, each beside a baseline: the same walks done by opening the file,
@@ -16,68 +14,6 @@
 
 namespace grapplemont {
 namespace {
-
-constexpr int kManyPromotions = 35, kManyWorkers = 25000, kManyStaff = 10000;
-
-std::map<std::string, Bytes> DefaultData() {
-  const auto disk = RealDisk();
-  return ReadWorldFiles(*disk, std::string(CHECKOUT) + "/data");
-}
-
-World DefaultWorld() {
-  World world;
-  world.Load(DefaultData());
-  return world;
-}
-
-/// The largest world that the files may hold.
-World LargestWorld() {
-  World world = DefaultWorld();
-  while (world.Promotions().Count() < kManyPromotions) {
-    Promotion copy = world.Promotions()[1 + world.Promotions().Count() % 18];
-    const std::string number = std::to_string(world.Promotions().Count() + 1);
-    copy.Uid = world.Promotions().Count() + 1;
-    copy.Name = "Promotion " + number;
-    copy.Initials = "P" + number;
-    world.Promotions().Append(copy);
-  }
-  for (int uid = world.Workers().Count() + 1; uid <= kManyWorkers; ++uid) {
-    Worker worker;
-    worker.Uid = uid;
-    worker.Name = "Worker " + std::to_string(uid);
-    worker.ShortName = std::to_string(uid);
-    worker.BirthMonth = 1 + uid % 12;
-    NewWorkerAttributes(world, worker, Generation::Filler);
-    worker.Employer = uid % 3 == 0 ? 0 : 1 + uid % kManyPromotions;
-    worker.Status = "Nor";
-    worker.Stable = "None";
-    worker.Split = "None";
-    world.Workers().Append(worker);
-  }
-  for (int uid = world.AllStaff().Count() + 1; uid <= kManyStaff; ++uid) {
-    Staff staff;
-    staff.Uid = uid;
-    staff.Name = "Staff " + std::to_string(uid);
-    staff.Position = 2 + uid % 7;
-    NewStaffAttributes(world, staff);
-    world.AllStaff().Append(staff);
-  }
-  return world;
-}
-
-World Started(World world, Day start) {
-  NewGameChoice choice;
-  choice.PlayerName = "Bench";
-  choice.PromotionUid = world.Promotions()[3].Uid;
-  choice.Start = start;
-  choice.SaveName = "Bench";
-  NewGame(world, choice);
-  return world;
-}
-
-World MakeWorld(bool large, Day start) {
-  return Started(large ? LargestWorld() : DefaultWorld(), start);
-}
 
 /// The days the figures are for: what the morning is.
 enum Morning { kPlain, kMonday, kFirst };
@@ -94,7 +30,8 @@ void Describe(benchmark::State& state) {
 }
 
 void BM_Day(benchmark::State& state) {
-  const World fresh = MakeWorld(state.range(1) != 0, Evening(static_cast<int>(state.range(0))));
+  const World fresh =
+      bench::StartedWorld(state.range(1) != 0, Evening(static_cast<int>(state.range(0))));
   const auto files = [&] {
     std::map<std::string, Bytes> all;
     for (NewFile& file : FilesOf(fresh)) all.emplace(file.Name, std::move(file.Contents));
@@ -135,7 +72,8 @@ void WalkFile(Disk& disk, const std::string& path) {
 }
 
 void BM_DayBaseline(benchmark::State& state) {
-  const World world = MakeWorld(state.range(1) != 0, Evening(static_cast<int>(state.range(0))));
+  const World world =
+      bench::StartedWorld(state.range(1) != 0, Evening(static_cast<int>(state.range(0))));
   const auto disk = RealDisk();
   const std::string folder =
       (std::filesystem::temp_directory_path() / "grapplemont-bench").string();
@@ -158,11 +96,12 @@ void Mornings(benchmark::internal::Benchmark* bench) {
     for (int morning : {kPlain, kMonday, kFirst}) bench->Args({morning, large});
   bench->Unit(benchmark::kMillisecond);
 }
-BENCHMARK(BM_Day)->Apply(Mornings);
-BENCHMARK(BM_DayBaseline)->Apply(Mornings);
+// The world is laid anew for each day, which takes longer than the day: few rounds are enough.
+BENCHMARK(BM_Day)->Apply(Mornings)->Iterations(25);
+BENCHMARK(BM_DayBaseline)->Apply(Mornings)->Iterations(2);
 
 void BM_Step(benchmark::State& state, Step step) {
-  World world = MakeWorld(false, Evening(kFirst));
+  World world = bench::StartedWorld(false, Evening(kFirst));
   for (auto _ : state) step.Run(world);
 }
 
@@ -175,13 +114,13 @@ const bool kStepsRegistered = [] {
 }();
 
 void BM_NewGame(benchmark::State& state) {
-  const World data = state.range(0) ? LargestWorld() : DefaultWorld();
+  const World data = bench::DataWorld(state.range(0) != 0);
   std::map<std::string, Bytes> files;
   for (NewFile& file : FilesOf(data)) files.emplace(file.Name, std::move(file.Contents));
   for (auto _ : state) {
     World world;
     world.Load(files);
-    benchmark::DoNotOptimize(Started(std::move(world), Evening(kPlain)));
+    benchmark::DoNotOptimize(bench::Started(std::move(world), Evening(kPlain)));
   }
   state.SetLabel(state.range(0) ? "largest world" : "default world");
 }

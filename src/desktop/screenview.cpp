@@ -44,9 +44,7 @@ class Scroller : public QScrollArea {
     const QSize wanted = widget()->sizeHint();
     return tight_ ? QSize(wanted.width(), LeastHeight(std::max(width(), Px(480)))) : wanted;
   }
-  QSize minimumSizeHint() const override {
-    return {widget()->minimumSizeHint().width(), Px(80)};
-  }
+  QSize minimumSizeHint() const override { return {widget()->minimumSizeHint().width(), Px(80)}; }
 
  protected:
   void resizeEvent(QResizeEvent* event) override {

@@ -27,9 +27,9 @@ TEST(TheColours, LetEveryTextBeRead) {
     const std::pair<const char*, QColor> texts[] = {
         {"text", c->Text}, {"soft", c->Soft},   {"muted", c->Muted}, {"gold", c->Gold},
         {"blue", c->Blue}, {"green", c->Green}, {"amber", c->Amber}, {"red", c->Red}};
-    const std::pair<const char*, QColor> grounds[] = {
-        {"ground", c->Ground}, {"card", c->Card},     {"field", c->Field},
-        {"bar", c->Bar},       {"chosen", c->Chosen}, {"button", c->Button}};
+    const std::pair<const char*, QColor> grounds[] = {{"ground", c->Ground}, {"card", c->Card},
+                                                      {"field", c->Field},   {"bar", c->Bar},
+                                                      {"chosen", c->Chosen}, {"button", c->Button}};
     for (const auto& [text, ink] : texts)
       for (const auto& [ground, paper] : grounds)
         EXPECT_GE(Contrast(ink, paper), 4.5)
@@ -49,7 +49,7 @@ TEST(TheColours, TellDarkFromLightByThePalette) {
 TEST(TheColours, GoFromRedToGreenWithAPercentage) {
   const Colours& c = desktop::DarkColours();
   const std::pair<int, QColor> kBands[] = {
-      {0, c.RedFill},     {29, c.RedFill},    {30, c.AmberFill},  {49, c.AmberFill},
+      {0, c.RedFill},     {29, c.RedFill},    {30, c.AmberFill}, {49, c.AmberFill},
       {50, c.YellowFill}, {74, c.YellowFill}, {75, c.GreenFill}, {100, c.GreenFill}};
   for (const auto& [percent, colour] : kBands)
     EXPECT_EQ(desktop::PercentColour(c, percent), colour) << percent;

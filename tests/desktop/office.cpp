@@ -8,8 +8,7 @@ namespace {
 
 class Dialog : public ui::Screen {
  public:
-  Dialog(ui::Desk& desk, Log& log)
-      : Screen(desk, "frmMore", "More", ui::Role::Dialog), log_(log) {}
+  Dialog(ui::Desk& desk, Log& log) : Screen(desk, "frmMore", "More", ui::Role::Dialog), log_(log) {}
   ui::Page Layout() override {
     ui::Page page;
     page.Body = ui::Rows({lblmore});
@@ -48,11 +47,11 @@ ui::Page DeskPage::Layout() {
   page.Actions = {&cmddone, &cmdback};
   page.Main = &cmddone;
   page.Cancel = &cmdback;
-  page.Body = ui::Rows(
-      {ui::Group("Fields", {ui::Field("Name", txtname), ui::Field("Notes", txtnotes),
-                            ui::Field("Kind", cmbkind), ui::Field("Price", hsprice)}),
-       ui::Group("Choices", {chkday, ui::Columns({optface, optheel})}),
-       ui::Group("At hand", {cmdask, cmdname, cmdthrow, cmdmore, cmdoff})});
+  page.Body =
+      ui::Rows({ui::Group("Fields", {ui::Field("Name", txtname), ui::Field("Notes", txtnotes),
+                                     ui::Field("Kind", cmbkind), ui::Field("Price", hsprice)}),
+                ui::Group("Choices", {chkday, ui::Columns({optface, optheel})}),
+                ui::Group("At hand", {cmdask, cmdname, cmdthrow, cmdmore, cmdoff})});
   return page;
 }
 
@@ -87,8 +86,8 @@ PeoplePage::PeoplePage(ui::Desk& desk, Log& log, bool multi)
           [this] { log_.push_back("picked " + std::to_string(lstpeople.Key())); },
           [this] { log_.push_back("opened " + std::to_string(lstpeople.Key())); }) {
   lstpeople.Multi = multi;
-  const char* names[] = {"Bram", "Ludo", "Dane", "Hattie", "Petey",
-                         "Kid",  "Rory", "Fetch", "Salt", "Iron"};
+  const char* names[] = {"Bram", "Ludo", "Dane",  "Hattie", "Petey",
+                         "Kid",  "Rory", "Fetch", "Salt",   "Iron"};
   // The first column holds numbers that are not those of the rows.
   for (int i = 0; i < 10; ++i)
     lstpeople.Add({std::to_string(10 - i), names[i], i % 2 ? "Heel" : "Face", 50 + (i * 7) % 10},
@@ -103,8 +102,7 @@ ui::Page PeoplePage::Layout() {
   return page;
 }
 
-Hub::Hub(ui::Desk& desk, Log& log)
-    : Screen(desk, "frmHub", "Today", ui::Role::Hub), log_(log) {
+Hub::Hub(ui::Desk& desk, Log& log) : Screen(desk, "frmHub", "Today", ui::Role::Hub), log_(log) {
   cmdlater.Enabled = false;
   cmdpeople.Badge = "4";
 }

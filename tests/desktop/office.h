@@ -25,10 +25,10 @@ class DeskPage : public ui::Screen {
   ui::TextBox txtnotes{*this, "txtnotes"};
   ui::ComboBox cmbkind{*this, "cmbkind", [this] { log_.push_back("kind " + cmbkind.Text.Get()); }};
   ui::CheckBox chkday{*this, "chkday", "Every day", false, [this] { log_.push_back("day"); }};
-  ui::OptionButton optface{*this, "optface", "Face", "side", true,
-                           [this] { log_.push_back("face"); }};
-  ui::OptionButton optheel{*this, "optheel", "Heel", "side", false,
-                           [this] { log_.push_back("heel"); }};
+  ui::OptionButton optface{*this,  "optface", "Face",
+                           "side", true,      [this] { log_.push_back("face"); }};
+  ui::OptionButton optheel{*this,  "optheel", "Heel",
+                           "side", false,     [this] { log_.push_back("heel"); }};
   ui::ScrollBar hsprice{*this, "hsprice", 5, 100, [this] { log_.push_back("price"); }};
   ui::Button cmdask{*this, "cmdask", "Ask", [this] { Asks(); }};
   ui::Button cmdname{*this, "cmdname", "Rename", [this] { Prompts(); }};

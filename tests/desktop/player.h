@@ -3,9 +3,9 @@
 #include <QtTest/QTest>
 #include <functional>
 
+#include "desktop/office.h"
 #include "desktop/tablegrid.h"
 #include "desktop/window.h"
-#include "desktop/office.h"
 
 namespace grapplemont::test {
 

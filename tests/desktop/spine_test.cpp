@@ -65,9 +65,8 @@ class FromTitleToNextDay : public testing::Test {
   std::string Home = Scratch / "home";
   std::unique_ptr<Disk> Files = RealDisk(Syncs::None);
   Player Play;
-  grapplemont::Game Game{Play.Desk,
-                         *Files,
-                         {Home, [] { return Day{std::chrono::year{2026} / 3 / 17}; }, 11}};
+  grapplemont::Game Game{
+      Play.Desk, *Files, {Home, [] { return Day{std::chrono::year{2026} / 3 / 17}; }, 11}};
 };
 
 TEST_F(FromTitleToNextDay, GoesByMouseAndKeys) {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <QMenu>
 #include <QApplication>
 #include <QClipboard>
+#include <QMenu>
 #include <QTemporaryDir>
 
 #include "desktop/player.h"

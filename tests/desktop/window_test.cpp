@@ -115,9 +115,12 @@ TEST_F(TheWindow, ShowsADialogOverThePageAndNothingBelowTakesClicks) {
 TEST_F(TheWindow, AsksAndTakesTheAnswerByKeyOrClick) {
   OpenDesk();
   const std::pair<std::function<void()>, const char*> kAnswers[] = {
-      {[&] { Play.Key(Qt::Key_Return); }, "yes"}, {[&] { Play.Key(Qt::Key_Escape); }, "no"},
-      {[&] { Play.Click("boxno"); }, "no"},       {[&] { Play.Click("boxyes"); }, "yes"},
-      {[&] { Play.Type("n"); }, "no"},            {[&] { Play.Type("Y"); }, "yes"},
+      {[&] { Play.Key(Qt::Key_Return); }, "yes"},
+      {[&] { Play.Key(Qt::Key_Escape); }, "no"},
+      {[&] { Play.Click("boxno"); }, "no"},
+      {[&] { Play.Click("boxyes"); }, "yes"},
+      {[&] { Play.Type("n"); }, "no"},
+      {[&] { Play.Type("Y"); }, "yes"},
   };
   for (const auto& [answer, noted] : kAnswers) {
     Notes.clear();
