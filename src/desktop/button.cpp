@@ -142,13 +142,19 @@ void PushButton::paintEvent(QPaintEvent*) {
     DrawEnterSign(painter,
                   QRectF(x, (height() - Px(kEnterWidth)) / 2.0, Px(kEnterWidth), Px(kEnterWidth)),
                   ink);
-  if (hasFocus()) DrawFocus(painter, rect(), Px(6), palette());
+  if (hasFocus() && ring_) DrawFocus(painter, rect(), Px(6), palette());
 }
 
 void PushButton::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (enter && !event->isAutoRepeat()) return click();
   QAbstractButton::keyPressEvent(event);
+}
+
+/// The ring tells where keys have led to; the answer that a box offers is gold already.
+void PushButton::focusInEvent(QFocusEvent* event) {
+  ring_ = event->reason() != Qt::OtherFocusReason;
+  QAbstractButton::focusInEvent(event);
 }
 
 void PushButton::enterEvent(QEnterEvent*) {

@@ -28,12 +28,13 @@ class PushButton : public QAbstractButton {
   void keyPressEvent(QKeyEvent* event) override;
   void enterEvent(QEnterEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   QFont CaptionFont() const;
   int BadgeWidth() const;
 
-  bool gold_ = false, enter_ = false;
+  bool gold_ = false, enter_ = false, ring_ = false;
   QString badge_;
   QColor textColour_;
   QSize least_;

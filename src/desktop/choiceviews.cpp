@@ -10,7 +10,7 @@ namespace grapplemont::desktop {
 
 ComboView::ComboView(ui::ComboBox& combo, Stage& stage, QWidget* parent)
     : QComboBox(parent), ControlView(combo, stage), combo_(combo) {
-  setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
   setMaxVisibleItems(18);
   setMinimumContentsLength(8);
   setFocusPolicy(Qt::StrongFocus);

@@ -180,7 +180,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
       return;
     case PE_Frame:
     case PE_FrameLineEdit:
-      DrawBox(*painter, option->rect, QColor(), c.Edge, Px(kCorner));
+      DrawBox(*painter, option->rect, c.Field, c.Edge, Px(kCorner));
       if (Has(option, State_HasFocus))
         DrawFocus(*painter, option->rect, Px(kCorner), option->palette);
       return;
@@ -199,6 +199,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     case PE_FrameMenu:
     case PE_FrameTabBarBase:
     case PE_IndicatorTabTear:
+    case PE_PanelScrollAreaCorner:
       return;
     case PE_PanelItemViewRow:
     case PE_PanelItemViewItem:

@@ -12,6 +12,7 @@
 #include "desktop/letters.h"
 #include "desktop/look.h"
 #include "desktop/palette.h"
+#include "desktop/tableview.h"
 
 namespace grapplemont::desktop {
 
@@ -35,12 +36,21 @@ bool IsPlainRow(const Box& box) {
          !std::all_of(box.Parts.begin(), box.Parts.end(), IsButton);
 }
 
-/// A column within a card: its own last stretch must not ask the card for more.
-class CalmColumn : public QVBoxLayout {
+/// A column among others. A calm one does not ask for more because of the stretch at its end; one
+/// of which all is hidden takes no room, whatever its share.
+class Column : public QVBoxLayout {
  public:
+  explicit Column(bool calm) : calm_(calm) {}
   Qt::Orientations expandingDirections() const override {
-    return QVBoxLayout::expandingDirections() & ~Qt::Vertical;
+    const auto all = QVBoxLayout::expandingDirections();
+    return calm_ ? all & ~Qt::Vertical : all;
   }
+  QSize maximumSize() const override {
+    return isEmpty() ? QSize(0, 0) : QVBoxLayout::maximumSize();
+  }
+
+ private:
+  bool calm_;
 };
 
 bool GrowsByItself(const ui::Control& control) {
@@ -137,7 +147,7 @@ void LayoutBuilder::Add(const Box& box, QBoxLayout* into) {
     case Kind::Field:
       return AddForm({&box}, into);
     case Kind::Rows: {
-      auto* rows = inCard_ ? new CalmColumn : new QVBoxLayout;
+      auto* rows = new Column(inCard_ && !Grows(box));
       rows->setSpacing(Px(inCard_ ? kClose : kWide));
       into->addLayout(rows, std::max(box.Stretch, Grows(box) || !inCard_ ? 1 : 0));
       return AddAll(box.Parts, rows);
@@ -203,10 +213,12 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   auto* inside = new QVBoxLayout(card);
   inside->setContentsMargins(Px(kCardSide), Px(kCardSide), Px(kCardSide), Px(kCardSide));
   inside->setSpacing(Px(kClose));
+  auto* head = new QHBoxLayout;
+  inside->addLayout(head);
   if (!box.Title.empty()) {
     auto* title = new WrappedLabel(card, Shown(box.Title));
     title->setFont(TextFont(13, QFont::DemiBold));
-    inside->addWidget(title);
+    head->addWidget(title, 1);
   }
   QWidget* const outer = holder_;
   holder_ = card;
@@ -215,8 +227,20 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   AddAll(box.Parts, inside);
   inCard_ = false;
   holder_ = outer;
+  if (!box.Title.empty()) PlaceSearch(before, head);
   cards_.push_back({card, {views_.begin() + static_cast<std::ptrdiff_t>(before), views_.end()}});
   into->addWidget(card, std::max(box.Stretch, Grows(box) ? 1 : 0));
+}
+
+/// The only table of a card has its search line beside the card's title.
+void LayoutBuilder::PlaceSearch(std::size_t from, QBoxLayout* head) {
+  TableView* only = nullptr;
+  for (std::size_t i = from; i < views_.size(); ++i)
+    if (auto* table = dynamic_cast<TableView*>(views_[i])) {
+      if (only) return;
+      only = table;
+    }
+  if (only) head->addWidget(only->TakeSearchRow(), 4);
 }
 
 void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
@@ -250,7 +274,6 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
 
 QWidget* LayoutBuilder::FieldLabel(const Box& field, ControlView& view) {
   auto* label = new WrappedLabel(holder_, Shown(field.Title));
-  label->setWordWrap(false);
   SetInk(*label, ColoursOf(holder_).Muted);
   view.SetCompanion(label);
   label->setBuddy(view.FocusTarget());

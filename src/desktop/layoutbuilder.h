@@ -36,6 +36,7 @@ class LayoutBuilder {
   void AddItem(const ui::Box& box, QBoxLayout* into);
   void AddColumns(const ui::Box& box, QBoxLayout* into);
   void AddGroup(const ui::Box& box, QBoxLayout* into);
+  void PlaceSearch(std::size_t from, QBoxLayout* head);
   void AddTabs(const ui::Box& box, QBoxLayout* into);
   void AddForm(const Run& fields, QBoxLayout* into);
   void AddButtons(const Run& buttons, QBoxLayout* into);

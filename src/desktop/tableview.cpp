@@ -74,7 +74,8 @@ void TableView::BuildSearchRow() {
   row->setSpacing(Px(12));
   search_->setObjectName(Name() + "_search");
   search_->setTextMargins(Px(8), 0, Px(8), 0);
-  search_->setFixedWidth(Px(240));
+  search_->setMinimumWidth(Px(96));
+  search_->setMaximumWidth(Px(240));
   search_->setClearButtonEnabled(true);
   search_->setPlaceholderText(SearchHint(list_));
   search_->setText(Shown(table_.State().Search));
@@ -82,7 +83,7 @@ void TableView::BuildSearchRow() {
   columns_->setObjectName(Name() + "_columns");
   row->addWidget(count_);
   row->addStretch(1);
-  row->addWidget(search_);
+  row->addWidget(search_, 100);
   row->addWidget(columns_);
 }
 
@@ -225,17 +226,22 @@ void TableView::FitColumns() {
     room -= more;
     all -= shares[i];
   }
-  while (room < 0) {
+  for (bool tight = false; room < 0;) {
     const auto excess = [&](std::size_t i) {
       const bool text = list_.Columns()[Index(shown[i])].Kind == ui::ColumnKind::Text;
-      const int least = std::max(grid_->Heading().HeadingWidth(shown[i]), Px(i == 0 ? 110 : 72));
+      const int least = std::max(grid_->Heading().HeadingWidth(shown[i]),
+                                 Px(tight ? 56 : i == 0 ? 110 : 72));
       return text && shares[i] >= 0 ? widths[i] - least : 0;
     };
     std::size_t widest = 0;
     for (std::size_t i = 1; i < shown.size(); ++i)
       if (excess(i) > excess(widest)) widest = i;
     const int take = shown.empty() ? 0 : std::min({excess(widest), -room, Px(16)});
-    if (take <= 0) break;
+    if (take <= 0 && tight) break;
+    if (take <= 0) {
+      tight = true;
+      continue;
+    }
     widths[widest] -= take;
     room += take;
   }

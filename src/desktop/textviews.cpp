@@ -57,6 +57,7 @@ NotesView::NotesView(ui::TextBox& box, Stage& stage, QWidget* parent)
   document()->setDocumentMargin(Px(10));
   setPlaceholderText(Shown(box.Hint));
   setMinimumHeight(Px(96));
+  viewport()->setAutoFillBackground(false);
   connect(this, &QPlainTextEdit::textChanged, this, &NotesView::Typed);
 }
 

@@ -2,8 +2,8 @@
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QRegularExpression>
 
-#include "desktop/labelview.h"
 #include "desktop/letters.h"
 #include "desktop/look.h"
 #include "desktop/palette.h"
@@ -22,20 +22,19 @@ class TopLabel : public QWidget, public ControlView {
   }
   QWidget* Widget() override { return this; }
 
-  QSize sizeHint() const override {
-    int width = 0;
-    for (const Piece& piece : pieces_)
-      width += QFontMetrics(FontOf(piece)).horizontalAdvance(piece.Words);
-    return {width + 2, Px(32)};
-  }
+  QSize sizeHint() const override { return {WidthOf(pieces_) + 2, Px(32)}; }
+  /// Whose promotion it is may be cut; a date may be told in short.
   QSize minimumSizeHint() const override {
-    const QSize whole = sizeHint();
-    return {std::min(whole.width(), first_ ? whole.width() : Px(72)), whole.height()};
+    const int whole = WidthOf(pieces_) + 2;
+    if (first_) return {WidthOf(InShort()) + 2, Px(32)};
+    const bool name = pieces_.size() == 2 && pieces_.front().Matters;
+    return {name ? std::min(whole, Px(64)) : whole, Px(32)};
   }
 
  protected:
   void Show() override {
     TakeApart(Shown(label_.Text.Get()));
+    if (label_.Tip->empty()) setToolTip(Shown(label_.Text.Get()));
     if (label_.Trend != 0)
       pieces_.push_back(
           {label_.Trend > 0 ? QStringLiteral(" \u25B2") : QStringLiteral(" \u25BC"), false});
@@ -46,8 +45,9 @@ class TopLabel : public QWidget, public ControlView {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     const Colours& c = ColoursOf(this);
+    const bool shorten = first_ && width() < WidthOf(pieces_);
     int x = 0;
-    for (const Piece& piece : pieces_) {
+    for (const Piece& piece : shorten ? InShort() : pieces_) {
       const QFontMetrics metrics(FontOf(piece));
       const QString words = metrics.elidedText(piece.Words, Qt::ElideRight, width() - x);
       painter.setFont(FontOf(piece));
@@ -62,6 +62,23 @@ class TopLabel : public QWidget, public ControlView {
     QString Words;
     bool Matters;
   };
+
+  using Pieces = std::vector<Piece>;
+
+  int WidthOf(const Pieces& pieces) const {
+    int width = 0;
+    for (const Piece& piece : pieces)
+      width += QFontMetrics(FontOf(piece)).horizontalAdvance(piece.Words);
+    return width;
+  }
+
+  /// "Monday, 09 March 2026" as "Mon, 09 Mar 2026".
+  Pieces InShort() const {
+    Pieces pieces = pieces_;
+    static const QRegularExpression kLongWord("([A-Za-z]{3})[A-Za-z]+");
+    for (Piece& piece : pieces) piece.Words.replace(kLongWord, "\\1");
+    return pieces;
+  }
 
   QFont FontOf(const Piece& piece) const {
     if (first_) return TextFont(15, QFont::DemiBold);
@@ -88,7 +105,7 @@ class TopLabel : public QWidget, public ControlView {
 
   ui::Label& label_;
   bool first_;
-  std::vector<Piece> pieces_;
+  Pieces pieces_;
 };
 
 }  // namespace
