@@ -229,8 +229,9 @@ void TableView::FitColumns() {
   for (bool tight = false; room < 0;) {
     const auto excess = [&](std::size_t i) {
       const bool text = list_.Columns()[Index(shown[i])].Kind == ui::ColumnKind::Text;
-      const int least = std::max(grid_->Heading().HeadingWidth(shown[i]),
-                                 Px(tight ? 56 : i == 0 ? 110 : 72));
+      const int least = std::max(grid_->Heading().HeadingWidth(shown[i]), Px(tight    ? 56
+                                                                             : i == 0 ? 110
+                                                                                      : 72));
       return text && shares[i] >= 0 ? widths[i] - least : 0;
     };
     std::size_t widest = 0;

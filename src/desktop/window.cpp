@@ -55,7 +55,7 @@ QString Window::PictureFile(const std::string& name) const {
   return options_.Pictures + "/" + Shown(name);
 }
 
-bool Window::IsPatient(const ui::Screen& screen) const {
+bool Window::IsPatient(const ui::Screen& screen) {
   if (waitsFor_ != &screen) {
     waitsFor_ = &screen;
     waiting_.start();
@@ -63,7 +63,7 @@ bool Window::IsPatient(const ui::Screen& screen) const {
   return waiting_.elapsed() < kPatience;
 }
 
-Window::Scene Window::Survey() const {
+Window::Scene Window::Survey() {
   Scene scene;
   const auto& screens = desk_.Screens();
   const int count = static_cast<int>(screens.size());

@@ -60,8 +60,9 @@ class Window : public QMainWindow, public Stage {
     int Base = -1, Hub = -1;
     std::vector<int> Dialogs;
   };
-  Scene Survey() const;
-  bool IsPatient(const ui::Screen& screen) const;
+  Scene Survey();
+  /// Whether a waiting screen has come too lately to be shown.
+  bool IsPatient(const ui::Screen& screen);
   void DropGone();
   Layer& LayerOf(int place, const Scene& scene);
   void Place(ScreenView& view, const Scene& scene);
@@ -107,8 +108,8 @@ class Window : public QMainWindow, public Stage {
   int acting_ = 0;
   bool syncing_ = false, busy_ = false, closing_ = false;
   QElapsedTimer lastPaint_;
-  mutable QElapsedTimer waiting_;
-  mutable const ui::Screen* waitsFor_ = nullptr;
+  QElapsedTimer waiting_;
+  const ui::Screen* waitsFor_ = nullptr;
 };
 
 }  // namespace grapplemont::desktop
