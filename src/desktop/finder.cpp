@@ -79,7 +79,7 @@ Finder::Finder(QWidget* ground, std::vector<Entry> entries)
   list_->setItemDelegate(new EntryCells(list_));
   list_->viewport()->setAutoFillBackground(false);
   connect(line_, &QLineEdit::textChanged, this, &Finder::Filter);
-  connect(list_, &QListWidget::itemClicked, this, [this] { Choose(); });
+  connect(list_, &QListWidget::itemClicked, this, &Finder::Choose, Qt::QueuedConnection);
   Filter({});
   PlaceCard();
   show();
