@@ -98,7 +98,8 @@ void ForEachFile(Inspection& inspection, Visit visit) {
   const auto all = [&](auto&... records) { (one(records), ...); };
   all(world.Titles(), world.Events(), world.Networks(), world.Promotions(), world.Sponsors(),
       world.Stables(), world.AllStaff(), world.Teams(), world.Shows(), world.Workers(),
-      world.GameInfos(), world.News(), world.Feuds(), world.Segments(), world.Incidents());
+      world.GameInfos(), world.News(), world.Feuds(), world.Segments(), world.Incidents(),
+      world.ShowRuns());
 }
 
 }  // namespace grapplemont

@@ -74,7 +74,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<Mail>("mails.csv", true),
           Kind<Feud>("feuds.csv", true),
           Kind<Segment>("segments.csv", true),
-          Kind<Incident>("incidents.csv", true)};
+          Kind<Incident>("incidents.csv", true),
+          Kind<ShowRun>("showruns.csv", true)};
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "records/gameinfo.h"
 #include "records/people.h"
 #include "records/promotion.h"
+#include "records/showrun.h"
 #include "records/slot.h"
 #include "records/storyrecords.h"
 #include "records/table.h"
@@ -64,6 +65,9 @@ class World {
   const Records<Segment>& Segments() const { return segments_; }
   Records<Incident>& Incidents() { return incidents_; }
   const Records<Incident>& Incidents() const { return incidents_; }
+  /// One record while a show is under way, else none.
+  Records<ShowRun>& ShowRuns() { return showRuns_; }
+  const Records<ShowRun>& ShowRuns() const { return showRuns_; }
   Records<GameInfo>& GameInfos() { return gameInfos_; }
   const Records<GameInfo>& GameInfos() const { return gameInfos_; }
   TextFile& Notes() { return notes_; }
@@ -102,7 +106,7 @@ class World {
   SessionWords Session;
 
   /// Every file of a world, the ten of the data set first and in their fixed order.
-  static constexpr int kTables = 16;
+  static constexpr int kTables = 17;
   std::array<Table*, kTables> Tables();
   std::array<const Table*, kTables> Tables() const;
 
@@ -144,6 +148,7 @@ class World {
   Records<Feud> feuds_;
   Records<Segment> segments_;
   Records<Incident> incidents_;
+  Records<ShowRun> showRuns_;
   TextFile notes_{"notes.dat"};
   mutable UidIndex workerIndex_, promotionIndex_, staffIndex_, networkIndex_, sponsorIndex_;
   std::unique_ptr<Draws> chance_, prose_;

@@ -71,6 +71,7 @@ void NewGameInfo(World& world, const NewGameChoice& choice) {
 void EmptyFiles(World& world, const NewGameChoice& choice) {
   world.News().Remove();
   world.Segments().Remove();
+  world.ShowRuns().Remove();
   world.Incidents().Remove();
   world.Feuds().Rewrite(std::vector<Feud>(kFeuds));
   NewGameInfo(world, choice);

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "booking/wizard.h"
+#include "ui/game.h"
+
+namespace grapplemont {
+
+/// What a step screen needs of the wizard's own screen.
+class WizardHost {
+ public:
+  virtual ~WizardHost() = default;
+  virtual Wizard& State() = 0;
+  /// A step has been stored: counts it and shows the wizard. `goOn` opens the next step at once.
+  virtual void StepStored(bool goOn) = 0;
+};
+
+/// One step of the wizard: a dialog over it. At its left is what has been chosen so far, at its
+/// right the step; Back leaves without storing, Done stores and shows the wizard, Next stores and
+/// goes straight on to the next step, as Enter and a double click in a list do.
+class StepScreen : public ui::Screen {
+ public:
+  StepScreen(Game& game, WizardHost& host, std::string name, std::string title);
+
+  ui::Page Layout() final;
+  void Load() final;
+
+ protected:
+  World& world() { return game_.World(); }
+  Wizard& wizard() { return host_.State(); }
+  Segment& buffer() { return host_.State().Buffer; }
+
+  /// Fills the step's controls when it opens.
+  virtual void Prepare() = 0;
+  /// The right-hand side.
+  virtual ui::Box Body() = 0;
+  /// Checks what is chosen and puts it into the buffer; false leaves the step open with nothing
+  /// stored.
+  virtual bool Store() = 0;
+
+  /// Stores and goes on, for the double click of a list.
+  void GoOn();
+  bool Fail(const std::string& message);  // says it, titled "Error!"; always false
+
+ private:
+  void cmddone_Click();
+  void cmdnext_Click();
+  void cmdback_Click();
+  void Finish(bool goOn);
+
+  Game& game_;
+  WizardHost& host_;
+  ui::Report txtsofar{*this, "txtsofar"};
+
+ protected:
+  // Behind the step's own controls in the tab order.
+  std::unique_ptr<ui::Button> cmdback, cmddone, cmdnext;
+};
+
+/// Makes the screen of the wizard's step by its name; nullptr for an unknown one.
+std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host, const std::string& name);
+
+/// A list of people: Over, disposition, condition and morale beside the name. `none` puts "None" on
+/// top, preselected.
+std::vector<ui::Column> PeopleColumns();
+void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none = false);
+
+}  // namespace grapplemont

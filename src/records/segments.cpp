@@ -1,0 +1,340 @@
+#include "records/segments.h"
+
+#include <algorithm>
+#include <functional>
+#include <numeric>
+
+#include "records/angles.h"
+#include "records/modWresCheck.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr const char* kUnknown = "<Error>";
+
+std::string NameText(const World& world, int uid) {
+  const Worker* worker = world.FindWorker(uid);
+  return worker ? worker->Name.Str() : kUnknown;
+}
+
+int WorkerAt(const Segment& segment, int place) {
+  return segment.Worker[static_cast<std::size_t>(place - 1)];
+}
+
+int SpecialEntrants(int type) {
+  constexpr int kEntrants[] = {30, 20, 10};
+  return type >= kRoyalRumble && type <= kTenMan ? kEntrants[type - 1] : 0;
+}
+
+std::string PairText(const World& world, int first, int second) {
+  if (second == 0) return NameText(world, first);
+  const std::string team = TeamNameOf(world, first, second);
+  return team != "None" ? team : NameText(world, first) + " \\ " + NameText(world, second);
+}
+
+struct Hole {
+  std::string_view Name;
+  std::function<std::string(const World&, const Segment&)> Fill;
+};
+
+/// {1} to {8}, and the names that need a look at the result.
+std::string FillHole(const World& world, const Segment& segment, std::string_view hole) {
+  static const std::vector<Hole> kHoles = {
+      {"W", [](auto& w, auto& s) { return NameText(w, s.Winner); }},
+      {"L", [](auto& w, auto& s) { return NameText(w, s.Loser); }},
+      {"P", [](auto& w, auto& s) { return NameText(w, PartnerOf(s, s.Loser)); }},
+      {"O1", [](auto& w, auto& s) { return NameText(w, s.Other1); }},
+      {"O2", [](auto& w, auto& s) { return NameText(w, s.Other2); }},
+      {"O3", [](auto& w, auto& s) { return NameText(w, s.Other3); }},
+      {"O4", [](auto& w, auto& s) { return NameText(w, s.Other4); }},
+      {"12", [](auto& w, auto& s) { return PairText(w, WorkerAt(s, 1), WorkerAt(s, 2)); }},
+      {"34", [](auto& w, auto& s) { return PairText(w, WorkerAt(s, 3), WorkerAt(s, 4)); }},
+      {"WT", [](auto& w, auto& s) { return SideText(w, WinnersOf(s)); }},
+      {"LT", [](auto& w, auto& s) { return SideText(w, LosersOf(s)); }},
+      {"OO", [](auto& w, auto& s) { return PairText(w, s.Other1, s.Other2); }},
+      {"PP", [](auto& w, auto& s) { return PairText(w, s.Other3, s.Other4); }},
+  };
+  for (const Hole& known : kHoles)
+    if (known.Name == hole) return known.Fill(world, segment);
+  if (hole.size() == 1 && hole[0] >= '1' && hole[0] <= '8')
+    return NameText(world, WorkerAt(segment, hole[0] - '0'));
+  return kUnknown;
+}
+
+const Phrase* FindPhrase(Phrases phrases, int code) {
+  const auto found = std::find_if(phrases.begin(), phrases.end(),
+                                  [&](auto& phrase) { return phrase.Code == code; });
+  return found == phrases.end() ? nullptr : &*found;
+}
+
+std::string DescribeTwoSides(const World& world, const Segment& segment) {
+  const auto sides = SidesOf(segment);
+  const std::string first = SideText(world, sides[0]), second = SideText(world, sides[1]);
+  if (IsDraw(segment)) return first + " draw " + second;
+  return SideOf(segment, segment.Winner) == 2 ? second + " over " + first
+                                              : first + " over " + second;
+}
+
+/// A winner over one loser, and who else was there, in the order of the places.
+std::string DescribeManySides(const World& world, const Segment& segment) {
+  std::string text = NameText(world, segment.Winner) + " over " + NameText(world, segment.Loser);
+  if (segment.Style == kFourWay && segment.MatchType == kElimination)
+    return text + ", " + NameText(world, segment.Place3) + ", " + NameText(world, segment.Place4);
+  for (const int uid : PeopleOf(segment))
+    if (uid != segment.Winner && uid != segment.Loser) text += ", " + NameText(world, uid);
+  return text;
+}
+
+std::string DescribeMatch(const World& world, const Segment& segment) {
+  switch (segment.Style) {
+    case kSingles:
+    case kTag:
+    case kThreeOnThree:
+    case kFourOnFour:
+      return DescribeTwoSides(world, segment);
+    case kThreeWay:
+    case kFourWay:
+      return DescribeManySides(world, segment);
+    case kThreeTeams:
+      return SideText(world, WinnersOf(segment)) + " win a triangle tag match";
+    case kFourTeams:
+      return SideText(world, WinnersOf(segment)) + " win a four-way tag match";
+    case kSpecial:
+      return NameText(world, segment.Winner) + " wins a " +
+             std::string(MatchTypeText(kSpecial, segment.MatchType));
+    default:
+      return kUnknown;
+  }
+}
+
+std::string DescribeInterview(const World& world, const Segment& segment) {
+  const auto name = [&](int place) { return NameText(world, WorkerAt(segment, place)); };
+  const auto pair = [&](int place) {
+    return PairText(world, WorkerAt(segment, place), WorkerAt(segment, place + 1));
+  };
+  switch (segment.Style) {
+    case kSingleTalk:
+      return "Interview with " + name(1);
+    case kTeamTalk:
+      return "Interview with " + pair(1);
+    case kManagedTalk:
+      return "Interview with " + name(1) + " and " + name(2);
+    case kManagedTeamTalk:
+      return "Interview with " + name(1) + " and " + pair(2);
+    default:
+      return kUnknown;
+  }
+}
+
+std::string DescribeAngle(const World& world, const Segment& segment) {
+  const Angle* angle = FindAngle(segment.Style);
+  if (!angle) return kUnknown;
+  std::string text = std::string(angle->Sheet) + "involving ";
+  if (IsToldByStable(segment.Style)) {
+    text += segment.Text;
+    if (segment.Style != kStableVideo) text += ", " + NameText(world, WorkerAt(segment, 1));
+    return text;
+  }
+  text += NameText(world, WorkerAt(segment, 1));
+  for (int place = 2; place <= kAnglePlaces; ++place)
+    if (const int uid = WorkerAt(segment, place)) text += ", " + NameText(world, uid);
+  if (!(segment.Text == "None")) text += ", " + segment.Text.Str();
+  return text;
+}
+
+}  // namespace
+
+void ClearSegment(Segment& segment) {
+  segment.Rating = 0;
+  for (Word* field :
+       {&segment.Kind, &segment.Style, &segment.MatchType, &segment.Winner, &segment.Loser,
+        &segment.Place3, &segment.Place4, &segment.Other1, &segment.Other2, &segment.Other3,
+        &segment.Other4, &segment.Finish, &segment.Purpose, &segment.Aftermath})
+    *field = 0;
+  for (int place = 0; place < 4; ++place) segment.Worker[static_cast<std::size_t>(place)] = 0;
+  segment.TitleName = "None";
+  segment.Text = "None";
+}
+
+Segment EmptySegment() {
+  Segment segment;
+  ClearSegment(segment);
+  return segment;
+}
+
+const MatchStyleRow* FindMatchStyle(int style) {
+  const auto found = std::find_if(std::begin(kMatchStyles), std::end(kMatchStyles),
+                                  [&](auto& row) { return row.Code == style; });
+  return found == std::end(kMatchStyles) ? nullptr : &*found;
+}
+
+const MatchTypeRow* FindMatchType(int style, int type) {
+  const auto found = std::find_if(std::begin(kMatchTypes), std::end(kMatchTypes), [&](auto& row) {
+    return row.Style == style && row.Code == type;
+  });
+  return found == std::end(kMatchTypes) ? nullptr : &*found;
+}
+
+const InterviewStyleRow* FindInterviewStyle(int style) {
+  const auto found = std::find_if(std::begin(kInterviewStyles), std::end(kInterviewStyles),
+                                  [&](auto& row) { return row.Code == style; });
+  return found == std::end(kInterviewStyles) ? nullptr : &*found;
+}
+
+std::string_view MatchTypeText(int style, int type) {
+  const MatchTypeRow* row = FindMatchType(style, type);
+  return row ? row->Says : std::string_view();
+}
+
+Phrases FinishesOf(int style) {
+  switch (style) {
+    case kSingles:
+      return kSinglesFinishes;
+    case kTag:
+      return kTagFinishes;
+    case kThreeOnThree:
+      return kSixManFinishes;
+    case kFourOnFour:
+      return kEightManFinishes;
+    default:
+      return {};
+  }
+}
+
+Phrases AftermathsOf(int style) {
+  if (style == kSingles) return kSinglesAftermaths;
+  return style == kTag ? Phrases(kTagAftermaths) : Phrases();
+}
+
+Phrases PurposesOf(int style) {
+  if (style == kSingles) return kSinglesPurposes;
+  return style == kTag ? Phrases(kTagPurposes) : Phrases();
+}
+
+int EntrantsOf(const Segment& segment) {
+  if (segment.Kind != kMatch) return 0;
+  if (segment.Style == kSpecial) return SpecialEntrants(segment.MatchType);
+  const MatchStyleRow* style = FindMatchStyle(segment.Style);
+  return style ? style->Sides * style->PerSide : 0;
+}
+
+std::vector<int> PeopleOf(const Segment& segment) {
+  int places = segment.Kind == kAngle ? kAnglePlaces : EntrantsOf(segment);
+  if (const InterviewStyleRow* style = FindInterviewStyle(segment.Style);
+      style && segment.Kind == kInterview)
+    places = style->Speakers + style->Targets;
+  std::vector<int> people;
+  for (int place = 1; place <= places; ++place)
+    if (const int uid = WorkerAt(segment, place)) people.push_back(uid);
+  return people;
+}
+
+std::vector<std::vector<int>> SidesOf(const Segment& segment) {
+  const MatchStyleRow* style = FindMatchStyle(segment.Style);
+  std::vector<std::vector<int>> sides;
+  for (int place = 1; style && place <= EntrantsOf(segment); ++place) {
+    if ((place - 1) % style->PerSide == 0) sides.emplace_back();
+    sides.back().push_back(WorkerAt(segment, place));
+  }
+  return sides;
+}
+
+int SideOf(const Segment& segment, int uid) {
+  if (uid == 0) return 0;
+  int number = 0;
+  for (const auto& side : SidesOf(segment)) {
+    ++number;
+    if (std::find(side.begin(), side.end(), uid) != side.end()) return number;
+  }
+  return 0;
+}
+
+std::vector<int> WinnersOf(const Segment& segment) {
+  const int side = SideOf(segment, segment.Winner);
+  if (side == 0) return {};
+  return SidesOf(segment)[static_cast<std::size_t>(side - 1)];
+}
+
+std::vector<int> LosersOf(const Segment& segment) {
+  const int winning = SideOf(segment, segment.Winner);
+  if (winning == 0) return {};
+  const auto sides = SidesOf(segment);
+  const int losing = segment.Loser == kNoLoser ? 0 : SideOf(segment, segment.Loser);
+  if (losing != 0) return sides[static_cast<std::size_t>(losing - 1)];
+  std::vector<int> losers;
+  for (std::size_t i = 0; i < sides.size(); ++i)
+    if (static_cast<int>(i) != winning - 1)
+      losers.insert(losers.end(), sides[i].begin(), sides[i].end());
+  return losers;
+}
+
+int PartnerOf(const Segment& segment, int uid) {
+  const int side = SideOf(segment, uid);
+  if (side == 0) return 0;
+  for (const int member : SidesOf(segment)[static_cast<std::size_t>(side - 1)])
+    if (member != uid) return member;
+  return 0;
+}
+
+bool IsDraw(const Segment& segment) {
+  return segment.Winner == 0;
+}
+
+bool HasResult(const Segment& segment) {
+  return segment.Worker[0] != 0 && segment.Loser != 0;
+}
+
+bool TakesPart(const Segment& segment, int uid) {
+  if (uid == 0) return false;
+  for (const int other : {segment.Other1, segment.Other2, segment.Other3, segment.Other4})
+    if (other == uid) return true;
+  const std::vector<int> people = PeopleOf(segment);
+  return std::find(people.begin(), people.end(), uid) != people.end();
+}
+
+std::string SideText(const World& world, const std::vector<int>& side) {
+  if (side.empty()) return kUnknown;
+  if (side.size() == 2) return PairText(world, side[0], side[1]);
+  return std::accumulate(
+      std::next(side.begin()), side.end(), NameText(world, side[0]),
+      [&](std::string text, int uid) { return std::move(text) + " \\ " + NameText(world, uid); });
+}
+
+std::string FillPhrase(const World& world, const Segment& segment, std::string_view phrase) {
+  std::string text;
+  while (!phrase.empty()) {
+    const auto open = phrase.find('{');
+    text += phrase.substr(0, open);
+    if (open == std::string_view::npos) break;
+    const auto close = phrase.find('}', open);
+    text += FillHole(world, segment, phrase.substr(open + 1, close - open - 1));
+    phrase.remove_prefix(close + 1);
+  }
+  return text;
+}
+
+std::string PhraseText(const World& world, const Segment& segment, Phrases phrases, int code) {
+  const Phrase* phrase = FindPhrase(phrases, code);
+  return phrase ? FillPhrase(world, segment, phrase->Says) : std::string();
+}
+
+std::string SummaryText(const World& world, const Segment& segment, Phrases phrases, int code) {
+  const Phrase* phrase = FindPhrase(phrases, code);
+  return phrase ? FillPhrase(world, segment, phrase->Summary) : std::string();
+}
+
+std::string DescribeSegment(const World& world, const Segment& segment) {
+  switch (segment.Kind) {
+    case kMatch:
+      return DescribeMatch(world, segment);
+    case kInterview:
+      return DescribeInterview(world, segment);
+    case kAngle:
+      return DescribeAngle(world, segment);
+    default:
+      return "<Nothing Booked>";
+  }
+}
+
+}  // namespace grapplemont

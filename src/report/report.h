@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+
+#include "records/segments.h"
+#include "records/world.h"
+#include "report/linememory.h"
+
+// A Segment told in prose, in the voice that the player has chosen.
+
+namespace grapplemont {
+
+/// Who tells the show, by GameInfo.Reporter.
+enum Voice { kLamplighter = 0, kTolland, kQvd };
+/// "The Lamplighter", "Rafe Tolland", "QVD"; the first one's for a number that is none.
+std::string_view VoiceName(int voice);
+
+/// What the report knows beside the Segment itself.
+struct Scene {
+  bool IsEvent = false;
+  int Champion = 0;    // who held the Title at stake when the bell rang; 0 for nobody
+  int CoChampion = 0;  // the other half of a tag champion
+};
+
+/// The prose of a match, an interview or an angle, in paragraphs. Draws from World::Prose alone, so
+/// that a result never depends on it.
+std::string WriteReport(World& world, const Segment& segment, const Scene& scene,
+                        LineMemory& memory);
+/// The second reporter's rating of a match; empty for the others and for what is no match. Draws
+/// from World::Prose.
+std::string Verdict(World& world, const Segment& segment, int overall);
+
+/// The lines above the prose.
+struct SegmentDetails {
+  std::string Heading;  // "Match Details", "Interview Details", "Angle Details"
+  std::string Style;    // "1 vs 1"
+  std::string Type;     // "Ladder"
+  std::string Names;    // "Bram Okafor vs Ludo Marsh"; "... is backstage. "
+  std::string Belt;     // "For The Harbor Crown Title"; empty without one
+  std::string Winner;   // "Winner : Bram Okafor", "Winner : Draw"; matches only
+};
+SegmentDetails DetailsOf(const World& world, const Segment& segment);
+
+}  // namespace grapplemont
