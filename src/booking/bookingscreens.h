@@ -4,7 +4,10 @@
 
 namespace grapplemont {
 
-/// Makes the booking sheets known to the desk by their names.
+/// Makes the booking sheets and the screens at their side known to the desk by their names.
 void RegisterBookingScreens(Game& game);
+
+/// The wizard that fills this record of match.dat.
+std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, int slot, bool isEvent);
 
 }  // namespace grapplemont

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "records/world.h"
+#include "show/scoring.h"
+
+// A show from its start to its close.
+
+namespace grapplemont {
+
+/// Who sits at the table.
+struct CommentaryTeam {
+  int Announcer = 0;  // Staff uid; 0 nobody
+  int Colour = 0;     // Staff uid, or a Worker's; 0 nobody
+  bool ColourIsWorker = false;
+};
+
+/// The player's television show of today, the first in the file; nullptr for none.
+const Show* ShowOfToday(const World& world);
+/// The commentators of the player's television show of today.
+CommentaryTeam TvTeam(const World& world);
+/// "Bram Okafor" and so on; "None" for nobody.
+std::string AnnouncerName(const World& world, const CommentaryTeam& team);
+std::string ColourName(const World& world, const CommentaryTeam& team);
+
+/// Begins the show that match.dat holds: whether the night is flat is drawn, the commentators'
+/// charges begin the sum. Draws once.
+void StartShow(World& world, bool isEvent, const CommentaryTeam& team);
+/// Adds an Event's extra to the sum.
+void AddExtraBonus(World& world, int bonus);
+bool ShowIsUnderWay(const World& world);
+bool ShowIsClosed(const World& world);
+
+/// The record of match.dat that comes next; 0 when the show is over.
+int NextSegment(const World& world);
+/// Runs it. Requires one. `memory` as in RunSegment.
+ToldSegment RunNextSegment(World& world, LineMemory* memory);
+
+/// Closes the show to its rating, with what it does to feuds, workers and Titles, and gives the
+/// rating.
+int CloseShow(World& world);
+/// From start to close without a screen; the rating.
+int HoldShow(World& world, bool isEvent, const CommentaryTeam& team, int extraBonus,
+             LineMemory* memory);
+/// The show's rating goes to the day that follows, and its record is gone.
+void LeaveShow(World& world);
+
+}  // namespace grapplemont
