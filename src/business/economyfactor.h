@@ -5,6 +5,9 @@
 
 namespace grapplemont {
 
+/// Falling, the economy can pass below 0.
+inline constexpr int kLowestEconomy = -32768;
+
 /// What the world's economy, from 0 to 100, makes of an amount in one of its bands.
 struct EconomyFactor {
   int From;

@@ -16,12 +16,6 @@ struct EventTypes {
 constexpr std::array<EventTypes, 6> kNewEventTypes = {
     {{1, 1}, {1, 2}, {2, 3}, {3, 3}, {4, 4}, {4, 4}}};
 
-const Event* FindEvent(const World& world, int owner, int month) {
-  for (const Event& event : world.Events())
-    if (event.Owner == owner && event.Month == month) return &event;
-  return nullptr;
-}
-
 void AddEvent(World& world, const Promotion& promotion, int month) {
   Event event;
   event.Owner = promotion.Uid;
@@ -33,6 +27,12 @@ void AddEvent(World& world, const Promotion& promotion, int month) {
 
 }  // namespace
 
+const Event* EventOf(const World& world, int promotionUid, int month) {
+  for (const Event& event : world.Events())
+    if (event.Owner == promotionUid && event.Month == month) return &event;
+  return nullptr;
+}
+
 int NewEventType(const Promotion& promotion) {
   if (promotion.Size < kGlobal || promotion.Size > kBackyard)
     return kNewEventTypes.back().ImageAbove60;
@@ -43,18 +43,18 @@ int NewEventType(const Promotion& promotion) {
 int EventThisMonth(World& world, const Promotion& promotion) {
   const int month = MonthOf(world.Today());
   const bool isPlayer = promotion.Uid == world.PlayerUid();
-  if (!isPlayer && !FindEvent(world, promotion.Uid, month)) AddEvent(world, promotion, month);
-  const Event* event = FindEvent(world, promotion.Uid, month);
+  if (!isPlayer && !EventOf(world, promotion.Uid, month)) AddEvent(world, promotion, month);
+  const Event* event = EventOf(world, promotion.Uid, month);
   return event ? int(event->Type) : 0;
 }
 
 const Event* PlayerEvent(const World& world, int month) {
-  return FindEvent(world, world.PlayerUid(), month);
+  return EventOf(world, world.PlayerUid(), month);
 }
 
 void EnsureEvents(World& world, const Promotion& promotion) {
   for (int month = 1; month <= 12; ++month)
-    if (!FindEvent(world, promotion.Uid, month)) AddEvent(world, promotion, month);
+    if (!EventOf(world, promotion.Uid, month)) AddEvent(world, promotion, month);
 }
 
 }  // namespace grapplemont

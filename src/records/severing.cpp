@@ -21,12 +21,6 @@ void LeaveOffice(World& world, const Worker& worker) {
   if (employer && employer->Commissioner == worker.Uid) employer->Commissioner = 0;
 }
 
-void EndPosting(Worker& worker) {
-  if (worker.Position > kSentToDevelopment) worker.Position -= kSentToDevelopment;
-  if (worker.Position == kDevelopmentDeal || worker.Position == kTrainingCamp)
-    worker.Position = PositionFromOver(worker.Over);
-}
-
 void EndContract(Worker& worker) {
   if (worker.Status == "Hom") {
     worker.Morale = 80;
@@ -46,18 +40,13 @@ void VacateTitlesOf(World& world, int workerUid) {
     if (title.Holder == workerUid || title.Partner == workerUid) VacateTitle(world, title);
 }
 
-/// Only the player's shows lose their commentator with him.
-void LeaveCommentary(World& world, int workerUid) {
-  if (!world.HasGame()) return;
-  for (Show& show : world.Shows()) {
-    if (show.Owner != world.PlayerUid() || !show.ColourIsWorker || show.Colour != workerUid)
-      continue;
-    show.ColourIsWorker = false;
-    show.Colour = 0;
-  }
-}
-
 }  // namespace
+
+void EndPosting(Worker& worker) {
+  if (worker.Position > kSentToDevelopment) worker.Position -= kSentToDevelopment;
+  if (worker.Position == kDevelopmentDeal || worker.Position == kTrainingCamp)
+    worker.Position = PositionFromOver(worker.Over);
+}
 
 int PositionFromOver(int over) {
   for (const EarnedPosition& row : kEarnedPositions)
@@ -82,6 +71,16 @@ void VacateTitle(World& world, Title& title) {
   title.Partner = 0;
   title.Image -= 20;
   BeginReign(title, world.HasGame() ? world.Today() : kNoTitleDate, "Vacant");
+}
+
+void LeaveCommentary(World& world, int workerUid) {
+  if (!world.HasGame()) return;
+  for (Show& show : world.Shows()) {
+    if (show.Owner != world.PlayerUid() || !show.ColourIsWorker || show.Colour != workerUid)
+      continue;
+    show.ColourIsWorker = false;
+    show.Colour = 0;
+  }
 }
 
 void SeverWorker(World& world, Worker& worker) {

@@ -15,6 +15,11 @@ void SeverWorkersAndStaff(World& world, int promotionUid);
 
 /// The roster position 2 to 6 that a worker out of development or camp gets from his Over.
 int PositionFromOver(int over);
+/// Ends a posting to development or camp: the roster position he came from, or the one he has
+/// earned.
+void EndPosting(Worker& worker);
+/// The player's shows lose him as their colour commentator.
+void LeaveCommentary(World& world, int workerUid);
 /// Takes all four participants out of every feud that names the worker.
 void LeaveFeuds(World& world, int workerUid);
 /// Vacates the Title: no holder, 20 off its image, a new reign of "Vacant" from today.

@@ -8,7 +8,7 @@
 // How many people come to a show. The promotion's standing decides, never the card: a good show
 // moves the image, and the image the crowd. Each figure is a base and a draw by size and image;
 // then the economy and the price of the tickets have their say. Who watches from home:
-// show/ratings.h.
+// show/tvratings.h.
 
 namespace grapplemont {
 

@@ -6,7 +6,7 @@
 #include "business/sponsorlimits.h"
 #include "records/modWresCheck.h"
 #include "show/attendance.h"
-#include "show/ratings.h"
+#include "show/tvratings.h"
 
 namespace grapplemont::tools {
 

@@ -1,4 +1,4 @@
-#include "show/ratings.h"
+#include "show/tvratings.h"
 
 #include <gtest/gtest.h>
 

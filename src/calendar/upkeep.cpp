@@ -1,0 +1,101 @@
+#include "calendar/daysteps.h"
+#include "records/modVar.h"
+#include "roster/release.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// What a worker says when he goes, and how the legend says it.
+struct Parting {
+  std::string_view Words;
+  std::string_view Legend;
+};
+constexpr Parting kWalksOut = {
+    "I'm not happy in this promotion, so i am leaving to work elsewhere.",
+    "Brother, I'm not happy in this promotion, so i am leaving to take Maulamania elsewhere!"};
+constexpr Parting kLeaves = {
+    "I've had enough with this promotion and the way i've been treated, i'm leaving.",
+    "I've had enough with this promotion and the way i've been treated, i'm leaving."};
+constexpr Parting kSitsOut = {
+    "I've had enough with this promotion, i refuse to wrestle for you again.",
+    "Dude, I've had enough with this promotion, i refuse to wrestle for you again, brother!"};
+
+void Say(World& world, const Worker& worker, const Parting& parting) {
+  AddNews(world, worker.Name, worker.Name == "Maul Gantry" ? parting.Legend : parting.Words);
+}
+
+bool HasAdequateMedics(const World& world) {
+  const int player = world.PlayerUid();
+  int medics = 0, roster = 0;
+  for (const Staff& staff : world.AllStaff())
+    medics += staff.Employer == player && staff.Position == kMedical;
+  for (const Worker& worker : world.Workers()) roster += worker.Employer == player;
+  return medics >= (roster >= 56 ? 3 : roster >= 31 ? 2 : 0);
+}
+
+bool MayRebel(const Worker& worker) {
+  return worker.Status == "Nor" && !worker.Unsackable;
+}
+
+/// True when he has left.
+bool WalksOut(World& world, Worker& worker) {
+  if (!(worker.ContractType == "Non") || !MayRebel(worker) || worker.Behaviour >= 80 ||
+      worker.Morale >= 10)
+    return false;
+  Say(world, worker, kWalksOut);
+  ReleaseWorker(world, worker);
+  return true;
+}
+
+/// With no morale left, a written contract is sat out and any other is broken. True when he has
+/// left.
+bool HasHadEnough(World& world, Worker& worker) {
+  if (worker.Morale > 0 || !MayRebel(worker) || worker.Behaviour >= 75) return false;
+  worker.Loyalty = 0;
+  worker.Status = "Hom";
+  const bool isBound = worker.ContractType == "Wri";
+  Say(world, worker, isBound ? kSitsOut : kLeaves);
+  if (!isBound) ReleaseWorker(world, worker);
+  return !isBound;
+}
+
+/// Kept away from the main roster the young bloom and the grown fret; at 26 and from 35 on nothing
+/// moves.
+void FeelAway(World& world, Worker& worker) {
+  if (worker.Position != kDevelopmentDeal && worker.Position < kSentToDevelopment) return;
+  if (worker.Age < 26)
+    worker.Morale += world.RandomDraw(2) - 1;
+  else if (worker.Age >= 27 && worker.Age <= 34) {
+    const int up = world.RandomDraw(2);
+    worker.Morale += up - world.RandomDraw(2);
+  }
+}
+
+void UpkeepOfPlayers(World& world, Worker& worker, bool adequateMedics) {
+  if (WalksOut(world, worker) || HasHadEnough(world, worker)) return;
+  worker.Condition += world.RandomDraw(adequateMedics ? 5 : 2);
+  FeelAway(world, worker);
+}
+
+void UpkeepOfOthers(World& world, Worker& worker) {
+  worker.Condition += world.RandomDraw(2) - 1;
+  if (worker.Employer != 0 && worker.Morale < 65) worker.Morale += 1;
+}
+
+}  // namespace
+
+void DailyWorkerUpkeep(World& world) {
+  const int player = world.PlayerUid();
+  const bool adequateMedics = HasAdequateMedics(world);
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer == player)
+      UpkeepOfPlayers(world, worker, adequateMedics);
+    else
+      UpkeepOfOthers(world, worker);
+  }
+  for (Staff& staff : world.AllStaff())
+    if (staff.Employer != 0 && staff.Employer != player) staff.Morale += 1;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,214 @@
+#include "show/showresults.h"
+
+#include <algorithm>
+
+#include "records/dates.h"
+#include "records/modVar.h"
+#include "show/attendance.h"
+#include "show/tvratings.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kPayPerView = 1;
+
+bool IsPlayers(const World& world, const Promotion& promotion) {
+  return promotion.Uid == world.PlayerUid();
+}
+
+/// Who tells it, and in which words: "We made $" or "They made $".
+struct Voice {
+  std::string From;
+  std::string Who;
+};
+
+/// Empty sender: nobody is to hear of it.
+Voice VoiceOf(const World& world, const Promotion& promotion, const char* ownSender, int option) {
+  if (IsPlayers(world, promotion)) return {ownSender, "We"};
+  if (!ShouldTell(world, option, promotion.Size)) return {};
+  return {promotion.Initials + " News", "They"};
+}
+
+void Tell(World& world, const Voice& voice, const std::string& body) {
+  if (!voice.From.empty()) AddNews(world, voice.From, body);
+}
+
+std::string Made(const Voice& voice, int dollars, const char* from) {
+  return voice.Who + " made $" + std::to_string(dollars) + " from " + from + ".";
+}
+
+std::string Got(const Promotion& promotion, const Voice& voice) {
+  return (voice.Who == "We" ? voice.Who : promotion.Initials.Str()) + " got a ";
+}
+
+/// What came in at the gate, in dollars.
+int SellTickets(Promotion& promotion, int people) {
+  const int dollars = promotion.TicketPrice * people;
+  promotion.Money += dollars;
+  promotion.ThisMonth.TicketIncome += dollars;
+  return dollars;
+}
+
+int SellPayPerView(Promotion& promotion, int buyRate) {
+  const int dollars = PpvIncome(buyRate);
+  promotion.Money += dollars;
+  promotion.ThisMonth.PpvIncome += dollars;
+  return dollars;
+}
+
+void PayForProduction(Promotion& promotion, int type) {
+  const int dollars = EventProductionCost(type);
+  promotion.Money -= dollars;
+  promotion.ThisMonth.ProductionCost += dollars;
+}
+
+std::string CrowdLine(const Voice& voice, int people) {
+  return (voice.Who == "We" ? "The attendance was " : "The event was attended by ") +
+         std::to_string(people) + " people.";
+}
+
+void TellOfPayPerView(World& world, const Promotion& promotion, const Event& event, int buyRate,
+                      int people, int ppvDollars, int ticketDollars) {
+  const Voice voice = VoiceOf(world, promotion, "PPV report", world.Game().MailShows);
+  Tell(world, voice,
+       Got(promotion, voice) + RatingText(buyRate) + " buy rate for '" + event.Name.Str() + "'!\n" +
+           CrowdLine(voice, people) + "\n" + Made(voice, ppvDollars, "pay-per-view revenue") +
+           "\n" + Made(voice, ticketDollars, "ticket sales"));
+}
+
+void TellOfEvent(World& world, const Promotion& promotion, const Event& event, int people,
+                 int ticketDollars) {
+  const Voice voice = VoiceOf(world, promotion, "Show report", world.Game().MailShows);
+  Tell(world, voice,
+       event.Name + " was attended by " + std::to_string(people) + " people!\n" +
+           Made(voice, ticketDollars, "ticket sales"));
+}
+
+/// What a competitor's strength does to the rating; the limits are strict, and between the bands
+/// nothing happens.
+struct Contest {
+  int Above;  // V lies above R by more than this
+  int Below;  // and by less than this; in the last two rows R above V
+  bool WeLead;
+  int Change;
+  const char* Before;  // around the competitor's name
+  const char* Behind;
+};
+constexpr Contest kContests[] = {
+    {80, 200, false, -40, "Going head-to-head with ",
+     " cost us a lot of viewers, we came out worst!"},
+    {200, 400, false, -80, "Competing with ",
+     " is hurting us, they're taking most of our viewers!"},
+    {80, 200, true, 20, "We won the head-to-head with ", " in the ratings!"},
+    {200, 400, true, 40, "",
+     " are trying to compete with us, but are being destroyed in the ratings."},
+};
+constexpr int kTooClose = 79;
+
+void TellOfContest(World& world, bool tells, const Show& rival, const char* before,
+                   const char* behind) {
+  if (tells) AddNews(world, "Maeve", before + rival.Name.Str() + behind);
+}
+
+int Compete(World& world, const Show& rival, int rating, int strength, bool tells) {
+  if (rating - kTooClose < strength && strength < rating + kTooClose) {
+    TellOfContest(world, tells, rival, "Our ratings battle with ",
+                  " is so close that neither show is gaining a clear advantage!");
+    return rating;
+  }
+  for (const Contest& contest : kContests) {
+    const int lead = contest.WeLead ? rating - strength : strength - rating;
+    if (lead <= contest.Above || lead >= contest.Below) continue;
+    TellOfContest(world, tells, rival, contest.Before, contest.Behind);
+    return rating + contest.Change;
+  }
+  return rating;
+}
+
+/// What the competitor's show would get, cut to what its own network can reach in that slot.
+int StrengthOf(World& world, const Show& rival, const Promotion& owner) {
+  const int rating = TvBaseRating(world, owner.Size, owner.Image);
+  const Network* network = world.FindNetwork(rival.Network);
+  return network ? std::min(rating, SlotAudience(*network, rival.Slot)) : rating;
+}
+
+void KeepRating(Show& show, int rating) {
+  if (rating > show.Rating1) show.Rating1 = rating;
+  if (show.Rating2 == 0 || rating < show.Rating2) show.Rating2 = rating;
+  show.Rating3 = rating;
+}
+
+int RatingOf(World& world, const Promotion& promotion, const Show& show, const Network& network) {
+  const int cap = SlotAudience(network, show.Slot);
+  int rating = std::min(TvBaseRating(world, promotion.Size, promotion.Image), cap);
+  rating = std::min(HeadToHead(world, show, rating), cap);
+  return rating < 0 ? 1 : rating;
+}
+
+}  // namespace
+
+Show* ShowOn(World& world, int promotionUid, Day day) {
+  for (Show& show : world.Shows())
+    if (show.Owner == promotionUid && show.Day == DayName(day)) return &show;
+  return nullptr;
+}
+
+int SlotAudience(const Network& network, std::string_view slot) {
+  if (slot == "E") return network.EarlyAudience;
+  if (slot == "P") return network.PrimeAudience;
+  return slot == "L" ? network.LateAudience : network.GraveAudience;
+}
+
+int SlotRisk(const Network& network, std::string_view slot) {
+  if (slot == "E") return network.EarlyRisk;
+  if (slot == "P") return network.PrimeRisk;
+  return slot == "L" ? network.LateRisk : network.GraveRisk;
+}
+
+void EventReport(World& world, Promotion& promotion, const Event& event, int type) {
+  const bool isPayPerView = type == kPayPerView && promotion.Size <= kRegional;
+  const int buyRate = isPayPerView ? BuyRate(world, promotion) : 0;
+  const int people = EventAttendance(world, promotion, type).People;
+  const int ppvDollars = isPayPerView ? SellPayPerView(promotion, buyRate) : 0;
+  const int ticketDollars = SellTickets(promotion, people);
+  PayForProduction(promotion, type);
+  if (isPayPerView)
+    TellOfPayPerView(world, promotion, event, buyRate, people, ppvDollars, ticketDollars);
+  else
+    TellOfEvent(world, promotion, event, people, ticketDollars);
+}
+
+int HeadToHead(World& world, const Show& show, int rating) {
+  const bool tells = show.Owner == world.PlayerUid();
+  for (const Show& rival : world.Shows()) {
+    if (rival.Owner == show.Owner || !(rival.Day == show.Day) || !(rival.Slot == show.Slot))
+      continue;
+    const Promotion* owner = world.FindPromotion(rival.Owner);
+    if (owner) rating = Compete(world, rival, rating, StrengthOf(world, rival, *owner), tells);
+  }
+  return rating;
+}
+
+void TvReport(World& world, Promotion& promotion) {
+  Show* show = ShowOn(world, promotion.Uid, world.Today());
+  const Network* network = show ? world.FindNetwork(show->Network) : nullptr;
+  if (!network) return;
+  const int rating = RatingOf(world, promotion, *show, *network);
+  const int floor = SlotAudience(*network, show->Slot) * 6 / 10;
+  if (rating < floor && IsPlayers(world, promotion))
+    AddNews(world, network->Name, "The ratings for " + show->Name.Str() + " need to improve.");
+  KeepRating(*show, rating);
+  const int people = TvAttendance(world, promotion).People;
+  const int dollars = SellTickets(promotion, people);
+  const Voice voice = VoiceOf(world, promotion, "Television report", world.Game().MailTvShow);
+  const bool own = voice.Who == "We";
+  Tell(world, voice,
+       Got(promotion, voice) + RatingText(rating) +
+           (own ? " rating for '" : " television rating for '") + show->Name.Str() + "'!\n" +
+           (own ? "The attendance level was " + std::to_string(people) + " people."
+                : CrowdLine(voice, people)) +
+           "\n" + Made(voice, dollars, "ticket sales"));
+}
+
+}  // namespace grapplemont
