@@ -1,126 +1,88 @@
-#include <array>
+#include "calendar/incidents.h"
 
-#include "calendar/daysteps.h"
+#include "records/modWresCheck.h"
+#include "show/injuries.h"
 
 namespace grapplemont {
 
 namespace {
 
-enum IncidentType { kFight = 1, kLate, kPolice, kRehab, kInjury, kJobOffer };
+constexpr int kLongestInjury = 6;
 
-constexpr int kIncidentsKept = 10;
-constexpr int kOfferDraw = 180, kOfferHit = 5;
-constexpr int kQuietDays = 60;
-constexpr int kInjuryHit = 100;
-
-/// Out of so many; 0: never.
-struct ConductRow {
-  int Type;
-  int Hit;
-  std::array<int, 6> Odds;  // Behaviour 90 up, 70, 50, 30, 10, below
-  int OffWhenShort;         // with too few road agents
-};
-constexpr std::array<ConductRow, 4> kConduct = {{
-    {kRehab, 200, {0, 10000, 6000, 4000, 2500, 1200}, 200},
-    {kPolice, 400, {0, 9000, 6500, 4200, 2800, 1400}, 150},
-    {kLate, 3, {0, 8000, 4000, 1000, 500, 100}, 30},
-    {kFight, 25, {0, 8000, 5000, 1200, 800, 200}, 20},
-}};
-
-std::size_t BehaviourBand(int behaviour) {
-  constexpr std::array<int, 5> kFrom = {90, 70, 50, 30, 10};
-  std::size_t band = 0;
-  while (band < kFrom.size() && behaviour < kFrom[band]) ++band;
-  return band;
-}
-
-int InjuryOdds(int condition) {
-  if (condition < 40) return 800;
-  if (condition < 60) return 1200;
-  return condition < 90 ? 1800 : 2500;
-}
-
-int AgentsNeeded(int wrestlers) {
-  if (wrestlers > 80) return 5;
-  if (wrestlers > 60) return 4;
-  if (wrestlers > 40) return 3;
-  return wrestlers > 25 ? 2 : wrestlers > 0 ? 1 : 0;
-}
-
-bool IsShortOfAgents(const World& world) {
-  const int player = world.PlayerUid();
-  int wrestlers = 0, agents = 0;
-  for (const Worker& worker : world.Workers())
-    wrestlers += worker.Employer == player && worker.Position < kDevelopmentDeal;
-  for (const Staff& staff : world.AllStaff())
-    agents += staff.Employer == player && staff.Position == kRoadAgent;
-  return agents < AgentsNeeded(wrestlers);
-}
-
-/// The day's list, filled from the front; what does not fit is dropped.
-class Bookings {
- public:
-  explicit Bookings(World& world) : incidents_(world.Incidents()) {
-    incidents_.Rewrite(std::vector<Incident>(kIncidentsKept));
+bool IsAlive(const World& world, const Incident& incident) {
+  if (incident.Type != kJobOffer) {
+    const Worker* worker = world.FindWorker(incident.Uid);
+    return worker && worker->Employer == world.PlayerUid();
   }
-  void Book(int type, int uid) {
-    if (next_ > kIncidentsKept) return;
-    incidents_[next_].Type = type;
-    incidents_[next_].Uid = uid;
-    ++next_;
-  }
+  const Promotion* promotion = world.FindPromotion(incident.Uid);
+  return promotion && promotion->Uid != world.PlayerUid() && !(promotion->Name == kToBeDeleted);
+}
 
- private:
-  Records<Incident>& incidents_;
-  int next_ = 1;
-};
-
-void RollFor(World& world, const Worker& worker, bool isShort, Bookings& bookings) {
-  bool booked = false;
-  const auto book = [&](int type) {
-    if (booked) return;
-    bookings.Book(type, worker.Uid);
-    booked = true;
-  };
-  if (world.RandomDraw(InjuryOdds(worker.Condition)) == kInjuryHit) book(kInjury);
-  const std::size_t band = BehaviourBand(worker.Behaviour);
-  for (const ConductRow& row : kConduct) {
-    const int odds = row.Odds[band];
-    if (odds == 0) continue;
-    if (world.RandomDraw(odds - (isShort ? row.OffWhenShort : 0)) == row.Hit) book(row.Type);
+/// Opening the list again finds him where it left him.
+void TakeOut(World& world, const Incident& incident) {
+  Worker* worker = world.FindWorker(incident.Uid);
+  if (!worker || !(worker->Status == "Nor")) return;
+  if (incident.Type == kRehab) {
+    worker->Status = "Reh";
+    worker->StatusMonths = 1 + world.RandomDraw(3);
+  } else if (incident.Type == kInjury) {
+    worker->Status = "Inj";
+    worker->InjuryName = DrawInjuryName(world);
+    worker->StatusMonths = world.RandomDraw(kLongestInjury);
   }
 }
 
-bool IsAround(const Worker& worker) {
-  return worker.Status == "Nor" && worker.Position < kSentToDevelopment &&
-         worker.Position != kDevelopmentDeal && worker.Position != kTrainingCamp;
+std::string Months(int months) {
+  return std::to_string(months) + (months == 1 ? " month" : " months");
 }
 
-void RollRoster(World& world, Bookings& bookings) {
-  const bool isShort = IsShortOfAgents(world);
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer == world.PlayerUid() && IsAround(worker))
-      RollFor(world, worker, isShort, bookings);
-}
-
-void RollOffer(World& world, Bookings& bookings) {
-  if (world.Promotions().Count() == 0) return;
-  const Promotion& promotion = world.Promotions()[world.RandomDraw(world.Promotions().Count())];
-  if (promotion.Uid != world.PlayerUid() && promotion.Size > world.Session.StartSize - 3)
-    bookings.Book(kJobOffer, promotion.Uid);
+std::string OfferText(const World& world, const Promotion& promotion) {
+  const Staff* owner = OwnerOf(world, promotion.Uid);
+  const std::string who = owner ? promotion.Initials + " owner " + owner->Name.Str()
+                                : "The " + promotion.Initials.Str() + " board";
+  return who + " would like to offer you a job. ";
 }
 
 }  // namespace
 
-void IncidentRoll(World& world) {
-  Bookings bookings(world);
-  int draw = world.RandomDraw(kOfferDraw);
-  const Day start = world.Game().StartDate;
-  if (start + std::chrono::days{kQuietDays} >= world.Today()) draw = 1;
-  if (draw == kOfferHit)
-    RollOffer(world, bookings);
-  else
-    RollRoster(world, bookings);
+const Incident* FirstIncident(World& world) {
+  while (world.Incidents().Count() > 0 && world.Incidents()[1].Type != 0) {
+    const Incident& incident = world.Incidents()[1];
+    if (IsAlive(world, incident)) {
+      TakeOut(world, incident);
+      return &incident;
+    }
+    CloseIncident(world);
+  }
+  return nullptr;
+}
+
+std::string IncidentText(const World& world, const Incident& incident) {
+  if (incident.Type == kJobOffer) return OfferText(world, *world.FindPromotion(incident.Uid));
+  const Worker& worker = *world.FindWorker(incident.Uid);
+  const std::string name = worker.Name.Str();
+  switch (incident.Type) {
+    case kFight:
+      return name + " has been involved in a backstage fight!";
+    case kLate:
+      return name + " showed up very late to our last show!";
+    case kPolice:
+      return name + " has been involved in a police incident! Apparently " +
+             (worker.Gender ? "he" : "she") + " was carrying drugs when stopped.";
+    case kRehab:
+      return name + " has been forced to check into rehab because of personal problems!\nThe stay "
+                    "takes " + Months(worker.StatusMonths) + ".";
+    default:
+      return name + " has sustained an injury!\n" + worker.InjuryName.Str() + ", out for " +
+             Months(worker.StatusMonths) + ".";
+  }
+}
+
+void CloseIncident(World& world) {
+  auto& incidents = world.Incidents();
+  for (int number = 1; number < incidents.Count(); ++number)
+    incidents[number] = incidents[number + 1];
+  incidents[incidents.Count()] = {};
 }
 
 }  // namespace grapplemont
