@@ -194,6 +194,18 @@ TEST(ScoreMatch, LiftsATagMatchByTheirTeamsFeudWhoseHeatStays) {
   }
 }
 
+TEST(ScoreMatch, LiftsNoTagMatchWithAStrangerInIt) {
+  for (const auto& order :
+       {std::vector{1, 2, 3, 5}, std::vector{1, 2, 5, 3}, std::vector{5, 1, 3, 4}}) {
+    Rig rig(Cast().TagFeud("Ash", "Bea", "Cal", "Dot", Hot(80)).Game("CWA"),
+            SegmentOf(kMatch, kTag, kPlainTag, order));
+    rig.Script({});
+    ScoreMatch(rig.Run);
+    EXPECT_EQ(rig.Run.Crowd, 47);
+    EXPECT_EQ(rig.Touched(), std::vector<int>());
+  }
+}
+
 TEST(ScoreMatch, MovesTheHeatOfPartnersWhoAreEnemiesWithoutALift) {
   // A tag feud with the teams mixed up, and a feud of two who must team up.
   Rig mixed(Cast().TagFeud("Ash", "Cal", "Bea", "Dot", Hot(80)).Game("CWA"), MatchOf(kTag));

@@ -72,6 +72,20 @@ TEST(RunSegment, HalvesATitleMatchBeforeTheBurnOutAndTellsAllOfIt) {
   EXPECT_EQ(RunSegment(world, 2, nullptr).Crowd, 80) << "compared with 32";
 }
 
+TEST(RunSegment, TakesSellingBeforeSoftWork) {
+  World world = Tonight(Cast().Game("CWA"), {MatchOf(kSingles)});
+  Segment& match = world.Segments()[1];
+  match.Winner = 1;
+  match.Loser = 2;
+  match.Finish = kClean;
+  match.Purpose = int(purpose1::kPutWinnerOver);
+  world.FindWorker(2)->Sell = 0;
+  world.FindWorker(2)->Stiff = 24;
+  const ToldSegment told = RunSegment(world, 1, nullptr);
+  EXPECT_EQ(StepsText(told.Quality),
+            "mean work of Ash 55, Bea 54 +54, Bea sold nothing -16, Bea worked too softly -4");
+}
+
 TEST(RunSegment, KnowsATitleOnlyAmongThePlayers) {
   World world = Tonight(Cast().Promotion("NEW").Worker("Nat").Title("Crown", "Nat").Game("CWA"),
                         {MatchOf(kSingles)});
