@@ -126,5 +126,17 @@ TEST(AfterMatch, SumsUpBeforeItLimits) {
   EXPECT_EQ(ash.Morale, 1) << "6 - 3 - 5 + 3";
 }
 
+TEST(AfterMatch, PullsByTheCardBeforeAGreatMatchLifts) {
+  Stage stage;
+  Worker& ash = stage["Ash"];
+  ash.Position = kMainEvent;  // 3 fits
+  ash.Over = 40;
+  ash.Attitude = 0;
+  stage.Rate(66, 0);
+  ScriptDraws(stage.W, {{6, 1}, {2, 1}});
+  AfterMatch(stage.Run, ash, false);
+  EXPECT_EQ(ash.Over, 42) << "40 - 1 + 3";
+}
+
 }  // namespace
 }  // namespace grapplemont::test
