@@ -1,6 +1,7 @@
 #include "show/feudend.h"
 
 #include "show/consequences.h"
+#include "show/feudheat.h"
 #include "show/feudmails.h"
 #include "show/feudslots.h"
 #include "show/overreport.h"
@@ -50,23 +51,12 @@ constexpr EndRule kEndRules[] = {
     {[](const Ended& e) { return e.X > e.Y + kFarAhead; }, {3, 3}, {3, 3}, FeudStory::Plain},
 };
 
-bool StandTogether(const Feud& feud, int workerA, int workerB) {
-  const int side = FeudSideOf(feud, workerA);
-  return side != 0 && side == FeudSideOf(feud, workerB);
-}
-
 /// The slot of the feud that the match is fought in: for teams a feud of teams alone, whole pair
 /// against whole pair.
 int BlowOffSlot(const World& world, const Segment& segment) {
   const auto& w = segment.Worker;
-  if (segment.Style == kSingles) return FeudSlotOf(world, w[0], w[1]);
-  for (int slot = 1; slot <= world.Feuds().Count(); ++slot) {
-    const Feud& feud = world.Feuds()[slot];
-    if (!feud.Singles && StandTogether(feud, w[0], w[1]) && StandTogether(feud, w[2], w[3]) &&
-        AreEnemies(feud, w[0], w[2]))
-      return slot;
-  }
-  return 0;
+  return segment.Style == kSingles ? FeudSlotOf(world, w[0], w[1])
+                                   : FeudSlotOfTeams(world, w[0], w[1], w[2], w[3]);
 }
 
 bool IsToEnd(const Segment& segment) {
