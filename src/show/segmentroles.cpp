@@ -61,6 +61,9 @@ std::vector<int> PeopleOf(const Segment& segment, Part part) {
       return TeamOf(segment, true);
     case Part::LosingTeam:
       return TeamOf(segment, false);
+    case Part::Attacked:
+      return Present(
+          {segment.Finish == kDqThroughInterference ? int(segment.Winner) : FallenOf(segment)});
     case Part::Worker1:
     case Part::Worker2:
     case Part::Worker3:

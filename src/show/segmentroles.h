@@ -14,6 +14,7 @@ enum class Part {
   LosersPartner,  // of a 2 vs 2 match
   WinningTeam,    // in a draw the first
   LosingTeam,     // in a draw the second
+  Attacked,       // by the run-ins of the finish: who wins by a disqualification, else the loser
   Worker1,
   Worker2,
   Worker3,

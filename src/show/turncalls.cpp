@@ -1,80 +1,17 @@
 #include "show/turncalls.h"
 
 #include <algorithm>
-#include <iterator>
+#include <optional>
 
 #include "records/angles.h"
 #include "show/consequences.h"
-#include "show/segmentroles.h"
+#include "show/turnacts.h"
 #include "show/turns.h"
 #include "storylines/stables.h"
 
 namespace grapplemont {
 
 namespace {
-
-enum class Step { Finish, Aftermath };
-
-bool Shows(const Segment& segment, Step step, int code) {
-  return code == (step == Step::Finish ? segment.Finish : segment.Aftermath);
-}
-
-/// Something that a worker does in a match and that can be the occasion of his turn.
-struct Act {
-  Step When;
-  int Code;
-  Part By;
-  Part On;
-};
-// 1 vs 1: the first act of the one who is to turn says on whom.
-constexpr Act kSinglesActs[] = {
-    {Step::Finish, kCountOut, Part::Winner, Part::Loser},
-    {Step::Finish, kInterference, Part::Winner, Part::Loser},
-    {Step::Finish, kInterference, Part::Other1, Part::Loser},
-    {Step::Finish, kBotchedInterference, Part::Other1, Part::Loser},
-    {Step::Finish, kCheating, Part::Winner, Part::Loser},
-    {Step::Aftermath, after1::kAttacksReferee, Part::Loser, Part::Nobody},
-    {Step::Aftermath, after1::kTantrum, Part::Loser, Part::Nobody},
-    {Step::Aftermath, after1::kRunInOnFirst, Part::Other1, Part::Worker1},
-    {Step::Aftermath, after1::kRunInOnSecond, Part::Other1, Part::Worker2},
-    {Step::Aftermath, after1::kRevengeAttack, Part::Loser, Part::Winner},
-    {Step::Aftermath, after1::kBeatDown, Part::Winner, Part::Loser},
-    {Step::Aftermath, after1::kGetsRevenge, Part::Loser, Part::Winner},
-    {Step::Aftermath, after1::kTwoOnLoser, Part::Winner, Part::Loser},
-    {Step::Aftermath, after1::kTwoOnLoser, Part::Other1, Part::Loser},
-    {Step::Aftermath, after1::kTwoOnWinner, Part::Loser, Part::Winner},
-    {Step::Aftermath, after1::kTwoOnWinner, Part::Other1, Part::Winner},
-    {Step::Aftermath, after1::kAttacksRunIn, Part::Loser, Part::Other1},
-    {Step::Aftermath, after1::kHandshake, Part::Winner, Part::Loser},
-    {Step::Aftermath, after1::kHandshake, Part::Loser, Part::Winner},
-    {Step::Aftermath, after1::kCheapShot, Part::Loser, Part::Winner},
-    {Step::Aftermath, after1::kFirstRefusesHand, Part::Worker1, Part::Worker2},
-    {Step::Aftermath, after1::kSecondRefusesHand, Part::Worker2, Part::Worker1},
-    {Step::Aftermath, after1::kSave, Part::Other2, Part::Other1},
-};
-// 2 vs 2: who turns on his partner, whatever the purpose.
-constexpr Act kBetrayals[] = {
-    {Step::Finish, kPartnerTurns, Part::LosersPartner, Part::Loser},
-    {Step::Aftermath, after2::kFirstTurns, Part::Worker1, Part::Worker2},
-    {Step::Aftermath, after2::kSecondTurns, Part::Worker2, Part::Worker1},
-    {Step::Aftermath, after2::kThirdTurns, Part::Worker3, Part::Worker4},
-    {Step::Aftermath, after2::kFourthTurns, Part::Worker4, Part::Worker3},
-};
-// 2 vs 2: on whom the run-ins of the finish turn, and those of the aftermath.
-constexpr Act kFinishRunIns[] = {
-    {Step::Finish, kInterference, Part::Others12, Part::Loser},
-    {Step::Finish, kBotchedInterference, Part::Others12, Part::Loser},
-    {Step::Finish, kDqThroughInterference, Part::Others12, Part::Winner},
-};
-constexpr Act kAftermathRunIns[] = {
-    {Step::Aftermath, after2::kSave, Part::Others34, Part::Other1},
-    {Step::Aftermath, after2::kRunInOnFirst, Part::Others34, Part::Worker1},
-    {Step::Aftermath, after2::kRunInOnSecond, Part::Others34, Part::Worker2},
-    {Step::Aftermath, after2::kRunInOnThird, Part::Others34, Part::Worker3},
-    {Step::Aftermath, after2::kRunInOnFourth, Part::Others34, Part::Worker4},
-    {Step::Aftermath, after2::kRunInOnFirstTeam, Part::Others34, Part::FirstTeam},
-    {Step::Aftermath, after2::kRunInOnSecondTeam, Part::Others34, Part::SecondTeam},
-};
 
 /// Whom a purpose of booking turns.
 struct TurnPurpose {
@@ -135,12 +72,6 @@ void Add(Calls& calls, int turner, int other) {
   if (turner != 0 && !isThere) calls.push_back({turner, other});
 }
 
-/// One after the other on those they turn on; where there are fewer of these, on the last.
-void AddAll(Calls& calls, const std::vector<int>& turners, const std::vector<int>& others) {
-  for (std::size_t i = 0; i < turners.size(); ++i)
-    Add(calls, turners[i], others.empty() ? 0 : others[std::min(i, others.size() - 1)]);
-}
-
 template <std::size_t N>
 std::vector<int> TurnersOf(const Segment& segment, const TurnPurpose (&purposes)[N]) {
   for (const TurnPurpose& row : purposes)
@@ -148,34 +79,46 @@ std::vector<int> TurnersOf(const Segment& segment, const TurnPurpose (&purposes)
   return {};
 }
 
-template <std::size_t N>
-const Act* ActOf(const Segment& segment, const Act (&acts)[N]) {
-  for (const Act& act : acts)
-    if (Shows(segment, act.When, act.Code)) return &act;
-  return nullptr;
-}
-
-void AddSinglesTurns(Calls& calls, const Segment& segment) {
-  const std::vector<int> turners = TurnersOf(segment, kSinglesTurns);
-  for (const Act& act : kSinglesActs)
-    if (Shows(segment, act.When, act.Code) && PeopleOf(segment, act.By) == turners)
-      AddAll(calls, turners, PeopleOf(segment, act.On));
-}
-
-void AddTagTurns(Calls& calls, const Segment& segment) {
-  for (const Act& act : kBetrayals)
-    if (Shows(segment, act.When, act.Code))
-      AddAll(calls, PeopleOf(segment, act.By), PeopleOf(segment, act.On));
-  const std::vector<int> winners = PeopleOf(segment, Part::WinningTeam);
-  for (const int turner : TurnersOf(segment, kTeamTurns)) {
-    const bool hasWon = std::find(winners.begin(), winners.end(), turner) != winners.end();
-    AddAll(calls, {turner}, PeopleOf(segment, hasWon ? Part::Loser : Part::Winner));
+/// On whom the one who is to turn commits an act: a uid, or 0 for nobody; nothing where he commits
+/// none. Of several acts the first at which a turn can come off.
+std::optional<int> VictimOf(const World& world, const Segment& segment, int turner) {
+  std::optional<int> victim;
+  const Worker* worker = world.FindWorker(turner);
+  for (const TurnCall& occasion : TurnOccasions(segment)) {
+    if (!worker || occasion.Turner != turner) continue;
+    if (!IsSureToFail(*worker, world.FindWorker(occasion.Other))) return occasion.Other;
+    if (!victim) victim = occasion.Other;
   }
-  const Act* finish = ActOf(segment, kFinishRunIns);
-  AddAll(calls, TurnersOf(segment, kFinishRunInTurns),
-         PeopleOf(segment, finish ? finish->On : Part::Nobody));
-  if (const Act* runIn = ActOf(segment, kAftermathRunIns))
-    AddAll(calls, TurnersOf(segment, kAftermathRunInTurns), PeopleOf(segment, runIn->On));
+  return victim;
+}
+
+void AddWhoActs(Calls& calls, const World& world, const Segment& segment,
+                const std::vector<int>& turners) {
+  for (const int turner : turners)
+    if (const auto victim = VictimOf(world, segment, turner)) Add(calls, turner, *victim);
+}
+
+int FirstOf(const std::vector<int>& people) {
+  return people.empty() ? 0 : people.front();
+}
+
+/// The one who stands against a worker of a 2 vs 2 match.
+int OpponentOf(const Segment& segment, int uid) {
+  const std::vector<int> winners = PeopleOf(segment, Part::WinningTeam);
+  const bool hasWon = std::find(winners.begin(), winners.end(), uid) != winners.end();
+  return FirstOf(PeopleOf(segment, hasWon ? Part::Loser : Part::Winner));
+}
+
+void AddTagTurns(Calls& calls, const World& world, const Segment& segment) {
+  for (const TurnAct& act : TurnActsOf(kTag))
+    if (act.Always && Happens(segment, act))
+      Add(calls, FirstOf(PeopleOf(segment, act.By)), FirstOf(PeopleOf(segment, act.On)));
+  for (const int turner : TurnersOf(segment, kTeamTurns))
+    Add(calls, turner, VictimOf(world, segment, turner).value_or(OpponentOf(segment, turner)));
+  const int attacked = FirstOf(PeopleOf(segment, Part::Attacked));
+  for (const int turner : TurnersOf(segment, kFinishRunInTurns))
+    Add(calls, turner, VictimOf(world, segment, turner).value_or(attacked));
+  AddWhoActs(calls, world, segment, TurnersOf(segment, kAftermathRunInTurns));
 }
 
 /// 3 vs 3 and 4 vs 4: from kFirstTurns on, a finish for each worker.
@@ -218,18 +161,29 @@ void AddAngleTurns(Calls& calls, const World& world, const Segment& segment) {
   }
 }
 
-void AddMatchTurns(Calls& calls, const Segment& segment) {
-  if (segment.Style == kSingles) AddSinglesTurns(calls, segment);
-  if (segment.Style == kTag) AddTagTurns(calls, segment);
+void AddMatchTurns(Calls& calls, const World& world, const Segment& segment) {
+  if (segment.Style == kSingles)
+    AddWhoActs(calls, world, segment, TurnersOf(segment, kSinglesTurns));
+  if (segment.Style == kTag) AddTagTurns(calls, world, segment);
   if (segment.Style == kThreeOnThree || segment.Style == kFourOnFour)
     AddBigTeamTurns(calls, segment);
 }
 
 }  // namespace
 
+std::vector<TurnCall> TurnOccasions(const Segment& segment) {
+  Calls occasions;
+  for (const TurnAct& act : TurnActsOf(segment.Style)) {
+    if (!Happens(segment, act)) continue;
+    const std::vector<int> on = PeopleOf(segment, act.On);
+    for (const int turner : PeopleOf(segment, act.By)) occasions.push_back({turner, FirstOf(on)});
+  }
+  return occasions;
+}
+
 std::vector<TurnCall> BookedTurns(const World& world, const Segment& segment) {
   Calls calls;
-  if (segment.Kind == kMatch) AddMatchTurns(calls, segment);
+  if (segment.Kind == kMatch) AddMatchTurns(calls, world, segment);
   if (segment.Kind == kInterview) AddTalkTurns(calls, segment);
   if (segment.Kind == kAngle) AddAngleTurns(calls, world, segment);
   return calls;

@@ -78,18 +78,23 @@ TurnOutcome RememberedTurn(World& world, const Worker& turner) {
   return TurnOutcome::Completed;
 }
 
+/// nullptr for a disposition that is none.
+const TurnRow* FindTurn(const Worker& turner, const Worker& other) {
+  const int turnerOver = turner.Over, otherOver = other.Over;
+  for (const TurnRow& row : kTurns)
+    if (turner.Disposition == row.Turner && other.Disposition == row.Other &&
+        Holds(row.When, turnerOver, otherOver))
+      return &row;
+  return nullptr;
+}
+
 /// Changes the disposition; true when the crowd does not like the change.
 bool ChangeDisposition(Worker& turner, const Worker& other) {
-  const int turnerOver = turner.Over, otherOver = other.Over;
-  const std::string otherDisposition = other.Disposition.Str();
-  for (const TurnRow& row : kTurns) {
-    if (!(turner.Disposition == row.Turner) || otherDisposition != row.Other ||
-        !Holds(row.When, turnerOver, otherOver))
-      continue;
-    turner.Disposition = row.Becomes;
-    return row.MayFallFlat && Holds(row.FlatWhen, turnerOver, otherOver);
-  }
-  return false;
+  const TurnRow* row = FindTurn(turner, other);
+  if (!row) return false;
+  const bool isFlat = row->MayFallFlat && Holds(row->FlatWhen, turner.Over, other.Over);
+  turner.Disposition = row->Becomes;
+  return isFlat;
 }
 
 std::string_view TurnedInto(const Worker& turner) {
@@ -113,6 +118,11 @@ void FailTurn(SegmentRun& run, Worker& turner, const FailedTurn& price) {
 }
 
 }  // namespace
+
+bool IsSureToFail(const Worker& turner, const Worker* other) {
+  const TurnRow* row = FindTurn(turner, other ? *other : turner);
+  return row && row->MayFallFlat && row->FlatWhen == Popularity::Any;
+}
 
 void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
   TurnOutcome outcome = RememberedTurn(run.World, turner);

@@ -9,4 +9,7 @@ namespace grapplemont {
 /// unless it is very recent; then by the outcome.
 void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other);
 
+/// Whether the crowd will not like this turn, however popular the two are.
+bool IsSureToFail(const Worker& turner, const Worker* other);
+
 }  // namespace grapplemont

@@ -39,7 +39,7 @@ TEST(BookedTurns, OfSinglesNeedAPurposeAndItsOccasion) {
       {kClean, 1, "", "", "", ""},
       {kCountOut, 1, "", "Bea on Ash", "", ""},
       {kInterference, 1, "Eli on Ash", "Bea on Ash", "", ""},
-      {kBotchedInterference, 1, "Eli on Ash", "", "", ""},
+      {kBotchedInterference, 1, "Eli on Bea", "", "", ""},
       {kCheating, 1, "", "Bea on Ash", "", ""},
       {kSickBump, 1, "", "", "", ""},
       {kDqThroughInterference, 1, "", "", "", ""},
@@ -63,7 +63,8 @@ TEST(BookedTurns, OfSinglesNeedAPurposeAndItsOccasion) {
       {kClean, 24, "", "", "", ""},
       {kDqThroughInterference, 26, "", "", "", "Fay on Eli"},
       {kDqThroughInterference, 27, "", "", "", ""},
-      {kBotchedInterference, 11, "Eli on Ash", "", "Ash on Bea", ""},
+      {kBotchedInterference, 11, "Eli on Bea", "", "Ash on Bea", ""},
+      {kInterference, 10, "Eli on Ash", "Bea on Ash", "", ""},
   };
   for (const Case& c : kCases) {
     const std::pair<int, std::string_view> purposes[] = {
@@ -101,10 +102,23 @@ TEST(BookedTurns, OfTeamsGoByFinishAftermathAndPurpose) {
       {kClean, 1, 16, "Ash on Cal, Bea on Cal"},
       {kClean, 1, 17, "Cal on Bea, Dot on Bea"},
       {kInterference, 1, 18, "Eli on Cal"},
-      {kBotchedInterference, 1, 18, "Eli on Cal"},
+      {kBotchedInterference, 1, 18, "Eli on Bea"},
+      {kBotchedInterference, 1, 33, "Fay on Bea"},
       {kDqThroughInterference, 1, 18, "Eli on Bea"},
       {kInterference, 1, 19, "Eli on Cal, Fay on Cal"},
       {kInterference, 1, 33, "Fay on Cal"},
+      {kDqThroughInterference, 12, 18, "Eli on Cal"},
+      {kDqThroughInterference, 11, 18, "Eli on Bea"},
+      {kInterference, 11, 18, "Eli on Cal"},
+      {kClean, 2, 14, "Cal on Bea"},
+      {kClean, 3, 12, "Ash on Cal"},
+      {kClean, 16, 14, "Cal on Dot"},
+      {kClean, 16, 15, "Dot on Cal"},
+      {kClean, 16, 17, "Cal on Dot, Dot on Cal"},
+      {kPartnerTurns, 17, 12, "Dot on Cal, Ash on Cal"},
+      {kBotchedInterference, 13, 14, "Cal on Eli"},
+      {kBotchedInterference, 14, 15, "Dot on Eli"},
+      {kCheating, 5, 1, "Bea on Ash"},
       {kInterference, 18, 34, "Gus on Eli"},
       {kInterference, 18, 35, "Hal on Eli"},
       {kInterference, 18, 36, "Gus on Eli, Hal on Eli"},
@@ -113,8 +127,8 @@ TEST(BookedTurns, OfTeamsGoByFinishAftermathAndPurpose) {
       {kClean, 22, 35, "Hal on Bea"},
       {kClean, 23, 36, "Gus on Cal, Hal on Cal"},
       {kClean, 24, 34, "Gus on Dot"},
-      {kClean, 25, 36, "Gus on Ash, Hal on Bea"},
-      {kClean, 26, 36, "Gus on Cal, Hal on Dot"},
+      {kClean, 25, 36, "Gus on Ash, Hal on Ash"},
+      {kClean, 26, 36, "Gus on Cal, Hal on Cal"},
       {kClean, 27, 36, ""},
       {kClean, 20, 34, ""},
   };
@@ -128,6 +142,20 @@ TEST(BookedTurns, OfTeamsGoByFinishAftermathAndPurpose) {
     EXPECT_EQ(booking.Turns(), c.Turns)
         << "finish " << c.Finish << ", aftermath " << c.Aftermath << ", purpose " << c.Purpose;
   }
+}
+
+TEST(BookedTurns, ChooseTheActAtWhichATurnCanComeOff) {
+  Booking booking;
+  booking.Match(kSingles, {"Ash", "Bea"});
+  booking.Result("Bea", "Ash", kInterference);
+  booking.RunIns();
+  booking.S.Aftermath = after1::kTwoOnWinner;
+  booking.S.Purpose = purpose1::kTurnRunIn;
+  EXPECT_EQ(booking.Turns(), "Eli on Ash");
+  booking["Ash"].Disposition = "H";  // no Face's turn on a Heel is liked
+  EXPECT_EQ(booking.Turns(), "Eli on Bea");
+  booking["Bea"].Disposition = "H";
+  EXPECT_EQ(booking.Turns(), "Eli on Ash");
 }
 
 TEST(BookedTurns, OfTeamsInADrawLookAcrossTheRing) {
