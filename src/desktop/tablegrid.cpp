@@ -172,6 +172,12 @@ void TableGrid::resizeEvent(QResizeEvent* event) {
 void TableGrid::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
   viewport()->update();
+  if (Moved) Moved();
+}
+
+void TableGrid::updateGeometries() {
+  QTableView::updateGeometries();
+  if (Moved) Moved();
 }
 
 }  // namespace grapplemont::desktop
