@@ -19,9 +19,11 @@ std::size_t SizeIndex(int size) {
   return static_cast<std::size_t>(std::clamp(size, int(kGlobal), int(kBackyard)) - 1);
 }
 
-constexpr EconomyFactor kEventEconomy[] = {{86, 100, 110}, {20, 29, 90}, {10, 19, 80}, {0, 9, 70}};
+constexpr EconomyFactor kEventEconomy[] = {
+    {86, kAnyHigh, 110}, {20, 29, 90}, {10, 19, 80}, {kAnyLow, 9, 70}};
 // A weekly show follows good times more than an Event, and bad ones later.
-constexpr EconomyFactor kTvEconomy[] = {{91, 100, 120}, {81, 90, 110}, {10, 19, 80}, {0, 9, 70}};
+constexpr EconomyFactor kTvEconomy[] = {
+    {91, kAnyHigh, 120}, {81, 90, 110}, {10, 19, 80}, {kAnyLow, 9, 70}};
 
 /// What a price does to the crowd, one step after the other on the last result.
 struct PriceStep {

@@ -91,7 +91,7 @@ TEST(Gates, FollowTheEconomy) {
   constexpr int kCases[][3] = {
       {100, 1094, 1194}, {91, 1094, 1194}, {90, 1094, 1094}, {86, 1094, 1094}, {85, 995, 1094},
       {81, 995, 1094},   {80, 995, 995},   {30, 995, 995},   {29, 895, 995},   {20, 895, 995},
-      {19, 796, 796},    {10, 796, 796},   {9, 696, 696},    {0, 696, 696}};
+      {19, 796, 796},    {10, 796, 796},   {9, 696, 696},    {0, 696, 696},    {-5, 696, 696}};
   for (const auto& [economy, event, tv] : kCases) {
     EXPECT_EQ(EventGate(995, {kCult, 30, economy}).People, event) << economy;
     EXPECT_EQ(TvGate(995, {kCult, 30, economy}).People, tv) << economy;

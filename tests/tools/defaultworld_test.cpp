@@ -324,6 +324,25 @@ TEST(DefaultWorld, GivesTitlesToThoseWhoCarryThem) {
   }
 }
 
+TEST(DefaultWorld, HasTeamsAndStablesEverywhere) {
+  const World& world = DefaultWorld();
+  std::map<int, int> teams, stables;
+  for (const Team& team : world.Teams()) {
+    const Worker *one = world.FindWorker(team.Worker1), *other = world.FindWorker(team.Worker2);
+    EXPECT_FALSE(team.Finisher.View().empty()) << Utf8(team.Name);
+    if (one->Employer == other->Employer) ++teams[one->Employer];
+  }
+  for (const Stable& stable : world.Stables()) {
+    ++stables[stable.Owner];
+    EXPECT_GE(CountIf(world.Workers(), [&](auto& w) { return w.Stable == stable.Name.View(); }), 2)
+        << Utf8(stable.Name);
+  }
+  for (const Promotion& promotion : world.Promotions()) {
+    EXPECT_GE(teams[promotion.Uid], 2) << promotion.Initials.Str();
+    EXPECT_GE(stables[promotion.Uid], 1) << promotion.Initials.Str();
+  }
+}
+
 int AudienceOf(const Network& network, std::string_view slot) {
   return slot == "E"   ? network.EarlyAudience
          : slot == "P" ? network.PrimeAudience
