@@ -216,6 +216,13 @@ TEST(DefaultWorld, PaysByPlaceAndSize) {
     const auto roster = WorkersOf(promotion, Wrestles);
     for (const Worker* worker : roster)
       EXPECT_LE(worker->Wage, kMostOfSize[promotion.Size - 1]) << Utf8(worker->Name);
+    // Who stands clearly below another does not earn clearly more.
+    for (const Worker* one : roster)
+      for (const Worker* other : roster)
+        if (one->Position > other->Position && one->Over < other->Over - 10) {
+          EXPECT_LE(one->Wage, other->Wage + other->Wage / 2 + 5)
+              << Utf8(one->Name) << " against " << Utf8(other->Name);
+        }
     double above = 1e9;
     for (int place = kMainEvent; place <= kJobber; ++place) {
       const auto here = WorkersOf(promotion, [=](const Worker& w) { return w.Position == place; });
