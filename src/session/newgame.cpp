@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "business/monthlymoney.h"
 #include "calendar/events.h"
 #include "records/dates.h"
 #include "records/modVar.h"
@@ -13,21 +14,14 @@ namespace grapplemont {
 
 namespace {
 
-/// What a promotion spends when a game begins, by size from Global to Backyard.
+/// What a rival spends when a game begins, by size from Global to Backyard.
 struct StartingSpend {
-  int TicketPrice;
-  int Production;  // this and what follows for rivals only
+  int Production;
   int Advertising;
   int Merchandising;
 };
-constexpr std::array<StartingSpend, 6> kStartingSpend = {{
-    {60, 80, 4, 4},
-    {40, 60, 3, 3},
-    {30, 40, 2, 2},
-    {20, 20, 1, 1},
-    {10, 10, 0, 0},
-    {5, 0, 0, 0},
-}};
+constexpr std::array<StartingSpend, 6> kStartingSpend = {
+    {{80, 4, 4}, {60, 3, 3}, {40, 2, 2}, {20, 1, 1}, {10, 0, 0}, {0, 0, 0}}};
 
 struct PostTarget {
   int Base;
@@ -97,7 +91,7 @@ void StartPromotion(World& world, Promotion& promotion) {
     promotion.Advertising = spend.Advertising;
     promotion.Merchandising = spend.Merchandising;
   }
-  promotion.TicketPrice = spend.TicketPrice;
+  promotion.TicketPrice = FairTicketPrice(promotion.Size);
   promotion.Momentum = world.RandomDraw(4);
   promotion.LoanAmount = 0;
   promotion.LoanMonths = 0;

@@ -23,6 +23,6 @@ extern const Command kBuild, kExport, kCheck;
 // Games without a window.
 extern const Command kNew, kRun;
 // Pages of docs/.
-extern const Command kFormats, kColumns;
+extern const Command kFormats, kColumns, kBalance;
 
 }  // namespace grapplemont::tools

@@ -46,6 +46,40 @@ TEST(NameTables, GroupMovesByKind) {
     if (kinds.empty() || kinds.back() != move.Kind) kinds += move.Kind;
   }
   EXPECT_EQ(kinds, "BTS");
+  EXPECT_EQ(FinisherMoves.size(), 64u);
+  const struct {
+    std::string_view Name;
+    char Kind;
+    FinisherType Type;
+  } known[] = {{"Big Punch", 'B', FinisherType::Impact},
+               {"Falling Powerbomb", 'B', FinisherType::Impact},
+               {"German Suplex", 'T', FinisherType::Impact},
+               {"Cross Armlock", 'T', FinisherType::Submission},
+               {"Frog Splash", 'S', FinisherType::TopRope},
+               {"Lion Sault", 'S', FinisherType::TopRope}};
+  for (const auto& row : known) {
+    const auto move = std::find_if(FinisherMoves.begin(), FinisherMoves.end(),
+                                   [&](const FinisherMove& m) { return m.Name == row.Name; });
+    ASSERT_NE(move, FinisherMoves.end()) << row.Name;
+    EXPECT_EQ(move->Kind, row.Kind) << row.Name;
+    EXPECT_EQ(move->Type, row.Type) << row.Name;
+  }
+}
+
+TEST(NameTables, KeepWomensNamesToTheirEnd) {
+  EXPECT_EQ(kWorkerFirstNames - kLastMaleWorkerFirstName, 52);
+  EXPECT_EQ(kStaffFirstNames - kLastMaleStaffFirstName, 31);
+  World world;
+  const auto drawn = [&](int number, auto draw) {
+    ScriptDraws(world, {number});
+    return draw(world).IsFemale;
+  };
+  EXPECT_FALSE(drawn(251, RandomWorkerFirstName));
+  EXPECT_TRUE(drawn(252, RandomWorkerFirstName));
+  EXPECT_TRUE(drawn(303, RandomWorkerFirstName));
+  EXPECT_FALSE(drawn(161, RandomStaffFirstName));
+  EXPECT_TRUE(drawn(162, RandomStaffFirstName));
+  EXPECT_TRUE(drawn(192, RandomStaffFirstName));
 }
 
 // Draws of NewWorkerAttributes up to the build: age, stiffness, selling, charisma, attitude,

@@ -1,0 +1,141 @@
+#include "tools/balance.h"
+
+#include <algorithm>
+
+#include "business/monthlymoney.h"
+#include "business/sponsorlimits.h"
+#include "records/modWresCheck.h"
+#include "show/attendance.h"
+#include "show/tvratings.h"
+
+namespace grapplemont::tools {
+
+namespace {
+
+constexpr int kEvenEconomy = 60;
+constexpr int kSponsorPlaces = 4;
+constexpr int kWeeks = 52, kMonths = 12;
+
+/// The same promotion in the player's hands or its own.
+struct Hands {
+  int Advertising;
+  int Merchandising;
+  int Production;
+  int SponsorLimit;
+};
+
+Hands PlayersHands(const Promotion& promotion) {
+  return {promotion.Advertising, promotion.Merchandising, promotion.Production,
+          SponsorPayLimit(promotion.Size, promotion.Image)};
+}
+
+Hands RivalsHands(const Promotion& promotion) {
+  const RivalSpending spending = RivalSpendingFor(promotion.Size);
+  return {TargetAdvertising(promotion.Size, promotion.Image), spending.Merchandising,
+          spending.Production, RivalSponsorPayLimit(promotion.Size, promotion.Image)};
+}
+
+/// Television shows in a year: the last Sunday of a month is an Event's.
+int ShowsAYear(const World& world, const Promotion& promotion) {
+  int shows = 0;
+  for (const Show& show : world.Shows())
+    if (show.Owner == promotion.Uid) shows += show.Day == "Sunday" ? kWeeks - kMonths : kWeeks;
+  return shows;
+}
+
+void AddTickets(const World& world, const Promotion& promotion, MonthMoney& money) {
+  const Gate gate{promotion.Size, FairTicketPrice(promotion.Size), kEvenEconomy};
+  const auto paid = [&](int people) { return static_cast<long long>(people) * gate.TicketPrice; };
+  money.TvTickets = paid(TvGate(Mean(TvCrowd(promotion.Size, promotion.Image)), gate)) *
+                    ShowsAYear(world, promotion) / kMonths;
+  for (const Event& event : world.Events()) {
+    if (event.Owner != promotion.Uid) continue;
+    money.EventTickets +=
+        paid(EventGate(Mean(EventCrowd(event.Type, promotion.Size, promotion.Image)), gate));
+    money.Events += EventProductionCost(event.Type);
+    if (event.Type == 1)
+      money.PayPerView += PpvIncome(Mean(BuyRateBase(promotion.Size, promotion.Image)));
+  }
+  for (long long* year : {&money.EventTickets, &money.Events, &money.PayPerView}) *year /= kMonths;
+}
+
+long long SponsorsMonth(const World& world, const Promotion& promotion, int limit) {
+  long long willing = 0, pay = 0, tvPay = 0;
+  for (const Sponsor& sponsor : world.Sponsors()) {
+    if (!BearsRisk(sponsor, promotion.Risk) || sponsor.Pay >= limit) continue;
+    ++willing;
+    pay += sponsor.Pay;
+    tvPay +=
+        SponsorPayForTv(sponsor, true) + SponsorPayForTv(sponsor, false) * (kSponsorPlaces - 1);
+  }
+  if (willing == 0) return 0;
+  const long long places = std::min<long long>(willing, kSponsorPlaces);
+  const auto events =
+      std::count_if(world.Events().begin(), world.Events().end(),
+                    [&](const Event& event) { return event.Owner == promotion.Uid; });
+  return (pay * places * events + tvPay * ShowsAYear(world, promotion)) * 1000 / willing / kMonths;
+}
+
+void AddWages(const World& world, const Promotion& promotion, MonthMoney& money) {
+  const auto isPaid = [&](const auto& person) {
+    return person.Employer == promotion.Uid && person.ContractMonths != kNoEnd;
+  };
+  for (const Worker& worker : world.Workers())
+    if (isPaid(worker) && !worker.Unsackable) money.WorkerWages += worker.Wage * 1000LL;
+  for (const Staff& staff : world.AllStaff())
+    if (isPaid(staff) && !staff.Unsackable && staff.Position != kOwner)
+      money.StaffWages += staff.Wage * 1000LL;
+}
+
+MonthMoney MonthOf(const World& world, const Promotion& promotion, const Hands& hands) {
+  MonthMoney money;
+  AddTickets(world, promotion, money);
+  AddWages(world, promotion, money);
+  Promotion spending = promotion;
+  spending.Merchandising = hands.Merchandising;
+  money.Merchandise = MerchandiseSales(spending, kEvenEconomy);
+  money.Sponsors = SponsorsMonth(world, promotion, hands.SponsorLimit);
+  money.Production = ProductionCost(hands.Production);
+  money.Advertising = AdvertisingCost(hands.Advertising);
+  money.Merchandising = MerchandisingCost(hands.Merchandising);
+  return money;
+}
+
+std::vector<PlaceOnCard> CardOf(const World& world, const Promotion& promotion) {
+  std::vector<PlaceOnCard> card;
+  for (const Term& place : kStoredPositions) {
+    int workers = 0, over = 0;
+    for (const Worker& worker : world.Workers()) {
+      if (worker.Employer != promotion.Uid || worker.Position != place.Code) continue;
+      ++workers;
+      over += worker.Over;
+    }
+    if (workers > 0) card.push_back({place.Code, workers, (over + workers / 2) / workers});
+  }
+  return card;
+}
+
+}  // namespace
+
+long long MonthMoney::Income() const {
+  return TvTickets + EventTickets + PayPerView + Merchandise + Sponsors;
+}
+
+long long MonthMoney::Costs() const {
+  return WorkerWages + StaffWages + Production + Events + Advertising + Merchandising;
+}
+
+int MonthMoney::CostsPerHundred() const {
+  return static_cast<int>(100 * Costs() / std::max(Income(), 1LL));
+}
+
+std::vector<PromotionBalance> BalanceOf(const World& world) {
+  std::vector<PromotionBalance> balances;
+  for (const Promotion& promotion : world.Promotions())
+    balances.push_back({&promotion, CardOf(world, promotion),
+                        MonthOf(world, promotion, PlayersHands(promotion)),
+                        MonthOf(world, promotion, RivalsHands(promotion))});
+  return balances;
+}
+
+}  // namespace grapplemont::tools

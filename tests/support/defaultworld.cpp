@@ -1,0 +1,26 @@
+#include "support/defaultworld.h"
+
+#include <gtest/gtest.h>
+
+#include "records/disk.h"
+#include "records/worldtables.h"
+
+namespace grapplemont::test {
+
+namespace {
+
+World Built() {
+  const auto disk = RealDisk();
+  Building building = BuildWorld(ReadTables(*disk, CHECKOUT "/world"));
+  for (const Mistake& mistake : building.Mistakes) ADD_FAILURE() << mistake.Text();
+  return building.Made ? std::move(*building.Made) : World();
+}
+
+}  // namespace
+
+const World& DefaultWorld() {
+  static const World world = Built();
+  return world;
+}
+
+}  // namespace grapplemont::test
