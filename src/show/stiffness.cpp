@@ -33,15 +33,15 @@ constexpr Complaint kComplaints[] = {
 
 void HurtOthers(SegmentRun& run, const Worker& stiff) {
   const int partner = PartnerOf(run.Segment, stiff.Uid);
-  std::size_t place = 0;
-  for (const int uid : PeopleOf(run.Segment)) {
-    const std::size_t at = place++;
+  for (std::size_t place = 0; place < std::size(kComplaints); ++place) {
+    const int uid =
+        static_cast<int>(place) < EntrantsOf(run.Segment) ? run.Segment.Worker[place] : 0;
     Worker* hurt = run.World.FindWorker(uid);
-    if (!hurt || uid == stiff.Uid || uid == partner || at >= std::size(kComplaints)) continue;
+    if (!hurt || uid == stiff.Uid || uid == partner) continue;
     const int blow = run.World.RandomDraw(kHardestBlow);
     hurt->Condition -= blow;
     if (blow < kHardestBlow) continue;
-    const Complaint& complaint = kComplaints[at];
+    const Complaint& complaint = kComplaints[place];
     AddNews(run.World, hurt->Name,
             std::string(complaint.Before.By(*hurt)) + stiff.Name.Str() +
                 std::string(complaint.After.By(*hurt)));

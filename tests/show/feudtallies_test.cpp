@@ -77,6 +77,15 @@ TEST(TallyResult, CountsNoDrawAndNoStranger) {
   EXPECT_FALSE(stage.Show.FeudTouched[0]);
 }
 
+TEST(TallyResult, CountsAgainstWhoTakesTheFall) {
+  Stage stage(Eight().Feud("Ash", "Cal").Feud("Ash", "Dot"));
+  stage.Match(kTag, {"Ash", "Bea", "Cal", "Dot"});
+  stage.Result("Ash", "Dot");
+  TallyResult(stage.Run);
+  EXPECT_EQ(stage.W.Feuds()[1].Clean1, 0);
+  EXPECT_EQ(stage.W.Feuds()[2].Clean1, 1);
+}
+
 TEST(Tallies, GoToTheFirstFeudOfTheTwoAndToTheirSide) {
   Stage stage(Eight().TagFeud("Ash", "Bea", "Cal", "Dot").Feud("Cal", "Ash"));
   TallyWin(stage.Run, stage.Uid("Cal"), stage.Uid("Ash"), true);

@@ -12,11 +12,9 @@ void SetAside(Stage& stage) {
 }
 
 TEST(MatchConsequences, ComeInTheirOrder) {
-  // The draws tell the order: wear of both, joy of the winner, Over by result, injuries.
-  Stage stage(Eight().Feud("Ash", "Bea", [](Feud& feud) {
-    feud.Clean2 = 2;
-    feud.Dirty2 = 1;
-  }));
+  // The draws tell the order: wear of both, joy of the winner, Over by result, injuries. Win and
+  // attack make the record a feud that pays.
+  Stage stage(Eight().TagFeud("Ash", "Cal", "Bea", "Dot", [](Feud& feud) { feud.Clean2 = 2; }));
   SetAside(stage);
   stage.Match(kSingles, {"Ash", "Bea"}, kLadder);
   stage.Result("Ash", "Bea", kInterference);
@@ -31,18 +29,19 @@ TEST(MatchConsequences, ComeInTheirOrder) {
   EXPECT_EQ(stage["Ash"].Condition, 91);
   EXPECT_EQ(stage["Bea"].Condition, 85);
   EXPECT_EQ(stage["Ash"].Morale, 86) << "80, 3 for the match, 3 for the win";
-  EXPECT_EQ(stage["Ash"].Over, 53) << "1 by luck, 2 for the feud's end";
-  EXPECT_EQ(stage["Bea"].Over, 58) << "1 lost by luck, 2 with the feud";
+  EXPECT_EQ(stage.Overs(4), (std::vector<int>{56, 61, 55, 51})) << "1 by luck, 2 and 3 by the feud";
   EXPECT_EQ(stage.W.Feuds()[1].Dirty1, 1);
+  EXPECT_EQ(stage.W.Feuds()[1].Sneak1, 1);
   EXPECT_EQ(stage.W.Feuds()[1].Worker1, 0);
   EXPECT_EQ(
       stage.Run.Notes,
       "Bea lost overness from this match. Ash gained overness from this match. "
-      "Ash gained overness from this feud ending. Bea lost overness from this feud ending. "
+      "Ash gained overness from this feud ending. Cal gained overness from this feud ending. "
+      "Bea gained overness from this feud ending. Dot gained overness from this feud ending. "
       "Bea has sustained an injury as a result of a bad bump! Broken Leg, out for 2 months. ");
 }
 
-TEST(MatchConsequences, CountAttacksBeforeTheFeudEnds) {
+TEST(MatchConsequences, CountAttacksOfRunInsInFeudsOfTheirOwn) {
   Stage stage(Eight().Feud("Ash", "Cal").Feud("Ash", "Bea"));
   SetAside(stage);
   stage.Match(kSingles, {"Ash", "Bea"});

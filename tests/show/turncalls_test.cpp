@@ -158,6 +158,15 @@ TEST(BookedTurns, ChooseTheActAtWhichATurnCanComeOff) {
   EXPECT_EQ(booking.Turns(), "Eli on Ash");
 }
 
+TEST(BookedTurns, KnowWhoTakesTheFall) {
+  Booking booking;
+  booking.Match(kTag, {"Ash", "Bea", "Cal", "Dot"});
+  booking.Result("Bea", "Dot", kPartnerTurns);
+  EXPECT_EQ(booking.Turns(), "Cal on Dot");
+  booking.Result("Dot", "Ash", kPartnerTurns);  // whose uid also stands for no loser
+  EXPECT_EQ(booking.Turns(), "Bea on Ash");
+}
+
 TEST(BookedTurns, OfTeamsInADrawLookAcrossTheRing) {
   Booking booking;
   booking.Match(kTag, {"Dot", "Cal", "Bea", "Ash"});

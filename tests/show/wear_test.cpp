@@ -74,6 +74,16 @@ TEST(AfterMatch, TakesStandingFromOverAndTheBetterSkill) {
   EXPECT_EQ(MoraleAfter(60, 50, 91, 56), 53);
 }
 
+TEST(AfterMatch, WeighsTheMatchAsItsRating) {
+  Stage stage;
+  Worker& ash = Manager(stage);
+  ash.Morale = 50;
+  stage.Rate(0, 50);
+  ScriptDraws(stage.W, {{2, 1}});
+  AfterMatch(stage.Run, ash, false);
+  EXPECT_EQ(ash.Morale, 50) << "the loud crowd makes it 35";
+}
+
 TEST(AfterMatch, HoldsMoraleWithinItsLimits) {
   EXPECT_EQ(MoraleAfter(80, 50, 50, 90, 99), 100);
   EXPECT_EQ(MoraleAfter(80, 50, 50, 0, 16), 0);
