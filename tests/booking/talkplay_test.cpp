@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "booking/bookingscreens.h"
+#include "booking/talkcheck.h"
 #include "records/segments.h"
 #include "support/gameonworld.h"
 #include "talkcompany.h"
@@ -113,6 +114,8 @@ void ExpectRecords(const std::vector<Booking>& bookings) {
     Book(play, booking);
     play.Reopen();
     EXPECT_EQ(RecordOf(play.World(), kSlot), booking.Expected.Held);
+    EXPECT_EQ(WhyNotTalk(play.World(), play.World().Segments()[kSlot], {}),
+              std::vector<std::string>());
     for (const int other : {kSlot - 1, kSlot + 1})
       EXPECT_EQ(RecordOf(play.World(), other), Bytes143(0, 0, 0, {}).Held);
   }
