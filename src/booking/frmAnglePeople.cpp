@@ -29,12 +29,14 @@ class frmAnglePeople : public StepScreen {
       FillBox(box);
       lbl(box).Visible = cmb(box).Visible = lblabout(box).Visible = IsUsed(At(box).Role);
     }
+    lbldesc.Colour = ui::Tone::Muted;
     lbldesc.Text = std::string(angle ? angle->Text : "");
   }
 
   void FillBox(int box) {
     auto& [role, candidates] = At(box);
     lbl(box).Text = std::string(role.Caption);
+    lblabout(box).Colour = ui::Tone::Muted;
     if (!IsUsed(role)) {
       cmb(box).Add(kUnused);
     } else {
@@ -50,7 +52,7 @@ class frmAnglePeople : public StepScreen {
   ui::Box Body() override {
     std::vector<ui::Box> boxes = {lbldesc};
     for (int box = 1; box <= kAnglePlaces; ++box)
-      boxes.push_back(ui::Rows({lbl(box), cmb(box), lblabout(box)}));
+      boxes.push_back(ui::Columns({lbl(box), ui::Grow(cmb(box), 2), ui::Grow(lblabout(box), 3)}));
     boxes.push_back(ui::Spacer());
     return ui::Group("", std::move(boxes));
   }

@@ -14,9 +14,9 @@ struct SpeakersRow {
 const std::vector<SpeakersRow>& SpeakersTable() {
   static const std::vector<SpeakersRow> kRows = {
       {"frmIV1", kSingleTalk, {"Worker"}},
-      {"frmIV2", kTeamTalk, {"First worker", "Second worker"}},
+      {"frmIV2", kTeamTalk, {"Worker", "Partner"}},
       {"frmIV1m", kManagedTalk, {"Worker", "Manager"}},
-      {"frmIV2m", kManagedTeamTalk, {"Manager", "First worker", "Second worker"}},
+      {"frmIV2m", kManagedTeamTalk, {"Manager", "Worker", "Partner"}},
   };
   return kRows;
 }
@@ -34,6 +34,21 @@ int TeamMate(const World& world, int uid) {
     if (team.Worker2 == uid) return team.Worker1;
   }
   return 0;
+}
+
+/// Lists side by side of which there is room for name, disposition and popularity alone.
+constexpr std::size_t kNarrow = 3;
+
+std::vector<ui::Column> NarrowColumns() {
+  std::vector<ui::Column> columns = PeopleColumns();
+  columns.erase(columns.begin() + kNarrow, columns.end());
+  return columns;
+}
+
+void Narrow(ui::ListBox& list) {
+  std::vector<ui::ListBox::Row> rows = list.Rows();
+  for (auto& row : rows) row.Cells.erase(row.Cells.begin() + kNarrow, row.Cells.end());
+  list.Fill(std::move(rows));
 }
 
 /// Who is interviewed. Whoever is chosen brings his partner and his manager along, as long as the
@@ -54,6 +69,7 @@ class frmIVPeople : public StepScreen {
                                          : "Nobody on the roster can be interviewed.";
       FillPeople(lstwres(place), manager ? TalkingManagers(world(), wizard().View)
                                          : Talkers(world(), wizard().View));
+      if (Lists() >= 3) Narrow(lstwres(place));
     }
   }
 
@@ -62,7 +78,7 @@ class frmIVPeople : public StepScreen {
     for (int place = 1; place <= Lists(); ++place)
       lists.push_back(
           ui::Group(row_.Lists[static_cast<std::size_t>(place - 1)], {ui::Grow(lstwres(place))})
-              .Grow());
+              .Grow(Lists() == 3 && place == Shape().Manager ? 2 : 1));
     return ui::Columns(std::move(lists));
   }
 
@@ -95,7 +111,8 @@ class frmIVPeople : public StepScreen {
   std::array<bool, 4> chosen_ = {};  // by place
   ui::Array<ui::ListBox> lstwres{"lstwres", Lists(), [this](const std::string&, int place) {
                                    return std::make_unique<ui::ListBox>(
-                                       *this, "lstwres" + std::to_string(place), PeopleColumns(),
+                                       *this, "lstwres" + std::to_string(place),
+                                       Lists() < 3 ? PeopleColumns() : NarrowColumns(),
                                        [this, place] { Picked(place); }, [this] { GoOn(); });
                                  }};
 };

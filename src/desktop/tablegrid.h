@@ -48,6 +48,7 @@ class TableGrid : public QTableView {
   TableHeading* heading_;
   QString empty_;
   int hover_ = -1;
+  bool painted_ = false;
 };
 
 }  // namespace grapplemont::desktop
