@@ -114,7 +114,7 @@ void ExpectRecords(const std::vector<Booking>& bookings) {
     Book(play, booking);
     play.Reopen();
     EXPECT_EQ(RecordOf(play.World(), kSlot), booking.Expected.Held);
-    EXPECT_EQ(WhyNotTalk(play.World(), play.World().Segments()[kSlot], {}),
+    EXPECT_EQ(WhyNotTalk(play.World(), play.World().Segments()[kSlot], {booking.IsEvent}),
               std::vector<std::string>());
     for (const int other : {kSlot - 1, kSlot + 1})
       EXPECT_EQ(RecordOf(play.World(), other), Bytes143(0, 0, 0, {}).Held);
@@ -206,6 +206,12 @@ TEST(Wizard, BooksAnglesOfEveryShape) {
       Scene("Abuse Of Power", {{"cmb1", "Com Boss"}, {"cmb2", "Bob Bold"}}, {3, 10, 0, {2, 3}},
             "Abuse of Power", "Com Boss, Bob Bold"),
   });
+}
+
+TEST(Wizard, LetsNonWrestlersStandInAtAnEvent) {
+  Booking walk = Scene("Walking", {{"cmb1", "Com Boss"}}, {3, 36, 0, {2}}, "Walking", "Com Boss");
+  walk.IsEvent = true;
+  ExpectRecords({walk});
 }
 
 }  // namespace

@@ -167,7 +167,7 @@ TEST(frmAngleType, StartsFromWalkingAndTellsEachAngle) {
             "An ambush happens backstage. (This angle causes the saver to turn, if set.)");
   EXPECT_EQ(desk.Rows("lstangle")[2],
             (Names{"Ambush", "Ambush", "Ambushee, Ambusher #1, (Ambusher #2), (Saver)"}));
-  desk.Click("cmddone");
+  desk.OpenRow("lstangle", "Ambush");
   EXPECT_EQ(steps.State().Buffer.Style, 3);
 }
 
