@@ -54,7 +54,7 @@ constexpr FamilyRow kRows[] = {
     {FeudOpening, "FeudOpening", "FS", "", 0, kBoils, 3},
     {DebutOpening, "DebutOpening", "t", "t", 0, 0, 3},
     {ChampionNote, "ChampionNote", "c", "c", 0, 0, 3},
-    {Closer, "Closer", "wlWL", "", 0, kLastBout, 2},
+    {Closer, "Closer", "wljWL", "", 0, kLastBout, 2},
     {DoubleDq, "DoubleDq", "", "", 0, 0, 3},
     {SinglesFinish, "SinglesFinish", "wl12op", "", kClean, kDqThroughInterference, 3,
      kNotInSingles},

@@ -82,7 +82,8 @@ void TellSmallFinish(Teller& teller, const BoutRow& bout) {
 Person* MateOf(Teller& teller, int uid) {
   const int side = SideOf(teller.segment, uid);
   if (side == 0) return nullptr;
-  for (const int mate : SidesOf(teller.segment)[static_cast<std::size_t>(side - 1)])
+  const auto sides = SidesOf(teller.segment);
+  for (const int mate : sides[static_cast<std::size_t>(side - 1)])
     if (Person* person = mate == uid ? nullptr : teller.cast.Find(teller.world, mate))
       return person;
   return nullptr;
