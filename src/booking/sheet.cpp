@@ -28,12 +28,6 @@ bool Counts(int record, bool isEvent) {
 
 }  // namespace
 
-const Event* EventOfToday(const World& world) {
-  for (const Event& event : world.Events())
-    if (event.Owner == world.PlayerUid() && event.Month == MonthOf(world.Today())) return &event;
-  return nullptr;
-}
-
 SheetTerms TermsOf(const World& world, bool isEvent) {
   if (isEvent) return EventOfToday(world) ? kEventTerms : SheetTerms{};
   const Show* show = ShowOfToday(world);
@@ -86,12 +80,8 @@ int NewSegments(const World& world, const AutoCard& card) {
 }
 
 std::string SheetHeading(const World& world, bool isEvent) {
-  if (isEvent) {
-    const Event* event = EventOfToday(world);
-    return "Event Booking Sheet For " + (event ? event->Name.Str() : std::string());
-  }
-  const Show* show = ShowOfToday(world);
-  return "Television Booking Sheet For " + (show ? show->Name.Str() : std::string());
+  return (isEvent ? "Event Booking Sheet For " : "Television Booking Sheet For ") +
+         ShowName(world, isEvent);
 }
 
 std::string SheetWarning(const World& world, bool isEvent) {

@@ -5,20 +5,14 @@
 
 #include "booking/autobooker.h"
 #include "records/world.h"
+#include "show/holdshow.h"
 
 // The sheet of a show day: how many rows it has, what it asks for before the show may start.
 
 namespace grapplemont {
 
-inline constexpr int kTvRows = 11, kEventRows = 9;
 /// The record of an Event's sheet that is booked like the others and counts for nothing.
 inline constexpr int kDarkMatch = 1;
-constexpr int RowsOf(bool isEvent) {
-  return isEvent ? kEventRows : kTvRows;
-}
-
-/// The player's Event of this month, the first in the file; nullptr for none.
-const Event* EventOfToday(const World& world);
 
 /// What a sheet offers and asks for. Without a show of today nothing is open.
 struct SheetTerms {
