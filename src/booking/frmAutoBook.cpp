@@ -104,9 +104,9 @@ class frmAutoBook : public ui::Screen {
     const int record = lstcard.Key();
     if (record == 0) return txtrow.Write("");
     const Segment& segment = card_.Rows[static_cast<std::size_t>(record - 1)];
-    std::vector<ui::Report::Paragraph> told{{Style::Heading, DescribeSegment(world(), segment)}};
+    std::vector<ui::Report::Paragraph> told{{Style::Strong, DescribeSegment(world(), segment)}};
     for (std::string& line : SummaryOfRow(world(), segment, false))
-      told.push_back({Style::Body, std::move(line)});
+      told.push_back({Style::Line, std::move(line)});
     txtrow.Write(std::move(told));
   }
 

@@ -121,14 +121,14 @@ class frmQuickStat : public ui::Screen {
   std::vector<Paragraph> Told(const Worker& worker) {
     const Worker* manager = ManagerOf(world(), worker);
     std::vector<Paragraph> told{
-        {Style::Heading, worker.Name.Str()},
+        {Style::Strong, worker.Name.Str()},
         {Style::Muted, std::to_string(worker.Age) + ", " +
                            std::string(worker.Weight == "L" ? "lightweight" : "heavyweight") +
                            ", " + std::string(DispositionText(worker.Disposition))},
-        {Style::Body, std::string(PositionText(worker.Position)) + ", " +
+        {Style::Line, std::string(PositionText(worker.Position)) + ", " +
                           (worker.Employer == 0 ? std::string("on the free market")
                                                 : PromotionName(world(), worker.Employer))},
-        {Style::Body, StatusLine(worker)}};
+        {Style::Line, StatusLine(worker)}};
     const std::pair<const char*, std::string> facts[] = {
         {"Finishers: ", FinishersOf(worker)},
         {"Manager: ", manager ? manager->Name.Str() : ""},
@@ -136,7 +136,7 @@ class frmQuickStat : public ui::Screen {
         {"Titles: ", TitlesOf(worker)},
         {"", TraitsOf(worker)}};
     for (const auto& [label, fact] : facts)
-      if (!fact.empty()) told.push_back({Style::Body, label + fact});
+      if (!fact.empty()) told.push_back({Style::Line, label + fact});
     return told;
   }
 

@@ -65,7 +65,7 @@ ui::Page SheetScreen::Layout() {
   for (ui::Box& below : BelowRows()) left.push_back(std::move(below));
   page.Body = ui::Columns(
       {ui::Rows(std::move(left)).Grow(5),
-       ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(3),
+       ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(5),
                  ui::Group("What it may come to", {lblforecast, lblwarnings}),
                  ui::Group("Not on the card yet", {ui::Grow(lstfree)}).Grow(4),
                  ui::Group("At hand", {cmddebut, cmdfeuds, cmdmanagers, cmdroster, cmdstables,
@@ -175,11 +175,11 @@ void SheetScreen::ShowRow() {
   const Segment& segment = Row(record);
   if (segment.Kind == kEmptySegment)
     return txtrow.Write(
-        {{Style::Heading, "Row " + std::to_string(record)},
+        {{Style::Strong, "Row " + std::to_string(record)},
          {Style::Muted, "Nothing is booked here. Press Book, or Enter to begin at once."}});
-  std::vector<ui::Report::Paragraph> told{{Style::Heading, DescribeSegment(world(), segment)}};
+  std::vector<ui::Report::Paragraph> told{{Style::Strong, DescribeSegment(world(), segment)}};
   for (std::string& line : SummaryOfRow(world(), segment, isEvent_))
-    told.push_back({Style::Body, std::move(line)});
+    told.push_back({Style::Line, std::move(line)});
   if (const std::string tip = TitleTip(segment); !tip.empty()) told.push_back({Style::Strong, tip});
   txtrow.Write(std::move(told));
 }

@@ -119,7 +119,9 @@ void TableView::Connect() {
   grid_->Picked = [this](int row) { Act(row, false); };
   grid_->Opened = [this](int row) { Act(row, true); };
   grid_->Copied = [this] { CopyCsv(); };
-  grid_->Resized = [this] { FitColumns(); };
+  grid_->Resized = [this] {
+    if (table_.Follows()) FitColumns();
+  };
   grid_->Moved = [this] { PlaceRowButtons(); };
   grid_->Typed = [this](const QString& letters) {
     if (searchRow_->isHidden()) return grid_->keyboardSearch(letters);
@@ -185,7 +187,8 @@ void TableView::ShowSelection() {
 std::vector<int> TableView::NaturalWidths() const {
   std::vector<int> widths;
   for (const int column : table_.Columns()) {
-    int width = grid_->Heading().HeadingWidth(column);
+    const TableHeading& heading = grid_->Heading();
+    int width = std::max(heading.HeadingWidth(column), heading.minimumSectionSize());
     const auto kind = list_.Columns()[Index(column)].Kind;
     const ui::Cell* longest = nullptr;
     const int rows = model_.rowCount();
@@ -335,7 +338,7 @@ void TableView::SetRowButtons(std::vector<ButtonView*> buttons) {
 
 /// A button whose row is not shown stands out of sight.
 void TableView::PlaceRowButtons() {
-  if (rowButtons_.empty()) return;
+  if (rowButtons_.empty() || !table_.Follows()) return;
   for (ButtonView* button : rowButtons_) button->move(-Px(1000), 0);
   int column = -1;
   for (const int shown : table_.Columns())

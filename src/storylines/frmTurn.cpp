@@ -71,11 +71,11 @@ class frmTurn : public ui::Screen {
     if (!worker) return txtturn.Write({{Style::Muted, "Choose somebody to read how he stands."}});
     const int days = DaysSinceTurn(world(), *worker);
     txtturn.Write(
-        {{Style::Heading, worker->Name.Str()},
-         {Style::Body, std::string(DispositionText(worker->Disposition)) +
+        {{Style::Strong, worker->Name.Str()},
+         {Style::Line, std::string(DispositionText(worker->Disposition)) +
                            (days < 0 ? ", has never turned."
                                      : ", turned " + std::to_string(days) + " days ago.")},
-         {Style::Body, TurnAdvice(world(), *worker)},
+         {Style::Line, TurnAdvice(world(), *worker)},
          {Style::Muted,
           worker->TurnPending
               ? "The turn is prepared. Book the match, interview or angle in which "

@@ -265,7 +265,8 @@ class Chart : public Control {
 /// Long prose in paragraphs. `Text` holds the same, a paragraph a line.
 class Report : public Control {
  public:
-  enum class Style { Body, Heading, Strong, Muted };
+  /// Body is prose; Line is a short fact in the letters of tables.
+  enum class Style { Body, Heading, Strong, Muted, Line };
   struct Paragraph {
     Style As = Style::Body;
     std::string Words;
