@@ -1,8 +1,7 @@
 #include <algorithm>
 
 #include "booking/autotalk.h"
-#include "records/angles.h"
-#include "records/dates.h"
+#include "booking/casting.h"
 
 namespace grapplemont {
 
@@ -17,7 +16,8 @@ struct AngleTaste {
   int Number;
   First Cast;
   int Weight;
-  int When;  // in the show
+  int When;                  // in the show
+  std::string_view Of = {};  // the first actor's disposition; empty for any
 };
 constexpr AngleTaste kAngleTastes[] = {
     {Scene::Words, 1, First::Actors, 5, kMiddle},   // Challenge
@@ -42,28 +42,25 @@ constexpr AngleTaste kAngleTastes[] = {
     {Scene::Solo, kWorkerVideo, First::Actors, 6, kMiddle},
     {Scene::Solo, 32, First::Actors, 3, kOpens},  // Arrival
     {Scene::Solo, kWalking, First::Actors, 2, kEarly},
-    {Scene::Solo, 44, First::Actors, 3, kEarly},     // Be Prepared
-    {Scene::Solo, 20, First::Actors, 2, kMiddle},    // Star Power
-    {Scene::Allies, 22, First::Actors, 3, kEarly},   // I've Got Your Back
-    {Scene::Allies, 30, First::Actors, 3, kMiddle},  // Conspiracy
-    {Scene::Debut, 25, First::Victims, 5, kLate},    // Debut Attack
-    {Scene::Debut, 24, First::Victims, 4, kLate},    // Debut Call Out
+    {Scene::Solo, 44, First::Actors, 3, kEarly},          // Be Prepared
+    {Scene::Solo, 20, First::Actors, 2, kMiddle},         // Star Power
+    {Scene::Allies, 22, First::Actors, 3, kEarly, "F"},   // I've Got Your Back
+    {Scene::Allies, 30, First::Actors, 3, kMiddle, "H"},  // Conspiracy
+    {Scene::Debut, 25, First::Victims, 5, kLate},         // Debut Attack
+    {Scene::Debut, 24, First::Victims, 4, kLate},         // Debut Call Out
 };
 
-bool IsOffered(const AutoPlan& plan, const Angle& angle) {
-  const Promotion& player = plan.World.Player();
-  return player.Risk > angle.RiskOver && player.Size < angle.SizeUnder &&
-         (!angle.NeedsCommissioner || player.Commissioner != 0) &&
-         (angle.Date.empty() || PlainDate(plan.World.Today()).starts_with(angle.Date));
+bool Suits(const AutoPlan& plan, const AngleTaste& taste, Scene scene, const Worker& actor) {
+  const Angle* angle = FindAngle(taste.Number);
+  return taste.For == scene && (taste.Of.empty() || actor.Disposition == taste.Of) && angle &&
+         IsOffered(plan.World, *angle) && !plan.AnglesUsed.contains(taste.Number);
 }
 
-std::vector<const AngleTaste*> TastesFor(const AutoPlan& plan, Scene scene) {
+std::vector<const AngleTaste*> TastesFor(const AutoPlan& plan, Scene scene, int actor) {
+  const Worker* first = plan.World.FindWorker(actor);
   std::vector<const AngleTaste*> tastes;
   for (const AngleTaste& taste : kAngleTastes)
-    if (const Angle* angle = FindAngle(taste.Number); taste.For == scene && angle &&
-                                                      IsOffered(plan, *angle) &&
-                                                      !plan.AnglesUsed.contains(taste.Number))
-      tastes.push_back(&taste);
+    if (first && Suits(plan, taste, scene, *first)) tastes.push_back(&taste);
   return tastes;
 }
 
@@ -94,7 +91,7 @@ bool BookAngle(AutoPlan& plan, int number, const std::vector<int>& people, int w
 bool BookScene(AutoPlan& plan, Scene scene, const std::vector<int>& actors,
                const std::vector<int>& victims) {
   if (!plan.MayUseAngles) return false;
-  std::vector<const AngleTaste*> tastes = TastesFor(plan, scene);
+  std::vector<const AngleTaste*> tastes = TastesFor(plan, scene, actors[0]);
   while (!tastes.empty()) {
     const AngleTaste* taste = DrawTaste(plan, tastes);
     std::vector<int> people = taste->Cast == First::Actors ? actors : victims;

@@ -17,7 +17,7 @@ struct FinishTaste {
   int Finish;
   char Winner;  // disposition
   bool FeudOnly;
-  bool KeepsTitle;  // a Title would not change hands
+  bool KeepsTitle;  // settles nothing: a Title would not change hands
   int Percent;
 };
 constexpr FinishTaste kFinishTastes[] = {
@@ -34,17 +34,18 @@ constexpr FinishTaste kFinishTastes[] = {
     {kTag, kMiscommunication, kAnyone, false, false, 10},
 };
 
-/// What is tried when the wanted finish is refused, in this order.
+/// What is tried when the wanted finish is refused, in this order. Faces never cheat.
 constexpr FinishTaste kFallbacks[] = {
     {kSingles, kClean, kAnyone, false, false, 100},
     {kSingles, kCheating, 'H', false, false, 100},
     {kSingles, kBotchedInterference, kAnyone, false, false, 100},
     {kSingles, kCountOut, kAnyone, false, true, 100},
+    {kSingles, kCheating, 'T', false, false, 100},
     {kSingles, kInterference, kAnyone, false, false, 100},
-    {kSingles, kCheating, kAnyone, false, false, 100},
     {kTag, kClean, kAnyone, false, false, 100},
     {kTag, kMiscommunication, kAnyone, false, false, 100},
-    {kTag, kCheating, kAnyone, false, false, 100},
+    {kTag, kCheating, 'H', false, false, 100},
+    {kTag, kCheating, 'T', false, false, 100},
     {kTag, kCountOut, kAnyone, false, true, 100},
 };
 
@@ -162,7 +163,7 @@ bool AddEnding(AutoPlan& plan, const Segment& match, const Wish& wish, int finis
 
 bool Suits(const FinishTaste& taste, const Segment& match, char winner, const Wish& wish) {
   return taste.Style == match.Style && Is(taste.Winner, winner) && (wish.Feud || !taste.FeudOnly) &&
-         !(wish.Changes && taste.KeepsTitle);
+         !((wish.Changes || wish.EndsFeud) && taste.KeepsTitle);
 }
 
 int DebutPurpose(const AutoPlan& plan, const Segment& match) {

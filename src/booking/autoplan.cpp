@@ -33,10 +33,6 @@ const Shape& ShapeOf(bool isEvent, int rows) {
   return *best;
 }
 
-bool EnoughWriters(const World& world, bool isEvent) {
-  return PlayerWriters(world) >= WritersNeeded(isEvent ? 0 : PlayerShows(world));
-}
-
 std::vector<Segment> SheetOf(const World& world, int openRows) {
   std::vector<Segment> rows(static_cast<std::size_t>(openRows), EmptySegment());
   for (int row = 1; row <= std::min(openRows, world.Segments().Count()); ++row)

@@ -35,6 +35,7 @@ struct AutoPlan {
   std::set<int> FeudsUsed;   // slots
   std::set<int> AnglesUsed;  // numbers
   int Gimmicks = 0;
+  int TitleChanges = 0;
 
   bool WantsMatch() const { return static_cast<int>(Matches.size()) < MatchesWanted; }
   bool WantsTalk() const { return static_cast<int>(Talks.size()) < TalksWanted; }

@@ -28,12 +28,11 @@ int Counted(const AutoPlan& plan, int kind = kEmptySegment) {
   return count;
 }
 
-/// The dark match may be left out; it is when the show proper needs everything there is, as long
-/// as there is a row for it.
+/// The dark match is left out when the show proper needs everything there is.
 bool WantsDarkMatch(const AutoPlan& plan) {
   if (!plan.View.IsEvent || plan.Rows[kDarkMatch].Kind != kEmptySegment || plan.Matches.empty())
     return false;
-  if (plan.RowsLeft() == 0) return true;
+  if (plan.RowsLeft() == 0 && plan.Talks.empty()) return true;
   const int matches = static_cast<int>(plan.Matches.size()) - 1;
   const int talks = static_cast<int>(plan.Talks.size());
   return Counted(plan, kMatch) + matches >= plan.LeastMatches &&
@@ -51,6 +50,13 @@ void PlaceDarkMatch(AutoPlan& plan) {
   if (dark == plan.Matches.end()) dark = plan.Matches.begin();
   plan.Rows[kDarkMatch] = dark->Segment;
   plan.Matches.erase(dark);
+}
+
+/// Without a dark match its row stays empty, and there may be one Segment too many: the last of the
+/// talk.
+void DropWhatHasNoRow(AutoPlan& plan) {
+  const bool empty = plan.View.IsEvent && plan.Rows[kDarkMatch].Kind == kEmptySegment;
+  if (empty && plan.RowsLeft() == 0 && !plan.Talks.empty()) plan.Talks.pop_back();
 }
 
 /// Which of `count` places are talk: spread out, never the last. A show opens with talk when it has
@@ -97,7 +103,10 @@ void PlaceOnRows(AutoPlan& plan) {
   SortByWeight(plan.Matches);
   SortByWeight(plan.Talks);
   const bool dark = WantsDarkMatch(plan);
-  if (dark) PlaceDarkMatch(plan);
+  if (dark)
+    PlaceDarkMatch(plan);
+  else
+    DropWhatHasNoRow(plan);
   const auto count = plan.Matches.size() + plan.Talks.size();
   const std::vector<bool> isTalk =
       TalkPlaces(static_cast<int>(count), static_cast<int>(plan.Talks.size()), plan.View.IsEvent);

@@ -17,8 +17,9 @@ struct ChangeOdds {
   int AtEvent;  // in a hundred
   int OnShow;
 };
-constexpr ChangeOdds kChangeOdds[] = {
-    {28, 5, 2}, {60, 25, 5}, {120, 45, 10}, {200, 60, 20}, {100000, 80, 35}};
+constexpr ChangeOdds kChangeOdds[] = {{28, 3, 1}, {60, 20, 4}, {120, 38, 8}, {100000, 48, 15}};
+/// A show that changes everything changes nothing.
+constexpr int kMostChanges = 2;
 
 constexpr int kSettled = 14;   // days before a new champion defends on a show
 constexpr int kTopChance = 5;  // of the top Title on one of the week's shows
@@ -28,6 +29,10 @@ constexpr int kBigShowRows = 8;  // from here on a show has room for two Titles
 constexpr int kFeudsForIt = 60;
 constexpr int kNeedNotRise = 20;  // a contender this far below the champion is none
 constexpr int kHasGold = 12;
+/// His own enemy is waiting for him.
+constexpr int kFeudsElsewhere = 40;
+/// So far above a Title's champion, one has better to do than to chase it.
+constexpr int kBeneathHim = 8;
 
 int DaysHeld(const World& world, const Title& title) {
   return std::max(0, static_cast<int>((world.Today() - Day(title.Reigns[0].Won)).count()));
@@ -70,14 +75,29 @@ bool HoldsATitle(const AutoPlan& plan, const Worker& worker) {
   });
 }
 
+/// In a feud that tonight has done nothing for yet.
+bool HasOpenFeud(const AutoPlan& plan, const Worker& worker) {
+  int slot = 0;
+  for (const Feud& feud : plan.World.Feuds()) {
+    ++slot;
+    if (IsFreeSlot(feud) || plan.FeudsUsed.contains(slot)) continue;
+    const FeudSides sides = SidesOf(feud);
+    if (sides.One.Has(worker.Uid) || sides.Two.Has(worker.Uid)) return true;
+  }
+  return false;
+}
+
 int ContenderScore(AutoPlan& plan, const Worker& champion, const Worker& contender) {
   int score = PairScore(plan, champion, contender);
   if (score <= kNoPair) return score;
   score += contender.Over / 2;
-  if (FeudExists(plan.World, champion.Uid, contender.Uid)) score += kFeudsForIt;
   if (HoldsATitle(plan, contender)) score -= kHasGold;
+  if (FeudExists(plan.World, champion.Uid, contender.Uid))
+    score += kFeudsForIt;
+  else if (HasOpenFeud(plan, contender))
+    score -= kFeudsElsewhere;
   if (champion.Over - contender.Over > kNeedNotRise) score -= kNeedNotRise;
-  return score;
+  return score - 2 * std::max(0, contender.Over - champion.Over - kBeneathHim);
 }
 
 std::vector<const Worker*> ContendersFor(AutoPlan& plan, const Title& title,
@@ -113,7 +133,9 @@ bool BookDefence(AutoPlan& plan, const Segment& match, int champion, int challen
     wish.Firm = true;
     wish.Changes = changes;
     wish.Feud = feud;
-    if (BookMatch(plan, match, wish)) return true;
+    if (!BookMatch(plan, match, wish)) continue;
+    plan.TitleChanges += changes;
+    return true;
   }
   return false;
 }
@@ -201,7 +223,8 @@ bool BookTagTitle(AutoPlan& plan, const Title& title, bool change) {
 }
 
 bool BookTitle(AutoPlan& plan, const Title& title) {
-  const bool change = title.Holder != 0 && DrawChange(plan, title);
+  const bool change =
+      title.Holder != 0 && DrawChange(plan, title) && plan.TitleChanges < kMostChanges;
   if (!title.Singles) return BookTagTitle(plan, title, change);
   if (title.Holder == 0) return FillVacancy(plan, title);
   const Worker* champion = plan.World.FindWorker(title.Holder);
