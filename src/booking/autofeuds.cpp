@@ -19,6 +19,7 @@ constexpr int kEvenFeud = 8, kEvenGap = 1, kEvenDays = 42;
 /// Nobody cares any more, or has for too long.
 constexpr int kNoticed = 4, kCold = 20, kDragsOn = 150;
 constexpr int kMatchOnShow = 45;
+constexpr int kAttacks = 40;
 /// Losing the last bout to somebody this far below is a grievance.
 constexpr int kEndGap = 10;
 constexpr int kPerMan = 2;
@@ -107,6 +108,12 @@ bool BookBout(AutoPlan& plan, const Feud& feud) {
   return BookMatch(plan, FeudBout(plan, feud, false), wish);
 }
 
+/// Nobody is carried out and wrestles all the same.
+bool MayBeAttacked(const AutoPlan& plan, const std::vector<int>& victims) {
+  return std::none_of(victims.begin(), victims.end(),
+                      [&](int uid) { return plan.Pool.Wrestles(uid); });
+}
+
 /// The heels do the attacking; among equals whoever is behind.
 bool BookWords(AutoPlan& plan, const Feud& feud) {
   if (!plan.WantsTalk()) return false;
@@ -118,10 +125,12 @@ bool BookWords(AutoPlan& plan, const Feud& feud) {
                          others = Members(oneActs ? sides.Two : sides.One);
   const bool team = sides.One.IsTeam();
   const Scene attack = team ? Scene::TeamAttack : Scene::Attack;
-  if (Chance(plan.World, 40) && BookScene(plan, attack, actors, others)) return true;
+  if (Chance(plan.World, kAttacks) && MayBeAttacked(plan, others) &&
+      BookScene(plan, attack, actors, others))
+    return true;
   return BookTalkBetween(plan, actors, others, kTalkContinueFeud) ||
          BookTalkBetween(plan, others, actors, kTalkContinueFeud) ||
-         BookScene(plan, attack, actors, others);
+         BookScene(plan, team ? Scene::TeamWords : Scene::Words, actors, others);
 }
 
 /// Slots that something can be done about tonight, the hottest first.
