@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include "calendar/advanceday.h"
@@ -7,6 +8,7 @@
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "show/holdshow.h"
 #include "ui/acts.h"
 #include "ui/waiting.h"
 
@@ -174,6 +176,8 @@ class frmMainScreen : public ui::Screen {
   /// What stops the game until the player has dealt with it. Such a screen opens once its room has
   /// it.
   void OpenWhatWaits() {
+    if (ShowUnderWay(world()))
+      return OpenIfKnown(ShowIsClosed(world()) ? "frmPostShow" : "frmMatchOutput");
     const int endCode = world().Game().EndCode;
     if (endCode >= 1 && endCode <= 9) return OpenIfKnown("frmTheEnd");
     if (endCode == 100) return OpenIfKnown("frmPinky");
@@ -181,7 +185,10 @@ class frmMainScreen : public ui::Screen {
   }
 
   void OpenIfKnown(const char* screen) {
-    if (desk().Knows(screen)) desk().Open(screen);
+    const auto isThere = [&](const auto& open) { return open->Name() == screen; };
+    const auto& screens = desk().Screens();
+    if (desk().Knows(screen) && std::none_of(screens.begin(), screens.end(), isThere))
+      desk().Open(screen);
   }
 
   void cmdnext_Click() {

@@ -1,17 +1,47 @@
 #include "desktop/choiceviews.h"
 
-#include <QAbstractItemView>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 #include "desktop/letters.h"
+#include "desktop/look.h"
+#include "desktop/palette.h"
 #include "ui/acts.h"
 
 namespace grapplemont::desktop {
+
+namespace {
+
+/// The rows of a combo box's list.
+class Choices : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    const Colours& c = ColoursOf(option.palette);
+    const bool lit = option.state.testFlag(QStyle::State_Selected);
+    painter->save();
+    painter->fillRect(option.rect, lit ? c.Hover : c.Field);
+    painter->setFont(TextFont());
+    painter->setPen(c.Text);
+    painter->drawText(option.rect.adjusted(Px(10), 0, -Px(10), 0), Qt::AlignVCenter,
+                      index.data().toString());
+    painter->restore();
+  }
+  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const override {
+    const int words = QFontMetrics(TextFont()).horizontalAdvance(index.data().toString());
+    return {words + Px(24), Px(28)};
+  }
+};
+
+}  // namespace
 
 ComboView::ComboView(ui::ComboBox& combo, Stage& stage, QWidget* parent)
     : QComboBox(parent), ControlView(combo, stage), combo_(combo) {
   setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
   setMaxVisibleItems(18);
+  setItemDelegate(new Choices(this));
   setMinimumContentsLength(8);
   setFocusPolicy(Qt::StrongFocus);
   connect(this, &QComboBox::activated, this, [this](int row) {

@@ -57,10 +57,10 @@ int Fit(const QString& words, const QString& letters) {
 }  // namespace
 
 Finder::Finder(QWidget* ground, std::vector<Entry> entries)
-    : Veil(ground),
-      entries_(std::move(entries)),
-      line_(new QLineEdit(&Sheet())),
-      list_(new QListWidget(&Sheet())) {
+    : Veil(ground), entries_(std::move(entries)) {
+  // The veil filters events from the first child on: until then both are known to be none.
+  line_ = new QLineEdit(&Sheet());
+  list_ = new QListWidget(&Sheet());
   setObjectName("finder");
   SetAtTop();
   SetWanted({560, 400});

@@ -30,8 +30,8 @@ class Finder : public Veil {
   void Finish(const Entry* chosen);
 
   std::vector<Entry> entries_;
-  QLineEdit* line_;
-  QListWidget* list_;
+  QLineEdit* line_ = nullptr;
+  QListWidget* list_ = nullptr;
   bool done_ = false;
 };
 

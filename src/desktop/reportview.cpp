@@ -97,8 +97,10 @@ void ReportView::keyPressEvent(QKeyEvent* event) {
       return bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
     case Qt::Key_Up:
       return bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
-    case Qt::Key_PageDown:
     case Qt::Key_Space:
+      if (bar->value() >= bar->maximum()) return event->ignore();  // read to its end
+      return bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+    case Qt::Key_PageDown:
       return bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
     case Qt::Key_PageUp:
       return bar->triggerAction(QAbstractSlider::SliderPageStepSub);

@@ -298,6 +298,8 @@ bool ScreenView::Press(ui::Button* button) {
 
 bool ScreenView::HandleKey(int key) {
   if (key == Qt::Key_Return || key == Qt::Key_Enter) return Press(page_.Main);
+  // Where there is only one way to go, the space bar turns the page as well.
+  if (key == Qt::Key_Space && !page_.Cancel) return Press(page_.Main);
   return key == Qt::Key_Escape && Press(page_.Cancel);
 }
 

@@ -30,8 +30,10 @@ QString SearchHint(const ui::ListBox& list) {
     const ui::Column& column = list.Columns()[i];
     const bool number =
         column.Kind == ui::ColumnKind::Number || column.Kind == ui::ColumnKind::Percent;
-    const bool plain = list.Count() == 0 || i >= list.Rows().front().Cells.size() ||
-                       list.Rows().front().Cells[i].Text.find('/') == std::string::npos;
+    // A date is a number to the table, but nobody would look for one by its size.
+    const bool plain =
+        list.Count() == 0 || i >= list.Rows().front().Cells.size() ||
+        list.Rows().front().Cells[i].Text.find_first_not_of("0123456789%") == std::string::npos;
     if (number && plain && !column.Title.empty())
       return "Filter: a word, " + Shown(column.Title) + " >60\u2026";
   }

@@ -4,12 +4,14 @@
 #include "calendar/calendarscreens.h"
 #include "info/infoscreens.h"
 #include "session/sessionscreens.h"
+#include "show/showscreens.h"
 #include "storylines/storyscreens.h"
 
 namespace grapplemont {
 
 void RegisterScreens(Game& game) {
   RegisterStoryScreens(game);
+  RegisterShowScreens(game);
   RegisterBookingScreens(game);
   RegisterCalendarScreens(game);
   RegisterInfoScreens(game);

@@ -16,6 +16,12 @@ struct CommentaryTeam {
 
 /// The player's television show of today, the first in the file; nullptr for none.
 const Show* ShowOfToday(const World& world);
+/// The player's Event of this month; nullptr for none.
+const Event* EventOfToday(const World& world);
+/// What the show is called; empty when there is none.
+std::string ShowName(const World& world, bool isEvent);
+/// How many records of match.dat a sheet has.
+int RowsOf(bool isEvent);
 /// The commentators of the player's television show of today.
 CommentaryTeam TvTeam(const World& world);
 /// "Bram Okafor" and so on; "None" for nobody.
@@ -27,7 +33,8 @@ std::string ColourName(const World& world, const CommentaryTeam& team);
 void StartShow(World& world, bool isEvent, const CommentaryTeam& team);
 /// Adds an Event's extra to the sum.
 void AddExtraBonus(World& world, int bonus);
-bool ShowIsUnderWay(const World& world);
+/// The show under way or just closed; nullptr for none.
+const ShowRun* ShowUnderWay(const World& world);
 bool ShowIsClosed(const World& world);
 
 /// The record of match.dat that comes next; 0 when the show is over.

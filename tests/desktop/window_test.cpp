@@ -8,6 +8,16 @@
 namespace grapplemont::test {
 namespace {
 
+class WaitingScreen : public ui::Screen {
+ public:
+  explicit WaitingScreen(ui::Desk& desk) : Screen(desk, "frmWaits", "Wait", ui::Role::Wait) {}
+  ui::Page Layout() override { return {}; }
+
+ private:
+  ui::Picture imgwait{*this, "imgwait", "VXM_load1.jpg"};
+  ui::Label lblstep{*this, "lblstep", "Step"};
+};
+
 class TheWindow : public testing::Test {
  protected:
   TheWindow() {
@@ -193,6 +203,31 @@ TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
   Play.Key(Qt::Key_Escape);
   EXPECT_FALSE(Play.Sees("finder"));
   EXPECT_EQ(Top(), "frmPeople");
+}
+
+TEST_F(TheWindow, ShowsAWaitingScreenAndTakesNoKeysAmidALongEvent) {
+  const auto work = [&] {
+    Play.Desk.Open(std::make_unique<WaitingScreen>(Play.Desk));
+    QApplication::postEvent(&Play.Window, new QKeyEvent(QEvent::KeyPress, Qt::Key_Return, {}));
+    QApplication::postEvent(Play.See("cmdnext"),
+                            new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, {}));
+    EXPECT_FALSE(Play.Sees("frmWaits")) << "who has hardly waited sees no picture";
+    for (int step = 0; step < 1000 && !Play.Sees("frmWaits"); ++step) {
+      QTest::qSleep(10);
+      Play.Desk.Repaint();
+    }
+    EXPECT_TRUE(Play.Sees("frmWaits"));
+    EXPECT_TRUE(Play.Sees("lblstep"));
+    Play.Desk.Close(*Play.Desk.Top());
+  };
+  Play.Window.Act([&] {
+    Play.Desk.Event(work);
+    return std::string();
+  });
+  QApplication::processEvents();
+  EXPECT_EQ(Notes, Log({"hub again"}));
+  EXPECT_TRUE(Play.Sees("cmdnext"));
+  EXPECT_FALSE(Play.Sees("frmWaits"));
 }
 
 TEST_F(TheWindow, EndsWhenNothingLiesOnTheDesk) {

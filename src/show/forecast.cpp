@@ -1,0 +1,150 @@
+#include "show/forecast.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "records/segments.h"
+#include "show/charges.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kRehearsals = 12;
+constexpr std::uint64_t kSeed = 20260301;
+constexpr int kTired = 60;
+constexpr int kTooOften = 3;
+
+/// What a road agent's note foretells when it comes in half of the rehearsals.
+struct Omen {
+  std::string_view Note;
+  std::string_view Warning;
+};
+constexpr Omen kOmens[] = {
+    {"the crowd were still pumped up", "the crowd will still be spent from the match before"},
+    {"The crowd were confused", "a Title match without its champion confuses the crowd"},
+    {"no-sold everything", "somebody who must sell will not"},
+};
+
+/// A world to try a show in: as often as one likes from the same beginning.
+class Stage {
+ public:
+  explicit Stage(const World& world)
+      : world_(std::make_unique<SeededDraws>(kSeed), std::make_unique<SeededDraws>(kSeed)) {
+    std::map<std::string, Bytes> files;
+    for (NewFile& file : FilesOf(world)) files.emplace(file.Name, std::move(file.Contents));
+    world_.Load(files);
+    world_.Session = world.Session;
+    world_.MarkCommitted();
+  }
+  World& Begin() {
+    world_.Rollback();
+    return world_;
+  }
+
+ private:
+  World world_;
+};
+
+void Widen(Forecast& range, int value, bool first) {
+  range.Low = first ? value : std::min(range.Low, value);
+  range.High = first ? value : std::max(range.High, value);
+}
+
+/// Rehearses the show again and again and gathers what comes out.
+class Rehearsals {
+ public:
+  Rehearsals(const World& world, bool isEvent, const CommentaryTeam& team)
+      : stage_(world), isEvent_(isEvent), team_(team) {
+    forecast_.Rows.resize(static_cast<std::size_t>(RowsOf(isEvent)));
+  }
+
+  ShowForecast Hold() {
+    for (int turn = 0; turn < kRehearsals; ++turn) HoldOne(turn == 0);
+    for (const auto& [omen, times] : omens_)
+      if (times * 2 >= kRehearsals)
+        forecast_.Warnings.push_back("Row " + std::to_string(omen.first) + ": " +
+                                     std::string(kOmens[omen.second].Warning) + ".");
+    return std::move(forecast_);
+  }
+
+ private:
+  void HoldOne(bool first) {
+    World& world = stage_.Begin();
+    StartShow(world, isEvent_, team_);
+    world.ShowRuns()[1].FlatNight = false;  // one night in eight; a forecast tells of the others
+    while (const int number = NextSegment(world)) {
+      const ToldSegment told = RunNextSegment(world, nullptr);
+      Widen(forecast_.Rows[static_cast<std::size_t>(number - 1)], told.Overall, first);
+      NoteOmens(number, told.Notes);
+    }
+    Widen(forecast_.Rating, CloseShow(world), first);
+  }
+
+  void NoteOmens(int number, std::string_view notes) {
+    for (std::size_t omen = 0; omen < std::size(kOmens); ++omen)
+      if (notes.find(kOmens[omen].Note) != std::string_view::npos) ++omens_[{number, omen}];
+  }
+
+  Stage stage_;
+  bool isEvent_;
+  CommentaryTeam team_;
+  ShowForecast forecast_;
+  std::map<std::pair<int, std::size_t>, int> omens_;
+};
+
+bool IsAnythingBooked(const World& world, bool isEvent) {
+  for (int number = 1; number <= std::min(RowsOf(isEvent), world.Segments().Count()); ++number)
+    if (world.Segments()[number].Kind != kEmptySegment) return true;
+  return false;
+}
+
+void WarnOfTable(const World& world, const CommentaryTeam& team,
+                 std::vector<std::string>& warnings) {
+  if (!world.FindStaff(team.Announcer))
+    warnings.emplace_back("There is no announcer.");
+  else if (WithAnnouncer(world, team.Announcer, 0) < 0)
+    warnings.push_back(AnnouncerName(world, team) + " is no announcer for a show of this size.");
+  if (ColourName(world, team) == "None")
+    warnings.emplace_back("There is no colour commentator.");
+  else if (WithColour(world, team.Colour, team.ColourIsWorker, 0) < 0)
+    warnings.push_back(ColourName(world, team) +
+                       " is no colour commentator for a show of this size.");
+  if (ProductionCharge(world.Player()) < 0)
+    warnings.emplace_back("The production is too poor for a promotion of this size.");
+}
+
+/// Each worker of the card once, in the order of the file, with what speaks against him.
+void WarnOfWorkers(const World& world, bool isEvent, std::vector<std::string>& warnings) {
+  std::map<int, int> seen;
+  for (int number = 1; number <= std::min(RowsOf(isEvent), world.Segments().Count()); ++number) {
+    const Segment& segment = world.Segments()[number];
+    const std::vector<int> people = PeopleOf(segment);
+    if (segment.Kind == kMatch || segment.Kind == kAngle)
+      for (const int uid : std::set<int>(people.begin(), people.end())) ++seen[uid];
+  }
+  for (const Worker& worker : world.Workers()) {
+    const auto found = seen.find(worker.Uid);
+    if (found == seen.end() || worker.Uid == 0) continue;
+    if (worker.Condition < kTired)
+      warnings.push_back(worker.Name + " is tired (condition " + std::to_string(worker.Condition) +
+                         "%).");
+    if (found->second >= kTooOften)
+      warnings.push_back(worker.Name + " is on the card " + std::to_string(found->second) +
+                         " times: the fans tire of that.");
+  }
+}
+
+}  // namespace
+
+ShowForecast ForecastShow(const World& world, bool isEvent, const CommentaryTeam& team) {
+  ShowForecast forecast;
+  forecast.Rows.resize(static_cast<std::size_t>(RowsOf(isEvent)));
+  if (IsAnythingBooked(world, isEvent)) forecast = Rehearsals(world, isEvent, team).Hold();
+  WarnOfTable(world, team, forecast.Warnings);
+  WarnOfWorkers(world, isEvent, forecast.Warnings);
+  return forecast;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,88 @@
+#include "show/recap.h"
+
+#include <algorithm>
+
+#include "records/segments.h"
+#include "show/holdshow.h"
+
+namespace grapplemont {
+
+namespace {
+
+std::string Signed(int number) {
+  return (number > 0 ? "+" : "") + std::to_string(number);
+}
+
+std::string Rated(const RecapLine& line) {
+  return line.What + ", " + std::to_string(line.Rating) + "%";
+}
+
+/// An Event's first row is the dark match: it is rated and counts for nothing.
+bool Counts(const ShowRun& run, const RecapLine& line) {
+  return !run.IsEvent || line.Number != 1;
+}
+
+void AddIfAny(std::vector<ScoreStep>& sum, const char* why, int change) {
+  if (change != 0) sum.push_back({why, change});
+}
+
+std::vector<ScoreStep> SumOf(const ShowRun& run, const ShowRecap& recap) {
+  std::vector<ScoreStep> sum;
+  int ratings = 0;
+  for (const RecapLine& line : recap.Lines)
+    if (Counts(run, line)) ratings += line.Rating;
+  AddIfAny(sum, "The announcer", run.AnnouncerCharge);
+  AddIfAny(sum, "The colour commentator", run.ColourCharge);
+  AddIfAny(sum, "The extra of the Event", run.ExtraBonus);
+  AddIfAny(sum, "The Segments", ratings);
+  AddIfAny(sum, "The closing Segment once more", run.LastOverall);
+  AddIfAny(sum, "Poor production", run.ProductionCharge);
+  int total = 0;
+  for (const ScoreStep& step : sum) total += step.Change;
+  sum.push_back({"Together", total});
+  sum.push_back({"Over " + std::to_string(run.ShowSegments) + " ratings", run.ShowSum});
+  return sum;
+}
+
+}  // namespace
+
+RatingsSoFar RatingsOfShow(const World& world) {
+  RatingsSoFar ratings;
+  const ShowRun& run = *ShowUnderWay(world);
+  for (int number = 1; number <= std::min(int(run.Current), world.Segments().Count()); ++number) {
+    if (world.Segments()[number].Kind == kEmptySegment) continue;
+    ratings.Rows.push_back(std::to_string(number));
+    ratings.Values.push_back(world.Segments()[number].Rating);
+  }
+  return ratings;
+}
+
+ShowRecap RecapOf(const World& world) {
+  const ShowRun& run = *ShowUnderWay(world);
+  ShowRecap recap;
+  recap.Rating = run.ShowSum;
+  for (int number = 1; number <= std::min(RowsOf(run.IsEvent), world.Segments().Count()); ++number)
+    if (const Segment& segment = world.Segments()[number]; segment.Kind != kEmptySegment)
+      recap.Lines.push_back({number, DescribeSegment(world, segment), segment.Rating});
+  const auto byRating = [](const RecapLine& a, const RecapLine& b) { return a.Rating < b.Rating; };
+  if (const auto [worst, best] =
+          std::minmax_element(recap.Lines.begin(), recap.Lines.end(), byRating);
+      worst != recap.Lines.end()) {
+    recap.Best = Rated(*best);
+    recap.Worst = Rated(*worst);
+  }
+  recap.Sum = SumOf(run, recap);
+  return recap;
+}
+
+std::string WhyText(std::string_view caption, const Score& score) {
+  std::string text = std::string(caption) + " " + std::to_string(score) + " =";
+  bool first = true;
+  for (const ScoreStep& step : score.Steps()) {
+    text += "\n" + (first ? std::to_string(step.Change) : Signed(step.Change)) + " " + step.Why;
+    first = false;
+  }
+  return text;
+}
+
+}  // namespace grapplemont
