@@ -64,6 +64,10 @@ std::vector<const AngleTaste*> TastesFor(const AutoPlan& plan, Scene scene, int 
   return tastes;
 }
 
+bool LaysOut(Scene scene) {
+  return scene == Scene::Attack || scene == Scene::TeamAttack;
+}
+
 /// Takes one out of the list by its weight.
 const AngleTaste* DrawTaste(AutoPlan& plan, std::vector<const AngleTaste*>& tastes) {
   int total = 0;
@@ -96,7 +100,10 @@ bool BookScene(AutoPlan& plan, Scene scene, const std::vector<int>& actors,
     const AngleTaste* taste = DrawTaste(plan, tastes);
     std::vector<int> people = taste->Cast == First::Actors ? actors : victims;
     for (const int uid : taste->Cast == First::Actors ? victims : actors) people.push_back(uid);
-    if (BookAngle(plan, taste->Number, people, taste->When)) return true;
+    if (!BookAngle(plan, taste->Number, people, taste->When)) continue;
+    if (LaysOut(scene))
+      for (const int uid : victims) plan.Pool.Rest(uid);
+    return true;
   }
   return false;
 }

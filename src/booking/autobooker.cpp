@@ -10,9 +10,9 @@ namespace {
 
 // What cannot wait comes first, so that the people it needs are still free; what only fills rows
 // comes last.
-constexpr void (*kSteps[])(AutoPlan&) = {DefendTitles,       AdvanceFeuds, TurnWhoWaits,
-                                         IntroduceNewcomers, BookTeams,    BookCrowds,
-                                         FillMatches};
+constexpr void (*kSteps[])(AutoPlan&) = {EndFeuds,     DefendTitles,       AdvanceFeuds,
+                                         TurnWhoWaits, IntroduceNewcomers, BookTeams,
+                                         BookCrowds,   FillMatches};
 
 int Booked(const AutoPlan& plan, bool matchesOnly) {
   const bool dark = plan.View.IsEvent;

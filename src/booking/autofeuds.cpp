@@ -18,7 +18,8 @@ constexpr int kLongFeud = 14;
 constexpr int kEvenFeud = 8, kEvenGap = 1, kEvenDays = 42;
 /// Nobody cares any more, or has for too long.
 constexpr int kNoticed = 4, kCold = 20, kDragsOn = 150;
-constexpr int kMatchOnShow = 45;
+constexpr int kMatchOnShow = 35;
+constexpr int kAttacks = 40;
 /// Losing the last bout to somebody this far below is a grievance.
 constexpr int kEndGap = 10;
 constexpr int kPerMan = 2;
@@ -53,11 +54,16 @@ bool IsRipe(const World& world, const Feud& feud) {
   return total >= kNoticed && (feud.Heat < kCold || days >= kDragsOn);
 }
 
-/// Side one or two: who should win next. The last bout goes to whoever is behind, level to the
-/// good; on the way there the heels are ahead by one.
+/// What has been won in the ring.
+FeudScore RingWins(const Feud& feud) {
+  return {feud.Clean1 + feud.Dirty1, feud.Clean2 + feud.Dirty2};
+}
+
+/// Who should win next, side one or two: whoever is behind. The last bout goes by all that has
+/// happened, and by the good where they are level; on the way there the heels lead.
 bool SideOneIsNext(AutoPlan& plan, const Feud& feud, bool last) {
   const FeudSides sides = SidesOf(feud);
-  const FeudScore score = FeudWins(feud);
+  const FeudScore score = last ? FeudWins(feud) : RingWins(feud);
   if (score.One != score.Two) return score.One < score.Two;
   const bool heel = IsHeel(plan, sides.One);
   if (heel == IsHeel(plan, sides.Two)) return Chance(plan.World, 50);
@@ -79,8 +85,22 @@ Segment FeudBout(AutoPlan& plan, const Feud& feud, bool last) {
   return NewMatch(kSingles, SinglesTypeFor(plan, people, heat, last), people);
 }
 
+/// The Title that one of the match's people holds and all may fight for; "None" for none.
+std::string TitleBetween(const AutoPlan& plan, const Segment& match) {
+  for (const Title* title : OfferedTitles(plan.World, match)) {
+    const bool here = TakesPart(match, title->Holder) &&
+                      (title->Singles || PartnerOf(match, title->Holder) == title->Partner);
+    if (here && !plan.TitlesUsed.contains(title->Name.Str())) return title->Name.Str();
+  }
+  return "None";
+}
+
 bool BookBlowOff(AutoPlan& plan, const Feud& feud) {
   const FeudSides sides = SidesOf(feud);
+  if (!plan.Pool.MayWrestle(Members(sides.One)) || !plan.Pool.MayWrestle(Members(sides.Two)))
+    return false;
+  Segment match = FeudBout(plan, feud, true);
+  match.TitleName = TitleBetween(plan, match);
   const bool one = SideOneIsNext(plan, feud, true);
   for (const bool oneWins : {one, !one}) {
     const FeudSide &winner = oneWins ? sides.One : sides.Two,
@@ -89,7 +109,7 @@ bool BookBlowOff(AutoPlan& plan, const Feud& feud) {
     Wish wish;
     wish.Favoured = winner.First;
     wish.Firm = wish.Feud = wish.EndsFeud = true;
-    if (BookMatch(plan, FeudBout(plan, feud, true), wish)) return true;
+    if (BookMatch(plan, match, wish)) return true;
   }
   return false;
 }
@@ -99,12 +119,17 @@ bool BookBout(AutoPlan& plan, const Feud& feud) {
   const FeudSides sides = SidesOf(feud);
   if (!plan.Pool.MayWrestle(Members(sides.One)) || !plan.Pool.MayWrestle(Members(sides.Two)))
     return false;
-  if (plan.View.IsEvent && IsRipe(plan.World, feud) && BookBlowOff(plan, feud)) return true;
   Wish wish;
   wish.Feud = true;
   wish.MayDraw = !plan.View.IsEvent;
   wish.Favoured = SideOneIsNext(plan, feud, false) ? sides.One.First : sides.Two.First;
   return BookMatch(plan, FeudBout(plan, feud, false), wish);
+}
+
+/// Nobody is carried out and wrestles all the same.
+bool MayBeAttacked(const AutoPlan& plan, const std::vector<int>& victims) {
+  return std::none_of(victims.begin(), victims.end(),
+                      [&](int uid) { return plan.Pool.Wrestles(uid); });
 }
 
 /// The heels do the attacking; among equals whoever is behind.
@@ -118,10 +143,12 @@ bool BookWords(AutoPlan& plan, const Feud& feud) {
                          others = Members(oneActs ? sides.Two : sides.One);
   const bool team = sides.One.IsTeam();
   const Scene attack = team ? Scene::TeamAttack : Scene::Attack;
-  if (Chance(plan.World, 40) && BookScene(plan, attack, actors, others)) return true;
+  if (Chance(plan.World, kAttacks) && MayBeAttacked(plan, others) &&
+      BookScene(plan, attack, actors, others))
+    return true;
   return BookTalkBetween(plan, actors, others, kTalkContinueFeud) ||
          BookTalkBetween(plan, others, actors, kTalkContinueFeud) ||
-         BookScene(plan, attack, actors, others);
+         BookScene(plan, team ? Scene::TeamWords : Scene::Words, actors, others);
 }
 
 /// Slots that something can be done about tonight, the hottest first.
@@ -142,6 +169,17 @@ std::vector<int> OpenFeuds(const AutoPlan& plan) {
 }
 
 }  // namespace
+
+void EndFeuds(AutoPlan& plan) {
+  if (!plan.View.IsEvent) return;
+  plan.Pool.Reach(kForTheOccasion);
+  for (const int slot : OpenFeuds(plan)) {
+    const Feud& feud = plan.World.Feuds()[slot];
+    if (plan.WantsMatch() && !plan.FeudsUsed.contains(slot) && IsRipe(plan.World, feud))
+      BookBlowOff(plan, feud);
+  }
+  plan.Pool.Reach(kReserves[0]);
+}
 
 void AdvanceFeuds(AutoPlan& plan) {
   plan.Pool.Reach(plan.View.IsEvent ? kForTheOccasion : kReserves[0]);

@@ -4,6 +4,7 @@
 #include "booking/autotalk.h"
 #include "records/angles.h"
 #include "show/scoring.h"
+#include "storylines/feuds.h"
 
 // Interviews and angles for their own sake: champions, stars, what the people came to see.
 
@@ -64,13 +65,20 @@ const Worker* OpponentTonight(const AutoPlan& plan, const Worker& speaker) {
   return nullptr;
 }
 
+/// Between enemies it is about their feud, whatever it is for.
+bool TalkAbout(AutoPlan& plan, const Worker& speaker, const Worker& target, int purpose) {
+  const bool feud = FeudExists(plan.World, speaker.Uid, target.Uid);
+  return BookTalkBetween(plan, {speaker.Uid}, {target.Uid},
+                         feud ? int(kTalkContinueFeud) : purpose);
+}
+
 bool Interview(AutoPlan& plan, const Worker& speaker) {
   if (!speaker.Speaks) return false;
-  if (const Worker* opponent = OpponentTonight(plan, speaker))
-    if (BookTalkBetween(plan, {speaker.Uid}, {opponent->Uid}, kHypeMatch)) return true;
+  const Worker* opponent = OpponentTonight(plan, speaker);
+  if (opponent && TalkAbout(plan, speaker, *opponent, kHypeMatch)) return true;
   const Worker* rival = RivalOf(plan, speaker);
   const int purpose = speaker.Disposition == "F" ? kHypeMatch : kVerbalAttack;
-  if (rival && BookTalkBetween(plan, {speaker.Uid}, {rival->Uid}, purpose)) return true;
+  if (rival && TalkAbout(plan, speaker, *rival, purpose)) return true;
   return BookTalkBetween(plan, {speaker.Uid}, {}, kSelfPromotion);
 }
 

@@ -38,8 +38,9 @@ constexpr FinishTaste kFinishTastes[] = {
 constexpr FinishTaste kFallbacks[] = {
     {kSingles, kClean, kAnyone, false, false, 100},
     {kSingles, kCheating, 'H', false, false, 100},
-    {kSingles, kBotchedInterference, kAnyone, false, false, 100},
+    {kSingles, kBotchedInterference, kAnyone, false, false, 50},
     {kSingles, kCountOut, kAnyone, false, true, 100},
+    {kSingles, kBotchedInterference, kAnyone, false, false, 100},
     {kSingles, kCheating, 'T', false, false, 100},
     {kSingles, kInterference, kAnyone, false, false, 100},
     {kTag, kClean, kAnyone, false, false, 100},
@@ -192,11 +193,12 @@ std::vector<Ending> EndingsOf(AutoPlan& plan, const Segment& match, const Wish& 
   std::vector<Ending> endings;
   if (!wish.EndsFeud)
     for (const FinishTaste& taste : kFinishTastes)
-      if (Suits(taste, match, winner, wish) && Chance(plan.World, taste.Percent) &&
-          AddEnding(plan, match, wish, taste.Finish, endings))
+      if (Suits(taste, match, winner, wish) && !(taste.KeepsTitle && plan.View.IsEvent) &&
+          Chance(plan.World, taste.Percent) && AddEnding(plan, match, wish, taste.Finish, endings))
         break;
   for (const FinishTaste& taste : kFallbacks)
-    if (Suits(taste, match, winner, wish)) AddEnding(plan, match, wish, taste.Finish, endings);
+    if (Suits(taste, match, winner, wish) && Chance(plan.World, taste.Percent))
+      AddEnding(plan, match, wish, taste.Finish, endings);
   return endings;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "show/scoring.h"
+#include "storylines/feuds.h"
 
 namespace grapplemont {
 
@@ -15,6 +16,11 @@ constexpr int kSameWeight = 3;
 constexpr int kVariety = 14;
 /// A star who is fresh and left out takes it to heart.
 constexpr int kRestless = 6, kFresh = 86;
+/// So many points of condition are worth one: everybody has his turn.
+constexpr int kRested = 4;
+/// Enemies have had their part of the show.
+constexpr int kNotAgain = 30;
+constexpr int kStepsDown = 3;
 constexpr int kTries = 4;
 
 bool IsRestless(const AutoPlan& plan, const Worker& worker) {
@@ -52,7 +58,7 @@ bool ShareAMember(const Team& a, const Team& b) {
 bool BookLead(AutoPlan& plan, const Worker& lead, const std::vector<const Worker*>& from) {
   for (const Worker* opponent : OpponentsFor(plan, lead, from)) {
     Wish wish;
-    wish.MayDraw = false;
+    wish.Feud = FeudExists(plan.World, lead.Uid, opponent->Uid);
     if (BookMatch(plan, NewMatch(kSingles, kPlainSingles, {lead.Uid, opponent->Uid}), wish))
       return true;
   }
@@ -64,8 +70,10 @@ bool BookLead(AutoPlan& plan, const Worker& lead, const std::vector<const Worker
 std::size_t LeadAt(AutoPlan& plan, std::size_t free) {
   const int matches = static_cast<int>(plan.Matches.size());
   const int spare = static_cast<int>(free) - 2 * (plan.MatchesWanted - matches);
-  const int skip = plan.View.IsEvent ? 0 : std::clamp(spare, 0, matches);
-  const int jitter = plan.World.RandomDraw(3) - 1;
+  const int step =
+      plan.View.IsEvent ? 0 : std::clamp(spare / std::max(1, plan.MatchesWanted), 0, kStepsDown);
+  const int skip = matches * step;
+  const int jitter = plan.World.RandomDraw(3 + step) - 1;
   return static_cast<std::size_t>(std::clamp(skip + jitter, 0, static_cast<int>(free) - 1));
 }
 
@@ -105,6 +113,8 @@ int PairScore(AutoPlan& plan, const Worker& a, const Worker& b) {
   if (gap > kNoContestGap) score -= kNoContestGap;
   if (a.Weight == b.Weight) score += kSameWeight;
   if (IsRestless(plan, b)) score += kRestless;
+  if (FeudExists(plan.World, a.Uid, b.Uid)) score -= kNotAgain;
+  score += b.Condition / kRested;
   return std::max(score, kNoPair + 1);
 }
 

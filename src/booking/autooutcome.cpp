@@ -9,7 +9,7 @@ namespace grapplemont {
 namespace {
 
 // What makes a win worth while, in points of Over.
-constexpr int kChance = 8;
+constexpr int kChance = 12;
 constexpr int kYoung = 30, kYouth = 3;
 constexpr int kOld = 40, kAgeing = -4;
 constexpr int kRetires = -10;

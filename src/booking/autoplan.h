@@ -57,6 +57,7 @@ bool PlanTalk(AutoPlan& plan, const Segment& talk, int weight);
 int ExpectedCrowd(const World& world, const Segment& match);
 
 // The steps, in the order in which the auto booker takes them.
+void EndFeuds(AutoPlan& plan);
 void DefendTitles(AutoPlan& plan);
 void AdvanceFeuds(AutoPlan& plan);
 void IntroduceNewcomers(AutoPlan& plan);

@@ -51,6 +51,10 @@ void AutoPool::Count(const Segment& segment) {
     if (Hand* hand = Find(uid); hand && segment.Kind == kMatch) ++hand->Matches;
 }
 
+void AutoPool::Rest(int uid) {
+  if (Hand* hand = Find(uid)) ++hand->Matches;
+}
+
 bool AutoPool::MayWrestle(const Hand& hand) const {
   return IsActiveWrestler(*hand.Who) && hand.Parts < kMostParts &&
          hand.Matches < reserve_.Matches && hand.Who->Condition >= reserve_.Condition;
@@ -77,6 +81,11 @@ bool AutoPool::MayAppear(const std::vector<int>& uids) const {
 bool AutoPool::IsBooked(int uid) const {
   const Hand* hand = Find(uid);
   return hand && hand->Parts > 0;
+}
+
+bool AutoPool::Wrestles(int uid) const {
+  const Hand* hand = Find(uid);
+  return hand && hand->Matches > 0;
 }
 
 std::vector<const Worker*> AutoPool::Wrestlers() const {

@@ -38,6 +38,8 @@ class AutoPool {
 
   /// Everybody in the Segment has a part more.
   void Count(const Segment& segment);
+  /// Somebody has been laid out and should not wrestle tonight.
+  void Rest(int uid);
   void Reach(const Reserve& reserve) { reserve_ = reserve; }
 
   /// An active wrestler within reach with a match left in him.
@@ -47,6 +49,7 @@ class AutoPool {
   bool MayAppear(int uid) const;
   bool MayAppear(const std::vector<int>& uids) const;
   bool IsBooked(int uid) const;  // has a part
+  bool Wrestles(int uid) const;  // has a match
   bool SameCornerMeets() const { return reserve_.SameCorner; }
 
   /// All who may wrestle and all who may appear, the most popular first.

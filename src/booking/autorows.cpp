@@ -30,7 +30,7 @@ int Counted(const AutoPlan& plan, int kind = kEmptySegment) {
 
 /// The dark match is left out when the show proper needs everything there is.
 bool WantsDarkMatch(const AutoPlan& plan) {
-  if (!plan.View.IsEvent || plan.Rows[kDarkMatch].Kind != kEmptySegment || plan.Matches.empty())
+  if (!plan.View.IsEvent || plan.Matches.empty() || plan.Rows[kDarkMatch].Kind != kEmptySegment)
     return false;
   if (plan.RowsLeft() == 0 && plan.Talks.empty()) return true;
   const int matches = static_cast<int>(plan.Matches.size()) - 1;
@@ -55,8 +55,8 @@ void PlaceDarkMatch(AutoPlan& plan) {
 /// Without a dark match its row stays empty, and there may be one Segment too many: the last of the
 /// talk.
 void DropWhatHasNoRow(AutoPlan& plan) {
-  const bool empty = plan.View.IsEvent && plan.Rows[kDarkMatch].Kind == kEmptySegment;
-  if (empty && plan.RowsLeft() == 0 && !plan.Talks.empty()) plan.Talks.pop_back();
+  if (!plan.View.IsEvent || plan.Talks.empty() || plan.RowsLeft() > 0) return;
+  if (plan.Rows[kDarkMatch].Kind == kEmptySegment) plan.Talks.pop_back();
 }
 
 /// Which of `count` places are talk: spread out, never the last. A show opens with talk when it has

@@ -26,9 +26,11 @@ constexpr int kTopChance = 5;  // of the top Title on one of the week's shows
 constexpr int kLesserChance = 25;
 constexpr int kVacantChance = 50;
 constexpr int kBigShowRows = 8;  // from here on a show has room for two Titles
-constexpr int kFeudsForIt = 60;
+constexpr int kFeudsForIt = 90;
 constexpr int kNeedNotRise = 20;  // a contender this far below the champion is none
 constexpr int kHasGold = 12;
+/// Not the same challenger month after month.
+constexpr int kNewBlood = 20;
 /// His own enemy is waiting for him.
 constexpr int kFeudsElsewhere = 40;
 /// So far above a Title's champion, one has better to do than to chase it.
@@ -90,7 +92,7 @@ bool HasOpenFeud(const AutoPlan& plan, const Worker& worker) {
 int ContenderScore(AutoPlan& plan, const Worker& champion, const Worker& contender) {
   int score = PairScore(plan, champion, contender);
   if (score <= kNoPair) return score;
-  score += contender.Over / 2;
+  score += contender.Over / 2 + plan.World.RandomDraw(kNewBlood);
   if (HoldsATitle(plan, contender)) score -= kHasGold;
   if (FeudExists(plan.World, champion.Uid, contender.Uid))
     score += kFeudsForIt;

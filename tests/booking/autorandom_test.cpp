@@ -104,6 +104,13 @@ void BookSome(World& world, const AutoCard& card, Dice& dice) {
     if (dice.OneIn(2)) ClearSegment(row);
 }
 
+/// The first who would take the card amiss although nobody has objected.
+std::string GrudgeOf(const World& world, const AutoCard& card) {
+  World booked = CopyOf(world);
+  for (const Segment& row : card.Rows) ApplyBookingGrievances(booked, row);
+  return FirstDifference(booked, world);
+}
+
 bool IsKept(const Segment& before, const Segment& after) {
   return before.Kind == kEmptySegment ||
          std::equal(reinterpret_cast<const char*>(&before),
@@ -125,6 +132,7 @@ TEST(AutoBookerOnRandomRosters, NothingThatThePlayerCouldNotBook) {
       const auto seed = static_cast<std::uint64_t>(number * 100 + show);
       const AutoCard card = BookedBy(world, isEvent, rows, seed);
       ASSERT_EQ("", FaultsOf(world, card, isEvent));
+      ASSERT_EQ("", GrudgeOf(world, card));
       for (std::size_t row = 0; row < before.size(); ++row)
         ASSERT_TRUE(IsKept(before[row], card.Rows[row])) << row;
       full += card.Missing.empty();
