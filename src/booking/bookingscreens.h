@@ -9,5 +9,7 @@ void RegisterBookingScreens(Game& game);
 
 /// The wizard that fills this record of match.dat.
 std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, int slot, bool isEvent);
+/// The same on the desk, with its first step open over it.
+void OpenWizardAtOnce(Game& game, int slot, bool isEvent);
 
 }  // namespace grapplemont

@@ -43,6 +43,8 @@ class StepScreen : public ui::Screen {
 
   /// Stores and goes on, for the double click of a list.
   void GoOn();
+  /// Whether Done and Next can be pressed; `why` is their tip while they cannot.
+  void AllowDone(bool allowed, const std::string& why);
   bool Fail(const std::string& message);  // says it, titled "Error!"; always false
 
  private:

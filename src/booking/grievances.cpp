@@ -1,0 +1,7 @@
+#include "booking/segmentcheck.h"
+
+namespace grapplemont {
+
+void ApplyBookingGrievances(World&, const Segment&) {}
+
+}  // namespace grapplemont

@@ -1,0 +1,115 @@
+#include "booking/screenstep.h"
+
+#include "booking/stepscreens.h"
+#include "booking/talkscreens.h"
+#include "records/modWresCheck.h"
+
+namespace grapplemont {
+
+namespace {
+
+const StepTable& MatchSteps() {
+  static const StepTable kSteps = {
+      {"frmBookStyle", MakeChoiceStep},
+      {"frmBookType", MakeChoiceStep},
+      {"frmBookMatchStyle", MakeChoiceStep},
+  };
+  return kSteps;
+}
+
+ui::Tone ToneOf(const Worker& worker) {
+  if (worker.Disposition == "F") return ui::Tone::Blue;
+  return worker.Disposition == "H" ? ui::Tone::Red : ui::Tone::Muted;
+}
+
+}  // namespace
+
+StepScreen::StepScreen(Game& game, WizardHost& host, std::string name, std::string title)
+    : Screen(game.Desk(), std::move(name), std::move(title), ui::Role::Dialog),
+      game_(game),
+      host_(host) {}
+
+ui::Page StepScreen::Layout() {
+  ui::Page page;
+  page.Actions = {cmdback.get(), cmddone.get(), cmdnext.get()};
+  page.Main = cmdnext.get();
+  page.Cancel = cmdback.get();
+  page.Body = ui::Columns({ui::Group("So far", {ui::Grow(txtsofar)}).Grow(1), Body().Grow(3)});
+  return page;
+}
+
+void StepScreen::Load() {
+  cmdback = std::make_unique<ui::Button>(*this, "cmdback", "Back", &StepScreen::cmdback_Click);
+  cmddone = std::make_unique<ui::Button>(*this, "cmddone", "Done", &StepScreen::cmddone_Click);
+  cmdnext = std::make_unique<ui::Button>(*this, "cmdnext", "Next", &StepScreen::cmdnext_Click);
+  std::vector<ui::Report::Paragraph> lines;
+  for (int step = 0; step < wizard().Step; ++step)
+    lines.push_back({ui::Report::Style::Body, TextOfStep(world(), wizard(), step).Summary});
+  if (lines.empty()) lines.push_back({ui::Report::Style::Muted, "Nothing has been chosen yet."});
+  txtsofar.Write(std::move(lines));
+  Prepare();
+}
+
+void StepScreen::AllowDone(bool allowed, const std::string& why) {
+  for (ui::Button* button : {cmddone.get(), cmdnext.get()}) {
+    button->Enabled = allowed;
+    button->Tip = allowed ? std::string() : why;
+  }
+}
+
+void StepScreen::GoOn() {
+  if (cmdnext->Enabled) Finish(true);
+}
+
+bool StepScreen::Fail(const std::string& message) {
+  desk().Say("Error!", message);
+  return false;
+}
+
+void StepScreen::cmddone_Click() {
+  Finish(false);
+}
+
+void StepScreen::cmdnext_Click() {
+  Finish(true);
+}
+
+void StepScreen::cmdback_Click() {
+  Close();
+}
+
+void StepScreen::Finish(bool goOn) {
+  if (!Store()) return;
+  Close();
+  host_.StepStored(goOn);
+}
+
+std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host, const std::string& name) {
+  for (const StepTable* steps : {&MatchSteps(), &TalkSteps()})
+    if (const auto found = steps->find(name); found != steps->end())
+      return found->second(game, host, name);
+  return nullptr;
+}
+
+std::vector<ui::Column> PeopleColumns() {
+  using K = ui::ColumnKind;
+  return {{"Name", K::Text, 6},
+          {"Disp.", K::Tag, 3, "Face, Heel or Tweener."},
+          {"Over", K::Number, 2, "Popularity."},
+          {"Cond.", K::Number, 2, "Condition."},
+          {"Mor.", K::Number, 2, "Morale."}};
+}
+
+void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none) {
+  std::vector<ui::ListBox::Row> rows;
+  if (none) rows.push_back({{"None", "", "", "", ""}, 0});
+  for (const Worker* worker : people)
+    rows.push_back(
+        {{worker->Name.View(), ui::Cell(DispositionText(worker->Disposition), ToneOf(*worker)),
+          ui::Cell(worker->Over), ui::Cell(worker->Condition), ui::Cell(worker->Morale)},
+         worker->Uid});
+  list.Fill(std::move(rows), false);
+  if (none) list.Select(1);
+}
+
+}  // namespace grapplemont

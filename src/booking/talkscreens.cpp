@@ -1,0 +1,10 @@
+#include "booking/talkscreens.h"
+
+namespace grapplemont {
+
+const StepTable& TalkSteps() {
+  static const StepTable kNone;
+  return kNone;
+}
+
+}  // namespace grapplemont
