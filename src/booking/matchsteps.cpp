@@ -102,6 +102,13 @@ std::vector<int> AftermathRunIns(const Segment& segment) {
   return uids;
 }
 
+Segment BeforeAftermath(const Segment& match) {
+  Segment before = match;
+  for (Word* field : AftermathRunIns(before)) *field = 0;
+  before.Aftermath = 0;
+  return before;
+}
+
 const ResultForm& ResultFormOf(const Segment& match) {
   for (const FormRow& row : kForms)
     if (row.Style == match.Style && (row.Type == kAnyType || row.Type == match.MatchType))

@@ -33,6 +33,8 @@ bool NeedsAftermathRunIn(int style, int aftermath);
 /// tag match, none where its aftermath brings nobody.
 std::vector<Word*> AftermathRunIns(Segment& segment);
 std::vector<int> AftermathRunIns(const Segment& segment);  // their uids, without the empty ones
+/// The match as it was when its aftermath was chosen: without the aftermath and its run-ins.
+Segment BeforeAftermath(const Segment& match);
 
 /// What a result step asks: the winner, and who loses in which order.
 struct ResultForm {

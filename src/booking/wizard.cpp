@@ -31,12 +31,6 @@ void ClearResult(Segment& segment) {
     *place = 0;
 }
 
-/// The run-ins of an aftermath share a field with those of the finish in a singles match.
-void ClearAftermath(Segment& segment) {
-  for (Word* runIn : AftermathRunIns(segment)) *runIn = 0;
-  segment.Aftermath = 0;
-}
-
 using Undo = void (*)(Segment&);
 
 constexpr Undo kClearKind = [](Segment& s) { s.Kind = 0; };
@@ -52,7 +46,8 @@ constexpr Undo kUndoMatch[] = {
     [](Segment& s) { s.TitleName = "None"; },
     ClearResult,
     [](Segment& s) { s.Finish = s.Other1 = s.Other2 = 0; },
-    ClearAftermath,
+    // Its run-ins share a field with those of the finish in a singles match.
+    [](Segment& s) { s = BeforeAftermath(s); },
     kClearPurpose,
 };
 
