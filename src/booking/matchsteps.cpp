@@ -74,8 +74,9 @@ bool NeedsFinishRunIn(int style, int finish) {
 std::vector<int> FinishRunIns(const Segment& segment) {
   std::vector<int> uids;
   if (!NeedsFinishRunIn(segment.Style, segment.Finish)) return uids;
-  for (const int uid : {segment.Other1, segment.Other2})
-    if (uid != 0) uids.push_back(uid);
+  if (segment.Other1 != 0) uids.push_back(segment.Other1);
+  // In a singles match the second field is that of a saver.
+  if (segment.Style == kTag && segment.Other2 != 0) uids.push_back(segment.Other2);
   return uids;
 }
 

@@ -61,6 +61,14 @@ void CheckTitle(Reasons& reasons, const World& world, const Segment& match) {
                 match.TitleName + " cannot be at stake in this match.");
 }
 
+int NamedLosers(const Segment& match) {
+  Segment copy = match;
+  int named = 0;
+  for (const Word* field : LoserFields(copy))
+    if (*field != 0) ++named;
+  return named;
+}
+
 void CheckResult(Reasons& reasons, const Segment& match) {
   reasons.AddIf(!HasResult(match), "The result has not been chosen.");
   reasons.AddIf(IsDraw(match) && !OffersDraw(match), "This match cannot end in a draw.");
@@ -76,6 +84,10 @@ void CheckResult(Reasons& reasons, const Segment& match) {
   reasons.AddIf(
       (IsDraw(match) || (form.Losers == 0 && match.Style != kSingles)) && match.Loser != kNoLoser,
       "A loser is named where there is none.");
+  reasons.AddIf(match.Style == kSingles && match.Winner == match.Loser,
+                "The winner cannot lose as well.");
+  reasons.AddIf(NamedLosers(match) > std::max(form.Losers, 1),
+                "More losers are named than the match has.");
   reasons.Add(WhyNotResult(match));
 }
 
