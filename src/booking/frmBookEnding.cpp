@@ -71,18 +71,12 @@ class frmBookEnding : public MatchStepScreen {
 
   ui::Box Body() override {
     std::vector<ui::Box> tables = {ui::Group("", {ui::Grow(lstcode)}).Grow(3)};
-    std::vector<ui::Box> runs;
-    for (int list = 1; list <= row_.RunIns; ++list) runs.push_back(ui::Grow(lstrun(list)));
-    if (!runs.empty())
-      tables.push_back(ui::Group(runs.size() == 1 ? "Who runs in" : "Who runs in, first and second",
-                                 std::move(runs))
-                           .Grow(4));
-    return ui::Rows({ui::Columns(std::move(tables)).Grow(3), Remarks().Grow(1)});
-  }
-
-  ui::Box Remarks() {
-    return row_.Does == kPurposeStep ? ui::Group("What it costs", {ui::Grow(txtsay)})
-                                     : Objections();
+    constexpr const char* kTitles[] = {"Who runs in", "Who runs in as well"};
+    for (int list = 1; list <= row_.RunIns; ++list)
+      tables.push_back(ui::Group(kTitles[list - 1], {ui::Grow(lstrun(list))}).Grow(4));
+    return ui::Rows(
+        {ui::Columns(std::move(tables)).Grow(),
+         row_.Does == kPurposeStep ? ui::Group("What it costs", {txtsay}) : Objections()});
   }
 
   bool Store() override { return Accept(Draft(), row_.Does); }
@@ -130,10 +124,9 @@ class frmBookEnding : public MatchStepScreen {
 
   void ShowPrice() {
     const std::string price = GrievanceText(world(), Draft());
-    using Style = ui::Report::Style;
-    txtsay.Write({price.empty() ? ui::Report::Paragraph{Style::Muted,
-                                                        "Nobody holds this booking against you."}
-                                : ui::Report::Paragraph{Style::Body, "Morale: " + price + "."}});
+    txtsay.Text =
+        price.empty() ? "Nobody holds this booking against you." : "Morale: " + price + ".";
+    txtsay.Colour = price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
   }
 
   const EndingRow& row_;

@@ -27,7 +27,6 @@ class frmBookPeople : public MatchStepScreen {
   }
 
   ui::Box Body() override {
-    const bool wide = style_.PerSide > 2;
     std::vector<ui::Box> sides;
     for (int side = 0; side < style_.Sides; ++side) {
       std::vector<ui::Box> lists;
@@ -35,10 +34,10 @@ class frmBookPeople : public MatchStepScreen {
         lists.push_back(ui::Grow(lstwres(side * style_.PerSide + member)));
       const std::string title =
           (style_.PerSide > 1 ? "Team " : "Worker ") + std::to_string(side + 1);
-      ui::Box box = wide ? ui::Columns(std::move(lists)) : ui::Rows(std::move(lists));
+      ui::Box box = HasRowsOfMates() ? ui::Columns(std::move(lists)) : ui::Rows(std::move(lists));
       sides.push_back(ui::Group(title, {std::move(box).Grow()}).Grow());
     }
-    return wide ? ui::Rows(std::move(sides)) : ui::Columns(std::move(sides));
+    return HasRowsOfMates() ? ui::Rows(std::move(sides)) : ui::Columns(std::move(sides));
   }
 
   bool Store() override {
@@ -47,6 +46,9 @@ class frmBookPeople : public MatchStepScreen {
       draft.Worker[static_cast<std::size_t>(place - 1)] = lstwres(place).Key();
     return Accept(draft, kPeopleStep);
   }
+
+  bool HasRowsOfMates() const { return style_.PerSide > 2; }
+  int Abreast() const { return HasRowsOfMates() ? style_.PerSide : style_.Sides; }
 
   bool IsComplete() {
     for (int place = 1; place <= lstwres.Count(); ++place)
@@ -77,12 +79,12 @@ class frmBookPeople : public MatchStepScreen {
   }
 
   const MatchStyleRow& style_;
-  ui::Array<ui::ListBox> lstwres{"lstwres", style_.Sides* style_.PerSide,
-                                 [this](const std::string&, int place) {
-                                   return std::make_unique<ui::ListBox>(
-                                       *this, "lstwres" + std::to_string(place), PeopleColumns(),
-                                       [this, place] { lstwres_Click(place); }, [this] { GoOn(); });
-                                 }};
+  ui::Array<ui::ListBox> lstwres{
+      "lstwres", style_.Sides* style_.PerSide, [this](const std::string&, int place) {
+        return std::make_unique<ui::ListBox>(
+            *this, "lstwres" + std::to_string(place), PeopleColumns(Abreast()),
+            [this, place] { lstwres_Click(place); }, [this] { GoOn(); });
+      }};
 };
 
 }  // namespace

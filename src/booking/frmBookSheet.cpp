@@ -1,5 +1,5 @@
 #include "booking/bookingscreens.h"
-#include "booking/matchsteps.h"
+#include "booking/grievances.h"
 #include "booking/screenstep.h"
 #include "booking/segmentcheck.h"
 
@@ -27,7 +27,7 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     for (int step = 0; step < kRows; ++step)
       rows.push_back(ui::Columns({ui::Grow(At(txtstep, step), 3), ui::Grow(At(txtdesc, step), 5),
                                   At(cmdback, step), At(cmdbook, step)}));
-    page.Body = ui::Rows({ui::Group("", {ui::Rows(std::move(rows))}), ui::Spacer(),
+    page.Body = ui::Rows({ui::Group("", {ui::Rows(std::move(rows))}), lblprice, ui::Spacer(),
                           ui::Field("Limit official competitors to roster split", cmbsplit)});
     return page;
   }
@@ -72,6 +72,11 @@ class frmBookSheet : public ui::Screen, public WizardHost {
   void RefreshWizard() {
     for (int step = 0; step < kRows; ++step) ShowRow(step);
     lblfacts.Text = "Slot " + std::to_string(wizard_.CurrentSlot);
+    const std::string price = GrievanceText(game_.World(), wizard_.Buffer);
+    lblprice.Text =
+        price.empty() ? "Nobody holds this booking against you." : "Morale: " + price + ".";
+    lblprice.Colour = price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
+    lblprice.Visible = wizard_.SegmentComplete;
     cmdcomplete.Enabled = wizard_.SegmentComplete;
     cmdcomplete.Tip = wizard_.SegmentComplete ? "" : "Every step must be done first.";
   }
@@ -86,6 +91,11 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     At(cmdback, step).Enabled = step == BackRow();
     At(cmdbook, step).Tip = step == CurrentRow() ? "" : "It is another step's turn.";
     At(cmdback, step).Tip = step == BackRow() ? "" : "Only the last step can be taken back.";
+    // A path that has been gone to its end has no further rows.
+    const bool isThere = !wizard_.SegmentComplete || step < wizard_.Step;
+    for (ui::Control* control : std::initializer_list<ui::Control*>{
+             &At(txtstep, step), &At(txtdesc, step), &At(cmdbook, step), &At(cmdback, step)})
+      control->Visible = isThere;
   }
 
   /// On a finished booking the last step is done anew.
@@ -134,6 +144,7 @@ class frmBookSheet : public ui::Screen, public WizardHost {
                                 Buttons("cmdback", "Back", &frmBookSheet::cmdback_Click)};
   ui::Array<ui::Button> cmdbook{"", kRows,
                                 Buttons("cmdbook", "Select", &frmBookSheet::cmdbook_Click)};
+  ui::Label lblprice{*this, "lblprice"};
   ui::ComboBox cmbsplit{*this, "cmbsplit", &frmBookSheet::cmbsplit_Click};
   ui::Button cmdexit{*this, "cmdexit", "Exit", &frmBookSheet::cmdexit_Click};
   ui::Button cmdcomplete{*this, "cmdcomplete", "Complete Booking This Segment",

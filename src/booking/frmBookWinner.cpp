@@ -31,10 +31,8 @@ class frmBookWinner : public MatchStepScreen {
     std::vector<ui::Box> boxes = {ui::Field("Winner", cmbwinner)};
     for (int box = 1; box <= form_.Losers; ++box)
       boxes.push_back(ui::Field(LoserLabel(box), cmbloser(box)));
-    return ui::Rows(
-        {ui::Group("", std::move(boxes)),
-         ui::Columns({ui::Group("In the ring", {ui::Grow(lstring)}).Grow(3), Objections().Grow(2)})
-             .Grow()});
+    return ui::Rows({ui::Group("", std::move(boxes)),
+                     ui::Group("In the ring", {ui::Grow(lstring)}).Grow(), Objections()});
   }
 
   bool Store() override { return Accept(Draft(), kResultStep); }
@@ -86,6 +84,15 @@ class frmBookWinner : public MatchStepScreen {
     ShowPicks();
   }
 
+  /// Whoever is picked in the ring wins.
+  void lstring_Click() {
+    for (const int uid : ResultCandidates(buffer()))
+      if (uid == lstring.Key() ||
+          (form_.Teams && SideOf(buffer(), uid) == SideOf(buffer(), lstring.Key())))
+        cmbwinner.SelectKey(uid);
+    cmbwinner_Click();
+  }
+
   void cmbloser_Click() {
     hasPickedLoser_ = true;
     ShowPicks();
@@ -97,6 +104,8 @@ class frmBookWinner : public MatchStepScreen {
       cmbloser(box).Enabled = !draw;
       cmbloser(box).Tip = draw ? "Nobody loses in a draw." : "";
     }
+    const bool stands = SideOf(buffer(), lstring.Key()) == SideOf(buffer(), cmbwinner.Key());
+    if (!form_.Teams || !stands) lstring.SelectKey(cmbwinner.Key());
     ShowObjections(Draft(), kResultStep);
   }
 
@@ -109,7 +118,7 @@ class frmBookWinner : public MatchStepScreen {
             *this, form_.Losers > 1 ? "cmbloser" + std::to_string(box) : "cmbloser",
             &frmBookWinner::cmbloser_Click);
       }};
-  ui::ListBox lstring{*this, "lstring", PeopleColumns()};
+  ui::ListBox lstring{*this, "lstring", PeopleColumns(), &frmBookWinner::lstring_Click};
 };
 
 }  // namespace

@@ -1,10 +1,15 @@
 #include "booking/screenmatchstep.h"
 
+#include <algorithm>
+
 #include "booking/refusals.h"
 
 namespace grapplemont {
 
 namespace {
+
+/// A battle royal may have many objections; these are read out beforehand.
+constexpr std::size_t kShown = 4;
 
 std::string WhyNot(const Segment& draft, Step step) {
   switch (step) {
@@ -40,15 +45,15 @@ bool MatchStepScreen::IsOverruled(const Refusal& refusal) {
 }
 
 void MatchStepScreen::ShowObjections(const Segment& draft, Step step) {
-  using Style = ui::Report::Style;
-  std::vector<ui::Report::Paragraph> lines;
-  if (WhyNot(draft, step).empty())
-    for (const Refusal& refusal : RefusalsAt(world(), draft, step)) {
-      lines.push_back({Style::Body, refusal.Words});
-      if (!refusal.Veto.empty()) lines.push_back({Style::Muted, refusal.Veto});
-    }
-  if (lines.empty()) lines.push_back({Style::Muted, "Nobody objects."});
-  txtsay.Write(std::move(lines));
+  std::vector<Refusal> refusals;
+  if (WhyNot(draft, step).empty()) refusals = RefusalsAt(world(), draft, step);
+  std::string text;
+  for (std::size_t i = 0; i < std::min(refusals.size(), kShown); ++i)
+    text += (i == 0 ? "" : "\n") + refusals[i].Words;
+  if (refusals.size() > kShown)
+    text += "\nand " + std::to_string(refusals.size() - kShown) + " more.";
+  txtsay.Text = refusals.empty() ? "Nobody objects." : text;
+  txtsay.Colour = refusals.empty() ? ui::Tone::Muted : ui::Tone::Amber;
 }
 
 }  // namespace grapplemont

@@ -19,13 +19,13 @@ class MatchStepScreen : public StepScreen {
   bool Accept(const Segment& draft, Step step);
   /// Shows beforehand what the people in the ring would say to the draft.
   void ShowObjections(const Segment& draft, Step step);
-  ui::Box Objections() { return ui::Group("What they say", {ui::Grow(txtsay)}); }
+  ui::Box Objections() { return ui::Group("What they say", {txtsay}); }
 
  private:
   bool IsOverruled(const Refusal& refusal);
 
  protected:
-  ui::Report txtsay{*this, "txtsay"};
+  ui::Label txtsay{*this, "txtsay"};
 };
 
 }  // namespace grapplemont

@@ -65,7 +65,11 @@ ui::Page StepScreen::Layout() {
   page.Actions = {cmdback.get(), cmddone.get(), cmdnext.get()};
   page.Main = cmdnext.get();
   page.Cancel = cmdback.get();
-  page.Body = ui::Columns({ui::Group("So far", {ui::Grow(txtsofar)}).Grow(1), Body().Grow(3)});
+  page.Large = true;
+  std::vector<ui::Box> lines;
+  for (int line = 1; line <= kLines; ++line) lines.push_back(lblsofar(line));
+  lines.push_back(ui::Spacer());
+  page.Body = ui::Columns({ui::Group("So far", std::move(lines)).Grow(1), Body().Grow(4)});
   return page;
 }
 
@@ -73,12 +77,18 @@ void StepScreen::Load() {
   cmdback = std::make_unique<ui::Button>(*this, "cmdback", "Back", &StepScreen::cmdback_Click);
   cmddone = std::make_unique<ui::Button>(*this, "cmddone", "Done", &StepScreen::cmddone_Click);
   cmdnext = std::make_unique<ui::Button>(*this, "cmdnext", "Next", &StepScreen::cmdnext_Click);
-  std::vector<ui::Report::Paragraph> lines;
-  for (int step = 0; step < wizard().Step; ++step)
-    lines.push_back({ui::Report::Style::Body, TextOfStep(world(), wizard(), step).Summary});
-  if (lines.empty()) lines.push_back({ui::Report::Style::Muted, "Nothing has been chosen yet."});
-  txtsofar.Write(std::move(lines));
+  ShowSoFar();
   Prepare();
+}
+
+void StepScreen::ShowSoFar() {
+  for (int step = 0; step < kLines; ++step) {
+    lblsofar(step + 1).Text = TextOfStep(world(), wizard(), step).Summary;
+    lblsofar(step + 1).Visible = step < wizard().Step;
+  }
+  if (wizard().Step > 0) return;
+  lblsofar(1).Text = "Nothing has been chosen yet.";
+  lblsofar(1).Visible = true;
 }
 
 void StepScreen::AllowDone(bool allowed, const std::string& why) {
@@ -122,23 +132,32 @@ std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host, const s
   return nullptr;
 }
 
-std::vector<ui::Column> PeopleColumns() {
+std::vector<ui::Column> PeopleColumns(int listsAbreast) {
   using K = ui::ColumnKind;
-  return {{"Name", K::Text, 6},
-          {"Disp.", K::Tag, 3, "Face, Heel or Tweener."},
-          {"Over", K::Number, 2, "Popularity."},
-          {"Cond.", K::Number, 2, "Condition."},
-          {"Mor.", K::Number, 2, "Morale."}};
+  const bool narrow = listsAbreast > 2;
+  std::vector<ui::Column> columns = {
+      {"Name", K::Text, 6},
+      {narrow ? "D." : "Disp.", K::Tag, narrow ? 1 : 3, "Face, Heel or Tweener."},
+      {"Over", K::Number, 2, "Popularity."},
+      {"Cond.", K::Number, 2, "Condition."},
+      {"Mor.", K::Number, 2, "Morale."}};
+  if (narrow) columns.resize(listsAbreast == 3 ? 4 : 3, {""});
+  return columns;
 }
 
 void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none) {
+  const std::size_t columns = list.Columns().size();
+  const bool narrow = list.Columns()[1].Width == 1;
   std::vector<ui::ListBox::Row> rows;
   if (none) rows.push_back({{"None", "", "", "", ""}, 0});
-  for (const Worker* worker : people)
-    rows.push_back(
-        {{worker->Name.View(), ui::Cell(DispositionText(worker->Disposition), ToneOf(*worker)),
-          ui::Cell(worker->Over), ui::Cell(worker->Condition), ui::Cell(worker->Morale)},
-         worker->Uid});
+  for (const Worker* worker : people) {
+    const std::string_view side =
+        narrow ? worker->Disposition.View() : DispositionText(worker->Disposition);
+    rows.push_back({{worker->Name.View(), ui::Cell(side, ToneOf(*worker)), ui::Cell(worker->Over),
+                     ui::Cell(worker->Condition), ui::Cell(worker->Morale)},
+                    worker->Uid});
+  }
+  for (auto& row : rows) row.Cells.resize(columns, ui::Cell(""));
   list.Fill(std::move(rows), false);
   if (none) list.Select(1);
 }

@@ -65,7 +65,9 @@ void RemoveBooking(World& world, int record) {
 }
 
 void TakeCard(World& world, const AutoCard& card) {
-  world.Segments().Rewrite(card.Rows);
+  for (int record = 1; record <= world.Segments().Count(); ++record)
+    if (const auto row = static_cast<std::size_t>(record - 1); row < card.Rows.size())
+      world.Segments()[record] = card.Rows[row];
 }
 
 int NewSegments(const World& world, const AutoCard& card) {

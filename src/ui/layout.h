@@ -80,6 +80,7 @@ struct Page {
   std::vector<Button*> Actions = {};
   Button* Main = nullptr;
   Button* Cancel = nullptr;
+  bool Large = false;  // a dialog that wants nearly the whole window, whatever is in it
   Box Body = {};
   // The hub alone: its commands, and what the top bar always says.
   std::vector<SideGroup> Side = {};

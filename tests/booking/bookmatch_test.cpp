@@ -283,6 +283,66 @@ TEST(BookMatch, FillsABattleRoyalInTheOrderOfEntry) {
   ExpectSegment(play.Slot(), expected);
 }
 
+TEST(BookMatch, FillsTheBiggestFields) {
+  BookingPlay play(BookingRoster().Crew(20).Game("CWA"));
+  int slot = 0;
+  for (const auto& [type, entrants] :
+       {std::pair("Royal Rumble", 30), std::pair("20 Man Battle Royal", 20)}) {
+    play.Book(++slot);
+    play.ChooseMatch("Special", type);
+    for (int row = 1; row < entrants; ++row) play.Desk.Pick("lstroster", row);
+    play.Desk.Click("cmdadd");
+    EXPECT_FALSE(play.Desk.Enabled("cmdnext"));
+    play.Desk.Pick("lstroster", 1);
+    play.Desk.Click("cmdadd");
+    play.Next();
+    play.Next();
+    play.Desk.Pick("cmbwinner", "CWA Hand 1");
+    play.Next();
+    EXPECT_EQ(play.Desk.Text("txtdesc(3)"), std::to_string(entrants) + " Workers Entered");
+    play.Complete();
+    for (int i = 0; i < 30; ++i)
+      EXPECT_EQ(play.Slot(slot).Worker[static_cast<std::size_t>(i)], i < entrants ? i + 1 : 0);
+    EXPECT_EQ(play.Slot(slot).Winner, 17);
+    EXPECT_EQ(play.Slot(slot).Loser, 1);
+  }
+}
+
+TEST(BookMatch, SpeaksWhereNobodyCanBeBooked) {
+  BookingPlay play(SmallWorld().Promotion("CWA").Game("CWA"));
+  for (const auto& [style, list] :
+       {std::pair("1 vs 1", "lstwres1"), std::pair("Special", "lstroster")}) {
+    play.Book();
+    play.Next();
+    play.Desk.Pick("lsttype", style);
+    play.Next();
+    play.Next();
+    EXPECT_TRUE(play.Desk.Rows(list).empty());
+    EXPECT_FALSE(play.Desk.Enabled("cmddone"));
+    EXPECT_NE(play.Desk.Tip("cmddone"), "");
+    play.Desk.Click("cmdback");
+    play.Desk.Click("cmdexit");
+  }
+}
+
+TEST(BookMatch, TakesTheWinnerFromTheRingAndItsOpponentAsLoser) {
+  BookingPlay play(BookingRoster().Game("CWA"));
+  play.Book();
+  play.ChooseMatch("2 vs 2", "Tag");
+  play.ChoosePeople(Men(4));
+  play.Next();
+  EXPECT_EQ(play.Desk.Text("cmbloser"), "Man 3");
+  play.Desk.Pick("lstring", "Man 4");
+  EXPECT_EQ(play.Desk.Text("cmbwinner"), "Man 4");
+  EXPECT_EQ(play.Desk.Text("cmbloser"), "Man 1");
+  play.Desk.Pick("cmbwinner", "Draw");
+  EXPECT_FALSE(play.Desk.Enabled("cmbloser"));
+  play.Desk.Pick("cmbwinner", "Man 3");
+  play.Desk.Pick("cmbloser", "Man 2");
+  play.Desk.Pick("cmbwinner", "Man 4");
+  EXPECT_EQ(play.Desk.Text("cmbloser"), "Man 2") << "the player's own choice stays";
+}
+
 TEST(BookMatch, BooksAPlainSinglesMatchInNinePressesAndTwoPicks) {
   BookingPlay play(BookingRoster().Game("CWA"));
   play.Book();

@@ -333,7 +333,7 @@ TEST(Sheet, SaysWhatIsMissingWhenTheRosterHasNothingLeft) {
   OnSheet play(SmallWorld()
                    .Network("Harbor 9")
                    .Promotion("CWA")
-                   .Worker("Only One", kMainEvent, 60)
+                   .Worker("Only One", kMainEvent, 60, [](Worker& w) { w.Speaks = false; })
                    .Show("Tidal Force", "Sunday", "Harbor 9")
                    .Game("CWA"));
   play.Desk.ExpectSay("Fill The Rest", kAnyText);
