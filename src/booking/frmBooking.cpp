@@ -1,74 +1,60 @@
 #include "booking/bookingscreens.h"
-#include "records/dates.h"
-#include "records/world.h"
+#include "booking/screensheet.h"
+#include "booking/sheet.h"
+#include "records/vocabulary.h"
+#include "show/holdshow.h"
+#include "storylines/screenpeople.h"
 
 namespace grapplemont {
 
 namespace {
 
-/// The sheet of a show day: television or Event. A show can only be called off yet.
-class frmBooking : public ui::Screen {
+std::string SlotText(const Show& show) {
+  for (const Term& slot : kTimeSlots)
+    if (show.Slot == slot.Stored) return std::string(slot.Says);
+  return "No time slot";
+}
+
+/// The sheet of today's television show.
+class frmBooking : public SheetScreen {
  public:
-  frmBooking(Game& game, bool isEvent)
-      : Screen(game.Desk(), isEvent ? "frmPPVBooking" : "frmBooking", Heading(game, isEvent)),
-        game_(game) {
-    lblfacts.Text = LongDate(game.World().Today());
+  explicit frmBooking(Game& game) : SheetScreen(game, "frmBooking", false) {}
+
+  void Load() override {
+    SheetScreen::Load();
+    EnableUnless(cmdauto, HasAutoBooker(world())
+                              ? ""
+                              : "Nobody above the jobbers is fit, so there is nobody to book.");
   }
 
-  ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdcancel, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows({ui::Group("", {lblnote}), ui::Spacer()});
-    return page;
+ protected:
+  CommentaryTeam Team() override { return TvTeam(world()); }
+  std::string TopRow() override { return "Opening Credits"; }
+  std::vector<ui::Button*> FirstActions() override { return {&cmdauto}; }
+
+  std::string Facts() override {
+    const Show* show = ShowOfToday(world());
+    if (!show) return "No television show is due today.";
+    const Network* network = world().FindNetwork(show->Network);
+    return (network ? network->Name + ", " : std::string()) + SlotText(*show) + ", " +
+           std::to_string(TermsOf(world(), false).OpenRows) + " rows";
+  }
+
+  bool Begin() override {
+    if (!desk().Ask("Sure?", "Are you sure you wish to start this show?")) return false;
+    StartShow(world(), false, Team());
+    return true;
   }
 
  private:
-  static std::string Heading(Game& game, bool isEvent) {
-    const World& world = game.World();
-    if (isEvent) {
-      for (const Event& event : world.Events())
-        if (event.Owner == world.PlayerUid() && event.Month == MonthOf(world.Today()))
-          return "Event Booking Sheet For " + event.Name;
-      return "Event Booking Sheet For ";
-    }
-    for (const Show& show : world.Shows())
-      if (show.Owner == world.PlayerUid() && show.Day == DayName(world.Today()))
-        return "Television Booking Sheet For " + show.Name;
-    return "Television Booking Sheet For ";
-  }
-
-  void cmdback_Click() {
-    if (desk().Ask("Confirm",
-                   "Are you sure you wish to go back? It will erase any booking you have done so "
-                   "far.",
-                   ui::Default::No))
-      Close();
-  }
-
-  void cmdcancel_Click() {
-    if (!desk().Ask("Cancel?", "Are You Sure You Wish To Cancel The Show?", ui::Default::No))
-      return;
-    game_.AdvanceDay(true);
-    Close();
-  }
-
-  Game& game_;
-  ui::Label lblfacts{*this, "lblfacts"};
-  ui::Label lblnote{*this, "lblnote",
-                    "A show is due today. Booking it comes with a later version: for now it can "
-                    "only be cancelled."};
-  ui::Button cmdcancel{*this, "cmdcancel", "Cancel Show", &frmBooking::cmdcancel_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmBooking::cmdback_Click};
+  void cmdauto_Click() { desk().Open("frmAutoBook"); }
+  ui::Button cmdauto{*this, "cmdauto", "Auto Booker", &frmBooking::cmdauto_Click};
 };
 
 }  // namespace
 
-void RegisterBookingScreens(Game& game) {
-  game.Desk().Register("frmBooking", [&game] { return std::make_unique<frmBooking>(game, false); });
-  game.Desk().Register("frmPPVBooking",
-                       [&game] { return std::make_unique<frmBooking>(game, true); });
+std::unique_ptr<ui::Screen> MakefrmBooking(Game& game) {
+  return std::make_unique<frmBooking>(game);
 }
 
 }  // namespace grapplemont

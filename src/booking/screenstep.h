@@ -43,6 +43,8 @@ class StepScreen : public ui::Screen {
 
   /// Stores and goes on, for the double click of a list.
   void GoOn();
+  /// Whether Done and Next can be pressed; `why` is their tip while they cannot.
+  void AllowDone(bool allowed, const std::string& why);
   bool Fail(const std::string& message);  // says it, titled "Error!"; always false
 
  private:
@@ -50,10 +52,14 @@ class StepScreen : public ui::Screen {
   void cmdnext_Click();
   void cmdback_Click();
   void Finish(bool goOn);
+  void ShowSoFar();
 
   Game& game_;
   WizardHost& host_;
-  ui::Report txtsofar{*this, "txtsofar"};
+  static constexpr int kLines = 9;  // steps that can be done before this one
+  ui::Array<ui::Label> lblsofar{"lblsofar", kLines, [this](const std::string& line, int) {
+                                  return std::make_unique<ui::Label>(*this, line);
+                                }};
 
  protected:
   // Behind the step's own controls in the tab order.
@@ -63,9 +69,9 @@ class StepScreen : public ui::Screen {
 /// Makes the screen of the wizard's step by its name; nullptr for an unknown one.
 std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host, const std::string& name);
 
-/// A list of people: Over, disposition, condition and morale beside the name. `none` puts "None" on
-/// top, preselected.
-std::vector<ui::Column> PeopleColumns();
+/// A list of people: disposition, Over, condition and morale beside the name; where four lists
+/// stand side by side, what there is room for. `none` puts "None" on top, preselected.
+std::vector<ui::Column> PeopleColumns(int listsAbreast = 1);
 void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none = false);
 
 }  // namespace grapplemont

@@ -24,4 +24,8 @@ int PlayerShows(const World& world) {
                                         [&](const Show& show) { return show.Owner == player; }));
 }
 
+bool EnoughWriters(const World& world, bool isEvent) {
+  return PlayerWriters(world) >= WritersNeeded(isEvent ? 0 : PlayerShows(world));
+}
+
 }  // namespace grapplemont

@@ -9,5 +9,7 @@ int WritersNeeded(int shows);
 /// The player's writers, and his television shows.
 int PlayerWriters(const World& world);
 int PlayerShows(const World& world);
+/// Whether they can write an angle: for an Event any writer will do.
+bool EnoughWriters(const World& world, bool isEvent);
 
 }  // namespace grapplemont

@@ -5,10 +5,11 @@
 
 namespace grapplemont {
 
-/// Falling, the economy can pass below 0.
-inline constexpr int kLowestEconomy = -32768;
+// The economy can run past its ends: the outermost bands have none.
+inline constexpr int kAnyLow = -32768;
+inline constexpr int kAnyHigh = 32767;
 
-/// What the world's economy, from 0 to 100, makes of an amount in one of its bands.
+/// What the world's economy makes of an amount in one of its bands.
 struct EconomyFactor {
   int From;
   int To;

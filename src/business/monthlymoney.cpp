@@ -35,7 +35,7 @@ constexpr std::array<std::array<int, 4>, 6> kTargetAdvertising = {{
 }};
 
 constexpr EconomyFactor kMerchandiseEconomy[] = {
-    {90, 100, 120}, {81, 89, 110}, {10, 19, 85}, {kLowestEconomy, 9, 75}};
+    {90, kAnyHigh, 120}, {81, 89, 110}, {10, 19, 85}, {kAnyLow, 9, 75}};
 
 constexpr int kDollarsPerAdvertising = 10000;
 constexpr int kDollarsPerMerchandising = 20000;

@@ -165,6 +165,7 @@ void LayoutBuilder::Add(const Box& box, QBoxLayout* into) {
 
 void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
   ControlView* view = View(*box.Shown);
+  if (auto* table = dynamic_cast<TableView*>(view)) AddRowButtons(box, *table);
   QWidget* widget = view->Widget();
   const bool across = into->direction() == QBoxLayout::LeftToRight;
   int stretch = box.Stretch;
@@ -174,6 +175,15 @@ void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
   const bool fills = Grows(box) || (stretch > 0 && !IsButton(box));
   const Qt::Alignment place = across && !fills ? Qt::AlignVCenter : Qt::Alignment();
   into->addWidget(widget, stretch, place);
+}
+
+void LayoutBuilder::AddRowButtons(const Box& box, TableView& table) {
+  std::vector<ButtonView*> buttons;
+  QWidget* const outer = holder_;
+  holder_ = table.RowHolder();
+  for (const Box& part : box.Parts) buttons.push_back(dynamic_cast<ButtonView*>(View(*part.Shown)));
+  holder_ = outer;
+  table.SetRowButtons(std::move(buttons));
 }
 
 void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {

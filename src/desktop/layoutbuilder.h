@@ -9,6 +9,8 @@
 
 namespace grapplemont::desktop {
 
+class TableView;
+
 /// Makes widgets and layouts of a screen's boxes.
 class LayoutBuilder {
  public:
@@ -34,6 +36,7 @@ class LayoutBuilder {
   std::size_t AddRun(const std::vector<ui::Box>& boxes, std::size_t from, QBoxLayout* into);
   void Add(const ui::Box& box, QBoxLayout* into);
   void AddItem(const ui::Box& box, QBoxLayout* into);
+  void AddRowButtons(const ui::Box& box, TableView& table);
   void AddColumns(const ui::Box& box, QBoxLayout* into);
   void AddGroup(const ui::Box& box, QBoxLayout* into);
   void PlaceSearch(std::size_t from, QBoxLayout* head);

@@ -26,6 +26,7 @@ QTextCharFormat LettersOf(Style style, const Colours& colours) {
       format.setFont(TextFont(15, QFont::DemiBold));
       break;
     case Style::Muted:
+    case Style::Line:
       format.setFont(TextFont());
       break;
     case Style::Body:

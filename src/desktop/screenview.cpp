@@ -241,6 +241,7 @@ void ScreenView::PlaceSearch() {
 }
 
 QSize ScreenView::DialogSize() const {
+  if (page_.Large) return QSize(1216, 704);
   return Grows(page_.Body) ? QSize(800, 560) : QSize();
 }
 

@@ -4,6 +4,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 
 #include "desktop/housestyle.h"
 #include "desktop/letters.h"
@@ -18,6 +19,7 @@ using ui::ColumnKind;
 
 constexpr int kBarWidth = 56, kBarHeight = 6;
 constexpr int kTagHeight = 19, kTagSide = 6;
+constexpr int kRowButton = 76;
 
 bool IsFigure(const std::string& text) {
   return !text.empty() && text.find_first_not_of("0123456789.%-") == text.npos &&
@@ -70,6 +72,7 @@ bool AlignsRight(ColumnKind kind) {
 int CellWidth(const ui::Cell& cell, ColumnKind kind) {
   const int sides = 2 * Px(kCellSide);
   const QString text = Shown(cell.Text);
+  if (kind == ColumnKind::Button) return Px(kRowButton) + sides;
   if (IsTag(cell, kind))
     return QFontMetrics(TagFont()).horizontalAdvance(text) + 2 * Px(kTagSide) + sides;
   const QFontMetrics metrics(TextFont());
@@ -80,9 +83,14 @@ int CellWidth(const ui::Cell& cell, ColumnKind kind) {
   return metrics.horizontalAdvance(text) + sides + 1;
 }
 
-/// What opens is shown as a link: the first words of its row.
+/// What opens is shown as a link: the first words of its row. Rows that have a button are worked by
+/// it.
 bool TableCells::IsLink(const QModelIndex& index) const {
-  if (!model_.List().OnOpen) return false;
+  const auto& columns = model_.List().Columns();
+  const bool hasButtons = std::any_of(columns.begin(), columns.end(), [](const ui::Column& column) {
+    return column.Kind == ColumnKind::Button;
+  });
+  if (!model_.List().OnOpen || hasButtons) return false;
   for (const int column : model_.Table().Columns())
     if (model_.List().Columns()[static_cast<std::size_t>(column)].Kind == ColumnKind::Text)
       return column == index.column();

@@ -151,6 +151,7 @@ void TableGrid::DrawCursor(QPainter& painter) {
 
 void TableGrid::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
+  painted_ = true;
   QPainter painter(viewport());
   DrawCursor(painter);
   if (model_.rowCount() > 0) return;
@@ -163,12 +164,20 @@ void TableGrid::paintEvent(QPaintEvent* event) {
 void TableGrid::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
   if (Resized) Resized();
+  // Before it has been seen a table has no size to scroll by.
+  if (!painted_ && currentIndex().isValid()) scrollTo(currentIndex(), PositionAtCenter);
 }
 
 /// The cursor's line reaches over all cells, so scrolled pieces do not fit together.
 void TableGrid::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
   viewport()->update();
+  if (Moved) Moved();
+}
+
+void TableGrid::updateGeometries() {
+  QTableView::updateGeometries();
+  if (Moved) Moved();
 }
 
 }  // namespace grapplemont::desktop

@@ -23,7 +23,7 @@ class TableGrid : public QTableView {
   // Rows as shown.
   std::function<void(int row)> Picked, Opened;
   std::function<void(const QString& letters)> Typed;
-  std::function<void()> Copied, Resized;
+  std::function<void()> Copied, Resized, Moved;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -37,6 +37,7 @@ class TableGrid : public QTableView {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
+  void updateGeometries() override;
 
  private:
   void Hover(int row);
@@ -48,6 +49,7 @@ class TableGrid : public QTableView {
   TableHeading* heading_;
   QString empty_;
   int hover_ = -1;
+  bool painted_ = false;
 };
 
 }  // namespace grapplemont::desktop

@@ -10,7 +10,7 @@
 #include <cmath>
 #include <numeric>
 
-#include "desktop/button.h"
+#include "desktop/buttonview.h"
 #include "desktop/labelview.h"
 #include "desktop/letters.h"
 #include "desktop/palette.h"
@@ -107,7 +107,9 @@ void TableView::Connect() {
   };
   connect(&heading, &QHeaderView::sectionMoved, this, [this] { TakeOrder(); });
   connect(&heading, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
-    if (!arranging_) table_.SetWidth(column, width * kUsualText / std::max(1, Px(kUsualText)));
+    if (arranging_) return;
+    table_.SetWidth(column, width * kUsualText / std::max(1, Px(kUsualText)));
+    PlaceRowButtons();
   });
   heading.setContextMenuPolicy(Qt::CustomContextMenu);
   connect(&heading, &QWidget::customContextMenuRequested, this, &TableView::OpenHeadingMenu);
@@ -117,7 +119,10 @@ void TableView::Connect() {
   grid_->Picked = [this](int row) { Act(row, false); };
   grid_->Opened = [this](int row) { Act(row, true); };
   grid_->Copied = [this] { CopyCsv(); };
-  grid_->Resized = [this] { FitColumns(); };
+  grid_->Resized = [this] {
+    if (table_.Follows()) FitColumns();
+  };
+  grid_->Moved = [this] { PlaceRowButtons(); };
   grid_->Typed = [this](const QString& letters) {
     if (searchRow_->isHidden()) return grid_->keyboardSearch(letters);
     search_->setFocus(Qt::ShortcutFocusReason);
@@ -160,7 +165,8 @@ void TableView::Rearrange() {
 
 void TableView::ShowSearchRow() {
   const bool filters = !table_.State().Search.empty() || !table_.State().Filters.empty();
-  searchRow_->setVisible(list_.Count() > kWorthSearching || filters);
+  const bool wide = list_.Count() > kWorthSearching && rowButtons_.empty();
+  searchRow_->setVisible(wide || filters);
   auto* count = static_cast<QLabel*>(count_);
   count->setText(!table_.Filtered()
                      ? QString()
@@ -181,7 +187,8 @@ void TableView::ShowSelection() {
 std::vector<int> TableView::NaturalWidths() const {
   std::vector<int> widths;
   for (const int column : table_.Columns()) {
-    int width = grid_->Heading().HeadingWidth(column);
+    const TableHeading& heading = grid_->Heading();
+    int width = std::max(heading.HeadingWidth(column), heading.minimumSectionSize());
     const auto kind = list_.Columns()[Index(column)].Kind;
     const ui::Cell* longest = nullptr;
     const int rows = model_.rowCount();
@@ -252,6 +259,7 @@ void TableView::FitColumns() {
   arranging_ = true;
   for (std::size_t i = 0; i < shown.size(); ++i) grid_->setColumnWidth(shown[i], widths[i]);
   arranging_ = was;
+  PlaceRowButtons();
 }
 
 void TableView::ApplyColumns() {
@@ -320,6 +328,29 @@ bool TableView::eventFilter(QObject* watched, QEvent* event) {
     return true;
   }
   return false;
+}
+
+void TableView::SetRowButtons(std::vector<ButtonView*> buttons) {
+  rowButtons_ = std::move(buttons);
+  ShowSearchRow();
+  PlaceRowButtons();
+}
+
+/// A button whose row is not shown stands out of sight.
+void TableView::PlaceRowButtons() {
+  if (rowButtons_.empty() || !table_.Follows()) return;
+  for (ButtonView* button : rowButtons_) button->move(-Px(1000), 0);
+  int column = -1;
+  for (const int shown : table_.Columns())
+    if (list_.Columns()[Index(shown)].Kind == ui::ColumnKind::Button) column = shown;
+  if (column < 0) return;
+  for (int row = 0; row < model_.rowCount(); ++row) {
+    const int key = table_.RowAt(row).Key;
+    if (key < 1 || key > static_cast<int>(rowButtons_.size())) continue;
+    const QRect cell = grid_->visualRect(model_.index(row, column));
+    const int side = Px(kCellSide), above = Px(4);
+    rowButtons_[Index(key - 1)]->setGeometry(cell.adjusted(side, above, -side, -above - 1));
+  }
 }
 
 void TableView::CopyCsv() const {

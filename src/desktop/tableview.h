@@ -8,6 +8,7 @@
 
 namespace grapplemont::desktop {
 
+class ButtonView;
 class PushButton;
 
 /// A ListBox: the grid, a search line above it once it is worth one, and the menus that filter and
@@ -20,6 +21,10 @@ class TableView : public QWidget, public ControlView {
   void Leave() override;
   /// The search line's row, for a page that has a better place for it.
   QWidget* TakeSearchRow();
+  /// Has these stand in the rows, by the rows' keys from 1.
+  void SetRowButtons(std::vector<ButtonView*> buttons);
+  /// What row buttons are children of.
+  QWidget* RowHolder() { return grid_->viewport(); }
   /// Puts the keyboard into the search line if it is there.
   bool FocusSearch();
 
@@ -43,6 +48,7 @@ class TableView : public QWidget, public ControlView {
   void RestorePlace();
   void Remember();
   void CopyCsv() const;
+  void PlaceRowButtons();
 
   // Menus, in tablemenu.cpp.
   void OpenHeadingMenu(const QPoint& at);
@@ -60,6 +66,7 @@ class TableView : public QWidget, public ControlView {
   QLineEdit* search_;
   QWidget* count_;
   PushButton* columns_;
+  std::vector<ButtonView*> rowButtons_;
   bool arranging_ = false;
   int currentKey_ = 0;
 };

@@ -272,7 +272,8 @@ std::vector<int> LosersOf(const Segment& segment) {
 int PartnerOf(const Segment& segment, int uid) {
   const int side = SideOf(segment, uid);
   if (side == 0) return 0;
-  for (const int member : SidesOf(segment)[static_cast<std::size_t>(side - 1)])
+  const auto sides = SidesOf(segment);
+  for (const int member : sides[static_cast<std::size_t>(side - 1)])
     if (member != uid) return member;
   return 0;
 }

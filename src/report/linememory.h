@@ -1,29 +1,22 @@
 #pragma once
 
-#include <map>
+#include <unordered_map>
 #include <vector>
+
+#include "records/draws.h"
 
 namespace grapplemont {
 
 /// Which lines a show has used, so that none comes again before the others of its band have.
 class LineMemory {
  public:
-  /// Counts the line as used. `lines` is how many its band has, `band` names the band.
-  void Use(const void* band, int line, int lines) {
-    std::vector<bool>& used = used_[band];
-    used.resize(static_cast<std::size_t>(lines));
-    used[static_cast<std::size_t>(line)] = true;
-    for (const bool each : used)
-      if (!each) return;
-    used.assign(used.size(), false);
-  }
-  bool Used(const void* band, int line) const {
-    const auto found = used_.find(band);
-    return found != used_.end() && found->second[static_cast<std::size_t>(line)];
-  }
+  /// A line of the band, from 0: the one that a draw of `lines` names, or, if the show has used it
+  /// already, one that a second draw picks among those it has not. Once all have been used, the
+  /// band begins anew. `band` tells the bands apart. Requires at least one line.
+  int Pick(Draws& draws, const void* band, int lines);
 
  private:
-  std::map<const void*, std::vector<bool>> used_;
+  std::unordered_map<const void*, std::vector<bool>> used_;
 };
 
 }  // namespace grapplemont

@@ -20,10 +20,10 @@ std::size_t SizeIndex(int size) {
 }
 
 constexpr EconomyFactor kEventEconomy[] = {
-    {86, 100, 110}, {20, 29, 90}, {10, 19, 80}, {kLowestEconomy, 9, 70}};
+    {86, kAnyHigh, 110}, {20, 29, 90}, {10, 19, 80}, {kAnyLow, 9, 70}};
 // A weekly show follows good times more than an Event, and bad ones later.
 constexpr EconomyFactor kTvEconomy[] = {
-    {91, 100, 120}, {81, 90, 110}, {10, 19, 80}, {kLowestEconomy, 9, 70}};
+    {91, kAnyHigh, 120}, {81, 90, 110}, {10, 19, 80}, {kAnyLow, 9, 70}};
 
 /// What a price does to the crowd, one step after the other on the last result.
 struct PriceStep {
@@ -46,14 +46,8 @@ BaseAndDraw InBand(const CrowdRow& row, int image) {
   return {row.Base[band], row.Draw[band]};
 }
 
-void Note(Attendance& attendance, const std::string& what, int people) {
-  if (people == attendance.People) return;
-  attendance.People = people;
-  attendance.Steps.push_back({what, people});
-}
-
 std::string PriceInWords(int off) {
-  return "Tickets " + Dollars(std::abs(off)) + (off < 0 ? " below" : " above") + " the fair price";
+  return "tickets " + Dollars(std::abs(off)) + (off < 0 ? " below" : " above") + " the fair price";
 }
 
 int PeopleAtPrice(int people, int off) {
@@ -62,15 +56,16 @@ int PeopleAtPrice(int people, int off) {
   return people;
 }
 
-Attendance GateOf(int crowd, const Gate& gate, std::span<const EconomyFactor> economy) {
-  Attendance attendance{crowd, {{"Size and image", crowd}}};
-  Note(attendance, "Economy " + std::to_string(gate.Economy),
-       ByEconomy(crowd, economy, gate.Economy));
+Score GateOf(int crowd, const Gate& gate, std::span<const EconomyFactor> economy) {
+  Score people;
+  people.Add(crowd, "size and image");
+  people.Become(ByEconomy(people, economy, gate.Economy),
+                "economy " + std::to_string(gate.Economy));
   const int off = gate.TicketPrice - FairTicketPrice(gate.Size);
-  Note(attendance, PriceInWords(off), PeopleAtPrice(attendance.People, off));
+  people.Become(PeopleAtPrice(people, off), PriceInWords(off));
   if (IsNobodysPrice(gate.Size, gate.TicketPrice))
-    Note(attendance, "Nobody pays " + Dollars(gate.TicketPrice), 0);
-  return attendance;
+    people.Become(0, "nobody pays " + Dollars(gate.TicketPrice));
+  return people;
 }
 
 Gate GateFor(const World& world, const Promotion& promotion) {
@@ -88,20 +83,20 @@ BaseAndDraw TvCrowd(int size, int image) {
   return InBand(TvCrowds[SizeIndex(size)], image);
 }
 
-Attendance EventGate(int crowd, const Gate& gate) {
+Score EventGate(int crowd, const Gate& gate) {
   return GateOf(crowd, gate, kEventEconomy);
 }
 
-Attendance TvGate(int crowd, const Gate& gate) {
+Score TvGate(int crowd, const Gate& gate) {
   return GateOf(crowd, gate, kTvEconomy);
 }
 
-Attendance EventAttendance(World& world, const Promotion& promotion, int type) {
+Score EventAttendance(World& world, const Promotion& promotion, int type) {
   return EventGate(Drawn(world, EventCrowd(type, promotion.Size, promotion.Image)),
                    GateFor(world, promotion));
 }
 
-Attendance TvAttendance(World& world, const Promotion& promotion) {
+Score TvAttendance(World& world, const Promotion& promotion) {
   return TvGate(Drawn(world, TvCrowd(promotion.Size, promotion.Image)), GateFor(world, promotion));
 }
 

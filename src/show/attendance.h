@@ -1,9 +1,7 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "records/baseanddraw.h"
+#include "show/score.h"
 
 // How many people come to a show. The promotion's standing decides, never the card: a good show
 // moves the image, and the image the crowd. Each figure is a base and a draw by size and image;
@@ -11,16 +9,6 @@
 // show/tvratings.h.
 
 namespace grapplemont {
-
-/// A crowd, and how it came about for whoever wants to know.
-struct Attendance {
-  struct Step {
-    std::string What;  // "Economy 95", "Tickets $45 above the fair price"
-    int People;        // that are left after it
-  };
-  int People = 0;
-  std::vector<Step> Steps;
-};
 
 /// The promotion's part in a crowd.
 struct Gate {
@@ -33,12 +21,12 @@ struct Gate {
 // too small for the type draws nobody, and nothing is drawn.
 BaseAndDraw EventCrowd(int type, int size, int image);
 BaseAndDraw TvCrowd(int size, int image);
-/// The crowd once the economy and the price have had their say.
-Attendance EventGate(int crowd, const Gate& gate);
-Attendance TvGate(int crowd, const Gate& gate);
+/// The people left once the economy and the price have had their say, with the reasons.
+Score EventGate(int crowd, const Gate& gate);
+Score TvGate(int crowd, const Gate& gate);
 /// Draws once. The present image counts, so the show must have moved it before.
-Attendance EventAttendance(World& world, const Promotion& promotion, int type);
-Attendance TvAttendance(World& world, const Promotion& promotion);
+Score EventAttendance(World& world, const Promotion& promotion, int type);
+Score TvAttendance(World& world, const Promotion& promotion);
 
 /// Whether so many dollars are more than anybody pays at this size.
 bool IsNobodysPrice(int size, int ticketPrice);

@@ -11,8 +11,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kTvRows = 11;
-constexpr int kEventRows = 9;
 constexpr int kFlatNightOdds = 8;
 
 ShowRun& Run(World& world) {
@@ -51,10 +49,6 @@ std::string ShowName(const World& world, bool isEvent) {
   }
   const Show* show = ShowOfToday(world);
   return show ? show->Name.Str() : std::string();
-}
-
-int RowsOf(bool isEvent) {
-  return isEvent ? kEventRows : kTvRows;
 }
 
 CommentaryTeam TvTeam(const World& world) {

@@ -21,7 +21,10 @@ const Event* EventOfToday(const World& world);
 /// What the show is called; empty when there is none.
 std::string ShowName(const World& world, bool isEvent);
 /// How many records of match.dat a sheet has.
-int RowsOf(bool isEvent);
+inline constexpr int kTvRows = 11, kEventRows = 9;
+constexpr int RowsOf(bool isEvent) {
+  return isEvent ? kEventRows : kTvRows;
+}
 /// The commentators of the player's television show of today.
 CommentaryTeam TvTeam(const World& world);
 /// "Bram Okafor" and so on; "None" for nobody.

@@ -11,7 +11,7 @@ struct ScoreStep {
   int Change = 0;
 };
 
-/// A percentage in the making, with its reasons. What is noted adds up to the number, since every
+/// A number in the making, with its reasons. What is noted adds up to the number, since every
 /// change goes through here.
 class Score {
  public:

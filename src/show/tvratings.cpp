@@ -30,7 +30,7 @@ constexpr RateBand kGlobalRates[] = {
 constexpr std::array<std::span<const RateBand>, 4> kBuyRates = {kGlobalRates, kNationalRates,
                                                                 kCultRates, kRegionalRates};
 
-constexpr EconomyFactor kBuyRateEconomy[] = {{20, 29, 90}, {10, 19, 80}, {kLowestEconomy, 9, 70}};
+constexpr EconomyFactor kBuyRateEconomy[] = {{20, 29, 90}, {10, 19, 80}, {kAnyLow, 9, 70}};
 constexpr int kDollarsPerBuy = 25000;
 
 // By size from Global to Small; by the image up to 20, 30 and so on to 100.
@@ -48,7 +48,7 @@ constexpr std::array<RatingRow, 5> kTvRatings = {{
 constexpr BaseAndDraw kBackyardRating = {1, 2};
 
 constexpr EconomyFactor kTvEconomy[] = {
-    {91, 100, 120}, {81, 90, 110}, {10, 19, 90}, {kLowestEconomy, 9, 80}};
+    {91, kAnyHigh, 120}, {81, 90, 110}, {10, 19, 90}, {kAnyLow, 9, 80}};
 
 }  // namespace
 

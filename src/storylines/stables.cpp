@@ -2,7 +2,22 @@
 
 #include <algorithm>
 
+#include "records/modWresCheck.h"
+#include "storylines/storynames.h"
+
 namespace grapplemont {
+
+namespace {
+
+bool IsPlayers(const World& world, const Stable& stable) {
+  return stable.Owner == world.PlayerUid();
+}
+
+bool IsIn(const World& world, const Worker& worker, std::string_view stable) {
+  return worker.Employer != 0 && worker.Employer == world.PlayerUid() && worker.Stable == stable;
+}
+
+}  // namespace
 
 std::vector<const Worker*> StableMembers(const World& world, std::string_view stable) {
   std::vector<const Worker*> members;
@@ -25,6 +40,61 @@ const Worker* StableLeader(const World& world, std::string_view stable) {
         return a->Over != b->Over ? a->Over > b->Over : a->Uid < b->Uid;
       });
   return leader == members.end() ? nullptr : *leader;
+}
+
+std::vector<const Stable*> PlayerStables(const World& world) {
+  std::vector<const Stable*> stables;
+  for (const Stable& stable : world.Stables())
+    if (IsPlayers(world, stable)) stables.push_back(&stable);
+  return stables;
+}
+
+std::string WhyNotStableName(const World& world, std::string_view name) {
+  if (std::string why = WhyNoName(name); !why.empty()) return why;
+  if (FindStable(world, name)) return "There is a stable called " + std::string(name) + " already.";
+  return world.Stables().Full() ? "No more stables can be kept." : "";
+}
+
+void FoundStable(World& world, std::string_view name) {
+  Stable stable;
+  stable.Name = name;
+  stable.Owner = world.PlayerUid();
+  world.Stables().Append(stable);
+}
+
+void RenameStable(World& world, std::string_view from, std::string_view to) {
+  const std::string before(from);  // may lie in the record that changes
+  for (Worker& worker : world.Workers())
+    if (IsIn(world, worker, before)) worker.Stable = to;
+  for (Segment& segment : world.Segments())
+    if (segment.Text == before) segment.Text = to;
+  for (Stable& stable : world.Stables())
+    if (IsPlayers(world, stable) && stable.Name == before) stable.Name = to;
+}
+
+void DissolveStable(World& world, std::string_view stable) {
+  const std::string name(stable);
+  for (Worker& worker : world.Workers())
+    if (IsIn(world, worker, name)) LeaveStable(worker);
+  world.Stables().Keep(
+      [&](const Stable& kept) { return !(IsPlayers(world, kept) && kept.Name == name); });
+}
+
+std::string WhyNotJoin(const World& world, std::string_view stable, const Worker& worker) {
+  if (worker.Stable == stable) return worker.Name + " is in " + std::string(stable) + " already.";
+  if (!(worker.Stable == "None"))
+    return worker.Name + " belongs to " + worker.Stable.Str() + ". Take him out of it first.";
+  if (static_cast<int>(StableMembers(world, stable).size()) >= kFullStable)
+    return std::string(stable) + " has ten members, and that is as many as a stable can have.";
+  return {};
+}
+
+void JoinStable(Worker& worker, std::string_view stable) {
+  worker.Stable = stable;
+}
+
+void LeaveStable(Worker& worker) {
+  worker.Stable = "None";
 }
 
 }  // namespace grapplemont

@@ -45,9 +45,7 @@ int ShowsAYear(const World& world, const Promotion& promotion) {
 
 void AddTickets(const World& world, const Promotion& promotion, MonthMoney& money) {
   const Gate gate{promotion.Size, FairTicketPrice(promotion.Size), kEvenEconomy};
-  const auto paid = [&](const Attendance& attendance) {
-    return static_cast<long long>(attendance.People) * gate.TicketPrice;
-  };
+  const auto paid = [&](int people) { return static_cast<long long>(people) * gate.TicketPrice; };
   money.TvTickets = paid(TvGate(Mean(TvCrowd(promotion.Size, promotion.Image)), gate)) *
                     ShowsAYear(world, promotion) / kMonths;
   for (const Event& event : world.Events()) {

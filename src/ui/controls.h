@@ -172,7 +172,8 @@ enum class ColumnKind {
   Number,   // right-aligned, sorted by Cell::Number
   Percent,  // a bar with the number beside it, green to amber to red
   Tag,      // one of a few words in a frame, by the cell's tone
-  Date      // sorted by Cell::Number (day count)
+  Date,     // sorted by Cell::Number (day count)
+  Button    // empty cells, in which the buttons of the rows stand (layout.h, WithButtons)
 };
 
 struct Column {
@@ -264,7 +265,8 @@ class Chart : public Control {
 /// Long prose in paragraphs. `Text` holds the same, a paragraph a line.
 class Report : public Control {
  public:
-  enum class Style { Body, Heading, Strong, Muted };
+  /// Body is prose; Line is a short fact in the letters of tables.
+  enum class Style { Body, Heading, Strong, Muted, Line };
   struct Paragraph {
     Style As = Style::Body;
     std::string Words;

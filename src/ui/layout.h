@@ -52,6 +52,12 @@ inline Box Field(std::string label, Control& control) {
 inline Box Grow(Control& control, int share = 1) {
   return Box(control).Grow(share);
 }
+/// A table in whose rows buttons stand: the n-th in the row of the key n, in the column for them.
+inline Box WithButtons(ListBox& list, const std::vector<Button*>& buttons) {
+  Box box(list);
+  for (Button* button : buttons) box.Parts.emplace_back(*button);
+  return box;
+}
 inline Box Spacer() {
   return {};
 }
@@ -74,6 +80,7 @@ struct Page {
   std::vector<Button*> Actions = {};
   Button* Main = nullptr;
   Button* Cancel = nullptr;
+  bool Large = false;  // a dialog that wants nearly the whole window, whatever is in it
   Box Body = {};
   // The hub alone: its commands, and what the top bar always says.
   std::vector<SideGroup> Side = {};

@@ -46,6 +46,8 @@ class Table {
 
   /// Follows a change of the list's contents; true when there was one.
   bool Follow();
+  /// False between a change of the list and Follow: then rows may be gone that are still shown.
+  bool Follows() const { return seen_ == list_.Contents(); }
   const std::vector<int>& Rows() const { return rows_; }
   const std::vector<int>& Columns() const { return columns_; }
   /// An empty cell where the row has none.

@@ -39,7 +39,8 @@ TEST(MerchandiseSales, AreCappedByTheLevelAndThenFollowTheEconomy) {
       {kRegional, 65, 33, 81, 871'200},   {kRegional, 65, 33, 80, 792'000},
       {kRegional, 65, 33, 20, 792'000},   {kRegional, 65, 33, 19, 673'200},
       {kRegional, 65, 33, 10, 673'200},   {kRegional, 65, 33, 9, 594'000},
-      {kRegional, 65, 33, 0, 594'000},
+      {kRegional, 65, 33, 0, 594'000},    {kRegional, 65, 33, -4, 594'000},
+      {kRegional, 65, 33, 103, 950'400},
   };
   for (const Case& c : kCases) {
     Promotion promotion;

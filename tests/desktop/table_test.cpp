@@ -53,6 +53,18 @@ TEST_F(TheTableInTheWindow, DoesNotPickByHavingTheKeyboardAlone) {
   EXPECT_EQ(Notes, Log());
 }
 
+TEST_F(TheTableInTheWindow, ShowsTheRowThatItOpensWith) {
+  Page = new PeoplePage(Play.Desk, Notes, false);
+  for (int more = 0; more < 60; ++more) Page->lstpeople.Add({"", "More", "", 1}, 200 + more);
+  Page->lstpeople.SelectKey(240);
+  Play.Desk.Open(std::unique_ptr<ui::Screen>(Page));
+  Play.Window.Sync();
+  QApplication::processEvents();
+  desktop::TableGrid& grid = Play.Grid("lstpeople");
+  EXPECT_EQ(grid.CurrentRow(), 50);
+  EXPECT_TRUE(grid.viewport()->rect().contains(grid.visualRect(grid.currentIndex())));
+}
+
 TEST_F(TheTableInTheWindow, SortsByAClickOnAHeadingAndPicksWhatIsSeen) {
   Open();
   Play.ClickHeading("lstpeople", 1);

@@ -91,10 +91,10 @@ TEST(Gates, FollowTheEconomy) {
   constexpr int kCases[][3] = {
       {100, 1094, 1194}, {91, 1094, 1194}, {90, 1094, 1094}, {86, 1094, 1094}, {85, 995, 1094},
       {81, 995, 1094},   {80, 995, 995},   {30, 995, 995},   {29, 895, 995},   {20, 895, 995},
-      {19, 796, 796},    {10, 796, 796},   {9, 696, 696},    {0, 696, 696}};
+      {19, 796, 796},    {10, 796, 796},   {9, 696, 696},    {0, 696, 696},    {-5, 696, 696}};
   for (const auto& [economy, event, tv] : kCases) {
-    EXPECT_EQ(EventGate(995, {kCult, 30, economy}).People, event) << economy;
-    EXPECT_EQ(TvGate(995, {kCult, 30, economy}).People, tv) << economy;
+    EXPECT_EQ(EventGate(995, {kCult, 30, economy}), event) << economy;
+    EXPECT_EQ(TvGate(995, {kCult, 30, economy}), tv) << economy;
   }
 }
 
@@ -105,30 +105,32 @@ TEST(Gates, FollowThePriceStepByStep) {
                                {15, 717},   {16, 501},   {20, 501},   {21, 300},  {25, 300},
                                {26, 150},   {30, 150},   {31, 60},    {90, 60}};
   for (const auto& [off, people] : kCases) {
-    EXPECT_EQ(EventGate(997, {kNational, 40 + off, 60}).People, people) << off;
-    EXPECT_EQ(TvGate(997, {kGlobal, 60 + off, 60}).People, people) << off;
+    EXPECT_EQ(EventGate(997, {kNational, 40 + off, 60}), people) << off;
+    EXPECT_EQ(TvGate(997, {kGlobal, 60 + off, 60}), people) << off;
   }
 }
 
 TEST(Gates, StayEmptyAtAPriceThatNobodyPays) {
   constexpr int kLimits[][2] = {{kCult, 71}, {kRegional, 51}, {kSmall, 26}, {kBackyard, 16}};
   for (const auto& [size, limit] : kLimits) {
-    EXPECT_EQ(EventGate(10000, {size, limit, 60}).People, 0) << size;
-    EXPECT_EQ(TvGate(10000, {size, limit, 60}).People, 0) << size;
-    EXPECT_GT(EventGate(10000, {size, limit - 1, 60}).People, 0) << size;
+    EXPECT_EQ(EventGate(10000, {size, limit, 60}), 0) << size;
+    EXPECT_EQ(TvGate(10000, {size, limit, 60}), 0) << size;
+    EXPECT_GT(EventGate(10000, {size, limit - 1, 60}), 0) << size;
   }
   for (const int size : {kGlobal, kNational})
-    EXPECT_GT(EventGate(10000, {size, 1000, 60}).People, 0) << size;
+    EXPECT_GT(EventGate(10000, {size, 1000, 60}), 0) << size;
 }
 
 TEST(Gates, TellHowTheirCrowdCameAbout) {
-  const Attendance gate = EventGate(1000, {kRegional, 52, 95});
+  const Score gate = EventGate(1000, {kRegional, 52, 95});
   std::string told;
-  for (const auto& step : gate.Steps) told += step.What + ": " + std::to_string(step.People) + "\n";
+  for (const ScoreStep& step : gate.Steps())
+    told += step.Why + " " + std::to_string(step.Change) + "\n";
   EXPECT_EQ(told,
-            "Size and image: 1000\nEconomy 95: 1100\nTickets $32 above the fair price: 66\n"
-            "Nobody pays $52: 0\n");
-  EXPECT_EQ(EventGate(1000, {kRegional, 20, 60}).Steps.size(), 1u) << "what does nothing is silent";
+            "size and image 1000\neconomy 95 100\ntickets $32 above the fair price -1034\n"
+            "nobody pays $52 -66\n");
+  EXPECT_EQ(EventGate(1000, {kRegional, 20, 60}).Steps().size(), 1u)
+      << "what does nothing is silent";
 }
 
 TEST(Attendance, DrawsOnceOnTopOfTheBase) {
@@ -138,11 +140,11 @@ TEST(Attendance, DrawsOnceOnTopOfTheBase) {
   promotion.TicketPrice = 30;
   world.Game().Economy = 25;
   ScriptDraws(world, {{100, 60}, {50, 7}, {20, 20}});
-  EXPECT_EQ(EventAttendance(world, promotion, 2).People, (2000 + 60) * 9 / 10);
-  EXPECT_EQ(EventAttendance(world, promotion, 3).People, (700 + 7) * 9 / 10);
-  EXPECT_EQ(TvAttendance(world, promotion).People, 400);
+  EXPECT_EQ(EventAttendance(world, promotion, 2), (2000 + 60) * 9 / 10);
+  EXPECT_EQ(EventAttendance(world, promotion, 3), (700 + 7) * 9 / 10);
+  EXPECT_EQ(TvAttendance(world, promotion), 400);
   promotion.Size = kSmall;
-  EXPECT_EQ(EventAttendance(world, promotion, 1).People, 0) << "and nothing was drawn";
+  EXPECT_EQ(EventAttendance(world, promotion, 1), 0) << "and nothing was drawn";
 }
 
 TEST(Events, CostByTheirType) {

@@ -53,8 +53,8 @@ TEST(BuyRate, IsTheWholeTable) {
 }
 
 TEST(BuyRate, FollowsAPoorEconomyOnly) {
-  constexpr int kCases[][2] = {{100, 123}, {30, 123}, {29, 110}, {20, 110},
-                               {19, 98},   {10, 98},  {9, 86},   {0, 86}};
+  constexpr int kCases[][2] = {{105, 123}, {100, 123}, {30, 123}, {29, 110}, {20, 110},
+                               {19, 98},   {10, 98},   {9, 86},   {0, 86},   {-6, 86}};
   for (const auto& [economy, rate] : kCases) EXPECT_EQ(BuyRateByEconomy(123, economy), rate);
 }
 
@@ -92,8 +92,8 @@ TEST(TvRating, IsTheWholeTable) {
 }
 
 TEST(TvRating, FollowsTheEconomyAboveTheBackyard) {
-  constexpr int kCases[][2] = {{100, 246}, {91, 246}, {90, 225}, {81, 225}, {80, 205},
-                               {20, 205},  {19, 184}, {10, 184}, {9, 164},  {0, 164}};
+  constexpr int kCases[][2] = {{104, 246}, {100, 246}, {91, 246}, {90, 225}, {81, 225}, {80, 205},
+                               {20, 205},  {19, 184},  {10, 184}, {9, 164},  {0, 164},  {-3, 164}};
   for (const auto& [economy, rating] : kCases) {
     EXPECT_EQ(TvRatingByEconomy(205, kSmall, economy), rating) << economy;
     EXPECT_EQ(TvRatingByEconomy(205, kBackyard, economy), 205) << economy;

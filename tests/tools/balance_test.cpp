@@ -32,8 +32,11 @@ TEST(Balance, LetsNobodyStartInRuin) {
 TEST(Balance, MakesNobodyRichWithoutWork) {
   for (const auto& balance : tools::BalanceOf(DefaultWorld()))
     if (balance.Of->Size < kBackyard) {
-      EXPECT_GE(balance.AsPlayers.CostsPerHundred(), 55) << balance.Of->Initials.Str();
-      EXPECT_GE(balance.AsRival.CostsPerHundred(), 55) << balance.Of->Initials.Str();
+      EXPECT_GE(balance.AsPlayers.CostsPerHundred(), 60) << balance.Of->Initials.Str();
+      EXPECT_GE(balance.AsRival.CostsPerHundred(), 60) << balance.Of->Initials.Str();
+      // A year of waiting must not win more than one and a half times what there was.
+      const auto won = balance.AsPlayers.Income() - balance.AsPlayers.Costs();
+      EXPECT_LE(2 * 12 * won, 3LL * balance.Of->Money) << balance.Of->Initials.Str();
     }
 }
 

@@ -216,6 +216,13 @@ TEST(DefaultWorld, PaysByPlaceAndSize) {
     const auto roster = WorkersOf(promotion, Wrestles);
     for (const Worker* worker : roster)
       EXPECT_LE(worker->Wage, kMostOfSize[promotion.Size - 1]) << Utf8(worker->Name);
+    // Who stands clearly below another does not earn clearly more.
+    for (const Worker* one : roster)
+      for (const Worker* other : roster)
+        if (one->Position > other->Position && one->Over < other->Over - 10) {
+          EXPECT_LE(one->Wage, other->Wage + other->Wage / 2 + 5)
+              << Utf8(one->Name) << " against " << Utf8(other->Name);
+        }
     double above = 1e9;
     for (int place = kMainEvent; place <= kJobber; ++place) {
       const auto here = WorkersOf(promotion, [=](const Worker& w) { return w.Position == place; });
@@ -321,6 +328,25 @@ TEST(DefaultWorld, GivesTitlesToThoseWhoCarryThem) {
     }
     ASSERT_TRUE(world.FindWorker(top->Holder)) << Utf8(top->Name);
     EXPECT_EQ(world.FindWorker(top->Holder)->Position, kMainEvent) << Utf8(top->Name);
+  }
+}
+
+TEST(DefaultWorld, HasTeamsAndStablesEverywhere) {
+  const World& world = DefaultWorld();
+  std::map<int, int> teams, stables;
+  for (const Team& team : world.Teams()) {
+    const Worker *one = world.FindWorker(team.Worker1), *other = world.FindWorker(team.Worker2);
+    EXPECT_FALSE(team.Finisher.View().empty()) << Utf8(team.Name);
+    if (one->Employer == other->Employer) ++teams[one->Employer];
+  }
+  for (const Stable& stable : world.Stables()) {
+    ++stables[stable.Owner];
+    EXPECT_GE(CountIf(world.Workers(), [&](auto& w) { return w.Stable == stable.Name.View(); }), 2)
+        << Utf8(stable.Name);
+  }
+  for (const Promotion& promotion : world.Promotions()) {
+    EXPECT_GE(teams[promotion.Uid], 2) << promotion.Initials.Str();
+    EXPECT_GE(stables[promotion.Uid], 1) << promotion.Initials.Str();
   }
 }
 

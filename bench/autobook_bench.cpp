@@ -1,0 +1,76 @@
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+
+#include "bench/worlds.h"
+#include "booking/autobooker.h"
+#include "records/disk.h"
+#include "records/segments.h"
+
+// A card of the auto booker for a roster of 120, beside a baseline: the rosters that the wizard's
+// lists show for the same card, each read from the file record by record.
+
+namespace grapplemont {
+namespace {
+
+constexpr int kRoster = 120, kShowRows = 11, kEventRows = 9;
+
+/// The world with the player's roster filled up by free agents, in feuds and in shape.
+World FullHouse(bool large) {
+  World world = bench::StartedWorld(large, bench::kSomeDay);
+  int roster = 0;
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer == 0 && roster < kRoster && worker.Status == "Nor") {
+      worker.Employer = world.PlayerUid();
+      worker.Position = 1 + roster % kJobber;
+      worker.Debuted = true;
+    }
+    roster += worker.Employer == world.PlayerUid();
+  }
+  return world;
+}
+
+void BM_AutoBook(benchmark::State& state) {
+  const bool isEvent = state.range(0) != 0;
+  World world = FullHouse(state.range(1) != 0);
+  for (auto _ : state)
+    benchmark::DoNotOptimize(AutoBook(world, isEvent, isEvent ? kEventRows : kShowRows));
+  state.SetLabel(std::string(isEvent ? "Event" : "show") +
+                 (state.range(1) ? ", largest world" : ", default world"));
+}
+BENCHMARK(BM_AutoBook)->ArgsProduct({{0, 1}, {0, 1}})->Unit(benchmark::kMicrosecond);
+
+/// How often the wizard's steps list the roster for the card: once for each place, and for the
+/// run-ins of finish and aftermath.
+int ListsFor(const AutoCard& card) {
+  int lists = 0;
+  for (const Segment& row : card.Rows)
+    lists += static_cast<int>(PeopleOf(row).size()) + (row.Kind == kMatch ? 2 : 0);
+  return lists;
+}
+
+void BM_AutoBookBaseline(benchmark::State& state) {
+  World world = FullHouse(false);
+  const int lists = ListsFor(AutoBook(world, false, kShowRows));
+  const auto disk = RealDisk();
+  const std::string path =
+      (std::filesystem::temp_directory_path() / "grapplemont-bench-wrestlers").string();
+  for (NewFile& file : FilesOf(world))
+    if (file.Name == "wrestler.dat") WriteFile(*disk, path, file.Contents);
+  for (auto _ : state)
+    for (int list = 0; list < lists; ++list) {
+      const auto file = disk->Open(path, false);
+      Worker worker;
+      for (int number = 0; number < world.Workers().Count(); ++number) {
+        disk->ReadAt(file, number * static_cast<std::int64_t>(sizeof worker),
+                     std::as_writable_bytes(std::span(&worker, 1)));
+        benchmark::DoNotOptimize(worker);
+      }
+      disk->Close(file);
+    }
+  std::filesystem::remove(path);
+}
+BENCHMARK(BM_AutoBookBaseline)->Unit(benchmark::kMicrosecond)->Iterations(3);
+
+}  // namespace
+}  // namespace grapplemont

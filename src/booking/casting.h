@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "booking/roster.h"
+#include "records/angles.h"
+
+// Angles: which are offered, and whom their roles may be cast with.
+
+namespace grapplemont {
+
+/// Whether the player's promotion can do the angle today: its Risk, its Size, a Commissioner, the
+/// date. Writers are not looked at.
+bool IsOffered(const World& world, const Angle& angle);
+/// All that are, in the order of their numbers.
+std::vector<const Angle*> OfferedAngles(const World& world);
+
+/// Somebody or something that a role may be cast with.
+struct Candidate {
+  std::string Name;
+  int Uid = 0;  // of a worker; 0 for a stable or a Title
+};
+/// All of them, in the order of their file. `turnsIn` is the angle: what a team turns to decides
+/// who is waiting for it.
+std::vector<Candidate> CandidatesFor(const World& world, Casting from, int turnsIn,
+                                     const BookingView& view);
+/// What a role's list says when there is nobody: "No women available".
+std::string_view NobodyFor(Casting from);
+
+/// Whether one of the player's Titles waits for a holder; a singles Title or one for a team.
+bool IsVacantTitle(const World& world, const Title& title, bool singles);
+
+bool IsUsed(const Role& role);
+/// Puts a candidate into the angle: a worker at the role's place, a stable or a Title by its name.
+void Cast(Segment& segment, const Role& role, const Candidate& candidate);
+/// Whether somebody or something stands in the role.
+bool IsCast(const Segment& segment, const Role& role);
+
+}  // namespace grapplemont

@@ -1,0 +1,78 @@
+#include "booking/debuts.h"
+
+#include <algorithm>
+
+#include "records/angles.h"
+#include "records/dates.h"
+#include "records/modWresCheck.h"
+#include "records/segments.h"
+
+namespace grapplemont {
+
+namespace {
+
+struct MatchWay {
+  std::string_view How;
+  bool AsRunIn;  // open to those who do not wrestle
+};
+constexpr MatchWay kMatchWays[] = {
+    {"1 vs 1, with the purpose \"Debut\" as one of the two", false},
+    {"1 vs 1, running in at the finish or after it, with the purpose \"Debut\"", true},
+    {"2 vs 2, with the purpose \"Debut\" as one of the four or as a team", false},
+    {"2 vs 2, running in at the finish or after it, with the purpose \"Debut\"", true},
+};
+
+bool IsSeenOnShows(const Worker& worker) {
+  return IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
+}
+
+/// Whether an angle has a part that only somebody like this worker can be cast in.
+bool HasPartFor(const Angle& angle, const Worker& worker) {
+  return std::any_of(angle.Roles.begin(), angle.Roles.end(), [&](const Role& role) {
+    if (role.Caption.empty()) return false;
+    return role.From == Casting::Debuts ||
+           (role.From == Casting::DebutManagers && worker.Position == kManager);
+  });
+}
+
+std::string WhyNotToday(const World& world, const Angle& angle) {
+  const Promotion& player = world.Player();
+  if (player.Risk <= angle.RiskOver)
+    return "The risk level must be over " + std::to_string(angle.RiskOver) + ".";
+  if (player.Size >= angle.SizeUnder) return "The promotion is too small for it.";
+  if (angle.NeedsCommissioner && player.Commissioner == 0) return "There is no Commissioner.";
+  const std::string today = std::to_string(DayOfMonth(world.Today())) + " " +
+                            std::string(MonthName(MonthOf(world.Today())));
+  if (!angle.Date.empty() && angle.Date != today) return "Only on " + std::string(angle.Date) + ".";
+  return {};
+}
+
+}  // namespace
+
+std::vector<const Worker*> WaitingForDebut(const World& world) {
+  std::vector<const Worker*> waiting;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer != 0 && worker.Employer == world.PlayerUid() && !worker.Debuted &&
+        IsSeenOnShows(worker))
+      waiting.push_back(&worker);
+  std::stable_sort(waiting.begin(), waiting.end(),
+                   [](const Worker* a, const Worker* b) { return a->Over > b->Over; });
+  return waiting;
+}
+
+std::vector<DebutWay> WaysToDebut(const World& world, const Worker& worker) {
+  const std::string unfit =
+      worker.Status == "Nor" ? "" : worker.Name + ": " + StatusLine(worker) + ".";
+  std::vector<DebutWay> ways;
+  for (const MatchWay& way : kMatchWays)
+    if (worker.Position != kNonWrestler || way.AsRunIn)
+      ways.push_back({"Match", std::string(way.How), unfit});
+  for (const Angle& angle : AllAngles()) {
+    if (!HasPartFor(angle, worker)) continue;
+    const std::string why = unfit.empty() ? WhyNotToday(world, angle) : unfit;
+    ways.push_back({"Angle", std::string(angle.Says), why});
+  }
+  return ways;
+}
+
+}  // namespace grapplemont

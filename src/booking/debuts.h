@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/world.h"
+
+// Who has not been seen yet, and how a show can bring him out.
+
+namespace grapplemont {
+
+/// Everybody of the player's who waits for his first appearance, the most popular first.
+std::vector<const Worker*> WaitingForDebut(const World& world);
+
+/// A way to bring somebody out.
+struct DebutWay {
+  std::string Kind;    // "Match" or "Angle"
+  std::string How;     // what the wizard calls it
+  std::string WhyNot;  // why it cannot be done today; empty when it can
+};
+/// Every way there is for this worker.
+std::vector<DebutWay> WaysToDebut(const World& world, const Worker& worker);
+
+}  // namespace grapplemont

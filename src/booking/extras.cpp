@@ -1,0 +1,70 @@
+#include "booking/extras.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr EventExtra kEventExtras[] = {
+    // size, name, cost, bonus up to
+    {kBackyard, "Local College Band To Play", 1000, 0},
+    {kBackyard, "Hire A Better Ring", 5000, 30},
+    {kSmall, "Local Band To Play", 20000, 5},
+    {kSmall, "Have The Event Logo On The Ring Apron", 30000, 0},
+    {kRegional, "Well-Known Band To Play", 60000, 10},
+    {kRegional, "Have The Event Logo On The Ring Apron", 30000, 0},
+    {kRegional, "Have Pyros For Ring Entrances", 80000, 0},
+    {kCult, "Have Special On-Screen Graphics", 70000, 5},
+    {kCult, "Have A New-Look Ring", 125000, 5},
+    {kCult, "Have A Spectacular Pyro Opening", 100000, 5},
+    {kCult, "Hire A Big-Screen For This Event", 500000, 15},
+    {kNational, "Top National Band To Play", 1500000, 0},
+    {kNational, "Famous Celebrity As Ring Announcer", 1000000, 0},
+    {kNational, "Have A New-Look Ring", 125000, 5},
+    {kNational, "Hold A Fan-Festival Beforehand", 2000000, 30},
+    {kGlobal, "World Famous Rock Band To Play", 4000000, 0},
+    {kGlobal, "World Famous Celebrity As Ring Announcer", 4000000, 0},
+    {kGlobal, "Have A Specially-Designed Set", 1000000, 15},
+    {kGlobal, "Hold A Fan-Festival Beforehand", 2000000, 30},
+    {kGlobal, "'Theme' The Entire Event", 3000000, 20},
+};
+
+}  // namespace
+
+std::vector<const EventExtra*> ExtrasFor(const Promotion& promotion) {
+  std::vector<const EventExtra*> extras;
+  for (const EventExtra& extra : kEventExtras)
+    if (extra.Size == promotion.Size) extras.push_back(&extra);
+  return extras;
+}
+
+int CostOfExtra(std::string_view name) {
+  int cost = 0;
+  for (const EventExtra& extra : kEventExtras)
+    if (extra.Name == name) cost = extra.Cost;
+  return cost;
+}
+
+std::vector<const Staff*> CommentaryStaff(const World& world) {
+  std::vector<const Staff*> announcers;
+  for (const Staff& staff : world.AllStaff())
+    if (staff.Employer == world.PlayerUid() && staff.Position == kAnnouncer)
+      announcers.push_back(&staff);
+  return announcers;
+}
+
+std::vector<const Worker*> CommentaryWorkers(const World& world) {
+  std::vector<const Worker*> workers;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid() && worker.Announcer && worker.Status == "Nor")
+      workers.push_back(&worker);
+  return workers;
+}
+
+void StartEvent(World& world, const CommentaryTeam& team, const EventExtra* extra) {
+  StartShow(world, true, team);
+  if (!extra) return;
+  world.Player().Money -= CostOfExtra(extra->Name);
+  if (extra->Bonus > 0) AddExtraBonus(world, world.RandomDraw(extra->Bonus));
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "records/world.h"
+#include "show/holdshow.h"
+
+// What an Event can have beside its card: extras for money, and who sits at the table.
+
+namespace grapplemont {
+
+/// An extra that promotions of one size can buy for an Event.
+struct EventExtra {
+  int Size;
+  std::string_view Name;
+  int Cost;   // dollars, as this row has it; see CostOfExtra
+  int Bonus;  // the show's sum gains a draw of 1 to this; 0 for nothing
+};
+std::vector<const EventExtra*> ExtrasFor(const Promotion& promotion);
+/// What an extra of this name costs, in dollars: the last of the price list's rows that has the
+/// name, whatever size it stands for. 0 for an unknown name.
+int CostOfExtra(std::string_view name);
+
+/// The player's announcers.
+std::vector<const Staff*> CommentaryStaff(const World& world);
+/// The player's workers who could do the colour.
+std::vector<const Worker*> CommentaryWorkers(const World& world);
+
+/// Begins today's Event: the show, then the money of the extra, then what it brings. `extra` is
+/// nullptr for none. Draws once, and once more for an extra with a bonus.
+void StartEvent(World& world, const CommentaryTeam& team, const EventExtra* extra);
+
+}  // namespace grapplemont

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "records/world.h"
+#include "show/forecast.h"
+#include "ui/game.h"
+
+namespace grapplemont {
+
+/// What both booking sheets share: the rows of match.dat, what stands in the selected one, what the
+/// show may come to, who is still free, and the screens at the sheet's side.
+class SheetScreen : public ui::Screen {
+ public:
+  ui::Page Layout() override;
+  void Load() override;
+  void Return() override;
+
+ protected:
+  SheetScreen(Game& game, std::string name, bool isEvent);
+
+  World& world() { return game_.World(); }
+  /// Who sits at the table, as things stand on the sheet.
+  virtual CommentaryTeam Team() = 0;
+  /// The line under the title.
+  virtual std::string Facts() = 0;
+  /// Rows of the table that are no Segment, above them all.
+  virtual std::string TopRow() = 0;
+  /// Asks, and begins the show in the world; false when it does not come to that.
+  virtual bool Begin() = 0;
+  /// Buttons that stand before the others, and boxes below the rows.
+  virtual std::vector<ui::Button*> FirstActions() { return {}; }
+  virtual std::vector<ui::Box> BelowRows() { return {}; }
+
+  void RefreshSheet();
+  void ShowForecast();
+
+ private:
+  const Segment& Row(int record) { return world().Segments()[record]; }
+  int OpenRows();
+  void FillRows();
+  std::vector<ui::Cell> CellsOf(int record);
+  void ShowButton(int record);
+  void ShowCounts();
+  void ShowFree();
+  void ShowRow();
+  bool HasEmptyRow();
+
+  void cmdbook_Click(int record);
+  void lstrows_Open();
+  void lstfree_Open();
+  void cmdfill_Click();
+  void cmddoshow_Click();
+  void cmdback_Click();
+  void cmdcancel_Click();
+  ui::Handler Opens(const char* screen) {
+    return [this, screen] { desk().Open(screen); };
+  }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  const bool isEvent_;
+  grapplemont::ShowForecast forecast_;
+
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ListBox lstrows;
+  ui::Array<ui::Button> cmdbook;
+  ui::Label lblwarn{*this, "lblwarn"};
+  ui::Label lblcount{*this, "lblcount"};
+  ui::Report txtrow{*this, "txtrow"};
+  ui::Label lblforecast{*this, "lblforecast"};
+  ui::Label lblwarnings{*this, "lblwarnings"};
+  ui::ListBox lstfree;
+  ui::Button cmddebut{*this, "cmddebut", "Debuts", Opens("frmDebut")};
+  ui::Button cmdfeuds{*this, "cmdfeuds", "Feuds", Opens("frmFeuds")};
+  ui::Button cmdmanagers{*this, "cmdmanagers", "Managers", Opens("frmManagers")};
+  ui::Button cmdroster{*this, "cmdroster", "Roster", Opens("frmAltRoster")};
+  ui::Button cmdstables{*this, "cmdstables", "Stables", Opens("frmStables")};
+  ui::Button cmdstats{*this, "cmdstats", "Stats", Opens("frmQuickStat")};
+  ui::Button cmdteams{*this, "cmdteams", "Teams", Opens("frmTagTeams")};
+  ui::Button cmdtitles{*this, "cmdtitles", "Titles", Opens("frmAltBelts")};
+  ui::Button cmdturns{*this, "cmdturns", "Turns", Opens("frmTurn")};
+  ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", Opens("frmNotepad")};
+  ui::Button cmdfill{*this, "cmdfill", "Fill The Rest", &SheetScreen::cmdfill_Click};
+  ui::Button cmdcancel{*this, "cmdcancel", "Cancel Show", &SheetScreen::cmdcancel_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", &SheetScreen::cmdback_Click};
+  ui::Button cmddoshow{*this, "cmddoshow", "Start The Show!", &SheetScreen::cmddoshow_Click};
+};
+
+}  // namespace grapplemont

@@ -1,0 +1,223 @@
+#include "report/cast.h"
+
+#include <algorithm>
+
+#include "records/angles.h"
+#include "records/modWresCheck.h"
+#include "records/segments.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kFullAgain = 6;  // mentions from one full name to the next
+
+bool IsBlank(char letter) {
+  return static_cast<unsigned char>(letter) <= ' ';
+}
+
+int WorkerAt(const Segment& segment, int place) {
+  return segment.Worker[static_cast<std::size_t>(place - 1)];
+}
+
+/// A winner's uid, a loser's, with the word of a match without one taken for nobody.
+int LoserOf(const Segment& segment) {
+  return IsDraw(segment) || segment.Loser == kNoLoser ? 0 : int(segment.Loser);
+}
+
+void CastSides(const World& world, const Segment& segment, Cast& cast) {
+  constexpr std::string_view kSides = "FSXY";
+  const auto sides = SidesOf(segment);
+  if (segment.Style != kSpecial)
+    for (std::size_t i = 0; i < sides.size() && i < kSides.size(); ++i)
+      cast.Set(kSides[i], world, sides[i]);
+  const int loser = LoserOf(segment);
+  cast.Set('w', cast.Find(world, segment.Winner));
+  cast.Set('l', cast.Find(world, loser));
+  cast.Set('W', world,
+           segment.Style == kSpecial ? std::vector<int>{segment.Winner} : WinnersOf(segment));
+  cast.Set('L', world, segment.Style == kSpecial ? std::vector<int>{loser} : LosersOf(segment));
+  cast.Set('j', cast.Find(world, PartnerOf(segment, segment.Winner)));
+  cast.Set('k', cast.Find(world, PartnerOf(segment, loser)));
+}
+
+/// Whom a run-in and an attack after the bell hurt: the loser when the run-in helped the winner,
+/// else the winner.
+void CastVictims(const Segment& segment, Cast& cast) {
+  const bool helpedWinner = segment.Finish == kInterference;
+  cast.Of('v') = cast.Of(helpedWinner ? 'l' : 'w');
+  cast.Of('u') = cast.Of(helpedWinner ? 'w' : 'l');
+  cast.Of('V') = cast.Of(helpedWinner ? 'L' : 'W');
+  cast.Of('U') = cast.Of(helpedWinner ? 'W' : 'L');
+}
+
+void CastMatch(const World& world, const Segment& segment, Cast& cast) {
+  CastSides(world, segment, cast);
+  const bool hasFinish = !FinishesOf(segment.Style).empty();
+  if (!hasFinish) return;
+  CastVictims(segment, cast);
+  cast.Set('o', cast.Find(world, segment.Other1));
+  cast.Set('p', cast.Find(world, segment.Other2));
+  cast.Set('q', cast.Find(world, segment.Other3));
+  cast.Set('r', cast.Find(world, segment.Other4));
+  cast.Set('O', world, {segment.Other1, segment.Other2});
+  cast.Set('Q', world, {segment.Other3, segment.Other4});
+}
+
+void CastInterview(const World& world, const Segment& segment, Cast& cast) {
+  const auto at = [&](int place) { return WorkerAt(segment, place); };
+  switch (segment.Style) {
+    case kSingleTalk:
+      cast.Set('T', world, {at(1)});
+      cast.Set('V', world, {at(2)});
+      break;
+    case kTeamTalk:
+      cast.Set('T', world, {at(1), at(2)});
+      cast.Set('V', world, {at(3), at(4)});
+      break;
+    case kManagedTalk:
+      cast.Set('T', world, {at(1)});
+      cast.Set('m', cast.Find(world, at(2)));
+      cast.Set('V', world, {at(3)});
+      break;
+    case kManagedTeamTalk:
+      cast.Set('m', cast.Find(world, at(1)));
+      cast.Set('T', world, {at(2), at(3)});
+      cast.Set('V', world, {at(4), at(5)});
+      break;
+    default:
+      break;
+  }
+}
+
+void CastAngle(const World& world, const Segment& segment, Cast& cast) {
+  const auto at = [&](int place) { return WorkerAt(segment, place); };
+  cast.Set('F', world, {at(1), at(2)});
+  cast.Set('S', world, {at(3), at(4)});
+  constexpr int kThreeOnOne = 17;
+  std::vector<int> attackers = {at(2), at(3)};
+  if (segment.Style == kThreeOnOne) attackers.push_back(at(4));
+  cast.Set('O', world, attackers);
+  if (const ::grapplemont::Angle* angle = FindAngle(segment.Style);
+      angle && HasStableRole(*angle) && !(segment.Text == "None"))
+    cast.Of('G').Name = OneSpaced(segment.Text);
+}
+
+std::string TitleText(const World& world, const Segment& segment) {
+  if (segment.TitleName == "None") return {};
+  const Title* title = FindTitle(world, segment.TitleName);
+  return TitleInProse(segment.TitleName, !title || title->Singles);
+}
+
+std::string Capitalised(std::string name) {
+  if (!name.empty() && name[0] >= 'a' && name[0] <= 'z') name[0] = static_cast<char>(name[0] - 32);
+  return name;
+}
+
+}  // namespace
+
+std::string TitleInProse(std::string_view name, bool singles) {
+  const std::string plain = OneSpaced(name);
+  if (plain.empty()) return {};
+  for (const std::string_view word : {"Title", "Titles", "Championship", "Championships", "Crown",
+                                      "Crowns", "Belt", "Belts", "Cup", "Trophy"})
+    if (plain.ends_with(word)) return "the " + plain;
+  return "the " + plain + (singles ? " Title" : " Titles");
+}
+
+std::string OneSpaced(std::string_view text) {
+  std::string out;
+  for (const char letter : text)
+    if (!IsBlank(letter))
+      out += letter;
+    else if (!out.empty() && out.back() != ' ')
+      out += ' ';
+  if (!out.empty() && out.back() == ' ') out.pop_back();
+  return out;
+}
+
+Person* Cast::Find(const World& world, int uid) {
+  for (const auto& person : people_)
+    if (person->Uid == uid) return person.get();
+  const Worker* worker = world.FindWorker(uid);
+  if (!worker) return nullptr;
+  Person person{uid, OneSpaced(worker->Name), OneSpaced(worker->ShortName), worker->Gender};
+  if (person.Full.empty()) person.Full = person.Short;
+  if (person.Short.empty()) person.Short = person.Full;
+  if (person.Full.empty()) return nullptr;
+  for (const auto& other : people_)
+    if (other->Short == person.Short) person.NeedsFull = other->NeedsFull = true;
+  return people_.emplace_back(std::make_unique<Person>(std::move(person))).get();
+}
+
+void Cast::Set(char part, Person* person) {
+  Party& party = Of(part);
+  party.Name.clear();
+  party.People.clear();
+  if (person) party.People.push_back(person);
+}
+
+void Cast::Set(char part, const World& world, const std::vector<int>& uids) {
+  Party party;
+  for (const int uid : uids)
+    if (Person* person = Find(world, uid);
+        person && std::find(party.People.begin(), party.People.end(), person) == party.People.end())
+      party.People.push_back(person);
+  if (party.People.size() == 2)
+    if (const std::string team = TeamNameOf(world, party.People[0]->Uid, party.People[1]->Uid);
+        team != "None")
+      party.Name = OneSpaced(team);
+  Of(part) = std::move(party);
+}
+
+std::string Cast::PersonName(Person& person, Hole::Kind form) {
+  const bool full = person.NeedsFull || form == Hole::Full ||
+                    (form != Hole::Short && person.Mentions % kFullAgain == 0);
+  ++person.Mentions;
+  return full ? person.Full : person.Short;
+}
+
+std::string Cast::MemberNames(const Party& party, Hole::Kind form) {
+  std::string text;
+  for (std::size_t i = 0; i < party.People.size(); ++i) {
+    if (i > 0) text += i + 1 == party.People.size() ? " and " : ", ";
+    text += PersonName(*party.People[i], form);
+  }
+  return text;
+}
+
+std::string Cast::NameOf(char part, Hole::Kind form) {
+  Party& party = Of(part);
+  if (!party.IsSeveral()) return PersonName(*party.People[0], form);
+  if (form == Hole::Members && !party.People.empty()) return MemberNames(party, Hole::Full);
+  if (!party.Name.empty()) return party.Name;
+  const bool asTeam = party.People.size() > 2 && party.Mentions % kFullAgain != 0;
+  ++party.Mentions;
+  if (asTeam) return PersonName(*party.People[0], Hole::Short) + "'s team";
+  return MemberNames(party, form);
+}
+
+std::string_view Cast::WordOf(char part, int row) const {
+  const Party& party = Of(part);
+  const Sexed& words = kSexed[row];
+  if (party.IsSeveral()) return words.Several;
+  return party.People[0]->IsMan ? words.Man : words.Woman;
+}
+
+Cast CastOf(const World& world, const Segment& segment) {
+  Cast cast;
+  for (int place = 1; place <= 8; ++place)
+    if (segment.Kind == kAngle ? place <= kAnglePlaces : place <= EntrantsOf(segment))
+      cast.Set(static_cast<char>('0' + place), cast.Find(world, WorkerAt(segment, place)));
+  if (segment.Kind == kMatch) CastMatch(world, segment, cast);
+  if (segment.Kind == kInterview) CastInterview(world, segment, cast);
+  if (segment.Kind == kAngle) CastAngle(world, segment, cast);
+  cast.Set(Item::Title, TitleText(world, segment));
+  const std::string& title = cast.Thing(Item::Title);
+  cast.Set(Item::Prize, title.empty() ? "the briefcase" : title);
+  if (const Promotion* player = world.FindPromotion(world.PlayerUid()))
+    cast.Set(Item::Promotion, Capitalised(OneSpaced(player->Name)));
+  return cast;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,125 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+// A line of prose: a text with slots in braces, checked by the compiler where it is written.
+//
+//   "{a} counters a backdrop with a kick to {d:his} jaw. "
+//
+// A slot names a part of the cast by its letter (see cast.h) and, behind a colon, what to say of
+// it; a form of address, an item of the report ("{title}"), or a condition: "{?o}...{.}" is said
+// only when somebody plays o, "{!o}...{.}" only when nobody does.
+
+namespace grapplemont {
+
+/// Letters of the parts that a cast may have.
+inline constexpr std::string_view kParts = "adbwlkj12345678opqrtvumcWLFSXYOQGTVUZC";
+
+/// What a slot may say of a part instead of its name: of a man, a woman, several.
+struct Sexed {
+  std::string_view Key, Man, Woman, Several;
+};
+inline constexpr Sexed kSexed[] = {
+    {"he", "he", "she", "they"},
+    {"him", "him", "her", "them"},
+    {"his", "his", "her", "their"},
+    {"hers", "his", "hers", "theirs"},
+    {"himself", "himself", "herself", "themselves"},
+    {"man", "man", "woman", "team"},
+    {"s", "s", "s", ""},
+    {"es", "es", "es", ""},
+    {"ies", "ies", "ies", "y"},
+    {"is", "is", "is", "are"},
+    {"was", "was", "was", "were"},
+    {"has", "has", "has", "have"},
+    {"does", "does", "does", "do"},
+};
+
+/// What a report may hold beside its people.
+enum class Item { Title, Prize, No, Tally, Finisher, Promotion, Left, Turn, Feud };
+inline constexpr std::string_view kItems[] = {"title",     "prize", "no",   "tally", "finisher",
+                                              "promotion", "left",  "turn", "feud"};
+
+struct Hole {
+  enum Kind { Bad, Name, Full, Short, Members, Word, Thing, If, IfNot, End };
+  Kind Is = Bad;
+  char Part = 0;   // of a name, a word, a condition on a part
+  int Number = 0;  // row of kSexed; Item of a thing or of a condition without a part
+};
+
+namespace detail {
+
+template <class Rows, class Read>
+constexpr int RowOf(const Rows& rows, std::string_view key, Read read) {
+  int number = 0;
+  for (const auto& row : rows) {
+    if (read(row) == key) return number;
+    ++number;
+  }
+  return -1;
+}
+
+constexpr bool IsPart(std::string_view text) {
+  return text.size() == 1 && kParts.find(text[0]) != std::string_view::npos;
+}
+
+constexpr Hole ReadThing(Hole::Kind kind, std::string_view text) {
+  if (kind != Hole::Thing && IsPart(text)) return {kind, text[0], 0};
+  const int item = RowOf(kItems, text, [](std::string_view key) { return key; });
+  return item < 0 ? Hole{} : Hole{kind, 0, item};
+}
+
+constexpr Hole ReadForm(char part, std::string_view form) {
+  if (form == "full") return {Hole::Full, part, 0};
+  if (form == "short") return {Hole::Short, part, 0};
+  if (form == "members") return {Hole::Members, part, 0};
+  const int word = RowOf(kSexed, form, [](const Sexed& row) { return row.Key; });
+  return word < 0 ? Hole{} : Hole{Hole::Word, part, word};
+}
+
+}  // namespace detail
+
+/// What stands between two braces; Bad for a slot that does not exist.
+constexpr Hole ReadHole(std::string_view text) {
+  if (text == ".") return {Hole::End, 0, 0};
+  if (!text.empty() && text[0] == '?') return detail::ReadThing(Hole::If, text.substr(1));
+  if (!text.empty() && text[0] == '!') return detail::ReadThing(Hole::IfNot, text.substr(1));
+  if (detail::IsPart(text)) return {Hole::Name, text[0], 0};
+  if (text.size() > 2 && text[1] == ':' && detail::IsPart(text.substr(0, 1)))
+    return detail::ReadForm(text[0], text.substr(2));
+  return detail::ReadThing(Hole::Thing, text);
+}
+
+/// Why a text is no line; nullptr for a sound one.
+constexpr const char* WhyNoLine(std::string_view text) {
+  if (!text.ends_with(' ') && !text.ends_with(" {.}")) return "a line ends with a blank";
+  if (text.find("  ") != std::string_view::npos) return "a line holds two blanks in a row";
+  bool within = false;
+  while (true) {
+    const auto open = text.find('{');
+    if (text.substr(0, open).find('}') != std::string_view::npos) return "a brace closes nothing";
+    if (open == std::string_view::npos)
+      return within ? "a condition is not closed" : static_cast<const char*>(nullptr);
+    const auto close = text.find('}', open);
+    if (close == std::string_view::npos) return "a brace is not closed";
+    const Hole hole = ReadHole(text.substr(open + 1, close - open - 1));
+    if (hole.Is == Hole::Bad) return "there is no such slot";
+    const bool begins = hole.Is == Hole::If || hole.Is == Hole::IfNot;
+    if (begins == within && (begins || hole.Is == Hole::End)) return "conditions do not pair up";
+    if (begins || hole.Is == Hole::End) within = begins;
+    text.remove_prefix(close + 1);
+  }
+}
+
+/// A line of a voice. A text that is none does not compile; the thrown words say why.
+struct Line {
+  std::string_view Text;
+
+  constexpr Line() = default;
+  consteval Line(const char* text) : Text(text) {
+    if (const char* why = WhyNoLine(Text)) throw why;
+  }
+};
+
+}  // namespace grapplemont

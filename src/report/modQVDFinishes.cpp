@@ -1,0 +1,9 @@
+#include "report/voices.h"
+
+namespace grapplemont::modQVD {
+
+Blocks Finishes() {
+  return {};
+}
+
+}  // namespace grapplemont::modQVD

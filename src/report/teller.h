@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+
+#include "report/cast.h"
+#include "report/family.h"
+#include "report/report.h"
+
+namespace grapplemont {
+
+/// One report while it grows: the voice that GameInfo.Reporter names, the cast, the text.
+class Teller {
+ public:
+  Teller(World& world, const Segment& segment, const Scene& scene, LineMemory& memory);
+
+  /// Appends a line of the family; false when nothing could be said, since the band does not exist
+  /// or nobody is there to say it of.
+  bool Say(Family family, int band = 0);
+  /// The line of an offence family, by what the attacker is best at.
+  void SayOffence(Family family);
+  /// Text that is the same in all voices.
+  void Append(std::string_view text) { text_ += text; }
+  /// What follows begins a new paragraph.
+  void Paragraph();
+  /// The whole report, trimmed.
+  std::string Text();
+
+  /// A draw for the prose.
+  int Draw(int n) { return world.Prose().Draw(n); }
+  /// Sets {a} and {d}.
+  void Act(Person* attacker, Person* defender);
+
+  World& world;
+  const Segment& segment;
+  const Scene& scene;
+  Cast cast;
+
+ private:
+  LineMemory& memory_;
+  int voice_;
+  std::string text_;
+};
+
+/// The band of an offence line: Brawl, Technical and Speed each with a draw of 10 on top, the
+/// highest wins, Brawl before Technical before Speed where they tie; then by the plain skill.
+/// Draws three times from World::Prose.
+int OffenceBandOf(World& world, const Worker& attacker);
+
+}  // namespace grapplemont

@@ -1,0 +1,94 @@
+#include "show/cardposition.h"
+
+#include <algorithm>
+
+#include "records/modVar.h"
+#include "show/legend.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kAlways = -1;
+
+/// Over must be above this for a place on the card.
+struct CardRow {
+  int Size;
+  int Opener, LowerMidcard, Midcard, UpperMidcard, MainEvent;
+};
+// The smallest promotions have no places below the one that is always open.
+constexpr CardRow kCard[] = {
+    {kGlobal, 20, 40, 60, 80, 90},    {kNational, 20, 40, 55, 70, 80},
+    {kCult, 10, 20, 40, 50, 65},      {kRegional, 10, 20, 35, 45, 55},
+    {kSmall, kAlways, 5, 10, 20, 35}, {kBackyard, kAlways, kAlways, kAlways, 10, 25},
+};
+
+constexpr int kMoods = 6;
+constexpr int kMoodToWrite = 2;
+/// From this Attitude on somebody complains of being pushed, or asks politely to be.
+constexpr int kModest = 81;
+constexpr int kPolite = 61;
+
+constexpr std::string_view kPushedTooHigh =
+    "I think you might be pushing me too high up the card, the fans seem to be resenting me.";
+constexpr Wording kHeldPolitely = {
+    "I think i should be higher up the card.",
+    "Brother, I think Maulamania should be running wild higher up the card!"};
+constexpr Wording kHeldBluntly = {
+    "I should be higher on the card, promote me up the roster.",
+    "I should be higher on the card, promote me up the roster, brother!"};
+
+void TellRoadAgent(World& world, const Worker& worker, const std::string& before,
+                   const std::string& after) {
+  AddNews(world, "Road Agent",
+          worker.Name.Str() + before + (worker.Gender ? "him" : "her") + after);
+}
+
+CardPull PushedTooHigh(World& world, const Worker& worker, int fit, int mood) {
+  CardPull pull;
+  if (worker.Position < fit - 1) pull.Over -= 1;
+  if (worker.Position < fit - 2) {
+    pull.Over -= 2;
+    TellRoadAgent(world, worker, " is losing heat because you are pushing ", " too much.");
+  }
+  if (worker.Attitude >= kModest && mood == kMoodToWrite && !IsLegend(worker))
+    AddNews(world, worker.Name, kPushedTooHigh);
+  return pull;
+}
+
+CardPull HeldTooLow(World& world, const Worker& worker, int fit, int mood) {
+  CardPull pull;
+  if (worker.Position - 1 > fit) pull.Morale -= 3;
+  if (worker.Position - 2 > fit) {
+    pull.Morale -= 5;
+    TellRoadAgent(world, worker, " is losing morale because you are not pushing ", " enough.");
+  }
+  if (mood == kMoodToWrite)
+    AddNews(world, worker.Name,
+            (worker.Attitude >= kPolite ? kHeldPolitely : kHeldBluntly).By(worker));
+  return pull;
+}
+
+}  // namespace
+
+int FittingPosition(int promotionSize, int over) {
+  const CardRow& row = kCard[std::clamp(promotionSize, int{kGlobal}, int{kBackyard}) - 1];
+  const int above[] = {row.MainEvent, row.UpperMidcard, row.Midcard, row.LowerMidcard, row.Opener};
+  int position = kMainEvent;
+  for (const int limit : above) {
+    if (over > limit) return position;
+    ++position;
+  }
+  return kJobber;
+}
+
+CardPull CheckCardPosition(World& world, const Worker& worker) {
+  if (worker.Position == kNonWrestler || worker.Position == kManager) return {};
+  const int fit = FittingPosition(world.Player().Size, worker.Over);
+  const int mood = world.RandomDraw(kMoods);
+  if (worker.Position < fit) return PushedTooHigh(world, worker, fit, mood);
+  if (worker.Position > fit) return HeldTooLow(world, worker, fit, mood);
+  return {};
+}
+
+}  // namespace grapplemont

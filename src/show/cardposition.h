@@ -1,0 +1,20 @@
+#pragma once
+
+#include "records/world.h"
+
+namespace grapplemont {
+
+/// The place on the card, 1 Main Event to 6 Jobber, that fits this Over in a promotion of this
+/// size.
+int FittingPosition(int promotionSize, int over);
+
+/// What his place on the card does to a worker. The numbers may leave 0..100.
+struct CardPull {
+  int Over = 0;
+  int Morale = 0;
+};
+/// Compares the worker's place with the one that fits, tells the player by mail, and gives what
+/// follows for the worker. Draws once; does nothing for a manager or non-wrestler.
+CardPull CheckCardPosition(World& world, const Worker& worker);
+
+}  // namespace grapplemont

@@ -1,0 +1,137 @@
+#include <span>
+
+#include "report/report.h"
+#include "show/consequences.h"
+#include "show/matchsteps.h"
+#include "show/scoring.h"
+#include "show/talksteps.h"
+#include "show/titlechange.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// A Segment on its way through the steps.
+struct Telling {
+  SegmentRun& Run;
+  int Number;          // its record
+  LineMemory* Memory;  // nullptr for no prose
+  Title* AtStake;      // nullptr for no Title
+  grapplemont::Scene Scene = {};
+  std::string Report = {}, Verdict = {};
+};
+
+using Step = void (*)(Telling&);
+
+template <void (*Rule)(SegmentRun&)>
+void Do(Telling& telling) {
+  Rule(telling.Run);
+}
+
+void SetScene(Telling& telling) {
+  telling.Scene.IsEvent = telling.Run.Show.IsEvent;
+  if (!telling.AtStake) return;
+  telling.Scene.Champion = telling.AtStake->Holder;
+  telling.Scene.CoChampion = telling.AtStake->Partner;
+}
+
+void LookForChampion(Telling& telling) {
+  CheckChampion(telling.Run, telling.AtStake);
+}
+
+void HandOverTitle(Telling& telling) {
+  if (telling.AtStake && telling.Run.Segment.Winner != 0) ChangeTitle(telling.Run);
+}
+
+void WriteProse(Telling& telling) {
+  if (telling.Memory)
+    telling.Report =
+        WriteReport(telling.Run.World, telling.Run.Segment, telling.Scene, *telling.Memory);
+}
+
+void LimitBoth(SegmentRun& run) {
+  run.Quality.Limit();
+  run.Crowd.Limit();
+}
+
+void MoveImage(Telling& telling) {
+  if (telling.AtStake) MoveTitleImage(telling.Run);
+}
+
+void GiveVerdict(Telling& telling) {
+  if (telling.Memory)
+    telling.Verdict = Verdict(telling.Run.World, telling.Run.Segment, telling.Run.Overall);
+}
+
+/// What opens an Event counts for nothing.
+void AddToShow(Telling& telling) {
+  ShowRun& show = telling.Run.Show;
+  show.LastOverall = telling.Run.Overall;
+  if (show.IsEvent && telling.Number == 1) return;
+  show.ShowSum += telling.Run.Overall;
+  ++show.ShowSegments;
+}
+
+void StoreRating(SegmentRun& run) {
+  run.Segment.Rating = run.Overall;
+}
+
+// The order is a rule: later steps read what earlier ones left. The champions of the scene are
+// those before the Title changes hands, the burn-out sees a crowd that turns have moved, a Title's
+// image and the verdict see the overall rating as it stands in the end.
+constexpr Step kMatchSteps[] = {
+    SetScene,
+    Do<RemarkOnShape>,
+    Do<ScoreMatch>,
+    Do<MatchConsequences>,
+    Do<AddSelling>,
+    Do<AddStiffness>,
+    Do<GainTeamExperience>,
+    LookForChampion,
+    HandOverTitle,
+    WriteProse,
+    Do<ApplyTurns>,
+    Do<LimitBoth>,
+    Do<AddBurnOut>,
+    Do<WeighMatch>,
+    MoveImage,
+    GiveVerdict,
+    AddToShow,
+    Do<StoreRating>,
+};
+
+constexpr Step kInterviewSteps[] = {
+    SetScene,     Do<ScoreInterview>,   WriteProse, Do<ApplyTurns>,
+    Do<RateTalk>, Do<TalkConsequences>, AddToShow,  Do<StoreRating>,
+};
+
+constexpr Step kAngleSteps[] = {
+    SetScene,     Do<ScoreAngle>,       WriteProse, Do<ApplyTurns>,  Do<CapByWriters>,
+    Do<RateTalk>, Do<TalkConsequences>, AddToShow,  Do<StoreRating>,
+};
+
+std::span<const Step> StepsOf(const Segment& segment) {
+  switch (segment.Kind) {
+    case kMatch:
+      return kMatchSteps;
+    case kInterview:
+      return kInterviewSteps;
+    case kAngle:
+      return kAngleSteps;
+    default:
+      return {};  // an empty place on the sheet
+  }
+}
+
+}  // namespace
+
+ToldSegment RunSegment(World& world, int number, LineMemory* memory) {
+  Segment& segment = world.Segments()[number];
+  SegmentRun run{world, segment, world.ShowRuns()[1], {}, {}, {}, 1, false, {}};
+  Telling telling{run, number, memory, TitleAtStake(world, segment)};
+  for (const Step step : StepsOf(segment)) step(telling);
+  return {std::move(run.Quality), std::move(run.Crowd),      std::move(run.Overall),
+          std::move(run.Notes),   std::move(telling.Report), std::move(telling.Verdict)};
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,94 @@
+#include "show/segmentroles.h"
+
+#include <algorithm>
+
+namespace grapplemont {
+
+namespace {
+
+std::vector<int> Places(const Segment& segment, int first, int last) {
+  std::vector<int> people;
+  for (int place = first; place <= last; ++place)
+    if (const int uid = segment.Worker[static_cast<std::size_t>(place - 1)]) people.push_back(uid);
+  return people;
+}
+
+std::vector<int> Present(std::initializer_list<int> uids) {
+  std::vector<int> people;
+  for (const int uid : uids)
+    if (uid != 0) people.push_back(uid);
+  return people;
+}
+
+/// In a draw the first side stands where the winners would, the second where the losers would.
+std::vector<int> TeamOf(const Segment& segment, bool isWinning) {
+  const auto sides = SidesOf(segment);
+  std::vector<int> team;
+  if (!IsDraw(segment))
+    team = isWinning ? WinnersOf(segment) : LosersOf(segment);
+  else if (sides.size() == 2)
+    team = sides[isWinning ? 0 : 1];
+  std::erase(team, 0);
+  return team;
+}
+
+std::vector<int> FirstOf(const std::vector<int>& team) {
+  return team.empty() ? team : std::vector<int>{team.front()};
+}
+
+}  // namespace
+
+int FallenOf(const Segment& segment) {
+  const std::vector<int> losers = LosersOf(segment);
+  if (losers.empty()) return 0;
+  // The number that stands for no loser may be somebody's uid.
+  const bool isNamed = std::find(losers.begin(), losers.end(), int(segment.Loser)) != losers.end();
+  return isNamed ? int(segment.Loser) : losers.front();
+}
+
+std::vector<int> PeopleOf(const Segment& segment, Part part) {
+  const bool isDraw = IsDraw(segment);
+  switch (part) {
+    case Part::Nobody:
+      return {};
+    case Part::Winner:
+      return isDraw ? FirstOf(TeamOf(segment, true)) : Present({segment.Winner});
+    case Part::Loser:
+      return isDraw ? FirstOf(TeamOf(segment, false)) : Present({FallenOf(segment)});
+    case Part::LosersPartner:
+      return Present({PartnerOf(segment, FallenOf(segment))});
+    case Part::WinningTeam:
+      return TeamOf(segment, true);
+    case Part::LosingTeam:
+      return TeamOf(segment, false);
+    case Part::Attacked:
+      return Present(
+          {segment.Finish == kDqThroughInterference ? int(segment.Winner) : FallenOf(segment)});
+    case Part::Worker1:
+    case Part::Worker2:
+    case Part::Worker3:
+    case Part::Worker4: {
+      const int place = 1 + static_cast<int>(part) - static_cast<int>(Part::Worker1);
+      return Places(segment, place, place);
+    }
+    case Part::FirstTeam:
+      return Places(segment, 1, 2);
+    case Part::SecondTeam:
+      return Places(segment, 3, 4);
+    case Part::Other1:
+      return Present({segment.Other1});
+    case Part::Other2:
+      return Present({segment.Other2});
+    case Part::Other3:
+      return Present({segment.Other3});
+    case Part::Other4:
+      return Present({segment.Other4});
+    case Part::Others12:
+      return Present({segment.Other1, segment.Other2});
+    case Part::Others34:
+      return Present({segment.Other3, segment.Other4});
+  }
+  return {};
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <vector>
+
+#include "records/segments.h"
+
+namespace grapplemont {
+
+/// Whom a rule's table means by the people of a Segment.
+enum class Part {
+  Nobody,
+  Winner,         // in a draw the first of the first side
+  Loser,          // who takes the fall; in a draw the first of the second side
+  LosersPartner,  // of a 2 vs 2 match
+  WinningTeam,    // in a draw the first
+  LosingTeam,     // in a draw the second
+  Attacked,       // by the run-ins of the finish: who wins by a disqualification, else the loser
+  Worker1,
+  Worker2,
+  Worker3,
+  Worker4,
+  FirstTeam,  // Worker1 and Worker2
+  SecondTeam,
+  Other1,
+  Other2,
+  Other3,
+  Other4,
+  Others12,
+  Others34
+};
+
+/// Who takes the fall: the Loser, or the first of the losers where none is named; 0 in a draw.
+int FallenOf(const Segment& segment);
+/// Their uids, without the empty places. A team's members stand in the order of their places.
+std::vector<int> PeopleOf(const Segment& segment, Part part);
+
+}  // namespace grapplemont

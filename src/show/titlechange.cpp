@@ -1,0 +1,71 @@
+#include "show/titlechange.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "records/modWresCheck.h"
+#include "show/consequences.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// Wins of 1 vs 1 and 2 vs 2 that take a Title along.
+constexpr int kDecisiveFinishes[] = {kClean,    kInterference,     kBotchedInterference, kCheating,
+                                     kSickBump, kMiscommunication, kPartnerTurns};
+
+bool TakesTitles(const Segment& segment) {
+  switch (segment.Style) {
+    case kSingles:
+    case kTag:
+      return std::find(std::begin(kDecisiveFinishes), std::end(kDecisiveFinishes),
+                       int(segment.Finish)) != std::end(kDecisiveFinishes);
+    case kThreeOnThree:
+    case kFourOnFour:
+      return false;
+    default:
+      return true;
+  }
+}
+
+std::string HolderText(const World& world, int holder, int partner) {
+  if (partner == 0) return WorkerName(world, holder);
+  const std::string team = TeamNameOf(world, holder, partner);
+  if (team != "None") return team;
+  return WorkerShortName(world, holder) + " \\ " + WorkerShortName(world, partner);
+}
+
+bool Holds(const Title& title, int one, int two) {
+  return (title.Holder == one && title.Partner == two) ||
+         (title.Holder == two && title.Partner == one);
+}
+
+}  // namespace
+
+Title* TitleAtStake(World& world, const Segment& segment) {
+  if (segment.TitleName == "None") return nullptr;
+  for (Title& title : world.Titles())
+    if (title.Owner == world.PlayerUid() && title.Name == segment.TitleName.View()) return &title;
+  return nullptr;
+}
+
+void Crown(World& world, Title& title, int holder, int partner) {
+  title.Holder = holder;
+  title.Partner = partner;
+  BeginReign(title, world.Today(), HolderText(world, holder, partner));
+}
+
+void ChangeTitle(SegmentRun& run) {
+  const Segment& segment = run.Segment;
+  Title* title = TitleAtStake(run.World, segment);
+  if (!title || IsDraw(segment) || !TakesTitles(segment)) return;
+  if (title->Singles) {
+    if (title->Holder != segment.Winner) Crown(run.World, *title, segment.Winner, 0);
+    return;
+  }
+  const std::vector<int> pair = WinnersOf(segment);
+  if (pair.size() == 2 && !Holds(*title, pair[0], pair[1]))
+    Crown(run.World, *title, pair[0], pair[1]);
+}
+
+}  // namespace grapplemont

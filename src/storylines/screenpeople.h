@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/world.h"
+#include "ui/controls.h"
+
+// How people stand in tables.
+
+namespace grapplemont {
+
+/// "Face" in blue, "Heel" in red, "Tweener" in grey.
+ui::Cell DispositionCell(const Worker& worker);
+/// Nothing for somebody who is fit, else why he is not, in red.
+ui::Cell StatusCell(const Worker& worker);
+
+/// Name, disposition and Over, and the row that shows them.
+std::vector<ui::Column> ShortColumns();
+std::vector<ui::Cell> ShortRow(const Worker& worker);
+/// Fills a table of ShortColumns; what is selected stays so.
+void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people);
+/// Most popular first, those alike in the order of the file.
+void SortByOver(std::vector<const Worker*>& people);
+
+/// Enables a button or tells on it why it cannot be pressed.
+void EnableUnless(ui::Button& button, const std::string& why);
+
+}  // namespace grapplemont

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "records/world.h"
+
+// What stables, teams and their like share: names, and who is there to be in them.
+
+namespace grapplemont {
+
+/// As much as the records hold of a name.
+inline constexpr int kNameLetters = 25;
+/// Why this can be no name at all; empty when it can.
+std::string WhyNoName(std::string_view name);
+/// Without blanks at its ends.
+std::string_view TrimmedName(std::string_view name);
+
+/// Everybody of the player's who is seen on the shows, fit or not: wrestlers, managers and
+/// non-wrestlers. The most popular first.
+std::vector<const Worker*> SeenOnShows(const World& world);
+/// "he" or "she"; "him" or "her".
+std::string_view HeOrShe(const Worker& worker);
+std::string_view HimOrHer(const Worker& worker);
+
+}  // namespace grapplemont

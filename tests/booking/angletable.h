@@ -1,0 +1,98 @@
+#pragma once
+
+#include <string_view>
+
+namespace grapplemont::test {
+
+/// An angle as a designer wrote it down. Roles are told as place (- for a stable or a Title),
+/// caption, [list] and whether they may stay empty.
+struct AngleRow {
+  int Number;
+  std::string_view Says, Sheet, Offered, Roles, Summary, Text;
+};
+
+// clang-format off
+inline constexpr AngleRow kAngleRows[] = {
+    {1, "Challenge", "Challenge ", "", "1 Challenger; 2 Challengee", "Challenge", "One worker issues a challenge to another."},
+    {2, "Face To Face", "Confrontation ", "", "1 Worker #1; 2 Worker #2", "Face To Face", "A confrontation occurs between two workers."},
+    {3, "Ambush", "Ambush ", "Risk over 35", "1 Ambushee; 2 Ambusher #1; 3 Ambusher #2 optional; 4 Saver optional", "Ambush", "An ambush happens backstage. (This angle causes the saver to turn, if set.)"},
+    {4, "Better Enemies", "Turn ", "", "1 Turner [turner]; 2 Turns On", "Better Enemies", "One worker turns on his\\her partner to split the team. (This angle causes a turn.)"},
+    {5, "Face Turn", "Turn ", "", "1 Turner [turner]; 2 Turns On", "Face Turn", "Someone joins the babyface ranks. (This angle causes a turn.)"},
+    {6, "Heel Turn", "Turn ", "", "1 Turner [turner]; 2 Turns On", "Heel Turn", "Someone joins the heel side. (This angle causes a turn.)"},
+    {7, "Management Issues", "Manager Change ", "", "1 Manager [manager]; 2 Joins; 3 Leaves", "Management Issues", "A manager leaves one worker for another. (This angle causes the manager to turn, if set.)"},
+    {8, "About A Girl", "Segment ", "", "1 The Girl [women]; 2 Meets; 3 Involved", "About A Girl", "A lady comes between two workers."},
+    {9, "I'm Not Moving", "Sit in ", "", "1 Sit In By; 2 Involved", "Sit In", "One worker stages a sit-in until someone can remove them."},
+    {10, "Abuse Of Power", "Segment ", "Commissioner", "1 Commissioner [Commissioner]; 2 Attacker", "Abuse of Power", "The Commissioner gets beaten up."},
+    {11, "Tag Confrontation", "Confrontation ", "", "1 Team #1; 2 Team #1; 3 Team #2; 4 Team #2", "Tag Confrontation", "Two teams confront each other."},
+    {12, "Get The Table", "Fight ", "Risk over 55", "1 Goes Through; 2 Goes Through optional; 3 Victor; 4 Victor optional", "Get The Table", "Table shenanigans."},
+    {13, "Ladder To Success", "Fight ", "Risk over 45", "1 Victim; 2 Victor", "Ladder To Success", "One worker assaults another with a ladder."},
+    {14, "Blood Gets Spilt", "Fight ", "Risk over 60", "1 Victim; 2 Victor", "Blood Is Spilt", "One worker bloodies another."},
+    {15, "Stripping", "Fight ", "Risk over 65", "1 Victim [women]; 2 Victor", "Stripping", "One of the women gets stripped to her underwear."},
+    {16, "Getting Groinal", "Attack ", "Risk over 55", "1 Posted [men]; 2 Attacker; 3 Attacker optional", "Getting Groinal", "One workers has his groin introduced to the ring post. Ouch!"},
+    {17, "Strength In Numbers", "Attack ", "Risk over 45", "1 Victim; 2 Attacker #1; 3 Attacker #2; 4 Attacker #3", "Strength In Numbers", "A 3-on-1 attack occurs."},
+    {18, "Suspicion", "Segment ", "", "1 Turner [turner]; 2 Talking To", "Suspicion", "A soon-to-turn worker is suspected."},
+    {19, "Diva Fever", "Bikini Contest ", "Risk over 35", "1 Contestent #1 [women]; 2 Contestent #2 [women]; 3 Spoils It optional", "Diva Fever", "A bikini contest occurs. (This angle causes the interferer to turn, if set.)"},
+    {20, "Star Power", "Segment ", "Size under 2", "1 Worker", "Star Power", "A worker spots a famous face in the crowd."},
+    {21, "Why Wait?", "Confrontation ", "", "1 Challenger; 2 Challengee", "Why Wait?", "One worker's challenge to another ends in an impromtu brawl."},
+    {22, "I've Got Your Back", "Segment ", "", "1 Worker #1; 2 Worker #2", "I've Got Your Back", "One worker gives assurance to another."},
+    {23, "The Return", "Segment ", "", "1 Returning; 2 Worker", "The Return", "A worker returns after an absence."},
+    {24, "Debut Call Out", "Confrontation ", "", "1 Challenger; 2 Debut [debut]", "Debut Call Out", "A worker's challenge is answered by a new face."},
+    {25, "Debut Attack", "Attack ", "", "1 Victim; 2 Debut [debut]", "Debut Attack", "A new face on the scene makes an immediate impact."},
+    {26, "Debut With Power", "Segment ", "Commissioner", "1 Commissioner [Commissioner]; 2 Debut [debut]", "Debut With Power", "The Commissioner meets up with a new face on the roster."},
+    {27, "Paramedics", "Attack ", "", "1 Victim; 2 Victor", "Paramedics", "A worker gets beaten up so badly that paramedics are needed."},
+    {28, "Property Damage", "Segment ", "Risk over 55, Size under 4", "1 Destroyer; 2 Challenges", "Property Damage", "A worker starts destroying everything around."},
+    {29, "Staredown", "Confrontation ", "", "1 Worker #1; 2 Worker #2", "Staredown", "Two workers go nose-to-nose."},
+    {30, "Conspiracy", "Segment ", "", "1 Worker #1; 2 Worker #2", "Conspiracy", "Two workers plot."},
+    {31, "Driving Off", "Segment ", "", "1 Worker", "Driving Off", "A worker leaves for the night."},
+    {32, "Arrival", "Segment ", "", "1 Worker", "Arrives", "A worker arrives at the arena."},
+    {33, "Contract Signing", "Segment ", "Risk over 45", "1 Worker #1; 2 Worker #2", "Contract Signing", "Two workers sign a contract to face each other."},
+    {34, "Motivation", "Segment ", "", "1 Manager [manager]; 2 Motivates", "Motivation", "A manager fires up a client."},
+    {35, "Catfight!", "Fight ", "", "1 Worker #1 [women]; 2 Worker #2 [women]", "Catfight!", "Two women get into a fight."},
+    {36, "Walking", "Segment ", "", "1 Worker", "Walking", "A worker walks down a corridor."},
+    {37, "Debut Alliance", "Segment ", "", "1 Worker; 2 Debut [debut]", "Debut Alliance", "A worker debuts a new ally."},
+    {38, "Managerial Debut", "Segment ", "", "1 Manager [debut manager]; 2 Worker", "Managerial Debut", "A worker debuts his new manager."},
+    {39, "Fireball", "Attack ", "Risk over 60", "1 Victim; 2 Victor", "Fireball", "A worker tries to fry another's face."},
+    {40, "Arrest", "Segment ", "Commissioner", "1 Commissioner [Commissioner]; 2 Arrested", "Arrest", "The Commissioner has a worker arrested."},
+    {41, "Suspension", "Segment ", "Commissioner", "1 Commissioner [Commissioner]; 2 Suspended", "Suspension", "The Commissioner suspends someone for their actions."},
+    {42, "Match Making", "Segment ", "Commissioner", "1 Commissioner [Commissioner]; 2 Books; 3 Against", "Match Making", "The Commissioner sets up a match for later on."},
+    {43, "It's Good To Stalk", "Segment ", "", "1 Worker", "It's Good To Stalk", "A worker is stalked by a mystery person."},
+    {44, "Be Prepared", "Segment ", "", "1 Worker", "Be Prepared", "A worker gets prepared for a match."},
+    {45, "A Little Impression", "Segment ", "", "1 Worker; 2 Target", "A Little Impression", "A worker has a midget impersonate an opponent."},
+    {46, "Double Trouble", "Attack ", "", "1 Attacker; 2 Attacker; 3 Victim; 4 Victim", "Double Trouble", "A tag team assault a rival duo."},
+    {47, "Weakest Link", "Attack ", "", "1 Victim; 2 Attacker #1; 3 Attacker #2", "Weakest Link", "A tag team take out one member of a rival team."},
+    {48, "Tag Challenge", "Challenge ", "", "1 Challenger; 2 Challenger; 3 Challengee; 4 Challengee", "Tag Challenge", "A tag team challenge another team to a match."},
+    {49, "Manager's Surprise", "Segment ", "", "1 Manager [manager]; 2 Debut [debut]", "Manager's Surprise", "A manager brings out their new debuting wrestler."},
+    {50, "Stable Induction", "Segment ", "", "1 Joining; - Stable [stable]", "Stable Induction", "A worker joins a stable. (This angle causes the joining worker to turn, if set.)"},
+    {51, "Stable Kick-Out", "Segment ", "", "1 Kicked-Out; - Stable [stable]", "Stable Kick-Out", "A worker is kicked out of a stable. (This angle causes the rejected worker to turn, if set.)"},
+    {52, "Stable Attack", "Attack ", "", "1 Victim; - Stable [stable]", "Stable Attack", "A stable lay a beating on a worker."},
+    {53, "Stable Debut", "Segment ", "", "1 Victim; - Debuting [stable]", "Stable Debut", "A new faction debuts by attacking someone."},
+    {54, "We're Taking Over!", "Attack ", "Commissioner", "1 Commissioner [Commissioner]; - Attackers [stable]", "We're Taking Over!", "A stable destroy the Commissioner."},
+    {55, "Stable Duo Destruction", "Attack ", "", "- Attackers [stable]; 1 Victim; 2 Victim", "Stable Duo Destruction", "A stable beat up a tag team."},
+    {56, "Tag Team Face Turn", "Segment ", "", "1 Turner [turner]; 2 Turner [turner]; 3 Turns On; 4 Turn On", "Tag Team Face Turn", "A tag team turn face. (This angle causes a turn.)"},
+    {57, "Tag Team Heel Turn", "Segment ", "", "1 Turner [turner]; 2 Turner [turner]; 3 Turns On; 4 Turn On", "Tag Team Heel Turn", "A tag team turn heel. (This angle causes a turn.)"},
+    {58, "Tag Debut Call Out", "Segment ", "", "1 Debuts [debut]; 2 Debuts [debut]; 3 Victim; 4 Victim", "Tag Debut Call Out", "A tag team's challenge is answered by two new faces."},
+    {59, "Tag Debut Attack", "Attack ", "", "1 Debuts [debut]; 2 Debuts [debut]; 3 Victim; 4 Victim", "Tag Debut Attack", "A new team on the scene make an immediate impact."},
+    {60, "Hype Video For Worker", "Video ", "", "1 Worker", "Hype Video For Worker", "A music video for a worker."},
+    {61, "Hype Video For Team", "Video ", "", "1 Worker #1; 2 Worker #2", "Hype Video For Team", "A music video for a tag team."},
+    {62, "Hype Video For Stable", "Video ", "", "- Stable [stable]", "Hype Video For Stable", "A music video for a stable."},
+    {63, "Stalker Reveal", "Segment ", "", "1 Stalker; 2 Victim", "Stalker Reveal", "The stalker reveals their identity. (This angle causes the stalker to turn, if set.)"},
+    {64, "Stalker Gets Caught", "Segment ", "", "1 Stalker; 2 Victor", "Stalker Gets Caught", "The stalker gets caught and revealed. (This angle causes the stalker to turn, if set.)"},
+    {65, "Debut Video For Worker", "Video ", "", "1 Worker [debut]", "Debut Video For Worker", "A debut video for a worker."},
+    {66, "Debut Video For Team", "Video ", "", "1 Member #1 [debut]; 2 Member #2 [debut]", "Debut Video For Team", "A debut video for a tag team."},
+    {67, "Secret Santa", "Attack ", "25 December", "1 Victor; 2 Victim", "Secret Santa", "Santa lays the smack down."},
+    {68, "Slappy New Year", "Attack ", "01 January", "1 Victor; 2 Victim", "Slappy New Year", "A worker gets slap happy."},
+    {69, "Trick Or Treat", "Attack ", "31 October", "1 Victor; 2 Victim", "Trick Or Treat", "One worker has a Halloween surprise."},
+    {70, "Sam's Angle", "Attack ", "23 July", "1 Victim", "Sam's Angle", "VXM creator Sam Brandle makes an appearance."},
+    {71, "Award Singles Title", "Segment ", "Commissioner", "1 Commissioner [Commissioner]; - Title [singles title]; 2 Worker", "Award Singles Title", "The Commissioner awards a vacant title to a worker."},
+    {72, "Award Tag Team Titles", "Segment ", "Commissioner", "1 Commissioner [Commissioner]; - Title [tag title]; 2 Worker; 3 Worker", "Award Tag Team Titles", "The Commissioner awards a vacant tag title to a team."},
+    {73, "Accepted Proposal", "Segment ", "14 February", "1 Man [men]; 2 Woman [women]", "Accepted Proposal", "A marriage proposal gets accepted."},
+    {74, "Rejected Proposal", "Segment ", "14 February", "1 Man [men]; 2 Woman [women]", "Rejected Proposal", "A marriage proposal gets rejected. (This angle causes the woman to turn, if set.)"},
+    {75, "Abduction", "Segment ", "Risk over 60", "- Stable [stable]; 1 Victim [women]", "Abduction", "A stable abduct a female worker."},
+    {76, "Kidnap", "Segment ", "Risk over 40", "- Stable [stable]; 1 Victim", "Kidnap", "A stable attack and kidnap a worker."},
+    {77, "Crucifixion", "Segment ", "Risk over 80", "- Stable [stable]; 1 Victim", "Crucifixion", "A stable attack and crucify a worker."},
+    {78, "Black Wedding", "Segment ", "Risk over 65", "1 Groom [men]; 2 Bride [women]; - Stable [stable]; 4 Saved By optional", "Black Wedding", "A black wedding almost goes ahead."},
+    {79, "Blood Bath", "Segment ", "Risk over 55", "- Stable [stable]; 1 Victim", "Blood Bath", "A worker takes a blood bath at the hands of a stable."},
+};
+// clang-format on
+
+}  // namespace grapplemont::test

@@ -1,0 +1,85 @@
+#include <gtest/gtest.h>
+
+#include "booking/onsheet.h"
+
+namespace grapplemont::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+World Sunday(int crew = 30) {
+  return SmallWorld()
+      .Network("Harbor 9")
+      .Promotion("CWA", kCult)
+      .Crew(crew)
+      .Show("Tidal Force", "Sunday", "Harbor 9", [](Show& show) { show.Slot = "G"; })
+      .Game("CWA");
+}
+
+std::string SheetOf(const World& world) {
+  return std::string(reinterpret_cast<const char*>(world.Segments().Contents().data()),
+                     world.Segments().Contents().size());
+}
+
+/// What the auto booker's screen lists, as the sheet would say it.
+Names Card(OnSheet& play) {
+  Names card;
+  for (const Names& row : play.Desk.Rows("lstcard")) card.push_back(row[0] + " " + row[1]);
+  return card;
+}
+
+TEST(AutoBookScreen, ProposesACardAndLeavesTheSheetAlone) {
+  OnSheet play(Sunday());
+  play.Book(2, Singles(play.World(), "CWA Hand 29", "CWA Hand 30"));
+  const std::string sheet = SheetOf(play.World());
+  play.Desk.Click("cmdauto");
+  ASSERT_EQ(play.Desk.TopName(), "frmAutoBook");
+  EXPECT_EQ(Card(play).size(), 5u);
+  EXPECT_EQ(Card(play)[1], "2 CWA Hand 29 over CWA Hand 30");
+  for (const Names& row : play.Desk.Rows("lstcard")) EXPECT_TRUE(row[5].ends_with("%")) << row[1];
+  EXPECT_TRUE(play.Desk.Text("lblrating").starts_with("Expected rating "));
+  play.Desk.Click("cmdagain");
+  EXPECT_EQ(Card(play).size(), 5u);
+  EXPECT_EQ(SheetOf(play.World()), sheet);
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.TopName(), "frmBooking");
+  EXPECT_EQ(SheetOf(play.World()), sheet);
+}
+
+TEST(AutoBookScreen, SendsItsCardToTheSheet) {
+  OnSheet play(Sunday());
+  play.Desk.Click("cmdauto");
+  const Names card = Card(play);
+  play.Desk.Click("cmdsheet");
+  ASSERT_EQ(play.Desk.TopName(), "frmBooking");
+  for (int record = 1; record <= 5; ++record)
+    EXPECT_EQ(play.Row(record)[0] + " " + play.Row(record)[1],
+              card[static_cast<std::size_t>(record - 1)]);
+  EXPECT_EQ(play.World().Segments().Count(), 11);
+  EXPECT_TRUE(play.Desk.Enabled("cmddoshow"));
+}
+
+TEST(AutoBookScreen, RunsTheShowAndMovesOnToTheNextDay) {
+  OnSheet play(Sunday());
+  play.Desk.Click("cmdauto");
+  ASSERT_TRUE(play.Desk.Enabled("cmdbook"));
+  play.Desk.ExpectSay("Show Rating", kAnyText);
+  play.Desk.Click("cmdbook");
+  const std::string text = play.Desk.Boxes().back().Text;
+  EXPECT_TRUE(text.starts_with("Tidal Force has been held. Its rating is ")) << text;
+  EXPECT_FALSE(play.Lies("frmAutoBook"));
+  EXPECT_FALSE(play.Lies("frmBooking"));
+  EXPECT_EQ(play.World().Today(), kGameStart + std::chrono::days{1});
+  EXPECT_EQ(play.World().ShowRuns().Count(), 0);
+}
+
+TEST(AutoBookScreen, RunsNoCardThatIsTooShort) {
+  OnSheet play(Sunday(3));
+  play.Desk.Click("cmdauto");
+  EXPECT_FALSE(play.Desk.Enabled("cmdbook"));
+  EXPECT_EQ(play.Desk.Tip("cmdbook"), "The card is too short for the show to be held.");
+  EXPECT_NE(play.Desk.Text("lblmissing"), "");
+}
+
+}  // namespace
+}  // namespace grapplemont::test

@@ -1,0 +1,178 @@
+#include "booking/interviews.h"
+
+#include <gtest/gtest.h>
+
+#include "support/smallworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+using Names = std::vector<std::string>;
+using Purposes = std::vector<int>;
+constexpr BookingView kTv, kEvent{true};
+
+World Company() {
+  SmallWorld small;
+  small.Promotion("CWA")
+      .Worker("Ann Ace", kMainEvent, 80)
+      .Worker("Bob Bold", kMidcard, 60)
+      .Worker("Cat Cold", kMidcard, 60)
+      .Worker("Dan Dark", kMidcard, 60)
+      .Worker("Max Mouth", kManager, 50)
+      .Worker("Mim Mute", kManager, 50)
+      .Worker("Sid Silent", kMidcard, 50)
+      .Worker("Nell Suit", kNonWrestler, 50)
+      .Worker("Dev Deal", kDevelopmentDeal, 20)
+      .Feud("Ann Ace", "Cat Cold")
+      .TagFeud("Bob Bold", "Ann Ace", "Dan Dark", "Sid Silent")
+      .Feud("Max Mouth", "Dan Dark")
+      .Game("CWA");
+  World world = small.BuildUnchecked();
+  for (Worker& worker : world.Workers()) worker.Speaks = true;
+  for (const char* name : {"Mim Mute", "Sid Silent"}) Named(world.Workers(), name).Speaks = false;
+  for (const char* name : {"Ann Ace", "Bob Bold"})
+    Named(world.Workers(), name).Manager = Named(world.Workers(), "Max Mouth").Uid;
+  return world;
+}
+
+Segment Interview(World& world, int style, const Names& people) {
+  Segment interview = EmptySegment();
+  interview.Kind = kInterview;
+  interview.Style = style;
+  for (std::size_t place = 0; place < people.size(); ++place)
+    if (!people[place].empty()) interview.Worker[place] = Named(world.Workers(), people[place]).Uid;
+  return interview;
+}
+
+Names NamesOf(const std::vector<const Worker*>& workers) {
+  Names names;
+  for (const Worker* worker : workers) names.push_back(worker->Name.Str());
+  return names;
+}
+
+TEST(Talkers, AreAllWhoCanSpeakAndWorkForThePlayer) {
+  const World world = Company();
+  EXPECT_EQ(NamesOf(Talkers(world, kTv)),
+            (Names{"Ann Ace", "Bob Bold", "Cat Cold", "Dan Dark", "Max Mouth", "Nell Suit"}));
+  EXPECT_EQ(NamesOf(TalkingManagers(world, kTv)), Names{"Max Mouth"});
+}
+
+TEST(TalkTargets, AreTheRosterWithoutTheSpeakers) {
+  World world = Company();
+  const auto targets = [&](int style, const Names& people, const BookingView& view) {
+    return NamesOf(TalkTargets(world, Interview(world, style, people), view));
+  };
+  EXPECT_EQ(targets(kSingleTalk, {"Ann Ace", "Bob Bold"}, kTv),
+            (Names{"Bob Bold", "Cat Cold", "Dan Dark", "Max Mouth", "Mim Mute", "Sid Silent"}))
+      << "Bob Bold is no speaker";
+  EXPECT_EQ(targets(kManagedTeamTalk, {"Max Mouth", "Ann Ace", "Bob Bold"}, kEvent),
+            (Names{"Cat Cold", "Dan Dark", "Mim Mute", "Sid Silent", "Nell Suit"}));
+}
+
+TEST(WhyNotSpeakers, SaysWhatIsWrongWithThem) {
+  constexpr const char* kValid = "You must select a valid manager!";
+  constexpr const char* kTwo = "Please select two different people!";
+  constexpr const char* kThree = "Please select three different people!";
+  constexpr const char* kOne = "The manager selected does not manage the chosen worker!";
+  constexpr const char* kBoth = "The manager selected does not manage both the chosen workers!";
+  const std::tuple<int, Names, std::string> kCases[] = {
+      {kSingleTalk, {"Ann Ace"}, ""},
+      {kSingleTalk, {}, "Please select a worker!"},
+      {kTeamTalk, {"Ann Ace", "Bob Bold"}, ""},
+      {kTeamTalk, {"Ann Ace", "Ann Ace"}, kTwo},
+      {kTeamTalk, {"Ann Ace", ""}, kTwo},
+      {kTeamTalk, {"", "Ann Ace"}, kTwo},
+      {kManagedTalk, {"Ann Ace", "Max Mouth"}, ""},
+      {kManagedTalk, {"Ann Ace", ""}, kValid},
+      {kManagedTalk, {"Ann Ace", "Bob Bold"}, kValid},
+      {kManagedTalk, {"Ann Ace", "Mim Mute"}, kValid},
+      {kManagedTalk, {"Max Mouth", "Max Mouth"}, kTwo},
+      {kManagedTalk, {"Cat Cold", "Max Mouth"}, kOne},
+      {kManagedTeamTalk, {"Max Mouth", "Ann Ace", "Bob Bold"}, ""},
+      {kManagedTeamTalk, {"Ann Ace", "Max Mouth", "Bob Bold"}, kValid},
+      {kManagedTeamTalk, {"Max Mouth", "Ann Ace", "Ann Ace"}, kThree},
+      {kManagedTeamTalk, {"Max Mouth", "Max Mouth", "Ann Ace"}, kThree},
+      {kManagedTeamTalk, {"Max Mouth", "Ann Ace", "Cat Cold"}, kBoth},
+      {kManagedTeamTalk, {"Max Mouth", "Cat Cold", "Ann Ace"}, kBoth},
+  };
+  World world = Company();
+  for (const auto& [style, people, why] : kCases)
+    EXPECT_EQ(WhyNotSpeakers(world, Interview(world, style, people)), why)
+        << style << " " << (people.empty() ? "" : people[0]);
+}
+
+TEST(WhyNotTargets, WantsASecondTargetBehindAFirst) {
+  const std::tuple<int, Names, std::string> kCases[] = {
+      {kSingleTalk, {"Ann Ace", ""}, ""},
+      {kTeamTalk, {"Ann Ace", "Bob Bold", "", ""}, ""},
+      {kTeamTalk, {"Ann Ace", "Bob Bold", "Cat Cold", ""}, ""},
+      {kTeamTalk, {"Ann Ace", "Bob Bold", "Cat Cold", "Dan Dark"}, ""},
+      {kTeamTalk,
+       {"Ann Ace", "Bob Bold", "", "Dan Dark"},
+       "If the first opponent is 'None', then the second must be too!"},
+      {kTeamTalk,
+       {"Ann Ace", "Bob Bold", "Cat Cold", "Cat Cold"},
+       "Please select two different people!"},
+      {kManagedTeamTalk,
+       {"Max Mouth", "Ann Ace", "Bob Bold", "", "Dan Dark"},
+       "If the first opponent is 'None', then the second must be too!"},
+      {kManagedTeamTalk,
+       {"Max Mouth", "Ann Ace", "Bob Bold", "Dan Dark", "Dan Dark"},
+       "Please select two different people!"},
+  };
+  World world = Company();
+  for (const auto& [style, people, why] : kCases)
+    EXPECT_EQ(WhyNotTargets(Interview(world, style, people)), why) << style << people.back();
+}
+
+TEST(OfferedTalkPurposes, KnowFeudsAndTurns) {
+  const Purposes none = {kTalkNone, kSelfPromotion};
+  const Purposes plain = {kTalkNone, kVerbalAttack, kHypeMatch};
+  const Purposes feud = {kTalkNone, kVerbalAttack, kHypeMatch, kTalkContinueFeud};
+  const std::tuple<int, Names, Purposes> kCases[] = {
+      {kSingleTalk, {"Ann Ace"}, none},
+      {kSingleTalk, {"Ann Ace", "Bob Bold"}, plain},
+      {kSingleTalk, {"Cat Cold", "Ann Ace"}, feud},
+      {kSingleTalk, {"Bob Bold", "Dan Dark"}, plain},  // as teams they feud, not alone
+      {kTeamTalk, {"Ann Ace", "Bob Bold"}, none},
+      {kTeamTalk, {"Ann Ace", "Bob Bold", "Dan Dark"}, plain},
+      {kTeamTalk, {"Ann Ace", "Bob Bold", "Dan Dark", "Sid Silent"}, feud},
+      {kTeamTalk, {"Ann Ace", "Bob Bold", "Dan Dark", "Mim Mute"}, plain},
+      {kTeamTalk, {"Bob Bold", "Ann Ace", "Dan Dark", "Cat Cold"}, feud},
+      {kManagedTalk, {"Ann Ace", "Max Mouth", "Cat Cold"}, feud},
+      {kManagedTalk, {"Ann Ace", "Max Mouth", "Dan Dark"}, feud},  // the manager's own
+      {kManagedTalk, {"Ann Ace", "Max Mouth"}, none},
+      {kManagedTeamTalk, {"Max Mouth", "Bob Bold", "Ann Ace", "Sid Silent", "Dan Dark"}, feud},
+      {kManagedTeamTalk, {"Max Mouth", "Bob Bold", "Ann Ace", "Mim Mute"}, plain},
+      {kManagedTeamTalk, {"Max Mouth", "Bob Bold", "Ann Ace"}, none},
+  };
+  World world = Company();
+  for (const auto& [style, people, purposes] : kCases)
+    EXPECT_EQ(OfferedTalkPurposes(world, Interview(world, style, people)), purposes)
+        << style << " " << people[0] << " " << people.back();
+}
+
+TEST(OfferedTalkPurposes, TurnTheWorkersAndNeverTheManager) {
+  World world = Company();
+  const auto turns = [&](int style, const Names& people) {
+    const Purposes offered = OfferedTalkPurposes(world, Interview(world, style, people));
+    return std::count(offered.begin(), offered.end(), kTalkTurn) == 1;
+  };
+  Named(world.Workers(), "Bob Bold").TurnPending = true;
+  EXPECT_TRUE(turns(kSingleTalk, {"Bob Bold", "Cat Cold"}));
+  EXPECT_FALSE(turns(kSingleTalk, {"Cat Cold", "Bob Bold"}));
+  EXPECT_FALSE(turns(kSingleTalk, {"Bob Bold"})) << "nobody to turn on";
+  EXPECT_FALSE(turns(kTeamTalk, {"Ann Ace", "Bob Bold", "Cat Cold"}));
+  EXPECT_FALSE(turns(kTeamTalk, {"Bob Bold", "Ann Ace", "Cat Cold"}));
+  Named(world.Workers(), "Max Mouth").TurnPending = true;
+  EXPECT_FALSE(turns(kManagedTalk, {"Ann Ace", "Max Mouth", "Cat Cold"}));
+  EXPECT_TRUE(turns(kManagedTalk, {"Bob Bold", "Max Mouth", "Cat Cold"}));
+  EXPECT_FALSE(turns(kManagedTeamTalk, {"Max Mouth", "Bob Bold", "Ann Ace", "Cat Cold"}));
+  Named(world.Workers(), "Ann Ace").TurnPending = true;
+  Named(world.Workers(), "Max Mouth").TurnPending = false;
+  EXPECT_TRUE(turns(kManagedTeamTalk, {"Max Mouth", "Bob Bold", "Ann Ace", "Cat Cold"}));
+  EXPECT_TRUE(turns(kTeamTalk, {"Ann Ace", "Bob Bold", "Cat Cold"}));
+}
+
+}  // namespace
+}  // namespace grapplemont::test

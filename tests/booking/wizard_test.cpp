@@ -1,0 +1,262 @@
+#include "booking/wizard.h"
+
+#include <gtest/gtest.h>
+
+#include "booking/matchsteps.h"
+#include "booking/ring.h"
+
+namespace grapplemont::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// A step on the record itself: what a screen would store.
+using Stores = std::function<void(Segment&)>;
+
+/// Does the steps one by one, then takes them back one by one: each time the record must be what it
+/// was before.
+void ExpectTakenBack(const std::vector<Stores>& steps) {
+  Wizard wizard = BeginBooking(1, false);
+  std::vector<Segment> before;
+  for (const Stores& store : steps) {
+    EXPECT_FALSE(wizard.SegmentComplete);
+    before.push_back(wizard.Buffer);
+    store(wizard.Buffer);
+    StepDone(wizard);
+  }
+  EXPECT_TRUE(wizard.SegmentComplete);
+  EXPECT_EQ(StepsOf(wizard.Buffer), static_cast<int>(steps.size()));
+  for (int step = static_cast<int>(steps.size()) - 1; step >= 0; --step) {
+    SCOPED_TRACE("step " + std::to_string(step));
+    StepBack(wizard);
+    EXPECT_EQ(wizard.Step, step);
+    EXPECT_FALSE(wizard.SegmentComplete);
+    ExpectSegment(wizard.Buffer, before[static_cast<std::size_t>(step)]);
+  }
+  StepBack(wizard);
+  EXPECT_EQ(wizard.Step, 0);
+}
+
+std::vector<Stores> MatchUntilResult(int style, int type, int winner, std::vector<int> losers) {
+  return {[](Segment& s) { s.Kind = kMatch; },
+          [=](Segment& s) { s.Style = style; },
+          [=](Segment& s) { s.MatchType = type; },
+          [](Segment& s) {
+            for (int i = 0; i < EntrantsOf(s); ++i) s.Worker[static_cast<std::size_t>(i)] = i + 1;
+          },
+          [](Segment& s) { s.TitleName = "Crown"; },
+          [=](Segment& s) { StoreResult(s, winner, losers); }};
+}
+
+TEST(StepBack, UndoesASinglesMatchWhereverItsRunInsStand) {
+  struct Ending {
+    int Finish, FinishRunIn, Aftermath, Other1, Other2;
+  };
+  for (const Ending& ending :
+       {Ending{kClean, 0, after1::kNothing, 0, 0}, Ending{kInterference, 9, after1::kSave, 9, 10},
+        Ending{kDqThroughInterference, 9, after1::kAssaultGoesOn, 9, 0},
+        Ending{kClean, 0, after1::kRunInOnBoth, 9, 0}}) {
+    auto steps = MatchUntilResult(kSingles, kPlainSingles, 2, {});
+    steps.push_back([=](Segment& s) {
+      s.Finish = ending.Finish;
+      s.Other1 = ending.FinishRunIn;
+    });
+    steps.push_back([=](Segment& s) {
+      s.Aftermath = ending.Aftermath;
+      s.Other1 = ending.Other1;
+      s.Other2 = ending.Other2;
+    });
+    steps.push_back([](Segment& s) { s.Purpose = purpose1::kGoodMatch; });
+    ExpectTakenBack(steps);
+  }
+}
+
+TEST(StepBack, UndoesATagMatchWithFourRunIns) {
+  auto steps = MatchUntilResult(kTag, kPlainTag, 1, {3});
+  steps.push_back([](Segment& s) {
+    s.Finish = kInterference;
+    s.Other1 = 5;
+    s.Other2 = 6;
+  });
+  steps.push_back([](Segment& s) {
+    s.Aftermath = after2::kSave;
+    s.Other3 = 7;
+    s.Other4 = 8;
+  });
+  steps.push_back([](Segment& s) { s.Purpose = purpose2::kGoodMatch; });
+  ExpectTakenBack(steps);
+}
+
+TEST(StepBack, UndoesTheShorterPaths) {
+  for (const auto& [style, type, losers] :
+       {std::tuple(kThreeWay, 1, std::vector{2, 3}), std::tuple(kThreeTeams, 4, std::vector<int>()),
+        std::tuple(kFourWay, 1, std::vector{2, 3, 4}),
+        std::tuple(kFourTeams, 1, std::vector{3, 5, 7}),
+        std::tuple(kSpecial, int(kRoyalRumble), std::vector{30})})
+    ExpectTakenBack(MatchUntilResult(style, type, 1, losers));
+  for (const auto& [style, type, losers] :
+       {std::tuple(kThreeOnThree, 1, std::vector{4}),
+        std::tuple(kFourOnFour, int(kSurvivor), std::vector{5, 2, 6, 3, 7, 4, 8})}) {
+    auto steps = MatchUntilResult(style, type, 1, losers);
+    steps.push_back([](Segment& s) { s.Finish = kCheapVictory; });
+    ExpectTakenBack(steps);
+  }
+}
+
+TEST(StepBack, UndoesInterviewsAndAngles) {
+  for (const InterviewStyleRow& style : kInterviewStyles)
+    ExpectTakenBack({[](Segment& s) { s.Kind = kInterview; },
+                     [&](Segment& s) { s.Style = style.Code; },
+                     [&](Segment& s) {
+                       for (int i = 0; i < style.Speakers; ++i)
+                         s.Worker[static_cast<std::size_t>(i)] = 10 + i;
+                     },
+                     [&](Segment& s) {
+                       for (int i = 0; i < style.Targets; ++i)
+                         s.Worker[static_cast<std::size_t>(style.Speakers + i)] = 20 + i;
+                     },
+                     [](Segment& s) { s.Purpose = kVerbalAttack; }});
+  ExpectTakenBack({[](Segment& s) { s.Kind = kAngle; }, [](Segment& s) { s.Style = 71; },
+                   [](Segment& s) {
+                     s.Worker[0] = 3;
+                     s.TitleName = "Crown";
+                     s.Text = "The Dock Rats";
+                   }});
+}
+
+TEST(TextOfStep, TellsWhatHasBeenChosen) {
+  const World world = BookingRoster().Team("Odd Men", "Man 1", "Man 2").Game("CWA");
+  Wizard wizard = BeginBooking(3, true);
+  EXPECT_EQ(TextOfStep(world, wizard, 0).Caption, "Select Segment Type");
+  EXPECT_EQ(TextOfStep(world, wizard, 1).Caption, "???");
+  wizard.Buffer = MatchOf(world, kTag, kPlainTag, {"Man 1", "Man 2", "Man 3", "Man 4"});
+  StoreResult(wizard.Buffer, 1, {4});
+  wizard.Buffer.Finish = kPartnerTurns;
+  wizard.Buffer.Aftermath = after2::kThreeOnOne;
+  wizard.Buffer.Purpose = purpose2::kTurnWorker3;
+  wizard.Step = 8;
+  const std::pair<const char*, const char*> kRows[] = {
+      {"Select Segment Type", "Segment Type = Match"},
+      {"Select Match Style", "Match Style = 2 vs 2"},
+      {"Select Match Type", "Match Type = Tag"},
+      {"Select Participants", "Odd Men vs Man 3 \\ Man 4"},
+      {"Select Title", "Title = None"},
+      {"Select Result", "Result = Odd Men Win"},
+      {"Select Finish", "Finish = Man 4 Gets Backstabbed"},
+      {"Select Aftermath", "Aftermath = Three-On-One Assault"},
+      {"Select Purpose", ""},
+      {"???", ""}};
+  for (int step = 0; step < 10; ++step) {
+    EXPECT_EQ(TextOfStep(world, wizard, step).Caption, kRows[step].first);
+    EXPECT_EQ(TextOfStep(world, wizard, step).Summary, kRows[step].second);
+  }
+  StepDone(wizard);
+  EXPECT_EQ(TextOfStep(world, wizard, 8).Summary, "Purpose = Turn Man 3");
+  StoreResult(wizard.Buffer, 0, {});
+  EXPECT_EQ(TextOfStep(world, wizard, 5).Summary, "Result = Draw");
+}
+
+TEST(TextOfStep, TellsInterviewsAndAngles) {
+  const World world = BookingRoster().Team("Odd Men", "Man 2", "Man 3").Game("CWA");
+  const auto told = [&](int kind, int style, const Lines& people, int step) {
+    Wizard wizard = BeginBooking(1, false);
+    wizard.Buffer = MatchOf(world, style, 0, people);
+    wizard.Buffer.Kind = kind;
+    wizard.Buffer.Purpose = kHypeMatch;
+    wizard.Step = 5;
+    return TextOfStep(world, wizard, step).Summary;
+  };
+  EXPECT_EQ(told(kInterview, kSingleTalk, {}, 0), "Segment Type = Interview");
+  EXPECT_EQ(told(kInterview, kManagedTalk, {}, 1), "Interview Style = Single Worker With Manager");
+  EXPECT_EQ(told(kInterview, kSingleTalk, {"Man 1", "Man 2"}, 2), "Participants = Man 1");
+  EXPECT_EQ(told(kInterview, kSingleTalk, {"Man 1", "Man 2"}, 3), "Targets = Man 2");
+  EXPECT_EQ(told(kInterview, kSingleTalk, {"Man 1"}, 3), "Targets = None");
+  EXPECT_EQ(told(kInterview, kTeamTalk, {"Man 2", "Man 3", "Man 1"}, 2), "Participants = Odd Men");
+  EXPECT_EQ(told(kInterview, kTeamTalk, {"Man 2", "Man 3", "Man 1"}, 3), "Targets = Man 1");
+  EXPECT_EQ(told(kInterview, kManagedTalk, {"Man 1", "Man 2"}, 2),
+            "Participants = Man 1 With Man 2");
+  EXPECT_EQ(told(kInterview, kManagedTeamTalk, {"Man 1", "Man 2", "Man 3", "Man 4", "Man 5"}, 2),
+            "Participants = Odd Men With Man 1");
+  EXPECT_EQ(told(kInterview, kManagedTeamTalk, {"Man 1", "Man 2", "Man 3", "Man 4", "Man 5"}, 3),
+            "Targets = Man 4 \\ Man 5");
+  EXPECT_EQ(told(kInterview, kTeamTalk, {}, 4), "Purpose = Hype Upcoming Match");
+  EXPECT_EQ(told(kAngle, 2, {}, 1), "Angle = Face To Face");
+  EXPECT_EQ(told(kAngle, 9, {}, 1), "Angle = Sit In");
+  EXPECT_EQ(told(kAngle, 2, {"Man 1", "Man 2"}, 2), "Participants = Man 1, Man 2");
+}
+
+TEST(frmBookSheet, OpensOnlyWhatIsDue) {
+  BookingPlay play(BookingRoster().Game("CWA"));
+  play.Desk.Open(MakefrmBookSheet(play.Play, 2, false));
+  const auto enabled = [&](const char* name) {
+    Lines rows;
+    for (int row = 0; row < 10; ++row)
+      if (play.Desk.Enabled(std::string(name) + "(" + std::to_string(row) + ")"))
+        rows.push_back(std::to_string(row));
+    return rows;
+  };
+  EXPECT_EQ(enabled("cmdbook"), Lines{"0"});
+  EXPECT_EQ(enabled("cmdback"), Lines());
+  play.Desk.Click("cmdbook(0)");
+  EXPECT_EQ(play.Desk.FirstColumn("lststyle"), (Lines{"Match", "Interview", "Angle"}));
+  play.Desk.Click("cmddone");
+  EXPECT_EQ(play.Desk.TopName(), "frmBookSheet");
+  EXPECT_EQ(enabled("cmdbook"), Lines{"1"});
+  EXPECT_EQ(enabled("cmdback"), Lines{"0"});
+  play.Desk.Click("cmdback(0)");
+  EXPECT_EQ(play.Desk.Text("txtdesc(0)"), "");
+  play.Desk.Click("cmdbook(0)");
+  play.ChooseMatch("1 vs 1 vs 1", "Triangle");
+  play.ChoosePeople({"Man 1", "Man 2", "Man 3"});
+  play.Next();
+  EXPECT_FALSE(
+      static_cast<const ui::Button*>(play.Desk.Screens().front()->Find("cmdcomplete"))->Enabled);
+  play.Next();
+  EXPECT_EQ(enabled("cmdbook"), Lines{"5"}) << "the last row stays open for going back";
+  EXPECT_EQ(enabled("cmdback"), Lines{"5"});
+  EXPECT_TRUE(play.Desk.Enabled("cmdcomplete"));
+  play.Desk.Click("cmdbook(5)");
+  play.Desk.Pick("cmbwinner", "Man 2");
+  play.Desk.Click("cmddone");
+  EXPECT_EQ(play.Desk.Text("txtdesc(5)"), "Result = Man 2 Wins");
+  play.Desk.Click("cmdexit");
+  EXPECT_EQ(play.Slot(2).Kind, kEmptySegment);
+}
+
+TEST(frmBookSheet, LimitsCompetitorsToASplit) {
+  BookingPlay play(BookingRoster()
+                       .Worker("Manager", kManager, 30)
+                       .Worker("Cook", kNonWrestler, 30)
+                       .Worker("Hurt",
+                               [](Worker& w) {
+                                 w.Status = "Inj";
+                                 w.InjuryName = "Broken Leg";
+                                 w.StatusMonths = 2;
+                               })
+                       .Game("CWA"));
+  play.Desk.Event([&] {
+    play.World().Player().Split[1] = "Red";
+    Named(play.World().Workers(), "Man 4").Split = "Red";
+    Named(play.World().Workers(), "Man 7").Split = "Red";
+  });
+  play.Desk.Open(MakefrmBookSheet(play.Play, 1, false));
+  EXPECT_EQ(play.Desk.FirstColumn("cmbsplit"), (Lines{"All", "Red"}));
+  play.Desk.Click("cmdbook(0)");
+  play.ChooseMatch("1 vs 1", "Singles");
+  Lines all = play.Desk.FirstColumn("lstwres1");
+  EXPECT_EQ(all.size(), 17u);
+  EXPECT_EQ(all.back(), "Manager") << "neither the injured nor the cook";
+  play.Desk.Click("cmdback");
+  play.Desk.Pick("cmbsplit", "Red");
+  play.Desk.Click("cmdbook(3)");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres1"), (Lines{"Man 4", "Man 7"}));
+  EXPECT_EQ(play.Desk.Rows("lstwres1")[0][2], "60") << "Over beside the name";
+  play.Desk.Click("cmdback");
+  play.Desk.Click("cmdexit");
+  OpenWizardAtOnce(play.Play, 1, true);
+  play.ChooseMatch("1 vs 1", "Singles");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres2").back(), "Cook") << "at an Event";
+}
+
+}  // namespace
+}  // namespace grapplemont::test

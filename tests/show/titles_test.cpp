@@ -1,0 +1,216 @@
+#include <gtest/gtest.h>
+
+#include "show/consequences.h"
+#include "stage.h"
+
+namespace grapplemont::test {
+namespace {
+
+World WithTitles() {
+  return Eight()
+      .Title("CWA Crown", "Ash")
+      .Title("CWA Pair", "Ash", "Bea")
+      .Team("The Kindling", "Dot", "Cal")
+      .Promotion("NEW")
+      .Title("CWA Crown");
+}
+
+Title& Crown(Stage& stage) {
+  return stage.W.Titles()[1];
+}
+Title& Pair(Stage& stage) {
+  return stage.W.Titles()[2];
+}
+
+TEST(ChangeTitle, DependsOnStyleAndFinish) {
+  struct Case {
+    int Style;
+    std::vector<int> Finishes;  // that take the Title along
+    int Last;
+  };
+  const Case kCases[] = {
+      {kSingles, {1, 3, 4, 5, 10, 11, 12}, 13},
+      {kTag, {1, 3, 4, 5, 10, 11, 12}, 13},
+      {kThreeWay, {0}, 0},
+      {kFourWay, {0}, 0},
+      {kThreeTeams, {0}, 0},
+      {kFourTeams, {0}, 0},
+      {kSpecial, {0}, 0},
+      {kThreeOnThree, {}, 11},
+      {kFourOnFour, {}, 13},
+  };
+  for (const Case& c : kCases)
+    for (int finish = 0; finish <= c.Last; ++finish) {
+      Stage stage(WithTitles());
+      stage.Match(c.Style, {"Ash", "Bea", "Cal", "Dot", "Eli", "Fay", "Gus", "Hal"});
+      stage.Result(c.Style == kSingles ? "Bea" : "Cal", "Ash", finish);
+      const bool isTeams = c.Style == kTag || c.Style == kThreeTeams || c.Style == kFourTeams;
+      stage.S.TitleName = isTeams ? "CWA Pair" : "CWA Crown";
+      ChangeTitle(stage.Run);
+      const Title& title = isTeams ? Pair(stage) : Crown(stage);
+      const bool changes =
+          std::find(c.Finishes.begin(), c.Finishes.end(), finish) != c.Finishes.end();
+      EXPECT_EQ(title.Holder == stage.S.Winner, changes)
+          << "style " << c.Style << ", finish " << finish;
+      EXPECT_EQ(title.Partner, !isTeams ? 0 : changes ? stage.Uid("Dot") : stage.Uid("Bea"));
+    }
+}
+
+TEST(ChangeTitle, ClosesOneReignAndBeginsTheNext) {
+  Stage stage(WithTitles());
+  stage.Match(kSingles, {"Ash", "Cal"});
+  stage.Result("Cal", "Ash");
+  stage.S.TitleName = "CWA Crown";
+  ChangeTitle(stage.Run);
+  const auto& reigns = Crown(stage).Reigns;
+  EXPECT_EQ(reigns[0].Holder, "Cal");
+  EXPECT_EQ(Day(reigns[0].Won), kGameStart);
+  EXPECT_EQ(Day(reigns[0].Lost), kNoTitleDate);
+  EXPECT_EQ(reigns[1].Holder, "Ash");
+  EXPECT_EQ(Day(reigns[1].Lost), kGameStart);
+  EXPECT_EQ(stage.W.Titles()[3].Holder, 0) << "somebody else's Title of that name";
+}
+
+TEST(ChangeTitle, CallsPairsByTheirTeamOrShortNames) {
+  Stage stage(WithTitles());
+  stage.S.TitleName = "CWA Pair";
+  stage.Match(kTag, {"Cal", "Dot", "Ash", "Bea"});
+  stage.Result("Dot", "Ash");
+  ChangeTitle(stage.Run);
+  EXPECT_EQ(Pair(stage).Reigns[0].Holder, "The Kindling");
+  stage["Ash"].ShortName = "Ashy";
+  stage.Result("Bea", "Dot");
+  ChangeTitle(stage.Run);
+  EXPECT_EQ(Pair(stage).Reigns[0].Holder, "Ashy \\ Bea");
+}
+
+TEST(ChangeTitle, LeavesChampionsWhoWinOrDraw) {
+  Stage stage(WithTitles());
+  const World before = CopyOf(stage.W);
+  stage.S.TitleName = "CWA Pair";
+  stage.Match(kTag, {"Bea", "Ash", "Cal", "Dot"});
+  stage.Result("Bea", "Cal");
+  ChangeTitle(stage.Run);
+  stage.Draw(kDoubleDq);
+  ChangeTitle(stage.Run);
+  stage.S.TitleName = "CWA Crown";
+  stage.Match(kSingles, {"Ash", "Cal"});
+  stage.Result("Ash", "Cal");
+  ChangeTitle(stage.Run);
+  stage.S.TitleName = "None";
+  stage.Result("Cal", "Ash");
+  ChangeTitle(stage.Run);
+  ExpectSame(stage.W, before);
+}
+
+TEST(TitleImage, FollowsTheRatingAndItsChampion) {
+  struct Case {
+    int Overall, Over, Image, ImageAfter, OverAfter;
+    std::string_view Notes;
+  };
+  constexpr std::string_view kUp = "The CWA Crown title has gained in image.";
+  constexpr std::string_view kDown = "The CWA Crown title has lost image.";
+  constexpr Case kCases[] = {
+      {50, 50, 50, 50, 50, ""},    {51, 50, 50, 50, 50, ""},    {52, 50, 50, 52, 50, kUp},
+      {70, 50, 50, 52, 50, kUp},   {72, 50, 50, 54, 50, kUp},   {50, 50, 57, 57, 50, ""},
+      {50, 50, 58, 56, 50, kDown}, {50, 50, 60, 58, 50, kDown}, {50, 50, 63, 61, 51, kDown},
+      {0, 50, 90, 88, 51, kDown},  {71, 39, 50, 52, 40, kUp},   {59, 41, 50, 50, 41, ""},
+      {40, 60, 50, 50, 60, ""},    {39, 61, 50, 50, 60, ""},    {100, 99, 98, 100, 99, kUp},
+  };
+  for (const Case& c : kCases) {
+    Stage stage(WithTitles());
+    stage.S.TitleName = "CWA Crown";
+    stage.Rate(0, 0, c.Overall);
+    stage["Ash"].Over = c.Over;
+    Crown(stage).Image = c.Image;
+    MoveTitleImage(stage.Run);
+    EXPECT_EQ(Crown(stage).Image, c.ImageAfter) << c.Overall << "/" << c.Over << "/" << c.Image;
+    EXPECT_EQ(stage["Ash"].Over, c.OverAfter) << c.Overall << "/" << c.Over << "/" << c.Image;
+    EXPECT_EQ(stage.Run.Notes, c.Notes) << c.Overall << "/" << c.Over << "/" << c.Image;
+  }
+}
+
+TEST(TitleImage, NeverFallsByFour) {
+  Stage stage(WithTitles());
+  stage.S.TitleName = "CWA Crown";
+  for (int image = 0; image <= 100; ++image)
+    for (int overall = 0; overall <= 100; ++overall) {
+      stage.Rate(0, 0, overall);
+      stage["Ash"].Over = 10;
+      Crown(stage).Image = image;
+      MoveTitleImage(stage.Run);
+      ASSERT_GE(Crown(stage).Image, image - 2);
+    }
+}
+
+TEST(TitleImage, OfATagTitleCountsBothChampions) {
+  struct Case {
+    int Overall, Over1, Over2, Image, ImageAfter, After1, After2;
+    std::string_view Notes;
+  };
+  constexpr Case kCases[] = {
+      {50, 50, 52, 50, 50, 50, 52, ""},  // 152 / 3 = 50
+      {50, 50, 53, 50, 52, 50, 53, "The CWA Pair titles have gained in image."},
+      {90, 40, 61, 50, 54, 40, 60, "The CWA Pair titles have gained in image."},
+      {99, 39, 61, 50, 54, 40, 60, "The CWA Pair titles have gained in image."},
+      {10, 39, 61, 50, 48, 40, 60, "The CWA Pair title has lost image."},
+  };
+  for (const Case& c : kCases) {
+    Stage stage(WithTitles());
+    stage.S.TitleName = "CWA Pair";
+    stage.Rate(0, 0, c.Overall);
+    stage["Ash"].Over = c.Over1;
+    stage["Bea"].Over = c.Over2;
+    Pair(stage).Image = c.Image;
+    MoveTitleImage(stage.Run);
+    EXPECT_EQ(Pair(stage).Image, c.ImageAfter) << c.Overall;
+    EXPECT_EQ(stage["Ash"].Over, c.After1) << c.Overall;
+    EXPECT_EQ(stage["Bea"].Over, c.After2) << c.Overall;
+    EXPECT_EQ(stage.Run.Notes, c.Notes) << c.Overall;
+  }
+}
+
+TEST(TitleImage, OfAVacantTitleLosesAQuarter) {
+  Stage stage(WithTitles());
+  Crown(stage).Holder = 0;
+  Crown(stage).Image = 51;
+  stage.S.TitleName = "CWA Crown";
+  stage.Rate(0, 0, 100);
+  MoveTitleImage(stage.Run);
+  EXPECT_EQ(Crown(stage).Image, 38);
+  EXPECT_EQ(stage.Run.Notes, "The CWA Crown title has lost image.");
+}
+
+TEST(TeamExperience, ComesWithEveryMatchOfTeams) {
+  struct Case {
+    int Style;
+    std::vector<int> After;  // Ash and Bea, Dot and Cal, Bea and Cal, Hal and Gus
+  };
+  const Case kCases[] = {
+      {kSingles, {50, 50, 50, 50}},      {kTag, {51, 51, 50, 50}},
+      {kThreeTeams, {51, 51, 50, 50}},   {kFourTeams, {51, 51, 50, 51}},
+      {kThreeOnThree, {50, 50, 50, 50}}, {kFourOnFour, {50, 50, 50, 50}},
+  };
+  for (const Case& c : kCases) {
+    Stage stage(Eight()
+                    .Team("One", "Ash", "Bea")
+                    .Team("Two", "Dot", "Cal")
+                    .Team("Three", "Bea", "Cal")
+                    .Team("Four", "Hal", "Gus"));
+    stage.Match(c.Style, {"Ash", "Bea", "Cal", "Dot", "Eli", "Fay", "Gus", "Hal"});
+    GainTeamExperience(stage.Run);
+    std::vector<int> experience;
+    for (const Team& team : stage.W.Teams()) experience.push_back(team.Experience);
+    EXPECT_EQ(experience, c.After) << "style " << c.Style;
+  }
+}
+
+TEST(TeamExperience, EndsAtAHundred) {
+  Stage stage(Eight().Team("One", "Ash", "Bea", [](Team& team) { team.Experience = 100; }));
+  stage.Match(kTag, {"Ash", "Bea", "Cal", "Dot"});
+  GainTeamExperience(stage.Run);
+  EXPECT_EQ(stage.W.Teams()[1].Experience, 100);
+}
+
+}  // namespace
+}  // namespace grapplemont::test
