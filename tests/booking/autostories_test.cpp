@@ -108,6 +108,13 @@ TEST(AutoFeuds, TheLastMatchIsForTheTitleOfWhoHoldsOne) {
                     });
   EXPECT_EQ(int(kSeeds), CardsWith(world, true, 9, [&](const AutoCard& card) {
               const Segment* match = TitleMatch(card, "Belt");
+              EXPECT_EQ(0, Count(card,
+                                 [&](const Segment& row) {
+                                   return row.Kind == kInterview &&
+                                          TakesPart(row, Uid(world, "Hand 5")) &&
+                                          TakesPart(row, Uid(world, "Hand 6"));
+                                 }))
+                  << "nothing is left to say";
               return match && match->Purpose == purpose1::kEndFeud &&
                      match->Winner == Uid(world, "Hand 5") && match->Finish != kCountOut;
             }));
