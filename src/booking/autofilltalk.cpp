@@ -53,11 +53,20 @@ const Worker* RivalOf(const AutoPlan& plan, const Worker& speaker) {
   return best;
 }
 
-/// Tonight's opponent, if the match is still to come on this card.
+/// In the upper half of the card, so that talk about it comes first.
+bool IsStillToCome(const AutoPlan& plan, const Planned& match) {
+  const auto below =
+      std::count_if(plan.Matches.begin(), plan.Matches.end(),
+                    [&](const Planned& other) { return other.Weight < match.Weight; });
+  return 2 * below >= static_cast<int>(plan.Matches.size());
+}
+
+/// Whom the speaker meets later tonight.
 const Worker* OpponentTonight(const AutoPlan& plan, const Worker& speaker) {
   for (const Planned& planned : plan.Matches) {
     const Segment& match = planned.Segment;
-    if (match.Style != kSingles || !TakesPart(match, speaker.Uid)) continue;
+    if (match.Style != kSingles || !TakesPart(match, speaker.Uid) || !IsStillToCome(plan, planned))
+      continue;
     const Worker* other =
         plan.World.FindWorker(match.Worker[0] == speaker.Uid ? match.Worker[1] : match.Worker[0]);
     if (other && plan.Pool.MayAppear(other->Uid) && !HasTalk(plan, other->Uid)) return other;
@@ -65,8 +74,18 @@ const Worker* OpponentTonight(const AutoPlan& plan, const Worker& speaker) {
   return nullptr;
 }
 
+/// Their feud ends on this card, and there is no more to say.
+bool IsSettledTonight(const AutoPlan& plan, int uidA, int uidB) {
+  return std::any_of(plan.Matches.begin(), plan.Matches.end(), [&](const Planned& planned) {
+    const Segment& match = planned.Segment;
+    return match.Style == kSingles && match.Purpose == purpose1::kEndFeud &&
+           TakesPart(match, uidA) && TakesPart(match, uidB);
+  });
+}
+
 /// Between enemies it is about their feud, whatever it is for.
 bool TalkAbout(AutoPlan& plan, const Worker& speaker, const Worker& target, int purpose) {
+  if (IsSettledTonight(plan, speaker.Uid, target.Uid)) return false;
   const bool feud = FeudExists(plan.World, speaker.Uid, target.Uid);
   return BookTalkBetween(plan, {speaker.Uid}, {target.Uid},
                          feud ? int(kTalkContinueFeud) : purpose);

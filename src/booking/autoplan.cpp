@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "booking/grievances.h"
 #include "booking/segmentcheck.h"
 #include "booking/writers.h"
 #include "show/scoring.h"
@@ -116,7 +117,8 @@ bool Chance(World& world, int percent) {
 
 bool Stands(const AutoPlan& plan, const Segment& segment) {
   return RefusalsOf(plan.World, segment).empty() &&
-         WhyNotBookable(plan.World, segment, plan.View).empty();
+         WhyNotBookable(plan.World, segment, plan.View).empty() &&
+         GrievancesOf(plan.World, segment).empty();
 }
 
 void PlanMatch(AutoPlan& plan, const Segment& match) {

@@ -46,7 +46,7 @@ struct AutoPlan {
 /// The chance of so many in a hundred. Draws once.
 bool Chance(World& world, int percent);
 
-/// Whether the Segment could come out of the wizard and nobody objects.
+/// Whether the Segment could come out of the wizard, and nobody objects or takes it amiss.
 bool Stands(const AutoPlan& plan, const Segment& segment);
 /// Plans the match and counts its people, Title and feuds. Requires that it stands.
 void PlanMatch(AutoPlan& plan, const Segment& match);

@@ -28,6 +28,10 @@ int CardsWith(World& world, bool isEvent, int rows, Takes takes, std::uint64_t c
   return count;
 }
 
+int MatchesOf(const AutoCard& card, int uid) {
+  return Count(card, [&](const Segment& row) { return row.Kind == kMatch && TakesPart(row, uid); });
+}
+
 /// Both have a part in one Segment.
 bool BringsTogether(const AutoCard& card, int uidA, int uidB) {
   return Count(card, [&](const Segment& row) {
@@ -91,6 +95,43 @@ TEST(AutoFeuds, EndAtAnEventOnceTheyHaveHadEnough) {
         });
     EXPECT_EQ(feud.Ends ? int(kSeeds) : 0, ended) << feud.Says;
   }
+}
+
+TEST(AutoFeuds, TheLastMatchIsForTheTitleOfWhoHoldsOne) {
+  World world = House(30)
+                    .Title("Belt", "Hand 6")
+                    .Title("Crown", "Hand 1", {}, [](Title& t) { t.Image = 90; })
+                    .Game("CWA")
+                    .Feud("Hand 5", "Hand 6", [](Feud& feud) {
+                      feud.Clean1 = 7;
+                      feud.Dirty2 = 9;
+                    });
+  EXPECT_EQ(int(kSeeds), CardsWith(world, true, 9, [&](const AutoCard& card) {
+              const Segment* match = TitleMatch(card, "Belt");
+              EXPECT_EQ(0, Count(card,
+                                 [&](const Segment& row) {
+                                   return row.Kind == kInterview &&
+                                          TakesPart(row, Uid(world, "Hand 5")) &&
+                                          TakesPart(row, Uid(world, "Hand 6"));
+                                 }))
+                  << "nothing is left to say";
+              return match && match->Purpose == purpose1::kEndFeud &&
+                     match->Winner == Uid(world, "Hand 5") && match->Finish != kCountOut;
+            }));
+}
+
+TEST(AutoFeuds, NobodyIsCarriedOutAndWrestlesAllTheSame) {
+  World world = House(14).Game("CWA").Feud("Hand 1", "Hand 2").Feud("Hand 3", "Hand 4");
+  const auto isAttack = [](const Segment& row) {
+    return row.Kind == kAngle && (row.Style == kAmbush || row.Style == 27);
+  };
+  EXPECT_GT(CardsWith(world, false, 11,
+                      [&](const AutoCard& card) {
+                        for (const Segment& row : card.Rows)
+                          EXPECT_TRUE(!isAttack(row) || MatchesOf(card, row.Worker[0]) == 0);
+                        return Count(card, isAttack) > 0;
+                      }),
+            0);
 }
 
 TEST(AutoFeuds, StipulationsAreForEventsAndWithinTheRisk) {
