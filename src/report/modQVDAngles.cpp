@@ -229,14 +229,14 @@ constexpr Block kBlocks[] = {
     {AngleText,
      31,
      {
-         "{1} throws a bag in the trunk. Engine. Gone for the night. ",
-         "Car park. {1} drives off, no comment. Done for tonight. ",
+         "{1} throws a bag in the trunk. Engine, lights, gate. Gone for the night. ",
+         "Car park. {1} drives off, no comment, window up. Done for tonight. ",
      }},
     {AngleText,
      32,
      {
-         "Car door. {1} is here. Bag, shades, no smile. ",
-         "{1} arrives at the building. Security opens up. Quickly. ",
+         "Car door opens. {1} is here. Bag, shades, no smile for the camera. ",
+         "{1} arrives at the building. Security opens up. Quickly. No autographs. ",
      }},
     {AngleText,
      33,
@@ -262,8 +262,8 @@ constexpr Block kBlocks[] = {
     {AngleText,
      36,
      {
-         "{1} walks down a corridor. That's all. ",
-         "Hallway shot. {1}, walking. Left, right, left. Looks serious. ",
+         "{1} walks down a corridor. Past catering, past the showers. That's all. ",
+         "Hallway shot. {1}, walking. Left, right, left. Looks serious about it. ",
      }},
     {AngleText,
      37,
@@ -312,8 +312,8 @@ constexpr Block kBlocks[] = {
     {AngleText,
      44,
      {
-         "{1} tapes up. Stretches. Shadow boxes. Match ready. ",
-         "Weights, skipping rope, cold water. {1} prepares. No smile. ",
+         "{1} tapes up. Stretches. Shadow boxes. Ready for a match, by the look. ",
+         "Weights, skipping rope, cold water. {1} prepares for the match. No smile. ",
      }},
     {AngleText,
      45,
@@ -424,7 +424,7 @@ constexpr Block kBlocks[] = {
     {AngleText,
      60,
      {
-         "Video. {1} hits, {1} flies, {1} wins. Guitars. Good edit. ",
+         "Music video. {1} hits, {1} runs, {1} wins. Guitars all over it. Good edit. ",
          "Hype reel for {1}. Slow motion, smoke, drums. Crowd watches every second. ",
      }},
     {AngleText,
@@ -464,7 +464,7 @@ constexpr Block kBlocks[] = {
     {AngleText,
      66,
      {
-         "Video. Two shadows. {F:members}. Coming soon. ",
+         "Video. Two shadows, one storm. {F:members}. Debut coming soon. ",
          "New team on the screen : {F:members}. Doors kicked in, tag ropes cut. Debut soon. ",
      }},
     {AngleText,
@@ -512,7 +512,7 @@ constexpr Block kBlocks[] = {
      73,
      {
          "Valentine's Day. {1} on one knee. Ring out. {2} says yes! Kiss! Flowers everywhere. ",
-         "{1} asks {2}. Long pause. Yes! Wedding bells, happy crowd. ",
+         "{1} asks {2}. Long pause. Yes! Ring on, tears, wedding bells, happy crowd. ",
      }},
     {AngleText,
      74,
@@ -525,7 +525,7 @@ constexpr Block kBlocks[] = {
     {AngleText,
      75,
      {
-         "Scream backstage. {G} have {1}! Van door shuts. Abducted! ",
+         "Scream backstage. {G} have {1}! Hands, blindfold, van door. Abducted! ",
          "Lights out. {1} gone. Sign of {G} on the mat. Abducted, and nobody saw how. ",
      }},
     {AngleText,
@@ -555,7 +555,7 @@ constexpr Block kBlocks[] = {
      {
          "{G} have {1} in the ring. Bucket overhead. Tip! Blood bath! {1} soaked, red head to "
          "toe. ",
-         "A tub on stage. {G} push {1} in. Under. Up. Red all over. Blood bath. ",
+         "A tub on stage, full. {G} push {1} in. Under. Up. Red all over. Blood bath. ",
      }},
 };
 
