@@ -52,16 +52,16 @@ constexpr Block kBlocks[] = {
      6,
      {
          "{2} offers a hand. {1} takes it, kicks, keeps kicking. Trash flies in. {1} is a heel! ",
-         "{1} waits for {2} to turn. Belt to the skull! {1} laughs, rips up a fan's sign. Heel "
-         "turn, no question. ",
+         "{1} waits for {2} to look away. Belt to the skull! {1} laughs, rips up a fan's sign. "
+         "Heel turn, no question. ",
      }},
     {AngleText,
      7,
      {
          "{1} comes out with {3}, leaves with {2}. Contract torn up on the way. {3} has no "
          "manager, {2} does. {?turn}{1} turns with it. {.}",
-         "\"You're fired, {3}.\" Says {1}, who walks over to {2}. Handshake. New client : {2}. "
-         "{?turn}New attitude for {1}, too. {.}",
+         "\"You're fired, {3},\" says {1}, and walks over to {2}. Handshake. New client : {2}. "
+         "{?turn}New attitude for {1}, too. That's a turn. {.}",
      }},
     {AngleText,
      8,
@@ -97,7 +97,7 @@ constexpr Block kBlocks[] = {
     {AngleText,
      12,
      {
-         "Brawl! {S} drag{S:s} out a table. {F} {F:is} on it....CRASH! Through the wood! ",
+         "Brawl! {S} drag{S:s} out a table. {F} {F:is} on it....crash! Through the wood! ",
          "{S} want{S:s} the table. Crowd wants the table. {F} get{F:s} the table. Splinters! ",
      }},
     {AngleText,
@@ -124,7 +124,7 @@ constexpr Block kBlocks[] = {
      16,
      {
          "{O} grab{O:s} the legs of {1}. Ring post. Pull! Oof! {1} won't walk for a while. ",
-         "{1} dragged to the post by {O}. Legs on each side. Crunch! Every man here winced. ",
+         "{1} dragged to the post by {O}. Legs on each side. Crunch! Whole front row winced. ",
      }},
     {AngleText,
      17,
@@ -545,8 +545,8 @@ constexpr Block kBlocks[] = {
     {AngleText,
      78,
      {
-         "Black wedding. {1} in black, {2} in chains, {G} with candles. \"Do you....\" {?4}{4} "
-         "runs in! Saves {2}! {.}{!4}{2} breaks loose, runs! {.}No wedding. ",
+         "Black wedding. {1} in black, {2} in chains, {G} with candles. \"Do you?\" {?4}{4} runs "
+         "in! Saves {2}! {.}{!4}{2} breaks loose, runs! {.}No wedding. ",
          "{G} chant. {1} lifts the veil of {2}. Last question. {?4}Not tonight! {4} flattens {1}, "
          "carries {2} out! {.}{!4}{2} kicks {1}, flees up the aisle! {.}So close to \"I do\". ",
      }},

@@ -333,7 +333,7 @@ constexpr Block kBlocks[] = {
      kTHigh,
      {
          "German suplex by {a}, executed well. What a bridge! ",
-         "Rolling Germans by {a}! One. Two. Three! ",
+         "Rolling Germans by {a}! Three of them! ",
          "Half crab by {a}, dead centre. {d} screams. ",
          "Exploder by {a}! {d} in the corner, upside down. ",
          "Fisherman suplex by {a}. Snapped off. ",
@@ -391,7 +391,7 @@ constexpr Block kBlocks[] = {
          "Powerbomb on {d}. {a} nearly dropped it. ",
          "Chokeslam by {a}. One foot high. ",
          "Piledriver by {a}, looked crap. ",
-         "Messed up powerslam by {a}. {d} on top! ",
+         "Messed up powerslam by {a}. Both land hard. ",
          "Spear by {a}. Hit a knee. ",
          "Death valley driver by {a}. Fell sideways. ",
          "{a} lifts {d}....no....yes....thud. ",

@@ -38,8 +38,10 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kSingleTalk, kVerbalAttack),
      {
-         "\"Coward. Fake. Waste of a ticket.\" {T} doesn't hold back. {V} {V:is} the target. ",
-         "{T} tears into {V}. Mother gets mentioned. Bleep, bleep, bleep. ",
+         "\"Coward, fake, waste of a ticket!\" {T} doesn't hold back. {?V}{V} {V:is} the target. "
+         "{.}",
+         "{?V}{T} tears into {V}. {.}{!V}{T} tears into everybody. {.}Mothers get mentioned. "
+         "Bleep, bleep, bleep. ",
      }},
     {Speech,
      TalkBand(kSingleTalk, kHypeMatch),
@@ -57,7 +59,7 @@ constexpr Block kBlocks[] = {
      TalkBand(kSingleTalk, kTalkContinueFeud),
      {
          "{T} shows the bruises. Every one has a name, and it's the same name. {?V}It's {V}. {.}",
-         "\"Not finished. Not close.\" {T} shakes with anger. {V} will hear it. ",
+         "\"Not finished, not even close!\" {T} shakes with anger. {?V}{V} will hear it. {.}",
      }},
     {Speech,
      TalkBand(kSingleTalk, kSelfPromotion),
@@ -74,14 +76,15 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kTeamTalk, kVerbalAttack),
      {
-         "{T} trade{T:s} insults, one each, all about {V}. Then a whole round more. ",
-         "\"Jokes. Jobbers. Nobodies.\" {T} spit{T:s} it out, at {V} mostly. ",
+         "{T} trade{T:s} insults, one each. {?V}All about {V}. {.}Then another round. ",
+         "\"Jokes, jobbers, nobodies!\" {T} spit{T:s} it out. {?V}At {V}, mostly. {.}",
      }},
     {Speech,
      TalkBand(kTeamTalk, kHypeMatch),
      {
          "\"We tag, you drop,\" say {T:members}. {V} next. ",
-         "{T} act{T:s} out the double team. Cameraman plays the victim. {V} {V:is} next for real. ",
+         "{T} act{T:s} out the double team. Cameraman plays the victim. {?V}{V} {V:is} next, for "
+         "real. {.}",
      }},
     {Speech,
      TalkBand(kTeamTalk, kTalkTurn),
@@ -94,7 +97,8 @@ constexpr Block kBlocks[] = {
      TalkBand(kTeamTalk, kTalkContinueFeud),
      {
          "{T} want{T:s} more. Taped ribs, taped fists, same grudge. {?V}{V} started it. {.}",
-         "\"Round two, three, ten. Until somebody can't.\" {T} mean{T:s} {V}. ",
+         "\"Round two, round three, round ten!\" {T} won't let it lie. {?V}{V} can pick the night. "
+         "{.}",
      }},
     {Speech,
      TalkBand(kTeamTalk, kSelfPromotion),
@@ -111,9 +115,9 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kManagedTalk, kVerbalAttack),
      {
-         "{m} insults {V} for a minute flat. {T} nods on every word. ",
-         "\"Look at my {T:man},\" says {m}. \"Now look at {V}. Stop laughing.\" {T} cracks the "
-         "knuckles. ",
+         "{m} rants for a minute flat. {?V}{V} {V:is} the subject. {.}{T} nods on every word. ",
+         "\"Look at my {T:man},\" says {m}. {?V}\"Now look at {V}, and stop laughing.\" {.}{T} "
+         "cracks the knuckles. ",
      }},
     {Speech,
      TalkBand(kManagedTalk, kHypeMatch),
@@ -149,8 +153,9 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kManagedTeamTalk, kVerbalAttack),
      {
-         "{m} calls {V} every name there is. {T} laugh{T:s} on cue. ",
-         "\"Two amateurs,\" says {m}. {T} boo{T:s} a photo of {V}. ",
+         "{m} runs out of insults, starts over. {?V}{V} {V:is} called all of them. {.}{T} "
+         "laugh{T:s} on cue. ",
+         "\"Amateurs,\" says {m}. {?V}{T} boo{T:s} a photo of {V}. {.}{!V}{T} boo{T:s} along. {.}",
      }},
     {Speech,
      TalkBand(kManagedTeamTalk, kHypeMatch),
@@ -169,7 +174,7 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kManagedTeamTalk, kTalkContinueFeud),
      {
-         "{m} plays the tape again. {T} punch{T:es} a locker. {V} on the tape, smiling. ",
+         "{m} plays the tape again. {?V}{V} on it, smiling. {.}{T} punch{T:es} a locker. ",
          "\"Nobody does that to us,\" says {m}. {T} want{T:s} payback, tonight if possible. "
          "{?V}{V} can run. {.}",
      }},
