@@ -693,7 +693,7 @@ constexpr Block kBlocks[] = {
     {Opening,
      Bout(kSpecial, kTenMan),
      {
-         "10 Man Battle Royal. Over the top rope. ",
+         "10 Man Battle Royal. Last one in wins. ",
          "Ten in, nine out. Here we go. ",
      }},
     {Closer,

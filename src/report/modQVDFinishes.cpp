@@ -439,7 +439,7 @@ constexpr Block kBlocks[] = {
     {TagAftermath,
      after2::kSecondBeatsFirst,
      {
-         "{S} beat{S:s} down {F}. ",
+         "{S} win{S:s} the fight after the bell. {F} left flat. ",
          "{F} left lying. {S} stand{S:s} tall. ",
      }},
     {TagAftermath,
@@ -535,7 +535,7 @@ constexpr Block kBlocks[] = {
     {TagAftermath,
      after2::kRunInOnSecondTeam,
      {
-         "{Q} hit{Q:s} the ring! {S} laid out! ",
+         "{Q} come{Q:s} over the rail! {S} laid out! ",
          "{S} ambushed! It's {Q}! ",
      }},
     {TagAftermath,
