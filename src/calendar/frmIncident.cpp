@@ -123,8 +123,7 @@ class frmIncident : public ui::Screen {
       "cmdsuspend", static_cast<int>(kSuspensions.size()), [this](const std::string& name, int i) {
         const int months = SuspensionAt(i);
         return std::make_unique<ui::Button>(
-            *this, name,
-            "Suspend " + std::to_string(months) + (months == 1 ? " Month" : " Months"),
+            *this, name, "Suspend " + std::to_string(months) + (months == 1 ? " Month" : " Months"),
             [this, months] { cmdsuspend_Click(months); });
       }};
   ui::Button cmdignore{*this, "cmdignore", "Ignore", &frmIncident::cmdignore_Click};

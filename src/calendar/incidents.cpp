@@ -7,8 +7,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kLongestInjury = 6;
-
 bool IsAlive(const World& world, const Incident& incident) {
   if (incident.Type != kJobOffer) {
     const Worker* worker = world.FindWorker(incident.Uid);
@@ -26,9 +24,7 @@ void TakeOut(World& world, const Incident& incident) {
     worker->Status = "Reh";
     worker->StatusMonths = 1 + world.RandomDraw(3);
   } else if (incident.Type == kInjury) {
-    worker->Status = "Inj";
-    worker->InjuryName = DrawInjuryName(world);
-    worker->StatusMonths = world.RandomDraw(kLongestInjury);
+    BreakSomething(world, *worker);
   }
 }
 
@@ -70,8 +66,10 @@ std::string IncidentText(const World& world, const Incident& incident) {
       return name + " has been involved in a police incident! Apparently " +
              (worker.Gender ? "he" : "she") + " was carrying drugs when stopped.";
     case kRehab:
-      return name + " has been forced to check into rehab because of personal problems!\nThe stay "
-                    "takes " + Months(worker.StatusMonths) + ".";
+      return name +
+             " has been forced to check into rehab because of personal problems!\nThe stay "
+             "takes " +
+             Months(worker.StatusMonths) + ".";
     default:
       return name + " has sustained an injury!\n" + worker.InjuryName.Str() + ", out for " +
              Months(worker.StatusMonths) + ".";

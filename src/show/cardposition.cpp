@@ -1,27 +1,12 @@
 #include "show/cardposition.h"
 
-#include <algorithm>
-
 #include "records/modVar.h"
+#include "roster/placement.h"
 #include "show/legend.h"
 
 namespace grapplemont {
 
 namespace {
-
-constexpr int kAlways = -1;
-
-/// Over must be above this for a place on the card.
-struct CardRow {
-  int Size;
-  int Opener, LowerMidcard, Midcard, UpperMidcard, MainEvent;
-};
-// The smallest promotions have no places below the one that is always open.
-constexpr CardRow kCard[] = {
-    {kGlobal, 20, 40, 60, 80, 90},    {kNational, 20, 40, 55, 70, 80},
-    {kCult, 10, 20, 40, 50, 65},      {kRegional, 10, 20, 35, 45, 55},
-    {kSmall, kAlways, 5, 10, 20, 35}, {kBackyard, kAlways, kAlways, kAlways, 10, 25},
-};
 
 constexpr int kMoods = 6;
 constexpr int kMoodToWrite = 2;
@@ -70,17 +55,6 @@ CardPull HeldTooLow(World& world, const Worker& worker, int fit, int mood) {
 }
 
 }  // namespace
-
-int FittingPosition(int promotionSize, int over) {
-  const CardRow& row = kCard[std::clamp(promotionSize, int{kGlobal}, int{kBackyard}) - 1];
-  const int above[] = {row.MainEvent, row.UpperMidcard, row.Midcard, row.LowerMidcard, row.Opener};
-  int position = kMainEvent;
-  for (const int limit : above) {
-    if (over > limit) return position;
-    ++position;
-  }
-  return kJobber;
-}
 
 CardPull CheckCardPosition(World& world, const Worker& worker) {
   if (worker.Position == kNonWrestler || worker.Position == kManager) return {};

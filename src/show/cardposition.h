@@ -4,10 +4,6 @@
 
 namespace grapplemont {
 
-/// The place on the card, 1 Main Event to 6 Jobber, that fits this Over in a promotion of this
-/// size.
-int FittingPosition(int promotionSize, int over);
-
 /// What his place on the card does to a worker. The numbers may leave 0..100.
 struct CardPull {
   int Over = 0;

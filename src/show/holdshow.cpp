@@ -133,12 +133,16 @@ int CloseShow(World& world) {
   return run.ShowSum;
 }
 
+int FinishShow(World& world, LineMemory* memory) {
+  while (NextSegment(world) != 0) RunNextSegment(world, memory);
+  return ShowIsClosed(world) ? int(Run(world).ShowSum) : CloseShow(world);
+}
+
 int HoldShow(World& world, bool isEvent, const CommentaryTeam& team, int extraBonus,
              LineMemory* memory) {
   StartShow(world, isEvent, team);
   AddExtraBonus(world, extraBonus);
-  while (NextSegment(world) != 0) RunNextSegment(world, memory);
-  return CloseShow(world);
+  return FinishShow(world, memory);
 }
 
 void LeaveShow(World& world) {

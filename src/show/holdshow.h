@@ -48,6 +48,8 @@ ToldSegment RunNextSegment(World& world, LineMemory* memory);
 /// Closes the show to its rating, with what it does to feuds, workers and Titles, and gives the
 /// rating.
 int CloseShow(World& world);
+/// Runs what is left of a show under way and closes it; the rating.
+int FinishShow(World& world, LineMemory* memory);
 /// From start to close without a screen; the rating.
 int HoldShow(World& world, bool isEvent, const CommentaryTeam& team, int extraBonus,
              LineMemory* memory);

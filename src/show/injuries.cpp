@@ -36,12 +36,16 @@ int OddsOf(const SegmentRun& run, const Worker& worker) {
 
 }  // namespace
 
+void BreakSomething(World& world, Worker& worker) {
+  worker.Status = "Inj";
+  worker.InjuryName =
+      kInjuries[static_cast<std::size_t>(world.RandomDraw(static_cast<int>(kInjuries.size())) - 1)];
+  worker.StatusMonths = world.RandomDraw(kLongestMonths);
+}
+
 void Injure(SegmentRun& run, Worker& worker) {
   if (worker.Status == "Inj") return;
-  worker.Status = "Inj";
-  worker.InjuryName = kInjuries[static_cast<std::size_t>(
-      run.World.RandomDraw(static_cast<int>(kInjuries.size())) - 1)];
-  worker.StatusMonths = run.World.RandomDraw(kLongestMonths);
+  BreakSomething(run.World, worker);
   run.Notes += worker.Name.Str() + " has sustained an injury as a result of a bad bump! " +
                StatusLine(worker) + ". ";
 }

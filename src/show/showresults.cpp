@@ -169,7 +169,7 @@ int SlotRisk(const Network& network, std::string_view slot) {
 void EventReport(World& world, Promotion& promotion, const Event& event, int type) {
   const bool isPayPerView = type == kPayPerView && promotion.Size <= kRegional;
   const int buyRate = isPayPerView ? BuyRate(world, promotion) : 0;
-  const int people = EventAttendance(world, promotion, type).People;
+  const int people = EventAttendance(world, promotion, type);
   const int ppvDollars = isPayPerView ? SellPayPerView(promotion, buyRate) : 0;
   const int ticketDollars = SellTickets(promotion, people);
   PayForProduction(promotion, type);
@@ -199,7 +199,7 @@ void TvReport(World& world, Promotion& promotion) {
   if (rating < floor && IsPlayers(world, promotion))
     AddNews(world, network->Name, "The ratings for " + show->Name.Str() + " need to improve.");
   KeepRating(*show, rating);
-  const int people = TvAttendance(world, promotion).People;
+  const int people = TvAttendance(world, promotion);
   const int dollars = SellTickets(promotion, people);
   const Voice voice = VoiceOf(world, promotion, "Television report", world.Game().MailTvShow);
   const bool own = voice.Who == "We";

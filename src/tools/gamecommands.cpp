@@ -161,8 +161,6 @@ int Run(const Arguments& arguments, Shell& shell) {
   Game game(desk, *disk, GameOptions(arguments, *disk, shell));
   RequireGame(game, slot);
   for (const std::string& remark : game.OpenSlot(slot)) shell.Errors << ToUtf8(remark) << "\n";
-  if (shows == Shows::Auto)
-    shell.Errors << "There is no auto booker yet: the player's shows are cancelled.\n";
   Watcher watcher(game, shell, days);
   if (const auto stats = arguments.Text("--stats")) watcher.WriteTo(*stats);
   CareerEnd end;

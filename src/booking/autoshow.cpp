@@ -1,0 +1,53 @@
+#include "booking/autoshow.h"
+
+#include "booking/sheet.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// The player's best announcer but for one; nullptr for none.
+const Staff* BestAnnouncer(const World& world, const Staff* except) {
+  const Staff* best = nullptr;
+  for (const Staff& staff : world.AllStaff())
+    if (staff.Employer == world.PlayerUid() && staff.Position == kAnnouncer && &staff != except &&
+        (!best || staff.Talent > best->Talent))
+      best = &staff;
+  return best;
+}
+
+const Worker* BestTalker(const World& world) {
+  const Worker* best = nullptr;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid() && worker.Announcer && worker.Speaks &&
+        worker.Status == "Nor" && (!best || worker.Charisma > best->Charisma))
+      best = &worker;
+  return best;
+}
+
+}  // namespace
+
+CommentaryTeam BestTeam(const World& world) {
+  CommentaryTeam team;
+  const Staff* announcer = BestAnnouncer(world, nullptr);
+  const Staff* colour = BestAnnouncer(world, announcer);
+  const Worker* talker = BestTalker(world);
+  if (announcer) team.Announcer = announcer->Uid;
+  team.ColourIsWorker = talker && (!colour || talker->Charisma > colour->Talent);
+  if (team.ColourIsWorker)
+    team.Colour = talker->Uid;
+  else if (colour)
+    team.Colour = colour->Uid;
+  return team;
+}
+
+bool HoldAutoShow(World& world, bool isEvent, LineMemory* memory) {
+  OpenSheet(world, isEvent);
+  TakeCard(world, AutoBook(world, isEvent, TermsOf(world, isEvent).OpenRows));
+  if (!MayStart(world, isEvent)) return false;
+  HoldShow(world, isEvent, isEvent ? BestTeam(world) : TvTeam(world), 0, memory);
+  LeaveShow(world);
+  return true;
+}
+
+}  // namespace grapplemont
