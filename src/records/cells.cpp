@@ -150,8 +150,10 @@ std::string TakeText(const Field& field, int index, std::string_view cell, std::
     return "has the letter " + letter +
            ", which the game cannot hold: it knows those of Windows-1252";
   }
-  if (std::any_of(text->begin(), text->end(),
-                  [](char c) { return (c >= 0 && c < 32) || c == 127; }))
+  const auto isWrong = [&](char c) {
+    return ((c >= 0 && c < 32) || c == 127) && !(c == '\n' && field.MayBreak);
+  };
+  if (std::any_of(text->begin(), text->end(), isWrong))
     return "has a line break or another control character in it";
   if (text->size() > static_cast<std::size_t>(field.Width))
     return QuotedCell(cell) + " has " + std::to_string(text->size()) +

@@ -106,7 +106,8 @@ void InspectText(Inspection& inspection, const Place& place, const Field& field,
   const std::string raw(
       reinterpret_cast<const char*>(place.Record) + field.Offset + index * field.Stride,
       static_cast<std::size_t>(field.Width));
-  if (std::any_of(raw.begin(), raw.end(), IsControl)) {
+  const auto isWrong = [&](char c) { return IsControl(c) && !(c == '\n' && field.MayBreak); };
+  if (std::any_of(raw.begin(), raw.end(), isWrong)) {
     inspection.NoteField(place, FieldName(field, index), "has a control character in it",
                          {"made a blank", [&field, &place, index, raw] {
                             std::string clean = raw;

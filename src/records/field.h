@@ -53,6 +53,7 @@ struct Field {
   long long Min = 0, Max = 0;
   bool MayBeNone = false;  // besides Min..Max, -1 stands for "none"
   bool IsKey = false;      // unique in its file
+  bool MayBreak = false;   // a text of several lines
   Refers To = Refers::Nothing;
   Vocabulary Words = {};
   std::string_view Unit = {};
@@ -72,6 +73,11 @@ struct Field {
   constexpr Field Key() const {
     Field f = *this;
     f.IsKey = true;
+    return f;
+  }
+  constexpr Field InLines() const {
+    Field f = *this;
+    f.MayBreak = true;
     return f;
   }
   constexpr Field LeadsTo(Refers to) const {

@@ -58,7 +58,7 @@ constexpr RecordLayout kSegmentLayout{"Segment", "match.dat", sizeof(Segment), 1
 constexpr Field kMailFields[] = {
     FIELD(Mail, From).Means("Sender."),
     FIELD(Mail, Date).Means("Day it came, dd/mm/yy."),
-    FIELD(Mail, Body).Means("Text."),
+    FIELD(Mail, Body).InLines().Means("Text."),
 };
 constexpr RecordLayout kMailLayout{"Mail", "news.dat", sizeof(Mail), 20000, kMailFields};
 

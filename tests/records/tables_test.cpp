@@ -426,7 +426,9 @@ TEST(Tables, OfAnyMailComeBack) {
       mail.Date = ShortDate(world.Today());
       std::string body;
       for (int letter = dice.From(0, 250); letter > 0; --letter)
-        body += static_cast<char>(dice.OneIn(4) ? ' ' : dice.From(0xA0, 0xFF));
+        body += static_cast<char>(dice.OneIn(9)   ? '\n'
+                                  : dice.OneIn(4) ? ' '
+                                                  : dice.From(0xA0, 0xFF));
       mail.Body = body;
       world.News().Append(mail);
     }
