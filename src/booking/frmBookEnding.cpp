@@ -70,10 +70,12 @@ class frmBookEnding : public MatchStepScreen {
   }
 
   ui::Box Body() override {
-    std::vector<ui::Box> tables = {ui::Group("", {ui::Grow(lstcode)}).Grow(3)};
+    std::vector<ui::Box> tables = {ui::Group("", {ui::Grow(lstcode)}).Grow()}, runIns;
     constexpr const char* kTitles[] = {"Who runs in", "Who runs in as well"};
     for (int list = 1; list <= row_.RunIns; ++list)
-      tables.push_back(ui::Group(kTitles[list - 1], {ui::Grow(lstrun(list))}).Grow(4));
+      runIns.push_back(ui::Group(kTitles[list - 1], {ui::Grow(lstrun(list))}).Grow());
+    // One below the other: the words of the codes need the width.
+    if (!runIns.empty()) tables.push_back(ui::Rows(std::move(runIns)).Grow());
     return ui::Rows(
         {ui::Columns(std::move(tables)).Grow(),
          row_.Does == kPurposeStep ? ui::Group("What it costs", {txtsay}) : Objections()});

@@ -31,8 +31,11 @@ class frmBookWinner : public MatchStepScreen {
     std::vector<ui::Box> boxes = {ui::Field("Winner", cmbwinner)};
     for (int box = 1; box <= form_.Losers; ++box)
       boxes.push_back(ui::Field(LoserLabel(box), cmbloser(box)));
-    return ui::Rows({ui::Group("", std::move(boxes)),
-                     ui::Group("In the ring", {ui::Grow(lstring)}).Grow(), Objections()});
+    boxes.push_back(ui::Spacer());
+    return ui::Rows({ui::Columns({ui::Group("Result", std::move(boxes)).Grow(2),
+                                  ui::Group("In the ring", {ui::Grow(lstring)}).Grow(3)})
+                         .Grow(),
+                     Objections()});
   }
 
   bool Store() override { return Accept(Draft(), kResultStep); }

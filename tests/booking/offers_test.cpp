@@ -263,6 +263,46 @@ TEST(Purposes, TurnWhoActsInASinglesMatch) {
   }
 }
 
+/// Against whom a Face turns: a Heel there, and it is no turn.
+TEST(Purposes, TurnAgainstWhomTheActHits) {
+  struct Row {
+    int Finish, Aftermath, Turn, Against;
+  };
+  const Row kRows[] = {
+      {kCountOut, 1, 10, 2},
+      {kCheating, 1, 10, 2},
+      {kInterference, 1, 5, 2},
+      {kBotchedInterference, 1, 5, 1},
+      {kClean, 4, 5, 1},
+      {kClean, 5, 5, 2},
+      {kClean, 7, 11, 1},
+      {kClean, 8, 10, 2},
+      {kInterference, 9, 11, 1},
+      {kDqThroughInterference, 11, 11, 1},
+      {kDqThroughInterference, 11, 5, 1},
+      {kDqThroughInterference, 12, 11, 5},
+      {kClean, 19, 10, 2},
+      {kClean, 20, 11, 1},
+      {kClean, 21, 10, 2},
+      {kClean, 22, 11, 1},
+      {kDqThroughInterference, 26, 31, 5},
+  };
+  for (const Row& row : kRows) {
+    World world = BookingRoster().Game("CWA");
+    ReadyAll(world);
+    Segment match = Singles(world, kPlainSingles, true);
+    match.Finish = row.Finish;
+    match.Aftermath = row.Aftermath;
+    if (NeedsFinishRunIn(kSingles, row.Finish)) match.Other1 = 5;
+    if (NeedsAftermathRunIn(kSingles, row.Aftermath))
+      (row.Aftermath >= after1::kSave ? match.Other2 : match.Other1) = 6;
+    EXPECT_EQ(TurnsAmong(world, match, {row.Turn}), Codes{row.Turn});
+    world.FindWorker(row.Against)->Disposition = "H";
+    EXPECT_EQ(TurnsAmong(world, match, {row.Turn}), Codes())
+        << "finish " << row.Finish << ", aftermath " << row.Aftermath;
+  }
+}
+
 TEST(Purposes, TurnWhoActsInATagMatch) {
   World world = BookingRoster().Game("CWA");
   ReadyAll(world);

@@ -134,6 +134,8 @@ TEST(Refusals, OfTheLosingPairComeAtTheirThresholds) {
       {false, {131, 190}, {kLeague}, 3},
       {false, {130, 190}, {}, 0},
       {true, {141, 179}, {kLeague, kLeague}, 3},
+      {true, {141, 180}, {kLeague}, 3},
+      {false, {141, 179}, {kLeague, kLeague}, 3},
       {false, {141, 180}, {kLeague}, 3},
       {true, {121, 129}, {kLeague}, 2},
       {true, {121, 130}, {}, 0},

@@ -185,6 +185,73 @@ TEST(TextOfStep, TellsInterviewsAndAngles) {
   EXPECT_EQ(told(kAngle, 2, {"Man 1", "Man 2"}, 2), "Participants = Man 1, Man 2");
 }
 
+TEST(ScreenOfStep, GoesByKindStyleAndType) {
+  struct Row {
+    int Kind, Style, Type, Step;
+    const char* Screen;
+  };
+  const Row kRows[] = {
+      {kEmptySegment, 0, 0, 0, "frmBookStyle"},
+      {kMatch, 0, 0, 1, "frmBookType"},
+      {kMatch, 1, 0, 2, "frmBookMatchStyle"},
+      {kMatch, 1, 1, 3, "frmBook1vs1"},
+      {kMatch, 2, 1, 3, "frmBook2vs2"},
+      {kMatch, 3, 1, 3, "frmBook3x1"},
+      {kMatch, 4, 1, 3, "frmBook3x2"},
+      {kMatch, 5, 1, 3, "frmBook4x1"},
+      {kMatch, 6, 1, 3, "frmBook4x2"},
+      {kMatch, 7, 1, 3, "frmBook3vs3"},
+      {kMatch, 8, 1, 3, "frmBook4vs4"},
+      {kMatch, 9, 1, 3, "frmBookSpecial"},
+      {kMatch, 9, 1, 4, "frmBookBelt"},
+      {kMatch, 1, 19, 5, "frmBook1vs1Winner"},
+      {kMatch, 2, 5, 5, "frmBook2vs2Winner"},
+      {kMatch, 3, 1, 5, "frmBook3x1eWinner"},
+      {kMatch, 3, 2, 5, "frmBook3x1Winner"},
+      {kMatch, 3, 4, 5, "frmBook3x1Winner"},
+      {kMatch, 4, 1, 5, "frmBook3x2eWinner"},
+      {kMatch, 4, 2, 5, "frmBook3x2Winner"},
+      {kMatch, 4, 3, 5, "frmBook3x2oWinner"},
+      {kMatch, 4, 4, 5, "frmBook3x2oWinner"},
+      {kMatch, 5, 1, 5, "frmBook4x1eWinner"},
+      {kMatch, 5, 2, 5, "frmBook3x1Winner"},
+      {kMatch, 6, 1, 5, "frmBook4x2eWinner"},
+      {kMatch, 6, 2, 5, "frmBook3x2oWinner"},
+      {kMatch, 7, 1, 5, "frmBook3vs3Winner"},
+      {kMatch, 8, 1, 5, "frmBook4vs4Winner"},
+      {kMatch, 8, 2, 5, "frmBookSurvivorWinner"},
+      {kMatch, 9, 3, 5, "frmBookSpecialWinner"},
+      {kMatch, 1, 1, 6, "frmBook1vs1Finish"},
+      {kMatch, 2, 1, 6, "frmBook2vs2Finish"},
+      {kMatch, 7, 1, 6, "frmBook3vs3Finish"},
+      {kMatch, 8, 2, 6, "frmBook4vs4Finish"},
+      {kMatch, 1, 1, 7, "frmBookAfter"},
+      {kMatch, 2, 1, 7, "frmBook2vs2After"},
+      {kMatch, 1, 1, 8, "frmBookPurpose"},
+      {kMatch, 2, 1, 8, "frmBook2vs2Purpose"},
+      {kMatch, 1, 1, 9, ""},
+      {kInterview, 0, 0, 1, "frmIVType"},
+      {kInterview, 1, 0, 2, "frmIV1"},
+      {kInterview, 2, 0, 2, "frmIV2"},
+      {kInterview, 3, 0, 2, "frmIV1m"},
+      {kInterview, 4, 0, 2, "frmIV2m"},
+      {kInterview, 1, 0, 3, "frmIV1opp"},
+      {kInterview, 2, 0, 3, "frmIV2opp"},
+      {kInterview, 3, 0, 3, "frmIV1opp"},
+      {kInterview, 4, 0, 3, "frmIV2opp"},
+      {kInterview, 4, 0, 4, "frmIVPurpose"},
+      {kAngle, 0, 0, 1, "frmAngleType"},
+      {kAngle, 79, 0, 2, "frmAnglePeople"},
+  };
+  for (const Row& row : kRows) {
+    Wizard wizard = BeginBooking(1, false);
+    wizard.Buffer.Kind = row.Kind;
+    wizard.Buffer.Style = row.Style;
+    wizard.Buffer.MatchType = row.Type;
+    EXPECT_EQ(ScreenOfStep(wizard, row.Step), row.Screen);
+  }
+}
+
 TEST(frmBookSheet, OpensOnlyWhatIsDue) {
   BookingPlay play(BookingRoster().Game("CWA"));
   play.Desk.Open(MakefrmBookSheet(play.Play, 2, false));
