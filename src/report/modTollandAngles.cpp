@@ -13,7 +13,7 @@ constexpr Block kBlocks[] = {
          "{1} comes to the ring, asks for {2} by name, and issues a challenge. No insults, no "
          "props, terms clearly stated. {2} hears it out from the stage and keeps the answer back. "
          "I had forgotten how good the plain version is. ",
-         "\"I want {2},\" says {1}. \"I do not mind when.\" It is a challenge, and it took nine "
+         "\"I want {2},\" says {1}. \"I do not mind when.\" It is a challenge, in under a dozen "
          "words. {2} is shown on a monitor, thinking about it. Thinking is good television when it "
          "is done well. ",
      }},
@@ -62,9 +62,9 @@ constexpr Block kBlocks[] = {
     {AngleText,
      6,
      {
-         "{1} has the sympathy of everybody in the building, and spends all of it on the back of "
-         "{2:his} head. That is, {2} is hit from behind and left. {1} has turned heel. Effective, "
-         "if brutal to watch, as it ought to be. ",
+         "{1} has the sympathy of the whole building, and gives all of it up for one blow to the "
+         "back of the head of {2}. {1} has turned heel. Effective, and unpleasant to watch, as it "
+         "ought to be. ",
          "\"I have been decent for years,\" {1} says to {2}, \"and look where you are.\" Then the "
          "chair. {1} goes heel with a reason that one can almost follow. Those are the dangerous "
          "ones. ",
@@ -83,11 +83,11 @@ constexpr Block kBlocks[] = {
      8,
      {
          "{1} has dinner with {2}. It comes out that {3} had booked the same table. {1} says that "
-         "she is sorry, to one of them. I cannot tell which one, and I suspect that that is the "
-         "angle. ",
+         "{1:he} {1:is} sorry, to one of them. I cannot tell to which, and I suspect that this is "
+         "the angle. ",
          "{3} sees {1} laughing with {2}, and the flowers go in a bin. {2} notices, and lets it "
-         "show. Two of them and one of her. It is the second oldest plot there is, and they did "
-         "not rush it. ",
+         "show. Two of them and one of {1:him}. It is the second oldest plot there is, and they "
+         "did not rush it. ",
      }},
     {AngleText,
      9,
@@ -382,8 +382,9 @@ constexpr Block kBlocks[] = {
      {
          "{1} books {2} against {3} for later tonight. It took under a minute. This is what a "
          "Commissioner is for, and they so seldom do it. ",
-         "The Commissioner sends for {2} and hands over a slip: {3}, tonight. {2} reads it twice. "
-         "I have it in my running order now, in pencil, as with all of them. ",
+         "{1} sends for {2} and hands over a slip: {3}, tonight. {2} reads it twice. The "
+         "Commissioner has moved on to the next slip. I have it in my running order now, in "
+         "pencil, as with all of them. ",
      }},
     {AngleText,
      43,
@@ -474,8 +475,8 @@ constexpr Block kBlocks[] = {
      53,
      {
          "A group that nobody has seen before surrounds {1}, and when it is finished there is a "
-         "name: {G}. It is a debut by violence on a man or woman of some standing, the best "
-         "address there is. ",
+         "name: {G}. It is a debut by violence, on a {1:man} of some standing, and there is no "
+         "better address. ",
          "{1} is beaten down by several people at once. They are {G}, and they are new. No speech "
          "was made. The first night of a stable should be short of words, and it was. ",
      }},
@@ -588,7 +589,7 @@ constexpr Block kBlocks[] = {
      66,
      {
          "{F:members} are on their way, by the look of a video. Two faces, half in shadow, both "
-         "unshaven or badly lit. A debut to wait for. ",
+         "badly lit. A debut to wait for. ",
          "We are told to expect {F}, and shown why: a double team from somewhere with poor "
          "cameras. It was a good double team. The debut can come. ",
      }},
@@ -640,15 +641,15 @@ constexpr Block kBlocks[] = {
     {AngleText,
      72,
      {
-         "{1} hands {title} to {O:members}. They were vacant, says the Commissioner, and now they "
-         "are not. It is quick and it is legal. I have asked for a copy of the rule. ",
-         "The Commissioner settles the matter of {title} with a nod: {O:members} are the "
+         "{1} hands {title} to {O:members}. Vacant until tonight, says the Commissioner, and now "
+         "filled. It is quick and it is legal. I have asked for a copy of the rule. ",
+         "{1}, as Commissioner, settles the matter of {title} with a nod: {O:members} are the "
          "champions. Two belts, no match. They looked a little surprised. So did the page. ",
      }},
     {AngleText,
      73,
      {
-         "It is the fourteenth of February, and {1} gets down on one knee in front of {2}. She "
+         "It is the fourteenth of February, and {1} gets down on one knee in front of {2}. {2:he} "
          "says yes. I do not grade these. I may have had something in my eye. ",
          "{1} proposes to {2}, who accepts. Nobody came out to ruin it. I kept watching the "
          "entrance until the very end, and nobody came. Remarkable. ",
@@ -656,9 +657,9 @@ constexpr Block kBlocks[] = {
     {AngleText,
      74,
      {
-         "{1} proposes. {2} lets {1:him} come to the end of it before she says no. It is cruel, "
-         "and it was perfectly timed. {?turn}So {2} shows us another face. It had been under the "
-         "first one, I suspect. {.}",
+         "{1} proposes. {2} lets {1:him} come to the end of it before the no. It is cruel, and it "
+         "was perfectly timed. {?turn}So {2} shows us another face. It had been under the first "
+         "one, I suspect. {.}",
          "A ring, a knee, a question from {1}, and a refusal from {2}. {1} stays down there for a "
          "while. I had to turn over my page. {?turn}The people will not forgive {2} that, or not "
          "for months. It was a turn without a blow. {.}",
@@ -668,9 +669,9 @@ constexpr Block kBlocks[] = {
      {
          "The lights fail, and once they are back {1} is no longer there. {G} have abducted "
          "{1:him}. It was done without a struggle, which I found worse than with one. ",
-         "{1} walks to the car, and {G} are in it. She is gone before anybody has reached the "
-         "door. An abduction, the second of my career. The first was never resolved. I still have "
-         "the file. ",
+         "{1} walks to the car, and {G} are in it. {1:he} {1:is} gone before anybody has reached "
+         "the door. An abduction, the second of my career. The first was never resolved. I still "
+         "have the file. ",
      }},
     {AngleText,
      76,

@@ -55,28 +55,26 @@ constexpr Block kBlocks[] = {
     {TwoCount,
      0,
      {
-         "Hooks the leg for a two count. Nobody bit, nor were they asked to. ",
-         "Lateral press, no leg, two. Hook the leg, I say, for the thousandth time. ",
-         "A cover for two. It keeps the other one honest. ",
+         "Hooks the leg for a two count. ",
+         "A lateral press, no leg, for two. ",
+         "Cover, a clear two. ",
      }},
     {NearFall,
      0,
      {
-         "Two and three quarters, by my watch. The shoulder was late and the better for it. ",
+         "Two and three quarters, by my watch. ",
          "One, two, and {d} kicks out so late that I had written three. ",
-         "Two and nine tenths. That is a near fall, and the crowd treated it as one. ",
+         "Two and nine tenths, and the crowd treats it as such. ",
          "A long two for {d}. The referee looks at his hand as though it had let him down. ",
-         "One, two, and a shoulder. I would have bought that one as the finish. ",
+         "One, two, and a shoulder. I would have bought that one. ",
      }},
     {ThreeCount,
      0,
      {
          "One, two, three. {w} has beaten {l}. ",
-         "{w} covers {l}, hooks the leg, and gets all three. It was over before the hand came "
-         "down. ",
-         "Three count, {w} over {l}. The record book takes no questions. ",
-         "{w} makes the cover. {l} does not stir, and the referee counts to three at the "
-         "regulation speed. ",
+         "{w} covers {l}, hooks the leg, and gets all three. ",
+         "Three count, {w} over {l}. ",
+         "{w} makes the cover. {l} does not stir, and it is three. ",
          "The shoulders of {l} are down for three, and {w} has the win. ",
      }},
     {TapOut,
@@ -115,13 +113,12 @@ constexpr Block kBlocks[] = {
     {TagOut,
      0,
      {
-         "Tag between {a} and {b}. Simple, and on time. ",
-         "{a} tags out to {b}, which freshens things up. ",
-         "{a} makes the tag to {b}. The five seconds are observed, more or less. ",
-         "{b} has the arm out, {a} reaches it, and the match gets its second wind. ",
-         "{a} brings in {b}. Quick tags. It is the oldest tactic in the division and the least "
-         "used. ",
-         "{a} finds the hand of {b} and rolls out of the way. Clean exchange. ",
+         "Tag between {a} and {b}. ",
+         "{a} tags out to {b}. ",
+         "{a} makes the tag to {b}, inside the five seconds. ",
+         "{b} has the arm out, and {a} reaches it. ",
+         "Quick tag from {a} to {b}. ",
+         "{a} finds the hand of {b} and rolls out of the way. ",
      }},
     {DoubleTeam,
      0,
@@ -379,18 +376,17 @@ constexpr Block kBlocks[] = {
     {FinishImpact,
      0,
      {
-         "{a} hits {d} with the {finisher}. It has been set up, and it is hit clean. ",
-         "The {finisher} by {a} on {d}. Protected, as a finisher should be. ",
+         "{a} hits {d} with the {finisher}. Clean contact. ",
+         "The {finisher} by {a} on {d}, just when it was due. ",
          "{a} waits for {d} to turn around, and there is the {finisher}. The waiting is half of "
          "it. ",
-         "{a} lands the {finisher}. I looked for a flaw. {d} looked for the lights. ",
+         "{a} lands the {finisher} on {d}. I looked for a flaw. ",
      }},
     {FinishHold,
      0,
      {
          "{a} locks the {finisher} on {d}, in the middle, where it belongs. ",
-         "The {finisher} by {a}. The hold has been built towards all night, or I should like to "
-         "think so. {d} has no way out. ",
+         "The {finisher} by {a}. It is on deep, and {d} has no way out. ",
          "{a} has the {finisher} on {d} and sinks it a notch deeper each time that {d} moves. ",
          "{d} fights the hands, loses, and {a} has the {finisher} cinched in. ",
      }},
@@ -409,8 +405,7 @@ constexpr Block kBlocks[] = {
      {
          "{d} is down, and {a} adds the {finisher} for certainty. ",
          "{a} finds {d} flat on the mat and delivers the {finisher}. No shine on it, just weight. ",
-         "The {finisher} by {a} on a {d:man} already beaten. Thoroughness is a virtue. {d} may "
-         "disagree. ",
+         "The {finisher} by {a} on a {d:man} already beaten. Thoroughness is a virtue. ",
          "{a} stands over {d}, nods, and drops the {finisher}. ",
      }},
     {IronFall,
@@ -484,19 +479,19 @@ constexpr Block kBlocks[] = {
     {RumbleEntry,
      0,
      {
-         "Entry #{no} is {a}. The clock was twelve seconds short, as usual. ",
-         "{a} is entry #{no}. A warm hand for that one. ",
-         "Entry #{no}: {a}. It makes things livelier, which they had not been. ",
-         "The buzzer brings {a} as entry #{no}. I had a different name in the envelope. ",
+         "Entry #{no} is {a}, twelve seconds early by my watch. ",
+         "{a} is entry #{no}, to a warm hand. ",
+         "Entry #{no}: {a}. It livens things up. ",
+         "The buzzer brings {a} as entry #{no}. I had another name in the envelope. ",
          "Entry #{no} is {a}, who picks the nearest back and hits it. ",
-         "Here is {a}, entry #{no}, at a dead run. It never helps. ",
-         "{a} walks out at entry #{no} and takes {a:his} time. Veterans walk. ",
-         "Entry #{no}, {a}. The ring is too full to fall down in, so this is slow going. ",
+         "Here is {a}, entry #{no}, at a dead run. ",
+         "{a} walks out at entry #{no} and takes {a:his} time. ",
+         "Entry #{no}, {a}, over the second rope and straight into traffic. ",
          "{a} comes in as entry #{no}, hits the first four {a:he} meet{a:s}, and then leans in a "
-         "corner like all of them. ",
-         "At entry #{no} we get {a}. Filler, or dark horse. I have it down as filler. ",
-         "Entry #{no} is for {a}. There is a pop. They are rarer this year. ",
-         "{a} is entry #{no}. I check the ink. ",
+         "corner. ",
+         "At entry #{no} we get {a}. I have {a:him} down as a dark horse. ",
+         "Entry #{no} is for {a}. There is a pop. ",
+         "{a} is entry #{no}. I tick the chart. ",
      }},
     {EliminationTry,
      0,
@@ -507,30 +502,27 @@ constexpr Block kBlocks[] = {
          "{a} pushes at {d} in the corner. Four minutes of most battle royals are this. ",
          "{d} goes over, lands on the apron, and is back in behind {a}. Crisply done. ",
          "{a} lifts a leg of {d}. The other leg is not persuaded. ",
-         "{d} dangles by both hands. {a} turns away too soon to celebrate. That will be cliche "
-         "number six. ",
+         "{d} dangles by both hands. {a} turns away too soon to celebrate. I keep a count of that "
+         "one. ",
          "{a} runs at {d} and nearly goes out {a:himself}. Momentum has no friends. ",
          "{a} has {d} all but out, and someone unwise pulls {d} back in. Explain that to me. ",
      }},
     {Elimination,
      0,
      {
-         "{d} got thrown over the top rope by {a} (Elimination #{no}). Plain and good. ",
-         "{d} was eliminated by {a}, without ceremony (Elimination #{no}). ",
+         "{d} got thrown over the top rope by {a} (Elimination #{no}). ",
+         "{d} was eliminated by {a} (Elimination #{no}). No ceremony. ",
          "{a} backdrops {d} out (Elimination #{no}). Nice height. ",
-         "{d} charges, {a} ducks, {d} is on the floor (Elimination #{no}). The battle royal in one "
-         "sentence. ",
-         "{a} clotheslines {d} over the top rope (Elimination #{no}). I have that down as the "
-         "forty-first of its kind. ",
-         "{d} is tipped out from behind by {a} while posing (Elimination #{no}). Let that be a "
-         "lesson. It will not be. ",
-         "{a} kicks {d} off the apron (Elimination #{no}). Finish what you start. ",
+         "{d} charges, {a} ducks, {d} is on the floor (Elimination #{no}). ",
+         "{a} clotheslines {d} over the top rope and out (Elimination #{no}). ",
+         "{d} is tipped out from behind by {a} while posing (Elimination #{no}). ",
+         "{a} finishes what was started and kicks {d} off the apron (Elimination #{no}). ",
          "{d} loses hold of the rope at last, and {a} gets the credit (Elimination #{no}). ",
          "{a} lifts {d} clean over and drops {d:him} outside (Elimination #{no}). That is "
-         "strength, and it is noted. ",
+         "strength. ",
          "{d} goes out, still arguing with {a} on the way down (Elimination #{no}). ",
-         "{a} pulls down the rope, and {d} does the rest (Elimination #{no}). Efficiency itself. ",
-         "{d} was dumped by {a} just as something was starting there (Elimination #{no}). A pity. ",
+         "{a} pulls down the top rope, and {d} does the rest (Elimination #{no}). Efficient. ",
+         "{d} was dumped by {a} just as something was starting there (Elimination #{no}). ",
      }},
     {LastTwo,
      0,
@@ -543,9 +535,8 @@ constexpr Block kBlocks[] = {
     {Opening,
      Bout(kSingles, kPlainSingles),
      {
-         "{1} versus {2}, one fall. I have a fresh page for it. ",
-         "{1} and {2} lock up. On paper it ought to be decent, and I have been let down by paper "
-         "before. ",
+         "{1} versus {2}, one fall. ",
+         "{1} and {2}, a singles match. A fresh page, a sharp pencil. ",
      }},
     {Opening,
      Bout(kSingles, kSubmission),
@@ -676,9 +667,9 @@ constexpr Block kBlocks[] = {
     {Opening,
      Bout(kTag, kPlainTag),
      {
-         "{F:members} against {S:members} in tag team action. Give me an apron, a hot tag and I am "
-         "content. ",
-         "Tag match: {F:members} face {S:members}. The form is foolproof. They keep testing that. ",
+         "{F:members} against {S:members} in tag team action. ",
+         "Tag match, {F:members} facing {S:members}. The form is foolproof, which has been "
+         "tested. ",
      }},
     {Opening,
      Bout(kTag, kTagHardcore),
@@ -689,16 +680,17 @@ constexpr Block kBlocks[] = {
     {Opening,
      Bout(kTag, kTagCage),
      {
-         "{F:members} are caged with {S:members}. Both partners must be out before it counts. ",
-         "A cage around {F:members} and {S:members}. Four people do crowd it. Choreography will "
-         "tell. ",
+         "{F:members} are caged with {S:members} tonight. Both partners must be out before it "
+         "counts. ",
+         "A cage, {F:members} in it, and {S:members} with them. Four people do crowd it. "
+         "Choreography will tell. ",
      }},
     {Opening,
      Bout(kTag, kTagLadder),
      {
          "A ladder match for teams. {F:members} or {S:members} will take down {prize}. ",
-         "{prize} hangs over {F:members} and {S:members}. They changed this form for good once, "
-         "and they have been repeating it since. ",
+         "{prize} hangs above, and {F:members} take on {S:members} for it. Somebody changed this "
+         "form for good once. It has been repeated since. ",
      }},
     {Opening,
      Bout(kTag, kTagTables),
@@ -737,33 +729,34 @@ constexpr Block kBlocks[] = {
     {Opening,
      Bout(kThreeTeams, kElimination),
      {
-         "{F:members}, {S:members} and {X:members}, by elimination. I have drawn up columns. ",
-         "Three teams go to the last one left: {F:members}, {S:members}, {X:members}. The rules "
-         "are clear, so that is a start. ",
+         "{F:members} against {S:members} against {X:members}, by elimination. I have drawn up "
+         "columns. ",
+         "Three teams go to the last one left: {F:members} against {S:members} against "
+         "{X:members}. The rules are clear, so that is a start. ",
      }},
     {Opening,
      Bout(kThreeTeams, kTriangle),
      {
-         "{F:members}, {S:members} and {X:members}, one fall. Who tags whom is anyone's guess, and "
-         "they are guessing. ",
-         "A triangle for teams: {F:members}, {S:members}, {X:members}. Traffic control will be "
-         "graded. ",
+         "{F:members} against {S:members} against {X:members}, one fall. Who tags whom is anyone's "
+         "guess, and they are guessing. ",
+         "A triangle for teams: {F:members} against {S:members} against {X:members}. Traffic "
+         "control will be graded. ",
      }},
     {Opening,
      Bout(kThreeTeams, kThreeTeamsLadder),
      {
-         "{F:members}, {S:members} and {X:members} go up the ladders for {prize}. Six bodies. "
-         "Somebody will be out of place. ",
-         "Three teams and ladders, with {prize} on top: {F:members}, {S:members}, {X:members}. "
-         "Pace yourselves. ",
+         "It is {F:members} against {S:members} against {X:members}, on ladders, for {prize}. Six "
+         "bodies. Somebody will be out of place. ",
+         "Three teams and ladders, with {prize} on top: {F:members} against {S:members} against "
+         "{X:members}. Pace yourselves. ",
      }},
     {Opening,
      Bout(kThreeTeams, kThreeTeamsTlc),
      {
-         "Tables, ladders, chairs: {F:members}, {S:members} and {X:members}. They will sacrifice a "
-         "year of their backs. I will at least watch. ",
-         "{F:members}, {S:members} and {X:members} in a TLC match. I ask for a story, and I will "
-         "take stunts. ",
+         "Tables, ladders, chairs: {F:members} against {S:members} against {X:members}. They will "
+         "sacrifice a year of their backs. I will at least watch. ",
+         "{F:members} against {S:members} against {X:members} in a TLC match. I ask for a story, "
+         "and I will take stunts. ",
      }},
     {Opening,
      Bout(kFourWay, kElimination),
@@ -782,18 +775,18 @@ constexpr Block kBlocks[] = {
     {Opening,
      Bout(kFourTeams, kElimination),
      {
-         "{F:members}, {S:members}, {X:members}, {Y:members}. Four teams, elimination rules, a "
-         "whole page of my book. ",
-         "Elimination rules for {F:members}, {S:members}, {X:members} and {Y:members}. There is a "
-         "good team in there somewhere. ",
+         "{F:members} against {S:members} against {X:members} against {Y:members}. Four teams, "
+         "elimination rules, a whole page of my book. ",
+         "Elimination rules for {F:members} against {S:members} against {X:members} against "
+         "{Y:members}. There is a good team in there somewhere. ",
      }},
     {Opening,
      Bout(kFourTeams, kFourTeamsTlc),
      {
-         "{F:members}, {S:members}, {X:members} and {Y:members} in a TLC match. I count eight "
-         "people and no clear view. ",
-         "TLC with four teams: {F:members}, {S:members}, {X:members}, {Y:members}. It will be a "
-         "blur, and I hope a good one. ",
+         "{F:members} against {S:members} against {X:members} against {Y:members} in a TLC match. "
+         "I count eight people and no clear view. ",
+         "TLC with four teams: {F:members} against {S:members} against {X:members} against "
+         "{Y:members}. It will be a blur, and I hope a good one. ",
      }},
     {Opening,
      Bout(kThreeOnThree, 1),
@@ -807,7 +800,8 @@ constexpr Block kBlocks[] = {
      Bout(kFourOnFour, kPlainEightMan),
      {
          "{F:members} face {S:members}. With eight of them one gets forty seconds each. ",
-         "An eight man tag, {F:members} and {S:members}. It is a way to get everyone on the card. ",
+         "An eight man tag, {F:members} against {S:members}. It is a way to get everyone on the "
+         "card. ",
      }},
     {Opening,
      Bout(kFourOnFour, kSurvivor),
@@ -838,8 +832,8 @@ constexpr Block kBlocks[] = {
     {Closer,
      Bout(kSingles, kPlainSingles),
      {
-         "{w} gets the duke. I enter it in ink. ",
-         "That goes into the book under {w}. ",
+         "{w} gets the duke. ",
+         "In the book it goes, under {w}. ",
      }},
     {Closer,
      Bout(kSingles, kSubmission),
@@ -961,7 +955,7 @@ constexpr Block kBlocks[] = {
     {Closer,
      Bout(kTag, kPlainTag),
      {
-         "{W:members} win. The tags were real tags, so I am satisfied. ",
+         "{W:members} win, and I tick the box. ",
          "The match goes to {W}, with {w} the one who got it done. ",
      }},
     {Closer,
@@ -1102,7 +1096,8 @@ constexpr Block kBlocks[] = {
      Bout(kSpecial, kTenMan),
      {
          "{w} wins. {l} was next to last. That is all there is to it. ",
-         "{w} is left of the ten. It was short, and I thank them all for it. ",
+         "{w} is the one left of ten, {l} the last to leave. It was short, and I thank them all "
+         "for it. ",
      }},
 };
 

@@ -19,10 +19,9 @@ constexpr Block kBlocks[] = {
     {SinglesFinish,
      kClean,
      {
-         "{l} is out on {l:his} feet, {w} has noticed, and we get an honest ending. I had almost "
-         "stopped asking. ",
-         "{w} calls for it. {l} is in no state to object. ",
-         "The last exchange goes to {w}. {l} is where {l:he} should not be, and here it comes. ",
+         "{l} is out on {l:his} feet, and {w} has noticed. ",
+         "{w} calls for it, with {l} in no state to object. ",
+         "The last exchange goes to {w}, and this is going to be an honest ending. ",
      }},
     {SinglesFinish,
      kCountOut,
@@ -146,7 +145,7 @@ constexpr Block kBlocks[] = {
          "{j} has the ear of the referee. {O} {O:has} the head of {l}. {w} is left with the simple "
          "part. ",
          "{O} come{O:s} up on the blind side and flatten{O:s} {l}. The run-in, number three of the "
-         "kinds I keep a list of. {w} covers up the evidence by lying on it. ",
+         "kinds I keep a list of. {w} is quick to profit and slow to blush. ",
          "{O} hit{O:s} {l} from the apron, {w} never looks round. I wrote down a better finish two "
          "minutes earlier. ",
      }},
@@ -183,7 +182,7 @@ constexpr Block kBlocks[] = {
      {
          "{F} and {S} are on the floor, all four, and there is nobody to be counted in. Double "
          "count out. ",
-         "{F} and {S} brawl around the ring and past ten. A double count out. Twelve minutes for "
+         "{F} and {S} brawl around the ring and past ten. A double count out. All that way, for "
          "that. ",
          "Neither {F} nor {S} beat the count. It goes down as a double count out, and in my book "
          "with a downward stroke. ",
@@ -375,8 +374,7 @@ constexpr Block kBlocks[] = {
      {
          "{c} holds {title}, though not for tonight's purposes. Non-title, so you may draw your "
          "own conclusions. ",
-         "{title} belongs to {c} and stays with {c:him} whatever happens. One rather wishes that "
-         "it did not. ",
+         "{title} belongs to {c} and stays with {c:him}, whatever happens here. ",
          "The holder of {title} is in this one: {c}. The belt is not. Champions lose such matches "
          "more often than they should. ",
      }},
@@ -485,9 +483,9 @@ constexpr Block kBlocks[] = {
     {SinglesAftermath,
      after1::kThreeWayBrawl,
      {
-         "{1}, {2} and {o} fight it out, all against all. I put my money on the desk in the way. ",
-         "A three way brawl of {1}, {2} and {o}. No one is on top of it. It fades to the next "
-         "thing. ",
+         "{1}, {2} and {o} fight it out, all against all. The desk in the way came fourth. ",
+         "A three way brawl of {1}, {2} and {o}, with nobody on top at the end of it. I suspect a "
+         "plan. ",
      }},
     {SinglesAftermath,
      after1::kLoserRuns,
@@ -560,7 +558,7 @@ constexpr Block kBlocks[] = {
          "{p} tries to save {v}. {o} and {u} were ready for it. Now there are two on the mat, and "
          "that I had not expected. ",
          "{p} runs in for {v} and is cut down at once by {o} and {u}. A rescue that fails does "
-         "more than one that works. Good. ",
+         "more than one that works. ",
      }},
     {TagAftermath,
      after2::kRevenge,
@@ -678,8 +676,8 @@ constexpr Block kBlocks[] = {
     {TagAftermath,
      after2::kFailedSave,
      {
-         "{Q} run{Q:s} to help {V} and {Q:is} beaten down as well. It makes the attackers. Nobody "
-         "books that any more, and I am glad of it. ",
+         "{Q} run{Q:s} to help {V} and {Q:is} beaten down as well. It makes the attackers. I had "
+         "thought that nobody booked that any more. ",
          "The rescue of {V} by {Q} fails. It is two heaps now. I would have had one of them get "
          "up. ",
      }},

@@ -20,8 +20,8 @@ constexpr Block kBlocks[] = {
          "{a} clubs {d} between the shoulders with what appears to be a damp towel. It was an "
          "arm. ",
          "{a} telegraphs a punch to {d} so plainly that the post office might want a word. ",
-         "The first rule of brawling is to hit the other {d:man}. {a} is working up to that one "
-         "with {d}. ",
+         "The first rule of brawling is to hit the opponent. {a} is working up to that one with "
+         "{d}. ",
          "{a} gives {d} a shove and considers the matter settled. ",
      }},
     {OffenceA,

@@ -38,18 +38,21 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kSingleTalk, kVerbalAttack),
      {
-         "{T} goes through the record of {V}, loss by loss, with dates. \"I could go on,\" {T:he} "
-         "says, \"but {V} never could.\" Researched. I could only fault one date. ",
-         "\"{V} calls that a career. I have had longer colds,\" says {T}, and never raises {T:his} "
-         "voice. Contempt is best served at room temperature. ",
+         "{?V}{T} goes through the record of {V}, loss by loss, with dates. {.}{!V}{T} goes "
+         "through the locker room, name by name, with dates. {.}\"I could go on,\" {T:he} says, "
+         "and plainly could. Well researched. I could only fault one date. ",
+         "{?V}\"What {V} has is not a career,\" says {T}. {.}{!V}\"What they have back there are "
+         "not careers,\" says {T}. {.}\"I have had longer colds.\" It is never once above a "
+         "murmur. Contempt is best served at room temperature. ",
      }},
     {Speech,
      TalkBand(kSingleTalk, kHypeMatch),
      {
-         "{T} tells us what {T:he} will do to {V} and, for a wonder, why. There is a beginning, a "
+         "{?V}{T} tells us what {T:he} will do to {V} and, for a wonder, why. {.}{!V}{T} tells us "
+         "what is going to happen in that ring and, for a wonder, why. {.}There is a beginning, a "
          "middle and a threat. It sold me on the match, and I have a free seat. ",
-         "\"Look at my hands, {V}. They have not shaken yet.\" {T} holds them to the camera. A "
-         "small thing, done slowly. I believed it. ",
+         "{?V}\"Look at my hands, {V}.\" {.}{!V}\"Look at my hands.\" {.}{T} holds them to the "
+         "camera. They do not shake. A small thing, done slowly. I believed it. ",
      }},
     {Speech,
      TalkBand(kSingleTalk, kTalkTurn),
@@ -63,10 +66,12 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kSingleTalk, kTalkContinueFeud),
      {
-         "{T} goes back over what {V} has done, and says that it is not paid for. The facts were "
-         "in the right order. You would be surprised how often they are not. ",
-         "\"I wake up and the first thing I think of is {V}. I would like that to stop.\" {T} says "
-         "it as if {T:he} meant it. This is how to keep a fire in. ",
+         "{?V}{T} goes back over what {V} {V:has} done, and says that it is not paid for. "
+         "{.}{!V}{T} goes back over what was done, and says that it is not paid for. {.}The facts "
+         "were in the right order. You would be surprised how often they are not. ",
+         "{?V}\"I wake up and the first thing I think of is {V},\" says {T}. {.}{!V}\"I wake up "
+         "and I think of one thing,\" says {T}. {.}\"I would like that to stop.\" It sounded "
+         "meant. This is how to keep a fire in. ",
      }},
     {Speech,
      TalkBand(kSingleTalk, kSelfPromotion),
@@ -87,20 +92,22 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kTeamTalk, kVerbalAttack),
      {
-         "{T:members} run down {V}, in turns, with no overlap. It is rehearsed, and it is none the "
-         "worse for that. \"Not a team, an accident with four boots,\" was the best line, if {V} "
-         "care to hear it. ",
-         "\"Somebody told {V} the truth once,\" they begin, \"and it was not well received.\" {T} "
-         "finish{T:es} the thought together. Cruel, tidy, six and a half. ",
+         "{?V}{T:members} run down {V}, in turns, with no overlap. {.}{!V}{T:members} run down the "
+         "whole division, in turns, with no overlap. {.}It is rehearsed, and it is none the worse "
+         "for that. \"An accident with boots on,\" was the best line of a good many. ",
+         "{?V}\"Somebody told {V} the truth once,\" {T} begin{T:s}, \"and it was not well "
+         "received.\" {.}{!V}\"Nobody here likes the truth,\" {T} begin{T:s}. {.}Then the truth is "
+         "told, by two voices, in a rising order of unkindness. Tidy. Six and a half. ",
      }},
     {Speech,
      TalkBand(kTeamTalk, kHypeMatch),
      {
-         "{T} go{T:es} through the coming match with {V} tag by tag. It is the first interview I "
-         "have heard that mentioned the five count. ",
-         "\"We have wrestled everybody,\" say {T:members}, \"and {V} {V:is} only part of "
-         "everybody.\" As a boast it holds together. I want to see the match now, I suppose that "
-         "it did its job. ",
+         "{?V}{T} go{T:es} through the coming match with {V} tag by tag. {.}{!V}{T} go{T:es} "
+         "through the coming match tag by tag. {.}It is the first interview I have heard that "
+         "mentioned the five count. ",
+         "\"We have wrestled everybody,\" say {T:members}. {?V}\"And {V} {V:is} only a part of "
+         "everybody.\" {.}As a boast it holds together. I want to see the match now, so I suppose "
+         "that it did its job. ",
      }},
     {Speech,
      TalkBand(kTeamTalk, kTalkTurn),
@@ -109,15 +116,16 @@ constexpr Block kBlocks[] = {
          "first what comes after. {.}It was said calmly by two people, so there can be no "
          "mistake. ",
          "\"Forget what we told you last month,\" say {T:members}. I keep a file of what they told "
-         "us last month. {?V}\"And tell {V},\" they add. {.}The file is closed. ",
+         "us last month. {?V}A copy is to go to {V}. {.}The file is closed. ",
      }},
     {Speech,
      TalkBand(kTeamTalk, kTalkContinueFeud),
      {
-         "{T} remind{T:s} {V} of an unpaid bill and promise{T:s} to call in person. One long "
-         "thread, kept taut. I have no notes. ",
-         "\"We said that we would be back for {V},\" say {T:members}. \"We are back.\" They did "
-         "say that. Continuity is not dead. ",
+         "{?V}{T} remind{T:s} {V} of an unpaid bill and promise{T:s} to call in person. {.}{!V}{T} "
+         "speak{T:s} of an unpaid bill and promise{T:s} to call in person. {.}One long thread, "
+         "kept taut. I have no notes. ",
+         "\"We said that we would be back,\" say {T:members}. They did say that. {?V}It was {V} "
+         "who had not written it down. {.}Continuity is not dead. ",
      }},
     {Speech,
      TalkBand(kTeamTalk, kSelfPromotion),
@@ -138,18 +146,22 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kManagedTalk, kVerbalAttack),
      {
-         "{m} takes {V} apart with a thin smile while {T} stands behind and says nothing. A silent "
-         "{T:man} and a quick tongue. That is a sound structure. ",
-         "\"My client does not speak to people like {V}. I have to do it,\" sighs {m}. {T} does "
-         "not even look round. It is the sigh that sold it. ",
+         "{?V}{m} takes {V} apart with a thin smile. {.}{!V}{m} takes the roster apart with a thin "
+         "smile. {.}{T} stands behind and says nothing. A silent {T:man} and a quick tongue: that "
+         "is a sound structure. ",
+         "{?V}\"My client does not speak to people like {V},\" sighs {m}. {.}{!V}\"My client does "
+         "not speak to people,\" sighs {m}. {.}{T} does not even look round. It is the sigh that "
+         "sold it. ",
      }},
     {Speech,
      TalkBand(kManagedTalk, kHypeMatch),
      {
-         "{m} makes the case for {T} against {V} like a lawyer with a long afternoon. Evidence, "
+         "{?V}{m} makes the case for {T} against {V} like a lawyer with a long afternoon. "
+         "{.}{!V}{m} makes the case for {T} like a lawyer with a long afternoon. {.}Evidence, "
          "argument, verdict. I would vote to convict. ",
-         "\"Three things {V} cannot do,\" says {m}, and counts. {T} nods at each. The third one "
-         "was the finishing move, so somebody has thought about it. ",
+         "{?V}\"There are three things that {V} cannot do,\" says {m}, and counts. {.}{!V}\"There "
+         "are three things that nobody can do,\" says {m}, and counts. {.}{T} nods at each. The "
+         "third was to kick out of the finishing move, so somebody has thought about it. ",
      }},
     {Speech,
      TalkBand(kManagedTalk, kTalkTurn),
@@ -164,10 +176,12 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kManagedTalk, kTalkContinueFeud),
      {
-         "{m} brings the case of {V} up to date. {T} provides the exhibits, mostly bruises. I like "
-         "it when a programme remembers last week. ",
-         "\"{V} thinks that it is even. It was never going to be even,\" says {m}, with a hand on "
-         "the arm of {T}, as though holding back weather. ",
+         "{?V}{m} brings the case of {V} up to date. {.}{!V}{m} brings an old case up to date. "
+         "{.}{T} provides the exhibits, mostly bruises. I like it when a programme remembers last "
+         "week. ",
+         "{?V}\"I am told that {V} think{V:s} it is even,\" says {m}. {.}{!V}\"I hear that we are "
+         "supposed to be even,\" says {m}. {.}There is a hand on the arm of {T}, as though holding "
+         "back weather. Good posture, good menace. ",
      }},
     {Speech,
      TalkBand(kManagedTalk, kSelfPromotion),
@@ -188,18 +202,23 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kManagedTeamTalk, kVerbalAttack),
      {
-         "{m} insults {V} by category: pace, power, breeding. {T} supply the laughter. It is a "
-         "full page, and not a word of it wasted. ",
-         "\"I have looked for something good to say about {V},\" begins {m}, and hands back a "
-         "blank sheet. {T} inspect{T:s} both sides of it. Nice touch with the sheet. ",
+         "{?V}{m} insults {V} by category: pace, power, breeding. {.}{!V}{m} insults the field by "
+         "category: pace, power, breeding. {.}{T} suppl{T:ies} the laughter. It is a full page, "
+         "and not a word of it wasted. ",
+         "{?V}\"I have looked for something good to say about {V},\" begins {m}, and holds up a "
+         "blank sheet. {.}{!V}\"I wrote down everything good about the other teams,\" begins {m}, "
+         "and holds up a blank sheet. {.}{T} inspect{T:s} both sides of it. Nice touch, the "
+         "sheet. ",
      }},
     {Speech,
      TalkBand(kManagedTeamTalk, kHypeMatch),
      {
-         "{m} sets out the match with {V} as a general would, and {T} {T:is} the army. It makes "
+         "{?V}{m} sets out the match with {V} as a general would, and {T} {T:is} the army. "
+         "{.}{!V}{m} sets out the match as a general would, and {T} {T:is} the army. {.}It makes "
          "the outcome sound like logistics. I have known worse pitches. ",
-         "\"Write down the date,\" says {m}, who knows who reads this. {T} {T:is} to beat {V}. I "
-         "have it written down. ",
+         "\"Write down the date,\" says {m}, who knows who reads this. {?V}It is when {T} {T:is} "
+         "to beat {V}, with the method given. {.}{T} confirm{T:s} the spelling. I have it written "
+         "down. ",
      }},
     {Speech,
      TalkBand(kManagedTeamTalk, kTalkTurn),
@@ -213,10 +232,11 @@ constexpr Block kBlocks[] = {
     {Speech,
      TalkBand(kManagedTeamTalk, kTalkContinueFeud),
      {
-         "{m} lists what is owed by {V}, item by item. {T} initial{T:s} each item. Bookkeeping is "
-         "an underrated part of hatred. ",
-         "\"{V} sleep badly, I am told,\" says {m}. \"We have not even started.\" {T} say{T:s} "
-         "nothing, twice, and it adds to it. ",
+         "{?V}{m} lists what is owed by {V}, item by item. {.}{!V}{m} lists what is owed, item by "
+         "item. {.}{T} initial{T:s} each item. Bookkeeping is an underrated part of hatred. ",
+         "{?V}\"I am told that {V} sleep{V:s} badly,\" says {m}. {.}{!V}\"I am told that somebody "
+         "sleeps badly,\" says {m}. {.}{T} say{T:s} nothing, and say{T:s} it twice, and that adds "
+         "to it. ",
      }},
     {Speech,
      TalkBand(kManagedTeamTalk, kSelfPromotion),
@@ -232,7 +252,7 @@ constexpr Block kBlocks[] = {
          "{m} fills two minutes, and {T} fill{T:s} the frame. {?V}{V} took up some of the first "
          "minute. {.}It held together, as water does in a glass. ",
          "{m} and {T:members} exchange remarks in front of a camera. {?V}One remark was about {V}. "
-         "{.}None of them was bad. I will not remember one. ",
+         "{.}Not one was bad. I will not remember one. ",
      }},
     {TalkClosing,
      kVerbalAttack,
@@ -250,7 +270,7 @@ constexpr Block kBlocks[] = {
      kTalkTurn,
      {
          "{T} go{T:es}, and my file needs a new heading. ",
-         "The crowd has not decided what to make of {T}. It will take a week, as these do. ",
+         "{T} leave{T:s} them to talk it over. It will take a week, as these do. ",
      }},
     {TalkClosing,
      kTalkContinueFeud,
