@@ -693,10 +693,10 @@ constexpr Block kBlocks[] = {
     {AngleText,
      78,
      {
-         "A black wedding, with {G} in attendance, {1} as the groom and {2} against her will. They "
-         "get as far as the vows. {?4}Then {4} breaks it up and gets {2} out of there. {.}{!4}Then "
-         "{2} tears loose and is gone, veil and all. {.}So it does not go ahead. They never go "
-         "ahead. I have kept the invitation. ",
+         "A black wedding, with {G} in attendance, {1} as the groom and {2} against {2:his} will. "
+         "They get as far as the vows. {?4}Then {4} breaks it up and gets {2} out of there. "
+         "{.}{!4}Then {2} tears loose and is gone, veil and all. {.}So it does not go ahead. They "
+         "never go ahead. I have kept the invitation. ",
          "{2} is led to {1} by {G}, in black. There is a celebrant, and he has a fair voice. "
          "{?4}Just short of the last words {4} comes in and carries {2} off. {.}{!4}Just short of "
          "the last words {2} kicks over the altar and runs. {.}It almost happened. As a set piece "

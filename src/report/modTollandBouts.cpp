@@ -63,9 +63,9 @@ constexpr Block kBlocks[] = {
      0,
      {
          "Two and three quarters, by my watch. ",
-         "One, two, and {d} kicks out so late that I had written three. ",
+         "One, two, and {d} kicks out late enough to worry my pencil. ",
          "Two and nine tenths, and the crowd treats it as such. ",
-         "A long two for {d}. The referee looks at his hand as though it had let him down. ",
+         "A long two. {d} is out of it by the width of a shoulder. ",
          "One, two, and a shoulder. I would have bought that one. ",
      }},
     {ThreeCount,
@@ -378,9 +378,8 @@ constexpr Block kBlocks[] = {
      {
          "{a} hits {d} with the {finisher}. Clean contact. ",
          "The {finisher} by {a} on {d}, just when it was due. ",
-         "{a} waits for {d} to turn around, and there is the {finisher}. The waiting is half of "
-         "it. ",
-         "{a} lands the {finisher} on {d}. I looked for a flaw. ",
+         "{a} waits for {d} to turn around, and there is the {finisher}. ",
+         "{a} lands the {finisher} on {d}, flush. ",
      }},
     {FinishHold,
      0,
@@ -688,7 +687,8 @@ constexpr Block kBlocks[] = {
     {Opening,
      Bout(kTag, kTagLadder),
      {
-         "A ladder match for teams. {F:members} or {S:members} will take down {prize}. ",
+         "A ladder match for teams, {F:members} against {S:members}. One side will take down "
+         "{prize}. ",
          "{prize} hangs above, and {F:members} take on {S:members} for it. Somebody changed this "
          "form for good once. It has been repeated since. ",
      }},

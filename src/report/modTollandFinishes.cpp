@@ -58,7 +58,7 @@ constexpr Block kBlocks[] = {
      {
          "{w} takes something out of the tights, uses it on {l}, and puts it back. The referee was "
          "retying a shoe. ",
-         "{w} goes low on {l}. Cheap, yes, but in keeping. I prefer my villains to mean it. ",
+         "{w} goes low on {l}. It is the cheapest move there is, and among the best rewarded. ",
          "{w} has {l} rolled up with a foot on the second rope. The referee never looks at the "
          "foot. I always look at the foot. ",
      }},
@@ -648,9 +648,9 @@ constexpr Block kBlocks[] = {
     {TagAftermath,
      after2::kThreeTeamBrawl,
      {
-         "{F}, {S} and {O} fight all over the place. Three teams with reasons: we may have a match "
-         "out of that. ",
-         "A three team brawl, {F}, {S} and {O}. I write down who hit whom, and give up. ",
+         "{F} fight{F:s} {S}, and {O} fight{O:s} both. Three sides with reasons: we may have a "
+         "match out of that. ",
+         "A three team brawl: {O} and everybody else. I write down who hit whom, and give up. ",
      }},
     {TagAftermath,
      after2::kLosersArgue,
@@ -730,7 +730,7 @@ constexpr Block kBlocks[] = {
      after2::kRunInOnBoth,
      {
          "{Q} attack{Q:s} {F} and {S} alike. They are all for equal treatment. ",
-         "{F} and {S} are both put down by {Q}. If the office meant it as a statement, it was "
+         "{Q} put{Q:s} down {F} first, then {S}. If the office meant it as a statement, it was "
          "legible. ",
      }},
     {TitleEnding,

@@ -276,7 +276,7 @@ constexpr Block kBlocks[] = {
          "Axe handle off the second rope by {a}. {d} stood for it a shade long. ",
          "Flying forearm by {a}, which caught {d} on the chin. Solid contact. ",
          "Spin kick by {a}. A little high, but {d} ducked into it. ",
-         "Bulldog by {a}, at a run. {d} puts {d:his} hands out, like anyone would. ",
+         "Bulldog by {a}, at a run. {d} puts {d:his} hands out, as anyone would. ",
          "Tilt-a-whirl by {a}. It takes longer than it used to, but {d} went over. ",
          "Missile dropkick by {a} off the second rope. Short flight, good landing. ",
          "{a} legdrops {d} off the ropes, twice. The second one was better, so there was a "
@@ -556,8 +556,8 @@ constexpr Block kBlocks[] = {
          "Crossface by {a}, and {d} is a long way from anywhere. Well placed. ",
          "Tiger suplex by {a}. The arms were hooked and {d} came down on the back of the neck. Not "
          "for beginners. ",
-         "Camel clutch by {a}. Older than anybody in the building. {d} hates it as people have "
-         "always hated it. ",
+         "Camel clutch by {a}. It is older than anybody in the building, and {d} hates it as "
+         "people always have. ",
          "Dragon screw by {a}, knee first. If {d} is not limping in a minute I will be writing a "
          "letter. ",
      }},
