@@ -1,5 +1,7 @@
 #include "show/cardposition.h"
 
+#include "roster/placement.h"
+
 #include <gtest/gtest.h>
 
 #include "stage.h"
