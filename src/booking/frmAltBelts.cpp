@@ -7,6 +7,9 @@ namespace grapplemont {
 
 namespace {
 
+/// A reign that has lasted since before the game has no day.
+constexpr const char* kFromTheStart = "From the start";
+
 std::string KindOf(const Title& title) {
   std::string kind = title.Singles ? "Singles" : "Tag";
   if (title.Woman) kind = "Women's " + kind;
@@ -14,8 +17,8 @@ std::string KindOf(const Title& title) {
   return kind;
 }
 
-ui::Cell DateCell(Day day) {
-  if (day <= kNoTitleDate) return "";
+ui::Cell DateCell(Day day, const char* unknown) {
+  if (day <= kNoTitleDate) return {unknown, ui::Tone::Muted};
   return {static_cast<double>((day - kDayZero).count()), PlainDate(day)};
 }
 
@@ -58,8 +61,8 @@ class frmAltBelts : public ui::Screen {
       if (title.Holder == 0) ++vacant;
       rows.push_back(
           {{title.Name.View(), ui::Cell(KindOf(title)), HolderCell(title),
-            title.Holder == 0 ? ui::Cell("") : DateCell(title.Reigns[0].Won), ui::Cell(title.Image),
-            ui::Cell(title.Suspended ? "Suspended" : "", ui::Tone::Red)},
+            title.Holder == 0 ? ui::Cell("") : DateCell(title.Reigns[0].Won, kFromTheStart),
+            ui::Cell(title.Image), ui::Cell(title.Suspended ? "Suspended" : "", ui::Tone::Red)},
            world().Titles().NumberOf(title)});
     }
     lblfacts.Text = std::to_string(rows.size()) + " Titles, " + std::to_string(vacant) + " vacant";
@@ -77,8 +80,9 @@ class frmAltBelts : public ui::Screen {
     if (const int number = lsttitles.Key(); number != 0)
       for (const Reign& reign : world().Titles()[number].Reigns)
         if (!(reign.Holder == "None"))
-          rows.push_back({{reign.Holder.View(), DateCell(reign.Won), DateCell(reign.Lost)},
-                          static_cast<int>(rows.size()) + 1});
+          rows.push_back(
+              {{reign.Holder.View(), DateCell(reign.Won, kFromTheStart), DateCell(reign.Lost, "")},
+               static_cast<int>(rows.size()) + 1});
     lsthistory.Fill(std::move(rows));
   }
 

@@ -65,7 +65,8 @@ class frmAutoBook : public ui::Screen {
 
   void ShowCard() {
     forecast_ = ForecastCard(world(), card_);
-    lblfacts.Text = SheetHeading(world(), false);
+    const Show* show = ShowOfToday(world());
+    lblfacts.Text = show ? show->Name.Str() : "No show today";
     lblrating.Text = "Expected rating " + RangeText(forecast_.Rating) + ".";
     FillRows();
     ShowMissing();

@@ -34,11 +34,9 @@ class frmPPVBooking : public SheetScreen {
   }
 
   std::vector<ui::Box> BelowRows() override {
-    return {ui::Group("The night",
-                      {ui::Columns({ui::Rows({ui::Field("Announcer", cmbannouncer),
-                                              ui::Field("Colour", cmbcolour), chkcolour})
-                                        .Grow(),
-                                    ui::Rows({ui::Field("Extra", cmbspecial), lblcost}).Grow()})})};
+    return {ui::Group("", {ui::Columns({ui::Field("Announcer", cmbannouncer).Grow(),
+                                        ui::Field("Colour", cmbcolour).Grow(), chkcolour}),
+                           ui::Columns({ui::Field("Extra", cmbspecial).Grow(), lblcost})})};
   }
 
   bool Begin() override {

@@ -47,6 +47,7 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
   lblwarn.Colour = ui::Tone::Amber;
   lblcount.Colour = ui::Tone::Muted;
   lblwarnings.Colour = ui::Tone::Amber;
+  lstfree.Room = 4;
   lstfree.EmptyText = "Everybody who is fit is on the card.";
 }
 
@@ -61,12 +62,13 @@ ui::Page SheetScreen::Layout() {
   page.Main = &cmddoshow;
   page.Cancel = &cmdback;
   std::vector<ui::Box> left{
-      ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(), lblwarn, lblcount}).Grow()};
+      ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(), lblwarn,
+                     ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblwarnings})
+          .Grow()};
   for (ui::Box& below : BelowRows()) left.push_back(std::move(below));
   page.Body = ui::Columns(
       {ui::Rows(std::move(left)).Grow(5),
        ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(5),
-                 ui::Group("What it may come to", {lblforecast, lblwarnings}),
                  ui::Group("Not on the card yet", {ui::Grow(lstfree)}).Grow(4),
                  ui::Group("At hand", {cmddebut, cmdfeuds, cmdmanagers, cmdroster, cmdstables,
                                        cmdstats, cmdteams, cmdtitles, cmdturns, cmdnotepad})})

@@ -50,6 +50,7 @@ std::string FeudOfRow(const World& world, const Segment& segment) {
 }
 
 std::string RangeText(const Forecast& forecast) {
+  if (forecast.Low == forecast.High) return std::to_string(forecast.Low) + "%";
   return std::to_string(forecast.Low) + " - " + std::to_string(forecast.High) + "%";
 }
 

@@ -15,7 +15,7 @@ std::string KindOfRow(const Segment& segment);
 /// The feud that the Segment is about, the hottest of those whose enemies meet in it: "Feud 71".
 /// Empty for none.
 std::string FeudOfRow(const World& world, const Segment& segment);
-/// "58 - 66%"; empty for a row that is not there or not booked.
+/// "58 - 66%", "58%" where there is no doubt; empty for a row that is not there or not booked.
 std::string ForecastOfRow(const ShowForecast& forecast, int record);
 std::string RangeText(const Forecast& forecast);
 /// The lines of the wizard's summary, as they stood when the Segment was completed.

@@ -74,7 +74,7 @@ int CellWidth(const ui::Cell& cell, ColumnKind kind) {
   const QString text = Shown(cell.Text);
   if (kind == ColumnKind::Button) return Px(kRowButton) + sides;
   if (IsTag(cell, kind))
-    return QFontMetrics(TagFont()).horizontalAdvance(text) + 2 * Px(kTagSide) + sides;
+    return QFontMetrics(TagFont()).horizontalAdvance(text) + 2 * Px(kTagSide) + sides + 2;
   const QFontMetrics metrics(TextFont());
   if (kind == ColumnKind::Percent)
     return Px(kBarWidth) + Px(8) + FiguresWidth(metrics, text) + sides;

@@ -46,7 +46,7 @@ void TableGrid::SetCurrentRow(int row) {
 }
 
 QSize TableGrid::sizeHint() const {
-  const int rows = std::clamp(model_.rowCount(), 2, 12);
+  const int rows = std::clamp(model_.rowCount(), 2, std::max(2, model_.List().Room));
   return {Px(240), heading_->sizeHint().height() + rows * Px(kRowHeight) + 2};
 }
 

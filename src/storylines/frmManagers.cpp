@@ -12,7 +12,7 @@ class frmManagers : public ui::Screen {
   explicit frmManagers(Game& game) : Screen(game.Desk(), "frmManagers", "Managers"), game_(game) {
     lstclients.EmptyText = "Nobody wrestles for you yet.";
     lstmanagers.EmptyText = "You have no manager. Hire one, or make one of a worker.";
-    lsthis.EmptyText = "Nobody yet. Choose a wrestler and give him this manager.";
+    lsthis.EmptyText = "No client yet. Choose a wrestler, then give this manager.";
   }
 
   ui::Page Layout() override {
@@ -23,12 +23,16 @@ class frmManagers : public ui::Screen {
     page.Body =
         ui::Columns({ui::Group("Your wrestlers", {ui::Grow(lstclients), cmdtake}).Grow(3),
                      ui::Rows({ui::Group("Your managers", {ui::Grow(lstmanagers), cmdgive}).Grow(3),
-                               ui::Group("Whom he manages", {ui::Grow(lsthis)}).Grow(2)})
+                               ui::Group("Clients of this manager", {ui::Grow(lsthis)}).Grow(2)})
                          .Grow(3)});
     return page;
   }
 
-  void Load() override { Return(); }
+  void Load() override {
+    Return();
+    lstmanagers.Select(lstmanagers.Count() > 0 ? 1 : 0);
+    ShowChoice();
+  }
 
   void Return() override {
     ShowClients();
@@ -113,7 +117,7 @@ class frmManagers : public ui::Screen {
   ui::ListBox lstclients{*this, "lstclients", ClientColumns(), &frmManagers::ShowChoice};
   ui::ListBox lstmanagers{*this, "lstmanagers", ManagerColumns(), &frmManagers::ShowChoice};
   ui::ListBox lsthis{*this, "lsthis", ShortColumns()};
-  ui::Button cmdgive{*this, "cmdgive", "Give Him To The Wrestler", &frmManagers::cmdgive_Click};
+  ui::Button cmdgive{*this, "cmdgive", "Give This Manager", &frmManagers::cmdgive_Click};
   ui::Button cmdtake{*this, "cmdtake", "Take The Manager Away", &frmManagers::cmdtake_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmManagers::cmdback_Click};
 };

@@ -27,14 +27,14 @@ class frmStables : public ui::Screen {
                                        ui::Group("Name", {txtname, cmdcreate, cmdrename})})
                                  .Grow(3),
                              ui::Group("Members", {ui::Grow(lstmembers), cmdremove}).Grow(3),
-                             ui::Group("Not in this stable", {ui::Grow(lstwres), cmdadd}).Grow(3)});
+                             ui::Group("Not in this stable", {ui::Grow(lstwres), cmdadd}).Grow(4)});
     return page;
   }
 
   void Load() override {
     ShowStables();
     lststables.Select(lststables.Count() > 0 ? 1 : 0);
-    ShowStable();
+    lststables_Click();
   }
   void Return() override {
     ShowStables();
@@ -154,9 +154,9 @@ class frmStables : public ui::Screen {
 
   void cmdback_Click() { Close(); }
 
-  static std::vector<ui::Column> PeopleColumns(const char* last) {
+  static std::vector<ui::Column> PeopleColumns(const char* last, ui::ColumnKind kind) {
     std::vector<ui::Column> columns = ShortColumns();
-    columns.push_back({last, ui::ColumnKind::Tag, 2});
+    columns.push_back({last, kind, 2});
     return columns;
   }
 
@@ -172,10 +172,10 @@ class frmStables : public ui::Screen {
   ui::TextBox txtname{*this, "txtname"};
   ui::Button cmdcreate{*this, "cmdcreate", "Found A Stable", &frmStables::cmdcreate_Click};
   ui::Button cmdrename{*this, "cmdrename", "Rename", &frmStables::cmdrename_Click};
-  ui::ListBox lstmembers{*this, "lstmembers", PeopleColumns(""), &frmStables::ShowButtons,
+  ui::ListBox lstmembers{*this, "lstmembers", PeopleColumns("", K::Tag), &frmStables::ShowButtons,
                          &frmStables::cmdremove_Click};
   ui::Button cmdremove{*this, "cmdremove", "Take Out", &frmStables::cmdremove_Click};
-  ui::ListBox lstwres{*this, "lstwres", PeopleColumns("In"), &frmStables::ShowButtons,
+  ui::ListBox lstwres{*this, "lstwres", PeopleColumns("In", K::Text), &frmStables::ShowButtons,
                       &frmStables::cmdadd_Click};
   ui::Button cmdadd{*this, "cmdadd", "Add To The Stable", &frmStables::cmdadd_Click};
   ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmStables::cmddissolve_Click};

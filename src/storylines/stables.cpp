@@ -83,7 +83,8 @@ void DissolveStable(World& world, std::string_view stable) {
 std::string WhyNotJoin(const World& world, std::string_view stable, const Worker& worker) {
   if (worker.Stable == stable) return worker.Name + " is in " + std::string(stable) + " already.";
   if (!(worker.Stable == "None"))
-    return worker.Name + " belongs to " + worker.Stable.Str() + ". Take him out of it first.";
+    return worker.Name + " belongs to " + worker.Stable.Str() + ". Take " +
+           std::string(HimOrHer(worker)) + " out of it first.";
   if (static_cast<int>(StableMembers(world, stable).size()) >= kFullStable)
     return std::string(stable) + " has ten members, and that is as many as a stable can have.";
   return {};

@@ -34,10 +34,6 @@ std::vector<const Worker*> SeenOnShows(const World& world) {
   return seen;
 }
 
-std::string_view HeOrShe(const Worker& worker) {
-  return worker.Gender ? "he" : "she";
-}
-
 std::string_view HimOrHer(const Worker& worker) {
   return worker.Gender ? "him" : "her";
 }

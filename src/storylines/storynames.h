@@ -20,8 +20,7 @@ std::string_view TrimmedName(std::string_view name);
 /// Everybody of the player's who is seen on the shows, fit or not: wrestlers, managers and
 /// non-wrestlers. The most popular first.
 std::vector<const Worker*> SeenOnShows(const World& world);
-/// "he" or "she"; "him" or "her".
-std::string_view HeOrShe(const Worker& worker);
+/// "him" or "her".
 std::string_view HimOrHer(const Worker& worker);
 
 }  // namespace grapplemont

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "booking/onsheet.h"
-#include "booking/sheet.h"
+#include "booking/sheetrow.h"
 #include "show/forecast.h"
 #include "support/scripteddraws.h"
 
@@ -157,12 +157,9 @@ TEST(TelevisionSheet, SaysWhatTheShowMayComeToAndWhoIsFree) {
   match.Other1 = Named(play.World().Workers(), "CWA Hand 7").Uid;
   play.Book(1, match);
   const ShowForecast forecast = ForecastShow(play.World(), false, TvTeam(play.World()));
-  const auto range = [](const Forecast& f) {
-    return std::to_string(f.Low) + " - " + std::to_string(f.High) + "%";
-  };
-  EXPECT_EQ(play.Row(1)[5], range(forecast.Rows[0]));
+  EXPECT_EQ(play.Row(1)[5], RangeText(forecast.Rows[0]));
   EXPECT_EQ(play.Row(2)[5], "");
-  EXPECT_EQ(play.Desk.Text("lblforecast"), "Expected rating " + range(forecast.Rating) + ".");
+  EXPECT_EQ(play.Desk.Text("lblforecast"), "Expected rating " + RangeText(forecast.Rating) + ".");
   const Names free = play.Desk.FirstColumn("lstfree");
   EXPECT_EQ(free.size(), 27u);
   for (const char* booked : {"CWA Hand 1", "CWA Hand 2", "CWA Hand 7"})
@@ -170,6 +167,11 @@ TEST(TelevisionSheet, SaysWhatTheShowMayComeToAndWhoIsFree) {
   play.Desk.OpenRow("lstfree", "CWA Hand 3");
   EXPECT_EQ(play.Desk.TopName(), "frmQuickStat");
   EXPECT_TRUE(play.Desk.Text("txtworker").starts_with("CWA Hand 3\n"));
+}
+
+TEST(Forecast, IsARangeOrOneNumber) {
+  EXPECT_EQ(RangeText({58, 66}), "58 - 66%");
+  EXPECT_EQ(RangeText({58, 58}), "58%");
 }
 
 TEST(Sheet, StartsEmptyHoweverItWasLeft) {

@@ -25,7 +25,7 @@ class ChorePage : public ui::Screen {
   void Fill(int rows) {
     lstchores.Clear();
     for (int key = 1; key <= rows; ++key)
-      lstchores.Add({ui::Cell(rows - key), "Chore " + std::to_string(key)}, key);
+      lstchores.Add({std::to_string(rows - key), "Chore " + std::to_string(key)}, key);
     lstlong.Clear();
     for (int key = 1; key <= rows * 40; ++key) lstlong.Add({std::to_string(key)}, key);
   }
@@ -39,7 +39,7 @@ class ChorePage : public ui::Screen {
   ui::ListBox lstlong{*this, "lstlong"};
   ui::ListBox lstchores{*this,
                         "lstchores",
-                        {{"#", ui::ColumnKind::Number}, {"Chore"}, {"", ui::ColumnKind::Button}},
+                        {{"#"}, {"Chore", ui::ColumnKind::Text, 1}, {"", ui::ColumnKind::Button}},
                         [this] { notes_.push_back("picked " + std::to_string(lstchores.Key())); },
                         [this] { notes_.push_back("opened " + std::to_string(lstchores.Key())); }};
   ui::Array<ui::Button> cmddo{"cmddo", 3, [this](const std::string& full, int key) {
@@ -82,7 +82,6 @@ TEST_F(RowButtons, StandInTheRowsOfTheirKeys) {
 }
 
 TEST_F(RowButtons, GoWithTheirRowsWhenTheTableIsSorted) {
-  Play.ClickHeading("lstchores", 0);  // numbers fall first: as they stand
   Play.ClickHeading("lstchores", 0);
   EXPECT_EQ(RowOf("cmddo(1)"), 2);
   EXPECT_EQ(RowOf("cmddo(3)"), 0);
