@@ -1,9 +1,8 @@
 #include "show/cardposition.h"
 
-#include "roster/placement.h"
-
 #include <gtest/gtest.h>
 
+#include "roster/placement.h"
 #include "stage.h"
 
 namespace grapplemont::test {
