@@ -99,7 +99,6 @@ class frmMatchOutput : public ui::Screen {
     ShowProse();
     ShowFigures();
     ShowChart();
-    cmdnext.Text = NextSegment(world()) == 0 ? "Close The Show" : "Next";
   }
 
   void ShowDetails() {
@@ -119,7 +118,7 @@ class frmMatchOutput : public ui::Screen {
     std::string text = told_->Report;
     if (!told_->Verdict.empty()) text += "\n" + told_->Verdict;
     txtreport.Write(text);
-    txtroad.Write(told_->Notes.empty() ? "The road agent has nothing to add." : told_->Notes);
+    txtroad.Write(told_->Notes);
   }
 
   void ShowFigures() {

@@ -23,11 +23,6 @@ bool IsOwnStable(const World& world, const Segment& segment) {
   return false;
 }
 
-/// A talk segment of a stable that is no longer the promotion's has lost its people.
-bool IsPassedOver(const World& world, const Segment& segment) {
-  return segment.Kind != kMatch && !(segment.Text == "None") && !IsOwnStable(world, segment);
-}
-
 }  // namespace
 
 const Show* ShowOfToday(const World& world) {
@@ -97,6 +92,10 @@ const ShowRun* ShowUnderWay(const World& world) {
 bool ShowIsClosed(const World& world) {
   const ShowRun* run = ShowUnderWay(world);
   return run && run->Stage == kShowClosed;
+}
+
+bool IsPassedOver(const World& world, const Segment& segment) {
+  return segment.Kind != kMatch && !(segment.Text == "None") && !IsOwnStable(world, segment);
 }
 
 int NextSegment(const World& world) {

@@ -40,6 +40,8 @@ void AddExtraBonus(World& world, int bonus);
 const ShowRun* ShowUnderWay(const World& world);
 bool ShowIsClosed(const World& world);
 
+/// A talk segment of a stable that is no longer the promotion's: the show passes it over.
+bool IsPassedOver(const World& world, const Segment& segment);
 /// The record of match.dat that comes next; 0 when the show is over.
 int NextSegment(const World& world);
 /// Runs it. Requires one. `memory` as in RunSegment.

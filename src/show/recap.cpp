@@ -17,6 +17,20 @@ std::string Rated(const RecapLine& line) {
   return line.What + ", " + std::to_string(line.Rating) + "%";
 }
 
+/// The line of the sheet; what was still to come there has been won here.
+std::string Told(const World& world, const Segment& segment) {
+  std::string text = DescribeSegment(world, segment);
+  if (segment.Kind != kMatch) return text;
+  for (const std::string_view coming : {" win a ", " wins a "})
+    if (const auto at = text.find(coming); at != std::string::npos)
+      text.replace(at, coming.size(), " won a ");
+  return text;
+}
+
+bool WasTold(const World& world, const Segment& segment) {
+  return segment.Kind != kEmptySegment && !IsPassedOver(world, segment);
+}
+
 /// An Event's first row is the dark match: it is rated and counts for nothing.
 bool Counts(const ShowRun& run, const RecapLine& line) {
   return !run.IsEvent || line.Number != 1;
@@ -50,7 +64,7 @@ RatingsSoFar RatingsOfShow(const World& world) {
   RatingsSoFar ratings;
   const ShowRun& run = *ShowUnderWay(world);
   for (int number = 1; number <= std::min(int(run.Current), world.Segments().Count()); ++number) {
-    if (world.Segments()[number].Kind == kEmptySegment) continue;
+    if (!WasTold(world, world.Segments()[number])) continue;
     ratings.Rows.push_back(std::to_string(number));
     ratings.Values.push_back(world.Segments()[number].Rating);
   }
@@ -62,8 +76,8 @@ ShowRecap RecapOf(const World& world) {
   ShowRecap recap;
   recap.Rating = run.ShowSum;
   for (int number = 1; number <= std::min(RowsOf(run.IsEvent), world.Segments().Count()); ++number)
-    if (const Segment& segment = world.Segments()[number]; segment.Kind != kEmptySegment)
-      recap.Lines.push_back({number, DescribeSegment(world, segment), segment.Rating});
+    if (const Segment& segment = world.Segments()[number]; WasTold(world, segment))
+      recap.Lines.push_back({number, Told(world, segment), segment.Rating});
   const auto byRating = [](const RecapLine& a, const RecapLine& b) { return a.Rating < b.Rating; };
   if (const auto [worst, best] =
           std::minmax_element(recap.Lines.begin(), recap.Lines.end(), byRating);
