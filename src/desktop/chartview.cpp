@@ -71,7 +71,7 @@ void ChartView::Show() {
 }
 
 int ChartView::Count() const {
-  std::size_t count = 0;
+  std::size_t count = chart_.Captions.Get().size();
   for (const auto& series : chart_.Lines.Get()) count = std::max(count, series.Values.size());
   return static_cast<int>(count);
 }
@@ -141,7 +141,7 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
     for (int place = 0; place < count; ++place) {
       const double value = lines[s].Values[static_cast<std::size_t>(place)];
       if (!std::isfinite(value)) continue;
-      const bool now = lines.size() == 1 && place + 1 == scale.Count;  // the last is the present
+      const bool now = lines.size() == 1 && place + 1 == count;  // the last is the present
       const double x = scale.X(place) - (scale.Slot() - gap) / 2 + static_cast<double>(s) * width;
       QRectF bar(QPointF(x, scale.Y(std::max(value, 0.0))),
                  QPointF(x + std::max(1.0, width - 1), scale.Y(std::min(value, 0.0))));

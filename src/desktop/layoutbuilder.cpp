@@ -56,9 +56,10 @@ class Column : public QVBoxLayout {
 bool GrowsByItself(const ui::Control& control) {
   switch (control.Is()) {
     case ui::Kind::ListBox:
-    case ui::Kind::Report:
     case ui::Kind::Chart:
       return true;
+    case ui::Kind::Report:
+      return !dynamic_cast<const ui::Report&>(control).Brief;
     case ui::Kind::TextBox:
       return dynamic_cast<const ui::TextBox&>(control).MultiLine;
     default:

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <cmath>
 
 #include "desktop/letters.h"
 #include "desktop/look.h"
@@ -63,7 +64,10 @@ ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
   setTextInteractionFlags(Qt::TextSelectableByMouse);
   viewport()->setAutoFillBackground(false);
   document()->setDocumentMargin(0);
-  setMinimumHeight(Px(96));
+  if (report.Brief)
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  else
+    setMinimumHeight(Px(96));
 }
 
 QSize ReportView::sizeHint() const {
@@ -88,6 +92,18 @@ void ReportView::Show() {
     first = false;
   }
   verticalScrollBar()->setValue(0);
+  FitBrief();
+}
+
+void ReportView::FitBrief() {
+  if (!report_.Brief) return;
+  document()->setTextWidth(viewport()->width());
+  setFixedHeight(static_cast<int>(std::ceil(document()->size().height())));
+}
+
+void ReportView::resizeEvent(QResizeEvent* event) {
+  QTextEdit::resizeEvent(event);
+  FitBrief();
 }
 
 /// Arrows and pages scroll; Enter and Escape are the screen's.

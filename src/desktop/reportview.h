@@ -16,8 +16,11 @@ class ReportView : public QTextEdit, public ControlView {
  protected:
   void Show() override;
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void FitBrief();
+
   ui::Report& report_;
 };
 

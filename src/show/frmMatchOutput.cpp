@@ -35,6 +35,7 @@ class frmMatchOutput : public ui::Screen {
   explicit frmMatchOutput(Game& game)
       : Screen(game.Desk(), "frmMatchOutput", "Show Report"), game_(game) {
     lbltitle.Visible = false;  // the page's own heading says the same
+    txtstip.Brief = true;
   }
 
   ui::Page Layout() override {
@@ -49,7 +50,7 @@ class frmMatchOutput : public ui::Screen {
     figures.push_back(ui::Grow(txtwhy));
     page.Body = ui::Columns(
         {ui::Group("", {lbltitle, ui::Columns({lblinfo, txtstyle, txttype, txtbelt, ui::Spacer()}),
-                        ui::Grow(txtstip), ui::Grow(txtreport, 8), lblwinner})
+                        txtstip, ui::Grow(txtreport), lblwinner})
              .Grow(9),
          ui::Rows({ui::Group("", std::move(figures)).Grow(5),
                    ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4),
@@ -118,7 +119,7 @@ class frmMatchOutput : public ui::Screen {
     std::string text = told_->Report;
     if (!told_->Verdict.empty()) text += "\n" + told_->Verdict;
     txtreport.Write(text);
-    txtroad.Write(told_->Notes);
+    txtroad.WriteLines(told_->Notes);
   }
 
   void ShowFigures() {
@@ -141,13 +142,13 @@ class frmMatchOutput : public ui::Screen {
   void cmdwhy_Click(int i) {
     if (!told_) return txtwhy.Write("");
     const Figure& figure = FigureAt(i);
-    txtwhy.Write(WhyText(figure.Caption, (*told_).*figure.Of));
+    txtwhy.WriteLines(WhyText(figure.Caption, (*told_).*figure.Of));
   }
 
   void ShowChart() {
     const RatingsSoFar ratings = RatingsOfShow(world());
     chtshow.Captions = ratings.Rows;
-    chtshow.Lines = std::vector<ui::Chart::Series>{{"Rating", ratings.Values}};
+    chtshow.Lines = std::vector<ui::Chart::Series>{{"", ratings.Values}};
   }
 
   void Finish() {

@@ -42,7 +42,7 @@ class frmPostShow : public ui::Screen {
     for (const ScoreStep& step : recap.Sum) lstsum.Add({step.Why, ui::Cell(step.Change)});
     const RatingsSoFar ratings = RatingsOfShow(world());
     chtshow.Captions = ratings.Rows;
-    chtshow.Lines = std::vector<ui::Chart::Series>{{"Rating", ratings.Values}};
+    chtshow.Lines = std::vector<ui::Chart::Series>{{"", ratings.Values}};
   }
 
  private:

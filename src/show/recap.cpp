@@ -63,10 +63,11 @@ std::vector<ScoreStep> SumOf(const ShowRun& run, const ShowRecap& recap) {
 RatingsSoFar RatingsOfShow(const World& world) {
   RatingsSoFar ratings;
   const ShowRun& run = *ShowUnderWay(world);
-  for (int number = 1; number <= std::min(int(run.Current), world.Segments().Count()); ++number) {
+  for (int number = 1; number <= std::min(RowsOf(run.IsEvent), world.Segments().Count());
+       ++number) {
     if (!WasTold(world, world.Segments()[number])) continue;
     ratings.Rows.push_back(std::to_string(number));
-    ratings.Values.push_back(world.Segments()[number].Rating);
+    if (number <= run.Current) ratings.Values.push_back(world.Segments()[number].Rating);
   }
   return ratings;
 }

@@ -10,7 +10,7 @@
 
 namespace grapplemont {
 
-/// The ratings of what has been told, by the rows of the sheet.
+/// The ratings of what has been told, by the rows of the sheet; those still to come have none.
 struct RatingsSoFar {
   std::vector<std::string> Rows;
   std::vector<double> Values;

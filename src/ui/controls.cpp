@@ -109,14 +109,26 @@ void Report::Write(std::vector<Paragraph> paragraphs) {
   ++Changes();
 }
 
-void Report::Write(std::string_view plain) {
-  std::vector<Paragraph> paragraphs;
+namespace {
+
+std::vector<Report::Paragraph> Parted(std::string_view plain, Report::Style style) {
+  std::vector<Report::Paragraph> paragraphs;
   while (!plain.empty()) {
     const auto end = std::min(plain.find('\n'), plain.size());
-    paragraphs.push_back({Style::Body, std::string(plain.substr(0, end))});
+    paragraphs.push_back({style, std::string(plain.substr(0, end))});
     plain.remove_prefix(std::min(end + 1, plain.size()));
   }
-  Write(std::move(paragraphs));
+  return paragraphs;
+}
+
+}  // namespace
+
+void Report::Write(std::string_view plain) {
+  Write(Parted(plain, Style::Body));
+}
+
+void Report::WriteLines(std::string_view plain) {
+  Write(Parted(plain, Style::Line));
 }
 
 }  // namespace grapplemont::ui

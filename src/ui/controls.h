@@ -275,8 +275,10 @@ class Report : public Control {
   };
   Report(Screen& screen, std::string name);
   void Write(std::vector<Paragraph> paragraphs);
-  void Write(std::string_view plain);  // line breaks part paragraphs
+  void Write(std::string_view plain);       // line breaks part paragraphs
+  void WriteLines(std::string_view plain);  // the same in short facts
   const std::vector<Paragraph>& Paragraphs() const { return paragraphs_; }
+  bool Brief = false;  // takes no more room than its words need
 
  private:
   std::vector<Paragraph> paragraphs_;
