@@ -15,6 +15,11 @@ namespace grapplemont::desktop {
 
 namespace {
 
+/// A row has room for one line, however many the text has.
+QString OneLine(const std::string& text) {
+  return Shown(text).replace('\n', ' ');
+}
+
 using ui::ColumnKind;
 
 constexpr int kBarWidth = 56, kBarHeight = 6;
@@ -122,7 +127,7 @@ void TableCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const bool link = cell.Colour == ui::Tone::Plain && IsLink(index);
     painter->setPen(!enabled ? c.Faint : link ? c.Blue : TextColour(c, cell.Colour));
     const QString text =
-        painter->fontMetrics().elidedText(Shown(cell.Text), Qt::ElideRight, room.width() + 1);
+        painter->fontMetrics().elidedText(OneLine(cell.Text), Qt::ElideRight, room.width() + 1);
     if (kind == ColumnKind::Number || kind == ColumnKind::Date) {
       DrawFigures(*painter, room, AlignsRight(kind) ? Qt::AlignRight : Qt::AlignLeft, text);
     } else {
