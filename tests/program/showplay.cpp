@@ -55,13 +55,11 @@ void ShowPlay::BookRow(int row, const std::string& one, const std::string& other
   const std::string sheet = Desk.TopName();
   Desk.Click("cmdbook(" + std::to_string(row) + ")");
   Desk.Click("cmdbook(0)");
-  Desk.Pick("lststyle", one.empty() ? "Interview" : "Match");
+  Desk.Pick("lststyle", other.empty() ? "Interview" : "Match");
   Desk.Click("cmdnext");
   for (int step = 0; step < 10 && Desk.TopName() != "frmBookSheet"; ++step) {
-    if (Desk.TopName() == "frmBook1vs1") {
-      Desk.Pick("lstwres1", one);
-      Desk.Pick("lstwres2", other);
-    }
+    if (Desk.TopName() == "frmIV1" || Desk.TopName() == "frmBook1vs1") Desk.Pick("lstwres1", one);
+    if (Desk.TopName() == "frmBook1vs1") Desk.Pick("lstwres2", other);
     if (Desk.TopName() == "frmBookBelt") Desk.Pick("lsttitle", title);
     Desk.Click("cmdnext");
   }

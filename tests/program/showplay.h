@@ -18,9 +18,9 @@ class ShowPlay : public GameOnWorld {
  public:
   explicit ShowPlay(grapplemont::World world);
 
-  /// Books a row through the wizard with what its steps offer; a match of these two if there are
-  /// names, else an interview.
-  void BookRow(int row, const std::string& one = {}, const std::string& other = {},
+  /// Books a row through the wizard with what its steps offer: a match of these two, or an
+  /// interview with the first.
+  void BookRow(int row, const std::string& one, const std::string& other = {},
                const std::string& title = "None");
   /// Lets the sheet fill the rows that are empty.
   void FillTheRest();

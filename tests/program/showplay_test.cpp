@@ -21,7 +21,7 @@ struct OnSunday : ShowPlay {
     Desk.Click("cmdnext");
     EXPECT_EQ(Desk.TopName(), "frmBooking");
     BookRow(1, "CWA Hand 2", "CWA Hand 8");
-    BookRow(2);
+    BookRow(2, "CWA Hand 3");
     BookRow(5, "CWA Hand 1", "CWA Hand 7", "CWA Crown");
     FillTheRest();
     Start(false, kTable);

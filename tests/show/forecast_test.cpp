@@ -23,7 +23,7 @@ SmallWorld Ready(int production = 40, int talent = 40) {
   return small;
 }
 
-World Booked(SmallWorld small, const std::vector<Segment>& sheet, int rows = kTvRows) {
+World Booked(SmallWorld&& small, const std::vector<Segment>& sheet, int rows = kTvRows) {
   World world = small.Game("CWA");
   world.Segments().Rewrite(std::vector<Segment>(static_cast<std::size_t>(rows), EmptySegment()));
   for (std::size_t row = 0; row < sheet.size(); ++row)
@@ -138,7 +138,7 @@ TEST(ForecastShow, WarnsOfWhoIsTiredAndWhoIsOnTooOften) {
 }
 
 TEST(ForecastShow, WarnsOfWhatTheRoadAgentWouldComplainOf) {
-  World world = Booked(Ready().Title("Crown", "Gus"),
+  World world = Booked(std::move(Ready().Title("Crown", "Gus")),
                        {Bout(1, 2), Bout(3, 4), Bout(5, 6), SegmentOf(kAngle, 25, 0, {1, 2})});
   world.Segments()[2].Purpose = int(purpose1::kPutWinnerOver);
   world.FindWorker(4)->Sell = 10;
