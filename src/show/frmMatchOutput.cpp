@@ -86,7 +86,9 @@ class frmMatchOutput : public ui::Screen {
   void ShowInterval() {
     lblinfo.Text = "The show goes on";
     txtstip.Write({{ui::Report::Style::Heading, "After " + RowName(run().Current)}});
-    txtreport.Write("What has been told so far stands. Press Next for what was to come.");
+    txtreport.Write(NextSegment(world()) == 0
+                        ? "Every Segment has been told. Press Next for what the show came to."
+                        : "What has been told so far stands. Press Next for what was to come.");
     ShowFigures();
     ShowChart();
   }

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "program/screens.h"
+#include "records/segments.h"
 #include "records/slot.h"
 #include "records/slotfolder.h"
 #include "records/world.h"
+#include "show/holdshow.h"
 #include "support/cutdisk.h"
 #include "support/smallworld.h"
 #include "ui/acts.h"
@@ -228,6 +230,74 @@ TEST_P(Faults, OfANewGameLeaveTheOldOne) {
     EXPECT_TRUE(!opened || found == held);
     if (testing::Test::HasFailure()) return;
   }
+}
+
+constexpr int kMatchesOfShow = 4;
+
+/// A disk with a game in the middle of a show: one of its matches has been told.
+CutDisk DiskInAShow() {
+  World world = SmallWorld().Network("Nine").Promotion("CWA").Crew(8).Game("CWA");
+  std::vector<Segment> sheet(static_cast<std::size_t>(kTvRows), EmptySegment());
+  for (int row = 0; row < kMatchesOfShow; ++row) {
+    Segment& match = sheet[static_cast<std::size_t>(row)];
+    match.Kind = kMatch;
+    match.Style = kSingles;
+    match.MatchType = kPlainSingles;
+    match.Worker[0] = match.Winner = 1 + 2 * row;
+    match.Worker[1] = match.Loser = 2 + 2 * row;
+    match.Finish = match.Aftermath = match.Purpose = 1;
+  }
+  world.Segments().Rewrite(sheet);
+  StartShow(world, false, {});
+  RunNextSegment(world, nullptr);
+  CutDisk disk = FreshHome();
+  Slot::Create(disk, kSlot, FilesOf(world), 4711);
+  return disk;
+}
+
+/// The show goes on from what stands on the disk: each match is told once and counted once.
+void ExpectTheRestOfTheShow(CutDisk& disk) {
+  Running run(disk);
+  run.Load();
+  ASSERT_EQ(run.Desk.Top()->Name(), "frmMatchOutput");
+  const int told = run.Play.World().ShowRuns()[1].Current;
+  EXPECT_TRUE(told == 1 || told == 2) << told;
+  for (int next = told + 1; next <= kMatchesOfShow; ++next) {
+    EXPECT_EQ(NextSegment(run.Play.World()), next);
+    run.Desk.Click("cmdnext");
+  }
+  run.Desk.Click("cmdnext");
+  ASSERT_EQ(run.Desk.Top()->Name(), "frmPostShow");
+  EXPECT_TRUE(run.Desk.Errors.empty());
+  const ShowRun& show = run.Play.World().ShowRuns()[1];
+  EXPECT_EQ(show.Current, kMatchesOfShow);
+  EXPECT_EQ(show.ShowSegments, kMatchesOfShow + 1) << "the last one counts twice";
+  for (const Worker& worker : run.Play.World().Workers()) {
+    EXPECT_GE(worker.Condition, 95) << worker.Name.View() << " fought once";
+    EXPECT_LE(worker.Condition, 96);
+  }
+}
+
+TEST(Crashes, InTheMiddleOfAShowLeaveEachSegmentToldOnceOrNotAtAll) {
+  CutDisk disk = DiskInAShow();
+  Story story{std::move(disk), {}};
+  Running run(story.Disk);
+  run.Load();
+  ASSERT_EQ(run.Desk.Top()->Name(), "frmMatchOutput");
+  story.Worlds.push_back(run.Files());
+  story.Disk.Record();
+  story.Disk.Shows(0);
+  story.Disk.Begins(1);
+  run.Desk.Click("cmdnext");
+  story.Worlds.push_back(run.Files());
+  story.Disk.Shows(1);
+  ASSERT_NE(story.Worlds[0], story.Worlds[1]);
+  const auto look = [&](CutDisk& after, const Cut& cut) {
+    ExpectACommittedWorld(story, after, cut);
+    ExpectTheRestOfTheShow(after);
+  };
+  EXPECT_GE(ForEveryCut(story.Disk, 3, 78, look), 3);
+  EXPECT_GE(ForEveryDeath(story.Disk, look), 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -71,12 +71,14 @@ TEST(MatchConsequences, OfADrawAreWearAlone) {
 
 TEST(MatchConsequences, ReachEveryMemberOfTheWinningSide) {
   struct Case {
-    int Style, Wear;
+    int Style, Draws;  // for wear and, of teams, for the result
     std::vector<int> Morale;
   };
   const Case kCases[] = {
+      {kTag, 8, {51, 51, 50, 50, 50, 50, 50, 50}},
       {kThreeWay, 3, {50, 51, 50, 50, 50, 50, 50, 50}},
       {kThreeTeams, 6, {51, 51, 50, 50, 50, 50, 50, 50}},
+      {kFourWay, 4, {50, 51, 50, 50, 50, 50, 50, 50}},
       {kFourTeams, 8, {51, 51, 50, 50, 50, 50, 50, 50}},
       {kThreeOnThree, 6, {51, 51, 51, 50, 50, 50, 50, 50}},
       {kFourOnFour, 8, {51, 51, 51, 51, 50, 50, 50, 50}},
@@ -92,7 +94,7 @@ TEST(MatchConsequences, ReachEveryMemberOfTheWinningSide) {
     stage.S.Winner = stage.Uid("Bea");
     stage.Rate(40, 40);
     const int winners = 8 - static_cast<int>(std::count(c.Morale.begin(), c.Morale.end(), 50));
-    ScriptDraws(stage.W, std::vector<int>(static_cast<std::size_t>(c.Wear + winners), 1));
+    ScriptDraws(stage.W, std::vector<int>(static_cast<std::size_t>(c.Draws + winners), 1));
     MatchConsequences(stage.Run);
     std::vector<int> morale;
     for (const Worker& worker : stage.W.Workers()) morale.push_back(worker.Morale);

@@ -108,6 +108,26 @@ TEST(SoftWorkers, CostSinglesAndTagMatchesATenthEach) {
   }
 }
 
+TEST(StiffWorkers, HurtTheOthersOfSinglesAndTagMatchesAlone) {
+  struct Case {
+    int Style, Stiff;
+    std::array<int, 4> Condition;  // of Ash, Bea, Cal and Dot; Bea is the stiff one
+  };
+  constexpr Case kCases[] = {{1, 82, {100, 100, 100, 100}},
+                             {1, 83, {95, 100, 100, 100}},
+                             {2, 83, {100, 100, 95, 95}},
+                             {3, 100, {100, 100, 100, 100}}};
+  for (const Case& c : kCases) {
+    Rig rig(Cast().Game("CWA"), MatchOf(c.Style));
+    rig.Who(2).Stiff = c.Stiff;
+    rig.TheWorld.SetChance(std::make_unique<SteadyDraws>(5));
+    AddStiffness(rig.Run);
+    for (int uid = 1; uid <= 4; ++uid)
+      EXPECT_EQ(rig.Who(uid).Condition, c.Condition[static_cast<std::size_t>(uid - 1)])
+          << "style " << c.Style << ", stiff " << c.Stiff << ", worker " << uid;
+  }
+}
+
 TEST(CheckChampion, HalvesTheCrowdOfATitleMatchWithoutItsChampion) {
   struct Case {
     int Style;

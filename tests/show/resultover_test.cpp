@@ -33,6 +33,7 @@ TEST(ShiftOverSingles, DoesEachOfItsTestsAlone) {
       {"winner by luck", 50, 61, "F", "F", 2, 1, 0, {1, 2}, 51, 61},
       {"winner cleanly, not by 7", 50, 57, "F", "F", 1, 1, 0, {1, 1}, 50, 57},
       {"winner cleanly, by 7", 50, 58, "F", "F", 1, 1, 0, {1, 1}, 51, 58},
+      {"and a louder crowd is no help", 50, 57, "F", "F", 2, 1, 100, {2, 2}, 50, 56},
       {"winner before a crowd as he is", 50, 58, "F", "F", 2, 1, 50, {1, 1}, 50, 58},
       {"winner before a louder crowd", 50, 58, "F", "F", 2, 1, 51, {1, 1}, 51, 58},
       {"everything", 50, 61, "F", "F", 1, 1, 100, {2, 2}, 53, 60},
@@ -43,6 +44,7 @@ TEST(ShiftOverSingles, DoesEachOfItsTestsAlone) {
       {"a Face winner refuses", 50, 50, "F", "H", 1, 21, 0, {4, 1, 1}, 46, 50},
       {"a Heel winner refuses", 50, 50, "H", "F", 1, 21, 0, {1, 1}, 50, 50},
       {"a Face winner runs", 50, 50, "F", "F", 1, 24, 0, {1, 1}, 48, 50},
+      {"a Heel winner runs", 50, 50, "H", "F", 1, 24, 0, {1, 1}, 50, 50},
       {"a Face loser refuses", 50, 50, "F", "F", 1, 22, 0, {1, 4, 1}, 50, 46},
       {"a Heel loser refuses", 50, 50, "F", "H", 1, 22, 0, {1, 1}, 50, 50},
       {"a Face loser runs", 50, 50, "F", "F", 1, 18, 0, {1, 1}, 50, 48},
@@ -61,7 +63,9 @@ TEST(ShiftOverSingles, DoesEachOfItsTestsAlone) {
     stage["Ash"].Over = c.LoserOver;
     stage["Ash"].Disposition = c.LoserIs;
     stage.Rate(0, c.Crowd);
-    ScriptDraws(stage.W, c.Draws);
+    std::vector<ScriptedDraw> draws;  // each of 5
+    for (const int draw : c.Draws) draws.emplace_back(5, draw);
+    ScriptDraws(stage.W, draws);
     ShiftOver(stage.Run);
     EXPECT_EQ(stage["Bea"].Over, c.WinnerAfter) << c.Why;
     EXPECT_EQ(stage["Ash"].Over, c.LoserAfter) << c.Why;

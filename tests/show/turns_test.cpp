@@ -69,7 +69,7 @@ TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
     std::string_view Turner, Other;
     int DaysAgo;  // of the last turn
     bool IsPending;
-    std::vector<int> Draws;
+    std::vector<ScriptedDraw> Draws;
     int Crowd, Over, Morale;
     std::string_view Notes, Becomes;
   };
@@ -78,7 +78,7 @@ TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
        "F",
        999,
        true,
-       {7, 2, 3},
+       {{10, 7}, {10, 2}, {3, 3}},
        68,
        49,
        80,
@@ -89,7 +89,7 @@ TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
        "H",
        999,
        true,
-       {10, 10, 1},
+       {{10, 10}, {10, 10}, {3, 1}},
        71,
        59,
        80,
@@ -100,7 +100,7 @@ TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
        "F",
        999,
        true,
-       {15, 20},
+       {{15, 15}, {20, 20}},
        42,
        25,
        50,
@@ -111,7 +111,7 @@ TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
        "F",
        90,
        true,
-       {40},
+       {{40, 40}},
        48,
        35,
        30,
@@ -122,7 +122,7 @@ TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
        "F",
        999,
        false,
-       {1},
+       {{40, 1}},
        36,
        38,
        69,

@@ -45,4 +45,8 @@ void ScriptDraws(World& world, const std::vector<int>& script) {
   world.SetChance(std::make_unique<ScriptedDraws>(script));
 }
 
+void ScriptDraws(World& world, const std::vector<ScriptedDraw>& script) {
+  world.SetChance(std::make_unique<ScriptedDraws>(script));
+}
+
 }  // namespace grapplemont::test

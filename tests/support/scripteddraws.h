@@ -30,6 +30,8 @@ class ScriptedDraws : public Draws {
  public:
   ScriptedDraws(std::initializer_list<ScriptedDraw> script) : script_(script) {}
   explicit ScriptedDraws(const std::vector<int>& script) : script_(script.begin(), script.end()) {}
+  explicit ScriptedDraws(const std::vector<ScriptedDraw>& script)
+      : script_(script.begin(), script.end()) {}
   ~ScriptedDraws() override;
   ScriptedDraws(const ScriptedDraws&) = delete;
   ScriptedDraws& operator=(const ScriptedDraws&) = delete;
@@ -49,5 +51,6 @@ class ScriptedDraws : public Draws {
 /// other draws.
 void ScriptDraws(World& world, std::initializer_list<ScriptedDraw> script);
 void ScriptDraws(World& world, const std::vector<int>& script);
+void ScriptDraws(World& world, const std::vector<ScriptedDraw>& script);
 
 }  // namespace grapplemont::test

@@ -1,0 +1,153 @@
+#include "show/forecast.h"
+
+#include "showrig.h"
+
+namespace grapplemont::test {
+namespace {
+
+constexpr CommentaryTeam kTable{1, 2, false};
+
+/// A Regional promotion with everything a show needs. Ash and Bea are worlds better than the rest.
+SmallWorld Ready(int production = 40, int talent = 40) {
+  SmallWorld small;
+  small.Promotion("CWA", kRegional, [&](Promotion& p) { p.Production = production; })
+      .Staff("Milo Grant", kAnnouncer, talent)
+      .Staff("Pia Root", kAnnouncer, talent);
+  for (const char* name : {"Ash", "Bea", "Cal", "Dot", "Eli", "Fay", "Gus", "Hal"})
+    small.Worker(name, [&](Worker& w) {
+      const bool isGreat = *name <= 'B';
+      w.Over = w.Charisma = w.Brawl = isGreat ? 95 : 50;
+      w.Potential = 100;
+      w.Disposition = *name % 2 == 0 ? "H" : "F";
+    });
+  return small;
+}
+
+World Booked(SmallWorld&& small, const std::vector<Segment>& sheet, int rows = kTvRows) {
+  World world = small.Game("CWA");
+  world.Segments().Rewrite(std::vector<Segment>(static_cast<std::size_t>(rows), EmptySegment()));
+  for (std::size_t row = 0; row < sheet.size(); ++row)
+    world.Segments()[static_cast<int>(row) + 1] = sheet[row];
+  return world;
+}
+
+Segment Bout(int one, int other, int type = kPlainSingles) {
+  Segment match = SegmentOf(kMatch, kSingles, type, {one, other});
+  match.Winner = one;
+  match.Loser = other;
+  match.Finish = kClean;
+  match.Aftermath = match.Purpose = 1;
+  return match;
+}
+
+/// Matches and talk of people none of whom comes twice, but for one.
+std::vector<Segment> ACard() {
+  return {Bout(3, 4, kCage), SegmentOf(kInterview, kSingleTalk, 0, {5}), Bout(6, 7, kHighIncident),
+          SegmentOf(kAngle, 25, 0, {3, 8}), Bout(1, 2, kHellInACell)};
+}
+
+TEST(ForecastShow, LeavesTheWorldAndItsDrawsAlone) {
+  for (const bool isEvent : {false, true}) {
+    World world = Booked(Ready(), ACard(), RowsOf(isEvent));
+    world.SetChance(std::make_unique<SeededDraws>(7));
+    World twin = CopyOf(world);
+    twin.SetChance(std::make_unique<SeededDraws>(7));
+    const auto before = BytesOf(world);
+    const ShowForecast first = ForecastShow(world, isEvent, kTable);
+    EXPECT_TRUE(BytesOf(world) == before);
+    EXPECT_EQ(world.RandomDraw(1000000), twin.RandomDraw(1000000));
+    EXPECT_EQ(world.Prose().Draw(1000000), twin.Prose().Draw(1000000));
+    const ShowForecast second = ForecastShow(world, isEvent, kTable);
+    EXPECT_EQ(first.Rating, second.Rating) << "the same sheet, the same forecast";
+    EXPECT_EQ(first.Rows, second.Rows);
+  }
+}
+
+/// How many of the shows held come out within the forecast.
+struct Hits {
+  int Shows = 0, Rating = 0;
+  std::vector<int> Rows;
+};
+
+Hits HoldMany(const World& booked, bool isEvent, const ShowForecast& forecast) {
+  Hits hits;
+  hits.Rows.resize(forecast.Rows.size());
+  const auto within = [](const Forecast& range, int value) {
+    return range.Low <= value && value <= range.High;
+  };
+  for (std::uint64_t seed = 1; seed <= 200; ++seed) {
+    World world = CopyOf(booked);
+    world.SetChance(std::make_unique<SeededDraws>(seed * 7919));
+    StartShow(world, isEvent, kTable);
+    if (world.ShowRuns()[1].FlatNight) continue;  // a forecast tells of the other nights
+    ++hits.Shows;
+    hits.Rating += within(forecast.Rating, FinishShow(world, nullptr));
+    for (std::size_t row = 0; row < hits.Rows.size(); ++row)
+      hits.Rows[row] +=
+          within(forecast.Rows[row], world.Segments()[static_cast<int>(row) + 1].Rating);
+  }
+  return hits;
+}
+
+TEST(ForecastShow, HoldsWhatMostShowsComeTo) {
+  for (const bool isEvent : {false, true}) {
+    const World booked = Booked(Ready(), ACard(), RowsOf(isEvent));
+    const ShowForecast forecast = ForecastShow(booked, isEvent, kTable);
+    EXPECT_EQ(forecast.Rows.size(), static_cast<std::size_t>(RowsOf(isEvent)));
+    EXPECT_LT(forecast.Rating.Low, forecast.Rating.High);
+    EXPECT_LT(forecast.Rating.High - forecast.Rating.Low, 20) << "it says something";
+    const Hits hits = HoldMany(booked, isEvent, forecast);
+    ASSERT_GT(hits.Shows, 150);
+    EXPECT_GT(hits.Rating, hits.Shows * 3 / 4);
+    for (std::size_t row = 0; row < hits.Rows.size(); ++row)
+      EXPECT_GT(hits.Rows[row], hits.Shows * 3 / 4) << "row " << row + 1;
+    EXPECT_EQ(forecast.Rows[7], (Forecast{0, 0})) << "nothing is booked there";
+  }
+}
+
+TEST(ForecastShow, IsEmptyForAnEmptySheet) {
+  const World world = Booked(Ready(), {});
+  const ShowForecast forecast = ForecastShow(world, false, kTable);
+  EXPECT_EQ(forecast.Rating, (Forecast{0, 0}));
+  EXPECT_EQ(forecast.Rows, std::vector<Forecast>(kTvRows));
+  EXPECT_EQ(forecast.Warnings, std::vector<std::string>());
+}
+
+using Warnings = std::vector<std::string>;
+
+TEST(ForecastShow, WarnsOfTheTableAndTheProduction) {
+  const World good = Booked(Ready(), ACard());
+  EXPECT_EQ(ForecastShow(good, false, kTable).Warnings, Warnings());
+  EXPECT_EQ(ForecastShow(good, false, {}).Warnings,
+            (Warnings{"There is no announcer.", "There is no colour commentator."}));
+  const World poor = Booked(Ready(34, 34), ACard());
+  EXPECT_EQ(ForecastShow(poor, false, kTable).Warnings,
+            (Warnings{"Milo Grant is no announcer for a show of this size.",
+                      "Pia Root is no colour commentator for a show of this size.",
+                      "The production is too poor for a promotion of this size."}));
+}
+
+TEST(ForecastShow, WarnsOfWhoIsTiredAndWhoIsOnTooOften) {
+  World world = Booked(Ready(), {Bout(3, 4), Bout(3, 5), Bout(6, 7), Bout(3, 8)});
+  world.FindWorker(4)->Condition = 59;
+  world.FindWorker(6)->Condition = 60;
+  world.FindWorker(2)->Condition = 10;  // not on the card
+  EXPECT_EQ(ForecastShow(world, false, kTable).Warnings,
+            (Warnings{"Cal is on the card 3 times: the fans tire of that.",
+                      "Dot is tired (condition 59%)."}));
+}
+
+TEST(ForecastShow, WarnsOfWhatTheRoadAgentWouldComplainOf) {
+  World world = Booked(std::move(Ready().Title("Crown", "Gus")),
+                       {Bout(1, 2), Bout(3, 4), Bout(5, 6), SegmentOf(kAngle, 25, 0, {1, 2})});
+  world.Segments()[2].Purpose = int(purpose1::kPutWinnerOver);
+  world.FindWorker(4)->Sell = 10;
+  world.Segments()[3].TitleName = "Crown";
+  EXPECT_EQ(ForecastShow(world, false, kTable).Warnings,
+            (Warnings{"Row 2: the crowd will still be spent from the match before.",
+                      "Row 2: somebody who must sell will not.",
+                      "Row 3: a Title match without its champion confuses the crowd."}));
+}
+
+}  // namespace
+}  // namespace grapplemont::test
