@@ -41,10 +41,14 @@ CommentaryTeam BestTeam(const World& world) {
   return team;
 }
 
-bool HoldAutoShow(World& world, bool isEvent, LineMemory* memory) {
+bool BookAutoShow(World& world, bool isEvent) {
   OpenSheet(world, isEvent);
   TakeCard(world, AutoBook(world, isEvent, TermsOf(world, isEvent).OpenRows));
-  if (!MayStart(world, isEvent)) return false;
+  return MayStart(world, isEvent);
+}
+
+bool HoldAutoShow(World& world, bool isEvent, LineMemory* memory) {
+  if (!BookAutoShow(world, isEvent)) return false;
   HoldShow(world, isEvent, isEvent ? BestTeam(world) : TvTeam(world), 0, memory);
   LeaveShow(world);
   return true;

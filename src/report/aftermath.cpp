@@ -84,10 +84,9 @@ void TellAftermath(Teller& teller) {
   TellSideTurn(teller);
   const PurposePart* purpose = PurposeOf(segment);
   if (purpose) TellPurpose(teller, *purpose);
-  if (segment.Style != kSingles && segment.Style != kTag) return;
-  if (FeudTold(teller))
-    teller.Say(Family::FeudEnding,
-               purpose && purpose->Does == Purpose::EndsFeud ? kFeudIsOver : kFeudGoesOn);
+  if (const FeudOfSides feud = FeudTold(teller); feud.Between)
+    SayFeud(teller, feud, Family::FeudEnding,
+            purpose && purpose->Does == Purpose::EndsFeud ? kFeudIsOver : kFeudGoesOn);
 }
 
 }  // namespace grapplemont

@@ -125,6 +125,12 @@ std::string TitleInProse(std::string_view name, bool singles) {
   return "the " + plain + (singles ? " Title" : " Titles");
 }
 
+std::string_view WordOfThing(std::string_view name, int row) {
+  for (const std::string_view word : {"Titles", "Championships", "Crowns", "Belts"})
+    if (name.ends_with(word)) return kSexed[row].Several;
+  return kSexed[row].Man;
+}
+
 std::string OneSpaced(std::string_view text) {
   std::string out;
   for (const char letter : text)

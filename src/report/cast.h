@@ -83,6 +83,8 @@ Cast CastOf(const World& world, const Segment& segment);
 
 /// "the Harbor Crown", "the CWA World Title": a name that says what it is needs no more.
 std::string TitleInProse(std::string_view name, bool singles);
+/// The word that goes with a Title's name, by its number: "the Zenith Tag Titles are".
+std::string_view WordOfThing(std::string_view name, int row);
 /// Several spaces in a row as one.
 std::string OneSpaced(std::string_view text);
 

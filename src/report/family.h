@@ -149,9 +149,10 @@ struct FamilyRow {
   std::string_view Parts;   // that its lines may name
   std::string_view Must;    // that each of its lines does name
   int First = 0, Last = 0;  // its bands
-  int Lines = 0;            // of each band
+  int Lines = 0;            // of each band, at least
   std::uint32_t Skips = 0;  // bands that do not exist, a bit for each
   bool Shared = false;      // the first voice's lines serve all
+  bool Exact = false;       // not a line more
 
   constexpr bool Has(int band) const {
     return band >= First && band <= Last && !(band < 32 && (Skips >> band & 1) != 0);

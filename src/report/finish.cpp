@@ -181,7 +181,7 @@ void TellTitleEnding(Teller& teller) {
     if (holder != 0 && person->Uid == holder) winnerHeld = true;
   for (const int uid : PeopleOf(teller.segment)) isPresent = isPresent || (holder && uid == holder);
   const bool passesOn = PassesOn(teller.segment);
-  if (holder == 0 && (isDraw || !passesOn)) return;
+  if ((holder == 0 || !isPresent) && (isDraw || !passesOn)) return;
   teller.Say(Family::TitleEnding,
              TitleBand({passesOn, isDraw, holder == 0, isPresent}, winnerHeld));
 }

@@ -8,8 +8,8 @@
 //   "{a} counters a backdrop with a kick to {d:his} jaw. "
 //
 // A slot names a part of the cast by its letter (see cast.h) and, behind a colon, what to say of
-// it; a form of address, an item of the report ("{title}"), or a condition: "{?o}...{.}" is said
-// only when somebody plays o, "{!o}...{.}" only when nobody does.
+// it; a form of address, an item of the report ("{title}", "{title:is}"), or a condition:
+// "{?o}...{.}" is said only when somebody plays o, "{!o}...{.}" only when nobody does.
 
 namespace grapplemont {
 
@@ -34,6 +34,7 @@ inline constexpr Sexed kSexed[] = {
     {"was", "was", "was", "were"},
     {"has", "has", "has", "have"},
     {"does", "does", "does", "do"},
+    {"it", "it", "it", "them"},
 };
 
 /// What a report may hold beside its people.
@@ -42,10 +43,11 @@ inline constexpr std::string_view kItems[] = {"title",     "prize", "no",   "tal
                                               "promotion", "left",  "turn", "feud"};
 
 struct Hole {
-  enum Kind { Bad, Name, Full, Short, Members, Word, Thing, If, IfNot, End };
+  enum Kind { Bad, Name, Full, Short, Members, Word, Thing, ThingWord, If, IfNot, End };
   Kind Is = Bad;
   char Part = 0;   // of a name, a word, a condition on a part
   int Number = 0;  // row of kSexed; Item of a thing or of a condition without a part
+  int Of = 0;      // Item of a thing's word
 };
 
 namespace detail {
@@ -78,6 +80,16 @@ constexpr Hole ReadForm(char part, std::string_view form) {
   return word < 0 ? Hole{} : Hole{Hole::Word, part, word};
 }
 
+/// "title:is", which goes by whether the name means one or several.
+constexpr Hole ReadThingWord(std::string_view text) {
+  const auto colon = text.find(':');
+  const Hole thing = ReadThing(Hole::ThingWord, text.substr(0, colon));
+  if (thing.Is == Hole::Bad || colon == std::string_view::npos) return {};
+  const std::string_view form = text.substr(colon + 1);
+  const int word = RowOf(kSexed, form, [](const Sexed& row) { return row.Key; });
+  return word < 0 ? Hole{} : Hole{Hole::ThingWord, 0, word, thing.Number};
+}
+
 }  // namespace detail
 
 /// What stands between two braces; Bad for a slot that does not exist.
@@ -88,6 +100,7 @@ constexpr Hole ReadHole(std::string_view text) {
   if (detail::IsPart(text)) return {Hole::Name, text[0], 0};
   if (text.size() > 2 && text[1] == ':' && detail::IsPart(text.substr(0, 1)))
     return detail::ReadForm(text[0], text.substr(2));
+  if (text.find(':') != std::string_view::npos) return detail::ReadThingWord(text);
   return detail::ReadThing(Hole::Thing, text);
 }
 

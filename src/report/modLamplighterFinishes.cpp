@@ -21,19 +21,19 @@ constexpr Block kBlocks[] = {
          "{w} sees the opening, and it's a barn door. ",
          "{l} swings, {w} doesn't mind, and here comes the end. ",
          "{w} drags {l} to the middle and lets the crowd know what is next. ",
+         "{l} is on wobbly legs, and {w} can smell it from there. ",
+         "{l} goes for one big swing too many, and {w} isn't where the swing is. ",
+         "Something in {l} has just run out. I think it was everything. {w} moves in. ",
      }},
     {SinglesFinish,
      kCountOut,
      {
          "Out on the floor {w} drops {l} on the railing and dives back in at nine. {l} does not "
-         "make "
-         "it, and {w} wins by count out. ",
+         "make it, and {w} wins by count out. ",
          "{l} has a chair, the referee has eyes for once, and {l} is disqualified. {w} wins, with "
-         "a "
-         "lump. ",
+         "a lump. ",
          "{l} goes for a walk, the referee counts to ten, and {w} wins by count out, sitting on "
-         "the "
-         "top rope. ",
+         "the top rope. ",
      }},
     {SinglesFinish,
      kInterference,
@@ -54,8 +54,7 @@ constexpr Block kBlocks[] = {
      kCheating,
      {
          "{w} has something in {w:his} boot, then in {w:his} fist, and then it's on the jaw of "
-         "{l}. "
-         "What referee? ",
+         "{l}. What referee? ",
          "{w} hits {l} where the sun is shy, and smiles at the referee like a choirboy. ",
          "A thumb to the eye of {l}, both feet on the ropes, and {w} has won prettier. ",
      }},
@@ -80,8 +79,7 @@ constexpr Block kBlocks[] = {
      kNoContest,
      {
          "Here's {o}, and {o} hits {1}, and {o} hits {2}, and nobody can call this a match any "
-         "more. "
-         "No contest. ",
+         "more. No contest. ",
          "{o} comes through the crowd and wipes out {1} and {2} both. It's thrown out as a no "
          "contest. ",
          "{o} has ruined it for everyone! {1} and {2} are down, and the referee waves it off. No "
@@ -102,16 +100,14 @@ constexpr Block kBlocks[] = {
      {
          "{w} throws {l} off the top of everything. Oh no. Oh no! The thud came a second later. ",
          "{l} goes backwards through the announce table from so high up that I had time to pray. "
-         "{w} "
-         "looks sorry for almost a second. ",
+         "{w} looks sorry for almost a second. ",
          "{w} sends {l} off the side, down, down, into the floor. I'm not joking about that one. ",
      }},
     {SinglesFinish,
      kDqThroughInterference,
      {
          "{o} jumps {w} in front of the referee, three judges and me. That's a DQ, so {w} wins, "
-         "flat "
-         "on {w:his} back. ",
+         "flat on {w:his} back. ",
          "{w} had it won until {o} came in with both boots. The bell rings, and {w} wins by "
          "disqualification. ",
          "{o} can't wait and hits {w} with a chair. {l} is disqualified, {w} wins, and sees "
@@ -123,13 +119,15 @@ constexpr Block kBlocks[] = {
          "{k} is down on the floor, {l} is all alone, and {w} licks {w:his} lips. ",
          "{j} keeps {k} busy, and {w} has {l} where {w:he} want{w:s} {l:him}. ",
          "Everybody is in, everybody is out, and it's {w} with {l} in the middle. ",
+         "{j} sends {k} off the apron, and that leaves {w} alone with {l}. ",
+         "The tags have stopped, the plans have gone, and {w} has hold of {l}. ",
+         "{k} arrives one second late to the break-up, and {w} has {l} all lined up. ",
      }},
     {TagFinish,
      kCountOut,
      {
          "{l} and {k} fight on the floor, {w} slides in, and the ten is in the book. {W} win{W:s} "
-         "by "
-         "count out. ",
+         "by count out. ",
          "{k} breaks a chair on {w}, and the referee was facing that way. {W} win{W:s} by "
          "disqualification. ",
          "{L} {L:has} had enough and take{L:s} a walk. Count them out: {W} win{W:s}. ",
@@ -211,11 +209,9 @@ constexpr Block kBlocks[] = {
          "{l} reaches for the tag, {k} looks at the hand, and hits {l} instead! {k} has turned on "
          "{k:his} own partner! ",
          "{k} floors {k:his} own partner with a right hand to the jaw, then drops down off the "
-         "apron. "
-         "{l} never saw who it was. {w} did. ",
+         "apron. {l} never saw who it was. {w} did. ",
          "{k} comes in to save {l}, and lays {l:him} out. Judas had better manners. {w} looks for "
-         "the "
-         "catch. ",
+         "the catch. ",
      }},
     {TagFinish,
      kDqThroughInterference,
@@ -236,8 +232,7 @@ constexpr Block kBlocks[] = {
      0,
      {
          "They are all out on the floor, all of them, and the count is ten. {F} and {S} are "
-         "counted "
-         "out. ",
+         "counted out. ",
          "{F} and {S} brawl into the crowd. Eight, nine, ten, and that's a double count out. ",
          "Nobody comes back in. {F} and {S} have gone sightseeing. Double count out! ",
      }},
@@ -253,9 +248,8 @@ constexpr Block kBlocks[] = {
      0,
      {
          "{t} floors {t:his} own partner with a right hand to the jaw, then drops down off the "
-         "apron. "
-         "{w} scores with a quick small package on {l}. {t} leaves the ring with the chair in "
-         "hand. ",
+         "apron. {w} scores with a quick small package on {l}. {t} leaves the ring with the chair "
+         "in hand. ",
          "{l} looks for help, and {t} helps {l:him} to a chair, across the back! {w} can't believe "
          "{w:his} luck, and {t} can't stop grinning. ",
          "{t} drops off the apron just as {l} needs the tag, waves goodbye, and comes back to trip "
@@ -281,33 +275,32 @@ constexpr Block kBlocks[] = {
      0,
      {
          "{t} turns on {v}! Now everybody hits somebody, and the referee can't find a match in "
-         "there "
-         "to referee. It's thrown out. ",
+         "there to referee. It's thrown out. ",
          "{t} lays out {v} with a chair, {F} and {S} pile in, and the bell just keeps on ringing. "
-         "No "
-         "winner. ",
+         "No winner. ",
          "{t} stabs {v} in the back, and {F} and {S} boil over. A draw, if you want to be tidy. ",
      }},
 
     {TitleOpening,
      kDefended,
      {
-         "{title} is at stake, and {c} brings it in polished. ",
+         "{title} {title:is} at stake, and {c} bring{c:s} {title:it} in polished. ",
          "{c} put{c:s} up {title}. I wouldn't, but then I'd never have won it. ",
-         "{title}: {c} {c:has} it, everybody else wants it. ",
+         "{title}: {c} {c:has} {title:it}, everybody else wants {title:it}. ",
      }},
     {TitleOpening,
      kVacant,
      {
-         "{title} has no owner tonight, and the winner gets to wear it home. ",
-         "Nobody holds {title}. It has been sitting in a cupboard with the mops. ",
+         "{title} {title:has} no owner tonight, and whoever wins gets to wear {title:it} home. ",
+         "Nobody holds {title}. The gold has been sitting in a cupboard with the mops. ",
          "The winner takes {title}, vacant as my wallet. ",
      }},
     {TitleOpening,
      kChampionAway,
      {
-         "They say that {title} is at stake, but the champion isn't even in it. I asked twice. ",
-         "{title} is on the line, and whoever holds it is at home with a takeaway. ",
+         "They say that {title} {title:is} at stake, but the champion isn't even in it. I asked "
+         "twice. ",
+         "{title} {title:is} on the line, and the champion is at home with a takeaway. ",
          "This is for {title}, without the champion. Don't look at me, I only work here. ",
      }},
     {FeudOpening,
@@ -316,6 +309,8 @@ constexpr Block kBlocks[] = {
          "{F} and {S} have a bone to pick, and it isn't a small one. ",
          "There's history between {F} and {S}, mostly the bruising kind. ",
          "{F} and {S} did not exchange Christmas cards. ",
+         "{F} and {S} start with a stare. Somebody forgot to book the violins. ",
+         "You could fry an egg on the look between {F} and {S}, if slowly. ",
      }},
     {FeudOpening,
      kBoils,
@@ -323,6 +318,8 @@ constexpr Block kBlocks[] = {
          "{F} and {S} hate each other, and not in the nice way. The place is boiling! ",
          "Keep the children back: {F} and {S} in one ring is a fire hazard. ",
          "The referee has made a will. {F} and {S} can't stand to share a planet. ",
+         "There isn't a handshake. There isn't even a bell. {F} and {S} are at it already! ",
+         "I've moved back a row. {F} and {S} in there, and the splash zone is the whole hall. ",
      }},
     {DebutOpening,
      0,
@@ -334,9 +331,12 @@ constexpr Block kBlocks[] = {
     {ChampionNote,
      0,
      {
-         "{c} holds {title}, but it stays in the bag tonight. ",
-         "{title} is safe: {c} has left it with the coat check. ",
-         "No gold at stake for {c}, but {title} gets an outing on the shoulder. ",
+         "{c} hold{c:s} {title}, but the gold stays in the bag tonight. ",
+         "{title} {title:is} safe: {c} {c:has} left {title:it} with the coat check. ",
+         "No gold at stake for {c}, but {title} get{title:s} an outing on the shoulder. ",
+         "{c} turn{c:s} up with {title} and without any plan to lose {title:it}. ",
+         "Nobody can win {title} off {c} in this one. It's on the house. ",
+         "The announcer mentions {title} when {c} come{c:s} out, so I do, too. ",
      }},
 
     {SinglesAftermath,
@@ -385,8 +385,7 @@ constexpr Block kBlocks[] = {
      after1::kGetsRevenge,
      {
          "{l} knows who to thank, and gets it back on the spot: {o} is sent over the railing, and "
-         "{w} "
-         "goes after. ",
+         "{w} goes after. ",
          "{l} gets up, gets mad, and gets even. {w} and {o} leave faster than they came. ",
      }},
     {SinglesAftermath,
@@ -411,8 +410,7 @@ constexpr Block kBlocks[] = {
      after1::kRunInDestroys,
      {
          "{o} isn't finished. {1} goes out on one side and {2} on the other, and {o} has the ring "
-         "to "
-         "{o:himself}. ",
+         "to {o:himself}. ",
          "{o} destroys everyone: {1}, {2}, a cameraman, and a perfectly good potted plant. ",
      }},
     {SinglesAftermath,
@@ -497,8 +495,7 @@ constexpr Block kBlocks[] = {
      after1::kFailedSave,
      {
          "{p} comes to save {v} from {o} and {u}, and gets flattened as well. It's the thought "
-         "that "
-         "counts. ",
+         "that counts. ",
          "Here's {p} to help {v}! There goes {p}, on {p:his} back. {o} and {u} laugh. ",
      }},
 
@@ -665,42 +662,45 @@ constexpr Block kBlocks[] = {
      {
          "{C} keep{C:s} {title}! It goes with the boots, anyhow. ",
          "Still the champion: {C}, with {title} held high. ",
-         "{title} stays where it is, on {C}. ",
+         "{title} stay{title:s} just where {title:is} best looked after, with {C}. ",
+         "The crowd counts the belts, and nothing is missing: {C} still {C:has} {title}. ",
+         "{C} get{C:s} to dust {title} for another week. ",
      }},
     {TitleEnding,
      kNewChampion,
      {
          "New champion! {C} take{C:s} {title} off {c}, and the roof off the place. ",
-         "{title} changes hands! It's {C} now, and {c} {c:has} to hand over the key to the "
-         "good shower. ",
+         "{title} change{title:s} hands! Make room for {C}, and {c} {c:has} to hand over the key "
+         "to the good shower. ",
          "It's over for {c}! {C} {C:has} won {title}! ",
      }},
     {TitleEnding,
      kVacancyFilled,
      {
-         "{title} has a home again: {C}! ",
-         "Somebody owns {title} at last, and it's {C}. ",
-         "{C} strap{C:s} on {title}. Fits like it was made for {C:him}. ",
+         "{title} {title:has} a home again, with {C}! ",
+         "Somebody owns {title} at last, and the somebody is {C}. ",
+         "{C} strap{C:s} on {title}. A perfect fit. ",
      }},
     {TitleEnding,
      kKeptThoughBeaten,
      {
-         "But {title} doesn't change hands like that. {c} can go on polishing it. ",
+         "But {title} {title:does} not change hands like that. {c} can go on polishing "
+         "{title:it}. ",
          "{C} won the match but not {title}. Read the small print. ",
-         "A win's a win, but {title} stays with {c}. Boo! ",
+         "A win's a win, but {title} stay{title:s} with {c}. Boo! ",
      }},
     {TitleEnding,
      kKeptByDraw,
      {
-         "No winner, so {title} stays with {c}. ",
+         "No winner, so {title} stay{title:s} with {c}. ",
          "{c} keep{c:s} {title}, because nobody beat anybody. ",
-         "A draw leaves {title} where it was. {c} will take it. ",
+         "A draw changes nothing, least of all {title}. {c} will take that. ",
      }},
     {TitleEnding,
      kWonInAbsence,
      {
          "{C} walk{C:s} off with {title}, and the old champion can read about it here. ",
-         "And {title} goes to {C}! Somebody had better ring the champion. Gently. ",
+         "And {title} go{title:es} to {C}! Somebody had better ring the champion. Gently. ",
          "{C} {C:has} won {title} from somebody who wasn't in the ring. I love this business. ",
      }},
     {FeudEnding,
@@ -709,6 +709,9 @@ constexpr Block kBlocks[] = {
          "{F} and {S} aren't done, mark my words. They're marked. ",
          "This one between {F} and {S} has a way to go yet. ",
          "Something tells me that {F} and {S} won't be sharing a taxi. ",
+         "If that was meant to settle it between {F} and {S}, somebody forgot the glue. ",
+         "{F} and {S} leave by different doors. Wise. ",
+         "{F} and {S} aren't through. My pencil is, nearly. ",
      }},
     {FeudEnding,
      kFeudIsOver,
@@ -723,6 +726,9 @@ constexpr Block kBlocks[] = {
          "{F} and {S} went out to put on a match, and by gum that's what they did. ",
          "No nonsense, just wrestling from {F} and {S}. I nearly put my beer down. ",
          "You can keep your explosions, I'll take {F} and {S} doing that. ",
+         "Somebody behind me said that {F} and {S} were worth the bus fare. From him that's "
+         "poetry. ",
+         "{F} and {S} could do that again tomorrow and I'd come. I'd even pay. Half. ",
      }},
     {PurposeEnding,
      kPutOverTold,
@@ -730,6 +736,9 @@ constexpr Block kBlocks[] = {
          "If you didn't know {t} before, you do now. ",
          "That was all about {t}, and it suits {t:him}. ",
          "{t} look{t:s} like a million. Well, half. I've seen the books. ",
+         "There's a new poster to print, and {t} {t:is} on it. ",
+         "Somebody in the office likes {t}. After that, so do I. ",
+         "{t} walk{t:s} out of here two inches taller. So does my stack of notes. ",
      }},
     {PurposeEnding,
      kBothOverTold,
@@ -776,9 +785,9 @@ constexpr Block kBlocks[] = {
     {Turn,
      kBaffling,
      {
-         "What was {t} up to there? I don't know, and nor does anyone in my row. ",
-         "{t} leave{t:s} us all scratching. Was that supposed to be a turn? ",
-         "I think {t} went left, then right, and then home. Baffling. ",
+         "Only nobody had been told to expect that of {t}. The crowd looks at itself, baffled. ",
+         "You can hear the place think it over and give up. A turn from {t}? What for? ",
+         "{t} wait{t:s} for the noise and get{t:s} a room full of people scratching their heads. ",
      }},
 };
 

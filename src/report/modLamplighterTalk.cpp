@@ -40,8 +40,7 @@ constexpr Block kBlocks[] = {
      TalkBand(kSingleTalk, kVerbalAttack),
      {
          "{T} says that {V} {V:is} a coward, a fake, and a poor tipper. \"I've scraped better "
-         "things "
-         "off my boot,\" {T:he} add{T:s}, and shows us the boot. ",
+         "things off my boot,\" {T:he} add{T:s}, and shows us the boot. ",
          "\"Somebody tell {V} that mirrors don't lie,\" snaps {T}. It goes on like that for two "
          "minutes, and the bit about {V:his} mother was bleeped. ",
      }},
@@ -49,11 +48,9 @@ constexpr Block kBlocks[] = {
      TalkBand(kSingleTalk, kHypeMatch),
      {
          "{T} can't wait to get {V} in that ring. {T:he} describes it blow by blow, does the "
-         "noises "
-         "as well, and wins, which is a surprise. ",
+         "noises as well, and wins, which is a surprise. ",
          "\"Mark the day, {V}!\" {T} has marked it, on {T:his} hand, in biro. There are three "
-         "moves "
-         "and a shopping list. ",
+         "moves and a shopping list. ",
      }},
     {Speech,
      TalkBand(kSingleTalk, kTalkTurn),
@@ -69,25 +66,21 @@ constexpr Block kBlocks[] = {
          "{T} rolls up a sleeve and shows us what {V} did to {T:him}. \"It itches when I don't hit "
          "somebody,\" {T:he} explain{T:s}. ",
          "\"It's not over, {V}, it's not over by a mile,\" says {T}. A mile is about what it'll "
-         "take, "
-         "by the look of {T:him}. ",
+         "take, by the look of {T:him}. ",
      }},
     {Speech,
      TalkBand(kSingleTalk, kSelfPromotion),
      {
          "{T} talks about {T}. {T:he} found the subject fascinating, and spoke warmly of "
-         "{T:himself}, "
-         "quoting {T:himself} twice. ",
+         "{T:himself}, quoting {T:himself} twice. ",
          "\"When I look in the mirror the mirror says thank you,\" says {T}. I've had a look in "
-         "mine. "
-         "It said nothing. ",
+         "mine. It said nothing. ",
      }},
     {Speech,
      TalkBand(kSingleTalk, kTalkNone),
      {
          "{T} tells a story about a dog and a bus. It has no point, but the dog got home. {?V}At "
-         "the "
-         "end {T:he} nods to {V}. {.}",
+         "the end {T:he} nods to {V}. {.}",
          "{T} talks for a bit. I was eating. {?V}I caught the name of {V}. {.}It seemed friendly "
          "enough. ",
      }},
@@ -95,16 +88,14 @@ constexpr Block kBlocks[] = {
      TalkBand(kTeamTalk, kVerbalAttack),
      {
          "{T} take{T:s} turns at it: one does the insults, the other does the echo. {V} {V:is} "
-         "called "
-         "everything from a weasel to a spoon. ",
+         "called everything from a weasel to a spoon. ",
          "\"{V}!\" yell the two of them. \"You couldn't beat an egg!\" High fives. They miss. ",
      }},
     {Speech,
      TalkBand(kTeamTalk, kHypeMatch),
      {
          "{T} {T:has} a plan for {V}, and act{T:s} it out with two cups and a banana. I fear for "
-         "the "
-         "banana. ",
+         "the banana. ",
          "\"Two of us,\" say {T:members}, \"and that's two too many for {V}.\" They count on their "
          "fingers to make sure. ",
      }},
@@ -112,8 +103,7 @@ constexpr Block kBlocks[] = {
      TalkBand(kTeamTalk, kTalkTurn),
      {
          "{T} look{T:s} at the camera, at each other, and tear{T:s} up a fan club card. "
-         "{?V}\"Blame "
-         "{V},\" they say. {.}That's that, then. ",
+         "{?V}\"Blame {V},\" they say. {.}That's that, then. ",
          "\"We did it your way, and where did it get us?\" ask {T:members}. {?V}\"Next to {V}!\" "
          "{.}They're doing it their own way from now on. ",
      }},
@@ -123,44 +113,37 @@ constexpr Block kBlocks[] = {
          "{T} {T:has} brought pictures of what {V} did. They hold them too close, so it's all "
          "thumbs. It's the thought. ",
          "\"{V}, this stops when you stop moving,\" {T} promise{T:s}. It takes two to tango, and "
-         "four "
-         "for that. ",
+         "four for that. ",
      }},
     {Speech,
      TalkBand(kTeamTalk, kSelfPromotion),
      {
          "{T} agree{T:s} that there's never been a team like {T}, and that modesty is the best "
-         "thing "
-         "about it. ",
+         "thing about it. ",
          "{T} sing{T:s} a song. It rhymes team with supreme, and then with ice cream. ",
      }},
     {Speech,
      TalkBand(kTeamTalk, kTalkNone),
      {
          "{T} finish{T:es} each other's sentences, if not always the same one. {?V}There's "
-         "something "
-         "about {V} in there. {.}No harm done. ",
+         "something about {V} in there. {.}No harm done. ",
          "{T} chat{T:s} about the road, the food, the hotel with one bed. {?V}{V} {V:was} there, "
-         "it "
-         "seems. {.}Laughter. ",
+         "it seems. {.}Laughter. ",
      }},
     {Speech,
      TalkBand(kManagedTalk, kVerbalAttack),
      {
          "{m} reads out a list of what's wrong with {V}. It's laminated. {T} nods at number nine, "
-         "and "
-         "cracks {T:his} knuckles at ten. ",
+         "and cracks {T:his} knuckles at ten. ",
          "\"{V}, my {T:man} here eats people like you with toast,\" says {m}. {T} asks quietly "
-         "about "
-         "the toast. ",
+         "about the toast. ",
      }},
     {Speech,
      TalkBand(kManagedTalk, kHypeMatch),
      {
          "{m} sells us {T} against {V} as though the tickets were {m:his} own. I think they are. ",
          "\"One night, one ring, and {V} is in the way,\" says {m}. {T} breathes through {T:his} "
-         "nose "
-         "at the right moments. ",
+         "nose at the right moments. ",
      }},
     {Speech,
      TalkBand(kManagedTalk, kTalkTurn),
@@ -174,11 +157,9 @@ constexpr Block kBlocks[] = {
      TalkBand(kManagedTalk, kTalkContinueFeud),
      {
          "{m} says that the lawyers have been in touch with {V}, and then the fists will be. The "
-         "fists "
-         "of {T} look ready. ",
+         "fists of {T} look ready. ",
          "\"You had your fun, {V}, now it's our turn,\" says {m}, and {T} holds up whatever {V} "
-         "left "
-         "{T:him} of {T:his} gear. ",
+         "left {T:him} of {T:his} gear. ",
      }},
     {Speech,
      TalkBand(kManagedTalk, kSelfPromotion),
@@ -190,8 +171,7 @@ constexpr Block kBlocks[] = {
      TalkBand(kManagedTalk, kTalkNone),
      {
          "{m} does the talking, {T} does the standing. {?V}{V} got a mention. {.}Everybody does "
-         "what "
-         "they're best at. ",
+         "what they're best at. ",
          "{m} thanks everybody, and I mean everybody, alphabetically. {?V}{V} came up under pests. "
          "{.}{T} waits by the door. ",
      }},
@@ -235,8 +215,7 @@ constexpr Block kBlocks[] = {
      TalkBand(kManagedTeamTalk, kTalkNone),
      {
          "{m} asks if there are questions. There are none. {?V}{V} might have had one. {.}{T} "
-         "wave{T:s} "
-         "to somebody off camera. ",
+         "wave{T:s} to somebody off camera. ",
          "{m} thanks {T}, {T} thank{T:s} {m}, and we're out of time. {?V}Regards to {V}. {.}",
      }},
 

@@ -76,6 +76,9 @@ constexpr Block kBlocks[] = {
          "Three count, {w} over {l}. ",
          "{w} makes the cover. {l} does not stir, and it is three. ",
          "The shoulders of {l} are down for three, and {w} has the win. ",
+         "{w} makes the cover, and the three is a formality. {l} is beaten. ",
+         "One, two, three. {w} beats {l}, and the timing of it was right. ",
+         "Shoulders down, three counted, {w} the winner over {l}. It can be as simple as that. ",
      }},
     {TapOut,
      0,
@@ -84,6 +87,8 @@ constexpr Block kBlocks[] = {
          "{l} holds out longer than I would and then taps. {w} wins. ",
          "There is the tap from {l}. {w} releases at once, as one professional to another. ",
          "{l} looks for the ropes, does the sum, and submits. The win goes to {w}. ",
+         "{l} gives up. {w} had worked towards it, and I like to see work paid. ",
+         "There is the tap from {l}. {w} wins with the hold that the match was about. ",
      }},
     {PinNoRef,
      0,
@@ -94,6 +99,8 @@ constexpr Block kBlocks[] = {
          "Pin, no referee. The visual fall, they call it. I call it a habit. ",
          "The shoulders are down, the official is down, the pace is down. One of them had better "
          "get up. ",
+         "A perfectly good cover, and no official to see it. It is the oldest waste there is. ",
+         "The shoulders were down for five by my watch. My watch has no standing. ",
      }},
     {RefBump,
      0,
@@ -119,6 +126,12 @@ constexpr Block kBlocks[] = {
          "{b} has the arm out, and {a} reaches it. ",
          "Quick tag from {a} to {b}. ",
          "{a} finds the hand of {b} and rolls out of the way. ",
+         "{a} tags {b}. Both feet on the apron, hand over the rope, all as it should be. ",
+         "{b} is in, {a} is out, and the pace picks up by a notch. ",
+         "A tag to {b}. {a} had about a minute left in the legs. ",
+         "{a} works back to the corner and brings in {b}. Sensible. ",
+         "{a} makes the tag at full stretch. {b} comes in with the crowd behind. ",
+         "{b} takes over from {a} without letting anyone up. That is how it is taught. ",
      }},
     {DoubleTeam,
      0,
@@ -145,6 +158,11 @@ constexpr Block kBlocks[] = {
          "side. ",
          "{a} has rested long enough and hauls {d} away. ",
          "{a} cuts in on {d}, as at a dance. The steps are much the same. ",
+         "{a} returns and takes {d} out of the exchange. Somebody has to stand aside, it seems, "
+         "and it varies. ",
+         "{a} pulls {d} away by the ankle. The pairing changes, the pace holds. ",
+         "{d} had stopped looking over the shoulder. {a} was there. ",
+         "A kick from {a} puts an end to what {d} had going. It had gone far enough. ",
      }},
     {LadderSpot,
      0,
@@ -186,6 +204,12 @@ constexpr Block kBlocks[] = {
          "{a} has it locked in the middle. {d} claws at the mat by inches. I find that I am "
          "counting them. ",
          "{a} moves from the wrist to the elbow to the shoulder of {d}. Logical. ",
+         "{a} changes the grip a little. {d} makes a noise that was not rehearsed. ",
+         "{d} has the ropes in sight and {a} on {d:his} back. It takes a long time. It is meant "
+         "to. ",
+         "{a} leaves the arm, goes to the leg, and returns to the arm. {d} never had a chance to "
+         "guard both. ",
+         "The referee bends down to ask, and {d} turns away. {a} adds an inch. ",
      }},
     {Spot,
      kClockSpot,
@@ -196,6 +220,11 @@ constexpr Block kBlocks[] = {
          "{a} lies on {d} and makes {d:him} carry the weight. It is dull, and quite right. ",
          "The pace drops. {a} takes a breath with {d} caught in a front facelock. No blame for "
          "that, in one of these. ",
+         "{a} lets {d} up, since a fall now is worth less than a fall later. Chess, in boots. ",
+         "{d} is blowing hard. {a} is too, with a better poker face. ",
+         "{a} and {d} exchange holds at half speed. It is honest tiredness, and it looks well. ",
+         "The clock has been shown twice now, and {a} has looked at it both times. {d} has not "
+         "dared. ",
      }},
     {Spot,
      kJunkSpot,
@@ -207,6 +236,10 @@ constexpr Block kBlocks[] = {
          "{a} wraps the bell rope around {d} and pulls. One note. ",
          "{a} puts a bucket over the head of {d} and hits it with a stick. I gave up objecting to "
          "that some years ago. ",
+         "{a} finds a folding sign and folds {d} into it. Ingenuity of a sort. ",
+         "A mop is used. {a} uses it, {d} regrets it, I put down one mop. ",
+         "{a} strikes {d} with a pot, and then with its lid. At least it matches. ",
+         "{a} returns from under the ring with a length of hose. {d} finds out what it is for. ",
      }},
     {Spot,
      kCageSpot,
@@ -218,6 +251,11 @@ constexpr Block kBlocks[] = {
          "{a} throws {d} at the steel from close in. No give at all. One hears the difference. ",
          "{a} crawls at the door with {d} wrapped around one leg. It takes a full minute, and "
          "every inch is earned. ",
+         "{a} leaves {d} slumped on the mesh and thinks about the door. The thinking costs {a:him} "
+         "the chance. ",
+         "{d} is on the top, {a} has a wrist. They stay like that for a while. Good picture. ",
+         "{a} drives {d} along two walls of four. I should have liked to see all four. ",
+         "{a} pulls {d} off the steel by both ankles. There is nothing pretty about that landing. ",
      }},
     {Spot,
      kTexasSpot,
@@ -230,6 +268,12 @@ constexpr Block kBlocks[] = {
          "something. ",
          "{a} has {d} pinned. The ten count begins, and {d} rolls to a knee at six. Too soon, hold "
          "out for eight. ",
+         "{a} takes a fall, which here is only half of one. {d} stirs at five and stands at "
+         "eight. ",
+         "A pin for {a}. The count that follows is where the acting comes in, and {d} does it "
+         "well. ",
+         "Three for {a}, nine for {d}. I preferred it when the one was enough. ",
+         "{a} pins {d} and sits down to wait. {d} obliges at eight. A good little scene. ",
      }},
     {Spot,
      kTenCountSpot,
@@ -240,6 +284,11 @@ constexpr Block kBlocks[] = {
          "{a} has {d} flat and the count at eight. Nobody in the building believes it yet, and "
          "they are right. ",
          "{a} lays {d} low. The count goes slow enough to be generous. {d} rises, wobbling. ",
+         "{d} is up at nine. It is always nine. This time I could not swear to it. ",
+         "{a} has the patience to let the count run. {d} breaks it at eight on the strength of one "
+         "arm. ",
+         "{d} uses {a} to get up, hand over hand. {a} ought to have moved. ",
+         "The count reaches six before {d} so much as blinks. {a} begins to believe it. ",
      }},
     {Spot,
      kAnywhereSpot,
@@ -250,6 +299,12 @@ constexpr Block kBlocks[] = {
          "{a} slams {d} on the concrete of the concourse. I winced, and I am not a wincer. ",
          "{a} and {d} brawl by the exit. The crowd gets to touch them. This is the appeal, such as "
          "it is. ",
+         "{a} and {d} go by me and on into the seats. I have saved my notes and lost my tea. ",
+         "{d} is rammed into a pillar. The building wins that one, on behalf of {a}. ",
+         "{a} tries for a fall at the foot of the stairs. The referee is still at the top of "
+         "them. ",
+         "{a} has dragged {d} half the way round the hall. Those in the cheap seats have got their "
+         "money's worth. ",
      }},
     {Spot,
      kClimbSpot,
@@ -260,6 +315,12 @@ constexpr Block kBlocks[] = {
          "rungs take no sides. ",
          "{a} sets the ladder under {prize} first and checks that it is steady. Thoughtful. {d} "
          "knocks it over. ",
+         "{d} is down, {a} is up, and for once the climb is at a human speed. {d} gets there by "
+         "one rung. ",
+         "{a} has a hand near {prize}. The other one is busy with {d}, who is busy with the "
+         "ladder. ",
+         "The ladder leans, {a} leans with it, and {d} only has to watch. Neatly done. ",
+         "{a} sees that {d} is stirring and climbs on. It is a fair gamble. It fails. ",
      }},
     {Spot,
      kTableSetUp,
@@ -270,6 +331,12 @@ constexpr Block kBlocks[] = {
          "{a} aims {d} at the wood and misses by a foot. The tease was well paced. ",
          "{a} props a table in the corner. Everyone has now been told how it may end. {d} has been "
          "told as well, and stays clear. ",
+         "{a} takes {d} to the edge of the apron. The table is below. It stays whole, and so does "
+         "{d}. ",
+         "A table is up and nobody is near it. {a} begins to steer {d} over, by degrees. ",
+         "{d} counters with a foot against the edge of the table. {a} has to start over. The wood "
+         "is patient. ",
+         "{a} and {d} fight beside a table without going through it. There is craft in that. ",
      }},
     {Spot,
      kClothesSpot,
@@ -280,6 +347,12 @@ constexpr Block kBlocks[] = {
          "{a} and {d} roll over and over. There was a headlock in there. I like to mention "
          "headlocks. ",
          "{a} tugs, {d} tugs back. This is a match type, I am assured by the office. ",
+         "{a} gains a ribbon. {d} keeps the rest. The score is open. ",
+         "There is a hold in this, almost a hammerlock, and {a} lets go of it for the sake of a "
+         "cuff of {d}. ",
+         "{d} retreats to the ropes to tie something. {a} unties it. ",
+         "{a} pulls at a hem. I have consulted the rules, and they are a page and a half shorter "
+         "than I feared. ",
      }},
     {Spot,
      kQuitSpot,
@@ -291,6 +364,11 @@ constexpr Block kBlocks[] = {
          "{a} screams at {d} to say it. {d} breathes. It is a good long breath, and well mixed. ",
          "The official asks, {a} leans, {d} shakes {d:his} head. These stand or fall on the "
          "acting. It stands. ",
+         "{d} says no for the fourth time. {a} has run out of questions and not of holds. ",
+         "{a} takes the microphone away and makes {d} wait for the next one. That is clever. ",
+         "{d} opens {d:his} mouth, thinks, and closes it. {a} bends the arm further. The hall is "
+         "quite still. ",
+         "The answer of {d} is not fit to print. {a} resumes. ",
      }},
     {Spot,
      kBloodSpot,
@@ -302,6 +380,12 @@ constexpr Block kBlocks[] = {
          "It suits. ",
          "{a} swings something metal at {d}, who gets a hand to it. The hand smarts. The rules say "
          "that smarting is not bleeding. ",
+         "{a} has gone to the same spot three times. {d} touches it and looks at the hand. It is "
+         "clean. ",
+         "{d} shies from the post. {a} has a second post. ",
+         "The official stops {a}, inspects {d}, and waves them on. One could hear the crowd lean "
+         "back. ",
+         "{a} rakes the brow of {d} across the top rope. It is a matter of time and of skin. ",
      }},
     {Spot,
      kFireSpot,
@@ -312,6 +396,12 @@ constexpr Block kBlocks[] = {
          "{d} hangs over the fire by one arm and drags {a} back with the other. I put my collar "
          "up. ",
          "The flames jump on each bump. {a} makes {d} bump. The rest of us shade our eyes. ",
+         "{a} pins {d} to the ropes by the throat and lets the fire do the talking. ",
+         "{d} drops flat, and {a} almost goes over instead. That would have been a finish. ",
+         "It is hard to wrestle without the corners. {a} and {d} make do with the middle third of "
+         "a ring. ",
+         "{a} steers {d} along the apron, a boot's width from the flames. The footwork is better "
+         "than the idea. ",
      }},
     {Spot,
      kCellSpot,
@@ -322,6 +412,11 @@ constexpr Block kBlocks[] = {
          "{a} goes for the top and {d} follows. I have said what I think about the top. I shall "
          "watch it through a gap. ",
          "{a} rakes {d} across the links. The grip of the tale is all in the steel. ",
+         "{a} finds the door post and introduces {d}. Steel has just the one answer. ",
+         "{d} is thrown from one wall to the other, and {a} takes {a:his} time between. Good. A "
+         "cell is for taking time. ",
+         "{a} picks up the steps, as one does in there. {d} goes down under them. ",
+         "{d} crawls along the wall to find a gap. There is none. {a} follows at a walk. ",
      }},
     {Spot,
      kIncidentSpot,
@@ -332,6 +427,11 @@ constexpr Block kBlocks[] = {
          "wet. ",
          "{a} edges out along a beam after {d}. The match slows to a crawl, by necessity. ",
          "{a} shakes the structure. {d} clings. I have stopped grading and begun worrying. ",
+         "{a} misses with a right hand and has to hug a girder. {d} is too careful to profit by "
+         "it. ",
+         "{d} hangs by the elbows. {a} kneels to look, and that is no kindness. ",
+         "Neither {a} nor {d} is looking down. I do it for them. ",
+         "{a} has {d} over the rail, and back. I do not think that the second part was planned. ",
      }},
     {Spot,
      kWireSpot,
@@ -341,6 +441,12 @@ constexpr Block kBlocks[] = {
          "{d} stops an inch short of the wire. {a} supplies the inch. ",
          "{a} wraps a strand around the boot and steps on {d}. That is inventive. Perhaps too "
          "inventive. ",
+         "{a} holds {d} close to the strands and lets {d:him} think about it. The thinking is the "
+         "best of it. ",
+         "{d} gets loose at the cost of a sleeve. {a} has the sleeve and no use for it. ",
+         "{a} whips, {d} stops, {a} does not. They both come away with marks. ",
+         "A strand has come down. {a} picks it up with two fingers, and {d} backs away. That is "
+         "good sense all round. ",
      }},
     {Spot,
      kDeathSpot,
@@ -352,6 +458,12 @@ constexpr Block kBlocks[] = {
          "hope. ",
          "{a} brings a staple gun to {d}. I recall the days of the headlock, and with some "
          "warmth. ",
+         "{a} breaks a pane over {d}. A man with a broom gets the best hand of the night. ",
+         "{d} is backed on to the tacks in socks. {a} has thought about this, and that is what "
+         "troubles me. ",
+         "{a} takes a saw to something. It was not {d}. I have asked to be told what it was. ",
+         "{a} and {d} stand in the glass and throw fists. It would have been as good without the "
+         "glass. It usually is. ",
      }},
     {Spot,
      kNakedSpot,
@@ -361,6 +473,12 @@ constexpr Block kBlocks[] = {
          "problem. ",
          "{a} gets a sash off {d} in what was very nearly a go-behind. ",
          "{a} and {d} circle, each with a fistful of the other's outfit. I grade on coverage. ",
+         "{a} has a stocking of {d}. I enter one stocking. ",
+         "{d} ties a knot. {a} unties it. There is more counter wrestling in this than one would "
+         "suppose. ",
+         "The referee hands {d} a towel, and {a} counts that as an item. There is an argument, "
+         "with rules. ",
+         "{a} takes a jacket off {d}, folds it, and goes back in. Manners have not died out. ",
      }},
     {Spot,
      kTlcSpot,
@@ -372,6 +490,11 @@ constexpr Block kBlocks[] = {
          "{a} lays {d} on the bridge between ladder and apron, and it holds. Somebody measured. ",
          "Table, ladder, chair, each used once by {a} on {d}. I tick them off. The form has boxes "
          "for it. ",
+         "{a} lays a ladder across two chairs. It holds {d} for a moment and no longer. ",
+         "{d} is under the table when {a} comes through it. Nobody tells me that it was the plan. ",
+         "{a} climbs. {d} climbs. A third thing falls over by itself. It is that kind of match. ",
+         "{a} throws a chair from the ladder and hits {d} on the bounce. I have to give marks for "
+         "that. ",
      }},
     {FinishImpact,
      0,
@@ -380,6 +503,10 @@ constexpr Block kBlocks[] = {
          "The {finisher} by {a} on {d}, just when it was due. ",
          "{a} waits for {d} to turn around, and there is the {finisher}. ",
          "{a} lands the {finisher} on {d}, flush. ",
+         "{a} sets it up, looks at nobody, and hits {d} with the {finisher}. ",
+         "{d} had blocked it twice tonight. {a} gets the {finisher} at the third try. ",
+         "The {finisher}. {a} has beaten better than {d} with that. ",
+         "One mistake by {d}, one {finisher} from {a}. ",
      }},
     {FinishHold,
      0,
@@ -388,6 +515,9 @@ constexpr Block kBlocks[] = {
          "The {finisher} by {a}. It is on deep, and {d} has no way out. ",
          "{a} has the {finisher} on {d} and sinks it a notch deeper each time that {d} moves. ",
          "{d} fights the hands, loses, and {a} has the {finisher} cinched in. ",
+         "{a} moves from one hold into the next, and the next is the {finisher}. {d} saw it too "
+         "late. ",
+         "{a} hooks the second leg, and {d} is in the {finisher}. The rest is arithmetic. ",
      }},
     {FinishTopRope,
      0,
@@ -398,6 +528,8 @@ constexpr Block kBlocks[] = {
          "landing. ",
          "{d} is down in the right spot, {a} is up on the right rope, and the {finisher} does the "
          "rest. ",
+         "{a} has the time to climb and takes it. {d} takes the {finisher}. ",
+         "Down comes {a} with the {finisher}. {d} had no breath left to roll away with. ",
      }},
     {FinishGround,
      0,
@@ -406,6 +538,8 @@ constexpr Block kBlocks[] = {
          "{a} finds {d} flat on the mat and delivers the {finisher}. No shine on it, just weight. ",
          "The {finisher} by {a} on a {d:man} already beaten. Thoroughness is a virtue. ",
          "{a} stands over {d}, nods, and drops the {finisher}. ",
+         "{a} does not let {d} up. The {finisher}, from close in. ",
+         "{d} reaches for a rope. {a} answers with the {finisher}. ",
      }},
     {IronFall,
      0,
@@ -536,6 +670,13 @@ constexpr Block kBlocks[] = {
      {
          "{1} versus {2}, one fall. ",
          "{1} and {2}, a singles match. A fresh page, a sharp pencil. ",
+         "{1} meets {2}. Collar and elbow to start, which is how I like it. ",
+         "One fall, {1} and {2}. I have seen them both better, and both worse. ",
+         "{1} against {2}. The bell rings on time. ",
+         "A singles match for {1} and {2}, with no decoration. Let us see what they have. ",
+         "{2} stands across from {1}. They take a minute to feel each other out, and I approve. ",
+         "{1} and {2}, one on one. I have sharpened the pencil and lowered my hopes to a sensible "
+         "height. ",
      }},
     {Opening,
      Bout(kSingles, kSubmission),
@@ -590,8 +731,8 @@ constexpr Block kBlocks[] = {
      {
          "{1} and {2} in a ladder match, with {prize} on the hook. They will climb very slowly "
          "until they do not. ",
-         "{prize} hangs up there. {1} and {2} are to go and get it. I ask only that the ladder is "
-         "used for a reason. ",
+         "{prize} hang{prize:s} up there. {1} and {2} are to go and get it. I ask only that the "
+         "ladder is used for a reason. ",
      }},
     {Opening,
      Bout(kSingles, kTables),
@@ -669,6 +810,10 @@ constexpr Block kBlocks[] = {
          "{F:members} against {S:members} in tag team action. ",
          "Tag match, {F:members} facing {S:members}. The form is foolproof, which has been "
          "tested. ",
+         "Tag rules, and {F:members} and {S:members} seem to know them. ",
+         "{F:members} meet {S:members}. One of these four will spend ten minutes reaching for a "
+         "hand. ",
+         "It is {F:members} and {S:members}. I shall be watching the corners. ",
      }},
     {Opening,
      Bout(kTag, kTagHardcore),
@@ -689,8 +834,8 @@ constexpr Block kBlocks[] = {
      {
          "A ladder match for teams, {F:members} against {S:members}. One side will take down "
          "{prize}. ",
-         "{prize} hangs above, and {F:members} take on {S:members} for it. Somebody changed this "
-         "form for good once. It has been repeated since. ",
+         "{prize} hang{prize:s} above, and {F:members} take on {S:members} for it. Somebody "
+         "changed this form for good once. It has been repeated since. ",
      }},
     {Opening,
      Bout(kTag, kTagTables),
@@ -834,6 +979,12 @@ constexpr Block kBlocks[] = {
      {
          "{w} gets the duke. ",
          "In the book it goes, under {w}. ",
+         "A win for {w}. I have no quarrel with it. ",
+         "{w} wins, and {l} was not made to look foolish. That is worth a line. ",
+         "So {w} has the match. It ended about when it should have. ",
+         "{w} leaves as the winner, {l} as a name in the other column. ",
+         "That is a point to {w}. The rest is for the archivists, of whom I am one. ",
+         "{w} has it, and the referee had very little to do. Ideal. ",
      }},
     {Closer,
      Bout(kSingles, kSubmission),
@@ -957,6 +1108,9 @@ constexpr Block kBlocks[] = {
      {
          "{W:members} win, and I tick the box. ",
          "The match goes to {W}, with {w} the one who got it done. ",
+         "{W} win{W:s}, and it was the better team that did. ",
+         "That is one for {W:members}. The corner work decided it. ",
+         "{W} {W:has} the win. {L} will want to look at the last two minutes again. ",
      }},
     {Closer,
      Bout(kTag, kTagHardcore),
@@ -976,7 +1130,7 @@ constexpr Block kBlocks[] = {
      {
          "{w} takes down {prize}, and {W} {W:has} the match. There was even a reason for the last "
          "climb. ",
-         "{prize} belongs to {W}. {w} did the climbing. ",
+         "{prize} belong{prize:s} to {W}. {w} did the climbing. ",
      }},
     {Closer,
      Bout(kTag, kTagTables),
@@ -1025,7 +1179,8 @@ constexpr Block kBlocks[] = {
      Bout(kThreeTeams, kThreeTeamsLadder),
      {
          "{w} reaches {prize} first. {W} {W:has} won, and six bodies need an early night. ",
-         "{prize} comes down in the hands of {w}. {W} win{W:s} it, and on effort I dock nobody. ",
+         "{prize} come{prize:s} down in the hands of {w}. {W} win{W:s} it, and on effort I dock "
+         "nobody. ",
      }},
     {Closer,
      Bout(kThreeTeams, kThreeTeamsTlc),

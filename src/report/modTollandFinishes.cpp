@@ -22,6 +22,9 @@ constexpr Block kBlocks[] = {
          "{l} is out on {l:his} feet, and {w} has noticed. ",
          "{w} calls for it, with {l} in no state to object. ",
          "The last exchange goes to {w}, and this is going to be an honest ending. ",
+         "{l} is half a second slow, and {w} does not need the other half. ",
+         "The match has been moving to this. {w} has worn {l} down, and knows it. ",
+         "{w} cuts {l} off for the last time. Nothing lucky about it. ",
      }},
     {SinglesFinish,
      kCountOut,
@@ -128,6 +131,9 @@ constexpr Block kBlocks[] = {
          "match ought to be decided. ",
          "{j} cuts off {k}. That leaves {w} and {l}, and {w} is the fresher by some distance. ",
          "All four for a moment, then the two who count: {w} on top, {l} under. ",
+         "{k} is out on the floor, {l} has nobody to tag, and {w} closes in. ",
+         "{j} takes care of {k}, which is half of any tag finish. {w} turns to {l}. ",
+         "{l} looks to the corner and finds it empty. {w} has seen that as well. ",
      }},
     {TagFinish,
      kCountOut,
@@ -320,15 +326,16 @@ constexpr Block kBlocks[] = {
     {TitleOpening,
      kDefended,
      {
-         "{title} is on the line. {c} defend{c:s}, as a champion should, and as often they do "
-         "not. ",
+         "{title} {title:is} on the line. {c} defend{c:s}, which is what champions are for and "
+         "rarely do. ",
          "{c} put{c:s} {title} at stake. A title match gets a page of its own. ",
-         "At stake is {title}, held by {c}. I expect a slower start and a better finish. ",
+         "At stake {title:is} {title}, held by {c}. I expect a slower start and a better finish. ",
      }},
     {TitleOpening,
      kVacant,
      {
-         "{title} is vacant, and this will fill it. That beats handing it over on a cushion. ",
+         "{title} {title:is} vacant, and this will fill it. That beats handing it over on a "
+         "cushion. ",
          "The winner gets {title}, which nobody holds. An empty title makes for careful "
          "wrestling. ",
          "No champion walks out with {title}, for there is none. One will walk back. ",
@@ -336,7 +343,7 @@ constexpr Block kBlocks[] = {
     {TitleOpening,
      kChampionAway,
      {
-         "{title} is at stake, and whoever holds it is not in the match. I have read the sheet "
+         "{title} {title:is} at stake, and the champion is not in the match. I have read the sheet "
          "three times. ",
          "This is for {title}. The champion is not taking part. There is a rule for that, they "
          "tell me, and they could not find it. ",
@@ -350,6 +357,9 @@ constexpr Block kBlocks[] = {
          "There is an open account between {F} and {S}, with modest interest so far. ",
          "{F} and {S} do not care for each other. It shows, in small ways, and small ways are the "
          "right ones. ",
+         "There is some feeling between {F} and {S}. It is not yet a story, but it has a first "
+         "page. ",
+         "{F} and {S} have met before, and it was not settled. So they lock up a little harder. ",
      }},
     {FeudOpening,
      kBoils,
@@ -360,6 +370,8 @@ constexpr Block kBlocks[] = {
          "do. ",
          "{F} against {S} is why the people came. It has been the best thing in this column for a "
          "while. ",
+         "{F} and {S}. I could fill the page with how it came to this. They fill it with fists. ",
+         "Few things here have been told as well as {F} against {S}. Now they have to pay for it. ",
      }},
     {DebutOpening,
      0,
@@ -372,11 +384,15 @@ constexpr Block kBlocks[] = {
     {ChampionNote,
      0,
      {
-         "{c} holds {title}, though not for tonight's purposes. Non-title, so you may draw your "
-         "own conclusions. ",
-         "{title} belongs to {c} and stays with {c:him}, whatever happens here. ",
-         "The holder of {title} is in this one: {c}. The belt is not. Champions lose such matches "
-         "more often than they should. ",
+         "{c} hold{c:s} {title}, though not for tonight's purposes. Non-title, so you may draw "
+         "your own conclusions. ",
+         "{title} belong{title:s} to {c} and stay{title:s} with {c:him}, whatever happens here. ",
+         "{c} brought {title} along and will take {title:it} home again. Champions lose such "
+         "matches more often than they should. ",
+         "A word for the record: {c} hold{c:s} {title}. Nobody can win {title:it} here. ",
+         "{title} {title:is} not at stake. {c} could lose and lose nothing, which has never helped "
+         "a match. ",
+         "{c} {c:is} announced with {title}, and the fans are right to expect a little more. ",
      }},
     {SinglesAftermath,
      after1::kAttacksReferee,
@@ -737,49 +753,51 @@ constexpr Block kBlocks[] = {
      kRetained,
      {
          "{C} keep{C:s} {title}. Business as usual, and rightly. ",
-         "{title} stays with {C}. A good reign is a matter of nights like this. ",
-         "{C} remain{C:s} the holder of {title}. The line under that reign grows by one. ",
+         "{title} stay{title:s} with {C}. A good reign is a matter of nights like this. ",
+         "{C} still hold{C:s} {title}. The line under that reign grows by one. ",
+         "{title} {title:does} not move. {C} {C:has} another defence in the book. ",
+         "A defence for {C}. {title} will be here next time, and so shall I. ",
      }},
     {TitleEnding,
      kNewChampion,
      {
-         "{C} {C:has} taken {title} from {c}. A title change with a build behind it. I put down "
-         "the date. ",
+         "{C} {C:has} taken {title} from {c}. A change of champion with a build behind it. I put "
+         "down the date. ",
          "New name on {title}: {C}. {c} had a reign, and I will total it up later. ",
-         "{title} changes hands. {C} win{C:s} it, {c} lose{c:s} it, and I had it two months too "
-         "early in my forecast. ",
+         "{title} change{title:s} hands. {C} win{C:s}, {c} lose{c:s}, and my forecast was two "
+         "months out. ",
      }},
     {TitleEnding,
      kVacancyFilled,
      {
-         "{title} is vacant no longer. {C} hold{C:s} it, and won it in a ring. ",
-         "{C} take{C:s} the vacant spot as the holder of {title}. That is one gap in my table "
-         "filled. ",
-         "So {title} goes to {C}. May it be defended. ",
+         "{title} {title:is} vacant no longer. {C} hold{C:s} {title:it} now, won in a ring. ",
+         "{C} take{C:s} the vacant spot with {title}. That is one gap in my table filled. ",
+         "So {title} go{title:es} to {C}. Let us hope for defences. ",
      }},
     {TitleEnding,
      kKeptThoughBeaten,
      {
          "{c} lose{c:s} the match and keep{c:s} {title}. There are rules for that, and they have "
          "made a lot of money over the years. ",
-         "{title} does not change hands on that kind of finish. {C} won nothing but the match. ",
-         "{C} win{C:s}, yet {title} stays with {c}. I have known since I was seven how that works, "
-         "and it still irks. ",
+         "{title} {title:does} not change hands on that kind of finish. {C} won nothing but the "
+         "match. ",
+         "{C} win{C:s}, yet {title} stay{title:s} with {c}. I have known since I was seven how "
+         "that works, and it still irks. ",
      }},
     {TitleEnding,
      kKeptByDraw,
      {
          "{c} keep{c:s} {title} with a draw. Nobody beat the champion, nobody was beaten. ",
-         "No winner, no change. {title} stays with {c}. ",
-         "A draw favours the holder, so {title} goes home with {c}. I make no comment. ",
+         "No winner, no change. {title} stay{title:s} with {c}. ",
+         "A draw favours the holder, so {title} go{title:es} home with {c}. I make no comment. ",
      }},
     {TitleEnding,
      kWonInAbsence,
      {
-         "{C} {C:is} the new holder of {title}, off a champion who was not in it. I have stopped "
+         "{C} now hold{C:s} {title}, off a champion who was not in the match. I have stopped "
          "asking. ",
-         "{title} goes to {C}. The old champion will hear it from somebody. It would be a courtesy "
-         "to ring. ",
+         "{title} go{title:es} to {C}. The old champion will hear it from somebody. It would be a "
+         "courtesy to ring. ",
          "With the champion elsewhere {C} win{C:s} {title}. It counts. I looked into it. ",
      }},
     {FeudEnding,
@@ -788,6 +806,9 @@ constexpr Block kBlocks[] = {
          "It is not the last of {F} and {S}, and I am in no hurry. ",
          "{F} and {S} have more left. Do not rush it, please. ",
          "There is a next chapter in {F} and {S}. For once I want to read it. ",
+         "{F} and {S} are not done, and the crowd would not have it otherwise. ",
+         "It stays open between {F} and {S}. I leave a gap on the page. ",
+         "{F} and {S} leave something for another night. Restraint is a skill. ",
      }},
     {FeudEnding,
      kFeudIsOver,
@@ -802,6 +823,8 @@ constexpr Block kBlocks[] = {
          "{F} and {S} were asked for a match and delivered one. ",
          "{F} and {S} wrestled, without a story to lean on. I could do with one a week. ",
          "Take away everything around it, and {F} and {S} would still have had that. ",
+         "No angle, no fuss, a match. {F} and {S} may do that on every card I see. ",
+         "{F} and {S} were given time and used it. It is rarer than it sounds. ",
      }},
     {PurposeEnding,
      kPutOverTold,
@@ -810,6 +833,9 @@ constexpr Block kBlocks[] = {
          "All of it was there to make {t}, and {t} was made. Some are asked to build and some to "
          "be built. ",
          "I had not given {t} much of a page. I have now turned to a bigger one. ",
+         "If the point was to lift {t}, then the point was made, and not laboured. ",
+         "{t} will be taken more seriously from here on. I have started. ",
+         "The fans left their seats for {t}. I note that for the next time. ",
      }},
     {PurposeEnding,
      kBothOverTold,
@@ -859,9 +885,10 @@ constexpr Block kBlocks[] = {
     {Turn,
      kBaffling,
      {
-         "I cannot tell you what {t} meant by that, and I suspect that nobody can. ",
-         "{t} turned, or did not. The crowd was told nothing, nor was I. ",
-         "If {t} had a reason it stayed backstage. One red mark. ",
+         "It was plain enough what {t} did, and not at all why. The crowd could only frown. ",
+         "A turn wants a reason and some weeks of warning. {t} had neither to offer, and it died "
+         "in the front row. ",
+         "The crowd had no idea what to make of {t}, and made nothing of it. One red mark. ",
      }},
 };
 

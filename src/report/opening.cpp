@@ -49,14 +49,23 @@ void TellStake(Teller& teller) {
   }
 }
 
+/// Both halves of a tag champion have to be there, side by side.
+bool IsHeldBy(const Title& title, const Segment& segment, int uid) {
+  if (title.Holder != uid) return false;
+  return title.Singles || (title.Partner != 0 && title.Partner != uid &&
+                           SideOf(segment, title.Partner) == SideOf(segment, uid));
+}
+
 /// A champion in a match without a Title at stake: the first one found, by the match's places.
 void TellChampion(Teller& teller) {
   for (const int uid : PeopleOf(teller.segment))
     for (const Title& title : teller.world.Titles()) {
-      if (title.Holder != uid || !title.Singles || title.Suspended ||
+      if (!IsHeldBy(title, teller.segment, uid) || title.Suspended ||
           title.Owner != teller.world.PlayerUid())
         continue;
-      teller.cast.Set('c', teller.cast.Find(teller.world, uid));
+      teller.cast.Set('c', teller.world,
+                      {uid, title.Singles ? 0 : static_cast<int>(title.Partner)});
+      if (teller.cast.Of('c').Empty()) continue;
       teller.cast.Set(Item::Title, TitleInProse(title.Name, title.Singles));
       teller.Say(Family::ChampionNote);
       teller.cast.Set(Item::Title, {});
@@ -64,13 +73,40 @@ void TellChampion(Teller& teller) {
     }
 }
 
+/// The sides as parties; everybody is a side of his own where all fight all.
+std::vector<Party> Parties(Teller& teller) {
+  std::vector<Party> parties;
+  for (const auto& side : SidesOf(teller.segment)) {
+    Cast& cast = teller.cast;
+    const Party kept = cast.Of('e');
+    cast.Set('e', teller.world, side);
+    if (!cast.Of('e').Empty()) parties.push_back(cast.Of('e'));
+    cast.Of('e') = kept;
+  }
+  return parties;
+}
+
 }  // namespace
 
-const Feud* FeudTold(const Teller& teller) {
-  const Party &one = teller.cast.Of('F'), &two = teller.cast.Of('S');
-  for (const Feud& feud : teller.world.Feuds())
-    if (feud.Worker1 != 0 && SetsApart(feud, one, two)) return &feud;
-  return nullptr;
+FeudOfSides FeudTold(Teller& teller) {
+  const auto parties = Parties(teller);
+  for (const Feud& feud : teller.world.Feuds()) {
+    if (feud.Worker1 == 0) continue;
+    for (std::size_t one = 0; one < parties.size(); ++one)
+      for (std::size_t two = one + 1; two < parties.size(); ++two)
+        if (SetsApart(feud, parties[one], parties[two])) return {&feud, parties[one], parties[two]};
+  }
+  return {};
+}
+
+void SayFeud(Teller& teller, const FeudOfSides& feud, Family family, int band) {
+  Cast& cast = teller.cast;
+  const Party first = cast.Of('F'), second = cast.Of('S');
+  cast.Of('F') = feud.One;
+  cast.Of('S') = feud.Two;
+  teller.Say(family, band);
+  cast.Of('F') = first;
+  cast.Of('S') = second;
 }
 
 void TellOpening(Teller& teller) {
@@ -81,9 +117,9 @@ void TellOpening(Teller& teller) {
     TellStake(teller);
   else
     TellChampion(teller);
-  if (FindMatchStyle(segment.Style)->Sides == 2)
-    if (const Feud* feud = FeudTold(teller))
-      teller.Say(Family::FeudOpening, feud->Heat >= kBoilingHeat ? kBoils : kSimmers);
+  if (const FeudOfSides feud = FeudTold(teller); feud.Between)
+    SayFeud(teller, feud, Family::FeudOpening,
+            feud.Between->Heat >= kBoilingHeat ? kBoils : kSimmers);
   const PurposePart* purpose = PurposeOf(segment);
   if (!purpose || purpose->Does != Purpose::Debuts || IsRunIn(*purpose)) return;
   TurnOf(teller, purpose->Part);

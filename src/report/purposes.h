@@ -28,7 +28,14 @@ const PurposePart* PurposeOf(const Segment& segment);
 /// It is about somebody who only comes in later.
 bool IsRunIn(const PurposePart& purpose);
 
-/// The feud between the two sides of the Segment; nullptr for none.
-const Feud* FeudTold(const Teller& teller);
+/// A feud and the two sides of the Segment that it sets against each other.
+struct FeudOfSides {
+  const Feud* Between = nullptr;  // nullptr for none
+  Party One, Two;
+};
+/// The first feud between any two of the Segment's sides.
+FeudOfSides FeudTold(Teller& teller);
+/// Says a line of the feud, with {F} and {S} for its two sides.
+void SayFeud(Teller& teller, const FeudOfSides& feud, Family family, int band);
 
 }  // namespace grapplemont

@@ -67,6 +67,7 @@ class Filler {
   }
 
   bool IsThere(const Hole& hole) const {
+    if (hole.Is == Hole::ThingWord) return !cast_.Thing(static_cast<Item>(hole.Of)).empty();
     return hole.Part != 0 ? !cast_.Of(hole.Part).Empty()
                           : !cast_.Thing(static_cast<Item>(hole.Number)).empty();
   }
@@ -79,11 +80,13 @@ class Filler {
     const std::size_t at = out_.size();
     if (hole.Is == Hole::Thing)
       out_ += cast_.Thing(static_cast<Item>(hole.Number));
+    else if (hole.Is == Hole::ThingWord)
+      out_ += WordOfThing(cast_.Thing(static_cast<Item>(hole.Of)), hole.Number);
     else if (hole.Is == Hole::Word)
       out_ += cast_.WordOf(hole.Part, hole.Number);
     else
       out_ += cast_.NameOf(hole.Part, hole.Is);
-    lastWasName_ = hole.Is != Hole::Word && hole.Is != Hole::Thing;
+    lastWasName_ = hole.Is != Hole::Word && hole.Is != Hole::Thing && hole.Is != Hole::ThingWord;
     if (BeginsSentence(at) && at < out_.size() && out_[at] >= 'a' && out_[at] <= 'z')
       out_[at] = static_cast<char>(out_[at] - 32);
   }

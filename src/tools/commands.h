@@ -21,7 +21,7 @@ struct Command {
 // Worlds as tables and as files.
 extern const Command kBuild, kExport, kCheck;
 // Games without a window.
-extern const Command kNew, kRun;
+extern const Command kNew, kRun, kTell;
 // Pages of docs/.
 extern const Command kFormats, kColumns, kBalance;
 
