@@ -1,11 +1,8 @@
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-
+#include "bench/walks.h"
 #include "bench/worlds.h"
 #include "calendar/advanceday.h"
-#include "records/dates.h"
-#include "records/disk.h"
 #include "records/world.h"
 #include "ui/waiting.h"
 
@@ -47,47 +44,11 @@ void BM_Day(benchmark::State& state) {
   Describe(state);
 }
 
-int WalksOf(int morning) {
-  const auto count = [](auto steps) { return static_cast<int>(steps.size()); };
-  int walks = 2 + count(DailySteps()) + count(ClosingSteps());
-  if (morning == kMonday) walks += count(MondaySteps());
-  if (morning == kFirst) walks += count(FirstOfMonthSteps()) + count(SecondFirstOfMonthSteps());
-  return walks;
-}
-
-/// One walk as a routine without tables makes it: open, read and write back each record in the
-/// file, close.
-template <class T>
-void WalkFile(Disk& disk, const std::string& path) {
-  const auto file = disk.Open(path, false);
-  const auto count = disk.Size(file) / static_cast<std::int64_t>(sizeof(T));
-  T record;
-  for (std::int64_t i = 0; i < count; ++i) {
-    const auto at = i * static_cast<std::int64_t>(sizeof(T));
-    disk.ReadAt(file, at, std::as_writable_bytes(std::span(&record, 1)));
-    benchmark::DoNotOptimize(record);
-    disk.WriteAt(file, at, std::as_bytes(std::span(&record, 1)));
-  }
-  disk.Close(file);
-}
-
 void BM_DayBaseline(benchmark::State& state) {
-  const World world =
-      bench::StartedWorld(state.range(1) != 0, Evening(static_cast<int>(state.range(0))));
-  const auto disk = RealDisk();
-  const std::string folder =
-      (std::filesystem::temp_directory_path() / "grapplemont-bench").string();
-  RemoveTree(*disk, folder);
-  disk->MakeFolder(folder);
-  for (const NewFile& file : FilesOf(world))
-    WriteFile(*disk, folder + "/" + file.Name, file.Contents);
-  const int walks = WalksOf(static_cast<int>(state.range(0)));
-  for (auto _ : state)
-    for (int walk = 0; walk < walks; ++walk) {
-      WalkFile<Promotion>(*disk, folder + "/promos.dat");
-      WalkFile<Worker>(*disk, folder + "/wrestler.dat");
-    }
-  RemoveTree(*disk, folder);
+  const Day evening = Evening(static_cast<int>(state.range(0)));
+  const bench::WorldInFiles files(bench::StartedWorld(state.range(1) != 0, evening));
+  const int walks = bench::WalksOn(evening + std::chrono::days{1});
+  for (auto _ : state) files.Walk(walks);
   Describe(state);
 }
 

@@ -2,16 +2,15 @@
 
 #include "records/world.h"
 
-// The day's own steps: what shows leave behind, what days do to people, the month's books. Those
-// not built yet leave the world as it is.
+// The day's own steps: what shows leave behind, what days do to people, the month's books.
 
 namespace grapplemont {
 
-// What the day that ends leaves behind; not built yet.
+// What the day that ends leaves behind.
 void PlayerShowConsequences(World& world, bool cancelled);
 void RivalShows(World& world);
 
-// Daily; not built yet.
+// Daily.
 void DailyWorkerUpkeep(World& world);
 void IncidentRoll(World& world);
 
@@ -21,7 +20,7 @@ void WriterWorkload(World& world);
 /// Moves GameInfo.Economy. Draws once while it is from 20 to 80.
 void EconomyDrift(World& world);
 
-// The first of a month; not built yet.
+// The first of a month. The four that change lives leave the world as it is.
 void PoorFormMorale(World& world);
 void DevelopmentMonth(World& world);
 void TrainingCampMonth(World& world);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "business/sponsorlimits.h"
 #include "calendar/daykind.h"
 #include "calendar/daysteps.h"
 #include "calendar/events.h"
@@ -120,7 +121,7 @@ void PayTvSponsors(World& world, Promotion& promotion) {
   for (const Sponsor& sponsor : world.Sponsors()) {
     if (sponsor.Promotion != promotion.Uid) continue;
     const bool isMain = promotion.Sponsor[0] == sponsor.Uid;
-    Receive(promotion, isMain ? sponsor.Pay / 4 : sponsor.Pay / 10);
+    Receive(promotion, SponsorPayForTv(sponsor, isMain));
   }
 }
 

@@ -48,16 +48,14 @@ bool WalksOut(World& world, Worker& worker) {
   return true;
 }
 
-/// With no morale left, a written contract is sat out and any other is broken. True when he has
-/// left.
-bool HasHadEnough(World& world, Worker& worker) {
-  if (worker.Morale > 0 || !MayRebel(worker) || worker.Behaviour >= 75) return false;
+/// With no morale left, a written contract is sat out and any other is broken.
+void HaveHadEnough(World& world, Worker& worker) {
+  if (worker.Morale > 0 || !MayRebel(worker) || worker.Behaviour >= 75) return;
   worker.Loyalty = 0;
   worker.Status = "Hom";
   const bool isBound = worker.ContractType == "Wri";
   Say(world, worker, isBound ? kSitsOut : kLeaves);
   if (!isBound) ReleaseWorker(world, worker);
-  return !isBound;
 }
 
 /// Kept away from the main roster the young bloom and the grown fret; at 26 and from 35 on nothing
@@ -72,8 +70,9 @@ void FeelAway(World& world, Worker& worker) {
   }
 }
 
+/// Whoever leaves has been in the promotion's care this morning and still recovers by it.
 void UpkeepOfPlayers(World& world, Worker& worker, bool adequateMedics) {
-  if (WalksOut(world, worker) || HasHadEnough(world, worker)) return;
+  if (!WalksOut(world, worker)) HaveHadEnough(world, worker);
   worker.Condition += world.RandomDraw(adequateMedics ? 5 : 2);
   FeelAway(world, worker);
 }

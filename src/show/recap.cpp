@@ -17,16 +17,6 @@ std::string Rated(const RecapLine& line) {
   return line.What + ", " + std::to_string(line.Rating) + "%";
 }
 
-/// The line of the sheet; what was still to come there has been won here.
-std::string Told(const World& world, const Segment& segment) {
-  std::string text = DescribeSegment(world, segment);
-  if (segment.Kind != kMatch) return text;
-  for (const std::string_view coming : {" win a ", " wins a "})
-    if (const auto at = text.find(coming); at != std::string::npos)
-      text.replace(at, coming.size(), " won a ");
-  return text;
-}
-
 bool WasTold(const World& world, const Segment& segment) {
   return segment.Kind != kEmptySegment && !IsPassedOver(world, segment);
 }
@@ -58,6 +48,21 @@ std::vector<ScoreStep> SumOf(const ShowRun& run, const ShowRecap& recap) {
   return sum;
 }
 
+/// What the sheet announced as a win has been won.
+std::string WonWhat(const Segment& segment) {
+  if (segment.Kind != kMatch) return {};
+  if (segment.Style == kThreeTeams) return "triangle tag match";
+  if (segment.Style == kFourTeams) return "four-way tag match";
+  return segment.Style == kSpecial ? std::string(MatchTypeText(kSpecial, segment.MatchType))
+                                   : std::string();
+}
+
+std::string ResultText(const World& world, const Segment& segment) {
+  const std::string won = WonWhat(segment);
+  if (won.empty()) return DescribeSegment(world, segment);
+  return SideText(world, WinnersOf(segment)) + " won a " + won;
+}
+
 }  // namespace
 
 RatingsSoFar RatingsOfShow(const World& world) {
@@ -78,7 +83,7 @@ ShowRecap RecapOf(const World& world) {
   recap.Rating = run.ShowSum;
   for (int number = 1; number <= std::min(RowsOf(run.IsEvent), world.Segments().Count()); ++number)
     if (const Segment& segment = world.Segments()[number]; WasTold(world, segment))
-      recap.Lines.push_back({number, Told(world, segment), segment.Rating});
+      recap.Lines.push_back({number, ResultText(world, segment), segment.Rating});
   const auto byRating = [](const RecapLine& a, const RecapLine& b) { return a.Rating < b.Rating; };
   if (const auto [worst, best] =
           std::minmax_element(recap.Lines.begin(), recap.Lines.end(), byRating);

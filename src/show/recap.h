@@ -19,7 +19,7 @@ RatingsSoFar RatingsOfShow(const World& world);
 
 struct RecapLine {
   int Number = 0;    // the row of the sheet
-  std::string What;  // the one line of a sheet
+  std::string What;  // the one line of a sheet, told as a result
   int Rating = 0;
 };
 struct ShowRecap {

@@ -1,0 +1,218 @@
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "calendar/daysteps.h"
+#include "calendar/incidents.h"
+#include "support/scripteddraws.h"
+#include "support/smallworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+using std::chrono::year;
+
+/// Day 61 of a game: the first on which an offer can come.
+constexpr Day kLater{year{2026} / 5 / 1};
+
+/// 1 for every draw but those that are told otherwise by their size; notes of how many.
+class DrawsBySize : public Draws {
+ public:
+  DrawsBySize(std::vector<int>& asked, std::map<int, int> answers)
+      : asked_(asked), answers_(std::move(answers)) {}
+  int Draw(int n) override {
+    asked_.push_back(n);
+    const auto answer = answers_.find(n);
+    return answer == answers_.end() ? 1 : answer->second;
+  }
+
+ private:
+  std::vector<int>& asked_;
+  std::map<int, int> answers_;
+};
+
+std::vector<int> Asked(World& world, const std::map<int, int>& answers = {}) {
+  std::vector<int> asked;
+  world.SetChance(std::make_unique<DrawsBySize>(asked, answers));
+  IncidentRoll(world);
+  world.SetChance(std::make_unique<SeededDraws>(1));
+  return asked;
+}
+
+std::vector<std::pair<int, int>> Booked(const World& world) {
+  std::vector<std::pair<int, int>> booked;
+  for (const Incident& incident : world.Incidents())
+    if (incident.Type != 0) booked.emplace_back(incident.Type, incident.Uid);
+  return booked;
+}
+
+SmallWorld WithAgents(int agents) {
+  SmallWorld small;
+  small.Promotion("CWA");
+  for (int i = 0; i < agents; ++i) small.Staff("Agent " + std::to_string(i), kRoadAgent);
+  return small;
+}
+
+World Lone(int behaviour, int condition, int agents = 1) {
+  return WithAgents(agents)
+      .Worker("Bram Okafor",
+              [&](Worker& worker) {
+                worker.Behaviour = behaviour;
+                worker.Condition = condition;
+              })
+      .Game("CWA", kLater);
+}
+
+TEST(IncidentRoll, RollsByConditionAndBehaviour) {
+  struct Case {
+    int Behaviour;
+    std::vector<int> Odds;
+  };
+  const Case kCases[] = {{100, {}},
+                         {90, {}},
+                         {89, {10000, 9000, 8000, 8000}},
+                         {70, {10000, 9000, 8000, 8000}},
+                         {69, {6000, 6500, 4000, 5000}},
+                         {50, {6000, 6500, 4000, 5000}},
+                         {49, {4000, 4200, 1000, 1200}},
+                         {30, {4000, 4200, 1000, 1200}},
+                         {29, {2500, 2800, 500, 800}},
+                         {10, {2500, 2800, 500, 800}},
+                         {9, {1200, 1400, 100, 200}},
+                         {0, {1200, 1400, 100, 200}}};
+  constexpr int kOff[] = {200, 150, 30, 20};
+  for (const Case& c : kCases)
+    for (const bool isShort : {false, true}) {
+      World world = Lone(c.Behaviour, 100, isShort ? 0 : 1);
+      std::vector<int> expected{180, 2500};
+      for (std::size_t i = 0; i < c.Odds.size(); ++i)
+        expected.push_back(c.Odds[i] - (isShort ? kOff[i] : 0));
+      EXPECT_EQ(Asked(world), expected) << c.Behaviour << isShort;
+      EXPECT_TRUE(Booked(world).empty());
+    }
+  constexpr int kInjuries[][2] = {{0, 800},   {39, 800},  {40, 1200}, {59, 1200},
+                                  {60, 1800}, {89, 1800}, {90, 2500}, {100, 2500}};
+  for (const auto& [condition, odds] : kInjuries) {
+    World world = Lone(95, condition);
+    EXPECT_EQ(Asked(world), (std::vector<int>{180, odds})) << condition;
+  }
+}
+
+TEST(IncidentRoll, BooksTheFirstThatHits) {
+  struct Case {
+    std::map<int, int> Answers;
+    int Type;  // 0 none
+  };
+  const Case kCases[] = {
+      {{{2500, 100}}, kInjury},
+      {{{2500, 99}}, 0},
+      {{{2500, 101}}, 0},
+      {{{6000, 200}}, kRehab},
+      {{{6500, 400}}, kPolice},
+      {{{4000, 3}}, kLate},
+      {{{5000, 25}}, kFight},
+      {{{5000, 26}}, 0},
+      {{{2500, 100}, {6000, 200}, {5000, 25}}, kInjury},
+      {{{6000, 200}, {6500, 400}, {4000, 3}}, kRehab},
+      {{{6500, 400}, {4000, 3}, {5000, 25}}, kPolice},
+      {{{4000, 3}, {5000, 25}}, kLate},
+  };
+  for (const Case& c : kCases) {
+    World world = Lone(60, 100);
+    Asked(world, c.Answers);
+    std::vector<std::pair<int, int>> expected;
+    if (c.Type != 0) expected.emplace_back(c.Type, world.Workers()[1].Uid);
+    EXPECT_EQ(Booked(world), expected);
+    EXPECT_EQ(world.Incidents().Count(), 10);
+  }
+}
+
+TEST(IncidentRoll, FindsTheAgentsShortByTheRoster) {
+  // Wrestlers, and the road agents that are enough for them.
+  constexpr int kNeeded[][2] = {{1, 1},  {25, 1}, {26, 2}, {40, 2}, {41, 3},
+                                {60, 3}, {61, 4}, {80, 4}, {81, 5}, {95, 5}};
+  for (const auto& [wrestlers, agents] : kNeeded)
+    for (const bool isShort : {false, true}) {
+      World world = WithAgents(agents - (isShort ? 1 : 0))
+                        .Crew(wrestlers)
+                        .Worker("In Development", kDevelopmentDeal, 40)
+                        .Worker("A Manager", kManager, 40)
+                        .Promotion("NEW")
+                        .Staff("Rival Agent", kRoadAgent)
+                        .Crew(3)
+                        .Game("CWA", kLater);
+      const std::vector<int> asked = Asked(world);
+      EXPECT_EQ(asked.at(2), isShort ? 9800 : 10000) << wrestlers << " with " << agents;
+    }
+}
+
+TEST(IncidentRoll, LooksOnlyAtWhoIsAround) {
+  const Change<Worker> kAbsent[] = {
+      [](Worker& w) { w.Position = kDevelopmentDeal; },
+      [](Worker& w) { w.Position = kTrainingCamp; }, [](Worker& w) { w.Position = 81; },
+      [](Worker& w) { w.Status = "Hom"; }, [](Worker& w) { w.Employer = 0, w.ContractMonths = 0; }};
+  for (const Change<Worker>& absent : kAbsent) {
+    World world = Lone(5, 100);
+    absent(world.Workers()[1]);
+    EXPECT_EQ(Asked(world), std::vector<int>{180});
+  }
+  for (const int position : {kManager, kNonWrestler, kJobber}) {
+    World world = Lone(95, 100);
+    world.Workers()[1].Position = position;
+    EXPECT_EQ(Asked(world), (std::vector<int>{180, 2500}));
+  }
+}
+
+TEST(IncidentRoll, KeepsTenADay) {
+  World world = WithAgents(1).Crew(12).Game("CWA", kLater);
+  world.Incidents().Append({});  // yesterday's list
+  world.Incidents()[1].Type = kFight;
+  world.Incidents()[1].Uid = 12;
+  Asked(world, {{2500, 100}});
+  const auto booked = Booked(world);
+  ASSERT_EQ(booked.size(), 10u);
+  for (int i = 0; i < 10; ++i)
+    EXPECT_EQ(booked[static_cast<std::size_t>(i)],
+              std::pair(int(kInjury), int(world.Workers()[i + 1].Uid)));
+  Asked(world);
+  EXPECT_TRUE(Booked(world).empty()) << "a new day has a new list";
+  EXPECT_EQ(world.Incidents().Count(), 10);
+}
+
+TEST(IncidentRoll, BringsNoOfferInTheFirstSixtyDays) {
+  for (const auto& [day, offers] : {std::pair(Day(year{2026} / 3 / 1), false),
+                                    {Day(year{2026} / 4 / 30), false},
+                                    {kLater, true}}) {
+    World world = WithAgents(1).Crew(1).Promotion("NEW", kRegional).Game("CWA", day);
+    const std::vector<int> asked = Asked(world, {{180, 5}, {2, 2}});
+    EXPECT_EQ(asked.size(), offers ? 2u : 6u);
+    const auto booked = Booked(world);
+    ASSERT_EQ(booked.size(), offers ? 1u : 0u);
+    if (offers) {
+      EXPECT_EQ(booked[0], std::pair(int(kJobOffer), int(Named(world.Promotions(), "NEW").Uid)));
+    }
+  }
+}
+
+TEST(IncidentRoll, OffersOnlyWhatIsNotTooFarAbove) {
+  struct Case {
+    int Own, Size;
+    bool Offers;
+  };
+  constexpr Case kCases[] = {{kRegional, kNational, true}, {kRegional, kGlobal, false},
+                             {kCult, kGlobal, true},       {kBackyard, kCult, false},
+                             {kBackyard, kRegional, true}, {kGlobal, kBackyard, true}};
+  for (const Case& c : kCases) {
+    World world = SmallWorld().Promotion("CWA", c.Own).Promotion("NEW", c.Size).Game("CWA", kLater);
+    ScriptDraws(world, {{180, 5}, {2, 2}});
+    IncidentRoll(world);
+    EXPECT_EQ(Booked(world).size(), c.Offers ? 1u : 0u) << c.Own << " from " << c.Size;
+  }
+  World own = SmallWorld().Promotion("CWA").Promotion("NEW").Game("CWA", kLater);
+  ScriptDraws(own, {{180, 5}, {2, 1}});
+  IncidentRoll(own);
+  EXPECT_TRUE(Booked(own).empty());
+}
+
+}  // namespace
+}  // namespace grapplemont::test

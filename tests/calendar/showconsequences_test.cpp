@@ -1,0 +1,190 @@
+#include "calendar/showconsequences.h"
+
+#include <gtest/gtest.h>
+
+#include "calendar/daysteps.h"
+#include "support/newsof.h"
+#include "support/scripteddraws.h"
+#include "support/smallworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+using std::chrono::year;
+
+constexpr Day kLastSunday{year{2026} / 3 / 29};
+constexpr Day kFriday{year{2026} / 3 / 6};
+constexpr Day kTuesday{year{2026} / 3 / 3};
+
+SmallWorld Company(int size = kCult) {
+  SmallWorld small;
+  small.Network("Nine").Promotion("CWA", size).Crew(6).Show("Friday Fire", "Friday", "Nine");
+  small.Show("Sunday Slam", "Sunday", "Nine");
+  small.Sponsor("Gulp", [](Sponsor& s) { s.Pay = 105; });
+  small.Sponsor("Crunch", [](Sponsor& s) { s.Pay = 95; });
+  return small;
+}
+
+TEST(PlayerShowConsequences, PayAndTellOfAnEvent) {
+  World world = Company().Event(3, 2, "Marchmania").Game("CWA", kLastSunday);
+  world.Session.ShowRating = 65;
+  ScriptDraws(world, {{100, 50}});
+  PlayerShowConsequences(world, false);
+  const Promotion& player = world.Player();
+  EXPECT_EQ(player.Image, 52);
+  EXPECT_EQ(player.ThisMonth.SponsorIncome, 200000);
+  EXPECT_EQ(player.ThisMonth.TicketIncome, 2250 * 30);
+  EXPECT_EQ(player.ThisMonth.ProductionCost, 200000);
+  EXPECT_EQ(player.Money, 5000000 + 200000 + 2250 * 30 - 200000);
+  EXPECT_EQ(NewsOf(world),
+            "Show report: Marchmania was attended by 2250 people!\n"
+            "We made $67500 from ticket sales.\n");
+  EXPECT_EQ(world.Events()[1].Type, 3) << "the image sets the next ones; this one was a large one";
+}
+
+TEST(PlayerShowConsequences, PayAndTellOfTelevision) {
+  World world = Company().Event(3, 2).Game("CWA", kFriday);
+  world.Session.ShowRating = 65;
+  ScriptDraws(world, {{10, 5}, {20, 12}});
+  PlayerShowConsequences(world, false);
+  const Promotion& player = world.Player();
+  EXPECT_EQ(player.Image, 51);
+  EXPECT_EQ(player.ThisMonth.SponsorIncome, 26000 + 9000) << "a quarter and a tenth";
+  EXPECT_EQ(player.ThisMonth.TicketIncome, 412 * 30);
+  EXPECT_EQ(player.Money, 5000000 + 35000 + 412 * 30);
+  EXPECT_EQ(NewsOf(world),
+            "Nine: The ratings for Friday Fire need to improve.\n"
+            "Television report: We got a 2.25 rating for 'Friday Fire'!\n"
+            "The attendance level was 412 people.\nWe made $12360 from ticket sales.\n");
+}
+
+TEST(PlayerShowConsequences, AreNoneOnAPlainDay) {
+  World world = Company().Event(3, 2).Game("CWA", kTuesday);
+  world.Session.ShowRating = 95;
+  const World before = CopyOf(world);
+  ScriptDraws(world, {});
+  PlayerShowConsequences(world, false);
+  ExpectSame(world, before);
+}
+
+TEST(PlayerShowConsequences, CostImageWhenNoEventIsHeld) {
+  World world = Company().Event(4).Game("CWA", kLastSunday);
+  world.Session.ShowRating = 95;
+  ScriptDraws(world, {});
+  PlayerShowConsequences(world, false);
+  EXPECT_EQ(world.Player().Image, 40);
+  EXPECT_EQ(world.Player().Money, 5000000) << "Sunday Slam does not happen either";
+  EXPECT_EQ(NewsOf(world), "");
+}
+
+TEST(PlayerShowConsequences, CostMoneyAndImageWhenAnEventIsCalledOff) {
+  constexpr int kCharges[] = {2000000, 1000000, 100000, 5000};
+  for (int type = 1; type <= 4; ++type) {
+    World world = Company().Event(3, type).Game("CWA", kLastSunday, [](GameInfo& game) {
+      game.Difficulty = kRockHard;
+      game.Reputation = 0;
+    });
+    world.Session.ShowRating = 95;
+    ScriptDraws(world, {});
+    PlayerShowConsequences(world, true);
+    EXPECT_EQ(world.Player().Image, 35) << type;
+    EXPECT_EQ(world.Player().Money, 5000000 - kCharges[type - 1]) << type;
+    for (const Long& book :
+         {world.Player().ThisMonth.SponsorIncome, world.Player().ThisMonth.ProductionCost})
+      EXPECT_EQ(book, 0) << "outside the books";
+  }
+}
+
+TEST(PlayerShowConsequences, CostImageAndAStrikeWhenTelevisionIsCalledOff) {
+  World world = Company().Game("CWA", kFriday);
+  world.Player().Risk = 90;
+  ScriptDraws(world, {});
+  PlayerShowConsequences(world, true);
+  EXPECT_EQ(world.Player().Image, 35);
+  EXPECT_EQ(world.Player().Money, 5000000);
+  EXPECT_EQ(Named(world.Shows(), "Friday Fire").Rating4, 1);
+  EXPECT_EQ(Named(world.Shows(), "Sunday Slam").Rating4, 0);
+  EXPECT_EQ(NewsOf(world), "");
+}
+
+TEST(PlayerShowConsequences, FollowDifficultyAndReputation) {
+  struct Case {
+    int Difficulty, Reputation, Event, Tv;
+  };
+  constexpr Case kCases[] = {{kEasy, 80, 51, 51},     {kMedium, 80, 50, 50}, {kHard, 80, 48, 49},
+                             {kRockHard, 80, 47, 48}, {kMedium, 25, 50, 50}, {kMedium, 24, 49, 49},
+                             {kMedium, 1, 49, 49},    {kMedium, 0, 48, 49},  {kRockHard, 0, 45, 47},
+                             {kEasy, 0, 49, 50}};
+  for (const Case& c : kCases)
+    for (const bool isEvent : {true, false}) {
+      World world = Company(kRegional).Event(3, 3).Game("CWA", isEvent ? kLastSunday : kFriday,
+                                                        [&](GameInfo& game) {
+                                                          game.Difficulty = c.Difficulty;
+                                                          game.Reputation = c.Reputation;
+                                                        });
+      world.Session.ShowRating = 45;  // of itself it changes nothing at this size
+      PlayerShowConsequences(world, false);
+      EXPECT_EQ(world.Player().Image, isEvent ? c.Event : c.Tv) << c.Difficulty << c.Reputation;
+    }
+}
+
+TEST(PlayerShowConsequences, ReadTheRatingAtTheSizeTheShowLeft) {
+  // At the edge of a class, reputation drops the promotion before the show is judged: a Regional
+  // show of 95 then is worth 10.
+  World world =
+      Company().Event(3, 2).Game("CWA", kLastSunday, [](GameInfo& game) { game.Reputation = 10; });
+  world.Player().Image = 1;
+  world.Session.ShowRating = 95;
+  PlayerShowConsequences(world, false);
+  EXPECT_EQ(world.Player().Size, kCult) << "90 and 10 are 100: back up at once";
+  EXPECT_EQ(world.Player().Image, 10);
+}
+
+struct ComplaintCase {
+  const char* Slot;
+  int Risk, Production, Strikes;
+  const char* News;
+};
+constexpr const char* kRisky =
+    "TV News: Nine are not happy with the risky nature of our last show. They are asking us to "
+    "tone "
+    "it down.\n";
+constexpr const char* kPoor =
+    "Nine: We are not happy with the production quality of Friday Fire, please improve your "
+    "productions values ASAP.\n";
+
+TEST(CheckShow, HearsTheNetworksComplaints) {
+  const ComplaintCase kCases[] = {
+      {"P", 60, 10, 0, ""},     {"P", 61, 10, 1, kRisky}, {"P", 60, 9, 1, kPoor},
+      {"E", 20, 10, 0, ""},     {"E", 21, 10, 1, kRisky}, {"L", 70, 10, 0, ""},
+      {"L", 71, 10, 1, kRisky}, {"G", 90, 10, 0, ""},     {"G", 91, 10, 1, kRisky}};
+  for (const ComplaintCase& c : kCases)
+    for (const bool isPlayers : {true, false}) {
+      World world = SmallWorld()
+                        .Network("Nine",
+                                 [](Network& network) {
+                                   network.EarlyRisk = 20;
+                                   network.LateRisk = 70;
+                                   network.GraveRisk = 90;
+                                 })
+                        .Promotion("CWA")
+                        .Show("Friday Fire", "Friday", "Nine", [&](Show& s) { s.Slot = c.Slot; })
+                        .Promotion("NEW")
+                        .Game(isPlayers ? "CWA" : "NEW", kFriday);
+      Promotion& promotion = Named(world.Promotions(), "CWA");
+      promotion.Risk = c.Risk;
+      promotion.Production = c.Production;
+      CheckShow(world, promotion);
+      EXPECT_EQ(world.Shows()[1].Rating4, c.Strikes) << c.Slot << c.Risk;
+      EXPECT_EQ(NewsOf(world), isPlayers ? c.News : "") << c.Slot << c.Risk;
+    }
+  World both = Company().Game("CWA", kFriday);
+  both.Player().Risk = 61;
+  both.Player().Production = 0;
+  CheckShow(both, both.Player());
+  EXPECT_EQ(Named(both.Shows(), "Friday Fire").Rating4, 2);
+  EXPECT_EQ(NewsOf(both), std::string(kRisky) + kPoor);
+}
+
+}  // namespace
+}  // namespace grapplemont::test
