@@ -2,6 +2,7 @@
 
 #include "booking/autotalk.h"
 #include "booking/casting.h"
+#include "storylines/stables.h"
 
 namespace grapplemont {
 
@@ -81,15 +82,32 @@ const AngleTaste* DrawTaste(AutoPlan& plan, std::vector<const AngleTaste*>& tast
   return taste;
 }
 
-}  // namespace
-
-bool BookAngle(AutoPlan& plan, int number, const std::vector<int>& people, int weight) {
-  if (!plan.MayUseAngles || !plan.Pool.MayAppear(people)) return false;
+Segment NewAngle(int number, const std::vector<int>& people) {
   Segment angle = EmptySegment();
   angle.Kind = kAngle;
   angle.Style = number;
   for (std::size_t i = 0; i < people.size(); ++i) angle.Worker[i] = people[i];
-  return PlanTalk(plan, angle, weight);
+  return angle;
+}
+
+}  // namespace
+
+bool BookAngle(AutoPlan& plan, int number, const std::vector<int>& people, int weight) {
+  if (!plan.MayUseAngles || !plan.Pool.MayAppear(people)) return false;
+  return PlanTalk(plan, NewAngle(number, people), weight);
+}
+
+bool BookStableAttack(AutoPlan& plan, const Worker& leader, int victim) {
+  const std::string stable = leader.Stable.Str();
+  if (!plan.MayUseAngles || plan.AnglesUsed.contains(kStableAttack) ||
+      StableLeader(plan.World, stable) != &leader || !plan.Pool.MayAppear({leader.Uid, victim}) ||
+      plan.Pool.Wrestles(victim))
+    return false;
+  Segment attack = NewAngle(kStableAttack, {victim});
+  attack.Text = stable;
+  if (!PlanTalk(plan, attack, kLate)) return false;
+  plan.Pool.Rest(victim);
+  return true;
 }
 
 bool BookScene(AutoPlan& plan, Scene scene, const std::vector<int>& actors,

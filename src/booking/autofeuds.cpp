@@ -19,7 +19,7 @@ constexpr int kEvenFeud = 8, kEvenGap = 1, kEvenDays = 42;
 /// Nobody cares any more, or has for too long.
 constexpr int kNoticed = 4, kCold = 20, kDragsOn = 150;
 constexpr int kMatchOnShow = 35;
-constexpr int kAttacks = 40;
+constexpr int kAttacks = 40, kStableAttacks = 50;
 /// Losing the last bout to somebody this far below is a grievance.
 constexpr int kEndGap = 10;
 constexpr int kPerMan = 2;
@@ -132,6 +132,12 @@ bool MayBeAttacked(const AutoPlan& plan, const std::vector<int>& victims) {
                       [&](int uid) { return plan.Pool.Wrestles(uid); });
 }
 
+/// Whoever leads a stable need not do it alone.
+bool BringsHisStable(AutoPlan& plan, int actor, int victim) {
+  const Worker* leader = plan.World.FindWorker(actor);
+  return leader && Chance(plan.World, kStableAttacks) && BookStableAttack(plan, *leader, victim);
+}
+
 /// The heels do the attacking; among equals whoever is behind.
 bool BookWords(AutoPlan& plan, const Feud& feud) {
   if (!plan.WantsTalk()) return false;
@@ -144,7 +150,8 @@ bool BookWords(AutoPlan& plan, const Feud& feud) {
   const bool team = sides.One.IsTeam();
   const Scene attack = team ? Scene::TeamAttack : Scene::Attack;
   if (Chance(plan.World, kAttacks) && MayBeAttacked(plan, others) &&
-      BookScene(plan, attack, actors, others))
+      ((!team && BringsHisStable(plan, actors[0], others[0])) ||
+       BookScene(plan, attack, actors, others)))
     return true;
   return BookTalkBetween(plan, actors, others, kTalkContinueFeud) ||
          BookTalkBetween(plan, others, actors, kTalkContinueFeud) ||

@@ -17,6 +17,9 @@ constexpr int kVariety = 14;
 constexpr int kUnseen = 10;
 /// Of the talk, so many in a hundred are angles where the writers allow them.
 constexpr int kAngleShare = 55;
+/// And of these so many announce a match of tonight, or are the work of a stable where its leader
+/// has the word.
+constexpr int kAnnouncements = 12, kStableAttacks = 30;
 /// Angles are for those who come out best in them.
 constexpr std::size_t kStars = 6;
 
@@ -122,8 +125,24 @@ bool Stage(AutoPlan& plan, const Worker& star) {
   const Worker* ally = Chance(plan.World, 25) ? FriendOf(plan, star) : nullptr;
   if (ally && BookScene(plan, Scene::Allies, {star.Uid}, {ally->Uid})) return true;
   const Worker* rival = Chance(plan.World, 65) ? RivalOf(plan, star) : nullptr;
+  if (rival && Chance(plan.World, kStableAttacks) && BookStableAttack(plan, star, rival->Uid))
+    return true;
   if (rival && BookScene(plan, Scene::Words, {star.Uid}, {rival->Uid})) return true;
   return BookScene(plan, Scene::Solo, {star.Uid}, {});
+}
+
+/// The Commissioner announces a match that is still to come.
+bool MakeMatch(AutoPlan& plan) {
+  const int commissioner = plan.World.Player().Commissioner;
+  if (plan.AnglesUsed.contains(kMatchMaking) || HasTalk(plan, commissioner)) return false;
+  for (const Planned& planned : plan.Matches) {
+    const Segment& match = planned.Segment;
+    if (match.Style == kSingles && IsStillToCome(plan, planned) &&
+        !HasTalk(plan, match.Worker[0]) && !HasTalk(plan, match.Worker[1]) &&
+        BookAngle(plan, kMatchMaking, {commissioner, match.Worker[0], match.Worker[1]}, kEarly))
+      return true;
+  }
+  return false;
 }
 
 /// The first of the list for whom it works.
@@ -138,7 +157,8 @@ bool ForFirst(AutoPlan& plan, const std::vector<const Worker*>& people, std::siz
 bool FillOne(AutoPlan& plan) {
   const std::vector<const Worker*> talkers = TalkersByWorth(plan);
   if (plan.MayUseAngles && Chance(plan.World, kAngleShare) &&
-      ForFirst(plan, talkers, kStars, Stage))
+      ((Chance(plan.World, kAnnouncements) && MakeMatch(plan)) ||
+       ForFirst(plan, talkers, kStars, Stage)))
     return true;
   return ForFirst(plan, talkers, talkers.size(), Interview) ||
          ForFirst(plan, talkers, talkers.size(), Stage);

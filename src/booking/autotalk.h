@@ -28,6 +28,10 @@ bool BookScene(AutoPlan& plan, Scene scene, const std::vector<int>& actors,
 /// Plans this very angle, its people in the order of its roles.
 bool BookAngle(AutoPlan& plan, int number, const std::vector<int>& people, int weight);
 
+/// Plans that the stable which the worker leads lays a beating on the victim, once a show. False
+/// when he leads none.
+bool BookStableAttack(AutoPlan& plan, const Worker& leader, int victim);
+
 /// Plans an interview of one or of a team, the manager beside them when they have one who talks.
 /// Targets may be empty.
 bool BookTalkBetween(AutoPlan& plan, const std::vector<int>& speakers,

@@ -10,7 +10,7 @@ void RegisterBookingScreens(Game& game);
 std::unique_ptr<ui::Screen> MakefrmBooking(Game& game);
 std::unique_ptr<ui::Screen> MakefrmPPVBooking(Game& game);
 std::unique_ptr<ui::Screen> MakefrmAutoBook(Game& game);
-std::unique_ptr<ui::Screen> MakefrmDebut(Game& game);
+std::unique_ptr<ui::Screen> MakefrmDebut(Game& game, bool isEvent = false);
 std::unique_ptr<ui::Screen> MakefrmAltRoster(Game& game);
 std::unique_ptr<ui::Screen> MakefrmAltBelts(Game& game);
 /// The numbers of a worker, the player's most popular for uid 0.

@@ -10,7 +10,8 @@ namespace {
 std::string AboutWorker(const World& world, const Worker& worker) {
   std::string text = std::string(PositionText(worker.Position)) + ", " +
                      std::string(DispositionText(worker.Disposition)) + ", Over " +
-                     std::to_string(worker.Over);
+                     std::to_string(worker.Over) + ", Condition " +
+                     std::to_string(worker.Condition) + ", Morale " + std::to_string(worker.Morale);
   if (worker.TurnPending) text += ", waiting to turn";
   if (!worker.Debuted) text += ", not seen yet";
   if (const std::string manager = WorkerName(world, worker.Manager); !manager.empty())

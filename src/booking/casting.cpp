@@ -63,11 +63,19 @@ int UidAt(const Segment& segment, int place) {
 
 }  // namespace
 
-bool IsOffered(const World& world, const Angle& angle) {
+std::string WhyNotOffered(const World& world, const Angle& angle) {
   const Promotion& player = world.Player();
-  return player.Risk > angle.RiskOver && player.Size < angle.SizeUnder &&
-         (!angle.NeedsCommissioner || player.Commissioner != 0) &&
-         PlainDate(world.Today()).starts_with(angle.Date);
+  if (player.Risk <= angle.RiskOver)
+    return "The risk level must be over " + std::to_string(angle.RiskOver) + ".";
+  if (player.Size >= angle.SizeUnder) return "The promotion is too small for it.";
+  if (angle.NeedsCommissioner && player.Commissioner == 0) return "There is no Commissioner.";
+  if (!PlainDate(world.Today()).starts_with(angle.Date))
+    return "Only on " + std::string(angle.Date) + ".";
+  return {};
+}
+
+bool IsOffered(const World& world, const Angle& angle) {
+  return WhyNotOffered(world, angle).empty();
 }
 
 std::vector<const Angle*> OfferedAngles(const World& world) {

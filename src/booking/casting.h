@@ -10,8 +10,9 @@
 
 namespace grapplemont {
 
-/// Whether the player's promotion can do the angle today: its Risk, its Size, a Commissioner, the
-/// date. Writers are not looked at.
+/// Why the player's promotion cannot do the angle today: its Risk, its Size, a Commissioner, the
+/// date; empty when it can. Writers are not looked at.
+std::string WhyNotOffered(const World& world, const Angle& angle);
 bool IsOffered(const World& world, const Angle& angle);
 /// All that are, in the order of their numbers.
 std::vector<const Angle*> OfferedAngles(const World& world);

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "records/angles.h"
-#include "records/dates.h"
+#include "booking/casting.h"
+#include "booking/writers.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 
@@ -35,16 +35,9 @@ bool HasPartFor(const Angle& angle, const Worker& worker) {
   });
 }
 
-std::string WhyNotToday(const World& world, const Angle& angle) {
-  const Promotion& player = world.Player();
-  if (player.Risk <= angle.RiskOver)
-    return "The risk level must be over " + std::to_string(angle.RiskOver) + ".";
-  if (player.Size >= angle.SizeUnder) return "The promotion is too small for it.";
-  if (angle.NeedsCommissioner && player.Commissioner == 0) return "There is no Commissioner.";
-  const std::string today = std::to_string(DayOfMonth(world.Today())) + " " +
-                            std::string(MonthName(MonthOf(world.Today())));
-  if (!angle.Date.empty() && angle.Date != today) return "Only on " + std::string(angle.Date) + ".";
-  return {};
+std::string WhyNotToday(const World& world, const Angle& angle, bool isEvent) {
+  if (!EnoughWriters(world, isEvent)) return "There are not enough writers for angles.";
+  return WhyNotOffered(world, angle);
 }
 
 }  // namespace
@@ -60,7 +53,7 @@ std::vector<const Worker*> WaitingForDebut(const World& world) {
   return waiting;
 }
 
-std::vector<DebutWay> WaysToDebut(const World& world, const Worker& worker) {
+std::vector<DebutWay> WaysToDebut(const World& world, const Worker& worker, bool isEvent) {
   const std::string unfit =
       worker.Status == "Nor" ? "" : worker.Name + ": " + StatusLine(worker) + ".";
   std::vector<DebutWay> ways;
@@ -69,7 +62,7 @@ std::vector<DebutWay> WaysToDebut(const World& world, const Worker& worker) {
       ways.push_back({"Match", std::string(way.How), unfit});
   for (const Angle& angle : AllAngles()) {
     if (!HasPartFor(angle, worker)) continue;
-    const std::string why = unfit.empty() ? WhyNotToday(world, angle) : unfit;
+    const std::string why = unfit.empty() ? WhyNotToday(world, angle, isEvent) : unfit;
     ways.push_back({"Angle", std::string(angle.Says), why});
   }
   return ways;

@@ -18,7 +18,7 @@ struct DebutWay {
   std::string How;     // what the wizard calls it
   std::string WhyNot;  // why it cannot be done today; empty when it can
 };
-/// Every way there is for this worker.
-std::vector<DebutWay> WaysToDebut(const World& world, const Worker& worker);
+/// Every way there is for this worker, on the sheet of an Event or of a television show.
+std::vector<DebutWay> WaysToDebut(const World& world, const Worker& worker, bool isEvent);
 
 }  // namespace grapplemont

@@ -30,11 +30,14 @@ class frmBookBelt : public MatchStepScreen {
   }
 
   bool Store() override {
-    const std::string name =
-        lsttitle.Key() == 0 ? "None" : world().Titles()[lsttitle.Key()].Name.Str();
-    if (IsChampionMissing(world(), buffer(), name) && !desk().Ask("Continue?", Question()))
-      return false;
-    buffer().TitleName = name;
+    const int record = lsttitle.Key();
+    if (record == 0) {
+      buffer().TitleName = "None";
+      return true;
+    }
+    const grapplemont::Title& title = world().Titles()[record];
+    if (IsChampionMissing(buffer(), title) && !desk().Ask("Continue?", Question())) return false;
+    buffer().TitleName = title.Name;
     return true;
   }
 

@@ -27,17 +27,23 @@ class frmBookPeople : public MatchStepScreen {
   }
 
   ui::Box Body() override {
-    std::vector<ui::Box> sides;
-    for (int side = 0; side < style_.Sides; ++side) {
-      std::vector<ui::Box> lists;
-      for (int member = 1; member <= style_.PerSide; ++member)
-        lists.push_back(ui::Grow(lstwres(side * style_.PerSide + member)));
-      const std::string title =
-          (style_.PerSide > 1 ? "Team " : "Worker ") + std::to_string(side + 1);
-      ui::Box box = HasRowsOfMates() ? ui::Columns(std::move(lists)) : ui::Rows(std::move(lists));
-      sides.push_back(ui::Group(title, {std::move(box).Grow()}).Grow());
+    std::vector<ui::Box> rows;
+    for (int first = 0; first < style_.Sides; first += SidesAbreast()) {
+      std::vector<ui::Box> sides;
+      for (int side = first; side < std::min(first + SidesAbreast(), style_.Sides); ++side)
+        sides.push_back(SideBox(side));
+      rows.push_back(ui::Columns(std::move(sides)).Grow());
     }
-    return HasRowsOfMates() ? ui::Rows(std::move(sides)) : ui::Columns(std::move(sides));
+    return ui::Rows(std::move(rows));
+  }
+
+  ui::Box SideBox(int side) {
+    std::vector<ui::Box> lists;
+    for (int member = 1; member <= style_.PerSide; ++member)
+      lists.push_back(ui::Grow(lstwres(side * style_.PerSide + member)));
+    const std::string title = (style_.PerSide > 1 ? "Team " : "Worker ") + std::to_string(side + 1);
+    ui::Box box = HasRowsOfMates() ? ui::Columns(std::move(lists)) : ui::Rows(std::move(lists));
+    return ui::Group(title, {std::move(box).Grow()}).Grow();
   }
 
   bool Store() override {
@@ -48,7 +54,12 @@ class frmBookPeople : public MatchStepScreen {
   }
 
   bool HasRowsOfMates() const { return style_.PerSide > 2; }
-  int Abreast() const { return HasRowsOfMates() ? style_.PerSide : style_.Sides; }
+  /// Four alone stand two by two, so that the lists keep their width.
+  int SidesAbreast() const {
+    if (HasRowsOfMates()) return 1;
+    return style_.Code == kFourWay ? 2 : style_.Sides;
+  }
+  int ListsAbreast() const { return HasRowsOfMates() ? style_.PerSide : SidesAbreast(); }
 
   bool IsComplete() {
     for (int place = 1; place <= lstwres.Count(); ++place)
@@ -82,7 +93,7 @@ class frmBookPeople : public MatchStepScreen {
   ui::Array<ui::ListBox> lstwres{
       "lstwres", style_.Sides* style_.PerSide, [this](const std::string&, int place) {
         return std::make_unique<ui::ListBox>(
-            *this, "lstwres" + std::to_string(place), PeopleColumns(Abreast()),
+            *this, "lstwres" + std::to_string(place), PeopleColumns(ListsAbreast()),
             [this, place] { lstwres_Click(place); }, [this] { GoOn(); });
       }};
 };

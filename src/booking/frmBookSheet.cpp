@@ -20,8 +20,9 @@ class frmBookSheet : public ui::Screen, public WizardHost {
   ui::Page Layout() override {
     ui::Page page;
     page.Facts = &lblfacts;
-    page.Actions = {&cmdexit, &cmdcomplete};
-    page.Main = &cmdcomplete;
+    page.Actions = {&cmdexit, &cmdcomplete, &cmdstep};
+    page.Main = &cmdstep;
+    page.Then = &cmdcomplete;
     page.Cancel = &cmdexit;
     std::vector<ui::Box> rows;
     for (int step = 0; step < kRows; ++step)
@@ -77,6 +78,7 @@ class frmBookSheet : public ui::Screen, public WizardHost {
         price.empty() ? "Nobody holds this booking against you." : "Morale: " + price + ".";
     lblprice.Colour = price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
     lblprice.Visible = wizard_.SegmentComplete;
+    cmdstep.Visible = !wizard_.SegmentComplete;
     cmdcomplete.Enabled = wizard_.SegmentComplete;
     cmdcomplete.Tip = wizard_.SegmentComplete ? "" : "Every step must be done first.";
   }
@@ -91,11 +93,6 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     At(cmdback, step).Enabled = step == BackRow();
     At(cmdbook, step).Tip = step == CurrentRow() ? "" : "It is another step's turn.";
     At(cmdback, step).Tip = step == BackRow() ? "" : "Only the last step can be taken back.";
-    // A path that has been gone to its end has no further rows.
-    const bool isThere = !wizard_.SegmentComplete || step < wizard_.Step;
-    for (ui::Control* control : std::initializer_list<ui::Control*>{
-             &At(txtstep, step), &At(txtdesc, step), &At(cmdbook, step), &At(cmdback, step)})
-      control->Visible = isThere;
   }
 
   /// On a finished booking the last step is done anew.
@@ -149,6 +146,7 @@ class frmBookSheet : public ui::Screen, public WizardHost {
   ui::Button cmdexit{*this, "cmdexit", "Exit", &frmBookSheet::cmdexit_Click};
   ui::Button cmdcomplete{*this, "cmdcomplete", "Complete Booking This Segment",
                          &frmBookSheet::cmdcomplete_Click};
+  ui::Button cmdstep{*this, "cmdstep", "Next Step", &frmBookSheet::OpenStep};
 };
 
 }  // namespace

@@ -121,7 +121,8 @@ class frmBookWinner : public MatchStepScreen {
             *this, form_.Losers > 1 ? "cmbloser" + std::to_string(box) : "cmbloser",
             &frmBookWinner::cmbloser_Click);
       }};
-  ui::ListBox lstring{*this, "lstring", PeopleColumns(), &frmBookWinner::lstring_Click};
+  ui::ListBox lstring{*this, "lstring", PeopleColumns(), [this] { lstring_Click(); },
+                      [this] { GoOn(); }};
 };
 
 }  // namespace

@@ -20,14 +20,13 @@ class frmBooking : public SheetScreen {
  public:
   explicit frmBooking(Game& game) : SheetScreen(game, "frmBooking", false) {}
 
-  void Load() override {
-    SheetScreen::Load();
+ protected:
+  void FillBoxes() override {
     EnableUnless(cmdauto, HasAutoBooker(world())
                               ? ""
                               : "Nobody above the jobbers is fit, so there is nobody to book.");
   }
 
- protected:
   CommentaryTeam Team() override { return TvTeam(world()); }
   std::string TopRow() override { return "Opening Credits"; }
   std::vector<ui::Button*> FirstActions() override { return {&cmdauto}; }

@@ -10,7 +10,8 @@ namespace {
 /// Who waits for his first appearance, and the ways to it.
 class frmDebut : public ui::Screen {
  public:
-  explicit frmDebut(Game& game) : Screen(game.Desk(), "frmDebut", "Debuts"), game_(game) {
+  frmDebut(Game& game, bool isEvent)
+      : Screen(game.Desk(), "frmDebut", "Debuts"), game_(game), isEvent_(isEvent) {
     lstwres.EmptyText = "Everybody on your roster has been seen. Whom you sign waits here.";
     lstways.EmptyText = "Choose somebody to see how he can be brought out.";
   }
@@ -56,7 +57,7 @@ class frmDebut : public ui::Screen {
   void ShowWays() {
     std::vector<ui::ListBox::Row> rows;
     if (const Worker* worker = world().FindWorker(lstwres.Key()))
-      for (const DebutWay& way : WaysToDebut(world(), *worker))
+      for (const DebutWay& way : WaysToDebut(world(), *worker, isEvent_))
         rows.push_back({{ui::Cell(way.Kind), way.How,
                          way.WhyNot.empty() ? ui::Cell("Today", ui::Tone::Green)
                                             : ui::Cell(way.WhyNot, ui::Tone::Muted)},
@@ -76,6 +77,7 @@ class frmDebut : public ui::Screen {
 
   using K = ui::ColumnKind;
   Game& game_;
+  const bool isEvent_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstwres{*this, "lstwres", Columns(), &frmDebut::ShowWays, &frmDebut::lstwres_Open};
   ui::ListBox lstways{
@@ -90,8 +92,8 @@ class frmDebut : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmDebut(Game& game) {
-  return std::make_unique<frmDebut>(game);
+std::unique_ptr<ui::Screen> MakefrmDebut(Game& game, bool isEvent) {
+  return std::make_unique<frmDebut>(game, isEvent);
 }
 
 }  // namespace grapplemont

@@ -36,21 +36,6 @@ int TeamMate(const World& world, int uid) {
   return 0;
 }
 
-/// Lists side by side of which there is room for name, disposition and popularity alone.
-constexpr std::size_t kNarrow = 3;
-
-std::vector<ui::Column> NarrowColumns() {
-  std::vector<ui::Column> columns = PeopleColumns();
-  columns.erase(columns.begin() + kNarrow, columns.end());
-  return columns;
-}
-
-void Narrow(ui::ListBox& list) {
-  std::vector<ui::ListBox::Row> rows = list.Rows();
-  for (auto& row : rows) row.Cells.erase(row.Cells.begin() + kNarrow, row.Cells.end());
-  list.Fill(std::move(rows));
-}
-
 /// Who is interviewed. Whoever is chosen brings his partner and his manager along, as long as the
 /// player has not chosen these himself.
 class frmIVPeople : public StepScreen {
@@ -69,7 +54,6 @@ class frmIVPeople : public StepScreen {
                                          : "Nobody on the roster can be interviewed.";
       FillPeople(lstwres(place), manager ? TalkingManagers(world(), wizard().View)
                                          : Talkers(world(), wizard().View));
-      if (Lists() >= 3) Narrow(lstwres(place));
     }
   }
 
@@ -78,7 +62,7 @@ class frmIVPeople : public StepScreen {
     for (int place = 1; place <= Lists(); ++place)
       lists.push_back(
           ui::Group(row_.Lists[static_cast<std::size_t>(place - 1)], {ui::Grow(lstwres(place))})
-              .Grow(Lists() == 3 && place == Shape().Manager ? 2 : 1));
+              .Grow());
     return ui::Columns(std::move(lists));
   }
 
@@ -112,8 +96,8 @@ class frmIVPeople : public StepScreen {
   ui::Array<ui::ListBox> lstwres{"lstwres", Lists(), [this](const std::string&, int place) {
                                    return std::make_unique<ui::ListBox>(
                                        *this, "lstwres" + std::to_string(place),
-                                       Lists() < 3 ? PeopleColumns() : NarrowColumns(),
-                                       [this, place] { Picked(place); }, [this] { GoOn(); });
+                                       PeopleColumns(Lists()), [this, place] { Picked(place); },
+                                       [this] { GoOn(); });
                                  }};
 };
 

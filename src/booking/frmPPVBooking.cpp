@@ -13,14 +13,13 @@ class frmPPVBooking : public SheetScreen {
  public:
   explicit frmPPVBooking(Game& game) : SheetScreen(game, "frmPPVBooking", true) {}
 
-  void Load() override {
+ protected:
+  void FillBoxes() override {
     FillStaff(cmbannouncer);
     FillColour();
     FillExtras();
-    SheetScreen::Load();
   }
 
- protected:
   CommentaryTeam Team() override {
     return {cmbannouncer.Key(), cmbcolour.Key(), chkcolour.Checked};
   }

@@ -4,8 +4,6 @@
 #include <iterator>
 #include <set>
 
-#include "records/modWresCheck.h"
-
 namespace grapplemont {
 
 namespace {
@@ -195,18 +193,16 @@ std::string WhyNotAftermath(const Segment& match) {
   return {};
 }
 
-bool IsChampionMissing(const World& world, const Segment& match, std::string_view name) {
-  const Title* title = FindTitle(world, name);
-  if (!title || title->Holder == 0) return false;
-  if (title->Singles) {
+bool IsChampionMissing(const Segment& match, const Title& title) {
+  if (title.Holder == 0) return false;
+  if (title.Singles) {
     const auto looked = match.Worker.begin() + (match.Style == kSpecial ? 30 : 4);
-    return std::none_of(match.Worker.begin(), looked,
-                        [&](int uid) { return uid == title->Holder; });
+    return std::none_of(match.Worker.begin(), looked, [&](int uid) { return uid == title.Holder; });
   }
   const auto sides = SidesOf(match);
   return std::none_of(sides.begin(), sides.end(), [&](const std::vector<int>& side) {
-    return std::find(side.begin(), side.end(), title->Holder) != side.end() &&
-           std::find(side.begin(), side.end(), title->Partner) != side.end();
+    return std::find(side.begin(), side.end(), title.Holder) != side.end() &&
+           std::find(side.begin(), side.end(), title.Partner) != side.end();
   });
 }
 

@@ -64,7 +64,7 @@ std::string WhyNotResult(const Segment& match);
 std::string WhyNotFinish(const Segment& match);
 std::string WhyNotAftermath(const Segment& match);
 
-/// A Title is at stake, has a holder, and he does not stand in the match.
-bool IsChampionMissing(const World& world, const Segment& match, std::string_view title);
+/// The Title has a holder, and he does not stand in the match.
+bool IsChampionMissing(const Segment& match, const Title& title);
 
 }  // namespace grapplemont

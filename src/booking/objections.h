@@ -29,7 +29,7 @@ inline constexpr int kAnyAttitude = 1000;
 struct Gap {
   int By;
   int AttitudeUnder;
-  int Level;  // of the grievance when he is overridden
+  int Level = 0;  // of the grievance when he is overridden; 0 where another bound sets the price
 };
 using Gaps = std::span<const Gap>;
 
@@ -42,8 +42,8 @@ inline constexpr Gap kTagGapsSecondWins[] = {
 inline constexpr Gap kTagDrawGaps[] = {{40, kAnyAttitude, 3}, {20, 175, 2}, {10, kAnyAttitude, 1}};
 // Of the one loser of the other styles.
 inline constexpr Gap kLoserGaps[] = {{30, kAnyAttitude, 3}, {20, 95, 2}, {10, 90, 1}, {0, 50, 1}};
-inline constexpr Gap kSurvivorGaps[] = {{25, kAnyAttitude, 3}};
-inline constexpr Gap kSpecialGaps[] = {{20, 92, 2}};
+inline constexpr Gap kSurvivorGaps[] = {{25, kAnyAttitude}};
+inline constexpr Gap kSpecialGaps[] = {{20, 92}};
 
 // Attitude below which men object to losing to, or drawing with, a woman.
 inline constexpr int kWomanRule = 95;

@@ -13,6 +13,8 @@ namespace {
 
 constexpr const char* kClosedRow = "Not Available In This TV Time Slot";
 
+constexpr const char* kChangeRow = "To book something else in this row, remove it first.";
+
 std::string Lines(const std::vector<std::string>& lines) {
   std::string text;
   for (const std::string& line : lines) text += (text.empty() ? "" : "\n") + line;
@@ -78,6 +80,7 @@ ui::Page SheetScreen::Layout() {
 
 void SheetScreen::Load() {
   OpenSheet(world(), isEvent_);
+  FillBoxes();
   RefreshSheet();
   lstrows.SelectKey(1);
   ShowRow();
@@ -182,7 +185,10 @@ void SheetScreen::ShowRow() {
   std::vector<ui::Report::Paragraph> told{{Style::Strong, DescribeSegment(world(), segment)}};
   for (std::string& line : SummaryOfRow(world(), segment, isEvent_))
     told.push_back({Style::Line, std::move(line)});
+  for (std::string& line : DetailsOfRow(world(), segment))
+    told.push_back({Style::Line, std::move(line)});
   if (const std::string tip = TitleTip(segment); !tip.empty()) told.push_back({Style::Strong, tip});
+  told.push_back({Style::Muted, kChangeRow});
   txtrow.Write(std::move(told));
 }
 
@@ -200,6 +206,10 @@ void SheetScreen::lstrows_Open() {
   const int record = lstrows.Key();
   if (record == 0 || record > OpenRows() || Row(record).Kind != kEmptySegment) return;
   OpenWizardAtOnce(game_, record, isEvent_);
+}
+
+void SheetScreen::cmddebut_Click() {
+  desk().Open(MakefrmDebut(game_, isEvent_));
 }
 
 void SheetScreen::lstfree_Open() {
@@ -230,12 +240,15 @@ void SheetScreen::cmdback_Click() {
   if (desk().Ask("Confirm",
                  "Are you sure you wish to go back? It will erase any booking you have done so "
                  "far.",
-                 ui::Default::No))
+                 ui::Default::No)) {
+    OpenSheet(world(), isEvent_);
     Close();
+  }
 }
 
 void SheetScreen::cmdcancel_Click() {
   if (!desk().Ask("Cancel?", "Are You Sure You Wish To Cancel The Show?", ui::Default::No)) return;
+  OpenSheet(world(), isEvent_);
   game_.AdvanceDay(true);
   Close();
 }

@@ -11,7 +11,7 @@ namespace grapplemont {
 class SheetScreen : public ui::Screen {
  public:
   ui::Page Layout() override;
-  void Load() override;
+  void Load() final;
   void Return() override;
 
  protected:
@@ -26,6 +26,8 @@ class SheetScreen : public ui::Screen {
   virtual std::string TopRow() = 0;
   /// Asks, and begins the show in the world; false when it does not come to that.
   virtual bool Begin() = 0;
+  /// Fills what a sheet has of its own when it opens, on an empty match.dat.
+  virtual void FillBoxes() {}
   /// Buttons that stand before the others, and boxes below the rows.
   virtual std::vector<ui::Button*> FirstActions() { return {}; }
   virtual std::vector<ui::Box> BelowRows() { return {}; }
@@ -47,6 +49,7 @@ class SheetScreen : public ui::Screen {
   void cmdbook_Click(int record);
   void lstrows_Open();
   void lstfree_Open();
+  void cmddebut_Click();
   void cmdfill_Click();
   void cmddoshow_Click();
   void cmdback_Click();
@@ -69,7 +72,7 @@ class SheetScreen : public ui::Screen {
   ui::Label lblforecast{*this, "lblforecast"};
   ui::Label lblwarnings{*this, "lblwarnings"};
   ui::ListBox lstfree;
-  ui::Button cmddebut{*this, "cmddebut", "Debuts", Opens("frmDebut")};
+  ui::Button cmddebut{*this, "cmddebut", "Debuts", &SheetScreen::cmddebut_Click};
   ui::Button cmdfeuds{*this, "cmdfeuds", "Feuds", Opens("frmFeuds")};
   ui::Button cmdmanagers{*this, "cmdmanagers", "Managers", Opens("frmManagers")};
   ui::Button cmdroster{*this, "cmdroster", "Roster", Opens("frmAltRoster")};

@@ -48,6 +48,8 @@ const StepTable& MatchSteps() {
   return kSteps;
 }
 
+constexpr int kNarrowName = 4;
+
 ui::Tone ToneOf(const Worker& worker) {
   if (worker.Disposition == "F") return ui::Tone::Blue;
   return worker.Disposition == "H" ? ui::Tone::Red : ui::Tone::Muted;
@@ -134,20 +136,21 @@ std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host, const s
 
 std::vector<ui::Column> PeopleColumns(int listsAbreast) {
   using K = ui::ColumnKind;
-  const bool narrow = listsAbreast > 2;
-  std::vector<ui::Column> columns = {
-      {"Name", K::Text, 6},
-      {narrow ? "D." : "Disp.", K::Tag, narrow ? 1 : 3, "Face, Heel or Tweener."},
-      {"Over", K::Number, 2, "Popularity."},
-      {"Cond.", K::Number, 2, "Condition."},
-      {"Mor.", K::Number, 2, "Morale."}};
-  if (narrow) columns.resize(listsAbreast == 3 ? 4 : 3, {""});
-  return columns;
+  if (listsAbreast > 2)
+    return {{"Name", K::Text, kNarrowName},
+            {"D.", K::Tag, 1, "Face, Heel or Tweener."},
+            {"Ov", K::Number, 1, "Popularity."},
+            {"Con", K::Number, 1, "Condition."},
+            {"Mor", K::Number, 1, "Morale."}};
+  return {{"Name", K::Text, 6},
+          {"Disp.", K::Tag, 3, "Face, Heel or Tweener."},
+          {"Over", K::Number, 2, "Popularity."},
+          {"Cond.", K::Number, 2, "Condition."},
+          {"Mor.", K::Number, 2, "Morale."}};
 }
 
 void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none) {
-  const std::size_t columns = list.Columns().size();
-  const bool narrow = list.Columns()[1].Width == 1;
+  const bool narrow = list.Columns().front().Width == kNarrowName;
   std::vector<ui::ListBox::Row> rows;
   if (none) rows.push_back({{"None", "", "", "", ""}, 0});
   for (const Worker* worker : people) {
@@ -157,7 +160,6 @@ void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, boo
                      ui::Cell(worker->Condition), ui::Cell(worker->Morale)},
                     worker->Uid});
   }
-  for (auto& row : rows) row.Cells.resize(columns, ui::Cell(""));
   list.Fill(std::move(rows), false);
   if (none) list.Select(1);
 }

@@ -69,8 +69,8 @@ class StepScreen : public ui::Screen {
 /// Makes the screen of the wizard's step by its name; nullptr for an unknown one.
 std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host, const std::string& name);
 
-/// A list of people: disposition, Over, condition and morale beside the name; where four lists
-/// stand side by side, what there is room for. `none` puts "None" on top, preselected.
+/// A list of people: disposition, Over, condition and morale beside the name, in short words where
+/// more than two lists stand side by side. `none` puts "None" on top, preselected.
 std::vector<ui::Column> PeopleColumns(int listsAbreast = 1);
 void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none = false);
 

@@ -81,9 +81,8 @@ void CheckResult(Reasons& reasons, const Segment& match) {
   const ResultForm& form = ResultFormOf(match);
   reasons.AddIf(!IsDraw(match) && !form.MayBeNone && form.Losers > static_cast<int>(losers.size()),
                 "A loser has not been chosen.");
-  reasons.AddIf(
-      (IsDraw(match) || (form.Losers == 0 && match.Style != kSingles)) && match.Loser != kNoLoser,
-      "A loser is named where there is none.");
+  reasons.AddIf(!NamesLoser(match) && match.Loser != kNoLoser,
+                "A loser is named where there is none.");
   reasons.AddIf(match.Style == kSingles && match.Winner == match.Loser,
                 "The winner cannot lose as well.");
   reasons.AddIf(NamedLosers(match) > std::max(form.Losers, 1),

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "booking/casting.h"
+#include "booking/matchsteps.h"
 #include "booking/wizard.h"
 #include "records/segments.h"
 #include "show/feudslots.h"
@@ -15,6 +17,50 @@ bool EnemiesMeet(const Feud& feud, const std::vector<int>& people) {
     for (const int other : people)
       if (AreEnemies(feud, one, other)) return true;
   return false;
+}
+
+std::string NameOf(const World& world, int uid) {
+  return SideText(world, {uid});
+}
+
+/// Those the uids stand for: themselves, or with `teams` the sides that they are the first of.
+std::string NamesOf(const World& world, const Segment& match, const std::vector<int>& uids,
+                    bool teams = false) {
+  const auto sides = SidesOf(match);
+  std::string text;
+  for (const int uid : uids) {
+    const int side = teams ? SideOf(match, uid) : 0;
+    text += (text.empty() ? "" : ", ") +
+            (side == 0 ? NameOf(world, uid)
+                       : SideText(world, sides[static_cast<std::size_t>(side - 1)]));
+  }
+  return text;
+}
+
+std::vector<std::string> DetailsOfMatch(const World& world, const Segment& match) {
+  if (match.Style == kSpecial)
+    return {"Entrants: " + NamesOf(world, match, PeopleOf(match)),
+            "Runner-up: " + NameOf(world, match.Loser)};
+  const ResultForm& form = ResultFormOf(match);
+  if (IsDraw(match) || form.Losers == 0) return {};
+  if (form.Losers == 1)
+    return {"Fall: " + NameOf(world, match.Winner) + " over " + NameOf(world, match.Loser)};
+  return {"Order of elimination: " + NamesOf(world, match, LosersInOrder(match), form.Teams)};
+}
+
+std::string PlayedBy(const World& world, const Segment& angle, const Role& role) {
+  if (role.From == Casting::Stables) return angle.Text.Str();
+  if (role.Place == 0) return angle.TitleName.Str();
+  return NameOf(world, angle.Worker[static_cast<std::size_t>(role.Place - 1)]);
+}
+
+std::vector<std::string> DetailsOfAngle(const World& world, const Segment& segment) {
+  std::vector<std::string> lines;
+  if (const Angle* angle = FindAngle(segment.Style))
+    for (const Role& role : angle->Roles)
+      if (IsUsed(role) && IsCast(segment, role))
+        lines.push_back(std::string(role.Caption) + ": " + PlayedBy(world, segment, role));
+  return lines;
 }
 
 /// Everybody of the Segment, those who run in as well.
@@ -72,6 +118,12 @@ std::vector<std::string> SummaryOfRow(const World& world, const Segment& segment
     if (!text.Tip.empty()) lines.push_back(text.Tip);
   }
   return lines;
+}
+
+std::vector<std::string> DetailsOfRow(const World& world, const Segment& segment) {
+  if (segment.Kind == kMatch) return DetailsOfMatch(world, segment);
+  if (segment.Kind == kAngle) return DetailsOfAngle(world, segment);
+  return {};
 }
 
 std::vector<const Worker*> NotOnTheCard(const World& world, bool isEvent) {

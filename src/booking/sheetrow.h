@@ -20,6 +20,9 @@ std::string ForecastOfRow(const ShowForecast& forecast, int record);
 std::string RangeText(const Forecast& forecast);
 /// The lines of the wizard's summary, as they stood when the Segment was completed.
 std::vector<std::string> SummaryOfRow(const World& world, const Segment& segment, bool isEvent);
+/// What these lines leave out, so that nothing of the row stays untold: who has entered a battle
+/// royal, who beats whom in a team, in which order people leave, who plays which part in an angle.
+std::vector<std::string> DetailsOfRow(const World& world, const Segment& segment);
 /// Who may be booked and is not on the card yet, the most popular first.
 std::vector<const Worker*> NotOnTheCard(const World& world, bool isEvent);
 

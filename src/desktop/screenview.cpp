@@ -92,8 +92,9 @@ ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget
   }
   DressPictures();
   for (ControlView* view : views_)
-    if (&view->Shows() == page_.Main) main_ = dynamic_cast<ButtonView*>(view);
-  if (main_) main_->SetGold(true);
+    if (&view->Shows() == page_.Main || &view->Shows() == page_.Then)
+      mains_.push_back(dynamic_cast<ButtonView*>(view));
+  for (ButtonView* main : mains_) main->SetGold(true);
   Refresh();
 }
 
@@ -270,7 +271,7 @@ void ScreenView::Leave() {
 }
 
 void ScreenView::SetOnTop(bool onTop) {
-  if (main_) main_->SetEnter(onTop && page_.Main->Enabled);
+  for (ButtonView* main : mains_) main->SetEnter(onTop && main->Shows().Enabled);
 }
 
 void ScreenView::RememberKeyboard() {
@@ -298,7 +299,7 @@ bool ScreenView::Press(ui::Button* button) {
 }
 
 bool ScreenView::HandleKey(int key) {
-  if (key == Qt::Key_Return || key == Qt::Key_Enter) return Press(page_.Main);
+  if (key == Qt::Key_Return || key == Qt::Key_Enter) return Press(page_.Main) || Press(page_.Then);
   // Where there is only one way to go, the space bar turns the page as well.
   if (key == Qt::Key_Space && !page_.Cancel) return Press(page_.Main);
   return key == Qt::Key_Escape && Press(page_.Cancel);

@@ -63,7 +63,7 @@ class ScreenView : public QWidget {
   std::vector<LayoutBuilder::CardContents> cards_;
   QLabel* title_ = nullptr;
   QBoxLayout* head_ = nullptr;
-  ButtonView* main_ = nullptr;
+  std::vector<ButtonView*> mains_;  // what Enter presses, the first that can be seen
   unsigned seen_ = 0;
   Backdrop backdrop_;
   ui::Picture* behind_ = nullptr;

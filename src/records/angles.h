@@ -23,6 +23,7 @@ enum AngleNumber {
   kMotivation = 34,
   kWalking = 36,
   kManagerialDebut = 38,
+  kMatchMaking = 42,
   kImpression = 45,
   kManagersSurprise = 49,
   kStableInduction = 50,

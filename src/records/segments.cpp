@@ -260,7 +260,7 @@ std::vector<int> LosersOf(const Segment& segment) {
   const int winning = SideOf(segment, segment.Winner);
   if (winning == 0) return {};
   const auto sides = SidesOf(segment);
-  const int losing = segment.Loser == kNoLoser ? 0 : SideOf(segment, segment.Loser);
+  const int losing = NamesLoser(segment) ? SideOf(segment, segment.Loser) : 0;
   if (losing != 0) return sides[static_cast<std::size_t>(losing - 1)];
   std::vector<int> losers;
   for (std::size_t i = 0; i < sides.size(); ++i)
@@ -280,6 +280,12 @@ int PartnerOf(const Segment& segment, int uid) {
 
 bool IsDraw(const Segment& segment) {
   return segment.Winner == 0;
+}
+
+bool NamesLoser(const Segment& segment) {
+  if (IsDraw(segment)) return false;
+  if (segment.Style == kThreeTeams) return segment.MatchType <= kTriangle;
+  return segment.Style != kFourTeams || segment.MatchType == kElimination;
 }
 
 bool HasResult(const Segment& segment) {
@@ -309,6 +315,7 @@ std::string FillPhrase(const World& world, const Segment& segment, std::string_v
     text += phrase.substr(0, open);
     if (open == std::string_view::npos) break;
     const auto close = phrase.find('}', open);
+    if (close == std::string_view::npos) return text += phrase.substr(open);
     text += FillHole(world, segment, phrase.substr(open + 1, close - open - 1));
     phrase.remove_prefix(close + 1);
   }

@@ -45,6 +45,9 @@ std::vector<int> LosersOf(const Segment& segment);
 /// The one who stands on the same side of a two-on-two match; 0 for none.
 int PartnerOf(const Segment& segment, int uid);
 bool IsDraw(const Segment& segment);
+/// Whether a match of this style and type with a winner has somebody who takes the fall. Where it
+/// does, a Loser of 1 is the worker of that uid; where not, and in a draw, it is kNoLoser.
+bool NamesLoser(const Segment& segment);
 /// The result has been chosen.
 bool HasResult(const Segment& segment);
 /// Whether the worker takes part in any way, run-ins included.

@@ -20,9 +20,9 @@ int WorkerAt(const Segment& segment, int place) {
   return segment.Worker[static_cast<std::size_t>(place - 1)];
 }
 
-/// A winner's uid, a loser's, with the word of a match without one taken for nobody.
+/// Who takes the fall; 0 for nobody.
 int LoserOf(const Segment& segment) {
-  return IsDraw(segment) || segment.Loser == kNoLoser ? 0 : int(segment.Loser);
+  return NamesLoser(segment) ? int(segment.Loser) : 0;
 }
 
 void CastSides(const World& world, const Segment& segment, Cast& cast) {

@@ -131,7 +131,13 @@ class frmStables : public ui::Screen {
 
   void cmddissolve_Click() {
     const std::string stable = Chosen();
-    if (!desk().Ask("Dissolve?", "Are you sure you wish to dissolve " + stable + "?",
+    const int booked = BookedFor(world(), stable);
+    const std::string price =
+        booked == 0   ? ""
+        : booked == 1 ? " The segment that is booked for it will be removed from the sheet."
+                      : " The " + std::to_string(booked) +
+                            " segments that are booked for it will be removed from the sheet.";
+    if (!desk().Ask("Dissolve?", "Are you sure you wish to dissolve " + stable + "?" + price,
                     ui::Default::No))
       return;
     DissolveStable(world(), stable);

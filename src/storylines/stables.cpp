@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "records/angles.h"
 #include "records/modWresCheck.h"
+#include "records/segments.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {
@@ -15,6 +17,12 @@ bool IsPlayers(const World& world, const Stable& stable) {
 
 bool IsIn(const World& world, const Worker& worker, std::string_view stable) {
   return worker.Employer != 0 && worker.Employer == world.PlayerUid() && worker.Stable == stable;
+}
+
+/// What a show has held already stays as it was told.
+bool IsBookedFor(const Segment& segment, std::string_view stable) {
+  const Angle* angle = segment.Kind == kAngle ? FindAngle(segment.Style) : nullptr;
+  return angle && HasStableRole(*angle) && segment.Text == stable && segment.Rating == 0;
 }
 
 }  // namespace
@@ -72,8 +80,16 @@ void RenameStable(World& world, std::string_view from, std::string_view to) {
     if (IsPlayers(world, stable) && stable.Name == before) stable.Name = to;
 }
 
+int BookedFor(const World& world, std::string_view stable) {
+  return static_cast<int>(
+      std::count_if(world.Segments().begin(), world.Segments().end(),
+                    [&](const Segment& segment) { return IsBookedFor(segment, stable); }));
+}
+
 void DissolveStable(World& world, std::string_view stable) {
   const std::string name(stable);
+  for (Segment& segment : world.Segments())
+    if (IsBookedFor(segment, name)) ClearSegment(segment);
   for (Worker& worker : world.Workers())
     if (IsIn(world, worker, name)) LeaveStable(worker);
   world.Stables().Keep(

@@ -27,7 +27,9 @@ void FoundStable(World& world, std::string_view name);
 /// Its members go with the new name, and so does what is booked for it. Requires a name that can be
 /// had.
 void RenameStable(World& world, std::string_view from, std::string_view to);
-/// Its members are in none then.
+/// How many Segments are booked for a stable and have not been held yet.
+int BookedFor(const World& world, std::string_view stable);
+/// Its members are in none then, and what is booked for it is taken off the sheet.
 void DissolveStable(World& world, std::string_view stable);
 
 /// Why the worker cannot join; empty when he can.

@@ -73,12 +73,13 @@ struct SideGroup {
 };
 
 /// A screen's arrangement. Facts is the line under the title. Actions stand right of the title, in
-/// order; Main is gold, stands last and is what Enter does; Cancel is what Escape does. Main and
-/// Cancel need not be among Actions.
+/// order; Main is gold, stands last and is what Enter does; Then takes its part while Main is
+/// hidden; Cancel is what Escape does. Main and Cancel need not be among Actions.
 struct Page {
   Label* Facts = nullptr;
   std::vector<Button*> Actions = {};
   Button* Main = nullptr;
+  Button* Then = nullptr;
   Button* Cancel = nullptr;
   bool Large = false;  // a dialog that wants nearly the whole window, whatever is in it
   Box Body = {};

@@ -227,6 +227,29 @@ TEST(AutoBooker, MissesARowWhenTalkHasTakenThem) {
   EXPECT_EQ(std::vector<std::string>{"One more match: no row is left."}, card.Missing);
 }
 
+TEST(AutoBooker, BooksMatchesOfThreeAndFourNowAndThen) {
+  World world = House(40).Game("CWA");
+  for (const bool isEvent : {false, true}) {
+    std::set<std::pair<int, int>> booked;  // style and type
+    int cards = 0;
+    for (std::uint64_t seed = 1; seed <= 5 * kSeeds; ++seed) {
+      const AutoCard card = BookedBy(world, isEvent, isEvent ? kEventRows : kTv, seed);
+      EXPECT_EQ("", FaultsOf(world, card, isEvent));
+      int crowds = 0;
+      for (const Segment& row : card.Rows)
+        if (row.Kind == kMatch && (row.Style == kThreeWay || row.Style == kFourWay)) {
+          booked.emplace(row.Style, row.MatchType);
+          ++crowds;
+        }
+      EXPECT_LE(crowds, 1);
+      cards += crowds;
+    }
+    EXPECT_EQ(booked, (std::set<std::pair<int, int>>{
+                          {kThreeWay, 1}, {kThreeWay, 2}, {kFourWay, 1}, {kFourWay, 2}}));
+    EXPECT_LT(cards, isEvent ? 60 : 35) << "a treat, not a habit";
+  }
+}
+
 TEST(AutoBooker, LeavesTheDarkMatchOutBeforeTheShowProperGoesShort) {
   World world = House(8).Game("CWA");
   OnCards(world, true, kEventRows, [&](const AutoCard& card) {

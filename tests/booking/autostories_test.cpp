@@ -70,6 +70,51 @@ TEST(AutoFeuds, GoToTheRingTheMicrophoneAndTheBackstage) {
         << kind;
 }
 
+TEST(AutoFeuds, BringTheStableOfItsLeader) {
+  World world = House(30)
+                    .Stable("The Tide", {"Hand 2", "Hand 12"})
+                    .Stable("The Ebb", {"Hand 3", "Hand 13"})
+                    .Game("CWA")
+                    .Feud("Hand 1", "Hand 2");
+  const int attacks = CardsWith(
+      world, false, kTv,
+      [&](const AutoCard& card) {
+        return Count(card, [&](const Segment& row) {
+          if (row.Kind != kAngle || row.Style != kStableAttack) return false;
+          EXPECT_EQ(0, Count(card, [&](const Segment& other) {
+                      return other.Kind == kMatch && TakesPart(other, row.Worker[0]);
+                    }));
+          return row.Text == "The Tide" && row.Worker[0] == Uid(world, "Hand 1");
+        });
+      },
+      4 * kSeeds);
+  EXPECT_GT(attacks, 0);
+}
+
+TEST(AutoTalk, LetsTheCommissionerAnnounceAMatchOfTonight) {
+  World world = House(30).Worker("Com Boss", kNonWrestler, 50).Game("CWA");
+  const int boss = Uid(world, "Com Boss");
+  const auto announcements = [&] {
+    return CardsWith(
+        world, false, kTv,
+        [&](const AutoCard& card) {
+          int announced = 0;
+          for (const Segment& row : card.Rows) {
+            if (row.Kind != kAngle || row.Style != kMatchMaking) continue;
+            ++announced;
+            EXPECT_EQ(row.Worker[0], boss);
+            EXPECT_TRUE(MatchOf(card, row.Worker[1], row.Worker[2])) << "it has to come off";
+          }
+          EXPECT_LE(announced, 1);
+          return announced;
+        },
+        2 * kSeeds);
+  };
+  EXPECT_EQ(0, announcements());
+  world.Player().Commissioner = boss;
+  EXPECT_GT(announcements(), 0);
+}
+
 TEST(AutoFeuds, EndAtAnEventOnceTheyHaveHadEnough) {
   struct {
     const char* Says;

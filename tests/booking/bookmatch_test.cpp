@@ -379,6 +379,42 @@ TEST(BookMatch, GoesOnByADoubleClickOnceEveryListHasAPick) {
   EXPECT_EQ(play.Desk.TopName(), "frmBookBelt");
 }
 
+TEST(BookMatch, GoesOnByADoubleClickOnTheWinnerInTheRing) {
+  BookingPlay play(BookingRoster().Game("CWA"));
+  play.Book();
+  play.ChooseMatch("1 vs 1", "Singles");
+  play.ChoosePeople(Men(2));
+  play.Next();
+  play.Desk.OpenRow("lstring", "Man 2");
+  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1Finish");
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.Text("txtdesc(5)"), "Result = Man 2 Wins");
+}
+
+TEST(BookMatch, TellsEverybodysNumbersHoweverManyListsThereAre) {
+  World world = BookingRoster().Game("CWA");
+  Worker& man = Named(world.Workers(), "Man 1");
+  man.Disposition = "H";
+  man.Condition = 71;
+  man.Morale = 62;
+  BookingPlay play(std::move(world));
+  for (const MatchStyleRow& style : kMatchStyles) {
+    SCOPED_TRACE(style.Says);
+    play.Book();
+    play.Next();
+    play.Desk.Pick("lsttype", style.Says);
+    play.Next();
+    play.Next();
+    const bool royal = style.Code == kSpecial;
+    const Names told = play.Desk.Rows(royal ? "lstroster" : "lstwres2")[0];
+    ASSERT_EQ(told.size(), 5u);
+    EXPECT_TRUE(told[1] == "H" || told[1] == "Heel") << told[1];
+    EXPECT_EQ((Names{told[0], told[2], told[3], told[4]}), (Names{"Man 1", "60", "71", "62"}));
+    play.Desk.Click("cmdback");
+    play.Desk.Click("cmdexit");
+  }
+}
+
 TEST(BookMatch, StandsTheTagPartnerBesideHisPartner) {
   BookingPlay play(BookingRoster().Team("The Dozen", "Man 12", "Man 7").Game("CWA"));
   play.Book();
@@ -599,6 +635,40 @@ TEST(BookMatch, AsksWhetherAChampionMayBeMissing) {
   play.Desk.ExpectAsk("Continue?",
                       "The tag team champions are not present in this match! Continue?", false);
   play.Next();
+}
+
+TEST(BookMatch, AsksForTheTagChampionsOfManyTeams) {
+  for (const auto& [style, teams] :
+       {std::pair("2 vs 2 vs 2", 3), std::pair("2 vs 2 vs 2 vs 2", 4)}) {
+    BookingPlay play(BookingRoster().Title("Tag Straps", "Man 11", "Man 12").Game("CWA"));
+    play.Book();
+    play.ChooseMatch(style, "Elimination");
+    play.ChoosePeople(Men(2 * teams));
+    play.Desk.Pick("lsttitle", "Tag Straps");
+    play.Desk.ExpectAsk("Continue?",
+                        "The tag team champions are not present in this match! Continue?", false);
+    play.Next();
+    EXPECT_EQ(play.Desk.TopName(), "frmBookBelt") << style;
+  }
+}
+
+/// Another promotion's Title of the same name stands first in the file.
+TEST(BookMatch, AsksForTheChampionOfThePlayersOwnTitle) {
+  BookingPlay play(SmallWorld()
+                       .Promotion("NEW")
+                       .Worker("Theirs")
+                       .Title("Crown", "Theirs")
+                       .Promotion("CWA")
+                       .Worker("Ours")
+                       .Worker("Rival")
+                       .Title("Crown", "Ours")
+                       .Game("CWA"));
+  play.Book();
+  play.ChooseMatch("1 vs 1", "Singles");
+  play.ChoosePeople({"Ours", "Rival"});
+  play.Desk.Pick("lsttitle", "Crown");
+  play.Next();
+  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1Winner") << "the champion is here";
 }
 
 }  // namespace

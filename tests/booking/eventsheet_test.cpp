@@ -221,6 +221,46 @@ TEST(EventSheet, DrawsNothingForAnExtraThatBringsNothing) {
   EXPECT_EQ(play.World().ShowRuns()[1].ExtraBonus, 0);
 }
 
+TEST(EventSheet, IsCancelledAfterAsking) {
+  OnSheet play(OnTheDay(Arena()));
+  BookEnough(play);
+  const int money = play.World().Player().Money;
+  play.Desk.Pick("cmbspecial", "Have A New-Look Ring");
+  const char* text = "Are You Sure You Wish To Cancel The Show?";
+  play.Desk.ExpectAsk("Cancel?", text, false, ui::Default::No);
+  play.Desk.Click("cmdcancel");
+  EXPECT_EQ(play.Desk.TopName(), "frmPPVBooking");
+  EXPECT_EQ(play.World().Today(), kEventDay);
+  play.Desk.ExpectAsk("Cancel?", text, true, ui::Default::No);
+  play.Desk.Click("cmdcancel");
+  EXPECT_FALSE(play.Lies("frmPPVBooking"));
+  EXPECT_EQ(play.World().Today(), kEventDay + std::chrono::days{1});
+  EXPECT_EQ(play.World().Player().Money, money);
+  EXPECT_EQ(play.World().ShowRuns().Count(), 0);
+}
+
+TEST(EventSheet, KeepsItsBookingsAndBoxesOverAScreenAtItsSide) {
+  OnSheet play(OnTheDay(Arena()));
+  BookEnough(play);
+  play.Desk.Pick("cmbannouncer", "Milo Grant");
+  play.Desk.Check("chkcolour", true);
+  play.Desk.Pick("cmbcolour", "Chatty");
+  play.Desk.Pick("cmbspecial", "Have A New-Look Ring");
+  for (const char* button : {"cmddebut", "cmdfeuds", "cmdmanagers", "cmdroster", "cmdstables",
+                             "cmdstats", "cmdteams", "cmdtitles", "cmdturns", "cmdnotepad"}) {
+    play.Desk.Click(button);
+    ASSERT_NE(play.Desk.TopName(), "frmPPVBooking");
+    play.Desk.Click(play.Desk.Top()->Layout().Cancel->Name());
+    ASSERT_EQ(play.Desk.TopName(), "frmPPVBooking") << button;
+    EXPECT_EQ(play.Desk.Text("lblcount"), "6 of 4 matches, 6 of 6 segments booked.");
+    EXPECT_EQ(play.Desk.Text("cmbannouncer"), "Milo Grant");
+    EXPECT_TRUE(play.Desk.Checked("chkcolour"));
+    EXPECT_EQ(play.Desk.Text("cmbcolour"), "Chatty");
+    EXPECT_EQ(play.Desk.Text("cmbspecial"), "Have A New-Look Ring");
+    EXPECT_EQ(play.Desk.Text("lblcost"), "Cost : $125000");
+  }
+}
+
 TEST(EventSheet, CostsNothingWhenItIsLeft) {
   OnSheet play(OnTheDay(Arena()));
   const int money = play.World().Player().Money;

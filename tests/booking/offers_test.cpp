@@ -241,6 +241,7 @@ TEST(Purposes, TurnWhoActsInASinglesMatch) {
       {kInterference, 10, {10, 5}},
       {kInterference, 26, {10, 5, 31}},
       {kInterference, 27, {10, 5}},
+      {kDqThroughInterference, 10, {10, 5}},
       {kBotchedInterference, 1, {5}},
       {kBotchedInterference, 11, {11, 5}},
       {kBotchedInterference, 12, {11, 5}},
@@ -311,11 +312,17 @@ TEST(Purposes, TurnWhoActsInATagMatch) {
       {kClean, 1, {}},
       {kClean, 2, {17, 14, 15}},
       {kClean, 3, {16, 12, 13}},
+      {kClean, 4, {12}},
+      {kClean, 5, {13}},
       {kClean, 6, {14}},
       {kClean, 7, {15}},
       {kClean, 16, {14, 15}},
       {kClean, 20, {}},
       {kClean, 21, {36, 34, 35}},
+      {kClean, 22, {36, 34, 35}},
+      {kClean, 23, {36, 34, 35}},
+      {kClean, 24, {36, 34, 35}},
+      {kClean, 25, {36, 34, 35}},
       {kClean, 26, {36, 34, 35}},
       {kClean, 27, {}},
       {kCountOut, 1, {12}},
@@ -328,6 +335,8 @@ TEST(Purposes, TurnWhoActsInATagMatch) {
       {kInterference, 18, {12, 19, 18, 33, 36, 34, 35}},
       {kBotchedInterference, 14, {17, 14, 15, 19, 18, 33}},
       {kDqThroughInterference, 1, {}},
+      {kDqThroughInterference, 12, {16, 12, 13, 19, 18, 33}},
+      {kDqThroughInterference, 13, {17, 14, 15}},
       {kDqThroughInterference, 19, {36, 34, 35}},
   };
   for (const TurnRow& row : kRows) {
@@ -345,6 +354,127 @@ TEST(Purposes, TurnWhoActsInATagMatch) {
     EXPECT_EQ(TurnsAmong(world, match, kTurns), row.Turns)
         << "finish " << row.Finish << ", aftermath " << row.Aftermath;
   }
+}
+
+TEST(Purposes, TurnAgainstWhomTheTagTeamsHit) {
+  struct Row {
+    int Finish, Aftermath, Turn, Against;
+  };
+  // Man 1 and Man 2 beat Man 3 and Man 4; Man 5 and Man 6 run in, then Man 7 and Man 8.
+  const Row kRows[] = {
+      {kClean, 2, 14, 1},
+      {kClean, 3, 12, 3},
+      {kClean, 4, 12, 2},
+      {kClean, 5, 13, 1},
+      {kClean, 16, 14, 4},
+      {kClean, 16, 15, 3},
+      {kClean, 22, 34, 2},
+      {kClean, 23, 34, 3},
+      {kClean, 24, 34, 4},
+      {kClean, 25, 34, 1},
+      {kClean, 26, 34, 3},
+      {kInterference, 11, 18, 3},
+      {kDqThroughInterference, 11, 18, 1},
+      {kDqThroughInterference, 12, 18, 3},
+      {kDqThroughInterference, 13, 14, 5},
+      {kDqThroughInterference, 18, 34, 5},
+  };
+  for (const Row& row : kRows) {
+    World world = BookingRoster().Game("CWA");
+    ReadyAll(world);
+    Segment match = TagMatch(world, kPlainTag, true);
+    match.Finish = row.Finish;
+    match.Aftermath = row.Aftermath;
+    match.Other1 = 5;
+    match.Other2 = 6;
+    match.Other3 = 7;
+    match.Other4 = 8;
+    EXPECT_EQ(TurnsAmong(world, match, {row.Turn}), Codes{row.Turn});
+    world.FindWorker(row.Against)->Disposition = "H";
+    EXPECT_EQ(TurnsAmong(world, match, {row.Turn}), Codes())
+        << "finish " << row.Finish << ", aftermath " << row.Aftermath;
+  }
+}
+
+TEST(Purposes, PutRunInsOverAfterATagWin) {
+  const World world = BookingRoster().Game("CWA");
+  Segment match = TagMatch(world, kPlainTag, true);
+  match.Finish = kInterference;
+  const Codes kRunIns = {20, 21, 37, 38};
+  const std::pair<Word*, Codes> kRows[] = {{&match.Other1, {20}},
+                                           {&match.Other2, {20, 21}},
+                                           {&match.Other3, {20, 21, 37}},
+                                           {&match.Other4, {20, 21, 37, 38}}};
+  int uid = 5;
+  for (const auto& [runIn, offered] : kRows) {
+    *runIn = uid++;
+    EXPECT_EQ(TurnsAmong(world, match, kRunIns), offered) << "up to " << uid - 5 << " run-ins";
+  }
+}
+
+TEST(Purposes, DebutEachOfATagMatchAndThePairsOfNewcomers) {
+  const Codes kDebuts = {22, 23, 24, 25, 26, 27, 28, 29, 30, 39, 40, 41};
+  const std::pair<Codes, Codes> kRows[] = {
+      {{1}, {24}},
+      {{2}, {25}},
+      {{3}, {26}},
+      {{4}, {27}},
+      {{5}, {29}},
+      {{6}, {30}},
+      {{7}, {39}},
+      {{8}, {40}},
+      {{1, 3}, {24, 26}},
+      {{1, 2}, {22, 24, 25}},
+      {{3, 4}, {23, 26, 27}},
+      {{5, 6}, {28, 29, 30}},
+      {{7, 8}, {41, 39, 40}},
+  };
+  for (const auto& [newcomers, offered] : kRows) {
+    World world = BookingRoster().Game("CWA");
+    for (const int uid : newcomers) world.FindWorker(uid)->Debuted = false;
+    Segment match = TagMatch(world, kPlainTag, true);
+    match.Finish = kInterference;
+    match.Other1 = 5;
+    match.Other2 = 6;
+    match.Aftermath = after2::kSave;
+    match.Other3 = 7;
+    match.Other4 = 8;
+    EXPECT_EQ(TurnsAmong(world, match, kDebuts), offered) << newcomers.front();
+  }
+}
+
+TEST(Purposes, AreForTheEyeWhereClothesComeOff) {
+  const World world = BookingRoster().Game("CWA");
+  for (int type = kPlainSingles; type <= kBuckNaked; ++type) {
+    const bool strips = type == kBraAndPanties || type == kBuckNaked;
+    EXPECT_EQ(TurnsAmong(world, Singles(world, type, true), {12}), strips ? Codes{12} : Codes())
+        << "type " << type;
+  }
+}
+
+TEST(Results, OfferADrawToTwoSidesOfThePlainTypeAlone) {
+  std::vector<std::pair<int, int>> offered;
+  for (const MatchTypeRow& row : kMatchTypes) {
+    Segment match = EmptySegment();
+    match.Kind = kMatch;
+    match.Style = row.Style;
+    match.MatchType = row.Code;
+    if (OffersDraw(match)) offered.emplace_back(row.Style, row.Code);
+  }
+  EXPECT_EQ(offered, (std::vector<std::pair<int, int>>{{1, 1}, {2, 1}, {7, 1}, {8, 1}}));
+}
+
+TEST(RunInRoster, KeepsToTheSplitAndLeavesThoseInTheRingOut) {
+  World world = BookingRoster().Worker("Cook", kNonWrestler, 30).Game("CWA");
+  for (const char* name : {"Man 1", "Man 3", "Cook"}) Named(world.Workers(), name).Split = "Red";
+  const auto names = [&](const char* split) {
+    Lines found;
+    for (const Worker* worker : RunInRoster(world, Singles(world, 1, true), {false, split}))
+      found.push_back(worker->Name.Str());
+    return found;
+  };
+  EXPECT_EQ(names("Red"), (Lines{"Man 3", "Cook"}));
+  EXPECT_EQ(names("All").size(), 15u);
 }
 
 TEST(Purposes, OfATagMatch) {
@@ -449,14 +579,21 @@ TEST(Titles, MissTheirChampion) {
                     .Title("Straps", "Man 2", "Man 1")
                     .Game("CWA");
   const auto misses = [&](int style, const Lines& people, const char* title) {
-    return IsChampionMissing(world, MatchOf(world, style, 3, people), title);
+    return IsChampionMissing(MatchOf(world, style, 3, people), Named(world.Titles(), title));
   };
   EXPECT_TRUE(misses(kSingles, {"Man 1", "Man 2"}, "Crown"));
   EXPECT_FALSE(misses(kSingles, {"Man 4", "Man 2"}, "Crown"));
   EXPECT_FALSE(misses(kSingles, {"Man 1", "Man 2"}, "Vacant"));
-  EXPECT_FALSE(misses(kSingles, {"Man 1", "Man 2"}, "None"));
   EXPECT_FALSE(misses(kFourWay, {"Man 1", "Man 2", "Man 3", "Man 4"}, "Crown"));
   EXPECT_FALSE(misses(kSpecial, {"Man 1", "Man 2", "Man 3", "Man 5", "Man 6", "Man 4"}, "Crown"));
+  for (int place = 1; place <= 30; ++place) {
+    Segment royal = MatchOf(world, kSpecial, kRoyalRumble, {});
+    royal.Worker[static_cast<std::size_t>(place - 1)] = 4;
+    EXPECT_FALSE(IsChampionMissing(royal, Named(world.Titles(), "Crown"))) << place;
+    royal.Style = kFourWay;
+    EXPECT_EQ(IsChampionMissing(royal, Named(world.Titles(), "Crown")), place > 4) << place;
+  }
+  EXPECT_TRUE(misses(kSpecial, {"Man 1", "Man 2", "Man 3", "Man 5", "Man 6"}, "Crown"));
   EXPECT_FALSE(misses(kTag, {"Man 3", "Man 4", "Man 1", "Man 2"}, "Straps"));
   EXPECT_TRUE(misses(kTag, {"Man 1", "Man 4", "Man 3", "Man 2"}, "Straps")) << "apart";
   EXPECT_FALSE(misses(kFourTeams,

@@ -135,6 +135,14 @@ TEST(Refusals, OfTheLosingPairComeAtTheirThresholds) {
       {false, {130, 190}, {}, 0},
       {true, {141, 179}, {kLeague, kLeague}, 3},
       {true, {141, 180}, {kLeague}, 3},
+      {true, {140, 179}, {}, 0},
+      {false, {140, 179}, {kLeague}, 3},
+      {false, {121, 129}, {kLeague}, 2},
+      {false, {121, 130}, {}, 0},
+      {false, {120, 129}, {}, 0},
+      {false, {101, 99}, {kPlain}, 1},
+      {false, {101, 100}, {}, 0},
+      {false, {100, 99}, {}, 0},
       {false, {141, 179}, {kLeague, kLeague}, 3},
       {false, {141, 180}, {kLeague}, 3},
       {true, {121, 129}, {kLeague}, 2},
@@ -181,8 +189,16 @@ TEST(Refusals, OfPairsInADraw) {
     Give(world, "Man 2", {60, 96});
     Segment match = MatchOf(world, kTag, kPlainTag, Men(4));
     StoreResult(match, 0, {});
-    EXPECT_EQ(WordsAt(world, match, kResultStep), Lines(static_cast<std::size_t>(times), kLine));
-    EXPECT_EQ(GrievancesOf(world, match)[4], level);
+    for (const bool swapped : {false, true}) {
+      if (swapped) {
+        std::swap(match.Worker[0], match.Worker[2]);
+        std::swap(match.Worker[1], match.Worker[3]);
+      }
+      EXPECT_EQ(WordsAt(world, match, kResultStep), Lines(static_cast<std::size_t>(times), kLine))
+          << "a draw asks both pairs";
+      EXPECT_EQ(GrievancesOf(world, match)[3], level);
+      EXPECT_EQ(GrievancesOf(world, match)[4], level);
+    }
   }
 }
 
@@ -204,6 +220,8 @@ TEST(Refusals, OfPairsOfMenAgainstAPairWithAWoman) {
               minds ? Lines{"Man 1 \\ Man 2: We are not drawing with a team that has a woman on "
                             "it."}
                     : Lines());
+    EXPECT_EQ(GrievancesOf(world, match)[1], minds ? 4 : 0);
+    EXPECT_EQ(GrievancesOf(world, match)[2], minds ? 4 : 0);
     StoreResult(match, 1, {3});
     EXPECT_EQ(WordsAt(world, match, kResultStep), Lines()) << "the losers are not both men";
   }
@@ -271,6 +289,19 @@ TEST(Refusals, OfMenWhoLoseOtherStylesToAWoman) {
       winner.Position = kLowerMidcard;
       EXPECT_EQ(GrievancesOf(world, match)[1], 5) << "a woman high on the card";
     }
+}
+
+TEST(Refusals, OfNobodyWhoLosesATeamOrABattleRoyalToAWoman) {
+  for (const auto& [style, type, people] :
+       {std::tuple(kFourOnFour, int(kSurvivor), 8), std::tuple(kSpecial, int(kTenMan), 10)}) {
+    World world = Roster();
+    Segment match = MatchOf(world, style, type, Men(people));
+    StoreResult(match, 6, {1});
+    for (int i = 1; i <= people; ++i) Give(world, "Man " + std::to_string(i), {50, 0});
+    world.FindWorker(6)->Gender = false;
+    EXPECT_EQ(WordsAt(world, match, kResultStep), Lines()) << style;
+    EXPECT_EQ(GrievancesOf(world, match)[1], 5) << "but it has its price";
+  }
 }
 
 TEST(Refusals, OfEveryLoserOfAnElimination) {
@@ -466,6 +497,32 @@ TEST(Refusals, OfTheAftermath) {
   }
 }
 
+/// Whoever refuses the hand speaks, by his place; what it costs goes by who has won.
+TEST(Refusals, OfTheHandLookAtThePlaceAndTheirPriceAtTheResult) {
+  using namespace after1;
+  struct Row {
+    int Aftermath, Winner;
+    const char* Speaks;
+    int Level1, Level3;  // of Man 1, named first, and of Man 3
+  };
+  for (const Row& row :
+       {Row{kFirstRefusesHand, 1, "Man 1", 2, 0}, Row{kFirstRefusesHand, 3, "Man 1", 0, 2},
+        Row{kSecondRefusesHand, 1, "Man 3", 0, 2}, Row{kSecondRefusesHand, 3, "Man 3", 2, 0}}) {
+    SCOPED_TRACE(std::to_string(row.Aftermath) + ", won by " + std::to_string(row.Winner));
+    World world = Roster();
+    for (const char* name : {"Man 1", "Man 3"}) Named(world.Workers(), name).Disposition = "F";
+    Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 1", "Man 3"});
+    StoreResult(match, row.Winner, {});
+    match.Finish = kCheating;
+    match.Aftermath = row.Aftermath;
+    EXPECT_EQ(WordsAt(world, match, kAftermathStep),
+              Lines{std::string(row.Speaks) +
+                    ": I don't think refusing a handshake is good for my character."});
+    EXPECT_EQ(GrievancesOf(world, match)[1], row.Level1);
+    EXPECT_EQ(GrievancesOf(world, match)[3], row.Level3);
+  }
+}
+
 TEST(Refusals, OfAHandshakeAfterADrawStillCome) {
   World world = Roster();
   Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 3", "Man 1"});
@@ -491,14 +548,15 @@ TEST(Refusals, GiveWhyTheyAreFinal) {
       {kThreeTeams, 2, 3, 1, "Man 1", "Because of creative control, you cannot challenge this."},
       {kThreeOnThree, 1, 5, 1, "Man 1", "Because of creative control, you cannot challenge this."},
       {kThreeOnThree, 1, 5, 1, "Man 2", ""},
+      {kFourOnFour, 2, 5, 1, "Man 1",
+       "Because he has creative control, you cannot challenge this."},
+      {kFourOnFour, 2, 5, 1, "Man 2", ""},
   };
   for (const Row& row : kRows) {
     World world = Roster();
-    std::vector<std::string> people = row.Style == kSingles
-                                          ? std::vector<std::string>{"Man 1", "Man 3"}
-                                          : Men(row.Style == kThreeWay ? 3
-                                                : row.Style == kTag    ? 4
-                                                                       : 6);
+    const MatchStyleRow& style = *FindMatchStyle(row.Style);
+    const auto people = row.Style == kSingles ? std::vector<std::string>{"Man 1", "Man 3"}
+                                              : Men(style.Sides * style.PerSide);
     Segment match = MatchOf(world, row.Style, row.Type, people);
     StoreResult(match, row.Winner, {row.Loser});
     Give(world, "Man 1", {100, 96});
@@ -517,6 +575,7 @@ TEST(Grievances, OfTheLastBoutOfAFeud) {
   };
   for (const Row& row : {Row{true, {76, 96}, 4}, Row{true, {75, 96}, 0}, Row{false, {71, 96}, 4},
                          Row{false, {70, 96}, 0}, Row{true, {61, 74}, 2}, Row{true, {61, 75}, 0},
+                         Row{true, {60, 74}, 0}, Row{false, {61, 74}, 2}, Row{false, {61, 75}, 0},
                          Row{false, {60, 74}, 0}, Row{true, {81, 96}, 4}}) {
     SCOPED_TRACE(std::to_string(row.Loser.Over));
     World world = Roster();

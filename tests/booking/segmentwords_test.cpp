@@ -181,9 +181,11 @@ TEST(SegmentWords, TellHowATagMatchEnds) {
                    "Double DQ", "Double count out", "No contest through interference",
                    "Sports entertainment finish (tm)", "Sick Bump", "Opponent mis-communication",
                    "Man 3 turns on partner", "Man 2 \\ Man 4 by DQ through interference"}));
-  EXPECT_EQ(SummaryText(world, match, FinishesOf(kTag), kPartnerTurns), "Man 1 Gets Backstabbed");
-  EXPECT_EQ(SummaryText(world, match, FinishesOf(kTag), kMiscommunication),
-            "Opponent Mis-Communication");
+  EXPECT_EQ(WordsOf(world, match, FinishesOf(kTag), true),
+            (Lines{"Clean", "Count out \\ DQ", "Outside Interference", "Botched Interference",
+                   "Cheating", "Double DQ", "Double Count Out", "No Contest Through Interference",
+                   "Sports Entertainment Finish (tm)", "Sick Bump", "Opponent Mis-Communication",
+                   "Man 1 Gets Backstabbed", "DQ Through Interference"}));
   EXPECT_EQ(WordsOf(world, match, AftermathsOf(kTag), false),
             (Lines{"Nothing",
                    "Odd Men get revenge",
@@ -240,47 +242,49 @@ TEST(SegmentWords, TellHowATagMatchEnds) {
                    "Run in attack on Odd Men",
                    "Run in attack on Man 2 \\ Man 4",
                    "Run in attack on both teams"}));
-  EXPECT_EQ(WordsOf(world, match, PurposesOf(kTag), false), (Lines{"None",
-                                                                   "Put Odd Men over",
-                                                                   "Put Man 2 \\ Man 4 over",
-                                                                   "Put on a good match",
-                                                                   "Continue Feud",
-                                                                   "End Feud",
-                                                                   "Put both teams over",
-                                                                   "Put Man 1 over",
-                                                                   "Put Man 3 over",
-                                                                   "Put Man 2 over",
-                                                                   "Put Man 4 over",
-                                                                   "Turn Man 1",
-                                                                   "Turn Man 3",
-                                                                   "Turn Man 2",
-                                                                   "Turn Man 4",
-                                                                   "Turn Odd Men",
-                                                                   "Turn Man 2 \\ Man 4",
-                                                                   "Turn Man 5",
-                                                                   "Turn The Law",
-                                                                   "Put Man 5 over",
-                                                                   "Put The Law over",
-                                                                   "Debut Odd Men",
-                                                                   "Debut Man 2 \\ Man 4",
-                                                                   "Debut Man 1",
-                                                                   "Debut Man 3",
-                                                                   "Debut Man 2",
-                                                                   "Debut Man 4",
-                                                                   "Debut The Law",
-                                                                   "Debut Man 5",
-                                                                   "Debut Man 6",
-                                                                   "",
-                                                                   "",
-                                                                   "Turn Man 6",
-                                                                   "Turn Man 7",
-                                                                   "Turn Man 8",
-                                                                   "Turn Man 7 \\ Man 8",
-                                                                   "Put Man 7 over",
-                                                                   "Put Man 7 \\ Man 8 over",
-                                                                   "Debut Man 7",
-                                                                   "Debut Man 8",
-                                                                   "Debut Man 7 \\ Man 8"}));
+  const Lines purposes = {"None",
+                          "Put Odd Men over",
+                          "Put Man 2 \\ Man 4 over",
+                          "Put on a good match",
+                          "Continue Feud",
+                          "End Feud",
+                          "Put both teams over",
+                          "Put Man 1 over",
+                          "Put Man 3 over",
+                          "Put Man 2 over",
+                          "Put Man 4 over",
+                          "Turn Man 1",
+                          "Turn Man 3",
+                          "Turn Man 2",
+                          "Turn Man 4",
+                          "Turn Odd Men",
+                          "Turn Man 2 \\ Man 4",
+                          "Turn Man 5",
+                          "Turn The Law",
+                          "Put Man 5 over",
+                          "Put The Law over",
+                          "Debut Odd Men",
+                          "Debut Man 2 \\ Man 4",
+                          "Debut Man 1",
+                          "Debut Man 3",
+                          "Debut Man 2",
+                          "Debut Man 4",
+                          "Debut The Law",
+                          "Debut Man 5",
+                          "Debut Man 6",
+                          "",
+                          "",
+                          "Turn Man 6",
+                          "Turn Man 7",
+                          "Turn Man 8",
+                          "Turn Man 7 \\ Man 8",
+                          "Put Man 7 over",
+                          "Put Man 7 \\ Man 8 over",
+                          "Debut Man 7",
+                          "Debut Man 8",
+                          "Debut Man 7 \\ Man 8"};
+  EXPECT_EQ(WordsOf(world, match, PurposesOf(kTag), false), purposes);
+  EXPECT_EQ(WordsOf(world, match, PurposesOf(kTag), true), purposes);
 }
 
 TEST(SegmentWords, TellHowSixAndEightManMatchesEnd) {
@@ -295,7 +299,11 @@ TEST(SegmentWords, TellHowSixAndEightManMatchesEnd) {
     match.Winner = 2;
     match.Loser = men;
     EXPECT_EQ(WordsOf(world, match, FinishesOf(style), false), words);
-    EXPECT_EQ(SummaryText(world, match, FinishesOf(style), kCheapVictory), "Cheap");
+    words[0] = "Clean";
+    words[1] = "Cheap";
+    words[words.size() - 2] = "Double Count Out";
+    words.back() = "Sports Entertainment Finish (tm)";
+    EXPECT_EQ(WordsOf(world, match, FinishesOf(style), true), words);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include "booking/onsheet.h"
 #include "booking/sheetrow.h"
+#include "records/angles.h"
 #include "show/forecast.h"
 #include "support/scripteddraws.h"
 
@@ -146,7 +147,96 @@ TEST(TelevisionSheet, TellsWhatIsBookedInARow) {
   };
   EXPECT_TRUE(textOf(2).starts_with("CWA Hand 1 over CWA Hand 2\n")) << textOf(2);
   EXPECT_NE(textOf(2).find("CWA Crown Title Match!"), std::string::npos);
+  EXPECT_NE(textOf(3).find("\nWorker #1: CWA Hand 5\nWorker #2: CWA Hand 6\n"), std::string::npos)
+      << textOf(3);
+  EXPECT_TRUE(textOf(4).ends_with("\nTo book something else in this row, remove it first."))
+      << textOf(4);
   EXPECT_NE(textOf(1).find("Nothing is booked here."), std::string::npos);
+}
+
+Segment Booked(const World& world, int kind, int style, int type, int people) {
+  Segment segment = EmptySegment();
+  segment.Kind = kind;
+  segment.Style = style;
+  segment.MatchType = type;
+  for (int i = 1; i <= people; ++i)
+    segment.Worker[static_cast<std::size_t>(i - 1)] =
+        Named(world.Workers(), "CWA Hand " + std::to_string(i)).Uid;
+  return segment;
+}
+
+TEST(DetailsOfRow, TellsWhatTheSummaryLeavesOut) {
+  const World world = Sunday();
+  const auto uid = [&](int hand) { return int(world.Workers()[hand].Uid); };
+  struct Row {
+    int Style, Type, People;
+    std::vector<int> Result;  // Winner, Loser, Place3 and up, by their hands
+    Names Told;
+  };
+  const Row kRows[] = {
+      {kSingles, 1, 2, {1, 2}, {}},
+      {kTag, 1, 4, {2, 4}, {"Fall: CWA Hand 2 over CWA Hand 4"}},
+      {kTag, 1, 4, {}, {}},
+      {kThreeWay, kTriangle, 3, {3, 1}, {"Fall: CWA Hand 3 over CWA Hand 1"}},
+      {kThreeWay, kElimination, 3, {2, 3, 1}, {"Order of elimination: CWA Hand 3, CWA Hand 1"}},
+      {kThreeTeams, kTriangle, 6, {6, 2}, {"Fall: CWA Hand 6 over CWA Hand 2"}},
+      {kThreeTeams, kThreeTeamsTlc, 6, {1}, {}},
+      {kThreeTeams,
+       kElimination,
+       6,
+       {1, 5, 3},
+       {"Order of elimination: CWA Hand 5 \\ CWA Hand 6, The Dock Rats"}},
+      {kFourWay,
+       kElimination,
+       4,
+       {1, 4, 2, 3},
+       {"Order of elimination: CWA Hand 4, CWA Hand 2, CWA Hand 3"}},
+      {kFourTeams,
+       kElimination,
+       8,
+       {1, 7, 3, 5},
+       {"Order of elimination: CWA Hand 7 \\ CWA Hand 8, The Dock Rats, CWA Hand 5 \\ CWA Hand "
+        "6"}},
+      {kThreeOnThree, 1, 6, {4, 2}, {"Fall: CWA Hand 4 over CWA Hand 2"}},
+      {kFourOnFour, 1, 8, {1, 8}, {"Fall: CWA Hand 1 over CWA Hand 8"}},
+      {kFourOnFour,
+       kSurvivor,
+       8,
+       {1, 5, 2, 6, 0, 7, 8},
+       {"Order of elimination: CWA Hand 5, CWA Hand 2, CWA Hand 6, CWA Hand 7, CWA Hand 8"}},
+      {kSpecial,
+       kTenMan,
+       10,
+       {9, 4},
+       {"Entrants: CWA Hand 1, CWA Hand 2, CWA Hand 3, CWA Hand 4, CWA Hand 5, CWA Hand 6, CWA "
+        "Hand 7, CWA Hand 8, CWA Hand 9, CWA Hand 10",
+        "Runner-up: CWA Hand 4"}},
+  };
+  for (const Row& row : kRows) {
+    Segment match = Booked(world, kMatch, row.Style, row.Type, row.People);
+    match.Loser = kNoLoser;
+    Word* const places[] = {&match.Winner, &match.Loser,  &match.Place3, &match.Place4,
+                            &match.Place5, &match.Place6, &match.Place7};
+    for (std::size_t i = 0; i < row.Result.size(); ++i)
+      *places[i] = row.Result[i] == 0 ? 0 : uid(row.Result[i]);
+    EXPECT_EQ(DetailsOfRow(world, match), row.Told) << row.Style << ", " << row.Type;
+  }
+}
+
+TEST(DetailsOfRow, TellsWhoPlaysWhat) {
+  const World world = Sunday();
+  Segment ambush = Booked(world, kAngle, kAmbush, 0, 4);
+  ambush.Worker[2] = 0;
+  EXPECT_EQ(DetailsOfRow(world, ambush),
+            (Names{"Ambushee: CWA Hand 1", "Ambusher #1: CWA Hand 2", "Saver: CWA Hand 4"}));
+  Segment attack = Booked(world, kAngle, kStableAttack, 0, 1);
+  attack.Text = "The Tide";
+  EXPECT_EQ(DetailsOfRow(world, attack), (Names{"Victim: CWA Hand 1", "Stable: The Tide"}));
+  Segment award = Booked(world, kAngle, kAwardSingles, 0, 2);
+  award.TitleName = "CWA Crown";
+  EXPECT_EQ(DetailsOfRow(world, award),
+            (Names{"Commissioner: CWA Hand 1", "Title: CWA Crown", "Worker: CWA Hand 2"}));
+  EXPECT_EQ(DetailsOfRow(world, Talk(world, "CWA Hand 1")), Names());
 }
 
 TEST(TelevisionSheet, SaysWhatTheShowMayComeToAndWhoIsFree) {
@@ -187,6 +277,7 @@ TEST(Sheet, StartsEmptyHoweverItWasLeft) {
   play.Desk.ExpectAsk("Confirm", kBackText, true, ui::Default::No);
   play.Desk.Click("cmdback");
   EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
+  EXPECT_EQ(play.World().Segments()[2].Kind, kEmptySegment) << "it is erased at once";
   play.Desk.Click("cmdnext");
   EXPECT_EQ(play.Row(2)[1], "<Nothing Booked>");
 }
@@ -293,6 +384,22 @@ TEST(TelevisionSheet, OffersTheAutoBookerWhileSomebodyAboveTheJobbersIsFit) {
     EXPECT_EQ(play.Desk.Enabled("cmdauto"), c.Offered) << c.Position << c.Status;
     EXPECT_EQ(play.Desk.Tip("cmdauto").empty(), c.Offered);
   }
+}
+
+TEST(TelevisionSheet, LooksForSomebodyToBookWhenItOpensAlone) {
+  OnSheet play(SmallWorld()
+                   .Network("Harbor 9")
+                   .Promotion("CWA")
+                   .Worker("Only One", kOpener, 60)
+                   .Show("Tidal Force", "Sunday", "Harbor 9")
+                   .Game("CWA"));
+  Named(play.World().Workers(), "Only One").Position = kJobber;
+  play.Look();
+  EXPECT_TRUE(play.Desk.Enabled("cmdauto"));
+  play.Desk.ExpectAsk("Confirm", kBackText, true);
+  play.Desk.Click("cmdback");
+  play.Desk.Click("cmdnext");
+  EXPECT_FALSE(play.Desk.Enabled("cmdauto"));
 }
 
 TEST(Sheet, OpensEachScreenAtHandAndComesBack) {

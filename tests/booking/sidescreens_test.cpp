@@ -13,8 +13,9 @@ Change<Worker> Unseen() {
 }
 
 /// What a way to a debut says, by what the wizard calls it; "-" for a way that there is not.
-std::string WhyNot(const World& world, const char* worker, std::string_view how) {
-  for (const DebutWay& way : WaysToDebut(world, Named(world.Workers(), worker)))
+std::string WhyNot(const World& world, const char* worker, std::string_view how,
+                   bool isEvent = false) {
+  for (const DebutWay& way : WaysToDebut(world, Named(world.Workers(), worker), isEvent))
     if (way.How == how) return way.WhyNot;
   return "-";
 }
@@ -45,6 +46,7 @@ TEST(frmDebut, ShowsWhoHasNotBeenSeen) {
 TEST(WaysToDebut, FitThePersonAndTheDay) {
   World world = SmallWorld()
                     .Promotion("CWA", kRegional, [](Promotion& p) { p.Risk = 50; })
+                    .Staff("Ida Quill", kWriter)
                     .Worker("Fresh", kMidcard, 40, Unseen())
                     .Worker("Suit", kNonWrestler, 40, Unseen())
                     .Worker("Mouth", kManager, 40, Unseen())
@@ -74,6 +76,42 @@ TEST(WaysToDebut, FitThePersonAndTheDay) {
       {"Hurt", "Debut Attack", "Hurt: Broken Leg, out for 3 months."},
   };
   for (const Case& c : kCases) EXPECT_EQ(WhyNot(world, c.Who, c.How), c.WhyNot) << c.Who << c.How;
+}
+
+TEST(WaysToDebut, InAnAngleNeedWriters) {
+  constexpr const char* kTooFew = "There are not enough writers for angles.";
+  struct Case {
+    int Writers, Shows;
+    const char *OnShow, *AtEvent;
+  };
+  for (const Case& c : {Case{0, 0, kTooFew, kTooFew}, Case{1, 0, "", ""}, Case{1, 1, kTooFew, ""},
+                        Case{2, 1, "", ""}}) {
+    SmallWorld small;
+    small.Network("Harbor 9").Promotion("CWA").Worker("Fresh", kMidcard, 40, Unseen());
+    for (int i = 1; i <= c.Writers; ++i) small.Staff("Quill " + std::to_string(i), kWriter);
+    if (c.Shows > 0) small.Show("Tidal Force", "Sunday", "Harbor 9");
+    const World world = small.Game("CWA");
+    EXPECT_EQ(WhyNot(world, "Fresh", "Debut Attack"), c.OnShow) << c.Writers << c.Shows;
+    EXPECT_EQ(WhyNot(world, "Fresh", "Debut Attack", true), c.AtEvent) << c.Writers << c.Shows;
+  }
+}
+
+TEST(frmDebut, KnowsWhichSheetItStandsBeside) {
+  for (const bool isEvent : {false, true}) {
+    SmallWorld small;
+    small.Network("Harbor 9")
+        .Promotion("CWA")
+        .Staff("Ida Quill", kWriter)
+        .Worker("Fresh", kMidcard, 40, Unseen())
+        .Show("Tidal Force", "Sunday", "Harbor 9")
+        .Event(3);
+    OnSheet play(small.Game("CWA", isEvent ? Day(std::chrono::year{2026} / 3 / 29) : kGameStart));
+    play.Desk.Click("cmddebut");
+    std::string told;
+    for (const Names& way : play.Desk.Rows("lstways"))
+      if (way[1] == "Debut Attack") told = way[2];
+    EXPECT_EQ(told, isEvent ? "Today" : "There are not enough writers for angles.");
+  }
 }
 
 SmallWorld Booked() {

@@ -94,6 +94,17 @@ TEST(frmIV2m, BringsThePartnerAndTheManagerAlong) {
   EXPECT_EQ(steps.Buffer(), (Names{"1", "3", "4"})) << "Max Mouth, Bob Bold, Cal Cold";
 }
 
+TEST(frmIV2m, TellsEverybodysNumbers) {
+  World world = TalkCompany();
+  Worker& bob = Named(world.Workers(), "Bob Bold");
+  bob.Condition = 71;
+  bob.Morale = 62;
+  Steps steps(std::move(world), kInterview);
+  ScriptDesk& desk = steps.Do({{"lsttype", "Tag Team With Manager"}}).Open().Desk;
+  EXPECT_EQ(desk.Rows("lstwres1")[0], (Names{"Max Mouth", "F", "50", "100", "80"}));
+  EXPECT_EQ(desk.Rows("lstwres2")[2], (Names{"Bob Bold", "F", "80", "71", "62"}));
+}
+
 TEST(frmIV2m, LeavesAloneWhatThePlayerHasChosen) {
   Steps steps(TalkCompany(), kInterview);
   ScriptDesk& desk = steps.Do({{"lsttype", "Tag Team With Manager"}}).Open().Desk;
@@ -154,6 +165,53 @@ TEST(frmIVPurpose, StartsFromNone) {
   }
 }
 
+/// The manager turns where there is one, though it is his client who is waiting to.
+TEST(frmIVPurpose, SaysWhoWillTurn) {
+  const auto company = [] {
+    World world = TalkCompany();
+    for (const char* client : {"Bob Bold", "Cal Cold"})
+      Named(world.Workers(), client).TurnPending = true;
+    return world;
+  };
+  struct Row {
+    const char* Style;
+    std::vector<std::pair<std::string, std::string>> Speakers;
+    const char* Target;
+    const char* Says;
+  };
+  const Row kRows[] = {
+      {"Single Worker",
+       {{"lstwres1", "Bob Bold"}},
+       "Eve East",
+       "Who turns with \"Turn\": Bob Bold on Eve East."},
+      {"Single Worker", {{"lstwres1", "Eve East"}}, "Bob Bold", ""},
+      {"Single Worker", {{"lstwres1", "Bob Bold"}}, "None", ""},
+      {"Tag Team",
+       {{"lstwres1", "Bob Bold"}},
+       "Eve East",
+       "Who turns with \"Turn\": Bob Bold on Eve East, Cal Cold on Eve East."},
+      {"Single Worker With Manager",
+       {{"lstwres1", "Bob Bold"}},
+       "Eve East",
+       "Who turns with \"Turn\": Max Mouth on Eve East."},
+      {"Tag Team With Manager",
+       {{"lstwres2", "Bob Bold"}},
+       "Eve East",
+       "Who turns with \"Turn\": Bob Bold on Eve East, Cal Cold on Eve East."},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.Says);
+    Steps steps(company(), kInterview);
+    ScriptDesk& desk = steps.Do({{"lsttype", row.Style}})
+                           .Do(row.Speakers)
+                           .Do({{"lstopp1", row.Target}})
+                           .Open()
+                           .Desk;
+    EXPECT_EQ(desk.Text("lblturn"), row.Says);
+    EXPECT_EQ(desk.Visible("lblturn"), *row.Says != 0);
+  }
+}
+
 TEST(frmAngleType, StartsFromWalkingAndTellsEachAngle) {
   Steps steps(TalkCompany(), kAngle);
   ScriptDesk& desk = steps.Open().Desk;
@@ -209,9 +267,10 @@ TEST(frmAnglePeople, ShowsTheBoxesOfTheAngle) {
   EXPECT_TRUE(desk.Visible("cmb3"));
   EXPECT_FALSE(desk.Visible("cmb4"));
   EXPECT_FALSE(desk.Visible("lbl4"));
-  EXPECT_EQ(desk.Text("lblabout1"), "Midcard, Face, Over 60");
+  EXPECT_EQ(desk.Text("lblabout1"), "Midcard, Face, Over 60, Condition 100, Morale 80");
   desk.Pick("cmb1", "Fay Fair");
-  EXPECT_EQ(desk.Text("lblabout1"), "Midcard, Heel, Over 60, waiting to turn");
+  EXPECT_EQ(desk.Text("lblabout1"),
+            "Midcard, Heel, Over 60, Condition 100, Morale 80, waiting to turn");
   desk.Pick("cmb2", "Fay Fair");
   Refused(desk, "Please select unique workers!");
   EXPECT_EQ(steps.Buffer(), Names());
@@ -222,7 +281,8 @@ TEST(frmAnglePeople, TellsOfStablesTitlesAndManagers) {
   ScriptDesk& desk = steps.Do({{"lstangle", "Stable Kick-Out"}}).Open().Desk;
   EXPECT_EQ(desk.Text("lblabout2"), "2 of 10 members, 2 of them active, led by Tide One");
   desk.Pick("cmb1", "Tide Two");
-  EXPECT_EQ(desk.Text("lblabout1"), "Midcard, Face, Over 60, managed by Mo Fresh, in The Tide");
+  EXPECT_EQ(desk.Text("lblabout1"),
+            "Midcard, Face, Over 60, Condition 100, Morale 80, managed by Mo Fresh, in The Tide");
   Steps award(TalkCompany(), kAngle);
   EXPECT_EQ(award.Do({{"lstangle", "Award Singles Title"}}).Open().Desk.Text("lblabout2"),
             "Vacant, image 50%");

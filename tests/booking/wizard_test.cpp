@@ -282,12 +282,47 @@ TEST(frmBookSheet, OpensOnlyWhatIsDue) {
   EXPECT_EQ(enabled("cmdbook"), Lines{"5"}) << "the last row stays open for going back";
   EXPECT_EQ(enabled("cmdback"), Lines{"5"});
   EXPECT_TRUE(play.Desk.Enabled("cmdcomplete"));
+  for (const char* row : {"(6)", "(7)", "(8)", "(9)"}) {
+    EXPECT_EQ(play.Desk.Text(std::string("txtstep") + row), "???");
+    EXPECT_TRUE(play.Desk.Visible(std::string("txtstep") + row));
+  }
   play.Desk.Click("cmdbook(5)");
   play.Desk.Pick("cmbwinner", "Man 2");
   play.Desk.Click("cmddone");
   EXPECT_EQ(play.Desk.Text("txtdesc(5)"), "Result = Man 2 Wins");
   play.Desk.Click("cmdexit");
   EXPECT_EQ(play.Slot(2).Kind, kEmptySegment);
+}
+
+/// What Enter presses on the top screen.
+std::string EnterPresses(const ScriptDesk& desk) {
+  const ui::Page page = desk.Top()->Layout();
+  const bool main = page.Main->Visible || !page.Then;
+  return (main ? page.Main : page.Then)->Name();
+}
+
+TEST(frmBookSheet, IsLedToTheEndByItsMainButtonAlone) {
+  BookingPlay play(BookingRoster().Game("CWA"));
+  play.Desk.Open(MakefrmBookSheet(play.Play, 1, false));
+  EXPECT_FALSE(play.Desk.Enabled("cmdcomplete"));
+  for (int step = 0; step < 9; ++step) {
+    ASSERT_EQ(EnterPresses(play.Desk), "cmdstep");
+    play.Desk.Click("cmdstep");
+    if (step == kPeopleStep) {
+      play.Desk.Pick("lstwres1", "Man 1");
+      play.Desk.Pick("lstwres2", "Man 2");
+    }
+    play.Desk.Click("cmddone");
+    ASSERT_EQ(play.Desk.TopName(), "frmBookSheet") << step;
+  }
+  EXPECT_FALSE(play.Desk.Visible("cmdstep"));
+  EXPECT_EQ(EnterPresses(play.Desk), "cmdcomplete");
+  play.Desk.Click("cmdback(8)");
+  EXPECT_EQ(EnterPresses(play.Desk), "cmdstep") << "it is unfinished again";
+  play.Desk.Click("cmdstep");
+  play.Desk.Click("cmddone");
+  play.Complete();
+  EXPECT_EQ(DescribeSegment(play.World(), play.Slot()), "Man 1 over Man 2");
 }
 
 TEST(frmBookSheet, LimitsCompetitorsToASplit) {

@@ -97,6 +97,43 @@ TEST_F(TheWindow, TakesEnterForMainAndEscapeForCancel) {
   EXPECT_EQ(Top(), "frmHub");
 }
 
+/// Goes on once, then there is nothing left but to end it.
+class TwoSteps : public ui::Screen {
+ public:
+  TwoSteps(ui::Desk& desk, Log& log) : Screen(desk, "frmTwo", "Two", ui::Role::Dialog), log_(log) {
+    cmdend.Enabled = false;
+  }
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Actions = {&cmdend, &cmdon};
+    page.Main = &cmdon;
+    page.Then = &cmdend;
+    return page;
+  }
+
+ private:
+  void GoesOn() {
+    log_.push_back("on");
+    cmdon.Visible = false;
+    cmdend.Enabled = true;
+  }
+  Log& log_;
+  ui::Button cmdend{*this, "cmdend", "End", [this] { log_.push_back("end"); }};
+  ui::Button cmdon{*this, "cmdon", "Go On", [this] { GoesOn(); }};
+};
+
+TEST_F(TheWindow, HandsEnterOnWhenMainIsGone) {
+  Play.Desk.Open(std::make_unique<TwoSteps>(Play.Desk, Notes));
+  Play.Window.Sync();
+  EXPECT_TRUE(BearsEnter("cmdon"));
+  EXPECT_FALSE(BearsEnter("cmdend"));
+  Play.Key(Qt::Key_Return);
+  EXPECT_FALSE(Play.Sees("cmdon"));
+  EXPECT_TRUE(BearsEnter("cmdend"));
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Notes, Log({"on", "end"}));
+}
+
 TEST_F(TheWindow, GivesEnterToAButtonThatWasReachedByTab) {
   OpenDesk();
   for (int i = 0; i < 40 && Play.FocusName() != "cmdmore"; ++i) Play.Key(Qt::Key_Tab);

@@ -124,6 +124,23 @@ TEST_P(VoiceReport, TellsEveryBookableMatchWithItsResultAndItsPeopleAlone) {
   }
 }
 
+/// The uid 1, which also says that nobody is named, is somebody's.
+TEST_P(VoiceReport, NamesTheFirstWorkerWhenHeLoses) {
+  World world = Roster();
+  world.Game().Reporter = GetParam();
+  for (const MatchTypeRow& type : kMatchTypes) {
+    if (type.Style != kSingles && type.Style != kTag && type.Style != kThreeWay) continue;
+    Segment segment = Match(type.Style, type.Code);
+    segment.Winner = type.Style == kTag ? 3 : 2;
+    segment.Loser = 1;
+    if (type.Style == kThreeWay && type.Code == kElimination) segment.Place3 = 3;
+    segment.Finish = FinishesOf(type.Style).empty() ? 0 : int(kClean);
+    const std::string text = Report(world, segment);
+    ExpectSound(world, segment, text);
+    EXPECT_NE(Last(text, 3).find("Zulu1"), std::string::npos) << text;
+  }
+}
+
 TEST_P(VoiceReport, TellsDrawsWithoutAWinner) {
   World world = Roster();
   world.Game().Reporter = GetParam();

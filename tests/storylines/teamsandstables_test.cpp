@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "records/angles.h"
 #include "records/checkworld.h"
 #include "records/segments.h"
 #include "storylines/managers.h"
@@ -116,6 +117,48 @@ TEST(frmStables, FoundsRenamesAndDissolves) {
   EXPECT_EQ(Named(play.World().Workers(), "Zed").Stable, "The Foes");
   play.World().Segments().Remove();
   ExpectFaultless(play.World());
+}
+
+TEST(frmStables, TakesWhatIsBookedForItOffTheSheet) {
+  GameOnWorld play(Roster());
+  struct Row {
+    int Kind, Style;
+    const char* Text;
+    int Rating;
+    bool Goes;
+  };
+  const Row kRows[] = {
+      {kAngle, kStableAttack, "The Firm", 0, true},   {kAngle, kStableVideo, "The Firm", 0, true},
+      {kAngle, kStableAttack, "The Rest", 0, false},  {kAngle, kWalking, "The Firm", 0, false},
+      {kAngle, kStableAttack, "The Firm", 70, false}, {kInterview, kSingleTalk, "None", 0, false}};
+  for (const Row& row : kRows) {
+    Segment segment = EmptySegment();
+    segment.Kind = row.Kind;
+    segment.Style = row.Style;
+    segment.Worker[0] = 3;
+    segment.Text = row.Text;
+    segment.Rating = row.Rating;
+    play.World().Segments().Append(segment);
+  }
+  play.Desk.Open("frmStables");
+  const auto dissolve = [&](const char* stable, const std::string& price, bool yes) {
+    play.Desk.Pick("lststables", stable);
+    play.Desk.ExpectAsk("Dissolve?",
+                        "Are you sure you wish to dissolve " + std::string(stable) + "?" + price,
+                        yes, ui::Default::No);
+    play.Desk.Click("cmddissolve");
+  };
+  const char* two = " The 2 segments that are booked for it will be removed from the sheet.";
+  dissolve("The Firm", two, false);
+  EXPECT_EQ(play.World().Segments()[1].Kind, kAngle);
+  dissolve("The Firm", two, true);
+  int record = 0;
+  for (const Row& row : kRows) {
+    EXPECT_EQ(play.World().Segments()[++record].Kind, row.Goes ? int(kEmptySegment) : row.Kind);
+    EXPECT_EQ(play.World().Segments()[record].Text, row.Goes ? "None" : row.Text) << record;
+  }
+  dissolve("The Rest", " The segment that is booked for it will be removed from the sheet.", true);
+  EXPECT_EQ(play.World().Segments()[3].Kind, kEmptySegment);
 }
 
 TEST(frmStables, TakesInAndOut) {
