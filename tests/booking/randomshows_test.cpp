@@ -89,7 +89,7 @@ TEST(RandomShows, LeaveASoundWorldBehind) {
       ASSERT_TRUE(ShowIsClosed(world));
       ASSERT_EQ(NextSegment(world), 0);
       ASSERT_TRUE(rating >= 0 && rating <= 100) << rating;
-      ExpectSound(world);
+      if (isTold) ExpectSound(world);  // with the closed show still among its files
       LeaveShow(world);
       ASSERT_EQ(world.Session.ShowRating, rating);
       ASSERT_EQ(ShowUnderWay(world), nullptr);
