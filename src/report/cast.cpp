@@ -117,7 +117,8 @@ std::string Capitalised(std::string name) {
 }  // namespace
 
 std::string TitleInProse(std::string_view name, bool singles) {
-  const std::string plain = OneSpaced(name);
+  std::string plain = OneSpaced(name);
+  if (plain.starts_with("The ") || plain.starts_with("the ")) plain.erase(0, 4);
   if (plain.empty()) return {};
   for (const std::string_view word : {"Title", "Titles", "Championship", "Championships", "Crown",
                                       "Crowns", "Belt", "Belts", "Cup", "Trophy"})
@@ -163,7 +164,7 @@ void Cast::Set(char part, Person* person) {
   if (person) party.People.push_back(person);
 }
 
-void Cast::Set(char part, const World& world, const std::vector<int>& uids) {
+Party Cast::Together(const World& world, const std::vector<int>& uids) {
   Party party;
   for (const int uid : uids)
     if (Person* person = Find(world, uid);
@@ -173,7 +174,7 @@ void Cast::Set(char part, const World& world, const std::vector<int>& uids) {
     if (const std::string team = TeamNameOf(world, party.People[0]->Uid, party.People[1]->Uid);
         team != "None")
       party.Name = OneSpaced(team);
-  Of(part) = std::move(party);
+  return party;
 }
 
 std::string Cast::PersonName(Person& person, Hole::Kind form) {

@@ -17,7 +17,7 @@
 //   o p q r  the run-ins, Other1 to Other4
 //   t v u    who turns (or is put over, or makes a debut); the victim of an attack after the bell;
 //            who stands beside the run-in then
-//   m c e    a manager; the champion or champions at the bell; free
+//   m c      a manager; the champion or champions at the bell
 //   W L      all of the winning and the losing side; Z the survivors among the winners
 //   F S X Y  the sides in their order (an angle: its first and its second pair)
 //   O Q      the run-ins of the finish, and of the aftermath, together
@@ -53,9 +53,12 @@ class Cast {
 
   const Party& Of(char part) const { return parties_[Place(part)]; }
   Party& Of(char part) { return parties_[Place(part)]; }
-  void Set(char part, Person* person);
   /// Those of them who are there; a pair takes its team's name.
-  void Set(char part, const World& world, const std::vector<int>& uids);
+  Party Together(const World& world, const std::vector<int>& uids);
+  void Set(char part, Person* person);
+  void Set(char part, const World& world, const std::vector<int>& uids) {
+    Of(part) = Together(world, uids);
+  }
 
   const std::string& Thing(Item item) const { return things_[static_cast<std::size_t>(item)]; }
   void Set(Item item, std::string text) {

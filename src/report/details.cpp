@@ -65,11 +65,13 @@ std::string AngleNames(const World& world, const Segment& segment) {
 
 SegmentDetails MatchDetails(const World& world, const Segment& segment) {
   const MatchStyleRow* style = FindMatchStyle(segment.Style);
+  const std::string belt = BeltLine(world, segment);
   return {"Match Details",
           std::string(style ? style->Says : ""),
-          std::string(MatchTypeText(segment.Style, segment.MatchType)),
+          std::string(MatchTypeText(segment.Style, segment.MatchType)) +
+              (belt.empty() ? "" : " Title Match! "),
           MatchNames(world, segment),
-          BeltLine(world, segment),
+          belt,
           WinnerLine(world, segment)};
 }
 

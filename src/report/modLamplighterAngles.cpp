@@ -148,7 +148,7 @@ constexpr Block kBlocks[] = {
      16,
      {
          "{O} grab{O:s} a leg each, or both, of {1}, and pull. There is a ring post. There is {1}. "
-         "They meet. Every man in the building crossed his legs at once. ",
+         "They meet. The whole building crossed its legs at once. ",
          "{1} is dragged to the corner by {O}, one side of the post for each leg. Clang! {1} sang "
          "a high C, and held it. ",
      }},
@@ -172,10 +172,10 @@ constexpr Block kBlocks[] = {
     {AngleText,
      19,
      {
-         "It's the bikini contest! {1} shows hers, {2} shows hers, and the judge needs a sit-down. "
-         "{?3}Then {3} storms in and ruins the whole thing, kicking over the podium. Boo! "
-         "{.}{?turn}We liked {3} until about a minute ago. {.}{!3}The crowd can't choose, and asks "
-         "for extra time. {.}",
+         "It's the bikini contest! {1} goes first, {2} goes one better, and the judge needs a "
+         "sit-down. {?3}Then {3} storms in and ruins the whole thing, kicking over the podium. "
+         "Boo! {.}{?turn}We liked {3} until about a minute ago. {.}{!3}The crowd can't choose, and "
+         "asks for extra time. {.}",
          "{1} and {2} take the robes off, and somebody drops a tray. {?3}Just as the cheering is "
          "being measured here's {3} with a bucket of paint. It's over, it's green. "
          "{.}{?turn}That's {3} off the Christmas list for good. {.}{!3}I had it even. I'd like to "

@@ -56,14 +56,15 @@ constexpr Block kBlocks[] = {
          "{w} has something in {w:his} boot, then in {w:his} fist, and then it's on the jaw of "
          "{l}. What referee? ",
          "{w} hits {l} where the sun is shy, and smiles at the referee like a choirboy. ",
-         "A thumb to the eye of {l}, both feet on the ropes, and {w} has won prettier. ",
+         "A thumb to the eye of {l}, both feet on the ropes. {w} has won prettier ones. ",
      }},
     {SinglesFinish,
      kDoubleDq,
      {
          "{1} swings a chair, {2} swings a bell, and nobody is listening to the referee. ",
          "{1} and {2} are both choking each other, and then both of them choke the referee. ",
-         "{1} shoves the referee, {2} shoves him back. He's had it with the pair of them. ",
+         "{1} shoves the referee, {2} shoves the referee back. Stripes has had it with the pair of "
+         "them. ",
      }},
     {SinglesFinish,
      kDoubleCountOut,
@@ -343,7 +344,7 @@ constexpr Block kBlocks[] = {
      after1::kAttacksReferee,
      {
          "{l} takes it out on the referee, who only ever counted. Hah, die referee scum! ",
-         "{l} picks the referee up and puts him down quite hard. He'll be counting sheep. ",
+         "{l} picks the referee up and puts the referee down, quite hard. One, two, sheep. ",
      }},
     {SinglesAftermath,
      after1::kTantrum,
@@ -661,7 +662,7 @@ constexpr Block kBlocks[] = {
      kRetained,
      {
          "{C} keep{C:s} {title}! It goes with the boots, anyhow. ",
-         "Still the champion: {C}, with {title} held high. ",
+         "No change at the top: {C}, with {title} held high. ",
          "{title} stay{title:s} just where {title:is} best looked after, with {C}. ",
          "The crowd counts the belts, and nothing is missing: {C} still {C:has} {title}. ",
          "{C} get{C:s} to dust {title} for another week. ",
@@ -726,7 +727,7 @@ constexpr Block kBlocks[] = {
          "{F} and {S} went out to put on a match, and by gum that's what they did. ",
          "No nonsense, just wrestling from {F} and {S}. I nearly put my beer down. ",
          "You can keep your explosions, I'll take {F} and {S} doing that. ",
-         "Somebody behind me said that {F} and {S} were worth the bus fare. From him that's "
+         "Somebody behind me said that {F} and {S} were worth the bus fare. From up there that's "
          "poetry. ",
          "{F} and {S} could do that again tomorrow and I'd come. I'd even pay. Half. ",
      }},

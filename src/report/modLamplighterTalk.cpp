@@ -89,7 +89,8 @@ constexpr Block kBlocks[] = {
      {
          "{T} take{T:s} turns at it: one does the insults, the other does the echo. {V} {V:is} "
          "called everything from a weasel to a spoon. ",
-         "\"{V}!\" yell the two of them. \"You couldn't beat an egg!\" High fives. They miss. ",
+         "The two of them yell it together. {?V}It's about {V}. {.}\"Couldn't beat an egg!\" High "
+         "fives. They miss. ",
      }},
     {Speech,
      TalkBand(kTeamTalk, kHypeMatch),
@@ -179,8 +180,8 @@ constexpr Block kBlocks[] = {
      TalkBand(kManagedTeamTalk, kVerbalAttack),
      {
          "{m} insults {V} in rhyme, while {T} do{T:es} the beat. It's dreadful, and it scans. ",
-         "\"{V}?\" says {m}. \"I've got bunions with more talent!\" {T} would like to see the "
-         "bunions. ",
+         "{?V}{m} has heard of {V}. {.}\"I've got bunions with more talent!\" {T} would like to "
+         "see the bunions. ",
      }},
     {Speech,
      TalkBand(kManagedTeamTalk, kHypeMatch),

@@ -247,7 +247,7 @@ constexpr Block kBlocks[] = {
     {SinglesAftermath,
      after1::kTantrum,
      {
-         "{l} throws a fit, then the bell. ",
+         "{l} throws a fit at the timekeeper. ",
          "Big baby {l} stomps, screams, throws a chair. ",
      }},
     {SinglesAftermath,

@@ -407,8 +407,8 @@ constexpr Block kBlocks[] = {
     {AngleText,
      45,
      {
-         "{1} brings out a very small man dressed as {2}. He does the walk, he does the voice, he "
-         "falls off a box. I was not going to laugh. {2}, watching, was not either. ",
+         "{1} brings out a very small man dressed as {2}. The walk is there, the voice is there, "
+         "there is a fall off a box. I was not going to laugh. {2}, watching, was not either. ",
          "An impression of {2}, by a midget in the right colours, hired by {1}. I have seen the "
          "gag eleven times. The eyebrows lifted it. ",
      }},
@@ -596,7 +596,7 @@ constexpr Block kBlocks[] = {
     {AngleText,
      67,
      {
-         "It is Christmas, and a Santa is in the ring. {2} comes near enough to be hit by him, for "
+         "It is Christmas, and a Santa is in the ring. {2} comes near enough to be hit, for "
          "beneath the beard is {1}. I have sat through this every December of my working life. It "
          "was the best wrapped one. ",
          "Santa has something for {2}: a beating, and it turns out to be from {1}. Seasonal "
@@ -697,10 +697,10 @@ constexpr Block kBlocks[] = {
          "They get as far as the vows. {?4}Then {4} breaks it up and gets {2} out of there. "
          "{.}{!4}Then {2} tears loose and is gone, veil and all. {.}So it does not go ahead. They "
          "never go ahead. I have kept the invitation. ",
-         "{2} is led to {1} by {G}, in black. There is a celebrant, and he has a fair voice. "
-         "{?4}Just short of the last words {4} comes in and carries {2} off. {.}{!4}Just short of "
-         "the last words {2} kicks over the altar and runs. {.}It almost happened. As a set piece "
-         "I would put it in my top five, of a field of six. ",
+         "{2} is led to {1} by {G}, in black. There is a celebrant, with a fair voice. {?4}Just "
+         "short of the last words {4} comes in and carries {2} off. {.}{!4}Just short of the last "
+         "words {2} kicks over the altar and runs. {.}It almost happened. As a set piece I would "
+         "put it in my top five, of a field of six. ",
      }},
     {AngleText,
      79,

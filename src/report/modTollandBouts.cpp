@@ -88,7 +88,7 @@ constexpr Block kBlocks[] = {
          "There is the tap from {l}. {w} releases at once, as one professional to another. ",
          "{l} looks for the ropes, does the sum, and submits. The win goes to {w}. ",
          "{l} gives up. {w} had worked towards it, and I like to see work paid. ",
-         "There is the tap from {l}. {w} wins with the hold that the match was about. ",
+         "There is the tap from {l}. {w} lets go at once, which is good manners, and wins. ",
      }},
     {PinNoRef,
      0,
@@ -108,11 +108,11 @@ constexpr Block kBlocks[] = {
          "{a} swings at {d} and the referee gets between them. We have our mandatory ref bump, as "
          "he goes down after accidentally getting caught. ",
          "The referee bumps after catching a wild right hand and is down. It was meant for {d}. ",
-         "{d} is whipped into the corner, where the referee was standing. I do not know why he was "
-         "standing there. I have never known why they stand there. ",
+         "{d} is whipped into the corner, where the referee was standing. I do not know why. I "
+         "have never known why they stand there. ",
          "{a} and {d} collide with the official, who sells it as if from a rooftop. It is the two "
          "hundredth this year by my tally. ",
-         "{d} backs into the referee, lightly. He will be out for five minutes. It is a delicate "
+         "{d} backs into the referee, lightly. That is five minutes out. It is a delicate "
          "profession. ",
          "{a} shoves {d}, {d} meets the referee, the referee meets the floor. Ref bump, and I sigh "
          "so that you do not have to. ",
@@ -284,7 +284,8 @@ constexpr Block kBlocks[] = {
          "{a} has {d} flat and the count at eight. Nobody in the building believes it yet, and "
          "they are right. ",
          "{a} lays {d} low. The count goes slow enough to be generous. {d} rises, wobbling. ",
-         "{d} is up at nine. It is always nine. This time I could not swear to it. ",
+         "{a} stands over the count. {d} is up at nine. It is always nine, but this time I was not "
+         "sure. ",
          "{a} has the patience to let the count run. {d} breaks it at eight on the strength of one "
          "arm. ",
          "{d} uses {a} to get up, hand over hand. {a} ought to have moved. ",
@@ -436,7 +437,7 @@ constexpr Block kBlocks[] = {
     {Spot,
      kWireSpot,
      {
-         "{a} sends {d} into the strands. Even the referee keeps his distance. ",
+         "{a} sends {d} into the strands. Even the referee keeps at a distance. ",
          "{a} drags the forearm of {d} along the barbs. I look at my notes for a while. ",
          "{d} stops an inch short of the wire. {a} supplies the inch. ",
          "{a} wraps a strand around the boot and steps on {d}. That is inventive. Perhaps too "
@@ -504,7 +505,7 @@ constexpr Block kBlocks[] = {
          "{a} waits for {d} to turn around, and there is the {finisher}. ",
          "{a} lands the {finisher} on {d}, flush. ",
          "{a} sets it up, looks at nobody, and hits {d} with the {finisher}. ",
-         "{d} had blocked it twice tonight. {a} gets the {finisher} at the third try. ",
+         "{a} has one arm free, and one is enough for the {finisher}. {d} never moves. ",
          "The {finisher}. {a} has beaten better than {d} with that. ",
          "One mistake by {d}, one {finisher} from {a}. ",
      }},
@@ -813,7 +814,7 @@ constexpr Block kBlocks[] = {
          "Tag rules, and {F:members} and {S:members} seem to know them. ",
          "{F:members} meet {S:members}. One of these four will spend ten minutes reaching for a "
          "hand. ",
-         "It is {F:members} and {S:members}. I shall be watching the corners. ",
+         "{F:members} on one side, {S:members} on the other. I shall be watching the corners. ",
      }},
     {Opening,
      Bout(kTag, kTagHardcore),

@@ -10,8 +10,8 @@ constexpr Block kBlocks[] = {
     {DoubleDq,
      0,
      {
-         "The referee has seen what he needed to and calls for the bell. This is a double DQ. I "
-         "have a drawer for these. ",
+         "The referee has seen enough and calls for the bell. This is a double DQ. I have a drawer "
+         "for these. ",
          "Both are disqualified. A double DQ settles nothing, which I take to be its purpose. ",
          "The bell goes, double disqualification. Somebody is keeping both of them strong, and the "
          "rest of us waiting. ",
@@ -71,8 +71,8 @@ constexpr Block kBlocks[] = {
          "{1} uses a chair, {2} uses the bell hammer, and neither will stop. ",
          "{1} and {2} both have hands on the throat and will not let go at five. One has to keep a "
          "rule or two. ",
-         "{1} hits the referee, by mistake I think. {2} hits him on purpose. That is the "
-         "difference between them, and it costs them both. ",
+         "{1} hits the referee, by mistake I think. {2} does it on purpose. That is the difference "
+         "between them, and it costs them both. ",
      }},
     {SinglesFinish,
      kDoubleCountOut,
@@ -140,8 +140,9 @@ constexpr Block kBlocks[] = {
      {
          "{l} and {k} are on the outside at ten, {w} is not. {W} win{W:s} by count out. A flat end "
          "to it. ",
-         "{k} brings a chair in and swings it at {w} before the referee has turned his back. {W} "
-         "win{W:s} by disqualification. You have to wait for him to turn. They always wait. ",
+         "{k} brings a chair in and swings it at {w} while the referee is still looking. {W} "
+         "win{W:s} by disqualification. You have to wait for the back to be turned. They always "
+         "wait. ",
          "{L} walk{L:s} away up the aisle. Ten is counted, and {W} win{W:s} by count out. A "
          "walk-out is a finish as a shrug is an answer. ",
      }},
@@ -257,8 +258,8 @@ constexpr Block kBlocks[] = {
     {CheapFinish,
      0,
      {
-         "{w} schoolboys {l} with a fistful of trunks. The referee was at the wrong angle, for "
-         "which he is paid. ",
+         "{w} schoolboys {l} with a fistful of trunks. The referee was at the wrong angle, as one "
+         "is paid to be. ",
          "There is a scuffle on the apron. Behind it {w} hits {l} with something from a boot. "
          "Cheap, and tidily hidden. ",
          "With this many in the ring somebody will go low, and {w} does, on {l}. I gave it a line, "
@@ -326,8 +327,7 @@ constexpr Block kBlocks[] = {
     {TitleOpening,
      kDefended,
      {
-         "{title} {title:is} on the line. {c} defend{c:s}, which is what champions are for and "
-         "rarely do. ",
+         "{title} {title:is} on the line. {c} defend{c:s}, which is what a title is for. ",
          "{c} put{c:s} {title} at stake. A title match gets a page of its own. ",
          "At stake {title:is} {title}, held by {c}. I expect a slower start and a better finish. ",
      }},
@@ -761,8 +761,7 @@ constexpr Block kBlocks[] = {
     {TitleEnding,
      kNewChampion,
      {
-         "{C} {C:has} taken {title} from {c}. A change of champion with a build behind it. I put "
-         "down the date. ",
+         "{C} {C:has} taken {title} from {c}. A change of champion. I put down the date. ",
          "New name on {title}: {C}. {c} had a reign, and I will total it up later. ",
          "{title} change{title:s} hands. {C} win{C:s}, {c} lose{c:s}, and my forecast was two "
          "months out. ",

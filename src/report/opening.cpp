@@ -44,7 +44,8 @@ void TellStake(Teller& teller) {
   } else if (!TakesPartAsEntrant(teller, holder)) {
     teller.Say(Family::TitleOpening, kChampionAway);
   } else {
-    teller.cast.Set('c', teller.world, {holder, teller.scene.CoChampion});
+    const int partner = teller.scene.CoChampion;
+    teller.cast.Set('c', teller.world, {holder, TakesPartAsEntrant(teller, partner) ? partner : 0});
     teller.Say(Family::TitleOpening, kDefended);
   }
 }
@@ -77,11 +78,8 @@ void TellChampion(Teller& teller) {
 std::vector<Party> Parties(Teller& teller) {
   std::vector<Party> parties;
   for (const auto& side : SidesOf(teller.segment)) {
-    Cast& cast = teller.cast;
-    const Party kept = cast.Of('e');
-    cast.Set('e', teller.world, side);
-    if (!cast.Of('e').Empty()) parties.push_back(cast.Of('e'));
-    cast.Of('e') = kept;
+    Party party = teller.cast.Together(teller.world, side);
+    if (!party.Empty()) parties.push_back(std::move(party));
   }
   return parties;
 }

@@ -34,9 +34,9 @@ std::string Verdict(World& world, const Segment& segment, int overall);
 struct SegmentDetails {
   std::string Heading;  // "Match Details", "Interview Details", "Angle Details"
   std::string Style;    // "1 vs 1"
-  std::string Type;     // "Ladder"
+  std::string Type;     // "Ladder"; "Ladder Title Match! "
   std::string Names;    // "Bram Okafor vs Ludo Marsh"; "... is backstage. "
-  std::string Belt;     // "For The Harbor Crown Title"; empty without one
+  std::string Belt;     // "(For The Harbor Crown Title)"; empty without one
   std::string Winner;   // "Winner : Bram Okafor", "Winner : Draw"; matches only
 };
 SegmentDetails DetailsOf(const World& world, const Segment& segment);

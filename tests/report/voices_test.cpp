@@ -56,8 +56,10 @@ TEST_P(VoiceTest, HasEveryBandOfEveryFamilyWithTheRightNumberOfLines) {
       const Block* block = OwnBlock(GetParam(), row.Of, band);
       if (!block)
         missing += At(Voice(), row, band) + "\n";
-      else
+      else if (row.Exact)
         EXPECT_EQ(static_cast<int>(block->All().size()), row.Lines) << At(Voice(), row, band);
+      else
+        EXPECT_GE(static_cast<int>(block->All().size()), row.Lines) << At(Voice(), row, band);
     }
   }
   EXPECT_EQ(missing, "");
@@ -127,7 +129,10 @@ TEST(Lines, AreSoundOrTheCompilerRefusesThem) {
                               {"{o} looks on. {.}", false},
                               {"{?o}{?p}both. {.}", false},
                               {"{title} is at stake. ", true},
-                              {"{titel} is at stake. ", false}})
+                              {"{titel} is at stake. ", false},
+                              {"{title} {title:is} at stake. ", true},
+                              {"{title:iss} at stake. ", false},
+                              {"{titel:is} at stake. ", false}})
     EXPECT_EQ(WhyNoLine(each.Text) == nullptr, each.IsLine) << each.Text;
 }
 
