@@ -37,6 +37,8 @@ class frmBookPeople : public MatchStepScreen {
     return ui::Rows(std::move(rows));
   }
 
+  bool NeedsWidth() const override { return ListsAbreast() > 3; }
+
   ui::Box SideBox(int side) {
     std::vector<ui::Box> lists;
     for (int member = 1; member <= style_.PerSide; ++member)

@@ -71,7 +71,9 @@ ui::Page StepScreen::Layout() {
   std::vector<ui::Box> lines;
   for (int line = 1; line <= kLines; ++line) lines.push_back(lblsofar(line));
   lines.push_back(ui::Spacer());
-  page.Body = ui::Columns({ui::Group("So far", std::move(lines)).Grow(1), Body().Grow(4)});
+  page.Body = NeedsWidth()
+                  ? ui::Rows({ui::Group("", {ui::Columns(std::move(lines))}), Body().Grow()})
+                  : ui::Columns({ui::Group("So far", std::move(lines)).Grow(1), Body().Grow(4)});
   return page;
 }
 

@@ -37,6 +37,8 @@ class StepScreen : public ui::Screen {
   virtual void Prepare() = 0;
   /// The right-hand side.
   virtual ui::Box Body() = 0;
+  /// Whether it wants the whole width: then what has been chosen so far stands above it.
+  virtual bool NeedsWidth() const { return false; }
   /// Checks what is chosen and puts it into the buffer; false leaves the step open with nothing
   /// stored.
   virtual bool Store() = 0;

@@ -221,7 +221,9 @@ TEST(ClearSegment, EmptiesWhatStandsInARowAndLeavesTheRest) {
     for (int i = 0; i < field.Count; ++i) {
       const std::string name = FieldName(field, i), shown = FieldShown(field, left, i);
       const bool stays = kept.contains(name) || (field.Count == 30 && i >= 4);
-      const std::string empty = name == "TitleName" || name == "Text" ? "None" : "0";
+      const std::string empty = name == "TitleName" || name == "Text" ? "None"
+                                : name == "Kind"                      ? "Empty"
+                                                                      : "0";
       EXPECT_EQ(shown, stays ? FieldShown(field, was, i) : empty) << name;
       EXPECT_NE(FieldShown(field, was, i), empty) << name << " had nothing to lose";
     }
