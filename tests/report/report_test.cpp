@@ -183,7 +183,7 @@ TEST_P(VoiceReport, NamesTheFirstWorkerWhenHeLoses) {
     if (type.Style == kThreeWay && type.Code == kElimination) segment.Place3 = 3;
     segment.Finish = FinishesOf(type.Style).empty() ? 0 : int(kClean);
     const std::string text = Report(world, segment);
-    ExpectSound(world, segment, text);
+    ExpectSound(segment, text);
     EXPECT_NE(Last(text, 3).find("Zulu1"), std::string::npos) << text;
   }
 }
