@@ -99,6 +99,7 @@ void SheetScreen::RefreshSheet() {
   Title = SheetHeading(world(), isEvent_);
   lblfacts.Text = Facts();
   lblwarn.Text = SheetWarning(world(), isEvent_);
+  lblwarn.Colour = MayStart(world(), isEvent_) ? ui::Tone::Muted : ui::Tone::Amber;
   ShowForecast();
   ShowCounts();
   ShowFree();

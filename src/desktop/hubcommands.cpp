@@ -37,7 +37,11 @@ bool Window::LeaveUpTo(const ui::Screen& hub) {
 
 void Window::PressHub(ui::Button& command) {
   const ui::Screen& hub = command.Parent();
-  if (!LeaveUpTo(hub)) return;
+  if (!LeaveUpTo(hub)) {
+    if (const ScreenView* top = TopView(); top && !box_ && !top->Page().Cancel)
+      Hint(*this, "This has to be seen through to its end first.");
+    return;
+  }
   Act([&] { return ui::Click(desk_, command.Parent(), command.Name()); });
   if (!desk_.Holds(hub)) return;
   RememberCommand(hub, command);

@@ -91,6 +91,7 @@ void ReportView::Show() {
     cursor.insertText(Shown(paragraph.Words), letters);
     first = false;
   }
+  moveCursor(QTextCursor::Start);  // a size that changes later keeps the cursor in sight
   verticalScrollBar()->setValue(0);
   FitBrief();
 }

@@ -52,7 +52,7 @@ class frmMatchOutput : public ui::Screen {
         {ui::Group("", {lbltitle, ui::Columns({lblinfo, txtstyle, txttype, txtbelt, ui::Spacer()}),
                         txtstip, ui::Grow(txtreport), lblwinner})
              .Grow(9),
-         ui::Rows({ui::Group("", std::move(figures)).Grow(5),
+         ui::Rows({ui::Group("", std::move(figures)).Grow(8),
                    ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4),
                    ui::Group("The show so far", {txtannouncers, ui::Grow(chtshow)}).Grow(4)})
              .Grow(4)});
