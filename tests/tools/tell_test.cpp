@@ -23,7 +23,7 @@ TEST_F(TellCommand, PrintsTheNextShowAndLeavesTheGameAsItIs) {
   EXPECT_EQ(0, told.Code) << told.Errors;
   EXPECT_TRUE(
       told.Out.starts_with("Event Report For Friday Fire\nFriday, 06 March 2026\n"
-                           "Reported By The Lamplighter\n\n"))
+                           "Reported By Rafe Tolland\n\n"))
       << told.Out;
   for (const char* part : {"\nMatch Details\n1 vs 1, ", "\nWinner : CWA Hand ",
                            "\n\nMatch Quality ", "%, Overall Rating ", "\n\nThe show: "})
