@@ -206,8 +206,9 @@ TEST_P(VoiceReport, SaysWhoHasWon) {
       EXPECT_TRUE(end.find(winner) != std::string::npos ||
                   end.find("Dock Rats") != std::string::npos)
           << type.Says << ": " << text;
-      for (const char* claim : {" wins", " defeats ", " beats ", " has won", " has it", " retains",
-                                " gets the duke", " is the winner", " gets the hand raised"})
+      for (const char* claim :
+           {" wins", " defeats ", " beats Zulu", " beats Aab", " has won", " has it", " retains",
+            " gets the duke", " is the winner", " gets the hand raised"})
         EXPECT_EQ(text.find(loser + claim), std::string::npos) << type.Says << ": " << text;
       for (const char* claim :
            {"winner : ", "Winner ", "Win for ", "Music for ", "under ", "goes to "})
