@@ -18,7 +18,9 @@ int SuspensionAt(int i) {
 class frmIncident : public ui::Screen {
  public:
   explicit frmIncident(Game& game)
-      : Screen(game.Desk(), "frmIncident", "Backstage", ui::Role::Dialog), game_(game) {}
+      : Screen(game.Desk(), "frmIncident", "Backstage", ui::Role::Dialog), game_(game) {
+    txtincident.Brief = true;
+  }
 
   ui::Page Layout() override {
     ui::Page page;
@@ -28,7 +30,7 @@ class frmIncident : public ui::Screen {
     page.Actions.insert(page.Actions.end(), {&cmdignore, &cmdaccept});
     page.Main = &cmdaccept;
     page.Cancel = &cmdignore;
-    page.Body = ui::Rows({ui::Grow(txtincident), lblabout});
+    page.Body = ui::Rows({txtincident, lblabout});
     return page;
   }
 
