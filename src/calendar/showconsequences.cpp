@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "business/networks.h"
 #include "business/sponsorlimits.h"
 #include "calendar/daykind.h"
 #include "calendar/daysteps.h"

@@ -75,7 +75,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<Feud>("feuds.csv", true),
           Kind<Segment>("segments.csv", true),
           Kind<Incident>("incidents.csv", true),
-          Kind<ShowRun>("showruns.csv", true)};
+          Kind<ShowRun>("showruns.csv", true),
+          Kind<HistoryEntry>("history.csv", true)};
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "records/companies.h"
 #include "records/draws.h"
 #include "records/gameinfo.h"
+#include "records/history.h"
 #include "records/people.h"
 #include "records/promotion.h"
 #include "records/showrun.h"
@@ -68,6 +69,9 @@ class World {
   /// One record while a show is under way, else none.
   Records<ShowRun>& ShowRuns() { return showRuns_; }
   const Records<ShowRun>& ShowRuns() const { return showRuns_; }
+  /// The past, oldest first.
+  Records<HistoryEntry>& History() { return history_; }
+  const Records<HistoryEntry>& History() const { return history_; }
   Records<GameInfo>& GameInfos() { return gameInfos_; }
   const Records<GameInfo>& GameInfos() const { return gameInfos_; }
   TextFile& Notes() { return notes_; }
@@ -106,7 +110,7 @@ class World {
   SessionWords Session;
 
   /// Every file of a world, the ten of the data set first and in their fixed order.
-  static constexpr int kTables = 17;
+  static constexpr int kTables = 18;
   std::array<Table*, kTables> Tables();
   std::array<const Table*, kTables> Tables() const;
 
@@ -149,6 +153,7 @@ class World {
   Records<Segment> segments_;
   Records<Incident> incidents_;
   Records<ShowRun> showRuns_;
+  Records<HistoryEntry> history_;
   TextFile notes_{"notes.dat"};
   mutable UidIndex workerIndex_, promotionIndex_, staffIndex_, networkIndex_, sponsorIndex_;
   std::unique_ptr<Draws> chance_, prose_;

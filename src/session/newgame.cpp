@@ -66,6 +66,7 @@ void EmptyFiles(World& world, const NewGameChoice& choice) {
   world.News().Remove();
   world.Segments().Remove();
   world.ShowRuns().Remove();
+  world.History().Remove();
   world.Incidents().Remove();
   world.Feuds().Rewrite(std::vector<Feud>(kFeuds));
   NewGameInfo(world, choice);

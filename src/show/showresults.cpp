@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "business/networks.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "show/attendance.h"
@@ -152,18 +153,6 @@ Show* ShowOn(World& world, int promotionUid, Day day) {
   for (Show& show : world.Shows())
     if (show.Owner == promotionUid && show.Day == DayName(day)) return &show;
   return nullptr;
-}
-
-int SlotAudience(const Network& network, std::string_view slot) {
-  if (slot == "E") return network.EarlyAudience;
-  if (slot == "P") return network.PrimeAudience;
-  return slot == "L" ? network.LateAudience : network.GraveAudience;
-}
-
-int SlotRisk(const Network& network, std::string_view slot) {
-  if (slot == "E") return network.EarlyRisk;
-  if (slot == "P") return network.PrimeRisk;
-  return slot == "L" ? network.LateRisk : network.GraveRisk;
 }
 
 void EventReport(World& world, Promotion& promotion, const Event& event, int type) {

@@ -9,9 +9,6 @@ namespace grapplemont {
 
 /// The promotion's show of this weekday, the first in the file; nullptr for none.
 Show* ShowOn(World& world, int promotionUid, Day day);
-/// The audience a network has in a time slot "E", "P", "L", "G", and the risk it bears there.
-int SlotAudience(const Network& network, std::string_view slot);
-int SlotRisk(const Network& network, std::string_view slot);
 
 /// Draws for the buy rate of a pay-per-view, then for the attendance. The image must have moved.
 /// `type` is the Event's as it was held: the image may have changed what the next ones will be.

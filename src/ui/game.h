@@ -53,6 +53,10 @@ class Game : public ui::Work {
   /// that manage something call it when they close. Set when the main screen is registered.
   std::function<void()> RefreshMainScreen;
 
+  /// Opens the page of a worker, a promotion, by uid: what a name on any screen leads to. Empty until
+  /// the rooms that have the pages are registered.
+  std::function<void(int uid)> OpenWorker, OpenPromotion;
+
   /// Makes the slot's world the open one. Throws SlotBusy, DiskError, WorldFault, and SlotDamaged
   /// unless the commits behind the damage may be dropped; then none is open. Gives what was left
   /// aside, a line each.

@@ -1,0 +1,54 @@
+#include "business/networks.h"
+
+#include <algorithm>
+#include <array>
+
+#include "business/economyfactor.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kSpots = 28;  // seven days of four slots
+
+// By size from Global to Regional: image 81 up, 61 to 80, 41 to 60, 21 to 40, below.
+constexpr std::array<std::array<int, 5>, 4> kPotential = {{{800, 760, 720, 680, 640},
+                                                           {600, 560, 520, 480, 440},
+                                                           {400, 360, 320, 280, 240},
+                                                           {200, 160, 120, 80, 40}}};
+
+constexpr EconomyFactor kEconomy[] = {
+    {91, kAnyHigh, 120}, {81, 90, 110}, {10, 19, 90}, {kAnyLow, 9, 80}};
+
+}  // namespace
+
+int SlotAudience(const Network& network, std::string_view slot) {
+  if (slot == "E") return network.EarlyAudience;
+  if (slot == "P") return network.PrimeAudience;
+  return slot == "L" ? network.LateAudience : network.GraveAudience;
+}
+
+int SlotRisk(const Network& network, std::string_view slot) {
+  if (slot == "E") return network.EarlyRisk;
+  if (slot == "P") return network.PrimeRisk;
+  return slot == "L" ? network.LateRisk : network.GraveRisk;
+}
+
+int AudiencePotential(const Promotion& promotion, int economy) {
+  if (promotion.Size > kRegional) return 0;
+  const auto& row = kPotential[static_cast<std::size_t>(std::max<int>(promotion.Size, 1) - 1)];
+  const int band = promotion.Image > 80   ? 0
+                   : promotion.Image > 60 ? 1
+                   : promotion.Image > 40 ? 2
+                   : promotion.Image > 20 ? 3
+                                          : 4;
+  return ByEconomy(row[static_cast<std::size_t>(band)], kEconomy, economy);
+}
+
+bool IsFull(const World& world, const Network& network) {
+  const auto& shows = world.Shows();
+  return std::count_if(shows.begin(), shows.end(),
+                       [&](const Show& show) { return show.Network == network.Uid; }) == kSpots;
+}
+
+}  // namespace grapplemont
