@@ -53,8 +53,8 @@ class Game : public ui::Work {
   /// that manage something call it when they close. Set when the main screen is registered.
   std::function<void()> RefreshMainScreen;
 
-  /// Opens the page of a worker, a promotion, by uid: what a name on any screen leads to. Empty until
-  /// the rooms that have the pages are registered.
+  /// Opens the page of a worker, a promotion, by uid: what a name on any screen leads to. Empty
+  /// until the rooms that have the pages are registered.
   std::function<void(int uid)> OpenWorker, OpenPromotion;
 
   /// Makes the slot's world the open one. Throws SlotBusy, DiskError, WorldFault, and SlotDamaged
