@@ -8,7 +8,7 @@ namespace grapplemont::console {
 namespace {
 
 using A = Arguments;
-constexpr std::array<VerbRow, 14> kVerbs = {{
+constexpr std::array<VerbRow, 15> kVerbs = {{
     {Verb::Show, A::MaybeName, "show", "show [NAME]", "the top screen, or all of one control"},
     {Verb::Click, A::Name, "click", "click NAME", "press a button, a picture or a box"},
     {Verb::Type, A::NameAndMaybeText, "type", "type NAME TEXT",
@@ -18,6 +18,8 @@ constexpr std::array<VerbRow, 14> kVerbs = {{
     {Verb::Open, A::NameAndText, "open", "open NAME ROW-or-TEXT", "double click a row"},
     {Verb::Check, A::NameAndText, "check", "check NAME on|off", "set a check box or an option"},
     {Verb::Slide, A::NameAndText, "slide", "slide NAME VALUE", "move a scroll bar"},
+    {Verb::Follow, A::Text, "follow", "follow NAME",
+     "open the page of a worker or promotion whose name the screen shows"},
     {Verb::Ok, A::None, "ok", "ok", "to a message: go on"},
     {Verb::Yes, A::None, "yes", "yes", "to a question"},
     {Verb::No, A::None, "no", "no", "to a question"},
@@ -60,6 +62,8 @@ bool Fits(const VerbRow& row, const Command& command) {
       return !command.Name.empty() && !command.Text.empty();
     case A::NameAndMaybeText:
       return !command.Name.empty();
+    case A::Text:
+      return !noText;
     case A::MaybeText:
       return true;
   }
@@ -82,7 +86,8 @@ std::optional<Command> ReadCommand(std::string_view line, std::string& why) {
     return std::nullopt;
   }
   Command command{row->Is, {}, {}};
-  if (row->Takes != A::None && row->Takes != A::MaybeText) command.Name = TakeWord(line);
+  const bool named = row->Takes != A::None && row->Takes != A::Text && row->Takes != A::MaybeText;
+  if (named) command.Name = TakeWord(line);
   command.Text = line;
   if (Fits(*row, command)) return command;
   why = "Write it as \"" + std::string(row->Form) + "\".";

@@ -15,6 +15,7 @@ enum class Verb {
   Open,
   Check,
   Slide,
+  Follow,
   Ok,
   Yes,
   No,
@@ -25,7 +26,7 @@ enum class Verb {
 };
 
 /// What stands behind a verb.
-enum class Arguments { None, MaybeName, Name, NameAndText, NameAndMaybeText, MaybeText };
+enum class Arguments { None, MaybeName, Name, NameAndText, NameAndMaybeText, Text, MaybeText };
 
 struct VerbRow {
   Verb Is;

@@ -145,6 +145,8 @@ void Console::Perform(const Command& command) {
       return Refuse(Check(*this, top, command));
     case Verb::Slide:
       return Refuse(Slide(*this, top, command));
+    case Verb::Follow:
+      return Refuse(ui::Follow(*this, top, command.Text));
     default:
       return Refuse("No box is open.");
   }

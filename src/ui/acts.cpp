@@ -194,4 +194,38 @@ std::string Slide(Desk& desk, Screen& screen, std::string_view name, int value) 
   return {};
 }
 
+namespace {
+
+/// The way to a link of these words in the text; empty for none.
+Handler LinkTo(const Desk& desk, std::string_view text, std::string_view words) {
+  if (text.find(words) == std::string_view::npos) return {};  // most texts
+  for (const Link& link : desk.LinksIn(text))
+    if (text.substr(link.From, link.Length) == words) return link.Open;
+  return {};
+}
+
+Handler LinkIn(const Desk& desk, const Control& control, std::string_view words) {
+  if (control.Is() == Kind::Label || control.Is() == Kind::Report)
+    return LinkTo(desk, control.Text.Get(), words);
+  const auto* list = dynamic_cast<const ListBox*>(&control);
+  if (!list) return {};
+  for (const ListBox::Row& row : list->Rows())
+    for (const Cell& cell : row.Cells)
+      if (Handler open = LinkTo(desk, cell.Text, words)) return open;
+  return {};
+}
+
+}  // namespace
+
+std::string Follow(Desk& desk, Screen& screen, std::string_view words) {
+  for (const Control* control : screen.Controls()) {
+    if (!control->Visible || words.empty()) continue;
+    if (const Handler open = LinkIn(desk, *control, words)) {
+      desk.Event(open);
+      return {};
+    }
+  }
+  return screen.Name() + " shows no link \"" + std::string(words) + "\".";
+}
+
 }  // namespace grapplemont::ui

@@ -22,5 +22,8 @@ std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, std::stri
 std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, int row);
 std::string Check(Desk& desk, Screen& screen, std::string_view name, bool on);
 std::string Slide(Desk& desk, Screen& screen, std::string_view name, int value);
+/// Follows a link whose words are `words`, wherever the screen shows it: in a label, a report or a
+/// table.
+std::string Follow(Desk& desk, Screen& screen, std::string_view words);
 
 }  // namespace grapplemont::ui

@@ -75,6 +75,10 @@ void Desk::Event(const Handler& handler) {
   closed_.clear();
 }
 
+std::vector<Link> Desk::LinksIn(std::string_view text) const {
+  return FindLinks && !text.empty() ? FindLinks(text) : std::vector<Link>();
+}
+
 void Desk::TakeBack(const Stack& before, const std::exception& fault) {
   std::string reason = Explained(fault);
   const auto attempt = [&](const Handler& step) {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ui/links.h"
 #include "ui/screen.h"
 
 namespace grapplemont::ui {
@@ -62,6 +63,11 @@ class Desk {
   /// throws, Work and the stack of screens go back to where they were and the player reads why.
   void Event(const Handler& handler);
   void SetWork(Work* work) { work_ = work; }
+
+  /// Says which pieces of a text are links, in their order; set once there are pages for them.
+  std::function<std::vector<Link>(std::string_view text)> FindLinks;
+  /// None until FindLinks has been set.
+  std::vector<Link> LinksIn(std::string_view text) const;
 
  private:
   using Stack = std::vector<std::shared_ptr<Screen>>;
