@@ -4,8 +4,10 @@ namespace grapplemont {
 
 void RegisterInfoScreens(Game& game) {
   using Make = std::unique_ptr<ui::Screen> (*)(Game&);
-  const std::pair<const char*, Make> screens[] = {
-      {"frmNews", MakefrmNews}, {"frmNotepad", MakefrmNotepad}, {"frmOptions", MakefrmOptions}};
+  const std::pair<const char*, Make> screens[] = {{"frmNews", MakefrmNews},
+                                                  {"frmNotepad", MakefrmNotepad},
+                                                  {"frmOptions", MakefrmOptions},
+                                                  {"frmUser", MakefrmUser}};
   for (const auto& [name, make] : screens)
     game.Desk().Register(name, [&game, make = make] { return make(game); });
 }

@@ -9,6 +9,7 @@ void RegisterInfoScreens(Game& game);
 
 std::unique_ptr<ui::Screen> MakefrmNews(Game& game);
 std::unique_ptr<ui::Screen> MakefrmNotepad(Game& game);
+std::unique_ptr<ui::Screen> MakefrmUser(Game& game);
 std::unique_ptr<ui::Screen> MakefrmOptions(Game& game);
 
 }  // namespace grapplemont
