@@ -3,6 +3,7 @@
 #include "booking/bookingscreens.h"
 #include "calendar/calendarscreens.h"
 #include "info/infoscreens.h"
+#include "roster/rosterscreens.h"
 #include "session/sessionscreens.h"
 #include "show/showscreens.h"
 #include "storylines/storyscreens.h"
@@ -11,6 +12,7 @@ namespace grapplemont {
 
 void RegisterScreens(Game& game) {
   RegisterStoryScreens(game);
+  RegisterRosterScreens(game);
   RegisterShowScreens(game);
   RegisterBookingScreens(game);
   RegisterCalendarScreens(game);

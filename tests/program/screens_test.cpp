@@ -46,10 +46,11 @@ void Visit(ScriptDesk& desk, const std::string& name) {
 }
 
 constexpr const char* kInGame[] = {
-    "frmMainScreen", "frmOptions", "frmNews",       "frmNotepad",  "frmFeuds",
-    "frmFeudStart",  "frmBooking", "frmPPVBooking", "frmWait",     "frmLoadingScreens",
-    "frmAutoBook",   "frmDebut",   "frmAltRoster",  "frmAltBelts", "frmQuickStat",
-    "frmTagTeams",   "frmStables", "frmManagers",   "frmTurn"};
+    "frmMainScreen", "frmOptions",   "frmNews",       "frmNotepad",  "frmFeuds",
+    "frmFeudStart",  "frmBooking",   "frmPPVBooking", "frmWait",     "frmLoadingScreens",
+    "frmAutoBook",   "frmDebut",     "frmAltRoster",  "frmAltBelts", "frmQuickStat",
+    "frmTagTeams",   "frmStables",   "frmManagers",   "frmTurn",     "frmRoster",
+    "frmOtherWres",  "frmShortlist", "frmUser"};
 constexpr const char* kBeforeGame[] = {"frmTitleScreen", "frmDisclaimer",  "frmGameMenu",
                                        "frmCredits",     "frmCreditsXtra", "frmNewGame",
                                        "frmLoadGame",    "frmWait",        "frmLoadingScreens"};

@@ -1,0 +1,176 @@
+#include "roster/postings.h"
+
+#include <algorithm>
+#include <array>
+
+#include "records/modWresCheck.h"
+#include "records/severing.h"
+#include "storylines/storynames.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kOldestTrainee = 24;
+constexpr int kWideMove = 2;  // places from which on a move is felt
+constexpr int kMoraleOfDrop = -10, kMoraleOfRise = 5;
+constexpr std::array<int, 8> kMoves = {kMainEvent, kUpperMidcard, kMidcard,     kLowerMidcard,
+                                       kOpener,    kJobber,       kNonWrestler, kManager};
+
+bool IsOurs(const World& world, const Worker& worker) {
+  return worker.Employer != 0 && worker.Employer == world.PlayerUid();
+}
+
+std::string WhyNotOurs(const World& world, const Worker& worker) {
+  return IsOurs(world, worker) ? "" : worker.Name + " does not work for you.";
+}
+
+bool IsOnTheCard(int position) {
+  return position >= kMainEvent && position <= kJobber;
+}
+
+const Title* TitleOf(const World& world, int uid) {
+  for (const Title& title : world.Titles())
+    if (title.Holder == uid || title.Partner == uid) return &title;
+  return nullptr;
+}
+
+bool IsInFeud(const World& world, int uid) {
+  return std::any_of(world.Feuds().begin(), world.Feuds().end(), [uid](const Feud& feud) {
+    return feud.Worker1 == uid || feud.Worker2 == uid || feud.Worker3 == uid || feud.Worker4 == uid;
+  });
+}
+
+std::string WhyTitleHolds(const World& world, const Worker& worker) {
+  const Title* title = TitleOf(world, worker.Uid);
+  return title ? worker.Name + " holds the " + title->Name.Str() + " and has to lose it first."
+               : "";
+}
+
+/// Whatever keeps somebody on the shows.
+std::string WhyNotAway(const World& world, const Worker& worker) {
+  if (std::string why = WhyNotOurs(world, worker); !why.empty()) return why;
+  if (IsInDevelopment(worker)) return worker.Name + " is in the development territory already.";
+  if (IsInCamp(worker)) return worker.Name + " is in the training camp already.";
+  if (!IsOnTheCard(worker.Position)) return "Only wrestlers can be sent there.";
+  if (worker.Status == "Hom") return worker.Name + " sits out the contract and goes nowhere.";
+  if (std::string why = WhyTitleHolds(world, worker); !why.empty()) return why;
+  return IsInFeud(world, worker.Uid) ? worker.Name + " is in a feud, which has to end first." : "";
+}
+
+bool HasClients(const World& world, const Worker& worker) {
+  return std::any_of(world.Workers().begin(), world.Workers().end(),
+                     [&](const Worker& w) { return w.Manager == worker.Uid; });
+}
+
+bool IsCommissioner(const World& world, const Worker& worker) {
+  return world.Player().Commissioner == worker.Uid;
+}
+
+}  // namespace
+
+int SkillTier(const Worker& worker) {
+  const int best = std::max({int(worker.Brawl), int(worker.Technical), int(worker.Speed)});
+  return best >= 76 ? 2 : best >= 61 ? 1 : 0;
+}
+
+bool IsInDevelopment(const Worker& worker) {
+  return worker.Position == kDevelopmentDeal || worker.Position > kSentToDevelopment;
+}
+
+bool IsInCamp(const Worker& worker) {
+  return worker.Position == kTrainingCamp;
+}
+
+std::string PlaceText(const Worker& worker) {
+  if (worker.Position <= kSentToDevelopment) return std::string(PositionText(worker.Position));
+  return std::string(PositionText(worker.Position - kSentToDevelopment)) + ", in development";
+}
+
+std::string WhyNotToDevelopment(const World& world, const Worker& worker) {
+  if (std::string why = WhyNotAway(world, worker); !why.empty()) return why;
+  return world.Player().DevName == "None" ? "You do not have a development territory set up!" : "";
+}
+
+void SendToDevelopment(Worker& worker) {
+  worker.Position += kSentToDevelopment;
+}
+
+std::string WhyNotToCamp(const World& world, const Worker& worker) {
+  if (std::string why = WhyNotAway(world, worker); !why.empty()) return why;
+  if (world.Player().CampName == "None") return "You do not have a training camp set up!";
+  if (worker.Age > kOldestTrainee) return worker.Name + " is over 24 and too old for a trainee.";
+  return SkillTier(worker) > 0 ? worker.Name + " has learned all that a camp can teach." : "";
+}
+
+void SendToCamp(Worker& worker) {
+  worker.Position = kTrainingCamp;
+}
+
+std::string WhyNotRecall(const World& world, const Worker& worker) {
+  if (std::string why = WhyNotOurs(world, worker); !why.empty()) return why;
+  return IsInDevelopment(worker) || IsInCamp(worker) ? ""
+                                                     : worker.Name + " has not been sent away.";
+}
+
+void Recall(Worker& worker) {
+  EndPosting(worker);
+}
+
+std::span<const int> PositionsToMoveTo() {
+  return kMoves;
+}
+
+std::string WhyNotMove(const World& world, const Worker& worker, int position) {
+  if (std::string why = WhyNotOurs(world, worker); !why.empty()) return why;
+  if (IsInDevelopment(worker) || IsInCamp(worker))
+    return worker.Name + " is away and has to be recalled first.";
+  if (std::find(kMoves.begin(), kMoves.end(), position) == kMoves.end())
+    return "There is no such position.";
+  if (worker.Position == position) return worker.Name + " has this position already.";
+  return IsOnTheCard(position) ? "" : WhyTitleHolds(world, worker);
+}
+
+int MoraleOfMove(int from, int to) {
+  if (!IsOnTheCard(from) || !IsOnTheCard(to)) return 0;
+  if (to - from >= kWideMove) return kMoraleOfDrop;
+  return from - to >= kWideMove ? kMoraleOfRise : 0;
+}
+
+std::string EndedByMove(const World& world, const Worker& worker, int position) {
+  std::string ended;
+  if (position != kManager && HasClients(world, worker))
+    ended += " The clients lose their manager.";
+  if (position != kNonWrestler && IsCommissioner(world, worker))
+    ended += " You lose your Commissioner.";
+  if (!IsOnTheCard(position) && worker.Manager != 0)
+    ended += " " + worker.Name + " will have no manager.";
+  return ended.empty() ? ended : ended.substr(1);
+}
+
+void MovePosition(World& world, Worker& worker, int position) {
+  worker.Morale += MoraleOfMove(worker.Position, position);
+  worker.Position = position;
+  if (position != kManager)
+    for (Worker& client : world.Workers())
+      if (client.Manager == worker.Uid) client.Manager = 0;
+  if (position != kNonWrestler && IsCommissioner(world, worker)) world.Player().Commissioner = 0;
+  if (!IsOnTheCard(position)) worker.Manager = 0;
+}
+
+std::string WhyNotSplit(const World& world, const Worker& worker, std::string_view split) {
+  if (std::string why = WhyNotOurs(world, worker); !why.empty()) return why;
+  if (worker.Split == split)
+    return split == "None" ? worker.Name + " is in no split."
+                           : worker.Name + " is in this split already.";
+  const auto& splits = world.Player().Split;
+  const bool known = split == "None" || std::any_of(splits.begin(), splits.end(),
+                                                    [&](auto& held) { return held == split; });
+  return known ? "" : "Your promotion has no such split.";
+}
+
+void AssignSplit(Worker& worker, std::string_view split) {
+  worker.Split = split;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "records/world.h"
+
+// Where the player's people stand: their place on the card, the development territory, the training
+// camp, the split. Each act has a check that says why it cannot be; empty when it can.
+
+namespace grapplemont {
+
+/// 2 with a Brawl, Technical or Speed of 76 and more, 1 with one of 61 and more, else 0.
+int SkillTier(const Worker& worker);
+
+/// In the territory, sent there or under a development deal.
+bool IsInDevelopment(const Worker& worker);
+bool IsInCamp(const Worker& worker);
+/// "Main Event", "Midcard, in development", "Training Camp": of any code.
+std::string PlaceText(const Worker& worker);
+
+/// His place on the card waits for him.
+std::string WhyNotToDevelopment(const World& world, const Worker& worker);
+void SendToDevelopment(Worker& worker);
+/// Only the young who cannot do much yet go there; they lose their place on the card.
+std::string WhyNotToCamp(const World& world, const Worker& worker);
+void SendToCamp(Worker& worker);
+/// Back to the place he came from; where he had none, to the one that his Over earns.
+std::string WhyNotRecall(const World& world, const Worker& worker);
+void Recall(Worker& worker);
+
+/// The positions that a worker can be moved to, in the order of screens.
+std::span<const int> PositionsToMoveTo();
+std::string WhyNotMove(const World& world, const Worker& worker, int position);
+/// What a move does to his morale: the card's places alone count, and a single one does nothing.
+int MoraleOfMove(int from, int to);
+/// Everything else that the move ends, a sentence each; empty when it ends nothing.
+std::string EndedByMove(const World& world, const Worker& worker, int position);
+void MovePosition(World& world, Worker& worker, int position);
+
+/// "None" takes him out of any.
+std::string WhyNotSplit(const World& world, const Worker& worker, std::string_view split);
+void AssignSplit(Worker& worker, std::string_view split);
+
+}  // namespace grapplemont

@@ -1,0 +1,66 @@
+#include "roster/reigns.h"
+
+#include <algorithm>
+
+#include "records/dates.h"
+#include "records/modWresCheck.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr std::string_view kAnd = " \\ ";  // between the short names of a pair without a name
+
+bool IsTeamOf(const World& world, std::string_view team, int uid) {
+  return std::any_of(world.Teams().begin(), world.Teams().end(), [&](const Team& held) {
+    return held.Name == team && (held.Worker1 == uid || held.Worker2 == uid);
+  });
+}
+
+bool IsOneOfPair(std::string_view holder, const Worker& worker) {
+  const auto parts = holder.find(kAnd);
+  if (parts == std::string_view::npos) return false;
+  return worker.ShortName == holder.substr(0, parts) ||
+         worker.ShortName == holder.substr(parts + kAnd.size());
+}
+
+/// Whether a line of the Title's past tells of him.
+bool IsHis(const World& world, const Title& title, const Reign& reign, const Worker& worker) {
+  if (reign.Holder == "None" || reign.Holder == "Vacant") return false;
+  const bool lasts = &reign == &title.Reigns.front();
+  if (lasts && title.Holder != 0) return title.Holder == worker.Uid || title.Partner == worker.Uid;
+  if (title.Singles) return reign.Holder == worker.Name;
+  return IsTeamOf(world, reign.Holder, worker.Uid) || IsOneOfPair(reign.Holder, worker);
+}
+
+std::string With(const Title& title, const Reign& reign) {
+  return title.Singles ? "" : " as " + reign.Holder.Str();
+}
+
+std::string Days(const Reign& reign) {
+  const Day won = reign.Won, lost = reign.Lost;
+  const bool knowsWon = won > kNoTitleDate, knowsLost = lost > kNoTitleDate;
+  if (!knowsLost) return knowsWon ? ", since " + PlainDate(won) : ", to this day";
+  return knowsWon ? ", " + PlainDate(won) + " to " + PlainDate(lost) : ", until " + PlainDate(lost);
+}
+
+}  // namespace
+
+std::vector<const Title*> TitlesHeldBy(const World& world, int workerUid) {
+  std::vector<const Title*> held;
+  for (const Title& title : world.Titles())
+    if (workerUid != 0 && (title.Holder == workerUid || title.Partner == workerUid))
+      held.push_back(&title);
+  return held;
+}
+
+std::vector<std::string> ReignsOf(const World& world, const Worker& worker) {
+  std::vector<std::string> reigns;
+  for (const Title& title : world.Titles())
+    for (const Reign& reign : title.Reigns)
+      if (IsHis(world, title, reign, worker))
+        reigns.push_back(title.Name + With(title, reign) + Days(reign));
+  return reigns;
+}
+
+}  // namespace grapplemont

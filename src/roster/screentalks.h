@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "records/worker.h"
+#include "ui/game.h"
+
+// The way from any worker's page to the talks with him.
+
+namespace grapplemont {
+
+/// Why there can be no talks with him at this moment; empty when there can. nullptr for nobody
+/// chosen.
+std::string WhyNoTalks(Game& game, const Worker* worker);
+/// The contract of a worker of the player's, or the talks with anybody else. Requires that nothing
+/// stands against them.
+void OpenTalks(Game& game, const Worker& worker);
+
+/// Puts him on the shortlist or takes him off; says why when there is no room.
+void TurnShortlist(Game& game, int workerUid);
+/// Shows on the button what it would do; nobody chosen disables it.
+void ShowShortlistButton(Game& game, const Worker* worker, ui::Button& button);
+
+}  // namespace grapplemont

@@ -1,0 +1,56 @@
+#include "roster/shortlist.h"
+
+#include <algorithm>
+
+#include "records/modWresCheck.h"
+
+namespace grapplemont {
+
+bool IsShortlisted(const World& world, int workerUid) {
+  const auto& places = world.Game().Shortlist;
+  return workerUid != 0 && std::any_of(places.begin(), places.end(),
+                                       [=](const Word& place) { return place == workerUid; });
+}
+
+std::vector<const Worker*> Shortlisted(const World& world) {
+  std::vector<const Worker*> people;
+  for (const Word& place : world.Game().Shortlist)
+    if (const Worker* worker = world.FindWorker(place)) people.push_back(worker);
+  return people;
+}
+
+std::string WhyNotShortlist(const World& world, const Worker& worker) {
+  if (IsShortlisted(world, worker.Uid)) return worker.Name + " is on your shortlist already.";
+  if (worker.Employer != 0 && worker.Employer == world.PlayerUid())
+    return worker.Name + " works for you.";
+  const std::size_t places = world.Game().Shortlist.size();
+  if (Shortlisted(world).size() < places) return {};
+  return "Your shortlist is full: it holds " + std::to_string(places) +
+         " workers. Take somebody off it first.";
+}
+
+void AddToShortlist(World& world, int workerUid) {
+  for (Word& place : world.Game().Shortlist)
+    if (!world.FindWorker(place)) {
+      place = workerUid;
+      return;
+    }
+}
+
+void RemoveFromShortlist(World& world, int workerUid) {
+  for (Word& place : world.Game().Shortlist)
+    if (place == workerUid) place = 0;
+}
+
+std::string MarketStanding(const World& world, const Worker& worker) {
+  if (worker.Employer == 0) return "Free to sign.";
+  const std::string employer =
+      worker.Employer == world.PlayerUid() ? "you" : PromotionName(world, worker.Employer);
+  if (worker.Unsackable) return "Bound to " + employer + " for good.";
+  const std::string kind = worker.ContractType == "Wri" ? "Under contract to " : "Verbally with ";
+  const int months = worker.ContractMonths;
+  if (months <= 1) return kind + employer + ", in the last month.";
+  return kind + employer + " for " + std::to_string(months) + " more months.";
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,185 @@
+#include "roster/workerfacts.h"
+
+#include <array>
+
+#include "records/dates.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "roster/postings.h"
+#include "roster/reigns.h"
+#include "roster/shortlist.h"
+#include "roster/workerties.h"
+#include "storylines/turns.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// Words for 0, 20, 40, 60 and 80 up.
+using Steps = std::array<const char*, 5>;
+constexpr Steps kMorale = {"Wants to be anywhere but here.", "Unhappy.",
+                           "Neither happy nor unhappy.", "In good spirits.",
+                           "Could not be happier."};
+constexpr Steps kLoyalty = {"Would never work for you.", "Thinks little of you.",
+                            "Has no strong feelings about you.", "Thinks well of you.",
+                            "Would go through fire for you."};
+constexpr Steps kAttitude = {"Impossible to work with.", "Hard to work with.",
+                             "Works with most people.", "Easy to work with.",
+                             "A joy to work with."};
+constexpr Steps kBehaviour = {"A trouble maker.", "Finds trouble more often than not.",
+                              "Mostly stays out of trouble.", "Well behaved.",
+                              "A model of good behaviour."};
+
+std::string StepOf(const Steps& steps, int value) {
+  const int step = value < 0 ? 0 : value / 20;
+  return steps[static_cast<std::size_t>(step > 4 ? 4 : step)];
+}
+
+std::string Number(int number) {
+  return std::to_string(number);
+}
+
+std::string WhenTurned(const World& world, const Worker& worker) {
+  const int days = DaysSinceTurn(world, worker);
+  if (days < 0) return "Has never turned.";
+  const int weeks = days / 7;
+  return weeks == 0   ? "Turned this week."
+         : weeks == 1 ? "Turned a week ago."
+                      : "Turned " + Number(weeks) + " weeks ago.";
+}
+
+void AddIf(FactGroup& group, bool holds, std::string line) {
+  if (holds) group.Lines.push_back(std::move(line));
+}
+void Add(FactGroup& group, std::string line) {
+  AddIf(group, !line.empty(), std::move(line));
+}
+
+FactGroup Person(const World& world, const Worker& worker) {
+  FactGroup group{worker.Name.Str(), {}};
+  Add(group, WhoHeIs(worker) + ".");
+  Add(group, "Known as " + worker.ShortName + " for short.");
+  Add(group, std::string(DispositionText(worker.Disposition)) + ". Over " + Number(worker.Over) +
+                 ", charisma " + Number(worker.Charisma) + ".");
+  Add(group, WhenTurned(world, worker));
+  AddIf(group, worker.TurnPending, "A turn is being prepared.");
+  AddIf(group, worker.SuperstarLook, "Looks like a superstar.");
+  AddIf(group, worker.Diva, "Has sex appeal.");
+  Add(group, worker.Speaks ? "Can do interviews." : "Cannot do interviews.");
+  AddIf(group, worker.OverFloor > 0,
+        "The fans will always remember: the Over never falls under " + Number(worker.OverFloor) +
+            ".");
+  Add(group, PotentialWords(world, worker));
+  AddIf(group, worker.RetiringSoon, "Has announced to retire soon.");
+  AddIf(group, IsShortlisted(world, worker.Uid), "On your shortlist.");
+  return group;
+}
+
+std::string FinisherLine(const char* which, std::string_view name, FinisherType type) {
+  if (name.empty() || name == "None") return {};
+  return which + std::string(name) + " (" + std::string(FinisherText(type)) + ").";
+}
+
+FactGroup InTheRing(const Worker& worker) {
+  FactGroup group{"In the ring", {}};
+  Add(group, "Brawl " + Number(worker.Brawl) + ", Technical " + Number(worker.Technical) +
+                 ", Speed " + Number(worker.Speed) + ".");
+  Add(group, "Stiffness " + Number(worker.Stiff) + ", selling " + Number(worker.Sell) + ".");
+  Add(group, worker.HighSpots ? "Takes the risk of high spots." : "Keeps to the ground.");
+  Add(group, FinisherLine("Finisher: ", worker.Finisher1, FinisherTypeOf(worker, 1)));
+  Add(group, FinisherLine("Second finisher: ", worker.Finisher2, FinisherTypeOf(worker, 2)));
+  Add(group, "Condition " + Number(worker.Condition) + "%. " + StatusLine(worker) + ".");
+  return group;
+}
+
+FactGroup Character(const Worker& worker) {
+  return {"Character",
+          {MoraleWords(worker.Morale), LoyaltyWords(worker.Loyalty), AttitudeWords(worker.Attitude),
+           BehaviourWords(worker.Behaviour)}};
+}
+
+FactGroup Contract(const World& world, const Worker& worker) {
+  FactGroup group{"Contract", {}};
+  if (worker.Employer == 0) {
+    Add(group, "Works for nobody. Last known as " + PlaceText(worker) + ".");
+    AddIf(group, worker.Wage > 0, "Last earned " + Dollars(1000LL * worker.Wage) + " a month.");
+  } else {
+    Add(group, PromotionName(world, worker.Employer) + ": " + PlaceText(worker) + ".");
+    Add(group, ContractLine(worker) + ".");
+  }
+  AddIf(group, worker.CreativeControl, "A clause gives creative control.");
+  AddIf(group, !(worker.Split == "None" || worker.Split == ""), "Split: " + worker.Split + ".");
+  AddIf(group, worker.Employer != 0 && !worker.Debuted, "Has not been seen on the shows yet.");
+  return group;
+}
+
+FactGroup BesideTheRing(const World& world, const Worker& worker) {
+  FactGroup group{"Beside the ring", OfficesOf(world, worker)};
+  AddIf(group, worker.Trainer, "Able to train others.");
+  AddIf(group, worker.Announcer, "Able to announce.");
+  AddIf(group, worker.Booker, "Able to book.");
+  return group;
+}
+
+FactGroup Titles(const World& world, const Worker& worker) {
+  FactGroup group{"Titles", {}};
+  for (const Title* title : TitlesHeldBy(world, worker.Uid))
+    Add(group, "Holds the " + title->Name.Str() + ".");
+  for (const std::string& reign : ReignsOf(world, worker)) Add(group, reign + ".");
+  return group;
+}
+
+/// Whoever teaches him; nullptr for nobody.
+const Staff* TeacherOf(const World& world, const Worker& worker) {
+  if (worker.Employer == 0 || worker.Employer != world.PlayerUid()) return nullptr;
+  if (IsInDevelopment(worker)) return world.FindStaff(world.Player().DevBooker);
+  return IsInCamp(worker) ? world.FindStaff(world.Player().HeadTrainer) : nullptr;
+}
+
+}  // namespace
+
+std::string MoraleWords(int morale) {
+  return StepOf(kMorale, morale);
+}
+std::string LoyaltyWords(int loyalty) {
+  return StepOf(kLoyalty, loyalty);
+}
+std::string AttitudeWords(int attitude) {
+  return StepOf(kAttitude, attitude);
+}
+std::string BehaviourWords(int behaviour) {
+  return StepOf(kBehaviour, behaviour);
+}
+
+std::string WhoHeIs(const Worker& worker) {
+  std::string who = std::string(worker.Gender ? "A man of " : "A woman of ") + Number(worker.Age);
+  if (const auto month = MonthName(worker.BirthMonth); !month.empty())
+    who += ", born in " + std::string(month);
+  return who + (worker.Weight == "L" ? ", a lightweight" : ", a heavyweight");
+}
+
+std::string PotentialWords(const World& world, const Worker& worker) {
+  const Staff* teacher = TeacherOf(world, worker);
+  if (!teacher) return {};
+  const int room = worker.Potential - worker.Over;
+  const char* words = room <= 0    ? "has learned what can be learned here."
+                      : room <= 10 ? "has a little left to learn."
+                      : room <= 25 ? "has room to grow."
+                                   : "could go very far.";
+  return teacher->Name + " thinks that " + worker.ShortName.Str() + " " + words;
+}
+
+std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker) {
+  std::vector<FactGroup> facts = {Person(world, worker),
+                                  Contract(world, worker),
+                                  InTheRing(worker),
+                                  Character(worker),
+                                  BesideTheRing(world, worker),
+                                  Titles(world, worker),
+                                  {"Company", CompanyOf(world, worker)},
+                                  {"Feuds", FeudsOf(world, worker)}};
+  std::erase_if(facts, [](const FactGroup& group) { return group.Lines.empty(); });
+  return facts;
+}
+
+}  // namespace grapplemont
