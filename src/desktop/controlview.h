@@ -52,6 +52,13 @@ class ControlView {
   void Do(std::string (*act)(ui::Desk&, ui::Screen&, std::string_view, Value...), Value... value) {
     stage_.Act([&] { return act(stage_.Desk(), control_.Parent(), control_.Name(), value...); });
   }
+  /// Opens what a link leads to.
+  void Follow(const ui::Handler& open) {
+    stage_.Act([this, open] {
+      stage_.Desk().Event(open);
+      return std::string();
+    });
+  }
 
  private:
   ui::Control& control_;

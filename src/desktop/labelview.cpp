@@ -1,5 +1,7 @@
 #include "desktop/labelview.h"
 
+#include <QMenu>
+#include <QMouseEvent>
 #include <algorithm>
 
 #include "desktop/letters.h"
@@ -66,6 +68,26 @@ void LabelView::Colour() {
 void LabelView::Show() {
   setText(WithTrend(label_));
   Colour();
+  if (OnStage().Desk().LinksIn(label_.Text.Get()).empty()) {
+    unsetCursor();
+  } else {
+    setCursor(Qt::PointingHandCursor);
+  }
+}
+
+/// A click opens the page of the name in the text; several names are offered.
+void LabelView::mouseReleaseEvent(QMouseEvent* event) {
+  const std::string text = label_.Text.Get();
+  const auto links = OnStage().Desk().LinksIn(text);
+  if (links.empty() || event->button() != Qt::LeftButton)
+    return WrappedLabel::mouseReleaseEvent(event);
+  if (links.size() == 1) return Follow(links.front().Open);
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const ui::Link& link : links)
+    menu->addAction("Open " + Shown(text.substr(link.From, link.Length)), this,
+                    [this, open = link.Open] { Follow(open); });
+  menu->popup(event->globalPosition().toPoint());
 }
 
 }  // namespace grapplemont::desktop

@@ -26,6 +26,7 @@ class LabelView : public WrappedLabel, public ControlView {
 
  protected:
   void Show() override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   void Colour();

@@ -1,5 +1,6 @@
 #include "desktop/reportview.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -63,6 +64,7 @@ ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   setTextInteractionFlags(Qt::TextSelectableByMouse);
   viewport()->setAutoFillBackground(false);
+  viewport()->setMouseTracking(true);
   document()->setDocumentMargin(0);
   if (report.Brief)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -76,6 +78,7 @@ QSize ReportView::sizeHint() const {
 
 void ReportView::Show() {
   clear();
+  links_.clear();
   const Colours& colours = ColoursOf(this);
   QTextCursor cursor(document());
   bool first = true;
@@ -88,12 +91,56 @@ void ReportView::Show() {
     } else {
       cursor.insertBlock(block, letters);
     }
-    cursor.insertText(Shown(paragraph.Words), letters);
+    Write(cursor, paragraph.Words, letters);
     first = false;
   }
   moveCursor(QTextCursor::Start);  // a size that changes later keeps the cursor in sight
   verticalScrollBar()->setValue(0);
   FitBrief();
+}
+
+/// Names that lead to a page stand out and can be clicked.
+void ReportView::Write(QTextCursor& cursor, const std::string& words,
+                       const QTextCharFormat& letters) {
+  const std::string_view text = words;
+  std::size_t written = 0;
+  for (ui::Link& link : OnStage().Desk().LinksIn(text)) {
+    QTextCharFormat linked = letters;
+    linked.setAnchor(true);
+    linked.setAnchorHref(QString::number(links_.size()));
+    linked.setForeground(ColoursOf(this).Blue);
+    cursor.insertText(Shown(text.substr(written, link.From - written)), letters);
+    cursor.insertText(Shown(text.substr(link.From, link.Length)), linked);
+    written = link.From + link.Length;
+    links_.push_back(std::move(link));
+  }
+  cursor.insertText(Shown(text.substr(written)), letters);
+}
+
+const ui::Link* ReportView::LinkAt(const QMouseEvent& event) const {
+  const QString address = anchorAt(event.position().toPoint());
+  const auto place = static_cast<std::size_t>(address.toUInt());
+  return address.isEmpty() || place >= links_.size() ? nullptr : &links_[place];
+}
+
+void ReportView::mouseMoveEvent(QMouseEvent* event) {
+  QTextEdit::mouseMoveEvent(event);
+  viewport()->setCursor(LinkAt(*event) ? Qt::PointingHandCursor : Qt::IBeamCursor);
+}
+
+void ReportView::mousePressEvent(QMouseEvent* event) {
+  pressed_ = event->position().toPoint();
+  QTextEdit::mousePressEvent(event);
+}
+
+/// A click follows a link; a drag over it marks its words.
+void ReportView::mouseReleaseEvent(QMouseEvent* event) {
+  QTextEdit::mouseReleaseEvent(event);
+  const int way = (event->position().toPoint() - pressed_).manhattanLength();
+  const ui::Link* link = LinkAt(*event);
+  if (!link || event->button() != Qt::LeftButton || way >= QApplication::startDragDistance())
+    return;
+  Follow(link->Open);
 }
 
 void ReportView::FitBrief() {

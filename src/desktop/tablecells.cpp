@@ -142,16 +142,20 @@ QSize TableCells::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index
   return {CellWidth(model_.Table().At(index.row(), index.column()), kind), Px(kRowHeight)};
 }
 
-/// A text that is cut is told whole.
+/// A text that is cut is told whole, and a name says how its page is opened.
 bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                            const QStyleOptionViewItem& option, const QModelIndex& index) {
   if (!index.isValid() || event->type() != QEvent::ToolTip) return false;
-  if (sizeHint(option, index).width() <= option.rect.width() + 2) {
+  QStringList lines;
+  if (sizeHint(option, index).width() > option.rect.width() + 2)
+    lines.append(Shown(model_.Table().At(index.row(), index.column()).Text).toHtmlEscaped());
+  if (const QString hint = HintOf ? HintOf(index) : QString(); !hint.isEmpty())
+    lines.append(hint.toHtmlEscaped());
+  if (lines.isEmpty()) {
     QToolTip::hideText();
-    return true;
+  } else {
+    QToolTip::showText(event->globalPos(), "<p>" + lines.join("<br>") + "</p>", view);
   }
-  const QString text = Shown(model_.Table().At(index.row(), index.column()).Text);
-  QToolTip::showText(event->globalPos(), "<p>" + text.toHtmlEscaped() + "</p>", view);
   return true;
 }
 

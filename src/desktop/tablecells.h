@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStyledItemDelegate>
+#include <functional>
 
 #include "desktop/tablemodel.h"
 
@@ -13,6 +14,8 @@ class TableCells : public QStyledItemDelegate {
       : QStyledItemDelegate(parent), model_(model) {}
 
   void SetHover(int row) { hover_ = row; }
+  /// What a cell's hint says beside its text; empty for nothing.
+  std::function<QString(const QModelIndex& cell)> HintOf;
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;

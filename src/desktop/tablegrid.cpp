@@ -55,7 +55,17 @@ QSize TableGrid::minimumSizeHint() const {
   return {Px(160), heading_->sizeHint().height() + rows * Px(kRowHeight) + 2};
 }
 
+bool TableGrid::FollowAt(const QMouseEvent& event) {
+  if (event.button() != Qt::LeftButton || !event.modifiers().testFlag(Qt::ControlModifier))
+    return false;
+  const QModelIndex cell = indexAt(event.position().toPoint());
+  const ui::Handler open = cell.isValid() && LinkOf ? LinkOf(cell) : ui::Handler();
+  if (open) Followed(open);
+  return static_cast<bool>(open);
+}
+
 void TableGrid::mousePressEvent(QMouseEvent* event) {
+  if (FollowAt(*event)) return;
   QTableView::mousePressEvent(event);
   const QModelIndex index = indexAt(event->position().toPoint());
   if (event->button() == Qt::LeftButton && index.isValid() && Picked) Picked(index.row());
@@ -79,7 +89,11 @@ void TableGrid::Hover(int row) {
 }
 
 void TableGrid::mouseMoveEvent(QMouseEvent* event) {
-  Hover(indexAt(event->position().toPoint()).row());
+  const QModelIndex cell = indexAt(event->position().toPoint());
+  Hover(cell.row());
+  const bool leads =
+      event->modifiers().testFlag(Qt::ControlModifier) && cell.isValid() && LinkOf && LinkOf(cell);
+  viewport()->setCursor(leads ? Qt::PointingHandCursor : Qt::ArrowCursor);
   if (event->buttons() == Qt::NoButton) QTableView::mouseMoveEvent(event);
 }
 

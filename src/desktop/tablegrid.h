@@ -15,6 +15,7 @@ class TableGrid : public QTableView {
   TableGrid(TableModel& model, QWidget* parent);
 
   TableHeading& Heading() { return *heading_; }
+  TableCells& Cells() { return *cells_; }
   void SetEmptyText(const QString& text);
   /// -1 when there is none.
   int CurrentRow() const { return currentIndex().row(); }
@@ -24,6 +25,9 @@ class TableGrid : public QTableView {
   std::function<void(int row)> Picked, Opened;
   std::function<void(const QString& letters)> Typed;
   std::function<void()> Copied, Resized, Moved;
+  /// The way to the link in a cell, by row and column of the list; empty for none.
+  std::function<ui::Handler(const QModelIndex& cell)> LinkOf;
+  std::function<void(const ui::Handler& open)> Followed;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -41,6 +45,8 @@ class TableGrid : public QTableView {
 
  private:
   void Hover(int row);
+  /// Follows the link of a cell that was clicked with Ctrl; false where there is none.
+  bool FollowAt(const QMouseEvent& event);
   void Move(QKeyEvent* event);
   void DrawCursor(QPainter& painter);
 

@@ -54,6 +54,17 @@ void TableView::OpenColumnsMenu(const QPoint& globally) {
   menu->popup(globally);
 }
 
+/// The pages that the row's names lead to, then what the table always offers.
+void TableView::OpenRowMenu(const QPoint& at) {
+  QMenu* menu = NewMenu(this);
+  menu->setObjectName("columnsmenu");
+  for (const NamedLink& link : LinksOfRow(grid_->indexAt(at)))
+    menu->addAction("Open " + link.Words, this, [this, open = link.Open] { Follow(open); });
+  if (!menu->isEmpty()) menu->addSeparator();
+  AddColumnChoices(*menu);
+  menu->popup(grid_->viewport()->mapToGlobal(at));
+}
+
 void TableView::AddColumnChoices(QMenu& menu) {
   for (int column = 0; column < model_.columnCount() && model_.columnCount() > 1; ++column) {
     const auto id = ui::ColumnId(list_.Columns(), column);

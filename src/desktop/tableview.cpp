@@ -115,7 +115,7 @@ void TableView::Connect() {
   connect(&heading, &QWidget::customContextMenuRequested, this, &TableView::OpenHeadingMenu);
   grid_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(grid_, &QWidget::customContextMenuRequested, this,
-          [this](const QPoint& at) { OpenColumnsMenu(grid_->viewport()->mapToGlobal(at)); });
+          [this](const QPoint& at) { OpenRowMenu(at); });
   grid_->Picked = [this](int row) { Act(row, false); };
   grid_->Opened = [this](int row) { Act(row, true); };
   grid_->Copied = [this] { CopyCsv(); };
@@ -123,6 +123,7 @@ void TableView::Connect() {
     if (table_.Follows()) FitColumns();
   };
   grid_->Moved = [this] { PlaceRowButtons(); };
+  ConnectLinks();
   grid_->Typed = [this](const QString& letters) {
     if (searchRow_->isHidden()) return grid_->keyboardSearch(letters);
     search_->setFocus(Qt::ShortcutFocusReason);

@@ -50,9 +50,21 @@ class TableView : public QWidget, public ControlView {
   void CopyCsv() const;
   void PlaceRowButtons();
 
+  // Names in cells, in tablelinks.cpp.
+  struct NamedLink {
+    QString Words;
+    ui::Handler Open;
+  };
+  void ConnectLinks();
+  /// Those of a cell as shown, in their order.
+  std::vector<NamedLink> LinksOf(int shownRow, int listColumn) const;
+  /// Those of all shown cells of a row, each once, those of the cell first.
+  std::vector<NamedLink> LinksOfRow(const QModelIndex& cell) const;
+
   // Menus, in tablemenu.cpp.
   void OpenHeadingMenu(const QPoint& at);
   void OpenColumnsMenu(const QPoint& globally);
+  void OpenRowMenu(const QPoint& at);
   void AddColumnChoices(QMenu& menu);
   void AddFilterLine(QMenu& menu, int column);
   void MoveColumn(int column, int by);
