@@ -8,7 +8,8 @@ namespace grapplemont::console {
 namespace {
 
 constexpr std::size_t kGap = 2;
-constexpr std::size_t kNarrowest = 6;  // a column is not cut below this
+constexpr std::size_t kNarrowest = 6;    // a column is not cut below this
+constexpr std::size_t kLeastFirst = 18;  // nor the first, by which rows are picked, below this
 constexpr std::string_view kCut = "...";
 
 std::string Padded(std::string text, std::size_t width, bool right) {
@@ -80,9 +81,15 @@ std::vector<std::size_t> TableText::Widths(std::size_t width) const {
       widths[i] = std::max(widths[i], row.Cells[i].size());
   }
   used += kGap * widths.size() + std::accumulate(widths.begin(), widths.end(), std::size_t{0});
+  const auto excess = [&](const std::size_t& column) {
+    const std::size_t least = &column == &widths.front() ? kLeastFirst : kNarrowest;
+    return column - std::min(column, least);
+  };
   for (; width != 0 && used > width; --used) {
-    const auto widest = std::max_element(widths.begin(), widths.end());
-    if (widest == widths.end() || *widest <= kNarrowest) break;
+    const auto widest = std::max_element(
+        widths.begin(), widths.end(),
+        [&](const auto& one, const auto& other) { return excess(one) < excess(other); });
+    if (widest == widths.end() || excess(*widest) == 0) break;
     --*widest;
   }
   return widths;

@@ -236,6 +236,7 @@ void TableView::FitColumns() {
     room -= more;
     all -= shares[i];
   }
+  const int whole = widths.empty() ? 0 : widths.front();
   for (bool tight = false; room < 0;) {
     const auto excess = [&](std::size_t i) {
       const bool text = list_.Columns()[Index(shown[i])].Kind == ui::ColumnKind::Text;
@@ -256,6 +257,8 @@ void TableView::FitColumns() {
     widths[widest] -= take;
     room += take;
   }
+  // Where the table has to be scrolled anyway, its first words are not cut for it.
+  if (room < 0 && !widths.empty()) widths.front() = whole;
   const bool was = arranging_;
   arranging_ = true;
   for (std::size_t i = 0; i < shown.size(); ++i) grid_->setColumnWidth(shown[i], widths[i]);

@@ -24,7 +24,7 @@ class frmUser : public ui::Screen {
     page.Main = &cmdback;
     page.Cancel = &cmdback;
     page.Body = ui::Columns({ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow(5),
-                             ui::Group("", {ui::Grow(txtuser)}).Grow(3)});
+                             ui::Group("", {ui::Grow(txtuser)}).Grow(2)});
     return page;
   }
 
@@ -56,28 +56,32 @@ class frmUser : public ui::Screen {
     lstjobs.Fill(std::move(rows));
   }
 
+  static std::vector<std::string> LinesOf(const JobRecord& record) {
+    if (record.Shows + record.Events + record.CalledOff + record.Months == 0)
+      return {"Nothing has been told of it yet."};
+    std::vector<std::string> lines = {Count(record.Shows, "television show") + " and " +
+                                      Count(record.Events, "Event") + " held, " +
+                                      std::to_string(record.CalledOff) + " called off."};
+    if (!record.BestShow.empty()) {
+      lines.push_back("Mean rating " + std::to_string(record.MeanRating) + "%.");
+      lines.push_back("Best: " + record.BestShow + ", " + std::to_string(record.BestRating) + "%.");
+    }
+    if (record.Months > 0)
+      lines.push_back(Count(record.Months, "month") + " closed, " +
+                      (record.Profit < 0 ? "a loss of " : "a profit of ") +
+                      Dollars(record.Profit < 0 ? -record.Profit : record.Profit) + " in all.");
+    return lines;
+  }
+
   void ShowRecord() {
     using Style = ui::Report::Style;
     const GameInfo& info = world().Game();
-    const JobRecord record = RecordOfJob(world());
     std::vector<ui::Report::Paragraph> words = {
         {Style::Heading, info.PlayerName.Str()},
         {Style::Line, ReputationText(info.Reputation) + "."},
-        {Style::Strong, "The present job"},
-        {Style::Line, Count(record.Shows, "television show") + " and " +
-                          Count(record.Events, "Event") + " held, " +
-                          std::to_string(record.CalledOff) + " called off."}};
-    if (record.Shows + record.Events > 0) {
-      words.push_back({Style::Line, "Mean rating " + std::to_string(record.MeanRating) + "%."});
-      words.push_back({Style::Line, "Best: " + record.BestShow + ", " +
-                                        std::to_string(record.BestRating) + "%."});
-    }
-    if (record.Months > 0)
-      words.push_back(
-          {Style::Line, Count(record.Months, "month") + " closed, " +
-                            (record.Profit < 0 ? "a loss of " : "a profit of ") +
-                            Dollars(record.Profit < 0 ? -record.Profit : record.Profit) +
-                            " in all."});
+        {Style::Strong, "The present job"}};
+    for (const std::string& line : LinesOf(RecordOfJob(world())))
+      words.push_back({Style::Line, line});
     txtuser.Write(std::move(words));
   }
 

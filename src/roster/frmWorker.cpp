@@ -22,7 +22,8 @@ class frmWorker : public ui::Screen {
     page.Main = &cmdback;
     page.Cancel = &cmdback;
     page.Large = true;
-    page.Body = ui::Group("", {ui::Grow(txtpage)});
+    page.Body = ui::Columns(
+        {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});
     return page;
   }
 
@@ -32,7 +33,8 @@ class frmWorker : public ui::Screen {
     const Worker* worker = Subject();
     const bool own = worker && worker->Employer != 0 && worker->Employer == world().PlayerUid();
     if (worker) Title = worker->Name.Str();
-    WriteWorkerPage(txtpage, world(), worker, Title.Get() + " is not in the business any more.");
+    WriteWorkerPages(txtpage, txtmore, world(), worker,
+                     Title.Get() + " is not in the business any more.");
     ShowShortlistButton(game_, worker, cmdshortlist);
     cmdcontract.Text = own ? "Contract" : "Talks";
     EnableUnless(cmdcontract, worker ? WhyNoTalks(game_, worker) : "There is nobody to talk to.");
@@ -54,6 +56,7 @@ class frmWorker : public ui::Screen {
   Game& game_;
   int uid_;
   ui::Report txtpage{*this, "txtpage"};
+  ui::Report txtmore{*this, "txtmore"};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Shortlist", &frmWorker::cmdshortlist_Click};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmWorker::cmdcontract_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmWorker::cmdback_Click};

@@ -1,6 +1,7 @@
 #include "roster/screenworkerlist.h"
 
 #include "roster/screenworkerpage.h"
+#include "storylines/screenpeople.h"
 
 namespace grapplemont {
 
@@ -41,14 +42,19 @@ bool WorkerListScreen::FitsFilters(const Worker& worker) {
   return Passes(worker);
 }
 
+/// The most popular come first.
 void WorkerListScreen::ShowList() {
-  std::vector<ui::ListBox::Row> rows;
+  std::vector<const Worker*> people;
   listed_ = 0;
   for (const Worker& worker : world().Workers()) {
     if (!Belongs(worker)) continue;
     ++listed_;
-    if (FitsFilters(worker)) rows.push_back(WorkerRow(world(), worker, list_));
+    if (FitsFilters(worker)) people.push_back(&worker);
   }
+  SortByOver(people);
+  std::vector<ui::ListBox::Row> rows;
+  rows.reserve(people.size());
+  for (const Worker* worker : people) rows.push_back(WorkerRow(world(), *worker, list_));
   lstwres.Fill(std::move(rows));
   if (lstwres.Selected() == 0) lstwres.Select(1);
   ShowFacts();

@@ -10,5 +10,9 @@ namespace grapplemont {
 /// Writes the page of a worker; for nullptr the words for nobody.
 void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
                      const std::string& nobody);
+/// The same on two sheets side by side, under a title that names him already: who he is, his work
+/// and his skill at the left, everything else at the right.
+void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,
+                      const std::string& nobody);
 
 }  // namespace grapplemont

@@ -44,13 +44,13 @@ void RemoveFromShortlist(World& world, int workerUid) {
 
 std::string MarketStanding(const World& world, const Worker& worker) {
   if (worker.Employer == 0) return "Free to sign.";
-  const std::string employer =
-      worker.Employer == world.PlayerUid() ? "you" : PromotionName(world, worker.Employer);
+  const bool own = worker.Employer == world.PlayerUid();
+  const std::string employer = own ? "you" : PromotionInitials(world, worker.Employer);
   if (worker.Unsackable) return "Bound to " + employer + " for good.";
   const std::string kind = worker.ContractType == "Wri" ? "Under contract to " : "Verbally with ";
   const int months = worker.ContractMonths;
-  if (months <= 1) return kind + employer + ", in the last month.";
-  return kind + employer + " for " + std::to_string(months) + " more months.";
+  return kind + employer +
+         (months <= 1 ? ", in the last month." : ", " + std::to_string(months) + " months left.");
 }
 
 }  // namespace grapplemont

@@ -49,10 +49,10 @@ std::string WhenTurned(const World& world, const Worker& worker) {
 }
 
 void AddIf(FactGroup& group, bool holds, std::string line) {
-  if (holds) group.Lines.push_back(std::move(line));
+  if (holds && !line.empty()) group.Lines.push_back(std::move(line));
 }
 void Add(FactGroup& group, std::string line) {
-  AddIf(group, !line.empty(), std::move(line));
+  AddIf(group, true, std::move(line));
 }
 
 FactGroup Person(const World& world, const Worker& worker) {
