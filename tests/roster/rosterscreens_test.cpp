@@ -1,0 +1,306 @@
+#include "roster/rosterscreens.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "support/gameonworld.h"
+#include "ui/acts.h"
+
+// The roster, the market, the shortlist and the pages, as a player works them.
+
+namespace grapplemont::test {
+namespace {
+
+using Names = std::vector<std::string>;
+constexpr const char* kBram = "Bram Okafor";
+constexpr const char* kRay = "Rival Ray";
+
+SmallWorld Business() {
+  SmallWorld small;
+  small
+      .Promotion(
+          "CWA", kCult,
+          [](Promotion& p) {
+            p.DevName = "The Yard";
+            p.CampName = "The Barn";
+            p.Split = {Text<10>("Red"), Text<10>("Blue"), Text<10>("None"), Text<10>("None")};
+          })
+      .Worker(kBram, kMainEvent, 80, [](Worker& w) { w.Wage = 40; })
+      .Worker("Ilya Marsh", kMidcard, 64, [](Worker& w) { w.Split = "Red"; })
+      .Worker("Low Down", kJobber, 20,
+              [](Worker& w) {
+                w.Age = 20;
+                w.Unsackable = true;
+                w.ContractMonths = kNoEnd;
+              })
+      .Promotion("NEW", kSmall)
+      .Worker(kRay, kMainEvent, 70)
+      .Worker("Fixed Fay", kOpener, 30,
+              [](Worker& w) {
+                w.Unsackable = true;
+                w.ContractMonths = kNoEnd;
+              })
+      .OnTheMarket()
+      .Worker("Free Fred", kOpener, 40)
+      .Game("CWA");
+  return small;
+}
+
+bool Holds(const std::string& text, std::string_view words) {
+  return text.find(words) != std::string::npos;
+}
+
+TEST(frmRoster, ShowsThePlayersPeopleAndThePageOfTheChosen) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmRoster");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({kBram, "Ilya Marsh", "Low Down"}));
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, $60000 a month.");
+  EXPECT_TRUE(play.Desk.Text("txtpage").starts_with(kBram));
+  play.Desk.Pick("lstwres", "Ilya Marsh");
+  EXPECT_TRUE(play.Desk.Text("txtpage").starts_with("Ilya Marsh"));
+}
+
+TEST(frmRoster, FiltersByOneAndByAll) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmRoster");
+  play.Desk.Pick("cmbsplit", "Red");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Ilya Marsh"}));
+  EXPECT_TRUE(play.Desk.Text("txtpage").starts_with("Ilya Marsh")) << "the choice follows";
+  play.Desk.Pick("cmbposition", "Jobber");
+  EXPECT_TRUE(play.Desk.FirstColumn("lstwres").empty());
+  EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
+  EXPECT_FALSE(play.Desk.Enabled("cmdposition"));
+  play.Desk.Pick("cmbsplit", "All");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Low Down"}));
+}
+
+TEST(frmRoster, PickingMakesNoRowsAnew) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmRoster");
+  const auto* list = dynamic_cast<ui::ListBox*>(play.Desk.Top()->Find("lstwres"));
+  const unsigned before = list->Contents();
+  play.Desk.Pick("lstwres", 3);
+  EXPECT_EQ(list->Contents(), before);
+}
+
+TEST(frmRoster, MovesPositionsAndSaysBeforehandWhatItDoes) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmRoster");
+  EXPECT_EQ(play.Desk.Tip("cmdposition"), "Bram Okafor has this position already.");
+  play.Desk.Pick("cmbnewposition", "Upper Midcard");
+  EXPECT_FALSE(play.Desk.Visible("lblmove"));
+  play.Desk.Pick("cmbnewposition", "Jobber");
+  EXPECT_TRUE(Holds(play.Desk.Text("lblmove"), "A fall that costs morale 10."));
+  play.Desk.Click("cmdposition");
+  play.Reopen();
+  EXPECT_EQ(Named(play.World().Workers(), kBram).Position, kJobber);
+  EXPECT_EQ(Named(play.World().Workers(), kBram).Morale, 70);
+}
+
+TEST(frmRoster, SendsAwayAndRecalls) {
+  GameOnWorld play(Business());
+  Worker& bram = Named(play.World().Workers(), kBram);
+  Worker& low = Named(play.World().Workers(), "Low Down");
+  low.Brawl = low.Technical = low.Speed = 20;
+  play.Desk.Open("frmRoster");
+  play.Desk.Click("cmddevelopment");
+  EXPECT_EQ(bram.Position, 81);
+  EXPECT_EQ(play.Desk.Text("cmddevelopment"), "Recall From Development");
+  EXPECT_FALSE(play.Desk.Enabled("cmdcamp"));
+  EXPECT_FALSE(play.Desk.Enabled("cmdposition"));
+  play.Desk.Click("cmddevelopment");
+  EXPECT_EQ(bram.Position, kMainEvent);
+
+  play.Desk.Pick("lstwres", "Low Down");
+  play.Desk.Click("cmdcamp");
+  EXPECT_EQ(low.Position, kTrainingCamp);
+  EXPECT_EQ(play.Desk.Text("cmdcamp"), "Recall From Camp");
+  play.Desk.Click("cmdcamp");
+  EXPECT_EQ(low.Position, kJobber);
+}
+
+TEST(frmRoster, SetsTheSplit) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmRoster");
+  EXPECT_FALSE(play.Desk.Enabled("cmdsplit"));
+  play.Desk.Pick("cmbnewsplit", "Blue");
+  play.Desk.Click("cmdsplit");
+  EXPECT_EQ(Named(play.World().Workers(), kBram).Split, "Blue");
+  play.Desk.Pick("lstwres", "Ilya Marsh");
+  EXPECT_EQ(play.Desk.Text("cmbnewsplit"), "Red");
+  play.Desk.Pick("cmbnewsplit", "None");
+  play.Desk.Click("cmdsplit");
+  EXPECT_EQ(Named(play.World().Workers(), "Ilya Marsh").Split, "None");
+}
+
+TEST(frmRoster, HasNoTalksWithTheUnsackable) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmRoster");
+  EXPECT_TRUE(play.Desk.Enabled("cmdcontract"));
+  play.Desk.Pick("lstwres", "Low Down");
+  EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
+  EXPECT_TRUE(Holds(play.Desk.Tip("cmdcontract"), "Low Down is unsackable"));
+  play.Desk.OpenRow("lstwres", "Low Down");
+  EXPECT_EQ(play.Desk.TopName(), "frmRoster");
+}
+
+TEST(frmRoster, LeadsToTheScreensOfTheRestAndBackToTheHub) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmMainScreen");
+  play.Desk.Click("cmdroster");
+  for (const auto& [button, screen] : {std::pair{"cmdturn", "frmTurn"},
+                                       {"cmdmanager", "frmManagers"},
+                                       {"cmdstables", "frmStables"}}) {
+    play.Desk.Click(button);
+    EXPECT_EQ(play.Desk.TopName(), screen);
+    play.Desk.Click("cmdback");
+  }
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
+}
+
+TEST(frmRoster, MeetsSomebodyWhoVanishedMeanwhile) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmRoster");
+  play.Desk.Pick("cmbnewposition", "Jobber");
+  Worker& bram = Named(play.World().Workers(), kBram);
+  bram.Employer = 2;  // signed away under the screen
+  play.Desk.Click("cmdposition");
+  EXPECT_EQ(bram.Position, kMainEvent);
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Ilya Marsh", "Low Down"}));
+
+  play.World().Workers().Keep([](const Worker& w) { return !(w.Name == "Ilya Marsh"); });
+  play.Desk.Click("cmddevelopment");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Low Down"}));
+}
+
+TEST(frmOtherWres, ShowsEverybodyElse) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmOtherWres");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({kRay, "Free Fred", "Fixed Fay"}));
+  EXPECT_EQ(play.Desk.Rows("lstwres")[0][1], "NEW");
+  EXPECT_EQ(play.Desk.Rows("lstwres")[1][1], "Free");
+  play.Desk.Pick("cmbbond", "Free agents");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Free Fred"}));
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "1 of 3 workers, 0 on your shortlist.");
+  play.Desk.Pick("cmbbond", "All");
+  play.Desk.Pick("lstwres", "Fixed Fay");
+  EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
+}
+
+TEST(frmOtherWres, KeepsTheShortlist) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmOtherWres");
+  play.Desk.Click("cmdshortlist");
+  EXPECT_EQ(play.Desk.Text("cmdshortlist"), "Take Off Shortlist");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, 1 on your shortlist.");
+  EXPECT_TRUE(Holds(play.Desk.Text("txtpage"), "On your shortlist."));
+  play.Desk.Pick("lstwres", "Free Fred");
+  play.Desk.Click("cmdshortlist");
+  play.Desk.Click("cmdlist");
+  ASSERT_EQ(play.Desk.TopName(), "frmShortlist");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({kRay, "Free Fred"}));
+  EXPECT_EQ(play.Desk.Rows("lstwres")[1][3], "Free to sign.");
+  play.Desk.OpenRow("lstwres", kRay);
+  EXPECT_EQ(play.Desk.TopName(), "frmWorker");
+  play.Desk.Click("cmdback");
+  play.Desk.Pick("lstwres", kRay);
+  play.Desk.Click("cmdremove");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Free Fred"}));
+  EXPECT_TRUE(play.Desk.Text("txtpage").starts_with("Free Fred"));
+  play.Desk.Click("cmdremove");
+  EXPECT_FALSE(play.Desk.Enabled("cmdremove"));
+  play.Reopen();
+  for (const Word& place : play.World().Game().Shortlist) EXPECT_EQ(place, 0);
+}
+
+TEST(frmOtherWres, SaysThatAFullShortlistIsFull) {
+  GameOnWorld play(SmallWorld().Promotion("CWA").Promotion("NEW").Crew(16).Game("CWA"));
+  for (int i = 1; i <= 15; ++i) play.World().Game().Shortlist[static_cast<std::size_t>(i - 1)] = i;
+  play.Desk.Open("frmOtherWres");
+  play.Desk.Pick("lstwres", "NEW Hand 16");
+  play.Desk.ExpectSay("Shortlist",
+                      "Your shortlist is full: it holds 15 workers. Take somebody off it first.");
+  play.Desk.Click("cmdshortlist");
+  EXPECT_EQ(play.Desk.Text("cmdshortlist"), "Put On Shortlist");
+}
+
+TEST(frmWorker, OffersWhatAppliesAndSurvivesItsSubject) {
+  GameOnWorld play(Business());
+  const int ray = Named(play.World().Workers(), kRay).Uid;
+  play.Play.OpenWorker(Named(play.World().Workers(), kBram).Uid);
+  EXPECT_EQ(play.Desk.Title(), kBram);
+  EXPECT_EQ(play.Desk.Text("cmdcontract"), "Contract");
+  EXPECT_FALSE(play.Desk.Enabled("cmdshortlist"));
+
+  play.Play.OpenWorker(ray);
+  EXPECT_EQ(play.Desk.Text("cmdcontract"), "Talks");
+  play.Desk.Click("cmdshortlist");
+  EXPECT_TRUE(Holds(play.Desk.Text("txtpage"), "On your shortlist."));
+
+  Named(play.World().Workers(), kRay).Uid = 900;  // somebody else has his record now
+  play.Desk.Click("cmdshortlist");
+  EXPECT_TRUE(Holds(play.Desk.Text("txtpage"), "not in the business any more"));
+  EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
+  play.Desk.Click("cmdback");
+  play.Desk.ExpectSay("Gone", kAnyText);
+  play.Play.OpenWorker(ray);
+  EXPECT_EQ(play.Desk.Title(), kBram);
+}
+
+TEST(frmWorker, HasNoTalksInTheMidstOfAShow) {
+  GameOnWorld play(Business().Game("CWA"));
+  play.Desk.Open("frmPPVBooking");
+  play.Play.OpenWorker(Named(play.World().Workers(), kBram).Uid);
+  ASSERT_EQ(play.Desk.TopName(), "frmWorker");
+  EXPECT_EQ(play.Desk.Tip("cmdcontract"), "There is a show to see to first.");
+}
+
+TEST(Links, LeadFromAMailToThePageAndOn) {
+  GameOnWorld play(Business()
+                       .Team("Law and Order", kBram, "Ilya Marsh")
+                       .Mail("Maeve", "Bram Okafor's fans miss Nobody Known of NEW."));
+  play.Desk.Open("frmNews");
+  const auto follow = [&](const char* name) {
+    return ui::Follow(play.Desk, *play.Desk.Top(), name);
+  };
+  EXPECT_EQ(follow("Nobody Known"), "frmNews shows no link \"Nobody Known\".");
+  EXPECT_EQ(follow("Bram"), "frmNews shows no link \"Bram\".");
+  EXPECT_EQ(follow("Ilya Marsh"), "frmNews shows no link \"Ilya Marsh\".");
+  EXPECT_EQ(follow(""), "frmNews shows no link \"\".");
+  EXPECT_EQ(follow(kBram), "");
+  EXPECT_EQ(play.Desk.Title(), kBram);
+  EXPECT_EQ(follow("Ilya Marsh"), "") << "his partner";
+  EXPECT_EQ(play.Desk.Title(), "Ilya Marsh");
+  EXPECT_EQ(follow(kBram), "");
+  EXPECT_EQ(play.Desk.Title(), kBram);
+  EXPECT_EQ(play.Desk.Screens().size(), 2U) << "back to the page that was open";
+}
+
+TEST(Links, LeadToAPromotionOnceItHasAPage) {
+  GameOnWorld play(Business().Mail("Maeve", "NEW is on the move."));
+  play.Play.OpenPromotion = nullptr;
+  play.Desk.Open("frmNews");
+  EXPECT_NE(ui::Follow(play.Desk, *play.Desk.Top(), "NEW"), "");
+  int opened = 0;
+  play.Play.OpenPromotion = [&](int uid) { opened = uid; };
+  EXPECT_EQ(ui::Follow(play.Desk, *play.Desk.Top(), "NEW"), "");
+  EXPECT_EQ(opened, Named(play.World().Promotions(), "NEW").Uid);
+}
+
+TEST(Links, AreInTablesToo) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmOtherWres");
+  EXPECT_EQ(ui::Follow(play.Desk, *play.Desk.Top(), "Free Fred"), "");
+  EXPECT_EQ(play.Desk.Title(), "Free Fred");
+}
+
+TEST(Links, AreNoneBeforeAGame) {
+  GameOnWorld play(Business());
+  play.Play.CloseSlot();
+  EXPECT_TRUE(play.Desk.LinksIn(kBram).empty());
+}
+
+}  // namespace
+}  // namespace grapplemont::test
