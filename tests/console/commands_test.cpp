@@ -30,6 +30,7 @@ TEST(Commands, WorkTheControls) {
       {"check chkday on\ncheck chkday on\ncheck chkday off\n", {"chkday", "chkday"}},
       {"check optheel on\n", {"optheel"}},
       {"slide hsprice 55\n", {"hsprice"}},
+      {"follow Bram Okafor\n", {"page of Bram"}},
       {"show\nshow lstpeople\nhelp\n\n", {}},
   };
   for (const Row& row : kRows) EXPECT_EQ(Served(row.Lines, kJson).Log, row.Said) << row.Lines;
@@ -98,6 +99,9 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
       {"check chkday", "Write it as \"check NAME on|off\"."},
       {"check chkday maybe", "Write it as \"check NAME on|off\"."},
       {"slide hsprice", "Write it as \"slide NAME VALUE\"."},
+      {"follow ", "Write it as \"follow NAME\"."},
+      {"follow Ilya Marsh", "frmSample shows no link \"Ilya Marsh\"."},
+      {"follow Bram", "frmSample shows no link \"Bram\"."},
       {"slide hsprice much", "\"much\" is no whole number that a scroll bar could go to."},
       {"slide hsprice 5000000000",
        "\"5000000000\" is no whole number that a scroll bar could go to."},
@@ -148,11 +152,17 @@ TEST(Commands, AtAnOpenBoxWaitForItsAnswer) {
   struct Row {
     std::string Opens, Line, Error;
   };
-  const Row kRows[] = {{"cmdsay", "yes", ok},           {"cmdsay", "cancel", ok},
-                       {"cmdsay", "click cmddoit", ok}, {"cmdask", "ok", yesNo},
-                       {"cmdask", "cancel", yesNo},     {"cmdask", "enter yes", yesNo},
-                       {"cmdprompt", "ok", input},      {"cmdprompt", "type txtname x", input},
-                       {"cmdsay", "show", ""},          {"cmdask", "help", ""}};
+  const Row kRows[] = {{"cmdsay", "yes", ok},
+                       {"cmdsay", "cancel", ok},
+                       {"cmdsay", "click cmddoit", ok},
+                       {"cmdask", "ok", yesNo},
+                       {"cmdask", "cancel", yesNo},
+                       {"cmdask", "enter yes", yesNo},
+                       {"cmdprompt", "ok", input},
+                       {"cmdprompt", "type txtname x", input},
+                       {"cmdsay", "show", ""},
+                       {"cmdask", "help", ""},
+                       {"cmdsay", "follow Bram Okafor", ok}};
   for (const Row& row : kRows) {
     const Served served("click " + row.Opens + "\n" + row.Line + "\n", kJson);
     const auto answers = Answers(served);
@@ -174,15 +184,53 @@ TEST(Commands, SurviveALineOfAnyLength) {
 }
 
 TEST(Commands, OfAnyKindGetOneAnswerEach) {
-  const std::vector<std::string> kWords = {
-      "show",        "click",     "type",     "pick",     "open",      "check",
-      "slide",       "ok",        "yes",      "no",       "enter",     "cancel",
-      "help",        "cmddoit",   "cmdsay",   "cmdask",   "cmdoff",    "cmdprompt",
-      "cmdthrow",    "cmdhidden", "txtname",  "txtnotes", "lstpeople", "lstmany",
-      "cmbkind",     "chkday",    "optheel",  "hsprice",  "imgdoor",   "rptshow",
-      "Bram Okafor", "on",        "off",      "1",        "3",         "-7",
-      "99",          "\xC3\x89",  "\xE2\x82", "\t",       "\r",        std::string(1, '\0'),
-      "\\n",         "\x7F",      "\xFF",     "\""};
+  const std::vector<std::string> kWords = {"show",
+                                           "click",
+                                           "type",
+                                           "pick",
+                                           "open",
+                                           "check",
+                                           "slide",
+                                           "follow",
+                                           "ok",
+                                           "yes",
+                                           "no",
+                                           "enter",
+                                           "cancel",
+                                           "help",
+                                           "cmddoit",
+                                           "cmdsay",
+                                           "cmdask",
+                                           "cmdoff",
+                                           "cmdprompt",
+                                           "cmdthrow",
+                                           "cmdhidden",
+                                           "txtname",
+                                           "txtnotes",
+                                           "lstpeople",
+                                           "lstmany",
+                                           "cmbkind",
+                                           "chkday",
+                                           "optheel",
+                                           "hsprice",
+                                           "imgdoor",
+                                           "rptshow",
+                                           "Bram Okafor",
+                                           "on",
+                                           "off",
+                                           "1",
+                                           "3",
+                                           "-7",
+                                           "99",
+                                           "\xC3\x89",
+                                           "\xE2\x82",
+                                           "\t",
+                                           "\r",
+                                           std::string(1, '\0'),
+                                           "\\n",
+                                           "\x7F",
+                                           "\xFF",
+                                           "\""};
   std::mt19937 chance(7);
   std::string lines;
   constexpr int kLines = 1000;

@@ -14,13 +14,21 @@ namespace grapplemont::test {
 
 using Json = nlohmann::json;
 
-/// A console over one SampleScreen, served with all the lines of a script.
+/// A console over one SampleScreen, served with all the lines of a script. Whoever is called "Bram
+/// Okafor" has a page.
 class Served {
  public:
   explicit Served(const std::string& lines, console::Settings settings = {}) : in_(lines) {
     console::Console desk(in_, out_, settings);
     SampleScreen& screen = SampleScreen::On(desk, Log);
     Log.clear();
+    desk.FindLinks = [this](std::string_view text) {
+      constexpr std::string_view kBram = "Bram Okafor";
+      std::vector<ui::Link> links;
+      if (const auto at = text.find(kBram); at != std::string_view::npos)
+        links.push_back({at, kBram.size(), [this] { Log.push_back("page of Bram"); }});
+      return links;
+    };
     desk.Run();
     Open = !desk.Empty();
     Price = Open ? screen.hsprice.Value.Get() : 0;
