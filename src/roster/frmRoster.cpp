@@ -105,9 +105,7 @@ class frmRoster : public WorkerListScreen {
   void ShowMove() {
     const Worker* chosen = Chosen();
     const int to = cmbnewposition.Key();
-    const std::string why = !chosen   ? kNobody
-                            : to == 0 ? "Choose a position first."
-                                      : WhyNotMove(world(), *chosen, to);
+    const std::string why = chosen ? WhyNotMove(world(), *chosen, to) : kNobody;
     EnableUnless(cmdposition, why);
     const int morale = why.empty() ? MoraleOfMove(chosen->Position, to) : 0;
     std::string words = why.empty() ? EndedByMove(world(), *chosen, to) : "";
