@@ -109,9 +109,8 @@ class frmRoster : public WorkerListScreen {
     EnableUnless(cmdposition, why);
     const int morale = why.empty() ? MoraleOfMove(chosen->Position, to) : 0;
     std::string words = why.empty() ? EndedByMove(world(), *chosen, to) : "";
-    if (morale != 0)
-      words = (morale > 0 ? "A rise that lifts morale by " : "A fall that costs morale ") +
-              std::to_string(morale > 0 ? morale : -morale) + ". " + words;
+    if (morale < 0) words = "A fall that costs " + std::to_string(-morale) + " morale. " + words;
+    if (morale > 0) words = "A rise that gives " + std::to_string(morale) + " morale. " + words;
     lblmove.Text = words;
     lblmove.Visible = !words.empty();
   }

@@ -91,8 +91,10 @@ TEST(frmRoster, MovesPositionsAndSaysBeforehandWhatItDoes) {
   play.Desk.Pick("cmbnewposition", "Upper Midcard");
   EXPECT_FALSE(play.Desk.Visible("lblmove"));
   play.Desk.Pick("cmbnewposition", "Jobber");
-  EXPECT_TRUE(Holds(play.Desk.Text("lblmove"), "A fall that costs morale 10."));
+  EXPECT_TRUE(Holds(play.Desk.Text("lblmove"), "A fall that costs 10 morale."));
   play.Desk.Click("cmdposition");
+  play.Desk.Pick("cmbnewposition", "Midcard");
+  EXPECT_TRUE(Holds(play.Desk.Text("lblmove"), "A rise that gives 5 morale."));
   play.Reopen();
   EXPECT_EQ(Named(play.World().Workers(), kBram).Position, kJobber);
   EXPECT_EQ(Named(play.World().Workers(), kBram).Morale, 70);
