@@ -80,6 +80,19 @@ TEST(Contracts, AreRemindedOfAtThreeMonthsAndAtOne) {
   }
 }
 
+TEST(Contracts, ThatStoodAtNothingArePaidOnceMoreAndHaveNoEndFromThenOn) {
+  for (const bool isPlayers : {true, false}) {
+    World world = Contract(isPlayers, 0);
+    ScriptDraws(world, {});
+    for (int month = 1; month <= 2; ++month) PayWagesAndContracts(world);
+    const Promotion& payer = Named(world.Promotions(), isPlayers ? "CWA" : "NEW");
+    EXPECT_EQ(world.Workers()[1].ContractMonths, kNoEnd);
+    EXPECT_EQ(world.Workers()[1].Employer, payer.Uid);
+    EXPECT_EQ(payer.Money, 2000000 - 12000);
+    EXPECT_EQ(NewsOf(world), "");
+  }
+}
+
 TEST(Contracts, EndAtThePlayersThroughTheRelease) {
   World world = Contract(true, 1, [](Worker& worker) { worker.Status = "Hom"; });
   ScriptDraws(world, {{3, 2}});
