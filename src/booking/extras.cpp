@@ -63,7 +63,9 @@ std::vector<const Worker*> CommentaryWorkers(const World& world) {
 void StartEvent(World& world, const CommentaryTeam& team, const EventExtra* extra) {
   StartShow(world, true, team);
   if (!extra) return;
-  world.Player().Money -= CostOfExtra(extra->Name);
+  const int dollars = CostOfExtra(extra->Name);
+  world.Player().Money -= dollars;
+  world.ShowRuns()[1].ExtraCost = dollars;
   if (extra->Bonus > 0) AddExtraBonus(world, world.RandomDraw(extra->Bonus));
 }
 

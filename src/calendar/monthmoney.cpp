@@ -3,6 +3,7 @@
 
 #include "business/loans.h"
 #include "business/monthlymoney.h"
+#include "business/past.h"
 #include "calendar/daysteps.h"
 #include "records/modVar.h"
 
@@ -113,6 +114,7 @@ void CloseMonthBooks(World& world) {
     promotion.LastMonth = promotion.ThisMonth;
     promotion.ThisMonth = {};
     promotion.Money = std::clamp<int>(promotion.Money, -kMostMoney, kMostMoney);
+    if (!(promotion.Name == kToBeDeleted)) RememberMonth(world, promotion);
   }
 }
 

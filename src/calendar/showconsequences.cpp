@@ -4,6 +4,7 @@
 #include <array>
 
 #include "business/networks.h"
+#include "business/past.h"
 #include "business/sponsorlimits.h"
 #include "calendar/daykind.h"
 #include "calendar/daysteps.h"
@@ -36,54 +37,78 @@ void ApplyGoodwill(World& world, Promotion& player, const std::array<int, 4>& by
   if (world.Game().Reputation < kPoorReputation) ChangeImage(world, player, 1, false);
 }
 
-/// False when the Event was called off.
-bool EventReview(World& world, Promotion& player, int type, bool cancelled) {
-  if (cancelled) {
-    CallOffEvent(world, player, type);
-    return false;
-  }
+ShowTakings HoldEvent(World& world, Promotion& player, const Event& event, int type) {
   ApplyGoodwill(world, player, kEventGoodwill);
   if (world.Game().Reputation == 0) ChangeImage(world, player, 1, false);
-  return true;
+  MoveImage(world, player, EventImageStep(player.Size, world.Session.ShowRating));
+  const long long sponsors = PayEventSponsors(world, player);
+  ShowTakings takings = EventReport(world, player, event, type);
+  takings.Income += sponsors;
+  takings.Costs += world.Session.ExtraCost;
+  return takings;
 }
 
-bool TvReview(World& world, Promotion& player, bool cancelled) {
-  if (cancelled) {
-    CallOffTv(world, player);
-    return false;
-  }
+ShowTakings HoldTv(World& world, Promotion& player) {
   CheckShow(world, player);
   ApplyGoodwill(world, player, kTvGoodwill);
-  return true;
+  MoveImage(world, player, TvImageStep(player.Size, world.Session.ShowRating));
+  const long long sponsors = PayTvSponsors(world, player);
+  ShowTakings takings = TvReport(world, player);
+  takings.Income += sponsors;
+  return takings;
+}
+
+/// The past keeps the show under its name, and the promotion as the show left it.
+void RememberShow(World& world, const Promotion& player, HistoryKind kind, std::string_view name,
+                  bool cancelled, const ShowTakings& takings) {
+  HistoryEntry entry = EntryOf(world, player, kind);
+  entry.Name = name;
+  entry.CalledOff = cancelled;
+  entry.Rating = cancelled ? 0 : std::clamp(world.Session.ShowRating, 0, 100);
+  entry.Viewers = takings.Viewers;
+  entry.Attendance = takings.People;
+  entry.Income = takings.Income;
+  entry.Costs = takings.Costs;
+  Remember(world, entry);
 }
 
 void EventDay(World& world, Promotion& player, bool cancelled) {
-  const int type = EventThisMonth(world, player);
-  if (type == 0) return ChangeImage(world, player, kNoEventImage, false);
-  if (!EventReview(world, player, type, cancelled)) return;
-  MoveImage(world, player, EventImageStep(player.Size, world.Session.ShowRating));
-  PayEventSponsors(world, player);
-  if (const Event* event = PlayerEvent(world, MonthOf(world.Today())))
-    EventReport(world, player, *event, type);
+  const Event* event = PlayerEvent(world, MonthOf(world.Today()));
+  if (!event || event->Type == 0) return ChangeImage(world, player, kNoEventImage, false);
+  const int type = event->Type;  // the image sets it anew
+  ShowTakings takings;
+  if (cancelled)
+    takings.Costs = CallOffEvent(world, player, type);
+  else
+    takings = HoldEvent(world, player, *event, type);
+  RememberShow(world, player, kPastEvent, event->Name, cancelled, takings);
 }
 
 void TvDay(World& world, Promotion& player, bool cancelled) {
-  if (!TvReview(world, player, cancelled)) return;
-  MoveImage(world, player, TvImageStep(player.Size, world.Session.ShowRating));
-  PayTvSponsors(world, player);
-  TvReport(world, player);
+  ShowTakings takings;
+  if (cancelled)
+    CallOffTv(world, player);
+  else
+    takings = HoldTv(world, player);
+  if (const Show* show = ShowOn(world, player.Uid, world.Today()))
+    RememberShow(world, player, kPastTv, show->Name, cancelled, takings);
 }
 
-void Receive(Promotion& promotion, int thousands) {
-  promotion.Money += thousands * 1000LL;
-  promotion.ThisMonth.SponsorIncome += thousands * 1000LL;
+long long Receive(Promotion& promotion, int thousands) {
+  const long long dollars = thousands * 1000LL;
+  promotion.Money += dollars;
+  promotion.ThisMonth.SponsorIncome += dollars;
+  return dollars;
 }
 
 }  // namespace
 
-void CallOffEvent(World& world, Promotion& promotion, int type) {
-  if (type >= 1 && type <= 4) promotion.Money -= kCancelCharges[static_cast<std::size_t>(type - 1)];
+int CallOffEvent(World& world, Promotion& promotion, int type) {
+  const int dollars =
+      type >= 1 && type <= 4 ? kCancelCharges[static_cast<std::size_t>(type - 1)] : 0;
+  promotion.Money -= dollars;
   ChangeImage(world, promotion, kCancelledImage, false);
+  return dollars;
 }
 
 void CallOffTv(World& world, Promotion& promotion) {
@@ -113,17 +138,21 @@ void CheckShow(World& world, const Promotion& promotion) {
   }
 }
 
-void PayEventSponsors(World& world, Promotion& promotion) {
+long long PayEventSponsors(World& world, Promotion& promotion) {
+  long long dollars = 0;
   for (const Sponsor& sponsor : world.Sponsors())
-    if (sponsor.Promotion == promotion.Uid) Receive(promotion, sponsor.Pay);
+    if (sponsor.Promotion == promotion.Uid) dollars += Receive(promotion, sponsor.Pay);
+  return dollars;
 }
 
-void PayTvSponsors(World& world, Promotion& promotion) {
+long long PayTvSponsors(World& world, Promotion& promotion) {
+  long long dollars = 0;
   for (const Sponsor& sponsor : world.Sponsors()) {
     if (sponsor.Promotion != promotion.Uid) continue;
     const bool isMain = promotion.Sponsor[0] == sponsor.Uid;
-    Receive(promotion, SponsorPayForTv(sponsor, isMain));
+    dollars += Receive(promotion, SponsorPayForTv(sponsor, isMain));
   }
+  return dollars;
 }
 
 void PlayerShowConsequences(World& world, bool cancelled) {
@@ -132,6 +161,7 @@ void PlayerShowConsequences(World& world, bool cancelled) {
     EventDay(world, player, cancelled);
   else if (HasTvToday(world, player.Uid))
     TvDay(world, player, cancelled);
+  world.Session.ExtraCost = 0;
 }
 
 }  // namespace grapplemont

@@ -6,21 +6,22 @@
 namespace grapplemont {
 
 /// HistoryEntry.Kind.
-enum HistoryKind { kPastTv = 1, kPastEvent, kPastMonth };
+enum HistoryKind { kPastTv = 1, kPastEvent, kPastMonth, kPastCamp, kPastTerritory };
 
-/// What a slot remembers of its past: a show of the player's that was held or called off, or how a
-/// promotion stood when a month was closed. A record of history.dat, appended and never changed.
+/// What a slot remembers of its past: a show of the player's that was held or called off, how a
+/// promotion stood when a month was closed, or what it built for its young workers. A record of
+/// history.dat, appended and never changed.
 struct HistoryEntry {
   Date On;
   Word Kind;
   Word Promotion;   // uid; the promotion may be gone
-  Text<40> Name;    // of the show or Event; of the promotion for a month
+  Text<40> Name;    // of the show or Event, of what was built; of the promotion for a month
   Flag CalledOff;   // shows
   Word Rating;      // a show's, 0 to 100
   Word Viewers;     // hundredths: a television rating, or a pay-per-view's buy rate
   Long Attendance;  // people; a month's sum of the player's shows
   Long Income;      // dollars that the show brought, or the month
-  Long Costs;       // dollars that the show cost, or the month
+  Long Costs;       // dollars that the show cost, the month, or what was built
   Long Money;       // cash afterwards
   Word Size;        // afterwards
   Percent Image;    // afterwards

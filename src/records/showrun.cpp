@@ -26,6 +26,7 @@ constexpr Field kFields[] = {
     FIELD(ColourCharge).Means("What the colour commentator cost the sum."),
     FIELD(ProductionCharge).Means("What poor production cost the sum."),
     FIELD(ExtraBonus).Means("What an Event's extra added to the sum."),
+    FIELD(ExtraCost).In(0, 2147483647).Counts("dollars").Means("What an Event's extra cost."),
 };
 #undef FIELD
 

@@ -30,9 +30,10 @@ struct ShowRun {
   Word ColourCharge;      // what the colour commentator cost it
   Word ProductionCharge;  // what poor production cost it
   Word ExtraBonus;        // what an Event's extra added to it
+  Long ExtraCost;         // dollars that the extra was charged
 };
 
-static_assert(sizeof(ShowRun) == 46 && alignof(ShowRun) == 1);
+static_assert(sizeof(ShowRun) == 50 && alignof(ShowRun) == 1);
 static_assert(offsetof(ShowRun, Stage) == 0 && offsetof(ShowRun, IsEvent) == 2);
 static_assert(offsetof(ShowRun, Current) == 4 && offsetof(ShowRun, PreviousCrowd) == 6);
 static_assert(offsetof(ShowRun, LastOverall) == 8 && offsetof(ShowRun, FlatNight) == 10);
@@ -41,6 +42,7 @@ static_assert(offsetof(ShowRun, ShowSegments) == 30 && offsetof(ShowRun, Announc
 static_assert(offsetof(ShowRun, Colour) == 34 && offsetof(ShowRun, ColourIsWorker) == 36);
 static_assert(offsetof(ShowRun, AnnouncerCharge) == 38 && offsetof(ShowRun, ColourCharge) == 40);
 static_assert(offsetof(ShowRun, ProductionCharge) == 42 && offsetof(ShowRun, ExtraBonus) == 44);
+static_assert(offsetof(ShowRun, ExtraCost) == 46);
 
 template <>
 const RecordLayout& LayoutOf<ShowRun>();

@@ -26,6 +26,7 @@ struct SessionWords {
   int ShowRating = 0;  // runs up as the sum during a show, holds its rating once it closes; cleared
                        // by the next day
   int ShowFlag = 0;    // Segments summed so far
+  int ExtraCost = 0;   // dollars that the extra of the Event just held was charged; cleared with it
   int StartSize = 0;   // the player's Promotion.Size as the day's stages refresh it
 };
 

@@ -147,6 +147,7 @@ int HoldShow(World& world, bool isEvent, const CommentaryTeam& team, int extraBo
 void LeaveShow(World& world) {
   world.Session.ShowRating = Run(world).ShowSum;
   world.Session.ShowFlag = Run(world).ShowSegments;
+  world.Session.ExtraCost = Run(world).ExtraCost;
   world.ShowRuns().Remove();
 }
 

@@ -58,10 +58,11 @@ int SellPayPerView(Promotion& promotion, int buyRate) {
   return dollars;
 }
 
-void PayForProduction(Promotion& promotion, int type) {
+int PayForProduction(Promotion& promotion, int type) {
   const int dollars = EventProductionCost(type);
   promotion.Money -= dollars;
   promotion.ThisMonth.ProductionCost += dollars;
+  return dollars;
 }
 
 std::string CrowdLine(const Voice& voice, int people) {
@@ -155,17 +156,18 @@ Show* ShowOn(World& world, int promotionUid, Day day) {
   return nullptr;
 }
 
-void EventReport(World& world, Promotion& promotion, const Event& event, int type) {
+ShowTakings EventReport(World& world, Promotion& promotion, const Event& event, int type) {
   const bool isPayPerView = type == kPayPerView && promotion.Size <= kRegional;
   const int buyRate = isPayPerView ? BuyRate(world, promotion) : 0;
   const int people = EventAttendance(world, promotion, type);
   const int ppvDollars = isPayPerView ? SellPayPerView(promotion, buyRate) : 0;
   const int ticketDollars = SellTickets(promotion, people);
-  PayForProduction(promotion, type);
+  const int costs = PayForProduction(promotion, type);
   if (isPayPerView)
     TellOfPayPerView(world, promotion, event, buyRate, people, ppvDollars, ticketDollars);
   else
     TellOfEvent(world, promotion, event, people, ticketDollars);
+  return {people, buyRate, static_cast<long long>(ticketDollars) + ppvDollars, costs};
 }
 
 int HeadToHead(World& world, const Show& show, int rating) {
@@ -179,10 +181,10 @@ int HeadToHead(World& world, const Show& show, int rating) {
   return rating;
 }
 
-void TvReport(World& world, Promotion& promotion) {
+ShowTakings TvReport(World& world, Promotion& promotion) {
   Show* show = ShowOn(world, promotion.Uid, world.Today());
   const Network* network = show ? world.FindNetwork(show->Network) : nullptr;
-  if (!network) return;
+  if (!network) return {};
   const int rating = RatingOf(world, promotion, *show, *network);
   const int floor = SlotAudience(*network, show->Slot) * 6 / 10;
   if (rating < floor && IsPlayers(world, promotion))
@@ -198,6 +200,7 @@ void TvReport(World& world, Promotion& promotion) {
            (own ? "The attendance level was " + std::to_string(people) + " people."
                 : CrowdLine(voice, people)) +
            "\n" + Made(voice, dollars, "ticket sales"));
+  return {people, rating, dollars, 0};
 }
 
 }  // namespace grapplemont

@@ -183,5 +183,60 @@ TEST(CloseMonthBooks, MovesTheBooksAndHoldsTheBalance) {
   }
 }
 
+TEST(CloseMonthBooks, LeavesAnEntryOfEveryPromotionThatLives) {
+  constexpr Day kMarch{std::chrono::year{2026} / 3 / 1}, kApril{std::chrono::year{2026} / 4 / 1};
+  World world = SmallWorld()
+                    .Promotion("CWA", kCult)
+                    .Promotion("NEW", kSmall)
+                    .Promotion("OLD", kSmall)
+                    .Game("CWA", kApril);
+  Named(world.Promotions(), "OLD").Name = kToBeDeleted;
+  struct Crowd {
+    int Days, Kind, Promotion, People;  // days from the first of March
+  };
+  const int player = world.PlayerUid(), rival = Named(world.Promotions(), "NEW").Uid;
+  for (const Crowd& crowd : {Crowd{-1, kPastTv, player, 1000},
+                             {0, kPastTv, player, 200},
+                             {7, kPastMonth, player, 5000},
+                             {7, kPastTv, rival, 40},
+                             {28, kPastEvent, player, 3000},
+                             {31, kPastTv, player, 9000}}) {
+    HistoryEntry entry{};
+    entry.On = kMarch + std::chrono::days{crowd.Days};
+    entry.Kind = crowd.Kind;
+    entry.Promotion = crowd.Promotion;
+    entry.Attendance = crowd.People;
+    entry.Size = kCult;
+    world.History().Append(entry);
+  }
+  world.Player().Image = 64;
+  world.Player().Money = 95000000;
+  world.Player().ThisMonth = {};
+  int book = 1;
+  MonthBooks& books = world.Player().ThisMonth;
+  for (Long* entry : {&books.TicketIncome, &books.MerchIncome, &books.PpvIncome,
+                      &books.SponsorIncome, &books.WrestlerWages, &books.StaffWages,
+                      &books.ProductionCost, &books.AdvertisingCost, &books.MerchCost}) {
+    *entry = book;
+    book *= 2;
+  }
+  CloseMonthBooks(world);
+  ASSERT_EQ(world.History().Count(), 6 + 2);
+  const HistoryEntry& own = world.History()[7];
+  EXPECT_EQ(Day(own.On), kApril);
+  EXPECT_EQ(own.Kind, kPastMonth);
+  EXPECT_EQ(own.Promotion, player);
+  EXPECT_EQ(own.Name, world.Player().Name);
+  EXPECT_EQ(own.Attendance, 200 + 3000) << "of March, and the player's shows alone";
+  EXPECT_EQ(own.Income, 1 + 2 + 4 + 8);
+  EXPECT_EQ(own.Costs, 16 + 32 + 64 + 128 + 256);
+  EXPECT_EQ(own.Money, 90000000) << "as the close held it";
+  EXPECT_EQ(own.Size, kCult);
+  EXPECT_EQ(own.Image, 64);
+  EXPECT_EQ(world.History()[8].Promotion, rival);
+  EXPECT_EQ(world.History()[8].Income, 0);
+  EXPECT_EQ(world.History()[8].Attendance, 0);
+}
+
 }  // namespace
 }  // namespace grapplemont::test

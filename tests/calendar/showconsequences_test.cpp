@@ -58,6 +58,75 @@ TEST(PlayerShowConsequences, PayAndTellOfTelevision) {
             "The attendance level was 412 people.\nWe made $12360 from ticket sales.\n");
 }
 
+struct Remembered {
+  int Kind;
+  const char* Name;
+  bool CalledOff;
+  int Rating, Viewers, People, Income, Costs, Money, Image;
+};
+
+/// The one entry of the day.
+void ExpectRemembered(const World& world, const Remembered& expected) {
+  ASSERT_EQ(world.History().Count(), 1) << expected.Name;
+  const HistoryEntry& entry = world.History()[1];
+  EXPECT_EQ(Day(entry.On), world.Today());
+  EXPECT_EQ(entry.Kind, expected.Kind);
+  EXPECT_EQ(entry.Promotion, world.PlayerUid());
+  EXPECT_EQ(entry.Name.View(), expected.Name);
+  EXPECT_EQ(entry.CalledOff, expected.CalledOff);
+  EXPECT_EQ(entry.Rating, expected.Rating);
+  EXPECT_EQ(entry.Viewers, expected.Viewers);
+  EXPECT_EQ(entry.Attendance, expected.People);
+  EXPECT_EQ(entry.Income, expected.Income);
+  EXPECT_EQ(entry.Costs, expected.Costs);
+  EXPECT_EQ(entry.Money, expected.Money);
+  EXPECT_EQ(entry.Size, world.Player().Size);
+  EXPECT_EQ(entry.Image, expected.Image);
+}
+
+TEST(PlayerShowConsequences, AreRememberedWithWhatTheShowBroughtAndCost) {
+  constexpr int kGate = 2250 * 30, kTvGate = 412 * 30;
+  World event = Company().Event(3, 2, "Marchmania").Game("CWA", kLastSunday);
+  event.Session.ShowRating = 65;
+  event.Session.ExtraCost = 70000;  // was charged when the Event began
+  ScriptDraws(event, {{100, 50}});
+  PlayerShowConsequences(event, false);
+  ExpectRemembered(event, {kPastEvent, "Marchmania", false, 65, 0, 2250, 200000 + kGate, 270000,
+                           5000000 + kGate, 52});
+  EXPECT_EQ(event.Session.ExtraCost, 0) << "the next show has none";
+
+  World payPerView = Company(kRegional).Event(3, 1, "Big One").Game("CWA", kLastSunday);
+  payPerView.Session.ShowRating = 45;
+  ScriptDraws(payPerView, {{3, 2}, {100, 50}});
+  PlayerShowConsequences(payPerView, false);
+  const HistoryEntry& entry = payPerView.History()[1];
+  EXPECT_EQ(entry.Viewers, 6 + 2) << "a buy rate";
+  EXPECT_EQ(entry.Income, 200000 + 8 * 25000 + entry.Attendance * 20);
+  EXPECT_EQ(entry.Costs, 1500000);
+  EXPECT_EQ(entry.Money - 2000000, entry.Income - entry.Costs);
+
+  World tv = Company().Event(3, 2).Game("CWA", kFriday);
+  tv.Session.ShowRating = 65;
+  ScriptDraws(tv, {{10, 5}, {20, 12}});
+  PlayerShowConsequences(tv, false);
+  ExpectRemembered(
+      tv, {kPastTv, "Friday Fire", false, 65, 225, 412, 35000 + kTvGate, 0, 5035000 + kTvGate, 51});
+}
+
+TEST(PlayerShowConsequences, AreRememberedOfShowsThatWereCalledOff) {
+  World event = Company().Event(3, 2, "Marchmania").Game("CWA", kLastSunday);
+  event.Session.ShowRating = 95;
+  PlayerShowConsequences(event, true);
+  ExpectRemembered(event, {kPastEvent, "Marchmania", true, 0, 0, 0, 0, 1000000, 4000000, 35});
+  World tv = Company().Game("CWA", kFriday);
+  tv.Session.ShowRating = 95;
+  PlayerShowConsequences(tv, true);
+  ExpectRemembered(tv, {kPastTv, "Friday Fire", true, 0, 0, 0, 0, 0, 5000000, 35});
+  World none = Company().Event(4).Game("CWA", kLastSunday);
+  PlayerShowConsequences(none, false);
+  EXPECT_EQ(none.History().Count(), 0) << "there was no show";
+}
+
 TEST(PlayerShowConsequences, AreNoneOnAPlainDay) {
   World world = Company().Event(3, 2).Game("CWA", kTuesday);
   world.Session.ShowRating = 95;

@@ -1,0 +1,94 @@
+#include "business/past.h"
+
+#include "records/dates.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kDropped = 1000;
+
+bool IsShow(const HistoryEntry& entry) {
+  return entry.Kind == kPastTv || entry.Kind == kPastEvent;
+}
+
+template <class Test>
+std::vector<const HistoryEntry*> Entries(const World& world, int promotionUid, Test test) {
+  std::vector<const HistoryEntry*> found;
+  for (const HistoryEntry& entry : world.History())
+    if (entry.Promotion == promotionUid && test(entry)) found.push_back(&entry);
+  return found;
+}
+
+Day MonthBefore(Day first) {
+  const Day last = first - std::chrono::days{1};
+  return last - std::chrono::days{DayOfMonth(last) - 1};
+}
+
+long long IncomeOf(const MonthBooks& books) {
+  return static_cast<long long>(books.TicketIncome) + books.MerchIncome + books.PpvIncome +
+         books.SponsorIncome;
+}
+
+long long CostsOf(const MonthBooks& books) {
+  return static_cast<long long>(books.WrestlerWages) + books.StaffWages + books.ProductionCost +
+         books.AdvertisingCost + books.MerchCost;
+}
+
+}  // namespace
+
+std::vector<const HistoryEntry*> MonthsOf(const World& world, int promotionUid) {
+  return Entries(world, promotionUid,
+                 [](const HistoryEntry& entry) { return entry.Kind == kPastMonth; });
+}
+
+std::vector<const HistoryEntry*> ShowsOf(const World& world, int promotionUid,
+                                         std::string_view name) {
+  return Entries(world, promotionUid, [&](const HistoryEntry& entry) {
+    return name.empty() ? entry.Kind == kPastEvent : entry.Kind == kPastTv && entry.Name == name;
+  });
+}
+
+long long AttendanceOf(const World& world, int promotionUid, Day from, Day until) {
+  long long people = 0;
+  for (int number = world.History().Count(); number >= 1; --number) {
+    const HistoryEntry& entry = world.History()[number];
+    if (Day(entry.On) < from) break;
+    if (entry.Promotion == promotionUid && IsShow(entry) && Day(entry.On) < until)
+      people += entry.Attendance;
+  }
+  return people;
+}
+
+HistoryEntry EntryOf(const World& world, const Promotion& promotion, HistoryKind kind) {
+  HistoryEntry entry{};
+  entry.On = world.Today();
+  entry.Kind = kind;
+  entry.Promotion = promotion.Uid;
+  entry.Name = promotion.Name;
+  entry.Money = promotion.Money;
+  entry.Size = promotion.Size;
+  entry.Image = promotion.Image;
+  return entry;
+}
+
+void Remember(World& world, const HistoryEntry& entry) {
+  if (world.History().Full()) {
+    // A thousand at once: making room must not move the whole file with every show.
+    int number = 0;
+    world.History().Keep([&](const HistoryEntry&) { return ++number > kDropped; });
+  }
+  world.History().Append(entry);
+}
+
+void RememberMonth(World& world, const Promotion& promotion) {
+  HistoryEntry entry = EntryOf(world, promotion, kPastMonth);
+  if (promotion.Uid == world.PlayerUid())
+    entry.Attendance =
+        AttendanceOf(world, promotion.Uid, MonthBefore(world.Today()), world.Today());
+  entry.Income = IncomeOf(promotion.LastMonth);
+  entry.Costs = CostsOf(promotion.LastMonth);
+  Remember(world, entry);
+}
+
+}  // namespace grapplemont
