@@ -49,7 +49,9 @@ constexpr const char* kInGame[] = {
     "frmMainScreen", "frmOptions", "frmNews",       "frmNotepad",  "frmFeuds",
     "frmFeudStart",  "frmBooking", "frmPPVBooking", "frmWait",     "frmLoadingScreens",
     "frmAutoBook",   "frmDebut",   "frmAltRoster",  "frmAltBelts", "frmQuickStat",
-    "frmTagTeams",   "frmStables", "frmManagers",   "frmTurn"};
+    "frmTagTeams",   "frmStables", "frmManagers",   "frmTurn",     "frmFinance",
+    "frmTicket",     "frmCharity", "frmLoan",       "frmWages",    "frmFedProd",
+    "frmFedSponsor"};
 constexpr const char* kBeforeGame[] = {"frmTitleScreen", "frmDisclaimer",  "frmGameMenu",
                                        "frmCredits",     "frmCreditsXtra", "frmNewGame",
                                        "frmLoadGame",    "frmWait",        "frmLoadingScreens"};
