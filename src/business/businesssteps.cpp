@@ -4,8 +4,6 @@ namespace grapplemont {
 
 void AnswerPromoTapes(World&) {}
 void TvContractReview(World&) {}
-void SponsorRiskReview(World&) {}
 void RivalNewTvShows(World&) {}
-void SponsorContractCountdown(World&) {}
 
 }  // namespace grapplemont

@@ -2,8 +2,8 @@
 
 #include "records/world.h"
 
-// What networks and sponsors do by themselves: steps of the day. Not built yet: each leaves the
-// world as it is.
+// What networks and sponsors do by themselves: steps of the day. Those of networks are not built
+// yet and leave the world as it is.
 
 namespace grapplemont {
 
@@ -11,9 +11,11 @@ namespace grapplemont {
 void AnswerPromoTapes(World& world);
 // Mondays.
 void TvContractReview(World& world);
+/// Sponsors whose promotion has become too risky for them walk out.
 void SponsorRiskReview(World& world);
 // The first of a month.
 void RivalNewTvShows(World& world);
+/// A month off every deal; the last month ends it.
 void SponsorContractCountdown(World& world);
 
 }  // namespace grapplemont

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "business/wagebill.h"
 #include "calendar/daysteps.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -26,9 +27,9 @@ std::string MonthsLeft(int months, bool isMan) {
 
 void PayWage(World& world, const Worker& worker) {
   Promotion* employer = world.FindPromotion(worker.Employer);
-  if (!employer || worker.Status == "Hom") return;
-  employer->Money -= worker.Wage * 1000LL;
-  employer->ThisMonth.WrestlerWages += worker.Wage * 1000LL;
+  if (!employer) return;
+  employer->Money -= MonthlyWage(worker);
+  employer->ThisMonth.WrestlerWages += MonthlyWage(worker);
 }
 
 void TellOfPlayers(World& world, Worker& worker) {
@@ -61,8 +62,8 @@ void LeaveRival(World& world, Worker& worker) {
 void PayStaffWage(World& world, const Staff& staff) {
   Promotion* employer = world.FindPromotion(staff.Employer);
   if (!employer) return;
-  employer->Money -= staff.Wage * 1000LL;
-  employer->ThisMonth.StaffWages += staff.Wage * 1000LL;
+  employer->Money -= MonthlyWage(staff);
+  employer->ThisMonth.StaffWages += MonthlyWage(staff);
 }
 
 void TellOfPlayersStaff(World& world, Staff& staff) {
@@ -86,8 +87,8 @@ void LeaveRivalsStaff(World& world, Staff& staff) {
 void PayWorkers(World& world) {
   for (Worker& worker : world.Workers()) {
     if (worker.Employer == 0 || worker.ContractMonths == kNoEnd) continue;
-    worker.ContractMonths -= 1;
     PayWage(world, worker);
+    worker.ContractMonths -= 1;
     if (worker.Employer == world.PlayerUid())
       TellOfPlayers(world, worker);
     else if (worker.ContractMonths == 0)
@@ -98,8 +99,8 @@ void PayWorkers(World& world) {
 void PayStaff(World& world) {
   for (Staff& staff : world.AllStaff()) {
     if (staff.Employer == 0 || staff.Position == kOwner || staff.ContractMonths == kNoEnd) continue;
-    staff.ContractMonths -= 1;
     PayStaffWage(world, staff);
+    staff.ContractMonths -= 1;
     if (staff.Employer == world.PlayerUid())
       TellOfPlayersStaff(world, staff);
     else if (staff.ContractMonths == 0)

@@ -1,6 +1,7 @@
 #include "program/screens.h"
 
 #include "booking/bookingscreens.h"
+#include "business/officescreens.h"
 #include "calendar/calendarscreens.h"
 #include "info/infoscreens.h"
 #include "roster/rosterscreens.h"
@@ -13,6 +14,7 @@ namespace grapplemont {
 void RegisterScreens(Game& game) {
   RegisterStoryScreens(game);
   RegisterRosterScreens(game);
+  RegisterOfficeScreens(game);
   RegisterShowScreens(game);
   RegisterBookingScreens(game);
   RegisterCalendarScreens(game);

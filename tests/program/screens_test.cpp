@@ -50,7 +50,8 @@ constexpr const char* kInGame[] = {
     "frmFeudStart",  "frmBooking",   "frmPPVBooking", "frmWait",     "frmLoadingScreens",
     "frmAutoBook",   "frmDebut",     "frmAltRoster",  "frmAltBelts", "frmQuickStat",
     "frmTagTeams",   "frmStables",   "frmManagers",   "frmTurn",     "frmRoster",
-    "frmOtherWres",  "frmShortlist", "frmUser"};
+    "frmOtherWres",  "frmShortlist", "frmUser",       "frmFinance",  "frmTicket",
+    "frmCharity",    "frmLoan",      "frmWages",      "frmFedProd",  "frmFedSponsor"};
 constexpr const char* kBeforeGame[] = {"frmTitleScreen", "frmDisclaimer",  "frmGameMenu",
                                        "frmCredits",     "frmCreditsXtra", "frmNewGame",
                                        "frmLoadGame",    "frmWait",        "frmLoadingScreens"};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "records/world.h"
+
+// How sponsors and promotions, the player's and rivals' alike, come together and part.
+
+namespace grapplemont {
+
+/// Places of a promotion's sponsors, numbered from 1; the first is the main one's.
+inline constexpr int kMainSponsor = 1;
+inline constexpr int kSponsorPlaces = 4;
+
+/// The sponsor in place 1 to 4, nullptr for a free one.
+Sponsor* SponsorAt(World& world, const Promotion& promotion, int place);
+/// The place 1 to 4 that the sponsor has in the promotion, 0 for none.
+int SponsorPlace(const Promotion& promotion, int sponsorUid);
+/// The first free place from `from` on, 0 for none.
+int FreeSponsorPlace(const Promotion& promotion, int from = kMainSponsor);
+
+/// The sponsor takes place 1 to 4, wherever he was before, for 7 to 24 months. Draws once, of 18.
+void SignSponsor(World& world, Promotion& promotion, Sponsor& sponsor, int place);
+/// A sponsor of the promotion's own moves to another place; whoever has that place takes his. The
+/// deal runs on.
+void MoveSponsor(Promotion& promotion, int sponsorUid, int place);
+/// The deal is over: no promotion lists the sponsor any more, and he is free. Nothing is paid.
+void LoseSponsor(World& world, Sponsor& sponsor);
+
+/// How a sponsor answers the player's offer, by the promotion's risk, then by its standing.
+enum class SponsorAnswer { Accepts, TooRisky, Declines };
+SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion);
+
+/// Dollars that it costs to end a deal before its time.
+long long EndingCost(const Sponsor& sponsor);
+/// The promotion pays for the rest of the deal, into debt if need be, and loses the sponsor.
+void EndSponsorship(World& world, Promotion& promotion, Sponsor& sponsor);
+
+}  // namespace grapplemont
