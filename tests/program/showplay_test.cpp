@@ -162,6 +162,7 @@ TEST(AnEventPlayed, PaysForItsExtraAndTakesItsBonus) {
   const int bonus = play.Other.RandomDraw(15);
   AddExtraBonus(play.Other, bonus);
   play.Other.Player().Money -= 500000;
+  play.Other.ShowRuns()[1].ExtraCost = 500000;
   EXPECT_EQ(play.World().Player().Money, money - 500000);
   play.ExpectNextSegment();
   while (NextSegment(play.Other) != 0) {
