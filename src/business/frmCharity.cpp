@@ -17,8 +17,7 @@ std::string DonationText(int thousands) {
 /// Money for a good cause, and for the player's good name.
 class frmCharity : public ui::Screen {
  public:
-  explicit frmCharity(Game& game)
-      : Screen(game.Desk(), "frmCharity", "Charity", ui::Role::Dialog), game_(game) {}
+  explicit frmCharity(Game& game) : Screen(game.Desk(), "frmCharity", "Charity"), game_(game) {}
 
   ui::Page Layout() override {
     ui::Page page;

@@ -31,7 +31,7 @@ constexpr int kMostSpending = 100;
 class frmFedMerch : public ui::Screen {
  public:
   frmFedMerch(Game& game, const Spending& side)
-      : Screen(game.Desk(), "frmFedMerch", side.Title, ui::Role::Dialog), game_(game), side_(side) {
+      : Screen(game.Desk(), "frmFedMerch", side.Title), game_(game), side_(side) {
     lblmeans.Text = side.Means;
   }
 

@@ -19,13 +19,13 @@ std::string PercentText(int number) {
 /// Better production, bought in steps.
 class frmFedProd : public ui::Screen {
  public:
-  explicit frmFedProd(Game& game)
-      : Screen(game.Desk(), "frmFedProd", "Production", ui::Role::Dialog), game_(game) {}
+  explicit frmFedProd(Game& game) : Screen(game.Desk(), "frmFedProd", "Production"), game_(game) {}
 
   ui::Page Layout() override {
     ui::Page page;
     page.Facts = &lblmoney;
     page.Actions = {&cmdback};
+    page.Main = &cmdback;
     page.Cancel = &cmdback;
     page.Body = ui::Group(
         "", {ui::Field("Production values", lblproduction),

@@ -18,8 +18,7 @@ std::string TermText(int months) {
 /// The bank: one loan at a time, its price each month, and the way to be rid of it.
 class frmLoan : public ui::Screen {
  public:
-  explicit frmLoan(Game& game)
-      : Screen(game.Desk(), "frmLoan", "Loan", ui::Role::Dialog), game_(game) {}
+  explicit frmLoan(Game& game) : Screen(game.Desk(), "frmLoan", "Loan"), game_(game) {}
 
   ui::Page Layout() override {
     ui::Page page;
@@ -27,10 +26,9 @@ class frmLoan : public ui::Screen {
     page.Actions = {&cmdback, &cmddoit};
     page.Main = &cmddoit;
     page.Cancel = &cmdback;
-    page.Body =
-        ui::Group("", {txtstatus, ui::Field("In steps of $100000", hsamount),
-                       ui::Field("Amount", lblamount), ui::Columns({lblfor, lblterm, ui::Spacer()}),
-                       ui::Field("Each month", txtcost), lblstate});
+    page.Body = ui::Group("", {txtstatus, ui::Field("In steps of $100000", hsamount),
+                               ui::Field("Amount", lblamount), ui::Field("Each month", txtcost),
+                               ui::Columns({lblfor, lblterm, ui::Spacer()}), lblstate});
     return page;
   }
 

@@ -16,8 +16,7 @@ constexpr int kDearestTicket = 100;  // dollars
 /// What a ticket costs, and what people would say of another price.
 class frmTicket : public ui::Screen {
  public:
-  explicit frmTicket(Game& game)
-      : Screen(game.Desk(), "frmTicket", "Ticket Prices", ui::Role::Dialog), game_(game) {}
+  explicit frmTicket(Game& game) : Screen(game.Desk(), "frmTicket", "Ticket Prices"), game_(game) {}
 
   ui::Page Layout() override {
     ui::Page page;
