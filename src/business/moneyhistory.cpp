@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "business/past.h"
 #include "records/dates.h"
 
 namespace grapplemont {
@@ -22,9 +23,8 @@ std::chrono::year_month MonthBefore(Day day) {
 /// A month is closed on the first of the next.
 std::vector<MoneyPoint> Remembered(const World& world, int promotionUid) {
   std::vector<MoneyPoint> points;
-  for (const HistoryEntry& entry : world.History())
-    if (entry.Kind == kPastMonth && entry.Promotion == promotionUid)
-      points.push_back({MonthInShort(MonthBefore(entry.On)), entry.Money});
+  for (const HistoryEntry* entry : MonthsOf(world, promotionUid))
+    points.push_back({MonthInShort(MonthBefore(entry->On)), entry->Money});
   return points;
 }
 

@@ -1,5 +1,6 @@
 #include "business/past.h"
 
+#include "business/books.h"
 #include "records/dates.h"
 
 namespace grapplemont {
@@ -23,16 +24,6 @@ std::vector<const HistoryEntry*> Entries(const World& world, int promotionUid, T
 Day MonthBefore(Day first) {
   const Day last = first - std::chrono::days{1};
   return last - std::chrono::days{DayOfMonth(last) - 1};
-}
-
-long long IncomeOf(const MonthBooks& books) {
-  return static_cast<long long>(books.TicketIncome) + books.MerchIncome + books.PpvIncome +
-         books.SponsorIncome;
-}
-
-long long CostsOf(const MonthBooks& books) {
-  return static_cast<long long>(books.WrestlerWages) + books.StaffWages + books.ProductionCost +
-         books.AdvertisingCost + books.MerchCost;
 }
 
 }  // namespace
@@ -86,8 +77,8 @@ void RememberMonth(World& world, const Promotion& promotion) {
   if (promotion.Uid == world.PlayerUid())
     entry.Attendance =
         AttendanceOf(world, promotion.Uid, MonthBefore(world.Today()), world.Today());
-  entry.Income = IncomeOf(promotion.LastMonth);
-  entry.Costs = CostsOf(promotion.LastMonth);
+  entry.Income = TotalIn(promotion.LastMonth);
+  entry.Costs = TotalOut(promotion.LastMonth);
   Remember(world, entry);
 }
 
