@@ -44,22 +44,6 @@ int CostOfExtra(std::string_view name) {
   return cost;
 }
 
-std::vector<const Staff*> CommentaryStaff(const World& world) {
-  std::vector<const Staff*> announcers;
-  for (const Staff& staff : world.AllStaff())
-    if (staff.Employer == world.PlayerUid() && staff.Position == kAnnouncer)
-      announcers.push_back(&staff);
-  return announcers;
-}
-
-std::vector<const Worker*> CommentaryWorkers(const World& world) {
-  std::vector<const Worker*> workers;
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer == world.PlayerUid() && worker.Announcer && worker.Status == "Nor")
-      workers.push_back(&worker);
-  return workers;
-}
-
 void StartEvent(World& world, const CommentaryTeam& team, const EventExtra* extra) {
   StartShow(world, true, team);
   if (!extra) return;

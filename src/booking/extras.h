@@ -6,7 +6,7 @@
 #include "records/world.h"
 #include "show/holdshow.h"
 
-// What an Event can have beside its card: extras for money, and who sits at the table.
+// What an Event can have beside its card: extras for money.
 
 namespace grapplemont {
 
@@ -21,11 +21,6 @@ std::vector<const EventExtra*> ExtrasFor(const Promotion& promotion);
 /// What an extra of this name costs, in dollars: the last of the price list's rows that has the
 /// name, whatever size it stands for. 0 for an unknown name.
 int CostOfExtra(std::string_view name);
-
-/// The player's announcers.
-std::vector<const Staff*> CommentaryStaff(const World& world);
-/// The player's workers who could do the colour.
-std::vector<const Worker*> CommentaryWorkers(const World& world);
 
 /// Begins today's Event: the show, then the money of the extra, then what it brings. `extra` is
 /// nullptr for none. Draws once, and once more for an extra with a bonus.

@@ -2,6 +2,7 @@
 #include "booking/extras.h"
 #include "booking/screensheet.h"
 #include "booking/sheet.h"
+#include "business/commentators.h"
 #include "records/vocabulary.h"
 
 namespace grapplemont {

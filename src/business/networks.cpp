@@ -20,7 +20,34 @@ constexpr std::array<std::array<int, 5>, 4> kPotential = {{{800, 760, 720, 680, 
 constexpr EconomyFactor kEconomy[] = {
     {91, kAnyHigh, 120}, {81, 90, 110}, {10, 19, 90}, {kAnyLow, 9, 80}};
 
+struct SlotWords {
+  std::string_view Slot, Name, Hours;
+};
+constexpr SlotWords kSlots[] = {{"E", "Early Evening", "6:00pm - 8:00pm"},
+                                {"P", "Prime Time", "8:00pm - 10:00pm"},
+                                {"L", "Late Evening", "10:00pm - 12:00am"},
+                                {"G", "Graveyard", "12:00am - 2:00am"}};
+
+const SlotWords& WordsOf(std::string_view slot) {
+  const auto* found = std::find_if(std::begin(kSlots), std::end(kSlots),
+                                   [&](const SlotWords& words) { return words.Slot == slot; });
+  return found == std::end(kSlots) ? kSlots[std::size(kSlots) - 1] : *found;
+}
+
 }  // namespace
+
+std::string NetworkName(const World& world, int networkUid) {
+  const Network* network = world.FindNetwork(networkUid);
+  return network ? network->Name.Str() : "None";
+}
+
+std::string_view SlotName(std::string_view slot) {
+  return WordsOf(slot).Name;
+}
+
+std::string_view SlotHours(std::string_view slot) {
+  return WordsOf(slot).Hours;
+}
 
 int SlotAudience(const Network& network, std::string_view slot) {
   if (slot == "E") return network.EarlyAudience;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "records/world.h"
@@ -7,6 +8,13 @@
 // What a network has to give and what it bears, by the time slots "E", "P", "L", "G".
 
 namespace grapplemont {
+
+/// "None" for uid 0 and for a uid that leads nowhere.
+std::string NetworkName(const World& world, int networkUid);
+/// "Early Evening" and so on; an unknown slot is the last of the night.
+std::string_view SlotName(std::string_view slot);
+/// "6:00pm - 8:00pm" and so on.
+std::string_view SlotHours(std::string_view slot);
 
 /// The rating, in hundredths, that a show in the slot is measured against.
 int SlotAudience(const Network& network, std::string_view slot);

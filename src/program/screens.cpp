@@ -2,6 +2,7 @@
 
 #include "booking/bookingscreens.h"
 #include "business/officescreens.h"
+#include "business/tvscreens.h"
 #include "calendar/calendarscreens.h"
 #include "info/infoscreens.h"
 #include "roster/rosterscreens.h"
@@ -15,6 +16,7 @@ void RegisterScreens(Game& game) {
   RegisterStoryScreens(game);
   RegisterRosterScreens(game);
   RegisterOfficeScreens(game);
+  RegisterTvScreens(game);
   RegisterShowScreens(game);
   RegisterBookingScreens(game);
   RegisterCalendarScreens(game);

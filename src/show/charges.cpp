@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "business/commentators.h"
+
 namespace grapplemont {
 
 namespace {
@@ -18,13 +20,12 @@ constexpr std::array<Charge, 5> kProductionCharges = {
     {{5, 10}, {10, 10}, {20, 10}, {30, 10}, {50, 20}}};
 
 // By size, Global to Backyard.
-constexpr std::array<int, 6> kWantedTalent = {80, 60, 50, 40, 20, 0};
 constexpr std::array<int, 6> kWantedProduction = {85, 65, 60, 40, 10, 5};
 
 constexpr int kSpeechlessCharge = 100;
 
-int BySize(const std::array<int, 6>& wanted, int size) {
-  return wanted[static_cast<std::size_t>(std::clamp<int>(size, kGlobal, kBackyard) - 1)];
+int WantedProduction(int size) {
+  return kWantedProduction[static_cast<std::size_t>(std::clamp<int>(size, kGlobal, kBackyard) - 1)];
 }
 
 template <std::size_t N>
@@ -42,10 +43,6 @@ int EmptyChair(int sum, int number) {
 
 }  // namespace
 
-int WantedTalent(int size) {
-  return BySize(kWantedTalent, size);
-}
-
 int WithAnnouncer(const World& world, int announcer, int sum) {
   const Staff* staff = world.FindStaff(announcer);
   if (!staff) return EmptyChair(sum, 100);
@@ -62,8 +59,7 @@ int WithColour(const World& world, int colour, bool isWorker, int sum) {
 }
 
 int ProductionCharge(const Promotion& promotion) {
-  return Charged(kProductionCharges, promotion.Production,
-                 BySize(kWantedProduction, promotion.Size));
+  return Charged(kProductionCharges, promotion.Production, WantedProduction(promotion.Size));
 }
 
 }  // namespace grapplemont

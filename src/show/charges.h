@@ -7,8 +7,6 @@
 
 namespace grapplemont {
 
-/// The talent that commentators need at a promotion of this size.
-int WantedTalent(int size);
 /// The sum with the primary announcer's charge taken off. With nobody at the table it becomes -1 if
 /// it stood at exactly 100, else 0.
 int WithAnnouncer(const World& world, int announcer, int sum);

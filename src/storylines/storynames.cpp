@@ -10,14 +10,15 @@ std::string_view TrimmedName(std::string_view name) {
   return name.substr(from, name.find_last_not_of(" \t\n\r") - from + 1);
 }
 
-std::string WhyNoName(std::string_view name) {
+std::string WhyNoName(std::string_view name, int letters) {
   name = TrimmedName(name);
   if (name.empty()) return "Type a name first.";
   if (name == "None") return "\"None\" stands for nothing at all and cannot be a name.";
   if (std::any_of(name.begin(), name.end(), [](char c) { return c >= 0 && c < ' '; }))
     return "A name is one line of plain text.";
-  if (name.size() > kNameLetters)
-    return "A name has at most 25 letters. This one has " + std::to_string(name.size()) + ".";
+  if (static_cast<int>(name.size()) > letters)
+    return "A name has at most " + std::to_string(letters) + " letters. This one has " +
+           std::to_string(name.size()) + ".";
   return {};
 }
 

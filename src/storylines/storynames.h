@@ -12,8 +12,8 @@ namespace grapplemont {
 
 /// As much as the records hold of a name.
 inline constexpr int kNameLetters = 25;
-/// Why this can be no name at all; empty when it can.
-std::string WhyNoName(std::string_view name);
+/// Why this can be no name at all, of so many letters; empty when it can.
+std::string WhyNoName(std::string_view name, int letters = kNameLetters);
 /// Without blanks at its ends.
 std::string_view TrimmedName(std::string_view name);
 

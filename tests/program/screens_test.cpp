@@ -51,7 +51,9 @@ constexpr const char* kInGame[] = {
     "frmAutoBook",   "frmDebut",     "frmAltRoster",  "frmAltBelts", "frmQuickStat",
     "frmTagTeams",   "frmStables",   "frmManagers",   "frmTurn",     "frmRoster",
     "frmOtherWres",  "frmShortlist", "frmUser",       "frmFinance",  "frmTicket",
-    "frmCharity",    "frmLoan",      "frmWages",      "frmFedProd",  "frmFedSponsor"};
+    "frmCharity",    "frmLoan",      "frmWages",      "frmFedProd",  "frmFedSponsor",
+    "frmTelevision", "frmPromoTape", "frmTvOffer",    "frmTVRank",   "frmViewNetworks",
+    "frmViewShows"};
 constexpr const char* kBeforeGame[] = {"frmTitleScreen", "frmDisclaimer",  "frmGameMenu",
                                        "frmCredits",     "frmCreditsXtra", "frmNewGame",
                                        "frmLoadGame",    "frmWait",        "frmLoadingScreens"};

@@ -1,0 +1,90 @@
+#include "business/tvshows.h"
+
+#include <algorithm>
+
+#include "records/dates.h"
+#include "records/modVar.h"
+#include "records/sweeps.h"
+#include "storylines/storynames.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kShowNameLetters = 20;
+
+bool IsTakenOn(const World& world, const Network& network, std::string_view slot,
+               std::string_view day) {
+  const auto& shows = world.Shows();
+  return !network.Generic && std::any_of(shows.begin(), shows.end(), [&](const Show& show) {
+    return show.Network == network.Uid && show.Slot == slot && show.Day == day;
+  });
+}
+
+}  // namespace
+
+std::vector<const Show*> ShowsOf(const World& world, int promotionUid) {
+  std::vector<const Show*> shows;
+  for (const Show& show : world.Shows())
+    if (show.Owner == promotionUid) shows.push_back(&show);
+  return shows;
+}
+
+Show* PlayerShow(World& world, std::string_view name) {
+  for (Show& show : world.Shows())
+    if (show.Owner == world.PlayerUid() && show.Name == name) return &show;
+  return nullptr;
+}
+
+std::string WhyNoShowName(std::string_view name) {
+  if (TrimmedName(name) == kToBeDeleted) return "No show can be called that.";
+  return WhyNoName(name, kShowNameLetters);
+}
+
+bool ShowNameTaken(const World& world, std::string_view name) {
+  const auto& shows = world.Shows();
+  return std::any_of(shows.begin(), shows.end(),
+                     [&](const Show& show) { return show.Name == TrimmedName(name); });
+}
+
+bool SlotTaken(const World& world, const Network& network, std::string_view slot) {
+  return std::any_of(std::begin(kWeekDays), std::end(kWeekDays),
+                     [&](const Term& day) { return IsTakenOn(world, network, slot, day.Says); });
+}
+
+std::vector<int> FreeDays(const World& world, int promotionUid, const Network& network,
+                          std::string_view slot) {
+  std::vector<int> free;
+  const std::vector<const Show*> own = ShowsOf(world, promotionUid);
+  for (const Term& day : kWeekDays) {
+    const bool busy = std::any_of(own.begin(), own.end(),
+                                  [&](const Show* show) { return show->Day == day.Says; });
+    if (!busy && !IsTakenOn(world, network, slot, day.Says)) free.push_back(day.Code);
+  }
+  return free;
+}
+
+void AddShow(World& world, std::string_view name, const TvDeal& deal) {
+  Show show;
+  show.Name = TrimmedName(name);
+  show.Owner = deal.Owner;
+  show.Day = Says(kWeekDays, deal.Day);
+  show.Slot = deal.Slot;
+  show.Network = deal.Network;
+  show.ContractWeeks = deal.Weeks;
+  world.Shows().Append(show);
+}
+
+void EndShow(World& world, Show& show) {
+  // Marked first: in a world from elsewhere two shows may have one name.
+  show.Name = kToBeDeleted;
+  RemoveShow(world, kToBeDeleted);
+}
+
+void TellOfDeal(World& world, const Promotion& owner, std::string_view text) {
+  const bool isPlayer = owner.Uid == world.PlayerUid();
+  if (isPlayer || ShouldTell(world, world.Game().MailTv, owner.Size))
+    AddNews(world, "TV News", text);
+}
+
+}  // namespace grapplemont
