@@ -11,7 +11,9 @@ namespace {
 class frmTVContract : public ShowScreen {
  public:
   frmTVContract(Game& game, std::string show)
-      : ShowScreen(game, "frmTVContract", "Network Talks", std::move(show)) {}
+      : ShowScreen(game, "frmTVContract", "Network Talks", std::move(show)) {
+    txtwants.Brief = true;
+  }
 
   ui::Page Layout() override {
     ui::Page page;

@@ -17,7 +17,9 @@ namespace {
 class frmTelevision : public ui::Screen {
  public:
   explicit frmTelevision(Game& game)
-      : Screen(game.Desk(), "frmTelevision", "Television"), game_(game) {}
+      : Screen(game.Desk(), "frmTelevision", "Television"), game_(game) {
+    txtwants.Brief = true;
+  }
 
   ui::Page Layout() override {
     ui::Page page;
@@ -29,9 +31,10 @@ class frmTelevision : public ui::Screen {
         {ui::Rows({ui::Group("Our shows", {cmdshow(1), cmdshow(2), cmdshow(3), lblnone}),
                    ui::Group("The show", ShowParts()), ui::Spacer()})
              .Grow(2),
-         ui::Rows({ui::Group("What the network wants", {txtwants}),
-                   ui::Group("Television ratings", {lblratings, ui::Grow(chtratings)}).Grow(),
-                   ui::Group("Attendance", {lblattendance, ui::Grow(chtattendance)}).Grow()})
+         ui::Rows(
+             {ui::Group("What the network wants", {txtwants}),
+              ui::Group("Television ratings", {ui::Grow(txtratings), ui::Grow(chtratings)}).Grow(),
+              ui::Group("Attendance", {ui::Grow(txtattendance), ui::Grow(chtattendance)}).Grow()})
              .Grow(3)});
     return page;
   }
@@ -57,9 +60,9 @@ class frmTelevision : public ui::Screen {
             ui::Field("Lowest", txtlowest),
             ui::Field("Announcer", txtannouncer),
             ui::Field("Colour", txtcolour),
-            ui::Columns({cmdname, cmdnegotiate}),
-            ui::Columns({cmdchangea, cmdchangec}),
-            ui::Columns({cmdrivals, cmdmaeve})};
+            ui::Columns({ui::Grow(cmdname), ui::Grow(cmdnegotiate)}),
+            ui::Columns({ui::Grow(cmdchangea), ui::Grow(cmdchangec)}),
+            ui::Columns({ui::Grow(cmdrivals), ui::Grow(cmdmaeve)})};
   }
 
   /// nullptr while no show is on the air.
@@ -138,16 +141,16 @@ class frmTelevision : public ui::Screen {
     const TvPast past = show ? TvPastOf(world(), show->Name) : TvPast{};
     const std::string none = show ? show->Name + " has not been held under this name yet."
                                   : "Nothing to see without a show.";
-    Draw(chtratings, lblratings, past, past.Ratings, none);
-    Draw(chtattendance, lblattendance, past, past.Attendance, none);
+    Draw(chtratings, txtratings, past, past.Ratings, none);
+    Draw(chtattendance, txtattendance, past, past.Attendance, none);
   }
 
-  static void Draw(ui::Chart& chart, ui::Label& empty, const TvPast& past,
+  static void Draw(ui::Chart& chart, ui::Report& empty, const TvPast& past,
                    const std::vector<double>& values, const std::string& none) {
     chart.Captions = past.Days;
     chart.Lines = std::vector<ui::Chart::Series>{{"", values}};
     chart.Visible = !values.empty();
-    empty.Text = none;
+    empty.WriteLines(none);
     empty.Visible = values.empty();
   }
 
@@ -200,9 +203,9 @@ class frmTelevision : public ui::Screen {
   ui::Label txtannouncer{*this, "txtannouncer"};
   ui::Label txtcolour{*this, "txtcolour"};
   ui::Report txtwants{*this, "txtwants"};
-  ui::Label lblratings{*this, "lblratings"};
+  ui::Report txtratings{*this, "txtratings"};
   ui::Chart chtratings{*this, "chtratings"};
-  ui::Label lblattendance{*this, "lblattendance"};
+  ui::Report txtattendance{*this, "txtattendance"};
   ui::Chart chtattendance{*this, "chtattendance", true};
   ui::Button cmdname{*this, "cmdname", "Rename", &frmTelevision::cmdname_Click};
   ui::Button cmdnegotiate{*this, "cmdnegotiate", "Negotiate", &frmTelevision::cmdnegotiate_Click};

@@ -93,9 +93,11 @@ ChartView::Scale ChartView::MakeScale() const {
   scale.High = std::ceil(high / scale.Step) * scale.Step;
   scale.Count = Count();
   const QFontMetrics small(SmallFont());
-  const int left =
-      std::max(FiguresWidth(small, Short(scale.Low)), FiguresWidth(small, Short(scale.High))) +
-      Px(8);
+  // "5000" in the midst is wider than "10k" at the top.
+  int left = 0;
+  for (double value = scale.Low; value <= scale.High + scale.Step / 2; value += scale.Step)
+    left = std::max(left, FiguresWidth(small, Short(value)));
+  left += Px(8);
   const bool named = std::any_of(chart_.Lines->begin(), chart_.Lines->end(),
                                  [](const auto& series) { return !series.Name.empty(); });
   const int top = small.height() + (named ? small.height() + Px(6) : 0);

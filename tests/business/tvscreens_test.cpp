@@ -101,7 +101,7 @@ TEST(frmTelevision, SaysWhatIsMissingWithoutAShow) {
     EXPECT_FALSE(play.Desk.Enabled(button)) << button;
     EXPECT_EQ(play.Desk.Tip(button), "There is no show on the air.");
   }
-  EXPECT_EQ(play.Desk.Text("lblratings"), "Nothing to see without a show.");
+  EXPECT_EQ(play.Desk.Text("txtratings"), "Nothing to see without a show.");
 }
 
 TEST(frmTelevision, NegotiatesWithNobodyWhenTheNetworkIsGone) {
@@ -156,11 +156,11 @@ TEST(frmTelevision, DrawsThePastOfTheShow) {
   EXPECT_EQ(ratings->Lines.Get()[0].Values, (std::vector<double>{2.05, 3.1}));
   EXPECT_EQ(attendance->Lines.Get()[0].Values, (std::vector<double>{800, 950}));
   EXPECT_TRUE(play.Desk.Visible("chtratings"));
-  EXPECT_FALSE(play.Desk.Visible("lblratings"));
+  EXPECT_FALSE(play.Desk.Visible("txtratings"));
   play.World().History().Remove();
   play.Desk.Click("cmdshow(2)");
   EXPECT_FALSE(play.Desk.Visible("chtattendance"));
-  EXPECT_EQ(play.Desk.Text("lblattendance"), "Sunday Slam has not been held under this name yet.");
+  EXPECT_EQ(play.Desk.Text("txtattendance"), "Sunday Slam has not been held under this name yet.");
 }
 
 TEST(TvPast, GoesBackAYear) {
