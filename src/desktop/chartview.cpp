@@ -15,7 +15,8 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kSteps = 4;  // about so many lines across the chart
+constexpr int kSteps = 4;       // about so many lines across the chart
+constexpr int kFewPlaces = 24;  // so few are marked one by one
 
 /// 1, 2 or 5 times a power of ten, at least `rough`.
 double RoundStep(double rough) {
@@ -49,6 +50,9 @@ struct ChartView::Scale {
   double Y(double value) const {
     return Plot.bottom() - (value - Low) / (High - Low) * Plot.height();
   }
+  /// The values at which lines run across, from the lowest.
+  int Lines() const { return static_cast<int>(std::lround((High - Low) / Step)) + 1; }
+  double LineAt(int line) const { return Low + line * Step; }
 };
 
 ChartView::ChartView(ui::Chart& chart, Stage& stage, QWidget* parent)
@@ -78,26 +82,27 @@ int ChartView::Count() const {
 
 ChartView::Scale ChartView::MakeScale() const {
   double low = std::numeric_limits<double>::infinity(), high = -low;
+  bool whole = true;
   for (const auto& series : chart_.Lines.Get())
     for (const double value : series.Values) {
       if (!std::isfinite(value)) continue;
       low = std::min(low, value);
       high = std::max(high, value);
+      whole = whole && value == std::floor(value);
     }
   if (low > high) low = 0, high = 1;
   if (chart_.Bars) low = std::min(low, 0.0), high = std::max(high, 0.0);
   if (high - low < 1e-9) low -= 1, high += 1;
   Scale scale;
   scale.Step = RoundStep((high - low) / kSteps);
+  if (whole) scale.Step = std::max(scale.Step, 1.0);
   scale.Low = std::floor(low / scale.Step) * scale.Step;
   scale.High = std::ceil(high / scale.Step) * scale.Step;
   scale.Count = Count();
   const QFontMetrics small(SmallFont());
-  // "5000" in the midst is wider than "10k" at the top.
   int left = 0;
-  for (double value = scale.Low; value <= scale.High + scale.Step / 2; value += scale.Step)
-    left = std::max(left, FiguresWidth(small, Short(value)));
-  left += Px(8);
+  for (int line = 0; line < scale.Lines(); ++line)
+    left = std::max(left, FiguresWidth(small, Short(scale.LineAt(line))) + Px(8));
   const bool named = std::any_of(chart_.Lines->begin(), chart_.Lines->end(),
                                  [](const auto& series) { return !series.Name.empty(); });
   const int top = small.height() + (named ? small.height() + Px(6) : 0);
@@ -109,7 +114,8 @@ ChartView::Scale ChartView::MakeScale() const {
 void ChartView::DrawAxis(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
   painter.setFont(SmallFont());
-  for (double value = scale.Low; value <= scale.High + scale.Step / 2; value += scale.Step) {
+  for (int line = 0; line < scale.Lines(); ++line) {
+    const double value = scale.LineAt(line);
     const double y = std::round(scale.Y(value)) + 0.5;
     painter.setPen(c.Line);
     painter.drawLine(QPointF(scale.Plot.left(), y), QPointF(scale.Plot.right(), y));
@@ -117,18 +123,32 @@ void ChartView::DrawAxis(QPainter& painter, const Scale& scale) const {
     DrawFigures(painter, QRectF(0, y - 8, scale.Plot.left() - Px(8), 16), Qt::AlignRight,
                 Short(value));
   }
+}
+
+/// As many captions as there is room for from the left; the last, the present, always.
+void ChartView::DrawCaptions(QPainter& painter, const Scale& scale) const {
   const auto& captions = chart_.Captions.Get();
+  const int count = std::min(scale.Count, static_cast<int>(captions.size()));
+  if (count == 0) return;
   const QFontMetrics small(SmallFont());
-  double free = 0;  // what lies left of here is taken by a caption
-  for (int place = 0; place < scale.Count && place < static_cast<int>(captions.size()); ++place) {
-    const QString words = Shown(captions[static_cast<std::size_t>(place)]);
-    const int width = small.horizontalAdvance(words);
+  painter.setFont(SmallFont());
+  painter.setPen(ColoursOf(this).Muted);
+  const auto words = [&](int place) { return Shown(captions[static_cast<std::size_t>(place)]); };
+  const auto spot = [&](int place) {
+    const int width = small.horizontalAdvance(words(place));
     const double x = std::clamp(scale.X(place) - width / 2.0, 0.0,
                                 std::max(0.0, static_cast<double>(this->width() - width)));
-    if (words.isEmpty() || x < free) continue;
-    painter.drawText(QRectF(x, scale.Plot.bottom() + Px(5), width + 1, small.height()),
-                     Qt::AlignCenter, words);
-    free = x + width + Px(8);
+    return QRectF(x, scale.Plot.bottom() + Px(5), width + 1, small.height());
+  };
+  const QRectF last = spot(count - 1);
+  painter.drawText(last, Qt::AlignCenter, words(count - 1));
+  double free = 0;  // what lies left of here is taken by a caption
+  for (int place = 0; place + 1 < count; ++place) {
+    const QRectF where = spot(place);
+    if (words(place).isEmpty() || where.left() < free || where.right() + Px(8) > last.left())
+      continue;
+    painter.drawText(where, Qt::AlignCenter, words(place));
+    free = where.right() + Px(8);
   }
 }
 
@@ -167,7 +187,11 @@ void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
         QPen(TextColour(c, series.Colour), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     QPolygonF run;
     const auto finish = [&] {
-      run.size() == 1 ? painter.drawPoint(run.front()) : painter.drawPolyline(run);
+      painter.drawPolyline(run);
+      if (scale.Count <= kFewPlaces || run.size() == 1)
+        for (const QPointF& at : run)
+          DrawBox(painter, QRectF(at.x() - 3, at.y() - 3, 6, 6), TextColour(c, series.Colour),
+                  QColor(), 3);
       run.clear();
     };
     for (std::size_t place = 0; place < series.Values.size(); ++place) {
@@ -235,6 +259,7 @@ void ChartView::paintEvent(QPaintEvent*) {
     return;
   }
   DrawAxis(painter, scale);
+  DrawCaptions(painter, scale);
   chart_.Bars ? DrawBars(painter, scale) : DrawLines(painter, scale);
   DrawNames(painter);
   if (hover_ >= 0 && hover_ < scale.Count) DrawHover(painter, scale);

@@ -23,6 +23,7 @@ class ChartView : public QWidget, public ControlView {
   Scale MakeScale() const;
   int Count() const;  // of places along the axis
   void DrawAxis(QPainter& painter, const Scale& scale) const;
+  void DrawCaptions(QPainter& painter, const Scale& scale) const;
   void DrawBars(QPainter& painter, const Scale& scale) const;
   void DrawLines(QPainter& painter, const Scale& scale) const;
   void DrawNames(QPainter& painter) const;

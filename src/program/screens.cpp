@@ -1,6 +1,7 @@
 #include "program/screens.h"
 
 #include "booking/bookingscreens.h"
+#include "business/fedscreens.h"
 #include "business/officescreens.h"
 #include "business/tvscreens.h"
 #include "calendar/calendarscreens.h"
@@ -15,6 +16,7 @@ namespace grapplemont {
 void RegisterScreens(Game& game) {
   RegisterStoryScreens(game);
   RegisterRosterScreens(game);
+  RegisterFedScreens(game);
   RegisterOfficeScreens(game);
   RegisterTvScreens(game);
   RegisterShowScreens(game);

@@ -1,0 +1,155 @@
+#include "business/worth.h"
+
+#include <algorithm>
+#include <array>
+
+#include "business/development.h"
+#include "business/networks.h"
+#include "business/sponsorlimits.h"
+#include "records/modVar.h"
+
+namespace grapplemont {
+
+namespace {
+
+// By size, Global to Backyard: dollars for the name, and for each point of a worker's popularity
+// squared in a month, since a bigger stage earns more with the same face.
+constexpr std::array<int, 6> kNameWorth = {60000000, 20000000, 8000000, 3000000, 800000, 50000};
+constexpr std::array<int, 6> kFameWorth = {40, 12, 12, 12, 15, 4};
+
+constexpr int kYearMonths = 12, kYearWeeks = 52;  // nobody pays for what is further away
+constexpr int kDollarsPerRating = 300;            // a hundredth of a rating, for a week
+constexpr int kThousand = 1000;
+
+int BySize(const std::array<int, 6>& row, int size) {
+  return row[static_cast<std::size_t>(std::clamp(size, int(kGlobal), int(kBackyard)) - 1)];
+}
+
+std::string Count(long long number, const char* one, const char* many) {
+  return std::to_string(number) + " " + (number == 1 ? one : many);
+}
+
+int MonthsThatCount(int contractMonths) {
+  return contractMonths == kNoEnd ? kYearMonths : std::clamp(contractMonths, 0, kYearMonths);
+}
+
+WorthLine NameWorth(const Promotion& promotion) {
+  const int base = BySize(kNameWorth, promotion.Size), percent = 50 + promotion.Image;
+  return {"Name and image",
+          std::string(SizeText(promotion.Size)) + ", " + Dollars(base) + " x " +
+              std::to_string(percent) + "% for an image of " + std::to_string(promotion.Image) +
+              "%",
+          static_cast<long long>(base) * percent / 100};
+}
+
+struct Roster {
+  int People = 0;
+  long long Fame = 0;   // popularity squared, times the months that count
+  long long Wages = 0;  // thousands of dollars over the same months
+};
+
+Roster RosterOf(const World& world, const Promotion& promotion) {
+  Roster roster;
+  for (const Worker& worker : world.Workers()) {
+    if (worker.Employer != promotion.Uid) continue;
+    const long long months = MonthsThatCount(worker.ContractMonths);
+    const int over = worker.Over;
+    ++roster.People;
+    roster.Fame += months * over * over;
+    // Who cannot be fired is not paid by the month either.
+    if (worker.ContractMonths != kNoEnd) roster.Wages += months * worker.Wage;
+  }
+  return roster;
+}
+
+WorthLine FameWorth(const Promotion& promotion, const Roster& roster) {
+  const int rate = BySize(kFameWorth, promotion.Size);
+  return {"The popularity of the roster",
+          Count(roster.People, "worker", "workers") + ", " + Dollars(rate) +
+              " for each point squared in each month of contract, a year at most",
+          roster.Fame * rate};
+}
+
+WorthLine WagesOwed(const Roster& roster) {
+  return {"The roster's wages", "Promised for the same months", -roster.Wages * kThousand};
+}
+
+int RatingOf(const World& world, const Promotion& promotion, const Show& show) {
+  if (show.Rating3 > 0) return show.Rating3;
+  const Network* network = world.FindNetwork(show.Network);
+  const int potential = AudiencePotential(promotion, world.Game().Economy);
+  return network ? std::min(potential, SlotAudience(*network, show.Slot)) : 0;
+}
+
+int TvShowsOf(const World& world, const Promotion& promotion) {
+  return static_cast<int>(std::count_if(world.Shows().begin(), world.Shows().end(),
+                                        [&](const Show& s) { return s.Owner == promotion.Uid; }));
+}
+
+WorthLine TelevisionWorth(const World& world, const Promotion& promotion) {
+  long long dollars = 0;
+  for (const Show& show : world.Shows())
+    if (show.Owner == promotion.Uid)
+      dollars += static_cast<long long>(RatingOf(world, promotion, show)) * kDollarsPerRating *
+                 std::clamp<int>(show.ContractWeeks, 0, kYearWeeks);
+  return {"Television deals",
+          Count(TvShowsOf(world, promotion), "show", "shows") + ", " + Dollars(kDollarsPerRating) +
+              " a week for each hundredth of the rating, a year at most",
+          dollars};
+}
+
+WorthLine SponsorWorth(const World& world, const Promotion& promotion) {
+  const int shows = TvShowsOf(world, promotion);
+  const auto events =
+      std::count_if(world.Events().begin(), world.Events().end(),
+                    [&](const Event& event) { return event.Owner == promotion.Uid; });
+  long long dollars = 0, sponsors = 0;
+  for (const Sponsor& sponsor : world.Sponsors()) {
+    if (sponsor.Promotion != promotion.Uid) continue;
+    ++sponsors;
+    const long long tv = SponsorPayForTv(sponsor, promotion.Sponsor[0] == sponsor.Uid);
+    const long long year = sponsor.Pay * static_cast<long long>(events) + tv * shows * kYearWeeks;
+    dollars += year * kThousand * MonthsThatCount(sponsor.ContractMonths) / kYearMonths;
+  }
+  return {"Sponsors",
+          Count(sponsors, "sponsor", "sponsors") +
+              ", what they will pay for the shows until their deals end, a year at most",
+          dollars};
+}
+
+WorthLine DevelopmentWorth(const Promotion& promotion) {
+  long long dollars = 0;
+  if (HasCamp(promotion)) dollars += CampPrice(promotion.CampFacilities);
+  if (HasTerritory(promotion)) dollars += kTerritoryPrice;
+  return {"Training camp and territory", "Half of what they would cost", dollars / 2};
+}
+
+WorthLine LoanOwed(const Promotion& promotion) {
+  return {
+      "Loan", "What is still to be repaid",
+      std::min<long long>(0, static_cast<long long>(promotion.LoanRepaid) - promotion.LoanAmount)};
+}
+
+}  // namespace
+
+std::vector<WorthLine> PromotionWorth(const World& world, const Promotion& promotion) {
+  const Roster roster = RosterOf(world, promotion);
+  const int money = promotion.Money;
+  return {NameWorth(promotion),
+          FameWorth(promotion, roster),
+          WagesOwed(roster),
+          TelevisionWorth(world, promotion),
+          SponsorWorth(world, promotion),
+          DevelopmentWorth(promotion),
+          {"Cash", "In hand", std::max(money, 0)},
+          {"Debts", "What is overdrawn", std::min(money, 0)},
+          LoanOwed(promotion)};
+}
+
+long long SumOf(const std::vector<WorthLine>& lines) {
+  long long sum = 0;
+  for (const WorthLine& line : lines) sum += line.Dollars;
+  return sum;
+}
+
+}  // namespace grapplemont
