@@ -70,13 +70,20 @@ std::string CrowdLine(const Voice& voice, int people) {
          std::to_string(people) + " people.";
 }
 
+/// "1.06": unlike a rating, a buy rate has its two digits behind the point without a blank.
+std::string BuyRateText(int hundredths) {
+  const std::string cents = std::to_string(hundredths % 100);
+  return std::to_string(hundredths / 100) + (cents.size() == 1 ? ".0" : ".") + cents;
+}
+
 void TellOfPayPerView(World& world, const Promotion& promotion, const Event& event, int buyRate,
                       int people, int ppvDollars, int ticketDollars) {
   const Voice voice = VoiceOf(world, promotion, "PPV report", world.Game().MailShows);
   Tell(world, voice,
-       Got(promotion, voice) + RatingText(buyRate) + " buy rate for '" + event.Name.Str() + "'!\n" +
-           CrowdLine(voice, people) + "\n" + Made(voice, ppvDollars, "pay-per-view revenue") +
-           "\n" + Made(voice, ticketDollars, "ticket sales"));
+       Got(promotion, voice) + BuyRateText(buyRate) + " buy rate for '" + event.Name.Str() +
+           "'!\n" + CrowdLine(voice, people) + "\n" +
+           Made(voice, ppvDollars, "pay-per-view revenue") + "\n" +
+           Made(voice, ticketDollars, "ticket sales"));
 }
 
 void TellOfEvent(World& world, const Promotion& promotion, const Event& event, int people,

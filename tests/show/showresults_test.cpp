@@ -36,6 +36,14 @@ TEST(EventReport, TellsOfAPayPerViewToTheLetter) {
   EXPECT_EQ(player.Money, 10000000 + 2000000 + 346000 - 1500000);
 }
 
+TEST(EventReport, WritesABuyRateWithTwoDigitsBehindThePoint) {
+  World world = SmallWorld().Promotion("CWA", kRegional).Game("CWA");
+  world.Player().Image = 50;
+  ScriptDraws(world, std::vector<int>{1, 1});
+  EventReport(world, world.Player(), kSpectacle, 1);
+  EXPECT_EQ(NewsOf(world).substr(0, 50), "PPV report: We got a 0.07 buy rate for 'Spectacle'");
+}
+
 TEST(EventReport, ChargesEachTypeItsProduction) {
   struct Case {
     int Type, Draw, People, Cost;
