@@ -113,6 +113,19 @@ TEST(Maeve, SpeaksOfTheRatings) {
     ExpectAdvice([&](World&, Show& s) { s.Rating3 = rating; }, boxes, std::to_string(rating));
 }
 
+TEST(Maeve, HoldsAShowAtALimitForTheMiddlingSide) {
+  const std::pair<int, Boxes> kCases[] = {{239, {kVeryBad}}, {240, {kBad}},    {279, {kBad}},
+                                          {280, {kSilent}},  {320, {kSilent}}, {321, {kGood}},
+                                          {360, {kGood}},    {361, {kSuperb}}};
+  for (const auto& [rating, boxes] : kCases)
+    ExpectAdvice(
+        [&](World& w, Show& s) {
+          w.Networks()[1].PrimeAudience = 400;
+          s.Rating3 = rating;
+        },
+        boxes, std::to_string(rating));
+}
+
 TEST(Maeve, SpeaksOfTheRiskWhenTheRatingsAreNotWorthAWord) {
   const auto risky = [](int rating) {
     return [rating](World& w, Show& s) {
