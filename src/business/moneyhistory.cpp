@@ -2,39 +2,31 @@
 
 #include <algorithm>
 
+#include "business/months.h"
 #include "business/past.h"
-#include "records/dates.h"
 
 namespace grapplemont {
 
 namespace {
 
-std::string MonthInShort(std::chrono::year_month month) {
-  const int number = static_cast<int>(static_cast<unsigned>(month.month()));
-  return std::string(MonthName(number).substr(0, 3)) + " " +
-         std::to_string(static_cast<int>(month.year()));
-}
+/// So many month ends a chart can show and still be read.
+constexpr std::size_t kMonthsShown = 60;
 
-std::chrono::year_month MonthBefore(Day day) {
-  const std::chrono::year_month_day date{day};
-  return date.year() / date.month() - std::chrono::months{1};
-}
-
-/// A month is closed on the first of the next.
 std::vector<MoneyPoint> Remembered(const World& world, int promotionUid) {
   std::vector<MoneyPoint> points;
   for (const HistoryEntry* entry : MonthsOf(world, promotionUid))
-    points.push_back({MonthInShort(MonthBefore(entry->On)), entry->Money});
+    points.push_back({MonthClosedBefore(entry->On), entry->Money});
+  if (points.size() > kMonthsShown)
+    points.erase(points.begin(), points.end() - static_cast<std::ptrdiff_t>(kMonthsShown));
   return points;
 }
 
 std::vector<MoneyPoint> OnRecord(const Promotion& promotion, Day today) {
   std::vector<MoneyPoint> points;
-  auto month = MonthBefore(today);
+  int months = 0;
   for (const Long& money : promotion.MoneyBefore) {
     if (money == kNoEnd) break;
-    points.push_back({MonthInShort(month), money});
-    month -= std::chrono::months{1};
+    points.push_back({MonthClosedBefore(MonthsBefore(today, months++)), money});
   }
   std::reverse(points.begin(), points.end());
   return points;

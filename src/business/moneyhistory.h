@@ -13,9 +13,9 @@ struct MoneyPoint {
   int Dollars;
 };
 
-/// A promotion's money at the ends of past months, oldest first, and today as "Today". From what
-/// the slot remembers; where the promotion's own record goes back further (at most five months),
-/// from that.
+/// A promotion's money at the ends of the last five years' months, oldest first, and today as
+/// "Today". From what the slot remembers; where the promotion's own record goes back further (at
+/// most five months), from that.
 std::vector<MoneyPoint> MoneyOverTime(const World& world, const Promotion& promotion);
 
 }  // namespace grapplemont

@@ -1,7 +1,7 @@
 #include "business/past.h"
 
 #include "business/books.h"
-#include "records/dates.h"
+#include "business/months.h"
 
 namespace grapplemont {
 
@@ -19,11 +19,6 @@ std::vector<const HistoryEntry*> Entries(const World& world, int promotionUid, T
   for (const HistoryEntry& entry : world.History())
     if (entry.Promotion == promotionUid && test(entry)) found.push_back(&entry);
   return found;
-}
-
-Day MonthBefore(Day first) {
-  const Day last = first - std::chrono::days{1};
-  return last - std::chrono::days{DayOfMonth(last) - 1};
 }
 
 }  // namespace
@@ -76,7 +71,7 @@ void RememberMonth(World& world, const Promotion& promotion) {
   HistoryEntry entry = EntryOf(world, promotion, kPastMonth);
   if (promotion.Uid == world.PlayerUid())
     entry.Attendance =
-        AttendanceOf(world, promotion.Uid, MonthBefore(world.Today()), world.Today());
+        AttendanceOf(world, promotion.Uid, MonthsBefore(world.Today(), 1), world.Today());
   entry.Income = TotalIn(promotion.LastMonth);
   entry.Costs = TotalOut(promotion.LastMonth);
   Remember(world, entry);

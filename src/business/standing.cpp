@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "business/months.h"
 #include "business/past.h"
-#include "records/dates.h"
 
 namespace grapplemont {
 
@@ -16,12 +16,6 @@ struct EconomyWords {
 constexpr EconomyWords kEconomy[] = {{90, "Booming"},        {81, "Strong"},
                                      {30, "Steady"},         {20, "Slow"},
                                      {10, "In a recession"}, {-32768, "In a slump"}};
-
-Day MonthsBefore(Day day, int months) {
-  const std::chrono::year_month_day date(day);
-  const auto month = date.year() / date.month() - std::chrono::months{months};
-  return Day(month / 1);
-}
 
 /// A standing score back in its size and image. The highest of all is a full image at the top.
 PastStanding FromScore(Day on, int score) {
@@ -49,11 +43,7 @@ std::vector<PastStanding> StandingsOf(const World& world, const Promotion& promo
 
 std::vector<std::string> CaptionsOf(const std::vector<PastStanding>& standings) {
   std::vector<std::string> captions;
-  for (const PastStanding& standing : standings) {
-    const Day last = standing.On - std::chrono::days{1};
-    captions.push_back(std::string(MonthName(MonthOf(last)).substr(0, 3)) + " " +
-                       std::to_string(YearOf(last)));
-  }
+  for (const PastStanding& standing : standings) captions.push_back(MonthClosedBefore(standing.On));
   if (!captions.empty()) captions.back() = "Today";
   return captions;
 }

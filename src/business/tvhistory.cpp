@@ -1,5 +1,6 @@
 #include "business/tvhistory.h"
 
+#include "business/past.h"
 #include "records/dates.h"
 
 namespace grapplemont {
@@ -17,13 +18,11 @@ void KeepLast(std::vector<T>& all) {
 
 TvPast TvPastOf(const World& world, std::string_view show) {
   TvPast past;
-  for (const HistoryEntry& entry : world.History()) {
-    const bool counts = entry.Kind == kPastTv && entry.Promotion == world.PlayerUid() &&
-                        entry.Name == show && !entry.CalledOff;
-    if (!counts) continue;
-    past.Days.push_back(ShortDate(entry.On).substr(0, kDayAndMonth));
-    past.Ratings.push_back(entry.Viewers / 100.0);
-    past.Attendance.push_back(entry.Attendance);
+  for (const HistoryEntry* entry : ShowsOf(world, world.PlayerUid(), show)) {
+    if (entry->CalledOff) continue;
+    past.Days.push_back(ShortDate(entry->On).substr(0, kDayAndMonth));
+    past.Ratings.push_back(entry->Viewers / 100.0);
+    past.Attendance.push_back(entry->Attendance);
   }
   KeepLast(past.Days);
   KeepLast(past.Ratings);

@@ -118,6 +118,7 @@ class frmNews : public ui::Screen {
     ShowSenders();
     ShowMails();
     lstnews_Click();
+    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
   }
 
   void cmdback_Click() { Close(); }

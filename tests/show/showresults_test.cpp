@@ -154,6 +154,26 @@ TEST(TvReport, KeepsHighestLowestAndLast) {
   }
 }
 
+TEST(TvReport, GainsNothingBeyondTheSlotsAudienceByAContestWon) {
+  struct Case {
+    int Audience;
+    int Rating;
+  };
+  // A Cult show of 205 beats a Small one by more than 200, which is worth 40.
+  constexpr Case kCases[] = {{400, 245}, {245, 245}, {244, 244}, {220, 220}, {205, 205}};
+  for (const Case& c : kCases) {
+    World world = OnAir([&](Network& network) { network.PrimeAudience = c.Audience; },
+                        [](Show& show) { show.Slot = "P"; })
+                      .Network("Ten", [](Network& network) { network.PrimeAudience = 3; })
+                      .Promotion("NEW", kSmall)
+                      .Show("Rival Hour", "Friday", "Ten", [](Show& show) { show.Slot = "P"; })
+                      .Game("CWA", kFriday);
+    ScriptDraws(world, {{10, 5}, {5, 1}, {20, 1}});
+    TvReport(world, world.Player());
+    EXPECT_EQ(world.Shows()[1].Rating3, c.Rating) << c.Audience;
+  }
+}
+
 TEST(TvReport, LosesToNothingWorseThanOne) {
   // A Small show against a Cult one loses 80 and more than it has.
   World world = SmallWorld()
