@@ -28,8 +28,8 @@ std::vector<const HistoryEntry*> MonthsOf(const World& world, int promotionUid) 
                  [](const HistoryEntry& entry) { return entry.Kind == kPastMonth; });
 }
 
-std::vector<const HistoryEntry*> ShowsOf(const World& world, int promotionUid,
-                                         std::string_view name) {
+std::vector<const HistoryEntry*> PastShowsOf(const World& world, int promotionUid,
+                                             std::string_view name) {
   return Entries(world, promotionUid, [&](const HistoryEntry& entry) {
     return name.empty() ? entry.Kind == kPastEvent : entry.Kind == kPastTv && entry.Name == name;
   });

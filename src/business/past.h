@@ -12,8 +12,8 @@ namespace grapplemont {
 /// How the promotion stood at its month ends.
 std::vector<const HistoryEntry*> MonthsOf(const World& world, int promotionUid);
 /// What became of a television show of the promotion's, or of its Events where no name is given.
-std::vector<const HistoryEntry*> ShowsOf(const World& world, int promotionUid,
-                                         std::string_view name = {});
+std::vector<const HistoryEntry*> PastShowsOf(const World& world, int promotionUid,
+                                             std::string_view name = {});
 /// The crowds, in people, of all its shows from the day `from` until the day before `until`.
 long long AttendanceOf(const World& world, int promotionUid, Day from, Day until);
 

@@ -18,7 +18,7 @@ void KeepLast(std::vector<T>& all) {
 
 TvPast TvPastOf(const World& world, std::string_view show) {
   TvPast past;
-  for (const HistoryEntry* entry : ShowsOf(world, world.PlayerUid(), show)) {
+  for (const HistoryEntry* entry : PastShowsOf(world, world.PlayerUid(), show)) {
     if (entry->CalledOff) continue;
     past.Days.push_back(ShortDate(entry->On).substr(0, kDayAndMonth));
     past.Ratings.push_back(entry->Viewers / 100.0);

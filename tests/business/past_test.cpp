@@ -34,8 +34,8 @@ TEST(Past, IsReadByPromotionKindAndName) {
         Past(kPastMonth, 1, "CWA Wrestling", 9)})
     Remember(world, entry);
   EXPECT_EQ(Crowds(MonthsOf(world, 1)), (std::vector{1, 9}));
-  EXPECT_EQ(Crowds(ShowsOf(world, 1, "Friday Fire")), (std::vector{2, 8}));
-  EXPECT_EQ(Crowds(ShowsOf(world, 1)), (std::vector{4})) << "Events, without a name";
+  EXPECT_EQ(Crowds(PastShowsOf(world, 1, "Friday Fire")), (std::vector{2, 8}));
+  EXPECT_EQ(Crowds(PastShowsOf(world, 1)), (std::vector{4})) << "Events, without a name";
   EXPECT_EQ(Crowds(MonthsOf(world, 3)), std::vector<int>());
 }
 
