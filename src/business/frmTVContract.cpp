@@ -1,6 +1,5 @@
 #include "business/networks.h"
 #include "business/screentv.h"
-#include "business/tvadvice.h"
 #include "business/tvscreens.h"
 
 namespace grapplemont {
@@ -38,7 +37,13 @@ class frmTVContract : public ShowScreen {
   };
   Deal DealOrLeave() {
     Show* show = ShowOrLeave();
-    return {show, show ? world().FindNetwork(show->Network) : nullptr};
+    if (!show) return {};
+    const Network* network = world().FindNetwork(show->Network);
+    if (!network) {
+      desk().Say("Error!", "The network of " + show->Name.Str() + " is no longer there.");
+      Close();
+    }
+    return {show, network};
   }
 
   void ShowDeal(const Show& show) {
@@ -46,11 +51,7 @@ class frmTVContract : public ShowScreen {
     lblfacts.Text = show.Name + ", " + show.Day.Str() + ", " + std::string(SlotName(show.Slot)) +
                     ", on " + NetworkName(world(), show.Network) + ". " +
                     std::to_string(show.ContractWeeks) + " weeks to run.";
-    std::string text;
-    if (network)
-      for (const std::string& line : NetworkWants(world().Player(), show, *network))
-        text += (text.empty() ? "" : "\n") + line;
-    txtwants.WriteLines(text);
+    txtwants.WriteLines(network ? WantsText(world(), show, *network) : "");
   }
 
   void cmdask_Click() {

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "business/commentators.h"
 #include "business/networks.h"
 #include "business/promotapes.h"
@@ -120,21 +122,17 @@ class frmTelevision : public ui::Screen {
     txttime.Text = show ? show->Day + ", " + std::string(SlotName(show->Slot)) : "";
     txtnetwork.Text = show ? NetworkName(world(), show->Network) : "";
     txtcontract.Text = show ? std::to_string(show->ContractWeeks) + " weeks" : "";
-    txtlast.Text = show ? RatingText(show->Rating3) : "";
-    txthighest.Text = show ? RatingText(show->Rating1) : "";
-    txtlowest.Text = show ? RatingText(show->Rating2) : "";
+    txtlast.Text = show ? RatingCell(*show, show->Rating3).Text : "";
+    txthighest.Text = show ? RatingCell(*show, show->Rating1).Text : "";
+    txtlowest.Text = show ? RatingCell(*show, show->Rating2).Text : "";
     txtannouncer.Text = show ? NameOf(AnnouncerOf(world(), *show)) : "";
     txtcolour.Text = show ? NameOf(ColourManOf(world(), *show)) : "";
   }
 
   void ShowWants(const Show* show, const Network* network) {
-    std::string text;
-    if (show && network)
-      for (const std::string& line : NetworkWants(world().Player(), *show, *network))
-        text += (text.empty() ? "" : "\n") + line;
-    txtwants.WriteLines(!text.empty() ? text
-                        : show        ? "No network airs this show."
-                                      : "A network takes up a show that suits it: send a tape.");
+    txtwants.WriteLines(show && network ? WantsText(world(), *show, *network)
+                        : show          ? "No network airs this show."
+                                        : "A network takes up a show that suits it: send a tape.");
   }
 
   void ShowPast(const Show* show) {

@@ -72,10 +72,14 @@ int AudiencePotential(const Promotion& promotion, int economy) {
   return ByEconomy(row[static_cast<std::size_t>(band)], kEconomy, economy);
 }
 
-bool IsFull(const World& world, const Network& network) {
+int ShowsOn(const World& world, const Network& network) {
   const auto& shows = world.Shows();
-  return std::count_if(shows.begin(), shows.end(),
-                       [&](const Show& show) { return show.Network == network.Uid; }) == kSpots;
+  return static_cast<int>(std::count_if(
+      shows.begin(), shows.end(), [&](const Show& show) { return show.Network == network.Uid; }));
+}
+
+bool IsFull(const World& world, const Network& network) {
+  return ShowsOn(world, network) == kSpots;
 }
 
 }  // namespace grapplemont

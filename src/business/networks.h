@@ -23,6 +23,8 @@ int SlotRisk(const Network& network, std::string_view slot);
 
 /// The rating, in hundredths, that a promotion of this standing could draw.
 int AudiencePotential(const Promotion& promotion, int economy);
+/// How many shows the network carries.
+int ShowsOn(const World& world, const Network& network);
 /// Whether every spot of the week is taken; a network with more shows than spots counts as open.
 bool IsFull(const World& world, const Network& network);
 

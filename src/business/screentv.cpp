@@ -1,8 +1,7 @@
 #include "business/screentv.h"
 
-#include <algorithm>
-
 #include "business/networks.h"
+#include "business/tvadvice.h"
 #include "business/tvshows.h"
 #include "records/dates.h"
 #include "records/modVar.h"
@@ -10,12 +9,6 @@
 namespace grapplemont {
 
 namespace {
-
-int CountShows(const World& world, const Network& network) {
-  const auto& shows = world.Shows();
-  return static_cast<int>(std::count_if(
-      shows.begin(), shows.end(), [&](const Show& show) { return show.Network == network.Uid; }));
-}
 
 ui::Cell SlotCell(const Network& network, std::string_view slot) {
   const int audience = SlotAudience(network, slot);
@@ -44,6 +37,13 @@ Show* ShowScreen::ShowOrLeave() {
   desk().Say("Error!", show_ + " is no longer one of our shows.");
   Close();
   return nullptr;
+}
+
+std::string WantsText(const World& world, const Show& show, const Network& network) {
+  std::string text;
+  for (const std::string& line : NetworkWants(world.Player(), show, network))
+    text += (text.empty() ? "" : "\n") + line;
+  return text;
 }
 
 ui::Cell RatingCell(const Show& show, int rating) {
@@ -77,7 +77,7 @@ void FillNetworks(ui::ListBox& list, const World& world) {
   for (const Network& network : world.Networks())
     rows.push_back({{network.Name.View(), SlotCell(network, "E"), SlotCell(network, "P"),
                      SlotCell(network, "L"), SlotCell(network, "G"), ui::Cell(network.Production),
-                     ui::Cell(CountShows(world, network)), RoomCell(world, network)},
+                     ui::Cell(ShowsOn(world, network)), RoomCell(world, network)},
                     network.Uid});
   list.Fill(std::move(rows));
 }

@@ -22,7 +22,10 @@ class ShowScreen : public ui::Screen {
   std::string show_;
 };
 
-/// A rating with its two decimals; empty before a show has been held.
+/// What the network asks of the show, a line each.
+std::string WantsText(const World& world, const Show& show, const Network& network);
+
+/// A rating with its two decimals; "-" before a show has been held.
 ui::Cell RatingCell(const Show& show, int rating);
 /// The day of a show, sorted through the week.
 ui::Cell DayCell(const Show& show);

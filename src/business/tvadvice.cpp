@@ -62,6 +62,21 @@ TvRemark JudgeRisk(const Promotion& promotion, const Show& show, const Network& 
   return {"Nothing's Happening!", "Maeve: 'I have nothing to report.'"};
 }
 
+std::string StrikesText(const Show& show) {
+  switch (show.Rating4) {
+    case 0:
+      return "No strikes.";
+    case 1:
+      return "One strike. At three the network drops the show.";
+    case 2:
+      return "Two strikes. One more, and the network drops the show.";
+    case 3:
+      return "Three strikes: the network will drop the show on Monday.";
+    default:
+      return std::to_string(show.Rating4) + " strikes, and somehow nobody has noticed.";
+  }
+}
+
 }  // namespace
 
 std::vector<TvRemark> TvAdvice(const World& world, const Show& show, const Network& network) {
@@ -77,21 +92,6 @@ std::vector<TvRemark> TvAdvice(const World& world, const Show& show, const Netwo
   remarks.insert(remarks.end(), ratings.begin(), ratings.end());
   if (ratings.empty()) remarks.push_back(JudgeRisk(world.Player(), show, network));
   return remarks;
-}
-
-std::string StrikesText(const Show& show) {
-  switch (show.Rating4) {
-    case 0:
-      return "No strikes.";
-    case 1:
-      return "One strike. At three the network drops the show.";
-    case 2:
-      return "Two strikes. One more, and the network drops the show.";
-    case 3:
-      return "Three strikes: the network will drop the show on Monday.";
-    default:
-      return std::to_string(show.Rating4) + " strikes, and somehow nobody has noticed.";
-  }
 }
 
 std::vector<std::string> NetworkWants(const Promotion& promotion, const Show& show,

@@ -9,8 +9,6 @@ namespace grapplemont {
 /// What Maeve thinks of a show of the player's, box by box.
 std::vector<TvRemark> TvAdvice(const World& world, const Show& show, const Network& network);
 
-/// "No strikes", "Two strikes of three" and so on.
-std::string StrikesText(const Show& show);
 /// What the network asks of the show, a line each.
 std::vector<std::string> NetworkWants(const Promotion& promotion, const Show& show,
                                       const Network& network);

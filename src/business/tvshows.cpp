@@ -13,11 +13,12 @@ namespace {
 
 constexpr int kShowNameLetters = 20;
 
-bool IsTakenOn(const World& world, const Network& network, std::string_view slot,
-               std::string_view day) {
+/// Whether a network that cannot share its spots has a show in the slot that `counts`.
+template <class Test>
+bool HasInSlot(const World& world, const Network& network, std::string_view slot, Test counts) {
   const auto& shows = world.Shows();
   return !network.Generic && std::any_of(shows.begin(), shows.end(), [&](const Show& show) {
-    return show.Network == network.Uid && show.Slot == slot && show.Day == day;
+    return show.Network == network.Uid && show.Slot == slot && counts(show);
   });
 }
 
@@ -48,8 +49,7 @@ bool ShowNameTaken(const World& world, std::string_view name) {
 }
 
 bool SlotTaken(const World& world, const Network& network, std::string_view slot) {
-  return std::any_of(std::begin(kWeekDays), std::end(kWeekDays),
-                     [&](const Term& day) { return IsTakenOn(world, network, slot, day.Says); });
+  return HasInSlot(world, network, slot, [](const Show&) { return true; });
 }
 
 std::vector<int> FreeDays(const World& world, int promotionUid, const Network& network,
@@ -57,9 +57,10 @@ std::vector<int> FreeDays(const World& world, int promotionUid, const Network& n
   std::vector<int> free;
   const std::vector<const Show*> own = ShowsOf(world, promotionUid);
   for (const Term& day : kWeekDays) {
-    const bool busy = std::any_of(own.begin(), own.end(),
-                                  [&](const Show* show) { return show->Day == day.Says; });
-    if (!busy && !IsTakenOn(world, network, slot, day.Says)) free.push_back(day.Code);
+    const auto isThen = [&](const Show& show) { return show.Day == day.Says; };
+    const bool busy =
+        std::any_of(own.begin(), own.end(), [&](const Show* show) { return isThen(*show); });
+    if (!busy && !HasInSlot(world, network, slot, isThen)) free.push_back(day.Code);
   }
   return free;
 }

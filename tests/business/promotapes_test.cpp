@@ -36,6 +36,7 @@ struct Standing {
   int Size = kRegional, Image = 50, Risk = 60;  // could draw 120
   int Audience = 200, GraveRisk = 60, Shows = 0;
   bool Generic = false;
+  int Economy = 50;
 };
 
 World TapeUnderWay(const Standing& s) {
@@ -51,7 +52,7 @@ World TapeUnderWay(const Standing& s) {
                                  p.Image = s.Image;
                                  p.Risk = s.Risk;
                                })
-                    .Game("CWA");
+                    .Game("CWA", kGameStart, [&](GameInfo& g) { g.Economy = s.Economy; });
   for (int i = 0; i < s.Shows; ++i) {
     Show show;
     show.Name = "Show " + std::to_string(i);
@@ -70,6 +71,7 @@ TEST(AnswerPromoTapes, TellsTheLastReasonThatApplies) {
   };
   const Case kCases[] = {
       {"draws too few", {.Audience = 202}, kNoBenefit},
+      {"draws too few in a recession", {.Audience = 182, .Economy = 15}, kNoBenefit},
       {"small draws nobody", {.Size = kSmall, .Audience = 2}, kNoBenefit},
       {"backyard", {.Size = kBackyard, .Audience = 0}, kTooSmall},
       {"risk", {.Risk = 61}, kTooRisky},
@@ -102,7 +104,8 @@ TEST(AnswerPromoTapes, MakesAnOfferOnADrawOfTwo) {
 }
 
 TEST(AnswerPromoTapes, ConsidersWhomItNeedNotRefuse) {
-  const Standing kStandings[] = {{.Shows = 28, .Generic = true},
+  const Standing kStandings[] = {{.Audience = 202, .Economy = 85},
+                                 {.Shows = 28, .Generic = true},
                                  {.Shows = 29},
                                  {.Size = kSmall, .Audience = 1},
                                  {.Size = kSmall, .Audience = 0}};
@@ -140,6 +143,18 @@ TEST(frmPromoTape, SendsOneTapeAMonth) {
   play.Desk.ExpectSay("Error!", "You can only send out one tape per month.");
   play.Desk.Click("cmdpromo");
   EXPECT_EQ(play.Desk.TopName(), "frmTelevision");
+}
+
+TEST(frmPromoTape, SendsOneForAThirdShow) {
+  GameOnWorld play(SmallWorld()
+                       .Network("Nine")
+                       .Promotion("CWA")
+                       .Show("One", "Monday", "Nine")
+                       .Show("Two", "Tuesday", "Nine")
+                       .Game("CWA"));
+  play.Desk.Open("frmTelevision");
+  play.Desk.Click("cmdpromo");
+  EXPECT_EQ(play.Desk.TopName(), "frmPromoTape");
 }
 
 TEST(frmPromoTape, SendsNoneForAFourthShow) {
@@ -216,14 +231,14 @@ TEST(TvOffer, TakesTheLastSlotThatThePromotionOutdraws) {
 }
 
 /// A show on every day in `days`, in the slot, of the promotion.
-void Occupy(World& world, int owner, const char* slot, const Names& days) {
+void Occupy(World& world, int owner, const char* slot, const Names& days, int network = 1) {
   for (const std::string& day : days) {
     Show show;
     show.Name = std::to_string(owner) + " on " + day;
     show.Owner = owner;
     show.Day = day;
     show.Slot = slot;
-    show.Network = 1;
+    show.Network = network;
     show.ContractWeeks = 10;
     world.Shows().Append(show);
   }
@@ -235,6 +250,7 @@ TEST(TvOffer, HasTheDaysOnWhichBothAreFree) {
     Occupy(play.World(), 1, "G", {"Wednesday", "Sunday"});
     Occupy(play.World(), 1, "P", {"Thursday"});
     Occupy(play.World(), 2, "E", {"Tuesday"});
+    Occupy(play.World(), 1, "G", {"Friday"}, 99);
     play.Desk.Open("frmTvOffer");
     const Names days =
         generic ? Names{"Monday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"}

@@ -171,6 +171,7 @@ TEST(RivalNewTvShows, FindsADay) {
     for (const char* day : {"Monday", "Tuesday", "Wednesday", "Sunday"})
       AddShow(world, std::string("Other ") + day, 3, day, "G");
     AddShow(world, "Elsewhere", 3, "Thursday", "P");
+    AddShow(world, "On another network", 3, "Friday", "G", 99);
     ScriptDraws(world, {{6, 2}, {100, 9}, {7, c.Draws[0]}, {7, c.Draws[1]}, {7, c.Draws[2]}});
     RivalNewTvShows(world);
     EXPECT_EQ(world.Shows()[world.Shows().Count()].Day.View(), c.Day) << c.What;
@@ -195,6 +196,50 @@ TEST(RivalNewTvShows, DrawsNoDayWhenThereIsNone) {
   RivalNewTvShows(world);
   EXPECT_EQ(world.Shows().Count(), 7);
   EXPECT_EQ(NewsOf(world), "");
+}
+
+TEST(RivalNewTvShows, KnowsTheEconomy) {
+  // 320 are too few for eight tenths of 402, until the economy lifts them to 352; those are too few
+  // for 442.
+  for (const auto& [economy, audience, signs] :
+       {std::tuple(80, 402, false), {81, 402, true}, {81, 442, false}}) {
+    World world = RivalOf(5, kCult);
+    world.Game().Economy = economy;
+    world.Networks()[1].GraveAudience = audience;
+    if (signs)
+      ScriptDraws(world, {{6, 2}, {100, 1}, {7, 1}, {7, 1}, {7, 1}});
+    else
+      ScriptDraws(world, {{6, 2}});
+    RivalNewTvShows(world);
+    EXPECT_EQ(world.Shows().Count(), signs ? 1 : 0) << economy << " " << audience;
+  }
+}
+
+TEST(RivalNewTvShows, GoThroughTheRivalsInTheOrderOfTheFile) {
+  World world = SmallWorld()
+                    .Network("Nine", Grave(10))
+                    .Promotion("CWA")
+                    .Promotion("AAB", kRegional)
+                    .Promotion("BBC", kRegional)
+                    .Promotion("CCD", kCult)
+                    .Promotion("DDE", kCult)
+                    .Game("CWA");
+  // The second finds Monday taken by the first.
+  ScriptDraws(world,
+              {{6, 2}, {100, 1}, {7, 1}, {7, 1}, {7, 1}, {6, 2}, {100, 1}, {7, 1}, {7, 1}, {7, 1}});
+  RivalNewTvShows(world);
+  ASSERT_EQ(world.Shows().Count(), 2);
+  EXPECT_EQ(world.Shows()[1].Name.View(), "CCD Monday");
+  EXPECT_EQ(world.Shows()[2].Name.View(), "DDE Sunday");
+}
+
+TEST(RivalNewTvShows, GivesAThirdShow) {
+  World world = RivalOf(5, kCult);
+  for (const char* day : {"Monday", "Tuesday"})
+    AddShow(world, std::string("Own ") + day, 5, day, "P");
+  ScriptDraws(world, {{6, 2}, {100, 9}, {7, 3}, {7, 3}, {7, 3}});
+  RivalNewTvShows(world);
+  EXPECT_EQ(world.Shows().Count(), 3);
 }
 
 TEST(RivalNewTvShows, GivesNobodyAFourthShow) {

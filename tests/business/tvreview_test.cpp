@@ -53,6 +53,21 @@ TEST(TvContractReview, RenewsARivalsShowAtTwoWeeks) {
   }
 }
 
+TEST(TvContractReview, MeasuresARenewalByTheShowsOwnSlot) {
+  for (const auto& [slot, weeks] : {std::pair("L", 27), {"P", 2}, {"G", 2}}) {
+    World world = TwoShows();
+    world.Networks()[1].PrimeAudience = 900;
+    world.Networks()[1].LateAudience = 405;
+    world.Networks()[1].LateRisk = 60;
+    world.Networks()[1].GraveRisk = 59;
+    world.Networks()[1].GraveAudience = 405;
+    world.Shows()[1].Slot = slot;
+    world.Shows()[1].ContractWeeks = 3;
+    TvContractReview(world);
+    EXPECT_EQ(world.Shows()[1].ContractWeeks, weeks) << slot;
+  }
+}
+
 TEST(TvContractReview, NeverRenewsThePlayersShow) {
   World world = TwoShows();
   world.Shows()[2].ContractWeeks = 3;
@@ -99,10 +114,11 @@ TEST(TvContractReview, TellsOfRivalsAsTheMailOptionHasIt) {
                              {1, kRegional, true}, {1, kGlobal, true}, {2, kGlobal, false},
                              {2, kSmall, false}};
   for (const Case& c : kCases)
-    for (const int weeks : {3, 1}) {
+    for (const auto& [weeks, strikes] : {std::pair(3, 0), {1, 0}, {9, 3}}) {
       World world = TwoShows(c.RivalSize);
       world.Game().MailTv = c.Option;
       world.Shows()[1].ContractWeeks = weeks;
+      world.Shows()[1].Rating4 = strikes;
       TvContractReview(world);
       EXPECT_EQ(world.News().Count(), c.Told ? 1 : 0)
           << "option " << c.Option << " size " << c.RivalSize << " weeks " << weeks;

@@ -164,7 +164,8 @@ TEST(frmTVContract, EndsAnyOtherShowForAPenaltyByTheSize) {
   constexpr int kPenalties[] = {20000000, 20000000, 15000000, 8000000, 6000000, 2000000};
   for (int size = kGlobal; size <= kBackyard; ++size) {
     // A show that has never been held costs as much as a good one.
-    Talks talks("P", size % 2 == 0 ? kUnseen : kLow, 30, size);
+    constexpr NetworkView kViews[] = {kUnseen, kLow, kHappy, kGreat};
+    Talks talks("P", kViews[size % 4], 30, size);
     talks.Play.World().Player().Money = 1000;
     const int penalty = kPenalties[size - 1];
     const std::string text =
@@ -249,10 +250,12 @@ void Occupy(World& world, const char* slot) {
   world.Shows().Append(show);
 }
 
-TEST(frmTVContract, MovesAShowUnderTheLimitOfRisk) {
+TEST(frmTVContract, MovesAShowUnderTheLimitOfRiskWhateverOtherNetworksAir) {
   for (const Move& move : kMoves) {
     SCOPED_TRACE(std::string(move.From) + std::to_string(move.View));
     Talks talks(move.From, move.View, move.Risk - 1);
+    Occupy(talks.Play.World(), move.To);
+    talks.Play.World().Shows()[2].Network = 99;
     const std::string text = move.Offer + std::string("\nContinue?");
     talks.Desk.ExpectAsk("Offer!", text, false);
     talks.Desk.Click("cmdtime");
@@ -287,6 +290,16 @@ TEST(frmTVContract, MovesAShowToATakenSlotOfAGenericNetworkAlone) {
     talks.Desk.ExpectAsk("Offer!", kAnyText, true);
     talks.Desk.Click("cmdtime");
     EXPECT_EQ(talks.TheShow().Slot.View(), move.To);
+  }
+}
+
+TEST(frmTVContract, LeavesWhenTheNetworkIsGone) {
+  for (const char* button : {"cmdask", "cmdcontract", "cmdtime", "cmdend"}) {
+    Talks talks("P", kGreat, 30);
+    talks.TheShow().Network = 99;
+    talks.Desk.ExpectSay("Error!", "The network of Friday Fire is no longer there.");
+    talks.Desk.Click(button);
+    EXPECT_EQ(talks.Desk.TopName(), "frmTelevision");
   }
 }
 
