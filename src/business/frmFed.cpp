@@ -98,7 +98,7 @@ class frmFed : public ui::Screen {
   }
 
   void ShowCharts() {
-    const std::vector<PastStanding> standings = StandingsOf(world(), player(), kMonthsShown);
+    const std::vector<PastStanding> standings = StandingsOf(world(), player(), kMonthsShown + 1);
     std::vector<double> images, scores;
     for (const PastStanding& standing : standings) {
       images.push_back(standing.Image);

@@ -164,12 +164,7 @@ class frmFedSponsor : public ui::Screen {
                                            : std::string();
   }
 
-  /// The first free place of a minor sponsor, 0 for none. One of a sponsor who has gone is free.
-  int MinorPlace() {
-    for (int place = kMainSponsor + 1; place <= kSponsorPlaces; ++place)
-      if (!SponsorAt(world(), player(), place)) return place;
-    return 0;
-  }
+  int MinorPlace() { return FreeSponsorPlace(world(), player(), kMainSponsor + 1); }
 
   void lstplaces_Click() {
     const Sponsor* sponsor = SponsorAt(world(), player(), std::max(lstplaces.Key(), 1));

@@ -91,8 +91,9 @@ class frmFinance : public ui::Screen {
       "lstbooks",
       {{"", K::Text, 3}, {"Last month", K::Number, 2}, {"This month", K::Number, 2}}};
   ui::Label lblbeside{*this, "lblbeside",
-                      "Loans, donations, better production, legal payments, an Event's extras and "
-                      "the price of calling one off are paid beside the books."};
+                      "Loans, donations, better production, camps and territories, legal payments, "
+                      "an Event's extras and the price of calling one off are paid beside the "
+                      "books."};
   ui::Chart chtmoney{*this, "chtmoney"};
   ui::Button cmdback{*this, "cmdback", "Back", &frmFinance::cmdback_Click};
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", [this] { desk().Open("frmNotepad"); }};

@@ -26,7 +26,7 @@ struct RiskMarket {
 };
 RiskMarket MarketFor(const World& world, int risk);
 
-/// "A family product" and so on.
+/// "For the whole family" and so on.
 const char* RiskText(int risk);
 
 }  // namespace grapplemont

@@ -30,9 +30,9 @@ int SponsorPlace(const Promotion& promotion, int sponsorUid) {
   return 0;
 }
 
-int FreeSponsorPlace(const Promotion& promotion, int from) {
+int FreeSponsorPlace(World& world, const Promotion& promotion, int from) {
   for (int place = from; place <= kSponsorPlaces; ++place)
-    if (promotion.Sponsor[static_cast<std::size_t>(place - 1)] == 0) return place;
+    if (!SponsorAt(world, promotion, place)) return place;
   return 0;
 }
 

@@ -14,8 +14,8 @@ inline constexpr int kSponsorPlaces = 4;
 Sponsor* SponsorAt(World& world, const Promotion& promotion, int place);
 /// The place 1 to 4 that the sponsor has in the promotion, 0 for none.
 int SponsorPlace(const Promotion& promotion, int sponsorUid);
-/// The first free place from `from` on, 0 for none.
-int FreeSponsorPlace(const Promotion& promotion, int from = kMainSponsor);
+/// The first free place from `from` on, 0 for none. That of a sponsor who is gone is free.
+int FreeSponsorPlace(World& world, const Promotion& promotion, int from = kMainSponsor);
 
 /// The sponsor takes place 1 to 4, wherever he was before, for 7 to 24 months. Draws once, of 18.
 void SignSponsor(World& world, Promotion& promotion, Sponsor& sponsor, int place);

@@ -321,5 +321,18 @@ TEST(RiskLimits, AreThoseOfShowsAndSponsors) {
   }
 }
 
+TEST(ProductRisk, IsToldInWordsByItsBand) {
+  struct Case {
+    int Risk;
+    const char* Words;
+  };
+  constexpr Case kCases[] = {{0, "For the whole family"},    {20, "For the whole family"},
+                             {21, "For most of the family"}, {40, "For most of the family"},
+                             {41, "An edge that some mind"}, {60, "An edge that some mind"},
+                             {61, "For grown-ups only"},     {80, "For grown-ups only"},
+                             {81, "Nothing is too much"},    {100, "Nothing is too much"}};
+  for (const Case& c : kCases) EXPECT_STREQ(RiskText(c.Risk), c.Words) << c.Risk;
+}
+
 }  // namespace
 }  // namespace grapplemont::test

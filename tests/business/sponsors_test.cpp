@@ -59,8 +59,11 @@ TEST(Sponsors, MoveWithinTheFourPlaces) {
   EXPECT_EQ(PlacesOf(player), (std::vector<int>{3, 2, 1, 0})) << "they change places";
   MoveSponsor(player, 3, 4);
   EXPECT_EQ(PlacesOf(player), (std::vector<int>{0, 2, 1, 3}));
-  EXPECT_EQ(FreeSponsorPlace(player), 1);
-  EXPECT_EQ(FreeSponsorPlace(player, 2), 0);
+  EXPECT_EQ(FreeSponsorPlace(world, player), 1);
+  EXPECT_EQ(FreeSponsorPlace(world, player, 2), 0);
+  player.Sponsor[2] = 77;
+  EXPECT_EQ(FreeSponsorPlace(world, player, 2), 3) << "whoever had it is gone";
+  player.Sponsor[2] = 1;
   MoveSponsor(player, 77, 1);
   EXPECT_EQ(PlacesOf(player), (std::vector<int>{0, 2, 1, 3})) << "a stranger has no place";
 }
