@@ -63,8 +63,8 @@ class frmOtherStaff : public StaffListScreen {
     page.Body = ui::Rows(
         {ui::Group("", {ui::Columns({ui::Field("Bond", cmbbond), ui::Field("Post", cmbpost),
                                      ui::Field("Talent", cmbtalent), ui::Spacer()})}),
-         ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(5),
-                      ui::Group("", {ui::Grow(txtpage)}).Grow(3)})
+         ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
+                      ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
              .Grow(1)});
     return page;
   }

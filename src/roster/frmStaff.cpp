@@ -24,8 +24,8 @@ class frmStaff : public StaffListScreen {
     page.Main = &cmdcontract;
     page.Cancel = &cmdback;
     page.Body = ui::Rows({ui::Group("", {lblposts, lbladvice}),
-                          ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(5),
-                                       ui::Group("", {ui::Grow(txtpage)}).Grow(3)})
+                          ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
+                                       ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
                               .Grow(1)});
     return page;
   }

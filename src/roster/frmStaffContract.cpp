@@ -62,7 +62,7 @@ class StaffTalk : public TalkScreen {
   Staff* Who() { return world().FindStaff(uid_); }
 
   std::string FactsOf(const Staff& staff) {
-    if (own_) return "An offer stands until it is taken or you change it.";
+    if (own_) return "What is turned down can be changed and offered again.";
     if (staff.Employer == 0) return "A free agent.";
     return "Works for " + PromotionName(world(), staff.Employer) +
            ", and wants a fifth more to go.";

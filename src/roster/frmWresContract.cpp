@@ -55,7 +55,7 @@ class frmWresContract : public TalkScreen {
     txtwage.Text = WageText(worker.Wage) + " a month";
     lblcreative.Visible = worker.CreativeControl;
     lblfacts.Text =
-        closed_.empty() ? "An offer stands until it is taken or you change it." : closed_;
+        closed_.empty() ? "What is turned down can be changed and offered again." : closed_;
     offer_.Allow(closed_);
     EnableUnless(chkcreative, closed_);
     EnableUnless(cmdoffer, closed_);

@@ -1,6 +1,7 @@
 #include "roster/screenstaff.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -48,7 +49,7 @@ ui::Cell Wage(const World&, const Staff& staff) {
 ui::Cell Contract(const World&, const Staff& staff) {
   if (staff.Employer == 0) return "";
   if (staff.Position == kOwner) return {"Owner", ui::Tone::Gold};
-  if (IsEndless(staff)) return {"Unsackable", ui::Tone::Gold};
+  if (IsEndless(staff)) return {"No end", ui::Tone::Gold};
   return ContractWord(staff.ContractType == "Wri");
 }
 /// What has no end sorts behind all that has one.
@@ -111,14 +112,17 @@ StaffListScreen::StaffListScreen(Game& game, std::string name, std::string title
                ui::Handler([this] { Negotiate(); })),
       list_(list) {}
 
-/// By post, the ablest first.
+/// By post, the ablest first; on the market those who are for hire.
 void StaffListScreen::ShowList() {
   std::vector<const Staff*> people;
   for (const Staff& staff : world().AllStaff())
     if (Belongs(staff)) people.push_back(&staff);
-  std::stable_sort(people.begin(), people.end(), [](const Staff* a, const Staff* b) {
-    return a->Position != b->Position ? a->Position < b->Position : a->Talent > b->Talent;
-  });
+  const auto rank = [this](const Staff& staff) {
+    const bool isLast = staff.Position == kOwner && list_ == StaffList::Market;
+    return std::tuple(isLast, int(staff.Position), -staff.Talent);
+  };
+  std::stable_sort(people.begin(), people.end(),
+                   [&](const Staff* a, const Staff* b) { return rank(*a) < rank(*b); });
   std::vector<ui::ListBox::Row> rows;
   for (const Staff* staff : people) rows.push_back(RowOf(world(), *staff, list_));
   const int row = lststaff.Selected();

@@ -95,7 +95,7 @@ std::string PostLine(const std::vector<PostCount>& posts) {
   for (const PostCount& post : posts) {
     line += (line.empty() ? "" : ", ") + std::string(PostOf(post.Post).Plural) + " " +
             std::to_string(post.Have);
-    if (post.Need > 0) line += " of " + std::to_string(post.Need);
+    if (post.Need > 0) line += " (needs " + std::to_string(post.Need) + ")";
   }
   return line + ".";
 }
