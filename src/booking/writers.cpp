@@ -1,15 +1,8 @@
 #include "booking/writers.h"
 
 #include <algorithm>
-#include <array>
 
 namespace grapplemont {
-
-int WritersNeeded(int shows) {
-  // By shows from none to more than three.
-  constexpr std::array<int, 5> kNeeded = {1, 2, 4, 6, 10};
-  return kNeeded[static_cast<std::size_t>(std::clamp(shows, 0, 4))];
-}
 
 int PlayerWriters(const World& world) {
   const int player = world.PlayerUid();

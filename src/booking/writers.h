@@ -1,11 +1,10 @@
 #pragma once
 
 #include "records/world.h"
+#include "roster/staffneeds.h"
 
 namespace grapplemont {
 
-/// How many writers a promotion needs before it can use angles, with this many television shows.
-int WritersNeeded(int shows);
 /// The player's writers, and his television shows.
 int PlayerWriters(const World& world);
 int PlayerShows(const World& world);

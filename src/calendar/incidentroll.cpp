@@ -2,6 +2,7 @@
 
 #include "calendar/daysteps.h"
 #include "calendar/incidents.h"
+#include "roster/staffneeds.h"
 
 namespace grapplemont {
 
@@ -37,13 +38,6 @@ int InjuryOdds(int condition) {
   if (condition < 40) return 800;
   if (condition < 60) return 1200;
   return condition < 90 ? 1800 : 2500;
-}
-
-int AgentsNeeded(int wrestlers) {
-  if (wrestlers > 80) return 5;
-  if (wrestlers > 60) return 4;
-  if (wrestlers > 40) return 3;
-  return wrestlers > 25 ? 2 : wrestlers > 0 ? 1 : 0;
 }
 
 bool IsShortOfAgents(const World& world) {

@@ -1,6 +1,7 @@
 #include "calendar/daysteps.h"
 #include "records/modVar.h"
 #include "roster/release.h"
+#include "roster/staffneeds.h"
 
 namespace grapplemont {
 
@@ -31,7 +32,7 @@ bool HasAdequateMedics(const World& world) {
   for (const Staff& staff : world.AllStaff())
     medics += staff.Employer == player && staff.Position == kMedical;
   for (const Worker& worker : world.Workers()) roster += worker.Employer == player;
-  return medics >= (roster >= 56 ? 3 : roster >= 31 ? 2 : 0);
+  return medics >= MedicsNeeded(roster);
 }
 
 bool MayRebel(const Worker& worker) {

@@ -6,6 +6,7 @@
 #include "business/tvscreens.h"
 #include "calendar/calendarscreens.h"
 #include "info/infoscreens.h"
+#include "roster/contractscreens.h"
 #include "roster/rosterscreens.h"
 #include "session/sessionscreens.h"
 #include "show/showscreens.h"
@@ -16,6 +17,7 @@ namespace grapplemont {
 void RegisterScreens(Game& game) {
   RegisterStoryScreens(game);
   RegisterRosterScreens(game);
+  RegisterContractScreens(game);
   RegisterFedScreens(game);
   RegisterOfficeScreens(game);
   RegisterTvScreens(game);

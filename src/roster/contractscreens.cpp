@@ -1,20 +1,54 @@
 #include "roster/contractscreens.h"
 
+#include "roster/screentalk.h"
+#include "roster/stafftalks.h"
+
 namespace grapplemont {
 
 namespace {
 
-void SayLater(Game& game) {
-  game.Desk().Say("Contract Negotiations", "Contract talks come with a later version.");
+void Say(Game& game, const std::string& why) {
+  game.Desk().Say(kTalksTitle, why);
+}
+
+bool IsOwn(const World& world, const Worker& worker) {
+  return worker.Employer != 0 && worker.Employer == world.PlayerUid();
+}
+
+std::string WhyNotWith(const World& world, const Worker* worker, bool own) {
+  if (!worker) return "This worker is not in the business any more.";
+  if (own && !IsOwn(world, *worker)) return worker->Name + " does not work for you any more.";
+  if (!own && IsOwn(world, *worker)) return worker->Name + " works for you now.";
+  return WhyTalksOver(world, worker, {worker->Name.Str(), worker->Employer});
 }
 
 }  // namespace
 
-void OpenWresContract(Game& game, int) {
-  SayLater(game);
+void RegisterContractScreens(Game& game) {
+  game.Desk().Register("frmStaff", [&game] { return MakefrmStaff(game); });
+  game.Desk().Register("frmOtherStaff", [&game] { return MakefrmOtherStaff(game); });
 }
-void OpenOtherContract(Game& game, int) {
-  SayLater(game);
+
+void OpenWresContract(Game& game, int workerUid) {
+  const Worker* worker = game.World().FindWorker(workerUid);
+  if (const std::string why = WhyNotWith(game.World(), worker, true); !why.empty())
+    return Say(game, why);
+  game.Desk().Open(MakefrmWresContract(game, *worker));
+}
+
+void OpenOtherContract(Game& game, int workerUid) {
+  const Worker* worker = game.World().FindWorker(workerUid);
+  if (const std::string why = WhyNotWith(game.World(), worker, false); !why.empty())
+    return Say(game, why);
+  game.Desk().Open(MakefrmOtherContract(game, *worker));
+}
+
+void OpenStaffContract(Game& game, int staffUid) {
+  const Staff* staff = game.World().FindStaff(staffUid);
+  if (!staff) return Say(game, "This member of staff is not in the business any more.");
+  if (const std::string why = WhyNoStaffTalks(*staff); !why.empty()) return Say(game, why);
+  game.Desk().Open(IsOwnStaff(game.World(), *staff) ? MakefrmStaffContract(game, *staff)
+                                                    : MakefrmOtherStaffContract(game, *staff));
 }
 
 }  // namespace grapplemont

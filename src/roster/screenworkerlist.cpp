@@ -1,5 +1,7 @@
 #include "roster/screenworkerlist.h"
 
+#include <algorithm>
+
 #include "roster/screenworkerpage.h"
 #include "storylines/screenpeople.h"
 
@@ -32,6 +34,15 @@ WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string tit
 
 void WorkerListScreen::Load() {
   ShowList();
+}
+
+/// Where the chosen worker is listed no more, the next one takes his place.
+void WorkerListScreen::Return() {
+  const int key = lstwres.Key(), row = lstwres.Selected();
+  ShowList();
+  if (lstwres.Key() == key || row == 0) return;
+  lstwres.Select(std::min(row, lstwres.Count()));
+  ShowChoice();
 }
 
 bool WorkerListScreen::FitsFilters(const Worker& worker) {

@@ -17,7 +17,7 @@ class WorkerListScreen : public ui::Screen {
   WorkerListScreen(Game& game, std::string name, std::string title, WorkerList list,
                    std::span<const FilterFamily> filters);
   void Load() override;
-  void Return() override { ShowList(); }
+  void Return() override;
 
  protected:
   /// Who is to be listed at all.

@@ -1,9 +1,5 @@
 #include "roster/screenworkerpage.h"
 
-#include <span>
-
-#include "roster/workerfacts.h"
-
 namespace grapplemont {
 
 namespace {
@@ -24,12 +20,16 @@ Paragraphs Told(std::span<const FactGroup> groups) {
 
 }  // namespace
 
+void WriteFacts(ui::Report& page, std::span<const FactGroup> facts) {
+  Paragraphs words = Told(facts);
+  words.front().As = Style::Heading;
+  page.Write(std::move(words));
+}
+
 void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
                      const std::string& nobody) {
   if (!worker) return page.Write({{Style::Muted, nobody}});
-  Paragraphs words = Told(WorkerFacts(world, *worker));
-  words.front().As = Style::Heading;
-  page.Write(std::move(words));
+  WriteFacts(page, WorkerFacts(world, *worker));
 }
 
 void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,

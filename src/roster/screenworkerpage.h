@@ -1,12 +1,16 @@
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "records/world.h"
+#include "roster/workerfacts.h"
 #include "ui/controls.h"
 
 namespace grapplemont {
 
+/// A page of facts, the first group's heading as its title.
+void WriteFacts(ui::Report& page, std::span<const FactGroup> facts);
 /// Writes the page of a worker; for nullptr the words for nobody.
 void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
                      const std::string& nobody);

@@ -44,9 +44,9 @@ void SortByOver(std::vector<const Worker*>& people) {
                    [](const Worker* a, const Worker* b) { return a->Over > b->Over; });
 }
 
-void EnableUnless(ui::Button& button, const std::string& why) {
-  button.Enabled = why.empty();
-  button.Tip = why;
+void EnableUnless(ui::Control& control, const std::string& why) {
+  control.Enabled = why.empty();
+  control.Tip = why;
 }
 
 }  // namespace grapplemont

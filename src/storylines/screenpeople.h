@@ -23,7 +23,7 @@ void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people);
 /// Most popular first, those alike in the order of the file.
 void SortByOver(std::vector<const Worker*>& people);
 
-/// Enables a button or tells on it why it cannot be pressed.
-void EnableUnless(ui::Button& button, const std::string& why);
+/// Enables a control or tells on it why it is of no use.
+void EnableUnless(ui::Control& control, const std::string& why);
 
 }  // namespace grapplemont

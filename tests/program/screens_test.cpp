@@ -46,14 +46,14 @@ void Visit(ScriptDesk& desk, const std::string& name) {
 }
 
 constexpr const char* kInGame[] = {
-    "frmMainScreen", "frmOptions",   "frmNews",       "frmNotepad",  "frmFeuds",
-    "frmFeudStart",  "frmBooking",   "frmPPVBooking", "frmWait",     "frmLoadingScreens",
-    "frmAutoBook",   "frmDebut",     "frmAltRoster",  "frmAltBelts", "frmQuickStat",
-    "frmTagTeams",   "frmStables",   "frmManagers",   "frmTurn",     "frmRoster",
-    "frmOtherWres",  "frmShortlist", "frmUser",       "frmFinance",  "frmTicket",
-    "frmCharity",    "frmLoan",      "frmWages",      "frmFedProd",  "frmFedSponsor",
-    "frmTelevision", "frmPromoTape", "frmTvOffer",    "frmTVRank",   "frmViewNetworks",
-    "frmViewShows",  "frmFed",       "frmFedValue"};
+    "frmMainScreen", "frmOptions",      "frmNews",       "frmNotepad",   "frmFeuds",
+    "frmFeudStart",  "frmBooking",      "frmPPVBooking", "frmWait",      "frmLoadingScreens",
+    "frmAutoBook",   "frmDebut",        "frmAltRoster",  "frmAltBelts",  "frmQuickStat",
+    "frmTagTeams",   "frmStables",      "frmManagers",   "frmTurn",      "frmRoster",
+    "frmOtherWres",  "frmStaff",        "frmOtherStaff", "frmShortlist", "frmUser",
+    "frmFinance",    "frmTicket",       "frmCharity",    "frmLoan",      "frmWages",
+    "frmFedProd",    "frmFedSponsor",   "frmTelevision", "frmPromoTape", "frmTvOffer",
+    "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue"};
 constexpr const char* kBeforeGame[] = {"frmTitleScreen", "frmDisclaimer",  "frmGameMenu",
                                        "frmCredits",     "frmCreditsXtra", "frmNewGame",
                                        "frmLoadGame",    "frmWait",        "frmLoadingScreens"};

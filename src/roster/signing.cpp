@@ -1,0 +1,194 @@
+#include "roster/signing.h"
+
+#include <algorithm>
+
+#include "records/severing.h"
+#include "roster/postings.h"
+#include "storylines/storynames.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// A sentence about a man and about a woman.
+struct Line {
+  const char* Man;
+  const char* Woman;
+  std::string Of(const Worker& worker) const { return worker.Gender ? Man : Woman; }
+};
+constexpr Line kNotAtAll = {"He does not want to negotiate with you at all.",
+                            "She does not want to negotiate with you at all."};
+constexpr Line kNotWhileBound = {
+    "He apologises, but he does not wish to negotiate while working for another organisation.",
+    "She apologises, but she does not wish to negotiate while working for another organisation."};
+constexpr Line kStays = {
+    "He apologises, but he does not want to leave his current employers to join you.",
+    "She apologises, but she does not want to leave her current employers to join you."};
+constexpr Line kTooSmall = {"He does not feel your promotion is big enough for him.",
+                            "She does not feel your promotion is big enough for her."};
+constexpr Line kMoreMoney = {
+    "He agrees to negotiate, but will need a higher wage to justify leaving his current employer.",
+    "She agrees to negotiate, but will need a higher wage to justify leaving her current "
+    "employer."};
+
+bool IsBoundAndContent(const Worker& worker) {
+  return worker.ContractType == "Wri" && worker.Morale >= 61 && worker.ContractMonths >= 1;
+}
+
+/// The better he behaves, the further the player must stand above his employer.
+std::string WhyStays(const World& world, const Worker& worker, int size) {
+  const Promotion* employer = world.FindPromotion(worker.Employer);
+  if (!employer || !IsBoundAndContent(worker)) return {};
+  if (worker.Behaviour >= 91) return employer->Size - 2 <= size ? kNotWhileBound.Of(worker) : "";
+  return employer->Size - 1 <= size ? kStays.Of(worker) : "";
+}
+
+bool IsTooBig(int size, int over) {
+  return (size == kBackyard && over > 30) || (size == kSmall && over > 50) ||
+         (size == kRegional && over >= 71);
+}
+
+struct Talk {
+  const Worker& Who;
+  const Demands& Wants;
+  const SigningOffer& Offer;
+
+  int Tier() const { return SkillTier(Who); }
+  bool Pays(int percent) const { return Offer.Wage >= PercentOf(Wants.Wage, percent); }
+  bool OffersMoreThan(int percentOnTop) const {
+    return Wants.Wage + PercentOf(Wants.Wage, percentOnTop) < Offer.Wage;
+  }
+  bool Asks(int position) const { return Wants.Position == position; }
+  bool Gets(int position) const { return Offer.Position == position; }
+};
+
+struct Objection {
+  bool (*Holds)(const Talk& t);
+  const char* Words;
+};
+
+// The last two turn down a wage above their figure.
+constexpr Objection kObjections[] = {
+    {[](const Talk& t) { return t.Wants.Written && !t.Offer.Written; },
+     "I want a written contract!"},
+    {[](const Talk& t) { return !t.Wants.Written && t.Offer.Written; },
+     "I do not want a written contract!"},
+    {[](const Talk& t) { return t.Offer.Wage < t.Wants.Wage - PercentOf(t.Wants.Wage, 10); },
+     "You are not offering me enough money!"},
+    {[](const Talk& t) {
+       return t.Wants.CreativeControl && !t.Offer.CreativeControl && !t.Pays(120);
+     },
+     "I want a creative control clause!"},
+    {[](const Talk& t) {
+       return t.Asks(kManager) && !t.Gets(kManager) && t.Tier() == 0 && !t.Pays(120);
+     },
+     "I only wish to work as a manager!"},
+    {[](const Talk& t) {
+       return !t.Asks(kManager) && t.Gets(kManager) && t.Tier() > 0 && !t.Pays(120);
+     },
+     "I do not want to become a manager!"},
+    {[](const Talk& t) {
+       return t.Asks(kNonWrestler) && !t.Gets(kNonWrestler) && (t.Tier() == 0 || t.Who.Age > 35) &&
+              !t.Pays(140);
+     },
+     "I only wish to work as a non-wrestler!"},
+    {[](const Talk& t) {
+       return !t.Asks(kNonWrestler) && t.Gets(kNonWrestler) && t.Tier() > 0 && !t.Pays(130);
+     },
+     "I do not want to become a non-wrestler!"},
+    {[](const Talk& t) { return t.Gets(kTrainingCamp) && (t.Tier() > 0 || t.Who.Age > 24); },
+     "I do not want to go to the training camp!"},
+    {[](const Talk& t) {
+       return t.Offer.Position > t.Wants.Position && t.Offer.Position < kDevelopmentDeal;
+     },
+     "I want to be positioned higher up the card!"},
+    {[](const Talk& t) { return t.Wants.Months == 6 && t.Offer.Months >= 13; },
+     "I do not want to sign such a long contract!"},
+    {[](const Talk& t) { return t.Wants.Months == 24 && t.Offer.Months == 6; },
+     "I need job security. I want a longer contract!"},
+    {[](const Talk& t) { return t.Wants.Months >= 31 && t.Offer.Months < 25; },
+     "I need job security. I want a longer contract!"},
+    {[](const Talk& t) { return t.Wants.Months == 60 && t.Offer.Months < 37; },
+     "I want a much longer contract!"},
+    {[](const Talk& t) {
+       return t.Wants.Months == 24 && t.Offer.Months > 48 && t.OffersMoreThan(15);
+     },
+     "I want extra money to sign for this amount of time!"},
+    {[](const Talk& t) {
+       return t.Wants.Months == 12 && t.Offer.Months > 30 && t.OffersMoreThan(20);
+     },
+     "I want extra money to sign for this amount of time!"},
+};
+
+bool IsNameOfAnother(const World& world, const Worker& worker, std::string_view name) {
+  const auto& all = world.Workers();
+  return std::any_of(all.begin(), all.end(), [&](const Worker& other) {
+    return other.Uid != worker.Uid && TrimmedName(other.Name) == name;
+  });
+}
+
+std::string WhyNotCalled(const World& world, const Worker& worker, const SigningOffer& offer) {
+  const std::string_view name = TrimmedName(offer.Name), shortName = TrimmedName(offer.ShortName);
+  if (shortName.empty()) return "You cannot use a blank short name!";
+  if (name.empty()) return "You cannot use a blank name!";
+  if (IsNameOfAnother(world, worker, name)) return "This name already exists!";
+  const std::string why = WhyNoName(name);
+  return why.empty() ? WhyNoName(shortName, Text<10>::kWidth) : why;
+}
+
+/// He gives up what he was and had where he comes from.
+void LeaveFormer(World& world, const Worker& worker) {
+  for (Promotion& promotion : world.Promotions())
+    if (promotion.Commissioner == worker.Uid) promotion.Commissioner = 0;
+  for (Title& title : world.Titles())
+    if (title.Holder == worker.Uid || title.Partner == worker.Uid) VacateTitle(world, title);
+}
+
+}  // namespace
+
+std::string WhyNoSigning(const World& world, const Worker& worker) {
+  const int size = world.Player().Size;
+  if (worker.Loyalty < 40) return kNotAtAll.Of(worker);
+  if (std::string why = WhyStays(world, worker, size); !why.empty()) return why;
+  return IsTooBig(size, worker.Over) ? kTooSmall.Of(worker) : "";
+}
+
+std::string MoreMoneyText(const Worker& worker) {
+  return kMoreMoney.Of(worker);
+}
+
+std::string WhyNotAsOffered(const World& world, const Worker& worker, const SigningOffer& offer) {
+  if (std::string why = WhyNotCalled(world, worker, offer); !why.empty()) return why;
+  const Promotion& own = world.Player();
+  if (offer.Position == kTrainingCamp && own.CampName == "None")
+    return "You do not have a training camp set up!";
+  if (offer.Position == kDevelopmentDeal && own.DevName == "None")
+    return "You do not have a development territory set up!";
+  return {};
+}
+
+std::string JudgeSigning(const Worker& worker, const Demands& demands, const SigningOffer& offer) {
+  const Talk talk{worker, demands, offer};
+  for (const Objection& objection : kObjections)
+    if (objection.Holds(talk)) return objection.Words;
+  return {};
+}
+
+void Sign(World& world, Worker& worker, const SigningOffer& offer) {
+  LeaveFormer(world, worker);
+  worker.Employer = world.PlayerUid();
+  worker.Name = TrimmedName(offer.Name);
+  worker.ShortName = TrimmedName(offer.ShortName);
+  worker.Disposition = offer.Disposition;
+  worker.Position = offer.Position;
+  worker.ContractMonths = offer.Months;
+  worker.ContractType = ContractCodeOf(offer.Written);
+  worker.Wage = offer.Wage;
+  worker.CreativeControl = offer.CreativeControl;
+  worker.Stable = "None";
+  worker.Split = "None";
+  worker.Manager = 0;
+  worker.Debuted = false;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,172 @@
+#include "roster/stafftalks.h"
+
+#include <algorithm>
+
+#include "records/severing.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// What promotions of a size mean to staff.
+struct Market {
+  int TalentCeiling;
+  int Worth;   // percent of the full price of talent
+  int Moves;   // percent by which a wage changes when he comes
+  int Months;  // wanted
+};
+// By size, Global to Backyard.
+constexpr std::array<Market, 6> kMarket = {{{100, 100, 10, 24},
+                                            {100, 75, 5, 24},
+                                            {80, 45, 0, 12},
+                                            {60, 20, 0, 12},
+                                            {40, 10, -5, 6},
+                                            {20, 5, -10, 6}}};
+
+constexpr int kTalentPerThousand = 5;  // at the full price
+constexpr int kPatience = 10;          // talent above the ceiling that a present job is kept with
+constexpr int kHappy = 61;             // morale
+constexpr int kHireLift = 20;          // of morale
+
+/// A tenth for the best, a twentieth for the good, hardly anything for the rest.
+int RaiseOf(int talent) {
+  return talent >= 80 ? 10 : talent >= 60 ? 5 : 1;
+}
+
+std::string HeOrShe(const Staff& staff, const char* rest) {
+  return (staff.Gender ? "He" : "She") + std::string(rest);
+}
+
+/// Whoever is known for good conduct leaves only for a promotion that is far bigger.
+bool IsFarAbove(int size, int employerSize, int backstage) {
+  const int steps = backstage > 90 ? 2 : backstage >= 60 ? 1 : 0;
+  return employerSize - steps > size;
+}
+
+std::string WhyStays(const World& world, const Staff& staff) {
+  const Promotion* employer = world.FindPromotion(staff.Employer);
+  if (!employer || staff.Morale < kHappy) return {};
+  if (staff.ContractType == "Wri" && staff.ContractMonths >= 1)
+    return HeOrShe(staff, " is under a written contract and happy with it.");
+  if (IsFarAbove(world.Player().Size, employer->Size, staff.Backstage)) return {};
+  return HeOrShe(staff, " is happy at ") + employer->Initials.Str() +
+         " and sees no reason to leave for you.";
+}
+
+std::string WhyNoHire(const World& world, const Staff& staff) {
+  if (staff.Loyalty < 40) return HeOrShe(staff, " wants nothing to do with you.");
+  if (std::string why = WhyStays(world, staff); !why.empty()) return why;
+  return staff.Talent > TalentCeiling(world.Player().Size)
+             ? HeOrShe(staff, " does not think that your promotion is big enough.")
+             : "";
+}
+
+std::string WhyNoRenewal(const Staff& staff) {
+  const int morale = staff.Morale, loyalty = staff.Loyalty;
+  if (staff.ContractMonths > 24 && morale > 39 && loyalty > 39)
+    return HeOrShe(staff, " is happy with the contract as it is.");
+  if (morale < 20 || loyalty < 20) return HeOrShe(staff, " will not even sit down with you.");
+  return morale < 40 || loyalty < 40 ? HeOrShe(staff, " does not want to talk about staying.") : "";
+}
+
+struct Talk {
+  const Staff& Who;
+  const StaffDemands& Wants;
+  const ContractOffer& Offer;
+  int Size;
+  bool IsOwn;
+};
+
+struct Objection {
+  bool (*Holds)(const Talk& t);
+  const char* Words;
+};
+constexpr Objection kObjections[] = {
+    {[](const Talk& t) {
+       return t.IsOwn && t.Who.Talent > TalentCeiling(t.Size) + kPatience && t.Who.Loyalty < 70;
+     },
+     "No thanks, it is time for me to move on to a bigger promotion."},
+    {[](const Talk& t) { return t.Wants.Written && !t.Offer.Written; }, "I want that in writing."},
+    {[](const Talk& t) { return !t.Wants.Written && t.Offer.Written; },
+     "I do not want to be bound by a written contract."},
+    {[](const Talk& t) { return t.IsOwn && t.Who.Loyalty < 50 && t.Offer.Wage < t.Wants.Wage; },
+     "After all that i have done here, i want a raise."},
+    {[](const Talk& t) { return t.IsOwn && t.Offer.Wage < t.Who.Wage; },
+     "I am not going to work for less."},
+    {[](const Talk& t) { return t.Offer.Wage < t.Wants.Wage - PercentOf(t.Wants.Wage, 10); },
+     "I am worth more than that."},
+    {[](const Talk& t) { return t.Wants.Months == 6 && t.Offer.Months > 12; },
+     "I do not want to bind myself for so long."},
+    {[](const Talk& t) { return t.Wants.Months >= 24 && t.Offer.Months < 12; },
+     "Half a year is no security. I want a longer contract."},
+    {[](const Talk& t) {
+       return t.Offer.Months > 36 && t.Offer.Wage < t.Wants.Wage + PercentOf(t.Wants.Wage, 20);
+     },
+     "For so many years i want a fifth on top."},
+};
+
+int WageWanted(const World& world, const Staff& staff) {
+  const int size = world.Player().Size, now = staff.Wage;
+  const bool own = IsOwnStaff(world, staff);
+  const int moved = now + PercentOf(now, own ? RaiseOf(staff.Talent) : BySize(kMarket, size).Moves);
+  int wage = std::max(moved, StaffWorth(size, staff.Talent));
+  if (!own && staff.Employer != 0) wage = PercentOf(wage, 120);
+  return std::clamp(wage, 0, kHighestStaffWage);
+}
+
+void PutInto(Staff& staff, const ContractOffer& offer) {
+  staff.ContractType = ContractCodeOf(offer.Written);
+  staff.ContractMonths = offer.Months;
+  staff.Wage = offer.Wage;
+}
+
+}  // namespace
+
+bool IsOwnStaff(const World& world, const Staff& staff) {
+  return staff.Employer != 0 && staff.Employer == world.PlayerUid();
+}
+
+std::string WhyNoStaffTalks(const Staff& staff) {
+  if (staff.Position == kOwner) return staff.Name + " owns promotions, and is not for hire.";
+  if (staff.Employer != 0 && (staff.Unsackable || staff.ContractMonths == kNoEnd))
+    return staff.Name + " is unsackable: the agreement has no end, and nothing to talk about.";
+  return {};
+}
+
+int StaffWorth(int size, int talent) {
+  return PercentOf(talent, BySize(kMarket, size).Worth) / kTalentPerThousand;
+}
+
+int TalentCeiling(int size) {
+  return BySize(kMarket, size).TalentCeiling;
+}
+
+StaffDemands StaffDemandsOf(const World& world, const Staff& staff) {
+  const int size = world.Player().Size;
+  return {BySize(kMarket, size).Months, size < kCult, WageWanted(world, staff)};
+}
+
+std::string WhyNoStaffOffer(const World& world, const Staff& staff) {
+  return IsOwnStaff(world, staff) ? WhyNoRenewal(staff) : WhyNoHire(world, staff);
+}
+
+std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
+                            const ContractOffer& offer) {
+  const Talk talk{staff, demands, offer, world.Player().Size, IsOwnStaff(world, staff)};
+  for (const Objection& objection : kObjections)
+    if (objection.Holds(talk)) return objection.Words;
+  return {};
+}
+
+void RenewStaff(Staff& staff, const ContractOffer& offer) {
+  PutInto(staff, offer);
+}
+
+void HireStaff(World& world, Staff& staff, const ContractOffer& offer) {
+  SeverStaff(world, staff);
+  staff.Employer = world.PlayerUid();
+  staff.Morale += kHireLift;
+  PutInto(staff, offer);
+}
+
+}  // namespace grapplemont
