@@ -110,8 +110,9 @@ People PeopleIn(const Records<T>& records) {
 }
 
 std::size_t NewIn(const People& now, const People& then) {
-  return static_cast<std::size_t>(std::count_if(now.Uids.begin(), now.Uids.end(),
-                                                [&](int uid) { return !then.Uids.contains(uid); }));
+  return static_cast<std::size_t>(
+      std::count_if(now.Names.begin(), now.Names.end(),
+                    [&](const std::string& name) { return !then.Names.contains(name); }));
 }
 
 /// CheckWorld, which knows every link to a worker or a member of staff, finds none to the gone.

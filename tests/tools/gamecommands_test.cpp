@@ -168,8 +168,8 @@ TEST_F(GameCommands, RunSaysWhyASlotCannotBePlayed) {
 
 TEST_F(GameCommands, SoakFromEveryChairWithEverySeedAndBothWays) {
   BuildSmallData();
-  const Ran ran = Run({"soak", In("data"), "--seeds", "2", "--days", "40"});
-  EXPECT_EQ("8 careers, 320 days, 0 ended early, 0 faults.\n", ran.Out);
+  const Ran ran = Run({"soak", In("data"), "--seeds", "2", "--days", "20"});
+  EXPECT_EQ("8 careers, 160 days, 0 ended early, 0 faults.\n", ran.Out);
   EXPECT_EQ(0, ran.Code) << ran.Errors;
 }
 
