@@ -11,6 +11,9 @@ namespace grapplemont {
 namespace {
 
 enum Whose { kYours = 1, kEverybodys };
+/// Of the world's Titles one wants to know whose they are; since when they are held, the history
+/// tells.
+constexpr std::size_t kSince = 3;
 enum ForHowMany { kForOne = 1, kForTwo };
 
 /// The player's Titles to be made, given, taken and given up; the whole world's to be looked at.
@@ -79,7 +82,7 @@ class frmBelts : public ui::Screen {
       if (!IsListed(title)) continue;
       vacant += title.Holder == 0;
       rows.push_back(TitleRow(world(), title));
-      if (all) rows.back().Cells.push_back(OwnerCell(title));
+      if (all) rows.back().Cells[kSince] = OwnerCell(title);
     }
     const auto count = rows.size();
     lblfacts.Text = std::to_string(count) + (count == 1 ? " Title, " : " Titles, ") +
@@ -128,7 +131,7 @@ class frmBelts : public ui::Screen {
 
   void cmbwhose_Click() {
     std::vector<ui::Column> columns = TitleColumns();
-    if (cmbwhose.Key() == kEverybodys) columns.push_back({"Of"});
+    if (cmbwhose.Key() == kEverybodys) columns[kSince] = {"Of"};
     lsttitles.Clear();
     lsttitles.SetColumns(std::move(columns));
     Load();

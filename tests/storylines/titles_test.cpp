@@ -174,7 +174,7 @@ TEST(TitleScreen, ShowsThePlayersTitlesAndTheWorlds) {
   desk.Pick("cmbwhose", "All Titles");
   EXPECT_EQ(desk.FirstColumn("lsttitles"),
             (Column{"NEW Crown", "CWA Crown", "CWA Roses", "CWA Feathers"}));
-  EXPECT_EQ(desk.Rows("lsttitles")[0][6], "NEW");
+  EXPECT_EQ(desk.Rows("lsttitles")[0][3], "NEW");
   desk.Pick("lsttitles", "NEW Crown");
   for (const char* button : {"cmdrename", "cmdvacate", "cmdsuspend", "cmddissolve", "cmdaward"}) {
     EXPECT_FALSE(desk.Enabled(button)) << button;
