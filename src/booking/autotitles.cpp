@@ -3,6 +3,7 @@
 #include "booking/automatches.h"
 #include "records/dates.h"
 #include "storylines/feuds.h"
+#include "storylines/titles.h"
 
 // Title defences: every Title at an Event, the lesser ones now and then on a show.
 

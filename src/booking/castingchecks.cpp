@@ -5,6 +5,7 @@
 
 #include "booking/casting.h"
 #include "storylines/stables.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "storylines/titles.h"
+
 namespace grapplemont {
 
 namespace {
@@ -90,10 +92,6 @@ std::vector<const MatchTypeRow*> OfferedMatchTypes(const World& world, int style
     if (type.Style == style && player.Risk > type.RiskOver && player.Size < type.SizeUnder)
       offered.push_back(&type);
   return offered;
-}
-
-bool FitsTitle(const Title& title, const Worker& worker) {
-  return !(title.Lightweight && !(worker.Weight == "L")) && !(title.Woman && worker.Gender);
 }
 
 std::vector<const Title*> OfferedTitles(const World& world, const Segment& match) {

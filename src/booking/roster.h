@@ -35,8 +35,6 @@ bool CanTurn(const Worker& turner, const Worker* partner);
 /// The match types of a style that the player's promotion can hold, in the order of the list.
 std::vector<const MatchTypeRow*> OfferedMatchTypes(const World& world, int style);
 
-/// Whether the worker may hold or fight for a Title: its weight and sex.
-bool FitsTitle(const Title& title, const Worker& worker);
 /// The player's Titles that a match may be for.
 std::vector<const Title*> OfferedTitles(const World& world, const Segment& match);
 

@@ -20,11 +20,17 @@ void WriterWorkload(World& world);
 /// Moves GameInfo.Economy. Draws once while it is from 20 to 80.
 void EconomyDrift(World& world);
 
-// The first of a month. The four that change lives leave the world as it is.
+// The first of a month.
 void PoorFormMorale(World& world);
+/// The player's workers in the territory learn from its booker, or fret where he has nothing left
+/// to teach them.
 void DevelopmentMonth(World& world);
+/// The player's trainees learn from the head trainer of the camp.
 void TrainingCampMonth(World& world);
+/// Takes a month off every injury, rehab and suspension.
 void StatusCountdown(World& world);
+/// The birthdays of the month before: skills drift, careers end. Whoever has announced his end goes
+/// in the first month that is not that of his birthday, and somebody new takes his record.
 void AgeAndRetire(World& world);
 void PayWagesAndContracts(World& world);
 void LoanRepayments(World& world);

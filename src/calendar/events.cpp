@@ -1,8 +1,12 @@
 #include "calendar/events.h"
 
+#include <algorithm>
 #include <array>
 
 #include "records/dates.h"
+#include "records/sweeps.h"
+#include "show/attendance.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
 
@@ -16,13 +20,30 @@ struct EventTypes {
 constexpr std::array<EventTypes, 6> kNewEventTypes = {
     {{1, 1}, {1, 2}, {2, 3}, {3, 3}, {4, 4}, {4, 4}}};
 
-void AddEvent(World& world, const Promotion& promotion, int month) {
+void Append(World& world, int owner, int month, std::string_view name, int type) {
   Event event;
-  event.Owner = promotion.Uid;
+  event.Owner = owner;
   event.Month = month;
-  event.Name = promotion.Initials + " in " + std::string(MonthName(month));
-  event.Type = NewEventType(promotion);
+  event.Name = name;
+  event.Type = type;
   world.Events().Append(event);
+}
+
+void AddEvent(World& world, const Promotion& promotion, int month) {
+  Append(world, promotion.Uid, month, promotion.Initials + " in " + std::string(MonthName(month)),
+         NewEventType(promotion));
+}
+
+Day LastSunday(int year, int month) {
+  using namespace std::chrono;
+  return sys_days{std::chrono::year{year} / month / Sunday[last]};
+}
+
+/// The player's Event of the month, to be changed; nullptr for none.
+Event* Planned(World& world, int month) {
+  for (Event& event : world.Events())
+    if (event.Owner == world.PlayerUid() && event.Month == month) return &event;
+  return nullptr;
 }
 
 }  // namespace
@@ -55,6 +76,61 @@ const Event* PlayerEvent(const World& world, int month) {
 void EnsureEvents(World& world, const Promotion& promotion) {
   for (int month = 1; month <= 12; ++month)
     if (!EventOf(world, promotion.Uid, month)) AddEvent(world, promotion, month);
+}
+
+Day NextEventDay(const World& world, int month) {
+  const int year = YearOf(world.Today());
+  const Day day = LastSunday(year, month);
+  return day >= world.Today() ? day : LastSunday(year + 1, month);
+}
+
+std::string WhyNotEventType(const Promotion& promotion, int type) {
+  if (Says(kEventTypes, type).empty()) return "Choose a type first.";
+  const BaseAndDraw crowd = EventCrowd(type, promotion.Size, promotion.Image);
+  if (crowd.Base + crowd.Draw > 0) return {};
+  return "Nobody would watch a " + std::string(Says(kEventTypes, type)) +
+         " of a promotion that is " + std::string(Says(kSizes, promotion.Size)) + ".";
+}
+
+std::string WhyNotEventName(const World& world, int month, std::string_view name) {
+  constexpr std::size_t kLetters = decltype(Event::Name)::kWidth;
+  if (std::string why = WhyNoName(name); !why.empty()) return why;
+  name = TrimmedName(name);
+  if (name.size() > kLetters)
+    return "An Event's name has at most 20 letters. This one has " + std::to_string(name.size()) +
+           ".";
+  if (name == kToBeDeleted)
+    return "\"" + std::string(name) + "\" has a meaning of its own and cannot be a name.";
+  const bool taken =
+      std::any_of(world.Events().begin(), world.Events().end(), [&](const Event& event) {
+        return event.Owner == world.PlayerUid() && event.Month != month && event.Name == name;
+      });
+  return taken ? "You have an Event called " + std::string(name) + " already." : "";
+}
+
+std::string WhyNotPlan(const World& world, int month, std::string_view name, int type) {
+  if (PlayerEvent(world, month))
+    return "There is an Event in " + std::string(MonthName(month)) + " already.";
+  if (world.Events().Full()) return "No more Events can be kept.";
+  if (std::string why = WhyNotEventName(world, month, name); !why.empty()) return why;
+  return WhyNotEventType(world.Player(), type);
+}
+
+void PlanEvent(World& world, int month, std::string_view name, int type) {
+  Append(world, world.PlayerUid(), month, TrimmedName(name), type);
+}
+
+void RenameEvent(World& world, int month, std::string_view name) {
+  if (Event* event = Planned(world, month)) event->Name = TrimmedName(name);
+}
+
+void ChangeEventType(World& world, int month, int type) {
+  if (Event* event = Planned(world, month)) event->Type = type;
+}
+
+void DropEvent(World& world, int month) {
+  if (const Event* event = Planned(world, month))
+    world.Events().Erase(world.Events().NumberOf(*event));
 }
 
 }  // namespace grapplemont

@@ -277,6 +277,7 @@ frmMainScreen* FindMainScreen(Game& game) {
 
 void RegisterCalendarScreens(Game& game) {
   game.Desk().Register("frmMainScreen", [&game] { return std::make_unique<frmMainScreen>(game); });
+  game.Desk().Register("frmEvent", [&game] { return MakefrmEvent(game); });
   game.Desk().Register("frmIncident", [&game] { return MakefrmIncident(game); });
   game.RefreshMainScreen = [&game] {
     if (frmMainScreen* main = FindMainScreen(game)) main->RefreshMainScreen();

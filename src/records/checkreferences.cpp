@@ -31,22 +31,9 @@ constexpr std::array<Target, 5> kTargets = {
      {Refers::Network, "network", Has<FindsNetwork{&World::FindNetwork}>},
      {Refers::Sponsor, "sponsor", Has<FindsSponsor{&World::FindSponsor}>}}};
 
-/// References that a running game leaves behind: people retire and give their record and uid to
-/// another.
-struct Stale {
-  std::string_view Record;
-  std::string_view Field;
-};
-constexpr std::array<Stale, 3> kStaleInGames = {
-    {{"Worker", "Manager"}, {"Show", "Announcer"}, {"Show", "Colour"}}};
-
-bool MayBeStale(const Inspection& inspection, const RecordLayout& layout, const Field& field) {
-  // The sheet of the last show lies about until the next is booked.
-  if (&layout == &LayoutOf<Segment>()) return true;
-  return !inspection.AsData() &&
-         std::any_of(kStaleInGames.begin(), kStaleInGames.end(), [&](const Stale& stale) {
-           return stale.Record == layout.Name && stale.Field == field.Name;
-         });
+/// The sheet of the last show lies about until the next is booked.
+bool MayBeStale(const RecordLayout& layout) {
+  return &layout == &LayoutOf<Segment>();
 }
 
 const Target* TargetOf(const Place& place, const Field& field) {
@@ -77,7 +64,7 @@ void ReferencesLeadSomewhere(Inspection& inspection) {
   ForEachFile(inspection, [&]<class T>(Records<T>& records) {
     const RecordLayout& layout = LayoutOf<T>();
     for (const Field& field : layout.Fields) {
-      if (field.To == Refers::Nothing || MayBeStale(inspection, layout, field)) continue;
+      if (field.To == Refers::Nothing || MayBeStale(layout)) continue;
       for (T& record : records) {
         const Place place{layout, records.NumberOf(record), reinterpret_cast<std::byte*>(&record)};
         for (int index = 0; index < field.Count; ++index)

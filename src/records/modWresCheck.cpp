@@ -6,16 +6,41 @@ namespace grapplemont {
 
 namespace {
 
+constexpr int kHighestUid = 32767;
+using Uids = std::vector<bool>;
+
+void MarkNamed(const RecordLayout& layout, const Field& field, ByteSpan records, Uids& taken) {
+  for (std::size_t at = 0; at + static_cast<std::size_t>(layout.Size) <= records.size();
+       at += static_cast<std::size_t>(layout.Size))
+    for (int index = 0; index < field.Count; ++index) {
+      const long long uid = FieldNumber(field, records.data() + at, index);
+      if (uid > 0 && uid <= kHighestUid) taken[static_cast<std::size_t>(uid)] = true;
+    }
+}
+
+/// Every uid that some record names as one of this kind; commentators may be of two.
+void MarkReferences(const World& world, Refers to, Uids& taken) {
+  for (const Table* table : world.Tables()) {
+    if (!table->Layout()) continue;
+    for (const Field& field : table->Layout()->Fields)
+      if (field.To == to || field.To == Refers::Commentator)
+        MarkNamed(*table->Layout(), field, table->RecordBytes(), taken);
+  }
+}
+
 template <class T>
-int NextUid(const Records<T>& records) {
-  constexpr int kHighestUid = 32767;
+int NextUid(const World& world, const Records<T>& records, Refers to) {
   int highest = 0;
   for (const T& record : records) highest = std::max<int>(highest, record.Uid);
   if (highest < kHighestUid) return highest + 1;
-  // Nothing is left behind the highest, but no file holds as many records as there are numbers.
-  std::vector<bool> taken(kHighestUid + 1);
+  Uids taken(kHighestUid + 1);
   for (const T& record : records)
     if (record.Uid > 0) taken[static_cast<std::size_t>(int(record.Uid))] = true;
+  // Files hold fewer records than there are numbers, so one is free in any case.
+  Uids named = taken;
+  MarkReferences(world, to, named);
+  const auto unnamed = std::find(named.begin() + 1, named.end(), false);
+  if (unnamed != named.end()) return static_cast<int>(unnamed - named.begin());
   return static_cast<int>(std::find(taken.begin() + 1, taken.end(), false) - taken.begin());
 }
 
@@ -56,13 +81,13 @@ std::string_view StoredOf(Vocabulary words, std::string_view text) {
 }  // namespace
 
 int NextWorkerUid(const World& world) {
-  return NextUid(world.Workers());
+  return NextUid(world, world.Workers(), Refers::Worker);
 }
 int NextStaffUid(const World& world) {
-  return NextUid(world.AllStaff());
+  return NextUid(world, world.AllStaff(), Refers::Staff);
 }
 int NextPromotionUid(const World& world) {
-  return NextUid(world.Promotions());
+  return NextUid(world, world.Promotions(), Refers::Promotion);
 }
 
 bool WorkerNameFree(const World& world, std::string_view name) {

@@ -9,7 +9,8 @@
 
 namespace grapplemont {
 
-/// The highest uid present plus 1; once that is used up, the lowest that is free.
+/// The highest uid present plus 1; once that is used up, the lowest that nobody has and no record
+/// names, be it one that still tells of somebody long gone.
 int NextWorkerUid(const World& world);
 int NextStaffUid(const World& world);
 int NextPromotionUid(const World& world);

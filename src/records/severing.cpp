@@ -3,6 +3,7 @@
 #include <array>
 
 #include "records/dates.h"
+#include "records/segments.h"
 
 namespace grapplemont {
 
@@ -38,6 +39,17 @@ void EndContract(Worker& worker) {
 void VacateTitlesOf(World& world, int workerUid) {
   for (Title& title : world.Titles())
     if (title.Holder == workerUid || title.Partner == workerUid) VacateTitle(world, title);
+}
+
+/// The job offer among the incidents names a promotion.
+constexpr int kJobOfferIncident = 6;
+
+void ForgetVoice(World& world, int uid, bool isWorker) {
+  for (Show& show : world.Shows()) {
+    if (show.Colour != uid || bool(show.ColourIsWorker) != isWorker) continue;
+    show.Colour = 0;
+    show.ColourIsWorker = false;
+  }
 }
 
 }  // namespace
@@ -104,6 +116,27 @@ void SeverStaff(World& world, Staff& staff) {
   if (!world.HasGame()) return;
   for (Show& show : world.Shows())
     if (show.Owner == world.PlayerUid() && show.Announcer == staff.Uid) show.Announcer = 0;
+}
+
+void ForgetWorker(World& world, int workerUid) {
+  world.Teams().Keep(
+      [=](const Team& team) { return team.Worker1 != workerUid && team.Worker2 != workerUid; });
+  for (Worker& client : world.Workers())
+    if (client.Manager == workerUid) client.Manager = 0;
+  ForgetVoice(world, workerUid, true);
+  for (Segment& segment : world.Segments())
+    if (segment.Rating == 0 && TakesPart(segment, workerUid)) ClearSegment(segment);
+  if (!world.HasGame()) return;
+  for (Word& place : world.Game().Shortlist)
+    if (place == workerUid) place = 0;
+  for (Incident& incident : world.Incidents())
+    if (incident.Type != kJobOfferIncident && incident.Uid == workerUid) incident = Incident{};
+}
+
+void ForgetStaff(World& world, int staffUid) {
+  for (Show& show : world.Shows())
+    if (show.Announcer == staffUid) show.Announcer = 0;
+  ForgetVoice(world, staffUid, false);
 }
 
 void SeverWorkersAndStaff(World& world, int promotionUid) {

@@ -114,6 +114,39 @@ void DrawName(World& world, Worker& worker) {
   worker.ShortName = surname;
 }
 
+void DrawName(World& world, Staff& staff) {
+  do {
+    const std::string_view surname = RandomSurname(world);
+    const DrawnFirstName first = RandomStaffFirstName(world);
+    staff.Name = std::string(first.Name) + " " + std::string(surname);
+    staff.Gender = !first.IsFemale;
+  } while (!StaffNameFree(world, staff.Name));
+}
+
+/// Birthday, disposition and the four flags of somebody whom nobody employs.
+void DrawOnTheMarket(World& world, Worker& worker) {
+  worker.BirthMonth = world.RandomDraw(12);
+  worker.ContractType = "Non";
+  worker.Status = "Nor";
+  worker.Speaks = true;
+  worker.Disposition = world.RandomDraw(2) == 1 ? "F" : "H";
+  worker.Trainer = world.RandomDraw(35) == 1;
+  worker.SuperstarLook = world.RandomDraw(20) == 1 || worker.Diva;
+  worker.Booker = world.RandomDraw(70) == 1;
+  worker.Announcer = world.RandomDraw(70) == 1;
+  worker.Stable = "None";
+  worker.Split = "None";
+}
+
+Staff NewStaffMember(World& world, int position) {
+  Staff staff;
+  DrawName(world, staff);
+  staff.Uid = NextStaffUid(world);
+  staff.Position = position;
+  NewStaffAttributes(world, staff);
+  return staff;
+}
+
 }  // namespace
 
 std::string_view RandomSurname(World& world) {
@@ -157,23 +190,28 @@ Worker& NewFillerWorker(World& world) {
   DrawName(world, worker);
   worker.Uid = NextWorkerUid(world);
   NewWorkerAttributes(world, worker, Generation::Filler);
-  worker.BirthMonth = world.RandomDraw(12);
-  worker.ContractType = "Non";
-  worker.Status = "Nor";
-  worker.Speaks = true;
-  worker.Disposition = world.RandomDraw(2) == 1 ? "F" : "H";
-  worker.Trainer = world.RandomDraw(35) == 1;
-  worker.SuperstarLook = world.RandomDraw(20) == 1 || worker.Diva;
-  worker.Booker = world.RandomDraw(70) == 1;
-  worker.Announcer = world.RandomDraw(70) == 1;
-  worker.Stable = "None";
-  worker.Split = "None";
+  DrawOnTheMarket(world, worker);
   worker.Condition = 60 + world.RandomDraw(40);
   worker.Morale = 60 + world.RandomDraw(40);
   worker.Loyalty = 70 + world.RandomDraw(30);
   worker.OverFloor = OverFloorFor(worker.Over);
   worker.Potential = StartingPotential(world, worker.Over);
   return world.Workers().Append(worker);
+}
+
+void ReplaceByRookie(World& world, Worker& worker) {
+  Worker rookie;
+  DrawName(world, rookie);
+  rookie.Uid = NextWorkerUid(world);
+  NewWorkerAttributes(world, rookie, Generation::Rookie);
+  rookie.Diva = !rookie.Gender && world.RandomDraw(20) < 5;
+  DrawOnTheMarket(world, rookie);
+  rookie.Condition = world.RandomDraw(14) + 75;
+  rookie.Morale = world.RandomDraw(14) + 75;
+  rookie.Loyalty = world.RandomDraw(30) + 70;
+  rookie.Potential = std::max(30, rookie.Over + world.RandomDraw(30));
+  rookie.OverFloor = rookie.Over - world.RandomDraw(30);
+  worker = rookie;
 }
 
 void NewStaffAttributes(World& world, Staff& staff) {
@@ -193,17 +231,11 @@ void NewStaffAttributes(World& world, Staff& staff) {
 }
 
 Staff& NewFillerStaff(World& world, int position) {
-  Staff staff;
-  do {
-    const std::string_view surname = RandomSurname(world);
-    const DrawnFirstName first = RandomStaffFirstName(world);
-    staff.Name = std::string(first.Name) + " " + std::string(surname);
-    staff.Gender = !first.IsFemale;
-  } while (!StaffNameFree(world, staff.Name));
-  staff.Uid = NextStaffUid(world);
-  staff.Position = position;
-  NewStaffAttributes(world, staff);
-  return world.AllStaff().Append(staff);
+  return world.AllStaff().Append(NewStaffMember(world, position));
+}
+
+void ReplaceByNewcomer(World& world, Staff& staff) {
+  staff = NewStaffMember(world, staff.Position);
 }
 
 int OverFloorFor(int over) {

@@ -29,6 +29,10 @@ void NewWorkerAttributes(World& world, Worker& worker, Generation generation);
 Worker& NewFillerWorker(World& world);
 /// Appends a free member of staff for the post.
 Staff& NewFillerStaff(World& world, int position);
+/// A rookie takes the record of a worker who is gone: another name, another uid, nobody's employee.
+void ReplaceByRookie(World& world, Worker& worker);
+/// Somebody new for the same post takes the record of a member of staff who is gone.
+void ReplaceByNewcomer(World& world, Staff& staff);
 /// Talent, wage and the other words of a new person in the post, who keeps name, uid, sex and post.
 void NewStaffAttributes(World& world, Staff& staff);
 

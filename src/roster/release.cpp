@@ -99,13 +99,17 @@ void SignWith(World& world, Worker& worker, const Promotion& rival) {
 
 }  // namespace
 
-void ReleaseWorker(World& world, Worker& worker) {
+void PartWith(World& world, Worker& worker) {
   LeaveOffice(world, worker.Uid);
   EndPosting(worker);
   EndContract(worker);
   LeaveFeuds(world, worker.Uid);
   LeaveTitles(world, worker.Uid);
   LeaveCommentary(world, worker.Uid);
+}
+
+void ReleaseWorker(World& world, Worker& worker) {
+  PartWith(world, worker);
   if (world.RandomDraw(3) != 1) return;
   if (const Promotion* rival = BestBidder(world, worker)) SignWith(world, worker, *rival);
 }

@@ -2,6 +2,7 @@
 
 #include "records/angles.h"
 #include "show/titlechange.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "records/modWresCheck.h"
 #include "show/consequences.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
 
@@ -28,13 +28,6 @@ bool TakesTitles(const Segment& segment) {
   }
 }
 
-std::string HolderText(const World& world, int holder, int partner) {
-  if (partner == 0) return WorkerName(world, holder);
-  const std::string team = TeamNameOf(world, holder, partner);
-  if (team != "None") return team;
-  return WorkerShortName(world, holder) + " \\ " + WorkerShortName(world, partner);
-}
-
 bool Holds(const Title& title, int one, int two) {
   return (title.Holder == one && title.Partner == two) ||
          (title.Holder == two && title.Partner == one);
@@ -47,12 +40,6 @@ Title* TitleAtStake(World& world, const Segment& segment) {
   for (Title& title : world.Titles())
     if (title.Owner == world.PlayerUid() && title.Name == segment.TitleName.View()) return &title;
   return nullptr;
-}
-
-void Crown(World& world, Title& title, int holder, int partner) {
-  title.Holder = holder;
-  title.Partner = partner;
-  BeginReign(title, world.Today(), HolderText(world, holder, partner));
 }
 
 void ChangeTitle(SegmentRun& run) {

@@ -14,6 +14,7 @@ std::unique_ptr<ui::Screen> MakefrmFeudStat(Game& game, int slot);
 
 std::unique_ptr<ui::Screen> MakefrmTagTeams(Game& game);
 std::unique_ptr<ui::Screen> MakefrmStables(Game& game);
+std::unique_ptr<ui::Screen> MakefrmBelts(Game& game);
 std::unique_ptr<ui::Screen> MakefrmManagers(Game& game);
 std::unique_ptr<ui::Screen> MakefrmTurn(Game& game);
 

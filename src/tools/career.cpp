@@ -11,11 +11,6 @@ namespace grapplemont::tools {
 
 namespace {
 
-int EndCodeOf(const World& world) {
-  const int code = world.Game().EndCode;
-  return code >= 1 && code <= 9 ? code : 0;
-}
-
 /// A show that was cut off goes to its end first.
 bool FinishTodays(World& world) {
   if (!ShowUnderWay(world)) return false;
@@ -37,7 +32,13 @@ void IgnoreIncidents(World& world) {
   while (FirstIncident(world)) CloseIncident(world);
 }
 
-/// The day as "Next Day" would take it.
+}  // namespace
+
+int EndCodeOf(const World& world) {
+  const int code = world.Game().EndCode;
+  return code >= 1 && code <= 9 ? code : 0;
+}
+
 void PlayDay(World& world, Shows shows) {
   world.Session.ShowRating = 0;
   world.Session.ShowFlag = 0;
@@ -47,8 +48,6 @@ void PlayDay(World& world, Shows shows) {
   AdvanceDay(world, cancelled);
   IgnoreIncidents(world);
 }
-
-}  // namespace
 
 CareerEnd PlayDays(Game& game, int days, Shows shows,
                    const std::function<void(int day)>& dayPassed) {

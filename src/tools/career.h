@@ -25,6 +25,10 @@ struct CareerEnd {
   int EndCode = 0;  // 1 to 9: why it is over; 0: it goes on
 };
 
+/// 1 to 9: why the career is over; 0: it goes on.
+int EndCodeOf(const World& world);
+/// The day as "Next Day" would take it. Nothing is committed.
+void PlayDay(World& world, Shows shows);
 /// Plays so many days of the open game, a commit each; a day is over when the next one's routines
 /// are. `dayPassed` hears of each.
 CareerEnd PlayDays(Game& game, int days, Shows shows,

@@ -14,8 +14,9 @@ namespace {
 
 constexpr std::string_view kProgram = "grapplemont-world";
 
-std::array<const Command*, 9> Commands() {
-  return {&kBuild, &kExport, &kCheck, &kNew, &kRun, &kTell, &kFormats, &kColumns, &kBalance};
+std::array<const Command*, 10> Commands() {
+  return {&kBuild, &kExport, &kCheck,   &kNew,     &kRun,
+          &kTell,  &kSoak,   &kFormats, &kColumns, &kBalance};
 }
 
 void PrintUsage(std::ostream& out, const Command& command) {

@@ -152,12 +152,13 @@ TEST(ChangeImage, LiftsPlayerAndPeopleAClass) {
 }
 
 TEST(ChangeImage, LiftsNobodyWhoIsKeptAway) {
-  for (const int position : {kDevelopmentDeal + 0, kTrainingCamp + 0, 81, 86}) {
+  for (const int position : {kDevelopmentDeal + 0, kTrainingCamp + 0, 79, 81, 86}) {
     World world = SmallWorld()
                       .Promotion("CWA", kCult, [](Promotion& p) { p.Image = 99; })
-                      .Worker("Kept Away", position, 40)
+                      .Worker("Kept Away", kJobber, 40)
                       .Worker("At Hand", kManager, 97)
                       .Game("CWA");
+    Named(world.Workers(), "Kept Away").Position = position;  // 79 is no place, yet away
     ScriptDraws(world, {{5, 5}});
     ChangeImage(world, world.Player(), 1, true);
     EXPECT_EQ(Named(world.Workers(), "Kept Away").Over, 40) << position;

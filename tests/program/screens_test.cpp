@@ -53,7 +53,8 @@ constexpr const char* kInGame[] = {
     "frmOtherWres",  "frmStaff",        "frmOtherStaff", "frmShortlist", "frmUser",
     "frmFinance",    "frmTicket",       "frmCharity",    "frmLoan",      "frmWages",
     "frmFedProd",    "frmFedSponsor",   "frmTelevision", "frmPromoTape", "frmTvOffer",
-    "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue"};
+    "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
+    "frmBelts",      "frmEvent"};
 constexpr const char* kBeforeGame[] = {"frmTitleScreen", "frmDisclaimer",  "frmGameMenu",
                                        "frmCredits",     "frmCreditsXtra", "frmNewGame",
                                        "frmLoadGame",    "frmWait",        "frmLoadingScreens"};

@@ -511,12 +511,6 @@ TEST(CheckWorld, LetsAGameGoItsOwnWay) {
          w.Workers()[2].Employer = 2;
        }},
       {"a fired worker keeps his manager", [](World& w) { w.Workers()[7].Manager = 4; }},
-      {"a manager retires", [](World& w) { w.Workers()[4].Uid = 900; }},
-      {"a commentator retires",
-       [](World& w) {
-         w.Shows()[1].Announcer = 900;
-         w.Shows()[1].Colour = 900;
-       }},
       {"an Owner comes along with a takeover", [](World& w) { w.AllStaff()[4].Employer = 1; }},
       {"a trainer is fired", [](World& w) { w.AllStaff()[3].Employer = 0; }},
       {"the Commissioner returns to the ring", [](World& w) { w.Workers()[5].Position = 1; }},

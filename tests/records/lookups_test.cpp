@@ -81,6 +81,25 @@ TEST(LookUps, CountUidsOnFromTheHighest) {
   EXPECT_EQ(1, NextPromotionUid(World()));
 }
 
+TEST(Uids, AreNotTakenWhileARecordStillNamesThem) {
+  World world =
+      SmallWorld().Network("Nine").Promotion("CWA").Crew(2).Show("Fire", "Friday", "Nine");
+  world.Workers()[2].Uid = 32767;
+  world.AllStaff().Append({}).Uid = 32767;
+  EXPECT_EQ(2, NextWorkerUid(world));
+  Team team;
+  team.Worker2 = 2;
+  world.Teams().Append(team);
+  world.Workers()[1].Manager = 3;
+  world.Segments().Append({}).Worker[29] = 4;
+  world.Shows()[1].Colour = 5;
+  world.Shows()[1].Announcer = 6;
+  EXPECT_EQ(6, NextWorkerUid(world));
+  EXPECT_EQ(1, NextStaffUid(world));
+  world.Promotions()[1].HeadTrainer = 1;
+  EXPECT_EQ(2, NextStaffUid(world));
+}
+
 TEST(LookUps, TellFreeNamesTrimmedAndByCase) {
   const World world = Peopled();
   EXPECT_FALSE(WorkerNameFree(world, "Bram Okafor"));

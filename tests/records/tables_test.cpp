@@ -404,7 +404,6 @@ TEST(Tables, OfARunningGameComeBack) {
       .Feud("Bram Okafor", "Lou Fay")
       .Mail("Maeve", "  Two blanks, a \"quote\" and \xE9.");
   World world = small;
-  Named(world.Workers(), "Bram Okafor").Manager = 999;
   Named(world.Workers(), "Bram Okafor").Age = 130;
   Named(world.Workers(), "Lou Fay").Stable = "Long Gone";
   Named(world.Shows(), "Friday Fire").ContractWeeks = -7;

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
+#include <set>
 #include <utility>
 
 #include "booking/autobooker.h"
@@ -89,6 +91,48 @@ TEST(Careers, KeepTheWorldSoundFromEveryChair) {
 
 TEST(Careers, KeepTheWorldSoundWhenAllShowsAreCalledOff) {
   PlayYears(Shows::Cancel);
+}
+
+struct People {
+  std::set<int> Uids;
+  std::set<std::string> Names;
+};
+template <class T>
+People PeopleIn(const Records<T>& records) {
+  People people;
+  for (const T& record : records) {
+    people.Uids.insert(record.Uid);
+    people.Names.insert(record.Name.Str());
+  }
+  EXPECT_EQ(people.Uids.size(), static_cast<std::size_t>(records.Count()));
+  EXPECT_EQ(people.Names.size(), static_cast<std::size_t>(records.Count()));
+  return people;
+}
+
+std::size_t NewIn(const People& now, const People& then) {
+  return static_cast<std::size_t>(
+      std::count_if(now.Names.begin(), now.Names.end(),
+                    [&](const std::string& name) { return !then.Names.contains(name); }));
+}
+
+/// CheckWorld, which knows every link to a worker or a member of staff, finds none to the gone.
+TEST(Careers, ReplaceWhoeverRetiresForTenYears) {
+  for (const bool nearTheLastUid : {false, true}) {
+    World world = Begun(5, 9);
+    // Somebody whom no record knows: the last made up for the market.
+    if (nearTheLastUid) world.Workers()[world.Workers().Count()].Uid = 32760;
+    const int workers = world.Workers().Count();
+    const int staff = world.AllStaff().Count();
+    const People workersThen = PeopleIn(world.Workers()), staffThen = PeopleIn(world.AllStaff());
+    for (int day = 0; day < 3653; ++day) {
+      tools::PlayDay(world, nearTheLastUid ? Shows::Cancel : Shows::Auto);
+      if (IsFirstOfMonth(world.Today())) ExpectSound(world);
+    }
+    EXPECT_EQ(world.Workers().Count(), workers);
+    EXPECT_EQ(world.AllStaff().Count(), staff);
+    EXPECT_GT(NewIn(PeopleIn(world.Workers()), workersThen), 40u);
+    EXPECT_GT(NewIn(PeopleIn(world.AllStaff()), staffThen), 40u);
+  }
 }
 
 TEST(Careers, AreTheSameForASeed) {

@@ -166,5 +166,20 @@ TEST_F(GameCommands, RunSaysWhyASlotCannotBePlayed) {
   EXPECT_EQ(1, std::count(busy.Errors.begin(), busy.Errors.end(), '\n')) << busy.Errors;
 }
 
+TEST_F(GameCommands, SoakFromEveryChairWithEverySeedAndBothWays) {
+  BuildSmallData();
+  const Ran ran = Run({"soak", In("data"), "--seeds", "2", "--days", "20"});
+  EXPECT_EQ("8 careers, 160 days, 0 ended early, 0 faults.\n", ran.Out);
+  EXPECT_EQ(0, ran.Code) << ran.Errors;
+}
+
+TEST_F(GameCommands, DoNotSoakASavedGame) {
+  BuildSmallData();
+  Run({"new", "--home", Home, "--slot", "1", "--player", "Pat", "--promotion", "CWA"});
+  const Ran ran = Run({"soak", In("s1")});
+  EXPECT_EQ(1, ran.Code);
+  EXPECT_EQ("grapplemont-world soak: H/s1 holds a saved game, no default data.\n", ran.Errors);
+}
+
 }  // namespace
 }  // namespace grapplemont::test

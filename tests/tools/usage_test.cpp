@@ -60,7 +60,8 @@ TEST_F(ToolUsage, HelpsOnEveryCommand) {
   const Ran all = Run({"--help"});
   EXPECT_EQ(0, all.Code);
   EXPECT_EQ("", all.Errors);
-  for (const char* command : {"build", "export", "check", "new", "run", "formats", "columns"}) {
+  for (const char* command :
+       {"build", "export", "check", "new", "run", "soak", "formats", "columns"}) {
     EXPECT_NE(std::string::npos, all.Out.find("\n  " + std::string(command))) << command;
     const Ran one = Run({command, "--help"});
     EXPECT_EQ(0, one.Code);

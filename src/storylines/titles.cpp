@@ -1,0 +1,147 @@
+#include "storylines/titles.h"
+
+#include <algorithm>
+
+#include "records/dates.h"
+#include "records/modWresCheck.h"
+#include "records/segments.h"
+#include "records/sweeps.h"
+#include "storylines/storynames.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// How the history calls the holders: a pair without a team by its short names.
+std::string HolderText(const World& world, int holder, int partner) {
+  if (partner == 0) return WorkerName(world, holder);
+  const std::string team = TeamNameOf(world, holder, partner);
+  if (team != "None") return team;
+  return WorkerShortName(world, holder) + " \\ " + WorkerShortName(world, partner);
+}
+
+/// Several promotions may have Titles of one name; the sheet's are the player's.
+bool IsBookedFor(const Segment& segment, const Title& title) {
+  return segment.Kind != kEmptySegment && segment.TitleName == title.Name.View() &&
+         segment.Rating == 0;
+}
+
+bool MayHold(const World& world, const Title& title, const Worker& worker) {
+  return worker.Employer != 0 && worker.Employer == world.PlayerUid() && IsOnRoster(worker) &&
+         worker.Status == "Nor" && FitsTitle(title, worker);
+}
+
+std::string WhyNotHold(const World& world, const Title& title, int uid) {
+  const Worker* worker = world.FindWorker(uid);
+  if (!worker) return title.Singles ? "Choose somebody first." : "Choose two workers first.";
+  if (!FitsTitle(title, *worker)) return worker->Name + " is not eligible for this title!";
+  return MayHold(world, title, *worker) ? "" : worker->Name + " is no fit wrestler of yours.";
+}
+
+constexpr std::string_view kReserved[] = {"Vacant", kToBeDeleted};
+
+}  // namespace
+
+bool IsPlayers(const World& world, const Title& title) {
+  return title.Owner == world.PlayerUid();
+}
+
+std::string ChampionText(const World& world, const Title& title) {
+  if (title.Holder == 0) return "Vacant";
+  return title.Partner == 0 ? WorkerName(world, title.Holder)
+                            : PairName(world, title.Holder, title.Partner);
+}
+
+std::string KindText(const Title& title) {
+  return std::string(title.Woman ? "Women's " : "") + (title.Singles ? "Singles" : "Tag") +
+         (title.Lightweight ? ", light" : "");
+}
+
+bool FitsTitle(const Title& title, const Worker& worker) {
+  return !(title.Lightweight && !(worker.Weight == "L")) && !(title.Woman && worker.Gender);
+}
+
+std::string WhyNotTitleName(const World& world, std::string_view name) {
+  constexpr std::size_t kLetters = decltype(Title::Name)::kWidth;
+  if (std::string why = WhyNoName(name); !why.empty()) return why;
+  name = TrimmedName(name);
+  if (name.size() > kLetters)
+    return "A Title's name has at most 20 letters. This one has " + std::to_string(name.size()) +
+           ".";
+  for (const std::string_view reserved : kReserved)
+    if (name == reserved)
+      return "\"" + std::string(name) + "\" has a meaning of its own and cannot be a name.";
+  if (FindTitle(world, name)) return "There is a Title called " + std::string(name) + " already.";
+  return world.Titles().Full() ? "No more Titles can be kept." : "";
+}
+
+int CreateTitle(World& world, const TitleTerms& terms) {
+  Title title;
+  title.Name = TrimmedName(terms.Name);
+  title.Singles = terms.Singles;
+  title.Woman = terms.Woman;
+  title.Lightweight = terms.Lightweight;
+  title.Owner = world.PlayerUid();
+  title.Image = kNewTitleImage;
+  for (Reign& reign : title.Reigns) {
+    reign.Won = kNoTitleDate;
+    reign.Holder = "None";
+    reign.Lost = kNoTitleDate;
+  }
+  title.Reigns[0].Won = world.Today();
+  title.Reigns[0].Holder = "Vacant";
+  world.Titles().Append(title);
+  return world.Titles().Count();
+}
+
+void RenameTitle(World& world, int number, std::string_view name) {
+  Title& title = world.Titles()[number];
+  const std::string before = title.Name.Str();
+  for (Segment& segment : world.Segments())
+    if (segment.TitleName == before) segment.TitleName = TrimmedName(name);
+  title.Name = TrimmedName(name);
+}
+
+void SuspendTitle(Title& title, bool suspended) {
+  title.Suspended = suspended;
+}
+
+std::vector<const Worker*> Contenders(const World& world, const Title& title) {
+  std::vector<const Worker*> contenders = SeenOnShows(world);
+  std::erase_if(contenders, [&](const Worker* worker) { return !MayHold(world, title, *worker); });
+  return contenders;
+}
+
+std::string WhyNotAward(const World& world, const Title& title, int holder, int partner) {
+  if (!IsPlayers(world, title)) return "This Title is not yours to give.";
+  if (title.Holder != 0) return "It has a holder. Vacate it first.";
+  if (std::string why = WhyNotHold(world, title, holder); !why.empty()) return why;
+  if (title.Singles) return partner == 0 ? "" : "A singles Title has one holder. Choose one.";
+  if (holder == partner) return "You have selected the same worker twice!";
+  return WhyNotHold(world, title, partner);
+}
+
+void Crown(World& world, Title& title, int holder, int partner) {
+  title.Holder = holder;
+  title.Partner = partner;
+  BeginReign(title, world.Today(), HolderText(world, holder, partner));
+}
+
+std::string WhyNotVacate(const Title& title) {
+  return title.Holder == 0 ? "It is vacant already." : "";
+}
+
+int BookedForTitle(const World& world, const Title& title) {
+  return static_cast<int>(
+      std::count_if(world.Segments().begin(), world.Segments().end(),
+                    [&](const Segment& segment) { return IsBookedFor(segment, title); }));
+}
+
+void DissolveTitle(World& world, int number) {
+  const Title gone = world.Titles()[number];
+  for (Segment& segment : world.Segments())
+    if (IsBookedFor(segment, gone)) ClearSegment(segment);
+  world.Titles().Erase(number);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,118 @@
+#include <ostream>
+
+#include "records/charset.h"
+#include "records/checkworld.h"
+#include "records/dates.h"
+#include "session/newgame.h"
+#include "tools/career.h"
+#include "tools/commands.h"
+#include "tools/folders.h"
+
+// Many careers that nobody watches, looked at for faults month by month.
+
+namespace grapplemont::tools {
+
+namespace {
+
+constexpr Day kStart{std::chrono::year{2026} / 1 / 1};
+constexpr std::uint64_t kMostSeeds = 10000, kMostDays = 40000;
+
+/// One career: whose chair, which chance, what becomes of its shows.
+struct Plan {
+  int PromotionUid;
+  std::uint64_t Seed;
+  Shows Do;
+  int Days;
+};
+
+World Begin(const World& data, const Plan& plan) {
+  World world(std::make_unique<SeededDraws>(plan.Seed),
+              std::make_unique<SeededDraws>(plan.Seed + 1));
+  std::map<std::string, Bytes> files;
+  for (NewFile& file : FilesOf(data)) files[file.Name] = std::move(file.Contents);
+  world.Load(files);
+  NewGameChoice choice;
+  choice.PlayerName = "Nobody";
+  choice.PromotionUid = plan.PromotionUid;
+  choice.Difficulty = kEasy + static_cast<int>(plan.Seed % 4);
+  choice.Start = kStart;
+  choice.SaveName = "Soak";
+  NewGame(world, choice);
+  return world;
+}
+
+/// Plays careers and counts what they come to.
+class Soaking {
+ public:
+  Soaking(const World& data, Shell& shell) : data_(data), shell_(shell) {}
+
+  void Play(const Plan& plan) {
+    World world = Begin(data_, plan);
+    const std::string name = world.Player().Initials + ", seed " + std::to_string(plan.Seed) +
+                             (plan.Do == Shows::Auto ? ", auto" : ", cancel");
+    ++careers_;
+    try {
+      for (int day = 0; day < plan.Days && EndCodeOf(world) == 0; ++day) {
+        PlayDay(world, plan.Do);
+        ++days_;
+        if (IsFirstOfMonth(world.Today())) Look(world, name);
+      }
+    } catch (const FieldOverflow& fault) {
+      Tell(world, name, world.Explain(fault));
+    } catch (const std::exception& fault) {
+      Tell(world, name, fault.what());
+    }
+    Look(world, name);
+    ended_ += EndCodeOf(world) != 0;
+  }
+
+  int Close() {
+    shell_.Out << careers_ << " careers, " << days_ << " days, " << ended_ << " ended early, "
+               << faults_ << (faults_ == 1 ? " fault.\n" : " faults.\n");
+    return faults_ == 0 ? 0 : 1;
+  }
+
+ private:
+  void Look(const World& world, const std::string& name) {
+    for (const Fault& fault : CheckWorld(world)) Tell(world, name, fault.Line());
+  }
+  void Tell(const World& world, const std::string& name, const std::string& what) {
+    ++faults_;
+    shell_.Out << ToUtf8(name) << ", " << IsoDate(world.Today()) << ": " << ToUtf8(what) << "\n";
+  }
+
+  const World& data_;
+  Shell& shell_;
+  int careers_ = 0, ended_ = 0, faults_ = 0;
+  long days_ = 0;
+};
+
+int Soak(const Arguments& arguments, Shell& shell) {
+  const auto disk = RealDisk();
+  const World data = ReadWorld(*disk, arguments.Place(0), shell.Errors);
+  if (data.HasGame())
+    throw WorldFault(arguments.Place(0) + " holds a saved game, no default data.");
+  const std::uint64_t seeds = arguments.Number("--seeds", 1, kMostSeeds).value_or(1);
+  const int days = static_cast<int>(arguments.Number("--days", 1, kMostDays).value_or(365));
+  Soaking soaking(data, shell);
+  for (std::uint64_t seed = 1; seed <= seeds; ++seed)
+    for (const Promotion& promotion : data.Promotions())
+      for (const Shows shows : {Shows::Auto, Shows::Cancel})
+        soaking.Play({promotion.Uid, seed, shows, days});
+  return soaking.Close();
+}
+
+constexpr OptionKind kSoakOptions[] = {{"--seeds", "N"}, {"--days", "D"}};
+
+}  // namespace
+
+const Command kSoak{"soak",
+                    "DATA --seeds N --days D",
+                    "Plays a year, or D days, from every chair of the default data in DATA with N "
+                    "seeds, all shows booked and all called off; lists every fault, a line each, "
+                    "and ends with 1 when there is one.",
+                    1,
+                    kSoakOptions,
+                    Soak};
+
+}  // namespace grapplemont::tools

@@ -1,0 +1,541 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "calendar/daysteps.h"
+#include "records/checkworld.h"
+#include "records/modWresCheck.h"
+#include "records/segments.h"
+#include "roster/names.h"
+#include "roster/shortlist.h"
+#include "support/newsof.h"
+#include "support/scripteddraws.h"
+#include "support/smallworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+using Script = std::vector<ScriptedDraw>;
+
+Script Then(Script first, const Script& next) {
+  first.insert(first.end(), next.begin(), next.end());
+  return first;
+}
+
+constexpr int kFebruary = 2;  // the month whose birthdays 1 March keeps
+
+/// "Sol Varga", whose birthday it is, at the player's CWA, at its rival NEW or on the market.
+World With(std::string_view employer, const Change<Worker>& change = {},
+           const Change<GameInfo>& options = {}) {
+  SmallWorld small;
+  small.Promotion("NEW", kBackyard).Promotion("CWA");
+  if (employer == "NEW") small = SmallWorld(), small.Promotion("CWA").Promotion("NEW", kBackyard);
+  if (employer.empty()) small.OnTheMarket();
+  return small
+      .Worker("Sol Varga",
+              [&](Worker& worker) {
+                worker.BirthMonth = kFebruary;
+                if (change) change(worker);
+              })
+      .Game("CWA", kGameStart, options);
+}
+
+Worker& Sol(World& world) {
+  return Named(world.Workers(), "Sol Varga");
+}
+
+const ScriptedDraw kSkillsStay{5, 3};
+
+TEST(Birthdays, ComeInTheMonthAfter) {
+  const struct {
+    Day Today;
+    int BirthMonth;
+  } rows[] = {{std::chrono::year{2026} / 1 / 1, 12},
+              {std::chrono::year{2026} / 2 / 1, 1},
+              {std::chrono::year{2026} / 12 / 1, 11}};
+  for (const auto& row : rows)
+    for (const int off : {0, 1, 11}) {
+      World world = With("CWA");
+      world.Game().Today = row.Today;
+      Sol(world).BirthMonth = (row.BirthMonth - 1 + off) % 12 + 1;
+      ScriptDraws(world, off == 0 ? Script{kSkillsStay} : Script{});
+      AgeAndRetire(world);
+      EXPECT_EQ(Sol(world).Age, off == 0 ? 29 : 28);
+    }
+}
+
+TEST(Birthdays, MoveTheSkillsUnlessAThreeIsDrawn) {
+  World world = With("CWA", [](Worker& worker) {
+    worker.Brawl = 98;
+    worker.Technical = 2;
+    worker.Speed = 60;
+  });
+  ScriptDraws(world, {{5, 4}, {5, 5}, {5, 1}, {5, 1}, {5, 5}, {5, 3}, {5, 2}});
+  AgeAndRetire(world);
+  EXPECT_EQ(Sol(world).Brawl, 100);
+  EXPECT_EQ(Sol(world).Technical, 0);
+  EXPECT_EQ(Sol(world).Speed, 61);
+}
+
+TEST(Birthdays, DropNothingBetweenTheTwoDraws) {
+  World world = With("CWA", [](Worker& worker) { worker.Brawl = 98; });
+  ScriptDraws(world, {{5, 1}, {5, 5}, {5, 5}, {5, 1}, {5, 1}, {5, 1}, {5, 1}});
+  AgeAndRetire(world);
+  EXPECT_EQ(Sol(world).Brawl, 98) << "103 less 5: held to the range at the end";
+}
+
+TEST(Retirement, IsDrawnByAge) {
+  struct Case {
+    int AgeBefore;
+    Script Draws;  // after the skills
+    bool Announces;
+  };
+  const Case kCases[] = {{33, {}, false},       {34, {{40, 1}}, true}, {34, {{40, 2}}, false},
+                         {43, {{40, 1}}, true}, {44, {{15, 1}}, true}, {49, {{15, 1}}, true},
+                         {50, {{3, 1}}, true},  {50, {{3, 3}}, false}, {64, {{3, 2}}, false},
+                         {65, {}, true},        {90, {}, true}};
+  for (const Case& c : kCases) {
+    SCOPED_TRACE(c.AgeBefore);
+    World world = With("CWA", [&](Worker& worker) {
+      worker.Age = c.AgeBefore;
+      worker.Position = kNonWrestler;
+    });
+    ScriptDraws(world, Then({kSkillsStay}, c.Draws));
+    AgeAndRetire(world);
+    EXPECT_EQ(Sol(world).RetiringSoon, c.Announces);
+    EXPECT_EQ(NewsOf(world),
+              c.Announces
+                  ? "Retirement!: Sol Varga has announced he will retire from CWA in one month.\n"
+                  : "");
+  }
+}
+
+TEST(Retirement, IsNothingForTobiasFenn) {
+  for (const int age : {44, 80, 200}) {
+    World world = With("CWA");
+    Worker& tobias = Sol(world);
+    tobias.Name = "Tobias Fenn";
+    tobias.Age = age;
+    tobias.Position = kNonWrestler;
+    ScriptDraws(world, Then({kSkillsStay}, age == 44 ? Script{{15, 1}} : Script{}));
+    AgeAndRetire(world);
+    EXPECT_EQ(tobias.Age, age + 1);
+    EXPECT_FALSE(tobias.RetiringSoon);
+    EXPECT_EQ(NewsOf(world), "");
+  }
+}
+
+TEST(Retirement, MakesTheOldNonWrestlersFirst) {
+  struct Case {
+    int AgeBefore, Position;
+    Script Draws;  // after the skills: the end, then the ring
+    bool Leaves;
+  };
+  const Case kCases[] = {{39, kMidcard, {{40, 2}}, false},
+                         {40, kMidcard, {{40, 2}, {25, 5}}, true},
+                         {40, kMidcard, {{40, 2}, {25, 4}}, false},
+                         {48, kMidcard, {{15, 2}, {25, 5}}, true},
+                         {49, kMidcard, {{15, 2}}, true},
+                         {50, kMidcard, {{3, 2}}, true},
+                         {50, kManager, {{3, 2}}, true},
+                         {50, 83, {{3, 2}}, true},
+                         {50, kNonWrestler, {{3, 2}}, false}};
+  for (const Case& c : kCases)
+    for (const char* employer : {"CWA", "NEW", ""}) {
+      SCOPED_TRACE(std::to_string(c.AgeBefore) + " at " + employer);
+      World world = With(employer, [&](Worker& worker) {
+        worker.Age = c.AgeBefore;
+        worker.Position = c.Position;
+      });
+      ScriptDraws(world, Then({kSkillsStay}, c.Draws));
+      AgeAndRetire(world);
+      EXPECT_EQ(Sol(world).Position, c.Leaves ? int(kNonWrestler) : c.Position);
+      EXPECT_EQ(Sol(world).Morale, 80);
+      const bool told = c.Leaves && std::string_view(employer) == "CWA";
+      EXPECT_EQ(NewsOf(world),
+                told ? "News Desk: Sol Varga has decided to become a 'non wrestler'!\n" : "");
+    }
+}
+
+TEST(Retirement, TellsOfNonWrestlersOnTheShortlistAndFreesTheirClients) {
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Promotion("NEW")
+                    .Worker("Sol Varga", kManager, 30,
+                            [](Worker& worker) {
+                              worker.BirthMonth = kFebruary;
+                              worker.Age = 50;
+                            })
+                    .Worker("Bram Okafor", [](Worker& worker) { worker.Manager = 1; })
+                    .Game("CWA");
+  AddToShortlist(world, 1);
+  ScriptDraws(world, Then({kSkillsStay}, {{3, 2}}));
+  AgeAndRetire(world);
+  EXPECT_EQ(NewsOf(world), "News Desk: Sol Varga has decided to become a 'non wrestler'!\n");
+  EXPECT_EQ(Named(world.Workers(), "Bram Okafor").Manager, 0);
+}
+
+TEST(Retirement, IsToldByTheOptionTheShortlistAndOnesOwn) {
+  struct Case {
+    const char* Employer;
+    int Option;  // NEW is smaller than CWA
+    bool Shortlisted;
+    const char* News;
+  };
+  const char* const kFree = "Retiring!: Sol Varga has announced she will retire in one month.\n";
+  const char* const kRival =
+      "Retirement!: Sol Varga has announced she will retire from NEW in one month.\n";
+  const char* const kOwn =
+      "Retirement!: Sol Varga has announced she will retire from CWA in one month.\n";
+  const Case kCases[] = {{"", 0, false, kFree},  {"", 1, false, ""},        {"", 2, false, ""},
+                         {"", 2, true, kFree},   {"NEW", 0, false, kRival}, {"NEW", 1, false, ""},
+                         {"NEW", 2, false, ""},  {"NEW", 2, true, kRival},  {"CWA", 2, false, kOwn},
+                         {"CWA", 1, false, kOwn}};
+  for (const Case& c : kCases) {
+    SCOPED_TRACE(std::string(c.Employer) + std::to_string(c.Option));
+    World world = With(
+        c.Employer,
+        [](Worker& worker) {
+          worker.Age = 70;
+          worker.Gender = false;
+        },
+        [&](GameInfo& game) { game.MailRetirement = c.Option; });
+    world.Session.StartSize = world.Player().Size;
+    if (c.Shortlisted) AddToShortlist(world, Sol(world).Uid);
+    ScriptDraws(world, {kSkillsStay});
+    AgeAndRetire(world);
+    EXPECT_EQ(NewsOf(world), c.News);
+  }
+}
+
+// The rookie's draws: name, attributes, market, moods. A brawler of the middle tier, Over 20.
+Script Rookie(bool isWoman, int diva = 5) {
+  const int moves =
+      static_cast<int>(std::count_if(FinisherMoves.begin(), FinisherMoves.end(),
+                                     [](const FinisherMove& move) { return move.Kind == 'B'; }));
+  Script script{{300, 1}, {303, isWoman ? 252 : 1}, {4, 2}, {60, 10}, {60, 20}, {95, 30}, {45, 5},
+                {45, 6}};
+  if (isWoman) script.push_back({10, 1});
+  script = Then(
+      script,
+      {{10, 1}, {6, 2}, {25, 10}, {moves, 1}, {moves, 2}, {30, 30}, {20, 3}, {20, 4}, {15, 5}});
+  if (isWoman) script.push_back({20, diva});
+  return Then(script, {{12, 7},
+                       {2, 2},
+                       {35, 1},
+                       {20, 2},
+                       {70, 1},
+                       {70, 2},
+                       {14, 1},
+                       {14, 14},
+                       {30, 3},
+                       {30, 29},
+                       {30, 30}});
+}
+
+TEST(Retirement, TakesPlaceInAMonthThatIsNotTheBirthdays) {
+  World world = With("CWA", [](Worker& worker) { worker.Age = 70; });
+  const int uid = Sol(world).Uid;
+  ScriptDraws(world, {kSkillsStay});
+  AgeAndRetire(world);
+  EXPECT_TRUE(Sol(world).RetiringSoon) << "not gone in the month of the announcement";
+  world.Game().Today = std::chrono::year{2026} / 4 / 1;
+  world.News().Remove();
+  ScriptDraws(world, Rookie(false));
+  AgeAndRetire(world);
+  EXPECT_EQ(NewsOf(world), "Retirement!: Sol Varga has retired from CWA!\n");
+  ASSERT_EQ(world.Workers().Count(), 1);
+  const Worker& rookie = world.Workers()[1];
+  EXPECT_EQ(rookie.Uid, uid + 1);
+  EXPECT_EQ(rookie.Name.Str(), std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[0]));
+  EXPECT_EQ(rookie.ShortName.View(), Surnames[0]);
+  EXPECT_TRUE(rookie.Gender);
+  EXPECT_EQ(rookie.Age, 20);
+  EXPECT_EQ(rookie.BirthMonth, 7);
+  EXPECT_EQ(rookie.Employer, 0);
+  EXPECT_EQ(rookie.ContractType.View(), "Non");
+  EXPECT_EQ(rookie.ContractMonths, 0);
+  EXPECT_EQ(rookie.Status.View(), "Nor");
+  EXPECT_EQ(rookie.Position, kLowerMidcard);
+  EXPECT_EQ(rookie.Over, 20);
+  EXPECT_EQ(rookie.Potential, 49);
+  EXPECT_EQ(rookie.OverFloor, 0);
+  EXPECT_EQ(rookie.Condition, 76);
+  EXPECT_EQ(rookie.Morale, 89);
+  EXPECT_EQ(rookie.Loyalty, 73);
+  EXPECT_EQ(rookie.Disposition.View(), "H");
+  EXPECT_TRUE(rookie.Speaks && rookie.Trainer && rookie.Booker && rookie.Debuted);
+  EXPECT_FALSE(rookie.SuperstarLook || rookie.Announcer || rookie.RetiringSoon ||
+               rookie.CreativeControl || rookie.Diva || rookie.Unsackable);
+  EXPECT_EQ(rookie.Stable.View(), "None");
+  EXPECT_EQ(rookie.Split.View(), "None");
+}
+
+TEST(Retirement, BringsADivaForOneWomanInFive) {
+  for (const int drawn : {4, 5}) {
+    World world = With(
+        "",
+        [](Worker& worker) {
+          worker.BirthMonth = 6;
+          worker.RetiringSoon = true;
+          worker.Gender = false;
+        },
+        [](GameInfo& game) { game.MailRetirement = 0; });
+    ScriptDraws(world, Rookie(true, drawn));
+    AgeAndRetire(world);
+    EXPECT_EQ(NewsOf(world), "Retiring!: Sol Varga has retired!\n");
+    EXPECT_FALSE(world.Workers()[1].Gender);
+    EXPECT_EQ(world.Workers()[1].Diva, drawn < 5);
+    EXPECT_EQ(world.Workers()[1].SuperstarLook, drawn < 5);
+  }
+}
+
+/// Every place in the world that names the uid as one of this kind.
+std::string Mentions(const World& world, Refers to, int uid) {
+  std::string places;
+  for (const Table* table : world.Tables()) {
+    if (!table->Layout()) continue;
+    const RecordLayout& layout = *table->Layout();
+    const ByteSpan bytes = table->RecordBytes();
+    for (std::size_t at = 0; at < bytes.size(); at += static_cast<std::size_t>(layout.Size))
+      for (const Field& field : layout.Fields)
+        for (int i = 0; i < field.Count && field.To == to; ++i)
+          if (FieldNumber(field, bytes.data() + at, i) == uid)
+            places += std::string(layout.File) + " " + FieldName(field, i) + "\n";
+  }
+  return places;
+}
+
+TEST(Retirement, LeavesNoLinkBehind) {
+  World world =
+      SmallWorld()
+          .Network("Nine")
+          .Promotion("NEW")
+          .Show("Monday Mire", "Monday", "Nine")
+          .Promotion("CWA")
+          .Crew(4)
+          .Worker("Sol Varga", kMainEvent, 80, [](Worker& worker) { worker.RetiringSoon = true; })
+          .Worker("Client", [](Worker& worker) { worker.Position = kJobber; })
+          .Team("The Hands", "CWA Hand 1", "CWA Hand 2")
+          .Team("Sol and One", "Sol Varga", "CWA Hand 1")
+          .Team("Two and Sol", "CWA Hand 2", "Sol Varga")
+          .Stable("The Firm", {"Sol Varga", "CWA Hand 3"})
+          .Title("CWA Crown", "Sol Varga")
+          .Title("CWA Pair", "CWA Hand 1", "Sol Varga")
+          .Title("CWA Cup", "CWA Hand 3")
+          .Show("Friday Fire", "Friday", "Nine")
+          .Game("CWA")
+          .Feud("CWA Hand 1", "Sol Varga")
+          .Feud("CWA Hand 2", "CWA Hand 3");
+  const int uid = Sol(world).Uid;
+  const int record = world.Workers().NumberOf(Sol(world));
+  for (Title& title : world.Titles()) title.Image = 50;
+  for (Show& show : world.Shows()) {
+    show.Colour = uid;
+    show.ColourIsWorker = true;
+    show.Announcer = 0;
+  }
+  world.Player().Commissioner = uid;
+  world.Player().HeadTrainer = uid;  // a member of staff who has the same number
+  Named(world.Workers(), "Client").Manager = uid;
+  AddToShortlist(world, uid);
+  for (const int type : {4, 6}) {
+    Incident incident;
+    incident.Type = type;
+    incident.Uid = uid;
+    world.Incidents().Append(incident);
+  }
+  for (const int with : {uid, 1}) {
+    Segment segment = EmptySegment();
+    segment.Kind = kMatch;
+    segment.Style = kSingles;
+    segment.Worker[0] = 2;
+    segment.Worker[1] = with;
+    world.Segments().Append(segment);
+  }
+  ScriptDraws(world, Rookie(false));
+  AgeAndRetire(world);
+  EXPECT_EQ(Mentions(world, Refers::Worker, uid), "");
+  EXPECT_EQ(Mentions(world, Refers::Commentator, uid), "");
+  EXPECT_EQ(world.Player().HeadTrainer, uid);
+  ASSERT_EQ(world.Teams().Count(), 1);
+  EXPECT_EQ(world.Teams()[1].Name.View(), "The Hands");
+  EXPECT_EQ(world.Titles()[1].Image, 45);
+  EXPECT_EQ(world.Titles()[1].Reigns[0].Holder.View(), "Vacant");
+  EXPECT_EQ(world.Titles()[1].Reigns[1].Holder.View(), "Sol Varga");
+  EXPECT_EQ(Day(world.Titles()[1].Reigns[1].Lost), kGameStart);
+  EXPECT_EQ(world.Titles()[2].Holder, 0);
+  EXPECT_EQ(world.Titles()[3].Image, 50);
+  EXPECT_EQ(world.Feuds()[1].Worker1, 0);
+  EXPECT_NE(world.Feuds()[2].Worker1, 0);
+  EXPECT_EQ(world.Incidents()[1].Type, 0);
+  EXPECT_EQ(world.Incidents()[2].Type, 6) << "a job offer names a promotion";
+  EXPECT_EQ(world.Segments()[1].Kind, kEmptySegment);
+  EXPECT_EQ(world.Segments()[2].Kind, kMatch);
+  EXPECT_EQ(world.Workers()[record].Name.Str(),
+            std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[0]));
+}
+
+TEST(Retirement, DrawsAgainForANameThatIsTaken) {
+  const std::string first = std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[0]);
+  World world = With("", [](Worker& worker) {
+    worker.BirthMonth = 6;
+    worker.RetiringSoon = true;
+  });
+  Sol(world).Name = first;  // his own is not free yet
+  Script draws = Rookie(false);
+  draws.insert(draws.begin(), {{300, 1}, {303, 1}});
+  draws[2] = {300, 2};
+  ScriptDraws(world, draws);
+  AgeAndRetire(world);
+  EXPECT_EQ(world.Workers()[1].Name.Str(),
+            std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[1]));
+}
+
+/// "Pen Ward" of the age, whose birthday it is.
+World WithStaff(std::string_view employer, int position, int age, int option = 0) {
+  SmallWorld small;
+  small.Promotion("NEW", kBackyard).Promotion("CWA");
+  if (employer == "NEW") small = SmallWorld(), small.Promotion("CWA").Promotion("NEW", kBackyard);
+  if (employer.empty()) small.OnTheMarket();
+  World world =
+      small
+          .Staff("Pen Ward", position, 50,
+                 [&](Staff& staff) {
+                   staff.BirthMonth = kFebruary;
+                   staff.Age = age;
+                 })
+          .Game("CWA", kGameStart, [&](GameInfo& game) { game.MailStaffRetire = option; });
+  world.Session.StartSize = world.Player().Size;
+  return world;
+}
+
+/// Name, age, talent, wage of an Owner, backstage, birthday, booker, morale, loyalty.
+Script Newcomer(int position) {
+  Script script{{300, 1}, {192, 162}, {35, 5}, {100, 60}};
+  if (position == kOwner) script.push_back({6, 3});
+  return Then(script,
+              {{65, 10}, {12, 11}, {position == kAnnouncer ? 5 : 35, 1}, {40, 40}, {30, 1}});
+}
+
+TEST(StaffRetirement, IsDrawnByAgeAndAtOnce) {
+  struct Case {
+    int AgeBefore;
+    Script Draws;
+    bool Retires;
+  };
+  const Case kCases[] = {{48, {}, false},       {49, {{10, 1}}, true}, {49, {{10, 2}}, false},
+                         {58, {{10, 1}}, true}, {59, {{3, 1}}, true},  {64, {{3, 3}}, false},
+                         {65, {{2, 1}}, true},  {72, {{2, 2}}, false}, {73, {}, true},
+                         {90, {}, true}};
+  for (const Case& c : kCases) {
+    SCOPED_TRACE(c.AgeBefore);
+    World world = WithStaff("CWA", kMedical, c.AgeBefore, 2);
+    const int uid = world.AllStaff()[1].Uid;
+    ScriptDraws(world, c.Retires ? Then(c.Draws, Newcomer(kMedical)) : c.Draws);
+    AgeAndRetire(world);
+    const Staff& there = world.AllStaff()[1];
+    EXPECT_EQ(world.AllStaff().Count(), 1);
+    EXPECT_EQ(there.Uid, c.Retires ? uid + 1 : uid);
+    EXPECT_EQ(there.Age, c.Retires ? 30 : c.AgeBefore + 1);
+    EXPECT_EQ(NewsOf(world),
+              c.Retires ? "Retirement!: Staff member Pen Ward has retired from CWA!\n" : "");
+  }
+}
+
+TEST(StaffRetirement, IsToldByTheOption) {
+  struct Case {
+    const char* Employer;
+    int Option;
+    const char* News;
+  };
+  constexpr Case kCases[] = {
+      {"", 0, "Retirement!: Staff member Pen Ward has retired!\n"},
+      {"", 1, ""},
+      {"", 2, ""},
+      {"NEW", 0, "Retirement!: Staff member Pen Ward has retired from NEW!\n"},
+      {"NEW", 1, ""},
+      {"NEW", 2, ""}};
+  for (const Case& c : kCases) {
+    World world = WithStaff(c.Employer, kMedical, 80, c.Option);
+    ScriptDraws(world, Newcomer(kMedical));
+    AgeAndRetire(world);
+    EXPECT_EQ(NewsOf(world), c.News) << c.Employer << c.Option;
+  }
+}
+
+TEST(StaffRetirement, PutsSomebodyNewForThePostIntoTheRecord) {
+  for (const int position : {int(kOwner), int(kAnnouncer), int(kTrainer)}) {
+    SCOPED_TRACE(position);
+    World world = WithStaff("CWA", position, 80);
+    const int uid = world.AllStaff()[1].Uid;
+    world.Player().HeadTrainer = uid;
+    world.Player().DevBooker = uid;
+    Show show;
+    show.Name = "Friday Fire";
+    show.Announcer = uid;
+    show.Colour = uid;
+    for (const char* owner : {"CWA", "NEW"}) {
+      show.Owner = Named(world.Promotions(), owner).Uid;
+      world.Shows().Append(show);
+    }
+    show.ColourIsWorker = true;
+    show.Announcer = 0;
+    world.Shows().Append(show);
+    ScriptDraws(world, Newcomer(position));
+    AgeAndRetire(world);
+    const Staff& fresh = world.AllStaff()[1];
+    EXPECT_EQ(fresh.Name.Str(), std::string(StaffFirstNames[161]) + " " + std::string(Surnames[0]));
+    EXPECT_FALSE(fresh.Gender);
+    EXPECT_EQ(fresh.Position, position);
+    EXPECT_EQ(fresh.Employer, 0);
+    EXPECT_EQ(fresh.ContractMonths, position == kOwner ? int(kNoEnd) : 0);
+    EXPECT_EQ(fresh.Wage, position == kOwner ? 3 : 13);
+    EXPECT_EQ(fresh.BirthMonth, 11);
+    EXPECT_TRUE(fresh.Booker);
+    EXPECT_EQ(fresh.Morale, 100);
+    EXPECT_EQ(fresh.Loyalty, 71);
+    EXPECT_FALSE(fresh.Unsackable);
+    EXPECT_EQ(Mentions(world, Refers::Staff, uid), "");
+    EXPECT_EQ(Mentions(world, Refers::Commentator, uid), "tv.dat Colour\n")
+        << "a worker of the same number speaks on";
+  }
+}
+
+TEST(Retirement, NeedsNoRoomInFilesThatAreFull) {
+  World world = SmallWorld().Promotion("CWA").Game("CWA");
+  Worker worker;
+  Staff staff;
+  for (int uid = 1; !world.Workers().Full(); ++uid) {
+    worker.Uid = uid;
+    worker.Name = "Worker " + std::to_string(uid);
+    worker.RetiringSoon = uid % 500 == 0;
+    worker.BirthMonth = 6;
+    worker.Status = "Nor";
+    world.Workers().Append(worker);
+  }
+  for (int uid = 1; !world.AllStaff().Full(); ++uid) {
+    staff.Uid = uid;
+    staff.Name = "Staff " + std::to_string(uid);
+    staff.BirthMonth = uid % 500 == 0 ? kFebruary : 6;
+    staff.Age = 80;
+    staff.Position = kMedical;
+    world.AllStaff().Append(staff);
+  }
+  AgeAndRetire(world);
+  std::set<int> uids;
+  std::set<std::string> names;
+  for (const Worker& w : world.Workers()) {
+    uids.insert(w.Uid);
+    names.insert(w.Name.Str());
+  }
+  EXPECT_EQ(world.Workers().Count(), 25000);
+  EXPECT_EQ(world.AllStaff().Count(), 10000);
+  EXPECT_EQ(uids.size(), 25000u);
+  EXPECT_EQ(names.size(), 25000u);
+  EXPECT_EQ(*uids.rbegin(), 25050);
+  EXPECT_EQ(NextStaffUid(world), 10021);
+}
+
+}  // namespace
+}  // namespace grapplemont::test
