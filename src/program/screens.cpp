@@ -6,6 +6,7 @@
 #include "business/tvscreens.h"
 #include "calendar/calendarscreens.h"
 #include "info/infoscreens.h"
+#include "rivals/rivalscreens.h"
 #include "roster/rosterscreens.h"
 #include "session/sessionscreens.h"
 #include "show/showscreens.h"
@@ -21,6 +22,7 @@ void RegisterScreens(Game& game) {
   RegisterTvScreens(game);
   RegisterShowScreens(game);
   RegisterBookingScreens(game);
+  RegisterRivalScreens(game);
   RegisterCalendarScreens(game);
   RegisterInfoScreens(game);
   RegisterSessionScreens(game);

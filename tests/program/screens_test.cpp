@@ -53,7 +53,8 @@ constexpr const char* kInGame[] = {
     "frmOtherWres",  "frmShortlist", "frmUser",       "frmFinance",  "frmTicket",
     "frmCharity",    "frmLoan",      "frmWages",      "frmFedProd",  "frmFedSponsor",
     "frmTelevision", "frmPromoTape", "frmTvOffer",    "frmTVRank",   "frmViewNetworks",
-    "frmViewShows",  "frmFed",       "frmFedValue"};
+    "frmViewShows",  "frmFed",       "frmFedValue",   "frmOtherFed", "frmTheEnd",
+    "frmPinky"};
 constexpr const char* kBeforeGame[] = {"frmTitleScreen", "frmDisclaimer",  "frmGameMenu",
                                        "frmCredits",     "frmCreditsXtra", "frmNewGame",
                                        "frmLoadGame",    "frmWait",        "frmLoadingScreens"};
