@@ -8,7 +8,9 @@
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "rivals/endstories.h"
 #include "show/holdshow.h"
+#include "storylines/screenpeople.h"
 #include "ui/acts.h"
 #include "ui/waiting.h"
 
@@ -136,6 +138,8 @@ class frmMainScreen : public ui::Screen {
     lblimage.Tip = "The arrow compares it with the last month end.";
     lblmoney.Text = Dollars(player.Money);
     lblmoney.Colour = player.Money < 0 ? ui::Tone::Red : ui::Tone::Plain;
+    for (ui::Button* button : {&cmdnext, &cmduntil})
+      EnableUnless(*button, HasEnded(world()) ? "Your career has ended." : "");
   }
 
   void ShowMail() {
@@ -179,9 +183,16 @@ class frmMainScreen : public ui::Screen {
     if (ShowUnderWay(world()))
       return OpenIfKnown(ShowIsClosed(world()) ? "frmPostShow" : "frmMatchOutput");
     const int endCode = world().Game().EndCode;
-    if (endCode >= 1 && endCode <= 9) return OpenIfKnown("frmTheEnd");
+    if (HasEnded(world())) return TellTheEnd();
     if (endCode == 100) return OpenIfKnown("frmPinky");
     if (endCode == 0 && HasIncident()) OpenIfKnown("frmIncident");
+  }
+
+  /// Once is enough: afterwards the player reads the world as he left it.
+  void TellTheEnd() {
+    if (endIsTold_) return;
+    endIsTold_ = true;
+    OpenIfKnown("frmTheEnd");
   }
 
   void OpenIfKnown(const char* screen) {
@@ -245,6 +256,7 @@ class frmMainScreen : public ui::Screen {
 
   using K = ui::ColumnKind;
   Game& game_;
+  bool endIsTold_ = false;
   ui::Label txtdate{*this, "txtdate"};
   ui::Label lblpromotion{*this, "lblpromotion"};
   ui::Label lblimage{*this, "lblimage"};

@@ -8,6 +8,7 @@
 #include "calendar/showconsequences.h"
 #include "records/dates.h"
 #include "records/modVar.h"
+#include "rivals/rivals.h"
 #include "show/showresults.h"
 
 namespace grapplemont {
@@ -89,7 +90,7 @@ void RivalTv(World& world, Promotion& rival) {
 
 void RivalShows(World& world) {
   for (Promotion& rival : world.Promotions()) {
-    if (rival.Uid == world.PlayerUid()) continue;
+    if (!IsRival(world, rival)) continue;
     if (IsEventDay(world.Today()))
       RivalEvent(world, rival);
     else if (HasTvToday(world, rival.Uid))

@@ -5,6 +5,7 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
+#include "rivals/rivals.h"
 #include "roster/release.h"
 
 namespace grapplemont {
@@ -46,17 +47,7 @@ void LeaveRival(World& world, Worker& worker) {
                 ShouldTell(world, world.Game().MailWorkerFire, rival->Size)))
     AddNews(world, rival->Initials + " News",
             worker.Name + " has left " + rival->Initials.Str() + ".");
-  EndPosting(worker);
-  worker.Employer = 0;
-  if (worker.Status == "Hom") {
-    worker.Status = "Nor";
-    worker.Morale = 80;
-  }
-  worker.ContractMonths = 0;
-  worker.ContractType = "Non";
-  worker.Stable = "None";
-  worker.Manager = 0;
-  worker.TurnPending = false;
+  PartWays(world, worker);
 }
 
 void PayStaffWage(World& world, const Staff& staff) {
@@ -80,8 +71,7 @@ void LeaveRivalsStaff(World& world, Staff& staff) {
   if (rival && ShouldTell(world, world.Game().MailStaffFire, rival->Size))
     AddNews(world, rival->Initials + " News",
             staff.Name + " has left the staff of " + rival->Initials.Str() + ".");
-  staff.Employer = 0;
-  staff.ContractMonths = 0;
+  SeverStaff(world, staff);
 }
 
 void PayWorkers(World& world) {

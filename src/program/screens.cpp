@@ -6,6 +6,7 @@
 #include "business/tvscreens.h"
 #include "calendar/calendarscreens.h"
 #include "info/infoscreens.h"
+#include "rivals/rivalscreens.h"
 #include "roster/contractscreens.h"
 #include "roster/rosterscreens.h"
 #include "session/sessionscreens.h"
@@ -23,6 +24,7 @@ void RegisterScreens(Game& game) {
   RegisterTvScreens(game);
   RegisterShowScreens(game);
   RegisterBookingScreens(game);
+  RegisterRivalScreens(game);
   RegisterCalendarScreens(game);
   RegisterInfoScreens(game);
   RegisterSessionScreens(game);

@@ -5,6 +5,7 @@
 #include "records/dates.h"
 #include "records/slotfolder.h"
 #include "records/world.h"
+#include "rivals/endstories.h"
 
 namespace grapplemont {
 
@@ -35,7 +36,8 @@ SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
   if (!(game.Version == kVersion)) return OtherFormat();
   return {game.SaveName.Str(),
           "( " + std::string(Says(kDifficulties, game.Difficulty)) + " level, started " +
-              MonthYear(game.StartDate) + ", current date " + MonthYear(game.Today) + ")",
+              MonthYear(game.StartDate) + ", current date " + MonthYear(game.Today) + ")" +
+              (HasEnded(game) ? " The career has ended." : ""),
           false, true};
 } catch (const DiskError& fault) {
   return Unreadable(fault.what());

@@ -6,6 +6,10 @@
 #include "calendar/incidents.h"
 #include "records/world.h"
 #include "report/linememory.h"
+#include "rivals/challenge.h"
+#include "rivals/endstories.h"
+#include "rivals/rivals.h"
+#include "tools/officework.h"
 
 namespace grapplemont::tools {
 
@@ -32,14 +36,32 @@ void IgnoreIncidents(World& world) {
   while (FirstIncident(world)) CloseIncident(world);
 }
 
+/// Whoever waits to challenge him is heard out.
+void MeetWhoWaits(World& world) {
+  if (world.Game().EndCode == kStrangerWaits) MeetStranger(world);
+}
+
+/// A rival no bigger than the promotion that was left has a chair for him; false where none is.
+bool TakeAnotherJob(World& world) {
+  std::vector<const Promotion*> offers;
+  for (const Promotion& promotion : world.Promotions())
+    if (IsRival(world, promotion) && promotion.Size >= world.Player().Size)
+      offers.push_back(&promotion);
+  if (offers.empty()) return false;
+  const int drawn = world.RandomDraw(static_cast<int>(offers.size()));
+  ChangeJob(world, *offers[static_cast<std::size_t>(drawn - 1)]);
+  world.Game().EndCode = 0;
+  return true;
+}
+
 }  // namespace
 
 int EndCodeOf(const World& world) {
-  const int code = world.Game().EndCode;
-  return code >= 1 && code <= 9 ? code : 0;
+  return HasEnded(world) ? int(world.Game().EndCode) : 0;
 }
 
 void PlayDay(World& world, Shows shows) {
+  MeetWhoWaits(world);
   world.Session.ShowRating = 0;
   world.Session.ShowFlag = 0;
   const DayKind kind = DayKindToday(world, [] { return true; });
@@ -47,17 +69,22 @@ void PlayDay(World& world, Shows shows) {
   const bool cancelled = isShow && !FinishTodays(world) && !HoldTodays(world, kind, shows);
   AdvanceDay(world, cancelled);
   IgnoreIncidents(world);
+  if (shows == Shows::Auto && !HasEnded(world)) WorkInTheOffice(world);
 }
 
-CareerEnd PlayDays(Game& game, int days, Shows shows,
-                   const std::function<void(int day)>& dayPassed) {
+CareerEnd PlayDays(Game& game, int days, Shows shows, const std::function<void(int day)>& dayPassed,
+                   AfterTheEnd after) {
+  World& world = game.World();
   CareerEnd end;
-  end.EndCode = EndCodeOf(game.World());
+  end.EndCode = EndCodeOf(world);
   while (end.Days < days && end.EndCode == 0) {
-    PlayDay(game.World(), shows);
-    game.Commit();
+    PlayDay(world, shows);
     ++end.Days;
-    end.EndCode = EndCodeOf(game.World());
+    end.EndCode = EndCodeOf(world);
+    if (end.EndCode != 0) end.Reasons.push_back(end.EndCode);
+    if (end.EndCode != 0 && after == AfterTheEnd::AnotherJob && TakeAnotherJob(world))
+      end.EndCode = 0;
+    game.Commit();
     dayPassed(end.Days);
   }
   return end;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "ui/game.h"
 
@@ -21,17 +22,22 @@ class EmptyDesk : public ui::Desk {
 
 /// How far a career went.
 struct CareerEnd {
-  int Days = 0;     // that passed
-  int EndCode = 0;  // 1 to 9: why it is over; 0: it goes on
+  int Days = 0;              // that passed
+  int EndCode = 0;           // 1 to 9: why it is over; 0: it goes on
+  std::vector<int> Reasons;  // the EndCode of each end on the way
 };
 
 /// 1 to 9: why the career is over; 0: it goes on.
 int EndCodeOf(const World& world);
 /// The day as "Next Day" would take it. Nothing is committed.
 void PlayDay(World& world, Shows shows);
+
+/// Whether whoever is dismissed looks for another job in the same world.
+enum class AfterTheEnd { Stop, AnotherJob };
+
 /// Plays so many days of the open game, a commit each; a day is over when the next one's routines
 /// are. `dayPassed` hears of each.
-CareerEnd PlayDays(Game& game, int days, Shows shows,
-                   const std::function<void(int day)>& dayPassed);
+CareerEnd PlayDays(Game& game, int days, Shows shows, const std::function<void(int day)>& dayPassed,
+                   AfterTheEnd after = AfterTheEnd::Stop);
 
 }  // namespace grapplemont::tools

@@ -143,7 +143,16 @@ class Watcher {
   std::optional<StatsFile> stats_;
 };
 
+/// "3, 2": why he has lost his jobs, in their order.
+std::string Reasons(const CareerEnd& end) {
+  std::string list;
+  for (const int reason : end.Reasons) list += (list.empty() ? "" : ", ") + std::to_string(reason);
+  return list;
+}
+
 void TellEnd(const World& world, const CareerEnd& end, std::ostream& out) {
+  if (end.EndCode == 0 && !end.Reasons.empty())
+    out << "Dismissed on the way (reason " << Reasons(end) << ").\n";
   const std::string days = std::to_string(end.Days) + (end.Days == 1 ? " day" : " days");
   if (end.EndCode == 0)
     out << "After " << days << " it is " << LongDate(world.Today()) << ".\n";
@@ -156,6 +165,7 @@ int Run(const Arguments& arguments, Shell& shell) {
   const int slot = SlotOf(arguments);
   const int days = static_cast<int>(*arguments.Number("--days", 0, kMostDays));
   const Shows shows = ShowsOf(arguments);
+  const auto after = arguments.Has("--go-on") ? AfterTheEnd::AnotherJob : AfterTheEnd::Stop;
   const auto disk = RealDisk(arguments.Has("--no-sync") ? Syncs::None : Syncs::Real);
   EmptyDesk desk;
   Game game(desk, *disk, GameOptions(arguments, *disk, shell));
@@ -165,7 +175,8 @@ int Run(const Arguments& arguments, Shell& shell) {
   if (const auto stats = arguments.Text("--stats")) watcher.WriteTo(*stats);
   CareerEnd end;
   try {
-    end = PlayDays(game, days, shows, [&](int day) { watcher.DayPassed(day); });
+    end = PlayDays(
+        game, days, shows, [&](int day) { watcher.DayPassed(day); }, after);
   } catch (const FieldOverflow& fault) {
     watcher.Done();
     throw WorldFault(IsoDate(game.World().Today()) + ": " + game.Explain(fault));
@@ -183,10 +194,14 @@ constexpr OptionKind kNewOptions[] = {{"--home", "H"},
                                       {"--difficulty", "1..4"},
                                       {"--start", "YYYY-MM-DD"},
                                       {"--seed", "S"}};
-constexpr OptionKind kRunOptions[] = {
-    {"--home", "H"},    {"--slot", "N", true},      {"--days", "D", true},
-    {"--seed", "S"},    {"--shows", "auto|cancel"}, {"--no-sync", ""},
-    {"--stats", "FILE"}};
+constexpr OptionKind kRunOptions[] = {{"--home", "H"},
+                                      {"--slot", "N", true},
+                                      {"--days", "D", true},
+                                      {"--seed", "S"},
+                                      {"--shows", "auto|cancel"},
+                                      {"--no-sync", ""},
+                                      {"--stats", "FILE"},
+                                      {"--go-on", ""}};
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include "tools/monthstats.h"
 
+#include <algorithm>
 #include <cmath>
 #include <nlohmann/json.hpp>
 
@@ -11,6 +12,12 @@ namespace grapplemont::tools {
 namespace {
 
 using Json = nlohmann::ordered_json;
+
+/// The first of the month before.
+Day MonthBefore(Day day) {
+  const std::chrono::year_month_day date{day};
+  return Day{(date.year() / date.month() - std::chrono::months{1}) / 1};
+}
 
 void Increase(Json& count) {
   count = count.get<int>() + 1;
@@ -40,6 +47,24 @@ Json WorkerCounts(const World& world) {
   return counts;
 }
 
+int ShowsOnAir(const World& world) {
+  return static_cast<int>(std::count_if(world.Shows().begin(), world.Shows().end(),
+                                        [](auto& show) { return show.Owner > 0; }));
+}
+
+/// Titles of living promotions, and how many reigns have begun since the day; a vacancy is none.
+Json TitleCounts(const World& world, Day since) {
+  int all = 0, held = 0, won = 0;
+  for (const Title& title : world.Titles()) {
+    if (title.Owner <= 0) continue;
+    ++all;
+    held += title.Holder != 0;
+    for (const Reign& reign : title.Reigns)
+      won += Day(reign.Won) >= since && !(reign.Holder == "Vacant");
+  }
+  return {{"all", all}, {"held", held}, {"won", won}};
+}
+
 Json PlayerState(const World& world) {
   const Promotion* promotion = world.FindPromotion(world.PlayerUid());
   if (!promotion) return {};
@@ -53,9 +78,14 @@ Json PlayerState(const World& world) {
 }  // namespace
 
 std::string MonthSummary(const World& world) {
-  return Json{{"date", IsoDate(world.Today())},        {"economy", int(world.Game().Economy)},
-              {"promotions", PromotionsBySize(world)}, {"workers", WorkerCounts(world)},
-              {"player", PlayerState(world)},          {"mails", world.News().Count()}}
+  return Json{{"date", IsoDate(world.Today())},
+              {"economy", int(world.Game().Economy)},
+              {"promotions", PromotionsBySize(world)},
+              {"workers", WorkerCounts(world)},
+              {"shows", ShowsOnAir(world)},
+              {"titles", TitleCounts(world, MonthBefore(world.Today()))},
+              {"player", PlayerState(world)},
+              {"mails", world.News().Count()}}
       .dump();
 }
 

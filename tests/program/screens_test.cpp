@@ -54,7 +54,7 @@ constexpr const char* kInGame[] = {
     "frmFinance",    "frmTicket",       "frmCharity",    "frmLoan",      "frmWages",
     "frmFedProd",    "frmFedSponsor",   "frmTelevision", "frmPromoTape", "frmTvOffer",
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
-    "frmBelts",      "frmEvent"};
+    "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky"};
 constexpr const char* kBeforeGame[] = {"frmTitleScreen", "frmDisclaimer",  "frmGameMenu",
                                        "frmCredits",     "frmCreditsXtra", "frmNewGame",
                                        "frmLoadGame",    "frmWait",        "frmLoadingScreens"};

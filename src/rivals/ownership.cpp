@@ -1,0 +1,125 @@
+#include "rivals/ownership.h"
+
+#include <iterator>
+
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "rivals/rivals.h"
+#include "rivals/rivalsteps.h"
+#include "rivals/taste.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kDaysBetweenOwners = 14;
+constexpr int kAnybody = -1;
+constexpr int kNever = 0;
+
+/// An owner of more talent than Above, and of no more than the row before it, comes on a 1 of a
+/// draw of so many.
+struct TalentBand {
+  int Above;
+  int In;
+};
+using TalentBands = std::array<TalentBand, 3>;
+// By size, Global to Backyard: those too good for a small one stay away as those do whom a big one
+// would not have.
+constexpr std::array<TalentBands, 6> kBands = {{
+    {{{75, 2}, {kAnybody, kNever}, {kAnybody, kNever}}},
+    {{{85, 3}, {50, 2}, {kAnybody, kNever}}},
+    {{{85, 4}, {40, 2}, {kAnybody, kNever}}},
+    {{{75, kNever}, {40, 2}, {15, 3}}},
+    {{{65, kNever}, {30, 3}, {kAnybody, 2}}},
+    {{{45, kNever}, {15, 3}, {kAnybody, 2}}},
+}};
+
+bool Takes(World& world, int size, int talent) {
+  for (const TalentBand& band : BySize(kBands, size))
+    if (talent > band.Above) return band.In != kNever && world.RandomDraw(band.In) == 1;
+  return false;
+}
+
+bool HasOwner(const World& world, int promotionUid) {
+  return OwnerOf(world, promotionUid) != nullptr;
+}
+
+Staff* FindOwnerFor(World& world, int size) {
+  for (Staff& staff : world.AllStaff())
+    if (staff.Employer == 0 && staff.Position == kOwner && Takes(world, size, staff.Talent))
+      return &staff;
+  return nullptr;
+}
+
+/// Owners whom people know by the way they talk.
+struct OwnVoice {
+  const char* Owner;
+  const char* Words;
+};
+constexpr OwnVoice kOwnVoices[] = {
+    {"Dalton Reeve",
+     "Well slap my back and call me Sally, if ol' Dalton ain't runnin' this rodeo now! You keep "
+     "them fans hollerin', and we'll be dinin' like kings, if you weeeel!"},
+    {"Baron Felix Moneybags",
+     "One has bought the place. One has not quite read what it does. Do carry on, and kindly see "
+     "that it makes more of the stuff in the vault."},
+    {"Tammy Lottowinner",
+     "OH MY GOD I own a wrestling company!!! My numbers were my cats' birthdays! Please don't let "
+     "me "
+     "break anything!"},
+    {"Carl From The Bank",
+     "For the avoidance of doubt: this is no longer a debt, it is an asset. Please keep all "
+     "receipts. Carl."},
+    {"Gus Hubcap",
+     "I've sold used cars for thirty years. Same business, bigger trousers. Shift the stock and we "
+     "won't have a problem."},
+    {"Tyler Huckstep",
+     "sup. i run this now. can we do one where they all jump off the garage? mum says i have to be "
+     "home by ten."},
+};
+
+// By the owner's style.
+constexpr const char* kWelcomes[] = {
+    "I own this company now, and I like my wrestling with fists in it. Give me fighters.",
+    "The company is mine as of today. I want holds, counter-holds and people who know why.",
+    "I have bought us. Surprise me with a good show every week and we will get along.",
+    "New management, new heights. I mean it: I want to see people fly.",
+    "I'm your new boss. I want faces that people put on their walls, and the women get their due.",
+    "I have taken over, and I am building for ten years. Show me the young ones.",
+};
+
+void TakeOver(World& world, const Promotion& promotion, Staff& owner) {
+  owner.Employer = promotion.Uid;
+  owner.ContractMonths = kNoEnd;
+  if (promotion.Uid == world.PlayerUid()) {
+    AddNews(world, owner.Name, OwnersWelcome(world, owner));
+  } else if (ShouldTell(world, world.Game().MailOwners, promotion.Size)) {
+    AddNews(world, "News Desk",
+            owner.Name + " has taken over control of " + promotion.Name.Str() + "!");
+  }
+}
+
+}  // namespace
+
+std::string WhoDecides(const World& world, const Promotion& promotion) {
+  const Staff* owner = OwnerOf(world, promotion.Uid);
+  return owner ? promotion.Initials + " owner " + owner->Name.Str()
+               : "The " + promotion.Initials.Str() + " board ";
+}
+
+std::string OwnersWelcome(const World& world, const Staff& owner) {
+  for (const OwnVoice& voice : kOwnVoices)
+    if (owner.Name == voice.Owner) return voice.Words;
+  return kWelcomes[static_cast<std::size_t>(TasteOf(world, owner.Employer) - 1)];
+}
+
+void OwnerlessPromotions(World& world) {
+  for (const Promotion& promotion : world.Promotions()) {
+    if (!IsAlive(promotion) || HasOwner(world, promotion.Uid) ||
+        world.RandomDraw(kDaysBetweenOwners) != 1)
+      continue;
+    if (Staff* owner = FindOwnerFor(world, promotion.Size)) TakeOver(world, promotion, *owner);
+  }
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,52 @@
+#include "rivals/rivals.h"
+
+#include "records/modVar.h"
+#include "records/severing.h"
+
+namespace grapplemont {
+
+bool IsAlive(const Promotion& promotion) {
+  return !(promotion.Name == kToBeDeleted);
+}
+
+bool IsRival(const World& world, const Promotion& promotion) {
+  return promotion.Uid != world.PlayerUid() && IsAlive(promotion);
+}
+
+void TellOf(World& world, int option, const Promotion& rival, const std::string& body) {
+  if (ShouldTell(world, option, rival.Size)) AddNews(world, rival.Initials + " News", body);
+}
+
+bool IsOnMainRoster(const Worker& worker) {
+  return IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
+}
+
+Rosters::Rosters(const World& world) {
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer != 0 && IsOnMainRoster(worker)) ++counts_[worker.Employer];
+}
+
+int Rosters::Of(int promotionUid) const {
+  const auto found = counts_.find(promotionUid);
+  return found == counts_.end() ? 0 : found->second;
+}
+
+void Rosters::Move(const Worker& worker, int fromUid, int toUid) {
+  if (!IsOnMainRoster(worker)) return;
+  if (fromUid != 0) --counts_[fromUid];
+  if (toUid != 0) ++counts_[toUid];
+}
+
+int ContractMonthsAt(int size) {
+  return size > kRegional ? 6 : size >= kCult ? 12 : 24;
+}
+
+void PartWays(World& world, Worker& worker) {
+  if (worker.Uid != 0)
+    for (Worker& client : world.Workers())
+      if (client.Manager == worker.Uid) client.Manager = 0;
+  SeverWorker(world, worker);
+  worker.Split = "None";
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,34 @@
+#include "business/sponsorlimits.h"
+#include "business/sponsors.h"
+#include "rivals/rivals.h"
+#include "rivals/rivalsteps.h"
+
+namespace grapplemont {
+
+namespace {
+
+Sponsor* FindSponsorFor(World& world, const Promotion& rival) {
+  const int limit = RivalSponsorPayLimit(rival.Size, rival.Image);
+  for (Sponsor& sponsor : world.Sponsors())
+    if (sponsor.Promotion == 0 && BearsRisk(sponsor, rival.Risk) && sponsor.Pay < limit)
+      return &sponsor;
+  return nullptr;
+}
+
+}  // namespace
+
+void RivalSponsorSigning(World& world) {
+  for (Promotion& rival : world.Promotions()) {
+    if (!IsRival(world, rival)) continue;
+    for (int slot = 1; slot <= static_cast<int>(rival.Sponsor.size()); ++slot) {
+      if (rival.Sponsor[static_cast<std::size_t>(slot - 1)] != 0) continue;
+      Sponsor* sponsor = FindSponsorFor(world, rival);
+      if (!sponsor) break;
+      SignSponsor(world, rival, *sponsor, slot);
+      TellOf(world, world.Game().MailSponsor, rival,
+             rival.Initials + " have signed a sponsorship deal with " + sponsor->Name.Str() + "!");
+    }
+  }
+}
+
+}  // namespace grapplemont

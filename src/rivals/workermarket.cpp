@@ -1,0 +1,131 @@
+#include "rivals/workermarket.h"
+
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "rivals/tuning.h"
+#include "roster/placement.h"
+#include "roster/shortlist.h"
+
+namespace grapplemont {
+
+namespace {
+
+struct MarketLimits {
+  int WageAtMost;  // thousands of dollars a month
+  int OverAtMost;
+  int OverAbove;
+};
+// By size, Global to Backyard.
+constexpr std::array<MarketLimits, 6> kLimits = {
+    {{300, 100, 50}, {100, 100, 50}, {80, 80, 40}, {60, 60, 20}, {30, 40, 5}, {20, 20, 0}}};
+constexpr std::array<int, 6> kWageRise = {10, 8, 6, 4, 0, 0};
+
+constexpr int kHighestWage = 300;
+constexpr int kMoodSwing = 20;
+constexpr int kSigningsInARow = 10;
+constexpr int kAboveAllScores = 102;
+
+/// The well-behaved leave only for a promotion so many classes bigger than their own and one more.
+int LoyaltyInClasses(int behaviour) {
+  return behaviour > 90 ? 2 : behaviour >= 60 ? 1 : 0;
+}
+
+}  // namespace
+
+bool IsWithinLimits(const Worker& worker, int size) {
+  const MarketLimits& limits = BySize(kLimits, size);
+  return worker.Wage <= limits.WageAtMost && worker.Over <= limits.OverAtMost &&
+         worker.Over > limits.OverAbove;
+}
+
+bool IsOpenTo(const World& world, const Worker& worker, int size) {
+  if (worker.Employer == 0) return true;
+  if (worker.ContractType == "Wri" || worker.Unsackable) return false;
+  const Promotion* employer = world.FindPromotion(worker.Employer);
+  return !employer || employer->Size - LoyaltyInClasses(worker.Behaviour) > size;
+}
+
+Worker* FindCandidate(World& world, const Promotion& rival, Taste taste) {
+  Worker* best = nullptr;
+  int bestScore = 0;
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer == rival.Uid || world.RandomDraw(10) != 1 ||
+        !IsWithinLimits(worker, rival.Size) || !IsOpenTo(world, worker, rival.Size))
+      continue;
+    const int score = WorkerScore(worker, taste);
+    if (best && score <= bestScore) continue;
+    best = &worker;
+    bestScore = score;
+  }
+  return best;
+}
+
+void SignFor(World& world, const Promotion& rival, Worker& worker) {
+  const bool isFree = worker.Employer == 0;
+  TellOf(world, world.Game().MailWorkerHire, rival,
+         rival.Initials + (isFree ? " have signed " : " have stolen ") + worker.Name.Str() +
+             (isFree ? "" : " from " + PromotionInitials(world, worker.Employer)) + "!");
+  PartWays(world, worker);
+  worker.Employer = rival.Uid;
+  worker.Position = PlacementPosition(worker, rival.Size);
+  worker.Debuted = true;
+  worker.ContractMonths = ContractMonthsAt(rival.Size);
+  worker.ContractType = rival.Size < kRegional ? "Wri" : "Non";
+  worker.Morale += kMoodSwing;
+  worker.Wage = std::min(worker.Wage + BySize(kWageRise, rival.Size), kHighestWage);
+}
+
+Worker* FindWeakest(World& world, int promotionUid, Taste taste) {
+  Worker* weakest = nullptr;
+  int lowest = kAboveAllScores;
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer != promotionUid || !IsOnMainRoster(worker)) continue;
+    const int score = RosterScore(worker, taste);
+    if (score >= lowest) continue;
+    weakest = &worker;
+    lowest = score;
+  }
+  return weakest;
+}
+
+void FireFrom(World& world, const Promotion& rival, Worker& worker) {
+  if (IsShortlisted(world, worker.Uid) ||
+      ShouldTell(world, world.Game().MailWorkerFire, rival.Size))
+    AddNews(world, rival.Initials + " News",
+            rival.Initials + (worker.ContractType == "Wri" ? " have fired " : " have released ") +
+                worker.Name.Str() + "!");
+  PartWays(world, worker);
+  worker.Debuted = true;
+  worker.Morale -= kMoodSwing;
+}
+
+bool SignOne(World& world, const Promotion& rival, Taste taste, Rosters& rosters) {
+  Worker* candidate = FindCandidate(world, rival, taste);
+  if (!candidate) return false;
+  rosters.Move(*candidate, candidate->Employer, 0);
+  SignFor(world, rival, *candidate);
+  rosters.Move(*candidate, 0, rival.Uid);
+  return true;
+}
+
+void FitRoster(World& world, const Promotion& rival, Rosters& rosters) {
+  const tuning::RosterBand& band = BySize(tuning::kRosters, rival.Size);
+  const int count = rosters.Of(rival.Uid);
+  if (count >= band.Least && count <= band.Most) return;
+  const Taste taste = TasteOf(world, rival.Uid);
+  const int signings = std::min(band.Least - count, kSigningsInARow);
+  for (int n = 0; n < signings; ++n)
+    if (!SignOne(world, rival, taste, rosters)) break;
+  for (int n = band.Most; n < count; ++n) {
+    Worker* weakest = FindWeakest(world, rival.Uid, taste);
+    if (!weakest) break;
+    rosters.Move(*weakest, rival.Uid, 0);
+    FireFrom(world, rival, *weakest);
+  }
+}
+
+int GoingRate(int size, int over) {
+  return std::max(1, BySize(tuning::kTopWage, size) * over * over / 10000);
+}
+
+}  // namespace grapplemont

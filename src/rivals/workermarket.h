@@ -1,0 +1,35 @@
+#pragma once
+
+#include "rivals/rivals.h"
+#include "rivals/taste.h"
+
+// Whom a rival may sign, whom it would fire, and how either is done.
+
+namespace grapplemont {
+
+/// The limits of a rival's size: what he asks for, how popular he is.
+bool IsWithinLimits(const Worker& worker, int size);
+/// Whether he would leave his employer for a promotion of this size; somebody free always would.
+bool IsOpenTo(const World& world, const Worker& worker, int size);
+
+/// A walk over everybody who is not with the rival, a draw of ten each: the best of those looked at
+/// that may be had; nullptr for none.
+Worker* FindCandidate(World& world, const Promotion& rival, Taste taste);
+/// He comes to the rival, from the market or from whoever employs him, and the world hears of it.
+void SignFor(World& world, const Promotion& rival, Worker& worker);
+
+/// The one of the main roster who would go first; nullptr for an empty one.
+Worker* FindWeakest(World& world, int promotionUid, Taste taste);
+/// He goes to the market, and the world hears of it.
+void FireFrom(World& world, const Promotion& rival, Worker& worker);
+
+/// Signs or fires until the main roster is within its band: at most ten signings, and none after
+/// one that fails.
+void FitRoster(World& world, const Promotion& rival, Rosters& rosters);
+/// Finds a candidate and signs him; false for none.
+bool SignOne(World& world, const Promotion& rival, Taste taste, Rosters& rosters);
+
+/// Thousands of dollars a month that a promotion of this size thinks fair for this Over.
+int GoingRate(int size, int over);
+
+}  // namespace grapplemont

@@ -1,0 +1,319 @@
+#include <gtest/gtest.h>
+
+#include "rivals/challenge.h"
+#include "rivals/faults.h"
+#include "rivals/founding.h"
+#include "rivals/newpromotionnames.h"
+#include "rivals/rivalsteps.h"
+#include "support/newsof.h"
+#include "support/scripteddraws.h"
+#include "support/smallworld.h"
+
+// New promotions, sponsors, bankruptcy.
+
+namespace grapplemont::test {
+namespace {
+
+std::string Initials(int number) {
+  return "P" + std::to_string(number);
+}
+
+/// So many promotions, the first of them the player's.
+World Crowd(int count, int size = kRegional) {
+  SmallWorld small;
+  for (int i = 1; i <= count; ++i) small.Promotion(Initials(i), size);
+  World world = small.Game("P1");
+  world.Game().MailOtherFed = 0;
+  return world;
+}
+
+TEST(NewPromotions, OpenOnATwoOfThreeOrOfFive) {
+  struct Row {
+    int Count, Of, Draw;
+    bool Opens;
+  };
+  for (const Row& row : {Row{15, 3, 2, true}, Row{15, 3, 1, false}, Row{16, 5, 2, true},
+                         Row{16, 5, 3, false}, Row{29, 5, 2, true}, Row{30, 5, 2, false}}) {
+    SCOPED_TRACE(row.Count);
+    World world = Crowd(row.Count);
+    std::vector<ScriptedDraw> draws{{row.Of, row.Draw}};
+    if (row.Opens) draws.insert(draws.end(), {{40, 1}, {5, 3}, {60, 7}, {4, 2}, {70, 9}});
+    ScriptDraws(world, draws);
+    NewPromotionCheck(world);
+    EXPECT_EQ(world.Promotions().Count(), row.Count + row.Opens);
+  }
+}
+
+TEST(NewPromotions, StartByTheirSize) {
+  struct Row {
+    int Draw, Money, Ticket, Merchandising, Production;
+  };
+  for (const Row& row :
+       {Row{1, 10000000, 40, 80, 60}, Row{2, 5000000, 30, 60, 40}, Row{3, 2000000, 20, 40, 20},
+        Row{4, 1000000, 10, 20, 10}, Row{5, 200000, 5, 0, 5}}) {
+    SCOPED_TRACE(row.Draw);
+    World world = Crowd(3);
+    ScriptDraws(world, {{3, 2}, {40, 31}, {5, row.Draw}, {60, 60}, {4, 4}, {70, 70}});
+    NewPromotionCheck(world);
+    const Promotion& opened = world.Promotions()[4];
+    EXPECT_EQ(opened.Name.Str(), "Hollyweird Grappling Company");
+    EXPECT_EQ(opened.Initials.Str(), "HGC");
+    EXPECT_EQ(opened.Uid, 4);
+    EXPECT_TRUE(opened.Active);
+    EXPECT_EQ(opened.Size, 1 + row.Draw);
+    EXPECT_EQ(opened.Money, row.Money);
+    EXPECT_EQ(opened.Image, 80);
+    EXPECT_EQ(opened.Momentum, 4);
+    EXPECT_EQ(opened.Risk, 90);
+    EXPECT_EQ(opened.TicketPrice, row.Ticket);
+    EXPECT_EQ(opened.Merchandising, row.Merchandising);
+    EXPECT_EQ(opened.Production, row.Production);
+    EXPECT_EQ(opened.CampName.Str(), "None");
+    EXPECT_EQ(opened.DevName.Str(), "None");
+    EXPECT_EQ(opened.MeetingDay.Str(), "Monday");
+    EXPECT_EQ(opened.Rank[0], StandingScore(opened));
+    EXPECT_EQ(NewsOf(world),
+              "New Promotion: A new promotion, Hollyweird Grappling Company, has opened.\n");
+    EXPECT_EQ(FaultsOf(world), "");
+  }
+}
+
+TEST(NewPromotions, DrawAgainWhileNameOrInitialsAreTaken) {
+  World world = Crowd(3);
+  world.Promotions()[2].Name = "Old School Dojo";
+  world.Promotions()[3].Initials = "LATPF";
+  ScriptDraws(world, {{3, 2}, {40, 8}, {40, 40}, {40, 39}, {5, 5}, {60, 1}, {4, 1}, {70, 1}});
+  NewPromotionCheck(world);
+  EXPECT_EQ(world.Promotions()[4].Initials.Str(), "DAVE");
+}
+
+TEST(NewPromotions, OpenUntilThereAreThirty) {
+  World world = Crowd(1);
+  world.SetChance(std::make_unique<SeededDraws>(3));
+  for (int month = 0; month < 500; ++month) NewPromotionCheck(world);
+  EXPECT_EQ(CountPromotions(world), 30);
+  EXPECT_EQ(FaultsOf(world), "") << "names and initials among it, which must be unique";
+}
+
+TEST(NewPromotions, StopWhenTheNamesHaveRunOut) {
+  World world = Crowd(20);
+  for (int i = 1; i <= 20; ++i) {
+    const auto row = static_cast<std::size_t>(i - 1);
+    world.Promotions()[i].Name = kNewPromotionNames[row].Name;
+    world.Promotions()[i].Initials = kNewPromotionNames[row + 20].Initials;
+  }
+  ScriptDraws(world, {{5, 2}});
+  NewPromotionCheck(world);
+  EXPECT_EQ(world.Promotions().Count(), 20);
+  world.Promotions()[5].Name = "Something Else";
+  ScriptDraws(world, {{5, 2}, {40, 4}, {40, 5}, {5, 5}, {60, 1}, {4, 1}, {70, 1}});
+  NewPromotionCheck(world);
+  EXPECT_EQ(world.Promotions()[21].Name.Str(), "Atlanta Gold Combat");
+}
+
+TEST(NewPromotions, LookForPeopleAtOnce) {
+  SmallWorld small;
+  small.Promotion("CWA").OnTheMarket().Worker("Free Hand", kMidcard, 30).Staff("Stripes", kReferee);
+  World world = small.Game("CWA");
+  ScriptDraws(world, {{3, 2}, {40, 1}, {5, 3}, {60, 7}, {4, 2}, {70, 9}, {10, 1}, {5, 1}});
+  NewPromotionCheck(world);
+  EXPECT_EQ(world.Workers()[1].Employer, world.Promotions()[2].Uid);
+  EXPECT_EQ(world.AllStaff()[1].Employer, world.Promotions()[2].Uid);
+  EXPECT_EQ(FaultsOf(world), "");
+}
+
+TEST(NewPromotions, FoundTwoTitlesOnceTheirRosterHasEight) {
+  for (const int count : {7, 8}) {
+    World world =
+        SmallWorld()
+            .Promotion("CWA")
+            .Promotion("NWAOSR", kBackyard, [](Promotion& p) { p.Name = "NWA: Old School Rulz"; })
+            .Crew(count)
+            .Game("CWA");
+    RosterSizeReview(world);
+    ASSERT_EQ(world.Titles().Count(), count == 8 ? 2 : 0);
+    if (count != 8) continue;
+    EXPECT_EQ(world.Titles()[1].Name.Str(), "NWA: Old Crown");
+    EXPECT_TRUE(world.Titles()[1].Singles);
+    EXPECT_EQ(world.Titles()[2].Name.Str(), "NWA: Old Tag Titles");
+    EXPECT_FALSE(world.Titles()[2].Singles);
+    EXPECT_EQ(world.Titles()[2].Reigns[0].Holder.Str(), "Vacant");
+    RosterSizeReview(world);
+    EXPECT_EQ(world.Titles().Count(), 2) << "once";
+    EXPECT_EQ(FaultsOf(world), "");
+  }
+}
+
+TEST(RivalSponsors, SignBelowTheLimitOfSizeAndImage) {
+  const int kLimits[6][2] = {{1001, 1001}, {921, 861}, {821, 701},
+                             {601, 531},   {451, 321}, {251, 101}};
+  for (int size = 1; size <= 6; ++size)
+    for (const int image : {50, 51})
+      for (const int less : {0, 1}) {
+        const int pay = kLimits[size - 1][image == 51 ? 0 : 1] - less;
+        World world = SmallWorld()
+                          .Promotion("CWA")
+                          .Promotion("XWF", size, [&](Promotion& p) { p.Image = image; })
+                          .OnTheMarket()
+                          .Sponsor("Gulp", [&](Sponsor& sponsor) { sponsor.Pay = pay; })
+                          .Game("CWA");
+        world.Game().MailSponsor = 0;
+        ScriptDraws(world, less == 0 ? std::vector<int>{} : std::vector<int>{7});
+        RivalSponsorSigning(world);
+        EXPECT_EQ(world.Promotions()[2].Sponsor[0], less == 0 ? 0 : 1) << size << " " << image;
+        EXPECT_EQ(NewsOf(world), less == 0 ? ""
+                                           : "XWF News: XWF have signed a sponsorship deal with "
+                                             "Gulp!\n");
+        EXPECT_EQ(FaultsOf(world), "");
+      }
+}
+
+TEST(RivalSponsors, BearTheRiskAndFillOnePlaceAfterTheOther) {
+  SmallWorld small;
+  small.Promotion("CWA").Promotion("XWF", kCult, [](Promotion& p) { p.Risk = 50; });
+  small.Sponsor("Second Main");
+  small.OnTheMarket().Sponsor("Prim", [](Sponsor& s) { s.Morality = 51; });
+  for (const char* name : {"One", "Two", "Three", "Four"}) small.Sponsor(name);
+  World world = small.Game("CWA");
+  world.Promotions()[2].Sponsor = {};
+  world.Promotions()[2].Sponsor[1] = world.Sponsors()[1].Uid;
+  ScriptDraws(world, {{18, 1}, {18, 2}, {18, 3}});
+  RivalSponsorSigning(world);
+  const auto uid = [&](const char* name) { return int(Named(world.Sponsors(), name).Uid); };
+  EXPECT_EQ(world.Promotions()[2].Sponsor[0], uid("One"));
+  EXPECT_EQ(world.Promotions()[2].Sponsor[1], uid("Second Main"));
+  EXPECT_EQ(world.Promotions()[2].Sponsor[2], uid("Two"));
+  EXPECT_EQ(world.Promotions()[2].Sponsor[3], uid("Three"));
+  EXPECT_EQ(world.Promotions()[1].Sponsor[0], 0) << "the player signs his own";
+  EXPECT_EQ(Named(world.Sponsors(), "Prim").Promotion, 0);
+}
+
+TEST(Bankruptcy, WarnsAndClosesAtTheLinesOfEachSize) {
+  const int kLines[6][3] = {{-19999999, -18000000, -20000000}, {-14999999, -13000000, -15000000},
+                            {-4999999, -4400000, -5000000},    {-2499999, -2300000, -2500000},
+                            {-999999, -800000, -1000000},      {-499999, -420000, -500000}};
+  for (int size = 1; size <= 6; ++size) {
+    const auto& [from, below, line] = kLines[size - 1];
+    struct Row {
+      int Money;
+      bool Warned, Closed;
+    };
+    for (const Row& row :
+         {Row{below, false, false}, Row{below - 1, true, false}, Row{from, true, false},
+          Row{from - 1, false, false}, Row{line, false, false}, Row{line - 1, false, true}}) {
+      SCOPED_TRACE(std::to_string(size) + " with " + std::to_string(row.Money));
+      World world = Crowd(2, size);
+      world.Promotions()[2].Money = row.Money;
+      BankruptcyCheck(world);
+      EXPECT_EQ(world.Promotions()[2].Name == kToBeDeleted, row.Closed);
+      EXPECT_EQ(NewsOf(world), row.Warned   ? "P2 News: P2 Wrestling have issued a bankruptcy "
+                                              "warning!\n"
+                               : row.Closed ? "P2 News: P2 Wrestling have gone bankrupt!\n"
+                                            : "");
+      EXPECT_EQ(world.Game().EndCode, 0);
+
+      World own = Crowd(2, size);
+      own.Promotions()[1].Money = row.Money;
+      BankruptcyCheck(own);
+      EXPECT_EQ(own.Game().EndCode, row.Closed ? 2 : 0);
+      EXPECT_EQ(NewsOf(own), row.Warned ? "Finance Dept.: The bank are warning that we face "
+                                          "bankruptcy if our finances fall much lower!\n"
+                                        : "");
+    }
+  }
+}
+
+/// The player has been Global at five month ends, beside whoever else.
+World AloneAtTheTop() {
+  World world = SmallWorld().Promotion("CWA", kGlobal).Promotion("XWF", kNational).Game("CWA");
+  for (Word& rank : world.Player().Rank) rank = 520;
+  return world;
+}
+
+TEST(Challenge, ComesToWhoeverHasLongBeenAloneAtTheTop) {
+  World world = AloneAtTheTop();
+  ScriptDraws(world, {{6, 2}});
+  AwaitStranger(world);
+  EXPECT_EQ(world.Game().EndCode, 0);
+  ScriptDraws(world, {{6, 1}});
+  AwaitStranger(world);
+  EXPECT_EQ(world.Game().EndCode, kStrangerWaits);
+
+  const std::pair<const char*, Change<World>> kReasons[] = {
+      {"a month end ago", [](World& w) { w.Player().Rank[4] = 499; }},
+      {"a rival was there", [](World& w) { w.Promotions()[2].Rank[3] = 505; }},
+      {"a rival is there", [](World& w) { w.Promotions()[2].Size = kGlobal; }},
+      {"the player has fallen", [](World& w) { w.Player().Size = kNational; }},
+      {"the career is over", [](World& w) { w.Game().EndCode = 2; }},
+  };
+  for (const auto& [why, change] : kReasons) {
+    World quiet = AloneAtTheTop();
+    change(quiet);
+    const int code = quiet.Game().EndCode;
+    ScriptDraws(quiet, std::vector<int>{});
+    AwaitStranger(quiet);
+    EXPECT_EQ(quiet.Game().EndCode, code) << why;
+  }
+}
+
+TEST(Challenge, FoundsARivalOfTheStrangersOwn) {
+  World world = AloneAtTheTop();
+  for (int visits = 1; visits <= 4; ++visits) {
+    world.Game().EndCode = kStrangerWaits;
+    ScriptDraws(world, visits <= 3 ? std::vector<ScriptedDraw>{{12, 4}, {6, 6}}
+                                   : std::vector<ScriptedDraw>{});
+    MeetStranger(world);
+    EXPECT_EQ(world.Game().EndCode, 0);
+    EXPECT_EQ(world.Promotions().Count(), 2 + std::min(visits, 3));
+    EXPECT_EQ(FaultsOf(world), "");
+  }
+  const Promotion& opened = world.Promotions()[3];
+  EXPECT_EQ(opened.Size, kNational);
+  EXPECT_EQ(opened.Money, 40000000);
+  EXPECT_EQ(world.AllStaff()[1].Employer, opened.Uid);
+  EXPECT_EQ(world.AllStaff()[1].Name.Str(), "Lysander Pinkney");
+  EXPECT_EQ(world.AllStaff()[1].Position, kOwner);
+}
+
+TEST(Challenge, BuysStarsWhereverTheyWork) {
+  SmallWorld small;
+  small.Promotion("CWA", kGlobal).Worker("Safe", kMainEvent, 96, [](Worker& star) {
+    star.Unsackable = true;
+    star.ContractMonths = kNoEnd;
+  });
+  for (int over = 95; over >= 91; --over)
+    small.Worker("Mine " + std::to_string(over), kMainEvent, over);
+  small.Promotion("XWF", kNational).Worker("Theirs", kMidcard, 70).Worker("Plain", kMidcard, 50);
+  small.OnTheMarket().Worker("Corner", kManager, 80).Worker("Asked", kMidcard, 60);
+  World world = small.Game("CWA");
+  world.Game().EndCode = kStrangerWaits;
+  // The owner; whom the new promotion may sign by itself, which is nobody bound; then the stars.
+  ScriptDraws(world, {{12, 1},
+                      {6, 1},
+                      {10, 2},
+                      {10, 2},
+                      {10, 2},
+                      {10, 2},
+                      {10, 2},
+                      {10, 2},
+                      {10, 2},
+                      {10, 2},
+                      {10, 2},
+                      {10, 2},
+                      {4, 1},
+                      {4, 2},
+                      {4, 1},
+                      {4, 1},
+                      {4, 1},
+                      {4, 4}});
+  MeetStranger(world);
+  const int uid = world.Promotions()[3].Uid;
+  for (const char* name : {"Mine 95", "Mine 93", "Mine 92", "Theirs"})
+    EXPECT_EQ(Named(world.Workers(), name).Employer, uid) << name;
+  for (const char* name : {"Safe", "Mine 94", "Mine 91", "Plain", "Corner", "Asked"})
+    EXPECT_NE(Named(world.Workers(), name).Employer, uid) << name;
+  EXPECT_EQ(FaultsOf(world), "");
+}
+
+}  // namespace
+}  // namespace grapplemont::test

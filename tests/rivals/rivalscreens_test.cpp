@@ -1,0 +1,219 @@
+#include "rivals/rivalscreens.h"
+
+#include <gtest/gtest.h>
+
+#include "calendar/incidents.h"
+#include "rivals/challenge.h"
+#include "rivals/faults.h"
+#include "session/slots.h"
+#include "support/gameonworld.h"
+#include "support/scripteddraws.h"
+
+namespace grapplemont::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+SmallWorld TwoPromotions() {
+  SmallWorld small;
+  small.Network("Nine")
+      .Promotion("CWA", kRegional)
+      .Owner("Ruth Vane")
+      .Crew(4)
+      .Promotion("XWF", kCult,
+                 [](Promotion& p) {
+                   p.Money = -1;
+                   p.Image = 12;
+                 })
+      .Owner("Gus Hubcap", [](Staff& owner) { owner.Wage = 4; })
+      .Staff("Voice", kAnnouncer, 61)
+      .Worker("Low", kJobber, 10)
+      .Worker("Corner", kManager, 90)
+      .Worker("Star", kMainEvent, 77)
+      .Title("XWF Crown", "Star")
+      .Title("XWF Juniors", {}, {}, [](Title& title) { title.Lightweight = true; })
+      .Show("Slam", "Monday", "Nine", [](Show& show) { show.Rating3 = 205; })
+      .Sponsor("Gulp")
+      .Event(3, 2)
+      .Game("CWA");
+  return small;
+}
+
+TEST(frmOtherFed, ShowsEveryPromotionByItsStanding) {
+  GameOnWorld play(TwoPromotions());
+  play.Desk.Open("frmOtherFed");
+  EXPECT_EQ(play.Desk.Rows("lstfeds"),
+            (std::vector<Names>{{"XWF Wrestling", "XWF", "Cult", "12", "3"},
+                                {"CWA Wrestling", "CWA", "Regional", "50", "4"}}));
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "2 promotions, yours in gold.");
+  EXPECT_EQ(play.Desk.Text("txtabout"),
+            "Size: Cult\nImage: 12%\nMoney: In debt\nOwner: Gus Hubcap\nLooks for: High-flyers\n"
+            "Commissioner: None\nRiskiness: 30%\nProduction values: 40%\nTicket price: $30\n"
+            "Training camp: None\nDevelopment territory: None");
+  EXPECT_EQ(play.Desk.FirstColumn("lstroster"), (Names{"Star", "Low", "Corner"}));
+  EXPECT_EQ(play.Desk.Rows("lststaff"),
+            (std::vector<Names>{{"Gus Hubcap", "Owner", "50"}, {"Voice", "Announcer", "61"}}));
+  EXPECT_EQ(play.Desk.Rows("lstshows"),
+            (std::vector<Names>{{"Slam", "Monday", "Prime Time", "Nine", "2. 05"}}));
+  EXPECT_EQ(play.Desk.Rows("lstevents"), (std::vector<Names>{{"XWF in March", "March", "Large"}}));
+  EXPECT_EQ(play.Desk.Rows("lsttitles"),
+            (std::vector<Names>{{"XWF Crown", "Singles", "Star", "", "50"},
+                                {"XWF Juniors", "Light", "Vacant", "", "50"}}));
+  EXPECT_EQ(play.Desk.Rows("lstsponsors"), (std::vector<Names>{{"Gulp", "Main", "12"}}));
+  EXPECT_EQ(play.Desk.Rows("lstpast"),
+            (std::vector<Names>{{"Last month end", "Cult", "12", "In debt"}}));
+  EXPECT_TRUE(play.Desk.Enabled("cmdbuyout"));
+}
+
+TEST(frmOtherFed, FollowsTheSelection) {
+  GameOnWorld play(TwoPromotions());
+  play.Desk.Open("frmOtherFed");
+  play.Desk.Pick("lstfeds", "CWA Wrestling");
+  EXPECT_EQ(play.Desk.FirstColumn("lstroster").size(), 4u);
+  EXPECT_FALSE(play.Desk.Enabled("cmdbuyout"));
+  EXPECT_EQ(play.Desk.Tip("cmdbuyout"), "This is your own promotion.");
+  play.Desk.OpenRow("lstroster", "CWA Hand 1");
+  EXPECT_EQ(play.Desk.TopName(), "frmWorker");
+}
+
+TEST(frmOtherFed, RemembersMonthsByTheName) {
+  GameOnWorld play(TwoPromotions());
+  for (const auto& [name, image] : {std::pair("Who Was Here Before", 99), {"XWF Wrestling", 40}}) {
+    HistoryEntry entry;
+    entry.On = Day{std::chrono::year{2026} / 2 / 1};
+    entry.Kind = kPastMonth;
+    entry.Promotion = 2;
+    entry.Name = name;
+    entry.Size = kNational;
+    entry.Image = image;
+    entry.Money = 30000000;
+    play.World().History().Append(entry);
+  }
+  play.Desk.Open("frmOtherFed");
+  EXPECT_EQ(play.Desk.Rows("lstpast"),
+            (std::vector<Names>{{"January 2026", "National", "40", "Rich"}}));
+}
+
+TEST(frmPromotion, IsWhatAPromotionsNameLeadsTo) {
+  GameOnWorld play(TwoPromotions());
+  play.Desk.Open("frmMainScreen");
+  play.Play.OpenPromotion(2);
+  ASSERT_EQ(play.Desk.TopName(), "frmPromotion");
+  EXPECT_EQ(play.Desk.Title(), "XWF Wrestling");
+  EXPECT_EQ(play.Desk.FirstColumn("lstroster"), (Names{"Star", "Low", "Corner"}));
+  play.Play.OpenPromotion(2);
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen") << "one page is enough";
+  play.Desk.ExpectSay("Gone", "This promotion is not in the business any more.");
+  play.Play.OpenPromotion(9);
+}
+
+struct Ending {
+  int Code;
+  const char* Headline;
+  const char* Body;
+};
+const Ending kEndings[] = {
+    {1, "CWA fire Sam Archer!",
+     "CWA Wrestling today released their general manager Sam Archer. According to reports, a loan "
+     "taken out by Sam Archer had caused financial problems for the company, to the extent that "
+     "the board felt it was necessary to take action. More news on this story as we get it."},
+    {2, "CWA go bankrupt!",
+     "CWA Wrestling today went out of business due to financial problems. The company has been "
+     "having problems with cash flow for some time, and many blame this on the inability of "
+     "general manager Sam Archer to handle financial affairs. More news as we get it."},
+    {3, "CWA fire Sam Archer!",
+     "Many feel that Sam Archer had to go, as the company was suffering an alarming slump in "
+     "fortunes. The mismanagement of Sam Archer is "},
+    {4, "CWA part with Sam Archer!", "went their separate ways"},
+    {9, "CWA part with Sam Archer!", "went their separate ways"}};
+
+TEST(frmTheEnd, TellsWhyTheCareerIsOver) {
+  for (const Ending& ending : kEndings) {
+    GameOnWorld play(TwoPromotions());
+    play.World().Game().EndCode = ending.Code;
+    play.Desk.Open("frmMainScreen");
+    ASSERT_EQ(play.Desk.TopName(), "frmTheEnd");
+    const std::string story = play.Desk.Text("txtstory");
+    EXPECT_TRUE(story.starts_with(std::string(ending.Headline) + "\n")) << story;
+    EXPECT_NE(story.find(ending.Body), std::string::npos) << story;
+    EXPECT_NE(story.find("The Turnbuckle Courier"), std::string::npos) << story;
+  }
+}
+
+TEST(frmTheEnd, LeavesTheWorldToRead) {
+  GameOnWorld play(TwoPromotions());
+  play.World().Game().EndCode = 2;
+  play.Desk.Open("frmMainScreen");
+  EXPECT_NE(play.Desk.Text("txtcareer").find("Last job: CWA Wrestling, Regional"),
+            std::string::npos);
+  play.Desk.Click("cmdlook");
+  ASSERT_EQ(play.Desk.TopName(), "frmMainScreen");
+  EXPECT_FALSE(play.Desk.Enabled("cmdnext"));
+  EXPECT_FALSE(play.Desk.Enabled("cmduntil"));
+  EXPECT_EQ(play.Desk.Tip("cmdnext"), "Your career has ended.");
+  play.Desk.Click("cmdotherfed");
+  EXPECT_EQ(play.Desk.Tip("cmdbuyout"), "Your career has ended.");
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen") << "the news is told once";
+}
+
+TEST(frmTheEnd, LeadsToTheMenuAndTheSlotSaysSo) {
+  GameOnWorld play(TwoPromotions());
+  play.World().Game().EndCode = 3;
+  play.Desk.Open("frmMainScreen");
+  const std::string folder = play.Play.SlotFolder(1);
+  play.Desk.Click("cmdmenu");
+  EXPECT_EQ(play.Desk.TopName(), "frmGameMenu");
+  EXPECT_FALSE(play.Play.HasWorld());
+  const SlotSummary summary = ReadSlotSummary(play.Play.Disk(), folder);
+  EXPECT_TRUE(summary.Playable);
+  EXPECT_TRUE(summary.Details.ends_with("The career has ended.")) << summary.Details;
+  play.Desk.Open("frmLoadGame");
+  EXPECT_EQ(play.Desk.Text("lbldetails1"), summary.Details);
+}
+
+TEST(frmPinky, LetsTheGameGoOnWithANewRival) {
+  GameOnWorld play(SmallWorld().Promotion("CWA", kGlobal).Game("CWA"));
+  play.World().Game().EndCode = kStrangerWaits;
+  play.Desk.Open("frmMainScreen");
+  ASSERT_EQ(play.Desk.TopName(), "frmPinky");
+  EXPECT_NE(play.Desk.Text("txtwords").find("Pinkney Presents Wrestling"), std::string::npos);
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
+  EXPECT_TRUE(play.Desk.Enabled("cmdnext"));
+  play.Reopen();
+  EXPECT_EQ(play.World().Game().EndCode, 0);
+  EXPECT_EQ(play.World().Promotions()[2].Initials.Str(), "PPW");
+  EXPECT_EQ(FaultsOf(play.World()), "");
+}
+
+TEST(ChangeOfJob, LetsTheFormerPromotionGoOnAsARival) {
+  World world = SmallWorld()
+                    .Network("Nine")
+                    .Promotion("CWA", kRegional)
+                    .Worker("Fresh", [](Worker& w) { w.Debuted = false; })
+                    .Worker("Turning", [](Worker& w) { w.TurnPending = true; })
+                    .Title("CWA Crown", {}, {}, [](Title& title) { title.Suspended = true; })
+                    .Promotion("XWF", kRegional)
+                    .Staff("Voice", kAnnouncer)
+                    .Show("Slam", "Monday", "Nine",
+                          [](Show& show) {
+                            show.Announcer = 1;
+                            show.Colour = 1;
+                            show.ColourIsWorker = true;
+                          })
+                    .Game("CWA");
+  ChangeJob(world, world.Promotions()[2]);
+  EXPECT_EQ(world.PlayerUid(), 2);
+  EXPECT_TRUE(world.Workers()[1].Debuted);
+  EXPECT_FALSE(world.Workers()[2].TurnPending);
+  EXPECT_FALSE(world.Titles()[1].Suspended);
+  EXPECT_EQ(world.Shows()[1].Announcer, 1);
+  EXPECT_EQ(world.Shows()[1].Colour, 0) << "he works elsewhere";
+  EXPECT_FALSE(world.Shows()[1].ColourIsWorker);
+  EXPECT_EQ(FaultsOf(world), "");
+}
+
+}  // namespace
+}  // namespace grapplemont::test

@@ -1,0 +1,199 @@
+#include "rivals/takeover.h"
+
+#include <gtest/gtest.h>
+
+#include "records/modWresCheck.h"
+#include "records/sweeps.h"
+#include "rivals/faults.h"
+#include "support/gameonworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+/// A Regional rival in debt with one of everything.
+SmallWorld ForSale(int money = -700000) {
+  SmallWorld small;
+  small.Network("Nine")
+      .Promotion("CWA", kCult)
+      .Owner("Ruth Vane")
+      .Worker("Mine", kMainEvent, 80)
+      .Promotion("XWF", kRegional,
+                 [=](Promotion& p) {
+                   p.Money = money;
+                   p.LastMonth.StaffWages = 20000;
+                   p.LastMonth.WrestlerWages = 80000;
+                 })
+      .Owner("Sir Sell")
+      .Staff("Coach", kTrainer)
+      .Worker("Champ", kMainEvent, 70)
+      .Worker("Home Body", kMidcard, 30,
+              [](Worker& w) {
+                w.Status = "Hom";
+                w.Morale = 3;
+                w.ContractMonths = 1;
+                w.Unsackable = false;
+              })
+      .Worker("Safe", kMidcard, 45,
+              [](Worker& w) {
+                w.Unsackable = true;
+                w.ContractMonths = kNoEnd;
+              })
+      .Worker("Corner", kManager, 40)
+      .Worker("Boss", kNonWrestler, 40)
+      .Worker("Camper", kTrainingCamp, 20, [](Worker& w) { w.ContractMonths = 2; })
+      .Stable("The Firm", {"Champ", "Safe"})
+      .Title("XWF Crown", "Champ")
+      .Title("XWF Tag Titles", "Champ", "Safe")
+      .Show("Slam", "Monday", "Nine")
+      .Sponsor("Gulp")
+      .Event(5)
+      .Game("CWA");
+  return small;
+}
+
+World Sold() {
+  World world = ForSale();
+  Promotion& rival = Named(world.Promotions(), "XWF");
+  rival.Commissioner = Named(world.Workers(), "Boss").Uid;
+  rival.HeadTrainer = Named(world.AllStaff(), "Coach").Uid;
+  Named(world.Workers(), "Champ").Manager = Named(world.Workers(), "Corner").Uid;
+  Named(world.Workers(), "Champ").TurnPending = true;
+  EXPECT_EQ(FaultsOf(world), "");
+  return world;
+}
+
+/// The day's end.
+void Sweep(World& world) {
+  SweepDeadPromotions(world);
+  SweepDeadShows(world);
+}
+
+void ExpectNothingIsLeft(World& world) {
+  Sweep(world);
+  EXPECT_EQ(FaultsOf(world), "");
+  EXPECT_EQ(world.Promotions().Count(), 1);
+  EXPECT_EQ(world.Shows().Count(), 0);
+  EXPECT_EQ(world.Sponsors()[1].Promotion, 0);
+  EXPECT_EQ(world.Events()[1].Owner, 0);
+  EXPECT_EQ(world.Stables()[1].Owner, kNoEnd);
+  for (const Title& title : world.Titles()) {
+    EXPECT_EQ(title.Owner, kNoEnd);
+    EXPECT_EQ(title.Holder, 0);
+    EXPECT_EQ(title.Partner, 0);
+  }
+  EXPECT_EQ(Named(world.AllStaff(), "Sir Sell").Employer, 0);
+}
+
+TEST(Takeover, BringsThePeopleOver) {
+  World world = Sold();
+  world.Player().Money = 1000000;
+  TakeOverRival(world, Named(world.Promotions(), "XWF"), Takeover::Complete);
+  EXPECT_EQ(world.Player().Money, 300000);
+  EXPECT_EQ(world.Promotions()[2].Name.Str(), kToBeDeleted);
+  struct Row {
+    const char* Name;
+    int Position, Months, Morale;
+  };
+  for (const Row& row : {Row{"Champ", kMainEvent, 12, 80}, Row{"Home Body", kLowerMidcard, 3, 10},
+                         Row{"Safe", kMidcard, 3, 80}, Row{"Corner", kManager, 12, 80},
+                         Row{"Boss", kNonWrestler, 12, 80}, Row{"Camper", kOpener, 2, 80}}) {
+    const Worker& worker = Named(world.Workers(), row.Name);
+    EXPECT_EQ(worker.Employer, world.PlayerUid()) << row.Name;
+    EXPECT_EQ(worker.Position, row.Position) << row.Name;
+    EXPECT_EQ(worker.ContractMonths, row.Months) << row.Name;
+    EXPECT_EQ(worker.Morale, row.Morale) << row.Name;
+    EXPECT_EQ(worker.Status.Str(), "Nor") << row.Name;
+    EXPECT_EQ(worker.Stable.Str(), "None") << row.Name;
+    EXPECT_EQ(worker.Manager, 0) << row.Name;
+    EXPECT_FALSE(worker.Unsackable || worker.TurnPending) << row.Name;
+  }
+  EXPECT_EQ(Named(world.AllStaff(), "Coach").Employer, world.PlayerUid());
+  ExpectNothingIsLeft(world);
+  EXPECT_EQ(OwnerOf(world, world.PlayerUid())->Name.Str(), "Ruth Vane");
+}
+
+TEST(Takeover, DestroysForAMonthsWagesMore) {
+  World world = Sold();
+  world.Player().Money = 1000000;
+  TakeOverRival(world, Named(world.Promotions(), "XWF"), Takeover::Destruction);
+  EXPECT_EQ(world.Player().Money, 200000);
+  for (const Worker& worker : world.Workers())
+    EXPECT_EQ(worker.Employer, worker.Name == "Mine" ? world.PlayerUid() : 0) << worker.Name.Str();
+  EXPECT_EQ(Named(world.AllStaff(), "Coach").Employer, 0);
+  ExpectNothingIsLeft(world);
+}
+
+TEST(Takeover, IsForWhoeverIsDeepEnoughInDebt) {
+  const int kLimits[6] = {-5000000, -3750000, -1250000, -625000, -250000, -125000};
+  for (int size = 1; size <= 6; ++size) {
+    Promotion rival;
+    rival.Size = size;
+    rival.Money = kLimits[size - 1];
+    EXPECT_TRUE(IsForSale(rival)) << size;
+    rival.Money = kLimits[size - 1] + 1;
+    EXPECT_FALSE(IsForSale(rival)) << size;
+  }
+}
+
+void ChooseRival(GameOnWorld& play) {
+  play.Desk.Open("frmMainScreen");
+  play.Desk.Click("cmdotherfed");
+  ASSERT_EQ(play.Desk.TopName(), "frmOtherFed");
+  play.Desk.Pick("lstfeds", "XWF Wrestling");
+}
+
+TEST(frmTakeover, MakesTheDealAndTheRivalIsGone) {
+  GameOnWorld play(ForSale());
+  ChooseRival(play);
+  play.Desk.ExpectSay("Accepted!", "XWF owner Sir Sell is willing to sell the company.");
+  play.Desk.Click("cmdbuyout");
+  ASSERT_EQ(play.Desk.TopName(), "frmTakeover");
+  EXPECT_EQ(play.Desk.Text("lblcost1"), "Cost : $700000");
+  EXPECT_EQ(play.Desk.Text("lblcost2"), "Cost : $800000");
+  EXPECT_TRUE(play.Desk.Checked("opt1"));
+  play.Desk.Check("opt2");
+  play.World().Player().Money = 799999;
+  play.Desk.ExpectSay("Error!", "You cannot afford the cost!");
+  play.Desk.Click("cmddoit");
+  ASSERT_EQ(play.Desk.TopName(), "frmTakeover");
+  play.World().Player().Money = 800000;
+  play.Desk.ExpectSay("Done!", "Takeover completed!");
+  play.Desk.Click("cmddoit");
+  ASSERT_EQ(play.Desk.TopName(), "frmOtherFed");
+  EXPECT_EQ(play.Desk.FirstColumn("lstfeds"), Names{"CWA Wrestling"});
+  EXPECT_FALSE(play.Desk.Enabled("cmdbuyout"));
+  EXPECT_EQ(play.World().Player().Money, 0);
+  EXPECT_EQ(Named(play.World().Workers(), "Champ").Employer, 0);
+  play.Desk.Click("cmdback");
+  play.Desk.Click("cmdnext");
+  EXPECT_EQ(play.World().Promotions().Count(), 1);
+  EXPECT_EQ(FaultsOf(play.World()), "");
+}
+
+TEST(frmTakeover, IsNotReachedWhereNobodySells) {
+  for (const bool owned : {true, false}) {
+    GameOnWorld play(ForSale(-624999));
+    if (!owned) Named(play.World().AllStaff(), "Sir Sell").Employer = 0;
+    ChooseRival(play);
+    play.Desk.ExpectSay("Rejected!", owned ? "XWF owner Sir Sell is not interested in selling."
+                                           : "The XWF board are not interested in selling.");
+    play.Desk.Click("cmdbuyout");
+    EXPECT_EQ(play.Desk.TopName(), "frmOtherFed");
+  }
+}
+
+TEST(frmTakeover, CanBeLeft) {
+  GameOnWorld play(ForSale());
+  Named(play.World().AllStaff(), "Sir Sell").Employer = 0;
+  ChooseRival(play);
+  play.Desk.ExpectSay("Accepted!", "The XWF board are willing to sell the company.");
+  play.Desk.Click("cmdbuyout");
+  play.Desk.Click("cmdcancel");
+  EXPECT_EQ(play.Desk.TopName(), "frmOtherFed");
+  EXPECT_EQ(play.World().Promotions().Count(), 2);
+}
+
+}  // namespace
+}  // namespace grapplemont::test
