@@ -1,4 +1,6 @@
 #include "session/screensenter.h"
+
+#include "records/headroom.h"
 #include "records/slot.h"
 
 namespace grapplemont {
@@ -23,6 +25,7 @@ bool Open(Game& game, int slot) {
       return false;
     remarks = game.OpenSlot(slot, true);
   }
+  for (std::string& line : NearlyFullFiles(game.World())) remarks.push_back(std::move(line));
   if (!remarks.empty()) game.Desk().Say("Loading", Lines(remarks));
   return true;
 }
