@@ -146,7 +146,8 @@ class frmMainScreen : public ui::Screen {
     const int count = world().News().Count();
     imgmail.Enabled = HasNews(world());
     imgmail.Text = count == 1 ? "1 mail" : std::to_string(count) + " mails";
-    CommandNamed("cmdnews").Badge = count == 0 ? std::string() : std::to_string(count);
+    const int fresh = FreshMails();
+    CommandNamed("cmdnews").Badge = fresh == 0 ? std::string() : std::to_string(fresh);
     std::vector<ui::ListBox::Row> rows;
     for (int number = count; number >= 1 && number > count - kMailsShown; --number) {
       const Mail& mail = world().News()[number];
@@ -155,6 +156,18 @@ class frmMainScreen : public ui::Screen {
            number});
     }
     lstmail.Fill(std::move(rows));
+  }
+
+  /// What came with the day that has just passed, and since.
+  int FreshMails() {
+    const std::string today = ShortDate(world().Today());
+    const std::string yesterday = ShortDate(world().Today() - std::chrono::days{1});
+    int fresh = 0;
+    for (int number = world().News().Count(); number >= 1; --number, ++fresh) {
+      const Mail& mail = world().News()[number];
+      if (mail.Date != today && mail.Date != yesterday) break;
+    }
+    return fresh;
   }
 
   void ShowAhead() {

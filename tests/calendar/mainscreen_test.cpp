@@ -37,6 +37,17 @@ TEST(MainScreen, SaysWhoAndWhenAndWhatIsAhead) {
   EXPECT_EQ(ahead.back()[3], "No Event");
 }
 
+TEST(MainScreen, CountsTheMailOfTheDayThatPassedAndOfToday) {
+  World world = Playing().Mail("CWA News", "Old.").Game("CWA", year{2026} / 3 / 24).Build();
+  AddNews(world, "CWA News", "Today.");
+  world.News()[1].Date = "22/03/26";
+  GameOnWorld play(std::move(world));
+  play.Desk.Open("frmMainScreen");
+  EXPECT_EQ(play.Desk.Badge("cmdnews"), "1");
+  play.Desk.Click("cmdnext");
+  EXPECT_EQ(play.Desk.Badge("cmdnews"), std::to_string(play.World().News().Count() - 1));
+}
+
 TEST(MainScreen, OffersOnlyTheScreensThatAreThere) {
   GameOnWorld play(Playing().Game("CWA"));
   play.Desk.Open("frmMainScreen");

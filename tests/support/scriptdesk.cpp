@@ -174,6 +174,11 @@ std::string ScriptDesk::Tip(std::string_view name) const {
   return control ? control->Tip.Get() : std::string();
 }
 
+std::string ScriptDesk::Badge(std::string_view button) const {
+  const auto* found = Look<ui::Button>(button);
+  return found ? found->Badge.Get() : std::string();
+}
+
 bool ScriptDesk::Enabled(std::string_view name) const {
   const ui::Control* control = Look(name);
   return control && control->Enabled;

@@ -68,6 +68,7 @@ class ScriptDesk : public ui::Desk {
   std::string Title() const;
   std::string Text(std::string_view name) const;
   std::string Tip(std::string_view name) const;
+  std::string Badge(std::string_view button) const;
   bool Enabled(std::string_view name) const;
   bool Visible(std::string_view name) const;
   bool Checked(std::string_view name) const;
