@@ -47,6 +47,8 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
               }),
       lstfree(*this, "lstfree", ShortColumns(), ui::Handler{}, [this] { lstfree_Open(); }) {
   lblwarn.Colour = ui::Tone::Amber;
+  cmdcancel.Tip = isEvent_ ? "Calling it off costs image, and much of the money spent on it."
+                           : "Calling it off costs image.";
   lblcount.Colour = ui::Tone::Muted;
   lblwarnings.Colour = ui::Tone::Amber;
   lstfree.Room = 4;

@@ -47,15 +47,15 @@ class frmFedProd : public ui::Screen {
     const bool best = player().Production >= kBestProduction;
     for (int number = 1; number <= kRaises; ++number) {
       cmdraise(number).Text =
-          "Raise by " + PercentText(number) + " : Cost " + Dollars(CostOf(number));
+          "Raise by " + PercentText(number) + " : Cost $" + std::to_string(CostOf(number));
       EnableUnless(cmdraise(number), best ? "Production cannot be any better." : "");
     }
   }
 
   void cmdraise_Click(int number) {
     const char* kReport = "Finance Report";
-    if (!desk().Ask(kReport, "Pay " + Dollars(CostOf(number)) + " for a " + PercentText(number) +
-                                 " increase?"))
+    if (!desk().Ask(kReport, "Pay $" + std::to_string(CostOf(number)) + " for a " +
+                                 PercentText(number) + " increase?"))
       return;
     if (!RaiseProduction(player(), number)) desk().Say(kReport, "You cannot afford this!");
     Show();

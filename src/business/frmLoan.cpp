@@ -60,7 +60,7 @@ class frmLoan : public ui::Screen {
     const bool loan = HasLoan();
     const int dollars = loan ? int(p.LoanAmount) : hsamount.Value * kLoanStep;
     const int months = loan ? int(p.LoanMonths) : LoanTerm(hsamount.Value);
-    lblamount.Text = Dollars(dollars);
+    lblamount.Text = "$" + std::to_string(dollars);
     lblterm.Text = TermText(months);
     txtcost.Text = DollarsAndCents(LoanQuote(dollars, months, difficulty()));
     lblstate.Text = loan ? LoanState() : "The bank takes whole dollars on the first of each month.";

@@ -17,7 +17,7 @@ class frmEvent : public ui::Screen {
     lstevents.Room = 12;
     txtname.Hint = "Name of the Event";
     for (const Term& type : kEventTypes)
-      cmbtype.Add(std::string(type.Says) + ", $" + std::to_string(EventProductionCost(type.Code)),
+      cmbtype.Add(std::string(type.Says) + ", " + Dollars(EventProductionCost(type.Code)),
                   type.Code);
     lblnote.Text =
         "A type stays until your image moves: then all Events take the type that fits your size.";

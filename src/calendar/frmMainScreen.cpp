@@ -182,7 +182,9 @@ class frmMainScreen : public ui::Screen {
                       static_cast<int>(rows.size()) + 1});
     }
     lstahead.Fill(std::move(rows), false);
-    lblfacts.Text = today.empty() ? "Nothing is due today." : "Due today: " + today + ".";
+    lblfacts.Text = HasEnded(world()) ? "Your career here has ended. The world can still be read."
+                    : today.empty()   ? "Nothing is due today."
+                                      : "Due today: " + today + ".";
   }
 
   static ui::Tone ToneOf(const Appointment& show) {

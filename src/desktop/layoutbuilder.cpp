@@ -198,7 +198,9 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
   const bool cards = std::any_of(box.Parts.begin(), box.Parts.end(), [](const Box& part) {
     return part.Is == Kind::Group || part.Is == Kind::Rows;
   });
-  columns->setSpacing(Px(cards && !inCard_ ? kWide : kClose));
+  const bool fields = std::any_of(box.Parts.begin(), box.Parts.end(),
+                                  [](const Box& part) { return part.Is == Kind::Field; });
+  columns->setSpacing(Px(fields || (cards && !inCard_) ? kWide : kClose));
   into->addLayout(columns, std::max(box.Stretch, Grows(box) ? 1 : 0));
   bool filled = cards;
   for (const Box& part : box.Parts) {
@@ -291,10 +293,12 @@ QWidget* LayoutBuilder::FieldLabel(const Box& field, ControlView& view) {
   return label;
 }
 
-/// Labels in one column, what they name in the next.
+/// Labels in one column, what they name in the next. In a row of fields each label stands close to
+/// its own.
 void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
   auto* form = new QGridLayout;
-  form->setHorizontalSpacing(Px(14));
+  const bool across = into->direction() == QBoxLayout::LeftToRight;
+  form->setHorizontalSpacing(Px(across ? kClose : kWide));
   form->setVerticalSpacing(Px(kClose));
   form->setColumnStretch(1, 1);
   int row = 0;

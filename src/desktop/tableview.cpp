@@ -35,9 +35,9 @@ QString SearchHint(const ui::ListBox& list) {
         list.Count() == 0 || i >= list.Rows().front().Cells.size() ||
         list.Rows().front().Cells[i].Text.find_first_not_of("0123456789%") == std::string::npos;
     if (number && plain && !column.Title.empty())
-      return "Filter: a word, " + Shown(column.Title) + " >60\u2026";
+      return "Filter: " + Shown(column.Title) + " >60\u2026";
   }
-  return "Filter: a word, !word\u2026";
+  return "Filter\u2026";
 }
 
 std::size_t Index(int number) {

@@ -39,7 +39,9 @@ bool ShouldTell(const World& world, int option, int size) {
 }
 
 std::string Dollars(long long amount) {
-  return (amount < 0 ? "-$" : "$") + std::to_string(amount < 0 ? -amount : amount);
+  std::string digits = std::to_string(amount < 0 ? -amount : amount);
+  for (std::size_t place = digits.size(); place > 3;) digits.insert(place -= 3, ",");
+  return (amount < 0 ? "-$" : "$") + digits;
 }
 
 }  // namespace grapplemont

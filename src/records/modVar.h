@@ -22,7 +22,7 @@ std::string RatingText(int value);
 /// about a promotion of this size, by the player's size as the day last saw it.
 bool ShouldTell(const World& world, int option, int size);
 
-/// "$1284500", with a minus sign in front for a debt.
+/// "$1,284,500", with a minus sign in front for a debt.
 std::string Dollars(long long amount);
 
 }  // namespace grapplemont

@@ -46,8 +46,7 @@ class frmOtherFed : public ui::Screen {
   ui::Page Layout() override {
     ui::Page page;
     page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdbuyout};
-    page.Main = &cmdbuyout;
+    page.Actions = {&cmdbuyout, &cmdback};
     page.Cancel = &cmdback;
     page.Body = ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()});
     return page;

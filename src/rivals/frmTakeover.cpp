@@ -1,4 +1,4 @@
-#include "records/modVar.h"
+#include "business/officewords.h"
 #include "rivals/rivals.h"
 #include "rivals/rivalscreens.h"
 #include "rivals/takeover.h"
@@ -29,7 +29,7 @@ class frmTakeover : public ui::Screen {
   void Load() override {
     const Promotion& rival = Rival();
     Title = "Takeover of " + rival.Name.Str();
-    lblmoney.Text = "Current finance: " + Dollars(game_.World().Player().Money);
+    lblmoney.Text = FinanceText(game_.World().Player());
     lblcost1.Text = CostText(rival, Takeover::Complete);
     lblcost2.Text = CostText(rival, Takeover::Destruction);
   }

@@ -25,8 +25,8 @@ class frmOtherWres : public WorkerListScreen {
     page.Main = &cmdcontract;
     page.Cancel = &cmdback;
     page.Body = ui::Rows(
-        {ui::Group("", {FilterBox()}), ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(5),
-                                                    ui::Group("", {ui::Grow(txtpage)}).Grow(3)})
+        {ui::Group("", {FilterBox()}), ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
+                                                    ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
                                            .Grow(1)});
     return page;
   }

@@ -32,12 +32,12 @@ class frmRoster : public WorkerListScreen {
     page.Body = ui::Rows(
         {ui::Group("", {FilterBox({ui::Field("Split", cmbsplit)})}),
          ui::Columns(
-             {ui::Group("", {ui::Grow(lstwres)}).Grow(5),
+             {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
               ui::Rows({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
                         ui::Group("Place", {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
                                             lblmove, ui::Columns({ui::Grow(cmbnewsplit), cmdsplit}),
                                             ui::Columns({cmddevelopment, cmdcamp})})})
-                  .Grow(3)})
+                  .Grow(4)})
              .Grow(1)});
     return page;
   }

@@ -47,6 +47,16 @@ ui::Cell Disposition(const World&, const Worker& worker) {
 ui::Cell Status(const World&, const Worker& worker) {
   return StatusCell(worker);
 }
+/// Whoever cannot work has that said in the place of his condition.
+ui::Cell Condition(const World&, const Worker& worker) {
+  if (worker.Status == "Nor") return int(worker.Condition);
+  const std::string months = ", " + std::to_string(worker.StatusMonths) + " m";
+  const std::string words = worker.Status == "Inj"   ? "Injured" + months
+                            : worker.Status == "Sus" ? "Suspended" + months
+                            : worker.Status == "Reh" ? "In rehab"
+                                                     : "Sits out";
+  return {-1.0, words, ui::Tone::Red};
+}
 ui::Cell Employer(const World& world, const Worker& worker) {
   if (worker.Employer == 0) return Muted("Free");
   return PromotionInitials(world, worker.Employer);
@@ -84,17 +94,18 @@ constexpr WorkerColumn kColumns[] = {
     {"Position", K::Date, "", true, true, Position},
     {"Disp.", K::Tag, "Disposition.", true, true, Disposition},
     {"Over", K::Number, "Popularity.", true, true, Points<&Worker::Over>},
-    {"Age", K::Number, "", true, true, Age},
+    {"Condition", K::Percent, "Or why he cannot work.", true, false, Condition},
+    {"Morale", K::Percent, "", true, false, Points<&Worker::Morale>},
     {"Months", K::Number, "Months left of the contract.", true, true, Months},
-    {"Morale", K::Number, "", true, true, Points<&Worker::Morale>},
-    {"Cond.", K::Number, "Condition, percent.", true, false, Points<&Worker::Condition>},
+    {"Wage", K::Number, "Dollars a month.", true, true, Wage},
+    {"Age", K::Number, "", true, true, Age},
+    {"Morale", K::Number, "", false, true, Points<&Worker::Morale>},
     {"Status", K::Text, "Empty for who is available.", true, true, Status},
     {"Split", K::Text, "Part of a split roster.", true, false, Split},
     {"Brawl", K::Number, "", true, true, Points<&Worker::Brawl>},
     {"Tech.", K::Number, "Technical skill.", true, true, Points<&Worker::Technical>},
     {"Speed", K::Number, "", true, true, Points<&Worker::Speed>},
     {"Char.", K::Number, "Charisma.", true, true, Points<&Worker::Charisma>},
-    {"Wage", K::Number, "Dollars a month.", true, true, Wage},
     {"Contract", K::Tag, "", true, true, Contract},
     {"Sex", K::Text, "", true, true, Sex},
     {"Turned", K::Number, "Weeks since the last turn; gold where a turn is being prepared.", true,

@@ -28,7 +28,7 @@ std::vector<ui::Column> TitleColumns() {
           {"Holder"},
           {"Since", K::Date},
           {"Image", K::Percent, 0, "How much the fans make of it."},
-          {"", K::Tag}};
+          {"State", K::Tag}};
 }
 
 ui::ListBox::Row TitleRow(const World& world, const Title& title) {

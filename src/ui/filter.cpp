@@ -59,7 +59,7 @@ std::optional<double> ReadDate(std::string_view text) {
   return date.ok() ? std::optional(count(Day{date})) : std::nullopt;
 }
 
-/// "70", "70%", "-3.5", "$1200", "250k", "1.5m" or a date.
+/// "70", "70%", "-3.5", "$1,200", "250k", "1.5m" or a date.
 std::optional<double> ReadNumber(std::string_view text) {
   if (const auto date = ReadDate(text)) return date;
   const bool negative = TakeFront(text, "-");
@@ -73,9 +73,12 @@ std::optional<double> ReadNumber(std::string_view text) {
       unit = worth;
       break;
     }
+  std::string digits(text);
+  std::erase(digits, ',');
   double number = 0;
-  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (fault != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  const char* last = digits.data() + digits.size();
+  const auto [end, fault] = std::from_chars(digits.data(), last, number);
+  if (fault != std::errc() || end != last) return std::nullopt;
   return (negative ? -number : number) * unit;
 }
 

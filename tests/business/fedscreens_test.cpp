@@ -246,27 +246,30 @@ TEST(frmFed, TellsOfSomebodyWhoLeftBeforeHeWasAssigned) {
 TEST(frmFed, OpensImprovesStaffsAndClosesACamp) {
   GameOnWorld play(Company());
   play.Desk.Open("frmFed");
-  EXPECT_EQ(play.Desk.Rows("cmbcamp"),
-            (std::vector<Row>{
-                {"Poor, $25000"}, {"Average, $100000"}, {"Good, $400000"}, {"Superb, $1000000"}}));
+  EXPECT_EQ(
+      play.Desk.Rows("cmbcamp"),
+      (std::vector<Row>{
+          {"Poor, $25,000"}, {"Average, $100,000"}, {"Good, $400,000"}, {"Superb, $1,000,000"}}));
   EXPECT_EQ(play.Desk.Tip("cmdheadcamp"), "There is no training camp.");
   play.Desk.ExpectSay("Error!", "Type a name first.");
   play.Desk.Click("cmdcamp");
   play.Desk.Type("txtcamp", "The Shed");
-  play.Desk.Pick("cmbcamp", "Superb, $1000000");
-  play.Desk.ExpectSay("Error!", "You cannot afford this! It costs $1000000, and you have $500000.");
+  play.Desk.Pick("cmbcamp", "Superb, $1,000,000");
+  play.Desk.ExpectSay("Error!",
+                      "You cannot afford this! It costs $1,000,000, and you have $500,000.");
   play.Desk.Click("cmdcamp");
-  play.Desk.Pick("cmbcamp", "Average, $100000");
-  play.Desk.ExpectAsk("Finance Report", "Pay $100000 for the training camp?", false);
+  play.Desk.Pick("cmbcamp", "Average, $100,000");
+  play.Desk.ExpectAsk("Finance Report", "Pay $100,000 for the training camp?", false);
   play.Desk.Click("cmdcamp");
   EXPECT_EQ(play.World().Player().CampName.View(), "None");
   play.Desk.Type("txtcamp", "The Shed");
-  play.Desk.ExpectAsk("Finance Report", "Pay $100000 for the training camp?", true);
+  play.Desk.ExpectAsk("Finance Report", "Pay $100,000 for the training camp?", true);
   play.Desk.Click("cmdcamp");
   EXPECT_EQ(play.Desk.Text("lblmoney"), "Current finance: $400000");
   EXPECT_EQ(play.Desk.Text("lblstatecamp"), "Average facilities");
   EXPECT_EQ(play.Desk.FirstColumn("lstcamp"), (Names{"Raw"}));
-  EXPECT_EQ(play.Desk.Rows("cmbcamp"), (std::vector<Row>{{"Good, $400000"}, {"Superb, $1000000"}}));
+  EXPECT_EQ(play.Desk.Rows("cmbcamp"),
+            (std::vector<Row>{{"Good, $400,000"}, {"Superb, $1,000,000"}}));
   play.Desk.ExpectSay("Error!",
                       "The builders have been here in March already. They come once a month at "
                       "most.");
@@ -274,7 +277,7 @@ TEST(frmFed, OpensImprovesStaffsAndClosesACamp) {
   play.Reopen();
   play.World().Game().Today = Day{std::chrono::year{2026} / 4 / 1};
   play.Desk.Open("frmFed");
-  play.Desk.ExpectAsk("Finance Report", "Pay $400000 for better facilities?", true);
+  play.Desk.ExpectAsk("Finance Report", "Pay $400,000 for better facilities?", true);
   play.Desk.Click("cmdraisecamp");
   EXPECT_EQ(play.Desk.Text("lblmoney"), "Current finance: $0");
   EXPECT_EQ(play.World().Player().CampFacilities, 3);
@@ -297,12 +300,12 @@ TEST(frmFed, OpensImprovesStaffsAndClosesACamp) {
 TEST(frmFed, OpensStaffsAndClosesATerritory) {
   GameOnWorld play(Company());
   play.Desk.Open("frmFed");
-  EXPECT_EQ(play.Desk.Text("lblstatedev"), "None. One costs $250000.");
+  EXPECT_EQ(play.Desk.Text("lblstatedev"), "None. One costs $250,000.");
   play.Desk.Type("txtdev", std::string(36, 'x'));
   play.Desk.ExpectSay("Error!", "A name has at most 35 letters. This one has 36.");
   play.Desk.Click("cmddev");
   play.Desk.Type("txtdev", "The Sticks");
-  play.Desk.ExpectAsk("Finance Report", "Pay $250000 for the development territory?", true);
+  play.Desk.ExpectAsk("Finance Report", "Pay $250,000 for the development territory?", true);
   play.Desk.Click("cmddev");
   EXPECT_EQ(play.Desk.Text("lblmoney"), "Current finance: $250000");
   EXPECT_EQ(play.Desk.Text("cmddev"), "Rename");

@@ -167,14 +167,14 @@ TEST(frmWages, ListsEverybodyAndTotalsWhatIsDue) {
   GameOnWorld play(Payroll());
   play.Desk.Open("frmWages");
   EXPECT_EQ(play.Desk.Rows("lstwages"),
-            (std::vector<Row>{{"Bram Okafor", "Worker", "Midcard", "$40000", "$40000", "12"},
-                              {"Ilya Marsh", "Worker", "Midcard", "$10000", "$0", "No end"},
-                              {"Cal Drift", "Worker", "Midcard", "$10000", "$0", "12"},
-                              {"Pen Writer", "Staff", "Writer", "$3000", "$3000", "12"},
-                              {"Old Hand", "Staff", "Referee", "$5000", "$0", "No end"}}));
-  EXPECT_EQ(play.Desk.Text("lblworkers"), "$40000 p.m");
-  EXPECT_EQ(play.Desk.Text("lblstaff"), "$3000 p.m");
-  EXPECT_EQ(play.Desk.Text("lbltotal"), "Wages due on the first of the month: $43000");
+            (std::vector<Row>{{"Bram Okafor", "Worker", "Midcard", "$40,000", "$40,000", "12"},
+                              {"Ilya Marsh", "Worker", "Midcard", "$10,000", "$0", "No end"},
+                              {"Cal Drift", "Worker", "Midcard", "$10,000", "$0", "12"},
+                              {"Pen Writer", "Staff", "Writer", "$3,000", "$3,000", "12"},
+                              {"Old Hand", "Staff", "Referee", "$5,000", "$0", "No end"}}));
+  EXPECT_EQ(play.Desk.Text("lblworkers"), "$40,000 p.m");
+  EXPECT_EQ(play.Desk.Text("lblstaff"), "$3,000 p.m");
+  EXPECT_EQ(play.Desk.Text("lbltotal"), "Wages due on the first of the month: $43,000");
   const int before = play.World().Player().Money;
   PayWagesAndContracts(play.World());
   EXPECT_EQ(before - play.World().Player().Money, 43'000) << "what is due is what is paid";
@@ -211,17 +211,17 @@ TEST(frmFinance, ShowsBothMonths) {
   EXPECT_EQ(play.Desk.Text("lblmoney"), "Current finance: $1284500");
   EXPECT_EQ(play.Desk.Rows("lstbooks"), (std::vector<Row>{
                                             {"Ticket sales", "$512", "$1"},
-                                            {"Merchandise", "$1024", "$2"},
-                                            {"Pay-per-view", "$2048", "$4"},
-                                            {"Sponsors", "$4096", "$8"},
-                                            {"Total in", "$7680", "$15"},
-                                            {"Workers' wages", "$8192", "$16"},
-                                            {"Staff wages", "$16384", "$32"},
-                                            {"Production", "$32768", "$64"},
-                                            {"Advertising", "$65536", "$128"},
-                                            {"Cost of merchandise", "$131072", "$256"},
-                                            {"Total out", "$253952", "$496"},
-                                            {"Balance", "-$246272", "-$481"},
+                                            {"Merchandise", "$1,024", "$2"},
+                                            {"Pay-per-view", "$2,048", "$4"},
+                                            {"Sponsors", "$4,096", "$8"},
+                                            {"Total in", "$7,680", "$15"},
+                                            {"Workers' wages", "$8,192", "$16"},
+                                            {"Staff wages", "$16,384", "$32"},
+                                            {"Production", "$32,768", "$64"},
+                                            {"Advertising", "$65,536", "$128"},
+                                            {"Cost of merchandise", "$131,072", "$256"},
+                                            {"Total out", "$253,952", "$496"},
+                                            {"Balance", "-$246,272", "-$481"},
                                         }));
 }
 

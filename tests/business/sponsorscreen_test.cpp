@@ -57,10 +57,10 @@ TEST(frmFedSponsor, ListsAllOrThoseWhoMatter) {
   GameOnWorld play(Market());
   play.Desk.Open("frmFedSponsor");
   EXPECT_EQ(play.Desk.Rows("lstsponsors"),
-            (std::vector<Row>{{"Theirs", "$100000", "Medium", "50", "NEW", "12"},
-                              {"Gulp", "$300000", "Medium", "40", "Free", ""},
-                              {"Prim", "$20000", "Medium", "39", "Free", ""},
-                              {"Huge", "$301000", "Low", "71", "Free", ""}}));
+            (std::vector<Row>{{"Theirs", "$100,000", "Medium", "50", "NEW", "12"},
+                              {"Gulp", "$300,000", "Medium", "40", "Free", ""},
+                              {"Prim", "$20,000", "Medium", "39", "Free", ""},
+                              {"Huge", "$301,000", "Low", "71", "Free", ""}}));
   EXPECT_EQ(play.Desk.Rows("lstplaces"), (std::vector<Row>{{"Main", "None", "", "", ""},
                                                            {"Minor", "None", "", "", ""},
                                                            {"Minor", "None", "", "", ""},
@@ -101,8 +101,8 @@ TEST(frmFedSponsor, SignsWhoeverAccepts) {
     int At;
   };
   const Case kCases[] = {
-      {"cmd1", "Offer Main Sponsorship", {"Main", "Gulp", "$75000", "$300000", "11"}, 1},
-      {"cmd2", "Offer Minor Sponsorship", {"Minor", "Gulp", "$30000", "$300000", "11"}, 2}};
+      {"cmd1", "Offer Main Sponsorship", {"Main", "Gulp", "$75,000", "$300,000", "11"}, 1},
+      {"cmd2", "Offer Minor Sponsorship", {"Minor", "Gulp", "$30,000", "$300,000", "11"}, 2}};
   for (const Case& c : kCases) {
     GameOnWorld play(Market());
     play.Desk.Open("frmFedSponsor");

@@ -103,9 +103,9 @@ TEST(frmFedValue, ShowsEveryLineAndTheSum) {
   const auto rows = play.Desk.Rows("lstworth");
   ASSERT_EQ(rows.size(), lines.size() + 1);
   EXPECT_EQ(rows[0],
-            (std::vector<std::string>{"Name and image", "Cult, $8000000 x 107% for an image of 57%",
-                                      "$8560000"}));
-  EXPECT_EQ(rows[7], (std::vector<std::string>{"Debts", "What is overdrawn", "-$40000"}));
+            (std::vector<std::string>{
+                "Name and image", "Cult, $8,000,000 x 107% for an image of 57%", "$8,560,000"}));
+  EXPECT_EQ(rows[7], (std::vector<std::string>{"Debts", "What is overdrawn", "-$40,000"}));
   const std::string sum = "$" + std::to_string(SumOf(lines));
   EXPECT_EQ(rows.back()[2], sum);
   EXPECT_EQ(play.Desk.Text("lblworth"), "CWA Wrestling is worth " + sum + ".");

@@ -88,7 +88,7 @@ TEST(EventScreen, ShowsTheYearAndMarksTheOneThatIsDue) {
     for (std::size_t month = 0; month < 12; ++month)
       EXPECT_EQ(rows[month][5], month == 2 ? c.Mark : "") << month;
     EXPECT_EQ(rows[4][1], "May Mayhem");
-    EXPECT_EQ(rows[4][3], "$25000");
+    EXPECT_EQ(rows[4][3], "$25,000");
     EXPECT_EQ(rows[3][1], "Nothing planned") << "the rival's is not ours";
     EXPECT_EQ(play.Desk.Selected("lstevents"), std::vector<int>{3});
   }
@@ -102,7 +102,7 @@ TEST(EventScreen, PlansRenamesChangesAndDrops) {
   desk.Pick("lstevents", "July");
   EXPECT_EQ(desk.Tip("cmddrop"), "There is no Event in this month.");
   EXPECT_EQ(desk.Text("txtname"), "CWA in July");
-  EXPECT_EQ(desk.Text("cmbtype"), "Medium, $25000") << "what fits is proposed";
+  EXPECT_EQ(desk.Text("cmbtype"), "Medium, $25,000") << "what fits is proposed";
   desk.Type("txtname", "May Mayhem");
   desk.ExpectSay("Error!", "You have an Event called May Mayhem already.");
   desk.Click("cmdadd");
@@ -110,7 +110,7 @@ TEST(EventScreen, PlansRenamesChangesAndDrops) {
   desk.Click("cmdadd");
   desk.Type("txtname", "Hotter July");
   desk.Click("cmdrename");
-  desk.Pick("cmbtype", "Pay-Per-View, $1500000");
+  desk.Pick("cmbtype", "Pay-Per-View, $1,500,000");
   desk.Click("cmdtype");
   EXPECT_EQ(desk.Text("lblfacts"), "3 of 12 months have an Event");
   desk.Pick("lstevents", "March");
@@ -138,7 +138,7 @@ TEST(EventScreen, RefusesAPayPerViewToTheSmall) {
   desk.Open("frmEvent");
   for (const char* button : {"cmdtype", "cmdadd"}) {
     if (button == std::string_view("cmdadd")) desk.Pick("lstevents", "July");
-    desk.Pick("cmbtype", "Pay-Per-View, $1500000");
+    desk.Pick("cmbtype", "Pay-Per-View, $1,500,000");
     desk.ExpectSay("Error!", "Nobody would watch a Pay-Per-View of a promotion that is Small.");
     desk.Click(button);
   }

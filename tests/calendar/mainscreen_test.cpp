@@ -26,7 +26,7 @@ TEST(MainScreen, SaysWhoAndWhenAndWhatIsAhead) {
   play.Desk.Open("frmMainScreen");
   EXPECT_EQ(play.Desk.Text("txtdate"), "Tuesday, 24 March 2026");
   EXPECT_EQ(play.Desk.Text("cmdfed"), "CWA");
-  EXPECT_EQ(play.Desk.Text("lblmoney"), "-$1250");
+  EXPECT_EQ(play.Desk.Text("lblmoney"), "-$1,250");
   EXPECT_EQ(play.Desk.Text("lblfacts"), "Nothing is due today.");
   EXPECT_TRUE(play.Desk.Enabled("imgmail"));
   EXPECT_EQ(play.Desk.Rows("lstmail")[0][2], "Hello.");

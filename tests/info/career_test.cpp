@@ -113,7 +113,7 @@ TEST(frmUser, TellsTheCareer) {
   EXPECT_EQ(play.Desk.Text("txtuser"),
             "Pat Lee\nWell thought of.\nThe present job\n1 television show and 0 Events held, 0 "
             "called off.\nMean rating 60%.\nBest: Friday Fire, 60%.\n1 month closed, a loss of "
-            "$4000 in all.");
+            "$4,000 in all.");
 }
 
 }  // namespace

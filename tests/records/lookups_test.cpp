@@ -242,10 +242,10 @@ TEST(TextConversions, DollarsAndSizes) {
     long long Amount;
     const char* Text;
   } rows[] = {{0, "$0"},
-              {1284500, "$1284500"},
+              {1284500, "$1,284,500"},
               {-1, "-$1"},
-              {-2147483648LL, "-$2147483648"},
-              {2147483647, "$2147483647"}};
+              {-2147483648LL, "-$2,147,483,648"},
+              {2147483647, "$2,147,483,647"}};
   for (const auto& row : rows) EXPECT_EQ(row.Text, Dollars(row.Amount));
   const char* sizes[] = {"", "Global", "National", "Cult", "Regional", "Small", "Backyard", ""};
   for (int size = 0; size <= 7; ++size) EXPECT_EQ(sizes[size], SizeText(size));

@@ -92,7 +92,7 @@ TEST(frmWresContract, RejectsUntilTheOfferIsGood) {
   play.Desk.ExpectSay("Accepted!", "Bram Okafor agrees to the contract!");
   play.Desk.Click("cmdoffer");
   EXPECT_EQ(play.Desk.TopName(), "frmRoster");
-  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, $65000 a month.") << "the list is fresh";
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, $65,000 a month.") << "the list is fresh";
   play.Reopen();
   const Worker& bram = Who(play, kBram);
   EXPECT_EQ(bram.ContractType.View(), "Non");

@@ -289,9 +289,9 @@ TEST(frmStaff, ListsTheOwnAndTellsOfTheChosen) {
   EXPECT_EQ(play.Desk.Rows("lststaff"),
             (std::vector<Names>{
                 {"Ruth Vane", "Owner", "40", "M", "50", "80", "80", "", "Owner", "-"},
-                {"Hal Horn", "Announcer", "40", "M", "55", "80", "80", "$5000", "Written", "12"},
-                {kPen, "Writer", "40", "M", "60", "80", "80", "$5000", "Written", "12"}}));
-  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 on the staff, $10000 a month.");
+                {"Hal Horn", "Announcer", "40", "M", "55", "80", "80", "$5,000", "Written", "12"},
+                {kPen, "Writer", "40", "M", "60", "80", "80", "$5,000", "Written", "12"}}));
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 on the staff, $10,000 a month.");
   EXPECT_EQ(play.Desk.Text("lbladvice"), "Writers: hire 1 more, or angles have to wait.");
   EXPECT_FALSE(play.Desk.Enabled("cmdfire"));
   EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
@@ -337,7 +337,7 @@ TEST(frmStaffContract, RenewsOnGoodTerms) {
   play.Desk.ExpectSay("Accepted!", "Penny Quill agrees to the contract!");
   play.Desk.Click("cmdoffer");
   EXPECT_EQ(play.Desk.Rows("lststaff")[2],
-            (Names{kPen, "Writer", "40", "M", "60", "80", "80", "$7000", "Verbal", "24"}));
+            (Names{kPen, "Writer", "40", "M", "60", "80", "80", "$7,000", "Verbal", "24"}));
   play.Reopen();
   EXPECT_EQ(Who(play.World(), kPen).Wage, 7);
 }

@@ -97,7 +97,7 @@ TEST(WorkerFacts, TellOfFreeAgents) {
                             })
                     .Game("CWA");
   EXPECT_EQ(Told(world, "Dot Hale", "Contract"),
-            Lines({"Works for nobody. Last known as Midcard.", "Last earned $10000 a month."}));
+            Lines({"Works for nobody. Last known as Midcard.", "Last earned $10,000 a month."}));
   EXPECT_EQ(Told(world, "Dot Hale", "Dot Hale").at(0),
             "A woman of 28, born in June, a heavyweight.");
   EXPECT_EQ(Told(world, "Dot Hale", "Dot Hale").at(4), "Has sex appeal.");
