@@ -92,7 +92,7 @@ class frmAltRoster : public ui::Screen {
                        {"Split"},
                        {"Card", K::Tag, 0, "Booked on the sheet."}},
                       &frmAltRoster::ShowButtons,
-                      &frmAltRoster::cmdstats_Click};
+                      cmdstats};
   ui::Button cmdstats{*this, "cmdstats", "Stats", &frmAltRoster::cmdstats_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmAltRoster::cmdback_Click};
 };

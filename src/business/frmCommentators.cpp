@@ -91,7 +91,7 @@ class frmCommentator : public ShowScreen {
                         {"Talent", K::Percent, 3, "A worker's is his charisma."},
                         {"", K::Text, 2}},
                        ui::Handler{},
-                       [this] { cmdassign_Click(); }};
+                       cmdassign};
   ui::Button cmdback{*this, "cmdback", "Back", &frmCommentator::cmdback_Click};
   ui::Button cmdassign{*this, "cmdassign", "Assign", &frmCommentator::cmdassign_Click};
 };

@@ -76,8 +76,7 @@ class frmFedPick : public ui::Screen {
   Game& game_;
   Office office_;
   ui::Label lblnow{*this, "lblnow"};
-  ui::ListBox lstpeople{
-      *this, "lstpeople", {{}}, &frmFedPick::ShowButtons, &frmFedPick::cmddoit_Click};
+  ui::ListBox lstpeople{*this, "lstpeople", {{}}, &frmFedPick::ShowButtons, cmddoit};
   ui::Button cmdcancel{*this, "cmdcancel", "Cancel", &frmFedPick::cmdcancel_Click};
   ui::Button cmdnobody{*this, "cmdnobody", "Nobody", &frmFedPick::cmdnobody_Click};
   ui::Button cmddoit{*this, "cmddoit", "Appoint", &frmFedPick::cmddoit_Click};

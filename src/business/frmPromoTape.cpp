@@ -57,8 +57,7 @@ class frmPromoTape : public ui::Screen {
 
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstnetworks{*this, "lstnetworks", NetworkColumns(), &frmPromoTape::ShowSend,
-                          &frmPromoTape::cmdsend_Click};
+  ui::ListBox lstnetworks{*this, "lstnetworks", NetworkColumns(), &frmPromoTape::ShowSend, cmdsend};
   ui::Button cmdback{*this, "cmdback", "Back", &frmPromoTape::cmdback_Click};
   ui::Button cmdsend{*this, "cmdsend", "Send Tape", &frmPromoTape::cmdsend_Click};
 };

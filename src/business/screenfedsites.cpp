@@ -6,6 +6,7 @@
 #include "records/world.h"
 #include "roster/postings.h"
 #include "storylines/screenpeople.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
 
@@ -120,11 +121,6 @@ int FedSite::Level() const {
   return cmblevel ? cmblevel->Key() : 0;
 }
 
-bool FedSite::Fail(const std::string& why) {
-  if (!why.empty()) game_.Desk().Say("Error!", why);
-  return !why.empty();
-}
-
 bool FedSite::Pays(const std::string& what) {
   return game_.Desk().Ask("Finance Report",
                           "Pay " + Dollars(kind_.Price(Level())) + " for " + what + "?");
@@ -182,10 +178,10 @@ void FedSite::ShowPeople() {
 void FedSite::cmdopen_Click() {
   const std::string name = txtname.Text.Get();
   if (IsThere()) {
-    if (Fail(kind_.WhyNotRename(world(), name))) return;
+    if (game_.Desk().Objects(kind_.WhyNotRename(world(), name))) return;
     kind_.Rename(world(), name);
   } else {
-    if (Fail(kind_.WhyNotOpen(world(), name, Level()))) return;
+    if (game_.Desk().Objects(kind_.WhyNotOpen(world(), name, Level()))) return;
     if (!Pays(std::string("the ") + kind_.What)) return;
     kind_.Open(world(), name, Level());
   }
@@ -193,7 +189,7 @@ void FedSite::cmdopen_Click() {
 }
 
 void FedSite::cmdraise_Click() {
-  if (Fail(WhyNotRaiseCamp(world(), Level()))) return;
+  if (game_.Desk().Objects(WhyNotRaiseCamp(world(), Level()))) return;
   if (!Pays("better facilities")) return;
   RaiseCamp(world(), Level());
   changed_();

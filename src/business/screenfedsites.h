@@ -24,7 +24,6 @@ class FedSite {
   World& world() const { return game_.World(); }
   bool IsThere() const;
   int Level() const;  // the chosen one; 0 for none
-  bool Fail(const std::string& why);
   bool Pays(const std::string& what);
   void ShowLevels();
   void ShowPeople();

@@ -4,6 +4,7 @@
 #include "records/world.h"
 #include "roster/postings.h"
 #include "storylines/screenpeople.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
 
@@ -56,11 +57,6 @@ std::string FedSplits::Chosen() const {
   return SplitName(game_.World().Player(), lstsplits.Key());
 }
 
-bool FedSplits::Fail(const std::string& why) {
-  if (!why.empty()) game_.Desk().Say("Error!", why);
-  return !why.empty();
-}
-
 void FedSplits::ShowSplits() {
   const World& world = game_.World();
   std::vector<ui::ListBox::Row> rows;
@@ -109,7 +105,7 @@ void FedSplits::cmdsplit_Click() {
   World& world = game_.World();
   const int place = lstsplits.Key();
   const std::string name = txtsplit.Text.Get();
-  if (Fail(WhyNotSplitName(world, place, name))) return;
+  if (game_.Desk().Objects(WhyNotSplitName(world, place, name))) return;
   NameSplit(world, place, name);
   Show();
 }
@@ -143,7 +139,7 @@ void FedSplits::Assign(const std::string& split) {
   }
   ShowSplits();
   ShowPeople();
-  Fail(why);
+  game_.Desk().Objects(why);
 }
 
 }  // namespace grapplemont

@@ -13,7 +13,6 @@ class FedSplits {
 
  private:
   std::string Chosen() const;  // empty for a place without a split
-  bool Fail(const std::string& why);
   void ShowSplits();
   void ShowPeople();
   void ShowButtons();

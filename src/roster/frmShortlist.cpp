@@ -57,7 +57,7 @@ class frmShortlist : public ui::Screen {
     WriteWorkerPage(txtpage, world(), chosen, "Nobody is chosen.");
     EnableUnless(cmdcontract, WhyNoTalks(game_, chosen));
     for (ui::Button* button : {&cmdremove, &cmdpage})
-      EnableUnless(*button, chosen ? "" : "Choose a worker first.");
+      EnableUnless(*button, chosen ? "" : kNobodyChosen);
   }
 
   /// The place in the list stays, so that several can be taken off one after the other.
@@ -84,8 +84,7 @@ class frmShortlist : public ui::Screen {
 
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstwres{*this, "lstwres", Columns(), &frmShortlist::ShowChoice,
-                      &frmShortlist::cmdpage_Click};
+  ui::ListBox lstwres{*this, "lstwres", Columns(), &frmShortlist::ShowChoice, cmdpage};
   ui::Report txtpage{*this, "txtpage"};
   ui::Button cmdremove{*this, "cmdremove", "Remove", &frmShortlist::cmdremove_Click};
   ui::Button cmdpage{*this, "cmdpage", "Open Page", &frmShortlist::cmdpage_Click};

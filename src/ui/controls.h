@@ -204,11 +204,19 @@ class ListBox : public Control {
  public:
   ListBox(Screen& screen, std::string name, std::vector<Column> columns = {{}}, Handler pick = {},
           Handler open = {});
+  ListBox(Screen& screen, std::string name, std::vector<Column> columns, Handler pick,
+          Button& opens);
   template <class S>
   ListBox(Screen& screen, std::string name, std::vector<Column> columns, void (S::*pick)(),
           void (S::*open)() = nullptr)
       : ListBox(screen, std::move(name), std::move(columns), Bind(screen, pick),
                 open ? Bind(screen, open) : Handler{}) {}
+  template <class S>
+  ListBox(Screen& screen, std::string name, std::vector<Column> columns, void (S::*pick)(),
+          Button& opens)
+      : ListBox(screen, std::move(name), std::move(columns), Bind(screen, pick), opens) {}
+  /// To open a row is to pick it and to press the button, if it can be pressed then.
+  void OpenWith(Button& button);
 
   struct Row {
     std::vector<Cell> Cells;

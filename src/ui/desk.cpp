@@ -8,6 +8,11 @@ namespace grapplemont::ui {
 Desk::Desk() = default;
 Desk::~Desk() = default;
 
+bool Desk::Objects(const std::string& why) {
+  if (!why.empty()) Say("Error!", why);
+  return !why.empty();
+}
+
 void Desk::Register(std::string name, Factory make) {
   factories_.insert_or_assign(std::move(name), std::move(make));
 }

@@ -42,6 +42,8 @@ class Desk {
                    Default answer = Default::Yes) = 0;
   virtual std::string Prompt(const std::string& title, const std::string& text,
                              const std::string& offered) = 0;
+  /// Says what stands against an act, titled "Error!"; false, without a box, when nothing does.
+  bool Objects(const std::string& why);
   /// Shows the present state in the midst of a long handler.
   virtual void Repaint() {}
 

@@ -11,6 +11,18 @@ ListBox::ListBox(Screen& screen, std::string name, std::vector<Column> columns, 
       OnOpen(std::move(open)),
       columns_(std::move(columns)) {}
 
+ListBox::ListBox(Screen& screen, std::string name, std::vector<Column> columns, Handler pick,
+                 Button& opens)
+    : ListBox(screen, std::move(name), std::move(columns), std::move(pick)) {
+  OpenWith(opens);
+}
+
+void ListBox::OpenWith(Button& button) {
+  OnOpen = [&button] {
+    if (button.Enabled && button.Visible && button.OnClick) button.OnClick();
+  };
+}
+
 void ListBox::ContentsChanged() {
   ++contents_;
   ++Changes();

@@ -24,6 +24,40 @@ const Act kActs[] = {
     {"slide", "slid", [](auto& d, auto& s, auto n) { return ui::Slide(d, s, n, 50); }},
 };
 
+/// A list whose rows open with a button that picking the second row disables.
+class Doors : public ui::Screen {
+ public:
+  explicit Doors(ui::Desk& desk) : Screen(desk, "frmDoors", "Doors") {
+    lstdoors.Add({"Open"}, 1);
+    lstdoors.Add({"Locked"}, 2);
+  }
+  ui::Page Layout() override { return {}; }
+  int Entered = 0;
+
+ private:
+  ui::ListBox lstdoors{*this,
+                       "lstdoors",
+                       {{}},
+                       ui::Handler([this] { cmdenter.Enabled = lstdoors.Key() == 1; }),
+                       cmdenter};
+  ui::Button cmdenter{*this, "cmdenter", "Enter", ui::Handler([this] { ++Entered; })};
+};
+
+TEST(Acts, OpenARowOnlyWithAButtonThatCanBePressed) {
+  ScriptDesk desk;
+  auto screen = std::make_unique<Doors>(desk);
+  Doors& doors = *screen;
+  desk.Open(std::move(screen));
+  desk.OpenRow("lstdoors", "Open");
+  EXPECT_EQ(doors.Entered, 1);
+  desk.OpenRow("lstdoors", "Locked");
+  EXPECT_EQ(doors.Entered, 1);
+  EXPECT_EQ(desk.Selected("lstdoors"), std::vector{2}) << "picked all the same";
+  doors.Find("cmdenter")->Visible = false;
+  desk.OpenRow("lstdoors", "Open");
+  EXPECT_EQ(doors.Entered, 1);
+}
+
 TEST(Acts, FitTheKindOfTheControl) {
   struct Row {
     const char *Control, *Kind, *Takes;
