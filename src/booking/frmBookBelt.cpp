@@ -1,6 +1,6 @@
 #include "booking/screenmatchstep.h"
 #include "booking/stepscreens.h"
-#include "records/modWresCheck.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
 
@@ -15,19 +15,13 @@ class frmBookBelt : public MatchStepScreen {
  private:
   void Prepare() override {
     for (const grapplemont::Title* title : OfferedTitles(world(), buffer()))
-      lsttitle.Add({title->Name.View(), HolderText(*title), ui::Cell(title->Image)},
+      lsttitle.Add({title->Name.View(), ChampionText(world(), *title), ui::Cell(title->Image)},
                    world().Titles().NumberOf(*title));
     lsttitle.Add({"None", "", ""});
     lsttitle.Select(lsttitle.Count());
   }
 
   ui::Box Body() override { return ui::Group("", {ui::Grow(lsttitle)}); }
-
-  std::string HolderText(const grapplemont::Title& title) {
-    if (title.Holder == 0) return "Vacant";
-    return title.Singles ? WorkerName(world(), title.Holder)
-                         : PairName(world(), title.Holder, title.Partner);
-  }
 
   bool Store() override {
     const int record = lsttitle.Key();

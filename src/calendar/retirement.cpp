@@ -54,14 +54,12 @@ void RetireStaff(World& world, Staff& staff) {
     AddNews(world, "Retirement!",
             "Staff member " + staff.Name.Str() + " has retired" +
                 FromEmployer(world, staff.Employer) + "!");
-  SeverStaff(world, staff);
-  ForgetStaff(world, staff.Uid);
+  DismissStaff(world, staff);
   ReplaceByNewcomer(world, staff);
 }
 
 bool IsWatched(const World& world, const Worker& worker) {
-  return IsShortlisted(world, worker.Uid) ||
-         (worker.Employer != 0 && worker.Employer == world.PlayerUid());
+  return IsShortlisted(world, worker.Uid) || WorksForPlayer(world, worker);
 }
 
 void TellRetirement(World& world, const Worker& worker, const std::string& words) {
@@ -81,7 +79,7 @@ void Announce(World& world, Worker& worker) {
 void Retire(World& world, Worker& worker) {
   TellRetirement(world, worker, " has retired" + FromEmployer(world, worker.Employer) + "!");
   PartWith(world, worker);
-  ForgetWorker(world, worker.Uid);
+  ForgetWorker(world, worker);
   ReplaceByRookie(world, worker);
 }
 

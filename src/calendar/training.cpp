@@ -106,8 +106,9 @@ void Outgrow(World& world, Worker& worker, const std::string& territory) {
 constexpr std::array<int, 5> kCaps = {0, 1, 2, 3, 5};
 constexpr int kCampBasics = 2;  // selling and attitude, whoever teaches
 
-/// What a head trainer of at least this talent makes of the draws. From 60 to 70 nothing: whoever
-/// teaches there has outgrown the drill and not found a method of his own.
+/// What a head trainer of at least this talent makes of the draws: a draw of none still is a point.
+/// From 60 to 70 he teaches no more than the untalented, having outgrown the drill and not found a
+/// method of his own.
 struct TrainerBand {
   int From;
   int Range;
@@ -142,10 +143,6 @@ std::string Drill(World& world, Worker& worker, int range) {
   return pieces;
 }
 
-bool IsAway(const Worker& worker) {
-  return worker.Position == kDevelopmentDeal || worker.Position >= kSentToDevelopment;
-}
-
 }  // namespace
 
 void DevelopmentMonth(World& world) {
@@ -154,7 +151,7 @@ void DevelopmentMonth(World& world) {
   const std::string territory = player.DevName.Str();
   const Lesson* lesson = LessonOf(TalentOf(world, player.DevBooker));
   for (Worker& worker : world.Workers()) {
-    if (worker.Employer != player.Uid || !IsAway(worker)) continue;
+    if (worker.Employer != player.Uid || !IsInDevelopment(worker)) continue;
     if (lesson && worker.Over < worker.Potential) {
       const std::string pieces = Learn(world, worker, *lesson);
       if (!pieces.empty() && IsToldOf(world.Game().MailDev))

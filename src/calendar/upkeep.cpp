@@ -62,7 +62,7 @@ void HaveHadEnough(World& world, Worker& worker) {
 /// Kept away from the main roster the young bloom and the grown fret; at 26 and from 35 on nothing
 /// moves.
 void FeelAway(World& world, Worker& worker) {
-  if (worker.Position != kDevelopmentDeal && worker.Position < kSentToDevelopment) return;
+  if (!IsInDevelopment(worker)) return;
   if (worker.Age < 26)
     worker.Morale += world.RandomDraw(2) - 1;
   else if (worker.Age >= 27 && worker.Age <= 34) {

@@ -63,7 +63,7 @@ void TellOfPlayersStaff(World& world, Staff& staff) {
     AddNews(world, kPersonnel, who + left);
   if (staff.ContractMonths != 0) return;
   AddNews(world, kPersonnel, who + " is now no longer under contract with us.");
-  SeverStaff(world, staff);
+  DismissStaff(world, staff);
 }
 
 void LeaveRivalsStaff(World& world, Staff& staff) {
@@ -71,7 +71,7 @@ void LeaveRivalsStaff(World& world, Staff& staff) {
   if (rival && ShouldTell(world, world.Game().MailStaffFire, rival->Size))
     AddNews(world, rival->Initials + " News",
             staff.Name + " has left the staff of " + rival->Initials.Str() + ".");
-  SeverStaff(world, staff);
+  DismissStaff(world, staff);
 }
 
 void PayWorkers(World& world) {
@@ -79,7 +79,7 @@ void PayWorkers(World& world) {
     if (worker.Employer == 0 || worker.ContractMonths == kNoEnd) continue;
     PayWage(world, worker);
     worker.ContractMonths -= 1;
-    if (worker.Employer == world.PlayerUid())
+    if (WorksForPlayer(world, worker))
       TellOfPlayers(world, worker);
     else if (worker.ContractMonths == 0)
       LeaveRival(world, worker);
@@ -91,7 +91,7 @@ void PayStaff(World& world) {
     if (staff.Employer == 0 || staff.Position == kOwner || staff.ContractMonths == kNoEnd) continue;
     PayStaffWage(world, staff);
     staff.ContractMonths -= 1;
-    if (staff.Employer == world.PlayerUid())
+    if (WorksForPlayer(world, staff))
       TellOfPlayersStaff(world, staff);
     else if (staff.ContractMonths == 0)
       LeaveRivalsStaff(world, staff);

@@ -35,7 +35,7 @@ void SweepMarked(Inspection& inspection, Records<T>& records, void (*sweep)(Worl
 void Vacate(Title& title) {
   title.Holder = 0;
   title.Partner = 0;
-  title.Reigns[0].Holder = "Vacant";
+  title.Reigns[0].Holder = kVacantHolder;
 }
 
 /// Empty when the Title's champions are in order.
@@ -122,7 +122,7 @@ void ChampionsWorkForTheOwner(Inspection& inspection) {
 void VacantTitlesSaySo(Inspection& inspection) {
   Records<Title>& titles = inspection.Of().Titles();
   for (Title& title : titles)
-    if (title.Holder == 0 && !(title.Reigns[0].Holder == "Vacant"))
+    if (title.Holder == 0 && !(title.Reigns[0].Holder == kVacantHolder))
       inspection.Note(titles, title, "Holder1", "is not \"Vacant\" for a vacant Title");
 }
 

@@ -24,6 +24,8 @@ std::vector<std::string> NearlyFullFiles(const World& world) {
   Look(world.Titles(), "Titles", lines);
   Look(world.Shows(), "television shows", lines);
   Look(world.Events(), "Events", lines);
+  Look(world.Networks(), "networks", lines);
+  Look(world.Sponsors(), "sponsors", lines);
   return lines;
 }
 

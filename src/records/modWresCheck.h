@@ -18,6 +18,9 @@ int NextPromotionUid(const World& world);
 bool WorkerNameFree(const World& world, std::string_view name);
 bool StaffNameFree(const World& world, std::string_view name);
 
+/// Whether the player's promotion employs him. Nobody works for a player without one.
+bool WorksForPlayer(const World& world, const Worker& worker);
+bool WorksForPlayer(const World& world, const Staff& staff);
 /// "None" for uid 0 and for a uid that leads nowhere.
 std::string PromotionName(const World& world, int promotionUid);
 std::string PromotionInitials(const World& world, int promotionUid);

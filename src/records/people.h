@@ -62,10 +62,13 @@ struct Stable {
 static_assert(sizeof(Stable) == 27 && alignof(Stable) == 1);
 static_assert(offsetof(Stable, Name) == 0 && offsetof(Stable, Owner) == 25);
 
+/// Who holds a Title that nobody holds.
+inline constexpr std::string_view kVacantHolder = "Vacant";
+
 /// One line of a Title's history.
 struct Reign {
   Date Won;
-  Text<25> Holder;  // a name, "Vacant", or "None" for an unused line
+  Text<25> Holder;  // a name, kVacantHolder, or "None" for an unused line
   Date Lost;        // kNoTitleDate while it lasts
 };
 
@@ -101,8 +104,8 @@ const RecordLayout& LayoutOf<Stable>();
 template <>
 const RecordLayout& LayoutOf<Title>();
 
-/// Ends the present reign on `today` and begins one of `holder` ("Vacant" for nobody); the oldest
-/// line falls away.
+/// Ends the present reign on `today` and begins one of `holder` (kVacantHolder for nobody); the
+/// oldest line falls away.
 void BeginReign(Title& title, Day today, std::string_view holder);
 
 }  // namespace grapplemont

@@ -17,9 +17,38 @@ struct EarnedPosition {
 constexpr std::array<EarnedPosition, 5> kEarnedPositions = {
     {{81, kUpperMidcard}, {71, kMidcard}, {51, kLowerMidcard}, {30, kOpener}, {-32768, kJobber}}};
 
-void LeaveOffice(World& world, const Worker& worker) {
+void LeaveEmployersOffice(World& world, const Worker& worker) {
   Promotion* employer = world.FindPromotion(worker.Employer);
   if (employer && employer->Commissioner == worker.Uid) employer->Commissioner = 0;
+}
+
+/// What a Title loses of its image when it falls vacant.
+int LossOf(const Title& title, TitleLoss loss) {
+  return loss == TitleLoss::ATenth ? title.Image / 10 : 20;
+}
+
+/// The job offer among the incidents names a promotion.
+constexpr int kJobOfferIncident = 6;
+
+/// What is booked with him is booked no more. A place that the style does not look at may still
+/// name him.
+void LeaveSegment(Segment& segment, int workerUid) {
+  if (TakesPart(segment, workerUid)) segment = EmptySegment();
+  for (Word& place : segment.Worker)
+    if (place == workerUid) place = 0;
+}
+
+void EmptyChair(Show& show, int uid, bool isWorker) {
+  if (uid == 0 || show.Colour != uid || bool(show.ColourIsWorker) != isWorker) return;
+  show.Colour = 0;
+  show.ColourIsWorker = false;
+}
+
+}  // namespace
+
+void LeaveOffice(World& world, int workerUid) {
+  for (Promotion& promotion : world.Promotions())
+    if (promotion.Commissioner == workerUid) promotion.Commissioner = 0;
 }
 
 void EndContract(Worker& worker) {
@@ -36,23 +65,11 @@ void EndContract(Worker& worker) {
   worker.Stable = "None";
 }
 
-void VacateTitlesOf(World& world, int workerUid) {
-  for (Title& title : world.Titles())
-    if (title.Holder == workerUid || title.Partner == workerUid) VacateTitle(world, title);
+void LoseClients(World& world, int managerUid) {
+  if (managerUid == 0) return;
+  for (Worker& client : world.Workers())
+    if (client.Manager == managerUid) client.Manager = 0;
 }
-
-/// The job offer among the incidents names a promotion.
-constexpr int kJobOfferIncident = 6;
-
-void ForgetVoice(World& world, int uid, bool isWorker) {
-  for (Show& show : world.Shows()) {
-    if (show.Colour != uid || bool(show.ColourIsWorker) != isWorker) continue;
-    show.Colour = 0;
-    show.ColourIsWorker = false;
-  }
-}
-
-}  // namespace
 
 void EndPosting(Worker& worker) {
   if (worker.Position > kSentToDevelopment) worker.Position -= kSentToDevelopment;
@@ -78,30 +95,42 @@ void LeaveFeuds(World& world, int workerUid) {
   }
 }
 
-void VacateTitle(World& world, Title& title) {
+void VacateTitle(World& world, Title& title, TitleLoss loss) {
   title.Holder = 0;
   title.Partner = 0;
-  title.Image -= 20;
-  BeginReign(title, world.HasGame() ? world.Today() : kNoTitleDate, "Vacant");
+  title.Image -= LossOf(title, loss);
+  BeginReign(title, world.HasGame() ? world.Today() : kNoTitleDate, kVacantHolder);
+}
+
+void VacateTitlesOf(World& world, int workerUid, TitleLoss loss) {
+  for (Title& title : world.Titles())
+    if (title.Holder == workerUid || title.Partner == workerUid) VacateTitle(world, title, loss);
 }
 
 void LeaveCommentary(World& world, int workerUid) {
   if (!world.HasGame()) return;
+  for (Show& show : world.Shows())
+    if (show.Owner == world.PlayerUid()) EmptyChair(show, workerUid, true);
+}
+
+void LeaveMicrophones(World& world, const Worker& worker) {
+  for (Show& show : world.Shows()) EmptyChair(show, worker.Uid, true);
+}
+
+void LeaveMicrophones(World& world, const Staff& staff) {
   for (Show& show : world.Shows()) {
-    if (show.Owner != world.PlayerUid() || !show.ColourIsWorker || show.Colour != workerUid)
-      continue;
-    show.ColourIsWorker = false;
-    show.Colour = 0;
+    if (show.Announcer == staff.Uid) show.Announcer = 0;
+    EmptyChair(show, staff.Uid, false);
   }
 }
 
 void SeverWorker(World& world, Worker& worker) {
-  LeaveOffice(world, worker);
+  LeaveEmployersOffice(world, worker);
   EndPosting(worker);
   EndContract(worker);
   if (worker.Uid == 0) return;
   LeaveFeuds(world, worker.Uid);
-  VacateTitlesOf(world, worker.Uid);
+  VacateTitlesOf(world, worker.Uid, TitleLoss::Twenty);
   LeaveCommentary(world, worker.Uid);
 }
 
@@ -118,25 +147,25 @@ void SeverStaff(World& world, Staff& staff) {
     if (show.Owner == world.PlayerUid() && show.Announcer == staff.Uid) show.Announcer = 0;
 }
 
-void ForgetWorker(World& world, int workerUid) {
+void DismissStaff(World& world, Staff& staff) {
+  SeverStaff(world, staff);
+  LeaveMicrophones(world, staff);
+}
+
+void ForgetWorker(World& world, const Worker& worker) {
+  const int workerUid = worker.Uid;
+  if (workerUid == 0) return;
   world.Teams().Keep(
       [=](const Team& team) { return team.Worker1 != workerUid && team.Worker2 != workerUid; });
-  for (Worker& client : world.Workers())
-    if (client.Manager == workerUid) client.Manager = 0;
-  ForgetVoice(world, workerUid, true);
+  LoseClients(world, workerUid);
+  LeaveMicrophones(world, worker);
   for (Segment& segment : world.Segments())
-    if (segment.Rating == 0 && TakesPart(segment, workerUid)) ClearSegment(segment);
+    if (segment.Rating == 0) LeaveSegment(segment, workerUid);
   if (!world.HasGame()) return;
   for (Word& place : world.Game().Shortlist)
     if (place == workerUid) place = 0;
   for (Incident& incident : world.Incidents())
     if (incident.Type != kJobOfferIncident && incident.Uid == workerUid) incident = Incident{};
-}
-
-void ForgetStaff(World& world, int staffUid) {
-  for (Show& show : world.Shows())
-    if (show.Announcer == staffUid) show.Announcer = 0;
-  ForgetVoice(world, staffUid, false);
 }
 
 void SeverWorkersAndStaff(World& world, int promotionUid) {

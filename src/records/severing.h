@@ -8,13 +8,16 @@ namespace grapplemont {
 /// commentary end. His place in development or camp becomes the roster position that his Over
 /// earns.
 void SeverWorker(World& world, Worker& worker);
-/// The member of staff leaves his employer for any reason.
+/// The member of staff leaves his employer for any reason: contract, camp, territory and the
+/// announcer's chair of the player's shows.
 void SeverStaff(World& world, Staff& staff);
+/// The same for one who is fired, hired away or has served his time: no show anywhere keeps him,
+/// neither as its announcer nor beside one.
+void DismissStaff(World& world, Staff& staff);
 /// Whatever else knows somebody who leaves the world for good loses him: teams end, clients are
 /// without their manager, shows without their voice, the shortlist forgets him, and so do the
 /// incidents of the day and what is booked with him. Requires that he has no employer any more.
-void ForgetWorker(World& world, int workerUid);
-void ForgetStaff(World& world, int staffUid);
+void ForgetWorker(World& world, const Worker& worker);
 /// Everybody whom the promotion employs.
 void SeverWorkersAndStaff(World& world, int promotionUid);
 
@@ -23,11 +26,25 @@ int PositionFromOver(int over);
 /// Ends a posting to development or camp: the roster position he came from, or the one he has
 /// earned.
 void EndPosting(Worker& worker);
+/// The contract ends, and with it what came of it: stable, manager, a turn in preparation. Whoever
+/// sat it out is fit and in good spirits again.
+void EndContract(Worker& worker);
+/// No promotion has him as its Commissioner any more.
+void LeaveOffice(World& world, int workerUid);
+/// Nobody has him as a manager any more.
+void LoseClients(World& world, int managerUid);
 /// The player's shows lose him as their colour commentator.
 void LeaveCommentary(World& world, int workerUid);
+/// All shows lose him, as announcer and as colour commentator.
+void LeaveMicrophones(World& world, const Worker& worker);
+void LeaveMicrophones(World& world, const Staff& staff);
 /// Takes all four participants out of every feud that names the worker.
 void LeaveFeuds(World& world, int workerUid);
-/// Vacates the Title: no holder, 20 off its image, a new reign of "Vacant" from today.
-void VacateTitle(World& world, Title& title);
+/// What a Title loses of its image when it falls vacant.
+enum class TitleLoss { Twenty, ATenth };
+/// Vacates the Title: no holder, less image, a new reign of "Vacant" from today.
+void VacateTitle(World& world, Title& title, TitleLoss loss = TitleLoss::Twenty);
+/// Every Title that he holds, alone or with a partner.
+void VacateTitlesOf(World& world, int workerUid, TitleLoss loss);
 
 }  // namespace grapplemont

@@ -72,8 +72,16 @@ const RecordLayout& LayoutOf<Worker>() {
   return kLayout;
 }
 
+bool IsRosterPosition(int position) {
+  return position >= kMainEvent && position <= kJobber;
+}
+
 bool IsOnRoster(const Worker& worker) {
-  return worker.Position >= kMainEvent && worker.Position <= kJobber;
+  return IsRosterPosition(worker.Position);
+}
+
+bool IsInDevelopment(const Worker& worker) {
+  return worker.Position == kDevelopmentDeal || worker.Position >= kSentToDevelopment;
 }
 
 bool IsSentAway(const Worker& worker) {

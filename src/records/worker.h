@@ -98,7 +98,10 @@ template <>
 const RecordLayout& LayoutOf<Worker>();
 
 /// True for the positions of the active wrestling roster, 1 to 6.
+bool IsRosterPosition(int position);
 bool IsOnRoster(const Worker& worker);
+/// In the development territory: under a development deal or sent there, positions 7 and 80 up.
+bool IsInDevelopment(const Worker& worker);
 /// Sent away to the development territory for a while: positions 81 to 86.
 bool IsSentAway(const Worker& worker);
 

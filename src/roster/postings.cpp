@@ -17,16 +17,8 @@ constexpr int kMoraleOfDrop = -10, kMoraleOfRise = 5;
 constexpr std::array<int, 8> kMoves = {kMainEvent, kUpperMidcard, kMidcard,     kLowerMidcard,
                                        kOpener,    kJobber,       kNonWrestler, kManager};
 
-bool IsOurs(const World& world, const Worker& worker) {
-  return worker.Employer != 0 && worker.Employer == world.PlayerUid();
-}
-
 std::string WhyNotOurs(const World& world, const Worker& worker) {
-  return IsOurs(world, worker) ? "" : worker.Name + " does not work for you.";
-}
-
-bool IsOnTheCard(int position) {
-  return position >= kMainEvent && position <= kJobber;
+  return WorksForPlayer(world, worker) ? "" : worker.Name + " does not work for you.";
 }
 
 const Title* TitleOf(const World& world, int uid) {
@@ -52,7 +44,7 @@ std::string WhyNotAway(const World& world, const Worker& worker) {
   if (std::string why = WhyNotOurs(world, worker); !why.empty()) return why;
   if (IsInDevelopment(worker)) return worker.Name + " is in the development territory already.";
   if (IsInCamp(worker)) return worker.Name + " is in the training camp already.";
-  if (!IsOnTheCard(worker.Position)) return "Only wrestlers can be sent there.";
+  if (!IsOnRoster(worker)) return "Only wrestlers can be sent there.";
   if (worker.Status == "Hom") return worker.Name + " sits out the contract and goes nowhere.";
   if (std::string why = WhyTitleHolds(world, worker); !why.empty()) return why;
   return IsInFeud(world, worker.Uid) ? worker.Name + " is in a feud, which has to end first." : "";
@@ -72,10 +64,6 @@ bool IsCommissioner(const World& world, const Worker& worker) {
 int SkillTier(const Worker& worker) {
   const int best = std::max({int(worker.Brawl), int(worker.Technical), int(worker.Speed)});
   return best >= 76 ? 2 : best >= 61 ? 1 : 0;
-}
-
-bool IsInDevelopment(const Worker& worker) {
-  return worker.Position == kDevelopmentDeal || worker.Position > kSentToDevelopment;
 }
 
 bool IsInCamp(const Worker& worker) {
@@ -128,11 +116,11 @@ std::string WhyNotMove(const World& world, const Worker& worker, int position) {
   if (std::find(kMoves.begin(), kMoves.end(), position) == kMoves.end())
     return "There is no such position.";
   if (worker.Position == position) return worker.Name + " has this position already.";
-  return IsOnTheCard(position) ? "" : WhyTitleHolds(world, worker);
+  return IsRosterPosition(position) ? "" : WhyTitleHolds(world, worker);
 }
 
 int MoraleOfMove(int from, int to) {
-  if (!IsOnTheCard(from) || !IsOnTheCard(to)) return 0;
+  if (!IsRosterPosition(from) || !IsRosterPosition(to)) return 0;
   if (to - from >= kWideMove) return kMoraleOfDrop;
   return from - to >= kWideMove ? kMoraleOfRise : 0;
 }
@@ -143,7 +131,7 @@ std::string EndedByMove(const World& world, const Worker& worker, int position) 
     ended += " The clients lose their manager.";
   if (position != kNonWrestler && IsCommissioner(world, worker))
     ended += " You lose your Commissioner.";
-  if (!IsOnTheCard(position) && worker.Manager != 0)
+  if (!IsRosterPosition(position) && worker.Manager != 0)
     ended += " " + worker.Name + " will have no manager.";
   return ended.empty() ? ended : ended.substr(1);
 }
@@ -151,11 +139,9 @@ std::string EndedByMove(const World& world, const Worker& worker, int position) 
 void MovePosition(World& world, Worker& worker, int position) {
   worker.Morale += MoraleOfMove(worker.Position, position);
   worker.Position = position;
-  if (position != kManager)
-    for (Worker& client : world.Workers())
-      if (client.Manager == worker.Uid) client.Manager = 0;
+  if (position != kManager) LoseClients(world, worker.Uid);
   if (position != kNonWrestler && IsCommissioner(world, worker)) world.Player().Commissioner = 0;
-  if (!IsOnTheCard(position)) worker.Manager = 0;
+  if (!IsRosterPosition(position)) worker.Manager = 0;
 }
 
 std::string WhyNotSplit(const World& world, const Worker& worker, std::string_view split) {

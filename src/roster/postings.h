@@ -14,8 +14,6 @@ namespace grapplemont {
 /// 2 with a Brawl, Technical or Speed of 76 and more, 1 with one of 61 and more, else 0.
 int SkillTier(const Worker& worker);
 
-/// In the territory, sent there or under a development deal.
-bool IsInDevelopment(const Worker& worker);
 bool IsInCamp(const Worker& worker);
 /// "Main Event", "Midcard, in development", "Training Camp": of any code.
 std::string PlaceText(const Worker& worker);

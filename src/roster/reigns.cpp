@@ -26,7 +26,7 @@ bool IsOneOfPair(std::string_view holder, const Worker& worker) {
 
 /// Whether a line of the Title's past tells of him.
 bool IsHis(const World& world, const Title& title, const Reign& reign, const Worker& worker) {
-  if (reign.Holder == "None" || reign.Holder == "Vacant") return false;
+  if (reign.Holder == "None" || reign.Holder == kVacantHolder) return false;
   const bool lasts = &reign == &title.Reigns.front();
   if (lasts && title.Holder != 0) return title.Holder == worker.Uid || title.Partner == worker.Uid;
   if (title.Singles) return reign.Holder == worker.Name;

@@ -31,38 +31,6 @@ const Market& MarketOf(int size) {
   return kMarket[static_cast<std::size_t>(std::clamp<int>(size, kGlobal, kBackyard) - 1)];
 }
 
-void LeaveOffice(World& world, int uid) {
-  for (Promotion& promotion : world.Promotions())
-    if (promotion.Commissioner == uid) promotion.Commissioner = 0;
-}
-
-void EndContract(Worker& worker) {
-  if (worker.Status == "Hom") {
-    worker.Status = "Nor";
-    worker.Morale = 80;
-  }
-  worker.Split = "None";
-  worker.Stable = "None";
-  worker.Employer = 0;
-  worker.Unsackable = false;
-  worker.ContractMonths = 0;
-  worker.Manager = 0;
-  worker.TurnPending = false;
-  worker.ContractType = "Non";
-  worker.Debuted = true;
-}
-
-/// A Title whose holder leaves loses a tenth of its image.
-void LeaveTitles(World& world, int uid) {
-  for (Title& title : world.Titles()) {
-    if (title.Holder != uid && title.Partner != uid) continue;
-    title.Holder = 0;
-    title.Partner = 0;
-    title.Image -= title.Image / 10;
-    BeginReign(title, world.Today(), "Vacant");
-  }
-}
-
 bool CanPay(const Promotion& promotion, const Worker& worker) {
   const Market& market = MarketOf(promotion.Size);
   const int asking = static_cast<int>(worker.Wage * 8LL / 10);
@@ -100,11 +68,15 @@ void SignWith(World& world, Worker& worker, const Promotion& rival) {
 }  // namespace
 
 void PartWith(World& world, Worker& worker) {
-  LeaveOffice(world, worker.Uid);
   EndPosting(worker);
   EndContract(worker);
+  worker.Split = "None";
+  worker.Debuted = true;
+  if (worker.Uid == 0) return;
+  LeaveOffice(world, worker.Uid);
+  LoseClients(world, worker.Uid);
   LeaveFeuds(world, worker.Uid);
-  LeaveTitles(world, worker.Uid);
+  VacateTitlesOf(world, worker.Uid, TitleLoss::ATenth);
   LeaveCommentary(world, worker.Uid);
 }
 

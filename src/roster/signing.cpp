@@ -138,10 +138,10 @@ std::string WhyNotCalled(const World& world, const Worker& worker, const Signing
 
 /// He gives up what he was and had where he comes from.
 void LeaveFormer(World& world, const Worker& worker) {
-  for (Promotion& promotion : world.Promotions())
-    if (promotion.Commissioner == worker.Uid) promotion.Commissioner = 0;
-  for (Title& title : world.Titles())
-    if (title.Holder == worker.Uid || title.Partner == worker.Uid) VacateTitle(world, title);
+  LeaveOffice(world, worker.Uid);
+  LoseClients(world, worker.Uid);
+  VacateTitlesOf(world, worker.Uid, TitleLoss::Twenty);
+  LeaveMicrophones(world, worker);
 }
 
 }  // namespace

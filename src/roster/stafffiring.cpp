@@ -38,7 +38,7 @@ void FireStaff(World& world, Staff& staff) {
     staff.Loyalty -= 30;
   }
   if (parting == Parting::Verbal) staff.Loyalty -= 20;
-  SeverStaff(world, staff);
+  DismissStaff(world, staff);
   staff.ContractType = "Non";
 }
 

@@ -9,8 +9,8 @@
 namespace grapplemont {
 
 /// What it costs to buy out a contract, in dollars: by the difficulty, the wage in thousands of
-/// dollars a month and the months left. What would be below 0, for want of
-/// an end, is half a year of wages.
+/// dollars a month and the months left. What would be below 0, for want of an end, is half a year
+/// of wages.
 long long BuyOutCost(int difficulty, int wage, int months);
 
 /// How he would go.

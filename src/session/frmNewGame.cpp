@@ -5,6 +5,7 @@
 #include "records/modWresCheck.h"
 #include "session/newgame.h"
 #include "session/sessionscreens.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
 
@@ -14,7 +15,7 @@ std::string RoleSuffix(const Worker& worker) {
   if (worker.Position == kManager) return " (Manager)";
   if (worker.Position == kNonWrestler) return " (Non-Wrestler)";
   if (worker.Position == kTrainingCamp) return " (Training Camp)";
-  if (worker.Position == kDevelopmentDeal || IsSentAway(worker)) return " (Development)";
+  if (IsInDevelopment(worker)) return " (Development)";
   return {};
 }
 
@@ -95,11 +96,7 @@ class frmNewGame : public ui::Screen {
     lstbelts.Clear();
     for (const auto& title : world_.Titles()) {
       if (title.Owner != promotion.Uid) continue;
-      std::string holder = "Vacant";
-      if (title.Holder != 0)
-        holder = title.Singles ? WorkerName(world_, title.Holder)
-                               : PairName(world_, title.Holder, title.Partner);
-      lstbelts.Add({title.Name.View(), holder, ui::Cell(title.Image)});
+      lstbelts.Add({title.Name.View(), ChampionText(world_, title), ui::Cell(title.Image)});
     }
   }
 

@@ -188,7 +188,7 @@ void StartShows(World& world) {
 }
 
 std::string HolderText(const World& world, const Title& title) {
-  if (title.Holder == 0) return "Vacant";
+  if (title.Holder == 0) return std::string(kVacantHolder);
   if (title.Singles) return WorkerName(world, title.Holder);
   const std::string team = TeamNameOf(world, title.Holder, title.Partner);
   if (team != "None") return team;

@@ -60,7 +60,7 @@ Json TitleCounts(const World& world, Day since) {
     ++all;
     held += title.Holder != 0;
     for (const Reign& reign : title.Reigns)
-      won += Day(reign.Won) >= since && !(reign.Holder == "Vacant");
+      won += Day(reign.Won) >= since && !(reign.Holder == kVacantHolder);
   }
   return {{"all", all}, {"held", held}, {"won", won}};
 }

@@ -111,17 +111,32 @@ TEST(Retirement, IsDrawnByAge) {
 }
 
 TEST(Retirement, IsNothingForTobiasFenn) {
-  for (const int age : {44, 80, 200}) {
+  struct Case {
+    int AgeBefore, Position;
+    Script Draws;  // after the skills: the end, then the ring
+    bool Leaves;   // the ring
+  };
+  const Case kCases[] = {{38, kMidcard, {{40, 1}}, false},
+                         {44, kMidcard, {{15, 1}, {25, 4}}, false},
+                         {44, kMidcard, {{15, 1}, {25, 5}}, true},
+                         {44, kNonWrestler, {{15, 1}}, false},
+                         {49, kMidcard, {{15, 1}}, true},
+                         {63, kMidcard, {{3, 1}}, true},
+                         {80, kNonWrestler, {}, false},
+                         {200, kMidcard, {}, true}};
+  for (const Case& c : kCases) {
+    SCOPED_TRACE(c.AgeBefore);
     World world = With("CWA");
     Worker& tobias = Sol(world);
     tobias.Name = "Tobias Fenn";
-    tobias.Age = age;
-    tobias.Position = kNonWrestler;
-    ScriptDraws(world, Then({kSkillsStay}, age == 44 ? Script{{15, 1}} : Script{}));
+    tobias.Age = c.AgeBefore;
+    tobias.Position = c.Position;
+    ScriptDraws(world, Then({kSkillsStay}, c.Draws));
     AgeAndRetire(world);
-    EXPECT_EQ(tobias.Age, age + 1);
+    EXPECT_EQ(tobias.Age, c.AgeBefore + 1);
     EXPECT_FALSE(tobias.RetiringSoon);
-    EXPECT_EQ(NewsOf(world), "");
+    EXPECT_EQ(tobias.Position, c.Leaves ? int(kNonWrestler) : c.Position);
+    EXPECT_EQ(world.News().Count(), c.Leaves ? 1 : 0);
   }
 }
 
@@ -155,6 +170,38 @@ TEST(Retirement, MakesTheOldNonWrestlersFirst) {
       EXPECT_EQ(NewsOf(world),
                 told ? "News Desk: Sol Varga has decided to become a 'non wrestler'!\n" : "");
     }
+}
+
+TEST(Retirement, WaitsForTheMonthAfterABirthdayEvenIfAnnouncedBefore) {
+  for (const int drawn : {1, 2}) {
+    World world = With("CWA", [](Worker& worker) {
+      worker.Age = 36;
+      worker.RetiringSoon = true;
+    });
+    const int uid = Sol(world).Uid;
+    ScriptDraws(world, Then({kSkillsStay}, {{40, drawn}}));
+    AgeAndRetire(world);
+    EXPECT_EQ(Sol(world).Uid, uid) << "not gone in his own month";
+    EXPECT_TRUE(Sol(world).RetiringSoon);
+    EXPECT_EQ(world.News().Count(), drawn == 1 ? 1 : 0);
+  }
+}
+
+TEST(Retirement, LeavesAChampionOutsideTheRingHisTitle) {
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Worker("Sol Varga",
+                            [](Worker& worker) {
+                              worker.BirthMonth = kFebruary;
+                              worker.Age = 50;
+                            })
+                    .Title("CWA Crown", "Sol Varga", {}, [](Title& title) { title.Image = 60; })
+                    .Game("CWA");
+  ScriptDraws(world, Then({kSkillsStay}, {{3, 2}}));
+  AgeAndRetire(world);
+  EXPECT_EQ(Sol(world).Position, kNonWrestler);
+  EXPECT_EQ(world.Titles()[1].Holder, Sol(world).Uid);
+  EXPECT_EQ(world.Titles()[1].Image, 60);
 }
 
 TEST(Retirement, TellsOfNonWrestlersOnTheShortlistAndFreesTheirClients) {
@@ -271,6 +318,27 @@ TEST(Retirement, TakesPlaceInAMonthThatIsNotTheBirthdays) {
   EXPECT_EQ(rookie.Split.View(), "None");
 }
 
+TEST(Retirement, GivesARookieAtLeastThirtyPotentialAndNoFloorBelowNothing) {
+  struct Case {
+    int Potential, Floor;  // drawn, for an Over of 20
+    int PotentialAfter, FloorAfter;
+  };
+  constexpr Case kCases[] = {{1, 1, 30, 19}, {10, 19, 30, 1}, {11, 20, 31, 0}, {30, 30, 50, 0}};
+  for (const Case& c : kCases) {
+    World world = With("", [](Worker& worker) {
+      worker.BirthMonth = 6;
+      worker.RetiringSoon = true;
+    });
+    Script draws = Rookie(false);
+    draws.end()[-2] = {30, c.Potential};
+    draws.end()[-1] = {30, c.Floor};
+    ScriptDraws(world, draws);
+    AgeAndRetire(world);
+    EXPECT_EQ(world.Workers()[1].Potential, c.PotentialAfter);
+    EXPECT_EQ(world.Workers()[1].OverFloor, c.FloorAfter);
+  }
+}
+
 TEST(Retirement, BringsADivaForOneWomanInFive) {
   for (const int drawn : {4, 5}) {
     World world = With(
@@ -345,12 +413,20 @@ TEST(Retirement, LeavesNoLinkBehind) {
     incident.Uid = uid;
     world.Incidents().Append(incident);
   }
-  for (const int with : {uid, 1}) {
+  struct Booked {
+    int Style, Place, RunIn;  // where he stands; -1: nowhere
+    bool Stays;
+  };
+  constexpr Booked kBooked[] = {{kSingles, 1, 0, false},  {kSingles, -1, 0, true},
+                                {kTag, 3, 0, false},      {kThreeTeams, 5, 0, false},
+                                {kSingles, -1, 1, false}, {kSingles, 9, 0, true}};
+  for (const Booked& row : kBooked) {
     Segment segment = EmptySegment();
     segment.Kind = kMatch;
-    segment.Style = kSingles;
-    segment.Worker[0] = 2;
-    segment.Worker[1] = with;
+    segment.Style = row.Style;
+    for (std::size_t place = 0; place < 6; ++place) segment.Worker[place] = 1;
+    if (row.Place >= 0) segment.Worker[static_cast<std::size_t>(row.Place)] = uid;
+    if (row.RunIn) segment.Other2 = uid;
     world.Segments().Append(segment);
   }
   ScriptDraws(world, Rookie(false));
@@ -370,8 +446,9 @@ TEST(Retirement, LeavesNoLinkBehind) {
   EXPECT_NE(world.Feuds()[2].Worker1, 0);
   EXPECT_EQ(world.Incidents()[1].Type, 0);
   EXPECT_EQ(world.Incidents()[2].Type, 6) << "a job offer names a promotion";
-  EXPECT_EQ(world.Segments()[1].Kind, kEmptySegment);
-  EXPECT_EQ(world.Segments()[2].Kind, kMatch);
+  int number = 0;
+  for (const Booked& row : kBooked)
+    EXPECT_EQ(world.Segments()[++number].Kind, row.Stays ? kMatch : kEmptySegment) << number;
   EXPECT_EQ(world.Workers()[record].Name.Str(),
             std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[0]));
 }

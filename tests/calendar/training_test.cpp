@@ -245,6 +245,27 @@ TEST(TrainingCampMonth, DrawsByTalentUpToTheFacilities) {
   }
 }
 
+TEST(TrainingCampMonth, TeachesOnlyThePlayersTrainees) {
+  for (const int employer : {0, 99}) {
+    World world = Camp(99, 4);
+    Named(world.Workers(), "Sol Varga").Employer = employer;
+    ScriptDraws(world, {});
+    const World before = CopyOf(world);
+    TrainingCampMonth(world);
+    ExpectSame(world, before);
+  }
+}
+
+TEST(TrainingCampMonth, TeachesAPointUnderATrainerWhomNobodyKnows) {
+  World world = Camp(99, 4);
+  world.Player().HeadTrainer = 999;
+  ScriptDraws(world, std::vector<ScriptedDraw>{{0, 1}, {0, 1}, {0, 1}});
+  TrainingCampMonth(world);
+  const Worker& sol = Named(world.Workers(), "Sol Varga");
+  EXPECT_EQ(sol.Brawl, 11);
+  EXPECT_EQ(sol.Sell, 42);
+}
+
 TEST(TrainingCampMonth, TellsUnlessNever) {
   for (const int option : {0, 2}) {
     World world = Camp(99, 4, {}, [&](GameInfo& game) { game.MailTrain = option; });

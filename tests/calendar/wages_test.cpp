@@ -200,6 +200,23 @@ TEST(StaffContracts, ArePaidRemindedOfAndEnded) {
   ExpectSame(owner, before);
 }
 
+TEST(StaffContracts, EmptyTheirChairsWhenTheyEnd) {
+  for (const bool isPlayers : {true, false}) {
+    World world = StaffContract(isPlayers, 1);
+    for (const bool isWorker : {false, true}) {
+      Show show;
+      show.Owner = world.AllStaff()[1].Employer;
+      show.Announcer = show.Colour = 1;
+      show.ColourIsWorker = isWorker;
+      world.Shows().Append(show);
+    }
+    PayWagesAndContracts(world);
+    EXPECT_EQ(world.Shows()[1].Announcer, 0);
+    EXPECT_EQ(world.Shows()[1].Colour, 0);
+    EXPECT_EQ(world.Shows()[2].Colour, 1) << "a worker of the same number speaks on";
+  }
+}
+
 TEST(StaffContracts, OfRivalsEndUnderTheOption) {
   for (const auto& [option, told] : {std::pair(0, true), {1, true}, {2, false}}) {
     World world = StaffContract(false, 1);

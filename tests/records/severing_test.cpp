@@ -124,6 +124,13 @@ TEST(SeverWorker, ChangesTheWorkerByTable) {
       {"sent away", [](Worker& w) { w.Position = 83; }, [](Worker& w) { w.Position = 3; }},
       {"sent away from the top", [](Worker& w) { w.Position = 81; },
        [](Worker& w) { w.Position = 1; }},
+      {"sent away by nothing", [](Worker& w) { w.Position = 80; }, [](Worker&) {}},
+      {"sent away with a deal",
+       [](Worker& w) {
+         w.Position = 87;
+         w.Over = 81;
+       },
+       [](Worker& w) { w.Position = kUpperMidcard; }},
       {"a manager stays one", [](Worker& w) { w.Position = kManager; }, [](Worker&) {}},
       {"development deal",
        [](Worker& w) {

@@ -207,6 +207,14 @@ TEST(Terminate, NeverTakesReputationOrLoyaltyBelowNothing) {
   ScriptDraws(world, {{3, 3}});
   Terminate(world, bram);
   EXPECT_EQ(world.Game().Reputation, 0);
+  for (const auto& [before, after] : {std::pair(19, 0), {20, 0}, {21, 1}}) {
+    World other = Employed(kGlobal, kGlobal);
+    Bram(other).ContractType = "Non";
+    Bram(other).Loyalty = before;
+    ScriptDraws(other, {{3, 3}});
+    Terminate(other, Bram(other));
+    EXPECT_EQ(Bram(other).Loyalty, after);
+  }
 }
 
 TEST(Terminate, LetsTheUnhappyGoWithoutAPrice) {

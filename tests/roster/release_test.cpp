@@ -46,6 +46,7 @@ TEST(ReleaseWorker, EndsWhateverBoundHim) {
   world.Player().Commissioner = 2;
   world.Player().Split[0] = "Blue";
   Bram(world).Split = "Blue";
+  Named(world.Workers(), "Ilya Marsh").Manager = 2;
   ScriptDraws(world, {{3, 3}});
   ReleaseWorker(world, Bram(world));
   const Worker& bram = Bram(world);
@@ -61,6 +62,7 @@ TEST(ReleaseWorker, EndsWhateverBoundHim) {
   EXPECT_FALSE(bram.TurnPending);
   EXPECT_TRUE(bram.Debuted);
   EXPECT_EQ(world.Player().Commissioner, 0);
+  EXPECT_EQ(Named(world.Workers(), "Ilya Marsh").Manager, 0);
   EXPECT_EQ(world.Feuds()[1].Worker1, 0);
   EXPECT_EQ(world.Feuds()[1].Worker2, 0);
   EXPECT_FALSE(world.Shows()[1].ColourIsWorker);
@@ -77,6 +79,24 @@ TEST(ReleaseWorker, EndsWhateverBoundHim) {
   EXPECT_EQ(Named(world.Titles(), "Crown").Reigns[1].Holder.View(), "Bram Okafor");
   EXPECT_EQ(Named(world.Titles(), "Belt").Holder, 1);
   for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
+}
+
+TEST(PartWith, OfUidNobodyTouchesNothingOfNobodys) {
+  World world = Employed()
+                    .Network("Ten")
+                    .Show("Fire", "Friday", "Nine", [](Show& show) { show.ColourIsWorker = true; })
+                    .Title("Crown")
+                    .Game("CWA")
+                    .BuildUnchecked();
+  Bram(world).Uid = 0;
+  World expected = CopyOf(world);
+  PartWith(world, Bram(world));
+  Worker& nobody = Bram(expected);
+  nobody.Employer = 0;
+  nobody.ContractMonths = 0;
+  nobody.ContractType = "Non";
+  nobody.Debuted = true;
+  ExpectSame(world, expected);
 }
 
 TEST(ReleaseWorker, GivesThoseKeptAwayAPlaceAgain) {
@@ -191,6 +211,38 @@ TEST(ReleaseWorker, SignsHimOnTheTermsOfTheSize) {
     EXPECT_EQ(bram.Wage, 12);
     EXPECT_EQ(NewsOf(world), "NEW News: Bram Okafor has signed for NEW!\n");
   }
+}
+
+TEST(ReleaseWorker, LeavesTheWageAndStopsOverAndMoraleAtAHundred) {
+  World world = Employed([](Worker& worker) {
+                  worker.Over = 99;
+                  worker.Wage = 188;  // more than a Global promotion pays at most
+                  worker.Morale = 90;
+                })
+                    .Promotion("NEW", kGlobal)
+                    .Game("CWA");
+  ScriptDraws(world, {{3, 1}, {80, 7}, {3, 3}});
+  ReleaseWorker(world, Bram(world));
+  EXPECT_EQ(Bram(world).Employer, Named(world.Promotions(), "NEW").Uid);
+  EXPECT_EQ(Bram(world).Wage, 188);
+  EXPECT_EQ(Bram(world).Over, 100);
+  EXPECT_EQ(Bram(world).Morale, 100);
+}
+
+TEST(ReleaseWorker, PassesOverAPromotionThatIsGoneWithoutADraw) {
+  World world = Employed().Promotion("NEW", kCult).Game("CWA");
+  Named(world.Promotions(), "NEW").Name = kToBeDeleted;
+  ScriptDraws(world, {{3, 1}});
+  ReleaseWorker(world, Bram(world));
+  EXPECT_EQ(Bram(world).Employer, 0);
+}
+
+TEST(ReleaseWorker, TakesTheOfficeOfAnyPromotion) {
+  World world = Employed().Promotion("NEW", kCult).Game("CWA");
+  for (Promotion& promotion : world.Promotions()) promotion.Commissioner = 2;
+  ScriptDraws(world, {{3, 2}});
+  ReleaseWorker(world, Bram(world));
+  for (const Promotion& promotion : world.Promotions()) EXPECT_EQ(promotion.Commissioner, 0);
 }
 
 TEST(ReleaseWorker, TellsOfTheSigningUnderTheOption) {

@@ -165,6 +165,15 @@ TEST(JudgeRenewal, HearsEachObjectionAloneAtItsEdge) {
   }
 }
 
+TEST(JudgeRenewal, HearsOfControlFromStarsOfThirtyOneToFortyNine) {
+  for (const auto& [age, wants] : {std::pair(30, false), {31, true}, {49, true}, {50, false}}) {
+    Talk talk;
+    Veteran(talk);
+    talk.Who.Age = age;
+    EXPECT_EQ(talk.Judge().Accepted, !wants) << age;
+  }
+}
+
 TEST(JudgeRenewal, SaysNothingMoreAfterAnObjection) {
   for (const Objection& objection : Objections()) {
     Talk talk;

@@ -65,7 +65,8 @@ const std::vector<Objection>& Objections() {
          t.Who.Brawl = 61;
          t.Offer.Wage = 119;
        },
-       {[](Talk& t) { t.Offer.Wage = 120; }, [](Talk& t) { t.Who.Brawl = 60; }},
+       {[](Talk& t) { t.Offer.Wage = 120; }, [](Talk& t) { t.Who.Brawl = 60; },
+        [](Talk& t) { t.Wants.Position = kManager; }},
        "I do not want to become a manager!"},
       {[](Talk& t) {
          t.Wants.Position = kNonWrestler;
@@ -82,11 +83,19 @@ const std::vector<Objection>& Objections() {
        {[](Talk& t) { t.Who.Age = 35; }},
        "I only wish to work as a non-wrestler!"},
       {[](Talk& t) {
+         t.Wants.Position = kNonWrestler;
+         t.Who.Technical = 61;
+         t.Who.Age = 36;
+       },
+       {[](Talk& t) { t.Offer.Wage = 140; }},
+       "I only wish to work as a non-wrestler!"},
+      {[](Talk& t) {
          t.Offer.Position = kNonWrestler;
          t.Who.Technical = 61;
          t.Offer.Wage = 129;
        },
-       {[](Talk& t) { t.Offer.Wage = 130; }, [](Talk& t) { t.Who.Technical = 60; }},
+       {[](Talk& t) { t.Offer.Wage = 130; }, [](Talk& t) { t.Who.Technical = 60; },
+        [](Talk& t) { t.Wants.Position = kNonWrestler; }},
        "I do not want to become a non-wrestler!"},
       {[](Talk& t) {
          t.Offer.Position = kTrainingCamp;
@@ -137,7 +146,8 @@ const std::vector<Objection>& Objections() {
          t.Wants.Wage = 119;  // 15 percent of it are 17
          t.Offer.Wage = 137;
        },
-       {[](Talk& t) { t.Offer.Wage = 136; }, [](Talk& t) { t.Offer.Months = 48; }},
+       {[](Talk& t) { t.Offer.Wage = 136; }, [](Talk& t) { t.Offer.Months = 48; },
+        [](Talk& t) { t.Wants.Months = 36; }},
        "I want extra money to sign for this amount of time!"},
       {[](Talk& t) {
          t.Offer.Months = 31;
@@ -164,6 +174,30 @@ TEST(JudgeSigning, HearsEachObjectionAloneAtItsEdge) {
       objection.HoldsNot[edge](near);
       EXPECT_EQ(near.Judge(), "") << "edge " << edge;
     }
+  }
+}
+
+TEST(JudgeSigning, DropsWhatIsLeftOfAThousandOfThePriceItNames) {
+  struct Case {
+    Twist Wants;
+    int Price;  // of 104: 124.8, 135.2 and 145.6
+  };
+  constexpr Case kCases[] = {{[](Talk& t) { t.Wants.CreativeControl = true; }, 124},
+                             {[](Talk& t) { t.Wants.Position = kManager; }, 124},
+                             {[](Talk& t) {
+                                t.Offer.Position = kNonWrestler;
+                                t.Who.Speed = 61;
+                              },
+                              135},
+                             {[](Talk& t) { t.Wants.Position = kNonWrestler; }, 145}};
+  for (const Case& c : kCases) {
+    Talk talk;
+    talk.Wants.Wage = 104;
+    c.Wants(talk);
+    talk.Offer.Wage = c.Price - 1;
+    EXPECT_NE(talk.Judge(), "") << c.Price;
+    talk.Offer.Wage = c.Price;
+    EXPECT_EQ(talk.Judge(), "") << c.Price;
   }
 }
 
@@ -319,6 +353,10 @@ TEST(WhyNotAsOffered, LooksAtTheNames) {
         {"Bram Okafor", "", kBlankShort},
         {"Caf\xe9 Fred", "Caf\xe9", ""},
         {"Fred\nFred", "Fred", "A name is one line of plain text."},
+        {"Fred\x7F", "Fred", "A name is one line of plain text."},
+        {"\xA0Rival Ray\xA0", "Fred", kTaken},
+        {"\xA0", "Fred", kBlank},
+        {"Vacant", "Fred", "\"Vacant\" has a meaning of its own and cannot be a name."},
         {"None", "Fred", "\"None\" stands for nothing at all and cannot be a name."}})
     EXPECT_EQ(WhyNotAsOffered(world, fred, Called(name, shortName)), why) << name << shortName;
 }
@@ -343,16 +381,25 @@ TEST(WhyNotAsOffered, NeedsTheCampOrTerritoryItSendsTo) {
 
 TEST(Sign, ChangesTheRecordAndLeavesNothingBehind) {
   World world = Market()
+                    .Network("Nine")
                     .Promotion("ACE", kCult)
+                    .Worker("Client")
                     .Worker("Star Stan", kNonWrestler, 50,
                             [](Worker& w) {
                               w.Split = "Red";
                               w.Manager = 1;
                               w.CreativeControl = true;
                             })
-                    .Title("Ace Crown", "Star Stan")
+                    .Title("Ace Crown", "Star Stan", {}, [](Title& t) { t.Image = 90; })
+                    .Show("Ace Hour", "Monday", "Nine",
+                          [](Show& show) {
+                            show.ColourIsWorker = true;
+                            show.Colour = 5;
+                          })
                     .Game("CWA");
   Worker& stan = Named(world.Workers(), "Star Stan");
+  ASSERT_EQ(stan.Uid, 5);
+  Named(world.Workers(), "Client").Manager = 5;
   Promotion& ace = Named(world.Promotions(), "ACE");
   ace.Commissioner = int(stan.Uid);
   const long long money = ace.Money;
@@ -377,6 +424,10 @@ TEST(Sign, ChangesTheRecordAndLeavesNothingBehind) {
   EXPECT_EQ(ace.Money, money);
   EXPECT_EQ(ace.Commissioner, 0);
   EXPECT_EQ(Named(world.Titles(), "Ace Crown").Holder, 0);
+  EXPECT_EQ(Named(world.Titles(), "Ace Crown").Image, 70);
+  EXPECT_EQ(Named(world.Workers(), "Client").Manager, 0);
+  EXPECT_EQ(world.Shows()[1].Colour, 0);
+  EXPECT_FALSE(world.Shows()[1].ColourIsWorker);
   for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
 }
 

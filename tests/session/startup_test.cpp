@@ -231,6 +231,27 @@ TEST(LoadGame, SaysWhenAnotherProgramHasTheSlot) {
   EXPECT_FALSE(home.Play.HasWorld());
 }
 
+TEST(LoadGame, RemarksOnFilesThatAreNearlyFull) {
+  HomeFolder home(TwoPromotions());
+  home.StartNewGame();
+  World& world = home.Play.World();
+  for (int uid = 2; uid <= 900; ++uid) {
+    Network network = world.Networks()[1];
+    network.Uid = uid;
+    network.Name = "Network " + std::to_string(uid);
+    world.Networks().Append(network);
+  }
+  home.Play.Commit();
+  home.Play.CloseSlot();
+  home.Desk.CloseAll();
+  home.Desk.Open("frmLoadGame");
+  home.Desk.ExpectSay("Loading",
+                      "network.dat holds 900 networks; 1000 is the most. Start the next game from "
+                      "a smaller database.");
+  home.Desk.Click("cmdload1");
+  EXPECT_EQ(home.Desk.TopName(), "frmMainScreen");
+}
+
 TEST(LoadGame, RefusesAGameWhosePromotionIsGone) {
   HomeFolder home(TwoPromotions());
   home.StartNewGame();
