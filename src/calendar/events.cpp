@@ -41,9 +41,8 @@ Day LastSunday(int year, int month) {
 
 /// The player's Event of the month, to be changed; nullptr for none.
 Event* Planned(World& world, int month) {
-  for (Event& event : world.Events())
-    if (event.Owner == world.PlayerUid() && event.Month == month) return &event;
-  return nullptr;
+  const Event* event = PlayerEvent(world, month);
+  return event ? &world.Events()[world.Events().NumberOf(*event)] : nullptr;
 }
 
 }  // namespace
@@ -93,14 +92,9 @@ std::string WhyNotEventType(const Promotion& promotion, int type) {
 }
 
 std::string WhyNotEventName(const World& world, int month, std::string_view name) {
-  constexpr std::size_t kLetters = decltype(Event::Name)::kWidth;
-  if (std::string why = WhyNoName(name); !why.empty()) return why;
+  constexpr int kLetters = decltype(Event::Name)::kWidth;
+  if (std::string why = WhyNoName(name, kLetters); !why.empty()) return why;
   name = TrimmedName(name);
-  if (name.size() > kLetters)
-    return "An Event's name has at most 20 letters. This one has " + std::to_string(name.size()) +
-           ".";
-  if (name == kToBeDeleted)
-    return "\"" + std::string(name) + "\" has a meaning of its own and cannot be a name.";
   const bool taken =
       std::any_of(world.Events().begin(), world.Events().end(), [&](const Event& event) {
         return event.Owner == world.PlayerUid() && event.Month != month && event.Name == name;

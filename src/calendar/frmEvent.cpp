@@ -111,27 +111,22 @@ class frmEvent : public ui::Screen {
                                     : "");
   }
 
-  bool Fail(const std::string& why) {
-    if (!why.empty()) desk().Say("Error!", why);
-    return !why.empty();
-  }
-
   void cmdadd_Click() {
     const std::string name = txtname.Text.Get();
-    if (Fail(WhyNotPlan(world(), Month(), name, cmbtype.Key()))) return;
+    if (desk().Objects(WhyNotPlan(world(), Month(), name, cmbtype.Key()))) return;
     PlanEvent(world(), Month(), name, cmbtype.Key());
     Return();
   }
 
   void cmdrename_Click() {
     const std::string name = txtname.Text.Get();
-    if (Fail(WhyNotEventName(world(), Month(), name))) return;
+    if (desk().Objects(WhyNotEventName(world(), Month(), name))) return;
     RenameEvent(world(), Month(), name);
     Return();
   }
 
   void cmdtype_Click() {
-    if (Fail(WhyNotEventType(world().Player(), cmbtype.Key()))) return;
+    if (desk().Objects(WhyNotEventType(world().Player(), cmbtype.Key()))) return;
     ChangeEventType(world(), Month(), cmbtype.Key());
     Return();
   }

@@ -134,8 +134,7 @@ bool FeudExists(const World& world, const FeudSides& sides) {
 bool MayFeud(const World& world, const Worker& worker) {
   const bool isSeen =
       IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
-  return worker.Employer != 0 && worker.Employer == world.PlayerUid() && worker.Status == "Nor" &&
-         isSeen;
+  return WorksForPlayer(world, worker) && worker.Status == "Nor" && isSeen;
 }
 
 std::vector<const Worker*> FeudRoster(const World& world) {

@@ -144,15 +144,10 @@ class frmBelts : public ui::Screen {
     ShowTitle();
   }
 
-  bool Fail(const std::string& why) {
-    if (!why.empty()) desk().Say("Error!", why);
-    return !why.empty();
-  }
-
   void cmdcreate_Click() {
     const TitleTerms terms{txtname.Text.Get(), cmbkind.Key() == kForOne, chkwoman.Checked,
                            chklight.Checked};
-    if (Fail(WhyNotTitleName(world(), terms.Name))) return;
+    if (desk().Objects(WhyNotCreate(world(), terms))) return;
     const int number = CreateTitle(world(), terms);
     ShowTitles();
     lsttitles.SelectKey(number);
@@ -161,7 +156,7 @@ class frmBelts : public ui::Screen {
 
   void cmdrename_Click() {
     if (Chosen()->Name == TrimmedName(txtname.Text.Get())) return;
-    if (Fail(WhyNotTitleName(world(), txtname.Text.Get()))) return;
+    if (desk().Objects(WhyNotTitleName(world(), txtname.Text.Get()))) return;
     RenameTitle(world(), lsttitles.Key(), txtname.Text.Get());
     Return();
   }

@@ -86,7 +86,7 @@ class frmStables : public ui::Screen {
     return StatusCell(worker);
   }
   static ui::Cell InCell(const Worker& worker) {
-    return {worker.Stable == "None" ? "" : worker.Stable.View(), ui::Tone::Muted};
+    return {IsInStable(worker) ? worker.Stable.View() : "", ui::Tone::Muted};
   }
 
   void ShowButtons() {
@@ -106,14 +106,9 @@ class frmStables : public ui::Screen {
     ShowStable();
   }
 
-  bool Fail(const std::string& why) {
-    if (!why.empty()) desk().Say("Error!", why);
-    return !why.empty();
-  }
-
   void cmdcreate_Click() {
     const std::string name(TrimmedName(txtname.Text.Get()));
-    if (Fail(WhyNotStableName(world(), name))) return;
+    if (desk().Objects(WhyNotFound(world(), name))) return;
     FoundStable(world(), name);
     ShowStables();
     lststables.Select(lststables.Count());
@@ -123,7 +118,7 @@ class frmStables : public ui::Screen {
   void cmdrename_Click() {
     const std::string name(TrimmedName(txtname.Text.Get()));
     if (name == Chosen()) return;
-    if (Fail(WhyNotStableName(world(), name))) return;
+    if (desk().Objects(WhyNotStableName(world(), name))) return;
     RenameStable(world(), Chosen(), name);
     ShowStables();
     lststables_Click();
@@ -148,7 +143,7 @@ class frmStables : public ui::Screen {
 
   void cmdadd_Click() {
     Worker* worker = world().FindWorker(lstwres.Key());
-    if (!worker || Fail(WhyNotJoin(world(), Chosen(), *worker))) return;
+    if (!worker || desk().Objects(WhyNotJoin(world(), Chosen(), *worker))) return;
     JoinStable(*worker, Chosen());
     Return();
   }
@@ -179,10 +174,10 @@ class frmStables : public ui::Screen {
   ui::Button cmdcreate{*this, "cmdcreate", "Found A Stable", &frmStables::cmdcreate_Click};
   ui::Button cmdrename{*this, "cmdrename", "Rename", &frmStables::cmdrename_Click};
   ui::ListBox lstmembers{*this, "lstmembers", PeopleColumns("", K::Tag), &frmStables::ShowButtons,
-                         &frmStables::cmdremove_Click};
+                         cmdremove};
   ui::Button cmdremove{*this, "cmdremove", "Take Out", &frmStables::cmdremove_Click};
   ui::ListBox lstwres{*this, "lstwres", PeopleColumns("In", K::Text), &frmStables::ShowButtons,
-                      &frmStables::cmdadd_Click};
+                      cmdadd};
   ui::Button cmdadd{*this, "cmdadd", "Add To The Stable", &frmStables::cmdadd_Click};
   ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmStables::cmddissolve_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmStables::cmdback_Click};

@@ -92,18 +92,14 @@ class frmTagTeams : public ui::Screen {
     ShowButtons();
   }
 
-  bool Fail(const std::string& why) {
-    if (!why.empty()) desk().Say("Error!", why);
-    return !why.empty();
-  }
-
   std::string Typed(ui::TextBox& box) { return std::string(TrimmedName(box.Text.Get())); }
 
   void cmdcreate_Click() {
     const int first = lstwres(1).Key(), second = lstwres(2).Key();
     const std::string name = Typed(txtname), finisher = Typed(txtfinisher);
-    if (Fail(WhyNotTeam(world(), first, second))) return;
-    if (Fail(WhyNotTeamName(world(), name)) || Fail(WhyNotFinisher(finisher))) return;
+    if (desk().Objects(WhyNotTeam(world(), first, second))) return;
+    if (desk().Objects(WhyNotTeamName(world(), name)) || desk().Objects(WhyNotFinisher(finisher)))
+      return;
     const int number = FormTeam(world(), name, first, second, finisher);
     ShowTeams();
     lstteams.SelectKey(number);
@@ -112,7 +108,7 @@ class frmTagTeams : public ui::Screen {
 
   void cmdrename_Click() {
     const std::string name = Typed(txtname);
-    if (Chosen()->Name == name || Fail(WhyNotTeamName(world(), name))) return;
+    if (Chosen()->Name == name || desk().Objects(WhyNotTeamName(world(), name))) return;
     Chosen()->Name = name;
     ShowTeams();
     lstteams_Click();
@@ -120,7 +116,7 @@ class frmTagTeams : public ui::Screen {
 
   void cmdfinisher_Click() {
     const std::string finisher = Typed(txtfinisher);
-    if (Fail(WhyNotFinisher(finisher))) return;
+    if (desk().Objects(WhyNotFinisher(finisher))) return;
     SetTeamFinisher(*Chosen(), finisher);
     ShowTeams();
     lstteams_Click();

@@ -101,7 +101,7 @@ class frmTurn : public ui::Screen {
 
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstwres{*this, "lstwres", Columns(), &frmTurn::ShowTurn, &frmTurn::cmdturn_Click};
+  ui::ListBox lstwres{*this, "lstwres", Columns(), &frmTurn::ShowTurn, cmdturn};
   ui::Report txtturn{*this, "txtturn"};
   ui::Button cmdturn{*this, "cmdturn", "Prepare A Turn", &frmTurn::cmdturn_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmTurn::cmdback_Click};

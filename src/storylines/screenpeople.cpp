@@ -1,7 +1,5 @@
 #include "storylines/screenpeople.h"
 
-#include <algorithm>
-
 #include "records/modWresCheck.h"
 
 namespace grapplemont {
@@ -39,14 +37,13 @@ void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people) {
   list.Fill(std::move(rows));
 }
 
-void SortByOver(std::vector<const Worker*>& people) {
-  std::stable_sort(people.begin(), people.end(),
-                   [](const Worker* a, const Worker* b) { return a->Over > b->Over; });
-}
-
 void EnableUnless(ui::Control& control, const std::string& why) {
   control.Enabled = why.empty();
   control.Tip = why;
+}
+
+void EnableUnless(Controls controls, const std::string& why) {
+  for (ui::Control& control : controls) EnableUnless(control, why);
 }
 
 }  // namespace grapplemont

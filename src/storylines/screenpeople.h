@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -20,10 +22,10 @@ std::vector<ui::Column> ShortColumns();
 std::vector<ui::Cell> ShortRow(const Worker& worker);
 /// Fills a table of ShortColumns; what is selected stays so.
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people);
-/// Most popular first, those alike in the order of the file.
-void SortByOver(std::vector<const Worker*>& people);
 
 /// Enables a control or tells on it why it is of no use.
 void EnableUnless(ui::Control& control, const std::string& why);
+using Controls = std::initializer_list<std::reference_wrapper<ui::Control>>;
+void EnableUnless(Controls controls, const std::string& why);
 
 }  // namespace grapplemont

@@ -19,6 +19,12 @@ ui::Cell ChampionCell(const World& world, const Title& title) {
   return {ChampionText(world, title), title.Holder == 0 ? ui::Tone::Muted : ui::Tone::Plain};
 }
 
+ui::Cell StandingCell(const World& world, const Title& title) {
+  if (title.Suspended) return {"Suspended", ui::Tone::Red};
+  const std::string why = WhyNoDefence(world, title);
+  return {why.empty() ? why : "Holder " + why, ui::Tone::Amber};
+}
+
 }  // namespace
 
 std::vector<ui::Column> TitleColumns() {
@@ -28,13 +34,13 @@ std::vector<ui::Column> TitleColumns() {
           {"Holder"},
           {"Since", K::Date},
           {"Image", K::Percent, 0, "How much the fans make of it."},
-          {"State", K::Tag}};
+          {"State", K::Tag, 0, "Suspended, or what keeps its holder from defending it."}};
 }
 
 ui::ListBox::Row TitleRow(const World& world, const Title& title) {
   return {{title.Name.View(), ui::Cell(KindText(title)), ChampionCell(world, title),
            title.Holder == 0 ? ui::Cell("") : DateCell(title.Reigns[0].Won, kFromTheStart),
-           ui::Cell(title.Image), ui::Cell(title.Suspended ? "Suspended" : "", ui::Tone::Red)},
+           ui::Cell(title.Image), StandingCell(world, title)},
           world.Titles().NumberOf(title)};
 }
 

@@ -9,7 +9,7 @@
 
 namespace grapplemont {
 
-/// Name, kind, holder, since when, image, and whether it is suspended.
+/// Name, kind, holder, since when, image, and whether it can be fought for.
 std::vector<ui::Column> TitleColumns();
 /// Its key is the record's number.
 ui::ListBox::Row TitleRow(const World& world, const Title& title);

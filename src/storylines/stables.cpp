@@ -16,7 +16,7 @@ bool IsPlayers(const World& world, const Stable& stable) {
 }
 
 bool IsIn(const World& world, const Worker& worker, std::string_view stable) {
-  return worker.Employer != 0 && worker.Employer == world.PlayerUid() && worker.Stable == stable;
+  return WorksForPlayer(world, worker) && worker.Stable == stable;
 }
 
 /// What a show has held already stays as it was told.
@@ -31,7 +31,7 @@ std::vector<const Worker*> StableMembers(const World& world, std::string_view st
   std::vector<const Worker*> members;
   if (stable.empty() || stable == "None") return members;
   for (const Worker& worker : world.Workers())
-    if (worker.Employer == world.PlayerUid() && worker.Stable == stable) members.push_back(&worker);
+    if (IsIn(world, worker, stable)) members.push_back(&worker);
   return members;
 }
 
@@ -59,8 +59,13 @@ std::vector<const Stable*> PlayerStables(const World& world) {
 
 std::string WhyNotStableName(const World& world, std::string_view name) {
   if (std::string why = WhyNoName(name); !why.empty()) return why;
-  if (FindStable(world, name)) return "There is a stable called " + std::string(name) + " already.";
-  return world.Stables().Full() ? "No more stables can be kept." : "";
+  return FindStable(world, name) ? "There is a stable called " + std::string(name) + " already."
+                                 : "";
+}
+
+std::string WhyNotFound(const World& world, std::string_view name) {
+  if (world.Stables().Full()) return "No more stables can be kept.";
+  return WhyNotStableName(world, name);
 }
 
 void FoundStable(World& world, std::string_view name) {
@@ -75,7 +80,7 @@ void RenameStable(World& world, std::string_view from, std::string_view to) {
   for (Worker& worker : world.Workers())
     if (IsIn(world, worker, before)) worker.Stable = to;
   for (Segment& segment : world.Segments())
-    if (segment.Text == before) segment.Text = to;
+    if (IsBookedFor(segment, before)) segment.Text = to;
   for (Stable& stable : world.Stables())
     if (IsPlayers(world, stable) && stable.Name == before) stable.Name = to;
 }
@@ -96,9 +101,14 @@ void DissolveStable(World& world, std::string_view stable) {
       [&](const Stable& kept) { return !(IsPlayers(world, kept) && kept.Name == name); });
 }
 
+bool IsInStable(const Worker& worker) {
+  return !worker.Stable.View().empty() && !(worker.Stable == "None");
+}
+
 std::string WhyNotJoin(const World& world, std::string_view stable, const Worker& worker) {
+  if (stable.empty()) return "Choose a stable first.";
   if (worker.Stable == stable) return worker.Name + " is in " + std::string(stable) + " already.";
-  if (!(worker.Stable == "None"))
+  if (IsInStable(worker))
     return worker.Name + " belongs to " + worker.Stable.Str() + ". Take " +
            std::string(HimOrHer(worker)) + " out of it first.";
   if (static_cast<int>(StableMembers(world, stable).size()) >= kFullStable)

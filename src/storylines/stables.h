@@ -22,16 +22,20 @@ std::vector<const Stable*> PlayerStables(const World& world);
 
 /// Why no stable can have this name from now on; empty when one can.
 std::string WhyNotStableName(const World& world, std::string_view name);
-/// Founds a stable of the player's. Requires a name that can be had.
+/// Why no stable can be founded under this name; empty when one can.
+std::string WhyNotFound(const World& world, std::string_view name);
+/// Founds a stable of the player's. Requires that nothing stands against it.
 void FoundStable(World& world, std::string_view name);
-/// Its members go with the new name, and so does what is booked for it. Requires a name that can be
-/// had.
+/// Its members go with the new name, and so does what is booked for it and not held yet. Requires a
+/// name that can be had.
 void RenameStable(World& world, std::string_view from, std::string_view to);
 /// How many Segments are booked for a stable and have not been held yet.
 int BookedFor(const World& world, std::string_view stable);
 /// Its members are in none then, and what is booked for it is taken off the sheet.
 void DissolveStable(World& world, std::string_view stable);
 
+/// Whether he belongs to any stable.
+bool IsInStable(const Worker& worker);
 /// Why the worker cannot join; empty when he can.
 std::string WhyNotJoin(const World& world, std::string_view stable, const Worker& worker);
 void JoinStable(Worker& worker, std::string_view stable);

@@ -2,20 +2,39 @@
 
 #include <algorithm>
 
+#include "records/modWresCheck.h"
+
 namespace grapplemont {
 
+namespace {
+
+// The last is the blank of Windows-1252 at which no line breaks: it cannot be told from any other.
+constexpr std::string_view kBlanks = " \t\n\r\xA0";
+
+/// What the files mean something by.
+constexpr std::string_view kReserved[] = {kVacantHolder, kToBeDeleted};
+
+/// The control codes, the five among them that Windows-1252 leaves open above the letters.
+bool IsControl(char letter) {
+  constexpr std::string_view kOpen = "\x7F\x81\x8D\x8F\x90\x9D";
+  return (letter >= 0 && letter < ' ') || kOpen.find(letter) != std::string_view::npos;
+}
+
+}  // namespace
+
 std::string_view TrimmedName(std::string_view name) {
-  const auto from = name.find_first_not_of(" \t\n\r");
+  const auto from = name.find_first_not_of(kBlanks);
   if (from == std::string_view::npos) return {};
-  return name.substr(from, name.find_last_not_of(" \t\n\r") - from + 1);
+  return name.substr(from, name.find_last_not_of(kBlanks) - from + 1);
 }
 
 std::string WhyNoName(std::string_view name, int letters) {
   name = TrimmedName(name);
   if (name.empty()) return "Type a name first.";
   if (name == "None") return "\"None\" stands for nothing at all and cannot be a name.";
-  if (std::any_of(name.begin(), name.end(), [](char c) { return c >= 0 && c < ' '; }))
-    return "A name is one line of plain text.";
+  if (std::find(std::begin(kReserved), std::end(kReserved), name) != std::end(kReserved))
+    return "\"" + std::string(name) + "\" has a meaning of its own and cannot be a name.";
+  if (std::any_of(name.begin(), name.end(), IsControl)) return "A name is one line of plain text.";
   if (static_cast<int>(name.size()) > letters)
     return "A name has at most " + std::to_string(letters) + " letters. This one has " +
            std::to_string(name.size()) + ".";
@@ -27,12 +46,15 @@ std::vector<const Worker*> SeenOnShows(const World& world) {
   for (const Worker& worker : world.Workers()) {
     const bool onShows =
         IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
-    if (worker.Employer != 0 && worker.Employer == world.PlayerUid() && onShows)
-      seen.push_back(&worker);
+    if (WorksForPlayer(world, worker) && onShows) seen.push_back(&worker);
   }
-  std::stable_sort(seen.begin(), seen.end(),
-                   [](const Worker* a, const Worker* b) { return a->Over > b->Over; });
+  SortByOver(seen);
   return seen;
+}
+
+void SortByOver(std::vector<const Worker*>& people) {
+  std::stable_sort(people.begin(), people.end(),
+                   [](const Worker* a, const Worker* b) { return a->Over > b->Over; });
 }
 
 std::string_view HimOrHer(const Worker& worker) {

@@ -12,7 +12,8 @@ namespace grapplemont {
 
 /// As much as the records hold of a name.
 inline constexpr int kNameLetters = 25;
-/// Why this can be no name at all, of so many letters; empty when it can.
+/// Why this can be no name at all, of so many letters: it is blank, too long, more than a line, or
+/// a word that the files mean something by. Empty when it can.
 std::string WhyNoName(std::string_view name, int letters = kNameLetters);
 /// Without blanks at its ends.
 std::string_view TrimmedName(std::string_view name);
@@ -20,6 +21,8 @@ std::string_view TrimmedName(std::string_view name);
 /// Everybody of the player's who is seen on the shows, fit or not: wrestlers, managers and
 /// non-wrestlers. The most popular first.
 std::vector<const Worker*> SeenOnShows(const World& world);
+/// Most popular first, those alike in the order of the file.
+void SortByOver(std::vector<const Worker*>& people);
 /// "him" or "her".
 std::string_view HimOrHer(const Worker& worker);
 

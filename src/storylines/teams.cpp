@@ -11,7 +11,7 @@ namespace {
 
 bool IsPlayers(const World& world, int uid) {
   const Worker* worker = world.FindWorker(uid);
-  return worker && worker->Employer != 0 && worker->Employer == world.PlayerUid();
+  return worker && WorksForPlayer(world, *worker);
 }
 
 }  // namespace

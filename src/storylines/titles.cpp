@@ -26,9 +26,12 @@ bool IsBookedFor(const Segment& segment, const Title& title) {
          segment.Rating == 0;
 }
 
+/// What keeps somebody from the ring, in a word or two.
+constexpr std::pair<const char*, const char*> kAbsences[] = {
+    {"Inj", "injured"}, {"Sus", "suspended"}, {"Reh", "in rehab"}, {"Hom", "sitting out"}};
+
 bool MayHold(const World& world, const Title& title, const Worker& worker) {
-  return worker.Employer != 0 && worker.Employer == world.PlayerUid() && IsOnRoster(worker) &&
-         worker.Status == "Nor" && FitsTitle(title, worker);
+  return WorksForPlayer(world, worker) && WhyNotDefend(title, worker).empty();
 }
 
 std::string WhyNotHold(const World& world, const Title& title, int uid) {
@@ -38,8 +41,6 @@ std::string WhyNotHold(const World& world, const Title& title, int uid) {
   return MayHold(world, title, *worker) ? "" : worker->Name + " is no fit wrestler of yours.";
 }
 
-constexpr std::string_view kReserved[] = {"Vacant", kToBeDeleted};
-
 }  // namespace
 
 bool IsPlayers(const World& world, const Title& title) {
@@ -47,7 +48,7 @@ bool IsPlayers(const World& world, const Title& title) {
 }
 
 std::string ChampionText(const World& world, const Title& title) {
-  if (title.Holder == 0) return "Vacant";
+  if (title.Holder == 0) return std::string(kVacantHolder);
   return title.Partner == 0 ? WorkerName(world, title.Holder)
                             : PairName(world, title.Holder, title.Partner);
 }
@@ -61,18 +62,34 @@ bool FitsTitle(const Title& title, const Worker& worker) {
   return !(title.Lightweight && !(worker.Weight == "L")) && !(title.Woman && worker.Gender);
 }
 
+std::string WhyNotDefend(const Title& title, const Worker& worker) {
+  if (IsInDevelopment(worker) || worker.Position == kTrainingCamp) return "sent away";
+  if (!IsOnRoster(worker)) return "no wrestler";
+  for (const auto& [status, words] : kAbsences)
+    if (worker.Status == status) return words;
+  if (!(worker.Status == "Nor")) return "unfit";
+  return FitsTitle(title, worker) ? "" : "not eligible";
+}
+
+std::string WhyNoDefence(const World& world, const Title& title) {
+  for (const int uid : {int(title.Holder), int(title.Partner)}) {
+    const Worker* holder = world.FindWorker(uid);
+    if (!holder) continue;
+    if (std::string why = WhyNotDefend(title, *holder); !why.empty()) return why;
+  }
+  return {};
+}
+
 std::string WhyNotTitleName(const World& world, std::string_view name) {
-  constexpr std::size_t kLetters = decltype(Title::Name)::kWidth;
-  if (std::string why = WhyNoName(name); !why.empty()) return why;
+  constexpr int kLetters = decltype(Title::Name)::kWidth;
+  if (std::string why = WhyNoName(name, kLetters); !why.empty()) return why;
   name = TrimmedName(name);
-  if (name.size() > kLetters)
-    return "A Title's name has at most 20 letters. This one has " + std::to_string(name.size()) +
-           ".";
-  for (const std::string_view reserved : kReserved)
-    if (name == reserved)
-      return "\"" + std::string(name) + "\" has a meaning of its own and cannot be a name.";
-  if (FindTitle(world, name)) return "There is a Title called " + std::string(name) + " already.";
-  return world.Titles().Full() ? "No more Titles can be kept." : "";
+  return FindTitle(world, name) ? "There is a Title called " + std::string(name) + " already." : "";
+}
+
+std::string WhyNotCreate(const World& world, const TitleTerms& terms) {
+  if (world.Titles().Full()) return "No more Titles can be kept.";
+  return WhyNotTitleName(world, terms.Name);
 }
 
 int CreateTitle(World& world, const TitleTerms& terms) {
@@ -89,16 +106,15 @@ int CreateTitle(World& world, const TitleTerms& terms) {
     reign.Lost = kNoTitleDate;
   }
   title.Reigns[0].Won = world.Today();
-  title.Reigns[0].Holder = "Vacant";
+  title.Reigns[0].Holder = kVacantHolder;
   world.Titles().Append(title);
   return world.Titles().Count();
 }
 
 void RenameTitle(World& world, int number, std::string_view name) {
   Title& title = world.Titles()[number];
-  const std::string before = title.Name.Str();
   for (Segment& segment : world.Segments())
-    if (segment.TitleName == before) segment.TitleName = TrimmedName(name);
+    if (IsBookedFor(segment, title)) segment.TitleName = TrimmedName(name);
   title.Name = TrimmedName(name);
 }
 

@@ -30,12 +30,19 @@ std::string KindText(const Title& title);
 /// Whether the worker's weight and sex allow him to hold it.
 bool FitsTitle(const Title& title, const Worker& worker);
 
+/// What keeps him from defending it, as "injured" or "no wrestler"; empty when nothing does.
+std::string WhyNotDefend(const Title& title, const Worker& worker);
+/// The same of those who hold it; empty for a vacant Title.
+std::string WhyNoDefence(const World& world, const Title& title);
+
 /// Why no Title can have this name from now on; empty when one can.
 std::string WhyNotTitleName(const World& world, std::string_view name);
-/// A vacant Title of the player's, active at once; gives its number. Requires a name that can be
-/// had.
+/// Why no such Title can be made; empty when it can.
+std::string WhyNotCreate(const World& world, const TitleTerms& terms);
+/// A vacant Title of the player's, active at once; gives its number. Requires that nothing stands
+/// against it.
 int CreateTitle(World& world, const TitleTerms& terms);
-/// What is booked for it follows. Requires a name that can be had.
+/// What is booked for it and not held yet follows. Requires a name that can be had.
 void RenameTitle(World& world, int number, std::string_view name);
 /// A suspended Title is fought for no more, yet keeps its holder.
 void SuspendTitle(Title& title, bool suspended);

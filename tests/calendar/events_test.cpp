@@ -60,12 +60,19 @@ TEST(EventNames, AreThePlayersOwnAndFit) {
       {3, " ", "Type a name first."},
       {3, "None", "\"None\" stands for nothing at all and cannot be a name."},
       {3, "To Be Deleted", "\"To Be Deleted\" has a meaning of its own and cannot be a name."},
-      {3, "A Night Of Twenty-One", "An Event's name has at most 20 letters. This one has 21."},
+      {3, "A Night Of Twenty-One", "A name has at most 20 letters. This one has 21."},
       {3, "May Mayhem", "You have an Event called May Mayhem already."},
       {5, "May Mayhem", ""},
       {3, "Rival Rumpus", ""}};
   for (const auto& row : rows)
     EXPECT_EQ(WhyNotEventName(world, row.Month, row.Name), row.Why) << row.Name;
+}
+
+TEST(Events, AreNotPlannedInAFullFile) {
+  World world = Planned().Game("CWA");
+  world.Events().Rewrite(std::vector<Event>(10000));
+  EXPECT_EQ(WhyNotPlan(world, 7, "Hot July", 3), "No more Events can be kept.");
+  EXPECT_EQ(WhyNotEventName(world, 7, "Hot July"), "");
 }
 
 TEST(EventScreen, ShowsTheYearAndMarksTheOneThatIsDue) {

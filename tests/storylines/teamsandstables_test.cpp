@@ -44,6 +44,7 @@ std::vector<BadName> BadNames(const std::string& taken, const std::string& saysT
   return {{"", "Type a name first."},
           {"   ", "Type a name first."},
           {"None", "\"None\" stands for nothing at all and cannot be a name."},
+          {"Vacant", "\"Vacant\" has a meaning of its own and cannot be a name."},
           {"Twenty-six letters, really", "A name has at most 25 letters. This one has 26."},
           {" " + taken + " ", saysTaken}};
 }
@@ -95,7 +96,10 @@ TEST(frmStables, FoundsRenamesAndDissolves) {
 
   Segment booked;
   booked.Kind = kAngle;
+  booked.Style = kStableAttack;
   booked.Text = "The Firm";
+  play.World().Segments().Append(booked);
+  booked.Rating = 70;
   play.World().Segments().Append(booked);
   play.Desk.Pick("lststables", "The Firm");
   EXPECT_EQ(play.Desk.Text("txtname"), "The Firm");
@@ -105,9 +109,12 @@ TEST(frmStables, FoundsRenamesAndDissolves) {
   EXPECT_EQ(play.Desk.FirstColumn("lstmembers"), (Names{"Ash", "Bea"}));
   EXPECT_EQ(Named(play.World().Workers(), "Bea").Stable, "Ash and Co");
   EXPECT_EQ(play.World().Segments()[1].Text, "Ash and Co");
+  EXPECT_EQ(play.World().Segments()[2].Text, "The Firm") << "a show that was held stays";
 
-  play.Desk.ExpectAsk("Dissolve?", "Are you sure you wish to dissolve Ash and Co?", false,
-                      ui::Default::No);
+  play.Desk.ExpectAsk("Dissolve?",
+                      "Are you sure you wish to dissolve Ash and Co? The segment that is booked "
+                      "for it will be removed from the sheet.",
+                      false, ui::Default::No);
   play.Desk.Click("cmddissolve");
   EXPECT_EQ(play.World().Stables().Count(), 4);
   play.Desk.ExpectAsk("Dissolve?", kAnyText, true);
@@ -176,6 +183,35 @@ TEST(frmStables, TakesInAndOut) {
   play.Desk.ExpectSay("Error!", "Bea belongs to The Firm. Take him out of it first.");
   play.Desk.OpenRow("lstwres", "Bea");
   ExpectFaultless(play.World());
+}
+
+TEST(frmStables, TakesNobodyInWhileNoneIsChosen) {
+  GameOnWorld play(SmallWorld().Promotion("CWA").Crew(2).Game("CWA"));
+  const World before = CopyOf(play.World());
+  play.Desk.Open("frmStables");
+  play.Desk.OpenRow("lstwres", "CWA Hand 1");
+  EXPECT_EQ(play.Desk.Tip("cmdadd"), "Choose a stable first.");
+  ExpectSame(play.World(), before);
+  EXPECT_EQ(WhyNotJoin(play.World(), "", play.World().Workers()[1]), "Choose a stable first.");
+}
+
+TEST(frmStables, TakesABlankForNoStable) {
+  GameOnWorld play(Roster());
+  Worker& cal = Named(play.World().Workers(), "Cal");
+  cal.Stable = "";
+  play.Desk.Open("frmStables");
+  play.Desk.OpenRow("lstwres", "Cal");
+  EXPECT_EQ(cal.Stable, "The Firm");
+}
+
+TEST(StoryFiles, TakeNothingMoreOnceTheyAreFull) {
+  World world = Roster();
+  world.Stables().Rewrite(std::vector<Stable>(10000));
+  world.Teams().Rewrite(std::vector<Team>(10000));
+  EXPECT_EQ(WhyNotFound(world, "The New"), "No more stables can be kept.");
+  EXPECT_EQ(WhyNotTeam(world, 1, 2), "No more teams can be kept.");
+  EXPECT_EQ(WhyNotStableName(world, "The New"), "");
+  EXPECT_EQ(WhyNotTeamName(world, "The New"), "");
 }
 
 TEST(frmStables, TakesInNoEleventhMember) {

@@ -74,7 +74,12 @@ TEST(Titles, RefuseNamesThatCannotBe) {
               {"To Be Deleted", "\"To Be Deleted\" has a meaning of its own and cannot be a name."},
               {"CWA Crown", "There is a Title called CWA Crown already."},
               {"NEW Crown", "There is a Title called NEW Crown already."},
-              {"A Belt Of Twenty-One.", "A Title's name has at most 20 letters. This one has 21."},
+              {"A Belt Of Twenty-One.", "A name has at most 20 letters. This one has 21."},
+              {"\xA0", "Type a name first."},
+              {"CWA\xA0Ring", ""},
+              {"\xA0 CWA Crown\xA0", "There is a Title called CWA Crown already."},
+              {"Ring\x7F", "A name is one line of plain text."},
+              {"Ring\x81", "A name is one line of plain text."},
               {"A Belt Of Twenty It.", ""},
               {"cwa crown", ""}};
   for (const auto& row : rows) EXPECT_EQ(WhyNotTitleName(world, row.Name), row.Why) << row.Name;
@@ -142,10 +147,57 @@ TEST(Titles, AreRenamedWithWhatIsBooked) {
   World world = Belts().Game("CWA");
   Book(world, "CWA Crown");
   Book(world, "CWA Roses");
+  Book(world, "CWA Crown", 70);
   RenameTitle(world, 2, "CWA Throne");
   EXPECT_EQ(world.Titles()[2].Name.View(), "CWA Throne");
   EXPECT_EQ(world.Segments()[1].TitleName.View(), "CWA Throne");
   EXPECT_EQ(world.Segments()[2].TitleName.View(), "CWA Roses");
+  EXPECT_EQ(world.Segments()[3].TitleName.View(), "CWA Crown") << "a show that was held stays";
+}
+
+TEST(Titles, AreNotCreatedInAFullFileButRenamed) {
+  World world = Belts().Game("CWA");
+  world.Titles().Rewrite(std::vector<Title>(5000));
+  EXPECT_EQ(WhyNotCreate(world, {"CWA Anvil"}), "No more Titles can be kept.");
+  EXPECT_EQ(WhyNotTitleName(world, "CWA Anvil"), "");
+}
+
+TEST(Titles, TellWhatKeepsTheHolderFromDefending) {
+  struct Case {
+    void (*Happens)(Worker& worker);
+    const char* Why;
+  };
+  constexpr Case kCases[] = {{[](Worker&) {}, ""},
+                             {[](Worker& w) { w.Status = "Inj"; }, "injured"},
+                             {[](Worker& w) { w.Status = "Sus"; }, "suspended"},
+                             {[](Worker& w) { w.Status = "Reh"; }, "in rehab"},
+                             {[](Worker& w) { w.Status = "Hom"; }, "sitting out"},
+                             {[](Worker& w) { w.Position = kNonWrestler; }, "no wrestler"},
+                             {[](Worker& w) { w.Position = kManager; }, "no wrestler"},
+                             {[](Worker& w) { w.Position = 83; }, "sent away"},
+                             {[](Worker& w) { w.Position = kTrainingCamp; }, "sent away"},
+                             {[](Worker& w) { w.Weight = "H"; }, "not eligible"}};
+  for (const Case& c : kCases)
+    for (const char* one : {"Cal Drift", "Dee Light"}) {
+      World world = Belts().Game("CWA");
+      Title& feathers = Named(world.Titles(), "CWA Feathers");
+      EXPECT_EQ(WhyNoDefence(world, feathers), "") << "vacant";
+      Crown(world, feathers, UidOf(world, "Cal Drift"), UidOf(world, "Dee Light"));
+      c.Happens(Named(world.Workers(), one));
+      EXPECT_EQ(WhyNoDefence(world, feathers), c.Why) << one;
+    }
+}
+
+TEST(TitleScreen, MarksAHolderWhoCannotDefend) {
+  GameOnWorld play(Belts().Game("CWA"));
+  play.Desk.Open("frmBelts");
+  EXPECT_EQ(play.Desk.Rows("lsttitles")[0][5], "");
+  play.Desk.Click("cmdback");
+  Named(play.World().Workers(), "Bram Okafor").Position = kNonWrestler;
+  play.Desk.Open("frmBelts");
+  EXPECT_EQ(play.Desk.Rows("lsttitles")[0][5], "Holder no wrestler");
+  play.Desk.Click("cmdsuspend");
+  EXPECT_EQ(play.Desk.Rows("lsttitles")[0][5], "Suspended");
 }
 
 TEST(Titles, GoWithWhatIsBookedAndNotHeld) {
