@@ -1,5 +1,6 @@
 #include "roster/contractscreens.h"
 
+#include "records/modWresCheck.h"
 #include "roster/screentalk.h"
 #include "roster/stafftalks.h"
 
@@ -11,14 +12,11 @@ void Say(Game& game, const std::string& why) {
   game.Desk().Say(kTalksTitle, why);
 }
 
-bool IsOwn(const World& world, const Worker& worker) {
-  return worker.Employer != 0 && worker.Employer == world.PlayerUid();
-}
-
 std::string WhyNotWith(const World& world, const Worker* worker, bool own) {
   if (!worker) return "This worker is not in the business any more.";
-  if (own && !IsOwn(world, *worker)) return worker->Name + " does not work for you any more.";
-  if (!own && IsOwn(world, *worker)) return worker->Name + " works for you now.";
+  if (own && !WorksForPlayer(world, *worker))
+    return worker->Name + " does not work for you any more.";
+  if (!own && WorksForPlayer(world, *worker)) return worker->Name + " works for you now.";
   return WhyTalksOver(world, worker, {worker->Name.Str(), worker->Employer});
 }
 
@@ -47,8 +45,8 @@ void OpenStaffContract(Game& game, int staffUid) {
   const Staff* staff = game.World().FindStaff(staffUid);
   if (!staff) return Say(game, "This member of staff is not in the business any more.");
   if (const std::string why = WhyNoStaffTalks(*staff); !why.empty()) return Say(game, why);
-  game.Desk().Open(IsOwnStaff(game.World(), *staff) ? MakefrmStaffContract(game, *staff)
-                                                    : MakefrmOtherStaffContract(game, *staff));
+  game.Desk().Open(WorksForPlayer(game.World(), *staff) ? MakefrmStaffContract(game, *staff)
+                                                        : MakefrmOtherStaffContract(game, *staff));
 }
 
 }  // namespace grapplemont

@@ -16,10 +16,9 @@ constexpr int kOfferedPositions[] = {kMainEvent,    kUpperMidcard,   kMidcard, k
 constexpr const char* kOfferedDispositions[] = {"F", "T", "H"};
 
 /// Talks with a worker of anybody else's, or of nobody's, about coming.
-class frmOtherContract : public TalkScreen {
+class frmOtherContract : public TalkWith<Worker> {
  public:
-  frmOtherContract(Game& game, const Worker& worker)
-      : TalkScreen(game, "frmOtherContract", worker.Uid, {worker.Name.Str(), worker.Employer}) {
+  frmOtherContract(Game& game, const Worker& worker) : TalkWith(game, "frmOtherContract", worker) {
     for (const int position : kOfferedPositions)
       cmbnewposition.Add(std::string(PositionText(position)), position);
     for (const char* code : kOfferedDispositions)
@@ -56,7 +55,6 @@ class frmOtherContract : public TalkScreen {
   }
 
  protected:
-  std::string WhyOver() override { return WhyTalksOver(world(), Who(), with_); }
   Remark Refusal() override { return {"Refusal!", WhyNoSigning(world(), *Who())}; }
 
   void Begin() override {
@@ -82,16 +80,10 @@ class frmOtherContract : public TalkScreen {
     txtcreative.Text = demands.CreativeControl ? "Yes" : "No";
     lblfacts.Text = closed_.empty() ? FactsOf(worker) : closed_;
     offer_.Allow(closed_);
-    for (ui::Control* control :
-         {static_cast<ui::Control*>(&cmdoffer), static_cast<ui::Control*>(&cmbnewposition),
-          static_cast<ui::Control*>(&cmbnewdispo), static_cast<ui::Control*>(&txtnewname),
-          static_cast<ui::Control*>(&txtnewname2)})
-      EnableUnless(*control, closed_);
+    EnableUnless({cmdoffer, cmbnewposition, cmbnewdispo, txtnewname, txtnewname2}, closed_);
   }
 
  private:
-  Worker* Who() { return world().FindWorker(uid_); }
-
   std::string FactsOf(const Worker& worker) {
     if (worker.Employer == 0) return "A free agent.";
     return "Works for " + PromotionName(world(), worker.Employer) +
@@ -110,8 +102,7 @@ class frmOtherContract : public TalkScreen {
     if (!GoesOn()) return;
     Worker& worker = *Who();
     const SigningOffer offer = Offered();
-    if (const std::string why = WhyNotAsOffered(world(), worker, offer); !why.empty())
-      return desk().Say("Error!", why);
+    if (desk().Objects(WhyNotAsOffered(world(), worker, offer))) return;
     const std::string no = JudgeSigning(worker, ContractDemands(world(), worker), offer);
     if (!no.empty()) return desk().Say("Rejection!", no);
     Sign(world(), worker, offer);

@@ -1,3 +1,4 @@
+#include "records/modWresCheck.h"
 #include "roster/contractscreens.h"
 #include "roster/screenstaff.h"
 #include "roster/stafffacts.h"
@@ -17,15 +18,16 @@ template <int talent>
 bool From(const Staff& staff, const Promotion&) {
   return staff.Talent >= talent;
 }
+/// An agreement without end is of neither kind.
+template <bool written>
+bool Under(const Staff& staff, const Promotion&) {
+  return staff.Employer != 0 && !IsEndless(staff) && staff.ContractType == ContractCodeOf(written);
+}
 constexpr StaffFilter kByBond[] = {
     {"All", [](const Staff&, const Promotion&) { return true; }},
     {"Free agents", [](const Staff& s, const Promotion&) { return s.Employer == 0; }},
-    {"Verbal contracts",
-     [](const Staff& s, const Promotion&) {
-       return s.Employer != 0 && s.ContractType == "Non" && s.ContractMonths != kNoEnd;
-     }},
-    {"Written contracts",
-     [](const Staff& s, const Promotion&) { return s.Employer != 0 && s.ContractType == "Wri"; }},
+    {"Verbal contracts", Under<false>},
+    {"Written contracts", Under<true>},
     {"Expiring contracts",
      [](const Staff& s, const Promotion&) {
        return s.Employer != 0 && s.ContractMonths >= 0 && s.ContractMonths <= 3;
@@ -46,6 +48,7 @@ class frmOtherStaff : public StaffListScreen {
  public:
   explicit frmOtherStaff(Game& game)
       : StaffListScreen(game, "frmOtherStaff", "Other Staff", StaffList::Market) {
+    lststaff.OpenWith(cmdcontract);
     lststaff.EmptyText = "There is nobody else who fits.";
     for (const StaffFilter& row : kByBond) cmbbond.Add(row.Label);
     for (const StaffFilter& row : kByTalent) cmbtalent.Add(row.Label);
@@ -71,7 +74,7 @@ class frmOtherStaff : public StaffListScreen {
 
  protected:
   bool Belongs(const Staff& staff) const override {
-    return !IsOwnStaff(world(), staff) && Keeps(kByBond, cmbbond, staff) &&
+    return !WorksForPlayer(world(), staff) && Keeps(kByBond, cmbbond, staff) &&
            Keeps(kByTalent, cmbtalent, staff) &&
            (cmbpost.Selected() <= 1 || staff.Position == cmbpost.Key());
   }

@@ -1,3 +1,4 @@
+#include "records/modWresCheck.h"
 #include "roster/rosterscreens.h"
 #include "roster/screentalks.h"
 #include "roster/screenworkerlist.h"
@@ -15,7 +16,7 @@ class frmOtherWres : public WorkerListScreen {
       : WorkerListScreen(game, "frmOtherWres", "Other Workers", WorkerList::Market,
                          MarketFilters()) {
     lstwres.EmptyText = "There is nobody else who fits.";
-    lstwres.OnOpen = [this] { cmdcontract_Click(); };
+    lstwres.OpenWith(cmdcontract);
   }
 
   ui::Page Layout() override {
@@ -32,9 +33,7 @@ class frmOtherWres : public WorkerListScreen {
   }
 
  protected:
-  bool Belongs(const Worker& worker) const override {
-    return worker.Employer == 0 || worker.Employer != world().PlayerUid();
-  }
+  bool Belongs(const Worker& worker) const override { return !WorksForPlayer(world(), worker); }
 
   std::string Facts(int listed) const override {
     const std::string all = std::to_string(listed);
@@ -50,9 +49,7 @@ class frmOtherWres : public WorkerListScreen {
 
  private:
   void cmdcontract_Click() {
-    const Worker* chosen = Chosen();
-    if (!chosen || !WhyNoTalks(game_, chosen).empty()) return;
-    OpenTalks(game_, *chosen);
+    if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
   }
   /// Nobody's row changes by it.
   void cmdshortlist_Click() {

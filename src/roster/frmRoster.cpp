@@ -10,15 +10,13 @@ namespace grapplemont {
 
 namespace {
 
-constexpr const char* kNobody = "Choose a worker first.";
-
 /// The player's people, wherever they are posted.
 class frmRoster : public WorkerListScreen {
  public:
   explicit frmRoster(Game& game)
       : WorkerListScreen(game, "frmRoster", "Roster", WorkerList::Roster, RosterFilters()) {
     lstwres.EmptyText = "Nobody works for you yet. Look for people under Other Workers.";
-    lstwres.OnOpen = [this] { cmdcontract_Click(); };
+    lstwres.OpenWith(cmdcontract);
     for (const int position : PositionsToMoveTo())
       cmbnewposition.Add(std::string(PositionText(position)), position);
   }
@@ -49,9 +47,7 @@ class frmRoster : public WorkerListScreen {
   }
 
  protected:
-  bool Belongs(const Worker& worker) const override {
-    return worker.Employer != 0 && worker.Employer == world().PlayerUid();
-  }
+  bool Belongs(const Worker& worker) const override { return WorksForPlayer(world(), worker); }
   bool Passes(const Worker& worker) const override {
     return cmbsplit.Selected() <= 1 || worker.Split == cmbsplit.Text.Get();
   }
@@ -93,10 +89,10 @@ class frmRoster : public WorkerListScreen {
     const bool away = chosen && IsInDevelopment(*chosen), camps = chosen && IsInCamp(*chosen);
     cmddevelopment.Text = away ? "Recall From Development" : "Send To Development";
     cmdcamp.Text = camps ? "Recall From Camp" : "Send To Camp";
-    EnableUnless(cmddevelopment, !chosen ? kNobody
+    EnableUnless(cmddevelopment, !chosen ? kNobodyChosen
                                  : away  ? WhyNotRecall(world(), *chosen)
                                          : WhyNotToDevelopment(world(), *chosen));
-    EnableUnless(cmdcamp, !chosen ? kNobody
+    EnableUnless(cmdcamp, !chosen ? kNobodyChosen
                           : camps ? WhyNotRecall(world(), *chosen)
                                   : WhyNotToCamp(world(), *chosen));
   }
@@ -105,7 +101,7 @@ class frmRoster : public WorkerListScreen {
   void ShowMove() {
     const Worker* chosen = Chosen();
     const int to = cmbnewposition.Key();
-    const std::string why = chosen ? WhyNotMove(world(), *chosen, to) : kNobody;
+    const std::string why = chosen ? WhyNotMove(world(), *chosen, to) : kNobodyChosen;
     EnableUnless(cmdposition, why);
     const int morale = why.empty() ? MoraleOfMove(chosen->Position, to) : 0;
     std::string words = why.empty() ? EndedByMove(world(), *chosen, to) : "";
@@ -117,7 +113,7 @@ class frmRoster : public WorkerListScreen {
 
   void ShowSplit() {
     const Worker* chosen = Chosen();
-    EnableUnless(cmdsplit, !chosen ? kNobody
+    EnableUnless(cmdsplit, !chosen ? kNobodyChosen
                            : cmbnewsplit.Count() <= 1
                                ? "Your promotion has no split roster."
                                : WhyNotSplit(world(), *chosen, cmbnewsplit.Text.Get()));
@@ -146,9 +142,7 @@ class frmRoster : public WorkerListScreen {
     Act([](Worker& worker) { IsInCamp(worker) ? Recall(worker) : SendToCamp(worker); });
   }
   void cmdcontract_Click() {
-    const Worker* chosen = Chosen();
-    if (!chosen || !WhyNoTalks(game_, chosen).empty()) return;
-    OpenTalks(game_, *chosen);
+    if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
   }
   void cmdturn_Click() { desk().Open("frmTurn"); }
   void cmdmanager_Click() { desk().Open("frmManagers"); }

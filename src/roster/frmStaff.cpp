@@ -1,4 +1,5 @@
 #include "records/modVar.h"
+#include "records/modWresCheck.h"
 #include "roster/contractscreens.h"
 #include "roster/screenstaff.h"
 #include "roster/stafffiring.h"
@@ -14,6 +15,7 @@ namespace {
 class frmStaff : public StaffListScreen {
  public:
   explicit frmStaff(Game& game) : StaffListScreen(game, "frmStaff", "Staff", StaffList::Own) {
+    lststaff.OpenWith(cmdcontract);
     lststaff.EmptyText = "Nobody is on your staff yet. Look for people under Other Staff.";
   }
 
@@ -31,7 +33,7 @@ class frmStaff : public StaffListScreen {
   }
 
  protected:
-  bool Belongs(const Staff& staff) const override { return IsOwnStaff(world(), staff); }
+  bool Belongs(const Staff& staff) const override { return WorksForPlayer(world(), staff); }
 
   void ShowActions(const Staff* chosen) override {
     const std::string why = WhyNot(chosen);

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "records/modWresCheck.h"
 #include "roster/contractscreens.h"
 #include "roster/screenstaff.h"
@@ -11,12 +13,12 @@ namespace {
 
 /// Talks with a member of staff. The player's own keep to themselves what they want; from others it
 /// can be read.
-class StaffTalk : public TalkScreen {
+class StaffTalk : public TalkWith<Staff> {
  public:
   StaffTalk(Game& game, const Staff& staff, bool own)
-      : TalkScreen(game, own ? "frmStaffContract" : "frmOtherStaffContract", staff.Uid,
-                   {staff.Name.Str(), staff.Employer}),
-        own_(own) {}
+      : TalkWith(game, own ? "frmStaffContract" : "frmOtherStaffContract", staff),
+        own_(own),
+        offer_(*this, std::max<int>(kHighestStaffWage, own ? staff.Wage : 0)) {}
 
   ui::Page Layout() override {
     ui::Page page;
@@ -36,7 +38,6 @@ class StaffTalk : public TalkScreen {
   }
 
  protected:
-  std::string WhyOver() override { return WhyTalksOver(world(), Who(), with_); }
   Remark Refusal() override { return {"Refusal!", WhyNoStaffOffer(world(), *Who())}; }
 
   void Begin() override {
@@ -59,8 +60,6 @@ class StaffTalk : public TalkScreen {
   }
 
  private:
-  Staff* Who() { return world().FindStaff(uid_); }
-
   std::string FactsOf(const Staff& staff) {
     if (own_) return "What is turned down can be changed and offered again.";
     if (staff.Employer == 0) return "A free agent.";
@@ -87,7 +86,7 @@ class StaffTalk : public TalkScreen {
   ui::Label txtwage{*this, "txtwage"};
   ui::Label txtlength{*this, "txtlength"};
   ui::Label txttype{*this, "txttype"};
-  OfferControls offer_{*this, kHighestStaffWage};
+  OfferControls offer_;  // whoever earns more than anybody wants can be kept at it
   ui::Button cmdback{*this, "cmdback", "Back", &StaffTalk::cmdback_Click};
   ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &StaffTalk::cmdoffer_Click};
 };

@@ -1,3 +1,4 @@
+#include "records/modWresCheck.h"
 #include "records/world.h"
 #include "roster/rosterscreens.h"
 #include "roster/screentalks.h"
@@ -31,7 +32,7 @@ class frmWorker : public ui::Screen {
 
   void Return() override {
     const Worker* worker = Subject();
-    const bool own = worker && worker->Employer != 0 && worker->Employer == world().PlayerUid();
+    const bool own = worker && WorksForPlayer(world(), *worker);
     if (worker) Title = worker->Name.Str();
     WriteWorkerPages(txtpage, txtmore, world(), worker,
                      Title.Get() + " is not in the business any more.");

@@ -14,10 +14,9 @@ namespace {
 constexpr int kOfferedMonths = 24;
 
 /// Talks with a worker of the player's: staying, being let go, being thrown out.
-class frmWresContract : public TalkScreen {
+class frmWresContract : public TalkWith<Worker> {
  public:
-  frmWresContract(Game& game, const Worker& worker)
-      : TalkScreen(game, "frmWresContract", worker.Uid, {worker.Name.Str(), worker.Employer}) {}
+  frmWresContract(Game& game, const Worker& worker) : TalkWith(game, "frmWresContract", worker) {}
 
   ui::Page Layout() override {
     ui::Page page;
@@ -39,7 +38,6 @@ class frmWresContract : public TalkScreen {
   }
 
  protected:
-  std::string WhyOver() override { return WhyTalksOver(world(), Who(), with_); }
   Remark Refusal() override { return {kTalksTitle, WhyNoRenewal(*Who())}; }
 
   void Begin() override {
@@ -62,8 +60,6 @@ class frmWresContract : public TalkScreen {
   }
 
  private:
-  Worker* Who() { return world().FindWorker(uid_); }
-
   void cmdoffer_Click() {
     if (!GoesOn()) return;
     Worker& worker = *Who();

@@ -16,11 +16,6 @@ namespace {
 
 using K = ui::ColumnKind;
 
-/// An agreement without end, as Owners have it too.
-bool IsEndless(const Staff& staff) {
-  return staff.Unsackable || staff.ContractMonths == kNoEnd;
-}
-
 ui::Cell Name(const World&, const Staff& staff) {
   return staff.Name.View();
 }
@@ -108,8 +103,7 @@ void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
 StaffListScreen::StaffListScreen(Game& game, std::string name, std::string title, StaffList list)
     : Screen(game.Desk(), std::move(name), std::move(title)),
       game_(game),
-      lststaff(*this, "lststaff", ColumnsOf(list), ui::Handler([this] { ShowChoice(); }),
-               ui::Handler([this] { Negotiate(); })),
+      lststaff(*this, "lststaff", ColumnsOf(list), ui::Handler([this] { ShowChoice(); })),
       list_(list) {}
 
 /// By post, the ablest first; on the market those who are for hire.

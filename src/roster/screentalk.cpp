@@ -29,10 +29,7 @@ void OfferControls::Begin(int wage, int months, bool written) {
 }
 
 void OfferControls::Allow(const std::string& why) {
-  for (ui::Control* control :
-       {static_cast<ui::Control*>(&hsnewwage), static_cast<ui::Control*>(&cmbnewlength),
-        static_cast<ui::Control*>(&cmbnewtype)})
-    EnableUnless(*control, why);
+  EnableUnless({hsnewwage, cmbnewlength, cmbnewtype}, why);
 }
 
 ContractOffer OfferControls::Offer() const {

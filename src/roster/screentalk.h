@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "roster/talks.h"
@@ -74,6 +75,24 @@ class TalkScreen : public ui::Screen {
   int uid_;
   Counterpart with_;
   std::string closed_;  // what closed the talks; empty while he listens
+};
+
+/// Talks with a worker or with a member of staff.
+template <class Person>
+class TalkWith : public TalkScreen {
+ public:
+  TalkWith(Game& game, std::string name, const Person& person)
+      : TalkScreen(game, std::move(name), person.Uid, {person.Name.Str(), person.Employer}) {}
+
+ protected:
+  /// nullptr for somebody who has left the world.
+  Person* Who() {
+    if constexpr (std::is_same_v<Person, Worker>)
+      return world().FindWorker(uid_);
+    else
+      return world().FindStaff(uid_);
+  }
+  std::string WhyOver() override { return WhyTalksOver(world(), Who(), with_); }
 };
 
 inline constexpr const char* kTalksTitle = "Contract Negotiations";

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/modWresCheck.h"
 #include "records/world.h"
 #include "roster/contractscreens.h"
 #include "roster/shortlist.h"
@@ -10,8 +11,6 @@
 namespace grapplemont {
 
 namespace {
-
-constexpr const char* kNobody = "Choose a worker first.";
 
 /// A show that is being booked or held counts on the people it began with.
 constexpr const char* kShowScreens[] = {"frmBooking", "frmPPVBooking", "frmMatchOutput",
@@ -29,14 +28,14 @@ bool IsAmidShow(Game& game) {
 }  // namespace
 
 std::string WhyNoTalks(Game& game, const Worker* worker) {
-  if (!worker) return kNobody;
+  if (!worker) return kNobodyChosen;
   if (worker->Unsackable && worker->Employer != 0)
     return worker->Name + " is unsackable: the agreement has no end, and nothing to talk about.";
   return IsAmidShow(game) ? "There is a show to see to first." : "";
 }
 
 void OpenTalks(Game& game, const Worker& worker) {
-  const bool own = worker.Employer != 0 && worker.Employer == game.World().PlayerUid();
+  const bool own = WorksForPlayer(game.World(), worker);
   own ? OpenWresContract(game, worker.Uid) : OpenOtherContract(game, worker.Uid);
 }
 
@@ -53,9 +52,11 @@ void TurnShortlist(Game& game, int workerUid) {
 void ShowShortlistButton(Game& game, const Worker* worker, ui::Button& button) {
   const World& world = game.World();
   const bool listed = worker && IsShortlisted(world, worker->Uid);
-  const bool own = worker && worker->Employer != 0 && worker->Employer == world.PlayerUid();
+  const bool own = worker && WorksForPlayer(world, *worker);
   button.Text = listed ? "Take Off Shortlist" : "Put On Shortlist";
-  EnableUnless(button, !worker ? kNobody : own && !listed ? worker->Name + " works for you." : "");
+  EnableUnless(button, !worker          ? kNobodyChosen
+                       : own && !listed ? worker->Name + " works for you."
+                                        : "");
 }
 
 }  // namespace grapplemont

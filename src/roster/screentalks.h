@@ -9,6 +9,8 @@
 
 namespace grapplemont {
 
+/// The tip of what needs a worker.
+inline constexpr const char* kNobodyChosen = "Choose a worker first.";
 /// Why there can be no talks with him at this moment; empty when there can. nullptr for nobody
 /// chosen.
 std::string WhyNoTalks(Game& game, const Worker* worker);

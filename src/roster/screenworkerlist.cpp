@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "roster/screenworkerpage.h"
-#include "storylines/screenpeople.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
 

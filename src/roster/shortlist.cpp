@@ -21,8 +21,7 @@ std::vector<const Worker*> Shortlisted(const World& world) {
 
 std::string WhyNotShortlist(const World& world, const Worker& worker) {
   if (IsShortlisted(world, worker.Uid)) return worker.Name + " is on your shortlist already.";
-  if (worker.Employer != 0 && worker.Employer == world.PlayerUid())
-    return worker.Name + " works for you.";
+  if (WorksForPlayer(world, worker)) return worker.Name + " works for you.";
   const std::size_t places = world.Game().Shortlist.size();
   if (Shortlisted(world).size() < places) return {};
   return "Your shortlist is full: it holds " + std::to_string(places) +
@@ -44,7 +43,7 @@ void RemoveFromShortlist(World& world, int workerUid) {
 
 std::string MarketStanding(const World& world, const Worker& worker) {
   if (worker.Employer == 0) return "Free to sign.";
-  const bool own = worker.Employer == world.PlayerUid();
+  const bool own = WorksForPlayer(world, worker);
   const std::string employer = own ? "you" : PromotionInitials(world, worker.Employer);
   if (worker.Unsackable) return "Bound to " + employer + " for good.";
   const std::string kind = worker.ContractType == "Wri" ? "Under contract to " : "Verbally with ";

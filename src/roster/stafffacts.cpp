@@ -77,8 +77,7 @@ std::string_view PostText(int post) {
 
 std::string StaffContractLine(const Staff& staff) {
   if (staff.Employer == 0 || staff.Position == kOwner) return {};
-  if (staff.Unsackable || staff.ContractMonths == kNoEnd)
-    return "Unsackable, agreement for " + WageText(staff.Wage) + " per month";
+  if (IsEndless(staff)) return "Unsackable, agreement for " + WageText(staff.Wage) + " per month";
   return (staff.ContractType == "Wri" ? "Written contract for " : "Verbal agreement for ") +
          MonthsText(staff.ContractMonths) + ", at " + WageText(staff.Wage) + " per month";
 }

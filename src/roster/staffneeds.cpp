@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "records/modWresCheck.h"
+
 namespace grapplemont {
 
 namespace {
@@ -17,7 +19,7 @@ template <class Test>
 int CountOwn(const World& world, Test test) {
   const auto& all = world.Workers();
   return static_cast<int>(std::count_if(all.begin(), all.end(), [&](const Worker& w) {
-    return w.Employer == world.PlayerUid() && test(w);
+    return WorksForPlayer(world, w) && test(w);
   }));
 }
 
@@ -86,7 +88,7 @@ std::vector<PostCount> PostCounts(const World& world) {
   for (const Post& post : kPosts) posts.push_back({post.Code, 0, post.Need(world)});
   for (const Staff& staff : world.AllStaff())
     for (PostCount& post : posts)
-      post.Have += staff.Employer == world.PlayerUid() && staff.Position == post.Post;
+      post.Have += WorksForPlayer(world, staff) && staff.Position == post.Post;
   return posts;
 }
 

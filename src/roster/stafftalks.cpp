@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/modWresCheck.h"
 #include "records/severing.h"
 
 namespace grapplemont {
@@ -107,7 +108,7 @@ constexpr Objection kObjections[] = {
 
 int WageWanted(const World& world, const Staff& staff) {
   const int size = world.Player().Size, now = staff.Wage;
-  const bool own = IsOwnStaff(world, staff);
+  const bool own = WorksForPlayer(world, staff);
   const int moved = now + PercentOf(now, own ? RaiseOf(staff.Talent) : BySize(kMarket, size).Moves);
   int wage = std::max(moved, StaffWorth(size, staff.Talent));
   if (!own && staff.Employer != 0) wage = PercentOf(wage, 120);
@@ -122,13 +123,13 @@ void PutInto(Staff& staff, const ContractOffer& offer) {
 
 }  // namespace
 
-bool IsOwnStaff(const World& world, const Staff& staff) {
-  return staff.Employer != 0 && staff.Employer == world.PlayerUid();
+bool IsEndless(const Staff& staff) {
+  return staff.Unsackable || staff.ContractMonths == kNoEnd;
 }
 
 std::string WhyNoStaffTalks(const Staff& staff) {
   if (staff.Position == kOwner) return staff.Name + " owns promotions, and is not for hire.";
-  if (staff.Employer != 0 && (staff.Unsackable || staff.ContractMonths == kNoEnd))
+  if (staff.Employer != 0 && IsEndless(staff))
     return staff.Name + " is unsackable: the agreement has no end, and nothing to talk about.";
   return {};
 }
@@ -147,12 +148,12 @@ StaffDemands StaffDemandsOf(const World& world, const Staff& staff) {
 }
 
 std::string WhyNoStaffOffer(const World& world, const Staff& staff) {
-  return IsOwnStaff(world, staff) ? WhyNoRenewal(staff) : WhyNoHire(world, staff);
+  return WorksForPlayer(world, staff) ? WhyNoRenewal(staff) : WhyNoHire(world, staff);
 }
 
 std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
                             const ContractOffer& offer) {
-  const Talk talk{staff, demands, offer, world.Player().Size, IsOwnStaff(world, staff)};
+  const Talk talk{staff, demands, offer, world.Player().Size, WorksForPlayer(world, staff)};
   for (const Objection& objection : kObjections)
     if (objection.Holds(talk)) return objection.Words;
   return {};
@@ -163,7 +164,7 @@ void RenewStaff(Staff& staff, const ContractOffer& offer) {
 }
 
 void HireStaff(World& world, Staff& staff, const ContractOffer& offer) {
-  SeverStaff(world, staff);
+  DismissStaff(world, staff);
   staff.Employer = world.PlayerUid();
   staff.Morale += kHireLift;
   PutInto(staff, offer);

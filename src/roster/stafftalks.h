@@ -8,7 +8,8 @@ namespace grapplemont {
 
 inline constexpr int kHighestStaffWage = 100;  // thousands of dollars a month
 
-bool IsOwnStaff(const World& world, const Staff& staff);
+/// An agreement without an end, as Owners have it too.
+bool IsEndless(const Staff& staff);
 /// Why he cannot be talked with at all: an Owner, an agreement without an end. Empty when he can.
 std::string WhyNoStaffTalks(const Staff& staff);
 

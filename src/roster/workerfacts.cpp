@@ -131,7 +131,7 @@ FactGroup Titles(const World& world, const Worker& worker) {
 
 /// Whoever teaches him; nullptr for nobody.
 const Staff* TeacherOf(const World& world, const Worker& worker) {
-  if (worker.Employer == 0 || worker.Employer != world.PlayerUid()) return nullptr;
+  if (!WorksForPlayer(world, worker)) return nullptr;
   if (IsInDevelopment(worker)) return world.FindStaff(world.Player().DevBooker);
   return IsInCamp(worker) ? world.FindStaff(world.Player().HeadTrainer) : nullptr;
 }

@@ -185,6 +185,49 @@ TEST(frmWresContract, TerminatesDownToAnEmptyRoster) {
   EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
 }
 
+TEST(frmWresContract, NamesThePriceOfTheDifficulty) {
+  struct Case {
+    int Difficulty, Months;
+    const char* Price;
+    int Dollars;
+  };
+  constexpr Case kCases[] = {{kEasy, 12, "$40000", 40000},
+                             {kMedium, 12, "$240000", 240000},
+                             {kMedium, 1, "$0", 0},
+                             {kHard, 12, "$480000", 480000},
+                             {kRockHard, 12, "$960000", 960000}};
+  for (const Case& c : kCases) {
+    GameOnWorld play(Business());
+    play.World().Game().Difficulty = c.Difficulty;
+    Who(play, kBram).ContractMonths = c.Months;
+    const int money = play.World().Player().Money;
+    OnContract(play, kBram);
+    ScriptDraws(play.World(), {{3, 3}});
+    play.Desk.ExpectAsk(
+        "Terminate Contract",
+        "Terminating this contract will cost " + std::string(c.Price) + ". Proceed?", true);
+    play.Desk.Click("cmdterminate");
+    EXPECT_EQ(play.World().Player().Money, money - c.Dollars) << c.Difficulty;
+    EXPECT_EQ(Who(play, kBram).Loyalty, 50);
+  }
+}
+
+TEST(frmWresContract, LetsWhoeverSitsOutGoGladly) {
+  GameOnWorld play(Business());
+  Who(play, kBram).Status = "Hom";
+  const int money = play.World().Player().Money;
+  play.Desk.ExpectSay(kTalks, "Bram Okafor refuses to even begin negotiations with you.");
+  OnContract(play, kBram);
+  EXPECT_FALSE(play.Desk.Enabled("cmdoffer"));
+  EXPECT_TRUE(play.Desk.Enabled("cmdrelease"));
+  ScriptDraws(play.World(), {{3, 3}});
+  play.Desk.ExpectAsk("Terminate Contract", "This wrestler is happy to leave. Proceed?", true);
+  play.Desk.Click("cmdterminate");
+  EXPECT_EQ(play.World().Player().Money, money);
+  EXPECT_EQ(Who(play, kBram).Status.View(), "Nor");
+  EXPECT_EQ(Who(play, kBram).Employer, 0);
+}
+
 TEST(frmOtherContract, ShowsDemandsAndBeginsWithThem) {
   GameOnWorld play(Business());
   OnTalks(play, "Free Fred");
@@ -252,6 +295,12 @@ TEST(frmOtherContract, SendsTraineesOnlyToACampThatIsThere) {
   play.Desk.ExpectSay("Accepted!", "Free Fred signs the contract!");
   play.Desk.Click("cmdoffer");
   EXPECT_EQ(Who(play, "Free Fred").Position, kTrainingCamp);
+  play.Desk.ExpectSay("More Money.", kAnyText);
+  OnTalks(play, kRay);
+  play.Desk.Pick("cmbnewposition", "Development Deal");
+  play.Desk.ExpectSay("Error!", "You do not have a development territory set up!");
+  play.Desk.Click("cmdoffer");
+  EXPECT_EQ(Who(play, kRay).Employer, 2);
 }
 
 TEST(frmOtherContract, WarnsThatTheEmployedAreDear) {
@@ -264,6 +313,30 @@ TEST(frmOtherContract, WarnsThatTheEmployedAreDear) {
   play.Desk.ExpectSay("Accepted!", kAnyText);
   play.Desk.Click("cmdoffer");
   EXPECT_EQ(Who(play, kRay).Employer, 1);
+}
+
+TEST(frmOtherContract, ClosesUnderOneTitleWhateverTheReason) {
+  struct Case {
+    int Size, Morale, Behaviour;
+    const char* Words;
+  };
+  constexpr Case kCases[] = {
+      {kSmall, 61, 90,
+       "She apologises, but she does not want to leave her current employers to join you."},
+      {kSmall, 61, 91,
+       "She apologises, but she does not wish to negotiate while working for another "
+       "organisation."},
+      {kBackyard, 60, 90, "She does not feel your promotion is big enough for her."}};
+  for (const Case& c : kCases) {
+    GameOnWorld play(Business());
+    play.World().Player().Size = c.Size;
+    Who(play, kRay).Morale = c.Morale;
+    Who(play, kRay).Behaviour = c.Behaviour;
+    play.Desk.ExpectSay("Refusal!", c.Words);
+    OnTalks(play, kRay);
+    EXPECT_FALSE(play.Desk.Enabled("cmdoffer"));
+    EXPECT_EQ(play.Desk.Text("lblfacts"), c.Words);
+  }
 }
 
 TEST(frmOtherContract, ShutsTheOfferButStillShowsTheDemands) {
@@ -352,6 +425,8 @@ TEST(ContractTalks, DoNotBeginWithTheWrongPeople) {
     play.Desk.Open(list);
     play.Desk.Pick("lstwres", name);
     EXPECT_FALSE(play.Desk.Enabled("cmdcontract")) << list;
+    play.Desk.OpenRow("lstwres", name);
+    EXPECT_EQ(play.Desk.TopName(), list) << "a row opens what its button opens";
     play.Desk.Click("cmdback");
   }
 }
