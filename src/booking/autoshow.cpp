@@ -1,6 +1,7 @@
 #include "booking/autoshow.h"
 
 #include "booking/sheet.h"
+#include "records/modWresCheck.h"
 
 namespace grapplemont {
 
@@ -10,7 +11,7 @@ namespace {
 const Staff* BestAnnouncer(const World& world, const Staff* except) {
   const Staff* best = nullptr;
   for (const Staff& staff : world.AllStaff())
-    if (staff.Employer == world.PlayerUid() && staff.Position == kAnnouncer && &staff != except &&
+    if (WorksForPlayer(world, staff) && staff.Position == kAnnouncer && &staff != except &&
         (!best || staff.Talent > best->Talent))
       best = &staff;
   return best;
@@ -19,7 +20,7 @@ const Staff* BestAnnouncer(const World& world, const Staff* except) {
 const Worker* BestTalker(const World& world) {
   const Worker* best = nullptr;
   for (const Worker& worker : world.Workers())
-    if (worker.Employer == world.PlayerUid() && worker.Announcer && worker.Speaks &&
+    if (WorksForPlayer(world, worker) && worker.Announcer && worker.Speaks &&
         worker.Status == "Nor" && (!best || worker.Charisma > best->Charisma))
       best = &worker;
   return best;

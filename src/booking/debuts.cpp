@@ -45,8 +45,7 @@ std::string WhyNotToday(const World& world, const Angle& angle, bool isEvent) {
 std::vector<const Worker*> WaitingForDebut(const World& world) {
   std::vector<const Worker*> waiting;
   for (const Worker& worker : world.Workers())
-    if (worker.Employer != 0 && worker.Employer == world.PlayerUid() && !worker.Debuted &&
-        IsSeenOnShows(worker))
+    if (WorksForPlayer(world, worker) && !worker.Debuted && IsSeenOnShows(worker))
       waiting.push_back(&worker);
   std::stable_sort(waiting.begin(), waiting.end(),
                    [](const Worker* a, const Worker* b) { return a->Over > b->Over; });

@@ -95,7 +95,7 @@ class frmQuickStat : public ui::Screen {
   std::vector<const Worker*> People() {
     std::vector<const Worker*> people;
     for (const Worker& worker : world().Workers())
-      if (worker.Uid != 0 && (chkall.Checked || worker.Employer == world().PlayerUid()))
+      if (worker.Uid != 0 && (chkall.Checked || WorksForPlayer(world(), worker)))
         people.push_back(&worker);
     SortByOver(people);
     return people;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/modWresCheck.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
@@ -48,8 +49,7 @@ bool AllFit(const World& world, const Title& title, const Segment& match) {
 
 bool IsAvailable(const World& world, const Worker& worker, const BookingView& view) {
   const bool inSplit = view.Split == "All" || worker.Split == view.Split;
-  return worker.Employer != 0 && worker.Employer == world.PlayerUid() && worker.Status == "Nor" &&
-         inSplit;
+  return WorksForPlayer(world, worker) && worker.Status == "Nor" && inSplit;
 }
 
 bool IsEligible(const World& world, const Worker& worker, const BookingView& view) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/dates.h"
+#include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
 
@@ -107,7 +108,7 @@ std::string TitleTip(const Segment& segment) {
 
 bool HasAutoBooker(const World& world) {
   return std::any_of(world.Workers().begin(), world.Workers().end(), [&](const Worker& worker) {
-    return worker.Employer == world.PlayerUid() && worker.Status == "Nor" &&
+    return WorksForPlayer(world, worker) && worker.Status == "Nor" &&
            worker.Position < kAutoBookable;
   });
 }

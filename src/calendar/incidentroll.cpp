@@ -2,6 +2,7 @@
 
 #include "calendar/daysteps.h"
 #include "calendar/incidents.h"
+#include "records/modWresCheck.h"
 #include "roster/staffneeds.h"
 
 namespace grapplemont {
@@ -92,7 +93,7 @@ bool IsAround(const Worker& worker) {
 void RollRoster(World& world, Bookings& bookings) {
   const bool isShort = IsShortOfAgents(world);
   for (const Worker& worker : world.Workers())
-    if (worker.Employer == world.PlayerUid() && IsAround(worker))
+    if (WorksForPlayer(world, worker) && IsAround(worker))
       RollFor(world, worker, isShort, bookings);
 }
 

@@ -10,7 +10,7 @@ namespace {
 bool IsAlive(const World& world, const Incident& incident) {
   if (incident.Type != kJobOffer) {
     const Worker* worker = world.FindWorker(incident.Uid);
-    return worker && worker->Employer == world.PlayerUid();
+    return worker && WorksForPlayer(world, *worker);
   }
   const Promotion* promotion = world.FindPromotion(incident.Uid);
   return promotion && promotion->Uid != world.PlayerUid() && !(promotion->Name == kToBeDeleted);

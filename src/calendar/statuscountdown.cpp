@@ -2,6 +2,7 @@
 
 #include "calendar/daysteps.h"
 #include "records/modVar.h"
+#include "records/modWresCheck.h"
 
 namespace grapplemont {
 
@@ -28,7 +29,7 @@ void StatusCountdown(World& world) {
     if (worker.Status == "Nor" || worker.Status == "Hom") continue;
     worker.StatusMonths -= 1;
     if (worker.StatusMonths != 0) continue;
-    if (worker.Employer == world.PlayerUid()) TellReturn(world, worker);
+    if (WorksForPlayer(world, worker)) TellReturn(world, worker);
     worker.Status = "Nor";
     worker.InjuryName = "";
   }

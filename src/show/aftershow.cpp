@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/angles.h"
+#include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
 
@@ -49,7 +50,7 @@ bool WasAtStake(const World& world, const Title& title) {
 
 void AfterShow(World& world, int rows) {
   for (Worker& worker : world.Workers()) {
-    if (worker.Employer != world.PlayerUid() || worker.Position == kDevelopmentDeal ||
+    if (!WorksForPlayer(world, worker) || worker.Position == kDevelopmentDeal ||
         worker.Position >= 79)
       continue;
     const int appearances = Appearances(world, worker.Uid, rows);

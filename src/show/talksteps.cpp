@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "records/modWresCheck.h"
+
 namespace grapplemont {
 
 namespace {
@@ -16,7 +18,7 @@ struct Writers {
 Writers WritersOf(const World& world) {
   Writers writers;
   for (const Staff& staff : world.AllStaff()) {
-    if (staff.Employer != world.PlayerUid() || staff.Position != kWriter) continue;
+    if (!WorksForPlayer(world, staff) || staff.Position != kWriter) continue;
     ++writers.Count;
     writers.Sum += staff.Talent;
     writers.Best = std::max<int>(writers.Best, staff.Talent);
