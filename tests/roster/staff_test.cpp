@@ -203,7 +203,7 @@ TEST(HireStaff, TakesHimOutOfHisFormerDuties) {
   World world = Offices()
                     .Promotion("ACE")
                     .Show("Ace Hour", "Monday", "Nine", [](Show& s) { s.Announcer = 5; })
-                    .Show("Ace Two", "Friday", "Nine", [](Show& s) { s.Colour = 5; });
+                    .Show("Ace Two", "Tuesday", "Nine", [](Show& s) { s.Colour = 5; });
   Staff& doc = Who(world, kDoc);
   ASSERT_EQ(doc.Uid, 5);
   HireStaff(world, doc, {12, 24, false, false});
