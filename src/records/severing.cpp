@@ -130,7 +130,7 @@ void SeverWorker(World& world, Worker& worker) {
   EndContract(worker);
   if (worker.Uid == 0) return;
   LeaveFeuds(world, worker.Uid);
-  VacateTitlesOf(world, worker.Uid, TitleLoss::Twenty);
+  VacateTitlesOf(world, worker.Uid);
   LeaveCommentary(world, worker.Uid);
 }
 

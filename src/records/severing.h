@@ -45,6 +45,6 @@ enum class TitleLoss { Twenty, ATenth };
 /// Vacates the Title: no holder, less image, a new reign of "Vacant" from today.
 void VacateTitle(World& world, Title& title, TitleLoss loss = TitleLoss::Twenty);
 /// Every Title that he holds, alone or with a partner.
-void VacateTitlesOf(World& world, int workerUid, TitleLoss loss);
+void VacateTitlesOf(World& world, int workerUid, TitleLoss loss = TitleLoss::Twenty);
 
 }  // namespace grapplemont

@@ -140,7 +140,7 @@ std::string WhyNotCalled(const World& world, const Worker& worker, const Signing
 void LeaveFormer(World& world, const Worker& worker) {
   LeaveOffice(world, worker.Uid);
   LoseClients(world, worker.Uid);
-  VacateTitlesOf(world, worker.Uid, TitleLoss::Twenty);
+  VacateTitlesOf(world, worker.Uid);
   LeaveMicrophones(world, worker);
 }
 
