@@ -37,10 +37,6 @@ void Rosters::Move(const Worker& worker, int fromUid, int toUid) {
   if (toUid != 0) ++counts_[toUid];
 }
 
-int ContractMonthsAt(int size) {
-  return size > kRegional ? 6 : size >= kCult ? 12 : 24;
-}
-
 void PartWays(World& world, Worker& worker) {
   if (worker.Uid != 0)
     for (Worker& client : world.Workers())

@@ -5,6 +5,7 @@
 
 #include "business/monthlymoney.h"
 #include "calendar/events.h"
+#include "records/arithmetic.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -82,8 +83,7 @@ void RememberJob(World& world, const Promotion& promotion) {
 
 void StartPromotion(World& world, Promotion& promotion) {
   const bool isPlayer = promotion.Uid == world.PlayerUid();
-  const auto& spend =
-      kStartingSpend[static_cast<std::size_t>(std::clamp<int>(promotion.Size, 1, 6) - 1)];
+  const StartingSpend& spend = BySize(kStartingSpend, promotion.Size);
   if (isPlayer) {
     RememberJob(world, promotion);
   } else {
