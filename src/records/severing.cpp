@@ -36,11 +36,6 @@ void EndContract(Worker& worker) {
   worker.Stable = "None";
 }
 
-void VacateTitlesOf(World& world, int workerUid) {
-  for (Title& title : world.Titles())
-    if (title.Holder == workerUid || title.Partner == workerUid) VacateTitle(world, title);
-}
-
 /// The job offer among the incidents names a promotion.
 constexpr int kJobOfferIncident = 6;
 
@@ -83,6 +78,11 @@ void VacateTitle(World& world, Title& title) {
   title.Partner = 0;
   title.Image -= 20;
   BeginReign(title, world.HasGame() ? world.Today() : kNoTitleDate, "Vacant");
+}
+
+void VacateTitlesOf(World& world, int workerUid) {
+  for (Title& title : world.Titles())
+    if (title.Holder == workerUid || title.Partner == workerUid) VacateTitle(world, title);
 }
 
 void LeaveCommentary(World& world, int workerUid) {

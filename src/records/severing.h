@@ -27,6 +27,8 @@ void EndPosting(Worker& worker);
 void LeaveCommentary(World& world, int workerUid);
 /// Takes all four participants out of every feud that names the worker.
 void LeaveFeuds(World& world, int workerUid);
+/// Vacates every Title that the worker holds, alone or with a partner.
+void VacateTitlesOf(World& world, int workerUid);
 /// Vacates the Title: no holder, 20 off its image, a new reign of "Vacant" from today.
 void VacateTitle(World& world, Title& title);
 

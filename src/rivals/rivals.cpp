@@ -13,10 +13,6 @@ bool IsRival(const World& world, const Promotion& promotion) {
   return promotion.Uid != world.PlayerUid() && IsAlive(promotion);
 }
 
-void TellOf(World& world, int option, const Promotion& rival, const std::string& body) {
-  if (ShouldTell(world, option, rival.Size)) AddNews(world, rival.Initials + " News", body);
-}
-
 bool IsOnMainRoster(const Worker& worker) {
   return IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
 }

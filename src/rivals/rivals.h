@@ -17,9 +17,6 @@ bool IsAlive(const Promotion& promotion);
 /// A living promotion that is not the player's.
 bool IsRival(const World& world, const Promotion& promotion);
 
-/// A mail from the rival's news, if the option (a word of GameInfo) lets it through.
-void TellOf(World& world, int option, const Promotion& rival, const std::string& body);
-
 /// Someone whom a rival's roster counts: on the card, a manager or a non-wrestler, not in
 /// development or at the camp.
 bool IsOnMainRoster(const Worker& worker);

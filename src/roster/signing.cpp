@@ -140,8 +140,7 @@ std::string WhyNotCalled(const World& world, const Worker& worker, const Signing
 void LeaveFormer(World& world, const Worker& worker) {
   for (Promotion& promotion : world.Promotions())
     if (promotion.Commissioner == worker.Uid) promotion.Commissioner = 0;
-  for (Title& title : world.Titles())
-    if (title.Holder == worker.Uid || title.Partner == worker.Uid) VacateTitle(world, title);
+  VacateTitlesOf(world, worker.Uid);
 }
 
 }  // namespace

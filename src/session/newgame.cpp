@@ -9,6 +9,7 @@
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "rivals/challenge.h"
 #include "roster/invented.h"
 
 namespace grapplemont {
@@ -112,11 +113,8 @@ void StartPromotions(World& world) {
 
 /// A player alone at the top may be challenged.
 void MaybeChallenge(World& world) {
-  const auto globals = std::count_if(world.Promotions().begin(), world.Promotions().end(),
-                                     [](const Promotion& p) { return p.Size == kGlobal; });
-  if (world.Player().Size == kGlobal && globals == 1 && world.RandomDraw(5) == 1 &&
-      world.Promotions().Count() < 20)
-    world.Game().EndCode = 100;
+  if (IsAloneAtTheTop(world) && world.RandomDraw(5) == 1 && world.Promotions().Count() < 20)
+    world.Game().EndCode = kStrangerWaits;
 }
 
 bool WaitsForDebut(const World& world, const Worker& worker) {
