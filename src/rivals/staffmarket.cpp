@@ -1,5 +1,6 @@
 #include "rivals/staffmarket.h"
 
+#include "records/modVar.h"
 #include "records/severing.h"
 #include "rivals/rivals.h"
 #include "rivals/rivalsteps.h"
@@ -66,6 +67,7 @@ void SignStaff(World& world, const Promotion& rival, Staff& staff) {
   staff.Employer = rival.Uid;
   staff.ContractMonths = ContractMonthsAt(rival.Size);
   staff.ContractType = rival.Size < kCult ? "Wri" : "Non";
+  staff.Unsackable = false;
   staff.Morale += kMoodSwing;
   staff.Wage = std::min(staff.Wage + BySize(kWageRise, rival.Size), kHighestStaffWage);
   TellOf(world, world.Game().MailStaffHire, rival,
