@@ -75,14 +75,14 @@ std::string WhyNotTitleName(const World& world, std::string_view name) {
   return world.Titles().Full() ? "No more Titles can be kept." : "";
 }
 
-int CreateTitle(World& world, const TitleTerms& terms) {
+Title VacantTitle(const World& world, const TitleTerms& terms, int promotionUid, int image) {
   Title title;
   title.Name = TrimmedName(terms.Name);
   title.Singles = terms.Singles;
   title.Woman = terms.Woman;
   title.Lightweight = terms.Lightweight;
-  title.Owner = world.PlayerUid();
-  title.Image = kNewTitleImage;
+  title.Owner = promotionUid;
+  title.Image = image;
   for (Reign& reign : title.Reigns) {
     reign.Won = kNoTitleDate;
     reign.Holder = "None";
@@ -90,7 +90,11 @@ int CreateTitle(World& world, const TitleTerms& terms) {
   }
   title.Reigns[0].Won = world.Today();
   title.Reigns[0].Holder = "Vacant";
-  world.Titles().Append(title);
+  return title;
+}
+
+int CreateTitle(World& world, const TitleTerms& terms) {
+  world.Titles().Append(VacantTitle(world, terms, world.PlayerUid(), kNewTitleImage));
   return world.Titles().Count();
 }
 

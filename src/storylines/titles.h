@@ -32,6 +32,8 @@ bool FitsTitle(const Title& title, const Worker& worker);
 
 /// Why no Title can have this name from now on; empty when one can.
 std::string WhyNotTitleName(const World& world, std::string_view name);
+/// A vacant Title of the promotion's, active at once, without a past.
+Title VacantTitle(const World& world, const TitleTerms& terms, int promotionUid, int image);
 /// A vacant Title of the player's, active at once; gives its number. Requires a name that can be
 /// had.
 int CreateTitle(World& world, const TitleTerms& terms);
