@@ -101,6 +101,7 @@ class Year {
     ExpectShow();
     world().Session.ShowRating = 55;
     AdvanceDay(world(), false, [&](std::string_view step) { Watch(step); });
+    world().Game().EndCode = 0;  // the books go on, whatever the board thinks
     play_.Play.Commit();
     if (!IsFirstOfMonth(world().Today())) Read(mails_ + 1);
   }
