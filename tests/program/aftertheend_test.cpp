@@ -81,13 +81,12 @@ std::vector<std::string> ButtonsOf(const ui::Screen& screen) {
 constexpr std::string_view kWaysOut[] = {"cmdquit", "cmdmenu", "cmdmainmenu"};
 
 constexpr const char* kScreens[] = {
-    "frmOptions", "frmFeuds",      "frmFeudStart",  "frmBooking",   "frmPPVBooking", "frmAutoBook",
-    "frmDebut",   "frmAltRoster",  "frmAltBelts",   "frmTagTeams",  "frmStables",    "frmManagers",
-    "frmTurn",    "frmRoster",     "frmOtherWres",  "frmStaff",     "frmOtherStaff", "frmShortlist",
-    "frmUser",    "frmFinance",    "frmTicket",     "frmCharity",   "frmLoan",       "frmWages",
-    "frmFedProd", "frmFedSponsor", "frmTelevision", "frmPromoTape", "frmTvOffer",    "frmTVRank",
-    "frmFed",     "frmFedValue",   "frmBelts",      "frmEvent",     "frmOtherFed",   "frmNews",
-    "frmNotepad", "frmPinky"};
+    "frmOptions",   "frmFeuds",      "frmFeudStart", "frmDebut",   "frmAltRoster",  "frmAltBelts",
+    "frmTagTeams",  "frmStables",    "frmManagers",  "frmTurn",    "frmRoster",     "frmOtherWres",
+    "frmStaff",     "frmOtherStaff", "frmShortlist", "frmUser",    "frmFinance",    "frmTicket",
+    "frmCharity",   "frmLoan",       "frmWages",     "frmFedProd", "frmFedSponsor", "frmTelevision",
+    "frmPromoTape", "frmTvOffer",    "frmTVRank",    "frmFed",     "frmFedValue",   "frmBelts",
+    "frmEvent",     "frmOtherFed",   "frmNews",      "frmNotepad", "frmPinky"};
 
 TEST(AfterTheEnd, EveryScreenOpensAndNoButtonChangesTheWorld) {
   Over over;
@@ -111,6 +110,19 @@ TEST(AfterTheEnd, EveryScreenOpensAndNoButtonChangesTheWorld) {
   }
   EXPECT_NE(std::ranges::find(over.Desk.Told, kCareerIsOver), over.Desk.Told.end())
       << "and the player is told why";
+}
+
+TEST(AfterTheEnd, NoShowIsBookedAnyMore) {
+  Over over;
+  for (const char* sheet : {"frmBooking", "frmPPVBooking", "frmAutoBook"}) {
+    over.Desk.Open("frmMainScreen");
+    over.Desk.Told.clear();
+    over.Desk.Open(sheet);
+    EXPECT_EQ(over.Desk.Told, std::vector<std::string>{kCareerIsOver}) << sheet;
+    EXPECT_NE(over.Desk.Top()->Name(), sheet);
+    over.Desk.CloseAll();
+  }
+  EXPECT_EQ(over.Play.World().Segments().Count(), 0);
 }
 
 TEST(AfterTheEnd, MailsAndNotesAreStillThePlayers) {
