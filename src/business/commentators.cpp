@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "records/arithmetic.h"
+
 namespace grapplemont {
 
 namespace {
@@ -26,7 +28,7 @@ std::optional<Commentator> Seated(const R* person) {
 }  // namespace
 
 int WantedTalent(int size) {
-  return kWantedTalent[static_cast<std::size_t>(std::clamp<int>(size, kGlobal, kBackyard) - 1)];
+  return BySize(kWantedTalent, size);
 }
 
 std::vector<const Staff*> CommentaryStaff(const World& world) {

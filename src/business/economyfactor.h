@@ -1,7 +1,8 @@
 #pragma once
 
-#include <algorithm>
 #include <span>
+
+#include "records/arithmetic.h"
 
 namespace grapplemont {
 
@@ -15,12 +16,6 @@ struct EconomyFactor {
   int To;
   int Percent;
 };
-
-/// The amount in hundredths of itself, rounded down; whole numbers only, so that every machine
-/// rounds alike.
-constexpr int PercentOf(int amount, int percent) {
-  return static_cast<int>(static_cast<long long>(amount) * percent / 100);
-}
 
 /// The amount by the band that the economy stands in; as it is between the bands.
 constexpr int ByEconomy(int amount, std::span<const EconomyFactor> factors, int economy) {

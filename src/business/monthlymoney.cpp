@@ -4,6 +4,7 @@
 #include <array>
 
 #include "business/economyfactor.h"
+#include "records/arithmetic.h"
 
 namespace grapplemont {
 
@@ -48,11 +49,6 @@ struct ProductionRate {
 };
 constexpr ProductionRate kProductionRates[] = {
     {20, 1000}, {40, 5000}, {60, 10000}, {80, 12000}, {100, 22000}};
-
-template <class Row>
-const Row& BySize(const std::array<Row, 6>& rows, int size) {
-  return rows[static_cast<std::size_t>(std::clamp(size, int(kGlobal), int(kBackyard)) - 1)];
-}
 
 template <std::size_t N>
 int ByImage(const std::array<int, N>& bands, int image, int width) {

@@ -4,9 +4,9 @@
 #include <array>
 
 #include "business/businesssteps.h"
-#include "business/economyfactor.h"
 #include "business/networks.h"
 #include "business/tvshows.h"
+#include "records/arithmetic.h"
 #include "records/modVar.h"
 
 namespace grapplemont {
@@ -87,8 +87,7 @@ std::optional<TvOffer> OfferOnTheTable(const World& world) {
   const Promotion& player = world.Player();
   TvOffer offer{
       network, 0, OfferedSlot(*network, AudiencePotential(player, world.Game().Economy)), {}};
-  const int size = std::clamp<int>(player.Size, kGlobal, kBackyard);
-  offer.Weeks = kOfferedWeeks[static_cast<std::size_t>(size - 1)];
+  offer.Weeks = BySize(kOfferedWeeks, player.Size);
   offer.Days = FreeDays(world, player.Uid, *network, offer.Slot);
   return offer;
 }

@@ -2,9 +2,9 @@
 #include <array>
 
 #include "business/businesssteps.h"
-#include "business/economyfactor.h"
 #include "business/networks.h"
 #include "business/tvshows.h"
+#include "records/arithmetic.h"
 
 namespace grapplemont {
 

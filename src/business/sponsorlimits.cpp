@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "records/arithmetic.h"
+
 namespace grapplemont {
 
 namespace {
@@ -18,8 +20,7 @@ constexpr std::array<PayLimits, 6> kRivalLimits = {
     {{1001, 1001}, {921, 861}, {821, 701}, {601, 531}, {451, 321}, {251, 101}}};
 
 int LimitOf(const std::array<PayLimits, 6>& limits, int size, int image) {
-  const PayLimits& row =
-      limits[static_cast<std::size_t>(std::clamp(size, int(kGlobal), int(kBackyard)) - 1)];
+  const PayLimits& row = BySize(limits, size);
   return image >= 51 ? row.Image51Up : row.Below51;
 }
 

@@ -17,13 +17,12 @@ constexpr EconomyWords kEconomy[] = {{90, "Booming"},        {81, "Strong"},
                                      {30, "Steady"},         {20, "Slow"},
                                      {10, "In a recession"}, {-32768, "In a slump"}};
 
-/// A standing score back in its size and image. The highest of all is a full image at the top.
+}  // namespace
+
 PastStanding FromScore(Day on, int score) {
   const int size = std::clamp(kBackyard - score / 100, int(kGlobal), int(kBackyard));
   return {on, size, score - (kBackyard - size) * 100};
 }
-
-}  // namespace
 
 std::vector<PastStanding> StandingsOf(const World& world, const Promotion& promotion, int most) {
   const auto months = MonthsOf(world, promotion.Uid);

@@ -20,6 +20,9 @@ struct PastStanding {
   int Score() const { return (kBackyard - Size) * 100 + Image; }
 };
 
+/// A standing score back in its size and image. The highest of all is a full image at the top.
+PastStanding FromScore(Day on, int score);
+
 /// The last month ends, oldest first, and how it stands today; at most `most` in all. Months from
 /// before the past was kept are read from the five of the promotion's own record.
 std::vector<PastStanding> StandingsOf(const World& world, const Promotion& promotion, int most);

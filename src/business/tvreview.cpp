@@ -1,7 +1,7 @@
 #include "business/businesssteps.h"
-#include "business/economyfactor.h"
 #include "business/networks.h"
 #include "business/tvshows.h"
+#include "records/arithmetic.h"
 
 namespace grapplemont {
 

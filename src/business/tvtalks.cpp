@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "business/economyfactor.h"
 #include "business/networks.h"
 #include "business/tvshows.h"
+#include "records/arithmetic.h"
 
 namespace grapplemont {
 
@@ -77,8 +77,7 @@ ExtensionTalk TalkOfExtension(const Promotion& promotion, const Show& show,
 EndingTalk TalkOfEnding(const Promotion& promotion, const Show& show, const Network& network) {
   if (ViewOf(show, network) == kTerrible)
     return {"Network: 'We are happy to mutually end this deal.'"};
-  const int size = std::clamp<int>(promotion.Size, kGlobal, kBackyard);
-  const int penalty = kPenalties[static_cast<std::size_t>(size - 1)];
+  const int penalty = BySize(kPenalties, promotion.Size);
   return {
       "Network: 'We do not wish to end this deal.If you breach the contract, we will sue you for "
       "$" +

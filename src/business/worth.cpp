@@ -6,6 +6,7 @@
 #include "business/development.h"
 #include "business/networks.h"
 #include "business/sponsorlimits.h"
+#include "records/arithmetic.h"
 #include "records/modVar.h"
 
 namespace grapplemont {
@@ -20,10 +21,6 @@ constexpr std::array<int, 6> kFameWorth = {40, 12, 12, 12, 15, 4};
 constexpr int kYearMonths = 12, kYearWeeks = 52;  // nobody pays for what is further away
 constexpr int kDollarsPerRating = 300;            // a hundredth of a rating, for a week
 constexpr int kThousand = 1000;
-
-int BySize(const std::array<int, 6>& row, int size) {
-  return row[static_cast<std::size_t>(std::clamp(size, int(kGlobal), int(kBackyard)) - 1)];
-}
 
 std::string Count(long long number, const char* one, const char* many) {
   return std::to_string(number) + " " + (number == 1 ? one : many);

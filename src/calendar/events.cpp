@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "records/arithmetic.h"
 #include "records/dates.h"
 #include "records/sweeps.h"
 #include "show/attendance.h"
@@ -20,18 +21,35 @@ struct EventTypes {
 constexpr std::array<EventTypes, 6> kNewEventTypes = {
     {{1, 1}, {1, 2}, {2, 3}, {3, 3}, {4, 4}, {4, 4}}};
 
-void Append(World& world, int owner, int month, std::string_view name, int type) {
+/// The place of an Event whose promotion is gone; nullptr for none.
+Event* LeftBehind(World& world) {
+  for (Event& event : world.Events())
+    if (event.Owner == 0) return &event;
+  return nullptr;
+}
+
+/// Nothing once no place is left.
+void Add(World& world, int owner, int month, std::string_view name, int type) {
   Event event;
   event.Owner = owner;
   event.Month = month;
   event.Name = name;
   event.Type = type;
-  world.Events().Append(event);
+  if (Event* place = LeftBehind(world))
+    *place = event;
+  else if (!world.Events().Full())
+    world.Events().Append(event);
 }
 
 void AddEvent(World& world, const Promotion& promotion, int month) {
-  Append(world, promotion.Uid, month, promotion.Initials + " in " + std::string(MonthName(month)),
-         NewEventType(promotion));
+  Add(world, promotion.Uid, month, promotion.Initials + " in " + std::string(MonthName(month)),
+      NewEventType(promotion));
+}
+
+bool IsRoom(const World& world) {
+  const auto isLeft = [](const Event& event) { return event.Owner == 0; };
+  return !world.Events().Full() ||
+         std::any_of(world.Events().begin(), world.Events().end(), isLeft);
 }
 
 Day LastSunday(int year, int month) {
@@ -54,9 +72,7 @@ const Event* EventOf(const World& world, int promotionUid, int month) {
 }
 
 int NewEventType(const Promotion& promotion) {
-  if (promotion.Size < kGlobal || promotion.Size > kBackyard)
-    return kNewEventTypes.back().ImageAbove60;
-  const EventTypes& types = kNewEventTypes[static_cast<std::size_t>(promotion.Size - 1)];
+  const EventTypes& types = BySize(kNewEventTypes, promotion.Size);
   return promotion.Image >= 61 ? types.ImageAbove60 : types.Image60OrLess;
 }
 
@@ -105,13 +121,13 @@ std::string WhyNotEventName(const World& world, int month, std::string_view name
 std::string WhyNotPlan(const World& world, int month, std::string_view name, int type) {
   if (PlayerEvent(world, month))
     return "There is an Event in " + std::string(MonthName(month)) + " already.";
-  if (world.Events().Full()) return "No more Events can be kept.";
+  if (!IsRoom(world)) return "No more Events can be kept.";
   if (std::string why = WhyNotEventName(world, month, name); !why.empty()) return why;
   return WhyNotEventType(world.Player(), type);
 }
 
 void PlanEvent(World& world, int month, std::string_view name, int type) {
-  Append(world, world.PlayerUid(), month, TrimmedName(name), type);
+  Add(world, world.PlayerUid(), month, TrimmedName(name), type);
 }
 
 void RenameEvent(World& world, int month, std::string_view name) {

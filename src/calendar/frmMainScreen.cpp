@@ -8,7 +8,6 @@
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "rivals/endstories.h"
 #include "show/holdshow.h"
 #include "storylines/screenpeople.h"
 #include "ui/acts.h"
@@ -139,7 +138,7 @@ class frmMainScreen : public ui::Screen {
     lblmoney.Text = Dollars(player.Money);
     lblmoney.Colour = player.Money < 0 ? ui::Tone::Red : ui::Tone::Plain;
     for (ui::Button* button : {&cmdnext, &cmduntil})
-      EnableUnless(*button, HasEnded(world()) ? "Your career has ended." : "");
+      EnableUnless(*button, HasEnded(world().Game()) ? kCareerIsOver : "");
   }
 
   void ShowMail() {
@@ -182,9 +181,9 @@ class frmMainScreen : public ui::Screen {
                       static_cast<int>(rows.size()) + 1});
     }
     lstahead.Fill(std::move(rows), false);
-    lblfacts.Text = HasEnded(world()) ? "Your career here has ended. The world can still be read."
-                    : today.empty()   ? "Nothing is due today."
-                                      : "Due today: " + today + ".";
+    lblfacts.Text = HasEnded(world().Game()) ? kCareerIsOver
+                    : today.empty()          ? "Nothing is due today."
+                                             : "Due today: " + today + ".";
   }
 
   static ui::Tone ToneOf(const Appointment& show) {
@@ -195,11 +194,11 @@ class frmMainScreen : public ui::Screen {
   /// What stops the game until the player has dealt with it. Such a screen opens once its room has
   /// it.
   void OpenWhatWaits() {
+    if (HasEnded(world().Game())) return TellTheEnd();
     if (ShowUnderWay(world()))
       return OpenIfKnown(ShowIsClosed(world()) ? "frmPostShow" : "frmMatchOutput");
     const int endCode = world().Game().EndCode;
-    if (HasEnded(world())) return TellTheEnd();
-    if (endCode == 100) return OpenIfKnown("frmPinky");
+    if (endCode == kStrangerWaits) return OpenIfKnown("frmPinky");
     if (endCode == 0 && HasIncident()) OpenIfKnown("frmIncident");
   }
 

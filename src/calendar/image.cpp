@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kAfterAFall = 90;
 constexpr int kAfterARise = 10;
-constexpr int kBoardLosesPatience = 3;
 constexpr int kPotentialAboveFloor = 20;
 constexpr int kLeastPotential = 30;
 
@@ -25,8 +24,8 @@ void TellOfClass(World& world, const Promotion& promotion, const std::string& mo
   const std::string level = moved + std::string(SizeText(promotion.Size)) + " level.";
   if (IsPlayers(world, promotion))
     AddNews(world, "Maeve", "We have" + level);
-  else if (ShouldTell(world, world.Game().MailOtherFed, promotion.Size))
-    AddNews(world, promotion.Initials + " News", promotion.Initials + " have" + level);
+  else
+    TellOf(world, world.Game().MailOtherFed, promotion, promotion.Initials + " have" + level);
 }
 
 void OwnersQuit(World& world, const Promotion& promotion) {
@@ -44,8 +43,7 @@ void FallInClass(World& world, Promotion& promotion) {
   promotion.Image = kAfterAFall;
   if (IsPlayers(world, promotion)) world.Session.StartSize = promotion.Size;
   TellOfClass(world, promotion, " fallen to ");
-  if (IsPlayers(world, promotion) && world.RandomDraw(3) == 3)
-    world.Game().EndCode = kBoardLosesPatience;
+  if (IsPlayers(world, promotion) && world.RandomDraw(3) == 3) world.Game().EndCode = kEndBoard;
   for (Worker& worker : world.Workers())
     if (worker.Employer == promotion.Uid)
       worker.Over = std::max<int>(worker.Over - world.RandomDraw(5), worker.OverFloor);

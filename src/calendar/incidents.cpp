@@ -1,6 +1,7 @@
 #include "calendar/incidents.h"
 
 #include "records/modWresCheck.h"
+#include "rivals/ownership.h"
 #include "show/injuries.h"
 
 namespace grapplemont {
@@ -33,10 +34,7 @@ std::string Months(int months) {
 }
 
 std::string OfferText(const World& world, const Promotion& promotion) {
-  const Staff* owner = OwnerOf(world, promotion.Uid);
-  const std::string who = owner ? promotion.Initials + " owner " + owner->Name.Str()
-                                : "The " + promotion.Initials.Str() + " board";
-  return who + " would like to offer you a job. ";
+  return WhoDecides(world, promotion) + " would like to offer you a job. ";
 }
 
 }  // namespace

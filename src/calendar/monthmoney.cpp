@@ -13,15 +13,13 @@ namespace {
 
 constexpr const char* kFinance = "Finance Dept.";
 constexpr int kMostMoney = 90000000;
-constexpr int kLoanCalledIn = 1;  // as an end of the career
 
 bool IsPlayers(const World& world, const Promotion& promotion) {
   return promotion.Uid == world.PlayerUid();
 }
 
 void TellOfRival(World& world, const Promotion& rival, const char* what) {
-  if (ShouldTell(world, world.Game().MailOtherFed, rival.Size))
-    AddNews(world, rival.Initials + " News", rival.Initials + what);
+  TellOf(world, world.Game().MailOtherFed, rival, rival.Initials + what);
 }
 
 void PlayerMisses(World& world, int missed) {
@@ -33,7 +31,7 @@ void PlayerMisses(World& world, int missed) {
     AddNews(world, kFinance,
             "The bank have given us a written warning as we could not make this month's loan "
             "repayment.");
-  if (missed == 3) world.Game().EndCode = kLoanCalledIn;
+  if (missed == 3) world.Game().EndCode = kEndLoan;
 }
 
 void RivalMisses(World& world, Promotion& rival, int missed) {

@@ -23,8 +23,7 @@ constexpr TrendWords kImageWords = {
      "Superb work, our public image is improving every month."},
     {"Our public image seems to be falling...what are you going to do about it?",
      "This is the fourth month running that our public image has dropped. I hope you have a plan "
-     "to "
-     "turn things around!",
+     "to turn things around!",
      "What are you doing? Our public image is dropping at a rapid rate!"}};
 constexpr TrendWords kMoneyWords = {
     {"Good work chief, our money is increasing nicely.",

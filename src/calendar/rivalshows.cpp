@@ -44,8 +44,7 @@ std::optional<int> QualityOf(const World& world, int promotionUid, int (*weight)
 }
 
 void TellCancelled(World& world, const Promotion& rival, int option, const char* what) {
-  if (ShouldTell(world, option, rival.Size))
-    AddNews(world, rival.Initials + " News", rival.Initials + what);
+  TellOf(world, option, rival, rival.Initials + what);
 }
 
 bool SimulateRivalEvent(World& world, Promotion& rival, int type) {

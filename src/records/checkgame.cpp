@@ -12,7 +12,7 @@ namespace {
 
 /// A word of gameinfo.dat with codes that its range alone does not tell.
 bool IsEndCode(int code) {
-  return (code >= 0 && code <= 9) || code == 100;
+  return (code >= kGoesOn && code <= kLastEnd) || code == kStrangerWaits;
 }
 
 /// Whether the text is a day of the calendar as mails are dated.

@@ -65,4 +65,8 @@ const RecordLayout& LayoutOf<GameInfo>() {
   return kLayout;
 }
 
+bool HasEnded(const GameInfo& game) {
+  return game.EndCode > kGoesOn && game.EndCode <= kLastEnd;
+}
+
 }  // namespace grapplemont

@@ -41,7 +41,7 @@ struct GameInfo {
   Word MailRetirement;
   Word MailOtherFed;
   Word MailSponsor;
-  Word EndCode;  // 0 normal play; 1 to 9 the career has ended; 100 a challenge awaits
+  Word EndCode;  // an EndOfCareer, or kStrangerWaits
   Word MailShows;
   Word MailTvShow;
   Word MailStaffRetire;
@@ -77,6 +77,15 @@ static_assert(offsetof(GameInfo, EconomyRising) == 427 && offsetof(GameInfo, Ver
 
 template <>
 const RecordLayout& LayoutOf<GameInfo>();
+
+/// GameInfo.EndCode: 0 while the career goes on, 1 to 9 once it has ended. Only 1 to 3 are given
+/// here.
+enum EndOfCareer { kGoesOn = 0, kEndLoan, kEndBankrupt, kEndBoard, kLastEnd = 9 };
+/// GameInfo.EndCode while the career goes on and a stranger waits to be seen.
+inline constexpr int kStrangerWaits = 100;
+
+/// Whether the career has ended.
+bool HasEnded(const GameInfo& game);
 
 /// The version that a slot must have to be played.
 inline constexpr std::string_view kVersion = "Version 2.0";

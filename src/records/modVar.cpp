@@ -38,6 +38,10 @@ bool ShouldTell(const World& world, int option, int size) {
   return option == 0 || (option == 1 && size <= world.Session.StartSize);
 }
 
+void TellOf(World& world, int option, const Promotion& rival, const std::string& body) {
+  if (ShouldTell(world, option, rival.Size)) AddNews(world, rival.Initials + " News", body);
+}
+
 std::string Dollars(long long amount) {
   std::string digits = std::to_string(amount < 0 ? -amount : amount);
   for (std::size_t place = digits.size(); place > 3;) digits.insert(place -= 3, ",");

@@ -21,6 +21,8 @@ std::string RatingText(int value);
 /// Whether a mail under this option word (0 always, 1 direct rivals or above, 2 never) is told
 /// about a promotion of this size, by the player's size as the day last saw it.
 bool ShouldTell(const World& world, int option, int size);
+/// A mail from the rival's news, if the option lets it through.
+void TellOf(World& world, int option, const Promotion& rival, const std::string& body);
 
 /// "$1,284,500", with a minus sign in front for a debt.
 std::string Dollars(long long amount);

@@ -7,6 +7,8 @@ namespace grapplemont {
 namespace {
 
 void EndPromotion(World& world, int uid) {
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == uid) worker.Split = "None";
   SeverWorkersAndStaff(world, uid);
   for (Show& show : world.Shows())
     if (show.Owner == uid) show.Name = kToBeDeleted;

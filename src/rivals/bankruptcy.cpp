@@ -1,6 +1,7 @@
+#include "rivals/bankruptcy.h"
+
+#include "records/arithmetic.h"
 #include "records/modVar.h"
-#include "rivals/bankruptcylines.h"
-#include "rivals/endstories.h"
 #include "rivals/rivals.h"
 #include "rivals/rivalsteps.h"
 

@@ -7,6 +7,7 @@
 #include "records/modWresCheck.h"
 #include "rivals/founding.h"
 #include "rivals/newpromotionnames.h"
+#include "rivals/ownership.h"
 #include "rivals/rivals.h"
 #include "rivals/taste.h"
 #include "rivals/tuning.h"
@@ -41,7 +42,12 @@ bool HasLongBeenAlone(const World& world) {
                       [&](auto& p) { return IsRival(world, p) && WasGlobal(p); });
 }
 
-void Employ(World& world, const Promotion& promotion) {
+bool IsRoomFor(const World& world) {
+  return !world.Promotions().Full() && !world.AllStaff().Full();
+}
+
+/// He is the owner, of whatever style, and the promotion is as risky as that.
+void Employ(World& world, Promotion& promotion) {
   Staff owner;
   owner.Uid = NextStaffUid(world);
   std::string name = kStranger;
@@ -61,6 +67,7 @@ void Employ(World& world, const Promotion& promotion) {
   owner.Backstage = 15;
   owner.Loyalty = 100;
   world.AllStaff().Append(owner);
+  FollowOwner(promotion, owner);
 }
 
 bool IsStar(const Worker& worker) {
@@ -71,7 +78,7 @@ bool IsStar(const Worker& worker) {
 void BuyStars(World& world, const Promotion& promotion) {
   std::vector<Worker*> stars;
   for (Worker& worker : world.Workers())
-    if (IsStar(worker)) stars.push_back(&worker);
+    if (IsStar(worker) && worker.Employer != promotion.Uid) stars.push_back(&worker);
   std::stable_sort(stars.begin(), stars.end(), [](auto* a, auto* b) { return a->Over > b->Over; });
   std::map<int, int> takenFrom;
   int bought = 0;
@@ -97,7 +104,7 @@ bool IsAloneAtTheTop(const World& world) {
 void AwaitStranger(World& world) {
   GameInfo& game = world.Game();
   if (game.EndCode != 0 || !IsAloneAtTheTop(world) || !HasLongBeenAlone(world) ||
-      world.Promotions().Full() || !FreeName(world))
+      !IsRoomFor(world) || !FreeName(world))
     return;
   if (world.RandomDraw(tuning::kStrangerIn) == 1) game.EndCode = kStrangerWaits;
 }
@@ -105,18 +112,15 @@ void AwaitStranger(World& world) {
 std::string StrangersWords(const World& world) {
   const std::string us = world.Player().Name.Str();
   return "A long pink car stops where nobody may stop, and a man in a suit of the same colour "
-         "walks "
-         "into your office without knocking.\n"
+         "walks into your office without knocking.\n"
          "'" +
          std::string(kStranger) + ". Chewing gum, mostly. So this is " + us +
          ". Biggest wrestling company on the planet, and the only one of its size. Do you know "
-         "what "
-         "my father used to say about a shop without another across the street? He used to buy "
-         "the street.'\n"
+         "what my father used to say about a shop without another across the street? He used to "
+         "buy the street.'\n"
          "He puts a business card on your desk. It smells of strawberry.\n"
          "'I have forty million dollars that bore me and a lawyer who is signing leases as we "
-         "speak. "
-         "By tonight " +
+         "speak. By tonight " +
          (FreeName(world) ? FreeName(world)->Name : "my company") +
          " is open for business. Your people have telephones, I take it? Good. Lovely to have met "
          "you, " +
@@ -126,13 +130,12 @@ std::string StrangersWords(const World& world) {
 void MeetStranger(World& world) {
   world.Game().EndCode = 0;
   const NewPromotionName* name = FreeName(world);
-  if (!name || world.Promotions().Full()) return;
+  if (!name || !IsRoomFor(world)) return;
   Promotion promotion = NewPromotion(world, name->Name, name->Initials);
   promotion.Size = kNational;
   promotion.Money = tuning::kStrangersMoney;
   promotion.Image = 80;
   promotion.Momentum = 4;
-  promotion.Risk = 40;
   Employ(world, promotion);
   AddNews(world, "New Promotion", "A new promotion, " + promotion.Name.Str() + ", has opened.");
   BuyStars(world, Open(world, promotion));

@@ -8,9 +8,6 @@
 
 namespace grapplemont {
 
-/// GameInfo.EndCode while the stranger waits to be seen.
-inline constexpr int kStrangerWaits = 100;
-
 /// Whether the player's promotion is the only Global one.
 bool IsAloneAtTheTop(const World& world);
 /// Draws once, when the player has been alone at the top at five month ends and nothing ends the

@@ -14,30 +14,25 @@ struct Subject {
 std::string LoanStory(const Subject& of) {
   return of.Name + " today released their general manager " + of.Player + ". " +
          "According to reports, a loan taken out by " + of.Player +
-         " had caused financial problems "
-         "for the company, to the extent that the board felt it was necessary to take action. More "
-         "news "
-         "on this story as we get it.";
+         " had caused financial problems for the company, to the extent that the board felt it was "
+         "necessary to take action. More news on this story as we get it.";
 }
 
 std::string BankruptStory(const Subject& of) {
   return of.Name +
-         " today went out of business due to financial problems. The company "
-         "has been having problems with cash flow for some time, and many blame this on the "
-         "inability "
-         "of general manager " +
+         " today went out of business due to financial problems. The company has been having "
+         "problems with cash flow for some time, and many blame this on the inability of general "
+         "manager " +
          of.Player + " to handle financial affairs. More news as we get it.";
 }
 
 std::string BoardStory(const Subject& of) {
   return of.Name + " today released their general manager " + of.Player + ". Many feel that " +
          of.Player +
-         " had to go, as the company was suffering "
-         "an alarming slump in fortunes. The mismanagement of " +
-         of.Player +
-         " is "
-         "seen as the main reason why " +
-         of.Initials + " have fallen to " + of.Size +
+         " had to go, as the company was suffering an alarming slump in fortunes. The "
+         "mismanagement of " +
+         of.Player + " is seen as the main reason why " + of.Initials + " have fallen to " +
+         of.Size +
          " level, and few in the dressing room were sorry to hear the news. Nobody at head office "
          "would say who takes over. More news on this story as we get it.";
 }
@@ -75,14 +70,6 @@ std::string Counted(long long count, const std::string& one) {
 }
 
 }  // namespace
-
-bool HasEnded(const GameInfo& game) {
-  return game.EndCode >= 1 && game.EndCode <= 9;
-}
-
-bool HasEnded(const World& world) {
-  return HasEnded(world.Game());
-}
 
 EndStory StoryOfTheEnd(const World& world, int endCode) {
   const Promotion& promotion = world.Player();

@@ -3,41 +3,51 @@
 #include <algorithm>
 
 #include "business/monthlymoney.h"
-#include "records/dates.h"
+#include "records/arithmetic.h"
 #include "records/modWresCheck.h"
 #include "rivals/staffmarket.h"
 #include "rivals/tuning.h"
 #include "rivals/workermarket.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
 
 namespace {
 
-/// As many whole words of the name as leave room for `behind` in a Title's name.
-std::string NamedAfter(std::string_view name, std::string_view behind) {
-  constexpr auto kRoom = static_cast<std::size_t>(decltype(Title::Name)::kWidth);
-  std::string_view front = name;
-  while (front.size() + behind.size() > kRoom) {
-    const auto blank = front.rfind(' ');
-    if (blank == std::string_view::npos) break;
-    front = front.substr(0, blank);
+/// The Title of this name that a promotion has left behind, or any such once the file is full.
+Title* LeftBehind(World& world, std::string_view name) {
+  Title* any = nullptr;
+  for (Title& title : world.Titles()) {
+    if (title.Owner != kNoEnd) continue;
+    if (title.Name == name) return &title;
+    if (!any && world.Titles().Full()) any = &title;
   }
-  return std::string(front) + std::string(behind);
+  return any;
 }
 
-Title VacantTitle(const Promotion& promotion, std::string_view behind, bool singles) {
-  Title title;
-  title.Name = NamedAfter(promotion.Name, behind);
-  title.Singles = singles;
-  title.Owner = promotion.Uid;
-  title.Image = BySize(tuning::kNewTitleImage, promotion.Size);
-  for (Reign& reign : title.Reigns) {
-    reign.Won = kNoTitleDate;
-    reign.Lost = kNoTitleDate;
-    reign.Holder = "None";
-  }
-  title.Reigns[0].Holder = "Vacant";
-  return title;
+/// "CWA Crown", or "CWA Crown II" and on where somebody has a Title of that name.
+std::string TitleNameOf(const World& world, const Promotion& promotion, std::string_view what) {
+  const std::string plain = promotion.Initials + " " + std::string(what);
+  std::string name = plain;
+  const auto isHeld = [&](const Title& title) {
+    return title.Owner != kNoEnd && title.Name == name;
+  };
+  for (const char* behind : {" II", " III", " IV"})
+    if (std::any_of(world.Titles().begin(), world.Titles().end(), isHeld)) name = plain + behind;
+  return name;
+}
+
+/// A Title that comes back keeps its past.
+void FoundTitle(World& world, const Promotion& promotion, std::string_view what, bool singles) {
+  const TitleTerms terms{.Name = TitleNameOf(world, promotion, what), .Singles = singles};
+  Title title =
+      VacantTitle(world, terms, promotion.Uid, BySize(tuning::kNewTitleImage, promotion.Size));
+  Title* before = LeftBehind(world, terms.Name);
+  if (before && before->Name == terms.Name && before->Holder == 0) title.Reigns = before->Reigns;
+  if (before)
+    *before = title;
+  else if (!world.Titles().Full())
+    world.Titles().Append(title);
 }
 
 }  // namespace
@@ -81,8 +91,8 @@ Promotion& Open(World& world, Promotion promotion) {
 }
 
 void FoundTitles(World& world, const Promotion& promotion) {
-  world.Titles().Append(VacantTitle(promotion, " Crown", true));
-  world.Titles().Append(VacantTitle(promotion, " Tag Titles", false));
+  FoundTitle(world, promotion, "Crown", true);
+  FoundTitle(world, promotion, "Tag Titles", false);
 }
 
 }  // namespace grapplemont

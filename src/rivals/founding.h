@@ -19,7 +19,9 @@ Promotion NewPromotion(const World& world, std::string_view name, std::string_vi
 /// It opens today: enters the file, and looks for workers and staff at once.
 Promotion& Open(World& world, Promotion promotion);
 
-/// Two Titles of a promotion that has none, vacant until an Event finds champions.
+/// Two Titles of a promotion that has none, vacant until an Event finds champions. One of the name
+/// that another promotion has left behind is taken up again; none is founded where no place is
+/// left.
 void FoundTitles(World& world, const Promotion& promotion);
 
 }  // namespace grapplemont

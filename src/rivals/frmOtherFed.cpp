@@ -1,5 +1,4 @@
 #include "records/modWresCheck.h"
-#include "rivals/endstories.h"
 #include "rivals/ownership.h"
 #include "rivals/promotionfacts.h"
 #include "rivals/rivals.h"
@@ -19,15 +18,14 @@ const Promotion* LivingPromotion(const World& world, int uid) {
 
 std::string WhyNoBuyOut(const World& world, const Promotion* promotion) {
   if (!promotion) return "Choose a promotion first.";
-  if (HasEnded(world)) return "Your career has ended.";
+  if (HasEnded(world.Game())) return kCareerIsOver;
   return promotion->Uid == world.PlayerUid() ? "This is your own promotion." : "";
 }
 
 /// The rival's answer; when it is a yes the deals are laid out.
 void AttemptBuyOut(Game& game, const Promotion& rival) {
   const bool owned = OwnerOf(game.World(), rival.Uid) != nullptr;
-  std::string who = WhoDecides(game.World(), rival);
-  while (who.ends_with(' ')) who.pop_back();
+  const std::string who = WhoDecides(game.World(), rival);
   if (!IsForSale(rival)) {
     const char* refuses =
         owned ? " is not interested in selling." : " are not interested in selling.";

@@ -55,8 +55,10 @@ class frmTakeover : public ui::Screen {
   int uid_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::OptionButton opt1{*this, "opt1", "Complete Takeover", kDeals, true};
-  ui::Label lblabout1{*this, "lblabout1",
-                      "Pay their debts. Their workers and staff come to you with their contracts."};
+  ui::Label lblabout1{
+      *this, "lblabout1",
+      "Pay their debts. Their workers and staff come to you with their contracts; an "
+      "owner goes."};
   ui::Label lblcost1{*this, "lblcost1"};
   ui::OptionButton opt2{*this, "opt2", "Corporate Destruction", kDeals};
   ui::Label lblabout2{*this, "lblabout2",

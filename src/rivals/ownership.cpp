@@ -65,8 +65,7 @@ constexpr OwnVoice kOwnVoices[] = {
      "that it makes more of the stuff in the vault."},
     {"Tammy Lottowinner",
      "OH MY GOD I own a wrestling company!!! My numbers were my cats' birthdays! Please don't let "
-     "me "
-     "break anything!"},
+     "me break anything!"},
     {"Carl From The Bank",
      "For the avoidance of doubt: this is no longer a debt, it is an asset. Please keep all "
      "receipts. Carl."},
@@ -88,15 +87,19 @@ constexpr const char* kWelcomes[] = {
     "I have taken over, and I am building for ten years. Show me the young ones.",
 };
 
-void TakeOver(World& world, const Promotion& promotion, Staff& owner) {
+// By the owner's style: how risky he wants his shows.
+constexpr std::array<int, 6> kRisks = {70, 30, 10, 40, 85, 20};
+
+void TakeOver(World& world, Promotion& promotion, Staff& owner) {
   owner.Employer = promotion.Uid;
   owner.ContractMonths = kNoEnd;
-  if (promotion.Uid == world.PlayerUid()) {
-    AddNews(world, owner.Name, OwnersWelcome(world, owner));
-  } else if (ShouldTell(world, world.Game().MailOwners, promotion.Size)) {
+  owner.Unsackable = false;
+  if (promotion.Uid == world.PlayerUid())
+    return AddNews(world, owner.Name, OwnersWelcome(world, owner));
+  FollowOwner(promotion, owner);
+  if (ShouldTell(world, world.Game().MailOwners, promotion.Size))
     AddNews(world, "News Desk",
             owner.Name + " has taken over control of " + promotion.Name.Str() + "!");
-  }
 }
 
 }  // namespace
@@ -104,7 +107,7 @@ void TakeOver(World& world, const Promotion& promotion, Staff& owner) {
 std::string WhoDecides(const World& world, const Promotion& promotion) {
   const Staff* owner = OwnerOf(world, promotion.Uid);
   return owner ? promotion.Initials + " owner " + owner->Name.Str()
-               : "The " + promotion.Initials.Str() + " board ";
+               : "The " + promotion.Initials.Str() + " board";
 }
 
 std::string OwnersWelcome(const World& world, const Staff& owner) {
@@ -113,8 +116,13 @@ std::string OwnersWelcome(const World& world, const Staff& owner) {
   return kWelcomes[static_cast<std::size_t>(TasteOf(world, owner.Employer) - 1)];
 }
 
+void FollowOwner(Promotion& rival, const Staff& owner) {
+  if (owner.Wage >= kBrawlers && owner.Wage <= kYouth)
+    rival.Risk = kRisks[static_cast<std::size_t>(owner.Wage - kBrawlers)];
+}
+
 void OwnerlessPromotions(World& world) {
-  for (const Promotion& promotion : world.Promotions()) {
+  for (Promotion& promotion : world.Promotions()) {
     if (!IsAlive(promotion) || HasOwner(world, promotion.Uid) ||
         world.RandomDraw(kDaysBetweenOwners) != 1)
       continue;

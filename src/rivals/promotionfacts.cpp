@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "business/past.h"
+#include "business/standing.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
 #include "rivals/purse.h"
@@ -36,11 +37,10 @@ int MoneyThen(const Promotion& promotion, std::size_t monthsAgo) {
   return money == kNoEnd ? int(promotion.Money) : money;
 }
 
-/// The standing that a month end's score stands for.
-MonthEnd FromScore(int score, int money, std::size_t monthsAgo) {
-  const int classes = std::min(score / 100, kBackyard - kGlobal);
-  return {monthsAgo == 0 ? "Last month end" : std::to_string(monthsAgo) + " before it",
-          kBackyard - classes, score - classes * 100, money};
+MonthEnd MonthEndOf(const World& world, const Promotion& promotion, std::size_t monthsAgo) {
+  const PastStanding then = FromScore(world.Today(), promotion.Rank[monthsAgo]);
+  return {monthsAgo == 0 ? "Last month end" : std::to_string(monthsAgo) + " before it", then.Size,
+          then.Image, MoneyThen(promotion, monthsAgo)};
 }
 
 }  // namespace
@@ -101,8 +101,7 @@ std::vector<MonthEnd> MonthEndsOf(const World& world, const Promotion& promotion
                       entry->Money});
   std::reverse(past.begin(), past.end());
   for (std::size_t i = 0; past.size() <= i && i < promotion.Rank.size(); ++i)
-    if (promotion.Rank[i] != kNoEnd)
-      past.push_back(FromScore(promotion.Rank[i], MoneyThen(promotion, i), i));
+    if (promotion.Rank[i] != kNoEnd) past.push_back(MonthEndOf(world, promotion, i));
   return past;
 }
 

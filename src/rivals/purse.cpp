@@ -1,6 +1,6 @@
 #include "rivals/purse.h"
 
-#include "rivals/bankruptcylines.h"
+#include "rivals/bankruptcy.h"
 #include "rivals/rivals.h"
 #include "rivals/tuning.h"
 

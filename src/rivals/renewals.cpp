@@ -8,13 +8,14 @@
 #include "rivals/rivalsteps.h"
 #include "rivals/tuning.h"
 #include "rivals/workermarket.h"
+#include "roster/placement.h"
+#include "roster/talks.h"
 
 namespace grapplemont {
 
 namespace {
 
 constexpr int kLastMonth = 1;
-constexpr int kHighestWage = 300;
 
 /// The score below which a roster's least wanted stand.
 int ScoreToStay(const World& world, const Promotion& rival, Taste taste) {

@@ -13,10 +13,6 @@ bool IsRival(const World& world, const Promotion& promotion) {
   return promotion.Uid != world.PlayerUid() && IsAlive(promotion);
 }
 
-void TellOf(World& world, int option, const Promotion& rival, const std::string& body) {
-  if (ShouldTell(world, option, rival.Size)) AddNews(world, rival.Initials + " News", body);
-}
-
 bool IsOnMainRoster(const Worker& worker) {
   return IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
 }
@@ -37,14 +33,8 @@ void Rosters::Move(const Worker& worker, int fromUid, int toUid) {
   if (toUid != 0) ++counts_[toUid];
 }
 
-int ContractMonthsAt(int size) {
-  return size > kRegional ? 6 : size >= kCult ? 12 : 24;
-}
-
 void PartWays(World& world, Worker& worker) {
-  if (worker.Uid != 0)
-    for (Worker& client : world.Workers())
-      if (client.Manager == worker.Uid) client.Manager = 0;
+  LoseClients(world, worker.Uid);
   SeverWorker(world, worker);
   worker.Split = "None";
 }

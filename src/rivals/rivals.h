@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 
+#include "records/arithmetic.h"
 #include "records/world.h"
 
 // What all that rivals do has in common.
@@ -15,15 +16,6 @@ namespace grapplemont {
 bool IsAlive(const Promotion& promotion);
 /// A living promotion that is not the player's.
 bool IsRival(const World& world, const Promotion& promotion);
-
-/// A mail from the rival's news, if the option (a word of GameInfo) lets it through.
-void TellOf(World& world, int option, const Promotion& rival, const std::string& body);
-
-/// The row of a table by size, Global to Backyard; sizes outside the six count as the nearest.
-template <class Row>
-const Row& BySize(const std::array<Row, 6>& rows, int size) {
-  return rows[static_cast<std::size_t>(std::clamp(size, int(kGlobal), int(kBackyard)) - 1)];
-}
 
 /// Someone whom a rival's roster counts: on the card, a manager or a non-wrestler, not in
 /// development or at the camp.
@@ -40,9 +32,6 @@ class Rosters {
  private:
   std::map<int, int> counts_;
 };
-
-/// Months of a contract that a rival of this size gives.
-int ContractMonthsAt(int size);
 
 /// The worker leaves his employer, and all that tied him to it ends: Titles, feuds, corner, office,
 /// his part of a divided roster. Whom he managed stays behind alone.

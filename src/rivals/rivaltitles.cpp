@@ -19,8 +19,7 @@ struct Contender {
 
 bool MayHold(const Worker& worker, const Title& title) {
   return worker.Employer == title.Owner && IsOnRoster(worker) && worker.Status == "Nor" &&
-         (!title.Woman || !worker.Gender) && (!title.Lightweight || worker.Weight == "L") &&
-         worker.Uid != title.Holder && worker.Uid != title.Partner;
+         FitsTitle(title, worker) && worker.Uid != title.Holder && worker.Uid != title.Partner;
 }
 
 std::vector<Contender> Singles(const World& world, const Title& title) {
@@ -40,7 +39,11 @@ std::vector<Contender> Pairs(const World& world, const Title& title) {
       found.push_back({one, two, (one->Over + two->Over) / 2});
   }
   if (!found.empty()) return found;
-  const std::vector<Contender> alone = Singles(world, title);
+  std::vector<Contender> alone = Singles(world, title);
+  std::stable_sort(alone.begin(), alone.end(), [](const Contender& a, const Contender& b) {
+    return std::pair<int, int>(a.First->Position, -a.Over) <
+           std::pair<int, int>(b.First->Position, -b.Over);
+  });
   for (std::size_t i = 0; i + 1 < alone.size(); i += 2)
     found.push_back({alone[i].First, alone[i + 1].First, (alone[i].Over + alone[i + 1].Over) / 2});
   return found;

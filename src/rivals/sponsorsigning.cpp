@@ -1,5 +1,6 @@
 #include "business/sponsorlimits.h"
 #include "business/sponsors.h"
+#include "records/modVar.h"
 #include "rivals/rivals.h"
 #include "rivals/rivalsteps.h"
 
@@ -21,7 +22,7 @@ void RivalSponsorSigning(World& world) {
   for (Promotion& rival : world.Promotions()) {
     if (!IsRival(world, rival)) continue;
     for (int slot = 1; slot <= static_cast<int>(rival.Sponsor.size()); ++slot) {
-      if (rival.Sponsor[static_cast<std::size_t>(slot - 1)] != 0) continue;
+      if (SponsorAt(world, rival, slot)) continue;
       Sponsor* sponsor = FindSponsorFor(world, rival);
       if (!sponsor) break;
       SignSponsor(world, rival, *sponsor, slot);

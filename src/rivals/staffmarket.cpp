@@ -1,8 +1,10 @@
 #include "rivals/staffmarket.h"
 
+#include "records/modVar.h"
 #include "records/severing.h"
 #include "rivals/rivals.h"
 #include "rivals/rivalsteps.h"
+#include "roster/placement.h"
 
 namespace grapplemont {
 
@@ -28,7 +30,7 @@ constexpr std::array<TalentLimits, 6> kTalent = {
     {{100, 70}, {100, 40}, {80, 30}, {60, 15}, {40, 0}, {20, 0}}};
 constexpr std::array<int, 6> kWageRise = {5, 4, 2, 1, 0, 0};
 
-constexpr int kHighestWage = 100;
+constexpr int kHighestStaffWage = 100;  // thousands of dollars a month
 constexpr int kMoodSwing = 20;
 constexpr int kUnsackableTalent = 101;
 constexpr int kAboveAllTalents = 102;
@@ -65,8 +67,9 @@ void SignStaff(World& world, const Promotion& rival, Staff& staff) {
   staff.Employer = rival.Uid;
   staff.ContractMonths = ContractMonthsAt(rival.Size);
   staff.ContractType = rival.Size < kCult ? "Wri" : "Non";
+  staff.Unsackable = false;
   staff.Morale += kMoodSwing;
-  staff.Wage = std::min(staff.Wage + BySize(kWageRise, rival.Size), kHighestWage);
+  staff.Wage = std::min(staff.Wage + BySize(kWageRise, rival.Size), kHighestStaffWage);
   TellOf(world, world.Game().MailStaffHire, rival,
          rival.Initials + " have signed staff member " + staff.Name.Str() + "!");
 }
@@ -85,7 +88,7 @@ Staff* FindWeakestStaff(World& world, int promotionUid, int position) {
 }
 
 void FireStaff(World& world, const Promotion& rival, Staff& staff) {
-  SeverStaff(world, staff);
+  DismissStaff(world, staff);
   staff.ContractType = "Non";
   staff.Unsackable = false;
   staff.Morale -= kMoodSwing;

@@ -1,6 +1,7 @@
 #include "rivals/takeover.h"
 
 #include "records/severing.h"
+#include "rivals/bankruptcy.h"
 #include "rivals/rivals.h"
 #include "roster/placement.h"
 
@@ -11,22 +12,21 @@ namespace {
 constexpr int kLeastMorale = 10;
 constexpr int kLeastMonths = 3;
 
-/// A quarter of the way to the line where the bank closes it.
-constexpr std::array<int, 6> kForSaleAtMost = {-5000000, -3750000, -1250000,
-                                               -625000,  -250000,  -125000};
+constexpr int kShortContract = 2;
 
-void LeaveTitles(World& world, int uid) {
-  for (Title& title : world.Titles())
-    if (title.Holder == uid || title.Partner == uid) VacateTitle(world, title);
+/// What is the same for whoever comes over; contracts that end at once are made longer.
+template <class Person>
+void KeepOn(Person& person) {
+  person.Unsackable = false;
+  person.Morale = std::max<int>(person.Morale, kLeastMorale);
+  if (person.ContractMonths < kShortContract) person.ContractMonths = kLeastMonths;
 }
 
 void ComeOver(World& world, Worker& worker) {
   const Promotion& player = world.Player();
-  LeaveTitles(world, worker.Uid);
+  VacateTitlesOf(world, worker.Uid);
   if (worker.Status == "Hom") worker.Status = "Nor";
-  worker.Unsackable = false;
-  worker.Morale = std::max<int>(worker.Morale, kLeastMorale);
-  if (worker.ContractMonths < 2) worker.ContractMonths = kLeastMonths;
+  KeepOn(worker);
   worker.Stable = "None";
   worker.Split = "None";
   worker.TurnPending = false;
@@ -37,17 +37,19 @@ void ComeOver(World& world, Worker& worker) {
 
 /// A promotion has one owner, and the player's keeps its own.
 void ComeOver(World& world, Staff& staff) {
-  SeverStaff(world, staff);
+  const int months = staff.ContractMonths;
+  DismissStaff(world, staff);
   staff.Unsackable = false;
   if (staff.Position == kOwner) return;
   staff.Employer = world.PlayerUid();
-  staff.ContractMonths = kLeastMonths;
+  staff.ContractMonths = months;
+  KeepOn(staff);
 }
 
 }  // namespace
 
 int ForSaleAtMost(int size) {
-  return BySize(kForSaleAtMost, size);
+  return BankruptcyLineOf(size).BankruptBelow / 4;
 }
 
 bool IsForSale(const Promotion& rival) {
@@ -68,7 +70,7 @@ void TakeOverRival(World& world, Promotion& rival, Takeover kind) {
     for (Worker& worker : world.Workers())
       if (worker.Employer == rival.Uid) PartWays(world, worker);
     for (Staff& staff : world.AllStaff())
-      if (staff.Employer == rival.Uid) SeverStaff(world, staff);
+      if (staff.Employer == rival.Uid) DismissStaff(world, staff);
   } else {
     for (Worker& worker : world.Workers())
       if (worker.Employer == rival.Uid) ComeOver(world, worker);

@@ -6,7 +6,8 @@
 
 namespace grapplemont {
 
-/// The money that a rival of this size must not have more than to be for sale, in dollars.
+/// The money that a rival of this size must not have more than to be for sale, in dollars: a
+/// quarter of the way to the line where the bank closes it.
 int ForSaleAtMost(int size);
 bool IsForSale(const Promotion& rival);
 

@@ -5,6 +5,7 @@
 #include "rivals/tuning.h"
 #include "roster/placement.h"
 #include "roster/shortlist.h"
+#include "roster/talks.h"
 
 namespace grapplemont {
 
@@ -20,7 +21,6 @@ constexpr std::array<MarketLimits, 6> kLimits = {
     {{300, 100, 50}, {100, 100, 50}, {80, 80, 40}, {60, 60, 20}, {30, 40, 5}, {20, 20, 0}}};
 constexpr std::array<int, 6> kWageRise = {10, 8, 6, 4, 0, 0};
 
-constexpr int kHighestWage = 300;
 constexpr int kMoodSwing = 20;
 constexpr int kSigningsInARow = 10;
 constexpr int kAboveAllScores = 102;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "records/arithmetic.h"
+
 namespace grapplemont {
 
 namespace {
@@ -26,8 +28,7 @@ constexpr std::array<Ladder, 6> kLadders = {{
 }  // namespace
 
 int FittingPosition(int size, int over) {
-  const Ladder& ladder =
-      kLadders[static_cast<std::size_t>(std::clamp<int>(size, kGlobal, kBackyard) - 1)];
+  const Ladder& ladder = BySize(kLadders, size);
   int position = ladder.Start;
   for (int rung = kOpener; rung >= kMainEvent; --rung)
     if (rung < position && over > ladder.Above[static_cast<std::size_t>(kOpener - rung)])
@@ -38,6 +39,10 @@ int FittingPosition(int size, int over) {
 int PlacementPosition(const Worker& worker, int size) {
   if (worker.Position == kNonWrestler || worker.Position == kManager) return worker.Position;
   return FittingPosition(size, worker.Over);
+}
+
+int ContractMonthsAt(int size) {
+  return size > kRegional ? 6 : size >= kCult ? 12 : 24;
 }
 
 }  // namespace grapplemont

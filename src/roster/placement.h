@@ -11,4 +11,7 @@ int FittingPosition(int size, int over);
 /// theirs.
 int PlacementPosition(const Worker& worker, int size);
 
+/// Months of a contract that a rival of this size gives.
+int ContractMonthsAt(int size);
+
 }  // namespace grapplemont

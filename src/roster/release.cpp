@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "records/arithmetic.h"
 #include "records/modVar.h"
 #include "records/severing.h"
 #include "roster/placement.h"
@@ -27,12 +28,8 @@ constexpr std::array<Market, 6> kMarket = {{
     {10, 10, 10000},
 }};
 
-const Market& MarketOf(int size) {
-  return kMarket[static_cast<std::size_t>(std::clamp<int>(size, kGlobal, kBackyard) - 1)];
-}
-
 bool CanPay(const Promotion& promotion, const Worker& worker) {
-  const Market& market = MarketOf(promotion.Size);
+  const Market& market = BySize(kMarket, promotion.Size);
   const int asking = static_cast<int>(worker.Wage * 8LL / 10);
   return asking <= market.WageLimit && worker.Over > market.OverMustExceed;
 }
@@ -59,10 +56,10 @@ void SignWith(World& world, Worker& worker, const Promotion& rival) {
   worker.Over += world.RandomDraw(3);
   worker.Employer = rival.Uid;
   worker.Position = PlacementPosition(worker, rival.Size);
-  worker.ContractMonths = rival.Size > kRegional ? 6 : rival.Size >= kCult ? 12 : 24;
+  worker.ContractMonths = ContractMonthsAt(rival.Size);
   worker.ContractType = rival.Size > kCult ? "Non" : "Wri";
   worker.Morale += 20;
-  worker.Wage = std::min<int>(worker.Wage, MarketOf(rival.Size).SignedWageCap);
+  worker.Wage = std::min<int>(worker.Wage, BySize(kMarket, rival.Size).SignedWageCap);
 }
 
 }  // namespace

@@ -166,6 +166,7 @@ void RenewStaff(Staff& staff, const ContractOffer& offer) {
 void HireStaff(World& world, Staff& staff, const ContractOffer& offer) {
   DismissStaff(world, staff);
   staff.Employer = world.PlayerUid();
+  staff.Unsackable = false;
   staff.Morale += kHireLift;
   PutInto(staff, offer);
 }

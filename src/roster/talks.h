@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
 #include <string>
 
+#include "records/arithmetic.h"
 #include "records/vocabulary.h"
 #include "records/world.h"
 
@@ -29,7 +29,7 @@ inline constexpr Term kContractLengths[] = {{6, "", "6 Months"}, {12, "", "1 Yea
                                             {24, "", "2 Years"}, {36, "", "3 Years"},
                                             {48, "", "4 Years"}, {60, "", "5 Years"}};
 
-inline constexpr int kHighestWage = 300;  // thousands of dollars a month
+inline constexpr int kHighestWage = 300;  // thousands of dollars a month, a worker's
 
 /// "Wri" and "Non", as the records have them; "Written" and "Verbal", as the talks do.
 std::string_view ContractCodeOf(bool written);
@@ -42,17 +42,5 @@ std::string MonthsText(int months);
 
 /// "Bram Okafor signs the contract!", or agrees to it where it is verbal.
 Remark AcceptedRemark(std::string_view name, bool written);
-
-/// The part of a whole number, rounded down: 20 percent of 19 are 3.
-constexpr int PercentOf(int whole, int percent) {
-  return whole * percent / 100;
-}
-
-/// The sizes of promotions count from Global 1 to Backyard 6.
-template <class T>
-const T& BySize(const std::array<T, 6>& rows, int size) {
-  const int row = size < kGlobal ? kGlobal : size > kBackyard ? int(kBackyard) : size;
-  return rows[static_cast<std::size_t>(row - kGlobal)];
-}
 
 }  // namespace grapplemont

@@ -5,9 +5,11 @@
 
 #include "business/monthlymoney.h"
 #include "calendar/events.h"
+#include "records/arithmetic.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "rivals/challenge.h"
 #include "roster/invented.h"
 
 namespace grapplemont {
@@ -82,8 +84,7 @@ void RememberJob(World& world, const Promotion& promotion) {
 
 void StartPromotion(World& world, Promotion& promotion) {
   const bool isPlayer = promotion.Uid == world.PlayerUid();
-  const auto& spend =
-      kStartingSpend[static_cast<std::size_t>(std::clamp<int>(promotion.Size, 1, 6) - 1)];
+  const StartingSpend& spend = BySize(kStartingSpend, promotion.Size);
   if (isPlayer) {
     RememberJob(world, promotion);
   } else {
@@ -112,11 +113,8 @@ void StartPromotions(World& world) {
 
 /// A player alone at the top may be challenged.
 void MaybeChallenge(World& world) {
-  const auto globals = std::count_if(world.Promotions().begin(), world.Promotions().end(),
-                                     [](const Promotion& p) { return p.Size == kGlobal; });
-  if (world.Player().Size == kGlobal && globals == 1 && world.RandomDraw(5) == 1 &&
-      world.Promotions().Count() < 20)
-    world.Game().EndCode = 100;
+  if (IsAloneAtTheTop(world) && world.RandomDraw(5) == 1 && world.Promotions().Count() < 20)
+    world.Game().EndCode = kStrangerWaits;
 }
 
 bool WaitsForDebut(const World& world, const Worker& worker) {

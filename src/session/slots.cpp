@@ -5,7 +5,6 @@
 #include "records/dates.h"
 #include "records/slotfolder.h"
 #include "records/world.h"
-#include "rivals/endstories.h"
 
 namespace grapplemont {
 

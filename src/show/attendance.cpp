@@ -8,16 +8,13 @@
 
 #include "business/economyfactor.h"
 #include "business/monthlymoney.h"
+#include "records/arithmetic.h"
 #include "records/modVar.h"
 #include "show/crowdtables.h"
 
 namespace grapplemont {
 
 namespace {
-
-std::size_t SizeIndex(int size) {
-  return static_cast<std::size_t>(std::clamp(size, int(kGlobal), int(kBackyard)) - 1);
-}
 
 constexpr EconomyFactor kEventEconomy[] = {
     {86, kAnyHigh, 110}, {20, 29, 90}, {10, 19, 80}, {kAnyLow, 9, 70}};
@@ -76,11 +73,11 @@ Gate GateFor(const World& world, const Promotion& promotion) {
 
 BaseAndDraw EventCrowd(int type, int size, int image) {
   if (type < 1 || type > 4) return {};
-  return InBand(EventCrowds[static_cast<std::size_t>(type - 1)][SizeIndex(size)], image);
+  return InBand(BySize(EventCrowds[static_cast<std::size_t>(type - 1)], size), image);
 }
 
 BaseAndDraw TvCrowd(int size, int image) {
-  return InBand(TvCrowds[SizeIndex(size)], image);
+  return InBand(BySize(TvCrowds, size), image);
 }
 
 Score EventGate(int crowd, const Gate& gate) {
@@ -101,7 +98,7 @@ Score TvAttendance(World& world, const Promotion& promotion) {
 }
 
 bool IsNobodysPrice(int size, int ticketPrice) {
-  return ticketPrice >= kNobodysPrice[SizeIndex(size)];
+  return ticketPrice >= BySize(kNobodysPrice, size);
 }
 
 int EventProductionCost(int type) {

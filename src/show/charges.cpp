@@ -4,6 +4,7 @@
 #include <array>
 
 #include "business/commentators.h"
+#include "records/arithmetic.h"
 
 namespace grapplemont {
 
@@ -25,7 +26,7 @@ constexpr std::array<int, 6> kWantedProduction = {85, 65, 60, 40, 10, 5};
 constexpr int kSpeechlessCharge = 100;
 
 int WantedProduction(int size) {
-  return kWantedProduction[static_cast<std::size_t>(std::clamp<int>(size, kGlobal, kBackyard) - 1)];
+  return BySize(kWantedProduction, size);
 }
 
 template <std::size_t N>

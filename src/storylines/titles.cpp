@@ -92,14 +92,14 @@ std::string WhyNotCreate(const World& world, const TitleTerms& terms) {
   return WhyNotTitleName(world, terms.Name);
 }
 
-int CreateTitle(World& world, const TitleTerms& terms) {
+Title VacantTitle(const World& world, const TitleTerms& terms, int promotionUid, int image) {
   Title title;
   title.Name = TrimmedName(terms.Name);
   title.Singles = terms.Singles;
   title.Woman = terms.Woman;
   title.Lightweight = terms.Lightweight;
-  title.Owner = world.PlayerUid();
-  title.Image = kNewTitleImage;
+  title.Owner = promotionUid;
+  title.Image = image;
   for (Reign& reign : title.Reigns) {
     reign.Won = kNoTitleDate;
     reign.Holder = "None";
@@ -107,7 +107,11 @@ int CreateTitle(World& world, const TitleTerms& terms) {
   }
   title.Reigns[0].Won = world.Today();
   title.Reigns[0].Holder = kVacantHolder;
-  world.Titles().Append(title);
+  return title;
+}
+
+int CreateTitle(World& world, const TitleTerms& terms) {
+  world.Titles().Append(VacantTitle(world, terms, world.PlayerUid(), kNewTitleImage));
   return world.Titles().Count();
 }
 

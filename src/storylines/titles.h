@@ -39,6 +39,8 @@ std::string WhyNoDefence(const World& world, const Title& title);
 std::string WhyNotTitleName(const World& world, std::string_view name);
 /// Why no such Title can be made; empty when it can.
 std::string WhyNotCreate(const World& world, const TitleTerms& terms);
+/// A vacant Title of the promotion's, active at once, without a past.
+Title VacantTitle(const World& world, const TitleTerms& terms, int promotionUid, int image);
 /// A vacant Title of the player's, active at once; gives its number. Requires that nothing stands
 /// against it.
 int CreateTitle(World& world, const TitleTerms& terms);

@@ -57,7 +57,7 @@ bool TakeAnotherJob(World& world) {
 }  // namespace
 
 int EndCodeOf(const World& world) {
-  return HasEnded(world) ? int(world.Game().EndCode) : 0;
+  return HasEnded(world.Game()) ? int(world.Game().EndCode) : 0;
 }
 
 void PlayDay(World& world, Shows shows) {
@@ -69,7 +69,7 @@ void PlayDay(World& world, Shows shows) {
   const bool cancelled = isShow && !FinishTodays(world) && !HoldTodays(world, kind, shows);
   AdvanceDay(world, cancelled);
   IgnoreIncidents(world);
-  if (shows == Shows::Auto && !HasEnded(world)) WorkInTheOffice(world);
+  if (shows == Shows::Auto && !HasEnded(world.Game())) WorkInTheOffice(world);
 }
 
 CareerEnd PlayDays(Game& game, int days, Shows shows, const std::function<void(int day)>& dayPassed,

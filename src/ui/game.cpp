@@ -1,5 +1,7 @@
 #include "ui/game.h"
 
+#include <algorithm>
+
 #include "records/slot.h"
 #include "records/world.h"
 
@@ -33,9 +35,9 @@ std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   world->Load(files->Files());
   files->Forget();
   world->Session.StartSize = world->Player().Size;
-  world->MarkCommitted();
   slot_ = std::move(files);
   world_ = std::move(world);
+  MarkCommitted();
   return slot_->Remarks();
 }
 
@@ -59,13 +61,26 @@ void Game::Commit() {
   if (!world_) return;
   const auto changes = world_->Changes();
   if (changes.empty()) return;
+  if (!MayChange(changes)) throw std::logic_error(kCareerIsOver);
   try {
     slot_->Commit(changes);
   } catch (const DiskError&) {
-    if (slot_->Committed()) world_->MarkCommitted();
+    if (slot_->Committed()) MarkCommitted();
     throw;
   }
+  MarkCommitted();
+}
+
+void Game::MarkCommitted() {
   world_->MarkCommitted();
+  isOver_ = HasEnded(world_->Game());
+}
+
+bool Game::MayChange(const std::vector<FileChange>& changes) const {
+  if (!isOver_ || !HasEnded(world_->Game())) return true;
+  return std::all_of(changes.begin(), changes.end(), [this](const FileChange& change) {
+    return change.Name == world_->News().File() || change.Name == world_->Notes().File();
+  });
 }
 
 void Game::Rollback() {

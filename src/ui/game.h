@@ -16,9 +16,14 @@ namespace grapplemont {
 
 class Slot;
 class World;
+struct FileChange;
+
+/// Why a player whose career has ended can change nothing any more.
+inline constexpr const char* kCareerIsOver = "Your career is over: the world can be read.";
 
 /// The running program: its desk, its disk, its home folder, and the slot that is open. Every event
-/// of the desk is a commit of the open slot.
+/// of the desk is a commit of the open slot. Once the career has ended, what a player would change
+/// is taken back: all but his own mails and notes.
 class Game : public ui::Work {
  public:
   struct Options {
@@ -72,6 +77,8 @@ class Game : public ui::Work {
   std::string Explain(const std::exception& fault) const override;
 
  private:
+  void MarkCommitted();
+  bool MayChange(const std::vector<FileChange>& changes) const;
   std::string Path(const std::string& name) const { return options_.Home + "/" + name; }
 
   ui::Desk& desk_;
@@ -79,6 +86,7 @@ class Game : public ui::Work {
   Options options_;
   std::unique_ptr<Slot> slot_;
   std::unique_ptr<grapplemont::World> world_;
+  bool isOver_ = false;  // as of the last commit
 };
 
 }  // namespace grapplemont

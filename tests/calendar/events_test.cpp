@@ -153,5 +153,30 @@ TEST(EventScreen, RefusesAPayPerViewToTheSmall) {
   EXPECT_EQ(PlayerEvent(play.World(), 7), nullptr);
 }
 
+TEST(Events, TakeThePlacesThatPromotionsHaveLeft) {
+  World world = Planned().Game("CWA");
+  Named(world.Events(), "Rival Rumpus").Owner = 0;
+  EventThisMonth(world, Named(world.Promotions(), "NEW"));
+  EXPECT_EQ(world.Events().Count(), 3);
+  EXPECT_EQ(world.Events()[1].Name.Str(), "NEW in March");
+  EXPECT_EQ(world.Events()[1].Owner, 1);
+
+  Named(world.Events(), "NEW in March").Owner = 0;
+  PlanEvent(world, 7, "Heat", 3);
+  EXPECT_EQ(world.Events().Count(), 3);
+  EXPECT_EQ(world.Events()[1].Name.Str(), "Heat");
+}
+
+TEST(Events, AreNoMoreThanTheFileHolds) {
+  World world = Planned().Game("CWA");
+  const Event taken = world.Events()[1];
+  while (!world.Events().Full()) world.Events().Append(taken);
+  EXPECT_EQ(EventThisMonth(world, Named(world.Promotions(), "NEW")), 0);
+  EnsureEvents(world, Named(world.Promotions(), "NEW"));
+  EXPECT_EQ(WhyNotPlan(world, 7, "Heat", 3), "No more Events can be kept.");
+  world.Events()[1].Owner = 0;
+  EXPECT_EQ(WhyNotPlan(world, 7, "Heat", 3), "");
+}
+
 }  // namespace
 }  // namespace grapplemont::test

@@ -8,6 +8,7 @@
 #include "calendar/daykind.h"
 #include "calendar/events.h"
 #include "records/dates.h"
+#include "records/modVar.h"
 #include "session/newgame.h"
 #include "support/defaultworld.h"
 #include "support/gameonworld.h"
@@ -101,6 +102,7 @@ class Year {
     ExpectShow();
     world().Session.ShowRating = 55;
     AdvanceDay(world(), false, [&](std::string_view step) { Watch(step); });
+    world().Game().EndCode = 0;  // the books go on, whatever the board thinks
     play_.Play.Commit();
     if (!IsFirstOfMonth(world().Today())) Read(mails_ + 1);
   }
@@ -228,7 +230,7 @@ class Year {
     amounts.push_back(In(l) - Out(l));
     std::vector<std::string> texts;
     for (const long long amount : amounts)
-      texts.push_back((amount < 0 ? "-$" : "$") + std::to_string(std::abs(amount)));
+      texts.push_back(Dollars(amount));
     return texts;
   }
 

@@ -276,8 +276,10 @@ TEST(RivalTitles, FindChampionsAmongThoseWhoMayHoldThem) {
 }
 
 TEST(RivalTitles, GoToTeamsThatStandBeforeAnyPair) {
-  for (const bool hasTeam : {true, false}) {
+  const std::pair<bool, int> kNights[] = {{true, 50}, {false, 50}, {false, 30}};
+  for (const auto& [hasTeam, second] : kNights) {
     World world = TitleNight();
+    Named(world.Workers(), "Second").Over = second;
     Title tag = Crown(world);
     Crown(world).Suspended = true;
     tag.Name = "XWF Tag Titles";
@@ -296,7 +298,10 @@ TEST(RivalTitles, GoToTeamsThatStandBeforeAnyPair) {
     ScriptDraws(world, {{1, 1}});
     RivalHouseShows(world);
     const Title& crowned = Named(world.Titles(), "XWF Tag Titles");
-    EXPECT_EQ(crowned.Reigns[0].Holder.Str(), hasTeam ? "The Odds" : "Best \\ Second");
+    EXPECT_EQ(crowned.Reigns[0].Holder.Str(), hasTeam        ? "The Odds"
+                                              : second == 50 ? "Best \\ Second"
+                                                             : "Best \\ Third")
+        << "neighbours on the card, not in the file";
     EXPECT_EQ(FaultsOf(world), "");
   }
 }

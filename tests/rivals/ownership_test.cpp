@@ -64,6 +64,23 @@ TEST(OwnerlessPromotions, PassOnToTheNextWhoSuits) {
   EXPECT_EQ(Named(world.AllStaff(), "Rich 60").Employer, 0);
 }
 
+TEST(OwnerlessPromotions, MakeARivalAsRiskyAsItsNewOwnersStyle) {
+  const int kRisks[8] = {55, 70, 30, 10, 40, 85, 20, 55};
+  for (int style = 0; style < 8; ++style)
+    for (const bool own : {false, true}) {
+      World world = WithOwners(kRegional, {50});
+      world.AllStaff()[2].Wage = style < 7 ? style : 8;
+      world.Promotions()[2].Risk = 55;
+      if (own) world.Game().PlayerPromotion = 2;
+      world.AllStaff()[2].Unsackable = true;
+      ScriptDraws(world, {{14, 1}, {2, 1}});
+      OwnerlessPromotions(world);
+      EXPECT_EQ(world.Promotions()[2].Risk, own ? 55 : kRisks[style]) << style;
+      EXPECT_FALSE(world.AllStaff()[2].Unsackable)
+          << "what he was elsewhere does not come with him";
+    }
+}
+
 TEST(OwnerlessPromotions, BringThePlayerANewBoss) {
   for (const auto& [name, words] :
        {std::pair("Jo Bell",
@@ -87,7 +104,7 @@ TEST(OwnerlessPromotions, BringThePlayerANewBoss) {
 TEST(Owners, DecideWhereThereAreAny) {
   World world = SmallWorld().Promotion("CWA").Owner("Ruth Vane").Promotion("XWF").Build();
   EXPECT_EQ(WhoDecides(world, world.Promotions()[1]), "CWA owner Ruth Vane");
-  EXPECT_EQ(WhoDecides(world, world.Promotions()[2]), "The XWF board ");
+  EXPECT_EQ(WhoDecides(world, world.Promotions()[2]), "The XWF board");
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include "calendar/advanceday.h"
 #include "rivals/challenge.h"
 #include "rivals/faults.h"
 #include "rivals/founding.h"
 #include "rivals/newpromotionnames.h"
 #include "rivals/rivalsteps.h"
+#include "rivals/staffmarket.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -133,15 +135,80 @@ TEST(NewPromotions, FoundTwoTitlesOnceTheirRosterHasEight) {
     RosterSizeReview(world);
     ASSERT_EQ(world.Titles().Count(), count == 8 ? 2 : 0);
     if (count != 8) continue;
-    EXPECT_EQ(world.Titles()[1].Name.Str(), "NWA: Old Crown");
+    EXPECT_EQ(world.Titles()[1].Name.Str(), "NWAOSR Crown");
     EXPECT_TRUE(world.Titles()[1].Singles);
-    EXPECT_EQ(world.Titles()[2].Name.Str(), "NWA: Old Tag Titles");
+    EXPECT_EQ(world.Titles()[2].Name.Str(), "NWAOSR Tag Titles");
     EXPECT_FALSE(world.Titles()[2].Singles);
     EXPECT_EQ(world.Titles()[2].Reigns[0].Holder.Str(), "Vacant");
     RosterSizeReview(world);
     EXPECT_EQ(world.Titles().Count(), 2) << "once";
     EXPECT_EQ(FaultsOf(world), "");
   }
+}
+
+/// A rival with a roster that wants Titles, beside a Title of the name that it would give one.
+World WantsTitles(int owner) {
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Title("XWF Crown")
+                    .Promotion("XWF", kBackyard)
+                    .Crew(8)
+                    .Game("CWA");
+  Title& old = world.Titles()[1];
+  old.Owner = owner;
+  old.Suspended = true;
+  old.Lightweight = true;
+  old.Reigns[1].Holder = "Old Bones";
+  return world;
+}
+
+TEST(NewPromotions, TakeUpTheTitlesThatAnotherHasLeftBehind) {
+  World world = WantsTitles(kNoEnd);
+  RosterSizeReview(world);
+  ASSERT_EQ(world.Titles().Count(), 2);
+  const Title& crown = world.Titles()[1];
+  EXPECT_EQ(crown.Owner, 2);
+  EXPECT_EQ(crown.Image, 10);
+  EXPECT_EQ(crown.Reigns[1].Holder.Str(), "Old Bones");
+  EXPECT_FALSE(crown.Suspended || crown.Lightweight);
+  EXPECT_EQ(world.Titles()[2].Name.Str(), "XWF Tag Titles");
+  EXPECT_EQ(FaultsOf(world), "");
+}
+
+TEST(NewPromotions, GiveTheirTitlesNamesThatNobodyHas) {
+  World world = WantsTitles(1);
+  RosterSizeReview(world);
+  ASSERT_EQ(world.Titles().Count(), 3);
+  EXPECT_EQ(world.Titles()[1].Owner, 1);
+  EXPECT_EQ(world.Titles()[2].Name.Str(), "XWF Crown II");
+  EXPECT_EQ(FaultsOf(world), "");
+}
+
+TEST(NewPromotions, FoundNoMoreTitlesThanTheFileHolds) {
+  for (const int left : {0, 1}) {
+    World world = WantsTitles(1);
+    const Title held = world.Titles()[1];
+    while (!world.Titles().Full()) world.Titles().Append(held);
+    if (left == 1) world.Titles()[7].Owner = kNoEnd;
+    RosterSizeReview(world);
+    const auto founded = std::count_if(world.Titles().begin(), world.Titles().end(),
+                                       [](const Title& title) { return title.Owner == 2; });
+    EXPECT_EQ(founded, left);
+    EXPECT_EQ(world.Titles()[7].Name.Str(), left == 1 ? "XWF Crown II" : "XWF Crown");
+  }
+}
+
+TEST(RivalSponsors, FillThePlaceOfASponsorWhoIsGone) {
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Promotion("XWF", kCult)
+                    .OnTheMarket()
+                    .Sponsor("Gulp")
+                    .Game("CWA");
+  world.Promotions()[2].Sponsor[0] = 99;
+  ScriptDraws(world, {{18, 1}});
+  RivalSponsorSigning(world);
+  EXPECT_EQ(world.Promotions()[2].Sponsor[0], world.Sponsors()[1].Uid);
 }
 
 TEST(RivalSponsors, SignBelowTheLimitOfSizeAndImage) {
@@ -223,6 +290,132 @@ TEST(Bankruptcy, WarnsAndClosesAtTheLinesOfEachSize) {
   }
 }
 
+/// The first of April comes to a rival with one of everything, and to the player.
+World LastDayOfMarch(const Change<Promotion>& change) {
+  World world = SmallWorld()
+                    .Network("Nine")
+                    .Promotion("CWA", kRegional)
+                    .Owner("Ruth Vane")
+                    .Crew(8)
+                    .Promotion("XWF", kRegional, change)
+                    .Owner("Sir Sink")
+                    .Staff("Coach", kTrainer)
+                    .Crew(8)
+                    .Stable("The Firm", {"XWF Hand 1", "XWF Hand 2"})
+                    .Title("XWF Crown", "XWF Hand 1")
+                    .Show("Slam", "Monday", "Nine")
+                    .Sponsor("Gulp")
+                    .Event(5)
+                    .Game("CWA", Day{std::chrono::year{2026} / 3 / 31});
+  Promotion& rival = world.Promotions()[2];
+  rival.HeadTrainer = Named(world.AllStaff(), "Coach").Uid;
+  rival.Commissioner = Named(world.Workers(), "XWF Hand 3").Uid;
+  rival.Split[0] = "Red";
+  Named(world.Workers(), "XWF Hand 4").Split = "Red";
+  world.Game().MailOtherFed = 0;
+  world.SetChance(std::make_unique<SeededDraws>(7));
+  return world;
+}
+
+TEST(Bankruptcy, IsTheEndOfEverythingThatARivalHad) {
+  struct Row {
+    Change<Promotion> Falls;
+    const char* Mail;
+  };
+  const Row kRows[] = {
+      {[](Promotion& p) { p.Money = -4000000; }, "XWF News: XWF Wrestling have gone bankrupt!\n"},
+      {[](Promotion& p) {
+         p.Money = 0;
+         p.LoanAmount = 50000000;
+         p.LoanMonths = 12;
+         p.LoanMissed = 2;
+       },
+       "XWF News: XWF have gone out of business!\n"}};
+  for (const Row& row : kRows) {
+    World world = LastDayOfMarch(row.Falls);
+    ASSERT_EQ(FaultsOf(world), "");
+    AdvanceDay(world, false);
+    EXPECT_NE(NewsOf(world).find(row.Mail), std::string::npos) << NewsOf(world);
+    EXPECT_EQ(FaultsOf(world), "");
+    EXPECT_EQ(world.FindPromotion(2), nullptr);
+    for (const Worker& worker : world.Workers()) {
+      EXPECT_NE(worker.Employer, 2);
+      EXPECT_EQ(worker.Split.Str(), "None") << worker.Name.Str();
+    }
+    for (const Staff& staff : world.AllStaff()) EXPECT_NE(staff.Employer, 2);
+    EXPECT_EQ(Named(world.Titles(), "XWF Crown").Owner, kNoEnd);
+    EXPECT_EQ(Named(world.Titles(), "XWF Crown").Holder, 0);
+    EXPECT_EQ(world.Shows().Count(), 0);
+    EXPECT_EQ(Named(world.Sponsors(), "Gulp").Promotion, 0);
+  }
+}
+
+/// Something that a rival of the size does, and the option that its mail obeys.
+struct Told {
+  const char* What;
+  Word GameInfo::*Option;
+  void (*Happens)(World& world, int size);
+};
+const Told kTold[] = {
+    {"staff signed", &GameInfo::MailStaffHire,
+     [](World& world, int) {
+       SignStaff(world, world.Promotions()[2], Named(world.AllStaff(), "Free Pen"));
+     }},
+    {"staff fired", &GameInfo::MailStaffFire,
+     [](World& world, int) {
+       FireStaff(world, world.Promotions()[2], Named(world.AllStaff(), "Pen"));
+     }},
+    {"a sponsor", &GameInfo::MailSponsor,
+     [](World& world, int) {
+       ScriptDraws(world, {{18, 1}});
+       RivalSponsorSigning(world);
+     }},
+    {"a warning", &GameInfo::MailOtherFed,
+     [](World& world, int size) {
+       world.Promotions()[2].Money = size == kSmall ? -900000 : -4500000;
+       BankruptcyCheck(world);
+     }},
+    {"a bankruptcy", &GameInfo::MailOtherFed,
+     [](World& world, int) {
+       world.Promotions()[2].Money = -30000000;
+       BankruptcyCheck(world);
+     }},
+    {"a founding", &GameInfo::MailOtherFed,
+     [](World& world, int size) {
+       world.AllStaff().Remove();
+       ScriptDraws(world, {{3, 2}, {40, 1}, {5, size - 1}, {60, 1}, {4, 1}, {70, 1}});
+       NewPromotionCheck(world);
+     }},
+};
+
+TEST(RivalMail, ObeysItsOwnOptionAlone) {
+  constexpr Word GameInfo::*kOptions[] = {
+      &GameInfo::MailOwners,     &GameInfo::MailWorkerHire, &GameInfo::MailWorkerFire,
+      &GameInfo::MailStaffHire,  &GameInfo::MailStaffFire,  &GameInfo::MailTv,
+      &GameInfo::MailRetirement, &GameInfo::MailOtherFed,   &GameInfo::MailSponsor,
+      &GameInfo::MailShows,      &GameInfo::MailTvShow,     &GameInfo::MailStaffRetire};
+  for (const Told& told : kTold)
+    for (const int option : {0, 1, 2})
+      for (const int others : {0, 2})
+        for (const int size : {kCult, kRegional, kSmall}) {
+          World world = SmallWorld()
+                            .Promotion("CWA", kRegional)
+                            .Promotion("XWF", size)
+                            .Staff("Pen", kWriter)
+                            .OnTheMarket()
+                            .Staff("Free Pen", kWriter)
+                            .Sponsor("Gulp")
+                            .Game("CWA");
+          for (const auto each : kOptions) world.Game().*each = others;
+          world.Game().*told.Option = option;
+          world.Session.StartSize = kRegional;
+          told.Happens(world, size);
+          const bool isTold = option == 0 || (option == 1 && size <= kRegional);
+          EXPECT_EQ(NewsOf(world).empty(), !isTold)
+              << told.What << ", option " << option << ", size " << size;
+        }
+}
+
 /// The player has been Global at five month ends, beside whoever else.
 World AloneAtTheTop() {
   World world = SmallWorld().Promotion("CWA", kGlobal).Promotion("XWF", kNational).Game("CWA");
@@ -270,6 +463,7 @@ TEST(Challenge, FoundsARivalOfTheStrangersOwn) {
   const Promotion& opened = world.Promotions()[3];
   EXPECT_EQ(opened.Size, kNational);
   EXPECT_EQ(opened.Money, 40000000);
+  EXPECT_EQ(opened.Risk, 20) << "by his style";
   EXPECT_EQ(world.AllStaff()[1].Employer, opened.Uid);
   EXPECT_EQ(world.AllStaff()[1].Name.Str(), "Lysander Pinkney");
   EXPECT_EQ(world.AllStaff()[1].Position, kOwner);
@@ -313,6 +507,34 @@ TEST(Challenge, BuysStarsWhereverTheyWork) {
   for (const char* name : {"Safe", "Mine 94", "Mine 91", "Plain", "Corner", "Asked"})
     EXPECT_NE(Named(world.Workers(), name).Employer, uid) << name;
   EXPECT_EQ(FaultsOf(world), "");
+}
+
+TEST(Challenge, DoesNotBuyWhoHasSignedAlready) {
+  World world = SmallWorld()
+                    .Promotion("CWA", kGlobal)
+                    .OnTheMarket()
+                    .Worker("Free Star", kMainEvent, 90, [](Worker& star) { star.Wage = 50; })
+                    .Game("CWA");
+  world.Game().EndCode = kStrangerWaits;
+  // The owner, and the one whom the new promotion signs by itself.
+  ScriptDraws(world, {{12, 1}, {6, 1}, {10, 1}});
+  MeetStranger(world);
+  EXPECT_EQ(world.Workers()[1].Employer, world.Promotions()[2].Uid);
+  EXPECT_EQ(world.Workers()[1].Wage, 58) << "one rise";
+  EXPECT_EQ(FaultsOf(world), "");
+}
+
+TEST(Challenge, DoesNotComeWhereNoOwnerFitsIn) {
+  World world = AloneAtTheTop();
+  Staff owner;
+  while (!world.AllStaff().Full()) world.AllStaff().Append(owner);
+  ScriptDraws(world, std::vector<int>{});
+  AwaitStranger(world);
+  EXPECT_EQ(world.Game().EndCode, 0);
+  world.Game().EndCode = kStrangerWaits;
+  MeetStranger(world);
+  EXPECT_EQ(world.Game().EndCode, 0);
+  EXPECT_EQ(world.Promotions().Count(), 2);
 }
 
 }  // namespace

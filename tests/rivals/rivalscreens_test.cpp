@@ -151,9 +151,9 @@ TEST(frmTheEnd, LeavesTheWorldToRead) {
   ASSERT_EQ(play.Desk.TopName(), "frmMainScreen");
   EXPECT_FALSE(play.Desk.Enabled("cmdnext"));
   EXPECT_FALSE(play.Desk.Enabled("cmduntil"));
-  EXPECT_EQ(play.Desk.Tip("cmdnext"), "Your career has ended.");
+  EXPECT_EQ(play.Desk.Tip("cmdnext"), kCareerIsOver);
   play.Desk.Click("cmdotherfed");
-  EXPECT_EQ(play.Desk.Tip("cmdbuyout"), "Your career has ended.");
+  EXPECT_EQ(play.Desk.Tip("cmdbuyout"), kCareerIsOver);
   play.Desk.Click("cmdback");
   EXPECT_EQ(play.Desk.TopName(), "frmMainScreen") << "the news is told once";
 }
@@ -213,6 +213,77 @@ TEST(ChangeOfJob, LetsTheFormerPromotionGoOnAsARival) {
   EXPECT_EQ(world.Shows()[1].Colour, 0) << "he works elsewhere";
   EXPECT_FALSE(world.Shows()[1].ColourIsWorker);
   EXPECT_EQ(FaultsOf(world), "");
+}
+
+/// The board loses its patience whenever it may.
+class HardBoard : public SeededDraws {
+ public:
+  HardBoard() : SeededDraws(3) {}
+  int Draw(int n) override { return n == 3 ? 3 : SeededDraws::Draw(n); }
+};
+
+struct RoadToTheEnd {
+  int Code;
+  Day From;
+  Change<World> Prepare;
+};
+const RoadToTheEnd kRoads[] = {
+    {kEndLoan, std::chrono::year{2026} / 3 / 30,
+     [](World& world) {
+       Promotion& player = world.Player();
+       player.Money = 0;
+       player.LoanAmount = 5000000;
+       player.LoanMonths = 12;
+       player.LoanMissed = 2;
+     }},
+    {kEndBankrupt, std::chrono::year{2026} / 3 / 30,
+     [](World& world) { world.Player().Money = -5000000; }},
+    {kEndBoard, std::chrono::year{2026} / 3 / 29, [](World& world) { world.Player().Image = 1; }},
+};
+
+SmallWorld OnTheRoad(const RoadToTheEnd& road) {
+  SmallWorld small;
+  small.Promotion("CWA", kRegional).Owner("Ruth Vane").Crew(8).Game("CWA", road.From);
+  return small;
+}
+
+TEST(TheEnd, ComesUponThePlayerByEachOfItsRoads) {
+  for (const RoadToTheEnd& road : kRoads)
+    for (const char* way : {"cmdnext", "cmduntil"}) {
+      SCOPED_TRACE(std::string(way) + " to " + std::to_string(road.Code));
+      GameOnWorld play(OnTheRoad(road));
+      road.Prepare(play.World());
+      play.World().SetChance(std::make_unique<HardBoard>());
+      play.Desk.Open("frmMainScreen");
+      if (road.Code == kEndBoard) play.Desk.ExpectAsk("No Show!", kAnyText, true);
+      play.Desk.Click(way);
+      if (way == std::string("cmdnext") && road.Code != kEndBoard) {
+        ASSERT_EQ(play.Desk.TopName(), "frmMainScreen");
+        play.Desk.Click(way);
+      }
+      ASSERT_EQ(play.Desk.TopName(), "frmTheEnd");
+      EXPECT_EQ(play.World().Game().EndCode, road.Code);
+      EXPECT_EQ(play.World().Today(), road.Code == kEndBoard ? Day{std::chrono::year{2026} / 3 / 30}
+                                                             : Day{std::chrono::year{2026} / 4 / 1})
+          << "no day passes beyond it";
+      play.Reopen();
+      EXPECT_EQ(play.World().Game().EndCode, road.Code) << "the day that brought it is kept";
+    }
+}
+
+TEST(TheEnd, IsToldAgainWheneverTheSlotIsLoaded) {
+  GameOnWorld play(TwoPromotions());
+  play.World().Game().EndCode = kEndBoard;
+  play.Desk.Open("frmMainScreen");
+  for (int visit = 0; visit < 2; ++visit) {
+    ASSERT_EQ(play.Desk.TopName(), "frmTheEnd");
+    play.Desk.Click("cmdmenu");
+    play.Desk.Open("frmLoadGame");
+    play.Desk.Click("cmdload1");
+  }
+  ASSERT_EQ(play.Desk.TopName(), "frmTheEnd");
+  play.Desk.Click("cmdlook");
+  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
 }
 
 }  // namespace

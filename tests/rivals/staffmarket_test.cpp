@@ -58,6 +58,19 @@ TEST(RivalStaff, TakesTheMostTalentedOfThoseItLooksAt) {
   EXPECT_EQ(FindStaffFor(world, kMedical, kCult)->Name.Str(), "Better");
 }
 
+TEST(RivalStaff, ComesAsAnybodyWhoCanBeFired) {
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Promotion("XWF", kCult)
+                    .OnTheMarket()
+                    .Staff("Pen", kWriter)
+                    .Game("CWA");
+  world.AllStaff()[1].Unsackable = true;
+  SignStaff(world, Rival(world), world.AllStaff()[1]);
+  EXPECT_FALSE(world.AllStaff()[1].Unsackable);
+  EXPECT_EQ(FaultsOf(world), "");
+}
+
 TEST(RivalStaff, SignsByItsSize) {
   struct Row {
     int Size, Months;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "records/modWresCheck.h"
 #include "records/sweeps.h"
 #include "rivals/faults.h"
@@ -13,7 +15,7 @@ namespace {
 using Names = std::vector<std::string>;
 
 /// A Regional rival in debt with one of everything.
-SmallWorld ForSale(int money = -700000) {
+SmallWorld ForSale(int money = -700000, const Change<SmallWorld>& others = {}) {
   SmallWorld small;
   small.Network("Nine")
       .Promotion("CWA", kCult)
@@ -26,7 +28,19 @@ SmallWorld ForSale(int money = -700000) {
                    p.LastMonth.WrestlerWages = 80000;
                  })
       .Owner("Sir Sell")
-      .Staff("Coach", kTrainer)
+      .Staff("Coach", kTrainer, 50, [](Staff& s) { s.ContractMonths = 24; })
+      .Staff("Pen", kWriter, 50,
+             [](Staff& s) {
+               s.ContractMonths = 1;
+               s.Morale = 4;
+               s.Booker = true;
+             })
+      .Staff("Voice", kAnnouncer, 50,
+             [](Staff& s) {
+               s.Unsackable = true;
+               s.ContractMonths = kNoEnd;
+               s.ContractType = "Wri";
+             })
       .Worker("Champ", kMainEvent, 70)
       .Worker("Home Body", kMidcard, 30,
               [](Worker& w) {
@@ -48,8 +62,9 @@ SmallWorld ForSale(int money = -700000) {
       .Title("XWF Tag Titles", "Champ", "Safe")
       .Show("Slam", "Monday", "Nine")
       .Sponsor("Gulp")
-      .Event(5)
-      .Game("CWA");
+      .Event(5);
+  if (others) others(small);
+  small.Game("CWA");
   return small;
 }
 
@@ -58,6 +73,7 @@ World Sold() {
   Promotion& rival = Named(world.Promotions(), "XWF");
   rival.Commissioner = Named(world.Workers(), "Boss").Uid;
   rival.HeadTrainer = Named(world.AllStaff(), "Coach").Uid;
+  rival.DevBooker = Named(world.AllStaff(), "Pen").Uid;
   Named(world.Workers(), "Champ").Manager = Named(world.Workers(), "Corner").Uid;
   Named(world.Workers(), "Champ").TurnPending = true;
   EXPECT_EQ(FaultsOf(world), "");
@@ -109,7 +125,19 @@ TEST(Takeover, BringsThePeopleOver) {
     EXPECT_EQ(worker.Manager, 0) << row.Name;
     EXPECT_FALSE(worker.Unsackable || worker.TurnPending) << row.Name;
   }
-  EXPECT_EQ(Named(world.AllStaff(), "Coach").Employer, world.PlayerUid());
+  struct StaffRow {
+    const char* Name;
+    int Months, Morale;
+  };
+  for (const StaffRow& row : {StaffRow{"Coach", 24, 80}, {"Pen", 3, 10}, {"Voice", 3, 80}}) {
+    const Staff& staff = Named(world.AllStaff(), row.Name);
+    EXPECT_EQ(staff.Employer, world.PlayerUid()) << row.Name;
+    EXPECT_EQ(staff.ContractMonths, row.Months) << row.Name;
+    EXPECT_EQ(staff.Morale, row.Morale) << row.Name;
+    EXPECT_FALSE(staff.Unsackable) << row.Name;
+  }
+  EXPECT_EQ(world.Promotions()[2].HeadTrainer, 0);
+  EXPECT_EQ(world.Promotions()[2].DevBooker, 0);
   ExpectNothingIsLeft(world);
   EXPECT_EQ(OwnerOf(world, world.PlayerUid())->Name.Str(), "Ruth Vane");
 }
@@ -123,6 +151,40 @@ TEST(Takeover, DestroysForAMonthsWagesMore) {
     EXPECT_EQ(worker.Employer, worker.Name == "Mine" ? world.PlayerUid() : 0) << worker.Name.Str();
   EXPECT_EQ(Named(world.AllStaff(), "Coach").Employer, 0);
   ExpectNothingIsLeft(world);
+}
+
+TEST(Takeover, LeavesEverybodyElseAlone) {
+  for (const Takeover kind : {Takeover::Complete, Takeover::Destruction}) {
+    World world = ForSale(-700000, [](SmallWorld& small) {
+      small.Promotion("YWF", kRegional)
+          .Owner("Ann Else")
+          .Staff("Other Voice", kAnnouncer)
+          .Worker("Elsewhere", kMainEvent, 60)
+          .Stable("The Others", {"Elsewhere"})
+          .Title("YWF Crown", "Elsewhere")
+          .Show("Rumble", "Friday", "Nine")
+          .Sponsor("Chew")
+          .Event(6);
+    });
+    const Promotion before = Named(world.Promotions(), "YWF");
+    const Worker worker = Named(world.Workers(), "Elsewhere");
+    TakeOverRival(world, Named(world.Promotions(), "XWF"), kind);
+    Sweep(world);
+    EXPECT_EQ(FaultsOf(world), "");
+    ASSERT_EQ(world.Promotions().Count(), 2);
+    const Promotion& other = Named(world.Promotions(), "YWF");
+    EXPECT_EQ(std::memcmp(&other, &before, sizeof other), 0);
+    EXPECT_EQ(std::memcmp(&Named(world.Workers(), "Elsewhere"), &worker, sizeof worker), 0);
+    ASSERT_EQ(world.Shows().Count(), 1);
+    EXPECT_EQ(world.Shows()[1].Name.Str(), "Rumble");
+    EXPECT_EQ(Named(world.Titles(), "YWF Crown").Owner, other.Uid);
+    EXPECT_EQ(Named(world.Titles(), "YWF Crown").Holder, worker.Uid);
+    EXPECT_EQ(Named(world.Sponsors(), "Chew").Promotion, other.Uid);
+    EXPECT_EQ(Named(world.Events(), "YWF in June").Owner, other.Uid);
+    EXPECT_EQ(Named(world.Stables(), "The Others").Owner, other.Uid);
+    for (const char* name : {"Ann Else", "Other Voice"})
+      EXPECT_EQ(Named(world.AllStaff(), name).Employer, other.Uid);
+  }
 }
 
 TEST(Takeover, IsForWhoeverIsDeepEnoughInDebt) {
@@ -170,6 +232,23 @@ TEST(frmTakeover, MakesTheDealAndTheRivalIsGone) {
   play.Desk.Click("cmdnext");
   EXPECT_EQ(play.World().Promotions().Count(), 1);
   EXPECT_EQ(FaultsOf(play.World()), "");
+}
+
+TEST(frmTakeover, IsReachedFromThePageOfThePromotionToo) {
+  GameOnWorld play(ForSale());
+  play.Desk.Open("frmMainScreen");
+  play.Play.OpenPromotion(2);
+  ASSERT_EQ(play.Desk.TopName(), "frmPromotion");
+  play.Desk.ExpectSay("Accepted!", "XWF owner Sir Sell is willing to sell the company.");
+  play.Desk.Click("cmdbuyout");
+  ASSERT_EQ(play.Desk.TopName(), "frmTakeover");
+  play.World().Player().Money = 700000;
+  play.Desk.ExpectSay("Done!", "Takeover completed!");
+  play.Desk.Click("cmddoit");
+  ASSERT_EQ(play.Desk.TopName(), "frmPromotion");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "It has closed its doors.");
+  EXPECT_FALSE(play.Desk.Enabled("cmdbuyout"));
+  EXPECT_EQ(Named(play.World().Workers(), "Champ").Employer, play.World().PlayerUid());
 }
 
 TEST(frmTakeover, IsNotReachedWhereNobodySells) {

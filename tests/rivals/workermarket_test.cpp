@@ -200,6 +200,36 @@ TEST(RivalFiring, LetsTheLowestScoreGo) {
             "XWF News: XWF have fired Weak!\nXWF News: XWF have released As Weak!\n");
 }
 
+TEST(RivalFiring, MeasuresManagersAndNonWrestlersToo) {
+  const auto with = [](int charisma, int skill) {
+    return [=](Worker& worker) {
+      worker.Charisma = charisma;
+      worker.Brawl = skill;
+      worker.Technical = skill;
+      worker.Speed = skill;
+    };
+  };
+  struct Row {
+    int Position, Charisma, Skill, Over;
+    bool Goes;
+  };
+  // Against a wrestler whose score is 50.
+  for (const Row& row : {Row{kManager, 50, 99, 49, true}, Row{kManager, 53, 0, 49, false},
+                         Row{kNonWrestler, 99, 49, 49, true}, Row{kNonWrestler, 0, 51, 51, false},
+                         Row{kTrainingCamp, 0, 0, 0, false}, Row{kDevelopmentDeal, 0, 0, 0, false},
+                         Row{kSentToDevelopment + kOpener, 0, 0, 0, false}}) {
+    World world = SmallWorld()
+                      .Promotion("CWA")
+                      .Promotion("XWF")
+                      .Worker("Plain", kMidcard, 50, with(50, 50))
+                      .Worker("Other", row.Position, row.Over, with(row.Charisma, row.Skill))
+                      .BuildUnchecked();
+    EXPECT_EQ(FindWeakest(world, Rival(world).Uid, kAllRound)->Name.Str(),
+              row.Goes ? "Other" : "Plain")
+        << row.Position << " " << row.Charisma;
+  }
+}
+
 TEST(RivalFiring, TellsOfTheShortlistWhateverTheOption) {
   for (const bool noted : {false, true}) {
     World world = SmallWorld().Promotion("CWA").Promotion("XWF").Worker("Bram Okafor").Game("CWA");
@@ -225,6 +255,30 @@ TEST(RivalWorkerHiring, SignsTenInARowAtMostAndNoneAfterAFailure) {
   ScriptDraws(unlucky, {{10, 1}, {10, 2}, {10, 2}});
   RivalWorkerHiring(unlucky);
   EXPECT_EQ(Rosters(unlucky).Of(Rival(unlucky).Uid), 1) << "the second try found nobody";
+}
+
+TEST(RivalWorkerHiring, TakesThePlayersPeopleInTheCourseOfADay) {
+  SmallWorld small;
+  small.Promotion("CWA", kSmall)
+      .Worker("Mine", kMainEvent, 60,
+              [](Worker& worker) {
+                worker.ContractType = "Non";
+                worker.Behaviour = 50;
+              })
+      .Worker("Loyal", kMidcard, 60, [](Worker& worker) { worker.ContractType = "Wri"; })
+      .Title("CWA Crown", "Mine")
+      .Promotion("XWF", kCult)
+      .Game("CWA", kGameStart, TellsAll())
+      .Feud("Mine", "Loyal");
+  World world = small;
+  ScriptDraws(world, {{10, 1}, {10, 1}, {10, 1}});
+  RivalWorkerHiring(world);
+  EXPECT_EQ(Named(world.Workers(), "Mine").Employer, Rival(world).Uid);
+  EXPECT_EQ(Named(world.Workers(), "Loyal").Employer, world.PlayerUid());
+  EXPECT_EQ(world.Titles()[1].Holder, 0);
+  EXPECT_EQ(world.Feuds()[1].Worker2, 0);
+  EXPECT_EQ(NewsOf(world), "XWF News: XWF have stolen Mine from CWA!\n");
+  EXPECT_EQ(FaultsOf(world), "");
 }
 
 TEST(RivalWorkerHiring, FiresWhatStandsAboveItsBand) {
@@ -285,6 +339,20 @@ TEST(RivalPositions, FollowPopularityForRivalsAlone) {
                                                  {"Voice", kNonWrestler}};
   for (const auto& [name, position] : kPlaces)
     EXPECT_EQ(Named(world.Workers(), name).Position, position) << name;
+}
+
+TEST(RivalPositions, BringWhoeverWasSentAwayBackToTheCard) {
+  for (const int over : {10, 81, 100}) {
+    World world = SmallWorld()
+                      .Promotion("CWA")
+                      .Promotion("XWF", kGlobal)
+                      .Worker("Away", kSentToDevelopment + kMidcard, over)
+                      .Game("CWA");
+    RivalPositions(world);
+    EXPECT_EQ(world.Workers()[1].Position, over == 10   ? kJobber
+                                           : over == 81 ? kUpperMidcard
+                                                        : kMainEvent);
+  }
 }
 
 }  // namespace

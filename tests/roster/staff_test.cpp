@@ -218,6 +218,14 @@ TEST(HireStaff, TakesHimOutOfHisFormerDuties) {
   for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
 }
 
+TEST(HireStaff, TakesHimAsAnybodyWhoCanBeFired) {
+  World world = SmallWorld().Promotion("CWA").OnTheMarket().Staff("Pen", kWriter).Game("CWA");
+  world.AllStaff()[1].Unsackable = true;
+  HireStaff(world, world.AllStaff()[1], {.Wage = 5, .Months = 12});
+  EXPECT_FALSE(world.AllStaff()[1].Unsackable);
+  EXPECT_TRUE(CheckWorld(world).empty());
+}
+
 TEST(FireStaff, CostsWhatAWorkersTerminationDoes) {
   struct Case {
     int Difficulty, Morale;
