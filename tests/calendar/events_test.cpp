@@ -70,7 +70,9 @@ TEST(EventNames, AreThePlayersOwnAndFit) {
 
 TEST(Events, AreNotPlannedInAFullFile) {
   World world = Planned().Game("CWA");
-  world.Events().Rewrite(std::vector<Event>(10000));
+  Event rivals;
+  rivals.Owner = Named(world.Promotions(), "NEW").Uid;
+  world.Events().Rewrite(std::vector<Event>(10000, rivals));
   EXPECT_EQ(WhyNotPlan(world, 7, "Hot July", 3), "No more Events can be kept.");
   EXPECT_EQ(WhyNotEventName(world, 7, "Hot July"), "");
 }
