@@ -44,6 +44,21 @@ void VacateTitlesOf(World& world, int workerUid) {
 /// The job offer among the incidents names a promotion.
 constexpr int kJobOfferIncident = 6;
 
+/// What tells of him keeps his name, since his uid may be another's one day.
+void ForgetInThePast(World& world, int uid) {
+  const auto clear = [uid](auto&... places) { ((places = places == uid ? 0 : int(places)), ...); };
+  for (HeldMatch& bout : world.Bouts()) {
+    for (Word& place : bout.Worker)
+      if (place == uid) place = 0;
+    for (Word& place : bout.Feud)
+      if (place == uid) place = 0;
+  }
+  for (MatchTally& tally : world.Tallies()) clear(tally.Worker);
+  for (TitleReign& reign : world.Reigns()) clear(reign.Worker, reign.Partner);
+  for (YearAward& award : world.Awards()) clear(award.Worker, award.Partner);
+  world.YearEnds().Keep([=](const YearEnd& row) { return row.Worker != uid; });
+}
+
 void ForgetVoice(World& world, int uid, bool isWorker) {
   for (Show& show : world.Shows()) {
     if (show.Colour != uid || bool(show.ColourIsWorker) != isWorker) continue;
@@ -124,6 +139,7 @@ void ForgetWorker(World& world, int workerUid) {
   for (Worker& client : world.Workers())
     if (client.Manager == workerUid) client.Manager = 0;
   ForgetVoice(world, workerUid, true);
+  ForgetInThePast(world, workerUid);
   for (Segment& segment : world.Segments())
     if (segment.Rating == 0 && TakesPart(segment, workerUid)) ClearSegment(segment);
   if (!world.HasGame()) return;
