@@ -57,8 +57,8 @@ class frmReigns : public ui::Screen {
     constexpr const char* kEnds[] = {"Lasts", "Lost", "Vacated", "Dissolved"};
     const int end = reign.End;
     if (end < kReignLasts || end > kReignDissolved) return {""};
-    return {IsVacancy(reign) && end != kReignDissolved ? "" : kEnds[end],
-            end == kReignLasts ? ui::Tone::Gold : ui::Tone::Plain};
+    const bool says = end == kReignLasts || end == kReignDissolved || !IsVacancy(reign);
+    return {says ? kEnds[end] : "", end == kReignLasts ? ui::Tone::Gold : ui::Tone::Plain};
   }
 
   void ShowReigns() {

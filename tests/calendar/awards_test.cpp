@@ -5,6 +5,7 @@
 #include "calendar/advanceday.h"
 #include "records/checkworld.h"
 #include "records/dates.h"
+#include "records/segmentwords.h"
 #include "storylines/lineages.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
@@ -154,6 +155,7 @@ TEST(TheWrestlerOfTheYear, IsWorthHisOverHisRiseAndHisTitles) {
 
 TEST(TheTagTeamOfTheYear, IsTwoOfOneHouseAndTheirTimeAsChampionsCounts) {
   World world = House();
+  Named(world.Teams(), "The Drifters").Experience = 0;
   Named(world.Teams(), "The Roses").Experience = 50;
   EXPECT_EQ(GivenFor(world, kTeamOfTheYear), "The Drifters | Over 60 between them, experience 0")
       << "alike at 60: the more popular";
