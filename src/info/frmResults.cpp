@@ -27,13 +27,13 @@ class frmResults : public ui::Screen {
     page.Actions = {&cmdreport, &cmdreports, &cmdtitles, &cmdawards, &cmdback};
     page.Main = &cmdback;
     page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Group("", {ui::Columns({ui::Field("Show", cmbshow), ui::Field("Year", cmbyear)}),
-                        ui::Grow(lstshows)})
-             .Grow(5),
-         ui::Rows({ui::Group("Who won", {ui::Grow(lstcard)}).Grow(5),
-                   ui::Group("Ratings", {ui::Grow(chtratings)}).Grow(2)})
-             .Grow(4)});
+    page.Body = ui::Rows({ui::Group("", {ui::Columns({ui::Field("Show", cmbshow),
+                                                      ui::Field("Year", cmbyear), ui::Spacer()}),
+                                         ui::Grow(lstshows)})
+                              .Grow(5),
+                          ui::Columns({ui::Group("Who won", {ui::Grow(lstcard)}).Grow(3),
+                                       ui::Group("Ratings", {ui::Grow(chtratings)}).Grow(2)})
+                              .Grow(4)});
     return page;
   }
 
@@ -74,8 +74,8 @@ class frmResults : public ui::Screen {
     const ui::Cell when(static_cast<double>((Day(show.On) - kDayZero).count()), ShortDate(show.On));
     if (show.CalledOff)
       return {when,
-              DayName(show.On).substr(0, 3),
               show.Name.View(),
+              DayName(show.On),
               ui::Cell("Called off", ui::Tone::Red),
               ui::Cell(0, std::string()),
               ui::Cell(0, std::string()),
@@ -83,8 +83,8 @@ class frmResults : public ui::Screen {
               Money(show.Income),
               Money(show.Costs)};
     return {when,
-            DayName(show.On).substr(0, 3),
             show.Name.View(),
+            DayName(show.On),
             isEvent ? ui::Cell("Event", ui::Tone::Gold) : ui::Cell("Television"),
             ui::Cell(show.Rating),
             ui::Cell(show.Attendance),
@@ -160,8 +160,8 @@ class frmResults : public ui::Screen {
   ui::ListBox lstshows{*this,
                        "lstshows",
                        {{"Date", K::Date},
-                        {"Day"},
                         {"Show", K::Text, 4},
+                        {"Day"},
                         {"Kind", K::Tag},
                         {"Rating", K::Percent},
                         {"Crowd", K::Number},

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "records/dates.h"
 #include "storylines/lineages.h"
 #include "storylines/storyscreens.h"
@@ -35,14 +37,24 @@ class frmReigns : public ui::Screen {
           lineage.Title + " (" + lineage.Initials + ")" + (lineage.Stands ? "" : ", of the past"),
           cmbtitle.Count() + 1);
     cmbtitle.Select(cmbtitle.Count() > 0 ? 1 : 0);
-    for (std::size_t i = 0; i < lineages_.size(); ++i)
-      if (lineages_[i] == first_) cmbtitle.Select(static_cast<int>(i) + 1);
+    Select();
     ShowReigns();
   }
   void Return() override { ShowReigns(); }
 
  private:
   const World& world() { return game_.World(); }
+
+  /// The Title that was asked for, else the player's first.
+  void Select() {
+    const auto asked = std::find(lineages_.begin(), lineages_.end(), first_);
+    const auto own = std::find_if(lineages_.begin(), lineages_.end(), [&](const Lineage& lineage) {
+      return lineage.Owner == world().PlayerUid();
+    });
+    const auto chosen = asked != lineages_.end() ? asked : own;
+    if (chosen != lineages_.end())
+      cmbtitle.Select(static_cast<int>(chosen - lineages_.begin()) + 1);
+  }
 
   static ui::Cell DateCell(Day day, const char* unknown) {
     if (day <= kNoTitleDate) return {0.0, unknown, ui::Tone::Muted};
@@ -68,7 +80,7 @@ class frmReigns : public ui::Screen {
       for (const TitleReign* reign : ReignsOf(world(), lineage)) reigns.push_back(RowOf(*reign));
       for (const ChampionTotal& total : TotalsOf(world(), lineage))
         totals.push_back(
-            {{total.Name, ui::Cell(total.Reigns), ui::Cell(total.Days), ui::Cell(total.Defences)},
+            {{total.Name, ui::Cell(total.Reigns), ui::Cell(total.Days), CountCell(total.Defences)},
              static_cast<int>(totals.size()) + 1});
     }
     lblfacts.Text = cmbtitle.Count() == 0 ? "There is no Title in the world."

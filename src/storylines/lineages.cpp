@@ -220,12 +220,12 @@ std::vector<ChampionTotal> TotalsOf(const World& world, const Lineage& lineage) 
     });
     if (total == totals.end()) {
       totals.push_back(
-          {reign->Holder.Str(), 0, 0, 0, reign->Partner == 0 ? int(reign->Worker) : 0});
+          {reign->Holder.Str(), 0, 0, kNoEnd, reign->Partner == 0 ? int(reign->Worker) : 0});
       total = totals.end() - 1;
     }
     ++total->Reigns;
     total->Days += std::max(0, DaysOf(*reign, world.Today()));
-    total->Defences += std::max<int>(0, reign->Defences);
+    if (reign->Defences >= 0) total->Defences = std::max(0, total->Defences) + reign->Defences;
   }
   std::stable_sort(totals.begin(), totals.end(), [](const auto& a, const auto& b) {
     return a.Days != b.Days ? a.Days > b.Days : a.Reigns > b.Reigns;

@@ -44,9 +44,9 @@ int DaysOf(const TitleReign& reign, Day today);
 struct ChampionTotal {
   std::string Name;
   int Reigns = 0;
-  int Days = 0;  // of those whose length is known
-  int Defences = 0;
-  int Worker = 0;  // uid; 0 for a pair and for who has gone
+  int Days = 0;           // of those whose length is known
+  int Defences = kNoEnd;  // where nobody counts them
+  int Worker = 0;         // uid; 0 for a pair and for who has gone
 };
 /// The longest first.
 std::vector<ChampionTotal> TotalsOf(const World& world, const Lineage& lineage);

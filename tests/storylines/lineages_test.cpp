@@ -183,6 +183,8 @@ TEST(Lineages, AddUpForEachChampion) {
     totals += total.Name + " " + std::to_string(total.Reigns) + " " + std::to_string(total.Days) +
               " " + std::to_string(total.Defences) + "; ";
   EXPECT_EQ(totals, "Cal Drift 2 35 2; Ilya Marsh 1 10 1; Bram Okafor 1 0 0; ");
+  const int rival = Named(world.Promotions(), "NEW").Uid;
+  EXPECT_EQ(TotalsOf(world, {"NEW Crown", rival, "NEW", true}).at(0).Defences, kNoEnd);
 }
 
 TEST(Lineages, DropTheOldestThatHaveEndedWhenTheFileIsFull) {
