@@ -80,10 +80,10 @@ TEST(TheResultsScreen, ShowsEveryShowAndItsCard) {
   EXPECT_EQ(
       play.Desk.Rows("lstshows"),
       (std::vector<Row>{
-          {"28/02/26", "Sunday Slam", "Saturday", "Called off", "", "", "", "$9000", "$1000"},
-          {"22/02/26", "Winter Bash", "Sunday", "Event", "72", "500", "2. 05", "$9000", "$1000"},
-          {"01/12/25", "Sunday Slam", "Monday", "Television", "51", "500", "2. 05", "$9000",
-           "$1000"}}));
+          {"28/02/26", "Sunday Slam", "Saturday", "Called off", "", "", "", "$9,000", "$1,000"},
+          {"22/02/26", "Winter Bash", "Sunday", "Event", "72", "500", "2. 05", "$9,000", "$1,000"},
+          {"01/12/25", "Sunday Slam", "Monday", "Television", "51", "500", "2. 05", "$9,000",
+           "$1,000"}}));
   EXPECT_TRUE(play.Desk.Rows("lstcard").empty());
   play.Desk.Pick("lstshows", 2);
   EXPECT_EQ(play.Desk.Rows("lstcard"),
