@@ -2,6 +2,7 @@
 #include "booking/sheet.h"
 #include "booking/sheetrow.h"
 #include "records/segments.h"
+#include "report/linememory.h"
 #include "show/holdshow.h"
 #include "storylines/screenpeople.h"
 
@@ -114,7 +115,8 @@ class frmAutoBook : public ui::Screen {
   void cmdbook_Click() {
     TakeCard(world(), card_);
     const std::string name = ShowOfToday(world())->Name.Str();
-    const int rating = HoldShow(world(), false, TvTeam(world()), 0, nullptr);
+    LineMemory memory;  // told all the same: the report column keeps it
+    const int rating = HoldShow(world(), false, TvTeam(world()), 0, &memory);
     desk().Say("Show Rating",
                name + " has been held. Its rating is " + std::to_string(rating) + "%.");
     LeaveShow(world());

@@ -1,10 +1,12 @@
 #include "calendar/advanceday.h"
 
 #include "business/businesssteps.h"
+#include "calendar/awards.h"
 #include "calendar/daysteps.h"
 #include "records/dates.h"
 #include "records/sweeps.h"
 #include "rivals/rivalsteps.h"
+#include "storylines/lineages.h"
 
 namespace grapplemont {
 
@@ -42,9 +44,8 @@ constexpr Step kSecondFirstOfMonth[] = {
 };
 
 constexpr Step kClosing[] = {
-    STEP(IncidentRoll),
-    STEP(SweepDeadPromotions),
-    STEP(SweepDeadShows),
+    STEP(IncidentRoll), STEP(SweepDeadPromotions), STEP(SweepDeadShows),
+    STEP(UpdateReigns), STEP(GiveAwards),
 };
 
 #undef STEP

@@ -26,7 +26,7 @@ struct Command {
   const char* Group;
   const char* Key;
 };
-constexpr std::array<Command, 18> kCommands = {{
+constexpr std::array<Command, 19> kCommands = {{
     {"cmdroster", "Roster", "frmRoster", "People", "F2"},
     {"cmdstaff", "Staff", "frmStaff", "People", "F3"},
     {"cmdtag", "Tag Teams", "frmTagTeams", "People", ""},
@@ -42,6 +42,7 @@ constexpr std::array<Command, 18> kCommands = {{
     {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", ""},
     {"cmdnet", "Internet", "frmInternet", "World", ""},
     {"cmdnews", "News", "frmNews", "Desk", "F10"},
+    {"cmdresults", "Results", "frmResults", "Desk", ""},
     {"cmdmeeting", "Meeting", "frmTalk", "Desk", ""},
     {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "F11"},
     {"cmdoptions", "Options", "frmOptions", "Desk", "F12"},

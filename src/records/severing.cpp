@@ -71,6 +71,25 @@ void LoseClients(World& world, int managerUid) {
     if (client.Manager == managerUid) client.Manager = 0;
 }
 
+namespace {
+
+/// What tells of him keeps his name, since his uid may be another's one day.
+void ForgetInThePast(World& world, int uid) {
+  const auto clear = [uid](auto&... places) { ((places = places == uid ? 0 : int(places)), ...); };
+  for (HeldMatch& bout : world.Bouts()) {
+    for (Word& place : bout.Worker)
+      if (place == uid) place = 0;
+    for (Word& place : bout.Feud)
+      if (place == uid) place = 0;
+  }
+  for (MatchTally& tally : world.Tallies()) clear(tally.Worker);
+  for (TitleReign& reign : world.Reigns()) clear(reign.Worker, reign.Partner);
+  for (YearAward& award : world.Awards()) clear(award.Worker, award.Partner);
+  world.YearEnds().Keep([=](const YearEnd& row) { return row.Worker != uid; });
+}
+
+}  // namespace
+
 void EndPosting(Worker& worker) {
   if (worker.Position > kSentToDevelopment) worker.Position -= kSentToDevelopment;
   if (worker.Position == kDevelopmentDeal || worker.Position == kTrainingCamp)
@@ -159,6 +178,7 @@ void ForgetWorker(World& world, const Worker& worker) {
       [=](const Team& team) { return team.Worker1 != workerUid && team.Worker2 != workerUid; });
   LoseClients(world, workerUid);
   LeaveMicrophones(world, worker);
+  ForgetInThePast(world, workerUid);
   for (Segment& segment : world.Segments())
     if (segment.Rating == 0) LeaveSegment(segment, workerUid);
   if (!world.HasGame()) return;

@@ -16,7 +16,8 @@ void SeverStaff(World& world, Staff& staff);
 void DismissStaff(World& world, Staff& staff);
 /// Whatever else knows somebody who leaves the world for good loses him: teams end, clients are
 /// without their manager, shows without their voice, the shortlist forgets him, and so do the
-/// incidents of the day and what is booked with him. Requires that he has no employer any more.
+/// incidents of the day and what is booked with him; the past keeps his name alone. Requires that
+/// he has no employer any more.
 void ForgetWorker(World& world, const Worker& worker);
 /// Everybody whom the promotion employs.
 void SeverWorkersAndStaff(World& world, int promotionUid);

@@ -48,6 +48,15 @@ void Fill(Segment& segment) {
   segment.Text = "None";
 }
 
+void Fill(HeldMatch& bout) {
+  bout.Title = "None";
+}
+
+void Fill(TitleReign& reign) {
+  reign.From = kNoTitleDate;
+  reign.Until = kNoTitleDate;
+}
+
 template <class T>
 void Fill(T&) {}
 
@@ -76,7 +85,13 @@ std::vector<TableKind> MakeKinds() {
           Kind<Segment>("segments.csv", true),
           Kind<Incident>("incidents.csv", true),
           Kind<ShowRun>("showruns.csv", true),
-          Kind<HistoryEntry>("history.csv", true)};
+          Kind<HistoryEntry>("history.csv", true),
+          Kind<HeldMatch>("bouts.csv", true),
+          Kind<MatchTally>("tallies.csv", true),
+          Kind<TitleReign>("reigns.csv", true),
+          Kind<ReportPart>("reports.csv", true),
+          Kind<YearAward>("awards.csv", true),
+          Kind<YearEnd>("yearends.csv", true)};
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "records/chronicle.h"
 #include "records/companies.h"
 #include "records/draws.h"
 #include "records/gameinfo.h"
@@ -73,6 +74,21 @@ class World {
   /// The past, oldest first.
   Records<HistoryEntry>& History() { return history_; }
   const Records<HistoryEntry>& History() const { return history_; }
+  /// The player's matches, oldest first, and what each worker's add up to.
+  Records<HeldMatch>& Bouts() { return bouts_; }
+  const Records<HeldMatch>& Bouts() const { return bouts_; }
+  Records<MatchTally>& Tallies() { return tallies_; }
+  const Records<MatchTally>& Tallies() const { return tallies_; }
+  /// The reigns of all Titles, oldest first.
+  Records<TitleReign>& Reigns() { return reigns_; }
+  const Records<TitleReign>& Reigns() const { return reigns_; }
+  /// The words of the last shows, in no order.
+  Records<ReportPart>& Reports() { return reports_; }
+  const Records<ReportPart>& Reports() const { return reports_; }
+  Records<YearAward>& Awards() { return awards_; }
+  const Records<YearAward>& Awards() const { return awards_; }
+  Records<YearEnd>& YearEnds() { return yearEnds_; }
+  const Records<YearEnd>& YearEnds() const { return yearEnds_; }
   Records<GameInfo>& GameInfos() { return gameInfos_; }
   const Records<GameInfo>& GameInfos() const { return gameInfos_; }
   TextFile& Notes() { return notes_; }
@@ -111,7 +127,7 @@ class World {
   SessionWords Session;
 
   /// Every file of a world, the ten of the data set first and in their fixed order.
-  static constexpr int kTables = 18;
+  static constexpr int kTables = 24;
   std::array<Table*, kTables> Tables();
   std::array<const Table*, kTables> Tables() const;
 
@@ -155,6 +171,12 @@ class World {
   Records<Incident> incidents_;
   Records<ShowRun> showRuns_;
   Records<HistoryEntry> history_;
+  Records<HeldMatch> bouts_;
+  Records<MatchTally> tallies_;
+  Records<TitleReign> reigns_;
+  Records<ReportPart> reports_;
+  Records<YearAward> awards_;
+  Records<YearEnd> yearEnds_;
   TextFile notes_{"notes.dat"};
   mutable UidIndex workerIndex_, promotionIndex_, staffIndex_, networkIndex_, sponsorIndex_;
   std::unique_ptr<Draws> chance_, prose_;

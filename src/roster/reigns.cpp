@@ -4,6 +4,7 @@
 
 #include "records/dates.h"
 #include "records/modWresCheck.h"
+#include "storylines/lineages.h"
 
 namespace grapplemont {
 
@@ -37,11 +38,21 @@ std::string With(const Title& title, const Reign& reign) {
   return title.Singles ? "" : " as " + reign.Holder.Str();
 }
 
-std::string Days(const Reign& reign) {
-  const Day won = reign.Won, lost = reign.Lost;
+std::string Days(Day won, Day lost) {
   const bool knowsWon = won > kNoTitleDate, knowsLost = lost > kNoTitleDate;
   if (!knowsLost) return knowsWon ? ", since " + PlainDate(won) : ", to this day";
   return knowsWon ? ", " + PlainDate(won) + " to " + PlainDate(lost) : ", until " + PlainDate(lost);
+}
+
+std::string Told(const World& world, const TitleReign& reign) {
+  std::string text = reign.Title + (reign.Partner == 0 ? "" : " as " + reign.Holder.Str()) +
+                     Days(reign.From, reign.Until);
+  const int days = DaysOf(reign, world.Today());
+  if (days >= 0) text += " (" + std::to_string(days) + (days == 1 ? " day" : " days");
+  if (reign.Defences > 0)
+    text += (days >= 0 ? ", " : " (") + std::to_string(reign.Defences) +
+            (reign.Defences == 1 ? " defence" : " defences");
+  return text + (days >= 0 || reign.Defences > 0 ? ")" : "");
 }
 
 }  // namespace
@@ -56,10 +67,13 @@ std::vector<const Title*> TitlesHeldBy(const World& world, int workerUid) {
 
 std::vector<std::string> ReignsOf(const World& world, const Worker& worker) {
   std::vector<std::string> reigns;
+  for (const TitleReign* reign : ReignsOfWorker(world, worker.Uid))
+    reigns.push_back(Told(world, *reign));
+  if (world.Reigns().Count() > 0) return reigns;
   for (const Title& title : world.Titles())
     for (const Reign& reign : title.Reigns)
       if (IsHis(world, title, reign, worker))
-        reigns.push_back(title.Name + With(title, reign) + Days(reign));
+        reigns.push_back(title.Name + With(title, reign) + Days(reign.Won, reign.Lost));
   return reigns;
 }
 

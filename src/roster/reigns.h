@@ -9,8 +9,9 @@ namespace grapplemont {
 
 /// The Titles that he holds, alone or with a partner.
 std::vector<const Title*> TitlesHeldBy(const World& world, int workerUid);
-/// What the Titles remember of him, a line a reign: "CWA Crown, since 03 March 2026". Histories go
-/// by names, so a reign under a former name is not his.
+/// All his reigns, the latest first: "CWA Crown, 03 March 2026 to 12 March 2026 (9 days)". Of a
+/// game whose past was not kept yet, what the Titles' own records remember: "CWA Crown, since 03
+/// March 2026"; those go by names, so a reign under a former name is not his.
 std::vector<std::string> ReignsOf(const World& world, const Worker& worker);
 
 }  // namespace grapplemont

@@ -8,6 +8,7 @@
 #include "roster/postings.h"
 #include "roster/reigns.h"
 #include "roster/shortlist.h"
+#include "roster/workerrecord.h"
 #include "roster/workerties.h"
 #include "storylines/turns.h"
 
@@ -129,6 +130,13 @@ FactGroup Titles(const World& world, const Worker& worker) {
   return group;
 }
 
+/// How many of his matches the page tells.
+constexpr int kMatchesTold = 6;
+
+FactGroup Awards(const World& world, const Worker& worker) {
+  return {"Awards", AwardLines(world, worker)};
+}
+
 /// Whoever teaches him; nullptr for nobody.
 const Staff* TeacherOf(const World& world, const Worker& worker) {
   if (!WorksForPlayer(world, worker)) return nullptr;
@@ -176,6 +184,9 @@ std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker) {
                                   Character(worker),
                                   BesideTheRing(world, worker),
                                   Titles(world, worker),
+                                  Awards(world, worker),
+                                  {"Matches", RecordLines(world, worker)},
+                                  {"Last matches", LastMatchLines(world, worker, kMatchesTold)},
                                   {"Company", CompanyOf(world, worker)},
                                   {"Feuds", FeudsOf(world, worker)}};
   std::erase_if(facts, [](const FactGroup& group) { return group.Lines.empty(); });

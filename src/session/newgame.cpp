@@ -4,6 +4,7 @@
 #include <array>
 
 #include "business/monthlymoney.h"
+#include "calendar/awards.h"
 #include "calendar/events.h"
 #include "records/arithmetic.h"
 #include "records/dates.h"
@@ -11,6 +12,7 @@
 #include "records/modWresCheck.h"
 #include "rivals/challenge.h"
 #include "roster/invented.h"
+#include "storylines/lineages.h"
 
 namespace grapplemont {
 
@@ -69,6 +71,12 @@ void EmptyFiles(World& world, const NewGameChoice& choice) {
   world.Segments().Remove();
   world.ShowRuns().Remove();
   world.History().Remove();
+  world.Bouts().Remove();
+  world.Tallies().Remove();
+  world.Reigns().Remove();
+  world.Reports().Remove();
+  world.Awards().Remove();
+  world.YearEnds().Remove();
   world.Incidents().Remove();
   world.Feuds().Rewrite(std::vector<Feud>(kFeuds));
   NewGameInfo(world, choice);
@@ -206,6 +214,12 @@ void StartTitles(World& world) {
   }
 }
 
+/// The game's first year is compared with this day, and its Titles' reigns begin here.
+void BeginPast(World& world) {
+  UpdateReigns(world);
+  NoteYearEnd(world);
+}
+
 void WelcomeMail(World& world) {
   const Staff* owner = OwnerOf(world, world.PlayerUid());
   if (!owner) return;
@@ -232,7 +246,7 @@ constexpr Preparation kPreparations[] = {
     {"Promotions", StartPromotions}, {"Challenge", MaybeChallenge}, {"Workers", StartWorkers},
     {"New workers", FillWorkers},    {"Staff", StartStaff},         {"New staff", FillStaff},
     {"Sponsors", StartSponsors},     {"Television", StartShows},    {"Titles", StartTitles},
-    {"Welcome", WelcomeMail},
+    {"The past", BeginPast},         {"Welcome", WelcomeMail},
 };
 
 }  // namespace

@@ -5,7 +5,9 @@
 #include "records/dates.h"
 #include "records/modWresCheck.h"
 #include "show/aftershow.h"
+#include "show/boutbook.h"
 #include "show/charges.h"
+#include "show/reportcolumn.h"
 
 namespace grapplemont {
 
@@ -111,8 +113,12 @@ int NextSegment(const World& world) {
 
 ToldSegment RunNextSegment(World& world, LineMemory* memory) {
   const int number = NextSegment(world);
+  const bool first = Run(world).Current == 0;
+  const AtTheBell bell = LookAtTheBell(world, world.Segments()[number]);
   ToldSegment told = RunSegment(world, number, memory);
   Run(world).Current = number;
+  KeepBout(world, number, bell);
+  if (memory) KeepReport(world, number, told, first);
   return told;
 }
 

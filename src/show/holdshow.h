@@ -44,7 +44,8 @@ bool ShowIsClosed(const World& world);
 bool IsPassedOver(const World& world, const Segment& segment);
 /// The record of match.dat that comes next; 0 when the show is over.
 int NextSegment(const World& world);
-/// Runs it. Requires one. `memory` as in RunSegment.
+/// Runs it and keeps what it came to, and its words where it was told. Requires one. `memory` as in
+/// RunSegment.
 ToldSegment RunNextSegment(World& world, LineMemory* memory);
 
 /// Closes the show to its rating, with what it does to feuds, workers and Titles, and gives the

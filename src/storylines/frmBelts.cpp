@@ -1,5 +1,6 @@
 #include "records/modWresCheck.h"
 #include "records/severing.h"
+#include "storylines/lineages.h"
 #include "storylines/screenpeople.h"
 #include "storylines/screentitles.h"
 #include "storylines/storynames.h"
@@ -38,7 +39,7 @@ class frmBelts : public ui::Screen {
     page.Cancel = &cmdback;
     page.Body = ui::Columns(
         {ui::Rows({ui::Group("", {cmbwhose, ui::Grow(lsttitles)}).Grow(3),
-                   ui::Group("Who has held it", {ui::Grow(lsthistory)}).Grow(2)})
+                   ui::Group("Who has held it", {ui::Grow(lsthistory), cmdreigns}).Grow(2)})
              .Grow(5),
          ui::Rows(
              {ui::Group("Name and kind", {txtname, cmdrename,
@@ -75,6 +76,7 @@ class frmBelts : public ui::Screen {
   }
 
   void ShowTitles() {
+    UpdateReigns(world());  // on the very day of the change
     std::vector<ui::ListBox::Row> rows;
     int vacant = 0;
     const bool all = cmbwhose.Key() == kEverybodys;
@@ -144,6 +146,12 @@ class frmBelts : public ui::Screen {
     ShowTitle();
   }
 
+  void cmdreigns_Click() {
+    const grapplemont::Title* title = Chosen();
+    desk().Open(MakefrmReigns(game_, title ? title->Name.View() : std::string_view(),
+                              title ? int(title->Owner) : 0));
+  }
+
   void cmdcreate_Click() {
     const TitleTerms terms{txtname.Text.Get(), cmbkind.Key() == kForOne, chkwoman.Checked,
                            chklight.Checked};
@@ -208,6 +216,7 @@ class frmBelts : public ui::Screen {
   ui::ComboBox cmbwhose{*this, "cmbwhose", &frmBelts::cmbwhose_Click};
   ui::ListBox lsttitles{*this, "lsttitles", TitleColumns(), &frmBelts::lsttitles_Click};
   ui::ListBox lsthistory{*this, "lsthistory", ReignColumns()};
+  ui::Button cmdreigns{*this, "cmdreigns", "All Reigns", &frmBelts::cmdreigns_Click};
   ui::TextBox txtname{*this, "txtname", {}, decltype(grapplemont::Title::Name)::kWidth};
   ui::Button cmdrename{*this, "cmdrename", "Rename", &frmBelts::cmdrename_Click};
   ui::ComboBox cmbkind{*this, "cmbkind"};

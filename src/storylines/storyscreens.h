@@ -15,6 +15,8 @@ std::unique_ptr<ui::Screen> MakefrmFeudStat(Game& game, int slot);
 std::unique_ptr<ui::Screen> MakefrmTagTeams(Game& game);
 std::unique_ptr<ui::Screen> MakefrmStables(Game& game);
 std::unique_ptr<ui::Screen> MakefrmBelts(Game& game);
+/// Every reign of a Title; the first in the list where none is named.
+std::unique_ptr<ui::Screen> MakefrmReigns(Game& game, std::string_view title = {}, int owner = 0);
 std::unique_ptr<ui::Screen> MakefrmManagers(Game& game);
 std::unique_ptr<ui::Screen> MakefrmTurn(Game& game);
 

@@ -23,8 +23,16 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
   `wrestler.dat`.
 - `s1` to `s8` are the save slots. Each is a complete running world: the ten files, and those that only a game has:
   `gameinfo.dat` (a slot is in use exactly when it has one), `news.dat`, `notes.dat`, `feudinfo.dat`, `match.dat` while
-  a show is booked, `showrun.dat` while one is under way, `incident.tmp` when something happened backstage, and
-  `history.dat`, which keeps every show of the player's and how each promotion stood at every month end.
+  a show is booked, `showrun.dat` while one is under way, `incident.tmp` when something happened backstage, and the past:
+  `history.dat` (every show of the player's, and how each promotion stood at every month end), `bouts.dat` (the player's
+  matches), `tallies.dat` (what each worker's matches add up to), `reigns.dat` (the reigns of every Title in the world),
+  `reports.dat` (the words of the last twelve shows), `awards.dat` (the awards of the years) and `yearend.dat` (how
+  popular everybody was when the last year ended).
+
+None of the past is needed to play: where one of its files is missing or cut short, the game goes on without what stood
+in it. A full file makes room by dropping its oldest records: a thousand of the history and of the reigns that have
+ended, five hundred matches (what they add up to stays in the tallies), a year of awards. The words of a show take the
+places of the oldest one's.
 
 ## The journal
 

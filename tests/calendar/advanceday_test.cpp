@@ -38,7 +38,7 @@ const std::vector<std::string> kFirstNames = {"PoorFormMorale",        "Discover
                                               "CloseMonthBooks",       "BankruptcyCheck",
                                               "NewPromotionCheck"};
 const std::vector<std::string> kClosingNames = {"IncidentRoll", "SweepDeadPromotions",
-                                                "SweepDeadShows"};
+                                                "SweepDeadShows", "UpdateReigns", "GiveAwards"};
 
 std::vector<std::string> Joined(std::initializer_list<std::vector<std::string>> blocks) {
   std::vector<std::string> all;

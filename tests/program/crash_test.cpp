@@ -272,6 +272,7 @@ void ExpectTheRestOfTheShow(CutDisk& disk) {
   const ShowRun& show = run.Play.World().ShowRuns()[1];
   EXPECT_EQ(show.Current, kMatchesOfShow);
   EXPECT_EQ(show.ShowSegments, kMatchesOfShow + 1) << "the last one counts twice";
+  EXPECT_EQ(run.Play.World().Bouts().Count(), kMatchesOfShow) << "each is written down once";
   for (const Worker& worker : run.Play.World().Workers()) {
     EXPECT_GE(worker.Condition, 95) << worker.Name.View() << " fought once";
     EXPECT_LE(worker.Condition, 96);

@@ -28,6 +28,8 @@ class ShowPlay : public GameOnWorld {
   void Start(bool isEvent, const CommentaryTeam& team);
   /// The screen shows what the other world's next Segment comes to, and why.
   void ExpectNextSegment();
+  /// But for the words: the other world is told nothing.
+  void ExpectSameAsOther();
   /// Ends the program without warning and opens it again.
   void Kill();
 

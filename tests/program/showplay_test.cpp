@@ -42,7 +42,7 @@ struct OnSunday : ShowPlay {
     Desk.Click("cmdnext");
     CloseShow(Other);
     EXPECT_EQ(Desk.TopName(), "frmPostShow");
-    ExpectSame(World(), Other);
+    ExpectSameAsOther();
   }
   void GoOnToMonday() {
     Desk.Click("cmdback");
@@ -50,7 +50,7 @@ struct OnSunday : ShowPlay {
     AdvanceDay(Other, false);
     EXPECT_EQ(Desk.TopName(), "frmMainScreen");
     EXPECT_EQ(Desk.Text("txtdate"), "Monday, 02 March 2026");
-    ExpectSame(World(), Other);
+    ExpectSameAsOther();
     EXPECT_FALSE(World().ShowRuns().Exists());
   }
 };
@@ -101,7 +101,7 @@ TEST(AShowThatIsKilled, GoesOnWithTheSegmentThatWasToCome) {
       play.ExpectNextSegment();
     }
     play.Kill();
-    ExpectSame(play.World(), play.Other);
+    play.ExpectSameAsOther();
     ASSERT_EQ(play.Desk.TopName(), "frmMatchOutput");
     EXPECT_EQ(play.Desk.Text("lbltitle"), "Event Report For Sunday Slam");
     EXPECT_EQ(play.Desk.Text("lblinfo"), "The show goes on");
@@ -131,7 +131,7 @@ TEST(AShowThatIsKilled, OpensAgainOnItsRecap) {
   const auto recap = play.Desk.Rows("lstrecap"), sum = play.Desk.Rows("lstsum");
   play.Kill();
   ASSERT_EQ(play.Desk.TopName(), "frmPostShow");
-  ExpectSame(play.World(), play.Other);
+  play.ExpectSameAsOther();
   EXPECT_EQ(play.Desk.Rows("lstrecap"), recap);
   EXPECT_EQ(play.Desk.Rows("lstsum"), sum);
   play.GoOnToMonday();
@@ -173,7 +173,7 @@ TEST(AnEventPlayed, PaysForItsExtraAndTakesItsBonus) {
   play.Desk.Click("cmdnext");
   CloseShow(play.Other);
   ASSERT_EQ(play.Desk.TopName(), "frmPostShow");
-  ExpectSame(play.World(), play.Other);
+  play.ExpectSameAsOther();
   EXPECT_EQ(play.Desk.Title(), "Recap Sheet For Marchmania");
 
   // What the sum is made of, line by line; the last line divides it.
@@ -196,7 +196,7 @@ TEST(AnEventPlayed, PaysForItsExtraAndTakesItsBonus) {
   LeaveShow(play.Other);
   AdvanceDay(play.Other, false);
   EXPECT_EQ(play.Desk.Text("txtdate"), "Monday, 30 March 2026");
-  ExpectSame(play.World(), play.Other);
+  play.ExpectSameAsOther();
   const int people = NumberInMail(play.World(), "Show report", "Marchmania was attended by ");
   EXPECT_GT(people, 0);
   EXPECT_EQ(play.World().Player().Money,

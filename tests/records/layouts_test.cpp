@@ -528,12 +528,14 @@ TEST(Layouts, FilesHaveTheirNamesAndLimits) {
     const char* File;
     int Size;
     int Limit;
-  } rows[] = {{"belt.dat", 241, 5000},      {"event.dat", 26, 10000},  {"network.dat", 42, 1000},
-              {"promos.dat", 309, 35},      {"sponsor.dat", 72, 1000}, {"stables.dat", 27, 10000},
-              {"staff.dat", 58, 10000},     {"teams.dat", 56, 10000},  {"tv.dat", 50, 1000},
-              {"wrestler.dat", 237, 25000}, {"gameinfo.dat", 440, 1},  {"news.dat", 290, 20000},
-              {"notes.dat", 0, 0},          {"feudinfo.dat", 36, 8},   {"match.dat", 143, 11},
-              {"incident.tmp", 4, 10},      {"showrun.dat", 50, 1},    {"history.dat", 78, 30000}};
+  } rows[] = {{"belt.dat", 241, 5000},      {"event.dat", 26, 10000},   {"network.dat", 42, 1000},
+              {"promos.dat", 309, 35},      {"sponsor.dat", 72, 1000},  {"stables.dat", 27, 10000},
+              {"staff.dat", 58, 10000},     {"teams.dat", 56, 10000},   {"tv.dat", 50, 1000},
+              {"wrestler.dat", 237, 25000}, {"gameinfo.dat", 440, 1},   {"news.dat", 290, 20000},
+              {"notes.dat", 0, 0},          {"feudinfo.dat", 36, 8},    {"match.dat", 143, 11},
+              {"incident.tmp", 4, 10},      {"showrun.dat", 50, 1},     {"history.dat", 78, 30000},
+              {"bouts.dat", 220, 5000},     {"tallies.dat", 49, 10000}, {"reigns.dat", 77, 12000},
+              {"reports.dat", 220, 8000},   {"awards.dat", 176, 2000},  {"yearend.dat", 4, 25000}};
   const World world;
   const auto tables = world.Tables();
   ASSERT_EQ(std::size(rows), tables.size());

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "records/dates.h"
+#include "records/modWresCheck.h"
 #include "support/smallworld.h"
 
 // What a worker's page says.
@@ -207,6 +208,77 @@ TEST(Potential, IsToldByWhoTeachesThePlayersPeople) {
   EXPECT_EQ(PotentialWords(world, Named(world.Workers(), "Rival Ray")), "");
   world.Player().HeadTrainer = 0;
   EXPECT_EQ(PotentialWords(world, bram), "") << "nobody is there to tell";
+}
+
+TEST(WorkerFacts, TellOfMatchesReignsAndAwardsOfThePast) {
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Worker(kBram)
+                    .Worker("Cal Drift")
+                    .Title("CWA Crown")
+                    .Game("CWA");
+  const int bram = Named(world.Workers(), kBram).Uid, cal = Named(world.Workers(), "Cal Drift").Uid;
+  const auto fight = [&](int day, int winners, int first, int second, const char* title) {
+    HeldMatch match;
+    match.On = kGameStart + std::chrono::days{day};
+    match.Rating = 70 + day;
+    match.Winners = winners;
+    match.Title = title;
+    match.Worker[0] = first;
+    match.Worker[1] = second;
+    match.Won = WorkerName(world, first);
+    match.Lost = WorkerName(world, second);
+    world.Bouts().Append(match);
+  };
+  fight(0, 1, bram, cal, "CWA Crown");
+  fight(1, 0, bram, cal, "None");
+  fight(2, 0, cal, bram, "None");
+  fight(3, 1, cal, bram, "None");
+  MatchTally tally;
+  tally.Promotion = world.PlayerUid();
+  tally.Worker = bram;
+  tally.Won = 12;
+  tally.Lost = 5;
+  tally.Drawn = 3;
+  tally.ForTitles = 2;
+  tally.Ratings = 1239;
+  world.Tallies().Append(tally);
+  tally.Promotion = 77;
+  tally.ForTitles = 0;
+  world.Tallies().Append(tally);
+  TitleReign reign;
+  reign.Title = "CWA Crown";
+  reign.Worker = bram;
+  reign.Holder = kBram;
+  reign.From = kGameStart - std::chrono::days{10};
+  reign.Until = kGameStart - std::chrono::days{1};
+  reign.Defences = 1;
+  reign.End = kReignLost;
+  world.Reigns().Append(reign);
+  reign.Partner = cal;
+  reign.Holder = "The Docks";
+  reign.From = reign.Until = kNoTitleDate;
+  reign.Defences = kNoEnd;
+  reign.End = kReignLasts;
+  world.Reigns().Append(reign);
+  YearAward award;
+  award.On = kGameStart;
+  award.Kind = kTeamOfTheYear;
+  award.Partner = bram;
+  world.Awards().Append(award);
+
+  EXPECT_EQ(Told(world, kBram, "Matches"),
+            Lines({"CWA: 12 won, 5 lost, 3 drawn, 2 for a Title. Rated 61% on average.",
+                   "Elsewhere: 12 won, 5 lost, 3 drawn. Rated 61% on average."}));
+  EXPECT_EQ(Told(world, kBram, "Last matches"),
+            Lines({"04/03/26: lost to Cal Drift, 73%.", "03/03/26: drew with Cal Drift, 72%.",
+                   "02/03/26: drew with Cal Drift, 71%.",
+                   "01/03/26: beat Cal Drift for the CWA Crown, 70%."}));
+  EXPECT_EQ(Told(world, kBram, "Titles"),
+            Lines({"CWA Crown as The Docks, to this day.",
+                   "CWA Crown, 19 February 2026 to 28 February 2026 (9 days, 1 defence)."}));
+  EXPECT_EQ(Told(world, kBram, "Awards"), Lines({"Tag Team of the Year 2026."}));
+  EXPECT_EQ(Told(world, "Cal Drift", "Matches"), Lines());
 }
 
 }  // namespace

@@ -11,11 +11,14 @@
 #include "booking/sheet.h"
 #include "calendar/daykind.h"
 #include "calendar/events.h"
+#include "info/results.h"
 #include "records/charset.h"
 #include "records/checkworld.h"
 #include "records/dates.h"
 #include "session/newgame.h"
 #include "show/holdshow.h"
+#include "show/reportcolumn.h"
+#include "storylines/lineages.h"
 #include "support/defaultworld.h"
 #include "support/gameonworld.h"
 
@@ -308,6 +311,53 @@ TEST(Careers, AccountForEveryDollarOfAYear) {
         EXPECT_GT(ledger.CalledOff(), 0);
       }
     }
+}
+
+/// Every Title's last reign is the one that its record tells, and no other lasts.
+void ExpectReignsOfToday(const World& world) {
+  int lasting = 0, titles = 0;
+  for (const TitleReign& reign : world.Reigns()) lasting += reign.End == kReignLasts;
+  for (const Title& title : world.Titles()) {
+    if (title.Owner <= 0) continue;
+    ++titles;
+    const auto reigns = ReignsOf(world, {title.Name.Str(), title.Owner, "", true});
+    ASSERT_FALSE(reigns.empty()) << title.Name.View();
+    EXPECT_EQ(reigns[0]->Worker, title.Holder) << title.Name.View();
+    EXPECT_EQ(reigns[0]->Partner, title.Partner) << title.Name.View();
+    EXPECT_EQ(Day(reigns[0]->From), Day(title.Reigns[0].Won)) << title.Name.View();
+  }
+  EXPECT_EQ(lasting, titles);
+}
+
+TEST(Careers, KeepWhatTheyHaveBeenForTwoYears) {
+  World world = Begun(5, 9);
+  for (int day = 0; day < 730; ++day) {
+    tools::PlayDay(world, Shows::Auto);
+    if (!IsFirstOfMonth(world.Today())) continue;
+    ExpectSound(world);
+    ExpectReignsOfToday(world);
+  }
+  std::set<Day> held, fought;
+  for (const HistoryEntry* show : PastCards(world)) {
+    EXPECT_TRUE(held.insert(Day(show->On)).second) << "one row a show";
+    EXPECT_EQ(MatchesOf(world, *show).empty(), bool(show->CalledOff)) << IsoDate(show->On);
+  }
+  int parts = 0, counted = 0;
+  for (const HeldMatch& match : world.Bouts()) {
+    fought.insert(Day(match.On));
+    for (const Word& uid : match.Worker) parts += uid != 0;
+  }
+  for (const MatchTally& tally : world.Tallies())
+    if (tally.Worker != 0) counted += tally.Won + tally.Lost + tally.Drawn;
+  EXPECT_EQ(parts, counted) << "everybody in a match has it in his record";
+  EXPECT_TRUE(std::includes(held.begin(), held.end(), fought.begin(), fought.end()));
+  const auto kept = ShowsInTheColumn(world);
+  ASSERT_EQ(static_cast<int>(kept.size()), kKeptShows);
+  for (const KeptShow& show : kept) EXPECT_TRUE(fought.contains(show.On)) << show.Name;
+  EXPECT_EQ(YearsOfAwards(world), (std::vector<int>{2027, 2026}));
+  for (const int kind :
+       {kWrestlerOfTheYear, kWomanOfTheYear, kMatchOfTheYear, kShowOfTheYear, kMostImproved})
+    EXPECT_EQ(AwardsOf(world, 2027, kind).size(), 1u) << AwardName(kind);
 }
 
 }  // namespace

@@ -1,0 +1,420 @@
+#include "calendar/awards.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <optional>
+#include <tuple>
+
+#include "business/monthlymoney.h"
+#include "business/past.h"
+#include "business/standing.h"
+#include "calendar/daysteps.h"
+#include "records/dates.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "storylines/lineages.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr const char* kJury = "Year's Awards";
+/// What a year's rise in Over and a year with a Title of full renown may add to a worker's own
+/// Over.
+constexpr int kMostGain = 20, kMostRenown = 20;
+constexpr int kFewestFeudMatches = 3;
+constexpr int kLeastImprovement = 5;
+
+/// The twelve months that the awards look back on.
+class Year {
+ public:
+  explicit Year(const World& world) : world_(world), until_(world.Today()) {
+    using namespace std::chrono;
+    from_ = year{YearOf(until_) - 1} / 12 / 31;
+    for (const YearEnd& row : world.YearEnds()) before_[row.Worker] = row.Over;
+    for (const TitleReign& reign : world.Reigns()) CountReign(reign);
+  }
+
+  const World& Of() const { return world_; }
+  bool Has(Day day) const { return from_ <= day && day < until_; }
+  bool Has(const HistoryEntry& entry) const { return Has(Day(entry.On)); }
+
+  bool KnowsLastYear() const { return !before_.empty(); }
+  bool WasThere(int uid) const { return before_.contains(uid); }
+  /// What Over has risen by since the last year ended; 0 for who was not there.
+  int GainOf(const Worker& worker) const {
+    const auto before = before_.find(worker.Uid);
+    return before == before_.end() ? 0 : worker.Over - before->second;
+  }
+  /// How many of its days a reign lasted.
+  int DaysOf(const TitleReign& reign) const {
+    const Day end = reign.End == kReignLasts ? until_ : std::min(Day(reign.Until), until_);
+    const Day begin = std::max(Day(reign.From), from_);
+    return end <= begin ? 0 : static_cast<int>((end - begin).count());
+  }
+  int DaysAsChampion(int uid) const {
+    const auto found = champions_.find(uid);
+    return found == champions_.end() ? 0 : found->second.Days;
+  }
+  /// What the days with Titles are worth by their images.
+  int RenownOf(int uid) const {
+    const auto found = champions_.find(uid);
+    return found == champions_.end() ? 0 : std::min(kMostRenown, found->second.Renown / 1825);
+  }
+
+ private:
+  struct Champion {
+    int Days = 0;
+    int Renown = 0;
+  };
+
+  int ImageOf(const TitleReign& reign) const {
+    for (const Title& title : world_.Titles())
+      if (title.Owner == reign.Owner && title.Name == reign.Title.View()) return title.Image;
+    return 0;
+  }
+
+  void CountReign(const TitleReign& reign) {
+    const int days = DaysOf(reign);
+    if (days == 0 || IsVacancy(reign)) return;
+    for (const int uid : {int(reign.Worker), int(reign.Partner)}) {
+      if (uid == 0) continue;
+      champions_[uid].Days += days;
+      champions_[uid].Renown += days * ImageOf(reign);
+    }
+  }
+
+  const World& world_;
+  Day from_, until_;
+  std::map<int, int> before_;  // Over by uid
+  std::map<int, Champion> champions_;
+};
+
+YearAward NewAward(const Year& year, AwardKind kind) {
+  YearAward award;
+  award.On = year.Of().Today();
+  award.Kind = kind;
+  return award;
+}
+
+YearAward ForWorker(const Year& year, AwardKind kind, const Worker& worker, std::string_view why) {
+  YearAward award = NewAward(year, kind);
+  award.Worker = worker.Uid;
+  award.Promotion = worker.Employer;
+  award.Winner = worker.Name;
+  award.For = why;
+  return award;
+}
+
+bool IsActive(const Worker& worker) {
+  return worker.Employer != 0 && IsOnRoster(worker);
+}
+
+/// The worker of the highest merit, of those alike the first of the file. A merit of 0 is none.
+template <class Merit>
+const Worker* BestWorker(const Year& year, Merit merit) {
+  const Worker* best = nullptr;
+  decltype(merit(*best)) most{};
+  for (const Worker& worker : year.Of().Workers()) {
+    if (!IsActive(worker)) continue;
+    const auto his = merit(worker);
+    if (his <= most) continue;
+    best = &worker;
+    most = his;
+  }
+  return best;
+}
+
+/// What a year was worth: merit first, then Over, then days with a Title.
+using Merit = std::tuple<int, int, int>;
+
+Merit YearOfWorker(const Year& year, const Worker& worker) {
+  const int gain = std::clamp(year.GainOf(worker), 0, kMostGain);
+  return {worker.Over + gain + year.RenownOf(worker.Uid), worker.Over,
+          year.DaysAsChampion(worker.Uid)};
+}
+
+std::string Days(int days) {
+  return std::to_string(days) + (days == 1 ? " day" : " days");
+}
+
+std::string WhyWorker(const Year& year, const Worker& worker) {
+  std::string why = "Over " + std::to_string(worker.Over);
+  if (const int gain = year.GainOf(worker); gain > 0)
+    why += ", " + std::to_string(gain) + " more than a year ago";
+  if (const int days = year.DaysAsChampion(worker.Uid); days > 0)
+    why += ", " + Days(days) + " with a Title";
+  return why;
+}
+
+std::optional<YearAward> BestOfSex(const Year& year, AwardKind kind, bool man) {
+  const Worker* best = BestWorker(year, [&](const Worker& worker) {
+    return worker.Gender == man ? YearOfWorker(year, worker) : Merit{};
+  });
+  if (!best) return std::nullopt;
+  return ForWorker(year, kind, *best, WhyWorker(year, *best));
+}
+
+std::optional<YearAward> BestMan(const Year& year) {
+  return BestOfSex(year, kWrestlerOfTheYear, true);
+}
+std::optional<YearAward> BestWoman(const Year& year) {
+  return BestOfSex(year, kWomanOfTheYear, false);
+}
+
+/// Days of the year in which the two held a Title together.
+int DaysTogether(const Year& year, const Team& team) {
+  const auto pair = [](int one, int two) {
+    return std::pair(std::min(one, two), std::max(one, two));
+  };
+  int days = 0;
+  for (const TitleReign& reign : year.Of().Reigns())
+    if (reign.Partner != 0 && pair(reign.Worker, reign.Partner) == pair(team.Worker1, team.Worker2))
+      days += year.DaysOf(reign);
+  return days;
+}
+
+std::optional<YearAward> BestTeam(const Year& year) {
+  const Team* best = nullptr;
+  Merit most{};
+  for (const Team& team : year.Of().Teams()) {
+    const Worker* one = year.Of().FindWorker(team.Worker1);
+    const Worker* two = year.Of().FindWorker(team.Worker2);
+    if (!one || !two || !IsActive(*one) || !IsActive(*two) || one->Employer != two->Employer)
+      continue;
+    const int days = DaysTogether(year, team);
+    const int over = (one->Over + two->Over) / 2;
+    const Merit merit{over + team.Experience / 5 + days * kMostRenown / 365, over, days};
+    if (merit <= most) continue;
+    best = &team;
+    most = merit;
+  }
+  if (!best) return std::nullopt;
+  const Worker* one = year.Of().FindWorker(best->Worker1);
+  YearAward award = ForWorker(year, kTeamOfTheYear, *one, "");
+  award.Partner = best->Worker2;
+  award.Winner = PairName(year.Of(), best->Worker1, best->Worker2);
+  award.For = "Over " + std::to_string(std::get<1>(most)) + " between them, experience " +
+              std::to_string(best->Experience) +
+              (std::get<2>(most) > 0 ? ", " + Days(std::get<2>(most)) + " as champions" : "");
+  return award;
+}
+
+std::string ResultOf(const HeldMatch& bout) {
+  return bout.Won + (bout.Winners > 0 ? " beat " : " drew with ") + bout.Lost.Str();
+}
+
+std::string WhereAndWhen(const Year& year, const HeldMatch& bout) {
+  for (const HistoryEntry& entry : year.Of().History())
+    if (entry.Promotion == bout.Promotion && Day(entry.On) == Day(bout.On) &&
+        (entry.Kind == kPastTv || entry.Kind == kPastEvent))
+      return " at " + entry.Name.Str() + ", " + PlainDate(bout.On);
+  return " on " + PlainDate(bout.On);
+}
+
+/// The first of the best by rating, Events before television, Titles before none.
+std::optional<YearAward> BestMatch(const Year& year) {
+  const HeldMatch* best = nullptr;
+  Merit most{};
+  for (const HeldMatch& bout : year.Of().Bouts()) {
+    const Merit merit{bout.Rating, bout.IsEvent, !(bout.Title == "None")};
+    if (!year.Has(Day(bout.On)) || merit <= most) continue;
+    best = &bout;
+    most = merit;
+  }
+  if (!best) return std::nullopt;
+  YearAward award = NewAward(year, kMatchOfTheYear);
+  award.Worker = best->Winners == 1 ? int(best->Worker[0]) : 0;
+  award.Promotion = best->Promotion;
+  award.Winner = ResultOf(*best);
+  award.For = "Rated " + std::to_string(best->Rating) + "%" + WhereAndWhen(year, *best);
+  return award;
+}
+
+/// The first of the best by rating, then by the crowd.
+std::optional<YearAward> BestShow(const Year& year) {
+  const HistoryEntry* best = nullptr;
+  std::pair<int, int> most{};
+  for (const HistoryEntry& entry : year.Of().History()) {
+    const bool isShow = entry.Kind == kPastTv || entry.Kind == kPastEvent;
+    const std::pair<int, int> merit{entry.Rating, entry.Attendance};
+    if (!isShow || entry.CalledOff || !year.Has(entry) || merit <= most) continue;
+    best = &entry;
+    most = merit;
+  }
+  if (!best) return std::nullopt;
+  YearAward award = NewAward(year, kShowOfTheYear);
+  award.Promotion = best->Promotion;
+  award.Winner = best->Name;
+  award.For = "Rated " + std::to_string(best->Rating) + "% on " + PlainDate(best->On) +
+              ", seen by " + std::to_string(best->Attendance) + " people";
+  return award;
+}
+
+/// A feud's matches of the year.
+struct FeudYear {
+  std::array<int, 4> Parties{};
+  std::vector<int> Ratings;  // the best first once they are added up
+  int Best = 0;              // the sum of the best three
+};
+
+std::vector<FeudYear> FeudsOf(const Year& year) {
+  std::vector<FeudYear> feuds;
+  for (const HeldMatch& bout : year.Of().Bouts()) {
+    if (!year.Has(Day(bout.On)) || bout.Feud[0] == 0 || bout.Feud[1] == 0) continue;
+    const std::array<int, 4> parties = {bout.Feud[0], bout.Feud[1], bout.Feud[2], bout.Feud[3]};
+    auto feud = std::find_if(feuds.begin(), feuds.end(),
+                             [&](const FeudYear& known) { return known.Parties == parties; });
+    if (feud == feuds.end()) feud = feuds.insert(feuds.end(), {parties, {}, 0});
+    feud->Ratings.push_back(bout.Rating);
+  }
+  for (FeudYear& feud : feuds) {
+    std::sort(feud.Ratings.rbegin(), feud.Ratings.rend());
+    for (std::size_t i = 0; i < feud.Ratings.size() && i < kFewestFeudMatches; ++i)
+      feud.Best += feud.Ratings[i];
+  }
+  return feuds;
+}
+
+std::string FeudName(const World& world, const std::array<int, 4>& parties) {
+  if (parties[2] == 0)
+    return WorkerName(world, parties[0]) + " vs " + WorkerName(world, parties[1]);
+  const auto pair = [&](int one, int two) {
+    const std::string team = TeamNameOf(world, one, two);
+    return team != "None" ? team
+                          : WorkerShortName(world, one) + " \\ " + WorkerShortName(world, two);
+  };
+  return pair(parties[0], parties[1]) + " vs " + pair(parties[2], parties[3]);
+}
+
+/// By the three best matches, then by how many there were; of those alike the first.
+std::optional<YearAward> BestFeud(const Year& year) {
+  const std::vector<FeudYear> feuds = FeudsOf(year);
+  const FeudYear* best = nullptr;
+  std::pair<int, std::size_t> most{};
+  for (const FeudYear& feud : feuds) {
+    const std::pair<int, std::size_t> merit{feud.Best, feud.Ratings.size()};
+    if (feud.Ratings.size() < kFewestFeudMatches || merit <= most) continue;
+    best = &feud;
+    most = merit;
+  }
+  if (!best) return std::nullopt;
+  YearAward award = NewAward(year, kFeudOfTheYear);
+  award.Worker = best->Parties[0];
+  award.Partner = best->Parties[1];
+  award.Promotion = year.Of().PlayerUid();
+  award.Winner = FeudName(year.Of(), best->Parties);
+  award.For = std::to_string(best->Ratings.size()) + " matches, the best rated " +
+              std::to_string(best->Ratings[0]) + "%";
+  return award;
+}
+
+/// What it has risen by since its first month end of the year.
+std::map<int, int> FirstScores(const Year& year) {
+  std::map<int, int> first;
+  for (const HistoryEntry& entry : year.Of().History())
+    if (entry.Kind == kPastMonth && year.Has(entry))
+      first.emplace(entry.Promotion, PastStanding{entry.On, entry.Size, entry.Image}.Score());
+  return first;
+}
+
+std::optional<YearAward> BestPromotion(const Year& year) {
+  const std::map<int, int> first = FirstScores(year);
+  const Promotion* best = nullptr;
+  std::pair<int, int> most{};
+  for (const Promotion& promotion : year.Of().Promotions()) {
+    const auto begin = first.find(promotion.Uid);
+    if (begin == first.end()) continue;
+    const int score = StandingScore(promotion);
+    const std::pair<int, int> merit{score - begin->second, score};
+    if (merit.first <= 0 || merit <= most) continue;
+    best = &promotion;
+    most = merit;
+  }
+  if (!best) return std::nullopt;
+  YearAward award = NewAward(year, kPromotionOfTheYear);
+  award.Promotion = best->Uid;
+  award.Winner = best->Name;
+  award.For = "Nobody has risen further: " + std::string(Says(kSizes, best->Size)) + ", image " +
+              std::to_string(best->Image) + "%";
+  return award;
+}
+
+std::optional<YearAward> MostImproved(const Year& year) {
+  const Worker* best = BestWorker(year, [&](const Worker& worker) {
+    const int gain = year.GainOf(worker);
+    return gain < kLeastImprovement ? std::pair<int, int>{}
+                                    : std::pair<int, int>{gain, worker.Over};
+  });
+  if (!best) return std::nullopt;
+  return ForWorker(year, kMostImproved, *best, WhyWorker(year, *best));
+}
+
+/// Somebody who was not in the business when the last year ended.
+std::optional<YearAward> BestRookie(const Year& year) {
+  if (!year.KnowsLastYear()) return std::nullopt;
+  const Worker* best = BestWorker(
+      year, [&](const Worker& worker) { return year.WasThere(worker.Uid) ? 0 : int(worker.Over); });
+  if (!best) return std::nullopt;
+  return ForWorker(year, kRookieOfTheYear, *best, WhyWorker(year, *best));
+}
+
+using Choose = std::optional<YearAward> (*)(const Year&);
+constexpr Choose kAwards[] = {BestMan,  BestWoman,     BestTeam,     BestMatch, BestShow,
+                              BestFeud, BestPromotion, MostImproved, BestRookie};
+
+/// As many awards to a mail as it has room for.
+void Tell(World& world, const std::vector<YearAward>& awards) {
+  constexpr std::size_t kRoom = decltype(Mail::Body)::kWidth;
+  std::string body;
+  for (const YearAward& award : awards) {
+    const std::string line = std::string(AwardName(award.Kind)) + ": " + award.Winner.Str() + ". " +
+                             award.For.Str() + ".";
+    if (!body.empty() && body.size() + 1 + line.size() > kRoom) {
+      AddNews(world, kJury, body);
+      body.clear();
+    }
+    body += (body.empty() ? "" : "\n") + line;
+  }
+  if (!body.empty()) AddNews(world, kJury, body);
+}
+
+void Keep(World& world, const YearAward& award) {
+  Records<YearAward>& awards = world.Awards();
+  if (awards.Full()) {
+    const Day oldest = awards[1].On;
+    awards.Keep([=](const YearAward& old) { return Day(old.On) != oldest; });
+  }
+  awards.Append(award);
+}
+
+}  // namespace
+
+std::vector<YearAward> AwardsOfTheYear(const World& world) {
+  const Year year(world);
+  std::vector<YearAward> awards;
+  for (const Choose choose : kAwards)
+    if (const std::optional<YearAward> award = choose(year)) awards.push_back(*award);
+  return awards;
+}
+
+void NoteYearEnd(World& world) {
+  std::vector<YearEnd> rows;
+  for (const Worker& worker : world.Workers()) {
+    YearEnd& row = rows.emplace_back();
+    row.Worker = worker.Uid;
+    row.Over = int(worker.Over);
+  }
+  world.YearEnds().Rewrite(std::move(rows));
+}
+
+void GiveAwards(World& world) {
+  if (MonthOf(world.Today()) != 12 || DayOfMonth(world.Today()) != 31) return;
+  const std::vector<YearAward> awards = AwardsOfTheYear(world);
+  for (const YearAward& award : awards) Keep(world, award);
+  Tell(world, awards);
+  NoteYearEnd(world);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,104 @@
+#include "info/results.h"
+
+#include <algorithm>
+#include <functional>
+#include <set>
+
+#include "records/dates.h"
+#include "records/segments.h"
+
+namespace grapplemont {
+
+namespace {
+
+bool IsShow(const HistoryEntry& entry) {
+  return entry.Kind == kPastTv || entry.Kind == kPastEvent;
+}
+
+std::string Count(long long number, const char* one, const char* many) {
+  return std::to_string(number) + " " + (number == 1 ? one : many);
+}
+
+template <class Records, class Test>
+std::vector<int> YearsIn(const Records& records, Test test) {
+  std::set<int, std::greater<>> years;
+  for (const auto& record : records)
+    if (test(record)) years.insert(YearOf(record.On));
+  return {years.begin(), years.end()};
+}
+
+}  // namespace
+
+std::vector<const HistoryEntry*> PastCards(const World& world, std::string_view name, int year) {
+  std::vector<const HistoryEntry*> shows;
+  for (int number = world.History().Count(); number >= 1; --number) {
+    const HistoryEntry& entry = world.History()[number];
+    if (IsShow(entry) && (name.empty() || entry.Name == name) &&
+        (year == 0 || YearOf(entry.On) == year))
+      shows.push_back(&entry);
+  }
+  return shows;
+}
+
+std::vector<std::string> NamesOfPastShows(const World& world) {
+  std::set<std::string> names;
+  for (const HistoryEntry& entry : world.History())
+    if (IsShow(entry) && !entry.Name.View().empty()) names.insert(entry.Name.Str());
+  return {names.begin(), names.end()};
+}
+
+std::vector<int> YearsOfPastShows(const World& world) {
+  return YearsIn(world.History(), IsShow);
+}
+
+std::vector<const HeldMatch*> MatchesOf(const World& world, const HistoryEntry& show) {
+  std::vector<const HeldMatch*> matches;
+  for (const HeldMatch& match : world.Bouts())
+    if (Day(match.On) == Day(show.On) && match.Promotion == show.Promotion)
+      matches.push_back(&match);
+  return matches;
+}
+
+std::string ResultText(const HeldMatch& match) {
+  return match.Won + (match.Winners > 0 ? " beat " : " drew with ") + match.Lost.Str();
+}
+
+std::string KindText(const HeldMatch& match) {
+  const std::string type(MatchTypeText(match.Style, match.MatchType));
+  std::string text = type;
+  if (const MatchStyleRow* style = FindMatchStyle(match.Style); style && match.Style != kSpecial)
+    text = std::string(style->Says) + (type.empty() ? "" : ", " + type);
+  return match.IsEvent && match.Row == 1 ? text + " (dark match)" : text;
+}
+
+std::string SumOf(const std::vector<const HistoryEntry*>& shows) {
+  long long held = 0, ratings = 0, people = 0, calledOff = 0;
+  for (const HistoryEntry* show : shows) {
+    (show->CalledOff ? calledOff : held) += 1;
+    if (!show->CalledOff) ratings += show->Rating;
+    people += show->Attendance;
+  }
+  std::string text =
+      Count(held, "show held, ", "shows held, ") + std::to_string(calledOff) + " called off.";
+  if (held > 0)
+    text += " Rated " + std::to_string(ratings / held) + "% on average, " +
+            Count(people, "person", "people") + " in all.";
+  return text;
+}
+
+std::vector<int> YearsOfAwards(const World& world) {
+  return YearsIn(world.Awards(), [](const YearAward&) { return true; });
+}
+
+std::vector<const YearAward*> AwardsOf(const World& world, int year, int kind) {
+  std::vector<const YearAward*> awards;
+  for (const YearAward& award : world.Awards())
+    if ((year == 0 || YearOf(award.On) == year) && (kind == 0 || award.Kind == kind))
+      awards.push_back(&award);
+  std::stable_sort(awards.begin(), awards.end(), [](const YearAward* a, const YearAward* b) {
+    return Day(a->On) != Day(b->On) ? Day(a->On) > Day(b->On) : a->Kind < b->Kind;
+  });
+  return awards;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,165 @@
+#include "records/chronicle.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr Term kEnds[] = {{kReignLasts, "", "Lasts"},
+                          {kReignLost, "", "Lost to somebody else"},
+                          {kReignVacated, "", "Vacated"},
+                          {kReignDissolved, "", "The Title was dissolved"}};
+
+constexpr Term kReportKinds[] = {{kNoReport, "", "Free"},
+                                 {kShowName, "", "Name of the show"},
+                                 {kWhoMet, "", "Names of a Segment"},
+                                 {kDetails, "", "Style, type and Title"},
+                                 {kProse, "", "Prose"},
+                                 {kVerdict, "", "Verdict"},
+                                 {kWinner, "", "Winner"},
+                                 {kFigures, "", "Percentages"}};
+
+constexpr Term kJoins[] = {{kBegins, "", "Begins"},
+                           {kAfterBlank, "", "After a blank"},
+                           {kAfterBreak, "", "In a new paragraph"},
+                           {kAtOnce, "", "In the midst of a word"}};
+
+constexpr Term kAwards[] = {
+    {kWrestlerOfTheYear, "", "Wrestler of the Year"},   {kWomanOfTheYear, "", "Woman of the Year"},
+    {kTeamOfTheYear, "", "Tag Team of the Year"},       {kMatchOfTheYear, "", "Match of the Year"},
+    {kShowOfTheYear, "", "Show of the Year"},           {kFeudOfTheYear, "", "Feud of the Year"},
+    {kPromotionOfTheYear, "", "Promotion of the Year"}, {kMostImproved, "", "Most Improved"},
+    {kRookieOfTheYear, "", "Rookie of the Year"}};
+
+#define FIELD(member) GM_FIELD(HeldMatch, member)
+constexpr Field kBoutFields[] = {
+    FIELD(On).Means("The day of the show."),
+    FIELD(Promotion).In(0, 32767).Means("Uid of the promotion, which may be gone."),
+    FIELD(Row).In(1, 11).Means("Row of the sheet; an Event's first is the dark match."),
+    FIELD(IsEvent).Means("At an Event; else on a television show."),
+    FIELD(Style).In(0, 100).Means("Style, as in match.dat."),
+    FIELD(MatchType).In(0, 100).Means("Type, as in match.dat."),
+    FIELD(Rating).Counts("percent").Means("Overall rating."),
+    FIELD(Winners).In(0, 30).Means("So many of the workers have won it; 0 is a draw."),
+    FIELD(Title).Means("Title at stake, or None."),
+    FIELD(Changed).Means("The Title went to somebody new."),
+    GM_NUMBERED(HeldMatch, Feud)
+        .In(0, 32767)
+        .LeadsTo(Refers::Worker)
+        .Means("Parties of the feud that it belonged to."),
+    GM_NUMBERED(HeldMatch, Worker)
+        .In(0, 32767)
+        .LeadsTo(Refers::Worker)
+        .Means("Who was in it, the winners first; 0 for who has left the world."),
+    FIELD(Won).Means("The winners as they were called; of a draw the first side."),
+    FIELD(Lost).Means("The others as they were called."),
+};
+#undef FIELD
+
+#define FIELD(member) GM_FIELD(MatchTally, member)
+constexpr Field kTallyFields[] = {
+    FIELD(Promotion).In(0, 32767).Means("Uid of the promotion, which may be gone."),
+    FIELD(Worker)
+        .In(0, 32767)
+        .LeadsTo(Refers::Worker)
+        .Means("Whose matches; 0 for who has left the world."),
+    FIELD(Name).Means("Name at the last match."),
+    FIELD(Won).In(0, 32767).Means("Matches won."),
+    FIELD(Lost).In(0, 32767).Means("Matches lost."),
+    FIELD(Drawn).In(0, 32767).Means("Matches drawn."),
+    FIELD(ForTitles).In(0, 32767).Means("How many of them were for a Title."),
+    FIELD(Ratings).In(0, 2147483647).Means("Sum of their ratings."),
+    FIELD(Last).Means("The day of the last one."),
+};
+#undef FIELD
+
+#define FIELD(member) GM_FIELD(TitleReign, member)
+constexpr Field kReignFields[] = {
+    FIELD(From).Means("First day; 1980-01-01 for before the game."),
+    FIELD(Until).Means("The day it ended; 1980-01-01 while it lasts."),
+    FIELD(Title).Means("What the Title is called."),
+    FIELD(Owner).In(0, 32767).Means("Uid of its promotion, which may be gone."),
+    FIELD(Initials).Means("Initials of the promotion."),
+    FIELD(Worker).In(0, 32767).LeadsTo(Refers::Worker).Means("Holder; 0 for who has gone."),
+    FIELD(Partner).In(0, 32767).LeadsTo(Refers::Worker).Means("The other half of a pair."),
+    FIELD(Holder).Means("The holder as he was called, or Vacant."),
+    FIELD(Defences).In(0, 32767).OrNone().Means("Defences on the player's shows; -1 not counted."),
+    FIELD(End).In(kReignLasts, kReignDissolved).From(kEnds).Means("How it ended."),
+};
+#undef FIELD
+
+#define FIELD(member) GM_FIELD(ReportPart, member)
+constexpr Field kReportFields[] = {
+    FIELD(On).Means("The day of the show."),
+    FIELD(Promotion).In(0, 32767).Means("Uid of the promotion, which may be gone."),
+    FIELD(Voice).In(0, 100).Means("Who told it: 0 The Lamplighter, 1 Rafe Tolland, 2 QVD."),
+    FIELD(Row).In(0, 11).Means("Row of the sheet; 0 for the show's name."),
+    FIELD(Line).In(0, 32767).Means("Place in the row, from 1."),
+    FIELD(Kind).In(kNoReport, kFigures).From(kReportKinds).Means("What the words are."),
+    FIELD(Join).In(kBegins, kAtOnce).From(kJoins).Means("How they go on from those before."),
+    FIELD(Words).Means("The words."),
+};
+#undef FIELD
+
+#define FIELD(member) GM_FIELD(YearAward, member)
+constexpr Field kAwardFields[] = {
+    FIELD(On).Means("31 December of the year."),
+    FIELD(Kind).In(kWrestlerOfTheYear, kRookieOfTheYear).From(kAwards).Means("Which award."),
+    FIELD(Worker).In(0, 32767).LeadsTo(Refers::Worker).Means("Who got it; 0 for who has gone."),
+    FIELD(Partner).In(0, 32767).LeadsTo(Refers::Worker).Means("Who shares it."),
+    FIELD(Promotion).In(0, 32767).Means("Uid of the promotion, which may be gone."),
+    FIELD(Winner).Means("Who or what got it, as it was called."),
+    FIELD(For).Means("What it was given for."),
+};
+#undef FIELD
+
+#define FIELD(member) GM_FIELD(YearEnd, member)
+constexpr Field kYearEndFields[] = {
+    FIELD(Worker).In(0, 32767).LeadsTo(Refers::Worker).Means("Who."),
+    FIELD(Over).Counts("percent").Means("Over when the last year ended, or the game began."),
+};
+#undef FIELD
+
+// Five years of the busiest promotion, a dozen of one with a show a week: what goes beyond them
+// stands in the tallies.
+constexpr RecordLayout kBouts{"HeldMatch", "bouts.dat", sizeof(HeldMatch), 5000, kBoutFields};
+constexpr RecordLayout kTallies{"MatchTally", "tallies.dat", sizeof(MatchTally), 10000,
+                                kTallyFields};
+// A hundred Titles that change hands three times a year fill it in forty years.
+constexpr RecordLayout kReigns{"TitleReign", "reigns.dat", sizeof(TitleReign), 12000, kReignFields};
+constexpr RecordLayout kReports{"ReportPart", "reports.dat", sizeof(ReportPart), 8000,
+                                kReportFields};
+constexpr RecordLayout kAwardFile{"YearAward", "awards.dat", sizeof(YearAward), 2000, kAwardFields};
+constexpr RecordLayout kYearEnds{"YearEnd", "yearend.dat", sizeof(YearEnd), 25000, kYearEndFields};
+
+}  // namespace
+
+template <>
+const RecordLayout& LayoutOf<HeldMatch>() {
+  return kBouts;
+}
+template <>
+const RecordLayout& LayoutOf<MatchTally>() {
+  return kTallies;
+}
+template <>
+const RecordLayout& LayoutOf<TitleReign>() {
+  return kReigns;
+}
+template <>
+const RecordLayout& LayoutOf<ReportPart>() {
+  return kReports;
+}
+template <>
+const RecordLayout& LayoutOf<YearAward>() {
+  return kAwardFile;
+}
+template <>
+const RecordLayout& LayoutOf<YearEnd>() {
+  return kYearEnds;
+}
+
+std::string_view AwardName(int kind) {
+  return Says(kAwards, kind);
+}
+
+}  // namespace grapplemont

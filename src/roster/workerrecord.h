@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/world.h"
+
+// What the past tells of a worker, in lines.
+
+namespace grapplemont {
+
+/// His matches for each promotion the player has run: "CWA: 12 won, 5 lost, 1 drawn, 4 for a
+/// Title. Rated 61% on average."
+std::vector<std::string> RecordLines(const World& world, const Worker& worker);
+/// His last matches, the latest first, at most so many: "14/03/26: beat Ilya Marsh, 71%".
+std::vector<std::string> LastMatchLines(const World& world, const Worker& worker, int most);
+/// The awards of the years, the latest first: "Wrestler of the Year 2026".
+std::vector<std::string> AwardLines(const World& world, const Worker& worker);
+
+/// How a match went for somebody who was in it: a win counts 1, a loss -1, a draw 0. Whoever has
+/// not won has lost, however many there were.
+int OutcomeFor(const HeldMatch& bout, int workerUid);
+bool WasIn(const HeldMatch& bout, int workerUid);
+
+}  // namespace grapplemont

@@ -1,0 +1,296 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "records/checkworld.h"
+#include "records/dates.h"
+#include "records/severing.h"
+#include "report/linememory.h"
+#include "report/report.h"
+#include "show/boutbook.h"
+#include "show/holdshow.h"
+#include "show/reportcolumn.h"
+#include "showrig.h"
+#include "storylines/lineages.h"
+
+namespace grapplemont::test {
+namespace {
+
+/// Ash to Hal and hands up to 30; Ash holds the Crown, Cal and Dot the Ropes, and Eli has it in for
+/// Fay.
+World House() {
+  World world = Cast(30)
+                    .Team("The Dots", "Cal", "Dot")
+                    .Title("Crown", "Ash")
+                    .Title("Ropes", "Cal", "Dot")
+                    .Network("Nine")
+                    .Show("Sunday Slam", "Sunday", "Nine")
+                    .Game("CWA")
+                    .Feud("Eli", "Fay", Hot(50));
+  world.SetChance(std::make_unique<SteadyDraws>(2));
+  return world;
+}
+
+Segment Won(Segment match, int winner, int loser, std::string_view title = "None") {
+  match.Winner = winner;
+  match.Loser = loser;
+  match.Finish = winner == 0 ? kDoubleCountOut : kClean;
+  match.Purpose = match.Aftermath = 1;
+  match.TitleName = title;
+  return match;
+}
+
+Segment Singles(int winner, int loser, std::string_view title = "None") {
+  return Won(SegmentOf(kMatch, kSingles, kPlainSingles, {winner, loser}), winner, loser, title);
+}
+
+Segment Words(int speaker) {
+  Segment words = SegmentOf(kInterview, 1, 1, {speaker});
+  words.Purpose = 1;
+  return words;
+}
+
+void Book(World& world, const std::vector<Segment>& rows) {
+  std::vector<Segment> sheet(static_cast<std::size_t>(kTvRows), EmptySegment());
+  std::copy(rows.begin(), rows.end(), sheet.begin());
+  world.Segments().Rewrite(sheet);
+}
+
+void Hold(World& world, const std::vector<Segment>& rows, LineMemory* memory = nullptr) {
+  Book(world, rows);
+  HoldShow(world, false, {}, 0, memory);
+  LeaveShow(world);
+}
+
+std::string Told(const HeldMatch& match) {
+  std::string text = std::to_string(match.Row) + ": " + match.Won.Str() +
+                     (match.Winners > 0 ? " beat " : " drew with ") + match.Lost.Str();
+  if (!(match.Title == "None")) text += " for " + match.Title.Str();
+  if (match.Changed) text += ", new";
+  if (match.Feud[0] != 0) text += ", feud";
+  return text;
+}
+
+const MatchTally& TallyOf(const World& world, std::string_view name) {
+  for (const MatchTally& tally : world.Tallies())
+    if (tally.Name == name) return tally;
+  throw std::out_of_range("no tally of " + std::string(name));
+}
+
+std::string Counts(const World& world, std::string_view name) {
+  const MatchTally& tally = TallyOf(world, name);
+  return std::to_string(tally.Won) + "-" + std::to_string(tally.Lost) + "-" +
+         std::to_string(tally.Drawn) + "/" + std::to_string(tally.ForTitles);
+}
+
+TEST(Matches, AreWrittenDownAsTheyWereFought) {
+  World world = House();
+  std::vector<int> crowd;
+  for (int uid = 1; uid <= 20; ++uid) crowd.push_back(uid);
+  Hold(world, {Singles(2, 1, "Crown"), Words(3),
+               Won(SegmentOf(kMatch, kTag, 1, {3, 4, 7, 8}), 3, 7, "Ropes"), Singles(5, 6),
+               Won(SegmentOf(kMatch, kSpecial, 2, crowd), 9, kNoLoser),
+               Won(SegmentOf(kMatch, kSingles, kPlainSingles, {7, 8}), 0, kNoLoser),
+               Won(SegmentOf(kMatch, kFourOnFour, 1, {11, 12, 13, 14, 15, 16, 17, 18}), 15, 11)});
+  std::vector<std::string> told;
+  for (const HeldMatch& match : world.Bouts()) told.push_back(Told(match));
+  EXPECT_EQ(told, (std::vector<std::string>{
+                      "1: Bea beat Ash for Crown, new", "3: The Dots beat Gus \\ Hal for Ropes",
+                      "4: Eli beat Fay, feud", told.size() > 3 ? told[3] : "",
+                      "6: Gus drew with Hal", told.size() > 5 ? told[5] : ""}));
+  ASSERT_EQ(told.size(), 6u);
+  EXPECT_EQ(told[3].substr(0, 21), "5: Hand 9 beat Ash, B") << told[3];
+  EXPECT_NE(told[3].find(" more"), std::string::npos) << "nineteen names find no room: " << told[3];
+  EXPECT_EQ(told[5].substr(0, 3), "7: ");
+  const HeldMatch& royal = world.Bouts()[4];
+  EXPECT_EQ(royal.Winners, 1);
+  EXPECT_EQ(royal.Worker[0], 9);
+  EXPECT_EQ(royal.Worker[19], 20);
+  EXPECT_EQ(royal.Worker[20], 0);
+  EXPECT_EQ(world.Bouts()[1].Rating, world.Segments()[1].Rating);
+  EXPECT_EQ(world.Bouts()[6].Winners, 4);
+  EXPECT_TRUE(CheckWorld(world).empty());
+}
+
+TEST(Matches, AddUpForEverybodyInThem) {
+  World world = House();
+  Hold(world, {Singles(2, 1, "Crown"), Singles(2, 3),
+               Won(SegmentOf(kMatch, kSingles, kPlainSingles, {7, 8}), 0, kNoLoser)});
+  world.Game().Today = world.Today() + std::chrono::days{7};
+  Hold(world, {Singles(1, 2, "Crown"), Won(SegmentOf(kMatch, kThreeWay, 1, {2, 3, 4}), 2, 3)});
+  EXPECT_EQ(Counts(world, "Bea"), "3-1-0/2");
+  EXPECT_EQ(Counts(world, "Ash"), "1-1-0/2");
+  EXPECT_EQ(Counts(world, "Cal"), "0-2-0/0");
+  EXPECT_EQ(Counts(world, "Dot"), "0-1-0/0") << "whoever has not won has lost";
+  EXPECT_EQ(Counts(world, "Gus"), "0-0-1/0");
+  EXPECT_EQ(Day(TallyOf(world, "Gus").Last), kGameStart);
+  int ratings = 0;
+  for (const HeldMatch& match : world.Bouts()) ratings += match.Worker[1] == 1 ? match.Rating : 0;
+  EXPECT_EQ(TallyOf(world, "Ash").Ratings, ratings + world.Bouts()[4].Rating);
+}
+
+TEST(Matches, CountADefenceOfWhoeverKeepsTheTitle) {
+  const struct {
+    const char* What;
+    Segment Match;
+    int Defences;
+  } rows[] = {
+      {"a win", Singles(1, 2, "Crown"), 1},
+      {"a draw", Won(SegmentOf(kMatch, kSingles, kPlainSingles, {1, 2}), 0, kNoLoser, "Crown"), 1},
+      {"without the champion", Singles(3, 2, "Crown"), 0},
+      {"for nothing", Singles(1, 2), 0},
+  };
+  for (const auto& row : rows) {
+    World world = House();
+    Hold(world, {row.Match});
+    UpdateReigns(world);
+    int defences = -2;
+    for (const TitleReign& reign : world.Reigns())
+      if (reign.Title == "Crown" && reign.Worker == 1) defences = reign.Defences;
+    EXPECT_EQ(defences, row.Defences) << row.What;
+  }
+}
+
+TEST(Matches, LoseTheUidOfWhoeverLeavesTheWorldAndKeepHisName) {
+  World world = House();
+  Hold(world, {Singles(2, 1, "Crown"), Singles(5, 6)});
+  UpdateReigns(world);
+  for (const int uid : {2, 5}) {
+    Worker& gone = *world.FindWorker(uid);
+    SeverWorker(world, gone);
+    ForgetWorker(world, uid);
+    gone.Name = "Somebody Else";
+    gone.ShortName = "Else";
+  }
+  EXPECT_EQ(Told(world.Bouts()[1]), "1: Bea beat Ash for Crown, new");
+  EXPECT_EQ(world.Bouts()[1].Worker[0], 0);
+  EXPECT_EQ(world.Bouts()[2].Feud[0], 0);
+  EXPECT_EQ(TallyOf(world, "Bea").Worker, 0);
+  UpdateReigns(world);
+  for (const TitleReign& reign : world.Reigns()) EXPECT_NE(reign.Worker, 2);
+}
+
+TEST(Matches, MakeRoomForNewOnesInAFullFile) {
+  World world = House();
+  std::vector<HeldMatch> full(static_cast<std::size_t>(LayoutOf<HeldMatch>().Limit));
+  world.Bouts().Rewrite(full);
+  std::vector<MatchTally> tallies(static_cast<std::size_t>(LayoutOf<MatchTally>().Limit));
+  for (std::size_t i = 0; i < tallies.size(); ++i) {
+    tallies[i].Worker = static_cast<int>(i % 20) + 9;
+    tallies[i].Promotion = 5;
+    tallies[i].Last = kGameStart - std::chrono::days{20000 - static_cast<int>(i)};
+  }
+  world.Tallies().Rewrite(tallies);
+  Hold(world, {Singles(2, 1)});
+  EXPECT_EQ(world.Bouts().Count(), LayoutOf<HeldMatch>().Limit - 500 + 1);
+  EXPECT_EQ(Told(world.Bouts()[world.Bouts().Count()]), "1: Bea beat Ash");
+  EXPECT_EQ(Counts(world, "Bea"), "1-0-0/0");
+  EXPECT_EQ(Counts(world, "Ash"), "0-1-0/0");
+}
+
+// ---- The report column -------------------------------------------------------------------------
+
+TEST(Reports, AreKeptInTheWordsInWhichTheyWereTold) {
+  World world = House();
+  world.Game().Reporter = kQvd;
+  Book(world, {Singles(2, 1, "Crown"), Words(3), Singles(5, 6)});
+  LineMemory memory;
+  StartShow(world, false, {});
+  std::vector<std::string> prose, verdicts;
+  while (NextSegment(world) != 0) {
+    const ToldSegment told = RunNextSegment(world, &memory);
+    prose.push_back(told.Report);
+    if (!told.Verdict.empty()) verdicts.push_back(told.Verdict);
+  }
+  CloseShow(world);
+  LeaveShow(world);
+  const auto shows = ShowsInTheColumn(world);
+  ASSERT_EQ(shows.size(), 1u);
+  EXPECT_EQ(shows[0].Name, "Sunday Slam");
+  EXPECT_EQ(shows[0].Voice, kQvd);
+  std::vector<std::string> keptProse, keptVerdicts, names;
+  for (const ReportText& text : ReportOf(world, shows[0].On, shows[0].Promotion)) {
+    if (text.Kind == kProse) keptProse.push_back(text.Words);
+    if (text.Kind == kVerdict) keptVerdicts.push_back(text.Words);
+    if (text.Kind == kWhoMet) names.push_back(std::to_string(text.Row) + " " + text.Words);
+  }
+  EXPECT_EQ(keptProse, prose);
+  EXPECT_EQ(keptVerdicts, verdicts);
+  ASSERT_EQ(names.size(), 3u);
+  EXPECT_EQ(names[0], "1 Bea vs Ash");
+  EXPECT_FALSE(HasReport(world, shows[0].On, 99));
+  EXPECT_TRUE(CheckWorld(world).empty());
+}
+
+TEST(Reports, AreOfTheLastShowsAlone) {
+  World world = House();
+  LineMemory memory;
+  int most = 0;
+  for (int week = 0; week < kKeptShows + 8; ++week) {
+    Hold(world, {Singles(2, 1), Singles(4, 3), Words(5)}, &memory);
+    if (week < kKeptShows + 4) most = std::max(most, world.Reports().Count());
+    world.Game().Today = world.Today() + std::chrono::days{7};
+  }
+  const auto shows = ShowsInTheColumn(world);
+  ASSERT_EQ(static_cast<int>(shows.size()), kKeptShows);
+  EXPECT_EQ(shows.front().On, world.Today() - std::chrono::days{7}) << "the latest first";
+  EXPECT_EQ(shows.back().On, world.Today() - std::chrono::days{7 * kKeptShows});
+  for (const KeptShow& show : shows) EXPECT_FALSE(ReportOf(world, show.On, show.Promotion).empty());
+  EXPECT_LE(world.Reports().Count(), most * 5 / 4) << "old places are taken again";
+  EXPECT_TRUE(CheckWorld(world).empty());
+}
+
+TEST(Reports, OfAShowThatNobodyTellsAreNotKept) {
+  World world = House();
+  Hold(world, {Singles(2, 1)});
+  EXPECT_TRUE(ShowsInTheColumn(world).empty());
+  EXPECT_EQ(world.Bouts().Count(), 1);
+}
+
+TEST(Reports, OutliveAnythingThatTheirFileMayHold) {
+  World world = House();
+  std::vector<ReportPart> parts(3);
+  parts[0].Kind = 77;
+  parts[0].Row = -4;
+  parts[1].Kind = kProse;
+  parts[1].Join = kAfterBlank;
+  parts[1].Row = 3;
+  parts[1].On = kGameStart;
+  parts[1].Promotion = 1;
+  parts[1].Words = "and so on";
+  world.Reports().Rewrite(parts);
+  ASSERT_EQ(ShowsInTheColumn(world).size(), 2u);
+  EXPECT_EQ(ReportOf(world, kGameStart, 1).at(0).Words, "and so on");
+  LineMemory memory;
+  Hold(world, {Singles(2, 1)}, &memory);
+  EXPECT_EQ(ShowsInTheColumn(world)[0].Name, "") << "the day had a report already";
+}
+
+/// The pieces as they are stored and read again.
+std::string Joined(const std::vector<ReportPiece>& pieces) {
+  std::string text;
+  for (const ReportPiece& piece : pieces) {
+    const Text<200> stored(piece.Words);
+    if (piece.Join == kAfterBlank) text += ' ';
+    if (piece.Join == kAfterBreak) text += '\n';
+    text += stored.View();
+  }
+  return text;
+}
+
+TEST(Pieces, AreCutBetweenWordsAndLoseNothing) {
+  const std::string longWord(23, 'w');
+  const char* texts[] = {"",     "word",   "one two three four five six",
+                         "a\nb", "a\n\nb", "two  blanks  in the  middle of it"};
+  for (const std::string text : texts)
+    for (const std::size_t width : {5u, 8u, 200u}) {
+      const auto pieces = CutToPieces(text, width);
+      EXPECT_EQ(Joined(pieces), text) << width;
+      for (const ReportPiece& piece : pieces) EXPECT_LE(piece.Words.size(), width) << text;
+    }
+  EXPECT_EQ(Joined(CutToPieces(longWord + " tail", 5)), longWord + " tail");
+  EXPECT_EQ(CutToPieces("one two three", 8).at(0).Words, "one two");
+}
+
+}  // namespace
+}  // namespace grapplemont::test

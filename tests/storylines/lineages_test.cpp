@@ -1,0 +1,254 @@
+#include "storylines/lineages.h"
+
+#include <gtest/gtest.h>
+
+#include "records/dates.h"
+#include "records/severing.h"
+#include "storylines/titles.h"
+#include "support/gameonworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+using std::chrono::days;
+
+World Belts() {
+  World world = SmallWorld()
+                    .Promotion("NEW")
+                    .Worker("Nat Other")
+                    .Worker("Nan Other")
+                    .Title("NEW Crown", "Nat Other")
+                    .Promotion("CWA")
+                    .Worker("Bram Okafor")
+                    .Worker("Ilya Marsh")
+                    .Worker("Cal Drift")
+                    .Team("The Docks", "Ilya Marsh", "Cal Drift")
+                    .Title("CWA Crown", "Bram Okafor")
+                    .Title("CWA Ropes", "Ilya Marsh", "Cal Drift")
+                    .Game("CWA");
+  UpdateReigns(world);
+  return world;
+}
+
+int UidOf(const World& world, std::string_view name) {
+  return Named(world.Workers(), name).Uid;
+}
+
+void PassDays(World& world, int count) {
+  world.Game().Today = world.Today() + days{count};
+  UpdateReigns(world);
+}
+
+/// "Bram Okafor 10 lost, Ilya Marsh 3 lasts": the oldest first, with the days of those that have a
+/// beginning.
+std::string PastOf(const World& world, std::string_view title, std::string_view promotion = "CWA") {
+  constexpr const char* kEnds[] = {"lasts", "lost", "vacated", "dissolved"};
+  std::string text;
+  const auto reigns = ReignsOf(
+      world, Lineage{std::string(title), Named(world.Promotions(), promotion).Uid, "", true});
+  for (auto reign = reigns.rbegin(); reign != reigns.rend(); ++reign) {
+    const int length = DaysOf(**reign, world.Today());
+    text += (text.empty() ? "" : ", ") + (*reign)->Holder.Str() + " " +
+            (length < 0 ? std::string("?") : std::to_string(length)) + " " + kEnds[(*reign)->End];
+  }
+  return text;
+}
+
+TEST(Lineages, BeginWithTheRecordOfTheTitle) {
+  World world = Belts();
+  EXPECT_EQ(PastOf(world, "CWA Crown"), "Bram Okafor ? lasts");
+  EXPECT_EQ(world.Reigns().Count(), 3);
+  const World before = CopyOf(world);
+  UpdateReigns(world);
+  ExpectSame(world, before);
+}
+
+TEST(Lineages, ReadThePastFiveOfATitleNobodyHasFollowed) {
+  World world = Belts();
+  world.Reigns().Remove();
+  Title& crown = Named(world.Titles(), "CWA Crown");
+  for (const char* name : {"Ilya Marsh", "Cal Drift"}) {
+    world.Game().Today = world.Today() + days{5};
+    VacateTitle(world, crown);
+    world.Game().Today = world.Today() + days{2};
+    Crown(world, crown, UidOf(world, name), 0);
+  }
+  UpdateReigns(world);
+  EXPECT_EQ(PastOf(world, "CWA Crown"),
+            "Bram Okafor ? vacated, Vacant 2 lost, Ilya Marsh 5 vacated, Vacant 2 lost, Cal Drift "
+            "0 lasts");
+  EXPECT_EQ(ReignsOfWorker(world, UidOf(world, "Ilya Marsh")).size(), 2u) << "the Ropes as well";
+}
+
+TEST(Lineages, SeeEveryWayInWhichATitleChanges) {
+  const auto crown = [](World& world) -> Title& { return Named(world.Titles(), "CWA Crown"); };
+  const struct {
+    const char* What;
+    std::function<void(World&)> Change;
+    const char* Past;
+  } rows[] = {
+      {"won", [&](World& w) { Crown(w, crown(w), UidOf(w, "Cal Drift"), 0); },
+       "Bram Okafor ? lost, Cal Drift 4 lasts"},
+      {"vacated by the player", [&](World& w) { VacateTitle(w, crown(w)); },
+       "Bram Okafor ? vacated, Vacant 4 lasts"},
+      {"given up by a contract that ends",
+       [&](World& w) { SeverWorker(w, Named(w.Workers(), "Bram Okafor")); },
+       "Bram Okafor ? vacated, Vacant 4 lasts"},
+      {"left by the end of a career",
+       [&](World& w) {
+         Worker& bram = Named(w.Workers(), "Bram Okafor");
+         SeverWorker(w, bram);
+         ForgetWorker(w, bram);
+       },
+       "Bram Okafor ? vacated, Vacant 4 lasts"},
+      {"twice in an evening",
+       [&](World& w) {
+         Crown(w, crown(w), UidOf(w, "Cal Drift"), 0);
+         Crown(w, crown(w), UidOf(w, "Ilya Marsh"), 0);
+       },
+       "Bram Okafor ? lost, Cal Drift 0 lost, Ilya Marsh 4 lasts"},
+      {"back at once",
+       [&](World& w) {
+         VacateTitle(w, crown(w));
+         Crown(w, crown(w), UidOf(w, "Bram Okafor"), 0);
+       },
+       "Bram Okafor ? vacated, Vacant 0 lost, Bram Okafor 4 lasts"},
+      {"dissolved", [&](World& w) { DissolveTitle(w, w.Titles().NumberOf(crown(w))); },
+       "Bram Okafor ? dissolved"},
+      {"its promotion closed", [&](World& w) { crown(w).Owner = kNoEnd; },
+       "Bram Okafor ? dissolved"},
+      {"suspended", [&](World& w) { SuspendTitle(crown(w), true); }, "Bram Okafor ? lasts"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.What);
+    World world = Belts();
+    PassDays(world, 10);
+    row.Change(world);
+    UpdateReigns(world);
+    PassDays(world, 4);
+    EXPECT_EQ(PastOf(world, "CWA Crown"), row.Past);
+    EXPECT_EQ(PastOf(world, "NEW Crown", "NEW"), "Nat Other ? lasts") << "others stay";
+  }
+}
+
+TEST(Lineages, FollowATitleUnderItsNewName) {
+  World world = Belts();
+  PassDays(world, 3);
+  Crown(world, Named(world.Titles(), "CWA Crown"), UidOf(world, "Cal Drift"), 0);
+  PassDays(world, 6);
+  RenameTitle(world, world.Titles().NumberOf(Named(world.Titles(), "CWA Crown")), "CWA Sceptre");
+  PassDays(world, 1);
+  EXPECT_EQ(PastOf(world, "CWA Crown"), "");
+  EXPECT_EQ(PastOf(world, "CWA Sceptre"), "Bram Okafor ? lost, Cal Drift 7 lasts");
+  Crown(world, Named(world.Titles(), "CWA Sceptre"), UidOf(world, "Bram Okafor"), 0);
+  PassDays(world, 2);
+  EXPECT_EQ(PastOf(world, "CWA Sceptre"),
+            "Bram Okafor ? lost, Cal Drift 7 lost, Bram Okafor 2 lasts");
+}
+
+TEST(Lineages, MeetANewTitleOnTheDayItIsMade) {
+  World world = Belts();
+  PassDays(world, 3);
+  const int number = CreateTitle(world, {"CWA Medal", true, false, false});
+  PassDays(world, 2);
+  Crown(world, world.Titles()[number], UidOf(world, "Cal Drift"), 0);
+  PassDays(world, 1);
+  EXPECT_EQ(PastOf(world, "CWA Medal"), "Vacant 2 lost, Cal Drift 1 lasts");
+}
+
+TEST(Lineages, KnowBothOfAPair) {
+  World world = Belts();
+  const auto reigns = ReignsOfWorker(world, UidOf(world, "Cal Drift"));
+  ASSERT_EQ(reigns.size(), 1u);
+  EXPECT_EQ(reigns[0]->Holder.View(), "The Docks");
+  EXPECT_EQ(reigns[0]->Defences, 0);
+  EXPECT_EQ(ReignsOfWorker(world, UidOf(world, "Nat Other"))[0]->Defences, kNoEnd)
+      << "nobody counts what others do";
+  EXPECT_TRUE(ReignsOfWorker(world, 0).empty());
+}
+
+TEST(Lineages, AddUpForEachChampion) {
+  World world = Belts();
+  Title& crown = Named(world.Titles(), "CWA Crown");
+  for (const auto& [name, length] :
+       {std::pair{"Cal Drift", 30}, {"Ilya Marsh", 10}, {"Cal Drift", 5}}) {
+    Crown(world, crown, UidOf(world, name), 0);
+    UpdateReigns(world);
+    CountDefence(world, "CWA Crown");
+    world.Game().Today = world.Today() + days{length};
+  }
+  UpdateReigns(world);
+  std::string totals;
+  for (const ChampionTotal& total : TotalsOf(world, {"CWA Crown", world.PlayerUid(), "CWA", true}))
+    totals += total.Name + " " + std::to_string(total.Reigns) + " " + std::to_string(total.Days) +
+              " " + std::to_string(total.Defences) + "; ";
+  EXPECT_EQ(totals, "Cal Drift 2 35 2; Ilya Marsh 1 10 1; Bram Okafor 1 0 0; ");
+  const int rival = Named(world.Promotions(), "NEW").Uid;
+  EXPECT_EQ(TotalsOf(world, {"NEW Crown", rival, "NEW", true}).at(0).Defences, kNoEnd);
+}
+
+TEST(Lineages, DropTheOldestThatHaveEndedWhenTheFileIsFull) {
+  World world = Belts();
+  std::vector<TitleReign> reigns(world.Reigns().begin(), world.Reigns().end());
+  TitleReign old = reigns[0];
+  old.End = kReignLost;
+  old.Title = "Old Crown";
+  reigns.resize(static_cast<std::size_t>(LayoutOf<TitleReign>().Limit), old);
+  world.Reigns().Rewrite(reigns);
+  Crown(world, Named(world.Titles(), "CWA Crown"), UidOf(world, "Cal Drift"), 0);
+  PassDays(world, 1);
+  EXPECT_EQ(world.Reigns().Count(), LayoutOf<TitleReign>().Limit - 1000 + 1);
+  EXPECT_EQ(PastOf(world, "CWA Crown"), "Cal Drift 1 lasts");
+  EXPECT_EQ(PastOf(world, "NEW Crown", "NEW"), "Nat Other ? lasts");
+}
+
+TEST(Lineages, MendThemselvesWhenTheirFileWasDamaged) {
+  World world = Belts();
+  world.Reigns()[1].Holder = "\x01 rubbish";
+  world.Reigns()[1].Worker = -7;
+  world.Reigns()[2].End = 99;
+  world.Reigns()[3].From.SetRaw(-1e300);
+  PassDays(world, 1);
+  for (const Lineage& lineage : LineagesOf(world)) {
+    TotalsOf(world, lineage);
+    int lasting = 0;
+    for (const TitleReign* reign : ReignsOf(world, lineage)) lasting += reign->End == kReignLasts;
+    EXPECT_EQ(lasting, 1) << lineage.Title;
+  }
+  const World before = CopyOf(world);
+  UpdateReigns(world);
+  ExpectSame(world, before);
+}
+
+using Row = std::vector<std::string>;
+
+TEST(TheReignsScreen, ShowsTheChosenTitleAndThoseOfThePast) {
+  World made = Belts();
+  made.Reigns().Remove();  // a slot from before reigns were kept
+  GameOnWorld play(std::move(made));
+  play.Desk.Open("frmBelts");
+  play.Desk.Pick("lsttitles", "CWA Ropes");
+  play.Desk.ExpectAsk("Vacate?", kAnyText, true);
+  play.Desk.Click("cmdvacate");
+  play.Desk.Click("cmdreigns");
+  ASSERT_EQ(play.Desk.TopName(), "frmReigns");
+  EXPECT_EQ(play.Desk.Text("cmbtitle"), "CWA Ropes (CWA)");
+  EXPECT_EQ(
+      play.Desk.Rows("lstreigns"),
+      (std::vector<Row>{{"Vacant", "01 March 2026", "", "0", "", "Lasts"},
+                        {"The Docks", "Before the game", "01 March 2026", "", "0", "Vacated"}}));
+  EXPECT_EQ(play.Desk.Rows("lsttotals"), (std::vector<Row>{{"The Docks", "1", "0", "0"}}));
+  play.Desk.Click("cmdback");
+  play.Desk.Pick("lsttitles", "CWA Ropes");
+  play.Desk.ExpectAsk("Dissolve?", kAnyText, true);
+  play.Desk.Click("cmddissolve");
+  play.Desk.Click("cmdreigns");
+  play.Desk.Pick("cmbtitle", "CWA Ropes (CWA), of the past");
+  EXPECT_EQ(play.Desk.Rows("lstreigns")[0],
+            (Row{"Vacant", "01 March 2026", "01 March 2026", "0", "", "Dissolved"}));
+  play.Reopen();
+  EXPECT_EQ(play.World().Reigns().Count(), 4) << "what the screens have found is on disk";
+}
+
+}  // namespace
+}  // namespace grapplemont::test
