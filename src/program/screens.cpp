@@ -5,6 +5,7 @@
 #include "business/officescreens.h"
 #include "business/tvscreens.h"
 #include "calendar/calendarscreens.h"
+#include "editor/editorscreens.h"
 #include "info/infoscreens.h"
 #include "rivals/rivalscreens.h"
 #include "roster/contractscreens.h"
@@ -27,6 +28,7 @@ void RegisterScreens(Game& game) {
   RegisterRivalScreens(game);
   RegisterCalendarScreens(game);
   RegisterInfoScreens(game);
+  RegisterEditorScreens(game);
   RegisterSessionScreens(game);
 }
 
