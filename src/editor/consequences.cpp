@@ -29,6 +29,13 @@ constexpr Tie kTies[] = {{"promos.dat", "Commissioner"},
                          {"tv.dat", "Announcer"},
                          {"tv.dat", "Colour"}};
 
+/// "CWA Crown: Holder is gone; made 0."
+std::string Told(const Fault& fault) {
+  std::string words = (fault.Who.empty() ? fault.File : fault.Who) + ": ";
+  if (!fault.Field.empty()) words += fault.Field + " ";
+  return words + fault.What + ".";
+}
+
 std::string WholeKey(const Fault& fault) {
   return fault.File + "#" + std::to_string(fault.Record) + "#" + fault.Field + "#" + fault.What;
 }
@@ -58,12 +65,6 @@ bool IsConsequence(const Fault& fault) {
   });
 }
 
-std::string FaultWords(const Fault& fault, bool own) {
-  std::string words = own ? "" : (fault.Who.empty() ? fault.File : fault.Who) + ": ";
-  if (!fault.Field.empty()) words += fault.Field + " ";
-  return words + fault.What + ".";
-}
-
 void MendConsequences(World& world, const FaultCounts& before, std::vector<std::string>& also) {
   // Each round may remove records, and the numbers of the next are others.
   constexpr int kMostRounds = 20;
@@ -75,7 +76,7 @@ void MendConsequences(World& world, const FaultCounts& before, std::vector<std::
     const auto mended =
         MendWorld(world, [&](const Fault& fault) { return wanted.contains(WholeKey(fault)); });
     if (mended.empty()) return;
-    for (const Fault& fault : mended) also.push_back(FaultWords(fault, false));
+    for (const Fault& fault : mended) also.push_back(Told(fault));
   }
 }
 

@@ -29,8 +29,6 @@ class FaultCounts {
 
 /// Whether it is a tie to something else that ends by itself: an office, a Title, a manager.
 bool IsConsequence(const Fault& fault);
-/// "Potential is under 30." for the record in hand, else with the other record's name in front.
-std::string FaultWords(const Fault& fault, bool own);
 /// Ends the ties that are wrong only since `before`; what was done is added to `also`.
 void MendConsequences(World& world, const FaultCounts& before, std::vector<std::string>& also);
 

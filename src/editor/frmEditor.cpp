@@ -2,7 +2,6 @@
 #include <memory>
 #include <vector>
 
-#include "editor/consequences.h"
 #include "editor/editorscreens.h"
 #include "editor/screenediting.h"
 #include "editor/screenpages.h"
@@ -98,7 +97,7 @@ class frmEditor : public ui::Screen {
       lstfaults.Add(
           {fault.File,
            fault.Who.empty() && fault.Record > 0 ? std::to_string(fault.Record) : fault.Who,
-           FaultWords(fault, true)});
+           FaultWords(fault)});
     lblfacts.Text = std::string(
                         "The default world, of which every new game is made. Games that have begun "
                         "keep what they have. ") +

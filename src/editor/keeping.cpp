@@ -102,13 +102,13 @@ std::string WhyNotNamed(const World& world, RecordKind kind, int number, const s
   for (const Field& field : LayoutOf(kind).Fields) {
     if (field.Kind != FieldKind::Text || (!field.IsKey && field.Name != "Name")) continue;
     const std::string text(FieldText(field, record));
-    const std::string what = field.Name == "Name" ? "name" : "initials";
-    if (text.empty()) return "The " + what + " must not be empty.";
-    if (IsReserved(text)) return "\"" + text + "\" can be no " + what + ".";
+    const bool isName = field.Name == "Name";
+    if (text.empty()) return isName ? "It needs a name." : "It needs initials.";
+    if (IsReserved(text)) return "Nobody can be called \"" + text + "\".";
     if (!MustBeFree(kind, field)) continue;
     for (int other = 1; other <= CountOf(world, kind); ++other)
       if (other != number && FieldText(field, RecordAt(world, kind, other)) == text)
-        return "This " + what + " already exists!";
+        return isName ? "This name already exists!" : "These initials already exist!";
   }
   return {};
 }
@@ -150,13 +150,11 @@ Keeping KeepRecord(World& world, RecordKind kind, int number, Bytes record) {
   keeping.WhyNot = FollowChange(world, kind, old, keeping.Number, keeping.Also);
   if (!keeping.WhyNot.empty()) return keeping;
   const std::string_view file = LayoutOf(kind).File;
-  for (const Fault& fault : before.NewIn(world)) {
+  for (Fault& fault : before.NewIn(world)) {
     const bool own = fault.File == file && fault.Record == keeping.Number;
-    if (!own && IsConsequence(fault)) continue;
-    if (!keeping.WhyNot.empty()) keeping.WhyNot += "\n";
-    keeping.WhyNot += FaultWords(fault, own);
+    if (own || !IsConsequence(fault)) keeping.Wrong.push_back(std::move(fault));
   }
-  if (keeping.WhyNot.empty()) MendConsequences(world, before, keeping.Also);
+  if (keeping.Done()) MendConsequences(world, before, keeping.Also);
   return keeping;
 }
 

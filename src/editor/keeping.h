@@ -20,9 +20,11 @@ Bytes NewRecord(RecordKind kind);
 Bytes CopyOfRecord(const World& world, RecordKind kind, int number);
 
 struct Keeping {
-  std::string WhyNot;             // sentences, a line each; empty when it was done
+  std::string WhyNot;             // a sentence, or
+  std::vector<Fault> Wrong;       // the faults it would bring; both empty when it was done
   int Number = 0;                 // of the record
   std::vector<std::string> Also;  // what else it changed, a line each
+  bool Done() const { return WhyNot.empty() && Wrong.empty(); }
 };
 /// Puts the bytes into record `number`, or behind the last one for 0 with a uid of their own. What
 /// hangs on it follows: names that lead to it, offices and Titles that it cannot hold any more. A

@@ -11,10 +11,24 @@ std::span<const RecordPage> RecordPages() {
   return kPages;
 }
 
-const RecordPage& PageOf(RecordKind kind, const std::byte* record) {
-  for (const RecordPage& page : RecordPages())
-    if (page.Kind == kind && (!page.Shows || page.Shows(record))) return page;
-  return kStaffPage;
+namespace {
+
+/// What the field is called on a page of its file; its own name where no page shows it.
+std::string LabelOf(std::string_view file, const std::string& field) {
+  for (const RecordPage& page : RecordPages()) {
+    if (LayoutOf(page.Kind).File != file) continue;
+    for (const FormGroup& group : page.Groups)
+      for (const FormEntry& entry : group.Entries)
+        if (entry.Field == field) return std::string(entry.Label);
+  }
+  return field;
+}
+
+}  // namespace
+
+std::string FaultWords(const Fault& fault) {
+  if (fault.Field.empty()) return "It " + fault.What + ".";
+  return LabelOf(fault.File, fault.Field) + " " + fault.What + ".";
 }
 
 }  // namespace grapplemont

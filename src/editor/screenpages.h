@@ -1,9 +1,11 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "editor/recordkinds.h"
+#include "records/checkworld.h"
 #include "ui/controls.h"
 
 // How each kind of record is laid out on its screen. What a field holds, its range and its help
@@ -51,8 +53,9 @@ struct RecordPage {
 
 /// In the order of the hub.
 std::span<const RecordPage> RecordPages();
-/// The page that shows such a record.
-const RecordPage& PageOf(RecordKind kind, const std::byte* record);
+
+/// "Popularity is 140, outside 0 to 100." with the field's name as the pages have it.
+std::string FaultWords(const Fault& fault);
 
 // The pages' tables.
 extern const RecordPage kWorkerPage, kPromotionPage, kOwnerPage, kStaffPage, kTeamPage, kStablePage,

@@ -41,7 +41,7 @@ constexpr FormEntry kWorkerRing[] = {{"Brawl", "Brawling", "txtbrawl"},
                                      {"Stiff", "Stiffness", "txtstiff"},
                                      {"Sell", "Selling", "txtsell"}};
 constexpr FormEntry kWorkerDraw[] = {{"Over", "Popularity", "txtover"},
-                                     {"OverFloor", "Never below", "txtoverfloor"},
+                                     {"OverFloor", "Popularity floor", "txtoverfloor"},
                                      {"Charisma", "Charisma", "txtcharisma"}};
 constexpr FormEntry kWorkerNature[] = {{"Attitude", "Attitude", "txtattitude"},
                                        {"Behaviour", "Behaviour", "txtbehaviour"}};

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "editor/consequences.h"
 #include "editor/keeping.h"
 #include "editor/screencells.h"
 #include "editor/screenediting.h"
@@ -32,6 +31,17 @@ std::string Lines(const std::vector<std::string>& lines) {
   for (std::size_t i = 0; i < std::min(lines.size(), kMost); ++i) text += "\n" + lines[i];
   if (lines.size() > kMost) text += "\nand " + std::to_string(lines.size() - kMost) + " more.";
   return text;
+}
+
+/// A line for each reason; faults of other records begin with whose they are.
+std::string WhyNot(const Keeping& keeping, std::string_view file) {
+  std::string why = keeping.WhyNot;
+  for (const Fault& fault : keeping.Wrong) {
+    if (!why.empty()) why += "\n";
+    if (fault.File != file || fault.Record != keeping.Number) why += fault.Who + ": ";
+    why += FaultWords(fault);
+  }
+  return why;
 }
 
 bool IsShown(const RecordPage& page, const std::byte* record) {
@@ -92,7 +102,7 @@ void RecordScreen::LookOver() {
     if (!IsShown(page_, RecordAt(data_.World(), page_.Kind, fault.Record))) continue;
     std::string& words = faults_[fault.Record];
     if (!words.empty()) words += " ";
-    words += FaultWords(fault, true);
+    words += FaultWords(fault);
   }
 }
 
@@ -257,9 +267,9 @@ void RecordScreen::cmdsave_Click() {
   std::string why = form_.Take(record);
   if (!why.empty()) return desk().Say("Error!", why);
   const Keeping keeping = KeepRecord(data_.World(), page_.Kind, number_, record);
-  if (!keeping.WhyNot.empty()) {
+  if (!keeping.Done()) {
     data_.Rollback();
-    return desk().Say("Error!", keeping.WhyNot);
+    return desk().Say("Error!", WhyNot(keeping, LayoutOf(page_.Kind).File));
   }
   LookOver();
   FillTable();
