@@ -21,7 +21,6 @@ constexpr FormEntry kPromotionWho[] = {{"Name", "Name", "txtname"},
                                        {"Commissioner", "Commissioner", "cmbcommissioner"},
                                        {"MeetingDay", "Meeting day", "cmbmeeting"}};
 constexpr FormEntry kPromotionMoney[] = {{"Money", "Cash ($)", "txtmoney"},
-                                         {"TicketPrice", "Ticket ($)", "txtticket"},
                                          {"Advertising", "Advertising", "txtadvertising"},
                                          {"Merchandising", "Merchandise", "txtmerchandising"},
                                          {"Production", "Production", "txtproduction"},
@@ -43,14 +42,16 @@ constexpr FormEntry kPromotionCamp[] = {{"CampName", "Training camp", "txtcamp"}
                                         {"HeadTrainer", "Head trainer", "cmbheadtrainer"}};
 constexpr FormEntry kPromotionTerritory[] = {{"DevName", "Territory", "txtterritory"},
                                              {"DevBooker", "Its booker", "cmbdevbooker"}};
+constexpr FormEntry kPromotionTicket[] = {{"TicketPrice", "Ticket ($)", "txtticket"}};
 constexpr FormGroup kPromotionGroups[] = {
     {"Promotion", 1, "Who", kPromotionWho},
     {"Promotion", 2, "Business", kPromotionMoney},
-    {"Partners", 1, "Sponsors", kPromotionSponsors},
-    {"Partners", 2, "Roster splits (or None)", kPromotionSplits},
-    {"Development", 1, "Training camp (or None)", kPromotionCamp},
-    {"Development", 2, "Development territory (or None)", kPromotionTerritory},
-    {"Loan", 1, "Bank loan", kPromotionLoan}};
+    {"Roster", 1, "Splits (or None)", kPromotionSplits},
+    {"Roster", 2, "Training camp (or None)", kPromotionCamp},
+    {"Roster", 2, "Territory (or None)", kPromotionTerritory},
+    {"In a game", 1, "Sponsors, none when a game begins", kPromotionSponsors},
+    {"In a game", 2, "Loan, none when a game begins", kPromotionLoan},
+    {"In a game", 2, "By size when a game begins", kPromotionTicket}};
 
 constexpr PageColumn kTitleColumns[] = {{"Name", "Title"},
                                         {"Owner", "Promotion"},
@@ -71,10 +72,12 @@ constexpr FormGroup kTitleGroups[] = {{"", 1, "Title", kTitleWhat}, {"", 1, "Cha
 constexpr PageColumn kShowColumns[] = {
     {"Name", "Show"}, {"Owner", "Promotion"}, {"Day", "Day"},
     {"Slot", "Slot"}, {"Network", "Network"}, {"Rating3", "Last rating", K::Number}};
-constexpr FormEntry kShowWhat[] = {
-    {"Name", "Name", "txtname"},          {"Owner", "Promotion", "cmbowner"},
-    {"Network", "Network", "cmbnetwork"}, {"Day", "Day", "cmbday"},
-    {"Slot", "Slot", "cmbslot"},          {"ContractWeeks", "Weeks left", "txtweeks"}};
+constexpr FormEntry kShowWhat[] = {{"Name", "Name", "txtname"},
+                                   {"Owner", "Promotion", "cmbowner"},
+                                   {"Network", "Network", "cmbnetwork"},
+                                   {"Day", "Day", "cmbday"},
+                                   {"Slot", "Slot", "cmbslot"}};
+constexpr FormEntry kShowDrawn[] = {{"ContractWeeks", "Weeks left", "txtweeks"}};
 constexpr FormEntry kShowVoices[] = {{"Announcer", "Announcer", "cmbannouncer"},
                                      {"Colour", "Colour", "cmbcolour", {}, EntryAs::Commentator}};
 constexpr FormEntry kShowRatings[] = {{"Rating1", "Best (1/100)", "txtbest"},
@@ -83,7 +86,8 @@ constexpr FormEntry kShowRatings[] = {{"Rating1", "Best (1/100)", "txtbest"},
                                       {"Rating4", "Strikes", "txtstrikes"}};
 constexpr FormGroup kShowGroups[] = {{"", 1, "Show", kShowWhat},
                                      {"", 2, "Commentary", kShowVoices},
-                                     {"", 2, "Ratings", kShowRatings}};
+                                     {"", 2, "Ratings", kShowRatings},
+                                     {"", 1, "Drawn when a game begins", kShowDrawn}};
 
 constexpr PageColumn kEventColumns[] = {{"Name", "Event"},
                                         {"Owner", "Promotion"},
@@ -126,7 +130,7 @@ constexpr FormEntry kSponsorEntries[] = {{"Name", "Name", "txtname"},
 constexpr FormEntry kSponsorDeal[] = {{"Promotion", "Sponsors", "cmbpromotion"},
                                       {"ContractMonths", "Months left", "txtmonths"}};
 constexpr FormGroup kSponsorGroups[] = {{"", 1, "Sponsor", kSponsorEntries},
-                                        {"", 1, "Deal", kSponsorDeal}};
+                                        {"", 1, "Deal, none when a game begins", kSponsorDeal}};
 
 }  // namespace
 

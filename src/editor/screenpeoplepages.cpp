@@ -51,19 +51,21 @@ constexpr FormEntry kWorkerJob[] = {{"Employer", "Works for", "cmbemployer"},
                                     {"Stable", "Stable", "cmbstable"},
                                     {"Manager", "Manager", "cmbmanager"}};
 constexpr FormEntry kWorkerContract[] = {{"ContractType", "Contract", "cmbcontract"},
-                                         {"ContractMonths", "Months left", "txtmonths"},
                                          {"Wage", "Wage ($1000 a month)", "txtwage"},
                                          {"Unsackable", "Unsackable", "chkunsackable"},
                                          {"CreativeControl", "Creative control", "chkcreative"}};
-constexpr FormEntry kWorkerState[] = {
-    {"Status", "Status", "cmbstatus"},         {"StatusMonths", "for months", "txtstatusmonths"},
-    {"InjuryName", "Injury", "txtinjury"},     {"Condition", "Condition", "txtcondition"},
-    {"Morale", "Morale", "txtmorale"},         {"Loyalty", "Loyalty", "txtloyalty"},
-    {"Potential", "Potential", "txtpotential"}};
-constexpr FormEntry kWorkerCareer[] = {{"Debuted", "Has debuted", "chkdebuted"},
-                                       {"TurnPending", "A turn is prepared", "chkturn"},
-                                       {"LastTurn", "Last turn", "txtlastturn"},
-                                       {"RetiringSoon", "Retires soon", "chkretiring"}};
+constexpr FormEntry kWorkerDrawn[] = {{"ContractMonths", "Months of contract", "txtmonths"},
+                                      {"Condition", "Condition", "txtcondition"},
+                                      {"Morale", "Morale", "txtmorale"},
+                                      {"Loyalty", "Loyalty", "txtloyalty"},
+                                      {"Potential", "Potential", "txtpotential"}};
+constexpr FormEntry kWorkerCleared[] = {{"Status", "Status", "cmbstatus"},
+                                        {"StatusMonths", "for months", "txtstatusmonths"},
+                                        {"InjuryName", "Injury", "txtinjury"},
+                                        {"LastTurn", "Last turn", "txtlastturn"},
+                                        {"TurnPending", "A turn is prepared", "chkturn"},
+                                        {"Debuted", "Has debuted", "chkdebuted"},
+                                        {"RetiringSoon", "Retires soon", "chkretiring"}};
 constexpr FormGroup kWorkerGroups[] = {
     {"Person", 1, "Who", kWorkerWho},
     {"Person", 2, "Gifts", kWorkerGifts},
@@ -73,8 +75,8 @@ constexpr FormGroup kWorkerGroups[] = {
     {"Skills", 2, "Behind the scenes", kWorkerNature},
     {"Job", 1, "Place", kWorkerJob},
     {"Job", 2, "Contract", kWorkerContract},
-    {"In a game", 1, "Set anew when a game begins", kWorkerState},
-    {"In a game", 2, "Cleared when a game begins", kWorkerCareer}};
+    {"In a game", 1, "Drawn when a game begins", kWorkerDrawn},
+    {"In a game", 2, "Cleared when a game begins", kWorkerCleared}};
 
 constexpr PageColumn kOwnerColumns[] = {{"Name", "Name"},
                                         {"Employer", "Promotion"},
@@ -98,17 +100,19 @@ constexpr PageColumn kStaffColumns[] = {{"Name", "Name"},
 constexpr FormEntry kStaffWork[] = {
     {"Position", "Post", "cmbposition", Vocabulary(kStaffPositions).last(7)},
     {"Talent", "Talent", "txttalent"},
-    {"Booker", "Can also book", "chkbooker"},
     {"Backstage", "Backstage", "txtbackstage"},
-    {"Morale", "Morale", "txtmorale"},
-    {"Loyalty", "Loyalty", "txtloyalty"}};
+    {"Booker", "Can also book", "chkbooker"}};
 constexpr FormEntry kStaffJob[] = {{"Employer", "Works for", "cmbemployer"},
                                    {"ContractType", "Contract", "cmbcontract"},
-                                   {"ContractMonths", "Months left", "txtmonths"},
                                    {"Wage", "Wage ($1000 a month)", "txtwage"},
                                    {"Unsackable", "Unsackable", "chkunsackable"}};
-constexpr FormGroup kStaffGroups[] = {
-    {"", 1, "Who", kStaffWho}, {"", 1, "Contract", kStaffJob}, {"", 2, "Work", kStaffWork}};
+constexpr FormEntry kStaffDrawn[] = {{"ContractMonths", "Months of contract", "txtmonths"},
+                                     {"Morale", "Morale", "txtmorale"},
+                                     {"Loyalty", "Loyalty", "txtloyalty"}};
+constexpr FormGroup kStaffGroups[] = {{"", 1, "Who", kStaffWho},
+                                      {"", 1, "Work", kStaffWork},
+                                      {"", 2, "Contract", kStaffJob},
+                                      {"", 2, "Drawn when a game begins", kStaffDrawn}};
 
 constexpr PageColumn kTeamColumns[] = {{"Name", "Team"},
                                        {"Worker1", "One"},

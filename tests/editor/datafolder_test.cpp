@@ -232,6 +232,30 @@ TEST(PowerCutsInTheEditor, LeaveTheOldDataOrTheNew) {
   EXPECT_GT(ForEveryDeath(disk, check), 30);
 }
 
+/// The same cuts must notice a disk that lies about a sync that counts.
+TEST(PowerCutsInTheEditor, NoticeAStepThatIsNotOnDisk) {
+  for (const char* unsynced : {"data.step", "wrestler.dat.tmp"}) {
+    const World before = SmallData();
+    CutDisk disk = DiskWith(before);
+    disk.IgnoreSyncs(unsynced);
+    {
+      DataFolder data(disk, kData);
+      disk.Record();
+      disk.Begins(1);
+      Edit(data.World());
+      data.Commit();
+      disk.Shows(1);
+    }
+    const Files old = BytesOf(before), fresh = Edited(before);
+    int bad = 0;
+    ForEveryCut(disk, 8, 5, [&](CutDisk& after, const Cut& cut) {
+      const Files found = Found(after);
+      bad += !((cut.Least == 0 && found == old) || (cut.Most == 1 && found == fresh));
+    });
+    EXPECT_GT(bad, 0) << unsynced;
+  }
+}
+
 TEST(PowerCutsInTheEditor, LeaveTheBackupWhereTheDataAreNotYetRestored) {
   const World before = SmallData();
   const Files old = BytesOf(before), fresh = Edited(before);

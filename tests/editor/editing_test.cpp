@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
+#include <set>
 
 #include "editor/keeping.h"
 #include "editor/screenpages.h"
@@ -288,6 +290,58 @@ const RefusalCase kRefusals[] = {
      {{"txtname", "Again"}, {"cmbowner", "CWA"}, {"cmbmonth", "March"}},
      "Month has an Event of the promotion already."},
 };
+
+/// What no page shows, and why.
+constexpr std::string_view kLeftOut[] = {"Uid",
+                                         "Active",  // the editor's own
+                                         "Finisher1TopRope",
+                                         "Finisher1Ground",
+                                         "Finisher2TopRope",
+                                         "Finisher2Ground",  // one pick list
+                                         "ColourIsWorker",   // told by the commentator
+                                         "Momentum",
+                                         "Rank",
+                                         "Money",
+                                         "TicketIncome",
+                                         "MerchIncome",
+                                         "PpvIncome",
+                                         "SponsorIncome",
+                                         "WrestlerWages",
+                                         "StaffWages",
+                                         "ProductionCost",
+                                         "AdvertisingCost",
+                                         "MerchCost",
+                                         "Last",
+                                         "Won",
+                                         "Lost",
+                                         "Holder"};  // a game writes them anew
+
+TEST(ThePages, ShowEveryFieldThatAnAuthorCanMean) {
+  std::set<std::string> shown;
+  for (const RecordPage& page : RecordPages())
+    for (const FormGroup& group : page.Groups)
+      for (const FormEntry& entry : group.Entries)
+        shown.insert(std::string(LayoutOf(page.Kind).Name) + "." + std::string(entry.Field));
+  for (const RecordPage& page : RecordPages())
+    for (const Field& field : LayoutOf(page.Kind).Fields)
+      for (int i = 0; i < field.Count; ++i) {
+        const std::string name = FieldName(field, i);
+        const bool leftOut = std::ranges::any_of(
+            kLeftOut, [&](std::string_view left) { return name.starts_with(left); });
+        const bool isShown = shown.contains(std::string(LayoutOf(page.Kind).Name) + "." + name);
+        EXPECT_TRUE(isShown || leftOut) << LayoutOf(page.Kind).Name << " " << name;
+      }
+}
+
+TEST(TheCamp, IsChosenByItsWords) {
+  EditorHome home;
+  home.Page("cmdpromo", "NEW");
+  const std::vector<std::string> words = {"None", "Poor", "Average", "Good", "Superb"};
+  EXPECT_EQ(words, home.Desk.FirstColumn("cmbtrain"));
+  EXPECT_EQ(R"(For a promotion to go to the "next size", they have to reach 100% image during the )"
+            "game. 0 to 100 percent.",
+            home.Desk.Tip("txtimage"));
+}
 
 TEST(AnAuthor, IsToldWhyARecordCannotBe) {
   for (const RefusalCase& refusal : kRefusals) {
