@@ -48,7 +48,7 @@ class frmEditor : public ui::Screen {
   ui::Page Layout() override {
     std::vector<ui::Box> records, works;
     for (std::size_t i = 0; i < pages_.size(); ++i)
-      records.push_back(ui::Columns({*pages_[i], *counts_[i]}));
+      records.push_back(ui::Columns({ui::Box(*pages_[i]).Grow(), ui::Box(*counts_[i]).Grow()}));
     for (const auto& work : works_) works.emplace_back(*work);
     works.emplace_back(cmdrestore);
     ui::Page page;
@@ -127,7 +127,11 @@ class frmEditor : public ui::Screen {
   std::vector<std::unique_ptr<ui::Button>> works_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Button cmdrestore{*this, "cmdrestore", "Restore Backup", &frmEditor::cmdrestore_Click};
-  ui::ListBox lstfaults{*this, "lstfaults", {{"File"}, {"Record"}, {"Fault"}}};
+  ui::ListBox lstfaults{*this,
+                        "lstfaults",
+                        {{"File", ui::ColumnKind::Text, 2},
+                         {"Record", ui::ColumnKind::Text, 3},
+                         {"Fault", ui::ColumnKind::Text, 9}}};
   ui::Button cmdback{*this, "cmdback", "Back", &frmEditor::cmdback_Click};
 };
 

@@ -13,6 +13,14 @@ ui::Tone ToneOf(const Field& field, std::string_view words) {
   return words == "Heel" ? ui::Tone::Red : ui::Tone::Muted;
 }
 
+int CodeIn(const Field& field, const FieldPlace& place, const std::byte* record) {
+  if (field.Kind != FieldKind::Text)
+    return static_cast<int>(FieldNumber(field, record, place.Index));
+  for (const Term& term : field.Words)
+    if (term.Stored == FieldText(field, record, place.Index)) return term.Code;
+  return 0;
+}
+
 std::string WordsOf(const PageColumn& column, const FieldPlace& place, const std::byte* record) {
   if (column.Words.empty()) return FieldShown(*place.Of, record, place.Index);
   const int code = static_cast<int>(FieldNumber(*place.Of, record, place.Index));
@@ -35,6 +43,7 @@ ui::Cell CellOf(const World& world, const PageColumn& column, const FieldPlace& 
     return ui::Cell(static_cast<int>(number));
   }
   const std::string words = WordsOf(column, place, record);
+  if (column.Kind == kByCode) return {static_cast<double>(CodeIn(field, place, record)), words};
   return {words, ToneOf(field, words)};
 }
 

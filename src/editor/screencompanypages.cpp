@@ -11,7 +11,7 @@ using K = ui::ColumnKind;
 
 constexpr PageColumn kPromotionColumns[] = {{"Initials", "Initials"},
                                             {"Name", "Name"},
-                                            {"Size", "Size"},
+                                            {"Size", "Size", kByCode},
                                             {"Image", "Image", K::Percent},
                                             {"Money", "Money", K::Number}};
 constexpr FormEntry kPromotionWho[] = {{"Name", "Name", "txtname"},
@@ -70,7 +70,7 @@ constexpr FormEntry kTitleWho[] = {{"Holder", "Champion", "cmbholder"},
 constexpr FormGroup kTitleGroups[] = {{"", 1, "Title", kTitleWhat}, {"", 1, "Champion", kTitleWho}};
 
 constexpr PageColumn kShowColumns[] = {
-    {"Name", "Show"}, {"Owner", "Promotion"}, {"Day", "Day"},
+    {"Name", "Show"}, {"Owner", "Promotion"}, {"Day", "Day", kByCode},
     {"Slot", "Slot"}, {"Network", "Network"}, {"Rating3", "Last rating", K::Number}};
 constexpr FormEntry kShowWhat[] = {{"Name", "Name", "txtname"},
                                    {"Owner", "Promotion", "cmbowner"},
@@ -91,8 +91,8 @@ constexpr FormGroup kShowGroups[] = {{"", 1, "Show", kShowWhat},
 
 constexpr PageColumn kEventColumns[] = {{"Name", "Event"},
                                         {"Owner", "Promotion"},
-                                        {"Month", "Month", K::Text, kMonths},
-                                        {"Type", "Type"}};
+                                        {"Month", "Month", kByCode, kMonths},
+                                        {"Type", "Type", kByCode}};
 constexpr FormEntry kEventEntries[] = {{"Name", "Name", "txtname"},
                                        {"Owner", "Promotion", "cmbowner"},
                                        {"Month", "Month", "cmbmonth", kMonths},

@@ -31,6 +31,9 @@ struct FormGroup {
   std::span<const FormEntry> Entries;
 };
 
+/// Words that are sorted as their codes are: Monday before Friday.
+inline constexpr ui::ColumnKind kByCode = ui::ColumnKind::Date;
+
 struct PageColumn {
   std::string_view Field;
   std::string_view Title;

@@ -9,13 +9,9 @@ namespace {
 
 using K = ui::ColumnKind;
 
-constexpr PageColumn kWorkerColumns[] = {{"Name", "Name"},
-                                         {"Employer", "Employer"},
-                                         {"Position", "Position"},
-                                         {"Disposition", "Side"},
-                                         {"Gender", "Sex"},
-                                         {"Age", "Age", K::Number},
-                                         {"Over", "Over", K::Percent}};
+constexpr PageColumn kWorkerColumns[] = {
+    {"Name", "Name"},        {"Employer", "Employer"},  {"Position", "Position", kByCode},
+    {"Disposition", "Side"}, {"Age", "Age", K::Number}, {"Over", "Over", K::Percent}};
 constexpr FormEntry kWorkerWho[] = {{"Name", "Name", "txtname"},
                                     {"ShortName", "Short name", "txtshortname"},
                                     {"Gender", "Sex", "cmbgender"},
@@ -93,7 +89,7 @@ constexpr FormEntry kOwnerJob[] = {{"Employer", "Owns", "cmbemployer"},
 constexpr FormGroup kOwnerGroups[] = {{"", 1, "Who", kStaffWho}, {"", 1, "Chair", kOwnerJob}};
 
 constexpr PageColumn kStaffColumns[] = {{"Name", "Name"},
-                                        {"Position", "Post"},
+                                        {"Position", "Post", kByCode},
                                         {"Employer", "Employer"},
                                         {"Age", "Age", K::Number},
                                         {"Talent", "Talent", K::Percent}};

@@ -58,7 +58,7 @@ RecordScreen::RecordScreen(Game& game, const RecordPage& page)
       form_(*this, page, [this] { ShowButtons(); }) {
   for (const PageColumn& column : page.Columns)
     columns_.push_back(FieldNamed(page.Kind, column.Field));
-  txtsearch.Hint = "Search";
+  txtsearch.Hint = "Search in all columns";
   txtsearch.OnChange = [this] { txtsearch_Change(); };
   lblfault.Colour = ui::Tone::Amber;
   lstrecords.Room = 30;
