@@ -5,6 +5,7 @@
 #include "business/officescreens.h"
 #include "business/tvscreens.h"
 #include "calendar/calendarscreens.h"
+#include "editor/editorscreens.h"
 #include "info/chroniclescreens.h"
 #include "info/infoscreens.h"
 #include "rivals/rivalscreens.h"
@@ -29,6 +30,7 @@ void RegisterScreens(Game& game) {
   RegisterCalendarScreens(game);
   RegisterInfoScreens(game);
   RegisterChronicleScreens(game);
+  RegisterEditorScreens(game);
   RegisterSessionScreens(game);
 }
 

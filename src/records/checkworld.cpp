@@ -57,8 +57,9 @@ constexpr Rule kRules[] = {
 /// One remedy may bring to light what another rule minds; a handful of rounds settles all of them.
 constexpr int kMostRounds = 20;
 
-std::vector<Fault> Inspect(World& world, Inspection::Purpose purpose) {
-  Inspection inspection(world, purpose);
+std::vector<Fault> Inspect(World& world, Inspection::Purpose purpose,
+                           const std::function<bool(const Fault&)>& wanted = {}) {
+  Inspection inspection(world, purpose, wanted);
   for (const Rule& rule : kRules)
     if (rule.When == Held::Always || (rule.When == Held::InData) == inspection.AsData())
       rule.Look(inspection);
@@ -73,9 +74,13 @@ std::vector<Fault> CheckWorld(const World& world) {
 }
 
 std::vector<Fault> MendWorld(World& world) {
+  return MendWorld(world, {});
+}
+
+std::vector<Fault> MendWorld(World& world, const std::function<bool(const Fault&)>& wanted) {
   std::vector<Fault> mended;
   for (int round = 0; round < kMostRounds; ++round) {
-    std::vector<Fault> now = Inspect(world, Inspection::Purpose::Mend);
+    std::vector<Fault> now = Inspect(world, Inspection::Purpose::Mend, wanted);
     if (now.empty()) break;
     std::move(now.begin(), now.end(), std::back_inserter(mended));
   }

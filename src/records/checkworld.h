@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -25,5 +26,7 @@ std::vector<Fault> CheckWorld(const World& world);
 /// The clean-up of a copied database: references to nobody and to the gone, doubles and values out
 /// of range are mended. What was done, a line each; nothing for a world in order. Draws nothing.
 std::vector<Fault> MendWorld(World& world);
+/// The same for those faults alone to which `wanted` says yes; all others stay.
+std::vector<Fault> MendWorld(World& world, const std::function<bool(const Fault&)>& wanted);
 
 }  // namespace grapplemont

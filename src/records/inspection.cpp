@@ -28,8 +28,11 @@ std::string Fault::Line() const {
   return line + ": " + What;
 }
 
-Inspection::Inspection(World& world, Purpose purpose)
-    : world_(world), purpose_(purpose), asData_(purpose == Purpose::Mend || !world.HasGame()) {}
+Inspection::Inspection(World& world, Purpose purpose, std::function<bool(const Fault&)> wanted)
+    : world_(world),
+      purpose_(purpose),
+      wanted_(std::move(wanted)),
+      asData_(purpose == Purpose::Mend || !world.HasGame()) {}
 
 bool Inspection::Covers(const RecordLayout& layout) const {
   return !asData_ || std::find(kDataSet.begin(), kDataSet.end(), layout.File) != kDataSet.end();
@@ -47,6 +50,7 @@ void Inspection::NoteField(const Place& place, std::string_view field, std::stri
 }
 
 void Inspection::Take(Fault fault, const Remedy& remedy) {
+  if (wanted_ && !wanted_(fault)) return;
   if (purpose_ == Purpose::Mend) {
     if (!remedy.Do) return;
     remedy.Do();

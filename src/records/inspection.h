@@ -30,7 +30,8 @@ class Inspection {
  public:
   enum class Purpose { Check, Mend };
 
-  Inspection(World& world, Purpose purpose);
+  /// With `wanted`, no other fault is mended or told.
+  Inspection(World& world, Purpose purpose, std::function<bool(const Fault&)> wanted = {});
 
   World& Of() const { return world_; }
   /// Looked at as default data: the ten files of a data set, all in order for a game to begin. Else
@@ -56,6 +57,7 @@ class Inspection {
 
   World& world_;
   Purpose purpose_;
+  std::function<bool(const Fault&)> wanted_;
   bool asData_;
   std::vector<Fault> found_;
 };

@@ -89,6 +89,12 @@ int NextStaffUid(const World& world) {
 int NextPromotionUid(const World& world) {
   return NextUid(world, world.Promotions(), Refers::Promotion);
 }
+int NextNetworkUid(const World& world) {
+  return NextUid(world, world.Networks(), Refers::Network);
+}
+int NextSponsorUid(const World& world) {
+  return NextUid(world, world.Sponsors(), Refers::Sponsor);
+}
 
 bool WorkerNameFree(const World& world, std::string_view name) {
   return !FindNamed(world.Workers(), name);

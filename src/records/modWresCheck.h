@@ -14,6 +14,8 @@ namespace grapplemont {
 int NextWorkerUid(const World& world);
 int NextStaffUid(const World& world);
 int NextPromotionUid(const World& world);
+int NextNetworkUid(const World& world);
+int NextSponsorUid(const World& world);
 /// True if no record has this name; compared trimmed, case as it stands.
 bool WorkerNameFree(const World& world, std::string_view name);
 bool StaffNameFree(const World& world, std::string_view name);

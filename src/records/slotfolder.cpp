@@ -126,6 +126,20 @@ void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFil
   PutInPlace(disk, folder, quirks);
 }
 
+void ReplaceFolder(Disk& disk, const std::string& folder, const std::vector<NewFile>& files) {
+  const std::string built = NewOf(folder);
+  try {
+    disk.MakeFolder(built);
+    for (const NewFile& file : files) WriteNewFile(disk, built + "/" + file.Name, file.Contents);
+    disk.SyncFolder(built);
+    disk.SyncFolder(ParentOf(folder));
+  } catch (const DiskError&) {
+    ClearQuietly(disk, built);
+    throw;
+  }
+  PutInPlace(disk, folder, {});
+}
+
 void FinishSwap(Disk& disk, const std::string& folder) {
   const std::string parent = ParentOf(folder), built = NewOf(folder), old = OldOf(folder);
   const bool hasNew = disk.Look(built) != Disk::Kind::Nothing;

@@ -44,6 +44,9 @@ std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes);
 void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
                  std::uint64_t worldId, std::int64_t journalBytes, const JournalQuirks& quirks);
 
+/// The same for a folder that is no slot and holds these files alone.
+void ReplaceFolder(Disk& disk, const std::string& folder, const std::vector<NewFile>& files);
+
 /// Brings a ReplaceSlot that was cut short to its end, or takes it back, and clears its leavings.
 /// Requires the lock.
 void FinishSwap(Disk& disk, const std::string& folder);

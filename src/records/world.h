@@ -191,8 +191,9 @@ inline constexpr std::array<std::string_view, 10> kDataSet = {
 
 /// The files a folder may hold and how long each may be.
 std::vector<KnownFile> KnownFiles();
-/// Reads the known files of a folder; others are left alone. Throws DiskError, and WorldFault for a
-/// file that is too long or is none (a folder, a link).
+/// Reads the known files of a folder; others are left alone. A step that stands beside it counts
+/// (datastep.h). Throws DiskError, and WorldFault for a file that is too long or is none (a folder,
+/// a link).
 std::map<std::string, Bytes> ReadWorldFiles(Disk& disk, const std::string& folder);
 
 /// Every file that the world has, whole: what a slot is made of.

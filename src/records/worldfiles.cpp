@@ -1,5 +1,6 @@
 #include <cstring>
 
+#include "records/datastep.h"
 #include "records/world.h"
 
 namespace grapplemont {
@@ -27,6 +28,7 @@ std::map<std::string, Bytes> ReadWorldFiles(Disk& disk, const std::string& folde
                        ". Put back a file of this game.");
     files.emplace(known.Name, std::move(bytes));
   }
+  if (const auto step = StandingStep(disk, folder)) ApplyTo(files, *step);
   return files;
 }
 

@@ -1,5 +1,6 @@
 #include "tools/folders.h"
 
+#include "records/datastep.h"
 #include "records/draws.h"
 #include "records/slotfolder.h"
 
@@ -42,6 +43,7 @@ void WriteData(Disk& disk, const std::string& folder, const World& world) {
   const std::vector<NewFile> files = FilesOf(world);
   for (const NewFile& file : files) WriteFile(disk, beside + "/" + file.Name, file.Contents);
   disk.MakeFolder(folder);
+  FinishStep(disk, folder);  // an editor's, cut short; it must not come up again over these files
   for (const NewFile& file : files) disk.Rename(beside + "/" + file.Name, folder + "/" + file.Name);
   disk.SyncFolder(folder);
   disk.Remove(beside);

@@ -58,6 +58,7 @@ World& Game::World() {
 }
 
 void Game::Commit() {
+  if (joined_) joined_->Commit();
   if (!world_) return;
   const auto changes = world_->Changes();
   if (changes.empty()) return;
@@ -84,12 +85,14 @@ bool Game::MayChange(const std::vector<FileChange>& changes) const {
 }
 
 void Game::Rollback() {
+  if (joined_) joined_->Rollback();
   if (world_) world_->Rollback();
 }
 
 std::string Game::Explain(const std::exception& fault) const {
   const auto* overflow = dynamic_cast<const FieldOverflow*>(&fault);
-  return overflow && world_ ? world_->Explain(*overflow) : fault.what();
+  if (overflow && world_) return world_->Explain(*overflow);
+  return joined_ ? joined_->Explain(fault) : fault.what();
 }
 
 }  // namespace grapplemont

@@ -72,6 +72,11 @@ class Game : public ui::Work {
   /// Requires an open world.
   grapplemont::World& World();
 
+  /// What else every event is a transaction of, while a room keeps something of its own open (the
+  /// editor the default data); nullptr for nothing.
+  void Join(std::shared_ptr<ui::Work> work) { joined_ = std::move(work); }
+  const std::shared_ptr<ui::Work>& Joined() const { return joined_; }
+
   void Commit() override;
   void Rollback() override;
   std::string Explain(const std::exception& fault) const override;
@@ -87,6 +92,7 @@ class Game : public ui::Work {
   std::unique_ptr<Slot> slot_;
   std::unique_ptr<grapplemont::World> world_;
   bool isOver_ = false;  // as of the last commit
+  std::shared_ptr<ui::Work> joined_;
 };
 
 }  // namespace grapplemont

@@ -56,9 +56,12 @@ constexpr const char* kInGame[] = {
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
     "frmReigns",     "frmResults",      "frmReports",    "frmAwards"};
-constexpr const char* kBeforeGame[] = {"frmTitleScreen", "frmDisclaimer",  "frmGameMenu",
-                                       "frmCredits",     "frmCreditsXtra", "frmNewGame",
-                                       "frmLoadGame",    "frmWait",        "frmLoadingScreens"};
+constexpr const char* kBeforeGame[] = {
+    "frmTitleScreen", "frmDisclaimer", "frmGameMenu",   "frmCredits",        "frmCreditsXtra",
+    "frmNewGame",     "frmLoadGame",   "frmWait",       "frmLoadingScreens", "frmEditor",
+    "frmEditWres",    "frmEditPromo",  "frmEditOwners", "frmEditStaff",      "frmEditTeams",
+    "frmEditStables", "frmEditBelts",  "frmEditTv",     "frmEditEvents",     "frmEditNetworks",
+    "frmEditSponsors"};
 
 TEST(EveryScreen, OpensOnAWorldWithSomethingOfEverything) {
   GameOnWorld play(SmallWorld()
@@ -86,7 +89,19 @@ TEST(EveryScreen, OpensOnAWorldWithNothingButThePlayersPromotion) {
 }
 
 TEST(EveryScreen, OpensBeforeAGameOnRichAndOnEmptyData) {
-  HomeFolder rich(SmallWorld().Promotion("CWA").Owner("Ruth Vane").Crew(4).Build());
+  HomeFolder rich(SmallWorld()
+                      .Network("Nine")
+                      .Promotion("CWA")
+                      .Owner("Ruth Vane")
+                      .Staff("Pen", kWriter)
+                      .Crew(4)
+                      .Team("The Hands", "CWA Hand 1", "CWA Hand 2")
+                      .Stable("The Firm", {"CWA Hand 3"})
+                      .Title("CWA Crown", "CWA Hand 1")
+                      .Show("Sunday Slam", "Sunday", "Nine")
+                      .Sponsor("Gulp")
+                      .Event(3)
+                      .Build());
   for (const char* name : kBeforeGame) Visit(rich.Desk, name);
   HomeFolder empty{World()};
   for (const char* name : kBeforeGame) Visit(empty.Desk, name);

@@ -158,7 +158,7 @@ TEST(Matches, LoseTheUidOfWhoeverLeavesTheWorldAndKeepHisName) {
   for (const int uid : {2, 5}) {
     Worker& gone = *world.FindWorker(uid);
     SeverWorker(world, gone);
-    ForgetWorker(world, uid);
+    ForgetWorker(world, gone);
     gone.Name = "Somebody Else";
     gone.ShortName = "Else";
   }

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "records/checkworld.h"
+
+// What a change of one record does to the order of the rest. The rules of CheckWorld say it: a
+// fault that was not there before is either the author's to put right, or something that cannot
+// stay and is mended as the clean-up would.
+
+namespace grapplemont {
+
+/// The faults that the data had at a moment.
+class FaultCounts {
+ public:
+  /// By record where numbers stay; else by what the fault says alone.
+  enum class By { Record, What };
+  FaultCounts(const World& world, By by);
+  /// Those that are there oftener than then.
+  std::vector<Fault> NewIn(const World& world) const;
+
+ private:
+  std::string KeyOf(const Fault& fault) const;
+  By by_;
+  std::map<std::string, int> counts_;
+};
+
+/// Whether it is a tie to something else that ends by itself: an office, a Title, a manager.
+bool IsConsequence(const Fault& fault);
+/// Ends the ties that are wrong only since `before`; what was done is added to `also`.
+void MendConsequences(World& world, const FaultCounts& before, std::vector<std::string>& also);
+
+}  // namespace grapplemont

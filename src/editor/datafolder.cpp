@@ -1,0 +1,197 @@
+#include "editor/datafolder.h"
+
+#include <algorithm>
+
+#include "records/slotfolder.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr const char* kTakenBack = "Your change was taken back.";
+constexpr const char* kUnknown =
+    "Your change was taken back here; whether the disk kept it will show when the editor is opened "
+    "again. Nothing can be kept until the disk answers.";
+constexpr const char* kKept = "Your change is kept.";
+constexpr const char* kNoUndo =
+    "The backup has been restored, but what the data were before could not be kept.";
+
+std::string LockOf(const std::string& folder) {
+  return folder + ".lock";
+}
+
+/// How long a file of the data set may be.
+std::int64_t MaxBytesOf(const std::string& name) {
+  static const std::vector<KnownFile> known = KnownFiles();
+  const auto found =
+      std::find_if(known.begin(), known.end(), [&](auto& file) { return file.Name == name; });
+  return found == known.end() ? 0 : found->MaxBytes;
+}
+
+std::string WhyTooLong(std::string_view file, std::size_t bytes) {
+  return std::string(file) + " is " + std::to_string(bytes) +
+         " bytes long, more than its most of " + std::to_string(MaxBytesOf(std::string(file))) +
+         ".";
+}
+
+std::vector<NewFile> AsNewFiles(const std::map<std::string, Bytes>& files) {
+  std::vector<NewFile> all;
+  for (const auto& [name, contents] : files) all.push_back({name, contents});
+  return all;
+}
+
+/// What turns one set of files into another; before it, the checksums of the first.
+DataStep StepBetween(const std::map<std::string, Bytes>& before,
+                     const std::map<std::string, Bytes>& after) {
+  std::vector<FileChange> changes;
+  for (const std::string_view file : kDataSet) {
+    const std::string name(file);
+    const auto old = before.find(name), fresh = after.find(name);
+    FileChange change{name, old != before.end(), fresh != after.end(), {}, {}};
+    if (change.ExistsBefore) change.Before = old->second;
+    if (change.ExistsAfter) change.After = fresh->second;
+    const bool same = change.ExistsBefore == change.ExistsAfter &&
+                      std::ranges::equal(change.Before, change.After);
+    if (!same) changes.push_back(change);
+  }
+  return StepOf(changes);
+}
+
+}  // namespace
+
+DataBusy::DataBusy()
+    : std::runtime_error(
+          "The default data are being edited in another program. Close the editor there first; "
+          "nothing was changed.") {}
+
+DataFolder::DataFolder(Disk& disk, std::string folder) : disk_(disk), folder_(std::move(folder)) {
+  const Disk::Kind kind = disk_.Look(folder_);
+  if (kind == Disk::Kind::Nothing || kind == Disk::Kind::File)
+    throw WorldFault("There is no folder \"" + folder_ + "\". Put the game's data there.");
+  if (!disk_.Lock(LockOf(folder_))) throw DataBusy();
+  try {
+    FinishStep(disk_, folder_);
+    FinishSwap(disk_, BackupFolder());
+    Read();
+  } catch (...) {
+    disk_.Unlock(LockOf(folder_));
+    throw;
+  }
+}
+
+DataFolder::~DataFolder() {
+  disk_.Unlock(LockOf(folder_));
+}
+
+void DataFolder::Read() {
+  std::map<std::string, Bytes> files;
+  for (const std::string_view file : kDataSet) {
+    const std::string name(file), path = folder_ + "/" + name;
+    const Disk::Kind kind = disk_.Look(path);
+    if (kind == Disk::Kind::File)
+      files.emplace(name, ReadFile(disk_, path));
+    else if (kind != Disk::Kind::Nothing)
+      unreadable_.push_back({name, name + " is no plain file."});
+  }
+  Load(std::move(files));
+}
+
+void DataFolder::Load(std::map<std::string, Bytes> files) {
+  std::erase_if(unreadable_,
+                [&](const UnreadableFile& file) { return unread_.contains(file.File); });
+  unread_.clear();
+  for (const std::string_view file : kDataSet) {
+    const auto found = files.find(std::string(file));
+    if (found == files.end() || std::ssize(found->second) <= MaxBytesOf(found->first)) continue;
+    unreadable_.push_back({found->first, WhyTooLong(file, found->second.size())});
+    unread_.insert(files.extract(found));
+  }
+  world_.Load(files);
+}
+
+bool DataFolder::IsReadable(std::string_view file) const {
+  return std::none_of(unreadable_.begin(), unreadable_.end(),
+                      [&](const UnreadableFile& one) { return one.File == file; });
+}
+
+std::map<std::string, Bytes> DataFolder::FilesNow() const {
+  std::map<std::string, Bytes> files = unread_;
+  for (const Table* table : world_.Tables())
+    if (table->CommittedExists()) files.emplace(table->File(), table->Committed());
+  return files;
+}
+
+bool DataFolder::HasBackup() const {
+  return !StandingFolder(disk_, BackupFolder()).empty();
+}
+
+void DataFolder::KeepBackup(const std::map<std::string, Bytes>& files) {
+  FinishSwap(disk_, BackupFolder());
+  ReplaceFolder(disk_, BackupFolder(), AsNewFiles(files));
+  backedUp_ = true;
+}
+
+/// What a failed step has left, before the next one.
+void DataFolder::FinishBusiness() {
+  if (unfinished_ == Unfinished::Drop) DropStep(disk_, folder_);
+  if (unfinished_ == Unfinished::Apply) FinishStep(disk_, folder_);
+  unfinished_ = Unfinished::Nothing;
+}
+
+void DataFolder::Take(const DataStep& step, const std::function<void()>& made) {
+  FinishBusiness();
+  if (!StepFits(disk_, folder_, step))
+    throw WorldFault(
+        "The default data were changed by another program meanwhile. Your change was taken back; "
+        "leave the editor and open it again.");
+  try {
+    unfinished_ = Unfinished::Drop;
+    WriteStep(disk_, folder_, step);
+  } catch (const DiskError& fault) {
+    try {
+      FinishBusiness();
+    } catch (const DiskError&) {
+      throw DiskError(fault, kUnknown);
+    }
+    throw DiskError(fault, kTakenBack);
+  }
+  unfinished_ = Unfinished::Apply;
+  made();
+  try {
+    ApplyStep(disk_, folder_, step);
+    DropStep(disk_, folder_);
+    unfinished_ = Unfinished::Nothing;
+  } catch (const DiskError& fault) {
+    throw DiskError(fault, kKept);
+  }
+}
+
+void DataFolder::Commit() {
+  const auto changes = world_.Changes();
+  if (changes.empty()) return;
+  if (!backedUp_) KeepBackup(FilesNow());
+  Take(StepOf(changes), [this] { world_.MarkCommitted(); });
+}
+
+bool DataFolder::Restore() {
+  for (const UnreadableFile& file : unreadable_)
+    if (!unread_.contains(file.File))
+      throw WorldFault(file.Why + " Move it away first; nothing was restored.");
+  FinishSwap(disk_, BackupFolder());
+  std::map<std::string, Bytes> files;
+  for (auto& [name, bytes] : ReadWorldFiles(disk_, BackupFolder()))
+    if (std::ranges::find(kDataSet, name) != kDataSet.end()) files.emplace(name, std::move(bytes));
+  const auto before = FilesNow();
+  const DataStep step = StepBetween(before, files);
+  if (step.empty()) return false;
+  Take(step, [&] { Load(files); });
+  // Only now: were it to go first, a fault between the two would cost the backup itself.
+  try {
+    KeepBackup(before);
+  } catch (const DiskError& fault) {
+    throw DiskError(fault, kNoUndo);
+  }
+  return true;
+}
+
+}  // namespace grapplemont

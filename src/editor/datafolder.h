@@ -1,0 +1,80 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "records/datastep.h"
+#include "records/world.h"
+
+namespace grapplemont {
+
+/// Another program edits the default data; nothing of it was touched.
+class DataBusy : public std::runtime_error {
+ public:
+  DataBusy();
+};
+
+/// A file of the data that cannot be read as one: it is shown and left alone.
+struct UnreadableFile {
+  std::string File;  // "promos.dat"
+  std::string Why;
+};
+
+/// The default data while it is edited: the ten files of the data folder as a World, locked against
+/// other editors. Whatever rules do to the World goes to disk all or nothing with each Commit.
+class DataFolder {
+ public:
+  /// Opens the folder; a commit or restore that was cut short is brought to its end first. Throws
+  /// DataBusy, DiskError, and WorldFault where there is no folder.
+  DataFolder(Disk& disk, std::string folder);
+  ~DataFolder();
+  DataFolder(const DataFolder&) = delete;
+  DataFolder& operator=(const DataFolder&) = delete;
+
+  grapplemont::World& World() { return world_; }
+  const grapplemont::World& World() const { return world_; }
+  const std::string& Folder() const { return folder_; }
+  /// Files that are too long or no plain files. Their records are missing in the World.
+  const std::vector<UnreadableFile>& Unreadable() const { return unreadable_; }
+  bool IsReadable(std::string_view file) const;
+
+  /// Puts on disk what has changed in the World, for good when it returns. The first one of a
+  /// session keeps a backup of the folder as it was before. Throws DiskError, whose text says what
+  /// became of the change, and WorldFault when somebody else has changed the files meanwhile. The
+  /// World then is to be rolled back: to what is on disk.
+  void Commit();
+  /// Takes back what has changed since the last commit.
+  void Rollback() { world_.Rollback(); }
+
+  bool HasBackup() const;
+  /// The backup and the data change places: what the data were becomes the backup, so that another
+  /// restore undoes this one. False when both are the same, and nothing was done. Requires a
+  /// backup, and nothing uncommitted. Throws as Commit, and WorldFault for a backup that is none.
+  bool Restore();
+
+ private:
+  enum class Unfinished { Nothing, Drop, Apply };
+
+  std::string BackupFolder() const { return folder_ + ".backup"; }
+  /// The files as they are on disk, those that cannot be read as bytes only.
+  std::map<std::string, Bytes> FilesNow() const;
+  void Load(std::map<std::string, Bytes> files);
+  void Read();
+  void KeepBackup(const std::map<std::string, Bytes>& files);
+  void FinishBusiness();
+  /// `made` runs once the step is on disk; what fails later does not undo it.
+  void Take(const DataStep& step, const std::function<void()>& made);
+
+  Disk& disk_;
+  std::string folder_;
+  grapplemont::World world_;
+  std::vector<UnreadableFile> unreadable_;
+  std::map<std::string, Bytes> unread_;  // what is in those that are plain files
+  bool backedUp_ = false;
+  Unfinished unfinished_ = Unfinished::Nothing;
+};
+
+}  // namespace grapplemont

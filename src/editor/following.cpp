@@ -1,0 +1,142 @@
+#include "editor/following.h"
+
+#include <algorithm>
+
+#include "records/modWresCheck.h"
+#include "records/sweeps.h"
+
+namespace grapplemont {
+
+namespace {
+
+void FollowStable(World& world, const Stable& old, const Stable& now) {
+  if (old.Name == now.Name) return;
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == old.Owner && worker.Stable == old.Name) worker.Stable = now.Name.View();
+}
+
+void FollowSplits(World& world, const Promotion& old, const Promotion& now) {
+  for (std::size_t i = 0; i < old.Split.size(); ++i) {
+    if (old.Split[i] == now.Split[i] || old.Split[i] == "None" || now.Split[i] == "None") continue;
+    for (Worker& worker : world.Workers())
+      if (worker.Employer == now.Uid && worker.Split == old.Split[i])
+        worker.Split = now.Split[i].View();
+  }
+}
+
+/// Nobody talks beside the ring of a promotion that he has left.
+void LeaveShows(World& world, int employer, int uid, bool isWorker,
+                std::vector<std::string>& also) {
+  for (Show& show : world.Shows()) {
+    if (show.Owner != employer || uid == 0) continue;
+    if (!isWorker && show.Announcer == uid) {
+      show.Announcer = 0;
+      also.push_back(show.Name + " loses its announcer.");
+    }
+    if (show.Colour == uid && bool(show.ColourIsWorker) == isWorker) {
+      show.Colour = 0;
+      show.ColourIsWorker = false;
+      also.push_back(show.Name + " loses its colour commentator.");
+    }
+  }
+}
+
+void FreePlaces(Promotion& promotion, int sponsorUid) {
+  for (Word& place : promotion.Sponsor)
+    if (place == sponsorUid) place = 0;
+}
+
+std::string FollowSponsor(World& world, const Sponsor& sponsor) {
+  for (Promotion& promotion : world.Promotions())
+    if (promotion.Uid != sponsor.Promotion) FreePlaces(promotion, sponsor.Uid);
+  Promotion* promotion = world.FindPromotion(sponsor.Promotion);
+  if (!promotion || std::ranges::find(promotion->Sponsor, sponsor.Uid) != promotion->Sponsor.end())
+    return {};
+  const auto free = std::ranges::find(promotion->Sponsor, 0);
+  if (free == promotion->Sponsor.end()) return promotion->Initials + " has four sponsors already.";
+  *free = sponsor.Uid;
+  return {};
+}
+
+std::string FollowPlaces(World& world, const Promotion& promotion) {
+  for (const Word& place : promotion.Sponsor) {
+    Sponsor* sponsor = world.FindSponsor(place);
+    if (!sponsor) continue;
+    if (sponsor->Promotion != 0 && sponsor->Promotion != promotion.Uid)
+      return sponsor->Name + " sponsors " + PromotionInitials(world, sponsor->Promotion) +
+             " already.";
+    sponsor->Promotion = promotion.Uid;
+  }
+  for (Sponsor& sponsor : world.Sponsors())
+    if (sponsor.Promotion == promotion.Uid &&
+        std::ranges::find(promotion.Sponsor, sponsor.Uid) == promotion.Sponsor.end()) {
+      sponsor.Promotion = 0;
+      sponsor.ContractMonths = 0;
+    }
+  return {};
+}
+
+bool SamePlaces(const Promotion& a, const Promotion& b) {
+  return std::ranges::equal(a.Sponsor, b.Sponsor,
+                            [](const Word& one, const Word& other) { return int(one) == other; });
+}
+
+void EndPromotion(World& world, int number) {
+  // One that only shares its uid may live on, and its people with it.
+  Promotion& gone = world.Promotions()[number];
+  const bool shared = std::ranges::count_if(world.Promotions(), [&](const Promotion& other) {
+                        return other.Uid == gone.Uid;
+                      }) > 1;
+  if (shared || gone.Uid == 0) return world.Promotions().Erase(number);
+  const int before = world.Promotions().Count();
+  gone.Name = kToBeDeleted;
+  SweepDeadPromotions(world);
+  SweepDeadShows(world);
+  if (world.Promotions().Count() == before) world.Promotions().Erase(number);
+}
+
+}  // namespace
+
+std::string FollowChange(World& world, RecordKind kind, const Bytes& old, int number,
+                         std::vector<std::string>& also) {
+  const std::byte* now = RecordAt(std::as_const(world), kind, number);
+  switch (kind) {
+    case RecordKind::Sponsor:
+      if (old.empty() || As<Sponsor>(old.data()).Promotion != As<Sponsor>(now).Promotion)
+        return FollowSponsor(world, As<Sponsor>(now));
+      break;
+    case RecordKind::Promotion:
+      if (!old.empty()) FollowSplits(world, As<Promotion>(old.data()), As<Promotion>(now));
+      if (old.empty() || !SamePlaces(As<Promotion>(old.data()), As<Promotion>(now)))
+        return FollowPlaces(world, As<Promotion>(now));
+      break;
+    case RecordKind::Stable:
+      if (!old.empty()) FollowStable(world, As<Stable>(old.data()), As<Stable>(now));
+      break;
+    case RecordKind::Worker:
+      if (!old.empty() && As<Worker>(old.data()).Employer != As<Worker>(now).Employer)
+        LeaveShows(world, As<Worker>(old.data()).Employer, As<Worker>(old.data()).Uid, true, also);
+      break;
+    case RecordKind::Staff:
+      if (!old.empty() && As<Staff>(old.data()).Employer != As<Staff>(now).Employer)
+        LeaveShows(world, As<Staff>(old.data()).Employer, As<Staff>(old.data()).Uid, false, also);
+      break;
+    default:
+      break;
+  }
+  return {};
+}
+
+void Forget(World& world, RecordKind kind, int number, std::vector<std::string>& also) {
+  if (kind == RecordKind::Promotion) return EndPromotion(world, number);
+  if (kind == RecordKind::Worker) {
+    const Worker& worker = world.Workers()[number];
+    LeaveShows(world, worker.Employer, worker.Uid, true, also);
+  } else if (kind == RecordKind::Staff) {
+    const Staff& staff = world.AllStaff()[number];
+    LeaveShows(world, staff.Employer, staff.Uid, false, also);
+  }
+  WithRecords(world, kind, [number](auto& records) { records.Erase(number); });
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "editor/recordkinds.h"
+#include "records/checkworld.h"
+#include "ui/controls.h"
+
+// How each kind of record is laid out on its screen. What a field holds, its range and its help
+// stand in the field lists of the records; here only where it stands and what it is called.
+
+namespace grapplemont {
+
+/// What is more than one field of the record.
+enum class EntryAs { Field, Finisher1Type, Finisher2Type, Commentator };
+
+struct FormEntry {
+  std::string_view Field;  // "Brawl", "Split3"
+  std::string_view Label;
+  std::string_view Control;  // "txtbrawl"
+  Vocabulary Words = {};     // in place of the field's own
+  EntryAs As = EntryAs::Field;
+};
+
+struct FormGroup {
+  std::string_view Tab;  // groups of one tab stand together
+  int Column;            // within the tab, from 1
+  std::string_view Title;
+  std::span<const FormEntry> Entries;
+};
+
+/// Words that are sorted as their codes are: Monday before Friday.
+inline constexpr ui::ColumnKind kByCode = ui::ColumnKind::Date;
+
+struct PageColumn {
+  std::string_view Field;
+  std::string_view Title;
+  ui::ColumnKind Kind = ui::ColumnKind::Text;
+  Vocabulary Words = {};
+};
+
+struct RecordPage {
+  std::string_view Screen;  // "frmEditWres"
+  std::string_view Button;  // on the hub
+  std::string_view Title;   // "Workers"
+  std::string_view One;     // "worker"
+  RecordKind Kind;
+  std::span<const PageColumn> Columns;
+  std::span<const FormGroup> Groups;
+  /// Which of the file's records it shows; all without. What begins here gets `Begin`.
+  bool (*Shows)(const std::byte* record) = nullptr;
+  void (*Begin)(std::byte* record) = nullptr;
+};
+
+/// In the order of the hub.
+std::span<const RecordPage> RecordPages();
+
+/// "Popularity is 140, outside 0 to 100." with the field's name as the pages have it.
+std::string FaultWords(const Fault& fault);
+
+// The pages' tables.
+extern const RecordPage kWorkerPage, kPromotionPage, kOwnerPage, kStaffPage, kTeamPage, kStablePage,
+    kTitlePage, kShowPage, kEventPage, kNetworkPage, kSponsorPage;
+
+}  // namespace grapplemont

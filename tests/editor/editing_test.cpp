@@ -1,0 +1,521 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <set>
+
+#include "editor/keeping.h"
+#include "editor/screenpages.h"
+#include "editorhome.h"
+#include "records/modWresCheck.h"
+#include "support/randomworld.h"
+
+// An author at work, by the names of the controls.
+
+namespace grapplemont::test {
+namespace {
+
+using Steps = std::vector<std::pair<std::string, std::string>>;
+
+/// Types into boxes, picks rows, turns marks on ("on") and off.
+void Fill(ScriptDesk& desk, const Steps& steps) {
+  for (const auto& [control, value] : steps) {
+    if (control.starts_with("txt"))
+      desk.Type(control, value);
+    else if (control.starts_with("cmb"))
+      desk.Pick(control, value);
+    else
+      desk.Check(control, value == "on");
+  }
+}
+
+struct NewRecordCase {
+  std::string Button;
+  Steps Typed;
+  std::string Shown;  // the first cell of its row
+};
+const NewRecordCase kNewRecords[] = {
+    {"cmdwres", {{"txtname", "Bram Okafor"}, {"txtshortname", "Bram"}}, "Bram Okafor"},
+    {"cmdpromo", {{"txtname", "Far Out"}, {"txtinitials", "FAR"}}, "FAR"},
+    {"cmdowners",
+     {{"txtname", "Deep Pockets"}, {"cmbstyle", "6, youth (risk 20)"}},
+     "Deep Pockets"},
+    {"cmdstaff", {{"txtname", "Doc Tor"}, {"cmbposition", "Medical"}}, "Doc Tor"},
+    {"cmdteams",
+     {{"txtname", "Odd Pair"}, {"cmbworker1", "Cal Drift"}, {"cmbworker2", "CWA Hand 6"}},
+     "Odd Pair"},
+    {"cmdstables", {{"txtname", "The Club"}, {"cmbowner", "NEW"}}, "The Club"},
+    {"cmdbelts", {{"txtname", "NEW Cup"}, {"cmbowner", "NEW"}}, "NEW Cup"},
+    {"cmdtv",
+     {{"txtname", "New Dawn"}, {"cmbowner", "NEW"}, {"cmbnetwork", "Local"}, {"cmbday", "Friday"}},
+     "New Dawn"},
+    {"cmdevents",
+     {{"txtname", "Big Bang"}, {"cmbowner", "CWA"}, {"cmbmonth", "April"}},
+     "Big Bang"},
+    {"cmdnetworks", {{"txtname", "Ten"}, {"txtprime", "750"}}, "Ten"},
+    {"cmdsponsors", {{"txtname", "Fizz"}, {"cmbpromotion", "NEW"}}, "Fizz"}};
+
+void Add(ScriptDesk& desk, const NewRecordCase& made) {
+  desk.Click(made.Button);
+  desk.Click("cmdnew");
+  Fill(desk, made.Typed);
+  desk.Click("cmdsave");
+}
+
+TEST(AnAuthor, AddsAndDeletesOneOfEverythingWithoutATrace) {
+  for (const NewRecordCase& made : kNewRecords) {
+    SCOPED_TRACE(made.Button);
+    EditorHome home;
+    const auto before = home.Files();
+    Add(home.Desk, made);
+    EXPECT_NE(before, home.Files());
+    EXPECT_TRUE(CheckWorld(home.OnDisk()).empty());
+    home.Desk.Pick("lstrecords", made.Shown);
+    home.Desk.ExpectAsk("Delete", kAnyText, true, ui::Default::No);
+    home.Desk.Click("cmddelete");
+    EXPECT_EQ(before, home.Files());
+  }
+  EXPECT_EQ(RecordPages().size(), std::size(kNewRecords));
+}
+
+TEST(AnAuthor, GetsTheDataBackFromTheBackup) {
+  EditorHome home;
+  const auto before = home.Files();
+  EXPECT_FALSE(home.Desk.Enabled("cmdrestore"));
+  for (const NewRecordCase& made : kNewRecords) {
+    Add(home.Desk, made);
+    home.Desk.Click("cmdback");
+  }
+  const auto after = home.Files();
+  EXPECT_EQ("10 of 25000", home.Desk.Text("lblwres"));
+  home.Desk.ExpectAsk("Restore Backup", kAnyText, true, ui::Default::No);
+  home.Desk.Click("cmdrestore");
+  EXPECT_EQ(before, home.Files());
+  EXPECT_EQ("9 of 25000", home.Desk.Text("lblwres"));
+  home.Desk.ExpectAsk("Restore Backup", kAnyText, true);
+  home.Desk.Click("cmdrestore");
+  EXPECT_EQ(after, home.Files());
+}
+
+TEST(AnAuthor, ChangesEveryWordOfAWorker) {
+  EditorHome home;
+  World expected = home.OnDisk();
+  home.Page("cmdwres", "Cal Drift");
+  Fill(home.Desk, {{"txtname", " Cass Drift "},
+                   {"cmbgender", "female"},
+                   {"chkdiva", "on"},
+                   {"cmbbirthmonth", "May"},
+                   {"txtage", "31"},
+                   {"cmbweight", "Lightweight"},
+                   {"cmbdisposition", "Heel"},
+                   {"chkspeaks", "off"},
+                   {"txtfinisher1", "Undertow"},
+                   {"cmbfinisher1", "Submission"},
+                   {"txtbrawl", "0"},
+                   {"txtover", "100"},
+                   {"cmbemployer", "CWA"},
+                   {"cmbposition", "Midcard"},
+                   {"cmbcontract", "Written"},
+                   {"txtmonths", "24"},
+                   {"txtwage", "1,250"},
+                   {"cmbstable", "The Firm"},
+                   {"cmbmanager", "Max Agent"},
+                   {"chkcreative", "on"},
+                   {"txtlastturn", "2025-12-24"}});
+  home.Desk.Click("cmdsave");
+  Worker& cass = Named(expected.Workers(), "Cal Drift");
+  cass.Name = "Cass Drift";
+  cass.Gender = false;
+  cass.Diva = true;
+  cass.BirthMonth = 5;
+  cass.Age = 31;
+  cass.Weight = "L";
+  cass.Disposition = "H";
+  cass.Speaks = false;
+  cass.Finisher1 = "Undertow";
+  FinisherFlags(cass, 1, FinisherType::Submission);
+  cass.Brawl = 0;
+  cass.Over = 100;
+  cass.Employer = Named(expected.Promotions(), "CWA").Uid;
+  cass.Position = kMidcard;
+  cass.ContractType = "Wri";
+  cass.ContractMonths = 24;
+  cass.Wage = 1250;
+  cass.Stable = "The Firm";
+  cass.Manager = Named(expected.Workers(), "Max Agent").Uid;
+  cass.CreativeControl = true;
+  cass.LastTurn = Day{std::chrono::year{2025} / 12 / 24};
+  ExpectSame(home.OnDisk(), expected);
+}
+
+/// What is done to a record, and what the data hold then.
+struct ChangeCase {
+  std::string Button, Record;
+  Steps Changes;
+  std::function<void(World&)> Then;
+};
+const std::vector<ChangeCase> kChanges = {
+    {"cmdpromo",
+     "CWA",
+     {{"txtcamp", "The Yard"}, {"cmbtrain", "Superb"}, {"cmbheadtrainer", "Tray Nor"}},
+     [](World& world) {
+       Promotion& cwa = world.Promotions()[1];
+       cwa.CampName = "The Yard";
+       cwa.CampFacilities = 4;
+       cwa.HeadTrainer = Named(world.AllStaff(), "Tray Nor").Uid;
+     }},
+    {"cmdowners",
+     "Ruth Vane",
+     {{"cmbstyle", "5, women and stars (risk 85)"}},
+     [](World& world) { Named(world.AllStaff(), "Ruth Vane").Wage = 5; }},
+    {"cmdstables",
+     "The Firm",
+     {{"txtname", "The Board"}},
+     [](World& world) {
+       world.Stables()[1].Name = "The Board";
+       Named(world.Workers(), "CWA Hand 3").Stable = "The Board";
+       Named(world.Workers(), "CWA Hand 4").Stable = "The Board";
+     }},
+    {"cmdtv",
+     "Sunday Slam",
+     {{"cmbannouncer", "Ann Nounce"}, {"cmbslot", "Late Night"}},
+     [](World& world) {
+       world.Shows()[1].Announcer = Named(world.AllStaff(), "Ann Nounce").Uid;
+       world.Shows()[1].Slot = "L";
+     }},
+    {"cmdsponsors",
+     "Gulp",
+     {{"cmbpromotion", "NEW"}},
+     [](World& world) {
+       Promotion &cwa = world.Promotions()[1], &rival = world.Promotions()[2];
+       cwa.Sponsor[0] = 0;
+       rival.Sponsor[0] = world.Sponsors()[1].Uid;
+       world.Sponsors()[1].Promotion = rival.Uid;
+     }},
+    {"cmdpromo",
+     "CWA",
+     {{"cmbsponsor1", "None"}, {"txtsplit1", "Red"}},
+     [](World& world) {
+       world.Promotions()[1].Sponsor[0] = 0;
+       world.Promotions()[1].Split[0] = "Red";
+       world.Sponsors()[1].Promotion = 0;
+       world.Sponsors()[1].ContractMonths = 0;
+     }},
+};
+
+TEST(AnAuthor, SeesWhatHangsOnARecordFollow) {
+  for (const ChangeCase& change : kChanges) {
+    SCOPED_TRACE(change.Record + ", " + change.Changes.front().first);
+    EditorHome home;
+    World expected = home.OnDisk();
+    home.Page(change.Button, change.Record);
+    Fill(home.Desk, change.Changes);
+    home.Desk.Click("cmdsave");
+    change.Then(expected);
+    ExpectSame(home.OnDisk(), expected);
+    EXPECT_TRUE(CheckWorld(home.OnDisk()).empty());
+  }
+}
+
+TEST(AChampionWhoMovesOn, LeavesHisTitlesAndIsToldOf) {
+  EditorHome home;
+  home.Page("cmdwres", "CWA Hand 1");
+  home.Desk.Pick("cmbemployer", "NEW");
+  home.Desk.ExpectSay("Saved",
+                      "This has also happened:\n"
+                      "CWA Crown: Holder does not work for the Title's promotion; vacated.\n"
+                      "CWA Tag: Holder does not work for the Title's promotion; vacated.");
+  home.Desk.Click("cmdsave");
+  const World world = home.OnDisk();
+  EXPECT_EQ(0, world.Titles()[1].Holder);
+  EXPECT_EQ(0, world.Titles()[2].Partner);
+  EXPECT_EQ(50, world.Titles()[1].Image) << "nothing has happened in the world's own time";
+  EXPECT_TRUE(CheckWorld(world).empty());
+}
+
+TEST(AMember, WhoChangesEmployerLosesStableAndManagerInTheForm) {
+  EditorHome home;
+  home.Page("cmdwres", "CWA Hand 3");
+  EXPECT_EQ("The Firm", home.Desk.Text("cmbstable"));
+  home.Desk.Pick("cmbemployer", "None");
+  EXPECT_EQ("None", home.Desk.Text("cmbstable"));
+  home.Desk.Click("cmdrevert");
+  EXPECT_EQ("The Firm", home.Desk.Text("cmbstable"));
+  EXPECT_FALSE(home.Desk.Enabled("cmdsave"));
+}
+
+struct RefusalCase {
+  std::string Button, Record;  // "" for a new one
+  Steps Typed;
+  std::optional<std::string> Says;
+};
+const RefusalCase kRefusals[] = {
+    {"cmdwres", "", {}, "It needs a name."},
+    {"cmdwres", "", {{"txtname", "Cal Drift"}}, "This name already exists!"},
+    {"cmdwres", "Cal Drift", {{"txtname", "CWA Hand 1"}}, "This name already exists!"},
+    {"cmdwres", "Cal Drift", {{"txtname", "None"}}, "Nobody can be called \"None\"."},
+    {"cmdwres", "Cal Drift", {{"txtbrawl", "101"}}, "Brawling: 0 to 100 percent."},
+    {"cmdwres",
+     "Cal Drift",
+     {{"txtage", "old"}, {"txtwage", "-1"}},
+     "Age: needs a number, 0 to 120 years.\nWage ($1000 a month): 0 to 32767 thousand dollars a "
+     "month."},
+    {"cmdwres",
+     "Cal Drift",
+     {{"txtlastturn", "yesterday"}},
+     "Last turn: needs a day as yyyy-mm-dd, or nothing."},
+    {"cmdwres",
+     "Cal Drift",
+     {{"txtoverfloor", "100"}},
+     "Popularity floor is above the worker's Over."},
+    {"cmdpromo", "NEW", {{"txtinitials", "CWA"}}, "These initials already exist!"},
+    {"cmdpromo", "NEW", {{"txtname", "To Be Deleted"}}, "Nobody can be called \"To Be Deleted\"."},
+    {"cmdowners", "Nell Ewing", {{"cmbemployer", "CWA"}}, kAnyText},
+    {"cmdteams", "", {{"txtname", "One"}, {"cmbworker1", "Cal Drift"}}, "It lacks a partner."},
+    {"cmdteams",
+     "",
+     {{"txtname", "Two"}, {"cmbworker1", "CWA Hand 2"}, {"cmbworker2", "CWA Hand 1"}},
+     kAnyText},
+    {"cmdbelts", "CWA Tag", {{"txtname", "CWA Crown"}}, "Name stands twice in the same promotion."},
+    {"cmdtv",
+     "",
+     {{"txtname", "Copycat"},
+      {"cmbnetwork", "Nine"},
+      {"cmbday", "Sunday"},
+      {"cmbslot", "Prime Time"}},
+     "Slot is taken on that day by Sunday Slam."},
+    {"cmdtv", "", {{"txtname", "Sunday Slam"}}, "This name already exists!"},
+    {"cmdevents",
+     "",
+     {{"txtname", "Again"}, {"cmbowner", "CWA"}, {"cmbmonth", "March"}},
+     "Month has an Event of the promotion already."},
+};
+
+/// What no page shows, and why.
+constexpr std::string_view kLeftOut[] = {"Uid",
+                                         "Active",  // the editor's own
+                                         "Finisher1TopRope",
+                                         "Finisher1Ground",
+                                         "Finisher2TopRope",
+                                         "Finisher2Ground",  // one pick list
+                                         "ColourIsWorker",   // told by the commentator
+                                         "Momentum",
+                                         "Rank",
+                                         "Money",
+                                         "TicketIncome",
+                                         "MerchIncome",
+                                         "PpvIncome",
+                                         "SponsorIncome",
+                                         "WrestlerWages",
+                                         "StaffWages",
+                                         "ProductionCost",
+                                         "AdvertisingCost",
+                                         "MerchCost",
+                                         "Last",
+                                         "Won",
+                                         "Lost",
+                                         "Holder"};  // a game writes them anew
+
+TEST(ThePages, ShowEveryFieldThatAnAuthorCanMean) {
+  std::set<std::string> shown;
+  for (const RecordPage& page : RecordPages())
+    for (const FormGroup& group : page.Groups)
+      for (const FormEntry& entry : group.Entries)
+        shown.insert(std::string(LayoutOf(page.Kind).Name) + "." + std::string(entry.Field));
+  for (const RecordPage& page : RecordPages())
+    for (const Field& field : LayoutOf(page.Kind).Fields)
+      for (int i = 0; i < field.Count; ++i) {
+        const std::string name = FieldName(field, i);
+        const bool leftOut = std::ranges::any_of(
+            kLeftOut, [&](std::string_view left) { return name.starts_with(left); });
+        const bool isShown = shown.contains(std::string(LayoutOf(page.Kind).Name) + "." + name);
+        EXPECT_TRUE(isShown || leftOut) << LayoutOf(page.Kind).Name << " " << name;
+      }
+}
+
+TEST(TheCamp, IsChosenByItsWords) {
+  EditorHome home;
+  home.Page("cmdpromo", "NEW");
+  const std::vector<std::string> words = {"None", "Poor", "Average", "Good", "Superb"};
+  EXPECT_EQ(words, home.Desk.FirstColumn("cmbtrain"));
+  EXPECT_EQ(R"(For a promotion to go to the "next size", they have to reach 100% image during the )"
+            "game. 0 to 100 percent.",
+            home.Desk.Tip("txtimage"));
+}
+
+TEST(AnAuthor, IsToldWhyARecordCannotBe) {
+  for (const RefusalCase& refusal : kRefusals) {
+    SCOPED_TRACE(refusal.Button + " " + refusal.Says.value_or("?"));
+    EditorHome home;
+    const auto before = home.Files();
+    home.Page(refusal.Button, refusal.Record);
+    if (refusal.Record.empty()) home.Desk.Click("cmdnew");
+    Fill(home.Desk, refusal.Typed);
+    home.Desk.ExpectSay("Error!", refusal.Says);
+    home.Desk.Click("cmdsave");
+    EXPECT_EQ(before, home.Files());
+    EXPECT_TRUE(home.Desk.Enabled("cmdsave")) << "what was typed is still there";
+    home.Desk.Click("cmdrevert");
+  }
+}
+
+TEST(FullFiles, TakeNoMore) {
+  World data;
+  for (int uid = 1; uid <= 35; ++uid) {
+    Promotion promotion = As<Promotion>(NewRecord(RecordKind::Promotion).data());
+    promotion.Uid = uid;
+    promotion.Name = "Promotion " + std::to_string(uid);
+    promotion.Initials = "P" + std::to_string(uid);
+    data.Promotions().Append(promotion);
+  }
+  Worker worker = As<Worker>(NewRecord(RecordKind::Worker).data());
+  for (int uid = 1; uid <= 25000; ++uid) {
+    worker.Uid = uid;
+    worker.Name = "Worker " + std::to_string(uid);
+    data.Workers().Append(worker);
+  }
+  EditorHome home(data);
+  home.Desk.Click("cmdpromo");
+  home.Desk.ExpectSay("Error!", "Maximum 35 promotions per file!");
+  home.Desk.Click("cmdnew");
+  home.Desk.ExpectSay("Error!", "Maximum 35 promotions per file!");
+  home.Desk.Click("cmdcopy");
+  home.Desk.Click("cmdback");
+  home.Desk.Click("cmdwres");
+  home.Desk.ExpectSay("Error!", "Maximum 25,000 wrestlers per file!");
+  home.Desk.Click("cmdnew");
+  home.Desk.Type("txtsearch", "worker 2499");
+  EXPECT_EQ(11u, home.Desk.Rows("lstrecords").size());
+}
+
+TEST(ACopy, HasAFreeNameAndGoesWhenItIsNotSaved) {
+  EditorHome home;
+  const auto before = home.Files();
+  home.Page("cmdpromo", "CWA");
+  home.Desk.Click("cmdcopy");
+  EXPECT_EQ("CWA2", home.Desk.Text("txtinitials"));
+  EXPECT_EQ("None", home.Desk.Text("cmbsponsor1"));
+  home.Desk.ExpectAsk("Unsaved Changes", kAnyText, false, ui::Default::No);
+  home.Desk.Click("cmdback");
+  EXPECT_EQ("frmEditPromo", home.Desk.TopName());
+  home.Desk.Click("cmdsave");
+  EXPECT_EQ(3, home.OnDisk().Promotions()[3].Uid);
+  home.Desk.ExpectAsk("Delete",
+                      "Are you sure you want to delete " + home.Desk.Text("lblrecord") + "?", true);
+  home.Desk.Click("cmddelete");
+  EXPECT_EQ(before, home.Files());
+}
+
+TEST(UnsavedChanges, AreAskedAboutBeforeTheyGo) {
+  EditorHome home;
+  home.Page("cmdwres", "Cal Drift");
+  home.Desk.Type("txtage", "60");
+  home.Desk.ExpectAsk("Unsaved Changes",
+                      "Cal Drift has changes that are not saved. Throw them away?", false,
+                      ui::Default::No);
+  home.Desk.Pick("lstrecords", "CWA Hand 2");
+  EXPECT_EQ("60", home.Desk.Text("txtage"));
+  EXPECT_EQ("Cal Drift", home.Desk.Text("lblrecord"));
+  home.Desk.ExpectAsk("Unsaved Changes", kAnyText, true);
+  home.Desk.Pick("lstrecords", "CWA Hand 2");
+  EXPECT_EQ("CWA Hand 2", home.Desk.Text("lblrecord"));
+  home.Desk.Click("cmdback");
+  EXPECT_EQ("frmEditor", home.Desk.TopName());
+  home.Desk.Click("cmdback");
+  EXPECT_EQ("frmGameMenu", home.Desk.TopName());
+  EXPECT_EQ(nullptr, home.Play.Joined());
+}
+
+struct DeletionCase {
+  std::string Button, Record;
+  std::function<void(const World&)> Then;
+};
+const DeletionCase kDeletions[] = {
+    {"cmdwres", "CWA Hand 1",
+     [](const World& world) {
+       EXPECT_EQ(0, world.Teams().Count());
+       EXPECT_EQ(0, world.Titles()[1].Holder);
+       EXPECT_EQ(0, world.Titles()[2].Holder);
+     }},
+    {"cmdpromo", "CWA",
+     [](const World& world) {
+       EXPECT_EQ(1, world.Promotions().Count());
+       EXPECT_EQ(0, world.Shows().Count());
+       EXPECT_EQ(0, world.Sponsors()[1].Promotion);
+       EXPECT_EQ(0, world.Events()[1].Owner);
+       EXPECT_EQ(kNoEnd, world.Titles()[1].Owner);
+       for (const Worker& worker : world.Workers()) EXPECT_EQ(0, worker.Employer);
+     }},
+    {"cmdstaff", "Ann Nounce", [](const World& world) { EXPECT_EQ(3, world.AllStaff().Count()); }},
+    {"cmdstables", "The Firm",
+     [](const World& world) {
+       for (const Worker& worker : world.Workers()) EXPECT_EQ("None", worker.Stable.Str());
+     }},
+    {"cmdnetworks", "Nine", [](const World& world) { EXPECT_EQ(0, world.Shows()[1].Network); }},
+    {"cmdsponsors", "Gulp",
+     [](const World& world) { EXPECT_EQ(0, world.Promotions()[1].Sponsor[0]); }},
+};
+
+TEST(ADeletion, IsForgottenByAllThatKnewTheRecord) {
+  for (const DeletionCase& deletion : kDeletions) {
+    SCOPED_TRACE(deletion.Record);
+    EditorHome home;
+    const auto before = home.Files();
+    home.Page(deletion.Button, deletion.Record);
+    home.Desk.ExpectAsk("Delete", kAnyText, false, ui::Default::No);
+    home.Desk.Click("cmddelete");
+    EXPECT_EQ(before, home.Files());
+    EXPECT_NE("", home.Desk.Text("lblrecord"));
+    home.Desk.ExpectAsk("Delete", kAnyText, true);
+    home.Desk.Click("cmddelete");
+    const World world = home.OnDisk();
+    deletion.Then(world);
+    EXPECT_TRUE(CheckWorld(world).empty());
+  }
+}
+
+TEST(DamagedData, AreShownWithTheirFaultsAndKeptWhereNobodyTouchesThem) {
+  for (std::uint64_t seed = 1; seed <= 4; ++seed) {
+    SCOPED_TRACE(seed);
+    World data = EditorData();
+    Dice dice(seed);
+    for (Worker& worker : data.Workers())
+      for (const Field& field : LayoutOf<Worker>().Fields)
+        if (dice.OneIn(3)) Scramble(dice, field, 0, reinterpret_cast<std::byte*>(&worker));
+    for (Promotion& promotion : data.Promotions())
+      for (const Field& field : LayoutOf<Promotion>().Fields)
+        if (dice.OneIn(3)) Scramble(dice, field, 0, reinterpret_cast<std::byte*>(&promotion));
+    EditorHome home(data);
+    const auto before = home.Files();
+    EXPECT_FALSE(home.Desk.Rows("lstfaults").empty());
+    for (const RecordPage& page : RecordPages()) {
+      home.Desk.Click(std::string(page.Button));
+      const int rows = static_cast<int>(home.Desk.Rows("lstrecords").size());
+      for (int row = 1; row <= rows; ++row) home.Desk.Pick("lstrecords", row);
+      EXPECT_FALSE(home.Desk.Enabled("cmdsave")) << page.Screen;
+      home.Desk.Click("cmdback");
+    }
+    EXPECT_EQ(before, home.Files());
+    // One field is changed, the others keep their bytes.
+    home.Desk.Click("cmdnetworks");
+    home.Desk.Type("txtprime", "321");
+    home.Desk.Click("cmdsave");
+    Named(data.Networks(), "Nine").PrimeAudience = 321;
+    ExpectSame(home.OnDisk(), data);
+  }
+}
+
+TEST(AFileThatIsNone, IsSaidAndLeftAlone) {
+  EditorHome home;
+  home.Desk.Click("cmdback");
+  const std::string huge(36 * sizeof(Promotion), 'x');
+  home.Write("data/promos.dat", huge);
+  home.Desk.Click("cmdeditor");
+  EXPECT_EQ("cannot be read", home.Desk.Text("lblpromo"));
+  home.Desk.Click("cmdpromo");
+  EXPECT_FALSE(home.Desk.Enabled("cmdnew"));
+  EXPECT_EQ("The file cannot be read.", home.Desk.Tip("cmdnew"));
+}
+
+}  // namespace
+}  // namespace grapplemont::test
