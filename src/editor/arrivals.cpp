@@ -18,7 +18,7 @@ void MendArrivals(World& world, Arrivals& arrivals) {
 
 std::string WhyNoArrivals(const World& world) {
   const std::size_t faults = FaultsOf(world).size();
-  return faults == 0 ? "" : "The data has " + Counted(faults, "fault") + ". Clean it up first.";
+  return faults == 0 ? "" : "The data have " + Counted(faults, "fault") + ". Clean them up first.";
 }
 
 std::string Shown(std::string_view text) {
@@ -26,6 +26,10 @@ std::string Shown(std::string_view text) {
   std::replace_if(
       shown.begin(), shown.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
   return shown;
+}
+
+bool IsBlank(std::string_view text) {
+  return detail::Trimmed(Shown(text)).empty();
 }
 
 int NamesTaken::UidOf(std::string_view name) const {

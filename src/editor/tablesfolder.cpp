@@ -37,16 +37,20 @@ int CountIn(const World& world, const RecordLayout& layout) {
   return 0;
 }
 
-std::vector<RecordCount> Compare(const World& now, const World& then) {
+}  // namespace
+
+std::vector<RecordCount> CountsOf(const World& now, const World* then) {
   std::vector<RecordCount> counts;
-  for (const TableKind& kind : TableKinds())
-    if (!kind.OfGame)
-      counts.push_back({std::string(kind.Name), std::string(kind.Layout->File),
-                        CountIn(now, *kind.Layout), CountIn(then, *kind.Layout)});
+  for (const TableKind& kind : TableKinds()) {
+    if (kind.OfGame) continue;
+    RecordCount& row = counts.emplace_back();
+    row.Table = kind.Name;
+    row.File = kind.Layout->File;
+    row.Now = CountIn(now, *kind.Layout);
+    if (then) row.Then = CountIn(*then, *kind.Layout);
+  }
   return counts;
 }
-
-}  // namespace
 
 TablesPlace LookForExport(Disk& disk, const std::string& folder) {
   const std::string parent = ParentOf(folder);
@@ -93,7 +97,7 @@ TablesPreview LookAtTables(Disk& disk, const std::string& folder, const World& d
         "These tables are a saved game's; the data are a world in which no game has "
         "begun.";
   } else {
-    preview.Counts = Compare(data, *building.Made);
+    preview.Counts = CountsOf(data, &*building.Made);
     preview.Made = std::move(building.Made);
   }
   return preview;

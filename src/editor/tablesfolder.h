@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,11 +22,15 @@ TablesPlace LookForExport(Disk& disk, const std::string& folder);
 /// was made for it is gone then.
 void ExportTables(Disk& disk, const std::string& folder, const World& world);
 
-/// How many records of a file there are now, and how many there would be.
+/// How many records of a file there are, and how many there would be.
 struct RecordCount {
   std::string Table, File;
-  int Now = 0, Then = 0;
+  int Now = 0;
+  std::optional<int> Then = {};
 };
+/// One for each file of the data; `then` may be left out.
+std::vector<RecordCount> CountsOf(const World& now, const World* then);
+
 /// Tables looked at before they take the place of the data.
 struct TablesPreview {
   std::string WhyNot;                 // the folder is none, or its tables are of no use here

@@ -5,6 +5,7 @@
 #include "business/officescreens.h"
 #include "business/tvscreens.h"
 #include "calendar/calendarscreens.h"
+#include "editor/editorfilescreens.h"
 #include "editor/editorscreens.h"
 #include "info/infoscreens.h"
 #include "rivals/rivalscreens.h"
@@ -28,6 +29,7 @@ void RegisterScreens(Game& game) {
   RegisterRivalScreens(game);
   RegisterCalendarScreens(game);
   RegisterInfoScreens(game);
+  RegisterEditorFileScreens(game);
   RegisterEditorScreens(game);
   RegisterSessionScreens(game);
 }

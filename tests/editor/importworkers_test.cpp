@@ -115,7 +115,7 @@ TEST(Import, NeedsDataInOrder) {
   World world = Complete(Here());
   EXPECT_EQ(WhyNoArrivals(world), "");
   world.Workers()[1].Age = 500;
-  EXPECT_EQ(WhyNoArrivals(world), "The data has 1 fault. Clean it up first.");
+  EXPECT_EQ(WhyNoArrivals(world), "The data have 1 fault. Clean them up first.");
 }
 
 }  // namespace

@@ -38,7 +38,8 @@ TEST(TablesFolder, CountsWhatIsAndWhatWouldBe) {
   const World here = SmallWorld().Promotion("CWA").Crew(2).Build();
   const TablesPreview preview = LookAtTables(disk, "tables", here);
   std::map<std::string, std::pair<int, int>> counts;
-  for (const RecordCount& row : preview.Counts) counts[row.Table] = {row.Now, row.Then};
+  for (const RecordCount& row : preview.Counts)
+    counts[row.Table] = {row.Now, row.Then.value_or(-1)};
   EXPECT_EQ(counts.size(), 10u);
   EXPECT_EQ(counts["workers.csv"], std::pair(2, 4));
   EXPECT_EQ(counts["promotions.csv"], std::pair(1, 2));

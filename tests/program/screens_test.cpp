@@ -56,11 +56,11 @@ constexpr const char* kInGame[] = {
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky"};
 constexpr const char* kBeforeGame[] = {
-    "frmTitleScreen", "frmDisclaimer", "frmGameMenu",   "frmCredits",        "frmCreditsXtra",
-    "frmNewGame",     "frmLoadGame",   "frmWait",       "frmLoadingScreens", "frmEditor",
-    "frmEditWres",    "frmEditPromo",  "frmEditOwners", "frmEditStaff",      "frmEditTeams",
-    "frmEditStables", "frmEditBelts",  "frmEditTv",     "frmEditEvents",     "frmEditNetworks",
-    "frmEditSponsors"};
+    "frmTitleScreen",  "frmDisclaimer",   "frmGameMenu",   "frmCredits",        "frmCreditsXtra",
+    "frmNewGame",      "frmLoadGame",     "frmWait",       "frmLoadingScreens", "frmEditor",
+    "frmEditWres",     "frmEditPromo",    "frmEditOwners", "frmEditStaff",      "frmEditTeams",
+    "frmEditStables",  "frmEditBelts",    "frmEditTv",     "frmEditEvents",     "frmEditNetworks",
+    "frmEditSponsors", "frmEditMaintain", "frmEditMerge",  "frmEditImport",     "frmEditTables"};
 
 TEST(EveryScreen, OpensOnAWorldWithSomethingOfEverything) {
   GameOnWorld play(SmallWorld()

@@ -1,0 +1,156 @@
+#include "editor/editorfilescreens.h"
+#include "editor/merge.h"
+#include "editor/screenediting.h"
+#include "editor/screenfiles.h"
+#include "records/worldreport.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// New records in files beside the data: what would become of each, and taking them in.
+class frmEditMerge : public ui::Screen {
+ public:
+  explicit frmEditMerge(Game& game)
+      : Screen(game.Desk(), "frmEditMerge", "Merge New Records"), game_(game) {
+    lstrows.EmptyText = "There are no new records. Put the files named above into the data folder.";
+    lstmended.EmptyText = "Nothing has to be put right in the new records.";
+    cmdclean.Tip = "New records come into data without faults only.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback, &cmdclean, &cmdlook, &cmdrename, &cmdmerge};
+    page.Main = &cmdmerge;
+    page.Cancel = &cmdback;
+    page.Body =
+        ui::Rows({ui::Group("The new files", {lblfolder, lstfiles}),
+                  ui::Tabs({ui::Group("What becomes of each record", {ui::Grow(lstrows)}),
+                            ui::Group("What is put right on the way", {ui::Grow(lstmended)})})
+                      .Grow()});
+    return page;
+  }
+
+  void Load() override {
+    lblfolder.Text = "They are looked for in " + game_.DataFolder() + " and stay there.";
+    cmdlook_Click();
+  }
+  void Return() override { Preview(); }
+
+ private:
+  World& data() { return EditedData(game_).World(); }
+
+  void cmdlook_Click() {
+    coming_ = ReadNewRecords(game_.Disk(), game_.DataFolder());
+    names_.clear();
+    lstfiles.Clear();
+    for (const NewRecords::FileLine& line : coming_.Files())
+      lstfiles.Add(
+          {line.Name, ui::Cell(line.Says, line.IsWrong ? ui::Tone::Red : ui::Tone::Plain)});
+    Preview();
+  }
+
+  void Preview() {
+    const std::string why = WhyNoArrivals(data());
+    cmdclean.Visible = !why.empty();
+    arrivals_ = why.empty() ? PreviewMerge(data(), coming_, names_) : Arrivals{};
+    const int comes = arrivals_.Count(Fate::Added) + arrivals_.Count(Fate::Renumbered);
+    cmdmerge.Enabled = comes > 0;
+    cmdmerge.Tip = comes > 0 ? "" : !why.empty() ? why : "No new record can come in.";
+    lblfacts.Text = !why.empty()      ? why
+                    : coming_.Empty() ? "There is nothing to merge."
+                                      : Tally(arrivals_);
+    ShowRows();
+  }
+
+  void ShowRows() {
+    std::vector<ui::ListBox::Row> rows;
+    int key = 0;
+    for (const Arrival& row : arrivals_.Rows)
+      rows.push_back({{row.Name, row.Kind, ui::Cell(row.Record), UidCell(row.Uid),
+                       FateCell(row.Comes), UidCell(row.Becomes), row.Why},
+                      ++key});
+    lstrows.Fill(std::move(rows));
+    FillFaults(lstmended, arrivals_.Mended);
+    lstrows_Click();
+  }
+
+  static ui::Cell UidCell(int uid) { return uid == 0 ? ui::Cell("") : ui::Cell(uid); }
+
+  const Arrival* Chosen() const {
+    return lstrows.Key() == 0 ? nullptr
+                              : &arrivals_.Rows[static_cast<std::size_t>(lstrows.Key() - 1)];
+  }
+
+  void lstrows_Click() {
+    const Arrival* row = Chosen();
+    cmdrename.Enabled = row && row->NameTaken;
+    cmdrename.Tip = cmdrename.Enabled ? ""
+                                      : "Choose a record that stays out because its name or its "
+                                        "initials are taken.";
+  }
+
+  void cmdrename_Click() {
+    const Arrival row = *Chosen();
+    NewName& chosen = names_[{row.Kind, row.Record}];
+    const bool byInitials = row.Why != kNameTaken;
+    std::string& field = byInitials ? chosen.Initials : chosen.Name;
+    const std::string answer = desk().Prompt(
+        "Another Name",
+        byInitials ? row.Name + " by other initials:" : row.Name + " by another name:",
+        field.empty() && !byInitials ? row.Name : field);
+    if (answer.empty()) return;
+    field = answer;
+    Preview();
+  }
+
+  void cmdmerge_Click() {
+    if (!desk().Ask("Merge?", Tally(arrivals_) +
+                                  " Merge them into the data? What these are now is kept as a "
+                                  "backup."))
+      return;
+    arrivals_ = MergeNewRecords(data(), coming_, names_);
+    ShowRows();
+    cmdrename.Enabled = false;
+    cmdmerge.Enabled = false;
+    cmdmerge.Tip = "They are merged. Look again when the files have changed.";
+    lblfacts.Text = "Merged. " + Tally(arrivals_);
+  }
+
+  void cmdclean_Click() { desk().Open("frmEditMaintain"); }
+  void cmdback_Click() { Close(); }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  NewRecords coming_;
+  NewNames names_;
+  Arrivals arrivals_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Label lblfolder{*this, "lblfolder"};
+  ui::ListBox lstfiles{*this, "lstfiles", {{"File", K::Text, 2}, {"What is in it", K::Text, 9}}};
+  ui::ListBox lstrows{*this,
+                      "lstrows",
+                      {{"Name", K::Text, 5},
+                       {"Kind", K::Text, 2},
+                       {"Record", K::Number, 2, "Its number in the new file."},
+                       {"Uid", K::Number, 2, "The uid in the new file."},
+                       {"", K::Tag, 2},
+                       {"Becomes", K::Number, 2, "The uid in the data."},
+                       {"Why", K::Text, 8}},
+                      &frmEditMerge::lstrows_Click};
+  ui::ListBox lstmended{*this, "lstmended", FaultColumns("What is wrong, and what is done")};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmEditMerge::cmdback_Click};
+  ui::Button cmdclean{*this, "cmdclean", "Clean Up First", &frmEditMerge::cmdclean_Click};
+  ui::Button cmdlook{*this, "cmdlook", "Look Again", &frmEditMerge::cmdlook_Click};
+  ui::Button cmdrename{*this, "cmdrename", "Another Name", &frmEditMerge::cmdrename_Click};
+  ui::Button cmdmerge{*this, "cmdmerge", "Merge", &frmEditMerge::cmdmerge_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmEditMerge(Game& game) {
+  return std::make_unique<frmEditMerge>(game);
+}
+
+}  // namespace grapplemont
