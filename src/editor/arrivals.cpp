@@ -28,8 +28,10 @@ std::string Shown(std::string_view text) {
   return shown;
 }
 
-bool IsBlank(std::string_view text) {
-  return detail::Trimmed(Shown(text)).empty();
+bool IsNoName(std::string_view text) {
+  const std::string shown = Shown(text);
+  const std::string_view letters = detail::Trimmed(shown);
+  return letters.empty() || letters == "None";
 }
 
 int NamesTaken::UidOf(std::string_view name) const {

@@ -15,6 +15,7 @@
 namespace grapplemont {
 
 inline constexpr const char* kNameTaken = "The name is taken.";
+inline constexpr const char* kInitialsTaken = "The initials are taken.";
 inline constexpr const char* kNoName = "It has no name.";
 
 enum class Fate { Added, Renumbered, LeftOut };
@@ -46,8 +47,8 @@ std::string WhyNoArrivals(const World& world);
 
 /// Blanks for control characters, so that a damaged name does no harm on a screen.
 std::string Shown(std::string_view text);
-/// A text of which nothing is left then.
-bool IsBlank(std::string_view text);
+/// No name at all: nothing that can be seen, or the word for nobody.
+bool IsNoName(std::string_view text);
 
 /// The names that a file holds, with the record that has each.
 class NamesTaken {
@@ -113,7 +114,7 @@ class Entrance {
  private:
   std::string WhyNot(const T& record, Arrival& row) const {
     if (record.Name == kToBeDeleted) return "It is marked as gone.";
-    if (IsBlank(record.Name)) return kNoName;
+    if (IsNoName(record.Name)) return kNoName;
     row.NameTaken = names_.Has(record.Name);
     if (row.NameTaken) return kNameTaken;
     return into_.Full() ? LimitMessage(LayoutOf<T>()) : "";

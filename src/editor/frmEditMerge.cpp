@@ -85,7 +85,7 @@ class frmEditMerge : public ui::Screen {
 
   void lstrows_Click() {
     const Arrival* row = Chosen();
-    cmdrename.Enabled = row && row->NameTaken;
+    cmdrename.Enabled = row && (row->NameTaken || names_.contains({row->Kind, row->Record}));
     cmdrename.Tip = cmdrename.Enabled ? ""
                                       : "Choose a record that stays out because its name or its "
                                         "initials are taken.";
@@ -94,7 +94,7 @@ class frmEditMerge : public ui::Screen {
   void cmdrename_Click() {
     const Arrival row = *Chosen();
     NewName& chosen = names_[{row.Kind, row.Record}];
-    const bool byInitials = row.Why != kNameTaken;
+    const bool byInitials = row.Why == kInitialsTaken;
     std::string& field = byInitials ? chosen.Initials : chosen.Name;
     const std::string answer = desk().Prompt(
         "Another Name",

@@ -1,7 +1,5 @@
 #include "editor/keeping.h"
 
-#include <algorithm>
-
 #include "editor/consequences.h"
 #include "editor/following.h"
 #include "editor/recordfile.h"

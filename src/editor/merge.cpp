@@ -86,9 +86,7 @@ class Merger {
       const bool taken = initials.Has(promotion.Initials);
       std::string barred;
       if (!promotions_.Names().Has(promotion.Name))
-        barred = IsBlank(promotion.Initials) ? "It has no initials."
-                 : taken                     ? "The initials are taken."
-                                             : "";
+        barred = IsNoName(promotion.Initials) ? "It has no initials." : taken ? kInitialsTaken : "";
       arrivals_.Rows.push_back(promotions_.Admit(promotion, number, barred));
       Arrival& row = arrivals_.Rows.back();
       row.NameTaken = row.NameTaken || !barred.empty();
@@ -173,7 +171,7 @@ class Merger {
     ForEach(coming_.Shows, [&](Show show, int number) {
       FollowRecord(show, number, coming_.Shows.Name);
       const bool taken = shows.Has(show.Name);
-      const std::string why = IsBlank(show.Name)          ? kNoName
+      const std::string why = IsNoName(show.Name)         ? kNoName
                               : show.Name == kToBeDeleted ? "It is marked as gone."
                               : taken                     ? kNameTaken
                                                           : WhyNoShow(show);

@@ -194,7 +194,7 @@ TEST(Merge, TheFirstOfAUidIsMeantAndNobodyIsLedToAStranger) {
   };
   coming.Workers.Records = {worker(40, "First"),      worker(40, "Second"), worker(41, "First"),
                             worker(0, "Zero"),        worker(-7, "Minus"),  worker(42, "Lost"),
-                            worker(43, kToBeDeleted), worker(44, "")};
+                            worker(43, kToBeDeleted), worker(44, ""),       worker(44, "None")};
   coming.Teams.Records.resize(3);
   const std::array<std::array<int, 2>, 3> pairs = {{{40, 42}, {41, 42}, {42, 45}}};
   for (std::size_t i = 0; i < pairs.size(); ++i) {
