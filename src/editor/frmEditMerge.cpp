@@ -93,15 +93,13 @@ class frmEditMerge : public ui::Screen {
 
   void cmdrename_Click() {
     const Arrival row = *Chosen();
-    NewName& chosen = names_[{row.Kind, row.Record}];
     const bool byInitials = row.Why == kInitialsTaken;
-    std::string& field = byInitials ? chosen.Initials : chosen.Name;
     const std::string answer = desk().Prompt(
-        "Another Name",
-        byInitials ? row.Name + " by other initials:" : row.Name + " by another name:",
-        field.empty() && !byInitials ? row.Name : field);
+        "Another Name", row.Name + (byInitials ? " by other initials:" : " by another name:"),
+        byInitials ? "" : row.Name);
     if (answer.empty()) return;
-    field = answer;
+    NewName& chosen = names_[{row.Kind, row.Record}];
+    (byInitials ? chosen.Initials : chosen.Name) = answer;
     Preview();
   }
 
