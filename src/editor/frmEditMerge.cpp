@@ -2,7 +2,6 @@
 #include "editor/merge.h"
 #include "editor/screenediting.h"
 #include "editor/screenfiles.h"
-#include "records/worldreport.h"
 
 namespace grapplemont {
 
@@ -15,6 +14,7 @@ class frmEditMerge : public ui::Screen {
       : Screen(game.Desk(), "frmEditMerge", "Merge New Records"), game_(game) {
     lstrows.EmptyText = "There are no new records. Put the files named above into the data folder.";
     lstmended.EmptyText = "Nothing has to be put right in the new records.";
+    lblremarks.Colour = ui::Tone::Red;
     cmdclean.Tip = "New records come into data without faults only.";
   }
 
@@ -24,11 +24,11 @@ class frmEditMerge : public ui::Screen {
     page.Actions = {&cmdback, &cmdclean, &cmdlook, &cmdrename, &cmdmerge};
     page.Main = &cmdmerge;
     page.Cancel = &cmdback;
-    page.Body =
-        ui::Rows({ui::Group("The new files", {lblfolder, lstfiles}),
-                  ui::Tabs({ui::Group("What becomes of each record", {ui::Grow(lstrows)}),
-                            ui::Group("What is put right on the way", {ui::Grow(lstmended)})})
-                      .Grow()});
+    page.Body = ui::Columns(
+        {ui::Group("The new files", {lblfolder, ui::Grow(lstfiles), lblremarks}).Grow(2),
+         ui::Tabs({ui::Group("What becomes of each record", {ui::Grow(lstrows)}),
+                   ui::Group("What is put right on the way", {ui::Grow(lstmended)})})
+             .Grow(7)});
     return page;
   }
 
@@ -44,11 +44,20 @@ class frmEditMerge : public ui::Screen {
   void cmdlook_Click() {
     coming_ = ReadNewRecords(game_.Disk(), game_.DataFolder());
     names_.clear();
-    lstfiles.Clear();
-    for (const NewRecords::FileLine& line : coming_.Files())
-      lstfiles.Add(
-          {line.Name, ui::Cell(line.Says, line.IsWrong ? ui::Tone::Red : ui::Tone::Plain)});
+    ShowFiles();
     Preview();
+  }
+
+  void ShowFiles() {
+    std::string remarks;
+    lstfiles.Clear();
+    for (const NewRecords::FileLine& line : coming_.Files()) {
+      const bool isWrong = !line.Remark.empty();
+      lstfiles.Add({line.Name, {line.Brings, isWrong ? ui::Tone::Red : ui::Tone::Plain}});
+      if (isWrong) remarks += (remarks.empty() ? "" : "\n") + line.Remark;
+    }
+    lblremarks.Text = remarks;
+    lblremarks.Visible = !remarks.empty();
   }
 
   void Preview() {
@@ -126,7 +135,8 @@ class frmEditMerge : public ui::Screen {
   Arrivals arrivals_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Label lblfolder{*this, "lblfolder"};
-  ui::ListBox lstfiles{*this, "lstfiles", {{"File", K::Text, 2}, {"What is in it", K::Text, 9}}};
+  ui::Label lblremarks{*this, "lblremarks"};
+  ui::ListBox lstfiles{*this, "lstfiles", {{"File", K::Text, 3}, {"Records", K::Text, 2}}};
   ui::ListBox lstrows{*this,
                       "lstrows",
                       {{"Name", K::Text, 5},

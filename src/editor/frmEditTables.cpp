@@ -125,7 +125,7 @@ class frmEditTables : public ui::Screen {
                          {"File", K::Text, 3},
                          {"Now", K::Number, 2, "Records in the data."},
                          {"Then", K::Number, 2, "Records in the tables."}}};
-  ui::ListBox lstmistakes{*this, "lstmistakes"};
+  ui::ListBox lstmistakes{*this, "lstmistakes", {{"What is wrong, and where"}}};
   ui::Button cmdback{*this, "cmdback", "Back", &frmEditTables::cmdback_Click};
   ui::Button cmdexport{*this, "cmdexport", "Export", &frmEditTables::cmdexport_Click};
   ui::Button cmdlook{*this, "cmdlook", "Look At Tables", &frmEditTables::cmdlook_Click};

@@ -6,7 +6,6 @@
 
 #include "editor/worldcopy.h"
 #include "records/severing.h"
-#include "records/worldreport.h"
 
 namespace grapplemont {
 
@@ -16,10 +15,7 @@ constexpr int kMostShows = 3;
 
 template <class T>
 NewRecords::FileLine LineOf(const RecordFile<T>& file) {
-  if (!file.Exists) return {file.Name, "not there", false};
-  const std::string count = Counted(file.Records.size(), "record");
-  if (file.Remark.empty()) return {file.Name, count, false};
-  return {file.Name, file.Records.empty() ? file.Remark : count + ". " + file.Remark, true};
+  return {file.Name, file.Exists ? std::to_string(file.Records.size()) : "not there", file.Remark};
 }
 
 class Merger {

@@ -18,10 +18,10 @@ struct NewRecords {
   RecordFile<Team> Teams;            // newteams.dat
   RecordFile<Show> Shows;            // newtv.dat
 
-  /// Each file in a word or two for the player: name, and how many records or what is wrong.
+  /// Each file for the player: its name, how many records it brings ("not there"), and what is
+  /// wrong with it.
   struct FileLine {
-    std::string Name, Says;
-    bool IsWrong = false;
+    std::string Name, Brings, Remark;
   };
   std::vector<FileLine> Files() const;
   bool Empty() const;

@@ -73,13 +73,13 @@ TEST(NewRecords, AreReadFromTheirSixFilesAndToldOneByOne) {
   EXPECT_EQ(coming.Promotions.Records[0].Initials, "CWA");
   std::vector<std::string> lines;
   for (const auto& line : coming.Files())
-    lines.push_back(line.Name + ": " + line.Says + (line.IsWrong ? " !" : ""));
-  EXPECT_EQ(lines, (std::vector<std::string>{
-                       "newnetwork.dat: not there", "newpromos.dat: 1 record",
-                       "newwrestler.dat: 2 records",
-                       "newstaff.dat: 1 record. newstaff.dat ends in 2 bytes that are no whole "
-                       "record; they are left aside. !",
-                       "newteams.dat: not there", "newtv.dat: not there"}));
+    lines.push_back(line.Name + " " + line.Brings + " " + line.Remark);
+  EXPECT_EQ(lines,
+            (std::vector<std::string>{
+                "newnetwork.dat not there ", "newpromos.dat 1 ", "newwrestler.dat 2 ",
+                "newstaff.dat 1 newstaff.dat ends in 2 bytes that are no whole record; they are "
+                "left aside.",
+                "newteams.dat not there ", "newtv.dat not there "}));
 }
 
 }  // namespace
