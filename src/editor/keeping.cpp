@@ -1,33 +1,13 @@
 #include "editor/keeping.h"
 
-#include <algorithm>
-#include <array>
-
 #include "editor/consequences.h"
 #include "editor/following.h"
+#include "editor/recordfile.h"
 #include "records/modWresCheck.h"
 
 namespace grapplemont {
 
 namespace {
-
-/// What a file of this kind holds, and how many as people write it.
-struct Limit {
-  RecordKind Kind;
-  std::string_view Words;
-};
-constexpr std::array<Limit, 10> kLimits = {{
-    {RecordKind::Worker, "Maximum 25,000 wrestlers per file!"},
-    {RecordKind::Promotion, "Maximum 35 promotions per file!"},
-    {RecordKind::Staff, "Maximum 10,000 staff members per file!"},
-    {RecordKind::Team, "Maximum 10,000 tag teams per file!"},
-    {RecordKind::Stable, "Maximum 10,000 stables per file!"},
-    {RecordKind::Title, "Maximum 5,000 titles per file!"},
-    {RecordKind::Show, "Maximum 1,000 shows per file!"},
-    {RecordKind::Network, "Maximum 1,000 networks per file!"},
-    {RecordKind::Sponsor, "Maximum 1,000 sponsors per file!"},
-    {RecordKind::Event, "Maximum 10,000 events per file!"},
-}};
 
 int FreeUid(const World& world, RecordKind kind) {
   switch (kind) {
@@ -130,9 +110,7 @@ int Put(World& world, RecordKind kind, int number, const Bytes& bytes) {
 
 std::string WhyNoMore(const World& world, RecordKind kind) {
   if (CountOf(world, kind) < LayoutOf(kind).Limit) return {};
-  const auto limit =
-      std::ranges::find_if(kLimits, [kind](const Limit& one) { return one.Kind == kind; });
-  return std::string(limit->Words);
+  return LimitMessage(LayoutOf(kind));
 }
 
 Keeping KeepRecord(World& world, RecordKind kind, int number, Bytes record) {

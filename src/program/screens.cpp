@@ -5,6 +5,7 @@
 #include "business/officescreens.h"
 #include "business/tvscreens.h"
 #include "calendar/calendarscreens.h"
+#include "editor/editorfilescreens.h"
 #include "editor/editorscreens.h"
 #include "info/chroniclescreens.h"
 #include "info/infoscreens.h"
@@ -30,6 +31,7 @@ void RegisterScreens(Game& game) {
   RegisterCalendarScreens(game);
   RegisterInfoScreens(game);
   RegisterChronicleScreens(game);
+  RegisterEditorFileScreens(game);
   RegisterEditorScreens(game);
   RegisterSessionScreens(game);
 }

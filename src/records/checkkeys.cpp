@@ -1,45 +1,14 @@
-#include <algorithm>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 
 #include "records/checkrules.h"
+#include "records/freeuids.h"
 
 // What records are known by is there and stands once.
 
 namespace grapplemont {
 
 namespace {
-
-constexpr int kHighestUid = 32767;
-
-/// Numbers for records whose own is none or taken: behind the highest, in gaps when there is
-/// nothing behind it.
-class FreeUids {
- public:
-  template <class T>
-  explicit FreeUids(const Records<T>& records) {
-    for (const T& record : records) {
-      taken_.insert(record.Uid);
-      highest_ = std::max<int>(highest_, record.Uid);
-    }
-  }
-  int Take() {
-    int uid = highest_ + 1;
-    if (uid > kHighestUid) {
-      while (taken_.contains(gap_)) ++gap_;
-      uid = gap_;
-    }
-    taken_.insert(uid);
-    highest_ = std::max(highest_, uid);
-    return uid;
-  }
-
- private:
-  std::unordered_set<int> taken_;
-  int highest_ = 0;
-  int gap_ = 1;  // no number below it is free
-};
 
 template <class T>
 void InspectUids(Inspection& inspection, Records<T>& records) {

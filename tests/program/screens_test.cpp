@@ -57,11 +57,11 @@ constexpr const char* kInGame[] = {
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
     "frmReigns",     "frmResults",      "frmReports",    "frmAwards"};
 constexpr const char* kBeforeGame[] = {
-    "frmTitleScreen", "frmDisclaimer", "frmGameMenu",   "frmCredits",        "frmCreditsXtra",
-    "frmNewGame",     "frmLoadGame",   "frmWait",       "frmLoadingScreens", "frmEditor",
-    "frmEditWres",    "frmEditPromo",  "frmEditOwners", "frmEditStaff",      "frmEditTeams",
-    "frmEditStables", "frmEditBelts",  "frmEditTv",     "frmEditEvents",     "frmEditNetworks",
-    "frmEditSponsors"};
+    "frmTitleScreen",  "frmDisclaimer",   "frmGameMenu",   "frmCredits",        "frmCreditsXtra",
+    "frmNewGame",      "frmLoadGame",     "frmWait",       "frmLoadingScreens", "frmEditor",
+    "frmEditWres",     "frmEditPromo",    "frmEditOwners", "frmEditStaff",      "frmEditTeams",
+    "frmEditStables",  "frmEditBelts",    "frmEditTv",     "frmEditEvents",     "frmEditNetworks",
+    "frmEditSponsors", "frmEditMaintain", "frmEditMerge",  "frmEditImport",     "frmEditTables"};
 
 TEST(EveryScreen, OpensOnAWorldWithSomethingOfEverything) {
   GameOnWorld play(SmallWorld()

@@ -1,0 +1,88 @@
+#include "editor/recordfile.h"
+
+#include <array>
+
+namespace grapplemont {
+
+namespace {
+
+/// What the editor calls the records of a file.
+struct Plural {
+  std::string_view Record, Says;
+};
+constexpr std::array<Plural, 10> kPlurals = {{{"Worker", "wrestlers"},
+                                              {"Promotion", "promotions"},
+                                              {"Staff", "staff members"},
+                                              {"Team", "tag teams"},
+                                              {"Stable", "stables"},
+                                              {"Title", "titles"},
+                                              {"Show", "shows"},
+                                              {"Network", "networks"},
+                                              {"Sponsor", "sponsors"},
+                                              {"Event", "events"}}};
+
+std::string_view PluralOf(std::string_view record) {
+  for (const Plural& row : kPlurals)
+    if (row.Record == record) return row.Says;
+  return "records";
+}
+
+std::string Grouped(int number) {
+  std::string digits = std::to_string(number);
+  for (int at = static_cast<int>(digits.size()) - 3; at > 0; at -= 3)
+    digits.insert(static_cast<std::size_t>(at), ",");
+  return digits;
+}
+
+Bytes ReadUpTo(Disk& disk, const std::string& path, std::int64_t most, std::int64_t& size) {
+  const OpenedFile file(disk, path, false);
+  size = disk.Size(file);
+  Bytes bytes(size > most ? 0 : static_cast<std::size_t>(size));
+  if (!bytes.empty()) disk.ReadAt(file, 0, bytes);
+  return bytes;
+}
+
+void ReadWhole(FileBytes& file, Disk& disk, const std::string& path, const std::string& name,
+               const RecordLayout& layout) {
+  const std::int64_t record = layout.Size;
+  std::int64_t size = 0;
+  file.Whole = ReadUpTo(disk, path, record * (layout.Limit + 1) - 1, size);
+  const auto surplus = static_cast<std::size_t>(size % record);
+  if (size / record > layout.Limit) {
+    file.Remark = name + " has room for " + std::to_string(size / record) +
+                  " records and is left aside. " + LimitMessage(layout);
+  } else if (size == 0) {
+    file.Remark = name + " is empty.";
+  } else if (surplus != 0) {
+    file.Whole.resize(file.Whole.size() - surplus);
+    file.Remark = name + " ends in " + std::to_string(surplus) +
+                  " bytes that are no whole record; they are left aside.";
+  }
+}
+
+}  // namespace
+
+std::string LimitMessage(const RecordLayout& layout) {
+  return "Maximum " + Grouped(layout.Limit) + " " + std::string(PluralOf(layout.Name)) +
+         " per file!";
+}
+
+FileBytes ReadFileBytes(Disk& disk, const std::string& folder, const std::string& name,
+                        const RecordLayout& layout) {
+  const std::string path = folder + "/" + name;
+  FileBytes file;
+  try {
+    const Disk::Kind kind = disk.Look(path);
+    file.Exists = kind != Disk::Kind::Nothing;
+    if (kind == Disk::Kind::File)
+      ReadWhole(file, disk, path, name, layout);
+    else if (file.Exists)
+      file.Remark = name + " is no plain file and is left aside.";
+  } catch (const DiskError& fault) {
+    file.Whole.clear();
+    file.Remark = fault.what();
+  }
+  return file;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/table.h"
+
+// Record files that came from elsewhere and lie beside the data: what can be read of them, and what
+// is to be said about the rest.
+
+namespace grapplemont {
+
+/// "Maximum 25,000 wrestlers per file!"
+std::string LimitMessage(const RecordLayout& layout);
+
+/// A file as it lies there.
+struct FileBytes {
+  bool Exists = false;
+  Bytes Whole;         // all whole records, none where there is nothing to be read
+  std::string Remark;  // what was left aside, and why: "newtv.dat is empty."
+};
+/// Reads a file of records of this layout; one that is too long, unreadable or no file at all is
+/// told in the remark and gives no record.
+FileBytes ReadFileBytes(Disk& disk, const std::string& folder, const std::string& name,
+                        const RecordLayout& layout);
+
+template <class T>
+struct RecordFile {
+  std::string Name;
+  bool Exists = false;
+  std::vector<T> Records;
+  std::string Remark;
+};
+
+template <class T>
+RecordFile<T> ReadRecordFile(Disk& disk, const std::string& folder, const std::string& name) {
+  FileBytes file = ReadFileBytes(disk, folder, name, LayoutOf<T>());
+  RecordFile<T> read{name, file.Exists, std::vector<T>(file.Whole.size() / sizeof(T)),
+                     std::move(file.Remark)};
+  if (!file.Whole.empty())
+    std::memcpy(read.Records.data(), file.Whole.data(), read.Records.size() * sizeof(T));
+  return read;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "editor/arrivals.h"
+#include "records/world.h"
+#include "ui/controls.h"
+
+// How faults and arrivals stand in the tables of the editor.
+
+namespace grapplemont {
+
+/// A damaged file may have faults without end; a table shows so many.
+inline constexpr std::size_t kMostRows = 1000;
+
+std::vector<ui::Column> FaultColumns(std::string what);
+/// The first kMostRows of them.
+void FillFaults(ui::ListBox& list, const std::vector<Fault>& faults);
+/// ", of which the first 1000 are shown" where a table shows less than all.
+std::string ShownOf(std::size_t count);
+
+/// "Added" in green, "New uid" in amber, "Left out" in red.
+ui::Cell FateCell(Fate fate);
+/// "11 records come in, 3 of them under another uid; 2 stay out."
+std::string Tally(const Arrivals& arrivals);
+
+}  // namespace grapplemont

@@ -1,0 +1,358 @@
+#include "editor/merge.h"
+
+#include <gtest/gtest.h>
+
+#include "newrecords.h"
+#include "support/randomworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+SmallWorld& Here(SmallWorld& here) {
+  return here.Network("Nine")
+      .Promotion("CWA", kCult)
+      .Owner("Ruth Vane")
+      .Staff("Pen Loud", kAnnouncer)
+      .Crew(3)
+      .Team("The Hands", "CWA Hand 1", "CWA Hand 2")
+      .Show("Friday Fire", "Friday", "Nine");
+}
+
+World Here() {
+  SmallWorld here;
+  return Here(here);
+}
+
+/// Another promotion, whose records have the same uids as those of Here.
+World There() {
+  return SmallWorld()
+      .Network("Ten")
+      .Promotion("NEW", kSmall, [](Promotion& p) { p.Split[0] = "Red"; })
+      .Owner("Ola Brandt")
+      .Staff("Ed Call", kAnnouncer)
+      .Staff("Sly Tutor", kTrainer)
+      .Worker("Ann Ring", kManager, 30)
+      .Worker("Bo Stone", [](Worker& w) { w.Split = "Red"; })
+      .Worker("Cy Flint")
+      .Worker("Com Ish", kNonWrestler, 40)
+      .Team("Stone And Flint", "Bo Stone", "Cy Flint")
+      .Show("Monday Mess", "Monday", "Ten");
+}
+
+World Linked() {
+  World there = There();
+  const int ann = Named(there.Workers(), "Ann Ring").Uid;
+  Named(there.Workers(), "Bo Stone").Manager = ann;
+  Promotion& promotion = Named(there.Promotions(), "NEW");
+  promotion.Commissioner = Named(there.Workers(), "Com Ish").Uid;
+  promotion.HeadTrainer = Named(there.AllStaff(), "Sly Tutor").Uid;
+  Show& show = Named(there.Shows(), "Monday Mess");
+  show.Announcer = Named(there.AllStaff(), "Ed Call").Uid;
+  show.Colour = ann;
+  show.ColourIsWorker = true;
+  return there;
+}
+
+TEST(Merge, ClashingUidsGetFreeOnesAndEveryReferenceFollows) {
+  World world = Here();
+  const World before = CopyOf(world);
+  const Arrivals arrivals = MergeNewRecords(world, AsNew(Linked()));
+  EXPECT_EQ(Lines(arrivals),
+            (Texts{"Promotion NEW Wrestling 1>2: Its uid belongs to CWA Wrestling.",
+                   "Network Ten 1>2: Its uid belongs to Nine.",
+                   "Worker Ann Ring 1>5: Its uid belongs to CWA Hand 1.",
+                   "Worker Bo Stone 2>6: Its uid belongs to CWA Hand 2.",
+                   "Worker Cy Flint 3>7: Its uid belongs to CWA Hand 3.", "Worker Com Ish",
+                   "Staff Ola Brandt 1>4: Its uid belongs to Ruth Vane.",
+                   "Staff Ed Call 2>5: Its uid belongs to Pen Loud.", "Staff Sly Tutor",
+                   "Team Stone And Flint", "Show Monday Mess"}));
+  EXPECT_EQ(Lines(arrivals.Mended), Texts{});
+  EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
+
+  const Promotion& promotion = Named(world.Promotions(), "NEW");
+  const auto worker = [&](int uid) { return world.FindWorker(uid)->Name.Str(); };
+  const auto staff = [&](int uid) { return world.FindStaff(uid)->Name.Str(); };
+  EXPECT_EQ(worker(promotion.Commissioner), "Com Ish");
+  EXPECT_EQ(staff(promotion.HeadTrainer), "Sly Tutor");
+  EXPECT_EQ(worker(Named(world.Workers(), "Bo Stone").Manager), "Ann Ring");
+  EXPECT_EQ(Named(world.Workers(), "Bo Stone").Split, "Red");
+  for (const char* name : {"Ann Ring", "Bo Stone", "Cy Flint", "Com Ish"})
+    EXPECT_EQ(Named(world.Workers(), name).Employer, promotion.Uid) << name;
+  for (const char* name : {"Ola Brandt", "Ed Call", "Sly Tutor"})
+    EXPECT_EQ(Named(world.AllStaff(), name).Employer, promotion.Uid) << name;
+  const Team& team = Named(world.Teams(), "Stone And Flint");
+  EXPECT_EQ(worker(team.Worker1) + worker(team.Worker2), "Bo StoneCy Flint");
+  const Show& show = Named(world.Shows(), "Monday Mess");
+  EXPECT_EQ(show.Owner, promotion.Uid);
+  EXPECT_EQ(world.FindNetwork(show.Network)->Name, "Ten");
+  EXPECT_EQ(staff(show.Announcer), "Ed Call");
+  EXPECT_EQ(worker(show.Colour), "Ann Ring");
+
+  // Whoever was here stays as he was.
+  world.Workers().Keep([&](const Worker& w) { return w.Employer != promotion.Uid; });
+  world.AllStaff().Keep([&](const Staff& s) { return s.Employer != promotion.Uid; });
+  world.Teams().Erase(2);
+  world.Shows().Erase(2);
+  world.Networks().Erase(2);
+  world.Promotions().Erase(2);
+  ExpectSame(world, before);
+}
+
+TEST(Merge, APreviewTellsTheSameAndChangesNothing) {
+  World world = Here();
+  const World before = CopyOf(world);
+  const NewRecords coming = AsNew(Linked());
+  const Arrivals preview = PreviewMerge(world, coming);
+  ExpectSame(world, before);
+  EXPECT_EQ(Lines(preview), Lines(MergeNewRecords(world, coming)));
+}
+
+TEST(Merge, WhatIsHereAlreadyStaysOutTheSecondTime) {
+  World world = Here();
+  const NewRecords coming = AsNew(Linked());
+  MergeNewRecords(world, coming);
+  const World once = CopyOf(world);
+  const Arrivals again = MergeNewRecords(world, coming);
+  EXPECT_EQ(again.Count(Fate::LeftOut), 11);
+  EXPECT_EQ(Line(again.Rows[0]), "Promotion NEW Wrestling out: The name is taken.");
+  EXPECT_EQ(Line(again.Rows[9]), "Team Stone And Flint out: The two are a team already.");
+  ExpectSame(world, once);
+}
+
+TEST(Merge, WhoRefersToATakenNameGetsTheOneWhoHasIt) {
+  World world = Here();
+  World there = SmallWorld()
+                    .Network("Nine")
+                    .Promotion("XYZ", kSmall)
+                    .Promotion("CWA", kCult)
+                    .Worker("Somebody Else")
+                    .Worker("CWA Hand 3")
+                    .Worker("Dee Nova")
+                    .Staff("Ray Pen", kWriter)
+                    .Team("Old And New", "CWA Hand 3", "Dee Nova")
+                    .Show("Late Night", "Sunday", "Nine");
+  there.Promotions().Erase(1);
+  const Arrivals arrivals = MergeNewRecords(world, AsNew(there));
+  EXPECT_EQ(Lines(arrivals)[0], "Promotion CWA Wrestling out: The name is taken.");
+  EXPECT_EQ(Lines(arrivals)[1], "Network Nine out: The name is taken.");
+  EXPECT_TRUE(arrivals.Rows[0].NameTaken);
+  EXPECT_EQ(Named(world.Workers(), "Dee Nova").Employer, 1);
+  EXPECT_EQ(Named(world.AllStaff(), "Ray Pen").Employer, 1);
+  const Team& team = Named(world.Teams(), "Old And New");
+  EXPECT_EQ(team.Worker1, Named(world.Workers(), "CWA Hand 3").Uid);
+  EXPECT_EQ(team.Worker2, Named(world.Workers(), "Dee Nova").Uid);
+  EXPECT_EQ(Named(world.Shows(), "Late Night").Network, 1);
+  EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
+}
+
+TEST(Merge, TakenInitialsKeepAPromotionOutUntilItIsGivenOthers) {
+  World there = There();
+  there.Promotions()[1].Initials = "CWA";
+  const NewRecords coming = AsNew(there);
+  World world = Here();
+  const Arrivals without = PreviewMerge(world, coming);
+  EXPECT_EQ(Line(without.Rows[0]), "Promotion NEW Wrestling out: The initials are taken.");
+  EXPECT_TRUE(without.Rows[0].NameTaken);
+  EXPECT_EQ(without.Mended[0].Line(),
+            "newwrestler.dat, record 1 (Ann Ring), Employer: is 1, but nobody came or was here "
+            "under it; made 0");
+  const Arrivals with = MergeNewRecords(world, coming, {{{"Promotion", 1}, {"", "NWC"}}});
+  EXPECT_EQ(Line(with.Rows[0]), "Promotion NEW Wrestling 1>2: Its uid belongs to CWA Wrestling.");
+  EXPECT_EQ(Named(world.Promotions(), "NWC").Name, "NEW Wrestling");
+  EXPECT_EQ(Named(world.Workers(), "Bo Stone").Employer, 2);
+}
+
+TEST(Merge, ANewNameLetsARecordOfEachKindIn) {
+  World world = Here();
+  NewNames names;
+  for (const char* kind : {"Network", "Promotion", "Worker", "Staff", "Team", "Show"})
+    names[{kind, 1}] = {"Other " + std::string(kind), "OTH"};
+  World there = Here();
+  there.Teams()[1].Worker2 = there.Workers()[3].Uid;
+  there.Shows()[1].Day = "Monday";
+  EXPECT_EQ(PreviewMerge(world, AsNew(there)).Count(Fate::LeftOut), 8);
+  MergeNewRecords(world, AsNew(there), names);
+  EXPECT_EQ(Named(world.Promotions(), "OTH").Name, "Other Promotion");
+  const Worker& worker = Named(world.Workers(), "Other Worker");
+  EXPECT_EQ(worker.Employer, Named(world.Promotions(), "OTH").Uid);
+  EXPECT_EQ(Named(world.Teams(), "Other Team").Worker1, worker.Uid);
+  EXPECT_EQ(Named(world.Shows(), "Other Show").Network,
+            Named(world.Networks(), "Other Network").Uid);
+  EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
+}
+
+// What clashes among the new records themselves.
+TEST(Merge, TheFirstOfAUidIsMeantAndNobodyIsLedToAStranger) {
+  World world = Here();
+  NewRecords coming;
+  const auto worker = [](int uid, std::string_view name, int manager = 0) {
+    Worker w = World(SmallWorld().OnTheMarket().Worker("X")).Workers()[1];
+    w.Name = name;
+    w.Uid = uid;
+    w.Manager = manager;
+    return w;
+  };
+  coming.Workers.Records = {worker(40, "First"),      worker(40, "Second"), worker(41, "First"),
+                            worker(0, "Zero"),        worker(-7, "Minus"),  worker(42, "Lost"),
+                            worker(43, kToBeDeleted), worker(44, ""),       worker(44, "None")};
+  coming.Teams.Records.resize(3);
+  const std::array<std::array<int, 2>, 3> pairs = {{{40, 42}, {41, 42}, {42, 45}}};
+  for (std::size_t i = 0; i < pairs.size(); ++i) {
+    coming.Teams.Records[i].Worker1 = pairs[i][0];
+    coming.Teams.Records[i].Worker2 = pairs[i][1];
+  }
+  const Arrivals arrivals = MergeNewRecords(world, coming);
+  // 45 is what Second gets, but not whom the third team means.
+  EXPECT_EQ(Lines(arrivals),
+            (Texts{"Worker First", "Worker Second 40>45: Its uid belongs to First.",
+                   "Worker First out: The name is taken.", "Worker Zero 0>46: Its uid is none.",
+                   "Worker Minus -7>47: Its uid is none.", "Worker Lost",
+                   "Worker To Be Deleted out: It is marked as gone.",
+                   "Worker  out: It has no name.", "Worker None out: It has no name.", "Team ",
+                   "Team  out: The two are a team already.", "Team  out: It lacks a partner."}));
+  EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
+}
+
+TEST(Merge, FreeUidsAreFoundInGapsWhereThereIsNothingBehindTheHighest) {
+  World world = SmallWorld().OnTheMarket().Worker("One", [](Worker& w) { w.Uid = 32767; });
+  World there = SmallWorld().OnTheMarket().Worker("Two", [](Worker& w) { w.Uid = 32767; });
+  EXPECT_EQ(MergeNewRecords(world, AsNew(there)).Rows[0].Becomes, 1);
+}
+
+TEST(Merge, ShowsKeepToTheirSpotsAndTeamsToTheirPairs) {
+  struct Case {
+    const char* What;
+    void (*Change)(Show&);
+    const char* Line;
+  };
+  const Case kCases[] = {
+      {"fits", [](Show&) {}, "Show Fresh"},
+      {"spot", [](Show& s) { s.Day = "Friday"; },
+       "Show Fresh out: Its network has Friday Fire at that time."},
+      {"another time", [](Show& s) { s.Day = "Friday", s.Slot = "G"; }, "Show Fresh"},
+      {"name", [](Show& s) { s.Name = "Friday Fire"; }, "Show Friday Fire out: The name is taken."},
+      {"no name", [](Show& s) { s.Name = ""; }, "Show  out: It has no name."},
+      {"gone", [](Show& s) { s.Name = kToBeDeleted; },
+       "Show To Be Deleted out: It is marked as gone."},
+      {"no network", [](Show& s) { s.Network = 99, s.Day = "Friday"; }, "Show Fresh"},
+  };
+  for (const Case& c : kCases) {
+    SCOPED_TRACE(c.What);
+    World world = Here();
+    NewRecords coming;
+    coming.Shows.Records = {world.Shows()[1]};
+    Show& show = coming.Shows.Records[0];
+    show.Name = "Fresh";
+    show.Day = "Monday";
+    c.Change(show);
+    EXPECT_EQ(Lines(MergeNewRecords(world, coming)), Texts{c.Line});
+    EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
+  }
+  SmallWorld busy;
+  World full = Here(busy).Show("Two", "Monday", "Nine").Show("Three", "Tuesday", "Nine");
+  NewRecords coming;
+  coming.Shows.Records = {full.Shows()[1]};
+  coming.Shows.Records[0].Name = "Four";
+  coming.Shows.Records[0].Day = "Sunday";
+  EXPECT_EQ(Lines(MergeNewRecords(full, coming)),
+            Texts{"Show Four out: Its promotion has three shows already."});
+}
+
+// Which limit refuses what, with a file that has room for one more record.
+template <class T>
+std::string SecondAtLimit(Records<T>& (World::*table)(), RecordFile<T> NewRecords::*file,
+                          const std::function<void(T&, int)>& make) {
+  World world = SmallWorld().Network("N").Build();
+  if constexpr (std::is_same_v<T, Team>)
+    for (int i = 1; i <= 202; ++i) {
+      Worker worker = World(SmallWorld().OnTheMarket().Worker("W")).Workers()[1];
+      worker.Uid = i;
+      worker.Name = "W" + std::to_string(i);
+      world.Workers().Append(worker);
+    }
+  Records<T>& records = (world.*table)();
+  records.Remove();
+  for (int i = 1; i < LayoutOf<T>().Limit; ++i) {
+    T record;
+    make(record, i);
+    records.Append(record);
+  }
+  NewRecords coming;
+  for (int i = 0; i < 2; ++i) make((coming.*file).Records.emplace_back(), LayoutOf<T>().Limit + i);
+  const Arrivals arrivals = PreviewMerge(world, coming);
+  EXPECT_NE(arrivals.Rows[0].Comes, Fate::LeftOut) << arrivals.Rows[0].Why;
+  EXPECT_FALSE(arrivals.Rows[1].NameTaken);
+  return arrivals.Rows[1].Why;
+}
+
+template <class T>
+void MakeNamed(T& record, int i) {
+  record.Uid = i;
+  record.Name = "R" + std::to_string(i);
+}
+
+TEST(Merge, TheLimitsRefuseInTheEditorsWords) {
+  EXPECT_EQ(SecondAtLimit<Worker>(&World::Workers, &NewRecords::Workers, MakeNamed<Worker>),
+            "Maximum 25,000 wrestlers per file!");
+  EXPECT_EQ(SecondAtLimit<Staff>(&World::AllStaff, &NewRecords::AllStaff, MakeNamed<Staff>),
+            "Maximum 10,000 staff members per file!");
+  EXPECT_EQ(SecondAtLimit<Promotion>(&World::Promotions, &NewRecords::Promotions,
+                                     [](Promotion& promotion, int i) {
+                                       MakeNamed(promotion, i);
+                                       promotion.Initials = promotion.Name;
+                                     }),
+            "Maximum 35 promotions per file!");
+  EXPECT_EQ(SecondAtLimit<Network>(&World::Networks, &NewRecords::Networks, MakeNamed<Network>),
+            "Maximum 1,000 networks per file!");
+  EXPECT_EQ(SecondAtLimit<Show>(&World::Shows, &NewRecords::Shows,
+                                [](Show& show, int i) { show.Name = "S" + std::to_string(i); }),
+            "Maximum 1,000 shows per file!");
+  EXPECT_EQ(SecondAtLimit<Team>(&World::Teams, &NewRecords::Teams,
+                                [](Team& team, int i) {
+                                  team.Worker1 = i / 100 + 1;
+                                  team.Worker2 = 102 + i % 100;
+                                }),
+            "Maximum 10,000 tag teams per file!");
+}
+
+/// What was here stands first in every file, to the byte.
+void ExpectBegins(const World& world, const World& before) {
+  const auto tables = world.Tables(), old = before.Tables();
+  for (std::size_t i = 0; i < tables.size(); ++i) {
+    const ByteSpan now = tables[i]->RecordBytes(), was = old[i]->RecordBytes();
+    EXPECT_TRUE(now.size() >= was.size() && std::equal(was.begin(), was.end(), now.begin()))
+        << tables[i]->File();
+  }
+}
+
+TEST(Merge, WhateverIsInTheFilesTheDataStayInOrder) {
+  for (std::uint64_t seed = 1; seed <= 30; ++seed) {
+    SCOPED_TRACE(seed);
+    Dice dice(seed);
+    World world = seed % 3 == 0 ? RandomData(seed) : Here();
+    NewRecords coming = AsNew(seed % 2 == 0 ? RandomData(seed + 100) : Linked());
+    const auto spoil = [&]<class T>(RecordFile<T>& file) {
+      for (T& record : file.Records)
+        for (const Field& field : LayoutOf<T>().Fields)
+          if (dice.OneIn(8)) Scramble(dice, field, 0, reinterpret_cast<std::byte*>(&record));
+      file.Records.resize(file.Records.size() + 3);
+      for (std::size_t i = file.Records.size() - 3; i < file.Records.size(); ++i)
+        for (std::size_t b = 0; b < sizeof(T); ++b)
+          reinterpret_cast<std::byte*>(&file.Records[i])[b] = dice.Byte();
+    };
+    spoil(coming.Networks);
+    spoil(coming.Promotions);
+    spoil(coming.Workers);
+    spoil(coming.AllStaff);
+    spoil(coming.Teams);
+    spoil(coming.Shows);
+    ASSERT_EQ(Lines(CheckWorld(world)), Texts{});
+    const World before = CopyOf(world);
+    MergeNewRecords(world, coming);
+    EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
+    ExpectBegins(world, before);
+  }
+}
+
+}  // namespace
+}  // namespace grapplemont::test
