@@ -99,7 +99,7 @@ void ForEachFile(Inspection& inspection, Visit visit) {
   all(world.Titles(), world.Events(), world.Networks(), world.Promotions(), world.Sponsors(),
       world.Stables(), world.AllStaff(), world.Teams(), world.Shows(), world.Workers(),
       world.GameInfos(), world.News(), world.Feuds(), world.Segments(), world.Incidents(),
-      world.ShowRuns(), world.History());
+      world.ShowRuns(), world.History(), world.Deeds());
 }
 
 }  // namespace grapplemont

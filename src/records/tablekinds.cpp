@@ -76,7 +76,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<Segment>("segments.csv", true),
           Kind<Incident>("incidents.csv", true),
           Kind<ShowRun>("showruns.csv", true),
-          Kind<HistoryEntry>("history.csv", true)};
+          Kind<HistoryEntry>("history.csv", true),
+          Kind<Deed>("deeds.csv", true)};
 }
 
 }  // namespace

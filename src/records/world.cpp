@@ -30,9 +30,9 @@ const Promotion& World::Player() const {
 }
 
 std::array<Table*, World::kTables> World::Tables() {
-  return {&titles_, &events_, &networks_, &promotions_, &sponsors_,  &stables_,
-          &staff_,  &teams_,  &shows_,    &workers_,    &gameInfos_, &news_,
-          &notes_,  &feuds_,  &segments_, &incidents_,  &showRuns_,  &history_};
+  return {&titles_,   &events_,    &networks_, &promotions_, &sponsors_, &stables_, &staff_,
+          &teams_,    &shows_,     &workers_,  &gameInfos_,  &news_,     &notes_,   &feuds_,
+          &segments_, &incidents_, &showRuns_, &history_,    &deeds_};
 }
 
 std::array<const Table*, World::kTables> World::Tables() const {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "records/companies.h"
+#include "records/deeds.h"
 #include "records/draws.h"
 #include "records/gameinfo.h"
 #include "records/history.h"
@@ -73,6 +74,9 @@ class World {
   /// The past, oldest first.
   Records<HistoryEntry>& History() { return history_; }
   const Records<HistoryEntry>& History() const { return history_; }
+  /// What the wrestling world has done of late, oldest first.
+  Records<Deed>& Deeds() { return deeds_; }
+  const Records<Deed>& Deeds() const { return deeds_; }
   Records<GameInfo>& GameInfos() { return gameInfos_; }
   const Records<GameInfo>& GameInfos() const { return gameInfos_; }
   TextFile& Notes() { return notes_; }
@@ -111,7 +115,7 @@ class World {
   SessionWords Session;
 
   /// Every file of a world, the ten of the data set first and in their fixed order.
-  static constexpr int kTables = 18;
+  static constexpr int kTables = 19;
   std::array<Table*, kTables> Tables();
   std::array<const Table*, kTables> Tables() const;
 
@@ -155,6 +159,7 @@ class World {
   Records<Incident> incidents_;
   Records<ShowRun> showRuns_;
   Records<HistoryEntry> history_;
+  Records<Deed> deeds_;
   TextFile notes_{"notes.dat"};
   mutable UidIndex workerIndex_, promotionIndex_, staffIndex_, networkIndex_, sponsorIndex_;
   std::unique_ptr<Draws> chance_, prose_;

@@ -134,6 +134,7 @@ void MeetStranger(World& world) {
   promotion.Momentum = 4;
   promotion.Risk = 40;
   Employ(world, promotion);
+  NoteDeed(world, kDeedFounded, &promotion, promotion.Name, {}, promotion.Size);
   AddNews(world, "New Promotion", "A new promotion, " + promotion.Name.Str() + ", has opened.");
   BuyStars(world, Open(world, promotion));
 }

@@ -91,6 +91,7 @@ constexpr const char* kWelcomes[] = {
 void TakeOver(World& world, const Promotion& promotion, Staff& owner) {
   owner.Employer = promotion.Uid;
   owner.ContractMonths = kNoEnd;
+  NoteDeed(world, kDeedOwner, &promotion, owner.Name);
   if (promotion.Uid == world.PlayerUid()) {
     AddNews(world, owner.Name, OwnersWelcome(world, owner));
   } else if (ShouldTell(world, world.Game().MailOwners, promotion.Size)) {

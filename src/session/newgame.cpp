@@ -67,6 +67,7 @@ void EmptyFiles(World& world, const NewGameChoice& choice) {
   world.Segments().Remove();
   world.ShowRuns().Remove();
   world.History().Remove();
+  world.Deeds().Remove();
   world.Incidents().Remove();
   world.Feuds().Rewrite(std::vector<Feud>(kFeuds));
   NewGameInfo(world, choice);

@@ -23,8 +23,9 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
   `wrestler.dat`.
 - `s1` to `s8` are the save slots. Each is a complete running world: the ten files, and those that only a game has:
   `gameinfo.dat` (a slot is in use exactly when it has one), `news.dat`, `notes.dat`, `feudinfo.dat`, `match.dat` while
-  a show is booked, `showrun.dat` while one is under way, `incident.tmp` when something happened backstage, and
-  `history.dat`, which keeps every show of the player's and how each promotion stood at every month end.
+  a show is booked, `showrun.dat` while one is under way, `incident.tmp` when something happened backstage,
+  `history.dat`, which keeps every show of the player's and how each promotion stood at every month end, and
+  `deeds.dat`, which keeps what the wrestling world did of late.
 
 ## The journal
 

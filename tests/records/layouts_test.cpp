@@ -533,7 +533,8 @@ TEST(Layouts, FilesHaveTheirNamesAndLimits) {
               {"staff.dat", 58, 10000},     {"teams.dat", 56, 10000},  {"tv.dat", 50, 1000},
               {"wrestler.dat", 237, 25000}, {"gameinfo.dat", 440, 1},  {"news.dat", 290, 20000},
               {"notes.dat", 0, 0},          {"feudinfo.dat", 36, 8},   {"match.dat", 143, 11},
-              {"incident.tmp", 4, 10},      {"showrun.dat", 50, 1},    {"history.dat", 78, 30000}};
+              {"incident.tmp", 4, 10},      {"showrun.dat", 50, 1},    {"history.dat", 78, 30000},
+              {"deeds.dat", 106, 3000}};
   const World world;
   const auto tables = world.Tables();
   ASSERT_EQ(std::size(rows), tables.size());

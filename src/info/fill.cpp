@@ -1,0 +1,23 @@
+#include "info/fill.h"
+
+#include <cctype>
+
+namespace grapplemont {
+
+std::string FillLine(std::string_view line, const LineWords& words) {
+  std::string text;
+  while (!line.empty()) {
+    const std::size_t open = line.find('{');
+    text += line.substr(0, open);
+    if (open == std::string_view::npos) break;
+    const std::size_t close = line.find('}', open);
+    const std::string_view name = line.substr(open + 1, close - open - 1);
+    for (const auto& [place, word] : words)
+      if (place == name) text += word;
+    line.remove_prefix(close + 1);
+  }
+  if (!text.empty()) text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
+  return text;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace grapplemont {
+
+/// Names in a line, without their braces, and the words that go there.
+using LineWords = std::vector<std::pair<std::string_view, std::string>>;
+
+/// The line with the words in place of {their names}; the first letter of all is a capital.
+std::string FillLine(std::string_view line, const LineWords& words);
+
+}  // namespace grapplemont
