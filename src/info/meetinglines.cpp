@@ -697,7 +697,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      "frmEvent",
      {"{event} is in {days} days. {feuds} of our feuds are hot enough for it, and {fit} people on "
       "the card are fit.",
-      "{days} days to {event}, with {feuds} hot feuds and {fit} fit people for the card."},
+      "{days} days to {event}, with {feuds} of our feuds hot and {fit} fit people for the card."},
      "What is to be fought out there wants feeding on every show until then."},
 }};
 

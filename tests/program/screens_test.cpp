@@ -54,7 +54,8 @@ constexpr const char* kInGame[] = {
     "frmFinance",    "frmTicket",       "frmCharity",    "frmLoan",      "frmWages",
     "frmFedProd",    "frmFedSponsor",   "frmTelevision", "frmPromoTape", "frmTvOffer",
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
-    "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky"};
+    "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
+    "frmTalk",       "frmInternet"};
 constexpr const char* kBeforeGame[] = {"frmTitleScreen", "frmDisclaimer",  "frmGameMenu",
                                        "frmCredits",     "frmCreditsXtra", "frmNewGame",
                                        "frmLoadGame",    "frmWait",        "frmLoadingScreens"};
