@@ -1,6 +1,7 @@
 #include "info/fans.h"
 
 #include <algorithm>
+#include <set>
 
 #include "calendar/events.h"
 #include "info/fanlines.h"
@@ -112,45 +113,50 @@ const Deed* LastShowOf(const World& world, int promotionUid) {
   return nullptr;
 }
 
-/// Writes posts with handles and lines that have not been used yet.
-class Page {
+/// What has been said on the page, so that it is not said again before everything has been.
+class Used {
  public:
-  Page(const ShowSeen& show, const LineWords& words) : show_(show), words_(words) {}
+  /// The first that is free from a place on that the words and the day decide.
+  std::string_view Fresh(std::span<const std::string_view> all, const std::string& words, Day day) {
+    const std::size_t start = ChoiceFor(words, day, all.size());
+    for (std::size_t tried = 0; tried < all.size(); ++tried) {
+      const std::string_view one = all[(start + tried) % all.size()];
+      if (used_.insert(one).second) return one;
+    }
+    return all[start];
+  }
+
+ private:
+  std::set<std::string_view> used_;
+};
+
+/// The posts about one show.
+class Thread {
+ public:
+  Thread(Used& used, const ShowSeen& show) : used_(used), show_(show) {}
 
   void Post(FanMood mood, const char* name = "", const std::string& word = {}) {
-    LineWords words = words_;
-    words.emplace_back(name, word);
-    const std::string_view line = Fresh(FanLines(mood), "line");
-    posts_.push_back({std::string(Fresh(FanHandles(), "handle")), FillLine(line, words)});
+    const std::string seed = show_.House + show_.Show + std::to_string(posts_.size());
+    const std::string_view line = used_.Fresh(FanLines(mood), seed, show_.On);
+    posts_.push_back(
+        {std::string(used_.Fresh(FanHandles(), seed + "by", show_.On)),
+         FillLine(line, {{"show", show_.Show}, {"house", show_.House}, {name, word}})});
   }
   std::vector<FanPost> Posts() { return std::move(posts_); }
 
  private:
-  /// The first that is free from a place on that only the show decides.
-  std::string_view Fresh(std::span<const std::string_view> all, const char* what) {
-    std::size_t at = ChoiceFor(show_.House + show_.Show + what, show_.On, all.size());
-    const auto isUsed = [&](std::string_view text) {
-      return std::find(used_.begin(), used_.end(), text) != used_.end();
-    };
-    for (std::size_t tried = 0; tried < all.size() && isUsed(all[at]); ++tried)
-      at = (at + 1) % all.size();
-    used_.push_back(all[at]);
-    return all[at];
-  }
-
+  Used& used_;
   const ShowSeen& show_;
-  LineWords words_;
-  std::vector<std::string_view> used_;
   std::vector<FanPost> posts_;
 };
 
-void PostAboutRows(Page& page, const ShowSeen& show) {
+void PostAboutRows(Thread& thread, const ShowSeen& show) {
   if (show.Rows.size() < 2) return;
   const auto [worst, best] = std::minmax_element(
       show.Rows.begin(), show.Rows.end(),
       [](const ShowSeen::Row& a, const ShowSeen::Row& b) { return a.Rating < b.Rating; });
-  page.Post(FanMood::Stolen, "what", best->What);
-  if (worst->Rating < best->Rating) page.Post(FanMood::Bored, "what", worst->What);
+  thread.Post(FanMood::Stolen, "what", best->What);
+  if (worst->Rating < best->Rating) thread.Post(FanMood::Bored, "what", worst->What);
 }
 
 /// The most popular of those who are fit to be on a show there.
@@ -171,13 +177,24 @@ int UsualCrowd(const World& world, const Promotion& promotion, const ShowSeen& s
   return crowd.Base + crowd.Draw / 2;
 }
 
-void PostAboutTheCrowd(Page& page, const World& world, const ShowSeen& show) {
+void PostAboutTheCrowd(Thread& thread, const World& world, const ShowSeen& show) {
   const Promotion* promotion = world.FindPromotion(show.Promotion);
   const int usual = promotion ? UsualCrowd(world, *promotion, show) : 0;
   if (usual == 0) return;
   const long long percent = static_cast<long long>(show.People) * 100 / usual;
-  if (percent >= kFullPercent) page.Post(FanMood::Full);
-  if (percent <= kEmptyPercent) page.Post(FanMood::Empty);
+  if (percent >= kFullPercent) thread.Post(FanMood::Full);
+  if (percent <= kEmptyPercent) thread.Post(FanMood::Empty);
+}
+
+std::vector<FanPost> PostsAbout(const World& world, const ShowSeen& show, Used& used) {
+  Thread thread(used, show);
+  for (int voice = 0; voice < kVoices; ++voice) thread.Post(MoodOf(show));
+  if (show.CalledOff) return thread.Posts();
+  PostAboutRows(thread, show);
+  if (const Worker* star = show.Rows.empty() ? StarOf(world, show.Promotion) : nullptr)
+    thread.Post(FanMood::Star, "who", star->Name.Str());
+  PostAboutTheCrowd(thread, world, show);
+  return thread.Posts();
 }
 
 }  // namespace
@@ -196,15 +213,14 @@ std::vector<ShowSeen> ShowsSeen(const World& world) {
   return shows;
 }
 
-std::vector<FanPost> PostsAbout(const World& world, const ShowSeen& show) {
-  Page page(show, {{"show", show.Show}, {"house", show.House}});
-  for (int voice = 0; voice < kVoices; ++voice) page.Post(MoodOf(show));
-  if (show.CalledOff) return page.Posts();
-  PostAboutRows(page, show);
-  if (const Worker* star = show.Rows.empty() ? StarOf(world, show.Promotion) : nullptr)
-    page.Post(FanMood::Star, "who", star->Name.Str());
-  PostAboutTheCrowd(page, world, show);
-  return page.Posts();
+std::vector<FanThread> FanPage(const World& world) {
+  Used used;
+  std::vector<FanThread> page;
+  for (ShowSeen& show : ShowsSeen(world)) {
+    std::vector<FanPost> posts = PostsAbout(world, show, used);
+    page.push_back({std::move(show), std::move(posts)});
+  }
+  return page;
 }
 
 }  // namespace grapplemont

@@ -32,8 +32,13 @@ std::vector<ShowSeen> ShowsSeen(const World& world);
 struct FanPost {
   std::string Handle, Words;
 };
-/// The posts about a show, the general ones first. No handle and no line comes twice in it, and the
-/// same show is always met with the same words.
-std::vector<FanPost> PostsAbout(const World& world, const ShowSeen& show);
+/// A show and the posts about it, the general ones first.
+struct FanThread {
+  ShowSeen About;
+  std::vector<FanPost> Posts;
+};
+/// About all shows seen. No handle and no line comes twice before all have had their turn, and the
+/// same shows are always met with the same words.
+std::vector<FanThread> FanPage(const World& world);
 
 }  // namespace grapplemont

@@ -20,4 +20,10 @@ std::string FillLine(std::string_view line, const LineWords& words) {
   return text;
 }
 
+std::string WithArticle(std::string_view name) {
+  constexpr std::string_view kArticle = "The ";
+  if (name.starts_with(kArticle)) name.remove_prefix(kArticle.size());
+  return "the " + std::string(name);
+}
+
 }  // namespace grapplemont

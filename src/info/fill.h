@@ -13,4 +13,7 @@ using LineWords = std::vector<std::pair<std::string_view, std::string>>;
 /// The line with the words in place of {their names}; the first letter of all is a capital.
 std::string FillLine(std::string_view line, const LineWords& words);
 
+/// "the CWA Crown"; a name that brings its article along keeps one.
+std::string WithArticle(std::string_view name);
+
 }  // namespace grapplemont

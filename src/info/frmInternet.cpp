@@ -36,7 +36,7 @@ class frmInternet : public ui::Screen {
     page.Actions = {&cmdback};
     page.Main = &cmdback;
     page.Cancel = &cmdback;
-    page.Body = ui::Tabs({ui::Group(kNewsSite, {ui::Grow(lstnews)}),
+    page.Body = ui::Tabs({ui::Group(kNewsSite, {chkshows, ui::Grow(lstnews)}),
                           ui::Group(kRankSite, {ui::Field("Ranking", cmbrank), ui::Grow(lstrank)}),
                           ui::Group(kRumourSite, {ui::Grow(txtrumours)}),
                           ui::Group(kFanSite, {ui::Grow(txtfans)})});
@@ -58,6 +58,7 @@ class frmInternet : public ui::Screen {
   void ShowNews() {
     std::vector<ui::ListBox::Row> rows;
     for (const NewsItem& item : WorldNews(world())) {
+      if (!chkshows.Checked && (item.What == "Show" || item.What == "Event")) continue;
       const double day = static_cast<double>((item.On - kDayZero).count());
       rows.push_back({{{day, ShortDate(item.On), ui::Tone::Muted},
                        ui::Cell(item.What, ToneOf(item)),
@@ -122,10 +123,10 @@ class frmInternet : public ui::Screen {
 
   void ShowFans() {
     Paragraphs words;
-    for (const ShowSeen& show : ShowsSeen(world())) {
-      words.push_back({Style::Heading, HeadingOf(show)});
-      words.push_back({Style::Muted, FiguresOf(show)});
-      for (const FanPost& post : PostsAbout(world(), show)) {
+    for (const FanThread& thread : FanPage(world())) {
+      words.push_back({Style::Heading, HeadingOf(thread.About)});
+      words.push_back({Style::Muted, FiguresOf(thread.About)});
+      for (const FanPost& post : thread.Posts) {
         words.push_back({Style::Strong, post.Handle});
         words.push_back({Style::Body, post.Words});
       }
@@ -142,6 +143,8 @@ class frmInternet : public ui::Screen {
   using K = ui::ColumnKind;
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
+  ui::CheckBox chkshows{*this, "chkshows", "Shows that were held, too", false,
+                        &frmInternet::ShowNews};
   ui::ListBox lstnews{
       *this,
       "lstnews",

@@ -519,8 +519,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Soon,
      kWriter,
      "frmBelts",
-     {"Nobody holds the {title}. It hangs in my office and looks better than it should.",
-      "The {title} is vacant. Every match for it that gives it to nobody takes a quarter of its "
+     {"Nobody holds {title}. It hangs in my office and looks better than it should.",
+      "{title} is vacant. Every match for it that gives it to nobody takes a quarter of its "
       "image of {image}."},
      "Book somebody to win it, or award it."},
     {P::TitleAway,
@@ -528,9 +528,9 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Now,
      kWriter,
      "frmBelts",
-     {"The {title} is with {who}, who cannot defend it: {why}. Each Event without a match for it "
+     {"{title} is with {who}, who cannot defend it: {why}. Each Event without a match for it "
       "may cost it a tenth of its image, {image} now.",
-      "{who} has the {title} and is not here: {why}. At {image} of image it will not improve in a "
+      "{who} has {title} and is not here: {why}. At {image} of image it will not improve in a "
       "cupboard."},
      "Suspend it until then, or vacate it, which costs 20 image."},
     {P::TitleLeaving,
@@ -538,28 +538,28 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Now,
      kWriter,
      "frmBelts",
-     {"{who} holds the {title} and is about to go: {why}. A Title whose holder leaves loses a "
+     {"{who} holds {title} and is about to go: {why}. A Title whose holder leaves loses a "
       "tenth "
       "of its image.",
-      "The {title} hangs on {who}, and {why}."},
+      "{title} hangs on {who}, and {why}."},
      "Book {who} to lose it first, or renew."},
     {P::TitleOutshines,
      Titles,
      Soon,
      kWriter,
      "frmBelts",
-     {"The {title} has an image of {image}, and {who} an Over of {over}. Each defence will drag it "
+     {"{title} has an image of {image}, and {who} an Over of {over}. Each defence will drag it "
       "down.",
-      "{who} ({over}) is carrying something heavier than {themself}: the {title} at {image}."},
+      "{who} ({over}) is carrying something heavier than {themself}: {title} at {image}."},
      "Give it to somebody with an Over of {needed} or more."},
     {P::TitleLong,
      Titles,
      Watch,
      kWriter,
      "frmBelts",
-     {"{who} has held the {title} for {days} days. People have stopped looking up when the bell "
+     {"{who} has held {title} for {days} days. People have stopped looking up when the bell "
       "goes.",
-      "{days} days, and the {title} is still with {who}. It may be time to be surprised."},
+      "{days} days, and {title} is still with {who}. It may be time to be surprised."},
      "Build a challenger."},
     {P::TitlesNone,
      Titles,

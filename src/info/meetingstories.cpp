@@ -131,7 +131,7 @@ bool TalkOfHolders(Meeting& meeting, const Title& title, Point point,
   for (const Worker* holder : HoldersOf(meeting.Of(), title)) {
     const std::string reason = why(*holder);
     if (reason.empty()) continue;
-    meeting.Say(point, {{"title", title.Name.Str()},
+    meeting.Say(point, {{"title", WithArticle(title.Name.View())},
                         {"who", holder->Name.Str()},
                         {"why", reason},
                         {"image", Number(int(title.Image))}});
@@ -150,7 +150,7 @@ void TalkOfHeldTitle(Meeting& meeting, const Title& title) {
   const int over = sum / static_cast<int>(holders.size());
   const auto days = (meeting.Of().Today() - Day(title.Reigns[0].Won)).count();
   const bool isDated = Day(title.Reigns[0].Won) != kNoTitleDate;
-  const Meeting::Words words = {{"title", title.Name.Str()},
+  const Meeting::Words words = {{"title", WithArticle(title.Name.View())},
                                 {"who", ChampionText(meeting.Of(), title)},
                                 {"themself", holders.size() > 1   ? "themselves"
                                              : holders[0]->Gender ? "himself"
@@ -232,7 +232,7 @@ void TalkOfTitles(Meeting& meeting) {
     if (title.Suspended) continue;
     if (title.Holder == 0)
       meeting.Say(Point::TitleVacant,
-                  {{"title", title.Name.Str()}, {"image", Number(int(title.Image))}});
+                  {{"title", WithArticle(title.Name.View())}, {"image", Number(int(title.Image))}});
     else
       TalkOfHeldTitle(meeting, title);
   }

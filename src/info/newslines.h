@@ -19,15 +19,15 @@ const DeedLine* LineOfDeed(int kind);
 
 /// How a Title's change is told: {who}, {title}, {house} and {other}, the champion before.
 inline constexpr std::array<std::string_view, 3> kTitleWon = {
-    "{who} took the {title} from {other}.",
-    "The {title} has gone from {other} to {who}, who has been photographed with it in a bath.",
-    "{other} lost the {title} to {who}, and has asked for a recount."};
+    "{who} took {title} from {other}.",
+    "{title} has gone from {other} to {who}, who has been photographed with it in a bath.",
+    "{other} lost {title} to {who}, and has asked for a recount."};
 inline constexpr std::array<std::string_view, 3> kTitleFound = {
-    "{who} holds the {title}, which had been nobody's.", "The {title} has found a home with {who}.",
-    "After a time on a hook the {title} belongs to {who}."};
+    "{who} holds {title}, which had been nobody's.", "{title} has found a home with {who}.",
+    "After a time on a hook {title} belongs to {who}."};
 inline constexpr std::array<std::string_view, 3> kTitleLost = {
-    "The {title} is vacant. {other} had it last.",
-    "{other} is champion no more, and nobody is: the {title} is vacant.",
-    "The {title} has been left on a chair by {other}. It is vacant."};
+    "{title} is vacant. {other} had it last.",
+    "{other} is champion no more, and nobody is: {title} is vacant.",
+    "{title} has been left on a chair by {other}. It is vacant."};
 
 }  // namespace grapplemont

@@ -111,7 +111,7 @@ Rows TitleRows(const World& world) {
 }
 
 constexpr Ranking kRankings[] = {
-    {"Promotions", "Promotion", "Size", "Image", PromotionRows},
+    {"Promotions", "Name", "Size", "Image", PromotionRows},
     {"Men by popularity", "Worker", "Over", "Skill",
      [](const World& world) { return Wrestlers(world, IsMan, OverOf, SkillOf); }},
     {"Women by popularity", "Worker", "Over", "Skill",

@@ -129,7 +129,7 @@ void HearOfTitles(Ear& ear, const World& world) {
       ear.push_back({Whisper::LongReign,
                      title.Name.Str(),
                      {{"who", ChampionText(world, title)},
-                      {"what", title.Name.Str()},
+                      {"what", WithArticle(title.Name.View())},
                       {"house", house->Initials.Str()},
                       {"n", "more than " + std::to_string(told)}}});
   }

@@ -66,7 +66,7 @@ NewsItem ItemOf(const World& world, const Title& title, std::size_t reign) {
   return {now.Won, "Title", house,
           FillLine(lines[ChoiceFor(title.Name.View(), now.Won, lines.size())],
                    {{"who", now.Holder.Str()},
-                    {"title", title.Name.Str()},
+                    {"title", WithArticle(title.Name.View())},
                     {"house", house},
                     {"other", other}})};
 }

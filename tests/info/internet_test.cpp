@@ -359,7 +359,7 @@ TEST(Fans, JudgeTheShowByItsRating) {
     world.History().Append(Held(kPastTv, kMeeting, "Friday Fire", row.Rating));
     const auto shows = ShowsSeen(world);
     ASSERT_EQ(shows.size(), 1U);
-    const auto posts = PostsAbout(world, shows[0]);
+    const auto posts = FanPage(world).at(0).Posts;
     ASSERT_GE(posts.size(), 2U);
     EXPECT_TRUE(IsOfMood(posts[0], row.Mood)) << row.Rating << ": " << posts[0].Words;
     EXPECT_NE(posts[0].Words, posts[1].Words);
@@ -386,7 +386,8 @@ TEST(Fans, NameWhatStoleTheShowWhileItIsKnown) {
     return segment;
   };
   const auto wordsOf = [&](FanMood mood) {
-    for (const FanPost& post : PostsAbout(world, ShowsSeen(world).at(0)))
+    const auto page = FanPage(world);
+    for (const FanPost& post : page.at(0).Posts)
       if (IsOfMood(post, mood)) return post.Words;
     return std::string();
   };
@@ -406,11 +407,30 @@ TEST(Fans, WriteAboutRivalsAndWhatWasCalledOff) {
   world.History().Append(off);
   const auto shows = ShowsSeen(world);
   ASSERT_EQ(shows.size(), 2U);
-  EXPECT_TRUE(IsOfMood(PostsAbout(world, shows[0]).at(0), FanMood::CalledOff));
+  const auto page = FanPage(world);
+  EXPECT_TRUE(IsOfMood(page.at(0).Posts.at(0), FanMood::CalledOff));
   EXPECT_EQ(shows[1].Show, "NEW Hour");
-  const auto posts = PostsAbout(world, shows[1]);
+  const auto& posts = page.at(1).Posts;
   EXPECT_TRUE(IsOfMood(posts.at(0), FanMood::Superb)) << posts.at(0).Words;
   EXPECT_TRUE(Has(posts.at(2).Words, "NEW 1")) << "its star: " << posts.at(2).Words;
+}
+
+TEST(Fans, RepeatNeitherALineNorAHandleOnAPage) {
+  World world = CalmWorld();
+  world.History().Append(Held(kPastTv, kMeeting, "Friday Fire", 60));
+  world.History().Append(Held(kPastEvent, kMeeting, "CWA in March", 60));
+  NoteShow(world, kDeedTvHeld, Rival(world), "NEW Hour", 60, 205, 500);
+  std::set<std::string> handles, words;
+  int count = 0;
+  for (const FanThread& thread : FanPage(world))
+    for (const FanPost& post : thread.Posts) {
+      handles.insert(post.Handle);
+      words.insert(post.Words);
+      ++count;
+    }
+  EXPECT_GE(count, 9);
+  EXPECT_EQ(handles.size(), static_cast<std::size_t>(count));
+  EXPECT_EQ(words.size(), static_cast<std::size_t>(count));
 }
 
 }  // namespace
