@@ -66,6 +66,11 @@ void TalkOfStaffContracts(Meeting& meeting) {
     meeting.Say(Point::StaffContracts, {{"n", std::to_string(count)}, {"names", names}});
 }
 
+std::string Return(const People& absent, const Worker& first) {
+  const std::string months = "in " + Counted(first.StatusMonths, "month") + ".";
+  return (absent.size() == 1 ? "Back " : first.Name.Str() + " is back first, ") + months;
+}
+
 void TalkOfAbsent(Meeting& meeting, Point point, const People& absent) {
   if (absent.empty()) return;
   const Worker& first = **std::min_element(absent.begin(), absent.end(), [](auto* a, auto* b) {
@@ -73,8 +78,7 @@ void TalkOfAbsent(Meeting& meeting, Point point, const People& absent) {
   });
   meeting.Say(point, {{"n", Number(absent.size())},
                       {"names", SomeOf(absent, kSomeNames)},
-                      {"who", first.Name.Str()},
-                      {"months", Counted(first.StatusMonths, "month")}});
+                      {"return", Return(absent, first)}});
 }
 
 void TalkOfCondition(Meeting& meeting, Point point, int from, int below) {
@@ -169,17 +173,18 @@ void TalkOfTheYoung(Meeting& meeting) {
 }
 
 void TalkOfStaff(Meeting& meeting) {
+  std::string empty;
   for (const PostCount& post : PostCounts(meeting.Of())) {
     const std::string name(PostText(post.Post));
     if (post.Have < post.Need)
       meeting.Say(Point::PostShort, {{"post", name},
-                                     {"n", post.Have == 0 ? "nobody" : std::to_string(post.Have)},
-                                     {"need", std::to_string(post.Need)},
+                                     {"n", Number(post.Have)},
+                                     {"need", Number(post.Need)},
                                      {"remedy", PostAdvice({post})}});
     else if (post.Have == 0 && SpeaksHere(post.Post))
-      meeting.Say(Point::PostEmpty,
-                  {{"post", name}, {"standin", std::string(StandInFor(post.Post))}});
+      empty += (empty.empty() ? "" : ", ") + name;
   }
+  if (!empty.empty()) meeting.Say(Point::PostEmpty, {{"posts", empty}});
 }
 
 }  // namespace grapplemont

@@ -86,11 +86,9 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      kRoadAgent,
      "frmRoster",
      {"{who} has a bag packed. Morale {morale}, no written contract: tomorrow it is somebody "
-      "else's "
-      "problem.{why}",
+      "else's problem.{why}",
       "{who} is down to a morale of {morale}, and nothing in writing holds {them} here. I have "
-      "seen "
-      "the coat on twice today.{why}"},
+      "seen the coat on twice today.{why}"},
      "Put {who} over today if there is a show, or talk about a contract in writing; else say "
      "goodbye."},
     {P::Boycott,
@@ -161,8 +159,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      {"{n} with a contract about to end will not even sit down with us: {names}. {who} has a "
       "morale of {morale} and a loyalty of {loyalty}; under 40 of either nobody talks.",
       "{names} will not talk, and the contract runs out. For {who} that is a morale of {morale} "
-      "and "
-      "a loyalty of {loyalty}; we need 40 of both."},
+      "and a loyalty of {loyalty}; we need 40 of both."},
      "Raise the morale first, or take the Titles and feuds off them while they are still here."},
     {P::StaffContracts,
      Contracts,
@@ -185,16 +182,16 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Watch,
      kMedical,
      "frmRoster",
-     {"{n} on the table: {names}. The first back is {who}, in {months}.",
-      "I have {n} in plaster or something like it: {names}. {who} is back first, in {months}."},
+     {"{n} on the table: {names}. {return}",
+      "I have {n} in plaster or something like it: {names}. {return}"},
      "Keep them off the plans until then."},
     {P::Suspended,
      Health,
      Watch,
      kMaeve,
      "frmRoster",
-     {"Suspended or in rehab: {names}. The first back is {who}, in {months}.",
-      "{names} will be back when the time is served, {who} first, in {months}."},
+     {"Suspended or in rehab: {names}. {return}",
+      "{names} may come in when the time is served. {return}"},
      "Keep them off the plans until then."},
     {P::WornOut,
      Health,
@@ -202,8 +199,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      kMedical,
      "frmRoster",
      {"{n} should be lying down: {names}. {who} has a condition of {condition}. Under 40 they "
-      "break "
-      "twice as easily.",
+      "break twice as easily.",
       "{who} is at a condition of {condition}, and I can hear the knees from here. Under 40, where "
       "the danger doubles: {names}."},
      "Leave them off the next show, or let them talk instead."},
@@ -261,17 +257,16 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Soon,
      kMaeve,
      "frmOtherStaff",
-     {"{post}: we have {n} and need {need}.",
-      "I have counted the {post}: {n}. It should be {need}, and it shows."},
+     {"{post}: we have {n} and need {need}.", "{post}: {n} of {need}, and it shows."},
      "{remedy}"},
     {P::PostEmpty,
      Topic::Staff,
      Watch,
      kMaeve,
      "frmOtherStaff",
-     {"Nobody on the staff is {post}. {standin} speaks for the post today, and means well.",
-      "The chair of the {post} is empty. {standin} has been using it."},
-     "Hire one, if only to have somebody to listen to."},
+     {"Nobody on the staff holds these posts: {posts}. Others speak for them today, and mean well.",
+      "Empty chairs at this table: {posts}. Somebody has been using them."},
+     "Nothing asks for them yet. Hire one if you want to hear somebody who knows."},
     {P::NearBankruptcy,
      Money,
      Now,
@@ -372,10 +367,9 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      kOwner,
      "frmTicket",
      {"Our ticket costs {price}; people think {fair} is fair. At {best} the gate would bring "
-      "{more} "
-      "of a hundred more.",
-      "{price} at the door, where {fair} is fair. Of a hundred dollars that we take, {best} would "
-      "make a hundred and {more}."},
+      "{more}% more.",
+      "{price} at the door, where {fair} is fair. {best} would bring {more}% more, empty seats "
+      "counted in."},
      "Set the price to {best}."},
     {P::Merchandise,
      Money,
@@ -392,8 +386,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      kOwner,
      "frmFedSponsor",
      {"{n} of our four places for sponsors are free, and {takers} would say yes. {who} pays {pay} "
-      "a "
-      "television show in the best of them.",
+      "a television show in the best of them.",
       "We have {n} empty places for sponsors. {takers} would sit down, {who} for {pay} a "
       "television show."},
      "Ask {who}."},
@@ -405,8 +398,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      {"{n} places for sponsors are free, and nobody will come near us at a risk of {risk}. At "
       "{below} {who} would.",
       "Our product has a risk of {risk}. It is all that stands between us and {who}, who would "
-      "take "
-      "{below}."},
+      "take {below}."},
      "Bring the risk down to {below} if the network's slot does not need it."},
     {P::SponsorsEnd,
      Money,
@@ -424,8 +416,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      {"{main} sits in the main place and {who} in a small one, though {who} pays more. Changing "
       "chairs brings {more} a television show.",
       "Our main sponsor is {main}. Put {who} there instead, and every television show brings "
-      "{more} "
-      "more."},
+      "{more} more."},
      "Make {who} the main sponsor."},
     {P::ImageFalling,
      Image,
@@ -520,16 +511,16 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      kWriter,
      "frmBelts",
      {"Nobody holds {title}. It hangs in my office and looks better than it should.",
-      "{title} is vacant. Every match for it that gives it to nobody takes a quarter of its "
-      "image of {image}."},
+      "{title} is vacant. Every match for it that gives it to nobody takes a quarter of its image "
+      "of {image}."},
      "Book somebody to win it, or award it."},
     {P::TitleAway,
      Titles,
      Now,
      kWriter,
      "frmBelts",
-     {"{title} is with {who}, who cannot defend it: {why}. Each Event without a match for it "
-      "may cost it a tenth of its image, {image} now.",
+     {"{title} is with {who}, who cannot defend it: {why}. Each Event without a match for it may "
+      "cost it a tenth of its image, {image} now.",
       "{who} has {title} and is not here: {why}. At {image} of image it will not improve in a "
       "cupboard."},
      "Suspend it until then, or vacate it, which costs 20 image."},
@@ -538,9 +529,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Now,
      kWriter,
      "frmBelts",
-     {"{who} holds {title} and is about to go: {why}. A Title whose holder leaves loses a "
-      "tenth "
-      "of its image.",
+     {"{who} holds {title} and is about to go: {why}. A Title whose holder leaves loses a tenth of "
+      "its image.",
       "{title} hangs on {who}, and {why}."},
      "Book {who} to lose it first, or renew."},
     {P::TitleOutshines,
@@ -557,8 +547,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Watch,
      kWriter,
      "frmBelts",
-     {"{who} has held {title} for {days} days. People have stopped looking up when the bell "
-      "goes.",
+     {"{who} has held {title} for {days} days. People have stopped looking up when the bell goes.",
       "{days} days, and {title} is still with {who}. It may be time to be surprised."},
      "Build a challenger."},
     {P::TitlesNone,
@@ -602,7 +591,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      kAnnouncer,
      "frmTelevision",
      {"{show} drew {rating} against the {audience} that {network} hoped for. They sent fruit.",
-      "{rating} for {show}. {network} would have been content with {audience}."},
+      "{rating} for {show}, measured against {audience}. {network} are delighted, and a little "
+      "afraid."},
      ""},
     {P::TvStrikes,
      Television,
