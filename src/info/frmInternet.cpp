@@ -25,7 +25,6 @@ class frmInternet : public ui::Screen {
   explicit frmInternet(Game& game) : Screen(game.Desk(), "frmInternet", "Internet"), game_(game) {
     lstnews.EmptyText = "Nothing has happened since the first of last month.";
     lstrank.EmptyText = "Nobody can be ranked here.";
-    lstrank.Room = lstnews.Room = 30;
     for (const Ranking& ranking : Rankings()) cmbrank.Add(ranking.Title, cmbrank.Count() + 1);
     cmbrank.Select(1);
   }

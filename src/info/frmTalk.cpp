@@ -21,7 +21,7 @@ class frmTalk : public ui::Screen {
     page.Actions = {&cmdback, &cmdgo};
     page.Main = &cmdgo;
     page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("On the table", {ui::Grow(lsttalk)}).Grow(4),
+    page.Body = ui::Columns({ui::Group("On the table", {ui::Grow(lsttalk)}).Grow(6),
                              ui::Group("", {ui::Grow(txtsays)}).Grow(5)});
     return page;
   }

@@ -77,6 +77,23 @@ constexpr std::array<WhisperLines, static_cast<std::size_t>(W::kCount)> kLines =
      {"What is between {who} and {other} at {house} is real, they say, or nearly.",
       "They keep {who} and {other} in different corridors at {house}, I hear.",
       "{who} and {other} of {house} cannot be in one lift, if the porter is right."}},
+    {W::FreeStar,
+     {"{who} is out of work and, they say, answers the telephone before it rings.",
+      "Nobody employs {who}, if you believe the man at the labour exchange.",
+      "{who} was seen feeding ducks on a working day. No contract, I hear, and {n} would do."}},
+    {W::HeldDown,
+     {"{who} is worth more than a place as {what} at {house}, or so the crowd says.",
+      "They say {who} has begun to count the names above on the posters of {house}. {what} is low.",
+      "{house} keep {who} as {what}. It is asked why, and not only by {who}."}},
+    {W::NoChampion,
+     {"{house} is looking for somebody to carry {what}. It fits most waists.",
+      "They say {what} lies in a drawer at {house}, and that the drawer will be opened at an "
+      "Event.",
+      "Nobody holds {what} of {house}. Several people have been seen standing up straight."}},
+    {W::Slipping,
+     {"Two bad months in a row at {house}, they say, and the mood is going the same way.",
+      "{house} has been going down since before last month, if the doorman can count.",
+      "At {house} they have taken the graph off the wall, I hear, and used the other side."}},
 }};
 
 constexpr bool IsInOrder() {

@@ -6,12 +6,15 @@
 #include "business/networks.h"
 #include "business/tvtalks.h"
 #include "info/fill.h"
+#include "info/meetingfacts.h"
 #include "info/worldnews.h"
 #include "records/dates.h"
+#include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/bankruptcylines.h"
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
+#include "roster/placement.h"
 #include "storylines/feuds.h"
 #include "storylines/titles.h"
 
@@ -28,10 +31,7 @@ constexpr int kOld = 45;
 constexpr int kLongReign = 90;
 constexpr int kShortDeal = 4;  // weeks
 constexpr int kBurning = 75;
-
-std::string Counted(int count, const char* what) {
-  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
+constexpr int kBadMonths = 2;
 
 /// What was heard, and by whose name its place in the list and its words are found.
 struct Heard {
@@ -57,6 +57,10 @@ void HearOfRivalsStar(Ear& ear, const World& world, const Worker& worker) {
                    With(Of(world, worker), "n", Counted(worker.ContractMonths, "month"))});
   if (worker.ContractType == "Non" && !worker.Unsackable)
     ear.push_back({Whisper::Handshake, name, Of(world, worker)});
+  const Promotion& house = *world.FindPromotion(worker.Employer);
+  if (IsOnRoster(worker) && worker.Position - 1 > FittingPosition(house.Size, worker.Over))
+    ear.push_back({Whisper::HeldDown, name,
+                   With(Of(world, worker), "what", std::string(PositionText(worker.Position)))});
   if (worker.Morale < kUnhappyBelow) ear.push_back({Whisper::Unhappy, name, Of(world, worker)});
 }
 
@@ -73,8 +77,13 @@ void HearOfAnybody(Ear& ear, const World& world, const Worker& worker) {
 
 void HearOfWorkers(Ear& ear, const World& world) {
   for (const Worker& worker : world.Workers()) {
+    if (worker.Over < kKnown) continue;
+    if (worker.Employer == 0 && IsOnRoster(worker))
+      ear.push_back({Whisper::FreeStar,
+                     worker.Name.Str(),
+                     {{"who", worker.Name.Str()}, {"n", Dollars(worker.Wage * 1000LL)}}});
     const Promotion* house = world.FindPromotion(worker.Employer);
-    if (!house || !IsAlive(*house) || worker.Over < kKnown) continue;
+    if (!house || !IsAlive(*house)) continue;
     if (IsRival(world, *house)) HearOfRivalsStar(ear, world, worker);
     HearOfAnybody(ear, world, worker);
   }
@@ -103,6 +112,7 @@ void HearOfStanding(Ear& ear, const Promotion& rival, LineWords words) {
   if (rival.Image <= kNearTheBottom && rival.Size < kBackyard)
     ear.push_back(
         {Whisper::AboutToFall, name, With(words, "what", std::string(SizeText(rival.Size + 1)))});
+  if (FallsInARow(rival) >= kBadMonths) ear.push_back({Whisper::Slipping, name, words});
 }
 
 void HearOfPromotions(Ear& ear, const World& world) {
@@ -119,9 +129,12 @@ void HearOfTitles(Ear& ear, const World& world) {
   for (const Title& title : world.Titles()) {
     const Promotion* house = world.FindPromotion(title.Owner);
     const Day won = title.Reigns[0].Won;
-    if (!house || !IsRival(world, *house) || title.Suspended || title.Holder == 0 ||
-        won == kNoTitleDate)
-      continue;
+    if (!house || !IsRival(world, *house) || title.Suspended) continue;
+    if (title.Holder == 0)
+      ear.push_back({Whisper::NoChampion,
+                     title.Name.Str(),
+                     {{"what", WithArticle(title.Name.View())}, {"house", house->Initials.Str()}}});
+    if (title.Holder == 0 || won == kNoTitleDate) continue;
     const auto days = static_cast<int>((world.Today() - won).count());
     // Counted to the month's first day, so that the words stay as they are.
     const auto told = static_cast<int>((MonthsBefore(world.Today(), 0) - won).count());

@@ -27,6 +27,10 @@ enum class Whisper {
   ShortDeal,
   Turn,
   Bonfire,
+  FreeStar,
+  HeldDown,
+  NoChampion,
+  Slipping,
   kCount
 };
 

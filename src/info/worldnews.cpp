@@ -1,6 +1,8 @@
 #include "info/worldnews.h"
 
 #include <algorithm>
+#include <map>
+#include <span>
 
 #include "business/months.h"
 #include "info/fill.h"
@@ -13,16 +15,33 @@ namespace grapplemont {
 
 namespace {
 
+/// Titles' news beside the kinds of deeds.
+constexpr int kTitleNews = 100;
+
 std::string Counted(int count, const char* what) {
   return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
-std::string Words(const Deed& deed) {
+/// Chooses lines by the day and, on a day of many alike, each another one.
+class Desk {
+ public:
+  std::string_view Choose(std::span<const std::string_view> lines, int kind, Day day) {
+    const auto end = std::find(lines.begin(), lines.end(), std::string_view());
+    const auto count = static_cast<std::size_t>(end - lines.begin());
+    const std::size_t sofar = told_[{day, kind}]++;
+    return lines[(ChoiceFor(std::to_string(kind), day, count) + sofar) % count];
+  }
+
+ private:
+  std::map<std::pair<Day, int>, std::size_t> told_;
+};
+
+std::string Words(Desk& desk, const Deed& deed) {
   const DeedLine* line = LineOfDeed(deed.Kind);
   if (!line) return {};
   const int number = deed.Number;
   return FillLine(
-      line->Lines[ChoiceFor(deed.Who.View(), deed.On, line->Lines.size())],
+      desk.Choose(line->Lines, deed.Kind, deed.On),
       {{"who", deed.Who.Str()},
        {"house", deed.House == "" ? "nobody" : deed.House.Str()},
        {"other", deed.Other.Str()},
@@ -48,23 +67,26 @@ Deed DeedOf(const World& world, const HistoryEntry& entry) {
   return deed;
 }
 
-NewsItem ItemOf(const Deed& deed) {
+NewsItem ItemOf(Desk& desk, const Deed& deed) {
   const DeedLine* line = LineOfDeed(deed.Kind);
-  return {deed.On, line ? std::string(line->What) : "", deed.House.Str(), Words(deed)};
+  return {deed.On, line ? std::string(line->What) : "", deed.House.Str(), Words(desk, deed)};
 }
 
 bool IsNobody(const Reign& reign) {
   return reign.Holder == "Vacant" || reign.Holder == "None" || reign.Holder == "";
 }
 
-NewsItem ItemOf(const World& world, const Title& title, std::size_t reign) {
+NewsItem ItemOf(Desk& desk, const World& world, const Title& title, std::size_t reign) {
   const Reign& now = title.Reigns[reign];
   const bool hasBefore = reign + 1 < title.Reigns.size() && !IsNobody(title.Reigns[reign + 1]);
-  const auto& lines = IsNobody(now) ? kTitleLost : hasBefore ? kTitleWon : kTitleFound;
+  using Lines = std::span<const std::string_view>;
+  const Lines lines = IsNobody(now) ? Lines(kTitleLost)
+                      : hasBefore   ? Lines(kTitleWon)
+                                    : Lines(kTitleFound);
   const std::string other = hasBefore ? title.Reigns[reign + 1].Holder.Str() : "nobody";
   const std::string house = PromotionInitials(world, title.Owner);
   return {now.Won, "Title", house,
-          FillLine(lines[ChoiceFor(title.Name.View(), now.Won, lines.size())],
+          FillLine(desk.Choose(lines, kTitleNews + static_cast<int>(lines.size()), now.Won),
                    {{"who", now.Holder.Str()},
                     {"title", WithArticle(title.Name.View())},
                     {"house", house},
@@ -94,15 +116,16 @@ Day NewsBegin(const World& world) {
 std::vector<NewsItem> WorldNews(const World& world) {
   const Day from = NewsBegin(world);
   std::vector<NewsItem> news;
+  Desk desk;
   for (const Deed& deed : world.Deeds())
-    if (Day(deed.On) >= from) news.push_back(ItemOf(deed));
+    if (Day(deed.On) >= from) news.push_back(ItemOf(desk, deed));
   for (const HistoryEntry& entry : world.History())
     if (Day(entry.On) >= from && (entry.Kind == kPastTv || entry.Kind == kPastEvent))
-      news.push_back(ItemOf(DeedOf(world, entry)));
+      news.push_back(ItemOf(desk, DeedOf(world, entry)));
   for (const Title& title : world.Titles())
     for (std::size_t reign = 0; reign < title.Reigns.size(); ++reign)
       if (Day(title.Reigns[reign].Won) >= from && IsNews(title, reign))
-        news.push_back(ItemOf(world, title, reign));
+        news.push_back(ItemOf(desk, world, title, reign));
   std::stable_sort(news.begin(), news.end(),
                    [](const NewsItem& a, const NewsItem& b) { return a.On > b.On; });
   return news;

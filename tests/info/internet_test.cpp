@@ -106,6 +106,13 @@ TEST(WorldNews, TellsThePlayersShowsAsOthers) {
       << shows[1];
 }
 
+TEST(WorldNews, TellsThoseOfADayInDifferentWords) {
+  World world = CalmWorld();
+  for (int i = 1; i <= 6; ++i) NoteDeed(world, kDeedRetired, nullptr, "Old Hand");
+  const auto words = NewsOf(world, "Retirement");
+  EXPECT_EQ(std::set(words.begin(), words.end()).size(), 6U);
+}
+
 TEST(Deeds, AFullFileDropsTheOldest) {
   World world = CalmWorld();
   const int limit = world.Deeds().Layout()->Limit;
@@ -282,6 +289,36 @@ TEST(Rumours, AreTrue) {
        [](World& w) { w.Feuds()[1].Heat = 75; },
        {"CWA 1", "CWA 2"},
        [](World& w) { w.Feuds()[1].Heat = 74; }},
+      {Whisper::FreeStar,
+       [](World& w) { One(w, "NEW 1").Employer = 0; },
+       {"NEW 1"},
+       [](World& w) {
+         One(w, "NEW 1").Employer = 0;
+         One(w, "NEW 1").Over = 49;
+       }},
+      {Whisper::HeldDown,
+       [](World& w) { One(w, "NEW 3").Over = 50; },
+       {"NEW 3", "NEW", "Midcard"},
+       [](World& w) { One(w, "NEW 3").Over = 49; }},
+      {Whisper::NoChampion,
+       [](World& w) {
+         w.Titles()[1].Owner = 2;
+         w.Titles()[1].Holder = 0;
+       },
+       {"the CWA Crown", "NEW"},
+       [](World& w) { w.Titles()[1].Holder = 0; }},
+      {Whisper::Slipping,
+       [](World& w) {
+         Rival(w).Rank[0] = 140;
+         Rival(w).Rank[1] = 145;
+         Rival(w).Rank[2] = 150;
+       },
+       {"NEW"},
+       [](World& w) {
+         Rival(w).Rank[0] = 140;
+         Rival(w).Rank[1] = 145;
+         Rival(w).Rank[2] = 145;
+       }},
   };
   std::set<Whisper> covered;
   for (const Case& row : cases) {
