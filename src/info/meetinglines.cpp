@@ -89,8 +89,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
       "else's problem.{why}",
       "{who} is down to a morale of {morale}, and nothing in writing holds {them} here. I have "
       "seen the coat on twice today.{why}"},
-     "Put {who} over today if there is a show, or talk about a contract in writing; else say "
-     "goodbye."},
+     "A win on a show of today lifts the mood; with a morale under 20 no contract can be talked "
+     "about. Else say goodbye."},
     {P::Boycott,
      Morale,
      Now,
@@ -493,9 +493,9 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Soon,
      kWriter,
      "frmFeuds",
-     {"{feud}: {wins} wins and attacks in it, {days} days old. It will not get better with a "
-      "spoon.",
-      "After {days} days and {wins} wins and attacks {feud} has said what it had to say."},
+     {"{feud}: {wins} wins and attacks in it, {days} days old. Somebody ought to win it.",
+      "After {days} days and {wins} wins and attacks {feud} waits for an end, or for something "
+      "new."},
      "{advice}"},
     {P::FeudHot,
      Feuds,
