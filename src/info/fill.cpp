@@ -1,5 +1,6 @@
 #include "info/fill.h"
 
+#include <algorithm>
 #include <cctype>
 
 namespace grapplemont {
@@ -12,8 +13,12 @@ std::string FillLine(std::string_view line, const LineWords& words) {
     if (open == std::string_view::npos) break;
     const std::size_t close = line.find('}', open);
     const std::string_view name = line.substr(open + 1, close - open - 1);
-    for (const auto& [place, word] : words)
-      if (place == name) text += word;
+    const auto found = std::find_if(words.begin(), words.end(),
+                                    [=](const auto& word) { return word.first == name; });
+    if (found == words.end())
+      text += line.substr(open, close - open + 1);
+    else
+      text += found->second;
     line.remove_prefix(close + 1);
   }
   if (!text.empty()) text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));

@@ -89,8 +89,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
       "else's problem.{why}",
       "{who} is down to a morale of {morale}, and nothing in writing holds {them} here. I have "
       "seen the coat on twice today.{why}"},
-     "A win on a show of today lifts the mood; with a morale under 20 no contract can be talked "
-     "about. Else say goodbye."},
+     "A morale of 10 is enough: a move up the card by two places gives 5, a win up to 3. Or say "
+     "goodbye."},
     {P::Boycott,
      Morale,
      Now,
@@ -99,7 +99,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      {"{who} stands at a morale of {morale}. At nothing we get to pay for a contract that sits at "
       "home.{why}",
       "A morale of {morale} for {who}. The next step is a sofa, with our contract on it.{why}"},
-     "Let {them} win something, or part as friends by Offer Release."},
+     "A move up the card by two places gives 5 morale, a win up to 3. Or part as friends by Offer "
+     "Release."},
     {P::SittingOut,
      Morale,
      Watch,
@@ -116,7 +117,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      {"{n} are unhappy, with a morale under 40. Worst is {who} at {morale}.{why}",
       "Doors are being closed with more force than they need. {n} are under 40 in morale, {who} "
       "leads with {morale}.{why}"},
-     "Wins, a place that fits and a show to be on all help. Under 40 nobody signs again."},
+     "A win gives up to 3 morale, a move up the card by two places 5. Under 40 nobody signs "
+     "again."},
     {P::RoomLow,
      Morale,
      Soon,
@@ -124,7 +126,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      "frmRoster",
      {"The mean morale of the roster is {n}. Nobody sings in the showers.",
       "I have taken the temperature of the room: a mean morale of {n}. Bring a coat."},
-     "Everybody who is left off an Event feels it: book widely."},
+     "Wins and good matches lift it. Main Eventers and Upper Midcarders who are rested and left "
+     "off a show lose up to 8."},
     {P::RoomHappy,
      Morale,
      Good,

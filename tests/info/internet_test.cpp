@@ -332,6 +332,11 @@ TEST(Rumours, AreTrue) {
     if (!rumour) continue;
     for (const std::string& name : row.Names)
       EXPECT_TRUE(Has(rumour->Words, name)) << rumour->Words;
+    // Every month has other words for it.
+    for (const unsigned month : {3U, 4U, 5U}) {
+      inside.Game().Today = Day{std::chrono::year{2026} / month / 2};
+      for (const Rumour& one : RumoursOf(inside)) EXPECT_FALSE(Has(one.Words, "{")) << one.Words;
+    }
     World outside = CalmWorld();
     row.Outside(outside);
     EXPECT_FALSE(Find(RumoursOf(outside), row.Is));

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "info/calmworld.h"
+#include "info/meetinglines.h"
 #include "info/rankings.h"
 #include "support/gameonworld.h"
+#include "ui/acts.h"
 
 namespace grapplemont::test {
 namespace {
@@ -47,6 +49,21 @@ TEST(TalkScreen, TellsAPointAndLeadsToWhereItIsSeenTo) {
   play.Desk.Click("cmdback");
   play.Desk.Click("cmdmeeting");
   EXPECT_EQ(play.Desk.FirstColumn("lsttalk"), (std::vector<std::string>{"Good news"}));
+}
+
+TEST(TalkScreen, KnowsEveryPlaceItLeadsTo) {
+  GameOnWorld play(CalmWorld());
+  for (const PointRow& row : PointRows())
+    EXPECT_TRUE(*row.Screen == 0 || play.Desk.Knows(row.Screen)) << row.Screen;
+}
+
+TEST(TalkScreen, OpensThePageOfWhoeverIsNamed) {
+  GameOnWorld play(CalmWorld());
+  Named(play.World().Workers(), "CWA 9").Condition = 30;
+  play.Play.Commit();
+  play.Desk.Open("frmTalk");
+  EXPECT_EQ(ui::Follow(play.Desk, *play.Desk.Top(), "CWA 9"), "");
+  EXPECT_EQ(play.Desk.TopName(), "frmWorker");
 }
 
 TEST(InternetScreen, ShowsAllItsSites) {
