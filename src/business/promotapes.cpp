@@ -55,6 +55,10 @@ std::string_view OfferedSlot(const Network& network, int potential) {
 
 }  // namespace
 
+bool CouldUseTape(const World& world, const Network& network) {
+  return !RefusalOf(world, world.Player(), network);
+}
+
 std::string WhyNoTape(const World& world) {
   if (world.Game().TapeWait != 0) return "You can only send out one tape per month.";
   if (ShowsOf(world, world.PlayerUid()).size() >= kMostShows)

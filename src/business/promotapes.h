@@ -12,6 +12,8 @@
 
 namespace grapplemont {
 
+/// Whether nothing about the player's promotion speaks against a show on the network.
+bool CouldUseTape(const World& world, const Network& network);
 /// Why no tape can go out now; empty when one can.
 std::string WhyNoTape(const World& world);
 void SendTape(World& world, int networkUid);

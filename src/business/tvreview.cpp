@@ -27,6 +27,7 @@ void Renew(World& world, const Promotion& owner, Show& show) {
   const int weeks = network ? RenewalOf(owner, show, *network) : 0;
   if (weeks == 0) return;
   show.ContractWeeks += weeks;
+  NoteDeed(world, kDeedRenewed, &owner, show.Name, network->Name, weeks);
   TellOfDeal(world, owner,
              owner.Initials + "'s " + show.Name.Str() + " has been renewed for a further " +
                  std::to_string(weeks) + " weeks!");
@@ -34,6 +35,7 @@ void Renew(World& world, const Promotion& owner, Show& show) {
 
 void TakeOff(World& world, const Promotion& owner, Show& show, const char* what) {
   TellOfDeal(world, owner, show.Name + what + NetworkName(world, show.Network) + "!");
+  NoteDeed(world, kDeedOffAir, &owner, show.Name, NetworkName(world, show.Network));
   show.Name = kToBeDeleted;
 }
 

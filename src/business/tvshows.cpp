@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "business/networks.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/sweeps.h"
@@ -74,9 +75,13 @@ void AddShow(World& world, std::string_view name, const TvDeal& deal) {
   show.Network = deal.Network;
   show.ContractWeeks = deal.Weeks;
   world.Shows().Append(show);
+  NoteDeed(world, kDeedOnAir, world.FindPromotion(deal.Owner), show.Name,
+           NetworkName(world, deal.Network), deal.Weeks);
 }
 
 void EndShow(World& world, Show& show) {
+  NoteDeed(world, kDeedOffAir, world.FindPromotion(show.Owner), show.Name,
+           NetworkName(world, show.Network));
   // Marked first: in a world from elsewhere two shows may have one name.
   show.Name = kToBeDeleted;
   RemoveShow(world, kToBeDeleted);

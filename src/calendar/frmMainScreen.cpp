@@ -5,6 +5,7 @@
 #include "calendar/ahead.h"
 #include "calendar/calendarscreens.h"
 #include "calendar/daykind.h"
+#include "calendar/meetingday.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -124,7 +125,17 @@ class frmMainScreen : public ui::Screen {
     if (!game_.HasWorld()) return;
     ShowTopBar();
     ShowMail();
+    ShowMeeting();
     ShowAhead();
+  }
+
+  /// The staff meet once a week.
+  void ShowMeeting() {
+    ui::Button& meeting = CommandNamed("cmdmeeting");
+    if (!desk().Knows("frmTalk")) return;
+    const std::string why = WhyNoMeeting(world());
+    EnableUnless(meeting, why);
+    meeting.Badge = why.empty() ? "today" : "";
   }
 
   void ShowTopBar() {

@@ -32,6 +32,7 @@ void OwnersQuit(World& world, const Promotion& promotion) {
   for (Staff& staff : world.AllStaff()) {
     if (staff.Employer != promotion.Uid || staff.Position != kOwner || staff.Unsackable) continue;
     staff.Employer = 0;
+    NoteDeed(world, kDeedOwnerQuit, &promotion, staff.Name);
     if (IsPlayers(world, promotion) || ShouldTell(world, world.Game().MailOwners, promotion.Size))
       AddNews(world, promotion.Initials + " News",
               "Owner " + staff.Name.Str() + " has quit " + promotion.Initials.Str() + ".");
@@ -42,6 +43,7 @@ void FallInClass(World& world, Promotion& promotion) {
   promotion.Size += 1;
   promotion.Image = kAfterAFall;
   if (IsPlayers(world, promotion)) world.Session.StartSize = promotion.Size;
+  NoteDeed(world, kDeedFallen, &promotion, promotion.Name, {}, promotion.Size);
   TellOfClass(world, promotion, " fallen to ");
   if (IsPlayers(world, promotion) && world.RandomDraw(3) == 3) world.Game().EndCode = kEndBoard;
   for (Worker& worker : world.Workers())
@@ -65,6 +67,7 @@ void RiseInClass(World& world, Promotion& promotion) {
   promotion.Size -= 1;
   promotion.Image = kAfterARise;
   if (IsPlayers(world, promotion)) world.Session.StartSize = promotion.Size;
+  NoteDeed(world, kDeedRisen, &promotion, promotion.Name, {}, promotion.Size);
   TellOfClass(world, promotion, " risen to ");
   for (Worker& worker : world.Workers())
     if (SharesTheRise(worker, promotion)) RiseWithIt(world, worker);

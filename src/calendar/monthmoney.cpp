@@ -38,12 +38,14 @@ void RivalMisses(World& world, Promotion& rival, int missed) {
   if (missed == 1) TellOfRival(world, rival, " are experiencing financial problems.");
   if (missed == 2) TellOfRival(world, rival, " are experiencing major financial problems.");
   if (missed != 3) return;
+  NoteDeed(world, kDeedClosed, &rival, rival.Name);
   TellOfRival(world, rival, " have gone out of business!");
   rival.Name = kToBeDeleted;
 }
 
 void MissRepayment(World& world, Promotion& promotion) {
   promotion.LoanMissed += 1;
+  if (promotion.LoanMissed < 3) NoteDeed(world, kDeedMissed, &promotion, promotion.Name);
   if (IsPlayers(world, promotion))
     PlayerMisses(world, promotion.LoanMissed);
   else

@@ -44,45 +44,53 @@ std::optional<int> QualityOf(const World& world, int promotionUid, int (*weight)
 }
 
 void TellCancelled(World& world, const Promotion& rival, int option, const char* what) {
+  NoteDeed(world, kDeedCalledOff, &rival, rival.Name);
   TellOf(world, option, rival, rival.Initials + what);
 }
 
-bool SimulateRivalEvent(World& world, Promotion& rival, int type) {
+/// The draw of those who carried it; nothing when it was called off.
+std::optional<int> SimulateRivalEvent(World& world, Promotion& rival, int type) {
   const auto quality = QualityOf(world, rival.Uid, EventWeight);
   if (quality) {
     MoveImage(world, rival, RivalEventImageStep(rival.Size, *quality));
-    return true;
+    return quality;
   }
   TellCancelled(world, rival, world.Game().MailShows, " were forced to cancel their last show.");
   CallOffEvent(world, rival, type);
-  return false;
+  return std::nullopt;
 }
 
-bool SimulateRivalTv(World& world, Promotion& rival) {
+std::optional<int> SimulateRivalTv(World& world, Promotion& rival) {
   const auto quality = QualityOf(world, rival.Uid, TvWeight);
   if (quality) {
     CheckShow(world, rival);
     MoveImage(world, rival, RivalTvImageStep(rival.Size, *quality));
-    return true;
+    return quality;
   }
   TellCancelled(world, rival, world.Game().MailTvShow,
                 " were forced to cancel their last television show.");
   CallOffTv(world, rival);
-  return false;
+  return std::nullopt;
 }
 
 void RivalEvent(World& world, Promotion& rival) {
   const int type = EventThisMonth(world, rival);
-  if (!SimulateRivalEvent(world, rival, type)) return;
+  const std::optional<int> draw = SimulateRivalEvent(world, rival, type);
+  if (!draw) return;
   PayEventSponsors(world, rival);
-  if (const Event* event = EventOf(world, rival.Uid, MonthOf(world.Today())))
-    EventReport(world, rival, *event, type);
+  const Event* event = EventOf(world, rival.Uid, MonthOf(world.Today()));
+  if (!event) return;
+  const ShowTakings takings = EventReport(world, rival, *event, type);
+  NoteShow(world, kDeedEventHeld, rival, event->Name, *draw, takings.Viewers, takings.People);
 }
 
 void RivalTv(World& world, Promotion& rival) {
-  if (!SimulateRivalTv(world, rival)) return;
+  const std::optional<int> draw = SimulateRivalTv(world, rival);
+  if (!draw) return;
   PayTvSponsors(world, rival);
-  TvReport(world, rival);
+  const Show* show = ShowOn(world, rival.Uid, world.Today());
+  const ShowTakings takings = TvReport(world, rival);
+  if (show) NoteShow(world, kDeedTvHeld, rival, show->Name, *draw, takings.Viewers, takings.People);
 }
 
 }  // namespace

@@ -43,6 +43,7 @@ void TellOfPlayers(World& world, Worker& worker) {
 
 void LeaveRival(World& world, Worker& worker) {
   const Promotion* rival = world.FindPromotion(worker.Employer);
+  NoteDeed(world, kDeedLeft, rival, worker.Name);
   if (rival && (IsShortlisted(world, worker.Uid) ||
                 ShouldTell(world, world.Game().MailWorkerFire, rival->Size)))
     AddNews(world, rival->Initials + " News",

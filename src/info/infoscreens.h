@@ -11,5 +11,7 @@ std::unique_ptr<ui::Screen> MakefrmNews(Game& game);
 std::unique_ptr<ui::Screen> MakefrmNotepad(Game& game);
 std::unique_ptr<ui::Screen> MakefrmUser(Game& game);
 std::unique_ptr<ui::Screen> MakefrmOptions(Game& game);
+std::unique_ptr<ui::Screen> MakefrmTalk(Game& game);
+std::unique_ptr<ui::Screen> MakefrmInternet(Game& game);
 
 }  // namespace grapplemont

@@ -102,7 +102,7 @@ void ForEachFile(Inspection& inspection, Visit visit) {
       world.Stables(), world.AllStaff(), world.Teams(), world.Shows(), world.Workers(),
       world.GameInfos(), world.News(), world.Feuds(), world.Segments(), world.Incidents(),
       world.ShowRuns(), world.History(), world.Bouts(), world.Tallies(), world.Reigns(),
-      world.Reports(), world.Awards(), world.YearEnds());
+      world.Reports(), world.Awards(), world.YearEnds(), world.Deeds());
 }
 
 }  // namespace grapplemont

@@ -30,10 +30,10 @@ const Promotion& World::Player() const {
 }
 
 std::array<Table*, World::kTables> World::Tables() {
-  return {&titles_, &events_,  &networks_, &promotions_, &sponsors_,  &stables_,
-          &staff_,  &teams_,   &shows_,    &workers_,    &gameInfos_, &news_,
-          &notes_,  &feuds_,   &segments_, &incidents_,  &showRuns_,  &history_,
-          &bouts_,  &tallies_, &reigns_,   &reports_,    &awards_,    &yearEnds_};
+  return {&titles_,   &events_,    &networks_, &promotions_, &sponsors_, &stables_, &staff_,
+          &teams_,    &shows_,     &workers_,  &gameInfos_,  &news_,     &notes_,   &feuds_,
+          &segments_, &incidents_, &showRuns_, &history_,    &bouts_,    &tallies_, &reigns_,
+          &reports_,  &awards_,    &yearEnds_, &deeds_};
 }
 
 std::array<const Table*, World::kTables> World::Tables() const {

@@ -9,6 +9,7 @@
 
 #include "records/chronicle.h"
 #include "records/companies.h"
+#include "records/deeds.h"
 #include "records/draws.h"
 #include "records/gameinfo.h"
 #include "records/history.h"
@@ -89,6 +90,9 @@ class World {
   const Records<YearAward>& Awards() const { return awards_; }
   Records<YearEnd>& YearEnds() { return yearEnds_; }
   const Records<YearEnd>& YearEnds() const { return yearEnds_; }
+  /// What the wrestling world has done of late, oldest first.
+  Records<Deed>& Deeds() { return deeds_; }
+  const Records<Deed>& Deeds() const { return deeds_; }
   Records<GameInfo>& GameInfos() { return gameInfos_; }
   const Records<GameInfo>& GameInfos() const { return gameInfos_; }
   TextFile& Notes() { return notes_; }
@@ -127,7 +131,7 @@ class World {
   SessionWords Session;
 
   /// Every file of a world, the ten of the data set first and in their fixed order.
-  static constexpr int kTables = 24;
+  static constexpr int kTables = 25;
   std::array<Table*, kTables> Tables();
   std::array<const Table*, kTables> Tables() const;
 
@@ -177,6 +181,7 @@ class World {
   Records<ReportPart> reports_;
   Records<YearAward> awards_;
   Records<YearEnd> yearEnds_;
+  Records<Deed> deeds_;
   TextFile notes_{"notes.dat"};
   mutable UidIndex workerIndex_, promotionIndex_, staffIndex_, networkIndex_, sponsorIndex_;
   std::unique_ptr<Draws> chance_, prose_;

@@ -10,6 +10,7 @@ namespace grapplemont {
 namespace {
 
 void Warn(World& world, const Promotion& promotion) {
+  NoteDeed(world, kDeedWarned, &promotion, promotion.Name);
   if (promotion.Uid == world.PlayerUid())
     AddNews(world, "Finance Dept.",
             "The bank are warning that we face bankruptcy if our finances fall much lower!");
@@ -23,6 +24,7 @@ void GoBankrupt(World& world, Promotion& promotion) {
     world.Game().EndCode = kEndBankrupt;
     return;
   }
+  NoteDeed(world, kDeedClosed, &promotion, promotion.Name);
   TellOf(world, world.Game().MailOtherFed, promotion, promotion.Name + " have gone bankrupt!");
   promotion.Name = kToBeDeleted;
 }

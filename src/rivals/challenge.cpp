@@ -137,6 +137,7 @@ void MeetStranger(World& world) {
   promotion.Image = 80;
   promotion.Momentum = 4;
   Employ(world, promotion);
+  NoteDeed(world, kDeedFounded, &promotion, promotion.Name, {}, promotion.Size);
   AddNews(world, "New Promotion", "A new promotion, " + promotion.Name.Str() + ", has opened.");
   BuyStars(world, Open(world, promotion));
 }

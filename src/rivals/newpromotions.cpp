@@ -44,6 +44,7 @@ void OpenSomewhere(World& world) {
   promotion.Risk = 20 + world.RandomDraw(70);
   if (ShouldTell(world, world.Game().MailOtherFed, promotion.Size))
     AddNews(world, "New Promotion", "A new promotion, " + promotion.Name.Str() + ", has opened.");
+  NoteDeed(world, kDeedFounded, &promotion, promotion.Name, {}, promotion.Size);
   Open(world, promotion);
 }
 

@@ -94,6 +94,7 @@ void TakeOver(World& world, Promotion& promotion, Staff& owner) {
   owner.Employer = promotion.Uid;
   owner.ContractMonths = kNoEnd;
   owner.Unsackable = false;
+  NoteDeed(world, kDeedOwner, &promotion, owner.Name);
   if (promotion.Uid == world.PlayerUid())
     return AddNews(world, owner.Name, OwnersWelcome(world, owner));
   FollowOwner(promotion, owner);

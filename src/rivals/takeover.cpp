@@ -77,6 +77,7 @@ void TakeOverRival(World& world, Promotion& rival, Takeover kind) {
     for (Staff& staff : world.AllStaff())
       if (staff.Employer == rival.Uid) ComeOver(world, staff);
   }
+  NoteDeed(world, kDeedBought, &rival, rival.Name, world.Player().Initials);
   rival.Name = kToBeDeleted;
 }
 

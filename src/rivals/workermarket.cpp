@@ -62,6 +62,8 @@ Worker* FindCandidate(World& world, const Promotion& rival, Taste taste) {
 
 void SignFor(World& world, const Promotion& rival, Worker& worker) {
   const bool isFree = worker.Employer == 0;
+  NoteDeed(world, isFree ? kDeedSigned : kDeedStolen, &rival, worker.Name,
+           isFree ? "" : PromotionInitials(world, worker.Employer));
   TellOf(world, world.Game().MailWorkerHire, rival,
          rival.Initials + (isFree ? " have signed " : " have stolen ") + worker.Name.Str() +
              (isFree ? "" : " from " + PromotionInitials(world, worker.Employer)) + "!");
@@ -89,6 +91,7 @@ Worker* FindWeakest(World& world, int promotionUid, Taste taste) {
 }
 
 void FireFrom(World& world, const Promotion& rival, Worker& worker) {
+  NoteDeed(world, kDeedFired, &rival, worker.Name);
   if (IsShortlisted(world, worker.Uid) ||
       ShouldTell(world, world.Game().MailWorkerFire, rival.Size))
     AddNews(world, rival.Initials + " News",

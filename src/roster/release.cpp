@@ -53,6 +53,7 @@ void SignWith(World& world, Worker& worker, const Promotion& rival) {
   if (ShouldTell(world, world.Game().MailWorkerHire, rival.Size))
     AddNews(world, rival.Initials + " News",
             worker.Name + " has signed for " + rival.Initials.Str() + "!");
+  NoteDeed(world, kDeedSigned, &rival, worker.Name);
   worker.Over += world.RandomDraw(3);
   worker.Employer = rival.Uid;
   worker.Position = PlacementPosition(worker, rival.Size);
@@ -78,6 +79,7 @@ void PartWith(World& world, Worker& worker) {
 }
 
 void ReleaseWorker(World& world, Worker& worker) {
+  NoteDeed(world, kDeedLeft, world.FindPromotion(worker.Employer), worker.Name);
   PartWith(world, worker);
   if (world.RandomDraw(3) != 1) return;
   if (const Promotion* rival = BestBidder(world, worker)) SignWith(world, worker, *rival);

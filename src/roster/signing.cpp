@@ -175,6 +175,9 @@ std::string JudgeSigning(const Worker& worker, const Demands& demands, const Sig
 }
 
 void Sign(World& world, Worker& worker, const SigningOffer& offer) {
+  const Promotion* former = world.FindPromotion(worker.Employer);
+  NoteDeed(world, former ? kDeedStolen : kDeedSigned, &world.Player(), TrimmedName(offer.Name),
+           former ? former->Initials.View() : std::string_view());
   LeaveFormer(world, worker);
   worker.Employer = world.PlayerUid();
   worker.Name = TrimmedName(offer.Name);

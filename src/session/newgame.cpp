@@ -77,6 +77,7 @@ void EmptyFiles(World& world, const NewGameChoice& choice) {
   world.Reports().Remove();
   world.Awards().Remove();
   world.YearEnds().Remove();
+  world.Deeds().Remove();
   world.Incidents().Remove();
   world.Feuds().Rewrite(std::vector<Feud>(kFeuds));
   NewGameInfo(world, choice);

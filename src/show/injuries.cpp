@@ -41,6 +41,8 @@ void BreakSomething(World& world, Worker& worker) {
   worker.InjuryName =
       kInjuries[static_cast<std::size_t>(world.RandomDraw(static_cast<int>(kInjuries.size())) - 1)];
   worker.StatusMonths = world.RandomDraw(kLongestMonths);
+  NoteDeed(world, kDeedInjured, world.FindPromotion(worker.Employer), worker.Name,
+           worker.InjuryName, worker.StatusMonths);
 }
 
 void Injure(SegmentRun& run, Worker& worker) {

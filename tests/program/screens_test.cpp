@@ -55,7 +55,8 @@ constexpr const char* kInGame[] = {
     "frmFedProd",    "frmFedSponsor",   "frmTelevision", "frmPromoTape", "frmTvOffer",
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
-    "frmReigns",     "frmResults",      "frmReports",    "frmAwards"};
+    "frmReigns",     "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
+    "frmInternet"};
 constexpr const char* kBeforeGame[] = {
     "frmTitleScreen",  "frmDisclaimer",   "frmGameMenu",   "frmCredits",        "frmCreditsXtra",
     "frmNewGame",      "frmLoadGame",     "frmWait",       "frmLoadingScreens", "frmEditor",

@@ -535,7 +535,8 @@ TEST(Layouts, FilesHaveTheirNamesAndLimits) {
               {"notes.dat", 0, 0},          {"feudinfo.dat", 36, 8},    {"match.dat", 143, 11},
               {"incident.tmp", 4, 10},      {"showrun.dat", 50, 1},     {"history.dat", 78, 30000},
               {"bouts.dat", 220, 5000},     {"tallies.dat", 49, 10000}, {"reigns.dat", 77, 12000},
-              {"reports.dat", 220, 8000},   {"awards.dat", 176, 2000},  {"yearend.dat", 4, 25000}};
+              {"reports.dat", 220, 8000},   {"awards.dat", 176, 2000},  {"yearend.dat", 4, 25000},
+              {"deeds.dat", 106, 3000}};
   const World world;
   const auto tables = world.Tables();
   ASSERT_EQ(std::size(rows), tables.size());

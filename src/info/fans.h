@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/world.h"
+
+// What the fans write about the last shows: the player's, and those of the biggest rivals.
+
+namespace grapplemont {
+
+/// A show as its crowd saw it.
+struct ShowSeen {
+  Day On;
+  int Promotion = 0;  // uid
+  std::string House, Show;
+  bool IsPlayers = false, CalledOff = false, IsEvent = false;
+  int Rating = 0;   // the player's rating; a rival's draw
+  int Viewers = 0;  // hundredths
+  int People = 0;
+  /// What is known of it row by row: of the player's last show until the next is booked.
+  struct Row {
+    std::string What;
+    int Rating = 0;
+  };
+  std::vector<Row> Rows;
+};
+/// The player's last show and Event, then the last shows of the three biggest rivals that have held
+/// one of late; each within the last two months.
+std::vector<ShowSeen> ShowsSeen(const World& world);
+
+struct FanPost {
+  std::string Handle, Words;
+};
+/// A show and the posts about it, the general ones first.
+struct FanThread {
+  ShowSeen About;
+  std::vector<FanPost> Posts;
+};
+/// About all shows seen. No handle and no line comes twice before all have had their turn, and the
+/// same shows are always met with the same words.
+std::vector<FanThread> FanPage(const World& world);
+
+}  // namespace grapplemont

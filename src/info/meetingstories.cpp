@@ -1,0 +1,265 @@
+#include "business/past.h"
+#include "calendar/events.h"
+#include "calendar/imagetables.h"
+#include "info/meeting.h"
+#include "info/meetingfacts.h"
+#include "records/dates.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "show/attendance.h"
+#include "storylines/feuds.h"
+#include "storylines/titles.h"
+
+// The meeting on what is told on the shows: image, feuds, Titles, Events.
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kFalls = 2;
+constexpr int kNearTheTop = 85, kNearTheBottom = 15;
+constexpr int kGreatShow = 90;
+constexpr int kFewFeuds = 2;
+constexpr int kColdHeat = 30, kHotHeat = 80, kFitForAnEvent = 60;
+constexpr int kRipeWins = 13;
+constexpr int kRipeDays = 120;
+constexpr int kLongReign = 180;
+constexpr int kOutshines =
+    7;  // a Title loses image when the match and its holder lie below by more
+constexpr int kLeavingMonths = 2;
+constexpr int kDaysAhead = 35, kNear = 14;
+
+std::string Signed(int step) {
+  return step > 0 ? "+" + std::to_string(step) : std::to_string(step);
+}
+
+const HistoryEntry* LastShowOf(const World& world) {
+  for (int number = world.History().Count(); number >= 1; --number) {
+    const HistoryEntry& entry = world.History()[number];
+    if (entry.Promotion == world.PlayerUid() && !entry.CalledOff &&
+        (entry.Kind == kPastTv || entry.Kind == kPastEvent))
+      return &entry;
+  }
+  return nullptr;
+}
+
+void TalkOfLastShow(Meeting& meeting) {
+  const HistoryEntry* show = LastShowOf(meeting.Of());
+  if (!show) return;
+  const auto stepOf = show->Kind == kPastEvent ? EventImageStep : TvImageStep;
+  const int size = meeting.Player().Size;
+  if (stepOf(size, show->Rating) > 0) return;
+  int needed = show->Rating;
+  while (needed < 100 && stepOf(size, needed) <= 0) ++needed;
+  meeting.Say(Point::LastShow, {{"show", show->Name.Str()},
+                                {"rating", Number(int(show->Rating))},
+                                {"step", Signed(stepOf(size, show->Rating))},
+                                {"needed", Number(needed)}});
+}
+
+std::string FeudName(const World& world, const Feud& feud) {
+  const FeudSides sides = SidesOf(feud);
+  return SideName(world, sides.One) + " against " + SideName(world, sides.Two);
+}
+
+std::vector<const Worker*> PartiesOf(const World& world, const Feud& feud) {
+  std::vector<const Worker*> people;
+  for (const Word& uid : {feud.Worker1, feud.Worker2, feud.Worker3, feud.Worker4})
+    if (const Worker* worker = world.FindWorker(uid)) people.push_back(worker);
+  return people;
+}
+
+void TalkOfFeud(Meeting& meeting, const Feud& feud) {
+  const World& world = meeting.Of();
+  std::vector<const Worker*> away = PartiesOf(world, feud);
+  std::erase_if(away, [](const Worker* w) { return w->Status == "Nor" && !IsSentAway(*w); });
+  const FeudScore score = FeudWins(feud);
+  const int wins = score.One + score.Two;
+  const auto days = (world.Today() - Day(feud.Started)).count();
+  const Meeting::Words words = {
+      {"feud", FeudName(world, feud)}, {"who", SomeOf(away)},  {"heat", Number(int(feud.Heat))},
+      {"wins", Number(wins)},          {"days", Number(days)}, {"advice", AssessFeud(world, feud)}};
+  if (!away.empty()) return meeting.Say(Point::FeudHurt, words);
+  if (wins > kRipeWins || days > kRipeDays) return meeting.Say(Point::FeudRipe, words);
+  if (feud.Heat < kColdHeat) return meeting.Say(Point::FeudCold, words);
+  if (feud.Heat >= kHotHeat) meeting.Say(Point::FeudHot, words);
+}
+
+bool IsBusy(const World& world, int uid) {
+  for (const Feud& feud : world.Feuds())
+    if (feud.Worker1 == uid || feud.Worker2 == uid || feud.Worker3 == uid || feud.Worker4 == uid)
+      return true;
+  return false;
+}
+
+/// The most popular Face and Heel without a feud who would both have it; empty for none.
+std::string FeudIdea(const World& world) {
+  const Worker *face = nullptr, *heel = nullptr;
+  for (const Worker* worker : FeudRoster(world)) {
+    if (IsBusy(world, worker->Uid)) continue;
+    if (!face && worker->Disposition == "F") face = worker;
+    if (!heel && worker->Disposition == "H") heel = worker;
+  }
+  if (!face || !heel) return {};
+  const FeudSides sides{{face->Uid, 0}, {heel->Uid, 0}};
+  if (!WhyNoFeud(world, sides).empty() || RefusalOf(world, sides)) return {};
+  return ": " + face->Name.Str() + " against " + heel->Name.Str() + " would begin at a heat of " +
+         std::to_string(StartingHeatOf(world, sides).Heat);
+}
+
+std::string WhyAway(const Worker& worker) {
+  if (!(worker.Status == "Nor")) return StatusLine(worker);
+  return IsOnRoster(worker) ? "" : "off the card";
+}
+
+std::string WhyLeaving(const Worker& worker) {
+  if (worker.RetiringSoon) return "the retirement is announced";
+  if (worker.ContractMonths < 1 || worker.ContractMonths > kLeavingMonths) return {};
+  return "the contract has " + Counted(worker.ContractMonths, "month") + " left";
+}
+
+std::vector<const Worker*> HoldersOf(const World& world, const Title& title) {
+  std::vector<const Worker*> holders;
+  for (const Word& uid : {title.Holder, title.Partner})
+    if (const Worker* worker = world.FindWorker(uid)) holders.push_back(worker);
+  return holders;
+}
+
+/// The first of the holders of whom there is something to say, and what.
+bool TalkOfHolders(Meeting& meeting, const Title& title, Point point,
+                   std::string (*why)(const Worker&)) {
+  for (const Worker* holder : HoldersOf(meeting.Of(), title)) {
+    const std::string reason = why(*holder);
+    if (reason.empty()) continue;
+    meeting.Say(point, {{"title", WithArticle(title.Name.View())},
+                        {"who", holder->Name.Str()},
+                        {"why", reason},
+                        {"image", Number(int(title.Image))}});
+    return true;
+  }
+  return false;
+}
+
+void TalkOfHeldTitle(Meeting& meeting, const Title& title) {
+  if (TalkOfHolders(meeting, title, Point::TitleAway, WhyAway)) return;
+  if (TalkOfHolders(meeting, title, Point::TitleLeaving, WhyLeaving)) return;
+  const auto holders = HoldersOf(meeting.Of(), title);
+  if (holders.empty()) return;
+  int sum = 0;
+  for (const Worker* holder : holders) sum += holder->Over;
+  const int over = sum / static_cast<int>(holders.size());
+  const auto days = (meeting.Of().Today() - Day(title.Reigns[0].Won)).count();
+  const bool isDated = Day(title.Reigns[0].Won) != kNoTitleDate;
+  const Meeting::Words words = {{"title", WithArticle(title.Name.View())},
+                                {"who", ChampionText(meeting.Of(), title)},
+                                {"themself", holders.size() > 1   ? "themselves"
+                                             : holders[0]->Gender ? "himself"
+                                                                  : "herself"},
+                                {"image", Number(int(title.Image))},
+                                {"over", Number(over)},
+                                {"needed", Number(title.Image - kOutshines)},
+                                {"days", Number(days)}};
+  if (over + kOutshines < title.Image) return meeting.Say(Point::TitleOutshines, words);
+  if (isDated && days > kLongReign) meeting.Say(Point::TitleLong, words);
+}
+
+/// The next Event day that the player has to think about, today or later.
+Day EventDayAhead(const World& world) {
+  Day day = world.Today();
+  while (!IsEventDay(day)) day += std::chrono::days{1};
+  return day;
+}
+
+int HotFeuds(const World& world) {
+  int hot = 0;
+  for (const Feud& feud : world.Feuds()) hot += !IsFreeSlot(feud) && feud.Heat >= kFitForAnEvent;
+  return hot;
+}
+
+}  // namespace
+
+int FallsInARow(const Promotion& promotion) {
+  int falls = 0;
+  for (std::size_t i = 0; i + 1 < promotion.Rank.size(); ++i) {
+    if (promotion.Rank[i + 1] == kNoEnd || promotion.Rank[i + 1] <= promotion.Rank[i]) break;
+    ++falls;
+  }
+  return falls;
+}
+
+int RatingThatLifts(int size) {
+  int rating = 0;
+  while (rating < 100 && TvImageStep(size, rating) <= 0) ++rating;
+  return rating;
+}
+
+void TalkOfImage(Meeting& meeting) {
+  const Promotion& player = meeting.Player();
+  const int falls = FallsInARow(player);
+  const Meeting::Words words = {{"n", Number(falls)},
+                                {"image", Number(int(player.Image))},
+                                {"left", Number(100 - player.Image)},
+                                {"rating", Number(RatingThatLifts(player.Size))},
+                                {"above", std::string(SizeText(player.Size - 1))},
+                                {"below", std::string(SizeText(player.Size + 1))},
+                                {"step", Signed(TvImageStep(player.Size, kGreatShow))}};
+  if (falls > 0) meeting.Say(falls >= kFalls ? Point::ImageFalling : Point::ImageSlips, words);
+  if (player.Image <= kNearTheBottom && player.Size < kBackyard)
+    meeting.Say(Point::ImageDanger, words);
+  if (player.Image >= kNearTheTop && player.Size > kGlobal) meeting.Say(Point::ImageNext, words);
+  TalkOfLastShow(meeting);
+}
+
+void TalkOfFeuds(Meeting& meeting) {
+  const World& world = meeting.Of();
+  int running = 0;
+  for (const Feud& feud : world.Feuds()) {
+    if (IsFreeSlot(feud)) continue;
+    ++running;
+    TalkOfFeud(meeting, feud);
+  }
+  if (running < kFewFeuds)
+    meeting.Say(Point::FeudsFew,
+                {{"n", running == 0 ? "no" : Number(running)}, {"idea", FeudIdea(world)}});
+}
+
+void TalkOfTitles(Meeting& meeting) {
+  const World& world = meeting.Of();
+  int count = 0;
+  for (const Title& title : world.Titles()) {
+    if (!IsPlayers(world, title)) continue;
+    ++count;
+    if (title.Suspended) continue;
+    if (title.Holder == 0)
+      meeting.Say(Point::TitleVacant,
+                  {{"title", WithArticle(title.Name.View())}, {"image", Number(int(title.Image))}});
+    else
+      TalkOfHeldTitle(meeting, title);
+  }
+  if (count == 0) meeting.Say(Point::TitlesNone);
+}
+
+void TalkOfEvents(Meeting& meeting) {
+  const World& world = meeting.Of();
+  const Day day = EventDayAhead(world);
+  const auto days = (day - world.Today()).count();
+  if (days > kDaysAhead) return;
+  const Event* event = PlayerEvent(world, MonthOf(day));
+  if (!event)
+    return meeting.Say(Point::EventNone, {{"day", LongDate(day)}},
+                       days > kNear ? Urgency::Soon : Urgency::Now);
+  const int cost = EventProductionCost(event->Type);
+  if (meeting.Player().Money < cost)
+    meeting.Say(Point::EventCost, {{"event", event->Name.Str()},
+                                   {"cost", Dollars(cost)},
+                                   {"money", Dollars(meeting.Player().Money)}});
+  if (days > kNear) return;
+  const auto fit =
+      Ours(world, [](const Worker& w) { return IsOnRoster(w) && w.Status == "Nor"; }).size();
+  meeting.Say(Point::EventNear, {{"event", event->Name.Str()},
+                                 {"days", Number(days)},
+                                 {"feuds", Number(HotFeuds(world))},
+                                 {"fit", Number(fit)}});
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,134 @@
+#include "info/worldnews.h"
+
+#include <algorithm>
+#include <map>
+#include <span>
+
+#include "business/months.h"
+#include "info/fill.h"
+#include "info/newslines.h"
+#include "records/dates.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// Titles' news beside the kinds of deeds.
+constexpr int kTitleNews = 100;
+
+std::string Counted(int count, const char* what) {
+  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+/// Chooses lines by the day and, on a day of many alike, each another one.
+class Desk {
+ public:
+  std::string_view Choose(std::span<const std::string_view> lines, int kind, Day day) {
+    const auto end = std::find(lines.begin(), lines.end(), std::string_view());
+    const auto count = static_cast<std::size_t>(end - lines.begin());
+    const std::size_t sofar = told_[{day, kind}]++;
+    return lines[(ChoiceFor(std::to_string(kind), day, count) + sofar) % count];
+  }
+
+ private:
+  std::map<std::pair<Day, int>, std::size_t> told_;
+};
+
+std::string Words(Desk& desk, const Deed& deed) {
+  const DeedLine* line = LineOfDeed(deed.Kind);
+  if (!line) return {};
+  const int number = deed.Number;
+  return FillLine(
+      desk.Choose(line->Lines, deed.Kind, deed.On),
+      {{"who", deed.Who.Str()},
+       {"house", deed.House == "" ? "nobody" : deed.House.Str()},
+       {"other", deed.Other.Str()},
+       {"size", std::string(SizeText(number))},
+       {"months", Counted(number, "month")},
+       {"weeks", Counted(number, "week")},
+       {"rating", RatingText(deed.Viewers)},
+       {"people", deed.People == 1 ? "one person" : std::to_string(deed.People) + " people"}});
+}
+
+/// A show of the player's is told as the rivals' are.
+Deed DeedOf(const World& world, const HistoryEntry& entry) {
+  Deed deed{};
+  deed.On = entry.On;
+  deed.Kind = entry.CalledOff         ? kDeedCalledOff
+              : entry.Kind == kPastTv ? kDeedTvHeld
+                                      : kDeedEventHeld;
+  deed.Promotion = entry.Promotion;
+  deed.House = PromotionInitials(world, entry.Promotion);
+  deed.Who = entry.CalledOff ? PromotionName(world, entry.Promotion) : entry.Name.Str();
+  deed.Viewers = entry.Viewers;
+  deed.People = entry.Attendance;
+  return deed;
+}
+
+NewsItem ItemOf(Desk& desk, const Deed& deed) {
+  const DeedLine* line = LineOfDeed(deed.Kind);
+  return {deed.On, line ? std::string(line->What) : "", deed.House.Str(), Words(desk, deed)};
+}
+
+bool IsNobody(const Reign& reign) {
+  return reign.Holder == "Vacant" || reign.Holder == "None" || reign.Holder == "";
+}
+
+NewsItem ItemOf(Desk& desk, const World& world, const Title& title, std::size_t reign) {
+  const Reign& now = title.Reigns[reign];
+  const bool hasBefore = reign + 1 < title.Reigns.size() && !IsNobody(title.Reigns[reign + 1]);
+  using Lines = std::span<const std::string_view>;
+  const Lines lines = IsNobody(now) ? Lines(kTitleLost)
+                      : hasBefore   ? Lines(kTitleWon)
+                                    : Lines(kTitleFound);
+  const std::string other = hasBefore ? title.Reigns[reign + 1].Holder.Str() : "nobody";
+  const std::string house = PromotionInitials(world, title.Owner);
+  return {now.Won, "Title", house,
+          FillLine(desk.Choose(lines, kTitleNews + static_cast<int>(lines.size()), now.Won),
+                   {{"who", now.Holder.Str()},
+                    {"title", WithArticle(title.Name.View())},
+                    {"house", house},
+                    {"other", other}})};
+}
+
+/// A Title that has never been held and is not held now is no news.
+bool IsNews(const Title& title, std::size_t reign) {
+  if (Day(title.Reigns[reign].Won) == kNoTitleDate || title.Reigns[reign].Holder == "None")
+    return false;
+  const bool neverHeld = reign + 1 >= title.Reigns.size() || IsNobody(title.Reigns[reign + 1]);
+  return !(IsNobody(title.Reigns[reign]) && neverHeld);
+}
+
+}  // namespace
+
+std::size_t ChoiceFor(std::string_view words, Day day, std::size_t of) {
+  std::size_t hash = static_cast<std::size_t>((day - kDayZero).count()) * 2654435761U;
+  for (const char letter : words) hash = hash * 31 + static_cast<unsigned char>(letter);
+  return (hash >> 7) % of;
+}
+
+Day NewsBegin(const World& world) {
+  return MonthsBefore(world.Today(), 1);
+}
+
+std::vector<NewsItem> WorldNews(const World& world) {
+  const Day from = NewsBegin(world);
+  std::vector<NewsItem> news;
+  Desk desk;
+  for (const Deed& deed : world.Deeds())
+    if (Day(deed.On) >= from) news.push_back(ItemOf(desk, deed));
+  for (const HistoryEntry& entry : world.History())
+    if (Day(entry.On) >= from && (entry.Kind == kPastTv || entry.Kind == kPastEvent))
+      news.push_back(ItemOf(desk, DeedOf(world, entry)));
+  for (const Title& title : world.Titles())
+    for (std::size_t reign = 0; reign < title.Reigns.size(); ++reign)
+      if (Day(title.Reigns[reign].Won) >= from && IsNews(title, reign))
+        news.push_back(ItemOf(desk, world, title, reign));
+  std::stable_sort(news.begin(), news.end(),
+                   [](const NewsItem& a, const NewsItem& b) { return a.On > b.On; });
+  return news;
+}
+
+}  // namespace grapplemont
