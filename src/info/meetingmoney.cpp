@@ -9,7 +9,7 @@
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
 #include "records/modVar.h"
-#include "rivals/bankruptcylines.h"
+#include "rivals/bankruptcy.h"
 #include "show/attendance.h"
 
 // The meeting on money: what is in hand, what comes and goes, and who else might pay.

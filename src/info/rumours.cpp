@@ -11,7 +11,7 @@
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "rivals/bankruptcylines.h"
+#include "rivals/bankruptcy.h"
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
 #include "roster/placement.h"

@@ -229,8 +229,7 @@ class Year {
     amounts.push_back(Out(l));
     amounts.push_back(In(l) - Out(l));
     std::vector<std::string> texts;
-    for (const long long amount : amounts)
-      texts.push_back(Dollars(amount));
+    for (const long long amount : amounts) texts.push_back(Dollars(amount));
     return texts;
   }
 
