@@ -49,7 +49,8 @@ TEST(MainScreen, CountsTheMailOfTheDayThatPassedAndOfToday) {
 }
 
 TEST(MainScreen, OffersOnlyTheScreensThatAreThere) {
-  GameOnWorld play(Playing().Game("CWA"));
+  // On the day of the staff meeting.
+  GameOnWorld play(Playing().Game("CWA", year{2026} / 3 / 2));
   play.Desk.Open("frmMainScreen");
   for (const auto& [button, screen] : {std::pair{"cmdroster", "frmRoster"},
                                        {"cmdstaff", "frmStaff"},
