@@ -194,11 +194,11 @@ TEST(Meeting, TalksOfContracts) {
   Check({
       {Point::ContractsEnd,
        [](World& w) { One(w).ContractMonths = 1; },
-       {"CWA 1", "$11000"},
+       {"CWA 1", "$11,000"},
        [](World& w) { One(w).ContractMonths = 2; }},
       {Point::ContractsSoon,
        [](World& w) { One(w).ContractMonths = 3; },
-       {"CWA 1", "$11000"},
+       {"CWA 1", "$11,000"},
        [](World& w) { One(w).ContractMonths = 4; }},
       {Point::WillNotSign,
        [](World& w) {
@@ -309,25 +309,25 @@ TEST(Meeting, TalksOfMoney) {
   Check({
       {Point::NearBankruptcy,
        [](World& w) { w.Player().Money = -2300001; },
-       {"$2300001", "$2500000", "$199999"},
+       {"$2,300,001", "$2,500,000", "$199,999"},
        [](World& w) { w.Player().Money = -2300000; }},
       {Point::Debt,
        [](World& w) { w.Player().Money = -1; },
-       {"$1", "$2500000"},
+       {"$1", "$2,500,000"},
        [](World& w) { w.Player().Money = 0; }},
       {Point::Runway,
        [](World& w) {
          w.Player().Money = 1299999;
          Books(w, 0, 100000);
        },
-       {"$100000", "$1299999", "12 months"},
+       {"$100,000", "$1,299,999", "12 months"},
        [](World& w) {
          w.Player().Money = 1300000;
          Books(w, 0, 100000);
        }},
       {Point::Profit,
        [](World& w) { Books(w, 100001, 50000); },
-       {"$50001"},
+       {"$50,001"},
        [](World& w) { Books(w, 50000, 50000); }},
       {Point::WageShare,
        [](World& w) { Books(w, 100000, 61000); },
@@ -335,9 +335,12 @@ TEST(Meeting, TalksOfMoney) {
        [](World& w) { Books(w, 100000, 60999); }},
       {Point::NoIncome,
        [](World& w) { Books(w, 0, 5000); },
-       {"$5000"},
+       {"$5,000"},
        [](World& w) { Books(w, 1, 5000); }},
-      {Point::Advertising, [](World& w) { w.Player().Advertising = 7; }, {"$70000"}, [](World&) {}},
+      {Point::Advertising,
+       [](World& w) { w.Player().Advertising = 7; },
+       {"$70,000"},
+       [](World&) {}},
       {Point::LoanShort,
        [](World& w) {
          w.Player().LoanAmount = 120000;
@@ -345,7 +348,7 @@ TEST(Meeting, TalksOfMoney) {
          w.Player().LoanMissed = 2;
          w.Player().Money = 9999;
        },
-       {"$9999", "2"},
+       {"$9,999", "2"},
        [](World& w) {
          w.Player().LoanAmount = 120000;
          w.Player().LoanMonths = 12;
@@ -368,7 +371,7 @@ TEST(Meeting, TalksOfMoney) {
          w.Player().LoanRepaid = 20000;
          w.Player().LoanMonths = 12;
        },
-       {"$100000"},
+       {"$100,000"},
        [](World&) {}},
   });
 }
@@ -385,14 +388,14 @@ TEST(Meeting, TalksOfPricesAndSponsors) {
        [](World& w) { w.Player().TicketPrice = 25; }},
       {Point::Merchandise,
        [](World& w) { w.Player().Merchandising = 0; },
-       {"Set merchandising to 25", "$0", "$100000"},
+       {"Set merchandising to 25", "$0", "$100,000"},
        [](World&) {}},
       {Point::SponsorsFree,
        [](World& w) {
          w.Player().Sponsor[3] = 0;
          w.Sponsors()[4].Promotion = 0;
        },
-       {"Sponsor 4", "1", "$10000"},
+       {"Sponsor 4", "1", "$10,000"},
        [](World& w) {
          w.Player().Sponsor[3] = 0;
          w.Sponsors()[4].Promotion = 0;
@@ -416,7 +419,7 @@ TEST(Meeting, TalksOfPricesAndSponsors) {
        [](World& w) { w.Sponsors()[2].ContractMonths = 3; }},
       {Point::SponsorsOrder,
        [](World& w) { w.Sponsors()[3].Pay = 200; },
-       {"Make Sponsor 3 the main", "$15000"},
+       {"Make Sponsor 3 the main", "$15,000"},
        [](World& w) { w.Sponsors()[1].Pay = 200; }},
   });
 }
@@ -593,7 +596,7 @@ TEST(Meeting, TalksOfEventsAndStaff) {
        [](World&) {}},
       {Point::EventCost,
        [](World& w) { w.Player().Money = 24999; },
-       {"CWA in March", "$25000", "$24999"},
+       {"CWA in March", "$25,000", "$24,999"},
        [](World& w) { w.Player().Money = 25000; }},
       {Point::EventNear,
        [](World& w) {
