@@ -58,7 +58,7 @@ TEST(frmFedProd, RaisesStepByStepAndAsksBefore) {
   play.Desk.Open("frmFedProd");
   EXPECT_EQ(play.Desk.Text("cmdraise(1)"), "Raise by 1% : Cost $140");
   EXPECT_EQ(play.Desk.Text("cmdraise(2)"), "Raise by 5% : Cost $525");
-  EXPECT_EQ(play.Desk.Text("cmdraise(3)"), "Raise by 10% : Cost $1,000");
+  EXPECT_EQ(play.Desk.Text("cmdraise(3)"), "Raise by 10% : Cost $1000");
   play.Desk.ExpectAsk("Finance Report", "Pay $525 for a 5% increase?", false);
   play.Desk.Click("cmdraise(2)");
   EXPECT_EQ(play.World().Player().Production, 9);
@@ -68,7 +68,7 @@ TEST(frmFedProd, RaisesStepByStepAndAsksBefore) {
   EXPECT_EQ(play.Desk.Text("lblproduction"), "10%");
   play.Desk.ExpectAsk("Finance Report", "Pay $525 for a 5% increase?", true);
   play.Desk.Click("cmdraise(2)");
-  EXPECT_EQ(play.Desk.Text("cmdraise(2)"), "Raise by 5% : Cost $4,000") << "the next band";
+  EXPECT_EQ(play.Desk.Text("cmdraise(2)"), "Raise by 5% : Cost $4000") << "the next band";
   EXPECT_EQ(play.Desk.Text("lblmoney"), "Current finance: $6000");
   EXPECT_EQ(play.Desk.Text("lblmonthly"), "$15,000 p.m");
 

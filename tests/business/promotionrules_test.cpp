@@ -159,13 +159,15 @@ SmallWorld Schools() {
 
 TEST(Camp, CostsItsLevelOnceAndStandsInThePast) {
   constexpr int kPrices[] = {25000, 100000, 400000, 1000000};
+  constexpr const char* kWords[] = {
+      "$25,000, and you have $24,999.", "$100,000, and you have $99,999.",
+      "$400,000, and you have $399,999.", "$1,000,000, and you have $999,999."};
   for (int level = 1; level <= 4; ++level) {
     World world = Schools();
     EXPECT_EQ(CampPrice(level), kPrices[level - 1]);
     world.Player().Money = kPrices[level - 1] - 1;
     EXPECT_EQ(WhyNotOpenCamp(world, "The Shed", level),
-              "You cannot afford this! It costs $" + std::to_string(kPrices[level - 1]) +
-                  ", and you have $" + std::to_string(kPrices[level - 1] - 1) + ".");
+              std::string("You cannot afford this! It costs ") + kWords[level - 1]);
     world.Player().Money += 1;
     ASSERT_EQ(WhyNotOpenCamp(world, "The Shed", level), "");
     OpenCamp(world, " The Shed ", level);

@@ -106,7 +106,8 @@ TEST(frmFedValue, ShowsEveryLineAndTheSum) {
             (std::vector<std::string>{
                 "Name and image", "Cult, $8,000,000 x 107% for an image of 57%", "$8,560,000"}));
   EXPECT_EQ(rows[7], (std::vector<std::string>{"Debts", "What is overdrawn", "-$40,000"}));
-  const std::string sum = "$" + std::to_string(SumOf(lines));
+  const std::string sum = "$16,023,800";
+  EXPECT_EQ(SumOf(lines), 16023800);
   EXPECT_EQ(rows.back()[2], sum);
   EXPECT_EQ(play.Desk.Text("lblworth"), "CWA Wrestling is worth " + sum + ".");
   play.Desk.Click("cmdback");

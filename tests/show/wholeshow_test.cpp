@@ -548,6 +548,8 @@ TEST(AWholeEvent, ComesOutAsReckonedByHand) {
   after["Dee"].Status = "Inj";
   after["Dee"].InjuryName = "Back Injury";
   after["Dee"].StatusMonths = 4;
+  NoteDeed(expected, kDeedInjured, expected.FindPromotion(after["Dee"].Employer), "Dee",
+           "Back Injury", 4);
   after.Becomes("Ed", 75, 96, 83);
   after.Becomes("Fin", 80, 95, 85);
   after["Fin"].Disposition = "H";

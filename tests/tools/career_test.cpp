@@ -124,7 +124,10 @@ TEST(Careers, ReplaceWhoeverRetiresForTenYears) {
   for (const bool nearTheLastUid : {false, true}) {
     World world = Begun(5, 9);
     // Somebody whom no record knows: the last made up for the market.
-    if (nearTheLastUid) world.Workers()[world.Workers().Count()].Uid = 32760;
+    if (nearTheLastUid) {
+      world.Workers()[world.Workers().Count()].Uid = 32760;
+      world.YearEnds()[world.YearEnds().Count()].Worker = 32760;
+    }
     const int workers = world.Workers().Count();
     const int staff = world.AllStaff().Count();
     const People workersThen = PeopleIn(world.Workers()), staffThen = PeopleIn(world.AllStaff());
