@@ -76,7 +76,8 @@ class frmBelts : public ui::Screen {
   }
 
   void ShowTitles() {
-    UpdateReigns(world());  // on the very day of the change
+    // On the very day of the change; nothing is written once the career has ended.
+    if (!HasEnded(world().Game())) UpdateReigns(world());
     std::vector<ui::ListBox::Row> rows;
     int vacant = 0;
     const bool all = cmbwhose.Key() == kEverybodys;

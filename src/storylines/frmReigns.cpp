@@ -30,7 +30,7 @@ class frmReigns : public ui::Screen {
   }
 
   void Load() override {
-    UpdateReigns(game_.World());
+    if (!HasEnded(game_.World().Game())) UpdateReigns(game_.World());
     lineages_ = LineagesOf(world());
     for (const Lineage& lineage : lineages_)
       cmbtitle.Add(

@@ -163,7 +163,6 @@ Day Known(const Date& date, Day unknown) {
 }  // namespace
 
 void UpdateReigns(World& world) {
-  if (world.HasGame() && HasEnded(world.Game())) return;  // a past that is only read
   Update(world).Run();
 }
 

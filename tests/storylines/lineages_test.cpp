@@ -89,6 +89,12 @@ TEST(Lineages, SeeEveryWayInWhichATitleChanges) {
   } rows[] = {
       {"won", [&](World& w) { Crown(w, crown(w), UidOf(w, "Cal Drift"), 0); },
        "Bram Okafor ? lost, Cal Drift 4 lasts"},
+      {"won on the day the career ends",
+       [&](World& w) {
+         Crown(w, crown(w), UidOf(w, "Cal Drift"), 0);
+         w.Game().EndCode = kEndBoard;
+       },
+       "Bram Okafor ? lost, Cal Drift 4 lasts"},
       {"vacated by the player", [&](World& w) { VacateTitle(w, crown(w)); },
        "Bram Okafor ? vacated, Vacant 4 lasts"},
       {"given up by a contract that ends",
