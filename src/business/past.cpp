@@ -2,6 +2,7 @@
 
 #include "business/books.h"
 #include "business/months.h"
+#include "records/rolling.h"
 
 namespace grapplemont {
 
@@ -59,12 +60,7 @@ HistoryEntry EntryOf(const World& world, const Promotion& promotion, HistoryKind
 }
 
 void Remember(World& world, const HistoryEntry& entry) {
-  if (world.History().Full()) {
-    // A thousand at once: making room must not move the whole file with every show.
-    int number = 0;
-    world.History().Keep([&](const HistoryEntry&) { return ++number > kDropped; });
-  }
-  world.History().Append(entry);
+  AppendRolling(world.History(), entry, kDropped);
 }
 
 void RememberMonth(World& world, const Promotion& promotion) {

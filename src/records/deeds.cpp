@@ -1,5 +1,6 @@
 #include "records/deeds.h"
 
+#include "records/rolling.h"
 #include "records/world.h"
 
 namespace grapplemont {
@@ -49,14 +50,6 @@ constexpr RecordLayout kLayout{"Deed", "deeds.dat", sizeof(Deed), 3000, kFields}
 
 constexpr int kDropped = 500;
 
-void Append(World& world, const Deed& deed) {
-  if (world.Deeds().Full()) {
-    int number = 0;
-    world.Deeds().Keep([&](const Deed&) { return ++number > kDropped; });
-  }
-  world.Deeds().Append(deed);
-}
-
 Deed NewDeed(const World& world, DeedKind kind, const Promotion* house, std::string_view who) {
   Deed deed{};
   deed.On = world.Today();
@@ -81,7 +74,7 @@ void NoteDeed(World& world, DeedKind kind, const Promotion* house, std::string_v
   Deed deed = NewDeed(world, kind, house, who);
   deed.Other = other;
   deed.Number = number;
-  Append(world, deed);
+  AppendRolling(world.Deeds(), deed, kDropped);
 }
 
 void NoteShow(World& world, DeedKind kind, const Promotion& house, std::string_view show, int draw,
@@ -90,7 +83,7 @@ void NoteShow(World& world, DeedKind kind, const Promotion& house, std::string_v
   deed.Number = draw;
   deed.Viewers = viewers;
   deed.People = people;
-  Append(world, deed);
+  AppendRolling(world.Deeds(), deed, kDropped);
 }
 
 }  // namespace grapplemont

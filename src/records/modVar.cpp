@@ -1,6 +1,7 @@
 #include "records/modVar.h"
 
 #include "records/dates.h"
+#include "records/rolling.h"
 
 namespace grapplemont {
 
@@ -9,16 +10,11 @@ constexpr int kMailsDropped = 1000;
 }
 
 void AddNews(World& world, std::string_view from, std::string_view body) {
-  if (world.News().Full()) {
-    // A thousand at once: making room must not move the whole file with every mail.
-    int number = 0;
-    world.News().Keep([&](const Mail&) { return ++number > kMailsDropped; });
-  }
   Mail mail;
   mail.From = from;
   mail.Date = ShortDate(world.Today());
   mail.Body = body;
-  world.News().Append(mail);
+  AppendRolling(world.News(), mail, kMailsDropped);
 }
 
 bool HasNews(const World& world) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/modWresCheck.h"
+#include "records/rolling.h"
 #include "records/segments.h"
 #include "show/feudslots.h"
 #include "show/titlechange.h"
@@ -14,15 +15,6 @@ namespace {
 
 constexpr int kDropped = 500;
 constexpr std::size_t kSideWidth = decltype(HeldMatch::Won)::kWidth;
-
-/// Appends, and makes room by dropping the oldest.
-void Append(Records<HeldMatch>& bouts, const HeldMatch& bout) {
-  if (bouts.Full()) {
-    int number = 0;
-    bouts.Keep([&](const HeldMatch&) { return ++number > kDropped; });
-  }
-  bouts.Append(bout);
-}
 
 /// Everybody who has gone makes room first, then whoever has not been seen for the longest time.
 void MakeRoom(Records<MatchTally>& tallies) {
@@ -152,7 +144,7 @@ void KeepBout(World& world, int number, const AtTheBell& bell) {
   for (std::size_t i = 0; i < bout.Worker.size(); ++i)
     if (bout.Worker[i] != 0)
       AddToTally(world, bout.Worker[i], bout, static_cast<int>(i) < bout.Winners);
-  Append(world.Bouts(), bout);
+  AppendRolling(world.Bouts(), bout, kDropped);
 }
 
 std::string NamesOfMany(const World& world, const std::vector<int>& uids, std::size_t width) {
