@@ -259,11 +259,21 @@ struct FeudYear {
   int Best = 0;              // the sum of the best three
 };
 
+/// Pairs stand in a feud one after the other; a place is empty where its man has left the world.
+bool IsBetweenPairs(const std::array<int, 4>& parties) {
+  return parties[2] != 0 || parties[3] != 0;
+}
+
+bool HasTwoSides(const std::array<int, 4>& parties) {
+  if (IsBetweenPairs(parties)) return parties[0] != 0 || parties[1] != 0;
+  return parties[0] != 0 && parties[1] != 0;
+}
+
 std::vector<FeudYear> FeudsOf(const Year& year) {
   std::vector<FeudYear> feuds;
   for (const HeldMatch& bout : year.Of().Bouts()) {
-    if (!year.Has(Day(bout.On)) || bout.Feud[0] == 0 || bout.Feud[1] == 0) continue;
     const std::array<int, 4> parties = {bout.Feud[0], bout.Feud[1], bout.Feud[2], bout.Feud[3]};
+    if (!year.Has(Day(bout.On)) || !HasTwoSides(parties)) continue;
     auto feud = std::find_if(feuds.begin(), feuds.end(),
                              [&](const FeudYear& known) { return known.Parties == parties; });
     if (feud == feuds.end()) feud = feuds.insert(feuds.end(), {parties, {}, 0});
@@ -278,9 +288,10 @@ std::vector<FeudYear> FeudsOf(const Year& year) {
 }
 
 std::string FeudName(const World& world, const std::array<int, 4>& parties) {
-  if (parties[2] == 0)
+  if (!IsBetweenPairs(parties))
     return WorkerName(world, parties[0]) + " vs " + WorkerName(world, parties[1]);
   const auto pair = [&](int one, int two) {
+    if (one == 0 || two == 0) return WorkerName(world, one == 0 ? two : one);
     const std::string team = TeamNameOf(world, one, two);
     return team != "None" ? team
                           : WorkerShortName(world, one) + " \\ " + WorkerShortName(world, two);

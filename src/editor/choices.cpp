@@ -34,7 +34,7 @@ std::vector<Choice> WorkersFor(const World& world, RecordKind kind, const std::b
   }
   if (kind == RecordKind::Promotion)
     return Those(workers, [uid = int(As<Promotion>(record).Uid)](const Worker& worker) {
-      return worker.Employer == uid && worker.Position == kNonWrestler;
+      return uid > 0 && worker.Employer == uid && worker.Position == kNonWrestler;
     });
   if (kind == RecordKind::Title)
     return Those(workers, [owner = int(As<Title>(record).Owner)](const Worker& worker) {
@@ -47,6 +47,7 @@ std::vector<Choice> StaffFor(const World& world, RecordKind kind, const Field& f
                              const std::byte* record) {
   const int employer =
       kind == RecordKind::Show ? int(As<Show>(record).Owner) : int(As<Promotion>(record).Uid);
+  if (employer <= 0) return {};
   const auto isAnnouncer = [employer](const Staff& staff) {
     return staff.Employer == employer && staff.Position == kAnnouncer;
   };

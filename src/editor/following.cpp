@@ -81,13 +81,34 @@ bool SamePlaces(const Promotion& a, const Promotion& b) {
                             [](const Word& one, const Word& other) { return int(one) == other; });
 }
 
-void EndPromotion(World& world, int number) {
+/// "39 workers are free agents now".
+template <class T, class Belongs>
+void TellHowMany(const Records<T>& records, Belongs belongs, const char* one, const char* many,
+                 std::vector<std::string>& also) {
+  const auto count = std::count_if(records.begin(), records.end(), belongs);
+  if (count > 0) also.push_back(std::to_string(count) + (count == 1 ? one : many));
+}
+
+void TellOfTheEnd(const World& world, int uid, std::vector<std::string>& also) {
+  const auto employs = [uid](const auto& person) { return person.Employer == uid; };
+  const auto owns = [uid](const auto& thing) { return thing.Owner == uid; };
+  TellHowMany(world.Workers(), employs, " worker goes free.", " workers go free.", also);
+  TellHowMany(world.AllStaff(), employs, " member of staff goes free.",
+              " members of staff go free.", also);
+  TellHowMany(world.Shows(), owns, " television show ends.", " television shows end.", also);
+  TellHowMany(world.Titles(), owns, " Title is nobody's.", " Titles are nobody's.", also);
+  TellHowMany(world.Events(), owns, " Event is nobody's.", " Events are nobody's.", also);
+  TellHowMany(world.Stables(), owns, " stable ends.", " stables end.", also);
+}
+
+void EndPromotion(World& world, int number, std::vector<std::string>& also) {
   // One that only shares its uid may live on, and its people with it.
   Promotion& gone = world.Promotions()[number];
   const bool shared = std::ranges::count_if(world.Promotions(), [&](const Promotion& other) {
                         return other.Uid == gone.Uid;
                       }) > 1;
   if (shared || gone.Uid == 0) return world.Promotions().Erase(number);
+  TellOfTheEnd(world, gone.Uid, also);
   const int before = world.Promotions().Count();
   gone.Name = kToBeDeleted;
   SweepDeadPromotions(world);
@@ -128,7 +149,7 @@ std::string FollowChange(World& world, RecordKind kind, const Bytes& old, int nu
 }
 
 void Forget(World& world, RecordKind kind, int number, std::vector<std::string>& also) {
-  if (kind == RecordKind::Promotion) return EndPromotion(world, number);
+  if (kind == RecordKind::Promotion) return EndPromotion(world, number, also);
   if (kind == RecordKind::Worker) {
     const Worker& worker = world.Workers()[number];
     LeaveShows(world, worker.Employer, worker.Uid, true, also);

@@ -12,7 +12,8 @@ class frmEditMerge : public ui::Screen {
  public:
   explicit frmEditMerge(Game& game)
       : Screen(game.Desk(), "frmEditMerge", "Merge New Records"), game_(game) {
-    lstrows.EmptyText = "There are no new records. Put the files named above into the data folder.";
+    lstrows.EmptyText =
+        "There are no new records. Put the files named at the left into the data folder.";
     lstmended.EmptyText = "Nothing has to be put right in the new records.";
     lblremarks.Colour = ui::Tone::Red;
     cmdclean.Tip = "New records come into data without faults only.";

@@ -14,7 +14,6 @@ class frmEditTables : public ui::Screen {
       : Screen(game.Desk(), "frmEditTables", "The Data As Tables"), game_(game) {
     txtfolder.Hint = "A folder of your own";
     txtfolder.OnChange = [this] { Forget(); };
-    lstmistakes.EmptyText = "No mistakes so far. Look at tables to check them.";
   }
 
   ui::Page Layout() override {
@@ -43,6 +42,7 @@ class frmEditTables : public ui::Screen {
   void Forget() {
     preview_ = {};
     lblfacts.Text = "The data hold " + ContentsOf(data()) + ".";
+    lstmistakes.EmptyText = "Look at tables to check them.";
     lstmistakes.Clear();
     ShowCounts(CountsOf(data(), nullptr));
     ShowPlace();
@@ -90,6 +90,7 @@ class frmEditTables : public ui::Screen {
 
   void cmdlook_Click() {
     preview_ = LookAtTables(game_.Disk(), Folder(), data());
+    lstmistakes.EmptyText = "The tables have no mistakes.";
     lstmistakes.Clear();
     for (const std::string& mistake : preview_.Mistakes) lstmistakes.Add({mistake});
     ShowCounts(preview_.Made ? preview_.Counts : CountsOf(data(), nullptr));

@@ -4,6 +4,7 @@
 #include "editor/following.h"
 #include "editor/recordfile.h"
 #include "records/modWresCheck.h"
+#include "records/severing.h"
 
 namespace grapplemont {
 
@@ -43,6 +44,8 @@ void Settle(Worker& worker) {
   worker.Stable = "None";
   worker.Split = "None";
   worker.Manager = 0;
+  if (worker.Status == "Hom") worker.Status = "Nor";
+  EndPosting(worker);
 }
 
 void Settle(Staff& staff) {

@@ -126,7 +126,11 @@ Bytes CopyOfRecord(const World& world, RecordKind kind, int number) {
     if (field.Kind != FieldKind::Text || (!field.IsKey && field.Name != "Name")) continue;
     SetFieldText(field, record.data(), 0, FreeText(world, kind, field, FieldText(field, from)));
   }
-  WithRecords(world, kind, [&]<class T>(const Records<T>&) { Part(As<T>(record.data())); });
+  WithRecords(world, kind, [&]<class T>(const Records<T>&) {
+    T& copy = As<T>(record.data());
+    Part(copy);
+    if constexpr (requires { copy.Uid; }) copy.Uid = 0;  // nobody's yet, so nobody works for it
+  });
   return record;
 }
 

@@ -140,12 +140,11 @@ void RecordScreen::FillTable() {
   if (!data_.IsReadable(file)) lstrecords.EmptyText = file + " cannot be read.";
   lstrecords.Fill(std::move(rows), false);
   lstrecords.SelectKey(number_);
-  lblfacts.Text =
-      std::to_string(all) +
-      (page_.Shows ? ", " + std::to_string(CountOf(world, page_.Kind)) + " people in all" : "") +
-      " of " + std::to_string(LayoutOf(page_.Kind).Limit) + ". " +
-      (faults_.empty() ? "None has a fault."
-                       : std::to_string(faults_.size()) + " with faults, in amber.");
+  lblfacts.Text = (page_.Shows ? std::to_string(all) + " here; " : "") +
+                  std::to_string(CountOf(world, page_.Kind)) + " of " +
+                  std::to_string(LayoutOf(page_.Kind).Limit) + " records. " +
+                  (faults_.empty() ? "None has a fault."
+                                   : std::to_string(faults_.size()) + " with faults, in amber.");
 }
 
 void RecordScreen::Choose(int number) {

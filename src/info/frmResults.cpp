@@ -24,8 +24,8 @@ class frmResults : public ui::Screen {
   ui::Page Layout() override {
     ui::Page page;
     page.Facts = &lblfacts;
-    page.Actions = {&cmdreport, &cmdreports, &cmdtitles, &cmdawards, &cmdback};
-    page.Main = &cmdback;
+    page.Actions = {&cmdreports, &cmdtitles, &cmdawards, &cmdback, &cmdreport};
+    page.Main = &cmdreport;
     page.Cancel = &cmdback;
     page.Body = ui::Rows({ui::Group("", {ui::Columns({ui::Field("Show", cmbshow),
                                                       ui::Field("Year", cmbyear), ui::Spacer()}),

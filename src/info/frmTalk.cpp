@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "calendar/meetingday.h"
 #include "info/infoscreens.h"
 #include "info/meeting.h"
@@ -98,7 +100,21 @@ class frmTalk : public ui::Screen {
 
   void cmdgo_Click() {
     const Advice* advice = Chosen();
-    if (advice && desk().Knows(advice->Screen)) desk().Open(advice->Screen);
+    if (!advice || !desk().Knows(advice->Screen)) return;
+    if (const ui::Handler page = PageOfTheOne(*advice)) return page();
+    desk().Open(advice->Screen);
+  }
+
+  /// Where the roster is to be seen about one person alone, his page; else nothing.
+  ui::Handler PageOfTheOne(const Advice& advice) {
+    if (std::string_view(advice.Screen) != "frmRoster") return {};
+    const std::string_view says = advice.Says;
+    const std::vector<ui::Link> links = desk().LinksIn(says);
+    const auto name = [&](const ui::Link& link) { return says.substr(link.From, link.Length); };
+    const bool one = !links.empty() && std::all_of(links.begin(), links.end(), [&](auto& link) {
+      return name(link) == name(links.front());
+    });
+    return one ? links.front().Open : ui::Handler{};
   }
   void cmdback_Click() { Close(); }
 

@@ -217,6 +217,21 @@ TEST(TheFeudOfTheYear, IsTheBestByItsThreeBestMatches) {
             "Bram Okafor vs Cal Drift | 3 matches, the best rated 90%");
 }
 
+TEST(TheFeudOfTheYear, IsStillBetweenPairsWhenOneOfThemHasLeftTheWorld) {
+  World world = House();
+  for (const int rating : {50, 60, 70}) {
+    AddFeudMatch(world, 30, rating, 2, 3);
+    world.Bouts()[world.Bouts().Count()].Feud = {Word(2), Word(3), Word(0), Word(6)};
+  }
+  const std::string pair = GivenFor(world, kFeudOfTheYear);
+  EXPECT_NE(pair.find(" vs Joy Park | 3 matches, the best rated 70%"), pair.npos) << pair;
+  for (HeldMatch& bout : world.Bouts()) bout.Feud = {Word(0), Word(3), Word(0), Word(6)};
+  EXPECT_EQ(GivenFor(world, kFeudOfTheYear),
+            "Cal Drift vs Joy Park | 3 matches, the best rated 70%");
+  for (HeldMatch& bout : world.Bouts()) bout.Feud = {Word(0), Word(3), Word(0), Word(0)};
+  EXPECT_EQ(GivenFor(world, kFeudOfTheYear), "nobody") << "one side is no feud";
+}
+
 TEST(ThePromotionOfTheYear, HasRisenTheMost) {
   World world = House();
   const auto month = [&](const char* initials, int daysBack, int image) {

@@ -395,6 +395,8 @@ TEST(ACopy, HasAFreeNameAndGoesWhenItIsNotSaved) {
   home.Desk.Click("cmdcopy");
   EXPECT_EQ("CWA2", home.Desk.Text("txtinitials"));
   EXPECT_EQ("None", home.Desk.Text("cmbsponsor1"));
+  for (const char* office : {"cmbcommissioner", "cmbheadtrainer", "cmbdevbooker"})
+    EXPECT_EQ(1u, home.Desk.Rows(office).size()) << office << ": nobody works there yet";
   home.Desk.ExpectAsk("Unsaved Changes", kAnyText, false, ui::Default::No);
   home.Desk.Click("cmdback");
   EXPECT_EQ("frmEditPromo", home.Desk.TopName());
@@ -455,6 +457,18 @@ const DeletionCase kDeletions[] = {
     {"cmdsponsors", "Gulp",
      [](const World& world) { EXPECT_EQ(0, world.Promotions()[1].Sponsor[0]); }},
 };
+
+TEST(ADeletion, OfAPromotionSaysBeforehandWhatEnds) {
+  EditorHome home;
+  home.Page("cmdpromo", "CWA");
+  home.Desk.ExpectAsk(
+      "Delete",
+      "Are you sure you want to delete " + home.Desk.Text("lblrecord") +
+          "?\n\nThis also happens:\n8 workers go free.\n3 members of staff go free.\n1 television "
+          "show ends.\n2 Titles are nobody's.\n1 Event is nobody's.\n1 stable ends.",
+      false, ui::Default::No);
+  home.Desk.Click("cmddelete");
+}
 
 TEST(ADeletion, IsForgottenByAllThatKnewTheRecord) {
   for (const DeletionCase& deletion : kDeletions) {

@@ -66,6 +66,16 @@ TEST(TalkScreen, OpensThePageOfWhoeverIsNamed) {
   EXPECT_EQ(play.Desk.TopName(), "frmWorker");
 }
 
+TEST(TalkScreen, LeadsToThePageOfTheOneThatAPointIsAbout) {
+  GameOnWorld play(CalmWorld());
+  Named(play.World().Workers(), "CWA 9").ContractMonths = 1;
+  play.Play.Commit();
+  play.Desk.Open("frmTalk");
+  ASSERT_TRUE(Has(play.Desk.Text("txtsays"), "CWA 9")) << play.Desk.Text("txtsays");
+  play.Desk.Click("cmdgo");
+  EXPECT_EQ(play.Desk.TopName(), "frmWorker");
+}
+
 TEST(InternetScreen, ShowsAllItsSites) {
   GameOnWorld play(CalmWorld());
   NoteDeed(play.World(), kDeedRetired, nullptr, "Old Hand");
