@@ -10,10 +10,6 @@ namespace {
 
 constexpr int kDropped = 1000;
 
-bool IsShow(const HistoryEntry& entry) {
-  return entry.Kind == kPastTv || entry.Kind == kPastEvent;
-}
-
 template <class Test>
 std::vector<const HistoryEntry*> Entries(const World& world, int promotionUid, Test test) {
   std::vector<const HistoryEntry*> found;
@@ -23,6 +19,20 @@ std::vector<const HistoryEntry*> Entries(const World& world, int promotionUid, T
 }
 
 }  // namespace
+
+bool IsShow(const HistoryEntry& entry) {
+  return entry.Kind == kPastTv || entry.Kind == kPastEvent;
+}
+
+const HistoryEntry* LastShowOf(const World& world, int promotionUid, Day from, int kind) {
+  for (int number = world.History().Count(); number >= 1; --number) {
+    const HistoryEntry& entry = world.History()[number];
+    if (Day(entry.On) < from) return nullptr;
+    if (entry.Promotion == promotionUid && (kind == 0 ? IsShow(entry) : entry.Kind == kind))
+      return &entry;
+  }
+  return nullptr;
+}
 
 std::vector<const HistoryEntry*> MonthsOf(const World& world, int promotionUid) {
   return Entries(world, promotionUid,

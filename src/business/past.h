@@ -11,6 +11,11 @@ namespace grapplemont {
 
 /// How the promotion stood at its month ends.
 std::vector<const HistoryEntry*> MonthsOf(const World& world, int promotionUid);
+/// The entry is a television show or an Event.
+bool IsShow(const HistoryEntry& entry);
+/// The promotion's latest show of the day `from` or later, held or called off; of one kind alone
+/// where one is given. nullptr for none.
+const HistoryEntry* LastShowOf(const World& world, int promotionUid, Day from, int kind = 0);
 /// What became of a television show of the promotion's, or of its Events where no name is given.
 std::vector<const HistoryEntry*> PastShowsOf(const World& world, int promotionUid,
                                              std::string_view name = {});

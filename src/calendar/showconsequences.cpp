@@ -9,6 +9,7 @@
 #include "calendar/daykind.h"
 #include "calendar/daysteps.h"
 #include "calendar/events.h"
+#include "calendar/goodwill.h"
 #include "calendar/image.h"
 #include "calendar/imagetables.h"
 #include "records/dates.h"
@@ -21,25 +22,17 @@ namespace {
 
 constexpr int kNoEventImage = 10;
 constexpr int kCancelledImage = 15;
-constexpr int kPoorReputation = 25;
 
 // By Event type from 1 to 4, in dollars.
 constexpr std::array<int, 4> kCancelCharges = {2000000, 1000000, 100000, 5000};
 
-// By difficulty from 1 to 4: what the public thinks of a show before it has seen it.
-constexpr std::array<int, 4> kEventGoodwill = {1, 0, -2, -3};
-constexpr std::array<int, 4> kTvGoodwill = {1, 0, -1, -2};
-
-void ApplyGoodwill(World& world, Promotion& player, const std::array<int, 4>& byDifficulty) {
-  const int difficulty = std::clamp<int>(world.Game().Difficulty, kEasy, kRockHard);
-  if (const int step = byDifficulty[static_cast<std::size_t>(difficulty - 1)]; step != 0)
-    MoveImage(world, player, step);
-  if (world.Game().Reputation < kPoorReputation) ChangeImage(world, player, 1, false);
+void ApplyGoodwill(World& world, Promotion& player, const Goodwill& goodwill) {
+  for (const int step : goodwill)
+    if (step != 0) MoveImage(world, player, step);
 }
 
 ShowTakings HoldEvent(World& world, Promotion& player, const Event& event, int type) {
-  ApplyGoodwill(world, player, kEventGoodwill);
-  if (world.Game().Reputation == 0) ChangeImage(world, player, 1, false);
+  ApplyGoodwill(world, player, EventGoodwill(world.Game()));
   MoveImage(world, player, EventImageStep(player.Size, world.Session.ShowRating));
   const long long sponsors = PayEventSponsors(world, player);
   ShowTakings takings = EventReport(world, player, event, type);
@@ -50,7 +43,7 @@ ShowTakings HoldEvent(World& world, Promotion& player, const Event& event, int t
 
 ShowTakings HoldTv(World& world, Promotion& player) {
   CheckShow(world, player);
-  ApplyGoodwill(world, player, kTvGoodwill);
+  ApplyGoodwill(world, player, TvGoodwill(world.Game()));
   MoveImage(world, player, TvImageStep(player.Size, world.Session.ShowRating));
   const long long sponsors = PayTvSponsors(world, player);
   ShowTakings takings = TvReport(world, player);

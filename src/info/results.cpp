@@ -4,16 +4,13 @@
 #include <functional>
 #include <set>
 
+#include "business/past.h"
 #include "records/dates.h"
 #include "records/segments.h"
 
 namespace grapplemont {
 
 namespace {
-
-bool IsShow(const HistoryEntry& entry) {
-  return entry.Kind == kPastTv || entry.Kind == kPastEvent;
-}
 
 std::string Count(long long number, const char* one, const char* many) {
   return std::to_string(number) + " " + (number == 1 ? one : many);

@@ -76,6 +76,8 @@ int StartFeud(World& world, const FeudSides& sides);
 
 /// What Maeve thinks should become of the feud. Requires a slot that is taken.
 std::string AssessFeud(const World& world, const Feud& feud);
+/// Whether that is to end it. Requires the same.
+bool IsRipe(const Feud& feud);
 
 /// Empties the slot. Each party of a feud that has seen at least four wins or attacks draws once;
 /// whom it hurts loses popularity and writes a mail.
