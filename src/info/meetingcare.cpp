@@ -19,23 +19,57 @@ constexpr int kSoonMonths = 3;
 constexpr int kWornOut = 40, kTired = 60;
 constexpr int kTeaches = 41;  // the least talent of a booker who has anything to teach
 constexpr int kSomeNames = 4;
+constexpr int kHalfAYear = 6, kYear = 12;  // months
 
 bool EndsWithin(int left, int from, int until) {
   return left != kNoEnd && left >= from && left <= until;
 }
 
-void TalkOfEndings(Meeting& meeting, Point point, int from, int until) {
-  const World& world = meeting.Of();
-  const People ending = Ours(world, [&](const Worker& w) {
+/// He would sign for so many months if everything else were as he wants it and better.
+bool WouldSign(const World& world, const Worker& worker, int months) {
+  const RenewalTerms terms = RenewalTermsOf(world, worker);
+  ContractOffer best{kHighestWage, months, terms.Written, true};
+  return JudgeRenewal(worker, terms, best).Accepted;
+}
+bool MovesOn(const World& world, const Worker& worker) {
+  return !WouldSign(world, worker, kHalfAYear) && !WouldSign(world, worker, kYear);
+}
+bool SignsForHalfAYear(const World& world, const Worker& worker) {
+  return WouldSign(world, worker, kHalfAYear) && !WouldSign(world, worker, kYear);
+}
+
+/// Whose contracts end after so many months, and who will talk about another.
+People Ending(const World& world, int from, int until) {
+  return Ours(world, [&](const Worker& w) {
     return EndsWithin(w.ContractMonths, from, until) && !w.RetiringSoon && !(w.Status == "Hom") &&
            WhyNoRenewal(w).empty();
   });
+}
+
+void TalkOfEndings(Meeting& meeting, Point point, int from, int until) {
+  const World& world = meeting.Of();
+  People ending = Ending(world, from, until);
+  std::erase_if(ending, [&](const Worker* w) { return MovesOn(world, *w); });
   if (ending.empty()) return;
+  People brief = ending;
+  std::erase_if(brief, [&](const Worker* w) { return !SignsForHalfAYear(world, *w); });
   const Worker& first = *ending.front();
   meeting.Say(point, {{"n", Number(ending.size())},
                       {"names", SomeOf(ending, kSomeNames)},
                       {"who", first.Name.Str()},
-                      {"wage", Dollars(RenewalTermsOf(world, first).Wage * 1000LL)}});
+                      {"wage", Dollars(RenewalTermsOf(world, first).Wage * 1000LL)},
+                      {"brief", brief.empty() ? ""
+                                              : " For 6 months and not a day more: " +
+                                                    SomeOf(brief, kSomeNames) + "."}});
+}
+
+void TalkOfThoseWhoMoveOn(Meeting& meeting) {
+  const World& world = meeting.Of();
+  People leaving = Ending(world, 1, kSoonMonths);
+  std::erase_if(leaving, [&](const Worker* w) { return !MovesOn(world, *w); });
+  if (!leaving.empty())
+    meeting.Say(Point::MovingOn,
+                {{"n", Number(leaving.size())}, {"names", SomeOf(leaving, kSomeNames)}});
 }
 
 void TalkOfTheUnwilling(Meeting& meeting) {
@@ -152,6 +186,7 @@ void TalkOfContracts(Meeting& meeting) {
   TalkOfEndings(meeting, Point::ContractsEnd, 1, 1);
   TalkOfEndings(meeting, Point::ContractsSoon, 2, kSoonMonths);
   TalkOfTheUnwilling(meeting);
+  TalkOfThoseWhoMoveOn(meeting);
   TalkOfStaffContracts(meeting);
   const People retiring = Ours(meeting.Of(), [](const Worker& w) { return bool(w.RetiringSoon); });
   if (!retiring.empty()) meeting.Say(Point::Retiring, {{"names", SomeOf(retiring)}});

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "info/fill.h"
 #include "records/world.h"
 
 // What the subjects of the meeting count with.
@@ -26,14 +27,7 @@ std::string Number(Count count) {
   return std::to_string(count);
 }
 
-/// "1 month", "3 months".
-inline std::string Counted(long long count, const std::string& what) {
-  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
-
 /// How often in a row the standing fell at the last month ends.
 int FallsInARow(const Promotion& promotion);
-/// The least rating of a television show that lifts the image of a promotion of this size.
-int RatingThatLifts(int size);
 
 }  // namespace grapplemont

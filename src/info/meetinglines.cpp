@@ -143,16 +143,19 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      kMaeve,
      "frmRoster",
      {"On the first of the month {n} leave us unless somebody signs something: {names}. {who} "
-      "would want {wage} a month.",
-      "Last month of the contract for {names}. {who}, for one, asks {wage} a month to stay."},
+      "would want {wage} a month.{brief}",
+      "Last month of the contract for {names}. {who}, for one, asks {wage} a month to "
+      "stay.{brief}"},
      "Talk to them before the first."},
     {P::ContractsSoon,
      Contracts,
      Soon,
      kMaeve,
      "frmRoster",
-     {"{n} contracts end within three months: {names}. {who} would want {wage} a month.",
-      "In the drawer with the short contracts: {names}. {who} would stay for {wage} a month."},
+     {"{n} contracts end within three months: {names}. {who} would want {wage} a "
+      "month.{brief}",
+      "In the drawer with the short contracts: {names}. {who} would stay for {wage} a "
+      "month.{brief}"},
      "Renew those you want to keep; letting the others run out costs nothing."},
     {P::WillNotSign,
      Contracts,
@@ -164,6 +167,16 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
       "{names} will not talk, and the contract runs out. For {who} that is a morale of {morale} "
       "and a loyalty of {loyalty}; we need 40 of both."},
      "Raise the morale first, or take the Titles and feuds off them while they are still here."},
+    {P::MovingOn,
+     Contracts,
+     Soon,
+     kMaeve,
+     "frmRoster",
+     {"Meaning to move on to a bigger promotion when the contract ends, whatever we pay: {names}. "
+      "The count is {n}, all within three months.",
+      "{names} will be too big for us by the end of the contract, I am told, and no wage makes "
+      "anybody smaller. {n} in three months."},
+     "Take the Titles and feuds off them while they are still here, or grow faster."},
     {P::StaffContracts,
      Contracts,
      Soon,
@@ -278,7 +291,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      {"We owe {debt}. At {line} it is over. That leaves {left}, and I have started to read the "
       "letters from the bank standing up.",
       "{debt} in debt, and the bank closes us at {line}. {left} between us and that door."},
-     "Cut wages, spending and risk today; take a loan while a bank still answers."},
+     "Cut wages, spending and risk today."},
     {P::Debt,
      Money,
      Soon,
@@ -335,10 +348,10 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Now,
      kOwner,
      "frmLoan",
-     {"The bank wants {payment} on the first, and we have {money}. Three times without, and they "
-      "close us. So far: {missed}.",
-      "On the first {payment} are due. In the account: {money}. Missed so far: {missed} of the "
-      "three that end it."},
+     {"The bank wants {payment} on the first, when wages have taken {wages}, and we have {money}. "
+      "Three times without, and they close us. So far: {missed}.",
+      "On the first {payment} are due, after wages of {wages}. In the account: {money}. Missed so "
+      "far: {missed} of the three that end it."},
      "Find {gap} before the first."},
     {P::LoanMissed,
      Money,
@@ -347,7 +360,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      "frmLoan",
      {"We have missed {missed} of our repayments. The third is the last.",
       "The bank has a list with {missed} of our months on it. There is room for three."},
-     "Keep {payment} in the account on every first."},
+     "Keep {need} in the account for the first: wages go before the bank."},
     {P::LoanRuns,
      Money,
      Watch,
@@ -355,7 +368,15 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      "frmLoan",
      {"Of the loan {rest} are still to be paid, {payment} each month.",
       "{payment} a month to the bank until {rest} are through."},
-     "Keep {payment} in the account on every first. Paying early costs a fee."},
+     "Keep {need} in the account for the first: wages go before the bank.{fee}"},
+    {P::TicketFree,
+     Money,
+     Now,
+     kOwner,
+     "frmTicket",
+     {"We let everybody in for nothing. They thank us, and go home with the chairs.",
+      "A ticket costs nothing. I stood at the door with a hat and made more than the door."},
+     "Set the price to {best}. People think {fair} is fair."},
     {P::TicketNobody,
      Money,
      Now,
@@ -430,7 +451,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
       "each month, and I lose my place in the sentence.",
       "{n} month ends, and each of them lower. From two on everybody here loses 10 morale on the "
       "first."},
-     "One month of better ratings ends it: {rating}% on television lifts our image."},
+     "The next first takes the 10 whatever we do. Stand no lower on it than on the last, and it is "
+     "the last one that does. {lifts}"},
     {P::ImageSlips,
      Image,
      Soon,
@@ -438,7 +460,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      "frmFed",
      {"Our standing fell at the last month end. A second time costs the roster's morale.",
       "We stand lower than a month ago. Once is weather."},
-     "Aim for shows of {rating}%, which lift the image."},
+     "Stand no lower on the first. {lifts}"},
     {P::ImageDanger,
      Image,
      Now,
@@ -447,7 +469,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      {"Image {image}%. At nothing we fall to {below}, the owner goes, and one board in three sends "
       "you along.",
       "{image}% of image left. Below that lies {below}, and a board that draws lots about you."},
-     "Never call a show off now. {rating}% on television lifts the image."},
+     "Never call a show off now. {lifts}"},
     {P::ImageNext,
      Image,
      Good,
@@ -461,9 +483,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Soon,
      kAnnouncer,
      "frmFed",
-     {"{show} came to {rating}%. That moved our image by {step}. From {needed}% on it would have "
-      "risen.",
-      "They gave {show} {rating}%, and our image {step}. {needed}% is where it begins to rise."},
+     {"{show} came to {rating}%. That moved our image by {step}. {needed}",
+      "They gave {show} {rating}%, and our image {step}. {needed}"},
      "Rows of popular people, short cards, a hot feud on top."},
     {P::FeudsFew,
      Feuds,
@@ -541,7 +562,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Soon,
      kWriter,
      "frmBelts",
-     {"{title} has an image of {image}, and {who} an Over of {over}. Each defence will drag it "
+     {"{title} has an image of {image}, and {who} an Over of {over}. Each defence may drag it "
       "down.",
       "{who} ({over}) is carrying something heavier than {themself}: {title} at {image}."},
      "Give it to somebody with an Over of {needed} or more."},
@@ -643,6 +664,16 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
       "At {show} sits {who}, with {have} of the {wanted} that people expect. Each show loses "
       "{charge} in the sum of its ratings."},
      "{remedy}"},
+    {P::TvSpeechless,
+     Television,
+     Soon,
+     kAnnouncer,
+     "frmTelevision",
+     {"{who} sits at the table of {show} and cannot speak. It takes {charge} from the sum of the "
+      "ratings.",
+      "At {show} we have {who} for a voice, who has none. Each show loses {charge} in the sum of "
+      "its ratings."},
+     "{remedy}"},
     {P::TvSlot,
      Television,
      Good,
@@ -651,6 +682,15 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      {"{network} would move {show} to {slot} if somebody asked.",
       "{show} could have {slot}. {network} told me so by accident."},
      "Ask; it reaches {audience} there and measures by it."},
+    {P::TvSlotDown,
+     Television,
+     Watch,
+     kAnnouncer,
+     "frmTelevision",
+     {"{network} would let {show} go down to {slot}. It is where they put what they are sorry for.",
+      "{show} could hide in {slot}, says {network}. Fewer would see it, and fewer would mind."},
+     "It reaches {audience} there instead of {now}, and is measured by that. Ask if nothing else "
+     "saves it."},
     {P::TvOffer,
      Television,
      Now,

@@ -6,6 +6,7 @@
 #include "business/monthlymoney.h"
 #include "business/sponsorlimits.h"
 #include "business/sponsors.h"
+#include "business/wagebill.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
 #include "records/modVar.h"
@@ -84,6 +85,7 @@ void TalkOfTickets(Meeting& meeting) {
   const Meeting::Words words = {{"price", Money(player.TicketPrice)},
                                 {"fair", Money(FairTicketPrice(player.Size))},
                                 {"best", Money(best)}};
+  if (player.TicketPrice == 0) return meeting.Say(Point::TicketFree, words);
   if (IsNobodysPrice(player.Size, player.TicketPrice))
     return meeting.Say(Point::TicketNobody, words);
   const long long now = GateAt(player.Size, player.TicketPrice, economy);
@@ -218,14 +220,22 @@ void TalkOfMoney(Meeting& meeting) {
 void TalkOfLoans(Meeting& meeting) {
   const Promotion& player = meeting.Player();
   if (player.LoanAmount < 1) return;
-  const long long payment = MonthlyRepayment(player, meeting.Of().Game().Difficulty);
+  const int difficulty = meeting.Of().Game().Difficulty;
+  const long long payment = MonthlyRepayment(player, difficulty);
+  // The wages are paid first.
+  const WageBill bill = WagesOf(meeting.Of(), player.Uid);
+  const long long wages = bill.Workers + bill.Staff, need = wages + payment;
+  const long long rest = static_cast<long long>(player.LoanAmount) - player.LoanRepaid;
   const Meeting::Words words = {
       {"payment", Money(payment)},
+      {"wages", Money(wages)},
+      {"need", Money(need)},
       {"money", Money(player.Money)},
       {"missed", Number(int(player.LoanMissed))},
-      {"gap", Money(payment - player.Money)},
-      {"rest", Money(static_cast<long long>(player.LoanAmount) - player.LoanRepaid)}};
-  if (player.Money < payment) return meeting.Say(Point::LoanShort, words);
+      {"gap", Money(need - player.Money)},
+      {"rest", Money(rest)},
+      {"fee", PayOffCost(player, difficulty) > rest ? " Paying early costs a fee." : ""}};
+  if (player.Money < need) return meeting.Say(Point::LoanShort, words);
   meeting.Say(player.LoanMissed > 0 ? Point::LoanMissed : Point::LoanRuns, words);
 }
 

@@ -1,4 +1,5 @@
 #include "business/books.h"
+#include "business/development.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
 #include "records/modVar.h"
@@ -155,11 +156,9 @@ void TalkOfTheRoom(Meeting& meeting) {
 }  // namespace
 
 std::string WhyUnhappy(const World& world, const Worker& worker) {
-  constexpr int kFrets = 27, kSettled = 34;
-  const bool isAway = worker.Position == kDevelopmentDeal || worker.Position > kSentToDevelopment;
   if (IsHeldLow(world, worker)) return "stands too low on the card";
-  if (isAway && worker.Age >= kFrets && worker.Age <= kSettled)
-    return "is too old for the development territory";
+  if (HasTerritory(world.Player()) && IsInDevelopment(worker) && worker.Over >= worker.Potential)
+    return "has nothing left to learn in the development territory";
   if (FallsInARow(world.Player()) >= kPoorForm)
     return "has seen our standing fall month after month";
   return {};

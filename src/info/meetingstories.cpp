@@ -1,6 +1,8 @@
+#include <optional>
+
 #include "business/past.h"
 #include "calendar/events.h"
-#include "calendar/imagetables.h"
+#include "calendar/goodwill.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
 #include "records/dates.h"
@@ -21,40 +23,58 @@ constexpr int kNearTheTop = 85, kNearTheBottom = 15;
 constexpr int kGreatShow = 90;
 constexpr int kFewFeuds = 2;
 constexpr int kColdHeat = 30, kHotHeat = 80, kFitForAnEvent = 60;
-constexpr int kRipeWins = 13;
-constexpr int kRipeDays = 120;
 constexpr int kLongReign = 180;
 constexpr int kOutshines =
     7;  // a Title loses image when the match and its holder lie below by more
 constexpr int kLeavingMonths = 2;
 constexpr int kDaysAhead = 35, kNear = 14;
+constexpr std::chrono::days kOfLate{28};
 
 std::string Signed(int step) {
   return step > 0 ? "+" + std::to_string(step) : std::to_string(step);
 }
 
-const HistoryEntry* LastShowOf(const World& world) {
-  for (int number = world.History().Count(); number >= 1; --number) {
-    const HistoryEntry& entry = world.History()[number];
-    if (entry.Promotion == world.PlayerUid() && !entry.CalledOff &&
-        (entry.Kind == kPastTv || entry.Kind == kPastEvent))
-      return &entry;
+using WholeStep = int (*)(const GameInfo& game, int size, int rating);
+
+/// The least rating that lifts the image of the player's promotion, if any does.
+std::optional<int> RatingThatLifts(const World& world, WholeStep stepOf) {
+  for (int rating = 0; rating <= 100; ++rating)
+    if (stepOf(world.Game(), world.Player().Size, rating) > 0) return rating;
+  return {};
+}
+
+/// "50% on television lifts our image."
+std::string WhatLifts(const World& world) {
+  const auto rating = RatingThatLifts(world, WholeTvStep);
+  return rating ? Number(*rating) + "% on television lifts our image."
+                : "Nothing on television lifts our image, but a good show costs it least.";
+}
+
+/// The promotion was of today's class before the show, has left it in that class, and still is.
+bool WasOfOurClass(const World& world, const HistoryEntry& show) {
+  const int size = world.Player().Size;
+  if (show.Size != size) return false;
+  for (int number = world.History().NumberOf(show) - 1; number >= 1; --number) {
+    const HistoryEntry& before = world.History()[number];
+    if (before.Promotion == show.Promotion) return before.Size == size;
   }
-  return nullptr;
+  return true;
 }
 
 void TalkOfLastShow(Meeting& meeting) {
-  const HistoryEntry* show = LastShowOf(meeting.Of());
-  if (!show) return;
-  const auto stepOf = show->Kind == kPastEvent ? EventImageStep : TvImageStep;
-  const int size = meeting.Player().Size;
-  if (stepOf(size, show->Rating) > 0) return;
-  int needed = show->Rating;
-  while (needed < 100 && stepOf(size, needed) <= 0) ++needed;
-  meeting.Say(Point::LastShow, {{"show", show->Name.Str()},
-                                {"rating", Number(int(show->Rating))},
-                                {"step", Signed(stepOf(size, show->Rating))},
-                                {"needed", Number(needed)}});
+  const World& world = meeting.Of();
+  const HistoryEntry* show = LastShowOf(world, world.PlayerUid(), world.Today() - kOfLate);
+  if (!show || show->CalledOff || !WasOfOurClass(world, *show)) return;
+  const WholeStep stepOf = show->Kind == kPastEvent ? WholeEventStep : WholeTvStep;
+  const int step = stepOf(world.Game(), world.Player().Size, show->Rating);
+  if (step > 0) return;
+  const auto needed = RatingThatLifts(world, stepOf);
+  meeting.Say(Point::LastShow,
+              {{"show", show->Name.Str()},
+               {"rating", Number(int(show->Rating))},
+               {"step", Signed(step)},
+               {"needed", needed ? "From " + Number(*needed) + "% on it would have risen."
+                                 : "No rating would have lifted it."}});
 }
 
 std::string FeudName(const World& world, const Feud& feud) {
@@ -80,7 +100,7 @@ void TalkOfFeud(Meeting& meeting, const Feud& feud) {
       {"feud", FeudName(world, feud)}, {"who", SomeOf(away)},  {"heat", Number(int(feud.Heat))},
       {"wins", Number(wins)},          {"days", Number(days)}, {"advice", AssessFeud(world, feud)}};
   if (!away.empty()) return meeting.Say(Point::FeudHurt, words);
-  if (wins > kRipeWins || days > kRipeDays) return meeting.Say(Point::FeudRipe, words);
+  if (IsRipe(feud)) return meeting.Say(Point::FeudRipe, words);
   if (feud.Heat < kColdHeat) return meeting.Say(Point::FeudCold, words);
   if (feud.Heat >= kHotHeat) meeting.Say(Point::FeudHot, words);
 }
@@ -187,22 +207,18 @@ int FallsInARow(const Promotion& promotion) {
   return falls;
 }
 
-int RatingThatLifts(int size) {
-  int rating = 0;
-  while (rating < 100 && TvImageStep(size, rating) <= 0) ++rating;
-  return rating;
-}
-
 void TalkOfImage(Meeting& meeting) {
+  const World& world = meeting.Of();
   const Promotion& player = meeting.Player();
   const int falls = FallsInARow(player);
-  const Meeting::Words words = {{"n", Number(falls)},
-                                {"image", Number(int(player.Image))},
-                                {"left", Number(100 - player.Image)},
-                                {"rating", Number(RatingThatLifts(player.Size))},
-                                {"above", std::string(SizeText(player.Size - 1))},
-                                {"below", std::string(SizeText(player.Size + 1))},
-                                {"step", Signed(TvImageStep(player.Size, kGreatShow))}};
+  const Meeting::Words words = {
+      {"n", Number(falls)},
+      {"image", Number(int(player.Image))},
+      {"left", Number(100 - player.Image)},
+      {"lifts", WhatLifts(world)},
+      {"above", std::string(SizeText(player.Size - 1))},
+      {"below", std::string(SizeText(player.Size + 1))},
+      {"step", Signed(WholeTvStep(world.Game(), player.Size, kGreatShow))}};
   if (falls > 0) meeting.Say(falls >= kFalls ? Point::ImageFalling : Point::ImageSlips, words);
   if (player.Image <= kNearTheBottom && player.Size < kBackyard)
     meeting.Say(Point::ImageDanger, words);

@@ -19,6 +19,7 @@ namespace {
 constexpr int kFewWeeks = 12, kVeryFewWeeks = 4;
 constexpr int kTenPoints = 3;  // of kProductionRaises
 constexpr int kHappyPercent = 70;
+constexpr int kMostSkill = 100;
 
 struct OnAir {
   const Show& Is;
@@ -63,30 +64,56 @@ void TalkOfRatings(Meeting& meeting, const OnAir& air) {
   if (meeting.Player().Risk > SlotRisk(air.On, air.Is.Slot)) meeting.Say(Point::TvRisk, words);
 }
 
-void TalkOfBetterSlot(Meeting& meeting, const OnAir& air) {
+void TalkOfSlot(Meeting& meeting, const OnAir& air) {
   const MoveTalk talk = TalkOfMove(meeting.Of(), meeting.Player(), air.Is, air.On);
   if (talk.Slot.empty()) return;
+  const int audience = SlotAudience(air.On, talk.Slot);
+  if (audience == air.Audience) return;
   Meeting::Words words = {{"show", air.Is.Name.Str()},
                           {"network", air.On.Name.Str()},
                           {"slot", std::string(SlotName(talk.Slot))},
-                          {"audience", RatingText(SlotAudience(air.On, talk.Slot))}};
-  meeting.Say(Point::TvSlot, words);
+                          {"audience", RatingText(audience)},
+                          {"now", RatingText(air.Audience)}};
+  meeting.Say(audience > air.Audience ? Point::TvSlot : Point::TvSlotDown, words);
 }
 
 /// A chair at the table of a show.
 struct Chair {
   const char* Name;
-  std::optional<Commentator> Seated;
-  int Charge;  // 0 or below
+  std::optional<Commentator> Seated, Beside;  // in it, and in the other one
   std::vector<Commentator> ToChoose;
+  int (*ChargeOf)(const World& world, const Commentator& who);  // 0 or below
 };
 
-std::string RemedyFor(const Chair& chair, int wanted) {
+int AnnouncerCharge(const World& world, const Commentator& who) {
+  return WithAnnouncer(world, who.Uid, 0);
+}
+int ColourCharge(const World& world, const Commentator& who) {
+  return WithColour(world, who.Uid, who.IsWorker, 0);
+}
+
+bool IsBeside(const Chair& chair, const Commentator& who) {
+  return chair.Beside && chair.Beside->Uid == who.Uid && chair.Beside->IsWorker == who.IsWorker;
+}
+
+/// Who of those that are free for the chair would cost the show least, the most skilled of several;
+/// nullptr where nobody costs less than who sits there.
+const Commentator* BestFor(const World& world, const Chair& chair) {
   const Commentator* best = nullptr;
-  for (const Commentator& other : chair.ToChoose)
-    if (other.Speaks && other.Skill > chair.Seated->Skill && (!best || other.Skill > best->Skill))
-      best = &other;
-  if (best) return "Put " + best->Name + " there, who has " + std::to_string(best->Skill) + ".";
+  std::pair least(chair.ChargeOf(world, *chair.Seated), kMostSkill);
+  for (const Commentator& other : chair.ToChoose) {
+    const std::pair his(chair.ChargeOf(world, other), other.Skill);
+    if (!other.Speaks || IsBeside(chair, other) || his <= least) continue;
+    best = &other;
+    least = his;
+  }
+  return best;
+}
+
+std::string RemedyFor(const World& world, const Chair& chair, int wanted) {
+  if (const Commentator* best = BestFor(world, chair))
+    return "Put " + best->Name + " there, who " + (chair.Seated->Speaks ? "" : "can speak and ") +
+           "has " + std::to_string(best->Skill) + ".";
   return "Hire somebody with " + std::to_string(wanted) +
          " or more. Until then an empty chair would cost less.";
 }
@@ -96,22 +123,24 @@ void TalkOfChair(Meeting& meeting, const Show& show, const Chair& chair) {
   Meeting::Words words = {
       {"show", show.Name.Str()}, {"chair", chair.Name}, {"wanted", Number(wanted)}};
   if (!chair.Seated) return meeting.Say(Point::TvEmptyChair, words);
-  if (chair.Charge >= 0) return;
+  const int charge = chair.ChargeOf(meeting.Of(), *chair.Seated);
+  if (charge >= 0) return;
   words.insert(words.end(), {{"who", chair.Seated->Name},
                              {"have", Number(chair.Seated->Skill)},
-                             {"charge", Number(-chair.Charge)},
-                             {"remedy", RemedyFor(chair, wanted)}});
-  meeting.Say(Point::TvWeakTable, words);
+                             {"charge", Number(-charge)},
+                             {"remedy", RemedyFor(meeting.Of(), chair, wanted)}});
+  meeting.Say(chair.Seated->Speaks ? Point::TvWeakTable : Point::TvSpeechless, words);
 }
 
 void TalkOfTable(Meeting& meeting, const Show& show) {
   const World& world = meeting.Of();
+  const auto announcer = AnnouncerOf(world, show), colour = ColourManOf(world, show);
+  // An empty colour chair undoes what the announcer has cost.
+  if (!announcer || colour)
+    TalkOfChair(meeting, show,
+                {"announcer", announcer, colour, AnnouncersToChoose(world), AnnouncerCharge});
   TalkOfChair(meeting, show,
-              {"announcer", AnnouncerOf(world, show), WithAnnouncer(world, show.Announcer, 0),
-               AnnouncersToChoose(world)});
-  TalkOfChair(meeting, show,
-              {"colour commentator", ColourManOf(world, show),
-               WithColour(world, show.Colour, show.ColourIsWorker, 0), ColourMenToChoose(world)});
+              {"colour commentator", colour, announcer, ColourMenToChoose(world), ColourCharge});
 }
 
 void TalkOfProduction(Meeting& meeting) {
@@ -148,7 +177,7 @@ void TalkOfTelevision(Meeting& meeting) {
       const OnAir air{*show, *network, SlotAudience(*network, show->Slot)};
       TalkOfDeal(meeting, air);
       TalkOfRatings(meeting, air);
-      TalkOfBetterSlot(meeting, air);
+      TalkOfSlot(meeting, air);
     }
     TalkOfTable(meeting, *show);
   }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "business/monthlymoney.h"
+#include "business/wagebill.h"
 #include "calendar/meetingday.h"
 #include "info/calmworld.h"
 #include "show/attendance.h"
@@ -26,6 +27,20 @@ Show& Fire(World& world) {
 }
 Title& Crown(World& world) {
   return Named(world.Titles(), "CWA Crown");
+}
+HistoryEntry& Held(World& world, int kind, int rating) {
+  HistoryEntry entry;
+  entry.On = kMeeting;
+  entry.Kind = kind;
+  entry.Promotion = 1;
+  entry.Name = "Friday Fire";
+  entry.Rating = rating;
+  entry.Size = world.Player().Size;
+  return world.History().Append(entry);
+}
+int WagesDue(const World& world) {
+  const WageBill bill = WagesOf(world, world.PlayerUid());
+  return static_cast<int>(bill.Workers + bill.Staff);
 }
 void Books(World& world, int income, int wages) {
   world.Player().LastMonth.TicketIncome = income;
@@ -193,13 +208,35 @@ TEST(Meeting, TalksOfMoraleAndSaysWhyWhereTheRecordsDo) {
 TEST(Meeting, TalksOfContracts) {
   Check({
       {Point::ContractsEnd,
-       [](World& w) { One(w).ContractMonths = 1; },
-       {"CWA 1", "$11,000"},
-       [](World& w) { One(w).ContractMonths = 2; }},
+       [](World& w) { One(w, "CWA 4").ContractMonths = 1; },
+       {"CWA 4", "$11,000", "For 6 months and not a day more: CWA 4."},
+       [](World& w) { One(w, "CWA 4").ContractMonths = 2; }},
       {Point::ContractsSoon,
-       [](World& w) { One(w).ContractMonths = 3; },
-       {"CWA 1", "$11,000"},
-       [](World& w) { One(w).ContractMonths = 4; }},
+       [](World& w) { One(w, "CWA 4").ContractMonths = 3; },
+       {"CWA 4", "$11,000"},
+       [](World& w) { One(w, "CWA 4").ContractMonths = 4; }},
+      {Point::MovingOn,
+       [](World& w) {
+         One(w).ContractMonths = 3;
+         One(w).Over = 56;
+       },
+       {"CWA 1"},
+       [](World& w) {
+         One(w).ContractMonths = 3;
+         One(w).Over = 55;
+       }},
+      {Point::MovingOn,
+       [](World& w) {
+         w.Player().Size = kSmall;
+         One(w, "CWA 7").ContractMonths = 1;
+         One(w, "CWA 7").Over = 41;
+       },
+       {"CWA 7"},
+       [](World& w) {
+         w.Player().Size = kSmall;
+         One(w, "CWA 7").ContractMonths = 1;
+         One(w, "CWA 7").Over = 40;
+       }},
       {Point::WillNotSign,
        [](World& w) {
          One(w).ContractMonths = 3;
@@ -219,6 +256,41 @@ TEST(Meeting, TalksOfContracts) {
        {"CWA 1"},
        [](World& w) { One(w, "NEW 1").RetiringSoon = true; }},
   });
+}
+
+/// Nobody is promised what he would refuse, and nobody is sent where he is turned away.
+TEST(Meeting, PromisesNothingThatCannotBe) {
+  World world = CalmWorld();
+  const auto lineOf = [&](Point point) {
+    const auto all = HoldMeeting(world);
+    const Advice* advice = Find(all, point);
+    return advice ? advice->Says + " " + advice->Do : std::string();
+  };
+  One(world).ContractMonths = 1;
+  EXPECT_EQ(lineOf(Point::ContractsEnd), "") << "goes whatever the wage";
+  One(world, "CWA 7").ContractMonths = 1;
+  EXPECT_NE(lineOf(Point::ContractsEnd).find("CWA 7"), std::string::npos);
+  EXPECT_EQ(lineOf(Point::ContractsEnd).find("6 months"), std::string::npos) << "signs for longer";
+  world.Player().LoanAmount = 120000;
+  world.Player().LoanMonths = 12;
+  world.Game().Difficulty = kEasy;
+  EXPECT_NE(lineOf(Point::LoanRuns), "");
+  EXPECT_EQ(lineOf(Point::LoanRuns).find("fee"), std::string::npos) << "it costs none";
+  world.Player().Money = -2400000;
+  EXPECT_EQ(lineOf(Point::NearBankruptcy).find("loan"), std::string::npos) << "no bank answers";
+}
+
+TEST(Meeting, KnowsWhatWeighsOnSomebodyInTheTerritory) {
+  World world = CalmWorld();
+  world.Player().DevName = "The Swamp";
+  Worker& pupil = One(world, "CWA 7");
+  pupil.Position = 86;
+  pupil.Age = 30;
+  pupil.Over = 29;
+  pupil.Potential = 30;
+  EXPECT_EQ(WhyUnhappy(world, pupil), "") << "at 30 the mood goes either way";
+  pupil.Over = 30;
+  EXPECT_EQ(WhyUnhappy(world, pupil), "has nothing left to learn in the development territory");
 }
 
 TEST(Meeting, TalksOfHealthAndTheYoung) {
@@ -346,13 +418,13 @@ TEST(Meeting, TalksOfMoney) {
          w.Player().LoanAmount = 120000;
          w.Player().LoanMonths = 12;
          w.Player().LoanMissed = 2;
-         w.Player().Money = 9999;
+         w.Player().Money = WagesDue(w) + 10332;
        },
-       {"$9,999", "2"},
+       {"$10,333", "2", "Find $1 before"},
        [](World& w) {
          w.Player().LoanAmount = 120000;
          w.Player().LoanMonths = 12;
-         w.Player().Money = 60000;
+         w.Player().Money = WagesDue(w) + 10333;
        }},
       {Point::LoanMissed,
        [](World& w) {
@@ -371,13 +443,17 @@ TEST(Meeting, TalksOfMoney) {
          w.Player().LoanRepaid = 20000;
          w.Player().LoanMonths = 12;
        },
-       {"$100,000"},
+       {"$100,000", "Paying early costs a fee."},
        [](World&) {}},
   });
 }
 
 TEST(Meeting, TalksOfPricesAndSponsors) {
   Check({
+      {Point::TicketFree,
+       [](World& w) { w.Player().TicketPrice = 0; },
+       {"Set the price to $30", "$20"},
+       [](World& w) { w.Player().TicketPrice = 1; }},
       {Point::TicketNobody,
        [](World& w) { w.Player().TicketPrice = 51; },
        {"$51", "Set the price to $30"},
@@ -457,25 +533,81 @@ TEST(Meeting, TalksOfTheImage) {
        {"15", "Cult", "+4"},
        [](World& w) { w.Player().Image = 84; }},
       {Point::LastShow,
-       [](World& w) {
-         HistoryEntry show;
-         show.On = kMeeting;
-         show.Kind = kPastTv;
-         show.Promotion = 1;
-         show.Name = "Friday Fire";
-         show.Rating = 39;
-         w.History().Append(show);
-       },
+       [](World& w) { Held(w, kPastTv, 39); },
        {"Friday Fire", "39%", "-1", "50%"},
+       [](World& w) { Held(w, kPastTv, 50); }},
+      {Point::LastShow,
+       [](World& w) { Held(w, kPastTv, 39).On = kMeeting - std::chrono::days{28}; },
+       {"39%"},
+       [](World& w) { Held(w, kPastTv, 39).On = kMeeting - std::chrono::days{29}; }},
+      {Point::LastShow,
        [](World& w) {
-         HistoryEntry show;
-         show.On = kMeeting;
-         show.Kind = kPastTv;
-         show.Promotion = 1;
-         show.Rating = 50;
-         w.History().Append(show);
+         Held(w, kPastTv, 70);
+         Held(w, kPastTv, 39);
+       },
+       {"39%"},
+       [](World& w) {
+         Held(w, kPastTv, 39);
+         w.Player().Size = kCult;
+       }},
+      {Point::LastShow,
+       [](World& w) {
+         Held(w, kPastTv, 39);
+         Held(w, kPastMonth, 0);
+       },
+       {"39%"},
+       [](World& w) {
+         Held(w, kPastTv, 70).Size = kCult;
+         Held(w, kPastTv, 39);
        }},
   });
+}
+
+/// What the public thinks beforehand is part of the step, and of what it would have taken.
+TEST(Meeting, CountsTheGoodwillOfThePublic) {
+  const struct {
+    int Difficulty, Reputation, Size, Kind, Rating;
+    std::vector<std::string> Has;  // nothing: it is not said
+  } rows[] = {
+      {kEasy, 80, kRegional, kPastTv, 40, {}},
+      {kEasy, 80, kRegional, kPastTv, 30, {"our image by 0.", "From 40% on"}},
+      {kMedium, 25, kRegional, kPastTv, 50, {}},
+      {kMedium, 24, kRegional, kPastTv, 50, {"our image by 0.", "From 80% on"}},
+      {kRockHard, 80, kRegional, kPastTv, 60, {"our image by -1.", "From 90% on"}},
+      {kRockHard, 0, kGlobal, kPastTv, 90, {"our image by 0.", "No rating would"}},
+      {kRockHard, 0, kRegional, kPastEvent, 60, {"our image by -2.", "From 80% on"}},
+      {kHard, 0, kRegional, kPastEvent, 60, {"our image by -1.", "From 80% on"}},
+      {kHard, 1, kRegional, kPastEvent, 60, {"our image by 0.", "From 80% on"}},
+  };
+  for (const auto& row : rows) {
+    World world = CalmWorld();
+    world.Player().Size = row.Size;
+    world.Game().Difficulty = row.Difficulty;
+    world.Game().Reputation = row.Reputation;
+    Held(world, row.Kind, row.Rating);
+    // The week decides between two lines that have the same end.
+    std::string said;
+    for (const int week : {0, 1}) {
+      world.Game().Today = kMeeting + std::chrono::days{7 * week};
+      const auto all = HoldMeeting(world);
+      if (const Advice* advice = Find(all, Point::LastShow)) said += advice->Says + " ";
+    }
+    EXPECT_EQ(said.empty(), row.Has.empty()) << said;
+    for (const std::string& word : row.Has)
+      EXPECT_NE(said.find(word), std::string::npos) << word << " is not in: " << said;
+  }
+}
+
+TEST(Meeting, KnowsWhenNothingOnTelevisionLiftsTheImage) {
+  World world = CalmWorld();
+  world.Player().Size = kGlobal;
+  world.Player().Image = 15;
+  const auto lifts = [&] { return Find(HoldMeeting(world), Point::ImageDanger)->Do; };
+  EXPECT_NE(lifts().find("60% on television lifts our image."), std::string::npos) << lifts();
+  world.Game().Difficulty = kRockHard;
+  EXPECT_NE(lifts().find("90% on television lifts our image."), std::string::npos) << lifts();
+  world.Game().Reputation = 24;
+  EXPECT_NE(lifts().find("Nothing on television"), std::string::npos) << lifts();
 }
 
 TEST(Meeting, TalksOfFeuds) {
@@ -501,6 +633,13 @@ TEST(Meeting, TalksOfFeuds) {
        [](World& w) {
          w.Feuds()[1].Clean1 = 7;
          w.Feuds()[1].Dirty2 = 6;
+       }},
+      {Point::FeudRipe,
+       [](World& w) { w.Feuds()[1].Dirty2 = 6; },
+       {"6 wins", "climatic clean victory"},
+       [](World& w) {
+         w.Feuds()[1].Dirty2 = 5;
+         w.Feuds()[1].Started = kMeeting - std::chrono::days{200};
        }},
       {Point::FeudHot,
        [](World& w) { w.Feuds()[1].Heat = 80; },
@@ -532,7 +671,7 @@ TEST(Meeting, TalksOfTitles) {
        [](World& w) { One(w).ContractMonths = 3; }},
       {Point::TitleOutshines,
        [](World& w) { Crown(w).Image = 68; },
-       {"CWA Crown", "68", "60", "Over of 61"},
+       {"CWA Crown", "68", "60", "may drag it down", "Over of 61"},
        [](World& w) { Crown(w).Image = 67; }},
       {Point::TitleLong,
        [](World& w) { Crown(w).Reigns[0].Won = kMeeting - std::chrono::days{181}; },
@@ -574,6 +713,49 @@ TEST(Meeting, TalksOfTelevision) {
        [](World& w) { Named(w.AllStaff(), "Abel Mike").Talent = 34; },
        {"Abel Mike", "34", "40", "20", "Hire somebody with 40"},
        [](World& w) { Named(w.AllStaff(), "Abel Mike").Talent = 35; }},
+      {Point::TvWeakTable,
+       [](World& w) {
+         Named(w.AllStaff(), "Abel Mike").Talent = 34;
+         Named(w.AllStaff(), "Bea Count").Position = kAnnouncer;  // has the other chair
+       },
+       {"Hire somebody with 40"},
+       [](World& w) {
+         Named(w.AllStaff(), "Abel Mike").Talent = 34;
+         Fire(w).Colour = 0;
+       }},
+      {Point::TvWeakTable,
+       [](World& w) {
+         Named(w.AllStaff(), "Abel Mike").Talent = 34;
+         Named(w.AllStaff(), "Cy Lamp").Position = kAnnouncer;
+       },
+       {"Put Cy Lamp there, who has 60."},
+       [](World& w) {
+         Fire(w).ColourIsWorker = true;
+         Fire(w).Colour = One(w, "CWA 5").Uid;
+         One(w, "CWA 5").Speaks = false;
+       }},
+      {Point::TvSpeechless,
+       [](World& w) {
+         Fire(w).ColourIsWorker = true;
+         Fire(w).Colour = One(w, "CWA 5").Uid;
+         One(w, "CWA 5").Charisma = 90;
+         One(w, "CWA 5").Speaks = false;
+         One(w, "CWA 6").Announcer = true;
+         One(w, "CWA 6").Charisma = 45;
+       },
+       {"CWA 5", "100", "Put CWA 6 there, who can speak and has 45."},
+       [](World& w) {
+         Fire(w).ColourIsWorker = true;
+         Fire(w).Colour = One(w, "CWA 5").Uid;
+       }},
+      {Point::TvSlot,
+       [](World& w) { Fire(w).Slot = "L"; },
+       {"Friday Fire", "Nine", "5.00"},
+       [](World& w) { Fire(w).Rating3 = 350; }},
+      {Point::TvSlotDown,
+       [](World& w) { Fire(w).Rating3 = 350; },
+       {"Friday Fire", "Nine", "3.00 there instead of 5.00"},
+       [](World& w) { Fire(w).Slot = "L"; }},
       {Point::TvOffer, [](World& w) { w.Game().TvOfferWait = 1; }, {"Nine"}, [](World&) {}},
       {Point::TvNone,
        [](World& w) {
