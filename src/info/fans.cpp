@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <set>
 
+#include "business/past.h"
 #include "calendar/events.h"
 #include "info/fanlines.h"
 #include "info/fill.h"
+#include "info/results.h"
 #include "info/worldnews.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
-#include "records/segments.h"
 #include "rivals/promotionfacts.h"
 #include "show/attendance.h"
-#include "show/holdshow.h"
 
 namespace grapplemont {
 
@@ -40,24 +40,31 @@ FanMood MoodOf(const ShowSeen& show) {
   return FanMood::Awful;
 }
 
-/// The rows that match.dat holds have been told, and no other show is under way.
-bool HoldsTheLastShow(const World& world) {
-  const auto& segments = world.Segments();
-  return !ShowUnderWay(world) &&
-         std::any_of(segments.begin(), segments.end(),
-                     [](const Segment& s) { return s.Kind != kEmptySegment && s.Rating > 0; });
-}
-
-std::vector<ShowSeen::Row> RowsTold(const World& world) {
+std::vector<ShowSeen::Row> RowsOf(const std::vector<const HeldMatch*>& matches) {
   std::vector<ShowSeen::Row> rows;
-  if (!HoldsTheLastShow(world)) return rows;
-  for (const Segment& segment : world.Segments())
-    if (segment.Kind != kEmptySegment && segment.Rating > 0)
-      rows.push_back({DescribeSegment(world, segment), segment.Rating});
+  for (const HeldMatch* match : matches)
+    rows.push_back({match->Won + " against " + match->Lost.Str(), match->Rating});
   return rows;
 }
 
+/// The name of the most popular of several; empty for nobody.
+std::string StarOf(const std::vector<const Worker*>& people) {
+  const auto star = std::max_element(people.begin(), people.end(),
+                                     [](auto* a, auto* b) { return a->Over < b->Over; });
+  return star == people.end() ? "" : (*star)->Name.Str();
+}
+
+std::vector<const Worker*> PeopleOf(const World& world,
+                                    const std::vector<const HeldMatch*>& matches) {
+  std::vector<const Worker*> people;
+  for (const HeldMatch* match : matches)
+    for (const Word& uid : match->Worker)
+      if (const Worker* worker = world.FindWorker(uid)) people.push_back(worker);
+  return people;
+}
+
 ShowSeen SeenOf(const World& world, const HistoryEntry& entry) {
+  const auto matches = MatchesOf(world, entry);
   ShowSeen seen;
   seen.On = entry.On;
   seen.Promotion = entry.Promotion;
@@ -66,44 +73,66 @@ ShowSeen SeenOf(const World& world, const HistoryEntry& entry) {
   seen.IsPlayers = true;
   seen.CalledOff = entry.CalledOff;
   seen.IsEvent = entry.Kind == kPastEvent;
+  seen.SameClass = entry.Size == world.Player().Size;
   seen.Rating = entry.Rating;
   seen.Viewers = entry.Viewers;
   seen.People = entry.Attendance;
+  seen.Rows = RowsOf(matches);
+  seen.Star = StarOf(PeopleOf(world, matches));
   return seen;
 }
 
-ShowSeen SeenOf(const Deed& deed) {
+/// What the promotion has done since a deed of its own.
+std::vector<const Deed*> DeedsSince(const World& world, const Deed& show) {
+  std::vector<const Deed*> deeds;
+  for (int number = world.Deeds().NumberOf(show) + 1; number <= world.Deeds().Count(); ++number)
+    if (world.Deeds()[number].Promotion == show.Promotion) deeds.push_back(&world.Deeds()[number]);
+  return deeds;
+}
+
+bool ChangesClass(const Deed* deed) {
+  return deed->Kind == kDeedRisen || deed->Kind == kDeedFallen;
+}
+
+/// Those who are fit and on the card there, and were not taken on since.
+std::vector<const Worker*> PeopleSince(const World& world, int promotionUid,
+                                       const std::vector<const Deed*>& since) {
+  std::vector<const Worker*> people;
+  for (const Worker* worker : RosterOf(world, promotionUid)) {
+    const bool isNew = std::any_of(since.begin(), since.end(), [&](const Deed* deed) {
+      return (deed->Kind == kDeedSigned || deed->Kind == kDeedStolen) && deed->Who == worker->Name;
+    });
+    if (!isNew && IsOnRoster(*worker) && worker->Status == "Nor") people.push_back(worker);
+  }
+  return people;
+}
+
+ShowSeen SeenOf(const World& world, const Deed& deed) {
+  const auto since = DeedsSince(world, deed);
   ShowSeen seen;
   seen.On = deed.On;
   seen.Promotion = deed.Promotion;
   seen.House = deed.House.Str();
   seen.Show = deed.Who.Str();
   seen.IsEvent = deed.Kind == kDeedEventHeld;
+  seen.SameClass = std::none_of(since.begin(), since.end(), ChangesClass);
   seen.Rating = deed.Number;
   seen.Viewers = deed.Viewers;
   seen.People = deed.People;
+  seen.Star = StarOf(PeopleSince(world, deed.Promotion, since));
   return seen;
-}
-
-/// The player's last of the kind that is not too long ago.
-const HistoryEntry* LastOf(const World& world, int kind) {
-  for (int number = world.History().Count(); number >= 1; --number) {
-    const HistoryEntry& entry = world.History()[number];
-    if (Day(entry.On) < NewsBegin(world)) return nullptr;
-    if (entry.Promotion == world.PlayerUid() && entry.Kind == kind) return &entry;
-  }
-  return nullptr;
 }
 
 void AddPlayers(const World& world, std::vector<ShowSeen>& shows) {
   for (const int kind : {int(kPastTv), int(kPastEvent)})
-    if (const HistoryEntry* entry = LastOf(world, kind)) shows.push_back(SeenOf(world, *entry));
+    if (const HistoryEntry* entry = LastShowOf(world, world.PlayerUid(), NewsBegin(world), kind))
+      shows.push_back(SeenOf(world, *entry));
   std::stable_sort(shows.begin(), shows.end(),
                    [](const ShowSeen& a, const ShowSeen& b) { return a.On > b.On; });
-  if (!shows.empty() && !shows.front().CalledOff) shows.front().Rows = RowsTold(world);
 }
 
-const Deed* LastShowOf(const World& world, int promotionUid) {
+/// What a rival has last done on the air or at an Event, of late.
+const Deed* LastHeldBy(const World& world, int promotionUid) {
   for (int number = world.Deeds().Count(); number >= 1; --number) {
     const Deed& deed = world.Deeds()[number];
     if (Day(deed.On) < NewsBegin(world)) return nullptr;
@@ -159,15 +188,6 @@ void PostAboutRows(Thread& thread, const ShowSeen& show) {
   if (worst->Rating < best->Rating) thread.Post(FanMood::Bored, "what", worst->What);
 }
 
-/// The most popular of those who are fit to be on a show there.
-const Worker* StarOf(const World& world, int promotionUid) {
-  const Worker* star = nullptr;
-  for (const Worker* worker : RosterOf(world, promotionUid))
-    if (IsOnRoster(*worker) && worker->Status == "Nor" && (!star || worker->Over > star->Over))
-      star = worker;
-  return star;
-}
-
 /// What a show of this kind draws there on the average.
 int UsualCrowd(const World& world, const Promotion& promotion, const ShowSeen& show) {
   const Event* event = show.IsEvent ? EventOf(world, promotion.Uid, MonthOf(show.On)) : nullptr;
@@ -179,7 +199,7 @@ int UsualCrowd(const World& world, const Promotion& promotion, const ShowSeen& s
 
 void PostAboutTheCrowd(Thread& thread, const World& world, const ShowSeen& show) {
   const Promotion* promotion = world.FindPromotion(show.Promotion);
-  const int usual = promotion ? UsualCrowd(world, *promotion, show) : 0;
+  const int usual = promotion && show.SameClass ? UsualCrowd(world, *promotion, show) : 0;
   if (usual == 0) return;
   const long long percent = static_cast<long long>(show.People) * 100 / usual;
   if (percent >= kFullPercent) thread.Post(FanMood::Full);
@@ -191,8 +211,7 @@ std::vector<FanPost> PostsAbout(const World& world, const ShowSeen& show, Used& 
   for (int voice = 0; voice < kVoices; ++voice) thread.Post(MoodOf(show));
   if (show.CalledOff) return thread.Posts();
   PostAboutRows(thread, show);
-  if (const Worker* star = show.Rows.empty() ? StarOf(world, show.Promotion) : nullptr)
-    thread.Post(FanMood::Star, "who", star->Name.Str());
+  if (!show.Star.empty()) thread.Post(FanMood::Star, "who", show.Star);
   PostAboutTheCrowd(thread, world, show);
   return thread.Posts();
 }
@@ -205,9 +224,9 @@ std::vector<ShowSeen> ShowsSeen(const World& world) {
   std::size_t rivals = 0;
   for (const Promotion* promotion : PromotionsByStanding(world)) {
     if (promotion->Uid == world.PlayerUid() || rivals == kRivals) continue;
-    const Deed* deed = LastShowOf(world, promotion->Uid);
+    const Deed* deed = LastHeldBy(world, promotion->Uid);
     if (!deed) continue;
-    shows.push_back(SeenOf(*deed));
+    shows.push_back(SeenOf(world, *deed));
     ++rivals;
   }
   return shows;

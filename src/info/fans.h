@@ -15,15 +15,17 @@ struct ShowSeen {
   int Promotion = 0;  // uid
   std::string House, Show;
   bool IsPlayers = false, CalledOff = false, IsEvent = false;
-  int Rating = 0;   // the player's rating; a rival's draw
-  int Viewers = 0;  // hundredths
+  bool SameClass = true;  // its promotion has not risen or fallen since
+  int Rating = 0;         // the player's rating; a rival's draw
+  int Viewers = 0;        // hundredths
   int People = 0;
-  /// What is known of it row by row: of the player's last show until the next is booked.
+  /// The matches that are kept of a show of the player's.
   struct Row {
     std::string What;
     int Rating = 0;
   };
   std::vector<Row> Rows;
+  std::string Star;  // the most popular of those who were there; empty where nobody is known
 };
 /// The player's last show and Event, then the last shows of the three biggest rivals that have held
 /// one of late; each within the last two months.

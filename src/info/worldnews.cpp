@@ -5,6 +5,7 @@
 #include <span>
 
 #include "business/months.h"
+#include "business/past.h"
 #include "info/fill.h"
 #include "info/newslines.h"
 #include "records/dates.h"
@@ -17,10 +18,6 @@ namespace {
 
 /// Titles' news beside the kinds of deeds.
 constexpr int kTitleNews = 100;
-
-std::string Counted(int count, const char* what) {
-  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
 
 /// Chooses lines by the day and, on a day of many alike, each another one.
 class Desk {
@@ -120,12 +117,14 @@ std::vector<NewsItem> WorldNews(const World& world) {
   for (const Deed& deed : world.Deeds())
     if (Day(deed.On) >= from) news.push_back(ItemOf(desk, deed));
   for (const HistoryEntry& entry : world.History())
-    if (Day(entry.On) >= from && (entry.Kind == kPastTv || entry.Kind == kPastEvent))
+    if (Day(entry.On) >= from && IsShow(entry) && world.FindPromotion(entry.Promotion))
       news.push_back(ItemOf(desk, DeedOf(world, entry)));
-  for (const Title& title : world.Titles())
+  for (const Title& title : world.Titles()) {
+    if (title.Owner <= 0) continue;  // its promotion has closed
     for (std::size_t reign = 0; reign < title.Reigns.size(); ++reign)
       if (Day(title.Reigns[reign].Won) >= from && IsNews(title, reign))
         news.push_back(ItemOf(desk, world, title, reign));
+  }
   std::stable_sort(news.begin(), news.end(),
                    [](const NewsItem& a, const NewsItem& b) { return a.On > b.On; });
   return news;

@@ -8,7 +8,6 @@
 #include "info/rankings.h"
 #include "info/rumours.h"
 #include "info/worldnews.h"
-#include "records/segments.h"
 #include "records/sweeps.h"
 #include "rivals/rivalsteps.h"
 #include "rivals/workermarket.h"
@@ -69,6 +68,21 @@ TEST(WorldNews, TellsOfTitlesByTheirOwnRecords) {
   bool isVacant = false;
   for (const std::string& words : NewsOf(world, "Title")) isVacant |= Has(words, "vacant");
   EXPECT_TRUE(isVacant);
+}
+
+TEST(WorldNews, LeavesOutWhatBelongedToAPromotionThatIsGone) {
+  World world = CalmWorld();
+  Title& crown = Named(world.Titles(), "CWA Crown");
+  BeginReign(crown, kMeeting, "CWA 9");
+  EXPECT_FALSE(NewsOf(world, "Title").empty());
+  crown.Owner = 0;
+  EXPECT_TRUE(NewsOf(world, "Title").empty());
+  HistoryEntry show;
+  show.On = kMeeting;
+  show.Kind = kPastTv;
+  show.Promotion = 99;
+  world.History().Append(show);
+  EXPECT_TRUE(NewsOf(world, "Show").empty());
 }
 
 TEST(WorldNews, BeginsWithTheMonthBeforeAndGoesBackwards) {
@@ -377,6 +391,7 @@ HistoryEntry Held(int kind, Day on, const char* name, int rating) {
   entry.Name = name;
   entry.Rating = rating;
   entry.Attendance = 1;
+  entry.Size = kRegional;
   return entry;
 }
 
@@ -410,35 +425,68 @@ TEST(Fans, JudgeTheShowByItsRating) {
   }
 }
 
-TEST(Fans, NameWhatStoleTheShowWhileItIsKnown) {
+std::string WordsOf(const World& world, FanMood mood) {
+  const auto page = FanPage(world);
+  for (const FanPost& post : page.at(0).Posts)
+    if (IsOfMood(post, mood)) return post.Words;
+  return {};
+}
+
+void Fought(World& world, const char* winner, const char* loser, int rating) {
+  HeldMatch match;
+  match.On = kMeeting;
+  match.Promotion = 1;
+  match.Rating = rating;
+  match.Won = winner;
+  match.Lost = loser;
+  match.Worker[0] = One(world, winner).Uid;
+  match.Worker[1] = One(world, loser).Uid;
+  world.Bouts().Append(match);
+}
+
+TEST(Fans, NameWhatStoleTheShowAndWhoWasThere) {
   World world = CalmWorld();
   world.History().Append(Held(kPastTv, kMeeting, "Friday Fire", 60));
-  const auto match = [&](const char* winner, const char* loser, int rating) {
-    Segment segment{};
-    segment.Kind = kMatch;
-    segment.Style = kSingles;
-    segment.MatchType = 1;
-    segment.Winner = 1;
-    segment.Loser = One(world, loser).Uid;
-    segment.Finish = 1;
-    segment.TitleName = segment.Text = "None";
-    segment.Worker[0] = One(world, winner).Uid;
-    segment.Worker[1] = One(world, loser).Uid;
-    segment.Rating = rating;
-    return segment;
-  };
-  const auto wordsOf = [&](FanMood mood) {
-    const auto page = FanPage(world);
-    for (const FanPost& post : page.at(0).Posts)
-      if (IsOfMood(post, mood)) return post.Words;
-    return std::string();
-  };
-  EXPECT_EQ(wordsOf(FanMood::Stolen), "");
-  world.Segments().Rewrite({match("CWA 7", "CWA 8", 41), match("CWA 1", "CWA 2", 72)});
-  EXPECT_TRUE(Has(wordsOf(FanMood::Stolen), "CWA 1")) << wordsOf(FanMood::Stolen);
-  EXPECT_TRUE(Has(wordsOf(FanMood::Bored), "CWA 7")) << wordsOf(FanMood::Bored);
-  for (Segment& segment : world.Segments()) segment.Rating = 0;
-  EXPECT_EQ(wordsOf(FanMood::Stolen), "") << "the next show is being booked";
+  EXPECT_EQ(WordsOf(world, FanMood::Stolen), "");
+  EXPECT_EQ(ShowsSeen(world).at(0).Star, "") << "nobody knows who was there";
+  Fought(world, "CWA 7", "CWA 8", 41);
+  Fought(world, "CWA 4", "CWA 5", 72);
+  One(world, "CWA 5").Over = 51;
+  // The sheet of the next show is another matter.
+  world.Segments().Rewrite({Segment{}});
+  EXPECT_TRUE(Has(WordsOf(world, FanMood::Stolen), "CWA 4 against CWA 5"));
+  EXPECT_TRUE(Has(WordsOf(world, FanMood::Bored), "CWA 7 against CWA 8"));
+  EXPECT_EQ(ShowsSeen(world).at(0).Star, "CWA 5");
+  EXPECT_TRUE(Has(FanPage(world).at(0).Posts.at(4).Words, "CWA 5"));
+}
+
+TEST(Fans, DoNotMeasureAGateByAClassOfLater) {
+  World world = CalmWorld();
+  world.History().Append(Held(kPastTv, kMeeting, "Friday Fire", 60));
+  EXPECT_NE(WordsOf(world, FanMood::Empty), "");
+  world.Player().Size = kCult;
+  EXPECT_EQ(WordsOf(world, FanMood::Empty), "");
+  World other = CalmWorld();
+  NoteDeed(other, kDeedRisen, &Rival(other), "NEW", {}, kSmall);
+  NoteShow(other, kDeedTvHeld, Rival(other), "NEW Hour", 60, 205, 1);
+  EXPECT_NE(WordsOf(other, FanMood::Empty), "") << "its class is that of the show";
+  NoteDeed(other, kDeedFallen, &other.Player(), "CWA", {}, kSmall);
+  EXPECT_NE(WordsOf(other, FanMood::Empty), "") << "another promotion's fall";
+  NoteDeed(other, kDeedFallen, &Rival(other), "NEW", {}, kBackyard);
+  EXPECT_EQ(WordsOf(other, FanMood::Empty), "");
+}
+
+TEST(Fans, DoNotMissWhoCameAfterTheShow) {
+  World world = CalmWorld();
+  NoteShow(world, kDeedTvHeld, Rival(world), "NEW Hour", 60, 205, 500);
+  const auto star = [&] { return ShowsSeen(world).at(0).Star; };
+  EXPECT_EQ(star(), "NEW 1");
+  SignFor(world, Rival(world), One(world, "CWA 1"));
+  One(world, "CWA 1").Over = 99;
+  One(world, "CWA 1").Position = kMainEvent;
+  EXPECT_EQ(star(), "NEW 1") << "CWA 1 came later";
+  NoteShow(world, kDeedTvHeld, Rival(world), "NEW Hour", 60, 205, 500);
+  EXPECT_EQ(star(), "CWA 1");
 }
 
 TEST(Fans, WriteAboutRivalsAndWhatWasCalledOff) {
