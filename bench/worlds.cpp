@@ -3,6 +3,7 @@
 #include "records/disk.h"
 #include "roster/invented.h"
 #include "session/newgame.h"
+#include "support/checkout.h"
 
 namespace grapplemont::bench {
 
@@ -12,7 +13,7 @@ constexpr int kManyPromotions = 35, kManyWorkers = 25000, kManyStaff = 10000;
 
 std::map<std::string, Bytes> DefaultData() {
   const auto disk = RealDisk();
-  return ReadWorldFiles(*disk, std::string(CHECKOUT) + "/data");
+  return ReadWorldFiles(*disk, test::Checkout("/data"));
 }
 
 World DefaultWorld() {

@@ -1,10 +1,44 @@
-# Each folder of src/ is one library. A room's headers are reached through a link of its own, so that a
-# room which does not name another cannot include it: the build keeps the arrows of the house.
+# Each room of src/ is two libraries: its rules (src/ROOM/) and, where it has some, its screens
+# (src/ROOM/screens/), named ROOM_screens. A room's headers are reached through a link of its own, so
+# that what does not name a room cannot include it: the build keeps the arrows of the house.
 
 add_library(house_rules INTERFACE)
 target_compile_options(house_rules INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
 # GCC 12 sees faults inside std::string that are not there once it optimises.
 target_compile_options(house_rules INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
+
+# What nearly every file reads is read by the compiler once: one header for rules, one that adds the
+# screen model, one that adds GoogleTest. `precompile(TARGET HEADER)` makes such a target, and
+# `precompiled(TARGET FROM)` lets another use it.
+option(GRAPPLEMONT_PCH "Precompile the headers that nearly every file reads" ON)
+function(precompile name header)
+  file(WRITE ${CMAKE_BINARY_DIR}/pch/${name}.cpp.new "// Holds ${header}.\n")
+  file(COPY_FILE ${CMAKE_BINARY_DIR}/pch/${name}.cpp.new ${CMAKE_BINARY_DIR}/pch/${name}.cpp
+       ONLY_IF_DIFFERENT)
+  add_library(${name} OBJECT ${CMAKE_BINARY_DIR}/pch/${name}.cpp)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake)
+  target_link_libraries(${name} PRIVATE house_rules ${ARGN})
+  # In angle brackets the name stands as it is: a checkout elsewhere compiles the same text, and a
+  # shared compiler cache serves both.
+  if(GRAPPLEMONT_PCH)
+    target_precompile_headers(${name} PRIVATE "<${header}>")
+    target_compile_options(${name} PRIVATE -fpch-preprocess)
+  endif()
+endfunction()
+function(precompiled name from)
+  if(GRAPPLEMONT_PCH)
+    target_precompile_headers(${name} REUSE_FROM ${from})
+    target_compile_options(${name} PRIVATE -fpch-preprocess)
+  endif()
+endfunction()
+
+function(library_of_folder name folder pch)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  add_library(${name} STATIC ${sources})
+  target_link_libraries(${name} PRIVATE house_rules PUBLIC ${ARGN})
+  precompiled(${name} ${pch})
+endfunction()
 
 function(room_headers name)
   set(gate ${CMAKE_BINARY_DIR}/rooms/${name})
@@ -14,30 +48,31 @@ function(room_headers name)
   target_include_directories(${name}_headers INTERFACE ${gate})
 endfunction()
 
-# room(NAME [USES ROOM...] [LINKS LIBRARY...])
-function(room name)
-  cmake_parse_arguments(ROOM "" "" "USES;LINKS" ${ARGN})
+# room(NAME PCH [LINK...]): one library for src/NAME. A LINK is a room or a library.
+function(room name pch)
   room_headers(${name})
-  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${name}/*.cpp)
-  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-  add_library(${name} STATIC ${sources} ${CMAKE_BINARY_DIR}/rooms/${name}.cpp)
-  if(NOT EXISTS ${CMAKE_BINARY_DIR}/rooms/${name}.cpp)
-    file(WRITE ${CMAKE_BINARY_DIR}/rooms/${name}.cpp "// A room may stand empty.\n")
-  endif()
-  target_link_libraries(${name} PRIVATE house_rules PUBLIC ${name}_headers ${ROOM_USES} ${ROOM_LINKS})
+  library_of_folder(${name} ${name} ${pch} ${name}_headers ${ARGN})
 endfunction()
 
-function(qt_room name)
-  room(${name} ${ARGN})
-  set_target_properties(${name} PROPERTIES AUTOMOC ON)
-  target_link_libraries(${name} PUBLIC Qt6::Widgets)
+# house(ROOM...): the rooms of the game in their order. Each may use those before it, and its screens
+# also their screens and the screen model.
+function(house)
+  set(above records)
+  set(screens_above ui)
+  foreach(name ${ARGN})
+    room(${name} pch_rules ${above})
+    list(APPEND above ${name})
+    if(IS_DIRECTORY ${PROJECT_SOURCE_DIR}/src/${name}/screens)
+      library_of_folder(${name}_screens ${name}/screens pch_screens ${above} ${screens_above})
+      list(APPEND screens_above ${name}_screens)
+    endif()
+  endforeach()
+  set(all_rules ${above} PARENT_SCOPE)
+  set(all_screens ${screens_above} PARENT_SCOPE)
 endfunction()
 
 # program(NAME SOURCE ROOM...)
 function(program name source)
-  if(NOT EXISTS ${PROJECT_SOURCE_DIR}/${source})
-    return()
-  endif()
   add_executable(${name} ${PROJECT_SOURCE_DIR}/${source})
   target_link_libraries(${name} PRIVATE house_rules ${ARGN})
 endfunction()

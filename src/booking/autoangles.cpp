@@ -13,7 +13,7 @@ enum class First { Actors, Victims };
 
 /// An angle that the auto booker likes for a scene, and how much.
 struct AngleTaste {
-  Scene For;
+  AngleScene For;
   int Number;
   First Cast;
   int Weight;
@@ -21,43 +21,43 @@ struct AngleTaste {
   std::string_view Of = {};  // the first actor's disposition; empty for any
 };
 constexpr AngleTaste kAngleTastes[] = {
-    {Scene::Words, 1, First::Actors, 5, kMiddle},   // Challenge
-    {Scene::Words, 2, First::Actors, 6, kMiddle},   // Face To Face
-    {Scene::Words, 21, First::Actors, 4, kLate},    // Why Wait?
-    {Scene::Words, 29, First::Actors, 5, kMiddle},  // Staredown
-    {Scene::Words, 33, First::Actors, 2, kLate},    // Contract Signing
-    {Scene::Words, 45, First::Actors, 1, kMiddle},  // A Little Impression
-    {Scene::Words, 28, First::Actors, 1, kMiddle},  // Property Damage
-    {Scene::Attack, kAmbush, First::Victims, 5, kLate},
-    {Scene::Attack, 27, First::Victims, 5, kLate},      // Paramedics
-    {Scene::Attack, 13, First::Victims, 3, kLate},      // Ladder To Success
-    {Scene::Attack, 14, First::Victims, 2, kLate},      // Blood Gets Spilt
-    {Scene::Attack, 39, First::Victims, 1, kLate},      // Fireball
-    {Scene::Attack, 21, First::Actors, 3, kLate},       // Why Wait?
-    {Scene::Attack, 67, First::Actors, 20, kMiddle},    // Secret Santa
-    {Scene::Attack, 68, First::Actors, 20, kMiddle},    // Slappy New Year
-    {Scene::Attack, 69, First::Actors, 20, kMiddle},    // Trick Or Treat
-    {Scene::TeamWords, 11, First::Actors, 4, kMiddle},  // Tag Confrontation
-    {Scene::TeamWords, 48, First::Actors, 4, kMiddle},  // Tag Challenge
-    {Scene::TeamAttack, 46, First::Actors, 5, kLate},   // Double Trouble
-    {Scene::Solo, kWorkerVideo, First::Actors, 6, kMiddle},
-    {Scene::Solo, 32, First::Actors, 3, kOpens},  // Arrival
-    {Scene::Solo, kWalking, First::Actors, 2, kEarly},
-    {Scene::Solo, 44, First::Actors, 3, kEarly},          // Be Prepared
-    {Scene::Solo, 20, First::Actors, 2, kMiddle},         // Star Power
-    {Scene::Allies, 22, First::Actors, 3, kEarly, "F"},   // I've Got Your Back
-    {Scene::Allies, 30, First::Actors, 3, kMiddle, "H"},  // Conspiracy
-    {Scene::Debut, 25, First::Victims, 5, kLate},         // Debut Attack
-    {Scene::Debut, 24, First::Victims, 4, kLate},         // Debut Call Out
+    {AngleScene::Words, 1, First::Actors, 5, kMiddle},   // Challenge
+    {AngleScene::Words, 2, First::Actors, 6, kMiddle},   // Face To Face
+    {AngleScene::Words, 21, First::Actors, 4, kLate},    // Why Wait?
+    {AngleScene::Words, 29, First::Actors, 5, kMiddle},  // Staredown
+    {AngleScene::Words, 33, First::Actors, 2, kLate},    // Contract Signing
+    {AngleScene::Words, 45, First::Actors, 1, kMiddle},  // A Little Impression
+    {AngleScene::Words, 28, First::Actors, 1, kMiddle},  // Property Damage
+    {AngleScene::Attack, kAmbush, First::Victims, 5, kLate},
+    {AngleScene::Attack, 27, First::Victims, 5, kLate},      // Paramedics
+    {AngleScene::Attack, 13, First::Victims, 3, kLate},      // Ladder To Success
+    {AngleScene::Attack, 14, First::Victims, 2, kLate},      // Blood Gets Spilt
+    {AngleScene::Attack, 39, First::Victims, 1, kLate},      // Fireball
+    {AngleScene::Attack, 21, First::Actors, 3, kLate},       // Why Wait?
+    {AngleScene::Attack, 67, First::Actors, 20, kMiddle},    // Secret Santa
+    {AngleScene::Attack, 68, First::Actors, 20, kMiddle},    // Slappy New Year
+    {AngleScene::Attack, 69, First::Actors, 20, kMiddle},    // Trick Or Treat
+    {AngleScene::TeamWords, 11, First::Actors, 4, kMiddle},  // Tag Confrontation
+    {AngleScene::TeamWords, 48, First::Actors, 4, kMiddle},  // Tag Challenge
+    {AngleScene::TeamAttack, 46, First::Actors, 5, kLate},   // Double Trouble
+    {AngleScene::Solo, kWorkerVideo, First::Actors, 6, kMiddle},
+    {AngleScene::Solo, 32, First::Actors, 3, kOpens},  // Arrival
+    {AngleScene::Solo, kWalking, First::Actors, 2, kEarly},
+    {AngleScene::Solo, 44, First::Actors, 3, kEarly},          // Be Prepared
+    {AngleScene::Solo, 20, First::Actors, 2, kMiddle},         // Star Power
+    {AngleScene::Allies, 22, First::Actors, 3, kEarly, "F"},   // I've Got Your Back
+    {AngleScene::Allies, 30, First::Actors, 3, kMiddle, "H"},  // Conspiracy
+    {AngleScene::Debut, 25, First::Victims, 5, kLate},         // Debut Attack
+    {AngleScene::Debut, 24, First::Victims, 4, kLate},         // Debut Call Out
 };
 
-bool Suits(const AutoPlan& plan, const AngleTaste& taste, Scene scene, const Worker& actor) {
+bool Suits(const AutoPlan& plan, const AngleTaste& taste, AngleScene scene, const Worker& actor) {
   const Angle* angle = FindAngle(taste.Number);
   return taste.For == scene && (taste.Of.empty() || actor.Disposition == taste.Of) && angle &&
          IsOffered(plan.World, *angle) && !plan.AnglesUsed.contains(taste.Number);
 }
 
-std::vector<const AngleTaste*> TastesFor(const AutoPlan& plan, Scene scene, int actor) {
+std::vector<const AngleTaste*> TastesFor(const AutoPlan& plan, AngleScene scene, int actor) {
   const Worker* first = plan.World.FindWorker(actor);
   std::vector<const AngleTaste*> tastes;
   for (const AngleTaste& taste : kAngleTastes)
@@ -65,8 +65,8 @@ std::vector<const AngleTaste*> TastesFor(const AutoPlan& plan, Scene scene, int 
   return tastes;
 }
 
-bool LaysOut(Scene scene) {
-  return scene == Scene::Attack || scene == Scene::TeamAttack;
+bool LaysOut(AngleScene scene) {
+  return scene == AngleScene::Attack || scene == AngleScene::TeamAttack;
 }
 
 /// Takes one out of the list by its weight.
@@ -110,7 +110,7 @@ bool BookStableAttack(AutoPlan& plan, const Worker& leader, int victim) {
   return true;
 }
 
-bool BookScene(AutoPlan& plan, Scene scene, const std::vector<int>& actors,
+bool BookScene(AutoPlan& plan, AngleScene scene, const std::vector<int>& actors,
                const std::vector<int>& victims) {
   if (!plan.MayUseAngles) return false;
   std::vector<const AngleTaste*> tastes = TastesFor(plan, scene, actors[0]);

@@ -84,7 +84,7 @@ bool DebutInMatch(AutoPlan& plan, const Worker& newcomer) {
 
 bool Introduce(AutoPlan& plan, const Worker& newcomer) {
   const Worker* victim = plan.WantsTalk() ? WhomToPickOn(plan, newcomer) : nullptr;
-  if (victim && BookScene(plan, Scene::Debut, {newcomer.Uid}, {victim->Uid})) return true;
+  if (victim && BookScene(plan, AngleScene::Debut, {newcomer.Uid}, {victim->Uid})) return true;
   return DebutInMatch(plan, newcomer);
 }
 

@@ -148,14 +148,14 @@ bool BookWords(AutoPlan& plan, const Feud& feud) {
   const std::vector<int> actors = Members(oneActs ? sides.One : sides.Two),
                          others = Members(oneActs ? sides.Two : sides.One);
   const bool team = sides.One.IsTeam();
-  const Scene attack = team ? Scene::TeamAttack : Scene::Attack;
+  const AngleScene attack = team ? AngleScene::TeamAttack : AngleScene::Attack;
   if (Chance(plan.World, kAttacks) && MayBeAttacked(plan, others) &&
       ((!team && BringsHisStable(plan, actors[0], others[0])) ||
        BookScene(plan, attack, actors, others)))
     return true;
   return BookTalkBetween(plan, actors, others, kTalkContinueFeud) ||
          BookTalkBetween(plan, others, actors, kTalkContinueFeud) ||
-         BookScene(plan, team ? Scene::TeamWords : Scene::Words, actors, others);
+         BookScene(plan, team ? AngleScene::TeamWords : AngleScene::Words, actors, others);
 }
 
 /// Slots that something can be done about tonight, the hottest first.

@@ -123,12 +123,12 @@ bool Motivate(AutoPlan& plan, const Worker& client) {
 bool Stage(AutoPlan& plan, const Worker& star) {
   if (Chance(plan.World, 20) && Motivate(plan, star)) return true;
   const Worker* ally = Chance(plan.World, 25) ? FriendOf(plan, star) : nullptr;
-  if (ally && BookScene(plan, Scene::Allies, {star.Uid}, {ally->Uid})) return true;
+  if (ally && BookScene(plan, AngleScene::Allies, {star.Uid}, {ally->Uid})) return true;
   const Worker* rival = Chance(plan.World, 65) ? RivalOf(plan, star) : nullptr;
   if (rival && Chance(plan.World, kStableAttacks) && BookStableAttack(plan, star, rival->Uid))
     return true;
-  if (rival && BookScene(plan, Scene::Words, {star.Uid}, {rival->Uid})) return true;
-  return BookScene(plan, Scene::Solo, {star.Uid}, {});
+  if (rival && BookScene(plan, AngleScene::Words, {star.Uid}, {rival->Uid})) return true;
+  return BookScene(plan, AngleScene::Solo, {star.Uid}, {});
 }
 
 /// The Commissioner announces a match that is still to come.

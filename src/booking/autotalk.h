@@ -7,7 +7,7 @@
 namespace grapplemont {
 
 /// What an angle shows, and so whom it needs.
-enum class Scene {
+enum class AngleScene {
   Words,  // one against one: challenges, stares
   Attack,
   TeamWords,  // two against two
@@ -23,7 +23,7 @@ bool HasTalk(const AutoPlan& plan, int uid);
 /// Plans an angle of the scene that the promotion may use and that tonight has not seen. `victims`
 /// stay empty for Solo; Allies are actor and other. False when there is none, or not enough
 /// writers. Draws.
-bool BookScene(AutoPlan& plan, Scene scene, const std::vector<int>& actors,
+bool BookScene(AutoPlan& plan, AngleScene scene, const std::vector<int>& actors,
                const std::vector<int>& victims);
 /// Plans this very angle, its people in the order of its roles.
 bool BookAngle(AutoPlan& plan, int number, const std::vector<int>& people, int weight);

@@ -12,7 +12,7 @@
 namespace grapplemont {
 
 /// Wizard::Step of a match; interviews and angles share the first two.
-enum Step {
+enum MatchStep {
   kKindStep,
   kStyleStep,
   kTypeStep,

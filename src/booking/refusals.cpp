@@ -265,7 +265,7 @@ Refusals AftermathRefusals(const World& world, const Segment& match) {
 
 }  // namespace
 
-std::vector<Refusal> RefusalsAt(const World& world, const Segment& match, Step step) {
+std::vector<Refusal> RefusalsAt(const World& world, const Segment& match, MatchStep step) {
   switch (step) {
     case kPeopleStep:
       return PeopleRefusals(world, match);
@@ -283,7 +283,7 @@ std::vector<Refusal> RefusalsAt(const World& world, const Segment& match, Step s
 std::vector<Refusal> RefusalsOf(const World& world, const Segment& segment) {
   Refusals all;
   if (segment.Kind != kMatch || !FindMatchType(segment.Style, segment.MatchType)) return all;
-  for (const Step step : {kPeopleStep, kResultStep, kFinishStep, kAftermathStep}) {
+  for (const MatchStep step : {kPeopleStep, kResultStep, kFinishStep, kAftermathStep}) {
     const Refusals some = RefusalsAt(world, segment, step);
     all.insert(all.end(), some.begin(), some.end());
   }

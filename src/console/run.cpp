@@ -4,9 +4,9 @@
 #include <stdexcept>
 
 #include "console/options.h"
-#include "program/home.h"
 #include "program/screens.h"
 #include "records/charset.h"
+#include "session/home.h"
 
 namespace grapplemont::console {
 

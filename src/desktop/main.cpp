@@ -5,8 +5,8 @@
 #include "desktop/letters.h"
 #include "desktop/look.h"
 #include "desktop/window.h"
-#include "program/home.h"
 #include "program/screens.h"
+#include "session/home.h"
 #include "ui/game.h"
 
 namespace {

@@ -4,7 +4,7 @@ namespace grapplemont {
 
 namespace {
 
-using enum Step;
+using enum Phase;
 
 constexpr TurnAct kSinglesActs[] = {
     {Finish, kCountOut, Part::Winner, Part::Loser},
@@ -71,7 +71,7 @@ std::span<const TurnAct> TurnActsOf(int style) {
 }
 
 bool Happens(const Segment& segment, const TurnAct& act) {
-  return act.Code == (act.When == Step::Finish ? segment.Finish : segment.Aftermath);
+  return act.Code == (act.When == Phase::Finish ? segment.Finish : segment.Aftermath);
 }
 
 }  // namespace grapplemont

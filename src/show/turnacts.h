@@ -6,11 +6,11 @@
 
 namespace grapplemont {
 
-enum class Step { Finish, Aftermath };
+enum class Phase { Finish, Aftermath };
 
 /// Something that a worker does in a match and that can be the occasion of his turn.
 struct TurnAct {
-  Step When;
+  Phase When;
   int Code;
   Part By;
   Part On;

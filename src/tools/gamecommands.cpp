@@ -2,10 +2,10 @@
 #include <optional>
 #include <ostream>
 
-#include "program/home.h"
 #include "records/charset.h"
 #include "records/dates.h"
 #include "records/nearest.h"
+#include "session/home.h"
 #include "session/newgame.h"
 #include "session/slots.h"
 #include "tools/career.h"

@@ -25,7 +25,7 @@ void Give(World& world, const std::string& name, Numbers numbers) {
   worker.Attitude = numbers.Attitude;
 }
 
-Lines WordsAt(const World& world, const Segment& match, Step step) {
+Lines WordsAt(const World& world, const Segment& match, MatchStep step) {
   Lines words;
   for (const Refusal& refusal : RefusalsAt(world, match, step)) words.push_back(refusal.Words);
   return words;

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "booking/bookingscreens.h"
+#include "booking/screens/bookingscreens.h"
 #include "records/segments.h"
 #include "support/gameonworld.h"
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "booking/bookingscreens.h"
+#include "booking/screens/bookingscreens.h"
 #include "booking/talkcheck.h"
 #include "records/segments.h"
 #include "support/gameonworld.h"

@@ -1,4 +1,4 @@
-#include "booking/talkscreens.h"
+#include "booking/screens/talkscreens.h"
 
 #include <gtest/gtest.h>
 

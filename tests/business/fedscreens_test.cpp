@@ -1,4 +1,4 @@
-#include "business/fedscreens.h"
+#include "business/screens/fedscreens.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "business/officescreens.h"
+#include "business/screens/officescreens.h"
 
 #include <gtest/gtest.h>
 

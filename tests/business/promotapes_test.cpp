@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "business/businesssteps.h"
-#include "business/tvscreens.h"
+#include "business/screens/tvscreens.h"
 #include "records/checkworld.h"
 #include "support/gameonworld.h"
 #include "support/newsof.h"

@@ -1,4 +1,4 @@
-#include "business/tvscreens.h"
+#include "business/screens/tvscreens.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <charconv>
 
-#include "business/officescreens.h"
+#include "business/screens/officescreens.h"
 #include "calendar/advanceday.h"
 #include "calendar/daykind.h"
 #include "calendar/events.h"

@@ -7,6 +7,7 @@
 
 #include "console/options.h"
 #include "records/dates.h"
+#include "support/checkout.h"
 
 namespace grapplemont::test {
 namespace {
@@ -104,7 +105,7 @@ TEST_F(Home, WithoutPicturesEndsAtTheBoxThatSaysSo) {
 }
 
 TEST_F(Home, ServesTheTitleScreenToTheEndOfInput) {
-  std::filesystem::copy(std::string(CHECKOUT) + "/gfx", Path + "/gfx");
+  std::filesystem::copy(Checkout("/gfx"), Path + "/gfx");
   const std::string link = Path + "/link";
   std::filesystem::create_directory_symlink(Path, link);
   for (const std::string& home : {Path, link, Path + "/"}) {

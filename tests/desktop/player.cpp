@@ -1,4 +1,5 @@
 #include "desktop/player.h"
+#include "support/checkout.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +17,7 @@ constexpr int kPatience = 10000;  // milliseconds for a box to come, on a busy m
 }  // namespace
 
 Player::Player(const QString& settings)
-    : Window(Desk, {CHECKOUT "/gfx", settings, [this] { ++Closings; }}) {
+    : Window(Desk, {Checkout("/gfx"), settings, [this] { ++Closings; }}) {
   Window.show();
 }
 

@@ -6,6 +6,7 @@
 #include "desktop/player.h"
 #include "program/screens.h"
 #include "records/world.h"
+#include "support/checkout.h"
 #include "support/scratchfolder.h"
 #include "support/smallworld.h"
 #include "ui/game.h"
@@ -39,7 +40,7 @@ void WriteHome(const std::string& home) {
     std::ofstream(home + "/data/" + name, std::ios::binary)
         .write(reinterpret_cast<const char*>(bytes.data()),
                static_cast<std::streamsize>(bytes.size()));
-  fs::create_directory_symlink(CHECKOUT "/gfx", home + "/gfx");
+  fs::create_directory_symlink(Checkout("/gfx"), home + "/gfx");
 }
 
 class FromTitleToNextDay : public testing::Test {

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "editor/keeping.h"
-#include "editor/screenpages.h"
+#include "editor/screens/screenpages.h"
 #include "editorhome.h"
 #include "records/modWresCheck.h"
 #include "support/randomworld.h"

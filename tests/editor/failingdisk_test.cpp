@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "editor/editorscreens.h"
+#include "editor/screens/editorscreens.h"
 #include "editorhome.h"
 #include "support/cutdisk.h"
 

@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-#include "editor/editorfilescreens.h"
-#include "editor/screenediting.h"
+#include "editor/screens/editorfilescreens.h"
+#include "editor/screens/screenediting.h"
 #include "newrecords.h"
 #include "support/homefolder.h"
 

@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "records/checkworld.h"
+#include "support/checkout.h"
 #include "support/randomworld.h"
 #include "support/smallworld.h"
 
@@ -298,7 +299,7 @@ void ExpectToComeBack(const World& world) {
 
 TEST(Tables, OfTheDefaultWorldBuildAndComeBack) {
   const auto disk = RealDisk();
-  const Building building = BuildWorld(ReadTables(*disk, CHECKOUT "/world"));
+  const Building building = BuildWorld(ReadTables(*disk, Checkout("/world")));
   ASSERT_TRUE(building.Made) << AllMistakes(building);
   ExpectToComeBack(*building.Made);
 }

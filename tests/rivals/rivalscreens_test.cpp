@@ -1,4 +1,4 @@
-#include "rivals/rivalscreens.h"
+#include "rivals/screens/rivalscreens.h"
 
 #include <gtest/gtest.h>
 

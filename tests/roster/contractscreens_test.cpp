@@ -1,4 +1,4 @@
-#include "roster/contractscreens.h"
+#include "roster/screens/contractscreens.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "roster/rosterscreens.h"
+#include "roster/screens/rosterscreens.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include "support/checkout.h"
 
 #include <filesystem>
 #include <fstream>
@@ -37,7 +38,7 @@ TEST(Gallery, IsWholeAndFitsTheWindow) {
   std::vector<std::string> names = {"vxm_back", "vxm_title"};
   for (int i = 1; i <= 4; ++i) names.push_back("VXM_load" + std::to_string(i));
   for (int i = 1; i <= 6; ++i) names.push_back("VXM_Set1_0" + std::to_string(i));
-  const fs::path gfx = CHECKOUT "/gfx";
+  const fs::path gfx = Checkout("/gfx");
   for (const std::string& name : names) {
     const std::string bytes = Bytes(gfx / (name + ".jpg"));
     const auto size = JpegSize(bytes);
@@ -51,10 +52,10 @@ TEST(Gallery, IsWholeAndFitsTheWindow) {
 }
 
 TEST(Gallery, ShowsNoPictureWithoutADrawing) {
-  for (const auto& entry : fs::directory_iterator(CHECKOUT "/gfx"))
+  for (const auto& entry : fs::directory_iterator(Checkout("/gfx")))
     if (entry.path().extension() == ".jpg") {
       EXPECT_TRUE(
-          fs::exists(fs::path(CHECKOUT "/gfx/source") / (entry.path().stem().string() + ".svg")))
+          fs::exists(fs::path(Checkout("/gfx/source")) / (entry.path().stem().string() + ".svg")))
           << entry.path();
     }
 }

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "storylines/feuds.h"
-#include "storylines/storyscreens.h"
+#include "storylines/screens/storyscreens.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
 

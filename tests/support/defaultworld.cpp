@@ -4,6 +4,7 @@
 
 #include "records/disk.h"
 #include "records/worldtables.h"
+#include "support/checkout.h"
 
 namespace grapplemont::test {
 
@@ -11,7 +12,7 @@ namespace {
 
 World Built() {
   const auto disk = RealDisk();
-  Building building = BuildWorld(ReadTables(*disk, CHECKOUT "/world"));
+  Building building = BuildWorld(ReadTables(*disk, Checkout("/world")));
   for (const Mistake& mistake : building.Mistakes) ADD_FAILURE() << mistake.Text();
   return building.Made ? std::move(*building.Made) : World();
 }

@@ -1,5 +1,6 @@
 #include "tools/balance.h"
 
+#include "support/checkout.h"
 #include "support/defaultworld.h"
 #include "toolhome.h"
 
@@ -9,10 +10,10 @@ namespace {
 using ToolBalance = ToolHome;
 
 TEST_F(ToolBalance, PageIsWhatTheCommandPrintsOfTheBuiltWorld) {
-  ASSERT_EQ(0, Run({"build", CHECKOUT "/world", In("data")}).Code);
+  ASSERT_EQ(0, Run({"build", Checkout("/world"), In("data")}).Code);
   const Ran ran = Run({"balance", In("data")});
   EXPECT_EQ(0, ran.Code);
-  std::ifstream file(CHECKOUT "/docs/balance.md", std::ios::binary);
+  std::ifstream file(Checkout("/docs/balance.md"), std::ios::binary);
   const std::string page{std::istreambuf_iterator<char>(file), {}};
   EXPECT_TRUE(page == ran.Out) << "Run: grapplemont-world balance data >docs/balance.md";
 }

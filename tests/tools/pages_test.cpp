@@ -1,6 +1,7 @@
 #include "tools/pages.h"
 
 #include "records/tablekinds.h"
+#include "support/checkout.h"
 #include "toolhome.h"
 
 // Pages of docs/ that a command prints are committed, and stay what it prints.
@@ -11,7 +12,7 @@ namespace {
 using ToolPages = ToolHome;
 
 std::string Document(const std::string& name) {
-  std::ifstream file(CHECKOUT "/docs/" + name, std::ios::binary);
+  std::ifstream file(Checkout("/docs/") + name, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 

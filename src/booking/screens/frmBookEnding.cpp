@@ -1,0 +1,154 @@
+#include <algorithm>
+
+#include "booking/grievances.h"
+#include "booking/offers.h"
+#include "booking/screens/screenmatchstep.h"
+#include "booking/screens/stepscreens.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// A step that picks a code of how the match ends, and perhaps who runs in for it.
+struct EndingRow {
+  std::string_view Screen;
+  std::string_view List;
+  MatchStep Does;
+  int RunIns;
+};
+constexpr EndingRow kEndings[] = {
+    {"frmBook1vs1Finish", "lstfinish", kFinishStep, 1},
+    {"frmBook2vs2Finish", "lstfinish", kFinishStep, 2},
+    {"frmBook3vs3Finish", "lstfinish", kFinishStep, 0},
+    {"frmBook4vs4Finish", "lstfinish", kFinishStep, 0},
+    {"frmBookAfter", "lstafter", kAftermathStep, 1},
+    {"frmBook2vs2After", "lstafter", kAftermathStep, 2},
+    {"frmBookPurpose", "lstpurpose", kPurposeStep, 0},
+    {"frmBook2vs2Purpose", "lstpurpose", kPurposeStep, 0},
+};
+
+const EndingRow& RowOf(const std::string& name) {
+  for (const EndingRow& row : kEndings)
+    if (row.Screen == name) return row;
+  return kEndings[0];
+}
+
+/// What such a step is called, offers and writes.
+struct EndingKind {
+  MatchStep Does;
+  std::string_view Called;
+  Phrases (*Says)(int style);
+  std::vector<int> (*Offers)(const World&, const Segment&);
+  Word Segment::*Field;
+  bool PicksLast;  // "Nothing" and "None" stand last and are preselected
+};
+constexpr EndingKind kKinds[] = {
+    {kFinishStep, "Finish", FinishesOf, OfferedFinishes, &Segment::Finish, false},
+    {kAftermathStep, "Aftermath", AftermathsOf, OfferedAftermaths, &Segment::Aftermath, true},
+    {kPurposeStep, "Purpose", PurposesOf, OfferedPurposes, &Segment::Purpose, true},
+};
+
+const EndingKind& KindOf(const EndingRow& row) {
+  return kKinds[row.Does - kFinishStep];
+}
+
+class frmBookEnding : public MatchStepScreen {
+ public:
+  frmBookEnding(Game& game, WizardHost& host, const std::string& name)
+      : MatchStepScreen(game, host, name, "Select " + std::string(KindOf(RowOf(name)).Called)),
+        row_(RowOf(name)),
+        kind_(KindOf(row_)) {}
+
+ private:
+  void Prepare() override {
+    const Phrases phrases = kind_.Says(buffer().Style);
+    for (const int code : kind_.Offers(world(), buffer()))
+      lstcode.Add({PhraseText(world(), buffer(), phrases, code)}, code);
+    lstcode.Select(kind_.PicksLast ? lstcode.Count() : 1);
+    for (int list = 1; list <= row_.RunIns; ++list) FillPeople(lstrun(list), RunIns(), true);
+    ShowPicks();
+  }
+
+  ui::Box Body() override {
+    std::vector<ui::Box> tables = {ui::Group("", {ui::Grow(lstcode)}).Grow()}, runIns;
+    constexpr const char* kTitles[] = {"Who runs in", "Who runs in as well"};
+    for (int list = 1; list <= row_.RunIns; ++list)
+      runIns.push_back(ui::Group(kTitles[list - 1], {ui::Grow(lstrun(list))}).Grow());
+    // One below the other: the words of the codes need the width.
+    if (!runIns.empty()) tables.push_back(ui::Rows(std::move(runIns)).Grow());
+    return ui::Rows(
+        {ui::Columns(std::move(tables)).Grow(),
+         row_.Does == kPurposeStep ? ui::Group("What it costs", {txtsay}) : Objections()});
+  }
+
+  bool Store() override { return Accept(Draft(), row_.Does); }
+
+  /// Whoever has run in for the finish is in the ring already.
+  std::vector<const Worker*> RunIns() {
+    auto roster = RunInRoster(world(), buffer(), wizard().View);
+    const std::vector<int> in = FinishRunIns(buffer());
+    std::erase_if(roster, [&](const Worker* worker) {
+      return row_.Does == kAftermathStep &&
+             std::find(in.begin(), in.end(), worker->Uid) != in.end();
+    });
+    return roster;
+  }
+
+  bool NeedsRunIn() {
+    return row_.Does == kFinishStep ? NeedsFinishRunIn(buffer().Style, lstcode.Key())
+                                    : NeedsAftermathRunIn(buffer().Style, lstcode.Key());
+  }
+
+  Segment Draft() {
+    Segment draft = buffer();
+    draft.*kind_.Field = lstcode.Key();
+    std::vector<Word*> fields;
+    if (row_.Does == kFinishStep) fields = {&draft.Other1, &draft.Other2};
+    if (row_.Does == kAftermathStep) fields = AftermathRunIns(draft);
+    for (int list = 1; list <= row_.RunIns && NeedsRunIn(); ++list)
+      *fields[static_cast<std::size_t>(list - 1)] = lstrun(list).Key();
+    return draft;
+  }
+
+  void ShowPicks() {
+    const bool needed = NeedsRunIn();
+    for (int list = 1; list <= row_.RunIns; ++list) {
+      lstrun(list).Enabled = needed;
+      lstrun(list).Tip = needed ? "" : "Nobody runs in for this " + Lowered() + ".";
+    }
+    if (row_.Does == kPurposeStep)
+      ShowPrice();
+    else
+      ShowObjections(Draft(), row_.Does);
+  }
+
+  std::string Lowered() const { return row_.Does == kFinishStep ? "finish" : "aftermath"; }
+
+  void ShowPrice() {
+    const std::string price = GrievanceText(world(), Draft());
+    txtsay.Text =
+        price.empty() ? "Nobody holds this booking against you." : "Morale: " + price + ".";
+    txtsay.Colour = price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
+  }
+
+  const EndingRow& row_;
+  const EndingKind& kind_;
+  ui::ListBox lstcode{*this,
+                      std::string(row_.List),
+                      {{std::string(kind_.Called)}},
+                      [this] { ShowPicks(); },
+                      [this] { GoOn(); }};
+  ui::Array<ui::ListBox> lstrun{"lstrun", row_.RunIns, [this](const std::string&, int list) {
+                                  return std::make_unique<ui::ListBox>(
+                                      *this, "lstrun" + std::to_string(list), PeopleColumns(),
+                                      [this] { ShowPicks(); }, [this] { GoOn(); });
+                                }};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakeEndingStep(Game& game, WizardHost& host, const std::string& name) {
+  return std::make_unique<frmBookEnding>(game, host, name);
+}
+
+}  // namespace grapplemont

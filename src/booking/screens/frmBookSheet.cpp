@@ -1,0 +1,167 @@
+#include "booking/grievances.h"
+#include "booking/screens/bookingscreens.h"
+#include "booking/screens/screenstep.h"
+#include "booking/segmentcheck.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// The wizard: one row a step, what has been chosen so far, and the way on and back.
+class frmBookSheet : public ui::Screen, public WizardHost {
+ public:
+  frmBookSheet(Game& game, int slot, bool isEvent)
+      : Screen(game.Desk(), "frmBookSheet", "Book A Segment", ui::Role::Dialog),
+        game_(game),
+        wizard_(BeginBooking(slot, isEvent)) {
+    cmbsplit.Tip = "Limit official competitors to roster split";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdexit, &cmdcomplete, &cmdstep};
+    page.Main = &cmdstep;
+    page.Then = &cmdcomplete;
+    page.Cancel = &cmdexit;
+    std::vector<ui::Box> rows;
+    for (int step = 0; step < kRows; ++step)
+      rows.push_back(ui::Columns({ui::Grow(At(txtstep, step), 3), ui::Grow(At(txtdesc, step), 5),
+                                  At(cmdback, step), At(cmdbook, step)}));
+    page.Body = ui::Rows({ui::Group("", {ui::Rows(std::move(rows))}), lblprice, ui::Spacer(),
+                          ui::Field("Limit official competitors to roster split", cmbsplit)});
+    return page;
+  }
+
+  void Load() override {
+    cmbsplit.Add("All");
+    const Promotion& player = game_.World().Player();
+    for (const auto& split : player.Split)
+      if (!(split == "None") && !split.View().empty()) cmbsplit.Add(split.Str());
+    cmbsplit.Select(1);
+    RefreshWizard();
+  }
+
+  void Return() override { RefreshWizard(); }
+
+  Wizard& State() override { return wizard_; }
+
+  void StepStored(bool goOn) override {
+    StepDone(wizard_);
+    RefreshWizard();
+    if (goOn && !wizard_.SegmentComplete) OpenStep();
+  }
+
+  void OpenStep() {
+    if (auto step = MakeStepScreen(game_, *this, ScreenOfStep(wizard_, wizard_.Step)))
+      desk().Open(std::move(step));
+  }
+
+ private:
+  static constexpr int kRows = 10;
+
+  /// The control of a row; rows count from 0, as steps do.
+  template <class C>
+  static C& At(ui::Array<C>& controls, int step) {
+    return controls(step + 1);
+  }
+
+  /// The row whose step is to be done, or was the last one.
+  int CurrentRow() const { return wizard_.SegmentComplete ? wizard_.Step - 1 : wizard_.Step; }
+  int BackRow() const { return wizard_.Step - 1; }
+
+  void RefreshWizard() {
+    for (int step = 0; step < kRows; ++step) ShowRow(step);
+    lblfacts.Text = "Slot " + std::to_string(wizard_.CurrentSlot);
+    const std::string price = GrievanceText(game_.World(), wizard_.Buffer);
+    lblprice.Text =
+        price.empty() ? "Nobody holds this booking against you." : "Morale: " + price + ".";
+    lblprice.Colour = price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
+    lblprice.Visible = wizard_.SegmentComplete;
+    cmdstep.Visible = !wizard_.SegmentComplete;
+    cmdcomplete.Enabled = wizard_.SegmentComplete;
+    cmdcomplete.Tip = wizard_.SegmentComplete ? "" : "Every step must be done first.";
+  }
+
+  void ShowRow(int step) {
+    const StepText text = TextOfStep(game_.World(), wizard_, step);
+    At(txtstep, step).Text = text.Caption;
+    At(txtstep, step).Colour = step == CurrentRow() ? ui::Tone::Gold : ui::Tone::Muted;
+    At(txtdesc, step).Text = text.Summary;
+    At(txtdesc, step).Tip = text.Tip;
+    At(cmdbook, step).Enabled = step == CurrentRow();
+    At(cmdback, step).Enabled = step == BackRow();
+    At(cmdbook, step).Tip = step == CurrentRow() ? "" : "It is another step's turn.";
+    At(cmdback, step).Tip = step == BackRow() ? "" : "Only the last step can be taken back.";
+  }
+
+  /// On a finished booking the last step is done anew.
+  void cmdbook_Click() {
+    if (wizard_.SegmentComplete) StepBack(wizard_);
+    OpenStep();
+  }
+
+  void cmdback_Click() {
+    StepBack(wizard_);
+    RefreshWizard();
+  }
+
+  void cmbsplit_Click() { wizard_.View.Split = cmbsplit.Text; }
+
+  void cmdexit_Click() { Close(); }
+
+  void cmdcomplete_Click() {
+    ApplyBookingGrievances(game_.World(), wizard_.Buffer);
+    game_.World().Segments()[wizard_.CurrentSlot] = wizard_.Buffer;
+    Close();
+  }
+
+  template <class C>
+  using Maker = std::function<std::unique_ptr<C>(const std::string&, int)>;
+  static std::string Numbered(const char* name, int i) {
+    return std::string(name) + "(" + std::to_string(i - 1) + ")";
+  }
+  Maker<ui::Label> Labels(const char* name) {
+    return [this, name](const std::string&, int i) {
+      return std::make_unique<ui::Label>(*this, Numbered(name, i));
+    };
+  }
+  Maker<ui::Button> Buttons(const char* name, const char* caption, void (frmBookSheet::*click)()) {
+    return [this, name, caption, click](const std::string&, int i) {
+      return std::make_unique<ui::Button>(*this, Numbered(name, i), caption, click);
+    };
+  }
+
+  Game& game_;
+  Wizard wizard_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Array<ui::Label> txtstep{"", kRows, Labels("txtstep")};
+  ui::Array<ui::Label> txtdesc{"", kRows, Labels("txtdesc")};
+  ui::Array<ui::Button> cmdback{"", kRows,
+                                Buttons("cmdback", "Back", &frmBookSheet::cmdback_Click)};
+  ui::Array<ui::Button> cmdbook{"", kRows,
+                                Buttons("cmdbook", "Select", &frmBookSheet::cmdbook_Click)};
+  ui::Label lblprice{*this, "lblprice"};
+  ui::ComboBox cmbsplit{*this, "cmbsplit", &frmBookSheet::cmbsplit_Click};
+  ui::Button cmdexit{*this, "cmdexit", "Exit", &frmBookSheet::cmdexit_Click};
+  ui::Button cmdcomplete{*this, "cmdcomplete", "Complete Booking This Segment",
+                         &frmBookSheet::cmdcomplete_Click};
+  ui::Button cmdstep{*this, "cmdstep", "Next Step", &frmBookSheet::OpenStep};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, int slot, bool isEvent) {
+  return std::make_unique<frmBookSheet>(game, slot, isEvent);
+}
+
+void OpenWizardAtOnce(Game& game, int slot, bool isEvent) {
+  game.Desk().Event([&] {
+    auto wizard = std::make_unique<frmBookSheet>(game, slot, isEvent);
+    frmBookSheet& sheet = *wizard;
+    game.Desk().Open(std::move(wizard));
+    sheet.OpenStep();
+  });
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,172 @@
+#include "booking/screens/bookingscreens.h"
+#include "records/modWresCheck.h"
+#include "storylines/managers.h"
+#include "storylines/screens/screenpeople.h"
+#include "storylines/storynames.h"
+
+namespace grapplemont {
+
+namespace {
+
+using Paragraph = ui::Report::Paragraph;
+using Style = ui::Report::Style;
+
+struct Skill {
+  const char* Name;
+  Percent Worker::*Value;
+};
+constexpr Skill kSkills[] = {
+    {"Over", &Worker::Over},           {"Brawl", &Worker::Brawl},
+    {"Technical", &Worker::Technical}, {"Speed", &Worker::Speed},
+    {"Stiff", &Worker::Stiff},         {"Sell", &Worker::Sell},
+    {"Charisma", &Worker::Charisma},   {"Attitude", &Worker::Attitude},
+    {"Behaviour", &Worker::Behaviour}, {"Condition", &Worker::Condition},
+    {"Morale", &Worker::Morale},
+};
+
+struct Trait {
+  const char* Words;
+  Flag Worker::*Has;
+};
+constexpr Trait kTraits[] = {
+    {"takes high spots", &Worker::HighSpots},
+    {"can give interviews", &Worker::Speaks},
+    {"has the look of a superstar", &Worker::SuperstarLook},
+    {"can announce", &Worker::Announcer},
+    {"has creative control", &Worker::CreativeControl},
+    {"a turn is being prepared", &Worker::TurnPending},
+};
+
+std::string TraitsOf(const Worker& worker) {
+  std::string text;
+  for (const Trait& trait : kTraits)
+    if (worker.*trait.Has) text += (text.empty() ? "" : ", ") + std::string(trait.Words);
+  if (!text.empty()) text[0] = static_cast<char>(text[0] - 'a' + 'A');
+  return text.empty() ? text : text + ".";
+}
+
+std::string FinishersOf(const Worker& worker) {
+  std::string text;
+  for (const int slot : {1, 2}) {
+    const auto& name = slot == 1 ? worker.Finisher1 : worker.Finisher2;
+    if (name == "None" || name.View().empty()) continue;
+    text += (text.empty() ? "" : ", ") + name.Str() + " (" +
+            std::string(FinisherText(FinisherTypeOf(worker, slot))) + ")";
+  }
+  return text;
+}
+
+/// Anybody's numbers at a glance.
+class frmQuickStat : public ui::Screen {
+ public:
+  frmQuickStat(Game& game, int workerUid)
+      : Screen(game.Desk(), "frmQuickStat", "Stats"), game_(game), first_(workerUid) {
+    lstwres.EmptyText = "Nobody is here.";
+    lststats.EmptyText = "Choose somebody to see his numbers.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback};
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns({ui::Group("Who", {chkall, ui::Grow(lstwres)}).Grow(3),
+                             ui::Group("Numbers", {ui::Grow(lststats)}).Grow(2),
+                             ui::Group("", {ui::Grow(txtworker)}).Grow(3)});
+    return page;
+  }
+
+  void Load() override {
+    const Worker* wanted = world().FindWorker(first_);
+    chkall.Checked = wanted && wanted->Employer != world().PlayerUid();
+    ShowPeople();
+    lstwres.Select(lstwres.Count() > 0 ? 1 : 0);
+    if (wanted) lstwres.SelectKey(first_);
+    ShowWorker();
+  }
+  void Return() override {
+    ShowPeople();
+    ShowWorker();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+
+  std::vector<const Worker*> People() {
+    std::vector<const Worker*> people;
+    for (const Worker& worker : world().Workers())
+      if (worker.Uid != 0 && (chkall.Checked || WorksForPlayer(world(), worker)))
+        people.push_back(&worker);
+    SortByOver(people);
+    return people;
+  }
+
+  void ShowPeople() {
+    FillShort(lstwres, People());
+    lblfacts.Text = std::to_string(lstwres.Count()) +
+                    (chkall.Checked ? " workers in the world" : " workers of yours");
+  }
+
+  void ShowWorker() {
+    const Worker* worker = world().FindWorker(lstwres.Key());
+    std::vector<ui::ListBox::Row> rows;
+    for (const Skill& skill : kSkills)
+      if (worker)
+        rows.push_back(
+            {{skill.Name, ui::Cell(int(worker->*skill.Value))}, static_cast<int>(rows.size()) + 1});
+    lststats.Fill(std::move(rows));
+    txtworker.Write(worker ? Told(*worker) : std::vector<Paragraph>());
+  }
+
+  std::vector<Paragraph> Told(const Worker& worker) {
+    const Worker* manager = ManagerOf(world(), worker);
+    std::vector<Paragraph> told{
+        {Style::Strong, worker.Name.Str()},
+        {Style::Muted, std::to_string(worker.Age) + ", " +
+                           std::string(worker.Weight == "L" ? "lightweight" : "heavyweight") +
+                           ", " + std::string(DispositionText(worker.Disposition))},
+        {Style::Line, std::string(PositionText(worker.Position)) + ", " +
+                          (worker.Employer == 0 ? std::string("on the free market")
+                                                : PromotionName(world(), worker.Employer))},
+        {Style::Line, StatusLine(worker)}};
+    const std::pair<const char*, std::string> facts[] = {
+        {"Finishers: ", FinishersOf(worker)},
+        {"Manager: ", manager ? manager->Name.Str() : ""},
+        {"Stable: ", worker.Stable == "None" ? "" : worker.Stable.Str()},
+        {"Titles: ", TitlesOf(worker)},
+        {"", TraitsOf(worker)}};
+    for (const auto& [label, fact] : facts)
+      if (!fact.empty()) told.push_back({Style::Line, label + fact});
+    return told;
+  }
+
+  std::string TitlesOf(const Worker& worker) {
+    std::string names;
+    for (const grapplemont::Title& title : world().Titles())
+      if (title.Holder == worker.Uid || title.Partner == worker.Uid)
+        names += (names.empty() ? "" : ", ") + title.Name.Str();
+    return names;
+  }
+
+  void chkall_Click() { Return(); }
+  void cmdback_Click() { Close(); }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  int first_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::CheckBox chkall{*this, "chkall", "Everybody in the world", false,
+                      &frmQuickStat::chkall_Click};
+  ui::ListBox lstwres{*this, "lstwres", ShortColumns(), &frmQuickStat::ShowWorker};
+  ui::ListBox lststats{*this, "lststats", {{"Skill", K::Text, 2}, {"", K::Percent, 2}}};
+  ui::Report txtworker{*this, "txtworker"};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmQuickStat::cmdback_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmQuickStat(Game& game, int workerUid) {
+  return std::make_unique<frmQuickStat>(game, workerUid);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,259 @@
+#include "booking/screens/screensheet.h"
+
+#include "booking/screens/bookingscreens.h"
+#include "booking/sheet.h"
+#include "booking/sheetrow.h"
+#include "records/segments.h"
+#include "show/holdshow.h"
+#include "storylines/screens/screenpeople.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr const char* kClosedRow = "Not Available In This TV Time Slot";
+
+constexpr const char* kChangeRow = "To book something else in this row, remove it first.";
+
+std::string Lines(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += (text.empty() ? "" : "\n") + line;
+  return text;
+}
+
+std::string Of(int count, int least) {
+  return std::to_string(count) + " of " + std::to_string(least);
+}
+
+}  // namespace
+
+SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
+    : Screen(game.Desk(), std::move(name), SheetHeading(game.World(), isEvent)),
+      game_(game),
+      isEvent_(isEvent),
+      lstrows(*this, "lstrows",
+              {{"#", K::Text, 0, "Row of the sheet."},
+               {"Segment", K::Text, 1},
+               {"Kind", K::Tag},
+               {"Title", K::Tag},
+               {"Feud", K::Tag},
+               {"Forecast", K::Number, 0, "What its rating may come to."},
+               {"", K::Button}},
+              &SheetScreen::ShowRow, &SheetScreen::lstrows_Open),
+      cmdbook("cmdbook", RowsOf(isEvent),
+              [this](const std::string& full, int record) {
+                return std::make_unique<ui::Button>(*this, full, "Book",
+                                                    [this, record] { cmdbook_Click(record); });
+              }),
+      lstfree(*this, "lstfree", ShortColumns(), ui::Handler{}, [this] { lstfree_Open(); }) {
+  lblwarn.Colour = ui::Tone::Amber;
+  cmdcancel.Tip = isEvent_ ? "Calling it off costs image, and much of the money spent on it."
+                           : "Calling it off costs image.";
+  lblcount.Colour = ui::Tone::Muted;
+  lblwarnings.Colour = ui::Tone::Amber;
+  lstfree.Room = 4;
+  lstfree.EmptyText = "Everybody who is fit is on the card.";
+}
+
+ui::Page SheetScreen::Layout() {
+  std::vector<ui::Button*> buttons;
+  for (int record = 1; record <= cmdbook.Count(); ++record) buttons.push_back(&cmdbook(record));
+  ui::Page page;
+  page.Facts = &lblfacts;
+  page.Actions = FirstActions();
+  for (ui::Button* action : {&cmdfill, &cmdcancel, &cmdback, &cmddoshow})
+    page.Actions.push_back(action);
+  page.Main = &cmddoshow;
+  page.Cancel = &cmdback;
+  std::vector<ui::Box> left{
+      ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(), lblwarn,
+                     ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblwarnings})
+          .Grow()};
+  for (ui::Box& below : BelowRows()) left.push_back(std::move(below));
+  page.Body = ui::Columns(
+      {ui::Rows(std::move(left)).Grow(5),
+       ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(5),
+                 ui::Group("Not on the card yet", {ui::Grow(lstfree)}).Grow(4),
+                 ui::Group("At hand", {cmddebut, cmdfeuds, cmdmanagers, cmdroster, cmdstables,
+                                       cmdstats, cmdteams, cmdtitles, cmdturns, cmdnotepad})})
+           .Grow(2)});
+  return page;
+}
+
+void SheetScreen::Load() {
+  OpenSheet(world(), isEvent_);
+  FillBoxes();
+  RefreshSheet();
+  lstrows.SelectKey(1);
+  ShowRow();
+}
+
+void SheetScreen::Return() {
+  RefreshSheet();
+}
+
+int SheetScreen::OpenRows() {
+  return TermsOf(world(), isEvent_).OpenRows;
+}
+
+/// Runs on opening and after every change to a row.
+void SheetScreen::RefreshSheet() {
+  Title = SheetHeading(world(), isEvent_);
+  lblfacts.Text = Facts();
+  lblwarn.Text = SheetWarning(world(), isEvent_);
+  lblwarn.Colour = MayStart(world(), isEvent_) ? ui::Tone::Muted : ui::Tone::Amber;
+  ShowForecast();
+  ShowCounts();
+  ShowFree();
+}
+
+void SheetScreen::ShowForecast() {
+  forecast_ = {};
+  bool any = false;
+  for (const Segment& segment : world().Segments()) any = any || segment.Kind != kEmptySegment;
+  if (any) forecast_ = grapplemont::ForecastShow(world(), isEvent_, Team());
+  lblforecast.Text =
+      any ? "Expected rating " + RangeText(forecast_.Rating) + "." : "Nothing is booked yet.";
+  lblwarnings.Text = Lines(forecast_.Warnings);
+  lblwarnings.Visible = !forecast_.Warnings.empty();
+  FillRows();
+}
+
+void SheetScreen::FillRows() {
+  std::vector<ui::ListBox::Row> rows;
+  rows.push_back({{ui::Cell("-", ui::Tone::Muted), ui::Cell(TopRow(), ui::Tone::Muted)}, 0});
+  for (int record = 1; record <= world().Segments().Count(); ++record) {
+    rows.push_back({CellsOf(record), record});
+    ShowButton(record);
+  }
+  lstrows.Fill(std::move(rows));
+  ShowRow();
+}
+
+std::vector<ui::Cell> SheetScreen::CellsOf(int record) {
+  if (record > OpenRows())
+    return {ui::Cell("-", ui::Tone::Muted), ui::Cell(kClosedRow, ui::Tone::Muted)};
+  const Segment& segment = Row(record);
+  const bool empty = segment.Kind == kEmptySegment;
+  const std::string tip = TitleTip(segment), feud = FeudOfRow(world(), segment);
+  return {std::to_string(record),
+          ui::Cell(DescribeSegment(world(), segment), empty ? ui::Tone::Muted : ui::Tone::Plain),
+          KindOfRow(segment),
+          ui::Cell(tip.empty() ? "" : "Title", ui::Tone::Gold),
+          ui::Cell(feud, ui::Tone::Gold),
+          ui::Cell(0, ForecastOfRow(forecast_, record))};
+}
+
+void SheetScreen::ShowButton(int record) {
+  const bool open = record <= OpenRows();
+  const bool booked = Row(record).Kind != kEmptySegment;
+  cmdbook(record).Text = booked ? "Remove" : "Book";
+  cmdbook(record).Enabled = open;
+  cmdbook(record).Tip = open ? TitleTip(Row(record)) : std::string(kClosedRow) + ".";
+}
+
+void SheetScreen::ShowCounts() {
+  const SheetTerms terms = TermsOf(world(), isEvent_);
+  const SheetCount count = CountSheet(world(), isEvent_);
+  lblcount.Text = Of(count.Matches, terms.MinMatches) + " matches, " +
+                  Of(count.Segments, terms.MinSegments) + " segments booked.";
+  EnableUnless(cmddoshow, MayStart(world(), isEvent_) ? ""
+                          : terms.OpenRows == 0       ? "There is no show today."
+                                                      : "Not enough yet: " + lblcount.Text.Get());
+  EnableUnless(cmdfill, HasEmptyRow() ? "" : "No row is empty.");
+}
+
+bool SheetScreen::HasEmptyRow() {
+  for (int record = 1; record <= OpenRows(); ++record)
+    if (Row(record).Kind == kEmptySegment) return true;
+  return false;
+}
+
+void SheetScreen::ShowFree() {
+  FillShort(lstfree, NotOnTheCard(world(), isEvent_));
+}
+
+/// What the selected row is about, without opening it.
+void SheetScreen::ShowRow() {
+  using Style = ui::Report::Style;
+  const int record = lstrows.Key();
+  if (record == 0)
+    return txtrow.Write({{Style::Muted, "Choose a row to read what is booked in it."}});
+  if (record > OpenRows()) return txtrow.Write({{Style::Muted, std::string(kClosedRow) + "."}});
+  const Segment& segment = Row(record);
+  if (segment.Kind == kEmptySegment)
+    return txtrow.Write(
+        {{Style::Strong, "Row " + std::to_string(record)},
+         {Style::Muted, "Nothing is booked here. Press Book, or Enter to begin at once."}});
+  std::vector<ui::Report::Paragraph> told{{Style::Strong, DescribeSegment(world(), segment)}};
+  for (std::string& line : SummaryOfRow(world(), segment, isEvent_))
+    told.push_back({Style::Line, std::move(line)});
+  for (std::string& line : DetailsOfRow(world(), segment))
+    told.push_back({Style::Line, std::move(line)});
+  if (const std::string tip = TitleTip(segment); !tip.empty()) told.push_back({Style::Strong, tip});
+  told.push_back({Style::Muted, kChangeRow});
+  txtrow.Write(std::move(told));
+}
+
+void SheetScreen::cmdbook_Click(int record) {
+  lstrows.SelectKey(record);
+  ShowRow();
+  if (Row(record).Kind == kEmptySegment)
+    return desk().Open(MakefrmBookSheet(game_, record, isEvent_));
+  if (!desk().Ask("Remove?", "Are you sure you wish to remove this booking?")) return;
+  RemoveBooking(world(), record);
+  RefreshSheet();
+}
+
+void SheetScreen::lstrows_Open() {
+  const int record = lstrows.Key();
+  if (record == 0 || record > OpenRows() || Row(record).Kind != kEmptySegment) return;
+  OpenWizardAtOnce(game_, record, isEvent_);
+}
+
+void SheetScreen::cmddebut_Click() {
+  desk().Open(MakefrmDebut(game_, isEvent_));
+}
+
+void SheetScreen::lstfree_Open() {
+  desk().Open(MakefrmQuickStat(game_, lstfree.Key()));
+}
+
+void SheetScreen::cmdfill_Click() {
+  const AutoCard card = AutoBook(world(), isEvent_, OpenRows());
+  const int fresh = NewSegments(world(), card);
+  const std::string missing = card.Missing.empty() ? "" : "\n" + Lines(card.Missing);
+  if (fresh == 0)
+    return desk().Say("Fill The Rest", "The roster has nothing to fill a row with." + missing);
+  if (!desk().Ask("Fill The Rest",
+                  "Book " + std::to_string(fresh) + (fresh == 1 ? " segment" : " segments") +
+                      " in the rows that are still empty? What you have booked stays." + missing))
+    return;
+  TakeCard(world(), card);
+  RefreshSheet();
+}
+
+void SheetScreen::cmddoshow_Click() {
+  if (!Begin()) return;
+  desk().Open("frmMatchOutput");
+  Close();
+}
+
+void SheetScreen::cmdback_Click() {
+  if (desk().Ask("Confirm",
+                 "Are you sure you wish to go back? It will erase any booking you have done so "
+                 "far.",
+                 ui::Default::No)) {
+    OpenSheet(world(), isEvent_);
+    Close();
+  }
+}
+
+void SheetScreen::cmdcancel_Click() {
+  if (!desk().Ask("Cancel?", "Are You Sure You Wish To Cancel The Show?", ui::Default::No)) return;
+  OpenSheet(world(), isEvent_);
+  game_.AdvanceDay(true);
+  Close();
+}
+
+}  // namespace grapplemont

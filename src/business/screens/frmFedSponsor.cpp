@@ -1,0 +1,270 @@
+#include <algorithm>
+#include <array>
+
+#include "business/officewords.h"
+#include "business/screens/officescreens.h"
+#include "business/sponsorlimits.h"
+#include "business/sponsors.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "storylines/screens/screenpeople.h"
+
+namespace grapplemont {
+
+namespace {
+
+struct MoralityBand {
+  int From;
+  const char* Words;
+  ui::Tone Colour;
+};
+constexpr std::array<MoralityBand, 3> kMoralities = {
+    {{70, "High", ui::Tone::Amber}, {30, "Medium", ui::Tone::Plain}, {0, "Low", ui::Tone::Green}}};
+
+ui::Cell MoralityCell(int morality) {
+  for (const MoralityBand& band : kMoralities)
+    if (morality >= band.From) return {static_cast<double>(morality), band.Words, band.Colour};
+  return "";
+}
+
+ui::Cell PayCell(int thousands) {
+  return {static_cast<double>(thousands), Dollars(thousands * 1000LL)};
+}
+
+/// One of three, so that no two deals need sound alike.
+std::string Welcome(World& world) {
+  constexpr std::array<const char*, 3> kLines = {
+      "We look forward to working with you.",
+      "We hope this deal will be beneficial to both parties.", "Here's to a great partnership!"};
+  return kLines[static_cast<std::size_t>(world.Prose().Draw(3) - 1)];
+}
+
+/// All sponsors, the four places of the player's promotion, and the deals between them.
+class frmFedSponsor : public ui::Screen {
+ public:
+  explicit frmFedSponsor(Game& game)
+      : Screen(game.Desk(), "frmFedSponsor", "Sponsors"), game_(game) {}
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback, &cmd2, &cmd1};
+    page.Main = &cmd1;
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns(
+        {ui::Group("All sponsors", {chkfilter, ui::Grow(lstsponsors)}).Grow(3),
+         ui::Rows({ui::Group("Our sponsors", {ui::Grow(lstplaces)}).Grow(2),
+                   ui::Group("The deal", {lblsponsor, lblslogan, lbldeal, ui::Spacer()}).Grow(1)})
+             .Grow(2)});
+    return page;
+  }
+
+  void Load() override { Show(); }
+  void Return() override { Show(); }
+
+ private:
+  World& world() { return game_.World(); }
+  Promotion& player() { return world().Player(); }
+  Sponsor* chosen() { return world().FindSponsor(lstsponsors.Key()); }
+  int PlaceOf(const Sponsor* sponsor) { return sponsor ? SponsorPlace(player(), sponsor->Uid) : 0; }
+
+  void Show() {
+    lblfacts.Text = FinanceText(player()) + ". The risk of our product is " +
+                    std::to_string(player().Risk) + "%.";
+    ShowSponsors();
+    ShowPlaces();
+    ShowChoice();
+  }
+
+  void ShowSponsors() {
+    std::vector<ui::ListBox::Row> rows;
+    for (const Sponsor& sponsor : world().Sponsors())
+      if (!chkfilter.Checked || sponsor.Promotion == 0 || sponsor.Promotion == player().Uid)
+        rows.push_back({RowOf(sponsor), sponsor.Uid});
+    lstsponsors.EmptyText = world().Sponsors().Count() == 0
+                                ? "There are no sponsors in this world."
+                                : "No sponsor is free. Show all of them to see whose they are.";
+    lstsponsors.Fill(std::move(rows));
+  }
+
+  std::vector<ui::Cell> RowOf(const Sponsor& sponsor) {
+    const bool free = sponsor.Promotion == 0;
+    return {sponsor.Name.View(),
+            PayCell(sponsor.Pay),
+            MoralityCell(sponsor.Morality),
+            ui::Cell(100 - sponsor.Morality),
+            free ? ui::Cell("Free", ui::Tone::Green)
+                 : ui::Cell(PromotionInitials(world(), sponsor.Promotion),
+                            sponsor.Promotion == player().Uid ? ui::Tone::Gold : ui::Tone::Plain),
+            free ? ui::Cell("") : ui::Cell(sponsor.ContractMonths)};
+  }
+
+  void ShowPlaces() {
+    std::vector<ui::ListBox::Row> rows;
+    for (int place = kMainSponsor; place <= kSponsorPlaces; ++place)
+      rows.push_back({PlaceRow(place), place});
+    lstplaces.Fill(std::move(rows));
+  }
+
+  std::vector<ui::Cell> PlaceRow(int place) {
+    const bool isMain = place == kMainSponsor;
+    const char* kind = isMain ? "Main" : "Minor";
+    const Sponsor* sponsor = SponsorAt(world(), player(), place);
+    if (!sponsor) return {kind, ui::Cell("None", ui::Tone::Muted), "", "", ""};
+    return {kind, sponsor->Name.View(), PayCell(SponsorPayForTv(*sponsor, isMain)),
+            PayCell(sponsor->Pay), ui::Cell(sponsor->ContractMonths)};
+  }
+
+  void ShowChoice() {
+    const Sponsor* sponsor = chosen();
+    const int place = shownPlace_ = PlaceOf(sponsor);
+    lstplaces.SelectKey(place);
+    cmd1.Text = place == 0              ? "Offer Main Sponsorship"
+                : place == kMainSponsor ? "Demote To Minor Sponsor"
+                                        : "Upgrade To Main Sponsor";
+    cmd2.Text = place == 0 ? "Offer Minor Sponsorship" : "End Sponsorship Deal";
+    EnableUnless(cmd1, WhyNotFirst(sponsor, place));
+    EnableUnless(cmd2, WhyNotSecond(sponsor, place));
+    ShowDeal(sponsor, place);
+  }
+
+  void ShowDeal(const Sponsor* sponsor, int place) {
+    lblsponsor.Text = sponsor ? sponsor->Name.Str() : "Choose a sponsor.";
+    lblslogan.Text = sponsor ? sponsor->Slogan.Str() : "";
+    lbldeal.Text = !sponsor ? ""
+                   : place != 0
+                       ? "To end the deal now would cost " + Dollars(EndingCost(*sponsor)) + "."
+                       : "Pays " + Dollars(SponsorPayForTv(*sponsor, true) * 1000LL) +
+                             " a television show as the main sponsor, " +
+                             Dollars(SponsorPayForTv(*sponsor, false) * 1000LL) +
+                             " as a minor one, and " + Dollars(sponsor->Pay * 1000LL) +
+                             " an Event as either.";
+  }
+
+  /// Why the sponsor cannot be talked to at all.
+  std::string WhyNoTalk(const Sponsor* sponsor, int place) {
+    if (!sponsor)
+      return lstsponsors.Key() == 0 ? "Choose a sponsor first." : "This sponsor has gone.";
+    if (place != 0 || sponsor->Promotion == 0) return {};
+    return sponsor->Name + " have a deal with " + PromotionInitials(world(), sponsor->Promotion) +
+           ".";
+  }
+
+  std::string WhyNotFirst(const Sponsor* sponsor, int place) {
+    if (std::string why = WhyNoTalk(sponsor, place); !why.empty()) return why;
+    if (place == 0 && SponsorAt(world(), player(), kMainSponsor))
+      return "We have a main sponsor already.";
+    if (place == kMainSponsor && MinorPlace() == 0) return "We have three minor sponsors already.";
+    return {};
+  }
+
+  std::string WhyNotSecond(const Sponsor* sponsor, int place) {
+    if (std::string why = WhyNoTalk(sponsor, place); !why.empty()) return why;
+    return place == 0 && MinorPlace() == 0 ? "We have three minor sponsors already."
+                                           : std::string();
+  }
+
+  int MinorPlace() { return FreeSponsorPlace(world(), player(), kMainSponsor + 1); }
+
+  void lstplaces_Click() {
+    const Sponsor* sponsor = SponsorAt(world(), player(), std::max(lstplaces.Key(), 1));
+    lstsponsors.SelectKey(sponsor ? int(sponsor->Uid) : 0);
+    const int place = lstplaces.Key();
+    ShowChoice();
+    lstplaces.SelectKey(place);
+  }
+
+  /// Whether what the button says can still be done; shows how things stand now if it cannot.
+  bool Stands(int place, const std::string& why) {
+    if (why.empty() && place == shownPlace_) return true;
+    desk().Say("Error!", why.empty() ? "This deal has changed in the meantime." : why);
+    Show();
+    return false;
+  }
+
+  void cmd1_Click() {
+    Sponsor* sponsor = chosen();
+    const int place = PlaceOf(sponsor);
+    if (!Stands(place, WhyNotFirst(sponsor, place))) return;
+    if (place == 0) return Offer(*sponsor, kMainSponsor);
+    MoveSponsor(player(), sponsor->Uid, place == kMainSponsor ? MinorPlace() : kMainSponsor);
+    Show();
+  }
+
+  void cmd2_Click() {
+    Sponsor* sponsor = chosen();
+    const int place = PlaceOf(sponsor);
+    if (!Stands(place, WhyNotSecond(sponsor, place))) return;
+    place == 0 ? Offer(*sponsor, MinorPlace()) : End(*sponsor);
+  }
+
+  void Offer(Sponsor& sponsor, int place) {
+    switch (AnswerOf(sponsor, player())) {
+      case SponsorAnswer::TooRisky:
+        return desk().Say("Rejection!",
+                          "They reject the deal. They feel the risky nature of your product could "
+                          "harm their image.");
+      case SponsorAnswer::Declines:
+        return desk().Say("Rejection!", "They reject the deal.");
+      case SponsorAnswer::Accepts:
+        desk().Say("Accepted!", "They accept the deal. " + Welcome(world()));
+        SignSponsor(world(), player(), sponsor, place);
+        return Show();
+    }
+  }
+
+  void End(Sponsor& sponsor) {
+    if (!desk().Ask("End deal?",
+                    "Are you sure? This would cost $" + std::to_string(EndingCost(sponsor)) +
+                        " in legal payments!",
+                    ui::Default::No))
+      return;
+    EndSponsorship(world(), player(), sponsor);
+    desk().Say("Done!", "Sponsorship ended!");
+    Show();
+  }
+
+  void cmdback_Click() {
+    Close();
+    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
+  }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  int shownPlace_ = 0;  // of the chosen sponsor, as the buttons say
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::CheckBox chkfilter{*this, "chkfilter", "Only those who are free, and ours", false,
+                         &frmFedSponsor::Show};
+  ui::ListBox lstsponsors{
+      *this,
+      "lstsponsors",
+      {{"Name", K::Text, 4},
+       {"Pay", K::Number, 2, "For an Event."},
+       {"Morality", K::Tag, 2},
+       {"Bears", K::Percent, 2, "The highest risk that the sponsor bears in a product."},
+       {"With", K::Text, 1, "The promotion that has its deal."},
+       {"Months", K::Number, 1, "Months left of the deal."}},
+      &frmFedSponsor::ShowChoice};
+  ui::ListBox lstplaces{*this,
+                        "lstplaces",
+                        {{"Place", K::Text, 1},
+                         {"Sponsor", K::Text, 3},
+                         {"TV show", K::Number, 2, "Pay for a television show."},
+                         {"Event", K::Number, 2, "Pay for an Event."},
+                         {"Months", K::Number, 1, "Months left of the deal."}},
+                        &frmFedSponsor::lstplaces_Click};
+  ui::Label lblsponsor{*this, "lblsponsor"};
+  ui::Label lblslogan{*this, "lblslogan"};
+  ui::Label lbldeal{*this, "lbldeal"};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmFedSponsor::cmdback_Click};
+  ui::Button cmd1{*this, "cmd1", "Offer Main Sponsorship", &frmFedSponsor::cmd1_Click};
+  ui::Button cmd2{*this, "cmd2", "Offer Minor Sponsorship", &frmFedSponsor::cmd2_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmFedSponsor(Game& game) {
+  return std::make_unique<frmFedSponsor>(game);
+}
+
+}  // namespace grapplemont

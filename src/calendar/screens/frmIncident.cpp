@@ -1,0 +1,141 @@
+#include <array>
+
+#include "calendar/incidents.h"
+#include "calendar/screens/calendarscreens.h"
+#include "records/modWresCheck.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr std::array<int, 4> kSuspensions = {1, 3, 6, 12};  // months
+
+int SuspensionAt(int i) {
+  return kSuspensions[static_cast<std::size_t>(i - 1)];
+}
+
+/// What happened backstage, one after the other. Each answer takes it off the list for good.
+class frmIncident : public ui::Screen {
+ public:
+  explicit frmIncident(Game& game)
+      : Screen(game.Desk(), "frmIncident", "Backstage", ui::Role::Dialog), game_(game) {
+    txtincident.Brief = true;
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblleft;
+    page.Actions = {&cmdfire};
+    for (int i = 1; i <= cmdsuspend.Count(); ++i) page.Actions.push_back(&cmdsuspend(i));
+    page.Actions.insert(page.Actions.end(), {&cmdignore, &cmdaccept});
+    page.Main = &cmdaccept;
+    page.Cancel = &cmdignore;
+    page.Body = ui::Rows({txtincident, lblabout});
+    return page;
+  }
+
+  void Load() override { ShowFirst(); }
+  void Return() override { ShowFirst(); }
+
+ private:
+  World& world() { return game_.World(); }
+
+  void ShowFirst() {
+    const Incident* incident = FirstIncident(world());
+    if (!incident) return Leave();
+    txtincident.Write(IncidentText(world(), *incident));
+    lblleft.Text = Waiting();
+    const bool isOffer = incident->Type == kJobOffer;
+    cmdaccept.Visible = isOffer;
+    cmdignore.Text = isOffer ? "Decline" : incident->Type >= kRehab ? "Continue" : "Ignore";
+    lblabout.Text = isOffer ? AboutPromotion(incident->Uid) : AboutWorker(incident->Uid);
+    ShowSanctions(*incident);
+  }
+
+  void ShowSanctions(const Incident& incident) {
+    const Worker* worker = incident.Type == kJobOffer ? nullptr : world().FindWorker(incident.Uid);
+    cmdfire.Visible = worker != nullptr;
+    cmdfire.Enabled = worker && !worker->Unsackable;
+    cmdfire.Tip = cmdfire.Enabled ? "" : "The contract does not allow it.";
+    for (int i = 1; i <= cmdsuspend.Count(); ++i)
+      cmdsuspend(i).Visible = worker && incident.Type <= kPolice;
+  }
+
+  std::string Waiting() {
+    int count = 0;
+    for (const Incident& incident : world().Incidents()) count += incident.Type != 0;
+    return count <= 1 ? "" : "And " + std::to_string(count - 1) + " more.";
+  }
+
+  std::string AboutWorker(int uid) {
+    const Worker& worker = *world().FindWorker(uid);
+    return std::string(PositionText(worker.Position)) + ", Over " + std::to_string(worker.Over) +
+           ", behaviour " + std::to_string(worker.Behaviour) + ", morale " +
+           std::to_string(worker.Morale) + ". " + ContractLine(worker) + ".";
+  }
+
+  std::string AboutPromotion(int uid) {
+    const Promotion& promotion = *world().FindPromotion(uid);
+    return promotion.Name + ": " + std::string(SizeText(promotion.Size)) + ", image " +
+           std::to_string(promotion.Image) + "%.";
+  }
+
+  Worker* Culprit() { return world().FindWorker(world().Incidents()[1].Uid); }
+
+  void Next() {
+    CloseIncident(world());
+    ShowFirst();
+  }
+
+  void Leave() {
+    Close();
+    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
+  }
+
+  void cmdfire_Click() {
+    Worker* worker = Culprit();
+    if (!desk().Ask("Fire?", "Are you sure you wish to fire " + worker->Name.Str() + "?",
+                    ui::Default::No))
+      return;
+    FireFor(world(), *worker);
+    Next();
+  }
+  void cmdsuspend_Click(int months) {
+    Suspend(*Culprit(), months);
+    Next();
+  }
+  void cmdignore_Click() { Next(); }
+  void cmdaccept_Click() {
+    const Promotion& promotion = *world().FindPromotion(world().Incidents()[1].Uid);
+    if (!desk().Ask("Job Offer",
+                    "Are you sure you wish to leave " + world().Player().Name.Str() + " for " +
+                        promotion.Name.Str() + "?",
+                    ui::Default::No))
+      return;
+    ChangeJob(world(), promotion);
+    Next();
+  }
+
+  Game& game_;
+  ui::Label lblleft{*this, "lblleft"};
+  ui::Report txtincident{*this, "txtincident"};
+  ui::Label lblabout{*this, "lblabout"};
+  ui::Button cmdfire{*this, "cmdfire", "Fire", &frmIncident::cmdfire_Click};
+  ui::Array<ui::Button> cmdsuspend{
+      "cmdsuspend", static_cast<int>(kSuspensions.size()), [this](const std::string& name, int i) {
+        const int months = SuspensionAt(i);
+        return std::make_unique<ui::Button>(
+            *this, name, "Suspend " + std::to_string(months) + (months == 1 ? " Month" : " Months"),
+            [this, months] { cmdsuspend_Click(months); });
+      }};
+  ui::Button cmdignore{*this, "cmdignore", "Ignore", &frmIncident::cmdignore_Click};
+  ui::Button cmdaccept{*this, "cmdaccept", "Accept", &frmIncident::cmdaccept_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmIncident(Game& game) {
+  return std::make_unique<frmIncident>(game);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,95 @@
+#include "editor/maintain.h"
+#include "editor/screens/editorfilescreens.h"
+#include "editor/screens/screenediting.h"
+#include "editor/screens/screenfiles.h"
+#include "records/worldreport.h"
+
+namespace grapplemont {
+
+namespace {
+
+std::vector<Fault> UnreadableFaults(const DataFolder& data) {
+  std::vector<Fault> faults;
+  for (const UnreadableFile& file : data.Unreadable())
+    faults.push_back({file.File, 0, {}, {}, "cannot be read: " + file.Why});
+  return faults;
+}
+
+/// What is wrong with the data and what a clean-up would do, before it does it.
+class frmEditMaintain : public ui::Screen {
+ public:
+  explicit frmEditMaintain(Game& game)
+      : Screen(game.Desk(), "frmEditMaintain", "Check And Clean-Up"), game_(game) {
+    lstfaults.EmptyText = "Nothing is wrong with the data.";
+    lstdoings.EmptyText = "There is nothing that a clean-up would do.";
+    lstleft.EmptyText = "Nothing would be left to do by hand.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback, &cmdclean};
+    page.Main = &cmdclean;
+    page.Cancel = &cmdback;
+    page.Body = ui::Tabs({ui::Group("What is wrong", {ui::Grow(lstfaults)}),
+                          ui::Group("What the clean-up does", {ui::Grow(lstdoings)}),
+                          ui::Group("What it leaves", {ui::Grow(lstleft)})})
+                    .Grow();
+    return page;
+  }
+
+  void Load() override { Return(); }
+  void Return() override { ShowPlan({}); }
+
+ private:
+  void ShowPlan(const std::string& before) {
+    const DataFolder& data = EditedData(game_);
+    const Maintenance plan = PlanMaintenance(data.World(), UnreadableFaults(data));
+    doings_ = plan.Doings.size();
+    FillFaults(lstfaults, plan.Faults);
+    FillFaults(lstdoings, plan.Doings);
+    FillFaults(lstleft, plan.Left);
+    cmdclean.Enabled = doings_ > 0;
+    cmdclean.Tip = doings_ > 0 ? "" : "There is nothing that a clean-up would do.";
+    lblfacts.Text = before + (plan.Faults.empty() ? "No faults: " + ContentsOf(data.World()) + "."
+                                                  : Summary(plan));
+  }
+
+  static std::string Summary(const Maintenance& plan) {
+    const std::size_t faults = plan.Faults.size(), left = plan.Left.size();
+    const std::string mends =
+        plan.Doings.empty()
+            ? "A clean-up can do nothing about " + std::string(faults == 1 ? "it" : "them") + "."
+            : "The clean-up takes " + Counted(plan.Doings.size(), "step") +
+                  (left == 0 ? " and leaves none."
+                             : "; " + std::to_string(left) + (left == 1 ? " stays." : " stay."));
+    return Counted(faults, "fault") + ShownOf(faults) + ". " + mends;
+  }
+
+  void cmdclean_Click() {
+    if (!desk().Ask("Clean Up?", "Mend the data in " + Counted(doings_, "step") +
+                                     "? What they are now is kept as a backup."))
+      return;
+    DataFolder& data = EditedData(game_);
+    const std::size_t done = Maintain(data.World(), UnreadableFaults(data)).size();
+    ShowPlan("Cleaned up in " + Counted(done, "step") + ". ");
+  }
+  void cmdback_Click() { Close(); }
+
+  Game& game_;
+  std::size_t doings_ = 0;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ListBox lstfaults{*this, "lstfaults", FaultColumns("What is wrong")};
+  ui::ListBox lstdoings{*this, "lstdoings", FaultColumns("What is wrong, and what is done")};
+  ui::ListBox lstleft{*this, "lstleft", FaultColumns("What is wrong")};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmEditMaintain::cmdback_Click};
+  ui::Button cmdclean{*this, "cmdclean", "Clean Up", &frmEditMaintain::cmdclean_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmEditMaintain(Game& game) {
+  return std::make_unique<frmEditMaintain>(game);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,147 @@
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include "editor/screens/editorscreens.h"
+#include "editor/screens/screenediting.h"
+#include "editor/screens/screenpages.h"
+#include "editor/screens/screenrecords.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// What works on the files as a whole.
+struct FileWork {
+  const char* Button;
+  const char* Caption;
+  const char* Screen;
+  const char* Tip;
+};
+constexpr FileWork kFileWork[] = {
+    {"cmdmaintain", "Maintain", "frmEditMaintain", "Looks for faults and mends them."},
+    {"cmdmerge", "Merge", "frmEditMerge", "Takes in the records of other files."},
+    {"cmdimport", "Import", "frmEditImport", "Takes workers from another file."},
+    {"cmdtables", "Tables", "frmEditTables", "Writes the data as tables, and reads them."}};
+
+class frmEditor : public ui::Screen {
+ public:
+  explicit frmEditor(Game& game)
+      : Screen(game.Desk(), "frmEditor", "File Editor"), game_(game), data_(EditedData(game)) {
+    for (const RecordPage& page : RecordPages()) {
+      pages_.push_back(std::make_unique<ui::Button>(*this, std::string(page.Button),
+                                                    std::string(page.Title),
+                                                    [this, &page] { desk().Open(page.Screen); }));
+      counts_.push_back(
+          std::make_unique<ui::Label>(*this, "lbl" + std::string(page.Button.substr(3))));
+    }
+    for (const FileWork& work : kFileWork) {
+      works_.push_back(std::make_unique<ui::Button>(*this, work.Button, work.Caption,
+                                                    [this, &work] { desk().Open(work.Screen); }));
+      const bool known = desk().Knows(work.Screen);
+      works_.back()->Enabled = known;
+      works_.back()->Tip = known ? work.Tip : "Comes with a later version.";
+    }
+    lstfaults.EmptyText = "The data are in order.";
+  }
+
+  ui::Page Layout() override {
+    std::vector<ui::Box> records, works;
+    for (std::size_t i = 0; i < pages_.size(); ++i)
+      records.push_back(ui::Columns({ui::Box(*pages_[i]).Grow(), ui::Box(*counts_[i]).Grow()}));
+    for (const auto& work : works_) works.emplace_back(*work);
+    works.emplace_back(cmdrestore);
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback};
+    page.Cancel = &cmdback;
+    page.Body =
+        ui::Columns({ui::Rows({ui::Group("Records", std::move(records)), ui::Spacer()}).Grow(2),
+                     ui::Rows({ui::Group("Files", {ui::Rows(std::move(works))}),
+                               ui::Group("Faults", {ui::Grow(lstfaults)}).Grow()})
+                         .Grow(5)});
+    return page;
+  }
+
+  void Load() override { Return(); }
+  void Return() override {
+    ShowCounts();
+    ShowFaults();
+    const bool has = data_.HasBackup();
+    cmdrestore.Enabled = has;
+    cmdrestore.Tip = has ? "Puts the data back as they were before the last session that changed "
+                           "them."
+                         : "There is no backup yet. The first change of a session makes one.";
+  }
+
+ private:
+  void ShowCounts() {
+    const auto pages = RecordPages();
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+      const RecordPage& page = pages[i];
+      const RecordLayout& layout = LayoutOf(page.Kind);
+      int count = 0;
+      for (int number = 1; number <= CountOf(data_.World(), page.Kind); ++number)
+        count +=
+            !page.Shows || page.Shows(RecordAt(std::as_const(data_).World(), page.Kind, number));
+      counts_[i]->Text = data_.IsReadable(layout.File)
+                             ? std::to_string(count) + " of " + std::to_string(layout.Limit)
+                             : "cannot be read";
+    }
+  }
+
+  void ShowFaults() {
+    lstfaults.Clear();
+    for (const UnreadableFile& file : data_.Unreadable()) lstfaults.Add({file.File, "", file.Why});
+    for (const Fault& fault : CheckWorld(data_.World()))
+      lstfaults.Add(
+          {fault.File,
+           fault.Who.empty() && fault.Record > 0 ? std::to_string(fault.Record) : fault.Who,
+           FaultWords(fault)});
+    lblfacts.Text = std::string(
+                        "The default world, of which every new game is made. Games that have begun "
+                        "keep what they have. ") +
+                    (lstfaults.Count() == 0 ? "The data are in order."
+                                            : std::to_string(lstfaults.Count()) + " faults.");
+  }
+
+  void cmdrestore_Click() {
+    if (!desk().Ask("Restore Backup",
+                    "Put the data back as they were before the last session that changed them? "
+                    "What they are now becomes the backup.",
+                    ui::Default::No))
+      return;
+    if (!data_.Restore()) desk().Say("Restore Backup", "The data and the backup are the same.");
+    Return();
+  }
+
+  void cmdback_Click() {
+    StopEditing(game_);
+    Close();
+  }
+
+  Game& game_;
+  DataFolder& data_;
+  std::vector<std::unique_ptr<ui::Button>> pages_;
+  std::vector<std::unique_ptr<ui::Label>> counts_;
+  std::vector<std::unique_ptr<ui::Button>> works_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Button cmdrestore{*this, "cmdrestore", "Restore Backup", &frmEditor::cmdrestore_Click};
+  ui::ListBox lstfaults{*this,
+                        "lstfaults",
+                        {{"File", ui::ColumnKind::Text, 2},
+                         {"Record", ui::ColumnKind::Text, 3},
+                         {"Fault", ui::ColumnKind::Text, 9}}};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmEditor::cmdback_Click};
+};
+
+}  // namespace
+
+void RegisterEditorScreens(Game& game) {
+  game.Desk().Register("frmEditor", [&game] { return std::make_unique<frmEditor>(game); });
+  for (const RecordPage& page : RecordPages())
+    game.Desk().Register(std::string(page.Screen),
+                         [&game, &page] { return std::make_unique<RecordScreen>(game, page); });
+}
+
+}  // namespace grapplemont

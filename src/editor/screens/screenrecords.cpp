@@ -1,0 +1,283 @@
+#include "editor/screens/screenrecords.h"
+
+#include <algorithm>
+
+#include "editor/keeping.h"
+#include "editor/screens/screencells.h"
+#include "editor/screens/screenediting.h"
+
+namespace grapplemont {
+
+namespace {
+
+std::vector<ui::Column> ColumnsFor(const RecordPage& page) {
+  std::vector<ui::Column> columns;
+  for (const PageColumn& column : page.Columns)
+    columns.push_back({std::string(column.Title), column.Kind});
+  return columns;
+}
+
+std::string Small(std::string_view text) {
+  std::string small(text);
+  for (char& c : small)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  return small;
+}
+
+/// The first few lines, and how many more there are.
+std::string Lines(const std::vector<std::string>& lines) {
+  constexpr std::size_t kMost = 8;
+  std::string text;
+  for (std::size_t i = 0; i < std::min(lines.size(), kMost); ++i) text += "\n" + lines[i];
+  if (lines.size() > kMost) text += "\nand " + std::to_string(lines.size() - kMost) + " more.";
+  return text;
+}
+
+/// A line for each reason; faults of other records begin with whose they are.
+std::string WhyNot(const Keeping& keeping, std::string_view file) {
+  std::string why = keeping.WhyNot;
+  for (const Fault& fault : keeping.Wrong) {
+    if (!why.empty()) why += "\n";
+    if (fault.File != file || fault.Record != keeping.Number) why += fault.Who + ": ";
+    why += FaultWords(fault);
+  }
+  return why;
+}
+
+bool IsShown(const RecordPage& page, const std::byte* record) {
+  return !page.Shows || page.Shows(record);
+}
+
+}  // namespace
+
+RecordScreen::RecordScreen(Game& game, const RecordPage& page)
+    : Screen(game.Desk(), std::string(page.Screen), std::string(page.Title)),
+      data_(EditedData(game)),
+      page_(page),
+      lstrecords(*this, "lstrecords", ColumnsFor(page), &RecordScreen::lstrecords_Click),
+      form_(*this, page, [this] { ShowButtons(); }) {
+  for (const PageColumn& column : page.Columns)
+    columns_.push_back(FieldNamed(page.Kind, column.Field));
+  txtsearch.Hint = "Search in all columns";
+  txtsearch.OnChange = [this] { txtsearch_Change(); };
+  lblfault.Colour = ui::Tone::Amber;
+  lstrecords.Room = 30;
+}
+
+ui::Page RecordScreen::Layout() {
+  ui::Page page;
+  page.Facts = &lblfacts;
+  page.Actions = {&cmdback, &cmddelete, &cmdcopy, &cmdnew, &cmdrevert, &cmdsave};
+  page.Main = &cmdsave;
+  page.Cancel = &cmdback;
+  page.Body =
+      ui::Columns({ui::Rows({txtsearch, ui::Grow(lstrecords)}).Grow(5),
+                   ui::Rows({lblrecord, lblfault, form_.Body().Grow(), ui::Spacer()}).Grow(6)});
+  return page;
+}
+
+void RecordScreen::Load() {
+  LookOver();
+  FillTable();
+  Choose(lstrecords.Count() > 0 ? lstrecords.Rows().front().Key : 0);
+}
+
+void RecordScreen::Return() {
+  LookOver();
+  // A record that was to be kept and was taken back stays in hand.
+  if (number_ > CountOf(data_.World(), page_.Kind)) {
+    number_ = 0;
+    fresh_ = worthKeeping_ = true;
+  }
+  FillTable();
+  ShowButtons();
+}
+
+/// What is wrong with the page's records.
+void RecordScreen::LookOver() {
+  faults_.clear();
+  const std::string_view file = LayoutOf(page_.Kind).File;
+  for (const Fault& fault : CheckWorld(data_.World())) {
+    if (fault.File != file || fault.Record == 0) continue;
+    if (!IsShown(page_, RecordAt(data_.World(), page_.Kind, fault.Record))) continue;
+    std::string& words = faults_[fault.Record];
+    if (!words.empty()) words += " ";
+    words += FaultWords(fault);
+  }
+}
+
+ui::ListBox::Row RecordScreen::RowOf(int number) const {
+  const World& world = data_.World();
+  const std::byte* record = RecordAt(world, page_.Kind, number);
+  ui::ListBox::Row row;
+  row.Key = number;
+  for (std::size_t i = 0; i < columns_.size(); ++i)
+    row.Cells.push_back(CellOf(world, page_.Columns[i], columns_[i], record));
+  if (faults_.contains(number)) row.Cells.front().Colour = ui::Tone::Amber;
+  return row;
+}
+
+bool RecordScreen::Found(const ui::ListBox::Row& row) const {
+  const std::string wanted = Small(detail::Trimmed(txtsearch.Text.Get()));
+  return std::any_of(row.Cells.begin(), row.Cells.end(), [&](const ui::Cell& cell) {
+    return Small(cell.Text).find(wanted) != std::string::npos;
+  });
+}
+
+void RecordScreen::FillTable() {
+  const World& world = data_.World();
+  std::vector<ui::ListBox::Row> rows;
+  int all = 0;
+  for (int number = 1; number <= CountOf(world, page_.Kind); ++number) {
+    if (!IsShown(page_, RecordAt(world, page_.Kind, number))) continue;
+    ++all;
+    auto row = RowOf(number);
+    if (Found(row)) rows.push_back(std::move(row));
+  }
+  lstrecords.EmptyText =
+      all > 0 ? "Nothing here has this in it." : "There are none yet. New makes one.";
+  const std::string file(LayoutOf(page_.Kind).File);
+  if (!data_.IsReadable(file)) lstrecords.EmptyText = file + " cannot be read.";
+  lstrecords.Fill(std::move(rows), false);
+  lstrecords.SelectKey(number_);
+  lblfacts.Text = (page_.Shows ? std::to_string(all) + " here; " : "") +
+                  std::to_string(CountOf(world, page_.Kind)) + " of " +
+                  std::to_string(LayoutOf(page_.Kind).Limit) + " records. " +
+                  (faults_.empty() ? "None has a fault."
+                                   : std::to_string(faults_.size()) + " with faults, in amber.");
+}
+
+void RecordScreen::Choose(int number) {
+  if (number > 0)
+    ShowRecord(number);
+  else
+    ShowNothing();
+  lstrecords.SelectKey(number);
+}
+
+void RecordScreen::ShowRecord(int number) {
+  number_ = number;
+  fresh_ = worthKeeping_ = false;
+  const std::byte* record = RecordAt(std::as_const(data_).World(), page_.Kind, number);
+  inHand_.assign(record, record + LayoutOf(page_.Kind).Size);
+  form_.Show(data_.World(), inHand_);
+  ShowButtons();
+}
+
+void RecordScreen::ShowNew(Bytes record, bool worthKeeping) {
+  number_ = 0;
+  fresh_ = true;
+  worthKeeping_ = worthKeeping;
+  inHand_ = std::move(record);
+  form_.Show(data_.World(), inHand_);
+  lstrecords.Select(0);
+  ShowButtons();
+}
+
+void RecordScreen::ShowNothing() {
+  number_ = 0;
+  fresh_ = worthKeeping_ = false;
+  inHand_.clear();
+  form_.Clear();
+  ShowButtons();
+}
+
+std::string RecordScreen::Called() const {
+  if (inHand_.empty()) return "No " + std::string(page_.One);
+  const std::string name = NameOf(page_.Kind, inHand_.data());
+  if (!fresh_) return name.empty() ? "A " + std::string(page_.One) + " without a name" : name;
+  return "New " + std::string(page_.One);
+}
+
+void RecordScreen::ShowButtons() {
+  const bool stands = number_ > 0, dirty = IsDirty();
+  lblrecord.Text = Called();
+  const auto fault = faults_.find(number_);
+  lblfault.Text = fault == faults_.end() ? std::string() : fault->second;
+  lblfault.Visible = !lblfault.Text->empty();
+  const auto offer = [](ui::Button& button, bool on, const char* why) {
+    button.Enabled = on;
+    button.Tip = on ? "" : why;
+  };
+  offer(cmdsave, dirty || fresh_, "Nothing has been changed.");
+  offer(cmdrevert, dirty || fresh_, "Nothing has been changed.");
+  offer(cmdcopy, stands, "Choose a record first.");
+  offer(cmddelete, stands, "Choose a record first.");
+  offer(cmdnew, data_.IsReadable(LayoutOf(page_.Kind).File), "The file cannot be read.");
+}
+
+bool RecordScreen::IsDirty() const {
+  if (form_.Changed() || (fresh_ && worthKeeping_)) return true;
+  if (number_ == 0 || number_ > CountOf(data_.World(), page_.Kind)) return false;
+  const std::byte* stands = RecordAt(std::as_const(data_).World(), page_.Kind, number_);
+  return !std::equal(inHand_.begin(), inHand_.end(), stands);
+}
+
+bool RecordScreen::MayLeave() {
+  return !IsDirty() || desk().Ask("Unsaved Changes",
+                                  Called() + " has changes that are not saved. Throw them away?",
+                                  ui::Default::No);
+}
+
+void RecordScreen::lstrecords_Click() {
+  const int chosen = lstrecords.Key();
+  if (chosen == 0 || chosen == number_) return;
+  if (MayLeave()) return Choose(chosen);
+  lstrecords.SelectKey(number_);
+}
+
+void RecordScreen::cmdnew_Click() {
+  const std::string why = WhyNoMore(data_.World(), page_.Kind);
+  if (!why.empty()) return desk().Say("Error!", why);
+  if (!MayLeave()) return;
+  Bytes record = NewRecord(page_.Kind);
+  if (page_.Begin) page_.Begin(record.data());
+  ShowNew(std::move(record), false);
+}
+
+void RecordScreen::cmdcopy_Click() {
+  const std::string why = WhyNoMore(data_.World(), page_.Kind);
+  if (!why.empty()) return desk().Say("Error!", why);
+  if (!MayLeave()) return;
+  ShowNew(CopyOfRecord(data_.World(), page_.Kind, number_), true);
+}
+
+void RecordScreen::cmddelete_Click() {
+  // Done at first, so that the question can tell what comes of it; nothing is on disk before Yes.
+  const std::string name = Called();
+  const auto also = DeleteRecord(data_.World(), page_.Kind, number_);
+  std::string text = "Are you sure you want to delete " + name + "?";
+  if (!also.empty()) text += "\n\nThis also happens:" + Lines(also);
+  if (!desk().Ask("Delete", text, ui::Default::No)) return data_.Rollback();
+  const int at = lstrecords.Selected();
+  LookOver();
+  number_ = 0;
+  FillTable();
+  const int row = std::min(at > 0 ? at : 1, lstrecords.Count());
+  Choose(row > 0 ? lstrecords.Rows()[static_cast<std::size_t>(row - 1)].Key : 0);
+}
+
+void RecordScreen::cmdrevert_Click() {
+  Choose(fresh_ ? (lstrecords.Count() > 0 ? lstrecords.Rows().front().Key : 0) : number_);
+}
+
+void RecordScreen::cmdsave_Click() {
+  Bytes record;
+  std::string why = form_.Take(record);
+  if (!why.empty()) return desk().Say("Error!", why);
+  const Keeping keeping = KeepRecord(data_.World(), page_.Kind, number_, record);
+  if (!keeping.Done()) {
+    data_.Rollback();
+    return desk().Say("Error!", WhyNot(keeping, LayoutOf(page_.Kind).File));
+  }
+  LookOver();
+  FillTable();
+  Choose(keeping.Number);
+  if (!keeping.Also.empty()) desk().Say("Saved", "This has also happened:" + Lines(keeping.Also));
+}
+
+void RecordScreen::cmdback_Click() {
+  if (MayLeave()) Close();
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,164 @@
+#include "info/fans.h"
+#include "info/rankings.h"
+#include "info/rumours.h"
+#include "info/screens/infoscreens.h"
+#include "info/worldnews.h"
+#include "records/dates.h"
+#include "records/modVar.h"
+
+namespace grapplemont {
+
+namespace {
+
+using Style = ui::Report::Style;
+using Paragraphs = std::vector<ui::Report::Paragraph>;
+
+// The sites. All of it is free, and some of it is worth that.
+constexpr const char* kNewsSite = "The Daily Turnbuckle";
+constexpr const char* kRankSite = "Rankwell's Register";
+constexpr const char* kRumourSite = "Behind The Curtain";
+constexpr const char* kFanSite = "Cheap Seats";
+
+/// What the world says about itself, a tab for each site.
+class frmInternet : public ui::Screen {
+ public:
+  explicit frmInternet(Game& game) : Screen(game.Desk(), "frmInternet", "Internet"), game_(game) {
+    lstnews.EmptyText = "Nothing has happened since the first of last month.";
+    lstrank.EmptyText = "Nobody can be ranked here.";
+    for (const Ranking& ranking : Rankings()) cmbrank.Add(ranking.Title, cmbrank.Count() + 1);
+    cmbrank.Select(1);
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback};
+    page.Main = &cmdback;
+    page.Cancel = &cmdback;
+    page.Body = ui::Tabs({ui::Group(kNewsSite, {chkshows, ui::Grow(lstnews)}),
+                          ui::Group(kRankSite, {ui::Field("Ranking", cmbrank), ui::Grow(lstrank)}),
+                          ui::Group(kRumourSite, {ui::Grow(txtrumours)}),
+                          ui::Group(kFanSite, {ui::Grow(txtfans)})});
+    return page;
+  }
+
+  void Load() override { Return(); }
+  void Return() override {
+    lblfacts.Text = "As of " + LongDate(world().Today()) + ". Pages load slowly, but they load.";
+    ShowNews();
+    ShowRanking();
+    ShowRumours();
+    ShowFans();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+
+  void ShowNews() {
+    std::vector<ui::ListBox::Row> rows;
+    for (const NewsItem& item : WorldNews(world())) {
+      if (!chkshows.Checked && (item.What == "Show" || item.What == "Event")) continue;
+      const double day = static_cast<double>((item.On - kDayZero).count());
+      rows.push_back({{{day, ShortDate(item.On), ui::Tone::Muted},
+                       ui::Cell(item.What, ToneOf(item)),
+                       item.House,
+                       item.Words},
+                      static_cast<int>(rows.size()) + 1});
+    }
+    lstnews.Fill(std::move(rows), false);
+  }
+
+  ui::Tone ToneOf(const NewsItem& item) {
+    if (item.House == world().Player().Initials.View()) return ui::Tone::Gold;
+    if (item.What == "Money" || item.What == "Injury") return ui::Tone::Red;
+    return item.What == "Title" ? ui::Tone::Blue : ui::Tone::Plain;
+  }
+
+  void ShowRanking() {
+    const int key = cmbrank.Key();
+    if (key < 1) return;
+    const Ranking& ranking = Rankings()[static_cast<std::size_t>(key - 1)];
+    lstrank.SetColumns({{"Place", K::Number, 1},
+                        {ranking.What, K::Text, 5},
+                        {"Promotion", K::Text, 2},
+                        {ranking.First, K::Number, 2},
+                        {ranking.Second, K::Number, 3}});
+    std::vector<ui::ListBox::Row> rows;
+    for (const RankRow& row : RowsOf(world(), ranking)) {
+      const int place = static_cast<int>(rows.size()) + 1;
+      rows.push_back(
+          {{ui::Cell(place),
+            ui::Cell(row.Name, row.House == world().Player().Initials.View() ? ui::Tone::Gold
+                                                                             : ui::Tone::Plain),
+            row.House, ui::Cell(row.First.Number, row.First.Text),
+            ui::Cell(row.Second.Number, row.Second.Text)},
+           place});
+    }
+    lstrank.Fill(std::move(rows), false);
+  }
+
+  void ShowRumours() {
+    Paragraphs words = {{Style::Heading, "Heard in " + MonthYear(world().Today())},
+                        {Style::Muted, "We print what we hear. What we hear, we hear twice."}};
+    const std::vector<Rumour> rumours = RumoursOf(world());
+    for (const Rumour& rumour : rumours) words.push_back({Style::Body, rumour.Words});
+    if (rumours.empty()) words.push_back({Style::Body, "Nobody whispers. It is unnerving."});
+    txtrumours.Write(std::move(words));
+  }
+
+  static std::string HeadingOf(const ShowSeen& show) {
+    return show.Show + ", " + show.House + ", " + PlainDate(show.On);
+  }
+
+  static std::string FiguresOf(const ShowSeen& show) {
+    if (show.CalledOff) return "Called off.";
+    std::string text = show.IsPlayers ? "Rated " + std::to_string(show.Rating) + "%. " : "";
+    if (show.Viewers > 0)
+      text += (show.IsEvent ? "A buy rate of " : "A television rating of ") +
+              RatingText(show.Viewers) + ". ";
+    return text + std::to_string(show.People) + (show.People == 1 ? " person" : " people") +
+           " in the hall.";
+  }
+
+  void ShowFans() {
+    Paragraphs words;
+    for (const FanThread& thread : FanPage(world())) {
+      words.push_back({Style::Heading, HeadingOf(thread.About)});
+      words.push_back({Style::Muted, FiguresOf(thread.About)});
+      for (const FanPost& post : thread.Posts) {
+        words.push_back({Style::Strong, post.Handle});
+        words.push_back({Style::Body, post.Words});
+      }
+    }
+    if (words.empty())
+      words.push_back(
+          {Style::Muted, "No show has been held of late. The fans discuss each other's spelling."});
+    txtfans.Write(std::move(words));
+  }
+
+  void cmbrank_Click() { ShowRanking(); }
+  void cmdback_Click() { Close(); }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::CheckBox chkshows{*this, "chkshows", "Shows that were held, too", false,
+                        &frmInternet::ShowNews};
+  ui::ListBox lstnews{
+      *this,
+      "lstnews",
+      {{"Date", K::Date, 2}, {"What", K::Tag, 2}, {"Who", K::Text, 2}, {"Story", K::Text, 14}}};
+  ui::ComboBox cmbrank{*this, "cmbrank", &frmInternet::cmbrank_Click};
+  ui::ListBox lstrank{*this, "lstrank", {{"Place", K::Number}}};
+  ui::Report txtrumours{*this, "txtrumours"};
+  ui::Report txtfans{*this, "txtfans"};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmInternet::cmdback_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmInternet(Game& game) {
+  return std::make_unique<frmInternet>(game);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,148 @@
+#include <algorithm>
+
+#include "info/mailbox.h"
+#include "info/screens/infoscreens.h"
+#include "records/modVar.h"
+#include "records/world.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// The mailbox: the newest on top, the selected mail beside the list.
+class frmNews : public ui::Screen {
+ public:
+  explicit frmNews(Game& game) : Screen(game.Desk(), "frmNews", "News"), game_(game) {
+    lstnews.EmptyText = "No mail. What the world has to tell you arrives here.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdempty, &cmddelete, &cmdback};
+    page.Main = &cmdback;
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns({ui::Group("", {ui::Field("From", cmbfrom), ui::Grow(lstnews)}).Grow(3),
+                             ui::Group("", {lblfrom, lbldate, ui::Grow(txtbody)}).Grow(2)});
+    return page;
+  }
+
+  void Load() override {
+    ShowSenders();
+    ShowMails();
+    lstnews.Select(1);
+    lstnews_Click();
+  }
+
+  void Return() override {
+    ShowSenders();
+    ShowMails();
+    if (lstnews.Selected() == 0) lstnews.Select(1);
+    lstnews_Click();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+
+  /// Empty for everybody.
+  std::string From() const { return cmbfrom.Selected() <= 1 ? std::string() : cmbfrom.Text.Get(); }
+
+  /// A sender whose last mail has gone leaves the list, and the filter with him.
+  void ShowSenders() {
+    const std::string kept = From();
+    cmbfrom.Clear();
+    cmbfrom.Add("Everybody");
+    cmbfrom.Select(1);
+    for (const std::string& sender : MailSenders(world())) {
+      cmbfrom.Add(sender);
+      if (sender == kept && !kept.empty()) cmbfrom.Select(cmbfrom.Count());
+    }
+  }
+
+  void ShowMails() {
+    std::vector<ui::ListBox::Row> rows;
+    for (const int number : MailsNewestFirst(world(), From())) {
+      const Mail& mail = world().News()[number];
+      // Sorted by date a mailbox is in the order in which the mails came.
+      rows.push_back(
+          {{mail.From.View(), ui::Cell(number, mail.Date.Str(), ui::Tone::Muted), mail.Body.View()},
+           number});
+    }
+    lstnews.Fill(std::move(rows));
+    ShowCount();
+  }
+
+  void ShowCount() {
+    const int all = world().News().Count();
+    lblfacts.Text = all == 1 ? "1 mail." : std::to_string(all) + " mails.";
+    if (lstnews.Count() < all)
+      lblfacts.Text = std::to_string(lstnews.Count()) + " of " + lblfacts.Text.Get();
+    cmdempty.Enabled = HasNews(world());
+    cmdempty.Tip = cmdempty.Enabled ? "" : "The mailbox is empty.";
+  }
+
+  void lstnews_Click() {
+    const int number = lstnews.Key();
+    const Mail mail = number == 0 ? Mail{} : world().News()[number];
+    lblfrom.Text = mail.From.Str();
+    lbldate.Text = mail.Date.Str();
+    txtbody.Write(mail.Body.View());
+    cmddelete.Enabled = number != 0;
+    cmddelete.Tip = number != 0 ? "" : "Pick a mail first.";
+  }
+
+  void cmbfrom_Click() {
+    lstnews.Select(0);
+    ShowMails();
+    lstnews.Select(1);
+    lstnews_Click();
+  }
+
+  /// The place in the list stays, so that several can be deleted one after the other.
+  void cmddelete_Click() {
+    const int place = lstnews.Selected();
+    DeleteMail(world(), lstnews.Key());
+    lstnews.Select(0);
+    ShowSenders();
+    ShowMails();
+    lstnews.Select(std::min(place, lstnews.Count()));
+    lstnews_Click();
+  }
+
+  void cmdempty_Click() {
+    const int all = world().News().Count();
+    const std::string what = all == 1 ? "the one mail" : "all " + std::to_string(all) + " mails";
+    if (!desk().Ask("Empty?", "Are you sure you want to delete " + what + "?", ui::Default::No))
+      return;
+    EmptyMailbox(world());
+    ShowSenders();
+    ShowMails();
+    lstnews_Click();
+    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
+  }
+
+  void cmdback_Click() { Close(); }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ComboBox cmbfrom{*this, "cmbfrom", &frmNews::cmbfrom_Click};
+  ui::ListBox lstnews{*this,
+                      "lstnews",
+                      {{"From", K::Text, 2}, {"Date", K::Date, 1}, {"Mail", K::Text, 5}},
+                      &frmNews::lstnews_Click};
+  ui::Label lblfrom{*this, "lblfrom"};
+  ui::Label lbldate{*this, "lbldate"};
+  ui::Report txtbody{*this, "txtbody"};
+  ui::Button cmdempty{*this, "cmdempty", "Empty Mailbox", &frmNews::cmdempty_Click};
+  ui::Button cmddelete{*this, "cmddelete", "Delete", &frmNews::cmddelete_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmNews::cmdback_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmNews(Game& game) {
+  return std::make_unique<frmNews>(game);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,81 @@
+#include "info/screens/infoscreens.h"
+#include "records/world.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// The player's own notes. What is typed is on disk with the same stroke, so that no way of closing
+/// the program loses it.
+class frmNotepad : public ui::Screen {
+ public:
+  explicit frmNotepad(Game& game) : Screen(game.Desk(), "frmNotepad", "Notepad"), game_(game) {
+    txtnotes.MultiLine = true;
+    txtnotes.Hint = "Plans, rumours, who owes whom a favour.";
+    txtnotes.OnChange = [this] { txtnotes_Change(); };
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdrevert, &cmdback};
+    page.Cancel = &cmdback;
+    page.Body = ui::Group("", {ui::Grow(txtnotes)});
+    return page;
+  }
+
+  void Load() override {
+    txtnotes.Text = notes().Text();
+    ShowState();
+  }
+
+  /// An event was taken back: the box keeps what was typed, for another try.
+  void Return() override { ShowState(); }
+
+ private:
+  TextFile& notes() { return game_.World().Notes(); }
+
+  void Store() { notes().Set(txtnotes.Text.Get()); }
+
+  void ShowState() {
+    const bool stored = txtnotes.Text.Get() == notes().Text();
+    lblfacts.Text = stored ? "Saved as you type." : "The last change is not saved yet.";
+    lblfacts.Colour = stored ? ui::Tone::Muted : ui::Tone::Red;
+    cmdrevert.Visible = !stored;
+  }
+
+  void txtnotes_Change() {
+    const auto most = static_cast<std::size_t>(notes().MaxBytes());
+    if (txtnotes.Text->size() > most) {
+      txtnotes.Text = notes().Text();
+      desk().Say("Error!", "The notepad holds " + std::to_string(most) +
+                               " letters at most. Your notes are as they were before.");
+    }
+    Store();
+    ShowState();
+  }
+
+  void cmdrevert_Click() {
+    txtnotes.Text = notes().Text();
+    ShowState();
+  }
+
+  void cmdback_Click() {
+    Store();
+    Close();
+  }
+
+  Game& game_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::TextBox txtnotes{*this, "txtnotes"};
+  ui::Button cmdrevert{*this, "cmdrevert", "Back To What Is Saved", &frmNotepad::cmdrevert_Click};
+  ui::Button cmdback{*this, "cmdback", "Done", &frmNotepad::cmdback_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmNotepad(Game& game) {
+  return std::make_unique<frmNotepad>(game);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,144 @@
+#include <algorithm>
+
+#include "calendar/meetingday.h"
+#include "info/meeting.h"
+#include "info/screens/infoscreens.h"
+#include "records/dates.h"
+#include "storylines/screens/screenpeople.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// The staff meeting: everything that somebody has to say, the most urgent first.
+class frmTalk : public ui::Screen {
+ public:
+  explicit frmTalk(Game& game) : Screen(game.Desk(), "frmTalk", "Staff Meeting"), game_(game) {
+    lsttalk.EmptyText = "Nobody has anything to say.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback, &cmdgo};
+    page.Main = &cmdgo;
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns({ui::Group("On the table", {ui::Grow(lsttalk)}).Grow(6),
+                             ui::Group("", {ui::Grow(txtsays)}).Grow(5)});
+    return page;
+  }
+
+  void Load() override {
+    HoldIt();
+    lsttalk.Select(advice_.empty() ? 0 : 1);
+    lsttalk_Click();
+  }
+
+  /// What has been seen to in the meantime is off the table.
+  void Return() override {
+    HoldIt();
+    if (lsttalk.Selected() == 0 && !advice_.empty()) lsttalk.Select(1);
+    lsttalk_Click();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+
+  void HoldIt() {
+    const std::string why = WhyNoMeeting(world());
+    advice_ = why.empty() ? HoldMeeting(world()) : std::vector<Advice>();
+    lsttalk.EmptyText = why.empty() ? "Nobody has anything to say." : why;
+    lblfacts.Text = why.empty() ? Summary() : why;
+    std::vector<ui::ListBox::Row> rows;
+    for (const Advice& advice : advice_)
+      rows.push_back({{{static_cast<double>(advice.How), std::string(UrgencyText(advice.How)),
+                        ToneOf(advice.How)},
+                       TopicText(advice.About),
+                       ui::Cell(advice.Speaker, ui::Tone::Muted),
+                       advice.Says},
+                      static_cast<int>(rows.size()) + 1});
+    lsttalk.Fill(std::move(rows));
+  }
+
+  std::string Summary() const {
+    const auto urgent = std::count_if(advice_.begin(), advice_.end(), [](const Advice& advice) {
+      return advice.How == Urgency::Now;
+    });
+    const std::string points = std::to_string(advice_.size());
+    return LongDate(game_.World().Today()) + ": " + points +
+           (advice_.size() == 1 ? " point" : " points") + " on the table, " +
+           (urgent == 0 ? "none" : std::to_string(urgent)) + " of them urgent.";
+  }
+
+  static ui::Tone ToneOf(Urgency urgency) {
+    constexpr ui::Tone kTones[] = {ui::Tone::Red, ui::Tone::Amber, ui::Tone::Plain,
+                                   ui::Tone::Green};
+    return kTones[static_cast<std::size_t>(urgency)];
+  }
+
+  const Advice* Chosen() const {
+    const int key = lsttalk.Key();
+    return key == 0 ? nullptr : &advice_[static_cast<std::size_t>(key - 1)];
+  }
+
+  void lsttalk_Click() {
+    using Style = ui::Report::Style;
+    const Advice* advice = Chosen();
+    const bool leads = advice && desk().Knows(advice->Screen);
+    EnableUnless(cmdgo, leads ? "" : "There is nothing to be done about it.");
+    if (!advice) return txtsays.Write({{Style::Muted, lsttalk.EmptyText}});
+    std::vector<ui::Report::Paragraph> words = {
+        {Style::Heading, std::string(TopicText(advice->About))},
+        {Style::Strong, advice->Speaker + (advice->Post.empty() ? "" : " (" + advice->Post + ")")},
+        {Style::Body, "'" + advice->Says + "'"}};
+    if (!advice->Do.empty()) {
+      words.push_back({Style::Strong, "What to do"});
+      words.push_back({Style::Body, advice->Do});
+    }
+    txtsays.Write(std::move(words));
+  }
+
+  void cmdgo_Click() {
+    const Advice* advice = Chosen();
+    if (!advice || !desk().Knows(advice->Screen)) return;
+    if (const ui::Handler page = PageOfTheOne(*advice)) return page();
+    desk().Open(advice->Screen);
+  }
+
+  /// Where the roster is to be seen about one person alone, his page; else nothing.
+  ui::Handler PageOfTheOne(const Advice& advice) {
+    if (std::string_view(advice.Screen) != "frmRoster") return {};
+    const std::string_view says = advice.Says;
+    const std::vector<ui::Link> links = desk().LinksIn(says);
+    const auto name = [&](const ui::Link& link) { return says.substr(link.From, link.Length); };
+    const bool one = !links.empty() && std::all_of(links.begin(), links.end(), [&](auto& link) {
+      return name(link) == name(links.front());
+    });
+    return one ? links.front().Open : ui::Handler{};
+  }
+  void cmdback_Click() { Close(); }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  std::vector<Advice> advice_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ListBox lsttalk{*this,
+                      "lsttalk",
+                      {{"When", K::Tag, 2, "How long it can wait."},
+                       {"About", K::Text, 2},
+                       {"Who", K::Text, 3},
+                       {"Says", K::Text, 6}},
+                      &frmTalk::lsttalk_Click,
+                      &frmTalk::cmdgo_Click};
+  ui::Report txtsays{*this, "txtsays"};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmTalk::cmdback_Click};
+  ui::Button cmdgo{*this, "cmdgo", "See To It", &frmTalk::cmdgo_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmTalk(Game& game) {
+  return std::make_unique<frmTalk>(game);
+}
+
+}  // namespace grapplemont

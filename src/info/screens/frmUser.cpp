@@ -1,0 +1,112 @@
+#include "info/career.h"
+#include "info/screens/infoscreens.h"
+#include "records/dates.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+
+namespace grapplemont {
+
+namespace {
+
+std::string Count(int number, const std::string& what) {
+  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
+}
+
+/// The player's career.
+class frmUser : public ui::Screen {
+ public:
+  explicit frmUser(Game& game) : Screen(game.Desk(), "frmUser", "Career"), game_(game) {}
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback};
+    page.Main = &cmdback;
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns({ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow(5),
+                             ui::Group("", {ui::Grow(txtuser)}).Grow(2)});
+    return page;
+  }
+
+  void Load() override { Return(); }
+  void Return() override {
+    const GameInfo& info = world().Game();
+    lblfacts.Text = info.PlayerName + ", " + std::string(Says(kDifficulties, info.Difficulty)) +
+                    ", since " + PlainDate(info.StartDate) + ".";
+    ShowJobs();
+    ShowRecord();
+  }
+
+ private:
+  const World& world() { return game_.World(); }
+
+  static ui::Cell DateCell(Day day) {
+    return {static_cast<double>((day - kDayZero).count()), PlainDate(day)};
+  }
+
+  void ShowJobs() {
+    std::vector<ui::ListBox::Row> rows;
+    for (const JobLine& job : CareerOf(world()))
+      rows.push_back({{job.Promotion, DateCell(job.From),
+                       job.Present ? ui::Cell(DateCell(job.To).Number, "Today", ui::Tone::Gold)
+                                   : DateCell(job.To),
+                       SizeText(job.StartSize), SizeText(job.EndSize), ui::Cell(job.StartImage),
+                       ui::Cell(job.EndImage)},
+                      static_cast<int>(rows.size()) + 1});
+    lstjobs.Fill(std::move(rows));
+  }
+
+  static std::vector<std::string> LinesOf(const JobRecord& record) {
+    if (record.Shows + record.Events + record.CalledOff + record.Months == 0)
+      return {"Nothing has been told of it yet."};
+    std::vector<std::string> lines = {Count(record.Shows, "television show") + " and " +
+                                      Count(record.Events, "Event") + " held, " +
+                                      std::to_string(record.CalledOff) + " called off."};
+    if (!record.BestShow.empty()) {
+      lines.push_back("Mean rating " + std::to_string(record.MeanRating) + "%.");
+      lines.push_back("Best: " + record.BestShow + ", " + std::to_string(record.BestRating) + "%.");
+    }
+    if (record.Months > 0)
+      lines.push_back(Count(record.Months, "month") + " closed, " +
+                      (record.Profit < 0 ? "a loss of " : "a profit of ") +
+                      Dollars(record.Profit < 0 ? -record.Profit : record.Profit) + " in all.");
+    return lines;
+  }
+
+  void ShowRecord() {
+    using Style = ui::Report::Style;
+    const GameInfo& info = world().Game();
+    std::vector<ui::Report::Paragraph> words = {
+        {Style::Heading, info.PlayerName.Str()},
+        {Style::Line, ReputationText(info.Reputation) + "."},
+        {Style::Strong, "The present job"}};
+    for (const std::string& line : LinesOf(RecordOfJob(world())))
+      words.push_back({Style::Line, line});
+    txtuser.Write(std::move(words));
+  }
+
+  void cmdback_Click() { Close(); }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ListBox lstjobs{*this,
+                      "lstjobs",
+                      {{"Promotion", K::Text, 4},
+                       {"From", K::Date, 2},
+                       {"To", K::Date, 2},
+                       {"Size then", K::Text, 1},
+                       {"Size after", K::Text, 1, "Today's for the present job."},
+                       {"Image then", K::Number, 1},
+                       {"Image after", K::Number, 1, "Today's for the present job."}}};
+  ui::Report txtuser{*this, "txtuser"};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmUser::cmdback_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmUser(Game& game) {
+  return std::make_unique<frmUser>(game);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,93 @@
+#include "session/screens/sessionscreens.h"
+
+namespace grapplemont {
+
+namespace {
+
+class frmCredits : public ui::Screen {
+ public:
+  explicit frmCredits(Game& game) : Screen(game.Desk(), "frmCredits", "Credits", ui::Role::Cover) {
+    using Style = ui::Report::Style;
+    rptcredits.Write(
+        {{Style::Heading, "Grapplemont"},
+         {Style::Body, "Made by the people of the Grapplemont project."},
+         {Style::Strong, "The rules, the records, the screens, the prose, the pictures"},
+         {Style::Body, "Written and drawn for this game, every line."},
+         {Style::Strong, "The world"},
+         {Style::Body,
+          "Every promotion, worker, network and sponsor is invented. The people who "
+          "invented them apologise to nobody."},
+         {Style::Strong, "The office"},
+         {Style::Body,
+          "Maeve (the writers' room), The Lamplighter, Rafe Tolland and QVD (the "
+          "columns), Dalton Reeve (who owns more than he should)."},
+         {Style::Strong, "Thanks"},
+         {Style::Body,
+          "To everybody who has ever taken a fall on a hard canvas so that somebody "
+          "else looked good."}});
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Main = &cmdback;
+    page.Cancel = &cmdback;
+    page.Actions = {&cmdothers, &cmdback};
+    page.Body = ui::Group("", {ui::Grow(rptcredits)});
+    return page;
+  }
+
+ private:
+  void cmdothers_Click() { desk().Open("frmCreditsXtra"); }
+  void cmdback_Click() { Close(); }
+
+  ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
+  ui::Report rptcredits{*this, "rptcredits"};
+  ui::Button cmdothers{*this, "cmdothers", "Others", &frmCredits::cmdothers_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmCredits::cmdback_Click};
+};
+
+class frmCreditsXtra : public ui::Screen {
+ public:
+  explicit frmCreditsXtra(Game& game)
+      : Screen(game.Desk(), "frmCreditsXtra", "Other Credits", ui::Role::Cover) {
+    using Style = ui::Report::Style;
+    rptcredits.Write({{Style::Strong, "Built with"},
+                      {Style::Body,
+                       "Qt (the window), GoogleTest and Google Benchmark (the proof), and the "
+                       "compilers and libraries of Debian, by their many authors, each under its "
+                       "own free licence."},
+                      {Style::Strong, "Lettering"},
+                      {Style::Body, "Inter by Rasmus Andersson, where it is installed."},
+                      {Style::Strong, "Licence"},
+                      {Style::Body,
+                       "Grapplemont is free software under the GNU General Public License, version "
+                       "3 or later. It comes without any warranty, as does wrestling."}});
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Main = &cmdback;
+    page.Cancel = &cmdback;
+    page.Actions = {&cmdback};
+    page.Body = ui::Group("", {ui::Grow(rptcredits)});
+    return page;
+  }
+
+ private:
+  void cmdback_Click() { Close(); }
+
+  ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
+  ui::Report rptcredits{*this, "rptcredits"};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmCreditsXtra::cmdback_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmCredits(Game& game) {
+  return std::make_unique<frmCredits>(game);
+}
+std::unique_ptr<ui::Screen> MakefrmCreditsXtra(Game& game) {
+  return std::make_unique<frmCreditsXtra>(game);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,102 @@
+#include <algorithm>
+
+#include "records/slotfolder.h"
+#include "session/newgame.h"
+#include "session/screens/screensenter.h"
+#include "session/screens/sessionscreens.h"
+#include "session/slots.h"
+#include "ui/waiting.h"
+
+namespace grapplemont {
+
+namespace {
+
+class frmPickSaveSlot : public ui::Screen {
+ public:
+  frmPickSaveSlot(Game& game, NewGameChoice choice)
+      : Screen(game.Desk(), "frmPickSaveSlot", "Pick A Save Slot", ui::Role::Cover),
+        game_(game),
+        choice_(std::move(choice)) {}
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Actions = {&cmdback};
+    page.Cancel = &cmdback;
+    std::vector<ui::Box> rows;
+    for (int slot = 1; slot <= kSlots; ++slot)
+      rows.push_back(ui::Columns({ui::Grow(cmdload(slot), 2), ui::Grow(lbldetails(slot), 3)}));
+    page.Body =
+        ui::Rows({ui::Group("Where is the game to be kept?", std::move(rows)), ui::Spacer()});
+    return page;
+  }
+
+  void Load() override {
+    for (int slot = 1; slot <= kSlots; ++slot) {
+      const SlotSummary summary = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot));
+      cmdload(slot).Text = summary.Caption;
+      lbldetails(slot).Text = summary.Details;
+    }
+  }
+  void Return() override { Load(); }
+
+ private:
+  void cmdload_Click(int slot) {
+    {
+      const SlotLock free(game_.Disk(), game_.SlotFolder(slot));
+    }  // before any question: it may be busy
+    if (!ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot)).Empty &&
+        !desk().Ask("Are you sure?", "Are you sure you want to overwrite this slot?",
+                    ui::Default::No))
+      return;
+    choice_.SaveName =
+        desk().Prompt("User Entry", "Save Game Name:", "Save Game " + std::to_string(slot));
+    if (detail::Trimmed(choice_.SaveName).empty()) return;
+    World world(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse));
+    world.Load(ReadWorldFiles(game_.Disk(), game_.DataFolder()));
+    desk().Say("Database creation",
+               "The database for this game will now be created.\n"
+               "This process can take up to 10 minutes depending on the speed of your machine.\n"
+               "Do not press ctrl-alt-del while it is happening, as you will corrupt your data.");
+    Waiting waiting(game_);
+    const auto mended = NewGame(world, choice_, [&](std::string_view step) { waiting.Tell(step); });
+    Slot::Create(game_.Disk(), game_.SlotFolder(slot), FilesOf(world), game_.NewWorldId());
+    waiting.Done();
+    TellOfMending(mended);
+    EnterSlot(game_, slot);
+  }
+
+  /// What the clean-up of the data had to put right; a world in order is not worth a word.
+  void TellOfMending(const std::vector<Fault>& mended) {
+    if (mended.empty()) return;
+    constexpr std::size_t kShown = 12;
+    std::string text = "The default data was not in order. For this game it was put right:";
+    for (std::size_t i = 0; i < std::min(mended.size(), kShown); ++i)
+      text += "\n" + mended[i].Line();
+    if (mended.size() > kShown)
+      text += "\nand " + std::to_string(mended.size() - kShown) + " more.";
+    desk().Say("Database creation", text);
+  }
+  void cmdback_Click() { Close(); }
+
+  Game& game_;
+  NewGameChoice choice_;
+  ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
+  ui::Array<ui::Button> cmdload{"cmdload", kSlots, [this](const std::string&, int slot) {
+                                  return std::make_unique<ui::Button>(
+                                      *this, "cmdload" + std::to_string(slot), "",
+                                      [this, slot] { cmdload_Click(slot); });
+                                }};
+  ui::Array<ui::Label> lbldetails{"lbldetails", kSlots, [this](const std::string&, int slot) {
+                                    return std::make_unique<ui::Label>(
+                                        *this, "lbldetails" + std::to_string(slot));
+                                  }};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmPickSaveSlot::cmdback_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmPickSaveSlot(Game& game, NewGameChoice choice) {
+  return std::make_unique<frmPickSaveSlot>(game, std::move(choice));
+}
+
+}  // namespace grapplemont

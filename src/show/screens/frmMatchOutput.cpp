@@ -1,0 +1,198 @@
+#include <array>
+#include <optional>
+
+#include "records/modWresCheck.h"
+#include "report/report.h"
+#include "show/holdshow.h"
+#include "show/recap.h"
+#include "show/screens/showscreens.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// The percentages, by what they are called and where a told Segment keeps them.
+struct Figure {
+  const char* Control;
+  const char* Caption;
+  Score ToldSegment::*Of;
+};
+constexpr std::array<Figure, 3> kFigures = {{
+    {"txtquality", "Match Quality", &ToldSegment::Quality},
+    {"txtcrowd", "Crowd Reaction", &ToldSegment::Crowd},
+    {"txtoverall", "Overall Rating", &ToldSegment::Overall},
+}};
+constexpr int kFigureCount = static_cast<int>(kFigures.size());
+constexpr int kOverallFigure = 3;
+
+const Figure& FigureAt(int i) {
+  return kFigures[static_cast<std::size_t>(i - 1)];
+}
+
+/// The show told Segment by Segment. It cannot be left but through its end.
+class frmMatchOutput : public ui::Screen {
+ public:
+  explicit frmMatchOutput(Game& game)
+      : Screen(game.Desk(), "frmMatchOutput", "Show Report"), game_(game) {
+    lbltitle.Visible = false;  // the page's own heading says the same
+    txtstip.Brief = true;
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblreportedby;
+    page.Actions = {&cmdnotepad, &cmdnext};
+    page.Main = &cmdnext;
+    std::vector<ui::Box> figures{lblanalysis};
+    for (int i = 1; i <= kFigureCount; ++i)
+      figures.push_back(
+          ui::Columns({ui::Field(FigureAt(i).Caption, txtfigures(i)).Grow(), cmdwhy(i)}));
+    figures.push_back(ui::Grow(txtwhy));
+    page.Body = ui::Columns(
+        {ui::Group("", {lbltitle, ui::Columns({lblinfo, txtstyle, txttype, txtbelt, ui::Spacer()}),
+                        txtstip, ui::Grow(txtreport), lblwinner})
+             .Grow(9),
+         ui::Rows({ui::Group("", std::move(figures)).Grow(8),
+                   ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4),
+                   ui::Group("The show so far", {txtannouncers, ui::Grow(chtshow)}).Grow(4)})
+             .Grow(4)});
+    return page;
+  }
+
+  void Load() override {
+    ShowFrame();
+    if (ShowIsClosed(world())) return Finish();
+    if (world().ShowRuns()[1].Current == 0) return TellNext();
+    ShowInterval();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+  const ShowRun& run() { return world().ShowRuns()[1]; }
+
+  void ShowFrame() {
+    const std::string name = ShowName(world(), run().IsEvent);
+    lbltitle.Text = "Event Report For " + name;
+    Title = lbltitle.Text.Get();
+    lblreportedby.Text = "Reported By " + std::string(VoiceName(world().Game().Reporter));
+    const CommentaryTeam team{run().Announcer, run().Colour, run().ColourIsWorker};
+    const std::string announcer = AnnouncerName(world(), team);
+    txtannouncers.Text =
+        announcer == "None" ? announcer : announcer + " and " + ColourName(world(), team);
+    txtannouncers.Tip = "At the announcers' table.";
+  }
+
+  /// Between two Segments when the game is opened again.
+  void ShowInterval() {
+    lblinfo.Text = "The show goes on";
+    txtstip.Write({{ui::Report::Style::Heading, "After " + RowName(run().Current)}});
+    txtreport.Write(NextSegment(world()) == 0
+                        ? "Every Segment has been told. Press Next for what the show came to."
+                        : "What has been told so far stands. Press Next for what was to come.");
+    ShowFigures();
+    ShowChart();
+  }
+
+  std::string RowName(int number) { return DescribeSegment(world(), world().Segments()[number]); }
+
+  void TellNext() {
+    if (NextSegment(world()) == 0) return Finish();
+    told_ = RunNextSegment(world(), &memory_);
+    ShowDetails();
+    ShowProse();
+    ShowFigures();
+    ShowChart();
+  }
+
+  void ShowDetails() {
+    const SegmentDetails details = DetailsOf(world(), world().Segments()[run().Current]);
+    lblinfo.Text = details.Heading;
+    txtstyle.Text = details.Style;
+    txttype.Text = details.Type;
+    txtbelt.Text = details.Belt;
+    txtbelt.Colour = ui::Tone::Gold;
+    lblwinner.Text = details.Winner;
+    for (ui::Label* label : {&txtstyle, &txttype, &txtbelt, &lblwinner})
+      label->Visible = !label->Text.Get().empty();
+    txtstip.Write({{ui::Report::Style::Heading, details.Names}});
+  }
+
+  void ShowProse() {
+    std::string text = told_->Report;
+    if (!told_->Verdict.empty()) text += "\n" + told_->Verdict;
+    txtreport.Write(text);
+    txtroad.WriteLines(told_->Notes);
+  }
+
+  void ShowFigures() {
+    const bool isMatch = told_ && world().Segments()[run().Current].Kind == kMatch;
+    lblanalysis.Text = isMatch ? "Match Analysis" : "Analysis";
+    for (int i = 1; i <= kFigureCount; ++i) {
+      const bool shown = told_ && (isMatch || i != 1);
+      txtfigures(i).Visible = shown;
+      cmdwhy(i).Visible = shown;
+      if (!shown) continue;
+      const int value = (*told_).*FigureAt(i).Of;
+      txtfigures(i).Text = std::to_string(value) + "%";
+      txtfigures(i).Colour = value >= 70  ? ui::Tone::Green
+                             : value < 40 ? ui::Tone::Red
+                                          : ui::Tone::Amber;
+    }
+    cmdwhy_Click(kOverallFigure);
+  }
+
+  void cmdwhy_Click(int i) {
+    if (!told_) return txtwhy.Write("");
+    const Figure& figure = FigureAt(i);
+    txtwhy.WriteLines(WhyText(figure.Caption, (*told_).*figure.Of));
+  }
+
+  void ShowChart() {
+    const RatingsSoFar ratings = RatingsOfShow(world());
+    chtshow.Captions = ratings.Rows;
+    chtshow.Lines = std::vector<ui::Chart::Series>{{"", ratings.Values}};
+  }
+
+  void Finish() {
+    if (!ShowIsClosed(world())) CloseShow(world());
+    desk().Open("frmPostShow");
+    Close();
+  }
+
+  void cmdnext_Click() { TellNext(); }
+
+  Game& game_;
+  LineMemory memory_;
+  std::optional<ToldSegment> told_;
+  ui::Label lbltitle{*this, "lbltitle"};
+  ui::Label lblreportedby{*this, "lblreportedby"};
+  ui::Label lblinfo{*this, "lblinfo"};
+  ui::Label txtstyle{*this, "txtstyle"};
+  ui::Label txttype{*this, "txttype"};
+  ui::Label txtbelt{*this, "txtbelt"};
+  ui::Report txtstip{*this, "txtstip"};
+  ui::Report txtreport{*this, "txtreport"};
+  ui::Label lblwinner{*this, "lblwinner"};
+  ui::Label lblanalysis{*this, "lblanalysis", "Match Analysis"};
+  ui::Array<ui::Label> txtfigures{"", kFigureCount, [this](const std::string&, int i) {
+                                    return std::make_unique<ui::Label>(*this, FigureAt(i).Control);
+                                  }};
+  ui::Array<ui::Button> cmdwhy{"cmdwhy", kFigureCount, [this](const std::string& name, int i) {
+                                 return std::make_unique<ui::Button>(
+                                     *this, name, "Why?", [this, i] { cmdwhy_Click(i); });
+                               }};
+  ui::Report txtwhy{*this, "txtwhy"};
+  ui::Report txtroad{*this, "txtroad"};
+  ui::Label txtannouncers{*this, "txtannouncers"};
+  ui::Chart chtshow{*this, "chtshow", true};
+  ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", [this] { desk().Open("frmNotepad"); }};
+  ui::Button cmdnext{*this, "cmdnext", "Next", &frmMatchOutput::cmdnext_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmMatchOutput(Game& game) {
+  return std::make_unique<frmMatchOutput>(game);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,241 @@
+#include "records/modWresCheck.h"
+#include "records/severing.h"
+#include "storylines/lineages.h"
+#include "storylines/screens/screenpeople.h"
+#include "storylines/screens/screentitles.h"
+#include "storylines/screens/storyscreens.h"
+#include "storylines/storynames.h"
+#include "storylines/titles.h"
+
+namespace grapplemont {
+
+namespace {
+
+enum Whose { kYours = 1, kEverybodys };
+/// Of the world's Titles one wants to know whose they are; since when they are held, the history
+/// tells.
+constexpr std::size_t kSince = 3;
+enum ForHowMany { kForOne = 1, kForTwo };
+
+/// The player's Titles to be made, given, taken and given up; the whole world's to be looked at.
+class frmBelts : public ui::Screen {
+ public:
+  explicit frmBelts(Game& game) : Screen(game.Desk(), "frmBelts", "Titles"), game_(game) {
+    lsthistory.EmptyText = "Choose a Title to see who has held it.";
+    lstwres.Multi = true;
+    txtname.Hint = "Name";
+    cmbwhose.Add("Your Titles", kYours);
+    cmbwhose.Add("All Titles", kEverybodys);
+    cmbwhose.Select(1);
+    cmbkind.Add("Singles", kForOne);
+    cmbkind.Add("Tag Team", kForTwo);
+    cmbkind.Select(1);
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdsuspend, &cmdvacate, &cmddissolve, &cmdback};
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns(
+        {ui::Rows({ui::Group("", {cmbwhose, ui::Grow(lsttitles)}).Grow(3),
+                   ui::Group("Who has held it", {ui::Grow(lsthistory), cmdreigns}).Grow(2)})
+             .Grow(5),
+         ui::Rows(
+             {ui::Group("Name and kind", {txtname, cmdrename,
+                                          ui::Columns({cmbkind, chkwoman, chklight}), cmdcreate}),
+              ui::Group("Award it without a match", {ui::Grow(lstwres), cmdaward}).Grow()})
+             .Grow(3)});
+    return page;
+  }
+
+  void Load() override {
+    ShowTitles();
+    lsttitles.Select(lsttitles.Count() > 0 ? 1 : 0);
+    lsttitles_Click();
+  }
+  void Return() override {
+    ShowTitles();
+    ShowTitle();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+  /// nullptr when none is selected.
+  grapplemont::Title* Chosen() {
+    return lsttitles.Key() == 0 ? nullptr : &world().Titles()[lsttitles.Key()];
+  }
+
+  bool IsListed(const grapplemont::Title& title) {
+    return cmbwhose.Key() == kEverybodys || IsPlayers(world(), title);
+  }
+
+  ui::Cell OwnerCell(const grapplemont::Title& title) {
+    if (title.Owner <= 0) return {"Closed", ui::Tone::Muted};
+    return PromotionInitials(world(), title.Owner);
+  }
+
+  void ShowTitles() {
+    // On the very day of the change; nothing is written once the career has ended.
+    if (!HasEnded(world().Game())) UpdateReigns(world());
+    std::vector<ui::ListBox::Row> rows;
+    int vacant = 0;
+    const bool all = cmbwhose.Key() == kEverybodys;
+    for (const grapplemont::Title& title : world().Titles()) {
+      if (!IsListed(title)) continue;
+      vacant += title.Holder == 0;
+      rows.push_back(TitleRow(world(), title));
+      if (all) rows.back().Cells[kSince] = OwnerCell(title);
+    }
+    const auto count = rows.size();
+    lblfacts.Text = std::to_string(count) + (count == 1 ? " Title, " : " Titles, ") +
+                    std::to_string(vacant) + " vacant";
+    lsttitles.EmptyText =
+        all ? "Nobody in the world has a Title." : "You have no Title yet. Name one and create it.";
+    lsttitles.Fill(std::move(rows));
+  }
+
+  void ShowTitle() {
+    const grapplemont::Title* title = Chosen();
+    lsthistory.Fill(title ? ReignRows(*title) : std::vector<ui::ListBox::Row>{});
+    std::vector<const Worker*> contenders;
+    if (title && IsPlayers(world(), *title)) contenders = Contenders(world(), *title);
+    FillShort(lstwres, contenders);
+    lstwres.EmptyText = !title                       ? "Choose a Title first."
+                        : IsPlayers(world(), *title) ? "Nobody you have is fit and may hold it."
+                                                     : "It is not yours to give.";
+    ShowButtons();
+  }
+
+  /// Empty when the chosen Title is one of the player's.
+  std::string WhyNotOurs() {
+    const grapplemont::Title* title = Chosen();
+    if (!title) return "Choose a Title first.";
+    return IsPlayers(world(), *title) ? "" : "This Title is not yours.";
+  }
+
+  void ShowButtons() {
+    const std::string none = WhyNotOurs();
+    const bool isSuspended = none.empty() && Chosen()->Suspended;
+    cmdsuspend.Text = isSuspended ? "Activate" : "Suspend";
+    for (ui::Button* button : {&cmdrename, &cmdsuspend, &cmddissolve}) EnableUnless(*button, none);
+    EnableUnless(cmdvacate, none.empty() ? WhyNotVacate(*Chosen()) : none);
+    const auto [holder, partner] = Picked();
+    const bool tooMany = lstwres.Keys().size() > 2;
+    EnableUnless(cmdaward, !none.empty() ? none
+                           : tooMany     ? "Choose two at most."
+                                         : WhyNotAward(world(), *Chosen(), holder, partner));
+  }
+
+  std::pair<int, int> Picked() {
+    const std::vector<int> keys = lstwres.Keys();
+    return {keys.empty() ? 0 : keys[0], keys.size() < 2 ? 0 : keys[1]};
+  }
+
+  void cmbwhose_Click() {
+    std::vector<ui::Column> columns = TitleColumns();
+    if (cmbwhose.Key() == kEverybodys) columns[kSince] = {"Of"};
+    lsttitles.Clear();
+    lsttitles.SetColumns(std::move(columns));
+    Load();
+  }
+
+  void lsttitles_Click() {
+    const grapplemont::Title* title = Chosen();
+    txtname.Text = title && IsPlayers(world(), *title) ? title->Name.Str() : std::string();
+    lstwres.Clear();
+    ShowTitle();
+  }
+
+  void cmdreigns_Click() {
+    const grapplemont::Title* title = Chosen();
+    desk().Open(MakefrmReigns(game_, title ? title->Name.View() : std::string_view(),
+                              title ? int(title->Owner) : 0));
+  }
+
+  void cmdcreate_Click() {
+    const TitleTerms terms{txtname.Text.Get(), cmbkind.Key() == kForOne, chkwoman.Checked,
+                           chklight.Checked};
+    if (desk().Objects(WhyNotCreate(world(), terms))) return;
+    const int number = CreateTitle(world(), terms);
+    ShowTitles();
+    lsttitles.SelectKey(number);
+    lsttitles_Click();
+  }
+
+  void cmdrename_Click() {
+    if (Chosen()->Name == TrimmedName(txtname.Text.Get())) return;
+    if (desk().Objects(WhyNotTitleName(world(), txtname.Text.Get()))) return;
+    RenameTitle(world(), lsttitles.Key(), txtname.Text.Get());
+    Return();
+  }
+
+  void cmdsuspend_Click() {
+    SuspendTitle(*Chosen(), !Chosen()->Suspended);
+    Return();
+  }
+
+  void cmdvacate_Click() {
+    if (!desk().Ask("Vacate?",
+                    "Are you sure you wish to strip " + ChampionText(world(), *Chosen()) +
+                        " of the " + Chosen()->Name.Str() + "? It will lose 20 image.",
+                    ui::Default::No))
+      return;
+    VacateTitle(world(), *Chosen());
+    Return();
+  }
+
+  void cmdaward_Click() {
+    const auto [holder, partner] = Picked();
+    Crown(world(), *Chosen(), holder, partner);
+    lstwres.Select(0);
+    Return();
+  }
+
+  void cmddissolve_Click() {
+    const int booked = BookedForTitle(world(), *Chosen());
+    const std::string price = booked == 0 ? ""
+                                          : " What is booked for it (" + std::to_string(booked) +
+                                                (booked == 1 ? " segment" : " segments") +
+                                                ") will be removed.";
+    if (!desk().Ask("Dissolve?",
+                    "Are you sure you wish to dissolve the " + Chosen()->Name.Str() + "?" + price,
+                    ui::Default::No))
+      return;
+    DissolveTitle(world(), lsttitles.Key());
+    lsttitles.Clear();
+    Load();
+  }
+
+  void cmdback_Click() {
+    Close();
+    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
+  }
+
+  Game& game_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ComboBox cmbwhose{*this, "cmbwhose", &frmBelts::cmbwhose_Click};
+  ui::ListBox lsttitles{*this, "lsttitles", TitleColumns(), &frmBelts::lsttitles_Click};
+  ui::ListBox lsthistory{*this, "lsthistory", ReignColumns()};
+  ui::Button cmdreigns{*this, "cmdreigns", "All Reigns", &frmBelts::cmdreigns_Click};
+  ui::TextBox txtname{*this, "txtname", {}, decltype(grapplemont::Title::Name)::kWidth};
+  ui::Button cmdrename{*this, "cmdrename", "Rename", &frmBelts::cmdrename_Click};
+  ui::ComboBox cmbkind{*this, "cmbkind"};
+  ui::CheckBox chkwoman{*this, "chkwoman", "Women only"};
+  ui::CheckBox chklight{*this, "chklight", "Lightweights only"};
+  ui::Button cmdcreate{*this, "cmdcreate", "Create", &frmBelts::cmdcreate_Click};
+  ui::ListBox lstwres{*this, "lstwres", ShortColumns(), &frmBelts::ShowButtons};
+  ui::Button cmdaward{*this, "cmdaward", "Award", &frmBelts::cmdaward_Click};
+  ui::Button cmdsuspend{*this, "cmdsuspend", "Suspend", &frmBelts::cmdsuspend_Click};
+  ui::Button cmdvacate{*this, "cmdvacate", "Vacate", &frmBelts::cmdvacate_Click};
+  ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmBelts::cmddissolve_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmBelts::cmdback_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmBelts(Game& game) {
+  return std::make_unique<frmBelts>(game);
+}
+
+}  // namespace grapplemont

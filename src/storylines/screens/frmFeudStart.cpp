@@ -1,0 +1,187 @@
+#include "records/modWresCheck.h"
+#include "records/world.h"
+#include "storylines/feuds.h"
+#include "storylines/screens/storyscreens.h"
+
+namespace grapplemont {
+
+namespace {
+
+ui::Tone ToneOf(const Worker& worker) {
+  if (worker.Disposition == "F") return ui::Tone::Blue;
+  return worker.Disposition == "H" ? ui::Tone::Red : ui::Tone::Muted;
+}
+
+std::string ContrastText(int contrast) {
+  if (contrast == 0) return {};
+  return contrast > 0 ? ", a Face against a Heel +" + std::to_string(contrast)
+                      : ", like against like " + std::to_string(contrast);
+}
+
+std::string Forecast(const StartingHeat& start) {
+  const int sum = start.Popularity + start.Contrast;
+  return "Starting heat " + std::to_string(start.Heat) + "%: mean popularity " +
+         std::to_string(start.Popularity) + ContrastText(start.Contrast) +
+         (sum == start.Heat ? "." : ", held to " + std::to_string(start.Heat) + ".");
+}
+
+/// Who is to feud with whom: a list a head. In a singles feud lists 1 and 2 are the sides; in a tag
+/// feud lists 1 and 2 are one side, lists 3 and 4 the other.
+class frmFeudStart : public ui::Screen {
+ public:
+  explicit frmFeudStart(Game& game)
+      : Screen(game.Desk(), "frmFeudStart", "Start A Feud"), game_(game) {}
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblheat;
+    page.Actions = {&cmdback, &cmdstart};
+    page.Main = &cmdstart;
+    page.Cancel = &cmdback;
+    std::vector<ui::Box> heads;
+    for (int head = 1; head <= kHeads; ++head)
+      heads.push_back(ui::Rows({lblheads(head), ui::Grow(lstwres(head))}).Grow());
+    page.Body = ui::Rows({ui::Columns({chksingles, lblwarning, ui::Spacer()}),
+                          ui::Group("", {ui::Columns(std::move(heads)).Grow()}).Grow()});
+    return page;
+  }
+
+  void Load() override {
+    FillLists();
+    ShowHeads();
+    ShowForecast();
+  }
+
+  void Return() override {
+    FillLists();
+    ShowForecast();
+  }
+
+ private:
+  static constexpr int kHeads = 4;
+
+  World& world() { return game_.World(); }
+
+  void FillLists() {
+    std::vector<ui::ListBox::Row> rows;
+    for (const Worker* worker : FeudRoster(world()))
+      rows.push_back(
+          {{worker->Name.View(), ui::Cell(DispositionText(worker->Disposition), ToneOf(*worker)),
+            ui::Cell(worker->Over)},
+           worker->Uid});
+    for (int head = 1; head <= kHeads; ++head) {
+      lstwres(head).EmptyText = "Nobody on the roster is fit to feud.";
+      lstwres(head).Fill(rows);
+    }
+  }
+
+  void ShowHeads() {
+    constexpr const char* kSingles[kHeads] = {"Side one", "Side two", "", ""};
+    constexpr const char* kTeams[kHeads] = {"Side one", "With", "Side two", "With"};
+    for (int head = 1; head <= kHeads; ++head) {
+      lblheads(head).Text = (chksingles.Checked ? kSingles : kTeams)[head - 1];
+      lblheads(head).Visible = IsUsed(head);
+      lstwres(head).Visible = IsUsed(head);
+    }
+  }
+
+  bool IsUsed(int head) const { return head <= 2 || !chksingles.Checked; }
+
+  bool IsComplete() {
+    for (int head = 1; head <= kHeads; ++head)
+      if (IsUsed(head) && lstwres(head).Key() == 0) return false;
+    return true;
+  }
+
+  FeudSides Chosen() {
+    if (chksingles.Checked) return {{lstwres(1).Key(), 0}, {lstwres(2).Key(), 0}};
+    return {{lstwres(1).Key(), lstwres(2).Key()}, {lstwres(3).Key(), lstwres(4).Key()}};
+  }
+
+  void ShowForecast() {
+    const bool complete = IsComplete();
+    const std::string why = complete ? WhyNoFeud(world(), Chosen()) : std::string();
+    cmdstart.Enabled = complete;
+    cmdstart.Tip = complete ? "" : "Choose both sides first.";
+    lblwarning.Text = why;
+    lblwarning.Visible = !why.empty();
+    lblheat.Text = complete             ? Forecast(StartingHeatOf(world(), Chosen()))
+                   : chksingles.Checked ? "Choose the two who are to feud."
+                                        : "Choose two teams of two.";
+  }
+
+  void lstwres_Click(int head) {
+    if (!chksingles.Checked && head % 2 == 1) SuggestPartner(lstwres(head), lstwres(head + 1));
+    ShowForecast();
+  }
+
+  /// Who belongs to a Tag Team mostly feuds beside his partner.
+  void SuggestPartner(const ui::ListBox& leader, ui::ListBox& partner) {
+    for (const Team& team : world().Teams()) {
+      if (team.Worker1 != leader.Key() && team.Worker2 != leader.Key()) continue;
+      const int other = team.Worker1 == leader.Key() ? team.Worker2 : team.Worker1;
+      const Worker* worker = world().FindWorker(other);
+      if (!worker || !MayFeud(world(), *worker)) continue;
+      return partner.SelectKey(other);
+    }
+  }
+
+  void chksingles_Click() {
+    ShowHeads();
+    ShowForecast();
+  }
+
+  /// Both sides are willing, or the player insists and may.
+  bool IsAgreed(const FeudSides& sides) {
+    const auto refusal = RefusalOf(world(), sides);
+    if (!refusal) return true;
+    desk().Say("Rejection!", refusal->Words);
+    if (refusal->Veto.empty()) return desk().Ask("Continue?", "Continue anyway?", ui::Default::No);
+    desk().Say("Creative Control", refusal->Veto);
+    return false;
+  }
+
+  void cmdstart_Click() {
+    const FeudSides sides = Chosen();
+    if (const std::string why = WhyNoFeud(world(), sides); !why.empty())
+      return desk().Say("Error!", why);
+    if (!IsAgreed(sides)) return;
+    if (!desk().Ask("Start?", "Are you sure you wish to start a feud between " +
+                                  SideName(world(), sides.One) + " and " +
+                                  SideName(world(), sides.Two) + "?"))
+      return;
+    StartFeud(world(), sides);
+    Close();
+  }
+
+  void cmdback_Click() { Close(); }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  ui::CheckBox chksingles{*this, "chksingles", "Singles feud", true,
+                          &frmFeudStart::chksingles_Click};
+  ui::Label lblheat{*this, "lblheat"};
+  ui::Label lblwarning{*this, "lblwarning"};
+  ui::Array<ui::Label> lblheads{"lblside", kHeads, [this](const std::string&, int head) {
+                                  return std::make_unique<ui::Label>(
+                                      *this, "lblside" + std::to_string(head));
+                                }};
+  ui::Array<ui::ListBox> lstwres{
+      "lstwres", kHeads, [this](const std::string&, int head) {
+        return std::make_unique<ui::ListBox>(
+            *this, "lstwres" + std::to_string(head),
+            std::vector<ui::Column>{
+                {"Name", K::Text, 4}, {"Disp.", K::Tag, 2}, {"Over", K::Number, 1, "Popularity."}},
+            [this, head] { lstwres_Click(head); });
+      }};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmFeudStart::cmdback_Click};
+  ui::Button cmdstart{*this, "cmdstart", "Start Feud", &frmFeudStart::cmdstart_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmFeudStart(Game& game) {
+  return std::make_unique<frmFeudStart>(game);
+}
+
+}  // namespace grapplemont
