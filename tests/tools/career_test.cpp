@@ -185,7 +185,7 @@ TEST(Careers, FinishAShowThatWasCutOff) {
   while (DayKindToday(career.TheWorld(), [] { return true; }) != DayKind::Television)
     PlayDays(game, 1, Shows::Cancel, [](int) {});
   World& world = career.TheWorld();
-  OpenSheet(world, false);
+  EmptySheet(world, false);
   TakeCard(world, AutoBook(world, false, TermsOf(world, false).OpenRows));
   StartShow(world, false, TvTeam(world));
   RunNextSegment(world, nullptr);
