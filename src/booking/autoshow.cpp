@@ -43,7 +43,7 @@ CommentaryTeam BestTeam(const World& world) {
 }
 
 bool BookAutoShow(World& world, bool isEvent) {
-  OpenSheet(world, isEvent);
+  EmptySheet(world, isEvent);
   TakeCard(world, AutoBook(world, isEvent, TermsOf(world, isEvent).OpenRows));
   return MayStart(world, isEvent);
 }

@@ -44,8 +44,10 @@ int CostOfExtra(std::string_view name) {
   return cost;
 }
 
-void StartEvent(World& world, const CommentaryTeam& team, const EventExtra* extra) {
-  StartShow(world, true, team);
+void StartEvent(World& world, const EventExtra* extra) {
+  const SessionWords& session = world.Session;
+  StartShow(world, true,
+            {session.EventAnnouncer, session.EventColour, session.EventColourIsWorker});
   if (!extra) return;
   const int dollars = CostOfExtra(extra->Name);
   world.Player().Money -= dollars;

@@ -22,8 +22,9 @@ std::vector<const EventExtra*> ExtrasFor(const Promotion& promotion);
 /// name, whatever size it stands for. 0 for an unknown name.
 int CostOfExtra(std::string_view name);
 
-/// Begins today's Event: the show, then the money of the extra, then what it brings. `extra` is
-/// nullptr for none. Draws once, and once more for an extra with a bonus.
-void StartEvent(World& world, const CommentaryTeam& team, const EventExtra* extra);
+/// Begins today's Event with the team that the session names: the show, then the money of the
+/// extra, then what it brings. `extra` is nullptr for none. Draws once, and once more for an extra
+/// with a bonus.
+void StartEvent(World& world, const EventExtra* extra);
 
 }  // namespace grapplemont

@@ -47,9 +47,12 @@ bool AllFit(const World& world, const Title& title, const Segment& match) {
 
 }  // namespace
 
+bool InSplit(const Worker& worker, const BookingView& view) {
+  return view.Split == "All" || worker.Split == view.Split;
+}
+
 bool IsAvailable(const World& world, const Worker& worker, const BookingView& view) {
-  const bool inSplit = view.Split == "All" || worker.Split == view.Split;
-  return WorksForPlayer(world, worker) && worker.Status == "Nor" && inSplit;
+  return WorksForPlayer(world, worker) && worker.Status == "Nor" && InSplit(worker, view);
 }
 
 bool IsEligible(const World& world, const Worker& worker, const BookingView& view) {

@@ -56,7 +56,7 @@ bool MayStart(const World& world, bool isEvent) {
          count.Segments >= terms.MinSegments;
 }
 
-void OpenSheet(World& world, bool isEvent) {
+void EmptySheet(World& world, bool isEvent) {
   world.Segments().Rewrite(
       std::vector<Segment>(static_cast<std::size_t>(RowsOf(isEvent)), EmptySegment()));
 }

@@ -31,8 +31,8 @@ struct SheetCount {
 SheetCount CountSheet(const World& world, bool isEvent);
 bool MayStart(const World& world, bool isEvent);
 
-/// Writes match.dat anew, every record empty.
-void OpenSheet(World& world, bool isEvent);
+/// Writes match.dat with every record empty.
+void EmptySheet(World& world, bool isEvent);
 /// Empties a record of match.dat.
 void RemoveBooking(World& world, int record);
 /// Puts a card into match.dat.

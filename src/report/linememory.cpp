@@ -20,4 +20,9 @@ int LineMemory::Pick(Draws& draws, const void* band, int lines) {
   return picked;
 }
 
+bool LineMemory::Used(const void* band, int line) const {
+  const auto found = used_.find(band);
+  return found != used_.end() && found->second[static_cast<std::size_t>(line)];
+}
+
 }  // namespace grapplemont

@@ -95,12 +95,13 @@ void TakeOver(World& world, Promotion& promotion, Staff& owner) {
   owner.ContractMonths = kNoEnd;
   owner.Unsackable = false;
   NoteDeed(world, kDeedOwner, &promotion, owner.Name);
-  if (promotion.Uid == world.PlayerUid())
-    return AddNews(world, owner.Name, OwnersWelcome(world, owner));
-  FollowOwner(promotion, owner);
-  if (ShouldTell(world, world.Game().MailOwners, promotion.Size))
+  const bool isOwn = promotion.Uid == world.PlayerUid();
+  if (!isOwn) FollowOwner(promotion, owner);
+  // The mail options are about rivals alone.
+  if (isOwn || ShouldTell(world, world.Game().MailOwners, promotion.Size))
     AddNews(world, "News Desk",
             owner.Name + " has taken over control of " + promotion.Name.Str() + "!");
+  if (isOwn) AddNews(world, owner.Name, OwnersWelcome(world, owner));
 }
 
 }  // namespace

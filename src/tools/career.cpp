@@ -1,7 +1,6 @@
 #include "tools/career.h"
 
 #include "booking/autoshow.h"
-#include "calendar/advanceday.h"
 #include "calendar/daykind.h"
 #include "calendar/incidents.h"
 #include "records/world.h"
@@ -60,14 +59,14 @@ int EndCodeOf(const World& world) {
   return HasEnded(world.Game()) ? int(world.Game().EndCode) : 0;
 }
 
-void PlayDay(World& world, Shows shows) {
+void PlayDay(World& world, Shows shows, const StepWatcher& watcher) {
   MeetWhoWaits(world);
   world.Session.ShowRating = 0;
   world.Session.ShowFlag = 0;
   const DayKind kind = DayKindToday(world, [] { return true; });
   const bool isShow = kind == DayKind::Television || kind == DayKind::Event;
   const bool cancelled = isShow && !FinishTodays(world) && !HoldTodays(world, kind, shows);
-  AdvanceDay(world, cancelled);
+  AdvanceDay(world, cancelled, watcher);
   IgnoreIncidents(world);
   if (shows == Shows::Auto && !HasEnded(world.Game())) WorkInTheOffice(world);
 }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <vector>
 
+#include "calendar/advanceday.h"
 #include "ui/game.h"
 
 namespace grapplemont::tools {
@@ -29,8 +30,8 @@ struct CareerEnd {
 
 /// 1 to 9: why the career is over; 0: it goes on.
 int EndCodeOf(const World& world);
-/// The day as "Next Day" would take it. Nothing is committed.
-void PlayDay(World& world, Shows shows);
+/// The day as "Next Day" would take it; `watcher` as in AdvanceDay. Nothing is committed.
+void PlayDay(World& world, Shows shows, const StepWatcher& watcher = {});
 
 /// Whether whoever is dismissed looks for another job in the same world.
 enum class AfterTheEnd { Stop, AnotherJob };

@@ -101,6 +101,19 @@ TEST_P(VoiceTest, WritesNoSexedWordIntoALine) {
         EXPECT_EQ(line.Text.find(word), std::string_view::npos) << line.Text;
 }
 
+/// The slot of who loses, in whatever form, never stands where a line says who has won.
+TEST_P(VoiceTest, LetsNoLoserWin) {
+  for (const Block* block : Blocks())
+    for (const Line& line : block->All())
+      for (const char* slot : {"{l}", "{l:full}", "{l:short}", "{L}", "{L:members}"}) {
+        for (const char* claim : {" wins", " win{", " defeats ", " beats {", " has won", " has it",
+                                  " retain", " gets the duke", " is the winner", " gets the hand"})
+          EXPECT_EQ(line.Text.find(std::string(slot) + claim), line.Text.npos) << line.Text;
+        for (const char* claim : {"inner : ", "Winner ", "Win for ", "Music for ", "goes to "})
+          EXPECT_EQ(line.Text.find(std::string(claim) + slot), line.Text.npos) << line.Text;
+      }
+}
+
 TEST(Voices, TogetherHoldFifteenHundredDistinctLines) {
   std::set<std::string_view> lines;
   for (const VoiceTable& voice : AllVoices())

@@ -97,7 +97,9 @@ TEST(OwnerlessPromotions, BringThePlayerANewBoss) {
     world.Game().MailOwners = 2;
     ScriptDraws(world, {{14, 1}, {2, 1}});
     OwnerlessPromotions(world);
-    EXPECT_EQ(NewsOf(world), std::string(name) + ": " + words + "\n");
+    EXPECT_EQ(NewsOf(world), "News Desk: " + std::string(name) +
+                                 " has taken over control of CWA Wrestling!\n" + name + ": " +
+                                 words + "\n");
   }
 }
 

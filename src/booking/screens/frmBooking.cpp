@@ -19,14 +19,9 @@ std::string SlotText(const Show& show) {
 class frmBooking : public SheetScreen {
  public:
   explicit frmBooking(Game& game) : SheetScreen(game, "frmBooking", false) {}
+  void Load() override { OpenTvSheet(); }
 
  protected:
-  void FillBoxes() override {
-    EnableUnless(cmdauto, HasAutoBooker(world())
-                              ? ""
-                              : "Nobody above the jobbers is fit, so there is nobody to book.");
-  }
-
   CommentaryTeam Team() override { return TvTeam(world()); }
   std::string TopRow() override { return "Opening Credits"; }
   std::vector<ui::Button*> FirstActions() override { return {&cmdauto}; }
@@ -46,6 +41,14 @@ class frmBooking : public SheetScreen {
   }
 
  private:
+  void OpenTvSheet() {
+    EmptySheet(world(), false);
+    EnableUnless(cmdauto, HasAutoBooker(world())
+                              ? ""
+                              : "Nobody above the jobbers is fit, so there is nobody to book.");
+    ShowOpened();
+  }
+
   void cmdauto_Click() { desk().Open("frmAutoBook"); }
   ui::Button cmdauto{*this, "cmdauto", "Auto Booker", &frmBooking::cmdauto_Click};
 };

@@ -13,14 +13,9 @@ namespace {
 class frmPPVBooking : public SheetScreen {
  public:
   explicit frmPPVBooking(Game& game) : SheetScreen(game, "frmPPVBooking", true) {}
+  void Load() override { OpenEventSheet(); }
 
  protected:
-  void FillBoxes() override {
-    FillStaff(cmbannouncer);
-    FillColour();
-    FillExtras();
-  }
-
   CommentaryTeam Team() override {
     return {cmbannouncer.Key(), cmbcolour.Key(), chkcolour.Checked};
   }
@@ -50,11 +45,22 @@ class frmPPVBooking : public SheetScreen {
       return false;
     }
     if (!desk().Ask("Sure?", "Are you sure you wish to start this show?")) return false;
-    StartEvent(world(), team, ChosenExtra());
+    world().Session.EventAnnouncer = team.Announcer;
+    world().Session.EventColour = team.Colour;
+    world().Session.EventColourIsWorker = team.ColourIsWorker;
+    StartEvent(world(), ChosenExtra());
     return true;
   }
 
  private:
+  void OpenEventSheet() {
+    EmptySheet(world(), true);
+    FillStaff(cmbannouncer);
+    FillColour();
+    FillExtras();
+    ShowOpened();
+  }
+
   void FillStaff(ui::ComboBox& box) {
     box.Clear();
     box.Add("None");

@@ -80,9 +80,7 @@ ui::Page SheetScreen::Layout() {
   return page;
 }
 
-void SheetScreen::Load() {
-  OpenSheet(world(), isEvent_);
-  FillBoxes();
+void SheetScreen::ShowOpened() {
   RefreshSheet();
   lstrows.SelectKey(1);
   ShowRow();
@@ -244,14 +242,14 @@ void SheetScreen::cmdback_Click() {
                  "Are you sure you wish to go back? It will erase any booking you have done so "
                  "far.",
                  ui::Default::No)) {
-    OpenSheet(world(), isEvent_);
+    EmptySheet(world(), isEvent_);
     Close();
   }
 }
 
 void SheetScreen::cmdcancel_Click() {
   if (!desk().Ask("Cancel?", "Are You Sure You Wish To Cancel The Show?", ui::Default::No)) return;
-  OpenSheet(world(), isEvent_);
+  EmptySheet(world(), isEvent_);
   game_.AdvanceDay(true);
   Close();
 }

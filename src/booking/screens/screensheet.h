@@ -11,7 +11,6 @@ namespace grapplemont {
 class SheetScreen : public ui::Screen {
  public:
   ui::Page Layout() override;
-  void Load() final;
   void Return() override;
 
  protected:
@@ -26,12 +25,12 @@ class SheetScreen : public ui::Screen {
   virtual std::string TopRow() = 0;
   /// Asks, and begins the show in the world; false when it does not come to that.
   virtual bool Begin() = 0;
-  /// Fills what a sheet has of its own when it opens, on an empty match.dat.
-  virtual void FillBoxes() {}
   /// Buttons that stand before the others, and boxes below the rows.
   virtual std::vector<ui::Button*> FirstActions() { return {}; }
   virtual std::vector<ui::Box> BelowRows() { return {}; }
 
+  /// Shows a sheet that has just been opened, on an empty match.dat.
+  void ShowOpened();
   void RefreshSheet();
   void ShowForecast();
 
