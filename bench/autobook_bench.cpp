@@ -1,10 +1,8 @@
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-
+#include "bench/walks.h"
 #include "bench/worlds.h"
 #include "booking/autobooker.h"
-#include "records/disk.h"
 #include "records/segments.h"
 
 // A card of the auto booker for a roster of 120, beside a baseline: the rosters that the wizard's
@@ -52,23 +50,9 @@ int ListsFor(const AutoCard& card) {
 void BM_AutoBookBaseline(benchmark::State& state) {
   World world = FullHouse(false);
   const int lists = ListsFor(AutoBook(world, false, kShowRows));
-  const auto disk = RealDisk();
-  const std::string path =
-      (std::filesystem::temp_directory_path() / "grapplemont-bench-wrestlers").string();
-  for (NewFile& file : FilesOf(world))
-    if (file.Name == "wrestler.dat") WriteFile(*disk, path, file.Contents);
+  const bench::WorldInFiles files(world);
   for (auto _ : state)
-    for (int list = 0; list < lists; ++list) {
-      const auto file = disk->Open(path, false);
-      Worker worker;
-      for (int number = 0; number < world.Workers().Count(); ++number) {
-        disk->ReadAt(file, number * static_cast<std::int64_t>(sizeof worker),
-                     std::as_writable_bytes(std::span(&worker, 1)));
-        benchmark::DoNotOptimize(worker);
-      }
-      disk->Close(file);
-    }
-  std::filesystem::remove(path);
+    for (int list = 0; list < lists; ++list) files.Walk(LayoutOf<Worker>(), false);
 }
 BENCHMARK(BM_AutoBookBaseline)->Unit(benchmark::kMicrosecond)->Iterations(3);
 

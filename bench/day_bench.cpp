@@ -1,9 +1,14 @@
 #include <benchmark/benchmark.h>
 
+#include <vector>
+
 #include "bench/walks.h"
 #include "bench/worlds.h"
 #include "calendar/advanceday.h"
-#include "records/world.h"
+#include "calendar/daykind.h"
+#include "records/dates.h"
+#include "support/smallworld.h"
+#include "tools/career.h"
 #include "ui/waiting.h"
 
 // The day and the new game, each beside a baseline: the same walks done by opening the file,
@@ -12,80 +17,142 @@
 namespace grapplemont {
 namespace {
 
-/// The days the figures are for: what the morning is.
+using std::chrono::year;
+
+/// The days the figures are for.
 enum Morning { kPlain, kMonday, kFirst };
-Day Evening(int morning) {
-  using std::chrono::year;
-  if (morning == kMonday) return year{2026} / 3 / 8;
-  return morning == kFirst ? Day{year{2026} / 3 / 31} : Day{year{2026} / 3 / 3};
+struct Example {
+  const char* Text;
+  Day Date;
+};
+constexpr Example kMornings[] = {{"plain day", year{2026} / 3 / 4},
+                                 {"Monday", year{2026} / 3 / 9},
+                                 {"first of a month", year{2026} / 4 / 1}};
+
+bool IsLike(Day day, Day example) {
+  return IsMonday(day) == IsMonday(example) && IsFirstOfMonth(day) == IsFirstOfMonth(example);
 }
 
-void Describe(benchmark::State& state) {
-  constexpr const char* kMornings[] = {"plain day", "Monday", "first of a month"};
-  state.SetLabel(std::string(kMornings[state.range(0)]) +
-                 (state.range(1) ? ", largest world" : ", default world"));
+/// The evenings before the next mornings of the kind. The player has no show on them: a show has
+/// figures of its own.
+std::vector<bench::FreshWorld> Evenings(int age, int morning, int count) {
+  World world = bench::Played(age);
+  std::vector<bench::FreshWorld> found;
+  while (std::ssize(found) < count) {
+    if (IsLike(world.Today() + std::chrono::days{1}, kMornings[morning].Date) &&
+        DayKindToday(world, [] { return true; }) == DayKind::Plain)
+      found.emplace_back(test::CopyOf(world));
+    tools::PlayDay(world, tools::Shows::Auto);
+  }
+  return found;
 }
 
 void BM_Day(benchmark::State& state) {
-  const World fresh =
-      bench::StartedWorld(state.range(1) != 0, Evening(static_cast<int>(state.range(0))));
-  const auto files = [&] {
-    std::map<std::string, Bytes> all;
-    for (NewFile& file : FilesOf(fresh)) all.emplace(file.Name, std::move(file.Contents));
-    return all;
-  }();
+  const int age = static_cast<int>(state.range(0)), morning = static_cast<int>(state.range(1));
+  // Rivals have their shows on days of their own: a plain day is the mean of several.
+  auto evenings = Evenings(age, morning, morning == kPlain ? 5 : 1);
+  std::size_t round = 0;
   for (auto _ : state) {
-    state.PauseTiming();
-    World world;
-    world.Load(files);
-    state.ResumeTiming();
-    AdvanceDay(world, false);
+    World& world = evenings[round++ % evenings.size()].Again();
+    bench::Time(state, [&] { AdvanceDay(world, false); });
   }
-  Describe(state);
+  state.SetLabel(std::string(kMornings[morning].Text) + ", " + bench::AgeText(age));
 }
+BENCHMARK(BM_Day)
+    ->ArgsProduct({{bench::kNew, bench::kTenYears, bench::kTwentyYears, bench::kLargest},
+                   {kPlain, kMonday, kFirst}})
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime()
+    ->Iterations(100);
+
+/// The first day of a new game, on which rivals cut or fill their rosters.
+void BM_FirstDay(benchmark::State& state) {
+  bench::FreshWorld evening(bench::StartedWorld(state.range(0) != 0, bench::kSomeDay));
+  for (auto _ : state) {
+    World& world = evening.Again();
+    bench::Time(state, [&] { AdvanceDay(world, false); });
+  }
+  state.SetLabel(state.range(0) ? "largest world" : "default world");
+}
+BENCHMARK(BM_FirstDay)
+    ->Arg(0)
+    ->Arg(1)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime()
+    ->Iterations(20);
 
 void BM_DayBaseline(benchmark::State& state) {
-  const Day evening = Evening(static_cast<int>(state.range(0)));
-  const bench::WorldInFiles files(bench::StartedWorld(state.range(1) != 0, evening));
-  const int walks = bench::WalksOn(evening + std::chrono::days{1});
-  for (auto _ : state) files.Walk(walks);
-  Describe(state);
+  const int age = static_cast<int>(state.range(0));
+  const Example& morning = kMornings[state.range(1)];
+  const bench::WorldInFiles files(bench::Played(age));
+  const int walks = bench::WalksOn(morning.Date);
+  for (auto _ : state) files.WalkAll(walks);
+  state.SetLabel(std::string(morning.Text) + ", " + bench::AgeText(age));
 }
+BENCHMARK(BM_DayBaseline)
+    ->ArgsProduct({{bench::kTenYears, bench::kLargest}, {kPlain, kMonday, kFirst}})
+    ->Unit(benchmark::kMicrosecond)
+    ->UseRealTime()
+    ->Iterations(2);
 
-void Mornings(benchmark::internal::Benchmark* bench) {
-  for (int large : {0, 1})
-    for (int morning : {kPlain, kMonday, kFirst}) bench->Args({morning, large});
-  bench->Unit(benchmark::kMillisecond);
-}
-// The world is laid anew for each day, which takes longer than the day: few rounds are enough.
-BENCHMARK(BM_Day)->Apply(Mornings)->Iterations(25);
-BENCHMARK(BM_DayBaseline)->Apply(Mornings)->Iterations(2);
-
-void BM_Step(benchmark::State& state, Step step) {
-  World world = bench::StartedWorld(false, Evening(kFirst));
-  for (auto _ : state) step.Run(world);
+/// A step on the world as the steps before it leave it.
+void BM_Step(benchmark::State& state, Step step, int morning) {
+  bench::FreshWorld before = std::move(Evenings(bench::kTenYears, morning, 1).front());
+  World& evening = before.Again();
+  AdvanceDay(evening, false, [&](std::string_view next) {
+    if (next == step.Name) evening.MarkCommitted();
+  });
+  for (auto _ : state) {
+    World& world = before.Again();
+    bench::Time(state, [&] { step.Run(world); });
+  }
 }
 
 const bool kStepsRegistered = [] {
-  for (const auto steps : {DailySteps(), MondaySteps(), FirstOfMonthSteps(),
-                           SecondFirstOfMonthSteps(), ClosingSteps()})
+  const std::pair<std::span<const Step>, int> kBlocks[] = {{DailySteps(), kPlain},
+                                                           {MondaySteps(), kMonday},
+                                                           {FirstOfMonthSteps(), kFirst},
+                                                           {SecondFirstOfMonthSteps(), kFirst},
+                                                           {ClosingSteps(), kPlain}};
+  for (const auto& [steps, morning] : kBlocks)
     for (const Step& step : steps)
-      benchmark::RegisterBenchmark(("BM_Step/" + InWords(step.Name)).c_str(), BM_Step, step);
+      benchmark::RegisterBenchmark(("BM_Step/" + InWords(step.Name)).c_str(), BM_Step, step,
+                                   morning)
+          ->Unit(benchmark::kMicrosecond)
+          ->UseManualTime()
+          ->Iterations(100);
   return true;
 }();
 
 void BM_NewGame(benchmark::State& state) {
-  const World data = bench::DataWorld(state.range(0) != 0);
-  std::map<std::string, Bytes> files;
-  for (NewFile& file : FilesOf(data)) files.emplace(file.Name, std::move(file.Contents));
+  bench::FreshWorld data(bench::DataWorld(state.range(0) != 0));
   for (auto _ : state) {
-    World world;
-    world.Load(files);
-    benchmark::DoNotOptimize(bench::Started(std::move(world), Evening(kPlain)));
+    World& world = data.Again();
+    bench::Time(state, [&] { bench::Begin(world, bench::kSomeDay); });
   }
   state.SetLabel(state.range(0) ? "largest world" : "default world");
 }
-BENCHMARK(BM_NewGame)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_NewGame)
+    ->Arg(0)
+    ->Arg(1)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime()
+    ->Iterations(20);
+
+void BM_NewGameBaseline(benchmark::State& state) {
+  World world = bench::DataWorld(state.range(0) != 0);
+  const bench::WorldInFiles files(world);
+  int walks = 0;
+  bench::Begin(world, bench::kSomeDay, [&](std::string_view) { ++walks; });
+  for (auto _ : state) files.WalkAll(walks);
+  state.SetLabel(state.range(0) ? "largest world" : "default world");
+}
+BENCHMARK(BM_NewGameBaseline)
+    ->Arg(0)
+    ->Arg(1)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseRealTime()
+    ->Iterations(2);
 
 }  // namespace
 }  // namespace grapplemont

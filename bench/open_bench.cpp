@@ -1,68 +1,61 @@
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-
+#include "bench/walks.h"
 #include "bench/worlds.h"
-#include "program/screens.h"
-#include "records/slot.h"
-#include "support/scriptdesk.h"
-#include "ui/game.h"
+#include "support/gameonworld.h"
 
-// Opening a slot and showing the main screen, without the window; beside it the same files opened
-// and read record by record.
+// Opening a slot and the main screen, and from there its longest lists, without the window; beside
+// them the files that they show, opened and read record by record.
 
 namespace grapplemont {
 namespace {
 
-/// A home in a temporary folder whose slot 1 holds the world.
-struct SlotOnDisk {
-  explicit SlotOnDisk(bool large)
-      : Home((std::filesystem::temp_directory_path() / "grapplemont-open-bench").string()),
-        Drive(RealDisk()) {
-    RemoveTree(*Drive, Home);
-    Drive->MakeFolder(Home);
-    Slot::Create(*Drive, Home + "/s1", FilesOf(bench::StartedWorld(large, bench::kSomeDay)), 1);
-  }
-  ~SlotOnDisk() { RemoveTree(*Drive, Home); }
-  std::string Home;
-  std::unique_ptr<Disk> Drive;
-};
+constexpr const char* kMain = "frmMainScreen";
 
-void BM_ShowMainScreen(benchmark::State& state) {
-  SlotOnDisk slot(state.range(0) != 0);
+void BM_OpenSlotAndMainScreen(benchmark::State& state) {
+  test::GameOnWorld play(bench::Played(static_cast<int>(state.range(0))), RealDisk());
   for (auto _ : state) {
-    test::ScriptDesk desk;
-    Game game(desk, *slot.Drive, {slot.Home});
-    RegisterScreens(game);
-    game.OpenSlot(1);
-    desk.Open("frmMainScreen");
-    state.PauseTiming();
-    game.CloseSlot();
-    desk.CloseAll();
-    state.ResumeTiming();
+    play.Desk.CloseAll();
+    play.Play.CloseSlot();
+    bench::Time(state, [&] {
+      play.Play.OpenSlot(1);
+      play.Desk.Open(kMain);
+    });
   }
-  state.SetLabel(state.range(0) ? "largest world" : "default world");
+  state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
 }
-BENCHMARK(BM_ShowMainScreen)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
-void BM_ReadSlotBaseline(benchmark::State& state) {
-  SlotOnDisk slot(state.range(0) != 0);
+void BM_Screen(benchmark::State& state, const char* screen) {
+  test::GameOnWorld play(bench::Played(static_cast<int>(state.range(0))));
   for (auto _ : state) {
-    World shapes;
-    for (const Table* table : std::as_const(shapes).Tables()) {
-      const std::string path = slot.Home + "/s1/" + std::string(table->File());
-      if (!table->Layout() || slot.Drive->Look(path) != Disk::Kind::File) continue;
-      const auto file = slot.Drive->Open(path, false);
-      Bytes record(static_cast<std::size_t>(table->Layout()->Size));
-      for (std::int64_t at = 0; at + std::ssize(record) <= slot.Drive->Size(file);
-           at += std::ssize(record))
-        slot.Drive->ReadAt(file, at, record);
-      slot.Drive->Close(file);
-    }
+    play.Desk.CloseAll();
+    play.Desk.Open(kMain);
+    bench::Time(state, [&] { play.Desk.Open(screen); });
   }
-  state.SetLabel(state.range(0) ? "largest world" : "default world");
+  state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
 }
-BENCHMARK(BM_ReadSlotBaseline)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+/// The file, or all of them.
+void BM_ReadFileBaseline(benchmark::State& state, const char* name) {
+  const World world = bench::Played(static_cast<int>(state.range(0)));
+  const bench::WorldInFiles files(world);
+  for (auto _ : state)
+    for (const Table* table : world.Tables())
+      if (table->Layout() && table->Exists() && (!name || table->File() == name))
+        files.Walk(*table->Layout(), false);
+  state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
+}
+
+void Ages(benchmark::internal::Benchmark* bench) {
+  bench->DenseRange(bench::kNew, bench::kLargest)->Unit(benchmark::kMicrosecond);
+}
+BENCHMARK(BM_OpenSlotAndMainScreen)->Apply(Ages)->UseManualTime()->Iterations(20);
+BENCHMARK_CAPTURE(BM_ReadFileBaseline, all, nullptr)->Apply(Ages)->UseRealTime();
+BENCHMARK_CAPTURE(BM_Screen, News, "frmNews")->Apply(Ages)->UseManualTime()->Iterations(50);
+BENCHMARK_CAPTURE(BM_ReadFileBaseline, news, "news.dat")->Apply(Ages)->UseRealTime();
+BENCHMARK_CAPTURE(BM_Screen, Market, "frmOtherWres")->Apply(Ages)->UseManualTime()->Iterations(50);
+BENCHMARK_CAPTURE(BM_Screen, Roster, "frmRoster")->Apply(Ages)->UseManualTime()->Iterations(50);
+BENCHMARK_CAPTURE(BM_ReadFileBaseline, workers, "wrestler.dat")->Apply(Ages)->UseRealTime();
 
 }  // namespace
 }  // namespace grapplemont

@@ -2,48 +2,42 @@
 
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-
 #include "calendar/advanceday.h"
 #include "records/dates.h"
 
 namespace grapplemont::bench {
 
-namespace {
+WorldInFiles::WorldInFiles(const World& world) : disk_(RealDisk()) {
+  for (const NewFile& file : FilesOf(world)) WriteFile(*disk_, folder_ / file.Name, file.Contents);
+}
 
-template <class T>
-void WalkFile(Disk& disk, const std::string& path) {
-  const auto file = disk.Open(path, false);
-  const auto count = disk.Size(file) / static_cast<std::int64_t>(sizeof(T));
-  T record;
-  for (std::int64_t i = 0; i < count; ++i) {
-    const auto at = i * static_cast<std::int64_t>(sizeof(T));
-    disk.ReadAt(file, at, std::as_writable_bytes(std::span(&record, 1)));
-    benchmark::DoNotOptimize(record);
-    disk.WriteAt(file, at, std::as_bytes(std::span(&record, 1)));
+void WorldInFiles::Reach(Disk::Handle file, std::int64_t at, Bytes& record, bool writes) const {
+  disk_->ReadAt(file, at, record);
+  benchmark::DoNotOptimize(record);
+  if (writes) disk_->WriteAt(file, at, record);
+}
+
+void WorldInFiles::Touch(const RecordLayout& layout, int number, bool writes) const {
+  const OpenedFile file(*disk_, folder_ / std::string(layout.File), false);
+  Bytes record(static_cast<std::size_t>(layout.Size));
+  Reach(file, (number - 1) * std::ssize(record), record, writes);
+}
+
+void WorldInFiles::Walk(const RecordLayout& layout, bool writes,
+                        const std::function<void(ByteSpan)>& visit) const {
+  const OpenedFile file(*disk_, folder_ / std::string(layout.File), false);
+  Bytes record(static_cast<std::size_t>(layout.Size));
+  const std::int64_t size = disk_->Size(file);
+  for (std::int64_t at = 0; at + layout.Size <= size; at += layout.Size) {
+    Reach(file, at, record, writes);
+    if (visit) visit(record);
   }
-  disk.Close(file);
 }
 
-}  // namespace
-
-WorldInFiles::WorldInFiles(const World& world)
-    : disk_(RealDisk()),
-      folder_((std::filesystem::temp_directory_path() / "grapplemont-bench").string()) {
-  RemoveTree(*disk_, folder_);
-  disk_->MakeFolder(folder_);
-  for (const NewFile& file : FilesOf(world))
-    WriteFile(*disk_, folder_ + "/" + file.Name, file.Contents);
-}
-
-WorldInFiles::~WorldInFiles() {
-  RemoveTree(*disk_, folder_);
-}
-
-void WorldInFiles::Walk(int times) const {
+void WorldInFiles::WalkAll(int times) const {
   for (int walk = 0; walk < times; ++walk) {
-    WalkFile<Promotion>(*disk_, folder_ + "/promos.dat");
-    WalkFile<Worker>(*disk_, folder_ + "/wrestler.dat");
+    Walk(LayoutOf<Promotion>(), true);
+    Walk(LayoutOf<Worker>(), true);
   }
 }
 

@@ -1,13 +1,14 @@
 #pragma once
 
+#include <functional>
 #include <memory>
-#include <string>
 
 #include "records/disk.h"
 #include "records/world.h"
+#include "support/scratchfolder.h"
 
-// What a day costs a program without tables: for each routine the file is opened, every record of
-// it read and written back, and the file closed.
+// What the work costs a program without tables: the file is opened, its records are read and
+// written back one by one, and it is closed.
 
 namespace grapplemont::bench {
 
@@ -15,15 +16,19 @@ namespace grapplemont::bench {
 class WorldInFiles {
  public:
   explicit WorldInFiles(const World& world);
-  ~WorldInFiles();
-  WorldInFiles(const WorldInFiles&) = delete;
-  WorldInFiles& operator=(const WorldInFiles&) = delete;
-  /// So many times through the promotions and the workers.
-  void Walk(int times) const;
+  /// One record under an opening of its own.
+  void Touch(const RecordLayout& layout, int number, bool writes) const;
+  /// Each record in turn under one opening of the file; `visit` gets its bytes.
+  void Walk(const RecordLayout& layout, bool writes,
+            const std::function<void(ByteSpan)>& visit = {}) const;
+  /// So many times through the promotions and the workers, writing.
+  void WalkAll(int times) const;
 
  private:
+  void Reach(Disk::Handle file, std::int64_t at, Bytes& record, bool writes) const;
+
   std::unique_ptr<Disk> disk_;
-  std::string folder_;
+  test::ScratchFolder folder_;
 };
 
 /// How many walks the routines of a morning make.

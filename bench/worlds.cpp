@@ -1,9 +1,12 @@
 #include "bench/worlds.h"
 
-#include "records/disk.h"
+#include <stdexcept>
+
 #include "roster/invented.h"
 #include "session/newgame.h"
-#include "support/checkout.h"
+#include "support/defaultworld.h"
+#include "support/gameonworld.h"
+#include "tools/career.h"
 
 namespace grapplemont::bench {
 
@@ -11,20 +14,19 @@ namespace {
 
 constexpr int kManyPromotions = 35, kManyWorkers = 25000, kManyStaff = 10000;
 
-std::map<std::string, Bytes> DefaultData() {
-  const auto disk = RealDisk();
-  return ReadWorldFiles(*disk, test::Checkout("/data"));
-}
+constexpr int kMonth = 30, kDecade = 3652;  // days
 
-World DefaultWorld() {
-  World world;
-  world.Load(DefaultData());
-  return world;
-}
+struct Life {
+  const char* Text;
+  int Days;
+};
+// Each of the default world's goes on from the one before.
+constexpr Life kLives[] = {
+    {"new", kMonth}, {"after 10 years", kDecade}, {"after 20 years", kDecade}, {"largest", kMonth}};
 
 /// The largest world that the files may hold.
 World LargestWorld() {
-  World world = DefaultWorld();
+  World world = test::CopyOf(test::DefaultWorld());
   while (world.Promotions().Count() < kManyPromotions) {
     Promotion copy = world.Promotions()[1 + world.Promotions().Count() % 18];
     const std::string number = std::to_string(world.Promotions().Count() + 1);
@@ -57,24 +59,49 @@ World LargestWorld() {
   return world;
 }
 
+World Live(World world, int days) {
+  test::GameOnWorld career(std::move(world));
+  const tools::CareerEnd end = tools::PlayDays(
+      career.Play, days, tools::Shows::Auto, [](int) {}, tools::AfterTheEnd::AnotherJob);
+  if (end.Days != days) throw std::runtime_error("The career came to its end.");
+  return test::CopyOf(career.World());
+}
+
 }  // namespace
 
 World DataWorld(bool large) {
-  return large ? LargestWorld() : DefaultWorld();
+  if (!large) return test::CopyOf(test::DefaultWorld());
+  static const World largest = LargestWorld();
+  return test::CopyOf(largest);
 }
 
-World Started(World world, Day start) {
+void Begin(World& data, Day start, const std::function<void(std::string_view)>& watcher) {
   NewGameChoice choice;
   choice.PlayerName = "Bench";
-  choice.PromotionUid = world.Promotions()[3].Uid;
+  choice.PromotionUid = data.Promotions()[3].Uid;
   choice.Start = start;
   choice.SaveName = "Bench";
-  NewGame(world, choice);
-  return world;
+  NewGame(data, choice, watcher);
 }
 
 World StartedWorld(bool large, Day start) {
-  return Started(DataWorld(large), start);
+  World world = DataWorld(large);
+  Begin(world, start);
+  return world;
+}
+
+World Played(int age) {
+  static std::map<int, World> played;
+  if (!played.contains(age)) {
+    const bool isFirst = age == kNew || age == kLargest;
+    World before = isFirst ? StartedWorld(age == kLargest, kSomeDay) : Played(age - 1);
+    played.emplace(age, Live(std::move(before), kLives[age].Days));
+  }
+  return test::CopyOf(played.at(age));
+}
+
+const char* AgeText(int age) {
+  return kLives[age].Text;
 }
 
 }  // namespace grapplemont::bench

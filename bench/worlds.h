@@ -1,15 +1,53 @@
 #pragma once
 
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string_view>
+
 #include "records/world.h"
 
 namespace grapplemont::bench {
 
-inline constexpr Day kSomeDay{std::chrono::year{2026} / 3 / 3};
+inline constexpr Day kSomeDay{std::chrono::year{2026} / 3 / 1};
 
 /// The default data, or the largest that the files may hold.
 World DataWorld(bool large);
-/// A new game made of it.
-World Started(World data, Day start);
+/// Makes a new game of it; `watcher` hears each step's name.
+void Begin(World& data, Day start, const std::function<void(std::string_view)>& watcher = {});
 World StartedWorld(bool large, Day start);
+
+/// The worlds that are played: the default one after so many years, and the largest.
+enum Age { kNew, kTenYears, kTwentyYears, kLargest };
+/// The world at that age, its shows auto-booked from a fixed seed, and a month older: by then
+/// rivals have brought what a new game gave them to the size they want. Each is played once.
+World Played(int age);
+/// "after 10 years".
+const char* AgeText(int age);
+
+/// A world that each repetition finds as it was, with the same draws before it.
+class FreshWorld {
+ public:
+  explicit FreshWorld(World world) : world_(std::move(world)) { world_.MarkCommitted(); }
+  World& Again() {
+    world_.Rollback();
+    world_.SetChance(std::make_unique<SeededDraws>(1));
+    return world_;
+  }
+
+ private:
+  World world_;
+};
+
+/// One repetition of a figure with UseManualTime: the time that the work takes, and nothing else.
+template <class Work>
+void Time(benchmark::State& state, const Work& work) {
+  const auto began = std::chrono::steady_clock::now();
+  work();
+  const std::chrono::duration<double> took = std::chrono::steady_clock::now() - began;
+  state.SetIterationTime(took.count());
+}
 
 }  // namespace grapplemont::bench

@@ -48,7 +48,7 @@ void LeaveRival(World& world, Worker& worker) {
                 ShouldTell(world, world.Game().MailWorkerFire, rival->Size)))
     AddNews(world, rival->Initials + " News",
             worker.Name + " has left " + rival->Initials.Str() + ".");
-  PartWays(world, worker);
+  PartWays(world, {&worker});
 }
 
 void PayStaffWage(World& world, const Staff& staff) {

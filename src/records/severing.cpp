@@ -65,10 +65,9 @@ void EndContract(Worker& worker) {
   worker.Stable = "None";
 }
 
-void LoseClients(World& world, int managerUid) {
-  if (managerUid == 0) return;
+void LoseClients(World& world, const std::set<int>& managerUids) {
   for (Worker& client : world.Workers())
-    if (client.Manager == managerUid) client.Manager = 0;
+    if (client.Manager != 0 && managerUids.contains(client.Manager)) client.Manager = 0;
 }
 
 namespace {
@@ -176,7 +175,7 @@ void ForgetWorker(World& world, const Worker& worker) {
   if (workerUid == 0) return;
   world.Teams().Keep(
       [=](const Team& team) { return team.Worker1 != workerUid && team.Worker2 != workerUid; });
-  LoseClients(world, workerUid);
+  LoseClients(world, {workerUid});
   LeaveMicrophones(world, worker);
   ForgetInThePast(world, workerUid);
   for (Segment& segment : world.Segments())

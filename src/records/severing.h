@@ -1,5 +1,7 @@
 #pragma once
 
+#include <set>
+
 #include "records/world.h"
 
 namespace grapplemont {
@@ -32,8 +34,8 @@ void EndPosting(Worker& worker);
 void EndContract(Worker& worker);
 /// No promotion has him as its Commissioner any more.
 void LeaveOffice(World& world, int workerUid);
-/// Nobody has him as a manager any more.
-void LoseClients(World& world, int managerUid);
+/// Nobody has one of them as a manager any more. It looks at everybody: call it once for many.
+void LoseClients(World& world, const std::set<int>& managerUids);
 /// The player's shows lose him as their colour commentator.
 void LeaveCommentary(World& world, int workerUid);
 /// All shows lose him, as announcer and as colour commentator.

@@ -33,10 +33,14 @@ void Rosters::Move(const Worker& worker, int fromUid, int toUid) {
   if (toUid != 0) ++counts_[toUid];
 }
 
-void PartWays(World& world, Worker& worker) {
-  LoseClients(world, worker.Uid);
-  SeverWorker(world, worker);
-  worker.Split = "None";
+void PartWays(World& world, const std::vector<Worker*>& workers) {
+  std::set<int> uids;
+  for (Worker* worker : workers) {
+    SeverWorker(world, *worker);
+    worker->Split = "None";
+    uids.insert(worker->Uid);
+  }
+  LoseClients(world, uids);
 }
 
 }  // namespace grapplemont

@@ -4,6 +4,7 @@
 #include <array>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "records/arithmetic.h"
 #include "records/world.h"
@@ -33,8 +34,8 @@ class Rosters {
   std::map<int, int> counts_;
 };
 
-/// The worker leaves his employer, and all that tied him to it ends: Titles, feuds, corner, office,
-/// his part of a divided roster. Whom he managed stays behind alone.
-void PartWays(World& world, Worker& worker);
+/// The workers leave their employers, and all that tied them there ends: Titles, feuds, corner,
+/// office, the part of a divided roster. Whom they managed stays behind alone.
+void PartWays(World& world, const std::vector<Worker*>& workers);
 
 }  // namespace grapplemont

@@ -28,7 +28,7 @@ void Save(World& world, const Promotion& rival, Rosters& rosters) {
   Worker* worker = FindOverpaid(world, rival);
   if (!worker) return;
   rosters.Move(*worker, rival.Uid, 0);
-  FireFrom(world, rival, *worker);
+  FireFrom(world, rival, {worker});
 }
 
 void Spend(World& world, const Promotion& rival, Rosters& rosters) {

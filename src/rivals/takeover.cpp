@@ -67,8 +67,10 @@ long long TakeoverCost(const Promotion& rival, Takeover kind) {
 void TakeOverRival(World& world, Promotion& rival, Takeover kind) {
   world.Player().Money -= TakeoverCost(rival, kind);
   if (kind == Takeover::Destruction) {
+    std::vector<Worker*> roster;
     for (Worker& worker : world.Workers())
-      if (worker.Employer == rival.Uid) PartWays(world, worker);
+      if (worker.Employer == rival.Uid) roster.push_back(&worker);
+    PartWays(world, roster);
     for (Staff& staff : world.AllStaff())
       if (staff.Employer == rival.Uid) DismissStaff(world, staff);
   } else {

@@ -30,6 +30,15 @@ int LoyaltyInClasses(int behaviour) {
   return behaviour > 90 ? 2 : behaviour >= 60 ? 1 : 0;
 }
 
+void TellOfFiring(World& world, const Promotion& rival, const Worker& worker) {
+  NoteDeed(world, kDeedFired, &rival, worker.Name);
+  if (IsShortlisted(world, worker.Uid) ||
+      ShouldTell(world, world.Game().MailWorkerFire, rival.Size))
+    AddNews(world, rival.Initials + " News",
+            rival.Initials + (worker.ContractType == "Wri" ? " have fired " : " have released ") +
+                worker.Name.Str() + "!");
+}
+
 }  // namespace
 
 bool IsWithinLimits(const Worker& worker, int size) {
@@ -67,7 +76,7 @@ void SignFor(World& world, const Promotion& rival, Worker& worker) {
   TellOf(world, world.Game().MailWorkerHire, rival,
          rival.Initials + (isFree ? " have signed " : " have stolen ") + worker.Name.Str() +
              (isFree ? "" : " from " + PromotionInitials(world, worker.Employer)) + "!");
-  PartWays(world, worker);
+  PartWays(world, {&worker});
   worker.Employer = rival.Uid;
   worker.Position = PlacementPosition(worker, rival.Size);
   worker.Debuted = true;
@@ -77,29 +86,29 @@ void SignFor(World& world, const Promotion& rival, Worker& worker) {
   worker.Wage = std::min(worker.Wage + BySize(kWageRise, rival.Size), kHighestWage);
 }
 
-Worker* FindWeakest(World& world, int promotionUid, Taste taste) {
-  Worker* weakest = nullptr;
-  int lowest = kAboveAllScores;
+std::vector<Worker*> FindWeakest(World& world, int promotionUid, Taste taste, int most) {
+  // Nobody's going changes the score of another, so one look at all ranks them. Pairs compare
+  // places in the file where scores are equal.
+  std::vector<std::pair<int, Worker*>> ranked;
   for (Worker& worker : world.Workers()) {
     if (worker.Employer != promotionUid || !IsOnMainRoster(worker)) continue;
     const int score = RosterScore(worker, taste);
-    if (score >= lowest) continue;
-    weakest = &worker;
-    lowest = score;
+    if (score < kAboveAllScores) ranked.emplace_back(score, &worker);
   }
+  std::sort(ranked.begin(), ranked.end());
+  std::vector<Worker*> weakest;
+  for (const auto& [score, worker] : ranked)
+    if (std::ssize(weakest) < most) weakest.push_back(worker);
   return weakest;
 }
 
-void FireFrom(World& world, const Promotion& rival, Worker& worker) {
-  NoteDeed(world, kDeedFired, &rival, worker.Name);
-  if (IsShortlisted(world, worker.Uid) ||
-      ShouldTell(world, world.Game().MailWorkerFire, rival.Size))
-    AddNews(world, rival.Initials + " News",
-            rival.Initials + (worker.ContractType == "Wri" ? " have fired " : " have released ") +
-                worker.Name.Str() + "!");
-  PartWays(world, worker);
-  worker.Debuted = true;
-  worker.Morale -= kMoodSwing;
+void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& workers) {
+  for (const Worker* worker : workers) TellOfFiring(world, rival, *worker);
+  PartWays(world, workers);
+  for (Worker* worker : workers) {
+    worker->Debuted = true;
+    worker->Morale -= kMoodSwing;
+  }
 }
 
 bool SignOne(World& world, const Promotion& rival, Taste taste, Rosters& rosters) {
@@ -119,12 +128,10 @@ void FitRoster(World& world, const Promotion& rival, Rosters& rosters) {
   const int signings = std::min(band.Least - count, kSigningsInARow);
   for (int n = 0; n < signings; ++n)
     if (!SignOne(world, rival, taste, rosters)) break;
-  for (int n = band.Most; n < count; ++n) {
-    Worker* weakest = FindWeakest(world, rival.Uid, taste);
-    if (!weakest) break;
-    rosters.Move(*weakest, rival.Uid, 0);
-    FireFrom(world, rival, *weakest);
-  }
+  if (count <= band.Most) return;
+  const auto weakest = FindWeakest(world, rival.Uid, taste, count - band.Most);
+  for (const Worker* worker : weakest) rosters.Move(*worker, rival.Uid, 0);
+  FireFrom(world, rival, weakest);
 }
 
 int GoingRate(int size, int over) {

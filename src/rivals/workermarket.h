@@ -18,10 +18,10 @@ Worker* FindCandidate(World& world, const Promotion& rival, Taste taste);
 /// He comes to the rival, from the market or from whoever employs him, and the world hears of it.
 void SignFor(World& world, const Promotion& rival, Worker& worker);
 
-/// The one of the main roster who would go first; nullptr for an empty one.
-Worker* FindWeakest(World& world, int promotionUid, Taste taste);
-/// He goes to the market, and the world hears of it.
-void FireFrom(World& world, const Promotion& rival, Worker& worker);
+/// Those of the main roster who would go first, so many at most, in the order in which they go.
+std::vector<Worker*> FindWeakest(World& world, int promotionUid, Taste taste, int most);
+/// They go to the market, and the world hears of it.
+void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& workers);
 
 /// Signs or fires until the main roster is within its band: at most ten signings, and none after
 /// one that fails.

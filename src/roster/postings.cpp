@@ -139,7 +139,7 @@ std::string EndedByMove(const World& world, const Worker& worker, int position) 
 void MovePosition(World& world, Worker& worker, int position) {
   worker.Morale += MoraleOfMove(worker.Position, position);
   worker.Position = position;
-  if (position != kManager) LoseClients(world, worker.Uid);
+  if (position != kManager) LoseClients(world, {worker.Uid});
   if (position != kNonWrestler && IsCommissioner(world, worker)) world.Player().Commissioner = 0;
   if (!IsRosterPosition(position)) worker.Manager = 0;
 }

@@ -72,7 +72,7 @@ void PartWith(World& world, Worker& worker) {
   worker.Debuted = true;
   if (worker.Uid == 0) return;
   LeaveOffice(world, worker.Uid);
-  LoseClients(world, worker.Uid);
+  LoseClients(world, {worker.Uid});
   LeaveFeuds(world, worker.Uid);
   VacateTitlesOf(world, worker.Uid, TitleLoss::ATenth);
   LeaveCommentary(world, worker.Uid);

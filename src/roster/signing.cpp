@@ -139,7 +139,7 @@ std::string WhyNotCalled(const World& world, const Worker& worker, const Signing
 /// He gives up what he was and had where he comes from.
 void LeaveFormer(World& world, const Worker& worker) {
   LeaveOffice(world, worker.Uid);
-  LoseClients(world, worker.Uid);
+  LoseClients(world, {worker.Uid});
   VacateTitlesOf(world, worker.Uid);
   LeaveMicrophones(world, worker);
 }

@@ -37,7 +37,7 @@ bool Has(const std::string& text, const std::string& part) {
 TEST(WorldNews, TellsWhatRivalsDid) {
   World world = CalmWorld();
   SignFor(world, Rival(world), One(world, "CWA 3"));
-  FireFrom(world, Rival(world), One(world, "NEW 2"));
+  FireFrom(world, Rival(world), {&One(world, "NEW 2")});
   const auto signings = NewsOf(world, "Signing"), departures = NewsOf(world, "Departure");
   ASSERT_EQ(signings.size(), 1U);
   EXPECT_TRUE(Has(signings[0], "NEW: ") && Has(signings[0], "CWA 3")) << signings[0];

@@ -37,6 +37,14 @@ Promotion& Rival(World& world) {
   return Named(world.Promotions(), "XWF");
 }
 
+/// Who would go, in their order.
+std::string Weakest(World& world, int most) {
+  std::string names;
+  for (const Worker* worker : FindWeakest(world, Rival(world).Uid, kBrawlers, most))
+    names += worker->Name.Str() + ";";
+  return names;
+}
+
 TEST(RivalSigning, HoldsToTheLimitsOfEachSize) {
   struct Row {
     int Size, Wage, OverMost, OverAbove;
@@ -177,17 +185,15 @@ TEST(RivalFiring, LetsTheLowestScoreGo) {
                     .Worker("Weak", Of(20, 50))
                     .Worker("As Weak", Of(20, 50))
                     .Game("CWA", kGameStart, TellsAll());
-  EXPECT_EQ(FindWeakest(world, Rival(world).Uid, kBrawlers)->Name.Str(), "Weak");
+  EXPECT_EQ(Weakest(world, 9), "Weak;As Weak;Strong;");
   Worker& weak = Named(world.Workers(), "Weak");
   weak.Unsackable = true;
-  Named(world.Workers(), "As Weak").Unsackable = true;
-  EXPECT_EQ(FindWeakest(world, Rival(world).Uid, kBrawlers)->Name.Str(), "Strong");
-  Named(world.Workers(), "Strong").Employer = 0;
-  EXPECT_EQ(FindWeakest(world, Rival(world).Uid, kBrawlers)->Name.Str(), "Weak")
+  EXPECT_EQ(Weakest(world, 2), "As Weak;Strong;");
+  EXPECT_EQ(Weakest(world, 3), "As Weak;Strong;Weak;")
       << "the unsackable go when nobody else is left";
 
   weak.Morale = 15;
-  FireFrom(world, Rival(world), weak);
+  FireFrom(world, Rival(world), {&weak});
   EXPECT_EQ(weak.Employer, 0);
   EXPECT_EQ(weak.ContractMonths, 0);
   EXPECT_EQ(weak.ContractType.Str(), "Non");
@@ -195,7 +201,7 @@ TEST(RivalFiring, LetsTheLowestScoreGo) {
   EXPECT_EQ(weak.Morale, 0);
   Worker& verbal = Named(world.Workers(), "As Weak");
   verbal.ContractType = "Non";
-  FireFrom(world, Rival(world), verbal);
+  FireFrom(world, Rival(world), {&verbal});
   EXPECT_EQ(NewsOf(world),
             "XWF News: XWF have fired Weak!\nXWF News: XWF have released As Weak!\n");
 }
@@ -224,8 +230,7 @@ TEST(RivalFiring, MeasuresManagersAndNonWrestlersToo) {
                       .Worker("Plain", kMidcard, 50, with(50, 50))
                       .Worker("Other", row.Position, row.Over, with(row.Charisma, row.Skill))
                       .BuildUnchecked();
-    EXPECT_EQ(FindWeakest(world, Rival(world).Uid, kAllRound)->Name.Str(),
-              row.Goes ? "Other" : "Plain")
+    EXPECT_EQ(Weakest(world, 1), row.Goes ? "Other;" : "Plain;")
         << row.Position << " " << row.Charisma;
   }
 }
@@ -235,7 +240,7 @@ TEST(RivalFiring, TellsOfTheShortlistWhateverTheOption) {
     World world = SmallWorld().Promotion("CWA").Promotion("XWF").Worker("Bram Okafor").Game("CWA");
     world.Game().MailWorkerFire = 2;
     if (noted) world.Game().Shortlist[14] = world.Workers()[1].Uid;
-    FireFrom(world, Rival(world), world.Workers()[1]);
+    FireFrom(world, Rival(world), {&world.Workers()[1]});
     EXPECT_EQ(NewsOf(world), noted ? "XWF News: XWF have fired Bram Okafor!\n" : "");
   }
 }
@@ -281,13 +286,24 @@ TEST(RivalWorkerHiring, TakesThePlayersPeopleInTheCourseOfADay) {
   EXPECT_EQ(FaultsOf(world), "");
 }
 
-TEST(RivalWorkerHiring, FiresWhatStandsAboveItsBand) {
+TEST(RivalWorkerHiring, FiresWhatStandsAboveItsBandTheWeakestFirst) {
   const int most = tuning::kRosters[kBackyard - 1].Most;
-  World world =
-      SmallWorld().Promotion("CWA").Promotion("XWF", kBackyard).Crew(most + 3).Game("CWA");
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Promotion("XWF", kBackyard)
+                    .Crew(most + 2)
+                    .Worker("Corner", kManager, 1, [](Worker& worker) { worker.Charisma = 1; })
+                    .Game("CWA", kGameStart, TellsAll());
+  const int corner = Named(world.Workers(), "Corner").Uid;
+  for (Worker& worker : world.Workers())
+    if (worker.Uid != corner) worker.Manager = corner;
   ScriptDraws(world, std::vector<int>{});
   RivalWorkerHiring(world);
   EXPECT_EQ(Rosters(world).Of(Rival(world).Uid), most);
+  EXPECT_EQ(NewsOf(world),
+            "XWF News: XWF have fired Corner!\nXWF News: XWF have fired XWF Hand 6!\n"
+            "XWF News: XWF have fired XWF Hand 12!\n");
+  for (const Worker& worker : world.Workers()) EXPECT_EQ(worker.Manager, 0) << worker.Name.Str();
   EXPECT_EQ(FaultsOf(world), "");
 }
 
