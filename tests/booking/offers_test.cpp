@@ -331,9 +331,7 @@ void ExpectTurns(const World& world, Segment match, int purpose) {
     const auto turn = std::find_if(calls.begin(), calls.end(),
                                    [&](const TurnCall& call) { return call.Turner == uid; });
     ASSERT_NE(turn, calls.end());
-    // A partner who turns by the finish or the aftermath asks for no purpose.
-    const bool isSure = turn->Other == PartnerOf(match, uid);
-    EXPECT_TRUE(isSure || CanTurn(*world.FindWorker(uid), world.FindWorker(turn->Other)));
+    EXPECT_TRUE(CanTurn(*world.FindWorker(uid), world.FindWorker(turn->Other)));
   }
 }
 
