@@ -58,13 +58,17 @@ std::vector<int> DrawsOf(const Segment& match) {
   return {last - 2, last - 1, last};
 }
 
+/// Whoever is ready to turn may do so whether anybody wins or not.
 std::vector<int> TeamFinishes(const World& world, const Segment& match) {
-  std::vector<int> offered = {kClean, kCheapVictory};
+  std::vector<int> offered;
+  if (!IsDraw(match)) offered = {kClean, kCheapVictory};
   int code = kFirstTurns;
   for (const int uid : PeopleOf(match)) {
     if (MayTurn(world, uid)) offered.push_back(code);
     ++code;
   }
+  if (!IsDraw(match)) return offered;
+  for (const int draw : DrawsOf(match)) offered.push_back(draw);
   return offered;
 }
 
@@ -72,8 +76,8 @@ std::vector<int> TeamFinishes(const World& world, const Segment& match) {
 
 std::vector<int> OfferedFinishes(const World& world, const Segment& match) {
   if (FinishesOf(match.Style).empty()) return {};
-  if (IsDraw(match)) return DrawsOf(match);
   if (match.Style != kSingles && match.Style != kTag) return TeamFinishes(world, match);
+  if (IsDraw(match)) return DrawsOf(match);
   std::vector<int> offered;
   const auto list = match.Style == kSingles ? std::span<const FinishRow>(kSinglesList) : kTagList;
   for (const FinishRow& row : list) {

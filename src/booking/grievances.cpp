@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <initializer_list>
 #include <vector>
 
@@ -122,6 +123,13 @@ void OtherLevels(Levels& levels, const World& world, const Segment& match) {
   }
 }
 
+std::string InWords(int number) {
+  constexpr const char* kWords[] = {"nobody", "one",   "two",  "three", "four",   "five",  "six",
+                                    "seven",  "eight", "nine", "ten",   "eleven", "twelve"};
+  const auto at = static_cast<std::size_t>(number);
+  return at < std::size(kWords) ? kWords[at] : std::to_string(number);
+}
+
 }  // namespace
 
 std::map<int, int> GrievancesOf(const World& world, const Segment& match) {
@@ -150,6 +158,18 @@ std::string GrievanceText(const World& world, const Segment& match) {
   for (const auto& [uid, level] : sorted)
     text += (text.empty() ? "" : ", ") + SideText(world, {uid}) + " -" +
             std::to_string(MoralePrice(level));
+  return text;
+}
+
+std::string HeldAgainstText(const World& world, const Segment& match) {
+  std::map<int, int, std::greater<>> people;  // how many, by what it takes from each
+  for (const auto& [uid, level] : GrievancesOf(world, match)) ++people[MoralePrice(level)];
+  std::string text;
+  for (const auto& [price, count] : people) {
+    const std::string start = text.empty() ? " will hold it against you, " : " more ";
+    text += (text.empty() ? "" : ", ") + InWords(count) + start + std::to_string(price) +
+            (text.empty() ? " morale" : "") + (count == 1 ? "" : " each");
+  }
   return text;
 }
 

@@ -13,5 +13,7 @@ std::map<int, int> GrievancesOf(const World& world, const Segment& match);
 int MoralePrice(int level);
 /// "Bram Okafor -15" for each of them, most first; empty when nobody minds.
 std::string GrievanceText(const World& world, const Segment& match);
+/// By what it costs: "nine will hold it against you, 50 morale each, two more 15 each".
+std::string HeldAgainstText(const World& world, const Segment& match);
 
 }  // namespace grapplemont

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "show/turncalls.h"
 #include "storylines/feuds.h"
 
 namespace grapplemont {
@@ -55,12 +56,16 @@ bool ManagesAll(const World& world, int manager, const std::vector<int>& workers
   });
 }
 
-/// A team turns only as a whole.
+/// All who would turn must be waiting to. Whoever speaks for himself may then turn on anybody,
+/// liked or not; where a manager is there, nothing is offered that could not come off.
 bool MayTurn(const World& world, const TalkShape& shape, const Segment& interview) {
-  const std::vector<int> workers = TalkWorkers(shape, interview);
-  return std::all_of(workers.begin(), workers.end(), [&](int uid) {
-    const Worker* worker = world.FindWorker(uid);
-    return worker && worker->TurnPending;
+  Segment turning = interview;
+  turning.Purpose = kTalkTurn;
+  const std::vector<TurnCall> turns = BookedTurns(world, turning);
+  return !turns.empty() && std::all_of(turns.begin(), turns.end(), [&](const TurnCall& turn) {
+    const Worker* turner = world.FindWorker(turn.Turner);
+    if (!turner || !turner->TurnPending) return false;
+    return shape.Manager == 0 || CanTurn(*turner, world.FindWorker(turn.Other));
   });
 }
 

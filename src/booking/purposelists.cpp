@@ -1,139 +1,13 @@
 #include <algorithm>
-#include <iterator>
-#include <span>
 
 #include "booking/offers.h"
 #include "booking/roster.h"
+#include "records/segmentacts.h"
 #include "storylines/feuds.h"
 
 namespace grapplemont {
 
 namespace {
-
-/// Who commits an act, or whom it hits.
-enum class Party {
-  Nobody,
-  Winner,
-  Loser,
-  LosersPartner,
-  Winners,  // both of them
-  Losers,
-  First,  // the worker named first, and so on
-  Second,
-  Third,
-  Fourth,
-  RunIn,     // Other1
-  RunIns,    // Other1, and Other2 of a tag match
-  Saver,     // Other2 of a singles match
-  Savers,    // Other3 and Other4
-  Attacker,  // Other1, to those who save from him
-  Attacked   // whom the run-in of the finish has hit
-};
-
-std::vector<int> PeopleOf(Party party, const Segment& match) {
-  const auto& worker = match.Worker;
-  switch (party) {
-    case Party::Winner:
-      return {match.Winner};
-    case Party::Loser:
-      return {match.Loser};
-    case Party::LosersPartner:
-      return {PartnerOf(match, match.Loser)};
-    case Party::Winners:
-      return WinnersOf(match);
-    case Party::Losers:
-      return LosersOf(match);
-    case Party::First:
-      return {worker[0]};
-    case Party::Second:
-      return {worker[1]};
-    case Party::Third:
-      return {worker[2]};
-    case Party::Fourth:
-      return {worker[3]};
-    case Party::RunIn:
-    case Party::Attacker:
-      return {match.Other1};
-    case Party::RunIns:
-      return {match.Other1, match.Other2};
-    case Party::Attacked:
-      return {match.Finish == kDqThroughInterference ? match.Winner : match.Loser};
-    case Party::Saver:
-      return {match.Other2};
-    case Party::Savers:
-      return {match.Other3, match.Other4};
-    default:
-      return {};
-  }
-}
-
-/// An occasion for a turn: what happens, who does it, to whom.
-struct Occasion {
-  int Code;  // of the finish or of the aftermath
-  Party By;
-  Party Against;
-};
-
-constexpr Occasion kSinglesFinishTurns[] = {
-    {kCountOut, Party::Winner, Party::Loser},
-    {kInterference, Party::Winner, Party::Loser},
-    {kInterference, Party::RunIn, Party::Loser},
-    {kBotchedInterference, Party::RunIn, Party::Winner},
-    {kCheating, Party::Winner, Party::Loser},
-};
-constexpr Occasion kSinglesAftermathTurns[] = {
-    {after1::kAttacksReferee, Party::Loser, Party::Nobody},
-    {after1::kTantrum, Party::Loser, Party::Nobody},
-    {after1::kRunInOnFirst, Party::RunIn, Party::First},
-    {after1::kRunInOnSecond, Party::RunIn, Party::Second},
-    {after1::kRevengeAttack, Party::Loser, Party::Winner},
-    {after1::kBeatDown, Party::Winner, Party::Loser},
-    {after1::kGetsRevenge, Party::Loser, Party::Winner},
-    {after1::kTwoOnLoser, Party::Winner, Party::Loser},
-    {after1::kTwoOnLoser, Party::RunIn, Party::Loser},
-    {after1::kTwoOnWinner, Party::Loser, Party::Winner},
-    {after1::kTwoOnWinner, Party::RunIn, Party::Winner},
-    {after1::kAttacksRunIn, Party::Loser, Party::RunIn},
-    {after1::kHandshake, Party::Winner, Party::Loser},
-    {after1::kHandshake, Party::Loser, Party::Winner},
-    {after1::kCheapShot, Party::Loser, Party::Winner},
-    {after1::kFirstRefusesHand, Party::First, Party::Second},
-    {after1::kSecondRefusesHand, Party::Second, Party::First},
-    {after1::kSave, Party::Saver, Party::Attacker},
-};
-constexpr Occasion kTagFinishTurns[] = {
-    {kCountOut, Party::Winner, Party::Loser},
-    {kInterference, Party::Winner, Party::Loser},
-    {kInterference, Party::RunIns, Party::Loser},
-    {kBotchedInterference, Party::RunIns, Party::Winner},
-    {kCheating, Party::Winner, Party::Loser},
-    {kPartnerTurns, Party::LosersPartner, Party::Loser},
-};
-constexpr Occasion kTagAftermathTurns[] = {
-    {after2::kRevenge, Party::Losers, Party::Winner},
-    {after2::kBeatenDown, Party::Winners, Party::Loser},
-    {after2::kFirstTurns, Party::First, Party::Second},
-    {after2::kSecondTurns, Party::Second, Party::First},
-    {after2::kThirdTurns, Party::Third, Party::Fourth},
-    {after2::kFourthTurns, Party::Fourth, Party::Third},
-    {after2::kAssaultGoesOn, Party::RunIns, Party::Attacked},
-    {after2::kThreeOnTwo, Party::Winners, Party::Loser},
-    {after2::kThreeOnTwo, Party::RunIns, Party::Loser},
-    {after2::kAttackRunIn, Party::Losers, Party::RunIn},
-    {after2::kAttackRunIns, Party::Losers, Party::RunIn},
-    {after2::kLosersArgue, Party::Loser, Party::LosersPartner},
-    {after2::kLosersArgue, Party::LosersPartner, Party::Loser},
-    {after2::kThreeOnOne, Party::Winners, Party::Loser},
-    {after2::kThreeOnOne, Party::LosersPartner, Party::Loser},
-    {after2::kSave, Party::Savers, Party::Attacker},
-    {after2::kFailedSave, Party::Savers, Party::Attacker},
-    {after2::kRunInOnFirst, Party::Savers, Party::First},
-    {after2::kRunInOnSecond, Party::Savers, Party::Second},
-    {after2::kRunInOnThird, Party::Savers, Party::Third},
-    {after2::kRunInOnFourth, Party::Savers, Party::Fourth},
-    {after2::kRunInOnFirstTeam, Party::Savers, Party::First},
-    {after2::kRunInOnSecondTeam, Party::Savers, Party::Third},
-};
 
 /// Who may turn in this match: for each act the people who do it, alone and, when all of them can,
 /// together.
@@ -151,30 +25,19 @@ struct Turners {
   }
 };
 
-void AddTurners(Turners& turners, const World& world, const Segment& match,
-                std::span<const Occasion> occasions, int code) {
-  for (const Occasion& occasion : occasions) {
-    if (occasion.Code != code) continue;
-    const std::vector<int> against = PeopleOf(occasion.Against, match);
-    const Worker* partner = against.empty() ? nullptr : world.FindWorker(against[0]);
+Turners TurnersOf(const World& world, const Segment& match) {
+  Turners turners;
+  for (const Act& act : ActsOf(match)) {
+    if (!act.Is(kTurnOccasion)) continue;
+    const std::vector<int> on = PeopleOf(match, act.On);
+    const Worker* victim = on.empty() ? nullptr : world.FindWorker(on.front());
     std::vector<int> ready;
-    for (const int uid : PeopleOf(occasion.By, match))
-      if (const Worker* worker = world.FindWorker(uid); worker && CanTurn(*worker, partner))
+    for (const int uid : PeopleOf(match, act.By))
+      if (const Worker* worker = world.FindWorker(uid); worker && CanTurn(*worker, victim))
         ready.push_back(uid);
     turners.Alone.insert(turners.Alone.end(), ready.begin(), ready.end());
     if (ready.size() == 2) turners.Together.push_back(ready);
   }
-}
-
-Turners TurnersOf(const World& world, const Segment& match) {
-  Turners turners;
-  const bool singles = match.Style == kSingles;
-  AddTurners(turners, world, match,
-             singles ? std::span<const Occasion>(kSinglesFinishTurns) : kTagFinishTurns,
-             match.Finish);
-  AddTurners(turners, world, match,
-             singles ? std::span<const Occasion>(kSinglesAftermathTurns) : kTagAftermathTurns,
-             match.Aftermath);
   return turners;
 }
 

@@ -6,6 +6,7 @@
 
 #include "records/angles.h"
 #include "records/modWresCheck.h"
+#include "records/segmentparts.h"
 
 namespace grapplemont {
 
@@ -52,6 +53,7 @@ std::string FillHole(const World& world, const Segment& segment, std::string_vie
       {"34", [](auto& w, auto& s) { return PairText(w, WorkerAt(s, 3), WorkerAt(s, 4)); }},
       {"WT", [](auto& w, auto& s) { return SideText(w, WinnersOf(s)); }},
       {"LT", [](auto& w, auto& s) { return SideText(w, LosersOf(s)); }},
+      {"AT", [](auto& w, auto& s) { return SideText(w, PeopleOf(s, Part::AttackedTeam)); }},
       {"OO", [](auto& w, auto& s) { return PairText(w, s.Other1, s.Other2); }},
       {"PP", [](auto& w, auto& s) { return PairText(w, s.Other3, s.Other4); }},
   };

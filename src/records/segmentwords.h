@@ -141,7 +141,8 @@ enum OtherType {
 /// "Aftermath = " or "Purpose = ". In both, names in braces stand for people of the Segment:
 /// {W} Winner, {L} Loser, {P} the Loser's partner, {1} to {8} a worker by his place, {O1} to {O4}
 /// the run-ins, {12} and {34} the first and the second team, {WT} and {LT} the winning and the
-/// losing team, {OO} the run-ins Other1 and Other2 together, {PP} Other3 and Other4.
+/// losing team, {AT} the team that the run-ins attacked, {OO} the run-ins Other1 and Other2
+/// together, {PP} Other3 and Other4.
 struct Phrase {
   int Code;
   std::string_view Says;
@@ -333,7 +334,7 @@ inline constexpr Phrase kTagAftermaths[] = {
     {9, "{12} beat-down {34}", "{12} beat-down {34}"},
     {10, "{34} beat-down {12}", "{34} beat-down {12}"},
     {11, "{OO} continue assault", "{OO} continue their assault"},
-    {12, "Three-on-two on {LT}", "Three-On-Two Beating"},
+    {12, "Three-on-two on {AT}", "Three-On-Two Beating"},
     {13, "{LT} attack {O1}", "Revenge Attack On {O1}"},
     {14, "{LT} attack {OO}", "Revenge Attack On {OO}"},
     {15, "Three team brawl", "Three team brawl"},

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "records/segments.h"
 #include "report/purposes.h"
 #include "report/told.h"
@@ -65,7 +67,11 @@ void TurnOf(Teller& teller, char part) {
 }
 
 void TellTurn(Teller& teller) {
-  const Party& turner = teller.cast.Of('t');
+  Party& turner = teller.cast.Of('t');
+  const auto& booked = teller.scene.Turners;
+  std::erase_if(turner.People, [&](const Person* person) {
+    return std::find(booked.begin(), booked.end(), person->Uid) == booked.end();
+  });
   if (turner.People.empty()) return;
   const Worker* worker = teller.world.FindWorker(turner.People[0]->Uid);
   if (!worker) return;

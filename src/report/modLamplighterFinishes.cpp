@@ -563,8 +563,8 @@ constexpr Block kBlocks[] = {
     {TagAftermath,
      after2::kThreeOnTwo,
      {
-         "{o} lends a hand to {W}, and it's three on two with {L} underneath. ",
-         "Three on two! {o} and {W} take turns on {L}. ",
+         "{o} lends a hand to {U}, and it's three on two with {V} underneath. ",
+         "Three on two! {o} and {U} take turns on {V}. ",
      }},
     {TagAftermath,
      after2::kAttackRunIn,

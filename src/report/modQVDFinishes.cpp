@@ -457,8 +457,8 @@ constexpr Block kBlocks[] = {
     {TagAftermath,
      after2::kThreeOnTwo,
      {
-         "{o} joins {W}, three on two! {L} buried. ",
-         "{L} outnumbered. {o} and {W} stomp away. ",
+         "{o} joins {U}, three on two! {V} buried. ",
+         "{V} outnumbered. {o} and {U} stomp away. ",
      }},
     {TagAftermath,
      after2::kAttackRunIn,

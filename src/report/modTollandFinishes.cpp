@@ -646,8 +646,8 @@ constexpr Block kBlocks[] = {
     {TagAftermath,
      after2::kThreeOnTwo,
      {
-         "{o} joins {W} and it is three on two. {L} {L:has} no chance, nor {L:is} meant to have. ",
-         "With {o} added to {W} the beating of {L} takes very little time. ",
+         "{o} joins {U} and it is three on two. {V} {V:has} no chance, nor {V:is} meant to have. ",
+         "With {o} added to {U} the beating of {V} takes very little time. ",
      }},
     {TagAftermath,
      after2::kAttackRunIn,

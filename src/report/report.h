@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "records/segments.h"
 #include "records/world.h"
@@ -18,8 +19,9 @@ std::string_view VoiceName(int voice);
 /// What the report knows beside the Segment itself.
 struct Scene {
   bool IsEvent = false;
-  int Champion = 0;    // who held the Title at stake when the bell rang; 0 for nobody
-  int CoChampion = 0;  // the other half of a tag champion
+  int Champion = 0;               // who held the Title at stake when the bell rang; 0 for nobody
+  int CoChampion = 0;             // the other half of a tag champion
+  std::vector<int> Turners = {};  // uids of all whom the booking makes turn
 };
 
 /// The prose of a match, an interview or an angle, in paragraphs. Draws from World::Prose alone, so

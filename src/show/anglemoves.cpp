@@ -1,8 +1,8 @@
 #include "show/anglemoves.h"
 
 #include "records/angles.h"
+#include "records/modWresCheck.h"
 #include "show/titlechange.h"
-#include "storylines/titles.h"
 
 namespace grapplemont {
 
@@ -19,27 +19,46 @@ int UidOf(const Worker* worker) {
   return worker ? int(worker->Uid) : 0;
 }
 
-void ChangeManager(SegmentRun&, const Cast& cast) {
-  if (cast.Two) cast.Two->Manager = UidOf(cast.One);
-  if (cast.Three) cast.Three->Manager = 0;
+/// Tells what one has come to be to the other.
+void Tell(SegmentRun& run, const Worker& one, std::string_view what, std::string_view other) {
+  run.Notes += one.Name.Str() + std::string(what) + std::string(other) + ". ";
 }
 
-void TakeManager(SegmentRun&, const Cast& cast) {
-  if (cast.Two) cast.Two->Manager = UidOf(cast.One);
+void TakeManager(SegmentRun& run, const Cast& cast) {
+  const int manager = UidOf(cast.One);
+  if (!cast.Two || cast.Two->Manager == manager) return;
+  cast.Two->Manager = manager;
+  if (cast.One) Tell(run, *cast.One, " now manages ", cast.Two->Name.View());
+}
+
+void ChangeManager(SegmentRun& run, const Cast& cast) {
+  if (cast.Three && cast.Three->Manager != 0) {
+    const std::string former = WorkerName(run.World, cast.Three->Manager);
+    cast.Three->Manager = 0;
+    if (!former.empty())
+      run.Notes += former + " no longer manages " + cast.Three->Name.Str() + ". ";
+  }
+  TakeManager(run, cast);
 }
 
 void JoinStable(SegmentRun& run, const Cast& cast) {
-  if (cast.One) cast.One->Stable = run.Segment.Text.View();
+  if (!cast.One) return;
+  cast.One->Stable = run.Segment.Text.View();
+  Tell(run, *cast.One, " joined ", run.Segment.Text.View());
 }
 
-void LeaveStable(SegmentRun&, const Cast& cast) {
-  if (cast.One) cast.One->Stable = "None";
+void LeaveStable(SegmentRun& run, const Cast& cast) {
+  if (!cast.One || cast.One->Stable == "None") return;
+  Tell(run, *cast.One, " is out of ", cast.One->Stable.View());
+  cast.One->Stable = "None";
 }
 
 void Award(SegmentRun& run, const Worker* holder, const Worker* partner) {
   Title* title = TitleAtStake(run.World, run.Segment);
   // Somebody may have won it since the show was booked.
-  if (title && title->Holder == 0 && holder) Crown(run.World, *title, holder->Uid, UidOf(partner));
+  if (title && title->Holder == 0 && holder)
+    PassTitle(run, *title, holder->Uid, UidOf(partner),
+              partner ? " were awarded " : " was awarded ");
 }
 
 void AwardSingles(SegmentRun& run, const Cast& cast) {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include "records/segmentparts.h"
 #include "show/consequences.h"
 #include "show/feudslots.h"
-#include "show/segmentroles.h"
 
 namespace grapplemont {
 

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "records/modWresCheck.h"
-#include "show/segmentroles.h"
+#include "records/segmentparts.h"
 
 namespace grapplemont {
 

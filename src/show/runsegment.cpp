@@ -6,6 +6,7 @@
 #include "show/scoring.h"
 #include "show/talksteps.h"
 #include "show/titlechange.h"
+#include "show/turncalls.h"
 
 namespace grapplemont {
 
@@ -30,6 +31,8 @@ void Do(Telling& telling) {
 
 void SetScene(Telling& telling) {
   telling.Scene.IsEvent = telling.Run.Show.IsEvent;
+  for (const TurnCall& turn : BookedTurns(telling.Run.World, telling.Run.Segment))
+    telling.Scene.Turners.push_back(turn.Turner);
   if (!telling.AtStake) return;
   telling.Scene.Champion = telling.AtStake->Holder;
   telling.Scene.CoChampion = telling.AtStake->Partner;
@@ -78,7 +81,8 @@ void StoreRating(SegmentRun& run) {
 
 // The order is a rule: later steps read what earlier ones left. The champions of the scene are
 // those before the Title changes hands, the burn-out sees a crowd that turns have moved, a Title's
-// image and the verdict see the overall rating as it stands in the end.
+// image and the verdict see the overall rating as it stands in the end. A talk is rated by a crowd
+// that may lie beyond its limits, which only what is shown keeps to.
 constexpr Step kMatchSteps[] = {
     SetScene,
     Do<RemarkOnShape>,
@@ -101,13 +105,13 @@ constexpr Step kMatchSteps[] = {
 };
 
 constexpr Step kInterviewSteps[] = {
-    SetScene,     Do<ScoreInterview>,   WriteProse, Do<ApplyTurns>,
-    Do<RateTalk>, Do<TalkConsequences>, AddToShow,  Do<StoreRating>,
+    SetScene,      Do<ScoreInterview>,   WriteProse, Do<ApplyTurns>,  Do<RateTalk>,
+    Do<LimitBoth>, Do<TalkConsequences>, AddToShow,  Do<StoreRating>,
 };
 
 constexpr Step kAngleSteps[] = {
-    SetScene,     Do<ScoreAngle>,       WriteProse, Do<ApplyTurns>,  Do<CapByWriters>,
-    Do<RateTalk>, Do<TalkConsequences>, AddToShow,  Do<StoreRating>,
+    SetScene,     Do<ScoreAngle>, WriteProse,           Do<ApplyTurns>, Do<CapByWriters>,
+    Do<RateTalk>, Do<LimitBoth>,  Do<TalkConsequences>, AddToShow,      Do<StoreRating>,
 };
 
 std::span<const Step> StepsOf(const Segment& segment) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "report/cast.h"
 #include "show/consequences.h"
 #include "storylines/titles.h"
 
@@ -42,17 +43,23 @@ Title* TitleAtStake(World& world, const Segment& segment) {
   return nullptr;
 }
 
+void PassTitle(SegmentRun& run, Title& title, int holder, int partner, std::string_view how) {
+  Crown(run.World, title, holder, partner);
+  run.Notes += ChampionText(run.World, title) + std::string(how) +
+               TitleInProse(title.Name, title.Singles) + ". ";
+}
+
 void ChangeTitle(SegmentRun& run) {
   const Segment& segment = run.Segment;
   Title* title = TitleAtStake(run.World, segment);
   if (!title || IsDraw(segment) || !TakesTitles(segment)) return;
   if (title->Singles) {
-    if (title->Holder != segment.Winner) Crown(run.World, *title, segment.Winner, 0);
+    if (title->Holder != segment.Winner) PassTitle(run, *title, segment.Winner, 0, " won ");
     return;
   }
   const std::vector<int> pair = WinnersOf(segment);
   if (pair.size() == 2 && !Holds(*title, pair[0], pair[1]))
-    Crown(run.World, *title, pair[0], pair[1]);
+    PassTitle(run, *title, pair[0], pair[1], " won ");
 }
 
 }  // namespace grapplemont

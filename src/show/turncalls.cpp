@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "records/angles.h"
+#include "records/segmentacts.h"
 #include "show/consequences.h"
-#include "show/turnacts.h"
 #include "show/turns.h"
 #include "storylines/stables.h"
 
@@ -79,15 +79,22 @@ std::vector<int> TurnersOf(const Segment& segment, const TurnPurpose (&purposes)
   return {};
 }
 
+int FirstOf(const std::vector<int>& people) {
+  return people.empty() ? 0 : people.front();
+}
+
 /// On whom the one who is to turn commits an act: a uid, or 0 for nobody; nothing where he commits
 /// none. Of several acts the first at which a turn can come off.
 std::optional<int> VictimOf(const World& world, const Segment& segment, int turner) {
   std::optional<int> victim;
   const Worker* worker = world.FindWorker(turner);
-  for (const TurnCall& occasion : TurnOccasions(segment)) {
-    if (!worker || occasion.Turner != turner) continue;
-    if (!IsSureToFail(*worker, world.FindWorker(occasion.Other))) return occasion.Other;
-    if (!victim) victim = occasion.Other;
+  for (const Act& act : ActsOf(segment)) {
+    const std::vector<int> by = PeopleOf(segment, act.By);
+    if (!worker || !act.Is(kTurnOccasion) || std::find(by.begin(), by.end(), turner) == by.end())
+      continue;
+    const int on = FirstOf(PeopleOf(segment, act.On));
+    if (!IsSureToFail(*worker, world.FindWorker(on))) return on;
+    if (!victim) victim = on;
   }
   return victim;
 }
@@ -98,10 +105,6 @@ void AddWhoActs(Calls& calls, const World& world, const Segment& segment,
     if (const auto victim = VictimOf(world, segment, turner)) Add(calls, turner, *victim);
 }
 
-int FirstOf(const std::vector<int>& people) {
-  return people.empty() ? 0 : people.front();
-}
-
 /// The one who stands against a worker of a 2 vs 2 match.
 int OpponentOf(const Segment& segment, int uid) {
   const std::vector<int> winners = PeopleOf(segment, Part::WinningTeam);
@@ -110,8 +113,8 @@ int OpponentOf(const Segment& segment, int uid) {
 }
 
 void AddTagTurns(Calls& calls, const World& world, const Segment& segment) {
-  for (const TurnAct& act : TurnActsOf(kTag))
-    if (act.Always && Happens(segment, act))
+  for (const Act& act : ActsOf(segment))
+    if (act.Is(kSureTurn))
       Add(calls, FirstOf(PeopleOf(segment, act.By)), FirstOf(PeopleOf(segment, act.On)));
   for (const int turner : TurnersOf(segment, kTeamTurns))
     Add(calls, turner, VictimOf(world, segment, turner).value_or(OpponentOf(segment, turner)));
@@ -170,16 +173,6 @@ void AddMatchTurns(Calls& calls, const World& world, const Segment& segment) {
 }
 
 }  // namespace
-
-std::vector<TurnCall> TurnOccasions(const Segment& segment) {
-  Calls occasions;
-  for (const TurnAct& act : TurnActsOf(segment.Style)) {
-    if (!Happens(segment, act)) continue;
-    const std::vector<int> on = PeopleOf(segment, act.On);
-    for (const int turner : PeopleOf(segment, act.By)) occasions.push_back({turner, FirstOf(on)});
-  }
-  return occasions;
-}
 
 std::vector<TurnCall> BookedTurns(const World& world, const Segment& segment) {
   Calls calls;

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "show/cardposition.h"
+#include "show/consequences.h"
+#include "show/overreport.h"
 #include "show/scoring.h"
 
 namespace grapplemont {
@@ -75,7 +77,7 @@ void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
   }
   for (const Showcase& showcase : kShowcases)
     if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom) over += showcase.Gain;
-  worker.Over = over;
+  ReportOver(run, worker, ChangeOver(worker, over - worker.Over), true);
   worker.Morale = morale;
 }
 

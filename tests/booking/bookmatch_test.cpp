@@ -283,6 +283,39 @@ TEST(BookMatch, FillsABattleRoyalInTheOrderOfEntry) {
   ExpectSegment(play.Slot(), expected);
 }
 
+TEST(BookMatch, TellsWhatAWinnerCostsBeforeIt) {
+  World world = BookingRoster().Game("CWA");
+  Named(world.Workers(), "Man 2").Over = 81;
+  Named(world.Workers(), "Man 2").Attitude = 91;
+  Named(world.Workers(), "Man 3").Over = 71;
+  Named(world.Workers(), "Man 3").Attitude = 45;
+  BookingPlay play(std::move(world));
+  play.Book();
+  play.ChooseMatch("Special", "10 Man Battle Royal");
+  for (int row = 1; row <= 9; ++row) play.Desk.Pick("lstroster", row);
+  play.Desk.Pick("lstroster", "Woman 1");
+  play.Desk.Click("cmdadd");
+  play.Next();
+  play.Next();
+  const std::string words = "I'm not being in a match where the winner is so much lower than me.";
+  const std::pair<const char*, std::string> kRows[] = {
+      {"Man 2", "Nobody objects."},
+      {"Man 3", "Nobody objects."},
+      {"Man 1",
+       "Man 2: " + words + "\nIf you insist, one will hold it against you, 10 morale, one more 5."},
+      {"Woman 1",
+       "Man 2: " + words + "\nIf you insist, nine will hold it against you, 50 morale each."}};
+  for (const auto& [winner, says] : kRows) {
+    play.Desk.Pick("cmbwinner", winner);
+    EXPECT_EQ(play.Desk.Text("txtsay"), says) << winner;
+  }
+  Named(play.World().Workers(), "Man 2").Attitude = 92;
+  play.Desk.Pick("cmbwinner", "Man 1");
+  play.Desk.Pick("cmbwinner", "Woman 1");
+  EXPECT_EQ(play.Desk.Text("txtsay"),
+            "Nobody objects aloud; nine will hold it against you, 50 morale each.");
+}
+
 TEST(BookMatch, FillsTheBiggestFields) {
   BookingPlay play(BookingRoster().Crew(20).Game("CWA"));
   int slot = 0;

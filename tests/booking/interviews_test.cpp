@@ -152,26 +152,39 @@ TEST(OfferedTalkPurposes, KnowFeudsAndTurns) {
         << style << " " << people[0] << " " << people.back();
 }
 
-TEST(OfferedTalkPurposes, TurnTheWorkersAndNeverTheManager) {
-  World world = Company();
-  const auto turns = [&](int style, const Names& people) {
-    const Purposes offered = OfferedTalkPurposes(world, Interview(world, style, people));
-    return std::count(offered.begin(), offered.end(), kTalkTurn) == 1;
+TEST(OfferedTalkPurposes, TurnThoseWhoAreWaitingTo) {
+  struct Row {
+    int Style;
+    Names People, Pending, Heels;
+    bool Turns;
   };
-  Named(world.Workers(), "Bob Bold").TurnPending = true;
-  EXPECT_TRUE(turns(kSingleTalk, {"Bob Bold", "Cat Cold"}));
-  EXPECT_FALSE(turns(kSingleTalk, {"Cat Cold", "Bob Bold"}));
-  EXPECT_FALSE(turns(kSingleTalk, {"Bob Bold"})) << "nobody to turn on";
-  EXPECT_FALSE(turns(kTeamTalk, {"Ann Ace", "Bob Bold", "Cat Cold"}));
-  EXPECT_FALSE(turns(kTeamTalk, {"Bob Bold", "Ann Ace", "Cat Cold"}));
-  Named(world.Workers(), "Max Mouth").TurnPending = true;
-  EXPECT_FALSE(turns(kManagedTalk, {"Ann Ace", "Max Mouth", "Cat Cold"}));
-  EXPECT_TRUE(turns(kManagedTalk, {"Bob Bold", "Max Mouth", "Cat Cold"}));
-  EXPECT_FALSE(turns(kManagedTeamTalk, {"Max Mouth", "Bob Bold", "Ann Ace", "Cat Cold"}));
-  Named(world.Workers(), "Ann Ace").TurnPending = true;
-  Named(world.Workers(), "Max Mouth").TurnPending = false;
-  EXPECT_TRUE(turns(kManagedTeamTalk, {"Max Mouth", "Bob Bold", "Ann Ace", "Cat Cold"}));
-  EXPECT_TRUE(turns(kTeamTalk, {"Ann Ace", "Bob Bold", "Cat Cold"}));
+  const Names kSolo = {"Bob Bold", "Cat Cold"}, kTeam = {"Ann Ace", "Bob Bold", "Cat Cold"},
+              kManaged = {"Bob Bold", "Max Mouth", "Cat Cold"},
+              kManagedTeam = {"Max Mouth", "Bob Bold", "Ann Ace", "Cat Cold"};
+  const Row kRows[] = {
+      {kSingleTalk, kSolo, {"Bob Bold"}, {}, true},
+      {kSingleTalk, kSolo, {"Bob Bold"}, {"Cat Cold"}, true},  // liked or not
+      {kSingleTalk, kSolo, {"Cat Cold"}, {}, false},
+      {kSingleTalk, {"Bob Bold"}, {"Bob Bold"}, {}, false},  // nobody to turn on
+      {kTeamTalk, kTeam, {"Ann Ace"}, {}, false},
+      {kTeamTalk, kTeam, {"Bob Bold"}, {}, false},
+      {kTeamTalk, kTeam, {"Ann Ace", "Bob Bold"}, {}, true},
+      {kManagedTalk, kManaged, {"Bob Bold"}, {}, false},  // the manager would turn, and fail
+      {kManagedTalk, kManaged, {"Max Mouth"}, {}, true},
+      {kManagedTalk, kManaged, {"Max Mouth"}, {"Cat Cold"}, false},
+      {kManagedTalk, kManaged, {"Max Mouth"}, {"Max Mouth", "Cat Cold"}, true},
+      {kManagedTeamTalk, kManagedTeam, {"Max Mouth", "Bob Bold"}, {}, false},
+      {kManagedTeamTalk, kManagedTeam, {"Ann Ace", "Bob Bold"}, {}, true},
+      {kManagedTeamTalk, kManagedTeam, {"Ann Ace", "Bob Bold"}, {"Ann Ace"}, false},
+  };
+  for (const Row& row : kRows) {
+    World world = Company();
+    for (const std::string& name : row.Pending) Named(world.Workers(), name).TurnPending = true;
+    for (const std::string& name : row.Heels) Named(world.Workers(), name).Disposition = "H";
+    const Purposes offered = OfferedTalkPurposes(world, Interview(world, row.Style, row.People));
+    EXPECT_EQ(std::count(offered.begin(), offered.end(), kTalkTurn), row.Turns)
+        << "style " << row.Style << ", waiting: " << row.Pending.front();
+  }
 }
 
 }  // namespace

@@ -5,6 +5,9 @@
 #include "booking/matchsteps.h"
 #include "booking/ring.h"
 #include "booking/roster.h"
+#include "records/modWresCheck.h"
+#include "show/turncalls.h"
+#include "support/randomworld.h"
 
 namespace grapplemont::test {
 namespace {
@@ -88,8 +91,8 @@ TEST(Finishes, OfBiggerTeamsNameWhoIsReadyToTurn) {
   EXPECT_EQ(OfferedFinishes(world, eight), (Codes{1, 2, 4, 8, 10}));
   StoreResult(six, 0, {});
   StoreResult(eight, 0, {});
-  EXPECT_EQ(OfferedFinishes(world, six), (Codes{9, 10, 11}));
-  EXPECT_EQ(OfferedFinishes(world, eight), (Codes{11, 12, 13}));
+  EXPECT_EQ(OfferedFinishes(world, six), (Codes{4, 8, 9, 10, 11}));
+  EXPECT_EQ(OfferedFinishes(world, eight), (Codes{4, 8, 10, 11, 12, 13}));
   EXPECT_EQ(OfferedFinishes(world, MatchOf(world, kThreeWay, 1, {})), Codes());
 }
 
@@ -264,46 +267,6 @@ TEST(Purposes, TurnWhoActsInASinglesMatch) {
   }
 }
 
-/// Against whom a Face turns: a Heel there, and it is no turn.
-TEST(Purposes, TurnAgainstWhomTheActHits) {
-  struct Row {
-    int Finish, Aftermath, Turn, Against;
-  };
-  const Row kRows[] = {
-      {kCountOut, 1, 10, 2},
-      {kCheating, 1, 10, 2},
-      {kInterference, 1, 5, 2},
-      {kBotchedInterference, 1, 5, 1},
-      {kClean, 4, 5, 1},
-      {kClean, 5, 5, 2},
-      {kClean, 7, 11, 1},
-      {kClean, 8, 10, 2},
-      {kInterference, 9, 11, 1},
-      {kDqThroughInterference, 11, 11, 1},
-      {kDqThroughInterference, 11, 5, 1},
-      {kDqThroughInterference, 12, 11, 5},
-      {kClean, 19, 10, 2},
-      {kClean, 20, 11, 1},
-      {kClean, 21, 10, 2},
-      {kClean, 22, 11, 1},
-      {kDqThroughInterference, 26, 31, 5},
-  };
-  for (const Row& row : kRows) {
-    World world = BookingRoster().Game("CWA");
-    ReadyAll(world);
-    Segment match = Singles(world, kPlainSingles, true);
-    match.Finish = row.Finish;
-    match.Aftermath = row.Aftermath;
-    if (NeedsFinishRunIn(kSingles, row.Finish)) match.Other1 = 5;
-    if (NeedsAftermathRunIn(kSingles, row.Aftermath))
-      (row.Aftermath >= after1::kSave ? match.Other2 : match.Other1) = 6;
-    EXPECT_EQ(TurnsAmong(world, match, {row.Turn}), Codes{row.Turn});
-    world.FindWorker(row.Against)->Disposition = "H";
-    EXPECT_EQ(TurnsAmong(world, match, {row.Turn}), Codes())
-        << "finish " << row.Finish << ", aftermath " << row.Aftermath;
-  }
-}
-
 TEST(Purposes, TurnWhoActsInATagMatch) {
   World world = BookingRoster().Game("CWA");
   ReadyAll(world);
@@ -335,9 +298,9 @@ TEST(Purposes, TurnWhoActsInATagMatch) {
       {kInterference, 18, {12, 19, 18, 33, 36, 34, 35}},
       {kBotchedInterference, 14, {17, 14, 15, 19, 18, 33}},
       {kDqThroughInterference, 1, {}},
-      {kDqThroughInterference, 12, {16, 12, 13, 19, 18, 33}},
+      {kInterference, 12, {16, 12, 13, 19, 18, 33}},
+      {kDqThroughInterference, 12, {17, 14, 15, 19, 18, 33}},
       {kDqThroughInterference, 13, {17, 14, 15}},
-      {kDqThroughInterference, 19, {36, 34, 35}},
   };
   for (const TurnRow& row : kRows) {
     Segment match = TagMatch(world, kPlainTag, true);
@@ -356,43 +319,63 @@ TEST(Purposes, TurnWhoActsInATagMatch) {
   }
 }
 
-TEST(Purposes, TurnAgainstWhomTheTagTeamsHit) {
-  struct Row {
-    int Finish, Aftermath, Turn, Against;
-  };
-  // Man 1 and Man 2 beat Man 3 and Man 4; Man 5 and Man 6 run in, then Man 7 and Man 8.
-  const Row kRows[] = {
-      {kClean, 2, 14, 1},
-      {kClean, 3, 12, 3},
-      {kClean, 4, 12, 2},
-      {kClean, 5, 13, 1},
-      {kClean, 16, 14, 4},
-      {kClean, 16, 15, 3},
-      {kClean, 22, 34, 2},
-      {kClean, 23, 34, 3},
-      {kClean, 24, 34, 4},
-      {kClean, 25, 34, 1},
-      {kClean, 26, 34, 3},
-      {kInterference, 11, 18, 3},
-      {kDqThroughInterference, 11, 18, 1},
-      {kDqThroughInterference, 12, 18, 3},
-      {kDqThroughInterference, 13, 14, 5},
-      {kDqThroughInterference, 18, 34, 5},
-  };
-  for (const Row& row : kRows) {
-    World world = BookingRoster().Game("CWA");
-    ReadyAll(world);
-    Segment match = TagMatch(world, kPlainTag, true);
-    match.Finish = row.Finish;
-    match.Aftermath = row.Aftermath;
+/// Whoever a turn's words name turns in the show, on somebody on whom a turn can come off.
+void ExpectTurns(const World& world, Segment match, int purpose) {
+  match.Purpose = purpose;
+  const std::string words = PhraseText(world, match, PurposesOf(match.Style), purpose);
+  SCOPED_TRACE(words + ", style " + std::to_string(match.Style) + ", finish " +
+               std::to_string(match.Finish) + ", aftermath " + std::to_string(match.Aftermath));
+  const std::vector<TurnCall> calls = BookedTurns(world, match);
+  for (int uid = 1; uid <= 8; ++uid) {
+    if (words.find(WorkerName(world, uid)) == std::string::npos) continue;
+    const auto turn = std::find_if(calls.begin(), calls.end(),
+                                   [&](const TurnCall& call) { return call.Turner == uid; });
+    ASSERT_NE(turn, calls.end());
+    EXPECT_TRUE(CanTurn(*world.FindWorker(uid), world.FindWorker(turn->Other)));
+  }
+}
+
+void ExpectEveryTurn(const World& world, Segment match) {
+  if (NeedsFinishRunIn(match.Style, match.Finish)) {
     match.Other1 = 5;
-    match.Other2 = 6;
-    match.Other3 = 7;
-    match.Other4 = 8;
-    EXPECT_EQ(TurnsAmong(world, match, {row.Turn}), Codes{row.Turn});
-    world.FindWorker(row.Against)->Disposition = "H";
-    EXPECT_EQ(TurnsAmong(world, match, {row.Turn}), Codes())
-        << "finish " << row.Finish << ", aftermath " << row.Aftermath;
+    if (match.Style == kTag) match.Other2 = 6;
+  }
+  for (const int aftermath : OfferedAftermaths(world, match)) {
+    Segment after = match;
+    after.Aftermath = aftermath;
+    int uid = 7;
+    for (Word* runIn : AftermathRunIns(after)) *runIn = uid++;
+    for (const int purpose : OfferedPurposes(world, after))
+      if (PhraseText(world, after, PurposesOf(after.Style), purpose).starts_with("Turn "))
+        ExpectTurns(world, after, purpose);
+  }
+}
+
+TEST(Purposes, OfferNoTurnThatTheShowWouldNotBring) {
+  Dice dice(17);
+  for (int i = 0; i < 40; ++i) {
+    World world = BookingRoster().Game("CWA");
+    for (Worker& worker : world.Workers()) {
+      worker.TurnPending = !dice.OneIn(4);
+      worker.Disposition = dice.OneIn(3) ? "T" : dice.OneIn(2) ? "F" : "H";
+    }
+    for (Segment match : {Singles(world, kPlainSingles, true), TagMatch(world, kPlainTag, true)})
+      for (const int finish : OfferedFinishes(world, match)) {
+        match.Finish = finish;
+        ExpectEveryTurn(world, match);
+      }
+  }
+}
+
+TEST(Aftermaths, SetThreeOnWhomTheRunInAttacked) {
+  const World world = BookingRoster().Game("CWA");
+  Segment match = TagMatch(world, kPlainTag, true);
+  match.Other1 = 5;
+  for (const auto& [finish, words] :
+       {std::pair(kInterference, "Three-on-two on Man 3 \\ Man 4"),
+        std::pair(kDqThroughInterference, "Three-on-two on Man 1 \\ Man 2")}) {
+    match.Finish = finish;
+    EXPECT_EQ(PhraseText(world, match, AftermathsOf(kTag), after2::kThreeOnTwo), words);
   }
 }
 

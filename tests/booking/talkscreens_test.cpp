@@ -169,8 +169,8 @@ TEST(frmIVPurpose, StartsFromNone) {
 TEST(frmIVPurpose, SaysWhoWillTurn) {
   const auto company = [] {
     World world = TalkCompany();
-    for (const char* client : {"Bob Bold", "Cal Cold"})
-      Named(world.Workers(), client).TurnPending = true;
+    for (const char* name : {"Bob Bold", "Cal Cold", "Max Mouth"})
+      Named(world.Workers(), name).TurnPending = true;
     return world;
   };
   struct Row {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <regex>
 #include <set>
 
 #include "records/angles.h"
@@ -300,8 +301,28 @@ TEST_P(Telling, TellsATurnByWhereTheTurnerStands) {
     talk.Style = kSingleTalk;
     talk.Purpose = kTalkTurn;
     talk.Worker[0] = 1;
-    for (const Segment& segment : {match, talk})
-      ExpectBand(Tell(world, segment), Family::Turn, each.Told, kTurnsTold);
+    for (const Segment& segment : {match, talk}) {
+      ExpectBand(Tell(world, segment, {false, 0, 0, {1}}), Family::Turn, each.Told, kTurnsTold);
+      ExpectBand(Tell(world, segment), Family::Turn, kNothing, kTurnsTold);  // no occasion
+    }
+  }
+}
+
+TEST(Aftermath, SetsThreeOnWhomTheRunInAttacked) {
+  for (const auto& [finish, victim] :
+       {std::pair(kInterference, "Ccx"), std::pair(kDqThroughInterference, "Aax")}) {
+    World world = Ten().Game("CWA");
+    world.Game().Reporter = kQvd;
+    Segment match = Match(kTag);
+    match.Finish = finish;
+    match.Aftermath = after2::kThreeOnTwo;
+    match.Other1 = 9;
+    LineMemory memory;
+    const std::string text = WriteReport(world, match, {}, memory);
+    std::smatch beaten;
+    ASSERT_TRUE(std::regex_search(text, beaten, std::regex("([\\w ]*) (buried|outnumbered)\\.")))
+        << text;
+    EXPECT_NE(beaten.str(1).find(victim), std::string::npos) << text;
   }
 }
 

@@ -213,6 +213,7 @@ TEST(TallyAttacks, OfTeamsGoPairByPair) {
       {kDoubleDq, 10, true, "Cal>Ash Dot>Bea"},
       {kInterference, 11, false, "Eli>Ash Fay>Bea"},
       {kInterference, 12, false, "Cal>Ash Dot>Bea Eli>Ash Eli>Bea Fay>Bea"},
+      {kDqThroughInterference, 12, false, "Ash>Cal Bea>Dot Eli>Cal Eli>Dot Fay>Dot"},
       {kBotchedInterference, 13, false, "Ash>Eli Bea>Eli Cal>Eli Dot>Fay"},
       {kBotchedInterference, 14, false, "Ash>Eli Bea>Fay Cal>Eli Dot>Fay"},
       {kInterference, 18, false, "Eli>Ash Fay>Bea Gus>Cal Gus>Eli Hal>Dot Hal>Fay"},

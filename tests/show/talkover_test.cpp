@@ -128,6 +128,9 @@ TEST(TalkConsequences, MoveManagers) {
     EXPECT_EQ(stage["Bea"].Manager, stage.Uid("Ash")) << angle;
     EXPECT_EQ(stage["Ash"].Manager, 0) << angle;
     EXPECT_EQ(stage["Cal"].Manager, angle == kManagementIssues ? 0 : stage.Uid("Ash")) << angle;
+    EXPECT_EQ(stage.Run.Notes,
+              std::string(angle == kManagementIssues ? "Ash no longer manages Cal. " : "") +
+                  "Ash now manages Bea. ");
   }
 }
 
@@ -138,6 +141,8 @@ TEST(TalkConsequences, TakeIntoAStable) {
   EXPECT_EQ(stage["Ash"].Stable, "The Kiln");
   RunAngle(stage, kStableDebut, {"Bea"});
   EXPECT_EQ(stage["Bea"].Stable, "None");
+  RunAngle(stage, kStableKickOut, {"Ash"});
+  EXPECT_EQ(stage.Run.Notes, "Ash joined The Kiln. Ash is out of The Kiln. ");
 }
 
 TEST(TalkConsequences, AwardVacantTitles) {
@@ -162,6 +167,8 @@ TEST(TalkConsequences, AwardVacantTitles) {
   stage.S.TitleName = "CWA Crown";
   RunAngle(stage, kAwardSingles, {"Ash", "Eli"});
   EXPECT_EQ(crown.Holder, stage.Uid("Bea")) << "won it earlier in the show";
+  EXPECT_EQ(stage.Run.Notes,
+            "Bea was awarded the CWA Crown. The Kindling were awarded the CWA Pair Titles. ");
 }
 
 }  // namespace

@@ -69,6 +69,7 @@ TEST(ChangeTitle, ClosesOneReignAndBeginsTheNext) {
   EXPECT_EQ(reigns[1].Holder, "Ash");
   EXPECT_EQ(Day(reigns[1].Lost), kGameStart);
   EXPECT_EQ(stage.W.Titles()[3].Holder, 0) << "somebody else's Title of that name";
+  EXPECT_EQ(stage.Run.Notes, "Cal won the CWA Crown. ");
 }
 
 TEST(ChangeTitle, CallsPairsByTheirTeamOrShortNames) {
@@ -82,6 +83,8 @@ TEST(ChangeTitle, CallsPairsByTheirTeamOrShortNames) {
   stage.Result("Bea", "Dot");
   ChangeTitle(stage.Run);
   EXPECT_EQ(Pair(stage).Reigns[0].Holder, "Ashy \\ Bea");
+  EXPECT_EQ(stage.Run.Notes,
+            "The Kindling won the CWA Pair Titles. Ash \\ Bea won the CWA Pair Titles. ");
 }
 
 TEST(ChangeTitle, LeavesChampionsWhoWinOrDraw) {

@@ -107,7 +107,7 @@ TEST(BookedTurns, OfTeamsGoByFinishAftermathAndPurpose) {
       {kDqThroughInterference, 1, 18, "Eli on Bea"},
       {kInterference, 1, 19, "Eli on Cal, Fay on Cal"},
       {kInterference, 1, 33, "Fay on Cal"},
-      {kDqThroughInterference, 12, 18, "Eli on Cal"},
+      {kDqThroughInterference, 12, 18, "Eli on Bea"},
       {kDqThroughInterference, 11, 18, "Eli on Bea"},
       {kInterference, 11, 18, "Eli on Cal"},
       {kClean, 2, 14, "Cal on Bea"},

@@ -119,7 +119,7 @@ TEST(AfterMatch, LiftsTheUnknownByAGreatMatch) {
       ScriptDraws(stage.W, {{isWinner ? 3 : 2, 1}});
       AfterMatch(stage.Run, ash, isWinner);
       EXPECT_EQ(ash.Over, c.After) << c.Over << " in a match of " << c.Quality;
-      EXPECT_EQ(stage.Run.Notes, "");
+      EXPECT_EQ(stage.Run.Notes, c.After == c.Over ? "" : "Ash gained overness from this match. ");
     }
 }
 

@@ -33,6 +33,8 @@ const EndingRow& RowOf(const std::string& name) {
   return kEndings[0];
 }
 
+constexpr int kDrawFinishes = 3;
+
 /// What such a step is called, offers and writes.
 struct EndingKind {
   MatchStep Does;
@@ -64,9 +66,15 @@ class frmBookEnding : public MatchStepScreen {
     const Phrases phrases = kind_.Says(buffer().Style);
     for (const int code : kind_.Offers(world(), buffer()))
       lstcode.Add({PhraseText(world(), buffer(), phrases, code)}, code);
-    lstcode.Select(kind_.PicksLast ? lstcode.Count() : 1);
+    lstcode.Select(FirstPick());
     for (int list = 1; list <= row_.RunIns; ++list) FillPeople(lstrun(list), RunIns(), true);
     ShowPicks();
+  }
+
+  int FirstPick() {
+    if (kind_.PicksLast) return lstcode.Count();
+    // The finishes of a draw stand behind the turns, which nobody should book unawares.
+    return IsDraw(buffer()) ? lstcode.Count() - kDrawFinishes + 1 : 1;
   }
 
   ui::Box Body() override {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "booking/grievances.h"
 #include "booking/refusals.h"
 
 namespace grapplemont {
@@ -46,14 +47,24 @@ bool MatchStepScreen::IsOverruled(const Refusal& refusal) {
 
 void MatchStepScreen::ShowObjections(const Segment& draft, MatchStep step) {
   std::vector<Refusal> refusals;
-  if (WhyNot(draft, step).empty()) refusals = RefusalsAt(world(), draft, step);
+  std::string price;
+  if (WhyNot(draft, step).empty()) {
+    refusals = RefusalsAt(world(), draft, step);
+    // Where a purpose follows, its step tells the price.
+    if (step == kResultStep && PurposesOf(draft.Style).empty())
+      price = HeldAgainstText(world(), draft);
+  }
   std::string text;
   for (std::size_t i = 0; i < std::min(refusals.size(), kShown); ++i)
-    text += (i == 0 ? "" : "\n") + refusals[i].Words;
+    text += refusals[i].Words + "\n";
   if (refusals.size() > kShown)
-    text += "\nand " + std::to_string(refusals.size() - kShown) + " more.";
-  txtsay.Text = refusals.empty() ? "Nobody objects." : text;
-  txtsay.Colour = refusals.empty() ? ui::Tone::Muted : ui::Tone::Amber;
+    text += "and " + std::to_string(refusals.size() - kShown) + " more.\n";
+  if (refusals.empty()) text = price.empty() ? "Nobody objects." : "Nobody objects aloud; ";
+  if (!refusals.empty() && !price.empty()) text += "If you insist, ";
+  if (!price.empty()) text += price + ".";
+  if (text.back() == '\n') text.pop_back();
+  txtsay.Text = text;
+  txtsay.Colour = refusals.empty() && price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
 }
 
 }  // namespace grapplemont

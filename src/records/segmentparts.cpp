@@ -1,4 +1,4 @@
-#include "show/segmentroles.h"
+#include "records/segmentparts.h"
 
 #include <algorithm>
 
@@ -32,6 +32,16 @@ std::vector<int> TeamOf(const Segment& segment, bool isWinning) {
   return team;
 }
 
+/// A run-in that goes wrong, or costs its man the match by disqualification, was against the
+/// winner.
+bool IsAgainstWinner(const Segment& segment) {
+  return segment.Finish == kBotchedInterference || segment.Finish == kDqThroughInterference;
+}
+
+bool IsForASide(const Segment& segment) {
+  return segment.Finish == kInterference || IsAgainstWinner(segment);
+}
+
 std::vector<int> FirstOf(const std::vector<int>& team) {
   return team.empty() ? team : std::vector<int>{team.front()};
 }
@@ -62,8 +72,17 @@ std::vector<int> PeopleOf(const Segment& segment, Part part) {
     case Part::LosingTeam:
       return TeamOf(segment, false);
     case Part::Attacked:
-      return Present(
-          {segment.Finish == kDqThroughInterference ? int(segment.Winner) : FallenOf(segment)});
+      if (isDraw) return {};
+      return PeopleOf(segment, IsAgainstWinner(segment) ? Part::Winner : Part::Loser);
+    case Part::AttackedTeam:
+      if (isDraw) return {};
+      return TeamOf(segment, IsAgainstWinner(segment));
+    case Part::Helped:
+      if (isDraw || !IsForASide(segment)) return {};
+      return PeopleOf(segment, IsAgainstWinner(segment) ? Part::Loser : Part::Winner);
+    case Part::HelpedTeam:
+      if (isDraw || !IsForASide(segment)) return {};
+      return TeamOf(segment, !IsAgainstWinner(segment));
     case Part::Worker1:
     case Part::Worker2:
     case Part::Worker3:
