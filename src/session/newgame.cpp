@@ -112,7 +112,7 @@ void StartPromotion(World& world, Promotion& promotion) {
   promotion.LastMonth = {};
   promotion.Sponsor = {};
   for (Word& rank : promotion.Rank) rank = kNoEnd;
-  for (Long& money : promotion.MoneyBefore) money = kNoEnd;
+  for (Cash& money : promotion.MoneyBefore) money = kNoEnd;
   promotion.Rank[0] = StandingScore(promotion);
 }
 
