@@ -111,7 +111,7 @@ void StartPromotion(World& world, Promotion& promotion) {
   promotion.ThisMonth = {};
   promotion.LastMonth = {};
   promotion.Sponsor = {};
-  for (Word& rank : promotion.Rank) rank = kNoEnd;
+  for (auto& rank : promotion.Rank) rank = kNoEnd;
   for (Cash& money : promotion.MoneyBefore) money = kNoEnd;
   promotion.Rank[0] = StandingScore(promotion);
 }
