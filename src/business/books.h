@@ -9,7 +9,7 @@ namespace grapplemont {
 /// One of the nine books of a month.
 struct Book {
   const char* Title;
-  Long MonthBooks::*Total;  // dollars
+  Cash MonthBooks::*Total;  // dollars
 };
 
 // In the order in which they are read.

@@ -1,12 +1,9 @@
 #include "business/charity.h"
 
-#include <algorithm>
-
 namespace grapplemont {
 
 namespace {
 constexpr int kThousand = 1000;
-constexpr int kBestReputation = 100;
 }  // namespace
 
 bool CanDonate(const World& world, int thousands) {
@@ -14,8 +11,7 @@ bool CanDonate(const World& world, int thousands) {
 }
 
 void Donate(World& world, int thousands) {
-  Word& reputation = world.Game().Reputation;
-  reputation = std::min(reputation + thousands, kBestReputation);
+  world.Game().Reputation += thousands;
   world.Player().Money -= thousands * kThousand;
 }
 

@@ -24,7 +24,7 @@ std::vector<MoneyPoint> Remembered(const World& world, int promotionUid) {
 std::vector<MoneyPoint> OnRecord(const Promotion& promotion, Day today) {
   std::vector<MoneyPoint> points;
   int months = 0;
-  for (const Long& money : promotion.MoneyBefore) {
+  for (const Cash& money : promotion.MoneyBefore) {
     if (money == kNoEnd) break;
     points.push_back({MonthClosedBefore(MonthsBefore(today, months++)), money});
   }

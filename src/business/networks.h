@@ -11,7 +11,8 @@ namespace grapplemont {
 
 /// "None" for uid 0 and for a uid that leads nowhere.
 std::string NetworkName(const World& world, int networkUid);
-/// "Early Evening" and so on; an unknown slot is the last of the night.
+/// "Early Evening" and so on, as the television pages have it ("Late Evening" elsewhere reads "Late
+/// Night"); an unknown slot is the last of the night.
 std::string_view SlotName(std::string_view slot);
 /// "6:00pm - 8:00pm" and so on.
 std::string_view SlotHours(std::string_view slot);

@@ -7,6 +7,7 @@
 #include "business/networks.h"
 #include "business/sponsorlimits.h"
 #include "records/arithmetic.h"
+#include "records/counted.h"
 #include "records/modVar.h"
 
 namespace grapplemont {
@@ -21,10 +22,6 @@ constexpr std::array<int, 6> kFameWorth = {40, 12, 12, 12, 15, 4};
 constexpr int kYearMonths = 12, kYearWeeks = 52;  // nobody pays for what is further away
 constexpr int kDollarsPerRating = 300;            // a hundredth of a rating, for a week
 constexpr int kThousand = 1000;
-
-std::string Count(long long number, const char* one, const char* many) {
-  return std::to_string(number) + " " + (number == 1 ? one : many);
-}
 
 int MonthsThatCount(int contractMonths) {
   return contractMonths == kNoEnd ? kYearMonths : std::clamp(contractMonths, 0, kYearMonths);
@@ -62,7 +59,7 @@ Roster RosterOf(const World& world, const Promotion& promotion) {
 WorthLine FameWorth(const Promotion& promotion, const Roster& roster) {
   const int rate = BySize(kFameWorth, promotion.Size);
   return {"The popularity of the roster",
-          Count(roster.People, "worker", "workers") + ", " + Dollars(rate) +
+          Counted(roster.People, "worker") + ", " + Dollars(rate) +
               " for each point squared in each month of contract, a year at most",
           roster.Fame * rate};
 }
@@ -90,7 +87,7 @@ WorthLine TelevisionWorth(const World& world, const Promotion& promotion) {
       dollars += static_cast<long long>(RatingOf(world, promotion, show)) * kDollarsPerRating *
                  std::clamp<int>(show.ContractWeeks, 0, kYearWeeks);
   return {"Television deals",
-          Count(TvShowsOf(world, promotion), "show", "shows") + ", " + Dollars(kDollarsPerRating) +
+          Counted(TvShowsOf(world, promotion), "show") + ", " + Dollars(kDollarsPerRating) +
               " a week for each hundredth of the rating, a year at most",
           dollars};
 }
@@ -109,7 +106,7 @@ WorthLine SponsorWorth(const World& world, const Promotion& promotion) {
     dollars += year * kThousand * MonthsThatCount(sponsor.ContractMonths) / kYearMonths;
   }
   return {"Sponsors",
-          Count(sponsors, "sponsor", "sponsors") +
+          Counted(sponsors, "sponsor") +
               ", what they will pay for the shows until their deals end, a year at most",
           dollars};
 }

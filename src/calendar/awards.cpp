@@ -10,6 +10,7 @@
 #include "business/past.h"
 #include "business/standing.h"
 #include "calendar/daysteps.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -135,16 +136,12 @@ Merit YearOfWorker(const Year& year, const Worker& worker) {
           year.DaysAsChampion(worker.Uid)};
 }
 
-std::string Days(int days) {
-  return std::to_string(days) + (days == 1 ? " day" : " days");
-}
-
 std::string WhyWorker(const Year& year, const Worker& worker) {
   std::string why = "Over " + std::to_string(worker.Over);
   if (const int gain = year.GainOf(worker); gain > 0)
     why += ", " + std::to_string(gain) + " more than a year ago";
   if (const int days = year.DaysAsChampion(worker.Uid); days > 0)
-    why += ", " + Days(days) + " with a Title";
+    why += ", " + Counted(days, "day") + " with a Title";
   return why;
 }
 
@@ -248,7 +245,7 @@ std::optional<YearAward> BestShow(const Year& year) {
   award.Promotion = best->Promotion;
   award.Winner = best->Name;
   award.For = "Rated " + std::to_string(best->Rating) + "% on " + PlainDate(best->On) +
-              ", seen by " + std::to_string(best->Attendance) + " people";
+              ", seen by " + Counted(best->Attendance, "person", "people");
   return award;
 }
 
@@ -316,7 +313,7 @@ std::optional<YearAward> BestFeud(const Year& year) {
   award.Partner = best->Parties[1];
   award.Promotion = year.Of().PlayerUid();
   award.Winner = FeudName(year.Of(), best->Parties);
-  award.For = std::to_string(best->Ratings.size()) + " matches, the best rated " +
+  award.For = Counted(std::ssize(best->Ratings), "match", "matches") + ", the best rated " +
               std::to_string(best->Ratings[0]) + "%";
   return award;
 }

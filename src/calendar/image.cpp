@@ -39,6 +39,12 @@ void OwnersQuit(World& world, const Promotion& promotion) {
   }
 }
 
+/// The floor holds up whoever stands above it; it lifts nobody.
+void FallWithIt(World& world, Worker& worker) {
+  const int floor = std::min<int>(worker.Over, worker.OverFloor);
+  worker.Over = std::max(worker.Over - world.RandomDraw(5), floor);
+}
+
 void FallInClass(World& world, Promotion& promotion) {
   promotion.Size += 1;
   promotion.Image = kAfterAFall;
@@ -47,8 +53,7 @@ void FallInClass(World& world, Promotion& promotion) {
   TellOfClass(world, promotion, " fallen to ");
   if (IsPlayers(world, promotion) && world.RandomDraw(3) == 3) world.Game().EndCode = kEndBoard;
   for (Worker& worker : world.Workers())
-    if (worker.Employer == promotion.Uid)
-      worker.Over = std::max<int>(worker.Over - world.RandomDraw(5), worker.OverFloor);
+    if (worker.Employer == promotion.Uid) FallWithIt(world, worker);
   OwnersQuit(world, promotion);
 }
 

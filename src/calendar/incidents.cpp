@@ -1,5 +1,6 @@
 #include "calendar/incidents.h"
 
+#include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "rivals/ownership.h"
 #include "show/injuries.h"
@@ -27,10 +28,6 @@ void TakeOut(World& world, const Incident& incident) {
   } else if (incident.Type == kInjury) {
     BreakSomething(world, *worker);
   }
-}
-
-std::string Months(int months) {
-  return std::to_string(months) + (months == 1 ? " month" : " months");
 }
 
 std::string OfferText(const World& world, const Promotion& promotion) {
@@ -67,10 +64,10 @@ std::string IncidentText(const World& world, const Incident& incident) {
       return name +
              " has been forced to check into rehab because of personal problems!\nThe stay "
              "takes " +
-             Months(worker.StatusMonths) + ".";
+             Counted(worker.StatusMonths, "month") + ".";
     default:
       return name + " has sustained an injury!\n" + worker.InjuryName.Str() + ", out for " +
-             Months(worker.StatusMonths) + ".";
+             Counted(worker.StatusMonths, "month") + ".";
   }
 }
 

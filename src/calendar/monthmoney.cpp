@@ -66,7 +66,7 @@ void EndRepaidLoan(World& world, Promotion& promotion) {
   if (IsPlayers(world, promotion)) AddNews(world, kFinance, "Our loan repayment is now complete.");
 }
 
-void Charge(Promotion& promotion, Long& book, int dollars) {
+void Charge(Promotion& promotion, Cash& book, int dollars) {
   promotion.Money -= dollars;
   book += dollars;
 }

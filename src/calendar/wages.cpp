@@ -1,12 +1,12 @@
 #include <algorithm>
 
-#include "business/wagebill.h"
 #include "calendar/daysteps.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "rivals/rivals.h"
 #include "roster/release.h"
+#include "roster/wagebill.h"
 
 namespace grapplemont {
 

@@ -1,28 +1,18 @@
-#include <algorithm>
-
 #include "booking/writers.h"
 #include "calendar/daysteps.h"
+#include "records/counted.h"
 #include "records/modVar.h"
 
 namespace grapplemont {
-
-namespace {
-
-std::string Counted(int count, std::string_view one, std::string_view many) {
-  return std::to_string(count) + " " + std::string(count == 1 ? one : many);
-}
-
-}  // namespace
 
 void WriterWorkload(World& world) {
   const int shows = PlayerShows(world);
   const int writers = PlayerWriters(world);
   if (shows == 0 || writers >= WritersNeeded(shows)) return;
   AddNews(world, "Maeve",
-          "Our writers can't keep up. For " +
-              Counted(shows, "television show", "television shows") + " we need at least " +
-              std::to_string(WritersNeeded(shows)) + " writers, and we have " +
-              (writers == 0 ? "none" : std::to_string(writers)) +
+          "Our writers can't keep up. For " + Counted(shows, "television show") +
+              " we need at least " + std::to_string(WritersNeeded(shows)) +
+              " writers, and we have " + (writers == 0 ? "none" : std::to_string(writers)) +
               ". Until we hire more, i can't put any angles on television.");
 }
 
@@ -34,7 +24,7 @@ void EconomyDrift(World& world) {
   const int step = economy < 20 ? 7 : 1;
   economy += game.EconomyRising ? step : -step;
   // Steps of 7 can pass over 0, and then nothing but the field's own end stops the fall.
-  game.Economy = std::clamp(economy, -32768, 32767);
+  game.Economy = economy;
   if (economy == 100) game.EconomyRising = false;
   if (economy == 0) game.EconomyRising = true;
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "console/columns.h"
+#include "records/counted.h"
 
 namespace grapplemont::console {
 
@@ -19,10 +20,6 @@ std::string Number(double value) {
     return std::to_string(static_cast<long long>(value));
   std::string text = std::to_string(value);
   return text.substr(0, text.find('.') + 3);
-}
-
-std::string Counted(int count, const std::string& thing) {
-  return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
 }
 
 std::string Quoted(const std::string& text) {

@@ -27,6 +27,7 @@ void AddRows(Json& json, const ui::ListBox& list) {
   }
   json["rows"] = std::move(rows);
   json["selected"] = std::move(selected);
+  if (list.Count() == 0 && !list.EmptyText.empty()) json["empty"] = ToUtf8(list.EmptyText);
 }
 
 /// What only controls of this kind have.

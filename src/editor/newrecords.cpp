@@ -58,8 +58,8 @@ void Begin(Show& show) {
 }
 
 void Begin(Network& network) {
-  for (Word Network::*audience : {&Network::EarlyAudience, &Network::PrimeAudience,
-                                  &Network::LateAudience, &Network::GraveAudience})
+  for (Hundredths Network::*audience : {&Network::EarlyAudience, &Network::PrimeAudience,
+                                        &Network::LateAudience, &Network::GraveAudience})
     network.*audience = 100;
   for (Percent Network::*risk :
        {&Network::EarlyRisk, &Network::PrimeRisk, &Network::LateRisk, &Network::GraveRisk})

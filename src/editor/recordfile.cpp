@@ -1,5 +1,7 @@
 #include "editor/recordfile.h"
 
+#include "records/counted.h"
+
 #include <array>
 
 namespace grapplemont {
@@ -49,8 +51,8 @@ void ReadWhole(FileBytes& file, Disk& disk, const std::string& path, const std::
   file.Whole = ReadUpTo(disk, path, record * (layout.Limit + 1) - 1, size);
   const auto surplus = static_cast<std::size_t>(size % record);
   if (size / record > layout.Limit) {
-    file.Remark = name + " has room for " + std::to_string(size / record) +
-                  " records and is left aside. " + LimitMessage(layout);
+    file.Remark = name + " has room for " + Counted(size / record, "record") +
+                  " and is left aside. " + LimitMessage(layout);
   } else if (size == 0) {
     file.Remark = name + " is empty.";
   } else if (surplus != 0) {

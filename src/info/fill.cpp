@@ -25,10 +25,6 @@ std::string FillLine(std::string_view line, const LineWords& words) {
   return text;
 }
 
-std::string Counted(long long count, std::string_view what) {
-  return std::to_string(count).append(" ").append(what).append(count == 1 ? "" : "s");
-}
-
 std::string WithArticle(std::string_view name) {
   constexpr std::string_view kArticle = "The ";
   if (name.starts_with(kArticle)) name.remove_prefix(kArticle.size());

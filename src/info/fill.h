@@ -14,8 +14,6 @@ using LineWords = std::vector<std::pair<std::string_view, std::string>>;
 /// of all is a capital.
 std::string FillLine(std::string_view line, const LineWords& words);
 
-/// "1 month", "3 months".
-std::string Counted(long long count, std::string_view what);
 /// "the CWA Crown"; a name that brings its article along keeps one.
 std::string WithArticle(std::string_view name);
 

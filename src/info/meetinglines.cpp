@@ -19,7 +19,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Soon,
      kRoadAgent,
      "frmOtherWres",
-     {"I count {n} people on the roster. Promotions of our size keep {least} to {most}. I have "
+     {"I count {people} on the roster. Promotions of our size keep {least} to {most}. I have "
       "started to recognise the extras.",
       "With {n} on the roster I write the same names on the wall every week. {least} would be the "
       "least for a promotion of our size."},
@@ -476,7 +476,7 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      kAnnouncer,
      "frmFed",
      {"Image {image}%. {left} more, and we are {above}.",
-      "{left} points of image between us and {above}. I have practised saying it."},
+      "{left} of image between us and {above}. I have practised saying it."},
      "A television show of 90% brings {step}."},
     {P::LastShow,
      Image,
@@ -491,8 +491,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Soon,
      kWriter,
      "frmFeudStart",
-     {"We have {n} feuds running and room for eight. Two strangers wrestling is exercise.",
-      "{n} feuds. I have a drawer full of grudges, and nobody to give them to."},
+     {"We have {n} running and room for eight. Two strangers wrestling is exercise.",
+      "{n}. I have a drawer full of grudges, and nobody to give them to."},
      "Start one{idea}."},
     {P::FeudHurt,
      Feuds,
@@ -517,8 +517,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Soon,
      kWriter,
      "frmFeuds",
-     {"{feud}: {wins} wins and attacks in it, {days} days old. Somebody ought to win it.",
-      "After {days} days and {wins} wins and attacks {feud} waits for an end, or for something "
+     {"{feud}: {wins} wins and attacks in it, {days} old. Somebody ought to win it.",
+      "After {days} and {wins} wins and attacks {feud} waits for an end, or for something "
       "new."},
      "{advice}"},
     {P::FeudHot,
@@ -571,8 +571,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Watch,
      kWriter,
      "frmBelts",
-     {"{who} has held {title} for {days} days. People have stopped looking up when the bell goes.",
-      "{days} days, and {title} is still with {who}. It may be time to be surprised."},
+     {"{who} has held {title} for {days}. People have stopped looking up when the bell goes.",
+      "{days}, and {title} is still with {who}. It may be time to be surprised."},
      "Build a challenger."},
     {P::TitlesNone,
      Titles,
@@ -587,8 +587,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Now,
      kAnnouncer,
      "frmTelevision",
-     {"{show} has {weeks} weeks left on {network}. {talk}",
-      "{weeks} weeks, and then {network} shows something with animals. {show} needs a deal. "
+     {"{show} has {weeks} left on {network}. {talk}",
+      "{weeks}, and then {network} shows something with animals. {show} needs a deal. "
       "{talk}"},
      "{remedy}"},
     {P::TvTerrible,
@@ -728,9 +728,9 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
      Watch,
      kWriter,
      "frmEvent",
-     {"{event} is in {days} days. {feuds} of our feuds are hot enough for it, and {fit} people on "
-      "the card are fit.",
-      "{days} days to {event}, with {feuds} of our feuds hot and {fit} fit people for the card."},
+     {"{event} is in {days}. {feuds} of our feuds are hot enough for it, and there {are} {fit} for "
+      "the card.",
+      "{days} to {event}, with {feuds} of our feuds hot and {fit} for the card."},
      "What is to be fought out there wants feeding on every show until then."},
 }};
 

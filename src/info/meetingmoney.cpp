@@ -6,11 +6,12 @@
 #include "business/monthlymoney.h"
 #include "business/sponsorlimits.h"
 #include "business/sponsors.h"
-#include "business/wagebill.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
+#include "records/counted.h"
 #include "records/modVar.h"
 #include "rivals/bankruptcy.h"
+#include "roster/wagebill.h"
 #include "show/attendance.h"
 
 // The meeting on money: what is in hand, what comes and goes, and who else might pay.

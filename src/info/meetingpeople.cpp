@@ -2,6 +2,7 @@
 #include "business/development.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
+#include "records/counted.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/rivals.h"
@@ -42,6 +43,7 @@ void TalkOfCount(Meeting& meeting) {
   const long long balance = Balance(meeting.Player().LastMonth);
   if (count < band.Least)
     meeting.Say(Point::RosterSmall, {{"n", std::to_string(count)},
+                                     {"people", Counted(count, "person", "people")},
                                      {"least", std::to_string(band.Least)},
                                      {"most", std::to_string(band.Most)},
                                      {"missing", std::to_string(band.Least - count)}});

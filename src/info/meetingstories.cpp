@@ -5,6 +5,7 @@
 #include "calendar/goodwill.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -97,8 +98,9 @@ void TalkOfFeud(Meeting& meeting, const Feud& feud) {
   const int wins = score.One + score.Two;
   const auto days = (world.Today() - Day(feud.Started)).count();
   const Meeting::Words words = {
-      {"feud", FeudName(world, feud)}, {"who", SomeOf(away)},  {"heat", Number(int(feud.Heat))},
-      {"wins", Number(wins)},          {"days", Number(days)}, {"advice", AssessFeud(world, feud)}};
+      {"feud", FeudName(world, feud)},  {"who", SomeOf(away)},
+      {"heat", Number(int(feud.Heat))}, {"wins", Number(wins)},
+      {"days", Counted(days, "day")},   {"advice", AssessFeud(world, feud)}};
   if (!away.empty()) return meeting.Say(Point::FeudHurt, words);
   if (IsRipe(feud)) return meeting.Say(Point::FeudRipe, words);
   if (feud.Heat < kColdHeat) return meeting.Say(Point::FeudCold, words);
@@ -178,7 +180,7 @@ void TalkOfHeldTitle(Meeting& meeting, const Title& title) {
                                 {"image", Number(int(title.Image))},
                                 {"over", Number(over)},
                                 {"needed", Number(title.Image - kOutshines)},
-                                {"days", Number(days)}};
+                                {"days", Counted(days, "day")}};
   if (over + kOutshines < title.Image) return meeting.Say(Point::TitleOutshines, words);
   if (isDated && days > kLongReign) meeting.Say(Point::TitleLong, words);
 }
@@ -214,7 +216,7 @@ void TalkOfImage(Meeting& meeting) {
   const Meeting::Words words = {
       {"n", Number(falls)},
       {"image", Number(int(player.Image))},
-      {"left", Number(100 - player.Image)},
+      {"left", Counted(100 - player.Image, "point")},
       {"lifts", WhatLifts(world)},
       {"above", std::string(SizeText(player.Size - 1))},
       {"below", std::string(SizeText(player.Size + 1))},
@@ -235,8 +237,8 @@ void TalkOfFeuds(Meeting& meeting) {
     TalkOfFeud(meeting, feud);
   }
   if (running < kFewFeuds)
-    meeting.Say(Point::FeudsFew,
-                {{"n", running == 0 ? "no" : Number(running)}, {"idea", FeudIdea(world)}});
+    meeting.Say(Point::FeudsFew, {{"n", running == 0 ? "no feuds" : Counted(running, "feud")},
+                                  {"idea", FeudIdea(world)}});
 }
 
 void TalkOfTitles(Meeting& meeting) {
@@ -270,12 +272,13 @@ void TalkOfEvents(Meeting& meeting) {
                                    {"cost", Dollars(cost)},
                                    {"money", Dollars(meeting.Player().Money)}});
   if (days > kNear) return;
-  const auto fit =
-      Ours(world, [](const Worker& w) { return IsOnRoster(w) && w.Status == "Nor"; }).size();
+  const auto fit = static_cast<int>(
+      Ours(world, [](const Worker& w) { return IsOnRoster(w) && w.Status == "Nor"; }).size());
   meeting.Say(Point::EventNear, {{"event", event->Name.Str()},
-                                 {"days", Number(days)},
+                                 {"days", Counted(days, "day")},
                                  {"feuds", Number(HotFeuds(world))},
-                                 {"fit", Number(fit)}});
+                                 {"fit", Counted(fit, "fit person", "fit people")},
+                                 {"are", fit == 1 ? "is" : "are"}});
 }
 
 }  // namespace grapplemont

@@ -7,6 +7,7 @@
 #include "business/tvtalks.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
+#include "records/counted.h"
 #include "records/modVar.h"
 #include "show/charges.h"
 
@@ -30,7 +31,7 @@ struct OnAir {
 Meeting::Words WordsOf(const Meeting& meeting, const OnAir& air) {
   return {{"show", air.Is.Name.Str()},
           {"network", air.On.Name.Str()},
-          {"weeks", Number(int(air.Is.ContractWeeks))},
+          {"weeks", Counted(air.Is.ContractWeeks, "week")},
           {"rating", RatingText(air.Is.Rating3)},
           {"audience", RatingText(air.Audience)},
           {"needed", RatingText(PercentOf(air.Audience, kHappyPercent))},
@@ -71,7 +72,7 @@ void TalkOfSlot(Meeting& meeting, const OnAir& air) {
   if (audience == air.Audience) return;
   Meeting::Words words = {{"show", air.Is.Name.Str()},
                           {"network", air.On.Name.Str()},
-                          {"slot", std::string(SlotName(talk.Slot))},
+                          {"slot", std::string(Says(kTimeSlots, talk.Slot))},
                           {"audience", RatingText(audience)},
                           {"now", RatingText(air.Audience)}};
   meeting.Say(audience > air.Audience ? Point::TvSlot : Point::TvSlotDown, words);

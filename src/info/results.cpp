@@ -5,16 +5,13 @@
 #include <set>
 
 #include "business/past.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/segments.h"
 
 namespace grapplemont {
 
 namespace {
-
-std::string Count(long long number, const char* one, const char* many) {
-  return std::to_string(number) + " " + (number == 1 ? one : many);
-}
 
 template <class Records, class Test>
 std::vector<int> YearsIn(const Records& records, Test test) {
@@ -75,11 +72,10 @@ std::string SumOf(const std::vector<const HistoryEntry*>& shows) {
     if (!show->CalledOff) ratings += show->Rating;
     people += show->Attendance;
   }
-  std::string text =
-      Count(held, "show held, ", "shows held, ") + std::to_string(calledOff) + " called off.";
+  std::string text = Counted(held, "show") + " held, " + std::to_string(calledOff) + " called off.";
   if (held > 0)
     text += " Rated " + std::to_string(ratings / held) + "% on average, " +
-            Count(people, "person", "people") + " in all.";
+            Counted(people, "person", "people") + " in all.";
   return text;
 }
 

@@ -8,6 +8,7 @@
 #include "info/fill.h"
 #include "info/meetingfacts.h"
 #include "info/worldnews.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"

@@ -8,6 +8,7 @@
 #include "business/past.h"
 #include "info/fill.h"
 #include "info/newslines.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"

@@ -106,8 +106,7 @@ std::string RangeText(const Field& field) {
          (field.MayBeNone ? " or " + std::string(kNone) : "");
 }
 
-std::string TakeNumber(const Field& field, int index, std::string_view cell, std::byte* record,
-                       Ranges ranges) {
+std::string TakeNumber(const Field& field, int index, std::string_view cell, std::byte* record) {
   if (field.MayBeNone && SameWords(cell, kNone)) {
     SetFieldNumber(field, record, index, kNoEnd);
     return {};
@@ -120,9 +119,7 @@ std::string TakeNumber(const Field& field, int index, std::string_view cell, std
   }
   const auto number = Parse<long long>(cell);
   if (!number) return QuotedCell(cell) + " is no whole number from " + RangeText(field);
-  const long long most = field.Kind == FieldKind::Long ? 2147483647LL : 32767LL;
-  const bool strict = ranges == Ranges::OfTheField;
-  if (*number < (strict ? field.Min : -most - 1) || *number > (strict ? field.Max : most))
+  if (*number < field.Min || *number > field.Max)
     return "is " + std::to_string(*number) + ", outside " + RangeText(field);
   SetFieldNumber(field, record, index, *number);
   return {};
@@ -214,7 +211,7 @@ std::string CellOf(const TableKind& kind, const Column& column, const std::byte*
 }
 
 std::string TakeCell(const TableKind& kind, const Column& column, std::string_view cell,
-                     std::byte* record, Ranges ranges) {
+                     std::byte* record) {
   const Field& field = *column.Of;
   cell = detail::Trimmed(cell);
   if (cell.empty()) {
@@ -229,7 +226,7 @@ std::string TakeCell(const TableKind& kind, const Column& column, std::string_vi
     case FieldKind::Text:
       return TakeText(field, column.Index, cell, record);
     default:
-      return TakeNumber(field, column.Index, cell, record, ranges);
+      return TakeNumber(field, column.Index, cell, record);
   }
 }
 

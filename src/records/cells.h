@@ -10,16 +10,13 @@
 
 namespace grapplemont {
 
-/// How strictly numbers are held to their field's range: a running game may carry some out of it.
-enum class Ranges { OfTheField, OfItsBytes };
-
 /// The cell from which TakeCell makes the very same bytes again.
 std::string CellOf(const TableKind& kind, const Column& column, const std::byte* record);
 
 /// Puts what the cell says into the record; an empty one takes the default. Gives what is wrong
 /// with it, or nothing.
 std::string TakeCell(const TableKind& kind, const Column& column, std::string_view cell,
-                     std::byte* record, Ranges ranges);
+                     std::byte* record);
 
 /// `"Ovr"`, cut when it is long.
 std::string QuotedCell(std::string_view cell);

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "records/checkrules.h"
@@ -11,26 +10,6 @@
 namespace grapplemont {
 
 namespace {
-
-/// Fields that a running game may carry out of their range, and why.
-struct Loose {
-  std::string_view Record;
-  std::string_view Field;
-};
-constexpr std::array<Loose, 4> kLooseInGames = {{
-    {"Worker", "Age"},           // some never retire
-    {"Worker", "StatusMonths"},  // a status that a game began with is counted down from 0
-    {"Show", "ContractWeeks"},   // a show that nobody owns is counted down all the same
-    {"Staff", "Age"},
-}};
-
-bool MayLeaveItsRange(const Inspection& inspection, const RecordLayout& layout,
-                      const Field& field) {
-  return !inspection.AsData() &&
-         std::any_of(kLooseInGames.begin(), kLooseInGames.end(), [&](const Loose& loose) {
-           return loose.Record == layout.Name && loose.Field == field.Name;
-         });
-}
 
 std::string Quoted(std::string_view text) {
   std::string quoted = "\"" + std::string(text) + "\"";
@@ -74,7 +53,6 @@ void InspectNumber(Inspection& inspection, const Place& place, const Field& fiel
     return;
   }
   if (value >= field.Min && value <= field.Max) return;
-  if (MayLeaveItsRange(inspection, place.Layout, field)) return;
   inspection.NoteField(place, FieldName(field, index),
                        "is " + std::to_string(value) + ", outside " + std::to_string(field.Min) +
                            " to " + std::to_string(field.Max),
@@ -144,6 +122,18 @@ void InspectField(Inspection& inspection, const Place& place, const Field& field
   }
 }
 
+template <class Look>
+void ForEachField(Inspection& inspection, Look look) {
+  ForEachFile(inspection, [&]<class T>(Records<T>& records) {
+    const RecordLayout& layout = LayoutOf<T>();
+    for (T& record : records) {
+      const Place place{layout, records.NumberOf(record), reinterpret_cast<std::byte*>(&record)};
+      for (const Field& field : layout.Fields)
+        for (int index = 0; index < field.Count; ++index) look(place, field, index);
+    }
+  });
+}
+
 }  // namespace
 
 void WholeRecords(Inspection& inspection) {
@@ -166,14 +156,14 @@ void WholeRecords(Inspection& inspection) {
 }
 
 void FieldsHoldWhatTheyMay(Inspection& inspection) {
-  ForEachFile(inspection, [&]<class T>(Records<T>& records) {
-    const RecordLayout& layout = LayoutOf<T>();
-    for (T& record : records) {
-      const Place place{layout, records.NumberOf(record), reinterpret_cast<std::byte*>(&record)};
-      for (const Field& field : layout.Fields)
-        for (int index = 0; index < field.Count; ++index)
-          InspectField(inspection, place, field, index);
-    }
+  ForEachField(inspection, [&](const Place& place, const Field& field, int index) {
+    InspectField(inspection, place, field, index);
+  });
+}
+
+void CountedNumbersLieInTheirRanges(Inspection& inspection) {
+  ForEachField(inspection, [&](const Place& place, const Field& field, int index) {
+    if (field.IsCounted) InspectNumber(inspection, place, field, index);
   });
 }
 

@@ -91,12 +91,16 @@ void SplitsOfTheEmployer(Inspection& inspection) {
 
 void ManagersOfTheEmployer(Inspection& inspection) {
   const World& world = inspection.Of();
+  // An angle may make a manager of anybody.
+  const auto manages = [byTrade = inspection.AsData()](const Worker& manager) {
+    return !byTrade || manager.Position == kManager;
+  };
   ForWorkers(
       inspection, "Manager", "is no manager of the same promotion", "made 0",
-      [&world](const Worker& worker) {
+      [&](const Worker& worker) {
         const Worker* manager = world.FindWorker(worker.Manager);
         return manager && (worker.Employer == 0 || manager->Employer != worker.Employer ||
-                           manager->Position != kManager || manager->Uid == worker.Uid);
+                           !manages(*manager) || manager->Uid == worker.Uid);
       },
       [](Worker& worker) { worker.Manager = 0; });
 }

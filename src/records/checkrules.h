@@ -10,6 +10,7 @@ namespace grapplemont {
 // Files and fields, by the field lists.
 void WholeRecords(Inspection& inspection);
 void FieldsHoldWhatTheyMay(Inspection& inspection);
+void CountedNumbersLieInTheirRanges(Inspection& inspection);  // of those alone
 void NoRecordStandsTwice(Inspection& inspection);
 void KeysAreUnique(Inspection& inspection);
 void ReferencesLeadSomewhere(Inspection& inspection);

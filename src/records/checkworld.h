@@ -28,5 +28,8 @@ std::vector<Fault> CheckWorld(const World& world);
 std::vector<Fault> MendWorld(World& world);
 /// The same for those faults alone to which `wanted` says yes; all others stay.
 std::vector<Fault> MendWorld(World& world, const std::function<bool(const Fault&)>& wanted);
+/// Brings back into its range every number of a running game that rules count with, so that no day
+/// stumbles over it.
+std::vector<Fault> MendNumbers(World& world);
 
 }  // namespace grapplemont

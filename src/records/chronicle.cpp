@@ -63,11 +63,11 @@ constexpr Field kTallyFields[] = {
         .LeadsTo(Refers::Worker)
         .Means("Whose matches; 0 for who has left the world."),
     FIELD(Name).Means("Name at the last match."),
-    FIELD(Won).In(0, 32767).Means("Matches won."),
-    FIELD(Lost).In(0, 32767).Means("Matches lost."),
-    FIELD(Drawn).In(0, 32767).Means("Matches drawn."),
-    FIELD(ForTitles).In(0, 32767).Means("How many of them were for a Title."),
-    FIELD(Ratings).In(0, 2147483647).Means("Sum of their ratings."),
+    FIELD(Won).Means("Matches won."),
+    FIELD(Lost).Means("Matches lost."),
+    FIELD(Drawn).Means("Matches drawn."),
+    FIELD(ForTitles).Means("How many of them were for a Title."),
+    FIELD(Ratings).Means("Sum of their ratings."),
     FIELD(Last).Means("The day of the last one."),
 };
 #undef FIELD
@@ -82,7 +82,7 @@ constexpr Field kReignFields[] = {
     FIELD(Worker).In(0, 32767).LeadsTo(Refers::Worker).Means("Holder; 0 for who has gone."),
     FIELD(Partner).In(0, 32767).LeadsTo(Refers::Worker).Means("The other half of a pair."),
     FIELD(Holder).Means("The holder as he was called, or Vacant."),
-    FIELD(Defences).In(0, 32767).OrNone().Means("Defences on the player's shows; -1 not counted."),
+    FIELD(Defences).Means("Defences on the player's shows; -1 not counted."),
     FIELD(End).In(kReignLasts, kReignDissolved).From(kEnds).Means("How it ended."),
 };
 #undef FIELD

@@ -44,11 +44,11 @@ struct MatchTally {
   Word Promotion;  // uid
   Word Worker;     // uid; 0 for who has gone
   Text<25> Name;   // as it was in the last match
-  Word Won;
-  Word Lost;
-  Word Drawn;
-  Word ForTitles;  // how many of them were for a Title
-  Long Ratings;    // the sum
+  Natural Won;
+  Natural Lost;
+  Natural Drawn;
+  Natural ForTitles;                    // how many of them were for a Title
+  RangedLong<0, kMostDollars> Ratings;  // the sum
   Date Last;
 };
 
@@ -71,8 +71,8 @@ struct TitleReign {
   Text<6> Initials;  // of the promotion
   Word Worker;       // uids; 0 for nobody and for who has gone
   Word Partner;
-  Text<25> Holder;  // as the Title's own record names him; "Vacant"
-  Word Defences;    // on the player's shows; kNoEnd where nobody counts
+  Text<25> Holder;                      // as the Title's own record names him; "Vacant"
+  RangedWord<0, 32767, true> Defences;  // on the player's shows; kNoEnd where nobody counts
   Word End;
 };
 

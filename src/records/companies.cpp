@@ -15,34 +15,31 @@ constexpr Field kShowFields[] = {
     FIELD(Show, Day).From(kWeekDays).Means("Day of the week."),
     FIELD(Show, Slot).From(kTimeSlots).Means("Time of the evening."),
     FIELD(Show, Network).In(0, 32767).LeadsTo(Refers::Network).Means("The network that airs it."),
-    FIELD(Show, ContractWeeks).In(0, 520).Counts("weeks").Means("Weeks left of the deal."),
+    FIELD(Show, ContractWeeks).Counts("weeks").Means("Weeks left of the deal."),
     FIELD(Show, Announcer).In(0, 32767).LeadsTo(Refers::Staff).Means("Primary announcer."),
     FIELD(Show, Colour).In(0, 32767).LeadsTo(Refers::Commentator).Means("Colour commentator."),
     FIELD(Show, ColourIsWorker).Means("The colour commentator is a worker, not staff."),
-    FIELD(Show, Rating1)
-        .In(0, 32767)
-        .Counts("hundredths")
-        .Means("Highest rating; 0 before the first show."),
-    FIELD(Show, Rating2).In(0, 32767).Counts("hundredths").Means("Lowest rating."),
-    FIELD(Show, Rating3).In(0, 32767).Counts("hundredths").Means("Last rating."),
-    FIELD(Show, Rating4).In(0, 32767).Means("Strikes against the show."),
+    FIELD(Show, Rating1).Counts("hundredths").Means("Highest rating; 0 before the first show."),
+    FIELD(Show, Rating2).Counts("hundredths").Means("Lowest rating."),
+    FIELD(Show, Rating3).Counts("hundredths").Means("Last rating."),
+    FIELD(Show, Rating4).Means("Strikes against the show."),
 };
 constexpr RecordLayout kShowLayout{"Show", "tv.dat", sizeof(Show), 1000, kShowFields};
 
 constexpr Field kNetworkFields[] = {
     FIELD(Network, Uid).In(1, 32767).Key().Means("The number by which shows know the network."),
     FIELD(Network, Name).Key().Means("Name."),
-    FIELD(Network, EarlyAudience).In(0, 32767).Counts("hundredths").Means("Audience of 6 to 8 pm."),
+    FIELD(Network, EarlyAudience).Counts("hundredths").Means("Audience of 6 to 8 pm."),
     FIELD(Network, PrimeAudience)
-        .In(0, 32767)
+
         .Counts("hundredths")
         .Means("Audience of 8 to 10 pm."),
     FIELD(Network, LateAudience)
-        .In(0, 32767)
+
         .Counts("hundredths")
         .Means("Audience of 10 pm to midnight."),
     FIELD(Network, GraveAudience)
-        .In(0, 32767)
+
         .Counts("hundredths")
         .Means("Audience of midnight to 2 am."),
     FIELD(Network, EarlyRisk).Counts("percent").Means("Highest risk tolerated from 6 to 8 pm."),
@@ -70,9 +67,9 @@ constexpr Field kSponsorFields[] = {
         .In(0, 32767)
         .LeadsTo(Refers::Promotion)
         .Means("The promotion sponsored."),
-    FIELD(Sponsor, ContractMonths).In(0, 600).Counts("months").Means("Months left."),
+    FIELD(Sponsor, ContractMonths).Counts("months").Means("Months left."),
     FIELD(Sponsor, Morality).Counts("percent").Means("High morality tolerates less risk."),
-    FIELD(Sponsor, Pay).In(0, 100000).Counts("thousand dollars a show").Means("Payment."),
+    FIELD(Sponsor, Pay).Counts("thousand dollars a show").Means("Payment."),
 };
 constexpr RecordLayout kSponsorLayout{"Sponsor", "sponsor.dat", sizeof(Sponsor), 1000,
                                       kSponsorFields};

@@ -14,14 +14,14 @@ struct Show {
   Text<9> Day;
   Text<1> Slot;
   Word Network;
-  Word ContractWeeks;
+  RangedWord<0, 520> ContractWeeks;
   Word Announcer;
   Word Colour;
   Flag ColourIsWorker;
-  Word Rating1;  // highest so far, in hundredths; 0 before the first show
-  Word Rating2;  // lowest
-  Word Rating3;  // last
-  Word Rating4;  // strikes
+  Hundredths Rating1;           // highest so far, in hundredths; 0 before the first show
+  Hundredths Rating2;           // lowest
+  Hundredths Rating3;           // last
+  RangedWord<0, 1000> Rating4;  // strikes
 };
 
 static_assert(sizeof(Show) == 50 && alignof(Show) == 1);
@@ -37,10 +37,10 @@ static_assert(offsetof(Show, Rating4) == 48);
 struct Network {
   Word Uid;
   Text<20> Name;
-  Word EarlyAudience;
-  Word PrimeAudience;
-  Word LateAudience;
-  Word GraveAudience;
+  Hundredths EarlyAudience;
+  Hundredths PrimeAudience;
+  Hundredths LateAudience;
+  Hundredths GraveAudience;
   Percent EarlyRisk;
   Percent PrimeRisk;
   Percent LateRisk;
@@ -63,9 +63,9 @@ struct Sponsor {
   Text<20> Name;
   Text<40> Slogan;
   Word Promotion;
-  Word ContractMonths;
+  RangedWord<0, 600> ContractMonths;
   Percent Morality;
-  Long Pay;  // thousands of dollars a show
+  RangedLong<0, 100000> Pay;  // thousands of dollars a show
 };
 
 static_assert(sizeof(Sponsor) == 72 && alignof(Sponsor) == 1);

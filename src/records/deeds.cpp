@@ -40,8 +40,8 @@ constexpr Field kFields[] = {
     FIELD(Who).Means("The worker, owner or show, or the promotion's full name."),
     FIELD(Other).Means("Whom he was signed away from, the network, or the injury."),
     FIELD(Number).Means("Months hurt, weeks on the air, size class reached, or a rival's draw."),
-    FIELD(Viewers).In(0, 32767).Counts("hundredths").Means("A show's rating, or its buy rate."),
-    FIELD(People).In(0, 2147483647).Counts("people").Means("A show's crowd."),
+    FIELD(Viewers).Counts("hundredths").Means("A show's rating, or its buy rate."),
+    FIELD(People).Counts("people").Means("A show's crowd."),
 };
 #undef FIELD
 

@@ -44,9 +44,10 @@ struct Deed {
   Text<6> House;   // its initials then
   Text<40> Who;    // a worker, an owner, a show, or the promotion's full name
   Text<40> Other;  // whom he was stolen from, the network, the injury
-  Word Number;     // months hurt, weeks on the air, the size class reached, a rival's roster's draw
-  Word Viewers;    // hundredths: of a show that was held
-  Long People;     // its crowd
+  RangedWord<-32768, 32767>
+      Number;  // months hurt, weeks on the air, the size class reached, a rival's roster's draw
+  Hundredths Viewers;                  // hundredths: of a show that was held
+  RangedLong<0, kMostDollars> People;  // its crowd
 };
 
 static_assert(sizeof(Deed) == 106 && alignof(Deed) == 1);

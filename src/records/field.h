@@ -54,6 +54,7 @@ struct Field {
   bool MayBeNone = false;  // besides Min..Max, -1 stands for "none"
   bool IsKey = false;      // unique in its file
   bool MayBreak = false;   // a text of several lines
+  bool IsCounted = false;  // rules count with it, and never leave Min..Max
   Refers To = Refers::Nothing;
   Vocabulary Words = {};
   std::string_view Unit = {};
@@ -144,11 +145,18 @@ template <>
 struct FieldType<Percent> {
   static constexpr FieldKind kKind = FieldKind::Percent;
   static constexpr long long kMin = 0, kMax = 100;
+  static constexpr bool kOrNone = false;
 };
 template <>
 struct FieldType<Long> {
   static constexpr FieldKind kKind = FieldKind::Long;
   static constexpr long long kMin = -2147483648LL, kMax = 2147483647LL;
+};
+template <int Bytes, int Least, int Most, bool OrNone>
+struct FieldType<Ranged<Bytes, Least, Most, OrNone>> {
+  static constexpr FieldKind kKind = Bytes == 2 ? FieldKind::Word : FieldKind::Long;
+  static constexpr long long kMin = Least, kMax = Most;
+  static constexpr bool kOrNone = OrNone;
 };
 template <>
 struct FieldType<Flag> {
@@ -178,6 +186,10 @@ constexpr Field MakeField(std::string_view name, std::size_t offset, int count =
   f.Stride = static_cast<int>(stride);
   f.Min = FieldType<T>::kMin;
   f.Max = FieldType<T>::kMax;
+  if constexpr (requires { FieldType<T>::kOrNone; }) {
+    f.IsCounted = true;
+    f.MayBeNone = FieldType<T>::kOrNone;
+  }
   return f;
 }
 

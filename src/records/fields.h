@@ -15,6 +15,9 @@
 
 namespace grapplemont {
 
+/// A month count or index that says "no end", "nobody" or "no data".
+inline constexpr int kNoEnd = -1;
+
 /// A value that its field cannot hold; the field keeps what it held. `World::Explain` names record
 /// and field.
 class FieldOverflow : public std::range_error {
@@ -91,8 +94,7 @@ class Percent : public detail::Number<Percent, 2> {
   constexpr void Set(long long value) { Store(std::clamp(value, 0LL, 100LL)); }
 };
 
-/// 32 bits, signed: whole dollars or thousands of dollars. Storing a value outside them throws
-/// FieldOverflow.
+/// 32 bits, signed. Storing a value outside them throws FieldOverflow.
 class Long : public detail::Number<Long, 4> {
  public:
   constexpr Long() = default;
@@ -100,6 +102,38 @@ class Long : public detail::Number<Long, 4> {
   using Number::operator=;
   constexpr void Set(long long value) { Store(value); }
 };
+
+/// A number that rules count with: storing saturates to Least..Most (with `OrNone` also kNoEnd),
+/// reading gives what the file holds. The range is the field's in its record's list.
+template <int Bytes, int Least, int Most, bool OrNone = false>
+class Ranged : public detail::Number<Ranged<Bytes, Least, Most, OrNone>, Bytes> {
+  using Base = detail::Number<Ranged, Bytes>;
+
+ public:
+  static constexpr int kLeast = Least, kMost = Most;
+  static constexpr bool kOrNone = OrNone;
+
+  constexpr Ranged() = default;
+  constexpr explicit Ranged(int value) { Set(value); }
+  using Base::operator=;
+  constexpr void Set(long long value) {
+    const bool isNone = OrNone && value == kNoEnd;
+    this->Store(isNone ? value : std::clamp<long long>(value, Least, Most));
+  }
+};
+template <int Least, int Most, bool OrNone = false>
+using RangedWord = Ranged<2, Least, Most, OrNone>;
+template <int Least, int Most>
+using RangedLong = Ranged<4, Least, Most>;
+
+/// Whole dollars, far beyond what a month of any game can move, and so far from the field's own end
+/// that rules may add two of them.
+inline constexpr int kMostDollars = 1000000000;
+using Cash = RangedLong<-kMostDollars, kMostDollars>;
+/// How often something has happened.
+using Natural = RangedWord<0, 32767>;
+/// A television rating, an audience or a buy rate: 10000 is everybody.
+using Hundredths = RangedWord<0, 10000>;
 
 /// 16 bits that hold a truth: -1 or 0 when written, any non-zero is true when read.
 class Flag {
@@ -181,7 +215,4 @@ template <int N>
 std::string operator+(std::string_view a, const Text<N>& b) {
   return std::string(a).append(b.View());
 }
-/// A month count or index that says "no end", "nobody" or "no data".
-inline constexpr int kNoEnd = -1;
-
 }  // namespace grapplemont

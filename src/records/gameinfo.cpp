@@ -10,7 +10,7 @@ namespace {
 
 constexpr Field kFields[] = {
     FIELD(PlayerName).Means("The player's name."),
-    FIELD(Reputation).In(0, 100).Counts("percent").Means("The player's standing."),
+    FIELD(Reputation).Counts("percent").Means("The player's standing."),
     FIELD(StartDate).Means("The day the game began."),
     GM_NUMBERED(GameInfo, Shortlist)
         .In(0, 32767)

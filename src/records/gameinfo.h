@@ -21,7 +21,7 @@ static_assert(sizeof(Job) == 56);
 /// The state of a game: the one record of gameinfo.dat.
 struct GameInfo {
   Text<25> PlayerName;
-  Word Reputation;
+  RangedWord<0, 100> Reputation;
   Date StartDate;
   std::array<Word, 15> Shortlist;
   std::array<Job, 5> Jobs;
@@ -48,7 +48,7 @@ struct GameInfo {
   Word MailDev;
   Word MailTrain;
   Word Reporter;
-  Word Economy;
+  RangedWord<-32768, 32767> Economy;
   Flag EconomyRising;
   Text<11> Version;
 };

@@ -19,11 +19,8 @@ constexpr Field kFields[] = {
     FIELD(Name).Means("The show, the Event, the building, or for a month the promotion."),
     FIELD(CalledOff).Means("The show was called off."),
     FIELD(Rating).In(0, 100).Means("The show's rating."),
-    FIELD(Viewers).In(0, 32767).Counts("hundredths").Means("Television rating, or buy rate."),
-    FIELD(Attendance)
-        .In(0, 2147483647)
-        .Counts("people")
-        .Means("Crowd of the show, or of the month."),
+    FIELD(Viewers).Counts("hundredths").Means("Television rating, or buy rate."),
+    FIELD(Attendance).Counts("people").Means("Crowd of the show, or of the month."),
     FIELD(Income).Counts("dollars").Means("What the show or the month brought."),
     FIELD(Costs).Counts("dollars").Means("What the show, the month or the building cost."),
     FIELD(Money).Counts("dollars").Means("Cash afterwards."),

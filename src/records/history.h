@@ -14,17 +14,17 @@ enum HistoryKind { kPastTv = 1, kPastEvent, kPastMonth, kPastCamp, kPastTerritor
 struct HistoryEntry {
   Date On;
   Word Kind;
-  Word Promotion;   // uid; the promotion may be gone
-  Text<40> Name;    // of the show or Event, of what was built; of the promotion for a month
-  Flag CalledOff;   // shows
-  Word Rating;      // a show's, 0 to 100
-  Word Viewers;     // hundredths: a television rating, or a pay-per-view's buy rate
-  Long Attendance;  // people; a month's sum of the player's shows
-  Long Income;      // dollars that the show brought, or the month
-  Long Costs;       // dollars that the show cost, the month, or what was built
-  Long Money;       // cash afterwards
-  Word Size;        // afterwards
-  Percent Image;    // afterwards
+  Word Promotion;      // uid; the promotion may be gone
+  Text<40> Name;       // of the show or Event, of what was built; of the promotion for a month
+  Flag CalledOff;      // shows
+  Word Rating;         // a show's, 0 to 100
+  Hundredths Viewers;  // hundredths: a television rating, or a pay-per-view's buy rate
+  RangedLong<0, kMostDollars> Attendance;  // people; a month's sum of the player's shows
+  Cash Income;                             // dollars that the show brought, or the month
+  Cash Costs;     // dollars that the show cost, the month, or what was built
+  Cash Money;     // cash afterwards
+  Word Size;      // afterwards
+  Percent Image;  // afterwards
 };
 
 static_assert(sizeof(HistoryEntry) == 78 && alignof(HistoryEntry) == 1);

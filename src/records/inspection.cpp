@@ -51,7 +51,7 @@ void Inspection::NoteField(const Place& place, std::string_view field, std::stri
 
 void Inspection::Take(Fault fault, const Remedy& remedy) {
   if (wanted_ && !wanted_(fault)) return;
-  if (purpose_ == Purpose::Mend) {
+  if (purpose_ != Purpose::Check) {
     if (!remedy.Do) return;
     remedy.Do();
     fault.What += "; " + remedy.How;

@@ -28,9 +28,9 @@ struct Place {
 
 class Inspection {
  public:
-  enum class Purpose { Check, Mend };
+  enum class Purpose { Check, Mend, MendGame };
 
-  /// With `wanted`, no other fault is mended or told.
+  /// Mend looks at any world as at default data. With `wanted`, no other fault is mended or told.
   Inspection(World& world, Purpose purpose, std::function<bool(const Fault&)> wanted = {});
 
   World& Of() const { return world_; }

@@ -1,5 +1,7 @@
 #include "records/modWresCheck.h"
 
+#include "records/counted.h"
+
 #include <algorithm>
 
 namespace grapplemont {
@@ -54,10 +56,6 @@ const T* FindNamed(const Records<T>& records, std::string_view name) {
 template <class T>
 std::string NameOrEmpty(const T* record) {
   return record ? record->Name.Str() : std::string();
-}
-
-std::string Months(int months) {
-  return std::to_string(months) + (months == 1 ? " month" : " months");
 }
 
 std::string PerMonth(int wage) {
@@ -190,12 +188,13 @@ std::string ContractLine(const Worker& worker) {
   if (worker.Unsackable) return "Unsackable, agreement for $" + PerMonth(worker.Wage);
   const std::string kind =
       worker.ContractType == "Wri" ? "Written contract for " : "Verbal agreement for ";
-  return kind + std::to_string(worker.ContractMonths) + " months, at $" + PerMonth(worker.Wage);
+  return kind + Counted(worker.ContractMonths, "month") + ", at $" + PerMonth(worker.Wage);
 }
 
 std::string StatusLine(const Worker& worker) {
-  if (worker.Status == "Inj") return worker.InjuryName + ", out for " + Months(worker.StatusMonths);
-  if (worker.Status == "Sus") return "Suspended for " + Months(worker.StatusMonths);
+  if (worker.Status == "Inj")
+    return worker.InjuryName + ", out for " + Counted(worker.StatusMonths, "month");
+  if (worker.Status == "Sus") return "Suspended for " + Counted(worker.StatusMonths, "month");
   if (worker.Status == "Reh") return "Currently in rehab";
   if (worker.Status == "Hom") return "Sitting out contract";
   return "Available";

@@ -18,23 +18,16 @@ constexpr Field kStaffFields[] = {
     FIELD(Staff, Name).Key().Means("Full name."),
     FIELD(Staff, Gender).From(kGenders).Means("Male or female."),
     FIELD(Staff, BirthMonth).In(1, 12).Means("Month of the birthday."),
-    FIELD(Staff, Age).In(0, 120).Counts("years").Means("Age."),
+    FIELD(Staff, Age).Counts("years").Means("Age."),
     FIELD(Staff, Employer)
         .In(0, 32767)
         .LeadsTo(Refers::Promotion)
         .Means("The promotion worked for."),
-    FIELD(Staff, ContractMonths)
-        .In(0, 120)
-        .OrNone()
-        .Counts("months")
-        .Means("Months left; -1 has no end."),
+    FIELD(Staff, ContractMonths).Counts("months").Means("Months left; -1 has no end."),
     FIELD(Staff, ContractType)
         .From(kContracts)
         .Means("A written contract, or none but a word given."),
-    FIELD(Staff, Wage)
-        .In(0, 32767)
-        .Counts("thousand dollars a month")
-        .Means("Wage; an Owner's style 1 to 6."),
+    FIELD(Staff, Wage).Counts("thousand dollars a month").Means("Wage; an Owner's style 1 to 6."),
     FIELD(Staff, Position).In(1, 8).From(kStaffPositions).Means("Post."),
     FIELD(Staff, Talent).Counts("percent").Means("Talent at the post."),
     FIELD(Staff, Morale).Counts("percent").Means("Morale."),

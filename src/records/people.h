@@ -15,11 +15,11 @@ struct Staff {
   Text<25> Name;
   Flag Gender;  // true male
   Word BirthMonth;
-  Word Age;
+  RangedWord<0, kOldest> Age;
   Word Employer;
-  Word ContractMonths;
+  RangedWord<0, 120, true> ContractMonths;
   Text<3> ContractType;
-  Long Wage;  // thousands of dollars a month; an Owner's style 1 to 6
+  RangedLong<0, kDearest> Wage;  // thousands of dollars a month; an Owner's style 1 to 6
   Word Position;
   Percent Talent;
   Percent Morale;

@@ -18,7 +18,7 @@ constexpr Field kFields[] = {
     FIELD(Initials).Key().Means("Initials, shown almost everywhere instead of the name."),
     FIELD(Size).In(1, 6).From(kSizes).Means("Size class."),
     FIELD(Money).Counts("dollars").Means("Cash; may be negative."),
-    FIELD(TicketPrice).In(0, 1000).Counts("dollars").Means("Price of a ticket."),
+    FIELD(TicketPrice).Counts("dollars").Means("Price of a ticket."),
     FIELD(Image).Counts("percent").Means("For a promotion to go to the \"next size\", they have to "
                                          "reach 100% image during the game."),
     FIELD(Momentum).Means("The way the image is going."),
@@ -28,21 +28,18 @@ constexpr Field kFields[] = {
         .Means("A non-wrestler who rules on screen."),
     FIELD(Production).Counts("percent").Means("Production values."),
     FIELD(Risk).Counts("percent").Means("Riskiness of the product."),
-    FIELD(Advertising).In(0, 100).Counts("levels of $10000 a month").Means("Advertising."),
-    FIELD(Merchandising).In(0, 100).Counts("levels of $20000 a month").Means("Merchandise."),
+    FIELD(Advertising).Counts("levels of $10000 a month").Means("Advertising."),
+    FIELD(Merchandising).Counts("levels of $20000 a month").Means("Merchandise."),
     FIELD(MeetingDay).From(kWeekDays).Means("Day of the weekly staff meeting."),
-    NUMBERED(Rank).In(0, 600).OrNone().Means("Standing at past month ends, newest first."),
+    NUMBERED(Rank).Means("Standing at past month ends, newest first."),
     detail::MakeNumbered<decltype(Promotion::MoneyBefore)>("Money#",
                                                            offsetof(Promotion, MoneyBefore))
         .Counts("dollars")
         .Means("Cash at past month ends, newest first; -1 for no data."),
-    FIELD(LoanAmount)
-        .In(0, 2147483647LL)
-        .Counts("dollars")
-        .Means("Bank loan to repay; 0 for none."),
-    FIELD(LoanMonths).In(0, 600).Counts("months").Means("Length of the loan."),
-    FIELD(LoanRepaid).In(0, 2147483647LL).Counts("dollars").Means("Repaid so far."),
-    FIELD(LoanMissed).In(0, 100).Means("Missed repayments."),
+    FIELD(LoanAmount).Counts("dollars").Means("Bank loan to repay; 0 for none."),
+    FIELD(LoanMonths).Counts("months").Means("Length of the loan."),
+    FIELD(LoanRepaid).Counts("dollars").Means("Repaid so far."),
+    FIELD(LoanMissed).Means("Missed repayments."),
     BOOK(ThisMonth, TicketIncome, "TicketIncome").Means("Ticket sales this month."),
     BOOK(ThisMonth, MerchIncome, "MerchIncome").Means("Merchandise sales this month."),
     BOOK(ThisMonth, PpvIncome, "PpvIncome").Means("Pay-per-view revenue this month."),

@@ -9,15 +9,15 @@ namespace grapplemont {
 
 /// The running totals of a month, in dollars.
 struct MonthBooks {
-  Long TicketIncome;
-  Long MerchIncome;
-  Long PpvIncome;
-  Long SponsorIncome;
-  Long WrestlerWages;
-  Long StaffWages;
-  Long ProductionCost;
-  Long AdvertisingCost;
-  Long MerchCost;
+  Cash TicketIncome;
+  Cash MerchIncome;
+  Cash PpvIncome;
+  Cash SponsorIncome;
+  Cash WrestlerWages;
+  Cash StaffWages;
+  Cash ProductionCost;
+  Cash AdvertisingCost;
+  Cash MerchCost;
 };
 
 /// A company of the world, the player's or a rival's: a record of promos.dat.
@@ -27,22 +27,22 @@ struct Promotion {
   Text<40> Name;
   Text<6> Initials;
   Word Size;
-  Long Money;  // dollars
-  Word TicketPrice;
+  Cash Money;
+  RangedWord<0, 1000> TicketPrice;
   Percent Image;
   Word Momentum;
   Word Commissioner;
   Percent Production;
   Percent Risk;
-  Word Advertising;
-  Word Merchandising;
+  RangedWord<0, 100> Advertising;
+  RangedWord<0, 100> Merchandising;
   Text<9> MeetingDay;
-  std::array<Word, 5> Rank;
-  std::array<Long, 5> MoneyBefore;
-  Long LoanAmount;
-  Word LoanMonths;
-  Long LoanRepaid;
-  Word LoanMissed;
+  std::array<RangedWord<0, 600, true>, 5> Rank;
+  std::array<Cash, 5> MoneyBefore;
+  RangedLong<0, kMostDollars> LoanAmount;
+  RangedWord<0, 600> LoanMonths;
+  RangedLong<0, kMostDollars> LoanRepaid;
+  RangedWord<0, 100> LoanMissed;
   MonthBooks ThisMonth;
   MonthBooks LastMonth;
   std::array<Text<10>, 4> Split;

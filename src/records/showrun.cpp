@@ -18,7 +18,7 @@ constexpr Field kFields[] = {
     FIELD(FlatNight).Means("Nothing quite comes off tonight: matches lose a tenth."),
     GM_NUMBERED(ShowRun, FeudTouched).Means("The show has used the feud of this slot."),
     FIELD(ShowSum).Means("Ratings and charges added up; at the close the show's rating."),
-    FIELD(ShowSegments).In(0, 32767).Means("How many ratings stand in the sum."),
+    FIELD(ShowSegments).Means("How many ratings stand in the sum."),
     FIELD(Announcer).In(0, 32767).LeadsTo(Refers::Staff).Means("Primary announcer."),
     FIELD(Colour).In(0, 32767).Means("Colour commentator: staff, or a worker."),
     FIELD(ColourIsWorker).Means("The colour commentator is a worker."),
@@ -26,7 +26,7 @@ constexpr Field kFields[] = {
     FIELD(ColourCharge).Means("What the colour commentator cost the sum."),
     FIELD(ProductionCharge).Means("What poor production cost the sum."),
     FIELD(ExtraBonus).Means("What an Event's extra added to the sum."),
-    FIELD(ExtraCost).In(0, 2147483647).Counts("dollars").Means("What an Event's extra cost."),
+    FIELD(ExtraCost).Counts("dollars").Means("What an Event's extra cost."),
 };
 #undef FIELD
 

@@ -21,16 +21,16 @@ struct ShowRun {
   Word LastOverall;    // of the Segment told last; it counts once more at the close
   Flag FlatNight;
   std::array<Flag, 8> FeudTouched;
-  Word ShowSum;       // ratings and charges so far; at the close the show's rating
-  Word ShowSegments;  // ratings in the sum
-  Word Announcer;     // Staff uid; 0 none
-  Word Colour;        // uid of a Staff, or of a Worker
+  RangedWord<-32768, 32767> ShowSum;  // ratings and charges so far; at the close the show's rating
+  Natural ShowSegments;               // ratings in the sum
+  Word Announcer;                     // Staff uid; 0 none
+  Word Colour;                        // uid of a Staff, or of a Worker
   Flag ColourIsWorker;
-  Word AnnouncerCharge;   // what the primary announcer cost the sum
-  Word ColourCharge;      // what the colour commentator cost it
-  Word ProductionCharge;  // what poor production cost it
-  Word ExtraBonus;        // what an Event's extra added to it
-  Long ExtraCost;         // dollars that the extra was charged
+  Word AnnouncerCharge;                   // what the primary announcer cost the sum
+  Word ColourCharge;                      // what the colour commentator cost it
+  Word ProductionCharge;                  // what poor production cost it
+  Word ExtraBonus;                        // what an Event's extra added to it
+  RangedLong<0, kMostDollars> ExtraCost;  // dollars that the extra was charged
 };
 
 static_assert(sizeof(ShowRun) == 50 && alignof(ShowRun) == 1);

@@ -24,8 +24,7 @@ std::string Ordinal(std::size_t number) {
 
 class TableReader {
  public:
-  TableReader(const TableKind& kind, Ranges ranges)
-      : kind_(kind), ranges_(ranges), all_(ColumnsOf(kind)) {
+  explicit TableReader(const TableKind& kind) : kind_(kind), all_(ColumnsOf(kind)) {
     table_.Kind = &kind;
   }
 
@@ -128,9 +127,7 @@ class TableReader {
       return;
     }
     if (IsUid(*column.Of) && !detail::Trimmed(cell).empty()) numbered_.insert(number);
-    // A number is never out of its range: nothing could lead to it.
-    const Ranges ranges = IsUid(*column.Of) ? Ranges::OfTheField : ranges_;
-    std::string wrong = TakeCell(kind_, column, cell, table_.Record(number), ranges);
+    std::string wrong = TakeCell(kind_, column, cell, table_.Record(number));
     if (wrong.empty()) return;
     if (column.Of->IsKey) table_.NamesAll = false;
     table_.Note(number, column.Name(), std::move(wrong));
@@ -168,7 +165,6 @@ class TableReader {
   }
 
   const TableKind& kind_;
-  Ranges ranges_;
   std::vector<Column> all_;
   std::vector<const Column*> columns_;  // by cell; nullptr for one that is passed over
   std::vector<Column> missing_;
@@ -186,8 +182,8 @@ std::string Mistake::Text() const {
   return text + ": " + What;
 }
 
-ReadTable ReadTableOf(const TableKind& kind, std::string_view text, Ranges ranges) {
-  return TableReader(kind, ranges).Read(text);
+ReadTable ReadTableOf(const TableKind& kind, std::string_view text) {
+  return TableReader(kind).Read(text);
 }
 
 }  // namespace grapplemont

@@ -47,6 +47,6 @@ struct ReadTable {
 
 /// The records that a table tells, numbered where it does not number them itself. What leads to
 /// other records waits.
-ReadTable ReadTableOf(const TableKind& kind, std::string_view text, Ranges ranges);
+ReadTable ReadTableOf(const TableKind& kind, std::string_view text);
 
 }  // namespace grapplemont

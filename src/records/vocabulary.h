@@ -24,6 +24,9 @@ enum Position {
   kSentToDevelopment = 80  // added to a roster position
 };
 
+inline constexpr int kOldest = 250;     // years; some never retire
+inline constexpr int kDearest = 10000;  // thousands of dollars a month
+
 /// Staff.Position.
 enum StaffPosition {
   kOwner = 1,

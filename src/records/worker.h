@@ -12,16 +12,16 @@ struct Worker {
   Text<10> ShortName;
   Flag Gender;  // true male
   Word BirthMonth;
-  Word Age;
+  RangedWord<0, kOldest> Age;
   Text<1> Weight;
   Word Employer;
   Text<3> ContractType;
-  Word ContractMonths;
+  RangedWord<0, 120, true> ContractMonths;
   Flag CreativeControl;
-  Long Wage;  // thousands of dollars a month
+  RangedLong<0, kDearest> Wage;  // thousands of dollars a month
   Word Position;
   Text<3> Status;
-  Word StatusMonths;
+  RangedWord<0, 120> StatusMonths;
   Text<15> InjuryName;
   Percent Brawl;
   Percent Technical;

@@ -1,17 +1,14 @@
 #include "records/worldreport.h"
 
+#include "records/counted.h"
+
 #include <algorithm>
 
 namespace grapplemont {
 
-std::string Counted(std::size_t count, std::string_view what) {
-  return std::to_string(count) + " " + std::string(what) + (count == 1 ? "" : "s");
-}
-
 std::string ContentsOf(const World& world) {
-  const auto count = [](const auto& records) { return static_cast<std::size_t>(records.Count()); };
-  return Counted(count(world.Promotions()), "promotion") + ", " +
-         Counted(count(world.Workers()), "worker") + ", " +
+  return Counted(world.Promotions().Count(), "promotion") + ", " +
+         Counted(world.Workers().Count(), "worker") + ", " +
          std::to_string(world.AllStaff().Count()) + " staff";
 }
 
@@ -26,11 +23,11 @@ std::vector<Fault> FaultsOf(const World& world) {
 }
 
 std::string NothingBuilt(const Building& building) {
-  return Counted(building.Mistakes.size(), "mistake") + "; nothing was built.";
+  return Counted(std::ssize(building.Mistakes), "mistake") + "; nothing was built.";
 }
 
 std::string FaultyExport(const std::vector<Fault>& faults, std::string_view how) {
-  return "has " + Counted(faults.size(), "fault") + ", which " + std::string(how) +
+  return "has " + Counted(std::ssize(faults), "fault") + ", which " + std::string(how) +
          " lists; the tables will not build until they are mended.";
 }
 

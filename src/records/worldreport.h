@@ -11,8 +11,6 @@
 
 namespace grapplemont {
 
-/// "1 worker", "12 workers".
-std::string Counted(std::size_t count, std::string_view what);
 /// "18 promotions, 648 workers, 302 staff"
 std::string ContentsOf(const World& world);
 /// What CheckWorld takes for granted (the files of a data set), and all that it finds.

@@ -47,11 +47,10 @@ class Builder {
   /// False when some record is not known by its name.
   bool ReadAll() {
     bool namesAll = true;
-    const Ranges ranges = isGame_ ? Ranges::OfItsBytes : Ranges::OfTheField;
     for (const TableKind& kind : TableKinds()) {
       const auto text = tables_.find(std::string(kind.Name));
       if (text != tables_.end()) {
-        read_.push_back(ReadTableOf(kind, text->second, ranges));
+        read_.push_back(ReadTableOf(kind, text->second));
         namesAll = namesAll && read_.back().NamesAll;
       } else if (!kind.OfGame && !isGame_) {
         general_.push_back({std::string(kind.Name),
@@ -113,9 +112,8 @@ class Builder {
   }
 
   /// Stables and splits are kept as names, so that a wrong one would only be found by the check,
-  /// which knows no better name. A running game may hold names of what is gone.
+  /// which knows no better name.
   void FindHomelessNames() {
-    if (isGame_) return;
     std::multimap<int, std::string> stables;
     for (const Stable& stable : world_.Stables())
       stables.emplace(stable.Owner, ToUtf8(stable.Name));

@@ -31,12 +31,12 @@ const NewPromotionName* FreeName(const World& world) {
 
 bool WasGlobal(const Promotion& promotion) {
   return std::any_of(promotion.Rank.begin(), promotion.Rank.end(),
-                     [](const Word& rank) { return rank >= kStandingOfGlobals; });
+                     [](int rank) { return rank >= kStandingOfGlobals; });
 }
 
 /// No rival that is still there was Global at any of the five month ends at which the player was.
 bool HasLongBeenAlone(const World& world) {
-  for (const Word& rank : world.Player().Rank)
+  for (const int rank : world.Player().Rank)
     if (rank < kStandingOfGlobals) return false;
   return std::none_of(world.Promotions().begin(), world.Promotions().end(),
                       [&](auto& p) { return IsRival(world, p) && WasGlobal(p); });

@@ -1,5 +1,6 @@
 #include "rivals/endstories.h"
 
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 
@@ -63,10 +64,6 @@ const Story& StoryOf(int endCode) {
   for (const Story& story : kStories)
     if (story.Code == endCode) return story;
   return kParting;
-}
-
-std::string Counted(long long count, const std::string& one) {
-  return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
 }
 
 }  // namespace

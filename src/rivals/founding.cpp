@@ -69,8 +69,8 @@ Promotion NewPromotion(const World& world, std::string_view name, std::string_vi
   promotion.Name = name;
   promotion.Initials = initials;
   promotion.MeetingDay = "Monday";
-  for (Word& rank : promotion.Rank) rank = kNoEnd;
-  for (Long& money : promotion.MoneyBefore) money = kNoEnd;
+  for (auto& rank : promotion.Rank) rank = kNoEnd;
+  for (Cash& money : promotion.MoneyBefore) money = kNoEnd;
   for (auto& split : promotion.Split) split = "None";
   promotion.CampName = "None";
   promotion.DevName = "None";

@@ -1,3 +1,5 @@
+#include "rivals/houseshows.h"
+
 #include "records/dates.h"
 #include "rivals/rivals.h"
 #include "rivals/rivalsteps.h"
@@ -12,22 +14,36 @@ bool Works(const Worker& worker) {
   return IsOnRoster(worker) && worker.Status == "Nor";
 }
 
-void Earn(Promotion& rival) {
-  const int sure = BySize(tuning::kHouseShow, rival.Size) / 2;
-  const int dollars = sure + sure * rival.Image / 100;
+bool IsEnough(int crew) {
+  return crew >= tuning::kHouseShowCrew;
+}
+
+void Earn(Promotion& rival, int dollars) {
   rival.Money += dollars;
   rival.ThisMonth.TicketIncome += dollars;
 }
 
 }  // namespace
 
-void RivalHouseShows(World& world) {
+std::map<int, int> HouseShowCrews(const World& world) {
   std::map<int, int> crews;
   for (const Worker& worker : world.Workers())
     if (Works(worker)) ++crews[worker.Employer];
-  const auto plays = [&](int uid) { return crews[uid] >= tuning::kHouseShowCrew; };
+  return crews;
+}
+
+int HouseShowIncome(const Promotion& rival, int crew) {
+  if (!IsEnough(crew)) return 0;
+  const int sure = BySize(tuning::kHouseShow, rival.Size) / 2;
+  return sure + sure * rival.Image / 100;
+}
+
+void RivalHouseShows(World& world) {
+  std::map<int, int> crews = HouseShowCrews(world);
+  const auto plays = [&](int uid) { return IsEnough(crews[uid]); };
   for (Promotion& promotion : world.Promotions())
-    if (IsRival(world, promotion) && plays(promotion.Uid)) Earn(promotion);
+    if (IsRival(world, promotion))
+      Earn(promotion, HouseShowIncome(promotion, crews[promotion.Uid]));
   for (Worker& worker : world.Workers()) {
     const Promotion* employer = world.FindPromotion(worker.Employer);
     if (employer && IsRival(world, *employer) && Works(worker) && plays(employer->Uid))

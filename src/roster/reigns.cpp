@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
 #include "storylines/lineages.h"
@@ -48,10 +49,8 @@ std::string Told(const World& world, const TitleReign& reign) {
   std::string text = reign.Title + (reign.Partner == 0 ? "" : " as " + reign.Holder.Str()) +
                      Days(reign.From, reign.Until);
   const int days = DaysOf(reign, world.Today());
-  if (days >= 0) text += " (" + std::to_string(days) + (days == 1 ? " day" : " days");
-  if (reign.Defences > 0)
-    text += (days >= 0 ? ", " : " (") + std::to_string(reign.Defences) +
-            (reign.Defences == 1 ? " defence" : " defences");
+  if (days >= 0) text += " (" + Counted(days, "day");
+  if (reign.Defences > 0) text += (days >= 0 ? ", " : " (") + Counted(reign.Defences, "defence");
   return text + (days >= 0 || reign.Defences > 0 ? ")" : "");
 }
 

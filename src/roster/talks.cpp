@@ -1,5 +1,7 @@
 #include "roster/talks.h"
 
+#include "records/counted.h"
+
 namespace grapplemont {
 
 std::string_view ContractCodeOf(bool written) {
@@ -14,7 +16,7 @@ std::string WageText(int thousands) {
 }
 
 std::string MonthsText(int months) {
-  return months < 2 ? "1 month" : std::to_string(months) + " months";
+  return Counted(std::max(months, 1), "month");
 }
 
 Remark AcceptedRemark(std::string_view name, bool written) {

@@ -1,7 +1,5 @@
 #include "roster/termination.h"
 
-#include <algorithm>
-
 #include "records/modVar.h"
 #include "roster/release.h"
 
@@ -25,7 +23,7 @@ void BreakWord(World& world, Worker& worker) {
     return;
   }
   GameInfo& game = world.Game();
-  game.Reputation = std::max(0, game.Reputation - 15);
+  game.Reputation -= 15;
   worker.Loyalty = 0;
   AddNews(world, worker.Name,
           "I can't believe you broke my verbal contract! I'll never work for you again!");

@@ -68,8 +68,8 @@ FactGroup Person(const World& world, const Worker& worker) {
   AddIf(group, worker.Diva, "Has sex appeal.");
   Add(group, worker.Speaks ? "Can do interviews." : "Cannot do interviews.");
   AddIf(group, worker.OverFloor > 0,
-        "The fans will always remember: the Over never falls under " + Number(worker.OverFloor) +
-            ".");
+        "The fans will always remember: a fall of the promotion never takes Over under " +
+            Number(worker.OverFloor) + ".");
   Add(group, PotentialWords(world, worker));
   AddIf(group, worker.RetiringSoon, "Has announced to retire soon.");
   AddIf(group, IsShortlisted(world, worker.Uid), "On your shortlist.");

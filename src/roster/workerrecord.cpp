@@ -21,7 +21,7 @@ std::string RecordLine(const World& world, const MatchTally& tally) {
   text += ": " + Number(tally.Won) + " won, " + Number(tally.Lost) + " lost, " +
           Number(tally.Drawn) + " drawn";
   if (tally.ForTitles > 0) text += ", " + Number(tally.ForTitles) + " for a Title";
-  return text + ". Rated " + Number(tally.Ratings / matches) + "% on average.";
+  return text + ". Rated " + Number(tally.Ratings / std::max(matches, 1)) + "% on average.";
 }
 
 std::string MatchLine(const HeldMatch& bout, int uid) {

@@ -111,8 +111,8 @@ void StartPromotion(World& world, Promotion& promotion) {
   promotion.ThisMonth = {};
   promotion.LastMonth = {};
   promotion.Sponsor = {};
-  for (Word& rank : promotion.Rank) rank = kNoEnd;
-  for (Long& money : promotion.MoneyBefore) money = kNoEnd;
+  for (auto& rank : promotion.Rank) rank = kNoEnd;
+  for (Cash& money : promotion.MoneyBefore) money = kNoEnd;
   promotion.Rank[0] = StandingScore(promotion);
 }
 

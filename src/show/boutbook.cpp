@@ -37,16 +37,11 @@ MatchTally& TallyOf(World& world, int uid) {
   return tallies.Append(fresh);
 }
 
-/// A career has no more matches than a field can hold.
-void CountUp(Word& count) {
-  if (count < 32767) ++count;
-}
-
 void AddToTally(World& world, int uid, const HeldMatch& bout, bool won) {
   MatchTally& tally = TallyOf(world, uid);
   tally.Name = WorkerName(world, uid);
-  CountUp(bout.Winners == 0 ? tally.Drawn : won ? tally.Won : tally.Lost);
-  if (!(bout.Title == "None")) CountUp(tally.ForTitles);
+  ++(bout.Winners == 0 ? tally.Drawn : won ? tally.Won : tally.Lost);
+  if (!(bout.Title == "None")) ++tally.ForTitles;
   tally.Ratings += bout.Rating;
   tally.Last = bout.On;
 }

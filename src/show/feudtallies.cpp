@@ -22,10 +22,10 @@ constexpr int kCleanFinishes[] = {kClean, kCountOut, kSickBump, kMiscommunicatio
 
 /// A side's counters in the record.
 struct Counters {
-  Word& Clean;
-  Word& Cheap;
-  Word& Verbal;
-  Word& Attacks;
+  Natural& Clean;
+  Natural& Cheap;
+  Natural& Verbal;
+  Natural& Attacks;
   int Wins() const { return Clean + Cheap; }
 };
 
@@ -45,7 +45,7 @@ void Cool(Feud& feud) {
 }
 
 /// Adds one to a counter of `uid` in the first feud against `enemy`; nullptr where there is none.
-Feud* Count(World& world, int uid, int enemy, Word& (*counter)(const Counters&)) {
+Feud* Count(World& world, int uid, int enemy, Natural& (*counter)(const Counters&)) {
   const int slot = FeudSlotOf(world, uid, enemy);
   if (slot == 0) return nullptr;
   Feud& feud = world.Feuds()[slot];
@@ -72,21 +72,21 @@ void TallyWin(SegmentRun& run, int winnerUid, int loserUid, bool isClean) {
   if (slot == 0) return;
   Feud* feud = Count(
       run.World, winnerUid, loserUid,
-      isClean ? +[](const Counters& side) -> Word& { return side.Clean; }
-              : +[](const Counters& side) -> Word& { return side.Cheap; });
+      isClean ? +[](const Counters& side) -> Natural& { return side.Clean; }
+              : +[](const Counters& side) -> Natural& { return side.Cheap; });
   run.Show.FeudTouched[static_cast<std::size_t>(slot - 1)] = true;
   Cool(*feud);
 }
 
 void TallyVerbal(SegmentRun& run, int speakerUid, int targetUid) {
   Feud* feud = Count(run.World, speakerUid, targetUid,
-                     [](const Counters& side) -> Word& { return side.Verbal; });
+                     [](const Counters& side) -> Natural& { return side.Verbal; });
   if (feud) Cool(*feud);
 }
 
 void TallyAttack(SegmentRun& run, int attackerUid, int targetUid) {
   Count(run.World, attackerUid, targetUid,
-        [](const Counters& side) -> Word& { return side.Attacks; });
+        [](const Counters& side) -> Natural& { return side.Attacks; });
 }
 
 void TallyResult(SegmentRun& run) {

@@ -170,7 +170,7 @@ void CountDefence(World& world, std::string_view title) {
   for (TitleReign& reign : world.Reigns()) {
     if (reign.End != kReignLasts || reign.Owner != world.PlayerUid() || !(reign.Title == title))
       continue;
-    if (reign.Defences < 32767) reign.Defences = std::max<int>(0, reign.Defences) + 1;
+    reign.Defences = std::max<int>(0, reign.Defences) + 1;
     return;
   }
 }

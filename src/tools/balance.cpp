@@ -4,7 +4,9 @@
 
 #include "business/monthlymoney.h"
 #include "business/sponsorlimits.h"
+#include "calendar/events.h"
 #include "records/modWresCheck.h"
+#include "rivals/houseshows.h"
 #include "show/attendance.h"
 #include "show/tvratings.h"
 
@@ -22,17 +24,27 @@ struct Hands {
   int Merchandising;
   int Production;
   int SponsorLimit;
+  std::vector<int> EventTypes;  // of a year
+  int HouseShow;                // dollars a week
 };
 
-Hands PlayersHands(const Promotion& promotion) {
-  return {promotion.Advertising, promotion.Merchandising, promotion.Production,
-          SponsorPayLimit(promotion.Size, promotion.Image)};
+Hands PlayersHands(const World& world, const Promotion& promotion) {
+  std::vector<int> types;
+  for (const Event& event : world.Events())
+    if (event.Owner == promotion.Uid) types.push_back(event.Type);
+  return {promotion.Advertising, promotion.Merchandising,
+          promotion.Production,  SponsorPayLimit(promotion.Size, promotion.Image),
+          std::move(types),      0};
 }
 
-Hands RivalsHands(const Promotion& promotion) {
+Hands RivalsHands(const World& world, const Promotion& promotion) {
   const RivalSpending spending = RivalSpendingFor(promotion.Size);
-  return {TargetAdvertising(promotion.Size, promotion.Image), spending.Merchandising,
-          spending.Production, RivalSponsorPayLimit(promotion.Size, promotion.Image)};
+  return {TargetAdvertising(promotion.Size, promotion.Image),
+          spending.Merchandising,
+          spending.Production,
+          RivalSponsorPayLimit(promotion.Size, promotion.Image),
+          std::vector<int>(kMonths, NewEventType(promotion)),
+          HouseShowIncome(promotion, HouseShowCrews(world)[promotion.Uid])};
 }
 
 /// Television shows in a year: the last Sunday of a month is an Event's.
@@ -43,26 +55,26 @@ int ShowsAYear(const World& world, const Promotion& promotion) {
   return shows;
 }
 
-void AddTickets(const World& world, const Promotion& promotion, MonthMoney& money) {
+void AddTickets(const World& world, const Promotion& promotion, const Hands& hands,
+                MonthMoney& money) {
   const Gate gate{promotion.Size, FairTicketPrice(promotion.Size), kEvenEconomy};
   const auto paid = [&](int people) { return static_cast<long long>(people) * gate.TicketPrice; };
   money.TvTickets = paid(TvGate(Mean(TvCrowd(promotion.Size, promotion.Image)), gate)) *
                     ShowsAYear(world, promotion) / kMonths;
-  for (const Event& event : world.Events()) {
-    if (event.Owner != promotion.Uid) continue;
+  for (const int type : hands.EventTypes) {
     money.EventTickets +=
-        paid(EventGate(Mean(EventCrowd(event.Type, promotion.Size, promotion.Image)), gate));
-    money.Events += EventProductionCost(event.Type);
-    if (event.Type == 1)
+        paid(EventGate(Mean(EventCrowd(type, promotion.Size, promotion.Image)), gate));
+    money.Events += EventProductionCost(type);
+    if (type == 1)
       money.PayPerView += PpvIncome(Mean(BuyRateBase(promotion.Size, promotion.Image)));
   }
   for (long long* year : {&money.EventTickets, &money.Events, &money.PayPerView}) *year /= kMonths;
 }
 
-long long SponsorsMonth(const World& world, const Promotion& promotion, int limit) {
+long long SponsorsMonth(const World& world, const Promotion& promotion, const Hands& hands) {
   long long willing = 0, pay = 0, tvPay = 0;
   for (const Sponsor& sponsor : world.Sponsors()) {
-    if (!BearsRisk(sponsor, promotion.Risk) || sponsor.Pay >= limit) continue;
+    if (!BearsRisk(sponsor, promotion.Risk) || sponsor.Pay >= hands.SponsorLimit) continue;
     ++willing;
     pay += sponsor.Pay;
     tvPay +=
@@ -70,10 +82,8 @@ long long SponsorsMonth(const World& world, const Promotion& promotion, int limi
   }
   if (willing == 0) return 0;
   const long long places = std::min<long long>(willing, kSponsorPlaces);
-  const auto events =
-      std::count_if(world.Events().begin(), world.Events().end(),
-                    [&](const Event& event) { return event.Owner == promotion.Uid; });
-  return (pay * places * events + tvPay * ShowsAYear(world, promotion)) * 1000 / willing / kMonths;
+  return (pay * places * std::ssize(hands.EventTypes) + tvPay * ShowsAYear(world, promotion)) *
+         1000 / willing / kMonths;
 }
 
 void AddWages(const World& world, const Promotion& promotion, MonthMoney& money) {
@@ -89,12 +99,13 @@ void AddWages(const World& world, const Promotion& promotion, MonthMoney& money)
 
 MonthMoney MonthOf(const World& world, const Promotion& promotion, const Hands& hands) {
   MonthMoney money;
-  AddTickets(world, promotion, money);
+  AddTickets(world, promotion, hands, money);
   AddWages(world, promotion, money);
   Promotion spending = promotion;
   spending.Merchandising = hands.Merchandising;
   money.Merchandise = MerchandiseSales(spending, kEvenEconomy);
-  money.Sponsors = SponsorsMonth(world, promotion, hands.SponsorLimit);
+  money.Sponsors = SponsorsMonth(world, promotion, hands);
+  money.HouseShows = 1LL * hands.HouseShow * kWeeks / kMonths;
   money.Production = ProductionCost(hands.Production);
   money.Advertising = AdvertisingCost(hands.Advertising);
   money.Merchandising = MerchandisingCost(hands.Merchandising);
@@ -118,7 +129,7 @@ std::vector<PlaceOnCard> CardOf(const World& world, const Promotion& promotion) 
 }  // namespace
 
 long long MonthMoney::Income() const {
-  return TvTickets + EventTickets + PayPerView + Merchandise + Sponsors;
+  return TvTickets + EventTickets + HouseShows + PayPerView + Merchandise + Sponsors;
 }
 
 long long MonthMoney::Costs() const {
@@ -133,8 +144,8 @@ std::vector<PromotionBalance> BalanceOf(const World& world) {
   std::vector<PromotionBalance> balances;
   for (const Promotion& promotion : world.Promotions())
     balances.push_back({&promotion, CardOf(world, promotion),
-                        MonthOf(world, promotion, PlayersHands(promotion)),
-                        MonthOf(world, promotion, RivalsHands(promotion))});
+                        MonthOf(world, promotion, PlayersHands(world, promotion)),
+                        MonthOf(world, promotion, RivalsHands(world, promotion))});
   return balances;
 }
 

@@ -11,6 +11,7 @@ namespace grapplemont::tools {
 struct MonthMoney {
   long long TvTickets = 0;
   long long EventTickets = 0;
+  long long HouseShows = 0;  // a rival's
   long long PayPerView = 0;
   long long Merchandise = 0;
   long long Sponsors = 0;

@@ -21,10 +21,13 @@ The month is an average one: an even economy, tickets at the fair price, 52 week
 rates at their mean for today's image, and four sponsors of mean pay out of those who would sign. Who picks sponsors well
 does better. Workers who cannot be released draw no wage. Two columns tell the same company in two pairs of hands:
 
-- **Player**: with the advertising, merchandise and production that it has on the first day, and the sponsors that say
-  yes to a player.
-- **Rival**: with what a rival of its size and image spends as soon as its first show has been seen, and the sponsors
-  that say yes to a rival.
+- **Player**: with the advertising, merchandise, production and Events that it has on the first day, and the sponsors
+  that say yes to a player.
+- **Rival**: with what a rival of its size and image spends as soon as its first show has been seen, an Event of its
+  standing every month, a house show every week where eight wrestlers are fit, and the sponsors that say yes to a rival.
+
+Wages are those of the first day in both. A rival's people move towards the band of its size and the going rate within
+the first months, and one in debt advertises half as much.
 
 Dollars throughout. *Costs per 100* is what it costs to earn a hundred dollars: under 100 a promotion grows richer.
 )";
@@ -34,11 +37,9 @@ struct MoneyRow {
   long long MonthMoney::*Amount;
 };
 constexpr MoneyRow kIncome[] = {
-    {"Tickets, television", &MonthMoney::TvTickets},
-    {"Tickets, Event", &MonthMoney::EventTickets},
-    {"Pay-per-view", &MonthMoney::PayPerView},
-    {"Merchandise", &MonthMoney::Merchandise},
-    {"Sponsors", &MonthMoney::Sponsors},
+    {"Tickets, television", &MonthMoney::TvTickets}, {"Tickets, Event", &MonthMoney::EventTickets},
+    {"House shows", &MonthMoney::HouseShows},        {"Pay-per-view", &MonthMoney::PayPerView},
+    {"Merchandise", &MonthMoney::Merchandise},       {"Sponsors", &MonthMoney::Sponsors},
 };
 constexpr MoneyRow kCosts[] = {
     {"Workers' wages", &MonthMoney::WorkerWages},

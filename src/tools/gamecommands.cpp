@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "records/charset.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/nearest.h"
 #include "session/home.h"
@@ -153,7 +154,7 @@ std::string Reasons(const CareerEnd& end) {
 void TellEnd(const World& world, const CareerEnd& end, std::ostream& out) {
   if (end.EndCode == 0 && !end.Reasons.empty())
     out << "Dismissed on the way (reason " << Reasons(end) << ").\n";
-  const std::string days = std::to_string(end.Days) + (end.Days == 1 ? " day" : " days");
+  const std::string days = Counted(end.Days, "day");
   if (end.EndCode == 0)
     out << "After " << days << " it is " << LongDate(world.Today()) << ".\n";
   else

@@ -2,6 +2,7 @@
 
 #include "records/charset.h"
 #include "records/checkworld.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "session/newgame.h"
 #include "tools/career.h"
@@ -67,8 +68,8 @@ class Soaking {
   }
 
   int Close() {
-    shell_.Out << careers_ << " careers, " << days_ << " days, " << ended_ << " ended early, "
-               << faults_ << (faults_ == 1 ? " fault.\n" : " faults.\n");
+    shell_.Out << Counted(careers_, "career") << ", " << Counted(days_, "day") << ", " << ended_
+               << " ended early, " << Counted(faults_, "fault") << ".\n";
     return faults_ == 0 ? 0 : 1;
   }
 

@@ -2,10 +2,25 @@
 
 #include <algorithm>
 
+#include "records/checkworld.h"
 #include "records/slot.h"
 #include "records/world.h"
 
 namespace grapplemont {
+
+namespace {
+
+void TellMended(const std::vector<Fault>& mended, std::vector<std::string>& remarks) {
+  constexpr std::size_t kTold = 8;
+  if (mended.empty()) return;
+  remarks.push_back("Numbers that no game can go on with were brought back into their ranges:");
+  for (std::size_t i = 0; i < std::min(kTold, mended.size()); ++i)
+    remarks.push_back(mended[i].Line());
+  if (mended.size() > kTold)
+    remarks.push_back("and " + std::to_string(mended.size() - kTold) + " more.");
+}
+
+}  // namespace
 
 Game::Game(ui::Desk& desk, grapplemont::Disk& disk, Options options)
     : desk_(desk), disk_(disk), options_(std::move(options)) {
@@ -38,7 +53,9 @@ std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   slot_ = std::move(files);
   world_ = std::move(world);
   MarkCommitted();
-  return slot_->Remarks();
+  std::vector<std::string> remarks = slot_->Remarks();
+  if (!isOver_) TellMended(MendNumbers(*world_), remarks);
+  return remarks;
 }
 
 void Game::CloseSlot() {

@@ -58,7 +58,7 @@ void AddGroups(Dice& dice, SmallWorld& world, int wrestlers) {
 void AddFeuds(Dice& dice, SmallWorld& world, int wrestlers) {
   const auto change = [&](Feud& feud) {
     feud.Heat = dice.From(0, 100);
-    for (Word* tally : {&feud.Clean1, &feud.Dirty1, &feud.Clean2, &feud.Dirty2, &feud.Sneak1})
+    for (Natural* tally : {&feud.Clean1, &feud.Dirty1, &feud.Clean2, &feud.Dirty2, &feud.Sneak1})
       *tally = dice.From(0, 5);
     feud.Started = kGameStart - std::chrono::days{dice.From(0, 300)};
   };

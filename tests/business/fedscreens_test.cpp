@@ -89,7 +89,8 @@ TEST(frmFed, LeadsToThePagesOfItsMoneyAndShowsWhatTheyChanged) {
 TEST(frmFed, ChartsImageAndStandingOverTheMonths) {
   GameOnWorld play(Company());
   World& world = play.World();
-  world.Player().Rank = {Word(361), Word(kNoEnd), Word(kNoEnd), Word(kNoEnd), Word(kNoEnd)};
+  world.Player().Rank.fill(decltype(Promotion::Rank)::value_type(kNoEnd));
+  world.Player().Rank[0] = 361;
   const auto chart = [&](const char* name) -> const ui::Chart& {
     return dynamic_cast<const ui::Chart&>(*play.Desk.Top()->Find(name));
   };

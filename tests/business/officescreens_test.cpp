@@ -122,7 +122,7 @@ TEST(frmFedMerch, SetsEitherSpendingAtOnce) {
   struct Side {
     void (*Open)(Game&);
     const char* Title;
-    Word Promotion::*Level;
+    RangedWord<0, 100> Promotion::*Level;
     const char* AtNothing;
     const char* At35;
   };
@@ -200,7 +200,7 @@ TEST(frmFinance, ShowsBothMonths) {
                        p.Money = 1'284'500;
                        int value = 0;
                        for (MonthBooks* books : {&p.ThisMonth, &p.LastMonth})
-                         for (Long* book :
+                         for (Cash* book :
                               {&books->TicketIncome, &books->MerchIncome, &books->PpvIncome,
                                &books->SponsorIncome, &books->WrestlerWages, &books->StaffWages,
                                &books->ProductionCost, &books->AdvertisingCost, &books->MerchCost})

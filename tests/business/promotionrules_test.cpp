@@ -40,7 +40,7 @@ using Lines = std::vector<std::string>;
 TEST(Standings, ReachFromTheRecordOverThePastToToday) {
   World world = SmallWorld().Promotion("CWA", kCult).Game("CWA", kTenthOfMay);
   EXPECT_EQ(Told(world), (Lines{"Apr 2026 Cult 50 = 350", "Today Cult 50 = 350"}));
-  world.Player().Rank = {Word(361), Word(290), Word(600), Word(0), Word(kNoEnd)};
+  std::ranges::copy(std::array{361, 290, 600, 0, kNoEnd}, world.Player().Rank.begin());
   EXPECT_EQ(Told(world),
             (Lines{"Jan 2026 Backyard 0 = 0", "Feb 2026 Global 100 = 600",
                    "Mar 2026 Regional 90 = 290", "Apr 2026 Cult 61 = 361", "Today Cult 50 = 350"}));

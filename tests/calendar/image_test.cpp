@@ -63,6 +63,7 @@ TEST(ChangeImage, StopsAtTheEndsOfTheWorld) {
 
 TEST(ChangeImage, TakesThePlayerDownAClass) {
   World world = TwoPromotions(kCult, 5).Game("CWA");
+  Named(world.Workers(), "CWA Away").OverFloor = 70;
   ScriptDraws(world, {{3, 2}, {5, 4}, {5, 3}, {5, 5}, {5, 1}});
   ChangeImage(world, world.Player(), 5, false);
   EXPECT_EQ(world.Player().Image, 90);
@@ -72,7 +73,7 @@ TEST(ChangeImage, TakesThePlayerDownAClass) {
   EXPECT_EQ(Named(world.Workers(), "CWA Top").Over, 84);
   EXPECT_EQ(Named(world.Workers(), "CWA Held").Over, 61) << "held by his floor";
   EXPECT_EQ(Named(world.Workers(), "CWA Low").Over, 0);
-  EXPECT_EQ(Named(world.Workers(), "CWA Away").Over, 39);
+  EXPECT_EQ(Named(world.Workers(), "CWA Away").Over, 40) << "under his floor already";
   EXPECT_EQ(Named(world.Workers(), "NEW Top").Over, 88);
   EXPECT_EQ(Named(world.AllStaff(), "CWA Boss").Employer, 0);
   EXPECT_NE(Named(world.AllStaff(), "NEW Boss").Employer, 0);

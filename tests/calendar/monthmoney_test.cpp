@@ -163,7 +163,7 @@ TEST(CloseMonthBooks, MovesTheBooksAndHoldsTheBalance) {
     Promotion& player = world.Player();
     player.Money = money;
     int value = 0;
-    for (Long* book : {&player.ThisMonth.TicketIncome, &player.ThisMonth.MerchIncome,
+    for (Cash* book : {&player.ThisMonth.TicketIncome, &player.ThisMonth.MerchIncome,
                        &player.ThisMonth.PpvIncome, &player.ThisMonth.SponsorIncome,
                        &player.ThisMonth.WrestlerWages, &player.ThisMonth.StaffWages,
                        &player.ThisMonth.ProductionCost, &player.ThisMonth.AdvertisingCost,
@@ -172,7 +172,7 @@ TEST(CloseMonthBooks, MovesTheBooksAndHoldsTheBalance) {
     CloseMonthBooks(world);
     EXPECT_EQ(player.Money, held);
     value = 0;
-    for (const Long* book : {&player.LastMonth.TicketIncome, &player.LastMonth.MerchIncome,
+    for (const Cash* book : {&player.LastMonth.TicketIncome, &player.LastMonth.MerchIncome,
                              &player.LastMonth.PpvIncome, &player.LastMonth.SponsorIncome,
                              &player.LastMonth.WrestlerWages, &player.LastMonth.StaffWages,
                              &player.LastMonth.ProductionCost, &player.LastMonth.AdvertisingCost,
@@ -214,7 +214,7 @@ TEST(CloseMonthBooks, LeavesAnEntryOfEveryPromotionThatLives) {
   world.Player().ThisMonth = {};
   int book = 1;
   MonthBooks& books = world.Player().ThisMonth;
-  for (Long* entry : {&books.TicketIncome, &books.MerchIncome, &books.PpvIncome,
+  for (Cash* entry : {&books.TicketIncome, &books.MerchIncome, &books.PpvIncome,
                       &books.SponsorIncome, &books.WrestlerWages, &books.StaffWages,
                       &books.ProductionCost, &books.AdvertisingCost, &books.MerchCost}) {
     *entry = book;

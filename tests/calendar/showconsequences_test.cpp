@@ -158,7 +158,7 @@ TEST(PlayerShowConsequences, CostMoneyAndImageWhenAnEventIsCalledOff) {
     PlayerShowConsequences(world, true);
     EXPECT_EQ(world.Player().Image, 35) << type;
     EXPECT_EQ(world.Player().Money, 5000000 - kCharges[type - 1]) << type;
-    for (const Long& book :
+    for (const Cash& book :
          {world.Player().ThisMonth.SponsorIncome, world.Player().ThisMonth.ProductionCost})
       EXPECT_EQ(book, 0) << "outside the books";
   }

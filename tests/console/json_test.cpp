@@ -28,6 +28,8 @@ TEST(JsonAnswer, SaysOfEachControlWhatItsKindHas) {
           "rows":[["Bram Okafor","88"],["3","40"],["Ilya Marsh","$1,284,500"]]})",
       R"({"name":"lstmany","kind":"ListBox","enabled":true,"visible":true,"selected":[],
           "rows":[["Red"],["Green"],["Blue"]]})",
+      R"({"name":"lstnone","kind":"ListBox","enabled":true,"visible":true,"selected":[],
+          "rows":[],"empty":"Nothing yet."})",
       R"({"name":"cmbkind","kind":"ComboBox","text":"Singles","enabled":true,"visible":true,
           "rows":[["Singles"],["Tag Team"]],"selected":[1]})",
       R"({"name":"chkday","kind":"CheckBox","text":"Every day","enabled":true,"visible":true,
@@ -46,7 +48,7 @@ TEST(JsonAnswer, SaysOfEachControlWhatItsKindHas) {
     const Json expected = Json::parse(text);
     EXPECT_EQ(ControlOf(answer, expected.at("name")), expected);
   }
-  EXPECT_EQ(answer.at("controls").size(), 23u);
+  EXPECT_EQ(answer.at("controls").size(), 24u);
 }
 
 TEST(JsonAnswer, KeepsTheOrderOfItsFields) {

@@ -18,7 +18,7 @@ World There() {
   return SmallWorld()
       .Promotion("NEW", kSmall)
       .Owner("Ola Brandt")
-      .Worker("Bo Stone", [](Worker& w) { w.Age = 300; })
+      .Worker("Bo Stone", [](Worker& w) { w.BirthMonth = 300; })
       .Worker("Cy Flint")
       .Team("Stone And Flint", "Bo Stone", "Cy Flint")
       .BuildUnchecked();
@@ -55,14 +55,14 @@ std::string Cell(ScriptDesk& desk, const char* list, int row, int column) {
 
 TEST(FrmEditMaintain, ReportsBeforeItMendsAndThenFindsNothing) {
   World damaged = Here();
-  damaged.Workers()[2].Age = 999;
+  damaged.Workers()[2].BirthMonth = 999;
   damaged.Workers()[3].Employer = 77;
   EditedHome home(damaged);
   home.Desk.Open("frmEditMaintain");
   EXPECT_EQ(home.Desk.Rows("lstfaults")[0],
-            (Texts{"wrestler.dat", "2", "CWA Hand 2", "Age", "is 999, outside 0 to 120"}));
+            (Texts{"wrestler.dat", "2", "CWA Hand 2", "BirthMonth", "is 999, outside 0 to 12"}));
   EXPECT_EQ(home.Desk.Rows("lstfaults").size(), 2u);
-  EXPECT_EQ(Cell(home.Desk, "lstdoings", 1, 5), "is 999, outside 0 to 120; made 120");
+  EXPECT_EQ(Cell(home.Desk, "lstdoings", 1, 5), "is 999, outside 0 to 12; made 12");
   EXPECT_TRUE(home.Desk.Rows("lstleft").empty());
 
   const std::string words = home.Desk.Text("lblfacts");
@@ -113,7 +113,7 @@ TEST(FrmEditMerge, PreviewsMergesAndKeepsTheNewFiles) {
             (Texts{"NEW Wrestling", "Bo Stone", "Cy Flint", "Ola Brandt", "Stone And Flint"}));
   EXPECT_EQ(home.Desk.Rows("lstrows")[1], (Texts{"Bo Stone", "Worker", "1", "1", "New uid", "4",
                                                  "Its uid belongs to CWA Hand 1."}));
-  EXPECT_EQ(Cell(home.Desk, "lstmended", 1, 5), "is 300, outside 0 to 120; made 120");
+  EXPECT_EQ(Cell(home.Desk, "lstmended", 1, 5), "is 300, outside 0 to 12; made 12");
   EXPECT_EQ(home.Desk.Text("lblfacts"), "5 records come in, 4 under another uid.");
   ExpectSame(home.Data(), Complete(Here()));
 
@@ -180,7 +180,7 @@ TEST(FrmEditMerge, TellsDamagedFilesAndDoesNotMind) {
 
 TEST(FrmEditMerge, SendsDataWithFaultsToTheCleanUpFirst) {
   World damaged = Here();
-  damaged.Workers()[2].Age = 999;
+  damaged.Workers()[2].BirthMonth = 999;
   EditedHome home(damaged);
   home.PutNew(There());
   home.Desk.Open("frmEditMerge");
@@ -305,7 +305,7 @@ TEST(FrmEditTables, ListsEveryMistakeAndReplacesNothing) {
 
 TEST(FrmEditTables, AsksBeforeItReplacesTablesAndTellsOfFaults) {
   World damaged = Here();
-  damaged.Workers()[2].Age = 999;
+  damaged.Workers()[2].BirthMonth = 999;
   EditedHome home(damaged);
   home.Desk.Open("frmEditTables");
   const char* told =

@@ -84,12 +84,12 @@ TEST(Import, ANameThatIsTakenStaysOutAndTheSameCannotComeTwice) {
 TEST(Import, AWorkerWhoIsOutOfRangeIsPutRight) {
   World world = Here();
   std::vector<Worker> foreign = Foreign();
-  foreign[0].Age = 999;
+  foreign[0].BirthMonth = 999;
   foreign[0].Disposition = "Q";
   foreign[0].LastTurn.SetRaw(1e300);
   const Arrivals arrivals = ImportWorkers(world, foreign, {1});
   EXPECT_EQ(Lines(arrivals.Mended),
-            (Texts{"wrestler.dat, record 4 (Mae Boss), Age: is 999, outside 0 to 120; made 120",
+            (Texts{"wrestler.dat, record 4 (Mae Boss), BirthMonth: is 999, outside 0 to 12; made 12",
                    "wrestler.dat, record 4 (Mae Boss), Disposition: is \"Q\", no known code; made "
                    "\"F\"",
                    "wrestler.dat, record 4 (Mae Boss), LastTurn: is no date of the calendar; made "
@@ -114,7 +114,7 @@ TEST(Import, StopsAtTheLimitInTheEditorsWords) {
 TEST(Import, NeedsDataInOrder) {
   World world = Complete(Here());
   EXPECT_EQ(WhyNoArrivals(world), "");
-  world.Workers()[1].Age = 500;
+  world.Workers()[1].BirthMonth = 500;
   EXPECT_EQ(WhyNoArrivals(world), "The data have 1 fault. Clean them up first.");
 }
 

@@ -21,7 +21,7 @@ World InOrder() {
 
 TEST(Maintenance, ReportsThenMendsAndFindsNothingTheSecondTime) {
   World world = InOrder();
-  world.Workers()[2].Age = 999;
+  world.Workers()[2].BirthMonth = 999;
   world.Workers()[3].Employer = 77;
   world.Teams()[1].Worker2 = 88;
   world.Titles()[1].Reigns[0].Won.SetRaw(-1e200);
@@ -37,7 +37,7 @@ TEST(Maintenance, ReportsThenMendsAndFindsNothingTheSecondTime) {
       Lines(plan.Faults),
       (Texts{"event.dat: is missing", "wrestler.dat: ends in 20 bytes that are no whole record",
              "belt.dat, record 1 (CWA Crown), Won1: is no date of the calendar",
-             "wrestler.dat, record 2 (CWA Hand 2), Age: is 999, outside 0 to 120",
+             "wrestler.dat, record 2 (CWA Hand 2), BirthMonth: is 999, outside 0 to 12",
              "teams.dat, record 1 (The Hands), Worker2: is 88, but there is no such worker",
              "wrestler.dat, record 3 (CWA Hand 3), Employer: is 77, but there is no such "
              "promotion"}));

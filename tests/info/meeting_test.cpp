@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "business/monthlymoney.h"
-#include "business/wagebill.h"
 #include "calendar/meetingday.h"
 #include "info/calmworld.h"
+#include "roster/wagebill.h"
 #include "show/attendance.h"
 
 namespace grapplemont::test {

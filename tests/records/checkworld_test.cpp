@@ -82,12 +82,13 @@ struct Broken {
   std::string Mended = {};
 };
 
+/// As a file may hold it, whatever the field itself would store.
 template <class T>
 void SetRaw(T& field, int value) {
-  const auto bits = static_cast<std::uint16_t>(value);
-  const std::uint8_t bytes[2] = {static_cast<std::uint8_t>(bits),
-                                 static_cast<std::uint8_t>(bits >> 8)};
-  std::memcpy(static_cast<void*>(&field), bytes, 2);
+  if constexpr (sizeof(T) == 2)
+    reinterpret_cast<Word&>(field) = value;
+  else
+    reinterpret_cast<Long&>(field) = value;
 }
 
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
@@ -100,12 +101,16 @@ const std::vector<Broken> kBroken = {
      "wrestler.dat, record 1 (Bram Okafor), Over: is -3, outside 0 to 100\n"
      "wrestler.dat, record 1 (Bram Okafor), OverFloor: is above the worker's Over",
      "", "wrestler.dat, record 1 (Bram Okafor), Over: is -3, outside 0 to 100; made 0"},
-    {[](World& w) { w.Workers()[2].ContractMonths = -2; },
+    {[](World& w) { SetRaw(w.Workers()[2].ContractMonths, -2); },
      "wrestler.dat, record 2 (Ilya Marsh), ContractMonths: is -2, outside 0 to 120", "made 0"},
-    {[](World& w) { w.Workers()[2].ContractMonths = 121; },
+    {[](World& w) { SetRaw(w.Workers()[2].ContractMonths, 121); },
      "wrestler.dat, record 2 (Ilya Marsh), ContractMonths: is 121, outside 0 to 120", "made 120"},
-    {[](World& w) { w.Workers()[2].Wage = -1; },
-     "wrestler.dat, record 2 (Ilya Marsh), Wage: is -1, outside 0 to 32767", "made 0"},
+    {[](World& w) { SetRaw(w.Workers()[2].Wage, -1); },
+     "wrestler.dat, record 2 (Ilya Marsh), Wage: is -1, outside 0 to 10000", "made 0"},
+    {[](World& w) { SetRaw(w.Promotions()[2].Money, 2147483647); },
+     "promos.dat, record 2 (NEW Wrestling), Money: is 2147483647, outside -1000000000 to "
+     "1000000000",
+     "made 1000000000"},
     {[](World& w) { SetRaw(w.Workers()[2].Speaks, 1); },
      "wrestler.dat, record 2 (Ilya Marsh), Speaks: is 1, neither 0 nor -1", "made -1"},
     {[](World& w) { w.Workers()[2].Position = 8; },
@@ -114,7 +119,7 @@ const std::vector<Broken> kBroken = {
      "staff.dat, record 2 (Vic Tolliver), Position: is 0, no known code", "made 2"},
     {[](World& w) { w.Promotions()[2].Size = 9; },
      "promos.dat, record 2 (NEW Wrestling), Size: is 9, no known code", "made 6"},
-    {[](World& w) { w.Promotions()[2].Rank[3] = 601; },
+    {[](World& w) { SetRaw(w.Promotions()[2].Rank[3], 601); },
      "promos.dat, record 2 (NEW Wrestling), Rank4: is 601, outside 0 to 600", "made 600"},
     {[](World& w) { w.Workers()[2].Status = "Sic"; },
      "wrestler.dat, record 2 (Ilya Marsh), Status: is \"Sic\", no known code", "made \"Nor\""},
@@ -406,15 +411,33 @@ TEST(MendWorld, TouchesTheDataSetAlone) {
   world.Game().EndCode = 77;
   world.Feuds().Rewrite({});
   world.News()[1].Date = "yesterday";
-  world.Workers()[2].Diva = true;  // what a game may carry, data may not
+  world.Workers()[2].OverFloor = 51;  // what a game may carry, data may not
   World expected = CopyOf(world);
-  expected.Workers()[2].Diva = false;
-  EXPECT_EQ("wrestler.dat, record 2 (Ilya Marsh), Diva: is set for a man; cleared\n",
-            Lines(MendWorld(world)));
+  expected.Workers()[2].OverFloor = 50;
+  EXPECT_EQ(
+      "wrestler.dat, record 2 (Ilya Marsh), OverFloor: is above the worker's Over; made the "
+      "same\n",
+      Lines(MendWorld(world)));
   ExpectSame(world, expected);
 }
 
 const std::vector<Broken> kBrokenGames = {
+    {[](World& w) { w.Workers()[3].Stable = "The Bunch"; },
+     "wrestler.dat, record 3 (Cal Drift), Stable: is \"The Bunch\", no stable of his promotion"},
+    {[](World& w) { w.Workers()[6].Split = "North"; },
+     "wrestler.dat, record 6 (Eli Fenn), Split: is \"North\", no part of his promotion's roster"},
+    {[](World& w) { w.Workers()[7].Manager = 4; },
+     "wrestler.dat, record 7 (Fay Loose), Manager: is no manager of the same promotion"},
+    {[](World& w) { w.Workers()[2].Diva = true; },
+     "wrestler.dat, record 2 (Ilya Marsh), Diva: is set for a man"},
+    {[](World& w) { w.Promotions()[2].DevBooker = 3; },
+     "promos.dat, record 2 (NEW Wrestling), DevBooker: works elsewhere"},
+    {[](World& w) { w.Titles()[1].Holder = 6; },
+     "belt.dat, record 1 (CWA Crown), Holder: does not work for the Title's promotion"},
+    {[](World& w) { w.Teams()[1].Worker2 = 0; },
+     "teams.dat, record 1 (Mud and Iron): lacks a partner"},
+    {[](World& w) { SetRaw(w.Workers()[1].StatusMonths, -9); },
+     "wrestler.dat, record 1 (Bram Okafor), StatusMonths: is -9, outside 0 to 120"},
     {[](World& w) { w.Workers()[2].Potential = 29; },
      "wrestler.dat, record 2 (Ilya Marsh), Potential: is under 30"},
     {[](World& w) { w.Workers()[2].BirthMonth = 0; },
@@ -497,23 +520,15 @@ TEST(CheckWorld, LetsAGameGoItsOwnWay) {
     void (*Happen)(World&);
   } rows[] = {
       {"somebody never retires", [](World& w) { w.Workers()[1].Age = 131; }},
-      {"an old status is counted down", [](World& w) { w.Workers()[1].StatusMonths = -9; }},
-      {"nobody's show is counted down",
+      {"an angle makes a manager of a wrestler", [](World& w) { w.Workers()[2].Manager = 3; }},
+      {"closed promotions leave Titles of one name behind",
        [](World& w) {
-         w.Shows()[1].Owner = 0;
-         w.Shows()[1].ContractWeeks = -40;
+         Title old = w.Titles()[3];
+         old.Owner = kNoEnd;
+         w.Titles().Append(old);
+         w.Titles().Append(old);
        }},
-      {"a champion, a stable mate and a part of the roster is stolen",
-       [](World& w) {
-         w.Workers()[1].Employer = 2;
-         w.Workers()[2].Employer = 2;
-       }},
-      {"a fired worker keeps his manager", [](World& w) { w.Workers()[7].Manager = 4; }},
-      {"an Owner comes along with a takeover", [](World& w) { w.AllStaff()[4].Employer = 1; }},
-      {"a trainer is fired", [](World& w) { w.AllStaff()[3].Employer = 0; }},
-      {"the Commissioner returns to the ring", [](World& w) { w.Workers()[5].Position = 1; }},
       {"Over falls below its floor", [](World& w) { w.Workers()[1].OverFloor = 90; }},
-      {"a team loses a partner for good", [](World& w) { w.Teams()[1].Worker2 = 0; }},
       {"the economy runs away", [](World& w) { w.Game().Economy = -700; }},
       {"an old sheet lies about",
        [](World& w) {

@@ -100,6 +100,23 @@ TEST(Percent, SaturatesWhatIsStoredAndReadsWhatIsThere) {
   EXPECT_EQ(0, percent);
 }
 
+TEST(Ranged, SaturatesWhatIsStoredAndReadsWhatIsThere) {
+  RangedWord<0, 120, true> months(119);
+  months += 30;
+  EXPECT_EQ(120, months);
+  months = 0;
+  --months;
+  EXPECT_EQ(kNoEnd, months) << "which it may be as well";
+  --months;
+  EXPECT_EQ(0, months);
+  EXPECT_EQ(-300, FromBytes<decltype(months)>("\xD4\xFE"s));
+  Cash money(kMostDollars);
+  money += 1LL << 40;
+  EXPECT_EQ(kMostDollars, money);
+  money -= 1LL << 50;
+  EXPECT_EQ(-kMostDollars, money);
+}
+
 TEST(Flag, WritesMinusOneAndReadsAnyBit) {
   EXPECT_EQ("\xFF\xFF"s, BytesOf(Flag(true)));
   EXPECT_EQ("\0\0"s, BytesOf(Flag(false)));

@@ -161,7 +161,7 @@ TEST(TextConversions, ContractLines) {
   } rows[] = {
       {false, "Wri", 12, 40, "Written contract for 12 months, at $40,000 per month"},
       {false, "Non", 6, 300, "Verbal agreement for 6 months, at $300,000 per month"},
-      {false, "Wri", 1, 0, "Written contract for 1 months, at $0 per month"},
+      {false, "Wri", 1, 0, "Written contract for 1 month, at $0 per month"},
       {false, "Non", 0, 0, "Verbal agreement for 0 months, at $0 per month"},
       {true, "Wri", -1, 55, "Unsackable, agreement for $55,000 per month"},
       {true, "Non", -1, 0, "Unsackable, agreement for $0 per month"},

@@ -405,9 +405,7 @@ TEST(Tables, OfARunningGameComeBack) {
       .Feud("Bram Okafor", "Lou Fay")
       .Mail("Maeve", "  Two blanks, a \"quote\" and \xE9.");
   World world = small;
-  Named(world.Workers(), "Bram Okafor").Age = 130;
-  Named(world.Workers(), "Lou Fay").Stable = "Long Gone";
-  Named(world.Shows(), "Friday Fire").ContractWeeks = -7;
+  Named(world.Workers(), "Bram Okafor").OverFloor = 100;
   Segment segment;
   segment.Worker[29] = 4711;
   world.Segments().Append(segment);

@@ -170,16 +170,16 @@ TEST(World, ExplainsAnOverflowByRecordAndField) {
     }
     return std::string("no overflow");
   };
-  EXPECT_EQ("wrestler.dat, record 3, Age: The value 40000 does not fit a field of 16 bits.",
-            explain([&] { world.Workers()[3].Age = 40000; }));
-  EXPECT_EQ("promos.dat, record 2, Money4: The value 9999999999 does not fit a field of 32 bits.",
-            explain([&] { world.Promotions()[2].MoneyBefore[3] = 9999999999LL; }));
+  EXPECT_EQ("wrestler.dat, record 3, Manager: The value 40000 does not fit a field of 16 bits.",
+            explain([&] { world.Workers()[3].Manager = 40000; }));
+  EXPECT_EQ("promos.dat, record 2, Sponsor4: The value 9999999999 does not fit a field of 16 bits.",
+            explain([&] { world.Promotions()[2].Sponsor[3] = 9999999999LL; }));
   EXPECT_EQ(
       "gameinfo.dat, record 1, Job2EndSize: The value -40000 does not fit a field of 16 bits.",
       explain([&] { world.Game().Jobs[1].EndSize = -40000; }));
   EXPECT_EQ("The value 70000 does not fit a field of 16 bits.", explain([] {
               Worker nowhere;
-              nowhere.Age = 70000;
+              nowhere.Manager = 70000;
             }));
 }
 

@@ -18,7 +18,7 @@ namespace {
 Promotion WithMoney(int money, std::array<int, 3> before, int wages) {
   Promotion promotion;
   promotion.Money = money;
-  for (Long& past : promotion.MoneyBefore) past = kNoEnd;
+  for (Cash& past : promotion.MoneyBefore) past = kNoEnd;
   for (std::size_t i = 0; i < before.size(); ++i) promotion.MoneyBefore[i] = before[i];
   promotion.LastMonth.WrestlerWages = wages - 100;
   promotion.LastMonth.StaffWages = 100;

@@ -419,7 +419,7 @@ TEST(RivalMail, ObeysItsOwnOptionAlone) {
 /// The player has been Global at five month ends, beside whoever else.
 World AloneAtTheTop() {
   World world = SmallWorld().Promotion("CWA", kGlobal).Promotion("XWF", kNational).Game("CWA");
-  for (Word& rank : world.Player().Rank) rank = 520;
+  for (auto& rank : world.Player().Rank) rank = 520;
   return world;
 }
 

@@ -55,7 +55,7 @@ TEST(frmRoster, ShowsThePlayersPeopleAndThePageOfTheChosen) {
   GameOnWorld play(Business());
   play.Desk.Open("frmRoster");
   EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({kBram, "Ilya Marsh", "Low Down"}));
-  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, $60,000 a month.");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, $50,000 a month.");
   EXPECT_TRUE(play.Desk.Text("txtpage").starts_with(kBram));
   play.Desk.Pick("lstwres", "Ilya Marsh");
   EXPECT_TRUE(play.Desk.Text("txtpage").starts_with("Ilya Marsh"));

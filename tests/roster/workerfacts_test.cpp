@@ -64,12 +64,13 @@ TEST(WorkerFacts, TellEveryFieldInWords) {
                               w.Behaviour = 100;
                             })
                     .Game("CWA");
-  EXPECT_EQ(Told(world, kBram, kBram),
-            Lines({"A man of 34, born in June, a lightweight.", "Known as Okafor for short.",
-                   "Heel. Over 66, charisma 71.", "Turned 2 weeks ago.",
-                   "A turn is being prepared.", "Looks like a superstar.", "Cannot do interviews.",
-                   "The fans will always remember: the Over never falls under 50.",
-                   "Has announced to retire soon."}));
+  EXPECT_EQ(
+      Told(world, kBram, kBram),
+      Lines({"A man of 34, born in June, a lightweight.", "Known as Okafor for short.",
+             "Heel. Over 66, charisma 71.", "Turned 2 weeks ago.", "A turn is being prepared.",
+             "Looks like a superstar.", "Cannot do interviews.",
+             "The fans will always remember: a fall of the promotion never takes Over under 50.",
+             "Has announced to retire soon."}));
   EXPECT_EQ(
       Told(world, kBram, "Contract"),
       Lines({"CWA Wrestling: Midcard.", "Written contract for 12 months, at $10,000 per month.",

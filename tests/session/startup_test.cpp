@@ -117,6 +117,18 @@ TEST(NewGameScreen, ShowsThePromotionPicked) {
   EXPECT_EQ(home.Desk.Text("lblowner"), "None");
 }
 
+TEST(NewGameScreen, SaysWhyNoGameCanBegin) {
+  World data = TwoPromotions();
+  for (Promotion& promotion : data.Promotions()) promotion.Name = kToBeDeleted;
+  HomeFolder home(std::move(data));
+  home.Desk.Open("frmNewGame");
+  EXPECT_FALSE(home.Desk.Enabled("cmdbegin"));
+  EXPECT_EQ(home.Desk.Text("lblfacts"),
+            "The default world has no promotion that can be played. Build it anew, or put back its "
+            "files.");
+  EXPECT_EQ(home.Desk.Top()->Find("cmdbegin")->Tip.Get(), home.Desk.Text("lblfacts"));
+}
+
 TEST(NewGameScreen, WantsAName) {
   HomeFolder home(TwoPromotions());
   home.Desk.Open("frmNewGame");
@@ -250,6 +262,30 @@ TEST(LoadGame, RemarksOnFilesThatAreNearlyFull) {
                       "a smaller database.");
   home.Desk.Click("cmdload1");
   EXPECT_EQ(home.Desk.TopName(), "frmMainScreen");
+}
+
+TEST(LoadGame, BringsNumbersBackIntoTheirRanges) {
+  HomeFolder home(TwoPromotions());
+  home.StartNewGame();
+  reinterpret_cast<Long&>(home.Play.World().Player().Money) = 2147483647;
+  reinterpret_cast<Word&>(home.Play.World().AllStaff()[1].Morale) = -5;
+  home.Play.Commit();
+  home.Play.CloseSlot();
+  home.Desk.CloseAll();
+  home.Desk.Open("frmLoadGame");
+  home.Desk.ExpectSay(
+      "Loading",
+      "Numbers that no game can go on with were brought back into their ranges:\npromos.dat, "
+      "record "
+      "1 (CWA Wrestling), Money: is 2147483647, outside -1000000000 to 1000000000; made "
+      "1000000000\nstaff.dat, record 1 (Ruth Vane), Morale: is -5, outside 0 to 100; made 0");
+  home.Desk.Click("cmdload1");
+  EXPECT_EQ(home.Desk.Text("lblmoney"), "$1,000,000,000");
+  home.Play.CloseSlot();
+  home.Desk.CloseAll();
+  home.Desk.Open("frmLoadGame");
+  home.Desk.Click("cmdload1");
+  EXPECT_EQ(home.Desk.TopName(), "frmMainScreen") << "the slot itself is mended";
 }
 
 TEST(LoadGame, RefusesAGameWhosePromotionIsGone) {

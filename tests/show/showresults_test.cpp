@@ -109,7 +109,7 @@ TEST(TvReport, CutsToTheSlotsAudienceAndComplainsBelowItsFloor) {
   for (const Case& c : kCases) {
     World world = OnAir(
                       [&](Network& network) {
-                        for (Word* audience : {&network.EarlyAudience, &network.PrimeAudience,
+                        for (Hundredths* audience : {&network.EarlyAudience, &network.PrimeAudience,
                                                &network.LateAudience, &network.GraveAudience})
                           *audience = 7;
                         (*c.Slot == 'E'   ? network.EarlyAudience

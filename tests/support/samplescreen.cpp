@@ -16,6 +16,7 @@ SampleScreen::SampleScreen(ui::Desk& desk, std::vector<std::string>& log)
   lstpeople.Add({"Ilya Marsh", ui::Cell(1284500, "$1,284,500")}, 13);
   lstmany.Multi = true;
   for (const char* row : {"Red", "Green", "Blue"}) lstmany.Add({row});
+  lstnone.EmptyText = "Nothing yet.";
   cmbkind.Add("Singles", 7);
   cmbkind.Add("Tag Team", 8);
   cmbkind.Select(1);

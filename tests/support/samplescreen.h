@@ -51,6 +51,7 @@ class SampleScreen : public ui::Screen {
                         Writes("lstpeople picked"),
                         Writes("lstpeople opened")};
   ui::ListBox lstmany{*this, "lstmany", {{}}, Writes("lstmany picked")};
+  ui::ListBox lstnone{*this, "lstnone", {{}}};
   ui::ComboBox cmbkind{*this, "cmbkind", Writes("cmbkind picked")};
   ui::CheckBox chkday{*this, "chkday", "Every day", false, Writes("chkday")};
   ui::OptionButton optface{*this, "optface", "Face", "side", true, Writes("optface")};

@@ -69,8 +69,8 @@ SmallWorld& SmallWorld::Promotion(std::string_view initials, int size,
   promotion.Image = 50;
   promotion.Risk = 30;
   promotion.MeetingDay = "Monday";
-  for (Word& rank : promotion.Rank) rank = kNoEnd;
-  for (Long& money : promotion.MoneyBefore) money = kNoEnd;
+  for (auto& rank : promotion.Rank) rank = kNoEnd;
+  for (Cash& money : promotion.MoneyBefore) money = kNoEnd;
   for (auto& split : promotion.Split) split = "None";
   promotion.CampName = "None";
   promotion.DevName = "None";

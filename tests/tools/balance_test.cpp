@@ -18,6 +18,14 @@ TEST_F(ToolBalance, PageIsWhatTheCommandPrintsOfTheBuiltWorld) {
   EXPECT_TRUE(page == ran.Out) << "Run: grapplemont-world balance data >docs/balance.md";
 }
 
+TEST(Balance, KnowsTheHouseShowsOfRivals) {
+  for (const auto& balance : tools::BalanceOf(DefaultWorld())) {
+    EXPECT_EQ(balance.AsPlayers.HouseShows, 0);
+    if (!(balance.Of->Initials == "ZWS")) continue;
+    EXPECT_EQ(balance.AsRival.HouseShows, (60'000 + 60'000 * 74 / 100) * 52LL / 12);
+  }
+}
+
 TEST(Balance, LetsNobodyStartInRuin) {
   for (const auto& balance : tools::BalanceOf(DefaultWorld())) {
     EXPECT_LE(balance.AsPlayers.CostsPerHundred(), 150) << balance.Of->Initials.Str();
@@ -115,6 +123,9 @@ TEST(Balance, AddsUpAnAverageMonth) {
   EXPECT_EQ(rival.Production, 600'000);
   EXPECT_GT(rival.Sponsors, player.Sponsors) << "the grand one signs with a rival";
   EXPECT_EQ(player.TvTickets, rival.TvTickets);
+  EXPECT_EQ(rival.EventTickets, 3850LL * 40) << "a large Event a month at its image";
+  EXPECT_EQ(rival.Events, 200'000);
+  EXPECT_EQ(rival.HouseShows, 0) << "three are no crew";
   EXPECT_EQ(player.Income(), player.TvTickets + player.EventTickets + player.PayPerView +
                                  player.Merchandise + player.Sponsors);
   ASSERT_EQ(card.size(), 2u);

@@ -1,4 +1,5 @@
 #include "booking/screens/bookingscreens.h"
+#include "records/counted.h"
 #include "storylines/screens/screentitles.h"
 
 namespace grapplemont {
@@ -44,7 +45,7 @@ class frmAltBelts : public ui::Screen {
       if (title.Holder == 0) ++vacant;
       rows.push_back(TitleRow(world(), title));
     }
-    lblfacts.Text = std::to_string(rows.size()) + " Titles, " + std::to_string(vacant) + " vacant";
+    lblfacts.Text = Counted(std::ssize(rows), "Title") + ", " + std::to_string(vacant) + " vacant";
     lsttitles.Fill(std::move(rows));
   }
 

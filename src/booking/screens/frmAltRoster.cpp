@@ -1,4 +1,5 @@
 #include "booking/screens/bookingscreens.h"
+#include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "storylines/managers.h"
@@ -65,7 +66,7 @@ class frmAltRoster : public ui::Screen {
                        ui::Cell(booked ? "Booked" : "", ui::Tone::Gold)},
                       worker->Uid});
     }
-    lblfacts.Text = std::to_string(rows.size()) + " workers, " + std::to_string(onCard) +
+    lblfacts.Text = Counted(std::ssize(rows), "worker") + ", " + std::to_string(onCard) +
                     " of them on the card";
     lstwres.Fill(std::move(rows));
   }

@@ -1,5 +1,6 @@
 #include "booking/debuts.h"
 #include "booking/screens/bookingscreens.h"
+#include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -47,11 +48,10 @@ class frmDebut : public ui::Screen {
       cells.push_back(StatusCell(*worker));
       rows.push_back({std::move(cells), worker->Uid});
     }
-    const auto count = rows.size();
+    const auto count = std::ssize(rows);
     lstwres.Fill(std::move(rows));
-    lblfacts.Text = count == 0   ? "Nobody waits for a debut."
-                    : count == 1 ? "1 worker waits for a debut."
-                                 : std::to_string(count) + " workers wait for a debut.";
+    lblfacts.Text = count == 0 ? "Nobody waits for a debut."
+                               : Counted(count, "worker waits", "workers wait") + " for a debut.";
   }
 
   void ShowWays() {

@@ -3,6 +3,7 @@
 #include "booking/screens/bookingscreens.h"
 #include "booking/sheet.h"
 #include "booking/sheetrow.h"
+#include "records/counted.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
 #include "storylines/screens/screenpeople.h"
@@ -224,7 +225,7 @@ void SheetScreen::cmdfill_Click() {
   if (fresh == 0)
     return desk().Say("Fill The Rest", "The roster has nothing to fill a row with." + missing);
   if (!desk().Ask("Fill The Rest",
-                  "Book " + std::to_string(fresh) + (fresh == 1 ? " segment" : " segments") +
+                  "Book " + Counted(fresh, "segment") +
                       " in the rows that are still empty? What you have booked stays." + missing))
     return;
   TakeCard(world(), card);

@@ -12,9 +12,9 @@ namespace {
 struct Spending {
   const char* Title;
   const char* Means;
-  Word Promotion::*Level;
+  RangedWord<0, 100> Promotion::*Level;
   int (*MonthlyCost)(int level);
-  Long MonthBooks::*Cost;
+  Cash MonthBooks::*Cost;
 };
 constexpr Spending kAdvertisingSide = {
     "Advertising",

@@ -1,6 +1,7 @@
 #include "business/networks.h"
 #include "business/screens/screentv.h"
 #include "business/screens/tvscreens.h"
+#include "records/counted.h"
 
 namespace grapplemont {
 
@@ -50,7 +51,7 @@ class frmTVContract : public ShowScreen {
     const Network* network = world().FindNetwork(show.Network);
     lblfacts.Text = show.Name + ", " + show.Day.Str() + ", " + std::string(SlotName(show.Slot)) +
                     ", on " + NetworkName(world(), show.Network) + ". " +
-                    std::to_string(show.ContractWeeks) + " weeks to run.";
+                    Counted(show.ContractWeeks, "week") + " to run.";
     txtwants.WriteLines(network ? WantsText(world(), show, *network) : "");
   }
 

@@ -8,6 +8,7 @@
 #include "business/tvadvice.h"
 #include "business/tvhistory.h"
 #include "business/tvshows.h"
+#include "records/counted.h"
 #include "records/modVar.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -121,7 +122,7 @@ class frmTelevision : public ui::Screen {
     txtname.Text = show ? show->Name.Str() : "No show";
     txttime.Text = show ? show->Day + ", " + std::string(SlotName(show->Slot)) : "";
     txtnetwork.Text = show ? NetworkName(world(), show->Network) : "";
-    txtcontract.Text = show ? std::to_string(show->ContractWeeks) + " weeks" : "";
+    txtcontract.Text = show ? Counted(show->ContractWeeks, "week") : "";
     txtlast.Text = show ? RatingCell(*show, show->Rating3).Text : "";
     txthighest.Text = show ? RatingCell(*show, show->Rating1).Text : "";
     txtlowest.Text = show ? RatingCell(*show, show->Rating2).Text : "";

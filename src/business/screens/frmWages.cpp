@@ -1,7 +1,7 @@
 #include "business/screens/officescreens.h"
-#include "business/wagebill.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "roster/wagebill.h"
 
 namespace grapplemont {
 

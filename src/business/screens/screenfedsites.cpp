@@ -2,6 +2,7 @@
 
 #include "business/development.h"
 #include "business/screens/fedscreens.h"
+#include "records/counted.h"
 #include "records/modVar.h"
 #include "records/world.h"
 #include "roster/postings.h"
@@ -196,11 +197,10 @@ void FedSite::cmdraise_Click() {
 }
 
 void FedSite::cmdclose_Click() {
-  const auto people = kind_.People(world()).size();
-  const std::string who = people == 0 ? "Nobody is there now."
-                          : people == 1
-                              ? "1 worker comes back to the roster."
-                              : std::to_string(people) + " workers come back to the roster.";
+  const auto people = std::ssize(kind_.People(world()));
+  const std::string who =
+      people == 0 ? "Nobody is there now."
+                  : Counted(people, "worker comes", "workers come") + " back to the roster.";
   if (!game_.Desk().Ask("Close " + kind_.Name(world().Player()) + "?", "Are you sure? " + who,
                         ui::Default::No))
     return;

@@ -1,6 +1,7 @@
 #include "business/screens/screenfedsplits.h"
 
 #include "business/splits.h"
+#include "records/counted.h"
 #include "records/world.h"
 #include "roster/postings.h"
 #include "storylines/screens/screenpeople.h"
@@ -113,10 +114,9 @@ void FedSplits::cmdsplit_Click() {
 void FedSplits::cmddissolve_Click() {
   const std::string name = Chosen();
   const int people = PeopleInSplit(game_.World(), name);
-  const std::string whoever = people == 0 ? "Nobody is in it."
-                              : people == 1
-                                  ? "1 person will be in no split."
-                                  : std::to_string(people) + " people will be in no split.";
+  const std::string whoever = people == 0
+                                  ? "Nobody is in it."
+                                  : Counted(people, "person", "people") + " will be in no split.";
   if (!game_.Desk().Ask("Dissolve " + name + "?", "Are you sure? " + whoever, ui::Default::No))
     return;
   DissolveSplit(game_.World(), lstsplits.Key());

@@ -2,6 +2,7 @@
 
 #include "calendar/incidents.h"
 #include "calendar/screens/calendarscreens.h"
+#include "records/counted.h"
 #include "records/modWresCheck.h"
 
 namespace grapplemont {
@@ -124,9 +125,8 @@ class frmIncident : public ui::Screen {
   ui::Array<ui::Button> cmdsuspend{
       "cmdsuspend", static_cast<int>(kSuspensions.size()), [this](const std::string& name, int i) {
         const int months = SuspensionAt(i);
-        return std::make_unique<ui::Button>(
-            *this, name, "Suspend " + std::to_string(months) + (months == 1 ? " Month" : " Months"),
-            [this, months] { cmdsuspend_Click(months); });
+        return std::make_unique<ui::Button>(*this, name, "Suspend " + Counted(months, "Month"),
+                                            [this, months] { cmdsuspend_Click(months); });
       }};
   ui::Button cmdignore{*this, "cmdignore", "Ignore", &frmIncident::cmdignore_Click};
   ui::Button cmdaccept{*this, "cmdaccept", "Accept", &frmIncident::cmdaccept_Click};

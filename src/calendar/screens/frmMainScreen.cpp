@@ -6,6 +6,7 @@
 #include "calendar/daykind.h"
 #include "calendar/meetingday.h"
 #include "calendar/screens/calendarscreens.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -156,7 +157,7 @@ class frmMainScreen : public ui::Screen {
   void ShowMail() {
     const int count = world().News().Count();
     imgmail.Enabled = HasNews(world());
-    imgmail.Text = count == 1 ? "1 mail" : std::to_string(count) + " mails";
+    imgmail.Text = Counted(count, "mail");
     const int fresh = FreshMails();
     CommandNamed("cmdnews").Badge = fresh == 0 ? std::string() : std::to_string(fresh);
     std::vector<ui::ListBox::Row> rows;

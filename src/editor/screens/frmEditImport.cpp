@@ -4,6 +4,7 @@
 #include "editor/screens/editorfilescreens.h"
 #include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
+#include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "records/worldreport.h"
 #include "storylines/screens/screenpeople.h"

@@ -2,6 +2,7 @@
 #include "editor/screens/editorfilescreens.h"
 #include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
+#include "records/counted.h"
 #include "records/worldreport.h"
 
 namespace grapplemont {

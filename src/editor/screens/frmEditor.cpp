@@ -6,6 +6,7 @@
 #include "editor/screens/screenediting.h"
 #include "editor/screens/screenpages.h"
 #include "editor/screens/screenrecords.h"
+#include "records/counted.h"
 
 namespace grapplemont {
 
@@ -102,7 +103,7 @@ class frmEditor : public ui::Screen {
                         "The default world, of which every new game is made. Games that have begun "
                         "keep what they have. ") +
                     (lstfaults.Count() == 0 ? "The data are in order."
-                                            : std::to_string(lstfaults.Count()) + " faults.");
+                                            : Counted(lstfaults.Count(), "fault") + ".");
   }
 
   void cmdrestore_Click() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/counted.h"
 #include "records/worldreport.h"
 
 namespace grapplemont {

@@ -3,6 +3,7 @@
 #include "info/rumours.h"
 #include "info/screens/infoscreens.h"
 #include "info/worldnews.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 
@@ -116,8 +117,7 @@ class frmInternet : public ui::Screen {
     if (show.Viewers > 0)
       text += (show.IsEvent ? "A buy rate of " : "A television rating of ") +
               RatingText(show.Viewers) + ". ";
-    return text + std::to_string(show.People) + (show.People == 1 ? " person" : " people") +
-           " in the hall.";
+    return text + Counted(show.People, "person", "people") + " in the hall.";
   }
 
   void ShowFans() {

@@ -2,6 +2,7 @@
 
 #include "info/mailbox.h"
 #include "info/screens/infoscreens.h"
+#include "records/counted.h"
 #include "records/modVar.h"
 #include "records/world.h"
 
@@ -74,7 +75,7 @@ class frmNews : public ui::Screen {
 
   void ShowCount() {
     const int all = world().News().Count();
-    lblfacts.Text = all == 1 ? "1 mail." : std::to_string(all) + " mails.";
+    lblfacts.Text = Counted(all, "mail") + ".";
     if (lstnews.Count() < all)
       lblfacts.Text = std::to_string(lstnews.Count()) + " of " + lblfacts.Text.Get();
     cmdempty.Enabled = HasNews(world());

@@ -3,6 +3,7 @@
 #include "calendar/meetingday.h"
 #include "info/meeting.h"
 #include "info/screens/infoscreens.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -64,10 +65,8 @@ class frmTalk : public ui::Screen {
     const auto urgent = std::count_if(advice_.begin(), advice_.end(), [](const Advice& advice) {
       return advice.How == Urgency::Now;
     });
-    const std::string points = std::to_string(advice_.size());
-    return LongDate(game_.World().Today()) + ": " + points +
-           (advice_.size() == 1 ? " point" : " points") + " on the table, " +
-           (urgent == 0 ? "none" : std::to_string(urgent)) + " of them urgent.";
+    return LongDate(game_.World().Today()) + ": " + Counted(std::ssize(advice_), "point") +
+           " on the table, " + (urgent == 0 ? "none" : std::to_string(urgent)) + " of them urgent.";
   }
 
   static ui::Tone ToneOf(Urgency urgency) {

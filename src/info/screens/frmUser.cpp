@@ -1,5 +1,6 @@
 #include "info/career.h"
 #include "info/screens/infoscreens.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -7,10 +8,6 @@
 namespace grapplemont {
 
 namespace {
-
-std::string Count(int number, const std::string& what) {
-  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
-}
 
 /// The player's career.
 class frmUser : public ui::Screen {
@@ -59,15 +56,15 @@ class frmUser : public ui::Screen {
   static std::vector<std::string> LinesOf(const JobRecord& record) {
     if (record.Shows + record.Events + record.CalledOff + record.Months == 0)
       return {"Nothing has been told of it yet."};
-    std::vector<std::string> lines = {Count(record.Shows, "television show") + " and " +
-                                      Count(record.Events, "Event") + " held, " +
+    std::vector<std::string> lines = {Counted(record.Shows, "television show") + " and " +
+                                      Counted(record.Events, "Event") + " held, " +
                                       std::to_string(record.CalledOff) + " called off."};
     if (!record.BestShow.empty()) {
       lines.push_back("Mean rating " + std::to_string(record.MeanRating) + "%.");
       lines.push_back("Best: " + record.BestShow + ", " + std::to_string(record.BestRating) + "%.");
     }
     if (record.Months > 0)
-      lines.push_back(Count(record.Months, "month") + " closed, " +
+      lines.push_back(Counted(record.Months, "month") + " closed, " +
                       (record.Profit < 0 ? "a loss of " : "a profit of ") +
                       Dollars(record.Profit < 0 ? -record.Profit : record.Profit) + " in all.");
     return lines;

@@ -1,3 +1,4 @@
+#include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "roster/screens/contractscreens.h"
 #include "roster/screens/screenstaff.h"
@@ -82,8 +83,7 @@ class frmOtherStaff : public StaffListScreen {
   void ShowActions(const Staff* chosen) override {
     EnableUnless(cmdcontract, WhyNot(chosen));
     const int count = lststaff.Count();
-    lblfacts.Text = std::to_string(count) + (count == 1 ? " person" : " people") +
-                    " behind the scenes elsewhere.";
+    lblfacts.Text = Counted(count, "person", "people") + " behind the scenes elsewhere.";
   }
 
  private:

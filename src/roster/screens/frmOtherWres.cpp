@@ -1,3 +1,4 @@
+#include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "roster/screens/rosterscreens.h"
 #include "roster/screens/screentalks.h"
@@ -36,10 +37,9 @@ class frmOtherWres : public WorkerListScreen {
   bool Belongs(const Worker& worker) const override { return !WorksForPlayer(world(), worker); }
 
   std::string Facts(int listed) const override {
-    const std::string all = std::to_string(listed);
-    return (lstwres.Count() < listed ? std::to_string(lstwres.Count()) + " of " + all : all) +
-           (listed == 1 ? " worker, " : " workers, ") +
-           std::to_string(Shortlisted(world()).size()) + " on your shortlist.";
+    const bool some = lstwres.Count() < listed;
+    return (some ? std::to_string(lstwres.Count()) + " of " : "") + Counted(listed, "worker") +
+           ", " + std::to_string(Shortlisted(world()).size()) + " on your shortlist.";
   }
 
   void ShowActions(const Worker* chosen) override {

@@ -1,9 +1,11 @@
+#include "records/counted.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/postings.h"
 #include "roster/screens/rosterscreens.h"
 #include "roster/screens/screentalks.h"
 #include "roster/screens/screenworkerlist.h"
+#include "roster/wagebill.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -53,11 +55,8 @@ class frmRoster : public WorkerListScreen {
   }
 
   std::string Facts(int listed) const override {
-    long long wages = 0;
-    for (const Worker& worker : world().Workers())
-      if (Belongs(worker)) wages += worker.Wage;
-    return std::to_string(listed) + (listed == 1 ? " worker, " : " workers, ") +
-           Dollars(1000 * wages) + " a month.";
+    return Counted(listed, "worker") + ", " +
+           Dollars(WagesOf(world(), world().PlayerUid()).Workers) + " a month.";
   }
 
   void ShowActions(const Worker* chosen) override {

@@ -5,6 +5,7 @@
 #include "roster/stafffiring.h"
 #include "roster/staffneeds.h"
 #include "roster/stafftalks.h"
+#include "roster/wagebill.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -42,18 +43,11 @@ class frmStaff : public StaffListScreen {
     const std::vector<PostCount> posts = PostCounts(world());
     lblposts.Text = PostLine(posts);
     lbladvice.Text = PostAdvice(posts);
-    lblfacts.Text =
-        std::to_string(lststaff.Count()) + " on the staff, " + Dollars(Wages()) + " a month.";
+    lblfacts.Text = std::to_string(lststaff.Count()) + " on the staff, " +
+                    Dollars(WagesOf(world(), world().PlayerUid()).Staff) + " a month.";
   }
 
  private:
-  long long Wages() {
-    long long wages = 0;
-    for (const Staff& staff : world().AllStaff())
-      if (Belongs(staff) && WhyNoStaffTalks(staff).empty()) wages += staff.Wage;
-    return 1000 * wages;
-  }
-
   void cmdcontract_Click() { Negotiate(); }
 
   void cmdfire_Click() {

@@ -11,6 +11,9 @@ namespace grapplemont {
 
 namespace {
 
+constexpr const char* kNoPromotion =
+    "The default world has no promotion that can be played. Build it anew, or put back its files.";
+
 std::string RoleSuffix(const Worker& worker) {
   if (worker.Position == kManager) return " (Manager)";
   if (worker.Position == kNonWrestler) return " (Non-Wrestler)";
@@ -66,8 +69,9 @@ class frmNewGame : public ui::Screen {
   void cmbPromo_Click() {
     const Promotion* promotion = world_.FindPromotion(cmbPromo.Key());
     cmdbegin.Enabled = promotion != nullptr;
+    cmdbegin.Tip = promotion ? "" : kNoPromotion;
     if (!promotion) {
-      lblfacts.Text = "The default world has no promotion. Build it anew, or put back its files.";
+      lblfacts.Text = kNoPromotion;
       return;
     }
     lblfacts.Text = "The game begins on " + LongDate(NextFirst(game_.PresentDay())) + ".";

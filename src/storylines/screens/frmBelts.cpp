@@ -1,3 +1,4 @@
+#include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "storylines/lineages.h"
@@ -87,9 +88,7 @@ class frmBelts : public ui::Screen {
       rows.push_back(TitleRow(world(), title));
       if (all) rows.back().Cells[kSince] = OwnerCell(title);
     }
-    const auto count = rows.size();
-    lblfacts.Text = std::to_string(count) + (count == 1 ? " Title, " : " Titles, ") +
-                    std::to_string(vacant) + " vacant";
+    lblfacts.Text = Counted(std::ssize(rows), "Title") + ", " + std::to_string(vacant) + " vacant";
     lsttitles.EmptyText =
         all ? "Nobody in the world has a Title." : "You have no Title yet. Name one and create it.";
     lsttitles.Fill(std::move(rows));

@@ -13,8 +13,8 @@ namespace {
 struct Counter {
   const char* Control;
   const char* Caption;
-  Word Feud::*One;
-  Word Feud::*Two;
+  Natural Feud::*One;
+  Natural Feud::*Two;
 };
 constexpr std::array<Counter, 4> kCounters = {{
     {"txtclean", "Clean wins", &Feud::Clean1, &Feud::Clean2},

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "records/counted.h"
 #include "records/dates.h"
 #include "storylines/lineages.h"
 #include "storylines/screens/storyscreens.h"
@@ -84,8 +85,7 @@ class frmReigns : public ui::Screen {
              static_cast<int>(totals.size()) + 1});
     }
     lblfacts.Text = cmbtitle.Count() == 0 ? "There is no Title in the world."
-                                          : std::to_string(totals.size()) +
-                                                (totals.size() == 1 ? " champion." : " champions.");
+                                          : Counted(std::ssize(totals), "champion") + ".";
     lstreigns.Fill(std::move(reigns));
     lsttotals.Fill(std::move(totals));
   }

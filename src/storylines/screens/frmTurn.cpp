@@ -1,3 +1,4 @@
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
 #include "storylines/screens/screenpeople.h"
@@ -70,18 +71,17 @@ class frmTurn : public ui::Screen {
     EnableUnless(cmdturn, worker ? "" : "Choose somebody first.");
     if (!worker) return txtturn.Write({{Style::Muted, "Choose somebody to read how he stands."}});
     const int days = DaysSinceTurn(world(), *worker);
-    txtturn.Write(
-        {{Style::Strong, worker->Name.Str()},
-         {Style::Line, std::string(DispositionText(worker->Disposition)) +
-                           (days < 0 ? ", has never turned."
-                                     : ", turned " + std::to_string(days) + " days ago.")},
-         {Style::Line, TurnAdvice(world(), *worker)},
-         {Style::Muted,
-          worker->TurnPending
-              ? "The turn is prepared. Book the match, interview or angle in which "
-                "it happens."
-              : "A turn that has not been prepared baffles the fans. Prepare it "
-                "here, then book the match, interview or angle in which it happens."}});
+    txtturn.Write({{Style::Strong, worker->Name.Str()},
+                   {Style::Line, std::string(DispositionText(worker->Disposition)) +
+                                     (days < 0 ? ", has never turned."
+                                               : ", turned " + Counted(days, "day") + " ago.")},
+                   {Style::Line, TurnAdvice(world(), *worker)},
+                   {Style::Muted,
+                    worker->TurnPending
+                        ? "The turn is prepared. Book the match, interview or angle in which "
+                          "it happens."
+                        : "A turn that has not been prepared baffles the fans. Prepare it "
+                          "here, then book the match, interview or angle in which it happens."}});
   }
 
   void cmdturn_Click() {

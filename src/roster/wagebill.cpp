@@ -1,4 +1,4 @@
-#include "business/wagebill.h"
+#include "roster/wagebill.h"
 
 namespace grapplemont {
 

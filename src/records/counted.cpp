@@ -1,0 +1,12 @@
+#include "records/counted.h"
+
+namespace grapplemont {
+
+std::string Counted(long long count, std::string_view one, std::string_view many) {
+  std::string text = std::to_string(count) + " ";
+  if (count == 1 || many.empty()) text += one;
+  if (count != 1) text += many.empty() ? "s" : many;
+  return text;
+}
+
+}  // namespace grapplemont

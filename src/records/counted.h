@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace grapplemont {
+
+/// "1 month", "12 months"; `many` is for words that do more than take an s.
+std::string Counted(long long count, std::string_view one, std::string_view many = {});
+
+}  // namespace grapplemont

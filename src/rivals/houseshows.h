@@ -1,0 +1,16 @@
+#pragma once
+
+#include <map>
+
+#include "records/world.h"
+
+// The house show that every rival holds in a week, out of sight.
+
+namespace grapplemont {
+
+/// How many wrestlers of each promotion are fit for one, by the promotion's uid.
+std::map<int, int> HouseShowCrews(const World& world);
+/// What a week's house show brings, in dollars; 0 where the crew is too small for one.
+int HouseShowIncome(const Promotion& rival, int crew);
+
+}  // namespace grapplemont
