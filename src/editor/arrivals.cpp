@@ -13,12 +13,12 @@ int Arrivals::Count(Fate fate) const {
 }
 
 void MendArrivals(World& world, Arrivals& arrivals) {
-  std::vector<Fault> mended = MendWorld(world);
-  std::move(mended.begin(), mended.end(), std::back_inserter(arrivals.Mended));
+  const FaultList mended = MendWorld(world);
+  arrivals.Mended.insert(arrivals.Mended.end(), mended.begin(), mended.end());
 }
 
 std::string WhyNoArrivals(const World& world) {
-  const std::size_t faults = FaultsOf(world).size();
+  const std::size_t faults = TellFaults(world);
   return faults == 0 ? "" : "The data have " + Counted(faults, "fault") + ". Clean them up first.";
 }
 

@@ -43,18 +43,23 @@ std::string WholeKey(const Fault& fault) {
 }  // namespace
 
 FaultCounts::FaultCounts(const World& world, By by) : by_(by) {
-  for (const Fault& fault : CheckWorld(world)) ++counts_[KeyOf(fault)];
+  CheckWorld(world, [this](Fault&& fault) { ++counts_[KeyOf(fault)]; });
 }
 
-std::string FaultCounts::KeyOf(const Fault& fault) const {
-  return by_ == By::Record ? WholeKey(fault) : fault.File + "#" + fault.Field + "#" + fault.What;
+std::size_t FaultCounts::KeyOf(const Fault& fault) const {
+  constexpr std::size_t kApart = 0x9E3779B97F4A7C15;
+  std::size_t key = by_ == By::Record ? static_cast<std::size_t>(fault.Record) : 0;
+  for (const std::string* part : {&fault.File, &fault.Field, &fault.What})
+    key = key * kApart + std::hash<std::string>{}(*part);
+  return key;
 }
 
 std::vector<Fault> FaultCounts::NewIn(const World& world) const {
   auto left = counts_;
   std::vector<Fault> fresh;
-  for (Fault& fault : CheckWorld(world))
+  CheckWorld(world, [&](Fault&& fault) {
     if (--left[KeyOf(fault)] < 0) fresh.push_back(std::move(fault));
+  });
   return fresh;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <map>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "records/checkworld.h"
@@ -22,9 +22,9 @@ class FaultCounts {
   std::vector<Fault> NewIn(const World& world) const;
 
  private:
-  std::string KeyOf(const Fault& fault) const;
+  std::size_t KeyOf(const Fault& fault) const;
   By by_;
-  std::map<std::string, int> counts_;
+  std::unordered_map<std::size_t, int> counts_;  // by hash: damaged data have a million faults
 };
 
 /// Whether it is a tie to something else that ends by itself: an office, a Title, a manager.

@@ -20,20 +20,6 @@ std::string LockOf(const std::string& folder) {
   return folder + ".lock";
 }
 
-/// How long a file of the data set may be.
-std::int64_t MaxBytesOf(const std::string& name) {
-  static const std::vector<KnownFile> known = KnownFiles();
-  const auto found =
-      std::find_if(known.begin(), known.end(), [&](auto& file) { return file.Name == name; });
-  return found == known.end() ? 0 : found->MaxBytes;
-}
-
-std::string WhyTooLong(std::string_view file, std::size_t bytes) {
-  return std::string(file) + " is " + std::to_string(bytes) +
-         " bytes long, more than its most of " + std::to_string(MaxBytesOf(std::string(file))) +
-         ".";
-}
-
 std::vector<NewFile> AsNewFiles(const std::map<std::string, Bytes>& files) {
   std::vector<NewFile> all;
   for (const auto& [name, contents] : files) all.push_back({name, contents});
@@ -88,23 +74,15 @@ void DataFolder::Read() {
   for (const std::string_view file : kDataSet) {
     const std::string name(file), path = folder_ + "/" + name;
     const Disk::Kind kind = disk_.Look(path);
-    if (kind == Disk::Kind::File)
-      files.emplace(name, ReadFile(disk_, path));
-    else if (kind != Disk::Kind::Nothing)
+    if (kind == Disk::Kind::Nothing) continue;
+    if (kind != Disk::Kind::File) {
       unreadable_.push_back({name, name + " is no plain file."});
-  }
-  Load(std::move(files));
-}
-
-void DataFolder::Load(std::map<std::string, Bytes> files) {
-  std::erase_if(unreadable_,
-                [&](const UnreadableFile& file) { return unread_.contains(file.File); });
-  unread_.clear();
-  for (const std::string_view file : kDataSet) {
-    const auto found = files.find(std::string(file));
-    if (found == files.end() || std::ssize(found->second) <= MaxBytesOf(found->first)) continue;
-    unreadable_.push_back({found->first, WhyTooLong(file, found->second.size())});
-    unread_.insert(files.extract(found));
+    } else if (auto bytes = ReadWithin(disk_, path, MostBytesOf(name))) {
+      files.emplace(name, *std::move(bytes));
+    } else {
+      unreadable_.push_back({name, name + " is longer than its most of " +
+                                       std::to_string(MostBytesOf(name)) + " bytes."});
+    }
   }
   world_.Load(files);
 }
@@ -115,7 +93,7 @@ bool DataFolder::IsReadable(std::string_view file) const {
 }
 
 std::map<std::string, Bytes> DataFolder::FilesNow() const {
-  std::map<std::string, Bytes> files = unread_;
+  std::map<std::string, Bytes> files;
   for (const Table* table : world_.Tables())
     if (table->CommittedExists()) files.emplace(table->File(), table->Committed());
   return files;
@@ -174,9 +152,8 @@ void DataFolder::Commit() {
 }
 
 bool DataFolder::Restore() {
-  for (const UnreadableFile& file : unreadable_)
-    if (!unread_.contains(file.File))
-      throw WorldFault(file.Why + " Move it away first; nothing was restored.");
+  if (!unreadable_.empty())
+    throw WorldFault(unreadable_.front().Why + " Move it away first; nothing was restored.");
   FinishSwap(disk_, BackupFolder());
   std::map<std::string, Bytes> files;
   for (auto& [name, bytes] : ReadWorldFiles(disk_, BackupFolder()))
@@ -184,7 +161,7 @@ bool DataFolder::Restore() {
   const auto before = FilesNow();
   const DataStep step = StepBetween(before, files);
   if (step.empty()) return false;
-  Take(step, [&] { Load(files); });
+  Take(step, [&] { world_.Load(files); });
   // Only now: were it to go first, a fault between the two would cost the backup itself.
   try {
     KeepBackup(before);

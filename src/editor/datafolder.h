@@ -59,9 +59,8 @@ class DataFolder {
   enum class Unfinished { Nothing, Drop, Apply };
 
   std::string BackupFolder() const { return folder_ + ".backup"; }
-  /// The files as they are on disk, those that cannot be read as bytes only.
+  /// The files as they are on disk, but for those that cannot be read.
   std::map<std::string, Bytes> FilesNow() const;
-  void Load(std::map<std::string, Bytes> files);
   void Read();
   void KeepBackup(const std::map<std::string, Bytes>& files);
   void FinishBusiness();
@@ -72,7 +71,6 @@ class DataFolder {
   std::string folder_;
   grapplemont::World world_;
   std::vector<UnreadableFile> unreadable_;
-  std::map<std::string, Bytes> unread_;  // what is in those that are plain files
   bool backedUp_ = false;
   Unfinished unfinished_ = Unfinished::Nothing;
 };

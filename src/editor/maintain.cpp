@@ -1,7 +1,6 @@
 #include "editor/maintain.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "editor/worldcopy.h"
 #include "records/worldreport.h"
@@ -16,26 +15,27 @@ bool Names(const std::vector<Fault>& faults, std::string_view file) {
 }
 
 /// The faults of the world; a file that cannot be read is none that is missing.
-std::vector<Fault> FaultsBeside(const World& world, const std::vector<Fault>& unreadable) {
-  std::vector<Fault> faults = FaultsOf(world);
-  std::erase_if(faults, [&](const Fault& fault) { return Names(unreadable, fault.File); });
-  faults.insert(faults.begin(), unreadable.begin(), unreadable.end());
+FaultList FaultsBeside(const World& world, const std::vector<Fault>& unreadable) {
+  FaultList faults;
+  for (const Fault& fault : unreadable) faults.Take(Fault(fault));
+  TellFaults(world, [&](Fault&& fault) {
+    if (!Names(unreadable, fault.File)) faults.Take(std::move(fault));
+  });
   return faults;
 }
 
 }  // namespace
 
-std::vector<Fault> Maintain(World& world, const std::vector<Fault>& unreadable) {
-  std::vector<Fault> doings;
+FaultList Maintain(World& world, const std::vector<Fault>& unreadable) {
+  FaultList doings;
   for (Table* table : world.Tables()) {
     const bool ofData =
         std::find(kDataSet.begin(), kDataSet.end(), table->File()) != kDataSet.end();
     if (!ofData || table->Exists() || Names(unreadable, table->File())) continue;
     table->Load({});
-    doings.push_back({std::string(table->File()), 0, {}, {}, "is missing; made without a record"});
+    doings.Take({std::string(table->File()), 0, {}, {}, "is missing; made without a record"});
   }
-  std::vector<Fault> mended = MendWorld(world);
-  std::move(mended.begin(), mended.end(), std::back_inserter(doings));
+  doings.Take(MendWorld(world));
   return doings;
 }
 

@@ -12,9 +12,9 @@ namespace grapplemont {
 
 /// What is wrong with the data, what a clean-up would do about it, and what it would leave.
 struct Maintenance {
-  std::vector<Fault> Faults;
-  std::vector<Fault> Doings;
-  std::vector<Fault> Left;
+  FaultList Faults;
+  FaultList Doings;
+  FaultList Left;
 };
 
 /// Looks at the data without a change. Files named in `unreadable` are there but cannot be taken
@@ -23,6 +23,6 @@ Maintenance PlanMaintenance(const World& world, const std::vector<Fault>& unread
 
 /// Puts the data in order: a file that is missing begins empty, and all is mended that a new game
 /// would mend in its copy. Gives what was done; nothing for data in order. Draws nothing.
-std::vector<Fault> Maintain(World& world, const std::vector<Fault>& unreadable = {});
+FaultList Maintain(World& world, const std::vector<Fault>& unreadable = {});
 
 }  // namespace grapplemont

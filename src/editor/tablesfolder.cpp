@@ -8,28 +8,6 @@ namespace grapplemont {
 
 namespace {
 
-bool IsOfWorld(const std::string& name) {
-  return name == kNotesTable || FindTableKind(name) != nullptr;
-}
-
-bool IsFolder(Disk& disk, const std::string& path) {
-  // Behind the "/." a link to a folder counts as the folder.
-  return disk.Look(path + "/.") == Disk::Kind::Folder;
-}
-
-/// A text for the screen; a question mark stands for what it cannot show.
-std::string ForScreen(std::string utf8) {
-  for (auto text = FromUtf8(utf8);; text = FromUtf8(utf8)) {
-    if (text) return *text;
-    const std::string letter = FirstForeignLetter(utf8);
-    if (letter == "?") break;  // no UTF-8
-    utf8.replace(utf8.find(letter), letter.size(), "?");
-  }
-  std::replace_if(
-      utf8.begin(), utf8.end(), [](char c) { return static_cast<unsigned char>(c) > 0x7E; }, '?');
-  return utf8;
-}
-
 int CountIn(const World& world, const RecordLayout& layout) {
   for (const Table* table : world.Tables())
     if (table->Layout() == &layout)
@@ -52,30 +30,6 @@ std::vector<RecordCount> CountsOf(const World& now, const World* then) {
   return counts;
 }
 
-TablesPlace LookForExport(Disk& disk, const std::string& folder) {
-  const std::string parent = ParentOf(folder);
-  if (!IsFolder(disk, parent))
-    return {"There is no folder " + ForScreen(parent) + " to put it in."};
-  if (disk.Look(folder) == Disk::Kind::Nothing) return {};
-  if (!IsFolder(disk, folder)) return {ForScreen(folder) + " is no folder."};
-  const std::vector<std::string> names = disk.List(folder);
-  for (const std::string& name : names)
-    if (!IsOfWorld(name))
-      return {ForScreen(folder) + " holds other things, such as " + ForScreen(name) +
-              ". Name a new folder."};
-  return {{}, !names.empty()};
-}
-
-void ExportTables(Disk& disk, const std::string& folder, const World& world) {
-  const bool isNew = disk.Look(folder) == Disk::Kind::Nothing;
-  try {
-    WriteTables(disk, folder, ExportWorld(world));
-  } catch (const DiskError&) {
-    if (isNew) RemoveTree(disk, folder);
-    throw;
-  }
-}
-
 TablesPreview LookAtTables(Disk& disk, const std::string& folder, const World& data) {
   TablesPreview preview;
   if (!IsFolder(disk, folder)) {
@@ -88,8 +42,8 @@ TablesPreview LookAtTables(Disk& disk, const std::string& folder, const World& d
     return preview;
   }
   Building building = BuildWorld(tables);
-  for (const Mistake& mistake : building.Mistakes)
-    preview.Mistakes.push_back(ForScreen(mistake.Text()));
+  for (const std::string& line : MistakeLines(building))
+    preview.Mistakes.push_back(ForScreen(line));
   if (!building.Made) {
     preview.WhyNot = NothingBuilt(building);
   } else if (building.Made->HasGame()) {

@@ -10,18 +10,6 @@
 
 namespace grapplemont {
 
-/// What stands at a place that is to take tables.
-struct TablesPlace {
-  std::string WhyNot;      // why no tables may go there; empty when they may
-  bool HasTables = false;  // tables of a world lie there, which would be replaced
-};
-/// A folder may be new, empty, or hold tables of a world and nothing else.
-TablesPlace LookForExport(Disk& disk, const std::string& folder);
-
-/// Writes the world as tables. Requires a place that may take them. Throws DiskError; a folder that
-/// was made for it is gone then.
-void ExportTables(Disk& disk, const std::string& folder, const World& world);
-
 /// How many records of a file there are, and how many there would be.
 struct RecordCount {
   std::string Table, File;
@@ -34,7 +22,7 @@ std::vector<RecordCount> CountsOf(const World& now, const World* then);
 /// Tables looked at before they take the place of the data.
 struct TablesPreview {
   std::string WhyNot;                 // the folder is none, or its tables are of no use here
-  std::vector<std::string> Mistakes;  // all that is wrong in them, a line each
+  std::vector<std::string> Mistakes;  // what is wrong in them, a line each
   std::optional<World> Made;          // when nothing is
   std::vector<RecordCount> Counts;
 };

@@ -147,9 +147,7 @@ std::string TakeText(const Field& field, int index, std::string_view cell, std::
     return "has the letter " + letter +
            ", which the game cannot hold: it knows those of Windows-1252";
   }
-  const auto isWrong = [&](char c) {
-    return ((c >= 0 && c < 32) || c == 127) && !(c == '\n' && field.MayBreak);
-  };
+  const auto isWrong = [&](char c) { return IsControl(c) && !(c == '\n' && field.MayBreak); };
   if (std::any_of(text->begin(), text->end(), isWrong))
     return "has a line break or another control character in it";
   if (text->size() > static_cast<std::size_t>(field.Width))
@@ -174,7 +172,7 @@ std::string NumberText(const Field& field, long long number) {
 
 }  // namespace
 
-std::string QuotedCell(std::string_view cell) {
+std::string ShortCell(std::string_view cell) {
   constexpr std::size_t kMost = 60;
   std::string shown(cell.substr(0, kMost));
   // Not in the middle of a letter.
@@ -185,7 +183,11 @@ std::string QuotedCell(std::string_view cell) {
   }
   std::replace_if(
       shown.begin(), shown.end(), [](char c) { return c >= 0 && c < 32; }, ' ');
-  return '"' + shown + '"';
+  return shown;
+}
+
+std::string QuotedCell(std::string_view cell) {
+  return '"' + ShortCell(cell) + '"';
 }
 
 std::string CellOf(const TableKind& kind, const Column& column, const std::byte* record) {

@@ -18,7 +18,9 @@ std::string CellOf(const TableKind& kind, const Column& column, const std::byte*
 std::string TakeCell(const TableKind& kind, const Column& column, std::string_view cell,
                      std::byte* record);
 
-/// `"Ovr"`, cut when it is long.
+/// The cell for a message: on one line, and cut when it is long.
+std::string ShortCell(std::string_view cell);
+/// The same in quotation marks.
 std::string QuotedCell(std::string_view cell);
 
 }  // namespace grapplemont

@@ -90,4 +90,31 @@ std::string FirstForeignLetter(std::string_view utf8) {
   return {};
 }
 
+std::string ForScreen(std::string_view bytes) {
+  std::string text;
+  while (!bytes.empty()) {
+    const Taken taken = TakeLetter(bytes);
+    const char letter = taken.Letter ? ByteOf(*taken.Letter).value_or('?') : bytes[0];
+    text += IsControl(letter) ? '?' : letter;
+    bytes.remove_prefix(taken.Length);
+  }
+  return text;
+}
+
+std::string ValidUtf8(std::string_view bytes) {
+  std::string text;
+  while (!bytes.empty()) {
+    const Taken taken = TakeLetter(bytes);
+    const std::string_view letter = bytes.substr(0, taken.Length);
+    text += taken.Letter ? std::string(letter) : ToUtf8(letter);
+    bytes.remove_prefix(taken.Length);
+  }
+  return text;
+}
+
+bool IsControl(char letter) {
+  constexpr std::string_view kOpen = "\x7F\x81\x8D\x8F\x90\x9D";
+  return static_cast<unsigned char>(letter) < 0x20 || kOpen.find(letter) != std::string_view::npos;
+}
+
 }  // namespace grapplemont

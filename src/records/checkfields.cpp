@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "records/charset.h"
 #include "records/checkrules.h"
 #include "records/dates.h"
 #include "records/severing.h"
@@ -72,12 +73,6 @@ void InspectDate(Inspection& inspection, const Place& place, const Field& field,
                           SetFieldDate(field, place.Record, index,
                                        static_cast<double>((none - kDayZero).count()));
                         }});
-}
-
-/// Control characters, and the five bytes that are no letter of Windows-1252.
-bool IsControl(char c) {
-  constexpr std::string_view kOpen = "\x7F\x81\x8D\x8F\x90\x9D";
-  return static_cast<unsigned char>(c) < 0x20 || kOpen.find(c) != std::string_view::npos;
 }
 
 void InspectText(Inspection& inspection, const Place& place, const Field& field, int index) {

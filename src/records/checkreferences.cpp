@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include "records/checkrules.h"
 
@@ -9,47 +10,51 @@ namespace grapplemont {
 
 namespace {
 
-/// What each kind of reference is called, and how one to nobody is found.
+/// What each kind of reference is called, and the uids that it may lead to.
 struct Target {
   Refers To;
   std::string_view What;
-  bool (*Exists)(const World& world, int uid);
+  std::vector<bool> Uids;
 };
-template <auto Find>
-bool Has(const World& world, int uid) {
-  return (world.*Find)(uid) != nullptr;
+using Targets = std::array<Target, 5>;
+
+// Marked once: the world's own search takes longest for who is not there.
+template <class T>
+std::vector<bool> UidsOf(const Records<T>& records) {
+  std::vector<bool> uids(32768);
+  for (const T& record : records)
+    if (const int uid = record.Uid; uid > 0) uids[static_cast<std::size_t>(uid)] = true;
+  return uids;
 }
-using FindsWorker = const Worker* (World::*)(int) const;
-using FindsPromotion = const Promotion* (World::*)(int) const;
-using FindsStaff = const Staff* (World::*)(int) const;
-using FindsNetwork = const Network* (World::*)(int) const;
-using FindsSponsor = const Sponsor* (World::*)(int) const;
-constexpr std::array<Target, 5> kTargets = {
-    {{Refers::Worker, "worker", Has<FindsWorker{&World::FindWorker}>},
-     {Refers::Promotion, "promotion", Has<FindsPromotion{&World::FindPromotion}>},
-     {Refers::Staff, "member of staff", Has<FindsStaff{&World::FindStaff}>},
-     {Refers::Network, "network", Has<FindsNetwork{&World::FindNetwork}>},
-     {Refers::Sponsor, "sponsor", Has<FindsSponsor{&World::FindSponsor}>}}};
+
+Targets TargetsIn(const World& world) {
+  return {{{Refers::Worker, "worker", UidsOf(world.Workers())},
+           {Refers::Promotion, "promotion", UidsOf(world.Promotions())},
+           {Refers::Staff, "member of staff", UidsOf(world.AllStaff())},
+           {Refers::Network, "network", UidsOf(world.Networks())},
+           {Refers::Sponsor, "sponsor", UidsOf(world.Sponsors())}}};
+}
 
 /// The sheet of the last show lies about until the next is booked.
 bool MayBeStale(const RecordLayout& layout) {
   return &layout == &LayoutOf<Segment>();
 }
 
-const Target* TargetOf(const Place& place, const Field& field) {
+const Target* TargetOf(const Targets& targets, const Place& place, const Field& field) {
   Refers to = field.To;
   if (to == Refers::Commentator)
     to = reinterpret_cast<const Show*>(place.Record)->ColourIsWorker ? Refers::Worker
                                                                      : Refers::Staff;
-  const auto found = std::find_if(kTargets.begin(), kTargets.end(),
+  const auto found = std::find_if(targets.begin(), targets.end(),
                                   [&](const Target& target) { return target.To == to; });
-  return found == kTargets.end() ? nullptr : &*found;
+  return found == targets.end() ? nullptr : &*found;
 }
 
-void InspectReference(Inspection& inspection, const Place& place, const Field& field, int index) {
-  const Target* target = TargetOf(place, field);
+void InspectReference(Inspection& inspection, const Targets& targets, const Place& place,
+                      const Field& field, int index) {
+  const Target* target = TargetOf(targets, place, field);
   const long long uid = target ? FieldNumber(field, place.Record, index) : 0;
-  if (uid <= 0 || target->Exists(inspection.Of(), static_cast<int>(uid))) return;
+  if (uid <= 0 || target->Uids[static_cast<std::size_t>(uid)]) return;
   const int none = field.MayBeNone ? kNoEnd : 0;
   inspection.NoteField(
       place, FieldName(field, index),
@@ -61,6 +66,7 @@ void InspectReference(Inspection& inspection, const Place& place, const Field& f
 }  // namespace
 
 void ReferencesLeadSomewhere(Inspection& inspection) {
+  const Targets targets = TargetsIn(inspection.Of());
   ForEachFile(inspection, [&]<class T>(Records<T>& records) {
     const RecordLayout& layout = LayoutOf<T>();
     for (const Field& field : layout.Fields) {
@@ -68,7 +74,7 @@ void ReferencesLeadSomewhere(Inspection& inspection) {
       for (T& record : records) {
         const Place place{layout, records.NumberOf(record), reinterpret_cast<std::byte*>(&record)};
         for (int index = 0; index < field.Count; ++index)
-          InspectReference(inspection, place, field, index);
+          InspectReference(inspection, targets, place, field, index);
       }
     }
   });

@@ -1,7 +1,5 @@
 #include "records/checkworld.h"
 
-#include <iterator>
-
 #include "records/checkrules.h"
 
 namespace grapplemont {
@@ -57,40 +55,58 @@ constexpr Rule kRules[] = {
 /// One remedy may bring to light what another rule minds; a handful of rounds settles all of them.
 constexpr int kMostRounds = 20;
 
-std::vector<Fault> Inspect(World& world, Inspection::Purpose purpose,
-                           const std::function<bool(const Fault&)>& wanted = {}) {
-  Inspection inspection(world, purpose, wanted);
+void Inspect(Inspection inspection) {
   for (const Rule& rule : kRules)
     if (rule.When == Held::Always || (rule.When == Held::InData) == inspection.AsData())
       rule.Look(inspection);
-  return std::move(inspection.Found());
+}
+
+/// Mends round by round until nothing is left to do.
+void Mend(World& world, const TakeFault& take, const WantFault& wanted = {}) {
+  bool done = false;
+  for (int round = 0; round < kMostRounds && !done; ++round) {
+    done = true;
+    Inspect({world, Inspection::Purpose::Mend,
+             [&](Fault&& fault) {
+               done = false;
+               take(std::move(fault));
+             },
+             wanted});
+  }
 }
 
 }  // namespace
 
-std::vector<Fault> CheckWorld(const World& world) {
+void CheckWorld(const World& world, const TakeFault& take) {
   // A check applies no remedy, so that the rules leave the world as it is.
-  return Inspect(const_cast<World&>(world), Inspection::Purpose::Check);
+  Inspect({const_cast<World&>(world), Inspection::Purpose::Check, take});
 }
 
-std::vector<Fault> MendWorld(World& world) {
-  return MendWorld(world, {});
+std::vector<Fault> CheckWorld(const World& world) {
+  std::vector<Fault> faults;
+  CheckWorld(world, [&](Fault&& fault) { faults.push_back(std::move(fault)); });
+  return faults;
 }
 
-std::vector<Fault> MendWorld(World& world, const std::function<bool(const Fault&)>& wanted) {
+FaultList MendWorld(World& world) {
+  FaultList mended;
+  Mend(world, [&](Fault&& fault) { mended.Take(std::move(fault)); });
+  return mended;
+}
+
+std::vector<Fault> MendWorld(World& world, const WantFault& wanted) {
   std::vector<Fault> mended;
-  for (int round = 0; round < kMostRounds; ++round) {
-    std::vector<Fault> now = Inspect(world, Inspection::Purpose::Mend, wanted);
-    if (now.empty()) break;
-    std::move(now.begin(), now.end(), std::back_inserter(mended));
-  }
+  Mend(
+      world, [&](Fault&& fault) { mended.push_back(std::move(fault)); }, wanted);
   return mended;
 }
 
 std::vector<Fault> MendNumbers(World& world) {
-  Inspection inspection(world, Inspection::Purpose::MendGame);
+  std::vector<Fault> mended;
+  Inspection inspection(world, Inspection::Purpose::MendGame,
+                        [&](Fault&& fault) { mended.push_back(std::move(fault)); });
   CountedNumbersLieInTheirRanges(inspection);
-  return std::move(inspection.Found());
+  return mended;
 }
 
 }  // namespace grapplemont

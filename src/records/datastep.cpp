@@ -117,22 +117,35 @@ std::optional<DataStep> Unpack(ByteSpan bytes) {
   return step;
 }
 
-/// A checksum of the file; nothing where there is none. `isFile` is false for what is no file.
-std::optional<std::uint64_t> SumAt(Disk& disk, const std::string& path, bool& isFile) {
+/// More than the step that changes every file.
+std::int64_t MostBytesOfStep() {
+  constexpr std::int64_t kAround = 1024;  // names, sizes, checksums
+  std::int64_t bytes = kAround;
+  for (const KnownFile& known : KnownFiles()) bytes += known.MaxBytes + kAround;
+  return bytes;
+}
+
+/// A checksum of the file; nothing where there is none. `isFile` is false for what no file of the
+/// data can be.
+std::optional<std::uint64_t> SumAt(Disk& disk, const std::string& folder, const std::string& name,
+                                   bool& isFile) {
+  const std::string path = folder + "/" + name;
   const Disk::Kind kind = disk.Look(path);
-  isFile = kind == Disk::Kind::Nothing || kind == Disk::Kind::File;
+  isFile = kind == Disk::Kind::Nothing;
   if (kind != Disk::Kind::File) return std::nullopt;
-  return SumOf(ReadFile(disk, path));
+  const auto bytes = ReadWithin(disk, path, MostBytesOf(name));
+  isFile = bytes.has_value();
+  return bytes ? std::optional(SumOf(*bytes)) : std::nullopt;
 }
 
 bool IsBefore(Disk& disk, const std::string& folder, const StepFile& file) {
   bool isFile = false;
-  return SumAt(disk, folder + "/" + file.Name, isFile) == file.Before && isFile;
+  return SumAt(disk, folder, file.Name, isFile) == file.Before && isFile;
 }
 
 bool IsBeforeOrAfter(Disk& disk, const std::string& folder, const StepFile& file) {
   bool isFile = false;
-  const auto sum = SumAt(disk, folder + "/" + file.Name, isFile);
+  const auto sum = SumAt(disk, folder, file.Name, isFile);
   const auto after = file.After ? std::optional(SumOf(*file.After)) : std::nullopt;
   return isFile && (sum == file.Before || sum == after);
 }
@@ -184,7 +197,8 @@ void DropStep(Disk& disk, const std::string& folder) {
 std::optional<DataStep> StandingStep(Disk& disk, const std::string& folder) {
   const std::string path = StepPath(folder);
   if (disk.Look(path) != Disk::Kind::File) return std::nullopt;
-  auto step = Unpack(ReadFile(disk, path));
+  const auto packed = ReadWithin(disk, path, MostBytesOfStep());
+  auto step = packed ? Unpack(*packed) : std::nullopt;
   const auto fits = [&](const StepFile& file) { return IsBeforeOrAfter(disk, folder, file); };
   if (!step || !std::all_of(step->begin(), step->end(), fits)) return std::nullopt;
   return step;

@@ -6,21 +6,8 @@
 
 namespace grapplemont {
 
-namespace {
-
-/// A path in the program's own letters.
-std::string Shown(std::string_view path) {
-  if (auto shown = FromUtf8(path)) return *std::move(shown);
-  std::string plain(path);
-  std::replace_if(
-      plain.begin(), plain.end(), [](char letter) { return letter < ' '; }, '?');
-  return plain;
-}
-
-}  // namespace
-
 DiskError::DiskError(std::string_view path, std::string_view action, std::string_view reason)
-    : std::runtime_error("Could not " + std::string(action) + " " + Shown(path) + ": " +
+    : std::runtime_error("Could not " + std::string(action) + " " + ForScreen(path) + ": " +
                          std::string(reason) + "."),
       path_(path) {}
 
@@ -28,17 +15,41 @@ DiskError::DiskError(const DiskError& fault, std::string_view consequence)
     : std::runtime_error(std::string(fault.what()) + " " + std::string(consequence)),
       path_(fault.path_) {}
 
+bool IsFolder(Disk& disk, const std::string& path) {
+  return disk.Look(path + "/.") == Disk::Kind::Folder;
+}
+
 std::string ParentOf(const std::string& path) {
   const auto slash = path.rfind('/');
   if (slash == std::string::npos) return ".";
   return slash == 0 ? "/" : path.substr(0, slash);
 }
 
-Bytes ReadFile(Disk& disk, const std::string& path) {
+Bytes ReadStart(Disk& disk, const std::string& path, std::int64_t most) {
   const OpenedFile file(disk, path, false);
-  Bytes bytes(static_cast<std::size_t>(disk.Size(file)));
+  Bytes bytes(static_cast<std::size_t>(std::min(disk.Size(file), most)));
   if (!bytes.empty()) disk.ReadAt(file, 0, bytes);
   return bytes;
+}
+
+std::optional<Bytes> ReadWithin(Disk& disk, const std::string& path, std::int64_t most) {
+  Bytes bytes = ReadStart(disk, path, most + 1);
+  if (std::ssize(bytes) > most) return std::nullopt;
+  return bytes;
+}
+
+void CopyFile(Disk& disk, const std::string& from, const std::string& to) {
+  constexpr std::int64_t kPiece = 1 << 20;
+  const OpenedFile source(disk, from, false), target(disk, to, true);
+  disk.Resize(target, 0);
+  const std::int64_t size = disk.Size(source);
+  Bytes piece;
+  for (std::int64_t at = 0; at < size; at += kPiece) {
+    piece.resize(static_cast<std::size_t>(std::min(kPiece, size - at)));
+    disk.ReadAt(source, at, piece);
+    disk.WriteAt(target, at, piece);
+  }
+  disk.Sync(target);
 }
 
 void WriteFile(Disk& disk, const std::string& path, ByteSpan bytes) {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -26,6 +27,9 @@ class DiskError : public std::runtime_error {
  private:
   std::string path_;
 };
+
+/// What is said in place of the system's own word for it.
+inline constexpr const char* kOutOfMemory = "There is not enough memory for this.";
 
 /// All file access of the program. Paths are relative to nothing but themselves; "/" parts folders.
 /// Every call throws DiskError when it fails, unless it says otherwise.
@@ -87,10 +91,17 @@ class OpenedFile {
   Disk::Handle handle_;
 };
 
+/// A folder, or a link to one.
+bool IsFolder(Disk& disk, const std::string& path);
 /// The folder that a path lies in; "." for a bare name.
 std::string ParentOf(const std::string& path);
-/// The whole file.
-Bytes ReadFile(Disk& disk, const std::string& path);
+/// The file's first bytes, `most` at most: nobody knows how long a file has become.
+Bytes ReadStart(Disk& disk, const std::string& path, std::int64_t most);
+/// The whole file; nothing when it is longer than `most` bytes.
+std::optional<Bytes> ReadWithin(Disk& disk, const std::string& path, std::int64_t most);
+/// Makes or replaces a file by another's contents, piece by piece; they are on disk when this
+/// returns, the name is not.
+void CopyFile(Disk& disk, const std::string& from, const std::string& to);
 /// Replaces or makes the file: written beside it (".tmp"), synced, renamed over it.
 void WriteFile(Disk& disk, const std::string& path, ByteSpan bytes);
 /// Removes a folder and all in it, or a file; nothing there is no error.

@@ -28,9 +28,10 @@ std::string Fault::Line() const {
   return line + ": " + What;
 }
 
-Inspection::Inspection(World& world, Purpose purpose, std::function<bool(const Fault&)> wanted)
+Inspection::Inspection(World& world, Purpose purpose, TakeFault take, WantFault wanted)
     : world_(world),
       purpose_(purpose),
+      take_(std::move(take)),
       wanted_(std::move(wanted)),
       asData_(purpose == Purpose::Mend || !world.HasGame()) {}
 
@@ -56,7 +57,7 @@ void Inspection::Take(Fault fault, const Remedy& remedy) {
     remedy.Do();
     fault.What += "; " + remedy.How;
   }
-  found_.push_back(std::move(fault));
+  take_(std::move(fault));
 }
 
 }  // namespace grapplemont

@@ -30,8 +30,9 @@ class Inspection {
  public:
   enum class Purpose { Check, Mend, MendGame };
 
-  /// Mend looks at any world as at default data. With `wanted`, no other fault is mended or told.
-  Inspection(World& world, Purpose purpose, std::function<bool(const Fault&)> wanted = {});
+  /// Mend looks at any world as at default data. `take` gets each fault. With `wanted`, no other is
+  /// mended or told.
+  Inspection(World& world, Purpose purpose, TakeFault take, WantFault wanted = {});
 
   World& Of() const { return world_; }
   /// Looked at as default data: the ten files of a data set, all in order for a game to begin. Else
@@ -50,16 +51,14 @@ class Inspection {
               std::move(what), remedy);
   }
 
-  std::vector<Fault>& Found() { return found_; }
-
  private:
   void Take(Fault fault, const Remedy& remedy);
 
   World& world_;
   Purpose purpose_;
-  std::function<bool(const Fault&)> wanted_;
+  TakeFault take_;
+  WantFault wanted_;
   bool asData_;
-  std::vector<Fault> found_;
 };
 
 /// Records that are to go; they stay where they are until Apply.

@@ -85,6 +85,9 @@ std::string_view Nearest(std::string_view name, const std::vector<std::string_vi
 }
 
 std::string DidYouMean(std::string_view name, const std::vector<std::string_view>& candidates) {
+  // Far longer than any name there is: the measure would take its time, and lead nowhere.
+  constexpr std::size_t kMostLetters = 200;
+  if (name.size() > kMostLetters) return {};
   const Candidate best = Find(name, candidates);
   if (best.Name.empty()) return {};
   const auto letters = static_cast<int>(std::max(name.size(), best.Name.size()));

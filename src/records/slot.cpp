@@ -95,7 +95,7 @@ void Slot::Insides::Open(Damage damage) {
     throw DiskError(Folder, "open", "it is no plain folder");
   LookOver();
   if (Disk.Look(Path(kWorldIdName)) == Disk::Kind::Nothing) return Adopt();
-  const auto id = UnpackWorldId(ReadFile(Disk, Path(kWorldIdName)));
+  const auto id = ReadWorldId(Disk, Folder);
   const Bytes journal = ReadJournal();
   const JournalChain chain = ReadChain(journal, id, Known, ~std::uint64_t{0}, Options.Quirks);
   if (!id || chain.Found == JournalChain::State::Damaged) {
@@ -286,9 +286,12 @@ std::optional<Bytes> Slot::Peek(Disk& disk, const std::string& folder,
   if (standing.empty()) return std::nullopt;
   std::optional<Bytes> file;
   const std::string path = standing + "/" + name;
-  if (disk.Look(path) == Disk::Kind::File) file = ReadFile(disk, path);
+  const auto is =
+      std::find_if(known.begin(), known.end(), [&](auto& one) { return one.Name == name; });
+  if (is != known.end() && disk.Look(path) == Disk::Kind::File)
+    file = ReadStart(disk, path, is->MaxBytes);
   if (disk.Look(standing + "/" + kWorldIdName) != Disk::Kind::File) return file;
-  const auto id = UnpackWorldId(ReadFile(disk, standing + "/" + kWorldIdName));
+  const auto id = ReadWorldId(disk, standing);
   const SlotOptions usual;
   JournalFile journal(disk, standing, usual.JournalBytes, usual.Quirks);
   const Bytes bytes = journal.Read(LongestJournal(known, usual.JournalBytes));

@@ -3,8 +3,10 @@
 #include <xxhash.h>
 
 #include <algorithm>
+#include <functional>
 
 #include "records/journalfile.h"
+#include "records/world.h"
 #include "records/worlddigest.h"
 
 namespace grapplemont {
@@ -32,12 +34,45 @@ void Append(Bytes& bytes, std::uint64_t number) {
     bytes.push_back(static_cast<std::byte>(number >> (8 * i)));
 }
 
-/// What has been replaced is nobody's business any more; what is left of it goes the next time.
-void ClearQuietly(Disk& disk, const std::string& path) {
+/// Removes a folder that was to take the place of `folder` or has given it up: the slot's files in
+/// it go, whatever else it holds moves to `folder`. What has no place there keeps the folder alive.
+void ClearAway(Disk& disk, const std::string& path, const std::string& folder) {
+  if (disk.Look(path) != Disk::Kind::Folder) return;
+  bool moved = false, keeps = false;
+  const bool takes = disk.Look(folder) == Disk::Kind::Folder;
+  std::vector<std::string> slotFiles;
+  for (const std::string& name : disk.List(path)) {
+    const std::string from = path + "/" + name, to = folder + "/" + name;
+    if (IsOfSlot(name) && disk.Look(from) == Disk::Kind::File) {
+      slotFiles.push_back(from);
+    } else if (takes && !IsOfSlot(name) && disk.Look(to) == Disk::Kind::Nothing) {
+      disk.Rename(from, to);
+      moved = true;
+    } else {
+      keeps = true;
+    }
+  }
+  if (moved) disk.SyncFolder(folder);
+  for (const std::string& file : slotFiles) disk.Remove(file);
+  if (!keeps) disk.Remove(path);
+}
+
+/// What fails here is done when the slot is opened the next time.
+void ClearQuietly(Disk& disk, const std::string& path, const std::string& folder) {
   try {
-    RemoveTree(disk, path);
+    ClearAway(disk, path, folder);
   } catch (const DiskError&) {
   }
+}
+
+/// Nothing that a slot could not be in goes with it.
+void RequirePlainFiles(Disk& disk, const std::string& folder) {
+  const Disk::Kind there = disk.Look(folder);
+  if (there == Disk::Kind::Nothing) return;
+  if (there != Disk::Kind::Folder) throw DiskError(folder, "replace", "it is no plain folder");
+  for (const std::string& name : disk.List(folder))
+    if (IsOfSlot(name) && disk.Look(folder + "/" + name) != Disk::Kind::File)
+      throw DiskError(folder + "/" + name, "replace", "it is no plain file");
 }
 
 void PutInPlace(Disk& disk, const std::string& folder, const JournalQuirks& quirks) {
@@ -49,7 +84,7 @@ void PutInPlace(Disk& disk, const std::string& folder, const JournalQuirks& quir
   }
   if (disk.Exchange(built, folder)) {
     if (!quirks.RemoveBeforeSwap) disk.SyncFolder(parent);
-    ClearQuietly(disk, built);
+    ClearQuietly(disk, built, folder);
     return;
   }
   // Two steps where the file system has no single one. FinishSwap knows the moment between them by
@@ -58,7 +93,24 @@ void PutInPlace(Disk& disk, const std::string& folder, const JournalQuirks& quir
   disk.SyncFolder(parent);
   disk.Rename(built, folder);
   disk.SyncFolder(parent);
-  ClearQuietly(disk, old);
+  ClearQuietly(disk, old, folder);
+}
+
+/// `fill` writes the files of the folder that is to take the place of `folder`.
+void Replace(Disk& disk, const std::string& folder, const JournalQuirks& quirks,
+             const std::function<void(const std::string& built)>& fill) {
+  RequirePlainFiles(disk, folder);
+  const std::string built = NewOf(folder);
+  try {
+    disk.MakeFolder(built);
+    fill(built);
+    disk.SyncFolder(built);
+    disk.SyncFolder(ParentOf(folder));
+  } catch (const DiskError&) {
+    ClearQuietly(disk, built, folder);
+    throw;
+  }
+  PutInPlace(disk, folder, quirks);
 }
 
 }  // namespace
@@ -101,14 +153,26 @@ std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes) {
   return NumberAt(bytes, 0);
 }
 
+std::optional<std::uint64_t> ReadWorldId(Disk& disk, const std::string& folder) {
+  const std::string path = folder + "/" + kWorldIdName;
+  if (disk.Look(path) != Disk::Kind::File) return std::nullopt;
+  return UnpackWorldId(ReadStart(disk, path, kSealedIdSize + 1));
+}
+
+bool IsOfSlot(std::string_view name) {
+  for (const std::string_view suffix : {"", kRoomSuffix, kBesideSuffix, ".tmp"}) {
+    if (!name.ends_with(suffix)) continue;
+    const std::string_view stem = name.substr(0, name.size() - suffix.size());
+    if (stem == kJournalName || stem == kWorldIdName || stem == kOtherJournalName ||
+        MostBytesOf(stem) > 0)
+      return true;
+  }
+  return false;
+}
+
 void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
                  std::uint64_t worldId, std::int64_t journalBytes, const JournalQuirks& quirks) {
-  const Disk::Kind there = disk.Look(folder);
-  if (there != Disk::Kind::Nothing && there != Disk::Kind::Folder)
-    throw DiskError(folder, "replace", "it is no plain folder");
-  const std::string built = NewOf(folder);
-  try {
-    disk.MakeFolder(built);
+  Replace(disk, folder, quirks, [&](const std::string& built) {
     WorldDigest digest;
     for (const NewFile& file : files) {
       WriteNewFile(disk, built + "/" + file.Name, file.Contents);
@@ -117,27 +181,13 @@ void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFil
     WriteNewFile(disk, built + "/" + kWorldIdName, PackWorldId(worldId));
     WriteJournal(disk, built + "/" + kJournalName, EmptyJournal({worldId, 0, digest.Value()}),
                  journalBytes);
-    disk.SyncFolder(built);
-    disk.SyncFolder(ParentOf(folder));
-  } catch (const DiskError&) {
-    ClearQuietly(disk, built);
-    throw;
-  }
-  PutInPlace(disk, folder, quirks);
+  });
 }
 
 void ReplaceFolder(Disk& disk, const std::string& folder, const std::vector<NewFile>& files) {
-  const std::string built = NewOf(folder);
-  try {
-    disk.MakeFolder(built);
+  Replace(disk, folder, {}, [&](const std::string& built) {
     for (const NewFile& file : files) WriteNewFile(disk, built + "/" + file.Name, file.Contents);
-    disk.SyncFolder(built);
-    disk.SyncFolder(ParentOf(folder));
-  } catch (const DiskError&) {
-    ClearQuietly(disk, built);
-    throw;
-  }
-  PutInPlace(disk, folder, {});
+  });
 }
 
 void FinishSwap(Disk& disk, const std::string& folder) {
@@ -149,8 +199,8 @@ void FinishSwap(Disk& disk, const std::string& folder) {
   if (hasOld && disk.Look(folder) == Disk::Kind::Nothing) disk.Rename(hasNew ? built : old, folder);
   // Before anything is cleared away, what stands in the slot's place has to stand there for good.
   disk.SyncFolder(parent);
-  RemoveTree(disk, built);
-  RemoveTree(disk, old);
+  ClearAway(disk, built, folder);
+  ClearAway(disk, old, folder);
   disk.SyncFolder(parent);
 }
 
@@ -172,7 +222,7 @@ void CopyBeside(Disk& disk, const std::string& folder, const std::string& copy) 
   disk.MakeFolder(built);
   for (const std::string& name : disk.List(folder))
     if (disk.Look(folder + "/" + name) == Disk::Kind::File)
-      WriteNewFile(disk, built + "/" + name, ReadFile(disk, folder + "/" + name));
+      CopyFile(disk, folder + "/" + name, built + "/" + name);
   disk.SyncFolder(built);
   disk.Rename(built, copy);
   disk.SyncFolder(ParentOf(folder));

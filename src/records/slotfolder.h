@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "records/slot.h"
@@ -39,16 +40,23 @@ void WriteJournal(Disk& disk, const std::string& path, ByteSpan bytes, std::int6
 Bytes PackWorldId(std::uint64_t id);
 std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes);
 
-/// Builds a whole slot beside `folder` and puts it in its place; what stood there is gone then.
-/// Requires the lock and FinishSwap.
+/// The id of the world in the folder; nothing where no file holds one.
+std::optional<std::uint64_t> ReadWorldId(Disk& disk, const std::string& folder);
+
+/// Whether a slot keeps a file of this name; whatever else lies in its folder is somebody's own.
+bool IsOfSlot(std::string_view name);
+
+/// Builds a whole slot beside `folder` and puts it in its place. The files of the slot that stood
+/// there are gone then; whatever else lay there lies in the new one. Throws DiskError where
+/// something but a plain file has the name of a slot's file. Requires the lock and FinishSwap.
 void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
                  std::uint64_t worldId, std::int64_t journalBytes, const JournalQuirks& quirks);
 
-/// The same for a folder that is no slot and holds these files alone.
+/// The same for a folder of record files that is no slot.
 void ReplaceFolder(Disk& disk, const std::string& folder, const std::vector<NewFile>& files);
 
-/// Brings a ReplaceSlot that was cut short to its end, or takes it back, and clears its leavings.
-/// Requires the lock.
+/// Brings a ReplaceSlot that was cut short to its end, or takes it back, and clears its leavings:
+/// what is no slot's among them goes to `folder`. Requires the lock.
 void FinishSwap(Disk& disk, const std::string& folder);
 
 /// Where the slot's files are at this moment, FinishSwap or not; "" when nowhere.

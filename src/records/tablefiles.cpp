@@ -1,51 +1,87 @@
+#include <algorithm>
+
+#include "records/charset.h"
 #include "records/worldtables.h"
 
 namespace grapplemont {
 
 namespace {
 
-// Far above the largest world: 25,000 workers with every column written out.
-constexpr std::int64_t kMostBytes = 64 << 20;
+// Far above the largest world: 25,000 workers with every column written out take some ten million
+// bytes, and all tables of a game of many years some thirty.
+constexpr std::int64_t kMostBytes = 32 << 20, kMostBytesInAll = 96 << 20;
 
-std::string ReadText(Disk& disk, const std::string& path) {
-  const Disk::Handle file = disk.Open(path, false);
-  std::int64_t size = 0;
-  try {
-    size = disk.Size(file);
-  } catch (...) {
-    disk.Close(file);
-    throw;
-  }
-  disk.Close(file);
-  if (size > kMostBytes) throw WorldFault(path + " is too long to be a table.");
-  const Bytes bytes = ReadFile(disk, path);
-  return std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+std::string ReadText(Disk& disk, const std::string& path, std::int64_t most) {
+  const auto bytes = ReadWithin(disk, path, most);
+  if (!bytes)
+    throw WorldFault(ForScreen(path) + " is too long to be a table: it may have " +
+                     std::to_string(kMostBytes >> 20) + " million letters, all tables together " +
+                     std::to_string(kMostBytesInAll >> 20) + " million. Nothing was read.");
+  return std::string(reinterpret_cast<const char*>(bytes->data()), bytes->size());
+}
+
+bool IsTableOfWorld(std::string_view name, bool ofGame) {
+  return FindTableKind(name) != nullptr || (ofGame && name == kNotesTable);
+}
+
+bool HoldsGame(Disk& disk, const std::string& folder) {
+  return disk.Look(folder + "/" + std::string(kGameTable)) == Disk::Kind::File;
 }
 
 }  // namespace
 
 Tables ReadTables(Disk& disk, const std::string& folder) {
   Tables tables;
+  std::int64_t left = kMostBytesInAll;
   for (const std::string& name : disk.List(folder)) {
     const std::string path = folder + "/" + name;
     // What an office program keeps beside an open table begins with a dot.
     if (name.starts_with('.') || disk.Look(path) != Disk::Kind::File) continue;
-    if (name.ends_with(".csv") || name == kNotesTable) tables.emplace(name, ReadText(disk, path));
+    if (IsTableOfWorld(name, true)) {
+      std::string& text = tables[name] = ReadText(disk, path, std::min(left, kMostBytes));
+      left -= std::ssize(text);
+    } else if (name.ends_with(".csv")) {
+      tables.emplace(name, "");
+    }
   }
   return tables;
 }
 
 void WriteTables(Disk& disk, const std::string& folder, const Tables& tables) {
   disk.MakeFolder(folder);
+  const bool heldGame = HoldsGame(disk, folder);
   for (const auto& [name, text] : tables)
     WriteFile(disk, folder + "/" + name, std::as_bytes(std::span(text)));
-  const auto removeStale = [&](std::string_view name) {
-    const std::string path = folder + "/" + std::string(name);
-    if (!tables.contains(std::string(name)) && disk.Look(path) == Disk::Kind::File)
-      disk.Remove(path);
-  };
-  for (const TableKind& kind : TableKinds()) removeStale(kind.Name);
-  removeStale(kNotesTable);
+  for (const std::string& name : disk.List(folder))
+    if (IsTableOfWorld(name, heldGame) && !tables.contains(name) &&
+        disk.Look(folder + "/" + name) == Disk::Kind::File)
+      disk.Remove(folder + "/" + name);
+}
+
+TablesPlace LookForExport(Disk& disk, const std::string& folder) {
+  const std::string parent = ParentOf(folder);
+  if (!IsFolder(disk, parent))
+    return {"There is no folder " + ForScreen(parent) + " to put it in.", {}};
+  if (disk.Look(folder) == Disk::Kind::Nothing) return {};
+  if (!IsFolder(disk, folder)) return {ForScreen(folder) + " is no folder.", {}};
+  const bool ofGame = HoldsGame(disk, folder);
+  TablesPlace place{{}, disk.List(folder)};
+  for (const std::string& name : place.Present)
+    if (!IsTableOfWorld(name, ofGame) || disk.Look(folder + "/" + name) != Disk::Kind::File)
+      return {ForScreen(folder) + " holds other things, such as " + ForScreen(name) +
+                  ". Name a new folder.",
+              {}};
+  return place;
+}
+
+void ExportTables(Disk& disk, const std::string& folder, const World& world) {
+  const bool isNew = disk.Look(folder) == Disk::Kind::Nothing;
+  try {
+    WriteTables(disk, folder, ExportWorld(world));
+  } catch (const DiskError&) {
+    if (isNew) RemoveTree(disk, folder);
+    throw;
+  }
 }
 
 }  // namespace grapplemont

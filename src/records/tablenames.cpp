@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 #include <optional>
 
 #include "records/charset.h"
@@ -47,7 +48,7 @@ Refers Resolved(const Field& field, const std::byte* record) {
 }
 
 std::optional<int> NumberOf(std::string_view cell) {
-  int number = 0;
+  std::int16_t number = 0;
   const auto [end, fault] = std::from_chars(cell.data() + 1, cell.data() + cell.size(), number);
   if (fault != std::errc() || end != cell.data() + cell.size()) return std::nullopt;
   return number;
@@ -101,28 +102,33 @@ std::string TableNames::CellOf(const Column& column, const std::byte* record) co
   return byName ? name->second : kNumberMark + std::to_string(uid);
 }
 
-std::string TableNames::Take(const Column& column, std::string_view cell, std::byte* record,
-                             bool mayBeGone) const {
+bool TableNames::Take(const Column& column, std::string_view cell, std::byte* record,
+                      bool mayBeGone) const {
   const Field& field = *column.Of;
   cell = detail::Trimmed(cell);
   const auto put = [&](int uid) {
     SetFieldNumber(field, record, column.Index, uid);
-    return std::string();
+    return true;
   };
   if (cell.empty()) return put(0);
   if (field.MayBeNone && cell == kNone) return put(kNoEnd);
   const Index& index = IndexOf(field, record);
   if (cell.front() == kNumberMark) {
     const auto uid = NumberOf(cell);
-    if (!uid || *uid < -32768 || *uid > 32767)
-      return QuotedCell(cell) + " is no record's number; one is written like #17";
-    if (mayBeGone || index.Names.contains(*uid)) return put(*uid);
-    return "there is no " + std::string(TargetOf(Resolved(field, record)).What) +
-           " of the number " + std::to_string(*uid);
+    return uid && (mayBeGone || index.Names.contains(*uid)) && put(*uid);
   }
   const auto found = index.Uids.find(std::string(cell));
-  if (found == index.Uids.end()) return NobodyOf(field, cell, record);
-  return put(found->second);
+  return found != index.Uids.end() && put(found->second);
+}
+
+std::string TableNames::WhyNot(const Column& column, std::string_view cell,
+                               const std::byte* record) const {
+  cell = detail::Trimmed(cell);
+  if (cell.front() != kNumberMark) return NobodyOf(*column.Of, cell, record);
+  const auto uid = NumberOf(cell);
+  if (!uid) return QuotedCell(cell) + " is no record's number; one is written like #17";
+  return "there is no " + std::string(TargetOf(Resolved(*column.Of, record)).What) +
+         " of the number " + std::to_string(*uid);
 }
 
 std::string TableNames::NobodyOf(const Field& field, std::string_view cell,
@@ -130,7 +136,7 @@ std::string TableNames::NobodyOf(const Field& field, std::string_view cell,
   const Refers to = Resolved(field, record);
   const Target& target = TargetOf(to);
   std::string what = "no " + std::string(target.What) + " has the " + std::string(target.Called) +
-                     " " + std::string(cell);
+                     " " + ShortCell(cell);
   if (field.To == Refers::Commentator) {
     const Refers other = to == Refers::Worker ? Refers::Staff : Refers::Worker;
     if (indices_.at(other).Uids.contains(std::string(cell)))

@@ -24,10 +24,11 @@ class TableNames {
 
   /// The cell from which Take makes the same number again.
   std::string CellOf(const Column& column, const std::byte* record) const;
-  /// Puts the number that the cell leads to into the record; nobody for an empty one. Gives what is
-  /// wrong with it, or nothing. `mayBeGone`: a number may lead to nobody.
-  std::string Take(const Column& column, std::string_view cell, std::byte* record,
-                   bool mayBeGone) const;
+  /// Puts the number that the cell leads to into the record; nobody for an empty one. False for a
+  /// cell that leads nowhere. `mayBeGone`: a number may lead to nobody.
+  bool Take(const Column& column, std::string_view cell, std::byte* record, bool mayBeGone) const;
+  /// What is wrong with a cell that leads nowhere; takes its time over the nearest name.
+  std::string WhyNot(const Column& column, std::string_view cell, const std::byte* record) const;
 
  private:
   struct Index {

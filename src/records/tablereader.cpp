@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "records/charset.h"
 #include "records/nearest.h"
 #include "records/tablenames.h"
 
@@ -29,10 +30,12 @@ class TableReader {
   }
 
   ReadTable Read(std::string_view text) {
-    const CsvTable csv = ReadCsv(text);
-    if (!csv.Rows.empty() && TakeHeader(csv.Rows.front())) TakeRows(csv);
-    if (csv.FaultLine != 0) NoteLoss(csv.FaultLine, {}, csv.Fault);
-    if (csv.Rows.empty() && csv.FaultLine == 0)
+    CsvReader csv(text);
+    CsvRow row;
+    const bool hasHeader = csv.Next(row);
+    if (hasHeader && TakeHeader(row)) TakeRows(csv, row);
+    if (csv.FaultLine() != 0) NoteLoss(csv.FaultLine(), {}, csv.Fault());
+    if (!hasHeader && csv.FaultLine() == 0)
       NoteLoss(1, {}, "is missing; the first line of a table names its columns");
     NumberRecords();
     FindDoubles();
@@ -40,14 +43,14 @@ class TableReader {
   }
 
  private:
-  void Note(int line, std::string column, std::string what) {
-    table_.Mistakes.push_back({std::string(kind_.Name), line, std::move(column), std::move(what)});
+  void Note(int line, std::string_view column, std::string_view what) {
+    table_.Mistakes.Note(kind_.Name, line, column, what);
   }
 
   /// A mistake for which some record or its name is not there.
-  void NoteLoss(int line, std::string column, std::string what) {
+  void NoteLoss(int line, std::string_view column, std::string_view what) {
     table_.NamesAll = false;
-    Note(line, std::move(column), std::move(what));
+    Note(line, column, what);
   }
 
   const Column* Find(std::string_view name) const {
@@ -84,13 +87,13 @@ class TableReader {
   void NoteUnknown(int line, const std::string& name) {
     std::vector<std::string> names;
     for (const Column& column : all_) names.push_back(column.Name());
-    Note(line, name, "there is no such column" + DidYouMean(name, {names.begin(), names.end()}));
+    Note(line, ShortCell(name),
+         "there is no such column" + DidYouMean(name, {names.begin(), names.end()}));
   }
 
-  void TakeRows(const CsvTable& csv) {
+  void TakeRows(CsvReader& csv, CsvRow& row) {
     const auto limit = static_cast<std::size_t>(kind_.Layout->Limit);
-    for (std::size_t i = 1; i < csv.Rows.size(); ++i) {
-      const CsvRow& row = csv.Rows[i];
+    while (csv.Next(row)) {
       if (row.IsBlank()) continue;
       if (table_.Count() == limit) {
         NoteLoss(row.Line, {},
@@ -109,6 +112,8 @@ class TableReader {
 
   void TakeRow(const CsvRow& row) {
     if (row.Cells.size() != columns_.size()) {
+      // A table of nothing else may have millions of them.
+      if (table_.Mistakes.IsFull()) return NoteLoss(row.Line, {}, {});
       NoteLoss(row.Line, {},
                "has " + std::to_string(row.Cells.size()) + " cells where the header has " +
                    std::to_string(columns_.size()));
@@ -180,6 +185,12 @@ std::string Mistake::Text() const {
   if (Line != 0) text += ", line " + std::to_string(Line);
   if (!Column.empty()) text += ", column " + Column;
   return text + ": " + What;
+}
+
+void TableMistakes::Note(std::string_view table, int line, std::string_view column,
+                         std::string_view what) {
+  if (!IsFull()) First.push_back({ValidUtf8(table), line, ValidUtf8(column), ValidUtf8(what)});
+  ++Count;
 }
 
 ReadTable ReadTableOf(const TableKind& kind, std::string_view text) {

@@ -20,6 +20,17 @@ struct Mistake {
   std::string Text() const;
 };
 
+/// The mistakes of a table: a damaged one has any number, and nobody reads them all.
+struct TableMistakes {
+  std::vector<Mistake> First;
+  std::size_t Count = 0;
+
+  bool IsFull() const { return Count >= 200; }
+  /// Keeps one, its texts made UTF-8 whatever the table holds; of those beyond the first it keeps
+  /// the count.
+  void Note(std::string_view table, int line, std::string_view column, std::string_view what);
+};
+
 /// A cell that leads to another record, kept until all records are known.
 struct WaitingCell {
   Column Place;
@@ -33,15 +44,15 @@ struct ReadTable {
   Bytes Records;
   std::vector<int> Lines;
   std::vector<WaitingCell> Waiting;
-  std::vector<Mistake> Mistakes;
+  TableMistakes Mistakes;
   bool NamesAll = true;  // no record is left out and no name is in doubt
 
   std::size_t Count() const { return Lines.size(); }
   std::byte* Record(std::size_t row) {
     return Records.data() + row * static_cast<std::size_t>(Kind->Layout->Size);
   }
-  void Note(std::size_t row, std::string column, std::string what) {
-    Mistakes.push_back({std::string(Kind->Name), Lines[row], std::move(column), std::move(what)});
+  void Note(std::size_t row, std::string_view column, std::string_view what) {
+    Mistakes.Note(Kind->Name, Lines[row], column, what);
   }
 };
 

@@ -200,6 +200,8 @@ inline constexpr std::array<std::string_view, 10> kDataSet = {
 
 /// The files a folder may hold and how long each may be.
 std::vector<KnownFile> KnownFiles();
+/// The same for one of them; 0 for any other name.
+std::int64_t MostBytesOf(std::string_view file);
 /// Reads the known files of a folder; others are left alone. A step that stands beside it counts
 /// (datastep.h). Throws DiskError, and WorldFault for a file that is too long or is none (a folder,
 /// a link).

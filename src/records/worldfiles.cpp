@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <cstring>
 
+#include "records/charset.h"
 #include "records/datastep.h"
 #include "records/world.h"
 
@@ -13,6 +15,13 @@ std::vector<KnownFile> KnownFiles() {
   return known;
 }
 
+std::int64_t MostBytesOf(std::string_view file) {
+  static const std::vector<KnownFile> known = KnownFiles();
+  const auto found =
+      std::find_if(known.begin(), known.end(), [&](auto& one) { return one.Name == file; });
+  return found == known.end() ? 0 : found->MaxBytes;
+}
+
 std::map<std::string, Bytes> ReadWorldFiles(Disk& disk, const std::string& folder) {
   std::map<std::string, Bytes> files;
   for (const KnownFile& known : KnownFiles()) {
@@ -20,13 +29,12 @@ std::map<std::string, Bytes> ReadWorldFiles(Disk& disk, const std::string& folde
     const Disk::Kind kind = disk.Look(path);
     if (kind == Disk::Kind::Nothing) continue;
     if (kind != Disk::Kind::File)
-      throw WorldFault(path + " is no plain file. Put the real file in its place.");
-    Bytes bytes = ReadFile(disk, path);
-    if (static_cast<std::int64_t>(bytes.size()) > known.MaxBytes)
-      throw WorldFault(path + " is " + std::to_string(bytes.size()) +
-                       " bytes long, more than its most of " + std::to_string(known.MaxBytes) +
-                       ". Put back a file of this game.");
-    files.emplace(known.Name, std::move(bytes));
+      throw WorldFault(ForScreen(path) + " is no plain file. Put the real file in its place.");
+    auto bytes = ReadWithin(disk, path, known.MaxBytes);
+    if (!bytes)
+      throw WorldFault(ForScreen(path) + " is longer than its most of " +
+                       std::to_string(known.MaxBytes) + " bytes. Put back a file of this game.");
+    files.emplace(known.Name, *std::move(bytes));
   }
   if (const auto step = StandingStep(disk, folder)) ApplyTo(files, *step);
   return files;

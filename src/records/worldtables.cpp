@@ -12,8 +12,8 @@ namespace grapplemont {
 
 namespace {
 
-// The search for nearest names would take its time over a table that is wrong on every line.
-constexpr std::size_t kMostMistakes = 200;
+// Of all tables together.
+constexpr std::size_t kMostMistakes = 500;
 
 bool IsTable(std::string_view name) {
   return name == kNotesTable || FindTableKind(name) != nullptr;
@@ -41,7 +41,7 @@ class Builder {
     for (const TableKind& kind : TableKinds()) names.push_back(kind.Name);
     for (const auto& [name, text] : tables_)
       if (!IsTable(name) && name.ends_with(".csv"))
-        general_.push_back({name, 0, {}, "is no table of a world" + DidYouMean(name, names)});
+        general_.Note(name, 0, {}, "is no table of a world" + DidYouMean(name, names));
   }
 
   /// False when some record is not known by its name.
@@ -53,10 +53,7 @@ class Builder {
         read_.push_back(ReadTableOf(kind, text->second));
         namesAll = namesAll && read_.back().NamesAll;
       } else if (!kind.OfGame && !isGame_) {
-        general_.push_back({std::string(kind.Name),
-                            0,
-                            {},
-                            "is missing; a table without records has only its header"});
+        general_.Note(kind.Name, 0, {}, "is missing; a table without records has only its header");
         namesAll = false;
       }
     }
@@ -77,12 +74,11 @@ class Builder {
     });
     for (ReadTable& table : read_) {
       for (const WaitingCell& cell : table.Waiting) {
-        std::string wrong = names.Take(cell.Place, cell.Cell, table.Record(cell.Row), isGame_);
-        if (wrong.empty()) continue;
-        table.Note(cell.Row, cell.Place.Name(), std::move(wrong));
-        if (table.Mistakes.size() < kMostMistakes) continue;
-        table.Note(cell.Row, {}, "more may be wrong from here on; mend what stands above first");
-        break;
+        std::byte* record = table.Record(cell.Row);
+        if (names.Take(cell.Place, cell.Cell, record, isGame_)) continue;
+        table.Note(
+            cell.Row, cell.Place.Name(),
+            table.Mistakes.IsFull() ? std::string() : names.WhyNot(cell.Place, cell.Cell, record));
       }
     }
   }
@@ -99,9 +95,7 @@ class Builder {
     const auto notes = tables_.find(std::string(kNotesTable));
     if (notes == tables_.end()) return;
     const auto text = FromUtf8(notes->second);
-    const auto note = [&](std::string what) {
-      general_.push_back({std::string(kNotesTable), 0, {}, std::move(what)});
-    };
+    const auto note = [&](std::string_view what) { general_.Note(kNotesTable, 0, {}, what); };
     if (!text)
       note("has the letter " + FirstForeignLetter(notes->second) +
            ", which the game cannot hold: it knows those of Windows-1252");
@@ -143,7 +137,7 @@ class Builder {
   }
 
   void Check() {
-    for (const Fault& fault : CheckWorld(world_)) Translate(fault);
+    CheckWorld(world_, [this](Fault&& fault) { Translate(fault); });
   }
 
   /// A fault of a record as a mistake of its line.
@@ -152,9 +146,9 @@ class Builder {
       return read.Kind->Layout->File == fault.File;
     });
     if (table == read_.end()) {
-      general_.push_back({fault.File, 0, fault.Field, fault.What});
+      general_.Note(fault.File, 0, fault.Field, ToUtf8(fault.What));
     } else if (fault.Record == 0) {
-      general_.push_back({std::string(table->Kind->Name), 0, fault.Field, fault.What});
+      general_.Note(table->Kind->Name, 0, fault.Field, ToUtf8(fault.What));
     } else {
       const std::string who = fault.Who.empty() ? "" : ToUtf8(fault.Who) + " ";
       table->Note(static_cast<std::size_t>(fault.Record - 1), fault.Field,
@@ -178,28 +172,32 @@ class Builder {
   }
 
   bool HasMistakes() const {
-    return !general_.empty() || std::any_of(read_.begin(), read_.end(), [](const ReadTable& table) {
-      return !table.Mistakes.empty();
-    });
+    return general_.Count > 0 || std::any_of(read_.begin(), read_.end(),
+                                             [](auto& table) { return table.Mistakes.Count > 0; });
   }
 
   Building Result() {
     Building building;
-    building.Mistakes = std::move(general_);
-    for (ReadTable& table : read_) {
-      std::stable_sort(table.Mistakes.begin(), table.Mistakes.end(),
-                       [](const Mistake& a, const Mistake& b) { return a.Line < b.Line; });
-      std::move(table.Mistakes.begin(), table.Mistakes.end(),
+    const auto take = [&](TableMistakes& mistakes) {
+      std::move(mistakes.First.begin(), mistakes.First.end(),
                 std::back_inserter(building.Mistakes));
+      building.MistakeCount += mistakes.Count;
+    };
+    take(general_);
+    for (ReadTable& table : read_) {
+      std::stable_sort(table.Mistakes.First.begin(), table.Mistakes.First.end(),
+                       [](const Mistake& a, const Mistake& b) { return a.Line < b.Line; });
+      take(table.Mistakes);
     }
-    if (building.Mistakes.empty()) building.Made = std::move(world_);
+    if (building.Mistakes.size() > kMostMistakes) building.Mistakes.resize(kMostMistakes);
+    if (building.MistakeCount == 0) building.Made = std::move(world_);
     return building;
   }
 
   const Tables& tables_;
   bool isGame_;
   std::vector<ReadTable> read_;
-  std::vector<Mistake> general_;
+  TableMistakes general_;
   World world_;
 };
 

@@ -38,7 +38,7 @@ void CopyFolder(Disk& disk, const std::string& from, const std::string& to) {
   MakeFolders(disk, to);
   for (const std::string& name : disk.List(from))
     if (disk.Look(from + "/" + name) == Disk::Kind::File)
-      WriteFile(disk, to + "/" + name, ReadFile(disk, from + "/" + name));
+      CopyFile(disk, from + "/" + name, to + "/" + name);
 }
 
 }  // namespace

@@ -261,11 +261,11 @@ int StaffTarget(int position, int promotions) {
   return std::min(target.Base + promotions * target.PerPromotion, target.Most);
 }
 
-std::vector<Fault> NewGame(World& world, const NewGameChoice& choice,
-                           const std::function<void(std::string_view)>& watcher) {
+FaultList NewGame(World& world, const NewGameChoice& choice,
+                  const std::function<void(std::string_view)>& watcher) {
   EmptyFiles(world, choice);
   if (watcher) watcher("Clean-up");
-  std::vector<Fault> mended = MendWorld(world);
+  FaultList mended = MendWorld(world);
   for (const Preparation& step : kPreparations) {
     if (watcher) watcher(step.Name);
     step.Run(world);

@@ -22,8 +22,8 @@ struct NewGameChoice {
 /// Turns a world of default data into a fresh game: its contracts, conditions, made-up people, the
 /// first mail. Requires a promotion of that uid. Gives what the clean-up of the data had to mend.
 /// `watcher` hears each step's name.
-std::vector<Fault> NewGame(World& world, const NewGameChoice& choice,
-                           const std::function<void(std::string_view)>& watcher = {});
+FaultList NewGame(World& world, const NewGameChoice& choice,
+                  const std::function<void(std::string_view)>& watcher = {});
 
 /// How many workers and how many staff of a post a new world has at least, by its count of
 /// promotions.

@@ -2,9 +2,10 @@
 
 #include <cstring>
 
+#include "records/charset.h"
 #include "records/dates.h"
 #include "records/slotfolder.h"
-#include "records/world.h"
+#include "records/worldreport.h"
 
 namespace grapplemont {
 
@@ -40,6 +41,20 @@ SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
           false, true};
 } catch (const DiskError& fault) {
   return Unreadable(fault.what());
+}
+
+std::string QuestionOfLeavings(Disk& disk, const std::string& folder) {
+  const std::string standing = StandingFolder(disk, folder);
+  if (disk.Look(standing) != Disk::Kind::Folder) return {};
+  std::vector<std::string> go, stay;
+  for (const std::string& name : disk.List(standing))
+    (IsOfSlot(name) ? go : stay).push_back(ForScreen(name));
+  if (go.empty() && stay.empty()) return {};
+  std::string question = "No game is kept in this slot, but its folder is not empty.";
+  if (!go.empty())
+    question += "\nWhat is left of a game that cannot be loaded is deleted: " + Listed(go) + ".";
+  if (!stay.empty()) question += "\nWhat is no game's stays in the folder: " + Listed(stay) + ".";
+  return question + "\nBegin the new game here?";
 }
 
 std::vector<std::string> MissingDataFiles(Disk& disk, const std::string& folder) {

@@ -21,6 +21,10 @@ struct SlotSummary {
 /// Reads no more than the slot's gameinfo.dat; a slot in use is exactly one that has it.
 SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder);
 
+/// What to ask before a game begins in a slot without one whose folder holds something all the
+/// same: what goes, what stays. Empty for an empty folder or none.
+std::string QuestionOfLeavings(Disk& disk, const std::string& folder);
+
 /// The files of the data set that `folder` lacks, in their fixed order.
 std::vector<std::string> MissingDataFiles(Disk& disk, const std::string& folder);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/charset.h"
 #include "records/modWresCheck.h"
 
 namespace grapplemont {
@@ -14,12 +15,6 @@ constexpr std::string_view kBlanks = " \t\n\r\xA0";
 /// What the files mean something by.
 constexpr std::string_view kReserved[] = {kVacantHolder, kToBeDeleted};
 
-/// The control codes, the five among them that Windows-1252 leaves open above the letters.
-bool IsControl(char letter) {
-  constexpr std::string_view kOpen = "\x7F\x81\x8D\x8F\x90\x9D";
-  return (letter >= 0 && letter < ' ') || kOpen.find(letter) != std::string_view::npos;
-}
-
 }  // namespace
 
 std::string_view TrimmedName(std::string_view name) {
@@ -28,13 +23,18 @@ std::string_view TrimmedName(std::string_view name) {
   return name.substr(from, name.find_last_not_of(kBlanks) - from + 1);
 }
 
+std::string WhyNotPlain(std::string_view name) {
+  const bool plain = std::none_of(name.begin(), name.end(), IsControl);
+  return plain ? "" : "A name is one line of plain text.";
+}
+
 std::string WhyNoName(std::string_view name, int letters) {
   name = TrimmedName(name);
   if (name.empty()) return "Type a name first.";
   if (name == "None") return "\"None\" stands for nothing at all and cannot be a name.";
   if (std::find(std::begin(kReserved), std::end(kReserved), name) != std::end(kReserved))
     return "\"" + std::string(name) + "\" has a meaning of its own and cannot be a name.";
-  if (std::any_of(name.begin(), name.end(), IsControl)) return "A name is one line of plain text.";
+  if (std::string why = WhyNotPlain(name); !why.empty()) return why;
   if (static_cast<int>(name.size()) > letters)
     return "A name has at most " + std::to_string(letters) + " letters. This one has " +
            std::to_string(name.size()) + ".";

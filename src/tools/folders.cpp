@@ -1,5 +1,8 @@
 #include "tools/folders.h"
 
+#include <algorithm>
+
+#include "records/charset.h"
 #include "records/datastep.h"
 #include "records/draws.h"
 #include "records/slotfolder.h"
@@ -7,11 +10,6 @@
 namespace grapplemont::tools {
 
 namespace {
-
-std::string WithoutSlashes(std::string folder) {
-  while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
-  return folder;
-}
 
 bool IsSavedGame(Disk& disk, const std::string& folder) {
   return disk.Look(folder + "/" + kJournalName) != Disk::Kind::Nothing ||
@@ -23,7 +21,7 @@ std::map<std::string, Bytes> ReadFiles(Disk& disk, const std::string& folder,
   if (disk.Look(folder + "/" + kJournalName) != Disk::Kind::File)
     return ReadWorldFiles(disk, folder);
   Slot slot(disk, folder, KnownFiles());
-  for (const std::string& remark : slot.Remarks()) remarks << remark << "\n";
+  for (const std::string& remark : slot.Remarks()) remarks << ToUtf8(remark) << "\n";
   return slot.Files();
 }
 
@@ -36,9 +34,21 @@ void WriteSlot(Disk& disk, const std::string& folder, const World& world) {
   Slot::Create(disk, folder, FilesOf(world), MachineSeed());
 }
 
+/// Takes away what a run that was cut short has left there, and nothing else.
+void ClearBeside(Disk& disk, const std::string& beside) {
+  const Disk::Kind kind = disk.Look(beside);
+  const std::vector<std::string> names =
+      kind == Disk::Kind::Folder ? disk.List(beside) : std::vector<std::string>();
+  if ((kind != Disk::Kind::Nothing && kind != Disk::Kind::Folder) ||
+      !std::all_of(names.begin(), names.end(), IsOfSlot))
+    throw WorldFault("\"" + beside +
+                     "\" holds other files. Move it away: the world is put together there.");
+  RemoveTree(disk, beside);
+}
+
 void WriteData(Disk& disk, const std::string& folder, const World& world) {
   const std::string beside = folder + kBesideSuffix;
-  RemoveTree(disk, beside);
+  ClearBeside(disk, beside);
   disk.MakeFolder(beside);
   const std::vector<NewFile> files = FilesOf(world);
   for (const NewFile& file : files) WriteFile(disk, beside + "/" + file.Name, file.Contents);
@@ -51,9 +61,13 @@ void WriteData(Disk& disk, const std::string& folder, const World& world) {
 
 }  // namespace
 
+std::string WithoutSlashes(std::string folder) {
+  while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
+  return folder;
+}
+
 std::string FolderName(Disk& disk, const std::string& folder) {
-  // Behind the "/." a link to a folder counts as the folder.
-  if (folder.empty() || disk.Look(folder + "/.") != Disk::Kind::Folder)
+  if (folder.empty() || !IsFolder(disk, folder))
     throw WorldFault("\"" + folder + "\" is no folder.");
   return WithoutSlashes(folder);
 }

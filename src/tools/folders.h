@@ -7,6 +7,7 @@
 
 namespace grapplemont::tools {
 
+std::string WithoutSlashes(std::string folder);  // behind it
 /// The folder's name without slashes behind it, for files that lie beside it. Throws for what is no
 /// folder.
 std::string FolderName(Disk& disk, const std::string& folder);

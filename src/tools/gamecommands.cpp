@@ -43,6 +43,8 @@ std::string PlayerName(const Arguments& arguments) {
   const std::string_view trimmed = detail::Trimmed(*name);
   constexpr auto kMost = static_cast<std::size_t>(decltype(GameInfo::PlayerName)::kWidth);
   if (trimmed.empty()) throw UsageError("--player needs a name");
+  if (std::any_of(trimmed.begin(), trimmed.end(), IsControl))
+    throw UsageError("--player is one line of plain text");
   if (trimmed.size() > kMost)
     throw UsageError("--player has room for " + std::to_string(kMost) + " letters");
   return std::string(trimmed);
@@ -76,7 +78,7 @@ Day StartOf(const Arguments& arguments, const Shell& shell) {
                    std::to_string(kLastYear));
 }
 
-std::vector<Fault> Begin(World& world, const NewGameChoice& choice) {
+FaultList Begin(World& world, const NewGameChoice& choice) {
   try {
     return NewGame(world, choice);
   } catch (const FieldOverflow& fault) {
@@ -97,7 +99,10 @@ int New(const Arguments& arguments, Shell& shell) {
   Game game(desk, *disk, GameOptions(arguments, *disk, shell));
   World world = ReadDefaultWorld(game);
   choice.PromotionUid = PromotionUid(world, *arguments.Text("--promotion"));
-  for (const Fault& mended : Begin(world, choice)) shell.Out << ToUtf8(mended.Line()) << "\n";
+  const FaultList mended = Begin(world, choice);
+  for (const Fault& fault : mended) shell.Out << ToUtf8(fault.Line()) << "\n";
+  if (mended.Count > mended.First.size())
+    shell.Out << "and " << mended.Count - mended.First.size() << " more\n";
   Slot::Create(*disk, game.SlotFolder(slot), FilesOf(world), game.NewWorldId());
   shell.Out << "Slot " << slot << ": " << ToUtf8(choice.PlayerName) << " takes over "
             << ToUtf8(world.Player().Name) << " (" << Says(kDifficulties, choice.Difficulty)

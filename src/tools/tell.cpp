@@ -54,7 +54,7 @@ void TellLine(std::ostream& out, const std::string& text) {
 }
 
 void TellDetails(std::ostream& out, const SegmentDetails& details) {
-  out << "\n" << details.Heading << "\n";
+  out << "\n" << ToUtf8(details.Heading) << "\n";
   TellLine(out, details.Type.empty() ? details.Style : details.Style + ", " + details.Type);
   TellLine(out, details.Names);
   TellLine(out, details.Belt);

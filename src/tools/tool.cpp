@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <ostream>
 
 #include "records/charset.h"
+#include "records/disk.h"
 #include "records/nearest.h"
 #include "tools/commands.h"
 
@@ -59,11 +61,16 @@ int RunCommand(const Command& command, std::span<const std::string> words, Shell
   try {
     return command.Run(Arguments(words, command.Options, command.Places), shell);
   } catch (const UsageError& fault) {
-    shell.Errors << kProgram << " " << command.Name << ": " << fault.what() << "\n";
+    shell.Errors << kProgram << " " << command.Name << ": " << ValidUtf8(fault.what()) << "\n";
     PrintUsage(shell.Errors, command);
     return 2;
+  } catch (const std::bad_alloc&) {
+    shell.Errors << kProgram << " " << command.Name << ": " << kOutOfMemory << "\n";
+    return 1;
   } catch (const std::exception& fault) {
-    shell.Errors << kProgram << " " << command.Name << ": " << OneLine(ToUtf8(fault.what()))
+    // Some speak of what they found in files, in the letters of the records, others of what was
+    // typed.
+    shell.Errors << kProgram << " " << command.Name << ": " << OneLine(ValidUtf8(fault.what()))
                  << "\n";
     return 1;
   }
@@ -80,7 +87,7 @@ int RunWorldTool(std::span<const std::string> arguments, Shell shell) {
     if (arguments.empty()) throw UsageError("a command is missing");
     return RunCommand(FindCommand(arguments[0]), arguments.subspan(1), shell);
   } catch (const UsageError& fault) {
-    shell.Errors << kProgram << ": " << fault.what() << "\n";
+    shell.Errors << kProgram << ": " << ValidUtf8(fault.what()) << "\n";
     PrintHelp(shell.Errors);
     return 2;
   }

@@ -1,7 +1,10 @@
 #include "ui/desk.h"
 
 #include <algorithm>
+#include <new>
 #include <stdexcept>
+
+#include "records/disk.h"
 
 namespace grapplemont::ui {
 
@@ -102,6 +105,7 @@ void Desk::TakeBack(const Stack& before, const std::exception& fault) {
 }
 
 std::string Desk::Explained(const std::exception& fault) const {
+  if (dynamic_cast<const std::bad_alloc*>(&fault)) return kOutOfMemory;
   return work_ ? work_->Explain(fault) : fault.what();
 }
 

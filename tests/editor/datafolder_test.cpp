@@ -132,8 +132,28 @@ TEST(TheDataFolder, OpensAroundAFileThatIsNone) {
   data.World().Workers()[1].Over = 5;
   data.Commit();
   EXPECT_EQ(huge, ReadFile(disk, "data/promos.dat"));
-  EXPECT_EQ(huge, ReadFile(disk, "data.backup/promos.dat"));
-  EXPECT_THROW(data.Restore(), WorldFault) << "a folder stands in the way";
+  EXPECT_THROW(data.Restore(), WorldFault) << "both stand in the way";
+}
+
+TEST(TheDataFolder, ReadsNoFileBeyondTheMostThatItMayBe) {
+  CutDisk disk = DiskWith(SmallData());
+  for (const char* name : {"data/wrestler.dat", "data/tv.dat", "data.step"}) {
+    const OpenedFile file(disk, name, true);
+    disk.Resize(file, std::int64_t{3} << 30);
+  }
+  disk.MakeFolder("s1");
+  for (const char* name : {"s1/gameinfo.dat", "s1/world.id"}) {
+    const OpenedFile file(disk, name, true);
+    disk.Resize(file, std::int64_t{3} << 30);
+  }
+  EXPECT_THROW(ReadWorldFiles(disk, kData), WorldFault);
+  EXPECT_EQ(879u, Slot::Peek(disk, "s1", KnownFiles(), "gameinfo.dat")->size());
+  EXPECT_THROW(Slot(disk, "s1", KnownFiles()), std::exception);
+  DataFolder data(disk, kData);
+  EXPECT_EQ(data.Unreadable().size(), 2u);
+  data.World().Promotions()[1].Risk = 7;
+  data.Commit();
+  EXPECT_LT(disk.LongestRead(), std::size_t{32} << 20);
 }
 
 /// What the disk has become after a commit, by what was said about it.

@@ -6,6 +6,7 @@
 #include "editor/screens/screenediting.h"
 #include "newrecords.h"
 #include "support/homefolder.h"
+#include "support/randomworld.h"
 
 namespace grapplemont::test {
 namespace {
@@ -51,6 +52,34 @@ std::string Cell(ScriptDesk& desk, const char* list, int row, int column) {
   return desk.Rows(list)
       .at(static_cast<std::size_t>(row - 1))
       .at(static_cast<std::size_t>(column - 1));
+}
+
+/// Damaged from end to end: nearly every field of 300 workers is wrong.
+World Rubbish() {
+  World world = Here();
+  Dice dice(5);
+  std::vector<Worker> workers(300);
+  for (Worker& worker : workers)
+    for (std::byte& byte : std::as_writable_bytes(std::span(&worker, 1))) byte = dice.Byte();
+  world.Workers().Rewrite(std::move(workers));
+  return world;
+}
+
+TEST(FrmEditor, ShowsTheFirstOfVeryManyFaultsAndCountsTheRest) {
+  EditedHome home(Rubbish());
+  const std::size_t count = CheckWorld(Rubbish()).size();
+  ASSERT_GT(count, 5000u);
+  for (const char* screen : {"frmEditMaintain", "frmEditor"}) {
+    home.Desk.Open(screen);
+    EXPECT_EQ(home.Desk.Rows("lstfaults").size(), 1000u);
+  }
+  const std::string told = std::to_string(count) + " faults, of which the first 1000 are shown.";
+  EXPECT_TRUE(home.Desk.Text("lblfacts").ends_with(told)) << home.Desk.Text("lblfacts");
+  home.Desk.Open("frmEditWres");
+  EXPECT_LT(home.Desk.Text("lblfault").size(), 600u);
+  World fresh = Rubbish();
+  EXPECT_LE(MendWorld(fresh).First.size(), 1000u);
+  EXPECT_TRUE(CheckWorld(fresh).empty());
 }
 
 TEST(FrmEditMaintain, ReportsBeforeItMendsAndThenFindsNothing) {
@@ -315,8 +344,10 @@ TEST(FrmEditTables, AsksBeforeItReplacesTablesAndTellsOfFaults) {
   home.Desk.ExpectSay("Faults", told);
   home.Desk.Click("cmdexport");
   home.Desk.ExpectAsk("Replace?",
-                      home.Path("world-tables") + " holds tables of a world. Replace them?", false,
-                      ui::Default::No);
+                      home.Path("world-tables") +
+                          " holds events.csv, networks.csv, promotions.csv, shows.csv and 6 more. "
+                          "Put the tables of the data in their place?",
+                      false, ui::Default::No);
   home.Desk.Click("cmdexport");
   home.Desk.Type("txtfolder", "");
   EXPECT_EQ(home.Desk.Tip("cmdexport"), "Name a folder first.");

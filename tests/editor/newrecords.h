@@ -33,7 +33,7 @@ inline std::vector<std::string> Lines(const Arrivals& arrivals) {
   return lines;
 }
 
-inline std::vector<std::string> Lines(const std::vector<Fault>& faults) {
+inline std::vector<std::string> Lines(const auto& faults) {
   std::vector<std::string> lines;
   for (const Fault& fault : faults) lines.push_back(fault.Line());
   return lines;

@@ -94,10 +94,18 @@ TEST(TablesFolder, GoesWhereNothingElseLies) {
   disk.MakeFolder("home");
   EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot, "");
   disk.MakeFolder("home/tables");
-  EXPECT_FALSE(LookForExport(disk, "home/tables").HasTables);
+  EXPECT_EQ(LookForExport(disk, "home/tables").Present, Texts{});
   ExportTables(disk, "home/tables", SmallWorld().Promotion("CWA").Build());
   EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot, "");
-  EXPECT_TRUE(LookForExport(disk, "home/tables").HasTables);
+  EXPECT_EQ(LookForExport(disk, "home/tables").Present.size(), 10u);
+  // Without a game's tables beside them, notes are somebody's own.
+  WriteFile(disk, "home/tables/notes.txt", {});
+  EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot,
+            "home/tables holds other things, such as notes.txt. Name a new folder.");
+  WriteFile(disk, "home/tables/game.csv", {});
+  EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot, "");
+  ExportTables(disk, "home/tables", SmallWorld().Promotion("CWA").Build());
+  EXPECT_EQ(LookForExport(disk, "home/tables").Present.size(), 10u);
   WriteFile(disk, "home/tables/diary.txt", {});
   EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot,
             "home/tables holds other things, such as diary.txt. Name a new folder.");

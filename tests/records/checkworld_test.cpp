@@ -67,7 +67,7 @@ World SoundGame() {
   return Sound().Game("CWA").Feud("Bram Okafor", "Cal Drift").Mail("Maeve", "Good morning.");
 }
 
-std::string Lines(const std::vector<Fault>& faults) {
+std::string Lines(const auto& faults) {
   std::string lines;
   for (const Fault& fault : faults) lines += fault.Line() + "\n";
   return lines;

@@ -10,14 +10,14 @@ namespace {
 using namespace std::string_literals;
 
 /// "line: [cell][cell]" for each row, then the fault.
-std::string Told(const CsvTable& table) {
+std::string Told(CsvReader table) {
   std::string told;
-  for (const CsvRow& row : table.Rows) {
+  for (CsvRow row; table.Next(row);) {
     told += std::to_string(row.Line) + ":";
     for (const std::string& cell : row.Cells) told += "[" + cell + "]";
     told += " ";
   }
-  if (table.FaultLine != 0) told += std::to_string(table.FaultLine) + "! " + table.Fault;
+  if (table.FaultLine() != 0) told += std::to_string(table.FaultLine()) + "! " + table.Fault();
   return told;
 }
 
@@ -41,18 +41,26 @@ TEST(Csv, ReadsCellsAndKnowsTheirLines) {
       {"a\nb\"c\n", "1:[a] 2! has a quotation mark inside a cell that does not begin with one"},
       {"\"a\"b\n", "1! has letters behind the quotation mark that closes a cell"},
       {"a\0b\n"s, "1:[a\0b] "s},
+      {"a\n" + std::string(1000, ',') + "\nb\n", "1:[a] 2! has more than 1000 cells"},
+      {"a\n\"\n" + std::string(32768, 'x') + "\"\n",
+       "1:[a] 2! has a cell of more than 32768 letters"},
+      {"a\n" + std::string(32769, 'x'), "1:[a] 2! has a cell of more than 32768 letters"},
   };
-  for (const auto& row : rows) EXPECT_EQ(row.Expected, Told(ReadCsv(row.Text))) << row.Text;
+  for (const auto& row : rows) EXPECT_EQ(row.Expected, Told(CsvReader(row.Text))) << row.Text;
 }
 
 TEST(Csv, ReadsWhatItWrites) {
   const std::vector<std::string> cells = {"plain",      "with, comma", "\"quoted\"", "",
                                           " blanks ",   "two\nlines",  "\r",         "\"",
                                           "tab\tend\t", "a \"b\" c"};
-  const CsvTable table = ReadCsv(CsvLine(cells) + CsvLine({"next"}));
-  ASSERT_EQ(2u, table.Rows.size());
-  EXPECT_EQ(cells, table.Rows[0].Cells);
-  EXPECT_EQ(4, table.Rows[1].Line) << "a line feed and a carriage return inside cells count";
+  const std::string text = CsvLine(cells) + CsvLine({"next"});
+  CsvReader table(text);
+  CsvRow row;
+  ASSERT_TRUE(table.Next(row));
+  EXPECT_EQ(cells, row.Cells);
+  ASSERT_TRUE(table.Next(row));
+  EXPECT_EQ(std::vector<std::string>{"next"}, row.Cells);
+  EXPECT_EQ(4, row.Line) << "a line feed and a carriage return inside cells count";
 }
 
 TEST(Nearest, FindsWhatWasMeant) {

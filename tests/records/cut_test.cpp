@@ -104,6 +104,9 @@ TEST_P(Creations, LeaveTheOldSlotOrTheNewOne) {
     // Not closed cleanly: what is swapped out has a journal in use.
     Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, story.Options);
     for (std::size_t i = 1; i < old.size(); ++i) slot.Commit(ChangesBetween(old[i - 1], old[i]));
+    WriteFile(disk, std::string(kStore) + "/diary.txt", BytesOf("mine"));
+    disk.MakeFolder(std::string(kStore) + "/pictures");
+    disk.SyncFolder(kStore);
   }
   disk.Record();
   disk.Begins(1);
@@ -130,6 +133,9 @@ TEST_P(Creations, LeaveTheOldSlotOrTheNewOne) {
     Slot::Create(after, kStore, NewFiles(story.Worlds[1]), 3, story.Options);
     EXPECT_EQ(1, FoundWorld(after, story.Worlds, 1, 1, story.Options));
     for (const std::string& name : after.List(".")) EXPECT_TRUE(name == kStore) << name;
+    if (!overAnOldOne) return;
+    EXPECT_EQ(BytesOf("mine"), ReadFile(after, std::string(kStore) + "/diary.txt"));
+    EXPECT_TRUE(IsFolder(after, std::string(kStore) + "/pictures"));
   };
   inner = 2;
   EXPECT_GE(ForEveryCut(disk, 20, 43, check), 500);

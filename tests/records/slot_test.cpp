@@ -132,16 +132,24 @@ TEST_F(ASlot, OutlivesTheProcessThatHadIt) {
   EXPECT_EQ(worlds_[4], Open()->Files());
 }
 
-TEST_F(ASlot, IsReplacedWholeByANewOne) {
+TEST_F(ASlot, IsReplacedByANewOneBesideSomebodysOwnFiles) {
   Commit(1, 4);
   WriteFile(*disk_, At("stray.txt"), BytesOf("x"));
+  disk_->MakeFolder(At("pictures"));
+  WriteFile(*disk_, At("pictures/one"), BytesOf("1"));
+  std::filesystem::create_symlink("/nowhere", At("link"));
   Slot::Create(*disk_, folder_, NewFiles(worlds_[7]), 2);
   EXPECT_EQ(worlds_[7], Open()->Files());
   EXPECT_EQ((std::vector<std::string>{"s1", "s1.lock"}), disk_->List(ParentOf(folder_)));
-  EXPECT_FALSE(All(folder_).contains("stray.txt"));
+  EXPECT_EQ(BytesOf("x"), ReadFile(*disk_, At("stray.txt")));
+  EXPECT_EQ(BytesOf("1"), ReadFile(*disk_, At("pictures/one")));
+  EXPECT_EQ(Disk::Kind::Other, disk_->Look(At("link")));
 }
 
 TEST_F(ASlot, IsNotMadeWhereSomethingElseStands) {
+  disk_->MakeFolder(At("match.dat.tmp"));
+  EXPECT_THROW(Slot::Create(*disk_, folder_, {}, 2), DiskError) << "a folder by a slot's name";
+  EXPECT_EQ(worlds_[0], Open()->Files());
   WriteFile(*disk_, scratch_ / "s2", BytesOf("a file"));
   EXPECT_THROW(Slot::Create(*disk_, scratch_ / "s2", {}, 2), DiskError);
   EXPECT_EQ(BytesOf("a file"), ReadFile(*disk_, scratch_ / "s2"));

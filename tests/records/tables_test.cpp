@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "records/checkworld.h"
+#include "records/worldreport.h"
 #include "support/checkout.h"
 #include "support/randomworld.h"
 #include "support/smallworld.h"
@@ -276,14 +277,30 @@ TEST(Tables, HoldNoMoreThanTheRecordsOfAFile) {
             AllMistakes(BuildWorld(tables)));
 }
 
-TEST(Tables, StopCountingMistakesInTime) {
+TEST(Tables, NameTheFirstOfManyMistakesAndCountTheRest) {
   Tables tables = SmallTables();
   for (int i = 0; i < 5000; ++i)
     tables["teams.csv"] += "Team " + std::to_string(i) + ",Nobody A,Nobody B\n";
+  const auto lines = MistakeLines(BuildWorld(tables));
+  ASSERT_EQ(201u, lines.size());
+  EXPECT_EQ("and 9800 more", lines.back());
+  for (const char* table : {"shows.csv", "staff.csv", "stables.csv", "titles.csv"})
+    for (int i = 0; i < 5000; ++i) tables[table] += "short\n";
   const Building building = BuildWorld(tables);
-  ASSERT_EQ(201u, building.Mistakes.size());
-  EXPECT_EQ("teams.csv, line 102: more may be wrong from here on; mend what stands above first",
-            building.Mistakes.back().Text());
+  EXPECT_EQ(500u, building.Mistakes.size());
+  EXPECT_EQ("20000 mistakes; nothing was built.", NothingBuilt(building));
+}
+
+TEST(Tables, SpeakUtf8OfWhatIsNone) {
+  Tables tables = SmallTables();
+  tables["networks.csv"] = "Name,Caf\xE9\nNine,1\n";
+  tables["teams.csv"] = "Name,Worker1,Worker2\nThe Tide,Ren\xE9,Ilya Marsh\n";
+  tables["t\xE4g.csv"] = "";
+  EXPECT_EQ(
+      "t\xC3\xA4g.csv: is no table of a world; the nearest is staff.csv\n"
+      "networks.csv, line 1, column Caf\xC3\xA9: there is no such column; the nearest is Name\n"
+      "teams.csv, line 2, column Worker1: no worker has the name Ren\xC3\xA9; the nearest is X",
+      AllMistakes(BuildWorld(tables)));
 }
 
 /// Writes the world down and builds it again.

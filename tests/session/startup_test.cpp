@@ -138,6 +138,10 @@ TEST(NewGameScreen, WantsAName) {
     home.Desk.Click("cmdbegin");
     EXPECT_EQ(home.Desk.TopName(), "frmNewGame");
   }
+  home.Desk.Type("txtname", "Pat\tLee");
+  home.Desk.ExpectSay("Error!", "A name is one line of plain text.");
+  home.Desk.Click("cmdbegin");
+  EXPECT_EQ(home.Desk.TopName(), "frmNewGame");
   home.Desk.Type("txtname", std::string(300, 'x'));
   EXPECT_EQ(home.Desk.Text("txtname"), std::string(25, 'x'));
 }
@@ -152,25 +156,47 @@ TEST(NewGameScreen, SaysWhichFileOfTheDataIsNoFile) {
   EXPECT_NE(home.Desk.Boxes().back().Text.find("promos.dat"), std::string::npos);
 }
 
-TEST(PickSaveSlot, LeavesTheSlotAloneWithoutAName) {
+constexpr const char* kLeavings =
+    "No game is kept in this slot, but its folder is not empty.\n"
+    "What is left of a game that cannot be loaded is deleted: news.dat.\n"
+    "What is no game's stays in the folder: diary.txt and pictures.\n"
+    "Begin the new game here?";
+
+TEST(PickSaveSlot, AsksAboutWhatLiesInAnEmptySlotAndKeepsWhatIsNoGames) {
   HomeFolder home(TwoPromotions());
-  home.Write("s1/news.dat", "stale");
+  home.Write("s1/news.dat", std::string(290, 'x'));
+  home.Write("s1/diary.txt", "mine");
+  home.Write("s1/pictures/one", "mine too");
   home.Desk.Open("frmNewGame");
   home.Desk.Type("txtname", "Pat Lee");
   home.Desk.Click("cmdbegin");
   EXPECT_EQ(home.Desk.Text("cmdload1"), "<<<Empty Slot>>>");
   EXPECT_EQ(home.Desk.Text("cmdload8"), "<<<Empty Slot>>>");
-  home.Desk.ExpectPrompt("User Entry", "Save Game Name:", "", "Save Game 1");
+  home.Desk.ExpectAsk("Are you sure?", kLeavings, false, ui::Default::No);
   home.Desk.Click("cmdload1");
+  for (const char* name : {"", "Save\tGame"}) {
+    home.Desk.ExpectAsk("Are you sure?", kLeavings, true);
+    home.Desk.ExpectPrompt("User Entry", "Save Game Name:", name, "Save Game 1");
+    if (*name) home.Desk.ExpectSay("Error!", "A name is one line of plain text.");
+    home.Desk.Click("cmdload1");
+  }
   EXPECT_EQ(home.Desk.TopName(), "frmPickSaveSlot");
-  EXPECT_EQ(RealDisk()->List(home.Path("s1")), std::vector<std::string>{"news.dat"});
+  EXPECT_EQ(RealDisk()->List(home.Path("s1")),
+            (std::vector<std::string>{"diary.txt", "news.dat", "pictures"}));
+
+  home.Desk.ExpectAsk("Are you sure?", kLeavings, true);
+  home.Desk.ExpectPrompt("User Entry", "Save Game Name:", "First");
+  home.Desk.ExpectSay("Database creation", kAnyText);
+  home.Desk.ExpectSay("Loading", kAnyText);
+  home.Desk.Click("cmdload1");
+  EXPECT_EQ(home.Play.World().News().Count(), 1) << "the old mail is gone, the welcome is there";
+  EXPECT_EQ(RealDisk()->Look(home.Path("s1/diary.txt")), Disk::Kind::File);
+  EXPECT_EQ(RealDisk()->Look(home.Path("s1/pictures/one")), Disk::Kind::File);
 }
 
 TEST(PickSaveSlot, MakesAGameThatIsThereWhenItIsLoaded) {
   HomeFolder home(TwoPromotions());
-  home.Write("s1/news.dat", std::string(290, 'x'));
   home.StartNewGame();
-  EXPECT_EQ(home.Play.World().News().Count(), 1) << "the old mail is gone, the welcome is there";
   EXPECT_EQ(home.Desk.Text("txtdate"), "Wednesday, 01 April 2026");
   EXPECT_EQ(home.Desk.Text("txtname"), "Pat Lee");
   EXPECT_EQ(home.Desk.Text("cmdfed"), "CWA");
@@ -213,7 +239,7 @@ TEST(PickSaveSlot, AsksBeforeItOverwrites) {
 TEST(LoadGame, TellsOfSlotsThatCannotBePlayed) {
   HomeFolder home(TwoPromotions());
   home.StartNewGame();
-  Bytes info = ReadFile(*RealDisk(), home.Path("s1/gameinfo.dat"));
+  const Bytes info = *ReadWithin(*RealDisk(), home.Path("s1/gameinfo.dat"), sizeof(GameInfo));
   std::string old(reinterpret_cast<const char*>(info.data()), info.size());
   old.replace(429, 11, "Version 1.0");
   home.Write("s2/gameinfo.dat", old);

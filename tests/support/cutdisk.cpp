@@ -127,6 +127,7 @@ void CutDisk::ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buff
   const PagedBytes& contents = state_.Contents(of.File);
   if (offset + std::ssize(buffer) > contents.Size())
     throw DiskError(of.Path, "read", "it is shorter than expected");
+  longestRead_ = std::max(longestRead_, buffer.size());
   contents.Read(offset, buffer);
 }
 
@@ -178,12 +179,15 @@ void CutDisk::Rename(const std::string& from, const std::string& to) {
   const DiskState::Node moved = Require(from, "rename");
   const auto [fromFolder, fromName] = PlaceOf(from);
   const auto [toFolder, toName] = PlaceOf(to);
-  if (fromFolder != toFolder) throw std::logic_error("A rename between folders.");
   if (const auto there = Find(to); there && (state_.IsFolder(*there) || state_.IsFolder(moved)))
     throw DiskError(to, "rename to", "File exists");
-  Do("rename " + from + " to " + toName,
-     [folder = Require(fromFolder, "rename"), moved, a = fromName, b = toName](DiskState& state) {
-       state.Rename(folder, {{a, std::nullopt}, {b, moved}});
+  Do("rename " + from + " to " + to,
+     [folder = Require(fromFolder, "rename"), target = Require(toFolder, "rename to"), moved,
+      a = fromName, b = toName](DiskState& state) {
+       if (folder == target)
+         state.Rename(folder, {{a, std::nullopt}, {b, moved}});
+       else
+         state.Move(folder, a, target, b);
      });
 }
 

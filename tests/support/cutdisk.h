@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <limits>
 #include <set>
 #include <string>
 #include <vector>
@@ -49,6 +50,8 @@ class CutDisk : public Disk {
   void Begins(int world) { most_ = world; }
   void Shows(int world) { least_ = world; }
   int Calls() const { return calls_; }
+  /// The most bytes that one call has read.
+  std::size_t LongestRead() const { return longestRead_; }
   /// Lets the n-th call from now on (from 1) fail, once or from then on for good. A full disk fails
   /// only calls that may need room, a broken one all that can fail.
   void FailCall(int n, Fault fault, bool forGood);
@@ -117,11 +120,17 @@ class CutDisk : public Disk {
   int calls_ = 0, dieAt_ = 0, failAt_ = 0;
   Fault fault_ = Fault::Broken;
   bool failForGood_ = false, hasFailed_ = false;
+  std::size_t longestRead_ = 0;
   bool recording_ = false;
   DiskState start_;
   std::vector<Moment> moments_;
   int least_ = 0, most_ = 0;
 };
+
+/// A file of any length, for what a test has written itself.
+inline Bytes ReadFile(Disk& disk, const std::string& path) {
+  return ReadStart(disk, path, std::numeric_limits<std::int64_t>::max());
+}
 
 /// A moment of a recorded run.
 struct Cut {

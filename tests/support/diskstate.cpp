@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace grapplemont::test {
 
@@ -127,6 +128,15 @@ void DiskState::Rename(Node folder, std::vector<NameChange> changes) {
   state.Names.push_back({std::move(changes), ++now_});
 }
 
+void DiskState::Move(Node from, const std::string& name, Node to, const std::string& newName) {
+  const Node moved = nodes_.at(from).Live.at(name);
+  Rename(from, {{name, std::nullopt}});
+  Rename(to, {{newName, moved}});
+  nodes_.at(to).Names.back().When = now_ - 1;
+  nodes_.at(from).Names.back().With = to;
+  nodes_.at(to).Names.back().With = from;
+}
+
 void DiskState::Sync(Node file) {
   NodeState& state = nodes_.at(file);
   for (const PageWrite& write : state.Pages)
@@ -140,7 +150,8 @@ void DiskState::Sync(Node file) {
 void DiskState::SyncFolder(Node folder) {
   NodeState& state = nodes_.at(folder);
   state.Durable = state.Live;
-  state.Names.clear();
+  for (const NamesChange& change : std::exchange(state.Names, {}))
+    if (change.With && !nodes_.at(*change.With).Names.empty()) SyncFolder(*change.With);
 }
 
 void DiskState::FailSync(Node file, Chance& chance) {
@@ -156,7 +167,8 @@ void DiskState::FailSync(Node file, Chance& chance) {
 struct DiskState::Landing {
   enum class Style { Nothing, Everything, InOrder, Scattered, Torn };
   Style How = Style::Nothing;
-  int Until = 0;  // in order: what was done up to here, the last of it in part
+  int Until = 0;                   // in order: what was done up to here, the last of it in part
+  std::map<int, bool> Moves = {};  // whether each landed, once it is drawn
 };
 
 DiskState DiskState::AfterPowerCut(Chance& chance) const {
@@ -214,12 +226,13 @@ void DiskState::CutFile(NodeState& file, const Landing& landing, Chance& chance)
   file.Sizes.clear();
 }
 
-void DiskState::CutFolder(NodeState& folder, const Landing& landing, Chance& chance) {
+void DiskState::CutFolder(NodeState& folder, Landing& landing, Chance& chance) {
   using Style = Landing::Style;
   for (const NamesChange& change : folder.Names) {
-    const bool lands = landing.How == Style::Everything ||
-                       (landing.How == Style::InOrder && change.When <= landing.Until) ||
-                       (landing.How > Style::InOrder && Pick(chance, 2) == 0);
+    bool lands = landing.How == Style::Everything ||
+                 (landing.How == Style::InOrder && change.When <= landing.Until) ||
+                 (landing.How > Style::InOrder && Pick(chance, 2) == 0);
+    if (change.With) lands = landing.Moves.try_emplace(change.When, lands).first->second;
     if (!lands) continue;
     for (const NameChange& name : change.Changes) {
       if (name.To)

@@ -70,6 +70,8 @@ class DiskState {
     std::optional<Node> To;
   };
   void Rename(Node folder, std::vector<NameChange> changes);
+  /// From one folder to another: both change in one step, or neither.
+  void Move(Node from, const std::string& name, Node to, const std::string& newName);
   void Sync(Node file);
   void SyncFolder(Node folder);
   /// A sync that reports an error: some pages landed, the rest is forgotten. Programs still see
@@ -92,6 +94,7 @@ class DiskState {
   struct NamesChange {
     std::vector<NameChange> Changes;
     int When;
+    std::optional<Node> With = {};  // the other folder of a move
   };
   struct NodeState {
     bool Folder = false;
@@ -105,7 +108,7 @@ class DiskState {
 
   void Dirty(Node file, const std::vector<std::size_t>& pages);
   static void CutFile(NodeState& file, const Landing& landing, Chance& chance);
-  static void CutFolder(NodeState& folder, const Landing& landing, Chance& chance);
+  static void CutFolder(NodeState& folder, Landing& landing, Chance& chance);
 
   std::map<Node, NodeState> nodes_;
   Node next_ = 1;

@@ -98,13 +98,36 @@ TEST_F(TableCommands, ExportTakesASavedGameWithAllThatItsJournalHolds) {
   EXPECT_NE("", busy.Errors);
 }
 
-TEST_F(TableCommands, ExportClearsTablesOfAnotherWorld) {
+TEST_F(TableCommands, ExportTakesNobodysFilesAway) {
   BuildSmallData();
   Write("tables/game.csv", "PlayerName\n");
   Write("tables/mine.csv", "Word\n");
-  EXPECT_EQ(0, Run({"export", In("data"), In("tables")}).Code);
+  EXPECT_EQ(
+      "grapplemont-world export: H/tables holds other things, such as mine.csv. Name a new "
+      "folder.\n",
+      Run({"export", In("data"), In("tables") + "/", "--replace"}).Errors);
+  fs::remove(In("tables/mine.csv"));
+  const Ran ran = Run({"export", In("data"), In("tables")});
+  EXPECT_EQ(1, ran.Code);
+  EXPECT_EQ(
+      "grapplemont-world export: H/tables holds game.csv. With --replace the tables of the world "
+      "are put in their place.\n",
+      ran.Errors);
+  EXPECT_TRUE(fs::exists(In("tables/game.csv")));
+  EXPECT_EQ(0, Run({"export", In("data"), In("tables"), "--replace"}).Code);
   EXPECT_FALSE(fs::exists(In("tables/game.csv")));
-  EXPECT_TRUE(fs::exists(In("tables/mine.csv")));
+  EXPECT_EQ(1, Run({"export", In("data"), "/"}).Code);
+
+  Write("world.new/mine.txt", "keep me");
+  EXPECT_EQ(1, Run({"build", In("tables"), In("world")}).Code);
+  EXPECT_EQ("keep me", Read("world.new/mine.txt"));
+}
+
+TEST_F(TableCommands, SpeakUtf8WhateverIsTyped) {
+  EXPECT_EQ("grapplemont-world check: \"H/caf\xC3\xA9\" is no folder.\n",
+            Run({"check", In("caf\xE9")}).Errors);
+  EXPECT_EQ("grapplemont-world check: \"H/caf\xC3\xA9\" is no folder.\n",
+            Run({"check", In("caf\xC3\xA9")}).Errors);
 }
 
 TEST_F(TableCommands, CheckListsEveryFault) {

@@ -46,10 +46,10 @@ class frmEditMaintain : public ui::Screen {
   void ShowPlan(const std::string& before) {
     const DataFolder& data = EditedData(game_);
     const Maintenance plan = PlanMaintenance(data.World(), UnreadableFaults(data));
-    doings_ = plan.Doings.size();
-    FillFaults(lstfaults, plan.Faults);
-    FillFaults(lstdoings, plan.Doings);
-    FillFaults(lstleft, plan.Left);
+    doings_ = plan.Doings.Count;
+    FillFaults(lstfaults, plan.Faults.First);
+    FillFaults(lstdoings, plan.Doings.First);
+    FillFaults(lstleft, plan.Left.First);
     cmdclean.Enabled = doings_ > 0;
     cmdclean.Tip = doings_ > 0 ? "" : "There is nothing that a clean-up would do.";
     lblfacts.Text = before + (plan.Faults.empty() ? "No faults: " + ContentsOf(data.World()) + "."
@@ -57,11 +57,11 @@ class frmEditMaintain : public ui::Screen {
   }
 
   static std::string Summary(const Maintenance& plan) {
-    const std::size_t faults = plan.Faults.size(), left = plan.Left.size();
+    const std::size_t faults = plan.Faults.Count, left = plan.Left.Count;
     const std::string mends =
         plan.Doings.empty()
             ? "A clean-up can do nothing about " + std::string(faults == 1 ? "it" : "them") + "."
-            : "The clean-up takes " + Counted(plan.Doings.size(), "step") +
+            : "The clean-up takes " + Counted(plan.Doings.Count, "step") +
                   (left == 0 ? " and leaves none."
                              : "; " + std::to_string(left) + (left == 1 ? " stays." : " stay."));
     return Counted(faults, "fault") + ShownOf(faults) + ". " + mends;
@@ -72,7 +72,7 @@ class frmEditMaintain : public ui::Screen {
                                      "? What they are now is kept as a backup."))
       return;
     DataFolder& data = EditedData(game_);
-    const std::size_t done = Maintain(data.World(), UnreadableFaults(data)).size();
+    const std::size_t done = Maintain(data.World(), UnreadableFaults(data)).Count;
     ShowPlan("Cleaned up in " + Counted(done, "step") + ". ");
   }
   void cmdback_Click() { Close(); }

@@ -77,14 +77,16 @@ class frmEditTables : public ui::Screen {
   void cmdexport_Click() {
     const TablesPlace place = LookForExport(game_.Disk(), Folder());
     if (!place.WhyNot.empty()) return desk().Say("Error!", place.WhyNot);
-    if (place.HasTables &&
-        !desk().Ask("Replace?", PlaceName() + " holds tables of a world. Replace them?",
+    if (!place.Present.empty() &&
+        !desk().Ask("Replace?",
+                    PlaceName() + " holds " + ForScreen(Listed(place.Present)) +
+                        ". Put the tables of the data in their place?",
                     ui::Default::No))
       return;
     ExportTables(game_.Disk(), Folder(), data());
     Forget();
     lblfacts.Text = "Wrote the tables of " + ContentsOf(data()) + " to " + PlaceName() + ".";
-    if (const auto faults = FaultsOf(data()); !faults.empty())
+    if (const std::size_t faults = TellFaults(data()); faults > 0)
       desk().Say("Faults", "The data folder " + FaultyExport(faults, "Check And Clean-Up"));
   }
 

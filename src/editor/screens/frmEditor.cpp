@@ -4,9 +4,11 @@
 
 #include "editor/screens/editorscreens.h"
 #include "editor/screens/screenediting.h"
+#include "editor/screens/screenfiles.h"
 #include "editor/screens/screenpages.h"
 #include "editor/screens/screenrecords.h"
 #include "records/counted.h"
+#include "records/worldreport.h"
 
 namespace grapplemont {
 
@@ -94,16 +96,19 @@ class frmEditor : public ui::Screen {
   void ShowFaults() {
     lstfaults.Clear();
     for (const UnreadableFile& file : data_.Unreadable()) lstfaults.Add({file.File, "", file.Why});
-    for (const Fault& fault : CheckWorld(data_.World()))
+    FaultList faults;
+    CheckWorld(data_.World(), [&](Fault&& fault) { faults.Take(std::move(fault)); });
+    for (const Fault& fault : faults)
       lstfaults.Add(
           {fault.File,
            fault.Who.empty() && fault.Record > 0 ? std::to_string(fault.Record) : fault.Who,
            FaultWords(fault)});
+    const std::size_t count = data_.Unreadable().size() + faults.Count;
     lblfacts.Text = std::string(
                         "The default world, of which every new game is made. Games that have begun "
                         "keep what they have. ") +
-                    (lstfaults.Count() == 0 ? "The data are in order."
-                                            : Counted(lstfaults.Count(), "fault") + ".");
+                    (count == 0 ? "The data are in order."
+                                : Counted(count, "fault") + ShownOf(faults.Count) + ".");
   }
 
   void cmdrestore_Click() {

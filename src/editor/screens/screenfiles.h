@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "editor/arrivals.h"
+#include "records/checkworld.h"
 #include "records/world.h"
 #include "ui/controls.h"
 
@@ -11,8 +12,8 @@
 
 namespace grapplemont {
 
-/// A damaged file may have faults without end; a table shows so many.
-inline constexpr std::size_t kMostRows = 1000;
+/// A damaged file may have faults without end; a table shows no more than this.
+inline constexpr std::size_t kMostRows = FaultList::kMost;
 
 std::vector<ui::Column> FaultColumns(std::string what);
 /// The first kMostRows of them.

@@ -97,13 +97,16 @@ void RecordScreen::Return() {
 void RecordScreen::LookOver() {
   faults_.clear();
   const std::string_view file = LayoutOf(page_.Kind).File;
-  for (const Fault& fault : CheckWorld(data_.World())) {
-    if (fault.File != file || fault.Record == 0) continue;
-    if (!IsShown(page_, RecordAt(data_.World(), page_.Kind, fault.Record))) continue;
-    std::string& words = faults_[fault.Record];
-    if (!words.empty()) words += " ";
-    words += FaultWords(fault);
-  }
+  CheckWorld(data_.World(), [&](Fault&& fault) {
+    if (fault.File != file || fault.Record == 0) return;
+    if (!IsShown(page_, RecordAt(std::as_const(data_).World(), page_.Kind, fault.Record))) return;
+    constexpr int kMost = 6;
+    Faults& found = faults_[fault.Record];
+    if (++found.Count <= kMost)
+      found.Words += (found.Words.empty() ? "" : " ") + FaultWords(fault);
+    else if (found.Count == kMost + 1)
+      found.Words += " There is more: Check And Clean-Up lists it.";
+  });
 }
 
 ui::ListBox::Row RecordScreen::RowOf(int number) const {
@@ -193,7 +196,7 @@ void RecordScreen::ShowButtons() {
   const bool stands = number_ > 0, dirty = IsDirty();
   lblrecord.Text = Called();
   const auto fault = faults_.find(number_);
-  lblfault.Text = fault == faults_.end() ? std::string() : fault->second;
+  lblfault.Text = fault == faults_.end() ? std::string() : fault->second.Words;
   lblfault.Visible = !lblfault.Text->empty();
   const auto offer = [](ui::Button& button, bool on, const char* why) {
     button.Enabled = on;

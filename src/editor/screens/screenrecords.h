@@ -50,10 +50,14 @@ class RecordScreen : public ui::Screen {
   DataFolder& data_;
   const RecordPage& page_;
   std::vector<FieldPlace> columns_;
-  std::map<int, std::string> faults_;  // of the page's records, by number
-  int number_ = 0;                     // of the record in hand; 0 none, or one that is not kept yet
-  bool fresh_ = false;                 // it is a new one
-  bool worthKeeping_ = false;          // and holds something even though nothing was typed
+  struct Faults {
+    std::string Words;  // of the first few
+    int Count = 0;
+  };
+  std::map<int, Faults> faults_;  // of the page's records, by number
+  int number_ = 0;                // of the record in hand; 0 none, or one that is not kept yet
+  bool fresh_ = false;            // it is a new one
+  bool worthKeeping_ = false;     // and holds something even though nothing was typed
   Bytes inHand_;
 
   ui::Label lblfacts{*this, "lblfacts"};

@@ -4,7 +4,9 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "session/newgame.h"
+#include "session/screens/screens/sessionscreens.h"
 #include "session/screens/sessionscreens.h"
+#include "storylines/storynames.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
@@ -160,6 +162,7 @@ class frmNewGame : public ui::Screen {
 void frmNewGame::cmdbegin_Click() {
   const std::string name(detail::Trimmed(txtname.Text.Get()));
   if (name.empty()) return desk().Say("Error!", "Please enter your name first.");
+  if (desk().Objects(WhyNotPlain(name))) return;
   NewGameChoice choice;
   choice.PlayerName = name;
   choice.PromotionUid = cmbPromo.Key();

@@ -5,6 +5,7 @@
 #include "session/screens/screensenter.h"
 #include "session/screens/sessionscreens.h"
 #include "session/slots.h"
+#include "storylines/storynames.h"
 #include "ui/waiting.h"
 
 namespace grapplemont {
@@ -44,13 +45,14 @@ class frmPickSaveSlot : public ui::Screen {
     {
       const SlotLock free(game_.Disk(), game_.SlotFolder(slot));
     }  // before any question: it may be busy
-    if (!ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot)).Empty &&
-        !desk().Ask("Are you sure?", "Are you sure you want to overwrite this slot?",
-                    ui::Default::No))
-      return;
+    const bool empty = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot)).Empty;
+    const std::string question = empty ? QuestionOfLeavings(game_.Disk(), game_.SlotFolder(slot))
+                                       : "Are you sure you want to overwrite this slot?";
+    if (!question.empty() && !desk().Ask("Are you sure?", question, ui::Default::No)) return;
     choice_.SaveName =
         desk().Prompt("User Entry", "Save Game Name:", "Save Game " + std::to_string(slot));
     if (detail::Trimmed(choice_.SaveName).empty()) return;
+    if (desk().Objects(WhyNotPlain(choice_.SaveName))) return;
     World world(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse));
     world.Load(ReadWorldFiles(game_.Disk(), game_.DataFolder()));
     desk().Say("Database creation",
@@ -66,14 +68,13 @@ class frmPickSaveSlot : public ui::Screen {
   }
 
   /// What the clean-up of the data had to put right; a world in order is not worth a word.
-  void TellOfMending(const std::vector<Fault>& mended) {
+  void TellOfMending(const FaultList& mended) {
     if (mended.empty()) return;
     constexpr std::size_t kShown = 12;
     std::string text = "The default data was not in order. For this game it was put right:";
-    for (std::size_t i = 0; i < std::min(mended.size(), kShown); ++i)
-      text += "\n" + mended[i].Line();
-    if (mended.size() > kShown)
-      text += "\nand " + std::to_string(mended.size() - kShown) + " more.";
+    const std::size_t shown = std::min(mended.First.size(), kShown);
+    for (std::size_t i = 0; i < shown; ++i) text += "\n" + mended.First[i].Line();
+    if (mended.Count > shown) text += "\nand " + std::to_string(mended.Count - shown) + " more.";
     desk().Say("Database creation", text);
   }
   void cmdback_Click() { Close(); }
