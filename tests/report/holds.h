@@ -36,8 +36,9 @@ inline bool CouldBe(std::string_view slot, std::string_view words, const Result&
                 row.Man);
   }
   if (hole.Is != Hole::Thing) return CouldBeName(hole.Part, words, result);
-  if (hole.Number == static_cast<int>(Item::Tally)) return !words.empty() && std::isdigit(words.back());
-  for (const char* thing : {"Crown", "Titles", "Wrestling", "Lights", "the briefcase"})
+  if (hole.Number == static_cast<int>(Item::Tally))
+    return !words.empty() && std::isdigit(words.back());
+  for (const char* thing : {"Crown", "Titles", "Wrestling", "Lights", "briefcase"})
     if (words.ends_with(thing)) return true;
   return false;
 }
@@ -48,9 +49,6 @@ inline bool Matches(std::string_view line, std::string_view text, const Result& 
     return !text.empty() && line[0] == text[0] && Matches(line.substr(1), text.substr(1), result);
   const auto close = line.find('}');
   const std::string_view slot = line.substr(1, close - 1), rest = line.substr(close + 1);
-  if (slot == ".") return Matches(rest, text, result);
-  if (slot[0] == '?' || slot[0] == '!')
-    return Matches(rest, text, result) || Matches(rest.substr(rest.find("{.}")), text, result);
   for (std::size_t size = 0; size <= std::min(kLongestName, text.size()); ++size) {
     if (CouldBe(slot, text.substr(0, size), result) && Matches(rest, text.substr(size), result))
       return true;

@@ -131,10 +131,11 @@ TEST_P(Telling, SaysWhoHasWon) {
     for (const bool turnedRound : {false, true})
       for (int i = 0; i < 4; ++i) {  // for as many lines of a band
         Segment segment = Match(type.Style, type.Code);
+        segment.Loser = type.Style == kSpecial ? 2 : FindMatchStyle(type.Style)->PerSide + 1;
         if (turnedRound) std::swap(segment.Winner, segment.Loser);
         const int last = BookTheRest(segment, FindBout(type.Style, type.Code)->Shape);
-        const Result result = {world.FindWorker(segment.Winner)->ShortName,
-                               world.FindWorker(last)->ShortName};
+        const Result result = {world.FindWorker(segment.Winner)->ShortName.Str(),
+                               world.FindWorker(last)->ShortName.Str()};
         const std::string text = Tell(world, segment);
         const int bout = Bout(type.Style, type.Code);
         EXPECT_FALSE(Drawn(Family::Closer, bout).empty()) << type.Says << ": " << text;
