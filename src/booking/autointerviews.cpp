@@ -53,7 +53,9 @@ bool BookTalkBetween(AutoPlan& plan, const std::vector<int>& speakers,
                      const std::vector<int>& targets, int purpose) {
   if (!plan.Pool.MayAppear(speakers) || !plan.Pool.MayAppear(targets)) return false;
   const bool team = speakers.size() == 2;
-  if (const Worker* manager = ManagerOf(plan, speakers)) {
+  // Beside a single worker it would be the manager who turns.
+  const bool goesAlone = purpose == kTalkTurn && !team;
+  if (const Worker* manager = goesAlone ? nullptr : ManagerOf(plan, speakers)) {
     const int style = team ? kManagedTeamTalk : kManagedTalk;
     if (PlanTalk(plan, NewInterview(style, WithManager(speakers, manager->Uid), targets, purpose),
                  kEarly))

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "show/turncalls.h"
 #include "storylines/feuds.h"
 
 namespace grapplemont {
@@ -59,9 +58,7 @@ bool ManagesAll(const World& world, int manager, const std::vector<int>& workers
 /// All who would turn must be waiting to. Whoever speaks for himself may then turn on anybody,
 /// liked or not; where a manager is there, nothing is offered that could not come off.
 bool MayTurn(const World& world, const TalkShape& shape, const Segment& interview) {
-  Segment turning = interview;
-  turning.Purpose = kTalkTurn;
-  const std::vector<TurnCall> turns = BookedTurns(world, turning);
+  const std::vector<TurnCall> turns = TalkTurns(world, interview);
   return !turns.empty() && std::all_of(turns.begin(), turns.end(), [&](const TurnCall& turn) {
     const Worker* turner = world.FindWorker(turn.Turner);
     if (!turner || !turner->TurnPending) return false;
@@ -132,6 +129,12 @@ std::string WhyNotTargets(const Segment& interview) {
   if (targets[0] == 0 && targets[1] != 0)
     return "If the first opponent is 'None', then the second must be too!";
   return targets[0] != 0 && targets[0] == targets[1] ? "Please select two different people!" : "";
+}
+
+std::vector<TurnCall> TalkTurns(const World& world, const Segment& interview) {
+  Segment turning = interview;
+  turning.Purpose = kTalkTurn;
+  return BookedTurns(world, turning);
 }
 
 std::vector<int> OfferedTalkPurposes(const World& world, const Segment& interview) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "booking/roster.h"
+#include "show/turncalls.h"
 
 // Interviews: who speaks, about whom, what for.
 
@@ -32,6 +33,8 @@ std::vector<const Worker*> TalkTargets(const World& world, const Segment& interv
 std::string WhyNotSpeakers(const World& world, const Segment& interview);
 std::string WhyNotTargets(const Segment& interview);
 
+/// Who would turn with the purpose "Turn", and on whom.
+std::vector<TurnCall> TalkTurns(const World& world, const Segment& interview);
 /// The purposes that such an interview may have, in the order of the list. Without a target there
 /// is nobody to attack, to hype a match with or to turn on.
 std::vector<int> OfferedTalkPurposes(const World& world, const Segment& interview);

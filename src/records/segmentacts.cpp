@@ -6,7 +6,7 @@ namespace grapplemont {
 
 namespace {
 
-using enum Moment;
+using enum Phase;
 
 constexpr unsigned kTurn = kTurnOccasion, kSure = kTurnOccasion | kSureTurn, kHit = kFeudAttack;
 
@@ -111,7 +111,8 @@ std::span<const Act> TableOf(const Segment& segment) {
 std::vector<Act> ActsOf(const Segment& segment) {
   std::vector<Act> acts;
   for (const Act& act : TableOf(segment))
-    if (act.Code == (act.When == Finish ? segment.Finish : segment.Aftermath)) acts.push_back(act);
+    if (act.Code == (act.When == Phase::Finish ? segment.Finish : segment.Aftermath))
+      acts.push_back(act);
   return acts;
 }
 

@@ -7,7 +7,7 @@
 namespace grapplemont {
 
 /// When in a match something is done.
-enum class Moment { Finish, Aftermath };
+enum class Phase { Finish, Aftermath };
 
 /// What an act stands for; an act may stand for several.
 enum ActMeaning : unsigned {
@@ -18,7 +18,7 @@ enum ActMeaning : unsigned {
 
 /// Something that somebody does to somebody in a match.
 struct Act {
-  Moment When;
+  Phase When;
   int Code;  // of the finish or aftermath
   Part By;
   Part On;

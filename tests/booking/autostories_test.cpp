@@ -312,9 +312,10 @@ TEST(AutoTalk, PutsManagersBesideTheirClients) {
 
 TEST(AutoChanges, AWaitingTurnIsMade) {
   for (const bool writers : {true, false}) {
-    World world = House(24).Game("CWA");
+    World world = House(24).Worker("Mr. Silk", kManager, 60).Game("CWA");
     Worker& turner = Named(world.Workers(), "Hand 4");
-    turner.TurnPending = true;
+    turner.Manager = Uid(world, "Mr. Silk");  // who must not turn in his place
+    for (const char* name : {"Hand 4", "Mr. Silk"}) Named(world.Workers(), name).TurnPending = true;
     if (!writers) DismissWriters(world);
     const auto turns = [&](const AutoCard& card) {
       return Count(card, [&](const Segment& row) {

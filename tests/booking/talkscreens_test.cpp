@@ -165,7 +165,7 @@ TEST(frmIVPurpose, StartsFromNone) {
   }
 }
 
-/// The manager turns where there is one, though it is his client who is waiting to.
+/// All of them are waiting to; beside a single worker it is the manager who does.
 TEST(frmIVPurpose, SaysWhoWillTurn) {
   const auto company = [] {
     World world = TalkCompany();

@@ -175,8 +175,8 @@ TEST(RunSegment, TellsStepsThatAddUpToTheNumbersShown) {
       EXPECT_TRUE(told.Overall >= 0 && told.Overall <= 100);
       EXPECT_TRUE(told.Quality >= 0 && told.Quality <= 100);
       EXPECT_TRUE(told.Crowd >= 0 && told.Crowd <= 100);
-      if (world.Segments()[number].Kind == kMatch)
-        EXPECT_EQ(ShowOf(world).PreviousCrowd, told.Crowd);
+      if (world.Segments()[number].Kind != kMatch) continue;
+      EXPECT_EQ(ShowOf(world).PreviousCrowd, told.Crowd);
     }
   }
 }

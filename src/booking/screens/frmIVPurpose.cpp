@@ -2,7 +2,6 @@
 
 #include "booking/interviews.h"
 #include "booking/screens/talkscreens.h"
-#include "show/turncalls.h"
 
 namespace grapplemont {
 
@@ -25,14 +24,12 @@ class frmIVPurpose : public StepScreen {
 
   ui::Box Body() override { return ui::Group("", {ui::Grow(cmbwinner), lblturn}); }
 
-  /// Where a manager stands by, the one who turns is not the one who is waiting to.
+  /// Beside a single worker it is the manager who turns.
   std::string TurnText() {
     const auto offered = OfferedTalkPurposes(world(), buffer());
     if (std::find(offered.begin(), offered.end(), kTalkTurn) == offered.end()) return {};
-    Segment turning = buffer();
-    turning.Purpose = kTalkTurn;
     std::string text;
-    for (const TurnCall& call : BookedTurns(world(), turning))
+    for (const TurnCall& call : TalkTurns(world(), buffer()))
       text += (text.empty() ? "" : ", ") + SideText(world(), {call.Turner}) + " on " +
               SideText(world(), {call.Other});
     return text.empty() ? text : "Who turns with \"Turn\": " + text + ".";
