@@ -72,9 +72,9 @@ void BM_BaselineReplaceEachFile(benchmark::State& state) {
   });
 }
 
-void Ages(benchmark::internal::Benchmark* bench) {
-  for (const int age : {bench::kNew, bench::kTenYears, bench::kTwentyYears}) bench->Arg(age);
-  bench->Unit(benchmark::kMicrosecond)->UseManualTime();
+void Ages(benchmark::internal::Benchmark* figure) {
+  for (const int age : {bench::kNew, bench::kTenYears, bench::kTwentyYears}) figure->Arg(age);
+  figure->Unit(benchmark::kMicrosecond)->UseManualTime();
 }
 BENCHMARK(BM_Commit)->Apply(Ages)->Iterations(kDays);
 BENCHMARK(BM_CommitUnsynced)->Apply(Ages)->Iterations(kDays);

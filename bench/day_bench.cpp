@@ -4,9 +4,11 @@
 
 #include "bench/walks.h"
 #include "bench/worlds.h"
+#include "booking/autoshow.h"
 #include "calendar/advanceday.h"
 #include "calendar/daykind.h"
 #include "records/dates.h"
+#include "report/linememory.h"
 #include "support/smallworld.h"
 #include "tools/career.h"
 #include "ui/waiting.h"
@@ -33,15 +35,25 @@ bool IsLike(Day day, Day example) {
   return IsMonday(day) == IsMonday(example) && IsFirstOfMonth(day) == IsFirstOfMonth(example);
 }
 
-/// The evenings before the next mornings of the kind. The player has no show on them: a show has
-/// figures of its own.
+/// Holds the player's show where there is one, so that the day can end; false where none can be
+/// held.
+bool EndEvening(World& world) {
+  world.Session.ShowRating = 0;
+  world.Session.ShowFlag = 0;
+  const DayKind kind = DayKindToday(world, [] { return true; });
+  LineMemory memory;
+  return kind == DayKind::Plain || HoldAutoShow(world, kind == DayKind::Event, &memory);
+}
+
+/// The evenings before the next mornings of the kind, their shows held.
 std::vector<bench::FreshWorld> Evenings(int age, int morning, int count) {
   World world = bench::Played(age);
   std::vector<bench::FreshWorld> found;
   while (std::ssize(found) < count) {
+    World evening = test::CopyOf(world);
     if (IsLike(world.Today() + std::chrono::days{1}, kMornings[morning].Date) &&
-        DayKindToday(world, [] { return true; }) == DayKind::Plain)
-      found.emplace_back(test::CopyOf(world));
+        EndEvening(evening))
+      found.emplace_back(std::move(evening));
     tools::PlayDay(world, tools::Shows::Auto);
   }
   return found;
@@ -49,7 +61,7 @@ std::vector<bench::FreshWorld> Evenings(int age, int morning, int count) {
 
 void BM_Day(benchmark::State& state) {
   const int age = static_cast<int>(state.range(0)), morning = static_cast<int>(state.range(1));
-  // Rivals have their shows on days of their own: a plain day is the mean of several.
+  // Shows come on days of their own: a plain day is the mean of several.
   auto evenings = Evenings(age, morning, morning == kPlain ? 5 : 1);
   std::size_t round = 0;
   for (auto _ : state) {

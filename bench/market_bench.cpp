@@ -62,8 +62,8 @@ void BM_PickInMarket(benchmark::State& state) {
   state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
 }
 
-void Ages(benchmark::internal::Benchmark* bench) {
-  bench->Arg(bench::kTenYears)->Arg(bench::kLargest)->Unit(benchmark::kMicrosecond);
+void Ages(benchmark::internal::Benchmark* figure) {
+  figure->Arg(bench::kTenYears)->Arg(bench::kLargest)->Unit(benchmark::kMicrosecond);
 }
 BENCHMARK(BM_FindNames)->Apply(Ages);
 BENCHMARK(BM_FindNamesBaseline)->Apply(Ages);

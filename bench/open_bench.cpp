@@ -46,8 +46,8 @@ void BM_ReadFileBaseline(benchmark::State& state, const char* name) {
   state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
 }
 
-void Ages(benchmark::internal::Benchmark* bench) {
-  bench->DenseRange(bench::kNew, bench::kLargest)->Unit(benchmark::kMicrosecond);
+void Ages(benchmark::internal::Benchmark* figure) {
+  figure->DenseRange(bench::kNew, bench::kLargest)->Unit(benchmark::kMicrosecond);
 }
 BENCHMARK(BM_OpenSlotAndMainScreen)->Apply(Ages)->UseManualTime()->Iterations(20);
 BENCHMARK_CAPTURE(BM_ReadFileBaseline, all, nullptr)->Apply(Ages)->UseRealTime();

@@ -35,8 +35,8 @@ void HoldEvents(benchmark::State& state, LineMemory* memory) {
                  (state.range(0) ? ", largest world" : ", default world"));
 }
 
-void Worlds(benchmark::internal::Benchmark* bench) {
-  bench->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(100);
+void Worlds(benchmark::internal::Benchmark* figure) {
+  figure->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(100);
 }
 
 void BM_Event(benchmark::State& state) {
