@@ -34,6 +34,13 @@ std::string ParentOf(const std::string& path) {
   return slash == 0 ? "/" : path.substr(0, slash);
 }
 
+Bytes ReadStart(Disk& disk, const std::string& path, std::int64_t most) {
+  const OpenedFile file(disk, path, false);
+  Bytes bytes(static_cast<std::size_t>(std::min(disk.Size(file), most)));
+  if (!bytes.empty()) disk.ReadAt(file, 0, bytes);
+  return bytes;
+}
+
 Bytes ReadFile(Disk& disk, const std::string& path) {
   const OpenedFile file(disk, path, false);
   Bytes bytes(static_cast<std::size_t>(disk.Size(file)));

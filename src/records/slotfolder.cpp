@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "records/journalfile.h"
-#include "records/worlddigest.h"
 
 namespace grapplemont {
 
@@ -74,19 +73,6 @@ void WriteNewFile(Disk& disk, const std::string& path, ByteSpan bytes) {
   disk.Sync(file);
 }
 
-void WriteJournal(Disk& disk, const std::string& path, ByteSpan bytes, std::int64_t size) {
-  const OpenedFile file(disk, path, true);
-  disk.Resize(file, 0);
-  size = std::max(size, std::ssize(bytes));
-  disk.Allocate(file, size);
-  // Zeros that were really written: a sync over them later has no new blocks to note down, which
-  // makes it several times faster.
-  Bytes whole(bytes.begin(), bytes.end());
-  whole.resize(static_cast<std::size_t>(size));
-  disk.WriteAt(file, 0, whole);
-  disk.Sync(file);
-}
-
 Bytes PackWorldId(std::uint64_t id) {
   Bytes bytes;
   Append(bytes, id);
@@ -101,6 +87,12 @@ std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes) {
   return NumberAt(bytes, 0);
 }
 
+std::optional<std::uint64_t> ReadWorldId(Disk& disk, const std::string& folder) {
+  const std::string path = folder + "/" + kWorldIdName;
+  if (disk.Look(path) != Disk::Kind::File) return std::nullopt;
+  return UnpackWorldId(ReadStart(disk, path, kSealedIdSize + 1));
+}
+
 void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
                  std::uint64_t worldId, std::int64_t journalBytes, const JournalQuirks& quirks) {
   const Disk::Kind there = disk.Look(folder);
@@ -109,14 +101,15 @@ void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFil
   const std::string built = NewOf(folder);
   try {
     disk.MakeFolder(built);
-    WorldDigest digest;
+    WorldSeal seal{worldId, 0, {}};
     for (const NewFile& file : files) {
       WriteNewFile(disk, built + "/" + file.Name, file.Contents);
-      digest.Set(file.Name, file.Contents);
+      seal.Files.Set(file.Name, file.Contents);
     }
     WriteNewFile(disk, built + "/" + kWorldIdName, PackWorldId(worldId));
-    WriteJournal(disk, built + "/" + kJournalName, EmptyJournal({worldId, 0, digest.Value()}),
-                 journalBytes);
+    WriteNewFile(disk, built + "/" + kSealName, PackSeal(seal));
+    WriteJournal(disk, built + "/" + kJournalName, {worldId, 0, seal.Files.Value()}, {},
+                 journalBytes, journalBytes);
     disk.SyncFolder(built);
     disk.SyncFolder(ParentOf(folder));
   } catch (const DiskError&) {
@@ -168,7 +161,9 @@ std::string FreeCopyName(Disk& disk, const std::string& folder) {
 }
 
 void CopyBeside(Disk& disk, const std::string& folder, const std::string& copy) {
-  const std::string built = NewOf(folder);
+  // Not where FinishSwap looks: what it finds there it takes for a slot.
+  const std::string built = NewOf(copy);
+  RemoveTree(disk, built);
   disk.MakeFolder(built);
   for (const std::string& name : disk.List(folder))
     if (disk.Look(folder + "/" + name) == Disk::Kind::File)

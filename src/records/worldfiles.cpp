@@ -9,7 +9,9 @@ std::vector<KnownFile> KnownFiles() {
   std::vector<KnownFile> known;
   const World world;
   for (const Table* table : world.Tables())
-    known.push_back({std::string(table->File()), table->MaxBytes()});
+    known.push_back({std::string(table->File()), table->MaxBytes(),
+                     table->Layout() ? table->Layout()->Size : 1,
+                     table->File() == LayoutOf<Incident>().File});
   return known;
 }
 
@@ -22,6 +24,8 @@ std::map<std::string, Bytes> ReadWorldFiles(Disk& disk, const std::string& folde
     if (kind != Disk::Kind::File)
       throw WorldFault(path + " is no plain file. Put the real file in its place.");
     Bytes bytes = ReadFile(disk, path);
+    if (known.Fleeting && std::ssize(bytes) > known.MostBytes())
+      bytes.resize(static_cast<std::size_t>(known.MostBytes()));
     if (static_cast<std::int64_t>(bytes.size()) > known.MaxBytes)
       throw WorldFault(path + " is " + std::to_string(bytes.size()) +
                        " bytes long, more than its most of " + std::to_string(known.MaxBytes) +
