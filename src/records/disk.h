@@ -48,6 +48,8 @@ class Disk {
   virtual Handle Open(const std::string& path, bool create) = 0;
   virtual void Close(Handle file) = 0;  // never throws
   virtual std::int64_t Size(Handle file) = 0;
+  /// Whether the path (still) leads to this very file.
+  virtual bool IsAt(Handle file, const std::string& path) = 0;
   /// Fills the whole buffer; a file too short for it is a DiskError.
   virtual void ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) = 0;
   virtual void WriteAt(Handle file, std::int64_t offset, ByteSpan bytes) = 0;

@@ -12,11 +12,12 @@ namespace {
 
 constexpr std::uint64_t kRecordMagic = 0x4452434552464D47;  // "GMFRECRD"
 constexpr std::uint64_t kMarkerMagic = 0x4B52414D52464D47;  // "GMFRMARK"
+constexpr std::uint64_t kSealMagic = 0x4C41455352464D47;    // "GMFRSEAL"
 constexpr std::uint32_t kFormat = 1;
 
-// Both begin with the magic, the format and the checksum of all that follows it.
+// All three begin with the magic, the format and the checksum of all that follows it.
 constexpr std::size_t kChecksumAt = 12, kChecked = 20;
-constexpr std::size_t kMarkerSize = 44, kRecordHeader = 56;
+constexpr std::size_t kMarkerSize = 52, kRecordHeader = 56;
 constexpr std::size_t kLengthAt = 36;
 
 std::uint64_t Checksum(ByteSpan bytes) {
@@ -25,12 +26,21 @@ std::uint64_t Checksum(ByteSpan bytes) {
 
 class Packer {
  public:
-  explicit Packer(std::size_t expected) { bytes_.reserve(expected); }
+  Packer(std::uint64_t magic, std::size_t expected) {
+    bytes_.reserve(expected);
+    Put(magic);
+    Put(kFormat);
+    Put(std::uint64_t{0});  // the checksum
+  }
   template <class T>
   void Put(T value) {
     for (std::size_t i = 0; i < sizeof(T); ++i) bytes_.push_back(ByteOf(value, i));
   }
   void Put(ByteSpan bytes) { bytes_.insert(bytes_.end(), bytes.begin(), bytes.end()); }
+  void Put(const std::string& name) {
+    Put(static_cast<std::uint16_t>(name.size()));
+    Put(std::as_bytes(std::span(name)));
+  }
   template <class T>
   void PutAt(std::size_t at, T value) {
     for (std::size_t i = 0; i < sizeof(T); ++i) bytes_[at + i] = ByteOf(value, i);
@@ -73,6 +83,10 @@ class Unpacker {
     bytes_ = bytes_.subspan(static_cast<std::size_t>(count));
     return taken;
   }
+  std::string GetName() {
+    const ByteSpan name = Take(Get<std::uint16_t>());
+    return {reinterpret_cast<const char*>(name.data()), name.size()};
+  }
   bool Whole() const { return whole_; }
 
  private:
@@ -80,10 +94,15 @@ class Unpacker {
   bool whole_ = true;
 };
 
+/// Whether what `in` reads begins as it must: its magic, its format, the checksum of all of it.
+bool Opens(Unpacker& in, std::uint64_t magic, ByteSpan whole) {
+  return in.Get<std::uint64_t>() == magic && in.Get<std::uint32_t>() == kFormat &&
+         in.Get<std::uint64_t>() == Checksum(whole.subspan(kChecked));
+}
+
 FilePatch UnpackFile(Unpacker& in) {
   FilePatch file;
-  const ByteSpan name = in.Take(in.Get<std::uint16_t>());
-  file.Name.assign(reinterpret_cast<const char*>(name.data()), name.size());
+  file.Name = in.GetName();
   file.Exists = in.Get<std::uint8_t>() != 0;
   file.Length = in.Get<std::int64_t>();
   const auto ranges = in.Get<std::uint32_t>();
@@ -118,43 +137,62 @@ std::size_t ExpectedSize(const JournalRecord& record) {
 }  // namespace
 
 Bytes PackMarker(const JournalMarker& marker) {
-  Packer out(kJournalBlock);
-  out.Put(kMarkerMagic);
-  out.Put(kFormat);
-  out.Put(std::uint64_t{0});  // the checksum
+  Packer out(kMarkerMagic, kJournalBlock);
   out.Put(marker.World);
   out.Put(marker.Sequence);
   out.Put(marker.Digest);
+  out.Put(marker.Reserved);
   return std::move(out).Sealed();
 }
 
 std::optional<JournalMarker> UnpackMarker(ByteSpan block) {
   if (std::ssize(block) < kJournalBlock) return std::nullopt;
-  Unpacker in(block.first(kMarkerSize));
-  if (in.Get<std::uint64_t>() != kMarkerMagic || in.Get<std::uint32_t>() != kFormat)
-    return std::nullopt;
-  if (in.Get<std::uint64_t>() != Checksum(block.first(kJournalBlock).subspan(kChecked)))
-    return std::nullopt;
+  const ByteSpan whole = block.first(kJournalBlock);
+  Unpacker in(whole.first(kMarkerSize));
+  if (!Opens(in, kMarkerMagic, whole)) return std::nullopt;
   JournalMarker marker;
   marker.World = in.Get<std::uint64_t>();
   marker.Sequence = in.Get<std::uint64_t>();
   marker.Digest = in.Get<std::uint64_t>();
+  marker.Reserved = in.Get<std::int64_t>();
   return marker;
 }
 
+Bytes PackSeal(const WorldSeal& seal) {
+  Packer out(kSealMagic, kJournalBlock);
+  out.Put(seal.World);
+  out.Put(seal.Sequence);
+  out.Put(static_cast<std::uint32_t>(seal.Files.OfFiles().size()));
+  for (const auto& [name, digest] : seal.Files.OfFiles()) {
+    out.Put(name);
+    out.Put(digest);
+  }
+  return std::move(out).Sealed();
+}
+
+std::optional<WorldSeal> UnpackSeal(ByteSpan bytes) {
+  Unpacker in(bytes);
+  if (bytes.size() < kChecked || !Opens(in, kSealMagic, bytes)) return std::nullopt;
+  WorldSeal seal;
+  seal.World = in.Get<std::uint64_t>();
+  seal.Sequence = in.Get<std::uint64_t>();
+  for (auto files = in.Get<std::uint32_t>(); files > 0 && in.Whole(); --files) {
+    std::string name = in.GetName();
+    seal.Files.Set(std::move(name), in.Get<std::uint64_t>());
+  }
+  if (!in.Whole()) return std::nullopt;
+  return seal;
+}
+
 Bytes PackRecord(const JournalRecord& record) {
-  Packer out(ExpectedSize(record));
-  out.Put(kRecordMagic);
-  out.Put(kFormat);
-  out.Put(std::uint64_t{0});  // the checksum
+  Packer out(kRecordMagic, ExpectedSize(record));
   out.Put(record.Sequence);
   out.Put(record.World);
   out.Put(std::uint64_t{0});  // the length
   out.Put(record.Digest);
   out.Put(static_cast<std::uint32_t>(record.Files.size()));
   for (const FilePatch& file : record.Files) {
-    out.Put(static_cast<std::uint16_t>(file.Name.size()));
-    out.Put(std::as_bytes(std::span(file.Name)));
+    out.Put(file.Name);
     out.Put(static_cast<std::uint8_t>(file.Exists));
     out.Put(file.Length);
     out.Put(static_cast<std::uint32_t>(file.Ranges.size()));

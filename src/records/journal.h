@@ -6,9 +6,11 @@
 #include <vector>
 
 #include "records/disk.h"
+#include "records/worlddigest.h"
 
 // The form of a journal: two blocks for its marker, then one record a commit, each padded to whole
-// blocks, one behind the other. All numbers are little-endian. docs/saving.md tells how it is used.
+// blocks, one behind the other; and of the seal beside it. All numbers are little-endian.
+// docs/saving.md tells how they are used.
 
 namespace grapplemont {
 
@@ -29,6 +31,7 @@ struct JournalQuirks {
   bool RetrySync = false;         // a failed sync is tried once more on the same handle
   bool TrustWhatIsRead = false;   // a chain is applied without a copy that is known to be on disk
   bool RemoveBeforeSwap = false;  // a creation clears the old folder before the swap is synced
+  bool TrustTheChain = false;     // a chain without a gap is applied whatever the files hold
 };
 
 /// Which world the journal belongs to, and the sequence up to which the record files themselves
@@ -36,7 +39,16 @@ struct JournalQuirks {
 struct JournalMarker {
   std::uint64_t World = 0;
   std::uint64_t Sequence = 0;
-  std::uint64_t Digest = 0;  // of the world at that sequence (WorldDigest)
+  std::uint64_t Digest = 0;   // of the world at that sequence (WorldDigest)
+  std::int64_t Reserved = 0;  // how long the journal is at least; 0 where nobody wrote it down
+};
+
+/// What the record files are being brought to: written before each commit's changes reach them.
+/// They hold nothing later, and where their digests are the seal's, they hold just that.
+struct WorldSeal {
+  std::uint64_t World = 0;
+  std::uint64_t Sequence = 0;
+  WorldDigest Files;
 };
 
 /// A stretch of a file's new contents; begins on a block and ends on one, or with the file.
@@ -64,12 +76,21 @@ struct JournalRecord {
 struct KnownFile {
   std::string Name;
   std::int64_t MaxBytes;
+  std::int64_t RecordBytes = 1;
+  bool Fleeting = false;  // made anew all the time: nobody misses what is wrong with it
+  /// What a longer file is cut to: whole records.
+  std::int64_t MostBytes() const { return MaxBytes / RecordBytes * RecordBytes; }
 };
 
 /// One block.
 Bytes PackMarker(const JournalMarker& marker);
 /// Nothing where the block is no whole marker.
 std::optional<JournalMarker> UnpackMarker(ByteSpan block);
+
+/// Whole blocks.
+Bytes PackSeal(const WorldSeal& seal);
+/// Nothing where the bytes are no whole seal.
+std::optional<WorldSeal> UnpackSeal(ByteSpan bytes);
 
 /// The record's bytes, padded to whole blocks.
 Bytes PackRecord(const JournalRecord& record);

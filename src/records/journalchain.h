@@ -26,6 +26,8 @@ struct JournalChain {
   /// The sequence and the digest of the world that marker and records lead to.
   std::uint64_t Last() const { return Records.empty() ? Marker.Sequence : Records.back().Sequence; }
   std::uint64_t Digest() const { return Records.empty() ? Marker.Digest : Records.back().Digest; }
+  /// Whether Digest() says anything.
+  bool Vouches() const { return MarkerRead || !Records.empty(); }
 };
 
 /// The chain for `world`; without one, for the world that the journal itself names. Records with a

@@ -42,21 +42,35 @@ void JournalFile::Continue(std::int64_t end, int markerBlock) {
   markerBlock_ = markerBlock;
 }
 
-void JournalFile::Replace(ByteSpan bytes) {
+void JournalFile::Replace(const JournalMarker& marker, ByteSpan records) {
   Drop();
   const std::string beside = path_ + kBesideSuffix;
-  WriteJournal(disk_, beside, bytes, bytes_);
+  WriteJournal(disk_, beside, marker, records, bytes_, 0);
   disk_.Rename(beside, path_);
   disk_.SyncFolder(folder_);
+  Continue(kJournalStart + std::ssize(records), 0);
+}
+
+bool JournalFile::IsInPlace() {
+  return !handle_ || disk_.IsAt(*handle_, path_);
 }
 
 void JournalFile::MakeRoom(ByteSpan record) {
-  const Disk::Handle handle = Handle();
-  const std::int64_t needed = std::max(end_ + std::ssize(record), bytes_);
+  Handle();
+  const std::int64_t needed = end_ + std::ssize(record);
   if (needed <= size_) return;
-  disk_.Allocate(handle, needed);
-  disk_.Resize(handle, needed);
-  size_ = needed;
+  try {
+    Grow(std::max(needed, bytes_));
+  } catch (const DiskError&) {
+    if (needed >= bytes_) throw;
+    Grow(needed);
+  }
+}
+
+void JournalFile::Grow(std::int64_t size) {
+  disk_.Allocate(Handle(), size);
+  disk_.Resize(Handle(), size);
+  size_ = size;
 }
 
 void JournalFile::Append(ByteSpan record) {
@@ -65,9 +79,11 @@ void JournalFile::Append(ByteSpan record) {
   end_ += std::ssize(record);
 }
 
-void JournalFile::Empty(const JournalMarker& marker) {
+void JournalFile::Empty(JournalMarker marker) {
   const int block = 1 - markerBlock_;
-  disk_.WriteAt(Handle(), block * kJournalBlock, PackMarker(marker));
+  const Disk::Handle handle = Handle();
+  marker.Reserved = size_;
+  disk_.WriteAt(handle, block * kJournalBlock, PackMarker(marker));
   Sync();
   Continue(kJournalStart, block);
 }
@@ -81,10 +97,31 @@ void JournalFile::Sync() {
   }
 }
 
-Bytes EmptyJournal(const JournalMarker& marker) {
-  Bytes bytes = PackMarker(marker);
-  bytes.resize(kJournalStart);
-  return bytes;
+void WriteJournal(Disk& disk, const std::string& path, JournalMarker marker, ByteSpan records,
+                  std::int64_t size, std::int64_t least) {
+  const OpenedFile file(disk, path, true);
+  const auto write = [&](std::int64_t length) {
+    disk.Resize(file, 0);
+    disk.Allocate(file, length);
+    marker.Reserved = length;
+    Bytes whole = PackMarker(marker);
+    whole.resize(kJournalStart);
+    whole.insert(whole.end(), records.begin(), records.end());
+    // Zeros that were really written: a sync over them later has no new blocks to note down, which
+    // makes it several times faster.
+    whole.resize(static_cast<std::size_t>(length));
+    disk.WriteAt(file, 0, whole);
+  };
+  const std::int64_t needed = kJournalStart + std::ssize(records);
+  least = std::max(least, needed);
+  size = std::max(size, needed);
+  try {
+    write(size);
+  } catch (const DiskError&) {
+    if (least >= size) throw;
+    write(least);
+  }
+  disk.Sync(file);
 }
 
 }  // namespace grapplemont

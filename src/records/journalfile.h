@@ -19,21 +19,25 @@ class JournalFile {
   Bytes Read(std::int64_t limit);
   /// Tells where the chain that was read ends and which block its marker stands in.
   void Continue(std::int64_t end, int markerBlock);
-  /// Replaces the file by a fresh one that holds these bytes, in one step, all of it on disk when
-  /// this returns.
-  void Replace(ByteSpan bytes);
+  /// Replaces the file by a fresh one with this marker and these records, in one step, all of it on
+  /// disk when this returns. On a full disk it is no longer than they are.
+  void Replace(const JournalMarker& marker, ByteSpan records);
+  /// False once its path leads to another file, or to none.
+  bool IsInPlace();
   bool Fits(ByteSpan record) const { return end_ + std::ssize(record) <= size_; }
-  /// Room for the record behind the last one; the journal becomes longer if it must.
+  /// Room for the record behind the last one. A journal that must become longer becomes as long as
+  /// usual where the disk has the room, else as long as it must.
   void MakeRoom(ByteSpan record);
   /// Writes the record behind the last one; it is on disk when this returns.
   void Append(ByteSpan record);
   bool IsEmpty() const { return end_ == kJournalStart; }
   /// The files hold everything: the marker says so, and no record counts any more.
-  void Empty(const JournalMarker& marker);
+  void Empty(JournalMarker marker);
   void Drop();
 
  private:
   Disk::Handle Handle();
+  void Grow(std::int64_t size);
   void Sync();
 
   Disk& disk_;
@@ -45,7 +49,9 @@ class JournalFile {
   int markerBlock_ = 1;
 };
 
-/// The bytes of a journal without records.
-Bytes EmptyJournal(const JournalMarker& marker);
+/// Makes a journal's file, of `size` bytes if the disk has the room for them, else of `least`, but
+/// always as long as marker and records. It is on disk when this returns, its name is not.
+void WriteJournal(Disk& disk, const std::string& path, JournalMarker marker, ByteSpan records,
+                  std::int64_t size, std::int64_t least);
 
 }  // namespace grapplemont

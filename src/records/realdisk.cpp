@@ -102,6 +102,17 @@ class MachineDisk : public Disk {
     return about.st_size;
   }
 
+  bool IsAt(Handle file, const std::string& path) override {
+    struct stat opened {
+    }, there{};
+    if (::fstat(file, &opened) != 0) Fail(PathOf(file), "look at");
+    if (::lstat(path.c_str(), &there) != 0) {
+      if (errno == ENOENT || errno == ENOTDIR) return false;
+      Fail(path, "look at");
+    }
+    return opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
+  }
+
   void ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) override {
     while (!buffer.empty()) {
       const ssize_t got =

@@ -7,7 +7,6 @@
 #include "records/slotfiles.h"
 #include "records/slotfolder.h"
 #include "records/slotrescue.h"
-#include "records/worlddigest.h"
 
 namespace grapplemont {
 
@@ -15,6 +14,7 @@ namespace {
 
 constexpr const char* kTakenBack = "Your last step was taken back.";
 constexpr const char* kKept = "Your last step is kept.";
+constexpr const char* kStepsLost = "Its journal has lost steps that were kept.";
 constexpr const char* kUntilMended =
     "Your last step was taken back, and nothing can be kept until the disk answers again.";
 constexpr const char* kKeptUntilMended =
@@ -35,12 +35,9 @@ SlotBusy::SlotBusy(const std::string& folder)
                          " is open in another program. Close it there first; nothing was "
                          "changed.") {}
 
-SlotDamaged::SlotDamaged(const std::string& folder, std::string copy)
-    : std::runtime_error("The journal of the slot " + folder +
-                         " is damaged: something that was kept in it is lost. The game can go on "
-                         "from the last state that is whole; the slot as it is now will be kept "
-                         "in " +
-                         copy + "."),
+SlotDamaged::SlotDamaged(const std::string& folder, const std::string& damage, std::string copy)
+    : std::runtime_error("The slot " + folder + " is damaged. " + damage +
+                         " The slot as it is now will be kept in " + copy + "."),
       copy_(std::move(copy)) {}
 
 struct Slot::Insides {
@@ -74,11 +71,12 @@ struct Slot::Insides {
 
   void Open(Damage damage);
   void LookOver();
-  void TakeOver();
-  void Adopt();
-  void SetJournalAside(const std::string& remark);
-  void Replay(ByteSpan journal, const JournalChain& chain);
-  void Rescue(ByteSpan journal, std::optional<std::uint64_t> id);
+  void Adopt(const StoredSlot& stored, SlotFinding finding);
+  void Mend(const StoredSlot& stored, SlotFinding finding);
+  void GoOn(SlotFinding finding, const StoredSlot& stored);
+  void SyncAll();
+  void WriteSeal();
+  void RequireInPlace();
 
   void Recover();
   bool TryRecover();
@@ -94,24 +92,27 @@ void Slot::Insides::Open(Damage damage) {
   if (Disk.Look(Folder) != Disk::Kind::Folder)
     throw DiskError(Folder, "open", "it is no plain folder");
   LookOver();
-  if (Disk.Look(Path(kWorldIdName)) == Disk::Kind::Nothing) return Adopt();
-  const auto id = ReadWorldId(Disk, Folder);
-  const Bytes journal = ReadJournal();
-  const JournalChain chain = ReadChain(journal, id, Known, ~std::uint64_t{0}, Options.Quirks);
-  if (!id || chain.Found == JournalChain::State::Damaged) {
-    if (damage == Damage::Refuse) throw SlotDamaged(Folder, FreeCopyName(Disk, Folder));
-    Rescue(journal, id);
-    return Open(Damage::Refuse);
-  }
-  World = *id;
-  if (chain.Found == JournalChain::State::Foreign) {
-    SetJournalAside("The journal of another world lay in this slot. It was left aside.");
-  } else if (chain.Found == JournalChain::State::Unreadable) {
-    SetJournalAside(journal.empty()
-                        ? "This slot had no journal; it has a new one now."
-                        : "What lay in the journal's place is none. It was left aside.");
+  const StoredSlot stored = ReadStoredSlot(Disk, Folder, Known, ReadJournal());
+  SlotFinding finding = Examine(stored, Known, Options);
+  World = finding.World;
+  if (!finding.Damage.empty()) {
+    if (finding.GivesUp && damage == Damage::Refuse)
+      throw SlotDamaged(Folder, finding.Damage, FreeCopyName(Disk, Folder));
+    Mend(stored, std::move(finding));
+  } else if (!stored.HasId) {
+    Adopt(stored, std::move(finding));
   } else {
-    Replay(journal, chain);
+    // The last record may have been read out of the system's memory only: a process killed before
+    // its sync leaves that, and so does a sync that failed. Were its effects to reach the files
+    // first, a power cut would leave half of it and no way back. So all of it goes to disk once
+    // more, in a file of its own: rewriting a record in its place could lose one that was promised.
+    const JournalChain& chain = finding.Chain;
+    Journal.Continue(chain.End, chain.MarkerBlock);
+    if (!chain.Records.empty() && !Options.Quirks.TrustWhatIsRead)
+      Journal.Replace(chain.Marker, ByteSpan(stored.Journal)
+                                        .first(static_cast<std::size_t>(chain.End))
+                                        .subspan(kJournalStart));
+    GoOn(std::move(finding), stored);
   }
 }
 
@@ -124,7 +125,7 @@ void Slot::Insides::LookOver() {
       return [&name, suffix](const KnownFile& file) { return file.Name + suffix == name; };
     };
     if (std::any_of(Known.begin(), Known.end(), is("")) || name == kWorldIdName ||
-        name == kJournalName) {
+        name == kJournalName || name == kSealName) {
       if (Disk.Look(Path(name)) != Disk::Kind::File)
         throw DiskError(Path(name), "open", "it is no plain file");
     } else if (std::any_of(Known.begin(), Known.end(), is(kRoomSuffix)) ||
@@ -140,63 +141,73 @@ void Slot::Insides::LookOver() {
                       " files in all that are none of a game.");
 }
 
-/// Reads the files, and sees to it that they are on disk: who wrote them last, and whether it was
-/// ever synced, is not known. What is promised from now on builds on them.
-void Slot::Insides::TakeOver() {
-  Files = ReadKnownFiles(Disk, Folder, Known);
-  Digest = DigestOf(Files);
-  for (const auto& [name, contents] : Files) Records.Touch(name);
+/// From here the files are what the finding says: the chain is applied, all is on disk (who wrote
+/// the files last, and whether they were ever synced, is not known), and the journal is empty.
+void Slot::Insides::GoOn(SlotFinding finding, const StoredSlot& stored) {
+  Files = std::move(finding.Files);
+  Digest = std::move(finding.Digest);
+  Sequence = finding.Chain.Last();
+  WriteSeal();
+  for (const JournalRecord& record : finding.Chain.Records)
+    for (const FilePatch& patch : record.Files) Records.Apply(patch);
+  for (const auto& [name, size] : stored.TooLong)
+    if (const auto file = Files.find(name); file != Files.end())
+      Records.Apply({name, true, std::ssize(file->second), {}});
+  SyncAll();
+  Journal.Empty({World, Sequence, Digest.Value()});
+}
+
+void Slot::Insides::SyncAll() {
+  for (const KnownFile& file : Known) Records.Touch(file.Name);
   Records.Sync();
   Disk.SyncFolder(ParentOf(Folder));
 }
 
-/// A folder from elsewhere: only its record files are believed, and from now on it is a slot.
-void Slot::Insides::Adopt() {
-  TakeOver();
-  World = Digest.Value();
-  SetJournalAside(Disk.Look(Path(kJournalName)) == Disk::Kind::Nothing
-                      ? "This folder had no journal; it has a new one now."
-                      : "The journal that lay in this folder cannot be known to be its own. It was "
-                        "left aside.");
-  WriteFile(Disk, Path(kWorldIdName), PackWorldId(World));
+/// Comes before each change that reaches the files: see WorldSeal.
+void Slot::Insides::WriteSeal() {
+  const Bytes seal = PackSeal({World, Sequence, Digest});
+  Records.Apply({kSealName, true, std::ssize(seal), {{0, seal}}});
 }
 
-void Slot::Insides::SetJournalAside(const std::string& remark) {
-  TakeOver();
+/// A folder from elsewhere: only its record files are believed, and from now on it is a slot.
+void Slot::Insides::Adopt(const StoredSlot& stored, SlotFinding finding) {
+  SyncAll();
   Journal.Drop();
-  if (Disk.Look(Path(kJournalName)) != Disk::Kind::Nothing) {
+  const bool hasJournal = Disk.Look(Path(kJournalName)) != Disk::Kind::Nothing;
+  if (hasJournal) {
     Disk.Rename(Path(kJournalName), Path(kOtherJournalName));
     Disk.SyncFolder(Folder);
   }
-  Journal.Replace(EmptyJournal({World, 0, Digest.Value()}));
-  Remarks.push_back(remark);
+  Remarks.push_back(hasJournal ? "The journal that lay in this folder cannot be known to be its "
+                                 "own. It was left aside."
+                               : "This folder had no journal; it has a new one now.");
+  finding.Chain.Marker = {World, 0, finding.Digest.Value()};
+  Journal.Replace(finding.Chain.Marker, {});
+  GoOn(std::move(finding), stored);
+  WriteFile(Disk, Path(kWorldIdName), PackWorldId(World));
 }
 
-void Slot::Insides::Replay(ByteSpan journal, const JournalChain& chain) {
-  // The last record may have been read out of the system's memory only: a process killed before its
-  // sync leaves that, and so does a sync that failed. Were its effects to reach the files first, a
-  // power cut would leave half of it and no way back. So all of it goes to disk once more, in a
-  // file of its own: rewriting a record in its place could lose one that was already promised.
-  if (!chain.Records.empty() && !Options.Quirks.TrustWhatIsRead)
-    Journal.Replace(journal.first(static_cast<std::size_t>(chain.End)));
-  for (const JournalRecord& record : chain.Records)
-    for (const FilePatch& patch : record.Files) Records.Apply(patch);
-  TakeOver();
-  if (chain.MarkerRead && Digest.Value() != chain.Digest())
-    Remarks.push_back(
-        "Files of this slot were changed from outside since the game last kept them.");
-  Sequence = chain.Last();
-  Journal.Continue(chain.End, chain.MarkerBlock);
-  Journal.Empty({World, Sequence, Digest.Value()});
-}
-
-void Slot::Insides::Rescue(ByteSpan journal, std::optional<std::uint64_t> id) {
-  Journal.Drop();
-  RescuedWorld rescued = RescueWorld(ReadKnownFiles(Disk, Folder, Known), journal, id, Known);
+/// The folder is copied as it is. Then the files, as they are, begin a new journal, and what makes
+/// the world found of them is the one record in it: from there on it is a slot like any other.
+void Slot::Insides::Mend(const StoredSlot& stored, SlotFinding finding) {
   const std::string copy = FreeCopyName(Disk, Folder);
   CopyBeside(Disk, Folder, copy);
-  ReplaceSlot(Disk, Folder, rescued.Files, rescued.World, Options.JournalBytes, Options.Quirks);
-  Remarks = {rescued.Remark, "The slot as it was is kept in " + copy + "."};
+  Remarks.push_back("The slot was damaged. " + finding.Damage);
+  Remarks.push_back("The slot as it was is kept in " + copy + ".");
+  SyncAll();
+  if (!stored.Id) WriteFile(Disk, Path(kWorldIdName), PackWorldId(World));
+  JournalChain chain;
+  chain.Marker = {World, finding.Newest, DigestOf(stored.Files).Value()};
+  Bytes packed;
+  JournalRecord record{World, finding.Newest + 1, finding.Digest.Value(),
+                       PatchesTo(finding, stored)};
+  if (!record.Files.empty()) {
+    packed = PackRecord(record);
+    chain.Records.push_back(std::move(record));
+  }
+  Journal.Replace(chain.Marker, packed);
+  finding.Chain = std::move(chain);
+  GoOn(std::move(finding), stored);
 }
 
 // Running.
@@ -210,7 +221,7 @@ void Slot::Insides::Recover() {
   const Bytes journal = ReadJournal();
   const JournalChain chain = ReadChain(journal, World, Known, Sequence, Options.Quirks);
   if (chain.Found != JournalChain::State::Sound || chain.Last() < Sequence)
-    throw SlotDamaged(Folder, FreeCopyName(Disk, Folder));
+    throw SlotDamaged(Folder, kStepsLost, FreeCopyName(Disk, Folder));
   for (const JournalRecord& record : chain.Records)
     for (const FilePatch& patch : record.Files) Records.Apply(patch);
   Records.Sync();
@@ -218,6 +229,14 @@ void Slot::Insides::Recover() {
   Journal.Empty({World, spent, Digest.Value()});
   Sequence = spent;
   Broken = false;
+}
+
+/// Whoever removes or replaces a slot while it is open leaves the old files to this program alone:
+/// they take every step, and nobody finds it again.
+void Slot::Insides::RequireInPlace() {
+  const std::string lost = Journal.IsInPlace() ? Records.Displaced() : Path(kJournalName);
+  if (!lost.empty())
+    throw DiskError(lost, "keep anything in", "it was removed or replaced while the slot was open");
 }
 
 bool Slot::Insides::TryRecover() {
@@ -261,6 +280,7 @@ void Slot::Insides::MakeRoom(const std::vector<FileChange>& changes, ByteSpan re
 void Slot::Insides::Checkpoint() {
   if (Broken) return Recover();
   if (Journal.IsEmpty()) return;
+  RequireInPlace();
   try {
     const JournalMarker marker{World, Sequence, Digest.Value()};
     if (Options.Quirks.EmptyBeforeFiles) Journal.Empty(marker);
@@ -284,21 +304,14 @@ std::optional<Bytes> Slot::Peek(Disk& disk, const std::string& folder,
                                 const std::vector<KnownFile>& known, const std::string& name) {
   const std::string standing = StandingFolder(disk, folder);
   if (standing.empty()) return std::nullopt;
-  std::optional<Bytes> file;
-  const std::string path = standing + "/" + name;
-  const auto is =
-      std::find_if(known.begin(), known.end(), [&](auto& one) { return one.Name == name; });
-  if (is != known.end() && disk.Look(path) == Disk::Kind::File)
-    file = ReadStart(disk, path, is->MaxBytes);
-  if (disk.Look(standing + "/" + kWorldIdName) != Disk::Kind::File) return file;
-  const auto id = ReadWorldId(disk, standing);
   const SlotOptions usual;
   JournalFile journal(disk, standing, usual.JournalBytes, usual.Quirks);
-  const Bytes bytes = journal.Read(LongestJournal(known, usual.JournalBytes));
-  for (const JournalRecord& record : ReadChain(bytes, id, known).Records)
-    for (const FilePatch& patch : record.Files)
-      if (patch.Name == name) ApplyTo(file, patch);
-  return file;
+  const StoredSlot stored = ReadStoredSlot(disk, standing, known,
+                                           journal.Read(LongestJournal(known, usual.JournalBytes)));
+  SlotFinding found = Examine(stored, known, usual);
+  const auto file = found.Files.find(name);
+  if (file == found.Files.end()) return std::nullopt;
+  return std::move(file->second);
 }
 
 Slot::Slot(Disk& disk, std::string folder, std::vector<KnownFile> known, Damage damage,
@@ -339,19 +352,16 @@ void Slot::Commit(const std::vector<FileChange>& changes) {
   in.Require(changes);
   bool written = false;
   try {
+    in.RequireInPlace();
     if (in.Broken) in.Recover();
     JournalRecord record{in.World, in.Sequence + 1, 0, {}};
     WorldDigest digest = in.Digest;
     for (const FileChange& change : changes) {
-      FilePatch patch{change.Name, change.ExistsAfter, std::ssize(change.After), {}};
-      if (change.ExistsAfter) {
-        patch.Ranges = ChangedRanges(change.Before, change.After, in.Options.Quirks);
+      record.Files.push_back(PatchOf(change, in.Options.Quirks));
+      if (change.ExistsAfter)
         digest.Set(change.Name, change.After);
-      } else {
-        patch.Length = 0;
+      else
         digest.Remove(change.Name);
-      }
-      record.Files.push_back(std::move(patch));
     }
     record.Digest = digest.Value();
     const Bytes packed = PackRecord(record);
@@ -361,6 +371,7 @@ void Slot::Commit(const std::vector<FileChange>& changes) {
     in.Sequence = record.Sequence;
     in.Digest = std::move(digest);
     in.Committed = true;
+    in.WriteSeal();
     for (const FilePatch& patch : record.Files) in.Records.Apply(patch);
   } catch (const DiskError& fault) {
     // What the disk holds now is unknown: only reading it anew tells.

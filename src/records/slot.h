@@ -31,12 +31,12 @@ class SlotBusy : public std::runtime_error {
   explicit SlotBusy(const std::string& folder);
 };
 
-/// The slot's journal cannot be vouched for: something that was once finished in it is lost.
-/// Nothing was touched. Opening with `Damage::Drop` first keeps the folder as it is at CopyFolder()
-/// and then goes on from the last world that is whole.
+/// The slot's journal and files do not go together, and something that may have been kept must be
+/// given up. Nothing was touched. The text says what is known and what would be left. Opening with
+/// `Damage::Drop` first keeps the folder as it is at CopyFolder() and then goes on so.
 class SlotDamaged : public std::runtime_error {
  public:
-  SlotDamaged(const std::string& folder, std::string copy);
+  SlotDamaged(const std::string& folder, const std::string& damage, std::string copy);
   const std::string& CopyFolder() const { return copy_; }
 
  private:
@@ -66,8 +66,9 @@ class Slot {
   static std::optional<Bytes> Peek(Disk& disk, const std::string& folder,
                                    const std::vector<KnownFile>& known, const std::string& name);
 
-  /// Takes the slot's lock, replays its journal and reads all known files. Throws SlotBusy,
-  /// SlotDamaged, DiskError; then the world on disk is as it was.
+  /// Takes the slot's lock, reads all known files and replays its journal. Damage that costs
+  /// nothing is mended after a copy of the folder, and remarked on. Throws SlotBusy, SlotDamaged,
+  /// DiskError; then the world on disk is as it was.
   Slot(Disk& disk, std::string folder, std::vector<KnownFile> known, Damage damage = Damage::Refuse,
        const SlotOptions& options = {});
   ~Slot();  // no checkpoint: call Checkpoint for a clean exit
@@ -86,7 +87,8 @@ class Slot {
   /// is what the last commit left. Throws DiskError, whose text says what became of the step;
   /// Committed() then tells whether the changes stand all the same (what failed came after the
   /// commit itself). The slot has recovered by then, or does so before the next commit. Throws
-  /// std::invalid_argument for a file that the slot does not know or that is too long.
+  /// std::invalid_argument for a file that the slot does not know or that is too long. Refuses the
+  /// step once the slot's files have been removed or replaced from outside.
   void Commit(const std::vector<FileChange>& changes);
   bool Committed() const;
   /// Brings the record files themselves up to date and empties the journal. Throws DiskError; no

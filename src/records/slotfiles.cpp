@@ -46,6 +46,12 @@ void SlotFiles::ReserveNew(const std::string& name, std::int64_t size) {
   disk_.Allocate(handle, size);
 }
 
+std::string SlotFiles::Displaced() {
+  for (const auto& [name, file] : open_)
+    if (!disk_.IsAt(file.Handle, Path(name))) return Path(name);
+  return {};
+}
+
 void SlotFiles::GiveBack() {
   for (const auto& [name, file] : reserved_) {
     disk_.Close(file.Handle);

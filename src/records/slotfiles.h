@@ -22,6 +22,8 @@ class SlotFiles {
   void Reserve(const std::string& name, std::int64_t size);
   /// Room for a file that is still to be made: in a file beside its place, which Apply takes.
   void ReserveNew(const std::string& name, std::int64_t size);
+  /// The path of an open file that no longer leads to it; empty where all do.
+  std::string Displaced();
   /// Takes back what ReserveNew made and nobody used; never throws.
   void GiveBack();
   /// Brings a file to what the patch says, without syncing; however much of it stands there

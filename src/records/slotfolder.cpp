@@ -126,19 +126,6 @@ void WriteNewFile(Disk& disk, const std::string& path, ByteSpan bytes) {
   disk.Sync(file);
 }
 
-void WriteJournal(Disk& disk, const std::string& path, ByteSpan bytes, std::int64_t size) {
-  const OpenedFile file(disk, path, true);
-  disk.Resize(file, 0);
-  size = std::max(size, std::ssize(bytes));
-  disk.Allocate(file, size);
-  // Zeros that were really written: a sync over them later has no new blocks to note down, which
-  // makes it several times faster.
-  Bytes whole(bytes.begin(), bytes.end());
-  whole.resize(static_cast<std::size_t>(size));
-  disk.WriteAt(file, 0, whole);
-  disk.Sync(file);
-}
-
 Bytes PackWorldId(std::uint64_t id) {
   Bytes bytes;
   Append(bytes, id);
@@ -164,7 +151,7 @@ bool IsOfSlot(std::string_view name) {
     if (!name.ends_with(suffix)) continue;
     const std::string_view stem = name.substr(0, name.size() - suffix.size());
     if (stem == kJournalName || stem == kWorldIdName || stem == kOtherJournalName ||
-        MostBytesOf(stem) > 0)
+        stem == kSealName || MostBytesOf(stem) > 0)
       return true;
   }
   return false;
@@ -173,14 +160,15 @@ bool IsOfSlot(std::string_view name) {
 void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
                  std::uint64_t worldId, std::int64_t journalBytes, const JournalQuirks& quirks) {
   Replace(disk, folder, quirks, [&](const std::string& built) {
-    WorldDigest digest;
+    WorldSeal seal{worldId, 0, {}};
     for (const NewFile& file : files) {
       WriteNewFile(disk, built + "/" + file.Name, file.Contents);
-      digest.Set(file.Name, file.Contents);
+      seal.Files.Set(file.Name, file.Contents);
     }
     WriteNewFile(disk, built + "/" + kWorldIdName, PackWorldId(worldId));
-    WriteJournal(disk, built + "/" + kJournalName, EmptyJournal({worldId, 0, digest.Value()}),
-                 journalBytes);
+    WriteNewFile(disk, built + "/" + kSealName, PackSeal(seal));
+    WriteJournal(disk, built + "/" + kJournalName, {worldId, 0, seal.Files.Value()}, {},
+                 journalBytes, journalBytes);
   });
 }
 
@@ -218,7 +206,9 @@ std::string FreeCopyName(Disk& disk, const std::string& folder) {
 }
 
 void CopyBeside(Disk& disk, const std::string& folder, const std::string& copy) {
-  const std::string built = NewOf(folder);
+  // Not where FinishSwap looks: what it finds there it takes for a slot.
+  const std::string built = NewOf(copy);
+  RemoveTree(disk, built);
   disk.MakeFolder(built);
   for (const std::string& name : disk.List(folder))
     if (disk.Look(folder + "/" + name) == Disk::Kind::File)

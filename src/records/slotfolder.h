@@ -13,6 +13,7 @@ namespace grapplemont {
 
 inline constexpr const char* kJournalName = "journal";
 inline constexpr const char* kWorldIdName = "world.id";
+inline constexpr const char* kSealName = "world.seal";
 /// Where a journal that is another world's is put.
 inline constexpr const char* kOtherJournalName = "journal.other";
 inline constexpr const char* kBesideSuffix = ".new";  // being made, to replace the name without it
@@ -33,12 +34,12 @@ class SlotLock {
 
 /// Makes a file that did not exist, on disk when this returns (its name is not).
 void WriteNewFile(Disk& disk, const std::string& path, ByteSpan bytes);
-/// The same for a journal that begins with these bytes and has room for at least `size`.
-void WriteJournal(Disk& disk, const std::string& path, ByteSpan bytes, std::int64_t size);
 
 /// The contents of world.id, and back; nothing where they are no id.
 Bytes PackWorldId(std::uint64_t id);
 std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes);
+/// The id of the world in the folder; nothing where no file holds one.
+std::optional<std::uint64_t> ReadWorldId(Disk& disk, const std::string& folder);
 
 /// The id of the world in the folder; nothing where no file holds one.
 std::optional<std::uint64_t> ReadWorldId(Disk& disk, const std::string& folder);

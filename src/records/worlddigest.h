@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "records/disk.h"
 
@@ -13,8 +14,13 @@ namespace grapplemont {
 class WorldDigest {
  public:
   void Set(const std::string& name, ByteSpan contents);
+  void Set(std::string name, std::uint64_t digest) { files_[std::move(name)] = digest; }
   void Remove(const std::string& name) { files_.erase(name); }
   std::uint64_t Value() const;
+  /// One number for each file, by its name.
+  const std::map<std::string, std::uint64_t>& OfFiles() const { return files_; }
+  /// The names of the files that are not the same in both.
+  std::vector<std::string> Differing(const WorldDigest& other) const;
 
  private:
   std::map<std::string, std::uint64_t> files_;

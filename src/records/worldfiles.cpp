@@ -11,7 +11,9 @@ std::vector<KnownFile> KnownFiles() {
   std::vector<KnownFile> known;
   const World world;
   for (const Table* table : world.Tables())
-    known.push_back({std::string(table->File()), table->MaxBytes()});
+    known.push_back({std::string(table->File()), table->MaxBytes(),
+                     table->Layout() ? table->Layout()->Size : 1,
+                     table->File() == LayoutOf<Incident>().File});
   return known;
 }
 
@@ -30,6 +32,10 @@ std::map<std::string, Bytes> ReadWorldFiles(Disk& disk, const std::string& folde
     if (kind == Disk::Kind::Nothing) continue;
     if (kind != Disk::Kind::File)
       throw WorldFault(ForScreen(path) + " is no plain file. Put the real file in its place.");
+    if (known.Fleeting) {
+      files.emplace(known.Name, ReadStart(disk, path, known.MostBytes()));
+      continue;
+    }
     auto bytes = ReadWithin(disk, path, known.MaxBytes);
     if (!bytes)
       throw WorldFault(ForScreen(path) + " is longer than its most of " +

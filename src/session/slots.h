@@ -18,7 +18,7 @@ struct SlotSummary {
   bool Playable = false;
 };
 
-/// Reads no more than the slot's gameinfo.dat; a slot in use is exactly one that has it.
+/// What loading the slot would find in its gameinfo.dat; a slot in use is exactly one that has it.
 SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder);
 
 /// What to ask before a game begins in a slot without one whose folder holds something all the

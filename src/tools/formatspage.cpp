@@ -40,8 +40,8 @@ places of the oldest one's.
 A slot also has a `journal`. Every click of the player is one commit: what it changed in any of the files is first
 written to the journal as one checked record and brought to the disk, and only then copied into the files. A commit is
 there whole or not at all, whatever becomes of the power. The files alone may therefore lag behind the journal; opening
-the slot replays it. `world.id` tells which journal belongs to the world, and `s1.lock` beside the slot keeps a second
-program out. [How saving works](saving.md) tells the rest. Copy a slot as a whole folder while no program has it open.
+the slot replays it. `world.id` tells which journal belongs to the world, `world.seal` how far the files are, and
+`s1.lock` beside the slot keeps a second program out. [How saving works](saving.md) tells the rest. Copy a slot as a whole folder while no program has it open.
 
 ## Records
 

@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "records/journalchain.h"
 #include "records/slot.h"
 #include "support/storeworld.h"
 
@@ -258,6 +259,34 @@ TEST(AFailedSyncThatNobodyRecoveredFrom, IsNotBuiltUpon) {
         });
   }
   EXPECT_GT(cuts, 2000);
+}
+
+/// After a kill on a full disk: room for what the chain holds and no more.
+TEST(AFullDisk, OpensASlotAsSoonAsItsChainFits) {
+  const std::vector<Files> worlds = RandomWorlds(5, 97);
+  CutDisk disk;
+  Slot::Create(disk, kStore, NewFiles(worlds[0]), kStoreId);
+  {
+    Slot slot(disk, kStore, StoreFiles());
+    for (std::size_t i = 1; i < 4; ++i) slot.Commit(ChangesBetween(worlds[i - 1], worlds[i]));
+  }
+  const Bytes journal = ReadFile(disk, "s1/journal");
+  const std::int64_t end = ReadChain(journal, kStoreId, StoreFiles()).End;
+  ASSERT_LT(end, 200000);
+  disk.HaveRoomFor(end - 1);
+  EXPECT_THROW(Slot(disk, kStore, StoreFiles()), DiskError);
+  disk.HaveRoomFor(end);
+  {
+    Slot slot(disk, kStore, StoreFiles());
+    EXPECT_EQ(worlds[3], slot.Files());
+    EXPECT_EQ(end, std::ssize(ReadFile(disk, "s1/journal")));
+    slot.Commit(ChangesBetween(worlds[3], worlds[4]));
+  }
+  disk.HaveRoomFor(std::nullopt);
+  const Slot slot(disk, kStore, StoreFiles());
+  EXPECT_EQ(worlds[4], slot.Files());
+  EXPECT_TRUE(slot.Remarks().empty());
+  EXPECT_EQ(4 << 20, std::ssize(ReadFile(disk, "s1/journal")));
 }
 
 }  // namespace

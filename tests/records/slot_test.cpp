@@ -89,6 +89,7 @@ TEST_F(ASlot, HoldsEveryCommitInItsRecordFilesAtOnce) {
     Files now = All(folder_);
     now.erase("journal");
     now.erase("world.id");
+    now.erase("world.seal");
     ASSERT_EQ(worlds_[world], now) << world;
   }
 }
@@ -184,95 +185,113 @@ TEST_F(ASlot, ShowsAFileAsItWouldBeWithoutTouchingAnything) {
   EXPECT_FALSE(Slot::Peek(*disk_, scratch_ / "s2", StoreFiles(), "tv.dat"));
 }
 
-// Damage.
+// Damage; damage_test.cpp has the journals.
 
 class ADamagedSlot : public ASlot {
  protected:
-  /// Expects a refusal that changes nothing, then takes what is good.
-  std::unique_ptr<Slot> RefusedThenRescued() {
+  /// Opens a slot whose damage costs nothing, and expects a copy of what it was.
+  std::unique_ptr<Slot> Mended(const std::string& what, const std::string& copy = "s1.damaged") {
     const Files before = All(folder_);
-    std::string copy;
-    try {
-      Open();
-      ADD_FAILURE() << "was not refused";
-    } catch (const SlotDamaged& damage) {
-      copy = damage.CopyFolder();
-      EXPECT_NE(std::string(damage.what()).find(copy), std::string::npos);
-    }
-    EXPECT_EQ(before, All(folder_));
-    EXPECT_EQ(Disk::Kind::Nothing, disk_->Look(copy));
-    auto slot = Open(Damage::Drop);
-    EXPECT_EQ(before, All(copy));
-    EXPECT_TRUE(Remarked(*slot, copy));
+    auto slot = Open();
+    EXPECT_TRUE(Remarked(*slot, what)) << what;
+    EXPECT_TRUE(Remarked(*slot, scratch_ / copy));
+    EXPECT_EQ(before, All(scratch_ / copy));
     return slot;
-  }
-  void ExpectToGoOn(std::unique_ptr<Slot> slot) {
-    const Files before = slot->Files();
-    Files after = before;
-    after["news.dat"] = BytesOf("On we go.");
-    slot->Commit(ChangesBetween(before, after));
-    slot.reset();
-    slot = Open();
-    EXPECT_EQ(after, slot->Files());
-    EXPECT_TRUE(slot->Remarks().empty());
   }
 };
 
-TEST_F(ADamagedSlot, LosesNothingWhereItsFilesHoldEveryStep) {
-  const auto places = Commit(1, 5);
-  Spoil("journal", places[2] + 300);
-  auto slot = RefusedThenRescued();
-  EXPECT_EQ(worlds_[5], slot->Files());
-  EXPECT_TRUE(Remarked(*slot, "every step could be found"));
-  ExpectToGoOn(std::move(slot));
-}
-
-TEST_F(ADamagedSlot, GoesBackBeforeTheDamageWhereLaterStepsHadNotReachedTheFiles) {
-  const auto places = Commit(1, 5);
-  PutFiles(worlds_[0]);
-  Spoil("journal", places[2] + 300);
-  auto slot = RefusedThenRescued();
-  EXPECT_EQ(worlds_[2], slot->Files());
-  EXPECT_TRUE(Remarked(*slot, "goes on from before the damage."));
-  ExpectToGoOn(std::move(slot));
-}
-
-TEST_F(ADamagedSlot, SaysSoWhereNoWholeWorldCanBeProven) {
-  const auto places = Commit(1, 5);
-  Files mixed = worlds_[1];
-  mixed["promos.dat"] = BytesOf("parts of a later step");
-  PutFiles(mixed);
-  Spoil("journal", places[0] + 300);
-  auto slot = RefusedThenRescued();
-  EXPECT_TRUE(Remarked(*slot, "may hold parts of later steps"));
-  ExpectToGoOn(std::move(slot));
-}
-
-TEST_F(ADamagedSlot, IsOneWhoseIdIsSpoiledToo) {
-  Commit(1, 3);
-  Spoil("world.id", 3);
-  auto slot = RefusedThenRescued();
-  EXPECT_EQ(worlds_[3], slot->Files());
-  ExpectToGoOn(std::move(slot));
-}
-
 TEST_F(ADamagedSlot, KeepsACopyForEachTime) {
   for (const char* copy : {"s1.damaged", "s1.damaged-2"}) {
-    const auto places = Commit(1, 3);
-    Spoil("journal", places[0] + 300);
-    EXPECT_EQ(worlds_[3], RefusedThenRescued()->Files());
-    EXPECT_EQ(Disk::Kind::Folder, disk_->Look(scratch_ / copy));
-    Slot::Create(*disk_, folder_, NewFiles(worlds_[0]), kStoreId);
+    Commit(1, 3);
+    Spoil("world.id", 3);
+    const auto slot = Mended("world.id is spoiled. Every step could be found again.", copy);
+    EXPECT_EQ(worlds_[3], slot->Files());
+    slot->Commit(ChangesBetween(worlds_[3], worlds_[0]));
   }
+  EXPECT_TRUE(Open()->Remarks().empty());
 }
 
 TEST_F(ADamagedSlot, IsNoneWhoseLastRecordWasNeverFinished) {
   const auto places = Commit(1, 5);
   Spoil("journal", places[4] + 300);
   PutFiles(worlds_[4]);
+  disk_->Remove(At("world.seal"));
   const auto slot = Open();
   EXPECT_EQ(worlds_[4], slot->Files());
   EXPECT_TRUE(slot->Remarks().empty());
+}
+
+TEST_F(ADamagedSlot, IsOneWithAnotherWorldsJournalWithNoneOrWithRubbish) {
+  Commit(1, 4);
+  const Bytes other = ReadFile(*disk_, At("journal"));
+  Slot::Create(*disk_, folder_, NewFiles(worlds_[6]), kStoreId + 1);
+  WriteFile(*disk_, At("journal"), other);
+  EXPECT_EQ(worlds_[6], Mended("journal in it is another world's")->Files());
+  WriteFile(*disk_, At("journal"), Bytes(100000, std::byte{'x'}));
+  EXPECT_EQ(worlds_[6], Mended("journal's place is none", "s1.damaged-2")->Files());
+  disk_->Remove(At("journal"));
+  EXPECT_EQ(worlds_[6], Mended("has no journal", "s1.damaged-3")->Files());
+}
+
+TEST_F(ADamagedSlot, NamesTheFilesThatWereChangedFromOutside) {
+  Commit(1, 2);
+  Open()->Checkpoint();
+  WriteFile(*disk_, At("tv.dat"), BytesOf("another program's"));
+  EXPECT_EQ(BytesOf("another program's"),
+            Mended("Not as the game last kept them: tv.dat.")->Files().at("tv.dat"));
+}
+
+TEST_F(ADamagedSlot, GoesOnWithoutTheSurplusOfAFileThatIsTooLong) {
+  WriteFile(*disk_, At("tv.dat"), Bytes(24001));
+  const Files before = All(folder_);
+  try {
+    Open();
+    ADD_FAILURE() << "was not asked";
+  } catch (const SlotDamaged& damage) {
+    const std::string text = damage.what();
+    EXPECT_NE(text.npos, text.find("tv.dat is 24001 bytes long, more than its most of 24000;"));
+    EXPECT_NE(text.npos, text.find(damage.CopyFolder()));
+  }
+  EXPECT_EQ(before, All(folder_));
+  EXPECT_EQ(24000u, Open(Damage::Drop)->Files().at("tv.dat").size());
+  EXPECT_EQ(before, All(scratch_ / "s1.damaged"));
+  EXPECT_EQ(24000u, All(folder_).at("tv.dat").size());
+  EXPECT_TRUE(Open()->Remarks().empty());
+}
+
+// Slots that are taken away from under the program.
+
+TEST_F(ASlot, RefusesEveryStepWhileItsFilesAreNotItsOwn) {
+  const auto slot = Open();
+  slot->Commit(ChangesBetween(worlds_[0], worlds_[1]));
+  const auto expectRefusal = [&] {
+    for (int attempt = 0; attempt < 2; ++attempt) try {
+        slot->Commit(ChangesBetween(worlds_[1], worlds_[2]));
+        ADD_FAILURE() << "nothing was noticed";
+      } catch (const DiskError& fault) {
+        EXPECT_NE(std::string(fault.what())
+                      .find("it was removed or replaced while the slot was "
+                            "open. Your last step was taken back."),
+                  std::string::npos)
+            << fault.what();
+      }
+    EXPECT_THROW(slot->Checkpoint(), DiskError);
+  };
+  disk_->Rename(folder_, scratch_ / "away");
+  expectRefusal();
+  EXPECT_EQ(Disk::Kind::Nothing, disk_->Look(folder_));
+  Slot::Create(*disk_, scratch_ / "s2", NewFiles(worlds_[7]), 2);
+  disk_->Rename(scratch_ / "s2", folder_);
+  const Files other = All(folder_);
+  expectRefusal();
+  EXPECT_EQ(other, All(folder_));
+  RemoveTree(*disk_, folder_);
+  disk_->Rename(scratch_ / "away", folder_);
+  slot->Commit(ChangesBetween(worlds_[1], worlds_[2]));
+  WriteFile(*disk_, At("tv.dat"), {});
+  worlds_[1] = worlds_[2];
+  worlds_[2] = worlds_[3];
+  expectRefusal();
 }
 
 // Folders from elsewhere.
@@ -289,17 +308,6 @@ TEST_F(AForeignFolder, OfRecordFilesAloneBecomesASlot) {
   EXPECT_TRUE(slot->Remarks().empty());
 }
 
-TEST_F(AForeignFolder, WithAnotherWorldsJournalIgnoresIt) {
-  Commit(1, 4);
-  const Bytes other = ReadFile(*disk_, At("journal"));
-  Slot::Create(*disk_, folder_, NewFiles(worlds_[6]), kStoreId + 1);
-  WriteFile(*disk_, At("journal"), other);
-  const auto slot = Open();
-  EXPECT_EQ(worlds_[6], slot->Files());
-  EXPECT_TRUE(Remarked(*slot, "journal of another world"));
-  EXPECT_EQ(other, ReadFile(*disk_, At("journal.other")));
-}
-
 TEST_F(AForeignFolder, WithAJournalAndNoIdIgnoresTheJournal) {
   Commit(1, 4);
   disk_->Remove(At("world.id"));
@@ -307,17 +315,7 @@ TEST_F(AForeignFolder, WithAJournalAndNoIdIgnoresTheJournal) {
   const auto slot = Open();
   EXPECT_EQ(worlds_[2], slot->Files());
   EXPECT_TRUE(Remarked(*slot, "left aside"));
-}
-
-TEST_F(AForeignFolder, WithNoJournalOrWithRubbishForOneGetsANewOne) {
-  disk_->Remove(At("journal"));
-  EXPECT_TRUE(Remarked(*Open(), "had no journal"));
-  WriteFile(*disk_, At("journal"), Bytes(100000, std::byte{'x'}));
-  EXPECT_TRUE(Remarked(*Open(), "is none"));
-  WriteFile(*disk_, At("journal"), {});
-  EXPECT_TRUE(Remarked(*Open(), "had no journal"));
-  Commit(1, 4);
-  EXPECT_EQ(worlds_[4], Open()->Files());
+  EXPECT_EQ(Disk::Kind::File, disk_->Look(At("journal.other")));
 }
 
 TEST_F(AForeignFolder, LeavesUnknownFilesAloneAndSaysSo) {
@@ -333,17 +331,7 @@ TEST_F(AForeignFolder, LeavesUnknownFilesAloneAndSaysSo) {
   EXPECT_EQ(21u, Open()->Remarks().size());
 }
 
-TEST_F(AForeignFolder, SaysWhenItsFilesWereChangedFromOutside) {
-  Commit(1, 2);
-  WriteFile(*disk_, At("tv.dat"), BytesOf("another program's"));
-  Open()->Checkpoint();
-  WriteFile(*disk_, At("tv.dat"), BytesOf("another program's again"));
-  const auto slot = Open();
-  EXPECT_EQ(BytesOf("another program's again"), slot->Files().at("tv.dat"));
-  EXPECT_TRUE(Remarked(*slot, "changed from outside"));
-}
-
-TEST_F(AForeignFolder, IsRefusedForLinksFoldersAndFilesThatAreTooLong) {
+TEST_F(AForeignFolder, IsRefusedForLinksAndFolders) {
   const auto refusal = [&] {
     try {
       Open();
@@ -364,10 +352,6 @@ TEST_F(AForeignFolder, IsRefusedForLinksFoldersAndFilesThatAreTooLong) {
     disk_->Remove(At(name));
     disk_->Rename(aside, At(name));
   }
-  WriteFile(*disk_, At("tv.dat"), Bytes(24001));
-  EXPECT_EQ(
-      "Could not open " + At("tv.dat") + ": it is 24001 bytes long, more than its most of 24000.",
-      refusal());
 }
 
 // Sizes.

@@ -121,6 +121,11 @@ std::int64_t CutDisk::Size(Handle file) {
   return state_.Contents(Of(file).File).Size();
 }
 
+bool CutDisk::IsAt(Handle file, const std::string& path) {
+  Begin(path, "look at", Need::Nothing);
+  return Find(path) == Of(file).File;
+}
+
 void CutDisk::ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) {
   const OpenHandle& of = Of(file);
   Begin(of.Path, "read", Need::Nothing);
@@ -163,8 +168,11 @@ void CutDisk::SyncFolder(const std::string& folder) {
      [node = Require(folder, "secure")](DiskState& state) { state.SyncFolder(node); });
 }
 
-void CutDisk::Allocate(Handle file, std::int64_t) {
-  Begin(Of(file).Path, "reserve room for", Need::Room);
+void CutDisk::Allocate(Handle file, std::int64_t size) {
+  const OpenHandle& of = Of(file);
+  Begin(of.Path, "reserve room for", Need::Room);
+  if (room_ && size > std::max(*room_, state_.Contents(of.File).Size()))
+    throw DiskError(of.Path, "reserve room for", ReasonOf(Fault::NoSpace));
 }
 
 void CutDisk::Resize(Handle file, std::int64_t size) {

@@ -59,6 +59,8 @@ class CutDisk : public Disk {
   bool HasFailed() const { return hasFailed_; }
   /// The disk answers again.
   void Heal() { failAt_ = 0; }
+  /// Nearly full: no file can be made longer than this, or there is room for all.
+  void HaveRoomFor(std::optional<std::int64_t> bytes) { room_ = bytes; }
   /// Lets the process die at the n-th call from now on, before anything of it is done.
   void DieAtCall(int n) { dieAt_ = calls_ + n; }
   /// The same disk under a new process: nothing open, nothing locked.
@@ -75,6 +77,7 @@ class CutDisk : public Disk {
   Handle Open(const std::string& path, bool create) override;
   void Close(Handle file) override;
   std::int64_t Size(Handle file) override;
+  bool IsAt(Handle file, const std::string& path) override;
   void ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) override;
   void WriteAt(Handle file, std::int64_t offset, ByteSpan bytes) override;
   void Sync(Handle file) override;
@@ -119,6 +122,7 @@ class CutDisk : public Disk {
   std::string ignoredSyncs_;
   int calls_ = 0, dieAt_ = 0, failAt_ = 0;
   Fault fault_ = Fault::Broken;
+  std::optional<std::int64_t> room_;
   bool failForGood_ = false, hasFailed_ = false;
   std::size_t longestRead_ = 0;
   bool recording_ = false;

@@ -109,6 +109,10 @@ int FoundWorld(Disk& disk, const std::vector<Files>& worlds, int least, int most
   std::string& why = fault ? *fault : ignored;
   try {
     const Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, options);
+    if (!slot.Remarks().empty()) {
+      why = slot.Remarks()[0];
+      return -1;
+    }
     for (int world = most; world >= least; --world)
       if (slot.Files() == worlds[static_cast<std::size_t>(world)]) return world;
     why = "no world from " + std::to_string(least) + " to " + std::to_string(most);

@@ -30,7 +30,8 @@ inline constexpr std::uint64_t kStoreId = 0x1234567890abcdef;
 SlotOptions SmallJournal(JournalQuirks quirks = {});
 
 /// The number among `worlds`, from `least` to `most`, of what the real code finds on the disk; -1
-/// for anything else, with `fault` saying what. Opens the slot on the way.
+/// for anything else and for a slot that is remarked on, with `fault` saying what. Opens the slot
+/// on the way.
 int FoundWorld(Disk& disk, const std::vector<Files>& worlds, int least, int most,
                const SlotOptions& options, std::string* fault = nullptr);
 

@@ -19,8 +19,7 @@ bool Open(Game& game, int slot) {
   try {
     remarks = game.OpenSlot(slot);
   } catch (const SlotDamaged& damage) {
-    if (!game.Desk().Ask("Error Loading",
-                         std::string(damage.what()) + "\nGo on from before the damage?",
+    if (!game.Desk().Ask("Error Loading", std::string(damage.what()) + "\nLoad it so?",
                          ui::Default::No))
       return false;
     remarks = game.OpenSlot(slot, true);

@@ -1,0 +1,323 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "records/journalchain.h"
+#include "records/slot.h"
+#include "records/slotfolder.h"
+#include "support/storeworld.h"
+
+// What copies, clouds and failing disks leave of a slot: a journal that was cut short or has zeros
+// in it, beside record files that are older than it, newer, or of several days. Power cuts leave
+// none of this (cut_test.cpp). Either a committed world is found, or the player is told, with a
+// copy of everything as it was.
+
+namespace grapplemont::test {
+namespace {
+
+/// A slot that nobody closed, with a chain of records behind a marker of its own.
+struct LongChain {
+  CutDisk Disk;
+  std::vector<Files> Worlds;
+  std::vector<Bytes> Seals;  // as it stood with each world
+  SlotOptions Options;
+  std::int64_t Blocks = 0;
+  int Marked = 0;  // the world of the marker
+  struct Place {
+    std::int64_t Begin, End;
+  };
+  std::vector<Place> Places;  // of the records behind it, in blocks
+
+  int Last() const { return static_cast<int>(std::ssize(Worlds)) - 1; }
+};
+
+std::string In(const std::string& name) {
+  return std::string(kStore) + "/" + name;
+}
+
+LongChain MakeChain(int commits, std::int64_t blocks, std::uint64_t seed) {
+  LongChain chain{{}, RandomWorlds(commits + 1, seed), {}, {blocks * kJournalBlock, {}}, blocks, 0,
+                  {}};
+  Slot::Create(chain.Disk, kStore, NewFiles(chain.Worlds[0]), kStoreId, chain.Options);
+  {
+    Slot slot(chain.Disk, kStore, StoreFiles(), Damage::Refuse, chain.Options);
+    chain.Seals.push_back(ReadFile(chain.Disk, In(kSealName)));
+    for (std::size_t i = 1; i < chain.Worlds.size(); ++i) {
+      slot.Commit(ChangesBetween(chain.Worlds[i - 1], chain.Worlds[i]));
+      chain.Seals.push_back(ReadFile(chain.Disk, In(kSealName)));
+    }
+  }
+  const Bytes journal = ReadFile(chain.Disk, In(kJournalName));
+  const JournalChain read = ReadChain(journal, kStoreId, StoreFiles());
+  chain.Marked = static_cast<int>(read.Marker.Sequence);
+  std::int64_t at = kJournalStart;
+  for (std::size_t i = 0; i < read.Records.size(); ++i) {
+    const auto entry = UnpackRecord(journal, at, StoreFiles());
+    chain.Places.push_back({at / kJournalBlock, (at + entry->Size) / kJournalBlock});
+    at += entry->Size;
+  }
+  return chain;
+}
+
+/// Record files beside the journal, and the seal with them.
+struct Beside {
+  Files World;
+  int Oldest, Newest;  // what they are parts of
+  Bytes Seal;
+  bool Sealed;  // the seal is of Newest or later
+};
+
+void PutBeside(Disk& disk, const Beside& beside) {
+  for (const KnownFile& known : StoreFiles()) RemoveTree(disk, In(known.Name));
+  for (const auto& [name, contents] : beside.World) WriteNewFile(disk, In(name), contents);
+  WriteNewFile(disk, In(kSealName), beside.Seal);
+}
+
+std::vector<Beside> EveryAge(const LongChain& chain) {
+  std::vector<Beside> all;
+  for (int v = 0; v <= chain.Last(); ++v) {
+    const auto at = static_cast<std::size_t>(v);
+    all.push_back({chain.Worlds[at], v, v, chain.Seals[at], true});
+    all.push_back({chain.Worlds[at], v, v, chain.Seals.back(), true});
+    all.push_back({chain.Worlds[at], v, v, {}, false});
+  }
+  return all;
+}
+
+/// Files of several days, as a copy takes them that was made during play.
+std::vector<Beside> Mixtures(const LongChain& chain, int count) {
+  Chance chance(7);
+  std::vector<Beside> all;
+  for (int i = 0; i < count; ++i) {
+    Beside mixed{
+        {}, chain.Last(), chain.Marked, i % 2 == 0 ? chain.Seals.back() : Bytes(), i % 2 == 0};
+    for (const KnownFile& known : StoreFiles()) {
+      const int v =
+          chain.Marked + static_cast<int>(Pick(
+                             chance, static_cast<std::uint64_t>(chain.Last() - chain.Marked + 1)));
+      mixed.Oldest = std::min(mixed.Oldest, v);
+      mixed.Newest = std::max(mixed.Newest, v);
+      const Files& world = chain.Worlds[static_cast<std::size_t>(v)];
+      if (const auto file = world.find(known.Name); file != world.end()) mixed.World.insert(*file);
+    }
+    all.push_back(std::move(mixed));
+  }
+  return all;
+}
+
+/// Blocks of the journal that are zeros, or gone.
+struct Loss {
+  std::int64_t Begin, End;
+  bool IsCut;
+};
+
+std::vector<Loss> EveryLoss(std::int64_t blocks) {
+  std::vector<Loss> all;
+  for (std::int64_t begin = 0; begin < blocks; ++begin) {
+    all.push_back({begin, blocks, true});
+    for (std::int64_t end = begin + 1; end <= blocks; ++end) all.push_back({begin, end, false});
+  }
+  return all;
+}
+
+void Lose(Disk& disk, const Loss& loss) {
+  const OpenedFile journal(disk, In(kJournalName), false);
+  const std::int64_t at = loss.Begin * kJournalBlock;
+  if (loss.IsCut)
+    disk.Resize(journal, at + (loss.Begin % 2 == 0 ? 0 : 700));
+  else
+    disk.WriteAt(journal, at,
+                 Bytes(static_cast<std::size_t>((loss.End - loss.Begin) * kJournalBlock)));
+  disk.Sync(journal);
+}
+
+Files All(Disk& disk, const std::string& folder) {
+  Files all;
+  for (const std::string& name : disk.List(folder)) all[name] = ReadFile(disk, folder + "/" + name);
+  return all;
+}
+
+/// How a damaged slot was opened.
+struct Outcome {
+  bool Asked = false, Told = false;
+  Files World;
+};
+
+Outcome Opened(CutDisk& disk, const SlotOptions& options) {
+  Outcome outcome;
+  const auto take = [&](Damage damage) {
+    const Slot slot(disk, kStore, StoreFiles(), damage, options);
+    outcome.World = slot.Files();
+    outcome.Told = !slot.Remarks().empty();
+  };
+  try {
+    take(Damage::Refuse);
+  } catch (const SlotDamaged&) {
+    outcome.Asked = true;
+    take(Damage::Drop);
+  }
+  return outcome;
+}
+
+/// Whether the slot is in order now, takes a further commit and gives it back.
+bool GoesOn(CutDisk& disk, const Outcome& outcome, const SlotOptions& options) {
+  Files after = outcome.World;
+  after["news.dat"] = BytesOf("On we go.");
+  {
+    Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, options);
+    if (!slot.Remarks().empty() || slot.Files() != outcome.World) return false;
+    slot.Commit(ChangesBetween(outcome.World, after));
+  }
+  return FoundWorld(disk, {after}, 0, 0, options) == 0;
+}
+
+class Judge {
+ public:
+  Judge(const LongChain& chain, const Beside& beside) : chain_(chain), beside_(beside) {}
+
+  /// What is wrong with what was found; empty for nothing.
+  std::string Fault(const Loss& loss, const Outcome& outcome) const {
+    int found = chain_.Last();
+    while (found >= 0 && chain_.Worlds[static_cast<std::size_t>(found)] != outcome.World) --found;
+    const bool silent = !outcome.Told;
+    if (outcome.Asked && silent) return "nothing was said after the question";
+    const bool isWhole = beside_.Oldest == beside_.Newest;
+    if (found < 0 && (isWhole || silent)) return "no committed world";
+    if (found < beside_.Newest && beside_.Sealed && silent) return "rolled back in silence";
+    if (found < beside_.Newest && beside_.Sealed && isWhole && !outcome.Asked)
+      return "rolled back without a question";
+    if (found < Provable(loss)) return "less than what can be proven";
+    if (beside_.Seal == chain_.Seals.back() && Provable(loss) == chain_.Last() && outcome.Asked)
+      return "a question where nothing is lost";
+    return {};
+  }
+
+ private:
+  bool IsWhole(int record, const Loss& loss) const {
+    const LongChain::Place& place =
+        chain_.Places[static_cast<std::size_t>(record - chain_.Marked - 1)];
+    return place.End <= loss.Begin || (!loss.IsCut && place.Begin >= loss.End);
+  }
+
+  /// The newest world that files, seal and what is left of the journal prove without doubt.
+  int Provable(const Loss& loss) const {
+    const int last = chain_.Last();
+    const bool isSealed = beside_.Seal == chain_.Seals[static_cast<std::size_t>(beside_.Newest)];
+    int provable = isSealed && beside_.Oldest == beside_.Newest ? beside_.Newest : -1;
+    if (beside_.Oldest < chain_.Marked) return provable;
+    bool all = true;
+    for (int record = beside_.Oldest + 1; record <= last; ++record) all &= IsWhole(record, loss);
+    // Without a record behind the loss nothing tells that the files are the last.
+    if (all && beside_.Oldest < last) return last;
+    int before = chain_.Marked;
+    while (before < last && IsWhole(before + 1, loss) &&
+           chain_.Places[static_cast<std::size_t>(before - chain_.Marked)].End <= loss.Begin)
+      ++before;
+    if (loss.Begin >= 2 && beside_.Newest <= before) provable = std::max(provable, before);
+    return provable;
+  }
+
+  const LongChain& chain_;
+  const Beside& beside_;
+};
+
+struct Figures {
+  int Cases = 0, Silent = 0, Mended = 0, Asked = 0, Bad = 0;
+  std::string First;
+};
+
+void Try(const LongChain& chain, const Beside& beside, const std::vector<Loss>& losses,
+         Figures& figures) {
+  CutDisk with = chain.Disk.Restarted();
+  PutBeside(with, beside);
+  const Judge judge(chain, beside);
+  for (const Loss& loss : losses) {
+    CutDisk disk = with.Restarted();
+    Lose(disk, loss);
+    const Files before = All(disk, kStore);
+    const Outcome outcome = Opened(disk, chain.Options);
+    std::string fault = judge.Fault(loss, outcome);
+    const std::string copy = std::string(kStore) + ".damaged";
+    const bool hasCopy = disk.Look(copy) == Disk::Kind::Folder;
+    if (fault.empty() && hasCopy != outcome.Told) fault = "a copy without a word, or none";
+    if (fault.empty() && hasCopy && All(disk, copy) != before) fault = "the copy is another";
+    if (fault.empty() && figures.Cases % 64 == 0 && !GoesOn(disk, outcome, chain.Options))
+      fault = "it does not go on";
+    ++figures.Cases;
+    ++(outcome.Asked ? figures.Asked : outcome.Told ? figures.Mended : figures.Silent);
+    if (fault.empty() || figures.Bad++ > 0) continue;
+    figures.First = fault + ": files " + std::to_string(beside.Oldest) + " to " +
+                    std::to_string(beside.Newest) + (beside.Sealed ? ", sealed" : "") + ", " +
+                    (loss.IsCut ? "cut" : "zeros") + " from block " + std::to_string(loss.Begin) +
+                    " to " + std::to_string(loss.End);
+  }
+}
+
+void Record(const Figures& figures) {
+  testing::Test::RecordProperty("cases", figures.Cases);
+  testing::Test::RecordProperty("silent", figures.Silent);
+  testing::Test::RecordProperty("mended", figures.Mended);
+  testing::Test::RecordProperty("asked", figures.Asked);
+  testing::Test::RecordProperty("bad", figures.Bad);
+}
+
+constexpr int kCommits = 18;
+constexpr std::int64_t kBlocks = 40;
+
+TEST(DamagedJournals, LeaveACommittedWorldOrTellWithACopy) {
+  const LongChain chain = MakeChain(kCommits, kBlocks, 171);
+  ASSERT_GT(chain.Marked, 0);
+  ASSERT_GE(chain.Places.size(), 6u);
+  const std::vector<Loss> losses = EveryLoss(kBlocks);
+  Figures figures;
+  for (const Beside& beside : EveryAge(chain)) Try(chain, beside, losses, figures);
+  for (const Beside& beside : Mixtures(chain, 8)) Try(chain, beside, losses, figures);
+  Record(figures);
+  EXPECT_EQ(0, figures.Bad) << "of " << figures.Cases << ", first " << figures.First;
+  EXPECT_GT(std::min({figures.Silent, figures.Mended, figures.Asked}), 500);
+}
+
+/// The files hold all that the journal has lost.
+TEST(DamagedJournals, AreFoundOutByTheSealAlone) {
+  LongChain chain = MakeChain(kCommits, kBlocks, 171);
+  chain.Options.Quirks.TrustTheChain = true;
+  Figures figures;
+  Try(chain, {chain.Worlds.back(), chain.Last(), chain.Last(), chain.Seals.back(), true},
+      EveryLoss(kBlocks), figures);
+  Record(figures);
+  EXPECT_GT(figures.Bad, 100) << "of " << figures.Cases;
+}
+
+/// The power is cut while a damaged slot is mended: the same world is found, and the copy is there.
+TEST(DamagedJournals, AreMendedWholeOrNotAtAll) {
+  const LongChain chain = MakeChain(kCommits, kBlocks, 171);
+  const LongChain::Place& third = chain.Places[2];
+  const auto last = static_cast<std::size_t>(chain.Last());
+  const auto marked = static_cast<std::size_t>(chain.Marked);
+  const Loss hole{third.Begin, third.End, false}, cut{third.Begin, kBlocks, true};
+  const std::pair<Beside, Loss> kCases[] = {
+      {{chain.Worlds[last], chain.Last(), chain.Last(), chain.Seals[last], true}, cut},
+      {{chain.Worlds[marked], chain.Marked, chain.Marked, chain.Seals[last], true}, cut},
+      {{chain.Worlds[marked + 3], chain.Marked + 3, chain.Marked + 3, {}, false}, hole},
+  };
+  for (const auto& [beside, loss] : kCases) {
+    CutDisk disk = chain.Disk.Restarted();
+    PutBeside(disk, beside);
+    Lose(disk, loss);
+    for (const char* folder : {kStore, "."}) disk.SyncFolder(folder);
+    const Files before = All(disk, kStore);
+    disk.Record();
+    const Files mended = Opened(disk, chain.Options).World;
+    const int cuts = ForEveryCut(disk, 12, 172, [&](CutDisk& after, const Cut& at) {
+      ASSERT_EQ(mended, Opened(after, chain.Options).World) << at.Where;
+      bool kept = false;
+      for (const std::string& name : after.List("."))
+        kept |= name.starts_with("s1.damaged") && All(after, name) == before;
+      ASSERT_TRUE(kept) << at.Where;
+    });
+    EXPECT_GT(cuts, 200);
+  }
+}
+
+}  // namespace
+}  // namespace grapplemont::test
