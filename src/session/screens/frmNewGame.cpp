@@ -4,7 +4,6 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "session/newgame.h"
-#include "session/screens/screens/sessionscreens.h"
 #include "session/screens/sessionscreens.h"
 #include "storylines/storynames.h"
 #include "storylines/titles.h"
