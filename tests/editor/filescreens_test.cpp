@@ -72,6 +72,8 @@ TEST(FrmEditor, ShowsTheFirstOfVeryManyFaultsAndCountsTheRest) {
   for (const char* screen : {"frmEditMaintain", "frmEditor"}) {
     home.Desk.Open(screen);
     EXPECT_EQ(home.Desk.Rows("lstfaults").size(), 1000u);
+    EXPECT_NE(home.Desk.Text("lblfacts").find(", of which the first 1000 are shown."),
+              std::string::npos);
   }
   const std::string told = std::to_string(count) + " faults, of which the first 1000 are shown.";
   EXPECT_TRUE(home.Desk.Text("lblfacts").ends_with(told)) << home.Desk.Text("lblfacts");
@@ -116,20 +118,10 @@ TEST(FrmEditMaintain, TellsAFileThatCannotBeReadAndLeavesIt) {
   home.Desk.Open("frmEditMaintain");
   EXPECT_EQ(Cell(home.Desk, "lstfaults", 1, 1), "promos.dat");
   EXPECT_EQ(Cell(home.Desk, "lstleft", 1, 5),
-            "cannot be read: promos.dat is 12360 bytes long, more than its most of 11123.");
+            "cannot be read: promos.dat is longer than its most of 11123 bytes.");
   home.Desk.ExpectAsk("Clean Up?", kAnyText, true);
   home.Desk.Click("cmdclean");
   EXPECT_EQ(std::filesystem::file_size(home.Path("data/promos.dat")), 309u * 40);
-}
-
-TEST(FrmEditMaintain, ShowsNoMoreThanAThousandFaults) {
-  World damaged = Here();
-  for (int i = 0; i < 1000; ++i) damaged.Sponsors().Append(Sponsor{});
-  EditedHome home(damaged);
-  home.Desk.Open("frmEditMaintain");
-  EXPECT_EQ(home.Desk.Rows("lstfaults").size(), 1000u);
-  EXPECT_NE(home.Desk.Text("lblfacts").find(", of which the first 1000 are shown."),
-            std::string::npos);
 }
 
 TEST(FrmEditMerge, PreviewsMergesAndKeepsTheNewFiles) {

@@ -95,7 +95,7 @@ TEST(TablesFolder, GoesWhereNothingElseLies) {
   EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot, "");
   disk.MakeFolder("home/tables");
   EXPECT_EQ(LookForExport(disk, "home/tables").Present, Texts{});
-  ExportTables(disk, "home/tables", SmallWorld().Promotion("CWA").Build());
+  ExportTables(disk, "home/tables", Complete(SmallWorld().Promotion("CWA")));
   EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot, "");
   EXPECT_EQ(LookForExport(disk, "home/tables").Present.size(), 10u);
   // Without a game's tables beside them, notes are somebody's own.
@@ -104,7 +104,7 @@ TEST(TablesFolder, GoesWhereNothingElseLies) {
             "home/tables holds other things, such as notes.txt. Name a new folder.");
   WriteFile(disk, "home/tables/game.csv", {});
   EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot, "");
-  ExportTables(disk, "home/tables", SmallWorld().Promotion("CWA").Build());
+  ExportTables(disk, "home/tables", Complete(SmallWorld().Promotion("CWA")));
   EXPECT_EQ(LookForExport(disk, "home/tables").Present.size(), 10u);
   WriteFile(disk, "home/tables/diary.txt", {});
   EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot,
