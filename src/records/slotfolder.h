@@ -41,9 +41,6 @@ std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes);
 /// The id of the world in the folder; nothing where no file holds one.
 std::optional<std::uint64_t> ReadWorldId(Disk& disk, const std::string& folder);
 
-/// The id of the world in the folder; nothing where no file holds one.
-std::optional<std::uint64_t> ReadWorldId(Disk& disk, const std::string& folder);
-
 /// Whether a slot keeps a file of this name; whatever else lies in its folder is somebody's own.
 bool IsOfSlot(std::string_view name);
 

@@ -147,8 +147,8 @@ TEST(TheDataFolder, ReadsNoFileBeyondTheMostThatItMayBe) {
     disk.Resize(file, std::int64_t{3} << 30);
   }
   EXPECT_THROW(ReadWorldFiles(disk, kData), WorldFault);
-  EXPECT_EQ(879u, Slot::Peek(disk, "s1", KnownFiles(), "gameinfo.dat")->size());
-  EXPECT_THROW(Slot(disk, "s1", KnownFiles()), std::exception);
+  EXPECT_EQ(sizeof(GameInfo), Slot::Peek(disk, "s1", KnownFiles(), "gameinfo.dat")->size());
+  EXPECT_THROW(Slot(disk, "s1", KnownFiles()), SlotDamaged);
   DataFolder data(disk, kData);
   EXPECT_EQ(data.Unreadable().size(), 2u);
   data.World().Promotions()[1].Risk = 7;

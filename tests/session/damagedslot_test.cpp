@@ -6,6 +6,7 @@
 #include "records/journalchain.h"
 #include "records/slotfolder.h"
 #include "records/world.h"
+#include "support/cutdisk.h"
 #include "support/homefolder.h"
 #include "support/smallworld.h"
 
