@@ -88,12 +88,13 @@ TEST(Import, AWorkerWhoIsOutOfRangeIsPutRight) {
   foreign[0].Disposition = "Q";
   foreign[0].LastTurn.SetRaw(1e300);
   const Arrivals arrivals = ImportWorkers(world, foreign, {1});
-  EXPECT_EQ(Lines(arrivals.Mended),
-            (Texts{"wrestler.dat, record 4 (Mae Boss), BirthMonth: is 999, outside 0 to 12; made 12",
-                   "wrestler.dat, record 4 (Mae Boss), Disposition: is \"Q\", no known code; made "
-                   "\"F\"",
-                   "wrestler.dat, record 4 (Mae Boss), LastTurn: is no date of the calendar; made "
-                   "1899-12-30"}));
+  EXPECT_EQ(
+      Lines(arrivals.Mended),
+      (Texts{"wrestler.dat, record 4 (Mae Boss), BirthMonth: is 999, outside 0 to 12; made 12",
+             "wrestler.dat, record 4 (Mae Boss), Disposition: is \"Q\", no known code; made "
+             "\"F\"",
+             "wrestler.dat, record 4 (Mae Boss), LastTurn: is no date of the calendar; made "
+             "1899-12-30"}));
   EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
 }
 

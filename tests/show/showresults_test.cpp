@@ -110,7 +110,7 @@ TEST(TvReport, CutsToTheSlotsAudienceAndComplainsBelowItsFloor) {
     World world = OnAir(
                       [&](Network& network) {
                         for (Hundredths* audience : {&network.EarlyAudience, &network.PrimeAudience,
-                                               &network.LateAudience, &network.GraveAudience})
+                                                     &network.LateAudience, &network.GraveAudience})
                           *audience = 7;
                         (*c.Slot == 'E'   ? network.EarlyAudience
                          : *c.Slot == 'P' ? network.PrimeAudience
