@@ -5,12 +5,12 @@
 room_headers(words)
 file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/words/*.cpp)
 list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-foreach(shared records/angles records/charset records/nearest report/family)
+foreach(shared records/angles records/charset records/nearest report/family info/meetingpoints)
   list(APPEND sources ${PROJECT_SOURCE_DIR}/src/${shared}.cpp)
 endforeach()
 add_library(words STATIC ${sources})
 target_link_libraries(words PRIVATE house_rules
-                      PUBLIC words_headers records_headers report_headers)
+                      PUBLIC words_headers records_headers report_headers info_headers)
 program(embed-words src/words/main.cpp words)
 set_target_properties(embed-words PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 
@@ -21,7 +21,12 @@ foreach(text ${texts})
   string(REGEX REPLACE "\\.txt$" ".cpp" unit ${name})
   string(REPLACE "/" "-" unit ${unit})
   list(APPEND units ${CMAKE_BINARY_DIR}/words/${unit})
-  target_sources(report PRIVATE ${CMAKE_BINARY_DIR}/words/${unit})
+  # Folders are voices.
+  if(name MATCHES "/")
+    target_sources(report PRIVATE ${CMAKE_BINARY_DIR}/words/${unit})
+  else()
+    target_sources(info PRIVATE ${CMAKE_BINARY_DIR}/words/${unit})
+  endif()
 endforeach()
 add_custom_command(
   OUTPUT ${units}

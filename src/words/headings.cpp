@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <limits>
+#include <sstream>
 
+#include "info/infowords.h"
+#include "info/meetingpoints.h"
+#include "records/enumnames.h"
 #include "report/family.h"
 
 namespace grapplemont {
@@ -49,11 +53,64 @@ void AddVoices(std::vector<WordsFile>& files) {
   }
 }
 
+Heading Named(std::string_view name, int number, std::string_view slots, int least,
+              int most = kAnyNumber) {
+  Heading heading{std::string(name), number, 0, least, most};
+  std::istringstream words{std::string(slots)};
+  for (std::string slot; words >> slot;) heading.Slots.push_back(slot);
+  return heading;
+}
+
+WordsFile Meeting() {
+  WordsFile file{"meeting.txt", "words", "Meeting", {}};
+  for (const PointRow& row : PointRows()) {
+    const int number = static_cast<int>(row.Is);
+    file.Headings.push_back(Named(EnumNameIn<Point::RosterSmall, Point::EventNear>(number), number,
+                                  row.Slots, kWaysToSay, kWaysToSay + 1));
+  }
+  return file;
+}
+
+WordsFile News() {
+  constexpr int kLeast = 3;
+  constexpr std::size_t kDeed = std::string_view("Deed").size();
+  WordsFile file{"news.txt", "words", "News", {}};
+  for (const DeedRow& row : kDeedRows)
+    file.Headings.push_back(Named(EnumNameIn<kDeedSigned, kDeedCalledOff>(row.Kind).substr(kDeed),
+                                  row.Kind, row.Slots, kLeast));
+  for (const TitleNewsRow& row : kTitleNewsRows)
+    file.Headings.push_back(
+        Named(EnumNameIn<kTitleFound, kTitleWon>(row.Is), row.Is, row.Slots, kLeast));
+  return file;
+}
+
+WordsFile Rumours() {
+  WordsFile file{"rumours.txt", "words", "Rumours", {}};
+  for (const WhisperRow& row : kWhisperRows) {
+    const int number = static_cast<int>(row.Is);
+    file.Headings.push_back(Named(EnumNameIn<Whisper::ContractEnds, Whisper::Slipping>(number),
+                                  number, row.Slots, kMostOfAKind));
+  }
+  return file;
+}
+
+WordsFile Fans() {
+  constexpr int kLeast = 8;
+  WordsFile file{"fans.txt", "words", "Fans", {}};
+  for (const FanRow& row : kFanRows) {
+    const int number = static_cast<int>(row.Is);
+    file.Headings.push_back(
+        Named(EnumNameIn<FanMood::Superb, FanMood::Handles>(number), number, row.Slots, kLeast));
+  }
+  return file;
+}
+
 }  // namespace
 
 std::vector<WordsFile> AllWordsFiles() {
   std::vector<WordsFile> files;
   AddVoices(files);
+  for (auto file : {Meeting, News, Rumours, Fans}) files.push_back(file());
   return files;
 }
 

@@ -8,6 +8,7 @@
 #include <iterator>
 
 #include "support/checkout.h"
+#include "support/scratchfolder.h"
 
 namespace grapplemont {
 namespace {
@@ -18,15 +19,12 @@ namespace fs = std::filesystem;
 class EmbeddingTest : public testing::Test {
  protected:
   EmbeddingTest() {
-    fs::remove_all(root_);
-    fs::create_directories(root_);
     fs::copy(test::Checkout("/words"), root_ / "words", fs::copy_options::recursive);
   }
-  ~EmbeddingTest() override { fs::remove_all(root_); }
 
   std::vector<std::string> Embed() { return EmbedWords(root_ / "words", Out()); }
   fs::path Out() const { return root_ / "out"; }
-  fs::path PathOf(const std::string& file) const { return root_ / "words" / file; }
+  fs::path PathOf(const std::string& file) const { return root_ / ("words/" + file); }
   std::string Read(const std::string& file) const {
     std::ifstream in(PathOf(file), std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
@@ -48,7 +46,7 @@ class EmbeddingTest : public testing::Test {
   }
 
  private:
-  const fs::path root_ = fs::path(testing::TempDir()) / "grapplemont-words";
+  const test::ScratchFolder root_;
 };
 
 TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
@@ -84,6 +82,9 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
   const int said = first + int(std::size(rows));
   expected.push_back(At("qvd/talk.txt", said + 1) +
                      "the same line stands in qvd/talk.txt:" + std::to_string(said));
+  const char* signing = "{who} has signed for {house}.";
+  expected.push_back(At("news.txt", Replace("news.txt", signing, "{who} signed for {home}.")) +
+                     "there is no slot {home} here; there is {who} and {house}");
   EXPECT_EQ(Embed(), expected);
   EXPECT_FALSE(fs::exists(Out())) << "nothing is made of words with mistakes";
 }
@@ -103,6 +104,8 @@ TEST_F(EmbeddingTest, RefusesHeadingsAndNumbersOfLinesThatAreOff) {
       {"qvd/talk.txt", "TalkClosing, VerbalAttack", "TalkClosing, VerbalAtack",
        "there is no heading \"TalkClosing, VerbalAtack\" in this file; did you mean TalkClosing, "
        "VerbalAttack?"},
+      {"meeting.txt", "== RosterSmall\n", "== RosterSmall\nWe are few.\n",
+       "4 lines under this heading; needed are at most 3"},
   };
   std::vector<std::string> expected;
   for (const auto& row : rows)
@@ -133,14 +136,14 @@ TEST_F(EmbeddingTest, MakesOnlyTheUnitOfAnEditedFileAgain) {
   ASSERT_EQ(Embed(), std::vector<std::string>());
   const auto long_ago = fs::file_time_type::clock::now() - std::chrono::hours(1);
   for (const auto& unit : fs::directory_iterator(Out())) fs::last_write_time(unit, long_ago);
-  Replace("qvd/talk.txt", "{T} backstage. Mic on.", "{T}: my \"caf\xC3\xA9\" is empty.");
+  Replace("fans.txt", "{show}: I have no notes.", "{show}: my \"caf\xC3\xA9\" is empty.");
   ASSERT_EQ(Embed(), std::vector<std::string>());
   for (const auto& unit : fs::directory_iterator(Out()))
-    EXPECT_EQ(fs::last_write_time(unit) != long_ago, unit.path().filename() == "qvd-talk.cpp")
+    EXPECT_EQ(fs::last_write_time(unit) != long_ago, unit.path().filename() == "fans.cpp")
         << unit.path();
-  std::ifstream in(Out() / "qvd-talk.cpp");
+  std::ifstream in(Out() / "fans.cpp");
   const std::string code{std::istreambuf_iterator<char>(in), {}};
-  EXPECT_NE(code.find(R"(    "{T}: my \"caf\351\" is empty.)"), std::string::npos);
+  EXPECT_NE(code.find(R"(    "{show}: my \"caf\351\" is empty.)"), std::string::npos);
 }
 
 }  // namespace

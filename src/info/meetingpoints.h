@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-// What is said at the staff meeting, a row for each point that somebody can make.
+// The points that somebody can make at the staff meeting; words/meeting.txt has the words.
 
 namespace grapplemont {
 
@@ -117,8 +117,7 @@ struct PointRow {
   Urgency How;
   int Post;            // a code of Staff.Position; 0: Maeve
   const char* Screen;  // empty for none
-  std::array<const char*, 2> Says;
-  const char* Do;
+  std::string_view Slots;
 };
 const PointRow& RowOf(Point point);
 std::span<const PointRow> PointRows();
