@@ -5,8 +5,8 @@
 
 #include "business/past.h"
 #include "calendar/events.h"
-#include "info/fanlines.h"
 #include "info/fill.h"
+#include "info/infowords.h"
 #include "info/results.h"
 #include "info/worldnews.h"
 #include "records/dates.h"
@@ -168,7 +168,7 @@ class Thread {
     const std::string seed = show_.House + show_.Show + std::to_string(posts_.size());
     const std::string_view line = used_.Fresh(FanLines(mood), seed, show_.On);
     posts_.push_back(
-        {std::string(used_.Fresh(FanHandles(), seed + "by", show_.On)),
+        {std::string(used_.Fresh(FanLines(FanMood::Handles), seed + "by", show_.On)),
          FillLine(line, {{"show", show_.Show}, {"house", show_.House}, {name, word}})});
   }
   std::vector<FanPost> Posts() { return std::move(posts_); }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "info/fill.h"
+#include "info/infowords.h"
 #include "records/modWresCheck.h"
 #include "roster/stafffacts.h"
 
@@ -26,23 +27,24 @@ const Staff* VoiceOfPost(const World& world, int post) {
 }
 
 /// Which of the lines is said: another one from week to week, and the same one all day.
-std::size_t ChoiceOf(const World& world, Point point, std::size_t lines) {
+std::size_t ChoiceOf(const World& world, Point point) {
   const auto week = static_cast<std::size_t>((world.Today() - kDayZero).count() / 7);
-  return (week + static_cast<std::size_t>(point)) % lines;
+  return (week + static_cast<std::size_t>(point)) % kWaysToSay;
 }
 
 }  // namespace
 
-void Meeting::Say(Point point, const Words& words, std::optional<Urgency> how) {
+void Meeting::Say(Point point, const Words& filled, std::optional<Urgency> how) {
   const PointRow& row = RowOf(point);
-  Advice advice{row.Is, row.About, how.value_or(row.How),   "Maeve",
-                "",     "",        FillLine(row.Do, words), row.Screen};
+  const auto lines = LinesUnder(words::Meeting(), static_cast<int>(point));
+  Advice advice{row.Is, row.About, how.value_or(row.How), "Maeve", "", "", "", row.Screen};
+  advice.Says = FillLine(lines[ChoiceOf(world_, point)], filled);
+  if (lines.size() > kWaysToSay) advice.Do = FillLine(lines[kWaysToSay], filled);
   if (row.Post != 0) {
     const Staff* staff = VoiceOfPost(world_, row.Post);
     advice.Speaker = staff ? staff->Name.Str() : std::string(StandInFor(row.Post));
     advice.Post = staff ? PostText(row.Post) : "standing in";
   }
-  advice.Says = FillLine(row.Says[ChoiceOf(world_, point, row.Says.size())], words);
   said_.push_back(std::move(advice));
 }
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "info/fill.h"
-#include "info/meetinglines.h"
+#include "info/meetingpoints.h"
 #include "records/world.h"
 
 // The weekly staff meeting: what the people in their posts have to say, each from what the records

@@ -23,7 +23,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kMostOfAKind = 3;
 constexpr int kKnown = 50;  // the Over from which on people talk about somebody
 constexpr int kLastMonths = 2;
 constexpr int kUnhappyBelow = 40;
@@ -204,10 +203,10 @@ std::vector<Rumour> RumoursOf(const World& world) {
   for (const Heard& heard : ear) {
     ofAKind = rumours.empty() || rumours.back().Is != heard.Is ? 1 : ofAKind + 1;
     if (ofAKind > kMostOfAKind) continue;
-    const auto& lines = LinesOf(heard.Is).Lines;
+    const auto lines = LinesUnder(words::Rumours(), static_cast<int>(heard.Is));
     // Neighbours of a kind have different words.
-    const std::size_t first = ChoiceFor("rumour", month, std::size(lines));
-    const std::size_t line = (first + static_cast<std::size_t>(ofAKind)) % std::size(lines);
+    const std::size_t first = ChoiceFor("rumour", month, lines.size());
+    const std::size_t line = (first + static_cast<std::size_t>(ofAKind)) % lines.size();
     rumours.push_back({heard.Is, FillLine(lines[line], heard.Words)});
   }
   return rumours;

@@ -1,13 +1,13 @@
 #include "info/worldnews.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
-#include <span>
 
 #include "business/months.h"
 #include "business/past.h"
 #include "info/fill.h"
-#include "info/newslines.h"
+#include "info/infowords.h"
 #include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
@@ -17,17 +17,14 @@ namespace grapplemont {
 
 namespace {
 
-/// Titles' news beside the kinds of deeds.
-constexpr int kTitleNews = 100;
-
 /// Chooses lines by the day and, on a day of many alike, each another one.
 class Desk {
  public:
-  std::string_view Choose(std::span<const std::string_view> lines, int kind, Day day) {
-    const auto end = std::find(lines.begin(), lines.end(), std::string_view());
-    const auto count = static_cast<std::size_t>(end - lines.begin());
+  /// What is of one kind takes turns, under whichever heading.
+  std::string_view Choose(int heading, int kind, Day day) {
+    const auto lines = LinesUnder(words::News(), heading);
     const std::size_t sofar = told_[{day, kind}]++;
-    return lines[(ChoiceFor(std::to_string(kind), day, count) + sofar) % count];
+    return lines[(ChoiceFor(std::to_string(kind), day, lines.size()) + sofar) % lines.size()];
   }
 
  private:
@@ -35,11 +32,9 @@ class Desk {
 };
 
 std::string Words(Desk& desk, const Deed& deed) {
-  const DeedLine* line = LineOfDeed(deed.Kind);
-  if (!line) return {};
   const int number = deed.Number;
   return FillLine(
-      desk.Choose(line->Lines, deed.Kind, deed.On),
+      desk.Choose(deed.Kind, deed.Kind, deed.On),
       {{"who", deed.Who.Str()},
        {"house", deed.House == "" ? "nobody" : deed.House.Str()},
        {"other", deed.Other.Str()},
@@ -66,8 +61,10 @@ Deed DeedOf(const World& world, const HistoryEntry& entry) {
 }
 
 NewsItem ItemOf(Desk& desk, const Deed& deed) {
-  const DeedLine* line = LineOfDeed(deed.Kind);
-  return {deed.On, line ? std::string(line->What) : "", deed.House.Str(), Words(desk, deed)};
+  const auto row = std::find_if(std::begin(kDeedRows), std::end(kDeedRows),
+                                [&](const DeedRow& each) { return each.Kind == deed.Kind; });
+  if (row == std::end(kDeedRows)) return {deed.On, "", deed.House.Str(), ""};
+  return {deed.On, std::string(row->What), deed.House.Str(), Words(desk, deed)};
 }
 
 bool IsNobody(const Reign& reign) {
@@ -77,14 +74,11 @@ bool IsNobody(const Reign& reign) {
 NewsItem ItemOf(Desk& desk, const World& world, const Title& title, std::size_t reign) {
   const Reign& now = title.Reigns[reign];
   const bool hasBefore = reign + 1 < title.Reigns.size() && !IsNobody(title.Reigns[reign + 1]);
-  using Lines = std::span<const std::string_view>;
-  const Lines lines = IsNobody(now) ? Lines(kTitleLost)
-                      : hasBefore   ? Lines(kTitleWon)
-                                    : Lines(kTitleFound);
+  const TitleNews news = IsNobody(now) ? kTitleLost : hasBefore ? kTitleWon : kTitleFound;
   const std::string other = hasBefore ? title.Reigns[reign + 1].Holder.Str() : "nobody";
   const std::string house = PromotionInitials(world, title.Owner);
   return {now.Won, "Title", house,
-          FillLine(desk.Choose(lines, kTitleNews + static_cast<int>(lines.size()), now.Won),
+          FillLine(desk.Choose(news, news == kTitleLost ? kTitleFound : news, now.Won),
                    {{"who", now.Holder.Str()},
                     {"title", WithArticle(title.Name.View())},
                     {"house", house},

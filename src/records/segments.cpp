@@ -5,6 +5,7 @@
 #include <numeric>
 
 #include "records/angles.h"
+#include "records/holes.h"
 #include "records/modWresCheck.h"
 #include "records/segmentparts.h"
 
@@ -311,17 +312,7 @@ std::string SideText(const World& world, const std::vector<int>& side) {
 }
 
 std::string FillPhrase(const World& world, const Segment& segment, std::string_view phrase) {
-  std::string text;
-  while (!phrase.empty()) {
-    const auto open = phrase.find('{');
-    text += phrase.substr(0, open);
-    if (open == std::string_view::npos) break;
-    const auto close = phrase.find('}', open);
-    if (close == std::string_view::npos) return text += phrase.substr(open);
-    text += FillHole(world, segment, phrase.substr(open + 1, close - open - 1));
-    phrase.remove_prefix(close + 1);
-  }
-  return text;
+  return FillHoles(phrase, [&](std::string_view hole) { return FillHole(world, segment, hole); });
 }
 
 std::string PhraseText(const World& world, const Segment& segment, Phrases phrases, int code) {

@@ -2,81 +2,120 @@
 
 #include <iterator>
 
+#include "records/angles.h"
+#include "records/enumnames.h"
+
 namespace grapplemont {
 
 namespace {
 
 using enum Family;
 
-constexpr int kLastBout = static_cast<int>(std::size(kMatchTypes)) - 1;
+template <auto First, auto Last>
+std::string NameIn(int band) {
+  return std::string(EnumNameIn<First, Last>(band));
+}
+
+/// Bands that are the values of an enumeration.
+template <auto First, auto Last>
+constexpr BandRange Named(std::uint32_t skips = 0) {
+  return {First, Last, NameIn<First, Last>, skips};
+}
+
+std::string BoutName(int band) {
+  const MatchTypeRow& row = kMatchTypes[band];
+  return NameIn<kSingles, kSpecial>(row.Style) + ", " + std::string(row.Says);
+}
+
+std::string SpeechName(int band) {
+  return NameIn<kSingleTalk, kManagedTeamTalk>(band / kTalkNone + kSingleTalk) + ", " +
+         NameIn<kVerbalAttack, kTalkNone>(band % kTalkNone + kVerbalAttack);
+}
+
+std::string AngleName(int band) {
+  return std::to_string(band) + " " + std::string(FindAngle(band)->Says);
+}
+
+std::string VerdictName(int band) {
+  return "up to " + std::to_string(kVerdictsUpTo[band]);
+}
+
+constexpr BandRange kOne = {};
+constexpr BandRange kSkills = Named<kBrawlLow, kSpeedHigh>();
+constexpr BandRange kBouts = {0, static_cast<int>(std::size(kMatchTypes)) - 1, BoutName};
+constexpr BandRange kSpeeches = {0, TalkBand(kManagedTeamTalk, kTalkNone), SpeechName};
+constexpr BandRange kVerdicts = {0, static_cast<int>(std::size(kVerdictsUpTo)) - 1, VerdictName};
 constexpr std::uint32_t kNotInSingles = 1U << kMiscommunication | 1U << kPartnerTurns;
-constexpr bool kShared = true;
 constexpr bool kExact = true;
 
-// Family, name, parts its lines may name, parts each of them names, first and last band, lines a
-// band, bands without lines, shared by all voices, exactly so many lines.
+// Family, file, parts its lines may name, parts each of them names, bands, lines a band, exactly as
+// many, the only voice that has it.
 constexpr FamilyRow kRows[] = {
-    {OffenceA, "OffenceA", "ad", "a", kBLow, kSHigh, 10, 0, false, kExact},
-    {OffenceB, "OffenceB", "ad", "a", kBLow, kSHigh, 10, 0, false, kExact},
-    {OffenceC, "OffenceC", "ad", "a", kBLow, kSHigh, 10, 0, false, kExact},
-    {OffenceD, "OffenceD", "ad", "a", kBLow, kSHigh, 10, 0, false, kExact},
-    {OffenceE, "OffenceE", "ad", "a", kBLow, kSHigh, 10, 0, false, kExact},
-    {Counter, "Counter", "ad", "a", 0, 0, 30, 0, false, kExact},
-    {TwoCount, "TwoCount", "", "", 0, 0, 3, 0, false, kExact},
-    {NearFall, "NearFall", "d", "", 0, 0, 5, 0, false, kExact},
-    {ThreeCount, "ThreeCount", "wl", "w", 0, 0, 8},
-    {TapOut, "TapOut", "wl", "l", 0, 0, 6},
-    {PinNoRef, "PinNoRef", "", "", 0, 0, 6},
-    {RefBump, "RefBump", "ad", "", 0, 0, 6, 0, false, kExact},
-    {TagOut, "TagOut", "ab", "ab", 0, 0, 12},
-    {DoubleTeam, "DoubleTeam", "abd", "ab", 0, 0, 6, 0, false, kExact},
-    {BreakIn, "BreakIn", "ad", "a", 0, 0, 10},
-    {LadderSpot, "LadderSpot", "ad", "a", 0, 0, 8},
-    {WeaponSpot, "WeaponSpot", "ad", "a", 0, 0, 10},
-    {TableSpot, "TableSpot", "ad", "a", 0, 0, 8, 0, kShared},
-    {Spot, "Spot", "ad", "a", 0, kStipulations - 1, 8},
-    {FinishImpact, "FinishImpact", "ad", "a", 0, 0, 8},
-    {FinishHold, "FinishHold", "ad", "a", 0, 0, 6},
-    {FinishTopRope, "FinishTopRope", "ad", "a", 0, 0, 6},
-    {FinishGround, "FinishGround", "ad", "a", 0, 0, 6},
-    {IronFall, "IronFall", "ad", "a", 0, 0, 6},
-    {IronSum, "IronSum", "wl", "w", 0, 0, 3},
-    {EliminatedOne, "EliminatedOne", "ad", "d", 0, 0, 6},
-    {EliminatedTeam, "EliminatedTeam", "adX", "dX", 0, 0, 4},
-    {SurvivorOut, "SurvivorOut", "ad", "d", 0, 0, 8},
-    {Survivors, "Survivors", "Z", "Z", 0, 0, 3},
-    {RumbleStart, "RumbleStart", "ad", "ad", 0, 0, 2},
-    {RumbleEntry, "RumbleEntry", "a", "a", 0, 0, 12},
-    {EliminationTry, "EliminationTry", "ad", "ad", 0, 0, 8},
-    {Elimination, "Elimination", "ad", "d", 0, 0, 12},
-    {LastTwo, "LastTwo", "wl", "wl", 0, 0, 3},
-    {Opening, "Opening", "12345678FSXY", "", 0, kLastBout, 2},
-    {TitleOpening, "TitleOpening", "c", "", 0, kTitleStakes - 1, 3},
-    {FeudOpening, "FeudOpening", "FS", "", 0, kBoils, 3},
-    {DebutOpening, "DebutOpening", "t", "t", 0, 0, 3},
-    {ChampionNote, "ChampionNote", "c", "c", 0, 0, 6},
-    {Closer, "Closer", "wljWL", "", 0, kLastBout, 2},
-    {DoubleDq, "DoubleDq", "", "", 0, 0, 3},
-    {SinglesFinish, "SinglesFinish", "wl12op", "", kClean, kDqThroughInterference, 3,
-     kNotInSingles},
-    {TagFinish, "TagFinish", "wlkjWLFSopO", "", kClean, kDqThroughInterference, 3},
-    {CheapFinish, "CheapFinish", "wlWL", "wl", 0, 0, 3},
-    {SideDraw, "SideDraw", "FS", "", 0, 0, 3},
-    {SideShow, "SideShow", "wlWLFS", "", 0, 0, 2},
-    {TurnCosts, "TurnCosts", "tlwL", "tlw", 0, 0, 3},
-    {TurnWalksOut, "TurnWalksOut", "tvw", "tw", 0, 0, 3},
-    {TurnAfterWin, "TurnAfterWin", "tvw", "tv", 0, 0, 3},
-    {TurnDraw, "TurnDraw", "tvFS", "tv", 0, 0, 3},
-    {SinglesAftermath, "SinglesAftermath", "wl12opvu", "", 2, after1::kFailedSave, 2},
-    {TagAftermath, "TagAftermath", "wlkjWLFS1234opqrOQVU", "", 2, after2::kRunInOnBoth, 2},
-    {TitleEnding, "TitleEnding", "cC", "", 0, kTitleOutcomes - 1, 3},
-    {FeudEnding, "FeudEnding", "FS", "", 0, kFeudIsOver, 3},
-    {PurposeEnding, "PurposeEnding", "tFS", "", 0, kPurposesTold - 1, 3},
-    {Turn, "Turn", "t", "t", 0, kTurnsTold - 1, 3},
-    {TalkOpening, "TalkOpening", "Tm", "T", kSingleTalk, kManagedTeamTalk, 3},
-    {Speech, "Speech", "TmV", "", 0, TalkBand(kManagedTeamTalk, kTalkNone), 2},
-    {TalkClosing, "TalkClosing", "TV", "", kVerbalAttack, kTalkNone, 2},
-    {AngleText, "AngleText", "1234FSOG", "", 1, 79, 2},
+    {OffenceA, "offence", "ad", "a", kSkills, 10, kExact},
+    {OffenceB, "offence", "ad", "a", kSkills, 10, kExact},
+    {OffenceC, "offence", "ad", "a", kSkills, 10, kExact},
+    {OffenceD, "offence", "ad", "a", kSkills, 10, kExact},
+    {OffenceE, "offence", "ad", "a", kSkills, 10, kExact},
+    {Counter, "bouts", "ad", "a", kOne, 30, kExact},
+    {TwoCount, "bouts", "", "", kOne, 3, kExact},
+    {NearFall, "bouts", "d", "", kOne, 5, kExact},
+    {ThreeCount, "bouts", "wl", "w", kOne, 8},
+    {TapOut, "bouts", "wl", "l", kOne, 6},
+    {PinNoRef, "bouts", "", "", kOne, 6},
+    {RefBump, "bouts", "ad", "", kOne, 6, kExact},
+    {TagOut, "bouts", "ab", "ab", kOne, 12},
+    {DoubleTeam, "bouts", "abd", "ab", kOne, 6, kExact},
+    {BreakIn, "bouts", "ad", "a", kOne, 10},
+    {LadderSpot, "bouts", "ad", "a", kOne, 8},
+    {WeaponSpot, "bouts", "ad", "a", kOne, 10},
+    {TableSpot, "bouts", "ad", "a", kOne, 8, false, kLamplighter},
+    {Spot, "bouts", "ad", "a", Named<kHoldSpot, kTlcSpot>(), 8},
+    {FinishImpact, "bouts", "ad", "a", kOne, 8},
+    {FinishHold, "bouts", "ad", "a", kOne, 6},
+    {FinishTopRope, "bouts", "ad", "a", kOne, 6},
+    {FinishGround, "bouts", "ad", "a", kOne, 6},
+    {IronFall, "bouts", "ad", "a", kOne, 6},
+    {IronSum, "bouts", "wl", "w", kOne, 3},
+    {EliminatedOne, "bouts", "ad", "d", kOne, 6},
+    {EliminatedTeam, "bouts", "adX", "dX", kOne, 4},
+    {SurvivorOut, "bouts", "ad", "d", kOne, 8},
+    {Survivors, "bouts", "Z", "Z", kOne, 3},
+    {RumbleStart, "bouts", "ad", "ad", kOne, 2},
+    {RumbleEntry, "bouts", "a", "a", kOne, 12},
+    {EliminationTry, "bouts", "ad", "ad", kOne, 8},
+    {Elimination, "bouts", "ad", "d", kOne, 12},
+    {LastTwo, "bouts", "wl", "wl", kOne, 3},
+    {Opening, "bouts", "12345678FSXY", "", kBouts, 2},
+    {TitleOpening, "finishes", "c", "", Named<kDefended, kChampionAway>(), 3},
+    {FeudOpening, "finishes", "FS", "", Named<kSimmers, kBoils>(), 3},
+    {DebutOpening, "finishes", "t", "t", kOne, 3},
+    {ChampionNote, "finishes", "c", "c", kOne, 6},
+    {Closer, "bouts", "wljWL", "", kBouts, 2},
+    {DoubleDq, "finishes", "", "", kOne, 3},
+    {SinglesFinish, "finishes", "wl12op", "", Named<kClean, kDqThroughInterference>(kNotInSingles),
+     3},
+    {TagFinish, "finishes", "wlkjWLFSopO", "", Named<kClean, kDqThroughInterference>(), 3},
+    {CheapFinish, "finishes", "wlWL", "wl", kOne, 3},
+    {SideDraw, "finishes", "FS", "", kOne, 3},
+    {SideShow, "finishes", "wlWLFS", "", kOne, 2},
+    {TurnCosts, "finishes", "tlwL", "tlw", kOne, 3},
+    {TurnWalksOut, "finishes", "tvw", "tw", kOne, 3},
+    {TurnAfterWin, "finishes", "tvw", "tv", kOne, 3},
+    {TurnDraw, "finishes", "tvFS", "tv", kOne, 3},
+    {SinglesAftermath, "finishes", "wl12opvu", "",
+     Named<after1::kAttacksReferee, after1::kFailedSave>(), 2},
+    {TagAftermath, "finishes", "wlkjWLFS1234opqrOQVU", "",
+     Named<after2::kRevenge, after2::kRunInOnBoth>(), 2},
+    {TitleEnding, "finishes", "cC", "", Named<kRetained, kWonInAbsence>(), 3},
+    {FeudEnding, "finishes", "FS", "", Named<kFeudGoesOn, kFeudIsOver>(), 3},
+    {PurposeEnding, "finishes", "tFS", "", Named<kGoodMatchTold, kRunInDebutTold>(), 3},
+    {Turn, "finishes", "t", "t", Named<kTurnsHeel, kBaffling>(), 3},
+    {TalkOpening, "talk", "Tm", "T", Named<kSingleTalk, kManagedTeamTalk>(), 3},
+    {Speech, "talk", "TmV", "", kSpeeches, 2},
+    {TalkClosing, "talk", "TV", "", Named<kVerbalAttack, kTalkNone>(), 2},
+    {AngleText, "angles", "1234FSOG", "", {1, kAngles, AngleName}, 2},
+    {Verdict, "verdicts", "", "", kVerdicts, 2, false, kTolland},
+    {NoVerdict, "verdicts", "", "", kOne, 1, kExact, kTolland},
 };
 
 constexpr bool InOrder() {
@@ -95,6 +134,15 @@ std::span<const FamilyRow> AllFamilies() {
 
 const FamilyRow& RowOf(Family family) {
   return kRows[static_cast<int>(family)];
+}
+
+std::string HeadingOf(Family family) {
+  return NameIn<OffenceA, NoVerdict>(static_cast<int>(family));
+}
+
+std::string HeadingOf(Family family, int band) {
+  const auto name = RowOf(family).Bands.Name;
+  return name ? HeadingOf(family) + ", " + name(band) : HeadingOf(family);
 }
 
 }  // namespace grapplemont

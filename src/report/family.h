@@ -2,15 +2,26 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "records/segmentwords.h"
-#include "report/line.h"
 
 // The families of lines. A bout script, a finish, an aftermath calls a family; which words come out
-// is the voice's affair. All voices hold the same families with the same number of lines.
+// is the voice's affair. The lines stand in words/, a folder a voice; the build refuses a voice
+// that lacks any.
 
 namespace grapplemont {
+
+/// Who tells the show, by GameInfo.Reporter.
+enum Voice { kLamplighter = 0, kTolland, kQvd };
+/// In that order: the name, the folder of words/, the module that the build makes of it.
+struct VoiceRow {
+  std::string_view Name, Folder, Module;
+};
+inline constexpr VoiceRow kVoiceRows[] = {{"The Lamplighter", "lamplighter", "modLamplighter"},
+                                          {"Rafe Tolland", "tolland", "modTolland"},
+                                          {"QVD", "qvd", "modQVD"}};
 
 enum class Family {
   // What happens in a bout. {a} acts, {d} suffers, {b} is the partner of {a}.
@@ -76,11 +87,24 @@ enum class Family {
   Speech,
   TalkClosing,
   AngleText,
+  // The second reporter's ratings.
+  Verdict,  // by kVerdictsUpTo
+  NoVerdict,
 };
-inline constexpr int kFamilies = static_cast<int>(Family::AngleText) + 1;
+inline constexpr int kFamilies = static_cast<int>(Family::NoVerdict) + 1;
 
 /// Bands of the offence: the wrestler's strongest side, and how good he is at it.
-enum OffenceBand { kBLow, kBMid, kBHigh, kTLow, kTMid, kTHigh, kSLow, kSMid, kSHigh };
+enum OffenceBand {
+  kBrawlLow,
+  kBrawlMid,
+  kBrawlHigh,
+  kTechnicalLow,
+  kTechnicalMid,
+  kTechnicalHigh,
+  kSpeedLow,
+  kSpeedMid,
+  kSpeedHigh
+};
 
 /// Bands of Spot.
 enum Stipulation {
@@ -102,8 +126,7 @@ enum Stipulation {
   kWireSpot,
   kDeathSpot,
   kNakedSpot,
-  kTlcSpot,
-  kStipulations
+  kTlcSpot
 };
 
 /// Bands of TitleOpening, TitleEnding, FeudOpening, FeudEnding, PurposeEnding, Turn.
@@ -129,6 +152,10 @@ enum PurposeTold {
 };
 enum TurnTold { kTurnsHeel, kTurnsFace, kTweenerTurns, kBaffling, kTurnsTold };
 
+/// Bands of Verdict: the highest Overall that each rates.
+inline constexpr int kVerdictsUpTo[] = {15, 20, 25, 30, 35, 40, 45, 50, 55, 60, 66,
+                                        71, 75, 80, 84, 86, 90, 93, 97, 99, 100};
+
 /// Bands of Opening and Closer: the row of kMatchTypes.
 constexpr int Bout(int style, int type) {
   int band = 0;
@@ -143,23 +170,35 @@ constexpr int TalkBand(int style, int purpose) {
   return (style - 1) * 6 + purpose - 1;
 }
 
+/// The bands of a family, by number, and what words/ calls each of them.
+struct BandRange {
+  int First = 0, Last = 0;
+  std::string (*Name)(int band) = nullptr;  // of a family with several
+  std::uint32_t Skips = 0;                  // bands that do not exist, a bit for each
+};
+
+inline constexpr int kEveryVoice = -1;
+
 struct FamilyRow {
   Family Of;
-  std::string_view Name;
-  std::string_view Parts;   // that its lines may name
-  std::string_view Must;    // that each of its lines does name
-  int First = 0, Last = 0;  // its bands
-  int Lines = 0;            // of each band, at least
-  std::uint32_t Skips = 0;  // bands that do not exist, a bit for each
-  bool Shared = false;      // the first voice's lines serve all
-  bool Exact = false;       // not a line more
+  std::string_view File;   // of the voice's folder
+  std::string_view Parts;  // that its lines may name
+  std::string_view Must;   // that each of its lines does name
+  BandRange Bands;
+  int Lines = 0;           // of each band, at least
+  bool Exact = false;      // not a line more
+  int Only = kEveryVoice;  // the voice that has it for all
 
   constexpr bool Has(int band) const {
-    return band >= First && band <= Last && !(band < 32 && (Skips >> band & 1) != 0);
+    return band >= Bands.First && band <= Bands.Last &&
+           !(band < 32 && (Bands.Skips >> band & 1) != 0);
   }
 };
 /// In the order of the enumeration.
 std::span<const FamilyRow> AllFamilies();
 const FamilyRow& RowOf(Family family);
+/// "SinglesFinish", "SinglesFinish, Clean": as words/ has it in a heading.
+std::string HeadingOf(Family family);
+std::string HeadingOf(Family family, int band);
 
 }  // namespace grapplemont

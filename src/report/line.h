@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-// A line of prose: a text with slots in braces, checked by the compiler where it is written.
+// A line of prose: a text with slots in braces, checked by the build where words/ has it.
 //
 //   "{a} counters a backdrop with a kick to {d:his} jaw. "
 //
@@ -103,36 +103,5 @@ constexpr Hole ReadHole(std::string_view text) {
   if (text.find(':') != std::string_view::npos) return detail::ReadThingWord(text);
   return detail::ReadThing(Hole::Thing, text);
 }
-
-/// Why a text is no line; nullptr for a sound one.
-constexpr const char* WhyNoLine(std::string_view text) {
-  if (!text.ends_with(' ') && !text.ends_with(" {.}")) return "a line ends with a blank";
-  if (text.find("  ") != std::string_view::npos) return "a line holds two blanks in a row";
-  bool within = false;
-  while (true) {
-    const auto open = text.find('{');
-    if (text.substr(0, open).find('}') != std::string_view::npos) return "a brace closes nothing";
-    if (open == std::string_view::npos)
-      return within ? "a condition is not closed" : static_cast<const char*>(nullptr);
-    const auto close = text.find('}', open);
-    if (close == std::string_view::npos) return "a brace is not closed";
-    const Hole hole = ReadHole(text.substr(open + 1, close - open - 1));
-    if (hole.Is == Hole::Bad) return "there is no such slot";
-    const bool begins = hole.Is == Hole::If || hole.Is == Hole::IfNot;
-    if (begins == within && (begins || hole.Is == Hole::End)) return "conditions do not pair up";
-    if (begins || hole.Is == Hole::End) within = begins;
-    text.remove_prefix(close + 1);
-  }
-}
-
-/// A line of a voice. A text that is none does not compile; the thrown words say why.
-struct Line {
-  std::string_view Text;
-
-  constexpr Line() = default;
-  consteval Line(const char* text) : Text(text) {
-    if (const char* why = WhyNoLine(Text)) throw why;
-  }
-};
 
 }  // namespace grapplemont

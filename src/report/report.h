@@ -5,14 +5,13 @@
 
 #include "records/segments.h"
 #include "records/world.h"
+#include "report/family.h"
 #include "report/linememory.h"
 
 // A Segment told in prose, in the voice that the player has chosen.
 
 namespace grapplemont {
 
-/// Who tells the show, by GameInfo.Reporter.
-enum Voice { kLamplighter = 0, kTolland, kQvd };
 /// "The Lamplighter", "Rafe Tolland", "QVD"; the first one's for a number that is none.
 std::string_view VoiceName(int voice);
 

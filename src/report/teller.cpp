@@ -37,10 +37,8 @@ Teller::Teller(World& w, const Segment& s, const Scene& sc, LineMemory& memory)
 bool Teller::Say(Family family, int band) {
   const Block* block = BlockOf(voice_, family, band);
   if (!block) return false;
-  const auto lines = block->All();
-  if (lines.empty()) return false;
-  const int line = memory_.Pick(world.Prose(), block, static_cast<int>(lines.size()));
-  return Fill(cast, lines[static_cast<std::size_t>(line)].Text, text_);
+  const int line = memory_.Pick(world.Prose(), block, static_cast<int>(block->Lines.size()));
+  return Fill(cast, block->Lines[static_cast<std::size_t>(line)], text_);
 }
 
 void Teller::SayOffence(Family family) {

@@ -1,5 +1,7 @@
 #include "report/template.h"
 
+#include "records/holes.h"
+
 namespace grapplemont {
 
 namespace {
@@ -10,14 +12,12 @@ class Filler {
   Filler(Cast& cast, std::string& out) : cast_(cast), out_(out), sentence_(out.size()) {}
 
   void Write(std::string_view line) {
-    while (!line.empty()) {
-      const auto open = line.find('{');
-      if (!hidden_) Letters(line.substr(0, open));
-      if (open == std::string_view::npos) break;
-      const auto close = line.find('}', open);
-      Put(ReadHole(line.substr(open + 1, close - open - 1)));
-      line.remove_prefix(close + 1);
-    }
+    ReadHoles(
+        line,
+        [this](std::string_view words) {
+          if (!hidden_) Letters(words);
+        },
+        [this](std::string_view slot) { Put(ReadHole(slot)); });
     EndSentence();
   }
 

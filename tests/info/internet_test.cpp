@@ -3,8 +3,8 @@
 #include <set>
 
 #include "info/calmworld.h"
-#include "info/fanlines.h"
 #include "info/fans.h"
+#include "info/infowords.h"
 #include "info/rankings.h"
 #include "info/rumours.h"
 #include "info/worldnews.h"
@@ -336,7 +336,7 @@ TEST(Rumours, AreTrue) {
   };
   std::set<Whisper> covered;
   for (const Case& row : cases) {
-    SCOPED_TRACE(LinesOf(row.Is).Lines[0]);
+    SCOPED_TRACE(LinesUnder(words::Rumours(), static_cast<int>(row.Is))[0]);
     covered.insert(row.Is);
     World inside = CalmWorld();
     row.Inside(inside);
@@ -371,16 +371,6 @@ TEST(Rumours, StayTheSameAllMonthAndNameNobodyUnknown) {
   EXPECT_EQ(first.size(), 2U);
   world.Game().Today = kMeeting + std::chrono::days{29};
   EXPECT_EQ(words(), first);
-}
-
-TEST(Fans, HaveEnoughToSayAndNeverTheSameTwice) {
-  for (int mood = 0; mood <= static_cast<int>(FanMood::Empty); ++mood) {
-    const auto lines = FanLines(static_cast<FanMood>(mood));
-    EXPECT_GE(lines.size(), 8U) << mood;
-    EXPECT_EQ(std::set(lines.begin(), lines.end()).size(), lines.size()) << mood;
-  }
-  const auto handles = FanHandles();
-  EXPECT_EQ(std::set(handles.begin(), handles.end()).size(), handles.size());
 }
 
 HistoryEntry Held(int kind, Day on, const char* name, int rating) {

@@ -5,6 +5,7 @@
 #include "business/monthlymoney.h"
 #include "calendar/meetingday.h"
 #include "info/calmworld.h"
+#include "info/infowords.h"
 #include "roster/wagebill.h"
 #include "show/attendance.h"
 
@@ -56,7 +57,9 @@ struct Case {
 };
 
 std::string TextOf(Point point) {
-  return "point " + std::to_string(static_cast<int>(point)) + ", " + RowOf(point).Says[0];
+  const int number = static_cast<int>(point);
+  return "point " + std::to_string(number) + ", " +
+         std::string(LinesUnder(words::Meeting(), number)[0]);
 }
 
 void Check(const std::vector<Case>& cases) {

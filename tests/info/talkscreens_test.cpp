@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "info/calmworld.h"
-#include "info/meetinglines.h"
+#include "info/meetingpoints.h"
 #include "info/rankings.h"
 #include "support/gameonworld.h"
 #include "ui/acts.h"

@@ -129,38 +129,6 @@ TEST(Details, StandAboveTheProse) {
   }
 }
 
-struct BandCase {
-  int Low, High, Lines;
-  const char* First;
-};
-// Both edges of each band, and the line that a draw of 1 gives.
-constexpr BandCase kBands[] = {
-    {0, 15, 2,
-     "MY EYES! MY EYES! I may go blind from watching such a display of world-beating crapness. "},
-    {16, 20, 3, "That gets a well-earned FIVE GIANT red-hot pokers up the ass as a rating. "},
-    {21, 25, 3, "TWO red-hot pokers up the ass for the bookers for that crap. "},
-    {26, 30, 3, "I'm giving the bookers one red-hot poker up the ass as a rating. "},
-    {31, 35, 3, "DUD. Nothing to see here, move along. "},
-    {36, 40, 3, "Welcome to DUDville, please drive carefully. "},
-    {41, 45, 3, "Slap a DUD on it, move on. "},
-    {46, 50, 3, "Rating: 1\\2 star. "},
-    {51, 55, 3, "I'll give it a * rating for not being too bad. "},
-    {56, 60, 3, "I'll give it a *1\\2 rating. "},
-    {61, 66, 3, "** rating for this one. Perfectly Acceptable Wrestling. "},
-    {67, 71, 3, "**1\\2 rating for a decent contest. "},
-    {72, 75, 3, "Almost wandered into *** match territory, but there was too much that dragged it"},
-    {76, 80, 3, "*** rating, as it was good, but nothing too special. "},
-    {81, 84, 3, "I can't decide whether it's a *** or a ***1\\2 match...let's go for a ***1\\4"},
-    {85, 86, 3, "Almost got a **** match, but was lacking in certain areas, so i'm knocking off"},
-    {87, 90, 3, "That was good. **** rating. "},
-    {91, 93, 3, "Great match, a ****1\\4 rating i think. "},
-    {94, 97, 3,
-     "Almost a ***** match...but it was missing something, so it only gets a ****1\\2. "},
-    {98, 99, 3, "Excellent match, a ***** rating! "},
-    {100, 100, 3,
-     "Awesome, Match Of All Time Candidate, this gets a ***** rating AND the ultimate compliment"},
-};
-
 std::string VerdictOn(int overall, int kind, int style, int type, int voice,
                       std::initializer_list<test::ScriptedDraw> draws) {
   World world = Four();
@@ -175,19 +143,20 @@ std::string VerdictOn(int overall, int kind, int style, int type, int voice,
 }
 
 TEST(Verdict, RatesByTheBandOfTheOverallRating) {
-  int expected = 0;
-  for (const BandCase& band : kBands) {
-    EXPECT_EQ(band.Low, expected) << "the bands follow on each other";
-    expected = band.High + 1;
-    std::set<std::string> lines;
-    for (const int overall : {band.Low, band.High})
-      for (int draw = 1; draw <= band.Lines; ++draw) {
-        const std::string text =
-            VerdictOn(overall, kMatch, kSingles, kPlainSingles, kTolland, {{band.Lines, draw}});
-        EXPECT_EQ(text.starts_with(band.First), draw == 1) << overall << ": " << text;
-        lines.insert(text);
-      }
-    EXPECT_EQ(static_cast<int>(lines.size()), band.Lines) << band.First;
+  const struct {
+    int Overall, Lines, Draw;
+    const char* Says;
+  } rows[] = {{0, 2, 2, "I have asked for my ticket money back, and I came in on a press pass."},
+              {15, 2, 1, "MY EYES! MY EYES!"},
+              {16, 3, 1, "That gets a well-earned FIVE GIANT red-hot pokers"},
+              {80, 3, 3, "*** rating. I put my pen down for a while"},
+              {81, 3, 1, "I can't decide whether it's a *** or a ***1\\2 match"},
+              {99, 3, 1, "Excellent match, a ***** rating! "},
+              {100, 3, 1, "Awesome, Match Of All Time Candidate"}};
+  for (const auto& row : rows) {
+    const std::string text =
+        VerdictOn(row.Overall, kMatch, kSingles, kPlainSingles, kTolland, {{row.Lines, row.Draw}});
+    EXPECT_TRUE(text.starts_with(row.Says)) << row.Overall << ": " << text;
   }
 }
 

@@ -83,17 +83,17 @@ struct BandCase {
 
 TEST(OffenceBand, IsTheStrongestSideBeforeTheTieAndTheSkillBehindIt) {
   const std::vector<BandCase> cases = {
-      {90, 5, 5, {1, 10, 10}, kBHigh},  // whatever the draws
-      {39, 5, 5, {1, 1, 1}, kBLow},    {40, 5, 5, {1, 1, 1}, kBMid},
-      {64, 5, 5, {10, 1, 1}, kBMid},   {65, 5, 5, {1, 1, 1}, kBHigh},
-      {5, 39, 5, {1, 10, 1}, kTLow},   {5, 40, 5, {1, 1, 1}, kTMid},
-      {5, 65, 5, {1, 1, 1}, kTHigh},   {5, 5, 39, {1, 1, 10}, kSLow},
-      {5, 5, 64, {1, 1, 10}, kSMid},   {5, 5, 65, {1, 1, 1}, kSHigh},
-      {50, 50, 50, {3, 3, 3}, kBMid},   // ties: Brawl first
-      {10, 50, 50, {1, 3, 3}, kTMid},   // then Technical
-      {45, 41, 39, {1, 5, 7}, kBMid},   // 46, 46, 46
-      {60, 66, 10, {10, 1, 1}, kBMid},  // the plain skill counts, not the sum
-      {38, 30, 39, {1, 1, 1}, kSLow},
+      {90, 5, 5, {1, 10, 10}, kBrawlHigh},  // whatever the draws
+      {39, 5, 5, {1, 1, 1}, kBrawlLow},       {40, 5, 5, {1, 1, 1}, kBrawlMid},
+      {64, 5, 5, {10, 1, 1}, kBrawlMid},      {65, 5, 5, {1, 1, 1}, kBrawlHigh},
+      {5, 39, 5, {1, 10, 1}, kTechnicalLow},  {5, 40, 5, {1, 1, 1}, kTechnicalMid},
+      {5, 65, 5, {1, 1, 1}, kTechnicalHigh},  {5, 5, 39, {1, 1, 10}, kSpeedLow},
+      {5, 5, 64, {1, 1, 10}, kSpeedMid},      {5, 5, 65, {1, 1, 1}, kSpeedHigh},
+      {50, 50, 50, {3, 3, 3}, kBrawlMid},      // ties: Brawl first
+      {10, 50, 50, {1, 3, 3}, kTechnicalMid},  // then Technical
+      {45, 41, 39, {1, 5, 7}, kBrawlMid},      // 46, 46, 46
+      {60, 66, 10, {10, 1, 1}, kBrawlMid},     // the plain skill counts, not the sum
+      {38, 30, 39, {1, 1, 1}, kSpeedLow},
   };
   for (const BandCase& each : cases) {
     World world = SmallWorld().Promotion("CWA").Worker("Bram Okafor").Game("CWA");

@@ -81,16 +81,15 @@ class Telling : public testing::TestWithParam<int> {
   std::vector<std::string_view> Drawn(Family family, int band) const {
     std::vector<std::string_view> drawn;
     const Block* block = BlockOf(GetParam(), family, band);
-    const auto lines = block->All();
-    for (std::size_t line = 0; line < lines.size(); ++line)
-      if (memory_.Used(block, static_cast<int>(line))) drawn.push_back(lines[line].Text);
+    for (std::size_t line = 0; line < block->Lines.size(); ++line)
+      if (memory_.Used(block, static_cast<int>(line))) drawn.push_back(block->Lines[line]);
     return drawn;
   }
   /// Expects lines of this band and of no other of the family, and all of them in the text.
   void ExpectBand(const std::string& text, Family family, int band, int bands) {
     for (int each = 0; each < bands; ++each)
       EXPECT_EQ(!Drawn(family, each).empty(), each == band)
-          << RowOf(family).Name << " " << each << " in\n"
+          << HeadingOf(family) << " " << each << " in\n"
           << text;
     if (band >= 0) ExpectLines(text, family, band, {});
   }

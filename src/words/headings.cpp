@@ -1,0 +1,117 @@
+#include "words/headings.h"
+
+#include <algorithm>
+#include <limits>
+#include <sstream>
+
+#include "info/infowords.h"
+#include "info/meetingpoints.h"
+#include "records/enumnames.h"
+#include "report/family.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kAnyNumber = std::numeric_limits<int>::max();
+
+/// "Finishes" of "finishes".
+std::string FunctionOf(std::string_view file) {
+  std::string name(file);
+  name[0] = static_cast<char>(name[0] - 'a' + 'A');
+  return name;
+}
+
+WordsFile& FileOf(std::vector<WordsFile>& files, const VoiceRow& voice, std::string_view name) {
+  const std::string path = std::string(voice.Folder) + "/" + std::string(name) + ".txt";
+  const auto found = std::find_if(files.begin(), files.end(),
+                                  [&](const WordsFile& file) { return file.Path == path; });
+  if (found != files.end()) return *found;
+  files.push_back({path, std::string(voice.Module), FunctionOf(name), {}});
+  return files.back();
+}
+
+void AddFamily(WordsFile& file, const FamilyRow& row) {
+  for (int band = row.Bands.First; band <= row.Bands.Last; ++band) {
+    if (!row.Has(band)) continue;
+    Heading heading{HeadingOf(row.Of, band), static_cast<int>(row.Of), band, row.Lines,
+                    row.Exact ? row.Lines : kAnyNumber};
+    heading.IsReport = true;
+    heading.Parts = row.Parts;
+    heading.Must = row.Must;
+    file.Headings.push_back(std::move(heading));
+  }
+}
+
+void AddVoices(std::vector<WordsFile>& files) {
+  int number = 0;
+  for (const VoiceRow& voice : kVoiceRows) {
+    for (const FamilyRow& row : AllFamilies())
+      if (row.Only == kEveryVoice || row.Only == number)
+        AddFamily(FileOf(files, voice, row.File), row);
+    ++number;
+  }
+}
+
+Heading Named(std::string_view name, int number, std::string_view slots, int least,
+              int most = kAnyNumber) {
+  Heading heading{std::string(name), number, 0, least, most};
+  std::istringstream words{std::string(slots)};
+  for (std::string slot; words >> slot;) heading.Slots.push_back(slot);
+  return heading;
+}
+
+WordsFile Meeting() {
+  WordsFile file{"meeting.txt", "words", "Meeting", {}};
+  for (const PointRow& row : PointRows()) {
+    const int number = static_cast<int>(row.Is);
+    file.Headings.push_back(Named(EnumNameIn<Point::RosterSmall, Point::EventNear>(number), number,
+                                  row.Slots, kWaysToSay, kWaysToSay + 1));
+  }
+  return file;
+}
+
+WordsFile News() {
+  constexpr int kLeast = 3;
+  constexpr std::size_t kDeed = std::string_view("Deed").size();
+  WordsFile file{"news.txt", "words", "News", {}};
+  for (const DeedRow& row : kDeedRows)
+    file.Headings.push_back(Named(EnumNameIn<kDeedSigned, kDeedCalledOff>(row.Kind).substr(kDeed),
+                                  row.Kind, row.Slots, kLeast));
+  for (const TitleNewsRow& row : kTitleNewsRows)
+    file.Headings.push_back(
+        Named(EnumNameIn<kTitleFound, kTitleWon>(row.Is), row.Is, row.Slots, kLeast));
+  return file;
+}
+
+WordsFile Rumours() {
+  WordsFile file{"rumours.txt", "words", "Rumours", {}};
+  for (const WhisperRow& row : kWhisperRows) {
+    const int number = static_cast<int>(row.Is);
+    file.Headings.push_back(Named(EnumNameIn<Whisper::ContractEnds, Whisper::Slipping>(number),
+                                  number, row.Slots, kMostOfAKind));
+  }
+  return file;
+}
+
+WordsFile Fans() {
+  constexpr int kLeast = 8;
+  WordsFile file{"fans.txt", "words", "Fans", {}};
+  for (const FanRow& row : kFanRows) {
+    const int number = static_cast<int>(row.Is);
+    file.Headings.push_back(
+        Named(EnumNameIn<FanMood::Superb, FanMood::Handles>(number), number, row.Slots, kLeast));
+  }
+  return file;
+}
+
+}  // namespace
+
+std::vector<WordsFile> AllWordsFiles() {
+  std::vector<WordsFile> files;
+  AddVoices(files);
+  for (auto file : {Meeting, News, Rumours, Fans}) files.push_back(file());
+  return files;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,150 @@
+#include "words/embedding.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <fstream>
+#include <iterator>
+
+#include "support/checkout.h"
+#include "support/scratchfolder.h"
+
+namespace grapplemont {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A copy of words/ to make mistakes in.
+class EmbeddingTest : public testing::Test {
+ protected:
+  EmbeddingTest() {
+    fs::copy(test::Checkout("/words"), root_ / "words", fs::copy_options::recursive);
+  }
+
+  std::vector<std::string> Embed() { return EmbedWords(root_ / "words", Out()); }
+  fs::path Out() const { return root_ / "out"; }
+  fs::path PathOf(const std::string& file) const { return root_ / ("words/" + file); }
+  std::string Read(const std::string& file) const {
+    std::ifstream in(PathOf(file), std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+  }
+  void Write(const std::string& file, const std::string& text) const {
+    std::ofstream(PathOf(file), std::ios::binary) << text;
+  }
+  static std::string At(const std::string& file, int line) {
+    return "words/" + file + ":" + std::to_string(line) + ": ";
+  }
+  /// Puts one text for another; gives the line where it stood.
+  int Replace(const std::string& file, const std::string& what, const std::string& with) {
+    std::string text = Read(file);
+    const auto at = text.find(what);
+    EXPECT_NE(at, std::string::npos) << what;
+    const auto line = 1 + std::count(text.begin(), text.begin() + std::ptrdiff_t(at), '\n');
+    Write(file, text.replace(at, what.size(), with));
+    return static_cast<int>(line);
+  }
+
+ private:
+  const test::ScratchFolder root_;
+};
+
+TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
+  const struct {
+    const char *Line, *Why;
+  } rows[] = {
+      {"{T:hee} is here.", "there is no slot {T:hee}"},
+      {"{T} wants the {titel}.", "there is no slot {titel}"},
+      {"{T} meets {a}.", "{a} is nobody here; lines may name {T} and {m}"},
+      {"Camera on.", "every line here names {T}"},
+      {"{T} is in. {Camera on.", "a brace is not closed"},
+      {"{T} is in. Camera} on.", "a brace closes nothing"},
+      {"{T} here. {?m}{m} too.", "a condition is not closed: {.} is missing"},
+      {"{T}. {?m}{m}. {!feud}Hm. {.}{.}", "a condition stands inside another"},
+      {"{T} is here. {.}", "{.} ends no condition"},
+      {"{T} is in.  Camera on.", "two blanks in a row"},
+      {"{T} talks to himself.",
+       "write {a:himself}, with the letter of whoever it is: it goes by sex and number"},
+      {"{T} \xE2\x98\x85.", "the program has no such letter: \xE2\x98\x85"},
+  };
+  const std::string heading = "== TalkOpening, SingleTalk\n", same = "{T} backstage. Mic on.";
+  std::string lines = heading;
+  for (const auto& row : rows) lines += std::string(row.Line) + "\n";
+  const int first = Replace("qvd/talk.txt", heading, lines + same + "\n") + 1;
+  std::vector<std::string> expected = {
+      At("qvd/bouts.txt", Replace("qvd/bouts.txt", "{w} gets", "{l} wins, {w} gets")) +
+      "{l} or {L} has lost, and wins here"};
+  // What the program cannot read is reported before what it may not say.
+  expected.push_back(At("qvd/talk.txt", first + int(std::size(rows)) - 1) +
+                     rows[std::size(rows) - 1].Why);
+  for (int row = 0; row + 1 < int(std::size(rows)); ++row)
+    expected.push_back(At("qvd/talk.txt", first + row) + rows[row].Why);
+  const int said = first + int(std::size(rows));
+  expected.push_back(At("qvd/talk.txt", said + 1) +
+                     "the same line stands in qvd/talk.txt:" + std::to_string(said));
+  const char* signing = "{who} has signed for {house}.";
+  expected.push_back(At("news.txt", Replace("news.txt", signing, "{who} signed for {home}.")) +
+                     "there is no slot {home} here; there is {who} and {house}");
+  EXPECT_EQ(Embed(), expected);
+  EXPECT_FALSE(fs::exists(Out())) << "nothing is made of words with mistakes";
+}
+
+TEST_F(EmbeddingTest, RefusesHeadingsAndNumbersOfLinesThatAreOff) {
+  const struct {
+    const char *File, *Text, *Instead, *Why;
+  } rows[] = {
+      {"lamplighter/bouts.txt", "== TwoCount\n", "== TwoCount\nOne more.\n",
+       "4 lines under this heading; needed are 3"},
+      {"lamplighter/finishes.txt", "== SideShow\n", "== SideShow\n\n== CheapFinish, Odd\n",
+       "0 lines under this heading; needed are at least 2"},
+      {"tolland/finishes.txt", "== SideShow\n", "== DoubleDq\n",
+       "this heading stands already in line 5"},
+      {"tolland/talk.txt", "# Rafe", "Too early.\n# Rafe",
+       "a line before the first heading (\"== ...\")"},
+      {"qvd/talk.txt", "TalkClosing, VerbalAttack", "TalkClosing, VerbalAtack",
+       "there is no heading \"TalkClosing, VerbalAtack\" in this file; did you mean TalkClosing, "
+       "VerbalAttack?"},
+      {"meeting.txt", "== RosterSmall\n", "== RosterSmall\nWe are few.\n",
+       "4 lines under this heading; needed are at most 3"},
+  };
+  std::vector<std::string> expected;
+  for (const auto& row : rows)
+    expected.push_back(At(row.File, Replace(row.File, row.Text, row.Instead)) + row.Why);
+  const auto mistakes = Embed();
+  for (const std::string& each : expected)
+    EXPECT_NE(std::find(mistakes.begin(), mistakes.end(), each), mistakes.end()) << each;
+  const auto missing = [&](const char* file, const char* heading) {
+    const std::string text = Read(file);
+    return At(file, int(std::count(text.begin(), text.end(), '\n'))) + "the heading \"" + heading +
+           "\" is missing";
+  };
+  for (const std::string& each : {missing("tolland/finishes.txt", "SideShow"),
+                                  missing("qvd/talk.txt", "TalkClosing, VerbalAttack")})
+    EXPECT_NE(std::find(mistakes.begin(), mistakes.end(), each), mistakes.end()) << each;
+  EXPECT_EQ(mistakes.size(), expected.size() + 3) << "and one heading \"Odd\"";
+}
+
+TEST_F(EmbeddingTest, RefusesAVoiceWithoutAFileAndAFileOfNoVoice) {
+  fs::rename(PathOf("qvd/talk.txt"), PathOf("qvd/tlak.txt"));
+  EXPECT_EQ(Embed(), (std::vector<std::string>{
+                         "words/qvd/talk.txt:1: this file is missing",
+                         "words/qvd/tlak.txt:1: the program reads no such file; did you mean "
+                         "qvd/talk.txt?"}));
+}
+
+TEST_F(EmbeddingTest, MakesOnlyTheUnitOfAnEditedFileAgain) {
+  ASSERT_EQ(Embed(), std::vector<std::string>());
+  const auto long_ago = fs::file_time_type::clock::now() - std::chrono::hours(1);
+  for (const auto& unit : fs::directory_iterator(Out())) fs::last_write_time(unit, long_ago);
+  Replace("fans.txt", "{show}: I have no notes.", "{show}: my \"caf\xC3\xA9\" is empty.");
+  ASSERT_EQ(Embed(), std::vector<std::string>());
+  for (const auto& unit : fs::directory_iterator(Out()))
+    EXPECT_EQ(fs::last_write_time(unit) != long_ago, unit.path().filename() == "fans.cpp")
+        << unit.path();
+  std::ifstream in(Out() / "fans.cpp");
+  const std::string code{std::istreambuf_iterator<char>(in), {}};
+  EXPECT_NE(code.find(R"(    "{show}: my \"caf\351\" is empty.)"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace grapplemont
