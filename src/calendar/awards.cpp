@@ -192,9 +192,10 @@ std::optional<YearAward> BestTeam(const Year& year) {
   YearAward award = ForWorker(year, kTeamOfTheYear, *one, "");
   award.Partner = best->Worker2;
   award.Winner = PairName(year.Of(), best->Worker1, best->Worker2);
-  award.For = "Over " + std::to_string(std::get<1>(most)) + " between them, experience " +
-              std::to_string(best->Experience) +
-              (std::get<2>(most) > 0 ? ", " + Days(std::get<2>(most)) + " as champions" : "");
+  award.For =
+      "Over " + std::to_string(std::get<1>(most)) + " between them, experience " +
+      std::to_string(best->Experience) +
+      (std::get<2>(most) > 0 ? ", " + Counted(std::get<2>(most), "day") + " as champions" : "");
   return award;
 }
 
