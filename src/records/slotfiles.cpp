@@ -20,7 +20,8 @@ SlotFiles::Opened& SlotFiles::Open(const std::string& name) {
     open_[name] = reserved->second;
     reserved_.erase(reserved);
   } else {
-    open_[name] = {disk_.Open(Path(name), true), 0};
+    const Disk::Handle handle = disk_.Open(Path(name), true);  // throws before there is an entry
+    open_[name] = {handle, 0};
   }
   return open_[name];
 }

@@ -141,10 +141,13 @@ void CutDisk::WriteAt(Handle file, std::int64_t offset, ByteSpan bytes) {
   const bool fails = Counts(Need::Room);
   // A write that fails has often begun.
   if (fails) bytes = bytes.first(bytes.size() / 2);
-  Do("write " + of.Path + " at " + std::to_string(offset) + ", " + std::to_string(bytes.size()),
-     [node = of.File, offset, copy = Bytes(bytes.begin(), bytes.end())](DiskState& state) {
-       state.Write(node, offset, copy);
-     });
+  if (!recording_)
+    state_.Write(of.File, offset, bytes);
+  else
+    Do("write " + of.Path + " at " + std::to_string(offset) + ", " + std::to_string(bytes.size()),
+       [node = of.File, offset, copy = Bytes(bytes.begin(), bytes.end())](DiskState& state) {
+         state.Write(node, offset, copy);
+       });
   if (fails) throw DiskError(of.Path, "write", ReasonOf(fault_));
 }
 

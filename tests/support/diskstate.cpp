@@ -22,7 +22,7 @@ PagedBytes::Page CopyOf(const PagedBytes::PageRef& page) {
 
 PagedBytes::PageRef Shared(const PagedBytes::Page& page) {
   static constexpr PagedBytes::Page kZeros{};
-  if (page == kZeros) return nullptr;
+  if (std::memcmp(page.data(), kZeros.data(), kPageBytes) == 0) return nullptr;
   return std::make_shared<const PagedBytes::Page>(page);
 }
 
