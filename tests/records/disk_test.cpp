@@ -218,7 +218,7 @@ TEST(TheMachinesDisk, ReadsWhatMayOnlyBeRead) {
 TEST(ADiskError, NamesAPathInTheProgramsOwnLetters) {
   EXPECT_STREQ("Could not open home/jos\xe9/s1: gone.",
                DiskError("home/jos\xc3\xa9/s1", "open", "gone").what());
-  EXPECT_STREQ("Could not open a?: gone.", DiskError("a\xff", "open", "gone").what());
+  EXPECT_STREQ("Could not open a\xff: gone.", DiskError("a\xff", "open", "gone").what());
   const DiskError fault("a", "write", "gone");
   EXPECT_STREQ("Could not write a: gone. Sorry.", DiskError(fault, "Sorry.").what());
   EXPECT_EQ("a", DiskError(fault, "Sorry.").Path());
