@@ -27,8 +27,9 @@ void TellReturn(World& world, const Worker& worker) {
 void StatusCountdown(World& world) {
   for (Worker& worker : world.Workers()) {
     if (worker.Status == "Nor" || worker.Status == "Hom") continue;
+    const bool isLast = worker.StatusMonths == 1;
     worker.StatusMonths -= 1;
-    if (worker.StatusMonths != 0) continue;
+    if (!isLast) continue;
     if (WorksForPlayer(world, worker)) TellReturn(world, worker);
     worker.Status = "Nor";
     worker.InjuryName = "";

@@ -322,7 +322,7 @@ TEST(StatusCountdown, EndsEachAbsenceAtItsTime) {
       {"Sus", 12, "Sus", 11, ""},
       {"Hom", 1, "Hom", 1, ""},
       {"Nor", 1, "Nor", 1, ""},
-      {"Inj", 0, "Inj", -1, ""}};
+      {"Inj", 0, "Inj", 0, ""}};
   for (const StatusCase& c : kCases)
     for (const bool isPlayers : {true, false}) {
       SCOPED_TRACE(std::string(c.Status) + std::to_string(c.Months));

@@ -118,9 +118,9 @@ TEST(Contracts, EndAtARivals) {
       worker.Position = c.Position;
       worker.Status = "Hom";
       worker.Morale = 5;
-      worker.Manager = 1;
       worker.TurnPending = true;
     });
+    world.Workers()[1].Manager = 1;
     ScriptDraws(world, {});
     PayWagesAndContracts(world);
     const Worker& worker = world.Workers()[1];

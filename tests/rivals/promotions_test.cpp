@@ -309,7 +309,9 @@ World LastDayOfMarch(const Change<Promotion>& change) {
                     .Game("CWA", Day{std::chrono::year{2026} / 3 / 31});
   Promotion& rival = world.Promotions()[2];
   rival.HeadTrainer = Named(world.AllStaff(), "Coach").Uid;
-  rival.Commissioner = Named(world.Workers(), "XWF Hand 3").Uid;
+  Worker& commissioner = Named(world.Workers(), "XWF Hand 3");
+  commissioner.Position = kNonWrestler;
+  rival.Commissioner = commissioner.Uid;
   rival.Split[0] = "Red";
   Named(world.Workers(), "XWF Hand 4").Split = "Red";
   world.Game().MailOtherFed = 0;

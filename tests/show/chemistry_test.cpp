@@ -26,13 +26,12 @@ TEST(Chemistry, IsThatOfEveryTeamThatIsASideOfATagMatch) {
                           .Team("C", "Eli", "Fay", With(60))
                           .Team("D", "Gus", "Hal", With(30))
                           .Team("Across", "Bea", "Cal", With(100))
-                          .Team("Ash again", "Ash", "Bea", With(60))
                           .Game("CWA");
-  EXPECT_EQ(ChemistryOf(world, MatchOf(kTag)).Level, 4 + 3 + 2);
-  EXPECT_EQ(ChemistryOf(world, MatchOf(kThreeTeams)).Level, 4 + 3 + 2 + 2);
+  EXPECT_EQ(ChemistryOf(world, MatchOf(kTag)).Level, 4 + 3);
+  EXPECT_EQ(ChemistryOf(world, MatchOf(kThreeTeams)).Level, 4 + 3 + 2);
   const Chemistry all = ChemistryOf(world, MatchOf(kFourTeams));
-  EXPECT_EQ(all.Level, 4 + 3 + 2 + 1 + 2);
-  EXPECT_EQ(all.Teams, (std::vector<std::string>{"A", "B", "C", "D", "Ash again"}));
+  EXPECT_EQ(all.Level, 4 + 3 + 2 + 1);
+  EXPECT_EQ(all.Teams, (std::vector<std::string>{"A", "B", "C", "D"}));
   for (const int style : {kSingles, kThreeWay, kFourWay, kThreeOnThree, kFourOnFour})
     EXPECT_EQ(ChemistryOf(world, MatchOf(style)).Level, 0) << style;
 }

@@ -54,7 +54,7 @@ TEST(MatchConsequences, CountAttacksOfRunInsInFeudsOfTheirOwn) {
   EXPECT_EQ(stage.W.Feuds()[2].Dirty1, 1);
 }
 
-TEST(MatchConsequences, OfADrawAreWearAlone) {
+TEST(MatchConsequences, OfADrawAreWearAndWhatAGreatMatchLifts) {
   Stage stage;
   SetAside(stage);
   stage.Match(kSingles, {"Bea", "Cal"});
@@ -66,7 +66,7 @@ TEST(MatchConsequences, OfADrawAreWearAlone) {
   EXPECT_EQ(stage["Ash"].Condition, 100) << "the number that stands for no loser is nobody";
   EXPECT_EQ(stage["Bea"].Condition, 96);
   EXPECT_EQ(stage["Cal"].Condition, 95);
-  EXPECT_EQ(stage.Run.Notes, "");
+  EXPECT_EQ(stage.Run.Notes, "Bea gained overness from this match. ");
 }
 
 TEST(MatchConsequences, ReachEveryMemberOfTheWinningSide) {
