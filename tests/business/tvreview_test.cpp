@@ -23,11 +23,11 @@ SmallWorld TwoShows(int rivalSize = kRegional) {
 TEST(TvContractReview, CountsTheWeeksOfEveryShow) {
   World world = TwoShows();
   world.Shows()[1].ContractWeeks = 4;
-  world.Shows()[2].ContractWeeks = 1000;
+  world.Shows()[2].ContractWeeks = 500;
   world.Shows()[2].Rating4 = 2;
   TvContractReview(world);
   EXPECT_EQ(world.Shows()[1].ContractWeeks, 3);
-  EXPECT_EQ(world.Shows()[2].ContractWeeks, 999);
+  EXPECT_EQ(world.Shows()[2].ContractWeeks, 499);
   EXPECT_EQ(NewsOf(world), "");
 }
 
