@@ -382,12 +382,12 @@ TEST(WhyNotAsOffered, NeedsTheCampOrTerritoryItSendsTo) {
 TEST(Sign, ChangesTheRecordAndLeavesNothingBehind) {
   World world = Market()
                     .Network("Nine")
-                    .Promotion("ACE", kCult)
+                    .Promotion("ACE", kCult, [](Promotion& p) { p.Split[0] = "Red"; })
                     .Worker("Client")
                     .Worker("Star Stan", kNonWrestler, 50,
                             [](Worker& w) {
                               w.Split = "Red";
-                              w.Manager = 1;
+                              w.Manager = 4;
                               w.CreativeControl = true;
                             })
                     .Title("Ace Crown", "Star Stan", {}, [](Title& t) { t.Image = 90; })
