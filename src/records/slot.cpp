@@ -40,6 +40,9 @@ SlotDamaged::SlotDamaged(const std::string& folder, const std::string& damage, s
                          " The slot as it is now will be kept in " + copy + "."),
       copy_(std::move(copy)) {}
 
+SlotGone::SlotGone(const std::string& path)
+    : DiskError(path, "keep anything in", "it was removed or replaced while the slot was open") {}
+
 struct Slot::Insides {
   Insides(grapplemont::Disk& disk, std::string folder, std::vector<KnownFile> known,
           const SlotOptions& options)
@@ -235,8 +238,7 @@ void Slot::Insides::Recover() {
 /// they take every step, and nobody finds it again.
 void Slot::Insides::RequireInPlace() {
   const std::string lost = Journal.IsInPlace() ? Records.Displaced() : Path(kJournalName);
-  if (!lost.empty())
-    throw DiskError(lost, "keep anything in", "it was removed or replaced while the slot was open");
+  if (!lost.empty()) throw SlotGone(lost);
 }
 
 bool Slot::Insides::TryRecover() {

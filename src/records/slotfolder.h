@@ -32,6 +32,13 @@ class SlotLock {
   std::string path_;
 };
 
+/// The slot's files are no longer those that were opened: they were removed or replaced from
+/// outside. Nothing further was done to either.
+class SlotGone : public DiskError {
+ public:
+  explicit SlotGone(const std::string& path);
+};
+
 /// Makes a file that did not exist, on disk when this returns (its name is not).
 void WriteNewFile(Disk& disk, const std::string& path, ByteSpan bytes);
 

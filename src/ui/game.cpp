@@ -4,6 +4,7 @@
 
 #include "records/checkworld.h"
 #include "records/slot.h"
+#include "records/slotfolder.h"
 #include "records/world.h"
 
 namespace grapplemont {
@@ -64,6 +65,8 @@ void Game::CloseSlot() {
   world_.reset();
   try {
     closing->Checkpoint();
+  } catch (const SlotGone& fault) {
+    desk_.Say("Error!", fault.what());
   } catch (const DiskError&) {
     // The journal still holds every commit; the next opening replays it.
   }

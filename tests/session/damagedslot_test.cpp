@@ -89,6 +89,24 @@ TEST_F(ADamagedGame, IsAskedAboutWhereNothingProvesItsFiles) {
   EXPECT_EQ("Monday, 06 April 2026", LongDate(home_.Play.World().Today()));
 }
 
+TEST(AGameWhoseSlotIsRemoved, SaysSoAtEachStepAndOnLeaving) {
+  HomeFolder home(
+      SmallWorld().Network("Nine").Promotion("CWA", kCult).Owner("Ruth Vane").Crew(6).Build());
+  home.StartNewGame();
+  home.Desk.Click("cmdnext");
+  const Day today = home.Play.World().Today();
+  home.Remove("s1");
+  const std::string fault = "Could not keep anything in " + home.Path("s1/journal") +
+                            ": it was removed or replaced while the slot was open.";
+  home.Desk.ExpectSay("Error!", fault + " Your last step was taken back.");
+  home.Desk.Click("cmdnext");
+  EXPECT_EQ(today, home.Play.World().Today());
+  home.Desk.ExpectAsk("Quit?", kAnyText, true);
+  home.Desk.ExpectSay("Error!", fault);
+  home.Desk.Click("cmdquit");
+  EXPECT_EQ("frmGameMenu", home.Desk.TopName());
+}
+
 TEST_F(ADamagedGame, IsNoneForMoreIncidentsThanADayCanHave) {
   home_.Write("s2/incident.tmp", std::string(13 * sizeof(Incident), '\0'));
   home_.Desk.Click("cmdload2");
