@@ -178,7 +178,7 @@ TEST(Meeting, TalksOfMoraleAndSaysWhyWhereTheRecordsDo) {
       {Point::Unhappy,
        [](World& w) {
          One(w).Morale = 20;
-         w.Player().Rank = {Word(), Word(), Word(), Word(), Word()};
+         w.Player().Rank = {};
          w.Player().Rank[0] = 240;
          w.Player().Rank[1] = 245;
          w.Player().Rank[2] = 250;
