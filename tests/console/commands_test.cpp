@@ -107,7 +107,7 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
        "\"5000000000\" is no whole number that a scroll bar could go to."},
       {"slide hsprice 101", "\"hsprice\" goes from 5 to 100."},
       {"show lstpeople Bram", "Write it as \"show [NAME]\"."},
-      {"show lstnone", "There is no \"lstnone\" to be seen."},
+      {"show lstghost", "There is no \"lstghost\" to be seen."},
       {"show cmdhidden", "There is no \"cmdhidden\" to be seen."},
       {"quit now", "Write it as \"quit\"."},
       {"click cmdnone", "frmSample has no control \"cmdnone\"."},

@@ -61,6 +61,7 @@ What
      1  Red
      2  Green
      3  Blue
+  lstnone          ListBox      Nothing yet.
   optother         OptionButton (o) Other
   imgdoor          Picture      door.jpg (can be clicked)
   imgback          Picture      back.jpg

@@ -17,7 +17,7 @@ constexpr int kPatience = 10000;  // milliseconds for a box to come, on a busy m
 }  // namespace
 
 Player::Player(const QString& settings)
-    : Window(Desk, {Checkout("/gfx"), settings, [this] { ++Closings; }}) {
+    : Window(Desk, {QString::fromStdString(Checkout("/gfx")), settings, [this] { ++Closings; }}) {
   Window.show();
 }
 
