@@ -258,7 +258,7 @@ const RefusalCase kRefusals[] = {
     {"cmdwres",
      "Cal Drift",
      {{"txtage", "old"}, {"txtwage", "-1"}},
-     "Age: needs a number, 0 to 250 years.\nWage ($1000 a month): 0 to 32767 thousand dollars a "
+     "Age: needs a number, 0 to 250 years.\nWage ($1000 a month): 0 to 10000 thousand dollars a "
      "month."},
     {"cmdwres",
      "Cal Drift",
