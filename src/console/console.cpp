@@ -77,7 +77,7 @@ void Console::Run() {
 }
 
 void Console::Refuse(std::string why) {
-  if (why.size() > kLongestError) why = why.substr(0, kLongestError) + "...";
+  if (why.size() > kLongestError) why.replace(kLongestError, std::string::npos, "...");
   answer_.Error = ToUtf8(why);
 }
 

@@ -12,7 +12,8 @@ namespace grapplemont {
 
 namespace {
 
-constexpr const char* kClosedRow = "Not Available In This TV Time Slot";
+constexpr std::string_view kClosedRowTip = "Not Available In This TV Time Slot.";
+constexpr std::string_view kClosedRow = kClosedRowTip.substr(0, kClosedRowTip.size() - 1);
 
 constexpr const char* kChangeRow = "To book something else in this row, remove it first.";
 
@@ -131,7 +132,7 @@ void SheetScreen::FillRows() {
 
 std::vector<ui::Cell> SheetScreen::CellsOf(int record) {
   if (record > OpenRows())
-    return {ui::Cell("-", ui::Tone::Muted), ui::Cell(kClosedRow, ui::Tone::Muted)};
+    return {ui::Cell("-", ui::Tone::Muted), ui::Cell(std::string(kClosedRow), ui::Tone::Muted)};
   const Segment& segment = Row(record);
   const bool empty = segment.Kind == kEmptySegment;
   const std::string tip = TitleTip(segment), feud = FeudOfRow(world(), segment);
@@ -148,7 +149,7 @@ void SheetScreen::ShowButton(int record) {
   const bool booked = Row(record).Kind != kEmptySegment;
   cmdbook(record).Text = booked ? "Remove" : "Book";
   cmdbook(record).Enabled = open;
-  cmdbook(record).Tip = open ? TitleTip(Row(record)) : std::string(kClosedRow) + ".";
+  cmdbook(record).Tip = open ? TitleTip(Row(record)) : std::string(kClosedRowTip);
 }
 
 void SheetScreen::ShowCounts() {
@@ -178,7 +179,7 @@ void SheetScreen::ShowRow() {
   const int record = lstrows.Key();
   if (record == 0)
     return txtrow.Write({{Style::Muted, "Choose a row to read what is booked in it."}});
-  if (record > OpenRows()) return txtrow.Write({{Style::Muted, std::string(kClosedRow) + "."}});
+  if (record > OpenRows()) return txtrow.Write({{Style::Muted, std::string(kClosedRowTip)}});
   const Segment& segment = Row(record);
   if (segment.Kind == kEmptySegment)
     return txtrow.Write(
