@@ -1,6 +1,7 @@
-# Each room of src/ is two libraries: its rules (src/ROOM/) and, where it has some, its screens
-# (src/ROOM/screens/), named ROOM_screens. A room's headers are reached through a link of its own, so
-# that what does not name a room cannot include it: the build keeps the arrows of the house.
+# Each room of src/ is a library for its rules (src/ROOM/) and, where it has some, one for its screens
+# (src/ROOM/screens/), named ROOM_screens. A large room has sub-folders, each a library of its own,
+# named ROOM_FOLDER. The headers of a folder are reached through links of their own, so that what does
+# not name a folder cannot include it: the build keeps the arrows of the house.
 
 add_library(house_rules INTERFACE)
 option(GRAPPLEMONT_WERROR "Stop at warnings" ON)
@@ -35,26 +36,57 @@ function(precompiled name from)
   endif()
 endfunction()
 
+# The headers of src/FOLDER, without those of its sub-folders, as the target NAME.
+function(headers_of_folder name folder)
+  set(gate ${CMAKE_BINARY_DIR}/rooms/${name}/${folder})
+  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
+  file(GLOB links ${gate}/*.h)
+  foreach(link ${links})
+    if(NOT EXISTS ${link})
+      file(REMOVE ${link})
+    endif()
+  endforeach()
+  file(MAKE_DIRECTORY ${gate})
+  foreach(header ${headers})
+    cmake_path(GET header FILENAME file)
+    file(CREATE_LINK ${header} ${gate}/${file} SYMBOLIC)
+  endforeach()
+  add_library(${name} INTERFACE)
+  target_include_directories(${name} INTERFACE ${CMAKE_BINARY_DIR}/rooms/${name})
+endfunction()
+
+# library_of_folder(NAME FOLDER PCH [LINK...]): one library for src/FOLDER, without its sub-folders.
 function(library_of_folder name folder pch)
+  headers_of_folder(${name}_headers ${folder})
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   add_library(${name} STATIC ${sources})
-  target_link_libraries(${name} PRIVATE house_rules PUBLIC ${ARGN})
+  target_link_libraries(${name} PRIVATE house_rules PUBLIC ${name}_headers ${ARGN})
   precompiled(${name} ${pch})
 endfunction()
 
-function(room_headers name)
-  set(gate ${CMAKE_BINARY_DIR}/rooms/${name})
-  file(MAKE_DIRECTORY ${gate})
-  file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${name} ${gate}/${name} SYMBOLIC)
-  add_library(${name}_headers INTERFACE)
-  target_include_directories(${name}_headers INTERFACE ${gate})
-endfunction()
-
-# room(NAME PCH [LINK...]): one library for src/NAME. A LINK is a room or a library.
+# room(NAME PCH [LINK...]): src/NAME and the sub-folders that NAME_folders lists, in their order; "."
+# is the room's own folder. Each may use those before it. A LINK is a room or a library.
 function(room name pch)
-  room_headers(${name})
-  library_of_folder(${name} ${name} ${pch} ${name}_headers ${ARGN})
+  if(NOT ${name}_folders)
+    library_of_folder(${name} ${name} ${pch} ${ARGN})
+    return()
+  endif()
+  set(above ${ARGN})
+  add_library(${name} INTERFACE)
+  add_library(${name}_headers INTERFACE)
+  foreach(folder ${${name}_folders})
+    set(part ${name}_${folder})
+    set(path ${name}/${folder})
+    if(folder STREQUAL ".")
+      set(part ${name}_room)
+      set(path ${name})
+    endif()
+    library_of_folder(${part} ${path} ${pch} ${above})
+    list(APPEND above ${part})
+    target_link_libraries(${name} INTERFACE ${part})
+    target_link_libraries(${name}_headers INTERFACE ${part}_headers)
+  endforeach()
 endfunction()
 
 # house(ROOM...): the rooms of the game in their order. Each may use those before it, and its screens

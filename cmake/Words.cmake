@@ -2,7 +2,7 @@
 # built before all rooms, so it compiles the few files of theirs that it needs for itself, without
 # their precompiled headers. An edited text compiles its own unit again and no other.
 
-room_headers(words)
+headers_of_folder(words_headers words)
 file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/words/*.cpp)
 list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
 foreach(shared records/angles records/charset records/nearest report/family info/meetingpoints)
