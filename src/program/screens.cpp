@@ -1,39 +1,91 @@
 #include "program/screens.h"
 
-#include "booking/screens/bookingscreens.h"
-#include "business/screens/fedscreens.h"
-#include "business/screens/officescreens.h"
-#include "business/screens/tvscreens.h"
 #include "calendar/screens/calendarscreens.h"
-#include "editor/screens/editorfilescreens.h"
 #include "editor/screens/editorscreens.h"
-#include "info/screens/chroniclescreens.h"
-#include "info/screens/infoscreens.h"
 #include "rivals/screens/rivalscreens.h"
-#include "roster/screens/contractscreens.h"
 #include "roster/screens/rosterscreens.h"
-#include "session/screens/sessionscreens.h"
-#include "show/screens/showscreens.h"
-#include "storylines/screens/storyscreens.h"
 
 namespace grapplemont {
 
+// Every screen that is opened by its name. The file of each ends in the same row.
+#define EVERY_SCREEN(SCREEN) \
+  SCREEN(frmFeuds)           \
+  SCREEN(frmFeudStart)       \
+  SCREEN(frmTagTeams)        \
+  SCREEN(frmStables)         \
+  SCREEN(frmBelts)           \
+  SCREEN(frmReigns)          \
+  SCREEN(frmManagers)        \
+  SCREEN(frmTurn)            \
+  SCREEN(frmStaff)           \
+  SCREEN(frmOtherStaff)      \
+  SCREEN(frmRoster)          \
+  SCREEN(frmOtherWres)       \
+  SCREEN(frmShortlist)       \
+  SCREEN(frmFed)             \
+  SCREEN(frmFedValue)        \
+  SCREEN(frmFinance)         \
+  SCREEN(frmTicket)          \
+  SCREEN(frmCharity)         \
+  SCREEN(frmLoan)            \
+  SCREEN(frmWages)           \
+  SCREEN(frmFedProd)         \
+  SCREEN(frmFedSponsor)      \
+  SCREEN(frmTelevision)      \
+  SCREEN(frmPromoTape)       \
+  SCREEN(frmTvOffer)         \
+  SCREEN(frmTVRank)          \
+  SCREEN(frmViewNetworks)    \
+  SCREEN(frmViewShows)       \
+  SCREEN(frmMatchOutput)     \
+  SCREEN(frmPostShow)        \
+  SCREEN(frmBooking)         \
+  SCREEN(frmPPVBooking)      \
+  SCREEN(frmAutoBook)        \
+  SCREEN(frmDebut)           \
+  SCREEN(frmAltRoster)       \
+  SCREEN(frmAltBelts)        \
+  SCREEN(frmQuickStat)       \
+  SCREEN(frmOtherFed)        \
+  SCREEN(frmTheEnd)          \
+  SCREEN(frmPinky)           \
+  SCREEN(frmMainScreen)      \
+  SCREEN(frmEvent)           \
+  SCREEN(frmIncident)        \
+  SCREEN(frmResults)         \
+  SCREEN(frmReports)         \
+  SCREEN(frmAwards)          \
+  SCREEN(frmNews)            \
+  SCREEN(frmNotepad)         \
+  SCREEN(frmOptions)         \
+  SCREEN(frmUser)            \
+  SCREEN(frmTalk)            \
+  SCREEN(frmInternet)        \
+  SCREEN(frmEditMaintain)    \
+  SCREEN(frmEditMerge)       \
+  SCREEN(frmEditImport)      \
+  SCREEN(frmEditTables)      \
+  SCREEN(frmEditor)          \
+  SCREEN(frmTitleScreen)     \
+  SCREEN(frmDisclaimer)      \
+  SCREEN(frmGameMenu)        \
+  SCREEN(frmCredits)         \
+  SCREEN(frmCreditsXtra)     \
+  SCREEN(frmNewGame)         \
+  SCREEN(frmLoadGame)        \
+  SCREEN(frmWait)            \
+  SCREEN(frmLoadingScreens)
+
+#define DECLARE(name) std::unique_ptr<ui::Screen> Make##name(Game& game);
+EVERY_SCREEN(DECLARE)
+
 void RegisterScreens(Game& game) {
-  RegisterStoryScreens(game);
-  RegisterRosterScreens(game);
-  RegisterContractScreens(game);
-  RegisterFedScreens(game);
-  RegisterOfficeScreens(game);
-  RegisterTvScreens(game);
-  RegisterShowScreens(game);
-  RegisterBookingScreens(game);
-  RegisterRivalScreens(game);
-  RegisterCalendarScreens(game);
-  RegisterInfoScreens(game);
-  RegisterChronicleScreens(game);
-  RegisterEditorFileScreens(game);
-  RegisterEditorScreens(game);
-  RegisterSessionScreens(game);
+#define REGISTER(name) game.Desk().Register(#name, [&game] { return Make##name(game); });
+  EVERY_SCREEN(REGISTER)
+  RegisterRecordPages(game);
+  ConnectRoster(game);
+  ConnectRivals(game);
+  ConnectCalendar(game);
 }
 
 }  // namespace grapplemont

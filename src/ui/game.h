@@ -96,3 +96,9 @@ class Game : public ui::Work {
 };
 
 }  // namespace grapplemont
+
+/// How the desk makes a screen that it opens by its name; program/screens.cpp has a row for each.
+#define SCREEN(name)                                   \
+  std::unique_ptr<ui::Screen> Make##name(Game& game) { \
+    return std::make_unique<name>(game);               \
+  }

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "editor/screens/editorscreens.h"
+#include "program/screens.h"
 #include "editorhome.h"
 #include "support/cutdisk.h"
 
@@ -19,7 +19,7 @@ TEST(AFailedSave, IsToldTakenBackAndCanBeTriedAgain) {
     for (const auto& [name, bytes] : FilesOf(before)) WriteFile(disk, "home/data/" + name, bytes);
     ScriptDesk desk;
     Game game(desk, disk, {"home", [] { return kGameStart; }, 1});
-    RegisterEditorScreens(game);
+    RegisterScreens(game);
     desk.Open("frmEditWres");
     desk.Click("cmdnew");
     desk.Type("txtname", "Bram Okafor");
@@ -47,7 +47,7 @@ TEST(TheEditor, DoesNotOpenWhileAnotherProgramEdits) {
   auto disk = RealDisk(Syncs::None);
   ScriptDesk desk;
   Game second(desk, *disk, {first.Play.Home(), [] { return kGameStart; }, 1});
-  RegisterEditorScreens(second);
+  RegisterScreens(second);
   desk.ExpectSay("Error!",
                  "The default data are being edited in another program. Close the editor there "
                  "first; nothing was changed.");

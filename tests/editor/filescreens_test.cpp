@@ -2,7 +2,6 @@
 
 #include <filesystem>
 
-#include "editor/screens/editorfilescreens.h"
 #include "editor/screens/screenediting.h"
 #include "newrecords.h"
 #include "support/homefolder.h"

@@ -66,8 +66,6 @@ class frmAltBelts : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmAltBelts(Game& game) {
-  return std::make_unique<frmAltBelts>(game);
-}
+SCREEN(frmAltBelts)
 
 }  // namespace grapplemont

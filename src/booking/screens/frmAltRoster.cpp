@@ -100,8 +100,6 @@ class frmAltRoster : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmAltRoster(Game& game) {
-  return std::make_unique<frmAltRoster>(game);
-}
+SCREEN(frmAltRoster)
 
 }  // namespace grapplemont

@@ -163,8 +163,6 @@ class frmAutoBook : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmAutoBook(Game& game) {
-  return std::make_unique<frmAutoBook>(game);
-}
+SCREEN(frmAutoBook)
 
 }  // namespace grapplemont

@@ -55,8 +55,6 @@ class frmBooking : public SheetScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmBooking(Game& game) {
-  return std::make_unique<frmBooking>(game);
-}
+SCREEN(frmBooking)
 
 }  // namespace grapplemont

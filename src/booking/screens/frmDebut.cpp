@@ -11,7 +11,7 @@ namespace {
 /// Who waits for his first appearance, and the ways to it.
 class frmDebut : public ui::Screen {
  public:
-  frmDebut(Game& game, bool isEvent)
+  explicit frmDebut(Game& game, bool isEvent = false)
       : Screen(game.Desk(), "frmDebut", "Debuts"), game_(game), isEvent_(isEvent) {
     lstwres.EmptyText = "Everybody on your roster has been seen. Whom you sign waits here.";
     lstways.EmptyText = "Choose somebody to see how he can be brought out.";
@@ -91,6 +91,8 @@ class frmDebut : public ui::Screen {
 };
 
 }  // namespace
+
+SCREEN(frmDebut)
 
 std::unique_ptr<ui::Screen> MakefrmDebut(Game& game, bool isEvent) {
   return std::make_unique<frmDebut>(game, isEvent);

@@ -116,8 +116,6 @@ class frmPPVBooking : public SheetScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmPPVBooking(Game& game) {
-  return std::make_unique<frmPPVBooking>(game);
-}
+SCREEN(frmPPVBooking)
 
 }  // namespace grapplemont

@@ -59,7 +59,7 @@ std::string FinishersOf(const Worker& worker) {
 /// Anybody's numbers at a glance.
 class frmQuickStat : public ui::Screen {
  public:
-  frmQuickStat(Game& game, int workerUid)
+  explicit frmQuickStat(Game& game, int workerUid = 0)
       : Screen(game.Desk(), "frmQuickStat", "Stats"), game_(game), first_(workerUid) {
     lstwres.EmptyText = "Nobody is here.";
     lststats.EmptyText = "Choose somebody to see his numbers.";
@@ -164,6 +164,8 @@ class frmQuickStat : public ui::Screen {
 };
 
 }  // namespace
+
+SCREEN(frmQuickStat)
 
 std::unique_ptr<ui::Screen> MakefrmQuickStat(Game& game, int workerUid) {
   return std::make_unique<frmQuickStat>(game, workerUid);

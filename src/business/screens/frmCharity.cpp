@@ -66,8 +66,6 @@ class frmCharity : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmCharity(Game& game) {
-  return std::make_unique<frmCharity>(game);
-}
+SCREEN(frmCharity)
 
 }  // namespace grapplemont

@@ -158,8 +158,6 @@ class frmFed : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmFed(Game& game) {
-  return std::make_unique<frmFed>(game);
-}
+SCREEN(frmFed)
 
 }  // namespace grapplemont

@@ -76,8 +76,6 @@ class frmFedProd : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmFedProd(Game& game) {
-  return std::make_unique<frmFedProd>(game);
-}
+SCREEN(frmFedProd)
 
 }  // namespace grapplemont

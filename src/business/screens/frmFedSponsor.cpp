@@ -263,8 +263,6 @@ class frmFedSponsor : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmFedSponsor(Game& game) {
-  return std::make_unique<frmFedSponsor>(game);
-}
+SCREEN(frmFedSponsor)
 
 }  // namespace grapplemont

@@ -61,8 +61,6 @@ class frmFedValue : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmFedValue(Game& game) {
-  return std::make_unique<frmFedValue>(game);
-}
+SCREEN(frmFedValue)
 
 }  // namespace grapplemont

@@ -105,8 +105,6 @@ class frmFinance : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmFinance(Game& game) {
-  return std::make_unique<frmFinance>(game);
-}
+SCREEN(frmFinance)
 
 }  // namespace grapplemont

@@ -111,8 +111,6 @@ class frmLoan : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmLoan(Game& game) {
-  return std::make_unique<frmLoan>(game);
-}
+SCREEN(frmLoan)
 
 }  // namespace grapplemont

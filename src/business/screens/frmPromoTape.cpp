@@ -64,8 +64,6 @@ class frmPromoTape : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmPromoTape(Game& game) {
-  return std::make_unique<frmPromoTape>(game);
-}
+SCREEN(frmPromoTape)
 
 }  // namespace grapplemont

@@ -117,12 +117,8 @@ class frmViewShows : public ShowTable {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmTVRank(Game& game) {
-  return std::make_unique<frmTVRank>(game);
-}
+SCREEN(frmTVRank)
 
-std::unique_ptr<ui::Screen> MakefrmViewShows(Game& game) {
-  return std::make_unique<frmViewShows>(game);
-}
+SCREEN(frmViewShows)
 
 }  // namespace grapplemont

@@ -221,8 +221,6 @@ class frmTelevision : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmTelevision(Game& game) {
-  return std::make_unique<frmTelevision>(game);
-}
+SCREEN(frmTelevision)
 
 }  // namespace grapplemont

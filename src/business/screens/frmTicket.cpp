@@ -70,8 +70,6 @@ class frmTicket : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmTicket(Game& game) {
-  return std::make_unique<frmTicket>(game);
-}
+SCREEN(frmTicket)
 
 }  // namespace grapplemont

@@ -118,8 +118,6 @@ class frmTvOffer : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmTvOffer(Game& game) {
-  return std::make_unique<frmTvOffer>(game);
-}
+SCREEN(frmTvOffer)
 
 }  // namespace grapplemont

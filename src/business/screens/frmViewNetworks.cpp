@@ -64,8 +64,6 @@ class frmViewNetworks : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmViewNetworks(Game& game) {
-  return std::make_unique<frmViewNetworks>(game);
-}
+SCREEN(frmViewNetworks)
 
 }  // namespace grapplemont

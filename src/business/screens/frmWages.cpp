@@ -103,8 +103,6 @@ class frmWages : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmWages(Game& game) {
-  return std::make_unique<frmWages>(game);
-}
+SCREEN(frmWages)
 
 }  // namespace grapplemont

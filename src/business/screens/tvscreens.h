@@ -4,16 +4,6 @@
 
 namespace grapplemont {
 
-/// Makes the screens of television known to the desk by their names.
-void RegisterTvScreens(Game& game);
-
-std::unique_ptr<ui::Screen> MakefrmTelevision(Game& game);
-std::unique_ptr<ui::Screen> MakefrmPromoTape(Game& game);
-std::unique_ptr<ui::Screen> MakefrmTvOffer(Game& game);
-std::unique_ptr<ui::Screen> MakefrmTVRank(Game& game);
-std::unique_ptr<ui::Screen> MakefrmViewNetworks(Game& game);
-std::unique_ptr<ui::Screen> MakefrmViewShows(Game& game);
-
 // One show of the player's, by its name. When it is gone by the time something is done with it, the
 // screen says so and closes.
 std::unique_ptr<ui::Screen> MakefrmTVContract(Game& game, std::string show);

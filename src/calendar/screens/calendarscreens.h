@@ -4,11 +4,7 @@
 
 namespace grapplemont {
 
-/// Makes the main screen, the incidents and the Events known to the desk, and gives the game its
-/// way to end a day.
-void RegisterCalendarScreens(Game& game);
-
-std::unique_ptr<ui::Screen> MakefrmIncident(Game& game);
-std::unique_ptr<ui::Screen> MakefrmEvent(Game& game);
+/// Gives the game its way to end a day and to bring the main screen up to date.
+void ConnectCalendar(Game& game);
 
 }  // namespace grapplemont

@@ -171,8 +171,6 @@ class frmEvent : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmEvent(Game& game) {
-  return std::make_unique<frmEvent>(game);
-}
+SCREEN(frmEvent)
 
 }  // namespace grapplemont

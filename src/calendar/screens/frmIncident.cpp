@@ -134,8 +134,6 @@ class frmIncident : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmIncident(Game& game) {
-  return std::make_unique<frmIncident>(game);
-}
+SCREEN(frmIncident)
 
 }  // namespace grapplemont

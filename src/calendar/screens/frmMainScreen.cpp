@@ -314,10 +314,9 @@ frmMainScreen* FindMainScreen(Game& game) {
 
 }  // namespace
 
-void RegisterCalendarScreens(Game& game) {
-  game.Desk().Register("frmMainScreen", [&game] { return std::make_unique<frmMainScreen>(game); });
-  game.Desk().Register("frmEvent", [&game] { return MakefrmEvent(game); });
-  game.Desk().Register("frmIncident", [&game] { return MakefrmIncident(game); });
+SCREEN(frmMainScreen)
+
+void ConnectCalendar(Game& game) {
   game.RefreshMainScreen = [&game] {
     if (frmMainScreen* main = FindMainScreen(game)) main->RefreshMainScreen();
   };

@@ -4,7 +4,7 @@
 
 namespace grapplemont {
 
-/// The editor of the default data: its hub and a screen for every kind of record.
-void RegisterEditorScreens(Game& game);
+/// Makes the editor's screen for every kind of record known to the desk.
+void RegisterRecordPages(Game& game);
 
 }  // namespace grapplemont

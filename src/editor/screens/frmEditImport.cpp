@@ -1,7 +1,6 @@
 #include <array>
 
 #include "editor/importworkers.h"
-#include "editor/screens/editorfilescreens.h"
 #include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
 #include "records/counted.h"
@@ -198,8 +197,6 @@ class frmEditImport : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmEditImport(Game& game) {
-  return std::make_unique<frmEditImport>(game);
-}
+SCREEN(frmEditImport)
 
 }  // namespace grapplemont

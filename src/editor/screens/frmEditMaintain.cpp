@@ -1,5 +1,4 @@
 #include "editor/maintain.h"
-#include "editor/screens/editorfilescreens.h"
 #include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
 #include "records/counted.h"
@@ -89,8 +88,6 @@ class frmEditMaintain : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmEditMaintain(Game& game) {
-  return std::make_unique<frmEditMaintain>(game);
-}
+SCREEN(frmEditMaintain)
 
 }  // namespace grapplemont

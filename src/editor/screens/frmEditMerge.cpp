@@ -1,5 +1,4 @@
 #include "editor/merge.h"
-#include "editor/screens/editorfilescreens.h"
 #include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
 
@@ -158,8 +157,6 @@ class frmEditMerge : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmEditMerge(Game& game) {
-  return std::make_unique<frmEditMerge>(game);
-}
+SCREEN(frmEditMerge)
 
 }  // namespace grapplemont

@@ -1,4 +1,3 @@
-#include "editor/screens/editorfilescreens.h"
 #include "editor/screens/screenediting.h"
 #include "editor/tablesfolder.h"
 #include "records/charset.h"
@@ -137,8 +136,6 @@ class frmEditTables : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmEditTables(Game& game) {
-  return std::make_unique<frmEditTables>(game);
-}
+SCREEN(frmEditTables)
 
 }  // namespace grapplemont

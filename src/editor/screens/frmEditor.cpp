@@ -143,8 +143,9 @@ class frmEditor : public ui::Screen {
 
 }  // namespace
 
-void RegisterEditorScreens(Game& game) {
-  game.Desk().Register("frmEditor", [&game] { return std::make_unique<frmEditor>(game); });
+SCREEN(frmEditor)
+
+void RegisterRecordPages(Game& game) {
   for (const RecordPage& page : RecordPages())
     game.Desk().Register(std::string(page.Screen),
                          [&game, &page] { return std::make_unique<RecordScreen>(game, page); });

@@ -67,8 +67,6 @@ class frmAwards : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmAwards(Game& game) {
-  return std::make_unique<frmAwards>(game);
-}
+SCREEN(frmAwards)
 
 }  // namespace grapplemont

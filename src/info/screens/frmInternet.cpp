@@ -1,11 +1,11 @@
 #include "info/fans.h"
 #include "info/rankings.h"
 #include "info/rumours.h"
-#include "info/screens/infoscreens.h"
 #include "info/worldnews.h"
 #include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -157,8 +157,6 @@ class frmInternet : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmInternet(Game& game) {
-  return std::make_unique<frmInternet>(game);
-}
+SCREEN(frmInternet)
 
 }  // namespace grapplemont

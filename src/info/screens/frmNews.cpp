@@ -1,7 +1,7 @@
 #include <algorithm>
+#include "ui/game.h"
 
 #include "info/mailbox.h"
-#include "info/screens/infoscreens.h"
 #include "records/counted.h"
 #include "records/modVar.h"
 #include "records/world.h"
@@ -142,8 +142,6 @@ class frmNews : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmNews(Game& game) {
-  return std::make_unique<frmNews>(game);
-}
+SCREEN(frmNews)
 
 }  // namespace grapplemont

@@ -1,5 +1,5 @@
-#include "info/screens/infoscreens.h"
 #include "records/world.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -74,8 +74,6 @@ class frmNotepad : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmNotepad(Game& game) {
-  return std::make_unique<frmNotepad>(game);
-}
+SCREEN(frmNotepad)
 
 }  // namespace grapplemont

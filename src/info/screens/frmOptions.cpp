@@ -1,6 +1,6 @@
 #include "info/mailoptions.h"
-#include "info/screens/infoscreens.h"
 #include "records/world.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -100,8 +100,6 @@ class frmOptions : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmOptions(Game& game) {
-  return std::make_unique<frmOptions>(game);
-}
+SCREEN(frmOptions)
 
 }  // namespace grapplemont

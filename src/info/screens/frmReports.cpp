@@ -10,7 +10,7 @@ namespace {
 /// The last shows, to be read again in the words in which they were told.
 class frmReports : public ui::Screen {
  public:
-  frmReports(Game& game, Day on, int promotionUid)
+  explicit frmReports(Game& game, Day on = kDayZero, int promotionUid = 0)
       : Screen(game.Desk(), "frmReports", "Report Column"),
         game_(game),
         on_(on),
@@ -121,6 +121,8 @@ class frmReports : public ui::Screen {
 };
 
 }  // namespace
+
+SCREEN(frmReports)
 
 std::unique_ptr<ui::Screen> MakefrmReports(Game& game, Day on, int promotionUid) {
   return std::make_unique<frmReports>(game, on, promotionUid);

@@ -188,8 +188,6 @@ class frmResults : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmResults(Game& game) {
-  return std::make_unique<frmResults>(game);
-}
+SCREEN(frmResults)
 
 }  // namespace grapplemont

@@ -2,7 +2,6 @@
 
 #include "calendar/meetingday.h"
 #include "info/meeting.h"
-#include "info/screens/infoscreens.h"
 #include "records/counted.h"
 #include "records/dates.h"
 #include "storylines/screens/screenpeople.h"
@@ -136,8 +135,6 @@ class frmTalk : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmTalk(Game& game) {
-  return std::make_unique<frmTalk>(game);
-}
+SCREEN(frmTalk)
 
 }  // namespace grapplemont

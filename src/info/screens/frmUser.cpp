@@ -1,9 +1,9 @@
 #include "info/career.h"
-#include "info/screens/infoscreens.h"
 #include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -102,8 +102,6 @@ class frmUser : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmUser(Game& game) {
-  return std::make_unique<frmUser>(game);
-}
+SCREEN(frmUser)
 
 }  // namespace grapplemont

@@ -159,9 +159,7 @@ class frmPromotion : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmOtherFed(Game& game) {
-  return std::make_unique<frmOtherFed>(game);
-}
+SCREEN(frmOtherFed)
 
 std::unique_ptr<ui::Screen> MakefrmPromotion(Game& game, int uid) {
   return std::make_unique<frmPromotion>(game, uid);
@@ -173,6 +171,10 @@ void OpenPromotionPage(Game& game, int uid) {
   if (const auto* top = dynamic_cast<frmPromotion*>(game.Desk().Top()); top && top->Uid() == uid)
     return;
   game.Desk().Open(MakefrmPromotion(game, uid));
+}
+
+void ConnectRivals(Game& game) {
+  game.OpenPromotion = [&game](int uid) { OpenPromotionPage(game, uid); };
 }
 
 }  // namespace grapplemont

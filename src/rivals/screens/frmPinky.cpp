@@ -38,8 +38,6 @@ class frmPinky : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmPinky(Game& game) {
-  return std::make_unique<frmPinky>(game);
-}
+SCREEN(frmPinky)
 
 }  // namespace grapplemont

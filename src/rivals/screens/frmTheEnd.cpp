@@ -49,8 +49,6 @@ class frmTheEnd : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmTheEnd(Game& game) {
-  return std::make_unique<frmTheEnd>(game);
-}
+SCREEN(frmTheEnd)
 
 }  // namespace grapplemont

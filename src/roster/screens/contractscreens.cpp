@@ -22,11 +22,6 @@ std::string WhyNotWith(const World& world, const Worker* worker, bool own) {
 
 }  // namespace
 
-void RegisterContractScreens(Game& game) {
-  game.Desk().Register("frmStaff", [&game] { return MakefrmStaff(game); });
-  game.Desk().Register("frmOtherStaff", [&game] { return MakefrmOtherStaff(game); });
-}
-
 void OpenWresContract(Game& game, int workerUid) {
   const Worker* worker = game.World().FindWorker(workerUid);
   if (const std::string why = WhyNotWith(game.World(), worker, true); !why.empty())

@@ -8,9 +8,6 @@
 
 namespace grapplemont {
 
-/// Makes the screens of staff known to the desk by their names.
-void RegisterContractScreens(Game& game);
-
 /// frmWresContract, for a worker of the player's.
 void OpenWresContract(Game& game, int workerUid);
 /// frmOtherContract, for a worker of anybody else or of nobody.
@@ -23,8 +20,5 @@ std::unique_ptr<ui::Screen> MakefrmWresContract(Game& game, const Worker& worker
 std::unique_ptr<ui::Screen> MakefrmOtherContract(Game& game, const Worker& worker);
 std::unique_ptr<ui::Screen> MakefrmStaffContract(Game& game, const Staff& staff);
 std::unique_ptr<ui::Screen> MakefrmOtherStaffContract(Game& game, const Staff& staff);
-
-std::unique_ptr<ui::Screen> MakefrmStaff(Game& game);
-std::unique_ptr<ui::Screen> MakefrmOtherStaff(Game& game);
 
 }  // namespace grapplemont

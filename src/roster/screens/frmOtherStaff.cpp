@@ -105,8 +105,6 @@ class frmOtherStaff : public StaffListScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmOtherStaff(Game& game) {
-  return std::make_unique<frmOtherStaff>(game);
-}
+SCREEN(frmOtherStaff)
 
 }  // namespace grapplemont

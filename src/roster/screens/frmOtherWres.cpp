@@ -69,8 +69,6 @@ class frmOtherWres : public WorkerListScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmOtherWres(Game& game) {
-  return std::make_unique<frmOtherWres>(game);
-}
+SCREEN(frmOtherWres)
 
 }  // namespace grapplemont

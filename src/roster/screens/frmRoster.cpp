@@ -166,8 +166,6 @@ class frmRoster : public WorkerListScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmRoster(Game& game) {
-  return std::make_unique<frmRoster>(game);
-}
+SCREEN(frmRoster)
 
 }  // namespace grapplemont

@@ -94,8 +94,6 @@ class frmShortlist : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmShortlist(Game& game) {
-  return std::make_unique<frmShortlist>(game);
-}
+SCREEN(frmShortlist)
 
 }  // namespace grapplemont

@@ -70,8 +70,6 @@ class frmStaff : public StaffListScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmStaff(Game& game) {
-  return std::make_unique<frmStaff>(game);
-}
+SCREEN(frmStaff)
 
 }  // namespace grapplemont

@@ -24,10 +24,7 @@ std::vector<ui::Link> LinksOf(Game& game, NameIndex& names, std::string_view tex
 
 }  // namespace
 
-void RegisterRosterScreens(Game& game) {
-  game.Desk().Register("frmRoster", [&game] { return MakefrmRoster(game); });
-  game.Desk().Register("frmOtherWres", [&game] { return MakefrmOtherWres(game); });
-  game.Desk().Register("frmShortlist", [&game] { return MakefrmShortlist(game); });
+void ConnectRoster(Game& game) {
   game.OpenWorker = [&game](int uid) { OpenWorkerPage(game, uid); };
   game.Desk().FindLinks = [&game, names = std::make_shared<NameIndex>()](std::string_view text) {
     return LinksOf(game, *names, text);

@@ -4,13 +4,9 @@
 
 namespace grapplemont {
 
-/// Makes the screens of the player's people and of the market known to the desk by their names, and
-/// every name of a worker or a promotion a link.
-void RegisterRosterScreens(Game& game);
+/// Gives the game its page of a worker, and makes every name of a worker or a promotion a link.
+void ConnectRoster(Game& game);
 
-std::unique_ptr<ui::Screen> MakefrmRoster(Game& game);
-std::unique_ptr<ui::Screen> MakefrmOtherWres(Game& game);
-std::unique_ptr<ui::Screen> MakefrmShortlist(Game& game);
 /// The page of one worker, over whatever lies on the desk.
 std::unique_ptr<ui::Screen> MakefrmWorker(Game& game, int workerUid);
 

@@ -83,11 +83,7 @@ class frmCreditsXtra : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmCredits(Game& game) {
-  return std::make_unique<frmCredits>(game);
-}
-std::unique_ptr<ui::Screen> MakefrmCreditsXtra(Game& game) {
-  return std::make_unique<frmCreditsXtra>(game);
-}
+SCREEN(frmCredits)
+SCREEN(frmCreditsXtra)
 
 }  // namespace grapplemont

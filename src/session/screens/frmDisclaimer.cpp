@@ -94,8 +94,6 @@ class frmDisclaimer : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmDisclaimer(Game& game) {
-  return std::make_unique<frmDisclaimer>(game);
-}
+SCREEN(frmDisclaimer)
 
 }  // namespace grapplemont

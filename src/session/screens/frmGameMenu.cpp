@@ -41,8 +41,6 @@ class frmGameMenu : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmGameMenu(Game& game) {
-  return std::make_unique<frmGameMenu>(game);
-}
+SCREEN(frmGameMenu)
 
 }  // namespace grapplemont

@@ -55,8 +55,6 @@ class frmLoadGame : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmLoadGame(Game& game) {
-  return std::make_unique<frmLoadGame>(game);
-}
+SCREEN(frmLoadGame)
 
 }  // namespace grapplemont

@@ -172,8 +172,6 @@ void frmNewGame::cmdbegin_Click() {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmNewGame(Game& game) {
-  return std::make_unique<frmNewGame>(game);
-}
+SCREEN(frmNewGame)
 
 }  // namespace grapplemont

@@ -45,8 +45,6 @@ class frmTitleScreen : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmTitleScreen(Game& game) {
-  return std::make_unique<frmTitleScreen>(game);
-}
+SCREEN(frmTitleScreen)
 
 }  // namespace grapplemont

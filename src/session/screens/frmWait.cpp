@@ -95,11 +95,7 @@ class frmLoadingScreens : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmWait(Game& game) {
-  return std::make_unique<frmWait>(game);
-}
-std::unique_ptr<ui::Screen> MakefrmLoadingScreens(Game& game) {
-  return std::make_unique<frmLoadingScreens>(game);
-}
+SCREEN(frmWait)
+SCREEN(frmLoadingScreens)
 
 }  // namespace grapplemont

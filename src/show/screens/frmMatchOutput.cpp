@@ -1,11 +1,11 @@
 #include <array>
 #include <optional>
+#include "ui/game.h"
 
 #include "records/modWresCheck.h"
 #include "report/report.h"
 #include "show/holdshow.h"
 #include "show/recap.h"
-#include "show/screens/showscreens.h"
 
 namespace grapplemont {
 
@@ -191,8 +191,6 @@ class frmMatchOutput : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmMatchOutput(Game& game) {
-  return std::make_unique<frmMatchOutput>(game);
-}
+SCREEN(frmMatchOutput)
 
 }  // namespace grapplemont

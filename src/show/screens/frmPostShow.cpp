@@ -1,6 +1,6 @@
 #include "show/holdshow.h"
 #include "show/recap.h"
-#include "show/screens/showscreens.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -70,8 +70,6 @@ class frmPostShow : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmPostShow(Game& game) {
-  return std::make_unique<frmPostShow>(game);
-}
+SCREEN(frmPostShow)
 
 }  // namespace grapplemont

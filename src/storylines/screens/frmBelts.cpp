@@ -233,8 +233,6 @@ class frmBelts : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmBelts(Game& game) {
-  return std::make_unique<frmBelts>(game);
-}
+SCREEN(frmBelts)
 
 }  // namespace grapplemont

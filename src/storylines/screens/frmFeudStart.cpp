@@ -180,8 +180,6 @@ class frmFeudStart : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmFeudStart(Game& game) {
-  return std::make_unique<frmFeudStart>(game);
-}
+SCREEN(frmFeudStart)
 
 }  // namespace grapplemont

@@ -153,8 +153,6 @@ class frmFeuds : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmFeuds(Game& game) {
-  return std::make_unique<frmFeuds>(game);
-}
+SCREEN(frmFeuds)
 
 }  // namespace grapplemont

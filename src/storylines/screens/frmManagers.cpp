@@ -124,8 +124,6 @@ class frmManagers : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmManagers(Game& game) {
-  return std::make_unique<frmManagers>(game);
-}
+SCREEN(frmManagers)
 
 }  // namespace grapplemont

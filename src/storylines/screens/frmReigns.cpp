@@ -12,7 +12,7 @@ namespace {
 /// Every reign of a Title, of those that stand and those of the past, and what they add up to.
 class frmReigns : public ui::Screen {
  public:
-  frmReigns(Game& game, Lineage first)
+  explicit frmReigns(Game& game, Lineage first = {})
       : Screen(game.Desk(), "frmReigns", "Reigns"), game_(game), first_(std::move(first)) {
     lstreigns.EmptyText = "Nothing is known of its past.";
     lsttotals.EmptyText = "Nobody has held it yet.";
@@ -127,6 +127,8 @@ class frmReigns : public ui::Screen {
 };
 
 }  // namespace
+
+SCREEN(frmReigns)
 
 std::unique_ptr<ui::Screen> MakefrmReigns(Game& game, std::string_view title, int owner) {
   return std::make_unique<frmReigns>(game, Lineage{std::string(title), owner, {}, false});

@@ -185,8 +185,6 @@ class frmStables : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmStables(Game& game) {
-  return std::make_unique<frmStables>(game);
-}
+SCREEN(frmStables)
 
 }  // namespace grapplemont

@@ -162,8 +162,6 @@ class frmTagTeams : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmTagTeams(Game& game) {
-  return std::make_unique<frmTagTeams>(game);
-}
+SCREEN(frmTagTeams)
 
 }  // namespace grapplemont

@@ -109,8 +109,6 @@ class frmTurn : public ui::Screen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmTurn(Game& game) {
-  return std::make_unique<frmTurn>(game);
-}
+SCREEN(frmTurn)
 
 }  // namespace grapplemont
