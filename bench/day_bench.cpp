@@ -8,7 +8,7 @@
 #include "calendar/advanceday.h"
 #include "calendar/daykind.h"
 #include "records/dates.h"
-#include "report/linememory.h"
+#include "report/report.h"
 #include "support/smallworld.h"
 #include "tools/career.h"
 #include "ui/waiting.h"

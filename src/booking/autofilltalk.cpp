@@ -3,7 +3,7 @@
 #include "booking/automatches.h"
 #include "booking/autotalk.h"
 #include "records/angles.h"
-#include "show/scoring.h"
+#include "show/ratings.h"
 #include "storylines/feuds.h"
 
 // Interviews and angles for their own sake: champions, stars, what the people came to see.

@@ -5,7 +5,7 @@
 #include "booking/grievances.h"
 #include "booking/segmentcheck.h"
 #include "booking/writers.h"
-#include "show/scoring.h"
+#include "show/ratings.h"
 #include "storylines/feuds.h"
 
 namespace grapplemont {

@@ -6,7 +6,7 @@
 #include "booking/matchsteps.h"
 #include "booking/wizard.h"
 #include "records/segments.h"
-#include "show/feudslots.h"
+#include "show/showfeuds.h"
 
 namespace grapplemont {
 

@@ -3,7 +3,7 @@
 #include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "rivals/ownership.h"
-#include "show/injuries.h"
+#include "show/aftermatch.h"
 
 namespace grapplemont {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "records/segmentwords.h"
 #include "records/world.h"
+#include "words/segments.h"
 
 // What a Segment's numbers mean: who stands where, who won, and how its codes read.
 

@@ -1,9 +1,9 @@
 #include "records/modVar.h"
 #include "rivals/challenge.h"
 #include "rivals/founding.h"
-#include "rivals/newpromotionnames.h"
 #include "rivals/rivals.h"
 #include "rivals/rivalsteps.h"
+#include "words/promotions.h"
 
 namespace grapplemont {
 
@@ -20,13 +20,13 @@ bool IsUnused(const World& world, const NewPromotionName& name) {
 }
 
 bool AnyNameLeft(const World& world) {
-  return std::any_of(kNewPromotionNames.begin(), kNewPromotionNames.end(),
+  return std::any_of(std::begin(kNewPromotionNames), std::end(kNewPromotionNames),
                      [&](auto& name) { return IsUnused(world, name); });
 }
 
 const NewPromotionName& DrawUnusedName(World& world) {
   const auto draw = [&world]() -> const NewPromotionName& {
-    const int row = world.RandomDraw(static_cast<int>(kNewPromotionNames.size()));
+    const int row = world.RandomDraw(static_cast<int>(std::size(kNewPromotionNames)));
     return kNewPromotionNames[static_cast<std::size_t>(row - 1)];
   };
   const NewPromotionName* name = &draw();

@@ -8,7 +8,6 @@
 #include "records/modWresCheck.h"
 #include "rivals/houseshows.h"
 #include "show/attendance.h"
-#include "show/tvratings.h"
 
 namespace grapplemont::tools {
 

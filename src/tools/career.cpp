@@ -4,7 +4,7 @@
 #include "calendar/daykind.h"
 #include "calendar/incidents.h"
 #include "records/world.h"
-#include "report/linememory.h"
+#include "report/report.h"
 #include "rivals/challenge.h"
 #include "rivals/endstories.h"
 #include "rivals/rivals.h"

@@ -6,7 +6,7 @@
 #include "records/checkworld.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
-#include "roster/names.h"
+#include "words/names.h"
 #include "roster/shortlist.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"

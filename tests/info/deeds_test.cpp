@@ -10,7 +10,7 @@
 #include "rivals/takeover.h"
 #include "roster/release.h"
 #include "roster/signing.h"
-#include "show/injuries.h"
+#include "show/aftermatch.h"
 #include "support/scripteddraws.h"
 
 namespace grapplemont::test {

@@ -1,4 +1,4 @@
-#include "report/scripts.h"
+#include "report/ring.h"
 
 #include <gtest/gtest.h>
 

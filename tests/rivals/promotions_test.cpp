@@ -4,7 +4,7 @@
 #include "rivals/challenge.h"
 #include "rivals/faults.h"
 #include "rivals/founding.h"
-#include "rivals/newpromotionnames.h"
+#include "words/promotions.h"
 #include "rivals/rivalsteps.h"
 #include "rivals/staffmarket.h"
 #include "support/newsof.h"

@@ -1,4 +1,5 @@
 #include "show/attendance.h"
+#include "show/ratings.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "show/cardposition.h"
+#include "show/aftermatch.h"
 
 #include <gtest/gtest.h>
 

@@ -5,11 +5,11 @@
 #include "records/checkworld.h"
 #include "records/dates.h"
 #include "records/severing.h"
-#include "report/linememory.h"
 #include "report/report.h"
 #include "show/boutbook.h"
 #include "show/holdshow.h"
-#include "show/reportcolumn.h"
+#include "show/recap.h"
+#include "show/runsegment.h"
 #include "showrig.h"
 #include "storylines/lineages.h"
 

@@ -1,6 +1,6 @@
-#include "show/feudheat.h"
+#include "show/showfeuds.h"
 
-#include "show/scoring.h"
+#include "show/talkscore.h"
 #include "showrig.h"
 
 namespace grapplemont::test {

@@ -1,8 +1,7 @@
-#include "show/feudtallies.h"
+#include "show/showfeuds.h"
 
 #include <gtest/gtest.h>
 
-#include "show/consequences.h"
 #include "stage.h"
 
 namespace grapplemont::test {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "show/aftershow.h"
-#include "show/charges.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
 

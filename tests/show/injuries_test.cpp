@@ -1,4 +1,4 @@
-#include "show/injuries.h"
+#include "show/aftermatch.h"
 
 #include <gtest/gtest.h>
 

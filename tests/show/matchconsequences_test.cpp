@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "show/consequences.h"
+#include "show/runsegment.h"
 #include "stage.h"
 
 namespace grapplemont::test {

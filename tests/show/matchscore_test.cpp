@@ -1,5 +1,5 @@
-#include "show/feudslots.h"
-#include "show/scoring.h"
+#include "show/matchscore.h"
+#include "show/showfeuds.h"
 #include "showrig.h"
 
 namespace grapplemont::test {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "show/scoring.h"
+#include "show/ratings.h"
 
 namespace grapplemont::test {
 namespace {

@@ -1,4 +1,6 @@
 #include "show/recap.h"
+#include "show/holdshow.h"
+#include "show/ratings.h"
 
 #include "showrig.h"
 #include "support/gameonworld.h"

@@ -1,8 +1,7 @@
-#include "show/resultover.h"
+#include "show/overchange.h"
 
 #include <gtest/gtest.h>
 
-#include "show/consequences.h"
 #include "stage.h"
 
 namespace grapplemont::test {

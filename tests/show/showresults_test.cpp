@@ -1,4 +1,5 @@
 #include "show/showresults.h"
+#include "show/attendance.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,8 @@
-#include "show/talkover.h"
+#include "show/overchange.h"
 
 #include <gtest/gtest.h>
 
 #include "records/angles.h"
-#include "show/consequences.h"
 #include "stage.h"
 
 namespace grapplemont::test {

@@ -1,7 +1,6 @@
 #include <set>
 
-#include "show/scoring.h"
-#include "show/talksteps.h"
+#include "show/talkscore.h"
 #include "showrig.h"
 #include "storylines/feuds.h"
 

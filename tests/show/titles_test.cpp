@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "show/consequences.h"
+#include "show/runsegment.h"
+#include "show/titlechange.h"
 #include "stage.h"
 
 namespace grapplemont::test {

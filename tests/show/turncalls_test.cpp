@@ -1,9 +1,8 @@
-#include "show/turncalls.h"
+#include "show/turns.h"
 
 #include <gtest/gtest.h>
 
 #include "records/angles.h"
-#include "show/consequences.h"
 #include "stage.h"
 
 namespace grapplemont::test {

@@ -1,4 +1,4 @@
-#include "show/tvratings.h"
+#include "show/attendance.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "booking/sheet.h"
 #include "booking/sheetrow.h"
 #include "records/segments.h"
-#include "report/linememory.h"
+#include "report/report.h"
 #include "show/holdshow.h"
 #include "storylines/screens/screenpeople.h"
 
