@@ -1,14 +1,157 @@
-#include "show/showresults.h"
-#include "show/attendance.h"
-
 #include <gtest/gtest.h>
+#include <map>
 
+#include "show/attendance.h"
+#include "show/ratings.h"
+#include "show/showresults.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {
 namespace {
+
+/// All figures of a table's row in two numbers: each counts as often as the image it stands for.
+template <class Row>
+std::string SumOf(Row row) {
+  int base = 0, draw = 0;
+  for (int image = 0; image <= 100; ++image) {
+    const BaseAndDraw found = row(image);
+    base += (image + 1) * found.Base;
+    draw += (image + 1) * found.Draw;
+  }
+  return std::to_string(base) + " " + std::to_string(draw);
+}
+
+/// By size, from Global.
+using BySize = std::vector<std::string>;
+
+template <class Table>
+BySize SumsOf(Table table) {
+  BySize sums;
+  for (int size = kGlobal; size <= kBackyard; ++size)
+    sums.push_back(SumOf([&](int image) { return table(size, image); }));
+  return sums;
+}
+
+TEST(Crowds, AreWhatTheTablesSayAtEveryImage) {
+  const BySize kEvents[] = {
+      {"84450000 5151000", "39121500 1030200", "20181200 515100", "12558000 515100", "0 0", "0 0"},
+      {"25755000 2575500", "20181200 515100", "12558000 515100", "4811200 474100", "1853125 217200",
+       "257550 515100"},
+      {"10302000 2575500", "7726500 1287750", "4746950 257550", "2111250 103020", "1088675 51510",
+       "370350 51510"},
+      {"5151000 1030200", "5151000 515100", "3863250 1287750", "2575500 1030200", "631500 51510",
+       "184955 25755"}};
+  for (int type = 1; type <= 4; ++type)
+    EXPECT_EQ(SumsOf([&](int size, int image) { return EventCrowd(type, size, image); }),
+              kEvents[type - 1])
+        << type;
+  for (const int type : {0, 5, -1}) EXPECT_EQ(EventCrowd(type, 1, 50).Base, 0);
+  EXPECT_EQ(SumsOf(TvCrowd), (BySize{"40322500 257550", "11968000 52060", "2204100 103020",
+                                     "936960 51235", "370350 51235", "5151 46359"}));
+  EXPECT_EQ(SumsOf(BuyRateBase),
+            (BySize{"821346 20604", "328086 20604", "162091 17364", "51046 17364", "0 0", "0 0"}));
+  EXPECT_EQ(SumsOf(TvRatingBase), (BySize{"3557840 51510", "2307550 51510", "1247940 51510",
+                                          "497390 51510", "69416 24267", "5151 10302"}));
+}
+
+TEST(Gates, FollowTheEconomy) {
+  // Economy, then what comes of 995 people at an Event and at a television show.
+  constexpr int kCases[][3] = {
+      {100, 1094, 1194}, {91, 1094, 1194}, {90, 1094, 1094}, {86, 1094, 1094}, {85, 995, 1094},
+      {81, 995, 1094},   {80, 995, 995},   {30, 995, 995},   {29, 895, 995},   {20, 895, 995},
+      {19, 796, 796},    {10, 796, 796},   {9, 696, 696},    {0, 696, 696},    {-5, 696, 696}};
+  for (const auto& [economy, event, tv] : kCases) {
+    EXPECT_EQ(EventGate(995, {kCult, 30, economy}), event) << economy;
+    EXPECT_EQ(TvGate(995, {kCult, 30, economy}), tv) << economy;
+  }
+}
+
+TEST(Gates, FollowThePriceStepByStep) {
+  // Dollars from the fair price, then what comes of 997 people.
+  constexpr int kCases[][2] = {{-20, 1370}, {-11, 1370}, {-10, 1096}, {-6, 1096}, {-5, 997},
+                               {0, 997},    {5, 997},    {6, 897},    {10, 897},  {11, 717},
+                               {15, 717},   {16, 501},   {20, 501},   {21, 300},  {25, 300},
+                               {26, 150},   {30, 150},   {31, 60},    {90, 60}};
+  for (const auto& [off, people] : kCases) {
+    EXPECT_EQ(EventGate(997, {kNational, 40 + off, 60}), people) << off;
+    EXPECT_EQ(TvGate(997, {kGlobal, 60 + off, 60}), people) << off;
+  }
+}
+
+TEST(Gates, StayEmptyAtAPriceThatNobodyPays) {
+  constexpr int kLimits[][2] = {{kCult, 71}, {kRegional, 51}, {kSmall, 26}, {kBackyard, 16}};
+  for (const auto& [size, limit] : kLimits) {
+    EXPECT_EQ(EventGate(10000, {size, limit, 60}), 0) << size;
+    EXPECT_EQ(TvGate(10000, {size, limit, 60}), 0) << size;
+    EXPECT_GT(EventGate(10000, {size, limit - 1, 60}), 0) << size;
+  }
+  for (const int size : {kGlobal, kNational})
+    EXPECT_GT(EventGate(10000, {size, 1000, 60}), 0) << size;
+}
+
+TEST(Gates, TellHowTheirCrowdCameAbout) {
+  const Score gate = EventGate(1000, {kRegional, 52, 95});
+  std::string told;
+  for (const ScoreStep& step : gate.Steps())
+    told += step.Why + " " + std::to_string(step.Change) + "\n";
+  EXPECT_EQ(told,
+            "size and image 1000\neconomy 95 100\ntickets $32 above the fair price -1034\n"
+            "nobody pays $52 -66\n");
+  EXPECT_EQ(EventGate(1000, {kRegional, 20, 60}).Steps().size(), 1u)
+      << "what does nothing is silent";
+}
+
+TEST(Attendance, DrawsOnceOnTopOfTheBase) {
+  World world = SmallWorld().Promotion("CWA", kCult).Game("CWA");
+  Promotion& promotion = world.Player();
+  promotion.Image = 47;
+  promotion.TicketPrice = 30;
+  world.Game().Economy = 25;
+  ScriptDraws(world, {{100, 60}, {50, 7}, {20, 20}});
+  EXPECT_EQ(EventAttendance(world, promotion, 2), (2000 + 60) * 9 / 10);
+  EXPECT_EQ(EventAttendance(world, promotion, 3), (700 + 7) * 9 / 10);
+  EXPECT_EQ(TvAttendance(world, promotion), 400);
+  promotion.Size = kSmall;
+  EXPECT_EQ(EventAttendance(world, promotion, 1), 0) << "and nothing was drawn";
+}
+
+struct Band {
+  int Low, High, Base, Draw;
+};
+
+TEST(BuyRate, FollowsAPoorEconomyOnly) {
+  constexpr int kCases[][2] = {{105, 123}, {100, 123}, {30, 123}, {29, 110}, {20, 110},
+                               {19, 98},   {10, 98},   {9, 86},   {0, 86},   {-6, 86}};
+  for (const auto& [economy, rate] : kCases) EXPECT_EQ(BuyRateByEconomy(123, economy), rate);
+}
+
+TEST(BuyRate, DrawsOnceAndPaysByTheHundredth) {
+  World world = SmallWorld().Promotion("CWA", kNational).Game("CWA");
+  Promotion& promotion = world.Player();
+  promotion.Image = 80;
+  world.Game().Economy = 15;
+  ScriptDraws(world, {{4, 3}});
+  EXPECT_EQ(BuyRate(world, promotion), 63) << "79 by 0.8";
+  promotion.Size = kSmall;
+  EXPECT_EQ(BuyRate(world, promotion), 0);
+  EXPECT_EQ(PpvIncome(100), 2'500'000);
+}
+
+TEST(TvRating, FollowsTheEconomyAboveTheBackyard) {
+  constexpr int kCases[][2] = {{104, 246}, {100, 246}, {91, 246}, {90, 225}, {81, 225}, {80, 205},
+                               {20, 205},  {19, 184},  {10, 184}, {9, 164},  {0, 164},  {-3, 164}};
+  for (const auto& [economy, rating] : kCases) {
+    EXPECT_EQ(TvRatingByEconomy(205, kSmall, economy), rating) << economy;
+    EXPECT_EQ(TvRatingByEconomy(205, kBackyard, economy), 205) << economy;
+  }
+  World world = SmallWorld().Promotion("CWA", kRegional).Game("CWA");
+  world.Game().Economy = 5;
+  ScriptDraws(world, {{10, 4}, {2, 2}});
+  EXPECT_EQ(TvBaseRating(world, kRegional, 81), 99) << "124 by 0.8";
+  EXPECT_EQ(TvBaseRating(world, kBackyard, 81), 3);
+}
 
 using std::chrono::year;
 
@@ -37,14 +180,6 @@ TEST(EventReport, TellsOfAPayPerViewToTheLetter) {
   EXPECT_EQ(player.Money, 10000000 + 2000000 + 346000 - 1500000);
 }
 
-TEST(EventReport, WritesABuyRateWithTwoDigitsBehindThePoint) {
-  World world = SmallWorld().Promotion("CWA", kRegional).Game("CWA");
-  world.Player().Image = 50;
-  ScriptDraws(world, std::vector<int>{1, 1});
-  EventReport(world, world.Player(), kSpectacle, 1);
-  EXPECT_EQ(NewsOf(world).substr(0, 50), "PPV report: We got a 0.07 buy rate for 'Spectacle'");
-}
-
 TEST(EventReport, ChargesEachTypeItsProduction) {
   struct Case {
     int Type, Draw, People, Cost;
@@ -59,35 +194,6 @@ TEST(EventReport, ChargesEachTypeItsProduction) {
                                  " people!\nWe made $" + std::to_string(c.People * 30) +
                                  " from ticket sales.\n");
   }
-}
-
-TEST(EventReport, LetsNobodyComeToAnOverpricedBackyard) {
-  World world = SmallWorld().Promotion("CWA", kBackyard).Game("CWA");
-  world.Player().TicketPrice = 16;
-  ScriptDraws(world, {{5, 5}});
-  EventReport(world, world.Player(), kSpectacle, 4);
-  EXPECT_EQ(world.Player().ThisMonth.TicketIncome, 0);
-  EXPECT_EQ(NewsOf(world),
-            "Show report: Spectacle was attended by 0 people!\nWe made $0 from ticket sales.\n");
-}
-
-TEST(EventReport, SellsNoPayPerViewThatIsTooBigForItsPromotion) {
-  World world = SmallWorld().Promotion("CWA", kSmall).Game("CWA");
-  ScriptDraws(world, {});
-  EventReport(world, world.Player(), kSpectacle, 1);
-  EXPECT_EQ(world.Player().Money, 500000 - 1500000);
-  EXPECT_EQ(NewsOf(world),
-            "Show report: Spectacle was attended by 0 people!\nWe made $0 from ticket sales.\n");
-}
-
-TEST(EventReport, FollowsTicketPriceAndEconomyOneAfterTheOther) {
-  World world = SmallWorld().Promotion("CWA", kCult).Game("CWA");
-  world.Game().Economy = 25;
-  world.Player().TicketPrice = 47;  // 17 too dear: three steps
-  ScriptDraws(world, {{100, 33}});
-  EventReport(world, world.Player(), kSpectacle, 2);
-  // 2233 by 0.9 are 2009; by 0.9 1808, by 0.8 1446, by 0.7 1012.
-  EXPECT_EQ(world.Player().ThisMonth.TicketIncome, 1012 * 47);
 }
 
 // A Cult promotion at image 50 draws of 10 on top of 200.
@@ -173,21 +279,6 @@ TEST(TvReport, GainsNothingBeyondTheSlotsAudienceByAContestWon) {
     TvReport(world, world.Player());
     EXPECT_EQ(world.Shows()[1].Rating3, c.Rating) << c.Audience;
   }
-}
-
-TEST(TvReport, LosesToNothingWorseThanOne) {
-  // A Small show against a Cult one loses 80 and more than it has.
-  World world = SmallWorld()
-                    .Network("Nine")
-                    .Network("Ten")
-                    .Promotion("CWA", kSmall)
-                    .Show("Fire", "Friday", "Nine")
-                    .Promotion("NEW", kCult)
-                    .Show("Rival Hour", "Friday", "Ten")
-                    .Game("CWA", kFriday);
-  ScriptDraws(world, {{5, 2}, {10, 10}, {10, 1}});
-  TvReport(world, world.Player());
-  EXPECT_EQ(world.Shows()[1].Rating3, 1);
 }
 
 TEST(TvReport, NeedsANetworkAndAShowToday) {
