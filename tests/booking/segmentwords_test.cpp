@@ -1,4 +1,4 @@
-#include "records/segmentwords.h"
+#include "words/segments.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include "calendar/advanceday.h"
 #include "records/checkworld.h"
 #include "records/dates.h"
-#include "records/segmentwords.h"
+#include "words/segments.h"
 #include "storylines/lineages.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"

@@ -143,16 +143,6 @@ TEST(AfterMatch, PullsByTheCardBeforeAGreatMatchLifts) {
   EXPECT_EQ(ash.Over, 42) << "40 - 1 + 3";
 }
 
-TEST(Injure, LeavesTheInjured) {
-  Stage stage;
-  ScriptDraws(stage.W, {{12, 7}, {6, 3}});
-  Injure(stage.Run, stage["Ash"]);
-  EXPECT_EQ(stage["Ash"].InjuryName, "Broken Nose");
-  const World before = CopyOf(stage.W);
-  Injure(stage.Run, stage["Ash"]);
-  ExpectSame(stage.W, before);
-}
-
 TEST(FittingPosition, ChangesJustAboveEachLimit) {
   // Each place counts as often as the Over that it fits.
   constexpr int kSums[] = {15641, 13716, 9846, 8791, 6135, 5568};
@@ -245,16 +235,6 @@ TEST(CardPosition, LetsTheLegendSpeakHisWay) {
             "Maul Gantry: I should be higher on the card, promote me up the roster, brother!\n");
 }
 
-TEST(Injure, LeavesTheInjured) {
-  Stage stage;
-  ScriptDraws(stage.W, {{12, 7}, {6, 3}});
-  Injure(stage.Run, stage["Ash"]);
-  EXPECT_EQ(stage["Ash"].InjuryName, "Broken Nose");
-  const World before = CopyOf(stage.W);
-  Injure(stage.Run, stage["Ash"]);
-  ExpectSame(stage.W, before);
-}
-
 TEST(DrawInjuries, GoesByStrainAndCondition) {
   struct Case {
     int Strain, Condition, Odds;  // 0: nothing is drawn
@@ -301,16 +281,6 @@ TEST(DrawInjuries, ASickBumpThreatensTheLoserAlone) {
   ScriptDraws(worn.W, {{20, 20}});
   DrawInjuries(worn.Run);
   EXPECT_EQ(worn["Bea"].Status, "Nor");
-}
-
-TEST(Injure, LeavesTheInjured) {
-  Stage stage;
-  ScriptDraws(stage.W, {{12, 7}, {6, 3}});
-  Injure(stage.Run, stage["Ash"]);
-  EXPECT_EQ(stage["Ash"].InjuryName, "Broken Nose");
-  const World before = CopyOf(stage.W);
-  Injure(stage.Run, stage["Ash"]);
-  ExpectSame(stage.W, before);
 }
 
 TEST(HurtOthers, SparesThePartnerAndBringsMailsByPlace) {

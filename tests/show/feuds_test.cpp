@@ -204,9 +204,9 @@ TEST(TallyAttacks, OfTeamsGoPairByPair) {
         << "finish " << c.Finish << ", aftermath " << c.Aftermath;
 }
 
-using Record = std::array<int, 4>;  // clean, cheap, verbal, attacks
+using Counts = std::array<int, 4>;  // clean, cheap, verbal, attacks
 
-Change<Feud> Kept(const Record& a, const Record& b) {
+Change<Feud> Kept(const Counts& a, const Counts& b) {
   return [=](Feud& feud) {
     feud.Clean1 = a[0];
     feud.Dirty1 = a[1];
@@ -221,7 +221,7 @@ Change<Feud> Kept(const Record& a, const Record& b) {
 
 struct Case {
   std::string_view Why;
-  Record A, B;  // the blow-off included
+  Counts A, B;  // the blow-off included
   bool FirstWins;
   int ChangeA, ChangeB;
   std::string_view MailA, MailB;  // after the winner's comes the loser's
@@ -356,7 +356,7 @@ TEST(EndFeud, NeedsItsPurposeAndTheRightPeople) {
 }
 
 TEST(EndFeud, IsWrittenAboutByTemper) {
-  const auto mails = [](bool isTeams, const Record& a, const Record& b, std::string_view name) {
+  const auto mails = [](bool isTeams, const Counts& a, const Counts& b, std::string_view name) {
     SmallWorld small = Eight();
     if (isTeams)
       small.TagFeud("Ash", "Bea", "Cal", "Dot", Kept(a, b));
@@ -374,7 +374,7 @@ TEST(EndFeud, IsWrittenAboutByTemper) {
     EndFeudByMatch(stage.Run);
     return stage.W.News()[1].Body.Str();
   };
-  const Record one = {1, 0, 0, 0}, many = {0, 4, 3, 0}, some = {4, 4, 0, 0};
+  const Counts one = {1, 0, 0, 0}, many = {0, 4, 3, 0}, some = {4, 4, 0, 0};
   EXPECT_EQ(mails(true, one, many, "Ash"),
             "That last feud ruled, we hope the next one is just as good!");
   EXPECT_EQ(mails(true, some, many, "Ash"), "The previous feud was excellent.");

@@ -9,6 +9,7 @@
 
 #include "support/checkout.h"
 #include "support/scratchfolder.h"
+#include "words/tables/embedtables.h"
 
 namespace grapplemont {
 namespace {
@@ -144,6 +145,48 @@ TEST_F(EmbeddingTest, MakesOnlyTheUnitOfAnEditedFileAgain) {
   std::ifstream in(Out() / "fans.cpp");
   const std::string code{std::istreambuf_iterator<char>(in), {}};
   EXPECT_NE(code.find(R"(    "{show}: my \"caf\351\" is empty.)"), std::string::npos);
+}
+
+TEST_F(EmbeddingTest, RefusesTablesThatDoNotSayWhatTheyMust) {
+  const struct {
+    const char *File, *Text, *Instead, *Why;
+  } rows[] = {
+      {"angles.txt", "1 Turner (Turners), 2 Talking To", "1 Turner (Turnors), 2 Talking To",
+       "Cast: there is no casting \"Turnors\"; did you mean Turners?"},
+      {"angles.txt", "1 Victim, 2 Attacker #1, 3 Attacker #2, 4", "1 Victim, Attacker #1, 3 x, 4",
+       "Cast: the box \"Attacker #1\" needs a place from 1 to 4 before its caption"},
+      {"angles.txt", "1 The Girl (Women), 2 Meets", "1 The Girl (Women), 1 Meets",
+       "Cast: two boxes have the place 1"},
+      {"angles.txt", "1 Joining, Stable (Stables)", "1 Joining, 2 Stable (Stables)",
+       "Cast: no worker stands in the box \"Stable\", and so it has no place"},
+      {"angles.txt", "1 Challenger, 2 Challengee |", "- |", "Cast: may not be empty"},
+      {"angles.txt", "29 | ", "28 | ",
+       "the rows are numbered one after the other, and this is number 29"},
+      {"promotions.txt", "Initials\n", "Initial\n",
+       "the first line of this table must be \"Name | Initials\""},
+      {"promotions.txt", "| TCW", "| TCW | x", "3 cells; this table has 2"},
+      {"segments.txt", "{W} cleanly", "{Q} cleanly", "Says of 1 vs 1: there is no slot {Q}"},
+      {"segments.txt", "Tantrum ", "AttacksReferee ",
+       "the rule name AttacksReferee has another number in line "},
+      {"segments.txt", "Singles      | 4 ", "Single       | 4 ",
+       "Style: there is no such thing as \"Single\"; did you mean Singles?"},
+      {"segments.txt", "Singles      | 9    | Ladder", "Singles      | 2    | Ladder",
+       "the same Style | Code stands in line "},
+      {"names.txt", "Abernathy, ", "Alabaster, ", "Alabaster stands in line "},
+      {"names.txt", "Zigzag", "Zigzaggings", "Zigzaggings is longer than 10 letters"},
+      {"names.txt", "Wanda", "Wanda, Zoe",
+       "32 names under \"First names of women on the staff\"; needed are 31"},
+  };
+  for (const auto& row : rows) {
+    const std::string whole = Read(row.File);
+    const int line = Replace(row.File, row.Text, row.Instead);
+    const auto mistakes = EmbedTables(PathOf(""), Out());
+    ASSERT_FALSE(mistakes.empty()) << row.Why;
+    EXPECT_TRUE(mistakes[0].starts_with(At(row.File, line) + row.Why)) << mistakes[0];
+    Write(row.File, whole);
+  }
+  EXPECT_FALSE(fs::exists(Out())) << "nothing is made of tables with mistakes";
+  EXPECT_EQ(EmbedTables(PathOf(""), Out()), std::vector<std::string>());
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "words/tables/schema.h"
 
-#include <string>
+#include <utility>
 
 namespace grapplemont {
 
@@ -42,84 +42,81 @@ Table Purposes(std::string_view heading, std::string_view space, std::string_vie
   return table;
 }
 
+/// Rows with a code and a rule name of their own, in one array.
+Table Coded(std::string_view heading, std::vector<Column> more, std::string_view rules,
+            RowArray array) {
+  Table table{heading, {{"Code", Number}, {"Rule", RuleName}, {"Says"}}, {"Code"}};
+  table.Columns.insert(table.Columns.end(), more.begin(), more.end());
+  table.Enum = rules;
+  table.NumbersOf = "Code";
+  table.Arrays = {std::move(array)};
+  return table;
+}
+
+Table MatchTypes() {
+  Table table =
+      Coded("Match types", {{"Risk over", Number, "kAnyRisk"}, {"Size under", Number, "kAnySize"}},
+            "MatchTypeCode",
+            {"segments",
+             "MatchTypeRow",
+             "kMatchTypes",
+             {"Style", "Code", "Says", "Risk over", "Size under"}});
+  table.Columns.insert(table.Columns.begin(), {"Style", Rule, "", "", {}, "Match styles"});
+  table.Keys = {"Style", "Code"};
+  return table;
+}
+
+Table Finishes() {
+  return {"Finishes of 1 vs 1 and 2 vs 2",
+          {{"Code", Number},
+           {"Rule", RuleName},
+           {"Says of 1 vs 1", Phrase, kLeavesOut},
+           {"Says of 2 vs 2", Phrase, kLeavesOut},
+           {"Summary", Phrase}},
+          {"Code"},
+          false,
+          "",
+          "Finish",
+          "Code",
+          {{"segments", "Phrase", "kSinglesFinishes", {"Code", "Says of 1 vs 1", "Summary"}},
+           {"segments", "Phrase", "kTagFinishes", {"Code", "Says of 2 vs 2", "Summary"}}}};
+}
+
+Table SideFinishes() {
+  return {"Finishes of 3 vs 3 and 4 vs 4",
+          {{"3 vs 3", Number, kLeavesOut},
+           {"4 vs 4", Number},
+           {"Rule", RuleName},
+           {"Says", Phrase},
+           {"Summary", Phrase, kSame}},
+          {"4 vs 4"},
+          false,
+          "",
+          "",
+          "4 vs 4",
+          {{"segments", "Phrase", "kSixManFinishes", {"3 vs 3", "Says", "Summary"}},
+           {"segments", "Phrase", "kEightManFinishes", {"4 vs 4", "Says", "Summary"}}}};
+}
+
 TableFile Segments() {
   return {
       "segments.txt",
       {{"segments", {"records/segmentwords.h"}},
        {"purposes", {"records/segmentparts.h", "words/segments.h"}}},
-      {{"Match styles",
-        {{"Code", Number}, {"Rule", RuleName}, {"Says"}, {"Sides", Number}, {"Per side", Number}},
-        {"Code"},
-        false,
-        "",
-        "MatchStyle",
-        "Code",
-        {{"segments", "MatchStyleRow", "kMatchStyles", {"Code", "Says", "Sides", "Per side"}}}},
-       {"Match types",
-        {{"Style", Rule, "", "", {}, "Match styles"},
-         {"Code", Number},
-         {"Rule", RuleName},
-         {"Says"},
-         {"Risk over", Number, "kAnyRisk"},
-         {"Size under", Number, "kAnySize"}},
-        {"Style", "Code"},
-        false,
-        "",
-        "MatchTypeCode",
-        "Code",
-        {{"segments",
-          "MatchTypeRow",
-          "kMatchTypes",
-          {"Style", "Code", "Says", "Risk over", "Size under"}}}},
-       {"Finishes of 1 vs 1 and 2 vs 2",
-        {{"Code", Number},
-         {"Rule", RuleName},
-         {"Says of 1 vs 1", Phrase, kLeavesOut},
-         {"Says of 2 vs 2", Phrase, kLeavesOut},
-         {"Summary", Phrase}},
-        {"Code"},
-        false,
-        "",
-        "Finish",
-        "Code",
-        {{"segments", "Phrase", "kSinglesFinishes", {"Code", "Says of 1 vs 1", "Summary"}},
-         {"segments", "Phrase", "kTagFinishes", {"Code", "Says of 2 vs 2", "Summary"}}}},
-       {"Finishes of 3 vs 3 and 4 vs 4",
-        {{"3 vs 3", Number, kLeavesOut},
-         {"4 vs 4", Number},
-         {"Rule", RuleName},
-         {"Says", Phrase},
-         {"Summary", Phrase, kSame}},
-        {"4 vs 4"},
-        false,
-        "",
-        "",
-        "4 vs 4",
-        {{"segments", "Phrase", "kSixManFinishes", {"3 vs 3", "Says", "Summary"}},
-         {"segments", "Phrase", "kEightManFinishes", {"4 vs 4", "Says", "Summary"}}}},
+      {Coded("Match styles", {{"Sides", Number}, {"Per side", Number}}, "MatchStyle",
+             {"segments", "MatchStyleRow", "kMatchStyles", {"Code", "Says", "Sides", "Per side"}}),
+       MatchTypes(), Finishes(), SideFinishes(),
        Phrases("Aftermaths of 1 vs 1", "after1", "kSinglesAftermaths"),
        Phrases("Aftermaths of 2 vs 2", "after2", "kTagAftermaths"),
        Purposes("Purposes of 1 vs 1", "purpose1", "kSinglesPurposes", "kSinglesAims", "\"kSingles"),
        Purposes("Purposes of 2 vs 2", "purpose2", "kTagPurposes", "kTagAims", "\"kTag"),
-       {"Interview styles",
-        {{"Code", Number}, {"Rule", RuleName}, {"Says"}, {"Speakers", Number}, {"Targets", Number}},
-        {"Code"},
-        false,
-        "",
-        "InterviewStyle",
-        "Code",
-        {{"segments",
-          "InterviewStyleRow",
-          "kInterviewStyles",
-          {"Code", "Says", "Speakers", "Targets"}}}},
-       {"Interview purposes",
-        {{"Code", Number}, {"Rule", RuleName}, {"Says"}},
-        {"Code"},
-        false,
-        "",
-        "InterviewPurpose",
-        "Code",
-        {{"segments", "Term", "kInterviewPurposes", {"Code", "\"\"\"", "Says"}}}}},
+       Coded("Interview styles", {{"Speakers", Number}, {"Targets", Number}}, "InterviewStyle",
+             {"segments",
+              "InterviewStyleRow",
+              "kInterviewStyles",
+              {"Code", "Says", "Speakers", "Targets"}}),
+       Coded("Interview purposes", {}, "InterviewPurpose",
+             {"segments", "Term", "kInterviewPurposes", {"Code", "\"\"\"", "Says"}})},
       {}};
 }
 
@@ -169,43 +166,43 @@ TableFile NewPromotions() {
           {}};
 }
 
-constexpr std::string_view kName = "std::string_view", kMove = "FinisherMove";
+/// The lists of finishing moves, all brawling ones before all technical ones, and speed last.
+std::vector<NameArray::List> Moves() {
+  return {{"Brawling moves, impact", "'B', FinisherType::Impact, "},
+          {"Brawling moves, submission", "'B', FinisherType::Submission, "},
+          {"Brawling moves, top rope", "'B', FinisherType::TopRope, "},
+          {"Brawling moves, ground", "'B', FinisherType::Ground, "},
+          {"Technical moves, impact", "'T', FinisherType::Impact, "},
+          {"Technical moves, submission", "'T', FinisherType::Submission, "},
+          {"Technical moves, top rope", "'T', FinisherType::TopRope, "},
+          {"Technical moves, ground", "'T', FinisherType::Ground, "},
+          {"Speed moves, impact", "'S', FinisherType::Impact, "},
+          {"Speed moves, submission", "'S', FinisherType::Submission, "},
+          {"Speed moves, top rope", "'S', FinisherType::TopRope, "},
+          {"Speed moves, ground", "'S', FinisherType::Ground, "}};
+}
 
 /// The lengths leave room for a first name, a blank and a surname in 25 letters, and for a surname
-/// in the 10 of a short name.
+/// in the 10 of a short name. The numbers are rules: draws go by them.
 TableFile Names() {
+  constexpr std::string_view kName = "std::string_view";
   return {"names.txt",
           {{"names", {"roster/names.h"}}},
           {},
-          {{kName, "Surnames", 300, 10, {{"Surnames", "", 300, ""}}},
+          {{kName, "Surnames", 300, 10, {{"Surnames"}}},
            {kName,
             "WorkerFirstNames",
             303,
             14,
             {{"First names of men in the ring", "", 251, "kLastMaleWorkerFirstName"},
-             {"First names of women in the ring", "", 52, ""}}},
+             {"First names of women in the ring", "", 52}}},
            {kName,
             "StaffFirstNames",
             192,
             14,
             {{"First names of men on the staff", "", 161, "kLastMaleStaffFirstName"},
-             {"First names of women on the staff", "", 31, ""}}},
-           {kMove,
-            "FinisherMoves",
-            64,
-            25,
-            {{"Brawling moves, impact", "'B', FinisherType::Impact, ", 0, ""},
-             {"Brawling moves, submission", "'B', FinisherType::Submission, ", 0, ""},
-             {"Brawling moves, top rope", "'B', FinisherType::TopRope, ", 0, ""},
-             {"Brawling moves, ground", "'B', FinisherType::Ground, ", 0, ""},
-             {"Technical moves, impact", "'T', FinisherType::Impact, ", 0, ""},
-             {"Technical moves, submission", "'T', FinisherType::Submission, ", 0, ""},
-             {"Technical moves, top rope", "'T', FinisherType::TopRope, ", 0, ""},
-             {"Technical moves, ground", "'T', FinisherType::Ground, ", 0, ""},
-             {"Speed moves, impact", "'S', FinisherType::Impact, ", 0, ""},
-             {"Speed moves, submission", "'S', FinisherType::Submission, ", 0, ""},
-             {"Speed moves, top rope", "'S', FinisherType::TopRope, ", 0, ""},
-             {"Speed moves, ground", "'S', FinisherType::Ground, ", 0, ""}}}}};
+             {"First names of women on the staff", "", 31}}},
+           {"FinisherMove", "FinisherMoves", 64, 25, Moves()}}};
 }
 
 }  // namespace

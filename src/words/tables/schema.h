@@ -42,21 +42,21 @@ struct RowArray {
 struct Table {
   std::string_view Heading;
   std::vector<Column> Columns;
-  std::vector<std::string_view> Keys;  // no two rows are alike in all of them
-  bool Counts = false;                 // the first column counts from 1
+  std::vector<std::string_view> Keys = {};  // no two rows are alike in all of them
+  bool Counts = false;                      // the first column counts from 1
   /// What becomes of the rule names: the enumeration, in its namespace, with the numbers of a
   /// column; constants without an enumeration. Empty for a table without rule names.
   std::string_view Namespace = {}, Enum = {}, NumbersOf = {};
-  std::vector<RowArray> Arrays;
+  std::vector<RowArray> Arrays = {};
 };
 
 /// An array that is made of lists of names between commas.
 struct NameArray {
   struct List {
     std::string_view Heading;
-    std::string_view Before;   // in C++, before the name
-    int Names = 0;             // exactly as many; 0 for any number
-    std::string_view CountAs;  // the constant that says how many there are
+    std::string_view Before = {};   // in C++, before the name
+    int Names = 0;                  // exactly as many; 0 for any number
+    std::string_view CountAs = {};  // the constant that says how many there are
   };
   std::string_view Type, Name;
   int Names = 0;    // of all lists together

@@ -64,7 +64,8 @@ std::string WhyNoBox(const BoxText& box, const Column& column, unsigned& taken) 
   if (!isPlain && std::find(castings.begin(), castings.end(), box.Casting) == castings.end())
     return NoSuch("casting", box.Casting, castings);
   if (box.Caption.empty()) return "a box has no caption";
-  if (takesNoWorker && box.Place != 0) return "no worker stands in the box of a " + box.Casting;
+  if (takesNoWorker && box.Place != 0)
+    return "no worker stands in the box " + InQuotes(box.Caption) + ", and so it has no place";
   if (takesNoWorker) return {};
   if (box.Place < 1 || box.Place > kPlaces)
     return "the box " + InQuotes(box.Caption) + " needs a place from 1 to 4 before its caption";
@@ -134,11 +135,16 @@ class Reader {
     if (!std::equal(cells.begin(), cells.end(), titles.begin(), titles.end()))
       return Report(lines.empty() ? section.Heading.Number : lines[0].Number,
                     "the first line of this table must be \"" + Joined(titles) + "\"");
+    int number = 0;
     for (auto line = lines.begin() + 1; line != lines.end(); ++line) {
+      ++number;
       TableRow row{line->Number, CellsOf(line->Text, '|')};
       if (row.Cells.size() != titles.size())
         Report(row.Line, std::to_string(row.Cells.size()) + " cells; this table has " +
                              std::to_string(titles.size()));
+      else if (table.Counts && row.Cells[0] != std::to_string(number))
+        Report(row.Line, "the rows are numbered one after the other, and this is number " +
+                             std::to_string(number));
       else if (IsSound(table, row))
         texts_.Rows[table.Heading].push_back(std::move(row));
     }
@@ -193,12 +199,9 @@ class Reader {
     return rules;
   }
 
-  /// What no two rows may share, and what goes by their order.
+  /// What no two rows may share.
   void CheckAgainstOthers(const Table& table, const TableRow& row) {
     const auto& rows = texts_.Rows[table.Heading];
-    if (table.Counts && row.Cells[0] != std::to_string(rows.size() + 1))
-      Report(row.Line, "the rows are numbered one after the other, and this is number " +
-                           std::to_string(rows.size() + 1));
     for (const TableRow& other : rows) {
       const bool isDouble =
           std::all_of(table.Keys.begin(), table.Keys.end(), [&](std::string_view key) {
