@@ -105,7 +105,7 @@ Family FinisherFamily(FinisherType type) {
   }
 }
 
-/// One of the winner's two finishing moves, by a draw where he has both. True for a hold.
+/// One of the winner's two finishing moves, by a draw where they have both. True for a hold.
 bool TellFinisher(Teller& teller) {
   const Party &winner = teller.cast.Of('w'), &loser = teller.cast.Of('l');
   if (winner.Empty() || loser.Empty()) return false;
@@ -113,7 +113,7 @@ bool TellFinisher(Teller& teller) {
   std::vector<int> slots;
   for (const int slot : {1, 2})
     if (const auto& name = slot == 1 ? worker->Finisher1 : worker->Finisher2;
-        !name.View().empty() && !(name == "None"))
+        !name.View().empty() && name != "None")
       slots.push_back(slot);
   if (slots.empty()) return false;
   const int slot =
@@ -156,8 +156,8 @@ Person* MateOf(Teller& teller, int uid) {
   return nullptr;
 }
 
-/// The turn of a worker, by whose side he stands on: it costs his side the match, he is beaten
-/// himself and walks out, or he waits until the bell.
+/// The turn of a worker, by whose side they stand on: it costs their side the match, they are
+/// beaten and walk out, or they wait until the bell.
 void TellTurnFinish(Teller& teller, const BoutRow& bout, int turner) {
   Cast& cast = teller.cast;
   cast.Set('t', cast.Find(teller.world, turner));

@@ -93,7 +93,7 @@ enum class Family {
 };
 inline constexpr int kFamilies = static_cast<int>(Family::NoVerdict) + 1;
 
-/// Bands of the offence: the wrestler's strongest side, and how good he is at it.
+/// Bands of the offence: the wrestler's strongest side, and how good they are at it.
 enum OffenceBand {
   kBrawlLow,
   kBrawlMid,

@@ -168,7 +168,7 @@ std::string AngleNames(const World& world, const Segment& segment) {
     if (const std::string name = WorkerName(world, uid); !name.empty())
       names += (names.empty() ? "" : ", ") + name;
   const Angle* angle = FindAngle(segment.Style);
-  if (angle && HasStableRole(*angle) && !(segment.Text == "None"))
+  if (angle && HasStableRole(*angle) && segment.Text != "None")
     names += (names.empty() ? "" : ", ") + segment.Text.Str();
   return names;
 }

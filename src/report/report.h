@@ -29,7 +29,7 @@ class LineMemory {
  public:
   /// A line of the band, from 0: the one that a draw of `lines` names, or, if the show has used it
   /// already, one that a second draw picks among those it has not. Once all have been used, the
-  /// band begins anew. `band` tells the bands apart. Requires at least one line.
+  /// band begins again. `band` tells the bands apart. Requires at least one line.
   int Pick(Draws& draws, const void* band, int lines);
   /// Whether it was picked since the band last began. What a text says cannot tell: two bands may
   /// use the same words.

@@ -29,8 +29,8 @@ class Ring {
   void RemoveSide(const Person* person);
   bool Holds(const Person* person) const { return SideOf(person) >= 0; }
 
-  /// Plays a script so that, by its counters, `last` and his side end it on top of `under`; either
-  /// may be nullptr, and then draws decide.
+  /// Plays a script so that, by its counters, `last` and their side end it on top of `under`;
+  /// either may be nullptr, and then draws decide.
   void Play(std::string_view script, int spot, const Person* last, const Person* under);
 
  private:

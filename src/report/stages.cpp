@@ -89,7 +89,7 @@ void TellChampion(Teller& teller) {
     }
 }
 
-/// The sides as parties; everybody is a side of his own where all fight all.
+/// The sides as parties; everybody is a side of their own where all fight all.
 std::vector<Party> Parties(Teller& teller) {
   std::vector<Party> parties;
   for (const auto& side : SidesOf(teller.segment)) {

@@ -39,7 +39,7 @@ void TellBattleRoyal(Teller& teller);
 void TellInterview(Teller& teller);
 void TellAngle(Teller& teller);
 
-/// Says that the part t turns, if somebody plays it, by where he stands.
+/// Says that the part t turns, if somebody plays it, by where they stand.
 void TellTurn(Teller& teller);
 /// Sets the part t to the people of this one.
 void TurnOf(Teller& teller, char part);

@@ -151,7 +151,7 @@ constexpr std::array<std::string_view, 12> kInjuries = {
     "Broken Nose", "Torn Calf",  "Knee Injury", "Ankle Injury", "Damaged Hand", "Ripped Bicep"};
 constexpr int kLongestMonths = 6;
 
-/// One in so many is hurt, by Strain.
+/// One in this many is hurt, by Strain.
 constexpr int kOddsByStrain[] = {0, 0, 0, 400, 250, 150};
 constexpr int kSickBumpOdds = 40;
 /// Below this Condition the odds double.

@@ -27,7 +27,7 @@ Score TvGate(int crowd, const Gate& gate);
 Score EventAttendance(World& world, const Promotion& promotion, int type);
 Score TvAttendance(World& world, const Promotion& promotion);
 
-/// Whether so many dollars are more than anybody pays at this size.
+/// Whether this many dollars are more than anybody pays at this size.
 bool IsNobodysPrice(int size, int ticketPrice);
 
 /// Dollars that putting on an Event of a type costs.

@@ -41,7 +41,7 @@ void AddToTally(World& world, int uid, const HeldMatch& bout, bool won) {
   MatchTally& tally = TallyOf(world, uid);
   tally.Name = WorkerName(world, uid);
   ++(bout.Winners == 0 ? tally.Drawn : won ? tally.Won : tally.Lost);
-  if (!(bout.Title == "None")) ++tally.ForTitles;
+  if (bout.Title != "None") ++tally.ForTitles;
   tally.Ratings += bout.Rating;
   tally.Last = bout.On;
 }

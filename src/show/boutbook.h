@@ -4,7 +4,7 @@
 
 #include "records/world.h"
 
-// Every match is written down when it has been told, and counted for everybody who was in it.
+// Every match is written down once it has been shown, and counted for everybody who was in it.
 
 namespace grapplemont {
 

@@ -126,7 +126,7 @@ void WarnOfTable(const World& world, const CommentaryTeam& team,
     warnings.emplace_back("The production is too poor for a promotion of this size.");
 }
 
-/// Each worker of the card once, in the order of the file, with what speaks against him.
+/// Each worker of the card once, in the order of the file, with what speaks against them.
 void WarnOfWorkers(const World& world, bool isEvent, std::vector<std::string>& warnings) {
   std::map<int, int> seen;
   for (int number = 1; number <= std::min(RowsOf(isEvent), world.Segments().Count()); ++number) {

@@ -101,7 +101,7 @@ bool ShowIsClosed(const World& world) {
 }
 
 bool IsPassedOver(const World& world, const Segment& segment) {
-  return segment.Kind != kMatch && !(segment.Text == "None") && !IsOwnStable(world, segment);
+  return segment.Kind != kMatch && segment.Text != "None" && !IsOwnStable(world, segment);
 }
 
 int NextSegment(const World& world) {

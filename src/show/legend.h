@@ -4,7 +4,7 @@
 
 namespace grapplemont {
 
-/// The one worker who speaks his own way in every mail.
+/// The one worker who has their own way of speaking in every mail.
 inline bool IsLegend(const Worker& worker) {
   return worker.Name == "Maul Gantry";
 }

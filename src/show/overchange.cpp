@@ -56,7 +56,7 @@ int PenaltyOf(SegmentRun& run, const Worker& worker, const OutOfCharacter (&rows
 constexpr int kTeamGap = 20;
 constexpr int kLuck = 2;  // the draw on which a result counts
 
-/// `result` is 1 for a winner, -1 for a loser: he falls where a winner rises, but a loud crowd
+/// `result` is 1 for a winner, -1 for a loser: they fall where a winner rises, but a loud crowd
 /// lifts either. Draws once.
 void ShiftTeamMember(SegmentRun& run, Worker& worker, bool gap, int result, int draw) {
   const bool isLucky = run.World.RandomDraw(draw) == kLuck;
@@ -247,7 +247,7 @@ void AfterAngle(SegmentRun& run) {
   }
   if (!HasStableRole(*angle)) return;
   const Worker* leader = StableLeader(run.World, run.Segment.Text);
-  // Who is on camera in person has had his share.
+  // Who is on camera in person has had their share.
   if (leader && !TakesPart(run.Segment, leader->Uid)) TalkOverOf(run, leader->Uid, false);
 }
 

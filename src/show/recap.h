@@ -12,7 +12,7 @@
 
 namespace grapplemont {
 
-/// The ratings of what has been told, by the rows of the sheet; those still to come have none.
+/// The ratings of what has been shown, by the rows of the sheet; those still to come have none.
 struct RatingsSoFar {
   std::vector<std::string> Rows;
   std::vector<double> Values;

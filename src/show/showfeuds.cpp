@@ -233,7 +233,7 @@ void AddPairs(Pairs& pairs, const std::vector<int>& by, const std::vector<int>& 
   if (by.empty() || on.empty()) return;
   for (std::size_t i = 0; i < std::max(by.size(), on.size()); ++i) {
     const std::pair pair{by[std::min(i, by.size() - 1)], on[std::min(i, on.size() - 1)]};
-    // However often he hits the same one, it was one attack.
+    // However often they hit the same one, it was one attack.
     if (std::find(pairs.begin(), pairs.end(), pair) == pairs.end()) pairs.push_back(pair);
   }
 }

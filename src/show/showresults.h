@@ -2,8 +2,8 @@
 
 #include "records/world.h"
 
-// What a show brings in: attendance, tickets, buy rates and television ratings, told by mail. The
-// player's and rivals' shows are alike; a rival's mail comes under the mail options.
+// What a show brings in: attendance, tickets, buy rates and television ratings, reported by mail.
+// The player's and rivals' shows are alike; a rival's mail comes under the mail options.
 
 namespace grapplemont {
 
@@ -25,7 +25,7 @@ ShowTakings EventReport(World& world, Promotion& promotion, const Event& event, 
 /// moved. Nothing comes of a day without a show or a show without a network.
 ShowTakings TvReport(World& world, Promotion& promotion);
 /// What shows of other promotions on the same day and in the same slot do to the rating. Draws once
-/// for each, in the order of the file. Tells the player about his own show alone.
+/// for each, in the order of the file. Reports the player's own show alone.
 int HeadToHead(World& world, const Show& show, int rating);
 
 }  // namespace grapplemont

@@ -11,7 +11,7 @@ namespace grapplemont {
 
 namespace {
 
-/// How an interview counts, by its style: so many of its speakers make the crowd and score against
+/// How an interview counts, by its style: how many of its speakers make the crowd and score against
 /// the one they speak of.
 struct TalkRow {
   int Style;

@@ -189,8 +189,8 @@ int FirstOf(const std::vector<int>& people) {
   return people.empty() ? 0 : people.front();
 }
 
-/// On whom the one who is to turn commits an act: a uid, or 0 for nobody; nothing where he commits
-/// none. Of several acts the first at which a turn can come off.
+/// On whom the one who is to turn commits an act: a uid, or 0 for nobody; nothing where there
+/// is no act. Of several acts the first at which a turn can come off.
 std::optional<int> VictimOf(const World& world, const Segment& segment, int turner) {
   std::optional<int> victim;
   const Worker* worker = world.FindWorker(turner);

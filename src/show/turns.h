@@ -6,8 +6,8 @@
 
 namespace grapplemont {
 
-/// One worker turns on another, or on nobody (nullptr): disposition, the crowd, his Over and morale
-/// follow, and the notes tell it. Draws once for each of the spans that his last turn lies within,
+/// One worker turns on another, or on nobody (nullptr): disposition, the crowd, Over and morale
+/// follow, and the notes tell it. Draws once for each of the spans that the last turn lies within,
 /// unless it is very recent; then by the outcome.
 void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other);
 
