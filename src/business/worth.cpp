@@ -9,6 +9,7 @@
 #include "records/arithmetic.h"
 #include "records/counted.h"
 #include "records/modVar.h"
+#include "roster/wagebill.h"
 
 namespace grapplemont {
 
@@ -50,8 +51,7 @@ Roster RosterOf(const World& world, const Promotion& promotion) {
     const int over = worker.Over;
     ++roster.People;
     roster.Fame += months * over * over;
-    // Who cannot be fired is not paid by the month either.
-    if (worker.ContractMonths != kNoEnd) roster.Wages += months * worker.Wage;
+    roster.Wages += months * MonthlyWage(worker) / kThousand;
   }
   return roster;
 }

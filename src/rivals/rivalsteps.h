@@ -13,6 +13,8 @@ void RivalWorkerHiring(World& world);
 void RivalStaffHiring(World& world);
 /// Each empty sponsor's place of a rival goes to the first sponsor who is free and willing.
 void RivalSponsorSigning(World& world);
+/// The first who is free and willing; nullptr for nobody.
+Sponsor* SponsorForRival(World& world, const Promotion& rival);
 // Mondays.
 /// Everybody who works for a rival stands on the card where his popularity puts him.
 void RivalPositions(World& world);

@@ -6,9 +6,7 @@
 
 namespace grapplemont {
 
-namespace {
-
-Sponsor* FindSponsorFor(World& world, const Promotion& rival) {
+Sponsor* SponsorForRival(World& world, const Promotion& rival) {
   const int limit = RivalSponsorPayLimit(rival.Size, rival.Image);
   for (Sponsor& sponsor : world.Sponsors())
     if (sponsor.Promotion == 0 && BearsRisk(sponsor, rival.Risk) && sponsor.Pay < limit)
@@ -16,14 +14,12 @@ Sponsor* FindSponsorFor(World& world, const Promotion& rival) {
   return nullptr;
 }
 
-}  // namespace
-
 void RivalSponsorSigning(World& world) {
   for (Promotion& rival : world.Promotions()) {
     if (!IsRival(world, rival)) continue;
     for (int slot = 1; slot <= static_cast<int>(rival.Sponsor.size()); ++slot) {
       if (SponsorAt(world, rival, slot)) continue;
-      Sponsor* sponsor = FindSponsorFor(world, rival);
+      Sponsor* sponsor = SponsorForRival(world, rival);
       if (!sponsor) break;
       SignSponsor(world, rival, *sponsor, slot);
       TellOf(world, world.Game().MailSponsor, rival,

@@ -1,4 +1,5 @@
 #include "show/consequences.h"
+#include "show/overreport.h"
 #include "show/titlechange.h"
 
 namespace grapplemont {
@@ -8,11 +9,8 @@ namespace {
 /// A Title whose image lies further than this from a champion's Over pulls it along.
 constexpr int kPull = 10;
 
-void FollowImage(Worker& champion, int image) {
-  if (image > champion.Over + kPull)
-    champion.Over += 1;
-  else if (image < champion.Over - kPull)
-    champion.Over -= 1;
+int StepTowards(int image, const Worker& champion) {
+  return image > champion.Over + kPull ? 1 : image < champion.Over - kPull ? -1 : 0;
 }
 
 int ImageChange(int target, int image) {
@@ -46,7 +44,7 @@ void MoveTitleImage(SegmentRun& run) {
     if (!champion) continue;
     sum += champion->Over;
     ++counted;
-    FollowImage(*champion, image);
+    ChangeOverAndTell(run, *champion, StepTowards(image, *champion));
   }
   const int change = ImageChange(Score::Floor(sum, counted), image);
   title->Image += change;

@@ -103,8 +103,8 @@ class frmQuickStat : public ui::Screen {
 
   void ShowPeople() {
     FillShort(lstwres, People());
-    lblfacts.Text = std::to_string(lstwres.Count()) +
-                    (chkall.Checked ? " workers in the world" : " workers of yours");
+    lblfacts.Text = Counted(lstwres.Count(), "worker") +
+                    (chkall.Checked ? " in the world" : " of yours");
   }
 
   void ShowWorker() {

@@ -53,8 +53,9 @@ class frmManagers : public ui::Screen {
       cells.emplace_back(manager ? manager->Name.Str() : "");
       rows.push_back({std::move(cells), client->Uid});
     }
-    lblfacts.Text = std::to_string(managed) + " of " + std::to_string(rows.size()) +
-                    " wrestlers have a manager.";
+    lblfacts.Text = std::to_string(managed) + " of " +
+                    Counted(static_cast<int>(rows.size()), "wrestler") +
+                    (managed == 1 ? " has a manager." : " have a manager.");
     lstclients.Fill(std::move(rows));
   }
 
