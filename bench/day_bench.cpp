@@ -102,7 +102,8 @@ void BM_DayBaseline(benchmark::State& state) {
   state.SetLabel(std::string(morning.Text) + ", " + bench::AgeText(age));
 }
 BENCHMARK(BM_DayBaseline)
-    ->ArgsProduct({{bench::kTenYears, bench::kLargest}, {kPlain, kMonday, kFirst}})
+    ->ArgsProduct({{bench::kNew, bench::kTenYears, bench::kTwentyYears, bench::kLargest},
+                   {kPlain, kMonday, kFirst}})
     ->Unit(benchmark::kMicrosecond)
     ->UseRealTime()
     ->Iterations(2);
