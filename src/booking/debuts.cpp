@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "booking/casting.h"
-#include "booking/writers.h"
+#include "booking/wizard/casting.h"
+#include "booking/wizard/roster.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 

@@ -2,8 +2,8 @@
 
 #include <map>
 
-#include "booking/casting.h"
-#include "booking/writers.h"
+#include "booking/wizard/casting.h"
+#include "booking/wizard/roster.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "booking/casting.h"
-#include "booking/castingchecks.h"
+#include "booking/wizard/casting.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {

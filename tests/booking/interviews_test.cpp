@@ -1,4 +1,4 @@
-#include "booking/interviews.h"
+#include "booking/wizard/interviews.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "booking/casting.h"
-#include "booking/matchsteps.h"
+#include "booking/wizard/casting.h"
+#include "booking/wizard/matchrules.h"
 
 namespace grapplemont::test {
 

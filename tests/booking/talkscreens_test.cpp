@@ -1,4 +1,4 @@
-#include "booking/screens/talkscreens.h"
+#include "booking/screens/stepscreens.h"
 
 #include <gtest/gtest.h>
 

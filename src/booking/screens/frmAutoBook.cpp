@@ -1,6 +1,5 @@
 #include "booking/screens/bookingscreens.h"
 #include "booking/sheet.h"
-#include "booking/sheetrow.h"
 #include "records/segments.h"
 #include "report/linememory.h"
 #include "show/holdshow.h"

@@ -1,7 +1,7 @@
-#include "booking/grievances.h"
 #include "booking/screens/bookingscreens.h"
 #include "booking/screens/screenstep.h"
-#include "booking/segmentcheck.h"
+#include "booking/wizard/objections.h"
+#include "booking/wizard/segmentcheck.h"
 
 namespace grapplemont {
 

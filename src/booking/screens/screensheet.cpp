@@ -2,7 +2,6 @@
 
 #include "booking/screens/bookingscreens.h"
 #include "booking/sheet.h"
-#include "booking/sheetrow.h"
 #include "records/counted.h"
 #include "records/segments.h"
 #include "show/holdshow.h"

@@ -4,7 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "booking/wizard.h"
+#include "booking/wizard/matchrules.h"
+#include "booking/wizard/segmentcheck.h"
+#include "booking/wizard/wizard.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -75,5 +77,25 @@ std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host, const s
 /// more than two lists stand side by side. `none` puts "None" on top, preselected.
 std::vector<ui::Column> PeopleColumns(int listsAbreast = 1);
 void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none = false);
+
+/// A step of a match that somebody may object to.
+class MatchStepScreen : public StepScreen {
+ public:
+  using StepScreen::StepScreen;
+
+ protected:
+  /// Puts the draft into the buffer when its step may be left so: no mistake, and nobody objects
+  /// whom the player cannot or does not want to overrule.
+  bool Accept(const Segment& draft, MatchStep step);
+  /// Shows beforehand what the people in the ring would say to the draft.
+  void ShowObjections(const Segment& draft, MatchStep step);
+  ui::Box Objections() { return ui::Group("What they say", {txtsay}); }
+
+ private:
+  bool IsOverruled(const Refusal& refusal);
+
+ protected:
+  ui::Label txtsay{*this, "txtsay"};
+};
 
 }  // namespace grapplemont

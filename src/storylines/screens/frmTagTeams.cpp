@@ -1,8 +1,8 @@
 #include "records/modWresCheck.h"
+#include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/screens/storyscreens.h"
 #include "storylines/storynames.h"
-#include "storylines/teams.h"
 
 namespace grapplemont {
 
@@ -163,5 +163,186 @@ class frmTagTeams : public ui::Screen {
 }  // namespace
 
 SCREEN(frmTagTeams)
+
+namespace {
+
+/// The player's stables: who is in them and who could be.
+class frmStables : public ui::Screen {
+ public:
+  explicit frmStables(Game& game) : Screen(game.Desk(), "frmStables", "Stables"), game_(game) {
+    lststables.EmptyText = "You have no stable yet. Type a name below and found one.";
+    lstmembers.EmptyText = "Nobody is in this stable. Choose somebody at the right and add him.";
+    lstwres.EmptyText = "Everybody you have is in this stable.";
+    txtname.Hint = "Name";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmddissolve, &cmdback};
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns({ui::Rows({ui::Group("Your stables", {ui::Grow(lststables)}).Grow(),
+                                       ui::Group("Name", {txtname, cmdcreate, cmdrename})})
+                                 .Grow(3),
+                             ui::Group("Members", {ui::Grow(lstmembers), cmdremove}).Grow(3),
+                             ui::Group("Not in this stable", {ui::Grow(lstwres), cmdadd}).Grow(4)});
+    return page;
+  }
+
+  void Load() override {
+    ShowStables();
+    lststables.Select(lststables.Count() > 0 ? 1 : 0);
+    lststables_Click();
+  }
+  void Return() override {
+    ShowStables();
+    ShowStable();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+
+  /// Empty when none is selected.
+  std::string Chosen() {
+    const int number = lststables.Key();
+    return number == 0 ? std::string() : world().Stables()[number].Name.Str();
+  }
+
+  void ShowStables() {
+    std::vector<ui::ListBox::Row> rows;
+    for (const Stable* stable : PlayerStables(world())) {
+      const Worker* leader = StableLeader(world(), stable->Name);
+      const auto members = StableMembers(world(), stable->Name).size();
+      rows.push_back({{stable->Name.View(), ui::Cell(static_cast<int>(members)),
+                       leader ? leader->Name.Str() : ""},
+                      world().Stables().NumberOf(*stable)});
+    }
+    const auto count = rows.size();
+    lststables.Fill(std::move(rows));
+    lblfacts.Text = count == 0   ? "No stable yet"
+                    : count == 1 ? "1 stable"
+                                 : std::to_string(count) + " stables";
+  }
+
+  void ShowStable() {
+    const std::string stable = Chosen();
+    const Worker* leader = StableLeader(world(), stable);
+    std::vector<ui::ListBox::Row> members, others;
+    for (const Worker* worker : SeenOnShows(world())) {
+      const bool isIn = !stable.empty() && worker->Stable == stable;
+      std::vector<ui::Cell> cells = ShortRow(*worker);
+      cells.push_back(isIn ? RoleCell(*worker, leader) : InCell(*worker));
+      (isIn ? members : others).push_back({std::move(cells), worker->Uid});
+    }
+    lstmembers.Fill(std::move(members));
+    lstwres.Fill(std::move(others));
+    ShowButtons();
+  }
+
+  static ui::Cell RoleCell(const Worker& worker, const Worker* leader) {
+    if (&worker == leader) return {"Leader", ui::Tone::Gold};
+    return StatusCell(worker);
+  }
+  static ui::Cell InCell(const Worker& worker) {
+    return {IsInStable(worker) ? worker.Stable.View() : "", ui::Tone::Muted};
+  }
+
+  void ShowButtons() {
+    const std::string none = Chosen().empty() ? "Choose a stable first." : "";
+    EnableUnless(cmdrename, none);
+    EnableUnless(cmddissolve, none);
+    EnableUnless(cmdadd, !none.empty()        ? none
+                         : lstwres.Key() == 0 ? "Choose somebody of this list first."
+                                              : "");
+    EnableUnless(cmdremove, !none.empty()           ? none
+                            : lstmembers.Key() == 0 ? "Choose a member first."
+                                                    : "");
+  }
+
+  void lststables_Click() {
+    txtname.Text = Chosen();
+    ShowStable();
+  }
+
+  void cmdcreate_Click() {
+    const std::string name(TrimmedName(txtname.Text.Get()));
+    if (desk().Objects(WhyNotFound(world(), name))) return;
+    FoundStable(world(), name);
+    ShowStables();
+    lststables.Select(lststables.Count());
+    lststables_Click();
+  }
+
+  void cmdrename_Click() {
+    const std::string name(TrimmedName(txtname.Text.Get()));
+    if (name == Chosen()) return;
+    if (desk().Objects(WhyNotStableName(world(), name))) return;
+    RenameStable(world(), Chosen(), name);
+    ShowStables();
+    lststables_Click();
+  }
+
+  void cmddissolve_Click() {
+    const std::string stable = Chosen();
+    const int booked = BookedFor(world(), stable);
+    const std::string price =
+        booked == 0   ? ""
+        : booked == 1 ? " The segment that is booked for it will be removed from the sheet."
+                      : " The " + std::to_string(booked) +
+                            " segments that are booked for it will be removed from the sheet.";
+    if (!desk().Ask("Dissolve?", "Are you sure you wish to dissolve " + stable + "?" + price,
+                    ui::Default::No))
+      return;
+    DissolveStable(world(), stable);
+    ShowStables();
+    lststables.Select(lststables.Count() > 0 ? 1 : 0);
+    lststables_Click();
+  }
+
+  void cmdadd_Click() {
+    Worker* worker = world().FindWorker(lstwres.Key());
+    if (!worker || desk().Objects(WhyNotJoin(world(), Chosen(), *worker))) return;
+    JoinStable(*worker, Chosen());
+    Return();
+  }
+
+  void cmdremove_Click() {
+    if (Worker* worker = world().FindWorker(lstmembers.Key())) LeaveStable(*worker);
+    Return();
+  }
+
+  void cmdback_Click() { Close(); }
+
+  static std::vector<ui::Column> PeopleColumns(const char* last, ui::ColumnKind kind) {
+    std::vector<ui::Column> columns = ShortColumns();
+    columns.push_back({last, kind, 2});
+    return columns;
+  }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ListBox lststables{*this,
+                         "lststables",
+                         {{"Stable", K::Text, 4},
+                          {"Members", K::Number, 1, "Ten at most."},
+                          {"Leader", K::Text, 4, "The most popular member who is fit."}},
+                         &frmStables::lststables_Click};
+  ui::TextBox txtname{*this, "txtname"};
+  ui::Button cmdcreate{*this, "cmdcreate", "Found A Stable", &frmStables::cmdcreate_Click};
+  ui::Button cmdrename{*this, "cmdrename", "Rename", &frmStables::cmdrename_Click};
+  ui::ListBox lstmembers{*this, "lstmembers", PeopleColumns("", K::Tag), &frmStables::ShowButtons,
+                         cmdremove};
+  ui::Button cmdremove{*this, "cmdremove", "Take Out", &frmStables::cmdremove_Click};
+  ui::ListBox lstwres{*this, "lstwres", PeopleColumns("In", K::Text), &frmStables::ShowButtons,
+                      cmdadd};
+  ui::Button cmdadd{*this, "cmdadd", "Add To The Stable", &frmStables::cmdadd_Click};
+  ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmStables::cmddissolve_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmStables::cmdback_Click};
+};
+
+}  // namespace
+
+SCREEN(frmStables)
 
 }  // namespace grapplemont

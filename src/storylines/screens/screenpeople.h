@@ -28,4 +28,16 @@ void EnableUnless(ui::Control& control, const std::string& why);
 using Controls = std::initializer_list<std::reference_wrapper<ui::Control>>;
 void EnableUnless(Controls controls, const std::string& why);
 
+// How Titles stand in tables.
+
+/// Name, kind, holder, since when, image, and whether it can be fought for.
+std::vector<ui::Column> TitleColumns();
+/// Its key is the record's number.
+ui::ListBox::Row TitleRow(const World& world, const Title& title);
+
+/// Who held a Title, from when to when.
+std::vector<ui::Column> ReignColumns();
+/// The lines that are used, the present one first.
+std::vector<ui::ListBox::Row> ReignRows(const Title& title);
+
 }  // namespace grapplemont
