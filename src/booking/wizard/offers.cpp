@@ -28,7 +28,7 @@ struct FinishRow {
   int Finish;
   Types In;
 };
-constexpr FinishRow kSinglesFinishes[] = {
+constexpr FinishRow kSinglesOffers[] = {
     {kClean, AllBut({kHighIncident})},
     {kInterference, AllBut({kHighIncident})},
     {kBotchedInterference, AllBut({kHighIncident})},
@@ -38,7 +38,7 @@ constexpr FinishRow kSinglesFinishes[] = {
                         kBraAndPanties, kIQuit, kHighIncident, kBuckNaked})},
     {kSickBump, Only({kLadder, kIQuit, kHellInACell, kHighIncident, kBarbedWire, kDeathMatch})},
 };
-constexpr FinishRow kTagFinishes[] = {
+constexpr FinishRow kTagOffers[] = {
     {kClean, kEvery},
     {kCountOut, Only({kPlainTag})},
     {kDqThroughInterference, Only({kPlainTag})},
@@ -84,7 +84,7 @@ std::vector<int> OfferedFinishes(const World& world, const Segment& match) {
   if (match.Style != kSingles && match.Style != kTag) return TeamFinishes(world, match);
   if (IsDraw(match)) return DrawsOf(match);
   std::vector<int> offered;
-  const auto list = match.Style == kSingles ? std::span<const FinishRow>(kSinglesFinishes) : kTagFinishes;
+  const auto list = match.Style == kSingles ? std::span<const FinishRow>(kSinglesOffers) : kTagOffers;
   for (const FinishRow& row : list) {
     const bool turns = match.Style == kTag && row.Finish == kPartnerTurns;
     if ((row.In >> match.MatchType & 1) == 0) continue;
