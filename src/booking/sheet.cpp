@@ -1,34 +1,73 @@
 #include "booking/sheet.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "booking/wizard/casting.h"
 #include "booking/wizard/matchrules.h"
 #include "booking/wizard/wizard.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
-#include "show/feudslots.h"
 #include "show/holdshow.h"
+#include "storylines/feuds.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
 
 namespace {
 
-struct TimeSlot {
-  std::string_view Code;
-  SheetTerms Terms;
-};
-// The last one stands for a code that is none of them.
-constexpr TimeSlot kTimeSlotTerms[] = {
-    {"P", {11, 4, 8}}, {"E", {8, 3, 7}}, {"L", {6, 3, 6}}, {"G", {5, 2, 5}}};
-constexpr SheetTerms kEventTerms = {kEventRows, 4, 6};
+// In the order of kTvTerms. The last one stands for every other code.
+constexpr std::string_view kSlots[] = {"P", "E", "L", "G"};
 
 /// Jobbers alone are nothing that the auto booker could start from.
-constexpr int kAutoBookable = 6;
+constexpr int kAutoBookable = kJobber;
 
 bool Counts(int record, bool isEvent) {
   return !isEvent || record != kDarkMatch;
+}
+
+std::string NameOf(const World& world, int uid) {
+  return SideText(world, {uid});
+}
+
+/// Those the uids stand for: themselves, or with `teams` the sides that they are the first of.
+std::string NamesOf(const World& world, const Segment& match, const std::vector<int>& uids,
+                    bool teams = false) {
+  const auto sides = SidesOf(match);
+  std::vector<std::string> names;
+  for (const int uid : uids) {
+    const int side = teams ? SideOf(match, uid) : 0;
+    names.push_back(side == 0 ? NameOf(world, uid)
+                              : SideText(world, sides[static_cast<std::size_t>(side - 1)]));
+  }
+  return Joined(names);
+}
+
+std::vector<std::string> DetailsOfMatch(const World& world, const Segment& match) {
+  if (match.Style == kSpecial)
+    return {"Entrants: " + NamesOf(world, match, PeopleOf(match)),
+            "Runner-up: " + NameOf(world, match.Loser)};
+  const ResultForm& form = ResultFormOf(match);
+  if (IsDraw(match) || form.Losers == 0) return {};
+  if (form.Losers == 1)
+    return {"Fall: " + NameOf(world, match.Winner) + " over " + NameOf(world, match.Loser)};
+  return {"Order of elimination: " + NamesOf(world, match, LosersInOrder(match), form.Teams)};
+}
+
+std::string PlayedBy(const World& world, const Segment& angle, const Role& role) {
+  if (role.From == Casting::Stables) return angle.Text.Str();
+  if (role.Place == 0) return angle.TitleName.Str();
+  return NameOf(world, UidAt(angle, role.Place));
+}
+
+std::vector<std::string> DetailsOfAngle(const World& world, const Segment& segment) {
+  std::vector<std::string> lines;
+  for (const Role& seat : SeatsOf(segment))
+    if (IsCast(segment, seat))
+      lines.push_back(std::string(seat.Caption) + ": " + PlayedBy(world, segment, seat));
+  return lines;
 }
 
 }  // namespace
@@ -37,9 +76,8 @@ SheetTerms TermsOf(const World& world, bool isEvent) {
   if (isEvent) return EventOfToday(world) ? kEventTerms : SheetTerms{};
   const Show* show = ShowOfToday(world);
   if (!show) return {};
-  for (const TimeSlot& slot : kTimeSlotTerms)
-    if (show->Slot == slot.Code) return slot.Terms;
-  return std::end(kTimeSlotTerms)[-1].Terms;
+  const auto slot = std::find(std::begin(kSlots), std::end(kSlots) - 1, show->Slot.View());
+  return kTvTerms[slot - std::begin(kSlots)];
 }
 
 SheetCount CountSheet(const World& world, bool isEvent) {
@@ -117,69 +155,6 @@ bool HasAutoBooker(const World& world) {
   });
 }
 
-namespace {
-
-bool EnemiesMeet(const Feud& feud, const std::vector<int>& people) {
-  for (const int one : people)
-    for (const int other : people)
-      if (AreEnemies(feud, one, other)) return true;
-  return false;
-}
-
-std::string NameOf(const World& world, int uid) {
-  return SideText(world, {uid});
-}
-
-/// Those the uids stand for: themselves, or with `teams` the sides that they are the first of.
-std::string NamesOf(const World& world, const Segment& match, const std::vector<int>& uids,
-                    bool teams = false) {
-  const auto sides = SidesOf(match);
-  std::string text;
-  for (const int uid : uids) {
-    const int side = teams ? SideOf(match, uid) : 0;
-    text += (text.empty() ? "" : ", ") +
-            (side == 0 ? NameOf(world, uid)
-                       : SideText(world, sides[static_cast<std::size_t>(side - 1)]));
-  }
-  return text;
-}
-
-std::vector<std::string> DetailsOfMatch(const World& world, const Segment& match) {
-  if (match.Style == kSpecial)
-    return {"Entrants: " + NamesOf(world, match, PeopleOf(match)),
-            "Runner-up: " + NameOf(world, match.Loser)};
-  const ResultForm& form = ResultFormOf(match);
-  if (IsDraw(match) || form.Losers == 0) return {};
-  if (form.Losers == 1)
-    return {"Fall: " + NameOf(world, match.Winner) + " over " + NameOf(world, match.Loser)};
-  return {"Order of elimination: " + NamesOf(world, match, LosersInOrder(match), form.Teams)};
-}
-
-std::string PlayedBy(const World& world, const Segment& angle, const Role& role) {
-  if (role.From == Casting::Stables) return angle.Text.Str();
-  if (role.Place == 0) return angle.TitleName.Str();
-  return NameOf(world, angle.Worker[static_cast<std::size_t>(role.Place - 1)]);
-}
-
-std::vector<std::string> DetailsOfAngle(const World& world, const Segment& segment) {
-  std::vector<std::string> lines;
-  if (const Angle* angle = FindAngle(segment.Style))
-    for (const Role& role : angle->Roles)
-      if (IsUsed(role) && IsCast(segment, role))
-        lines.push_back(std::string(role.Caption) + ": " + PlayedBy(world, segment, role));
-  return lines;
-}
-
-/// Everybody of the Segment, those who run in as well.
-std::vector<int> AllPeople(const Segment& segment) {
-  std::vector<int> people = PeopleOf(segment);
-  for (const int uid : {segment.Other1, segment.Other2, segment.Other3, segment.Other4})
-    if (uid != 0) people.push_back(uid);
-  return people;
-}
-
-}  // namespace
-
 std::string KindOfRow(const Segment& segment) {
   switch (segment.Kind) {
     case kMatch:
@@ -195,7 +170,7 @@ std::string KindOfRow(const Segment& segment) {
 
 std::string FeudOfRow(const World& world, const Segment& segment) {
   if (segment.Kind == kEmptySegment) return {};
-  const std::vector<int> people = AllPeople(segment);
+  const std::vector<int> people = EverybodyOf(segment);
   int hottest = -1;
   for (const Feud& feud : world.Feuds())
     if (feud.Heat > hottest && EnemiesMeet(feud, people)) hottest = feud.Heat;
@@ -237,8 +212,7 @@ std::vector<const Worker*> NotOnTheCard(const World& world, bool isEvent) {
   std::vector<const Worker*> free = EligibleRoster(world, {isEvent, "All"});
   for (const Segment& segment : world.Segments())
     std::erase_if(free, [&](const Worker* worker) { return TakesPart(segment, worker->Uid); });
-  std::stable_sort(free.begin(), free.end(),
-                   [](const Worker* a, const Worker* b) { return a->Over > b->Over; });
+  SortByOver(free);
   return free;
 }
 

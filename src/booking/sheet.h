@@ -16,13 +16,8 @@ namespace grapplemont {
 /// The record of an Event's sheet that is booked like the others and counts for nothing.
 inline constexpr int kDarkMatch = 1;
 
-/// What a sheet offers and asks for. Without a show of today nothing is open.
-struct SheetTerms {
-  int OpenRows = 0;  // records 1 to this can be booked
-  int MinMatches = 0;
-  int MinSegments = 0;
-};
-/// Of a television show by its time slot, an unknown one counting as the Graveyard.
+/// Of a television show by its time slot, an unknown one counting as the Graveyard. Without a show
+/// of today nothing is open.
 SheetTerms TermsOf(const World& world, bool isEvent);
 
 /// What is booked of what counts.

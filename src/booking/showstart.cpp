@@ -31,6 +31,25 @@ constexpr EventExtra kEventExtras[] = {
     {kGlobal, "'Theme' The Entire Event", 3000000, 20},
 };
 
+/// The player's best announcer but for one; nullptr for none.
+const Staff* BestAnnouncer(const World& world, const Staff* except) {
+  const Staff* best = nullptr;
+  for (const Staff& staff : world.AllStaff())
+    if (WorksForPlayer(world, staff) && staff.Position == kAnnouncer && &staff != except &&
+        (!best || staff.Talent > best->Talent))
+      best = &staff;
+  return best;
+}
+
+const Worker* BestTalker(const World& world) {
+  const Worker* best = nullptr;
+  for (const Worker& worker : world.Workers())
+    if (WorksForPlayer(world, worker) && worker.Announcer && worker.Speaks &&
+        worker.Status == "Nor" && (!best || worker.Charisma > best->Charisma))
+      best = &worker;
+  return best;
+}
+
 }  // namespace
 
 std::vector<const EventExtra*> ExtrasFor(const Promotion& promotion) {
@@ -57,29 +76,6 @@ void StartEvent(World& world, const EventExtra* extra) {
   world.ShowRuns()[1].ExtraCost = dollars;
   if (extra->Bonus > 0) AddExtraBonus(world, world.RandomDraw(extra->Bonus));
 }
-
-namespace {
-
-/// The player's best announcer but for one; nullptr for none.
-const Staff* BestAnnouncer(const World& world, const Staff* except) {
-  const Staff* best = nullptr;
-  for (const Staff& staff : world.AllStaff())
-    if (WorksForPlayer(world, staff) && staff.Position == kAnnouncer && &staff != except &&
-        (!best || staff.Talent > best->Talent))
-      best = &staff;
-  return best;
-}
-
-const Worker* BestTalker(const World& world) {
-  const Worker* best = nullptr;
-  for (const Worker& worker : world.Workers())
-    if (WorksForPlayer(world, worker) && worker.Announcer && worker.Speaks &&
-        worker.Status == "Nor" && (!best || worker.Charisma > best->Charisma))
-      best = &worker;
-  return best;
-}
-
-}  // namespace
 
 CommentaryTeam BestTeam(const World& world) {
   CommentaryTeam team;

@@ -5,6 +5,7 @@
 
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
 
@@ -90,119 +91,6 @@ void Complain(World& world, const Worker& worker) {
               : "Ending my last feud off-camera was a stupid move, it has hurt my popularity.");
 }
 
-}  // namespace
-
-bool IsFreeSlot(const Feud& feud) {
-  return feud.Worker1 == 0;
-}
-
-int FreeFeudSlot(const World& world) {
-  int slot = 0;
-  for (const Feud& feud : world.Feuds()) {
-    ++slot;
-    if (IsFreeSlot(feud)) return slot;
-  }
-  return slot < kFeuds ? slot + 1 : 0;
-}
-
-FeudSides SidesOf(const Feud& feud) {
-  if (feud.Singles) return {{feud.Worker1, 0}, {feud.Worker2, 0}};
-  return {{feud.Worker1, feud.Worker2}, {feud.Worker3, feud.Worker4}};
-}
-
-std::string SideName(const World& world, const FeudSide& side) {
-  return side.IsTeam() ? PairName(world, side.First, side.Second) : WorkerName(world, side.First);
-}
-
-FeudScore FeudWins(const Feud& feud) {
-  return {feud.Clean1 + feud.Dirty1 + feud.Interference1 + feud.Sneak1,
-          feud.Clean2 + feud.Dirty2 + feud.Interference2 + feud.Sneak2};
-}
-
-bool FeudExists(const World& world, int workerA, int workerB) {
-  return FeudExists(world, {{workerA, 0}, {workerB, 0}});
-}
-
-bool FeudExists(const World& world, const FeudSides& sides) {
-  return std::any_of(world.Feuds().begin(), world.Feuds().end(), [&](const Feud& feud) {
-    if (IsFreeSlot(feud) || bool(feud.Singles) == sides.One.IsTeam()) return false;
-    const FeudSides held = SidesOf(feud);
-    return (held.One == sides.One && held.Two == sides.Two) ||
-           (held.One == sides.Two && held.Two == sides.One);
-  });
-}
-
-bool MayFeud(const World& world, const Worker& worker) {
-  const bool isSeen =
-      IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
-  return WorksForPlayer(world, worker) && worker.Status == "Nor" && isSeen;
-}
-
-std::vector<const Worker*> FeudRoster(const World& world) {
-  std::vector<const Worker*> roster;
-  for (const Worker& worker : world.Workers())
-    if (MayFeud(world, worker)) roster.push_back(&worker);
-  std::stable_sort(roster.begin(), roster.end(),
-                   [](const Worker* a, const Worker* b) { return a->Over > b->Over; });
-  return roster;
-}
-
-StartingHeat StartingHeatOf(const World& world, const FeudSides& sides) {
-  StartingHeat start;
-  const int heads = static_cast<int>(Members(sides).size());
-  start.Popularity = (OverOf(world, sides.One) + OverOf(world, sides.Two)) / heads;
-  start.Contrast = ContrastOf(DispositionOf(world, sides.One), DispositionOf(world, sides.Two));
-  start.Heat = std::clamp(start.Popularity + start.Contrast, kColdestStart, kHottestStart);
-  return start;
-}
-
-std::string WhyNoFeud(const World& world, const FeudSides& sides) {
-  const FeudSide& one = sides.One;
-  if (sides.Two.Has(one.First) || sides.Two.Has(one.Second))
-    return "Wrestlers cannot feud with themselves!";
-  if (one.First == one.Second || sides.Two.First == sides.Two.Second)
-    return "You have selected the same worker twice!";
-  if (FeudExists(world, sides)) return "They are already in a feud with each other!";
-  if (FreeFeudSlot(world) == 0) return "All eight feud slots are taken. End a feud first.";
-  return {};
-}
-
-std::optional<FeudRefusal> RefusalOf(const World& world, const FeudSides& sides) {
-  if (IsTooLow(world, sides.One, sides.Two)) return Refuse(world, sides.One, sides.Two);
-  if (IsTooLow(world, sides.Two, sides.One)) return Refuse(world, sides.Two, sides.One);
-  return std::nullopt;
-}
-
-int StartFeud(World& world, const FeudSides& sides) {
-  const int slot = FreeFeudSlot(world);
-  while (world.Feuds().Count() < slot) world.Feuds().Append({});
-  Feud feud;
-  feud.Singles = !sides.One.IsTeam();
-  feud.Worker1 = sides.One.First;
-  feud.Worker2 = feud.Singles ? sides.Two.First : sides.One.Second;
-  feud.Worker3 = feud.Singles ? 0 : sides.Two.First;
-  feud.Worker4 = feud.Singles ? 0 : sides.Two.Second;
-  feud.Heat = StartingHeatOf(world, sides).Heat;
-  feud.Started = world.Today();
-  world.Feuds()[slot] = feud;
-  return slot;
-}
-
-void EndFeudOffCamera(World& world, int slot) {
-  const Feud ended = world.Feuds()[slot];
-  world.Feuds()[slot] = Feud{};
-  const FeudScore score = FeudWins(ended);
-  if (score.One + score.Two < kNoticed) return;
-  for (const int uid : Members(SidesOf(ended))) {
-    Worker* worker = world.FindWorker(uid);
-    if (!worker || world.RandomDraw(kHurtOdds) != 1 || worker->Over <= 0) continue;
-    worker->Over -= kHurtOver;
-    Complain(world, *worker);
-  }
-}
-
-namespace {
-
 /// A feud as Maeve looks at it, and the same feud with its sides changed over.
 struct View {
   const Feud& Seen;
@@ -270,6 +158,121 @@ Found FirstOf(const Feud& feud) {
 }
 
 }  // namespace
+
+bool IsFreeSlot(const Feud& feud) {
+  return feud.Worker1 == 0;
+}
+
+int FreeFeudSlot(const World& world) {
+  int slot = 0;
+  for (const Feud& feud : world.Feuds()) {
+    ++slot;
+    if (IsFreeSlot(feud)) return slot;
+  }
+  return slot < kFeuds ? slot + 1 : 0;
+}
+
+FeudSides SidesOf(const Feud& feud) {
+  if (feud.Singles) return {{feud.Worker1, 0}, {feud.Worker2, 0}};
+  return {{feud.Worker1, feud.Worker2}, {feud.Worker3, feud.Worker4}};
+}
+
+bool EnemiesMeet(const Feud& feud, const std::vector<int>& people) {
+  if (IsFreeSlot(feud)) return false;
+  const FeudSides sides = SidesOf(feud);
+  const auto has = [&](const FeudSide& side) {
+    return std::any_of(people.begin(), people.end(), [&](int uid) { return side.Has(uid); });
+  };
+  return has(sides.One) && has(sides.Two);
+}
+
+std::string SideName(const World& world, const FeudSide& side) {
+  return side.IsTeam() ? PairName(world, side.First, side.Second) : WorkerName(world, side.First);
+}
+
+FeudScore FeudWins(const Feud& feud) {
+  return {feud.Clean1 + feud.Dirty1 + feud.Interference1 + feud.Sneak1,
+          feud.Clean2 + feud.Dirty2 + feud.Interference2 + feud.Sneak2};
+}
+
+bool FeudExists(const World& world, int workerA, int workerB) {
+  return FeudExists(world, {{workerA, 0}, {workerB, 0}});
+}
+
+bool FeudExists(const World& world, const FeudSides& sides) {
+  return std::any_of(world.Feuds().begin(), world.Feuds().end(), [&](const Feud& feud) {
+    if (IsFreeSlot(feud) || bool(feud.Singles) == sides.One.IsTeam()) return false;
+    const FeudSides held = SidesOf(feud);
+    return (held.One == sides.One && held.Two == sides.Two) ||
+           (held.One == sides.Two && held.Two == sides.One);
+  });
+}
+
+bool MayFeud(const World& world, const Worker& worker) {
+  return WorksForPlayer(world, worker) && worker.Status == "Nor" && IsSeenOnShows(worker);
+}
+
+std::vector<const Worker*> FeudRoster(const World& world) {
+  std::vector<const Worker*> roster;
+  for (const Worker& worker : world.Workers())
+    if (MayFeud(world, worker)) roster.push_back(&worker);
+  SortByOver(roster);
+  return roster;
+}
+
+StartingHeat StartingHeatOf(const World& world, const FeudSides& sides) {
+  StartingHeat start;
+  const int heads = static_cast<int>(Members(sides).size());
+  start.Popularity = (OverOf(world, sides.One) + OverOf(world, sides.Two)) / heads;
+  start.Contrast = ContrastOf(DispositionOf(world, sides.One), DispositionOf(world, sides.Two));
+  start.Heat = std::clamp(start.Popularity + start.Contrast, kColdestStart, kHottestStart);
+  return start;
+}
+
+std::string WhyNoFeud(const World& world, const FeudSides& sides) {
+  const FeudSide& one = sides.One;
+  if (sides.Two.Has(one.First) || sides.Two.Has(one.Second))
+    return "Wrestlers cannot feud with themselves!";
+  if (one.First == one.Second || sides.Two.First == sides.Two.Second)
+    return "You have selected the same worker twice!";
+  if (FeudExists(world, sides)) return "They are already in a feud with each other!";
+  if (FreeFeudSlot(world) == 0) return "All eight feud slots are taken. End a feud first.";
+  return {};
+}
+
+std::optional<FeudRefusal> RefusalOf(const World& world, const FeudSides& sides) {
+  if (IsTooLow(world, sides.One, sides.Two)) return Refuse(world, sides.One, sides.Two);
+  if (IsTooLow(world, sides.Two, sides.One)) return Refuse(world, sides.Two, sides.One);
+  return std::nullopt;
+}
+
+int StartFeud(World& world, const FeudSides& sides) {
+  const int slot = FreeFeudSlot(world);
+  while (world.Feuds().Count() < slot) world.Feuds().Append({});
+  Feud feud;
+  feud.Singles = !sides.One.IsTeam();
+  feud.Worker1 = sides.One.First;
+  feud.Worker2 = feud.Singles ? sides.Two.First : sides.One.Second;
+  feud.Worker3 = feud.Singles ? 0 : sides.Two.First;
+  feud.Worker4 = feud.Singles ? 0 : sides.Two.Second;
+  feud.Heat = StartingHeatOf(world, sides).Heat;
+  feud.Started = world.Today();
+  world.Feuds()[slot] = feud;
+  return slot;
+}
+
+void EndFeudOffCamera(World& world, int slot) {
+  const Feud ended = world.Feuds()[slot];
+  world.Feuds()[slot] = Feud{};
+  const FeudScore score = FeudWins(ended);
+  if (score.One + score.Two < kNoticed) return;
+  for (const int uid : Members(SidesOf(ended))) {
+    Worker* worker = world.FindWorker(uid);
+    if (!worker || world.RandomDraw(kHurtOdds) != 1 || worker->Over <= 0) continue;
+    worker->Over -= kHurtOver;
+    Complain(world, *worker);
+  }
+}
 
 std::string AssessFeud(const World& world, const Feud& feud) {
   const Found found = FirstOf(feud);

@@ -16,7 +16,51 @@ bool IsPlayers(const World& world, int uid) {
   return worker && WorksForPlayer(world, *worker);
 }
 
+bool IsPlayers(const World& world, const Stable& stable) {
+  return stable.Owner == world.PlayerUid();
+}
+
+bool IsIn(const World& world, const Worker& worker, std::string_view stable) {
+  return WorksForPlayer(world, worker) && worker.Stable == stable;
+}
+
+/// What a show has held already stays as it was told.
+bool IsBookedFor(const Segment& segment, std::string_view stable) {
+  const Angle* angle = segment.Kind == kAngle ? FindAngle(segment.Style) : nullptr;
+  return angle && HasStableRole(*angle) && segment.Text == stable && segment.Rating == 0;
+}
+
+template <class Stays>
+std::vector<const Worker*> Of(std::vector<const Worker*> people, Stays stays) {
+  std::erase_if(people, [&](const Worker* worker) { return !stays(*worker); });
+  return people;
+}
+
+struct Memory {
+  int UpTo;  // days since the last turn
+  const char* Words;
+};
+// How long the fans remember a turn.
+constexpr Memory kMemories[] = {
+    {90, "The fans will not care for another turn so soon."},
+    {180, "The fans most likely remember the last turn, and would not care for another."},
+    {365, "Some fans remember the last turn. Another one may fall flat."},
+};
+
 }  // namespace
+
+bool IsTeamOf(const Team& team, int workerA, int workerB) {
+  return (team.Worker1 == workerA && team.Worker2 == workerB) ||
+         (team.Worker1 == workerB && team.Worker2 == workerA);
+}
+
+std::vector<int> PartnersOf(const World& world, int workerUid) {
+  std::vector<int> partners;
+  for (const Team& team : world.Teams())
+    if (team.Worker1 == workerUid || team.Worker2 == workerUid)
+      partners.push_back(team.Worker1 == workerUid ? team.Worker2 : team.Worker1);
+  return partners;
+}
 
 std::vector<int> PlayerTeams(const World& world) {
   std::vector<int> numbers;
@@ -65,24 +109,6 @@ void SetTeamFinisher(Team& team, std::string_view finisher) {
 void DissolveTeam(World& world, int number) {
   world.Teams().Erase(number);
 }
-
-namespace {
-
-bool IsPlayers(const World& world, const Stable& stable) {
-  return stable.Owner == world.PlayerUid();
-}
-
-bool IsIn(const World& world, const Worker& worker, std::string_view stable) {
-  return WorksForPlayer(world, worker) && worker.Stable == stable;
-}
-
-/// What a show has held already stays as it was told.
-bool IsBookedFor(const Segment& segment, std::string_view stable) {
-  const Angle* angle = segment.Kind == kAngle ? FindAngle(segment.Style) : nullptr;
-  return angle && HasStableRole(*angle) && segment.Text == stable && segment.Rating == 0;
-}
-
-}  // namespace
 
 std::vector<const Worker*> StableMembers(const World& world, std::string_view stable) {
   std::vector<const Worker*> members;
@@ -181,16 +207,6 @@ void LeaveStable(Worker& worker) {
   worker.Stable = "None";
 }
 
-namespace {
-
-template <class Stays>
-std::vector<const Worker*> Of(std::vector<const Worker*> people, Stays stays) {
-  std::erase_if(people, [&](const Worker* worker) { return !stays(*worker); });
-  return people;
-}
-
-}  // namespace
-
 std::vector<const Worker*> Managers(const World& world) {
   return Of(SeenOnShows(world), [](const Worker& w) { return w.Position == kManager; });
 }
@@ -221,21 +237,6 @@ void GiveManager(Worker& client, const Worker& manager) {
 void TakeManager(Worker& client) {
   client.Manager = 0;
 }
-
-namespace {
-
-struct Memory {
-  int UpTo;  // days since the last turn
-  const char* Words;
-};
-// How long the fans remember a turn.
-constexpr Memory kMemories[] = {
-    {90, "The fans will not care for another turn so soon."},
-    {180, "The fans most likely remember the last turn, and would not care for another."},
-    {365, "Some fans remember the last turn. Another one may fall flat."},
-};
-
-}  // namespace
 
 int DaysSinceTurn(const World& world, const Worker& worker) {
   const Day turned = worker.LastTurn;

@@ -6,10 +6,16 @@
 
 #include "records/world.h"
 
-// Tag Teams: how two become one, how a team is changed and given up.
+// Who stands together: Tag Teams, stables, managers and their clients; and who is about to turn.
 
 namespace grapplemont {
 
+// Tag Teams: how two become one, how a team is changed and given up.
+
+/// Whether these two are the team, in either order.
+bool IsTeamOf(const Team& team, int workerA, int workerB);
+/// The partners of a worker in the teams of the file, in its order.
+std::vector<int> PartnersOf(const World& world, int workerUid);
 /// The record numbers of the teams whose members both work for the player, in the order of the
 /// file.
 std::vector<int> PlayerTeams(const World& world);

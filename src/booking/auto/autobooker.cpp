@@ -16,12 +16,23 @@ constexpr void (*kSteps[])(AutoPlan&) = {EndFeuds,     DefendTitles,       Advan
                                          TurnWhoWaits, IntroduceNewcomers, BookTeams,
                                          BookCrowds,   FillMatches};
 
-int Booked(const AutoPlan& plan, bool matchesOnly) {
-  const bool dark = plan.View.IsEvent;
-  int count = static_cast<int>(plan.Matches.size() + (matchesOnly ? 0 : plan.Talks.size()));
-  for (std::size_t row = dark ? 1 : 0; row < plan.Rows.size(); ++row)
-    count += matchesOnly ? plan.Rows[row].Kind == kMatch : plan.Rows[row].Kind != kEmptySegment;
+constexpr std::size_t kDarkMatch = 0;  // the first row of an Event
+
+/// Rows that count for what the show needs.
+int RowsOf(const AutoPlan& plan, int kind = kEmptySegment) {
+  int count = 0;
+  for (std::size_t row = 0; row < plan.Rows.size(); ++row) {
+    if (plan.View.IsEvent && row == kDarkMatch) continue;
+    const int found = plan.Rows[row].Kind;
+    count += kind == kEmptySegment ? found != kEmptySegment : found == kind;
+  }
   return count;
+}
+
+/// And what waits for its row with them.
+int Booked(const AutoPlan& plan, int kind = kEmptySegment) {
+  const std::size_t talks = kind == kMatch ? 0 : plan.Talks.size();
+  return RowsOf(plan, kind) + static_cast<int>(plan.Matches.size() + talks);
 }
 
 /// Deeper and deeper into the roster, until the show has the matches that it cannot start without.
@@ -44,39 +55,9 @@ void ShareRows(AutoPlan& plan) {
   FillTalks(plan);
 }
 
-}  // namespace
-
-AutoCard AutoBook(World& world, bool isEvent, int openRows) {
-  AutoPlan plan(world, {isEvent, "All"}, openRows);
-  for (const auto step : kSteps) step(plan);
-  ReachForMatches(plan, plan.LeastMatches - Booked(plan, true));
-  FillTalks(plan);
-  ShareRows(plan);
-  ReachForMatches(plan, plan.LeastSegments - Booked(plan, false));
-  PlaceOnRows(plan);
-  return {plan.Rows, WhatIsMissing(plan)};
-}
-
-// Which row everything gets, and what is still missing then.
-
-namespace {
-
-constexpr std::size_t kDarkMatch = 0;  // the first row of an Event
-
 void SortByWeight(std::vector<Planned>& planned) {
   std::stable_sort(planned.begin(), planned.end(),
                    [](const Planned& a, const Planned& b) { return a.Weight < b.Weight; });
-}
-
-/// Rows that count for what the show needs.
-int Counted(const AutoPlan& plan, int kind = kEmptySegment) {
-  int count = 0;
-  for (std::size_t row = 0; row < plan.Rows.size(); ++row) {
-    if (plan.View.IsEvent && row == kDarkMatch) continue;
-    const int found = plan.Rows[row].Kind;
-    count += kind == kEmptySegment ? found != kEmptySegment : found == kind;
-  }
-  return count;
 }
 
 /// The dark match is left out when the show proper needs everything there is.
@@ -84,10 +65,7 @@ bool WantsDarkMatch(const AutoPlan& plan) {
   if (!plan.View.IsEvent || plan.Matches.empty() || plan.Rows[kDarkMatch].Kind != kEmptySegment)
     return false;
   if (plan.RowsLeft() == 0 && plan.Talks.empty()) return true;
-  const int matches = static_cast<int>(plan.Matches.size()) - 1;
-  const int talks = static_cast<int>(plan.Talks.size());
-  return Counted(plan, kMatch) + matches >= plan.LeastMatches &&
-         Counted(plan) + matches + talks >= plan.LeastSegments;
+  return Booked(plan, kMatch) - 1 >= plan.LeastMatches && Booked(plan) - 1 >= plan.LeastSegments;
 }
 
 /// Nothing that matters happens before the show proper, if it can be helped.
@@ -133,7 +111,7 @@ std::string Count(int number, const char* one, const char* many) {
 }
 
 bool HasEmptyRow(const AutoPlan& plan) {
-  return Counted(plan) < static_cast<int>(plan.Rows.size()) - (plan.View.IsEvent ? 1 : 0);
+  return RowsOf(plan) < static_cast<int>(plan.Rows.size()) - (plan.View.IsEvent ? 1 : 0);
 }
 
 std::string WhyNoMatch(const AutoPlan& plan) {
@@ -149,6 +127,19 @@ std::string WhyNoTalk(const AutoPlan& plan) {
 }
 
 }  // namespace
+
+AutoCard AutoBook(World& world, bool isEvent, int openRows) {
+  AutoPlan plan(world, {isEvent, "All"}, openRows);
+  for (const auto step : kSteps) step(plan);
+  ReachForMatches(plan, plan.LeastMatches - Booked(plan, kMatch));
+  FillTalks(plan);
+  ShareRows(plan);
+  ReachForMatches(plan, plan.LeastSegments - Booked(plan));
+  PlaceOnRows(plan);
+  return {plan.Rows, WhatIsMissing(plan)};
+}
+
+// Which row everything gets, and what is still missing then.
 
 void PlaceOnRows(AutoPlan& plan) {
   SortByWeight(plan.Matches);
@@ -172,9 +163,9 @@ void PlaceOnRows(AutoPlan& plan) {
 
 std::vector<std::string> WhatIsMissing(const AutoPlan& plan) {
   std::vector<std::string> missing;
-  const int matches = std::max(0, plan.LeastMatches - Counted(plan, kMatch));
+  const int matches = std::max(0, plan.LeastMatches - RowsOf(plan, kMatch));
   if (matches > 0) missing.push_back(Count(matches, "match", "matches") + ": " + WhyNoMatch(plan));
-  const int segments = plan.LeastSegments - Counted(plan) - matches;
+  const int segments = plan.LeastSegments - RowsOf(plan) - matches;
   if (segments > 0)
     missing.push_back(Count(segments, "segment", "segments") + ": " + WhyNoTalk(plan));
   return missing;

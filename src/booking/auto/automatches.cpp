@@ -4,6 +4,7 @@
 
 #include "show/scoring.h"
 #include "storylines/feuds.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 
@@ -86,82 +87,6 @@ bool BookSingles(AutoPlan& plan) {
   return false;
 }
 
-}  // namespace
-
-bool InOneCorner(const World& world, const Worker& a, const Worker& b) {
-  const std::string stable = a.Stable.Str();
-  if (!stable.empty() && stable != "None" && b.Stable == stable) return true;
-  if (a.Manager == b.Uid || b.Manager == a.Uid) return true;
-  return std::any_of(world.Teams().begin(), world.Teams().end(), [&](const Team& team) {
-    return (team.Worker1 == a.Uid && team.Worker2 == b.Uid) ||
-           (team.Worker1 == b.Uid && team.Worker2 == a.Uid);
-  });
-}
-
-int ContrastOf(const Worker& a, const Worker& b) {
-  if (a.Disposition == b.Disposition) return a.Disposition == "H" ? kTwoHeels : kTwoAlike;
-  return a.Disposition == "T" || b.Disposition == "T" ? kWithATweener : kFaceAgainstHeel;
-}
-
-int PairScore(AutoPlan& plan, const Worker& a, const Worker& b) {
-  const int luck = plan.World.RandomDraw(kVariety);
-  if (a.Uid == b.Uid || a.Gender != b.Gender || HasMet(plan, a, b)) return kNoPair;
-  if (!plan.Pool.SameCornerMeets() && InOneCorner(plan.World, a, b)) return kNoPair;
-  const int gap = std::abs(a.Over - b.Over);
-  int score = DrawRating(b) / 4 + WorkRating(b) / 4 + ContrastOf(a, b) + luck;
-  score -= std::max(0, gap - kCloseCall);
-  if (gap > kNoContestGap) score -= kNoContestGap;
-  if (a.Weight == b.Weight) score += kSameWeight;
-  if (IsRestless(plan, b)) score += kRestless;
-  if (FeudExists(plan.World, a.Uid, b.Uid)) score -= kNotAgain;
-  score += b.Condition / kRested;
-  return std::max(score, kNoPair + 1);
-}
-
-std::vector<const Worker*> OpponentsFor(AutoPlan& plan, const Worker& lead,
-                                        const std::vector<const Worker*>& from) {
-  std::vector<std::pair<int, const Worker*>> ranked;
-  for (const Worker* other : from)
-    if (const int score = PairScore(plan, lead, *other); score > kNoPair)
-      ranked.emplace_back(score, other);
-  std::stable_sort(ranked.begin(), ranked.end(),
-                   [](auto& a, auto& b) { return a.first > b.first; });
-  std::vector<const Worker*> best;
-  for (std::size_t i = 0; i < std::min<std::size_t>(kTries, ranked.size()); ++i)
-    best.push_back(ranked[i].second);
-  return best;
-}
-
-std::vector<const Team*> ReadyTeams(const AutoPlan& plan) {
-  std::vector<const Team*> ready;
-  for (const Team& team : plan.World.Teams())
-    if (plan.Pool.MayWrestle({team.Worker1, team.Worker2})) ready.push_back(&team);
-  std::stable_sort(ready.begin(), ready.end(), [&](const Team* a, const Team* b) {
-    return OverOf(plan, *a) > OverOf(plan, *b);
-  });
-  return ready;
-}
-
-int TeamScore(AutoPlan& plan, const Team& a, const Team& b) {
-  const int luck = plan.World.RandomDraw(kVariety);
-  if (&a == &b || ShareAMember(a, b) || WomenIn(plan, a) != WomenIn(plan, b)) return kNoPair;
-  const Worker *one = Member(plan, a.Worker1), *two = Member(plan, b.Worker1);
-  if (!plan.Pool.SameCornerMeets() && InOneCorner(plan.World, *one, *two)) return kNoPair;
-  const int gap = std::abs(OverOf(plan, a) - OverOf(plan, b)) / 2;
-  const int score = OverOf(plan, b) / 4 + b.Experience / 8 + ContrastOf(*one, *two) + luck -
-                    std::max(0, gap - kCloseCall);
-  return std::max(score, kNoPair + 1);
-}
-
-void FillMatches(AutoPlan& plan) {
-  while (plan.WantsMatch() && plan.RowsLeft() > 0 && BookSingles(plan)) {
-  }
-}
-
-// Match types: plain wrestling most of the time, stipulations where a feud has earned them.
-
-namespace {
-
 /// When a stipulation is worth its wear.
 struct Gimmick {
   int Style;
@@ -202,17 +127,77 @@ int WorstCondition(const AutoPlan& plan, const std::vector<int>& people) {
   return worst;
 }
 
-bool IsOffered(const Promotion& promotion, int style, int type) {
-  const MatchTypeRow* row = FindMatchType(style, type);
-  return row && promotion.Risk > row->RiskOver && promotion.Size < row->SizeUnder;
-}
-
 bool IsTimeForOne(AutoPlan& plan, int heat, bool endsFeud) {
   if (heat == 0 || plan.Gimmicks >= (plan.View.IsEvent ? kPerEvent : kPerShow)) return false;
   return endsFeud || Chance(plan.World, plan.View.IsEvent ? kChanceAtEvent : kChanceOnShow);
 }
 
-/// A type of the style by the weights of those that fit; plain when none does.
+}  // namespace
+
+bool InOneCorner(const World& world, const Worker& a, const Worker& b) {
+  if (IsInStable(a) && a.Stable == b.Stable) return true;
+  if (a.Manager == b.Uid || b.Manager == a.Uid) return true;
+  return std::any_of(world.Teams().begin(), world.Teams().end(),
+                     [&](const Team& team) { return IsTeamOf(team, a.Uid, b.Uid); });
+}
+
+int ContrastOf(const Worker& a, const Worker& b) {
+  if (a.Disposition == b.Disposition) return a.Disposition == "H" ? kTwoHeels : kTwoAlike;
+  return a.Disposition == "T" || b.Disposition == "T" ? kWithATweener : kFaceAgainstHeel;
+}
+
+int PairScore(AutoPlan& plan, const Worker& a, const Worker& b) {
+  const int luck = plan.World.RandomDraw(kVariety);
+  if (a.Uid == b.Uid || a.Gender != b.Gender || HasMet(plan, a, b)) return kNoPair;
+  if (!plan.Pool.SameCornerMeets() && InOneCorner(plan.World, a, b)) return kNoPair;
+  const int gap = std::abs(a.Over - b.Over);
+  int score = DrawRating(b) / 4 + WorkRating(b) / 4 + ContrastOf(a, b) + luck;
+  score -= std::max(0, gap - kCloseCall);
+  if (gap > kNoContestGap) score -= kNoContestGap;
+  if (a.Weight == b.Weight) score += kSameWeight;
+  if (IsRestless(plan, b)) score += kRestless;
+  if (FeudExists(plan.World, a.Uid, b.Uid)) score -= kNotAgain;
+  score += b.Condition / kRested;
+  return std::max(score, kNoPair + 1);
+}
+
+std::vector<const Worker*> OpponentsFor(AutoPlan& plan, const Worker& lead,
+                                        const std::vector<const Worker*>& from) {
+  std::vector<std::pair<int, const Worker*>> ranked;
+  for (const Worker* other : from)
+    if (const int score = PairScore(plan, lead, *other); score > kNoPair)
+      ranked.emplace_back(score, other);
+  return BestOf(std::move(ranked), kTries);
+}
+
+std::vector<const Team*> ReadyTeams(const AutoPlan& plan) {
+  std::vector<const Team*> ready;
+  for (const Team& team : plan.World.Teams())
+    if (plan.Pool.MayWrestle({team.Worker1, team.Worker2})) ready.push_back(&team);
+  std::stable_sort(ready.begin(), ready.end(), [&](const Team* a, const Team* b) {
+    return OverOf(plan, *a) > OverOf(plan, *b);
+  });
+  return ready;
+}
+
+int TeamScore(AutoPlan& plan, const Team& a, const Team& b) {
+  const int luck = plan.World.RandomDraw(kVariety);
+  if (&a == &b || ShareAMember(a, b) || WomenIn(plan, a) != WomenIn(plan, b)) return kNoPair;
+  const Worker *one = Member(plan, a.Worker1), *two = Member(plan, b.Worker1);
+  if (!plan.Pool.SameCornerMeets() && InOneCorner(plan.World, *one, *two)) return kNoPair;
+  const int gap = std::abs(OverOf(plan, a) - OverOf(plan, b)) / 2;
+  const int score = OverOf(plan, b) / 4 + b.Experience / 8 + ContrastOf(*one, *two) + luck -
+                    std::max(0, gap - kCloseCall);
+  return std::max(score, kNoPair + 1);
+}
+
+void FillMatches(AutoPlan& plan) {
+  while (plan.WantsMatch() && plan.RowsLeft() > 0 && BookSingles(plan)) {
+  }
+}
+
+// Match types: plain wrestling most of the time, stipulations where a feud has earned them.
+
 int TypeFor(AutoPlan& plan, int style, const std::vector<int>& people, int heat, bool endsFeud) {
   constexpr int kPlain = 1;  // in both styles
   if (!IsTimeForOne(plan, heat, endsFeud)) return kPlain;
@@ -221,7 +206,7 @@ int TypeFor(AutoPlan& plan, int style, const std::vector<int>& people, int heat,
     const bool fits = gimmick.Style == style && heat >= gimmick.Heat &&
                       condition >= gimmick.Condition && (plan.View.IsEvent || !gimmick.EventOnly) &&
                       (endsFeud || !gimmick.BlowOffOnly) &&
-                      IsOffered(plan.World.Player(), style, gimmick.Type);
+                      IsOffered(plan.World, *FindMatchType(style, gimmick.Type));
     return fits ? gimmick.Weight : 0;
   };
   int total = 0;
@@ -231,16 +216,6 @@ int TypeFor(AutoPlan& plan, int style, const std::vector<int>& people, int heat,
   for (const Gimmick& gimmick : kGimmicks)
     if ((drawn -= weight(gimmick)) <= 0) return gimmick.Type;
   return kPlain;
-}
-
-}  // namespace
-
-int SinglesTypeFor(AutoPlan& plan, const std::vector<int>& people, int heat, bool endsFeud) {
-  return TypeFor(plan, kSingles, people, heat, endsFeud);
-}
-
-int TagTypeFor(AutoPlan& plan, const std::vector<int>& people, int heat, bool endsFeud) {
-  return TypeFor(plan, kTag, people, heat, endsFeud);
 }
 
 bool BookMatch(AutoPlan& plan, Segment match, const Wish& wish) {

@@ -21,10 +21,9 @@ inline constexpr int kNoPair = -50;
 std::vector<const Worker*> OpponentsFor(AutoPlan& plan, const Worker& lead,
                                         const std::vector<const Worker*>& from);
 
-/// Plain singles unless the occasion calls for more and the promotion's risk and size allow it.
-/// `heat` is the feud's, 0 for none.
-int SinglesTypeFor(AutoPlan& plan, const std::vector<int>& people, int heat, bool endsFeud);
-int TagTypeFor(AutoPlan& plan, const std::vector<int>& people, int heat, bool endsFeud);
+/// The type of a match of styles 1 and 2: plain unless the occasion calls for more and the
+/// promotion's risk and size allow it. `heat` is the feud's, 0 for none.
+int TypeFor(AutoPlan& plan, int style, const std::vector<int>& people, int heat, bool endsFeud);
 
 /// Decides and plans a match; with a plain type when nobody agrees to the one given.
 bool BookMatch(AutoPlan& plan, Segment match, const Wish& wish);

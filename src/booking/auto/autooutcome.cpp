@@ -1,170 +1,16 @@
 #include "booking/auto/autooutcome.h"
 
 #include <algorithm>
+#include <initializer_list>
+#include <span>
 
-#include "storylines/feuds.h"
+#include "booking/wizard/matchrules.h"
+#include "booking/wizard/objections.h"
+#include "records/segmentparts.h"
+#include "storylines/partners.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
-
-namespace {
-
-// What makes a win worth while, in points of Over.
-constexpr int kChance = 12;
-constexpr int kYoung = 30, kYouth = 3;
-constexpr int kOld = 40, kAgeing = -4;
-constexpr int kRetires = -10;
-constexpr int kEnhancement = -12;  // a jobber's job
-constexpr int kChampion = 7;
-
-int PushOf(const Worker& worker) {
-  int push = std::clamp((worker.Potential - worker.Over) / 5, -4, 6);
-  if (worker.Age < kYoung) push += kYouth;
-  if (worker.Age > kOld) push += kAgeing;
-  if (worker.RetiringSoon) push += kRetires;
-  if (worker.Position == kJobber) push += kEnhancement;
-  return push;
-}
-
-bool IsChampion(const World& world, int uid) {
-  return std::any_of(world.Titles().begin(), world.Titles().end(), [&](const Title& title) {
-    return title.Owner == world.PlayerUid() && (title.Holder == uid || title.Partner == uid);
-  });
-}
-
-int SideWorth(AutoPlan& plan, const std::vector<int>& side) {
-  int worth = 0;
-  for (const int uid : side)
-    if (const Worker* worker = plan.World.FindWorker(uid)) worth += WinWorth(plan, *worker);
-  return worth;
-}
-
-/// Side numbers from 0, the one to win first.
-std::vector<std::size_t> SidesByWorth(AutoPlan& plan, const Segment& match, const Wish& wish) {
-  const auto sides = SidesOf(match);
-  std::vector<int> worth;
-  for (const auto& side : sides)
-    worth.push_back(SideWorth(plan, side) +
-                    (std::find(side.begin(), side.end(), wish.Favoured) != side.end() ? 1000 : 0));
-  std::vector<std::size_t> order(sides.size());
-  for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
-  std::stable_sort(order.begin(), order.end(),
-                   [&](std::size_t a, std::size_t b) { return worth[a] > worth[b]; });
-  if (wish.Firm) order.resize(1);
-  return order;
-}
-
-/// Who of a side takes the fall: the least popular.
-int WeakestOf(const World& world, const std::vector<int>& side) {
-  return *std::min_element(side.begin(), side.end(), [&](int a, int b) {
-    const Worker *one = world.FindWorker(a), *two = world.FindWorker(b);
-    return one && two && one->Over < two->Over;
-  });
-}
-
-/// Takes the first ending that everybody accepts.
-bool TryEndings(AutoPlan& plan, Segment& match, const Wish& wish) {
-  for (const Ending& ending : EndingsOf(plan, match, wish)) {
-    Segment attempt = match;
-    attempt.Finish = ending.Finish;
-    attempt.Other1 = ending.Other1;
-    for (const int aftermath : {ending.Aftermath, int(after1::kNothing)}) {
-      attempt.Aftermath = aftermath;
-      attempt.Purpose = PurposeOf(plan, attempt, wish);
-      if (!Stands(plan, attempt)) continue;
-      match = attempt;
-      return true;
-    }
-  }
-  return false;
-}
-
-bool TryDraw(AutoPlan& plan, Segment& match, const Wish& wish) {
-  match.Winner = 0;
-  match.Loser = kNoLoser;
-  match.Finish = Chance(plan.World, 50) ? kDoubleDq : kDoubleCountOut;
-  match.Aftermath = after1::kNothing;
-  match.Purpose = PurposeOf(plan, match, wish);
-  return Stands(plan, match);
-}
-
-bool DecideTwoSides(AutoPlan& plan, Segment& match, const Wish& wish) {
-  const auto sides = SidesOf(match);
-  for (const std::size_t winner : SidesByWorth(plan, match, wish)) {
-    match.Winner = sides[winner][0];
-    match.Loser = WeakestOf(plan.World, sides[1 - winner]);
-    if (TryEndings(plan, match, wish)) return true;
-  }
-  return wish.MayDraw && match.MatchType == kPlainSingles && TryDraw(plan, match, wish);
-}
-
-/// Trios and quartets: a finish, but nothing behind it.
-bool DecideMany(AutoPlan& plan, Segment& match, const Wish& wish) {
-  const auto sides = SidesOf(match);
-  for (const std::size_t winner : SidesByWorth(plan, match, wish)) {
-    match.Winner = sides[winner][0];
-    match.Loser = WeakestOf(plan.World, sides[1 - winner]);
-    const Worker* star = plan.World.FindWorker(match.Winner);
-    const bool cheap = star && star->Disposition == "H" && Chance(plan.World, 40);
-    match.Finish = cheap ? kCheapVictory : int(kClean);
-    if (Stands(plan, match)) return true;
-  }
-  return false;
-}
-
-/// The least popular goes out first, which is the Loser's place; a battle royal has it for the
-/// runner-up.
-void NameLosers(const World& world, Segment& match, std::vector<int> losers) {
-  std::stable_sort(losers.begin(), losers.end(), [&](int a, int b) {
-    const Worker *one = world.FindWorker(a), *two = world.FindWorker(b);
-    return one && two && one->Over < two->Over;
-  });
-  match.Loser = match.Style == kSpecial ? losers.back() : losers[0];
-  if (match.MatchType != kElimination || match.Style == kSpecial) return;
-  if (losers.size() > 1) match.Place3 = losers[1];
-  if (losers.size() > 2) match.Place4 = losers[2];
-}
-
-bool DecideFreeForAll(AutoPlan& plan, Segment& match, const Wish& wish) {
-  const auto sides = SidesOf(match);
-  for (const std::size_t winner : SidesByWorth(plan, match, wish)) {
-    match.Winner = sides[winner][0];
-    std::vector<int> losers;
-    for (std::size_t i = 0; i < sides.size(); ++i)
-      if (i != winner) losers.push_back(sides[i][0]);
-    NameLosers(plan.World, match, losers);
-    if (Stands(plan, match)) return true;
-  }
-  return false;
-}
-
-}  // namespace
-
-Segment NewMatch(int style, int type, const std::vector<int>& people) {
-  Segment match = EmptySegment();
-  match.Kind = kMatch;
-  match.Style = style;
-  match.MatchType = type;
-  for (std::size_t i = 0; i < people.size(); ++i) match.Worker[i] = people[i];
-  return match;
-}
-
-int WinWorth(AutoPlan& plan, const Worker& worker) {
-  return worker.Over + PushOf(worker) + (IsChampion(plan.World, worker.Uid) ? kChampion : 0) +
-         plan.World.RandomDraw(kChance);
-}
-
-bool Decide(AutoPlan& plan, Segment& match, const Wish& wish) {
-  switch (match.Style) {
-    case kSingles:
-    case kTag:
-      return DecideTwoSides(plan, match, wish);
-    case kThreeOnThree:
-    case kFourOnFour:
-      return DecideMany(plan, match, wish);
-    default:
-      return DecideFreeForAll(plan, match, wish);
-  }
-}
 
 namespace {
 
@@ -242,10 +88,15 @@ const AftermathTaste kHeatBack[] = {
     {kSingles, after1::kAttacksReferee, {}, kAnyone, kAnyone, false, 100},
 };
 
-/// Below this Attitude a loser wants to do something after the match.
-constexpr int kGoesQuietly = 30;
 constexpr int kGoodSeller = 50;
 constexpr int kGoodWork = 65;
+
+/// One way for a match to end.
+struct Ending {
+  int Finish = 0;
+  int Other1 = 0;  // runs in
+  int Aftermath = 0;
+};
 
 char DispositionOf(const AutoPlan& plan, int uid) {
   const Worker* worker = plan.World.FindWorker(uid);
@@ -265,24 +116,12 @@ int AllyOf(const AutoPlan& plan, const Segment& match, int uid) {
     return other != uid && plan.Pool.MayAppear(other) && !TakesPart(match, other);
   };
   if (free(worker->Manager)) return worker->Manager;
-  for (const Team& team : plan.World.Teams())
-    if (team.Worker1 == uid || team.Worker2 == uid) {
-      const int mate = team.Worker1 == uid ? team.Worker2 : team.Worker1;
-      if (free(mate)) return mate;
-    }
-  if (worker->Stable == "None" || worker->Stable.Str().empty()) return 0;
+  for (const int partner : PartnersOf(plan.World, uid))
+    if (free(partner)) return partner;
+  if (!IsInStable(*worker)) return 0;
   for (const Worker* other : plan.Pool.People())
     if (other->Stable == worker->Stable && free(other->Uid)) return other->Uid;
   return 0;
-}
-
-/// Interference comes from the winner's corner, unless it goes wrong or costs the match.
-bool HelpsTheLoser(int finish) {
-  return finish == kBotchedInterference || finish == kDqThroughInterference;
-}
-
-bool NeedsRunIn(int finish) {
-  return finish == kInterference || HelpsTheLoser(finish);
 }
 
 int AftermathFrom(AutoPlan& plan, std::span<const AftermathTaste> tastes, const Segment& match,
@@ -302,15 +141,18 @@ int AftermathFrom(AutoPlan& plan, std::span<const AftermathTaste> tastes, const 
 
 bool GoesQuietly(const AutoPlan& plan, const Segment& match) {
   const Worker* loser = plan.World.FindWorker(match.Loser);
-  return match.Style != kSingles || !loser || loser->Attitude >= kGoesQuietly;
+  return match.Style != kSingles || !loser || loser->Attitude >= kVengeful;
 }
 
 /// False when the finish wants a run-in and nobody is there for it.
 bool AddEnding(AutoPlan& plan, const Segment& match, const Wish& wish, int finish,
                std::vector<Ending>& endings) {
   Ending ending{finish};
-  if (NeedsRunIn(finish)) {
-    ending.Other1 = AllyOf(plan, match, HelpsTheLoser(finish) ? match.Loser : match.Winner);
+  if (NeedsFinishRunIn(match.Style, finish)) {
+    Segment ended = match;
+    ended.Finish = finish;
+    const std::vector<int> helped = PeopleOf(ended, Part::Helped);
+    ending.Other1 = helped.empty() ? 0 : AllyOf(plan, match, helped.front());
     if (ending.Other1 == 0) return false;
   }
   const std::span<const AftermathTaste> tastes =
@@ -346,8 +188,8 @@ bool SellsWell(const AutoPlan& plan, const std::vector<int>& losers) {
   });
 }
 
-}  // namespace
-
+/// Endings of a match of styles 1 and 2 whose Winner and Loser are set, the most wanted first and
+/// what a stubborn loser accepts last. Draws.
 std::vector<Ending> EndingsOf(AutoPlan& plan, const Segment& match, const Wish& wish) {
   const char winner = DispositionOf(plan, match.Winner);
   std::vector<Ending> endings;
@@ -362,6 +204,7 @@ std::vector<Ending> EndingsOf(AutoPlan& plan, const Segment& match, const Wish& 
   return endings;
 }
 
+/// What the match is for, by its result.
 int PurposeOf(const AutoPlan& plan, const Segment& match, const Wish& wish) {
   const bool singles = match.Style == kSingles;
   if (wish.EndsFeud) return singles ? int(purpose1::kEndFeud) : int(purpose2::kEndFeud);
@@ -374,6 +217,164 @@ int PurposeOf(const AutoPlan& plan, const Segment& match, const Wish& wish) {
   if (singles) return purpose1::kPutWinnerOver;
   return SideOf(match, match.Winner) == 1 ? purpose2::kPutFirstTeamOver
                                           : purpose2::kPutSecondTeamOver;
+}
+
+// What makes a win worth while, in points of Over.
+constexpr int kChance = 12;
+constexpr int kYoung = 30, kYouth = 3;
+constexpr int kOld = 40, kAgeing = -4;
+constexpr int kRetires = -10;
+constexpr int kEnhancement = -12;  // a jobber's job
+constexpr int kChampion = 7;
+
+int PushOf(const Worker& worker) {
+  int push = std::clamp((worker.Potential - worker.Over) / 5, -4, 6);
+  if (worker.Age < kYoung) push += kYouth;
+  if (worker.Age > kOld) push += kAgeing;
+  if (worker.RetiringSoon) push += kRetires;
+  if (worker.Position == kJobber) push += kEnhancement;
+  return push;
+}
+
+bool IsChampion(const World& world, int uid) {
+  return std::any_of(world.Titles().begin(), world.Titles().end(), [&](const Title& title) {
+    return IsPlayers(world, title) && (title.Holder == uid || title.Partner == uid);
+  });
+}
+
+/// How much a win would do for the worker: rising beats fading where they are about as popular.
+/// Draws once.
+int WinWorth(AutoPlan& plan, const Worker& worker) {
+  return worker.Over + PushOf(worker) + (IsChampion(plan.World, worker.Uid) ? kChampion : 0) +
+         plan.World.RandomDraw(kChance);
+}
+
+int SideWorth(AutoPlan& plan, const std::vector<int>& side) {
+  int worth = 0;
+  for (const int uid : side)
+    if (const Worker* worker = plan.World.FindWorker(uid)) worth += WinWorth(plan, *worker);
+  return worth;
+}
+
+/// Side numbers from 0, the one to win first.
+std::vector<std::size_t> SidesByWorth(AutoPlan& plan, const Segment& match, const Wish& wish) {
+  const auto sides = SidesOf(match);
+  std::vector<int> worth;
+  for (const auto& side : sides)
+    worth.push_back(SideWorth(plan, side) +
+                    (std::find(side.begin(), side.end(), wish.Favoured) != side.end() ? 1000 : 0));
+  std::vector<std::size_t> order(sides.size());
+  for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
+  std::stable_sort(order.begin(), order.end(),
+                   [&](std::size_t a, std::size_t b) { return worth[a] > worth[b]; });
+  if (wish.Firm) order.resize(1);
+  return order;
+}
+
+bool IsLessOver(const World& world, int a, int b) {
+  const Worker *one = world.FindWorker(a), *two = world.FindWorker(b);
+  return one && two && one->Over < two->Over;
+}
+
+/// Who of a side takes the fall: the least popular.
+int WeakestOf(const World& world, const std::vector<int>& side) {
+  return *std::min_element(side.begin(), side.end(),
+                           [&](int a, int b) { return IsLessOver(world, a, b); });
+}
+
+/// Takes the first ending that everybody accepts.
+bool TryEndings(AutoPlan& plan, Segment& match, const Wish& wish) {
+  for (const Ending& ending : EndingsOf(plan, match, wish)) {
+    Segment attempt = match;
+    attempt.Finish = ending.Finish;
+    attempt.Other1 = ending.Other1;
+    for (const int aftermath : {ending.Aftermath, int(after1::kNothing)}) {
+      attempt.Aftermath = aftermath;
+      attempt.Purpose = PurposeOf(plan, attempt, wish);
+      if (!Stands(plan, attempt)) continue;
+      match = attempt;
+      return true;
+    }
+  }
+  return false;
+}
+
+bool TryDraw(AutoPlan& plan, Segment& match, const Wish& wish) {
+  match.Winner = 0;
+  match.Loser = kNoLoser;
+  match.Finish = Chance(plan.World, 50) ? kDoubleDq : kDoubleCountOut;
+  match.Aftermath = after1::kNothing;
+  match.Purpose = PurposeOf(plan, match, wish);
+  return Stands(plan, match);
+}
+
+bool DecideTwoSides(AutoPlan& plan, Segment& match, const Wish& wish) {
+  const auto sides = SidesOf(match);
+  for (const std::size_t winner : SidesByWorth(plan, match, wish)) {
+    match.Winner = sides[winner][0];
+    match.Loser = WeakestOf(plan.World, sides[1 - winner]);
+    if (TryEndings(plan, match, wish)) return true;
+  }
+  return wish.MayDraw && match.MatchType == kPlainSingles && TryDraw(plan, match, wish);
+}
+
+/// Trios and quartets: a finish, but nothing behind it.
+bool DecideMany(AutoPlan& plan, Segment& match, const Wish& wish) {
+  const auto sides = SidesOf(match);
+  for (const std::size_t winner : SidesByWorth(plan, match, wish)) {
+    match.Winner = sides[winner][0];
+    match.Loser = WeakestOf(plan.World, sides[1 - winner]);
+    const Worker* star = plan.World.FindWorker(match.Winner);
+    const bool cheap = star && star->Disposition == "H" && Chance(plan.World, 40);
+    match.Finish = cheap ? kCheapVictory : int(kClean);
+    if (Stands(plan, match)) return true;
+  }
+  return false;
+}
+
+/// The least popular goes out first, which is the Loser's place; a battle royal has it for the
+/// runner-up.
+void NameLosers(const World& world, Segment& match, std::vector<int> losers) {
+  std::stable_sort(losers.begin(), losers.end(),
+                   [&](int a, int b) { return IsLessOver(world, a, b); });
+  match.Loser = match.Style == kSpecial ? losers.back() : losers[0];
+  if (match.MatchType != kElimination || match.Style == kSpecial) return;
+  if (losers.size() > 1) match.Place3 = losers[1];
+  if (losers.size() > 2) match.Place4 = losers[2];
+}
+
+bool DecideFreeForAll(AutoPlan& plan, Segment& match, const Wish& wish) {
+  const auto sides = SidesOf(match);
+  for (const std::size_t winner : SidesByWorth(plan, match, wish)) {
+    match.Winner = sides[winner][0];
+    std::vector<int> losers;
+    for (std::size_t i = 0; i < sides.size(); ++i)
+      if (i != winner) losers.push_back(sides[i][0]);
+    NameLosers(plan.World, match, losers);
+    if (Stands(plan, match)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+Segment NewMatch(int style, int type, const std::vector<int>& people) {
+  Segment match = NewSegment(kMatch, style, people);
+  match.MatchType = type;
+  return match;
+}
+
+bool Decide(AutoPlan& plan, Segment& match, const Wish& wish) {
+  switch (match.Style) {
+    case kSingles:
+    case kTag:
+      return DecideTwoSides(plan, match, wish);
+    case kThreeOnThree:
+    case kFourOnFour:
+      return DecideMany(plan, match, wish);
+    default:
+      return DecideFreeForAll(plan, match, wish);
+  }
 }
 
 }  // namespace grapplemont

@@ -1,20 +1,21 @@
 #include "booking/auto/autoplan.h"
 
 #include <algorithm>
+#include <iterator>
 
+#include "booking/auto/autobooker.h"
 #include "booking/wizard/objections.h"
+#include "booking/wizard/refusals.h"
 #include "booking/wizard/roster.h"
 #include "booking/wizard/segmentcheck.h"
 #include "show/scoring.h"
 #include "storylines/feuds.h"
+#include "storylines/storynames.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
 
 namespace {
-
-bool HasARole(const Worker& worker) {
-  return IsActiveWrestler(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
-}
 
 template <class Takes>
 std::vector<const Worker*> HandsWho(const std::vector<Hand>& hands, Takes takes) {
@@ -24,15 +25,57 @@ std::vector<const Worker*> HandsWho(const std::vector<Hand>& hands, Takes takes)
   return found;
 }
 
-}  // namespace
-
-bool IsActiveWrestler(const Worker& worker) {
-  return worker.Position < kDevelopmentDeal;
+/// A television sheet of any other length counts as the shortest.
+const SheetTerms& TermsOfRows(bool isEvent, int rows) {
+  if (isEvent) return kEventTerms;
+  const auto found = std::find_if(std::begin(kTvTerms), std::end(kTvTerms),
+                                  [&](const SheetTerms& terms) { return terms.OpenRows == rows; });
+  return found == std::end(kTvTerms) ? std::end(kTvTerms)[-1] : *found;
 }
+
+std::vector<Segment> SheetOf(const World& world, int openRows) {
+  std::vector<Segment> rows(static_cast<std::size_t>(openRows), EmptySegment());
+  for (int row = 1; row <= std::min(openRows, world.Segments().Count()); ++row)
+    rows[static_cast<std::size_t>(row - 1)] = world.Segments()[row];
+  return rows;
+}
+
+void CountIn(AutoPlan& plan, const Segment& segment) {
+  plan.Pool.Count(segment);
+  if (segment.TitleName != "None") plan.TitlesUsed.insert(segment.TitleName.Str());
+  if (segment.Kind == kAngle) plan.AnglesUsed.insert(segment.Style);
+  int slot = 0;
+  for (const Feud& feud : plan.World.Feuds())
+    if (++slot; EnemiesMeet(feud, PeopleOf(segment))) plan.FeudsUsed.insert(slot);
+}
+
+constexpr int kTopTitle = 1000;  // outweighs whatever stands beside it on an Event
+
+/// The most renowned Title of the player's.
+const Title* TopTitle(const World& world) {
+  const Title* top = nullptr;
+  for (const Title& title : world.Titles())
+    if (IsPlayers(world, title) && !title.Suspended && (!top || title.Image > top->Image))
+      top = &title;
+  return top;
+}
+
+int WeightOf(const AutoPlan& plan, const Segment& match) {
+  int weight = ExpectedCrowd(plan.World, match);
+  for (const Feud& feud : plan.World.Feuds())
+    if (EnemiesMeet(feud, PeopleOf(match))) weight += feud.Heat / 12;
+  for (const Title& title : plan.World.Titles())
+    if (IsPlayers(plan.World, title) && title.Name == match.TitleName) weight += title.Image / 10;
+  const Title* top = TopTitle(plan.World);
+  const bool crowns = top && match.TitleName == top->Name;
+  return weight + (crowns && plan.View.IsEvent ? kTopTitle : 0);
+}
+
+}  // namespace
 
 AutoPool::AutoPool(const World& world, const BookingView& view) {
   for (const Worker& worker : world.Workers())
-    if (IsAvailable(world, worker, view) && HasARole(worker)) hands_.push_back({&worker});
+    if (IsAvailable(world, worker, view) && IsSeenOnShows(worker)) hands_.push_back({&worker});
   std::stable_sort(hands_.begin(), hands_.end(),
                    [](const Hand& a, const Hand& b) { return a.Who->Over > b.Who->Over; });
 }
@@ -48,13 +91,11 @@ Hand* AutoPool::Find(int uid) {
 }
 
 void AutoPool::Count(const Segment& segment) {
-  std::vector<int> people = PeopleOf(segment);
-  for (const int uid : {segment.Other1, segment.Other2, segment.Other3, segment.Other4})
-    if (uid != 0) people.push_back(uid);
-  for (const int uid : people)
-    if (Hand* hand = Find(uid)) ++hand->Parts;
-  for (const int uid : people)
-    if (Hand* hand = Find(uid); hand && segment.Kind == kMatch) ++hand->Matches;
+  for (const int uid : EverybodyOf(segment))
+    if (Hand* hand = Find(uid)) {
+      ++hand->Parts;
+      hand->Matches += segment.Kind == kMatch;
+    }
 }
 
 void AutoPool::Rest(int uid) {
@@ -62,8 +103,8 @@ void AutoPool::Rest(int uid) {
 }
 
 bool AutoPool::MayWrestle(const Hand& hand) const {
-  return IsActiveWrestler(*hand.Who) && hand.Parts < kMostParts &&
-         hand.Matches < reserve_.Matches && hand.Who->Condition >= reserve_.Condition;
+  return IsOnRoster(*hand.Who) && hand.Parts < kMostParts && hand.Matches < reserve_.Matches &&
+         hand.Who->Condition >= reserve_.Condition;
 }
 
 bool AutoPool::MayWrestle(int uid) const {
@@ -108,90 +149,15 @@ std::vector<const Worker*> AutoPool::Newcomers() const {
   return HandsWho(hands_, [&](const Hand& hand) { return MayWrestle(hand) && !hand.Who->Debuted; });
 }
 
-namespace {
-
-/// How a sheet of so many rows is best filled, and the least that it needs.
-struct Shape {
-  bool IsEvent;
-  int Rows;
-  int Matches;
-  int LeastMatches;
-  int LeastSegments;
-};
-// An Event's dark match is one of its seven and counts for nothing in what it needs.
-constexpr Shape kShapes[] = {{false, 11, 6, 4, 8},
-                             {false, 8, 5, 3, 7},
-                             {false, 6, 4, 3, 6},
-                             {false, 5, 3, 2, 5},
-                             {true, 9, 7, 4, 6}};
-
-const Shape& ShapeOf(bool isEvent, int rows) {
-  const Shape* best = isEvent ? &kShapes[4] : &kShapes[3];
-  for (const Shape& shape : kShapes)
-    if (shape.IsEvent == isEvent && shape.Rows == rows) best = &shape;
-  return *best;
-}
-
-std::vector<Segment> SheetOf(const World& world, int openRows) {
-  std::vector<Segment> rows(static_cast<std::size_t>(openRows), EmptySegment());
-  for (int row = 1; row <= std::min(openRows, world.Segments().Count()); ++row)
-    rows[static_cast<std::size_t>(row - 1)] = world.Segments()[row];
-  return rows;
-}
-
-bool Touches(const Feud& feud, const Segment& segment) {
-  if (IsFreeSlot(feud)) return false;
-  const FeudSides sides = SidesOf(feud);
-  const std::vector<int> people = PeopleOf(segment);
-  const auto has = [&](const FeudSide& side) {
-    return std::any_of(people.begin(), people.end(), [&](int uid) { return side.Has(uid); });
-  };
-  return has(sides.One) && has(sides.Two);
-}
-
-void CountIn(AutoPlan& plan, const Segment& segment) {
-  plan.Pool.Count(segment);
-  if (!(segment.TitleName == "None")) plan.TitlesUsed.insert(segment.TitleName.Str());
-  if (segment.Kind == kAngle) plan.AnglesUsed.insert(segment.Style);
-  int slot = 0;
-  for (const Feud& feud : plan.World.Feuds())
-    if (++slot; Touches(feud, segment)) plan.FeudsUsed.insert(slot);
-}
-
-constexpr int kTopTitle = 1000;  // outweighs whatever stands beside it on an Event
-
-/// The most renowned Title of the player's.
-const Title* TopTitle(const World& world) {
-  const Title* top = nullptr;
-  for (const Title& title : world.Titles())
-    if (title.Owner == world.PlayerUid() && !title.Suspended && (!top || title.Image > top->Image))
-      top = &title;
-  return top;
-}
-
-int WeightOf(const AutoPlan& plan, const Segment& match) {
-  int weight = ExpectedCrowd(plan.World, match);
-  for (const Feud& feud : plan.World.Feuds())
-    if (Touches(feud, match)) weight += feud.Heat / 12;
-  for (const Title& title : plan.World.Titles())
-    if (title.Owner == plan.World.PlayerUid() && title.Name == match.TitleName)
-      weight += title.Image / 10;
-  const Title* top = TopTitle(plan.World);
-  const bool crowns = top && match.TitleName == top->Name;
-  return weight + (crowns && plan.View.IsEvent ? kTopTitle : 0);
-}
-
-}  // namespace
-
 AutoPlan::AutoPlan(grapplemont::World& world, const BookingView& view, int openRows)
     : World(world),
       View(view),
       Pool(world, view),
       MayUseAngles(EnoughWriters(world, view.IsEvent)),
       Rows(SheetOf(world, openRows)) {
-  const Shape& shape = ShapeOf(view.IsEvent, openRows);
-  LeastMatches = shape.LeastMatches;
-  LeastSegments = shape.LeastSegments;
+  const SheetTerms& terms = TermsOfRows(view.IsEvent, openRows);
+  LeastMatches = terms.MinMatches;
+  LeastSegments = terms.MinSegments;
   int matches = 0;
   for (const Segment& row : Rows) {
     if (row.Kind == kMatch) ++matches;
@@ -199,7 +165,7 @@ AutoPlan::AutoPlan(grapplemont::World& world, const BookingView& view, int openR
   }
   MatchesWanted = TalksWanted = 0;
   const int empty = RowsLeft();
-  MatchesWanted = std::clamp(shape.Matches - matches, 0, empty);
+  MatchesWanted = std::clamp(terms.BestMatches - matches, 0, empty);
   TalksWanted = empty - MatchesWanted;
 }
 
@@ -207,6 +173,14 @@ int AutoPlan::RowsLeft() const {
   const auto empty = std::count_if(Rows.begin(), Rows.end(),
                                    [](const Segment& row) { return row.Kind == kEmptySegment; });
   return static_cast<int>(empty) - static_cast<int>(Matches.size() + Talks.size());
+}
+
+Segment NewSegment(int kind, int style, const std::vector<int>& people) {
+  Segment segment = EmptySegment();
+  segment.Kind = kind;
+  segment.Style = style;
+  for (std::size_t i = 0; i < people.size(); ++i) segment.Worker[i] = people[i];
+  return segment;
 }
 
 bool Chance(World& world, int percent) {

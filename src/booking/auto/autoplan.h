@@ -1,12 +1,14 @@
 #pragma once
 
+#include <algorithm>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "booking/wizard/roster.h"
 
-// Who is free for a card that is being booked: what each has on it already, and how worn he is.
+// Who is free for a card that is being booked: what each has on it already, and how worn they are.
 
 namespace grapplemont {
 
@@ -44,7 +46,7 @@ class AutoPool {
   void Rest(int uid);
   void Reach(const Reserve& reserve) { reserve_ = reserve; }
 
-  /// An active wrestler within reach with a match left in him.
+  /// An active wrestler within reach with a match left.
   bool MayWrestle(int uid) const;
   bool MayWrestle(const std::vector<int>& uids) const;
   /// On the roster in whatever role, with a part left.
@@ -69,10 +71,7 @@ class AutoPool {
   Reserve reserve_ = kReserves[0];
 };
 
-/// A wrestler of the present roster, not a manager or non-wrestler.
-bool IsActiveWrestler(const Worker& worker);
-
-// A card while the auto booker works on it. Each step of his adds matches and talk; only then does
+// A card while the auto booker works on it. Each of its steps adds matches and talk; only then does
 // everything get its row.
 
 /// A Segment that waits for its row. Matches rise with their weight to the top of the card; of
@@ -106,6 +105,19 @@ struct AutoPlan {
   /// Empty rows that nothing is planned for yet.
   int RowsLeft() const;
 };
+
+/// The best by their scores, those alike in their order; `most` of them at most.
+template <class T>
+std::vector<T> BestOf(std::vector<std::pair<int, T>> ranked, std::size_t most) {
+  std::stable_sort(ranked.begin(), ranked.end(),
+                   [](auto& a, auto& b) { return a.first > b.first; });
+  std::vector<T> best;
+  for (std::size_t i = 0; i < std::min(most, ranked.size()); ++i) best.push_back(ranked[i].second);
+  return best;
+}
+
+/// A Segment of these people in their order, empty but for them.
+Segment NewSegment(int kind, int style, const std::vector<int>& people);
 
 /// The chance of so many in a hundred. Draws once.
 bool Chance(World& world, int percent);

@@ -82,8 +82,8 @@ Segment FeudBout(AutoPlan& plan, const Feud& feud, bool last) {
   std::vector<int> people = Members(sides.One);
   for (const int uid : Members(sides.Two)) people.push_back(uid);
   const int heat = std::max(1, int(feud.Heat));
-  if (sides.One.IsTeam()) return NewMatch(kTag, TagTypeFor(plan, people, heat, last), people);
-  return NewMatch(kSingles, SinglesTypeFor(plan, people, heat, last), people);
+  const int style = sides.One.IsTeam() ? kTag : kSingles;
+  return NewMatch(style, TypeFor(plan, style, people, heat, last), people);
 }
 
 /// The Title that one of the match's people holds and all may fight for; "None" for none.
@@ -176,36 +176,6 @@ std::vector<int> OpenFeuds(const AutoPlan& plan) {
   return slots;
 }
 
-}  // namespace
-
-void EndFeuds(AutoPlan& plan) {
-  if (!plan.View.IsEvent) return;
-  plan.Pool.Reach(kForTheOccasion);
-  for (const int slot : OpenFeuds(plan)) {
-    const Feud& feud = plan.World.Feuds()[slot];
-    if (plan.WantsMatch() && !plan.FeudsUsed.contains(slot) && IsRipe(plan.World, feud))
-      BookBlowOff(plan, feud);
-  }
-  plan.Pool.Reach(kReserves[0]);
-}
-
-void AdvanceFeuds(AutoPlan& plan) {
-  plan.Pool.Reach(plan.View.IsEvent ? kForTheOccasion : kReserves[0]);
-  for (const int slot : OpenFeuds(plan)) {
-    if (plan.FeudsUsed.contains(slot)) continue;
-    const Feud& feud = plan.World.Feuds()[slot];
-    if (plan.View.IsEvent || Chance(plan.World, kMatchOnShow))
-      BookBout(plan, feud) || BookWords(plan, feud);
-    else
-      BookWords(plan, feud) || BookBout(plan, feud);
-  }
-  plan.Pool.Reach(kReserves[0]);
-}
-
-// What changes the roster's picture: turns that are pending, faces not seen before.
-
-namespace {
-
 constexpr int kTurnsPerShow = 1;
 constexpr int kDebutsPerShow = 1;
 /// The fans remember a turn for so many days and do not believe in the next.
@@ -220,9 +190,8 @@ bool IsTimeToTurn(const World& world, const Worker& worker) {
 const Worker* WhomToTurnOn(const AutoPlan& plan, const Worker& turner) {
   const Worker* best = nullptr;
   for (const Worker* other : plan.Pool.People()) {
-    if (other->Uid == turner.Uid || !IsActiveWrestler(*other) || other->Gender != turner.Gender)
-      continue;
-    const bool fits = turner.Disposition == "T" ? !(other->Disposition == "T")
+    if (other->Uid == turner.Uid || !IsOnRoster(*other) || other->Gender != turner.Gender) continue;
+    const bool fits = turner.Disposition == "T" ? other->Disposition != "T"
                                                 : other->Disposition == turner.Disposition;
     if (!fits) continue;
     if (InOneCorner(plan.World, turner, *other)) return other;
@@ -295,10 +264,36 @@ bool IntroduceManager(AutoPlan& plan, const Worker& manager) {
 
 }  // namespace
 
+void EndFeuds(AutoPlan& plan) {
+  if (!plan.View.IsEvent) return;
+  plan.Pool.Reach(kForTheOccasion);
+  for (const int slot : OpenFeuds(plan)) {
+    const Feud& feud = plan.World.Feuds()[slot];
+    if (plan.WantsMatch() && !plan.FeudsUsed.contains(slot) && IsRipe(plan.World, feud))
+      BookBlowOff(plan, feud);
+  }
+  plan.Pool.Reach(kReserves[0]);
+}
+
+void AdvanceFeuds(AutoPlan& plan) {
+  plan.Pool.Reach(plan.View.IsEvent ? kForTheOccasion : kReserves[0]);
+  for (const int slot : OpenFeuds(plan)) {
+    if (plan.FeudsUsed.contains(slot)) continue;
+    const Feud& feud = plan.World.Feuds()[slot];
+    if (plan.View.IsEvent || Chance(plan.World, kMatchOnShow))
+      BookBout(plan, feud) || BookWords(plan, feud);
+    else
+      BookWords(plan, feud) || BookBout(plan, feud);
+  }
+  plan.Pool.Reach(kReserves[0]);
+}
+
+// What changes the roster's picture: turns that are pending, faces not seen before.
+
 void TurnWhoWaits(AutoPlan& plan) {
   int turns = 0;
   for (const Worker* worker : plan.Pool.People())
-    if (turns < kTurnsPerShow && IsActiveWrestler(*worker) && IsTimeToTurn(plan.World, *worker) &&
+    if (turns < kTurnsPerShow && IsOnRoster(*worker) && IsTimeToTurn(plan.World, *worker) &&
         !plan.Pool.IsBooked(worker->Uid))
       turns += Turn(plan, *worker);
 }

@@ -87,52 +87,6 @@ const AngleTaste* DrawTaste(AutoPlan& plan, std::vector<const AngleTaste*>& tast
   return taste;
 }
 
-Segment NewAngle(int number, const std::vector<int>& people) {
-  Segment angle = EmptySegment();
-  angle.Kind = kAngle;
-  angle.Style = number;
-  for (std::size_t i = 0; i < people.size(); ++i) angle.Worker[i] = people[i];
-  return angle;
-}
-
-}  // namespace
-
-bool BookAngle(AutoPlan& plan, int number, const std::vector<int>& people, int weight) {
-  if (!plan.MayUseAngles || !plan.Pool.MayAppear(people)) return false;
-  return PlanTalk(plan, NewAngle(number, people), weight);
-}
-
-bool BookStableAttack(AutoPlan& plan, const Worker& leader, int victim) {
-  const std::string stable = leader.Stable.Str();
-  if (!plan.MayUseAngles || plan.AnglesUsed.contains(kStableAttack) ||
-      StableLeader(plan.World, stable) != &leader || !plan.Pool.MayAppear({leader.Uid, victim}) ||
-      plan.Pool.Wrestles(victim))
-    return false;
-  Segment attack = NewAngle(kStableAttack, {victim});
-  attack.Text = stable;
-  if (!PlanTalk(plan, attack, kLate)) return false;
-  plan.Pool.Rest(victim);
-  return true;
-}
-
-bool BookScene(AutoPlan& plan, AngleScene scene, const std::vector<int>& actors,
-               const std::vector<int>& victims) {
-  if (!plan.MayUseAngles) return false;
-  std::vector<const AngleTaste*> tastes = TastesFor(plan, scene, actors[0]);
-  while (!tastes.empty()) {
-    const AngleTaste* taste = DrawTaste(plan, tastes);
-    std::vector<int> people = taste->Cast == First::Actors ? actors : victims;
-    for (const int uid : taste->Cast == First::Actors ? victims : actors) people.push_back(uid);
-    if (!BookAngle(plan, taste->Number, people, taste->When)) continue;
-    if (LaysOut(scene))
-      for (const int uid : victims) plan.Pool.Rest(uid);
-    return true;
-  }
-  return false;
-}
-
-namespace {
-
 /// The manager both or the one have, when he may talk tonight; nullptr for none.
 const Worker* ManagerOf(const AutoPlan& plan, const std::vector<int>& clients) {
   const Worker* first = plan.World.FindWorker(clients[0]);
@@ -147,54 +101,20 @@ const Worker* ManagerOf(const AutoPlan& plan, const std::vector<int>& clients) {
   return all ? manager : nullptr;
 }
 
-Segment NewInterview(int style, const std::vector<int>& speakers, const std::vector<int>& targets,
-                     int purpose) {
-  Segment talk = EmptySegment();
-  talk.Kind = kInterview;
-  talk.Style = style;
+/// An interview of these, everybody in the next seat that is for them.
+Segment NewInterview(int style, const std::vector<int>& speakers, int manager,
+                     const std::vector<int>& targets, int purpose) {
+  Segment talk = NewSegment(kInterview, style, {});
   talk.Purpose = purpose;
-  std::size_t place = 0;
-  for (const int uid : speakers) talk.Worker[place++] = uid;
-  for (const int uid : targets) talk.Worker[place++] = uid;
+  std::size_t speaker = 0, target = 0;
+  for (const Role& seat : SeatsOf(talk)) {
+    int uid = manager;
+    if (seat.From == Casting::Talkers) uid = speakers[speaker++];
+    if (seat.From == Casting::Targets) uid = target < targets.size() ? targets[target++] : 0;
+    talk.Worker[static_cast<std::size_t>(seat.Place - 1)] = uid;
+  }
   return talk;
 }
-
-/// In single talk the manager stands second, before a team first.
-std::vector<int> WithManager(std::vector<int> speakers, int manager) {
-  speakers.insert(speakers.size() == 1 ? speakers.end() : speakers.begin(), manager);
-  return speakers;
-}
-
-}  // namespace
-
-bool HasTalk(const AutoPlan& plan, int uid) {
-  const auto has = [&](const Segment& segment) {
-    return (segment.Kind == kInterview || segment.Kind == kAngle) && TakesPart(segment, uid);
-  };
-  return std::any_of(plan.Rows.begin(), plan.Rows.end(), has) ||
-         std::any_of(plan.Talks.begin(), plan.Talks.end(),
-                     [&](const Planned& planned) { return has(planned.Segment); });
-}
-
-bool BookTalkBetween(AutoPlan& plan, const std::vector<int>& speakers,
-                     const std::vector<int>& targets, int purpose) {
-  if (!plan.Pool.MayAppear(speakers) || !plan.Pool.MayAppear(targets)) return false;
-  const bool team = speakers.size() == 2;
-  // Beside a single worker it would be the manager who turns.
-  const bool goesAlone = purpose == kTalkTurn && !team;
-  if (const Worker* manager = goesAlone ? nullptr : ManagerOf(plan, speakers)) {
-    const int style = team ? kManagedTeamTalk : kManagedTalk;
-    if (PlanTalk(plan, NewInterview(style, WithManager(speakers, manager->Uid), targets, purpose),
-                 kEarly))
-      return true;
-  }
-  return PlanTalk(plan, NewInterview(team ? kTeamTalk : kSingleTalk, speakers, targets, purpose),
-                  kEarly);
-}
-
-// Interviews and angles for their own sake: champions, stars, what the people came to see.
-
-namespace {
 
 constexpr int kVariety = 14;
 /// One who does not wrestle tonight should be seen all the same.
@@ -211,15 +131,12 @@ constexpr std::size_t kStars = 6;
 std::vector<const Worker*> TalkersByWorth(AutoPlan& plan) {
   std::vector<std::pair<int, const Worker*>> ranked;
   for (const Worker* worker : plan.Pool.People()) {
-    if (!worker->Debuted || HasTalk(plan, worker->Uid) || !IsActiveWrestler(*worker)) continue;
+    if (!worker->Debuted || HasTalk(plan, worker->Uid) || !IsOnRoster(*worker)) continue;
     const int unseen = plan.Pool.IsBooked(worker->Uid) ? 0 : kUnseen;
     ranked.emplace_back(TalkRating(*worker) + unseen + plan.World.RandomDraw(kVariety), worker);
   }
-  std::stable_sort(ranked.begin(), ranked.end(),
-                   [](auto& a, auto& b) { return a.first > b.first; });
-  std::vector<const Worker*> talkers;
-  for (const auto& [worth, worker] : ranked) talkers.push_back(worker);
-  return talkers;
+  const std::size_t all = ranked.size();
+  return BestOf(std::move(ranked), all);
 }
 
 /// Whom the speaker would talk about: another kind, near in standing, nobody else's subject.
@@ -227,7 +144,7 @@ const Worker* RivalOf(const AutoPlan& plan, const Worker& speaker) {
   const Worker* best = nullptr;
   int least = 1000;
   for (const Worker* other : plan.Pool.People()) {
-    if (other->Uid == speaker.Uid || !IsActiveWrestler(*other) || !other->Debuted ||
+    if (other->Uid == speaker.Uid || !IsOnRoster(*other) || !other->Debuted ||
         other->Gender != speaker.Gender || ContrastOf(speaker, *other) <= 0 ||
         HasTalk(plan, other->Uid) || InOneCorner(plan.World, speaker, *other))
       continue;
@@ -291,7 +208,7 @@ bool Interview(AutoPlan& plan, const Worker& speaker) {
 /// A friend who has no talk tonight; nullptr for none.
 const Worker* FriendOf(const AutoPlan& plan, const Worker& star) {
   for (const Worker* other : plan.Pool.People())
-    if (other->Uid != star.Uid && IsActiveWrestler(*other) && other->Debuted &&
+    if (other->Uid != star.Uid && IsOnRoster(*other) && other->Debuted &&
         other->Disposition == star.Disposition && !HasTalk(plan, other->Uid) &&
         InOneCorner(plan.World, star, *other))
       return other;
@@ -349,6 +266,66 @@ bool FillOne(AutoPlan& plan) {
 }
 
 }  // namespace
+
+bool BookAngle(AutoPlan& plan, int number, const std::vector<int>& people, int weight) {
+  if (!plan.MayUseAngles || !plan.Pool.MayAppear(people)) return false;
+  return PlanTalk(plan, NewSegment(kAngle, number, people), weight);
+}
+
+bool BookStableAttack(AutoPlan& plan, const Worker& leader, int victim) {
+  const std::string stable = leader.Stable.Str();
+  if (!plan.MayUseAngles || plan.AnglesUsed.contains(kStableAttack) ||
+      StableLeader(plan.World, stable) != &leader || !plan.Pool.MayAppear({leader.Uid, victim}) ||
+      plan.Pool.Wrestles(victim))
+    return false;
+  Segment attack = NewSegment(kAngle, kStableAttack, {victim});
+  attack.Text = stable;
+  if (!PlanTalk(plan, attack, kLate)) return false;
+  plan.Pool.Rest(victim);
+  return true;
+}
+
+bool BookScene(AutoPlan& plan, AngleScene scene, const std::vector<int>& actors,
+               const std::vector<int>& victims) {
+  if (!plan.MayUseAngles) return false;
+  std::vector<const AngleTaste*> tastes = TastesFor(plan, scene, actors[0]);
+  while (!tastes.empty()) {
+    const AngleTaste* taste = DrawTaste(plan, tastes);
+    std::vector<int> people = taste->Cast == First::Actors ? actors : victims;
+    for (const int uid : taste->Cast == First::Actors ? victims : actors) people.push_back(uid);
+    if (!BookAngle(plan, taste->Number, people, taste->When)) continue;
+    if (LaysOut(scene))
+      for (const int uid : victims) plan.Pool.Rest(uid);
+    return true;
+  }
+  return false;
+}
+
+bool HasTalk(const AutoPlan& plan, int uid) {
+  const auto has = [&](const Segment& segment) {
+    return (segment.Kind == kInterview || segment.Kind == kAngle) && TakesPart(segment, uid);
+  };
+  return std::any_of(plan.Rows.begin(), plan.Rows.end(), has) ||
+         std::any_of(plan.Talks.begin(), plan.Talks.end(),
+                     [&](const Planned& planned) { return has(planned.Segment); });
+}
+
+bool BookTalkBetween(AutoPlan& plan, const std::vector<int>& speakers,
+                     const std::vector<int>& targets, int purpose) {
+  if (!plan.Pool.MayAppear(speakers) || !plan.Pool.MayAppear(targets)) return false;
+  const bool team = speakers.size() == 2;
+  // Beside a single worker it would be the manager who turns.
+  const bool goesAlone = purpose == kTalkTurn && !team;
+  if (const Worker* manager = goesAlone ? nullptr : ManagerOf(plan, speakers)) {
+    const int style = team ? kManagedTeamTalk : kManagedTalk;
+    if (PlanTalk(plan, NewInterview(style, speakers, manager->Uid, targets, purpose), kEarly))
+      return true;
+  }
+  const int style = team ? kTeamTalk : kSingleTalk;
+  return PlanTalk(plan, NewInterview(style, speakers, 0, targets, purpose), kEarly);
+}
+
+// Interviews and angles for their own sake: champions, stars, what the people came to see.
 
 void FillTalks(AutoPlan& plan) {
   while (plan.WantsTalk() && plan.RowsLeft() > 0 && FillOne(plan)) {

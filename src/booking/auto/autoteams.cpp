@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "booking/auto/automatches.h"
+#include "storylines/partners.h"
 
 // Tag matches of teams, and matches of more than two sides.
 
@@ -85,9 +86,8 @@ std::vector<int> AgainstTrio(AutoPlan& plan, const std::vector<const Worker*>& t
 }
 
 void BookTrios(AutoPlan& plan) {
-  for (const Stable& stable : plan.World.Stables()) {
-    if (stable.Owner != plan.World.PlayerUid()) continue;
-    const std::vector<const Worker*> trio = TrioOf(plan, stable);
+  for (const Stable* stable : PlayerStables(plan.World)) {
+    const std::vector<const Worker*> trio = TrioOf(plan, *stable);
     if (trio.size() < 3) continue;
     std::vector<int> people = {trio[0]->Uid, trio[1]->Uid, trio[2]->Uid};
     const std::vector<int> rivals = AgainstTrio(plan, trio);

@@ -2,7 +2,9 @@
 
 #include "booking/auto/automatches.h"
 #include "records/dates.h"
+#include "show/feudslots.h"
 #include "storylines/feuds.h"
+#include "storylines/partners.h"
 #include "storylines/titles.h"
 
 // Title defences: every Title at an Event, the lesser ones now and then on a show.
@@ -32,10 +34,10 @@ constexpr int kNeedNotRise = 20;  // a contender this far below the champion is 
 constexpr int kHasGold = 12;
 /// Not the same challenger month after month.
 constexpr int kNewBlood = 20;
-/// His own enemy is waiting for him.
+/// Somebody else is waiting for them.
 constexpr int kFeudsElsewhere = 40;
 /// So far above a Title's champion, one has better to do than to chase it.
-constexpr int kBeneathHim = 8;
+constexpr int kBeneathThem = 8;
 
 int DaysHeld(const World& world, const Title& title) {
   return std::max(0, static_cast<int>((world.Today() - Day(title.Reigns[0].Won)).count()));
@@ -53,7 +55,7 @@ bool DrawChange(AutoPlan& plan, const Title& title) {
 std::vector<const Title*> ActiveTitles(const World& world) {
   std::vector<const Title*> titles;
   for (const Title& title : world.Titles())
-    if (title.Owner == world.PlayerUid() && !title.Suspended) titles.push_back(&title);
+    if (IsPlayers(world, title) && !title.Suspended) titles.push_back(&title);
   std::stable_sort(titles.begin(), titles.end(),
                    [](const Title* a, const Title* b) { return a->Image > b->Image; });
   return titles;
@@ -65,16 +67,13 @@ bool IsDueOnShow(AutoPlan& plan, const Title& title, bool isTop) {
   if (plan.TitlesUsed.size() >= most) return false;
   if (title.Holder == 0) return !isTop && Chance(plan.World, kVacantChance);
   if (DaysHeld(plan.World, title) < kSettled) return false;
-  const int shows =
-      std::max(1, static_cast<int>(std::count_if(
-                      plan.World.Shows().begin(), plan.World.Shows().end(),
-                      [&](const Show& show) { return show.Owner == plan.World.PlayerUid(); })));
+  const int shows = std::max(1, PlayerShows(plan.World));
   return Chance(plan.World, (isTop ? kTopChance : kLesserChance) / shows);
 }
 
 bool HoldsATitle(const AutoPlan& plan, const Worker& worker) {
   return std::any_of(plan.World.Titles().begin(), plan.World.Titles().end(), [&](const Title& t) {
-    return t.Owner == plan.World.PlayerUid() && t.Singles && t.Holder == worker.Uid;
+    return IsPlayers(plan.World, t) && t.Singles && t.Holder == worker.Uid;
   });
 }
 
@@ -83,9 +82,8 @@ bool HasOpenFeud(const AutoPlan& plan, const Worker& worker) {
   int slot = 0;
   for (const Feud& feud : plan.World.Feuds()) {
     ++slot;
-    if (IsFreeSlot(feud) || plan.FeudsUsed.contains(slot)) continue;
-    const FeudSides sides = SidesOf(feud);
-    if (sides.One.Has(worker.Uid) || sides.Two.Has(worker.Uid)) return true;
+    if (plan.FeudsUsed.contains(slot)) continue;
+    if (FeudSideOf(feud, worker.Uid) != 0) return true;
   }
   return false;
 }
@@ -100,7 +98,7 @@ int ContenderScore(AutoPlan& plan, const Worker& champion, const Worker& contend
   else if (HasOpenFeud(plan, contender))
     score -= kFeudsElsewhere;
   if (champion.Over - contender.Over > kNeedNotRise) score -= kNeedNotRise;
-  return score - 2 * std::max(0, contender.Over - champion.Over - kBeneathHim);
+  return score - 2 * std::max(0, contender.Over - champion.Over - kBeneathThem);
 }
 
 std::vector<const Worker*> ContendersFor(AutoPlan& plan, const Title& title,
@@ -110,19 +108,13 @@ std::vector<const Worker*> ContendersFor(AutoPlan& plan, const Title& title,
     if (FitsTitle(title, *worker) && worker->Debuted)
       if (const int score = ContenderScore(plan, champion, *worker); score > kNoPair)
         ranked.emplace_back(score, worker);
-  std::stable_sort(ranked.begin(), ranked.end(),
-                   [](auto& a, auto& b) { return a.first > b.first; });
-  std::vector<const Worker*> best;
-  for (std::size_t i = 0; i < std::min<std::size_t>(4, ranked.size()); ++i)
-    best.push_back(ranked[i].second);
-  return best;
+  return BestOf(std::move(ranked), 4);
 }
 
 /// The feud's heat when the two are in one that is not on the card yet; 0 for none.
 int HeatBetween(const World& world, int a, int b) {
   for (const Feud& feud : world.Feuds())
-    if (feud.Singles && !IsFreeSlot(feud) &&
-        ((feud.Worker1 == a && feud.Worker2 == b) || (feud.Worker1 == b && feud.Worker2 == a)))
+    if (feud.Singles && !IsFreeSlot(feud) && AreEnemies(feud, a, b))
       return std::max(1, int(feud.Heat));
   return 0;
 }
@@ -147,7 +139,7 @@ bool DefendSingles(AutoPlan& plan, const Title& title, const Worker& champion, b
   for (const Worker* contender : ContendersFor(plan, title, champion)) {
     const std::vector<int> people = {champion.Uid, contender->Uid};
     const int heat = HeatBetween(plan.World, champion.Uid, contender->Uid);
-    Segment match = NewMatch(kSingles, SinglesTypeFor(plan, people, heat, false), people);
+    Segment match = NewMatch(kSingles, TypeFor(plan, kSingles, people, heat, false), people);
     match.TitleName = title.Name;
     if (BookDefence(plan, match, champion.Uid, contender->Uid, heat > 0, change)) return true;
   }
@@ -169,11 +161,6 @@ bool FillVacancy(AutoPlan& plan, const Title& title) {
   return false;
 }
 
-bool IsTeamOf(const Team& team, const Title& title) {
-  return (team.Worker1 == title.Holder && team.Worker2 == title.Partner) ||
-         (team.Worker1 == title.Partner && team.Worker2 == title.Holder);
-}
-
 /// The teams that may challenge these two, best first.
 std::vector<const Team*> Challengers(AutoPlan& plan, const Team& champions) {
   std::vector<std::pair<int, const Team*>> ranked;
@@ -185,11 +172,8 @@ std::vector<const Team*> Challengers(AutoPlan& plan, const Team& champions) {
       score += kFeudsForIt;
     ranked.emplace_back(score, team);
   }
-  std::stable_sort(ranked.begin(), ranked.end(),
-                   [](auto& a, auto& b) { return a.first > b.first; });
-  std::vector<const Team*> best;
-  for (const auto& [score, team] : ranked) best.push_back(team);
-  return best;
+  const std::size_t all = ranked.size();
+  return BestOf(std::move(ranked), all);
 }
 
 bool DefendTag(AutoPlan& plan, const Title& title, const Team& champions, bool change,
@@ -216,7 +200,7 @@ bool BookTagTitle(AutoPlan& plan, const Title& title, bool change) {
     champions.Worker1 = int(title.Holder);
     champions.Worker2 = int(title.Partner);
     for (const Team& team : plan.World.Teams())
-      if (IsTeamOf(team, title)) champions = team;
+      if (IsTeamOf(team, title.Holder, title.Partner)) champions = team;
     return plan.Pool.MayWrestle({title.Holder, title.Partner}) &&
            DefendTag(plan, title, champions, change, false);
   }

@@ -1,6 +1,7 @@
 #include "booking/screens/stepscreens.h"
 #include "booking/wizard/casting.h"
 #include "booking/wizard/roster.h"
+#include "records/counted.h"
 
 namespace grapplemont {
 
@@ -8,19 +9,18 @@ namespace {
 
 /// "Challenger, Challengee": the roles in short, those that may stay empty in brackets.
 std::string CastText(const Angle& angle) {
-  std::string text;
+  std::vector<std::string> captions;
   for (const Role& role : angle.Roles) {
-    if (!IsUsed(role)) continue;
+    if (role.Caption.empty()) continue;
     const std::string caption(role.Caption);
-    text += (text.empty() ? "" : ", ") + (role.Optional ? "(" + caption + ")" : caption);
+    captions.push_back(role.Optional ? "(" + caption + ")" : caption);
   }
-  return text;
+  return Joined(captions);
 }
 
 class frmAngleType : public StepScreen {
  public:
-  frmAngleType(Game& game, WizardHost& host)
-      : StepScreen(game, host, "frmAngleType", "Select Angle") {}
+  using StepScreen::StepScreen;
 
  private:
   void Prepare() override {
@@ -64,21 +64,12 @@ class frmAngleType : public StepScreen {
   ui::Label lbldesc{*this, "lbldesc"};
 };
 
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmAngleType(Game& game, WizardHost& host, const std::string&) {
-  return std::make_unique<frmAngleType>(game, host);
-}
-
-namespace {
-
 constexpr const char* kUnused = "N\\A";
 constexpr const char* kNobody = "None (optional)";
 
 class frmAnglePeople : public StepScreen {
  public:
-  frmAnglePeople(Game& game, WizardHost& host)
-      : StepScreen(game, host, "frmAnglePeople", "Select Participants") {}
+  using StepScreen::StepScreen;
 
  private:
   /// One box: its role, and what stands in it. An optional role has a first row more for nobody.
@@ -92,7 +83,7 @@ class frmAnglePeople : public StepScreen {
     for (int box = 1; box <= kAnglePlaces; ++box) {
       At(box).Role = angle ? angle->Roles[static_cast<std::size_t>(box - 1)] : Role{};
       FillBox(box);
-      lbl(box).Visible = cmb(box).Visible = lblabout(box).Visible = IsUsed(At(box).Role);
+      lbl(box).Visible = cmb(box).Visible = lblabout(box).Visible = !At(box).Role.Caption.empty();
     }
     lbldesc.Colour = ui::Tone::Muted;
     lbldesc.Text = std::string(angle ? angle->Text : "");
@@ -102,10 +93,10 @@ class frmAnglePeople : public StepScreen {
     auto& [role, candidates] = At(box);
     lbl(box).Text = std::string(role.Caption);
     lblabout(box).Colour = ui::Tone::Muted;
-    if (!IsUsed(role)) {
+    if (role.Caption.empty()) {
       cmb(box).Add(kUnused);
     } else {
-      candidates = CandidatesFor(world(), role.From, buffer().Style, wizard().View);
+      candidates = CandidatesFor(world(), role.From, buffer(), wizard().View);
       if (role.Optional) cmb(box).Add(kNobody);
       for (const Candidate& candidate : candidates) cmb(box).Add(candidate.Name, candidate.Uid);
       if (cmb(box).Count() == 0) cmb(box).Add(std::string(NobodyFor(role.From)));
@@ -166,7 +157,11 @@ class frmAnglePeople : public StepScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmAnglePeople(Game& game, WizardHost& host, const std::string&) {
+std::unique_ptr<ui::Screen> MakeAngleStep(Game& game, WizardHost& host) {
+  return std::make_unique<frmAngleType>(game, host);
+}
+
+std::unique_ptr<ui::Screen> MakeCastStep(Game& game, WizardHost& host) {
   return std::make_unique<frmAnglePeople>(game, host);
 }
 

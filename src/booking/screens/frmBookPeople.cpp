@@ -3,6 +3,8 @@
 #include "booking/screens/screenstep.h"
 #include "booking/screens/stepscreens.h"
 #include "booking/wizard/matchrules.h"
+#include "storylines/partners.h"
+#include "storylines/screens/screenpeople.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
@@ -10,56 +12,52 @@ namespace grapplemont {
 namespace {
 
 struct Choice {
-  std::string Says;
+  std::string_view Says;
   int Code;
 };
 
 std::vector<Choice> Kinds(const World&, const Segment&) {
   std::vector<Choice> kinds;
   for (const Term& kind : kSegmentKinds)
-    if (kind.Code != kEmptySegment) kinds.push_back({std::string(kind.Says), kind.Code});
+    if (kind.Code != kEmptySegment) kinds.push_back({kind.Says, kind.Code});
   return kinds;
 }
 
-std::vector<Choice> Styles(const World&, const Segment&) {
-  std::vector<Choice> styles;
-  for (const MatchStyleRow& style : kMatchStyles)
-    styles.push_back({std::string(style.Says), style.Code});
-  return styles;
+template <const auto& rows>
+std::vector<Choice> AllOf(const World&, const Segment&) {
+  std::vector<Choice> all;
+  for (const auto& row : rows) all.push_back({row.Says, row.Code});
+  return all;
 }
 
 std::vector<Choice> Types(const World& world, const Segment& segment) {
   std::vector<Choice> types;
   for (const MatchTypeRow* type : OfferedMatchTypes(world, segment.Style))
-    types.push_back({std::string(type->Says), type->Code});
+    types.push_back({type->Says, type->Code});
   return types;
 }
 
 /// A step that is a single list of codes.
 struct ChoiceRow {
-  std::string_view Screen, Title, List, Column;
+  std::string_view List, Heading;
   std::vector<Choice> (*Offers)(const World&, const Segment&);
   Word Segment::*Field;
 };
-constexpr ChoiceRow kChoices[] = {
-    {"frmBookStyle", "Select Segment Type", "lststyle", "Segment", Kinds, &Segment::Kind},
-    {"frmBookType", "Select Match Style", "lsttype", "Match style", Styles, &Segment::Style},
-    {"frmBookMatchStyle", "Select Match Type", "lststyle", "Match type", Types,
-     &Segment::MatchType},
-};
+constexpr ChoiceRow kKindChoice = {"lststyle", "Segment", Kinds, &Segment::Kind};
+constexpr ChoiceRow kStyleChoice = {"lsttype", "Match style", AllOf<kMatchStyles>, &Segment::Style};
+constexpr ChoiceRow kTypeChoice = {"lststyle", "Match type", Types, &Segment::MatchType};
+constexpr ChoiceRow kTalkStyleChoice = {"lsttype", "Interview style", AllOf<kInterviewStyles>,
+                                        &Segment::Style};
 
-const ChoiceRow& RowOf(const std::string& name) {
-  for (const ChoiceRow& row : kChoices)
-    if (row.Screen == name) return row;
-  return kChoices[0];
+const ChoiceRow& RowOf(const Wizard& wizard) {
+  if (wizard.Step == kKindStep) return kKindChoice;
+  if (wizard.Step == kTypeStep) return kTypeChoice;
+  return wizard.Buffer.Kind == kInterview ? kTalkStyleChoice : kStyleChoice;
 }
 
 class frmBookChoice : public StepScreen {
  public:
-  frmBookChoice(Game& game, WizardHost& host, const std::string& name)
-      : StepScreen(game, host, name, std::string(RowOf(name).Title)),
-        row_(RowOf(name)),
-        list_(*this, std::string(row_.List), {{std::string(row_.Column)}}, {}, [this] { GoOn(); }) {
+  frmBookChoice(Game& game, WizardHost& host) : StepScreen(game, host), row_(RowOf(wizard())) {
     list_.EmptyText = "Nothing of this kind can be booked.";
   }
 
@@ -79,25 +77,17 @@ class frmBookChoice : public StepScreen {
   }
 
   const ChoiceRow& row_;
-  ui::ListBox list_;
+  ui::ListBox list_{
+      *this, std::string(row_.List), {{std::string(row_.Heading)}}, {}, [this] { GoOn(); }};
 };
-
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakeChoiceStep(Game& game, WizardHost& host, const std::string& name) {
-  return std::make_unique<frmBookChoice>(game, host, name);
-}
-
-namespace {
 
 constexpr const char* kChooseAll = "Choose somebody in every list.";
 
 /// Who stands in the match: a list a place, the lists of a side together.
 class frmBookPeople : public MatchStepScreen {
  public:
-  frmBookPeople(Game& game, WizardHost& host, const std::string& name)
-      : MatchStepScreen(game, host, name, "Select Participants"),
-        style_(*FindMatchStyle(buffer().Style)) {}
+  frmBookPeople(Game& game, WizardHost& host)
+      : MatchStepScreen(game, host), style_(*FindMatchStyle(buffer().Style)) {}
 
  private:
   void Prepare() override {
@@ -164,11 +154,9 @@ class frmBookPeople : public MatchStepScreen {
     AllowDone(IsComplete(), kChooseAll);
   }
 
-  /// Who belongs to a Tag Team mostly stands beside his partner.
+  /// Who belongs to a Tag Team mostly stands beside their partner.
   void SuggestPartner(int uid, ui::ListBox& partners) {
-    for (const Team& team : world().Teams()) {
-      if (team.Worker1 != uid && team.Worker2 != uid) continue;
-      const int partner = team.Worker1 == uid ? team.Worker2 : team.Worker1;
+    for (const int partner : PartnersOf(world(), uid)) {
       if (!IsChosen(partner)) partners.SelectKey(partner);
       if (partners.Key() != 0) return;
     }
@@ -183,20 +171,11 @@ class frmBookPeople : public MatchStepScreen {
       }};
 };
 
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakePeopleStep(Game& game, WizardHost& host, const std::string& name) {
-  return std::make_unique<frmBookPeople>(game, host, name);
-}
-
-namespace {
-
 /// The field of a battle royal: the roster at the left, who has been entered at the right, in the
 /// order of entry.
 class frmBookSpecial : public MatchStepScreen {
  public:
-  frmBookSpecial(Game& game, WizardHost& host, const std::string& name)
-      : MatchStepScreen(game, host, name, "Select Participants") {
+  frmBookSpecial(Game& game, WizardHost& host) : MatchStepScreen(game, host) {
     lstroster.Multi = true;
     lstroster.EmptyText = "Nobody is left on the roster who could be entered.";
     lstenter.EmptyText = "Nobody has been entered. Choose from the roster.";
@@ -235,10 +214,8 @@ class frmBookSpecial : public MatchStepScreen {
   }
 
   void ShowButtons() {
-    cmdadd.Enabled = lstroster.Key() != 0;
-    cmdadd.Tip = cmdadd.Enabled ? "" : "Choose somebody on the roster.";
-    cmdrem.Enabled = lstenter.Key() != 0;
-    cmdrem.Tip = cmdrem.Enabled ? "" : "Choose somebody who has been entered.";
+    EnableUnless(cmdadd, lstroster.Key() == 0 ? "Choose somebody on the roster." : "");
+    EnableUnless(cmdrem, lstenter.Key() == 0 ? "Choose somebody who has been entered." : "");
   }
 
   void cmdadd_Click() {
@@ -260,19 +237,10 @@ class frmBookSpecial : public MatchStepScreen {
   ui::Button cmdrem{*this, "cmdrem", "Remove", &frmBookSpecial::cmdrem_Click};
 };
 
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakeSpecialStep(Game& game, WizardHost& host, const std::string& name) {
-  return std::make_unique<frmBookSpecial>(game, host, name);
-}
-
-namespace {
-
 /// What the match is for.
 class frmBookBelt : public MatchStepScreen {
  public:
-  frmBookBelt(Game& game, WizardHost& host, const std::string& name)
-      : MatchStepScreen(game, host, name, "Select Title") {}
+  using MatchStepScreen::MatchStepScreen;
 
  private:
   void Prepare() override {
@@ -298,8 +266,7 @@ class frmBookBelt : public MatchStepScreen {
   }
 
   std::string Question() {
-    const int style = buffer().Style;
-    return style == kTag || style == kThreeTeams || style == kFourTeams
+    return FindMatchStyle(buffer().Style)->PerSide == 2
                ? "The tag team champions are not present in this match! Continue?"
                : "The champion is not present in this match! Continue?";
   }
@@ -314,8 +281,17 @@ class frmBookBelt : public MatchStepScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakeTitleStep(Game& game, WizardHost& host, const std::string& name) {
-  return std::make_unique<frmBookBelt>(game, host, name);
+std::unique_ptr<ui::Screen> MakeChoiceStep(Game& game, WizardHost& host) {
+  return std::make_unique<frmBookChoice>(game, host);
+}
+
+std::unique_ptr<ui::Screen> MakePeopleStep(Game& game, WizardHost& host) {
+  if (host.State().Buffer.Style == kSpecial) return std::make_unique<frmBookSpecial>(game, host);
+  return std::make_unique<frmBookPeople>(game, host);
+}
+
+std::unique_ptr<ui::Screen> MakeTitleStep(Game& game, WizardHost& host) {
+  return std::make_unique<frmBookBelt>(game, host);
 }
 
 }  // namespace grapplemont

@@ -1,196 +1,87 @@
 #include <algorithm>
 
 #include "booking/screens/stepscreens.h"
+#include "booking/wizard/casting.h"
 #include "booking/wizard/interviews.h"
+#include "records/counted.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 
 namespace {
 
-/// Who does the talking: alone or a team, with or without a manager.
-class frmIVType : public StepScreen {
- public:
-  frmIVType(Game& game, WizardHost& host)
-      : StepScreen(game, host, "frmIVType", "Select Interview Style") {}
-
- private:
-  void Prepare() override {
-    for (const InterviewStyleRow& style : kInterviewStyles) lsttype.Add({style.Says}, style.Code);
-    lsttype.Select(1);
-  }
-
-  ui::Box Body() override { return ui::Group("", {ui::Grow(lsttype)}); }
-
-  bool Store() override {
-    buffer().Style = lsttype.Key();
-    return true;
-  }
-
-  ui::ListBox lsttype{*this, "lsttype", {{"Interview style"}}, {}, [this] { GoOn(); }};
-};
-
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmIVType(Game& game, WizardHost& host, const std::string&) {
-  return std::make_unique<frmIVType>(game, host);
-}
-
-namespace {
-
-/// The speakers' lists of an interview style, in the order of Segment.Worker.
-struct SpeakersRow {
-  std::string_view Screen;
-  int Style;
-  std::vector<std::string> Lists;
-};
-const std::vector<SpeakersRow>& SpeakersTable() {
-  static const std::vector<SpeakersRow> kRows = {
-      {"frmIV1", kSingleTalk, {"Worker"}},
-      {"frmIV2", kTeamTalk, {"Worker", "Partner"}},
-      {"frmIV1m", kManagedTalk, {"Worker", "Manager"}},
-      {"frmIV2m", kManagedTeamTalk, {"Manager", "Worker", "Partner"}},
-  };
-  return kRows;
-}
-
-const SpeakersRow& RowOf(const std::string& name) {
-  for (const SpeakersRow& row : SpeakersTable())
-    if (row.Screen == name) return row;
-  return SpeakersTable().front();
-}
-
-/// The other half of the first Tag Team this worker is in; 0 for none.
-int TeamMate(const World& world, int uid) {
-  for (const Team& team : world.Teams()) {
-    if (team.Worker1 == uid) return team.Worker2;
-    if (team.Worker2 == uid) return team.Worker1;
-  }
-  return 0;
-}
-
-/// Who is interviewed. Whoever is chosen brings his partner and his manager along, as long as the
-/// player has not chosen these himself.
+/// Who is interviewed, or whom the interview is about: a list a seat. Whoever is chosen to speak
+/// brings a partner and a manager along, as long as the player has not chosen these.
 class frmIVPeople : public StepScreen {
  public:
-  frmIVPeople(Game& game, WizardHost& host, const std::string& name)
-      : StepScreen(game, host, name, "Select Participants"), row_(RowOf(name)) {}
+  frmIVPeople(Game& game, WizardHost& host)
+      : StepScreen(game, host), seats_(SeatsOf(buffer())), asksTargets_(wizard().Step == kTargets) {
+    std::erase_if(
+        seats_, [&](const Role& seat) { return (seat.From == Casting::Targets) != asksTargets_; });
+  }
 
  private:
-  int Lists() const { return static_cast<int>(row_.Lists.size()); }
-  const TalkShape& Shape() const { return *FindTalkShape(row_.Style); }
+  static constexpr int kTargets = 3;  // the step
+
+  int Seats() const { return static_cast<int>(seats_.size()); }
+  /// Seats and their lists count from 1.
+  const Role& Seat(int number) const { return seats_[static_cast<std::size_t>(number - 1)]; }
 
   void Prepare() override {
-    for (int place = 1; place <= Lists(); ++place) {
-      const bool manager = place == Shape().Manager;
-      lstwres(place).EmptyText = manager ? "Nobody on the roster can speak as a manager."
-                                         : "Nobody on the roster can be interviewed.";
-      FillPeople(lstwres(place), manager ? TalkingManagers(world(), wizard().View)
-                                         : Talkers(world(), wizard().View));
+    for (int seat = 1; seat <= Seats(); ++seat) {
+      const Role& is = Seat(seat);
+      lstwres(seat).EmptyText = std::string(NobodyFor(is.From));
+      FillPeople(lstwres(seat), WorkersFor(world(), is.From, buffer(), wizard().View), is.Optional);
     }
   }
 
   ui::Box Body() override {
     std::vector<ui::Box> lists;
-    for (int place = 1; place <= Lists(); ++place)
-      lists.push_back(
-          ui::Group(row_.Lists[static_cast<std::size_t>(place - 1)], {ui::Grow(lstwres(place))})
-              .Grow());
+    for (int seat = 1; seat <= Seats(); ++seat)
+      lists.push_back(ui::Group(std::string(Seat(seat).Caption), {ui::Grow(lstwres(seat))}).Grow());
     return ui::Columns(std::move(lists));
   }
 
-  void Picked(int place) {
-    chosen_[static_cast<std::size_t>(place)] = true;
-    const Worker* worker = world().FindWorker(lstwres(place).Key());
-    if (!worker || place == Shape().Manager) return;
-    Suggest(Shape().Manager, worker->Manager);
-    if (Shape().Workers < 2) return;
-    const int partner = place == Shape().FirstWorker ? place + 1 : Shape().FirstWorker;
-    Suggest(partner, TeamMate(world(), worker->Uid));
+  void Picked(int seat) {
+    chosen_[static_cast<std::size_t>(seat)] = true;
+    const Worker* worker = world().FindWorker(lstwres(seat).Key());
+    if (!worker || Seat(seat).From != Casting::Talkers) return;
+    const std::vector<int> partners = PartnersOf(world(), worker->Uid);
+    for (int other = 1; other <= Seats(); ++other) {
+      if (other == seat || chosen_[static_cast<std::size_t>(other)]) continue;
+      const int partner = partners.empty() ? 0 : partners.front();
+      Suggest(lstwres(other), Seat(other).From == Casting::Talkers ? partner : worker->Manager);
+    }
   }
 
-  void Suggest(int place, int uid) {
-    if (place == 0 || chosen_[static_cast<std::size_t>(place)]) return;
-    lstwres(place).Select(0);
-    if (uid != 0) lstwres(place).SelectKey(uid);
+  static void Suggest(ui::ListBox& list, int uid) {
+    list.Select(0);
+    if (uid != 0) list.SelectKey(uid);
   }
 
   bool Store() override {
     Segment chosen = buffer();
-    for (int place = 1; place <= Lists(); ++place)
-      chosen.Worker[static_cast<std::size_t>(place - 1)] = lstwres(place).Key();
-    if (const std::string why = WhyNotSpeakers(world(), chosen); !why.empty()) return Fail(why);
+    for (int seat = 1; seat <= Seats(); ++seat) Cast(chosen, Seat(seat), {{}, lstwres(seat).Key()});
+    const std::string why = asksTargets_ ? WhyNotTargets(chosen) : WhyNotSpeakers(world(), chosen);
+    if (!why.empty()) return Fail(why);
     buffer() = chosen;
     return true;
   }
 
-  const SpeakersRow& row_;
-  std::array<bool, 4> chosen_ = {};  // by place
-  ui::Array<ui::ListBox> lstwres{"lstwres", Lists(), [this](const std::string&, int place) {
-                                   return std::make_unique<ui::ListBox>(
-                                       *this, "lstwres" + std::to_string(place),
-                                       PeopleColumns(Lists()), [this, place] { Picked(place); },
-                                       [this] { GoOn(); });
-                                 }};
+  std::vector<Role> seats_;
+  const bool asksTargets_;
+  std::array<bool, 4> chosen_ = {};  // by seat
+  ui::Array<ui::ListBox> lstwres{
+      "lstwres", Seats(), [this](const std::string&, int seat) {
+        return std::make_unique<ui::ListBox>(
+            *this, (asksTargets_ ? "lstopp" : "lstwres") + std::to_string(seat),
+            PeopleColumns(Seats()), [this, seat] { Picked(seat); }, [this] { GoOn(); });
+      }};
 };
-
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmIVPeople(Game& game, WizardHost& host, const std::string& name) {
-  return std::make_unique<frmIVPeople>(game, host, name);
-}
-
-namespace {
-
-/// Whom the interview is about: frmIV1opp asks for one, frmIV2opp for a second one behind him.
-class frmIVTargets : public StepScreen {
- public:
-  frmIVTargets(Game& game, WizardHost& host, const std::string& name)
-      : StepScreen(game, host, name, "Select Targets"), targets_(name == "frmIV2opp" ? 2 : 1) {}
-
- private:
-  void Prepare() override {
-    for (int target = 1; target <= targets_; ++target)
-      FillPeople(lstopp(target), TalkTargets(world(), buffer(), wizard().View), true);
-  }
-
-  ui::Box Body() override {
-    if (targets_ == 1) return ui::Group("Target", {ui::Grow(lstopp(1))});
-    return ui::Columns({ui::Group("First target", {ui::Grow(lstopp(1))}).Grow(),
-                        ui::Group("Second target", {ui::Grow(lstopp(2))}).Grow()});
-  }
-
-  bool Store() override {
-    const TalkShape* shape = FindTalkShape(buffer().Style);
-    Segment chosen = buffer();
-    for (int target = 1; shape && target <= targets_; ++target)
-      chosen.Worker[static_cast<std::size_t>(shape->FirstTarget + target - 2)] =
-          lstopp(target).Key();
-    if (const std::string why = WhyNotTargets(chosen); !why.empty()) return Fail(why);
-    buffer() = chosen;
-    return true;
-  }
-
-  int targets_;
-  ui::Array<ui::ListBox> lstopp{"lstopp", targets_, [this](const std::string&, int target) {
-                                  return std::make_unique<ui::ListBox>(
-                                      *this, "lstopp" + std::to_string(target), PeopleColumns(),
-                                      ui::Handler{}, [this] { GoOn(); });
-                                }};
-};
-
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmIVTargets(Game& game, WizardHost& host,
-                                             const std::string& name) {
-  return std::make_unique<frmIVTargets>(game, host, name);
-}
-
-namespace {
 
 class frmIVPurpose : public StepScreen {
  public:
-  frmIVPurpose(Game& game, WizardHost& host)
-      : StepScreen(game, host, "frmIVPurpose", "Select Interview Purpose") {}
+  using StepScreen::StepScreen;
 
  private:
   void Prepare() override {
@@ -208,11 +99,10 @@ class frmIVPurpose : public StepScreen {
   std::string TurnText() {
     const auto offered = OfferedTalkPurposes(world(), buffer());
     if (std::find(offered.begin(), offered.end(), kTalkTurn) == offered.end()) return {};
-    std::string text;
+    std::vector<std::string> turns;
     for (const TurnCall& call : TalkTurns(world(), buffer()))
-      text += (text.empty() ? "" : ", ") + SideText(world(), {call.Turner}) + " on " +
-              SideText(world(), {call.Other});
-    return text.empty() ? text : "Who turns with \"Turn\": " + text + ".";
+      turns.push_back(SideText(world(), {call.Turner}) + " on " + SideText(world(), {call.Other}));
+    return turns.empty() ? "" : "Who turns with \"Turn\": " + Joined(turns) + ".";
   }
 
   bool Store() override {
@@ -226,7 +116,11 @@ class frmIVPurpose : public StepScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmIVPurpose(Game& game, WizardHost& host, const std::string&) {
+std::unique_ptr<ui::Screen> MakeSeatsStep(Game& game, WizardHost& host) {
+  return std::make_unique<frmIVPeople>(game, host);
+}
+
+std::unique_ptr<ui::Screen> MakeTalkPurposeStep(Game& game, WizardHost& host) {
   return std::make_unique<frmIVPurpose>(game, host);
 }
 

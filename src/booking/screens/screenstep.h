@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "booking/wizard/matchrules.h"
-#include "booking/wizard/segmentcheck.h"
+#include "booking/wizard/refusals.h"
 #include "booking/wizard/wizard.h"
 #include "ui/game.h"
 
@@ -20,12 +20,12 @@ class WizardHost {
   virtual void StepStored(bool goOn) = 0;
 };
 
-/// One step of the wizard: a dialog over it. At its left is what has been chosen so far, at its
-/// right the step; Back leaves without storing, Done stores and shows the wizard, Next stores and
-/// goes straight on to the next step, as Enter and a double click in a list do.
+/// The step that the wizard stands at: a dialog over it. At its left is what has been chosen so
+/// far, at its right the step; Back leaves without storing, Done stores and shows the wizard, Next
+/// stores and goes straight on to the next step, as Enter and a double click in a list do.
 class StepScreen : public ui::Screen {
  public:
-  StepScreen(Game& game, WizardHost& host, std::string name, std::string title);
+  StepScreen(Game& game, WizardHost& host);
 
   ui::Page Layout() final;
   void Load() final;
@@ -70,8 +70,11 @@ class StepScreen : public ui::Screen {
   std::unique_ptr<ui::Button> cmdback, cmddone, cmdnext;
 };
 
-/// Makes the screen of the wizard's step by its name; nullptr for an unknown one.
-std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host, const std::string& name);
+/// Makes the screen of the step that the wizard stands at; nullptr where it has no more.
+std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host);
+
+/// What the booking takes from somebody's Morale.
+void ShowGrievances(ui::Label& label, const World& world, const Segment& booking);
 
 /// A list of people: disposition, Over, condition and morale beside the name, in short words where
 /// more than two lists stand side by side. `none` puts "None" on top, preselected.

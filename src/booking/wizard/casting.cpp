@@ -1,6 +1,7 @@
 #include "booking/wizard/casting.h"
 
 #include <algorithm>
+#include <iterator>
 #include <span>
 
 #include "records/dates.h"
@@ -12,147 +13,78 @@ namespace grapplemont {
 
 namespace {
 
-bool IsWaitingToTurn(const Worker& worker, int angle) {
+// --- Whom a seat may be given to
+
+bool Anybody(const World&, const Worker&, const Segment&) {
+  return true;
+}
+bool IsCommissioner(const World& world, const Worker& worker, const Segment&) {
+  return worker.Uid == world.Player().Commissioner;
+}
+bool IsManager(const World&, const Worker& worker, const Segment&) {
+  return worker.Position == kManager;
+}
+bool IsNew(const World&, const Worker& worker, const Segment&) {
+  return !worker.Debuted;
+}
+bool IsNewManager(const World&, const Worker& worker, const Segment&) {
+  return worker.Position == kManager && !worker.Debuted;
+}
+/// What a team turns to decides who is waiting for it.
+bool IsWaitingToTurn(const World&, const Worker& worker, const Segment& angle) {
   if (!worker.TurnPending) return false;
-  if (angle == kTeamFaceTurn) return !(worker.Disposition == "F");
-  return angle != kTeamHeelTurn || !(worker.Disposition == "H");
+  if (angle.Style == kTeamFaceTurn) return worker.Disposition != "F";
+  return angle.Style != kTeamHeelTurn || worker.Disposition != "H";
+}
+bool IsWoman(const World&, const Worker& worker, const Segment&) {
+  return !worker.Gender;
+}
+bool IsMan(const World&, const Worker& worker, const Segment&) {
+  return worker.Gender;
+}
+bool IsNoSpeaker(const World&, const Worker& worker, const Segment& talk) {
+  for (const Casting speaks : {Casting::Talkers, Casting::TalkManagers})
+    for (const int uid : SeatedAs(talk, speaks))
+      if (uid == worker.Uid) return false;
+  return true;
 }
 
-bool Takes(const World& world, const Worker& worker, Casting from, int turnsIn) {
-  switch (from) {
-    case Casting::Commissioner:
-      return worker.Uid == world.Player().Commissioner;
-    case Casting::Managers:
-      return worker.Position == kManager;
-    case Casting::DebutManagers:
-      return worker.Position == kManager && !worker.Debuted;
-    case Casting::Turners:
-      return IsWaitingToTurn(worker, turnsIn);
-    case Casting::Women:
-      return !worker.Gender;
-    case Casting::Men:
-      return worker.Gender;
-    case Casting::Debuts:
-      return !worker.Debuted;
-    default:
-      return false;
-  }
+/// Who is taken of whom, and what the list says when there is nobody.
+struct CastingRow {
+  Casting From;
+  std::string_view Nobody;
+  bool (*Of)(const World&, const Worker&, const BookingView&);  // nullptr: no people
+  bool (*Takes)(const World&, const Worker&, const Segment&);
+};
+constexpr CastingRow kCastings[] = {
+    {Casting::Plain, "No workers available", IsEligible, Anybody},
+    {Casting::Commissioner, "No Commissioner available", IsAvailable, IsCommissioner},
+    {Casting::Managers, "No managers available", IsAvailable, IsManager},
+    {Casting::DebutManagers, "No debut managers available", IsAvailable, IsNewManager},
+    {Casting::Turners, "Nobody waiting to turn", IsAvailable, IsWaitingToTurn},
+    {Casting::Women, "No women available", IsAvailable, IsWoman},
+    {Casting::Men, "No men available", IsAvailable, IsMan},
+    {Casting::Debuts, "No debuts available", IsAvailable, IsNew},
+    {Casting::Stables, "No stables available", nullptr, nullptr},
+    {Casting::SinglesTitles, "No vacant titles available", nullptr, nullptr},
+    {Casting::TagTitles, "No vacant titles available", nullptr, nullptr},
+    {Casting::Talkers, "Nobody on the roster can be interviewed.", IsTalker, Anybody},
+    {Casting::TalkManagers, "Nobody on the roster can speak as a manager.", IsTalker, IsManager},
+    {Casting::Targets, "", IsEligible, IsNoSpeaker},
+};
+constexpr bool IsInOrder() {
+  int at = 0;
+  for (const CastingRow& row : kCastings)
+    if (static_cast<int>(row.From) != at++) return false;
+  return true;
+}
+static_assert(IsInOrder());
+
+const CastingRow& RowOf(Casting from) {
+  return kCastings[static_cast<std::size_t>(from)];
 }
 
-bool IsTitleRole(Casting from) {
-  return from == Casting::SinglesTitles || from == Casting::TagTitles;
-}
-
-std::vector<Candidate> StablesToCast(const World& world) {
-  std::vector<Candidate> stables;
-  for (const Stable& stable : world.Stables())
-    if (stable.Owner == world.PlayerUid()) stables.push_back({stable.Name.Str()});
-  return stables;
-}
-
-std::vector<Candidate> VacantTitles(const World& world, bool singles) {
-  std::vector<Candidate> titles;
-  for (const Title& title : world.Titles())
-    if (IsVacantTitle(world, title, singles)) titles.push_back({title.Name.Str()});
-  return titles;
-}
-
-Word& PlaceOf(Segment& segment, int place) {
-  return segment.Worker[static_cast<std::size_t>(place - 1)];
-}
-
-int UidAt(const Segment& segment, int place) {
-  return segment.Worker[static_cast<std::size_t>(place - 1)];
-}
-
-}  // namespace
-
-std::string WhyNotOffered(const World& world, const Angle& angle) {
-  const Promotion& player = world.Player();
-  if (player.Risk <= angle.RiskOver)
-    return "The risk level must be over " + std::to_string(angle.RiskOver) + ".";
-  if (player.Size >= angle.SizeUnder) return "The promotion is too small for it.";
-  if (angle.NeedsCommissioner && player.Commissioner == 0) return "There is no Commissioner.";
-  if (!PlainDate(world.Today()).starts_with(angle.Date))
-    return "Only on " + std::string(angle.Date) + ".";
-  return {};
-}
-
-bool IsOffered(const World& world, const Angle& angle) {
-  return WhyNotOffered(world, angle).empty();
-}
-
-std::vector<const Angle*> OfferedAngles(const World& world) {
-  std::vector<const Angle*> offered;
-  for (const Angle& angle : AllAngles())
-    if (IsOffered(world, angle)) offered.push_back(&angle);
-  return offered;
-}
-
-std::vector<Candidate> CandidatesFor(const World& world, Casting from, int turnsIn,
-                                     const BookingView& view) {
-  if (from == Casting::Stables) return StablesToCast(world);
-  if (IsTitleRole(from)) return VacantTitles(world, from == Casting::SinglesTitles);
-  std::vector<Candidate> people;
-  for (const Worker& worker : world.Workers())
-    if (from == Casting::Plain
-            ? IsEligible(world, worker, view)
-            : IsAvailable(world, worker, view) && Takes(world, worker, from, turnsIn))
-      people.push_back({worker.Name.Str(), worker.Uid});
-  return people;
-}
-
-std::string_view NobodyFor(Casting from) {
-  switch (from) {
-    case Casting::Plain:
-      return "No workers available";
-    case Casting::Commissioner:
-      return "No Commissioner available";
-    case Casting::Managers:
-      return "No managers available";
-    case Casting::DebutManagers:
-      return "No debut managers available";
-    case Casting::Turners:
-      return "Nobody waiting to turn";
-    case Casting::Women:
-      return "No women available";
-    case Casting::Men:
-      return "No men available";
-    case Casting::Debuts:
-      return "No debuts available";
-    case Casting::Stables:
-      return "No stables available";
-    case Casting::SinglesTitles:
-    case Casting::TagTitles:
-      return "No vacant titles available";
-  }
-  return {};
-}
-
-bool IsUsed(const Role& role) {
-  return !role.Caption.empty();
-}
-
-bool IsVacantTitle(const World& world, const Title& title, bool singles) {
-  return title.Owner == world.PlayerUid() && title.Holder == 0 && title.Singles == singles;
-}
-
-void Cast(Segment& segment, const Role& role, const Candidate& candidate) {
-  if (role.From == Casting::Stables)
-    segment.Text = candidate.Name;
-  else if (IsTitleRole(role.From))
-    segment.TitleName = candidate.Name;
-  else
-    PlaceOf(segment, role.Place) = candidate.Uid;
-}
-
-bool IsCast(const Segment& segment, const Role& role) {
-  if (role.From == Casting::Stables) return !(segment.Text == "None");
-  if (IsTitleRole(role.From)) return !(segment.TitleName == "None");
-  return UidAt(segment, role.Place) != 0;
-}
-
-namespace {
+// --- What stands against a cast
 
 constexpr int kTwo[] = {1,  2,  4,  5,  6,  9,  10, 13, 14, 15, 18, 21, 22, 23,
                         24, 25, 26, 27, 28, 29, 30, 33, 34, 35, 37, 38, 39, 40,
@@ -220,10 +152,6 @@ std::string_view SamePersonText(int angle) {
   return {};
 }
 
-const Worker* WorkerAt(const World& world, const Segment& segment, int place) {
-  return world.FindWorker(UidAt(segment, place));
-}
-
 bool IsIn(const Worker* worker, const Segment& segment) {
   return worker && worker->Stable == segment.Text;
 }
@@ -234,11 +162,10 @@ bool IsAward(const Segment& segment) {
 
 // The checks, each in the words of a box.
 
-std::string WhyUncast(const World& world, const Angle& angle, const Segment& segment,
-                      const BookingView& view) {
-  for (const Role& role : angle.Roles) {
-    if (!IsUsed(role) || role.Optional || IsCast(segment, role)) continue;
-    if (CandidatesFor(world, role.From, angle.Number, view).empty())
+std::string WhyUncast(const World& world, const Segment& segment, const BookingView& view) {
+  for (const Role& role : SeatsOf(segment)) {
+    if (role.Optional || IsCast(segment, role)) continue;
+    if (CandidatesFor(world, role.From, segment, view).empty())
       return std::string(NobodyFor(role.From));
     return "Please make a selection for \"" + std::string(role.Caption) + "\"!";
   }
@@ -246,53 +173,48 @@ std::string WhyUncast(const World& world, const Angle& angle, const Segment& seg
 }
 
 /// Whoever gets a Title may be told from the Commissioner by a check with words of its own.
-std::string WhySamePerson(const World&, const Angle& angle, const Segment& segment,
-                          const BookingView&) {
+std::string WhySamePerson(const World&, const Segment& segment, const BookingView&) {
   std::vector<int> people;
-  for (const Role& role : angle.Roles)
-    if (IsUsed(role) && role.Place != 0 && IsCast(segment, role) &&
+  for (const Role& role : SeatsOf(segment))
+    if (role.Place != 0 && IsCast(segment, role) &&
         !(IsAward(segment) && role.From == Casting::Commissioner))
       people.push_back(UidAt(segment, role.Place));
   std::sort(people.begin(), people.end());
   const bool twice = std::adjacent_find(people.begin(), people.end()) != people.end();
-  return twice ? std::string(SamePersonText(angle.Number)) : std::string();
+  return twice ? std::string(SamePersonText(segment.Style)) : std::string();
 }
 
-std::string WhyNotManaged(const World& world, const Angle& angle, const Segment& segment,
-                          const BookingView&) {
-  const ManagedRow* row = FindRow(kManaged, angle.Number);
+std::string WhyNotManaged(const World& world, const Segment& segment, const BookingView&) {
+  const ManagedRow* row = FindRow(kManaged, segment.Style);
   if (!row) return {};
   const Worker* client = WorkerAt(world, segment, row->Place);
   return client && client->Manager == UidAt(segment, 1) ? "" : std::string(row->Says);
 }
 
-std::string WhyNoTable(const World&, const Angle& angle, const Segment& segment,
-                       const BookingView&) {
+std::string WhyNoTable(const World&, const Segment& segment, const BookingView&) {
   const bool uneven =
-      angle.Number == kGetTheTable && UidAt(segment, 2) != 0 && UidAt(segment, 4) == 0;
+      segment.Style == kGetTheTable && UidAt(segment, 2) != 0 && UidAt(segment, 4) == 0;
   return uneven ? "If two people are going through a table, two attackers must be seleceted." : "";
 }
 
-std::string WhyNoMembership(const World& world, const Angle& angle, const Segment& segment,
-                            const BookingView&) {
+std::string WhyNoMembership(const World& world, const Segment& segment, const BookingView&) {
   const bool isIn = IsIn(WorkerAt(world, segment, 1), segment);
-  if (angle.Number == kStableKickOut) return isIn ? "" : "This worker is not in that stable!";
-  if (angle.Number != kStableInduction) return {};
+  if (segment.Style == kStableKickOut) return isIn ? "" : "This worker is not in that stable!";
+  if (segment.Style != kStableInduction) return {};
   if (isIn) return "This worker is already in that stable!";
   return StableMembers(world, segment.Text).size() < kFullStable
              ? ""
              : "Sorry, this stable already has the maximum amount of members!";
 }
 
-std::string WhyNoStable(const World& world, const Angle& angle, const Segment& segment,
-                        const BookingView&) {
-  const StableRow* row = FindRow(kStables, angle.Number);
+std::string WhyNoStable(const World& world, const Segment& segment, const BookingView&) {
+  const StableRow* row = FindRow(kStables, segment.Style);
   if (!row) return {};
   if (ActiveMembers(world, segment.Text).size() < 2)
     return "Sorry, there need to be at least 2 active members of the stable!";
   for (int place = 1; place <= row->StrangersUpTo; ++place)
     if (const Worker* worker = WorkerAt(world, segment, place); IsIn(worker, segment))
-      return (angle.Number == kTakingOver ? "The Commissioner" : worker->Name.Str()) +
+      return (segment.Style == kTakingOver ? "The Commissioner" : worker->Name.Str()) +
              " is part of that stable!";
   return {};
 }
@@ -305,10 +227,9 @@ bool FitsVacantTitle(const World& world, const Segment& segment, const Worker* w
   return false;
 }
 
-std::string WhyNoTitle(const World& world, const Angle& angle, const Segment& segment,
-                       const BookingView&) {
+std::string WhyNoTitle(const World& world, const Segment& segment, const BookingView&) {
   if (!IsAward(segment)) return {};
-  const bool singles = angle.Number == kAwardSingles;
+  const bool singles = segment.Style == kAwardSingles;
   const int last = singles ? 2 : 3;
   for (int place = 2; place <= last; ++place)
     if (UidAt(segment, place) == UidAt(segment, 1))
@@ -320,22 +241,12 @@ std::string WhyNoTitle(const World& world, const Angle& angle, const Segment& se
   return {};
 }
 
-using Check = std::string (*)(const World&, const Angle&, const Segment&, const BookingView&);
+using Check = std::string (*)(const World&, const Segment&, const BookingView&);
 // The first that objects speaks.
 constexpr Check kChecks[] = {WhyUncast,       WhySamePerson, WhyNotManaged, WhyNoTable,
                              WhyNoMembership, WhyNoStable,   WhyNoTitle};
 
-}  // namespace
-
-std::string WhyNotCast(const World& world, const Segment& segment, const BookingView& view) {
-  const Angle* angle = FindAngle(segment.Style);
-  if (!angle) return "There is no such angle!";
-  for (const Check check : kChecks)
-    if (std::string why = check(world, *angle, segment, view); !why.empty()) return why;
-  return {};
-}
-
-namespace {
+// --- What is told of a candidate
 
 std::string AboutWorker(const World& world, const Worker& worker) {
   std::string text = std::string(PositionText(worker.Position)) + ", " +
@@ -346,7 +257,7 @@ std::string AboutWorker(const World& world, const Worker& worker) {
   if (!worker.Debuted) text += ", not seen yet";
   if (const std::string manager = WorkerName(world, worker.Manager); !manager.empty())
     text += ", managed by " + manager;
-  if (!(worker.Stable == "None") && !worker.Stable.View().empty()) text += ", in " + worker.Stable;
+  if (IsInStable(worker)) text += ", in " + worker.Stable;
   return text;
 }
 
@@ -360,7 +271,7 @@ std::string AboutStable(const World& world, std::string_view name) {
 
 std::string AboutTitle(const World& world, bool singles, std::string_view name) {
   for (const Title& title : world.Titles()) {
-    if (!IsVacantTitle(world, title, singles) || !(title.Name == name)) continue;
+    if (!IsVacantTitle(world, title, singles) || title.Name != name) continue;
     std::string text = "Vacant, image " + std::to_string(title.Image) + "%";
     if (title.Woman) text += ", for women";
     if (title.Lightweight) text += ", for lightweights";
@@ -371,10 +282,84 @@ std::string AboutTitle(const World& world, bool singles, std::string_view name) 
 
 }  // namespace
 
-std::string AboutCandidate(const World& world, const Role& role, const Candidate& candidate) {
-  if (role.From == Casting::Stables) return AboutStable(world, candidate.Name);
-  if (role.Place == 0)
-    return AboutTitle(world, role.From == Casting::SinglesTitles, candidate.Name);
+std::string WhyNotOffered(const World& world, const Angle& angle) {
+  const Promotion& player = world.Player();
+  if (player.Risk <= angle.RiskOver)
+    return "The risk level must be over " + std::to_string(angle.RiskOver) + ".";
+  if (player.Size >= angle.SizeUnder) return "The promotion is too small for it.";
+  if (angle.NeedsCommissioner && player.Commissioner == 0) return "There is no Commissioner.";
+  if (!PlainDate(world.Today()).starts_with(angle.Date))
+    return "Only on " + std::string(angle.Date) + ".";
+  return {};
+}
+
+bool IsOffered(const World& world, const Angle& angle) {
+  return WhyNotOffered(world, angle).empty();
+}
+
+std::vector<const Angle*> OfferedAngles(const World& world) {
+  std::vector<const Angle*> offered;
+  for (const Angle& angle : AllAngles())
+    if (IsOffered(world, angle)) offered.push_back(&angle);
+  return offered;
+}
+
+bool IsVacantTitle(const World& world, const Title& title, bool singles) {
+  return IsPlayers(world, title) && title.Holder == 0 && title.Singles == singles;
+}
+
+bool MayBeCast(const World& world, Casting from, const Worker& worker, const Segment& segment,
+               const BookingView& view) {
+  const CastingRow& row = RowOf(from);
+  return row.Of && row.Of(world, worker, view) && row.Takes(world, worker, segment);
+}
+
+std::vector<const Worker*> WorkersFor(const World& world, Casting from, const Segment& segment,
+                                      const BookingView& view) {
+  std::vector<const Worker*> people;
+  for (const Worker& worker : world.Workers())
+    if (MayBeCast(world, from, worker, segment, view)) people.push_back(&worker);
+  return people;
+}
+
+std::vector<Candidate> CandidatesFor(const World& world, Casting from, const Segment& segment,
+                                     const BookingView& view) {
+  std::vector<Candidate> candidates;
+  if (from == Casting::Stables)
+    for (const Stable* stable : PlayerStables(world)) candidates.push_back({stable->Name.Str()});
+  if (from == Casting::SinglesTitles || from == Casting::TagTitles)
+    for (const Title& title : world.Titles())
+      if (IsVacantTitle(world, title, from == Casting::SinglesTitles))
+        candidates.push_back({title.Name.Str()});
+  for (const Worker* worker : WorkersFor(world, from, segment, view))
+    candidates.push_back({worker->Name.Str(), worker->Uid});
+  return candidates;
+}
+
+std::string_view NobodyFor(Casting from) {
+  return RowOf(from).Nobody;
+}
+
+void Cast(Segment& segment, const Role& seat, const Candidate& candidate) {
+  if (seat.Place != 0)
+    segment.Worker[static_cast<std::size_t>(seat.Place - 1)] = candidate.Uid;
+  else if (seat.From == Casting::Stables)
+    segment.Text = candidate.Name;
+  else
+    segment.TitleName = candidate.Name;
+}
+
+std::string WhyNotCast(const World& world, const Segment& segment, const BookingView& view) {
+  if (!FindAngle(segment.Style)) return "There is no such angle!";
+  for (const Check check : kChecks)
+    if (std::string why = check(world, segment, view); !why.empty()) return why;
+  return {};
+}
+
+std::string AboutCandidate(const World& world, const Role& seat, const Candidate& candidate) {
+  if (seat.From == Casting::Stables) return AboutStable(world, candidate.Name);
+  if (seat.Place == 0)
+    return AboutTitle(world, seat.From == Casting::SinglesTitles, candidate.Name);
   const Worker* worker = world.FindWorker(candidate.Uid);
   return worker ? AboutWorker(world, *worker) : std::string();
 }

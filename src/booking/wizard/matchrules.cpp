@@ -8,44 +8,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr std::string_view kSameWins = "A worker cannot both win and lose a match";
-constexpr std::string_view kMatesWin = "Team mates cannot both win and lose the same match.";
-constexpr std::string_view kSameBout = "The same worker cannot win and lose the same bout!";
-constexpr std::string_view kSameWorker = "Please select a different worker for each box!";
-constexpr std::string_view kSameTeam = "Please select a different team for each box!";
-constexpr std::string_view kTwice = "You have selected the same worker twice!";
-
-constexpr int kAnyType = 0;
-
-/// The first row that fits style and type counts.
-struct FormRow {
-  int Style;
-  int Type;
-  ResultForm Form;
-};
-constexpr FormRow kForms[] = {
-    {kSingles, kAnyType, {"frmBook1vs1Winner", false, 0, false, "", ""}},
-    {kTag, kAnyType, {"frmBook2vs2Winner", false, 1, false, kSameWins, kMatesWin}},
-    {kThreeWay, kElimination, {"frmBook3x1eWinner", false, 2, false, kSameWorker, ""}},
-    {kThreeWay, kAnyType, {"frmBook3x1Winner", false, 1, false, kSameBout, ""}},
-    {kThreeTeams, kElimination, {"frmBook3x2eWinner", true, 2, false, kSameTeam, ""}},
-    {kThreeTeams,
-     kTriangle,
-     {"frmBook3x2Winner", false, 1, false, kSameBout,
-      "The winner and loser cannot be team-mates!"}},
-    {kThreeTeams, kAnyType, {"frmBook3x2oWinner", true, 0, false, "", ""}},
-    {kFourWay, kElimination, {"frmBook4x1eWinner", false, 3, false, kSameWorker, ""}},
-    {kFourWay, kAnyType, {"frmBook3x1Winner", false, 1, false, kSameBout, ""}},
-    {kFourTeams, kElimination, {"frmBook4x2eWinner", true, 3, false, kSameTeam, ""}},
-    {kFourTeams, kAnyType, {"frmBook3x2oWinner", true, 0, false, "", ""}},
-    {kThreeOnThree, kAnyType, {"frmBook3vs3Winner", false, 1, false, kSameWins, kMatesWin}},
-    {kFourOnFour, kSurvivor, {"frmBookSurvivorWinner", false, 7, true, kTwice, ""}},
-    {kFourOnFour, kAnyType, {"frmBook4vs4Winner", false, 1, false, kSameWins, kMatesWin}},
-    {kSpecial,
-     kAnyType,
-     {"frmBookSpecialWinner", false, 1, false, "The same person cannot win and be runner up!", ""}},
-};
-
 bool HasTwice(const std::vector<int>& uids) {
   return std::set<int>(uids.begin(), uids.end()).size() != uids.size();
 }
@@ -108,13 +70,6 @@ Segment BeforeAftermath(const Segment& match) {
   return before;
 }
 
-const ResultForm& ResultFormOf(const Segment& match) {
-  for (const FormRow& row : kForms)
-    if (row.Style == match.Style && (row.Type == kAnyType || row.Type == match.MatchType))
-      return row.Form;
-  return kForms[0].Form;
-}
-
 bool OffersDraw(const Segment& match) {
   const MatchStyleRow* style = FindMatchStyle(match.Style);
   return style && style->Sides == 2 && match.MatchType == kPlainSingles;
@@ -155,7 +110,8 @@ void StoreResult(Segment& match, int winner, const std::vector<int>& losers) {
 
 std::string WhyNotPeople(const Segment& match) {
   if (!HasTwice(PeopleOf(match))) return {};
-  return match.Style == kSingles ? "Workers cannot fight themselves!" : std::string(kTwice);
+  return match.Style == kSingles ? "Workers cannot fight themselves!"
+                                 : "You have selected the same worker twice!";
 }
 
 std::string WhyNotResult(const Segment& match) {

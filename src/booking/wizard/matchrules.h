@@ -36,17 +36,6 @@ std::vector<int> AftermathRunIns(const Segment& segment);  // their uids, withou
 /// The match as it was when its aftermath was chosen: without the aftermath and its run-ins.
 Segment BeforeAftermath(const Segment& match);
 
-/// What a result step asks: the winner, and who loses in which order.
-struct ResultForm {
-  std::string_view Screen;
-  bool Teams = false;      // its boxes show sides, told by their first members
-  int Losers = 0;          // boxes for losers: Loser, then Place3 and up
-  bool MayBeNone = false;  // a loser's box may stay empty
-  std::string_view Same;   // what it says to one person in two boxes
-  std::string_view Mates;  // and to a winner and a loser of one side; empty where that may be
-};
-/// Requires a match with style and type.
-const ResultForm& ResultFormOf(const Segment& match);
 /// Whether the match may end without a winner.
 bool OffersDraw(const Segment& match);
 /// Whom the boxes offer: every worker, or the first of every side.

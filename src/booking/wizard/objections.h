@@ -26,11 +26,11 @@ Standing StandingOf(const World& world, const std::vector<int>& uids);
 
 inline constexpr int kAnyAttitude = 1000;
 
-/// Objects when his Over is more than `By` above the other's and his Attitude below a bound.
+/// Objects when their Over is more than `By` above the other's and their Attitude below a bound.
 struct Gap {
   int By;
   int AttitudeUnder;
-  int Level = 0;  // of the grievance when he is overridden; 0 where another bound sets the price
+  int Level = 0;  // of the grievance when they are overridden; 0 where another bound sets the price
 };
 using Gaps = std::span<const Gap>;
 
@@ -54,9 +54,12 @@ inline constexpr int kTagWomanRule = 185;  // of the sum
 inline constexpr int kCleanLossAttitude = 40;
 inline constexpr int kTagCleanLossAttitude = 100;  // of the sum
 
-/// Loses cleanly to somebody who is not far enough above him.
+/// Below it a loser in a singles match wants to do something afterwards.
+inline constexpr int kVengeful = 30;
+
+/// Loses cleanly to somebody who is not far enough above them.
 bool IsHurtByCleanLoss(const Standing& loser, const Standing& winner, int attitudeUnder);
-/// Loses because of somebody who is not far enough above him.
+/// Loses because of somebody who is not far enough above them.
 bool IsHurtByRunIn(const Standing& loser, const Standing& runIn, int attitudeUnder);
 
 bool IsAbove(const Standing& who, const Standing& other, const Gap& gap);
@@ -68,7 +71,7 @@ Gaps TagGaps(const Segment& match);
 /// battle royal. Nobody after a draw or where no loser is named.
 std::vector<int> Objectors(const Segment& match);
 
-/// The level of each worker's grievance, 1 to 5, by his uid; who has none is not there.
+/// The level of each worker's grievance, 1 to 5, by their uid; who has none is not there.
 std::map<int, int> GrievancesOf(const World& world, const Segment& match);
 /// What a level takes from Morale.
 int MoralePrice(int level);
@@ -76,5 +79,7 @@ int MoralePrice(int level);
 std::string GrievanceText(const World& world, const Segment& match);
 /// By what it costs: "nine will hold it against you, 50 morale each, two more 15 each".
 std::string HeldAgainstText(const World& world, const Segment& match);
+/// What insisting costs the morale of those who objected. Runs once, when a booking is completed.
+void ApplyBookingGrievances(World& world, const Segment& segment);
 
 }  // namespace grapplemont

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <optional>
 
 #include "booking/wizard/roster.h"
 #include "records/segmentacts.h"
@@ -11,211 +12,214 @@ namespace grapplemont {
 
 namespace {
 
-/// A set of match types.
-using Types = unsigned;
-constexpr Types Only(std::initializer_list<int> types) {
-  Types set = 0;
-  for (const int type : types) set |= 1u << type;
+/// Match types that have a finish, or finishes that an aftermath or a purpose may follow.
+using Codes = unsigned;
+constexpr Codes Only(std::initializer_list<int> codes) {
+  Codes set = 0;
+  for (const int code : codes) set |= 1u << code;
   return set;
 }
-constexpr Types AllBut(std::initializer_list<int> types) {
-  return ~Only(types);
+constexpr Codes AllBut(std::initializer_list<int> codes) {
+  return ~Only(codes);
 }
-constexpr Types kEvery = ~0u;
+constexpr Codes kEvery = ~0u;
+constexpr int kBeyond = 31;  // stands for every greater code
 
-/// An entry of the list of a match with a winner, and the types that have it.
-struct FinishRow {
-  int Finish;
-  Types In;
-};
-constexpr FinishRow kSinglesOffers[] = {
-    {kClean, AllBut({kHighIncident})},
-    {kInterference, AllBut({kHighIncident})},
-    {kBotchedInterference, AllBut({kHighIncident})},
-    {kCountOut, Only({kPlainSingles})},
-    {kDqThroughInterference, Only({kPlainSingles})},
-    {kCheating, AllBut({kSubmission, kCage, kTexasDeath, kLastManStanding, kLadder, kTables,
-                        kBraAndPanties, kIQuit, kHighIncident, kBuckNaked})},
-    {kSickBump, Only({kLadder, kIQuit, kHellInACell, kHighIncident, kBarbedWire, kDeathMatch})},
-};
-constexpr FinishRow kTagOffers[] = {
-    {kClean, kEvery},
-    {kCountOut, Only({kPlainTag})},
-    {kDqThroughInterference, Only({kPlainTag})},
-    {kInterference, kEvery},
-    {kBotchedInterference, kEvery},
-    {kCheating, Only({kPlainTag, kTagHardcore})},
-    {kMiscommunication, AllBut({kTagCage, kTagLadder})},
-    {kPartnerTurns, AllBut({kTagCage, kTagLadder})},
-    {kSickBump, Only({kTagLadder})},
+enum class If { Always, Won, Drawn };
+/// What else an entry needs, of its people where it has some.
+enum class Needs {
+  Nothing,
+  Presence,
+  Absence,
+  Debut,       // nobody has seen them yet
+  PairDebut,   // neither of the two
+  Pending,     // a turn is prepared
+  LosersTurn,  // and they have lost
+  Turn,        // they do something that can turn them
+  PairTurn,    // and do so together
+  FeudBetween,
+  Stripping
 };
 
-bool MayTurn(const World& world, int uid) {
+/// An entry of a list.
+struct Offer {
+  int Code;
+  If Result = If::Won;
+  Codes After = kEvery;
+  Needs Need = Needs::Nothing;
+  Part Who = Part::Nobody;
+};
+using enum If;
+using enum Needs;
+
+constexpr Offer kSinglesFinishOffers[] = {
+    {kClean, Won, AllBut({kHighIncident})},
+    {kInterference, Won, AllBut({kHighIncident})},
+    {kBotchedInterference, Won, AllBut({kHighIncident})},
+    {kCountOut, Won, Only({kPlainSingles})},
+    {kDqThroughInterference, Won, Only({kPlainSingles})},
+    {kCheating, Won,
+     AllBut({kSubmission, kCage, kTexasDeath, kLastManStanding, kLadder, kTables, kBraAndPanties,
+             kIQuit, kHighIncident, kBuckNaked})},
+    {kSickBump, Won,
+     Only({kLadder, kIQuit, kHellInACell, kHighIncident, kBarbedWire, kDeathMatch})},
+    {kDoubleDq, Drawn},
+    {kDoubleCountOut, Drawn},
+    {kNoContest, Drawn},
+};
+constexpr Offer kTagFinishOffers[] = {
+    {kClean},
+    {kCountOut, Won, Only({kPlainTag})},
+    {kDqThroughInterference, Won, Only({kPlainTag})},
+    {kInterference},
+    {kBotchedInterference},
+    {kCheating, Won, Only({kPlainTag, kTagHardcore})},
+    {kMiscommunication, Won, AllBut({kTagCage, kTagLadder})},
+    {kPartnerTurns, Won, AllBut({kTagCage, kTagLadder}), Pending, Part::LosersPartner},
+    {kSickBump, Won, Only({kTagLadder})},
+    {kDoubleDq, Drawn},
+    {kDoubleCountOut, Drawn},
+    {kNoContest, Drawn},
+};
+
+constexpr Codes kForASide = Only({kInterference, kBotchedInterference, kDqThroughInterference});
+
+constexpr Offer kSinglesAftermathOffers[] = {
+    {after1::kAttacksReferee},
+    {after1::kTantrum},
+    {after1::kWinnerRuns},
+    {after1::kLoserRuns},
+    {after1::kRevengeAttack, Won, Only({kClean, kCountOut})},
+    {after1::kBeatDown, Won, Only({kClean, kCountOut})},
+    {after1::kGetsRevenge, Won, Only({kInterference})},
+    {after1::kTwoOnLoser, Won, Only({kInterference})},
+    {after1::kAssaultGoesOn, Won, Only({kInterference})},
+    {after1::kTwoOnWinner, Won, Only({kBotchedInterference, kDqThroughInterference})},
+    {after1::kAttacksRunIn, Won, Only({kBotchedInterference, kDqThroughInterference})},
+    {after1::kAssaultGoesOn, Won, Only({kDqThroughInterference})},
+    {after1::kSave, Won, kForASide},
+    {after1::kFailedSave, Won, kForASide},
+    {after1::kRunInDestroys, Drawn, Only({kNoContest})},
+    {after1::kTwoOnFirst, Drawn, Only({kNoContest})},
+    {after1::kTwoOnSecond, Drawn, Only({kNoContest})},
+    {after1::kTwoOnRunIn, Drawn, Only({kNoContest})},
+    {after1::kThreeWayBrawl, Drawn, Only({kNoContest})},
+    {after1::kHandshake, Always, kEvery, Absence, Part::Other1},
+    {after1::kFirstRefusesHand, Always, kEvery, Absence, Part::Other1},
+    {after1::kSecondRefusesHand, Always, kEvery, Absence, Part::Other1},
+    {after1::kCheapShot, Won, kEvery, Absence, Part::Other1},
+    {after1::kBrawlToTheBack, Always, kEvery, Absence, Part::Other1},
+    {after1::kRunInOnFirst, Always, kEvery, Absence, Part::Other1},
+    {after1::kRunInOnSecond, Always, kEvery, Absence, Part::Other1},
+    {after1::kRunInOnBoth, Always, kEvery, Absence, Part::Other1},
+    {after1::kNothing, Always},
+};
+constexpr Offer kTagAftermathOffers[] = {
+    {after2::kBrawling, Drawn},
+    {after2::kFirstBeatsSecond, Drawn},
+    {after2::kSecondBeatsFirst, Drawn},
+    {after2::kThreeOnOne, Won, Only({kPartnerTurns})},
+    {after2::kRevenge, Won, AllBut({kPartnerTurns})},
+    {after2::kBeatenDown, Won, AllBut({kPartnerTurns})},
+    {after2::kFirstTurns, Won, AllBut({kPartnerTurns}), LosersTurn, Part::Worker1},
+    {after2::kSecondTurns, Won, AllBut({kPartnerTurns}), LosersTurn, Part::Worker2},
+    {after2::kThirdTurns, Won, AllBut({kPartnerTurns}), LosersTurn, Part::Worker3},
+    {after2::kFourthTurns, Won, AllBut({kPartnerTurns}), LosersTurn, Part::Worker4},
+    {after2::kLosersArgue, Won, AllBut({kPartnerTurns})},
+    {after2::kAssaultGoesOn, Won, Only({kInterference, kDqThroughInterference}), Presence,
+     Part::Other2},
+    {after2::kThreeOnTwo, Won, Only({kInterference, kDqThroughInterference}), Absence,
+     Part::Other2},
+    {after2::kAttackRunIns, Won, Only({kBotchedInterference}), Presence, Part::Other2},
+    {after2::kAttackRunIn, Won, Only({kBotchedInterference}), Absence, Part::Other2},
+    {after2::kSave, Won, kForASide},
+    {after2::kFailedSave, Won, kForASide},
+    {after2::kThreeTeamBrawl, Always, kForASide | Only({kNoContest}), Presence, Part::Other2},
+    {after2::kBrawlToTheBack, Always, kEvery, Absence, Part::Others12},
+    {after2::kRunInOnFirst, Always, kEvery, Absence, Part::Others12},
+    {after2::kRunInOnSecond, Always, kEvery, Absence, Part::Others12},
+    {after2::kRunInOnThird, Always, kEvery, Absence, Part::Others12},
+    {after2::kRunInOnFourth, Always, kEvery, Absence, Part::Others12},
+    {after2::kRunInOnFirstTeam, Always, kEvery, Absence, Part::Others12},
+    {after2::kRunInOnSecondTeam, Always, kEvery, Absence, Part::Others12},
+    {after2::kRunInOnBoth, Always, kEvery, Absence, Part::Others12},
+    {after2::kNothing, Always},
+};
+
+constexpr Offer kSinglesPurposeOffers[] = {
+    {purpose1::kDebutFirst, Always, kEvery, Debut, Part::Worker1},
+    {purpose1::kDebutSecond, Always, kEvery, Debut, Part::Worker2},
+    {purpose1::kDebutRunIn, Always, kEvery, Debut, Part::Other1},
+    {purpose1::kDebutRunIn2, Always, kEvery, Debut, Part::Other2},
+    {purpose1::kGoodMatch, Drawn},
+    {purpose1::kPutBothOver, Drawn},
+    {purpose1::kPutRunInOver, Drawn, Only({kNoContest})},
+    {purpose1::kContinueFeud, Drawn, kEvery, FeudBetween},
+    {purpose1::kPutWinnerOver},
+    {purpose1::kPutLoserOver},
+    {purpose1::kPutRunInOver, Won, kEvery, Presence, Part::Other1},
+    {purpose1::kPutRunIn2Over, Won, kEvery, Presence, Part::Other2},
+    {purpose1::kGoodMatch},
+    {purpose1::kEndFeud, Won, kEvery, FeudBetween},
+    {purpose1::kContinueFeud, Won, kEvery, FeudBetween},
+    {purpose1::kEyeCandy, Won, kEvery, Stripping},
+    {purpose1::kTurnWinner, Won, kEvery, Turn, Part::Winner},
+    {purpose1::kTurnLoser, Won, kEvery, Turn, Part::Loser},
+    {purpose1::kTurnRunIn, Won, kEvery, Turn, Part::Other1},
+    {purpose1::kTurnRunIn2, Won, kEvery, Turn, Part::Other2},
+    {purpose1::kNone, Always},
+};
+constexpr Offer kTagPurposeOffers[] = {
+    {purpose2::kDebutFirstTeam, Always, kEvery, PairDebut, Part::FirstTeam},
+    {purpose2::kDebutWorker1, Always, kEvery, Debut, Part::Worker1},
+    {purpose2::kDebutWorker2, Always, kEvery, Debut, Part::Worker2},
+    {purpose2::kDebutSecondTeam, Always, kEvery, PairDebut, Part::SecondTeam},
+    {purpose2::kDebutWorker3, Always, kEvery, Debut, Part::Worker3},
+    {purpose2::kDebutWorker4, Always, kEvery, Debut, Part::Worker4},
+    {purpose2::kDebutOthers12, Always, kEvery, PairDebut, Part::Others12},
+    {purpose2::kDebutOther1, Always, kEvery, Debut, Part::Other1},
+    {purpose2::kDebutOther2, Always, kEvery, Debut, Part::Other2},
+    {purpose2::kDebutOthers34, Always, kEvery, PairDebut, Part::Others34},
+    {purpose2::kDebutOther3, Always, kEvery, Debut, Part::Other3},
+    {purpose2::kDebutOther4, Always, kEvery, Debut, Part::Other4},
+    {purpose2::kGoodMatch, Drawn},
+    {purpose2::kPutBothOver, Drawn},
+    {purpose2::kPutOther1Over, Drawn, Only({kNoContest})},
+    {purpose2::kPutOthers12Over, Drawn, Only({kNoContest}), Presence, Part::Other2},
+    {purpose2::kContinueFeud, Drawn, kEvery, FeudBetween},
+    {purpose2::kPutFirstTeamOver},
+    {purpose2::kPutSecondTeamOver},
+    {purpose2::kPutWorker1Over},
+    {purpose2::kPutWorker2Over},
+    {purpose2::kPutWorker3Over},
+    {purpose2::kPutWorker4Over},
+    {purpose2::kPutOther1Over, Won, kEvery, Presence, Part::Other1},
+    {purpose2::kPutOthers12Over, Won, kEvery, Presence, Part::Other2},
+    {purpose2::kPutOther3Over, Won, kEvery, Presence, Part::Other3},
+    {purpose2::kPutOthers34Over, Won, kEvery, Presence, Part::Other4},
+    {purpose2::kGoodMatch},
+    {purpose2::kEndFeud, Won, kEvery, FeudBetween},
+    {purpose2::kContinueFeud, Won, kEvery, FeudBetween},
+    {purpose2::kTurnFirstTeam, Won, kEvery, PairTurn, Part::FirstTeam},
+    {purpose2::kTurnWorker1, Won, kEvery, Turn, Part::Worker1},
+    {purpose2::kTurnWorker2, Won, kEvery, Turn, Part::Worker2},
+    {purpose2::kTurnSecondTeam, Won, kEvery, PairTurn, Part::SecondTeam},
+    {purpose2::kTurnWorker3, Won, kEvery, Turn, Part::Worker3},
+    {purpose2::kTurnWorker4, Won, kEvery, Turn, Part::Worker4},
+    {purpose2::kTurnOthers12, Won, kEvery, PairTurn, Part::Others12},
+    {purpose2::kTurnOther1, Won, kEvery, Turn, Part::Other1},
+    {purpose2::kTurnOther2, Won, kEvery, Turn, Part::Other2},
+    {purpose2::kTurnOthers34, Won, kEvery, PairTurn, Part::Others34},
+    {purpose2::kTurnOther3, Won, kEvery, Turn, Part::Other3},
+    {purpose2::kTurnOther4, Won, kEvery, Turn, Part::Other4},
+    {purpose2::kNone, Always},
+};
+
+using Uids = std::vector<int>;
+
+bool IsPending(const World& world, int uid) {
   const Worker* worker = world.FindWorker(uid);
   return worker && worker->TurnPending;
-}
-
-/// The last three codes of the style are those of a draw.
-std::vector<int> DrawsOf(const Segment& match) {
-  if (match.Style == kSingles || match.Style == kTag)
-    return {kDoubleDq, kDoubleCountOut, kNoContest};
-  const int last = FinishesOf(match.Style).back().Code;
-  return {last - 2, last - 1, last};
-}
-
-/// Whoever is ready to turn may do so whether anybody wins or not.
-std::vector<int> TeamFinishes(const World& world, const Segment& match) {
-  std::vector<int> offered;
-  if (!IsDraw(match)) offered = {kClean, kCheapVictory};
-  int code = kFirstTurns;
-  for (const int uid : PeopleOf(match)) {
-    if (MayTurn(world, uid)) offered.push_back(code);
-    ++code;
-  }
-  if (!IsDraw(match)) return offered;
-  for (const int draw : DrawsOf(match)) offered.push_back(draw);
-  return offered;
-}
-
-}  // namespace
-
-std::vector<int> OfferedFinishes(const World& world, const Segment& match) {
-  if (FinishesOf(match.Style).empty()) return {};
-  if (match.Style != kSingles && match.Style != kTag) return TeamFinishes(world, match);
-  if (IsDraw(match)) return DrawsOf(match);
-  std::vector<int> offered;
-  const auto list = match.Style == kSingles ? std::span<const FinishRow>(kSinglesOffers) : kTagOffers;
-  for (const FinishRow& row : list) {
-    const bool turns = match.Style == kTag && row.Finish == kPartnerTurns;
-    if ((row.In >> match.MatchType & 1) == 0) continue;
-    if (!turns || MayTurn(world, PartnerOf(match, match.Loser))) offered.push_back(row.Finish);
-  }
-  return offered;
-}
-
-namespace {
-
-using Codes = std::vector<int>;
-
-void Add(Codes& to, std::initializer_list<int> codes) {
-  to.insert(to.end(), codes);
-}
-
-bool IsFinish(const Segment& match, std::initializer_list<int> finishes) {
-  for (const int finish : finishes)
-    if (match.Finish == finish) return true;
-  return false;
-}
-
-Codes SinglesAftermaths(const Segment& match) {
-  using namespace after1;
-  Codes list;
-  const bool won = !IsDraw(match);
-  if (won) {
-    Add(list, {kAttacksReferee, kTantrum, kWinnerRuns, kLoserRuns});
-    if (IsFinish(match, {kClean, kCountOut})) Add(list, {kRevengeAttack, kBeatDown});
-    if (IsFinish(match, {kInterference})) Add(list, {kGetsRevenge, kTwoOnLoser, kAssaultGoesOn});
-    if (IsFinish(match, {kBotchedInterference, kDqThroughInterference}))
-      Add(list, {kTwoOnWinner, kAttacksRunIn});
-    if (IsFinish(match, {kDqThroughInterference})) Add(list, {kAssaultGoesOn});
-    if (IsFinish(match, {kInterference, kBotchedInterference, kDqThroughInterference}))
-      Add(list, {kSave, kFailedSave});
-  } else if (IsFinish(match, {kNoContest})) {
-    Add(list, {kRunInDestroys, kTwoOnFirst, kTwoOnSecond, kTwoOnRunIn, kThreeWayBrawl});
-  }
-  if (match.Other1 == 0) {
-    Add(list, {kHandshake, kFirstRefusesHand, kSecondRefusesHand});
-    if (won) Add(list, {kCheapShot});
-    Add(list, {kBrawlToTheBack, kRunInOnFirst, kRunInOnSecond, kRunInOnBoth});
-  }
-  Add(list, {kNothing});
-  return list;
-}
-
-/// The losers who are ready to turn on their partner.
-void AddTurns(Codes& to, const World& world, const Segment& match) {
-  const std::vector<int> people = PeopleOf(match);
-  const int losing = SideOf(match, match.Loser);
-  for (std::size_t i = 0; i < people.size(); ++i) {
-    const Worker* worker = world.FindWorker(people[i]);
-    if (worker && worker->TurnPending && SideOf(match, people[i]) == losing)
-      to.push_back(after2::kFirstTurns + static_cast<int>(i));
-  }
-}
-
-void AddAfterWin(Codes& list, const World& world, const Segment& match) {
-  using namespace after2;
-  const bool two = match.Other2 != 0;
-  if (IsFinish(match, {kPartnerTurns})) {
-    Add(list, {kThreeOnOne});
-  } else {
-    Add(list, {kRevenge, kBeatenDown});
-    AddTurns(list, world, match);
-    Add(list, {kLosersArgue});
-  }
-  if (IsFinish(match, {kInterference, kDqThroughInterference}))
-    Add(list, {two ? kAssaultGoesOn : kThreeOnTwo});
-  if (IsFinish(match, {kBotchedInterference})) Add(list, {two ? kAttackRunIns : kAttackRunIn});
-  if (IsFinish(match, {kInterference, kBotchedInterference, kDqThroughInterference}))
-    Add(list, {kSave, kFailedSave});
-}
-
-Codes TagAftermaths(const World& world, const Segment& match) {
-  using namespace after2;
-  Codes list;
-  if (IsDraw(match))
-    Add(list, {kBrawling, kFirstBeatsSecond, kSecondBeatsFirst});
-  else
-    AddAfterWin(list, world, match);
-  if (match.Other2 != 0 &&
-      IsFinish(match, {kInterference, kBotchedInterference, kNoContest, kDqThroughInterference}))
-    Add(list, {kThreeTeamBrawl});
-  if (match.Other1 == 0 && match.Other2 == 0)
-    Add(list, {kBrawlToTheBack, kRunInOnFirst, kRunInOnSecond, kRunInOnThird, kRunInOnFourth,
-               kRunInOnFirstTeam, kRunInOnSecondTeam, kRunInOnBoth});
-  Add(list, {kNothing});
-  return list;
-}
-
-}  // namespace
-
-std::vector<int> OfferedAftermaths(const World& world, const Segment& match) {
-  if (match.Style == kSingles) return SinglesAftermaths(match);
-  return match.Style == kTag ? TagAftermaths(world, match) : Codes();
-}
-
-namespace {
-
-/// Who may turn in this match: for each act the people who do it, alone and, when all of them can,
-/// together.
-struct Turners {
-  std::vector<int> Alone;
-  std::vector<std::vector<int>> Together;
-
-  bool Has(int uid) const {
-    return uid != 0 && std::find(Alone.begin(), Alone.end(), uid) != Alone.end();
-  }
-  bool HasBoth(int first, int second) const {
-    return std::any_of(Together.begin(), Together.end(), [&](const std::vector<int>& pair) {
-      return (pair[0] == first && pair[1] == second) || (pair[0] == second && pair[1] == first);
-    });
-  }
-};
-
-Turners TurnersOf(const World& world, const Segment& match) {
-  Turners turners;
-  for (const Act& act : ActsOf(match)) {
-    if (!act.Is(kTurnOccasion)) continue;
-    const std::vector<int> on = PeopleOf(match, act.On);
-    const Worker* victim = on.empty() ? nullptr : world.FindWorker(on.front());
-    std::vector<int> ready;
-    for (const int uid : PeopleOf(match, act.By))
-      if (const Worker* worker = world.FindWorker(uid); worker && CanTurn(*worker, victim))
-        ready.push_back(uid);
-    turners.Alone.insert(turners.Alone.end(), ready.begin(), ready.end());
-    if (ready.size() == 2) turners.Together.push_back(ready);
-  }
-  return turners;
 }
 
 bool IsNew(const World& world, int uid) {
@@ -223,106 +227,114 @@ bool IsNew(const World& world, int uid) {
   return worker && !worker->Debuted;
 }
 
-void AddIf(Codes& to, bool offered, int code) {
-  if (offered) to.push_back(code);
-}
-
-Codes SinglesPurposes(const World& world, const Segment& match) {
-  using namespace purpose1;
-  const int first = match.Worker[0], second = match.Worker[1];
-  const bool feud = FeudExists(world, first, second);
-  Codes list;
-  AddIf(list, IsNew(world, first), kDebutFirst);
-  AddIf(list, IsNew(world, second), kDebutSecond);
-  AddIf(list, IsNew(world, match.Other1), kDebutRunIn);
-  AddIf(list, IsNew(world, match.Other2), kDebutRunIn2);
-  if (IsDraw(match)) {
-    list.insert(list.end(), {kGoodMatch, kPutBothOver});
-    AddIf(list, match.Finish == kNoContest, kPutRunInOver);
-    AddIf(list, feud, kContinueFeud);
-  } else {
-    const Turners turners = TurnersOf(world, match);
-    list.insert(list.end(), {kPutWinnerOver, kPutLoserOver});
-    AddIf(list, match.Other1 != 0, kPutRunInOver);
-    AddIf(list, match.Other2 != 0, kPutRunIn2Over);
-    list.push_back(kGoodMatch);
-    AddIf(list, feud, kEndFeud);
-    AddIf(list, feud, kContinueFeud);
-    AddIf(list, match.MatchType == kBraAndPanties || match.MatchType == kBuckNaked, kEyeCandy);
-    AddIf(list, turners.Has(match.Winner), kTurnWinner);
-    AddIf(list, turners.Has(match.Loser), kTurnLoser);
-    AddIf(list, turners.Has(match.Other1), kTurnRunIn);
-    AddIf(list, turners.Has(match.Other2), kTurnRunIn2);
+/// Who may turn in this match: for each act the people who do it and can.
+std::vector<Uids> TurnersOf(const World& world, const Segment& match) {
+  std::vector<Uids> turners;
+  for (const Act& act : ActsOf(match)) {
+    if (!act.Is(kTurnOccasion)) continue;
+    const Uids on = PeopleOf(match, act.On);
+    const Worker* victim = on.empty() ? nullptr : world.FindWorker(on.front());
+    Uids ready = PeopleOf(match, act.By);
+    std::erase_if(ready, [&](int uid) {
+      const Worker* worker = world.FindWorker(uid);
+      return !worker || !CanTurn(*worker, victim);
+    });
+    turners.push_back(std::move(ready));
   }
-  list.push_back(kNone);
-  return list;
+  return turners;
 }
 
-/// The codes that name a pair and each of its two; 0 where there is no such code.
-struct PairCodes {
-  int First, Second, Both;
+/// A match as its lists look at it.
+class Look {
+ public:
+  Look(const World& world, const Segment& match) : world_(world), match_(match) {}
+
+  bool Takes(const Offer& offer, int after) {
+    return (offer.Result == Always || (offer.Result == Drawn) == IsDraw(match_)) &&
+           (offer.After >> std::min(after, kBeyond) & 1) != 0 && Has(offer.Need, offer.Who);
+  }
+
+ private:
+  bool Has(Needs need, Part who) {
+    if (need == Nothing) return true;
+    if (need == FeudBetween) return IsFeud();
+    if (need == Stripping)
+      return match_.MatchType == kBraAndPanties || match_.MatchType == kBuckNaked;
+    const Uids uids = PeopleOf(match_, who);
+    if (need == Absence) return uids.empty();
+    const bool pair = need == PairDebut || need == PairTurn;
+    return uids.size() >= (pair ? 2 : 1) && HasAll(need, uids);
+  }
+
+  bool HasAll(Needs need, const Uids& uids) {
+    if (need == Turn || need == PairTurn) return Turns(uids);
+    return std::all_of(uids.begin(), uids.end(), [&](int uid) {
+      if (need == Debut || need == PairDebut) return IsNew(world_, uid);
+      if (need == LosersTurn && SideOf(match_, uid) != SideOf(match_, match_.Loser)) return false;
+      return need == Presence || IsPending(world_, uid);
+    });
+  }
+
+  /// Whether some act turns them, a pair both.
+  bool Turns(const Uids& uids) {
+    if (!turners_) turners_ = TurnersOf(world_, match_);
+    return std::any_of(turners_->begin(), turners_->end(), [&](const Uids& ready) {
+      return std::all_of(uids.begin(), uids.end(), [&](int uid) {
+        return std::find(ready.begin(), ready.end(), uid) != ready.end();
+      });
+    });
+  }
+
+  bool IsFeud() const {
+    const auto& worker = match_.Worker;
+    return match_.Style == kSingles
+               ? FeudExists(world_, worker[0], worker[1])
+               : FeudExists(world_, {{worker[0], worker[1]}, {worker[2], worker[3]}});
+  }
+
+  const World& world_;
+  const Segment& match_;
+  std::optional<std::vector<Uids>> turners_;
 };
 
-void AddPair(Codes& to, bool first, bool second, bool both, const PairCodes& codes) {
-  AddIf(to, both, codes.Both);
-  AddIf(to, first && codes.First != 0, codes.First);
-  AddIf(to, second && codes.Second != 0, codes.Second);
+std::vector<int> Offered(const World& world, const Segment& match, std::span<const Offer> singles,
+                         std::span<const Offer> tag, int after) {
+  std::vector<int> codes;
+  Look look(world, match);
+  if (match.Style == kSingles || match.Style == kTag)
+    for (const Offer& offer : match.Style == kSingles ? singles : tag)
+      if (look.Takes(offer, after)) codes.push_back(offer.Code);
+  return codes;
 }
 
-void AddDebuts(Codes& to, const World& world, int first, int second, const PairCodes& codes) {
-  const bool one = IsNew(world, first), two = IsNew(world, second);
-  AddPair(to, one, two, one && two, codes);
-}
-
-void AddTurns(Codes& to, const Turners& turners, int first, int second, const PairCodes& codes) {
-  AddPair(to, turners.Has(first), turners.Has(second), turners.HasBoth(first, second), codes);
-}
-
-void AddAfterTagWin(Codes& list, const World& world, const Segment& match, bool feud) {
-  using namespace purpose2;
-  const auto& worker = match.Worker;
-  list.insert(list.end(), {kPutFirstTeamOver, kPutSecondTeamOver, kPutWorker1Over, kPutWorker2Over,
-                           kPutWorker3Over, kPutWorker4Over});
-  AddIf(list, match.Other1 != 0, kPutOther1Over);
-  AddIf(list, match.Other2 != 0, kPutOthers12Over);
-  AddIf(list, match.Other3 != 0, kPutOther3Over);
-  AddIf(list, match.Other4 != 0, kPutOthers34Over);
-  list.push_back(kGoodMatch);
-  AddIf(list, feud, kEndFeud);
-  AddIf(list, feud, kContinueFeud);
-  const Turners turners = TurnersOf(world, match);
-  AddTurns(list, turners, worker[0], worker[1], {kTurnWorker1, kTurnWorker2, kTurnFirstTeam});
-  AddTurns(list, turners, worker[2], worker[3], {kTurnWorker3, kTurnWorker4, kTurnSecondTeam});
-  AddTurns(list, turners, match.Other1, match.Other2, {kTurnOther1, kTurnOther2, kTurnOthers12});
-  AddTurns(list, turners, match.Other3, match.Other4, {kTurnOther3, kTurnOther4, kTurnOthers34});
-}
-
-Codes TagPurposes(const World& world, const Segment& match) {
-  using namespace purpose2;
-  const auto& worker = match.Worker;
-  const bool feud = FeudExists(world, {{worker[0], worker[1]}, {worker[2], worker[3]}});
-  Codes list;
-  AddDebuts(list, world, worker[0], worker[1], {kDebutWorker1, kDebutWorker2, kDebutFirstTeam});
-  AddDebuts(list, world, worker[2], worker[3], {kDebutWorker3, kDebutWorker4, kDebutSecondTeam});
-  AddDebuts(list, world, match.Other1, match.Other2, {kDebutOther1, kDebutOther2, kDebutOthers12});
-  AddDebuts(list, world, match.Other3, match.Other4, {kDebutOther3, kDebutOther4, kDebutOthers34});
-  if (IsDraw(match)) {
-    list.insert(list.end(), {kGoodMatch, kPutBothOver});
-    AddIf(list, match.Finish == kNoContest, kPutOther1Over);
-    AddIf(list, match.Finish == kNoContest && match.Other2 != 0, kPutOthers12Over);
-    AddIf(list, feud, kContinueFeud);
-  } else {
-    AddAfterTagWin(list, world, match, feud);
+/// The finishes of trios and quartets. Whoever is ready to turn may do so whether anybody wins or
+/// not; the last three codes are those of a draw.
+std::vector<int> TeamFinishes(const World& world, const Segment& match) {
+  std::vector<int> offered;
+  if (!IsDraw(match)) offered = {kClean, kCheapVictory};
+  int code = kFirstTurns;
+  for (const int uid : PeopleOf(match)) {
+    if (IsPending(world, uid)) offered.push_back(code);
+    ++code;
   }
-  list.push_back(kNone);
-  return list;
+  const int last = FinishesOf(match.Style).back().Code;
+  if (IsDraw(match)) offered.insert(offered.end(), {last - 2, last - 1, last});
+  return offered;
 }
 
 }  // namespace
 
+std::vector<int> OfferedFinishes(const World& world, const Segment& match) {
+  if (match.Style == kThreeOnThree || match.Style == kFourOnFour) return TeamFinishes(world, match);
+  return Offered(world, match, kSinglesFinishOffers, kTagFinishOffers, match.MatchType);
+}
+
+std::vector<int> OfferedAftermaths(const World& world, const Segment& match) {
+  return Offered(world, match, kSinglesAftermathOffers, kTagAftermathOffers, match.Finish);
+}
+
 std::vector<int> OfferedPurposes(const World& world, const Segment& match) {
-  if (match.Style == kSingles) return SinglesPurposes(world, match);
-  return match.Style == kTag ? TagPurposes(world, match) : Codes();
+  return Offered(world, match, kSinglesPurposeOffers, kTagPurposeOffers, match.Finish);
 }
 
 }  // namespace grapplemont

@@ -45,10 +45,6 @@ Refusal Final(const Worker& speaker, std::string_view words) {
   return {speaker.Name + words, {}, true};
 }
 
-const Worker* WorkerAt(const World& world, const Segment& match, int place) {
-  return world.FindWorker(match.Worker[static_cast<std::size_t>(place - 1)]);
-}
-
 bool IsAmong(int code, std::initializer_list<int> codes) {
   return std::find(codes.begin(), codes.end(), code) != codes.end();
 }
@@ -225,8 +221,6 @@ Refusals FinishRefusals(const World& world, const Segment& match) {
 }
 
 // --- The aftermath of a singles match
-
-constexpr int kVengeful = 30;
 
 bool GetsNoHeatBack(const Worker& loser, int aftermath) {
   using namespace after1;

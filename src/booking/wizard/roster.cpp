@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/modWresCheck.h"
+#include "storylines/storynames.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
@@ -17,32 +18,12 @@ std::vector<const Worker*> WorkersWho(const World& world, Takes takes) {
   return found;
 }
 
-bool IsWrestlerOrManager(const Worker& worker) {
-  return worker.Position < kDevelopmentDeal || worker.Position == kManager;
-}
-
-/// Who must fit a singles Title: the places of the match that are looked at.
-int PlacesThatMustFit(const Segment& match) {
-  switch (match.Style) {
-    case kSingles:
-      return 2;
-    case kThreeWay:
-      return 3;
-    case kFourWay:
-      return 4;
-    case kSpecial:
-      return EntrantsOf(match);
-    default:
-      return 0;
-  }
-}
-
 bool AllFit(const World& world, const Title& title, const Segment& match) {
-  for (int place = 0; place < PlacesThatMustFit(match); ++place) {
-    const Worker* worker = world.FindWorker(match.Worker[static_cast<std::size_t>(place)]);
-    if (worker && !FitsTitle(title, *worker)) return false;
-  }
-  return true;
+  const std::vector<int> people = PeopleOf(match);
+  return std::all_of(people.begin(), people.end(), [&](int uid) {
+    const Worker* worker = world.FindWorker(uid);
+    return !worker || FitsTitle(title, *worker);
+  });
 }
 
 }  // namespace
@@ -56,8 +37,8 @@ bool IsAvailable(const World& world, const Worker& worker, const BookingView& vi
 }
 
 bool IsEligible(const World& world, const Worker& worker, const BookingView& view) {
-  return IsAvailable(world, worker, view) &&
-         (IsWrestlerOrManager(worker) || (view.IsEvent && worker.Position == kNonWrestler));
+  return IsAvailable(world, worker, view) && IsSeenOnShows(worker) &&
+         (view.IsEvent || worker.Position != kNonWrestler);
 }
 
 std::vector<const Worker*> EligibleRoster(const World& world, const BookingView& view) {
@@ -68,43 +49,43 @@ std::vector<const Worker*> RunInRoster(const World& world, const Segment& segmen
                                        const BookingView& view) {
   const std::vector<int> people = PeopleOf(segment);
   return WorkersWho(world, [&](const Worker& worker) {
-    return IsAvailable(world, worker, view) &&
-           (IsWrestlerOrManager(worker) || worker.Position == kNonWrestler) &&
+    return IsAvailable(world, worker, view) && IsSeenOnShows(worker) &&
            std::find(people.begin(), people.end(), worker.Uid) == people.end();
   });
 }
 
-std::vector<const Worker*> Talkers(const World& world, const BookingView& view) {
-  return WorkersWho(world, [&](const Worker& worker) {
-    return worker.Speaks && IsAvailable(world, worker, view) &&
-           (IsWrestlerOrManager(worker) || worker.Position == kNonWrestler);
-  });
+bool IsTalker(const World& world, const Worker& worker, const BookingView& view) {
+  return worker.Speaks && IsAvailable(world, worker, view) && IsSeenOnShows(worker);
 }
 
 bool CanTurn(const Worker& turner, const Worker* partner) {
   if (!turner.TurnPending) return false;
-  if (!partner) return !(turner.Disposition == "H");
+  if (!partner) return turner.Disposition != "H";
   const std::string pair = turner.Disposition.Str() + partner->Disposition.Str();
   return pair != "HF" && pair != "FH" && pair != "TT";
 }
 
-std::vector<const MatchTypeRow*> OfferedMatchTypes(const World& world, int style) {
+bool IsOffered(const World& world, const MatchTypeRow& type) {
   const Promotion& player = world.Player();
+  return player.Risk > type.RiskOver && player.Size < type.SizeUnder;
+}
+
+std::vector<const MatchTypeRow*> OfferedMatchTypes(const World& world, int style) {
   std::vector<const MatchTypeRow*> offered;
   for (const MatchTypeRow& type : kMatchTypes)
-    if (type.Style == style && player.Risk > type.RiskOver && player.Size < type.SizeUnder)
-      offered.push_back(&type);
+    if (type.Style == style && IsOffered(world, type)) offered.push_back(&type);
   return offered;
 }
 
 std::vector<const Title*> OfferedTitles(const World& world, const Segment& match) {
-  const bool singles = match.Style == kSingles || match.Style == kThreeWay ||
-                       match.Style == kFourWay || match.Style == kSpecial;
-  const bool tag = match.Style == kTag || match.Style == kThreeTeams || match.Style == kFourTeams;
+  // Those for a team are fought for by sides of two.
+  const MatchStyleRow* style = FindMatchStyle(match.Style);
+  const int perSide = style ? style->PerSide : 0;
   std::vector<const Title*> offered;
   for (const Title& title : world.Titles()) {
-    if (title.Owner != world.PlayerUid() || title.Suspended) continue;
-    if (title.Singles ? singles && AllFit(world, title, match) : tag) offered.push_back(&title);
+    if (!IsPlayers(world, title) || title.Suspended) continue;
+    if (title.Singles ? perSide == 1 && AllFit(world, title, match) : perSide == 2)
+      offered.push_back(&title);
   }
   return offered;
 }

@@ -29,12 +29,14 @@ std::vector<const Worker*> EligibleRoster(const World& world, const BookingView&
 /// Who may run in: the same with non-wrestlers, without the match's own participants.
 std::vector<const Worker*> RunInRoster(const World& world, const Segment& segment,
                                        const BookingView& view);
-/// Who may be interviewed: eligible or a non-wrestler, and able to speak.
-std::vector<const Worker*> Talkers(const World& world, const BookingView& view);
+/// May be interviewed: able to speak, and available as a wrestler, manager or non-wrestler.
+bool IsTalker(const World& world, const Worker& worker, const BookingView& view);
 
 /// Whether a turn of `turner` is prepared and makes sense against a partner (nullptr for nobody).
 bool CanTurn(const Worker& turner, const Worker* partner);
 
+/// Whether the player's promotion can hold matches of this type.
+bool IsOffered(const World& world, const MatchTypeRow& type);
 /// The match types of a style that the player's promotion can hold, in the order of the list.
 std::vector<const MatchTypeRow*> OfferedMatchTypes(const World& world, int style);
 

@@ -6,6 +6,7 @@
 #include "booking/wizard/interviews.h"
 #include "booking/wizard/matchrules.h"
 #include "booking/wizard/offers.h"
+#include "booking/wizard/refusals.h"
 #include "booking/wizard/roster.h"
 #include "records/modWresCheck.h"
 
@@ -151,6 +152,85 @@ std::vector<std::string> WhyNotMatch(const World& world, const Segment& match,
   return reasons.All();
 }
 
+// --- Interviews and angles
+
+std::string NameOr(const World& world, int uid) {
+  const std::string name = WorkerName(world, uid);
+  return name.empty() ? "Worker " + std::to_string(uid) : name;
+}
+
+std::string WhatIsCast(const World& world, const Segment& segment, const Role& seat) {
+  if (seat.Place != 0) return NameOr(world, UidAt(segment, seat.Place));
+  return seat.From == Casting::Stables ? segment.Text.Str() : segment.TitleName.Str();
+}
+
+/// Words that only matches have.
+bool HasMatchWords(const Segment& segment) {
+  for (const int word : {segment.MatchType, segment.Winner, segment.Loser, segment.Place3,
+                         segment.Place4, segment.Finish, segment.Other1, segment.Other2,
+                         segment.Other3, segment.Other4, segment.Aftermath})
+    if (word != 0) return true;
+  return false;
+}
+
+/// Whether the seat's list holds who or what has been put into it.
+bool IsCandidate(const World& world, const Segment& segment, const Role& seat,
+                 const BookingView& view) {
+  if (seat.Place != 0) {
+    const Worker* worker = WorkerAt(world, segment, seat.Place);
+    return worker && MayBeCast(world, seat.From, *worker, segment, view);
+  }
+  const std::vector<Candidate> list = CandidatesFor(world, seat.From, segment, view);
+  return std::any_of(list.begin(), list.end(), [&](const Candidate& candidate) {
+    return candidate.Name == WhatIsCast(world, segment, seat);
+  });
+}
+
+/// Who is in a seat but not in its list, as a fault.
+void AddStrangers(Reasons& reasons, const World& world, const Segment& talk, Casting from,
+                  const std::string& fault, const BookingView& view) {
+  for (const Role& seat : SeatsOf(talk))
+    if (seat.From == from && IsCast(talk, seat))
+      reasons.AddIf(!IsCandidate(world, talk, seat, view), WhatIsCast(world, talk, seat) + fault);
+}
+
+void CheckInterview(Reasons& reasons, const World& world, const Segment& interview,
+                    const BookingView& view) {
+  AddStrangers(reasons, world, interview, Casting::Talkers, " cannot be interviewed.", view);
+  AddStrangers(reasons, world, interview, Casting::TalkManagers, " cannot speak for anybody.",
+               view);
+  AddStrangers(reasons, world, interview, Casting::Targets, " cannot be a target.", view);
+  reasons.Add(WhyNotSpeakers(world, interview));
+  reasons.Add(WhyNotTargets(interview));
+  reasons.AddIf(!Holds(OfferedTalkPurposes(world, interview), int(interview.Purpose)),
+                "The interview cannot have purpose " + std::to_string(interview.Purpose) + ".");
+  reasons.AddIf(interview.TitleName != "None" || interview.Text != "None",
+                "An interview is for no Title and has no text.");
+}
+
+/// What the angle's seats do not use stays as it was when nothing was booked.
+bool HasLeftOvers(const Segment& segment) {
+  Segment rest = segment;
+  for (const Role& seat : SeatsOf(segment)) Cast(rest, seat, {"None", 0});
+  const auto last = rest.Worker.begin() + kAnglePlaces;
+  return std::any_of(rest.Worker.begin(), last, [](int uid) { return uid != 0; }) ||
+         rest.TitleName != "None" || rest.Text != "None" || rest.Purpose != 0;
+}
+
+void CheckAngle(Reasons& reasons, const World& world, const Angle& angle, const Segment& segment,
+                const BookingView& view) {
+  reasons.AddIf(!EnoughWriters(world, view.IsEvent), "There are not enough writers for an angle.");
+  reasons.AddIf(!IsOffered(world, angle),
+                "The angle \"" + std::string(angle.Says) + "\" is not offered today.");
+  for (const Role& seat : SeatsOf(segment))
+    if (IsCast(segment, seat))
+      reasons.AddIf(!IsCandidate(world, segment, seat, view),
+                    WhatIsCast(world, segment, seat) + " cannot be cast as \"" +
+                        std::string(seat.Caption) + "\".");
+  reasons.Add(WhyNotCast(world, segment, view));
+  reasons.AddIf(HasLeftOvers(segment), "The angle holds something that none of its roles is for.");
+}
+
 }  // namespace
 
 std::vector<std::string> WhyNotBookable(const World& world, const Segment& segment,
@@ -166,119 +246,24 @@ std::vector<std::string> WhyNotBookable(const World& world, const Segment& segme
   }
 }
 
-namespace {
-
-using Faults = std::vector<std::string>;
-
-std::string NameOr(const World& world, int uid) {
-  const std::string name = WorkerName(world, uid);
-  return name.empty() ? "Worker " + std::to_string(uid) : name;
-}
-
-void Tell(Faults& faults, std::string fault) {
-  if (!fault.empty()) faults.push_back(std::move(fault));
-}
-
-bool Holds(const std::vector<const Worker*>& list, int uid) {
-  return std::any_of(list.begin(), list.end(),
-                     [&](const Worker* worker) { return worker->Uid == uid; });
-}
-
-/// A fault for everybody at these places who is not in the list they are chosen from; nobody stands
-/// in every list.
-void TellStrangers(Faults& faults, const World& world, const std::vector<int>& uids,
-                   const std::vector<const Worker*>& list, const std::string& fault) {
-  for (const int uid : uids)
-    if (uid != 0 && !Holds(list, uid)) faults.push_back(NameOr(world, uid) + fault);
-}
-
-/// Words that only matches have.
-bool HasMatchWords(const Segment& segment) {
-  for (const int word : {segment.MatchType, segment.Winner, segment.Loser, segment.Place3,
-                         segment.Place4, segment.Finish, segment.Other1, segment.Other2,
-                         segment.Other3, segment.Other4, segment.Aftermath})
-    if (word != 0) return true;
-  return false;
-}
-
-Faults WhyNotInterview(const World& world, const Segment& interview, const BookingView& view) {
-  const TalkShape* shape = FindTalkShape(interview.Style);
-  if (!shape) return {"There is no interview style " + std::to_string(interview.Style) + "."};
-  Faults faults;
-  const auto at = [&](int place, int places) { return WorkersAt(interview, place, places); };
-  TellStrangers(faults, world, at(shape->FirstWorker, shape->Workers), Talkers(world, view),
-                " cannot be interviewed.");
-  if (shape->Manager != 0)
-    TellStrangers(faults, world, at(shape->Manager, 1), TalkingManagers(world, view),
-                  " cannot speak for anybody.");
-  TellStrangers(faults, world, at(shape->FirstTarget, shape->Targets),
-                TalkTargets(world, interview, view), " cannot be a target.");
-  Tell(faults, WhyNotSpeakers(world, interview));
-  Tell(faults, WhyNotTargets(interview));
-  const std::vector<int> purposes = OfferedTalkPurposes(world, interview);
-  if (std::find(purposes.begin(), purposes.end(), interview.Purpose) == purposes.end())
-    faults.push_back("The interview cannot have purpose " + std::to_string(interview.Purpose) +
-                     ".");
-  if (!(interview.TitleName == "None") || !(interview.Text == "None"))
-    faults.push_back("An interview is for no Title and has no text.");
-  return faults;
-}
-
-std::string WhatIsCast(const World& world, const Segment& segment, const Role& role) {
-  if (role.Place != 0) return NameOr(world, WorkersAt(segment, role.Place, 1).front());
-  return role.From == Casting::Stables ? segment.Text.Str() : segment.TitleName.Str();
-}
-
-bool IsCandidate(const World& world, const Segment& segment, const Role& role,
-                 const BookingView& view) {
-  const int uid = role.Place == 0 ? 0 : WorkersAt(segment, role.Place, 1).front();
-  const std::string name = WhatIsCast(world, segment, role);
-  const std::vector<Candidate> list = CandidatesFor(world, role.From, segment.Style, view);
-  return std::any_of(list.begin(), list.end(), [&](const Candidate& candidate) {
-    return candidate.Uid == uid && (uid != 0 || candidate.Name == name);
-  });
-}
-
-/// What the angle's roles do not use stays as it was when nothing was booked.
-bool HasLeftOvers(const Angle& angle, const Segment& segment) {
-  Segment rest = segment;
-  for (const Role& role : angle.Roles) {
-    if (!IsUsed(role)) continue;
-    Cast(rest, role, {"None", 0});
-  }
-  const std::vector<int> places = WorkersAt(rest, 1, kAnglePlaces);
-  return std::any_of(places.begin(), places.end(), [](int uid) { return uid != 0; }) ||
-         !(rest.TitleName == "None") || !(rest.Text == "None") || rest.Purpose != 0;
-}
-
-Faults WhyNotAngle(const World& world, const Segment& segment, const BookingView& view) {
-  const Angle* angle = FindAngle(segment.Style);
-  if (!angle) return {"There is no angle " + std::to_string(segment.Style) + "."};
-  Faults faults;
-  if (!EnoughWriters(world, view.IsEvent))
-    faults.push_back("There are not enough writers for an angle.");
-  if (!IsOffered(world, *angle))
-    faults.push_back("The angle \"" + std::string(angle->Says) + "\" is not offered today.");
-  for (const Role& role : angle->Roles)
-    if (IsUsed(role) && IsCast(segment, role) && !IsCandidate(world, segment, role, view))
-      faults.push_back(WhatIsCast(world, segment, role) + " cannot be cast as \"" +
-                       std::string(role.Caption) + "\".");
-  Tell(faults, WhyNotCast(world, segment, view));
-  if (HasLeftOvers(*angle, segment))
-    faults.push_back("The angle holds something that none of its roles is for.");
-  return faults;
-}
-
-}  // namespace
-
 std::vector<std::string> WhyNotTalk(const World& world, const Segment& segment,
                                     const BookingView& view) {
   if (segment.Kind != kInterview && segment.Kind != kAngle)
     return {"The Segment is no interview and no angle."};
-  Faults faults = segment.Kind == kInterview ? WhyNotInterview(world, segment, view)
-                                             : WhyNotAngle(world, segment, view);
-  if (HasMatchWords(segment)) faults.push_back("The Segment holds what only a match has.");
-  return faults;
+  Reasons reasons;
+  const std::string style = std::to_string(segment.Style) + ".";
+  if (segment.Kind == kInterview) {
+    if (FindInterviewStyle(segment.Style))
+      CheckInterview(reasons, world, segment, view);
+    else
+      reasons.Add("There is no interview style " + style);
+  } else if (const Angle* angle = FindAngle(segment.Style)) {
+    CheckAngle(reasons, world, *angle, segment, view);
+  } else {
+    reasons.Add("There is no angle " + style);
+  }
+  reasons.AddIf(HasMatchWords(segment), "The Segment holds what only a match has.");
+  return reasons.All();
 }
 
 }  // namespace grapplemont

@@ -1,11 +1,9 @@
 #include "booking/wizard/wizard.h"
 
-#include <algorithm>
-#include <iterator>
+#include <span>
 
 #include "booking/wizard/matchrules.h"
-#include "records/angles.h"
-#include "records/segments.h"
+#include "records/counted.h"
 
 namespace grapplemont {
 
@@ -13,83 +11,41 @@ namespace {
 
 constexpr const char* kNotReached = "???";
 
-/// How many steps a match style asks for: the winner is the last one, or the finish, or the
-/// purpose.
-int MatchSteps(int style) {
-  if (!PurposesOf(style).empty()) return kPurposeStep + 1;
-  return (FinishesOf(style).empty() ? kResultStep : kFinishStep) + 1;
-}
-
-void ClearWorkers(Segment& segment, int from, int count) {
-  for (int place = from; place < from + count; ++place)
-    segment.Worker[static_cast<std::size_t>(place - 1)] = 0;
-}
-
 void ClearResult(Segment& segment) {
-  for (Word* place : {&segment.Winner, &segment.Loser, &segment.Place3, &segment.Place4,
-                      &segment.Place5, &segment.Place6, &segment.Place7, &segment.Place8})
-    *place = 0;
+  for (Word* field : LoserFields(segment)) *field = 0;
+  segment.Winner = 0;
 }
 
-using Undo = void (*)(Segment&);
-
-constexpr Undo kClearKind = [](Segment& s) { s.Kind = 0; };
-constexpr Undo kClearStyle = [](Segment& s) { s.Style = 0; };
-constexpr Undo kClearPurpose = [](Segment& s) { s.Purpose = 0; };
-
-/// What takes back each step, in their order.
-constexpr Undo kUndoMatch[] = {
-    kClearKind,
-    kClearStyle,
-    [](Segment& s) { s.MatchType = 0; },
-    [](Segment& s) { s.Worker = {}; },
-    [](Segment& s) { s.TitleName = "None"; },
-    ClearResult,
-    [](Segment& s) { s.Finish = s.Other1 = s.Other2 = 0; },
-    // Its run-ins share a field with those of the finish in a singles match.
-    [](Segment& s) { s = BeforeAftermath(s); },
-    kClearPurpose,
-};
-
-constexpr Undo kUndoInterview[] = {
-    kClearKind,
-    kClearStyle,
-    [](Segment& s) { s.Worker = {}; },
-    [](Segment& s) {
-      if (const InterviewStyleRow* style = FindInterviewStyle(s.Style))
-        ClearWorkers(s, style->Speakers + 1, style->Targets);
-    },
-    kClearPurpose,
-};
-
-constexpr Undo kUndoAngle[] = {
-    kClearKind,
-    kClearStyle,
-    [](Segment& s) {
-      s.Worker = {};
-      s.TitleName = "None";
-      s.Text = "None";
-    },
-};
-
-std::span<const Undo> UndoOf(int kind) {
-  if (kind == kInterview) return kUndoInterview;
-  return kind == kAngle ? std::span<const Undo>(kUndoAngle) : kUndoMatch;
+void ClearTargets(Segment& segment) {
+  for (const Role& seat : SeatsOf(segment))
+    if (seat.From == Casting::Targets) segment.Worker[static_cast<std::size_t>(seat.Place - 1)] = 0;
 }
 
-std::string Joined(const std::vector<std::string>& parts, std::string_view between) {
-  std::string text;
-  for (const std::string& part : parts)
-    text += (text.empty() ? std::string() : std::string(between)) + part;
-  return text;
+void ClearCast(Segment& segment) {
+  segment.Worker = {};
+  segment.TitleName = "None";
+  segment.Text = "None";
 }
 
-int WorkerAt(const Segment& segment, int place) {
-  return segment.Worker[static_cast<std::size_t>(place - 1)];
+// The wizard's screens of the steps that look different from style to style.
+
+template <std::string_view MatchStyleRow::*screen>
+std::string_view ByMatchStyle(const Segment& segment) {
+  const MatchStyleRow* style = FindMatchStyle(segment.Style);
+  return style ? style->*screen : std::string_view();
 }
 
-/// What is said of a step once it is done.
-using Summary = std::string (*)(const World&, const Segment&);
+template <std::string_view InterviewStyleRow::*screen>
+std::string_view ByInterviewStyle(const Segment& segment) {
+  const InterviewStyleRow* style = FindInterviewStyle(segment.Style);
+  return style ? style->*screen : std::string_view();
+}
+
+std::string_view ByResult(const Segment& segment) {
+  return ResultFormOf(segment).Screen;
+}
+
+// What is said of a step once it is done.
 
 std::string KindSummary(const World&, const Segment& segment) {
   return "Segment Type = " + std::string(Says(kSegmentKinds, segment.Kind));
@@ -142,26 +98,14 @@ std::string TalkStyleSummary(const World&, const Segment& segment) {
 }
 
 std::string SpeakersSummary(const World& world, const Segment& segment) {
-  const auto worker = [&](int place) { return WorkerAt(segment, place); };
-  switch (segment.Style) {
-    case kTeamTalk:
-      return "Participants = " + SideText(world, {worker(1), worker(2)});
-    case kManagedTalk:
-      return "Participants = " + SideText(world, {worker(1)}) + " With " +
-             SideText(world, {worker(2)});
-    case kManagedTeamTalk:
-      return "Participants = " + SideText(world, {worker(2), worker(3)}) + " With " +
-             SideText(world, {worker(1)});
-    default:
-      return "Participants = " + SideText(world, {worker(1)});
-  }
+  const std::vector<int> managers = SeatedAs(segment, Casting::TalkManagers);
+  return "Participants = " + SideText(world, SeatedAs(segment, Casting::Talkers)) +
+         (managers.empty() ? "" : " With " + SideText(world, managers));
 }
 
 std::string TargetsSummary(const World& world, const Segment& segment) {
-  const InterviewStyleRow* style = FindInterviewStyle(segment.Style);
-  std::vector<int> targets;
-  for (int place = 1; style && place <= style->Targets; ++place)
-    if (const int uid = WorkerAt(segment, style->Speakers + place)) targets.push_back(uid);
+  std::vector<int> targets = SeatedAs(segment, Casting::Targets);
+  std::erase(targets, 0);
   return "Targets = " + (targets.empty() ? std::string("None") : SideText(world, targets));
 }
 
@@ -179,39 +123,62 @@ std::string CastSummary(const World& world, const Segment& segment) {
   if (IsToldByStable(segment.Style)) return "Participants = " + segment.Text;
   std::vector<std::string> cast;
   for (const int uid : PeopleOf(segment)) cast.push_back(SideText(world, {uid}));
-  if (!(segment.Text == "None")) cast.push_back(segment.Text.Str());
+  if (segment.Text != "None") cast.push_back(segment.Text.Str());
   return "Participants = " + Joined(cast, ", ");
 }
 
-/// One step of a path: what it is called, who does it, what is said of it.
+/// One step of a path: what it is called, the screen that does it, by the Segment's style where
+/// there is a function for it, what takes it back, and what is said of it.
 struct StepRow {
   std::string_view Caption;
-  std::string_view Screen;  // empty: by the Segment's style
-  Summary Says;
+  std::string_view Screen;
+  std::string_view (*ByStyle)(const Segment&);
+  void (*Undo)(Segment&);
+  std::string (*Says)(const World&, const Segment&);
 };
-constexpr StepRow kKindRow = {"Select Segment Type", "frmBookStyle", KindSummary};
+
+void ClearKind(Segment& segment) {
+  segment.Kind = 0;
+}
+void ClearStyle(Segment& segment) {
+  segment.Style = 0;
+}
+void ClearPurpose(Segment& segment) {
+  segment.Purpose = 0;
+}
+
+constexpr StepRow kKindRow = {"Select Segment Type", "frmBookStyle", nullptr, ClearKind,
+                              KindSummary};
 constexpr StepRow kMatchSteps[] = {
     kKindRow,
-    {"Select Match Style", "frmBookType", StyleSummary},
-    {"Select Match Type", "frmBookMatchStyle", TypeSummary},
-    {"Select Participants", "", PeopleSummary},
-    {"Select Title", "frmBookBelt", TitleSummary},
-    {"Select Result", "", ResultSummary},
-    {"Select Finish", "", FinishSummary},
-    {"Select Aftermath", "", AftermathSummary},
-    {"Select Purpose", "", PurposeSummary},
+    {"Select Match Style", "frmBookType", nullptr, ClearStyle, StyleSummary},
+    {"Select Match Type", "frmBookMatchStyle", nullptr, [](Segment& s) { s.MatchType = 0; },
+     TypeSummary},
+    {"Select Participants", "", ByMatchStyle<&MatchStyleRow::People>,
+     [](Segment& s) { s.Worker = {}; }, PeopleSummary},
+    {"Select Title", "frmBookBelt", nullptr, [](Segment& s) { s.TitleName = "None"; },
+     TitleSummary},
+    {"Select Result", "", ByResult, ClearResult, ResultSummary},
+    {"Select Finish", "", ByMatchStyle<&MatchStyleRow::Finish>,
+     [](Segment& s) { s.Finish = s.Other1 = s.Other2 = 0; }, FinishSummary},
+    // Its run-ins share a field with those of the finish in a singles match.
+    {"Select Aftermath", "", ByMatchStyle<&MatchStyleRow::Aftermath>,
+     [](Segment& s) { s = BeforeAftermath(s); }, AftermathSummary},
+    {"Select Purpose", "", ByMatchStyle<&MatchStyleRow::Purpose>, ClearPurpose, PurposeSummary},
 };
 constexpr StepRow kInterviewSteps[] = {
     kKindRow,
-    {"Select Interview Style", "frmIVType", TalkStyleSummary},
-    {"Select Participants", "", SpeakersSummary},
-    {"Select Targets", "", TargetsSummary},
-    {"Select Interview Purpose", "frmIVPurpose", TalkPurposeSummary},
+    {"Select Interview Style", "frmIVType", nullptr, ClearStyle, TalkStyleSummary},
+    {"Select Participants", "", ByInterviewStyle<&InterviewStyleRow::SpeakersScreen>,
+     [](Segment& s) { s.Worker = {}; }, SpeakersSummary},
+    {"Select Targets", "", ByInterviewStyle<&InterviewStyleRow::TargetsScreen>, ClearTargets,
+     TargetsSummary},
+    {"Select Interview Purpose", "frmIVPurpose", nullptr, ClearPurpose, TalkPurposeSummary},
 };
 constexpr StepRow kAngleSteps[] = {
     kKindRow,
-    {"Select Angle", "frmAngleType", AngleSummary},
-    {"Select Participants", "frmAnglePeople", CastSummary},
+    {"Select Angle", "frmAngleType", nullptr, ClearStyle, AngleSummary},
+    {"Select Participants", "frmAnglePeople", nullptr, ClearCast, CastSummary},
 };
 
 std::span<const StepRow> StepsOfKind(int kind) {
@@ -219,34 +186,18 @@ std::span<const StepRow> StepsOfKind(int kind) {
   return kind == kAngle ? std::span<const StepRow>(kAngleSteps) : kMatchSteps;
 }
 
-/// Where a style has a screen of its own: one row a step, one word a style.
-struct ScreensByStyle {
-  int Kind;
-  int Step;
-  std::string_view Screens[9];
-};
-constexpr ScreensByStyle kScreensByStyle[] = {
-    {kMatch,
-     kPeopleStep,
-     {"frmBook1vs1", "frmBook2vs2", "frmBook3x1", "frmBook3x2", "frmBook4x1", "frmBook4x2",
-      "frmBook3vs3", "frmBook4vs4", "frmBookSpecial"}},
-    {kMatch,
-     kFinishStep,
-     {"frmBook1vs1Finish", "frmBook2vs2Finish", "", "", "", "", "frmBook3vs3Finish",
-      "frmBook4vs4Finish", ""}},
-    {kMatch, kAftermathStep, {"frmBookAfter", "frmBook2vs2After"}},
-    {kMatch, kPurposeStep, {"frmBookPurpose", "frmBook2vs2Purpose"}},
-    {kInterview, 2, {"frmIV1", "frmIV2", "frmIV1m", "frmIV2m"}},
-    {kInterview, 3, {"frmIV1opp", "frmIV2opp", "frmIV1opp", "frmIV2opp"}},
-};
+/// nullptr beyond the last.
+const StepRow* RowOf(const Segment& segment, int step) {
+  const auto rows = StepsOfKind(segment.Kind);
+  const bool there = step >= 0 && step < static_cast<int>(rows.size());
+  return there ? &rows[static_cast<std::size_t>(step)] : nullptr;
+}
 
-std::string ScreenByStyle(const Segment& segment, int step) {
-  if (segment.Kind == kMatch && step == kResultStep)
-    return std::string(ResultFormOf(segment).Screen);
-  for (const ScreensByStyle& row : kScreensByStyle)
-    if (row.Kind == segment.Kind && row.Step == step && segment.Style >= 1 && segment.Style <= 9)
-      return std::string(row.Screens[segment.Style - 1]);
-  return {};
+/// The winner is the last step of a match, or the finish, or the purpose.
+int MatchSteps(int style) {
+  const MatchStyleRow* row = FindMatchStyle(style);
+  if (!row || row->Finish.empty()) return kResultStep + 1;
+  return (row->Purpose.empty() ? kFinishStep : kPurposeStep) + 1;
 }
 
 }  // namespace
@@ -260,16 +211,9 @@ Wizard BeginBooking(int slot, bool isEvent) {
 }
 
 int StepsOf(const Segment& segment) {
-  switch (segment.Kind) {
-    case kMatch:
-      return MatchSteps(segment.Style);
-    case kInterview:
-      return static_cast<int>(std::size(kInterviewSteps));
-    case kAngle:
-      return static_cast<int>(std::size(kAngleSteps));
-    default:
-      return 1;
-  }
+  if (segment.Kind == kMatch) return MatchSteps(segment.Style);
+  const bool isTalk = segment.Kind == kInterview || segment.Kind == kAngle;
+  return isTalk ? static_cast<int>(StepsOfKind(segment.Kind).size()) : 1;
 }
 
 void StepDone(Wizard& wizard) {
@@ -281,30 +225,25 @@ void StepBack(Wizard& wizard) {
   if (wizard.Step == 0) return;
   wizard.SegmentComplete = false;
   --wizard.Step;
-  const auto undo = UndoOf(wizard.Buffer.Kind);
-  if (wizard.Step < static_cast<int>(undo.size()))
-    undo[static_cast<std::size_t>(wizard.Step)](wizard.Buffer);
+  if (const StepRow* row = RowOf(wizard.Buffer, wizard.Step)) row->Undo(wizard.Buffer);
 }
 
 StepText TextOfStep(const World& world, const Wizard& wizard, int step) {
-  const auto rows = StepsOfKind(wizard.Buffer.Kind);
-  if (step > wizard.Step || step >= static_cast<int>(rows.size()) ||
-      (wizard.SegmentComplete && step >= wizard.Step))
+  const StepRow* row = RowOf(wizard.Buffer, step);
+  if (step > wizard.Step || !row || (wizard.SegmentComplete && step >= wizard.Step))
     return {kNotReached, {}, {}};
-  const StepRow& row = rows[static_cast<std::size_t>(step)];
-  StepText text{std::string(row.Caption), {}, {}};
+  StepText text{std::string(row->Caption), {}, {}};
   if (step == wizard.Step) return text;
-  text.Summary = row.Says(world, wizard.Buffer);
-  if (row.Says == FinishSummary && NeedsFinishRunIn(wizard.Buffer.Style, wizard.Buffer.Finish))
+  text.Summary = row->Says(world, wizard.Buffer);
+  if (row->Says == FinishSummary && NeedsFinishRunIn(wizard.Buffer.Style, wizard.Buffer.Finish))
     text.Tip = "From " + SideText(world, FinishRunIns(wizard.Buffer));
   return text;
 }
 
 std::string ScreenOfStep(const Wizard& wizard, int step) {
-  const auto rows = StepsOfKind(wizard.Buffer.Kind);
-  if (step < 0 || step >= static_cast<int>(rows.size())) return {};
-  const StepRow& row = rows[static_cast<std::size_t>(step)];
-  return row.Screen.empty() ? ScreenByStyle(wizard.Buffer, step) : std::string(row.Screen);
+  const StepRow* row = RowOf(wizard.Buffer, step);
+  if (!row) return {};
+  return std::string(row->ByStyle ? row->ByStyle(wizard.Buffer) : row->Screen);
 }
 
 }  // namespace grapplemont

@@ -15,9 +15,6 @@ namespace grapplemont {
 namespace {
 
 enum Whose { kYours = 1, kEverybodys };
-/// Of the world's Titles one wants to know whose they are; since when they are held, the history
-/// tells.
-constexpr std::size_t kSince = 3;
 enum ForHowMany { kForOne = 1, kForTwo };
 
 /// The player's Titles to be made, given, taken and given up; the whole world's to be looked at.
@@ -78,21 +75,31 @@ class frmBelts : public ui::Screen {
     return PromotionInitials(world(), title.Owner);
   }
 
+  /// Of the world's Titles one wants to know whose they are; since when they are held, the history
+  /// says.
+  ColumnsOf<grapplemont::Title> Table() {
+    constexpr std::size_t kSince = 3;
+    ColumnsOf<grapplemont::Title> columns = TitleTable(world());
+    if (cmbwhose.Key() == kEverybodys)
+      columns[kSince] = {{"Of"}, [this](const auto& title) { return OwnerCell(title); }};
+    return columns;
+  }
+
   void ShowTitles() {
     // On the very day of the change; nothing is written once the career has ended.
     if (!HasEnded(world().Game())) UpdateReigns(world());
     std::vector<ui::ListBox::Row> rows;
     int vacant = 0;
-    const bool all = cmbwhose.Key() == kEverybodys;
+    const auto columns = Table();
     for (const grapplemont::Title& title : world().Titles()) {
       if (!IsListed(title)) continue;
       vacant += title.Holder == 0;
-      rows.push_back(TitleRow(world(), title));
-      if (all) rows.back().Cells[kSince] = OwnerCell(title);
+      rows.push_back(RowOf(columns, title, world().Titles().NumberOf(title)));
     }
     lblfacts.Text = Counted(std::ssize(rows), "Title") + ", " + std::to_string(vacant) + " vacant";
-    lsttitles.EmptyText =
-        all ? "Nobody in the world has a Title." : "You have no Title yet. Name one and create it.";
+    lsttitles.EmptyText = cmbwhose.Key() == kEverybodys
+                              ? "Nobody in the world has a Title."
+                              : "You have no Title yet. Name one and create it.";
     lsttitles.Fill(std::move(rows));
   }
 
@@ -119,7 +126,7 @@ class frmBelts : public ui::Screen {
     const std::string none = WhyNotOurs();
     const bool isSuspended = none.empty() && Chosen()->Suspended;
     cmdsuspend.Text = isSuspended ? "Activate" : "Suspend";
-    for (ui::Button* button : {&cmdrename, &cmdsuspend, &cmddissolve}) EnableUnless(*button, none);
+    EnableUnless({cmdrename, cmdsuspend, cmddissolve}, none);
     EnableUnless(cmdvacate, none.empty() ? WhyNotVacate(*Chosen()) : none);
     const auto [holder, partner] = Picked();
     const bool tooMany = lstwres.Keys().size() > 2;
@@ -134,10 +141,8 @@ class frmBelts : public ui::Screen {
   }
 
   void cmbwhose_Click() {
-    std::vector<ui::Column> columns = TitleColumns();
-    if (cmbwhose.Key() == kEverybodys) columns[kSince] = {"Of"};
     lsttitles.Clear();
-    lsttitles.SetColumns(std::move(columns));
+    lsttitles.SetColumns(HeadingsOf(Table()));
     Load();
   }
 
@@ -172,7 +177,7 @@ class frmBelts : public ui::Screen {
   }
 
   void cmdsuspend_Click() {
-    SuspendTitle(*Chosen(), !Chosen()->Suspended);
+    Chosen()->Suspended = !Chosen()->Suspended;
     Return();
   }
 
@@ -196,9 +201,8 @@ class frmBelts : public ui::Screen {
   void cmddissolve_Click() {
     const int booked = BookedForTitle(world(), *Chosen());
     const std::string price = booked == 0 ? ""
-                                          : " What is booked for it (" + std::to_string(booked) +
-                                                (booked == 1 ? " segment" : " segments") +
-                                                ") will be removed.";
+                                          : " What is booked for it (" +
+                                                Counted(booked, "segment") + ") will be removed.";
     if (!desk().Ask("Dissolve?",
                     "Are you sure you wish to dissolve the " + Chosen()->Name.Str() + "?" + price,
                     ui::Default::No))
@@ -216,7 +220,8 @@ class frmBelts : public ui::Screen {
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbwhose{*this, "cmbwhose", &frmBelts::cmbwhose_Click};
-  ui::ListBox lsttitles{*this, "lsttitles", TitleColumns(), &frmBelts::lsttitles_Click};
+  ui::ListBox lsttitles{*this, "lsttitles", HeadingsOf(TitleTable(world())),
+                        &frmBelts::lsttitles_Click};
   ui::ListBox lsthistory{*this, "lsthistory", ReignColumns()};
   ui::Button cmdreigns{*this, "cmdreigns", "All Reigns", &frmBelts::cmdreigns_Click};
   ui::TextBox txtname{*this, "txtname", {}, decltype(grapplemont::Title::Name)::kWidth};
@@ -289,7 +294,7 @@ class frmReigns : public ui::Screen {
 
   static ui::Cell DateCell(Day day, const char* unknown) {
     if (day <= kNoTitleDate) return {0.0, unknown, ui::Tone::Muted};
-    return {static_cast<double>((day - kDayZero).count()), PlainDate(day)};
+    return DayCell(day);
   }
 
   static ui::Cell CountCell(int number) {
@@ -308,27 +313,15 @@ class frmReigns : public ui::Screen {
     std::vector<ui::ListBox::Row> reigns, totals;
     if (cmbtitle.Selected() != 0) {
       const Lineage& lineage = lineages_[static_cast<std::size_t>(cmbtitle.Selected() - 1)];
-      for (const TitleReign* reign : ReignsOf(world(), lineage)) reigns.push_back(RowOf(*reign));
+      for (const TitleReign* reign : ReignsOf(world(), lineage))
+        reigns.push_back(RowOf(reigns_, *reign, world().Reigns().NumberOf(*reign)));
       for (const ChampionTotal& total : TotalsOf(world(), lineage))
-        totals.push_back(
-            {{total.Name, ui::Cell(total.Reigns), ui::Cell(total.Days), CountCell(total.Defences)},
-             static_cast<int>(totals.size()) + 1});
+        totals.push_back(RowOf(totals_, total, static_cast<int>(totals.size()) + 1));
     }
     lblfacts.Text = cmbtitle.Count() == 0 ? "There is no Title in the world."
                                           : Counted(std::ssize(totals), "champion") + ".";
     lstreigns.Fill(std::move(reigns));
     lsttotals.Fill(std::move(totals));
-  }
-
-  ui::ListBox::Row RowOf(const TitleReign& reign) {
-    const bool vacant = IsVacancy(reign);
-    return {
-        {ui::Cell(reign.Holder.View(), vacant ? ui::Tone::Muted : ui::Tone::Plain),
-         DateCell(reign.From, "Before the game"),
-         reign.End == kReignLasts ? ui::Cell(0.0, std::string()) : DateCell(reign.Until, "Unknown"),
-         CountCell(DaysOf(reign, world().Today())), CountCell(vacant ? -1 : reign.Defences),
-         EndCell(reign)},
-        world().Reigns().NumberOf(reign)};
   }
 
   void cmdback_Click() { Close(); }
@@ -339,20 +332,34 @@ class frmReigns : public ui::Screen {
   std::vector<Lineage> lineages_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbtitle{*this, "cmbtitle", &frmReigns::ShowReigns};
-  ui::ListBox lstreigns{*this,
-                        "lstreigns",
-                        {{"Holder", K::Text, 5},
-                         {"From", K::Date, 3},
-                         {"Until", K::Date, 3},
-                         {"Days", K::Number},
-                         {"Defences", K::Number, 0, "On your shows; of others nobody counts them."},
-                         {"End", K::Tag}}};
-  ui::ListBox lsttotals{*this,
-                        "lsttotals",
-                        {{"Champion", K::Text, 4},
-                         {"Reigns", K::Number},
-                         {"Days", K::Number, 0, "Of the reigns whose length is known."},
-                         {"Defences", K::Number}}};
+  const ColumnsOf<TitleReign> reigns_ = {
+      {{"Holder", K::Text, 5},
+       [](const TitleReign& reign) {
+         return ui::Cell(reign.Holder.View(), IsVacancy(reign) ? ui::Tone::Muted : ui::Tone::Plain);
+       }},
+      {{"From", K::Date, 3},
+       [](const TitleReign& reign) { return DateCell(reign.From, "Before the game"); }},
+      {{"Until", K::Date, 3},
+       [](const TitleReign& reign) {
+         return reign.End == kReignLasts ? ui::Cell(0.0, std::string())
+                                         : DateCell(reign.Until, "Unknown");
+       }},
+      {{"Days", K::Number},
+       [this](const TitleReign& reign) { return CountCell(DaysOf(reign, world().Today())); }},
+      {{"Defences", K::Number, 0, "On your shows; of others nobody counts them."},
+       [](const TitleReign& reign) {
+         return CountCell(IsVacancy(reign) ? -1 : int(reign.Defences));
+       }},
+      {{"End", K::Tag}, EndCell}};
+  const ColumnsOf<ChampionTotal> totals_ = {
+      {{"Champion", K::Text, 4}, [](const ChampionTotal& total) { return total.Name; }},
+      {{"Reigns", K::Number}, [](const ChampionTotal& total) { return ui::Cell(total.Reigns); }},
+      {{"Days", K::Number, 0, "Of the reigns whose length is known."},
+       [](const ChampionTotal& total) { return ui::Cell(total.Days); }},
+      {{"Defences", K::Number},
+       [](const ChampionTotal& total) { return CountCell(total.Defences); }}};
+  ui::ListBox lstreigns{*this, "lstreigns", HeadingsOf(reigns_)};
+  ui::ListBox lsttotals{*this, "lsttotals", HeadingsOf(totals_)};
   ui::Button cmdback{*this, "cmdback", "Back", &frmReigns::cmdback_Click};
 };
 

@@ -3,11 +3,31 @@
 #include "records/dates.h"
 #include "records/world.h"
 #include "storylines/feuds.h"
+#include "storylines/screens/screenpeople.h"
 #include "storylines/screens/storyscreens.h"
 
 namespace grapplemont {
 
 namespace {
+
+/// The counters of a side, by the names of their controls ("txtclean1") and what they are called.
+struct Counter {
+  const char* Control;
+  const char* Caption;
+  Natural Feud::*One;
+  Natural Feud::*Two;
+};
+constexpr std::array<Counter, 4> kCounters = {{
+    {"txtclean", "Clean wins", &Feud::Clean1, &Feud::Clean2},
+    {"txtdirty", "Dirty wins", &Feud::Dirty1, &Feud::Dirty2},
+    {"txtinter", "Verbal attacks", &Feud::Interference1, &Feud::Interference2},
+    {"txtsneak", "Sneak attacks", &Feud::Sneak1, &Feud::Sneak2},
+}};
+constexpr int kKinds = static_cast<int>(kCounters.size());
+
+const Counter& CounterOf(int kind) {
+  return kCounters[static_cast<std::size_t>(kind - 1)];
+}
 
 /// The eight feud slots as one table, the score of the selected feud beside it.
 class frmFeuds : public ui::Screen {
@@ -59,48 +79,43 @@ class frmFeuds : public ui::Screen {
     for (int slot = 1; slot <= kFeuds; ++slot) {
       const Feud feud = FeudOf(slot);
       if (!IsFreeSlot(feud)) ++running;
-      rows.push_back({RowOf(feud), slot});
+      rows.push_back(RowOf(feuds_, feud, slot));
     }
     lstfeuds.Fill(std::move(rows));
     lblfacts.Text = std::to_string(running) + " of " + std::to_string(kFeuds) + " feuds running.";
   }
 
-  std::vector<ui::Cell> RowOf(const Feud& feud) {
-    if (IsFreeSlot(feud))
-      return {ui::Cell("<<<Empty Feud Slot>>>", ui::Tone::Muted), "", "", "", ""};
+  ui::Cell NameCell(const Feud& feud) {
+    if (IsFreeSlot(feud)) return {"<<<Empty Feud Slot>>>", ui::Tone::Muted};
     const FeudSides sides = SidesOf(feud);
-    const FeudScore score = FeudWins(feud);
-    const auto days = (world().Today() - Day(feud.Started)).count();
-    return {SideName(world(), sides.One) + " vs " + SideName(world(), sides.Two),
-            ui::Cell(feud.Heat), ui::Cell(static_cast<int>(days)), ui::Cell(score.One),
-            ui::Cell(score.Two)};
+    return SideName(world(), sides.One) + " vs " + SideName(world(), sides.Two);
+  }
+
+  /// Nothing for an empty slot.
+  static ui::Cell CountCell(const Feud& feud, long count) {
+    return IsFreeSlot(feud) ? ui::Cell("") : ui::Cell(static_cast<int>(count));
   }
 
   void lstfeuds_Click() {
     const Feud feud = FeudOf(lstfeuds.Key());
     const bool taken = !IsFreeSlot(feud);
     cmdask.Text = taken ? "Ask Maeve" : "Start Feud";
-    for (ui::Button* button : {&cmdstat, &cmdend}) {
-      button->Enabled = taken;
-      button->Tip = taken ? "" : "There is no feud in this slot.";
-    }
+    EnableUnless({cmdstat, cmdend}, taken ? "" : "There is no feud in this slot.");
     ShowScore(feud);
     txtmaeve.Write(taken ? "Ask her where this feud should go." : "");
   }
 
   void ShowScore(const Feud& feud) {
-    lstscore.Clear();
-    lstscore.SetColumns({{""}, {"Side one", K::Number}, {"Side two", K::Number}});
-    if (IsFreeSlot(feud)) return;
+    const bool free = IsFreeSlot(feud);
     const FeudSides sides = SidesOf(feud);
+    lstscore.Clear();
     lstscore.SetColumns({{""},
-                         {SideName(world(), sides.One), K::Number},
-                         {SideName(world(), sides.Two), K::Number}});
+                         {free ? "Side one" : SideName(world(), sides.One), K::Number},
+                         {free ? "Side two" : SideName(world(), sides.Two), K::Number}});
+    if (free) return;
+    for (const Counter& counter : kCounters)
+      lstscore.Add({counter.Caption, ui::Cell(feud.*counter.One), ui::Cell(feud.*counter.Two)});
     const FeudScore score = FeudWins(feud);
-    lstscore.Add({"Clean wins", ui::Cell(feud.Clean1), ui::Cell(feud.Clean2)});
-    lstscore.Add({"Dirty wins", ui::Cell(feud.Dirty1), ui::Cell(feud.Dirty2)});
-    lstscore.Add({"Verbal attacks", ui::Cell(feud.Interference1), ui::Cell(feud.Interference2)});
-    lstscore.Add({"Sneak attacks", ui::Cell(feud.Sneak1), ui::Cell(feud.Sneak2)});
     lstscore.Add({"Won", ui::Cell(score.One), ui::Cell(score.Two)});
   }
 
@@ -137,14 +152,18 @@ class frmFeuds : public ui::Screen {
   Game& game_;
   int next_ = 0;  // the slot that a feud being started will take
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstfeuds{*this,
-                       "lstfeuds",
-                       {{"Feud", K::Text, 5},
-                        {"Heat", K::Percent, 2},
-                        {"Days", K::Number, 1, "Days since it began."},
-                        {"Wins 1", K::Number, 1, "Wins and attacks of the side named first."},
-                        {"Wins 2", K::Number, 1, "Wins and attacks of the other side."}},
-                       &frmFeuds::lstfeuds_Click,
+  const ColumnsOf<Feud> feuds_ = {
+      {{"Feud", K::Text, 5}, [this](const Feud& feud) { return NameCell(feud); }},
+      {{"Heat", K::Percent, 2}, [](const Feud& feud) { return CountCell(feud, feud.Heat); }},
+      {{"Days", K::Number, 1, "Days since it began."},
+       [this](const Feud& feud) {
+         return CountCell(feud, (world().Today() - Day(feud.Started)).count());
+       }},
+      {{"Wins 1", K::Number, 1, "Wins and attacks of the side named first."},
+       [](const Feud& feud) { return CountCell(feud, FeudWins(feud).One); }},
+      {{"Wins 2", K::Number, 1, "Wins and attacks of the other side."},
+       [](const Feud& feud) { return CountCell(feud, FeudWins(feud).Two); }}};
+  ui::ListBox lstfeuds{*this, "lstfeuds", HeadingsOf(feuds_), &frmFeuds::lstfeuds_Click,
                        &frmFeuds::lstfeuds_DblClick};
   ui::ListBox lstscore{*this, "lstscore"};
   ui::Report txtmaeve{*this, "txtmaeve"};
@@ -159,25 +178,6 @@ class frmFeuds : public ui::Screen {
 SCREEN(frmFeuds)
 
 namespace {
-
-/// The counters of a side, by the names of their controls ("txtclean1") and what they are called.
-struct Counter {
-  const char* Control;
-  const char* Caption;
-  Natural Feud::*One;
-  Natural Feud::*Two;
-};
-constexpr std::array<Counter, 4> kCounters = {{
-    {"txtclean", "Clean wins", &Feud::Clean1, &Feud::Clean2},
-    {"txtdirty", "Dirty wins", &Feud::Dirty1, &Feud::Dirty2},
-    {"txtinter", "Verbal attacks", &Feud::Interference1, &Feud::Interference2},
-    {"txtsneak", "Sneak attacks", &Feud::Sneak1, &Feud::Sneak2},
-}};
-constexpr int kKinds = static_cast<int>(kCounters.size());
-
-const Counter& CounterOf(int kind) {
-  return kCounters[static_cast<std::size_t>(kind - 1)];
-}
 
 class frmFeudStat : public ui::Screen {
  public:

@@ -1,3 +1,4 @@
+#include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
@@ -52,18 +53,11 @@ class frmTagTeams : public ui::Screen {
 
   void ShowTeams() {
     std::vector<ui::ListBox::Row> rows;
-    for (const int number : PlayerTeams(world())) {
-      const Team& team = world().Teams()[number];
-      rows.push_back(
-          {{team.Name.View(), WorkerName(world(), team.Worker1), WorkerName(world(), team.Worker2),
-            team.Finisher == "None" ? "" : team.Finisher.View(), ui::Cell(team.Experience)},
-           number});
-    }
-    const auto count = rows.size();
+    for (const int number : PlayerTeams(world()))
+      rows.push_back(RowOf(teams_, world().Teams()[number], number));
+    const auto count = std::ssize(rows);
     lstteams.Fill(std::move(rows));
-    lblfacts.Text = count == 0   ? "No team yet"
-                    : count == 1 ? "1 team"
-                                 : std::to_string(count) + " teams";
+    lblfacts.Text = count == 0 ? "No team yet" : Counted(count, "team");
   }
 
   void ShowRoster() {
@@ -73,7 +67,7 @@ class frmTagTeams : public ui::Screen {
 
   void ShowButtons() {
     const std::string none = Chosen() ? "" : "Choose a team first.";
-    for (ui::Button* button : {&cmdrename, &cmdfinisher, &cmddissolve}) EnableUnless(*button, none);
+    EnableUnless({cmdrename, cmdfinisher, cmddissolve}, none);
     const int first = lstwres(1).Key(), second = lstwres(2).Key();
     lblpair.Text = first != 0 && second != 0
                        ? WorkerName(world(), first) + " and " + WorkerName(world(), second)
@@ -137,14 +131,17 @@ class frmTagTeams : public ui::Screen {
   using K = ui::ColumnKind;
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstteams{*this,
-                       "lstteams",
-                       {{"Team", K::Text, 4},
-                        {"First", K::Text, 3},
-                        {"Second", K::Text, 3},
-                        {"Finisher", K::Text, 3},
-                        {"Experience", K::Percent, 2, "Grows with every match as a team."}},
-                       &frmTagTeams::lstteams_Click};
+  const ColumnsOf<Team> teams_ = {
+      {{"Team", K::Text, 4}, [](const Team& team) { return team.Name.View(); }},
+      {{"First", K::Text, 3},
+       [this](const Team& team) { return WorkerName(world(), team.Worker1); }},
+      {{"Second", K::Text, 3},
+       [this](const Team& team) { return WorkerName(world(), team.Worker2); }},
+      {{"Finisher", K::Text, 3},
+       [](const Team& team) { return team.Finisher == "None" ? "" : team.Finisher.View(); }},
+      {{"Experience", K::Percent, 2, "Grows with every match as a team."},
+       [](const Team& team) { return ui::Cell(team.Experience); }}};
+  ui::ListBox lstteams{*this, "lstteams", HeadingsOf(teams_), &frmTagTeams::lstteams_Click};
   ui::Array<ui::ListBox> lstwres{"lstwres", 2, [this](const std::string&, int head) {
                                    return std::make_unique<ui::ListBox>(
                                        *this, "lstwres" + std::to_string(head), ShortColumns(),
@@ -210,37 +207,25 @@ class frmStables : public ui::Screen {
 
   void ShowStables() {
     std::vector<ui::ListBox::Row> rows;
-    for (const Stable* stable : PlayerStables(world())) {
-      const Worker* leader = StableLeader(world(), stable->Name);
-      const auto members = StableMembers(world(), stable->Name).size();
-      rows.push_back({{stable->Name.View(), ui::Cell(static_cast<int>(members)),
-                       leader ? leader->Name.Str() : ""},
-                      world().Stables().NumberOf(*stable)});
-    }
-    const auto count = rows.size();
+    for (const Stable* stable : PlayerStables(world()))
+      rows.push_back(RowOf(stables_, *stable, world().Stables().NumberOf(*stable)));
+    const auto count = std::ssize(rows);
     lststables.Fill(std::move(rows));
-    lblfacts.Text = count == 0   ? "No stable yet"
-                    : count == 1 ? "1 stable"
-                                 : std::to_string(count) + " stables";
+    lblfacts.Text = count == 0 ? "No stable yet" : Counted(count, "stable");
   }
 
   void ShowStable() {
     const std::string stable = Chosen();
-    const Worker* leader = StableLeader(world(), stable);
-    std::vector<ui::ListBox::Row> members, others;
-    for (const Worker* worker : SeenOnShows(world())) {
-      const bool isIn = !stable.empty() && worker->Stable == stable;
-      std::vector<ui::Cell> cells = ShortRow(*worker);
-      cells.push_back(isIn ? RoleCell(*worker, leader) : InCell(*worker));
-      (isIn ? members : others).push_back({std::move(cells), worker->Uid});
-    }
-    lstmembers.Fill(std::move(members));
-    lstwres.Fill(std::move(others));
+    std::vector<const Worker*> members, others;
+    for (const Worker* worker : SeenOnShows(world()))
+      (!stable.empty() && worker->Stable == stable ? members : others).push_back(worker);
+    FillTable(lstmembers, members_, members);
+    FillTable(lstwres, others_, others);
     ShowButtons();
   }
 
-  static ui::Cell RoleCell(const Worker& worker, const Worker* leader) {
-    if (&worker == leader) return {"Leader", ui::Tone::Gold};
+  ui::Cell RoleCell(const Worker& worker) {
+    if (&worker == StableLeader(world(), worker.Stable)) return {"Leader", ui::Tone::Gold};
     return StatusCell(worker);
   }
   static ui::Cell InCell(const Worker& worker) {
@@ -249,8 +234,7 @@ class frmStables : public ui::Screen {
 
   void ShowButtons() {
     const std::string none = Chosen().empty() ? "Choose a stable first." : "";
-    EnableUnless(cmdrename, none);
-    EnableUnless(cmddissolve, none);
+    EnableUnless({cmdrename, cmddissolve}, none);
     EnableUnless(cmdadd, !none.empty()        ? none
                          : lstwres.Key() == 0 ? "Choose somebody of this list first."
                                               : "");
@@ -313,29 +297,30 @@ class frmStables : public ui::Screen {
 
   void cmdback_Click() { Close(); }
 
-  static std::vector<ui::Column> PeopleColumns(const char* last, ui::ColumnKind kind) {
-    std::vector<ui::Column> columns = ShortColumns();
-    columns.push_back({last, kind, 2});
-    return columns;
-  }
-
   using K = ui::ColumnKind;
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lststables{*this,
-                         "lststables",
-                         {{"Stable", K::Text, 4},
-                          {"Members", K::Number, 1, "Ten at most."},
-                          {"Leader", K::Text, 4, "The most popular member who is fit."}},
-                         &frmStables::lststables_Click};
+  const ColumnsOf<Stable> stables_ = {
+      {{"Stable", K::Text, 4}, [](const Stable& stable) { return stable.Name.View(); }},
+      {{"Members", K::Number, 1, "Ten at most."},
+       [this](const Stable& stable) {
+         return ui::Cell(static_cast<int>(StableMembers(world(), stable.Name).size()));
+       }},
+      {{"Leader", K::Text, 4, "The most popular member who is fit."}, [this](const Stable& stable) {
+         const Worker* leader = StableLeader(world(), stable.Name);
+         return leader ? leader->Name.Str() : "";
+       }}};
+  const ColumnsOf<Worker> members_ =
+      PeopleTable({{{"", K::Tag, 2}, [this](const Worker& worker) { return RoleCell(worker); }}});
+  const ColumnsOf<Worker> others_ = PeopleTable({{{"In", K::Text, 2}, InCell}});
+  ui::ListBox lststables{*this, "lststables", HeadingsOf(stables_), &frmStables::lststables_Click};
   ui::TextBox txtname{*this, "txtname"};
   ui::Button cmdcreate{*this, "cmdcreate", "Found A Stable", &frmStables::cmdcreate_Click};
   ui::Button cmdrename{*this, "cmdrename", "Rename", &frmStables::cmdrename_Click};
-  ui::ListBox lstmembers{*this, "lstmembers", PeopleColumns("", K::Tag), &frmStables::ShowButtons,
+  ui::ListBox lstmembers{*this, "lstmembers", HeadingsOf(members_), &frmStables::ShowButtons,
                          cmdremove};
   ui::Button cmdremove{*this, "cmdremove", "Take Out", &frmStables::cmdremove_Click};
-  ui::ListBox lstwres{*this, "lstwres", PeopleColumns("In", K::Text), &frmStables::ShowButtons,
-                      cmdadd};
+  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(others_), &frmStables::ShowButtons, cmdadd};
   ui::Button cmdadd{*this, "cmdadd", "Add To The Stable", &frmStables::cmdadd_Click};
   ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmStables::cmddissolve_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmStables::cmdback_Click};

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "records/counted.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
@@ -9,6 +11,8 @@
 namespace grapplemont {
 
 namespace {
+
+using K = ui::ColumnKind;
 
 /// Who manages whom, and who could.
 class frmManagers : public ui::Screen {
@@ -40,7 +44,7 @@ class frmManagers : public ui::Screen {
 
   void Return() override {
     ShowClients();
-    ShowManagers();
+    FillTable(lstmanagers, managers_, Managers(world()));
     ShowChoice();
   }
 
@@ -48,30 +52,18 @@ class frmManagers : public ui::Screen {
   World& world() { return game_.World(); }
 
   void ShowClients() {
-    std::vector<ui::ListBox::Row> rows;
-    int managed = 0;
-    for (const Worker* client : Clients(world())) {
-      const Worker* manager = ManagerOf(world(), *client);
-      if (manager) ++managed;
-      std::vector<ui::Cell> cells = ShortRow(*client);
-      cells.emplace_back(manager ? manager->Name.Str() : "");
-      rows.push_back({std::move(cells), client->Uid});
-    }
-    lblfacts.Text = std::to_string(managed) + " of " + std::to_string(rows.size()) +
+    const std::vector<const Worker*> clients = Clients(world());
+    const auto managed = std::count_if(clients.begin(), clients.end(), [&](const Worker* client) {
+      return ManagerOf(world(), *client) != nullptr;
+    });
+    lblfacts.Text = std::to_string(managed) + " of " + std::to_string(clients.size()) +
                     " wrestlers have a manager.";
-    lstclients.Fill(std::move(rows));
+    FillTable(lstclients, clients_, clients);
   }
 
-  void ShowManagers() {
-    std::vector<ui::ListBox::Row> rows;
-    for (const Worker* manager : Managers(world())) {
-      std::vector<ui::Cell> cells = ShortRow(*manager);
-      cells.emplace_back(ui::Cell(manager->Charisma));
-      cells.emplace_back(manager->Speaks ? "" : "Mute", ui::Tone::Muted);
-      cells.emplace_back(static_cast<int>(ClientsOf(world(), *manager).size()));
-      rows.push_back({std::move(cells), manager->Uid});
-    }
-    lstmanagers.Fill(std::move(rows));
+  ui::Cell ManagerCell(const Worker& client) {
+    const Worker* manager = ManagerOf(world(), client);
+    return manager ? manager->Name.Str() : "";
   }
 
   void ShowChoice() {
@@ -92,34 +84,33 @@ class frmManagers : public ui::Screen {
     if (present && !desk().Ask("Managers", present->Name + " manages " + client.Name.Str() +
                                                ". Shall " + manager.Name.Str() + " take over?"))
       return;
-    GiveManager(client, manager);
+    client.Manager = manager.Uid;
     Return();
   }
 
   void cmdtake_Click() {
-    TakeManager(*world().FindWorker(lstclients.Key()));
+    world().FindWorker(lstclients.Key())->Manager = 0;
     Return();
   }
 
   void cmdback_Click() { Close(); }
 
-  static std::vector<ui::Column> ClientColumns() {
-    std::vector<ui::Column> columns = ShortColumns();
-    columns.push_back({"Manager", ui::ColumnKind::Text, 4});
-    return columns;
-  }
-  static std::vector<ui::Column> ManagerColumns() {
-    std::vector<ui::Column> columns = ShortColumns();
-    columns.push_back({"Charisma", ui::ColumnKind::Number, 1});
-    columns.push_back({"", ui::ColumnKind::Tag, 1, "Can give no interviews."});
-    columns.push_back({"Manages", ui::ColumnKind::Number, 1});
-    return columns;
-  }
-
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstclients{*this, "lstclients", ClientColumns(), &frmManagers::ShowChoice};
-  ui::ListBox lstmanagers{*this, "lstmanagers", ManagerColumns(), &frmManagers::ShowChoice};
+  const ColumnsOf<Worker> clients_ = PeopleTable(
+      {{{"Manager", K::Text, 4}, [this](const Worker& client) { return ManagerCell(client); }}});
+  const ColumnsOf<Worker> managers_ =
+      PeopleTable({{{"Charisma", K::Number, 1},
+                    [](const Worker& manager) { return ui::Cell(manager.Charisma); }},
+                   {{"", K::Tag, 1, "Can give no interviews."},
+                    [](const Worker& manager) {
+                      return ui::Cell(manager.Speaks ? "" : "Mute", ui::Tone::Muted);
+                    }},
+                   {{"Manages", K::Number, 1}, [this](const Worker& manager) {
+                      return ui::Cell(static_cast<int>(ClientsOf(world(), manager).size()));
+                    }}});
+  ui::ListBox lstclients{*this, "lstclients", HeadingsOf(clients_), &frmManagers::ShowChoice};
+  ui::ListBox lstmanagers{*this, "lstmanagers", HeadingsOf(managers_), &frmManagers::ShowChoice};
   ui::ListBox lsthis{*this, "lsthis", ShortColumns()};
   ui::Button cmdgive{*this, "cmdgive", "Give This Manager", &frmManagers::cmdgive_Click};
   ui::Button cmdtake{*this, "cmdtake", "Take The Manager Away", &frmManagers::cmdtake_Click};
@@ -131,8 +122,6 @@ class frmManagers : public ui::Screen {
 SCREEN(frmManagers)
 
 namespace {
-
-constexpr ui::ColumnKind kTag = ui::ColumnKind::Tag;
 
 /// Whose turn is being prepared.
 class frmTurn : public ui::Screen {
@@ -165,25 +154,17 @@ class frmTurn : public ui::Screen {
   World& world() { return game_.World(); }
 
   void ShowRoster() {
-    std::vector<ui::ListBox::Row> rows;
-    int pending = 0;
-    for (const Worker* worker : SeenOnShows(world())) {
-      if (worker->TurnPending) ++pending;
-      std::vector<ui::Cell> cells = ShortRow(*worker);
-      cells.push_back(LastTurnCell(*worker));
-      cells.emplace_back(worker->TurnPending ? "Turn pending" : "", ui::Tone::Gold);
-      rows.push_back({std::move(cells), worker->Uid});
-    }
-    lstwres.Fill(std::move(rows));
-    lblfacts.Text = pending == 0   ? "No turn is being prepared."
-                    : pending == 1 ? "1 turn is being prepared."
-                                   : std::to_string(pending) + " turns are being prepared.";
+    const std::vector<const Worker*> seen = SeenOnShows(world());
+    const auto pending = std::count_if(
+        seen.begin(), seen.end(), [](const Worker* worker) { return bool(worker->TurnPending); });
+    FillTable(lstwres, columns_, seen);
+    lblfacts.Text = (pending == 0 ? "No turn is" : Counted(pending, "turn is", "turns are")) +
+                    " being prepared.";
   }
 
   ui::Cell LastTurnCell(const Worker& worker) {
     if (DaysSinceTurn(world(), worker) < 0) return {"Never", ui::Tone::Muted};
-    return {static_cast<double>((Day(worker.LastTurn) - kDayZero).count()),
-            PlainDate(worker.LastTurn)};
+    return DayCell(worker.LastTurn);
   }
 
   void ShowTurn() {
@@ -208,22 +189,20 @@ class frmTurn : public ui::Screen {
 
   void cmdturn_Click() {
     Worker& worker = *world().FindWorker(lstwres.Key());
-    worker.TurnPending ? CallOffTurn(worker) : PrepareTurn(worker);
+    worker.TurnPending = !worker.TurnPending;
     Return();
   }
 
   void cmdback_Click() { Close(); }
 
-  static std::vector<ui::Column> Columns() {
-    std::vector<ui::Column> columns = ShortColumns();
-    columns.push_back({"Last turn", ui::ColumnKind::Date, 3});
-    columns.push_back({"", kTag, 2});
-    return columns;
-  }
-
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstwres{*this, "lstwres", Columns(), &frmTurn::ShowTurn, cmdturn};
+  const ColumnsOf<Worker> columns_ = PeopleTable(
+      {{{"Last turn", K::Date, 3}, [this](const Worker& worker) { return LastTurnCell(worker); }},
+       {{"", K::Tag, 2}, [](const Worker& worker) {
+          return ui::Cell(worker.TurnPending ? "Turn pending" : "", ui::Tone::Gold);
+        }}});
+  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmTurn::ShowTurn, cmdturn};
   ui::Report txtturn{*this, "txtturn"};
   ui::Button cmdturn{*this, "cmdturn", "Prepare A Turn", &frmTurn::cmdturn_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmTurn::cmdback_Click};
