@@ -1,4 +1,5 @@
 #include "booking/wizard/segmentcheck.h"
+#include "booking/wizard/refusals.h"
 
 #include <gtest/gtest.h>
 
