@@ -4,7 +4,7 @@
 
 #include "bench/walks.h"
 #include "bench/worlds.h"
-#include "booking/autoshow.h"
+#include "booking/showstart.h"
 #include "calendar/advanceday.h"
 #include "calendar/daykind.h"
 #include "records/dates.h"

@@ -1,4 +1,4 @@
-#include "booking/writers.h"
+#include "booking/wizard/roster.h"
 #include "calendar/daysteps.h"
 #include "records/counted.h"
 #include "records/modVar.h"

@@ -28,21 +28,6 @@ enum MatchStyle {
   kSpecial
 };
 
-/// How a style's workers stand: side by side, each side's members next to one another.
-struct MatchStyleRow {
-  int Code;
-  std::string_view Says;
-  int Sides;
-  int PerSide;
-};
-inline constexpr MatchStyleRow kMatchStyles[] = {
-    {kSingles, "1 vs 1", 2, 1},           {kTag, "2 vs 2", 2, 2},
-    {kThreeWay, "1 vs 1 vs 1", 3, 1},     {kThreeTeams, "2 vs 2 vs 2", 3, 2},
-    {kFourWay, "1 vs 1 vs 1 vs 1", 4, 1}, {kFourTeams, "2 vs 2 vs 2 vs 2", 4, 2},
-    {kThreeOnThree, "3 vs 3", 2, 3},      {kFourOnFour, "4 vs 4", 2, 4},
-    {kSpecial, "Special", 30, 1},  // 30, 20 or 10 by type
-};
-
 /// A match type, in the order in which lists show them, and what the promotion must be for it.
 struct MatchTypeRow {
   int Style;
@@ -482,22 +467,8 @@ inline constexpr Phrase kTagPurposes[] = {
     {41, "Debut {PP}", "Debut {PP}"},
 };
 
-/// Segment.Style of an interview. In style 4 the manager is Worker1 and the team Worker2 and
-/// Worker3.
+/// Segment.Style of an interview.
 enum InterviewStyle { kSingleTalk = 1, kTeamTalk, kManagedTalk, kManagedTeamTalk };
-/// How an interview's people stand in Segment.Worker: so many speakers, then so many targets.
-struct InterviewStyleRow {
-  int Code;
-  std::string_view Says;
-  int Speakers;
-  int Targets;
-};
-inline constexpr InterviewStyleRow kInterviewStyles[] = {
-    {kSingleTalk, "Single Worker", 1, 1},
-    {kTeamTalk, "Tag Team", 2, 2},
-    {kManagedTalk, "Single Worker With Manager", 2, 1},
-    {kManagedTeamTalk, "Tag Team With Manager", 3, 2},
-};
 enum InterviewPurpose {
   kVerbalAttack = 1,
   kHypeMatch,

@@ -10,7 +10,7 @@
 #include "roster/shortlist.h"
 #include "roster/workerrecord.h"
 #include "roster/workerties.h"
-#include "storylines/turns.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 

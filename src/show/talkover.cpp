@@ -4,7 +4,7 @@
 #include "show/anglemoves.h"
 #include "show/consequences.h"
 #include "show/overreport.h"
-#include "storylines/stables.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 

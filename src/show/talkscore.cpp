@@ -4,7 +4,7 @@
 #include "show/feudslots.h"
 #include "show/meanrating.h"
 #include "show/scoring.h"
-#include "storylines/stables.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 

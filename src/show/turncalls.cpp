@@ -7,7 +7,7 @@
 #include "records/segmentacts.h"
 #include "show/consequences.h"
 #include "show/turns.h"
-#include "storylines/stables.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 

@@ -1,6 +1,6 @@
 #include "tools/career.h"
 
-#include "booking/autoshow.h"
+#include "booking/showstart.h"
 #include "calendar/daykind.h"
 #include "calendar/incidents.h"
 #include "records/world.h"

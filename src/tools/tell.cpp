@@ -1,6 +1,6 @@
 #include <ostream>
 
-#include "booking/autoshow.h"
+#include "booking/showstart.h"
 #include "calendar/advanceday.h"
 #include "calendar/daykind.h"
 #include "calendar/incidents.h"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "booking/casting.h"
-#include "booking/matchsteps.h"
+#include "booking/wizard/casting.h"
+#include "booking/wizard/matchrules.h"
 
 namespace grapplemont::test {
 
@@ -73,7 +73,8 @@ Segment RandomInterview(const World& world, Dice& dice, const BookingView& view)
   Segment talk = EmptySegment();
   talk.Kind = kInterview;
   talk.Style = style.Code;
-  const auto speakers = Talkers(world, view), targets = EligibleRoster(world, view);
+  const auto speakers = WorkersFor(world, Casting::Talkers, talk, view),
+             targets = EligibleRoster(world, view);
   const int targetCount = dice.OneIn(3) ? 0 : style.Targets;
   for (int place = 0; place < style.Speakers + targetCount; ++place)
     talk.Worker[static_cast<std::size_t>(place)] =
@@ -88,9 +89,8 @@ Segment RandomAngle(const World& world, Dice& dice, const BookingView& view) {
   const auto offered = OfferedAngles(world);
   const Angle& angle = *OneOf(dice, offered);
   segment.Style = angle.Number;
-  for (const Role& role : angle.Roles) {
-    if (!IsUsed(role)) continue;
-    const auto candidates = CandidatesFor(world, role.From, angle.Number, view);
+  for (const Role& role : SeatsOf(segment)) {
+    const auto candidates = CandidatesFor(world, role.From, segment, view);
     if (!candidates.empty()) Cast(segment, role, OneOf(dice, candidates));
   }
   return segment;

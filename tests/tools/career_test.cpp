@@ -7,7 +7,7 @@
 #include <set>
 #include <utility>
 
-#include "booking/autobooker.h"
+#include "booking/auto/autobooker.h"
 #include "booking/sheet.h"
 #include "calendar/daykind.h"
 #include "calendar/events.h"

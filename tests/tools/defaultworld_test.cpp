@@ -5,7 +5,7 @@
 #include <map>
 #include <set>
 
-#include "booking/writers.h"
+#include "booking/wizard/roster.h"
 #include "business/sponsorlimits.h"
 #include "calendar/events.h"
 #include "records/charset.h"
