@@ -56,8 +56,9 @@ class frmManagers : public ui::Screen {
     const auto managed = std::count_if(clients.begin(), clients.end(), [&](const Worker* client) {
       return ManagerOf(world(), *client) != nullptr;
     });
-    lblfacts.Text = std::to_string(managed) + " of " + std::to_string(clients.size()) +
-                    " wrestlers have a manager.";
+    lblfacts.Text = std::to_string(managed) + " of " +
+                    Counted(static_cast<int>(clients.size()), "wrestler") +
+                    (managed == 1 ? " has a manager." : " have a manager.");
     FillTable(lstclients, clients_, clients);
   }
 
