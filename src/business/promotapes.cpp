@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "business/businesssteps.h"
 #include "business/networks.h"
 #include "business/tvshows.h"
 #include "records/arithmetic.h"

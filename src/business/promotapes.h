@@ -30,4 +30,8 @@ void DropOffer(World& world);
 /// Puts the show on the air. Requires a day of the offer and a name that can be and is free.
 void AcceptOffer(World& world, const TvOffer& offer, int day, std::string_view name);
 
+/// The network that has the player's tape answers: a step of the first of a month. Requires a tape
+/// under way.
+void AnswerPromoTapes(World& world);
+
 }  // namespace grapplemont

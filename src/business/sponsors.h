@@ -34,4 +34,10 @@ long long EndingCost(const Sponsor& sponsor);
 /// The promotion pays for the rest of the deal, into debt if need be, and loses the sponsor.
 void EndSponsorship(World& world, Promotion& promotion, Sponsor& sponsor);
 
+// Steps of the day.
+/// Mondays: sponsors whose promotion has become too risky for them walk out.
+void SponsorRiskReview(World& world);
+/// The first of a month: a month off every deal; the last month ends it.
+void SponsorContractCountdown(World& world);
+
 }  // namespace grapplemont

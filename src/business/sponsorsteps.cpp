@@ -1,4 +1,3 @@
-#include "business/businesssteps.h"
 #include "business/sponsorlimits.h"
 #include "business/sponsors.h"
 #include "records/modVar.h"

@@ -1,4 +1,3 @@
-#include "business/businesssteps.h"
 #include "business/networks.h"
 #include "business/tvshows.h"
 #include "records/arithmetic.h"

@@ -1,6 +1,8 @@
 #include "calendar/advanceday.h"
 
-#include "business/businesssteps.h"
+#include "business/promotapes.h"
+#include "business/networks.h"
+#include "business/sponsors.h"
 #include "calendar/awards.h"
 #include "calendar/daysteps.h"
 #include "records/dates.h"

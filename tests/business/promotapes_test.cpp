@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "business/businesssteps.h"
 #include "business/screens/tvscreens.h"
 #include "records/checkworld.h"
 #include "support/gameonworld.h"

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "business/businesssteps.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "business/businesssteps.h"
+#include "business/networks.h"
 #include "records/sweeps.h"
 #include "support/newsof.h"
 #include "support/smallworld.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "business/businesssteps.h"
+#include "business/networks.h"
 #include "business/tvshows.h"
 #include "calendar/daysteps.h"
 #include "calendar/image.h"
