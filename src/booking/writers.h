@@ -1,7 +1,7 @@
 #pragma once
 
 #include "records/world.h"
-#include "roster/staffneeds.h"
+#include "roster/staff.h"
 
 namespace grapplemont {
 

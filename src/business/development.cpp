@@ -1,10 +1,12 @@
 #include "business/development.h"
 
+#include <algorithm>
 #include <array>
 
 #include "business/past.h"
 #include "records/dates.h"
 #include "records/modVar.h"
+#include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "roster/postings.h"
 #include "storylines/storynames.h"
@@ -157,6 +159,143 @@ void CloseTerritory(World& world) {
   BringBack(world, IsInDevelopment);
   world.Player().DevName = "None";
   world.Player().DevBooker = 0;
+}
+
+namespace {
+
+struct OfficeRow {
+  const char* Name;
+  const char* Wanted;  // what whoever left or never fitted is not
+  Word Promotion::*Holder;
+};
+constexpr std::array<OfficeRow, 3> kOffices = {{
+    {"Commissioner", "one of your non-wrestlers", &Promotion::Commissioner},
+    {"Head trainer", "one of your trainers", &Promotion::HeadTrainer},
+    {"Territory booker", "one of your staff who can book", &Promotion::DevBooker},
+}};
+
+const OfficeRow& Row(Office office) {
+  return kOffices[static_cast<std::size_t>(office)];
+}
+
+bool Fits(const Staff& staff, Office office) {
+  if (staff.Position == kOwner) return false;
+  return office == Office::HeadTrainer ? staff.Position == kTrainer : bool(staff.Booker);
+}
+
+std::vector<OfficeSeeker> NonWrestlers(const World& world) {
+  std::vector<OfficeSeeker> people;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid() && worker.Position == kNonWrestler)
+      people.push_back({worker.Uid, worker.Name.Str(), worker.Charisma,
+                        worker.Status == "Nor" ? std::string() : StatusLine(worker)});
+  return people;
+}
+
+std::vector<OfficeSeeker> StaffFor(const World& world, Office office) {
+  std::vector<OfficeSeeker> people;
+  for (const Staff& staff : world.AllStaff())
+    if (staff.Employer == world.PlayerUid() && Fits(staff, office))
+      people.push_back({staff.Uid, staff.Name.Str(), staff.Talent,
+                        std::string(Says(kStaffPositions, staff.Position))});
+  return people;
+}
+
+}  // namespace
+
+const char* OfficeName(Office office) {
+  return Row(office).Name;
+}
+
+int HolderOf(const World& world, Office office) {
+  const int uid = world.Player().*Row(office).Holder;
+  const bool isThere = office == Office::Commissioner ? world.FindWorker(uid) != nullptr
+                                                      : world.FindStaff(uid) != nullptr;
+  return isThere ? uid : 0;
+}
+
+std::string HolderName(const World& world, Office office) {
+  const int uid = HolderOf(world, office);
+  if (uid == 0) return "None";
+  return office == Office::Commissioner ? WorkerName(world, uid) : StaffName(world, uid);
+}
+
+std::vector<OfficeSeeker> CandidatesFor(const World& world, Office office) {
+  return office == Office::Commissioner ? NonWrestlers(world) : StaffFor(world, office);
+}
+
+std::string WhyNotAppoint(const World& world, Office office, int uid) {
+  if (office == Office::HeadTrainer && !HasCamp(world.Player()))
+    return "There is no training camp.";
+  if (office == Office::DevBooker && !HasTerritory(world.Player()))
+    return "There is no development territory.";
+  if (uid == 0) return {};
+  const std::vector<OfficeSeeker> people = CandidatesFor(world, office);
+  const bool isCandidate = std::any_of(people.begin(), people.end(),
+                                       [&](const OfficeSeeker& c) { return c.Uid == uid; });
+  if (isCandidate) return {};
+  const std::string name =
+      office == Office::Commissioner ? WorkerName(world, uid) : StaffName(world, uid);
+  return (name.empty() ? "Whoever that was" : name) + " is not " + Row(office).Wanted + ".";
+}
+
+void Appoint(World& world, Office office, int uid) {
+  world.Player().*Row(office).Holder = uid;
+}
+
+namespace {
+
+constexpr std::string_view kEverybody = "All";  // what a sheet calls the undivided roster
+
+Text<10>& SplitAt(Promotion& promotion, int place) {
+  return promotion.Split.at(static_cast<std::size_t>(place - 1));
+}
+
+void MovePeople(World& world, std::string_view from, std::string_view to) {
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid() && worker.Split == from) worker.Split = to;
+}
+
+}  // namespace
+
+std::string SplitName(const Promotion& promotion, int place) {
+  if (place < 1 || place > kSplits) return {};
+  const auto& name = promotion.Split[static_cast<std::size_t>(place - 1)];
+  return name == "None" ? std::string() : name.Str();
+}
+
+int PeopleInSplit(const World& world, std::string_view split) {
+  return static_cast<int>(
+      std::count_if(world.Workers().begin(), world.Workers().end(), [&](const Worker& worker) {
+        return worker.Employer == world.PlayerUid() && worker.Split == split;
+      }));
+}
+
+std::string WhyNotSplitName(const World& world, int place, std::string_view name) {
+  if (place < 1 || place > kSplits) return "Choose a split first.";
+  if (std::string why = WhyNoName(name, Text<10>::kWidth); !why.empty()) return why;
+  name = TrimmedName(name);
+  if (name == kEverybody) return "\"All\" stands for the whole roster and cannot be a split.";
+  for (int other = 1; other <= kSplits; ++other)
+    if (other != place && SplitName(world.Player(), other) == name)
+      return "There is a split called " + std::string(name) + " already.";
+  return {};
+}
+
+void NameSplit(World& world, int place, std::string_view name) {
+  const std::string before = SplitName(world.Player(), place);
+  const std::string after(TrimmedName(name));
+  // Somebody may have brought this name along from where he worked before.
+  if (before != after) MovePeople(world, after, "None");
+  if (!before.empty()) MovePeople(world, before, after);
+  SplitAt(world.Player(), place) = after;
+}
+
+void DissolveSplit(World& world, int place) {
+  const std::string name = SplitName(world.Player(), place);
+  if (name.empty()) return;
+  MovePeople(world, name, "None");
+  SplitAt(world.Player(), place) = "None";
 }
 
 }  // namespace grapplemont

@@ -5,7 +5,7 @@
 
 #include "business/development.h"
 #include "business/networks.h"
-#include "business/sponsorlimits.h"
+#include "business/sponsors.h"
 #include "records/arithmetic.h"
 #include "records/counted.h"
 #include "records/modVar.h"

@@ -6,10 +6,9 @@
 #include <optional>
 #include <tuple>
 
-#include "business/monthlymoney.h"
+#include "business/finance.h"
 #include "business/past.h"
-#include "business/standing.h"
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"

@@ -2,15 +2,15 @@
 #include <array>
 #include <span>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "roster/invented.h"
+#include "roster/leaving.h"
+#include "roster/market.h"
 #include "roster/postings.h"
-#include "roster/release.h"
-#include "roster/shortlist.h"
 
 // Birthdays, and what they bring: the end of a career, and somebody new in its place.
 

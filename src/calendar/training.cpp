@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "records/modVar.h"
 
 // What the young learn away from the main roster: in the development territory and in the training

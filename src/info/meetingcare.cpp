@@ -4,9 +4,9 @@
 #include "records/counted.h"
 #include "records/modVar.h"
 #include "roster/postings.h"
-#include "roster/renewal.h"
-#include "roster/stafffacts.h"
-#include "roster/staffneeds.h"
+#include "roster/staff.h"
+#include "roster/talks.h"
+#include "roster/workerfacts.h"
 
 // The meeting on contracts, on who is hurt, on the young, and on the staff itself.
 

@@ -1,5 +1,5 @@
-#include "business/books.h"
 #include "business/development.h"
+#include "business/finance.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
 #include "records/counted.h"
@@ -7,7 +7,7 @@
 #include "records/modWresCheck.h"
 #include "rivals/rivals.h"
 #include "rivals/tuning.h"
-#include "roster/placement.h"
+#include "roster/postings.h"
 #include "storylines/storynames.h"
 
 // The meeting on the roster: how many there are, where they stand on the card, and how they feel.

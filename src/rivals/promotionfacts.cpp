@@ -3,12 +3,11 @@
 #include <algorithm>
 
 #include "business/past.h"
-#include "business/standing.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
+#include "rivals/ownership.h"
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
-#include "rivals/taste.h"
 
 namespace grapplemont {
 

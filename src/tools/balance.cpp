@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "business/monthlymoney.h"
-#include "business/sponsorlimits.h"
+#include "business/finance.h"
+#include "business/sponsors.h"
 #include "calendar/events.h"
 #include "records/modWresCheck.h"
 #include "rivals/houseshows.h"

@@ -2,7 +2,6 @@
 
 #include "booking/autoshow.h"
 #include "calendar/advanceday.h"
-#include "calendar/daykind.h"
 #include "calendar/incidents.h"
 #include "records/charset.h"
 #include "records/dates.h"

@@ -1,9 +1,9 @@
-#include "business/screens/fedscreens.h"
+#include "business/screens/screenfed.h"
 
 #include <gtest/gtest.h>
 
 #include "business/past.h"
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "records/checkworld.h"
 #include "support/gameonworld.h"
 

@@ -1,8 +1,8 @@
-#include "business/loans.h"
+#include "business/finance.h"
 
 #include <gtest/gtest.h>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {

@@ -1,8 +1,8 @@
-#include "business/monthlymoney.h"
+#include "business/finance.h"
 
 #include <gtest/gtest.h>
 
-#include "business/sponsorlimits.h"
+#include "business/sponsors.h"
 
 namespace grapplemont::test {
 namespace {

@@ -1,9 +1,9 @@
-#include "business/screens/officescreens.h"
+#include "business/screens/frmSpending.h"
 
 #include <gtest/gtest.h>
 
-#include "business/ticketprice.h"
-#include "calendar/daysteps.h"
+#include "business/finance.h"
+#include "calendar/advanceday.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {

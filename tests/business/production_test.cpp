@@ -1,4 +1,4 @@
-#include "business/production.h"
+#include "business/finance.h"
 
 #include <gtest/gtest.h>
 

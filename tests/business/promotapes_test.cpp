@@ -1,8 +1,8 @@
-#include "business/promotapes.h"
+#include "business/tvtalks.h"
 
 #include <gtest/gtest.h>
 
-#include "business/screens/tvscreens.h"
+#include "business/screens/frmTVShow.h"
 #include "records/checkworld.h"
 #include "support/gameonworld.h"
 #include "support/newsof.h"

@@ -1,11 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "business/appointments.h"
 #include "business/development.h"
 #include "business/past.h"
-#include "business/productrisk.h"
-#include "business/splits.h"
-#include "business/standing.h"
+#include "business/sponsors.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {

@@ -1,4 +1,4 @@
-#include "business/tvadvice.h"
+#include "business/tvshows.h"
 
 #include <gtest/gtest.h>
 

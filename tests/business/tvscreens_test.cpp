@@ -1,8 +1,8 @@
-#include "business/screens/tvscreens.h"
+#include "business/screens/frmTVShow.h"
 
 #include <gtest/gtest.h>
 
-#include "business/tvhistory.h"
+#include "business/past.h"
 #include "records/checkworld.h"
 #include "support/gameonworld.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "business/screens/tvscreens.h"
+#include "business/screens/frmTVShow.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "calendar/ahead.h"
-#include "calendar/daysteps.h"
 #include "records/checkworld.h"
 #include "records/dates.h"
 #include "support/scripteddraws.h"

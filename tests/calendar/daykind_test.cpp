@@ -1,4 +1,4 @@
-#include "calendar/daykind.h"
+#include "calendar/advanceday.h"
 
 #include <gtest/gtest.h>
 

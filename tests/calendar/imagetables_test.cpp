@@ -1,4 +1,4 @@
-#include "calendar/imagetables.h"
+#include "calendar/image.h"
 
 #include <gtest/gtest.h>
 

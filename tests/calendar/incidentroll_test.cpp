@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "calendar/incidents.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

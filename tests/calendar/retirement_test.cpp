@@ -2,12 +2,12 @@
 
 #include <set>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "records/checkworld.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
+#include "roster/market.h"
 #include "roster/names.h"
-#include "roster/shortlist.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

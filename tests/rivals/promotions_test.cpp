@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "calendar/advanceday.h"
-#include "rivals/challenge.h"
 #include "rivals/faults.h"
 #include "rivals/founding.h"
 #include "rivals/newpromotionnames.h"
-#include "rivals/rivalsteps.h"
+#include "rivals/rivals.h"
 #include "rivals/staffmarket.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "calendar/incidents.h"
-#include "rivals/challenge.h"
 #include "rivals/faults.h"
+#include "rivals/founding.h"
 #include "session/slots.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"

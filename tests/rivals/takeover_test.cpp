@@ -1,4 +1,4 @@
-#include "rivals/takeover.h"
+#include "rivals/purse.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "rivals/taste.h"
+#include "rivals/ownership.h"
 
 #include <gtest/gtest.h>
 

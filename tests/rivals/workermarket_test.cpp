@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "rivals/faults.h"
-#include "rivals/rivalsteps.h"
+#include "rivals/rivals.h"
 #include "rivals/tuning.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"

@@ -1,4 +1,4 @@
-#include "roster/screens/contractscreens.h"
+#include "roster/screens/screentalks.h"
 
 #include <gtest/gtest.h>
 

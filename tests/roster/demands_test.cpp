@@ -1,4 +1,4 @@
-#include "roster/demands.h"
+#include "roster/talks.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "roster/releaseoffer.h"
-#include "roster/termination.h"
+#include "roster/leaving.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

@@ -1,10 +1,9 @@
-#include "roster/marketfilters.h"
+#include "roster/market.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "roster/shortlist.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {

@@ -1,9 +1,9 @@
-#include "roster/release.h"
+#include "roster/leaving.h"
 
 #include <gtest/gtest.h>
 
 #include "records/checkworld.h"
-#include "roster/placement.h"
+#include "roster/postings.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

@@ -1,4 +1,4 @@
-#include "roster/screens/rosterscreens.h"
+#include "roster/screens/frmWorker.h"
 
 #include <gtest/gtest.h>
 

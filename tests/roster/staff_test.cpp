@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "records/checkworld.h"
-#include "roster/stafffiring.h"
-#include "roster/staffneeds.h"
-#include "roster/stafftalks.h"
+#include "roster/staff.h"
 #include "support/gameonworld.h"
 
 // Talks with staff: what they want, what they refuse, hiring, firing, and how posts are filled.

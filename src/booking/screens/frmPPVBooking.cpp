@@ -2,7 +2,7 @@
 #include "booking/screens/bookingscreens.h"
 #include "booking/screens/screensheet.h"
 #include "booking/sheet.h"
-#include "business/commentators.h"
+#include "business/tvshows.h"
 #include "records/vocabulary.h"
 
 namespace grapplemont {

@@ -1,9 +1,8 @@
 #include <algorithm>
 #include <array>
 
-#include "business/officewords.h"
-#include "business/screens/officescreens.h"
-#include "business/sponsorlimits.h"
+#include "business/finance.h"
+#include "business/screens/frmSpending.h"
 #include "business/sponsors.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"

@@ -2,9 +2,6 @@
 #include <array>
 
 #include "calendar/advanceday.h"
-#include "calendar/ahead.h"
-#include "calendar/daykind.h"
-#include "calendar/meetingday.h"
 #include "calendar/screens/calendarscreens.h"
 #include "records/counted.h"
 #include "records/dates.h"

@@ -1,14 +1,103 @@
+#include "roster/screens/frmRoster.h"
+
+#include <algorithm>
+
 #include "records/counted.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "roster/market.h"
 #include "roster/postings.h"
-#include "roster/screens/rosterscreens.h"
+#include "roster/screens/frmWorker.h"
 #include "roster/screens/screentalks.h"
-#include "roster/screens/screenworkerlist.h"
-#include "roster/wagebill.h"
+#include "roster/talks.h"
 #include "storylines/screens/screenpeople.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
+
+namespace {
+
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number - 1);
+}
+
+}  // namespace
+
+WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string title, WorkerList list,
+                                   std::span<const FilterFamily> filters)
+    : Screen(game.Desk(), std::move(name), std::move(title)),
+      game_(game),
+      cmbfilters("", static_cast<int>(filters.size()),
+                 [&](const std::string&, int i) {
+                   const FilterFamily& family = filters[Index(i)];
+                   auto combo = std::make_unique<ui::ComboBox>(*this, std::string(family.Control),
+                                                               [this] { ShowList(); });
+                   for (const WorkerFilter& row : family.Rows) combo->Add(std::string(row.Label));
+                   combo->Select(1);
+                   return combo;
+                 }),
+      lstwres(*this, "lstwres", WorkerColumns(list), ui::Handler([this] { ShowChoice(); })),
+      list_(list),
+      filters_(filters) {}
+
+void WorkerListScreen::Load() {
+  ShowList();
+}
+
+/// Where the chosen worker is listed no more, the next one takes his place.
+void WorkerListScreen::Return() {
+  const int key = lstwres.Key(), row = lstwres.Selected();
+  ShowList();
+  if (lstwres.Key() == key || row == 0) return;
+  lstwres.Select(std::min(row, lstwres.Count()));
+  ShowChoice();
+}
+
+bool WorkerListScreen::FitsFilters(const Worker& worker) {
+  for (int i = 1; i <= cmbfilters.Count(); ++i) {
+    const int row = cmbfilters(i).Selected();
+    if (row > 1 && !filters_[Index(i)].Rows[Index(row)].Keeps(worker)) return false;
+  }
+  return Passes(worker);
+}
+
+/// The most popular come first.
+void WorkerListScreen::ShowList() {
+  std::vector<const Worker*> people;
+  listed_ = 0;
+  for (const Worker& worker : world().Workers()) {
+    if (!Belongs(worker)) continue;
+    ++listed_;
+    if (FitsFilters(worker)) people.push_back(&worker);
+  }
+  SortByOver(people);
+  std::vector<ui::ListBox::Row> rows;
+  rows.reserve(people.size());
+  for (const Worker* worker : people) rows.push_back(WorkerRow(world(), *worker, list_));
+  lstwres.Fill(std::move(rows));
+  if (lstwres.Selected() == 0) lstwres.Select(1);
+  ShowFacts();
+  ShowChoice();
+}
+
+void WorkerListScreen::ShowChoice() {
+  const Worker* chosen = Chosen();
+  WriteWorkerPage(txtpage, world(), chosen, "Choose somebody to read about.");
+  ShowActions(chosen);
+}
+
+ui::Box WorkerListScreen::FilterBox(std::vector<ui::Box> more) {
+  std::vector<ui::Box> fields;
+  for (int i = 1; i <= cmbfilters.Count(); ++i)
+    fields.push_back(ui::Field(std::string(filters_[Index(i)].Caption), cmbfilters(i)));
+  for (ui::Box& box : more) fields.push_back(std::move(box));
+  return ui::Columns(std::move(fields));
+}
+
+void WorkerListScreen::Leave() {
+  Close();
+  if (game_.RefreshMainScreen) game_.RefreshMainScreen();
+}
 
 namespace {
 
@@ -167,5 +256,68 @@ class frmRoster : public WorkerListScreen {
 }  // namespace
 
 SCREEN(frmRoster)
+
+namespace {
+
+/// Everybody who does not work for the player.
+class frmOtherWres : public WorkerListScreen {
+ public:
+  explicit frmOtherWres(Game& game)
+      : WorkerListScreen(game, "frmOtherWres", "Other Workers", WorkerList::Market,
+                         MarketFilters()) {
+    lstwres.EmptyText = "There is nobody else who fits.";
+    lstwres.OpenWith(cmdcontract);
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdlist, &cmdshortlist, &cmdback, &cmdcontract};
+    page.Main = &cmdcontract;
+    page.Cancel = &cmdback;
+    page.Body = ui::Rows(
+        {ui::Group("", {FilterBox()}), ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
+                                                    ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
+                                           .Grow(1)});
+    return page;
+  }
+
+ protected:
+  bool Belongs(const Worker& worker) const override { return !WorksForPlayer(world(), worker); }
+
+  std::string Facts(int listed) const override {
+    const bool some = lstwres.Count() < listed;
+    return (some ? std::to_string(lstwres.Count()) + " of " : "") + Counted(listed, "worker") +
+           ", " + std::to_string(Shortlisted(world()).size()) + " on your shortlist.";
+  }
+
+  void ShowActions(const Worker* chosen) override {
+    EnableUnless(cmdcontract, WhyNoTalks(game_, chosen));
+    ShowShortlistButton(game_, chosen, cmdshortlist);
+  }
+
+ private:
+  void cmdcontract_Click() {
+    if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
+  }
+  /// Nobody's row changes by it.
+  void cmdshortlist_Click() {
+    TurnShortlist(game_, lstwres.Key());
+    ShowFacts();
+    ShowChoice();
+  }
+  void cmdlist_Click() { desk().Open("frmShortlist"); }
+  void cmdback_Click() { Leave(); }
+
+  ui::Button cmdlist{*this, "cmdlist", "Shortlist", &frmOtherWres::cmdlist_Click};
+  ui::Button cmdshortlist{*this, "cmdshortlist", "Put On Shortlist",
+                          &frmOtherWres::cmdshortlist_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmOtherWres::cmdback_Click};
+  ui::Button cmdcontract{*this, "cmdcontract", "Talks", &frmOtherWres::cmdcontract_Click};
+};
+
+}  // namespace
+
+SCREEN(frmOtherWres)
 
 }  // namespace grapplemont
