@@ -24,16 +24,15 @@ class frmFed : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblmoney;
-    page.Actions = {&cmdfinance, &cmdsponsor, &cmdvalue, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Tabs(
-        {ui::Group("Overview", {ui::Columns({Facts().Grow(2), Charts().Grow(3)}).Grow()}),
-         product_.Layout(), splits_.Layout(),
-         ui::Group("Camp and territory",
-                   {ui::Columns({camp_.Layout().Grow(), territory_.Layout().Grow()}).Grow()})});
-    return page;
+    return {.Facts = &lblmoney,
+            .Actions = {&cmdfinance, &cmdsponsor, &cmdvalue, &cmdback},
+            .Cancel = &cmdback,
+            .Body = ui::Tabs(
+                {ui::Group("Overview", {ui::Columns({Facts().Grow(2), Charts().Grow(3)}).Grow()}),
+                 product_.Layout(), splits_.Layout(),
+                 ui::Group(
+                     "Camp and territory",
+                     {ui::Columns({camp_.Layout().Grow(), territory_.Layout().Grow()}).Grow()})})};
   }
 
   void Load() override { Return(); }
@@ -109,13 +108,7 @@ class frmFed : public ui::Screen {
 
   void cmbmeeting_Pick() { player().MeetingDay = Says(kWeekDays, cmbmeeting.Key()); }
 
-  void cmdcommissioner_Click() { desk().Open(MakefrmFedPick(game_, Office::Commissioner)); }
-  void cmdadvertising_Click() { OpenAdvertising(game_); }
-  void cmdmerch_Click() { OpenMerchandising(game_); }
   void cmdprod_Click() { desk().Open("frmFedProd"); }
-  void cmdtickets_Click() { desk().Open("frmTicket"); }
-  void cmdsponsor_Click() { desk().Open("frmFedSponsor"); }
-  void cmdfinance_Click() { desk().Open("frmFinance"); }
   void cmdvalue_Click() { desk().Open("frmFedValue"); }
 
   void cmdback_Click() {
@@ -134,30 +127,24 @@ class frmFed : public ui::Screen {
   ui::ComboBox cmbmeeting{*this, "cmbmeeting", &frmFed::cmbmeeting_Pick};
   ui::Label lblcommissioner{*this, "lblcommissioner"};
   ui::Button cmdcommissioner{*this, "cmdcommissioner", "Choose A Commissioner",
-                             &frmFed::cmdcommissioner_Click};
+                             [this] { desk().Open(MakefrmFedPick(game_, Office::Commissioner)); }};
   ui::ListBox lstspending{
       *this, "lstspending", {{"For", K::Text, 2}, {"Now", K::Text, 3}, {"", K::Button, 2}}};
-  ui::Button cmdadvertising{*this, "cmdadvertising", "Change", &frmFed::cmdadvertising_Click};
-  ui::Button cmdmerch{*this, "cmdmerch", "Change", &frmFed::cmdmerch_Click};
+  ui::Button cmdadvertising{*this, "cmdadvertising", "Change", [this] { OpenAdvertising(game_); }};
+  ui::Button cmdmerch{*this, "cmdmerch", "Change", [this] { OpenMerchandising(game_); }};
   ui::Button cmdprod{*this, "cmdprod", "Raise", &frmFed::cmdprod_Click};
-  ui::Button cmdtickets{*this, "cmdtickets", "Change", &frmFed::cmdtickets_Click};
+  ui::Button cmdtickets{*this, "cmdtickets", "Change", [this] { desk().Open("frmTicket"); }};
   ui::Chart chtimage{*this, "chtimage"};
   ui::Chart chtstanding{*this, "chtstanding"};
   FedProduct product_{*this, game_};
   FedSplits splits_{*this, game_};
   FedSite camp_{*this, game_, kCampSite, [this] { Return(); }};
   FedSite territory_{*this, game_, kTerritorySite, [this] { Return(); }};
-  ui::Button cmdfinance{*this, "cmdfinance", "Finance", &frmFed::cmdfinance_Click};
-  ui::Button cmdsponsor{*this, "cmdsponsor", "Sponsors", &frmFed::cmdsponsor_Click};
+  ui::Button cmdfinance{*this, "cmdfinance", "Finance", [this] { desk().Open("frmFinance"); }};
+  ui::Button cmdsponsor{*this, "cmdsponsor", "Sponsors", [this] { desk().Open("frmFedSponsor"); }};
   ui::Button cmdvalue{*this, "cmdvalue", "What We Are Worth", &frmFed::cmdvalue_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmFed::cmdback_Click};
 };
-
-}  // namespace
-
-SCREEN(frmFed)
-
-namespace {
 
 /// What the promotion is worth, and why.
 class frmFedValue : public ui::Screen {
@@ -168,14 +155,12 @@ class frmFedValue : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblworth;
-    page.Actions = {&cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Large = true;
-    page.Body = ui::Group("", {ui::Grow(lstworth)});
-    return page;
+    return {.Facts = &lblworth,
+            .Actions = {&cmdback},
+            .Main = &cmdback,
+            .Cancel = &cmdback,
+            .Large = true,
+            .Body = ui::Group("", {ui::Grow(lstworth)})};
   }
 
   void Load() override { Return(); }
@@ -201,18 +186,17 @@ class frmFedValue : public ui::Screen {
                            : ui::Tone::Plain};
   }
 
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
   Game& game_;
   ui::Label lblworth{*this, "lblworth"};
   ui::ListBox lstworth{
       *this, "lstworth", {{"What", K::Text, 3}, {"Why", K::Text, 8}, {"Dollars", K::Number, 2}}};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFedValue::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 }  // namespace
 
+SCREEN(frmFed)
 SCREEN(frmFedValue)
 
 }  // namespace grapplemont

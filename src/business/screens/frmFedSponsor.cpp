@@ -45,17 +45,17 @@ class frmFedSponsor : public ui::Screen {
       : Screen(game.Desk(), "frmFedSponsor", "Sponsors"), game_(game) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmd2, &cmd1};
-    page.Main = &cmd1;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Group("All sponsors", {chkfilter, ui::Grow(lstsponsors)}).Grow(3),
-         ui::Rows({ui::Group("Our sponsors", {ui::Grow(lstplaces)}).Grow(2),
-                   ui::Group("The deal", {lblsponsor, lblslogan, lbldeal, ui::Spacer()}).Grow(1)})
-             .Grow(2)});
-    return page;
+    return {
+        .Facts = &lblfacts,
+        .Actions = {&cmdback, &cmd2, &cmd1},
+        .Main = &cmd1,
+        .Cancel = &cmdback,
+        .Body = ui::Columns(
+            {ui::Group("All sponsors", {chkfilter, ui::Grow(lstsponsors)}).Grow(3),
+             ui::Rows(
+                 {ui::Group("Our sponsors", {ui::Grow(lstplaces)}).Grow(2),
+                  ui::Group("The deal", {lblsponsor, lblslogan, lbldeal, ui::Spacer()}).Grow(1)})
+                 .Grow(2)})};
   }
 
   void Load() override { Show(); }

@@ -27,14 +27,12 @@ class frmFinance : public ui::Screen {
   explicit frmFinance(Game& game) : Screen(game.Desk(), "frmFinance", "Finance"), game_(game) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblmoney;
-    page.Actions = {&cmdback, &cmdnotepad, &cmdcharity, &cmdloan, &cmdwages, &cmdtickets};
-    page.Main = &cmdtickets;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("The books", {ui::Grow(lstbooks), lblbeside}).Grow(3),
-                             ui::Group("Money at month ends", {ui::Grow(chtmoney)}).Grow(2)});
-    return page;
+    return {.Facts = &lblmoney,
+            .Actions = {&cmdback, &cmdnotepad, &cmdcharity, &cmdloan, &cmdwages, &cmdtickets},
+            .Main = &cmdtickets,
+            .Cancel = &cmdback,
+            .Body = ui::Columns({ui::Group("The books", {ui::Grow(lstbooks), lblbeside}).Grow(3),
+                                 ui::Group("Money at month ends", {ui::Grow(chtmoney)}).Grow(2)})};
   }
 
   void Load() override { Show(); }
@@ -106,12 +104,6 @@ class frmFinance : public ui::Screen {
   ui::Button cmdtickets{*this, "cmdtickets", "Tickets", [this] { desk().Open("frmTicket"); }};
 };
 
-}  // namespace
-
-SCREEN(frmFinance)
-
-namespace {
-
 ui::Cell WageCell(long long dollars) {
   return Amount(dollars, dollars == 0 ? ui::Tone::Muted : ui::Tone::Plain);
 }
@@ -129,15 +121,13 @@ class frmWages : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lbltotal;
-    page.Actions = {&cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Group("", {ui::Columns({ui::Field("Workers", lblworkers),
-                                            ui::Field("Staff", lblstaff), ui::Spacer()}),
-                               ui::Grow(lstwages)});
-    return page;
+    return {.Facts = &lbltotal,
+            .Actions = {&cmdback},
+            .Main = &cmdback,
+            .Cancel = &cmdback,
+            .Body = ui::Group("", {ui::Columns({ui::Field("Workers", lblworkers),
+                                                ui::Field("Staff", lblstaff), ui::Spacer()}),
+                                   ui::Grow(lstwages)})};
   }
 
   void Load() override { Return(); }
@@ -157,18 +147,18 @@ class frmWages : public ui::Screen {
   const World& world() { return game_.World(); }
 
   static ui::ListBox::Row RowOf(const Worker& worker) {
-    return {
-        {worker.Name.View(), "Worker", PositionText(worker.Position), WageCell(worker.Wage * 1000LL),
-         WageCell(MonthlyWage(worker)), MonthsCell(worker.ContractMonths)},
-        worker.Uid};
+    return {{worker.Name.View(), "Worker", PositionText(worker.Position),
+             WageCell(worker.Wage * 1000LL), WageCell(MonthlyWage(worker)),
+             MonthsCell(worker.ContractMonths)},
+            worker.Uid};
   }
 
   /// Staff have keys below 0: their uids are not those of workers.
   static ui::ListBox::Row RowOf(const Staff& staff) {
-    return {
-        {staff.Name.View(), "Staff", Says(kStaffPositions, staff.Position),
-         WageCell(staff.Wage * 1000LL), WageCell(MonthlyWage(staff)), MonthsCell(staff.ContractMonths)},
-        -staff.Uid};
+    return {{staff.Name.View(), "Staff", Says(kStaffPositions, staff.Position),
+             WageCell(staff.Wage * 1000LL), WageCell(MonthlyWage(staff)),
+             MonthsCell(staff.ContractMonths)},
+            -staff.Uid};
   }
 
   void ShowTotals() {
@@ -181,8 +171,6 @@ class frmWages : public ui::Screen {
   void lstwages_DblClick() {
     if (lstwages.Key() > 0 && game_.OpenWorker) game_.OpenWorker(lstwages.Key());
   }
-
-  void cmdback_Click() { Close(); }
 
   using K = ui::ColumnKind;
   Game& game_;
@@ -202,14 +190,8 @@ class frmWages : public ui::Screen {
        {"Months", K::Number, 1, "Months left of the contract."}},
       ui::Handler{},
       [this] { lstwages_DblClick(); }};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmWages::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
-
-}  // namespace
-
-SCREEN(frmWages)
-
-namespace {
 
 std::string TermText(int months) {
   if (months <= 0 || months % 12 != 0) return std::to_string(months) + " Months";
@@ -222,15 +204,13 @@ class frmLoan : public ui::Screen {
   explicit frmLoan(Game& game) : Screen(game.Desk(), "frmLoan", "Loan"), game_(game) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblmoney;
-    page.Actions = {&cmdback, &cmddoit};
-    page.Main = &cmddoit;
-    page.Cancel = &cmdback;
-    page.Body = ui::Group("", {txtstatus, ui::Field("In steps of $100000", hsamount),
-                               ui::Field("Amount", lblamount), ui::Field("Each month", txtcost),
-                               ui::Columns({lblfor, lblterm, ui::Spacer()}), lblstate});
-    return page;
+    return {.Facts = &lblmoney,
+            .Actions = {&cmdback, &cmddoit},
+            .Main = &cmddoit,
+            .Cancel = &cmdback,
+            .Body = ui::Group("", {txtstatus, ui::Field("In steps of $100000", hsamount),
+                                   ui::Field("Amount", lblamount), ui::Field("Each month", txtcost),
+                                   ui::Columns({lblfor, lblterm, ui::Spacer()}), lblstate})};
   }
 
   void Load() override {
@@ -295,8 +275,6 @@ class frmLoan : public ui::Screen {
     Show();
   }
 
-  void cmdback_Click() { Close(); }
-
   Game& game_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::Label txtstatus{*this, "txtstatus"};
@@ -306,12 +284,14 @@ class frmLoan : public ui::Screen {
   ui::Label lblterm{*this, "lblterm"};
   ui::Label txtcost{*this, "txtcost"};
   ui::Label lblstate{*this, "lblstate"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmLoan::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmddoit{*this, "cmddoit", "Apply For Loan", &frmLoan::cmddoit_Click};
 };
 
 }  // namespace
 
+SCREEN(frmFinance)
+SCREEN(frmWages)
 SCREEN(frmLoan)
 
 }  // namespace grapplemont

@@ -22,14 +22,12 @@ class frmPromoTape : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdsend};
-    page.Main = &cmdsend;
-    page.Cancel = &cmdback;
-    page.Large = true;
-    page.Body = ui::Group("", {ui::Grow(lstnetworks)});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdback, &cmdsend},
+            .Main = &cmdsend,
+            .Cancel = &cmdback,
+            .Large = true,
+            .Body = ui::Group("", {ui::Grow(lstnetworks)})};
   }
 
   void Load() override {
@@ -57,20 +55,12 @@ class frmPromoTape : public ui::Screen {
     Close();
   }
 
-  void cmdback_Click() { Close(); }
-
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstnetworks{*this, "lstnetworks", NetworkColumns(), &frmPromoTape::ShowSend, cmdsend};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmPromoTape::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdsend{*this, "cmdsend", "Send Tape", &frmPromoTape::cmdsend_Click};
 };
-
-}  // namespace
-
-SCREEN(frmPromoTape)
-
-namespace {
 
 /// The offer of a network: a day and a name, or no.
 class frmTvOffer : public ui::Screen {
@@ -81,16 +71,14 @@ class frmTvOffer : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdreject, &cmdaccept};
-    page.Main = &cmdaccept;
-    page.Cancel = &cmdback;
-    page.Body =
-        ui::Group("", {ui::Field("Network", txtnetwork), ui::Field("Length", txtlength),
-                       ui::Field("Time slot", txttime), ui::Field("Audience wanted", txtaudience),
-                       ui::Field("Day", cmbdays), ui::Field("Name", txtname)});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdback, &cmdreject, &cmdaccept},
+            .Main = &cmdaccept,
+            .Cancel = &cmdback,
+            .Body = ui::Group(
+                "", {ui::Field("Network", txtnetwork), ui::Field("Length", txtlength),
+                     ui::Field("Time slot", txttime), ui::Field("Audience wanted", txtaudience),
+                     ui::Field("Day", cmbdays), ui::Field("Name", txtname)})};
   }
 
   void Load() override { Return(); }
@@ -162,8 +150,6 @@ class frmTvOffer : public ui::Screen {
     Close();
   }
 
-  void cmdback_Click() { Close(); }
-
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Label txtnetwork{*this, "txtnetwork"};
@@ -172,16 +158,10 @@ class frmTvOffer : public ui::Screen {
   ui::Label txtaudience{*this, "txtaudience"};
   ui::ComboBox cmbdays{*this, "cmbdays"};
   ui::TextBox txtname{*this, "txtname"};
-  ui::Button cmdback{*this, "cmdback", "Decide Later", &frmTvOffer::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Decide Later", [this] { Close(); }};
   ui::Button cmdreject{*this, "cmdreject", "Reject", &frmTvOffer::cmdreject_Click};
   ui::Button cmdaccept{*this, "cmdaccept", "Accept", &frmTvOffer::cmdaccept_Click};
 };
-
-}  // namespace
-
-SCREEN(frmTvOffer)
-
-namespace {
 
 /// The networks, and what is on the one that is chosen.
 class frmViewNetworks : public ui::Screen {
@@ -192,12 +172,10 @@ class frmViewNetworks : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows({ui::Group("", {ui::Grow(lstnetworks)}).Grow(3),
-                          ui::Group("On the chosen network", {ui::Grow(lstshows)}).Grow(2)});
-    return page;
+    return {.Actions = {&cmdback},
+            .Cancel = &cmdback,
+            .Body = ui::Rows({ui::Group("", {ui::Grow(lstnetworks)}).Grow(3),
+                              ui::Group("On the chosen network", {ui::Grow(lstshows)}).Grow(2)})};
   }
 
   void Load() override {
@@ -222,8 +200,6 @@ class frmViewNetworks : public ui::Screen {
                       DayCell(show), SlotName(show.Slot), RatingCell(show, show.Rating3)});
   }
 
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
   Game& game_;
   ui::ListBox lstnetworks{*this, "lstnetworks", NetworkColumns(),
@@ -235,7 +211,7 @@ class frmViewNetworks : public ui::Screen {
                         {"Day", K::Date, 3},
                         {"Time", K::Text, 3},
                         {"Last", K::Number, 2, "Last rating."}}};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmViewNetworks::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 }  // namespace
@@ -260,11 +236,7 @@ class ShowTable : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Group("", {ui::Grow(lstshows)});
-    return page;
+    return {.Actions = {&cmdback}, .Cancel = &cmdback, .Body = ui::Group("", {ui::Grow(lstshows)})};
   }
 
   void Load() override { Return(); }
@@ -352,8 +324,9 @@ class frmViewShows : public ShowTable {
 
 }  // namespace
 
+SCREEN(frmPromoTape)
+SCREEN(frmTvOffer)
 SCREEN(frmTVRank)
-
 SCREEN(frmViewShows)
 
 }  // namespace grapplemont

@@ -39,14 +39,12 @@ class frmFedMerch : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblmoney;
-    page.Actions = {&cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Group("", {ui::Field("Percent", hscurrent), ui::Field("Cost", lblcost),
-                               ui::Field("Last month", lbllast), lblmeans});
-    return page;
+    return {.Facts = &lblmoney,
+            .Actions = {&cmdback},
+            .Main = &cmdback,
+            .Cancel = &cmdback,
+            .Body = ui::Group("", {ui::Field("Percent", hscurrent), ui::Field("Cost", lblcost),
+                                   ui::Field("Last month", lbllast), lblmeans})};
   }
 
   void Load() override { Return(); }
@@ -74,8 +72,6 @@ class frmFedMerch : public ui::Screen {
     Show();
   }
 
-  void cmdback_Click() { Close(); }
-
   Game& game_;
   const Spending& side_;
   ui::Label lblmoney{*this, "lblmoney"};
@@ -83,20 +79,8 @@ class frmFedMerch : public ui::Screen {
   ui::Label lblcost{*this, "lblcost"};
   ui::Label lbllast{*this, "lbllast"};
   ui::Label lblmeans{*this, "lblmeans"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFedMerch::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
-
-}  // namespace
-
-void OpenAdvertising(Game& game) {
-  game.Desk().Open(std::make_unique<frmFedMerch>(game, kAdvertisingSide));
-}
-
-void OpenMerchandising(Game& game) {
-  game.Desk().Open(std::make_unique<frmFedMerch>(game, kMerchandisingSide));
-}
-
-namespace {
 
 constexpr int kRaises = static_cast<int>(kProductionRaises.size());
 
@@ -110,15 +94,13 @@ class frmFedProd : public ui::Screen {
   explicit frmFedProd(Game& game) : Screen(game.Desk(), "frmFedProd", "Production"), game_(game) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblmoney;
-    page.Actions = {&cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Group(
-        "", {ui::Field("Production values", lblproduction),
-             ui::Field("Cost of running it", lblmonthly), cmdraise(1), cmdraise(2), cmdraise(3)});
-    return page;
+    return {.Facts = &lblmoney,
+            .Actions = {&cmdback},
+            .Main = &cmdback,
+            .Cancel = &cmdback,
+            .Body = ui::Group("", {ui::Field("Production values", lblproduction),
+                                   ui::Field("Cost of running it", lblmonthly), cmdraise(1),
+                                   cmdraise(2), cmdraise(3)})};
   }
 
   void Load() override { Show(); }
@@ -149,8 +131,6 @@ class frmFedProd : public ui::Screen {
     Show();
   }
 
-  void cmdback_Click() { Close(); }
-
   Game& game_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::Label lblproduction{*this, "lblproduction"};
@@ -159,14 +139,8 @@ class frmFedProd : public ui::Screen {
                                    return std::make_unique<ui::Button>(
                                        *this, name, "", [this, number] { cmdraise_Click(number); });
                                  }};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFedProd::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
-
-}  // namespace
-
-SCREEN(frmFedProd)
-
-namespace {
 
 constexpr int kDearestTicket = 100;  // dollars
 
@@ -176,14 +150,12 @@ class frmTicket : public ui::Screen {
   explicit frmTicket(Game& game) : Screen(game.Desk(), "frmTicket", "Ticket Prices"), game_(game) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblprice;
-    page.Actions = {&cmdback, &cmddoit};
-    page.Main = &cmddoit;
-    page.Cancel = &cmdback;
-    page.Body = ui::Group("", {ui::Field("New price in dollars", hsticket),
-                               ui::Field("What people say", lblopinion), lblfair});
-    return page;
+    return {.Facts = &lblprice,
+            .Actions = {&cmdback, &cmddoit},
+            .Main = &cmddoit,
+            .Cancel = &cmdback,
+            .Body = ui::Group("", {ui::Field("New price in dollars", hsticket),
+                                   ui::Field("What people say", lblopinion), lblfair})};
   }
 
   void Load() override {
@@ -214,22 +186,14 @@ class frmTicket : public ui::Screen {
     Show();
   }
 
-  void cmdback_Click() { Close(); }
-
   Game& game_;
   ui::Label lblprice{*this, "lblprice"};
   ui::ScrollBar hsticket{*this, "hsticket", 0, kDearestTicket, &frmTicket::ShowChoice};
   ui::Label lblopinion{*this, "lblopinion"};
   ui::Label lblfair{*this, "lblfair"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmTicket::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmddoit{*this, "cmddoit", "Change Price", &frmTicket::cmddoit_Click};
 };
-
-}  // namespace
-
-SCREEN(frmTicket)
-
-namespace {
 
 constexpr int kMostThousands = 1000;
 
@@ -243,14 +207,12 @@ class frmCharity : public ui::Screen {
   explicit frmCharity(Game& game) : Screen(game.Desk(), "frmCharity", "Charity"), game_(game) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblmoney;
-    page.Actions = {&cmdback, &cmddonate};
-    page.Main = &cmddonate;
-    page.Cancel = &cmdback;
-    page.Body = ui::Group("", {ui::Field("Thousands of dollars", hsamount),
-                               ui::Field("Donation", lblamount), lblreputation});
-    return page;
+    return {.Facts = &lblmoney,
+            .Actions = {&cmdback, &cmddonate},
+            .Main = &cmddonate,
+            .Cancel = &cmdback,
+            .Body = ui::Group("", {ui::Field("Thousands of dollars", hsamount),
+                                   ui::Field("Donation", lblamount), lblreputation})};
   }
 
   void Load() override { Show(); }
@@ -276,18 +238,27 @@ class frmCharity : public ui::Screen {
     Show();
   }
 
-  void cmdback_Click() { Close(); }
-
   Game& game_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::ScrollBar hsamount{*this, "hsamount", 1, kMostThousands, &frmCharity::ShowChoice};
   ui::Label lblamount{*this, "lblamount"};
   ui::Label lblreputation{*this, "lblreputation"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmCharity::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmddonate{*this, "cmddonate", "Donate", &frmCharity::cmddonate_Click};
 };
 
 }  // namespace
+
+SCREEN(frmFedProd)
+SCREEN(frmTicket)
+
+void OpenAdvertising(Game& game) {
+  game.Desk().Open(std::make_unique<frmFedMerch>(game, kAdvertisingSide));
+}
+
+void OpenMerchandising(Game& game) {
+  game.Desk().Open(std::make_unique<frmFedMerch>(game, kMerchandisingSide));
+}
 
 SCREEN(frmCharity)
 

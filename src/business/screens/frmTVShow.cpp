@@ -20,13 +20,12 @@ class frmTVContract : public ShowScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows({ui::Group("", {txtwants}),
-                          ui::Group("", {ui::Columns({cmdask, cmdcontract, cmdtime, cmdend})})});
-    return page;
+    return {
+        .Facts = &lblfacts,
+        .Actions = {&cmdback},
+        .Cancel = &cmdback,
+        .Body = ui::Rows({ui::Group("", {txtwants}),
+                          ui::Group("", {ui::Columns({cmdask, cmdcontract, cmdtime, cmdend})})})};
   }
 
   void Load() override { Return(); }
@@ -93,8 +92,6 @@ class frmTVContract : public ShowScreen {
     Close();
   }
 
-  void cmdback_Click() { Close(); }
-
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Report txtwants{*this, "txtwants"};
   ui::Button cmdask{*this, "cmdask", "Ask The Network", &frmTVContract::cmdask_Click};
@@ -102,16 +99,8 @@ class frmTVContract : public ShowScreen {
                          &frmTVContract::cmdcontract_Click};
   ui::Button cmdtime{*this, "cmdtime", "Move The Slot", &frmTVContract::cmdtime_Click};
   ui::Button cmdend{*this, "cmdend", "End The Deal", &frmTVContract::cmdend_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmTVContract::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
-
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmTVContract(Game& game, std::string show) {
-  return std::make_unique<frmTVContract>(game, std::move(show));
-}
-
-namespace {
 
 class frmShowName : public ShowScreen {
  public:
@@ -119,12 +108,10 @@ class frmShowName : public ShowScreen {
       : ShowScreen(game, "frmShowName", "Show Name", std::move(show)) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdback, &cmdchange};
-    page.Main = &cmdchange;
-    page.Cancel = &cmdback;
-    page.Body = ui::Group("", {ui::Field("New name", txtname), lblpast});
-    return page;
+    return {.Actions = {&cmdback, &cmdchange},
+            .Main = &cmdchange,
+            .Cancel = &cmdback,
+            .Body = ui::Group("", {ui::Field("New name", txtname), lblpast})};
   }
 
   void Load() override {
@@ -144,21 +131,11 @@ class frmShowName : public ShowScreen {
     Close();
   }
 
-  void cmdback_Click() { Close(); }
-
   ui::TextBox txtname{*this, "txtname"};
   ui::Label lblpast{*this, "lblpast", "Its charts begin anew: the past keeps the old name."};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmShowName::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdchange{*this, "cmdchange", "Change Name", &frmShowName::cmdchange_Click};
 };
-
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmShowName(Game& game, std::string show) {
-  return std::make_unique<frmShowName>(game, std::move(show));
-}
-
-namespace {
 
 /// Who sits in one of the two chairs at the table of a show.
 class frmCommentator : public ShowScreen {
@@ -170,13 +147,11 @@ class frmCommentator : public ShowScreen {
         chair_(chair) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdassign};
-    page.Main = &cmdassign;
-    page.Cancel = &cmdback;
-    page.Body = ui::Group("", {ui::Grow(lststaff)});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdback, &cmdassign},
+            .Main = &cmdassign,
+            .Cancel = &cmdback,
+            .Body = ui::Group("", {ui::Grow(lststaff)})};
   }
 
   void Load() override {
@@ -232,8 +207,6 @@ class frmCommentator : public ShowScreen {
     Close();
   }
 
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
   Chair chair_;
   std::vector<Commentator> people_;  // "None" first
@@ -246,21 +219,9 @@ class frmCommentator : public ShowScreen {
                         {"", K::Text, 2}},
                        ui::Handler{},
                        cmdassign};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmCommentator::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdassign{*this, "cmdassign", "Assign", &frmCommentator::cmdassign_Click};
 };
-
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmAnnouncer(Game& game, std::string show) {
-  return std::make_unique<frmCommentator>(game, frmCommentator::kPrimary, std::move(show));
-}
-
-std::unique_ptr<ui::Screen> MakefrmColourMan(Game& game, std::string show) {
-  return std::make_unique<frmCommentator>(game, frmCommentator::kColour, std::move(show));
-}
-
-namespace {
 
 /// What else is on when a show of ours is: at the same time, and before or after it.
 class frmTVRivals : public ShowScreen {
@@ -272,15 +233,13 @@ class frmTVRivals : public ShowScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    page.Large = true;
-    page.Body =
-        ui::Rows({ui::Group("Direct rivals: in the same time slot", {ui::Grow(lstdirect)}).Grow(),
-                  ui::Group("Indirect rivals: on the same day", {ui::Grow(lstindirect)}).Grow()});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdback},
+            .Cancel = &cmdback,
+            .Large = true,
+            .Body = ui::Rows(
+                {ui::Group("Direct rivals: in the same time slot", {ui::Grow(lstdirect)}).Grow(),
+                 ui::Group("Indirect rivals: on the same day", {ui::Grow(lstindirect)}).Grow()})};
   }
 
   void Load() override { Return(); }
@@ -300,8 +259,6 @@ class frmTVRivals : public ShowScreen {
   }
 
  private:
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
   static std::vector<ui::Column> RivalColumns() {
     return {{"Show", K::Text, 4},
@@ -313,10 +270,26 @@ class frmTVRivals : public ShowScreen {
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstdirect{*this, "lstdirect", RivalColumns()};
   ui::ListBox lstindirect{*this, "lstindirect", RivalColumns()};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmTVRivals::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 }  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmTVContract(Game& game, std::string show) {
+  return std::make_unique<frmTVContract>(game, std::move(show));
+}
+
+std::unique_ptr<ui::Screen> MakefrmShowName(Game& game, std::string show) {
+  return std::make_unique<frmShowName>(game, std::move(show));
+}
+
+std::unique_ptr<ui::Screen> MakefrmAnnouncer(Game& game, std::string show) {
+  return std::make_unique<frmCommentator>(game, frmCommentator::kPrimary, std::move(show));
+}
+
+std::unique_ptr<ui::Screen> MakefrmColourMan(Game& game, std::string show) {
+  return std::make_unique<frmCommentator>(game, frmCommentator::kColour, std::move(show));
+}
 
 std::unique_ptr<ui::Screen> MakefrmTVRivals(Game& game, std::string show) {
   return std::make_unique<frmTVRivals>(game, std::move(show));

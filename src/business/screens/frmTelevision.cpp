@@ -103,21 +103,21 @@ class frmTelevision : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdranking, &cmdnetworks, &cmdshows, &cmdback, &cmdpromo};
-    page.Main = &cmdpromo;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Rows({ui::Group("Our shows", {cmdshow(1), cmdshow(2), cmdshow(3), lblnone}),
-                   ui::Group("The show", ShowParts()), ui::Spacer()})
-             .Grow(2),
-         ui::Rows(
-             {ui::Group("What the network wants", {txtwants}),
-              ui::Group("Television ratings", {ui::Grow(txtratings), ui::Grow(chtratings)}).Grow(),
-              ui::Group("Attendance", {ui::Grow(txtattendance), ui::Grow(chtattendance)}).Grow()})
-             .Grow(3)});
-    return page;
+    return {
+        .Facts = &lblfacts,
+        .Actions = {&cmdranking, &cmdnetworks, &cmdshows, &cmdback, &cmdpromo},
+        .Main = &cmdpromo,
+        .Cancel = &cmdback,
+        .Body = ui::Columns(
+            {ui::Rows({ui::Group("Our shows", {cmdshow(1), cmdshow(2), cmdshow(3), lblnone}),
+                       ui::Group("The show", ShowParts()), ui::Spacer()})
+                 .Grow(2),
+             ui::Rows({ui::Group("What the network wants", {txtwants}),
+                       ui::Group("Television ratings", {ui::Grow(txtratings), ui::Grow(chtratings)})
+                           .Grow(),
+                       ui::Group("Attendance", {ui::Grow(txtattendance), ui::Grow(chtattendance)})
+                           .Grow()})
+                 .Grow(3)})};
   }
 
   void Load() override { Return(); }
@@ -248,13 +248,7 @@ class frmTelevision : public ui::Screen {
     SayAll(desk(), TvAdvice(world(), show, *world().FindNetwork(show.Network)));
   }
 
-  void cmdname_Click() { desk().Open(MakefrmShowName(game_, ChosenName())); }
-  void cmdnegotiate_Click() { desk().Open(MakefrmTVContract(game_, ChosenName())); }
-  void cmdchangea_Click() { desk().Open(MakefrmAnnouncer(game_, ChosenName())); }
   void cmdchangec_Click() { desk().Open(MakefrmColourMan(game_, ChosenName())); }
-  void cmdrivals_Click() { desk().Open(MakefrmTVRivals(game_, ChosenName())); }
-  void cmdranking_Click() { desk().Open("frmTVRank"); }
-  void cmdnetworks_Click() { desk().Open("frmViewNetworks"); }
   void cmdshows_Click() { desk().Open("frmViewShows"); }
 
   void cmdback_Click() {
@@ -284,14 +278,19 @@ class frmTelevision : public ui::Screen {
   ui::Chart chtratings{*this, "chtratings"};
   ui::Report txtattendance{*this, "txtattendance"};
   ui::Chart chtattendance{*this, "chtattendance", true};
-  ui::Button cmdname{*this, "cmdname", "Rename", &frmTelevision::cmdname_Click};
-  ui::Button cmdnegotiate{*this, "cmdnegotiate", "Negotiate", &frmTelevision::cmdnegotiate_Click};
-  ui::Button cmdchangea{*this, "cmdchangea", "Change Announcer", &frmTelevision::cmdchangea_Click};
+  ui::Button cmdname{*this, "cmdname", "Rename",
+                     [this] { desk().Open(MakefrmShowName(game_, ChosenName())); }};
+  ui::Button cmdnegotiate{*this, "cmdnegotiate", "Negotiate",
+                          [this] { desk().Open(MakefrmTVContract(game_, ChosenName())); }};
+  ui::Button cmdchangea{*this, "cmdchangea", "Change Announcer",
+                        [this] { desk().Open(MakefrmAnnouncer(game_, ChosenName())); }};
   ui::Button cmdchangec{*this, "cmdchangec", "Change Colour", &frmTelevision::cmdchangec_Click};
-  ui::Button cmdrivals{*this, "cmdrivals", "Rivals", &frmTelevision::cmdrivals_Click};
+  ui::Button cmdrivals{*this, "cmdrivals", "Rivals",
+                       [this] { desk().Open(MakefrmTVRivals(game_, ChosenName())); }};
   ui::Button cmdmaeve{*this, "cmdmaeve", "Ask Maeve", &frmTelevision::cmdmaeve_Click};
-  ui::Button cmdranking{*this, "cmdranking", "Ranking", &frmTelevision::cmdranking_Click};
-  ui::Button cmdnetworks{*this, "cmdnetworks", "Networks", &frmTelevision::cmdnetworks_Click};
+  ui::Button cmdranking{*this, "cmdranking", "Ranking", [this] { desk().Open("frmTVRank"); }};
+  ui::Button cmdnetworks{*this, "cmdnetworks", "Networks",
+                         [this] { desk().Open("frmViewNetworks"); }};
   ui::Button cmdshows{*this, "cmdshows", "All Shows", &frmTelevision::cmdshows_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmTelevision::cmdback_Click};
   ui::Button cmdpromo{*this, "cmdpromo", "Send Out Promo Tapes", &frmTelevision::cmdpromo_Click};

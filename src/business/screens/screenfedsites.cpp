@@ -31,13 +31,11 @@ class frmFedPick : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblnow;
-    page.Actions = {&cmdcancel, &cmdnobody, &cmddoit};
-    page.Main = &cmddoit;
-    page.Cancel = &cmdcancel;
-    page.Body = ui::Group("", {ui::Grow(lstpeople)});
-    return page;
+    return {.Facts = &lblnow,
+            .Actions = {&cmdcancel, &cmdnobody, &cmddoit},
+            .Main = &cmddoit,
+            .Cancel = &cmdcancel,
+            .Body = ui::Group("", {ui::Grow(lstpeople)})};
   }
 
   void Load() override {
@@ -75,18 +73,16 @@ class frmFedPick : public ui::Screen {
     Close();
   }
 
-  void cmddoit_Click() { Give(lstpeople.Key()); }
   void cmdnobody_Click() { Give(0); }
-  void cmdcancel_Click() { Close(); }
 
   using K = ui::ColumnKind;
   Game& game_;
   Office office_;
   ui::Label lblnow{*this, "lblnow"};
   ui::ListBox lstpeople{*this, "lstpeople", {{}}, &frmFedPick::ShowButtons, cmddoit};
-  ui::Button cmdcancel{*this, "cmdcancel", "Cancel", &frmFedPick::cmdcancel_Click};
+  ui::Button cmdcancel{*this, "cmdcancel", "Cancel", [this] { Close(); }};
   ui::Button cmdnobody{*this, "cmdnobody", "Nobody", &frmFedPick::cmdnobody_Click};
-  ui::Button cmddoit{*this, "cmddoit", "Appoint", &frmFedPick::cmddoit_Click};
+  ui::Button cmddoit{*this, "cmddoit", "Appoint", [this] { Give(lstpeople.Key()); }};
 };
 
 }  // namespace

@@ -24,18 +24,16 @@ class frmEvent : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmddrop, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body =
-        ui::Columns({ui::Group("The year", {ui::Grow(lstevents)}).Grow(3),
-                     ui::Rows({ui::Group("The month's Event",
-                                         {lblmonth, ui::Field("Name", txtname), cmdrename,
-                                          ui::Field("Type", cmbtype), cmdtype, cmdadd, lblnote}),
-                               ui::Spacer()})
-                         .Grow(2)});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmddrop, &cmdback},
+            .Cancel = &cmdback,
+            .Body = ui::Columns(
+                {ui::Group("The year", {ui::Grow(lstevents)}).Grow(3),
+                 ui::Rows({ui::Group("The month's Event",
+                                     {lblmonth, ui::Field("Name", txtname), cmdrename,
+                                      ui::Field("Type", cmbtype), cmdtype, cmdadd, lblnote}),
+                           ui::Spacer()})
+                     .Grow(2)})};
   }
 
   void Load() override {

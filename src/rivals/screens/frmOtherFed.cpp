@@ -214,12 +214,11 @@ class frmOtherFed : public ui::Screen {
       : Screen(game.Desk(), "frmOtherFed", "Other Promotions"), game_(game), sheets(*this, game) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdbuyout, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()});
-    return page;
+    return {
+        .Facts = &lblfacts,
+        .Actions = {&cmdbuyout, &cmdback},
+        .Cancel = &cmdback,
+        .Body = ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()})};
   }
 
   void Load() override {
@@ -294,14 +293,12 @@ class frmPromotion : public ui::Screen {
   int Uid() const { return uid_; }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdbuyout, &cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Large = true;
-    page.Body = sheets.Layout().Grow();
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdbuyout, &cmdback},
+            .Main = &cmdback,
+            .Cancel = &cmdback,
+            .Large = true,
+            .Body = sheets.Layout().Grow()};
   }
 
   void Load() override { Return(); }
@@ -319,14 +316,13 @@ class frmPromotion : public ui::Screen {
   void cmdbuyout_Click() {
     if (const Promotion* rival = LivingPromotion(game_.World(), uid_)) AttemptBuyOut(game_, *rival);
   }
-  void cmdback_Click() { Close(); }
 
   Game& game_;
   int uid_;
   ui::Label lblfacts{*this, "lblfacts"};
   PromotionSheets sheets;
   ui::Button cmdbuyout{*this, "cmdbuyout", "Attempt Buy Out", &frmPromotion::cmdbuyout_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmPromotion::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 }  // namespace

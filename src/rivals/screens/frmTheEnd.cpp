@@ -16,13 +16,11 @@ class frmTheEnd : public ui::Screen {
       : Screen(game.Desk(), "frmTheEnd", "The End", ui::Role::Cover), game_(game) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdlook, &cmdmenu};
-    page.Main = &cmdmenu;
-    page.Cancel = &cmdlook;
-    page.Body = ui::Columns({ui::Group("The Turnbuckle Courier", {ui::Grow(txtstory)}).Grow(3),
-                             ui::Group("Your career", {ui::Grow(txtcareer)}).Grow(2)});
-    return page;
+    return {.Actions = {&cmdlook, &cmdmenu},
+            .Main = &cmdmenu,
+            .Cancel = &cmdlook,
+            .Body = ui::Columns({ui::Group("The Turnbuckle Courier", {ui::Grow(txtstory)}).Grow(3),
+                                 ui::Group("Your career", {ui::Grow(txtcareer)}).Grow(2)})};
   }
 
   void Load() override {
@@ -36,7 +34,6 @@ class frmTheEnd : public ui::Screen {
   }
 
  private:
-  void cmdlook_Click() { Close(); }
   void cmdmenu_Click() {
     game_.Commit();
     game_.CloseSlot();
@@ -47,15 +44,9 @@ class frmTheEnd : public ui::Screen {
   Game& game_;
   ui::Report txtstory{*this, "txtstory"};
   ui::Report txtcareer{*this, "txtcareer"};
-  ui::Button cmdlook{*this, "cmdlook", "Look Around", &frmTheEnd::cmdlook_Click};
+  ui::Button cmdlook{*this, "cmdlook", "Look Around", [this] { Close(); }};
   ui::Button cmdmenu{*this, "cmdmenu", "Main Menu", &frmTheEnd::cmdmenu_Click};
 };
-
-}  // namespace
-
-SCREEN(frmTheEnd)
-
-namespace {
 
 /// The stranger's visit. However it is left, he opens his promotion.
 class frmPinky : public ui::Screen {
@@ -66,12 +57,8 @@ class frmPinky : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows({txtwords});
-    return page;
+    return {
+        .Actions = {&cmdback}, .Main = &cmdback, .Cancel = &cmdback, .Body = ui::Rows({txtwords})};
   }
 
   void Load() override { txtwords.Write(StrangersWords(game_.World())); }
@@ -88,12 +75,6 @@ class frmPinky : public ui::Screen {
   ui::Button cmdback{*this, "cmdback", "So Be It", &frmPinky::cmdback_Click};
 };
 
-}  // namespace
-
-SCREEN(frmPinky)
-
-namespace {
-
 constexpr const char* kDeals = "deals";
 
 /// Two ways to be rid of a rival, and what each costs.
@@ -103,14 +84,12 @@ class frmTakeover : public ui::Screen {
       : Screen(game.Desk(), "frmTakeover", "Takeover", ui::Role::Dialog), game_(game), uid_(uid) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblmoney;
-    page.Actions = {&cmdcancel, &cmddoit};
-    page.Main = &cmddoit;
-    page.Cancel = &cmdcancel;
-    page.Body = ui::Rows(
-        {ui::Group("", {opt1, lblabout1, lblcost1}), ui::Group("", {opt2, lblabout2, lblcost2})});
-    return page;
+    return {.Facts = &lblmoney,
+            .Actions = {&cmdcancel, &cmddoit},
+            .Main = &cmddoit,
+            .Cancel = &cmdcancel,
+            .Body = ui::Rows({ui::Group("", {opt1, lblabout1, lblcost1}),
+                              ui::Group("", {opt2, lblabout2, lblcost2})})};
   }
 
   void Load() override {
@@ -136,7 +115,6 @@ class frmTakeover : public ui::Screen {
     desk().Say("Done!", "Takeover completed!");
     Close();
   }
-  void cmdcancel_Click() { Close(); }
 
   Game& game_;
   int uid_;
@@ -151,11 +129,14 @@ class frmTakeover : public ui::Screen {
   ui::Label lblabout2{*this, "lblabout2",
                       "Pay their debts and a month's wages. Everybody goes to the market."};
   ui::Label lblcost2{*this, "lblcost2"};
-  ui::Button cmdcancel{*this, "cmdcancel", "Cancel", &frmTakeover::cmdcancel_Click};
+  ui::Button cmdcancel{*this, "cmdcancel", "Cancel", [this] { Close(); }};
   ui::Button cmddoit{*this, "cmddoit", "Make the deal!", &frmTakeover::cmddoit_Click};
 };
 
 }  // namespace
+
+SCREEN(frmTheEnd)
+SCREEN(frmPinky)
 
 std::unique_ptr<ui::Screen> MakefrmTakeover(Game& game, int uid) {
   return std::make_unique<frmTakeover>(game, uid);

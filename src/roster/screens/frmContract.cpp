@@ -98,8 +98,6 @@ class frmWresContract : public TalkWith<Worker> {
     Close();
   }
 
-  void cmdback_Click() { Close(); }
-
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Report txtpage{*this, "txtpage"};
   ui::Label txtwage{*this, "txtwage"};
@@ -110,17 +108,9 @@ class frmWresContract : public TalkWith<Worker> {
   ui::CheckBox chkcreative{*this, "chkcreative", "Creative control"};
   ui::Button cmdterminate{*this, "cmdterminate", "Terminate", &frmWresContract::cmdterminate_Click};
   ui::Button cmdrelease{*this, "cmdrelease", "Offer Release", &frmWresContract::cmdrelease_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmWresContract::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &frmWresContract::cmdoffer_Click};
 };
-
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmWresContract(Game& game, const Worker& worker) {
-  return std::make_unique<frmWresContract>(game, worker);
-}
-
-namespace {
 
 constexpr int kOfferedPositions[] = {kMainEvent,    kUpperMidcard,   kMidcard, kLowerMidcard,
                                      kOpener,       kJobber,         kManager, kNonWrestler,
@@ -222,8 +212,6 @@ class frmOtherContract : public TalkWith<Worker> {
     Close();
   }
 
-  void cmdback_Click() { Close(); }
-
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Report txtpage{*this, "txtpage"};
   ui::Label txtposition{*this, "txtposition"};
@@ -237,17 +225,9 @@ class frmOtherContract : public TalkWith<Worker> {
   ui::ComboBox cmbnewdispo{*this, "cmbnewdispo"};
   ui::TextBox txtnewname{*this, "txtnewname", "", Text<25>::kWidth};
   ui::TextBox txtnewname2{*this, "txtnewname2", "", Text<10>::kWidth};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmOtherContract::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &frmOtherContract::cmdoffer_Click};
 };
-
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmOtherContract(Game& game, const Worker& worker) {
-  return std::make_unique<frmOtherContract>(game, worker);
-}
-
-namespace {
 
 /// Talks with a member of staff. The player's own keep to themselves what they want; from others it
 /// can be read.
@@ -259,20 +239,18 @@ class StaffTalk : public TalkWith<Staff> {
         offer_(*this, std::max<int>(kHighestStaffWage, own ? staff.Wage : 0)) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdoffer};
-    page.Main = &cmdoffer;
-    page.Cancel = &cmdback;
-    page.Large = true;
-    page.Body = ui::Columns(
-        {ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-         ui::Rows({ui::Group(own_ ? "The contract" : "Wanted of you",
-                             {ui::Field("Wage", txtwage), ui::Field("Length", txtlength),
-                              ui::Field("Type", txttype)}),
-                   ui::Group("Your offer", offer_.Fields()), ui::Spacer()})
-             .Grow(1)});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdback, &cmdoffer},
+            .Main = &cmdoffer,
+            .Cancel = &cmdback,
+            .Large = true,
+            .Body = ui::Columns(
+                {ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                 ui::Rows({ui::Group(own_ ? "The contract" : "Wanted of you",
+                                     {ui::Field("Wage", txtwage), ui::Field("Length", txtlength),
+                                      ui::Field("Type", txttype)}),
+                           ui::Group("Your offer", offer_.Fields()), ui::Spacer()})
+                     .Grow(1)})};
   }
 
  protected:
@@ -316,8 +294,6 @@ class StaffTalk : public TalkWith<Staff> {
     Close();
   }
 
-  void cmdback_Click() { Close(); }
-
   bool own_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Report txtpage{*this, "txtpage"};
@@ -325,11 +301,19 @@ class StaffTalk : public TalkWith<Staff> {
   ui::Label txtlength{*this, "txtlength"};
   ui::Label txttype{*this, "txttype"};
   OfferControls offer_;  // whoever earns more than anybody wants can be kept at it
-  ui::Button cmdback{*this, "cmdback", "Back", &StaffTalk::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &StaffTalk::cmdoffer_Click};
 };
 
 }  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmWresContract(Game& game, const Worker& worker) {
+  return std::make_unique<frmWresContract>(game, worker);
+}
+
+std::unique_ptr<ui::Screen> MakefrmOtherContract(Game& game, const Worker& worker) {
+  return std::make_unique<frmOtherContract>(game, worker);
+}
 
 std::unique_ptr<ui::Screen> MakefrmStaffContract(Game& game, const Staff& staff) {
   return std::make_unique<StaffTalk>(game, staff, true);

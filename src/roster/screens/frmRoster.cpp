@@ -113,22 +113,21 @@ class frmRoster : public WorkerListScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdturn, &cmdmanager, &cmdstables, &cmdback, &cmdcontract};
-    page.Main = &cmdcontract;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows(
-        {ui::Group("", {FilterBox({ui::Field("Split", cmbsplit)})}),
-         ui::Columns(
-             {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
-              ui::Rows({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-                        ui::Group("Place", {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
-                                            lblmove, ui::Columns({ui::Grow(cmbnewsplit), cmdsplit}),
-                                            ui::Columns({cmddevelopment, cmdcamp})})})
-                  .Grow(4)})
-             .Grow(1)});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdturn, &cmdmanager, &cmdstables, &cmdback, &cmdcontract},
+            .Main = &cmdcontract,
+            .Cancel = &cmdback,
+            .Body = ui::Rows(
+                {ui::Group("", {FilterBox({ui::Field("Split", cmbsplit)})}),
+                 ui::Columns(
+                     {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
+                      ui::Rows({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                                ui::Group("Place",
+                                          {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
+                                           lblmove, ui::Columns({ui::Grow(cmbnewsplit), cmdsplit}),
+                                           ui::Columns({cmddevelopment, cmdcamp})})})
+                          .Grow(4)})
+                     .Grow(1)})};
   }
 
   void Load() override {
@@ -232,9 +231,6 @@ class frmRoster : public WorkerListScreen {
   void cmdcontract_Click() {
     if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
   }
-  void cmdturn_Click() { desk().Open("frmTurn"); }
-  void cmdmanager_Click() { desk().Open("frmManagers"); }
-  void cmdstables_Click() { desk().Open("frmStables"); }
   void cmdback_Click() { Leave(); }
 
   ui::ComboBox cmbsplit{*this, "cmbsplit", &frmRoster::ShowList};
@@ -246,18 +242,12 @@ class frmRoster : public WorkerListScreen {
   ui::Button cmddevelopment{*this, "cmddevelopment", "Send To Development",
                             &frmRoster::cmddevelopment_Click};
   ui::Button cmdcamp{*this, "cmdcamp", "Send To Camp", &frmRoster::cmdcamp_Click};
-  ui::Button cmdturn{*this, "cmdturn", "Turns", &frmRoster::cmdturn_Click};
-  ui::Button cmdmanager{*this, "cmdmanager", "Managers", &frmRoster::cmdmanager_Click};
-  ui::Button cmdstables{*this, "cmdstables", "Stables", &frmRoster::cmdstables_Click};
+  ui::Button cmdturn{*this, "cmdturn", "Turns", [this] { desk().Open("frmTurn"); }};
+  ui::Button cmdmanager{*this, "cmdmanager", "Managers", [this] { desk().Open("frmManagers"); }};
+  ui::Button cmdstables{*this, "cmdstables", "Stables", [this] { desk().Open("frmStables"); }};
   ui::Button cmdback{*this, "cmdback", "Back", &frmRoster::cmdback_Click};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmRoster::cmdcontract_Click};
 };
-
-}  // namespace
-
-SCREEN(frmRoster)
-
-namespace {
 
 /// Everybody who does not work for the player.
 class frmOtherWres : public WorkerListScreen {
@@ -270,16 +260,14 @@ class frmOtherWres : public WorkerListScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdlist, &cmdshortlist, &cmdback, &cmdcontract};
-    page.Main = &cmdcontract;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows(
-        {ui::Group("", {FilterBox()}), ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
-                                                    ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
-                                           .Grow(1)});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdlist, &cmdshortlist, &cmdback, &cmdcontract},
+            .Main = &cmdcontract,
+            .Cancel = &cmdback,
+            .Body = ui::Rows({ui::Group("", {FilterBox()}),
+                              ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
+                                           ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
+                                  .Grow(1)})};
   }
 
  protected:
@@ -306,18 +294,17 @@ class frmOtherWres : public WorkerListScreen {
     ShowFacts();
     ShowChoice();
   }
-  void cmdlist_Click() { desk().Open("frmShortlist"); }
-  void cmdback_Click() { Leave(); }
 
-  ui::Button cmdlist{*this, "cmdlist", "Shortlist", &frmOtherWres::cmdlist_Click};
+  ui::Button cmdlist{*this, "cmdlist", "Shortlist", [this] { desk().Open("frmShortlist"); }};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Put On Shortlist",
                           &frmOtherWres::cmdshortlist_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmOtherWres::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Leave(); }};
   ui::Button cmdcontract{*this, "cmdcontract", "Talks", &frmOtherWres::cmdcontract_Click};
 };
 
 }  // namespace
 
+SCREEN(frmRoster)
 SCREEN(frmOtherWres)
 
 }  // namespace grapplemont

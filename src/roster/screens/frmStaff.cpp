@@ -158,16 +158,14 @@ class frmStaff : public StaffListScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdfire, &cmdback, &cmdcontract};
-    page.Main = &cmdcontract;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows({ui::Group("", {lblposts, lbladvice}),
-                          ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
-                                       ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
-                              .Grow(1)});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdfire, &cmdback, &cmdcontract},
+            .Main = &cmdcontract,
+            .Cancel = &cmdback,
+            .Body = ui::Rows({ui::Group("", {lblposts, lbladvice}),
+                              ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
+                                           ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
+                                  .Grow(1)})};
   }
 
  protected:
@@ -185,8 +183,6 @@ class frmStaff : public StaffListScreen {
   }
 
  private:
-  void cmdcontract_Click() { Negotiate(); }
-
   void cmdfire_Click() {
     Staff* chosen = Chosen();
     if (!chosen || !Belongs(*chosen) || !WhyNot(chosen).empty()) return ShowList();
@@ -196,20 +192,12 @@ class frmStaff : public StaffListScreen {
     ShowList();
   }
 
-  void cmdback_Click() { Leave(); }
-
   ui::Label lblposts{*this, "lblposts"};
   ui::Label lbladvice{*this, "lbladvice"};
   ui::Button cmdfire{*this, "cmdfire", "Fire", &frmStaff::cmdfire_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmStaff::cmdback_Click};
-  ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmStaff::cmdcontract_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Leave(); }};
+  ui::Button cmdcontract{*this, "cmdcontract", "Contract", [this] { Negotiate(); }};
 };
-
-}  // namespace
-
-SCREEN(frmStaff)
-
-namespace {
 
 /// Rows to choose from, each with its test against the promotion that hires.
 struct StaffFilter {
@@ -260,18 +248,16 @@ class frmOtherStaff : public StaffListScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdcontract};
-    page.Main = &cmdcontract;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows(
-        {ui::Group("", {ui::Columns({ui::Field("Bond", cmbbond), ui::Field("Post", cmbpost),
-                                     ui::Field("Talent", cmbtalent), ui::Spacer()})}),
-         ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
-                      ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
-             .Grow(1)});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdback, &cmdcontract},
+            .Main = &cmdcontract,
+            .Cancel = &cmdback,
+            .Body = ui::Rows(
+                {ui::Group("", {ui::Columns({ui::Field("Bond", cmbbond), ui::Field("Post", cmbpost),
+                                             ui::Field("Talent", cmbtalent), ui::Spacer()})}),
+                 ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
+                              ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
+                     .Grow(1)})};
   }
 
  protected:
@@ -294,18 +280,18 @@ class frmOtherStaff : public StaffListScreen {
     return row <= 1 || filters[row - 1].Keeps(staff, world().Player());
   }
 
-  void cmdcontract_Click() { Negotiate(); }
   void cmdback_Click() { Leave(); }
 
   ui::ComboBox cmbbond{*this, "cmbbond", &frmOtherStaff::ShowList};
   ui::ComboBox cmbpost{*this, "cmbpost", &frmOtherStaff::ShowList};
   ui::ComboBox cmbtalent{*this, "cmbtalent", &frmOtherStaff::ShowList};
   ui::Button cmdback{*this, "cmdback", "Back", &frmOtherStaff::cmdback_Click};
-  ui::Button cmdcontract{*this, "cmdcontract", "Hire", &frmOtherStaff::cmdcontract_Click};
+  ui::Button cmdcontract{*this, "cmdcontract", "Hire", [this] { Negotiate(); }};
 };
 
 }  // namespace
 
+SCREEN(frmStaff)
 SCREEN(frmOtherStaff)
 
 }  // namespace grapplemont

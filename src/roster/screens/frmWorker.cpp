@@ -90,14 +90,12 @@ class frmWorker : public ui::Screen {
   int Uid() const { return uid_; }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdshortlist, &cmdcontract, &cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Large = true;
-    page.Body = ui::Columns(
-        {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});
-    return page;
+    return {.Actions = {&cmdshortlist, &cmdcontract, &cmdback},
+            .Main = &cmdback,
+            .Cancel = &cmdback,
+            .Large = true,
+            .Body = ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                                 ui::Group("", {ui::Grow(txtmore)}).Grow(1)})};
   }
 
   void Load() override { Return(); }
@@ -124,7 +122,6 @@ class frmWorker : public ui::Screen {
   void cmdcontract_Click() {
     if (const Worker* worker = Subject()) OpenTalks(game_, *worker);
   }
-  void cmdback_Click() { Close(); }
 
   Game& game_;
   int uid_;
@@ -132,7 +129,7 @@ class frmWorker : public ui::Screen {
   ui::Report txtmore{*this, "txtmore"};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Shortlist", &frmWorker::cmdshortlist_Click};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmWorker::cmdcontract_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmWorker::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 /// His page, if only pages of workers lie above it.
@@ -171,14 +168,12 @@ class frmShortlist : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdremove, &cmdpage, &cmdback, &cmdcontract};
-    page.Main = &cmdcontract;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Group("", {ui::Grow(lstwres)}).Grow(5), ui::Group("", {ui::Grow(txtpage)}).Grow(3)});
-    return page;
+    return {.Facts = &lblfacts,
+            .Actions = {&cmdremove, &cmdpage, &cmdback, &cmdcontract},
+            .Main = &cmdcontract,
+            .Cancel = &cmdback,
+            .Body = ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(5),
+                                 ui::Group("", {ui::Grow(txtpage)}).Grow(3)})};
   }
 
   void Load() override { Return(); }
@@ -226,7 +221,6 @@ class frmShortlist : public ui::Screen {
   void cmdcontract_Click() {
     if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
   }
-  void cmdback_Click() { Close(); }
 
   static std::vector<ui::Column> Columns() {
     std::vector<ui::Column> columns = ShortColumns();
@@ -241,7 +235,7 @@ class frmShortlist : public ui::Screen {
   ui::Report txtpage{*this, "txtpage"};
   ui::Button cmdremove{*this, "cmdremove", "Remove", &frmShortlist::cmdremove_Click};
   ui::Button cmdpage{*this, "cmdpage", "Open Page", &frmShortlist::cmdpage_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmShortlist::cmdback_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdcontract{*this, "cmdcontract", "Talks", &frmShortlist::cmdcontract_Click};
 };
 
