@@ -31,8 +31,8 @@ constexpr SlotWords kSlots[] = {{"E", "Early Evening", "6:00pm - 8:00pm"},
                                 {"G", "Graveyard", "12:00am - 2:00am"}};
 
 const SlotWords& WordsOf(std::string_view slot) {
-  const auto* found = std::find_if(std::begin(kSlots), std::end(kSlots),
-                                   [&](const SlotWords& words) { return words.Slot == slot; });
+  const auto* found =
+      std::ranges::find_if(kSlots, [&](const SlotWords& words) { return words.Slot == slot; });
   return found == std::end(kSlots) ? kSlots[std::size(kSlots) - 1] : *found;
 }
 
@@ -75,9 +75,8 @@ int AudiencePotential(const Promotion& promotion, int economy) {
 }
 
 int ShowsOn(const World& world, const Network& network) {
-  const auto& shows = world.Shows();
-  return static_cast<int>(std::count_if(
-      shows.begin(), shows.end(), [&](const Show& show) { return show.Network == network.Uid; }));
+  return static_cast<int>(std::ranges::count_if(
+      world.Shows(), [&](const Show& show) { return show.Network == network.Uid; }));
 }
 
 bool IsFull(const World& world, const Network& network) {
@@ -123,7 +122,7 @@ void Review(World& world, const Promotion& owner, Show& show) {
   if (show.ContractWeeks == kRenewalWeeks && owner.Uid != world.PlayerUid())
     Renew(world, owner, show);
   if (show.ContractWeeks == 0) TakeOff(world, owner, show, " has not been renewed by ");
-  if (show.Rating4 == kDroppedAt && !(show.Name == kToBeDeleted))
+  if (show.Rating4 == kDroppedAt && show.Name != kToBeDeleted)
     TakeOff(world, owner, show, " has been dropped by ");
 }
 

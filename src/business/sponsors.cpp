@@ -54,9 +54,8 @@ void MoveSponsor(Promotion& promotion, int sponsorUid, int place) {
 
 void LoseSponsor(World& world, Sponsor& sponsor) {
   for (Promotion& promotion : world.Promotions())
-    std::replace_if(
-        promotion.Sponsor.begin(), promotion.Sponsor.end(),
-        [&](const Word& place) { return place == sponsor.Uid; }, 0);
+    std::ranges::replace_if(
+        promotion.Sponsor, [&](const Word& place) { return place == sponsor.Uid; }, 0);
   sponsor.Promotion = 0;
   sponsor.ContractMonths = 0;
 }

@@ -19,8 +19,7 @@ constexpr int kShowNameLetters = 20;
 /// Whether a network that cannot share its spots has a show in the slot that `counts`.
 template <class Test>
 bool HasInSlot(const World& world, const Network& network, std::string_view slot, Test counts) {
-  const auto& shows = world.Shows();
-  return !network.Generic && std::any_of(shows.begin(), shows.end(), [&](const Show& show) {
+  return !network.Generic && std::ranges::any_of(world.Shows(), [&](const Show& show) {
     return show.Network == network.Uid && show.Slot == slot && counts(show);
   });
 }
@@ -46,9 +45,8 @@ std::string WhyNoShowName(std::string_view name) {
 }
 
 bool ShowNameTaken(const World& world, std::string_view name) {
-  const auto& shows = world.Shows();
-  return std::any_of(shows.begin(), shows.end(),
-                     [&](const Show& show) { return show.Name == TrimmedName(name); });
+  return std::ranges::any_of(world.Shows(),
+                             [&](const Show& show) { return show.Name == TrimmedName(name); });
 }
 
 bool SlotTaken(const World& world, const Network& network, std::string_view slot) {
@@ -61,8 +59,7 @@ std::vector<int> FreeDays(const World& world, int promotionUid, const Network& n
   const std::vector<const Show*> own = ShowsOf(world, promotionUid);
   for (const Term& day : kWeekDays) {
     const auto isThen = [&](const Show& show) { return show.Day == day.Says; };
-    const bool busy =
-        std::any_of(own.begin(), own.end(), [&](const Show* show) { return isThen(*show); });
+    const bool busy = std::ranges::any_of(own, [&](const Show* show) { return isThen(*show); });
     if (!busy && !HasInSlot(world, network, slot, isThen)) free.push_back(day.Code);
   }
   return free;

@@ -149,8 +149,7 @@ constexpr TakenSlot kTaken[] = {
     {"P", "Network: 'We would move you to a prime time slot, but we already have a show then.'"}};
 
 const char* TakenWords(std::string_view slot) {
-  return std::find_if(std::begin(kTaken), std::end(kTaken),
-                      [&](const TakenSlot& taken) { return taken.Slot == slot; })
+  return std::ranges::find_if(kTaken, [&](const TakenSlot& taken) { return taken.Slot == slot; })
       ->Text;
 }
 
@@ -160,7 +159,7 @@ MoveTalk TalkOfMove(const World& world, const Promotion& promotion, const Show& 
                     const Network& network) {
   const NetworkView view = ViewOf(show, network);
   for (const SlotMove& move : kMoves) {
-    if (!(show.Slot == move.From) || view != move.View) continue;
+    if (show.Slot != move.From || view != move.View) continue;
     if (promotion.Risk >= network.*move.RiskBelow) return {move.TooRisky, {}};
     if (SlotTaken(world, network, move.To)) return {TakenWords(move.To), {}};
     return {move.Offer, move.To};

@@ -215,7 +215,7 @@ std::optional<YearAward> BestMatch(const Year& year) {
   const HeldMatch* best = nullptr;
   Merit most{};
   for (const HeldMatch& bout : year.Of().Bouts()) {
-    const Merit merit{bout.Rating, bout.IsEvent, !(bout.Title == "None")};
+    const Merit merit{bout.Rating, bout.IsEvent, bout.Title != "None"};
     if (!year.Has(Day(bout.On)) || merit <= most) continue;
     best = &bout;
     most = merit;
@@ -271,8 +271,8 @@ std::vector<FeudYear> FeudsOf(const Year& year) {
   for (const HeldMatch& bout : year.Of().Bouts()) {
     const std::array<int, 4> parties = {bout.Feud[0], bout.Feud[1], bout.Feud[2], bout.Feud[3]};
     if (!year.Has(Day(bout.On)) || !HasTwoSides(parties)) continue;
-    auto feud = std::find_if(feuds.begin(), feuds.end(),
-                             [&](const FeudYear& known) { return known.Parties == parties; });
+    auto feud = std::ranges::find_if(
+        feuds, [&](const FeudYear& known) { return known.Parties == parties; });
     if (feud == feuds.end()) feud = feuds.insert(feuds.end(), {parties, {}, 0});
     feud->Ratings.push_back(bout.Rating);
   }

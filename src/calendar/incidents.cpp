@@ -20,13 +20,13 @@ bool IsAlive(const World& world, const Incident& incident) {
     return worker && WorksForPlayer(world, *worker);
   }
   const Promotion* promotion = world.FindPromotion(incident.Uid);
-  return promotion && promotion->Uid != world.PlayerUid() && !(promotion->Name == kToBeDeleted);
+  return promotion && promotion->Uid != world.PlayerUid() && promotion->Name != kToBeDeleted;
 }
 
 /// Opening the list again finds him where it left him.
 void TakeOut(World& world, const Incident& incident) {
   Worker* worker = world.FindWorker(incident.Uid);
-  if (!worker || !(worker->Status == "Nor")) return;
+  if (!worker || worker->Status != "Nor") return;
   if (incident.Type == kRehab) {
     worker->Status = "Reh";
     worker->StatusMonths = 1 + world.RandomDraw(3);

@@ -118,7 +118,7 @@ void CloseMonthBooks(World& world) {
     promotion.LastMonth = promotion.ThisMonth;
     promotion.ThisMonth = {};
     promotion.Money = std::clamp<int>(promotion.Money, -kMostMoney, kMostMoney);
-    if (!(promotion.Name == kToBeDeleted)) RememberMonth(world, promotion);
+    if (promotion.Name != kToBeDeleted) RememberMonth(world, promotion);
   }
 }
 
@@ -128,7 +128,7 @@ constexpr const char* kPersonnel = "Human Resources";
 
 bool IsShortlisted(const World& world, int uid) {
   const auto& list = world.Game().Shortlist;
-  return std::any_of(list.begin(), list.end(), [&](const Word& entry) { return entry == uid; });
+  return std::ranges::any_of(list, [&](const Word& entry) { return entry == uid; });
 }
 
 /// "3 months left on his contract." at three months and at one; empty at any other.

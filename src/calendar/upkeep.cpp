@@ -46,7 +46,7 @@ bool MayRebel(const Worker& worker) {
 
 /// True when he has left.
 bool WalksOut(World& world, Worker& worker) {
-  if (!(worker.ContractType == "Non") || !MayRebel(worker) || worker.Behaviour >= 80 ||
+  if (worker.ContractType != "Non" || !MayRebel(worker) || worker.Behaviour >= 80 ||
       worker.Morale >= 10)
     return false;
   Say(world, worker, kWalksOut);

@@ -159,7 +159,8 @@ void TalkOfTheRoom(Meeting& meeting) {
 
 std::string WhyUnhappy(const World& world, const Worker& worker) {
   if (IsHeldLow(world, worker)) return "stands too low on the card";
-  if (HasTerritory(world.Player()) && IsInDevelopment(worker) && worker.Over >= worker.Potential)
+  if (HasSite(world.Player(), Site::Territory) && IsInDevelopment(worker) &&
+      worker.Over >= worker.Potential)
     return "has nothing left to learn in the development territory";
   if (FallsInARow(world.Player()) >= kPoorForm)
     return "has seen our standing fall month after month";

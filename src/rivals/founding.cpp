@@ -39,7 +39,7 @@ std::string TitleNameOf(const World& world, const Promotion& promotion, std::str
     return title.Owner != kNoEnd && title.Name == name;
   };
   for (const char* behind : {" II", " III", " IV"})
-    if (std::any_of(world.Titles().begin(), world.Titles().end(), isHeld)) name = plain + behind;
+    if (std::ranges::any_of(world.Titles(), isHeld)) name = plain + behind;
   return name;
 }
 
@@ -59,13 +59,12 @@ void FoundTitle(World& world, const Promotion& promotion, std::string_view what,
 }  // namespace
 
 bool IsNameFree(const World& world, std::string_view name, std::string_view initials) {
-  return std::none_of(world.Promotions().begin(), world.Promotions().end(),
-                      [&](auto& p) { return p.Name == name || p.Initials == initials; });
+  return std::ranges::none_of(world.Promotions(),
+                              [&](auto& p) { return p.Name == name || p.Initials == initials; });
 }
 
 int CountPromotions(const World& world) {
-  return static_cast<int>(
-      std::count_if(world.Promotions().begin(), world.Promotions().end(), IsAlive));
+  return static_cast<int>(std::ranges::count_if(world.Promotions(), IsAlive));
 }
 
 Promotion NewPromotion(const World& world, std::string_view name, std::string_view initials) {
@@ -114,8 +113,7 @@ bool IsUnused(const World& world, const NewPromotionName& name) {
 }
 
 bool AnyNameLeft(const World& world) {
-  return std::any_of(kNewPromotionNames.begin(), kNewPromotionNames.end(),
-                     [&](auto& name) { return IsUnused(world, name); });
+  return std::ranges::any_of(kNewPromotionNames, [&](auto& name) { return IsUnused(world, name); });
 }
 
 const NewPromotionName& DrawUnusedName(World& world) {
@@ -167,16 +165,15 @@ const NewPromotionName* FreeName(const World& world) {
 }
 
 bool WasGlobal(const Promotion& promotion) {
-  return std::any_of(promotion.Rank.begin(), promotion.Rank.end(),
-                     [](int rank) { return rank >= kStandingOfGlobals; });
+  return std::ranges::any_of(promotion.Rank, [](int rank) { return rank >= kStandingOfGlobals; });
 }
 
 /// No rival that is still there was Global at any of the five month ends at which the player was.
 bool HasLongBeenAlone(const World& world) {
   for (const int rank : world.Player().Rank)
     if (rank < kStandingOfGlobals) return false;
-  return std::none_of(world.Promotions().begin(), world.Promotions().end(),
-                      [&](auto& p) { return IsRival(world, p) && WasGlobal(p); });
+  return std::ranges::none_of(world.Promotions(),
+                              [&](auto& p) { return IsRival(world, p) && WasGlobal(p); });
 }
 
 bool IsRoomFor(const World& world) {
@@ -216,7 +213,7 @@ void BuyStars(World& world, const Promotion& promotion) {
   std::vector<Worker*> stars;
   for (Worker& worker : world.Workers())
     if (IsStar(worker) && worker.Employer != promotion.Uid) stars.push_back(&worker);
-  std::stable_sort(stars.begin(), stars.end(), [](auto* a, auto* b) { return a->Over > b->Over; });
+  std::ranges::stable_sort(stars, [](auto* a, auto* b) { return a->Over > b->Over; });
   std::map<int, int> takenFrom;
   int bought = 0;
   for (Worker* star : stars) {
@@ -233,9 +230,9 @@ void BuyStars(World& world, const Promotion& promotion) {
 }  // namespace
 
 bool IsAloneAtTheTop(const World& world) {
-  return world.Player().Size == kGlobal &&
-         std::none_of(world.Promotions().begin(), world.Promotions().end(),
-                      [&](auto& p) { return IsRival(world, p) && p.Size == kGlobal; });
+  return world.Player().Size == kGlobal && std::ranges::none_of(world.Promotions(), [&](auto& p) {
+           return IsRival(world, p) && p.Size == kGlobal;
+         });
 }
 
 void AwaitStranger(World& world) {

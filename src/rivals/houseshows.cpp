@@ -85,7 +85,7 @@ std::vector<Contender> Pairs(const World& world, const Title& title) {
   }
   if (!found.empty()) return found;
   std::vector<Contender> alone = Singles(world, title);
-  std::stable_sort(alone.begin(), alone.end(), [](const Contender& a, const Contender& b) {
+  std::ranges::stable_sort(alone, [](const Contender& a, const Contender& b) {
     return std::pair<int, int>(a.First->Position, -a.Over) <
            std::pair<int, int>(b.First->Position, -b.Over);
   });
@@ -97,8 +97,8 @@ std::vector<Contender> Pairs(const World& world, const Title& title) {
 /// The best first, no more than count for a Title's holder.
 std::vector<Contender> BestContenders(const World& world, const Title& title) {
   std::vector<Contender> found = title.Singles ? Singles(world, title) : Pairs(world, title);
-  std::stable_sort(found.begin(), found.end(),
-                   [](const Contender& a, const Contender& b) { return a.Over > b.Over; });
+  std::ranges::stable_sort(found,
+                           [](const Contender& a, const Contender& b) { return a.Over > b.Over; });
   if (found.size() > tuning::kContenders) found.resize(tuning::kContenders);
   return found;
 }

@@ -7,7 +7,7 @@
 namespace grapplemont {
 
 bool IsAlive(const Promotion& promotion) {
-  return !(promotion.Name == kToBeDeleted);
+  return promotion.Name != kToBeDeleted;
 }
 
 bool IsRival(const World& world, const Promotion& promotion) {

@@ -267,8 +267,8 @@ void Spend(World& world, const Promotion& rival, Rosters& rosters) {
 }
 
 bool HasTitles(const World& world, int promotionUid) {
-  return std::any_of(world.Titles().begin(), world.Titles().end(),
-                     [&](auto& title) { return title.Owner == promotionUid; });
+  return std::ranges::any_of(world.Titles(),
+                             [&](auto& title) { return title.Owner == promotionUid; });
 }
 
 }  // namespace
@@ -296,8 +296,8 @@ void RivalAdvertising(World& world) {
 namespace {
 
 int CountFree(const World& world) {
-  return static_cast<int>(std::count_if(world.Workers().begin(), world.Workers().end(),
-                                        [](auto& worker) { return worker.Employer == 0; }));
+  return static_cast<int>(
+      std::ranges::count_if(world.Workers(), [](auto& worker) { return worker.Employer == 0; }));
 }
 
 /// Everybody who comes is free, so the share grows with both counts.

@@ -124,8 +124,8 @@ constexpr const char* kNoMove =
 /// Why he would go; nullptr when he would rather stay.
 const Reason* ReasonToGo(const World& world, const Worker& worker) {
   const Promotion& own = world.Player();
-  const auto reason = std::find_if(std::begin(kReasons), std::end(kReasons),
-                                   [&](const Reason& r) { return r.Holds(own, worker); });
+  const auto reason =
+      std::ranges::find_if(kReasons, [&](const Reason& r) { return r.Holds(own, worker); });
   return reason == std::end(kReasons) ? nullptr : reason;
 }
 
@@ -140,9 +140,8 @@ int SmallestFor(int over) {
 
 bool HasMarket(const World& world, const Worker& worker) {
   const int smallest = SmallestFor(worker.Over);
-  const auto& all = world.Promotions();
-  return std::any_of(all.begin(), all.end(),
-                     [=](const Promotion& promotion) { return promotion.Size <= smallest; });
+  return std::ranges::any_of(
+      world.Promotions(), [=](const Promotion& promotion) { return promotion.Size <= smallest; });
 }
 
 ReleaseAnswer AnswerToRelease(const World& world, const Worker& worker) {

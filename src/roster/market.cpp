@@ -62,7 +62,7 @@ constexpr WorkerFilter kByDisposition[] = {
 constexpr WorkerFilter kByStatus[] = {
     {"All", All},
     {"Available", [](const Worker& w) { return w.Status == "Nor"; }},
-    {"Not available", [](const Worker& w) { return !(w.Status == "Nor"); }},
+    {"Not available", [](const Worker& w) { return w.Status != "Nor"; }},
     {"Injured", [](const Worker& w) { return w.Status == "Inj"; }},
     {"Suspended", [](const Worker& w) { return w.Status == "Sus"; }},
     {"In rehab", [](const Worker& w) { return w.Status == "Reh"; }},
@@ -134,8 +134,8 @@ bool RunsOutWithin(const Worker& worker, int months) {
 
 bool IsShortlisted(const World& world, int workerUid) {
   const auto& places = world.Game().Shortlist;
-  return workerUid != 0 && std::any_of(places.begin(), places.end(),
-                                       [=](const Word& place) { return place == workerUid; });
+  return workerUid != 0 &&
+         std::ranges::any_of(places, [=](const Word& place) { return place == workerUid; });
 }
 
 std::vector<const Worker*> Shortlisted(const World& world) {

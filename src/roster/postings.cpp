@@ -29,7 +29,7 @@ const Title* TitleOf(const World& world, int uid) {
 }
 
 bool IsInFeud(const World& world, int uid) {
-  return std::any_of(world.Feuds().begin(), world.Feuds().end(), [uid](const Feud& feud) {
+  return std::ranges::any_of(world.Feuds(), [uid](const Feud& feud) {
     return feud.Worker1 == uid || feud.Worker2 == uid || feud.Worker3 == uid || feud.Worker4 == uid;
   });
 }
@@ -52,8 +52,8 @@ std::string WhyNotAway(const World& world, const Worker& worker) {
 }
 
 bool HasClients(const World& world, const Worker& worker) {
-  return std::any_of(world.Workers().begin(), world.Workers().end(),
-                     [&](const Worker& w) { return w.Manager == worker.Uid; });
+  return std::ranges::any_of(world.Workers(),
+                             [&](const Worker& w) { return w.Manager == worker.Uid; });
 }
 
 bool IsCommissioner(const World& world, const Worker& worker) {
@@ -151,8 +151,8 @@ std::string WhyNotSplit(const World& world, const Worker& worker, std::string_vi
     return split == "None" ? worker.Name + " is in no split."
                            : worker.Name + " is in this split already.";
   const auto& splits = world.Player().Split;
-  const bool known = split == "None" || std::any_of(splits.begin(), splits.end(),
-                                                    [&](auto& held) { return held == split; });
+  const bool known =
+      split == "None" || std::ranges::any_of(splits, [&](auto& held) { return held == split; });
   return known ? "" : "Your promotion has no such split.";
 }
 

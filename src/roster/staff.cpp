@@ -213,17 +213,14 @@ void FireStaff(World& world, Staff& staff) {
 namespace {
 
 int OwnShows(const World& world) {
-  const auto& shows = world.Shows();
-  return static_cast<int>(std::count_if(
-      shows.begin(), shows.end(), [&](const Show& s) { return s.Owner == world.PlayerUid(); }));
+  return static_cast<int>(std::ranges::count_if(
+      world.Shows(), [&](const Show& s) { return s.Owner == world.PlayerUid(); }));
 }
 
 template <class Test>
 int CountOwn(const World& world, Test test) {
-  const auto& all = world.Workers();
-  return static_cast<int>(std::count_if(all.begin(), all.end(), [&](const Worker& w) {
-    return WorksForPlayer(world, w) && test(w);
-  }));
+  return static_cast<int>(std::ranges::count_if(
+      world.Workers(), [&](const Worker& w) { return WorksForPlayer(world, w) && test(w); }));
 }
 
 int AnnouncersWanted(const World& world) {
@@ -263,8 +260,7 @@ constexpr std::array<Post, 7> kPosts = {{
 }};
 
 const Post& PostOf(int code) {
-  return *std::find_if(kPosts.begin(), kPosts.end(),
-                       [=](const Post& post) { return post.Code == code; });
+  return *std::ranges::find_if(kPosts, [=](const Post& post) { return post.Code == code; });
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ constexpr int kThousand = 1000;
 
 int MonthlyWage(const Worker& worker) {
   const bool paid =
-      worker.Employer != 0 && worker.ContractMonths != kNoEnd && !(worker.Status == "Hom");
+      worker.Employer != 0 && worker.ContractMonths != kNoEnd && worker.Status != "Hom";
   return paid ? worker.Wage * kThousand : 0;
 }
 
@@ -73,8 +73,7 @@ int PositionWanted(int size, const Worker& worker) {
   if (worker.Position == kNonWrestler || worker.Position == kManager) return worker.Position;
   if (worker.Over > kHighestOver) return worker.Behaviour < 40 ? kMainEvent : 0;
   const Claims& claims = BySize(kClaims, size);
-  const auto claim =
-      std::find_if(claims.begin(), claims.end(), [&](int over) { return worker.Over >= over; });
+  const auto claim = std::ranges::find_if(claims, [&](int over) { return worker.Over >= over; });
   return kMainEvent + static_cast<int>(claim - claims.begin());
 }
 

@@ -219,7 +219,7 @@ std::vector<std::string> OfficesOf(const World& world, const Worker& worker) {
 
 std::vector<std::string> CompanyOf(const World& world, const Worker& worker) {
   std::vector<std::string> company;
-  if (!(worker.Stable == "None") && !worker.Stable.View().empty())
+  if (worker.Stable != "None" && !worker.Stable.View().empty())
     company.push_back("Member of " + worker.Stable + ".");
   for (const Team& team : world.Teams())
     if (team.Worker1 == worker.Uid || team.Worker2 == worker.Uid)

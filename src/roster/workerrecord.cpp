@@ -31,7 +31,7 @@ std::string MatchLine(const HeldMatch& bout, int uid) {
   const bool isFirst = outcome > 0 || (outcome == 0 && bout.Worker[0] == uid);
   const char* how = outcome > 0 ? "beat " : outcome < 0 ? "lost to " : "drew with ";
   std::string text = ShortDate(bout.On) + ": " + how + (isFirst ? bout.Lost : bout.Won).Str();
-  if (!(bout.Title == "None")) text += " for the " + bout.Title.Str();
+  if (bout.Title != "None") text += " for the " + bout.Title.Str();
   return text + ", " + Number(bout.Rating) + "%.";
 }
 
@@ -80,7 +80,7 @@ namespace {
 constexpr std::string_view kAnd = " \\ ";  // between the short names of a pair without a name
 
 bool IsTeamOf(const World& world, std::string_view team, int uid) {
-  return std::any_of(world.Teams().begin(), world.Teams().end(), [&](const Team& held) {
+  return std::ranges::any_of(world.Teams(), [&](const Team& held) {
     return held.Name == team && (held.Worker1 == uid || held.Worker2 == uid);
   });
 }

@@ -279,8 +279,8 @@ class frmTVRank : public ShowTable {
  protected:
   void Arrange(std::vector<const Show*>& shows) override {
     const auto last = [](const Show* show) { return show->Rating1 == 0 ? -1 : int(show->Rating3); };
-    std::stable_sort(shows.begin(), shows.end(),
-                     [&](const Show* a, const Show* b) { return last(a) > last(b); });
+    std::ranges::stable_sort(shows,
+                             [&](const Show* a, const Show* b) { return last(a) > last(b); });
   }
 
   std::vector<ui::Cell> RowOf(int place, const Show& show) override {

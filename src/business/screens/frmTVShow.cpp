@@ -251,7 +251,7 @@ class frmTVRivals : public ShowScreen {
     lstdirect.Clear();
     lstindirect.Clear();
     for (const Show& show : world().Shows()) {
-      if (show.Owner == ours->Owner || !(show.Day == ours->Day)) continue;
+      if (show.Owner == ours->Owner || show.Day != ours->Day) continue;
       ui::ListBox& list = show.Slot == ours->Slot ? lstdirect : lstindirect;
       list.Add({show.Name.View(), PromotionInitials(world(), show.Owner), SlotName(show.Slot),
                 NetworkName(world(), show.Network), RatingCell(show, show.Rating3)});

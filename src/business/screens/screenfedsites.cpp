@@ -92,56 +92,30 @@ std::unique_ptr<ui::Screen> MakefrmFedPick(Game& game, Office office) {
 }
 
 struct SiteKind {
+  Site Is;
   const char* Suffix;  // of its controls' names
   const char* Title;
   const char* What;
   Office RunBy;
   bool HasLevels;
   const char* Nobody;  // what belongs into its list
-  bool (*IsThere)(const Promotion&);
-  std::string (*Name)(const Promotion&);
-  int (*Price)(int level);
-  std::vector<const Worker*> (*People)(const World&);
-  std::string (*WhyNotOpen)(const World&, std::string_view name, int level);
-  void (*Open)(World&, std::string_view name, int level);
-  std::string (*WhyNotRename)(const World&, std::string_view name);
-  void (*Rename)(World&, std::string_view name);
-  void (*Close)(World&);
 };
-
-const SiteKind kCampSite = {
-    "camp",
-    "Training camp",
-    "training camp",
-    Office::HeadTrainer,
-    true,
-    "Nobody is in the camp. Send somebody young and raw there from the roster.",
-    HasCamp,
-    [](const Promotion& p) { return p.CampName.Str(); },
-    CampPrice,
-    PeopleInCamp,
-    WhyNotOpenCamp,
-    OpenCamp,
-    WhyNotRenameCamp,
-    RenameCamp,
-    CloseCamp};
-
+const SiteKind kCampSite = {Site::Camp,
+                            "camp",
+                            "Training camp",
+                            "training camp",
+                            Office::HeadTrainer,
+                            true,
+                            "Nobody is in the camp. Send somebody young and raw there from "
+                            "the roster."};
 const SiteKind kTerritorySite = {
+    Site::Territory,
     "dev",
     "Development territory",
     "development territory",
     Office::DevBooker,
     false,
-    "Nobody is in the territory. Send somebody there from the roster, or sign him to develop.",
-    HasTerritory,
-    [](const Promotion& p) { return p.DevName.Str(); },
-    [](int) { return kTerritoryPrice; },
-    PeopleInTerritory,
-    [](const World& world, std::string_view name, int) { return WhyNotOpenTerritory(world, name); },
-    [](World& world, std::string_view name, int) { OpenTerritory(world, name); },
-    WhyNotRenameTerritory,
-    RenameTerritory,
-    CloseTerritory};
+    "Nobody is in the territory. Send somebody there from the roster, or sign him to develop."};
 
 namespace {
 
@@ -195,7 +169,7 @@ ui::Box FedSite::Layout() {
 }
 
 bool FedSite::IsThere() const {
-  return kind_.IsThere(world().Player());
+  return HasSite(world().Player(), kind_.Is);
 }
 
 int FedSite::Level() const {
@@ -204,16 +178,17 @@ int FedSite::Level() const {
 
 bool FedSite::Pays(const std::string& what) {
   return game_.Desk().Ask("Finance Report",
-                          "Pay " + Dollars(kind_.Price(Level())) + " for " + what + "?");
+                          "Pay " + Dollars(SitePrice(kind_.Is, Level())) + " for " + what + "?");
 }
 
 void FedSite::Show() {
   const Promotion& player = world().Player();
   const std::string none = IsThere() ? "" : std::string("There is no ") + kind_.What + ".";
-  txtname.Text = IsThere() ? kind_.Name(player) : "";
+  txtname.Text = IsThere() ? SiteName(player, kind_.Is) : "";
   cmdopen.Text = IsThere() ? "Rename" : "Open";
   if (!IsThere())
-    lblstate.Text = kind_.HasLevels ? "None" : "None. One costs " + Dollars(kind_.Price(0)) + ".";
+    lblstate.Text =
+        kind_.HasLevels ? "None" : "None. One costs " + Dollars(SitePrice(kind_.Is, 0)) + ".";
   else
     lblstate.Text = kind_.HasLevels
                         ? std::string(Says(kCampFacilities, player.CampFacilities)) + " facilities"
@@ -231,8 +206,9 @@ void FedSite::ShowLevels() {
   const int chosen = cmblevel->Key();
   cmblevel->Clear();
   for (int level = now + 1; level <= kBestCamp; ++level)
-    cmblevel->Add(std::string(Says(kCampFacilities, level)) + ", " + Dollars(CampPrice(level)),
-                  level);
+    cmblevel->Add(
+        std::string(Says(kCampFacilities, level)) + ", " + Dollars(SitePrice(Site::Camp, level)),
+        level);
   cmblevel->SelectKey(chosen > now ? chosen : now + 1);
   cmblevel->Enabled = cmblevel->Count() > 0;
   cmblevel->Tip = cmblevel->Enabled ? "" : "No camp in the world has better facilities.";
@@ -245,7 +221,7 @@ void FedSite::ShowPeople() {
   lstpeople.EmptyText =
       IsThere() ? kind_.Nobody
                 : std::string("There is no ") + kind_.What + ". Type a name above and open one.";
-  std::vector<const Worker*> people = kind_.People(world());
+  std::vector<const Worker*> people = PeopleAt(world(), kind_.Is);
   SortByOver(people);
   std::vector<ui::ListBox::Row> rows;
   for (const Worker* worker : people) {
@@ -259,12 +235,12 @@ void FedSite::ShowPeople() {
 void FedSite::cmdopen_Click() {
   const std::string name = txtname.Text.Get();
   if (IsThere()) {
-    if (game_.Desk().Objects(kind_.WhyNotRename(world(), name))) return;
-    kind_.Rename(world(), name);
+    if (game_.Desk().Objects(WhyNotRename(world(), kind_.Is, name))) return;
+    RenameSite(world(), kind_.Is, name);
   } else {
-    if (game_.Desk().Objects(kind_.WhyNotOpen(world(), name, Level()))) return;
+    if (game_.Desk().Objects(WhyNotOpen(world(), kind_.Is, name, Level()))) return;
     if (!Pays(std::string("the ") + kind_.What)) return;
-    kind_.Open(world(), name, Level());
+    OpenSite(world(), kind_.Is, name, Level());
   }
   changed_();
 }
@@ -277,14 +253,14 @@ void FedSite::cmdraise_Click() {
 }
 
 void FedSite::cmdclose_Click() {
-  const auto people = std::ssize(kind_.People(world()));
+  const auto people = std::ssize(PeopleAt(world(), kind_.Is));
   const std::string who =
       people == 0 ? "Nobody is there now."
                   : Counted(people, "worker comes", "workers come") + " back to the roster.";
-  if (!game_.Desk().Ask("Close " + kind_.Name(world().Player()) + "?", "Are you sure? " + who,
-                        ui::Default::No))
+  if (!game_.Desk().Ask("Close " + SiteName(world().Player(), kind_.Is) + "?",
+                        "Are you sure? " + who, ui::Default::No))
     return;
-  kind_.Close(world());
+  CloseSite(world(), kind_.Is);
   changed_();
 }
 

@@ -222,8 +222,7 @@ class frmMainScreen : public ui::Screen {
   void OpenIfKnown(const char* screen) {
     const auto isThere = [&](const auto& open) { return open->Name() == screen; };
     const auto& screens = desk().Screens();
-    if (desk().Knows(screen) && std::none_of(screens.begin(), screens.end(), isThere))
-      desk().Open(screen);
+    if (desk().Knows(screen) && std::ranges::none_of(screens, isThere)) desk().Open(screen);
   }
 
   void cmdnext_Click() {

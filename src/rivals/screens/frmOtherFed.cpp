@@ -134,7 +134,7 @@ void PromotionSheets::ShowPeople(int uid) {
 
 void PromotionSheets::ShowProgramme(int uid) {
   for (const grapplemont::Show& show : world().Shows())
-    if (show.Owner == uid && !(show.Name == kToBeDeleted))
+    if (show.Owner == uid && show.Name != kToBeDeleted)
       lstshows.Add({show.Name.View(),
                     {1.0 * DayNumber(show.Day), show.Day.Str()},
                     Says(kTimeSlots, show.Slot),
@@ -152,8 +152,7 @@ void PromotionSheets::ShowTitles(int uid) {
   std::vector<const Title*> titles;
   for (const Title& title : world().Titles())
     if (title.Owner == uid) titles.push_back(&title);
-  std::stable_sort(titles.begin(), titles.end(),
-                   [](auto* a, auto* b) { return a->Image > b->Image; });
+  std::ranges::stable_sort(titles, [](auto* a, auto* b) { return a->Image > b->Image; });
   for (const Title* title : titles)
     lsttitles.Add({title->Name.View(), TitleKind(*title), ChampionOf(world(), *title),
                    SinceCell(*title), int(title->Image)},

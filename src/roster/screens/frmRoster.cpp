@@ -161,7 +161,7 @@ class frmRoster : public WorkerListScreen {
     combo.Clear();
     combo.Add(first);
     for (const auto& split : world().Player().Split)
-      if (!(split == "None") && !split.View().empty()) combo.Add(split.Str());
+      if (split != "None" && !split.View().empty()) combo.Add(split.Str());
     combo.Select(1);
   }
 

@@ -118,8 +118,8 @@ void StaffListScreen::ShowList() {
     const bool isLast = staff.Position == kOwner && list_ == StaffList::Market;
     return std::tuple(isLast, int(staff.Position), -staff.Talent);
   };
-  std::stable_sort(people.begin(), people.end(),
-                   [&](const Staff* a, const Staff* b) { return rank(*a) < rank(*b); });
+  std::ranges::stable_sort(people,
+                           [&](const Staff* a, const Staff* b) { return rank(*a) < rank(*b); });
   std::vector<ui::ListBox::Row> rows;
   for (const Staff* staff : people) rows.push_back(RowOf(world(), *staff, list_));
   const int row = lststaff.Selected();

@@ -93,7 +93,7 @@ bool IsAmidShow(Game& game) {
            std::end(kShowScreens);
   };
   const auto& screens = game.Desk().Screens();
-  return std::any_of(screens.begin(), screens.end(), isShow);
+  return std::ranges::any_of(screens, isShow);
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ struct Counterpart {
 /// Empty while there is.
 template <class Person>
 std::string WhyTalksOver(const World& world, const Person* person, const Counterpart& was) {
-  if (!person || !(person->Name == was.Name)) return was.Name + " is not in the business any more.";
+  if (!person || person->Name != was.Name) return was.Name + " is not in the business any more.";
   if (person->Employer != was.Employer)
     return was.Name + (was.Employer == world.PlayerUid() ? " does not work for you any more."
                                                          : " has changed sides in the meantime.");
