@@ -9,6 +9,7 @@
 #include "records/severing.h"
 #include "rivals/rivals.h"
 #include "roster/leaving.h"
+#include "roster/market.h"
 #include "roster/talks.h"
 
 namespace grapplemont {
@@ -126,11 +127,6 @@ namespace {
 
 constexpr const char* kPersonnel = "Human Resources";
 
-bool IsShortlisted(const World& world, int uid) {
-  const auto& list = world.Game().Shortlist;
-  return std::ranges::any_of(list, [&](const Word& entry) { return entry == uid; });
-}
-
 /// "3 months left on his contract." at three months and at one; empty at any other.
 std::string MonthsLeft(int months, bool isMan) {
   if (months != 3 && months != 1) return {};
@@ -138,76 +134,61 @@ std::string MonthsLeft(int months, bool isMan) {
          (isMan ? "his" : "her") + " contract.";
 }
 
-void PayWage(World& world, const Worker& worker) {
-  Promotion* employer = world.FindPromotion(worker.Employer);
-  if (!employer) return;
-  employer->Money -= MonthlyWage(worker);
-  employer->ThisMonth.WrestlerWages += MonthlyWage(worker);
+template <class Person>
+void PayWage(World& world, const Person& person, Cash MonthBooks::*book) {
+  Promotion* employer = world.FindPromotion(person.Employer);
+  if (employer) Charge(*employer, employer->ThisMonth.*book, MonthlyWage(person));
 }
 
-void TellOfPlayers(World& world, Worker& worker) {
-  if (const std::string left = MonthsLeft(worker.ContractMonths, worker.Gender); !left.empty())
-    AddNews(world, kPersonnel, worker.Name + left);
-  if (worker.ContractMonths != 0) return;
-  AddNews(world, kPersonnel, worker.Name + " has now left the promotion.");
-  ReleaseWorker(world, worker);
+/// What the player is told; whether the contract has run out.
+template <class Person>
+bool EndsAtPlayers(World& world, const Person& person, const std::string& who,
+                   const char* hasLeft) {
+  if (const std::string left = MonthsLeft(person.ContractMonths, person.Gender); !left.empty())
+    AddNews(world, kPersonnel, who + left);
+  if (person.ContractMonths == 0) AddNews(world, kPersonnel, who + hasLeft);
+  return person.ContractMonths == 0;
+}
+
+void TellOfLeaving(World& world, int employerUid, int option, bool isWatched,
+                   const std::string& hasLeft) {
+  const Promotion* rival = world.FindPromotion(employerUid);
+  if (rival && (isWatched || ShouldTell(world, option, rival->Size)))
+    AddNews(world, rival->Initials + " News", hasLeft + rival->Initials.Str() + ".");
 }
 
 void LeaveRival(World& world, Worker& worker) {
-  const Promotion* rival = world.FindPromotion(worker.Employer);
-  NoteDeed(world, kDeedLeft, rival, worker.Name);
-  if (rival && (IsShortlisted(world, worker.Uid) ||
-                ShouldTell(world, world.Game().MailWorkerFire, rival->Size)))
-    AddNews(world, rival->Initials + " News",
-            worker.Name + " has left " + rival->Initials.Str() + ".");
+  NoteDeed(world, kDeedLeft, world.FindPromotion(worker.Employer), worker.Name);
+  TellOfLeaving(world, worker.Employer, world.Game().MailWorkerFire,
+                IsShortlisted(world, worker.Uid), worker.Name + " has left ");
   PartWays(world, {&worker});
-}
-
-void PayStaffWage(World& world, const Staff& staff) {
-  Promotion* employer = world.FindPromotion(staff.Employer);
-  if (!employer) return;
-  employer->Money -= MonthlyWage(staff);
-  employer->ThisMonth.StaffWages += MonthlyWage(staff);
-}
-
-void TellOfPlayersStaff(World& world, Staff& staff) {
-  const std::string who = "Staff member " + staff.Name.Str();
-  if (const std::string left = MonthsLeft(staff.ContractMonths, staff.Gender); !left.empty())
-    AddNews(world, kPersonnel, who + left);
-  if (staff.ContractMonths != 0) return;
-  AddNews(world, kPersonnel, who + " is now no longer under contract with us.");
-  DismissStaff(world, staff);
-}
-
-void LeaveRivalsStaff(World& world, Staff& staff) {
-  const Promotion* rival = world.FindPromotion(staff.Employer);
-  if (rival && ShouldTell(world, world.Game().MailStaffFire, rival->Size))
-    AddNews(world, rival->Initials + " News",
-            staff.Name + " has left the staff of " + rival->Initials.Str() + ".");
-  DismissStaff(world, staff);
 }
 
 void PayWorkers(World& world) {
   for (Worker& worker : world.Workers()) {
     if (worker.Employer == 0 || worker.ContractMonths == kNoEnd) continue;
-    PayWage(world, worker);
+    PayWage(world, worker, &MonthBooks::WrestlerWages);
     worker.ContractMonths -= 1;
-    if (WorksForPlayer(world, worker))
-      TellOfPlayers(world, worker);
-    else if (worker.ContractMonths == 0)
-      LeaveRival(world, worker);
+    if (!WorksForPlayer(world, worker)) {
+      if (worker.ContractMonths == 0) LeaveRival(world, worker);
+    } else if (EndsAtPlayers(world, worker, worker.Name.Str(), " has now left the promotion.")) {
+      ReleaseWorker(world, worker);
+    }
   }
 }
 
 void PayStaff(World& world) {
   for (Staff& staff : world.AllStaff()) {
     if (staff.Employer == 0 || staff.Position == kOwner || staff.ContractMonths == kNoEnd) continue;
-    PayStaffWage(world, staff);
+    PayWage(world, staff, &MonthBooks::StaffWages);
     staff.ContractMonths -= 1;
+    const std::string who = "Staff member " + staff.Name.Str();
     if (WorksForPlayer(world, staff))
-      TellOfPlayersStaff(world, staff);
+      EndsAtPlayers(world, staff, who, " is now no longer under contract with us.");
     else if (staff.ContractMonths == 0)
-      LeaveRivalsStaff(world, staff);
+      TellOfLeaving(world, staff.Employer, world.Game().MailStaffFire, false,
+                    staff.Name + " has left the staff of ");
+    if (staff.ContractMonths == 0) DismissStaff(world, staff);
   }
 }
 
