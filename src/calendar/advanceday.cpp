@@ -1,10 +1,13 @@
 #include "calendar/advanceday.h"
 
+#include <algorithm>
+
 #include "business/networks.h"
 #include "business/sponsors.h"
 #include "business/tvtalks.h"
 #include "calendar/awards.h"
 #include "calendar/events.h"
+#include "calendar/incidents.h"
 #include "records/dates.h"
 #include "records/sweeps.h"
 #include "rivals/rivals.h"
@@ -100,15 +103,19 @@ void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher) {
   Walk(world, kClosing, watcher);
 }
 
-bool HasTvOn(const World& world, int promotionUid, Day day) {
-  bool found = false;
-  for (const Show& show : world.Shows())
-    if (show.Owner == promotionUid && show.Day == DayName(day)) found = true;
-  return found;
+void AdvanceToNextShow(World& world, const StepWatcher& watcher) {
+  constexpr int kLongestWait = 31;  // days
+  const int endCode = world.Game().EndCode;
+  for (int day = 0; day < kLongestWait; ++day) {
+    AdvanceDay(world, false, watcher);
+    if (NeedsThePlayer(world) || world.Game().EndCode != endCode || HasIncident(world)) return;
+  }
 }
 
 bool HasTvToday(const World& world, int promotionUid) {
-  return HasTvOn(world, promotionUid, world.Today());
+  return std::ranges::any_of(world.Shows(), [&](const Show& show) {
+    return show.Owner == promotionUid && show.Day == DayName(world.Today());
+  });
 }
 
 DayKind DayKindToday(World& world, const std::function<bool()>& holdNone) {
@@ -140,17 +147,22 @@ bool NeedsThePlayer(const World& world) {
   return IsEventDay(world.Today()) || HasTvToday(world, world.PlayerUid());
 }
 
-namespace {
-
-constexpr int kDaysOfWeek = 7;
-
-}  // namespace
+int FreshMails(const World& world) {
+  const std::string today = ShortDate(world.Today());
+  const std::string yesterday = ShortDate(world.Today() - std::chrono::days{1});
+  int fresh = 0;
+  for (int number = world.News().Count(); number >= 1; --number, ++fresh) {
+    const Mail& mail = world.News()[number];
+    if (mail.Date != today && mail.Date != yesterday) break;
+  }
+  return fresh;
+}
 
 std::optional<Day> NextMeeting(const World& world) {
   const int wanted = DayNumber(world.Player().MeetingDay.View());
   if (wanted == 0) return std::nullopt;
   const int present = DayNumber(DayName(world.Today()));
-  return world.Today() + std::chrono::days{(wanted - present + kDaysOfWeek) % kDaysOfWeek};
+  return world.Today() + std::chrono::days{(wanted - present + 7) % 7};
 }
 
 bool IsMeetingDay(const World& world) {

@@ -30,6 +30,9 @@ using StepWatcher = std::function<void(std::string_view step)>;
 
 /// Ends the day (`cancelled`: its show was called off) and runs the next one's routines.
 void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher = {});
+/// Plain days pass, one at least and a month at most, until a show is due, the career ends or an
+/// incident waits.
+void AdvanceToNextShow(World& world, const StepWatcher& watcher = {});
 
 // The day's own steps: what shows leave behind, what days do to people, the month's books.
 
@@ -71,7 +74,6 @@ enum class DayKind { Plain = 1, Television = 2, Event = 3, Stay = 4 };
 
 /// True when the promotion has a television show on this day of the week.
 bool HasTvToday(const World& world, int promotionUid);
-bool HasTvOn(const World& world, int promotionUid, Day day);
 
 /// An Event day goes before a television day. On an Event day without an Event `holdNone` is asked
 /// whether the month shall pass without one: true makes the day plain, false stays on it.
@@ -89,6 +91,8 @@ std::vector<Appointment> ComingShows(const World& world, int days);
 
 /// Whether Today is a show day of the player's, or one that asks about a missing Event.
 bool NeedsThePlayer(const World& world);
+/// How many mails came with the day that has just passed, and since.
+int FreshMails(const World& world);
 
 // The promotion's weekly staff meeting.
 

@@ -41,8 +41,12 @@ std::string OfferText(const World& world, const Promotion& promotion) {
 
 }  // namespace
 
+bool HasIncident(const World& world) {
+  return world.Incidents().Count() > 0 && world.Incidents()[1].Type != 0;
+}
+
 const Incident* FirstIncident(World& world) {
-  while (world.Incidents().Count() > 0 && world.Incidents()[1].Type != 0) {
+  while (HasIncident(world)) {
     const Incident& incident = world.Incidents()[1];
     if (IsAlive(world, incident)) {
       TakeOut(world, incident);
@@ -117,16 +121,6 @@ int InjuryOdds(int condition) {
   return condition < 90 ? 1800 : 2500;
 }
 
-bool IsShortOfAgents(const World& world) {
-  const int player = world.PlayerUid();
-  int wrestlers = 0, agents = 0;
-  for (const Worker& worker : world.Workers())
-    wrestlers += worker.Employer == player && worker.Position < kDevelopmentDeal;
-  for (const Staff& staff : world.AllStaff())
-    agents += staff.Employer == player && staff.Position == kRoadAgent;
-  return agents < AgentsNeeded(wrestlers);
-}
-
 /// The day's list, filled from the front; what does not fit is dropped.
 class Bookings {
  public:
@@ -167,7 +161,7 @@ bool IsAround(const Worker& worker) {
 }
 
 void RollRoster(World& world, Bookings& bookings) {
-  const bool isShort = IsShortOfAgents(world);
+  const bool isShort = IsShort(PostCountOf(world, kRoadAgent));
   for (const Worker& worker : world.Workers())
     if (WorksForPlayer(world, worker) && IsAround(worker))
       RollFor(world, worker, isShort, bookings);

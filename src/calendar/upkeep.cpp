@@ -31,15 +31,6 @@ void Say(World& world, const Worker& worker, const Parting& parting) {
   AddNews(world, worker.Name, worker.Name == "Maul Gantry" ? parting.Legend : parting.Words);
 }
 
-bool HasAdequateMedics(const World& world) {
-  const int player = world.PlayerUid();
-  int medics = 0, roster = 0;
-  for (const Staff& staff : world.AllStaff())
-    medics += staff.Employer == player && staff.Position == kMedical;
-  for (const Worker& worker : world.Workers()) roster += worker.Employer == player;
-  return medics >= MedicsNeeded(roster);
-}
-
 bool MayRebel(const Worker& worker) {
   return worker.Status == "Nor" && !worker.Unsackable;
 }
@@ -92,7 +83,7 @@ void UpkeepOfOthers(World& world, Worker& worker) {
 
 void DailyWorkerUpkeep(World& world) {
   const int player = world.PlayerUid();
-  const bool adequateMedics = HasAdequateMedics(world);
+  const bool adequateMedics = !IsShort(PostCountOf(world, kMedical));
   for (Worker& worker : world.Workers()) {
     if (worker.Employer == player)
       UpkeepOfPlayers(world, worker, adequateMedics);

@@ -282,12 +282,17 @@ int AgentsNeeded(int wrestlers) {
   return wrestlers > 25 ? 2 : wrestlers > 0 ? 1 : 0;
 }
 
+PostCount PostCountOf(const World& world, int post) {
+  const auto isThere = [&](const Staff& staff) {
+    return WorksForPlayer(world, staff) && staff.Position == post;
+  };
+  return {post, static_cast<int>(std::ranges::count_if(world.AllStaff(), isThere)),
+          PostOf(post).Need(world)};
+}
+
 std::vector<PostCount> PostCounts(const World& world) {
   std::vector<PostCount> posts;
-  for (const Post& post : kPosts) posts.push_back({post.Code, 0, post.Need(world)});
-  for (const Staff& staff : world.AllStaff())
-    for (PostCount& post : posts)
-      post.Have += WorksForPlayer(world, staff) && staff.Position == post.Post;
+  for (const Post& post : kPosts) posts.push_back(PostCountOf(world, post.Code));
   return posts;
 }
 
@@ -304,7 +309,7 @@ std::string PostLine(const std::vector<PostCount>& posts) {
 std::string PostAdvice(const std::vector<PostCount>& posts) {
   std::string advice;
   for (const PostCount& post : posts)
-    if (post.Have < post.Need)
+    if (IsShort(post))
       advice += (advice.empty() ? "" : " ") + std::string(PostOf(post.Post).Plural) + ": hire " +
                 std::to_string(post.Need - post.Have) + " more, or " + PostOf(post.Post).Lack + ".";
   return advice.empty() ? "Every post has the hands it needs." : advice;

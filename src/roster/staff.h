@@ -63,6 +63,10 @@ struct PostCount {
   int Have = 0;
   int Need = 0;  // 0 also where nobody counts them
 };
+PostCount PostCountOf(const World& world, int post);
+inline bool IsShort(const PostCount& post) {
+  return post.Have < post.Need;
+}
 /// Every post but the Owner's, in the order of their codes.
 std::vector<PostCount> PostCounts(const World& world);
 /// "Announcers 1 (needs 1), Referees 2, ..." and what to do about posts that lack hands.
