@@ -8,6 +8,7 @@
 #include "records/modWresCheck.h"
 #include "records/world.h"
 #include "storylines/screens/screenpeople.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -17,25 +18,23 @@ constexpr int kMonthsShown = 120;
 
 /// The player's promotion: how it stands, what it shows, how its people are divided, where its
 /// young learn, and the way to its money.
-class frmFed : public ui::Screen {
+class frmFed : public GameScreen {
  public:
-  explicit frmFed(Game& game) : Screen(game.Desk(), "frmFed", "Promotion"), game_(game) {
+  explicit frmFed(Game& game) : GameScreen(game, "frmFed", "Promotion", {.Manages = true}) {
     for (const Term& day : kWeekDays) cmbmeeting.Add(std::string(day.Says), day.Code);
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblmoney,
-            .Actions = {&cmdfinance, &cmdsponsor, &cmdvalue, &cmdback},
-            .Cancel = &cmdback,
-            .Body = ui::Tabs(
-                {ui::Group("Overview", {ui::Columns({Facts().Grow(2), Charts().Grow(3)}).Grow()}),
-                 product_.Layout(), splits_.Layout(),
-                 ui::Group(
-                     "Camp and territory",
-                     {ui::Columns({camp_.Layout().Grow(), territory_.Layout().Grow()}).Grow()})})};
+    ui::Page page = PageOf(
+        ui::Tabs(
+            {ui::Group("Overview", {ui::Columns({Facts().Grow(2), Charts().Grow(3)}).Grow()}),
+             product_.Layout(), splits_.Layout(),
+             ui::Group("Camp and territory",
+                       {ui::Columns({camp_.Layout().Grow(), territory_.Layout().Grow()}).Grow()})}),
+        &lblmoney, {&cmdfinance, &cmdsponsor, &cmdvalue});
+    page.Main = nullptr;  // Enter does nothing
+    return page;
   }
-
-  void Load() override { Return(); }
 
   void Return() override {
     ShowPromotion();
@@ -48,7 +47,6 @@ class frmFed : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   Promotion& player() { return world().Player(); }
 
   ui::Box Facts() {
@@ -111,13 +109,7 @@ class frmFed : public ui::Screen {
   void cmdprod_Click() { desk().Open("frmFedProd"); }
   void cmdvalue_Click() { desk().Open("frmFedValue"); }
 
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
-
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::Label lblname{*this, "lblname"};
   ui::Label lblsize{*this, "lblsize"};
@@ -143,27 +135,21 @@ class frmFed : public ui::Screen {
   ui::Button cmdfinance{*this, "cmdfinance", "Finance", [this] { desk().Open("frmFinance"); }};
   ui::Button cmdsponsor{*this, "cmdsponsor", "Sponsors", [this] { desk().Open("frmFedSponsor"); }};
   ui::Button cmdvalue{*this, "cmdvalue", "What We Are Worth", &frmFed::cmdvalue_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFed::cmdback_Click};
 };
 
 /// What the promotion is worth, and why.
-class frmFedValue : public ui::Screen {
+class frmFedValue : public GameScreen {
  public:
   explicit frmFedValue(Game& game)
-      : Screen(game.Desk(), "frmFedValue", "What We Are Worth", ui::Role::Dialog), game_(game) {
+      : GameScreen(game, "frmFedValue", "What We Are Worth", {.Is = ui::Role::Dialog}) {
     lstworth.Room = 16;
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblworth,
-            .Actions = {&cmdback},
-            .Main = &cmdback,
-            .Cancel = &cmdback,
-            .Large = true,
-            .Body = ui::Group("", {ui::Grow(lstworth)})};
+    ui::Page page = PageOf(ui::Group("", {ui::Grow(lstworth)}), &lblworth);
+    page.Large = true;
+    return page;
   }
-
-  void Load() override { Return(); }
 
   void Return() override {
     const Promotion& player = game_.World().Player();
@@ -187,11 +173,9 @@ class frmFedValue : public ui::Screen {
   }
 
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblworth{*this, "lblworth"};
   ui::ListBox lstworth{
       *this, "lstworth", {{"What", K::Text, 3}, {"Why", K::Text, 8}, {"Dollars", K::Number, 2}}};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 }  // namespace

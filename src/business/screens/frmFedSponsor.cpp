@@ -7,6 +7,7 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "storylines/screens/screenpeople.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -39,10 +40,12 @@ std::string Welcome(World& world) {
 }
 
 /// All sponsors, the four places of the player's promotion, and the deals between them.
-class frmFedSponsor : public ui::Screen {
+class frmFedSponsor : public GameScreen {
  public:
   explicit frmFedSponsor(Game& game)
-      : Screen(game.Desk(), "frmFedSponsor", "Sponsors"), game_(game) {}
+      : GameScreen(game, "frmFedSponsor", "Sponsors", {.Manages = true}) {
+    BackBefore(cmd1);
+  }
 
   ui::Page Layout() override {
     return {
@@ -58,11 +61,9 @@ class frmFedSponsor : public ui::Screen {
                  .Grow(2)})};
   }
 
-  void Load() override { Show(); }
   void Return() override { Show(); }
 
  private:
-  World& world() { return game_.World(); }
   Promotion& player() { return world().Player(); }
   Sponsor* chosen() { return world().FindSponsor(lstsponsors.Key()); }
   int PlaceOf(const Sponsor* sponsor) { return sponsor ? SponsorPlace(player(), sponsor->Uid) : 0; }
@@ -223,13 +224,7 @@ class frmFedSponsor : public ui::Screen {
     Show();
   }
 
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
-
   using K = ui::ColumnKind;
-  Game& game_;
   int shownPlace_ = 0;  // of the chosen sponsor, as the buttons say
   ui::Label lblfacts{*this, "lblfacts"};
   ui::CheckBox chkfilter{*this, "chkfilter", "Only those who are free, and ours", false,
@@ -255,7 +250,6 @@ class frmFedSponsor : public ui::Screen {
   ui::Label lblsponsor{*this, "lblsponsor"};
   ui::Label lblslogan{*this, "lblslogan"};
   ui::Label lbldeal{*this, "lbldeal"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFedSponsor::cmdback_Click};
   ui::Button cmd1{*this, "cmd1", "Offer Main Sponsorship", &frmFedSponsor::cmd1_Click};
   ui::Button cmd2{*this, "cmd2", "Offer Minor Sponsorship", &frmFedSponsor::cmd2_Click};
 };

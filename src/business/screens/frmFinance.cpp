@@ -8,6 +8,7 @@
 #include "records/modWresCheck.h"
 #include "records/world.h"
 #include "roster/talks.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -22,9 +23,11 @@ ui::Tone ToneOf(long long balance) {
 }
 
 /// The books of last month and of this one, and the money over time.
-class frmFinance : public ui::Screen {
+class frmFinance : public GameScreen {
  public:
-  explicit frmFinance(Game& game) : Screen(game.Desk(), "frmFinance", "Finance"), game_(game) {}
+  explicit frmFinance(Game& game) : GameScreen(game, "frmFinance", "Finance", {.Manages = true}) {
+    BackBefore(cmdnotepad);
+  }
 
   ui::Page Layout() override {
     return {.Facts = &lblmoney,
@@ -35,7 +38,6 @@ class frmFinance : public ui::Screen {
                                  ui::Group("Money at month ends", {ui::Grow(chtmoney)}).Grow(2)})};
   }
 
-  void Load() override { Show(); }
   void Return() override { Show(); }
 
  private:
@@ -79,13 +81,7 @@ class frmFinance : public ui::Screen {
     chtmoney.Lines = std::vector<ui::Chart::Series>{std::move(money)};
   }
 
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
-
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::ListBox lstbooks{
       *this,
@@ -96,7 +92,6 @@ class frmFinance : public ui::Screen {
                       "an Event's extras and the price of calling one off are paid beside the "
                       "books."};
   ui::Chart chtmoney{*this, "chtmoney"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFinance::cmdback_Click};
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", [this] { desk().Open("frmNotepad"); }};
   ui::Button cmdcharity{*this, "cmdcharity", "Charity", [this] { desk().Open("frmCharity"); }};
   ui::Button cmdloan{*this, "cmdloan", "Loan", [this] { desk().Open("frmLoan"); }};
@@ -114,23 +109,18 @@ ui::Cell MonthsCell(int months) {
 }
 
 /// Everybody who draws a wage, and what they draw in all.
-class frmWages : public ui::Screen {
+class frmWages : public GameScreen {
  public:
-  explicit frmWages(Game& game) : Screen(game.Desk(), "frmWages", "Wages"), game_(game) {
+  explicit frmWages(Game& game) : GameScreen(game, "frmWages", "Wages") {
     lstwages.EmptyText = "Nobody works for you yet. Hire people on the market.";
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lbltotal,
-            .Actions = {&cmdback},
-            .Main = &cmdback,
-            .Cancel = &cmdback,
-            .Body = ui::Group("", {ui::Columns({ui::Field("Workers", lblworkers),
-                                                ui::Field("Staff", lblstaff), ui::Spacer()}),
-                                   ui::Grow(lstwages)})};
+    return PageOf(ui::Group("", {ui::Columns({ui::Field("Workers", lblworkers),
+                                              ui::Field("Staff", lblstaff), ui::Spacer()}),
+                                 ui::Grow(lstwages)}),
+                  &lbltotal);
   }
-
-  void Load() override { Return(); }
 
   void Return() override {
     std::vector<ui::ListBox::Row> rows;
@@ -144,8 +134,6 @@ class frmWages : public ui::Screen {
   }
 
  private:
-  const World& world() { return game_.World(); }
-
   static ui::ListBox::Row RowOf(const Worker& worker) {
     return {{worker.Name.View(), "Worker", PositionText(worker.Position),
              WageCell(worker.Wage * 1000LL), WageCell(MonthlyWage(worker)),
@@ -173,7 +161,6 @@ class frmWages : public ui::Screen {
   }
 
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lbltotal{*this, "lbltotal"};
   ui::Label lblworkers{*this, "lblworkers"};
   ui::Label lblstaff{*this, "lblstaff"};
@@ -190,7 +177,6 @@ class frmWages : public ui::Screen {
        {"Months", K::Number, 1, "Months left of the contract."}},
       ui::Handler{},
       [this] { lstwages_DblClick(); }};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 std::string TermText(int months) {
@@ -199,18 +185,15 @@ std::string TermText(int months) {
 }
 
 /// The bank: one loan at a time, its price each month, and the way to be rid of it.
-class frmLoan : public ui::Screen {
+class frmLoan : public GameScreen {
  public:
-  explicit frmLoan(Game& game) : Screen(game.Desk(), "frmLoan", "Loan"), game_(game) {}
+  explicit frmLoan(Game& game) : GameScreen(game, "frmLoan", "Loan") { BackBefore(cmddoit); }
 
   ui::Page Layout() override {
-    return {.Facts = &lblmoney,
-            .Actions = {&cmdback, &cmddoit},
-            .Main = &cmddoit,
-            .Cancel = &cmdback,
-            .Body = ui::Group("", {txtstatus, ui::Field("In steps of $100000", hsamount),
-                                   ui::Field("Amount", lblamount), ui::Field("Each month", txtcost),
-                                   ui::Columns({lblfor, lblterm, ui::Spacer()}), lblstate})};
+    return PageOf(ui::Group("", {txtstatus, ui::Field("In steps of $100000", hsamount),
+                                 ui::Field("Amount", lblamount), ui::Field("Each month", txtcost),
+                                 ui::Columns({lblfor, lblterm, ui::Spacer()}), lblstate}),
+                  &lblmoney, {}, &cmddoit);
   }
 
   void Load() override {
@@ -275,7 +258,6 @@ class frmLoan : public ui::Screen {
     Show();
   }
 
-  Game& game_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::Label txtstatus{*this, "txtstatus"};
   ui::ScrollBar hsamount{*this, "hsamount", 1, kMostLoanSteps, &frmLoan::ShowTerms};
@@ -284,7 +266,6 @@ class frmLoan : public ui::Screen {
   ui::Label lblterm{*this, "lblterm"};
   ui::Label txtcost{*this, "txtcost"};
   ui::Label lblstate{*this, "lblstate"};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmddoit{*this, "cmddoit", "Apply For Loan", &frmLoan::cmddoit_Click};
 };
 

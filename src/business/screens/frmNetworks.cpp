@@ -8,26 +8,25 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "storylines/screens/screenpeople.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
 namespace {
 
 /// To which network the tape goes.
-class frmPromoTape : public ui::Screen {
+class frmPromoTape : public GameScreen {
  public:
   explicit frmPromoTape(Game& game)
-      : Screen(game.Desk(), "frmPromoTape", "Promo Tape", ui::Role::Dialog), game_(game) {
+      : GameScreen(game, "frmPromoTape", "Promo Tape", {.Is = ui::Role::Dialog}) {
+    BackBefore(cmdsend);
     lstnetworks.EmptyText = "None available";
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblfacts,
-            .Actions = {&cmdback, &cmdsend},
-            .Main = &cmdsend,
-            .Cancel = &cmdback,
-            .Large = true,
-            .Body = ui::Group("", {ui::Grow(lstnetworks)})};
+    ui::Page page = PageOf(ui::Group("", {ui::Grow(lstnetworks)}), &lblfacts, {}, &cmdsend);
+    page.Large = true;
+    return page;
   }
 
   void Load() override {
@@ -42,8 +41,6 @@ class frmPromoTape : public ui::Screen {
   void Return() override { Load(); }
 
  private:
-  World& world() { return game_.World(); }
-
   void ShowSend() {
     EnableUnless(cmdsend, lstnetworks.Key() == 0 ? "Choose a network first." : "");
   }
@@ -55,18 +52,18 @@ class frmPromoTape : public ui::Screen {
     Close();
   }
 
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstnetworks{*this, "lstnetworks", NetworkColumns(), &frmPromoTape::ShowSend, cmdsend};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdsend{*this, "cmdsend", "Send Tape", &frmPromoTape::cmdsend_Click};
 };
 
 /// The offer of a network: a day and a name, or no.
-class frmTvOffer : public ui::Screen {
+class frmTvOffer : public GameScreen {
  public:
   explicit frmTvOffer(Game& game)
-      : Screen(game.Desk(), "frmTvOffer", "Television Offer", ui::Role::Dialog), game_(game) {
+      : GameScreen(game, "frmTvOffer", "Television Offer",
+                   {.Is = ui::Role::Dialog, .Back = "Decide Later"}) {
+    BackBefore(cmdreject);
     txtname.Hint = "Name of the new show";
   }
 
@@ -81,15 +78,12 @@ class frmTvOffer : public ui::Screen {
                      ui::Field("Day", cmbdays), ui::Field("Name", txtname)})};
   }
 
-  void Load() override { Return(); }
   void Return() override {
     if (world().Game().TvOfferWait == 0) return ShowNone();
     if (const auto offer = OfferThatHolds()) ShowOffer(*offer);
   }
 
  private:
-  World& world() { return game_.World(); }
-
   void ShowNone() {
     lblfacts.Text = "No network has made us an offer.";
     for (ui::Button* button : {&cmdaccept, &cmdreject})
@@ -150,7 +144,6 @@ class frmTvOffer : public ui::Screen {
     Close();
   }
 
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Label txtnetwork{*this, "txtnetwork"};
   ui::Label txtlength{*this, "txtlength"};
@@ -158,24 +151,23 @@ class frmTvOffer : public ui::Screen {
   ui::Label txtaudience{*this, "txtaudience"};
   ui::ComboBox cmbdays{*this, "cmbdays"};
   ui::TextBox txtname{*this, "txtname"};
-  ui::Button cmdback{*this, "cmdback", "Decide Later", [this] { Close(); }};
   ui::Button cmdreject{*this, "cmdreject", "Reject", &frmTvOffer::cmdreject_Click};
   ui::Button cmdaccept{*this, "cmdaccept", "Accept", &frmTvOffer::cmdaccept_Click};
 };
 
 /// The networks, and what is on the one that is chosen.
-class frmViewNetworks : public ui::Screen {
+class frmViewNetworks : public GameScreen {
  public:
-  explicit frmViewNetworks(Game& game)
-      : Screen(game.Desk(), "frmViewNetworks", "Networks"), game_(game) {
+  explicit frmViewNetworks(Game& game) : GameScreen(game, "frmViewNetworks", "Networks") {
     lstnetworks.EmptyText = "There is no network in this world.";
   }
 
   ui::Page Layout() override {
-    return {.Actions = {&cmdback},
-            .Cancel = &cmdback,
-            .Body = ui::Rows({ui::Group("", {ui::Grow(lstnetworks)}).Grow(3),
-                              ui::Group("On the chosen network", {ui::Grow(lstshows)}).Grow(2)})};
+    ui::Page page =
+        PageOf(ui::Rows({ui::Group("", {ui::Grow(lstnetworks)}).Grow(3),
+                         ui::Group("On the chosen network", {ui::Grow(lstshows)}).Grow(2)}));
+    page.Main = nullptr;  // Enter does nothing
+    return page;
   }
 
   void Load() override {
@@ -186,8 +178,6 @@ class frmViewNetworks : public ui::Screen {
   void Return() override { Load(); }
 
  private:
-  World& world() { return game_.World(); }
-
   void lstnetworks_Click() {
     lstshows.Clear();
     const Network* network = world().FindNetwork(lstnetworks.Key());
@@ -201,7 +191,6 @@ class frmViewNetworks : public ui::Screen {
   }
 
   using K = ui::ColumnKind;
-  Game& game_;
   ui::ListBox lstnetworks{*this, "lstnetworks", NetworkColumns(),
                           &frmViewNetworks::lstnetworks_Click};
   ui::ListBox lstshows{*this,
@@ -211,7 +200,6 @@ class frmViewNetworks : public ui::Screen {
                         {"Day", K::Date, 3},
                         {"Time", K::Text, 3},
                         {"Last", K::Number, 2, "Last rating."}}};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 }  // namespace
@@ -225,21 +213,21 @@ namespace {
 using K = ui::ColumnKind;
 
 /// A table and the way back.
-class ShowTable : public ui::Screen {
+class ShowTable : public GameScreen {
  public:
   ShowTable(Game& game, std::string name, std::string title, std::vector<ui::Column> columns,
             std::string none)
-      : Screen(game.Desk(), std::move(name), std::move(title)),
-        game_(game),
+      : GameScreen(game, std::move(name), std::move(title)),
         lstshows{*this, "lstshows", std::move(columns)} {
     lstshows.EmptyText = std::move(none);
   }
 
   ui::Page Layout() override {
-    return {.Actions = {&cmdback}, .Cancel = &cmdback, .Body = ui::Group("", {ui::Grow(lstshows)})};
+    ui::Page page = PageOf(ui::Group("", {ui::Grow(lstshows)}));
+    page.Main = nullptr;  // Enter does nothing
+    return page;
   }
 
-  void Load() override { Return(); }
   void Return() override {
     std::vector<const Show*> shows;
     for (const Show& show : world().Shows()) shows.push_back(&show);
@@ -253,14 +241,11 @@ class ShowTable : public ui::Screen {
   }
 
  protected:
-  World& world() { return game_.World(); }
   virtual void Arrange(std::vector<const Show*>&) {}
   virtual std::vector<ui::Cell> RowOf(int place, const Show& show) = 0;
 
  private:
-  Game& game_;
   ui::ListBox lstshows;
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 /// The best of the last week first; who has not been seen yet stands at the end.

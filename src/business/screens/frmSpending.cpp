@@ -1,4 +1,5 @@
 #include "business/screens/frmSpending.h"
+#include "ui/gamescreen.h"
 
 #include <algorithm>
 
@@ -31,23 +32,18 @@ constexpr Spending kMerchandisingSide = {
 constexpr int kMostSpending = 100;
 
 /// How much goes into advertising or merchandise; a level counts from the moment it is set.
-class frmFedMerch : public ui::Screen {
+class frmFedMerch : public GameScreen {
  public:
   frmFedMerch(Game& game, const Spending& side)
-      : Screen(game.Desk(), "frmFedMerch", side.Title), game_(game), side_(side) {
+      : GameScreen(game, "frmFedMerch", side.Title), side_(side) {
     lblmeans.Text = side.Means;
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblmoney,
-            .Actions = {&cmdback},
-            .Main = &cmdback,
-            .Cancel = &cmdback,
-            .Body = ui::Group("", {ui::Field("Percent", hscurrent), ui::Field("Cost", lblcost),
-                                   ui::Field("Last month", lbllast), lblmeans})};
+    return PageOf(ui::Group("", {ui::Field("Percent", hscurrent), ui::Field("Cost", lblcost),
+                                 ui::Field("Last month", lbllast), lblmeans}),
+                  &lblmoney);
   }
-
-  void Load() override { Return(); }
 
   void Return() override {
     hscurrent.Value = player().*side_.Level;
@@ -72,14 +68,12 @@ class frmFedMerch : public ui::Screen {
     Show();
   }
 
-  Game& game_;
   const Spending& side_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::ScrollBar hscurrent{*this, "hscurrent", 0, kMostSpending, &frmFedMerch::hscurrent_Change};
   ui::Label lblcost{*this, "lblcost"};
   ui::Label lbllast{*this, "lbllast"};
   ui::Label lblmeans{*this, "lblmeans"};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 constexpr int kRaises = static_cast<int>(kProductionRaises.size());
@@ -89,21 +83,17 @@ std::string PercentText(int number) {
 }
 
 /// Better production, bought in steps.
-class frmFedProd : public ui::Screen {
+class frmFedProd : public GameScreen {
  public:
-  explicit frmFedProd(Game& game) : Screen(game.Desk(), "frmFedProd", "Production"), game_(game) {}
+  explicit frmFedProd(Game& game) : GameScreen(game, "frmFedProd", "Production") {}
 
   ui::Page Layout() override {
-    return {.Facts = &lblmoney,
-            .Actions = {&cmdback},
-            .Main = &cmdback,
-            .Cancel = &cmdback,
-            .Body = ui::Group("", {ui::Field("Production values", lblproduction),
-                                   ui::Field("Cost of running it", lblmonthly), cmdraise(1),
-                                   cmdraise(2), cmdraise(3)})};
+    return PageOf(ui::Group("", {ui::Field("Production values", lblproduction),
+                                 ui::Field("Cost of running it", lblmonthly), cmdraise(1),
+                                 cmdraise(2), cmdraise(3)}),
+                  &lblmoney);
   }
 
-  void Load() override { Show(); }
   void Return() override { Show(); }
 
  private:
@@ -131,7 +121,6 @@ class frmFedProd : public ui::Screen {
     Show();
   }
 
-  Game& game_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::Label lblproduction{*this, "lblproduction"};
   ui::Label lblmonthly{*this, "lblmonthly"};
@@ -139,23 +128,21 @@ class frmFedProd : public ui::Screen {
                                    return std::make_unique<ui::Button>(
                                        *this, name, "", [this, number] { cmdraise_Click(number); });
                                  }};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 constexpr int kDearestTicket = 100;  // dollars
 
 /// What a ticket costs, and what people would say of another price.
-class frmTicket : public ui::Screen {
+class frmTicket : public GameScreen {
  public:
-  explicit frmTicket(Game& game) : Screen(game.Desk(), "frmTicket", "Ticket Prices"), game_(game) {}
+  explicit frmTicket(Game& game) : GameScreen(game, "frmTicket", "Ticket Prices") {
+    BackBefore(cmddoit);
+  }
 
   ui::Page Layout() override {
-    return {.Facts = &lblprice,
-            .Actions = {&cmdback, &cmddoit},
-            .Main = &cmddoit,
-            .Cancel = &cmdback,
-            .Body = ui::Group("", {ui::Field("New price in dollars", hsticket),
-                                   ui::Field("What people say", lblopinion), lblfair})};
+    return PageOf(ui::Group("", {ui::Field("New price in dollars", hsticket),
+                                 ui::Field("What people say", lblopinion), lblfair}),
+                  &lblprice, {}, &cmddoit);
   }
 
   void Load() override {
@@ -186,12 +173,10 @@ class frmTicket : public ui::Screen {
     Show();
   }
 
-  Game& game_;
   ui::Label lblprice{*this, "lblprice"};
   ui::ScrollBar hsticket{*this, "hsticket", 0, kDearestTicket, &frmTicket::ShowChoice};
   ui::Label lblopinion{*this, "lblopinion"};
   ui::Label lblfair{*this, "lblfair"};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmddoit{*this, "cmddoit", "Change Price", &frmTicket::cmddoit_Click};
 };
 
@@ -202,25 +187,21 @@ std::string DonationText(int thousands) {
 }
 
 /// Money for a good cause, and for the player's good name.
-class frmCharity : public ui::Screen {
+class frmCharity : public GameScreen {
  public:
-  explicit frmCharity(Game& game) : Screen(game.Desk(), "frmCharity", "Charity"), game_(game) {}
-
-  ui::Page Layout() override {
-    return {.Facts = &lblmoney,
-            .Actions = {&cmdback, &cmddonate},
-            .Main = &cmddonate,
-            .Cancel = &cmdback,
-            .Body = ui::Group("", {ui::Field("Thousands of dollars", hsamount),
-                                   ui::Field("Donation", lblamount), lblreputation})};
+  explicit frmCharity(Game& game) : GameScreen(game, "frmCharity", "Charity") {
+    BackBefore(cmddonate);
   }
 
-  void Load() override { Show(); }
+  ui::Page Layout() override {
+    return PageOf(ui::Group("", {ui::Field("Thousands of dollars", hsamount),
+                                 ui::Field("Donation", lblamount), lblreputation}),
+                  &lblmoney, {}, &cmddonate);
+  }
+
   void Return() override { Show(); }
 
  private:
-  World& world() { return game_.World(); }
-
   void Show() {
     lblmoney.Text = FinanceText(world().Player());
     lblreputation.Text = "Your reputation is " + std::to_string(world().Game().Reputation) +
@@ -238,12 +219,10 @@ class frmCharity : public ui::Screen {
     Show();
   }
 
-  Game& game_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::ScrollBar hsamount{*this, "hsamount", 1, kMostThousands, &frmCharity::ShowChoice};
   ui::Label lblamount{*this, "lblamount"};
   ui::Label lblreputation{*this, "lblreputation"};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmddonate{*this, "cmddonate", "Donate", &frmCharity::cmddonate_Click};
 };
 

@@ -20,15 +20,14 @@ class frmTVContract : public ShowScreen {
   }
 
   ui::Page Layout() override {
-    return {
-        .Facts = &lblfacts,
-        .Actions = {&cmdback},
-        .Cancel = &cmdback,
-        .Body = ui::Rows({ui::Group("", {txtwants}),
-                          ui::Group("", {ui::Columns({cmdask, cmdcontract, cmdtime, cmdend})})})};
+    ui::Page page =
+        PageOf(ui::Rows({ui::Group("", {txtwants}),
+                         ui::Group("", {ui::Columns({cmdask, cmdcontract, cmdtime, cmdend})})}),
+               &lblfacts);
+    page.Main = nullptr;  // Enter does nothing
+    return page;
   }
 
-  void Load() override { Return(); }
   void Return() override {
     if (const Show* show = FindShow()) ShowDeal(*show);
   }
@@ -99,19 +98,18 @@ class frmTVContract : public ShowScreen {
                          &frmTVContract::cmdcontract_Click};
   ui::Button cmdtime{*this, "cmdtime", "Move The Slot", &frmTVContract::cmdtime_Click};
   ui::Button cmdend{*this, "cmdend", "End The Deal", &frmTVContract::cmdend_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 class frmShowName : public ShowScreen {
  public:
   frmShowName(Game& game, std::string show)
-      : ShowScreen(game, "frmShowName", "Show Name", std::move(show)) {}
+      : ShowScreen(game, "frmShowName", "Show Name", std::move(show)) {
+    BackBefore(cmdchange);
+  }
 
   ui::Page Layout() override {
-    return {.Actions = {&cmdback, &cmdchange},
-            .Main = &cmdchange,
-            .Cancel = &cmdback,
-            .Body = ui::Group("", {ui::Field("New name", txtname), lblpast})};
+    return PageOf(ui::Group("", {ui::Field("New name", txtname), lblpast}), nullptr, {},
+                  &cmdchange);
   }
 
   void Load() override {
@@ -133,7 +131,6 @@ class frmShowName : public ShowScreen {
 
   ui::TextBox txtname{*this, "txtname"};
   ui::Label lblpast{*this, "lblpast", "Its charts begin anew: the past keeps the old name."};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdchange{*this, "cmdchange", "Change Name", &frmShowName::cmdchange_Click};
 };
 
@@ -144,14 +141,12 @@ class frmCommentator : public ShowScreen {
   frmCommentator(Game& game, Chair chair, std::string show)
       : ShowScreen(game, chair == kPrimary ? "frmAnnouncer" : "frmColourMan",
                    chair == kPrimary ? "Announcer" : "Colour Commentator", std::move(show)),
-        chair_(chair) {}
+        chair_(chair) {
+    BackBefore(cmdassign);
+  }
 
   ui::Page Layout() override {
-    return {.Facts = &lblfacts,
-            .Actions = {&cmdback, &cmdassign},
-            .Main = &cmdassign,
-            .Cancel = &cmdback,
-            .Body = ui::Group("", {ui::Grow(lststaff)})};
+    return PageOf(ui::Group("", {ui::Grow(lststaff)}), &lblfacts, {}, &cmdassign);
   }
 
   void Load() override {
@@ -219,7 +214,6 @@ class frmCommentator : public ShowScreen {
                         {"", K::Text, 2}},
                        ui::Handler{},
                        cmdassign};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdassign{*this, "cmdassign", "Assign", &frmCommentator::cmdassign_Click};
 };
 
@@ -233,16 +227,15 @@ class frmTVRivals : public ShowScreen {
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblfacts,
-            .Actions = {&cmdback},
-            .Cancel = &cmdback,
-            .Large = true,
-            .Body = ui::Rows(
-                {ui::Group("Direct rivals: in the same time slot", {ui::Grow(lstdirect)}).Grow(),
-                 ui::Group("Indirect rivals: on the same day", {ui::Grow(lstindirect)}).Grow()})};
+    ui::Page page = PageOf(
+        ui::Rows({ui::Group("Direct rivals: in the same time slot", {ui::Grow(lstdirect)}).Grow(),
+                  ui::Group("Indirect rivals: on the same day", {ui::Grow(lstindirect)}).Grow()}),
+        &lblfacts);
+    page.Main = nullptr;  // Enter does nothing
+    page.Large = true;
+    return page;
   }
 
-  void Load() override { Return(); }
   void Return() override {
     const Show* ours = FindShow();
     if (!ours) return;
@@ -270,7 +263,6 @@ class frmTVRivals : public ShowScreen {
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstdirect{*this, "lstdirect", RivalColumns()};
   ui::ListBox lstindirect{*this, "lstindirect", RivalColumns()};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "business/screens/frmTelevision.h"
+#include "ui/gamescreen.h"
 
 #include <algorithm>
 
@@ -29,8 +30,7 @@ ui::Cell RoomCell(const World& world, const Network& network) {
 }  // namespace
 
 ShowScreen::ShowScreen(Game& game, std::string name, std::string title, std::string show)
-    : Screen(game.Desk(), std::move(name), std::move(title), ui::Role::Dialog),
-      game_(game),
+    : GameScreen(game, std::move(name), std::move(title), {.Is = ui::Role::Dialog}),
       show_(std::move(show)) {}
 
 Show* ShowScreen::FindShow() {
@@ -95,20 +95,17 @@ void SayAll(ui::Desk& desk, const std::vector<TvRemark>& remarks) {
 namespace {
 
 /// The player's shows, how they do, and the way on the air.
-class frmTelevision : public ui::Screen {
+class frmTelevision : public GameScreen {
  public:
   explicit frmTelevision(Game& game)
-      : Screen(game.Desk(), "frmTelevision", "Television"), game_(game) {
+      : GameScreen(game, "frmTelevision", "Television", {.Manages = true}) {
+    BackBefore(cmdpromo);
     txtwants.Brief = true;
   }
 
   ui::Page Layout() override {
-    return {
-        .Facts = &lblfacts,
-        .Actions = {&cmdranking, &cmdnetworks, &cmdshows, &cmdback, &cmdpromo},
-        .Main = &cmdpromo,
-        .Cancel = &cmdback,
-        .Body = ui::Columns(
+    return PageOf(
+        ui::Columns(
             {ui::Rows({ui::Group("Our shows", {cmdshow(1), cmdshow(2), cmdshow(3), lblnone}),
                        ui::Group("The show", ShowParts()), ui::Spacer()})
                  .Grow(2),
@@ -117,10 +114,10 @@ class frmTelevision : public ui::Screen {
                            .Grow(),
                        ui::Group("Attendance", {ui::Grow(txtattendance), ui::Grow(chtattendance)})
                            .Grow()})
-                 .Grow(3)})};
+                 .Grow(3)}),
+        &lblfacts, {&cmdranking, &cmdnetworks, &cmdshows}, &cmdpromo);
   }
 
-  void Load() override { Return(); }
   void Return() override {
     ShowButtons();
     ShowTape();
@@ -128,7 +125,6 @@ class frmTelevision : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   std::vector<const Show*> Shows() { return ShowsOf(world(), world().PlayerUid()); }
 
   std::vector<ui::Box> ShowParts() {
@@ -251,12 +247,6 @@ class frmTelevision : public ui::Screen {
   void cmdchangec_Click() { desk().Open(MakefrmColourMan(game_, ChosenName())); }
   void cmdshows_Click() { desk().Open("frmViewShows"); }
 
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
-
-  Game& game_;
   int chosen_ = 0;  // place among the player's shows, from 0
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Array<ui::Button> cmdshow{"cmdshow", kMostShows, [this](const std::string& name, int place) {
@@ -292,7 +282,6 @@ class frmTelevision : public ui::Screen {
   ui::Button cmdnetworks{*this, "cmdnetworks", "Networks",
                          [this] { desk().Open("frmViewNetworks"); }};
   ui::Button cmdshows{*this, "cmdshows", "All Shows", &frmTelevision::cmdshows_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmTelevision::cmdback_Click};
   ui::Button cmdpromo{*this, "cmdpromo", "Send Out Promo Tapes", &frmTelevision::cmdpromo_Click};
 };
 

@@ -1,24 +1,22 @@
 #pragma once
 
 #include "business/tvtalks.h"
-#include "ui/game.h"
+#include "ui/gamescreen.h"
 
 // What the screens of television share.
 
 namespace grapplemont {
 
 /// A screen about one show of the player's.
-class ShowScreen : public ui::Screen {
+class ShowScreen : public GameScreen {
  protected:
   ShowScreen(Game& game, std::string name, std::string title, std::string show);
-  World& world() { return game_.World(); }
   /// The show; nullptr, said and closed, when it is no more on the air.
   Show* ShowOrLeave();
   /// The show without a word; nullptr when it is gone.
   Show* FindShow();
 
  private:
-  Game& game_;
   std::string show_;
 };
 

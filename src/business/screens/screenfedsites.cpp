@@ -6,6 +6,7 @@
 #include "roster/postings.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
+#include "ui/gamescreen.h"
 
 // Where the young learn, and who is to run it.
 
@@ -14,12 +15,13 @@ namespace grapplemont {
 namespace {
 
 /// The people who could hold an office, and nobody.
-class frmFedPick : public ui::Screen {
+class frmFedPick : public GameScreen {
  public:
   frmFedPick(Game& game, Office office)
-      : Screen(game.Desk(), "frmFedPick", OfficeName(office), ui::Role::Dialog),
-        game_(game),
+      : GameScreen(game, "frmFedPick", OfficeName(office),
+                   {.Is = ui::Role::Dialog, .Back = "Cancel", .BackName = "cmdcancel"}),
         office_(office) {
+    BackBefore(cmdnobody);
     lstpeople.EmptyText = office == Office::Commissioner
                               ? "You have no non-wrestler. Sign one, or make somebody one."
                           : office == Office::HeadTrainer
@@ -32,9 +34,9 @@ class frmFedPick : public ui::Screen {
 
   ui::Page Layout() override {
     return {.Facts = &lblnow,
-            .Actions = {&cmdcancel, &cmdnobody, &cmddoit},
+            .Actions = {&cmdback, &cmdnobody, &cmddoit},
             .Main = &cmddoit,
-            .Cancel = &cmdcancel,
+            .Cancel = &cmdback,
             .Body = ui::Group("", {ui::Grow(lstpeople)})};
   }
 
@@ -54,8 +56,6 @@ class frmFedPick : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   void ShowButtons() {
     const int holder = HolderOf(world(), office_), chosen = lstpeople.Key();
     EnableUnless(cmddoit, chosen == 0        ? "Choose somebody first."
@@ -76,11 +76,9 @@ class frmFedPick : public ui::Screen {
   void cmdnobody_Click() { Give(0); }
 
   using K = ui::ColumnKind;
-  Game& game_;
   Office office_;
   ui::Label lblnow{*this, "lblnow"};
   ui::ListBox lstpeople{*this, "lstpeople", {{}}, &frmFedPick::ShowButtons, cmddoit};
-  ui::Button cmdcancel{*this, "cmdcancel", "Cancel", [this] { Close(); }};
   ui::Button cmdnobody{*this, "cmdnobody", "Nobody", &frmFedPick::cmdnobody_Click};
   ui::Button cmddoit{*this, "cmddoit", "Appoint", [this] { Give(lstpeople.Key()); }};
 };

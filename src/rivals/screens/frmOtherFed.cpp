@@ -1,4 +1,5 @@
 #include "rivals/screens/frmOtherFed.h"
+#include "ui/gamescreen.h"
 
 #include <algorithm>
 
@@ -207,17 +208,20 @@ void AttemptBuyOut(Game& game, const Promotion& rival) {
 }
 
 /// Every promotion of the world, what is known of the selected one beside the list.
-class frmOtherFed : public ui::Screen {
+class frmOtherFed : public GameScreen {
  public:
   explicit frmOtherFed(Game& game)
-      : Screen(game.Desk(), "frmOtherFed", "Other Promotions"), game_(game), sheets(*this, game) {}
+      : GameScreen(game, "frmOtherFed", "Other Promotions", {.Manages = true}),
+        sheets(*this, game) {
+    BackBefore(cmdbuyout);
+  }
 
   ui::Page Layout() override {
-    return {
-        .Facts = &lblfacts,
-        .Actions = {&cmdbuyout, &cmdback},
-        .Cancel = &cmdback,
-        .Body = ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()})};
+    ui::Page page =
+        PageOf(ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()}),
+               &lblfacts, {&cmdbuyout});
+    page.Main = nullptr;  // Enter does nothing
+    return page;
   }
 
   void Load() override {
@@ -232,7 +236,6 @@ class frmOtherFed : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   const Promotion* Chosen() { return LivingPromotion(world(), lstfeds.Key()); }
 
   void ShowAll() {
@@ -259,13 +262,8 @@ class frmOtherFed : public ui::Screen {
   void cmdbuyout_Click() {
     if (const Promotion* rival = Chosen()) AttemptBuyOut(game_, *rival);
   }
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
 
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstfeds{*this,
                       "lstfeds",
@@ -276,31 +274,25 @@ class frmOtherFed : public ui::Screen {
                        {"Roster", K::Number, 3, "Workers on the card, managers and the like."}},
                       &frmOtherFed::lstfeds_Click};
   PromotionSheets sheets;
-  ui::Button cmdback{*this, "cmdback", "Back", &frmOtherFed::cmdback_Click};
   ui::Button cmdbuyout{*this, "cmdbuyout", "Attempt Buy Out", &frmOtherFed::cmdbuyout_Click};
 };
 
 /// One promotion alone: what its name leads to.
-class frmPromotion : public ui::Screen {
+class frmPromotion : public GameScreen {
  public:
   frmPromotion(Game& game, int uid)
-      : Screen(game.Desk(), "frmPromotion", "Promotion", ui::Role::Dialog),
-        game_(game),
+      : GameScreen(game, "frmPromotion", "Promotion", {.Is = ui::Role::Dialog}),
         uid_(uid),
         sheets(*this, game) {}
 
   int Uid() const { return uid_; }
 
   ui::Page Layout() override {
-    return {.Facts = &lblfacts,
-            .Actions = {&cmdbuyout, &cmdback},
-            .Main = &cmdback,
-            .Cancel = &cmdback,
-            .Large = true,
-            .Body = sheets.Layout().Grow()};
+    ui::Page page = PageOf(sheets.Layout().Grow(), &lblfacts, {&cmdbuyout});
+    page.Large = true;
+    return page;
   }
 
-  void Load() override { Return(); }
   void Return() override {
     const Promotion* promotion = LivingPromotion(game_.World(), uid_);
     if (promotion) Title = promotion->Name.Str();
@@ -316,12 +308,10 @@ class frmPromotion : public ui::Screen {
     if (const Promotion* rival = LivingPromotion(game_.World(), uid_)) AttemptBuyOut(game_, *rival);
   }
 
-  Game& game_;
   int uid_;
   ui::Label lblfacts{*this, "lblfacts"};
   PromotionSheets sheets;
   ui::Button cmdbuyout{*this, "cmdbuyout", "Attempt Buy Out", &frmPromotion::cmdbuyout_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
 #include "rivals/screens/rivalscreens.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -49,45 +50,44 @@ class frmTheEnd : public ui::Screen {
 };
 
 /// The stranger's visit. However it is left, he opens his promotion.
-class frmPinky : public ui::Screen {
+class frmPinky : public GameScreen {
  public:
   explicit frmPinky(Game& game)
-      : Screen(game.Desk(), "frmPinky", "A Visitor", ui::Role::Dialog), game_(game) {
+      : GameScreen(game, "frmPinky", "A Visitor",
+                   {.Is = ui::Role::Dialog, .Back = "So Be It", .Manages = true}) {
     txtwords.Brief = true;
   }
 
-  ui::Page Layout() override {
-    return {
-        .Actions = {&cmdback}, .Main = &cmdback, .Cancel = &cmdback, .Body = ui::Rows({txtwords})};
-  }
+  ui::Page Layout() override { return PageOf(ui::Rows({txtwords})); }
 
-  void Load() override { txtwords.Write(StrangersWords(game_.World())); }
+  void Load() override { txtwords.Write(StrangersWords(world())); }
 
  private:
-  void cmdback_Click() {
-    if (game_.World().Game().EndCode == kStrangerWaits) MeetStranger(game_.World());
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
+  void cmdback_Click() override {
+    if (world().Game().EndCode == kStrangerWaits) MeetStranger(world());
+    GameScreen::cmdback_Click();
   }
 
-  Game& game_;
   ui::Report txtwords{*this, "txtwords"};
-  ui::Button cmdback{*this, "cmdback", "So Be It", &frmPinky::cmdback_Click};
 };
 
 constexpr const char* kDeals = "deals";
 
 /// Two ways to be rid of a rival, and what each costs.
-class frmTakeover : public ui::Screen {
+class frmTakeover : public GameScreen {
  public:
   frmTakeover(Game& game, int uid)
-      : Screen(game.Desk(), "frmTakeover", "Takeover", ui::Role::Dialog), game_(game), uid_(uid) {}
+      : GameScreen(game, "frmTakeover", "Takeover",
+                   {.Is = ui::Role::Dialog, .Back = "Cancel", .BackName = "cmdcancel"}),
+        uid_(uid) {
+    BackBefore(cmddoit);
+  }
 
   ui::Page Layout() override {
     return {.Facts = &lblmoney,
-            .Actions = {&cmdcancel, &cmddoit},
+            .Actions = {&cmdback, &cmddoit},
             .Main = &cmddoit,
-            .Cancel = &cmdcancel,
+            .Cancel = &cmdback,
             .Body = ui::Rows({ui::Group("", {opt1, lblabout1, lblcost1}),
                               ui::Group("", {opt2, lblabout2, lblcost2})})};
   }
@@ -116,7 +116,6 @@ class frmTakeover : public ui::Screen {
     Close();
   }
 
-  Game& game_;
   int uid_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::OptionButton opt1{*this, "opt1", "Complete Takeover", kDeals, true};
@@ -129,7 +128,6 @@ class frmTakeover : public ui::Screen {
   ui::Label lblabout2{*this, "lblabout2",
                       "Pay their debts and a month's wages. Everybody goes to the market."};
   ui::Label lblcost2{*this, "lblcost2"};
-  ui::Button cmdcancel{*this, "cmdcancel", "Cancel", [this] { Close(); }};
   ui::Button cmddoit{*this, "cmddoit", "Make the deal!", &frmTakeover::cmddoit_Click};
 };
 

@@ -20,24 +20,21 @@ constexpr int kOfferedMonths = 24;
 /// Talks with a worker of the player's: staying, being let go, being thrown out.
 class frmWresContract : public TalkWith<Worker> {
  public:
-  frmWresContract(Game& game, const Worker& worker) : TalkWith(game, "frmWresContract", worker) {}
+  frmWresContract(Game& game, const Worker& worker) : TalkWith(game, "frmWresContract", worker) {
+    BackBefore(cmdoffer);
+  }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdterminate, &cmdrelease, &cmdback, &cmdoffer};
-    page.Main = &cmdoffer;
-    page.Cancel = &cmdback;
+    std::vector<ui::Box> now = terms_.Fields(), offered = offer_.Fields();
+    now.emplace_back(lblcreative);
+    offered.emplace_back(chkcreative);
+    ui::Page page =
+        PageOf(ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                            ui::Rows({ui::Group("The contract", std::move(now)),
+                                      ui::Group("Your offer", std::move(offered)), ui::Spacer()})
+                                .Grow(1)}),
+               &lblfacts, {&cmdterminate, &cmdrelease}, &cmdoffer);
     page.Large = true;
-    std::vector<ui::Box> fields = offer_.Fields();
-    fields.emplace_back(chkcreative);
-    page.Body =
-        ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-                     ui::Rows({ui::Group("The contract", {ui::Field("Wage", txtwage),
-                                                          ui::Field("Length", txtlength),
-                                                          ui::Field("Type", txttype), lblcreative}),
-                               ui::Group("Your offer", std::move(fields)), ui::Spacer()})
-                         .Grow(1)});
     return page;
   }
 
@@ -52,12 +49,9 @@ class frmWresContract : public TalkWith<Worker> {
   void Show() override {
     const Worker& worker = *Who();
     WriteWorkerPage(txtpage, world(), &worker, "");
-    txtlength.Text = MonthsText(worker.ContractMonths);
-    txttype.Text = ContractWord(worker.ContractType == "Wri");
-    txtwage.Text = WageText(worker.Wage) + " a month";
+    terms_.Show(worker.Wage, worker.ContractMonths, worker.ContractType == "Wri");
     lblcreative.Visible = worker.CreativeControl;
-    lblfacts.Text =
-        closed_.empty() ? "What is turned down can be changed and offered again." : closed_;
+    ShowFacts("What is turned down can be changed and offered again.");
     offer_.Allow(closed_);
     EnableUnless(chkcreative, closed_);
     EnableUnless(cmdoffer, closed_);
@@ -73,8 +67,7 @@ class frmWresContract : public TalkWith<Worker> {
     SayAll(answer.Remarks);
     if (!answer.Accepted) return;
     Renew(worker, offer);
-    SayAll({AcceptedRemark(worker.Name, offer.Written)});
-    Close();
+    Agree(worker.Name, offer.Written);
   }
 
   void cmdrelease_Click() {
@@ -98,17 +91,12 @@ class frmWresContract : public TalkWith<Worker> {
     Close();
   }
 
-  ui::Label lblfacts{*this, "lblfacts"};
-  ui::Report txtpage{*this, "txtpage"};
-  ui::Label txtwage{*this, "txtwage"};
-  ui::Label txtlength{*this, "txtlength"};
-  ui::Label txttype{*this, "txttype"};
+  TermLabels terms_{*this};
   ui::Label lblcreative{*this, "lblcreative", "A clause gives creative control."};
   OfferControls offer_{*this, kHighestWage};
   ui::CheckBox chkcreative{*this, "chkcreative", "Creative control"};
   ui::Button cmdterminate{*this, "cmdterminate", "Terminate", &frmWresContract::cmdterminate_Click};
   ui::Button cmdrelease{*this, "cmdrelease", "Offer Release", &frmWresContract::cmdrelease_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &frmWresContract::cmdoffer_Click};
 };
 
@@ -121,6 +109,7 @@ constexpr const char* kOfferedDispositions[] = {"F", "T", "H"};
 class frmOtherContract : public TalkWith<Worker> {
  public:
   frmOtherContract(Game& game, const Worker& worker) : TalkWith(game, "frmOtherContract", worker) {
+    BackBefore(cmdoffer);
     for (const int position : kOfferedPositions)
       cmbnewposition.Add(std::string(PositionText(position)), position);
     for (const char* code : kOfferedDispositions)
@@ -128,26 +117,22 @@ class frmOtherContract : public TalkWith<Worker> {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdoffer};
-    page.Main = &cmdoffer;
-    page.Cancel = &cmdback;
+    std::vector<ui::Box> wanted = terms_.Fields(), offered = offer_.Fields();
+    wanted.insert(wanted.begin(), ui::Field("Position", txtposition));
+    wanted.insert(wanted.end(), {ui::Field("Creative control", txtcreative), ui::Spacer()});
+    offered.emplace_back(chkcreative);
+    ui::Page page =
+        PageOf(ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                            ui::Group("Wanted of you", std::move(wanted)),
+                            ui::Rows({ui::Group("Your offer", std::move(offered)),
+                                      ui::Group("The role", {ui::Field("Position", cmbnewposition),
+                                                             ui::Field("Disposition", cmbnewdispo),
+                                                             ui::Field("Name", txtnewname),
+                                                             ui::Field("Short name", txtnewname2)}),
+                                      ui::Spacer()})
+                                .Grow(1)}),
+               &lblfacts, {}, &cmdoffer);
     page.Large = true;
-    std::vector<ui::Box> terms = offer_.Fields();
-    terms.emplace_back(chkcreative);
-    page.Body = ui::Columns(
-        {ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-         ui::Group("Wanted of you", {ui::Field("Position", txtposition), ui::Field("Wage", txtwage),
-                                     ui::Field("Length", txtlength), ui::Field("Type", txttype),
-                                     ui::Field("Creative control", txtcreative), ui::Spacer()}),
-         ui::Rows({ui::Group("Your offer", std::move(terms)),
-                   ui::Group("The role",
-                             {ui::Field("Position", cmbnewposition),
-                              ui::Field("Disposition", cmbnewdispo), ui::Field("Name", txtnewname),
-                              ui::Field("Short name", txtnewname2)}),
-                   ui::Spacer()})
-             .Grow(1)});
     return page;
   }
 
@@ -176,11 +161,9 @@ class frmOtherContract : public TalkWith<Worker> {
     WriteWorkerPage(txtpage, world(), &worker, "");
     const Demands demands = ContractDemands(world(), worker);
     txtposition.Text = PositionText(demands.Position);
-    txtlength.Text = MonthsText(demands.Months);
-    txttype.Text = ContractWord(demands.Written);
-    txtwage.Text = WageText(demands.Wage) + " a month";
+    terms_.Show(demands.Wage, demands.Months, demands.Written);
     txtcreative.Text = demands.CreativeControl ? "Yes" : "No";
-    lblfacts.Text = closed_.empty() ? FactsOf(worker) : closed_;
+    ShowFacts(FactsOf(worker));
     offer_.Allow(closed_);
     EnableUnless({cmdoffer, cmbnewposition, cmbnewdispo, txtnewname, txtnewname2}, closed_);
   }
@@ -208,16 +191,11 @@ class frmOtherContract : public TalkWith<Worker> {
     const std::string no = JudgeSigning(worker, ContractDemands(world(), worker), offer);
     if (!no.empty()) return desk().Say("Rejection!", no);
     Sign(world(), worker, offer);
-    SayAll({AcceptedRemark(worker.Name, offer.Written)});
-    Close();
+    Agree(worker.Name, offer.Written);
   }
 
-  ui::Label lblfacts{*this, "lblfacts"};
-  ui::Report txtpage{*this, "txtpage"};
   ui::Label txtposition{*this, "txtposition"};
-  ui::Label txtwage{*this, "txtwage"};
-  ui::Label txtlength{*this, "txtlength"};
-  ui::Label txttype{*this, "txttype"};
+  TermLabels terms_{*this};
   ui::Label txtcreative{*this, "txtcreative"};
   OfferControls offer_{*this, kHighestWage};
   ui::CheckBox chkcreative{*this, "chkcreative", "Creative control"};
@@ -225,7 +203,6 @@ class frmOtherContract : public TalkWith<Worker> {
   ui::ComboBox cmbnewdispo{*this, "cmbnewdispo"};
   ui::TextBox txtnewname{*this, "txtnewname", "", Text<25>::kWidth};
   ui::TextBox txtnewname2{*this, "txtnewname2", "", Text<10>::kWidth};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &frmOtherContract::cmdoffer_Click};
 };
 
@@ -236,21 +213,19 @@ class StaffTalk : public TalkWith<Staff> {
   StaffTalk(Game& game, const Staff& staff, bool own)
       : TalkWith(game, own ? "frmStaffContract" : "frmOtherStaffContract", staff),
         own_(own),
-        offer_(*this, std::max<int>(kHighestStaffWage, own ? staff.Wage : 0)) {}
+        offer_(*this, std::max<int>(kHighestStaffWage, own ? staff.Wage : 0)) {
+    BackBefore(cmdoffer);
+  }
 
   ui::Page Layout() override {
-    return {.Facts = &lblfacts,
-            .Actions = {&cmdback, &cmdoffer},
-            .Main = &cmdoffer,
-            .Cancel = &cmdback,
-            .Large = true,
-            .Body = ui::Columns(
-                {ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-                 ui::Rows({ui::Group(own_ ? "The contract" : "Wanted of you",
-                                     {ui::Field("Wage", txtwage), ui::Field("Length", txtlength),
-                                      ui::Field("Type", txttype)}),
-                           ui::Group("Your offer", offer_.Fields()), ui::Spacer()})
-                     .Grow(1)})};
+    ui::Page page = PageOf(
+        ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                     ui::Rows({ui::Group(own_ ? "The contract" : "Wanted of you", terms_.Fields()),
+                               ui::Group("Your offer", offer_.Fields()), ui::Spacer()})
+                         .Grow(1)}),
+        &lblfacts, {}, &cmdoffer);
+    page.Large = true;
+    return page;
   }
 
  protected:
@@ -267,10 +242,8 @@ class StaffTalk : public TalkWith<Staff> {
     const StaffDemands wanted =
         own_ ? StaffDemands{staff.ContractMonths, staff.ContractType == "Wri", staff.Wage}
              : StaffDemandsOf(world(), staff);
-    txtlength.Text = MonthsText(wanted.Months);
-    txttype.Text = ContractWord(wanted.Written);
-    txtwage.Text = WageText(wanted.Wage) + " a month";
-    lblfacts.Text = !closed_.empty() ? closed_ : FactsOf(staff);
+    terms_.Show(wanted.Wage, wanted.Months, wanted.Written);
+    ShowFacts(FactsOf(staff));
     offer_.Allow(closed_);
     EnableUnless(cmdoffer, closed_);
   }
@@ -290,18 +263,12 @@ class StaffTalk : public TalkWith<Staff> {
     const std::string no = JudgeStaffOffer(world(), staff, StaffDemandsOf(world(), staff), offer);
     if (!no.empty()) return desk().Say("Rejected!", no);
     own_ ? RenewStaff(staff, offer) : HireStaff(world(), staff, offer);
-    SayAll({AcceptedRemark(staff.Name, offer.Written)});
-    Close();
+    Agree(staff.Name, offer.Written);
   }
 
   bool own_;
-  ui::Label lblfacts{*this, "lblfacts"};
-  ui::Report txtpage{*this, "txtpage"};
-  ui::Label txtwage{*this, "txtwage"};
-  ui::Label txtlength{*this, "txtlength"};
-  ui::Label txttype{*this, "txttype"};
+  TermLabels terms_{*this};
   OfferControls offer_;  // whoever earns more than anybody wants can be kept at it
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &StaffTalk::cmdoffer_Click};
 };
 

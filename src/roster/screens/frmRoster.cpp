@@ -25,8 +25,7 @@ std::size_t Index(int number) {
 
 WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string title, WorkerList list,
                                    std::span<const FilterFamily> filters)
-    : Screen(game.Desk(), std::move(name), std::move(title)),
-      game_(game),
+    : GameScreen(game, std::move(name), std::move(title), {.Manages = true}),
       cmbfilters("", static_cast<int>(filters.size()),
                  [&](const std::string&, int i) {
                    const FilterFamily& family = filters[Index(i)];
@@ -39,10 +38,6 @@ WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string tit
       lstwres(*this, "lstwres", WorkerColumns(list), ui::Handler([this] { ShowChoice(); })),
       list_(list),
       filters_(filters) {}
-
-void WorkerListScreen::Load() {
-  ShowList();
-}
 
 /// Where the chosen worker is listed no more, the next one takes his place.
 void WorkerListScreen::Return() {
@@ -94,11 +89,6 @@ ui::Box WorkerListScreen::FilterBox(std::vector<ui::Box> more) {
   return ui::Columns(std::move(fields));
 }
 
-void WorkerListScreen::Leave() {
-  Close();
-  if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-}
-
 namespace {
 
 /// The player's people, wherever they are posted.
@@ -106,6 +96,7 @@ class frmRoster : public WorkerListScreen {
  public:
   explicit frmRoster(Game& game)
       : WorkerListScreen(game, "frmRoster", "Roster", WorkerList::Roster, RosterFilters()) {
+    BackBefore(cmdcontract);
     lstwres.EmptyText = "Nobody works for you yet. Look for people under Other Workers.";
     lstwres.OpenWith(cmdcontract);
     for (const int position : PositionsToMoveTo())
@@ -113,21 +104,18 @@ class frmRoster : public WorkerListScreen {
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblfacts,
-            .Actions = {&cmdturn, &cmdmanager, &cmdstables, &cmdback, &cmdcontract},
-            .Main = &cmdcontract,
-            .Cancel = &cmdback,
-            .Body = ui::Rows(
-                {ui::Group("", {FilterBox({ui::Field("Split", cmbsplit)})}),
-                 ui::Columns(
-                     {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
-                      ui::Rows({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-                                ui::Group("Place",
-                                          {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
-                                           lblmove, ui::Columns({ui::Grow(cmbnewsplit), cmdsplit}),
-                                           ui::Columns({cmddevelopment, cmdcamp})})})
-                          .Grow(4)})
-                     .Grow(1)})};
+    return PageOf(
+        ui::Rows({ui::Group("", {FilterBox({ui::Field("Split", cmbsplit)})}),
+                  ui::Columns(
+                      {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
+                       ui::Rows({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                                 ui::Group("Place",
+                                           {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
+                                            lblmove, ui::Columns({ui::Grow(cmbnewsplit), cmdsplit}),
+                                            ui::Columns({cmddevelopment, cmdcamp})})})
+                           .Grow(4)})
+                      .Grow(1)}),
+        &lblfacts, {&cmdturn, &cmdmanager, &cmdstables}, &cmdcontract);
   }
 
   void Load() override {
@@ -231,7 +219,6 @@ class frmRoster : public WorkerListScreen {
   void cmdcontract_Click() {
     if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
   }
-  void cmdback_Click() { Leave(); }
 
   ui::ComboBox cmbsplit{*this, "cmbsplit", &frmRoster::ShowList};
   ui::ComboBox cmbnewposition{*this, "cmbnewposition", &frmRoster::ShowMove};
@@ -245,7 +232,6 @@ class frmRoster : public WorkerListScreen {
   ui::Button cmdturn{*this, "cmdturn", "Turns", [this] { desk().Open("frmTurn"); }};
   ui::Button cmdmanager{*this, "cmdmanager", "Managers", [this] { desk().Open("frmManagers"); }};
   ui::Button cmdstables{*this, "cmdstables", "Stables", [this] { desk().Open("frmStables"); }};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmRoster::cmdback_Click};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmRoster::cmdcontract_Click};
 };
 
@@ -255,19 +241,17 @@ class frmOtherWres : public WorkerListScreen {
   explicit frmOtherWres(Game& game)
       : WorkerListScreen(game, "frmOtherWres", "Other Workers", WorkerList::Market,
                          MarketFilters()) {
+    BackBefore(cmdcontract);
     lstwres.EmptyText = "There is nobody else who fits.";
     lstwres.OpenWith(cmdcontract);
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblfacts,
-            .Actions = {&cmdlist, &cmdshortlist, &cmdback, &cmdcontract},
-            .Main = &cmdcontract,
-            .Cancel = &cmdback,
-            .Body = ui::Rows({ui::Group("", {FilterBox()}),
-                              ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
-                                           ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
-                                  .Grow(1)})};
+    return PageOf(ui::Rows({ui::Group("", {FilterBox()}),
+                            ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
+                                         ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
+                                .Grow(1)}),
+                  &lblfacts, {&cmdlist, &cmdshortlist}, &cmdcontract);
   }
 
  protected:
@@ -298,7 +282,6 @@ class frmOtherWres : public WorkerListScreen {
   ui::Button cmdlist{*this, "cmdlist", "Shortlist", [this] { desk().Open("frmShortlist"); }};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Put On Shortlist",
                           &frmOtherWres::cmdshortlist_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Leave(); }};
   ui::Button cmdcontract{*this, "cmdcontract", "Talks", &frmOtherWres::cmdcontract_Click};
 };
 

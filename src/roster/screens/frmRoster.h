@@ -6,17 +6,17 @@
 #include "records/world.h"
 #include "roster/market.h"
 #include "roster/screens/screenworkers.h"
-#include "ui/game.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
 /// A table of workers under its quick filters, the page of the chosen one beside it. Rows are made
 /// when the list or a filter changes; picking one writes his page and no more.
-class WorkerListScreen : public ui::Screen {
+class WorkerListScreen : public GameScreen {
  public:
   WorkerListScreen(Game& game, std::string name, std::string title, WorkerList list,
                    std::span<const FilterFamily> filters);
-  void Load() override;
+  void Load() override { ShowList(); }
   void Return() override;
 
  protected:
@@ -28,7 +28,7 @@ class WorkerListScreen : public ui::Screen {
   virtual void ShowActions(const Worker* chosen) = 0;
   virtual std::string Facts(int listed) const = 0;
 
-  World& world() { return game_.World(); }
+  using GameScreen::world;
   const World& world() const { return game_.World(); }
   /// nullptr for nobody, or somebody who has left the world.
   const Worker* Chosen() { return world().FindWorker(lstwres.Key()); }
@@ -38,9 +38,7 @@ class WorkerListScreen : public ui::Screen {
   void ShowFacts() { lblfacts.Text = Facts(listed_); }
   /// The filters side by side, with the screen's own behind them.
   ui::Box FilterBox(std::vector<ui::Box> more = {});
-  void Leave();
 
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Array<ui::ComboBox> cmbfilters;
   ui::ListBox lstwres;

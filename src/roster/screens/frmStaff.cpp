@@ -104,8 +104,7 @@ void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
 }
 
 StaffListScreen::StaffListScreen(Game& game, std::string name, std::string title, StaffList list)
-    : Screen(game.Desk(), std::move(name), std::move(title)),
-      game_(game),
+    : GameScreen(game, std::move(name), std::move(title), {.Manages = true}),
       lststaff(*this, "lststaff", ColumnsOf(list), ui::Handler([this] { ShowChoice(); })),
       list_(list) {}
 
@@ -142,30 +141,23 @@ void StaffListScreen::Negotiate() {
   if (const Staff* chosen = Chosen()) OpenStaffContract(game_, chosen->Uid);
 }
 
-void StaffListScreen::Leave() {
-  Close();
-  if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-}
-
 namespace {
 
 /// The player's staff, and where hands are lacking.
 class frmStaff : public StaffListScreen {
  public:
   explicit frmStaff(Game& game) : StaffListScreen(game, "frmStaff", "Staff", StaffList::Own) {
+    BackBefore(cmdcontract);
     lststaff.OpenWith(cmdcontract);
     lststaff.EmptyText = "Nobody is on your staff yet. Look for people under Other Staff.";
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblfacts,
-            .Actions = {&cmdfire, &cmdback, &cmdcontract},
-            .Main = &cmdcontract,
-            .Cancel = &cmdback,
-            .Body = ui::Rows({ui::Group("", {lblposts, lbladvice}),
-                              ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
-                                           ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
-                                  .Grow(1)})};
+    return PageOf(ui::Rows({ui::Group("", {lblposts, lbladvice}),
+                            ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
+                                         ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
+                                .Grow(1)}),
+                  &lblfacts, {&cmdfire}, &cmdcontract);
   }
 
  protected:
@@ -195,7 +187,6 @@ class frmStaff : public StaffListScreen {
   ui::Label lblposts{*this, "lblposts"};
   ui::Label lbladvice{*this, "lbladvice"};
   ui::Button cmdfire{*this, "cmdfire", "Fire", &frmStaff::cmdfire_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Leave(); }};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", [this] { Negotiate(); }};
 };
 
@@ -238,6 +229,7 @@ class frmOtherStaff : public StaffListScreen {
  public:
   explicit frmOtherStaff(Game& game)
       : StaffListScreen(game, "frmOtherStaff", "Other Staff", StaffList::Market) {
+    BackBefore(cmdcontract);
     lststaff.OpenWith(cmdcontract);
     lststaff.EmptyText = "There is nobody else who fits.";
     for (const StaffFilter& row : kByBond) cmbbond.Add(row.Label);
@@ -248,16 +240,14 @@ class frmOtherStaff : public StaffListScreen {
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblfacts,
-            .Actions = {&cmdback, &cmdcontract},
-            .Main = &cmdcontract,
-            .Cancel = &cmdback,
-            .Body = ui::Rows(
-                {ui::Group("", {ui::Columns({ui::Field("Bond", cmbbond), ui::Field("Post", cmbpost),
-                                             ui::Field("Talent", cmbtalent), ui::Spacer()})}),
-                 ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
-                              ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
-                     .Grow(1)})};
+    return PageOf(
+        ui::Rows(
+            {ui::Group("", {ui::Columns({ui::Field("Bond", cmbbond), ui::Field("Post", cmbpost),
+                                         ui::Field("Talent", cmbtalent), ui::Spacer()})}),
+             ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
+                          ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
+                 .Grow(1)}),
+        &lblfacts, {}, &cmdcontract);
   }
 
  protected:
@@ -280,12 +270,9 @@ class frmOtherStaff : public StaffListScreen {
     return row <= 1 || filters[row - 1].Keeps(staff, world().Player());
   }
 
-  void cmdback_Click() { Leave(); }
-
   ui::ComboBox cmbbond{*this, "cmbbond", &frmOtherStaff::ShowList};
   ui::ComboBox cmbpost{*this, "cmbpost", &frmOtherStaff::ShowList};
   ui::ComboBox cmbtalent{*this, "cmbtalent", &frmOtherStaff::ShowList};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmOtherStaff::cmdback_Click};
   ui::Button cmdcontract{*this, "cmdcontract", "Hire", [this] { Negotiate(); }};
 };
 

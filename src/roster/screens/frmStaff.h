@@ -3,7 +3,7 @@
 #include <string>
 
 #include "records/world.h"
-#include "ui/game.h"
+#include "ui/gamescreen.h"
 
 // How staff stand in tables and on pages.
 
@@ -17,10 +17,9 @@ void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
 enum class StaffList { Own, Market };
 
 /// A table of staff, the page of the chosen one beside it.
-class StaffListScreen : public ui::Screen {
+class StaffListScreen : public GameScreen {
  public:
   StaffListScreen(Game& game, std::string name, std::string title, StaffList list);
-  void Load() override { ShowList(); }
   void Return() override { ShowList(); }
 
  protected:
@@ -29,7 +28,7 @@ class StaffListScreen : public ui::Screen {
   /// Brings facts and buttons to the chosen one; nullptr for nobody.
   virtual void ShowActions(const Staff* chosen) = 0;
 
-  World& world() { return game_.World(); }
+  using GameScreen::world;
   const World& world() const { return game_.World(); }
   /// nullptr for nobody, or somebody who has left the world.
   Staff* Chosen() { return world().FindStaff(lststaff.Key()); }
@@ -40,9 +39,7 @@ class StaffListScreen : public ui::Screen {
   void Negotiate();
   /// Why there can be no talks with him at this moment; empty when there can.
   static std::string WhyNot(const Staff* chosen);
-  void Leave();
 
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lststaff;
   ui::Report txtpage{*this, "txtpage"};

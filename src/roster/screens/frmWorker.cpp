@@ -1,4 +1,5 @@
 #include "roster/screens/frmWorker.h"
+#include "ui/gamescreen.h"
 
 #include "records/modWresCheck.h"
 #include "records/nameindex.h"
@@ -82,23 +83,20 @@ void ConnectRoster(Game& game) {
 namespace {
 
 /// What is known of one worker.
-class frmWorker : public ui::Screen {
+class frmWorker : public GameScreen {
  public:
   frmWorker(Game& game, int uid)
-      : Screen(game.Desk(), "frmWorker", "Worker", ui::Role::Dialog), game_(game), uid_(uid) {}
+      : GameScreen(game, "frmWorker", "Worker", {.Is = ui::Role::Dialog}), uid_(uid) {}
 
   int Uid() const { return uid_; }
 
   ui::Page Layout() override {
-    return {.Actions = {&cmdshortlist, &cmdcontract, &cmdback},
-            .Main = &cmdback,
-            .Cancel = &cmdback,
-            .Large = true,
-            .Body = ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-                                 ui::Group("", {ui::Grow(txtmore)}).Grow(1)})};
+    ui::Page page = PageOf(ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                                        ui::Group("", {ui::Grow(txtmore)}).Grow(1)}),
+                           nullptr, {&cmdshortlist, &cmdcontract});
+    page.Large = true;
+    return page;
   }
-
-  void Load() override { Return(); }
 
   void Return() override {
     const Worker* worker = Subject();
@@ -112,7 +110,6 @@ class frmWorker : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   const Worker* Subject() { return world().FindWorker(uid_); }
 
   void cmdshortlist_Click() {
@@ -123,13 +120,11 @@ class frmWorker : public ui::Screen {
     if (const Worker* worker = Subject()) OpenTalks(game_, *worker);
   }
 
-  Game& game_;
   int uid_;
   ui::Report txtpage{*this, "txtpage"};
   ui::Report txtmore{*this, "txtmore"};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Shortlist", &frmWorker::cmdshortlist_Click};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmWorker::cmdcontract_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
 };
 
 /// His page, if only pages of workers lie above it.
@@ -160,23 +155,19 @@ void OpenWorkerPage(Game& game, int workerUid) {
 namespace {
 
 /// Whom the player keeps an eye on, and how they stand today.
-class frmShortlist : public ui::Screen {
+class frmShortlist : public GameScreen {
  public:
-  explicit frmShortlist(Game& game)
-      : Screen(game.Desk(), "frmShortlist", "Shortlist"), game_(game) {
+  explicit frmShortlist(Game& game) : GameScreen(game, "frmShortlist", "Shortlist") {
+    BackBefore(cmdcontract);
     lstwres.EmptyText = "Nobody yet. Put somebody on it under Other Workers or on a worker's page.";
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblfacts,
-            .Actions = {&cmdremove, &cmdpage, &cmdback, &cmdcontract},
-            .Main = &cmdcontract,
-            .Cancel = &cmdback,
-            .Body = ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(5),
-                                 ui::Group("", {ui::Grow(txtpage)}).Grow(3)})};
+    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(5),
+                               ui::Group("", {ui::Grow(txtpage)}).Grow(3)}),
+                  &lblfacts, {&cmdremove, &cmdpage}, &cmdcontract);
   }
 
-  void Load() override { Return(); }
   void Return() override {
     ShowList();
     if (lstwres.Selected() == 0) lstwres.Select(1);
@@ -184,7 +175,6 @@ class frmShortlist : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   const Worker* Chosen() { return world().FindWorker(lstwres.Key()); }
 
   void ShowList() {
@@ -229,13 +219,11 @@ class frmShortlist : public ui::Screen {
     return columns;
   }
 
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstwres{*this, "lstwres", Columns(), &frmShortlist::ShowChoice, cmdpage};
   ui::Report txtpage{*this, "txtpage"};
   ui::Button cmdremove{*this, "cmdremove", "Remove", &frmShortlist::cmdremove_Click};
   ui::Button cmdpage{*this, "cmdpage", "Open Page", &frmShortlist::cmdpage_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
   ui::Button cmdcontract{*this, "cmdcontract", "Talks", &frmShortlist::cmdcontract_Click};
 };
 

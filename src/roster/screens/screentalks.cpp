@@ -51,9 +51,21 @@ std::vector<ui::Box> OfferControls::Fields() {
           ui::Field("Length", cmbnewlength), ui::Field("Type", cmbnewtype)};
 }
 
+TermLabels::TermLabels(ui::Screen& screen)
+    : txtwage(screen, "txtwage"), txtlength(screen, "txtlength"), txttype(screen, "txttype") {}
+
+void TermLabels::Show(int wage, int months, bool written) {
+  txtwage.Text = WageText(wage) + " a month";
+  txtlength.Text = MonthsText(months);
+  txttype.Text = ContractWord(written);
+}
+
+std::vector<ui::Box> TermLabels::Fields() {
+  return {ui::Field("Wage", txtwage), ui::Field("Length", txtlength), ui::Field("Type", txttype)};
+}
+
 TalkScreen::TalkScreen(Game& game, std::string name, int uid, Counterpart with)
-    : Screen(game.Desk(), std::move(name), with.Name, ui::Role::Dialog),
-      game_(game),
+    : GameScreen(game, std::move(name), with.Name, {.Is = ui::Role::Dialog}),
       uid_(uid),
       with_(std::move(with)) {}
 
@@ -75,6 +87,15 @@ bool TalkScreen::GoesOn() {
   Close();
   desk().Say(kTalksTitle, why);
   return false;
+}
+
+void TalkScreen::ShowFacts(const std::string& facts) {
+  lblfacts.Text = closed_.empty() ? facts : closed_;
+}
+
+void TalkScreen::Agree(std::string_view name, bool written) {
+  SayAll({AcceptedRemark(name, written)});
+  Close();
 }
 
 void TalkScreen::SayAll(const std::vector<Remark>& remarks) {

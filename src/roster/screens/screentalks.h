@@ -7,7 +7,7 @@
 #include "records/worker.h"
 #include "records/world.h"
 #include "roster/talks.h"
-#include "ui/game.h"
+#include "ui/gamescreen.h"
 
 // What the screens of contract talks share.
 
@@ -33,6 +33,15 @@ struct OfferControls {
   void ShowWage() { txtnewwage.Text = WageText(hsnewwage.Value); }
 };
 
+/// What a contract holds or somebody wants of one.
+struct TermLabels {
+  explicit TermLabels(ui::Screen& screen);
+  void Show(int wage, int months, bool written);
+  std::vector<ui::Box> Fields();
+
+  ui::Label txtwage, txtlength, txttype;
+};
+
 /// Who sits at the other side of the table.
 struct Counterpart {
   std::string Name;
@@ -52,7 +61,7 @@ std::string WhyTalksOver(const World& world, const Person* person, const Counter
 }
 
 /// Talks with one person, as long as he is who he was and works where he worked.
-class TalkScreen : public ui::Screen {
+class TalkScreen : public GameScreen {
  public:
   TalkScreen(Game& game, std::string name, int uid, Counterpart with);
   /// Begins the talks and says what closes them at once.
@@ -71,12 +80,16 @@ class TalkScreen : public ui::Screen {
   /// Otherwise says why not and closes.
   bool GoesOn();
   void SayAll(const std::vector<Remark>& remarks);
-  World& world() { return game_.World(); }
+  /// The line under the title; what closed the talks goes before it.
+  void ShowFacts(const std::string& facts);
+  /// Says that it is a deal, and closes.
+  void Agree(std::string_view name, bool written);
 
-  Game& game_;
   int uid_;
   Counterpart with_;
   std::string closed_;  // what closed the talks; empty while he listens
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Report txtpage{*this, "txtpage"};
 };
 
 /// Talks with a worker or with a member of staff.
