@@ -100,15 +100,6 @@ TEST(Splits, KeepTheirPeopleUnderAnotherNameAndLoseThemWhenDissolved) {
   EXPECT_EQ(Named(world.Workers(), "Zed").Split.View(), "Red");
 }
 
-TEST(Splits, BeginEmpty) {
-  World world = Divided();
-  Named(world.Workers(), "Bea").Split = "Blue";  // from where she worked before
-  NameSplit(world, 3, "Blue");
-  EXPECT_EQ(PeopleInSplit(world, "Blue"), 0);
-  EXPECT_EQ(PeopleInSplit(world, "Red"), 1);
-  EXPECT_EQ(SplitName(world.Player(), 3), "Blue");
-}
-
 TEST(Splits, HaveNamesOfTheirOwn) {
   const World world = Divided();
   const std::string taken = "There is a split called Red already.";

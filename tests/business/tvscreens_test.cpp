@@ -114,18 +114,6 @@ TEST(frmTelevision, NegotiatesWithNobodyWhenTheNetworkIsGone) {
   EXPECT_TRUE(play.Desk.Enabled("cmdname"));
 }
 
-TEST(frmTelevision, RefreshesTheMainScreen) {
-  GameOnWorld play(Air());
-  play.Desk.Open("frmMainScreen");
-  play.Desk.Click("cmdtv");
-  ASSERT_EQ(play.Desk.TopName(), "frmTelevision");
-  int refreshed = 0;
-  play.Play.RefreshMainScreen = [&] { ++refreshed; };
-  play.Desk.Click("cmdback");
-  EXPECT_EQ(refreshed, 1);
-  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
-}
-
 void Remember(World& world, int day, const char* name, int viewers, int attendance,
               const std::function<void(HistoryEntry&)>& change = {}) {
   HistoryEntry entry;

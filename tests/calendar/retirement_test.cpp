@@ -77,13 +77,6 @@ TEST(Birthdays, MoveTheSkillsUnlessAThreeIsDrawn) {
   EXPECT_EQ(Sol(world).Speed, 61);
 }
 
-TEST(Birthdays, DropNothingBetweenTheTwoDraws) {
-  World world = With("CWA", [](Worker& worker) { worker.Brawl = 98; });
-  ScriptDraws(world, {{5, 1}, {5, 5}, {5, 5}, {5, 1}, {5, 1}, {5, 1}, {5, 1}});
-  AgeAndRetire(world);
-  EXPECT_EQ(Sol(world).Brawl, 98) << "103 less 5: held to the range at the end";
-}
-
 TEST(Retirement, IsDrawnByAge) {
   struct Case {
     int AgeBefore;
@@ -185,41 +178,6 @@ TEST(Retirement, WaitsForTheMonthAfterABirthdayEvenIfAnnouncedBefore) {
     EXPECT_TRUE(Sol(world).RetiringSoon);
     EXPECT_EQ(world.News().Count(), drawn == 1 ? 1 : 0);
   }
-}
-
-TEST(Retirement, LeavesAChampionOutsideTheRingHisTitle) {
-  World world = SmallWorld()
-                    .Promotion("CWA")
-                    .Worker("Sol Varga",
-                            [](Worker& worker) {
-                              worker.BirthMonth = kFebruary;
-                              worker.Age = 50;
-                            })
-                    .Title("CWA Crown", "Sol Varga", {}, [](Title& title) { title.Image = 60; })
-                    .Game("CWA");
-  ScriptDraws(world, Then({kSkillsStay}, {{3, 2}}));
-  AgeAndRetire(world);
-  EXPECT_EQ(Sol(world).Position, kNonWrestler);
-  EXPECT_EQ(world.Titles()[1].Holder, Sol(world).Uid);
-  EXPECT_EQ(world.Titles()[1].Image, 60);
-}
-
-TEST(Retirement, TellsOfNonWrestlersOnTheShortlistAndFreesTheirClients) {
-  World world = SmallWorld()
-                    .Promotion("CWA")
-                    .Promotion("NEW")
-                    .Worker("Sol Varga", kManager, 30,
-                            [](Worker& worker) {
-                              worker.BirthMonth = kFebruary;
-                              worker.Age = 50;
-                            })
-                    .Worker("Bram Okafor", [](Worker& worker) { worker.Manager = 1; })
-                    .Game("CWA");
-  AddToShortlist(world, 1);
-  ScriptDraws(world, Then({kSkillsStay}, {{3, 2}}));
-  AgeAndRetire(world);
-  EXPECT_EQ(NewsOf(world), "News Desk: Sol Varga has decided to become a 'non wrestler'!\n");
-  EXPECT_EQ(Named(world.Workers(), "Bram Okafor").Manager, 0);
 }
 
 TEST(Retirement, IsToldByTheOptionTheShortlistAndOnesOwn) {
@@ -336,25 +294,6 @@ TEST(Retirement, GivesARookieAtLeastThirtyPotentialAndNoFloorBelowNothing) {
     AgeAndRetire(world);
     EXPECT_EQ(world.Workers()[1].Potential, c.PotentialAfter);
     EXPECT_EQ(world.Workers()[1].OverFloor, c.FloorAfter);
-  }
-}
-
-TEST(Retirement, BringsADivaForOneWomanInFive) {
-  for (const int drawn : {4, 5}) {
-    World world = With(
-        "",
-        [](Worker& worker) {
-          worker.BirthMonth = 6;
-          worker.RetiringSoon = true;
-          worker.Gender = false;
-        },
-        [](GameInfo& game) { game.MailRetirement = 0; });
-    ScriptDraws(world, Rookie(true, drawn));
-    AgeAndRetire(world);
-    EXPECT_EQ(NewsOf(world), "Retiring!: Sol Varga has retired!\n");
-    EXPECT_FALSE(world.Workers()[1].Gender);
-    EXPECT_EQ(world.Workers()[1].Diva, drawn < 5);
-    EXPECT_EQ(world.Workers()[1].SuperstarLook, drawn < 5);
   }
 }
 
@@ -517,27 +456,6 @@ TEST(StaffRetirement, IsDrawnByAgeAndAtOnce) {
     EXPECT_EQ(there.Age, c.Retires ? 30 : c.AgeBefore + 1);
     EXPECT_EQ(NewsOf(world),
               c.Retires ? "Retirement!: Staff member Pen Ward has retired from CWA!\n" : "");
-  }
-}
-
-TEST(StaffRetirement, IsToldByTheOption) {
-  struct Case {
-    const char* Employer;
-    int Option;
-    const char* News;
-  };
-  constexpr Case kCases[] = {
-      {"", 0, "Retirement!: Staff member Pen Ward has retired!\n"},
-      {"", 1, ""},
-      {"", 2, ""},
-      {"NEW", 0, "Retirement!: Staff member Pen Ward has retired from NEW!\n"},
-      {"NEW", 1, ""},
-      {"NEW", 2, ""}};
-  for (const Case& c : kCases) {
-    World world = WithStaff(c.Employer, kMedical, 80, c.Option);
-    ScriptDraws(world, Newcomer(kMedical));
-    AgeAndRetire(world);
-    EXPECT_EQ(NewsOf(world), c.News) << c.Employer << c.Option;
   }
 }
 

@@ -215,22 +215,5 @@ TEST(DailyUpkeep, MovesTheMoodOfThoseKeptAway) {
   }
 }
 
-TEST(DailyUpkeep, CheersTheStaffOfOthers) {
-  World world = SmallWorld()
-                    .Promotion("CWA")
-                    .Staff("Own Medic", kMedical)
-                    .Promotion("NEW")
-                    .Staff("Rival Medic", kMedical)
-                    .Staff("Content", kMedical, 50, [](Staff& staff) { staff.Morale = 100; })
-                    .OnTheMarket()
-                    .Staff("Free Medic", kMedical)
-                    .Game("CWA");
-  DailyWorkerUpkeep(world);
-  EXPECT_EQ(Named(world.AllStaff(), "Own Medic").Morale, 80);
-  EXPECT_EQ(Named(world.AllStaff(), "Rival Medic").Morale, 81);
-  EXPECT_EQ(Named(world.AllStaff(), "Content").Morale, 100);
-  EXPECT_EQ(Named(world.AllStaff(), "Free Medic").Morale, 80);
-}
-
 }  // namespace
 }  // namespace grapplemont::test

@@ -271,20 +271,5 @@ TEST(TheEnd, ComesUponThePlayerByEachOfItsRoads) {
     }
 }
 
-TEST(TheEnd, IsToldAgainWheneverTheSlotIsLoaded) {
-  GameOnWorld play(TwoPromotions());
-  play.World().Game().EndCode = kEndBoard;
-  play.Desk.Open("frmMainScreen");
-  for (int visit = 0; visit < 2; ++visit) {
-    ASSERT_EQ(play.Desk.TopName(), "frmTheEnd");
-    play.Desk.Click("cmdmenu");
-    play.Desk.Open("frmLoadGame");
-    play.Desk.Click("cmdload1");
-  }
-  ASSERT_EQ(play.Desk.TopName(), "frmTheEnd");
-  play.Desk.Click("cmdlook");
-  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
-}
-
 }  // namespace
 }  // namespace grapplemont::test

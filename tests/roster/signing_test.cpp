@@ -313,18 +313,6 @@ TEST(WhyNoSigning, HoldsOnlyTheBoundToTheirEmployer) {
   EXPECT_EQ(WhyNoSigning(world, Named(world.Workers(), "Free Fred")), "");
 }
 
-TEST(MoreMoneyText, KnowsBothSexes) {
-  Worker worker;
-  worker.Gender = true;
-  EXPECT_EQ(MoreMoneyText(worker),
-            "He agrees to negotiate, but will need a higher wage to justify leaving his current "
-            "employer.");
-  worker.Gender = false;
-  EXPECT_EQ(MoreMoneyText(worker),
-            "She agrees to negotiate, but will need a higher wage to justify leaving her current "
-            "employer.");
-}
-
 SigningOffer Called(const char* name, const char* shortName) {
   SigningOffer offer;
   offer.Name = name;

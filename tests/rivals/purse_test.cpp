@@ -4,9 +4,13 @@
 
 #include <cstring>
 
+#include "calendar/advanceday.h"
 #include "records/modWresCheck.h"
 #include "records/sweeps.h"
 #include "rivals/faults.h"
+#include "rivals/rivals.h"
+#include "support/newsof.h"
+#include "support/scripteddraws.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {
@@ -234,23 +238,6 @@ TEST(frmTakeover, MakesTheDealAndTheRivalIsGone) {
   EXPECT_EQ(FaultsOf(play.World()), "");
 }
 
-TEST(frmTakeover, IsReachedFromThePageOfThePromotionToo) {
-  GameOnWorld play(ForSale());
-  play.Desk.Open("frmMainScreen");
-  play.Play.OpenPromotion(2);
-  ASSERT_EQ(play.Desk.TopName(), "frmPromotion");
-  play.Desk.ExpectSay("Accepted!", "XWF owner Sir Sell is willing to sell the company.");
-  play.Desk.Click("cmdbuyout");
-  ASSERT_EQ(play.Desk.TopName(), "frmTakeover");
-  play.World().Player().Money = 700000;
-  play.Desk.ExpectSay("Done!", "Takeover completed!");
-  play.Desk.Click("cmddoit");
-  ASSERT_EQ(play.Desk.TopName(), "frmPromotion");
-  EXPECT_EQ(play.Desk.Text("lblfacts"), "It has closed its doors.");
-  EXPECT_FALSE(play.Desk.Enabled("cmdbuyout"));
-  EXPECT_EQ(Named(play.World().Workers(), "Champ").Employer, play.World().PlayerUid());
-}
-
 TEST(frmTakeover, IsNotReachedWhereNobodySells) {
   for (const bool owned : {true, false}) {
     GameOnWorld play(ForSale(-624999));
@@ -263,15 +250,164 @@ TEST(frmTakeover, IsNotReachedWhereNobodySells) {
   }
 }
 
-TEST(frmTakeover, CanBeLeft) {
-  GameOnWorld play(ForSale());
-  Named(play.World().AllStaff(), "Sir Sell").Employer = 0;
-  ChooseRival(play);
-  play.Desk.ExpectSay("Accepted!", "The XWF board are willing to sell the company.");
-  play.Desk.Click("cmdbuyout");
-  play.Desk.Click("cmdcancel");
-  EXPECT_EQ(play.Desk.TopName(), "frmOtherFed");
-  EXPECT_EQ(play.World().Promotions().Count(), 2);
+TEST(RivalSponsors, FillThePlaceOfASponsorWhoIsGone) {
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Promotion("XWF", kCult)
+                    .OnTheMarket()
+                    .Sponsor("Gulp")
+                    .Game("CWA");
+  world.Promotions()[2].Sponsor[0] = 99;
+  ScriptDraws(world, {{18, 1}});
+  RivalSponsorSigning(world);
+  EXPECT_EQ(world.Promotions()[2].Sponsor[0], world.Sponsors()[1].Uid);
+}
+
+TEST(RivalSponsors, SignBelowTheLimitOfSizeAndImage) {
+  const int kLimits[6][2] = {{1001, 1001}, {921, 861}, {821, 701},
+                             {601, 531},   {451, 321}, {251, 101}};
+  for (int size = 1; size <= 6; ++size)
+    for (const int image : {50, 51})
+      for (const int less : {0, 1}) {
+        const int pay = kLimits[size - 1][image == 51 ? 0 : 1] - less;
+        World world = SmallWorld()
+                          .Promotion("CWA")
+                          .Promotion("XWF", size, [&](Promotion& p) { p.Image = image; })
+                          .OnTheMarket()
+                          .Sponsor("Gulp", [&](Sponsor& sponsor) { sponsor.Pay = pay; })
+                          .Game("CWA");
+        world.Game().MailSponsor = 0;
+        ScriptDraws(world, less == 0 ? std::vector<int>{} : std::vector<int>{7});
+        RivalSponsorSigning(world);
+        EXPECT_EQ(world.Promotions()[2].Sponsor[0], less == 0 ? 0 : 1) << size << " " << image;
+        EXPECT_EQ(NewsOf(world), less == 0 ? ""
+                                           : "XWF News: XWF have signed a sponsorship deal with "
+                                             "Gulp!\n");
+        EXPECT_EQ(FaultsOf(world), "");
+      }
+}
+
+TEST(RivalSponsors, BearTheRiskAndFillOnePlaceAfterTheOther) {
+  SmallWorld small;
+  small.Promotion("CWA").Promotion("XWF", kCult, [](Promotion& p) { p.Risk = 50; });
+  small.Sponsor("Second Main");
+  small.OnTheMarket().Sponsor("Prim", [](Sponsor& s) { s.Morality = 51; });
+  for (const char* name : {"One", "Two", "Three", "Four"}) small.Sponsor(name);
+  World world = small.Game("CWA");
+  world.Promotions()[2].Sponsor = {};
+  world.Promotions()[2].Sponsor[1] = world.Sponsors()[1].Uid;
+  ScriptDraws(world, {{18, 1}, {18, 2}, {18, 3}});
+  RivalSponsorSigning(world);
+  const auto uid = [&](const char* name) { return int(Named(world.Sponsors(), name).Uid); };
+  EXPECT_EQ(world.Promotions()[2].Sponsor[0], uid("One"));
+  EXPECT_EQ(world.Promotions()[2].Sponsor[1], uid("Second Main"));
+  EXPECT_EQ(world.Promotions()[2].Sponsor[2], uid("Two"));
+  EXPECT_EQ(world.Promotions()[2].Sponsor[3], uid("Three"));
+  EXPECT_EQ(world.Promotions()[1].Sponsor[0], 0) << "the player signs his own";
+  EXPECT_EQ(Named(world.Sponsors(), "Prim").Promotion, 0);
+}
+
+World Two(int size) {
+  World world = SmallWorld().Promotion("P1", size).Promotion("P2", size).Game("P1");
+  world.Game().MailOtherFed = 0;
+  return world;
+}
+
+/// The first of April comes to a rival with one of everything, and to the player.
+World LastDayOfMarch(const Change<Promotion>& change) {
+  World world = SmallWorld()
+                    .Network("Nine")
+                    .Promotion("CWA", kRegional)
+                    .Owner("Ruth Vane")
+                    .Crew(8)
+                    .Promotion("XWF", kRegional, change)
+                    .Owner("Sir Sink")
+                    .Staff("Coach", kTrainer)
+                    .Crew(8)
+                    .Stable("The Firm", {"XWF Hand 1", "XWF Hand 2"})
+                    .Title("XWF Crown", "XWF Hand 1")
+                    .Show("Slam", "Monday", "Nine")
+                    .Sponsor("Gulp")
+                    .Event(5)
+                    .Game("CWA", Day{std::chrono::year{2026} / 3 / 31});
+  Promotion& rival = world.Promotions()[2];
+  rival.HeadTrainer = Named(world.AllStaff(), "Coach").Uid;
+  Worker& commissioner = Named(world.Workers(), "XWF Hand 3");
+  commissioner.Position = kNonWrestler;
+  rival.Commissioner = commissioner.Uid;
+  rival.Split[0] = "Red";
+  Named(world.Workers(), "XWF Hand 4").Split = "Red";
+  world.Game().MailOtherFed = 0;
+  world.SetChance(std::make_unique<SeededDraws>(7));
+  return world;
+}
+
+TEST(Bankruptcy, WarnsAndClosesAtTheLinesOfEachSize) {
+  const int kLines[6][3] = {{-19999999, -18000000, -20000000}, {-14999999, -13000000, -15000000},
+                            {-4999999, -4400000, -5000000},    {-2499999, -2300000, -2500000},
+                            {-999999, -800000, -1000000},      {-499999, -420000, -500000}};
+  for (int size = 1; size <= 6; ++size) {
+    const auto& [from, below, line] = kLines[size - 1];
+    struct Row {
+      int Money;
+      bool Warned, Closed;
+    };
+    for (const Row& row :
+         {Row{below, false, false}, Row{below - 1, true, false}, Row{from, true, false},
+          Row{from - 1, false, false}, Row{line, false, false}, Row{line - 1, false, true}}) {
+      SCOPED_TRACE(std::to_string(size) + " with " + std::to_string(row.Money));
+      World world = Two(size);
+      world.Promotions()[2].Money = row.Money;
+      BankruptcyCheck(world);
+      EXPECT_EQ(world.Promotions()[2].Name == kToBeDeleted, row.Closed);
+      EXPECT_EQ(NewsOf(world), row.Warned   ? "P2 News: P2 Wrestling have issued a bankruptcy "
+                                              "warning!\n"
+                               : row.Closed ? "P2 News: P2 Wrestling have gone bankrupt!\n"
+                                            : "");
+      EXPECT_EQ(world.Game().EndCode, 0);
+
+      World own = Two(size);
+      own.Promotions()[1].Money = row.Money;
+      BankruptcyCheck(own);
+      EXPECT_EQ(own.Game().EndCode, row.Closed ? 2 : 0);
+      EXPECT_EQ(NewsOf(own), row.Warned ? "Finance Dept.: The bank are warning that we face "
+                                          "bankruptcy if our finances fall much lower!\n"
+                                        : "");
+    }
+  }
+}
+
+TEST(Bankruptcy, IsTheEndOfEverythingThatARivalHad) {
+  struct Row {
+    Change<Promotion> Falls;
+    const char* Mail;
+  };
+  const Row kRows[] = {
+      {[](Promotion& p) { p.Money = -4000000; }, "XWF News: XWF Wrestling have gone bankrupt!\n"},
+      {[](Promotion& p) {
+         p.Money = 0;
+         p.LoanAmount = 50000000;
+         p.LoanMonths = 12;
+         p.LoanMissed = 2;
+       },
+       "XWF News: XWF have gone out of business!\n"}};
+  for (const Row& row : kRows) {
+    World world = LastDayOfMarch(row.Falls);
+    ASSERT_EQ(FaultsOf(world), "");
+    AdvanceDay(world, false);
+    EXPECT_NE(NewsOf(world).find(row.Mail), std::string::npos) << NewsOf(world);
+    EXPECT_EQ(FaultsOf(world), "");
+    EXPECT_EQ(world.FindPromotion(2), nullptr);
+    for (const Worker& worker : world.Workers()) {
+      EXPECT_NE(worker.Employer, 2);
+      EXPECT_EQ(worker.Split.Str(), "None") << worker.Name.Str();
+    }
+    for (const Staff& staff : world.AllStaff()) EXPECT_NE(staff.Employer, 2);
+    EXPECT_EQ(Named(world.Titles(), "XWF Crown").Owner, kNoEnd);
+    EXPECT_EQ(Named(world.Titles(), "XWF Crown").Holder, 0);
+    EXPECT_EQ(world.Shows().Count(), 0);
+    EXPECT_EQ(Named(world.Sponsors(), "Gulp").Promotion, 0);
+  }
 }
 
 }  // namespace
