@@ -10,11 +10,11 @@
 namespace grapplemont::test {
 namespace {
 
-Change<Sponsor> With(int morality, int pay, int months = -1) {
+Change<Sponsor> With(int morality, int pay, int months = 12) {
   return [=](Sponsor& sponsor) {
     sponsor.Morality = morality;
     sponsor.Pay = pay;
-    if (months >= 0) sponsor.ContractMonths = months;
+    if (sponsor.Promotion != 0) sponsor.ContractMonths = months;
   };
 }
 

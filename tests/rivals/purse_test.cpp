@@ -9,9 +9,9 @@
 #include "records/sweeps.h"
 #include "rivals/faults.h"
 #include "rivals/rivals.h"
+#include "support/gameonworld.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
-#include "support/gameonworld.h"
 
 namespace grapplemont::test {
 namespace {
@@ -248,63 +248,6 @@ TEST(frmTakeover, IsNotReachedWhereNobodySells) {
     play.Desk.Click("cmdbuyout");
     EXPECT_EQ(play.Desk.TopName(), "frmOtherFed");
   }
-}
-
-TEST(RivalSponsors, FillThePlaceOfASponsorWhoIsGone) {
-  World world = SmallWorld()
-                    .Promotion("CWA")
-                    .Promotion("XWF", kCult)
-                    .OnTheMarket()
-                    .Sponsor("Gulp")
-                    .Game("CWA");
-  world.Promotions()[2].Sponsor[0] = 99;
-  ScriptDraws(world, {{18, 1}});
-  RivalSponsorSigning(world);
-  EXPECT_EQ(world.Promotions()[2].Sponsor[0], world.Sponsors()[1].Uid);
-}
-
-TEST(RivalSponsors, SignBelowTheLimitOfSizeAndImage) {
-  const int kLimits[6][2] = {{1001, 1001}, {921, 861}, {821, 701},
-                             {601, 531},   {451, 321}, {251, 101}};
-  for (int size = 1; size <= 6; ++size)
-    for (const int image : {50, 51})
-      for (const int less : {0, 1}) {
-        const int pay = kLimits[size - 1][image == 51 ? 0 : 1] - less;
-        World world = SmallWorld()
-                          .Promotion("CWA")
-                          .Promotion("XWF", size, [&](Promotion& p) { p.Image = image; })
-                          .OnTheMarket()
-                          .Sponsor("Gulp", [&](Sponsor& sponsor) { sponsor.Pay = pay; })
-                          .Game("CWA");
-        world.Game().MailSponsor = 0;
-        ScriptDraws(world, less == 0 ? std::vector<int>{} : std::vector<int>{7});
-        RivalSponsorSigning(world);
-        EXPECT_EQ(world.Promotions()[2].Sponsor[0], less == 0 ? 0 : 1) << size << " " << image;
-        EXPECT_EQ(NewsOf(world), less == 0 ? ""
-                                           : "XWF News: XWF have signed a sponsorship deal with "
-                                             "Gulp!\n");
-        EXPECT_EQ(FaultsOf(world), "");
-      }
-}
-
-TEST(RivalSponsors, BearTheRiskAndFillOnePlaceAfterTheOther) {
-  SmallWorld small;
-  small.Promotion("CWA").Promotion("XWF", kCult, [](Promotion& p) { p.Risk = 50; });
-  small.Sponsor("Second Main");
-  small.OnTheMarket().Sponsor("Prim", [](Sponsor& s) { s.Morality = 51; });
-  for (const char* name : {"One", "Two", "Three", "Four"}) small.Sponsor(name);
-  World world = small.Game("CWA");
-  world.Promotions()[2].Sponsor = {};
-  world.Promotions()[2].Sponsor[1] = world.Sponsors()[1].Uid;
-  ScriptDraws(world, {{18, 1}, {18, 2}, {18, 3}});
-  RivalSponsorSigning(world);
-  const auto uid = [&](const char* name) { return int(Named(world.Sponsors(), name).Uid); };
-  EXPECT_EQ(world.Promotions()[2].Sponsor[0], uid("One"));
-  EXPECT_EQ(world.Promotions()[2].Sponsor[1], uid("Second Main"));
-  EXPECT_EQ(world.Promotions()[2].Sponsor[2], uid("Two"));
-  EXPECT_EQ(world.Promotions()[2].Sponsor[3], uid("Three"));
-  EXPECT_EQ(world.Promotions()[1].Sponsor[0], 0) << "the player signs his own";
-  EXPECT_EQ(Named(world.Sponsors(), "Prim").Promotion, 0);
 }
 
 World Two(int size) {

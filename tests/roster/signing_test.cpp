@@ -177,30 +177,6 @@ TEST(JudgeSigning, HearsEachObjectionAloneAtItsEdge) {
   }
 }
 
-TEST(JudgeSigning, DropsWhatIsLeftOfAThousandOfThePriceItNames) {
-  struct Case {
-    Twist Wants;
-    int Price;  // of 104: 124.8, 135.2 and 145.6
-  };
-  constexpr Case kCases[] = {{[](Talk& t) { t.Wants.CreativeControl = true; }, 124},
-                             {[](Talk& t) { t.Wants.Position = kManager; }, 124},
-                             {[](Talk& t) {
-                                t.Offer.Position = kNonWrestler;
-                                t.Who.Speed = 61;
-                              },
-                              135},
-                             {[](Talk& t) { t.Wants.Position = kNonWrestler; }, 145}};
-  for (const Case& c : kCases) {
-    Talk talk;
-    talk.Wants.Wage = 104;
-    c.Wants(talk);
-    talk.Offer.Wage = c.Price - 1;
-    EXPECT_NE(talk.Judge(), "") << c.Price;
-    talk.Offer.Wage = c.Price;
-    EXPECT_EQ(talk.Judge(), "") << c.Price;
-  }
-}
-
 TEST(JudgeSigning, GoesDownItsListInOrder) {
   struct Step {
     Twist Change;
