@@ -6,7 +6,6 @@
 #include "bench/worlds.h"
 #include "booking/showstart.h"
 #include "calendar/advanceday.h"
-#include "calendar/daykind.h"
 #include "records/dates.h"
 #include "report/linememory.h"
 #include "support/smallworld.h"

@@ -1,7 +1,7 @@
 #include "show/cardposition.h"
 
 #include "records/modVar.h"
-#include "roster/placement.h"
+#include "roster/postings.h"
 #include "show/legend.h"
 
 namespace grapplemont {

@@ -4,7 +4,7 @@
 #include <array>
 #include <span>
 
-#include "business/economyfactor.h"
+#include "business/finance.h"
 
 namespace grapplemont {
 

@@ -2,15 +2,14 @@
 
 #include <algorithm>
 
-#include "business/monthlymoney.h"
-#include "business/sponsorlimits.h"
+#include "business/finance.h"
 #include "business/sponsors.h"
 #include "calendar/events.h"
 #include "editor/worldcopy.h"
 #include "records/modWresCheck.h"
 #include "rivals/houseshows.h"
-#include "rivals/rivalsteps.h"
-#include "roster/wagebill.h"
+#include "rivals/rivals.h"
+#include "roster/talks.h"
 #include "show/attendance.h"
 #include "show/tvratings.h"
 

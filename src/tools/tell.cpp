@@ -2,7 +2,6 @@
 
 #include "booking/showstart.h"
 #include "calendar/advanceday.h"
-#include "calendar/daykind.h"
 #include "calendar/incidents.h"
 #include "records/charset.h"
 #include "records/dates.h"

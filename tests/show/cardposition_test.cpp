@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "roster/placement.h"
+#include "roster/postings.h"
 #include "stage.h"
 
 namespace grapplemont::test {

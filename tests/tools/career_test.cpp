@@ -9,7 +9,7 @@
 
 #include "booking/auto/autobooker.h"
 #include "booking/sheet.h"
-#include "calendar/daykind.h"
+#include "calendar/advanceday.h"
 #include "calendar/events.h"
 #include "info/results.h"
 #include "records/charset.h"

@@ -6,7 +6,7 @@
 #include <set>
 
 #include "booking/wizard/roster.h"
-#include "business/sponsorlimits.h"
+#include "business/sponsors.h"
 #include "calendar/events.h"
 #include "records/charset.h"
 #include "records/checkworld.h"

@@ -2,7 +2,7 @@
 #include "booking/screens/screensheet.h"
 #include "booking/sheet.h"
 #include "booking/showstart.h"
-#include "business/commentators.h"
+#include "business/tvshows.h"
 #include "records/vocabulary.h"
 #include "show/holdshow.h"
 #include "storylines/screens/screenpeople.h"
