@@ -7,7 +7,7 @@
 #include "booking/showstart.h"
 #include "calendar/advanceday.h"
 #include "records/dates.h"
-#include "report/linememory.h"
+#include "report/report.h"
 #include "support/smallworld.h"
 #include "tools/career.h"
 #include "ui/waiting.h"

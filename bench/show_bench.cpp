@@ -4,7 +4,7 @@
 #include "bench/worlds.h"
 #include "booking/auto/autobooker.h"
 #include "records/segments.h"
-#include "report/linememory.h"
+#include "report/report.h"
 #include "show/holdshow.h"
 
 // A whole Event from its first bell to its close, with prose and without, beside a baseline: the

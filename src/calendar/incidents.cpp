@@ -8,7 +8,7 @@
 #include "rivals/ownership.h"
 #include "roster/leaving.h"
 #include "roster/staff.h"
-#include "show/injuries.h"
+#include "show/aftermatch.h"
 
 namespace grapplemont {
 

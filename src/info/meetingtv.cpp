@@ -6,7 +6,7 @@
 #include "info/meetingfacts.h"
 #include "records/counted.h"
 #include "records/modVar.h"
-#include "show/charges.h"
+#include "show/holdshow.h"
 
 // The meeting on television: deals, ratings, risk, and who sits at the table.
 

@@ -1,6 +1,7 @@
 #include "records/segmentforms.h"
 
 #include <algorithm>
+#include <span>
 
 namespace grapplemont {
 
@@ -40,45 +41,43 @@ constexpr ResultForm kResultForms[] = {
 constexpr auto kSpeaker = Casting::Talkers, kManages = Casting::TalkManagers,
                kTarget = Casting::Targets;
 
-/// Whether an interview's seats hold its speakers before its targets decides how they are counted.
-constexpr InterviewStyleRow Interview(int code, std::string_view says, std::string_view speakers,
-                                      std::string_view targets, std::array<Role, 5> seats) {
-  InterviewStyleRow row{code, says, speakers, targets, seats, 0, 0};
-  for (Role& seat : row.Seats) {
+/// Seats in the order of their places; only targets may be missing.
+constexpr InterviewForm Interview(int style, std::string_view speakers, std::string_view targets,
+                                  std::array<Role, 5> seats) {
+  int place = 0;
+  for (Role& seat : seats) {
     if (seat.Caption.empty()) continue;
-    seat.Place = 1 + row.Speakers + row.Targets;
+    seat.Place = ++place;
     seat.Optional = seat.From == kTarget;
-    ++(seat.Optional ? row.Targets : row.Speakers);
   }
-  return row;
+  return {style, speakers, targets, seats};
 }
 
-template <class Rows>
-auto FindRow(const Rows& rows, int code) -> decltype(&*std::begin(rows)) {
-  const auto found =
-      std::find_if(std::begin(rows), std::end(rows), [&](auto& row) { return row.Code == code; });
-  return found == std::end(rows) ? nullptr : &*found;
+template <class Row>
+const Row* FindRow(std::span<const Row> rows, int Row::*key, int style) {
+  for (const Row& row : rows)
+    if (row.*key == style) return &row;
+  return nullptr;
 }
 
-}  // namespace
-
-constexpr std::array<InterviewStyleRow, 4> kInterviewStyles = {
-    Interview(kSingleTalk, "Single Worker", "frmIV1", "frmIV1opp",
-              {{{"Worker", kSpeaker}, {"Target", kTarget}}}),
-    Interview(kTeamTalk, "Tag Team", "frmIV2", "frmIV2opp",
+constexpr InterviewForm kInterviewForms[] = {
+    Interview(kSingleTalk, "frmIV1", "frmIV1opp", {{{"Worker", kSpeaker}, {"Target", kTarget}}}),
+    Interview(kTeamTalk, "frmIV2", "frmIV2opp",
               {{{"Worker", kSpeaker},
                 {"Partner", kSpeaker},
                 {"First target", kTarget},
                 {"Second target", kTarget}}}),
-    Interview(kManagedTalk, "Single Worker With Manager", "frmIV1m", "frmIV1opp",
+    Interview(kManagedTalk, "frmIV1m", "frmIV1opp",
               {{{"Worker", kSpeaker}, {"Manager", kManages}, {"Target", kTarget}}}),
-    Interview(kManagedTeamTalk, "Tag Team With Manager", "frmIV2m", "frmIV2opp",
+    Interview(kManagedTeamTalk, "frmIV2m", "frmIV2opp",
               {{{"Manager", kManages},
                 {"Worker", kSpeaker},
                 {"Partner", kSpeaker},
                 {"First target", kTarget},
                 {"Second target", kTarget}}}),
 };
+
+}  // namespace
 
 const ResultForm& ResultFormOf(const Segment& match) {
   for (const ResultForm& form : kResultForms)
@@ -88,11 +87,19 @@ const ResultForm& ResultFormOf(const Segment& match) {
 }
 
 const MatchStyleRow* FindMatchStyle(int style) {
-  return FindRow(kMatchStyles, style);
+  return FindRow<MatchStyleRow>(kMatchStyles, &MatchStyleRow::Code, style);
 }
 
 const InterviewStyleRow* FindInterviewStyle(int style) {
-  return FindRow(kInterviewStyles, style);
+  return FindRow<InterviewStyleRow>(kInterviewStyles, &InterviewStyleRow::Code, style);
+}
+
+const MatchForm* FindMatchForm(int style) {
+  return FindRow<MatchForm>(kMatchForms, &MatchForm::Style, style);
+}
+
+const InterviewForm* FindInterviewForm(int style) {
+  return FindRow<InterviewForm>(kInterviewForms, &InterviewForm::Style, style);
 }
 
 int UidAt(const Segment& segment, int place) {
@@ -101,7 +108,7 @@ int UidAt(const Segment& segment, int place) {
 
 std::vector<Role> SeatsOf(const Segment& segment) {
   const Angle* angle = segment.Kind == kAngle ? FindAngle(segment.Style) : nullptr;
-  const auto* interview = segment.Kind == kInterview ? FindInterviewStyle(segment.Style) : nullptr;
+  const auto* interview = segment.Kind == kInterview ? FindInterviewForm(segment.Style) : nullptr;
   std::vector<Role> seats;
   if (angle) seats.assign(angle->Roles.begin(), angle->Roles.end());
   if (interview) seats.assign(interview->Seats.begin(), interview->Seats.end());

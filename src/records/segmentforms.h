@@ -7,37 +7,32 @@
 #include "records/angles.h"
 #include "records/segmentwords.h"
 #include "records/world.h"
+#include "words/segments.h"
 
 // How a Segment is put together: what the wizard asks for it, and where everybody stands in the
 // record.
 
 namespace grapplemont {
 
-/// A match style: its workers stand side by side, each side's members next to one another.
-struct MatchStyleRow {
-  int Code;
-  std::string_view Says;
-  int Sides;
-  int PerSide;
-  // The wizard's screens; empty where the style has no such step.
+/// What the wizard asks for a match of a style: its screens, empty where there is no such step.
+struct MatchForm {
+  int Style;
   std::string_view People;
   std::string_view Finish = {};
   std::string_view Aftermath = {};
   std::string_view Purpose = {};
   int RunIns = 0;  // how many may run in at the finish, and as many after it
 };
-inline constexpr MatchStyleRow kMatchStyles[] = {
-    {kSingles, "1 vs 1", 2, 1, "frmBook1vs1", "frmBook1vs1Finish", "frmBookAfter", "frmBookPurpose",
-     1},
-    {kTag, "2 vs 2", 2, 2, "frmBook2vs2", "frmBook2vs2Finish", "frmBook2vs2After",
-     "frmBook2vs2Purpose", 2},
-    {kThreeWay, "1 vs 1 vs 1", 3, 1, "frmBook3x1"},
-    {kThreeTeams, "2 vs 2 vs 2", 3, 2, "frmBook3x2"},
-    {kFourWay, "1 vs 1 vs 1 vs 1", 4, 1, "frmBook4x1"},
-    {kFourTeams, "2 vs 2 vs 2 vs 2", 4, 2, "frmBook4x2"},
-    {kThreeOnThree, "3 vs 3", 2, 3, "frmBook3vs3", "frmBook3vs3Finish"},
-    {kFourOnFour, "4 vs 4", 2, 4, "frmBook4vs4", "frmBook4vs4Finish"},
-    {kSpecial, "Special", 30, 1, "frmBookSpecial"},  // 30, 20 or 10 by type
+inline constexpr MatchForm kMatchForms[] = {
+    {kSingles, "frmBook1vs1", "frmBook1vs1Finish", "frmBookAfter", "frmBookPurpose", 1},
+    {kTag, "frmBook2vs2", "frmBook2vs2Finish", "frmBook2vs2After", "frmBook2vs2Purpose", 2},
+    {kThreeWay, "frmBook3x1"},
+    {kThreeTeams, "frmBook3x2"},
+    {kFourWay, "frmBook4x1"},
+    {kFourTeams, "frmBook4x2"},
+    {kThreeOnThree, "frmBook3vs3", "frmBook3vs3Finish"},
+    {kFourOnFour, "frmBook4vs4", "frmBook4vs4Finish"},
+    {kSpecial, "frmBookSpecial"},
 };
 
 /// What a result step asks: the winner, and who loses in which order.
@@ -54,20 +49,19 @@ struct ResultForm {
 /// Of the match's style and type; the first of the table where there is none.
 const ResultForm& ResultFormOf(const Segment& match);
 
-/// An interview style: its speakers' seats, then its targets'.
-struct InterviewStyleRow {
-  int Code;
-  std::string_view Says;
+/// What the wizard asks for an interview of a style, and its seats: the speakers' before the
+/// targets'.
+struct InterviewForm {
+  int Style;
   std::string_view SpeakersScreen, TargetsScreen;  // of the wizard
-  std::array<Role, 5> Seats;
-  int Speakers;  // the first seats; the manager is one of them
-  int Targets;
+  std::array<Role, 5> Seats;                       // the manager is one of the speakers
 };
-extern const std::array<InterviewStyleRow, 4> kInterviewStyles;
 
 // The tables' rows; nullptr for unknown codes.
 const MatchStyleRow* FindMatchStyle(int style);
 const InterviewStyleRow* FindInterviewStyle(int style);
+const MatchForm* FindMatchForm(int style);
+const InterviewForm* FindInterviewForm(int style);
 
 /// Who stands at a place of Segment.Worker, from 1: a uid, 0 for nobody.
 int UidAt(const Segment& segment, int place);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "words/purposes.h"
+
 namespace grapplemont {
 
 namespace {
@@ -42,11 +44,27 @@ bool IsForASide(const Segment& segment) {
   return segment.Finish == kInterference || IsAgainstWinner(segment);
 }
 
+template <std::size_t N>
+PurposeRow FindPurpose(const PurposeRow (&rows)[N], int code) {
+  for (const PurposeRow& row : rows)
+    if (row.Code == code) return row;
+  return {};
+}
+
 std::vector<int> FirstOf(const std::vector<int>& team) {
   return team.empty() ? team : std::vector<int>{team.front()};
 }
 
 }  // namespace
+
+PurposeRow PurposeOf(const Segment& segment) {
+  if (segment.Style == kSingles) return FindPurpose(kSinglesAims, segment.Purpose);
+  return segment.Style == kTag ? FindPurpose(kTagAims, segment.Purpose) : PurposeRow();
+}
+
+bool IsRunIn(Part part) {
+  return part >= Part::Other1;
+}
 
 int FallenOf(const Segment& segment) {
   const std::vector<int> losers = LosersOf(segment);

@@ -32,6 +32,29 @@ enum class Part {
   Others34
 };
 
+/// What a match was booked for.
+enum class Aim {
+  Nothing,
+  GoodMatch,
+  PutsOver,
+  BothOver,
+  EyeCandy,
+  Debuts,
+  Turns,
+  EndsFeud,
+  GoesOn
+};
+/// A purpose, and whom it is about.
+struct PurposeRow {
+  int Style = 0, Code = 0;
+  Aim Does = Aim::Nothing;
+  Part Whom = Part::Nobody;
+};
+/// Of a match; a row of nothing for what has no purpose.
+PurposeRow PurposeOf(const Segment& segment);
+/// It is about somebody who only comes in later.
+bool IsRunIn(Part part);
+
 /// Who takes the fall: the Loser, or the first of the losers where none is named; 0 in a draw.
 int FallenOf(const Segment& segment);
 /// Their uids, without the empty places. A team's members stand in the order of their places.

@@ -131,7 +131,7 @@ std::string DescribeAngle(const World& world, const Segment& segment) {
   text += NameText(world, UidAt(segment, 1));
   for (int place = 2; place <= kAnglePlaces; ++place)
     if (const int uid = UidAt(segment, place)) text += ", " + NameText(world, uid);
-  if (!(segment.Text == "None")) text += ", " + segment.Text.Str();
+  if (segment.Text != "None") text += ", " + segment.Text.Str();
   return text;
 }
 

@@ -5,6 +5,7 @@
 
 #include "records/segmentforms.h"
 #include "records/world.h"
+#include "words/segments.h"
 
 // What a Segment's numbers mean: who stands where, who won, and how its codes read.
 

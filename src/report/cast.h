@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "records/world.h"
@@ -90,5 +91,10 @@ std::string TitleInProse(std::string_view name, bool singles);
 std::string_view WordOfThing(std::string_view name, int row);
 /// Several spaces in a row as one.
 std::string OneSpaced(std::string_view text);
+
+/// Appends a line with its slots filled. A sentence that names a part nobody plays, or a thing that
+/// is not there, is left out. A word or name that begins a sentence gets a capital. False when
+/// nothing was said.
+bool Fill(Cast& cast, std::string_view line, std::string& out);
 
 }  // namespace grapplemont

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "records/segmentwords.h"
+#include "words/segments.h"
 
 // The families of lines. A bout script, a finish, an aftermath calls a family; which words come out
 // is the voice's affair. The lines stand in words/, a folder a voice; the build refuses a voice

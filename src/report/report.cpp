@@ -1,7 +1,12 @@
 #include "report/report.h"
 
+#include <algorithm>
+#include <array>
+
+#include "records/angles.h"
+#include "records/modWresCheck.h"
 #include "records/segments.h"
-#include "report/told.h"
+#include "report/stages.h"
 
 namespace grapplemont {
 
@@ -57,6 +62,148 @@ std::string WriteReport(World& world, const Segment& segment, const Scene& scene
       break;
   }
   return teller.Text();
+}
+
+int LineMemory::Pick(Draws& draws, const void* band, int lines) {
+  std::vector<bool>& used = used_[band];
+  used.resize(static_cast<std::size_t>(lines));
+  if (std::find(used.begin(), used.end(), false) == used.end())
+    used.assign(static_cast<std::size_t>(lines), false);
+  int picked = draws.Draw(lines) - 1;
+  if (used[static_cast<std::size_t>(picked)]) {
+    std::vector<int> unused;
+    for (int line = 0; line < lines; ++line)
+      if (!used[static_cast<std::size_t>(line)]) unused.push_back(line);
+    picked = unused[static_cast<std::size_t>(draws.Draw(static_cast<int>(unused.size())) - 1)];
+  }
+  used[static_cast<std::size_t>(picked)] = true;
+  return picked;
+}
+
+bool LineMemory::Used(const void* band, int line) const {
+  const auto found = used_.find(band);
+  return found != used_.end() && found->second[static_cast<std::size_t>(line)];
+}
+
+namespace {
+
+bool HasTurnPending(const Teller& teller) {
+  const auto& turners = teller.scene.Turners;
+  return std::any_of(turners.begin(), turners.end(), [&](int uid) {
+    const Worker* worker = teller.world.FindWorker(uid);
+    return worker && worker->TurnPending;
+  });
+}
+
+}  // namespace
+
+void TellInterview(Teller& teller) {
+  const Segment& segment = teller.segment;
+  if (!FindInterviewStyle(segment.Style)) return;
+  const int purpose = segment.Purpose >= kVerbalAttack && segment.Purpose <= kTalkNone
+                          ? int(segment.Purpose)
+                          : int(kTalkNone);
+  teller.Say(Family::TalkOpening, segment.Style);
+  teller.Say(Family::Speech, TalkBand(segment.Style, purpose));
+  if (purpose == kTalkTurn) {
+    teller.cast.Set('t', teller.world, teller.scene.Turners);
+    TellTurn(teller);
+  }
+  teller.Say(Family::TalkClosing, purpose);
+}
+
+void TellAngle(Teller& teller) {
+  if (HasTurnPending(teller)) teller.cast.Set(Item::Turn, "turn");
+  teller.Say(Family::AngleText, teller.segment.Style);
+}
+
+namespace {
+
+std::string MatchNames(const World& world, const Segment& segment) {
+  if (segment.Style == kSpecial) return std::to_string(EntrantsOf(segment)) + " Workers Entered";
+  std::string names;
+  for (const auto& side : SidesOf(segment))
+    names += (names.empty() ? "" : " vs ") + SideText(world, side);
+  return names;
+}
+
+std::string BeltLine(const World& world, const Segment& segment) {
+  if (segment.TitleName == "None" || segment.TitleName.View().empty()) return {};
+  const Title* title = FindTitle(world, segment.TitleName);
+  const bool forTeams = title && !title->Singles;
+  return "(For The " + segment.TitleName.Str() + (forTeams ? " Titles)" : " Title)");
+}
+
+std::string WinnerLine(const World& world, const Segment& segment) {
+  if (IsDraw(segment)) return "Winner : Draw";
+  return "Winner : " + (segment.Style == kSpecial ? WorkerName(world, segment.Winner)
+                                                  : SideText(world, WinnersOf(segment)));
+}
+
+std::string InterviewNames(const World& world, const Segment& segment) {
+  const auto name = [&](int place) {
+    return WorkerName(world, segment.Worker[static_cast<std::size_t>(place - 1)]);
+  };
+  const auto pair = [&](int place) {
+    return PairName(world, segment.Worker[static_cast<std::size_t>(place - 1)],
+                    segment.Worker[static_cast<std::size_t>(place)]);
+  };
+  switch (segment.Style) {
+    case kSingleTalk:
+      return name(1) + " is backstage. ";
+    case kTeamTalk:
+      return pair(1) + " are backstage. ";
+    case kManagedTalk:
+      return name(1) + " is backstage with " + name(2) + ". ";
+    case kManagedTeamTalk:
+      return name(1) + " is backstage with " + pair(2) + ". ";
+    default:
+      return {};
+  }
+}
+
+std::string AngleNames(const World& world, const Segment& segment) {
+  std::string names;
+  for (const int uid : PeopleOf(segment))
+    if (const std::string name = WorkerName(world, uid); !name.empty())
+      names += (names.empty() ? "" : ", ") + name;
+  const Angle* angle = FindAngle(segment.Style);
+  if (angle && HasStableRole(*angle) && !(segment.Text == "None"))
+    names += (names.empty() ? "" : ", ") + segment.Text.Str();
+  return names;
+}
+
+SegmentDetails MatchDetails(const World& world, const Segment& segment) {
+  const MatchStyleRow* style = FindMatchStyle(segment.Style);
+  const std::string belt = BeltLine(world, segment);
+  return {"Match Details",
+          std::string(style ? style->Says : ""),
+          std::string(MatchTypeText(segment.Style, segment.MatchType)) +
+              (belt.empty() ? "" : " Title Match! "),
+          MatchNames(world, segment),
+          belt,
+          WinnerLine(world, segment)};
+}
+
+}  // namespace
+
+SegmentDetails DetailsOf(const World& world, const Segment& segment) {
+  SegmentDetails details;
+  if (segment.Kind == kMatch) return MatchDetails(world, segment);
+  if (segment.Kind == kInterview) {
+    const InterviewStyleRow* style = FindInterviewStyle(segment.Style);
+    details.Heading = "Interview Details";
+    details.Style = style ? style->Says : "";
+    details.Type = Says(kInterviewPurposes, segment.Purpose);
+    details.Names = InterviewNames(world, segment);
+  }
+  if (segment.Kind == kAngle) {
+    const Angle* angle = FindAngle(segment.Style);
+    details.Heading = "Angle Details";
+    details.Style = angle ? angle->Says : "";
+    details.Names = AngleNames(world, segment);
+  }
+  return details;
 }
 
 }  // namespace grapplemont

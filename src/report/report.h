@@ -1,12 +1,13 @@
 #pragma once
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
+#include "records/draws.h"
 #include "records/segments.h"
 #include "records/world.h"
 #include "report/family.h"
-#include "report/linememory.h"
 
 // A Segment told in prose, in the voice that the player has chosen.
 
@@ -21,6 +22,21 @@ struct Scene {
   int Champion = 0;               // who held the Title at stake when the bell rang; 0 for nobody
   int CoChampion = 0;             // the other half of a tag champion
   std::vector<int> Turners = {};  // uids of all whom the booking makes turn
+};
+
+/// Which lines a show has used, so that none comes again before the others of its band have.
+class LineMemory {
+ public:
+  /// A line of the band, from 0: the one that a draw of `lines` names, or, if the show has used it
+  /// already, one that a second draw picks among those it has not. Once all have been used, the
+  /// band begins anew. `band` tells the bands apart. Requires at least one line.
+  int Pick(Draws& draws, const void* band, int lines);
+  /// Whether it was picked since the band last began. What a text says cannot tell: two bands may
+  /// use the same words.
+  bool Used(const void* band, int line) const;
+
+ private:
+  std::unordered_map<const void*, std::vector<bool>> used_;
 };
 
 /// The prose of a match, an interview or an angle, in paragraphs. Draws from World::Prose alone, so

@@ -1,6 +1,7 @@
 #include "report/ring.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "records/segments.h"
 
@@ -183,6 +184,138 @@ void Ring::DoubleTeam() {
 Person* OneOf(Teller& teller, const std::vector<Person*>& people) {
   if (people.empty()) return nullptr;
   return people[static_cast<std::size_t>(teller.Draw(static_cast<int>(people.size())) - 1)];
+}
+
+namespace {
+
+constexpr Script kSinglesRows[] = {
+    "BC2#AB2DNB#C2DNBA#BD",
+    "AABB#BC2#C2DN#A#B",
+    "A#ARDP#BC2DN#CN#",
+    "AB2#BAB#C",
+    "AAA2B2#A2C#D",
+    "CDDNB2#BC#C",
+    "AB2#B2C2#CN#RDPCN#",
+    "B2C2#BCN#C2#D",
+    "AC2#ABCNC#CC#",
+    "A#CD",
+    "ABCD",
+    "C",
+};
+static_assert(std::size(kSinglesRows) == kShapes * kVariants);
+
+// No counts in these: the stipulation decides.
+constexpr Script kGenericRows[] = {"AB#AS#BCS#DS", "BS#AC#SB#CD", "ASA#BSC#BDS", "A#BS#AS#CDS"};
+constexpr Script kHardcoreRows[] = {"WA#WB2#WC#WND", "AW#E2WS#CWN#KD", "SW#WS#B2#WCN#D"};
+constexpr Script kCageRows[] = {"AB#CS#B2S#DS", "AS#BCN#SE#CS#D", "BE#S2#CDS#BS"};
+constexpr Script kTexasRows[] = {"AB2S#C2S#DS", "BES#BC2S#W2S", "A#B2S#EC2S#DS"};
+constexpr Script kLastManRows[] = {"ABS#CS#WS#DS", "ES#BWS#CDS", "AC#BS#ES#WDS"};
+constexpr Script kAnywhereRows[] = {"ABS2#SC2#WN#SD", "SW#S2#CSN#BS2D", "AS#WS2#CN#SW"};
+constexpr Script kLadderRows[] = {"ABL#CL#SL#BSLD", "AL#LS#BCL#SD", "BC#LS#LL#SCS"};
+constexpr Script kTablesRows[] = {"AB#SC#BS#DS", "AS#BCS#ES#C", "ES#W#AS#BDS"};
+constexpr Script kInfernoRows[] = {"ABS#CS#SB#DS", "AS#ES#BCS#S", "BS#S#CSE#DS"};
+constexpr Script kIncidentRows[] = {"ASE#SWS#CS#DS", "SS#BCS#WS#S", "ES#SC#SWD#SS"};
+constexpr Script kBarbedRows[] = {"ES#BS2#CSN#WD", "AS#ES#SC2#SD", "BSW#S2#SCN#D"};
+constexpr Script kDeathRows[] = {"WS#WKE2#SCN#SD", "SW#KS2#WSN#CD", "WSE#SW2#K#SDN"};
+constexpr Script kTagRows[] = {"ABTATATXC2TBCTDN#TBC2TX2DN#BTC#TX2#C",
+                               "ABTATATXC2TBCTDN#TBC2TX2DN#BTC#TXD"};
+constexpr Script kTagHardcoreRows[] = {"WAX#WB2#TWCN#XWD", "AW#EWX2#WTC#KN#BD"};
+constexpr Script kTagCageRows[] = {"ABTS#XC2#TSB#XDS", "BXS#TCN#SET#XS#D"};
+constexpr Script kTagLadderRows[] = {"ABXL#TCL#SXL#SLD", "LX#BLS#TXL#CSL"};
+constexpr Script kTagTablesRows[] = {"AXS#TBCS#XES#D", "ES#TXS#BCS#XS"};
+constexpr Script kTriangleRows[] = {"AB2~BC#A2~C#DN~C", "B#CN~A#B2~DN#C"};
+constexpr Script kThreeHardcoreRows[] = {"WA~WB2#W~CN#WD", "EW#W2~KS#WN~C"};
+constexpr Script kThreeCageRows[] = {"AS~BC#S~ES#D", "BES~S#C~DS#S"};
+constexpr Script kTriangleTagRows[] = {"AB2T~BXC2#T~CN#XD", "BTX2~AC#TBN~XDT#C"};
+constexpr Script kThreeLadderRows[] = {"ALX~L#CSL~SXL#SD", "LX~LS#CT~LXS#LS"};
+constexpr Script kTlcRows[] = {"WLX~KS#L~CKW#XLS", "KX~LWS#K~TLS#XKS", "LW#KX~SL~WKS#LS"};
+constexpr Script kFourTlcRows[] = {"LX~KW~SL#XK~LS#TKS~L", "WX~L~KS#XL~WK#LS~XS"};
+constexpr Script kCornersRows[] = {"AB2~C#BN~A#D2~C", "B~AC#2~DN~BC#A~D"};
+constexpr Script kSixRows[] = {"ABTATXC2#TBTCN#BTXDN#ETC", "BTATC2#ETBTX2#CTDN#XC#B"};
+constexpr Script kEightRows[] = {"ATBTATXC2#TATBTCN#EXTDN#TC", "BTX2#ATETCTN#XTB2#CTDN#TXD"};
+
+constexpr Script kFallRows[] = {"AB2#CND", "B#C2#BD", "AC#B2#ED", "#BCN#AC", "BD#A#C"};
+constexpr Script kExchangeRows[] = {"AB#C2D", "B#AN#C", "EC#BD", "A2#B#CD"};
+
+using enum BoutShape;
+constexpr bool kNoPin = false;
+
+constexpr BoutRow kBouts[] = {
+    {kSingles, kPlainSingles, Duel, kSinglesRows},
+    {kSingles, kSubmission, Duel, kGenericRows, kHoldSpot, kNoPin},
+    {kSingles, kIronMan, IronMan, kFallRows, kClockSpot},
+    {kSingles, kHardcore, Duel, kHardcoreRows, kJunkSpot},
+    {kSingles, kCage, Duel, kCageRows, kCageSpot, kNoPin},
+    {kSingles, kTexasDeath, Duel, kTexasRows, kTexasSpot},
+    {kSingles, kLastManStanding, Duel, kLastManRows, kTenCountSpot, kNoPin},
+    {kSingles, kFallsCountAnywhere, Duel, kAnywhereRows, kAnywhereSpot},
+    {kSingles, kLadder, Duel, kLadderRows, kClimbSpot, kNoPin},
+    {kSingles, kTables, Duel, kTablesRows, kTableSetUp, kNoPin, true},
+    {kSingles, kBraAndPanties, Duel, kGenericRows, kClothesSpot, kNoPin},
+    {kSingles, kIQuit, Duel, kGenericRows, kQuitSpot, kNoPin},
+    {kSingles, kFirstBlood, Duel, kGenericRows, kBloodSpot, kNoPin},
+    {kSingles, kInferno, Duel, kInfernoRows, kFireSpot, kNoPin},
+    {kSingles, kHellInACell, Duel, kGenericRows, kCellSpot},
+    {kSingles, kHighIncident, Duel, kIncidentRows, kIncidentSpot, kNoPin},
+    {kSingles, kBarbedWire, Duel, kBarbedRows, kWireSpot},
+    {kSingles, kDeathMatch, Duel, kDeathRows, kDeathSpot},
+    {kSingles, kBuckNaked, Duel, kGenericRows, kNakedSpot, kNoPin},
+    {kTag, kPlainTag, Duel, kTagRows},
+    {kTag, kTagHardcore, Duel, kTagHardcoreRows, kJunkSpot},
+    {kTag, kTagCage, Duel, kTagCageRows, kCageSpot, kNoPin},
+    {kTag, kTagLadder, Duel, kTagLadderRows, kClimbSpot, kNoPin},
+    {kTag, kTagTables, Duel, kTagTablesRows, kTableSetUp, kNoPin, true},
+    {kThreeWay, kElimination, Elimination, kExchangeRows},
+    {kThreeWay, kTriangle, Scramble, kTriangleRows},
+    {kThreeWay, 3, Scramble, kThreeHardcoreRows, kJunkSpot},
+    {kThreeWay, 4, Scramble, kThreeCageRows, kCageSpot, kNoPin},
+    {kThreeTeams, kElimination, Elimination, kExchangeRows},
+    {kThreeTeams, kTriangle, Scramble, kTriangleTagRows},
+    {kThreeTeams, kThreeTeamsLadder, Scramble, kThreeLadderRows, kClimbSpot, kNoPin},
+    {kThreeTeams, kThreeTeamsTlc, Scramble, kTlcRows, kTlcSpot, kNoPin},
+    {kFourWay, kElimination, Elimination, kExchangeRows},
+    {kFourWay, 2, Scramble, kCornersRows},
+    {kFourTeams, kElimination, Elimination, kExchangeRows},
+    {kFourTeams, kFourTeamsTlc, Scramble, kFourTlcRows, kTlcSpot, kNoPin},
+    {kThreeOnThree, 1, Duel, kSixRows},
+    {kFourOnFour, kPlainEightMan, Duel, kEightRows},
+    {kFourOnFour, kSurvivor, Survivor, kExchangeRows},
+    {kSpecial, kRoyalRumble, Rumble, kExchangeRows, kHoldSpot, kNoPin},
+    {kSpecial, kTwentyMan, BattleRoyal, kExchangeRows, kHoldSpot, kNoPin},
+    {kSpecial, kTenMan, BattleRoyal, kExchangeRows, kHoldSpot, kNoPin},
+};
+static_assert(std::size(kBouts) == std::size(kMatchTypes));
+
+constexpr bool KnowAllSteps() {
+  for (const BoutRow& bout : kBouts)
+    for (const Script row : bout.Rows)
+      for (const char step : row)
+        if (kSteps.find(step) == std::string_view::npos) return false;
+  return true;
+}
+static_assert(KnowAllSteps());
+
+}  // namespace
+
+Scripts SinglesScripts() {
+  return kSinglesRows;
+}
+Scripts FallScripts() {
+  return kFallRows;
+}
+Scripts ExchangeScripts() {
+  return kExchangeRows;
+}
+
+std::span<const BoutRow> AllBouts() {
+  return kBouts;
+}
+
+const BoutRow* FindBout(int style, int type) {
+  const auto found = std::find_if(std::begin(kBouts), std::end(kBouts), [&](auto& row) {
+    return row.Style == style && row.Type == type;
+  });
+  return found == std::end(kBouts) ? nullptr : &*found;
 }
 
 }  // namespace grapplemont

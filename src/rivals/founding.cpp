@@ -8,7 +8,7 @@
 #include "records/arithmetic.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "rivals/newpromotionnames.h"
+#include "words/promotions.h"
 #include "rivals/ownership.h"
 #include "rivals/rivals.h"
 #include "rivals/staffmarket.h"
@@ -118,8 +118,8 @@ bool AnyNameLeft(const World& world) {
 
 const NewPromotionName& DrawUnusedName(World& world) {
   const auto draw = [&world]() -> const NewPromotionName& {
-    const int row = world.RandomDraw(static_cast<int>(kNewPromotionNames.size()));
-    return kNewPromotionNames[static_cast<std::size_t>(row - 1)];
+    const int row = world.RandomDraw(static_cast<int>(std::size(kNewPromotionNames)));
+    return kNewPromotionNames[row - 1];
   };
   const NewPromotionName* name = &draw();
   while (!IsUnused(world, *name)) name = &draw();

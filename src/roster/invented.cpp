@@ -4,7 +4,7 @@
 #include <array>
 
 #include "records/modWresCheck.h"
-#include "roster/names.h"
+#include "words/names.h"
 
 namespace grapplemont {
 

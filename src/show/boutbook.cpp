@@ -5,7 +5,7 @@
 #include "records/modWresCheck.h"
 #include "records/rolling.h"
 #include "records/segments.h"
-#include "show/feudslots.h"
+#include "show/showfeuds.h"
 #include "show/titlechange.h"
 #include "storylines/lineages.h"
 

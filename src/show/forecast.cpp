@@ -5,7 +5,8 @@
 #include <set>
 
 #include "records/segments.h"
-#include "show/charges.h"
+#include "show/holdshow.h"
+#include "show/runsegment.h"
 
 namespace grapplemont {
 

@@ -1,13 +1,17 @@
 #include "show/holdshow.h"
 
 #include <algorithm>
+#include <array>
 
+#include "business/tvshows.h"
+#include "records/angles.h"
+#include "records/arithmetic.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
-#include "show/aftershow.h"
+#include "records/segments.h"
 #include "show/boutbook.h"
-#include "show/charges.h"
-#include "show/reportcolumn.h"
+#include "show/recap.h"
+#include "show/runsegment.h"
 
 namespace grapplemont {
 
@@ -155,6 +159,130 @@ void LeaveShow(World& world) {
   world.Session.ShowFlag = Run(world).ShowSegments;
   world.Session.ExtraCost = Run(world).ExtraCost;
   world.ShowRuns().Remove();
+}
+
+namespace {
+
+/// A match, or an angle in which its people are there in person; interviews do not wear anybody
+/// out.
+bool Shows(const Segment& segment) {
+  if (segment.Kind == kMatch) return true;
+  return segment.Kind == kAngle && segment.Style != kWorkerDebutVideo &&
+         segment.Style != kTeamDebutVideo;
+}
+
+int Appearances(const World& world, int uid, int rows) {
+  int count = 0;
+  for (int number = 1; number <= std::min(rows, world.Segments().Count()); ++number)
+    if (const Segment& segment = world.Segments()[number];
+        Shows(segment) && TakesPart(segment, uid))
+      ++count;
+  return count;
+}
+
+void TakeOverexposure(World& world, Worker& worker, int appearances) {
+  if (appearances == 3) worker.Over -= world.RandomDraw(2);
+  if (appearances == 4) worker.Over -= 2 + world.RandomDraw(3);
+  if (appearances >= 5) worker.Over -= 6;
+}
+
+void FeelLeftOut(World& world, Worker& worker) {
+  if (worker.Position < kMidcard && worker.Condition >= 86) worker.Morale -= world.RandomDraw(8);
+}
+
+bool WasAtStake(const World& world, const Title& title) {
+  const auto& segments = world.Segments();
+  const int rows = std::min(RowsOf(true), segments.Count());
+  for (int number = 1; number <= rows; ++number)
+    if (segments[number].Kind == kMatch && segments[number].TitleName == title.Name) return true;
+  return false;
+}
+
+}  // namespace
+
+void AfterShow(World& world, int rows) {
+  for (Worker& worker : world.Workers()) {
+    if (!WorksForPlayer(world, worker) || worker.Position == kDevelopmentDeal ||
+        worker.Position >= 79)
+      continue;
+    const int appearances = Appearances(world, worker.Uid, rows);
+    if (appearances == 0) {
+      FeelLeftOut(world, worker);
+    } else {
+      TakeOverexposure(world, worker, appearances);
+      worker.Debuted = true;
+    }
+  }
+}
+
+void CoolUnusedFeuds(World& world, const ShowRun& run) {
+  for (int slot = 1; slot <= world.Feuds().Count(); ++slot) {
+    if (run.FeudTouched[static_cast<std::size_t>(slot - 1)]) continue;
+    Feud& feud = world.Feuds()[slot];
+    if (world.RandomDraw(3) == 2) feud.Heat -= feud.Heat / 10;
+  }
+}
+
+void FadeUnusedTitles(World& world) {
+  for (Title& title : world.Titles()) {
+    if (title.Owner != world.PlayerUid() || title.Suspended || WasAtStake(world, title)) continue;
+    if (world.RandomDraw(3) == 1) title.Image = title.Image * 9 / 10;
+  }
+}
+
+namespace {
+
+/// So much below what the size asks for, and the sum loses so much; every limit passed charges.
+struct Charge {
+  int Margin;
+  int Amount;
+};
+constexpr std::array<Charge, 4> kAnnouncerCharges = {{{5, 20}, {10, 20}, {20, 20}, {30, 40}}};
+constexpr std::array<Charge, 4> kColourCharges = {{{5, 5}, {10, 10}, {20, 15}, {30, 30}}};
+constexpr std::array<Charge, 5> kProductionCharges = {
+    {{5, 10}, {10, 10}, {20, 10}, {30, 10}, {50, 20}}};
+
+// By size, Global to Backyard.
+constexpr std::array<int, 6> kWantedProduction = {85, 65, 60, 40, 10, 5};
+
+constexpr int kSpeechlessCharge = 100;
+
+int WantedProduction(int size) {
+  return BySize(kWantedProduction, size);
+}
+
+template <std::size_t N>
+int Charged(const std::array<Charge, N>& charges, int have, int want) {
+  int sum = 0;
+  for (const Charge& charge : charges)
+    if (have + charge.Margin < want) sum -= charge.Amount;
+  return sum;
+}
+
+/// An empty chair does not charge the sum: it makes it true or false that it stood at a number.
+int EmptyChair(int sum, int number) {
+  return sum == number ? -1 : 0;
+}
+
+}  // namespace
+
+int WithAnnouncer(const World& world, int announcer, int sum) {
+  const Staff* staff = world.FindStaff(announcer);
+  if (!staff) return EmptyChair(sum, 100);
+  return sum + Charged(kAnnouncerCharges, staff->Talent, WantedTalent(world.Player().Size));
+}
+
+int WithColour(const World& world, int colour, bool isWorker, int sum) {
+  const Worker* worker = isWorker ? world.FindWorker(colour) : nullptr;
+  const Staff* staff = isWorker ? nullptr : world.FindStaff(colour);
+  if (!worker && !staff) return EmptyChair(sum, 40);
+  const int have = worker ? worker->Charisma : staff->Talent;
+  sum += Charged(kColourCharges, have, WantedTalent(world.Player().Size));
+  return worker && !worker->Speaks ? sum - kSpeechlessCharge : sum;
+}
+
+int ProductionCharge(const Promotion& promotion) {
+  return Charged(kProductionCharges, promotion.Production, WantedProduction(promotion.Size));
 }
 
 }  // namespace grapplemont

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "records/world.h"
-#include "show/scoring.h"
+#include "show/runsegment.h"
 
 // A show from its start to its close.
 
@@ -58,5 +58,28 @@ int HoldShow(World& world, bool isEvent, const CommentaryTeam& team, int extraBo
              LineMemory* memory);
 /// The show's rating goes to the day that follows, and its record is gone.
 void LeaveShow(World& world);
+
+// What the close of a show does to who was on it too often, or not at all.
+
+/// Overexposure and rest: Over of who was seen three times and more, Morale of stars who were left
+/// at home, and the debuts. Looks at the first `rows` records of match.dat.
+void AfterShow(World& world, int rows);
+/// An Event's: feuds that it did not use may cool. Draws once for each.
+void CoolUnusedFeuds(World& world, const ShowRun& run);
+/// An Event's: Titles that were not at stake may lose image. Draws once for each.
+void FadeUnusedTitles(World& world);
+
+// What a show's sum of ratings loses by poor commentary and poor production, by the promotion's
+// size.
+
+/// The sum with the primary announcer's charge taken off. With nobody at the table it becomes -1 if
+/// it stood at exactly 100, else 0.
+int WithAnnouncer(const World& world, int announcer, int sum);
+/// The same for the colour commentator, by a worker's charisma or a staff member's talent; with
+/// nobody it becomes -1 if it stood at exactly 40, else 0. A worker who cannot speak costs 100
+/// more.
+int WithColour(const World& world, int colour, bool isWorker, int sum);
+/// What poor production takes off at the close: 0 or below.
+int ProductionCharge(const Promotion& promotion);
 
 }  // namespace grapplemont

@@ -1,12 +1,16 @@
+#include "show/runsegment.h"
+
 #include <span>
 
 #include "report/report.h"
-#include "show/consequences.h"
-#include "show/matchsteps.h"
-#include "show/scoring.h"
-#include "show/talksteps.h"
+#include "show/aftermatch.h"
+#include "show/feudend.h"
+#include "show/matchscore.h"
+#include "show/overchange.h"
+#include "show/showfeuds.h"
+#include "show/talkscore.h"
 #include "show/titlechange.h"
-#include "show/turncalls.h"
+#include "show/turns.h"
 
 namespace grapplemont {
 
@@ -136,6 +140,35 @@ ToldSegment RunSegment(World& world, int number, LineMemory* memory) {
   for (const Step step : StepsOf(segment)) step(telling);
   return {std::move(run.Quality), std::move(run.Crowd),      std::move(run.Overall),
           std::move(run.Notes),   std::move(telling.Report), std::move(telling.Verdict)};
+}
+
+namespace {
+
+void AfterMatchFor(SegmentRun& run, const std::vector<int>& people, bool isWinner) {
+  for (const int uid : people)
+    if (Worker* worker = run.World.FindWorker(uid)) AfterMatch(run, *worker, isWinner);
+}
+
+}  // namespace
+
+void MatchConsequences(SegmentRun& run) {
+  // A battle royal is too big for any one of it to be marked by it.
+  if (run.Segment.Style == kSpecial) return;
+  AfterMatchFor(run, PeopleOf(run.Segment), false);
+  AfterMatchFor(run, WinnersOf(run.Segment), true);
+  ShiftOver(run);
+  TallyResult(run);
+  TallyAttacks(run);
+  EndFeudByMatch(run);
+  DrawInjuries(run);
+}
+
+void GainTeamExperience(SegmentRun& run) {
+  const int style = run.Segment.Style;
+  if (style != kTag && style != kThreeTeams && style != kFourTeams) return;
+  for (Team& team : run.World.Teams())
+    if (team.Worker2 != 0 && PartnerOf(run.Segment, team.Worker1) == team.Worker2)
+      ++team.Experience;
 }
 
 }  // namespace grapplemont

@@ -4,7 +4,7 @@
 
 #include "records/segments.h"
 #include "records/world.h"
-#include "show/score.h"
+#include "show/ratings.h"
 
 namespace grapplemont {
 

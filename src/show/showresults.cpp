@@ -6,7 +6,6 @@
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "show/attendance.h"
-#include "show/tvratings.h"
 
 namespace grapplemont {
 

@@ -9,5 +9,9 @@ Title* TitleAtStake(World& world, const Segment& segment);
 /// The Title gets new holders (`partner` 0 for a singles Title), and the notes tell it: " won " or
 /// another way in which they came by it.
 void PassTitle(SegmentRun& run, Title& title, int holder, int partner, std::string_view how);
+/// The Title at stake goes to its new holders, if the result takes it there.
+void ChangeTitle(SegmentRun& run);
+/// Of a Title at stake, by the final rating.
+void MoveTitleImage(SegmentRun& run);
 
 }  // namespace grapplemont

@@ -1,6 +1,12 @@
 #include "show/turns.h"
 
-#include "show/overreport.h"
+#include <algorithm>
+#include <optional>
+
+#include "records/angles.h"
+#include "records/segmentacts.h"
+#include "show/overchange.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 
@@ -136,6 +142,165 @@ void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
     CompleteTurn(run, turner);
   else
     FailTurn(run, turner, kFailedTurns[static_cast<int>(outcome) - 1]);
+}
+
+namespace {
+
+/// An interview's turners, and the place of the one they turn on.
+struct TalkTurn {
+  int Style;
+  int Turners[2];  // places; 0 for none
+  int On;
+};
+constexpr TalkTurn kTalkTurns[] = {{kSingleTalk, {1, 0}, 2},
+                                   {kTeamTalk, {1, 2}, 3},
+                                   {kManagedTalk, {2, 0}, 3},
+                                   {kManagedTeamTalk, {2, 3}, 4}};
+
+/// The leader of the angle's stable, in place of a box.
+constexpr int kTheLeader = -1;
+
+struct AngleTurn {
+  int Angle;
+  int Turner;  // place
+  int On;      // place, kTheLeader, or 0 for nobody
+  bool OnlyPending;
+};
+constexpr AngleTurn kAngleTurns[] = {
+    {kBetterEnemies, 1, 2, false},   {kFaceTurnAngle, 1, 2, false},
+    {kHeelTurnAngle, 1, 2, false},   {kTeamFaceTurn, 1, 3, false},
+    {kTeamFaceTurn, 2, 4, false},    {kTeamHeelTurn, 1, 3, false},
+    {kTeamHeelTurn, 2, 4, false},    {kAmbush, 4, 2, true},
+    {kManagementIssues, 1, 3, true}, {kDivaFever, 3, 1, true},
+    {kStableInduction, 1, 0, true},  {kStableKickOut, 1, kTheLeader, true},
+    {kStalkerReveal, 1, 2, true},    {kStalkerCaught, 1, 2, true},
+    {kRejectedProposal, 2, 1, true},
+};
+
+using Calls = std::vector<TurnCall>;
+
+void Add(Calls& calls, int turner, int other) {
+  const bool isThere = std::any_of(calls.begin(), calls.end(),
+                                   [&](const TurnCall& call) { return call.Turner == turner; });
+  if (turner != 0 && !isThere) calls.push_back({turner, other});
+}
+
+int FirstOf(const std::vector<int>& people) {
+  return people.empty() ? 0 : people.front();
+}
+
+/// On whom the one who is to turn commits an act: a uid, or 0 for nobody; nothing where he commits
+/// none. Of several acts the first at which a turn can come off.
+std::optional<int> VictimOf(const World& world, const Segment& segment, int turner) {
+  std::optional<int> victim;
+  const Worker* worker = world.FindWorker(turner);
+  for (const Act& act : ActsOf(segment)) {
+    const std::vector<int> by = PeopleOf(segment, act.By);
+    if (!worker || !act.Is(kTurnOccasion) || std::find(by.begin(), by.end(), turner) == by.end())
+      continue;
+    const int on = FirstOf(PeopleOf(segment, act.On));
+    if (!IsSureToFail(*worker, world.FindWorker(on))) return on;
+    if (!victim) victim = on;
+  }
+  return victim;
+}
+
+/// The one who stands against a worker of a 2 vs 2 match.
+int OpponentOf(const Segment& segment, int uid) {
+  const std::vector<int> winners = PeopleOf(segment, Part::WinningTeam);
+  const bool hasWon = std::find(winners.begin(), winners.end(), uid) != winners.end();
+  return FirstOf(PeopleOf(segment, hasWon ? Part::Loser : Part::Winner));
+}
+
+/// On whom somebody turns who commits no act: in a 2 vs 2 match an entrant on an opponent, a run-in
+/// of the finish on whom the run-ins attacked.
+std::optional<int> VictimWithoutAct(const Segment& segment, Part whom, int turner) {
+  if (segment.Style == kSingles || whom == Part::Other3 || whom == Part::Other4 ||
+      whom == Part::Others34)
+    return {};
+  if (IsRunIn(whom)) return FirstOf(PeopleOf(segment, Part::Attacked));
+  return OpponentOf(segment, turner);
+}
+
+/// Those whom the purpose of the booking turns.
+void AddPurposeTurns(Calls& calls, const World& world, const Segment& segment) {
+  const PurposeRow purpose = PurposeOf(segment);
+  if (purpose.Does != Aim::Turns) return;
+  for (const int turner : PeopleOf(segment, purpose.Whom)) {
+    auto victim = VictimOf(world, segment, turner);
+    if (!victim) victim = VictimWithoutAct(segment, purpose.Whom, turner);
+    if (victim) Add(calls, turner, *victim);
+  }
+}
+
+/// Those who turn by what they do, whatever the purpose.
+void AddSureTurns(Calls& calls, const Segment& segment) {
+  for (const Act& act : ActsOf(segment))
+    if (act.Is(kSureTurn))
+      Add(calls, FirstOf(PeopleOf(segment, act.By)), FirstOf(PeopleOf(segment, act.On)));
+}
+
+/// 3 vs 3 and 4 vs 4: from kFirstTurns on, a finish for each worker.
+void AddBigTeamTurns(Calls& calls, const Segment& segment) {
+  const int place = segment.Finish - kFirstTurns + 1;
+  if (place < 1 || place > EntrantsOf(segment)) return;
+  const int turner = segment.Worker[static_cast<std::size_t>(place - 1)];
+  Add(calls, turner, PartnerOf(segment, turner));
+}
+
+int At(const Segment& segment, int place) {
+  return place < 1 ? 0 : int(segment.Worker[static_cast<std::size_t>(place - 1)]);
+}
+
+void AddTalkTurns(Calls& calls, const Segment& segment) {
+  if (segment.Purpose != kTalkTurn) return;
+  for (const TalkTurn& row : kTalkTurns)
+    if (segment.Style == row.Style)
+      for (const int place : row.Turners) Add(calls, At(segment, place), At(segment, row.On));
+}
+
+int LeaderBeside(const World& world, const Segment& segment, int uid) {
+  int leader = 0, over = -1;
+  for (const Worker* member : ActiveMembers(world, segment.Text))
+    if (member->Uid != uid && member->Over > over) {
+      leader = member->Uid;
+      over = member->Over;
+    }
+  return leader;
+}
+
+void AddAngleTurns(Calls& calls, const World& world, const Segment& segment) {
+  for (const AngleTurn& row : kAngleTurns) {
+    if (segment.Style != row.Angle) continue;
+    const int turner = At(segment, row.Turner);
+    const Worker* worker = world.FindWorker(turner);
+    if (!worker || (row.OnlyPending && !worker->TurnPending)) continue;
+    Add(calls, turner,
+        row.On == kTheLeader ? LeaderBeside(world, segment, turner) : At(segment, row.On));
+  }
+}
+
+void AddMatchTurns(Calls& calls, const World& world, const Segment& segment) {
+  AddSureTurns(calls, segment);
+  AddPurposeTurns(calls, world, segment);
+  if (segment.Style == kThreeOnThree || segment.Style == kFourOnFour)
+    AddBigTeamTurns(calls, segment);
+}
+
+}  // namespace
+
+std::vector<TurnCall> BookedTurns(const World& world, const Segment& segment) {
+  Calls calls;
+  if (segment.Kind == kMatch) AddMatchTurns(calls, world, segment);
+  if (segment.Kind == kInterview) AddTalkTurns(calls, segment);
+  if (segment.Kind == kAngle) AddAngleTurns(calls, world, segment);
+  return calls;
+}
+
+void ApplyTurns(SegmentRun& run) {
+  for (const TurnCall& call : BookedTurns(run.World, run.Segment))
+    if (Worker* turner = run.World.FindWorker(call.Turner))
+      ApplyTurn(run, *turner, run.World.FindWorker(call.Other));
 }
 
 }  // namespace grapplemont

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "show/segmentrun.h"
 
 namespace grapplemont {
@@ -11,5 +13,18 @@ void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other);
 
 /// Whether the crowd will not like this turn, however popular the two are.
 bool IsSureToFail(const Worker& turner, const Worker* other);
+
+/// Somebody who turns in a Segment, and on whom.
+struct TurnCall {
+  int Turner = 0;  // uids
+  int Other = 0;   // 0: on nobody
+  friend bool operator==(const TurnCall&, const TurnCall&) = default;
+};
+
+/// Everybody whom the booking makes turn, in order, nobody twice. An angle's box that may stay
+/// empty turns only who is waiting to.
+std::vector<TurnCall> BookedTurns(const World& world, const Segment& segment);
+/// Makes them turn; may move the crowd.
+void ApplyTurns(SegmentRun& run);
 
 }  // namespace grapplemont

@@ -11,7 +11,6 @@
 #include "rivals/rivals.h"
 #include "roster/talks.h"
 #include "show/attendance.h"
-#include "show/tvratings.h"
 
 namespace grapplemont::tools {
 

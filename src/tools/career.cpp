@@ -4,7 +4,7 @@
 #include "calendar/advanceday.h"
 #include "calendar/incidents.h"
 #include "records/world.h"
-#include "report/linememory.h"
+#include "report/report.h"
 #include "rivals/endstories.h"
 #include "rivals/founding.h"
 #include "rivals/rivals.h"

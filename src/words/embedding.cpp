@@ -1,14 +1,11 @@
 #include "words/embedding.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iomanip>
-#include <iterator>
-#include <optional>
 #include <sstream>
-#include <stdexcept>
 
 #include "records/nearest.h"
+#include "words/tables/schema.h"
+#include "words/units.h"
 #include "words/wordscheck.h"
 
 namespace grapplemont {
@@ -17,38 +14,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::optional<std::string> BytesOf(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return {};
-  return std::string(std::istreambuf_iterator<char>(file), {});
-}
-
-void WriteIfNew(const fs::path& path, const std::string& bytes) {
-  if (BytesOf(path) == bytes) return;
-  std::ofstream file(path, std::ios::binary);
-  file << bytes;
-  if (!file.flush()) throw std::runtime_error(path.string() + " cannot be written");
-}
-
 /// "lamplighter-finishes.cpp" of "lamplighter/finishes.txt".
 std::string UnitOf(const std::string& path) {
   std::string name = fs::path(path).replace_extension(".cpp").generic_string();
   std::replace(name.begin(), name.end(), '/', '-');
   return name;
-}
-
-/// As a string of C++; other than plain letters go by their octal numbers, which end after three.
-std::string Quoted(std::string_view text) {
-  std::ostringstream out;
-  out << '"' << std::oct << std::setfill('0');
-  for (const char letter : text) {
-    if (letter < ' ' || letter > '~')
-      out << '\\' << std::setw(3) << int{static_cast<unsigned char>(letter)};
-    else
-      out << (letter == '"' || letter == '\\' ? "\\" : "") << letter;
-  }
-  out << '"';
-  return out.str();
 }
 
 /// In a report the next line follows on this one.
@@ -84,6 +54,7 @@ std::string CodeOf(const WordsFile& file, const WordsText& text) {
 void CheckNames(const fs::path& words, const std::vector<WordsFile>& files, WordsCheck& check) {
   std::vector<std::string_view> known;
   for (const WordsFile& file : files) known.push_back(file.Path);
+  for (const TableFile& file : AllTableFiles()) known.push_back(file.Path);
   std::vector<std::string> strangers;
   for (const auto& entry : fs::recursive_directory_iterator(words)) {
     const std::string path = entry.path().lexically_relative(words).generic_string();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -32,5 +33,8 @@ class WordsCheck {
 
 /// The heading of this name; nullptr for none.
 const Heading* FindHeading(const WordsFile& file, std::string_view name);
+
+/// Why a text cannot stand under a heading; empty for a sound line.
+std::string WhyNoLine(std::string_view text, const Heading& heading);
 
 }  // namespace grapplemont

@@ -1,19 +1,13 @@
 #include "words/wordstext.h"
 
 #include "records/charset.h"
+#include "words/units.h"
 
 namespace grapplemont {
 
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF", kHeading = "==";
-
-std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r";
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 void TakeLine(WordsText& words, std::string_view line) {
   if (line.empty() || line == "#" || line.starts_with("# ")) return;

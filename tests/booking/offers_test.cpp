@@ -6,7 +6,7 @@
 #include "booking/wizard/matchrules.h"
 #include "booking/wizard/roster.h"
 #include "records/modWresCheck.h"
-#include "show/turncalls.h"
+#include "show/turns.h"
 #include "support/randomworld.h"
 
 namespace grapplemont::test {

@@ -4,7 +4,7 @@
 #include "randomhouse.h"
 #include "randomsegment.h"
 #include "records/checkworld.h"
-#include "report/linememory.h"
+#include "report/report.h"
 #include "show/holdshow.h"
 
 // A thousand shows, from the card of the auto booker to the close, for rosters that nobody would

@@ -2,7 +2,7 @@
 
 #include "info/results.h"
 #include "records/dates.h"
-#include "report/linememory.h"
+#include "report/report.h"
 #include "show/holdshow.h"
 #include "support/gameonworld.h"
 

@@ -10,7 +10,7 @@
 #include "rivals/rivals.h"
 #include "roster/leaving.h"
 #include "roster/signing.h"
-#include "show/injuries.h"
+#include "show/aftermatch.h"
 #include "support/scripteddraws.h"
 
 namespace grapplemont::test {

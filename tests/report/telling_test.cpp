@@ -9,8 +9,8 @@
 #include "records/segments.h"
 #include "report/holds.h"
 #include "report/report.h"
-#include "report/scripts.h"
-#include "report/voices.h"
+#include "report/ring.h"
+#include "report/teller.h"
 #include "support/randomworld.h"
 #include "support/smallworld.h"
 

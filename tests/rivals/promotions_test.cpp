@@ -9,6 +9,7 @@
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
+#include "words/promotions.h"
 
 // New promotions, sponsors, bankruptcy.
 

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "records/modWresCheck.h"
-#include "roster/names.h"
+#include "words/names.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
 

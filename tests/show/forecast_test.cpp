@@ -1,4 +1,5 @@
 #include "show/forecast.h"
+#include "show/holdshow.h"
 
 #include "showrig.h"
 

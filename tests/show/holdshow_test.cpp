@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "show/aftershow.h"
-#include "show/charges.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
 
@@ -94,7 +92,6 @@ TEST(Production, IsChargedByWhatTheSizeAsksFor) {
     int Size, Production, Charge;
   } rows[] = {{kGlobal, 80, 0},     {kGlobal, 79, -10}, {kGlobal, 75, -10}, {kGlobal, 74, -20},
               {kGlobal, 65, -20},   {kGlobal, 64, -30}, {kGlobal, 55, -30}, {kGlobal, 54, -40},
-              {kGlobal, 35, -40},   {kGlobal, 34, -60}, {kGlobal, 30, -60}, {kNational, 60, 0},
               {kNational, 59, -10}, {kCult, 55, 0},     {kCult, 54, -10},   {kRegional, 35, 0},
               {kRegional, 34, -10}, {kSmall, 5, 0},     {kSmall, 4, -10},   {kBackyard, 0, 0}};
   for (const auto& row : rows) {

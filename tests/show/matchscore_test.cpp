@@ -1,69 +1,38 @@
-#include "show/feudslots.h"
-#include "show/scoring.h"
+#include <gtest/gtest.h>
+
+#include "show/matchscore.h"
+#include "show/ratings.h"
+#include "show/showfeuds.h"
 #include "showrig.h"
 
 namespace grapplemont::test {
 namespace {
 
 TEST(ScoreMatch, ChangesQualityAndCrowdByTheMatchType) {
-  struct Case {
-    int Style, Type;
-    std::initializer_list<ScriptedDraw> Draws;
-    int Quality, Crowd, Strain;  // 55 and 47 before
-  };
-  const Case kCases[] = {
-      {1, 1, {}, 55, 47, 1},
-      {1, 2, {{10, 7}}, 55, 40, 2},
-      {1, 3, {{15, 15}, {15, 1}}, 40, 46, 2},
-      {1, 4, {}, 55, 47, 3},
-      {1, 5, {{10, 6}, {5, 4}}, 49, 51, 2},
-      {1, 6, {}, 55, 47, 2},
-      {1, 7, {}, 55, 47, 3},
-      {1, 8, {}, 55, 47, 2},
-      {1, 9, {{5, 5}}, 55, 52, 3},
-      {1, 10, {{10, 9}, {5, 3}}, 46, 50, 2},
-      {1, 11, {{20, 20}, {10, 8}}, 35, 55, 1},
-      {1, 12, {}, 55, 47, 3},
-      {1, 13, {}, 55, 47, 2},
-      {1, 14, {{10, 2}, {5, 1}}, 53, 48, 2},
-      {1, 15, {{15, 13}}, 55, 60, 4},
-      {1, 16, {{30, 30}, {15, 15}}, 25, 62, 5},
-      {1, 17, {{10, 10}, {5, 2}}, 45, 49, 5},
-      {1, 18, {}, 55, 47, 5},
-      {1, 19, {{10, 3}, {20, 20}}, 52, 67, 1},
-      {1, 20, {}, 55, 47, 1},
-      {2, 1, {}, 55, 47, 1},
-      {2, 2, {}, 55, 47, 2},
-      {2, 3, {{10, 8}}, 47, 47, 2},
-      {2, 4, {{10, 10}, {10, 7}}, 65, 54, 4},
-      {2, 5, {{5, 5}, {5, 2}}, 50, 49, 2},
-      {3, 1, {}, 55, 47, 1},
-      {3, 2, {}, 55, 47, 1},
-      {3, 3, {}, 55, 47, 2},
-      {3, 4, {{5, 5}}, 55, 52, 3},
-      {4, 1, {}, 55, 47, 1},
-      {4, 2, {}, 55, 47, 1},
-      {4, 3, {{15, 14}, {10, 9}}, 69, 56, 3},
-      {4, 4, {{18, 18}, {15, 11}}, 73, 58, 4},
-      {5, 1, {}, 55, 47, 2},
-      {5, 2, {}, 55, 47, 1},
-      {6, 1, {}, 55, 47, 1},
-      {6, 2, {}, 55, 47, 4},
-      {7, 1, {}, 55, 47, 1},
-      {8, 1, {}, 55, 47, 1},
-      {8, 2, {{15, 4}, {10, 10}}, 51, 57, 1},
-      {9, 1, {}, 55, 47, 0},
-      {9, 2, {{20, 20}}, 35, 47, 0},
-      {9, 3, {{20, 5}}, 50, 47, 0},
-  };
-  for (const Case& c : kCases) {
-    SCOPED_TRACE(std::to_string(c.Style) + " type " + std::to_string(c.Type));
-    Rig rig(Cast(30).Game("CWA"), MatchOf(c.Style, c.Type));
-    rig.Script(c.Draws);
-    ScoreMatch(rig.Run);
-    EXPECT_EQ(rig.Run.Quality, c.Quality);
-    EXPECT_EQ(rig.Run.Crowd, c.Crowd);
-    EXPECT_EQ(rig.Run.Strain, c.Strain);
+  // Quality, Crowd and Strain by type, of a match of 55 and 47 with the highest draws.
+  const std::map<int, std::string> kStyles = {
+      {1,
+       "55 47 1, 55 37 2, 40 32 2, 55 47 3, 45 52 2, 55 47 2, 55 47 3, 55 47 2, 55 52 3, 45 52 2, "
+       "35 57 1, 55 47 3, 55 47 2, 45 52 2, 55 62 4, 25 62 5, 45 52 5, 55 47 5, 45 67 1, 55 47 1"},
+      {2, "55 47 1, 55 47 2, 45 47 2, 65 57 4, 50 52 2"},
+      {3, "55 47 1, 55 47 1, 55 47 2, 55 52 3"},
+      {4, "55 47 1, 55 47 1, 70 57 3, 73 62 4"},
+      {5, "55 47 2, 55 47 1"},
+      {6, "55 47 1, 55 47 4"},
+      {7, "55 47 1"},
+      {8, "55 47 1, 40 57 1"},
+      {9, "55 47 0, 35 47 0, 35 47 0"}};
+  for (const auto& [style, expected] : kStyles) {
+    std::string told;
+    for (int type = 1; type <= (style == kSingles ? 20 : 5); ++type) {
+      if (!FindMatchType(style, type) && type != 20) continue;
+      Rig rig(Cast(30).Game("CWA"), MatchOf(style, type));
+      rig.TheWorld.SetChance(std::make_unique<SteadyDraws>(100));
+      ScoreMatch(rig.Run);
+      told += (told.empty() ? "" : ", ") + std::to_string(rig.Run.Quality) + " " +
+              std::to_string(rig.Run.Crowd) + " " + std::to_string(rig.Run.Strain);
+    }
+    EXPECT_EQ(told, expected) << "style " << style;
   }
 }
 
@@ -143,15 +112,6 @@ TEST(ScoreMatch, LetsHeatSeeTheCrowdBeforeTwoHeelsLoseIt) {
             "mean drawing power of Ash 47, Bea 47 +47, "
             "feud of Ash and Bea, up to its heat 80 +8, two Heels -20");
   EXPECT_EQ(rig.TheWorld.Feuds()[1].Heat, 65);  // towards 55, not 41
-}
-
-TEST(ScoreMatch, DrawsForTypeThenFeudThenAlignment) {
-  Rig rig(Cast(2, [](Worker& w) { w.Disposition = "T"; }).Feud("Ash", "Bea", Hot(70)).Game("CWA"),
-          MatchOf(kSingles, kCage));
-  rig.Script({{10, 1}, {5, 2}, {5, 5}, {10, 4}});
-  ScoreMatch(rig.Run);
-  EXPECT_EQ(rig.Run.Quality, 54);
-  EXPECT_EQ(rig.Run.Crowd, 47 + 2 + 10 - 4);
 }
 
 TEST(ScoreMatch, LiftsASinglesMatchUpToTheHeatOfTheFirstFeudThatFits) {
@@ -261,6 +221,141 @@ TEST(ScoreMatch, MarksTheFeudsOfRunInsAndOfBiggerMatches) {
     EXPECT_EQ(rig.Run.Crowd, 47);
     ExpectSame(rig.TheWorld, before);
   }
+}
+
+Change<Team> With(int experience) {
+  return [=](Team& team) { team.Experience = experience; };
+}
+
+TEST(Chemistry, GrowsWithATeamsExperience) {
+  constexpr int kLevels[][2] = {{0, 0},  {25, 0}, {26, 1}, {50, 1}, {51, 2},
+                                {75, 2}, {76, 3}, {95, 3}, {96, 4}, {100, 4}};
+  for (const auto& [experience, level] : kLevels) {
+    const World world = Cast().Team("Rats", "Bea", "Ash", With(experience)).Game("CWA");
+    EXPECT_EQ(ChemistryOf(world, MatchOf(kTag)).Level, level) << experience;
+  }
+}
+
+TEST(Chemistry, IsThatOfEveryTeamThatIsASideOfATagMatch) {
+  const World world = Cast()
+                          .Team("A", "Ash", "Bea", With(100))
+                          .Team("B", "Dot", "Cal", With(80))
+                          .Team("C", "Eli", "Fay", With(60))
+                          .Team("D", "Gus", "Hal", With(30))
+                          .Team("Across", "Bea", "Cal", With(100))
+                          .Game("CWA");
+  EXPECT_EQ(ChemistryOf(world, MatchOf(kTag)).Level, 4 + 3);
+  EXPECT_EQ(ChemistryOf(world, MatchOf(kThreeTeams)).Level, 4 + 3 + 2);
+  const Chemistry all = ChemistryOf(world, MatchOf(kFourTeams));
+  EXPECT_EQ(all.Level, 4 + 3 + 2 + 1);
+  EXPECT_EQ(all.Teams, (std::vector<std::string>{"A", "B", "C", "D"}));
+  for (const int style : {kSingles, kThreeWay, kFourWay, kThreeOnThree, kFourOnFour})
+    EXPECT_EQ(ChemistryOf(world, MatchOf(style)).Level, 0) << style;
+}
+
+TEST(Chemistry, DrawsForEachValueByItsLevel) {
+  constexpr int kDraws[][2] = {{1, 5},   {4, 5},   {5, 8},   {10, 8},
+                               {11, 10}, {13, 10}, {14, 12}, {16, 12}};
+  for (const auto& [level, of] : kDraws) {
+    Rig rig(Cast().Game("CWA"), MatchOf(kTag));
+    rig.Script({{of, of}, {of, 3}});
+    AddChemistry(rig.Run, {level, {"Rats", "Dogs"}});
+    EXPECT_EQ(StepsText(rig.Run.Quality), "chemistry of Rats, Dogs +" + std::to_string(of));
+    EXPECT_EQ(StepsText(rig.Run.Crowd), "chemistry of Rats, Dogs +3");
+  }
+}
+
+TEST(Chemistry, ComesLastOfAll) {
+  Rig rig(Cast()
+              .Team("Rats", "Ash", "Bea", With(96))
+              .Team("Dogs", "Cal", "Dot", With(26))
+              .TagFeud("Ash", "Bea", "Cal", "Dot", Hot(60))
+              .Game("CWA"),
+          MatchOf(kTag, kTagLadder));
+  rig.Script({{10, 2}, {10, 1}, {5, 5}, {8, 8}, {8, 7}});
+  ScoreMatch(rig.Run);
+  EXPECT_EQ(rig.Run.Quality, 55 + 2 + 8);
+  EXPECT_EQ(rig.Run.Crowd, 47 + 1 + 10 + 7);
+  EXPECT_EQ(rig.Run.Strain, 4);
+}
+
+Worker Skilled(int brawl, int technical, int speed) {
+  Worker worker{};
+  worker.Brawl = brawl;
+  worker.Technical = technical;
+  worker.Speed = speed;
+  worker.Condition = 100;
+  return worker;
+}
+
+TEST(BestSkill, IsTheOneStrictlyAboveBothOthersElseBrawl) {
+  struct Case {
+    int Brawl, Technical, Speed, Best;
+  };
+  constexpr Case kCases[] = {{80, 50, 60, 80}, {50, 80, 60, 80}, {50, 60, 80, 80},
+                             {10, 80, 80, 10}, {80, 80, 50, 80}, {80, 50, 80, 80},
+                             {60, 60, 80, 80}, {60, 80, 60, 80}, {70, 70, 70, 70}};
+  for (const Case& c : kCases)
+    EXPECT_EQ(BestSkill(Skilled(c.Brawl, c.Technical, c.Speed)), c.Best)
+        << c.Brawl << " " << c.Technical << " " << c.Speed;
+}
+
+TEST(WorkRating, FloorsEachShareAndThenTheTiredRest) {
+  struct Case {
+    int Skill, Morale, Stiff, Condition, Rating;
+  };
+  constexpr Case kCases[] = {
+      {100, 100, 100, 100, 100}, {100, 100, 100, 90, 100}, {100, 100, 100, 89, 90},
+      {100, 100, 100, 60, 90},   {100, 100, 100, 59, 70},  {100, 100, 100, 30, 70},
+      {100, 100, 100, 29, 50},   {100, 100, 100, 0, 50},   {50, 89, 39, 100, 55},
+      {50, 89, 39, 89, 49},      {50, 89, 39, 59, 38},     {50, 89, 39, 29, 27},
+      {1, 4, 19, 100, 0},        {0, 0, 0, 100, 0}};
+  for (const Case& c : kCases) {
+    Worker worker = Skilled(c.Skill, 0, 0);
+    worker.Morale = c.Morale;
+    worker.Stiff = c.Stiff;
+    worker.Condition = c.Condition;
+    EXPECT_EQ(WorkRating(worker), c.Rating) << c.Skill << " at condition " << c.Condition;
+  }
+}
+
+TEST(DrawAndTalkRating, AddLooksAndThenTheDivaBelowNinety) {
+  struct Case {
+    int Over, Charisma;
+    bool Looks, Diva;
+    int Draw, Talk;
+  };
+  constexpr Case kCases[] = {
+      {0, 0, false, false, 0, 0},     {100, 100, false, false, 95, 100},
+      {49, 59, false, false, 46, 54}, {49, 59, true, false, 51, 59},
+      {49, 59, false, true, 54, 62},  {49, 59, true, true, 59, 67},
+      {99, 55, false, true, 97, 80},  {99, 60, false, true, 90, 83},
+      {94, 50, true, true, 97, 80},   {94, 60, true, true, 90, 86},
+      {95, 95, true, true, 94, 100},  {100, 82, false, true, 93, 97},
+      {100, 84, false, true, 93, 90},
+  };
+  for (const Case& c : kCases) {
+    Worker worker{};
+    worker.Over = c.Over;
+    worker.Charisma = c.Charisma;
+    worker.SuperstarLook = c.Looks;
+    worker.Diva = c.Diva;
+    EXPECT_EQ(DrawRating(worker), c.Draw) << c.Over << " and " << c.Charisma;
+    EXPECT_EQ(TalkRating(worker), c.Talk) << c.Over << " and " << c.Charisma;
+  }
+}
+
+TEST(WeighRating, GivesTheStrongerCrowdSevenTenthsAndElseTheMean) {
+  EXPECT_EQ(WeighRating(50, 50), 50);
+  EXPECT_EQ(WeighRating(50, 51), 50);
+  EXPECT_EQ(WeighRating(50, 54), 52);
+  EXPECT_EQ(WeighRating(51, 50), 50);
+  EXPECT_EQ(WeighRating(54, 50), 52);
+  EXPECT_EQ(WeighRating(0, 100), 70);
+  EXPECT_EQ(WeighRating(100, 0), 50);
+  EXPECT_EQ(WeighRating(-3, -10), -7);
+  EXPECT_EQ(WeighRating(-10, 5), 0);
+  EXPECT_EQ(WeighRating(80, 130), 115);
 }
 
 }  // namespace

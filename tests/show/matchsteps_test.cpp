@@ -1,6 +1,5 @@
-#include "show/matchsteps.h"
+#include "show/matchscore.h"
 
-#include "show/scoring.h"
 #include "showrig.h"
 
 namespace grapplemont::test {

@@ -1,5 +1,6 @@
-#include "report/linememory.h"
-#include "show/scoring.h"
+#include "show/runsegment.h"
+#include "report/report.h"
+#include "show/ratings.h"
 #include "showrig.h"
 #include "support/randomworld.h"
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "records/segments.h"
+#include "show/ratings.h"
 #include "show/segmentrun.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

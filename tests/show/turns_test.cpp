@@ -1,7 +1,7 @@
-#include "show/turns.h"
-
 #include <gtest/gtest.h>
 
+#include "records/angles.h"
+#include "show/turns.h"
 #include "stage.h"
 
 namespace grapplemont::test {
@@ -71,64 +71,22 @@ TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
     bool IsPending;
     std::vector<ScriptedDraw> Draws;
     int Crowd, Over, Morale;
-    std::string_view Notes, Becomes;
+    std::string_view Notes;
+    int Lost;  // points of Over
+    std::string_view Becomes;
   };
+  constexpr std::string_view
+      kDone = "Ash's turn was completed, and he is now a heel. ",
+      kFlat = "Ash's turn didn't work very well, and that affected the crowd. ",
+      kTooSoon =
+          "The fans realised that Ash turned not too long ago, and so this time they didn't "
+          "care so much. ",
+      kBaffling = "The fans were baffled by Ash's behaviour, and that killed their enthusiasm. ";
   const Case kCases[] = {
-      {"F",
-       "F",
-       999,
-       true,
-       {{10, 7}, {10, 2}, {3, 3}},
-       68,
-       49,
-       80,
-       "Ash's turn was completed, and he is now a heel. "
-       "Ash lost 1 points of overness from this match. ",
-       "H"},
-      {"T",
-       "H",
-       999,
-       true,
-       {{10, 10}, {10, 10}, {3, 1}},
-       71,
-       59,
-       80,
-       "Ash's turn was completed, and he is now a face. "
-       "Ash gained 9 points of overness from this match. ",
-       "F"},
-      {"H",
-       "F",
-       999,
-       true,
-       {{15, 15}, {20, 20}},
-       42,
-       25,
-       50,
-       "Ash's turn didn't work very well, and that affected the crowd. "
-       "Ash lost 25 points of overness from this match. ",
-       "T"},
-      {"F",
-       "F",
-       90,
-       true,
-       {{40, 40}},
-       48,
-       35,
-       30,
-       "The fans realised that Ash turned not too long ago, and so this time they didn't care so "
-       "much. Ash lost 15 points of overness from this match. ",
-       "H"},
-      {"F",
-       "F",
-       999,
-       false,
-       {{40, 1}},
-       36,
-       38,
-       69,
-       "The fans were baffled by Ash's behaviour, and that killed their enthusiasm. "
-       "Ash lost 12 points of overness from this match. ",
-       "F"},
+      {"F", "F", 999, true, {{10, 7}, {10, 2}, {3, 3}}, 68, 49, 80, kDone, 1, "H"},
+      {"H", "F", 999, true, {{15, 15}, {20, 20}}, 42, 25, 50, kFlat, 25, "T"},
+      {"F", "F", 90, true, {{40, 40}}, 48, 35, 30, kTooSoon, 15, "H"},
+      {"F", "F", 999, false, {{40, 1}}, 36, 38, 69, kBaffling, 12, "F"},
   };
   for (const Case& c : kCases) {
     Turn turn(c.Turner, c.Other);
@@ -140,19 +98,12 @@ TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
     EXPECT_EQ(turn.Run.Crowd, c.Crowd) << c.Notes;
     EXPECT_EQ(turn["Ash"].Over, c.Over) << c.Notes;
     EXPECT_EQ(turn["Ash"].Morale, c.Morale) << c.Notes;
-    EXPECT_EQ(turn.Run.Notes, c.Notes);
+    EXPECT_EQ(turn.Run.Notes, std::string(c.Notes) + "Ash lost " + std::to_string(c.Lost) +
+                                  " points of overness from this match. ");
     EXPECT_EQ(turn["Ash"].Disposition, c.Becomes) << c.Notes;
     EXPECT_FALSE(turn["Ash"].TurnPending);
     EXPECT_EQ(Day(turn["Ash"].LastTurn), kGameStart);
   }
-}
-
-TEST(ApplyTurn, SpeaksOfAWomanAndOfATweener) {
-  Turn turn("H", "H");
-  turn["Bea"].TurnPending = true;
-  ScriptDraws(turn.W, {1, 1, 1});
-  ApplyTurn(turn.Run, turn["Bea"], nullptr);
-  EXPECT_EQ(turn.Run.Notes, "Bea's turn was completed, and she is now a face. ");
 }
 
 TEST(ApplyTurn, RemembersTheLastTurnForAYear) {
@@ -196,16 +147,248 @@ TEST(ApplyTurn, LooksAtAlignmentsLast) {
   EXPECT_EQ(baffling.Run.Crowd, 36) << "it is remembered before it is seen to make no sense";
 }
 
-TEST(ApplyTurn, CutsWhatItPays) {
-  Turn turn("F", "F", 8);
-  turn.W.Game().Difficulty = kEasy;
-  turn["Ash"].TurnPending = false;
-  turn["Ash"].Morale = 5;
-  ScriptDraws(turn.W, {40});
-  turn.Apply();
-  EXPECT_EQ(turn["Ash"].Over, 0);
-  EXPECT_EQ(turn["Ash"].Morale, 0);
-  EXPECT_NE(turn.Run.Notes.find("Ash lost 8 points of overness"), std::string::npos);
+/// Everybody is in it: Ash and Bea against Cal and Dot, Eli to Hal running in.
+struct Booking : Stage {
+  using Stage::Stage;
+  void RunIns() {
+    S.Other1 = Uid("Eli");
+    S.Other2 = Uid("Fay");
+    S.Other3 = Uid("Gus");
+    S.Other4 = Uid("Hal");
+  }
+  /// "Eli on Bea, Fay on nobody".
+  std::string Turns() {
+    std::string turns;
+    for (const TurnCall& call : BookedTurns(W, S)) {
+      const Worker* other = W.FindWorker(call.Other);
+      turns += (turns.empty() ? "" : ", ") + W.FindWorker(call.Turner)->Name.Str() + " on " +
+               (other ? other->Name.Str() : "nobody");
+    }
+    return turns;
+  }
+};
+
+TEST(BookedTurns, OfSinglesNeedAPurposeAndItsOccasion) {
+  struct Case {
+    int Finish, Aftermath;
+    std::string_view RunIn, Winner, Loser, Saver;  // purposes 5, 10, 11, 31; Bea wins over Ash
+  };
+  constexpr Case kCases[] = {
+      {kClean, 1, "", "", "", ""},
+      {kCountOut, 1, "", "Bea on Ash", "", ""},
+      {kInterference, 1, "Eli on Ash", "Bea on Ash", "", ""},
+      {kBotchedInterference, 1, "Eli on Bea", "", "", ""},
+      {kCheating, 1, "", "Bea on Ash", "", ""},
+      {kClean, 2, "", "", "Ash on nobody", ""},
+      {kClean, 4, "Eli on Ash", "", "", ""},
+      {kClean, 5, "Eli on Bea", "", "", ""},
+      {kClean, 6, "", "", "", ""},
+      {kClean, 7, "", "", "Ash on Bea", ""},
+      {kClean, 8, "", "Bea on Ash", "", ""},
+      {kClean, 10, "Eli on Ash", "Bea on Ash", "", ""},
+      {kClean, 11, "Eli on Bea", "", "Ash on Bea", ""},
+      {kClean, 12, "", "", "Ash on Eli", ""},
+      {kClean, 19, "", "Bea on Ash", "Ash on Bea", ""},
+      {kClean, 20, "", "", "Ash on Bea", ""},
+      {kClean, 21, "", "", "Ash on Bea", ""},
+      {kDqThroughInterference, 26, "", "", "", "Fay on Eli"},
+  };
+  for (const Case& c : kCases) {
+    const std::pair<int, std::string_view> purposes[] = {
+        {5, c.RunIn}, {10, c.Winner}, {11, c.Loser}, {31, c.Saver}, {1, ""}, {3, ""}};
+    for (const auto& [purpose, turns] : purposes) {
+      Booking booking;
+      booking.Match(kSingles, {"Ash", "Bea"});
+      booking.Result("Bea", "Ash", c.Finish);
+      booking.RunIns();
+      booking.S.Aftermath = c.Aftermath;
+      booking.S.Purpose = purpose;
+      EXPECT_EQ(booking.Turns(), turns)
+          << "finish " << c.Finish << ", aftermath " << c.Aftermath << ", purpose " << purpose;
+    }
+  }
+}
+
+TEST(BookedTurns, OfTeamsGoByFinishAftermathAndPurpose) {
+  struct Case {
+    int Finish, Aftermath, Purpose;
+    std::string_view Turns;  // Bea pins Cal
+  };
+  constexpr Case kCases[] = {
+      {kClean, 1, 1, ""},
+      {kPartnerTurns, 1, 1, "Dot on Cal"},
+      {kClean, 4, 1, "Ash on Bea"},
+      {kClean, 7, 1, "Dot on Cal"},
+      {kClean, 1, 12, "Ash on Cal"},
+      {kClean, 1, 14, "Cal on Bea"},
+      {kClean, 1, 16, "Ash on Cal, Bea on Cal"},
+      {kClean, 1, 17, "Cal on Bea, Dot on Bea"},
+      {kInterference, 1, 18, "Eli on Cal"},
+      {kBotchedInterference, 1, 18, "Eli on Bea"},
+      {kDqThroughInterference, 1, 18, "Eli on Bea"},
+      {kInterference, 1, 19, "Eli on Cal, Fay on Cal"},
+      {kDqThroughInterference, 12, 18, "Eli on Bea"},
+      {kInterference, 11, 18, "Eli on Cal"},
+      {kClean, 2, 14, "Cal on Bea"},
+      {kClean, 3, 12, "Ash on Cal"},
+      {kClean, 16, 14, "Cal on Dot"},
+      {kClean, 16, 17, "Cal on Dot, Dot on Cal"},
+      {kPartnerTurns, 17, 12, "Dot on Cal, Ash on Cal"},
+      {kBotchedInterference, 13, 14, "Cal on Eli"},
+      {kBotchedInterference, 14, 15, "Dot on Eli"},
+      {kInterference, 18, 34, "Gus on Eli"},
+      {kInterference, 18, 36, "Gus on Eli, Hal on Eli"},
+      {kClean, 21, 34, "Gus on Ash"},
+      {kClean, 23, 36, "Gus on Cal, Hal on Cal"},
+      {kClean, 25, 36, "Gus on Ash, Hal on Ash"},
+      {kClean, 27, 36, ""},
+  };
+  for (const Case& c : kCases) {
+    Booking booking;
+    booking.Match(kTag, {"Ash", "Bea", "Cal", "Dot"});
+    booking.Result("Bea", "Cal", c.Finish);
+    booking.RunIns();
+    booking.S.Aftermath = c.Aftermath;
+    booking.S.Purpose = c.Purpose;
+    EXPECT_EQ(booking.Turns(), c.Turns)
+        << "finish " << c.Finish << ", aftermath " << c.Aftermath << ", purpose " << c.Purpose;
+  }
+}
+
+TEST(BookedTurns, ChooseTheActAtWhichATurnCanComeOff) {
+  Booking booking;
+  booking.Match(kSingles, {"Ash", "Bea"});
+  booking.Result("Bea", "Ash", kInterference);
+  booking.RunIns();
+  booking.S.Aftermath = after1::kTwoOnWinner;
+  booking.S.Purpose = purpose1::kTurnRunIn;
+  EXPECT_EQ(booking.Turns(), "Eli on Ash");
+  booking["Ash"].Disposition = "H";  // no Face's turn on a Heel is liked
+  EXPECT_EQ(booking.Turns(), "Eli on Bea");
+  booking["Bea"].Disposition = "H";
+  EXPECT_EQ(booking.Turns(), "Eli on Ash");
+}
+
+TEST(BookedTurns, KnowWhoTakesTheFall) {
+  Booking booking;
+  booking.Match(kTag, {"Ash", "Bea", "Cal", "Dot"});
+  booking.Result("Bea", "Dot", kPartnerTurns);
+  EXPECT_EQ(booking.Turns(), "Cal on Dot");
+  booking.Result("Dot", "Ash", kPartnerTurns);  // whose uid also stands for no loser
+  EXPECT_EQ(booking.Turns(), "Bea on Ash");
+}
+
+TEST(BookedTurns, OfTeamsInADrawLookAcrossTheRing) {
+  Booking booking;
+  booking.Match(kTag, {"Dot", "Cal", "Bea", "Ash"});
+  booking.Draw(kNoContest);
+  booking.RunIns();
+  booking.S.Purpose = purpose2::kTurnFirstTeam;
+  EXPECT_EQ(booking.Turns(), "Dot on Bea, Cal on Bea");
+  booking.S.Purpose = purpose2::kTurnWorker4;
+  EXPECT_EQ(booking.Turns(), "Ash on Dot");
+  booking.S.Purpose = purpose2::kTurnOthers12;
+  EXPECT_EQ(booking.Turns(), "Eli on nobody, Fay on nobody");
+}
+
+TEST(BookedTurns, OfBigTeamsAreTheirFinish) {
+  const std::initializer_list<const char*> kAll = {"Ash", "Bea", "Cal", "Dot",
+                                                   "Eli", "Fay", "Gus", "Hal"};
+  constexpr std::string_view kSix[] = {"Ash on Bea", "Bea on Ash", "Cal on Ash",
+                                       "Dot on Eli", "Eli on Dot", "Fay on Dot"};
+  constexpr std::string_view kEight[] = {"Ash on Bea", "Bea on Ash", "Cal on Ash", "Dot on Ash",
+                                         "Eli on Fay", "Fay on Eli", "Gus on Eli", "Hal on Eli"};
+  const auto check = [&](int style, const auto& turns) {
+    const int count = static_cast<int>(std::size(turns));
+    for (int finish = 1; finish <= count + 5; ++finish) {
+      Booking booking;
+      booking.Match(style, kAll);
+      booking.Result("Ash", "Hal", finish);
+      const bool isTurn = finish >= 3 && finish < count + 3;
+      EXPECT_EQ(booking.Turns(), isTurn ? turns[finish - 3] : "") << style << ", " << finish;
+    }
+  };
+  check(kThreeOnThree, kSix);
+  check(kFourOnFour, kEight);
+}
+
+TEST(BookedTurns, OfInterviewsAreThoseWhoSpeak) {
+  constexpr std::string_view kTurns[] = {"Ash on Bea", "Ash on Cal, Bea on Cal", "Bea on Cal",
+                                         "Bea on Dot, Cal on Dot"};
+  for (int style = 1; style <= 4; ++style) {
+    Booking booking;
+    booking.Talk(kInterview, style, {"Ash", "Bea", "Cal", "Dot", "Eli"});
+    for (int purpose = 1; purpose <= 6; ++purpose) {
+      booking.S.Purpose = purpose;
+      EXPECT_EQ(booking.Turns(), purpose == kTalkTurn ? kTurns[style - 1] : "") << style;
+    }
+  }
+}
+
+TEST(BookedTurns, OfAnglesAreSomeAlwaysAndSomeOfThePending) {
+  struct Case {
+    int Angle;
+    std::string_view Always, Pending;
+  };
+  constexpr Case kCases[] = {
+      {3, "", "Dot on Bea"},
+      {4, "Ash on Bea", "Ash on Bea"},
+      {5, "Ash on Bea", "Ash on Bea"},
+      {6, "Ash on Bea", "Ash on Bea"},
+      {7, "", "Ash on Cal"},
+      {19, "", "Cal on Ash"},
+      {50, "", "Ash on nobody"},
+      {51, "", "Ash on Gus"},
+      {56, "Ash on Cal, Bea on Dot", "Ash on Cal, Bea on Dot"},
+      {57, "Ash on Cal, Bea on Dot", "Ash on Cal, Bea on Dot"},
+      {63, "", "Ash on Bea"},
+      {64, "", "Ash on Bea"},
+      {74, "", "Bea on Ash"},
+  };
+  for (int angle = 1; angle <= kAngles; ++angle) {
+    const auto* found = std::find_if(std::begin(kCases), std::end(kCases),
+                                     [&](const Case& c) { return c.Angle == angle; });
+    for (const bool isPending : {false, true}) {
+      Booking booking(Eight().Stable("The Kiln", {"Fay", "Gus", "Ash"}));
+      booking["Gus"].Over = 60;
+      booking["Ash"].Over = 70;
+      booking.Talk(kAngle, angle, {"Ash", "Bea", "Cal", "Dot"});
+      booking.S.Text = "The Kiln";
+      for (Worker& worker : booking.W.Workers()) worker.TurnPending = isPending;
+      const std::string_view expected = found == std::end(kCases) ? ""
+                                        : isPending               ? found->Pending
+                                                                  : found->Always;
+      EXPECT_EQ(booking.Turns(), expected) << "angle " << angle;
+    }
+  }
+}
+
+TEST(ApplyTurns, TurnsThemAll) {
+  Booking booking;
+  booking.Talk(kInterview, kTeamTalk, {"Ash", "Bea", "Cal"});
+  booking.S.Purpose = kTalkTurn;
+  booking["Ash"].TurnPending = true;
+  booking.Rate(0, 50);
+  ScriptDraws(booking.W, {10, 5, 1, 40});
+  ApplyTurns(booking.Run);
+  EXPECT_EQ(booking["Ash"].Disposition, "H");
+  EXPECT_EQ(booking["Bea"].Disposition, "F");
+  EXPECT_EQ(booking.Run.Crowd, 36) << "60, and 6 tenths of it";
+  EXPECT_EQ(booking.Run.Notes,
+            "Ash's turn was completed, and he is now a heel. "
+            "Ash gained overness from this segment. "
+            "The fans were baffled by Bea's behaviour, and that killed their enthusiasm. "
+            "Bea lost overness from this segment. ");
+}
+
+TEST(BookedTurns, SkipBoxesThatStayedEmpty) {
+  Booking booking;
+  booking.Talk(kAngle, kAmbush, {"Ash", "Bea"});
+  EXPECT_EQ(booking.Turns(), "");
+  booking.Match(kSingles, {"Ash", "Bea"});
+  booking.Result("Ash", "Bea", kInterference);
+  booking.S.Purpose = purpose1::kTurnRunIn;
+  EXPECT_EQ(booking.Turns(), "");
 }
 
 }  // namespace

@@ -18,7 +18,7 @@
 #include "rivals/tuning.h"
 #include "session/newgame.h"
 #include "show/holdshow.h"
-#include "show/reportcolumn.h"
+#include "show/recap.h"
 #include "storylines/lineages.h"
 #include "support/defaultworld.h"
 #include "support/gameonworld.h"

@@ -11,7 +11,7 @@
 #include "records/charset.h"
 #include "records/checkworld.h"
 #include "records/modWresCheck.h"
-#include "show/tvratings.h"
+#include "show/attendance.h"
 #include "support/defaultworld.h"
 #include "support/smallworld.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "show/scoring.h"
+#include "show/ratings.h"
 #include "storylines/feuds.h"
 #include "storylines/partners.h"
 

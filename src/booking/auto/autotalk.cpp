@@ -5,7 +5,7 @@
 #include "booking/auto/automatches.h"
 #include "booking/wizard/casting.h"
 #include "records/angles.h"
-#include "show/scoring.h"
+#include "show/runsegment.h"
 #include "storylines/feuds.h"
 #include "storylines/partners.h"
 

@@ -2,7 +2,7 @@
 
 #include "booking/auto/automatches.h"
 #include "records/dates.h"
-#include "show/feudslots.h"
+#include "show/showfeuds.h"
 #include "storylines/feuds.h"
 #include "storylines/partners.h"
 #include "storylines/titles.h"

@@ -3,7 +3,7 @@
 #include "booking/sheet.h"
 #include "records/counted.h"
 #include "records/segments.h"
-#include "report/linememory.h"
+#include "report/report.h"
 #include "show/holdshow.h"
 #include "storylines/screens/screenpeople.h"
 

@@ -150,7 +150,7 @@ class frmBookEnding : public MatchStepScreen {
   frmBookEnding(Game& game, WizardHost& host)
       : MatchStepScreen(game, host),
         row_(kEndings[wizard().Step - kFinishStep]),
-        runIns_(row_.Does == kPurposeStep ? 0 : FindMatchStyle(buffer().Style)->RunIns) {}
+        runIns_(row_.Does == kPurposeStep ? 0 : FindMatchForm(buffer().Style)->RunIns) {}
 
  private:
   void Prepare() override {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "booking/wizard/roster.h"
-#include "show/turncalls.h"
+#include "show/turns.h"
 
 // Interviews: who speaks, about whom, what for.
 

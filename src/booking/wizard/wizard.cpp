@@ -29,16 +29,16 @@ void ClearCast(Segment& segment) {
 
 // The wizard's screens of the steps that look different from style to style.
 
-template <std::string_view MatchStyleRow::*screen>
-std::string_view ByMatchStyle(const Segment& segment) {
-  const MatchStyleRow* style = FindMatchStyle(segment.Style);
-  return style ? style->*screen : std::string_view();
+template <std::string_view MatchForm::*screen>
+std::string_view ByMatchForm(const Segment& segment) {
+  const MatchForm* form = FindMatchForm(segment.Style);
+  return form ? form->*screen : std::string_view();
 }
 
-template <std::string_view InterviewStyleRow::*screen>
-std::string_view ByInterviewStyle(const Segment& segment) {
-  const InterviewStyleRow* style = FindInterviewStyle(segment.Style);
-  return style ? style->*screen : std::string_view();
+template <std::string_view InterviewForm::*screen>
+std::string_view ByInterviewForm(const Segment& segment) {
+  const InterviewForm* form = FindInterviewForm(segment.Style);
+  return form ? form->*screen : std::string_view();
 }
 
 std::string_view ByResult(const Segment& segment) {
@@ -154,24 +154,24 @@ constexpr StepRow kMatchSteps[] = {
     {"Select Match Style", "frmBookType", nullptr, ClearStyle, StyleSummary},
     {"Select Match Type", "frmBookMatchStyle", nullptr, [](Segment& s) { s.MatchType = 0; },
      TypeSummary},
-    {"Select Participants", "", ByMatchStyle<&MatchStyleRow::People>,
+    {"Select Participants", "", ByMatchForm<&MatchForm::People>,
      [](Segment& s) { s.Worker = {}; }, PeopleSummary},
     {"Select Title", "frmBookBelt", nullptr, [](Segment& s) { s.TitleName = "None"; },
      TitleSummary},
     {"Select Result", "", ByResult, ClearResult, ResultSummary},
-    {"Select Finish", "", ByMatchStyle<&MatchStyleRow::Finish>,
+    {"Select Finish", "", ByMatchForm<&MatchForm::Finish>,
      [](Segment& s) { s.Finish = s.Other1 = s.Other2 = 0; }, FinishSummary},
     // Its run-ins share a field with those of the finish in a singles match.
-    {"Select Aftermath", "", ByMatchStyle<&MatchStyleRow::Aftermath>,
+    {"Select Aftermath", "", ByMatchForm<&MatchForm::Aftermath>,
      [](Segment& s) { s = BeforeAftermath(s); }, AftermathSummary},
-    {"Select Purpose", "", ByMatchStyle<&MatchStyleRow::Purpose>, ClearPurpose, PurposeSummary},
+    {"Select Purpose", "", ByMatchForm<&MatchForm::Purpose>, ClearPurpose, PurposeSummary},
 };
 constexpr StepRow kInterviewSteps[] = {
     kKindRow,
     {"Select Interview Style", "frmIVType", nullptr, ClearStyle, TalkStyleSummary},
-    {"Select Participants", "", ByInterviewStyle<&InterviewStyleRow::SpeakersScreen>,
+    {"Select Participants", "", ByInterviewForm<&InterviewForm::SpeakersScreen>,
      [](Segment& s) { s.Worker = {}; }, SpeakersSummary},
-    {"Select Targets", "", ByInterviewStyle<&InterviewStyleRow::TargetsScreen>, ClearTargets,
+    {"Select Targets", "", ByInterviewForm<&InterviewForm::TargetsScreen>, ClearTargets,
      TargetsSummary},
     {"Select Interview Purpose", "frmIVPurpose", nullptr, ClearPurpose, TalkPurposeSummary},
 };
@@ -195,7 +195,7 @@ const StepRow* RowOf(const Segment& segment, int step) {
 
 /// The winner is the last step of a match, or the finish, or the purpose.
 int MatchSteps(int style) {
-  const MatchStyleRow* row = FindMatchStyle(style);
+  const MatchForm* row = FindMatchForm(style);
   if (!row || row->Finish.empty()) return kResultStep + 1;
   return (row->Purpose.empty() ? kFinishStep : kPurposeStep) + 1;
 }

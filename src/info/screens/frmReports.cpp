@@ -1,7 +1,7 @@
 #include "info/screens/chroniclescreens.h"
 #include "records/dates.h"
 #include "report/report.h"
-#include "show/reportcolumn.h"
+#include "show/recap.h"
 
 namespace grapplemont {
 

@@ -4,7 +4,7 @@
 #include "info/screens/chroniclescreens.h"
 #include "records/dates.h"
 #include "records/modVar.h"
-#include "show/reportcolumn.h"
+#include "show/recap.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {

@@ -1,0 +1,231 @@
+#include "report/stages.h"
+
+#include <algorithm>
+
+#include "records/segmentparts.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// The cast's letter of whom a purpose is about; 0 for nobody.
+char LetterOf(Part part) {
+  constexpr struct {
+    Part Whom;
+    char Letter;
+  } kLetters[] = {{Part::Winner, 'w'},    {Part::Loser, 'l'},      {Part::Worker1, '1'},
+                  {Part::Worker2, '2'},   {Part::Worker3, '3'},    {Part::Worker4, '4'},
+                  {Part::FirstTeam, 'F'}, {Part::SecondTeam, 'S'}, {Part::Other1, 'o'},
+                  {Part::Other2, 'p'},    {Part::Other3, 'q'},     {Part::Other4, 'r'},
+                  {Part::Others12, 'O'},  {Part::Others34, 'Q'}};
+  for (const auto& row : kLetters)
+    if (row.Whom == part) return row.Letter;
+  return 0;
+}
+
+constexpr int kBoilingHeat = 50;
+
+bool IsIn(const Feud& feud, const Person* person) {
+  for (const int uid : {feud.Worker1, feud.Worker2, feud.Worker3, feud.Worker4})
+    if (uid != 0 && uid == person->Uid) return true;
+  return false;
+}
+
+/// 1 or 2 for the side of the feud that the person is on, 0 for none.
+int FeudSideOf(const Feud& feud, const Person* person) {
+  if (!IsIn(feud, person)) return 0;
+  if (feud.Singles) return person->Uid == feud.Worker1 ? 1 : 2;
+  return person->Uid == feud.Worker1 || person->Uid == feud.Worker2 ? 1 : 2;
+}
+
+bool SetsApart(const Feud& feud, const Party& one, const Party& two) {
+  for (const Person* a : one.People)
+    for (const Person* b : two.People) {
+      const int sideA = FeudSideOf(feud, a), sideB = FeudSideOf(feud, b);
+      if (sideA != 0 && sideB != 0 && sideA != sideB) return true;
+    }
+  return false;
+}
+
+bool TakesPartAsEntrant(const Teller& teller, int uid) {
+  const auto people = PeopleOf(teller.segment);
+  return uid != 0 && std::find(people.begin(), people.end(), uid) != people.end();
+}
+
+void TellStake(Teller& teller) {
+  const int holder = teller.scene.Champion;
+  if (holder == 0) {
+    teller.Say(Family::TitleOpening, kVacant);
+  } else if (!TakesPartAsEntrant(teller, holder)) {
+    teller.Say(Family::TitleOpening, kChampionAway);
+  } else {
+    const int partner = teller.scene.CoChampion;
+    teller.cast.Set('c', teller.world, {holder, TakesPartAsEntrant(teller, partner) ? partner : 0});
+    teller.Say(Family::TitleOpening, kDefended);
+  }
+}
+
+/// Both halves of a tag champion have to be there, side by side.
+bool IsHeldBy(const Title& title, const Segment& segment, int uid) {
+  if (title.Holder != uid) return false;
+  return title.Singles || (title.Partner != 0 && title.Partner != uid &&
+                           SideOf(segment, title.Partner) == SideOf(segment, uid));
+}
+
+/// A champion in a match without a Title at stake: the first one found, by the match's places.
+void TellChampion(Teller& teller) {
+  for (const int uid : PeopleOf(teller.segment))
+    for (const Title& title : teller.world.Titles()) {
+      if (!IsHeldBy(title, teller.segment, uid) || title.Suspended ||
+          title.Owner != teller.world.PlayerUid())
+        continue;
+      teller.cast.Set('c', teller.world,
+                      {uid, title.Singles ? 0 : static_cast<int>(title.Partner)});
+      if (teller.cast.Of('c').Empty()) continue;
+      teller.cast.Set(Item::Title, TitleInProse(title.Name, title.Singles));
+      teller.Say(Family::ChampionNote);
+      teller.cast.Set(Item::Title, {});
+      return;
+    }
+}
+
+/// The sides as parties; everybody is a side of his own where all fight all.
+std::vector<Party> Parties(Teller& teller) {
+  std::vector<Party> parties;
+  for (const auto& side : SidesOf(teller.segment)) {
+    Party party = teller.cast.Together(teller.world, side);
+    if (!party.Empty()) parties.push_back(std::move(party));
+  }
+  return parties;
+}
+
+}  // namespace
+
+FeudOfSides FeudTold(Teller& teller) {
+  const auto parties = Parties(teller);
+  for (const Feud& feud : teller.world.Feuds()) {
+    if (feud.Worker1 == 0) continue;
+    for (std::size_t one = 0; one < parties.size(); ++one)
+      for (std::size_t two = one + 1; two < parties.size(); ++two)
+        if (SetsApart(feud, parties[one], parties[two])) return {&feud, parties[one], parties[two]};
+  }
+  return {};
+}
+
+void SayFeud(Teller& teller, const FeudOfSides& feud, Family family, int band) {
+  Cast& cast = teller.cast;
+  const Party first = cast.Of('F'), second = cast.Of('S');
+  cast.Of('F') = feud.One;
+  cast.Of('S') = feud.Two;
+  teller.Say(family, band);
+  cast.Of('F') = first;
+  cast.Of('S') = second;
+}
+
+void TellOpening(Teller& teller) {
+  const Segment& segment = teller.segment;
+  if (FindMatchType(segment.Style, segment.MatchType))
+    teller.Say(Family::Opening, Bout(segment.Style, segment.MatchType));
+  if (!teller.cast.Thing(Item::Title).empty())
+    TellStake(teller);
+  else
+    TellChampion(teller);
+  if (const FeudOfSides feud = FeudTold(teller); feud.Between)
+    SayFeud(teller, feud, Family::FeudOpening,
+            feud.Between->Heat >= kBoilingHeat ? kBoils : kSimmers);
+  const PurposeRow purpose = PurposeOf(segment);
+  if (purpose.Does != Aim::Debuts || IsRunIn(purpose.Whom)) return;
+  TurnOf(teller, LetterOf(purpose.Whom));
+  teller.Say(Family::DebutOpening);
+}
+
+namespace {
+
+void TellPurpose(Teller& teller, const PurposeRow& purpose) {
+  if (purpose.Whom != Part::Nobody) {
+    TurnOf(teller, LetterOf(purpose.Whom));
+    if (teller.cast.Of('t').Empty()) return;
+  }
+  switch (purpose.Does) {
+    case Aim::GoodMatch:
+      teller.Say(Family::PurposeEnding, kGoodMatchTold);
+      break;
+    case Aim::PutsOver:
+      teller.Say(Family::PurposeEnding, kPutOverTold);
+      break;
+    case Aim::BothOver:
+      teller.Say(Family::PurposeEnding, kBothOverTold);
+      break;
+    case Aim::EyeCandy:
+      teller.Say(Family::PurposeEnding, kEyeCandyTold);
+      break;
+    case Aim::Debuts:
+      if (IsRunIn(purpose.Whom)) teller.Say(Family::PurposeEnding, kRunInDebutTold);
+      break;
+    case Aim::Turns:
+      TellTurn(teller);
+      break;
+    default:
+      break;
+  }
+}
+
+/// The turns that a tag match's finish and aftermath name.
+void TellTagTurns(Teller& teller) {
+  if (teller.segment.Style != kTag) return;
+  const int aftermath = teller.segment.Aftermath;
+  if (teller.segment.Finish == kPartnerTurns && !teller.cast.Of('w').Empty()) {
+    TurnOf(teller, 'k');
+    TellTurn(teller);
+  }
+  if (aftermath >= after2::kFirstTurns && aftermath <= after2::kFourthTurns) {
+    TurnOf(teller, static_cast<char>('1' + aftermath - after2::kFirstTurns));
+    TellTurn(teller);
+  }
+}
+
+/// Finishes of six and eight who turn.
+void TellSideTurn(Teller& teller) {
+  const int style = teller.segment.Style, place = teller.segment.Finish - kFirstTurns;
+  if (style != kThreeOnThree && style != kFourOnFour) return;
+  if (place < 0 || place >= EntrantsOf(teller.segment)) return;
+  TurnOf(teller, static_cast<char>('1' + place));
+  TellTurn(teller);
+}
+
+}  // namespace
+
+void TurnOf(Teller& teller, char part) {
+  teller.cast.Of('t') = teller.cast.Of(part);
+}
+
+void TellTurn(Teller& teller) {
+  Party& turner = teller.cast.Of('t');
+  const auto& booked = teller.scene.Turners;
+  std::erase_if(turner.People, [&](const Person* person) {
+    return std::find(booked.begin(), booked.end(), person->Uid) == booked.end();
+  });
+  if (turner.People.empty()) return;
+  const Worker* worker = teller.world.FindWorker(turner.People[0]->Uid);
+  if (!worker) return;
+  int band = worker->Disposition == "F" ? kTurnsHeel : kTurnsFace;
+  if (worker->Disposition == "T") band = kTweenerTurns;
+  teller.Say(Family::Turn, worker->TurnPending ? band : int(kBaffling));
+}
+
+void TellAftermath(Teller& teller) {
+  const Segment& segment = teller.segment;
+  if (segment.Style == kSingles)
+    teller.Say(Family::SinglesAftermath, segment.Aftermath);
+  else if (segment.Style == kTag)
+    teller.Say(Family::TagAftermath, segment.Aftermath);
+  TellTagTurns(teller);
+  TellSideTurn(teller);
+  const PurposeRow purpose = PurposeOf(segment);
+  TellPurpose(teller, purpose);
+  if (const FeudOfSides feud = FeudTold(teller); feud.Between)
+    SayFeud(teller, feud, Family::FeudEnding,
+            purpose.Does == Aim::EndsFeud ? kFeudIsOver : kFeudGoesOn);
+}
+
+}  // namespace grapplemont

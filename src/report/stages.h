@@ -1,0 +1,47 @@
+#pragma once
+
+#include "records/storyrecords.h"
+#include "report/ring.h"
+#include "report/teller.h"
+
+namespace grapplemont {
+
+/// A feud and the two sides of the Segment that it sets against each other.
+struct FeudOfSides {
+  const Feud* Between = nullptr;  // nullptr for none
+  Party One, Two;
+};
+/// The first feud between any two of the Segment's sides.
+FeudOfSides FeudTold(Teller& teller);
+/// Says a line of the feud, with {F} and {S} for its two sides.
+void SayFeud(Teller& teller, const FeudOfSides& feud, Family family, int band);
+
+// The stages of a report, in the order in which a match passes through them.
+
+/// Who fights whom and what for: the match itself, the Title, a feud, a champion, a debut.
+void TellOpening(Teller& teller);
+/// The bout by its row, up to its end.
+void TellBody(Teller& teller, const BoutRow& bout);
+/// How the booked result comes about.
+void TellFinish(Teller& teller, const BoutRow& bout);
+/// What becomes of the Title.
+void TellTitleEnding(Teller& teller);
+/// After the bell: the aftermath, turns, what the match was booked for, the feud.
+void TellAftermath(Teller& teller);
+
+// The bouts of a shape of their own; each tells its end as well.
+void TellIronMan(Teller& teller, const BoutRow& bout);
+void TellEliminations(Teller& teller, const BoutRow& bout);
+void TellSurvivor(Teller& teller, const BoutRow& bout);
+void TellRumble(Teller& teller);
+void TellBattleRoyal(Teller& teller);
+
+void TellInterview(Teller& teller);
+void TellAngle(Teller& teller);
+
+/// Says that the part t turns, if somebody plays it, by where he stands.
+void TellTurn(Teller& teller);
+/// Sets the part t to the people of this one.
+void TurnOf(Teller& teller, char part);
+
+}  // namespace grapplemont

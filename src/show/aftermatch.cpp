@@ -1,0 +1,244 @@
+#include "show/aftermatch.h"
+
+#include <algorithm>
+#include <array>
+
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "records/segmentparts.h"
+#include "roster/postings.h"
+#include "show/legend.h"
+#include "show/overchange.h"
+#include "show/ratings.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// Condition lost by Strain: so much and a draw.
+struct Wear {
+  int Sure;
+  int Draw;
+};
+constexpr Wear kWear[] = {{3, 2}, {5, 5}, {8, 7}, {12, 16}, {20, 30}};  // Strain 1 to 5
+
+/// How a match moves morale, for those whose Attitude is at least From. The falls add up.
+struct MoraleBand {
+  int From;
+  int Better;    // the match was above the worker's standing
+  int Worse;     // below it
+  int FarWorse;  // more than 5 below
+  int Dreadful;  // more than 10 below
+};
+constexpr MoraleBand kMoraleBands[] = {
+    {75, 3, -5, -5, -7}, {50, 3, -5, -5, -5}, {25, 2, -3, -3, -3}};
+constexpr int kMatchAhead = 15;
+
+/// A match of this quality carries those below the Over with it.
+struct Showcase {
+  int OverBelow;
+  int QualityFrom;
+  int Gain;
+};
+// The second sees what the first has given.
+constexpr Showcase kShowcases[] = {{80, 91, 5}, {40, 66, 3}};
+
+constexpr int kWinnersJoy = 3;
+
+void WearOut(SegmentRun& run, Worker& worker) {
+  if (run.Strain < 1) return;
+  const Wear& wear = kWear[std::min(run.Strain, static_cast<int>(std::size(kWear))) - 1];
+  worker.Condition -= wear.Sure + run.World.RandomDraw(wear.Draw);
+}
+
+int MoraleFrom(int attitude, int matchLevel, int workerLevel) {
+  for (const MoraleBand& band : kMoraleBands) {
+    if (attitude < band.From) continue;
+    int change = 0;
+    if (matchLevel > workerLevel) change += band.Better;
+    if (matchLevel < workerLevel) change += band.Worse;
+    if (matchLevel + 5 < workerLevel) change += band.FarWorse;
+    if (matchLevel + 10 < workerLevel) change += band.Dreadful;
+    return change;
+  }
+  return 0;
+}
+
+}  // namespace
+
+void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
+  const int matchLevel = WeighRating(run.Quality, run.Crowd) + kMatchAhead;
+  const int workerLevel = WeighRating(BestSkill(worker), worker.Over);
+  int over = worker.Over, morale = worker.Morale;
+  if (isWinner) {
+    morale += run.World.RandomDraw(kWinnersJoy);
+  } else {
+    const CardPull pull = CheckCardPosition(run.World, worker);
+    over += pull.Over;
+    morale += pull.Morale;
+    WearOut(run, worker);
+    morale += MoraleFrom(worker.Attitude, matchLevel, workerLevel);
+  }
+  for (const Showcase& showcase : kShowcases)
+    if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom) over += showcase.Gain;
+  ReportOver(run, worker, ChangeOver(worker, over - worker.Over), true);
+  worker.Morale = morale;
+}
+
+namespace {
+
+constexpr int kMoods = 6;
+constexpr int kMoodToWrite = 2;
+/// From this Attitude on somebody complains of being pushed, or asks politely to be.
+constexpr int kModest = 81;
+constexpr int kPolite = 61;
+
+constexpr std::string_view kPushedTooHigh =
+    "I think you might be pushing me too high up the card, the fans seem to be resenting me.";
+constexpr Wording kHeldPolitely = {
+    "I think i should be higher up the card.",
+    "Brother, I think Maulamania should be running wild higher up the card!"};
+constexpr Wording kHeldBluntly = {
+    "I should be higher on the card, promote me up the roster.",
+    "I should be higher on the card, promote me up the roster, brother!"};
+
+void TellRoadAgent(World& world, const Worker& worker, const std::string& before,
+                   const std::string& after) {
+  AddNews(world, "Road Agent",
+          worker.Name.Str() + before + (worker.Gender ? "him" : "her") + after);
+}
+
+CardPull PushedTooHigh(World& world, const Worker& worker, int fit, int mood) {
+  CardPull pull;
+  if (worker.Position < fit - 1) pull.Over -= 1;
+  if (worker.Position < fit - 2) {
+    pull.Over -= 2;
+    TellRoadAgent(world, worker, " is losing heat because you are pushing ", " too much.");
+  }
+  if (worker.Attitude >= kModest && mood == kMoodToWrite && !IsLegend(worker))
+    AddNews(world, worker.Name, kPushedTooHigh);
+  return pull;
+}
+
+CardPull HeldTooLow(World& world, const Worker& worker, int fit, int mood) {
+  CardPull pull;
+  if (worker.Position - 1 > fit) pull.Morale -= 3;
+  if (worker.Position - 2 > fit) {
+    pull.Morale -= 5;
+    TellRoadAgent(world, worker, " is losing morale because you are not pushing ", " enough.");
+  }
+  if (mood == kMoodToWrite)
+    AddNews(world, worker.Name,
+            (worker.Attitude >= kPolite ? kHeldPolitely : kHeldBluntly).By(worker));
+  return pull;
+}
+
+}  // namespace
+
+CardPull CheckCardPosition(World& world, const Worker& worker) {
+  if (worker.Position == kNonWrestler || worker.Position == kManager) return {};
+  const int fit = FittingPosition(world.Player().Size, worker.Over);
+  const int mood = world.RandomDraw(kMoods);
+  if (worker.Position < fit) return PushedTooHigh(world, worker, fit, mood);
+  if (worker.Position > fit) return HeldTooLow(world, worker, fit, mood);
+  return {};
+}
+
+namespace {
+
+constexpr std::array<std::string_view, 12> kInjuries = {
+    "Broken Arm",  "Broken Leg", "Back Injury", "Tricep Tear",  "Neck Injury",  "Eye Injury",
+    "Broken Nose", "Torn Calf",  "Knee Injury", "Ankle Injury", "Damaged Hand", "Ripped Bicep"};
+constexpr int kLongestMonths = 6;
+
+/// One in so many is hurt, by Strain.
+constexpr int kOddsByStrain[] = {0, 0, 0, 400, 250, 150};
+constexpr int kSickBumpOdds = 40;
+/// Below this Condition the odds double.
+constexpr int kWornOut = 40;
+
+bool TakesSickBump(const Segment& segment, int uid) {
+  return (segment.Style == kSingles || segment.Style == kTag) && segment.Finish == kSickBump &&
+         uid == FallenOf(segment);
+}
+
+/// 0 for a worker who runs no risk.
+int OddsOf(const SegmentRun& run, const Worker& worker) {
+  if (run.Strain < 0 || run.Strain >= static_cast<int>(std::size(kOddsByStrain))) return 0;
+  const int odds = TakesSickBump(run.Segment, worker.Uid)
+                       ? kSickBumpOdds
+                       : kOddsByStrain[static_cast<std::size_t>(run.Strain)];
+  return worker.Condition < kWornOut ? odds / 2 : odds;
+}
+
+}  // namespace
+
+void BreakSomething(World& world, Worker& worker) {
+  worker.Status = "Inj";
+  worker.InjuryName =
+      kInjuries[static_cast<std::size_t>(world.RandomDraw(static_cast<int>(kInjuries.size())) - 1)];
+  worker.StatusMonths = world.RandomDraw(kLongestMonths);
+  NoteDeed(world, kDeedInjured, world.FindPromotion(worker.Employer), worker.Name,
+           worker.InjuryName, worker.StatusMonths);
+}
+
+void Injure(SegmentRun& run, Worker& worker) {
+  if (worker.Status == "Inj") return;
+  BreakSomething(run.World, worker);
+  run.Notes += worker.Name.Str() + " has sustained an injury as a result of a bad bump! " +
+               StatusLine(worker) + ". ";
+}
+
+void DrawInjuries(SegmentRun& run) {
+  for (const int uid : PeopleOf(run.Segment)) {
+    Worker* worker = run.World.FindWorker(uid);
+    const int odds = worker ? OddsOf(run, *worker) : 0;
+    if (odds > 0 && run.World.RandomDraw(odds) == 1) Injure(run, *worker);
+  }
+}
+
+namespace {
+
+constexpr int kHardestBlow = 10;
+
+/// What the one who was hurt writes about the stiff one, whose name stands between the two.
+struct Complaint {
+  Wording Before;
+  Wording After;
+};
+constexpr Complaint kComplaints[] = {
+    // by the place of the one who was hurt
+    {{"", ""},
+     {" was working too stiff, i could have been injured.",
+      " was working too stiff, brother, the Maulster could have been injured!"}},
+    {{"I think ", "Brother, I think "},
+     {" was too reckless in my match, i could have been seriously hurt.",
+      " was too reckless in my match, the Maulster could have been seriously hurt!"}},
+    {{"Can you talk to ", "Brother, can you talk to "},
+     {"? There is a big difference between being enthusiastic and just being reckless.",
+      "? There is a big difference between being enthusiastic and just being reckless, brother!"}},
+    {{"", ""},
+     {" was working too stiffly, i could have been badly hurt. ",
+      " was working too stiffly, the Maulster could have been badly hurt, brother! "}},
+};
+
+}  // namespace
+
+void HurtOthers(SegmentRun& run, const Worker& stiff) {
+  const int partner = PartnerOf(run.Segment, stiff.Uid);
+  for (std::size_t place = 0; place < std::size(kComplaints); ++place) {
+    const int uid =
+        static_cast<int>(place) < EntrantsOf(run.Segment) ? run.Segment.Worker[place] : 0;
+    Worker* hurt = run.World.FindWorker(uid);
+    if (!hurt || uid == stiff.Uid || uid == partner) continue;
+    const int blow = run.World.RandomDraw(kHardestBlow);
+    hurt->Condition -= blow;
+    if (blow < kHardestBlow) continue;
+    const Complaint& complaint = kComplaints[place];
+    AddNews(run.World, hurt->Name,
+            std::string(complaint.Before.By(*hurt)) + stiff.Name.Str() +
+                std::string(complaint.After.By(*hurt)));
+  }
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "show/segmentrun.h"
+
+// A Segment of a show from its scoring to what it changes.
+
+namespace grapplemont {
+
+/// A told Segment: everything a spectator reads of it.
+struct ToldSegment {
+  Score Quality, Crowd, Overall;
+  std::string Notes;   // of the road agent
+  std::string Report;  // prose
+  std::string Verdict;
+};
+
+class LineMemory;
+/// Runs record `number` of match.dat in the show under way: scores it, tells it, changes what it
+/// changes, adds it to the show's sum and writes its rating. `memory` is nullptr for a run without
+/// prose.
+ToldSegment RunSegment(World& world, int number, LineMemory* memory);
+
+/// With a match's score: wear, morale and card position of everybody, Over by the result, the
+/// tallies of feuds, the end of a feud, injuries.
+void MatchConsequences(SegmentRun& run);
+/// Teams that were in the match have one match more behind them.
+void GainTeamExperience(SegmentRun& run);
+
+}  // namespace grapplemont

@@ -1,0 +1,251 @@
+#include "show/showfeuds.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "records/angles.h"
+#include "records/segmentacts.h"
+#include "records/segmentparts.h"
+#include "show/ratings.h"
+#include "storylines/feuds.h"
+
+namespace grapplemont {
+
+int FeudSideOf(const Feud& feud, int uid) {
+  if (IsFreeSlot(feud)) return 0;
+  const FeudSides sides = SidesOf(feud);
+  if (sides.One.Has(uid)) return 1;
+  return sides.Two.Has(uid) ? 2 : 0;
+}
+
+bool AreEnemies(const Feud& feud, int workerX, int workerY) {
+  const int sideX = FeudSideOf(feud, workerX), sideY = FeudSideOf(feud, workerY);
+  return sideX != 0 && sideY != 0 && sideX != sideY;
+}
+
+int FeudSlotOf(const World& world, int workerX, int workerY) {
+  for (int slot = 1; slot <= world.Feuds().Count(); ++slot)
+    if (AreEnemies(world.Feuds()[slot], workerX, workerY)) return slot;
+  return 0;
+}
+
+void MarkFeud(World& world, ShowRun& show, int workerX, int workerY) {
+  for (int slot = 1; slot <= world.Feuds().Count(); ++slot)
+    if (AreEnemies(world.Feuds()[slot], workerX, workerY))
+      show.FeudTouched[static_cast<std::size_t>(slot - 1)] = true;
+}
+
+namespace {
+
+/// One test of a heat on the move: where it lies more than `Off` from its target it goes `By`.
+struct HeatStep {
+  int Off;
+  int By;
+  int TalkBelow;  // talk alone raises no heat that has got this far
+};
+constexpr HeatStep kHeatSteps[] = {{0, 1, 90}, {5, 4, 86}, {10, 4, 79}, {15, 6, 75}};
+
+constexpr int kLeastLift = 5;
+constexpr int kLiftDraw = 5;
+
+constexpr int kTalkDraw = 15;
+constexpr int kTalkBonus = 15;
+/// Enemies who end up in each other's arms cool down, however well they do it.
+constexpr int kAngleTarget = 15;
+
+std::string FeudText(const World& world, const Feud& feud) {
+  const FeudSides sides = SidesOf(feud);
+  return SideName(world, sides.One) + " and " + SideName(world, sides.Two);
+}
+
+bool StandWhole(const Feud& feud, int workerA, int partnerA, int workerB, int partnerB) {
+  const int sideA = FeudSideOf(feud, workerA), sideB = FeudSideOf(feud, workerB);
+  return sideA != 0 && sideB != 0 && sideA != sideB && FeudSideOf(feud, partnerA) == sideA &&
+         FeudSideOf(feud, partnerB) == sideB;
+}
+
+void MarkSlot(SegmentRun& run, int slot) {
+  run.Show.FeudTouched[static_cast<std::size_t>(slot - 1)] = true;
+}
+
+int TalkTarget(SegmentRun& run) {
+  if (run.Segment.Kind == kAngle) return kAngleTarget;
+  return std::min(Score::Floor(run.Crowd * 85, 100) + run.World.RandomDraw(kTalkDraw) + kTalkBonus,
+                  100);
+}
+
+/// By the places of an interview of that number, for angles too; the two people of an angle face
+/// each other besides.
+bool SpeakAgainst(const Feud& feud, const Segment& segment) {
+  const InterviewStyleRow* row = FindInterviewStyle(segment.Style);
+  if (!row) return false;
+  const auto& workers = segment.Worker;
+  if (segment.Kind == kAngle && AreEnemies(feud, workers[0], workers[1])) return true;
+  const auto targets = workers.begin() + row->Speakers;
+  return std::any_of(workers.begin(), targets, [&](int speaker) {
+    return std::any_of(targets, targets + row->Targets,
+                       [&](int target) { return AreEnemies(feud, speaker, target); });
+  });
+}
+
+}  // namespace
+
+int MoveHeat(int heat, int target, HeatRise rise) {
+  for (const HeatStep& step : kHeatSteps)
+    if (heat - step.Off > target) heat -= step.By;
+  for (const HeatStep& step : kHeatSteps) {
+    const bool isHeldBack = rise == HeatRise::HeldBack && heat >= step.TalkBelow;
+    if (heat + step.Off < target && !isHeldBack) heat += step.By;
+  }
+  return std::clamp(heat, 0, 100);
+}
+
+int FeudSlotOfTeams(const World& world, int workerA, int partnerA, int workerB, int partnerB) {
+  for (int slot = 1; slot <= world.Feuds().Count(); ++slot) {
+    const Feud& feud = world.Feuds()[slot];
+    if (!feud.Singles && StandWhole(feud, workerA, partnerA, workerB, partnerB)) return slot;
+  }
+  return 0;
+}
+
+void FeudLift(SegmentRun& run, int slot) {
+  if (slot == 0) return;
+  MarkSlot(run, slot);
+  const Feud& feud = run.World.Feuds()[slot];
+  if (run.Crowd >= feud.Heat) return;
+  const int lifted = run.Crowd + kLeastLift + run.World.RandomDraw(kLiftDraw);
+  run.Crowd.Become(
+      std::min<int>(lifted, feud.Heat),
+      "feud of " + FeudText(run.World, feud) + ", up to its heat " + std::to_string(feud.Heat));
+}
+
+void HeatFollowsMatch(SegmentRun& run) {
+  const int slot = FeudSlotOf(run.World, run.Segment.Worker[0], run.Segment.Worker[1]);
+  if (slot == 0) return;
+  MarkSlot(run, slot);
+  Feud& feud = run.World.Feuds()[slot];
+  feud.Heat = MoveHeat(feud.Heat, WeighRating(run.Quality, run.Crowd), HeatRise::Free);
+}
+
+void HeatFollowsTalk(SegmentRun& run) {
+  const int target = TalkTarget(run);
+  for (int slot = 1; slot <= run.World.Feuds().Count(); ++slot) {
+    Feud& feud = run.World.Feuds()[slot];
+    if (!SpeakAgainst(feud, run.Segment)) continue;
+    MarkSlot(run, slot);
+    feud.Heat = MoveHeat(feud.Heat, target, HeatRise::HeldBack);
+  }
+}
+
+namespace {
+
+/// So many clean wins, and a side begins to bore.
+constexpr int kCleanWins = 8;
+constexpr int kBored = 2;
+/// So many wins ahead of a side that has won fairly as well, and it is over.
+constexpr int kRunaway = 5;
+constexpr int kRunawayCools = 5;
+
+constexpr int kCleanFinishes[] = {kClean, kCountOut, kSickBump, kMiscommunication};
+
+/// A side's counters in the record.
+struct Counters {
+  Natural& Clean;
+  Natural& Cheap;
+  Natural& Verbal;
+  Natural& Attacks;
+  int Wins() const { return Clean + Cheap; }
+};
+
+Counters CountersOf(Feud& feud, int side) {
+  if (side == 1) return {feud.Clean1, feud.Dirty1, feud.Interference1, feud.Sneak1};
+  return {feud.Clean2, feud.Dirty2, feud.Interference2, feud.Sneak2};
+}
+
+void Cool(Feud& feud) {
+  const Counters a = CountersOf(feud, 1), b = CountersOf(feud, 2);
+  int heat = feud.Heat;
+  if (a.Clean > kCleanWins) heat -= kBored;
+  if (b.Clean > kCleanWins) heat -= kBored;
+  if (a.Wins() > b.Wins() + kRunaway && b.Clean > 0) heat -= kRunawayCools;
+  if (b.Wins() > a.Wins() + kRunaway && a.Clean > 0) heat -= kRunawayCools;
+  feud.Heat = heat;
+}
+
+/// Adds one to a counter of `uid` in the first feud against `enemy`; nullptr where there is none.
+Feud* Count(World& world, int uid, int enemy, Natural& (*counter)(const Counters&)) {
+  const int slot = FeudSlotOf(world, uid, enemy);
+  if (slot == 0) return nullptr;
+  Feud& feud = world.Feuds()[slot];
+  ++counter(CountersOf(feud, FeudSideOf(feud, uid)));
+  return &feud;
+}
+
+bool CountsWins(const Segment& segment) {
+  const int style = segment.Style;
+  return style == kSingles || style == kTag || style == kThreeOnThree ||
+         (style == kFourOnFour && segment.MatchType == kPlainEightMan);
+}
+
+bool IsCleanWin(const Segment& segment) {
+  if (segment.Style != kSingles && segment.Style != kTag) return segment.Finish == kClean;
+  return std::find(std::begin(kCleanFinishes), std::end(kCleanFinishes), int(segment.Finish)) !=
+         std::end(kCleanFinishes);
+}
+
+}  // namespace
+
+void TallyWin(SegmentRun& run, int winnerUid, int loserUid, bool isClean) {
+  const int slot = FeudSlotOf(run.World, winnerUid, loserUid);
+  if (slot == 0) return;
+  Feud* feud = Count(
+      run.World, winnerUid, loserUid,
+      isClean ? +[](const Counters& side) -> Natural& { return side.Clean; }
+              : +[](const Counters& side) -> Natural& { return side.Cheap; });
+  run.Show.FeudTouched[static_cast<std::size_t>(slot - 1)] = true;
+  Cool(*feud);
+}
+
+void TallyVerbal(SegmentRun& run, int speakerUid, int targetUid) {
+  Feud* feud = Count(run.World, speakerUid, targetUid,
+                     [](const Counters& side) -> Natural& { return side.Verbal; });
+  if (feud) Cool(*feud);
+}
+
+void TallyAttack(SegmentRun& run, int attackerUid, int targetUid) {
+  Count(run.World, attackerUid, targetUid,
+        [](const Counters& side) -> Natural& { return side.Attacks; });
+}
+
+void TallyResult(SegmentRun& run) {
+  const Segment& segment = run.Segment;
+  if (!IsDraw(segment) && CountsWins(segment))
+    TallyWin(run, segment.Winner, FallenOf(segment), IsCleanWin(segment));
+}
+
+namespace {
+
+using Pairs = std::vector<std::pair<int, int>>;
+
+/// A pair attacks a pair man by man; one alone is attacked by both, or attacks both.
+void AddPairs(Pairs& pairs, const std::vector<int>& by, const std::vector<int>& on) {
+  if (by.empty() || on.empty()) return;
+  for (std::size_t i = 0; i < std::max(by.size(), on.size()); ++i) {
+    const std::pair pair{by[std::min(i, by.size() - 1)], on[std::min(i, on.size() - 1)]};
+    // However often he hits the same one, it was one attack.
+    if (std::find(pairs.begin(), pairs.end(), pair) == pairs.end()) pairs.push_back(pair);
+  }
+}
+
+}  // namespace
+
+void TallyAttacks(SegmentRun& run) {
+  Pairs pairs;
+  for (const Act& act : ActsOf(run.Segment))
+    if (act.Is(kFeudAttack))
+      AddPairs(pairs, PeopleOf(run.Segment, act.By), PeopleOf(run.Segment, act.On));
+  for (const auto& [attacker, target] : pairs) TallyAttack(run, attacker, target);
+}
+
+}  // namespace grapplemont

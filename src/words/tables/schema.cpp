@@ -1,0 +1,218 @@
+#include "words/tables/schema.h"
+
+#include <string>
+
+namespace grapplemont {
+
+namespace {
+
+using enum Column::Kind;
+
+constexpr std::string_view kSame = "=Says";
+
+/// Codes with a phrase for lists and one for the wizard's summary, in a namespace of their own.
+Table Phrases(std::string_view heading, std::string_view space, std::string_view array) {
+  return {heading,
+          {{"Code", Number}, {"Rule", RuleName}, {"Says", Phrase}, {"Summary", Phrase, kSame}},
+          {"Code"},
+          false,
+          space,
+          "Code",
+          "Code",
+          {{"segments", "Phrase", array, {"Code", "Says", "Summary"}}}};
+}
+
+Table Purposes(std::string_view heading, std::string_view space, std::string_view array,
+               std::string_view aims, std::string_view style) {
+  Table table = Phrases(heading, space, array);
+  table.Columns.insert(
+      table.Columns.begin() + 2,
+      {{"Aim",
+        Choice,
+        "Aim::Nothing",
+        "Aim::",
+        {"GoodMatch", "PutsOver", "BothOver", "EyeCandy", "Debuts", "Turns", "EndsFeud", "GoesOn"}},
+       {"Whom",
+        Choice,
+        "Part::Nobody",
+        "Part::",
+        {"Winner", "Loser", "Worker1", "Worker2", "Worker3", "Worker4", "FirstTeam", "SecondTeam",
+         "Other1", "Other2", "Other3", "Other4", "Others12", "Others34"}}});
+  table.Arrays.push_back({"purposes", "PurposeRow", aims, {style, "Code", "Aim", "Whom"}});
+  return table;
+}
+
+TableFile Segments() {
+  return {
+      "segments.txt",
+      {{"segments", {"records/segmentwords.h"}},
+       {"purposes", {"records/segmentparts.h", "words/segments.h"}}},
+      {{"Match styles",
+        {{"Code", Number}, {"Rule", RuleName}, {"Says"}, {"Sides", Number}, {"Per side", Number}},
+        {"Code"},
+        false,
+        "",
+        "MatchStyle",
+        "Code",
+        {{"segments", "MatchStyleRow", "kMatchStyles", {"Code", "Says", "Sides", "Per side"}}}},
+       {"Match types",
+        {{"Style", Rule, "", "", {}, "Match styles"},
+         {"Code", Number},
+         {"Rule", RuleName},
+         {"Says"},
+         {"Risk over", Number, "kAnyRisk"},
+         {"Size under", Number, "kAnySize"}},
+        {"Style", "Code"},
+        false,
+        "",
+        "MatchTypeCode",
+        "Code",
+        {{"segments",
+          "MatchTypeRow",
+          "kMatchTypes",
+          {"Style", "Code", "Says", "Risk over", "Size under"}}}},
+       {"Finishes of 1 vs 1 and 2 vs 2",
+        {{"Code", Number},
+         {"Rule", RuleName},
+         {"Says of 1 vs 1", Phrase, kLeavesOut},
+         {"Says of 2 vs 2", Phrase, kLeavesOut},
+         {"Summary", Phrase}},
+        {"Code"},
+        false,
+        "",
+        "Finish",
+        "Code",
+        {{"segments", "Phrase", "kSinglesFinishes", {"Code", "Says of 1 vs 1", "Summary"}},
+         {"segments", "Phrase", "kTagFinishes", {"Code", "Says of 2 vs 2", "Summary"}}}},
+       {"Finishes of 3 vs 3 and 4 vs 4",
+        {{"3 vs 3", Number, kLeavesOut},
+         {"4 vs 4", Number},
+         {"Rule", RuleName},
+         {"Says", Phrase},
+         {"Summary", Phrase, kSame}},
+        {"4 vs 4"},
+        false,
+        "",
+        "",
+        "4 vs 4",
+        {{"segments", "Phrase", "kSixManFinishes", {"3 vs 3", "Says", "Summary"}},
+         {"segments", "Phrase", "kEightManFinishes", {"4 vs 4", "Says", "Summary"}}}},
+       Phrases("Aftermaths of 1 vs 1", "after1", "kSinglesAftermaths"),
+       Phrases("Aftermaths of 2 vs 2", "after2", "kTagAftermaths"),
+       Purposes("Purposes of 1 vs 1", "purpose1", "kSinglesPurposes", "kSinglesAims", "\"kSingles"),
+       Purposes("Purposes of 2 vs 2", "purpose2", "kTagPurposes", "kTagAims", "\"kTag"),
+       {"Interview styles",
+        {{"Code", Number}, {"Rule", RuleName}, {"Says"}, {"Speakers", Number}, {"Targets", Number}},
+        {"Code"},
+        false,
+        "",
+        "InterviewStyle",
+        "Code",
+        {{"segments",
+          "InterviewStyleRow",
+          "kInterviewStyles",
+          {"Code", "Says", "Speakers", "Targets"}}}},
+       {"Interview purposes",
+        {{"Code", Number}, {"Rule", RuleName}, {"Says"}},
+        {"Code"},
+        false,
+        "",
+        "InterviewPurpose",
+        "Code",
+        {{"segments", "Term", "kInterviewPurposes", {"Code", "\"\"\"", "Says"}}}}},
+      {}};
+}
+
+TableFile Angles() {
+  return {
+      "angles.txt",
+      {{"angles", {"records/segmentwords.h"}}},
+      {{"Angles",
+        {{"No", Number},
+         {"Rule", RuleName},
+         {"Says"},
+         {"Sheet", Text, "", "", {}, "", " "},
+         {"Risk over", Number, "kAnyRisk"},
+         {"Size under", Number, "kAnySize"},
+         {"Date", Text, "{}"},
+         {"Summary", Text, "{}"},
+         {"Cast",
+          Cast,
+          "",
+          "Casting::",
+          {"Commissioner", "Managers", "DebutManagers", "Turners", "Women", "Men", "Debuts",
+           "Stables", "SinglesTitles", "TagTitles"}},
+         {"Text"}},
+        {"Rule"},
+        true,
+        "",
+        "AngleNumber",
+        "No",
+        {{"angles",
+          "Angle",
+          "kAllAngles",
+          {"No", "Says", "Sheet", "Risk over", "Size under", "Date", "Cast", "Text", "Summary"}}}}},
+      {}};
+}
+
+TableFile NewPromotions() {
+  return {"promotions.txt",
+          {{"promotions", {"rivals/newpromotionnames.h"}}},
+          {{"New promotions",
+            {{"Name"}, {"Initials"}},
+            {"Name"},
+            false,
+            "",
+            "",
+            "",
+            {{"promotions", "NewPromotionName", "kNewPromotionNames", {"Name", "Initials"}}}}},
+          {}};
+}
+
+constexpr std::string_view kName = "std::string_view", kMove = "FinisherMove";
+
+/// The lengths leave room for a first name, a blank and a surname in 25 letters, and for a surname
+/// in the 10 of a short name.
+TableFile Names() {
+  return {"names.txt",
+          {{"names", {"roster/names.h"}}},
+          {},
+          {{kName, "Surnames", 300, 10, {{"Surnames", "", 300, ""}}},
+           {kName,
+            "WorkerFirstNames",
+            303,
+            14,
+            {{"First names of men in the ring", "", 251, "kLastMaleWorkerFirstName"},
+             {"First names of women in the ring", "", 52, ""}}},
+           {kName,
+            "StaffFirstNames",
+            192,
+            14,
+            {{"First names of men on the staff", "", 161, "kLastMaleStaffFirstName"},
+             {"First names of women on the staff", "", 31, ""}}},
+           {kMove,
+            "FinisherMoves",
+            64,
+            25,
+            {{"Brawling moves, impact", "'B', FinisherType::Impact, ", 0, ""},
+             {"Brawling moves, submission", "'B', FinisherType::Submission, ", 0, ""},
+             {"Brawling moves, top rope", "'B', FinisherType::TopRope, ", 0, ""},
+             {"Brawling moves, ground", "'B', FinisherType::Ground, ", 0, ""},
+             {"Technical moves, impact", "'T', FinisherType::Impact, ", 0, ""},
+             {"Technical moves, submission", "'T', FinisherType::Submission, ", 0, ""},
+             {"Technical moves, top rope", "'T', FinisherType::TopRope, ", 0, ""},
+             {"Technical moves, ground", "'T', FinisherType::Ground, ", 0, ""},
+             {"Speed moves, impact", "'S', FinisherType::Impact, ", 0, ""},
+             {"Speed moves, submission", "'S', FinisherType::Submission, ", 0, ""},
+             {"Speed moves, top rope", "'S', FinisherType::TopRope, ", 0, ""},
+             {"Speed moves, ground", "'S', FinisherType::Ground, ", 0, ""}}}}};
+}
+
+}  // namespace
+
+const std::vector<TableFile>& AllTableFiles() {
+  static const std::vector<TableFile> kFiles = {Segments(), Angles(), NewPromotions(), Names()};
+  return kFiles;
+}
+
+}  // namespace grapplemont
