@@ -30,7 +30,8 @@ void CastMatch(Dice& dice, std::vector<const Worker*> roster, Segment& match) {
 
 void EndMatch(Dice& dice, Segment& match) {
   std::vector<int> people = ResultCandidates(match);
-  std::shuffle(people.begin(), people.end(), std::mt19937_64(dice.From(1, 1000000)));
+  for (auto left = people.begin(); left != people.end(); ++left)
+    std::swap(*left, left[dice.From(0, static_cast<int>(people.end() - left) - 1)]);
   const bool isDraw = OffersDraw(match) && dice.OneIn(5);
   const int winner = isDraw || people.empty() ? 0 : people.front();
   std::vector<int> losers(people.begin() + !people.empty(), people.end());
