@@ -2,7 +2,7 @@
 
 #include "bench/walks.h"
 #include "bench/worlds.h"
-#include "booking/autobooker.h"
+#include "booking/auto/autobooker.h"
 #include "records/segments.h"
 
 // A card of the auto booker for a roster of 120, beside a baseline: the rosters that the wizard's

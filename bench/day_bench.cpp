@@ -4,9 +4,8 @@
 
 #include "bench/walks.h"
 #include "bench/worlds.h"
-#include "booking/autoshow.h"
+#include "booking/showstart.h"
 #include "calendar/advanceday.h"
-#include "calendar/daykind.h"
 #include "records/dates.h"
 #include "report/report.h"
 #include "support/smallworld.h"
@@ -102,7 +101,8 @@ void BM_DayBaseline(benchmark::State& state) {
   state.SetLabel(std::string(morning.Text) + ", " + bench::AgeText(age));
 }
 BENCHMARK(BM_DayBaseline)
-    ->ArgsProduct({{bench::kTenYears, bench::kLargest}, {kPlain, kMonday, kFirst}})
+    ->ArgsProduct({{bench::kNew, bench::kTenYears, bench::kTwentyYears, bench::kLargest},
+                   {kPlain, kMonday, kFirst}})
     ->Unit(benchmark::kMicrosecond)
     ->UseRealTime()
     ->Iterations(2);

@@ -2,7 +2,7 @@
 
 #include "bench/walks.h"
 #include "bench/worlds.h"
-#include "booking/autobooker.h"
+#include "booking/auto/autobooker.h"
 #include "records/segments.h"
 #include "report/report.h"
 #include "show/holdshow.h"

@@ -19,7 +19,11 @@ void BM_Year(benchmark::State& state) {
   int days = 0;
   for (auto _ : state) {
     test::GameOnWorld career(bench::Played(age));
-    bench::Time(state, [&] { days = tools::PlayDays(career.Play, kDays, shows, [](int) {}).Days; });
+    bench::Time(state, [&] {
+      days = tools::PlayDays(
+                 career.Play, kDays, shows, [](int) {}, tools::AfterTheEnd::AnotherJob)
+                 .Days;
+    });
   }
   state.SetLabel(std::to_string(days) + " days, shows " +
                  (state.range(1) ? "auto-booked, " : "cancelled, ") + bench::AgeText(age));

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
-#include "booking/casting.h"
-#include "booking/writers.h"
+#include "booking/wizard/casting.h"
+#include "booking/wizard/roster.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
 
@@ -21,10 +22,6 @@ constexpr MatchWay kMatchWays[] = {
     {"2 vs 2, with the purpose \"Debut\" as one of the four or as a team", false},
     {"2 vs 2, running in at the finish or after it, with the purpose \"Debut\"", true},
 };
-
-bool IsSeenOnShows(const Worker& worker) {
-  return IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
-}
 
 /// Whether an angle has a part that only somebody like this worker can be cast in.
 bool HasPartFor(const Angle& angle, const Worker& worker) {
@@ -43,12 +40,8 @@ std::string WhyNotToday(const World& world, const Angle& angle, bool isEvent) {
 }  // namespace
 
 std::vector<const Worker*> WaitingForDebut(const World& world) {
-  std::vector<const Worker*> waiting;
-  for (const Worker& worker : world.Workers())
-    if (WorksForPlayer(world, worker) && !worker.Debuted && IsSeenOnShows(worker))
-      waiting.push_back(&worker);
-  std::stable_sort(waiting.begin(), waiting.end(),
-                   [](const Worker* a, const Worker* b) { return a->Over > b->Over; });
+  std::vector<const Worker*> waiting = SeenOnShows(world);
+  std::erase_if(waiting, [](const Worker* worker) { return bool(worker->Debuted); });
   return waiting;
 }
 

@@ -1,30 +1,73 @@
 #include "booking/sheet.h"
 
 #include <algorithm>
+#include <iterator>
 
+#include "booking/wizard/casting.h"
+#include "booking/wizard/matchrules.h"
+#include "booking/wizard/wizard.h"
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
+#include "storylines/feuds.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
 
 namespace {
 
-struct TimeSlot {
-  std::string_view Code;
-  SheetTerms Terms;
-};
-// The last one stands for a code that is none of them.
-constexpr TimeSlot kTimeSlotTerms[] = {
-    {"P", {11, 4, 8}}, {"E", {8, 3, 7}}, {"L", {6, 3, 6}}, {"G", {5, 2, 5}}};
-constexpr SheetTerms kEventTerms = {kEventRows, 4, 6};
+// In the order of kTvTerms. The last one stands for every other code.
+constexpr std::string_view kSlots[] = {"P", "E", "L", "G"};
 
 /// Jobbers alone are nothing that the auto booker could start from.
-constexpr int kAutoBookable = 6;
+constexpr int kAutoBookable = kJobber;
 
 bool Counts(int record, bool isEvent) {
   return !isEvent || record != kDarkMatch;
+}
+
+std::string NameOf(const World& world, int uid) {
+  return SideText(world, {uid});
+}
+
+/// Those the uids stand for: themselves, or with `teams` the sides that they are the first of.
+std::string NamesOf(const World& world, const Segment& match, const std::vector<int>& uids,
+                    bool teams = false) {
+  const auto sides = SidesOf(match);
+  std::vector<std::string> names;
+  for (const int uid : uids) {
+    const int side = teams ? SideOf(match, uid) : 0;
+    names.push_back(side == 0 ? NameOf(world, uid)
+                              : SideText(world, sides[static_cast<std::size_t>(side - 1)]));
+  }
+  return Joined(names);
+}
+
+std::vector<std::string> DetailsOfMatch(const World& world, const Segment& match) {
+  if (match.Style == kSpecial)
+    return {"Entrants: " + NamesOf(world, match, PeopleOf(match)),
+            "Runner-up: " + NameOf(world, match.Loser)};
+  const ResultForm& form = ResultFormOf(match);
+  if (IsDraw(match) || form.Losers == 0) return {};
+  if (form.Losers == 1)
+    return {"Fall: " + NameOf(world, match.Winner) + " over " + NameOf(world, match.Loser)};
+  return {"Order of elimination: " + NamesOf(world, match, LosersInOrder(match), form.Teams)};
+}
+
+std::string PlayedBy(const World& world, const Segment& angle, const Role& role) {
+  if (role.From == Casting::Stables) return angle.Text.Str();
+  if (role.Place == 0) return angle.TitleName.Str();
+  return NameOf(world, UidAt(angle, role.Place));
+}
+
+std::vector<std::string> DetailsOfAngle(const World& world, const Segment& segment) {
+  std::vector<std::string> lines;
+  for (const Role& seat : SeatsOf(segment))
+    if (IsCast(segment, seat))
+      lines.push_back(std::string(seat.Caption) + ": " + PlayedBy(world, segment, seat));
+  return lines;
 }
 
 }  // namespace
@@ -33,9 +76,8 @@ SheetTerms TermsOf(const World& world, bool isEvent) {
   if (isEvent) return EventOfToday(world) ? kEventTerms : SheetTerms{};
   const Show* show = ShowOfToday(world);
   if (!show) return {};
-  for (const TimeSlot& slot : kTimeSlotTerms)
-    if (show->Slot == slot.Code) return slot.Terms;
-  return std::end(kTimeSlotTerms)[-1].Terms;
+  const auto slot = std::find(std::begin(kSlots), std::end(kSlots) - 1, show->Slot.View());
+  return kTvTerms[slot - std::begin(kSlots)];
 }
 
 SheetCount CountSheet(const World& world, bool isEvent) {
@@ -111,6 +153,67 @@ bool HasAutoBooker(const World& world) {
     return WorksForPlayer(world, worker) && worker.Status == "Nor" &&
            worker.Position < kAutoBookable;
   });
+}
+
+std::string KindOfRow(const Segment& segment) {
+  switch (segment.Kind) {
+    case kMatch:
+      return std::string(MatchTypeText(segment.Style, segment.MatchType));
+    case kInterview:
+      return "Interview";
+    case kAngle:
+      return "Angle";
+    default:
+      return {};
+  }
+}
+
+std::string FeudOfRow(const World& world, const Segment& segment) {
+  if (segment.Kind == kEmptySegment) return {};
+  const std::vector<int> people = EverybodyOf(segment);
+  int hottest = -1;
+  for (const Feud& feud : world.Feuds())
+    if (feud.Heat > hottest && EnemiesMeet(feud, people)) hottest = feud.Heat;
+  return hottest < 0 ? std::string() : "Feud " + std::to_string(hottest);
+}
+
+std::string RangeText(const Forecast& forecast) {
+  if (forecast.Low == forecast.High) return std::to_string(forecast.Low) + "%";
+  return std::to_string(forecast.Low) + " - " + std::to_string(forecast.High) + "%";
+}
+
+std::string ForecastOfRow(const ShowForecast& forecast, int record) {
+  const auto row = static_cast<std::size_t>(record - 1);
+  if (row >= forecast.Rows.size() || forecast.Rows[row] == Forecast{}) return {};
+  return RangeText(forecast.Rows[row]);
+}
+
+std::vector<std::string> SummaryOfRow(const World& world, const Segment& segment, bool isEvent) {
+  Wizard wizard = BeginBooking(1, isEvent);
+  wizard.Buffer = segment;
+  wizard.Step = StepsOf(segment);
+  wizard.SegmentComplete = true;
+  std::vector<std::string> lines;
+  for (int step = 0; step < wizard.Step; ++step) {
+    const StepText text = TextOfStep(world, wizard, step);
+    if (!text.Summary.empty()) lines.push_back(text.Summary);
+    if (!text.Tip.empty()) lines.push_back(text.Tip);
+  }
+  return lines;
+}
+
+std::vector<std::string> DetailsOfRow(const World& world, const Segment& segment) {
+  if (segment.Kind == kMatch) return DetailsOfMatch(world, segment);
+  if (segment.Kind == kAngle) return DetailsOfAngle(world, segment);
+  return {};
+}
+
+std::vector<const Worker*> NotOnTheCard(const World& world, bool isEvent) {
+  std::vector<const Worker*> free = EligibleRoster(world, {isEvent, "All"});
+  for (const Segment& segment : world.Segments())
+    std::erase_if(free, [&](const Worker* worker) { return TakesPart(segment, worker->Uid); });
+  SortByOver(free);
+  return free;
 }
 
 }  // namespace grapplemont

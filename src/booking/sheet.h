@@ -3,8 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "booking/autobooker.h"
+#include "booking/auto/autobooker.h"
+#include "booking/wizard/roster.h"
 #include "records/world.h"
+#include "show/forecast.h"
 #include "show/holdshow.h"
 
 // The sheet of a show day: how many rows it has, what it asks for before the show may start.
@@ -14,13 +16,8 @@ namespace grapplemont {
 /// The record of an Event's sheet that is booked like the others and counts for nothing.
 inline constexpr int kDarkMatch = 1;
 
-/// What a sheet offers and asks for. Without a show of today nothing is open.
-struct SheetTerms {
-  int OpenRows = 0;  // records 1 to this can be booked
-  int MinMatches = 0;
-  int MinSegments = 0;
-};
-/// Of a television show by its time slot, an unknown one counting as the Graveyard.
+/// Of a television show by its time slot, an unknown one counting as the Graveyard. Without a show
+/// of today nothing is open.
 SheetTerms TermsOf(const World& world, bool isEvent);
 
 /// What is booked of what counts.
@@ -51,5 +48,23 @@ std::string TitleTip(const Segment& segment);
 
 /// Somebody above the jobbers is fit, so that there is something to book.
 bool HasAutoBooker(const World& world);
+
+// What a sheet tells of a booked row beside its one line.
+
+/// "Singles", "Interview", "Angle"; empty for an empty row.
+std::string KindOfRow(const Segment& segment);
+/// The feud that the Segment is about, the hottest of those whose enemies meet in it: "Feud 71".
+/// Empty for none.
+std::string FeudOfRow(const World& world, const Segment& segment);
+/// "58 - 66%", "58%" where there is no doubt; empty for a row that is not there or not booked.
+std::string ForecastOfRow(const ShowForecast& forecast, int record);
+std::string RangeText(const Forecast& forecast);
+/// The lines of the wizard's summary, as they stood when the Segment was completed.
+std::vector<std::string> SummaryOfRow(const World& world, const Segment& segment, bool isEvent);
+/// What these lines leave out, so that nothing of the row stays untold: who has entered a battle
+/// royal, who beats whom in a team, in which order people leave, who plays which part in an angle.
+std::vector<std::string> DetailsOfRow(const World& world, const Segment& segment);
+/// Who may be booked and is not on the card yet, the most popular first.
+std::vector<const Worker*> NotOnTheCard(const World& world, bool isEvent);
 
 }  // namespace grapplemont

@@ -1,10 +1,12 @@
 #include "business/development.h"
 
+#include <algorithm>
 #include <array>
 
 #include "business/past.h"
 #include "records/dates.h"
 #include "records/modVar.h"
+#include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "roster/postings.h"
 #include "storylines/storynames.h"
@@ -14,23 +16,28 @@ namespace grapplemont {
 namespace {
 
 constexpr std::array<int, kBestCamp> kCampPrices = {25000, 100000, 400000, 1000000};
+constexpr int kTerritoryPrice = 250000;
 
-constexpr int kCampLetters = decltype(Promotion::CampName)::kWidth;
-constexpr int kTerritoryLetters = decltype(Promotion::DevName)::kWidth;
+struct SiteRow {
+  const char* What;
+  int Letters;  // of its name
+  std::string (*Name)(const Promotion&);
+  void (*SetName)(Promotion&, std::string_view name);
+  Word Promotion::*RunBy;
+  bool (*IsThere)(const Worker&);
+  HistoryKind Kind;
+};
+constexpr SiteRow kSites[] = {{"training camp", decltype(Promotion::CampName)::kWidth,
+                               [](const Promotion& p) { return p.CampName.Str(); },
+                               [](Promotion& p, std::string_view name) { p.CampName = name; },
+                               &Promotion::HeadTrainer, IsInCamp, kPastCamp},
+                              {"development territory", decltype(Promotion::DevName)::kWidth,
+                               [](const Promotion& p) { return p.DevName.Str(); },
+                               [](Promotion& p, std::string_view name) { p.DevName = name; },
+                               &Promotion::DevBooker, IsInDevelopment, kPastTerritory}};
 
-template <class Test>
-std::vector<const Worker*> People(const World& world, Test isThere) {
-  std::vector<const Worker*> people;
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer != 0 && worker.Employer == world.PlayerUid() && isThere(worker))
-      people.push_back(&worker);
-  return people;
-}
-
-template <class Test>
-void BringBack(World& world, Test isThere) {
-  for (Worker& worker : world.Workers())
-    if (worker.Employer == world.PlayerUid() && isThere(worker)) EndPosting(worker);
+const SiteRow& Row(Site site) {
+  return kSites[static_cast<std::size_t>(site)];
 }
 
 /// The past tells: whatever was paid for stands in it.
@@ -45,21 +52,21 @@ bool HasBuiltThisMonth(const World& world, HistoryKind kind) {
   return false;
 }
 
-std::string WhyNotBuild(const World& world, HistoryKind kind, int dollars) {
-  if (HasBuiltThisMonth(world, kind))
+std::string WhyNotBuild(const World& world, Site site, int level) {
+  if (HasBuiltThisMonth(world, Row(site).Kind))
     return "The builders have been here in " + std::string(MonthName(MonthOf(world.Today()))) +
            " already. They come once a month at most.";
-  if (world.Player().Money < dollars)
-    return "You cannot afford this! It costs " + Dollars(dollars) + ", and you have " +
-           Dollars(world.Player().Money) + ".";
+  if (world.Player().Money < SitePrice(site, level))
+    return "You cannot afford this! It costs " + Dollars(SitePrice(site, level)) +
+           ", and you have " + Dollars(world.Player().Money) + ".";
   return {};
 }
 
-void Build(World& world, HistoryKind kind, std::string_view name, int dollars) {
-  world.Player().Money -= dollars;
-  HistoryEntry entry = EntryOf(world, world.Player(), kind);
+void Build(World& world, Site site, std::string_view name, int level) {
+  world.Player().Money -= SitePrice(site, level);
+  HistoryEntry entry = EntryOf(world, world.Player(), Row(site).Kind);
   entry.Name = name;
-  entry.Costs = dollars;
+  entry.Costs = SitePrice(site, level);
   Remember(world, entry);
 }
 
@@ -67,96 +74,209 @@ std::string WhyNoLevel(int level) {
   return level >= 1 && level <= kBestCamp ? "" : "Choose the facilities first.";
 }
 
-constexpr const char* kNoCamp = "There is no training camp.";
-constexpr const char* kNoTerritory = "There is no development territory.";
+std::string ThereIsNo(Site site) {
+  return std::string("There is no ") + Row(site).What + ".";
+}
 
 }  // namespace
 
-int CampPrice(int level) {
+int SitePrice(Site site, int level) {
+  if (site == Site::Territory) return kTerritoryPrice;
   return level >= 1 && level <= kBestCamp ? kCampPrices[static_cast<std::size_t>(level - 1)] : 0;
 }
 
-bool HasCamp(const Promotion& promotion) {
-  return !(promotion.CampName == "None");
+bool HasSite(const Promotion& promotion, Site site) {
+  return SiteName(promotion, site) != "None";
 }
 
-bool HasTerritory(const Promotion& promotion) {
-  return !(promotion.DevName == "None");
+std::string SiteName(const Promotion& promotion, Site site) {
+  return Row(site).Name(promotion);
 }
 
-std::vector<const Worker*> PeopleInCamp(const World& world) {
-  return People(world, IsInCamp);
+std::vector<const Worker*> PeopleAt(const World& world, Site site) {
+  std::vector<const Worker*> people;
+  for (const Worker& worker : world.Workers())
+    if (WorksForPlayer(world, worker) && Row(site).IsThere(worker)) people.push_back(&worker);
+  return people;
 }
 
-std::vector<const Worker*> PeopleInTerritory(const World& world) {
-  return People(world, IsInDevelopment);
+std::string WhyNotOpen(const World& world, Site site, std::string_view name, int level) {
+  if (HasSite(world.Player(), site))
+    return std::string("You have a ") + Row(site).What + " already.";
+  if (std::string why = WhyNoName(name, Row(site).Letters); !why.empty()) return why;
+  if (std::string why = site == Site::Camp ? WhyNoLevel(level) : ""; !why.empty()) return why;
+  return WhyNotBuild(world, site, level);
 }
 
-std::string WhyNotOpenCamp(const World& world, std::string_view name, int level) {
-  if (HasCamp(world.Player())) return "You have a training camp already.";
-  if (std::string why = WhyNoName(name, kCampLetters); !why.empty()) return why;
-  if (std::string why = WhyNoLevel(level); !why.empty()) return why;
-  return WhyNotBuild(world, kPastCamp, CampPrice(level));
-}
-
-void OpenCamp(World& world, std::string_view name, int level) {
-  Build(world, kPastCamp, TrimmedName(name), CampPrice(level));
-  world.Player().CampName = TrimmedName(name);
-  world.Player().CampFacilities = level;
+void OpenSite(World& world, Site site, std::string_view name, int level) {
+  Build(world, site, TrimmedName(name), level);
+  RenameSite(world, site, name);
+  if (site == Site::Camp) world.Player().CampFacilities = level;
 }
 
 std::string WhyNotRaiseCamp(const World& world, int level) {
-  if (!HasCamp(world.Player())) return kNoCamp;
+  if (!HasSite(world.Player(), Site::Camp)) return ThereIsNo(Site::Camp);
   if (world.Player().CampFacilities >= kBestCamp)
     return "No camp in the world has better facilities.";
   if (std::string why = WhyNoLevel(level); !why.empty()) return why;
   if (level <= world.Player().CampFacilities) return "The facilities are as good as that already.";
-  return WhyNotBuild(world, kPastCamp, CampPrice(level));
+  return WhyNotBuild(world, Site::Camp, level);
 }
 
 void RaiseCamp(World& world, int level) {
-  Build(world, kPastCamp, world.Player().CampName, CampPrice(level));
+  Build(world, Site::Camp, world.Player().CampName, level);
   world.Player().CampFacilities = level;
 }
 
-std::string WhyNotOpenTerritory(const World& world, std::string_view name) {
-  if (HasTerritory(world.Player())) return "You have a development territory already.";
-  if (std::string why = WhyNoName(name, kTerritoryLetters); !why.empty()) return why;
-  return WhyNotBuild(world, kPastTerritory, kTerritoryPrice);
+std::string WhyNotRename(const World& world, Site site, std::string_view name) {
+  return HasSite(world.Player(), site) ? WhyNoName(name, Row(site).Letters) : ThereIsNo(site);
 }
 
-void OpenTerritory(World& world, std::string_view name) {
-  Build(world, kPastTerritory, TrimmedName(name), kTerritoryPrice);
-  world.Player().DevName = TrimmedName(name);
+void RenameSite(World& world, Site site, std::string_view name) {
+  Row(site).SetName(world.Player(), TrimmedName(name));
 }
 
-std::string WhyNotRenameCamp(const World& world, std::string_view name) {
-  return HasCamp(world.Player()) ? WhyNoName(name, kCampLetters) : kNoCamp;
+void CloseSite(World& world, Site site) {
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid() && Row(site).IsThere(worker)) EndPosting(worker);
+  Row(site).SetName(world.Player(), "None");
+  world.Player().*Row(site).RunBy = 0;
+  if (site == Site::Camp) world.Player().CampFacilities = 0;
 }
 
-void RenameCamp(World& world, std::string_view name) {
-  world.Player().CampName = TrimmedName(name);
+namespace {
+
+struct OfficeRow {
+  const char* Name;
+  const char* Wanted;  // what whoever left or never fitted is not
+  Word Promotion::*Holder;
+};
+constexpr std::array<OfficeRow, 3> kOffices = {{
+    {"Commissioner", "one of your non-wrestlers", &Promotion::Commissioner},
+    {"Head trainer", "one of your trainers", &Promotion::HeadTrainer},
+    {"Territory booker", "one of your staff who can book", &Promotion::DevBooker},
+}};
+
+const OfficeRow& Row(Office office) {
+  return kOffices[static_cast<std::size_t>(office)];
 }
 
-std::string WhyNotRenameTerritory(const World& world, std::string_view name) {
-  return HasTerritory(world.Player()) ? WhyNoName(name, kTerritoryLetters) : kNoTerritory;
+bool Fits(const Staff& staff, Office office) {
+  if (staff.Position == kOwner) return false;
+  return office == Office::HeadTrainer ? staff.Position == kTrainer : bool(staff.Booker);
 }
 
-void RenameTerritory(World& world, std::string_view name) {
-  world.Player().DevName = TrimmedName(name);
+std::vector<OfficeSeeker> NonWrestlers(const World& world) {
+  std::vector<OfficeSeeker> people;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid() && worker.Position == kNonWrestler)
+      people.push_back({worker.Uid, worker.Name.Str(), worker.Charisma,
+                        worker.Status == "Nor" ? std::string() : StatusLine(worker)});
+  return people;
 }
 
-void CloseCamp(World& world) {
-  BringBack(world, IsInCamp);
-  world.Player().CampName = "None";
-  world.Player().CampFacilities = 0;
-  world.Player().HeadTrainer = 0;
+std::string NameOf(const World& world, Office office, int uid) {
+  return office == Office::Commissioner ? WorkerName(world, uid) : StaffName(world, uid);
 }
 
-void CloseTerritory(World& world) {
-  BringBack(world, IsInDevelopment);
-  world.Player().DevName = "None";
-  world.Player().DevBooker = 0;
+std::vector<OfficeSeeker> StaffFor(const World& world, Office office) {
+  std::vector<OfficeSeeker> people;
+  for (const Staff& staff : world.AllStaff())
+    if (staff.Employer == world.PlayerUid() && Fits(staff, office))
+      people.push_back({staff.Uid, staff.Name.Str(), staff.Talent,
+                        std::string(Says(kStaffPositions, staff.Position))});
+  return people;
+}
+
+}  // namespace
+
+const char* OfficeName(Office office) {
+  return Row(office).Name;
+}
+
+int HolderOf(const World& world, Office office) {
+  const int uid = world.Player().*Row(office).Holder;
+  const bool isThere = office == Office::Commissioner ? world.FindWorker(uid) != nullptr
+                                                      : world.FindStaff(uid) != nullptr;
+  return isThere ? uid : 0;
+}
+
+std::string HolderName(const World& world, Office office) {
+  const int uid = HolderOf(world, office);
+  return uid == 0 ? "None" : NameOf(world, office, uid);
+}
+
+std::vector<OfficeSeeker> CandidatesFor(const World& world, Office office) {
+  return office == Office::Commissioner ? NonWrestlers(world) : StaffFor(world, office);
+}
+
+std::string WhyNotAppoint(const World& world, Office office, int uid) {
+  for (const auto& [needs, site] :
+       {std::pair(Office::HeadTrainer, Site::Camp), {Office::DevBooker, Site::Territory}})
+    if (office == needs && !HasSite(world.Player(), site)) return ThereIsNo(site);
+  if (uid == 0) return {};
+  const std::vector<OfficeSeeker> people = CandidatesFor(world, office);
+  if (std::ranges::any_of(people, [&](const OfficeSeeker& c) { return c.Uid == uid; })) return {};
+  const std::string name = NameOf(world, office, uid);
+  return (name.empty() ? "Whoever that was" : name) + " is not " + Row(office).Wanted + ".";
+}
+
+void Appoint(World& world, Office office, int uid) {
+  world.Player().*Row(office).Holder = uid;
+}
+
+namespace {
+
+constexpr std::string_view kEverybody = "All";  // what a sheet calls the undivided roster
+
+Text<10>& SplitAt(Promotion& promotion, int place) {
+  return promotion.Split.at(static_cast<std::size_t>(place - 1));
+}
+
+void MovePeople(World& world, std::string_view from, std::string_view to) {
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid() && worker.Split == from) worker.Split = to;
+}
+
+}  // namespace
+
+std::string SplitName(const Promotion& promotion, int place) {
+  if (place < 1 || place > kSplits) return {};
+  const auto& name = promotion.Split[static_cast<std::size_t>(place - 1)];
+  return name == "None" ? std::string() : name.Str();
+}
+
+int PeopleInSplit(const World& world, std::string_view split) {
+  return static_cast<int>(std::ranges::count_if(world.Workers(), [&](const Worker& worker) {
+    return worker.Employer == world.PlayerUid() && worker.Split == split;
+  }));
+}
+
+std::string WhyNotSplitName(const World& world, int place, std::string_view name) {
+  if (place < 1 || place > kSplits) return "Choose a split first.";
+  if (std::string why = WhyNoName(name, Text<10>::kWidth); !why.empty()) return why;
+  name = TrimmedName(name);
+  if (name == kEverybody) return "\"All\" stands for the whole roster and cannot be a split.";
+  for (int other = 1; other <= kSplits; ++other)
+    if (other != place && SplitName(world.Player(), other) == name)
+      return "There is a split called " + std::string(name) + " already.";
+  return {};
+}
+
+void NameSplit(World& world, int place, std::string_view name) {
+  const std::string before = SplitName(world.Player(), place);
+  const std::string after(TrimmedName(name));
+  // Somebody may have brought this name along from where he worked before.
+  if (before != after) MovePeople(world, after, "None");
+  if (!before.empty()) MovePeople(world, before, after);
+  SplitAt(world.Player(), place) = after;
+}
+
+void DissolveSplit(World& world, int place) {
+  const std::string name = SplitName(world.Player(), place);
+  if (name.empty()) return;
+  MovePeople(world, name, "None");
+  SplitAt(world.Player(), place) = "None";
 }
 
 }  // namespace grapplemont

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "business/economyfactor.h"
+#include "business/finance.h"
+#include "business/tvshows.h"
+#include "records/arithmetic.h"
 
 namespace grapplemont {
 
@@ -29,8 +31,8 @@ constexpr SlotWords kSlots[] = {{"E", "Early Evening", "6:00pm - 8:00pm"},
                                 {"G", "Graveyard", "12:00am - 2:00am"}};
 
 const SlotWords& WordsOf(std::string_view slot) {
-  const auto* found = std::find_if(std::begin(kSlots), std::end(kSlots),
-                                   [&](const SlotWords& words) { return words.Slot == slot; });
+  const auto* found =
+      std::ranges::find_if(kSlots, [&](const SlotWords& words) { return words.Slot == slot; });
   return found == std::end(kSlots) ? kSlots[std::size(kSlots) - 1] : *found;
 }
 
@@ -73,13 +75,148 @@ int AudiencePotential(const Promotion& promotion, int economy) {
 }
 
 int ShowsOn(const World& world, const Network& network) {
-  const auto& shows = world.Shows();
-  return static_cast<int>(std::count_if(
-      shows.begin(), shows.end(), [&](const Show& show) { return show.Network == network.Uid; }));
+  return static_cast<int>(std::ranges::count_if(
+      world.Shows(), [&](const Show& show) { return show.Network == network.Uid; }));
 }
 
 bool IsFull(const World& world, const Network& network) {
   return ShowsOn(world, network) == kSpots;
+}
+
+namespace {
+
+/// A rival's deal is talked about when these many weeks are left.
+constexpr int kRenewalWeeks = 2;
+constexpr int kLongRenewal = 25;
+constexpr int kShortRenewal = 18;
+/// Networks drop a show that stands at this number of strikes, and at no other.
+constexpr int kDroppedAt = 3;
+
+/// The weeks that a network adds to a rival's deal; 0 for none.
+int RenewalOf(const Promotion& owner, const Show& show, const Network& network) {
+  if (owner.Risk > SlotRisk(network, show.Slot)) return 0;
+  const int audience = SlotAudience(network, show.Slot);
+  if (show.Rating3 < PercentOf(audience, 70)) return 0;
+  return show.Rating3 > PercentOf(audience, 80) ? kLongRenewal : kShortRenewal;
+}
+
+void Renew(World& world, const Promotion& owner, Show& show) {
+  const Network* network = world.FindNetwork(show.Network);
+  const int weeks = network ? RenewalOf(owner, show, *network) : 0;
+  if (weeks == 0) return;
+  show.ContractWeeks += weeks;
+  NoteDeed(world, kDeedRenewed, &owner, show.Name, network->Name, weeks);
+  TellOfDeal(world, owner,
+             owner.Initials + "'s " + show.Name.Str() + " has been renewed for a further " +
+                 std::to_string(weeks) + " weeks!");
+}
+
+void TakeOff(World& world, const Promotion& owner, Show& show, const char* what) {
+  TellOfDeal(world, owner, show.Name + what + NetworkName(world, show.Network) + "!");
+  NoteDeed(world, kDeedOffAir, &owner, show.Name, NetworkName(world, show.Network));
+  show.Name = kToBeDeleted;
+}
+
+void Review(World& world, const Promotion& owner, Show& show) {
+  show.ContractWeeks -= 1;
+  if (show.ContractWeeks == kRenewalWeeks && owner.Uid != world.PlayerUid())
+    Renew(world, owner, show);
+  if (show.ContractWeeks == 0) TakeOff(world, owner, show, " has not been renewed by ");
+  if (show.Rating4 == kDroppedAt && show.Name != kToBeDeleted)
+    TakeOff(world, owner, show, " has been dropped by ");
+}
+
+}  // namespace
+
+void TvContractReview(World& world) {
+  for (Show& show : world.Shows())
+    if (const Promotion* owner = world.FindPromotion(show.Owner)) Review(world, *owner, show);
+}
+
+namespace {
+
+/// Promotions of this size and above look for television.
+constexpr int kSmallestOnTv = kCult;
+// By size, Global to Cult.
+constexpr std::array<int, 3> kWeeks = {52, 24, 12};
+
+constexpr int kInterestOdds = 6;
+constexpr int kInterestDraw = 2;
+constexpr int kNetworkChance = 100;
+constexpr int kDayTries = 3;
+
+bool IsInterested(World& world, const Promotion& rival, const Network& network) {
+  if (rival.Risk > network.GraveRisk) return false;
+  if (IsFull(world, network) && !network.Generic) return false;
+  if (world.RandomDraw(kInterestOdds) != kInterestDraw) return false;
+  return AudiencePotential(rival, world.Game().Economy) >= PercentOf(network.GraveAudience, 80);
+}
+
+/// The biggest of those that are interested, with some chance in it; nullptr for none.
+const Network* ChooseNetwork(World& world, const Promotion& rival) {
+  const Network* best = nullptr;
+  int bestScore = 0;
+  for (const Network& network : world.Networks()) {
+    if (!IsInterested(world, rival, network)) continue;
+    const int score = network.GraveAudience + world.RandomDraw(kNetworkChance);
+    if (best && score <= bestScore) continue;
+    best = &network;
+    bestScore = score;
+  }
+  return best;
+}
+
+/// The three promotions that the world began with have their places; all others broadcast at night.
+std::string_view SlotOfRival(const Promotion& rival) {
+  constexpr std::array<std::string_view, 3> kFirstThree = {"P", "L", "E"};
+  if (rival.Uid < 1 || rival.Uid > 3) return "G";
+  return kFirstThree[static_cast<std::size_t>(rival.Uid - 1)];
+}
+
+/// The last free day unless a draw hits another; the last hit counts.
+int ChooseDay(World& world, const std::vector<int>& free) {
+  int day = free.back();
+  for (int attempt = 0; attempt < kDayTries; ++attempt) {
+    const int drawn = world.RandomDraw(7);
+    if (std::find(free.begin(), free.end(), drawn) != free.end()) day = drawn;
+  }
+  return day;
+}
+
+/// "CWA Friday", or with the first free number from 2 behind it.
+std::string FreshName(const World& world, const std::string& plain) {
+  std::string name = plain;
+  for (int number = 2; ShowNameTaken(world, name); ++number)
+    name = plain + " " + std::to_string(number);
+  return name;
+}
+
+void Sign(World& world, const Promotion& rival, const Network& network) {
+  const std::string_view slot = SlotOfRival(rival);
+  const std::vector<int> free = FreeDays(world, rival.Uid, network, slot);
+  if (free.empty()) return;
+  const int day = ChooseDay(world, free);
+  const std::string dayName(Says(kWeekDays, day));
+  const int weeks = kWeeks[static_cast<std::size_t>(rival.Size - 1)];
+  AddShow(world, FreshName(world, rival.Initials.Str() + " " + dayName),
+          {rival.Uid, network.Uid, slot, day, weeks});
+  TellOfDeal(world, rival, rival.Initials + " have a new TV show on " + dayName + "s!");
+}
+
+void SeekShow(World& world, const Promotion& rival) {
+  const Network* network = ChooseNetwork(world, rival);
+  if (!network || world.Shows().Full()) return;
+  if (ShowsOf(world, rival.Uid).size() < kMostShows) Sign(world, rival, *network);
+}
+
+}  // namespace
+
+void RivalNewTvShows(World& world) {
+  for (const Promotion& rival : world.Promotions()) {
+    const bool looks = rival.Size >= kGlobal && rival.Size <= kSmallestOnTv;
+    if (rival.Uid == world.PlayerUid() || !looks || rival.Name == kToBeDeleted) continue;
+    SeekShow(world, rival);
+  }
 }
 
 }  // namespace grapplemont

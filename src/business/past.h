@@ -1,8 +1,10 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
+#include "records/fields.h"
 #include "records/world.h"
 
 // What the slot remembers, oldest first.
@@ -29,5 +31,57 @@ void Remember(World& world, const HistoryEntry& entry);
 /// The promotion's month as its books have closed it; crowds are the player's alone. Requires the
 /// first day after the month.
 void RememberMonth(World& world, const Promotion& promotion);
+
+// Months as the office's charts and books count them.
+
+/// The first of the month that lies so many months before the day's own.
+Day MonthsBefore(Day day, int months);
+/// "Mar 2026" for the month that ended before the day, a first of a month.
+std::string MonthClosedBefore(Day first);
+
+/// What a promotion had when a month was closed.
+struct MoneyPoint {
+  std::string Month;  // "Mar 2026", the month that was closed
+  int Dollars;
+};
+
+/// A promotion's money at the ends of the last five years' months, oldest first, and today as
+/// "Today". From what the slot remembers; where the promotion's own record goes back further (at
+/// most five months), from that.
+std::vector<MoneyPoint> MoneyOverTime(const World& world, const Promotion& promotion);
+
+/// How a show of the player's went, week by week, the oldest first.
+struct TvPast {
+  std::vector<std::string> Days;  // "09/03"
+  std::vector<double> Ratings;    // 2.5 for a rating of 2.50
+  std::vector<double> Attendance;
+};
+/// A year at most. What was called off had neither viewers nor guests and is left out.
+TvPast TvPastOf(const World& world, std::string_view show);
+
+// How a promotion has stood, and how the world around it does.
+
+/// How a promotion stood on a day.
+struct PastStanding {
+  Day On;
+  int Size;
+  int Image;
+
+  /// As StandingScore counts it: a size class is worth 100.
+  int Score() const { return (kBackyard - Size) * 100 + Image; }
+};
+
+/// A standing score back in its size and image. The highest of all is a full image at the top.
+PastStanding FromScore(Day on, int score);
+
+/// The last month ends, oldest first, and how it stands today; at most `most` in all. Months from
+/// before the past was kept are read from the five of the promotion's own record.
+std::vector<PastStanding> StandingsOf(const World& world, const Promotion& promotion, int most);
+/// Below a chart: "Mar 2026", the month that ended before the day, or "Today" for the last of them.
+std::vector<std::string> CaptionsOf(const std::vector<PastStanding>& standings);
+
+/// The world's economy in words: "Booming" to "In a slump", by the bands that crowds and sales
+/// follow.
+std::string_view EconomyText(int economy);
 
 }  // namespace grapplemont

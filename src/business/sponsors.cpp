@@ -1,9 +1,12 @@
 #include "business/sponsors.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
-#include "business/sponsorlimits.h"
+#include "business/networks.h"
+#include "records/arithmetic.h"
+#include "records/modVar.h"
 
 namespace grapplemont {
 
@@ -51,9 +54,8 @@ void MoveSponsor(Promotion& promotion, int sponsorUid, int place) {
 
 void LoseSponsor(World& world, Sponsor& sponsor) {
   for (Promotion& promotion : world.Promotions())
-    std::replace_if(
-        promotion.Sponsor.begin(), promotion.Sponsor.end(),
-        [&](const Word& place) { return place == sponsor.Uid; }, 0);
+    std::ranges::replace_if(
+        promotion.Sponsor, [&](const Word& place) { return place == sponsor.Uid; }, 0);
   sponsor.Promotion = 0;
   sponsor.ContractMonths = 0;
 }
@@ -71,6 +73,142 @@ long long EndingCost(const Sponsor& sponsor) {
 void EndSponsorship(World& world, Promotion& promotion, Sponsor& sponsor) {
   promotion.Money -= EndingCost(sponsor);
   LoseSponsor(world, sponsor);
+}
+
+namespace {
+
+struct PayLimits {
+  int Image51Up;
+  int Below51;
+};
+// By size, Global to Backyard.
+constexpr std::array<PayLimits, 6> kPlayerLimits = {
+    {{1001, 801}, {751, 651}, {576, 476}, {401, 301}, {151, 101}, {51, 11}}};
+constexpr std::array<PayLimits, 6> kRivalLimits = {
+    {{1001, 1001}, {921, 861}, {821, 701}, {601, 531}, {451, 321}, {251, 101}}};
+
+int LimitOf(const std::array<PayLimits, 6>& limits, int size, int image) {
+  const PayLimits& row = BySize(limits, size);
+  return image >= 51 ? row.Image51Up : row.Below51;
+}
+
+}  // namespace
+
+bool BearsRisk(const Sponsor& sponsor, int risk) {
+  return risk <= 100 - sponsor.Morality;
+}
+
+int SponsorPayLimit(int size, int image) {
+  return LimitOf(kPlayerLimits, size, image);
+}
+
+int RivalSponsorPayLimit(int size, int image) {
+  return LimitOf(kRivalLimits, size, image);
+}
+
+int SponsorPayForTv(const Sponsor& sponsor, bool isMain) {
+  return isMain ? sponsor.Pay / 4 : sponsor.Pay / 10;
+}
+
+namespace {
+
+struct RiskWords {
+  int From;
+  const char* Words;
+};
+constexpr RiskWords kRiskWords[] = {{81, "Nothing is too much"},
+                                    {61, "For grown-ups only"},
+                                    {41, "An edge that some mind"},
+                                    {21, "For most of the family"},
+                                    {0, "For the whole family"}};
+
+constexpr int kHighestRisk = 100;
+
+RiskLimit LimitOf(const Show& show, const Network& network) {
+  return {show.Name.Str(),
+          "Television, " + std::string(Says(kTimeSlots, show.Slot)) + " on " + network.Name.Str(),
+          SlotRisk(network, show.Slot), "A strike for every show"};
+}
+
+RiskLimit LimitOf(const Sponsor& sponsor, bool isMain) {
+  return {sponsor.Name.Str(), isMain ? "Main sponsor" : "Minor sponsor",
+          kHighestRisk - sponsor.Morality, "Leaves on Monday"};
+}
+
+}  // namespace
+
+std::vector<RiskLimit> RiskLimits(const World& world) {
+  std::vector<RiskLimit> limits;
+  const Promotion& player = world.Player();
+  for (const Show& show : world.Shows())
+    if (show.Owner == player.Uid)
+      if (const Network* network = world.FindNetwork(show.Network))
+        limits.push_back(LimitOf(show, *network));
+  for (const Sponsor& sponsor : world.Sponsors())
+    if (sponsor.Promotion == player.Uid)
+      limits.push_back(LimitOf(sponsor, player.Sponsor[0] == sponsor.Uid));
+  return limits;
+}
+
+RiskMarket MarketFor(const World& world, int risk) {
+  RiskMarket market;
+  for (const Sponsor& sponsor : world.Sponsors()) {
+    ++market.Sponsors;
+    if (BearsRisk(sponsor, risk)) ++market.SponsorsThatBear;
+  }
+  for (const Network& network : world.Networks())
+    for (const Term& slot : kTimeSlots) {
+      ++market.Slots;
+      if (risk <= SlotRisk(network, slot.Stored)) ++market.SlotsThatBear;
+    }
+  return market;
+}
+
+const char* RiskText(int risk) {
+  for (const RiskWords& row : kRiskWords)
+    if (risk >= row.From) return row.Words;
+  return kRiskWords[std::size(kRiskWords) - 1].Words;
+}
+
+namespace {
+
+void Tell(World& world, const Promotion& promotion, const std::string& ours,
+          const std::string& theirs) {
+  if (promotion.Uid == world.PlayerUid())
+    AddNews(world, "News Desk", ours);
+  else if (ShouldTell(world, world.Game().MailSponsor, promotion.Size))
+    AddNews(world, promotion.Initials + " News", theirs);
+}
+
+}  // namespace
+
+void SponsorRiskReview(World& world) {
+  for (Sponsor& sponsor : world.Sponsors()) {
+    const Promotion* promotion = world.FindPromotion(sponsor.Promotion);
+    if (!promotion || BearsRisk(sponsor, promotion->Risk)) continue;
+    Tell(world, *promotion,
+         sponsor.Name +
+             " have ended our sponsorship deal due to the increasingly risky material that we are "
+             "using.",
+         promotion->Initials + " have ended their sponsorship deal with " + sponsor.Name.Str() +
+             " due to the increasingly risky material that they are using.");
+    LoseSponsor(world, sponsor);
+  }
+}
+
+void SponsorContractCountdown(World& world) {
+  for (Sponsor& sponsor : world.Sponsors()) {
+    if (sponsor.Promotion == 0) continue;
+    if (sponsor.ContractMonths > 1) {
+      sponsor.ContractMonths -= 1;
+      continue;
+    }
+    if (const Promotion* promotion = world.FindPromotion(sponsor.Promotion))
+      Tell(world, *promotion, "Our sponsorship deal with " + sponsor.Name.Str() + " has now ended.",
+           sponsor.Name + " have ended their sponsorship deal with " + promotion->Initials.Str() +
+               ".");
+    LoseSponsor(world, sponsor);
+  }
 }
 
 }  // namespace grapplemont

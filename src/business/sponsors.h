@@ -1,5 +1,10 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
+#include "records/companies.h"
+#include "records/promotion.h"
 #include "records/world.h"
 
 // How sponsors and promotions, the player's and rivals' alike, come together and part.
@@ -33,5 +38,46 @@ SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion);
 long long EndingCost(const Sponsor& sponsor);
 /// The promotion pays for the rest of the deal, into debt if need be, and loses the sponsor.
 void EndSponsorship(World& world, Promotion& promotion, Sponsor& sponsor);
+
+// Steps of the day.
+/// Mondays: sponsors whose promotion has become too risky for them walk out.
+void SponsorRiskReview(World& world);
+/// The first of a month: a month off every deal; the last month ends it.
+void SponsorContractCountdown(World& world);
+
+/// Whether the sponsor can bear the product: the more moral, the less risk.
+bool BearsRisk(const Sponsor& sponsor, int risk);
+
+/// A sponsor whose Pay (in thousands of dollars a show) is this or more turns the player's
+/// promotion down; by its size and image.
+int SponsorPayLimit(int size, int image);
+/// The same for a rival, whom sponsors court more.
+int RivalSponsorPayLimit(int size, int image);
+
+/// Thousands of dollars that a sponsor gives for a television show, as the main or a minor one; an
+/// Event brings the whole Pay from either.
+int SponsorPayForTv(const Sponsor& sponsor, bool isMain);
+
+// How risky the product may be, and who would not bear it.
+
+/// A partner of the player's and the highest risk that it bears.
+struct RiskLimit {
+  std::string Who;   // "Friday Fire", "Gulp"
+  std::string What;  // "Television, Prime Time on Nine", "Main sponsor"
+  int Limit;
+  std::string Otherwise;  // what happens above it
+};
+/// Of the player's television shows and sponsors, in the order of their files.
+std::vector<RiskLimit> RiskLimits(const World& world);
+
+/// Of how many that are there to be had a product of this risk can be had by how many.
+struct RiskMarket {
+  int Sponsors = 0, SponsorsThatBear = 0;
+  int Slots = 0, SlotsThatBear = 0;  // a network has four
+};
+RiskMarket MarketFor(const World& world, int risk);
+
+/// "For the whole family" and so on.
+const char* RiskText(int risk);
 
 }  // namespace grapplemont

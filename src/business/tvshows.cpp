@@ -1,8 +1,10 @@
 #include "business/tvshows.h"
 
 #include <algorithm>
+#include <array>
 
 #include "business/networks.h"
+#include "records/arithmetic.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/sweeps.h"
@@ -17,8 +19,7 @@ constexpr int kShowNameLetters = 20;
 /// Whether a network that cannot share its spots has a show in the slot that `counts`.
 template <class Test>
 bool HasInSlot(const World& world, const Network& network, std::string_view slot, Test counts) {
-  const auto& shows = world.Shows();
-  return !network.Generic && std::any_of(shows.begin(), shows.end(), [&](const Show& show) {
+  return !network.Generic && std::ranges::any_of(world.Shows(), [&](const Show& show) {
     return show.Network == network.Uid && show.Slot == slot && counts(show);
   });
 }
@@ -44,9 +45,8 @@ std::string WhyNoShowName(std::string_view name) {
 }
 
 bool ShowNameTaken(const World& world, std::string_view name) {
-  const auto& shows = world.Shows();
-  return std::any_of(shows.begin(), shows.end(),
-                     [&](const Show& show) { return show.Name == TrimmedName(name); });
+  return std::ranges::any_of(world.Shows(),
+                             [&](const Show& show) { return show.Name == TrimmedName(name); });
 }
 
 bool SlotTaken(const World& world, const Network& network, std::string_view slot) {
@@ -59,8 +59,7 @@ std::vector<int> FreeDays(const World& world, int promotionUid, const Network& n
   const std::vector<const Show*> own = ShowsOf(world, promotionUid);
   for (const Term& day : kWeekDays) {
     const auto isThen = [&](const Show& show) { return show.Day == day.Says; };
-    const bool busy =
-        std::any_of(own.begin(), own.end(), [&](const Show* show) { return isThen(*show); });
+    const bool busy = std::ranges::any_of(own, [&](const Show* show) { return isThen(*show); });
     if (!busy && !HasInSlot(world, network, slot, isThen)) free.push_back(day.Code);
   }
   return free;
@@ -91,6 +90,177 @@ void TellOfDeal(World& world, const Promotion& owner, std::string_view text) {
   const bool isPlayer = owner.Uid == world.PlayerUid();
   if (isPlayer || ShouldTell(world, world.Game().MailTv, owner.Size))
     AddNews(world, "TV News", text);
+}
+
+namespace {
+
+// By size, Global to Backyard.
+constexpr std::array<int, 6> kWantedTalent = {80, 60, 50, 40, 20, 0};
+
+Commentator Of(const Staff& staff) {
+  return {staff.Name.Str(), staff.Uid, false, staff.Talent, true};
+}
+
+Commentator Of(const Worker& worker) {
+  return {worker.Name.Str(), worker.Uid, true, worker.Charisma, worker.Speaks};
+}
+
+template <class R>
+std::optional<Commentator> Seated(const R* person) {
+  return person ? std::optional(Of(*person)) : std::nullopt;
+}
+
+}  // namespace
+
+int WantedTalent(int size) {
+  return BySize(kWantedTalent, size);
+}
+
+std::vector<const Staff*> CommentaryStaff(const World& world) {
+  std::vector<const Staff*> announcers;
+  for (const Staff& staff : world.AllStaff())
+    if (staff.Employer == world.PlayerUid() && staff.Position == kAnnouncer)
+      announcers.push_back(&staff);
+  return announcers;
+}
+
+std::vector<const Worker*> CommentaryWorkers(const World& world) {
+  std::vector<const Worker*> workers;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid() && worker.Announcer && worker.Status == "Nor")
+      workers.push_back(&worker);
+  return workers;
+}
+
+std::vector<Commentator> AnnouncersToChoose(const World& world) {
+  std::vector<Commentator> all;
+  for (const Staff* staff : CommentaryStaff(world)) all.push_back(Of(*staff));
+  return all;
+}
+
+std::vector<Commentator> ColourMenToChoose(const World& world) {
+  std::vector<Commentator> all = AnnouncersToChoose(world);
+  for (const Worker* worker : CommentaryWorkers(world)) all.push_back(Of(*worker));
+  return all;
+}
+
+std::optional<Commentator> AnnouncerOf(const World& world, const Show& show) {
+  return Seated(world.FindStaff(show.Announcer));
+}
+
+std::optional<Commentator> ColourManOf(const World& world, const Show& show) {
+  return show.ColourIsWorker ? Seated(world.FindWorker(show.Colour))
+                             : Seated(world.FindStaff(show.Colour));
+}
+
+std::string NameOf(const std::optional<Commentator>& commentator) {
+  return commentator ? commentator->Name : "None";
+}
+
+std::string WhyNoTable(int announcer, int colour, bool colourIsWorker) {
+  if (colourIsWorker || announcer == 0 || announcer != colour) return {};
+  return "The same person cannot be announcer and colour commentator";
+}
+
+namespace {
+
+/// Commentators get by who are this much below what the public expects.
+constexpr int kTolerance = 10;
+
+/// What Maeve says of an empty chair and of who does not fill it.
+struct ChairWords {
+  TvRemark Empty, Poor;
+};
+
+void JudgeChair(std::vector<TvRemark>& remarks, const std::optional<Commentator>& seated,
+                int wanted, const ChairWords& words) {
+  if (!seated)
+    remarks.push_back(words.Empty);
+  else if (seated->Skill + kTolerance < wanted)
+    remarks.push_back(words.Poor);
+}
+
+void JudgeTable(std::vector<TvRemark>& remarks, const World& world, const Show& show) {
+  const int wanted = WantedTalent(world.Player().Size);
+  JudgeChair(remarks, AnnouncerOf(world, show), wanted,
+             {{"No Announcer!", "Maeve: 'You need to assign an announcer to this show!'"},
+              {"Poor Announcer!", "Maeve: 'You need to assign a better announcer to this show!'"}});
+  JudgeChair(
+      remarks, ColourManOf(world, show), wanted,
+      {{"No Colour Commentator!", "Maeve: 'You need to assign a colour commentator to this show!'"},
+       {"Poor Colour Commentator!",
+        "Maeve: 'You need to assign a better colour commentator to this show!'"}});
+}
+
+/// Nothing to say between 70 and 80 per cent of what is wanted.
+std::vector<TvRemark> JudgeRating(int rating, int audience) {
+  // Tenths, since the limits are not rounded.
+  if (rating * 10 < audience * 6)
+    return {{"Uh-oh!",
+             "Maeve: 'Our ratings are well below what the network expects, something needs to "
+             "change very soon!'"}};
+  if (rating * 10 < audience * 7)
+    return {{"Uh-oh!",
+             "Maeve: 'Our ratings are below what the network expects, something needs to "
+             "change!'"}};
+  if (rating * 10 > audience * 9)
+    return {{"Great!", "Maeve: 'Our ratings are superb, the network are very happy with us!'"}};
+  if (rating * 10 > audience * 8)
+    return {{"OK!", "Maeve: 'Our ratings are good, the network appears to be happy with us.'"}};
+  return {};
+}
+
+TvRemark JudgeRisk(const Promotion& promotion, const Show& show, const Network& network) {
+  if (promotion.Risk > SlotRisk(network, show.Slot))
+    return {"Too Risky!",
+            "Maeve: 'We need to tone down the riskiness of the show if we want to stay on the "
+            "air!'"};
+  return {"Nothing's Happening!", "Maeve: 'I have nothing to report.'"};
+}
+
+std::string StrikesText(const Show& show) {
+  switch (show.Rating4) {
+    case 0:
+      return "No strikes.";
+    case 1:
+      return "One strike. At three the network drops the show.";
+    case 2:
+      return "Two strikes. One more, and the network drops the show.";
+    case 3:
+      return "Three strikes: the network will drop the show on Monday.";
+    default:
+      return std::to_string(show.Rating4) + " strikes, and somehow nobody has noticed.";
+  }
+}
+
+}  // namespace
+
+std::vector<TvRemark> TvAdvice(const World& world, const Show& show, const Network& network) {
+  std::vector<TvRemark> remarks;
+  JudgeTable(remarks, world, show);
+  if (show.Rating1 == 0) {
+    remarks.push_back({"Duh!",
+                       "Maeve: 'What are you expecting me to say? We haven't even debuted this "
+                       "show yet!'"});
+    return remarks;
+  }
+  const auto ratings = JudgeRating(show.Rating3, SlotAudience(network, show.Slot));
+  remarks.insert(remarks.end(), ratings.begin(), ratings.end());
+  if (ratings.empty()) remarks.push_back(JudgeRisk(world.Player(), show, network));
+  return remarks;
+}
+
+std::vector<std::string> NetworkWants(const Promotion& promotion, const Show& show,
+                                      const Network& network) {
+  const int audience = SlotAudience(network, show.Slot);
+  const std::string slot(SlotName(show.Slot));
+  return {network.Name + " measures the show against a rating of " + RatingText(audience) + " in " +
+              slot + ".",
+          "It bears a risk of " + std::to_string(SlotRisk(network, show.Slot)) +
+              " there. Ours is " + std::to_string(promotion.Risk) + ".",
+          "It asks for production values of " + std::to_string(network.Production) + ". Ours are " +
+              std::to_string(promotion.Production) + ".",
+          StrikesText(show)};
 }
 
 }  // namespace grapplemont

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "business/tvtalks.h"
 #include "records/world.h"
 
 // The shows that are on the air: whose they are, what they are called, which days are free.
@@ -44,5 +46,43 @@ void EndShow(World& world, Show& show);
 
 /// Tells the player about a promotion's television deal, as his mail option has it.
 void TellOfDeal(World& world, const Promotion& owner, std::string_view text);
+
+// Who sits at the commentary table, who could, and what the public of a promotion expects of them.
+
+/// The talent that commentators need at a promotion of this size.
+int WantedTalent(int size);
+
+/// The player's announcers.
+std::vector<const Staff*> CommentaryStaff(const World& world);
+/// The player's workers who could do the colour.
+std::vector<const Worker*> CommentaryWorkers(const World& world);
+
+/// Somebody for the table: a member of staff by his talent, or a worker by his charisma.
+struct Commentator {
+  std::string Name;
+  int Uid = 0;
+  bool IsWorker = false;
+  int Skill = 0;
+  bool Speaks = true;
+};
+std::vector<Commentator> AnnouncersToChoose(const World& world);
+/// Staff first.
+std::vector<Commentator> ColourMenToChoose(const World& world);
+
+/// Who sits there now; nothing for an empty chair and for somebody who is no more.
+std::optional<Commentator> AnnouncerOf(const World& world, const Show& show);
+std::optional<Commentator> ColourManOf(const World& world, const Show& show);
+/// His name; "None" for nobody.
+std::string NameOf(const std::optional<Commentator>& commentator);
+
+/// Why the two cannot share a table; empty when they can.
+std::string WhyNoTable(int announcer, int colour, bool colourIsWorker);
+
+/// What Maeve thinks of a show of the player's, box by box.
+std::vector<TvRemark> TvAdvice(const World& world, const Show& show, const Network& network);
+
+/// What the network asks of the show, a line each.
+std::vector<std::string> NetworkWants(const Promotion& promotion, const Show& show,
+                                      const Network& network);
 
 }  // namespace grapplemont

@@ -5,10 +5,11 @@
 
 #include "business/development.h"
 #include "business/networks.h"
-#include "business/sponsorlimits.h"
+#include "business/sponsors.h"
 #include "records/arithmetic.h"
 #include "records/counted.h"
 #include "records/modVar.h"
+#include "roster/talks.h"
 
 namespace grapplemont {
 
@@ -50,8 +51,7 @@ Roster RosterOf(const World& world, const Promotion& promotion) {
     const int over = worker.Over;
     ++roster.People;
     roster.Fame += months * over * over;
-    // Who cannot be fired is not paid by the month either.
-    if (worker.ContractMonths != kNoEnd) roster.Wages += months * worker.Wage;
+    roster.Wages += months * MonthlyWage(worker) / kThousand;
   }
   return roster;
 }
@@ -76,8 +76,8 @@ int RatingOf(const World& world, const Promotion& promotion, const Show& show) {
 }
 
 int TvShowsOf(const World& world, const Promotion& promotion) {
-  return static_cast<int>(std::count_if(world.Shows().begin(), world.Shows().end(),
-                                        [&](const Show& s) { return s.Owner == promotion.Uid; }));
+  return static_cast<int>(std::ranges::count_if(
+      world.Shows(), [&](const Show& s) { return s.Owner == promotion.Uid; }));
 }
 
 WorthLine TelevisionWorth(const World& world, const Promotion& promotion) {
@@ -94,9 +94,8 @@ WorthLine TelevisionWorth(const World& world, const Promotion& promotion) {
 
 WorthLine SponsorWorth(const World& world, const Promotion& promotion) {
   const int shows = TvShowsOf(world, promotion);
-  const auto events =
-      std::count_if(world.Events().begin(), world.Events().end(),
-                    [&](const Event& event) { return event.Owner == promotion.Uid; });
+  const auto events = std::ranges::count_if(
+      world.Events(), [&](const Event& event) { return event.Owner == promotion.Uid; });
   long long dollars = 0, sponsors = 0;
   for (const Sponsor& sponsor : world.Sponsors()) {
     if (sponsor.Promotion != promotion.Uid) continue;
@@ -113,8 +112,8 @@ WorthLine SponsorWorth(const World& world, const Promotion& promotion) {
 
 WorthLine DevelopmentWorth(const Promotion& promotion) {
   long long dollars = 0;
-  if (HasCamp(promotion)) dollars += CampPrice(promotion.CampFacilities);
-  if (HasTerritory(promotion)) dollars += kTerritoryPrice;
+  for (const Site site : {Site::Camp, Site::Territory})
+    if (HasSite(promotion, site)) dollars += SitePrice(site, promotion.CampFacilities);
   return {"Training camp and territory", "Half of what they would cost", dollars / 2};
 }
 

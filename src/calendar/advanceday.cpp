@@ -1,11 +1,16 @@
 #include "calendar/advanceday.h"
 
-#include "business/businesssteps.h"
+#include <algorithm>
+
+#include "business/networks.h"
+#include "business/sponsors.h"
+#include "business/tvtalks.h"
 #include "calendar/awards.h"
-#include "calendar/daysteps.h"
+#include "calendar/events.h"
+#include "calendar/incidents.h"
 #include "records/dates.h"
 #include "records/sweeps.h"
-#include "rivals/rivalsteps.h"
+#include "rivals/rivals.h"
 #include "storylines/lineages.h"
 
 namespace grapplemont {
@@ -96,6 +101,79 @@ void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher) {
     Walk(world, kSecondFirstOfMonth, watcher);
   }
   Walk(world, kClosing, watcher);
+}
+
+void AdvanceToNextShow(World& world, const StepWatcher& watcher) {
+  constexpr int kLongestWait = 31;  // days
+  const int endCode = world.Game().EndCode;
+  for (int day = 0; day < kLongestWait; ++day) {
+    AdvanceDay(world, false, watcher);
+    if (NeedsThePlayer(world) || world.Game().EndCode != endCode || HasIncident(world)) return;
+  }
+}
+
+bool HasTvToday(const World& world, int promotionUid) {
+  return std::ranges::any_of(world.Shows(), [&](const Show& show) {
+    return show.Owner == promotionUid && show.Day == DayName(world.Today());
+  });
+}
+
+DayKind DayKindToday(World& world, const std::function<bool()>& holdNone) {
+  if (IsEventDay(world.Today())) {
+    if (EventThisMonth(world, world.Player()) != 0) return DayKind::Event;
+    return holdNone() ? DayKind::Plain : DayKind::Stay;
+  }
+  return HasTvToday(world, world.PlayerUid()) ? DayKind::Television : DayKind::Plain;
+}
+
+std::vector<Appointment> ComingShows(const World& world, int days) {
+  std::vector<Appointment> coming;
+  for (int i = 0; i < days; ++i) {
+    const Day day = world.Today() + std::chrono::days{i};
+    if (IsEventDay(day)) {
+      const Event* event = PlayerEvent(world, MonthOf(day));
+      coming.push_back(event ? Appointment{day, event->Name.Str(), "Event"}
+                             : Appointment{day, "Nothing planned", "No Event"});
+      continue;
+    }
+    for (const Show& show : world.Shows())
+      if (show.Owner == world.PlayerUid() && show.Day == DayName(day))
+        coming.push_back({day, show.Name.Str(), "Television"});
+  }
+  return coming;
+}
+
+bool NeedsThePlayer(const World& world) {
+  return IsEventDay(world.Today()) || HasTvToday(world, world.PlayerUid());
+}
+
+int FreshMails(const World& world) {
+  const std::string today = ShortDate(world.Today());
+  const std::string yesterday = ShortDate(world.Today() - std::chrono::days{1});
+  int fresh = 0;
+  for (int number = world.News().Count(); number >= 1; --number, ++fresh) {
+    const Mail& mail = world.News()[number];
+    if (mail.Date != today && mail.Date != yesterday) break;
+  }
+  return fresh;
+}
+
+std::optional<Day> NextMeeting(const World& world) {
+  const int wanted = DayNumber(world.Player().MeetingDay.View());
+  if (wanted == 0) return std::nullopt;
+  const int present = DayNumber(DayName(world.Today()));
+  return world.Today() + std::chrono::days{(wanted - present + 7) % 7};
+}
+
+bool IsMeetingDay(const World& world) {
+  return NextMeeting(world) == world.Today();
+}
+
+std::string WhyNoMeeting(const World& world) {
+  const std::optional<Day> next = NextMeeting(world);
+  if (!next) return "No day is set for the meeting. The promotion's page has it.";
+  if (*next == world.Today()) return {};
+  return "The staff meet on " + std::string(DayName(*next)) + ", " + PlainDate(*next) + ".";
 }
 
 }  // namespace grapplemont

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "records/world.h"
 
@@ -27,5 +30,76 @@ using StepWatcher = std::function<void(std::string_view step)>;
 
 /// Ends the day (`cancelled`: its show was called off) and runs the next one's routines.
 void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher = {});
+/// Plain days pass, one at least and a month at most, until a show is due, the career ends or an
+/// incident waits.
+void AdvanceToNextShow(World& world, const StepWatcher& watcher = {});
+
+// The day's own steps: what shows leave behind, what days do to people, the month's books.
+
+// What the day that ends leaves behind.
+void PlayerShowConsequences(World& world, bool cancelled);
+void RivalShows(World& world);
+
+// Daily.
+void DailyWorkerUpkeep(World& world);
+void IncidentRoll(World& world);
+
+// Mondays.
+/// A mail from Maeve when there are fewer writers than the television shows ask for.
+void WriterWorkload(World& world);
+/// Moves GameInfo.Economy. Draws once while it is from 20 to 80.
+void EconomyDrift(World& world);
+
+// The first of a month.
+void PoorFormMorale(World& world);
+/// The player's workers in the territory learn from its booker, or fret where he has nothing left
+/// to teach them.
+void DevelopmentMonth(World& world);
+/// The player's trainees learn from the head trainer of the camp.
+void TrainingCampMonth(World& world);
+/// Takes a month off every injury, rehab and suspension.
+void StatusCountdown(World& world);
+/// The birthdays of the month before: skills drift, careers end. Whoever has announced his end goes
+/// in the first month that is not that of his birthday, and somebody new takes his record.
+void AgeAndRetire(World& world);
+void PayWagesAndContracts(World& world);
+void LoanRepayments(World& world);
+void MerchandiseIncome(World& world);
+void MonthlyCosts(World& world);
+void MonthlyReview(World& world);
+void CloseMonthBooks(World& world);
+
+/// What pressing "Next Day" does.
+enum class DayKind { Plain = 1, Television = 2, Event = 3, Stay = 4 };
+
+/// True when the promotion has a television show on this day of the week.
+bool HasTvToday(const World& world, int promotionUid);
+
+/// An Event day goes before a television day. On an Event day without an Event `holdNone` is asked
+/// whether the month shall pass without one: true makes the day plain, false stays on it.
+DayKind DayKindToday(World& world, const std::function<bool()>& holdNone);
+
+/// A show day of the player's that is still to come.
+struct Appointment {
+  Day On;
+  std::string What;  // the name of the show or Event, or what is missing
+  std::string Kind;  // "Television", "Event", "No Event"
+};
+
+/// The player's show days from today on, for so many days.
+std::vector<Appointment> ComingShows(const World& world, int days);
+
+/// Whether Today is a show day of the player's, or one that asks about a missing Event.
+bool NeedsThePlayer(const World& world);
+/// How many mails came with the day that has just passed, and since.
+int FreshMails(const World& world);
+
+// The promotion's weekly staff meeting.
+
+bool IsMeetingDay(const World& world);
+/// The day of the next meeting, today or later; nothing for a promotion that has named no day.
+std::optional<Day> NextMeeting(const World& world);
+/// Why there is no meeting today, with the day of the next; empty on the day.
+std::string WhyNoMeeting(const World& world);
 
 }  // namespace grapplemont

@@ -6,10 +6,9 @@
 #include <optional>
 #include <tuple>
 
-#include "business/monthlymoney.h"
+#include "business/finance.h"
 #include "business/past.h"
-#include "business/standing.h"
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "records/counted.h"
 #include "records/dates.h"
 #include "records/modVar.h"
@@ -54,21 +53,19 @@ class Year {
     const Day begin = std::max(Day(reign.From), from_);
     return end <= begin ? 0 : static_cast<int>((end - begin).count());
   }
-  int DaysAsChampion(int uid) const {
-    const auto found = champions_.find(uid);
-    return found == champions_.end() ? 0 : found->second.Days;
-  }
+  int DaysAsChampion(int uid) const { return ChampionOf(uid).Days; }
   /// What the days with Titles are worth by their images.
-  int RenownOf(int uid) const {
-    const auto found = champions_.find(uid);
-    return found == champions_.end() ? 0 : std::min(kMostRenown, found->second.Renown / 1825);
-  }
+  int RenownOf(int uid) const { return std::min(kMostRenown, ChampionOf(uid).Renown / 1825); }
 
  private:
   struct Champion {
     int Days = 0;
     int Renown = 0;
   };
+  Champion ChampionOf(int uid) const {
+    const auto found = champions_.find(uid);
+    return found == champions_.end() ? Champion{} : found->second;
+  }
 
   int ImageOf(const TitleReign& reign) const {
     for (const Title& title : world_.Titles())
@@ -92,19 +89,20 @@ class Year {
   std::map<int, Champion> champions_;
 };
 
-YearAward NewAward(const Year& year, AwardKind kind) {
+YearAward NewAward(const Year& year, AwardKind kind, int promotion, std::string_view winner,
+                   std::string_view why) {
   YearAward award;
   award.On = year.Of().Today();
   award.Kind = kind;
+  award.Promotion = promotion;
+  award.Winner = winner;
+  award.For = why;
   return award;
 }
 
 YearAward ForWorker(const Year& year, AwardKind kind, const Worker& worker, std::string_view why) {
-  YearAward award = NewAward(year, kind);
+  YearAward award = NewAward(year, kind, worker.Employer, worker.Name, why);
   award.Worker = worker.Uid;
-  award.Promotion = worker.Employer;
-  award.Winner = worker.Name;
-  award.For = why;
   return award;
 }
 
@@ -112,23 +110,30 @@ bool IsActive(const Worker& worker) {
   return worker.Employer != 0 && IsOnRoster(worker);
 }
 
-/// The worker of the highest merit, of those alike the first of the file. A merit of 0 is none.
-template <class Merit>
-const Worker* BestWorker(const Year& year, Merit merit) {
-  const Worker* best = nullptr;
-  decltype(merit(*best)) most{};
-  for (const Worker& worker : year.Of().Workers()) {
-    if (!IsActive(worker)) continue;
-    const auto his = merit(worker);
-    if (his <= most) continue;
-    best = &worker;
-    most = his;
+/// What a year was worth: the first number decides, then the second, then the third.
+using Merit = std::tuple<int, int, int>;
+
+/// The record of the highest merit, of those alike the first; nullptr when none has any. `most` is
+/// what it earned.
+template <class Records, class Of>
+auto Best(const Records& records, Merit& most, Of merit) {
+  decltype(&*records.begin()) best = nullptr;
+  for (const auto& record : records) {
+    const Merit its = merit(record);
+    if (its <= most) continue;
+    best = &record;
+    most = its;
   }
   return best;
 }
 
-/// What a year was worth: merit first, then Over, then days with a Title.
-using Merit = std::tuple<int, int, int>;
+template <class Of>
+const Worker* BestWorker(const Year& year, Of merit) {
+  Merit most{};
+  return Best(year.Of().Workers(), most, [&](const Worker& worker) {
+    return IsActive(worker) ? Merit(merit(worker)) : Merit{};
+  });
+}
 
 Merit YearOfWorker(const Year& year, const Worker& worker) {
   const int gain = std::clamp(year.GainOf(worker), 0, kMostGain);
@@ -145,109 +150,87 @@ std::string WhyWorker(const Year& year, const Worker& worker) {
   return why;
 }
 
-std::optional<YearAward> BestOfSex(const Year& year, AwardKind kind, bool man) {
-  const Worker* best = BestWorker(year, [&](const Worker& worker) {
-    return worker.Gender == man ? YearOfWorker(year, worker) : Merit{};
-  });
+std::optional<YearAward> ForBest(const Year& year, AwardKind kind, const Worker* best) {
   if (!best) return std::nullopt;
   return ForWorker(year, kind, *best, WhyWorker(year, *best));
 }
 
-std::optional<YearAward> BestMan(const Year& year) {
-  return BestOfSex(year, kWrestlerOfTheYear, true);
-}
-std::optional<YearAward> BestWoman(const Year& year) {
-  return BestOfSex(year, kWomanOfTheYear, false);
+template <AwardKind kind, bool man>
+std::optional<YearAward> BestOfSex(const Year& year) {
+  return ForBest(year, kind, BestWorker(year, [&](const Worker& worker) {
+                   return worker.Gender == man ? YearOfWorker(year, worker) : Merit{};
+                 }));
 }
 
 /// Days of the year in which the two held a Title together.
 int DaysTogether(const Year& year, const Team& team) {
-  const auto pair = [](int one, int two) {
-    return std::pair(std::min(one, two), std::max(one, two));
-  };
   int days = 0;
   for (const TitleReign& reign : year.Of().Reigns())
-    if (reign.Partner != 0 && pair(reign.Worker, reign.Partner) == pair(team.Worker1, team.Worker2))
+    if (reign.Partner != 0 && std::minmax({int(reign.Worker), int(reign.Partner)}) ==
+                                  std::minmax({int(team.Worker1), int(team.Worker2)}))
       days += year.DaysOf(reign);
   return days;
 }
 
-std::optional<YearAward> BestTeam(const Year& year) {
-  const Team* best = nullptr;
-  Merit most{};
-  for (const Team& team : year.Of().Teams()) {
-    const Worker* one = year.Of().FindWorker(team.Worker1);
-    const Worker* two = year.Of().FindWorker(team.Worker2);
-    if (!one || !two || !IsActive(*one) || !IsActive(*two) || one->Employer != two->Employer)
-      continue;
-    const int days = DaysTogether(year, team);
-    const int over = (one->Over + two->Over) / 2;
-    const Merit merit{over + team.Experience / 5 + days * kMostRenown / 365, over, days};
-    if (merit <= most) continue;
-    best = &team;
-    most = merit;
-  }
-  if (!best) return std::nullopt;
-  const Worker* one = year.Of().FindWorker(best->Worker1);
-  YearAward award = ForWorker(year, kTeamOfTheYear, *one, "");
-  award.Partner = best->Worker2;
-  award.Winner = PairName(year.Of(), best->Worker1, best->Worker2);
-  award.For =
-      "Over " + std::to_string(std::get<1>(most)) + " between them, experience " +
-      std::to_string(best->Experience) +
-      (std::get<2>(most) > 0 ? ", " + Counted(std::get<2>(most), "day") + " as champions" : "");
-  return award;
+Merit YearOfTeam(const Year& year, const Team& team) {
+  const Worker* one = year.Of().FindWorker(team.Worker1);
+  const Worker* two = year.Of().FindWorker(team.Worker2);
+  if (!one || !two || !IsActive(*one) || !IsActive(*two) || one->Employer != two->Employer)
+    return {};
+  const int days = DaysTogether(year, team), over = (one->Over + two->Over) / 2;
+  return {over + team.Experience / 5 + days * kMostRenown / 365, over, days};
 }
 
-std::string ResultOf(const HeldMatch& bout) {
-  return bout.Won + (bout.Winners > 0 ? " beat " : " drew with ") + bout.Lost.Str();
+std::optional<YearAward> BestTeam(const Year& year) {
+  Merit most{};
+  const Team* best =
+      Best(year.Of().Teams(), most, [&](const Team& team) { return YearOfTeam(year, team); });
+  if (!best) return std::nullopt;
+  const auto [merit, over, days] = most;
+  YearAward award = ForWorker(year, kTeamOfTheYear, *year.Of().FindWorker(best->Worker1),
+                              "Over " + std::to_string(over) + " between them, experience " +
+                                  std::to_string(best->Experience) +
+                                  (days > 0 ? ", " + Counted(days, "day") + " as champions" : ""));
+  award.Partner = best->Worker2;
+  award.Winner = PairName(year.Of(), best->Worker1, best->Worker2);
+  return award;
 }
 
 std::string WhereAndWhen(const Year& year, const HeldMatch& bout) {
   for (const HistoryEntry& entry : year.Of().History())
-    if (entry.Promotion == bout.Promotion && Day(entry.On) == Day(bout.On) &&
-        (entry.Kind == kPastTv || entry.Kind == kPastEvent))
+    if (entry.Promotion == bout.Promotion && Day(entry.On) == Day(bout.On) && IsShow(entry))
       return " at " + entry.Name.Str() + ", " + PlainDate(bout.On);
   return " on " + PlainDate(bout.On);
 }
 
 /// The first of the best by rating, Events before television, Titles before none.
 std::optional<YearAward> BestMatch(const Year& year) {
-  const HeldMatch* best = nullptr;
   Merit most{};
-  for (const HeldMatch& bout : year.Of().Bouts()) {
-    const Merit merit{bout.Rating, bout.IsEvent, !(bout.Title == "None")};
-    if (!year.Has(Day(bout.On)) || merit <= most) continue;
-    best = &bout;
-    most = merit;
-  }
+  const HeldMatch* best = Best(year.Of().Bouts(), most, [&](const HeldMatch& bout) {
+    return year.Has(Day(bout.On)) ? Merit{bout.Rating, bout.IsEvent, bout.Title != "None"}
+                                  : Merit{};
+  });
   if (!best) return std::nullopt;
-  YearAward award = NewAward(year, kMatchOfTheYear);
+  YearAward award =
+      NewAward(year, kMatchOfTheYear, best->Promotion,
+               best->Won + (best->Winners > 0 ? " beat " : " drew with ") + best->Lost.Str(),
+               "Rated " + std::to_string(best->Rating) + "%" + WhereAndWhen(year, *best));
   award.Worker = best->Winners == 1 ? int(best->Worker[0]) : 0;
-  award.Promotion = best->Promotion;
-  award.Winner = ResultOf(*best);
-  award.For = "Rated " + std::to_string(best->Rating) + "%" + WhereAndWhen(year, *best);
   return award;
 }
 
 /// The first of the best by rating, then by the crowd.
 std::optional<YearAward> BestShow(const Year& year) {
-  const HistoryEntry* best = nullptr;
-  std::pair<int, int> most{};
-  for (const HistoryEntry& entry : year.Of().History()) {
-    const bool isShow = entry.Kind == kPastTv || entry.Kind == kPastEvent;
-    const std::pair<int, int> merit{entry.Rating, entry.Attendance};
-    if (!isShow || entry.CalledOff || !year.Has(entry) || merit <= most) continue;
-    best = &entry;
-    most = merit;
-  }
+  Merit most{};
+  const HistoryEntry* best = Best(year.Of().History(), most, [&](const HistoryEntry& entry) {
+    return IsShow(entry) && !entry.CalledOff && year.Has(entry)
+               ? Merit{entry.Rating, entry.Attendance, 0}
+               : Merit{};
+  });
   if (!best) return std::nullopt;
-  YearAward award = NewAward(year, kShowOfTheYear);
-  award.Promotion = best->Promotion;
-  award.Winner = best->Name;
-  award.For = "Rated " + std::to_string(best->Rating) + "% on " + PlainDate(best->On) +
-              ", seen by " + Counted(best->Attendance, "person", "people");
-  return award;
+  return NewAward(year, kShowOfTheYear, best->Promotion, best->Name,
+                  "Rated " + std::to_string(best->Rating) + "% on " + PlainDate(best->On) +
+                      ", seen by " + Counted(best->Attendance, "person", "people"));
 }
 
 /// A feud's matches of the year.
@@ -263,8 +246,8 @@ bool IsBetweenPairs(const std::array<int, 4>& parties) {
 }
 
 bool HasTwoSides(const std::array<int, 4>& parties) {
-  if (IsBetweenPairs(parties)) return parties[0] != 0 || parties[1] != 0;
-  return parties[0] != 0 && parties[1] != 0;
+  const bool first = parties[0] != 0, second = parties[1] != 0;
+  return IsBetweenPairs(parties) ? first || second : first && second;
 }
 
 std::vector<FeudYear> FeudsOf(const Year& year) {
@@ -272,8 +255,8 @@ std::vector<FeudYear> FeudsOf(const Year& year) {
   for (const HeldMatch& bout : year.Of().Bouts()) {
     const std::array<int, 4> parties = {bout.Feud[0], bout.Feud[1], bout.Feud[2], bout.Feud[3]};
     if (!year.Has(Day(bout.On)) || !HasTwoSides(parties)) continue;
-    auto feud = std::find_if(feuds.begin(), feuds.end(),
-                             [&](const FeudYear& known) { return known.Parties == parties; });
+    auto feud = std::ranges::find_if(
+        feuds, [&](const FeudYear& known) { return known.Parties == parties; });
     if (feud == feuds.end()) feud = feuds.insert(feuds.end(), {parties, {}, 0});
     feud->Ratings.push_back(bout.Rating);
   }
@@ -300,78 +283,64 @@ std::string FeudName(const World& world, const std::array<int, 4>& parties) {
 /// By the three best matches, then by how many there were; of those alike the first.
 std::optional<YearAward> BestFeud(const Year& year) {
   const std::vector<FeudYear> feuds = FeudsOf(year);
-  const FeudYear* best = nullptr;
-  std::pair<int, std::size_t> most{};
-  for (const FeudYear& feud : feuds) {
-    const std::pair<int, std::size_t> merit{feud.Best, feud.Ratings.size()};
-    if (feud.Ratings.size() < kFewestFeudMatches || merit <= most) continue;
-    best = &feud;
-    most = merit;
-  }
+  Merit most{};
+  const FeudYear* best = Best(feuds, most, [](const FeudYear& feud) {
+    const int matches = static_cast<int>(feud.Ratings.size());
+    return matches < kFewestFeudMatches ? Merit{} : Merit{feud.Best, matches, 0};
+  });
   if (!best) return std::nullopt;
-  YearAward award = NewAward(year, kFeudOfTheYear);
+  YearAward award =
+      NewAward(year, kFeudOfTheYear, year.Of().PlayerUid(), FeudName(year.Of(), best->Parties),
+               Counted(std::ssize(best->Ratings), "match", "matches") + ", the best rated " +
+                   std::to_string(best->Ratings[0]) + "%");
   award.Worker = best->Parties[0];
   award.Partner = best->Parties[1];
-  award.Promotion = year.Of().PlayerUid();
-  award.Winner = FeudName(year.Of(), best->Parties);
-  award.For = Counted(std::ssize(best->Ratings), "match", "matches") + ", the best rated " +
-              std::to_string(best->Ratings[0]) + "%";
   return award;
 }
 
-/// What it has risen by since its first month end of the year.
-std::map<int, int> FirstScores(const Year& year) {
-  std::map<int, int> first;
+/// By the rise since the first month end of the year.
+std::optional<YearAward> BestPromotion(const Year& year) {
+  std::map<int, int> first;  // score by uid
   for (const HistoryEntry& entry : year.Of().History())
     if (entry.Kind == kPastMonth && year.Has(entry))
       first.emplace(entry.Promotion, PastStanding{entry.On, entry.Size, entry.Image}.Score());
-  return first;
-}
-
-std::optional<YearAward> BestPromotion(const Year& year) {
-  const std::map<int, int> first = FirstScores(year);
-  const Promotion* best = nullptr;
-  std::pair<int, int> most{};
-  for (const Promotion& promotion : year.Of().Promotions()) {
+  Merit most{};
+  const Promotion* best = Best(year.Of().Promotions(), most, [&](const Promotion& promotion) {
     const auto begin = first.find(promotion.Uid);
-    if (begin == first.end()) continue;
     const int score = StandingScore(promotion);
-    const std::pair<int, int> merit{score - begin->second, score};
-    if (merit.first <= 0 || merit <= most) continue;
-    best = &promotion;
-    most = merit;
-  }
+    const int gain = begin == first.end() ? 0 : score - begin->second;
+    return gain > 0 ? Merit{gain, score, 0} : Merit{};
+  });
   if (!best) return std::nullopt;
-  YearAward award = NewAward(year, kPromotionOfTheYear);
-  award.Promotion = best->Uid;
-  award.Winner = best->Name;
-  award.For = "Nobody has risen further: " + std::string(Says(kSizes, best->Size)) + ", image " +
-              std::to_string(best->Image) + "%";
-  return award;
+  return NewAward(year, kPromotionOfTheYear, best->Uid, best->Name,
+                  "Nobody has risen further: " + std::string(Says(kSizes, best->Size)) +
+                      ", image " + std::to_string(best->Image) + "%");
 }
 
 std::optional<YearAward> MostImproved(const Year& year) {
-  const Worker* best = BestWorker(year, [&](const Worker& worker) {
-    const int gain = year.GainOf(worker);
-    return gain < kLeastImprovement ? std::pair<int, int>{}
-                                    : std::pair<int, int>{gain, worker.Over};
-  });
-  if (!best) return std::nullopt;
-  return ForWorker(year, kMostImproved, *best, WhyWorker(year, *best));
+  return ForBest(year, kMostImproved, BestWorker(year, [&](const Worker& worker) {
+                   const int gain = year.GainOf(worker);
+                   return gain < kLeastImprovement ? Merit{} : Merit{gain, worker.Over, 0};
+                 }));
 }
 
 /// Somebody who was not in the business when the last year ended.
 std::optional<YearAward> BestRookie(const Year& year) {
   if (!year.KnowsLastYear()) return std::nullopt;
-  const Worker* best = BestWorker(
-      year, [&](const Worker& worker) { return year.WasThere(worker.Uid) ? 0 : int(worker.Over); });
-  if (!best) return std::nullopt;
-  return ForWorker(year, kRookieOfTheYear, *best, WhyWorker(year, *best));
+  return ForBest(year, kRookieOfTheYear, BestWorker(year, [&](const Worker& worker) {
+                   return year.WasThere(worker.Uid) ? Merit{} : Merit{worker.Over, 0, 0};
+                 }));
 }
 
-using Choose = std::optional<YearAward> (*)(const Year&);
-constexpr Choose kAwards[] = {BestMan,  BestWoman,     BestTeam,     BestMatch, BestShow,
-                              BestFeud, BestPromotion, MostImproved, BestRookie};
+constexpr std::optional<YearAward> (*kAwards[])(const Year&) = {BestOfSex<kWrestlerOfTheYear, true>,
+                                                                BestOfSex<kWomanOfTheYear, false>,
+                                                                BestTeam,
+                                                                BestMatch,
+                                                                BestShow,
+                                                                BestFeud,
+                                                                BestPromotion,
+                                                                MostImproved,
+                                                                BestRookie};
 
 /// As many awards to a mail as it has room for.
 void Tell(World& world, const std::vector<YearAward>& awards) {
@@ -403,7 +372,7 @@ void Keep(World& world, const YearAward& award) {
 std::vector<YearAward> AwardsOfTheYear(const World& world) {
   const Year year(world);
   std::vector<YearAward> awards;
-  for (const Choose choose : kAwards)
+  for (const auto choose : kAwards)
     if (const std::optional<YearAward> award = choose(year)) awards.push_back(*award);
   return awards;
 }

@@ -48,8 +48,7 @@ void AddEvent(World& world, const Promotion& promotion, int month) {
 
 bool IsRoom(const World& world) {
   const auto isLeft = [](const Event& event) { return event.Owner == 0; };
-  return !world.Events().Full() ||
-         std::any_of(world.Events().begin(), world.Events().end(), isLeft);
+  return !world.Events().Full() || std::ranges::any_of(world.Events(), isLeft);
 }
 
 Day LastSunday(int year, int month) {
@@ -111,10 +110,9 @@ std::string WhyNotEventName(const World& world, int month, std::string_view name
   constexpr int kLetters = decltype(Event::Name)::kWidth;
   if (std::string why = WhyNoName(name, kLetters); !why.empty()) return why;
   name = TrimmedName(name);
-  const bool taken =
-      std::any_of(world.Events().begin(), world.Events().end(), [&](const Event& event) {
-        return event.Owner == world.PlayerUid() && event.Month != month && event.Name == name;
-      });
+  const bool taken = std::ranges::any_of(world.Events(), [&](const Event& event) {
+    return event.Owner == world.PlayerUid() && event.Month != month && event.Name == name;
+  });
   return taken ? "You have an Event called " + std::string(name) + " already." : "";
 }
 

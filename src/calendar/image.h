@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+
+#include "records/gameinfo.h"
 #include "records/world.h"
 
 namespace grapplemont {
@@ -12,5 +15,24 @@ void ChangeImage(World& world, Promotion& promotion, int amount, bool gain);
 
 /// The same by a step that may be negative.
 void MoveImage(World& world, Promotion& promotion, int step);
+
+// What a show does to its promotion's image, a minus being a loss. By the size of the promotion,
+// and by the rating of the player's show or the quality of a rival's.
+int EventImageStep(int size, int rating);
+int TvImageStep(int size, int rating);
+int RivalEventImageStep(int size, int quality);
+int RivalTvImageStep(int size, int quality);
+
+// How the player's show moves the image: what the public thinks of it before it has seen it, by
+// the difficulty and the player's reputation, and then by its rating.
+
+/// The steps before the show in the order in which they are taken; 0 for none.
+using Goodwill = std::array<int, 3>;
+Goodwill EventGoodwill(const GameInfo& game);
+Goodwill TvGoodwill(const GameInfo& game);
+
+/// All that a show of this rating does to the image of a player's promotion of this size.
+int WholeEventStep(const GameInfo& game, int size, int rating);
+int WholeTvStep(const GameInfo& game, int size, int rating);
 
 }  // namespace grapplemont

@@ -1,8 +1,13 @@
 #include "calendar/incidents.h"
 
+#include <array>
+
+#include "calendar/advanceday.h"
 #include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "rivals/ownership.h"
+#include "roster/leaving.h"
+#include "roster/staff.h"
 #include "show/aftermatch.h"
 
 namespace grapplemont {
@@ -15,13 +20,13 @@ bool IsAlive(const World& world, const Incident& incident) {
     return worker && WorksForPlayer(world, *worker);
   }
   const Promotion* promotion = world.FindPromotion(incident.Uid);
-  return promotion && promotion->Uid != world.PlayerUid() && !(promotion->Name == kToBeDeleted);
+  return promotion && promotion->Uid != world.PlayerUid() && promotion->Name != kToBeDeleted;
 }
 
 /// Opening the list again finds him where it left him.
 void TakeOut(World& world, const Incident& incident) {
   Worker* worker = world.FindWorker(incident.Uid);
-  if (!worker || !(worker->Status == "Nor")) return;
+  if (!worker || worker->Status != "Nor") return;
   if (incident.Type == kRehab) {
     worker->Status = "Reh";
     worker->StatusMonths = 1 + world.RandomDraw(3);
@@ -36,8 +41,12 @@ std::string OfferText(const World& world, const Promotion& promotion) {
 
 }  // namespace
 
+bool HasIncident(const World& world) {
+  return world.Incidents().Count() > 0 && world.Incidents()[1].Type != 0;
+}
+
 const Incident* FirstIncident(World& world) {
-  while (world.Incidents().Count() > 0 && world.Incidents()[1].Type != 0) {
+  while (HasIncident(world)) {
     const Incident& incident = world.Incidents()[1];
     if (IsAlive(world, incident)) {
       TakeOut(world, incident);
@@ -76,6 +85,169 @@ void CloseIncident(World& world) {
   for (int number = 1; number < incidents.Count(); ++number)
     incidents[number] = incidents[number + 1];
   incidents[incidents.Count()] = {};
+}
+
+namespace {
+
+constexpr int kIncidentsKept = 10;
+constexpr int kOfferDraw = 180, kOfferHit = 5;
+constexpr int kQuietDays = 60;
+constexpr int kInjuryHit = 100;
+
+/// Out of so many; 0: never.
+struct ConductRow {
+  int Type;
+  int Hit;
+  std::array<int, 6> Odds;  // Behaviour 90 up, 70, 50, 30, 10, below
+  int OffWhenShort;         // with too few road agents
+};
+constexpr std::array<ConductRow, 4> kConduct = {{
+    {kRehab, 200, {0, 10000, 6000, 4000, 2500, 1200}, 200},
+    {kPolice, 400, {0, 9000, 6500, 4200, 2800, 1400}, 150},
+    {kLate, 3, {0, 8000, 4000, 1000, 500, 100}, 30},
+    {kFight, 25, {0, 8000, 5000, 1200, 800, 200}, 20},
+}};
+
+std::size_t BehaviourBand(int behaviour) {
+  constexpr std::array<int, 5> kFrom = {90, 70, 50, 30, 10};
+  std::size_t band = 0;
+  while (band < kFrom.size() && behaviour < kFrom[band]) ++band;
+  return band;
+}
+
+int InjuryOdds(int condition) {
+  if (condition < 40) return 800;
+  if (condition < 60) return 1200;
+  return condition < 90 ? 1800 : 2500;
+}
+
+/// The day's list, filled from the front; what does not fit is dropped.
+class Bookings {
+ public:
+  explicit Bookings(World& world) : incidents_(world.Incidents()) {
+    incidents_.Rewrite(std::vector<Incident>(kIncidentsKept));
+  }
+  void Book(int type, int uid) {
+    if (next_ > kIncidentsKept) return;
+    incidents_[next_].Type = type;
+    incidents_[next_].Uid = uid;
+    ++next_;
+  }
+
+ private:
+  Records<Incident>& incidents_;
+  int next_ = 1;
+};
+
+void RollFor(World& world, const Worker& worker, bool isShort, Bookings& bookings) {
+  bool booked = false;
+  const auto book = [&](int type) {
+    if (booked) return;
+    bookings.Book(type, worker.Uid);
+    booked = true;
+  };
+  if (world.RandomDraw(InjuryOdds(worker.Condition)) == kInjuryHit) book(kInjury);
+  const std::size_t band = BehaviourBand(worker.Behaviour);
+  for (const ConductRow& row : kConduct) {
+    const int odds = row.Odds[band];
+    if (odds == 0) continue;
+    if (world.RandomDraw(odds - (isShort ? row.OffWhenShort : 0)) == row.Hit) book(row.Type);
+  }
+}
+
+bool IsAround(const Worker& worker) {
+  return worker.Status == "Nor" && worker.Position < kSentToDevelopment &&
+         worker.Position != kDevelopmentDeal && worker.Position != kTrainingCamp;
+}
+
+void RollRoster(World& world, Bookings& bookings) {
+  const bool isShort = IsShort(PostCountOf(world, kRoadAgent));
+  for (const Worker& worker : world.Workers())
+    if (WorksForPlayer(world, worker) && IsAround(worker))
+      RollFor(world, worker, isShort, bookings);
+}
+
+void RollOffer(World& world, Bookings& bookings) {
+  if (world.Promotions().Count() == 0) return;
+  const Promotion& promotion = world.Promotions()[world.RandomDraw(world.Promotions().Count())];
+  if (promotion.Uid != world.PlayerUid() && promotion.Size > world.Session.StartSize - 3)
+    bookings.Book(kJobOffer, promotion.Uid);
+}
+
+}  // namespace
+
+void IncidentRoll(World& world) {
+  Bookings bookings(world);
+  int draw = world.RandomDraw(kOfferDraw);
+  const Day start = world.Game().StartDate;
+  if (start + std::chrono::days{kQuietDays} >= world.Today()) draw = 1;
+  if (draw == kOfferHit)
+    RollOffer(world, bookings);
+  else
+    RollRoster(world, bookings);
+}
+
+void FireFor(World& world, Worker& worker) {
+  ReleaseWorker(world, worker);
+}
+
+void Suspend(Worker& worker, int months) {
+  worker.Status = "Sus";
+  worker.StatusMonths = months;
+}
+
+namespace {
+
+/// Rivals make no use of debuts, turns and suspended Titles that the player has had in mind.
+void GoOnWithoutThePlayer(World& world, const Promotion& former) {
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer != former.Uid) continue;
+    worker.Debuted = true;
+    worker.TurnPending = false;
+  }
+  for (Title& title : world.Titles())
+    if (title.Owner == former.Uid) title.Suspended = false;
+}
+
+bool IsEmployed(const World& world, const Show& show, int uid, bool isWorker) {
+  const auto worksThere = [&](const auto* person) {
+    return person && person->Employer == show.Owner;
+  };
+  return isWorker ? worksThere(world.FindWorker(uid)) : worksThere(world.FindStaff(uid));
+}
+
+/// A rival's voices may have left without anybody taking their place.
+void ClearTheBooth(World& world, const Promotion& promotion) {
+  for (Show& show : world.Shows()) {
+    if (show.Owner != promotion.Uid) continue;
+    if (!IsEmployed(world, show, show.Announcer, false)) show.Announcer = 0;
+    if (IsEmployed(world, show, show.Colour, show.ColourIsWorker)) continue;
+    show.Colour = 0;
+    show.ColourIsWorker = false;
+  }
+}
+
+}  // namespace
+
+void ChangeJob(World& world, const Promotion& promotion) {
+  GameInfo& game = world.Game();
+  const Promotion& former = world.Player();
+  GoOnWithoutThePlayer(world, former);
+  ClearTheBooth(world, promotion);
+  for (std::size_t i = game.Jobs.size() - 1; i > 0; --i) game.Jobs[i] = game.Jobs[i - 1];
+  game.Jobs[1].EndImage = former.Image;
+  game.Jobs[1].EndSize = former.Size;
+  Job job;
+  job.Promotion = promotion.Name.View();
+  job.Started = world.Today();
+  job.StartImage = promotion.Image;
+  job.StartSize = promotion.Size;
+  game.Jobs[0] = job;
+  game.PlayerPromotion = promotion.Uid;
+  game.TapeWait = 0;
+  game.TvOfferWait = 0;
+  for (Feud& feud : world.Feuds()) feud = {};
+  world.Session.StartSize = promotion.Size;
 }
 
 }  // namespace grapplemont

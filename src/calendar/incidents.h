@@ -11,6 +11,8 @@ namespace grapplemont {
 
 enum IncidentType { kFight = 1, kLate, kPolice, kRehab, kInjury, kJobOffer };
 
+/// Whether the list of the day holds any.
+bool HasIncident(const World& world);
 /// The first that waits for an answer; those about people or promotions who are gone are dropped.
 /// Somebody who has to go into rehab or is hurt does so now: his months, and the injury's name, are
 /// drawn. Nothing when all have been dealt with.

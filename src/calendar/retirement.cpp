@@ -2,15 +2,15 @@
 #include <array>
 #include <span>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "roster/invented.h"
+#include "roster/leaving.h"
+#include "roster/market.h"
 #include "roster/postings.h"
-#include "roster/release.h"
-#include "roster/shortlist.h"
 
 // Birthdays, and what they bring: the end of a career, and somebody new in its place.
 
@@ -31,7 +31,7 @@ constexpr std::array<AgeBand, 4> kWorkersStop = {{{66, 1}, {51, 3}, {45, 15}, {3
 
 bool DrawStop(World& world, int age, std::span<const AgeBand> bands) {
   const auto band =
-      std::find_if(bands.begin(), bands.end(), [&](const AgeBand& row) { return age >= row.From; });
+      std::ranges::find_if(bands, [&](const AgeBand& row) { return age >= row.From; });
   if (band == bands.end()) return false;
   return band->OneIn == 1 || world.RandomDraw(band->OneIn) == 1;
 }
@@ -110,7 +110,7 @@ void LeaveTheRing(World& world, Worker& worker) {
 void Birthday(World& world, Worker& worker) {
   GrowOlder(world, worker);
   const bool hadEnough = DrawStop(world, worker.Age, kWorkersStop);
-  if (hadEnough && !(worker.Name == kIronMan))
+  if (hadEnough && worker.Name != kIronMan)
     Announce(world, worker);
   else
     LeaveTheRing(world, worker);

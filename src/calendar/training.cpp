@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "records/modVar.h"
 
 // What the young learn away from the main roster: in the development territory and in the training
@@ -49,9 +49,8 @@ constexpr std::array<Lesson, 4> kLessons = {
     {{95, {5, 0}, {4, 0}}, {75, {4, 0}, {3, 0}}, {60, {3, 1}, {3, 1}}, {41, {2, 1}, {2, 1}}}};
 
 const Lesson* LessonOf(int talent) {
-  const auto found = std::find_if(kLessons.begin(), kLessons.end(), [&](const Lesson& lesson) {
-    return talent >= lesson.FromTalent;
-  });
+  const auto found = std::ranges::find_if(
+      kLessons, [&](const Lesson& lesson) { return talent >= lesson.FromTalent; });
   return found == kLessons.end() ? nullptr : &*found;
 }
 
@@ -118,8 +117,8 @@ constexpr std::array<TrainerBand, 6> kTrainers = {
 
 int CampRange(const World& world, const Promotion& promotion) {
   const int talent = TalentOf(world, promotion.HeadTrainer);
-  const auto band = std::find_if(kTrainers.begin(), kTrainers.end(),
-                                 [&](const TrainerBand& row) { return talent >= row.From; });
+  const auto band =
+      std::ranges::find_if(kTrainers, [&](const TrainerBand& row) { return talent >= row.From; });
   const int level = std::clamp<int>(promotion.CampFacilities, 0, kCaps.size() - 1);
   return std::min(band->Range, kCaps[static_cast<std::size_t>(level)]);
 }

@@ -1,7 +1,12 @@
-#include "calendar/daysteps.h"
+#include <array>
+
+#include "booking/wizard/roster.h"
+#include "calendar/advanceday.h"
+#include "records/counted.h"
 #include "records/modVar.h"
-#include "roster/release.h"
-#include "roster/staffneeds.h"
+#include "records/modWresCheck.h"
+#include "roster/leaving.h"
+#include "roster/staff.h"
 
 namespace grapplemont {
 
@@ -26,22 +31,13 @@ void Say(World& world, const Worker& worker, const Parting& parting) {
   AddNews(world, worker.Name, worker.Name == "Maul Gantry" ? parting.Legend : parting.Words);
 }
 
-bool HasAdequateMedics(const World& world) {
-  const int player = world.PlayerUid();
-  int medics = 0, roster = 0;
-  for (const Staff& staff : world.AllStaff())
-    medics += staff.Employer == player && staff.Position == kMedical;
-  for (const Worker& worker : world.Workers()) roster += worker.Employer == player;
-  return medics >= MedicsNeeded(roster);
-}
-
 bool MayRebel(const Worker& worker) {
   return worker.Status == "Nor" && !worker.Unsackable;
 }
 
 /// True when he has left.
 bool WalksOut(World& world, Worker& worker) {
-  if (!(worker.ContractType == "Non") || !MayRebel(worker) || worker.Behaviour >= 80 ||
+  if (worker.ContractType != "Non" || !MayRebel(worker) || worker.Behaviour >= 80 ||
       worker.Morale >= 10)
     return false;
   Say(world, worker, kWalksOut);
@@ -87,7 +83,7 @@ void UpkeepOfOthers(World& world, Worker& worker) {
 
 void DailyWorkerUpkeep(World& world) {
   const int player = world.PlayerUid();
-  const bool adequateMedics = HasAdequateMedics(world);
+  const bool adequateMedics = !IsShort(PostCountOf(world, kMedical));
   for (Worker& worker : world.Workers()) {
     if (worker.Employer == player)
       UpkeepOfPlayers(world, worker, adequateMedics);
@@ -96,6 +92,60 @@ void DailyWorkerUpkeep(World& world) {
   }
   for (Staff& staff : world.AllStaff())
     if (staff.Employer != 0 && staff.Employer != player) staff.Morale += 1;
+}
+
+namespace {
+
+struct Absence {
+  std::string_view Status;
+  std::string_view From;
+};
+constexpr std::array<Absence, 3> kAbsences = {
+    {{"Inj", "injury"}, {"Reh", "rehab"}, {"Sus", "suspension"}}};
+
+void TellReturn(World& world, const Worker& worker) {
+  for (const Absence& absence : kAbsences)
+    if (worker.Status == absence.Status)
+      AddNews(world, "Roster News",
+              worker.Name + " has returned from " + std::string(absence.From) + ".");
+}
+
+}  // namespace
+
+void StatusCountdown(World& world) {
+  for (Worker& worker : world.Workers()) {
+    if (worker.Status == "Nor" || worker.Status == "Hom") continue;
+    const bool isLast = worker.StatusMonths == 1;
+    worker.StatusMonths -= 1;
+    if (!isLast) continue;
+    if (WorksForPlayer(world, worker)) TellReturn(world, worker);
+    worker.Status = "Nor";
+    worker.InjuryName = "";
+  }
+}
+
+void WriterWorkload(World& world) {
+  const int shows = PlayerShows(world);
+  const int writers = PlayerWriters(world);
+  if (shows == 0 || writers >= WritersNeeded(shows)) return;
+  AddNews(world, "Maeve",
+          "Our writers can't keep up. For " + Counted(shows, "television show") +
+              " we need at least " + std::to_string(WritersNeeded(shows)) +
+              " writers, and we have " + (writers == 0 ? "none" : std::to_string(writers)) +
+              ". Until we hire more, i can't put any angles on television.");
+}
+
+void EconomyDrift(World& world) {
+  GameInfo& game = world.Game();
+  int economy = game.Economy;
+  const bool calm = economy >= 20 && economy <= 80;
+  if (calm && world.RandomDraw(15) >= 9) return;
+  const int step = economy < 20 ? 7 : 1;
+  economy += game.EconomyRising ? step : -step;
+  // Steps of 7 can pass over 0, and then nothing but the field's own end stops the fall.
+  game.Economy = economy;
+  if (economy == 100) game.EconomyRising = false;
+  if (economy == 0) game.EconomyRising = true;
 }
 
 }  // namespace grapplemont

@@ -8,10 +8,15 @@
 namespace grapplemont {
 
 std::string FillLine(std::string_view line, const LineWords& words) {
-  std::string text = FillHoles(line, [&](std::string_view name) {
+  std::string text = FillHoles(line, [&](std::string_view slot) {
+    const auto counted = ReadCounted(slot);
+    const std::string_view name = counted ? counted->Name : slot;
     const auto found = std::find_if(words.begin(), words.end(),
                                     [=](const auto& word) { return word.first == name; });
-    return found == words.end() ? "{" + std::string(name) + "}" : found->second;
+    if (found == words.end()) return "{" + std::string(slot) + "}";
+    if (!counted) return found->second;
+    const std::string form(found->second == "1" ? counted->One : counted->Many);
+    return counted->SaysCount ? found->second + " " + form : form;
   });
   if (!text.empty()) text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
   return text;

@@ -5,7 +5,7 @@
 #include "info/fill.h"
 #include "info/infowords.h"
 #include "records/modWresCheck.h"
-#include "roster/stafffacts.h"
+#include "roster/workerfacts.h"
 
 namespace grapplemont {
 

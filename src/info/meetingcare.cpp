@@ -4,9 +4,9 @@
 #include "records/counted.h"
 #include "records/modVar.h"
 #include "roster/postings.h"
-#include "roster/renewal.h"
-#include "roster/stafffacts.h"
-#include "roster/staffneeds.h"
+#include "roster/staff.h"
+#include "roster/talks.h"
+#include "roster/workerfacts.h"
 
 // The meeting on contracts, on who is hurt, on the young, and on the staff itself.
 
@@ -141,7 +141,8 @@ std::string WhyNoLessons(const World& world, int staffUid, const char* nobody) {
 void TalkOfTerritory(Meeting& meeting) {
   const World& world = meeting.Of();
   const Promotion& player = meeting.Player();
-  const People pupils = HasTerritory(player) ? PeopleInTerritory(world) : People();
+  const People pupils =
+      HasSite(player, Site::Territory) ? PeopleAt(world, Site::Territory) : People();
   if (pupils.empty()) return;
   const std::string territory = player.DevName.Str();
   if (const std::string why = WhyNoLessons(world, player.DevBooker, "nobody books it");
@@ -158,9 +159,9 @@ void TalkOfTerritory(Meeting& meeting) {
 void TalkOfCamp(Meeting& meeting) {
   const World& world = meeting.Of();
   const Promotion& player = meeting.Player();
-  if (!HasCamp(player)) return;
+  if (!HasSite(player, Site::Camp)) return;
   const std::string camp = player.CampName.Str();
-  const People trainees = PeopleInCamp(world);
+  const People trainees = PeopleAt(world, Site::Camp);
   if (trainees.empty()) return meeting.Say(Point::CampEmpty, {{"camp", camp}});
   if (!world.FindStaff(player.HeadTrainer))
     meeting.Say(

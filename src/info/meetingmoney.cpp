@@ -1,17 +1,14 @@
 #include <limits>
 #include <optional>
 
-#include "business/books.h"
-#include "business/loans.h"
-#include "business/monthlymoney.h"
-#include "business/sponsorlimits.h"
+#include "business/finance.h"
 #include "business/sponsors.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
 #include "records/counted.h"
 #include "records/modVar.h"
-#include "rivals/bankruptcy.h"
-#include "roster/wagebill.h"
+#include "rivals/purse.h"
+#include "roster/talks.h"
 #include "show/attendance.h"
 
 // The meeting on money: what is in hand, what comes and goes, and who else might pay.

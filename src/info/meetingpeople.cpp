@@ -1,5 +1,5 @@
-#include "business/books.h"
 #include "business/development.h"
+#include "business/finance.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
 #include "records/counted.h"
@@ -7,7 +7,7 @@
 #include "records/modWresCheck.h"
 #include "rivals/rivals.h"
 #include "rivals/tuning.h"
-#include "roster/placement.h"
+#include "roster/postings.h"
 #include "storylines/storynames.h"
 
 // The meeting on the roster: how many there are, where they stand on the card, and how they feel.
@@ -159,7 +159,8 @@ void TalkOfTheRoom(Meeting& meeting) {
 
 std::string WhyUnhappy(const World& world, const Worker& worker) {
   if (IsHeldLow(world, worker)) return "stands too low on the card";
-  if (HasTerritory(world.Player()) && IsInDevelopment(worker) && worker.Over >= worker.Potential)
+  if (HasSite(world.Player(), Site::Territory) && IsInDevelopment(worker) &&
+      worker.Over >= worker.Potential)
     return "has nothing left to learn in the development territory";
   if (FallsInARow(world.Player()) >= kPoorForm)
     return "has seen our standing fall month after month";

@@ -2,7 +2,7 @@
 
 #include "business/past.h"
 #include "calendar/events.h"
-#include "calendar/goodwill.h"
+#include "calendar/image.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
 #include "records/counted.h"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "business/months.h"
 #include "business/networks.h"
+#include "business/past.h"
 #include "business/tvtalks.h"
 #include "info/fill.h"
 #include "info/meetingfacts.h"
@@ -12,10 +12,9 @@
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "rivals/bankruptcy.h"
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
-#include "roster/placement.h"
+#include "roster/postings.h"
 #include "storylines/feuds.h"
 #include "storylines/titles.h"
 

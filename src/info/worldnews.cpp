@@ -4,7 +4,6 @@
 #include <iterator>
 #include <map>
 
-#include "business/months.h"
 #include "business/past.h"
 #include "info/fill.h"
 #include "info/infowords.h"

@@ -3,7 +3,7 @@
 #include "calendar/screens/calendarscreens.h"
 #include "editor/screens/editorscreens.h"
 #include "rivals/screens/rivalscreens.h"
-#include "roster/screens/rosterscreens.h"
+#include "roster/screens/frmWorker.h"
 
 namespace grapplemont {
 

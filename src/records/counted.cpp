@@ -9,4 +9,13 @@ std::string Counted(long long count, std::string_view one, std::string_view many
   return text;
 }
 
+std::string Joined(const std::vector<std::string>& parts, std::string_view between) {
+  std::string text;
+  for (const std::string& part : parts) {
+    if (!text.empty()) text += between;
+    text += part;
+  }
+  return text;
+}
+
 }  // namespace grapplemont

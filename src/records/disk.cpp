@@ -39,7 +39,7 @@ std::optional<Bytes> ReadWithin(Disk& disk, const std::string& path, std::int64_
 }
 
 void CopyFile(Disk& disk, const std::string& from, const std::string& to) {
-  constexpr std::int64_t kPiece = 1 << 20;
+  constexpr std::int64_t kPiece = 1 << 16;
   const OpenedFile source(disk, from, false), target(disk, to, true);
   disk.Resize(target, 0);
   const std::int64_t size = disk.Size(source);
@@ -47,8 +47,11 @@ void CopyFile(Disk& disk, const std::string& from, const std::string& to) {
   for (std::int64_t at = 0; at < size; at += kPiece) {
     piece.resize(static_cast<std::size_t>(std::min(kPiece, size - at)));
     disk.ReadAt(source, at, piece);
-    disk.WriteAt(target, at, piece);
+    // A file that is mostly empty takes no more room than it did.
+    if (std::any_of(piece.begin(), piece.end(), [](std::byte byte) { return byte != std::byte(); }))
+      disk.WriteAt(target, at, piece);
   }
+  disk.Resize(target, size);
   disk.Sync(target);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,21 @@ std::string FillHoles(std::string_view text, Fill fill) {
       text, [&](std::string_view words) { filled += words; },
       [&](std::string_view slot) { filled += fill(slot); });
   return filled;
+}
+
+/// A slot that chooses between two forms by a count: "n:contract ends|contracts end" says the count
+/// too, "n?has|have" only the word.
+struct CountedSlot {
+  std::string_view Name, One, Many;
+  bool SaysCount = true;
+};
+
+/// Nothing where the slot is none of that kind.
+inline std::optional<CountedSlot> ReadCounted(std::string_view slot) {
+  const auto name = slot.find_first_of(":?"), bar = slot.find('|');
+  if (name == slot.npos || bar == slot.npos || bar < name) return std::nullopt;
+  return CountedSlot{slot.substr(0, name), slot.substr(name + 1, bar - name - 1),
+                     slot.substr(bar + 1), slot[name] == ':'};
 }
 
 }  // namespace grapplemont

@@ -20,10 +20,6 @@ std::string NameText(const World& world, int uid) {
   return worker ? worker->Name.Str() : kUnknown;
 }
 
-int WorkerAt(const Segment& segment, int place) {
-  return segment.Worker[static_cast<std::size_t>(place - 1)];
-}
-
 int SpecialEntrants(int type) {
   constexpr int kEntrants[] = {30, 20, 10};
   return type >= kRoyalRumble && type <= kTenMan ? kEntrants[type - 1] : 0;
@@ -50,8 +46,8 @@ std::string FillHole(const World& world, const Segment& segment, std::string_vie
       {"O2", [](auto& w, auto& s) { return NameText(w, s.Other2); }},
       {"O3", [](auto& w, auto& s) { return NameText(w, s.Other3); }},
       {"O4", [](auto& w, auto& s) { return NameText(w, s.Other4); }},
-      {"12", [](auto& w, auto& s) { return PairText(w, WorkerAt(s, 1), WorkerAt(s, 2)); }},
-      {"34", [](auto& w, auto& s) { return PairText(w, WorkerAt(s, 3), WorkerAt(s, 4)); }},
+      {"12", [](auto& w, auto& s) { return PairText(w, UidAt(s, 1), UidAt(s, 2)); }},
+      {"34", [](auto& w, auto& s) { return PairText(w, UidAt(s, 3), UidAt(s, 4)); }},
       {"WT", [](auto& w, auto& s) { return SideText(w, WinnersOf(s)); }},
       {"LT", [](auto& w, auto& s) { return SideText(w, LosersOf(s)); }},
       {"AT", [](auto& w, auto& s) { return SideText(w, PeopleOf(s, Part::AttackedTeam)); }},
@@ -61,7 +57,7 @@ std::string FillHole(const World& world, const Segment& segment, std::string_vie
   for (const Hole& known : kHoles)
     if (known.Name == hole) return known.Fill(world, segment);
   if (hole.size() == 1 && hole[0] >= '1' && hole[0] <= '8')
-    return NameText(world, WorkerAt(segment, hole[0] - '0'));
+    return NameText(world, UidAt(segment, hole[0] - '0'));
   return kUnknown;
 }
 
@@ -111,23 +107,16 @@ std::string DescribeMatch(const World& world, const Segment& segment) {
   }
 }
 
+/// Worker and manager in the order of their seats, a team as one.
 std::string DescribeInterview(const World& world, const Segment& segment) {
-  const auto name = [&](int place) { return NameText(world, WorkerAt(segment, place)); };
-  const auto pair = [&](int place) {
-    return PairText(world, WorkerAt(segment, place), WorkerAt(segment, place + 1));
-  };
-  switch (segment.Style) {
-    case kSingleTalk:
-      return "Interview with " + name(1);
-    case kTeamTalk:
-      return "Interview with " + pair(1);
-    case kManagedTalk:
-      return "Interview with " + name(1) + " and " + name(2);
-    case kManagedTeamTalk:
-      return "Interview with " + name(1) + " and " + pair(2);
-    default:
-      return kUnknown;
-  }
+  const std::vector<Role> seats = SeatsOf(segment);
+  if (seats.empty()) return kUnknown;
+  const bool managerFirst = seats.front().From == Casting::TalkManagers;
+  const auto first = managerFirst ? Casting::TalkManagers : Casting::Talkers;
+  const auto second = managerFirst ? Casting::Talkers : Casting::TalkManagers;
+  const std::vector<int> with = SeatedAs(segment, second);
+  return "Interview with " + SideText(world, SeatedAs(segment, first)) +
+         (with.empty() ? "" : " and " + SideText(world, with));
 }
 
 std::string DescribeAngle(const World& world, const Segment& segment) {
@@ -136,12 +125,12 @@ std::string DescribeAngle(const World& world, const Segment& segment) {
   std::string text = std::string(angle->Sheet) + "involving ";
   if (IsToldByStable(segment.Style)) {
     text += segment.Text;
-    if (segment.Style != kStableVideo) text += ", " + NameText(world, WorkerAt(segment, 1));
+    if (segment.Style != kStableVideo) text += ", " + NameText(world, UidAt(segment, 1));
     return text;
   }
-  text += NameText(world, WorkerAt(segment, 1));
+  text += NameText(world, UidAt(segment, 1));
   for (int place = 2; place <= kAnglePlaces; ++place)
-    if (const int uid = WorkerAt(segment, place)) text += ", " + NameText(world, uid);
+    if (const int uid = UidAt(segment, place)) text += ", " + NameText(world, uid);
   if (segment.Text != "None") text += ", " + segment.Text.Str();
   return text;
 }
@@ -166,23 +155,11 @@ Segment EmptySegment() {
   return segment;
 }
 
-const MatchStyleRow* FindMatchStyle(int style) {
-  const auto found = std::find_if(std::begin(kMatchStyles), std::end(kMatchStyles),
-                                  [&](auto& row) { return row.Code == style; });
-  return found == std::end(kMatchStyles) ? nullptr : &*found;
-}
-
 const MatchTypeRow* FindMatchType(int style, int type) {
   const auto found = std::find_if(std::begin(kMatchTypes), std::end(kMatchTypes), [&](auto& row) {
     return row.Style == style && row.Code == type;
   });
   return found == std::end(kMatchTypes) ? nullptr : &*found;
-}
-
-const InterviewStyleRow* FindInterviewStyle(int style) {
-  const auto found = std::find_if(std::begin(kInterviewStyles), std::end(kInterviewStyles),
-                                  [&](auto& row) { return row.Code == style; });
-  return found == std::end(kInterviewStyles) ? nullptr : &*found;
 }
 
 std::string_view MatchTypeText(int style, int type) {
@@ -215,6 +192,10 @@ Phrases PurposesOf(int style) {
   return style == kTag ? Phrases(kTagPurposes) : Phrases();
 }
 
+const Worker* WorkerAt(const World& world, const Segment& segment, int place) {
+  return world.FindWorker(UidAt(segment, place));
+}
+
 int EntrantsOf(const Segment& segment) {
   if (segment.Kind != kMatch) return 0;
   if (segment.Style == kSpecial) return SpecialEntrants(segment.MatchType);
@@ -229,7 +210,7 @@ std::vector<int> PeopleOf(const Segment& segment) {
     places = style->Speakers + style->Targets;
   std::vector<int> people;
   for (int place = 1; place <= places; ++place)
-    if (const int uid = WorkerAt(segment, place)) people.push_back(uid);
+    if (const int uid = UidAt(segment, place)) people.push_back(uid);
   return people;
 }
 
@@ -238,7 +219,7 @@ std::vector<std::vector<int>> SidesOf(const Segment& segment) {
   std::vector<std::vector<int>> sides;
   for (int place = 1; style && place <= EntrantsOf(segment); ++place) {
     if ((place - 1) % style->PerSide == 0) sides.emplace_back();
-    sides.back().push_back(WorkerAt(segment, place));
+    sides.back().push_back(UidAt(segment, place));
   }
   return sides;
 }
@@ -295,11 +276,16 @@ bool HasResult(const Segment& segment) {
   return segment.Worker[0] != 0 && segment.Loser != 0;
 }
 
+std::vector<int> EverybodyOf(const Segment& segment) {
+  std::vector<int> people = PeopleOf(segment);
+  for (const int uid : {segment.Other1, segment.Other2, segment.Other3, segment.Other4})
+    if (uid != 0) people.push_back(uid);
+  return people;
+}
+
 bool TakesPart(const Segment& segment, int uid) {
   if (uid == 0) return false;
-  for (const int other : {segment.Other1, segment.Other2, segment.Other3, segment.Other4})
-    if (other == uid) return true;
-  const std::vector<int> people = PeopleOf(segment);
+  const std::vector<int> people = EverybodyOf(segment);
   return std::find(people.begin(), people.end(), uid) != people.end();
 }
 

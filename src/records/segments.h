@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "records/segmentforms.h"
 #include "records/world.h"
 #include "words/segments.h"
 
@@ -17,10 +18,8 @@ void ClearSegment(Segment& segment);
 /// A Segment in which everything is empty.
 Segment EmptySegment();
 
-// The tables' rows; nullptr for codes that are none.
-const MatchStyleRow* FindMatchStyle(int style);
+/// nullptr for an unknown type.
 const MatchTypeRow* FindMatchType(int style, int type);
-const InterviewStyleRow* FindInterviewStyle(int style);
 /// Empty for an unknown code.
 std::string_view MatchTypeText(int style, int type);
 /// The codes of a match style; empty where the style has no such step.
@@ -28,11 +27,15 @@ Phrases FinishesOf(int style);
 Phrases AftermathsOf(int style);
 Phrases PurposesOf(int style);
 
+/// nullptr for nobody.
+const Worker* WorkerAt(const World& world, const Segment& segment, int place);
 /// How many take part in a match; 0 for what is no match.
 int EntrantsOf(const Segment& segment);
 /// The uids of all who take part by the Segment's places, in their order, without the empty ones:
 /// a match's entrants, an interview's speakers and targets, an angle's people.
 std::vector<int> PeopleOf(const Segment& segment);
+/// The same, and then who runs in.
+std::vector<int> EverybodyOf(const Segment& segment);
 /// The uids of a match's sides, first side first.
 std::vector<std::vector<int>> SidesOf(const Segment& segment);
 /// The side this worker stands on, from 1; 0 for none.

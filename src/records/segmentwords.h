@@ -70,7 +70,11 @@ enum class Casting {
   Debuts,         // not been seen yet
   Stables,        // goes to Segment.Text
   SinglesTitles,  // vacant; goes to Segment.TitleName
-  TagTitles
+  TagTitles,
+  // In interviews.
+  Talkers,       // who can speak
+  TalkManagers,  // managers among them
+  Targets        // everybody who may be booked, without those who speak
 };
 
 /// One box of the cast.

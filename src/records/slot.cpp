@@ -119,10 +119,8 @@ void Slot::Insides::Open(Damage damage) {
   }
 }
 
-/// Only known names, plain files and no links; whatever else lies there is told and left alone.
+/// Only known names, plain files and no links; whatever else lies there is the player's own.
 void Slot::Insides::LookOver() {
-  constexpr std::size_t kMostRemarks = 20;
-  std::size_t unknown = 0;
   for (const std::string& name : Disk.List(Folder)) {
     const auto is = [&](const std::string& suffix) {
       return [&name, suffix](const KnownFile& file) { return file.Name + suffix == name; };
@@ -135,13 +133,8 @@ void Slot::Insides::LookOver() {
                name == kJournalName + std::string(kBesideSuffix) ||
                name == kWorldIdName + std::string(".tmp")) {
       RemoveTree(Disk, Path(name));
-    } else if (name != kOtherJournalName && ++unknown <= kMostRemarks) {
-      Remarks.push_back(DiskError(Path(name), "use", "it is no file of a game").what());
     }
   }
-  if (unknown > kMostRemarks)
-    Remarks.push_back("The slot holds " + std::to_string(unknown) +
-                      " files in all that are none of a game.");
 }
 
 /// From here the files are what the finding says: the chain is applied, all is on disk (who wrote
@@ -178,7 +171,10 @@ void Slot::Insides::Adopt(const StoredSlot& stored, SlotFinding finding) {
   Journal.Drop();
   const bool hasJournal = Disk.Look(Path(kJournalName)) != Disk::Kind::Nothing;
   if (hasJournal) {
-    Disk.Rename(Path(kJournalName), Path(kOtherJournalName));
+    std::string aside = kOtherJournalName;
+    for (int i = 2; Disk.Look(Path(aside)) != Disk::Kind::Nothing; ++i)
+      aside = kOtherJournalName + ("-" + std::to_string(i));
+    Disk.Rename(Path(kJournalName), Path(aside));
     Disk.SyncFolder(Folder);
   }
   Remarks.push_back(hasJournal ? "The journal that lay in this folder cannot be known to be its "

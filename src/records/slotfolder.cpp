@@ -150,7 +150,7 @@ bool IsOfSlot(std::string_view name) {
   for (const std::string_view suffix : {"", kRoomSuffix, kBesideSuffix, ".tmp"}) {
     if (!name.ends_with(suffix)) continue;
     const std::string_view stem = name.substr(0, name.size() - suffix.size());
-    if (stem == kJournalName || stem == kWorldIdName || stem == kOtherJournalName ||
+    if (stem == kJournalName || stem == kWorldIdName || stem.starts_with(kOtherJournalName) ||
         stem == kSealName || MostBytesOf(stem) > 0)
       return true;
   }
@@ -209,12 +209,20 @@ void CopyBeside(Disk& disk, const std::string& folder, const std::string& copy) 
   // Not where FinishSwap looks: what it finds there it takes for a slot.
   const std::string built = NewOf(copy);
   RemoveTree(disk, built);
-  disk.MakeFolder(built);
-  for (const std::string& name : disk.List(folder))
-    if (disk.Look(folder + "/" + name) == Disk::Kind::File)
-      CopyFile(disk, folder + "/" + name, built + "/" + name);
-  disk.SyncFolder(built);
-  disk.Rename(built, copy);
+  try {
+    disk.MakeFolder(built);
+    for (const std::string& name : disk.List(folder))
+      if (disk.Look(folder + "/" + name) == Disk::Kind::File)
+        CopyFile(disk, folder + "/" + name, built + "/" + name);
+    disk.SyncFolder(built);
+    disk.Rename(built, copy);
+  } catch (const DiskError&) {
+    try {
+      RemoveTree(disk, built);
+    } catch (const DiskError&) {  // the first fault is the one to tell
+    }
+    throw;
+  }
   disk.SyncFolder(ParentOf(folder));
 }
 

@@ -35,13 +35,27 @@ RecordSpan LastRun(RecordSpan records) {
   return records.subspan(first);
 }
 
-/// " (Monday, 09 March 2026)"; nothing where the files hold no game.
-std::string DayOf(const Files& files) {
+std::optional<GameInfo> GameOf(const Files& files) {
   const auto info = files.find(std::string(LayoutOf<GameInfo>().File));
-  if (info == files.end() || info->second.size() < sizeof(GameInfo)) return {};
+  if (info == files.end() || info->second.size() < sizeof(GameInfo)) return std::nullopt;
   GameInfo game;
   std::memcpy(&game, info->second.data(), sizeof(GameInfo));
-  return " (" + LongDate(game.Today) + ")";
+  return game;
+}
+
+/// " (Monday, 09 March 2026)"; nothing where the files hold no game.
+std::string DayOf(const Files& files) {
+  const auto game = GameOf(files);
+  return game ? " (" + LongDate(game->Today) + ")" : "";
+}
+
+/// Whether both are of one game, and `files` of a later day. What a power cut leaves of a block
+/// that was being written does not begin with the names of this game.
+bool IsLater(const Files& files, const Files& than) {
+  const auto game = GameOf(files), other = GameOf(than);
+  if (!game || !other) return false;
+  return game->PlayerName == other->PlayerName && game->SaveName == other->SaveName &&
+         Day(game->StartDate) == Day(other->StartDate) && Day(game->Today) > Day(other->Today);
 }
 
 class Examination {
@@ -89,28 +103,29 @@ class Examination {
     for (const JournalRecord& record : applied_)
       for (const FilePatch& patch : record.Files) written.insert(patch.Name);
     for (const auto& [name, size] : stored_.TooLong) {
-      if (written.contains(name) || IsFleeting(name)) continue;
+      if (IsFleeting(name)) continue;
+      const bool isRewritten = written.contains(name);
       Note(name + " is " + std::to_string(size) + " bytes long, more than its most of " +
            std::to_string(out_.Files.at(name).size()) + "; what is too much goes.");
-      out_.GivesUp = true;
+      hasSurplus_ |= !isRewritten;
     }
   }
 
   void LookForDamage() {
     using State = JournalChain::State;
     const JournalChain& chain = out_.Chain;
-    if (!stored_.Id) Note("Its world.id is spoiled.");
+    if (!stored_.Id) Note("Its world.id is missing or spoiled.");
     if (chain.Found == State::Foreign) Note("The journal in it is another world's.");
     if (chain.Found == State::Damaged) Note("Its journal has lost something in its midst.");
     if (chain.Found == State::Unreadable)
       Note(stored_.Journal.empty() ? "It has no journal."
-                                   : "What lies in its journal's place is none.");
+                                   : "Its journal cannot be read: it is another kind of file.");
     const std::int64_t reserved =
         chain.Marker.Reserved > 0 ? chain.Marker.Reserved : options_.JournalBytes;
     isCut_ = chain.MarkerRead && std::ssize(stored_.Journal) < reserved;
     if (isCut_)
-      Note("Its journal is " + std::to_string(stored_.Journal.size()) + " bytes long and was " +
-           std::to_string(reserved) + ".");
+      Note("Its journal was cut short: " + std::to_string(stored_.Journal.size()) + " of " +
+           std::to_string(reserved) + " bytes are left.");
     if (chain.Found == State::Sound) LookForStrangers();
   }
 
@@ -118,7 +133,9 @@ class Examination {
   void LookForStrangers() {
     const JournalChain& chain = out_.Chain;
     const auto& seal = stored_.Seal;
-    if (seal && seal->Sequence > chain.Last() && seal->Files.Value() != chain.Digest())
+    isBehind_ = IsLater(stored_.Files, out_.Files);
+    if (isBehind_ ||
+        (seal && seal->Sequence > chain.Last() && seal->Files.Value() != chain.Digest()))
       return Note("Its files" + DayOf(stored_.Files) + " hold more than its journal" +
                   DayOf(out_.Files) + ".");
     if (!chain.Vouches() || out_.Digest.Value() == chain.Digest()) return;
@@ -140,7 +157,8 @@ class Examination {
     out_.Newest = std::max(last, seal ? seal->Sequence : 0);
     const bool hasRecords = !chain.Records.empty() || !run.empty();
     std::optional<std::uint64_t> proven;
-    if (chain.Vouches() && out_.Digest.Value() == chain.Digest()) proven = chain.Last();
+    if (chain.Vouches() && out_.Digest.Value() == chain.Digest() && !isBehind_)
+      proven = chain.Last();
     if (seal && seal->Files.Value() == DigestOf(stored_.Files).Value() &&
         (!proven || seal->Sequence >= *proven)) {
       proven = seal->Sequence;
@@ -156,31 +174,41 @@ class Examination {
     if (!proven) Take(stored_.Files, {});
     // What a journal held that was cut short nobody knows, but for the seal.
     const bool mayBeOld = isCut_ && !applied_.empty() && !(seal && seal->Sequence == proven);
-    out_.GivesUp |= proven ? *proven < out_.Newest || mayBeOld : hasRecords;
-    Conclude(proven.has_value());
+    const bool losesSteps = proven ? *proven < out_.Newest || mayBeOld : hasRecords;
+    const std::string spoiled = proven ? "" : NotAsSealed();
+    out_.GivesUp = losesSteps || hasSurplus_ || !spoiled.empty();
+    Conclude(proven.has_value(), losesSteps, spoiled);
   }
 
-  void Conclude(bool proven) {
+  /// The names of the files that are not what they were when the game last kept them.
+  std::string NotAsSealed() const {
+    std::string names;
+    if (stored_.Seal && stored_.Seal->Sequence == out_.Newest)
+      for (const std::string& name : out_.Digest.Differing(stored_.Seal->Files))
+        if (!IsFleeting(name)) names += (names.empty() ? "" : ", ") + name;
+    return names;
+  }
+
+  void Conclude(bool proven, bool losesSteps, const std::string& spoiled) {
     const std::string day = DayOf(out_.Files);
-    if (proven && !out_.GivesUp) return Note("Every step could be found again" + day + ".");
+    if (proven && !losesSteps) return Note("Every step could be found again" + day + ".");
     if (proven)
       return Note("The game goes on from the last state that is whole" + day +
                   "; whatever came after it is lost.");
     Note("The files are taken as they are" + day + "; they may hold parts of several steps.");
-    std::string names;
-    if (stored_.Seal && stored_.Seal->Sequence == out_.Newest)
-      for (const std::string& name : out_.Digest.Differing(stored_.Seal->Files))
-        names += (names.empty() ? "" : ", ") + name;
-    if (!names.empty()) Note("Not as the game last kept them: " + names + ".");
-    Note("Have the world checked.");
+    if (!spoiled.empty())
+      Note("Not as the game last kept them: " + spoiled + "; what is missing there is lost.");
+    Note("Have the world checked with: grapplemont-world check FOLDER.");
   }
 
   const StoredSlot& stored_;
   const std::vector<KnownFile>& known_;
   const SlotOptions& options_;
   SlotFinding out_;
-  RecordSpan applied_;  // to the stored files, for out_.Files
-  bool isCut_ = false;  // the journal is shorter than it was made
+  RecordSpan applied_;       // to the stored files, for out_.Files
+  bool isCut_ = false;       // the journal is shorter than it was made
+  bool isBehind_ = false;    // the files are of a later day than the journal
+  bool hasSurplus_ = false;  // a file is too long, and nothing writes it again
 };
 
 }  // namespace
@@ -206,11 +234,17 @@ StoredSlot ReadStoredSlot(Disk& disk, const std::string& folder,
     stored.Files.emplace(each.Name, std::move(bytes));
   }
   stored.HasId = disk.Look(folder + "/" + kWorldIdName) != Disk::Kind::Nothing;
-  if (!stored.HasId) return stored;
-  stored.Id = ReadWorldId(disk, folder);
   const std::string seal = folder + "/" + kSealName;
   if (disk.Look(seal) == Disk::Kind::File)
     stored.Seal = UnpackSeal(ReadStart(disk, seal, kJournalBlock));
+  // An id that is lost is known again where seal and journal name the same one.
+  if (!stored.HasId && stored.Seal)
+    stored.HasId = ReadChain(journal, std::nullopt, known).Marker.World == stored.Seal->World;
+  if (!stored.HasId) {
+    stored.Seal.reset();
+    return stored;
+  }
+  stored.Id = ReadWorldId(disk, folder);
   if (stored.Seal && stored.Id && stored.Seal->World != *stored.Id) stored.Seal.reset();
   stored.Journal = std::move(journal);
   return stored;

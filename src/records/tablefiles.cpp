@@ -9,7 +9,7 @@ namespace {
 
 // Far above the largest world: 25,000 workers with every column written out take some ten million
 // bytes, and all tables of a game of many years some thirty.
-constexpr std::int64_t kMostBytes = 32 << 20, kMostBytesInAll = 96 << 20;
+constexpr std::int64_t kMostBytes = 32 << 20, kMostBytesInAll = 48 << 20;
 
 std::string ReadText(Disk& disk, const std::string& path, std::int64_t most) {
   const auto bytes = ReadWithin(disk, path, most);

@@ -30,6 +30,8 @@ constexpr std::array<Target, 5> kTargets = {
 
 constexpr char kNumberMark = '#';
 constexpr std::string_view kNone = "none";
+/// Names that mistakes may be compared with in all.
+constexpr std::size_t kMostCompared = 100'000;
 
 const Target& TargetOf(Refers to) {
   return *std::find_if(kTargets.begin(), kTargets.end(),
@@ -143,8 +145,12 @@ std::string TableNames::NobodyOf(const Field& field, std::string_view cell,
       return what + ", but a " + std::string(TargetOf(other).What) +
              " has; ColourIsWorker tells which is meant";
   }
+  // Whoever has many names wrong has not mistyped them.
+  const auto& uids = indices_.at(to).Uids;
+  if (compared_ > kMostCompared) return what;
+  compared_ += uids.size();
   std::vector<std::string_view> names;
-  for (const auto& [name, uid] : indices_.at(to).Uids)
+  for (const auto& [name, uid] : uids)
     if (!name.empty()) names.push_back(name);
   std::sort(names.begin(), names.end());
   return what + DidYouMean(cell, names);

@@ -27,7 +27,8 @@ class TableNames {
   /// Puts the number that the cell leads to into the record; nobody for an empty one. False for a
   /// cell that leads nowhere. `mayBeGone`: a number may lead to nobody.
   bool Take(const Column& column, std::string_view cell, std::byte* record, bool mayBeGone) const;
-  /// What is wrong with a cell that leads nowhere; takes its time over the nearest name.
+  /// What is wrong with a cell that leads nowhere; takes its time over the nearest name, for the
+  /// first of many.
   std::string WhyNot(const Column& column, std::string_view cell, const std::byte* record) const;
 
  private:
@@ -39,6 +40,7 @@ class TableNames {
   std::string NobodyOf(const Field& field, std::string_view cell, const std::byte* record) const;
 
   std::map<Refers, Index> indices_;
+  mutable std::size_t compared_ = 0;  // names so far
 };
 
 }  // namespace grapplemont

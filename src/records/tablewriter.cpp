@@ -2,7 +2,6 @@
 
 #include "records/charset.h"
 #include "records/csv.h"
-#include "records/tablenames.h"
 #include "records/worldtables.h"
 
 namespace grapplemont {
@@ -97,13 +96,17 @@ class TableWriter {
 
 }  // namespace
 
-Tables ExportWorld(const World& world) {
-  const auto files = world.Tables();
-  const TableNames names([&](const RecordLayout& layout) {
+TableNames NamesIn(const World& world) {
+  return TableNames([files = world.Tables()](const RecordLayout& layout) {
     const auto found = std::find_if(files.begin(), files.end(),
                                     [&](const Table* file) { return file->Layout() == &layout; });
     return (*found)->Contents();
   });
+}
+
+Tables ExportWorld(const World& world) {
+  const auto files = world.Tables();
+  const TableNames names = NamesIn(world);
   Tables tables;
   for (const Table* file : files) {
     if (!file->Exists()) continue;

@@ -210,8 +210,8 @@ std::map<std::string, Bytes> ReadWorldFiles(Disk& disk, const std::string& folde
 /// Every file that the world has, whole: what a slot is made of.
 std::vector<NewFile> FilesOf(const World& world);
 
-/// "Worker 17 Morale: 61, expected 60" for the first field that differs; empty when the worlds are
-/// the same.
+/// "wrestler.dat, record 17, Bram Okafor, Morale: was 60, is 61" for the first field that differs
+/// from what is expected; empty when the worlds are the same. differences.h lists all.
 std::string FirstDifference(const World& world, const World& expected);
 
 template <class T>

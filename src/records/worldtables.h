@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "records/tablenames.h"
 #include "records/tablereader.h"
 #include "records/world.h"
 
@@ -28,6 +29,9 @@ Building BuildWorld(const Tables& tables);
 /// The tables from which BuildWorld makes the same bytes again, for any world without faults.
 /// Columns that hold nothing but their default are left out.
 Tables ExportWorld(const World& world);
+
+/// What the records of the world are called in its tables.
+TableNames NamesIn(const World& world);
 
 /// Reads the tables of a folder; what is no table of a world stands among them without its text.
 /// Throws DiskError, and WorldFault for tables that are too long.

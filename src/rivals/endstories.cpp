@@ -88,7 +88,7 @@ std::string CareerInFigures(const World& world) {
           std::string(SizeText(promotion.Size)) + " with " + std::to_string(promotion.Image) +
           "% when it ended.\n";
   for (std::size_t i = 1; i < game.Jobs.size(); ++i)
-    if (!(game.Jobs[i].Promotion == "None"))
+    if (game.Jobs[i].Promotion != "None")
       text += "Before that: " + game.Jobs[i].Promotion.Str() + ".\n";
   text += "Money left: " + Dollars(promotion.Money) +
           ". Reputation: " + std::to_string(game.Reputation) + "%.";

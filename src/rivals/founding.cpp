@@ -1,10 +1,16 @@
 #include "rivals/founding.h"
 
 #include <algorithm>
+#include <map>
+#include <vector>
 
-#include "business/monthlymoney.h"
+#include "business/finance.h"
 #include "records/arithmetic.h"
+#include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "words/promotions.h"
+#include "rivals/ownership.h"
+#include "rivals/rivals.h"
 #include "rivals/staffmarket.h"
 #include "rivals/tuning.h"
 #include "rivals/workermarket.h"
@@ -33,7 +39,7 @@ std::string TitleNameOf(const World& world, const Promotion& promotion, std::str
     return title.Owner != kNoEnd && title.Name == name;
   };
   for (const char* behind : {" II", " III", " IV"})
-    if (std::any_of(world.Titles().begin(), world.Titles().end(), isHeld)) name = plain + behind;
+    if (std::ranges::any_of(world.Titles(), isHeld)) name = plain + behind;
   return name;
 }
 
@@ -53,13 +59,12 @@ void FoundTitle(World& world, const Promotion& promotion, std::string_view what,
 }  // namespace
 
 bool IsNameFree(const World& world, std::string_view name, std::string_view initials) {
-  return std::none_of(world.Promotions().begin(), world.Promotions().end(),
-                      [&](auto& p) { return p.Name == name || p.Initials == initials; });
+  return std::ranges::none_of(world.Promotions(),
+                              [&](auto& p) { return p.Name == name || p.Initials == initials; });
 }
 
 int CountPromotions(const World& world) {
-  return static_cast<int>(
-      std::count_if(world.Promotions().begin(), world.Promotions().end(), IsAlive));
+  return static_cast<int>(std::ranges::count_if(world.Promotions(), IsAlive));
 }
 
 Promotion NewPromotion(const World& world, std::string_view name, std::string_view initials) {
@@ -93,6 +98,182 @@ Promotion& Open(World& world, Promotion promotion) {
 void FoundTitles(World& world, const Promotion& promotion) {
   FoundTitle(world, promotion, "Crown", true);
   FoundTitle(world, promotion, "Tag Titles", false);
+}
+
+namespace {
+
+constexpr int kFewPromotions = 16;
+constexpr int kManyPromotions = 30;
+constexpr int kOpens = 2;
+// By size; nobody opens as a Global promotion.
+constexpr std::array<int, 6> kCapital = {0, 10000000, 5000000, 2000000, 1000000, 200000};
+
+bool IsUnused(const World& world, const NewPromotionName& name) {
+  return IsNameFree(world, name.Name, name.Initials);
+}
+
+bool AnyNameLeft(const World& world) {
+  return std::ranges::any_of(kNewPromotionNames, [&](auto& name) { return IsUnused(world, name); });
+}
+
+const NewPromotionName& DrawUnusedName(World& world) {
+  const auto draw = [&world]() -> const NewPromotionName& {
+    const int row = world.RandomDraw(static_cast<int>(std::size(kNewPromotionNames)));
+    return kNewPromotionNames[row - 1];
+  };
+  const NewPromotionName* name = &draw();
+  while (!IsUnused(world, *name)) name = &draw();
+  return *name;
+}
+
+void OpenSomewhere(World& world) {
+  const NewPromotionName& name = DrawUnusedName(world);
+  Promotion promotion = NewPromotion(world, name.Name, name.Initials);
+  promotion.Size = 1 + world.RandomDraw(5);
+  promotion.Money = BySize(kCapital, promotion.Size);
+  promotion.Image = 20 + world.RandomDraw(60);
+  promotion.Momentum = world.RandomDraw(4);
+  promotion.Risk = 20 + world.RandomDraw(70);
+  if (ShouldTell(world, world.Game().MailOtherFed, promotion.Size))
+    AddNews(world, "New Promotion", "A new promotion, " + promotion.Name.Str() + ", has opened.");
+  NoteDeed(world, kDeedFounded, &promotion, promotion.Name, {}, promotion.Size);
+  Open(world, promotion);
+}
+
+}  // namespace
+
+void NewPromotionCheck(World& world) {
+  const int count = CountPromotions(world);
+  const bool opens = world.RandomDraw(count < kFewPromotions ? 3 : 5) == kOpens;
+  if (opens && count < kManyPromotions && !world.Promotions().Full() && AnyNameLeft(world))
+    OpenSomewhere(world);
+  AwaitStranger(world);
+}
+
+namespace {
+
+constexpr const char* kStranger = "Lysander Pinkney";
+constexpr NewPromotionName kStrangersNames[] = {{"Pinkney Presents Wrestling", "PPW"},
+                                                {"Pinkney's Greater Show", "PGS"},
+                                                {"The Pinkney Wrestling Empire", "TPWE"}};
+constexpr int kStandingOfGlobals = (kBackyard - kGlobal) * 100;
+
+const NewPromotionName* FreeName(const World& world) {
+  for (const NewPromotionName& name : kStrangersNames)
+    if (IsNameFree(world, name.Name, name.Initials)) return &name;
+  return nullptr;
+}
+
+bool WasGlobal(const Promotion& promotion) {
+  return std::ranges::any_of(promotion.Rank, [](int rank) { return rank >= kStandingOfGlobals; });
+}
+
+/// No rival that is still there was Global at any of the five month ends at which the player was.
+bool HasLongBeenAlone(const World& world) {
+  for (const int rank : world.Player().Rank)
+    if (rank < kStandingOfGlobals) return false;
+  return std::ranges::none_of(world.Promotions(),
+                              [&](auto& p) { return IsRival(world, p) && WasGlobal(p); });
+}
+
+bool IsRoomFor(const World& world) {
+  return !world.Promotions().Full() && !world.AllStaff().Full();
+}
+
+/// He is the owner, of whatever style, and the promotion is as risky as that.
+void Employ(World& world, Promotion& promotion) {
+  Staff owner;
+  owner.Uid = NextStaffUid(world);
+  std::string name = kStranger;
+  for (const char* behind : {" II", " III", " IV"})
+    if (!StaffNameFree(world, name)) name = kStranger + std::string(behind);
+  owner.Name = name;
+  owner.Gender = true;
+  owner.BirthMonth = world.RandomDraw(12);
+  owner.Age = 44;
+  owner.Employer = promotion.Uid;
+  owner.ContractMonths = kNoEnd;
+  owner.ContractType = "Non";
+  owner.Wage = world.RandomDraw(kYouth);
+  owner.Position = kOwner;
+  owner.Talent = 92;
+  owner.Morale = 100;
+  owner.Backstage = 15;
+  owner.Loyalty = 100;
+  world.AllStaff().Append(owner);
+  FollowOwner(promotion, owner);
+}
+
+bool IsStar(const Worker& worker) {
+  return IsOnRoster(worker) && worker.Over > tuning::kStarsOver && !worker.Unsackable;
+}
+
+/// Money that bores its owner buys out any contract, the player's people's among them.
+void BuyStars(World& world, const Promotion& promotion) {
+  std::vector<Worker*> stars;
+  for (Worker& worker : world.Workers())
+    if (IsStar(worker) && worker.Employer != promotion.Uid) stars.push_back(&worker);
+  std::ranges::stable_sort(stars, [](auto* a, auto* b) { return a->Over > b->Over; });
+  std::map<int, int> takenFrom;
+  int bought = 0;
+  for (Worker* star : stars) {
+    if (bought == tuning::kStrangersStars) break;
+    const int from = star->Employer;
+    if (from != 0 && takenFrom[from] == tuning::kStarsFromOne) continue;
+    if (world.RandomDraw(tuning::kStarsAskedFor1) != 1) continue;
+    ++takenFrom[from];
+    ++bought;
+    SignFor(world, promotion, *star);
+  }
+}
+
+}  // namespace
+
+bool IsAloneAtTheTop(const World& world) {
+  return world.Player().Size == kGlobal && std::ranges::none_of(world.Promotions(), [&](auto& p) {
+           return IsRival(world, p) && p.Size == kGlobal;
+         });
+}
+
+void AwaitStranger(World& world) {
+  GameInfo& game = world.Game();
+  if (game.EndCode != 0 || !IsAloneAtTheTop(world) || !HasLongBeenAlone(world) ||
+      !IsRoomFor(world) || !FreeName(world))
+    return;
+  if (world.RandomDraw(tuning::kStrangerIn) == 1) game.EndCode = kStrangerWaits;
+}
+
+std::string StrangersWords(const World& world) {
+  const std::string us = world.Player().Name.Str();
+  return "A long pink car stops where nobody may stop, and a man in a suit of the same colour "
+         "walks into your office without knocking.\n"
+         "'" +
+         std::string(kStranger) + ". Chewing gum, mostly. So this is " + us +
+         ". Biggest wrestling company on the planet, and the only one of its size. Do you know "
+         "what my father used to say about a shop without another across the street? He used to "
+         "buy the street.'\n"
+         "He puts a business card on your desk. It smells of strawberry.\n"
+         "'I have forty million dollars that bore me and a lawyer who is signing leases as we "
+         "speak. By tonight " +
+         (FreeName(world) ? FreeName(world)->Name : "my company") +
+         " is open for business. Your people have telephones, I take it? Good. Lovely to have met "
+         "you, " +
+         world.Game().PlayerName.Str() + ".'";
+}
+
+void MeetStranger(World& world) {
+  world.Game().EndCode = 0;
+  const NewPromotionName* name = FreeName(world);
+  if (!name || !IsRoomFor(world)) return;
+  Promotion promotion = NewPromotion(world, name->Name, name->Initials);
+  promotion.Size = kNational;
+  promotion.Money = tuning::kStrangersMoney;
+  promotion.Image = 80;
+  promotion.Momentum = 4;
+  Employ(world, promotion);
+  NoteDeed(world, kDeedFounded, &promotion, promotion.Name, {}, promotion.Size);
+  AddNews(world, "New Promotion", "A new promotion, " + promotion.Name.Str() + ", has opened.");
+  BuyStars(world, Open(world, promotion));
 }
 
 }  // namespace grapplemont

@@ -3,12 +3,11 @@
 #include <algorithm>
 
 #include "business/past.h"
-#include "business/standing.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
+#include "rivals/ownership.h"
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
-#include "rivals/taste.h"
 
 namespace grapplemont {
 
@@ -49,8 +48,8 @@ std::vector<const Promotion*> PromotionsByStanding(const World& world) {
   std::vector<const Promotion*> all;
   for (const Promotion& promotion : world.Promotions())
     if (IsAlive(promotion)) all.push_back(&promotion);
-  std::stable_sort(all.begin(), all.end(),
-                   [](auto* a, auto* b) { return StandingScore(*a) > StandingScore(*b); });
+  std::ranges::stable_sort(all,
+                           [](auto* a, auto* b) { return StandingScore(*a) > StandingScore(*b); });
   return all;
 }
 
@@ -75,7 +74,7 @@ std::vector<const Worker*> RosterOf(const World& world, int promotionUid) {
   std::vector<const Worker*> all;
   for (const Worker& worker : world.Workers())
     if (worker.Employer == promotionUid && promotionUid != 0) all.push_back(&worker);
-  std::stable_sort(all.begin(), all.end(), [](auto* a, auto* b) {
+  std::ranges::stable_sort(all, [](auto* a, auto* b) {
     return std::pair(PlaceOnCard(*a), -a->Over) < std::pair(PlaceOnCard(*b), -b->Over);
   });
   return all;
@@ -85,7 +84,7 @@ std::vector<const Staff*> StaffOf(const World& world, int promotionUid) {
   std::vector<const Staff*> all;
   for (const Staff& staff : world.AllStaff())
     if (staff.Employer == promotionUid && promotionUid != 0) all.push_back(&staff);
-  std::stable_sort(all.begin(), all.end(), [](auto* a, auto* b) {
+  std::ranges::stable_sort(all, [](auto* a, auto* b) {
     return std::pair<int, int>(a->Position, -a->Talent) <
            std::pair<int, int>(b->Position, -b->Talent);
   });

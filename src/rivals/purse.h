@@ -3,6 +3,7 @@
 #include <string>
 
 #include "records/promotion.h"
+#include "records/world.h"
 
 // How a promotion stands with its money.
 
@@ -14,5 +15,27 @@ Purse PurseOf(const Promotion& promotion);
 
 /// "Rich", "Comfortable" and so on, against what a promotion of the size needs.
 std::string MoneyInWords(int size, long long money);
+
+/// How deep in debt, in dollars, a promotion of a size is warned and closed.
+struct BankruptcyLine {
+  int WarnedFrom;
+  int WarnedBelow;
+  int BankruptBelow;
+};
+const BankruptcyLine& BankruptcyLineOf(int size);
+
+// Buying a rival out of its debts.
+
+/// The money that a rival of this size must not have more than to be for sale, in dollars: a
+/// quarter of the way to the line where the bank closes it.
+int ForSaleAtMost(int size);
+bool IsForSale(const Promotion& rival);
+
+enum class Takeover { Complete, Destruction };
+/// Dollars: its debts, or these and a month's wages.
+long long TakeoverCost(const Promotion& rival, Takeover kind);
+/// The player pays, and the rival closes at the day's end. Its people come over or go free; an
+/// owner goes free in any case.
+void TakeOverRival(World& world, Promotion& rival, Takeover kind);
 
 }  // namespace grapplemont

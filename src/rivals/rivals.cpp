@@ -1,12 +1,13 @@
 #include "rivals/rivals.h"
 
+#include "business/sponsors.h"
 #include "records/modVar.h"
 #include "records/severing.h"
 
 namespace grapplemont {
 
 bool IsAlive(const Promotion& promotion) {
-  return !(promotion.Name == kToBeDeleted);
+  return promotion.Name != kToBeDeleted;
 }
 
 bool IsRival(const World& world, const Promotion& promotion) {
@@ -41,6 +42,28 @@ void PartWays(World& world, const std::vector<Worker*>& workers) {
     uids.insert(worker->Uid);
   }
   LoseClients(world, uids);
+}
+
+Sponsor* SponsorForRival(World& world, const Promotion& rival) {
+  const int limit = RivalSponsorPayLimit(rival.Size, rival.Image);
+  for (Sponsor& sponsor : world.Sponsors())
+    if (sponsor.Promotion == 0 && BearsRisk(sponsor, rival.Risk) && sponsor.Pay < limit)
+      return &sponsor;
+  return nullptr;
+}
+
+void RivalSponsorSigning(World& world) {
+  for (Promotion& rival : world.Promotions()) {
+    if (!IsRival(world, rival)) continue;
+    for (int slot = 1; slot <= static_cast<int>(rival.Sponsor.size()); ++slot) {
+      if (SponsorAt(world, rival, slot)) continue;
+      Sponsor* sponsor = SponsorForRival(world, rival);
+      if (!sponsor) break;
+      SignSponsor(world, rival, *sponsor, slot);
+      TellOf(world, world.Game().MailSponsor, rival,
+             rival.Initials + " have signed a sponsorship deal with " + sponsor->Name.Str() + "!");
+    }
+  }
 }
 
 }  // namespace grapplemont

@@ -38,4 +38,36 @@ class Rosters {
 /// office, the part of a divided roster. Whom they managed stays behind alone.
 void PartWays(World& world, const std::vector<Worker*>& workers);
 
+// What rival promotions do by themselves: steps of the day.
+
+// Daily.
+/// A promotion without an owner finds one in 1 of 14 days, if one on the market suits it.
+void OwnerlessPromotions(World& world);
+void RivalWorkerHiring(World& world);
+void RivalStaffHiring(World& world);
+/// Each empty sponsor's place of a rival goes to the first sponsor who is free and willing.
+void RivalSponsorSigning(World& world);
+/// The first who is free and willing; nullptr for nobody.
+Sponsor* SponsorForRival(World& world, const Promotion& rival);
+// Mondays.
+/// Everybody who works for a rival stands on the card where his popularity puts him.
+void RivalPositions(World& world);
+/// A house show a week, and, the day after an Event, what became of the Titles there.
+void RivalHouseShows(World& world);
+/// Rivals advertise by their standing, those in debt half as much.
+void RivalAdvertising(World& world);
+/// Rivals that save let somebody go, those that prosper sign somebody, and those that have become
+/// big enough found Titles.
+void RosterSizeReview(World& world);
+// The first of a month.
+/// New talent comes while few are free, and whoever waits for work asks for less.
+void DiscoverFreeAgents(World& world);
+/// Rivals decide about the contracts that have one month left.
+void RivalContractRenewals(World& world);
+/// Warns promotions that are deep in debt and closes those that are below the line; the player's
+/// own ends the career.
+void BankruptcyCheck(World& world);
+/// Opens a new promotion now and then, and may bring the player a challenger.
+void NewPromotionCheck(World& world);
+
 }  // namespace grapplemont

@@ -3,8 +3,7 @@
 #include "records/modVar.h"
 #include "records/severing.h"
 #include "rivals/rivals.h"
-#include "rivals/rivalsteps.h"
-#include "roster/placement.h"
+#include "roster/postings.h"
 
 namespace grapplemont {
 

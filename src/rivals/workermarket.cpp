@@ -1,10 +1,18 @@
 #include "rivals/workermarket.h"
 
+#include <map>
+#include <vector>
+
+#include "business/finance.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "rivals/founding.h"
+#include "rivals/purse.h"
+#include "rivals/rivals.h"
 #include "rivals/tuning.h"
-#include "roster/placement.h"
-#include "roster/shortlist.h"
+#include "roster/invented.h"
+#include "roster/market.h"
+#include "roster/postings.h"
 #include "roster/talks.h"
 
 namespace grapplemont {
@@ -136,6 +144,181 @@ void FitRoster(World& world, const Promotion& rival, Rosters& rosters) {
 
 int GoingRate(int size, int over) {
   return std::max(1, BySize(tuning::kTopWage, size) * over * over / 10000);
+}
+
+namespace {
+
+constexpr int kLastMonth = 1;
+
+/// The score below which a roster's least wanted stand.
+int ScoreToStay(const World& world, const Promotion& rival, Taste taste) {
+  std::vector<int> scores;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer == rival.Uid && IsOnMainRoster(worker))
+      scores.push_back(RosterScore(worker, taste));
+  if (scores.empty()) return 0;
+  const auto at = scores.size() * tuning::kNotRenewed / 100;
+  std::nth_element(scores.begin(), scores.begin() + static_cast<std::ptrdiff_t>(at), scores.end());
+  return scores[at];
+}
+
+/// Half of the way from what he has to what he is worth there; nobody who has to save pays more
+/// than before.
+int NextWage(const Worker& worker, const Promotion& rival) {
+  const int fair = GoingRate(rival.Size, worker.Over);
+  const int met = std::min((worker.Wage + fair + 1) / 2, kHighestWage);
+  return PurseOf(rival) == Purse::Saving ? std::min<int>(met, worker.Wage) : met;
+}
+
+bool IsOutgrown(const Worker& worker, int size) {
+  Worker asWanted = worker;
+  asWanted.Wage = 0;
+  return !IsWithinLimits(asWanted, size);
+}
+
+void Renew(Worker& worker, const Promotion& rival) {
+  worker.Wage = NextWage(worker, rival);
+  worker.ContractMonths = ContractMonthsAt(rival.Size) + kLastMonth;
+  worker.ContractType = rival.Size < kRegional ? "Wri" : "Non";
+}
+
+void RenewWorkers(World& world, const Promotion& rival) {
+  const Taste taste = TasteOf(world, rival.Uid);
+  const int scoreToStay = ScoreToStay(world, rival, taste);
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer != rival.Uid || worker.ContractMonths != kLastMonth || worker.RetiringSoon)
+      continue;
+    if (RosterScore(worker, taste) >= scoreToStay && !IsOutgrown(worker, rival.Size))
+      Renew(worker, rival);
+  }
+}
+
+/// The highest talent in each post of the promotion.
+std::map<int, int> BestInPosts(const World& world, int promotionUid) {
+  std::map<int, int> best;
+  for (const Staff& staff : world.AllStaff())
+    if (staff.Employer == promotionUid)
+      best[staff.Position] = std::max<int>(best[staff.Position], staff.Talent);
+  return best;
+}
+
+void RenewStaff(World& world, const Promotion& rival) {
+  std::map<int, int> best = BestInPosts(world, rival.Uid);
+  for (Staff& staff : world.AllStaff()) {
+    if (staff.Employer != rival.Uid || staff.ContractMonths != kLastMonth) continue;
+    if (staff.Talent * 100 >= best[staff.Position] * tuning::kStaffNotRenewed)
+      staff.ContractMonths = ContractMonthsAt(rival.Size) + kLastMonth;
+  }
+}
+
+}  // namespace
+
+void RenewContracts(World& world, const Promotion& promotion) {
+  RenewWorkers(world, promotion);
+  RenewStaff(world, promotion);
+}
+
+void RivalContractRenewals(World& world) {
+  for (const Promotion& promotion : world.Promotions())
+    if (IsRival(world, promotion)) RenewContracts(world, promotion);
+}
+
+void RivalWorkerHiring(World& world) {
+  Rosters rosters(world);
+  for (const Promotion& promotion : world.Promotions())
+    if (IsRival(world, promotion)) FitRoster(world, promotion, rosters);
+}
+
+void RivalPositions(World& world) {
+  for (Worker& worker : world.Workers()) {
+    const Promotion* employer = world.FindPromotion(worker.Employer);
+    if (employer && IsRival(world, *employer))
+      worker.Position = PlacementPosition(worker, employer->Size);
+  }
+}
+
+namespace {
+
+/// How much more he costs than his popularity is worth there.
+int Overpaid(const Worker& worker, int size) {
+  return worker.Wage - GoingRate(size, worker.Over);
+}
+
+Worker* FindOverpaid(World& world, const Promotion& rival) {
+  Worker* found = nullptr;
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer != rival.Uid || !IsOnMainRoster(worker) || worker.Unsackable) continue;
+    if (!found || Overpaid(worker, rival.Size) > Overpaid(*found, rival.Size)) found = &worker;
+  }
+  return found;
+}
+
+void Save(World& world, const Promotion& rival, Rosters& rosters) {
+  if (rosters.Of(rival.Uid) <= BySize(tuning::kRosters, rival.Size).Least) return;
+  Worker* worker = FindOverpaid(world, rival);
+  if (!worker) return;
+  rosters.Move(*worker, rival.Uid, 0);
+  FireFrom(world, rival, {worker});
+}
+
+void Spend(World& world, const Promotion& rival, Rosters& rosters) {
+  if (rosters.Of(rival.Uid) < BySize(tuning::kRosters, rival.Size).Most)
+    SignOne(world, rival, TasteOf(world, rival.Uid), rosters);
+}
+
+bool HasTitles(const World& world, int promotionUid) {
+  return std::ranges::any_of(world.Titles(),
+                             [&](auto& title) { return title.Owner == promotionUid; });
+}
+
+}  // namespace
+
+void RosterSizeReview(World& world) {
+  Rosters rosters(world);
+  for (const Promotion& rival : world.Promotions()) {
+    if (!IsRival(world, rival)) continue;
+    const Purse purse = PurseOf(rival);
+    if (purse == Purse::Saving) Save(world, rival, rosters);
+    if (purse == Purse::Spending) Spend(world, rival, rosters);
+    if (rosters.Of(rival.Uid) >= tuning::kTitleRoster && !HasTitles(world, rival.Uid))
+      FoundTitles(world, rival);
+  }
+}
+
+void RivalAdvertising(World& world) {
+  for (Promotion& rival : world.Promotions()) {
+    if (!IsRival(world, rival)) continue;
+    const int target = TargetAdvertising(rival.Size, rival.Image);
+    rival.Advertising = rival.Money < 0 ? target / 2 : target;
+  }
+}
+
+namespace {
+
+int CountFree(const World& world) {
+  return static_cast<int>(
+      std::ranges::count_if(world.Workers(), [](auto& worker) { return worker.Employer == 0; }));
+}
+
+/// Everybody who comes is free, so the share grows with both counts.
+int NewTalentNeeded(int free, int all) {
+  int needed = 0;
+  while (needed < tuning::kNewTalentAMonth &&
+         (free + needed) * 100 < tuning::kFreeWanted * (all + needed))
+    ++needed;
+  return needed;
+}
+
+}  // namespace
+
+void DiscoverFreeAgents(World& world) {
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == 0 && worker.Wage > tuning::kLeastAsked)
+      worker.Wage =
+          std::max<int>(worker.Wage - std::max(1, worker.Wage * tuning::kWaitingDiscount / 100),
+                        tuning::kLeastAsked);
+  const int needed = NewTalentNeeded(CountFree(world), world.Workers().Count());
+  for (int n = 0; n < needed && !world.Workers().Full(); ++n) NewFillerWorker(world);
 }
 
 }  // namespace grapplemont

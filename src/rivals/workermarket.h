@@ -1,7 +1,8 @@
 #pragma once
 
+#include "records/world.h"
+#include "rivals/ownership.h"
 #include "rivals/rivals.h"
-#include "rivals/taste.h"
 
 // Whom a rival may sign, whom it would fire, and how either is done.
 
@@ -31,5 +32,9 @@ bool SignOne(World& world, const Promotion& rival, Taste taste, Rosters& rosters
 
 /// Thousands of dollars a month that a promotion of this size thinks fair for this Over.
 int GoingRate(int size, int over);
+
+/// Contracts of the promotion's that have one month left are renewed by taste and budget or left to
+/// run out.
+void RenewContracts(World& world, const Promotion& promotion);
 
 }  // namespace grapplemont

@@ -90,8 +90,7 @@ void CharismaBonus(Worker& worker) {
 
 void DrawTier(World& world, Worker& worker, const Build& build) {
   const int drawn = world.RandomDraw(25);
-  const Tier& tier =
-      *std::find_if(kTiers.begin(), kTiers.end(), [&](auto& t) { return drawn <= t.UpTo; });
+  const Tier& tier = *std::ranges::find_if(kTiers, [&](auto& t) { return drawn <= t.UpTo; });
   RandomMove(world, worker, build.Moves, 1);
   RandomMove(world, worker, build.Moves, 2);
   const bool mayManage = tier.Position == kJobber;
@@ -163,7 +162,7 @@ DrawnFirstName RandomStaffFirstName(World& world) {
 
 void RandomMove(World& world, Worker& worker, char kind, int slot) {
   const auto isKind = [kind](const FinisherMove& move) { return move.Kind == kind; };
-  const auto first = std::find_if(FinisherMoves.begin(), FinisherMoves.end(), isKind);
+  const auto first = std::ranges::find_if(FinisherMoves, isKind);
   const auto last = std::find_if_not(first, FinisherMoves.end(), isKind);
   const FinisherMove& move = first[world.RandomDraw(static_cast<int>(last - first)) - 1];
   (slot == 1 ? worker.Finisher1 : worker.Finisher2) = move.Name;

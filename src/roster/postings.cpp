@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "records/arithmetic.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "storylines/storynames.h"
@@ -28,7 +29,7 @@ const Title* TitleOf(const World& world, int uid) {
 }
 
 bool IsInFeud(const World& world, int uid) {
-  return std::any_of(world.Feuds().begin(), world.Feuds().end(), [uid](const Feud& feud) {
+  return std::ranges::any_of(world.Feuds(), [uid](const Feud& feud) {
     return feud.Worker1 == uid || feud.Worker2 == uid || feud.Worker3 == uid || feud.Worker4 == uid;
   });
 }
@@ -51,8 +52,8 @@ std::string WhyNotAway(const World& world, const Worker& worker) {
 }
 
 bool HasClients(const World& world, const Worker& worker) {
-  return std::any_of(world.Workers().begin(), world.Workers().end(),
-                     [&](const Worker& w) { return w.Manager == worker.Uid; });
+  return std::ranges::any_of(world.Workers(),
+                             [&](const Worker& w) { return w.Manager == worker.Uid; });
 }
 
 bool IsCommissioner(const World& world, const Worker& worker) {
@@ -150,13 +151,51 @@ std::string WhyNotSplit(const World& world, const Worker& worker, std::string_vi
     return split == "None" ? worker.Name + " is in no split."
                            : worker.Name + " is in this split already.";
   const auto& splits = world.Player().Split;
-  const bool known = split == "None" || std::any_of(splits.begin(), splits.end(),
-                                                    [&](auto& held) { return held == split; });
+  const bool known =
+      split == "None" || std::ranges::any_of(splits, [&](auto& held) { return held == split; });
   return known ? "" : "Your promotion has no such split.";
 }
 
 void AssignSplit(Worker& worker, std::string_view split) {
   worker.Split = split;
+}
+
+namespace {
+
+/// The Over above which the positions from 5 up to 1 are reached.
+struct Ladder {
+  int Start;
+  std::array<int, 5> Above;  // 5 Opener, 4 Lower Midcard, 3 Midcard, 2 Upper Midcard, 1 Main Event
+};
+constexpr int kStart = -1;
+// By size, Global to Backyard. Rungs at and below the start are passed by anybody.
+constexpr std::array<Ladder, 6> kLadders = {{
+    {kJobber, {20, 40, 60, 80, 90}},
+    {kJobber, {20, 40, 55, 70, 80}},
+    {kJobber, {10, 20, 40, 50, 65}},
+    {kJobber, {10, 20, 35, 45, 55}},
+    {kOpener, {kStart, 5, 10, 20, 35}},
+    {kMidcard, {kStart, kStart, kStart, 10, 25}},
+}};
+
+}  // namespace
+
+int FittingPosition(int size, int over) {
+  const Ladder& ladder = BySize(kLadders, size);
+  int position = ladder.Start;
+  for (int rung = kOpener; rung >= kMainEvent; --rung)
+    if (rung < position && over > ladder.Above[static_cast<std::size_t>(kOpener - rung)])
+      position = rung;
+  return position;
+}
+
+int PlacementPosition(const Worker& worker, int size) {
+  if (worker.Position == kNonWrestler || worker.Position == kManager) return worker.Position;
+  return FittingPosition(size, worker.Over);
+}
+
+int ContractMonthsAt(int size) {
+  return size > kRegional ? 6 : size >= kCult ? 12 : 24;
 }
 
 }  // namespace grapplemont

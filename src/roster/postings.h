@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "records/worker.h"
 #include "records/world.h"
 
 // Where the player's people stand: their place on the card, the development territory, the training
@@ -40,5 +41,15 @@ void MovePosition(World& world, Worker& worker, int position);
 /// "None" takes him out of any.
 std::string WhyNotSplit(const World& world, const Worker& worker, std::string_view split);
 void AssignSplit(Worker& worker, std::string_view split);
+
+/// The card position 1 to 6 that this Over earns in a promotion of this size. The small ones have
+/// no low places: a Small promotion begins at 5, a Backyard one at 3.
+int FittingPosition(int size, int over);
+/// The position a worker takes when such a promotion signs him; managers and non-wrestlers keep
+/// theirs.
+int PlacementPosition(const Worker& worker, int size);
+
+/// Months of a contract that a rival of this size gives.
+int ContractMonthsAt(int size);
 
 }  // namespace grapplemont

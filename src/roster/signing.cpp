@@ -121,8 +121,7 @@ constexpr Objection kObjections[] = {
 };
 
 bool IsNameOfAnother(const World& world, const Worker& worker, std::string_view name) {
-  const auto& all = world.Workers();
-  return std::any_of(all.begin(), all.end(), [&](const Worker& other) {
+  return std::ranges::any_of(world.Workers(), [&](const Worker& other) {
     return other.Uid != worker.Uid && TrimmedName(other.Name) == name;
   });
 }

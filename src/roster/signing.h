@@ -1,6 +1,5 @@
 #pragma once
 
-#include "roster/demands.h"
 #include "roster/talks.h"
 
 // Talks with a worker of somebody else's or of nobody's about coming.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "records/arithmetic.h"
 #include "records/vocabulary.h"
@@ -42,5 +43,63 @@ std::string MonthsText(int months);
 
 /// "Bram Okafor signs the contract!", or agrees to it where it is verbal.
 Remark AcceptedRemark(std::string_view name, bool written);
+
+// Who costs what on the first of a month, in dollars.
+
+/// 0 for whoever draws no wage: nobody's worker, one who has been sent home, one whose contract has
+/// no end.
+int MonthlyWage(const Worker& worker);
+/// 0 for nobody's staff, for Owners, and for a contract without an end.
+int MonthlyWage(const Staff& staff);
+
+/// What the promotion pays to all its people.
+struct WageBill {
+  long long Workers = 0;
+  long long Staff = 0;
+};
+WageBill WagesOf(const World& world, int promotionUid);
+
+// What a worker wants of a contract.
+
+/// Whether he wants it in writing, from a promotion of this size.
+bool WantsWritten(int size, const Worker& worker);
+
+/// The wage that a worker of the player's wants for staying, thousands of dollars a month.
+int RenewalWage(const Worker& worker);
+
+/// What somebody from outside wants for coming.
+struct Demands {
+  int Position = 0;  // a code of Worker.Position; 0 for an Over that no table knows
+  int Months = 12;
+  bool Written = true;
+  int Wage = 0;  // thousands of dollars a month
+  bool CreativeControl = false;
+};
+/// Of the player's promotion.
+Demands ContractDemands(const World& world, const Worker& worker);
+
+// Talks with a worker of the player's about staying.
+
+/// What closes the talks before they begin, with his name in front; empty while he will listen.
+std::string WhyNoRenewal(const Worker& worker);
+
+/// What an offer is held against.
+struct RenewalTerms {
+  int Size = kGlobal;  // the promotion's
+  int Wage = 0;        // wanted, thousands of dollars a month
+  bool Written = true;
+};
+RenewalTerms RenewalTermsOf(const World& world, const Worker& worker);
+
+/// What he says to an offer, box by box, and whether it is a deal.
+struct RenewalAnswer {
+  std::vector<Remark> Remarks;
+  bool Accepted = false;
+};
+RenewalAnswer JudgeRenewal(const Worker& worker, const RenewalTerms& terms,
+                           const ContractOffer& offer);
+
+/// Puts the offer into his contract.
+void Renew(Worker& worker, const ContractOffer& offer);
 
 }  // namespace grapplemont

@@ -1,16 +1,17 @@
 #include "roster/workerfacts.h"
 
+#include <algorithm>
 #include <array>
 
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "roster/market.h"
 #include "roster/postings.h"
-#include "roster/reigns.h"
-#include "roster/shortlist.h"
+#include "roster/staff.h"
 #include "roster/workerrecord.h"
-#include "roster/workerties.h"
-#include "storylines/turns.h"
+#include "storylines/feuds.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 
@@ -189,6 +190,131 @@ std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker) {
                                   {"Last matches", LastMatchLines(world, worker, kMatchesTold)},
                                   {"Company", CompanyOf(world, worker)},
                                   {"Feuds", FeudsOf(world, worker)}};
+  std::erase_if(facts, [](const FactGroup& group) { return group.Lines.empty(); });
+  return facts;
+}
+
+namespace {
+
+std::string TeamLine(const World& world, const Team& team, const Worker& worker) {
+  const int partner = team.Worker1 == worker.Uid ? team.Worker2 : team.Worker1;
+  const std::string finisher =
+      team.Finisher == "None" || team.Finisher == "" ? "" : ", finisher " + team.Finisher.Str();
+  return team.Name + " with " + WorkerName(world, partner) + ", experience " +
+         std::to_string(team.Experience) + finisher + ".";
+}
+
+}  // namespace
+
+std::vector<std::string> OfficesOf(const World& world, const Worker& worker) {
+  std::vector<std::string> offices;
+  for (const Promotion& promotion : world.Promotions())
+    if (promotion.Commissioner == worker.Uid)
+      offices.push_back("Commissioner of " + promotion.Name + ".");
+  for (const Show& show : world.Shows())
+    if (show.ColourIsWorker && show.Colour == worker.Uid)
+      offices.push_back("Colour commentator of " + show.Name + ".");
+  return offices;
+}
+
+std::vector<std::string> CompanyOf(const World& world, const Worker& worker) {
+  std::vector<std::string> company;
+  if (worker.Stable != "None" && !worker.Stable.View().empty())
+    company.push_back("Member of " + worker.Stable + ".");
+  for (const Team& team : world.Teams())
+    if (team.Worker1 == worker.Uid || team.Worker2 == worker.Uid)
+      company.push_back(TeamLine(world, team, worker));
+  if (const Worker* manager = world.FindWorker(worker.Manager))
+    company.push_back("Managed by " + manager->Name + ".");
+  for (const Worker& client : world.Workers())
+    if (client.Manager == worker.Uid) company.push_back("Manages " + client.Name + ".");
+  return company;
+}
+
+std::vector<std::string> FeudsOf(const World& world, const Worker& worker) {
+  std::vector<std::string> feuds;
+  for (const Feud& feud : world.Feuds()) {
+    const FeudSides sides = SidesOf(feud);
+    if (IsFreeSlot(feud) || (!sides.One.Has(worker.Uid) && !sides.Two.Has(worker.Uid))) continue;
+    feuds.push_back(SideName(world, sides.One) + " vs " + SideName(world, sides.Two) + ", heat " +
+                    std::to_string(feud.Heat) + ".");
+  }
+  return feuds;
+}
+
+namespace {
+
+constexpr Steps kTalent = {"Has everything to learn.", "Knows the basics.", "Does a decent job.",
+                           "Is good at it.", "Is among the best there are."};
+constexpr Steps kBackstage = {"A trouble maker behind the scenes.",
+                              "Stirs up trouble now and then.", "Gets on with most people.",
+                              "A good colleague.", "Everybody's friend behind the scenes."};
+
+FactGroup Person(const Staff& staff) {
+  std::string who =
+      std::string(staff.Gender ? "A man of " : "A woman of ") + std::to_string(staff.Age);
+  if (const auto month = MonthName(staff.BirthMonth); !month.empty())
+    who += ", born in " + std::string(month);
+  FactGroup group{staff.Name.Str(), {who + ".", std::string(PostText(staff.Position)) + "."}};
+  if (staff.Position != kOwner)
+    group.Lines.push_back("Talent " + std::to_string(staff.Talent) + ". " +
+                          StepOf(kTalent, staff.Talent));
+  if (staff.Booker) group.Lines.push_back("Can book as well.");
+  return group;
+}
+
+FactGroup Contract(const World& world, const Staff& staff) {
+  FactGroup group{"Contract", {}};
+  if (staff.Employer == 0) {
+    group.Lines = {"Works for nobody."};
+    if (staff.Wage > 0 && staff.Position != kOwner)
+      group.Lines.push_back("Last earned " + WageText(staff.Wage) + " a month.");
+    return group;
+  }
+  const std::string employer = PromotionName(world, staff.Employer);
+  group.Lines = {(staff.Position == kOwner ? "Owns " : "Works for ") + employer + "."};
+  if (const std::string line = StaffContractLine(staff); !line.empty())
+    group.Lines.push_back(line + ".");
+  return group;
+}
+
+FactGroup Offices(const World& world, const Staff& staff) {
+  FactGroup group{"Duties", {}};
+  for (const Promotion& promotion : world.Promotions()) {
+    if (promotion.HeadTrainer == staff.Uid)
+      group.Lines.push_back("Heads the training camp " + promotion.CampName.Str() + ".");
+    if (promotion.DevBooker == staff.Uid)
+      group.Lines.push_back("Books " + promotion.DevName.Str() + ".");
+  }
+  for (const Show& show : world.Shows()) {
+    if (show.Announcer == staff.Uid) group.Lines.push_back("Calls " + show.Name.Str() + ".");
+    if (show.Colour == staff.Uid && !show.ColourIsWorker)
+      group.Lines.push_back("Does the colour on " + show.Name.Str() + ".");
+  }
+  return group;
+}
+
+}  // namespace
+
+std::string_view PostText(int post) {
+  const std::string_view words = Says(kStaffPositions, post);
+  return words.empty() ? "Unknown" : words;
+}
+
+std::string StaffContractLine(const Staff& staff) {
+  if (staff.Employer == 0 || staff.Position == kOwner) return {};
+  if (IsEndless(staff)) return "Unsackable, agreement for " + WageText(staff.Wage) + " per month";
+  return (staff.ContractType == "Wri" ? "Written contract for " : "Verbal agreement for ") +
+         MonthsText(staff.ContractMonths) + ", at " + WageText(staff.Wage) + " per month";
+}
+
+std::vector<FactGroup> StaffFacts(const World& world, const Staff& staff) {
+  std::vector<FactGroup> facts = {Person(staff),
+                                  Contract(world, staff),
+                                  {"Character",
+                                   {MoraleWords(staff.Morale), LoyaltyWords(staff.Loyalty),
+                                    StepOf(kBackstage, staff.Backstage)}},
+                                  Offices(world, staff)};
   std::erase_if(facts, [](const FactGroup& group) { return group.Lines.empty(); });
   return facts;
 }

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "records/counted.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
+#include "storylines/lineages.h"
 
 namespace grapplemont {
 
@@ -29,7 +31,7 @@ std::string MatchLine(const HeldMatch& bout, int uid) {
   const bool isFirst = outcome > 0 || (outcome == 0 && bout.Worker[0] == uid);
   const char* how = outcome > 0 ? "beat " : outcome < 0 ? "lost to " : "drew with ";
   std::string text = ShortDate(bout.On) + ": " + how + (isFirst ? bout.Lost : bout.Won).Str();
-  if (!(bout.Title == "None")) text += " for the " + bout.Title.Str();
+  if (bout.Title != "None") text += " for the " + bout.Title.Str();
   return text + ", " + Number(bout.Rating) + "%.";
 }
 
@@ -71,6 +73,73 @@ std::vector<std::string> AwardLines(const World& world, const Worker& worker) {
       lines.push_back(std::string(AwardName(award.Kind)) + " " + Number(YearOf(award.On)) + ".");
   }
   return lines;
+}
+
+namespace {
+
+constexpr std::string_view kAnd = " \\ ";  // between the short names of a pair without a name
+
+bool IsTeamOf(const World& world, std::string_view team, int uid) {
+  return std::ranges::any_of(world.Teams(), [&](const Team& held) {
+    return held.Name == team && (held.Worker1 == uid || held.Worker2 == uid);
+  });
+}
+
+bool IsOneOfPair(std::string_view holder, const Worker& worker) {
+  const auto parts = holder.find(kAnd);
+  if (parts == std::string_view::npos) return false;
+  return worker.ShortName == holder.substr(0, parts) ||
+         worker.ShortName == holder.substr(parts + kAnd.size());
+}
+
+/// Whether a line of the Title's past tells of him.
+bool IsHis(const World& world, const Title& title, const Reign& reign, const Worker& worker) {
+  if (reign.Holder == "None" || reign.Holder == kVacantHolder) return false;
+  const bool lasts = &reign == &title.Reigns.front();
+  if (lasts && title.Holder != 0) return title.Holder == worker.Uid || title.Partner == worker.Uid;
+  if (title.Singles) return reign.Holder == worker.Name;
+  return IsTeamOf(world, reign.Holder, worker.Uid) || IsOneOfPair(reign.Holder, worker);
+}
+
+std::string With(const Title& title, const Reign& reign) {
+  return title.Singles ? "" : " as " + reign.Holder.Str();
+}
+
+std::string Days(Day won, Day lost) {
+  const bool knowsWon = won > kNoTitleDate, knowsLost = lost > kNoTitleDate;
+  if (!knowsLost) return knowsWon ? ", since " + PlainDate(won) : ", to this day";
+  return knowsWon ? ", " + PlainDate(won) + " to " + PlainDate(lost) : ", until " + PlainDate(lost);
+}
+
+std::string Told(const World& world, const TitleReign& reign) {
+  std::string text = reign.Title + (reign.Partner == 0 ? "" : " as " + reign.Holder.Str()) +
+                     Days(reign.From, reign.Until);
+  const int days = DaysOf(reign, world.Today());
+  if (days >= 0) text += " (" + Counted(days, "day");
+  if (reign.Defences > 0) text += (days >= 0 ? ", " : " (") + Counted(reign.Defences, "defence");
+  return text + (days >= 0 || reign.Defences > 0 ? ")" : "");
+}
+
+}  // namespace
+
+std::vector<const Title*> TitlesHeldBy(const World& world, int workerUid) {
+  std::vector<const Title*> held;
+  for (const Title& title : world.Titles())
+    if (workerUid != 0 && (title.Holder == workerUid || title.Partner == workerUid))
+      held.push_back(&title);
+  return held;
+}
+
+std::vector<std::string> ReignsOf(const World& world, const Worker& worker) {
+  std::vector<std::string> reigns;
+  for (const TitleReign* reign : ReignsOfWorker(world, worker.Uid))
+    reigns.push_back(Told(world, *reign));
+  if (world.Reigns().Count() > 0) return reigns;
+  for (const Title& title : world.Titles())
+    for (const Reign& reign : title.Reigns)
+      if (IsHis(world, title, reign, worker))
+        reigns.push_back(title.Name + With(title, reign) + Days(reign.Won, reign.Lost));
+  return reigns;
 }
 
 }  // namespace grapplemont

@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <array>
 
-#include "business/monthlymoney.h"
+#include "business/finance.h"
 #include "calendar/awards.h"
 #include "calendar/events.h"
 #include "records/arithmetic.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "rivals/challenge.h"
+#include "rivals/founding.h"
 #include "roster/invented.h"
 #include "storylines/lineages.h"
 

@@ -6,7 +6,7 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/segmentparts.h"
-#include "roster/placement.h"
+#include "roster/postings.h"
 #include "show/legend.h"
 #include "show/overchange.h"
 #include "show/ratings.h"

@@ -6,8 +6,7 @@
 #include <limits>
 #include <span>
 
-#include "business/economyfactor.h"
-#include "business/monthlymoney.h"
+#include "business/finance.h"
 #include "records/arithmetic.h"
 #include "records/modVar.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "business/commentators.h"
+#include "business/tvshows.h"
 #include "records/angles.h"
 #include "records/arithmetic.h"
 #include "records/dates.h"

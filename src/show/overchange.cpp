@@ -5,7 +5,7 @@
 #include "records/angles.h"
 #include "records/modWresCheck.h"
 #include "show/titlechange.h"
-#include "storylines/stables.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 

@@ -1,11 +1,10 @@
 #include "show/talkscore.h"
-
 #include <algorithm>
-
 #include "records/modWresCheck.h"
 #include "show/ratings.h"
+#include "show/runsegment.h"
 #include "show/showfeuds.h"
-#include "storylines/stables.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 
@@ -160,8 +159,10 @@ void CapByWriters(SegmentRun& run) {
 
 void RateTalk(SegmentRun& run) {
   const int draw = run.World.RandomDraw(kTalkDraw);
+  const bool isBeyond = run.Crowd < 0 || run.Crowd > 100;  // what is shown is limited later
   run.Overall.Become(Score::Floor(run.Crowd * 85 + draw * 100, 100),
-                     "85% of Crowd " + std::to_string(run.Crowd) + " and a draw of " +
+                     "85% of Crowd " + std::to_string(run.Crowd) +
+                         (isBeyond ? ", before its limit," : "") + " and a draw of " +
                          std::to_string(draw) + " out of " + std::to_string(kTalkDraw));
   run.Overall.Limit();
 }

@@ -1,5 +1,7 @@
 #include "show/titlechange.h"
 
+#include "show/overchange.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -67,11 +69,8 @@ namespace {
 /// A Title whose image lies further than this from a champion's Over pulls it along.
 constexpr int kPull = 10;
 
-void FollowImage(Worker& champion, int image) {
-  if (image > champion.Over + kPull)
-    champion.Over += 1;
-  else if (image < champion.Over - kPull)
-    champion.Over -= 1;
+int StepTowards(int image, const Worker& champion) {
+  return image > champion.Over + kPull ? 1 : image < champion.Over - kPull ? -1 : 0;
 }
 
 int ImageChange(int target, int image) {
@@ -105,7 +104,7 @@ void MoveTitleImage(SegmentRun& run) {
     if (!champion) continue;
     sum += champion->Over;
     ++counted;
-    FollowImage(*champion, image);
+    ChangeOverAndTell(run, *champion, StepTowards(image, *champion));
   }
   const int change = ImageChange(Score::Floor(sum, counted), image);
   title->Image += change;

@@ -6,7 +6,7 @@
 #include "records/angles.h"
 #include "records/segmentacts.h"
 #include "show/overchange.h"
-#include "storylines/stables.h"
+#include "storylines/partners.h"
 
 namespace grapplemont {
 

@@ -38,6 +38,8 @@ bool IsFreeSlot(const Feud& feud);
 int FreeFeudSlot(const World& world);
 /// Both sides hold nobody in an empty slot.
 FeudSides SidesOf(const Feud& feud);
+/// Whether people of both sides are among these.
+bool EnemiesMeet(const Feud& feud, const std::vector<int>& people);
 /// "Bram Okafor", or the team's name, or "Bram Okafor \ Ilya Marsh".
 std::string SideName(const World& world, const FeudSide& side);
 FeudScore FeudWins(const Feud& feud);

@@ -41,13 +41,14 @@ std::string WhyNoName(std::string_view name, int letters) {
   return {};
 }
 
+bool IsSeenOnShows(const Worker& worker) {
+  return IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
+}
+
 std::vector<const Worker*> SeenOnShows(const World& world) {
   std::vector<const Worker*> seen;
-  for (const Worker& worker : world.Workers()) {
-    const bool onShows =
-        IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
-    if (WorksForPlayer(world, worker) && onShows) seen.push_back(&worker);
-  }
+  for (const Worker& worker : world.Workers())
+    if (WorksForPlayer(world, worker) && IsSeenOnShows(worker)) seen.push_back(&worker);
   SortByOver(seen);
   return seen;
 }

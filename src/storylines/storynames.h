@@ -20,8 +20,9 @@ std::string WhyNotPlain(std::string_view name);
 /// Without blanks at its ends.
 std::string_view TrimmedName(std::string_view name);
 
-/// Everybody of the player's who is seen on the shows, fit or not: wrestlers, managers and
-/// non-wrestlers. The most popular first.
+/// A wrestler, manager or non-wrestler: who is seen on shows, fit or not.
+bool IsSeenOnShows(const Worker& worker);
+/// All of them who work for the player. The most popular first.
 std::vector<const Worker*> SeenOnShows(const World& world);
 /// Most popular first, those alike in the order of the file.
 void SortByOver(std::vector<const Worker*>& people);

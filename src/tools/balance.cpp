@@ -2,11 +2,14 @@
 
 #include <algorithm>
 
-#include "business/monthlymoney.h"
-#include "business/sponsorlimits.h"
+#include "business/finance.h"
+#include "business/sponsors.h"
 #include "calendar/events.h"
+#include "editor/worldcopy.h"
 #include "records/modWresCheck.h"
 #include "rivals/houseshows.h"
+#include "rivals/rivals.h"
+#include "roster/talks.h"
 #include "show/attendance.h"
 
 namespace grapplemont::tools {
@@ -14,15 +17,58 @@ namespace grapplemont::tools {
 namespace {
 
 constexpr int kEvenEconomy = 60;
-constexpr int kSponsorPlaces = 4;
 constexpr int kWeeks = 52, kMonths = 12;
+
+/// What its sponsors pay a promotion, in thousands, as sums over so many of their kind.
+struct SponsorPay {
+  long long AnEvent = 0, ATvShow = 0, Of = 1;
+};
+
+/// Those who say yes to a player, at their mean in each place.
+SponsorPay WillingSponsors(const World& world, const Promotion& promotion) {
+  const int limit = SponsorPayLimit(promotion.Size, promotion.Image);
+  long long willing = 0;
+  SponsorPay sum;
+  for (const Sponsor& sponsor : world.Sponsors()) {
+    if (!BearsRisk(sponsor, promotion.Risk) || sponsor.Pay >= limit) continue;
+    ++willing;
+    sum.AnEvent += sponsor.Pay;
+    sum.ATvShow +=
+        SponsorPayForTv(sponsor, true) + SponsorPayForTv(sponsor, false) * (kSponsorPlaces - 1);
+  }
+  sum.AnEvent *= std::min<long long>(willing, kSponsorPlaces);
+  sum.Of = std::max(willing, 1LL);
+  return sum;
+}
+
+/// Those who sit in its places.
+SponsorPay SignedSponsors(World& market, const Promotion& promotion) {
+  SponsorPay sum;
+  for (int place = 1; place <= kSponsorPlaces; ++place)
+    if (const Sponsor* sponsor = SponsorAt(market, promotion, place)) {
+      sum.AnEvent += sponsor->Pay;
+      sum.ATvShow += SponsorPayForTv(*sponsor, place == 1);
+    }
+  return sum;
+}
+
+/// The world after its first day: every place that a sponsor will have is taken, as rivals take it.
+World AfterSigning(const World& world) {
+  World market = TrialCopyOf(world);
+  for (Promotion& promotion : market.Promotions())
+    for (int place = 1; place <= kSponsorPlaces; ++place)
+      if (Sponsor* sponsor =
+              SponsorAt(market, promotion, place) ? nullptr : SponsorForRival(market, promotion))
+        SignSponsor(market, promotion, *sponsor, place);
+  return market;
+}
 
 /// The same promotion in the player's hands or its own.
 struct Hands {
   int Advertising;
   int Merchandising;
   int Production;
-  int SponsorLimit;
+  SponsorPay Sponsors;
   std::vector<int> EventTypes;  // of a year
   int HouseShow;                // dollars a week
 };
@@ -32,18 +78,19 @@ Hands PlayersHands(const World& world, const Promotion& promotion) {
   for (const Event& event : world.Events())
     if (event.Owner == promotion.Uid) types.push_back(event.Type);
   return {promotion.Advertising, promotion.Merchandising,
-          promotion.Production,  SponsorPayLimit(promotion.Size, promotion.Image),
+          promotion.Production,  WillingSponsors(world, promotion),
           std::move(types),      0};
 }
 
-Hands RivalsHands(const World& world, const Promotion& promotion) {
+/// `promotion` is one of the market's.
+Hands RivalsHands(World& market, const Promotion& promotion) {
   const RivalSpending spending = RivalSpendingFor(promotion.Size);
   return {TargetAdvertising(promotion.Size, promotion.Image),
           spending.Merchandising,
           spending.Production,
-          RivalSponsorPayLimit(promotion.Size, promotion.Image),
+          SignedSponsors(market, promotion),
           std::vector<int>(kMonths, NewEventType(promotion)),
-          HouseShowIncome(promotion, HouseShowCrews(world)[promotion.Uid])};
+          HouseShowIncome(promotion, HouseShowCrews(market)[promotion.Uid])};
 }
 
 /// Television shows in a year: the last Sunday of a month is an Event's.
@@ -71,29 +118,15 @@ void AddTickets(const World& world, const Promotion& promotion, const Hands& han
 }
 
 long long SponsorsMonth(const World& world, const Promotion& promotion, const Hands& hands) {
-  long long willing = 0, pay = 0, tvPay = 0;
-  for (const Sponsor& sponsor : world.Sponsors()) {
-    if (!BearsRisk(sponsor, promotion.Risk) || sponsor.Pay >= hands.SponsorLimit) continue;
-    ++willing;
-    pay += sponsor.Pay;
-    tvPay +=
-        SponsorPayForTv(sponsor, true) + SponsorPayForTv(sponsor, false) * (kSponsorPlaces - 1);
-  }
-  if (willing == 0) return 0;
-  const long long places = std::min<long long>(willing, kSponsorPlaces);
-  return (pay * places * std::ssize(hands.EventTypes) + tvPay * ShowsAYear(world, promotion)) *
-         1000 / willing / kMonths;
+  const SponsorPay& pay = hands.Sponsors;
+  return (pay.AnEvent * std::ssize(hands.EventTypes) + pay.ATvShow * ShowsAYear(world, promotion)) *
+         1000 / pay.Of / kMonths;
 }
 
 void AddWages(const World& world, const Promotion& promotion, MonthMoney& money) {
-  const auto isPaid = [&](const auto& person) {
-    return person.Employer == promotion.Uid && person.ContractMonths != kNoEnd;
-  };
-  for (const Worker& worker : world.Workers())
-    if (isPaid(worker) && !worker.Unsackable) money.WorkerWages += worker.Wage * 1000LL;
-  for (const Staff& staff : world.AllStaff())
-    if (isPaid(staff) && !staff.Unsackable && staff.Position != kOwner)
-      money.StaffWages += staff.Wage * 1000LL;
+  const WageBill bill = WagesOf(world, promotion.Uid);
+  money.WorkerWages = bill.Workers;
+  money.StaffWages = bill.Staff;
 }
 
 MonthMoney MonthOf(const World& world, const Promotion& promotion, const Hands& hands) {
@@ -140,11 +173,13 @@ int MonthMoney::CostsPerHundred() const {
 }
 
 std::vector<PromotionBalance> BalanceOf(const World& world) {
+  World market = AfterSigning(world);
   std::vector<PromotionBalance> balances;
   for (const Promotion& promotion : world.Promotions())
-    balances.push_back({&promotion, CardOf(world, promotion),
-                        MonthOf(world, promotion, PlayersHands(world, promotion)),
-                        MonthOf(world, promotion, RivalsHands(world, promotion))});
+    balances.push_back(
+        {&promotion, CardOf(world, promotion),
+         MonthOf(world, promotion, PlayersHands(world, promotion)),
+         MonthOf(world, promotion, RivalsHands(market, *market.FindPromotion(promotion.Uid)))});
   return balances;
 }
 

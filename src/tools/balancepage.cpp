@@ -18,13 +18,14 @@ of the first year brings in and costs, so that a world maker sees who lives well
 page is a command away: `grapplemont-world balance mydata > balance.md`.
 
 The month is an average one: an even economy, tickets at the fair price, 52 weeks spread over 12 months, crowds and buy
-rates at their mean for today's image, and four sponsors of mean pay out of those who would sign. Who picks sponsors well
-does better. Workers who cannot be released draw no wage. Two columns tell the same company in two pairs of hands:
+rates at their mean for today's image. Workers who cannot be released draw no wage. Two columns tell the same company in two pairs of hands:
 
-- **Player**: with the advertising, merchandise, production and Events that it has on the first day, and the sponsors
-  that say yes to a player.
+- **Player**: with the advertising, merchandise, production and Events that it has on the first day, and four sponsors
+  of mean pay out of those who say yes to a player. Who picks sponsors well does better.
 - **Rival**: with what a rival of its size and image spends as soon as its first show has been seen, an Event of its
-  standing every month, a house show every week where eight wrestlers are fit, and the sponsors that say yes to a rival.
+  standing every month, a house show every week where eight wrestlers are fit, and the sponsors that a
+  rival has after the first day: each takes the first in the world's list that are free and say yes, the promotion that is
+  first in the world before all others. Later months bring more: an image that rises, and sponsors who follow it.
 
 Wages are those of the first day in both. A rival's people move towards the band of its size and the going rate within
 the first months, and one in debt advertises half as much.

@@ -1,12 +1,12 @@
 #include "tools/career.h"
 
-#include "booking/autoshow.h"
-#include "calendar/daykind.h"
+#include "booking/showstart.h"
+#include "calendar/advanceday.h"
 #include "calendar/incidents.h"
 #include "records/world.h"
 #include "report/report.h"
-#include "rivals/challenge.h"
 #include "rivals/endstories.h"
+#include "rivals/founding.h"
 #include "rivals/rivals.h"
 #include "tools/officework.h"
 

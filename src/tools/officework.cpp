@@ -2,12 +2,10 @@
 
 #include <algorithm>
 
-#include "business/monthlymoney.h"
-#include "business/sponsorlimits.h"
+#include "business/finance.h"
 #include "business/sponsors.h"
 #include "records/dates.h"
 #include "rivals/purse.h"
-#include "rivals/renewals.h"
 #include "rivals/staffmarket.h"
 #include "rivals/tuning.h"
 #include "rivals/workermarket.h"

@@ -1,6 +1,5 @@
 #include "tools/televisionwork.h"
 
-#include "business/promotapes.h"
 #include "business/tvshows.h"
 #include "business/tvtalks.h"
 #include "records/dates.h"

@@ -1,8 +1,9 @@
+#include "tools/tell.h"
+
 #include <ostream>
 
-#include "booking/autoshow.h"
+#include "booking/showstart.h"
 #include "calendar/advanceday.h"
-#include "calendar/daykind.h"
 #include "calendar/incidents.h"
 #include "records/charset.h"
 #include "records/dates.h"
@@ -68,24 +69,6 @@ void TellRatings(std::ostream& out, const ToldSegment& told, bool isMatch) {
   out << "Crowd Reaction " << int(told.Crowd) << "%, Overall Rating " << int(told.Overall) << "%\n";
 }
 
-void TellShow(World& world, bool isEvent, std::ostream& out) {
-  const CommentaryTeam team = isEvent ? BestTeam(world) : TvTeam(world);
-  TellLine(out, "Event Report For " + ShowName(world, isEvent));
-  TellLine(out, LongDate(world.Today()));
-  TellLine(out, "Reported By " + std::string(VoiceName(world.Game().Reporter)));
-  LineMemory memory;
-  StartShow(world, isEvent, team);
-  while (const int number = NextSegment(world)) {
-    const Segment segment = world.Segments()[number];
-    const ToldSegment told = RunNextSegment(world, &memory);
-    TellDetails(out, DetailsOf(world, segment));
-    TellLine(out, told.Report);
-    TellLine(out, told.Verdict);
-    TellRatings(out, told, segment.Kind == kMatch);
-  }
-  out << "\nThe show: " << CloseShow(world) << "%\n";
-}
-
 int Tell(const Arguments& arguments, Shell& shell) {
   const auto disk = RealDisk();
   Game::Options options;
@@ -111,6 +94,24 @@ constexpr OptionKind kTellOptions[] = {
     {"--home", "H"}, {"--slot", "N", true}, {"--seed", "S"}, {"--voice", "0..2"}, {"--event", ""}};
 
 }  // namespace
+
+void TellShow(World& world, bool isEvent, std::ostream& out) {
+  const CommentaryTeam team = isEvent ? BestTeam(world) : TvTeam(world);
+  TellLine(out, "Event Report For " + ShowName(world, isEvent));
+  TellLine(out, LongDate(world.Today()));
+  TellLine(out, "Reported By " + std::string(VoiceName(world.Game().Reporter)));
+  LineMemory memory;
+  StartShow(world, isEvent, team);
+  while (const int number = NextSegment(world)) {
+    const Segment segment = world.Segments()[number];
+    const ToldSegment told = RunNextSegment(world, &memory);
+    TellDetails(out, DetailsOf(world, segment));
+    TellLine(out, told.Report);
+    TellLine(out, told.Verdict);
+    TellRatings(out, told, segment.Kind == kMatch);
+  }
+  out << "\nThe show: " << CloseShow(world) << "%\n";
+}
 
 const Command kTell{"tell",
                     "--home H --slot N --seed S [--voice 0..2] [--event]",

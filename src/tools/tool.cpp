@@ -47,8 +47,11 @@ const Command& FindCommand(const std::string& name) {
   throw UsageError("there is no command \"" + name + "\"" + DidYouMean(name, names));
 }
 
+/// One line without what a terminal would take for a command.
 std::string OneLine(std::string text) {
-  std::replace(text.begin(), text.end(), '\n', ' ');
+  std::replace_if(
+      text.begin(), text.end(), [](unsigned char letter) { return letter < 0x20 || letter == 0x7F; },
+      ' ');
   return text;
 }
 
@@ -61,7 +64,7 @@ int RunCommand(const Command& command, std::span<const std::string> words, Shell
   try {
     return command.Run(Arguments(words, command.Options, command.Places), shell);
   } catch (const UsageError& fault) {
-    shell.Errors << kProgram << " " << command.Name << ": " << ValidUtf8(fault.what()) << "\n";
+    shell.Errors << kProgram << " " << command.Name << ": " << OneLine(ValidUtf8(fault.what())) << "\n";
     PrintUsage(shell.Errors, command);
     return 2;
   } catch (const std::bad_alloc&) {
@@ -87,7 +90,7 @@ int RunWorldTool(std::span<const std::string> arguments, Shell shell) {
     if (arguments.empty()) throw UsageError("a command is missing");
     return RunCommand(FindCommand(arguments[0]), arguments.subspan(1), shell);
   } catch (const UsageError& fault) {
-    shell.Errors << kProgram << ": " << ValidUtf8(fault.what()) << "\n";
+    shell.Errors << kProgram << ": " << OneLine(ValidUtf8(fault.what())) << "\n";
     PrintHelp(shell.Errors);
     return 2;
   }

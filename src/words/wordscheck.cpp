@@ -118,6 +118,20 @@ bool LetsLoserWin(std::string_view text) {
   return false;
 }
 
+/// "{n} contracts" is wrong for one.
+std::string WhyNotForOne(std::string_view text) {
+  for (const std::string_view slot : {"{n} ", "{wins} ", "{feuds} ", "{faces} ", "{heels} "})
+    for (auto at = text.find(slot); at != text.npos; at = text.find(slot, at + 1)) {
+      auto behind = text.substr(at + slot.size());
+      if (behind.starts_with("of ours ")) behind.remove_prefix(8);
+      const auto word = behind.substr(0, behind.find_first_of(" ,.:;"));
+      if (word == "are" || word == "have" || (word.size() > 2 && word.ends_with('s')))
+        return "one or many: write " + std::string(slot.substr(0, slot.size() - 2)) + ":one form|" +
+               std::string(word) + "}";
+    }
+  return "";
+}
+
 /// "himself" is right for half of all workers.
 bool HasSexedWord(std::string_view text) {
   return text.find(" himself") != text.npos || text.find(" herself") != text.npos;
@@ -135,6 +149,7 @@ class Reading {
 
   void Slot(std::string_view slot) {
     const auto& known = heading_.Slots;
+    if (const auto counted = ReadCounted(slot); counted && !heading_.IsReport) slot = counted->Name;
     if (heading_.IsReport)
       ReportSlot(slot, ReadHole(slot));
     else if (std::find(known.begin(), known.end(), slot) == known.end())
@@ -178,6 +193,7 @@ std::string WhyNoLine(std::string_view text, const Heading& heading) {
   if (heading.IsReport && HasSexedWord(text))
     return "write {a:himself}, with the letter of whoever it is: it goes by sex and number";
   if (heading.IsReport && LetsLoserWin(text)) return "{l} or {L} has lost, and wins here";
+  if (std::string why = WhyNotForOne(text); !heading.IsReport && !why.empty()) return why;
   Reading reading(heading);
   ReadHoles(
       text, [&](std::string_view words) { reading.Words(words); },

@@ -2,8 +2,8 @@
 
 #include <map>
 
-#include "booking/casting.h"
-#include "booking/writers.h"
+#include "booking/wizard/casting.h"
+#include "booking/wizard/roster.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {
@@ -144,7 +144,10 @@ SmallWorld Company() {
 
 Names List(const World& world, Casting from, const BookingView& view = kTv, int angle = kWalking) {
   Names names;
-  for (const Candidate& candidate : CandidatesFor(world, from, angle, view)) {
+  Segment segment = EmptySegment();
+  segment.Kind = kAngle;
+  segment.Style = angle;
+  for (const Candidate& candidate : CandidatesFor(world, from, segment, view)) {
     names.push_back(candidate.Name);
     const Worker* worker = world.FindWorker(candidate.Uid);
     EXPECT_EQ(worker ? worker->Name.Str() : candidate.Name, candidate.Name);

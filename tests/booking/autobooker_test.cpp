@@ -4,7 +4,7 @@
 
 #include <set>
 
-#include "booking/autoplan.h"
+#include "booking/auto/autoplan.h"
 
 namespace grapplemont::test {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "booking/autobooker.h"
-#include "booking/segmentcheck.h"
+#include "booking/auto/autobooker.h"
+#include "booking/wizard/segmentcheck.h"
 #include "records/segments.h"
 #include "support/smallworld.h"
 

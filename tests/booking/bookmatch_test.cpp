@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "booking/ring.h"
-#include "booking/segmentcheck.h"
+#include "booking/wizard/segmentcheck.h"
 
 namespace grapplemont::test {
 namespace {

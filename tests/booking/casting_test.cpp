@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "booking/casting.h"
-#include "booking/castingchecks.h"
+#include "booking/wizard/casting.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {
@@ -75,7 +74,7 @@ std::string Why(World& world, const Cast& cast) {
 Cast Good(const Angle& angle) {
   Cast good{angle.Number, std::vector<std::string>(kAnglePlaces)};
   for (const Role& role : angle.Roles) {
-    if (!IsUsed(role)) continue;
+    if (role.Caption.empty()) continue;
     if (role.From == Casting::Stables) good.Stable = "The Tide";
     if (role.From == Casting::SinglesTitles) good.Title = "Open Crown";
     if (role.From == Casting::TagTitles) good.Title = "Light Pair";
@@ -146,12 +145,15 @@ TEST(WhyNotCast, AsksForEverybodyButTheOptionalOnes) {
   World world = Company();
   for (const Angle& angle : AllAngles())
     for (const Role& role : angle.Roles) {
-      if (!IsUsed(role) || role.Place == 0) continue;
+      if (role.Caption.empty() || role.Place == 0) continue;
       Cast missing = Good(angle);
       missing.People[static_cast<std::size_t>(role.Place - 1)].clear();
       const std::string why = Why(world, missing);
       if (role.Optional) continue;
-      const bool some = !CandidatesFor(world, role.From, angle.Number, kTv).empty();
+      Segment segment = EmptySegment();
+      segment.Kind = kAngle;
+      segment.Style = angle.Number;
+      const bool some = !CandidatesFor(world, role.From, segment, kTv).empty();
       EXPECT_EQ(why, some ? "Please make a selection for \"" + std::string(role.Caption) + "\"!"
                           : std::string(NobodyFor(role.From)))
           << angle.Says;

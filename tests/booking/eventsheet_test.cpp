@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "booking/extras.h"
 #include "booking/onsheet.h"
+#include "booking/showstart.h"
 #include "support/scripteddraws.h"
 
 namespace grapplemont::test {

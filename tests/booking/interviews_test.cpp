@@ -1,4 +1,6 @@
-#include "booking/interviews.h"
+#include "booking/wizard/interviews.h"
+
+#include "booking/wizard/casting.h"
 
 #include <gtest/gtest.h>
 
@@ -52,15 +54,16 @@ Names NamesOf(const std::vector<const Worker*>& workers) {
 
 TEST(Talkers, AreAllWhoCanSpeakAndWorkForThePlayer) {
   const World world = Company();
-  EXPECT_EQ(NamesOf(Talkers(world, kTv)),
+  EXPECT_EQ(NamesOf(WorkersFor(world, Casting::Talkers, EmptySegment(), kTv)),
             (Names{"Ann Ace", "Bob Bold", "Cat Cold", "Dan Dark", "Max Mouth", "Nell Suit"}));
-  EXPECT_EQ(NamesOf(TalkingManagers(world, kTv)), Names{"Max Mouth"});
+  EXPECT_EQ(NamesOf(WorkersFor(world, Casting::TalkManagers, EmptySegment(), kTv)),
+            Names{"Max Mouth"});
 }
 
 TEST(TalkTargets, AreTheRosterWithoutTheSpeakers) {
   World world = Company();
   const auto targets = [&](int style, const Names& people, const BookingView& view) {
-    return NamesOf(TalkTargets(world, Interview(world, style, people), view));
+    return NamesOf(WorkersFor(world, Casting::Targets, Interview(world, style, people), view));
   };
   EXPECT_EQ(targets(kSingleTalk, {"Ann Ace", "Bob Bold"}, kTv),
             (Names{"Bob Bold", "Cat Cold", "Dan Dark", "Max Mouth", "Mim Mute", "Sid Silent"}))

@@ -1,10 +1,10 @@
-#include "booking/offers.h"
+#include "booking/wizard/offers.h"
 
 #include <gtest/gtest.h>
 
-#include "booking/matchsteps.h"
 #include "booking/ring.h"
-#include "booking/roster.h"
+#include "booking/wizard/matchrules.h"
+#include "booking/wizard/roster.h"
 #include "records/modWresCheck.h"
 #include "show/turns.h"
 #include "support/randomworld.h"

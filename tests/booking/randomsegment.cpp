@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "booking/casting.h"
-#include "booking/matchsteps.h"
+#include "booking/wizard/casting.h"
+#include "booking/wizard/matchrules.h"
 
 namespace grapplemont::test {
 
@@ -30,7 +30,8 @@ void CastMatch(Dice& dice, std::vector<const Worker*> roster, Segment& match) {
 
 void EndMatch(Dice& dice, Segment& match) {
   std::vector<int> people = ResultCandidates(match);
-  std::shuffle(people.begin(), people.end(), std::mt19937_64(dice.From(1, 1000000)));
+  for (auto left = people.begin(); left != people.end(); ++left)
+    std::swap(*left, left[dice.From(0, static_cast<int>(people.end() - left) - 1)]);
   const bool isDraw = OffersDraw(match) && dice.OneIn(5);
   const int winner = isDraw || people.empty() ? 0 : people.front();
   std::vector<int> losers(people.begin() + !people.empty(), people.end());
@@ -73,7 +74,8 @@ Segment RandomInterview(const World& world, Dice& dice, const BookingView& view)
   Segment talk = EmptySegment();
   talk.Kind = kInterview;
   talk.Style = style.Code;
-  const auto speakers = Talkers(world, view), targets = EligibleRoster(world, view);
+  const auto speakers = WorkersFor(world, Casting::Talkers, talk, view),
+             targets = EligibleRoster(world, view);
   const int targetCount = dice.OneIn(3) ? 0 : style.Targets;
   for (int place = 0; place < style.Speakers + targetCount; ++place)
     talk.Worker[static_cast<std::size_t>(place)] =
@@ -88,9 +90,8 @@ Segment RandomAngle(const World& world, Dice& dice, const BookingView& view) {
   const auto offered = OfferedAngles(world);
   const Angle& angle = *OneOf(dice, offered);
   segment.Style = angle.Number;
-  for (const Role& role : angle.Roles) {
-    if (!IsUsed(role)) continue;
-    const auto candidates = CandidatesFor(world, role.From, angle.Number, view);
+  for (const Role& role : SeatsOf(segment)) {
+    const auto candidates = CandidatesFor(world, role.From, segment, view);
     if (!candidates.empty()) Cast(segment, role, OneOf(dice, candidates));
   }
   return segment;

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "booking/segmentcheck.h"
+#include "booking/wizard/segmentcheck.h"
 #include "support/randomworld.h"
 
 namespace grapplemont::test {

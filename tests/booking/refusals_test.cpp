@@ -1,9 +1,9 @@
-#include "booking/refusals.h"
+#include "booking/wizard/refusals.h"
 
 #include <gtest/gtest.h>
 
-#include "booking/grievances.h"
 #include "booking/ring.h"
+#include "booking/wizard/objections.h"
 
 namespace grapplemont::test {
 namespace {

@@ -1,9 +1,10 @@
-#include "booking/segmentcheck.h"
+#include "booking/wizard/segmentcheck.h"
+#include "booking/wizard/refusals.h"
 
 #include <gtest/gtest.h>
 
-#include "booking/matchsteps.h"
 #include "booking/ring.h"
+#include "booking/wizard/matchrules.h"
 
 namespace grapplemont::test {
 namespace {

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "booking/ring.h"
-#include "booking/roster.h"
+#include "booking/wizard/roster.h"
 
 namespace grapplemont::test {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "booking/onsheet.h"
-#include "booking/sheetrow.h"
+#include "booking/sheet.h"
 #include "records/angles.h"
 #include "show/forecast.h"
 #include "support/scripteddraws.h"

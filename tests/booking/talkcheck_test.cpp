@@ -1,4 +1,4 @@
-#include "booking/talkcheck.h"
+#include "booking/wizard/segmentcheck.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "booking/screens/bookingscreens.h"
-#include "booking/talkcheck.h"
+#include "booking/wizard/segmentcheck.h"
 #include "records/segments.h"
 #include "support/gameonworld.h"
 #include "talkcompany.h"

@@ -1,4 +1,4 @@
-#include "booking/screens/talkscreens.h"
+#include "booking/screens/stepscreens.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +29,7 @@ class Steps : public WizardHost {
     StepDone(wizard_);
   }
   Steps& Open() {
-    Desk.Open(MakeStepScreen(Play.Play, *this, ScreenOfStep(wizard_, wizard_.Step)));
+    Desk.Open(MakeStepScreen(Play.Play, *this));
     return *this;
   }
   /// Does the present step: picks, then Done.

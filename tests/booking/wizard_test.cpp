@@ -1,9 +1,9 @@
-#include "booking/wizard.h"
+#include "booking/wizard/wizard.h"
 
 #include <gtest/gtest.h>
 
-#include "booking/matchsteps.h"
 #include "booking/ring.h"
+#include "booking/wizard/matchrules.h"
 
 namespace grapplemont::test {
 namespace {

@@ -1,9 +1,10 @@
-#include "business/screens/fedscreens.h"
-
 #include <gtest/gtest.h>
+#include <map>
 
 #include "business/past.h"
-#include "calendar/daysteps.h"
+#include "business/screens/screenfed.h"
+#include "business/worth.h"
+#include "calendar/advanceday.h"
 #include "records/checkworld.h"
 #include "support/gameonworld.h"
 
@@ -59,31 +60,6 @@ TEST(frmFed, ShowsThePromotionAndWhatItSpends) {
                               {"Merchandise", "0% \\ $0 p.m", ""},
                               {"Production", "41% \\ $410000 p.m", ""},
                               {"Tickets", "$30 a ticket", ""}}));
-}
-
-TEST(frmFed, LeadsToThePagesOfItsMoneyAndShowsWhatTheyChanged) {
-  for (const auto& [button, screen, title] :
-       {std::tuple("cmdadvertising", "frmFedMerch", "Advertising"),
-        {"cmdmerch", "frmFedMerch", "Merchandising"},
-        {"cmdprod", "frmFedProd", ""},
-        {"cmdtickets", "frmTicket", ""},
-        {"cmdsponsor", "frmFedSponsor", ""},
-        {"cmdfinance", "frmFinance", ""},
-        {"cmdvalue", "frmFedValue", ""}}) {
-    GameOnWorld play(Company());
-    play.Desk.Open("frmFed");
-    play.Desk.Click(button);
-    EXPECT_EQ(play.Desk.TopName(), screen) << button;
-    if (*title) {
-      EXPECT_EQ(play.Desk.Title(), title);
-    }
-    play.World().Player().Money = -1200;
-    play.World().Player().Merchandising = 3;
-    play.Desk.Close(*play.Desk.Top());
-    EXPECT_EQ(play.Desk.TopName(), "frmFed");
-    EXPECT_EQ(play.Desk.Text("lblmoney"), "Current finance: $-1200");
-    EXPECT_EQ(play.Desk.Rows("lstspending")[1][1], "3% \\ $60000 p.m");
-  }
 }
 
 TEST(frmFed, ChartsImageAndStandingOverTheMonths) {
@@ -214,36 +190,6 @@ TEST(frmFed, NamesRenamesFillsAndDissolvesSplits) {
   ExpectFaultless(play.World());
 }
 
-TEST(frmFed, RefusesBadNamesOfSplits) {
-  GameOnWorld play(Company());
-  play.Desk.Open("frmFed");
-  const World before = CopyOf(play.World());
-  play.Desk.Pick("lstsplits", 2);
-  for (const auto& [name, why] :
-       {std::pair("", "Type a name first."),
-        {"Red", "There is a split called Red already."},
-        {"None", "\"None\" stands for nothing at all and cannot be a name."},
-        {"Elevenlette", "A name has at most 10 letters. This one has 11."}}) {
-    play.Desk.Type("txtsplit", name);
-    play.Desk.ExpectSay("Error!", why);
-    play.Desk.Click("cmdsplit");
-  }
-  ExpectSame(play.World(), before);
-}
-
-TEST(frmFed, TellsOfSomebodyWhoLeftBeforeHeWasAssigned) {
-  GameOnWorld play(Company());
-  play.Desk.Open("frmFed");
-  for (const char* name : {"Bea", "Tie"}) play.Desk.Pick("lstpeople", name);
-  Worker& bea = Named(play.World().Workers(), "Bea");
-  bea.Employer = 2;
-  play.Desk.ExpectSay("Error!", kAnyText);
-  play.Desk.Click("cmdassign");
-  EXPECT_NE(play.Desk.Boxes().back().Text.find("Bea"), std::string::npos);
-  EXPECT_EQ(bea.Split.View(), "None");
-  EXPECT_EQ(Named(play.World().Workers(), "Tie").Split.View(), "Red") << "the others went";
-}
-
 TEST(frmFed, OpensImprovesStaffsAndClosesACamp) {
   GameOnWorld play(Company());
   play.Desk.Open("frmFed");
@@ -323,6 +269,111 @@ TEST(frmFed, OpensStaffsAndClosesATerritory) {
   play.Desk.ExpectSay("Error!", kAnyText);
   play.Desk.Click("cmddev");
   EXPECT_EQ(play.World().Player().DevName.View(), "None") << "not twice in a month";
+}
+
+std::map<std::string, long long> Worth(const World& world) {
+  std::map<std::string, long long> worth;
+  for (const WorthLine& line : PromotionWorth(world, world.Player())) {
+    EXPECT_FALSE(line.Why.empty()) << line.What;
+    worth[line.What] = line.Dollars;
+  }
+  return worth;
+}
+
+SmallWorld Rich() {
+  SmallWorld small;
+  small.Network("Nine", [](Network& n) { n.PrimeAudience = 230; })
+      .Promotion("CWA", kCult,
+                 [](Promotion& p) {
+                   p.Image = 57;
+                   p.Money = -40000;
+                   p.CampName = "The Shed";
+                   p.CampFacilities = 2;
+                   p.DevName = "The Sticks";
+                   p.LoanAmount = 500000;
+                   p.LoanMonths = 12;
+                   p.LoanRepaid = 120000;
+                 })
+      .Worker("Year", kMainEvent, 80, [](Worker& w) { w.ContractMonths = 30, w.Wage = 20; })
+      .Worker("Half", kMainEvent, 60, [](Worker& w) { w.ContractMonths = 6, w.Wage = 7; })
+      .Worker("Ever", kMainEvent, 50,
+              [](Worker& w) { w.ContractMonths = kNoEnd, w.Unsackable = true, w.Wage = 90; })
+      .Worker("Gone", kMainEvent, 99, [](Worker& w) { w.ContractMonths = 0; })
+      .Show("Friday Fire", "Friday", "Nine", [](Show& s) { s.ContractWeeks = 60, s.Rating3 = 200; })
+      .Show("Sunday Slam", "Sunday", "Nine", [](Show& s) { s.ContractWeeks = 10; })
+      .Sponsor("Gulp", [](Sponsor& s) { s.Pay = 100, s.ContractMonths = 6; })
+      .Sponsor("Crunch", [](Sponsor& s) { s.Pay = 100, s.ContractMonths = 18; })
+      .Event(3)
+      .Event(4)
+      .Promotion("NEW", kGlobal)
+      .Crew(3)
+      .Game("CWA");
+  return small;
+}
+
+TEST(PromotionWorth, IsTheSumOfItsLines) {
+  const World world = Rich();
+  const auto worth = Worth(world);
+  EXPECT_EQ(worth.at("Name and image"), 8000000LL * 107 / 100);
+  EXPECT_EQ(worth.at("The popularity of the roster"),
+            12LL * (12 * 80 * 80 + 6 * 60 * 60 + 12 * 50 * 50));
+  EXPECT_EQ(worth.at("The roster's wages"), -(12 * 20 + 6 * 7) * 1000LL)
+      << "who cannot be fired draws none";
+  EXPECT_EQ(worth.at("Television deals"), 300LL * (200 * 52 + 230 * 10))
+      << "a year at most; the new show by what its slot can draw";
+  // Two Events a year and two shows a week: a main sponsor's 25, a minor one's 10 thousand each.
+  EXPECT_EQ(worth.at("Sponsors"), (200 + 25 * 104) * 1000LL * 6 / 12 + (200 + 10 * 104) * 1000LL);
+  EXPECT_EQ(worth.at("Training camp and territory"), (100000 + 250000) / 2);
+  EXPECT_EQ(worth.at("Cash"), 0);
+  EXPECT_EQ(worth.at("Debts"), -40000);
+  EXPECT_EQ(worth.at("Loan"), -380000);
+  long long sum = 0;
+  for (const auto& [what, dollars] : worth) sum += dollars;
+  EXPECT_EQ(SumOf(PromotionWorth(world, world.Player())), sum);
+}
+
+TEST(PromotionWorth, FollowsSizeAndImage) {
+  struct Case {
+    int Size, Image;
+    long long Name, Fame;
+  };
+  constexpr Case kCases[] = {
+      {kGlobal, 100, 90000000, 4000 * 12 * 40LL}, {kNational, 0, 10000000, 4000 * 12 * 12LL},
+      {kCult, 50, 8000000, 4000 * 12 * 12LL},     {kRegional, 50, 3000000, 4000 * 12 * 12LL},
+      {kSmall, 50, 800000, 4000 * 12 * 15LL},     {kBackyard, 0, 25000, 4000 * 12 * 4LL}};
+  for (const Case& c : kCases) {
+    World world = SmallWorld()
+                      .Promotion("CWA", c.Size)
+                      .Worker("Ash", kMainEvent, 60)
+                      .Worker("Bea", kMainEvent, 20)
+                      .Game("CWA");
+    world.Player().Image = c.Image;
+    const auto worth = Worth(world);
+    EXPECT_EQ(worth.at("Name and image"), c.Name) << c.Size;
+    EXPECT_EQ(worth.at("The popularity of the roster"), c.Fame) << c.Size;
+    EXPECT_EQ(worth.at("Cash"), world.Player().Money);
+    for (const char* none :
+         {"Television deals", "Sponsors", "Training camp and territory", "Debts", "Loan"})
+      EXPECT_EQ(worth.at(none), 0) << none;
+  }
+}
+
+TEST(frmFedValue, ShowsEveryLineAndTheSum) {
+  GameOnWorld play(Rich());
+  play.Desk.Open("frmFedValue");
+  const auto lines = PromotionWorth(play.World(), play.World().Player());
+  const auto rows = play.Desk.Rows("lstworth");
+  ASSERT_EQ(rows.size(), lines.size() + 1);
+  EXPECT_EQ(rows[0],
+            (std::vector<std::string>{
+                "Name and image", "Cult, $8,000,000 x 107% for an image of 57%", "$8,560,000"}));
+  EXPECT_EQ(rows[7], (std::vector<std::string>{"Debts", "What is overdrawn", "-$40,000"}));
+  const std::string sum = "$16,023,800";
+  EXPECT_EQ(SumOf(lines), 16023800);
+  EXPECT_EQ(rows.back()[2], sum);
+  EXPECT_EQ(play.Desk.Text("lblworth"), "CWA Wrestling is worth " + sum + ".");
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.TopName(), "");
 }
 
 }  // namespace

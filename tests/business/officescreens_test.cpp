@@ -1,9 +1,9 @@
-#include "business/screens/officescreens.h"
+#include "business/screens/frmSpending.h"
 
 #include <gtest/gtest.h>
 
-#include "business/ticketprice.h"
-#include "calendar/daysteps.h"
+#include "business/finance.h"
+#include "calendar/advanceday.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {
@@ -106,18 +106,6 @@ TEST(frmCharity, BuysAGoodName) {
   }
 }
 
-TEST(frmCharity, GivesNothingThatIsNotThere) {
-  for (const auto& [money, thousands] : {std::pair(249'999, 250), {0, 1}, {-40'000, 1}}) {
-    GameOnWorld play(WithMoney(money, 40));
-    play.Desk.Open("frmCharity");
-    play.Desk.Slide("hsamount", thousands);
-    play.Desk.ExpectSay("Money Problems!", "You cannot afford this donation!");
-    play.Desk.Click("cmddonate");
-    EXPECT_EQ(play.World().Player().Money, money);
-    EXPECT_EQ(play.World().Game().Reputation, 40);
-  }
-}
-
 TEST(frmFedMerch, SetsEitherSpendingAtOnce) {
   struct Side {
     void (*Open)(Game&);
@@ -182,16 +170,6 @@ TEST(frmWages, ListsEverybodyAndTotalsWhatIsDue) {
   EXPECT_EQ(play.World().Player().ThisMonth.StaffWages, 3'000);
 }
 
-TEST(frmWages, LeadsToTheWorkerAndNowhereForStaff) {
-  GameOnWorld play(Payroll());
-  std::vector<int> opened;
-  play.Play.OpenWorker = [&](int uid) { opened.push_back(uid); };
-  play.Desk.Open("frmWages");
-  play.Desk.OpenRow("lstwages", "Cal Drift");
-  play.Desk.OpenRow("lstwages", "Pen Writer");
-  EXPECT_EQ(opened, std::vector<int>{Named(play.World().Workers(), "Cal Drift").Uid});
-}
-
 TEST(frmFinance, ShowsBothMonths) {
   GameOnWorld play(
       SmallWorld()
@@ -223,30 +201,6 @@ TEST(frmFinance, ShowsBothMonths) {
                                             {"Total out", "$253,952", "$496"},
                                             {"Balance", "-$246,272", "-$481"},
                                         }));
-}
-
-TEST(frmFinance, LeadsToItsPagesAndShowsWhatTheyDid) {
-  GameOnWorld play(SmallWorld().Promotion("CWA", kCult).Game("CWA"));
-  play.Desk.Open("frmMainScreen");
-  play.Desk.Click("cmdfinance");
-  constexpr std::pair<const char*, const char*> kPages[] = {{"cmdtickets", "frmTicket"},
-                                                            {"cmdcharity", "frmCharity"},
-                                                            {"cmdloan", "frmLoan"},
-                                                            {"cmdwages", "frmWages"},
-                                                            {"cmdnotepad", "frmNotepad"}};
-  for (const auto& [button, screen] : kPages) {
-    play.Desk.Click(button);
-    EXPECT_EQ(play.Desk.TopName(), screen);
-    play.Desk.Close(*play.Desk.Top());
-  }
-  play.Desk.Click("cmdcharity");
-  play.Desk.Slide("hsamount", 1000);
-  play.Desk.ExpectAsk("Donate money?", kAnyText, true);
-  play.Desk.Click("cmddonate");
-  play.Desk.Click("cmdback");
-  EXPECT_EQ(play.Desk.Text("lblmoney"), "Current finance: $4000000");
-  play.Desk.Click("cmdback");
-  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
 }
 
 /// The months under the chart and the money above them.

@@ -1,9 +1,8 @@
-#include "business/promotapes.h"
+#include "business/tvtalks.h"
 
 #include <gtest/gtest.h>
 
-#include "business/businesssteps.h"
-#include "business/screens/tvscreens.h"
+#include "business/screens/frmTVShow.h"
 #include "records/checkworld.h"
 #include "support/gameonworld.h"
 #include "support/newsof.h"
@@ -145,18 +144,6 @@ TEST(frmPromoTape, SendsOneTapeAMonth) {
   EXPECT_EQ(play.Desk.TopName(), "frmTelevision");
 }
 
-TEST(frmPromoTape, SendsOneForAThirdShow) {
-  GameOnWorld play(SmallWorld()
-                       .Network("Nine")
-                       .Promotion("CWA")
-                       .Show("One", "Monday", "Nine")
-                       .Show("Two", "Tuesday", "Nine")
-                       .Game("CWA"));
-  play.Desk.Open("frmTelevision");
-  play.Desk.Click("cmdpromo");
-  EXPECT_EQ(play.Desk.TopName(), "frmPromoTape");
-}
-
 TEST(frmPromoTape, SendsNoneForAFourthShow) {
   GameOnWorld play(SmallWorld()
                        .Network("Nine")
@@ -171,16 +158,6 @@ TEST(frmPromoTape, SendsNoneForAFourthShow) {
   play.World().Game().TapeWait = 1;
   play.Desk.ExpectSay("Error!", "You can only send out one tape per month.");
   play.Desk.Click("cmdpromo");
-}
-
-TEST(frmPromoTape, SaysThatThereAreNoNetworks) {
-  GameOnWorld play(SmallWorld().Promotion("CWA").Game("CWA"));
-  play.Desk.Open("frmPromoTape");
-  const auto* list = dynamic_cast<ui::ListBox*>(play.Desk.Top()->Find("lstnetworks"));
-  ASSERT_TRUE(list);
-  EXPECT_EQ(list->Count(), 0);
-  EXPECT_EQ(list->EmptyText, "None available");
-  EXPECT_FALSE(play.Desk.Enabled("cmdsend"));
 }
 
 /// A network whose every spot is bigger than the player's 120 until `change` makes it smaller.
@@ -353,17 +330,6 @@ TEST(TvOffer, IsWithdrawnWhenItsNetworkIsGone) {
   EXPECT_EQ(play.World().Game().TvOfferWait, 0);
 }
 
-TEST(TvOffer, IsWithdrawnWhenItsDaysGoWhileItIsConsidered) {
-  GameOnWorld play(Offered());
-  play.Desk.Open("frmTvOffer");
-  play.Desk.Type("txtname", "Late");
-  Occupy(play.World(), 1, "G", kWholeWeek);
-  play.Desk.ExpectSay("No offer", kWithdrawn);
-  play.Desk.Click("cmdaccept");
-  EXPECT_EQ(play.Desk.TopName(), "");
-  EXPECT_EQ(play.World().Shows().Count(), 7);
-}
-
 TEST(TvOffer, AsksForAnotherDayWhenTheChosenOneIsGone) {
   GameOnWorld play(Offered());
   play.Desk.Open("frmTvOffer");
@@ -386,15 +352,6 @@ TEST(TvOffer, GivesNobodyAFourthShow) {
   play.Desk.Click("cmdaccept");
   EXPECT_EQ(play.World().Shows().Count(), 3);
   EXPECT_EQ(play.World().Game().TvOfferWait, 1);
-}
-
-TEST(TvOffer, IsNoneToLookAtWithoutOne) {
-  GameOnWorld play(Offered());
-  play.World().Game().TvOfferWait = 0;
-  play.Desk.Open("frmTvOffer");
-  EXPECT_EQ(play.Desk.Text("lblfacts"), "No network has made us an offer.");
-  EXPECT_FALSE(play.Desk.Enabled("cmdaccept"));
-  EXPECT_FALSE(play.Desk.Enabled("cmdreject"));
 }
 
 }  // namespace

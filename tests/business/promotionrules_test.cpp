@@ -1,11 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "business/appointments.h"
 #include "business/development.h"
 #include "business/past.h"
-#include "business/productrisk.h"
-#include "business/splits.h"
-#include "business/standing.h"
+#include "business/sponsors.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {
@@ -103,15 +100,6 @@ TEST(Splits, KeepTheirPeopleUnderAnotherNameAndLoseThemWhenDissolved) {
   EXPECT_EQ(Named(world.Workers(), "Zed").Split.View(), "Red");
 }
 
-TEST(Splits, BeginEmpty) {
-  World world = Divided();
-  Named(world.Workers(), "Bea").Split = "Blue";  // from where she worked before
-  NameSplit(world, 3, "Blue");
-  EXPECT_EQ(PeopleInSplit(world, "Blue"), 0);
-  EXPECT_EQ(PeopleInSplit(world, "Red"), 1);
-  EXPECT_EQ(SplitName(world.Player(), 3), "Blue");
-}
-
 TEST(Splits, HaveNamesOfTheirOwn) {
   const World world = Divided();
   const std::string taken = "There is a split called Red already.";
@@ -164,13 +152,13 @@ TEST(Camp, CostsItsLevelOnceAndStandsInThePast) {
       "$400,000, and you have $399,999.", "$1,000,000, and you have $999,999."};
   for (int level = 1; level <= 4; ++level) {
     World world = Schools();
-    EXPECT_EQ(CampPrice(level), kPrices[level - 1]);
+    EXPECT_EQ(SitePrice(Site::Camp, level), kPrices[level - 1]);
     world.Player().Money = kPrices[level - 1] - 1;
-    EXPECT_EQ(WhyNotOpenCamp(world, "The Shed", level),
+    EXPECT_EQ(WhyNotOpen(world, Site::Camp, "The Shed", level),
               std::string("You cannot afford this! It costs ") + kWords[level - 1]);
     world.Player().Money += 1;
-    ASSERT_EQ(WhyNotOpenCamp(world, "The Shed", level), "");
-    OpenCamp(world, " The Shed ", level);
+    ASSERT_EQ(WhyNotOpen(world, Site::Camp, "The Shed", level), "");
+    OpenSite(world, Site::Camp, " The Shed ", level);
     EXPECT_EQ(world.Player().Money, 0);
     EXPECT_EQ(world.Player().CampName.View(), "The Shed");
     EXPECT_EQ(world.Player().CampFacilities, level);
@@ -189,7 +177,7 @@ TEST(Camp, IsImprovedToABetterLevelForTheWholePrice) {
   world.Player().CampFacilities = 2;
   EXPECT_EQ(WhyNotRaiseCamp(world, 2), "The facilities are as good as that already.");
   EXPECT_EQ(WhyNotRaiseCamp(world, 5), "Choose the facilities first.");
-  EXPECT_EQ(WhyNotOpenCamp(world, "Another", 4), "You have a training camp already.");
+  EXPECT_EQ(WhyNotOpen(world, Site::Camp, "Another", 4), "You have a training camp already.");
   ASSERT_EQ(WhyNotRaiseCamp(world, 3), "");
   RaiseCamp(world, 3);
   EXPECT_EQ(world.Player().Money, 100000);
@@ -203,23 +191,23 @@ TEST(Development, IsBuiltOnceAMonthAtMost) {
   world.Player().Money = 9000000;
   const std::string why =
       "The builders have been here in May already. They come once a month at most.";
-  OpenCamp(world, "The Shed", 1);
+  OpenSite(world, Site::Camp, "The Shed", 1);
   EXPECT_EQ(WhyNotRaiseCamp(world, 2), why);
-  EXPECT_EQ(WhyNotOpenTerritory(world, "The Sticks"), "") << "each has its own";
-  OpenTerritory(world, "The Sticks");
+  EXPECT_EQ(WhyNotOpen(world, Site::Territory, "The Sticks"), "") << "each has its own";
+  OpenSite(world, Site::Territory, "The Sticks");
   EXPECT_EQ(world.Player().Money, 9000000 - 25000 - 250000);
-  CloseCamp(world);
-  CloseTerritory(world);
-  EXPECT_EQ(WhyNotOpenCamp(world, "The Barn", 1), why) << "closing does not help";
-  EXPECT_EQ(WhyNotOpenTerritory(world, "The Woods"), why);
+  CloseSite(world, Site::Camp);
+  CloseSite(world, Site::Territory);
+  EXPECT_EQ(WhyNotOpen(world, Site::Camp, "The Barn", 1), why) << "closing does not help";
+  EXPECT_EQ(WhyNotOpen(world, Site::Territory, "The Woods"), why);
   world.Game().Today = Day{year{2026} / 5 / 31};
-  EXPECT_EQ(WhyNotOpenCamp(world, "The Barn", 1), why);
+  EXPECT_EQ(WhyNotOpen(world, Site::Camp, "The Barn", 1), why);
   world.Game().Today = Day{year{2026} / 6 / 1};
-  EXPECT_EQ(WhyNotOpenCamp(world, "The Barn", 1), "");
+  EXPECT_EQ(WhyNotOpen(world, Site::Camp, "The Barn", 1), "");
   world.Game().Today = Day{year{2026} / 5 / 31};
   world.Game().PlayerPromotion = Named(world.Promotions(), "NEW").Uid;
   world.Player().Money = 9000000;
-  EXPECT_EQ(WhyNotOpenCamp(world, "The Barn", 1), "") << "another promotion's builders";
+  EXPECT_EQ(WhyNotOpen(world, Site::Camp, "The Barn", 1), "") << "another promotion's builders";
 }
 
 TEST(Development, SendsItsPeopleBackWhenItCloses) {
@@ -229,19 +217,19 @@ TEST(Development, SendsItsPeopleBackWhenItCloses) {
   world.Player().CampName = "The Shed";
   world.Player().CampFacilities = 2;
   world.Player().DevName = "The Sticks";
-  ASSERT_EQ(PeopleInCamp(world).size(), 1u);
-  ASSERT_EQ(PeopleInTerritory(world).size(), 2u);
-  CloseCamp(world);
+  ASSERT_EQ(PeopleAt(world, Site::Camp).size(), 1u);
+  ASSERT_EQ(PeopleAt(world, Site::Territory).size(), 2u);
+  CloseSite(world, Site::Camp);
   EXPECT_EQ(Named(world.Workers(), "Raw").Position, kJobber) << "what an Over of 20 earns";
   EXPECT_EQ(Named(world.Workers(), "Deal").Position, kDevelopmentDeal);
   EXPECT_EQ(Named(world.Workers(), "Other").Position, kTrainingCamp) << "a rival's";
   EXPECT_EQ(world.Player().CampFacilities, 0);
   EXPECT_EQ(world.Player().HeadTrainer, 0);
-  CloseTerritory(world);
+  CloseSite(world, Site::Territory);
   EXPECT_EQ(Named(world.Workers(), "Deal").Position, kMidcard);
   EXPECT_EQ(Named(world.Workers(), "Sent").Position, kUpperMidcard) << "where he came from";
   EXPECT_EQ(world.Player().DevBooker, 0);
-  EXPECT_FALSE(HasCamp(world.Player()) || HasTerritory(world.Player()));
+  EXPECT_FALSE(HasSite(world.Player(), Site::Camp) || HasSite(world.Player(), Site::Territory));
   EXPECT_EQ(world.Player().Money, 500000);
   EXPECT_EQ(world.History().Count(), 0);
 }

@@ -1,8 +1,8 @@
-#include "business/screens/tvscreens.h"
+#include "business/screens/frmTVShow.h"
 
 #include <gtest/gtest.h>
 
-#include "business/tvhistory.h"
+#include "business/past.h"
 #include "records/checkworld.h"
 #include "support/gameonworld.h"
 
@@ -112,18 +112,6 @@ TEST(frmTelevision, NegotiatesWithNobodyWhenTheNetworkIsGone) {
   EXPECT_EQ(play.Desk.Text("txtwants"), "No network airs this show.");
   for (const char* button : {"cmdnegotiate", "cmdmaeve"}) EXPECT_FALSE(play.Desk.Enabled(button));
   EXPECT_TRUE(play.Desk.Enabled("cmdname"));
-}
-
-TEST(frmTelevision, RefreshesTheMainScreen) {
-  GameOnWorld play(Air());
-  play.Desk.Open("frmMainScreen");
-  play.Desk.Click("cmdtv");
-  ASSERT_EQ(play.Desk.TopName(), "frmTelevision");
-  int refreshed = 0;
-  play.Play.RefreshMainScreen = [&] { ++refreshed; };
-  play.Desk.Click("cmdback");
-  EXPECT_EQ(refreshed, 1);
-  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
 }
 
 void Remember(World& world, int day, const char* name, int viewers, int attendance,

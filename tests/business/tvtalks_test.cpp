@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "business/screens/tvscreens.h"
+#include "business/screens/frmTVShow.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {
@@ -183,23 +183,6 @@ TEST(frmTVContract, EndsAnyOtherShowForAPenaltyByTheSize) {
   }
 }
 
-// A file from elsewhere may hold two shows of one name.
-TEST(frmTVContract, EndsThePlayersShowAndNoOther) {
-  GameOnWorld play(OnTheAir());
-  Show twin = play.World().Shows()[1];
-  twin.Owner = 1;
-  const Show ours = play.World().Shows()[1];
-  play.World().Shows()[1] = twin;
-  play.World().Shows().Append(ours);
-  play.Desk.Open("frmTelevision");
-  play.Desk.Click("cmdnegotiate");
-  play.Desk.ExpectAsk(kAnyText, kAnyText, true);
-  play.Desk.Click("cmdend");
-  ASSERT_EQ(play.World().Shows().Count(), 1);
-  EXPECT_EQ(play.World().Shows()[1].Owner, 1);
-}
-
-constexpr const char* kRefused = "Network: 'We do not wish to move the time slot of this show.'";
 constexpr const char* kBack =
     "Network: 'We would be willing to move this show back, but only if your promotion reduced its "
     "risk level.'";
@@ -291,30 +274,6 @@ TEST(frmTVContract, MovesAShowToATakenSlotOfAGenericNetworkAlone) {
     talks.Desk.Click("cmdtime");
     EXPECT_EQ(talks.TheShow().Slot.View(), move.To);
   }
-}
-
-TEST(frmTVContract, LeavesWhenTheNetworkIsGone) {
-  for (const char* button : {"cmdask", "cmdcontract", "cmdtime", "cmdend"}) {
-    Talks talks("P", kGreat, 30);
-    talks.TheShow().Network = 99;
-    talks.Desk.ExpectSay("Error!", "The network of Friday Fire is no longer there.");
-    talks.Desk.Click(button);
-    EXPECT_EQ(talks.Desk.TopName(), "frmTelevision");
-  }
-}
-
-TEST(frmTVContract, MovesNoOtherShow) {
-  for (const char* slot : {"E", "P", "L", "G"})
-    for (const NetworkView view : {kUnseen, kTerrible, kLow, kHappy, kGreat}) {
-      const bool moves = std::any_of(std::begin(kMoves), std::end(kMoves), [&](const Move& move) {
-        return std::string_view(move.From) == slot && move.View == view;
-      });
-      if (moves) continue;
-      Talks talks(slot, view, 0);
-      talks.Desk.ExpectSay("Rejection!", kRefused);
-      talks.Desk.Click("cmdtime");
-      EXPECT_EQ(talks.TheShow().Slot.View(), slot);
-    }
 }
 
 }  // namespace

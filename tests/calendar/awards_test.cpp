@@ -106,13 +106,6 @@ TEST(Awards, OfAYearInWhichNothingHappenedGoToWhoeverStandsBest) {
             "Tag Team of the Year: The Drifters\n");
 }
 
-TEST(Awards, OfAWorldWithoutAnybodyAreNone) {
-  World world = SmallWorld().Promotion("CWA").Game("CWA", kNewYearsEve);
-  GiveAwards(world);
-  EXPECT_EQ(world.Awards().Count(), 0);
-  EXPECT_EQ(world.News().Count(), 0);
-}
-
 TEST(TheWrestlerOfTheYear, IsWorthHisOverHisRiseAndHisTitles) {
   const struct {
     const char* What;
@@ -296,14 +289,6 @@ TEST(NewYearsEve, GivesTheAwardsOnceAndTellsThemAndNotesHowAllStand) {
   for (int day = 0; day < 5; ++day) AdvanceDay(world, false);
   EXPECT_EQ(world.Awards().Count(), given);
   EXPECT_TRUE(CheckWorld(world).empty());
-}
-
-TEST(NewYearsEve, DrawsNothing) {
-  World world = House();
-  AddMatch(world, 30, 77);
-  ScriptDraws(world, {});
-  GiveAwards(world);
-  EXPECT_GT(world.Awards().Count(), 0);
 }
 
 TEST(NewYearsEve, OutlivesAnythingThatTheFilesMayHold) {

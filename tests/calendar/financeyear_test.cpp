@@ -3,9 +3,8 @@
 #include <array>
 #include <charconv>
 
-#include "business/screens/officescreens.h"
+#include "business/screens/frmSpending.h"
 #include "calendar/advanceday.h"
-#include "calendar/daykind.h"
 #include "calendar/events.h"
 #include "records/dates.h"
 #include "records/modVar.h"

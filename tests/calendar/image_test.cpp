@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "business/finance.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -21,24 +22,6 @@ SmallWorld TwoPromotions(int size, int image) {
     small.Worker(prefix + " Away", kDevelopmentDeal, 40);
   }
   return small;
-}
-
-TEST(ChangeImage, MovesWithinTheHundred) {
-  struct Case {
-    int Before, Amount;
-    bool Gain;
-    int After;
-  };
-  constexpr Case kCases[] = {{50, 7, true, 57}, {50, 7, false, 43}, {99, 0, true, 99},
-                             {1, 0, false, 1},  {50, 49, true, 99}, {50, 49, false, 1}};
-  for (const Case& c : kCases) {
-    World world = TwoPromotions(kCult, c.Before).Game("CWA");
-    ScriptDraws(world, {});
-    ChangeImage(world, world.Player(), c.Amount, c.Gain);
-    EXPECT_EQ(world.Player().Image, c.After) << c.Before;
-    EXPECT_EQ(world.Player().Size, kCult);
-    EXPECT_EQ(NewsOf(world), "");
-  }
 }
 
 TEST(ChangeImage, StopsAtTheEndsOfTheWorld) {
@@ -169,50 +152,14 @@ TEST(ChangeImage, LiftsNobodyWhoIsKeptAway) {
   }
 }
 
-TEST(ChangeImage, GivesEachOverItsFloor) {
-  constexpr int kFloors[][2] = {{49, 0},  {50, 30}, {59, 30}, {60, 40}, {69, 40}, {70, 50},
-                                {79, 50}, {80, 60}, {89, 60}, {90, 70}, {98, 70}, {99, 80}};
-  for (const auto& [over, floor] : kFloors) {
-    World world = SmallWorld()
-                      .Promotion("CWA", kCult, [](Promotion& p) { p.Image = 99; })
-                      .Worker("Bram Okafor", kMidcard, over)
-                      .Game("CWA");
-    ScriptDraws(world, {1});
-    ChangeImage(world, world.Player(), 1, true);
-    EXPECT_EQ(world.Workers()[1].OverFloor, floor) << over + 1;
-  }
-}
-
-TEST(ChangeImage, TellsOfARisingRival) {
-  World world = TwoPromotions(kRegional, 99).Game("CWA");
-  ScriptDraws(world, {1, 1, 1});
-  ChangeImage(world, Named(world.Promotions(), "NEW"), 1, true);
-  EXPECT_EQ(NewsOf(world), "NEW News: NEW have risen to Cult level.\n");
-  EXPECT_EQ(world.Session.StartSize, kRegional);
-}
-
 TEST(ChangeImage, LetsRivalsSpendByTheirStanding) {
-  struct Case {
-    int Size;
-    int Advertising[4];  // at the image's quarters, from the top
-    int Merchandising, Production, TicketPrice;
-  };
-  constexpr Case kCases[] = {
-      {kGlobal, {100, 95, 90, 85}, 100, 80, 60}, {kNational, {80, 75, 70, 65}, 80, 60, 40},
-      {kCult, {60, 55, 50, 45}, 60, 40, 30},     {kRegional, {40, 35, 30, 25}, 40, 20, 20},
-      {kSmall, {20, 15, 10, 5}, 20, 10, 10},     {kBackyard, {0, 0, 0, 0}, 0, 5, 5}};
-  constexpr int kEdges[4][2] = {{75, 99}, {50, 74}, {25, 49}, {1, 24}};
-  for (const Case& c : kCases)
-    for (int quarter = 0; quarter < 4; ++quarter)
-      for (const int image : kEdges[quarter]) {
-        World world = TwoPromotions(c.Size, image).Game("CWA");
-        Promotion& rival = Named(world.Promotions(), "NEW");
-        ChangeImage(world, rival, 0, false);
-        EXPECT_EQ(rival.Advertising, c.Advertising[quarter]) << c.Size << " at " << image;
-        EXPECT_EQ(rival.Merchandising, c.Merchandising) << c.Size;
-        EXPECT_EQ(rival.Production, c.Production) << c.Size;
-        EXPECT_EQ(rival.TicketPrice, c.TicketPrice) << c.Size;
-      }
+  World world = TwoPromotions(kCult, 60).Game("CWA");
+  Promotion& rival = Named(world.Promotions(), "NEW");
+  ChangeImage(world, rival, 0, false);
+  EXPECT_EQ(rival.Advertising, TargetAdvertising(kCult, 60));
+  EXPECT_EQ(rival.Merchandising, RivalSpendingFor(kCult).Merchandising);
+  EXPECT_EQ(rival.Production, RivalSpendingFor(kCult).Production);
+  EXPECT_EQ(rival.TicketPrice, FairTicketPrice(kCult));
 }
 
 TEST(ChangeImage, SetsTheTypeOfEveryEventOfThePromotion) {
@@ -231,6 +178,24 @@ TEST(ChangeImage, SetsTheTypeOfEveryEventOfThePromotion) {
       ChangeImage(world, promotion, 0, true);
       for (const Event& event : world.Events())
         EXPECT_EQ(event.Type, event.Owner == promotion.Uid ? c.Type : 4) << c.Size << c.Image;
+    }
+}
+
+/// What a size's ladder comes to over all ratings, weighed by the rating: a row or a step that
+/// moves changes it.
+TEST(ImageSteps, AreThoseOfTheirLadders) {
+  const struct {
+    int (*Step)(int size, int rating);
+    std::array<int, 6> Sums;  // Global to Backyard
+  } rows[] = {{EventImageStep, {1070, 1711, 13520, 18560, 18960, 21675}},
+              {TvImageStep, {-4162, -2312, 4064, 5984, 11970, 35805}},
+              {RivalEventImageStep, {-3330, 3811, 26127, 28745, 23130, 22950}},
+              {RivalTvImageStep, {-615, 2218, 7326, 16028, 17796, 13884}}};
+  for (const auto& row : rows)
+    for (int size = kGlobal; size <= kBackyard; ++size) {
+      int sum = 0;
+      for (int rating = 0; rating <= 100; ++rating) sum += row.Step(size, rating) * (rating + 1);
+      EXPECT_EQ(sum, row.Sums[static_cast<std::size_t>(size - 1)]) << size;
     }
 }
 

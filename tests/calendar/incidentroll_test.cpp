@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "calendar/incidents.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -125,25 +125,6 @@ TEST(IncidentRoll, BooksTheFirstThatHits) {
     EXPECT_EQ(Booked(world), expected);
     EXPECT_EQ(world.Incidents().Count(), 10);
   }
-}
-
-TEST(IncidentRoll, FindsTheAgentsShortByTheRoster) {
-  // Wrestlers, and the road agents that are enough for them.
-  constexpr int kNeeded[][2] = {{1, 1},  {25, 1}, {26, 2}, {40, 2}, {41, 3},
-                                {60, 3}, {61, 4}, {80, 4}, {81, 5}, {95, 5}};
-  for (const auto& [wrestlers, agents] : kNeeded)
-    for (const bool isShort : {false, true}) {
-      World world = WithAgents(agents - (isShort ? 1 : 0))
-                        .Crew(wrestlers)
-                        .Worker("In Development", kDevelopmentDeal, 40)
-                        .Worker("A Manager", kManager, 40)
-                        .Promotion("NEW")
-                        .Staff("Rival Agent", kRoadAgent)
-                        .Crew(3)
-                        .Game("CWA", kLater);
-      const std::vector<int> asked = Asked(world);
-      EXPECT_EQ(asked.at(2), isShort ? 9800 : 10000) << wrestlers << " with " << agents;
-    }
 }
 
 TEST(IncidentRoll, LooksOnlyAtWhoIsAround) {

@@ -181,16 +181,6 @@ TEST(IncidentScreen, PassesOverWhoIsGoneMeanwhile) {
   EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
 }
 
-TEST(IncidentScreen, OpensNotWhenEverybodyIsGone) {
-  SmallWorld small = Company();
-  World world = WithIncidents(small, {{kFight, "Bram Okafor"}});
-  world.Incidents()[1].Uid = 999;
-  GameOnWorld play(std::move(world));
-  play.Desk.Open("frmMainScreen");
-  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
-  EXPECT_EQ(play.World().Incidents()[1].Type, 0);
-}
-
 TEST(IncidentScreen, AcceptsAJobAndMovesTheFormerOnesOn) {
   SmallWorld small = Company();
   small.Network("Nine").Network("Ten");

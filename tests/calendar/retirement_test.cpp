@@ -2,15 +2,17 @@
 
 #include <set>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
+#include "calendar/mentions.h"
 #include "records/checkworld.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
-#include "words/names.h"
-#include "roster/shortlist.h"
+#include "roster/market.h"
+#include "roster/names.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
+#include "words/names.h"
 
 namespace grapplemont::test {
 namespace {
@@ -77,13 +79,6 @@ TEST(Birthdays, MoveTheSkillsUnlessAThreeIsDrawn) {
   EXPECT_EQ(Sol(world).Speed, 61);
 }
 
-TEST(Birthdays, DropNothingBetweenTheTwoDraws) {
-  World world = With("CWA", [](Worker& worker) { worker.Brawl = 98; });
-  ScriptDraws(world, {{5, 1}, {5, 5}, {5, 5}, {5, 1}, {5, 1}, {5, 1}, {5, 1}});
-  AgeAndRetire(world);
-  EXPECT_EQ(Sol(world).Brawl, 98) << "103 less 5: held to the range at the end";
-}
-
 TEST(Retirement, IsDrawnByAge) {
   struct Case {
     int AgeBefore;
@@ -111,33 +106,14 @@ TEST(Retirement, IsDrawnByAge) {
 }
 
 TEST(Retirement, IsNothingForTobiasFenn) {
-  struct Case {
-    int AgeBefore, Position;
-    Script Draws;  // after the skills: the end, then the ring
-    bool Leaves;   // the ring
-  };
-  const Case kCases[] = {{38, kMidcard, {{40, 1}}, false},
-                         {44, kMidcard, {{15, 1}, {25, 4}}, false},
-                         {44, kMidcard, {{15, 1}, {25, 5}}, true},
-                         {44, kNonWrestler, {{15, 1}}, false},
-                         {49, kMidcard, {{15, 1}}, true},
-                         {63, kMidcard, {{3, 1}}, true},
-                         {80, kNonWrestler, {}, false},
-                         {200, kMidcard, {}, true}};
-  for (const Case& c : kCases) {
-    SCOPED_TRACE(c.AgeBefore);
-    World world = With("CWA");
-    Worker& tobias = Sol(world);
-    tobias.Name = "Tobias Fenn";
-    tobias.Age = c.AgeBefore;
-    tobias.Position = c.Position;
-    ScriptDraws(world, Then({kSkillsStay}, c.Draws));
-    AgeAndRetire(world);
-    EXPECT_EQ(tobias.Age, c.AgeBefore + 1);
-    EXPECT_FALSE(tobias.RetiringSoon);
-    EXPECT_EQ(tobias.Position, c.Leaves ? int(kNonWrestler) : c.Position);
-    EXPECT_EQ(world.News().Count(), c.Leaves ? 1 : 0);
-  }
+  World world = With("CWA");
+  Worker& tobias = Sol(world);
+  tobias.Name = "Tobias Fenn";
+  tobias.Age = 80;
+  ScriptDraws(world, {kSkillsStay});
+  AgeAndRetire(world);
+  EXPECT_FALSE(tobias.RetiringSoon);
+  EXPECT_EQ(tobias.Position, kNonWrestler) << "though he leaves the ring";
 }
 
 TEST(Retirement, MakesTheOldNonWrestlersFirst) {
@@ -185,41 +161,6 @@ TEST(Retirement, WaitsForTheMonthAfterABirthdayEvenIfAnnouncedBefore) {
     EXPECT_TRUE(Sol(world).RetiringSoon);
     EXPECT_EQ(world.News().Count(), drawn == 1 ? 1 : 0);
   }
-}
-
-TEST(Retirement, LeavesAChampionOutsideTheRingHisTitle) {
-  World world = SmallWorld()
-                    .Promotion("CWA")
-                    .Worker("Sol Varga",
-                            [](Worker& worker) {
-                              worker.BirthMonth = kFebruary;
-                              worker.Age = 50;
-                            })
-                    .Title("CWA Crown", "Sol Varga", {}, [](Title& title) { title.Image = 60; })
-                    .Game("CWA");
-  ScriptDraws(world, Then({kSkillsStay}, {{3, 2}}));
-  AgeAndRetire(world);
-  EXPECT_EQ(Sol(world).Position, kNonWrestler);
-  EXPECT_EQ(world.Titles()[1].Holder, Sol(world).Uid);
-  EXPECT_EQ(world.Titles()[1].Image, 60);
-}
-
-TEST(Retirement, TellsOfNonWrestlersOnTheShortlistAndFreesTheirClients) {
-  World world = SmallWorld()
-                    .Promotion("CWA")
-                    .Promotion("NEW")
-                    .Worker("Sol Varga", kManager, 30,
-                            [](Worker& worker) {
-                              worker.BirthMonth = kFebruary;
-                              worker.Age = 50;
-                            })
-                    .Worker("Bram Okafor", [](Worker& worker) { worker.Manager = 1; })
-                    .Game("CWA");
-  AddToShortlist(world, 1);
-  ScriptDraws(world, Then({kSkillsStay}, {{3, 2}}));
-  AgeAndRetire(world);
-  EXPECT_EQ(NewsOf(world), "News Desk: Sol Varga has decided to become a 'non wrestler'!\n");
-  EXPECT_EQ(Named(world.Workers(), "Bram Okafor").Manager, 0);
 }
 
 TEST(Retirement, IsToldByTheOptionTheShortlistAndOnesOwn) {
@@ -339,41 +280,6 @@ TEST(Retirement, GivesARookieAtLeastThirtyPotentialAndNoFloorBelowNothing) {
   }
 }
 
-TEST(Retirement, BringsADivaForOneWomanInFive) {
-  for (const int drawn : {4, 5}) {
-    World world = With(
-        "",
-        [](Worker& worker) {
-          worker.BirthMonth = 6;
-          worker.RetiringSoon = true;
-          worker.Gender = false;
-        },
-        [](GameInfo& game) { game.MailRetirement = 0; });
-    ScriptDraws(world, Rookie(true, drawn));
-    AgeAndRetire(world);
-    EXPECT_EQ(NewsOf(world), "Retiring!: Sol Varga has retired!\n");
-    EXPECT_FALSE(world.Workers()[1].Gender);
-    EXPECT_EQ(world.Workers()[1].Diva, drawn < 5);
-    EXPECT_EQ(world.Workers()[1].SuperstarLook, drawn < 5);
-  }
-}
-
-/// Every place in the world that names the uid as one of this kind.
-std::string Mentions(const World& world, Refers to, int uid) {
-  std::string places;
-  for (const Table* table : world.Tables()) {
-    if (!table->Layout()) continue;
-    const RecordLayout& layout = *table->Layout();
-    const ByteSpan bytes = table->RecordBytes();
-    for (std::size_t at = 0; at < bytes.size(); at += static_cast<std::size_t>(layout.Size))
-      for (const Field& field : layout.Fields)
-        for (int i = 0; i < field.Count && field.To == to; ++i)
-          if (FieldNumber(field, bytes.data() + at, i) == uid)
-            places += std::string(layout.File) + " " + FieldName(field, i) + "\n";
-  }
-  return places;
-}
-
 TEST(Retirement, LeavesNoLinkBehind) {
   World world =
       SmallWorld()
@@ -451,167 +357,6 @@ TEST(Retirement, LeavesNoLinkBehind) {
     EXPECT_EQ(world.Segments()[++number].Kind, row.Stays ? kMatch : kEmptySegment) << number;
   EXPECT_EQ(world.Workers()[record].Name.Str(),
             std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[0]));
-}
-
-TEST(Retirement, DrawsAgainForANameThatIsTaken) {
-  const std::string first = std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[0]);
-  World world = With("", [](Worker& worker) {
-    worker.BirthMonth = 6;
-    worker.RetiringSoon = true;
-  });
-  Sol(world).Name = first;  // his own is not free yet
-  Script draws = Rookie(false);
-  draws.insert(draws.begin(), {{300, 1}, {303, 1}});
-  draws[2] = {300, 2};
-  ScriptDraws(world, draws);
-  AgeAndRetire(world);
-  EXPECT_EQ(world.Workers()[1].Name.Str(),
-            std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[1]));
-}
-
-/// "Pen Ward" of the age, whose birthday it is.
-World WithStaff(std::string_view employer, int position, int age, int option = 0) {
-  SmallWorld small;
-  small.Promotion("NEW", kBackyard).Promotion("CWA");
-  if (employer == "NEW") small = SmallWorld(), small.Promotion("CWA").Promotion("NEW", kBackyard);
-  if (employer.empty()) small.OnTheMarket();
-  World world =
-      small
-          .Staff("Pen Ward", position, 50,
-                 [&](Staff& staff) {
-                   staff.BirthMonth = kFebruary;
-                   staff.Age = age;
-                 })
-          .Game("CWA", kGameStart, [&](GameInfo& game) { game.MailStaffRetire = option; });
-  world.Session.StartSize = world.Player().Size;
-  return world;
-}
-
-/// Name, age, talent, wage of an Owner, backstage, birthday, booker, morale, loyalty.
-Script Newcomer(int position) {
-  Script script{{300, 1}, {192, 162}, {35, 5}, {100, 60}};
-  if (position == kOwner) script.push_back({6, 3});
-  return Then(script,
-              {{65, 10}, {12, 11}, {position == kAnnouncer ? 5 : 35, 1}, {40, 40}, {30, 1}});
-}
-
-TEST(StaffRetirement, IsDrawnByAgeAndAtOnce) {
-  struct Case {
-    int AgeBefore;
-    Script Draws;
-    bool Retires;
-  };
-  const Case kCases[] = {{48, {}, false},       {49, {{10, 1}}, true}, {49, {{10, 2}}, false},
-                         {58, {{10, 1}}, true}, {59, {{3, 1}}, true},  {64, {{3, 3}}, false},
-                         {65, {{2, 1}}, true},  {72, {{2, 2}}, false}, {73, {}, true},
-                         {90, {}, true}};
-  for (const Case& c : kCases) {
-    SCOPED_TRACE(c.AgeBefore);
-    World world = WithStaff("CWA", kMedical, c.AgeBefore, 2);
-    const int uid = world.AllStaff()[1].Uid;
-    ScriptDraws(world, c.Retires ? Then(c.Draws, Newcomer(kMedical)) : c.Draws);
-    AgeAndRetire(world);
-    const Staff& there = world.AllStaff()[1];
-    EXPECT_EQ(world.AllStaff().Count(), 1);
-    EXPECT_EQ(there.Uid, c.Retires ? uid + 1 : uid);
-    EXPECT_EQ(there.Age, c.Retires ? 30 : c.AgeBefore + 1);
-    EXPECT_EQ(NewsOf(world),
-              c.Retires ? "Retirement!: Staff member Pen Ward has retired from CWA!\n" : "");
-  }
-}
-
-TEST(StaffRetirement, IsToldByTheOption) {
-  struct Case {
-    const char* Employer;
-    int Option;
-    const char* News;
-  };
-  constexpr Case kCases[] = {
-      {"", 0, "Retirement!: Staff member Pen Ward has retired!\n"},
-      {"", 1, ""},
-      {"", 2, ""},
-      {"NEW", 0, "Retirement!: Staff member Pen Ward has retired from NEW!\n"},
-      {"NEW", 1, ""},
-      {"NEW", 2, ""}};
-  for (const Case& c : kCases) {
-    World world = WithStaff(c.Employer, kMedical, 80, c.Option);
-    ScriptDraws(world, Newcomer(kMedical));
-    AgeAndRetire(world);
-    EXPECT_EQ(NewsOf(world), c.News) << c.Employer << c.Option;
-  }
-}
-
-TEST(StaffRetirement, PutsSomebodyNewForThePostIntoTheRecord) {
-  for (const int position : {int(kOwner), int(kAnnouncer), int(kTrainer)}) {
-    SCOPED_TRACE(position);
-    World world = WithStaff("CWA", position, 80);
-    const int uid = world.AllStaff()[1].Uid;
-    world.Player().HeadTrainer = uid;
-    world.Player().DevBooker = uid;
-    Show show;
-    show.Name = "Friday Fire";
-    show.Announcer = uid;
-    show.Colour = uid;
-    for (const char* owner : {"CWA", "NEW"}) {
-      show.Owner = Named(world.Promotions(), owner).Uid;
-      world.Shows().Append(show);
-    }
-    show.ColourIsWorker = true;
-    show.Announcer = 0;
-    world.Shows().Append(show);
-    ScriptDraws(world, Newcomer(position));
-    AgeAndRetire(world);
-    const Staff& fresh = world.AllStaff()[1];
-    EXPECT_EQ(fresh.Name.Str(), std::string(StaffFirstNames[161]) + " " + std::string(Surnames[0]));
-    EXPECT_FALSE(fresh.Gender);
-    EXPECT_EQ(fresh.Position, position);
-    EXPECT_EQ(fresh.Employer, 0);
-    EXPECT_EQ(fresh.ContractMonths, position == kOwner ? int(kNoEnd) : 0);
-    EXPECT_EQ(fresh.Wage, position == kOwner ? 3 : 13);
-    EXPECT_EQ(fresh.BirthMonth, 11);
-    EXPECT_TRUE(fresh.Booker);
-    EXPECT_EQ(fresh.Morale, 100);
-    EXPECT_EQ(fresh.Loyalty, 71);
-    EXPECT_FALSE(fresh.Unsackable);
-    EXPECT_EQ(Mentions(world, Refers::Staff, uid), "");
-    EXPECT_EQ(Mentions(world, Refers::Commentator, uid), "tv.dat Colour\n")
-        << "a worker of the same number speaks on";
-  }
-}
-
-TEST(Retirement, NeedsNoRoomInFilesThatAreFull) {
-  World world = SmallWorld().Promotion("CWA").Game("CWA");
-  Worker worker;
-  Staff staff;
-  for (int uid = 1; !world.Workers().Full(); ++uid) {
-    worker.Uid = uid;
-    worker.Name = "Worker " + std::to_string(uid);
-    worker.RetiringSoon = uid % 500 == 0;
-    worker.BirthMonth = 6;
-    worker.Status = "Nor";
-    world.Workers().Append(worker);
-  }
-  for (int uid = 1; !world.AllStaff().Full(); ++uid) {
-    staff.Uid = uid;
-    staff.Name = "Staff " + std::to_string(uid);
-    staff.BirthMonth = uid % 500 == 0 ? kFebruary : 6;
-    staff.Age = 80;
-    staff.Position = kMedical;
-    world.AllStaff().Append(staff);
-  }
-  AgeAndRetire(world);
-  std::set<int> uids;
-  std::set<std::string> names;
-  for (const Worker& w : world.Workers()) {
-    uids.insert(w.Uid);
-    names.insert(w.Name.Str());
-  }
-  EXPECT_EQ(world.Workers().Count(), 25000);
-  EXPECT_EQ(world.AllStaff().Count(), 10000);
-  EXPECT_EQ(uids.size(), 25000u);
-  EXPECT_EQ(names.size(), 25000u);
-  EXPECT_EQ(*uids.rbegin(), 25050);
-  EXPECT_EQ(NextStaffUid(world), 10021);
 }
 
 }  // namespace

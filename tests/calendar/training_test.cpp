@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -153,15 +153,6 @@ TEST(DevelopmentMonth, IsForThePlayersPeopleThere) {
   EXPECT_EQ(Named(leaderless.Workers(), "Sol Varga").Over, 40);
 }
 
-TEST(DevelopmentMonth, IsNotToldOfUnderNever) {
-  for (const int option : {0, 2}) {
-    World world = Territory(80, {}, {}, [&](GameInfo& game) { game.MailDev = option; });
-    ScriptDraws(world, {{4, 2}});
-    DevelopmentMonth(world);
-    EXPECT_EQ(NewsOf(world), option == 2 ? "" : Improved("Over (2 points);"));
-  }
-}
-
 TEST(DevelopmentMonth, LetsTheOutgrownFret) {
   const char* const kMails[][2] = {{"is unhappy about remaining in Ohio Ring.", nullptr},
                                    {"doesn't want to remain in Ohio Ring.", nullptr},
@@ -254,16 +245,6 @@ TEST(TrainingCampMonth, TeachesOnlyThePlayersTrainees) {
     TrainingCampMonth(world);
     ExpectSame(world, before);
   }
-}
-
-TEST(TrainingCampMonth, TeachesAPointUnderATrainerWhomNobodyKnows) {
-  World world = Camp(99, 4);
-  world.Player().HeadTrainer = 999;
-  ScriptDraws(world, std::vector<ScriptedDraw>{{0, 1}, {0, 1}, {0, 1}});
-  TrainingCampMonth(world);
-  const Worker& sol = Named(world.Workers(), "Sol Varga");
-  EXPECT_EQ(sol.Brawl, 11);
-  EXPECT_EQ(sol.Sell, 42);
 }
 
 TEST(TrainingCampMonth, TellsUnlessNever) {

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
+#include "calendar/mentions.h"
+#include "roster/names.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -215,21 +217,100 @@ TEST(DailyUpkeep, MovesTheMoodOfThoseKeptAway) {
   }
 }
 
-TEST(DailyUpkeep, CheersTheStaffOfOthers) {
-  World world = SmallWorld()
-                    .Promotion("CWA")
-                    .Staff("Own Medic", kMedical)
-                    .Promotion("NEW")
-                    .Staff("Rival Medic", kMedical)
-                    .Staff("Content", kMedical, 50, [](Staff& staff) { staff.Morale = 100; })
-                    .OnTheMarket()
-                    .Staff("Free Medic", kMedical)
-                    .Game("CWA");
-  DailyWorkerUpkeep(world);
-  EXPECT_EQ(Named(world.AllStaff(), "Own Medic").Morale, 80);
-  EXPECT_EQ(Named(world.AllStaff(), "Rival Medic").Morale, 81);
-  EXPECT_EQ(Named(world.AllStaff(), "Content").Morale, 100);
-  EXPECT_EQ(Named(world.AllStaff(), "Free Medic").Morale, 80);
+using Script = std::vector<ScriptedDraw>;
+
+Script Then(Script first, const Script& next) {
+  first.insert(first.end(), next.begin(), next.end());
+  return first;
+}
+
+/// "Pen Ward" of the age, whose birthday it is.
+World WithStaff(std::string_view employer, int position, int age, int option = 0) {
+  SmallWorld small;
+  small.Promotion("NEW", kBackyard).Promotion("CWA");
+  if (employer == "NEW") small = SmallWorld(), small.Promotion("CWA").Promotion("NEW", kBackyard);
+  if (employer.empty()) small.OnTheMarket();
+  World world =
+      small
+          .Staff("Pen Ward", position, 50,
+                 [&](Staff& staff) {
+                   staff.BirthMonth = 2;
+                   staff.Age = age;
+                 })
+          .Game("CWA", kGameStart, [&](GameInfo& game) { game.MailStaffRetire = option; });
+  world.Session.StartSize = world.Player().Size;
+  return world;
+}
+
+/// Name, age, talent, wage of an Owner, backstage, birthday, booker, morale, loyalty.
+Script Newcomer(int position) {
+  Script script{{300, 1}, {192, 162}, {35, 5}, {100, 60}};
+  if (position == kOwner) script.push_back({6, 3});
+  return Then(script,
+              {{65, 10}, {12, 11}, {position == kAnnouncer ? 5 : 35, 1}, {40, 40}, {30, 1}});
+}
+
+TEST(StaffRetirement, IsDrawnByAgeAndAtOnce) {
+  struct Case {
+    int AgeBefore;
+    Script Draws;
+    bool Retires;
+  };
+  const Case kCases[] = {{48, {}, false},       {49, {{10, 1}}, true}, {49, {{10, 2}}, false},
+                         {58, {{10, 1}}, true}, {59, {{3, 1}}, true},  {64, {{3, 3}}, false},
+                         {65, {{2, 1}}, true},  {72, {{2, 2}}, false}, {73, {}, true},
+                         {90, {}, true}};
+  for (const Case& c : kCases) {
+    SCOPED_TRACE(c.AgeBefore);
+    World world = WithStaff("CWA", kMedical, c.AgeBefore, 2);
+    const int uid = world.AllStaff()[1].Uid;
+    ScriptDraws(world, c.Retires ? Then(c.Draws, Newcomer(kMedical)) : c.Draws);
+    AgeAndRetire(world);
+    const Staff& there = world.AllStaff()[1];
+    EXPECT_EQ(world.AllStaff().Count(), 1);
+    EXPECT_EQ(there.Uid, c.Retires ? uid + 1 : uid);
+    EXPECT_EQ(there.Age, c.Retires ? 30 : c.AgeBefore + 1);
+    EXPECT_EQ(NewsOf(world),
+              c.Retires ? "Retirement!: Staff member Pen Ward has retired from CWA!\n" : "");
+  }
+}
+
+TEST(StaffRetirement, PutsSomebodyNewForThePostIntoTheRecord) {
+  for (const int position : {int(kOwner), int(kAnnouncer), int(kTrainer)}) {
+    SCOPED_TRACE(position);
+    World world = WithStaff("CWA", position, 80);
+    const int uid = world.AllStaff()[1].Uid;
+    world.Player().HeadTrainer = uid;
+    world.Player().DevBooker = uid;
+    Show show;
+    show.Name = "Friday Fire";
+    show.Announcer = uid;
+    show.Colour = uid;
+    for (const char* owner : {"CWA", "NEW"}) {
+      show.Owner = Named(world.Promotions(), owner).Uid;
+      world.Shows().Append(show);
+    }
+    show.ColourIsWorker = true;
+    show.Announcer = 0;
+    world.Shows().Append(show);
+    ScriptDraws(world, Newcomer(position));
+    AgeAndRetire(world);
+    const Staff& fresh = world.AllStaff()[1];
+    EXPECT_EQ(fresh.Name.Str(), std::string(StaffFirstNames[161]) + " " + std::string(Surnames[0]));
+    EXPECT_FALSE(fresh.Gender);
+    EXPECT_EQ(fresh.Position, position);
+    EXPECT_EQ(fresh.Employer, 0);
+    EXPECT_EQ(fresh.ContractMonths, position == kOwner ? int(kNoEnd) : 0);
+    EXPECT_EQ(fresh.Wage, position == kOwner ? 3 : 13);
+    EXPECT_EQ(fresh.BirthMonth, 11);
+    EXPECT_TRUE(fresh.Booker);
+    EXPECT_EQ(fresh.Morale, 100);
+    EXPECT_EQ(fresh.Loyalty, 71);
+    EXPECT_FALSE(fresh.Unsackable);
+    EXPECT_EQ(Mentions(world, Refers::Staff, uid), "");
+    EXPECT_EQ(Mentions(world, Refers::Commentator, uid), "tv.dat Colour\n")
+        << "a worker of the same number speaks on";
+  }
 }
 
 }  // namespace

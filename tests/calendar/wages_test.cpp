@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "calendar/daysteps.h"
+#include "calendar/advanceday.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

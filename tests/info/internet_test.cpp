@@ -9,7 +9,7 @@
 #include "info/rumours.h"
 #include "info/worldnews.h"
 #include "records/sweeps.h"
-#include "rivals/rivalsteps.h"
+#include "rivals/rivals.h"
 #include "rivals/workermarket.h"
 #include "support/gameonworld.h"
 

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "business/monthlymoney.h"
-#include "calendar/meetingday.h"
+#include "business/finance.h"
+#include "calendar/advanceday.h"
 #include "info/calmworld.h"
 #include "info/infowords.h"
-#include "roster/wagebill.h"
+#include "roster/talks.h"
 #include "show/attendance.h"
 
 namespace grapplemont::test {

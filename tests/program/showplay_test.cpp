@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "booking/extras.h"
+#include "booking/showstart.h"
 #include "calendar/advanceday.h"
 #include "records/dates.h"
 #include "records/segments.h"

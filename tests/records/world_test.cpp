@@ -190,17 +190,19 @@ TEST(FirstDifference, NamesRecordAndField) {
     void (*Change)(World&);
   } rows[] = {
       {"", [](World&) {}},
-      {"Worker 2 Morale: 61, expected 80", [](World& w) { w.Workers()[2].Morale = 61; }},
-      {"Worker 1 Status: Injured, expected Normal",
+      {"wrestler.dat, record 2, Ilya Marsh, Morale: was 80, is 61",
+       [](World& w) { w.Workers()[2].Morale = 61; }},
+      {"wrestler.dat, record 1, Bram Okafor, Status: was Normal, is Injured",
        [](World& w) { w.Workers()[1].Status = "Inj"; }},
-      {"Promotion 1 Rank3: 12, expected -1", [](World& w) { w.Promotions()[1].Rank[2] = 12; }},
-      {"GameInfo 1 Today: 2026-03-02, expected 2026-03-01",
+      {"wrestler.dat, record 1, Bram Okafor, Employer: was CWA, is ",
+       [](World& w) { w.Workers()[1].Employer = 0; }},
+      {"gameinfo.dat, record 1, Today: was 2026-03-01, is 2026-03-02",
        [](World& w) { w.Game().Today = w.Today() + std::chrono::days{1}; }},
-      {"wrestler.dat: 474 bytes, expected 711", [](World& w) { w.Workers().Erase(3); }},
-      {"news.dat exists, expected none", [](World& w) { w.News().Append({}); }},
-      {"feudinfo.dat is missing", [](World& w) { w.Feuds().Remove(); }},
-      {"notes.dat reads otherwise", [](World& w) { w.Notes().Set("notepad"); }},
-      {"notes.dat: 8 bytes, expected 7", [](World& w) { w.Notes().Set("Notepads"); }},
+      {"wrestler.dat, record 3, Cal Drift: was there, is missing",
+       [](World& w) { w.Workers().Erase(3); }},
+      {"news.dat: was missing, is there", [](World& w) { w.News().Append({}); }},
+      {"feudinfo.dat: was there, is missing", [](World& w) { w.Feuds().Remove(); }},
+      {"notes.dat, Text: was Notepad, is notepad", [](World& w) { w.Notes().Set("notepad"); }},
   };
   for (const auto& row : rows) {
     World world = CopyOf(expected);

@@ -2,8 +2,7 @@
 
 #include "rivals/faults.h"
 #include "rivals/purse.h"
-#include "rivals/renewals.h"
-#include "rivals/rivalsteps.h"
+#include "rivals/rivals.h"
 #include "rivals/tuning.h"
 #include "rivals/workermarket.h"
 #include "support/newsof.h"

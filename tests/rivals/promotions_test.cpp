@@ -1,15 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "calendar/advanceday.h"
-#include "rivals/challenge.h"
 #include "rivals/faults.h"
 #include "rivals/founding.h"
-#include "words/promotions.h"
-#include "rivals/rivalsteps.h"
+#include "rivals/newpromotionnames.h"
+#include "rivals/rivals.h"
 #include "rivals/staffmarket.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
+#include "words/promotions.h"
 
 // New promotions, sponsors, bankruptcy.
 
@@ -175,183 +175,6 @@ TEST(NewPromotions, TakeUpTheTitlesThatAnotherHasLeftBehind) {
   EXPECT_EQ(FaultsOf(world), "");
 }
 
-TEST(NewPromotions, GiveTheirTitlesNamesThatNobodyHas) {
-  World world = WantsTitles(1);
-  RosterSizeReview(world);
-  ASSERT_EQ(world.Titles().Count(), 3);
-  EXPECT_EQ(world.Titles()[1].Owner, 1);
-  EXPECT_EQ(world.Titles()[2].Name.Str(), "XWF Crown II");
-  EXPECT_EQ(FaultsOf(world), "");
-}
-
-TEST(NewPromotions, FoundNoMoreTitlesThanTheFileHolds) {
-  for (const int left : {0, 1}) {
-    World world = WantsTitles(1);
-    const Title held = world.Titles()[1];
-    while (!world.Titles().Full()) world.Titles().Append(held);
-    if (left == 1) world.Titles()[7].Owner = kNoEnd;
-    RosterSizeReview(world);
-    const auto founded = std::count_if(world.Titles().begin(), world.Titles().end(),
-                                       [](const Title& title) { return title.Owner == 2; });
-    EXPECT_EQ(founded, left);
-    EXPECT_EQ(world.Titles()[7].Name.Str(), left == 1 ? "XWF Crown II" : "XWF Crown");
-  }
-}
-
-TEST(RivalSponsors, FillThePlaceOfASponsorWhoIsGone) {
-  World world = SmallWorld()
-                    .Promotion("CWA")
-                    .Promotion("XWF", kCult)
-                    .OnTheMarket()
-                    .Sponsor("Gulp")
-                    .Game("CWA");
-  world.Promotions()[2].Sponsor[0] = 99;
-  ScriptDraws(world, {{18, 1}});
-  RivalSponsorSigning(world);
-  EXPECT_EQ(world.Promotions()[2].Sponsor[0], world.Sponsors()[1].Uid);
-}
-
-TEST(RivalSponsors, SignBelowTheLimitOfSizeAndImage) {
-  const int kLimits[6][2] = {{1001, 1001}, {921, 861}, {821, 701},
-                             {601, 531},   {451, 321}, {251, 101}};
-  for (int size = 1; size <= 6; ++size)
-    for (const int image : {50, 51})
-      for (const int less : {0, 1}) {
-        const int pay = kLimits[size - 1][image == 51 ? 0 : 1] - less;
-        World world = SmallWorld()
-                          .Promotion("CWA")
-                          .Promotion("XWF", size, [&](Promotion& p) { p.Image = image; })
-                          .OnTheMarket()
-                          .Sponsor("Gulp", [&](Sponsor& sponsor) { sponsor.Pay = pay; })
-                          .Game("CWA");
-        world.Game().MailSponsor = 0;
-        ScriptDraws(world, less == 0 ? std::vector<int>{} : std::vector<int>{7});
-        RivalSponsorSigning(world);
-        EXPECT_EQ(world.Promotions()[2].Sponsor[0], less == 0 ? 0 : 1) << size << " " << image;
-        EXPECT_EQ(NewsOf(world), less == 0 ? ""
-                                           : "XWF News: XWF have signed a sponsorship deal with "
-                                             "Gulp!\n");
-        EXPECT_EQ(FaultsOf(world), "");
-      }
-}
-
-TEST(RivalSponsors, BearTheRiskAndFillOnePlaceAfterTheOther) {
-  SmallWorld small;
-  small.Promotion("CWA").Promotion("XWF", kCult, [](Promotion& p) { p.Risk = 50; });
-  small.Sponsor("Second Main");
-  small.OnTheMarket().Sponsor("Prim", [](Sponsor& s) { s.Morality = 51; });
-  for (const char* name : {"One", "Two", "Three", "Four"}) small.Sponsor(name);
-  World world = small.Game("CWA");
-  world.Promotions()[2].Sponsor = {};
-  world.Promotions()[2].Sponsor[1] = world.Sponsors()[1].Uid;
-  ScriptDraws(world, {{18, 1}, {18, 2}, {18, 3}});
-  RivalSponsorSigning(world);
-  const auto uid = [&](const char* name) { return int(Named(world.Sponsors(), name).Uid); };
-  EXPECT_EQ(world.Promotions()[2].Sponsor[0], uid("One"));
-  EXPECT_EQ(world.Promotions()[2].Sponsor[1], uid("Second Main"));
-  EXPECT_EQ(world.Promotions()[2].Sponsor[2], uid("Two"));
-  EXPECT_EQ(world.Promotions()[2].Sponsor[3], uid("Three"));
-  EXPECT_EQ(world.Promotions()[1].Sponsor[0], 0) << "the player signs his own";
-  EXPECT_EQ(Named(world.Sponsors(), "Prim").Promotion, 0);
-}
-
-TEST(Bankruptcy, WarnsAndClosesAtTheLinesOfEachSize) {
-  const int kLines[6][3] = {{-19999999, -18000000, -20000000}, {-14999999, -13000000, -15000000},
-                            {-4999999, -4400000, -5000000},    {-2499999, -2300000, -2500000},
-                            {-999999, -800000, -1000000},      {-499999, -420000, -500000}};
-  for (int size = 1; size <= 6; ++size) {
-    const auto& [from, below, line] = kLines[size - 1];
-    struct Row {
-      int Money;
-      bool Warned, Closed;
-    };
-    for (const Row& row :
-         {Row{below, false, false}, Row{below - 1, true, false}, Row{from, true, false},
-          Row{from - 1, false, false}, Row{line, false, false}, Row{line - 1, false, true}}) {
-      SCOPED_TRACE(std::to_string(size) + " with " + std::to_string(row.Money));
-      World world = Crowd(2, size);
-      world.Promotions()[2].Money = row.Money;
-      BankruptcyCheck(world);
-      EXPECT_EQ(world.Promotions()[2].Name == kToBeDeleted, row.Closed);
-      EXPECT_EQ(NewsOf(world), row.Warned   ? "P2 News: P2 Wrestling have issued a bankruptcy "
-                                              "warning!\n"
-                               : row.Closed ? "P2 News: P2 Wrestling have gone bankrupt!\n"
-                                            : "");
-      EXPECT_EQ(world.Game().EndCode, 0);
-
-      World own = Crowd(2, size);
-      own.Promotions()[1].Money = row.Money;
-      BankruptcyCheck(own);
-      EXPECT_EQ(own.Game().EndCode, row.Closed ? 2 : 0);
-      EXPECT_EQ(NewsOf(own), row.Warned ? "Finance Dept.: The bank are warning that we face "
-                                          "bankruptcy if our finances fall much lower!\n"
-                                        : "");
-    }
-  }
-}
-
-/// The first of April comes to a rival with one of everything, and to the player.
-World LastDayOfMarch(const Change<Promotion>& change) {
-  World world = SmallWorld()
-                    .Network("Nine")
-                    .Promotion("CWA", kRegional)
-                    .Owner("Ruth Vane")
-                    .Crew(8)
-                    .Promotion("XWF", kRegional, change)
-                    .Owner("Sir Sink")
-                    .Staff("Coach", kTrainer)
-                    .Crew(8)
-                    .Stable("The Firm", {"XWF Hand 1", "XWF Hand 2"})
-                    .Title("XWF Crown", "XWF Hand 1")
-                    .Show("Slam", "Monday", "Nine")
-                    .Sponsor("Gulp")
-                    .Event(5)
-                    .Game("CWA", Day{std::chrono::year{2026} / 3 / 31});
-  Promotion& rival = world.Promotions()[2];
-  rival.HeadTrainer = Named(world.AllStaff(), "Coach").Uid;
-  Worker& commissioner = Named(world.Workers(), "XWF Hand 3");
-  commissioner.Position = kNonWrestler;
-  rival.Commissioner = commissioner.Uid;
-  rival.Split[0] = "Red";
-  Named(world.Workers(), "XWF Hand 4").Split = "Red";
-  world.Game().MailOtherFed = 0;
-  world.SetChance(std::make_unique<SeededDraws>(7));
-  return world;
-}
-
-TEST(Bankruptcy, IsTheEndOfEverythingThatARivalHad) {
-  struct Row {
-    Change<Promotion> Falls;
-    const char* Mail;
-  };
-  const Row kRows[] = {
-      {[](Promotion& p) { p.Money = -4000000; }, "XWF News: XWF Wrestling have gone bankrupt!\n"},
-      {[](Promotion& p) {
-         p.Money = 0;
-         p.LoanAmount = 50000000;
-         p.LoanMonths = 12;
-         p.LoanMissed = 2;
-       },
-       "XWF News: XWF have gone out of business!\n"}};
-  for (const Row& row : kRows) {
-    World world = LastDayOfMarch(row.Falls);
-    ASSERT_EQ(FaultsOf(world), "");
-    AdvanceDay(world, false);
-    EXPECT_NE(NewsOf(world).find(row.Mail), std::string::npos) << NewsOf(world);
-    EXPECT_EQ(FaultsOf(world), "");
-    EXPECT_EQ(world.FindPromotion(2), nullptr);
-    for (const Worker& worker : world.Workers()) {
-      EXPECT_NE(worker.Employer, 2);
-      EXPECT_EQ(worker.Split.Str(), "None") << worker.Name.Str();
-    }
-    for (const Staff& staff : world.AllStaff()) EXPECT_NE(staff.Employer, 2);
-    EXPECT_EQ(Named(world.Titles(), "XWF Crown").Owner, kNoEnd);
-    EXPECT_EQ(Named(world.Titles(), "XWF Crown").Holder, 0);
-    EXPECT_EQ(world.Shows().Count(), 0);
-    EXPECT_EQ(Named(world.Sponsors(), "Gulp").Promotion, 0);
-  }
-}
-
 /// Something that a rival of the size does, and the option that its mail obeys.
 struct Told {
   const char* What;
@@ -509,34 +332,6 @@ TEST(Challenge, BuysStarsWhereverTheyWork) {
   for (const char* name : {"Safe", "Mine 94", "Mine 91", "Plain", "Corner", "Asked"})
     EXPECT_NE(Named(world.Workers(), name).Employer, uid) << name;
   EXPECT_EQ(FaultsOf(world), "");
-}
-
-TEST(Challenge, DoesNotBuyWhoHasSignedAlready) {
-  World world = SmallWorld()
-                    .Promotion("CWA", kGlobal)
-                    .OnTheMarket()
-                    .Worker("Free Star", kMainEvent, 90, [](Worker& star) { star.Wage = 50; })
-                    .Game("CWA");
-  world.Game().EndCode = kStrangerWaits;
-  // The owner, and the one whom the new promotion signs by itself.
-  ScriptDraws(world, {{12, 1}, {6, 1}, {10, 1}});
-  MeetStranger(world);
-  EXPECT_EQ(world.Workers()[1].Employer, world.Promotions()[2].Uid);
-  EXPECT_EQ(world.Workers()[1].Wage, 58) << "one rise";
-  EXPECT_EQ(FaultsOf(world), "");
-}
-
-TEST(Challenge, DoesNotComeWhereNoOwnerFitsIn) {
-  World world = AloneAtTheTop();
-  Staff owner;
-  while (!world.AllStaff().Full()) world.AllStaff().Append(owner);
-  ScriptDraws(world, std::vector<int>{});
-  AwaitStranger(world);
-  EXPECT_EQ(world.Game().EndCode, 0);
-  world.Game().EndCode = kStrangerWaits;
-  MeetStranger(world);
-  EXPECT_EQ(world.Game().EndCode, 0);
-  EXPECT_EQ(world.Promotions().Count(), 2);
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "calendar/incidents.h"
-#include "rivals/challenge.h"
 #include "rivals/faults.h"
+#include "rivals/founding.h"
 #include "session/slots.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
@@ -269,21 +269,6 @@ TEST(TheEnd, ComesUponThePlayerByEachOfItsRoads) {
       play.Reopen();
       EXPECT_EQ(play.World().Game().EndCode, road.Code) << "the day that brought it is kept";
     }
-}
-
-TEST(TheEnd, IsToldAgainWheneverTheSlotIsLoaded) {
-  GameOnWorld play(TwoPromotions());
-  play.World().Game().EndCode = kEndBoard;
-  play.Desk.Open("frmMainScreen");
-  for (int visit = 0; visit < 2; ++visit) {
-    ASSERT_EQ(play.Desk.TopName(), "frmTheEnd");
-    play.Desk.Click("cmdmenu");
-    play.Desk.Open("frmLoadGame");
-    play.Desk.Click("cmdload1");
-  }
-  ASSERT_EQ(play.Desk.TopName(), "frmTheEnd");
-  play.Desk.Click("cmdlook");
-  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
 }
 
 }  // namespace

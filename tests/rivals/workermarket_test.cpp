@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "rivals/faults.h"
-#include "rivals/rivalsteps.h"
+#include "rivals/rivals.h"
 #include "rivals/tuning.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
@@ -262,30 +262,6 @@ TEST(RivalWorkerHiring, SignsTenInARowAtMostAndNoneAfterAFailure) {
   EXPECT_EQ(Rosters(unlucky).Of(Rival(unlucky).Uid), 1) << "the second try found nobody";
 }
 
-TEST(RivalWorkerHiring, TakesThePlayersPeopleInTheCourseOfADay) {
-  SmallWorld small;
-  small.Promotion("CWA", kSmall)
-      .Worker("Mine", kMainEvent, 60,
-              [](Worker& worker) {
-                worker.ContractType = "Non";
-                worker.Behaviour = 50;
-              })
-      .Worker("Loyal", kMidcard, 60, [](Worker& worker) { worker.ContractType = "Wri"; })
-      .Title("CWA Crown", "Mine")
-      .Promotion("XWF", kCult)
-      .Game("CWA", kGameStart, TellsAll())
-      .Feud("Mine", "Loyal");
-  World world = small;
-  ScriptDraws(world, {{10, 1}, {10, 1}, {10, 1}});
-  RivalWorkerHiring(world);
-  EXPECT_EQ(Named(world.Workers(), "Mine").Employer, Rival(world).Uid);
-  EXPECT_EQ(Named(world.Workers(), "Loyal").Employer, world.PlayerUid());
-  EXPECT_EQ(world.Titles()[1].Holder, 0);
-  EXPECT_EQ(world.Feuds()[1].Worker2, 0);
-  EXPECT_EQ(NewsOf(world), "XWF News: XWF have stolen Mine from CWA!\n");
-  EXPECT_EQ(FaultsOf(world), "");
-}
-
 TEST(RivalWorkerHiring, FiresWhatStandsAboveItsBandTheWeakestFirst) {
   const int most = tuning::kRosters[kBackyard - 1].Most;
   World world = SmallWorld()
@@ -318,23 +294,6 @@ TEST(RivalWorkerHiring, LeavesThePlayerAndTheDyingAlone) {
   ScriptDraws(world, std::vector<int>{});
   RivalWorkerHiring(world);
   EXPECT_EQ(world.Workers()[1].Employer, 0);
-}
-
-TEST(RivalWorkerHiring, TakesWhoeverIsSignedFirstOffTheMarket) {
-  World world = SmallWorld()
-                    .Promotion("CWA", kGlobal)
-                    .Promotion("XWF", kBackyard)
-                    .Promotion("YWF", kBackyard)
-                    .OnTheMarket()
-                    .Worker("Free",
-                            [](Worker& worker) {
-                              worker.Over = 10;
-                              worker.Behaviour = 10;
-                            })
-                    .Game("CWA");
-  ScriptDraws(world, {{10, 1}, {10, 1}});
-  RivalWorkerHiring(world);
-  EXPECT_EQ(world.Workers()[1].Employer, Rival(world).Uid) << "a promotion as small is no reason";
 }
 
 TEST(RivalPositions, FollowPopularityForRivalsAlone) {

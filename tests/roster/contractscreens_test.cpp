@@ -1,4 +1,4 @@
-#include "roster/screens/contractscreens.h"
+#include "roster/screens/screentalks.h"
 
 #include <gtest/gtest.h>
 
@@ -102,14 +102,6 @@ TEST(frmWresContract, RejectsUntilTheOfferIsGood) {
   EXPECT_EQ(play.World().Player().Money, before.Player().Money);
 }
 
-TEST(frmWresContract, SignsInWritingTheLessPopular) {
-  GameOnWorld play(Business());
-  OnContract(play, "Ilya Marsh");
-  EXPECT_EQ(play.Desk.Text("cmbnewtype"), "Written");
-  play.Desk.ExpectSay("Accepted!", "Ilya Marsh signs the contract!");
-  play.Desk.Click("cmdoffer");
-}
-
 TEST(frmWresContract, ShutsTheOfferButNeitherReleaseNorTermination) {
   GameOnWorld play(Business());
   Who(play, kBram).Morale = 39;
@@ -185,49 +177,6 @@ TEST(frmWresContract, TerminatesDownToAnEmptyRoster) {
   EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
 }
 
-TEST(frmWresContract, NamesThePriceOfTheDifficulty) {
-  struct Case {
-    int Difficulty, Months;
-    const char* Price;
-    int Dollars;
-  };
-  constexpr Case kCases[] = {{kEasy, 12, "$40000", 40000},
-                             {kMedium, 12, "$240000", 240000},
-                             {kMedium, 1, "$0", 0},
-                             {kHard, 12, "$480000", 480000},
-                             {kRockHard, 12, "$960000", 960000}};
-  for (const Case& c : kCases) {
-    GameOnWorld play(Business());
-    play.World().Game().Difficulty = c.Difficulty;
-    Who(play, kBram).ContractMonths = c.Months;
-    const int money = play.World().Player().Money;
-    OnContract(play, kBram);
-    ScriptDraws(play.World(), {{3, 3}});
-    play.Desk.ExpectAsk(
-        "Terminate Contract",
-        "Terminating this contract will cost " + std::string(c.Price) + ". Proceed?", true);
-    play.Desk.Click("cmdterminate");
-    EXPECT_EQ(play.World().Player().Money, money - c.Dollars) << c.Difficulty;
-    EXPECT_EQ(Who(play, kBram).Loyalty, 50);
-  }
-}
-
-TEST(frmWresContract, LetsWhoeverSitsOutGoGladly) {
-  GameOnWorld play(Business());
-  Who(play, kBram).Status = "Hom";
-  const int money = play.World().Player().Money;
-  play.Desk.ExpectSay(kTalks, "Bram Okafor refuses to even begin negotiations with you.");
-  OnContract(play, kBram);
-  EXPECT_FALSE(play.Desk.Enabled("cmdoffer"));
-  EXPECT_TRUE(play.Desk.Enabled("cmdrelease"));
-  ScriptDraws(play.World(), {{3, 3}});
-  play.Desk.ExpectAsk("Terminate Contract", "This wrestler is happy to leave. Proceed?", true);
-  play.Desk.Click("cmdterminate");
-  EXPECT_EQ(play.World().Player().Money, money);
-  EXPECT_EQ(Who(play, kBram).Status.View(), "Nor");
-  EXPECT_EQ(Who(play, kBram).Employer, 0);
-}
-
 TEST(frmOtherContract, ShowsDemandsAndBeginsWithThem) {
   GameOnWorld play(Business());
   OnTalks(play, "Free Fred");
@@ -284,25 +233,6 @@ TEST(frmOtherContract, SignsUnderANewName) {
   EXPECT_FALSE(lord.Debuted);
 }
 
-TEST(frmOtherContract, SendsTraineesOnlyToACampThatIsThere) {
-  GameOnWorld play(Business());
-  Who(play, "Free Fred").Age = 20;
-  OnTalks(play, "Free Fred");
-  play.Desk.Pick("cmbnewposition", "Training Camp");
-  play.Desk.ExpectSay("Error!", "You do not have a training camp set up!");
-  play.Desk.Click("cmdoffer");
-  play.World().Player().CampName = "The Barn";
-  play.Desk.ExpectSay("Accepted!", "Free Fred signs the contract!");
-  play.Desk.Click("cmdoffer");
-  EXPECT_EQ(Who(play, "Free Fred").Position, kTrainingCamp);
-  play.Desk.ExpectSay("More Money.", kAnyText);
-  OnTalks(play, kRay);
-  play.Desk.Pick("cmbnewposition", "Development Deal");
-  play.Desk.ExpectSay("Error!", "You do not have a development territory set up!");
-  play.Desk.Click("cmdoffer");
-  EXPECT_EQ(Who(play, kRay).Employer, 2);
-}
-
 TEST(frmOtherContract, WarnsThatTheEmployedAreDear) {
   GameOnWorld play(Business());
   play.Desk.ExpectSay("More Money.",
@@ -339,20 +269,6 @@ TEST(frmOtherContract, ClosesUnderOneTitleWhateverTheReason) {
   }
 }
 
-TEST(frmOtherContract, ShutsTheOfferButStillShowsTheDemands) {
-  GameOnWorld play(Business());
-  Who(play, kRay).Loyalty = 39;
-  const char* words = "She does not want to negotiate with you at all.";
-  play.Desk.ExpectSay("Refusal!", words);
-  OnTalks(play, kRay);
-  for (const char* shut : {"cmdoffer", "hsnewwage", "cmbnewtype", "cmbnewlength", "cmbnewdispo",
-                           "cmbnewposition", "txtnewname", "txtnewname2"}) {
-    EXPECT_FALSE(play.Desk.Enabled(shut)) << shut;
-    EXPECT_EQ(play.Desk.Tip(shut), words) << shut;
-  }
-  EXPECT_EQ(play.Desk.Text("txtposition"), "Midcard");
-}
-
 struct Turn {
   const char* Of;
   void (*Happens)(GameOnWorld& play);
@@ -386,21 +302,6 @@ TEST(ContractTalks, EndWhenTheOtherSideIsNotThereAnyMore) {
       ExpectSame(play.World(), before);
     }
   }
-}
-
-TEST(ContractTalks, EndWhenTheyWereEndedInASecondWindow) {
-  GameOnWorld play(Business());
-  OnContract(play, kBram);
-  play.Play.OpenWorker(Who(play, kBram).Uid);
-  ASSERT_EQ(play.Desk.TopName(), "frmWorker");
-  play.Desk.Click("cmdcontract");
-  ScriptDraws(play.World(), {{3, 3}});
-  play.Desk.ExpectAsk("Terminate Contract", kAnyText, true);
-  play.Desk.Click("cmdterminate");
-  ASSERT_EQ(play.Desk.TopName(), "frmWorker");
-  play.Desk.ExpectSay(kTalks, "Bram Okafor does not work for you any more.");
-  play.Desk.Click("cmdback");
-  EXPECT_EQ(play.Desk.TopName(), "frmRoster");
 }
 
 TEST(ContractTalks, DoNotBeginWithTheWrongPeople) {

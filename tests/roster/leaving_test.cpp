@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "roster/releaseoffer.h"
-#include "roster/termination.h"
+#include "roster/leaving.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -193,27 +192,6 @@ TEST(Terminate, BreaksAVerbalContractForFreeButNotForNothing) {
                            "work for you again!\n"
                          : "");
     EXPECT_EQ(bram.Employer, 0);
-  }
-}
-
-TEST(Terminate, NeverTakesReputationOrLoyaltyBelowNothing) {
-  World world = Employed(kGlobal, kGlobal);
-  Worker& bram = Bram(world);
-  bram.ContractType = "Non";
-  bram.Morale = 50;
-  bram.Behaviour = 90;
-  bram.Age = 40;
-  world.Game().Reputation = 14;
-  ScriptDraws(world, {{3, 3}});
-  Terminate(world, bram);
-  EXPECT_EQ(world.Game().Reputation, 0);
-  for (const auto& [before, after] : {std::pair(19, 0), {20, 0}, {21, 1}}) {
-    World other = Employed(kGlobal, kGlobal);
-    Bram(other).ContractType = "Non";
-    Bram(other).Loyalty = before;
-    ScriptDraws(other, {{3, 3}});
-    Terminate(other, Bram(other));
-    EXPECT_EQ(Bram(other).Loyalty, after);
   }
 }
 

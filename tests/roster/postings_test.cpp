@@ -227,20 +227,6 @@ TEST(Splits, AreThoseOfThePromotion) {
   EXPECT_EQ(WhyNotSplit(world, bram, "None"), "");
 }
 
-TEST(IsInDevelopment, CountsFromEightyUp) {
-  Worker worker;
-  for (const auto& [position, away] : {std::pair(6, false),
-                                       {7, true},
-                                       {75, false},
-                                       {79, false},
-                                       {80, true},
-                                       {81, true},
-                                       {86, true}}) {
-    worker.Position = position;
-    EXPECT_EQ(IsInDevelopment(worker), away) << position;
-  }
-}
-
 TEST(PlaceText, KnowsEveryPosting) {
   struct Row {
     int Position;

@@ -1,9 +1,9 @@
-#include "roster/release.h"
+#include "roster/leaving.h"
 
 #include <gtest/gtest.h>
 
 #include "records/checkworld.h"
-#include "roster/placement.h"
+#include "roster/postings.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -79,24 +79,6 @@ TEST(ReleaseWorker, EndsWhateverBoundHim) {
   EXPECT_EQ(Named(world.Titles(), "Crown").Reigns[1].Holder.View(), "Bram Okafor");
   EXPECT_EQ(Named(world.Titles(), "Belt").Holder, 1);
   for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
-}
-
-TEST(PartWith, OfUidNobodyTouchesNothingOfNobodys) {
-  World world = Employed()
-                    .Network("Ten")
-                    .Show("Fire", "Friday", "Nine", [](Show& show) { show.ColourIsWorker = true; })
-                    .Title("Crown")
-                    .Game("CWA")
-                    .BuildUnchecked();
-  Bram(world).Uid = 0;
-  World expected = CopyOf(world);
-  PartWith(world, Bram(world));
-  Worker& nobody = Bram(expected);
-  nobody.Employer = 0;
-  nobody.ContractMonths = 0;
-  nobody.ContractType = "Non";
-  nobody.Debuted = true;
-  ExpectSame(world, expected);
 }
 
 TEST(ReleaseWorker, GivesThoseKeptAwayAPlaceAgain) {
@@ -211,22 +193,6 @@ TEST(ReleaseWorker, SignsHimOnTheTermsOfTheSize) {
     EXPECT_EQ(bram.Wage, 12);
     EXPECT_EQ(NewsOf(world), "NEW News: Bram Okafor has signed for NEW!\n");
   }
-}
-
-TEST(ReleaseWorker, LeavesTheWageAndStopsOverAndMoraleAtAHundred) {
-  World world = Employed([](Worker& worker) {
-                  worker.Over = 99;
-                  worker.Wage = 188;  // more than a Global promotion pays at most
-                  worker.Morale = 90;
-                })
-                    .Promotion("NEW", kGlobal)
-                    .Game("CWA");
-  ScriptDraws(world, {{3, 1}, {80, 7}, {3, 3}});
-  ReleaseWorker(world, Bram(world));
-  EXPECT_EQ(Bram(world).Employer, Named(world.Promotions(), "NEW").Uid);
-  EXPECT_EQ(Bram(world).Wage, 188);
-  EXPECT_EQ(Bram(world).Over, 100);
-  EXPECT_EQ(Bram(world).Morale, 100);
 }
 
 TEST(ReleaseWorker, PassesOverAPromotionThatIsGoneWithoutADraw) {

@@ -1,4 +1,4 @@
-#include "roster/renewal.h"
+#include "roster/talks.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "roster/screens/rosterscreens.h"
+#include "roster/screens/frmWorker.h"
 
 #include <gtest/gtest.h>
 
@@ -147,21 +147,6 @@ TEST(frmRoster, HasNoTalksWithTheUnsackable) {
   EXPECT_EQ(play.Desk.TopName(), "frmRoster");
 }
 
-TEST(frmRoster, LeadsToTheScreensOfTheRestAndBackToTheHub) {
-  GameOnWorld play(Business());
-  play.Desk.Open("frmMainScreen");
-  play.Desk.Click("cmdroster");
-  for (const auto& [button, screen] : {std::pair{"cmdturn", "frmTurn"},
-                                       {"cmdmanager", "frmManagers"},
-                                       {"cmdstables", "frmStables"}}) {
-    play.Desk.Click(button);
-    EXPECT_EQ(play.Desk.TopName(), screen);
-    play.Desk.Click("cmdback");
-  }
-  play.Desk.Click("cmdback");
-  EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
-}
-
 TEST(frmRoster, MeetsSomebodyWhoVanishedMeanwhile) {
   GameOnWorld play(Business());
   play.Desk.Open("frmRoster");
@@ -215,17 +200,6 @@ TEST(frmOtherWres, KeepsTheShortlist) {
   EXPECT_FALSE(play.Desk.Enabled("cmdremove"));
   play.Reopen();
   for (const Word& place : play.World().Game().Shortlist) EXPECT_EQ(place, 0);
-}
-
-TEST(frmOtherWres, SaysThatAFullShortlistIsFull) {
-  GameOnWorld play(SmallWorld().Promotion("CWA").Promotion("NEW").Crew(16).Game("CWA"));
-  for (int i = 1; i <= 15; ++i) play.World().Game().Shortlist[static_cast<std::size_t>(i - 1)] = i;
-  play.Desk.Open("frmOtherWres");
-  play.Desk.Pick("lstwres", "NEW Hand 16");
-  play.Desk.ExpectSay("Shortlist",
-                      "Your shortlist is full: it holds 15 workers. Take somebody off it first.");
-  play.Desk.Click("cmdshortlist");
-  EXPECT_EQ(play.Desk.Text("cmdshortlist"), "Put On Shortlist");
 }
 
 TEST(frmWorker, OffersWhatAppliesAndSurvivesItsSubject) {

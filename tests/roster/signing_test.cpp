@@ -177,30 +177,6 @@ TEST(JudgeSigning, HearsEachObjectionAloneAtItsEdge) {
   }
 }
 
-TEST(JudgeSigning, DropsWhatIsLeftOfAThousandOfThePriceItNames) {
-  struct Case {
-    Twist Wants;
-    int Price;  // of 104: 124.8, 135.2 and 145.6
-  };
-  constexpr Case kCases[] = {{[](Talk& t) { t.Wants.CreativeControl = true; }, 124},
-                             {[](Talk& t) { t.Wants.Position = kManager; }, 124},
-                             {[](Talk& t) {
-                                t.Offer.Position = kNonWrestler;
-                                t.Who.Speed = 61;
-                              },
-                              135},
-                             {[](Talk& t) { t.Wants.Position = kNonWrestler; }, 145}};
-  for (const Case& c : kCases) {
-    Talk talk;
-    talk.Wants.Wage = 104;
-    c.Wants(talk);
-    talk.Offer.Wage = c.Price - 1;
-    EXPECT_NE(talk.Judge(), "") << c.Price;
-    talk.Offer.Wage = c.Price;
-    EXPECT_EQ(talk.Judge(), "") << c.Price;
-  }
-}
-
 TEST(JudgeSigning, GoesDownItsListInOrder) {
   struct Step {
     Twist Change;
@@ -311,18 +287,6 @@ TEST(WhyNoSigning, HoldsOnlyTheBoundToTheirEmployer) {
   ray.ContractType = "Non";
   EXPECT_EQ(WhyNoSigning(world, ray), "");
   EXPECT_EQ(WhyNoSigning(world, Named(world.Workers(), "Free Fred")), "");
-}
-
-TEST(MoreMoneyText, KnowsBothSexes) {
-  Worker worker;
-  worker.Gender = true;
-  EXPECT_EQ(MoreMoneyText(worker),
-            "He agrees to negotiate, but will need a higher wage to justify leaving his current "
-            "employer.");
-  worker.Gender = false;
-  EXPECT_EQ(MoreMoneyText(worker),
-            "She agrees to negotiate, but will need a higher wage to justify leaving her current "
-            "employer.");
 }
 
 SigningOffer Called(const char* name, const char* shortName) {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "roster/placement.h"
+#include "roster/postings.h"
 #include "show/aftermatch.h"
 #include "stage.h"
 

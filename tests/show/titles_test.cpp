@@ -107,6 +107,14 @@ TEST(ChangeTitle, LeavesChampionsWhoWinOrDraw) {
   ExpectSame(stage.W, before);
 }
 
+/// What the notes say of a champion who followed the image of the Title.
+std::string StepOf(Stage& stage, const char* name, int before) {
+  const Worker& champion = stage[name];
+  if (champion.Over == before) return "";
+  return champion.Name.Str() + (champion.Over > before ? " gained" : " lost") +
+         " overness from this match. ";
+}
+
 TEST(TitleImage, FollowsTheRatingAndItsChampion) {
   struct Case {
     int Overall, Over, Image, ImageAfter, OverAfter;
@@ -130,7 +138,8 @@ TEST(TitleImage, FollowsTheRatingAndItsChampion) {
     MoveTitleImage(stage.Run);
     EXPECT_EQ(Crown(stage).Image, c.ImageAfter) << c.Overall << "/" << c.Over << "/" << c.Image;
     EXPECT_EQ(stage["Ash"].Over, c.OverAfter) << c.Overall << "/" << c.Over << "/" << c.Image;
-    EXPECT_EQ(stage.Run.Notes, c.Notes) << c.Overall << "/" << c.Over << "/" << c.Image;
+    EXPECT_EQ(stage.Run.Notes, StepOf(stage, "Ash", c.Over) + std::string(c.Notes))
+        << c.Overall << "/" << c.Over << "/" << c.Image;
   }
 }
 
@@ -157,7 +166,9 @@ TEST(TitleImage, OfATagTitleCountsBothChampions) {
     EXPECT_EQ(Pair(stage).Image, c.ImageAfter) << c.Overall;
     EXPECT_EQ(stage["Ash"].Over, c.After1) << c.Overall;
     EXPECT_EQ(stage["Bea"].Over, c.After2) << c.Overall;
-    EXPECT_EQ(stage.Run.Notes, c.Notes) << c.Overall;
+    EXPECT_EQ(stage.Run.Notes,
+              StepOf(stage, "Ash", c.Over1) + StepOf(stage, "Bea", c.Over2) + std::string(c.Notes))
+        << c.Overall;
   }
 }
 

@@ -3,10 +3,7 @@
 #include "records/angles.h"
 #include "records/checkworld.h"
 #include "records/segments.h"
-#include "storylines/managers.h"
-#include "storylines/stables.h"
-#include "storylines/teams.h"
-#include "storylines/turns.h"
+#include "storylines/partners.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {

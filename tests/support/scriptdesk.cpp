@@ -105,6 +105,7 @@ std::optional<ScriptDesk::Expected> ScriptDesk::Meet(const std::string& kind,
                                                      const std::string& title,
                                                      const std::string& text) {
   boxes_.push_back({kind, title, text});
+  if (IsEasy && (kind == "Say" || expected_.empty())) return std::nullopt;
   if (expected_.empty()) {
     ADD_FAILURE() << "Unexpected box: " << kind << "(\"" << title << "\", \"" << text << "\")";
     return std::nullopt;

@@ -109,9 +109,8 @@ int FoundWorld(Disk& disk, const std::vector<Files>& worlds, int least, int most
   std::string& why = fault ? *fault : ignored;
   try {
     const Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, options);
-    for (const std::string& remark : slot.Remarks()) {
-      if (remark.ends_with("it is no file of a game.")) continue;  // somebody's own
-      why = remark;
+    if (!slot.Remarks().empty()) {
+      why = slot.Remarks().front();
       return -1;
     }
     for (int world = most; world >= least; --world)

@@ -7,9 +7,9 @@
 #include <set>
 #include <utility>
 
-#include "booking/autobooker.h"
+#include "booking/auto/autobooker.h"
 #include "booking/sheet.h"
-#include "calendar/daykind.h"
+#include "calendar/advanceday.h"
 #include "calendar/events.h"
 #include "info/results.h"
 #include "records/charset.h"

@@ -5,8 +5,8 @@
 #include <map>
 #include <set>
 
-#include "booking/writers.h"
-#include "business/sponsorlimits.h"
+#include "booking/wizard/roster.h"
+#include "business/sponsors.h"
 #include "calendar/events.h"
 #include "records/charset.h"
 #include "records/checkworld.h"

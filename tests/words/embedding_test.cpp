@@ -86,6 +86,9 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
   const char* signing = "{who} has signed for {house}.";
   expected.push_back(At("news.txt", Replace("news.txt", signing, "{who} signed for {home}.")) +
                      "there is no slot {home} here; there is {who} and {house}");
+  expected.insert(expected.begin(), At("meeting.txt", Replace("meeting.txt", "{n:is|are} unhappy",
+                                                              "{n} are unhappy")) +
+                                        "one or many: write {n:one form|are}");
   EXPECT_EQ(Embed(), expected);
   EXPECT_FALSE(fs::exists(Out())) << "nothing is made of words with mistakes";
 }

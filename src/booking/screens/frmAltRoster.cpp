@@ -1,10 +1,13 @@
+#include <algorithm>
+
 #include "booking/screens/bookingscreens.h"
 #include "records/counted.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
-#include "storylines/managers.h"
+#include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
 
@@ -41,34 +44,28 @@ class frmAltRoster : public ui::Screen {
     return false;
   }
 
-  std::string TeamsOf(const Worker& worker) {
-    std::string names;
+  ui::Cell TeamsCell(const Worker& worker) {
+    std::vector<std::string> names;
     for (const Team& team : world().Teams())
       if (team.Worker1 == worker.Uid || team.Worker2 == worker.Uid)
-        names += (names.empty() ? "" : ", ") + team.Name.Str();
-    return names;
+        names.push_back(team.Name.Str());
+    return Joined(names);
   }
 
-  static std::string_view Named(std::string_view name) { return name == "None" ? "" : name; }
+  ui::Cell ManagerCell(const Worker& worker) {
+    const Worker* manager = ManagerOf(world(), worker);
+    return manager ? manager->Name.View() : "";
+  }
+
+  static ui::Cell Named(std::string_view name) { return name == "None" ? "" : name; }
 
   void ShowRoster() {
-    std::vector<ui::ListBox::Row> rows;
-    int onCard = 0;
-    for (const Worker* worker : SeenOnShows(world())) {
-      const bool booked = IsOnTheCard(*worker);
-      if (booked) ++onCard;
-      const Worker* manager = ManagerOf(world(), *worker);
-      rows.push_back({{worker->Name.View(), PositionText(worker->Position),
-                       DispositionCell(*worker), ui::Cell(worker->Over),
-                       worker->Status == "Nor" ? ui::Cell(worker->Condition) : StatusCell(*worker),
-                       ui::Cell(worker->Morale), Named(worker->Stable), TeamsOf(*worker),
-                       manager ? manager->Name.View() : "", Named(worker->Split),
-                       ui::Cell(booked ? "Booked" : "", ui::Tone::Gold)},
-                      worker->Uid});
-    }
-    lblfacts.Text = Counted(std::ssize(rows), "worker") + ", " + std::to_string(onCard) +
+    const std::vector<const Worker*> seen = SeenOnShows(world());
+    const auto onCard = std::count_if(seen.begin(), seen.end(),
+                                      [&](const Worker* worker) { return IsOnTheCard(*worker); });
+    lblfacts.Text = Counted(std::ssize(seen), "worker") + ", " + std::to_string(onCard) +
                     " of them on the card";
-    lstwres.Fill(std::move(rows));
+    FillTable(lstwres, columns_, seen);
   }
 
   void ShowButtons() { EnableUnless(cmdstats, lstwres.Key() == 0 ? "Choose somebody first." : ""); }
@@ -79,21 +76,25 @@ class frmAltRoster : public ui::Screen {
   using K = ui::ColumnKind;
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstwres{*this,
-                      "lstwres",
-                      {{"Name"},
-                       {"Position"},
-                       {"Disp.", K::Tag},
-                       {"Over", K::Number, 0, "Popularity."},
-                       {"Condition", K::Percent},
-                       {"Morale", K::Percent},
-                       {"Stable"},
-                       {"Teams"},
-                       {"Manager"},
-                       {"Split"},
-                       {"Card", K::Tag, 0, "Booked on the sheet."}},
-                      &frmAltRoster::ShowButtons,
-                      cmdstats};
+  const ColumnsOf<Worker> columns_ = {
+      {{"Name"}, [](const Worker& worker) { return worker.Name.View(); }},
+      {{"Position"}, [](const Worker& worker) { return PositionText(worker.Position); }},
+      {{"Disp.", K::Tag}, DispositionCell},
+      {{"Over", K::Number, 0, "Popularity."},
+       [](const Worker& worker) { return ui::Cell(worker.Over); }},
+      {{"Condition", K::Percent},
+       [](const Worker& worker) {
+         return worker.Status == "Nor" ? ui::Cell(worker.Condition) : StatusCell(worker);
+       }},
+      {{"Morale", K::Percent}, [](const Worker& worker) { return ui::Cell(worker.Morale); }},
+      {{"Stable"}, [](const Worker& worker) { return Named(worker.Stable); }},
+      {{"Teams"}, [this](const Worker& worker) { return TeamsCell(worker); }},
+      {{"Manager"}, [this](const Worker& worker) { return ManagerCell(worker); }},
+      {{"Split"}, [](const Worker& worker) { return Named(worker.Split); }},
+      {{"Card", K::Tag, 0, "Booked on the sheet."}, [this](const Worker& worker) {
+         return ui::Cell(IsOnTheCard(worker) ? "Booked" : "", ui::Tone::Gold);
+       }}};
+  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmAltRoster::ShowButtons, cmdstats};
   ui::Button cmdstats{*this, "cmdstats", "Stats", &frmAltRoster::cmdstats_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmAltRoster::cmdback_Click};
 };
@@ -101,5 +102,71 @@ class frmAltRoster : public ui::Screen {
 }  // namespace
 
 SCREEN(frmAltRoster)
+
+namespace {
+
+/// The player's Titles to look up while a show is being booked.
+class frmAltBelts : public ui::Screen {
+ public:
+  explicit frmAltBelts(Game& game) : Screen(game.Desk(), "frmAltBelts", "Titles"), game_(game) {
+    lsttitles.EmptyText = "Your promotion has no Title.";
+    lsthistory.EmptyText = "Choose a Title to see who has held it.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback};
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns({ui::Group("", {ui::Grow(lsttitles)}).Grow(4),
+                             ui::Group("Who has held it", {ui::Grow(lsthistory)}).Grow(3)});
+    return page;
+  }
+
+  void Load() override {
+    ShowTitles();
+    lsttitles.Select(lsttitles.Count() > 0 ? 1 : 0);
+    ShowHistory();
+  }
+  void Return() override {
+    ShowTitles();
+    ShowHistory();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+
+  void ShowTitles() {
+    std::vector<ui::ListBox::Row> rows;
+    int vacant = 0;
+    const auto columns = TitleTable(world());
+    for (const grapplemont::Title& title : world().Titles()) {
+      if (!IsPlayers(world(), title)) continue;
+      if (title.Holder == 0) ++vacant;
+      rows.push_back(RowOf(columns, title, world().Titles().NumberOf(title)));
+    }
+    lblfacts.Text = Counted(std::ssize(rows), "Title") + ", " + std::to_string(vacant) + " vacant";
+    lsttitles.Fill(std::move(rows));
+  }
+
+  void ShowHistory() {
+    const int number = lsttitles.Key();
+    lsthistory.Fill(number == 0 ? std::vector<ui::ListBox::Row>{}
+                                : ReignRows(world().Titles()[number]));
+  }
+
+  void cmdback_Click() { Close(); }
+
+  Game& game_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ListBox lsttitles{*this, "lsttitles", HeadingsOf(TitleTable(world())),
+                        &frmAltBelts::ShowHistory};
+  ui::ListBox lsthistory{*this, "lsthistory", ReignColumns()};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmAltBelts::cmdback_Click};
+};
+
+}  // namespace
+
+SCREEN(frmAltBelts)
 
 }  // namespace grapplemont

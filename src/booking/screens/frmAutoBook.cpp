@@ -1,6 +1,7 @@
 #include "booking/screens/bookingscreens.h"
+#include "booking/screens/screensheet.h"
 #include "booking/sheet.h"
-#include "booking/sheetrow.h"
+#include "records/counted.h"
 #include "records/segments.h"
 #include "report/report.h"
 #include "show/holdshow.h"
@@ -10,21 +11,14 @@ namespace grapplemont {
 
 namespace {
 
-/// What a card may come to if it is the one that is held.
-ShowForecast ForecastCard(World& world, const AutoCard& card) {
+/// What `look` makes of the sheet with a card in it; the sheet stays as it is.
+template <class Look>
+auto WithCard(World& world, const AutoCard& card, Look look) {
   const std::vector<Segment> sheet(world.Segments().begin(), world.Segments().end());
   TakeCard(world, card);
-  ShowForecast forecast = ForecastShow(world, false, TvTeam(world));
+  auto seen = look();
   world.Segments().Rewrite(sheet);
-  return forecast;
-}
-
-bool IsEnough(World& world, const AutoCard& card) {
-  const std::vector<Segment> sheet(world.Segments().begin(), world.Segments().end());
-  TakeCard(world, card);
-  const bool enough = MayStart(world, false);
-  world.Segments().Rewrite(sheet);
-  return enough;
+  return seen;
 }
 
 /// A card for today's television show, proposed whole. What the sheet holds already stays in it;
@@ -65,14 +59,15 @@ class frmAutoBook : public ui::Screen {
   }
 
   void ShowCard() {
-    forecast_ = ForecastCard(world(), card_);
+    forecast_ =
+        WithCard(world(), card_, [&] { return ForecastShow(world(), false, TvTeam(world())); });
     const Show* show = ShowOfToday(world());
     lblfacts.Text = show ? show->Name.Str() : "No show today";
     lblrating.Text = "Expected rating " + RangeText(forecast_.Rating) + ".";
     FillRows();
     ShowMissing();
     const bool any = lstcard.Count() > 0;
-    EnableUnless(cmdbook, IsEnough(world(), card_) ? ""
+    EnableUnless(cmdbook, WithCard(world(), card_, [&] { return MayStart(world(), false); }) ? ""
                           : any ? "The card is too short for the show to be held."
                                 : "There is no show today.");
     EnableUnless(cmdsheet, any ? "" : "There is no card to send.");
@@ -80,36 +75,33 @@ class frmAutoBook : public ui::Screen {
 
   void FillRows() {
     std::vector<ui::ListBox::Row> rows;
-    for (int record = 1; record <= static_cast<int>(card_.Rows.size()); ++record) {
-      const Segment& segment = card_.Rows[static_cast<std::size_t>(record - 1)];
-      if (segment.Kind == kEmptySegment) continue;
-      const bool atStake = !TitleTip(segment).empty();
-      rows.push_back({{ui::Cell(record), DescribeSegment(world(), segment), KindOfRow(segment),
-                       ui::Cell(atStake ? "Title" : "", ui::Tone::Gold),
-                       ui::Cell(FeudOfRow(world(), segment), ui::Tone::Gold),
-                       ui::Cell(0, ForecastOfRow(forecast_, record))},
-                      record});
-    }
+    const auto columns = Table();
+    for (int record = 1; record <= static_cast<int>(card_.Rows.size()); ++record)
+      if (const Segment& segment = card_.Rows[static_cast<std::size_t>(record - 1)];
+          segment.Kind != kEmptySegment)
+        rows.push_back(RowOf(columns, {record, segment, forecast_}, record));
     lstcard.Fill(std::move(rows));
   }
 
+  ColumnsOf<SheetRow> Table() {
+    ColumnsOf<SheetRow> columns = SheetTable(world());
+    columns.insert(columns.begin(), {{"#", ui::ColumnKind::Number},
+                                     [](const SheetRow& row) { return ui::Cell(row.Record); }});
+    return columns;
+  }
+
   void ShowMissing() {
-    std::string text;
-    for (const auto* lines : {&card_.Missing, &forecast_.Warnings})
-      for (const std::string& line : *lines) text += (text.empty() ? "" : "\n") + line;
+    std::vector<std::string> lines = card_.Missing;
+    lines.insert(lines.end(), forecast_.Warnings.begin(), forecast_.Warnings.end());
+    const std::string text = Joined(lines, "\n");
     lblmissing.Text = text;
     lblmissing.Visible = !text.empty();
   }
 
   void ShowRow() {
-    using Style = ui::Report::Style;
     const int record = lstcard.Key();
     if (record == 0) return txtrow.Write("");
-    const Segment& segment = card_.Rows[static_cast<std::size_t>(record - 1)];
-    std::vector<ui::Report::Paragraph> told{{Style::Strong, DescribeSegment(world(), segment)}};
-    for (std::string& line : SummaryOfRow(world(), segment, false))
-      told.push_back({Style::Line, std::move(line)});
-    txtrow.Write(std::move(told));
+    txtrow.Write(ToldOf(world(), card_.Rows[static_cast<std::size_t>(record - 1)], false));
   }
 
   void cmdbook_Click() {
@@ -138,20 +130,11 @@ class frmAutoBook : public ui::Screen {
   void cmdagain_Click() { Propose(); }
   void cmdback_Click() { Close(); }
 
-  using K = ui::ColumnKind;
   Game& game_;
   AutoCard card_;
   ShowForecast forecast_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstcard{*this,
-                      "lstcard",
-                      {{"#", K::Number},
-                       {"Segment", K::Text, 1},
-                       {"Kind", K::Tag},
-                       {"Title", K::Tag},
-                       {"Feud", K::Tag},
-                       {"Forecast", K::Number, 0, "What its rating may come to."}},
-                      &frmAutoBook::ShowRow};
+  ui::ListBox lstcard{*this, "lstcard", HeadingsOf(Table()), &frmAutoBook::ShowRow};
   ui::Report txtrow{*this, "txtrow"};
   ui::Label lblrating{*this, "lblrating"};
   ui::Label lblmissing{*this, "lblmissing"};

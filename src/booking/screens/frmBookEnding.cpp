@@ -1,78 +1,169 @@
 #include <algorithm>
 
-#include "booking/grievances.h"
-#include "booking/offers.h"
-#include "booking/screens/screenmatchstep.h"
+#include "booking/screens/screenstep.h"
 #include "booking/screens/stepscreens.h"
+#include "booking/wizard/objections.h"
+#include "booking/wizard/offers.h"
 
 namespace grapplemont {
 
 namespace {
 
-/// A step that picks a code of how the match ends, and perhaps who runs in for it.
-struct EndingRow {
-  std::string_view Screen;
-  std::string_view List;
-  MatchStep Does;
-  int RunIns;
-};
-constexpr EndingRow kEndings[] = {
-    {"frmBook1vs1Finish", "lstfinish", kFinishStep, 1},
-    {"frmBook2vs2Finish", "lstfinish", kFinishStep, 2},
-    {"frmBook3vs3Finish", "lstfinish", kFinishStep, 0},
-    {"frmBook4vs4Finish", "lstfinish", kFinishStep, 0},
-    {"frmBookAfter", "lstafter", kAftermathStep, 1},
-    {"frmBook2vs2After", "lstafter", kAftermathStep, 2},
-    {"frmBookPurpose", "lstpurpose", kPurposeStep, 0},
-    {"frmBook2vs2Purpose", "lstpurpose", kPurposeStep, 0},
-};
+/// Who wins, and who loses in which order. In a match between two the loser needs no box.
+class frmBookWinner : public MatchStepScreen {
+ public:
+  frmBookWinner(Game& game, WizardHost& host)
+      : MatchStepScreen(game, host), form_(ResultFormOf(buffer())) {}
 
-const EndingRow& RowOf(const std::string& name) {
-  for (const EndingRow& row : kEndings)
-    if (row.Screen == name) return row;
-  return kEndings[0];
-}
+ private:
+  void Prepare() override {
+    FillPeople(lstring, People());
+    FillBox(cmbwinner);
+    if (OffersDraw(buffer())) cmbwinner.Add("Draw");
+    for (int box = 1; box <= form_.Losers; ++box) {
+      if (form_.MayBeNone) cmbloser(box).Add("None");
+      FillBox(cmbloser(box));
+    }
+    cmbwinner.Select(1);
+    SuggestLosers();
+    ShowPicks();
+  }
+
+  ui::Box Body() override {
+    std::vector<ui::Box> boxes = {ui::Field("Winner", cmbwinner)};
+    for (int box = 1; box <= form_.Losers; ++box)
+      boxes.push_back(ui::Field(LoserLabel(box), cmbloser(box)));
+    boxes.push_back(ui::Spacer());
+    return ui::Rows({ui::Columns({ui::Group("Result", std::move(boxes)).Grow(2),
+                                  ui::Group("In the ring", {ui::Grow(lstring)}).Grow(3)})
+                         .Grow(),
+                     Objections()});
+  }
+
+  bool Store() override { return Accept(Draft(), kResultStep); }
+
+  std::string LoserLabel(int box) {
+    if (form_.Losers > 1) return "Loser #" + std::to_string(box);
+    return buffer().Style == kSpecial ? "Runner-up" : "Loser";
+  }
+
+  std::vector<const Worker*> People() {
+    std::vector<const Worker*> people;
+    for (const int uid : PeopleOf(buffer()))
+      if (const Worker* worker = world().FindWorker(uid)) people.push_back(worker);
+    return people;
+  }
+
+  void FillBox(ui::ComboBox& box) {
+    const auto sides = SidesOf(buffer());
+    for (const int uid : ResultCandidates(buffer()))
+      box.Add(form_.Teams
+                  ? SideText(world(), sides[static_cast<std::size_t>(SideOf(buffer(), uid) - 1)])
+                  : SideText(world(), {uid}),
+              uid);
+  }
+
+  /// The others in their order; in a match of two sides those who do not stand beside the winner.
+  void SuggestLosers() {
+    const auto sides = SidesOf(buffer());
+    const int winners = SideOf(buffer(), cmbwinner.Key());
+    std::vector<int> others;
+    for (const int uid : ResultCandidates(buffer()))
+      if (SideOf(buffer(), uid) != winners) others.push_back(uid);
+    for (int box = 1; box <= form_.Losers; ++box) {
+      const auto i = static_cast<std::size_t>(box - 1);
+      i < others.size() ? cmbloser(box).SelectKey(others[i]) : cmbloser(box).Select(1);
+    }
+  }
+
+  Segment Draft() {
+    Segment draft = buffer();
+    std::vector<int> losers;
+    for (int box = 1; box <= form_.Losers; ++box) losers.push_back(cmbloser(box).Key());
+    StoreResult(draft, cmbwinner.Key(), losers);
+    return draft;
+  }
+
+  void cmbwinner_Click() {
+    if (!hasPickedLoser_ && cmbwinner.Key() != 0) SuggestLosers();
+    ShowPicks();
+  }
+
+  /// Whoever is picked in the ring wins.
+  void lstring_Click() {
+    for (const int uid : ResultCandidates(buffer()))
+      if (uid == lstring.Key() ||
+          (form_.Teams && SideOf(buffer(), uid) == SideOf(buffer(), lstring.Key())))
+        cmbwinner.SelectKey(uid);
+    cmbwinner_Click();
+  }
+
+  void cmbloser_Click() {
+    hasPickedLoser_ = true;
+    ShowPicks();
+  }
+
+  void ShowPicks() {
+    const bool draw = cmbwinner.Key() == 0;
+    for (int box = 1; box <= form_.Losers; ++box) {
+      cmbloser(box).Enabled = !draw;
+      cmbloser(box).Tip = draw ? "Nobody loses in a draw." : "";
+    }
+    const bool stands = SideOf(buffer(), lstring.Key()) == SideOf(buffer(), cmbwinner.Key());
+    if (!form_.Teams || !stands) lstring.SelectKey(cmbwinner.Key());
+    ShowObjections(Draft(), kResultStep);
+  }
+
+  const ResultForm& form_;
+  bool hasPickedLoser_ = false;
+  ui::ComboBox cmbwinner{*this, "cmbwinner", &frmBookWinner::cmbwinner_Click};
+  ui::Array<ui::ComboBox> cmbloser{
+      "cmbloser", form_.Losers, [this](const std::string&, int box) {
+        return std::make_unique<ui::ComboBox>(
+            *this, form_.Losers > 1 ? "cmbloser" + std::to_string(box) : "cmbloser",
+            &frmBookWinner::cmbloser_Click);
+      }};
+  ui::ListBox lstring{*this, "lstring", PeopleColumns(), [this] { lstring_Click(); },
+                      [this] { GoOn(); }};
+};
 
 constexpr int kDrawFinishes = 3;
 
-/// What such a step is called, offers and writes.
-struct EndingKind {
+/// A step that picks a code of how the match ends, and perhaps who runs in for it.
+struct EndingRow {
   MatchStep Does;
-  std::string_view Called;
+  std::string_view Called, List;
   Phrases (*Says)(int style);
   std::vector<int> (*Offers)(const World&, const Segment&);
   Word Segment::*Field;
   bool PicksLast;  // "Nothing" and "None" stand last and are preselected
 };
-constexpr EndingKind kKinds[] = {
-    {kFinishStep, "Finish", FinishesOf, OfferedFinishes, &Segment::Finish, false},
-    {kAftermathStep, "Aftermath", AftermathsOf, OfferedAftermaths, &Segment::Aftermath, true},
-    {kPurposeStep, "Purpose", PurposesOf, OfferedPurposes, &Segment::Purpose, true},
+constexpr EndingRow kEndings[] = {
+    {kFinishStep, "Finish", "lstfinish", FinishesOf, OfferedFinishes, &Segment::Finish, false},
+    {kAftermathStep, "Aftermath", "lstafter", AftermathsOf, OfferedAftermaths, &Segment::Aftermath,
+     true},
+    {kPurposeStep, "Purpose", "lstpurpose", PurposesOf, OfferedPurposes, &Segment::Purpose, true},
 };
-
-const EndingKind& KindOf(const EndingRow& row) {
-  return kKinds[row.Does - kFinishStep];
-}
 
 class frmBookEnding : public MatchStepScreen {
  public:
-  frmBookEnding(Game& game, WizardHost& host, const std::string& name)
-      : MatchStepScreen(game, host, name, "Select " + std::string(KindOf(RowOf(name)).Called)),
-        row_(RowOf(name)),
-        kind_(KindOf(row_)) {}
+  frmBookEnding(Game& game, WizardHost& host)
+      : MatchStepScreen(game, host),
+        row_(kEndings[wizard().Step - kFinishStep]),
+        runIns_(row_.Does == kPurposeStep ? 0 : FindMatchForm(buffer().Style)->RunIns) {}
 
  private:
   void Prepare() override {
-    const Phrases phrases = kind_.Says(buffer().Style);
-    for (const int code : kind_.Offers(world(), buffer()))
+    const Phrases phrases = row_.Says(buffer().Style);
+    for (const int code : row_.Offers(world(), buffer()))
       lstcode.Add({PhraseText(world(), buffer(), phrases, code)}, code);
     lstcode.Select(FirstPick());
-    for (int list = 1; list <= row_.RunIns; ++list) FillPeople(lstrun(list), RunIns(), true);
+    for (int list = 1; list <= runIns_; ++list) FillPeople(lstrun(list), RunIns(), true);
     ShowPicks();
   }
 
   int FirstPick() {
-    if (kind_.PicksLast) return lstcode.Count();
+    if (row_.PicksLast) return lstcode.Count();
     // The finishes of a draw stand behind the turns, which nobody should book unawares.
     return IsDraw(buffer()) ? lstcode.Count() - kDrawFinishes + 1 : 1;
   }
@@ -80,7 +171,7 @@ class frmBookEnding : public MatchStepScreen {
   ui::Box Body() override {
     std::vector<ui::Box> tables = {ui::Group("", {ui::Grow(lstcode)}).Grow()}, runIns;
     constexpr const char* kTitles[] = {"Who runs in", "Who runs in as well"};
-    for (int list = 1; list <= row_.RunIns; ++list)
+    for (int list = 1; list <= runIns_; ++list)
       runIns.push_back(ui::Group(kTitles[list - 1], {ui::Grow(lstrun(list))}).Grow());
     // One below the other: the words of the codes need the width.
     if (!runIns.empty()) tables.push_back(ui::Rows(std::move(runIns)).Grow());
@@ -109,18 +200,18 @@ class frmBookEnding : public MatchStepScreen {
 
   Segment Draft() {
     Segment draft = buffer();
-    draft.*kind_.Field = lstcode.Key();
+    draft.*row_.Field = lstcode.Key();
     std::vector<Word*> fields;
     if (row_.Does == kFinishStep) fields = {&draft.Other1, &draft.Other2};
     if (row_.Does == kAftermathStep) fields = AftermathRunIns(draft);
-    for (int list = 1; list <= row_.RunIns && NeedsRunIn(); ++list)
+    for (int list = 1; list <= runIns_ && NeedsRunIn(); ++list)
       *fields[static_cast<std::size_t>(list - 1)] = lstrun(list).Key();
     return draft;
   }
 
   void ShowPicks() {
     const bool needed = NeedsRunIn();
-    for (int list = 1; list <= row_.RunIns; ++list) {
+    for (int list = 1; list <= runIns_; ++list) {
       lstrun(list).Enabled = needed;
       lstrun(list).Tip = needed ? "" : "Nobody runs in for this " + Lowered() + ".";
     }
@@ -132,21 +223,16 @@ class frmBookEnding : public MatchStepScreen {
 
   std::string Lowered() const { return row_.Does == kFinishStep ? "finish" : "aftermath"; }
 
-  void ShowPrice() {
-    const std::string price = GrievanceText(world(), Draft());
-    txtsay.Text =
-        price.empty() ? "Nobody holds this booking against you." : "Morale: " + price + ".";
-    txtsay.Colour = price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
-  }
+  void ShowPrice() { ShowGrievances(txtsay, world(), Draft()); }
 
   const EndingRow& row_;
-  const EndingKind& kind_;
+  const int runIns_;
   ui::ListBox lstcode{*this,
                       std::string(row_.List),
-                      {{std::string(kind_.Called)}},
+                      {{std::string(row_.Called)}},
                       [this] { ShowPicks(); },
                       [this] { GoOn(); }};
-  ui::Array<ui::ListBox> lstrun{"lstrun", row_.RunIns, [this](const std::string&, int list) {
+  ui::Array<ui::ListBox> lstrun{"lstrun", runIns_, [this](const std::string&, int list) {
                                   return std::make_unique<ui::ListBox>(
                                       *this, "lstrun" + std::to_string(list), PeopleColumns(),
                                       [this] { ShowPicks(); }, [this] { GoOn(); });
@@ -155,8 +241,12 @@ class frmBookEnding : public MatchStepScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakeEndingStep(Game& game, WizardHost& host, const std::string& name) {
-  return std::make_unique<frmBookEnding>(game, host, name);
+std::unique_ptr<ui::Screen> MakeResultStep(Game& game, WizardHost& host) {
+  return std::make_unique<frmBookWinner>(game, host);
+}
+
+std::unique_ptr<ui::Screen> MakeEndingStep(Game& game, WizardHost& host) {
+  return std::make_unique<frmBookEnding>(game, host);
 }
 
 }  // namespace grapplemont

@@ -1,20 +1,93 @@
 #include <algorithm>
 
-#include "booking/screens/screenmatchstep.h"
+#include "booking/screens/screenstep.h"
 #include "booking/screens/stepscreens.h"
+#include "booking/wizard/matchrules.h"
+#include "storylines/partners.h"
+#include "storylines/screens/screenpeople.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
 
 namespace {
+
+struct Choice {
+  std::string_view Says;
+  int Code;
+};
+
+std::vector<Choice> Kinds(const World&, const Segment&) {
+  std::vector<Choice> kinds;
+  for (const Term& kind : kSegmentKinds)
+    if (kind.Code != kEmptySegment) kinds.push_back({kind.Says, kind.Code});
+  return kinds;
+}
+
+template <const auto& rows>
+std::vector<Choice> AllOf(const World&, const Segment&) {
+  std::vector<Choice> all;
+  for (const auto& row : rows) all.push_back({row.Says, row.Code});
+  return all;
+}
+
+std::vector<Choice> Types(const World& world, const Segment& segment) {
+  std::vector<Choice> types;
+  for (const MatchTypeRow* type : OfferedMatchTypes(world, segment.Style))
+    types.push_back({type->Says, type->Code});
+  return types;
+}
+
+/// A step that is a single list of codes.
+struct ChoiceRow {
+  std::string_view List, Heading;
+  std::vector<Choice> (*Offers)(const World&, const Segment&);
+  Word Segment::*Field;
+};
+constexpr ChoiceRow kKindChoice = {"lststyle", "Segment", Kinds, &Segment::Kind};
+constexpr ChoiceRow kStyleChoice = {"lsttype", "Match style", AllOf<kMatchStyles>, &Segment::Style};
+constexpr ChoiceRow kTypeChoice = {"lststyle", "Match type", Types, &Segment::MatchType};
+constexpr ChoiceRow kTalkStyleChoice = {"lsttype", "Interview style", AllOf<kInterviewStyles>,
+                                        &Segment::Style};
+
+const ChoiceRow& RowOf(const Wizard& wizard) {
+  if (wizard.Step == kKindStep) return kKindChoice;
+  if (wizard.Step == kTypeStep) return kTypeChoice;
+  return wizard.Buffer.Kind == kInterview ? kTalkStyleChoice : kStyleChoice;
+}
+
+class frmBookChoice : public StepScreen {
+ public:
+  frmBookChoice(Game& game, WizardHost& host) : StepScreen(game, host), row_(RowOf(wizard())) {
+    list_.EmptyText = "Nothing of this kind can be booked.";
+  }
+
+ private:
+  void Prepare() override {
+    for (const Choice& choice : row_.Offers(world(), buffer()))
+      list_.Add({choice.Says}, choice.Code);
+    list_.Select(list_.Count() > 0 ? 1 : 0);
+    AllowDone(list_.Count() > 0, list_.EmptyText);
+  }
+
+  ui::Box Body() override { return ui::Group("", {ui::Grow(list_)}); }
+
+  bool Store() override {
+    buffer().*row_.Field = list_.Key();
+    return true;
+  }
+
+  const ChoiceRow& row_;
+  ui::ListBox list_{
+      *this, std::string(row_.List), {{std::string(row_.Heading)}}, {}, [this] { GoOn(); }};
+};
 
 constexpr const char* kChooseAll = "Choose somebody in every list.";
 
 /// Who stands in the match: a list a place, the lists of a side together.
 class frmBookPeople : public MatchStepScreen {
  public:
-  frmBookPeople(Game& game, WizardHost& host, const std::string& name)
-      : MatchStepScreen(game, host, name, "Select Participants"),
-        style_(*FindMatchStyle(buffer().Style)) {}
+  frmBookPeople(Game& game, WizardHost& host)
+      : MatchStepScreen(game, host), style_(*FindMatchStyle(buffer().Style)) {}
 
  private:
   void Prepare() override {
@@ -81,11 +154,9 @@ class frmBookPeople : public MatchStepScreen {
     AllowDone(IsComplete(), kChooseAll);
   }
 
-  /// Who belongs to a Tag Team mostly stands beside his partner.
+  /// Who belongs to a Tag Team mostly stands beside their partner.
   void SuggestPartner(int uid, ui::ListBox& partners) {
-    for (const Team& team : world().Teams()) {
-      if (team.Worker1 != uid && team.Worker2 != uid) continue;
-      const int partner = team.Worker1 == uid ? team.Worker2 : team.Worker1;
+    for (const int partner : PartnersOf(world(), uid)) {
       if (!IsChosen(partner)) partners.SelectKey(partner);
       if (partners.Key() != 0) return;
     }
@@ -100,10 +171,127 @@ class frmBookPeople : public MatchStepScreen {
       }};
 };
 
+/// The field of a battle royal: the roster at the left, who has been entered at the right, in the
+/// order of entry.
+class frmBookSpecial : public MatchStepScreen {
+ public:
+  frmBookSpecial(Game& game, WizardHost& host) : MatchStepScreen(game, host) {
+    lstroster.Multi = true;
+    lstroster.EmptyText = "Nobody is left on the roster who could be entered.";
+    lstenter.EmptyText = "Nobody has been entered. Choose from the roster.";
+  }
+
+ private:
+  void Prepare() override { ShowLists(); }
+
+  ui::Box Body() override {
+    return ui::Columns({ui::Rows({lblroster, ui::Grow(lstroster), cmdadd}).Grow(),
+                        ui::Rows({lblenter, ui::Grow(lstenter), cmdrem}).Grow()});
+  }
+
+  bool Store() override {
+    Segment draft = buffer();
+    for (std::size_t i = 0; i < entered_.size(); ++i) draft.Worker[i] = entered_[i];
+    return Accept(draft, kPeopleStep);
+  }
+
+  std::size_t Needed() { return static_cast<std::size_t>(EntrantsOf(buffer())); }
+
+  void ShowLists() {
+    std::vector<const Worker*> left, in;
+    for (const Worker* worker : EligibleRoster(world(), wizard().View))
+      if (std::find(entered_.begin(), entered_.end(), worker->Uid) == entered_.end())
+        left.push_back(worker);
+    for (const int uid : entered_) in.push_back(world().FindWorker(uid));
+    FillPeople(lstroster, left);
+    FillPeople(lstenter, in);
+    lblroster.Text = "Roster : " + std::to_string(left.size());
+    lblenter.Text = "Entered : " + std::to_string(in.size());
+    AllowDone(entered_.size() == Needed(), std::to_string(Needed()) +
+                                               " workers must be entered; so far it is " +
+                                               std::to_string(entered_.size()) + ".");
+    ShowButtons();
+  }
+
+  void ShowButtons() {
+    EnableUnless(cmdadd, lstroster.Key() == 0 ? "Choose somebody on the roster." : "");
+    EnableUnless(cmdrem, lstenter.Key() == 0 ? "Choose somebody who has been entered." : "");
+  }
+
+  void cmdadd_Click() {
+    for (const int uid : lstroster.Keys()) entered_.push_back(uid);
+    ShowLists();
+  }
+
+  void cmdrem_Click() {
+    std::erase(entered_, lstenter.Key());
+    ShowLists();
+  }
+
+  std::vector<int> entered_;  // uids
+  ui::Label lblroster{*this, "lblroster"};
+  ui::ListBox lstroster{*this, "lstroster", PeopleColumns(), &frmBookSpecial::ShowButtons, cmdadd};
+  ui::Button cmdadd{*this, "cmdadd", "Add", &frmBookSpecial::cmdadd_Click};
+  ui::Label lblenter{*this, "lblenter"};
+  ui::ListBox lstenter{*this, "lstenter", PeopleColumns(), &frmBookSpecial::ShowButtons, cmdrem};
+  ui::Button cmdrem{*this, "cmdrem", "Remove", &frmBookSpecial::cmdrem_Click};
+};
+
+/// What the match is for.
+class frmBookBelt : public MatchStepScreen {
+ public:
+  using MatchStepScreen::MatchStepScreen;
+
+ private:
+  void Prepare() override {
+    for (const grapplemont::Title* title : OfferedTitles(world(), buffer()))
+      lsttitle.Add({title->Name.View(), ChampionText(world(), *title), ui::Cell(title->Image)},
+                   world().Titles().NumberOf(*title));
+    lsttitle.Add({"None", "", ""});
+    lsttitle.Select(lsttitle.Count());
+  }
+
+  ui::Box Body() override { return ui::Group("", {ui::Grow(lsttitle)}); }
+
+  bool Store() override {
+    const int record = lsttitle.Key();
+    if (record == 0) {
+      buffer().TitleName = "None";
+      return true;
+    }
+    const grapplemont::Title& title = world().Titles()[record];
+    if (IsChampionMissing(buffer(), title) && !desk().Ask("Continue?", Question())) return false;
+    buffer().TitleName = title.Name;
+    return true;
+  }
+
+  std::string Question() {
+    return FindMatchStyle(buffer().Style)->PerSide == 2
+               ? "The tag team champions are not present in this match! Continue?"
+               : "The champion is not present in this match! Continue?";
+  }
+
+  using K = ui::ColumnKind;
+  ui::ListBox lsttitle{*this,
+                       "lsttitle",
+                       {{"Title", K::Text, 4}, {"Holder", K::Text, 4}, {"Image", K::Percent, 2}},
+                       {},
+                       [this] { GoOn(); }};
+};
+
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakePeopleStep(Game& game, WizardHost& host, const std::string& name) {
-  return std::make_unique<frmBookPeople>(game, host, name);
+std::unique_ptr<ui::Screen> MakeChoiceStep(Game& game, WizardHost& host) {
+  return std::make_unique<frmBookChoice>(game, host);
+}
+
+std::unique_ptr<ui::Screen> MakePeopleStep(Game& game, WizardHost& host) {
+  if (host.State().Buffer.Style == kSpecial) return std::make_unique<frmBookSpecial>(game, host);
+  return std::make_unique<frmBookPeople>(game, host);
+}
+
+std::unique_ptr<ui::Screen> MakeTitleStep(Game& game, WizardHost& host) {
+  return std::make_unique<frmBookBelt>(game, host);
 }
 
 }  // namespace grapplemont

@@ -1,7 +1,7 @@
-#include "booking/grievances.h"
 #include "booking/screens/bookingscreens.h"
 #include "booking/screens/screenstep.h"
-#include "booking/segmentcheck.h"
+#include "booking/wizard/objections.h"
+#include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
 
@@ -37,7 +37,7 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     cmbsplit.Add("All");
     const Promotion& player = game_.World().Player();
     for (const auto& split : player.Split)
-      if (!(split == "None") && !split.View().empty()) cmbsplit.Add(split.Str());
+      if (split != "None" && !split.View().empty()) cmbsplit.Add(split.Str());
     cmbsplit.Select(1);
     RefreshWizard();
   }
@@ -53,8 +53,7 @@ class frmBookSheet : public ui::Screen, public WizardHost {
   }
 
   void OpenStep() {
-    if (auto step = MakeStepScreen(game_, *this, ScreenOfStep(wizard_, wizard_.Step)))
-      desk().Open(std::move(step));
+    if (auto step = MakeStepScreen(game_, *this)) desk().Open(std::move(step));
   }
 
  private:
@@ -73,14 +72,10 @@ class frmBookSheet : public ui::Screen, public WizardHost {
   void RefreshWizard() {
     for (int step = 0; step < kRows; ++step) ShowRow(step);
     lblfacts.Text = "Slot " + std::to_string(wizard_.CurrentSlot);
-    const std::string price = GrievanceText(game_.World(), wizard_.Buffer);
-    lblprice.Text =
-        price.empty() ? "Nobody holds this booking against you." : "Morale: " + price + ".";
-    lblprice.Colour = price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
+    ShowGrievances(lblprice, game_.World(), wizard_.Buffer);
     lblprice.Visible = wizard_.SegmentComplete;
     cmdstep.Visible = !wizard_.SegmentComplete;
-    cmdcomplete.Enabled = wizard_.SegmentComplete;
-    cmdcomplete.Tip = wizard_.SegmentComplete ? "" : "Every step must be done first.";
+    EnableUnless(cmdcomplete, wizard_.SegmentComplete ? "" : "Every step must be done first.");
   }
 
   void ShowRow(int step) {
@@ -89,13 +84,12 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     At(txtstep, step).Colour = step == CurrentRow() ? ui::Tone::Gold : ui::Tone::Muted;
     At(txtdesc, step).Text = text.Summary;
     At(txtdesc, step).Tip = text.Tip;
-    At(cmdbook, step).Enabled = step == CurrentRow();
-    At(cmdback, step).Enabled = step == BackRow();
-    At(cmdbook, step).Tip = step == CurrentRow() ? "" : "It is another step's turn.";
-    At(cmdback, step).Tip = step == BackRow() ? "" : "Only the last step can be taken back.";
+    EnableUnless(At(cmdbook, step), step == CurrentRow() ? "" : "It is another step's turn.");
+    EnableUnless(At(cmdback, step),
+                 step == BackRow() ? "" : "Only the last step can be taken back.");
   }
 
-  /// On a finished booking the last step is done anew.
+  /// On a finished booking the last step is done again.
   void cmdbook_Click() {
     if (wizard_.SegmentComplete) StepBack(wizard_);
     OpenStep();

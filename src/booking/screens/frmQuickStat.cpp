@@ -1,6 +1,8 @@
+#include "booking/debuts.h"
 #include "booking/screens/bookingscreens.h"
+#include "records/counted.h"
 #include "records/modWresCheck.h"
-#include "storylines/managers.h"
+#include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
 
@@ -38,22 +40,23 @@ constexpr Trait kTraits[] = {
 };
 
 std::string TraitsOf(const Worker& worker) {
-  std::string text;
+  std::vector<std::string> traits;
   for (const Trait& trait : kTraits)
-    if (worker.*trait.Has) text += (text.empty() ? "" : ", ") + std::string(trait.Words);
+    if (worker.*trait.Has) traits.emplace_back(trait.Words);
+  std::string text = Joined(traits);
   if (!text.empty()) text[0] = static_cast<char>(text[0] - 'a' + 'A');
   return text.empty() ? text : text + ".";
 }
 
 std::string FinishersOf(const Worker& worker) {
-  std::string text;
+  std::vector<std::string> finishers;
   for (const int slot : {1, 2}) {
     const auto& name = slot == 1 ? worker.Finisher1 : worker.Finisher2;
     if (name == "None" || name.View().empty()) continue;
-    text += (text.empty() ? "" : ", ") + name.Str() + " (" +
-            std::string(FinisherText(FinisherTypeOf(worker, slot))) + ")";
+    finishers.push_back(name.Str() + " (" +
+                        std::string(FinisherText(FinisherTypeOf(worker, slot))) + ")");
   }
-  return text;
+  return Joined(finishers);
 }
 
 /// Anybody's numbers at a glance.
@@ -103,8 +106,8 @@ class frmQuickStat : public ui::Screen {
 
   void ShowPeople() {
     FillShort(lstwres, People());
-    lblfacts.Text = std::to_string(lstwres.Count()) +
-                    (chkall.Checked ? " workers in the world" : " workers of yours");
+    lblfacts.Text = Counted(lstwres.Count(), "worker") +
+                    (chkall.Checked ? " in the world" : " of yours");
   }
 
   void ShowWorker() {
@@ -141,11 +144,11 @@ class frmQuickStat : public ui::Screen {
   }
 
   std::string TitlesOf(const Worker& worker) {
-    std::string names;
+    std::vector<std::string> names;
     for (const grapplemont::Title& title : world().Titles())
       if (title.Holder == worker.Uid || title.Partner == worker.Uid)
-        names += (names.empty() ? "" : ", ") + title.Name.Str();
-    return names;
+        names.push_back(title.Name.Str());
+    return Joined(names);
   }
 
   void chkall_Click() { Return(); }
@@ -169,6 +172,91 @@ SCREEN(frmQuickStat)
 
 std::unique_ptr<ui::Screen> MakefrmQuickStat(Game& game, int workerUid) {
   return std::make_unique<frmQuickStat>(game, workerUid);
+}
+
+namespace {
+
+/// Who waits for his first appearance, and the ways to it.
+class frmDebut : public ui::Screen {
+ public:
+  explicit frmDebut(Game& game, bool isEvent = false)
+      : Screen(game.Desk(), "frmDebut", "Debuts"), game_(game), isEvent_(isEvent) {
+    lstwres.EmptyText = "Everybody on your roster has been seen. Whom you sign waits here.";
+    lstways.EmptyText = "Choose somebody to see how he can be brought out.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback};
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns({ui::Group("Not seen yet", {ui::Grow(lstwres)}).Grow(3),
+                             ui::Group("Ways to a debut", {ui::Grow(lstways), lblnote}).Grow(4)});
+    return page;
+  }
+
+  void Load() override {
+    ShowRoster();
+    lstwres.Select(lstwres.Count() > 0 ? 1 : 0);
+    ShowWays();
+  }
+  void Return() override {
+    ShowRoster();
+    ShowWays();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+
+  void ShowRoster() {
+    const std::vector<const Worker*> waiting = WaitingForDebut(world());
+    FillTable(lstwres, columns_, waiting);
+    lblfacts.Text = waiting.empty() ? "Nobody waits for a debut."
+                                    : Counted(std::ssize(waiting), "worker waits", "workers wait") +
+                                          " for a debut.";
+  }
+
+  void ShowWays() {
+    std::vector<ui::ListBox::Row> rows;
+    if (const Worker* worker = world().FindWorker(lstwres.Key()))
+      for (const DebutWay& way : WaysToDebut(world(), *worker, isEvent_))
+        rows.push_back(RowOf(ways_, way, static_cast<int>(rows.size()) + 1));
+    lstways.Fill(std::move(rows));
+  }
+
+  void lstwres_Open() { desk().Open(MakefrmQuickStat(game_, lstwres.Key())); }
+  void cmdback_Click() { Close(); }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  const bool isEvent_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  const ColumnsOf<Worker> columns_ =
+      PeopleTable({{{"Position", K::Text, 3},
+                    [](const Worker& worker) { return PositionText(worker.Position); }},
+                   {{"", K::Tag, 2}, StatusCell}});
+  const ColumnsOf<DebutWay> ways_ = {
+      {{"In a", K::Tag}, [](const DebutWay& way) { return way.Kind; }},
+      {{"How the wizard calls it", K::Text, 3}, [](const DebutWay& way) { return way.How; }},
+      {{"", K::Text, 2}, [](const DebutWay& way) {
+         return way.WhyNot.empty() ? ui::Cell("Today", ui::Tone::Green)
+                                   : ui::Cell(way.WhyNot, ui::Tone::Muted);
+       }}};
+  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmDebut::ShowWays,
+                      &frmDebut::lstwres_Open};
+  ui::ListBox lstways{*this, "lstways", HeadingsOf(ways_)};
+  ui::Label lblnote{*this, "lblnote",
+                    "Whoever appears in a match or an angle without one of these has been seen as "
+                    "well, and the debut is spent."};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmDebut::cmdback_Click};
+};
+
+}  // namespace
+
+SCREEN(frmDebut)
+
+std::unique_ptr<ui::Screen> MakefrmDebut(Game& game, bool isEvent) {
+  return std::make_unique<frmDebut>(game, isEvent);
 }
 
 }  // namespace grapplemont

@@ -2,7 +2,6 @@
 
 #include "booking/screens/bookingscreens.h"
 #include "booking/sheet.h"
-#include "booking/sheetrow.h"
 #include "records/counted.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
@@ -17,37 +16,57 @@ constexpr std::string_view kClosedRow = kClosedRowTip.substr(0, kClosedRowTip.si
 
 constexpr const char* kChangeRow = "To book something else in this row, remove it first.";
 
-std::string Lines(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines) text += (text.empty() ? "" : "\n") + line;
-  return text;
-}
-
 std::string Of(int count, int least) {
   return std::to_string(count) + " of " + std::to_string(least);
 }
 
 }  // namespace
 
+ColumnsOf<SheetRow> SheetTable(const World& world) {
+  using K = ui::ColumnKind;
+  return {{{"Segment", K::Text, 1},
+           [&](const SheetRow& row) {
+             const bool empty = row.Segment.Kind == kEmptySegment;
+             return ui::Cell(DescribeSegment(world, row.Segment),
+                             empty ? ui::Tone::Muted : ui::Tone::Plain);
+           }},
+          {{"Kind", K::Tag}, [](const SheetRow& row) { return KindOfRow(row.Segment); }},
+          {{"Title", K::Tag},
+           [](const SheetRow& row) {
+             return ui::Cell(TitleTip(row.Segment).empty() ? "" : "Title", ui::Tone::Gold);
+           }},
+          {{"Feud", K::Tag},
+           [&](const SheetRow& row) {
+             return ui::Cell(FeudOfRow(world, row.Segment), ui::Tone::Gold);
+           }},
+          {{"Forecast", K::Number, 0, "What its rating may come to."}, [](const SheetRow& row) {
+             return ui::Cell(0, ForecastOfRow(row.Forecast, row.Record));
+           }}};
+}
+
+std::vector<ui::Report::Paragraph> ToldOf(const World& world, const Segment& segment,
+                                          bool isEvent) {
+  using Style = ui::Report::Style;
+  std::vector<ui::Report::Paragraph> told{{Style::Strong, DescribeSegment(world, segment)}};
+  for (std::string& line : SummaryOfRow(world, segment, isEvent))
+    told.push_back({Style::Line, std::move(line)});
+  return told;
+}
+
 SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
     : Screen(game.Desk(), std::move(name), SheetHeading(game.World(), isEvent)),
       game_(game),
       isEvent_(isEvent),
-      lstrows(*this, "lstrows",
-              {{"#", K::Text, 0, "Row of the sheet."},
-               {"Segment", K::Text, 1},
-               {"Kind", K::Tag},
-               {"Title", K::Tag},
-               {"Feud", K::Tag},
-               {"Forecast", K::Number, 0, "What its rating may come to."},
-               {"", K::Button}},
-              &SheetScreen::ShowRow, &SheetScreen::lstrows_Open),
+      lstrows(*this, "lstrows", {}, &SheetScreen::ShowRow, &SheetScreen::lstrows_Open),
       cmdbook("cmdbook", RowsOf(isEvent),
               [this](const std::string& full, int record) {
                 return std::make_unique<ui::Button>(*this, full, "Book",
                                                     [this, record] { cmdbook_Click(record); });
               }),
       lstfree(*this, "lstfree", ShortColumns(), ui::Handler{}, [this] { lstfree_Open(); }) {
+  std::vector<ui::Column> headings = HeadingsOf(Table());
+  headings.push_back({"", K::Button});
+  lstrows.SetColumns(std::move(headings));
   lblwarn.Colour = ui::Tone::Amber;
   cmdcancel.Tip = isEvent_ ? "Calling it off costs image, and much of the money spent on it."
                            : "Calling it off costs image.";
@@ -114,7 +133,7 @@ void SheetScreen::ShowForecast() {
   if (any) forecast_ = grapplemont::ForecastShow(world(), isEvent_, Team());
   lblforecast.Text =
       any ? "Expected rating " + RangeText(forecast_.Rating) + "." : "Nothing is booked yet.";
-  lblwarnings.Text = Lines(forecast_.Warnings);
+  lblwarnings.Text = Joined(forecast_.Warnings, "\n");
   lblwarnings.Visible = !forecast_.Warnings.empty();
   FillRows();
 }
@@ -123,25 +142,25 @@ void SheetScreen::FillRows() {
   std::vector<ui::ListBox::Row> rows;
   rows.push_back({{ui::Cell("-", ui::Tone::Muted), ui::Cell(TopRow(), ui::Tone::Muted)}, 0});
   for (int record = 1; record <= world().Segments().Count(); ++record) {
-    rows.push_back({CellsOf(record), record});
+    rows.push_back(RowOf(record));
     ShowButton(record);
   }
   lstrows.Fill(std::move(rows));
   ShowRow();
 }
 
-std::vector<ui::Cell> SheetScreen::CellsOf(int record) {
-  if (record > OpenRows())
-    return {ui::Cell("-", ui::Tone::Muted), ui::Cell(std::string(kClosedRow), ui::Tone::Muted)};
-  const Segment& segment = Row(record);
-  const bool empty = segment.Kind == kEmptySegment;
-  const std::string tip = TitleTip(segment), feud = FeudOfRow(world(), segment);
-  return {std::to_string(record),
-          ui::Cell(DescribeSegment(world(), segment), empty ? ui::Tone::Muted : ui::Tone::Plain),
-          KindOfRow(segment),
-          ui::Cell(tip.empty() ? "" : "Title", ui::Tone::Gold),
-          ui::Cell(feud, ui::Tone::Gold),
-          ui::Cell(0, ForecastOfRow(forecast_, record))};
+ColumnsOf<SheetRow> SheetScreen::Table() {
+  ColumnsOf<SheetRow> columns = SheetTable(world());
+  columns.insert(columns.begin(), {{"#", K::Text, 0, "Row of the sheet."},
+                                   [](const SheetRow& row) { return std::to_string(row.Record); }});
+  return columns;
+}
+
+ui::ListBox::Row SheetScreen::RowOf(int record) {
+  if (record <= OpenRows())
+    return grapplemont::RowOf(Table(), {record, Row(record), forecast_}, record);
+  return {{ui::Cell("-", ui::Tone::Muted), ui::Cell(std::string(kClosedRow), ui::Tone::Muted)},
+          record};
 }
 
 void SheetScreen::ShowButton(int record) {
@@ -185,9 +204,7 @@ void SheetScreen::ShowRow() {
     return txtrow.Write(
         {{Style::Strong, "Row " + std::to_string(record)},
          {Style::Muted, "Nothing is booked here. Press Book, or Enter to begin at once."}});
-  std::vector<ui::Report::Paragraph> told{{Style::Strong, DescribeSegment(world(), segment)}};
-  for (std::string& line : SummaryOfRow(world(), segment, isEvent_))
-    told.push_back({Style::Line, std::move(line)});
+  std::vector<ui::Report::Paragraph> told = ToldOf(world(), segment, isEvent_);
   for (std::string& line : DetailsOfRow(world(), segment))
     told.push_back({Style::Line, std::move(line)});
   if (const std::string tip = TitleTip(segment); !tip.empty()) told.push_back({Style::Strong, tip});
@@ -222,7 +239,7 @@ void SheetScreen::lstfree_Open() {
 void SheetScreen::cmdfill_Click() {
   const AutoCard card = AutoBook(world(), isEvent_, OpenRows());
   const int fresh = NewSegments(world(), card);
-  const std::string missing = card.Missing.empty() ? "" : "\n" + Lines(card.Missing);
+  const std::string missing = card.Missing.empty() ? "" : "\n" + Joined(card.Missing, "\n");
   if (fresh == 0)
     return desk().Say("Fill The Rest", "The roster has nothing to fill a row with." + missing);
   if (!desk().Ask("Fill The Rest",

@@ -2,9 +2,22 @@
 
 #include "records/world.h"
 #include "show/forecast.h"
+#include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
 namespace grapplemont {
+
+/// A record of match.dat, or what a card proposes for it.
+struct SheetRow {
+  int Record;
+  const grapplemont::Segment& Segment;
+  const ShowForecast& Forecast;
+};
+/// What is booked, of what kind, whether a Title is at stake, for which feud, and the forecast.
+/// Holds on to the world.
+ColumnsOf<SheetRow> SheetTable(const World& world);
+/// What is booked, and the lines of the wizard's summary.
+std::vector<ui::Report::Paragraph> ToldOf(const World& world, const Segment& segment, bool isEvent);
 
 /// What both booking sheets share: the rows of match.dat, what stands in the selected one, what the
 /// show may come to, who is still free, and the screens at the sheet's side.
@@ -38,7 +51,8 @@ class SheetScreen : public ui::Screen {
   const Segment& Row(int record) { return world().Segments()[record]; }
   int OpenRows();
   void FillRows();
-  std::vector<ui::Cell> CellsOf(int record);
+  ColumnsOf<SheetRow> Table();
+  ui::ListBox::Row RowOf(int record);
   void ShowButton(int record);
   void ShowCounts();
   void ShowFree();

@@ -1,64 +1,50 @@
 #include "booking/screens/screenstep.h"
 
+#include <algorithm>
+#include <span>
+
 #include "booking/screens/stepscreens.h"
-#include "booking/screens/talkscreens.h"
+#include "booking/wizard/objections.h"
+#include "booking/wizard/refusals.h"
 #include "records/modWresCheck.h"
+#include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
 
 namespace {
 
-const StepTable& MatchSteps() {
-  static const StepTable kSteps = {
-      {"frmBookStyle", MakeChoiceStep},
-      {"frmBookType", MakeChoiceStep},
-      {"frmBookMatchStyle", MakeChoiceStep},
-      {"frmBook1vs1", MakePeopleStep},
-      {"frmBook2vs2", MakePeopleStep},
-      {"frmBook3x1", MakePeopleStep},
-      {"frmBook3x2", MakePeopleStep},
-      {"frmBook4x1", MakePeopleStep},
-      {"frmBook4x2", MakePeopleStep},
-      {"frmBook3vs3", MakePeopleStep},
-      {"frmBook4vs4", MakePeopleStep},
-      {"frmBookSpecial", MakeSpecialStep},
-      {"frmBookBelt", MakeTitleStep},
-      {"frmBook1vs1Winner", MakeResultStep},
-      {"frmBook2vs2Winner", MakeResultStep},
-      {"frmBook3x1Winner", MakeResultStep},
-      {"frmBook3x1eWinner", MakeResultStep},
-      {"frmBook3x2Winner", MakeResultStep},
-      {"frmBook3x2eWinner", MakeResultStep},
-      {"frmBook3x2oWinner", MakeResultStep},
-      {"frmBook4x1eWinner", MakeResultStep},
-      {"frmBook4x2eWinner", MakeResultStep},
-      {"frmBook3vs3Winner", MakeResultStep},
-      {"frmBook4vs4Winner", MakeResultStep},
-      {"frmBookSurvivorWinner", MakeResultStep},
-      {"frmBookSpecialWinner", MakeResultStep},
-      {"frmBook1vs1Finish", MakeEndingStep},
-      {"frmBook2vs2Finish", MakeEndingStep},
-      {"frmBook3vs3Finish", MakeEndingStep},
-      {"frmBook4vs4Finish", MakeEndingStep},
-      {"frmBookAfter", MakeEndingStep},
-      {"frmBook2vs2After", MakeEndingStep},
-      {"frmBookPurpose", MakeEndingStep},
-      {"frmBook2vs2Purpose", MakeEndingStep},
-  };
-  return kSteps;
-}
+constexpr StepMaker* kMatchSteps[] = {MakeChoiceStep, MakeChoiceStep, MakeChoiceStep,
+                                      MakePeopleStep, MakeTitleStep,  MakeResultStep,
+                                      MakeEndingStep, MakeEndingStep, MakeEndingStep};
+constexpr StepMaker* kInterviewSteps[] = {MakeChoiceStep, MakeChoiceStep, MakeSeatsStep,
+                                          MakeSeatsStep, MakeTalkPurposeStep};
+constexpr StepMaker* kAngleSteps[] = {MakeChoiceStep, MakeAngleStep, MakeCastStep};
 
 constexpr int kNarrowName = 4;
 
-ui::Tone ToneOf(const Worker& worker) {
-  if (worker.Disposition == "F") return ui::Tone::Blue;
-  return worker.Disposition == "H" ? ui::Tone::Red : ui::Tone::Muted;
+/// A battle royal may have many objections; these are read out beforehand.
+constexpr std::size_t kShown = 4;
+
+std::string WhyNot(const Segment& draft, MatchStep step) {
+  switch (step) {
+    case kPeopleStep:
+      return WhyNotPeople(draft);
+    case kResultStep:
+      return WhyNotResult(draft);
+    case kFinishStep:
+      return WhyNotFinish(draft);
+    case kAftermathStep:
+      return WhyNotAftermath(draft);
+    default:
+      return {};
+  }
 }
 
 }  // namespace
 
-StepScreen::StepScreen(Game& game, WizardHost& host, std::string name, std::string title)
-    : Screen(game.Desk(), std::move(name), std::move(title), ui::Role::Dialog),
+StepScreen::StepScreen(Game& game, WizardHost& host)
+    : Screen(game.Desk(), ScreenOfStep(host.State(), host.State().Step),
+             TextOfStep(game.World(), host.State(), host.State().Step).Caption, ui::Role::Dialog),
       game_(game),
       host_(host) {}
 
@@ -129,11 +115,19 @@ void StepScreen::Finish(bool goOn) {
   host_.StepStored(goOn);
 }
 
-std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host, const std::string& name) {
-  for (const StepTable* steps : {&MatchSteps(), &TalkSteps()})
-    if (const auto found = steps->find(name); found != steps->end())
-      return found->second(game, host, name);
-  return nullptr;
+std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host) {
+  const Wizard& wizard = host.State();
+  std::span<StepMaker* const> steps = kMatchSteps;
+  if (wizard.Buffer.Kind == kInterview) steps = kInterviewSteps;
+  if (wizard.Buffer.Kind == kAngle) steps = kAngleSteps;
+  const auto step = static_cast<std::size_t>(wizard.Step);
+  return step < steps.size() ? steps[step](game, host) : nullptr;
+}
+
+void ShowGrievances(ui::Label& label, const World& world, const Segment& booking) {
+  const std::string price = GrievanceText(world, booking);
+  label.Text = price.empty() ? "Nobody holds this booking against you." : "Morale: " + price + ".";
+  label.Colour = price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
 }
 
 std::vector<ui::Column> PeopleColumns(int listsAbreast) {
@@ -158,12 +152,50 @@ void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, boo
   for (const Worker* worker : people) {
     const std::string_view side =
         narrow ? worker->Disposition.View() : DispositionText(worker->Disposition);
-    rows.push_back({{worker->Name.View(), ui::Cell(side, ToneOf(*worker)), ui::Cell(worker->Over),
-                     ui::Cell(worker->Condition), ui::Cell(worker->Morale)},
+    rows.push_back({{worker->Name.View(), ui::Cell(side, DispositionTone(*worker)),
+                     ui::Cell(worker->Over), ui::Cell(worker->Condition), ui::Cell(worker->Morale)},
                     worker->Uid});
   }
   list.Fill(std::move(rows), false);
   if (none) list.Select(1);
+}
+
+bool MatchStepScreen::Accept(const Segment& draft, MatchStep step) {
+  if (const std::string why = WhyNot(draft, step); !why.empty()) return Fail(why);
+  for (const Refusal& refusal : RefusalsAt(world(), draft, step))
+    if (!IsOverruled(refusal)) return false;
+  buffer() = draft;
+  return true;
+}
+
+bool MatchStepScreen::IsOverruled(const Refusal& refusal) {
+  desk().Say("Refusal!", refusal.Words);
+  if (refusal.IsFinal) return false;
+  if (refusal.Veto.empty()) return desk().Ask("Continue?", "Contine Anyway?", ui::Default::No);
+  desk().Say("Creative Control", refusal.Veto);
+  return false;
+}
+
+void MatchStepScreen::ShowObjections(const Segment& draft, MatchStep step) {
+  std::vector<Refusal> refusals;
+  std::string price;
+  if (WhyNot(draft, step).empty()) {
+    refusals = RefusalsAt(world(), draft, step);
+    // Where a purpose follows, its step tells the price.
+    if (step == kResultStep && PurposesOf(draft.Style).empty())
+      price = HeldAgainstText(world(), draft);
+  }
+  std::string text;
+  for (std::size_t i = 0; i < std::min(refusals.size(), kShown); ++i)
+    text += refusals[i].Words + "\n";
+  if (refusals.size() > kShown)
+    text += "and " + std::to_string(refusals.size() - kShown) + " more.\n";
+  if (refusals.empty()) text = price.empty() ? "Nobody objects." : "Nobody objects aloud; ";
+  if (!refusals.empty() && !price.empty()) text += "If you insist, ";
+  if (!price.empty()) text += price + ".";
+  if (text.back() == '\n') text.pop_back();
+  txtsay.Text = text;
+  txtsay.Colour = refusals.empty() && price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
 }
 
 }  // namespace grapplemont

@@ -4,7 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "booking/wizard.h"
+#include "booking/wizard/matchrules.h"
+#include "booking/wizard/refusals.h"
+#include "booking/wizard/wizard.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -18,12 +20,12 @@ class WizardHost {
   virtual void StepStored(bool goOn) = 0;
 };
 
-/// One step of the wizard: a dialog over it. At its left is what has been chosen so far, at its
-/// right the step; Back leaves without storing, Done stores and shows the wizard, Next stores and
-/// goes straight on to the next step, as Enter and a double click in a list do.
+/// The step that the wizard stands at: a dialog over it. At its left is what has been chosen so
+/// far, at its right the step; Back leaves without storing, Done stores and shows the wizard, Next
+/// stores and goes straight on to the next step, as Enter and a double click in a list do.
 class StepScreen : public ui::Screen {
  public:
-  StepScreen(Game& game, WizardHost& host, std::string name, std::string title);
+  StepScreen(Game& game, WizardHost& host);
 
   ui::Page Layout() final;
   void Load() final;
@@ -68,12 +70,35 @@ class StepScreen : public ui::Screen {
   std::unique_ptr<ui::Button> cmdback, cmddone, cmdnext;
 };
 
-/// Makes the screen of the wizard's step by its name; nullptr for an unknown one.
-std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host, const std::string& name);
+/// Makes the screen of the step that the wizard stands at; nullptr where it has no more.
+std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host);
+
+/// What the booking takes from somebody's Morale.
+void ShowGrievances(ui::Label& label, const World& world, const Segment& booking);
 
 /// A list of people: disposition, Over, condition and morale beside the name, in short words where
 /// more than two lists stand side by side. `none` puts "None" on top, preselected.
 std::vector<ui::Column> PeopleColumns(int listsAbreast = 1);
 void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none = false);
+
+/// A step of a match that somebody may object to.
+class MatchStepScreen : public StepScreen {
+ public:
+  using StepScreen::StepScreen;
+
+ protected:
+  /// Puts the draft into the buffer when its step may be left so: no mistake, and nobody objects
+  /// whom the player cannot or does not want to overrule.
+  bool Accept(const Segment& draft, MatchStep step);
+  /// Shows beforehand what the people in the ring would say to the draft.
+  void ShowObjections(const Segment& draft, MatchStep step);
+  ui::Box Objections() { return ui::Group("What they say", {txtsay}); }
+
+ private:
+  bool IsOverruled(const Refusal& refusal);
+
+ protected:
+  ui::Label txtsay{*this, "txtsay"};
+};
 
 }  // namespace grapplemont

@@ -1,30 +1,26 @@
 #pragma once
 
-#include <functional>
-#include <map>
 #include <memory>
-#include <string>
 
 #include "booking/screens/screenstep.h"
 
-// How the steps of the wizard are made. Families of steps that differ by a table are one class; it
-// is told by which name it goes.
+// The step screens of the wizard, each for the step that the host stands at. Steps that differ by a
+// table are one class.
 
 namespace grapplemont {
 
-using StepMaker = std::unique_ptr<ui::Screen> (*)(Game& game, WizardHost& host,
-                                                  const std::string& name);
-using StepTable = std::map<std::string, StepMaker, std::less<>>;
+using StepMaker = std::unique_ptr<ui::Screen>(Game& game, WizardHost& host);
 
-// Each requires that the steps before it are done.
-/// Kind, style and type of a match: one list each.
-std::unique_ptr<ui::Screen> MakeChoiceStep(Game& game, WizardHost& host, const std::string& name);
+/// Kind, style and type: one list each.
+StepMaker MakeChoiceStep;
 /// Who stands in a match, and in a battle royal.
-std::unique_ptr<ui::Screen> MakePeopleStep(Game& game, WizardHost& host, const std::string& name);
-std::unique_ptr<ui::Screen> MakeSpecialStep(Game& game, WizardHost& host, const std::string& name);
-std::unique_ptr<ui::Screen> MakeTitleStep(Game& game, WizardHost& host, const std::string& name);
-std::unique_ptr<ui::Screen> MakeResultStep(Game& game, WizardHost& host, const std::string& name);
-/// Finish, aftermath and purpose.
-std::unique_ptr<ui::Screen> MakeEndingStep(Game& game, WizardHost& host, const std::string& name);
+StepMaker MakePeopleStep;
+StepMaker MakeTitleStep, MakeResultStep;
+/// Finish, aftermath and purpose of a match.
+StepMaker MakeEndingStep;
+/// Who speaks in an interview, about whom, and what for.
+StepMaker MakeSeatsStep, MakeTalkPurposeStep;
+/// Which angle, and who plays in it.
+StepMaker MakeAngleStep, MakeCastStep;
 
 }  // namespace grapplemont

@@ -1,16 +1,14 @@
-#include "business/monthlymoney.h"
-#include "business/officewords.h"
-#include "business/screens/fedscreens.h"
-#include "business/screens/officescreens.h"
-#include "business/screens/screenfedproduct.h"
-#include "business/screens/screenfedsites.h"
-#include "business/screens/screenfedsplits.h"
-#include "business/standing.h"
+#include "business/finance.h"
+#include "business/past.h"
+#include "business/screens/frmSpending.h"
+#include "business/screens/screenfed.h"
+#include "business/worth.h"
 #include "records/dates.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/world.h"
 #include "storylines/screens/screenpeople.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -20,26 +18,23 @@ constexpr int kMonthsShown = 120;
 
 /// The player's promotion: how it stands, what it shows, how its people are divided, where its
 /// young learn, and the way to its money.
-class frmFed : public ui::Screen {
+class frmFed : public GameScreen {
  public:
-  explicit frmFed(Game& game) : Screen(game.Desk(), "frmFed", "Promotion"), game_(game) {
+  explicit frmFed(Game& game) : GameScreen(game, "frmFed", "Promotion", {.Manages = true}) {
     for (const Term& day : kWeekDays) cmbmeeting.Add(std::string(day.Says), day.Code);
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblmoney;
-    page.Actions = {&cmdfinance, &cmdsponsor, &cmdvalue, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Tabs(
-        {ui::Group("Overview", {ui::Columns({Facts().Grow(2), Charts().Grow(3)}).Grow()}),
-         product_.Layout(), splits_.Layout(),
-         ui::Group("Camp and territory",
-                   {ui::Columns({camp_.Layout().Grow(), territory_.Layout().Grow()}).Grow()})});
+    ui::Page page = PageOf(
+        ui::Tabs(
+            {ui::Group("Overview", {ui::Columns({Facts().Grow(2), Charts().Grow(3)}).Grow()}),
+             product_.Layout(), splits_.Layout(),
+             ui::Group("Camp and territory",
+                       {ui::Columns({camp_.Layout().Grow(), territory_.Layout().Grow()}).Grow()})}),
+        &lblmoney, {&cmdfinance, &cmdsponsor, &cmdvalue});
+    page.Main = nullptr;  // Enter does nothing
     return page;
   }
-
-  void Load() override { Return(); }
 
   void Return() override {
     ShowPromotion();
@@ -52,7 +47,6 @@ class frmFed : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   Promotion& player() { return world().Player(); }
 
   ui::Box Facts() {
@@ -112,22 +106,10 @@ class frmFed : public ui::Screen {
 
   void cmbmeeting_Pick() { player().MeetingDay = Says(kWeekDays, cmbmeeting.Key()); }
 
-  void cmdcommissioner_Click() { desk().Open(MakefrmFedPick(game_, Office::Commissioner)); }
-  void cmdadvertising_Click() { OpenAdvertising(game_); }
-  void cmdmerch_Click() { OpenMerchandising(game_); }
   void cmdprod_Click() { desk().Open("frmFedProd"); }
-  void cmdtickets_Click() { desk().Open("frmTicket"); }
-  void cmdsponsor_Click() { desk().Open("frmFedSponsor"); }
-  void cmdfinance_Click() { desk().Open("frmFinance"); }
   void cmdvalue_Click() { desk().Open("frmFedValue"); }
 
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
-
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::Label lblname{*this, "lblname"};
   ui::Label lblsize{*this, "lblsize"};
@@ -137,27 +119,68 @@ class frmFed : public ui::Screen {
   ui::ComboBox cmbmeeting{*this, "cmbmeeting", &frmFed::cmbmeeting_Pick};
   ui::Label lblcommissioner{*this, "lblcommissioner"};
   ui::Button cmdcommissioner{*this, "cmdcommissioner", "Choose A Commissioner",
-                             &frmFed::cmdcommissioner_Click};
+                             [this] { desk().Open(MakefrmFedPick(game_, Office::Commissioner)); }};
   ui::ListBox lstspending{
       *this, "lstspending", {{"For", K::Text, 2}, {"Now", K::Text, 3}, {"", K::Button, 2}}};
-  ui::Button cmdadvertising{*this, "cmdadvertising", "Change", &frmFed::cmdadvertising_Click};
-  ui::Button cmdmerch{*this, "cmdmerch", "Change", &frmFed::cmdmerch_Click};
+  ui::Button cmdadvertising{*this, "cmdadvertising", "Change", [this] { OpenAdvertising(game_); }};
+  ui::Button cmdmerch{*this, "cmdmerch", "Change", [this] { OpenMerchandising(game_); }};
   ui::Button cmdprod{*this, "cmdprod", "Raise", &frmFed::cmdprod_Click};
-  ui::Button cmdtickets{*this, "cmdtickets", "Change", &frmFed::cmdtickets_Click};
+  ui::Button cmdtickets{*this, "cmdtickets", "Change", [this] { desk().Open("frmTicket"); }};
   ui::Chart chtimage{*this, "chtimage"};
   ui::Chart chtstanding{*this, "chtstanding"};
   FedProduct product_{*this, game_};
   FedSplits splits_{*this, game_};
   FedSite camp_{*this, game_, kCampSite, [this] { Return(); }};
   FedSite territory_{*this, game_, kTerritorySite, [this] { Return(); }};
-  ui::Button cmdfinance{*this, "cmdfinance", "Finance", &frmFed::cmdfinance_Click};
-  ui::Button cmdsponsor{*this, "cmdsponsor", "Sponsors", &frmFed::cmdsponsor_Click};
+  ui::Button cmdfinance{*this, "cmdfinance", "Finance", [this] { desk().Open("frmFinance"); }};
+  ui::Button cmdsponsor{*this, "cmdsponsor", "Sponsors", [this] { desk().Open("frmFedSponsor"); }};
   ui::Button cmdvalue{*this, "cmdvalue", "What We Are Worth", &frmFed::cmdvalue_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFed::cmdback_Click};
+};
+
+/// What the promotion is worth, and why.
+class frmFedValue : public GameScreen {
+ public:
+  explicit frmFedValue(Game& game)
+      : GameScreen(game, "frmFedValue", "What We Are Worth", {.Is = ui::Role::Dialog}) {
+    lstworth.Room = 16;
+  }
+
+  ui::Page Layout() override {
+    ui::Page page = PageOf(ui::Group("", {ui::Grow(lstworth)}), &lblworth);
+    page.Large = true;
+    return page;
+  }
+
+  void Return() override {
+    const Promotion& player = game_.World().Player();
+    const std::vector<WorthLine> lines = PromotionWorth(game_.World(), player);
+    std::vector<ui::ListBox::Row> rows;
+    for (const WorthLine& line : lines)
+      rows.push_back({{line.What, ui::Cell(line.Why, ui::Tone::Muted), Amount(line.Dollars)}});
+    const std::string sum = Dollars(SumOf(lines));
+    rows.push_back({{ui::Cell("All together", ui::Tone::Gold), "",
+                     ui::Cell(static_cast<double>(SumOf(lines)), sum, ui::Tone::Gold)}});
+    lstworth.Fill(std::move(rows));
+    lblworth.Text = player.Name + " is worth " + sum + ".";
+  }
+
+ private:
+  static ui::Cell Amount(long long dollars) {
+    return {static_cast<double>(dollars), Dollars(dollars),
+            dollars < 0    ? ui::Tone::Red
+            : dollars == 0 ? ui::Tone::Muted
+                           : ui::Tone::Plain};
+  }
+
+  using K = ui::ColumnKind;
+  ui::Label lblworth{*this, "lblworth"};
+  ui::ListBox lstworth{
+      *this, "lstworth", {{"What", K::Text, 3}, {"Why", K::Text, 8}, {"Dollars", K::Number, 2}}};
 };
 
 }  // namespace
 
 SCREEN(frmFed)
+SCREEN(frmFedValue)
 
 }  // namespace grapplemont

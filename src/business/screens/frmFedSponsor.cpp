@@ -1,13 +1,13 @@
 #include <algorithm>
 #include <array>
 
-#include "business/officewords.h"
-#include "business/screens/officescreens.h"
-#include "business/sponsorlimits.h"
+#include "business/finance.h"
+#include "business/screens/frmSpending.h"
 #include "business/sponsors.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "storylines/screens/screenpeople.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -40,30 +40,30 @@ std::string Welcome(World& world) {
 }
 
 /// All sponsors, the four places of the player's promotion, and the deals between them.
-class frmFedSponsor : public ui::Screen {
+class frmFedSponsor : public GameScreen {
  public:
   explicit frmFedSponsor(Game& game)
-      : Screen(game.Desk(), "frmFedSponsor", "Sponsors"), game_(game) {}
-
-  ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmd2, &cmd1};
-    page.Main = &cmd1;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Group("All sponsors", {chkfilter, ui::Grow(lstsponsors)}).Grow(3),
-         ui::Rows({ui::Group("Our sponsors", {ui::Grow(lstplaces)}).Grow(2),
-                   ui::Group("The deal", {lblsponsor, lblslogan, lbldeal, ui::Spacer()}).Grow(1)})
-             .Grow(2)});
-    return page;
+      : GameScreen(game, "frmFedSponsor", "Sponsors", {.Manages = true}) {
+    BackBefore(cmd1);
   }
 
-  void Load() override { Show(); }
+  ui::Page Layout() override {
+    return {
+        .Facts = &lblfacts,
+        .Actions = {&cmdback, &cmd2, &cmd1},
+        .Main = &cmd1,
+        .Cancel = &cmdback,
+        .Body = ui::Columns(
+            {ui::Group("All sponsors", {chkfilter, ui::Grow(lstsponsors)}).Grow(3),
+             ui::Rows(
+                 {ui::Group("Our sponsors", {ui::Grow(lstplaces)}).Grow(2),
+                  ui::Group("The deal", {lblsponsor, lblslogan, lbldeal, ui::Spacer()}).Grow(1)})
+                 .Grow(2)})};
+  }
+
   void Return() override { Show(); }
 
  private:
-  World& world() { return game_.World(); }
   Promotion& player() { return world().Player(); }
   Sponsor* chosen() { return world().FindSponsor(lstsponsors.Key()); }
   int PlaceOf(const Sponsor* sponsor) { return sponsor ? SponsorPlace(player(), sponsor->Uid) : 0; }
@@ -224,13 +224,7 @@ class frmFedSponsor : public ui::Screen {
     Show();
   }
 
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
-
   using K = ui::ColumnKind;
-  Game& game_;
   int shownPlace_ = 0;  // of the chosen sponsor, as the buttons say
   ui::Label lblfacts{*this, "lblfacts"};
   ui::CheckBox chkfilter{*this, "chkfilter", "Only those who are free, and ours", false,
@@ -256,7 +250,6 @@ class frmFedSponsor : public ui::Screen {
   ui::Label lblsponsor{*this, "lblsponsor"};
   ui::Label lblslogan{*this, "lblslogan"};
   ui::Label lbldeal{*this, "lbldeal"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFedSponsor::cmdback_Click};
   ui::Button cmd1{*this, "cmd1", "Offer Main Sponsorship", &frmFedSponsor::cmd1_Click};
   ui::Button cmd2{*this, "cmd2", "Offer Minor Sponsorship", &frmFedSponsor::cmd2_Click};
 };

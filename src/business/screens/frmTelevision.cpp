@@ -1,14 +1,15 @@
+#include "business/screens/frmTelevision.h"
+#include "ui/gamescreen.h"
+
 #include <algorithm>
 
-#include "business/commentators.h"
 #include "business/networks.h"
-#include "business/promotapes.h"
-#include "business/screens/screentv.h"
-#include "business/screens/tvscreens.h"
-#include "business/tvadvice.h"
-#include "business/tvhistory.h"
+#include "business/past.h"
+#include "business/screens/frmTVShow.h"
 #include "business/tvshows.h"
+#include "business/tvtalks.h"
 #include "records/counted.h"
+#include "records/dates.h"
 #include "records/modVar.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -16,33 +17,107 @@ namespace grapplemont {
 
 namespace {
 
+ui::Cell SlotCell(const Network& network, std::string_view slot) {
+  const int audience = SlotAudience(network, slot);
+  return {double(audience), RatingText(audience) + " / " + std::to_string(SlotRisk(network, slot))};
+}
+
+ui::Cell RoomCell(const World& world, const Network& network) {
+  if (network.Generic) return {"Always", ui::Tone::Green};
+  return IsFull(world, network) ? ui::Cell("Full", ui::Tone::Red) : ui::Cell("Yes");
+}
+
+}  // namespace
+
+ShowScreen::ShowScreen(Game& game, std::string name, std::string title, std::string show)
+    : GameScreen(game, std::move(name), std::move(title), {.Is = ui::Role::Dialog}),
+      show_(std::move(show)) {}
+
+Show* ShowScreen::FindShow() {
+  return PlayerShow(world(), show_);
+}
+
+Show* ShowScreen::ShowOrLeave() {
+  Show* show = FindShow();
+  if (show) return show;
+  desk().Say("Error!", show_ + " is no longer one of our shows.");
+  Close();
+  return nullptr;
+}
+
+std::string WantsText(const World& world, const Show& show, const Network& network) {
+  std::string text;
+  for (const std::string& line : NetworkWants(world.Player(), show, network))
+    text += (text.empty() ? "" : "\n") + line;
+  return text;
+}
+
+ui::Cell RatingCell(const Show& show, int rating) {
+  if (show.Rating1 == 0) return {-1.0, "-", ui::Tone::Muted};
+  return {double(rating), RatingText(rating)};
+}
+
+ui::Cell DayCell(const Show& show) {
+  return {double(DayNumber(show.Day)), show.Day.Str()};
+}
+
+ui::Cell OwnedCell(const World& world, const Show& show, std::string_view text) {
+  return {text, show.Owner == world.PlayerUid() ? ui::Tone::Gold : ui::Tone::Plain};
+}
+
+std::vector<ui::Column> NetworkColumns() {
+  using K = ui::ColumnKind;
+  const std::string tip = "The rating that a show is measured against, and the risk it may run.";
+  return {{"Network", K::Text, 4},
+          {"Early", K::Number, 2, tip},
+          {"Prime", K::Number, 2, tip},
+          {"Late", K::Number, 2, tip},
+          {"Graveyard", K::Number, 2, tip},
+          {"Production", K::Number, 2, "The production values it asks for."},
+          {"Shows", K::Number, 1, "So many are on it now."},
+          {"Room", K::Tag, 2, "Whether it has a spot for another show."}};
+}
+
+void FillNetworks(ui::ListBox& list, const World& world) {
+  std::vector<ui::ListBox::Row> rows;
+  for (const Network& network : world.Networks())
+    rows.push_back({{network.Name.View(), SlotCell(network, "E"), SlotCell(network, "P"),
+                     SlotCell(network, "L"), SlotCell(network, "G"), ui::Cell(network.Production),
+                     ui::Cell(ShowsOn(world, network)), RoomCell(world, network)},
+                    network.Uid});
+  list.Fill(std::move(rows));
+}
+
+void SayAll(ui::Desk& desk, const std::vector<TvRemark>& remarks) {
+  for (const TvRemark& remark : remarks) desk.Say(remark.Title, remark.Text);
+}
+
+namespace {
+
 /// The player's shows, how they do, and the way on the air.
-class frmTelevision : public ui::Screen {
+class frmTelevision : public GameScreen {
  public:
   explicit frmTelevision(Game& game)
-      : Screen(game.Desk(), "frmTelevision", "Television"), game_(game) {
+      : GameScreen(game, "frmTelevision", "Television", {.Manages = true}) {
+    BackBefore(cmdpromo);
     txtwants.Brief = true;
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdranking, &cmdnetworks, &cmdshows, &cmdback, &cmdpromo};
-    page.Main = &cmdpromo;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Rows({ui::Group("Our shows", {cmdshow(1), cmdshow(2), cmdshow(3), lblnone}),
-                   ui::Group("The show", ShowParts()), ui::Spacer()})
-             .Grow(2),
-         ui::Rows(
-             {ui::Group("What the network wants", {txtwants}),
-              ui::Group("Television ratings", {ui::Grow(txtratings), ui::Grow(chtratings)}).Grow(),
-              ui::Group("Attendance", {ui::Grow(txtattendance), ui::Grow(chtattendance)}).Grow()})
-             .Grow(3)});
-    return page;
+    return PageOf(
+        ui::Columns(
+            {ui::Rows({ui::Group("Our shows", {cmdshow(1), cmdshow(2), cmdshow(3), lblnone}),
+                       ui::Group("The show", ShowParts()), ui::Spacer()})
+                 .Grow(2),
+             ui::Rows({ui::Group("What the network wants", {txtwants}),
+                       ui::Group("Television ratings", {ui::Grow(txtratings), ui::Grow(chtratings)})
+                           .Grow(),
+                       ui::Group("Attendance", {ui::Grow(txtattendance), ui::Grow(chtattendance)})
+                           .Grow()})
+                 .Grow(3)}),
+        &lblfacts, {&cmdranking, &cmdnetworks, &cmdshows}, &cmdpromo);
   }
 
-  void Load() override { Return(); }
   void Return() override {
     ShowButtons();
     ShowTape();
@@ -50,7 +125,6 @@ class frmTelevision : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   std::vector<const Show*> Shows() { return ShowsOf(world(), world().PlayerUid()); }
 
   std::vector<ui::Box> ShowParts() {
@@ -170,21 +244,9 @@ class frmTelevision : public ui::Screen {
     SayAll(desk(), TvAdvice(world(), show, *world().FindNetwork(show.Network)));
   }
 
-  void cmdname_Click() { desk().Open(MakefrmShowName(game_, ChosenName())); }
-  void cmdnegotiate_Click() { desk().Open(MakefrmTVContract(game_, ChosenName())); }
-  void cmdchangea_Click() { desk().Open(MakefrmAnnouncer(game_, ChosenName())); }
   void cmdchangec_Click() { desk().Open(MakefrmColourMan(game_, ChosenName())); }
-  void cmdrivals_Click() { desk().Open(MakefrmTVRivals(game_, ChosenName())); }
-  void cmdranking_Click() { desk().Open("frmTVRank"); }
-  void cmdnetworks_Click() { desk().Open("frmViewNetworks"); }
   void cmdshows_Click() { desk().Open("frmViewShows"); }
 
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
-
-  Game& game_;
   int chosen_ = 0;  // place among the player's shows, from 0
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Array<ui::Button> cmdshow{"cmdshow", kMostShows, [this](const std::string& name, int place) {
@@ -206,16 +268,20 @@ class frmTelevision : public ui::Screen {
   ui::Chart chtratings{*this, "chtratings"};
   ui::Report txtattendance{*this, "txtattendance"};
   ui::Chart chtattendance{*this, "chtattendance", true};
-  ui::Button cmdname{*this, "cmdname", "Rename", &frmTelevision::cmdname_Click};
-  ui::Button cmdnegotiate{*this, "cmdnegotiate", "Negotiate", &frmTelevision::cmdnegotiate_Click};
-  ui::Button cmdchangea{*this, "cmdchangea", "Change Announcer", &frmTelevision::cmdchangea_Click};
+  ui::Button cmdname{*this, "cmdname", "Rename",
+                     [this] { desk().Open(MakefrmShowName(game_, ChosenName())); }};
+  ui::Button cmdnegotiate{*this, "cmdnegotiate", "Negotiate",
+                          [this] { desk().Open(MakefrmTVContract(game_, ChosenName())); }};
+  ui::Button cmdchangea{*this, "cmdchangea", "Change Announcer",
+                        [this] { desk().Open(MakefrmAnnouncer(game_, ChosenName())); }};
   ui::Button cmdchangec{*this, "cmdchangec", "Change Colour", &frmTelevision::cmdchangec_Click};
-  ui::Button cmdrivals{*this, "cmdrivals", "Rivals", &frmTelevision::cmdrivals_Click};
+  ui::Button cmdrivals{*this, "cmdrivals", "Rivals",
+                       [this] { desk().Open(MakefrmTVRivals(game_, ChosenName())); }};
   ui::Button cmdmaeve{*this, "cmdmaeve", "Ask Maeve", &frmTelevision::cmdmaeve_Click};
-  ui::Button cmdranking{*this, "cmdranking", "Ranking", &frmTelevision::cmdranking_Click};
-  ui::Button cmdnetworks{*this, "cmdnetworks", "Networks", &frmTelevision::cmdnetworks_Click};
+  ui::Button cmdranking{*this, "cmdranking", "Ranking", [this] { desk().Open("frmTVRank"); }};
+  ui::Button cmdnetworks{*this, "cmdnetworks", "Networks",
+                         [this] { desk().Open("frmViewNetworks"); }};
   ui::Button cmdshows{*this, "cmdshows", "All Shows", &frmTelevision::cmdshows_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmTelevision::cmdback_Click};
   ui::Button cmdpromo{*this, "cmdpromo", "Send Out Promo Tapes", &frmTelevision::cmdpromo_Click};
 };
 

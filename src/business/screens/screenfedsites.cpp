@@ -1,67 +1,119 @@
-#include "business/screens/screenfedsites.h"
-
 #include "business/development.h"
-#include "business/screens/fedscreens.h"
+#include "business/screens/screenfed.h"
 #include "records/counted.h"
 #include "records/modVar.h"
 #include "records/world.h"
 #include "roster/postings.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
+#include "ui/gamescreen.h"
+
+// Where the young learn, and who is to run it.
 
 namespace grapplemont {
 
+namespace {
+
+/// The people who could hold an office, and nobody.
+class frmFedPick : public GameScreen {
+ public:
+  frmFedPick(Game& game, Office office)
+      : GameScreen(game, "frmFedPick", OfficeName(office),
+                   {.Is = ui::Role::Dialog, .Back = "Cancel", .BackName = "cmdcancel"}),
+        office_(office) {
+    BackBefore(cmdnobody);
+    lstpeople.EmptyText = office == Office::Commissioner
+                              ? "You have no non-wrestler. Sign one, or make somebody one."
+                          : office == Office::HeadTrainer
+                              ? "You have no trainer on the staff. Hire one first."
+                              : "Nobody on your staff can book. Hire somebody who can first.";
+    lstpeople.SetColumns({{"Name", K::Text, 4},
+                          {office == Office::Commissioner ? "Charisma" : "Talent", K::Percent, 2},
+                          {office == Office::Commissioner ? "Status" : "Works as", K::Text, 3}});
+  }
+
+  ui::Page Layout() override {
+    return {.Facts = &lblnow,
+            .Actions = {&cmdback, &cmdnobody, &cmddoit},
+            .Main = &cmddoit,
+            .Cancel = &cmdback,
+            .Body = ui::Group("", {ui::Grow(lstpeople)})};
+  }
+
+  void Load() override {
+    Return();
+    lstpeople.SelectKey(HolderOf(world(), office_));
+    ShowButtons();
+  }
+
+  void Return() override {
+    std::vector<ui::ListBox::Row> rows;
+    for (const OfficeSeeker& candidate : CandidatesFor(world(), office_))
+      rows.push_back({{candidate.Name, ui::Cell(candidate.Mark), candidate.Doing}, candidate.Uid});
+    lstpeople.Fill(std::move(rows));
+    lblnow.Text = std::string("In office: ") + HolderName(world(), office_);
+    ShowButtons();
+  }
+
+ private:
+  void ShowButtons() {
+    const int holder = HolderOf(world(), office_), chosen = lstpeople.Key();
+    EnableUnless(cmddoit, chosen == 0        ? "Choose somebody first."
+                          : chosen == holder ? "That is who holds the office now."
+                                             : "");
+    EnableUnless(cmdnobody, holder == 0 ? "Nobody holds the office now." : "");
+  }
+
+  void Give(int uid) {
+    if (const std::string why = WhyNotAppoint(world(), office_, uid); !why.empty()) {
+      desk().Say("Error!", why);
+      return Return();
+    }
+    Appoint(world(), office_, uid);
+    Close();
+  }
+
+  void cmdnobody_Click() { Give(0); }
+
+  using K = ui::ColumnKind;
+  Office office_;
+  ui::Label lblnow{*this, "lblnow"};
+  ui::ListBox lstpeople{*this, "lstpeople", {{}}, &frmFedPick::ShowButtons, cmddoit};
+  ui::Button cmdnobody{*this, "cmdnobody", "Nobody", &frmFedPick::cmdnobody_Click};
+  ui::Button cmddoit{*this, "cmddoit", "Appoint", [this] { Give(lstpeople.Key()); }};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmFedPick(Game& game, Office office) {
+  return std::make_unique<frmFedPick>(game, office);
+}
+
 struct SiteKind {
+  Site Is;
   const char* Suffix;  // of its controls' names
   const char* Title;
   const char* What;
   Office RunBy;
   bool HasLevels;
   const char* Nobody;  // what belongs into its list
-  bool (*IsThere)(const Promotion&);
-  std::string (*Name)(const Promotion&);
-  int (*Price)(int level);
-  std::vector<const Worker*> (*People)(const World&);
-  std::string (*WhyNotOpen)(const World&, std::string_view name, int level);
-  void (*Open)(World&, std::string_view name, int level);
-  std::string (*WhyNotRename)(const World&, std::string_view name);
-  void (*Rename)(World&, std::string_view name);
-  void (*Close)(World&);
 };
-
-const SiteKind kCampSite = {
-    "camp",
-    "Training camp",
-    "training camp",
-    Office::HeadTrainer,
-    true,
-    "Nobody is in the camp. Send somebody young and raw there from the roster.",
-    HasCamp,
-    [](const Promotion& p) { return p.CampName.Str(); },
-    CampPrice,
-    PeopleInCamp,
-    WhyNotOpenCamp,
-    OpenCamp,
-    WhyNotRenameCamp,
-    RenameCamp,
-    CloseCamp};
-
+const SiteKind kCampSite = {Site::Camp,
+                            "camp",
+                            "Training camp",
+                            "training camp",
+                            Office::HeadTrainer,
+                            true,
+                            "Nobody is in the camp. Send somebody young and raw there from "
+                            "the roster."};
 const SiteKind kTerritorySite = {
+    Site::Territory,
     "dev",
     "Development territory",
     "development territory",
     Office::DevBooker,
     false,
-    "Nobody is in the territory. Send somebody there from the roster, or sign him to develop.",
-    HasTerritory,
-    [](const Promotion& p) { return p.DevName.Str(); },
-    [](int) { return kTerritoryPrice; },
-    PeopleInTerritory,
-    [](const World& world, std::string_view name, int) { return WhyNotOpenTerritory(world, name); },
-    [](World& world, std::string_view name, int) { OpenTerritory(world, name); },
-    WhyNotRenameTerritory,
-    RenameTerritory,
-    CloseTerritory};
+    "Nobody is in the territory. Send somebody there from the roster, or sign him to develop."};
 
 namespace {
 
@@ -115,7 +167,7 @@ ui::Box FedSite::Layout() {
 }
 
 bool FedSite::IsThere() const {
-  return kind_.IsThere(world().Player());
+  return HasSite(world().Player(), kind_.Is);
 }
 
 int FedSite::Level() const {
@@ -124,16 +176,17 @@ int FedSite::Level() const {
 
 bool FedSite::Pays(const std::string& what) {
   return game_.Desk().Ask("Finance Report",
-                          "Pay " + Dollars(kind_.Price(Level())) + " for " + what + "?");
+                          "Pay " + Dollars(SitePrice(kind_.Is, Level())) + " for " + what + "?");
 }
 
 void FedSite::Show() {
   const Promotion& player = world().Player();
   const std::string none = IsThere() ? "" : std::string("There is no ") + kind_.What + ".";
-  txtname.Text = IsThere() ? kind_.Name(player) : "";
+  txtname.Text = IsThere() ? SiteName(player, kind_.Is) : "";
   cmdopen.Text = IsThere() ? "Rename" : "Open";
   if (!IsThere())
-    lblstate.Text = kind_.HasLevels ? "None" : "None. One costs " + Dollars(kind_.Price(0)) + ".";
+    lblstate.Text =
+        kind_.HasLevels ? "None" : "None. One costs " + Dollars(SitePrice(kind_.Is, 0)) + ".";
   else
     lblstate.Text = kind_.HasLevels
                         ? std::string(Says(kCampFacilities, player.CampFacilities)) + " facilities"
@@ -151,8 +204,9 @@ void FedSite::ShowLevels() {
   const int chosen = cmblevel->Key();
   cmblevel->Clear();
   for (int level = now + 1; level <= kBestCamp; ++level)
-    cmblevel->Add(std::string(Says(kCampFacilities, level)) + ", " + Dollars(CampPrice(level)),
-                  level);
+    cmblevel->Add(
+        std::string(Says(kCampFacilities, level)) + ", " + Dollars(SitePrice(Site::Camp, level)),
+        level);
   cmblevel->SelectKey(chosen > now ? chosen : now + 1);
   cmblevel->Enabled = cmblevel->Count() > 0;
   cmblevel->Tip = cmblevel->Enabled ? "" : "No camp in the world has better facilities.";
@@ -165,7 +219,7 @@ void FedSite::ShowPeople() {
   lstpeople.EmptyText =
       IsThere() ? kind_.Nobody
                 : std::string("There is no ") + kind_.What + ". Type a name above and open one.";
-  std::vector<const Worker*> people = kind_.People(world());
+  std::vector<const Worker*> people = PeopleAt(world(), kind_.Is);
   SortByOver(people);
   std::vector<ui::ListBox::Row> rows;
   for (const Worker* worker : people) {
@@ -179,12 +233,12 @@ void FedSite::ShowPeople() {
 void FedSite::cmdopen_Click() {
   const std::string name = txtname.Text.Get();
   if (IsThere()) {
-    if (game_.Desk().Objects(kind_.WhyNotRename(world(), name))) return;
-    kind_.Rename(world(), name);
+    if (game_.Desk().Objects(WhyNotRename(world(), kind_.Is, name))) return;
+    RenameSite(world(), kind_.Is, name);
   } else {
-    if (game_.Desk().Objects(kind_.WhyNotOpen(world(), name, Level()))) return;
+    if (game_.Desk().Objects(WhyNotOpen(world(), kind_.Is, name, Level()))) return;
     if (!Pays(std::string("the ") + kind_.What)) return;
-    kind_.Open(world(), name, Level());
+    OpenSite(world(), kind_.Is, name, Level());
   }
   changed_();
 }
@@ -197,14 +251,14 @@ void FedSite::cmdraise_Click() {
 }
 
 void FedSite::cmdclose_Click() {
-  const auto people = std::ssize(kind_.People(world()));
+  const auto people = std::ssize(PeopleAt(world(), kind_.Is));
   const std::string who =
       people == 0 ? "Nobody is there now."
                   : Counted(people, "worker comes", "workers come") + " back to the roster.";
-  if (!game_.Desk().Ask("Close " + kind_.Name(world().Player()) + "?", "Are you sure? " + who,
-                        ui::Default::No))
+  if (!game_.Desk().Ask("Close " + SiteName(world().Player(), kind_.Is) + "?",
+                        "Are you sure? " + who, ui::Default::No))
     return;
-  kind_.Close(world());
+  CloseSite(world(), kind_.Is);
   changed_();
 }
 

@@ -5,15 +5,16 @@
 #include "show/attendance.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
 namespace {
 
 /// The player's year, month by month: which Event ends it, and how big it is.
-class frmEvent : public ui::Screen {
+class frmEvent : public GameScreen {
  public:
-  explicit frmEvent(Game& game) : Screen(game.Desk(), "frmEvent", "Events"), game_(game) {
+  explicit frmEvent(Game& game) : GameScreen(game, "frmEvent", "Events", {.Manages = true}) {
     lstevents.Room = 12;
     txtname.Hint = "Name of the Event";
     for (const Term& type : kEventTypes)
@@ -24,17 +25,15 @@ class frmEvent : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmddrop, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body =
+    ui::Page page = PageOf(
         ui::Columns({ui::Group("The year", {ui::Grow(lstevents)}).Grow(3),
                      ui::Rows({ui::Group("The month's Event",
                                          {lblmonth, ui::Field("Name", txtname), cmdrename,
                                           ui::Field("Type", cmbtype), cmdtype, cmdadd, lblnote}),
                                ui::Spacer()})
-                         .Grow(2)});
+                         .Grow(2)}),
+        &lblfacts, {&cmddrop});
+    page.Main = nullptr;  // Enter does nothing
     return page;
   }
 
@@ -49,7 +48,6 @@ class frmEvent : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   int Month() { return lstevents.Key(); }
   /// nullptr when none is planned, or no month selected.
   const grapplemont::Event* Chosen() { return PlayerEvent(world(), Month()); }
@@ -141,13 +139,7 @@ class frmEvent : public ui::Screen {
     Return();
   }
 
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
-
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstevents{*this,
                         "lstevents",
@@ -166,7 +158,6 @@ class frmEvent : public ui::Screen {
   ui::Button cmdadd{*this, "cmdadd", "Plan It", &frmEvent::cmdadd_Click};
   ui::Label lblnote{*this, "lblnote"};
   ui::Button cmddrop{*this, "cmddrop", "Drop", &frmEvent::cmddrop_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmEvent::cmdback_Click};
 };
 
 }  // namespace

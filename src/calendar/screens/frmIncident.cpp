@@ -105,7 +105,6 @@ class frmIncident : public ui::Screen {
     Suspend(*Culprit(), months);
     Next();
   }
-  void cmdignore_Click() { Next(); }
   void cmdaccept_Click() {
     const Promotion& promotion = *world().FindPromotion(world().Incidents()[1].Uid);
     if (!desk().Ask("Job Offer",
@@ -128,7 +127,7 @@ class frmIncident : public ui::Screen {
         return std::make_unique<ui::Button>(*this, name, "Suspend " + Counted(months, "Month"),
                                             [this, months] { cmdsuspend_Click(months); });
       }};
-  ui::Button cmdignore{*this, "cmdignore", "Ignore", &frmIncident::cmdignore_Click};
+  ui::Button cmdignore{*this, "cmdignore", "Ignore", [this] { Next(); }};
   ui::Button cmdaccept{*this, "cmdaccept", "Accept", &frmIncident::cmdaccept_Click};
 };
 

@@ -2,9 +2,7 @@
 #include <array>
 
 #include "calendar/advanceday.h"
-#include "calendar/ahead.h"
-#include "calendar/daykind.h"
-#include "calendar/meetingday.h"
+#include "calendar/incidents.h"
 #include "calendar/screens/calendarscreens.h"
 #include "records/counted.h"
 #include "records/dates.h"
@@ -53,8 +51,6 @@ constexpr std::array<Command, 19> kCommands = {{
 /// How many mails and how many days ahead the page shows.
 constexpr int kMailsShown = 12;
 constexpr int kDaysShown = 35;
-/// "Until the next show" gives up after so many days.
-constexpr int kLongestWait = 31;
 
 class frmMainScreen : public ui::Screen {
  public:
@@ -99,7 +95,7 @@ class frmMainScreen : public ui::Screen {
   /// Ends the day under the waiting screen and shows the next.
   void AdvanceDay(bool cancelled) {
     Waiting waiting(game_);
-    Advance(waiting, cancelled);
+    grapplemont::AdvanceDay(world(), cancelled, Teller(waiting));
     waiting.Done();
     RefreshMainScreen();
   }
@@ -118,8 +114,8 @@ class frmMainScreen : public ui::Screen {
   }
   World& world() { return game_.World(); }
 
-  void Advance(Waiting& waiting, bool cancelled) {
-    grapplemont::AdvanceDay(world(), cancelled, [&](std::string_view step) { waiting.Tell(step); });
+  static StepWatcher Teller(Waiting& waiting) {
+    return [&waiting](std::string_view step) { waiting.Tell(step); };
   }
 
   void ShowTheWorld() {
@@ -158,7 +154,7 @@ class frmMainScreen : public ui::Screen {
     const int count = world().News().Count();
     imgmail.Enabled = HasNews(world());
     imgmail.Text = Counted(count, "mail");
-    const int fresh = FreshMails();
+    const int fresh = FreshMails(world());
     CommandNamed("cmdnews").Badge = fresh == 0 ? std::string() : std::to_string(fresh);
     std::vector<ui::ListBox::Row> rows;
     for (int number = count; number >= 1 && number > count - kMailsShown; --number) {
@@ -168,18 +164,6 @@ class frmMainScreen : public ui::Screen {
            number});
     }
     lstmail.Fill(std::move(rows));
-  }
-
-  /// What came with the day that has just passed, and since.
-  int FreshMails() {
-    const std::string today = ShortDate(world().Today());
-    const std::string yesterday = ShortDate(world().Today() - std::chrono::days{1});
-    int fresh = 0;
-    for (int number = world().News().Count(); number >= 1; --number, ++fresh) {
-      const Mail& mail = world().News()[number];
-      if (mail.Date != today && mail.Date != yesterday) break;
-    }
-    return fresh;
   }
 
   void ShowAhead() {
@@ -212,7 +196,7 @@ class frmMainScreen : public ui::Screen {
       return OpenIfKnown(ShowIsClosed(world()) ? "frmPostShow" : "frmMatchOutput");
     const int endCode = world().Game().EndCode;
     if (endCode == kStrangerWaits) return OpenIfKnown("frmPinky");
-    if (endCode == 0 && HasIncident()) OpenIfKnown("frmIncident");
+    if (endCode == 0 && HasIncident(world())) OpenIfKnown("frmIncident");
   }
 
   /// Once is enough: afterwards the player reads the world as he left it.
@@ -225,8 +209,7 @@ class frmMainScreen : public ui::Screen {
   void OpenIfKnown(const char* screen) {
     const auto isThere = [&](const auto& open) { return open->Name() == screen; };
     const auto& screens = desk().Screens();
-    if (desk().Knows(screen) && std::none_of(screens.begin(), screens.end(), isThere))
-      desk().Open(screen);
+    if (desk().Knows(screen) && std::ranges::none_of(screens, isThere)) desk().Open(screen);
   }
 
   void cmdnext_Click() {
@@ -254,16 +237,10 @@ class frmMainScreen : public ui::Screen {
   void cmduntil_Click() {
     if (NeedsThePlayer(world())) return cmdnext_Click();
     Waiting waiting(game_);
-    const int endCode = world().Game().EndCode;
-    for (int day = 0; day < kLongestWait; ++day) {
-      Advance(waiting, false);
-      if (NeedsThePlayer(world()) || world().Game().EndCode != endCode || HasIncident()) break;
-    }
+    AdvanceToNextShow(world(), Teller(waiting));
     waiting.Done();
     RefreshMainScreen();
   }
-
-  bool HasIncident() { return world().Incidents().Count() > 0 && world().Incidents()[1].Type != 0; }
 
   /// The mailbox lists the same mails in the same order.
   void lstmail_Open() {

@@ -91,7 +91,7 @@ class frmEditTables : public ui::Screen {
 
   void cmdlook_Click() {
     preview_ = LookAtTables(game_.Disk(), Folder(), data());
-    lstmistakes.EmptyText = "The tables have no mistakes.";
+    lstmistakes.EmptyText = preview_.Made ? "The tables have no mistakes." : preview_.WhyNot;
     lstmistakes.Clear();
     for (const std::string& mistake : preview_.Mistakes) lstmistakes.Add({mistake});
     ShowCounts(preview_.Made ? preview_.Counts : CountsOf(data(), nullptr));

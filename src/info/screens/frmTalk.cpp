@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "calendar/meetingday.h"
+#include "calendar/advanceday.h"
 #include "info/meeting.h"
 #include "records/counted.h"
 #include "records/dates.h"

@@ -1,13 +1,185 @@
+#include "rivals/screens/frmOtherFed.h"
+#include "ui/gamescreen.h"
+
+#include <algorithm>
+
+#include "business/past.h"
+#include "records/dates.h"
+#include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/ownership.h"
 #include "rivals/promotionfacts.h"
+#include "rivals/purse.h"
 #include "rivals/rivals.h"
 #include "rivals/screens/rivalscreens.h"
-#include "rivals/screens/screenpromotion.h"
-#include "rivals/takeover.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
+
+namespace {
+
+using K = ui::ColumnKind;
+
+/// Month ends that the chart shows.
+constexpr int kChartMonths = 36;
+
+std::string ChampionOf(const World& world, const Title& title) {
+  if (title.Holder == 0) return "Vacant";
+  return title.Partner == 0 ? WorkerName(world, title.Holder)
+                            : PairName(world, title.Holder, title.Partner);
+}
+
+ui::Cell SinceCell(const Title& title) {
+  const Day won = title.Reigns[0].Won;
+  if (title.Holder == 0 || won == kNoTitleDate) return {0.0, ""};
+  return {static_cast<double>((won - kDayZero).count()), ShortDate(won)};
+}
+
+/// What the Title is for, as briefly as a table needs it.
+std::string TitleKind(const Title& title) {
+  if (title.Suspended) return "Suspended";
+  return title.Woman ? "Women" : title.Lightweight ? "Light" : title.Singles ? "Singles" : "Tag";
+}
+
+std::string NetworkName(const World& world, const Show& show) {
+  const Network* network = world.FindNetwork(show.Network);
+  return network ? network->Name.Str() : "None";
+}
+
+}  // namespace
+
+PromotionSheets::PromotionSheets(ui::Screen& screen, Game& game)
+    : game_(game),
+      txtabout(screen, "txtabout"),
+      lstroster(screen, "lstroster",
+                {{"Name", K::Text, 8},
+                 {"Position", K::Text, 7},
+                 {"Disp.", K::Tag, 4},
+                 {"Over", K::Percent, 5, "Popularity."},
+                 {"Age", K::Number, 2},
+                 {"Status", K::Text, 5}},
+                ui::Handler{}, [this] { OpenWorkerOf(lstroster); }),
+      lststaff(screen, "lststaff",
+               {{"Name", K::Text, 4}, {"Post", K::Text, 3}, {"Talent", K::Percent, 2}}),
+      lstshows(screen, "lstshows",
+               {{"Show", K::Text, 4},
+                {"Day", K::Text, 2},
+                {"Slot", K::Text, 2},
+                {"Network", K::Text, 3},
+                {"Last rating", K::Number, 2}}),
+      lstevents(screen, "lstevents",
+                {{"Event", K::Text, 4}, {"Month", K::Number, 2}, {"Type", K::Text, 2}}),
+      lsttitles(screen, "lsttitles",
+                {{"Title", K::Text, 9},
+                 {"Kind", K::Text, 5},
+                 {"Champion", K::Text, 9},
+                 {"Since", K::Date, 4},
+                 {"Image", K::Number, 3}},
+                ui::Handler{}, [this] { OpenWorkerOf(lsttitles); }),
+      lstsponsors(screen, "lstsponsors",
+                  {{"Sponsor", K::Text, 4}, {"Place", K::Text, 2}, {"Months left", K::Number, 2}}),
+      lstpast(screen, "lstpast",
+              {{"Month end", K::Text, 3},
+               {"Size", K::Text, 2},
+               {"Image", K::Percent, 2},
+               {"Money", K::Text, 3}}),
+      chtstanding(screen, "chtstanding") {
+  txtabout.Brief = true;
+  lstroster.EmptyText = "Nobody works here yet.";
+  lststaff.EmptyText = "There is no staff.";
+  lstshows.EmptyText = "No network carries a show of theirs.";
+  lstevents.EmptyText = "No Event is planned.";
+  lsttitles.EmptyText = "They have no Titles. A roster of eight founds its first.";
+  lstsponsors.EmptyText = "Nobody sponsors them.";
+  lstpast.EmptyText = "What a promotion was is remembered at the end of each month.";
+}
+
+ui::Box PromotionSheets::Layout() {
+  return ui::Tabs(
+      {ui::Group("Overview", {txtabout, ui::Group("Sponsors", {ui::Grow(lstsponsors)}).Grow()}),
+       ui::Group("Roster", {ui::Grow(lstroster)}), ui::Group("Staff", {ui::Grow(lststaff)}),
+       ui::Group("Shows", {ui::Grow(lstshows), ui::Grow(lstevents)}),
+       ui::Group("Titles", {ui::Grow(lsttitles)}),
+       ui::Group("History", {ui::Grow(chtstanding), ui::Grow(lstpast)})});
+}
+
+void PromotionSheets::Show(const Promotion* promotion) {
+  for (ui::ListBox* list :
+       {&lstroster, &lststaff, &lstshows, &lstevents, &lsttitles, &lstsponsors, &lstpast})
+    list->Clear();
+  chtstanding.Lines = std::vector<ui::Chart::Series>{};
+  txtabout.WriteLines(promotion ? AboutPromotion(world(), *promotion) : "");
+  if (!promotion) return;
+  ShowPeople(promotion->Uid);
+  ShowProgramme(promotion->Uid);
+  ShowTitles(promotion->Uid);
+  ShowSponsors(*promotion);
+  ShowPast(*promotion);
+}
+
+void PromotionSheets::ShowPeople(int uid) {
+  for (const Worker* worker : RosterOf(world(), uid))
+    lstroster.Add({worker->Name.View(),
+                   {1.0 * worker->Position, std::string(PositionText(worker->Position))},
+                   DispositionCell(*worker),
+                   int(worker->Over),
+                   int(worker->Age),
+                   StatusCell(*worker)},
+                  worker->Uid);
+  for (const Staff* staff : StaffOf(world(), uid))
+    lststaff.Add({staff->Name.View(),
+                  {1.0 * staff->Position, std::string(Says(kStaffPositions, staff->Position))},
+                  int(staff->Talent)},
+                 staff->Uid);
+}
+
+void PromotionSheets::ShowProgramme(int uid) {
+  for (const grapplemont::Show& show : world().Shows())
+    if (show.Owner == uid && show.Name != kToBeDeleted)
+      lstshows.Add({show.Name.View(),
+                    {1.0 * DayNumber(show.Day), show.Day.Str()},
+                    Says(kTimeSlots, show.Slot),
+                    NetworkName(world(), show),
+                    {1.0 * show.Rating3, RatingText(show.Rating3)}});
+  for (int month = 1; month <= 12; ++month)
+    for (const Event& event : world().Events())
+      if (event.Owner == uid && event.Month == month)
+        lstevents.Add({event.Name.View(),
+                       {1.0 * month, std::string(MonthName(month))},
+                       Says(kEventTypes, event.Type)});
+}
+
+void PromotionSheets::ShowTitles(int uid) {
+  std::vector<const Title*> titles;
+  for (const Title& title : world().Titles())
+    if (title.Owner == uid) titles.push_back(&title);
+  std::ranges::stable_sort(titles, [](auto* a, auto* b) { return a->Image > b->Image; });
+  for (const Title* title : titles)
+    lsttitles.Add({title->Name.View(), TitleKind(*title), ChampionOf(world(), *title),
+                   SinceCell(*title), int(title->Image)},
+                  title->Holder);
+}
+
+void PromotionSheets::ShowSponsors(const Promotion& promotion) {
+  for (std::size_t i = 0; i < promotion.Sponsor.size(); ++i)
+    if (const Sponsor* sponsor = world().FindSponsor(promotion.Sponsor[i]))
+      lstsponsors.Add(
+          {sponsor->Name.View(), i == 0 ? "Main" : "Minor", int(sponsor->ContractMonths)});
+}
+
+void PromotionSheets::ShowPast(const Promotion& promotion) {
+  for (const MonthEnd& then : MonthEndsOf(world(), promotion))
+    lstpast.Add({then.When, SizeText(then.Size), then.Image, MoneyInWords(then.Size, then.Money)});
+  const std::vector<PastStanding> standings = StandingsOf(world(), promotion, kChartMonths);
+  ui::Chart::Series line{"Standing", {}, ui::Tone::Gold};
+  for (const PastStanding& then : standings) line.Values.push_back(then.Score());
+  chtstanding.Captions = CaptionsOf(standings);
+  chtstanding.Lines = std::vector{std::move(line)};
+}
+
+void PromotionSheets::OpenWorkerOf(const ui::ListBox& list) {
+  if (list.Key() != 0 && game_.OpenWorker) game_.OpenWorker(list.Key());
+}
 
 namespace {
 
@@ -36,17 +208,19 @@ void AttemptBuyOut(Game& game, const Promotion& rival) {
 }
 
 /// Every promotion of the world, what is known of the selected one beside the list.
-class frmOtherFed : public ui::Screen {
+class frmOtherFed : public GameScreen {
  public:
   explicit frmOtherFed(Game& game)
-      : Screen(game.Desk(), "frmOtherFed", "Other Promotions"), game_(game), sheets(*this, game) {}
+      : GameScreen(game, "frmOtherFed", "Other Promotions", {.Manages = true}),
+        sheets(*this, game) {
+    BackBefore(cmdbuyout);
+  }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdbuyout, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()});
+    ui::Page page =
+        PageOf(ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()}),
+               &lblfacts, {&cmdbuyout});
+    page.Main = nullptr;  // Enter does nothing
     return page;
   }
 
@@ -62,7 +236,6 @@ class frmOtherFed : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   const Promotion* Chosen() { return LivingPromotion(world(), lstfeds.Key()); }
 
   void ShowAll() {
@@ -89,13 +262,8 @@ class frmOtherFed : public ui::Screen {
   void cmdbuyout_Click() {
     if (const Promotion* rival = Chosen()) AttemptBuyOut(game_, *rival);
   }
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
 
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstfeds{*this,
                       "lstfeds",
@@ -106,33 +274,25 @@ class frmOtherFed : public ui::Screen {
                        {"Roster", K::Number, 3, "Workers on the card, managers and the like."}},
                       &frmOtherFed::lstfeds_Click};
   PromotionSheets sheets;
-  ui::Button cmdback{*this, "cmdback", "Back", &frmOtherFed::cmdback_Click};
   ui::Button cmdbuyout{*this, "cmdbuyout", "Attempt Buy Out", &frmOtherFed::cmdbuyout_Click};
 };
 
 /// One promotion alone: what its name leads to.
-class frmPromotion : public ui::Screen {
+class frmPromotion : public GameScreen {
  public:
   frmPromotion(Game& game, int uid)
-      : Screen(game.Desk(), "frmPromotion", "Promotion", ui::Role::Dialog),
-        game_(game),
+      : GameScreen(game, "frmPromotion", "Promotion", {.Is = ui::Role::Dialog}),
         uid_(uid),
         sheets(*this, game) {}
 
   int Uid() const { return uid_; }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdbuyout, &cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
+    ui::Page page = PageOf(sheets.Layout().Grow(), &lblfacts, {&cmdbuyout});
     page.Large = true;
-    page.Body = sheets.Layout().Grow();
     return page;
   }
 
-  void Load() override { Return(); }
   void Return() override {
     const Promotion* promotion = LivingPromotion(game_.World(), uid_);
     if (promotion) Title = promotion->Name.Str();
@@ -147,14 +307,11 @@ class frmPromotion : public ui::Screen {
   void cmdbuyout_Click() {
     if (const Promotion* rival = LivingPromotion(game_.World(), uid_)) AttemptBuyOut(game_, *rival);
   }
-  void cmdback_Click() { Close(); }
 
-  Game& game_;
   int uid_;
   ui::Label lblfacts{*this, "lblfacts"};
   PromotionSheets sheets;
   ui::Button cmdbuyout{*this, "cmdbuyout", "Attempt Buy Out", &frmPromotion::cmdbuyout_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmPromotion::cmdback_Click};
 };
 
 }  // namespace

@@ -1,14 +1,93 @@
+#include "roster/screens/frmRoster.h"
+
+#include <algorithm>
+
 #include "records/counted.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "roster/market.h"
 #include "roster/postings.h"
-#include "roster/screens/rosterscreens.h"
+#include "roster/screens/frmWorker.h"
 #include "roster/screens/screentalks.h"
-#include "roster/screens/screenworkerlist.h"
-#include "roster/wagebill.h"
+#include "roster/talks.h"
 #include "storylines/screens/screenpeople.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
+
+namespace {
+
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number - 1);
+}
+
+}  // namespace
+
+WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string title, WorkerList list,
+                                   std::span<const FilterFamily> filters)
+    : GameScreen(game, std::move(name), std::move(title), {.Manages = true}),
+      cmbfilters("", static_cast<int>(filters.size()),
+                 [&](const std::string&, int i) {
+                   const FilterFamily& family = filters[Index(i)];
+                   auto combo = std::make_unique<ui::ComboBox>(*this, std::string(family.Control),
+                                                               [this] { ShowList(); });
+                   for (const WorkerFilter& row : family.Rows) combo->Add(std::string(row.Label));
+                   combo->Select(1);
+                   return combo;
+                 }),
+      lstwres(*this, "lstwres", WorkerColumns(list), ui::Handler([this] { ShowChoice(); })),
+      list_(list),
+      filters_(filters) {}
+
+/// Where the chosen worker is listed no more, the next one takes his place.
+void WorkerListScreen::Return() {
+  const int key = lstwres.Key(), row = lstwres.Selected();
+  ShowList();
+  if (lstwres.Key() == key || row == 0) return;
+  lstwres.Select(std::min(row, lstwres.Count()));
+  ShowChoice();
+}
+
+bool WorkerListScreen::FitsFilters(const Worker& worker) {
+  for (int i = 1; i <= cmbfilters.Count(); ++i) {
+    const int row = cmbfilters(i).Selected();
+    if (row > 1 && !filters_[Index(i)].Rows[Index(row)].Keeps(worker)) return false;
+  }
+  return Passes(worker);
+}
+
+/// The most popular come first.
+void WorkerListScreen::ShowList() {
+  std::vector<const Worker*> people;
+  listed_ = 0;
+  for (const Worker& worker : world().Workers()) {
+    if (!Belongs(worker)) continue;
+    ++listed_;
+    if (FitsFilters(worker)) people.push_back(&worker);
+  }
+  SortByOver(people);
+  std::vector<ui::ListBox::Row> rows;
+  rows.reserve(people.size());
+  for (const Worker* worker : people) rows.push_back(WorkerRow(world(), *worker, list_));
+  lstwres.Fill(std::move(rows));
+  if (lstwres.Selected() == 0) lstwres.Select(1);
+  ShowFacts();
+  ShowChoice();
+}
+
+void WorkerListScreen::ShowChoice() {
+  const Worker* chosen = Chosen();
+  WriteWorkerPage(txtpage, world(), chosen, "Choose somebody to read about.");
+  ShowActions(chosen);
+}
+
+ui::Box WorkerListScreen::FilterBox(std::vector<ui::Box> more) {
+  std::vector<ui::Box> fields;
+  for (int i = 1; i <= cmbfilters.Count(); ++i)
+    fields.push_back(ui::Field(std::string(filters_[Index(i)].Caption), cmbfilters(i)));
+  for (ui::Box& box : more) fields.push_back(std::move(box));
+  return ui::Columns(std::move(fields));
+}
 
 namespace {
 
@@ -17,6 +96,7 @@ class frmRoster : public WorkerListScreen {
  public:
   explicit frmRoster(Game& game)
       : WorkerListScreen(game, "frmRoster", "Roster", WorkerList::Roster, RosterFilters()) {
+    BackBefore(cmdcontract);
     lstwres.EmptyText = "Nobody works for you yet. Look for people under Other Workers.";
     lstwres.OpenWith(cmdcontract);
     for (const int position : PositionsToMoveTo())
@@ -24,22 +104,18 @@ class frmRoster : public WorkerListScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdturn, &cmdmanager, &cmdstables, &cmdback, &cmdcontract};
-    page.Main = &cmdcontract;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows(
-        {ui::Group("", {FilterBox({ui::Field("Split", cmbsplit)})}),
-         ui::Columns(
-             {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
-              ui::Rows({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-                        ui::Group("Place", {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
+    return PageOf(
+        ui::Rows({ui::Group("", {FilterBox({ui::Field("Split", cmbsplit)})}),
+                  ui::Columns(
+                      {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
+                       ui::Rows({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                                 ui::Group("Place",
+                                           {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
                                             lblmove, ui::Columns({ui::Grow(cmbnewsplit), cmdsplit}),
                                             ui::Columns({cmddevelopment, cmdcamp})})})
-                  .Grow(4)})
-             .Grow(1)});
-    return page;
+                           .Grow(4)})
+                      .Grow(1)}),
+        &lblfacts, {&cmdturn, &cmdmanager, &cmdstables}, &cmdcontract);
   }
 
   void Load() override {
@@ -73,7 +149,7 @@ class frmRoster : public WorkerListScreen {
     combo.Clear();
     combo.Add(first);
     for (const auto& split : world().Player().Split)
-      if (!(split == "None") && !split.View().empty()) combo.Add(split.Str());
+      if (split != "None" && !split.View().empty()) combo.Add(split.Str());
     combo.Select(1);
   }
 
@@ -143,10 +219,6 @@ class frmRoster : public WorkerListScreen {
   void cmdcontract_Click() {
     if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
   }
-  void cmdturn_Click() { desk().Open("frmTurn"); }
-  void cmdmanager_Click() { desk().Open("frmManagers"); }
-  void cmdstables_Click() { desk().Open("frmStables"); }
-  void cmdback_Click() { Leave(); }
 
   ui::ComboBox cmbsplit{*this, "cmbsplit", &frmRoster::ShowList};
   ui::ComboBox cmbnewposition{*this, "cmbnewposition", &frmRoster::ShowMove};
@@ -157,15 +229,65 @@ class frmRoster : public WorkerListScreen {
   ui::Button cmddevelopment{*this, "cmddevelopment", "Send To Development",
                             &frmRoster::cmddevelopment_Click};
   ui::Button cmdcamp{*this, "cmdcamp", "Send To Camp", &frmRoster::cmdcamp_Click};
-  ui::Button cmdturn{*this, "cmdturn", "Turns", &frmRoster::cmdturn_Click};
-  ui::Button cmdmanager{*this, "cmdmanager", "Managers", &frmRoster::cmdmanager_Click};
-  ui::Button cmdstables{*this, "cmdstables", "Stables", &frmRoster::cmdstables_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmRoster::cmdback_Click};
+  ui::Button cmdturn{*this, "cmdturn", "Turns", [this] { desk().Open("frmTurn"); }};
+  ui::Button cmdmanager{*this, "cmdmanager", "Managers", [this] { desk().Open("frmManagers"); }};
+  ui::Button cmdstables{*this, "cmdstables", "Stables", [this] { desk().Open("frmStables"); }};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmRoster::cmdcontract_Click};
+};
+
+/// Everybody who does not work for the player.
+class frmOtherWres : public WorkerListScreen {
+ public:
+  explicit frmOtherWres(Game& game)
+      : WorkerListScreen(game, "frmOtherWres", "Other Workers", WorkerList::Market,
+                         MarketFilters()) {
+    BackBefore(cmdcontract);
+    lstwres.EmptyText = "There is nobody else who fits.";
+    lstwres.OpenWith(cmdcontract);
+  }
+
+  ui::Page Layout() override {
+    return PageOf(ui::Rows({ui::Group("", {FilterBox()}),
+                            ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
+                                         ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
+                                .Grow(1)}),
+                  &lblfacts, {&cmdlist, &cmdshortlist}, &cmdcontract);
+  }
+
+ protected:
+  bool Belongs(const Worker& worker) const override { return !WorksForPlayer(world(), worker); }
+
+  std::string Facts(int listed) const override {
+    const bool some = lstwres.Count() < listed;
+    return (some ? std::to_string(lstwres.Count()) + " of " : "") + Counted(listed, "worker") +
+           ", " + std::to_string(Shortlisted(world()).size()) + " on your shortlist.";
+  }
+
+  void ShowActions(const Worker* chosen) override {
+    EnableUnless(cmdcontract, WhyNoTalks(game_, chosen));
+    ShowShortlistButton(game_, chosen, cmdshortlist);
+  }
+
+ private:
+  void cmdcontract_Click() {
+    if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
+  }
+  /// Nobody's row changes by it.
+  void cmdshortlist_Click() {
+    TurnShortlist(game_, lstwres.Key());
+    ShowFacts();
+    ShowChoice();
+  }
+
+  ui::Button cmdlist{*this, "cmdlist", "Shortlist", [this] { desk().Open("frmShortlist"); }};
+  ui::Button cmdshortlist{*this, "cmdshortlist", "Put On Shortlist",
+                          &frmOtherWres::cmdshortlist_Click};
+  ui::Button cmdcontract{*this, "cmdcontract", "Talks", &frmOtherWres::cmdcontract_Click};
 };
 
 }  // namespace
 
 SCREEN(frmRoster)
+SCREEN(frmOtherWres)
 
 }  // namespace grapplemont

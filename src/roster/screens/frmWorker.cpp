@@ -1,34 +1,102 @@
+#include "roster/screens/frmWorker.h"
+#include "ui/gamescreen.h"
+
 #include "records/modWresCheck.h"
+#include "records/nameindex.h"
 #include "records/world.h"
-#include "roster/screens/rosterscreens.h"
+#include "roster/market.h"
 #include "roster/screens/screentalks.h"
-#include "roster/screens/screenworkerpage.h"
+#include "roster/screens/screenworkers.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
 
 namespace {
 
+using Style = ui::Report::Style;
+using Paragraphs = std::vector<ui::Report::Paragraph>;
+
+constexpr std::size_t kAtLeft = 3;  // groups that everybody has: himself, his work, his skill
+
+Paragraphs Told(std::span<const FactGroup> groups) {
+  Paragraphs words;
+  for (const FactGroup& group : groups) {
+    words.push_back({Style::Strong, group.Heading});
+    for (const std::string& line : group.Lines) words.push_back({Style::Line, line});
+  }
+  return words;
+}
+
+}  // namespace
+
+void WriteFacts(ui::Report& page, std::span<const FactGroup> facts) {
+  Paragraphs words = Told(facts);
+  words.front().As = Style::Heading;
+  page.Write(std::move(words));
+}
+
+void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
+                     const std::string& nobody) {
+  if (!worker) return page.Write({{Style::Muted, nobody}});
+  WriteFacts(page, WorkerFacts(world, *worker));
+}
+
+void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,
+                      const std::string& nobody) {
+  right.Write(Paragraphs());
+  if (!worker) return left.Write({{Style::Muted, nobody}});
+  const std::vector<FactGroup> facts = WorkerFacts(world, *worker);
+  const std::span<const FactGroup> all = facts;
+  Paragraphs words = Told(all.first(kAtLeft));
+  words.erase(words.begin());
+  left.Write(std::move(words));
+  right.Write(Told(all.subspan(kAtLeft)));
+}
+
+namespace {
+
+/// Opens what the name stands for; empty where there is no page for it.
+ui::Handler WayTo(Game& game, const NameSpan& name) {
+  const auto& page = name.Of == NameSpan::Kind::Worker ? game.OpenWorker : game.OpenPromotion;
+  if (!page) return {};
+  return [&page, uid = name.Uid] { page(uid); };
+}
+
+std::vector<ui::Link> LinksOf(Game& game, NameIndex& names, std::string_view text) {
+  std::vector<ui::Link> links;
+  if (!game.HasWorld()) return links;
+  for (const NameSpan& name : names.Find(game.World(), text))
+    if (ui::Handler open = WayTo(game, name))
+      links.push_back({name.From, name.Length, std::move(open)});
+  return links;
+}
+
+}  // namespace
+
+void ConnectRoster(Game& game) {
+  game.OpenWorker = [&game](int uid) { OpenWorkerPage(game, uid); };
+  game.Desk().FindLinks = [&game, names = std::make_shared<NameIndex>()](std::string_view text) {
+    return LinksOf(game, *names, text);
+  };
+}
+
+namespace {
+
 /// What is known of one worker.
-class frmWorker : public ui::Screen {
+class frmWorker : public GameScreen {
  public:
   frmWorker(Game& game, int uid)
-      : Screen(game.Desk(), "frmWorker", "Worker", ui::Role::Dialog), game_(game), uid_(uid) {}
+      : GameScreen(game, "frmWorker", "Worker", {.Is = ui::Role::Dialog}), uid_(uid) {}
 
   int Uid() const { return uid_; }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdshortlist, &cmdcontract, &cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
+    ui::Page page = PageOf(ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                                        ui::Group("", {ui::Grow(txtmore)}).Grow(1)}),
+                           nullptr, {&cmdshortlist, &cmdcontract});
     page.Large = true;
-    page.Body = ui::Columns(
-        {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});
     return page;
   }
-
-  void Load() override { Return(); }
 
   void Return() override {
     const Worker* worker = Subject();
@@ -42,7 +110,6 @@ class frmWorker : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   const Worker* Subject() { return world().FindWorker(uid_); }
 
   void cmdshortlist_Click() {
@@ -52,15 +119,12 @@ class frmWorker : public ui::Screen {
   void cmdcontract_Click() {
     if (const Worker* worker = Subject()) OpenTalks(game_, *worker);
   }
-  void cmdback_Click() { Close(); }
 
-  Game& game_;
   int uid_;
   ui::Report txtpage{*this, "txtpage"};
   ui::Report txtmore{*this, "txtmore"};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Shortlist", &frmWorker::cmdshortlist_Click};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmWorker::cmdcontract_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmWorker::cmdback_Click};
 };
 
 /// His page, if only pages of workers lie above it.
@@ -87,5 +151,84 @@ void OpenWorkerPage(Game& game, int workerUid) {
   if (!page) return desk.Open(MakefrmWorker(game, workerUid));
   while (desk.Top() != page) desk.Close(*desk.Top());
 }
+
+namespace {
+
+/// Whom the player keeps an eye on, and how they stand today.
+class frmShortlist : public GameScreen {
+ public:
+  explicit frmShortlist(Game& game) : GameScreen(game, "frmShortlist", "Shortlist") {
+    BackBefore(cmdcontract);
+    lstwres.EmptyText = "Nobody yet. Put somebody on it under Other Workers or on a worker's page.";
+  }
+
+  ui::Page Layout() override {
+    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(5),
+                               ui::Group("", {ui::Grow(txtpage)}).Grow(3)}),
+                  &lblfacts, {&cmdremove, &cmdpage}, &cmdcontract);
+  }
+
+  void Return() override {
+    ShowList();
+    if (lstwres.Selected() == 0) lstwres.Select(1);
+    ShowChoice();
+  }
+
+ private:
+  const Worker* Chosen() { return world().FindWorker(lstwres.Key()); }
+
+  void ShowList() {
+    std::vector<ui::ListBox::Row> rows;
+    for (const Worker* worker : Shortlisted(world())) {
+      std::vector<ui::Cell> cells = ShortRow(*worker);
+      cells.emplace_back(MarketStanding(world(), *worker));
+      cells.push_back(StatusCell(*worker));
+      rows.push_back({std::move(cells), worker->Uid});
+    }
+    lblfacts.Text = std::to_string(rows.size()) + " of " +
+                    std::to_string(world().Game().Shortlist.size()) + " places taken.";
+    lstwres.Fill(std::move(rows));
+  }
+
+  void ShowChoice() {
+    const Worker* chosen = Chosen();
+    WriteWorkerPage(txtpage, world(), chosen, "Nobody is chosen.");
+    EnableUnless(cmdcontract, WhyNoTalks(game_, chosen));
+    for (ui::Button* button : {&cmdremove, &cmdpage})
+      EnableUnless(*button, chosen ? "" : kNobodyChosen);
+  }
+
+  /// The place in the list stays, so that several can be taken off one after the other.
+  void cmdremove_Click() {
+    const int place = lstwres.Selected();
+    RemoveFromShortlist(world(), lstwres.Key());
+    lstwres.Select(0);
+    ShowList();
+    lstwres.Select(std::min(place, lstwres.Count()));
+    ShowChoice();
+  }
+  void cmdpage_Click() { OpenWorkerPage(game_, lstwres.Key()); }
+  void cmdcontract_Click() {
+    if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
+  }
+
+  static std::vector<ui::Column> Columns() {
+    std::vector<ui::Column> columns = ShortColumns();
+    columns.push_back({"Standing", ui::ColumnKind::Text, 6});
+    columns.push_back({"Status", ui::ColumnKind::Text, 2, "Empty for who is available."});
+    return columns;
+  }
+
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ListBox lstwres{*this, "lstwres", Columns(), &frmShortlist::ShowChoice, cmdpage};
+  ui::Report txtpage{*this, "txtpage"};
+  ui::Button cmdremove{*this, "cmdremove", "Remove", &frmShortlist::cmdremove_Click};
+  ui::Button cmdpage{*this, "cmdpage", "Open Page", &frmShortlist::cmdpage_Click};
+  ui::Button cmdcontract{*this, "cmdcontract", "Talks", &frmShortlist::cmdcontract_Click};
+};
+
+}  // namespace
+
+SCREEN(frmShortlist)
 
 }  // namespace grapplemont

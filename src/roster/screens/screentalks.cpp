@@ -4,11 +4,103 @@
 
 #include "records/modWresCheck.h"
 #include "records/world.h"
-#include "roster/screens/contractscreens.h"
-#include "roster/shortlist.h"
+#include "roster/market.h"
+#include "roster/staff.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
+
+namespace {
+
+constexpr int kWrittenRow = 1, kVerbalRow = 2;
+
+}  // namespace
+
+OfferControls::OfferControls(ui::Screen& screen, int highestWage)
+    : hsnewwage(screen, "hsnewwage", 0, highestWage, ui::Handler([this] { ShowWage(); })),
+      txtnewwage(screen, "txtnewwage"),
+      cmbnewlength(screen, "cmbnewlength"),
+      cmbnewtype(screen, "cmbnewtype") {
+  for (const Term& length : kContractLengths)
+    cmbnewlength.Add(std::string(length.Says), length.Code);
+  cmbnewtype.Add(std::string(ContractWord(true)), kWrittenRow);
+  cmbnewtype.Add(std::string(ContractWord(false)), kVerbalRow);
+}
+
+void OfferControls::Begin(int wage, int months, bool written) {
+  hsnewwage.Value = wage;
+  cmbnewlength.SelectKey(months);
+  cmbnewtype.Select(written ? kWrittenRow : kVerbalRow);
+  ShowWage();
+}
+
+void OfferControls::Allow(const std::string& why) {
+  EnableUnless({hsnewwage, cmbnewlength, cmbnewtype}, why);
+}
+
+ContractOffer OfferControls::Offer() const {
+  ContractOffer offer;
+  offer.Wage = hsnewwage.Value;
+  offer.Months = cmbnewlength.Key();
+  offer.Written = cmbnewtype.Selected() == kWrittenRow;
+  return offer;
+}
+
+std::vector<ui::Box> OfferControls::Fields() {
+  return {ui::Field("Wage", hsnewwage), ui::Field("A month", txtnewwage),
+          ui::Field("Length", cmbnewlength), ui::Field("Type", cmbnewtype)};
+}
+
+TermLabels::TermLabels(ui::Screen& screen)
+    : txtwage(screen, "txtwage"), txtlength(screen, "txtlength"), txttype(screen, "txttype") {}
+
+void TermLabels::Show(int wage, int months, bool written) {
+  txtwage.Text = WageText(wage) + " a month";
+  txtlength.Text = MonthsText(months);
+  txttype.Text = ContractWord(written);
+}
+
+std::vector<ui::Box> TermLabels::Fields() {
+  return {ui::Field("Wage", txtwage), ui::Field("Length", txtlength), ui::Field("Type", txttype)};
+}
+
+TalkScreen::TalkScreen(Game& game, std::string name, int uid, Counterpart with)
+    : GameScreen(game, std::move(name), with.Name, {.Is = ui::Role::Dialog}),
+      uid_(uid),
+      with_(std::move(with)) {}
+
+void TalkScreen::Load() {
+  const Remark refusal = Refusal();
+  closed_ = refusal.Text;
+  Begin();
+  Show();
+  if (!closed_.empty()) desk().Say(refusal.Title, refusal.Text);
+}
+
+void TalkScreen::Return() {
+  if (GoesOn()) Show();
+}
+
+bool TalkScreen::GoesOn() {
+  const std::string why = WhyOver();
+  if (why.empty()) return true;
+  Close();
+  desk().Say(kTalksTitle, why);
+  return false;
+}
+
+void TalkScreen::ShowFacts(const std::string& facts) {
+  lblfacts.Text = closed_.empty() ? facts : closed_;
+}
+
+void TalkScreen::Agree(std::string_view name, bool written) {
+  SayAll({AcceptedRemark(name, written)});
+  Close();
+}
+
+void TalkScreen::SayAll(const std::vector<Remark>& remarks) {
+  for (const Remark& remark : remarks) desk().Say(remark.Title, remark.Text);
+}
 
 namespace {
 
@@ -22,7 +114,7 @@ bool IsAmidShow(Game& game) {
            std::end(kShowScreens);
   };
   const auto& screens = game.Desk().Screens();
-  return std::any_of(screens.begin(), screens.end(), isShow);
+  return std::ranges::any_of(screens, isShow);
 }
 
 }  // namespace
@@ -57,6 +149,44 @@ void ShowShortlistButton(Game& game, const Worker* worker, ui::Button& button) {
   EnableUnless(button, !worker          ? kNobodyChosen
                        : own && !listed ? worker->Name + " works for you."
                                         : "");
+}
+
+namespace {
+
+void Say(Game& game, const std::string& why) {
+  game.Desk().Say(kTalksTitle, why);
+}
+
+std::string WhyNotWith(const World& world, const Worker* worker, bool own) {
+  if (!worker) return "This worker is not in the business any more.";
+  if (own && !WorksForPlayer(world, *worker))
+    return worker->Name + " does not work for you any more.";
+  if (!own && WorksForPlayer(world, *worker)) return worker->Name + " works for you now.";
+  return WhyTalksOver(world, worker, {worker->Name.Str(), worker->Employer});
+}
+
+}  // namespace
+
+void OpenWresContract(Game& game, int workerUid) {
+  const Worker* worker = game.World().FindWorker(workerUid);
+  if (const std::string why = WhyNotWith(game.World(), worker, true); !why.empty())
+    return Say(game, why);
+  game.Desk().Open(MakefrmWresContract(game, *worker));
+}
+
+void OpenOtherContract(Game& game, int workerUid) {
+  const Worker* worker = game.World().FindWorker(workerUid);
+  if (const std::string why = WhyNotWith(game.World(), worker, false); !why.empty())
+    return Say(game, why);
+  game.Desk().Open(MakefrmOtherContract(game, *worker));
+}
+
+void OpenStaffContract(Game& game, int staffUid) {
+  const Staff* staff = game.World().FindStaff(staffUid);
+  if (!staff) return Say(game, "This member of staff is not in the business any more.");
+  if (const std::string why = WhyNoStaffTalks(*staff); !why.empty()) return Say(game, why);
+  game.Desk().Open(WorksForPlayer(game.World(), *staff) ? MakefrmStaffContract(game, *staff)
+                                                        : MakefrmOtherStaffContract(game, *staff));
 }
 
 }  // namespace grapplemont

@@ -1,13 +1,118 @@
 #pragma once
 
 #include <string>
+#include <type_traits>
+#include <vector>
 
 #include "records/worker.h"
-#include "ui/game.h"
+#include "records/world.h"
+#include "roster/talks.h"
+#include "ui/gamescreen.h"
 
-// The way from any worker's page to the talks with him.
+// What the screens of contract talks share.
 
 namespace grapplemont {
+
+/// The part of an offer that everybody gets: wage, length, type.
+struct OfferControls {
+  OfferControls(ui::Screen& screen, int highestWage);
+
+  /// Shows what the talks begin with.
+  void Begin(int wage, int months, bool written);
+  /// Enables them, or tells on each why it is of no use.
+  void Allow(const std::string& why);
+  ContractOffer Offer() const;
+  std::vector<ui::Box> Fields();
+
+  ui::ScrollBar hsnewwage;
+  ui::Label txtnewwage;
+  ui::ComboBox cmbnewlength;
+  ui::ComboBox cmbnewtype;
+
+ private:
+  void ShowWage() { txtnewwage.Text = WageText(hsnewwage.Value); }
+};
+
+/// What a contract holds or somebody wants of one.
+struct TermLabels {
+  explicit TermLabels(ui::Screen& screen);
+  void Show(int wage, int months, bool written);
+  std::vector<ui::Box> Fields();
+
+  ui::Label txtwage, txtlength, txttype;
+};
+
+/// Who sits at the other side of the table.
+struct Counterpart {
+  std::string Name;
+  int Employer = 0;  // a Promotion's uid, 0 for a free agent
+};
+/// Why there is nobody to talk to any more: he is gone, works elsewhere, or is bound for good.
+/// Empty while there is.
+template <class Person>
+std::string WhyTalksOver(const World& world, const Person* person, const Counterpart& was) {
+  if (!person || person->Name != was.Name) return was.Name + " is not in the business any more.";
+  if (person->Employer != was.Employer)
+    return was.Name + (was.Employer == world.PlayerUid() ? " does not work for you any more."
+                                                         : " has changed sides in the meantime.");
+  if (person->Unsackable && person->Employer != 0)
+    return was.Name + " is unsackable now: there is nothing to talk about.";
+  return {};
+}
+
+/// Talks with one person, as long as he is who he was and works where he worked.
+class TalkScreen : public GameScreen {
+ public:
+  TalkScreen(Game& game, std::string name, int uid, Counterpart with);
+  /// Begins the talks and says what closes them at once.
+  void Load() override;
+  void Return() override;
+
+ protected:
+  virtual std::string WhyOver() = 0;
+  /// The box in which he refuses to listen to any offer; without words when he listens.
+  virtual Remark Refusal() = 0;
+  /// Puts on the table what the talks begin with.
+  virtual void Begin() = 0;
+  /// Shows him as he is, and opens or closes the table.
+  virtual void Show() = 0;
+
+  /// Otherwise says why not and closes.
+  bool GoesOn();
+  void SayAll(const std::vector<Remark>& remarks);
+  /// The line under the title; what closed the talks goes before it.
+  void ShowFacts(const std::string& facts);
+  /// Says that it is a deal, and closes.
+  void Agree(std::string_view name, bool written);
+
+  int uid_;
+  Counterpart with_;
+  std::string closed_;  // what closed the talks; empty while he listens
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Report txtpage{*this, "txtpage"};
+};
+
+/// Talks with a worker or with a member of staff.
+template <class Person>
+class TalkWith : public TalkScreen {
+ public:
+  TalkWith(Game& game, std::string name, const Person& person)
+      : TalkScreen(game, std::move(name), person.Uid, {person.Name.Str(), person.Employer}) {}
+
+ protected:
+  /// nullptr for somebody who has left the world.
+  Person* Who() {
+    if constexpr (std::is_same_v<Person, Worker>)
+      return world().FindWorker(uid_);
+    else
+      return world().FindStaff(uid_);
+  }
+  std::string WhyOver() override { return WhyTalksOver(world(), Who(), with_); }
+};
+
+inline constexpr const char* kTalksTitle = "Contract Negotiations";
+
+// The way from any worker's page to the talks with him.
 
 /// The tip of what needs a worker.
 inline constexpr const char* kNobodyChosen = "Choose a worker first.";
@@ -22,5 +127,21 @@ void OpenTalks(Game& game, const Worker& worker);
 void TurnShortlist(Game& game, int workerUid);
 /// Shows on the button what it would do; nobody chosen disables it.
 void ShowShortlistButton(Game& game, const Worker* worker, ui::Button& button);
+
+// The talks: each opens its screen for one person. Whoever has left the world or changed sides
+// since the list was drawn is told so instead.
+
+/// frmWresContract, for a worker of the player's.
+void OpenWresContract(Game& game, int workerUid);
+/// frmOtherContract, for a worker of anybody else or of nobody.
+void OpenOtherContract(Game& game, int workerUid);
+/// frmStaffContract for a member of the player's staff, frmOtherStaffContract for any other.
+void OpenStaffContract(Game& game, int staffUid);
+
+// Each requires somebody who can be talked with.
+std::unique_ptr<ui::Screen> MakefrmWresContract(Game& game, const Worker& worker);
+std::unique_ptr<ui::Screen> MakefrmOtherContract(Game& game, const Worker& worker);
+std::unique_ptr<ui::Screen> MakefrmStaffContract(Game& game, const Staff& staff);
+std::unique_ptr<ui::Screen> MakefrmOtherStaffContract(Game& game, const Staff& staff);
 
 }  // namespace grapplemont

@@ -3,8 +3,8 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/postings.h"
+#include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
-#include "storylines/turns.h"
 
 namespace grapplemont {
 

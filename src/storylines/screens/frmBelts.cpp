@@ -1,9 +1,11 @@
+#include <algorithm>
+
 #include "records/counted.h"
+#include "records/dates.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "storylines/lineages.h"
 #include "storylines/screens/screenpeople.h"
-#include "storylines/screens/screentitles.h"
 #include "storylines/screens/storyscreens.h"
 #include "storylines/storynames.h"
 #include "storylines/titles.h"
@@ -13,9 +15,6 @@ namespace grapplemont {
 namespace {
 
 enum Whose { kYours = 1, kEverybodys };
-/// Of the world's Titles one wants to know whose they are; since when they are held, the history
-/// tells.
-constexpr std::size_t kSince = 3;
 enum ForHowMany { kForOne = 1, kForTwo };
 
 /// The player's Titles to be made, given, taken and given up; the whole world's to be looked at.
@@ -76,21 +75,31 @@ class frmBelts : public ui::Screen {
     return PromotionInitials(world(), title.Owner);
   }
 
+  /// Of the world's Titles one wants to know whose they are; since when they are held, the history
+  /// says.
+  ColumnsOf<grapplemont::Title> Table() {
+    constexpr std::size_t kSince = 3;
+    ColumnsOf<grapplemont::Title> columns = TitleTable(world());
+    if (cmbwhose.Key() == kEverybodys)
+      columns[kSince] = {{"Of"}, [this](const auto& title) { return OwnerCell(title); }};
+    return columns;
+  }
+
   void ShowTitles() {
     // On the very day of the change; nothing is written once the career has ended.
     if (!HasEnded(world().Game())) UpdateReigns(world());
     std::vector<ui::ListBox::Row> rows;
     int vacant = 0;
-    const bool all = cmbwhose.Key() == kEverybodys;
+    const auto columns = Table();
     for (const grapplemont::Title& title : world().Titles()) {
       if (!IsListed(title)) continue;
       vacant += title.Holder == 0;
-      rows.push_back(TitleRow(world(), title));
-      if (all) rows.back().Cells[kSince] = OwnerCell(title);
+      rows.push_back(RowOf(columns, title, world().Titles().NumberOf(title)));
     }
     lblfacts.Text = Counted(std::ssize(rows), "Title") + ", " + std::to_string(vacant) + " vacant";
-    lsttitles.EmptyText =
-        all ? "Nobody in the world has a Title." : "You have no Title yet. Name one and create it.";
+    lsttitles.EmptyText = cmbwhose.Key() == kEverybodys
+                              ? "Nobody in the world has a Title."
+                              : "You have no Title yet. Name one and create it.";
     lsttitles.Fill(std::move(rows));
   }
 
@@ -117,7 +126,7 @@ class frmBelts : public ui::Screen {
     const std::string none = WhyNotOurs();
     const bool isSuspended = none.empty() && Chosen()->Suspended;
     cmdsuspend.Text = isSuspended ? "Activate" : "Suspend";
-    for (ui::Button* button : {&cmdrename, &cmdsuspend, &cmddissolve}) EnableUnless(*button, none);
+    EnableUnless({cmdrename, cmdsuspend, cmddissolve}, none);
     EnableUnless(cmdvacate, none.empty() ? WhyNotVacate(*Chosen()) : none);
     const auto [holder, partner] = Picked();
     const bool tooMany = lstwres.Keys().size() > 2;
@@ -132,10 +141,8 @@ class frmBelts : public ui::Screen {
   }
 
   void cmbwhose_Click() {
-    std::vector<ui::Column> columns = TitleColumns();
-    if (cmbwhose.Key() == kEverybodys) columns[kSince] = {"Of"};
     lsttitles.Clear();
-    lsttitles.SetColumns(std::move(columns));
+    lsttitles.SetColumns(HeadingsOf(Table()));
     Load();
   }
 
@@ -170,7 +177,7 @@ class frmBelts : public ui::Screen {
   }
 
   void cmdsuspend_Click() {
-    SuspendTitle(*Chosen(), !Chosen()->Suspended);
+    Chosen()->Suspended = !Chosen()->Suspended;
     Return();
   }
 
@@ -194,9 +201,8 @@ class frmBelts : public ui::Screen {
   void cmddissolve_Click() {
     const int booked = BookedForTitle(world(), *Chosen());
     const std::string price = booked == 0 ? ""
-                                          : " What is booked for it (" + std::to_string(booked) +
-                                                (booked == 1 ? " segment" : " segments") +
-                                                ") will be removed.";
+                                          : " What is booked for it (" +
+                                                Counted(booked, "segment") + ") will be removed.";
     if (!desk().Ask("Dissolve?",
                     "Are you sure you wish to dissolve the " + Chosen()->Name.Str() + "?" + price,
                     ui::Default::No))
@@ -214,7 +220,8 @@ class frmBelts : public ui::Screen {
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbwhose{*this, "cmbwhose", &frmBelts::cmbwhose_Click};
-  ui::ListBox lsttitles{*this, "lsttitles", TitleColumns(), &frmBelts::lsttitles_Click};
+  ui::ListBox lsttitles{*this, "lsttitles", HeadingsOf(TitleTable(world())),
+                        &frmBelts::lsttitles_Click};
   ui::ListBox lsthistory{*this, "lsthistory", ReignColumns()};
   ui::Button cmdreigns{*this, "cmdreigns", "All Reigns", &frmBelts::cmdreigns_Click};
   ui::TextBox txtname{*this, "txtname", {}, decltype(grapplemont::Title::Name)::kWidth};
@@ -234,5 +241,134 @@ class frmBelts : public ui::Screen {
 }  // namespace
 
 SCREEN(frmBelts)
+
+namespace {
+
+/// Every reign of a Title, of those that stand and those of the past, and what they add up to.
+class frmReigns : public ui::Screen {
+ public:
+  explicit frmReigns(Game& game, Lineage first = {})
+      : Screen(game.Desk(), "frmReigns", "Reigns"), game_(game), first_(std::move(first)) {
+    lstreigns.EmptyText = "Nothing is known of its past.";
+    lsttotals.EmptyText = "Nobody has held it yet.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback};
+    page.Main = &cmdback;
+    page.Cancel = &cmdback;
+    page.Body =
+        ui::Columns({ui::Group("", {ui::Field("Title", cmbtitle), ui::Grow(lstreigns)}).Grow(5),
+                     ui::Group("Champions", {ui::Grow(lsttotals)}).Grow(3)});
+    return page;
+  }
+
+  void Load() override {
+    if (!HasEnded(game_.World().Game())) UpdateReigns(game_.World());
+    lineages_ = LineagesOf(world());
+    for (const Lineage& lineage : lineages_)
+      cmbtitle.Add(
+          lineage.Title + " (" + lineage.Initials + ")" + (lineage.Stands ? "" : ", of the past"),
+          cmbtitle.Count() + 1);
+    cmbtitle.Select(cmbtitle.Count() > 0 ? 1 : 0);
+    Select();
+    ShowReigns();
+  }
+  void Return() override { ShowReigns(); }
+
+ private:
+  const World& world() { return game_.World(); }
+
+  /// The Title that was asked for, else the player's first.
+  void Select() {
+    const auto asked = std::find(lineages_.begin(), lineages_.end(), first_);
+    const auto own = std::find_if(lineages_.begin(), lineages_.end(), [&](const Lineage& lineage) {
+      return lineage.Owner == world().PlayerUid();
+    });
+    const auto chosen = asked != lineages_.end() ? asked : own;
+    if (chosen != lineages_.end())
+      cmbtitle.Select(static_cast<int>(chosen - lineages_.begin()) + 1);
+  }
+
+  static ui::Cell DateCell(Day day, const char* unknown) {
+    if (day <= kNoTitleDate) return {0.0, unknown, ui::Tone::Muted};
+    return DayCell(day);
+  }
+
+  static ui::Cell CountCell(int number) {
+    return number < 0 ? ui::Cell(-1.0, std::string()) : ui::Cell(number);
+  }
+
+  static ui::Cell EndCell(const TitleReign& reign) {
+    constexpr const char* kEnds[] = {"Lasts", "Lost", "Vacated", "Dissolved"};
+    const int end = reign.End;
+    if (end < kReignLasts || end > kReignDissolved) return {""};
+    const bool says = end == kReignLasts || end == kReignDissolved || !IsVacancy(reign);
+    return {says ? kEnds[end] : "", end == kReignLasts ? ui::Tone::Gold : ui::Tone::Plain};
+  }
+
+  void ShowReigns() {
+    std::vector<ui::ListBox::Row> reigns, totals;
+    if (cmbtitle.Selected() != 0) {
+      const Lineage& lineage = lineages_[static_cast<std::size_t>(cmbtitle.Selected() - 1)];
+      for (const TitleReign* reign : ReignsOf(world(), lineage))
+        reigns.push_back(RowOf(reigns_, *reign, world().Reigns().NumberOf(*reign)));
+      for (const ChampionTotal& total : TotalsOf(world(), lineage))
+        totals.push_back(RowOf(totals_, total, static_cast<int>(totals.size()) + 1));
+    }
+    lblfacts.Text = cmbtitle.Count() == 0 ? "There is no Title in the world."
+                                          : Counted(std::ssize(totals), "champion") + ".";
+    lstreigns.Fill(std::move(reigns));
+    lsttotals.Fill(std::move(totals));
+  }
+
+  void cmdback_Click() { Close(); }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  Lineage first_;
+  std::vector<Lineage> lineages_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ComboBox cmbtitle{*this, "cmbtitle", &frmReigns::ShowReigns};
+  const ColumnsOf<TitleReign> reigns_ = {
+      {{"Holder", K::Text, 5},
+       [](const TitleReign& reign) {
+         return ui::Cell(reign.Holder.View(), IsVacancy(reign) ? ui::Tone::Muted : ui::Tone::Plain);
+       }},
+      {{"From", K::Date, 3},
+       [](const TitleReign& reign) { return DateCell(reign.From, "Before the game"); }},
+      {{"Until", K::Date, 3},
+       [](const TitleReign& reign) {
+         return reign.End == kReignLasts ? ui::Cell(0.0, std::string())
+                                         : DateCell(reign.Until, "Unknown");
+       }},
+      {{"Days", K::Number},
+       [this](const TitleReign& reign) { return CountCell(DaysOf(reign, world().Today())); }},
+      {{"Defences", K::Number, 0, "On your shows; of others nobody counts them."},
+       [](const TitleReign& reign) {
+         return CountCell(IsVacancy(reign) ? -1 : int(reign.Defences));
+       }},
+      {{"End", K::Tag}, EndCell}};
+  const ColumnsOf<ChampionTotal> totals_ = {
+      {{"Champion", K::Text, 4}, [](const ChampionTotal& total) { return total.Name; }},
+      {{"Reigns", K::Number}, [](const ChampionTotal& total) { return ui::Cell(total.Reigns); }},
+      {{"Days", K::Number, 0, "Of the reigns whose length is known."},
+       [](const ChampionTotal& total) { return ui::Cell(total.Days); }},
+      {{"Defences", K::Number},
+       [](const ChampionTotal& total) { return CountCell(total.Defences); }}};
+  ui::ListBox lstreigns{*this, "lstreigns", HeadingsOf(reigns_)};
+  ui::ListBox lsttotals{*this, "lsttotals", HeadingsOf(totals_)};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmReigns::cmdback_Click};
+};
+
+}  // namespace
+
+SCREEN(frmReigns)
+
+std::unique_ptr<ui::Screen> MakefrmReigns(Game& game, std::string_view title, int owner) {
+  return std::make_unique<frmReigns>(game, Lineage{std::string(title), owner, {}, false});
+}
 
 }  // namespace grapplemont

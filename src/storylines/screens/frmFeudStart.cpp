@@ -1,16 +1,12 @@
-#include "records/modWresCheck.h"
 #include "records/world.h"
 #include "storylines/feuds.h"
+#include "storylines/partners.h"
+#include "storylines/screens/screenpeople.h"
 #include "storylines/screens/storyscreens.h"
 
 namespace grapplemont {
 
 namespace {
-
-ui::Tone ToneOf(const Worker& worker) {
-  if (worker.Disposition == "F") return ui::Tone::Blue;
-  return worker.Disposition == "H" ? ui::Tone::Red : ui::Tone::Muted;
-}
 
 std::string ContrastText(int contrast) {
   if (contrast == 0) return {};
@@ -63,15 +59,10 @@ class frmFeudStart : public ui::Screen {
   World& world() { return game_.World(); }
 
   void FillLists() {
-    std::vector<ui::ListBox::Row> rows;
-    for (const Worker* worker : FeudRoster(world()))
-      rows.push_back(
-          {{worker->Name.View(), ui::Cell(DispositionText(worker->Disposition), ToneOf(*worker)),
-            ui::Cell(worker->Over)},
-           worker->Uid});
+    const std::vector<const Worker*> roster = FeudRoster(world());
     for (int head = 1; head <= kHeads; ++head) {
       lstwres(head).EmptyText = "Nobody on the roster is fit to feud.";
-      lstwres(head).Fill(rows);
+      FillShort(lstwres(head), roster);
     }
   }
 
@@ -101,8 +92,7 @@ class frmFeudStart : public ui::Screen {
   void ShowForecast() {
     const bool complete = IsComplete();
     const std::string why = complete ? WhyNoFeud(world(), Chosen()) : std::string();
-    cmdstart.Enabled = complete;
-    cmdstart.Tip = complete ? "" : "Choose both sides first.";
+    EnableUnless(cmdstart, complete ? "" : "Choose both sides first.");
     lblwarning.Text = why;
     lblwarning.Visible = !why.empty();
     lblheat.Text = complete             ? Forecast(StartingHeatOf(world(), Chosen()))
@@ -115,15 +105,11 @@ class frmFeudStart : public ui::Screen {
     ShowForecast();
   }
 
-  /// Who belongs to a Tag Team mostly feuds beside his partner.
+  /// Who belongs to a Tag Team mostly feuds beside their partner.
   void SuggestPartner(const ui::ListBox& leader, ui::ListBox& partner) {
-    for (const Team& team : world().Teams()) {
-      if (team.Worker1 != leader.Key() && team.Worker2 != leader.Key()) continue;
-      const int other = team.Worker1 == leader.Key() ? team.Worker2 : team.Worker1;
-      const Worker* worker = world().FindWorker(other);
-      if (!worker || !MayFeud(world(), *worker)) continue;
-      return partner.SelectKey(other);
-    }
+    for (const int uid : PartnersOf(world(), leader.Key()))
+      if (const Worker* worker = world().FindWorker(uid); worker && MayFeud(world(), *worker))
+        return partner.SelectKey(uid);
   }
 
   void chksingles_Click() {
@@ -156,7 +142,6 @@ class frmFeudStart : public ui::Screen {
 
   void cmdback_Click() { Close(); }
 
-  using K = ui::ColumnKind;
   Game& game_;
   ui::CheckBox chksingles{*this, "chksingles", "Singles feud", true,
                           &frmFeudStart::chksingles_Click};
@@ -166,14 +151,11 @@ class frmFeudStart : public ui::Screen {
                                   return std::make_unique<ui::Label>(
                                       *this, "lblside" + std::to_string(head));
                                 }};
-  ui::Array<ui::ListBox> lstwres{
-      "lstwres", kHeads, [this](const std::string&, int head) {
-        return std::make_unique<ui::ListBox>(
-            *this, "lstwres" + std::to_string(head),
-            std::vector<ui::Column>{
-                {"Name", K::Text, 4}, {"Disp.", K::Tag, 2}, {"Over", K::Number, 1, "Popularity."}},
-            [this, head] { lstwres_Click(head); });
-      }};
+  ui::Array<ui::ListBox> lstwres{"lstwres", kHeads, [this](const std::string&, int head) {
+                                   return std::make_unique<ui::ListBox>(
+                                       *this, "lstwres" + std::to_string(head), ShortColumns(),
+                                       [this, head] { lstwres_Click(head); });
+                                 }};
   ui::Button cmdback{*this, "cmdback", "Back", &frmFeudStart::cmdback_Click};
   ui::Button cmdstart{*this, "cmdstart", "Start Feud", &frmFeudStart::cmdstart_Click};
 };

@@ -1,10 +1,33 @@
+#include <array>
+
+#include "records/dates.h"
 #include "records/world.h"
 #include "storylines/feuds.h"
+#include "storylines/screens/screenpeople.h"
 #include "storylines/screens/storyscreens.h"
 
 namespace grapplemont {
 
 namespace {
+
+/// The counters of a side, by the names of their controls ("txtclean1") and what they are called.
+struct Counter {
+  const char* Control;
+  const char* Caption;
+  Natural Feud::*One;
+  Natural Feud::*Two;
+};
+constexpr std::array<Counter, 4> kCounters = {{
+    {"txtclean", "Clean wins", &Feud::Clean1, &Feud::Clean2},
+    {"txtdirty", "Dirty wins", &Feud::Dirty1, &Feud::Dirty2},
+    {"txtinter", "Verbal attacks", &Feud::Interference1, &Feud::Interference2},
+    {"txtsneak", "Sneak attacks", &Feud::Sneak1, &Feud::Sneak2},
+}};
+constexpr int kKinds = static_cast<int>(kCounters.size());
+
+const Counter& CounterOf(int kind) {
+  return kCounters[static_cast<std::size_t>(kind - 1)];
+}
 
 /// The eight feud slots as one table, the score of the selected feud beside it.
 class frmFeuds : public ui::Screen {
@@ -56,48 +79,43 @@ class frmFeuds : public ui::Screen {
     for (int slot = 1; slot <= kFeuds; ++slot) {
       const Feud feud = FeudOf(slot);
       if (!IsFreeSlot(feud)) ++running;
-      rows.push_back({RowOf(feud), slot});
+      rows.push_back(RowOf(feuds_, feud, slot));
     }
     lstfeuds.Fill(std::move(rows));
     lblfacts.Text = std::to_string(running) + " of " + std::to_string(kFeuds) + " feuds running.";
   }
 
-  std::vector<ui::Cell> RowOf(const Feud& feud) {
-    if (IsFreeSlot(feud))
-      return {ui::Cell("<<<Empty Feud Slot>>>", ui::Tone::Muted), "", "", "", ""};
+  ui::Cell NameCell(const Feud& feud) {
+    if (IsFreeSlot(feud)) return {"<<<Empty Feud Slot>>>", ui::Tone::Muted};
     const FeudSides sides = SidesOf(feud);
-    const FeudScore score = FeudWins(feud);
-    const auto days = (world().Today() - Day(feud.Started)).count();
-    return {SideName(world(), sides.One) + " vs " + SideName(world(), sides.Two),
-            ui::Cell(feud.Heat), ui::Cell(static_cast<int>(days)), ui::Cell(score.One),
-            ui::Cell(score.Two)};
+    return SideName(world(), sides.One) + " vs " + SideName(world(), sides.Two);
+  }
+
+  /// Nothing for an empty slot.
+  static ui::Cell CountCell(const Feud& feud, long count) {
+    return IsFreeSlot(feud) ? ui::Cell("") : ui::Cell(static_cast<int>(count));
   }
 
   void lstfeuds_Click() {
     const Feud feud = FeudOf(lstfeuds.Key());
     const bool taken = !IsFreeSlot(feud);
     cmdask.Text = taken ? "Ask Maeve" : "Start Feud";
-    for (ui::Button* button : {&cmdstat, &cmdend}) {
-      button->Enabled = taken;
-      button->Tip = taken ? "" : "There is no feud in this slot.";
-    }
+    EnableUnless({cmdstat, cmdend}, taken ? "" : "There is no feud in this slot.");
     ShowScore(feud);
     txtmaeve.Write(taken ? "Ask her where this feud should go." : "");
   }
 
   void ShowScore(const Feud& feud) {
-    lstscore.Clear();
-    lstscore.SetColumns({{""}, {"Side one", K::Number}, {"Side two", K::Number}});
-    if (IsFreeSlot(feud)) return;
+    const bool free = IsFreeSlot(feud);
     const FeudSides sides = SidesOf(feud);
+    lstscore.Clear();
     lstscore.SetColumns({{""},
-                         {SideName(world(), sides.One), K::Number},
-                         {SideName(world(), sides.Two), K::Number}});
+                         {free ? "Side one" : SideName(world(), sides.One), K::Number},
+                         {free ? "Side two" : SideName(world(), sides.Two), K::Number}});
+    if (free) return;
+    for (const Counter& counter : kCounters)
+      lstscore.Add({counter.Caption, ui::Cell(feud.*counter.One), ui::Cell(feud.*counter.Two)});
     const FeudScore score = FeudWins(feud);
-    lstscore.Add({"Clean wins", ui::Cell(feud.Clean1), ui::Cell(feud.Clean2)});
-    lstscore.Add({"Dirty wins", ui::Cell(feud.Dirty1), ui::Cell(feud.Dirty2)});
-    lstscore.Add({"Verbal attacks", ui::Cell(feud.Interference1), ui::Cell(feud.Interference2)});
-    lstscore.Add({"Sneak attacks", ui::Cell(feud.Sneak1), ui::Cell(feud.Sneak2)});
     lstscore.Add({"Won", ui::Cell(score.One), ui::Cell(score.Two)});
   }
 
@@ -134,14 +152,18 @@ class frmFeuds : public ui::Screen {
   Game& game_;
   int next_ = 0;  // the slot that a feud being started will take
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstfeuds{*this,
-                       "lstfeuds",
-                       {{"Feud", K::Text, 5},
-                        {"Heat", K::Percent, 2},
-                        {"Days", K::Number, 1, "Days since it began."},
-                        {"Wins 1", K::Number, 1, "Wins and attacks of the side named first."},
-                        {"Wins 2", K::Number, 1, "Wins and attacks of the other side."}},
-                       &frmFeuds::lstfeuds_Click,
+  const ColumnsOf<Feud> feuds_ = {
+      {{"Feud", K::Text, 5}, [this](const Feud& feud) { return NameCell(feud); }},
+      {{"Heat", K::Percent, 2}, [](const Feud& feud) { return CountCell(feud, feud.Heat); }},
+      {{"Days", K::Number, 1, "Days since it began."},
+       [this](const Feud& feud) {
+         return CountCell(feud, (world().Today() - Day(feud.Started)).count());
+       }},
+      {{"Wins 1", K::Number, 1, "Wins and attacks of the side named first."},
+       [](const Feud& feud) { return CountCell(feud, FeudWins(feud).One); }},
+      {{"Wins 2", K::Number, 1, "Wins and attacks of the other side."},
+       [](const Feud& feud) { return CountCell(feud, FeudWins(feud).Two); }}};
+  ui::ListBox lstfeuds{*this, "lstfeuds", HeadingsOf(feuds_), &frmFeuds::lstfeuds_Click,
                        &frmFeuds::lstfeuds_DblClick};
   ui::ListBox lstscore{*this, "lstscore"};
   ui::Report txtmaeve{*this, "txtmaeve"};
@@ -154,5 +176,96 @@ class frmFeuds : public ui::Screen {
 }  // namespace
 
 SCREEN(frmFeuds)
+
+namespace {
+
+class frmFeudStat : public ui::Screen {
+ public:
+  frmFeudStat(Game& game, int slot)
+      : Screen(game.Desk(), "frmFeudStat", "Feud Statistics"), game_(game), slot_(slot) {}
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdend, &cmdback};
+    page.Main = &cmdback;
+    page.Cancel = &cmdback;
+    page.Body = ui::Rows(
+        {ui::Group("The feud", {ui::Field("Heat", txtheat), ui::Field("Started", txtstarted)}),
+         ui::Columns({ui::Group("Side one", SideBox(txtside1, counts1, txtwon1)),
+                      ui::Group("Side two", SideBox(txtside2, counts2, txtwon2))}),
+         ui::Spacer()});
+    return page;
+  }
+
+  void Load() override { Show(); }
+  void Return() override { Show(); }
+
+ private:
+  using Labels = ui::Array<ui::Label>;
+
+  static std::vector<ui::Box> SideBox(ui::Label& name, Labels& counts, ui::Label& won) {
+    std::vector<ui::Box> box{name};
+    for (int kind = 1; kind <= kKinds; ++kind)
+      box.push_back(ui::Field(CounterOf(kind).Caption, counts(kind)));
+    box.push_back(ui::Field("Won", won));
+    return box;
+  }
+
+  Labels CountLabels(const std::string& side) {
+    return Labels("", kKinds, [this, side](const std::string&, int kind) {
+      return std::make_unique<ui::Label>(*this, CounterOf(kind).Control + side);
+    });
+  }
+
+  void Show() {
+    const World& world = game_.World();
+    const Feud& feud = world.Feuds()[slot_];
+    const FeudSides sides = SidesOf(feud);
+    const FeudScore score = FeudWins(feud);
+    txtside1.Text = SideName(world, sides.One);
+    txtside2.Text = SideName(world, sides.Two);
+    lblfacts.Text = txtside1.Text.Get() + " vs " + txtside2.Text.Get();
+    txtheat.Text = std::to_string(feud.Heat) + "%";
+    txtstarted.Text = PlainDate(feud.Started);
+    for (int kind = 1; kind <= kKinds; ++kind) {
+      counts1(kind).Text = std::to_string(feud.*CounterOf(kind).One);
+      counts2(kind).Text = std::to_string(feud.*CounterOf(kind).Two);
+    }
+    txtwon1.Text = std::to_string(score.One);
+    txtwon2.Text = std::to_string(score.Two);
+  }
+
+  void cmdend_Click() {
+    if (EndFeudAfterAsking(game_, slot_)) Close();
+  }
+  void cmdback_Click() { Close(); }
+
+  Game& game_;
+  int slot_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Label txtheat{*this, "txtheat"};
+  ui::Label txtstarted{*this, "txtstarted"};
+  ui::Label txtside1{*this, "txtside1"};
+  Labels counts1 = CountLabels("1");
+  ui::Label txtwon1{*this, "txtwon1"};
+  ui::Label txtside2{*this, "txtside2"};
+  Labels counts2 = CountLabels("2");
+  ui::Label txtwon2{*this, "txtwon2"};
+  ui::Button cmdend{*this, "cmdend", "End Feud", &frmFeudStat::cmdend_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmFeudStat::cmdback_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmFeudStat(Game& game, int slot) {
+  return std::make_unique<frmFeudStat>(game, slot);
+}
+
+bool EndFeudAfterAsking(Game& game, int slot) {
+  if (!game.Desk().Ask("End Feud?", "End this feud off-camera?", ui::Default::No)) return false;
+  EndFeudOffCamera(game.World(), slot);
+  return true;
+}
 
 }  // namespace grapplemont

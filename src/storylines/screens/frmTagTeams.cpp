@@ -1,8 +1,9 @@
+#include "records/counted.h"
 #include "records/modWresCheck.h"
+#include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/screens/storyscreens.h"
 #include "storylines/storynames.h"
-#include "storylines/teams.h"
 
 namespace grapplemont {
 
@@ -52,18 +53,11 @@ class frmTagTeams : public ui::Screen {
 
   void ShowTeams() {
     std::vector<ui::ListBox::Row> rows;
-    for (const int number : PlayerTeams(world())) {
-      const Team& team = world().Teams()[number];
-      rows.push_back(
-          {{team.Name.View(), WorkerName(world(), team.Worker1), WorkerName(world(), team.Worker2),
-            team.Finisher == "None" ? "" : team.Finisher.View(), ui::Cell(team.Experience)},
-           number});
-    }
-    const auto count = rows.size();
+    for (const int number : PlayerTeams(world()))
+      rows.push_back(RowOf(teams_, world().Teams()[number], number));
+    const auto count = std::ssize(rows);
     lstteams.Fill(std::move(rows));
-    lblfacts.Text = count == 0   ? "No team yet"
-                    : count == 1 ? "1 team"
-                                 : std::to_string(count) + " teams";
+    lblfacts.Text = count == 0 ? "No team yet" : Counted(count, "team");
   }
 
   void ShowRoster() {
@@ -73,7 +67,7 @@ class frmTagTeams : public ui::Screen {
 
   void ShowButtons() {
     const std::string none = Chosen() ? "" : "Choose a team first.";
-    for (ui::Button* button : {&cmdrename, &cmdfinisher, &cmddissolve}) EnableUnless(*button, none);
+    EnableUnless({cmdrename, cmdfinisher, cmddissolve}, none);
     const int first = lstwres(1).Key(), second = lstwres(2).Key();
     lblpair.Text = first != 0 && second != 0
                        ? WorkerName(world(), first) + " and " + WorkerName(world(), second)
@@ -137,14 +131,17 @@ class frmTagTeams : public ui::Screen {
   using K = ui::ColumnKind;
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstteams{*this,
-                       "lstteams",
-                       {{"Team", K::Text, 4},
-                        {"First", K::Text, 3},
-                        {"Second", K::Text, 3},
-                        {"Finisher", K::Text, 3},
-                        {"Experience", K::Percent, 2, "Grows with every match as a team."}},
-                       &frmTagTeams::lstteams_Click};
+  const ColumnsOf<Team> teams_ = {
+      {{"Team", K::Text, 4}, [](const Team& team) { return team.Name.View(); }},
+      {{"First", K::Text, 3},
+       [this](const Team& team) { return WorkerName(world(), team.Worker1); }},
+      {{"Second", K::Text, 3},
+       [this](const Team& team) { return WorkerName(world(), team.Worker2); }},
+      {{"Finisher", K::Text, 3},
+       [](const Team& team) { return team.Finisher == "None" ? "" : team.Finisher.View(); }},
+      {{"Experience", K::Percent, 2, "Grows with every match as a team."},
+       [](const Team& team) { return ui::Cell(team.Experience); }}};
+  ui::ListBox lstteams{*this, "lstteams", HeadingsOf(teams_), &frmTagTeams::lstteams_Click};
   ui::Array<ui::ListBox> lstwres{"lstwres", 2, [this](const std::string&, int head) {
                                    return std::make_unique<ui::ListBox>(
                                        *this, "lstwres" + std::to_string(head), ShortColumns(),
@@ -163,5 +160,174 @@ class frmTagTeams : public ui::Screen {
 }  // namespace
 
 SCREEN(frmTagTeams)
+
+namespace {
+
+/// The player's stables: who is in them and who could be.
+class frmStables : public ui::Screen {
+ public:
+  explicit frmStables(Game& game) : Screen(game.Desk(), "frmStables", "Stables"), game_(game) {
+    lststables.EmptyText = "You have no stable yet. Type a name below and found one.";
+    lstmembers.EmptyText = "Nobody is in this stable. Choose somebody at the right and add him.";
+    lstwres.EmptyText = "Everybody you have is in this stable.";
+    txtname.Hint = "Name";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmddissolve, &cmdback};
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns({ui::Rows({ui::Group("Your stables", {ui::Grow(lststables)}).Grow(),
+                                       ui::Group("Name", {txtname, cmdcreate, cmdrename})})
+                                 .Grow(3),
+                             ui::Group("Members", {ui::Grow(lstmembers), cmdremove}).Grow(3),
+                             ui::Group("Not in this stable", {ui::Grow(lstwres), cmdadd}).Grow(4)});
+    return page;
+  }
+
+  void Load() override {
+    ShowStables();
+    lststables.Select(lststables.Count() > 0 ? 1 : 0);
+    lststables_Click();
+  }
+  void Return() override {
+    ShowStables();
+    ShowStable();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+
+  /// Empty when none is selected.
+  std::string Chosen() {
+    const int number = lststables.Key();
+    return number == 0 ? std::string() : world().Stables()[number].Name.Str();
+  }
+
+  void ShowStables() {
+    std::vector<ui::ListBox::Row> rows;
+    for (const Stable* stable : PlayerStables(world()))
+      rows.push_back(RowOf(stables_, *stable, world().Stables().NumberOf(*stable)));
+    const auto count = std::ssize(rows);
+    lststables.Fill(std::move(rows));
+    lblfacts.Text = count == 0 ? "No stable yet" : Counted(count, "stable");
+  }
+
+  void ShowStable() {
+    const std::string stable = Chosen();
+    std::vector<const Worker*> members, others;
+    for (const Worker* worker : SeenOnShows(world()))
+      (!stable.empty() && worker->Stable == stable ? members : others).push_back(worker);
+    FillTable(lstmembers, members_, members);
+    FillTable(lstwres, others_, others);
+    ShowButtons();
+  }
+
+  ui::Cell RoleCell(const Worker& worker) {
+    if (&worker == StableLeader(world(), worker.Stable)) return {"Leader", ui::Tone::Gold};
+    return StatusCell(worker);
+  }
+  static ui::Cell InCell(const Worker& worker) {
+    return {IsInStable(worker) ? worker.Stable.View() : "", ui::Tone::Muted};
+  }
+
+  void ShowButtons() {
+    const std::string none = Chosen().empty() ? "Choose a stable first." : "";
+    EnableUnless({cmdrename, cmddissolve}, none);
+    EnableUnless(cmdadd, !none.empty()        ? none
+                         : lstwres.Key() == 0 ? "Choose somebody of this list first."
+                                              : "");
+    EnableUnless(cmdremove, !none.empty()           ? none
+                            : lstmembers.Key() == 0 ? "Choose a member first."
+                                                    : "");
+  }
+
+  void lststables_Click() {
+    txtname.Text = Chosen();
+    ShowStable();
+  }
+
+  void cmdcreate_Click() {
+    const std::string name(TrimmedName(txtname.Text.Get()));
+    if (desk().Objects(WhyNotFound(world(), name))) return;
+    FoundStable(world(), name);
+    ShowStables();
+    lststables.Select(lststables.Count());
+    lststables_Click();
+  }
+
+  void cmdrename_Click() {
+    const std::string name(TrimmedName(txtname.Text.Get()));
+    if (name == Chosen()) return;
+    if (desk().Objects(WhyNotStableName(world(), name))) return;
+    RenameStable(world(), Chosen(), name);
+    ShowStables();
+    lststables_Click();
+  }
+
+  void cmddissolve_Click() {
+    const std::string stable = Chosen();
+    const int booked = BookedFor(world(), stable);
+    const std::string price =
+        booked == 0   ? ""
+        : booked == 1 ? " The segment that is booked for it will be removed from the sheet."
+                      : " The " + std::to_string(booked) +
+                            " segments that are booked for it will be removed from the sheet.";
+    if (!desk().Ask("Dissolve?", "Are you sure you wish to dissolve " + stable + "?" + price,
+                    ui::Default::No))
+      return;
+    DissolveStable(world(), stable);
+    ShowStables();
+    lststables.Select(lststables.Count() > 0 ? 1 : 0);
+    lststables_Click();
+  }
+
+  void cmdadd_Click() {
+    Worker* worker = world().FindWorker(lstwres.Key());
+    if (!worker || desk().Objects(WhyNotJoin(world(), Chosen(), *worker))) return;
+    JoinStable(*worker, Chosen());
+    Return();
+  }
+
+  void cmdremove_Click() {
+    if (Worker* worker = world().FindWorker(lstmembers.Key())) LeaveStable(*worker);
+    Return();
+  }
+
+  void cmdback_Click() { Close(); }
+
+  using K = ui::ColumnKind;
+  Game& game_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  const ColumnsOf<Stable> stables_ = {
+      {{"Stable", K::Text, 4}, [](const Stable& stable) { return stable.Name.View(); }},
+      {{"Members", K::Number, 1, "Ten at most."},
+       [this](const Stable& stable) {
+         return ui::Cell(static_cast<int>(StableMembers(world(), stable.Name).size()));
+       }},
+      {{"Leader", K::Text, 4, "The most popular member who is fit."}, [this](const Stable& stable) {
+         const Worker* leader = StableLeader(world(), stable.Name);
+         return leader ? leader->Name.Str() : "";
+       }}};
+  const ColumnsOf<Worker> members_ =
+      PeopleTable({{{"", K::Tag, 2}, [this](const Worker& worker) { return RoleCell(worker); }}});
+  const ColumnsOf<Worker> others_ = PeopleTable({{{"In", K::Text, 2}, InCell}});
+  ui::ListBox lststables{*this, "lststables", HeadingsOf(stables_), &frmStables::lststables_Click};
+  ui::TextBox txtname{*this, "txtname"};
+  ui::Button cmdcreate{*this, "cmdcreate", "Found A Stable", &frmStables::cmdcreate_Click};
+  ui::Button cmdrename{*this, "cmdrename", "Rename", &frmStables::cmdrename_Click};
+  ui::ListBox lstmembers{*this, "lstmembers", HeadingsOf(members_), &frmStables::ShowButtons,
+                         cmdremove};
+  ui::Button cmdremove{*this, "cmdremove", "Take Out", &frmStables::cmdremove_Click};
+  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(others_), &frmStables::ShowButtons, cmdadd};
+  ui::Button cmdadd{*this, "cmdadd", "Add To The Stable", &frmStables::cmdadd_Click};
+  ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmStables::cmddissolve_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmStables::cmdback_Click};
+};
+
+}  // namespace
+
+SCREEN(frmStables)
 
 }  // namespace grapplemont

@@ -1,16 +1,128 @@
+#include <algorithm>
+
 #include "records/counted.h"
 #include "records/dates.h"
 #include "records/modWresCheck.h"
+#include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/screens/storyscreens.h"
 #include "storylines/storynames.h"
-#include "storylines/turns.h"
 
 namespace grapplemont {
 
 namespace {
 
-constexpr ui::ColumnKind kTag = ui::ColumnKind::Tag;
+using K = ui::ColumnKind;
+
+/// Who manages whom, and who could.
+class frmManagers : public ui::Screen {
+ public:
+  explicit frmManagers(Game& game) : Screen(game.Desk(), "frmManagers", "Managers"), game_(game) {
+    lstclients.EmptyText = "Nobody wrestles for you yet.";
+    lstmanagers.EmptyText = "You have no manager. Hire one, or make one of a worker.";
+    lsthis.EmptyText = "No client yet. Choose a wrestler, then give this manager.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback};
+    page.Cancel = &cmdback;
+    page.Body =
+        ui::Columns({ui::Group("Your wrestlers", {ui::Grow(lstclients), cmdtake}).Grow(3),
+                     ui::Rows({ui::Group("Your managers", {ui::Grow(lstmanagers), cmdgive}).Grow(3),
+                               ui::Group("Clients of this manager", {ui::Grow(lsthis)}).Grow(2)})
+                         .Grow(3)});
+    return page;
+  }
+
+  void Load() override {
+    Return();
+    lstmanagers.Select(lstmanagers.Count() > 0 ? 1 : 0);
+    ShowChoice();
+  }
+
+  void Return() override {
+    ShowClients();
+    FillTable(lstmanagers, managers_, Managers(world()));
+    ShowChoice();
+  }
+
+ private:
+  World& world() { return game_.World(); }
+
+  void ShowClients() {
+    const std::vector<const Worker*> clients = Clients(world());
+    const auto managed = std::count_if(clients.begin(), clients.end(), [&](const Worker* client) {
+      return ManagerOf(world(), *client) != nullptr;
+    });
+    lblfacts.Text = std::to_string(managed) + " of " +
+                    Counted(static_cast<int>(clients.size()), "wrestler") +
+                    (managed == 1 ? " has a manager." : " have a manager.");
+    FillTable(lstclients, clients_, clients);
+  }
+
+  ui::Cell ManagerCell(const Worker& client) {
+    const Worker* manager = ManagerOf(world(), client);
+    return manager ? manager->Name.Str() : "";
+  }
+
+  void ShowChoice() {
+    const Worker* client = world().FindWorker(lstclients.Key());
+    const Worker* manager = world().FindWorker(lstmanagers.Key());
+    EnableUnless(cmdgive, client && manager ? WhyNotManage(*manager, *client)
+                                            : "Choose a wrestler and a manager first.");
+    EnableUnless(cmdtake, !client                ? "Choose a wrestler first."
+                          : client->Manager == 0 ? client->Name + " has no manager."
+                                                 : "");
+    FillShort(lsthis, manager ? ClientsOf(world(), *manager) : std::vector<const Worker*>());
+  }
+
+  void cmdgive_Click() {
+    Worker& client = *world().FindWorker(lstclients.Key());
+    const Worker& manager = *world().FindWorker(lstmanagers.Key());
+    const Worker* present = ManagerOf(world(), client);
+    if (present && !desk().Ask("Managers", present->Name + " manages " + client.Name.Str() +
+                                               ". Shall " + manager.Name.Str() + " take over?"))
+      return;
+    client.Manager = manager.Uid;
+    Return();
+  }
+
+  void cmdtake_Click() {
+    world().FindWorker(lstclients.Key())->Manager = 0;
+    Return();
+  }
+
+  void cmdback_Click() { Close(); }
+
+  Game& game_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  const ColumnsOf<Worker> clients_ = PeopleTable(
+      {{{"Manager", K::Text, 4}, [this](const Worker& client) { return ManagerCell(client); }}});
+  const ColumnsOf<Worker> managers_ =
+      PeopleTable({{{"Charisma", K::Number, 1},
+                    [](const Worker& manager) { return ui::Cell(manager.Charisma); }},
+                   {{"", K::Tag, 1, "Can give no interviews."},
+                    [](const Worker& manager) {
+                      return ui::Cell(manager.Speaks ? "" : "Mute", ui::Tone::Muted);
+                    }},
+                   {{"Manages", K::Number, 1}, [this](const Worker& manager) {
+                      return ui::Cell(static_cast<int>(ClientsOf(world(), manager).size()));
+                    }}});
+  ui::ListBox lstclients{*this, "lstclients", HeadingsOf(clients_), &frmManagers::ShowChoice};
+  ui::ListBox lstmanagers{*this, "lstmanagers", HeadingsOf(managers_), &frmManagers::ShowChoice};
+  ui::ListBox lsthis{*this, "lsthis", ShortColumns()};
+  ui::Button cmdgive{*this, "cmdgive", "Give This Manager", &frmManagers::cmdgive_Click};
+  ui::Button cmdtake{*this, "cmdtake", "Take The Manager Away", &frmManagers::cmdtake_Click};
+  ui::Button cmdback{*this, "cmdback", "Back", &frmManagers::cmdback_Click};
+};
+
+}  // namespace
+
+SCREEN(frmManagers)
+
+namespace {
 
 /// Whose turn is being prepared.
 class frmTurn : public ui::Screen {
@@ -43,25 +155,17 @@ class frmTurn : public ui::Screen {
   World& world() { return game_.World(); }
 
   void ShowRoster() {
-    std::vector<ui::ListBox::Row> rows;
-    int pending = 0;
-    for (const Worker* worker : SeenOnShows(world())) {
-      if (worker->TurnPending) ++pending;
-      std::vector<ui::Cell> cells = ShortRow(*worker);
-      cells.push_back(LastTurnCell(*worker));
-      cells.emplace_back(worker->TurnPending ? "Turn pending" : "", ui::Tone::Gold);
-      rows.push_back({std::move(cells), worker->Uid});
-    }
-    lstwres.Fill(std::move(rows));
-    lblfacts.Text = pending == 0   ? "No turn is being prepared."
-                    : pending == 1 ? "1 turn is being prepared."
-                                   : std::to_string(pending) + " turns are being prepared.";
+    const std::vector<const Worker*> seen = SeenOnShows(world());
+    const auto pending = std::count_if(
+        seen.begin(), seen.end(), [](const Worker* worker) { return bool(worker->TurnPending); });
+    FillTable(lstwres, columns_, seen);
+    lblfacts.Text = (pending == 0 ? "No turn is" : Counted(pending, "turn is", "turns are")) +
+                    " being prepared.";
   }
 
   ui::Cell LastTurnCell(const Worker& worker) {
     if (DaysSinceTurn(world(), worker) < 0) return {"Never", ui::Tone::Muted};
-    return {static_cast<double>((Day(worker.LastTurn) - kDayZero).count()),
-            PlainDate(worker.LastTurn)};
+    return DayCell(worker.LastTurn);
   }
 
   void ShowTurn() {
@@ -86,22 +190,20 @@ class frmTurn : public ui::Screen {
 
   void cmdturn_Click() {
     Worker& worker = *world().FindWorker(lstwres.Key());
-    worker.TurnPending ? CallOffTurn(worker) : PrepareTurn(worker);
+    worker.TurnPending = !worker.TurnPending;
     Return();
   }
 
   void cmdback_Click() { Close(); }
 
-  static std::vector<ui::Column> Columns() {
-    std::vector<ui::Column> columns = ShortColumns();
-    columns.push_back({"Last turn", ui::ColumnKind::Date, 3});
-    columns.push_back({"", kTag, 2});
-    return columns;
-  }
-
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstwres{*this, "lstwres", Columns(), &frmTurn::ShowTurn, cmdturn};
+  const ColumnsOf<Worker> columns_ = PeopleTable(
+      {{{"Last turn", K::Date, 3}, [this](const Worker& worker) { return LastTurnCell(worker); }},
+       {{"", K::Tag, 2}, [](const Worker& worker) {
+          return ui::Cell(worker.TurnPending ? "Turn pending" : "", ui::Tone::Gold);
+        }}});
+  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmTurn::ShowTurn, cmdturn};
   ui::Report txtturn{*this, "txtturn"};
   ui::Button cmdturn{*this, "cmdturn", "Prepare A Turn", &frmTurn::cmdturn_Click};
   ui::Button cmdback{*this, "cmdback", "Back", &frmTurn::cmdback_Click};

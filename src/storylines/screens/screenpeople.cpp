@@ -1,20 +1,45 @@
 #include "storylines/screens/screenpeople.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "records/dates.h"
 #include "records/modWresCheck.h"
+#include "storylines/titles.h"
 
 namespace grapplemont {
 
 namespace {
 
-ui::Tone ToneOf(const Worker& worker) {
-  if (worker.Disposition == "F") return ui::Tone::Blue;
-  return worker.Disposition == "H" ? ui::Tone::Red : ui::Tone::Muted;
+using K = ui::ColumnKind;
+
+/// A reign that has lasted since before the game has no day.
+constexpr const char* kFromTheStart = "From the start";
+
+ui::Cell DateCell(Day day, const char* unknown) {
+  if (day <= kNoTitleDate) return {unknown, ui::Tone::Muted};
+  return DayCell(day);
+}
+
+ui::Cell ChampionCell(const World& world, const Title& title) {
+  return {ChampionText(world, title), title.Holder == 0 ? ui::Tone::Muted : ui::Tone::Plain};
+}
+
+ui::Cell StandingCell(const World& world, const Title& title) {
+  if (title.Suspended) return {"Suspended", ui::Tone::Red};
+  const std::string why = WhyNoDefence(world, title);
+  return {why.empty() ? why : "Holder " + why, ui::Tone::Amber};
 }
 
 }  // namespace
 
+ui::Tone DispositionTone(const Worker& worker) {
+  if (worker.Disposition == "F") return ui::Tone::Blue;
+  return worker.Disposition == "H" ? ui::Tone::Red : ui::Tone::Muted;
+}
+
 ui::Cell DispositionCell(const Worker& worker) {
-  return {DispositionText(worker.Disposition), ToneOf(worker)};
+  return {DispositionText(worker.Disposition), DispositionTone(worker)};
 }
 
 ui::Cell StatusCell(const Worker& worker) {
@@ -22,19 +47,37 @@ ui::Cell StatusCell(const Worker& worker) {
   return {StatusLine(worker), ui::Tone::Red};
 }
 
+ui::Cell DayCell(Day day) {
+  return {static_cast<double>((day - kDayZero).count()), PlainDate(day)};
+}
+
+ColumnsOf<Worker> PeopleTable(ColumnsOf<Worker> more) {
+  ColumnsOf<Worker> columns = {
+      {{"Name", K::Text, 4}, [](const Worker& worker) { return worker.Name.View(); }},
+      {{"Disp.", K::Tag, 2}, DispositionCell},
+      {{"Over", K::Number, 1, "Popularity."},
+       [](const Worker& worker) { return ui::Cell(worker.Over); }}};
+  std::move(more.begin(), more.end(), std::back_inserter(columns));
+  return columns;
+}
+
+void FillTable(ui::ListBox& list, const ColumnsOf<Worker>& columns,
+               const std::vector<const Worker*>& people) {
+  std::vector<ui::ListBox::Row> rows;
+  for (const Worker* worker : people) rows.push_back(RowOf(columns, *worker, worker->Uid));
+  list.Fill(std::move(rows));
+}
+
 std::vector<ui::Column> ShortColumns() {
-  using K = ui::ColumnKind;
-  return {{"Name", K::Text, 4}, {"Disp.", K::Tag, 2}, {"Over", K::Number, 1, "Popularity."}};
+  return HeadingsOf(PeopleTable());
 }
 
 std::vector<ui::Cell> ShortRow(const Worker& worker) {
-  return {worker.Name.View(), DispositionCell(worker), ui::Cell(worker.Over)};
+  return RowOf(PeopleTable(), worker, worker.Uid).Cells;
 }
 
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people) {
-  std::vector<ui::ListBox::Row> rows;
-  for (const Worker* worker : people) rows.push_back({ShortRow(*worker), worker->Uid});
-  list.Fill(std::move(rows));
+  FillTable(list, PeopleTable(), people);
 }
 
 void EnableUnless(ui::Control& control, const std::string& why) {
@@ -44,6 +87,44 @@ void EnableUnless(ui::Control& control, const std::string& why) {
 
 void EnableUnless(Controls controls, const std::string& why) {
   for (ui::Control& control : controls) EnableUnless(control, why);
+}
+
+ColumnsOf<Title> TitleTable(const World& world) {
+  return {{{"Title"}, [](const Title& title) { return title.Name.View(); }},
+          {{"Kind", K::Tag}, KindText},
+          {{"Holder"}, [&](const Title& title) { return ChampionCell(world, title); }},
+          {{"Since", K::Date},
+           [](const Title& title) {
+             return title.Holder == 0 ? ui::Cell("") : DateCell(title.Reigns[0].Won, kFromTheStart);
+           }},
+          {{"Image", K::Percent, 0, "How much the fans make of it."},
+           [](const Title& title) { return ui::Cell(title.Image); }},
+          {{"State", K::Tag, 0, "Suspended, or what keeps its holder from defending it."},
+           [&](const Title& title) { return StandingCell(world, title); }}};
+}
+
+namespace {
+
+const ColumnsOf<Reign>& ReignTable() {
+  static const ColumnsOf<Reign> kColumns = {
+      {{"Holder"}, [](const Reign& reign) { return reign.Holder.View(); }},
+      {{"Won", K::Date}, [](const Reign& reign) { return DateCell(reign.Won, kFromTheStart); }},
+      {{"Lost", K::Date}, [](const Reign& reign) { return DateCell(reign.Lost, ""); }}};
+  return kColumns;
+}
+
+}  // namespace
+
+std::vector<ui::Column> ReignColumns() {
+  return HeadingsOf(ReignTable());
+}
+
+std::vector<ui::ListBox::Row> ReignRows(const Title& title) {
+  std::vector<ui::ListBox::Row> rows;
+  for (const Reign& reign : title.Reigns)
+    if (reign.Holder != "None")
+      rows.push_back(RowOf(ReignTable(), reign, static_cast<int>(rows.size()) + 1));
+  return rows;
 }
 
 }  // namespace grapplemont

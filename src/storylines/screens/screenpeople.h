@@ -8,24 +8,64 @@
 #include "records/world.h"
 #include "ui/controls.h"
 
-// How people stand in tables.
-
 namespace grapplemont {
 
+// How records stand in tables. A table's columns are declared together: each a heading, a tip and
+// how a record stands in it.
+
+template <class Record>
+struct ColumnOf {
+  ui::Column Heading;
+  std::function<ui::Cell(const Record&)> Show;
+};
+template <class Record>
+using ColumnsOf = std::vector<ColumnOf<Record>>;
+
+template <class Record>
+std::vector<ui::Column> HeadingsOf(const ColumnsOf<Record>& columns) {
+  std::vector<ui::Column> headings;
+  for (const ColumnOf<Record>& column : columns) headings.push_back(column.Heading);
+  return headings;
+}
+template <class Record>
+ui::ListBox::Row RowOf(const ColumnsOf<Record>& columns, const Record& record, int key) {
+  ui::ListBox::Row row{{}, key};
+  for (const ColumnOf<Record>& column : columns) row.Cells.push_back(column.Show(record));
+  return row;
+}
+
+/// Blue for a Face, red for a Heel, grey for a Tweener.
+ui::Tone DispositionTone(const Worker& worker);
 /// "Face" in blue, "Heel" in red, "Tweener" in grey.
 ui::Cell DispositionCell(const Worker& worker);
 /// Nothing for somebody who is fit, else why he is not, in red.
 ui::Cell StatusCell(const Worker& worker);
 
-/// Name, disposition and Over, and the row that shows them.
+/// Name, disposition and Over; then `more`.
+ColumnsOf<Worker> PeopleTable(ColumnsOf<Worker> more = {});
+/// Fills such a table; what is selected stays so.
+void FillTable(ui::ListBox& list, const ColumnsOf<Worker>& columns,
+               const std::vector<const Worker*>& people);
+/// The table and the row of these three alone.
 std::vector<ui::Column> ShortColumns();
 std::vector<ui::Cell> ShortRow(const Worker& worker);
-/// Fills a table of ShortColumns; what is selected stays so.
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people);
+/// A day, sorted by its date.
+ui::Cell DayCell(Day day);
 
-/// Enables a control or tells on it why it is of no use.
+/// Enables a control, or disables it with the reason as its tip.
 void EnableUnless(ui::Control& control, const std::string& why);
 using Controls = std::initializer_list<std::reference_wrapper<ui::Control>>;
 void EnableUnless(Controls controls, const std::string& why);
+
+// How Titles stand in tables.
+
+/// Name, kind, holder, since when, image, and whether it can be fought for. Holds on to the world.
+ColumnsOf<Title> TitleTable(const World& world);
+
+/// Who held a Title, from when to when.
+std::vector<ui::Column> ReignColumns();
+/// The lines that are used, the present one first.
+std::vector<ui::ListBox::Row> ReignRows(const Title& title);
 
 }  // namespace grapplemont

@@ -1,0 +1,174 @@
+#include "booking/auto/autobooker.h"
+
+#include <algorithm>
+#include <array>
+
+#include "booking/auto/autoplan.h"
+#include "storylines/feuds.h"
+
+namespace grapplemont {
+
+namespace {
+
+// What cannot wait comes first, so that the people it needs are still free; what only fills rows
+// comes last.
+constexpr void (*kSteps[])(AutoPlan&) = {EndFeuds,     DefendTitles,       AdvanceFeuds,
+                                         TurnWhoWaits, IntroduceNewcomers, BookTeams,
+                                         BookCrowds,   FillMatches};
+
+constexpr std::size_t kDarkMatch = 0;  // the first row of an Event
+
+/// Rows that count for what the show needs.
+int RowsOf(const AutoPlan& plan, int kind = kEmptySegment) {
+  int count = 0;
+  for (std::size_t row = 0; row < plan.Rows.size(); ++row) {
+    if (plan.View.IsEvent && row == kDarkMatch) continue;
+    const int found = plan.Rows[row].Kind;
+    count += kind == kEmptySegment ? found != kEmptySegment : found == kind;
+  }
+  return count;
+}
+
+/// And what waits for its row with them.
+int Booked(const AutoPlan& plan, int kind = kEmptySegment) {
+  const std::size_t talks = kind == kMatch ? 0 : plan.Talks.size();
+  return RowsOf(plan, kind) + static_cast<int>(plan.Matches.size() + talks);
+}
+
+/// Deeper and deeper into the roster, until the show has the matches that it cannot start without.
+void ReachForMatches(AutoPlan& plan, int matches) {
+  for (int depth = 1; depth <= kDeepest && matches > 0 && plan.RowsLeft() > 0; ++depth) {
+    plan.Pool.Reach(kReserves[depth]);
+    const auto before = static_cast<int>(plan.Matches.size());
+    plan.MatchesWanted = before + std::min(matches, plan.RowsLeft());
+    FillMatches(plan);
+    matches -= static_cast<int>(plan.Matches.size()) - before;
+  }
+}
+
+/// What the one kind could not fill, the other may.
+void ShareRows(AutoPlan& plan) {
+  plan.Pool.Reach(kReserves[0]);
+  plan.MatchesWanted = static_cast<int>(plan.Matches.size()) + plan.RowsLeft();
+  FillMatches(plan);
+  plan.TalksWanted = static_cast<int>(plan.Talks.size()) + plan.RowsLeft();
+  FillTalks(plan);
+}
+
+void SortByWeight(std::vector<Planned>& planned) {
+  std::stable_sort(planned.begin(), planned.end(),
+                   [](const Planned& a, const Planned& b) { return a.Weight < b.Weight; });
+}
+
+/// The dark match is left out when the show proper needs everything there is.
+bool WantsDarkMatch(const AutoPlan& plan) {
+  if (!plan.View.IsEvent || plan.Matches.empty() || plan.Rows[kDarkMatch].Kind != kEmptySegment)
+    return false;
+  if (plan.RowsLeft() == 0 && plan.Talks.empty()) return true;
+  return Booked(plan, kMatch) - 1 >= plan.LeastMatches && Booked(plan) - 1 >= plan.LeastSegments;
+}
+
+/// Nothing that matters happens before the show proper, if it can be helped.
+void PlaceDarkMatch(AutoPlan& plan) {
+  auto dark = std::find_if(plan.Matches.begin(), plan.Matches.end(), [](const Planned& planned) {
+    const Segment& match = planned.Segment;
+    const bool feud = match.Style <= kTag && (match.Purpose == purpose1::kEndFeud ||
+                                              match.Purpose == purpose1::kContinueFeud);
+    return match.TitleName == "None" && !feud;
+  });
+  if (dark == plan.Matches.end()) dark = plan.Matches.begin();
+  plan.Rows[kDarkMatch] = dark->Segment;
+  plan.Matches.erase(dark);
+}
+
+/// Without a dark match its row stays empty, and there may be one Segment too many: the last of the
+/// talk.
+void DropWhatHasNoRow(AutoPlan& plan) {
+  if (!plan.View.IsEvent || plan.Talks.empty() || plan.RowsLeft() > 0) return;
+  if (plan.Rows[kDarkMatch].Kind == kEmptySegment) plan.Talks.pop_back();
+}
+
+/// Which of `count` places are talk: spread out, never the last. A show opens with talk when it has
+/// much of it, an Event with a match.
+std::vector<bool> TalkPlaces(int count, int talks, bool isEvent) {
+  std::vector<bool> places(static_cast<std::size_t>(count), false);
+  const bool opens = !isEvent && talks > 1;
+  for (int talk = 0; talk < talks; ++talk) {
+    int at = opens ? talk * (count - 1) / talks : (talk + 1) * (count - 1) / (talks + 1);
+    while (at < count && places[static_cast<std::size_t>(at)]) ++at;
+    if (at == count)
+      at = static_cast<int>(std::find(places.begin(), places.end(), false) - places.begin());
+    places[static_cast<std::size_t>(at)] = true;
+  }
+  return places;
+}
+
+std::string Count(int number, const char* one, const char* many) {
+  constexpr std::array kWords = {"No",   "One", "Two",   "Three", "Four",
+                                 "Five", "Six", "Seven", "Eight", "Nine"};
+  return std::string(kWords[static_cast<std::size_t>(std::clamp(number, 0, 9))]) + " more " +
+         (number == 1 ? one : many);
+}
+
+bool HasEmptyRow(const AutoPlan& plan) {
+  return RowsOf(plan) < static_cast<int>(plan.Rows.size()) - (plan.View.IsEvent ? 1 : 0);
+}
+
+std::string WhyNoMatch(const AutoPlan& plan) {
+  if (!HasEmptyRow(plan)) return "no row is left.";
+  return plan.Pool.Wrestlers().size() < 2 ? "the roster has nobody left who is fit."
+                                          : "nobody is left on the roster who would make one.";
+}
+
+std::string WhyNoTalk(const AutoPlan& plan) {
+  if (!HasEmptyRow(plan)) return "no row is left.";
+  return plan.MayUseAngles ? "nobody is left for them."
+                           : "nobody is left who can speak, and angles need more writers.";
+}
+
+}  // namespace
+
+AutoCard AutoBook(World& world, bool isEvent, int openRows) {
+  AutoPlan plan(world, {isEvent, "All"}, openRows);
+  for (const auto step : kSteps) step(plan);
+  ReachForMatches(plan, plan.LeastMatches - Booked(plan, kMatch));
+  FillTalks(plan);
+  ShareRows(plan);
+  ReachForMatches(plan, plan.LeastSegments - Booked(plan));
+  PlaceOnRows(plan);
+  return {plan.Rows, WhatIsMissing(plan)};
+}
+
+// Which row everything gets, and what is still missing then.
+
+void PlaceOnRows(AutoPlan& plan) {
+  SortByWeight(plan.Matches);
+  SortByWeight(plan.Talks);
+  const bool dark = WantsDarkMatch(plan);
+  if (dark)
+    PlaceDarkMatch(plan);
+  else
+    DropWhatHasNoRow(plan);
+  const auto count = plan.Matches.size() + plan.Talks.size();
+  const std::vector<bool> isTalk =
+      TalkPlaces(static_cast<int>(count), static_cast<int>(plan.Talks.size()), plan.View.IsEvent);
+  std::size_t place = 0, match = 0, talk = 0;
+  for (std::size_t row = plan.View.IsEvent ? 1 : 0; row < plan.Rows.size(); ++row) {
+    if (plan.Rows[row].Kind != kEmptySegment || place == count) continue;
+    plan.Rows[row] = isTalk[place++] ? plan.Talks[talk++].Segment : plan.Matches[match++].Segment;
+  }
+  plan.Matches.clear();
+  plan.Talks.clear();
+}
+
+std::vector<std::string> WhatIsMissing(const AutoPlan& plan) {
+  std::vector<std::string> missing;
+  const int matches = std::max(0, plan.LeastMatches - RowsOf(plan, kMatch));
+  if (matches > 0) missing.push_back(Count(matches, "match", "matches") + ": " + WhyNoMatch(plan));
+  const int segments = plan.LeastSegments - RowsOf(plan) - matches;
+  if (segments > 0)
+    missing.push_back(Count(segments, "segment", "segments") + ": " + WhyNoTalk(plan));
+  return missing;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,241 @@
+#include "booking/wizard/objections.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <initializer_list>
+#include <vector>
+
+#include "booking/wizard/matchrules.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kCleanLossGap = 30;
+constexpr int kRunInGap = 20;
+
+using Levels = std::map<int, int>;
+
+constexpr int kWomanLevel = 5;
+constexpr int kWomanDrawLevel = 4;
+constexpr int kFinishLevel = 1;
+constexpr int kEndFeudLevel = 4;
+
+/// The highest that applies counts.
+void Raise(Levels& levels, const Standing& who, int level) {
+  for (const Worker* worker : who.People) {
+    int& held = levels[worker->Uid];
+    held = std::max(held, level);
+  }
+}
+
+void RaiseByGaps(Levels& levels, const Standing& who, const Standing& other, Gaps gaps) {
+  for (const Gap& gap : gaps)
+    if (IsAbove(who, other, gap)) Raise(levels, who, gap.Level);
+}
+
+void DrawLevels(Levels& levels, const Standing& first, const Standing& second, int womanRule,
+                Gaps gaps) {
+  for (const auto& [who, other] : {std::pair(&first, &second), std::pair(&second, &first)}) {
+    if (IsManAgainstWoman(*who, *other) && who->Attitude < womanRule)
+      Raise(levels, *who, kWomanDrawLevel);
+    RaiseByGaps(levels, *who, *other, gaps);
+  }
+}
+
+/// What losers of little patience still take as their heat back.
+bool GivesHeatBack(int aftermath) {
+  constexpr std::array<int, 6> kGives = {after1::kAttacksReferee, after1::kTantrum,
+                                         after1::kRevengeAttack,  after1::kGetsRevenge,
+                                         after1::kTwoOnWinner,    after1::kTwoOnRunIn};
+  return std::find(kGives.begin(), kGives.end(), aftermath) != kGives.end();
+}
+
+/// Losing the last bout of a feud costs more patience when the worker named first wins.
+constexpr Gap kEndFeudFirstWins[] = {{25, kAnyAttitude, kEndFeudLevel}, {10, 75, 2}};
+constexpr Gap kEndFeudSecondWins[] = {{20, kAnyAttitude, kEndFeudLevel}, {10, 75, 2}};
+
+void EndFeudLevels(Levels& levels, const Segment& match, const Standing& loser,
+                   const Standing& winner) {
+  if (match.Purpose != purpose1::kEndFeud) return;
+  RaiseByGaps(levels, loser, winner,
+              match.Winner == match.Worker[0] ? Gaps(kEndFeudFirstWins) : Gaps(kEndFeudSecondWins));
+}
+
+/// Faces who are made to act like Heels. The place of who refuses the hand does not matter here.
+void CharacterLevels(Levels& levels, int aftermath, const Standing& loser, const Standing& winner) {
+  constexpr int kLevel = 2;
+  const auto isFace = [](const Standing& who, bool mayTurn) {
+    return !who.People.empty() && who.People[0]->Disposition == "F" &&
+           !(mayTurn && who.People[0]->TurnPending);
+  };
+  using namespace after1;
+  const bool heelish = aftermath == kCheapShot || aftermath == kSecondRefusesHand;
+  if ((aftermath == kLoserRuns && isFace(loser, false)) || (heelish && isFace(loser, true)))
+    Raise(levels, loser, kLevel);
+  if (aftermath == kFirstRefusesHand && isFace(winner, true)) Raise(levels, winner, kLevel);
+}
+
+void SinglesLevels(Levels& levels, const World& world, const Segment& match) {
+  if (IsDraw(match))
+    return DrawLevels(levels, StandingOf(world, {match.Worker[0]}),
+                      StandingOf(world, {match.Worker[1]}), kWomanRule, kSinglesGaps);
+  const Standing loser = StandingOf(world, {match.Loser});
+  const Standing winner = StandingOf(world, {match.Winner});
+  if (IsManAgainstWoman(loser, winner) && loser.Attitude < kWomanRule)
+    Raise(levels, loser, kWomanLevel);
+  RaiseByGaps(levels, loser, winner, kSinglesGaps);
+  const bool mindsFinish =
+      (match.Finish == kClean && IsHurtByCleanLoss(loser, winner, kCleanLossAttitude)) ||
+      (match.Finish == kInterference &&
+       IsHurtByRunIn(loser, StandingOf(world, {match.Other1}), kCleanLossAttitude)) ||
+      (loser.Attitude < kVengeful && !GivesHeatBack(match.Aftermath));
+  if (mindsFinish) Raise(levels, loser, kFinishLevel);
+  EndFeudLevels(levels, match, loser, winner);
+  CharacterLevels(levels, match.Aftermath, loser, winner);
+}
+
+void TagLevels(Levels& levels, const World& world, const Segment& match) {
+  const auto sides = SidesOf(match);
+  if (IsDraw(match))
+    return DrawLevels(levels, StandingOf(world, sides[0]), StandingOf(world, sides[1]),
+                      kTagWomanRule, kTagDrawGaps);
+  const Standing winners = StandingOf(world, WinnersOf(match));
+  const Standing losers = StandingOf(world, LosersOf(match));
+  if (IsManAgainstWoman(losers, winners) && losers.Attitude < kTagWomanRule)
+    Raise(levels, losers, kWomanLevel);
+  RaiseByGaps(levels, losers, winners, TagGaps(match));
+  if (match.Finish == kClean && IsHurtByCleanLoss(losers, winners, kTagCleanLossAttitude))
+    Raise(levels, losers, kFinishLevel);
+}
+
+void OtherLevels(Levels& levels, const World& world, const Segment& match) {
+  const Standing winner = StandingOf(world, {match.Winner});
+  if (winner.People.empty()) return;
+  // Nobody is patient about a woman who stands high on the card.
+  const bool isHigh = winner.People[0]->Position < kOpener;
+  for (const int uid : Objectors(match)) {
+    const Standing loser = StandingOf(world, {uid});
+    if (IsManAgainstWoman(loser, winner) && (isHigh || loser.Attitude < kWomanRule))
+      Raise(levels, loser, kWomanLevel);
+    RaiseByGaps(levels, loser, winner, kLoserGaps);
+  }
+}
+
+std::string InWords(int number) {
+  constexpr const char* kWords[] = {"nobody", "one",   "two",  "three", "four",   "five",  "six",
+                                    "seven",  "eight", "nine", "ten",   "eleven", "twelve"};
+  const auto at = static_cast<std::size_t>(number);
+  return at < std::size(kWords) ? kWords[at] : std::to_string(number);
+}
+
+}  // namespace
+
+bool Standing::HasWoman() const {
+  return std::any_of(People.begin(), People.end(), [](auto* worker) { return !worker->Gender; });
+}
+
+bool Standing::AllMen() const {
+  return !People.empty() && !HasWoman();
+}
+
+bool Standing::HasCreativeControl() const {
+  return std::any_of(People.begin(), People.end(),
+                     [](auto* worker) { return bool(worker->CreativeControl); });
+}
+
+Standing StandingOf(const World& world, const std::vector<int>& uids) {
+  Standing standing;
+  for (const int uid : uids) {
+    const Worker* worker = world.FindWorker(uid);
+    if (!worker) continue;
+    standing.People.push_back(worker);
+    standing.Over += worker->Over;
+    standing.Attitude += worker->Attitude;
+  }
+  return standing;
+}
+
+bool IsHurtByCleanLoss(const Standing& loser, const Standing& winner, int attitudeUnder) {
+  return loser.Attitude < attitudeUnder && winner.Over - kCleanLossGap < loser.Over;
+}
+
+bool IsHurtByRunIn(const Standing& loser, const Standing& runIn, int attitudeUnder) {
+  return loser.Attitude < attitudeUnder && runIn.Over - kRunInGap < loser.Over;
+}
+
+bool IsAbove(const Standing& who, const Standing& other, const Gap& gap) {
+  return who.Over - gap.By > other.Over && who.Attitude < gap.AttitudeUnder;
+}
+
+bool IsManAgainstWoman(const Standing& who, const Standing& other) {
+  return who.AllMen() && other.HasWoman();
+}
+
+Gaps TagGaps(const Segment& match) {
+  return SideOf(match, match.Winner) == 2 ? Gaps(kTagGapsSecondWins) : Gaps(kTagGapsFirstWins);
+}
+
+std::vector<int> Objectors(const Segment& match) {
+  std::vector<int> all;
+  if (match.Winner == 0) return all;
+  if (match.Style == kSpecial) {
+    all = PeopleOf(match);
+    std::erase(all, int(match.Winner));
+  } else if (match.Style == kFourOnFour && match.MatchType == kSurvivor) {
+    const auto sides = SidesOf(match);
+    if (const int won = SideOf(match, match.Winner)) all = sides[won == 1 ? 1 : 0];
+  } else {
+    all = LosersInOrder(match);
+  }
+  return all;
+}
+
+std::map<int, int> GrievancesOf(const World& world, const Segment& match) {
+  Levels levels;
+  if (match.Kind != kMatch || !HasResult(match)) return levels;
+  if (match.Style == kSingles)
+    SinglesLevels(levels, world, match);
+  else if (match.Style == kTag)
+    TagLevels(levels, world, match);
+  else
+    OtherLevels(levels, world, match);
+  return levels;
+}
+
+int MoralePrice(int level) {
+  constexpr std::array<int, 6> kPrices = {0, 5, 10, 15, 25, 50};
+  return kPrices[static_cast<std::size_t>(std::clamp(level, 0, 5))];
+}
+
+std::string GrievanceText(const World& world, const Segment& match) {
+  const Levels levels = GrievancesOf(world, match);
+  std::vector<std::pair<int, int>> sorted(levels.begin(), levels.end());
+  std::stable_sort(sorted.begin(), sorted.end(),
+                   [](auto& a, auto& b) { return a.second > b.second; });
+  std::string text;
+  for (const auto& [uid, level] : sorted)
+    text += (text.empty() ? "" : ", ") + SideText(world, {uid}) + " -" +
+            std::to_string(MoralePrice(level));
+  return text;
+}
+
+std::string HeldAgainstText(const World& world, const Segment& match) {
+  std::map<int, int, std::greater<>> people;  // how many, by what it takes from each
+  for (const auto& [uid, level] : GrievancesOf(world, match)) ++people[MoralePrice(level)];
+  std::string text;
+  for (const auto& [price, count] : people) {
+    const std::string start = text.empty() ? " will hold it against you, " : " more ";
+    text += (text.empty() ? "" : ", ") + InWords(count) + start + std::to_string(price) +
+            (text.empty() ? " morale" : "") + (count == 1 ? "" : " each");
+  }
+  return text;
+}
+
+void ApplyBookingGrievances(World& world, const Segment& segment) {
+  for (const auto& [uid, level] : GrievancesOf(world, segment))
+    if (Worker* worker = world.FindWorker(uid)) worker->Morale -= MoralePrice(level);
+}
+
+}  // namespace grapplemont

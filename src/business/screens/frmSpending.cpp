@@ -1,0 +1,244 @@
+#include "business/screens/frmSpending.h"
+#include "ui/gamescreen.h"
+
+#include <algorithm>
+
+#include "business/finance.h"
+#include "records/modVar.h"
+#include "records/world.h"
+#include "storylines/screens/screenpeople.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// What sets the two sides of the screen apart.
+struct Spending {
+  const char* Title;
+  const char* Means;
+  RangedWord<0, 100> Promotion::*Level;
+  int (*MonthlyCost)(int level);
+  Cash MonthBooks::*Cost;
+};
+constexpr Spending kAdvertisingSide = {
+    "Advertising",
+    "Advertising keeps us on everybody's lips. It is paid on the first of each month.",
+    &Promotion::Advertising, AdvertisingCost, &MonthBooks::AdvertisingCost};
+constexpr Spending kMerchandisingSide = {
+    "Merchandising",
+    "What we put on sale limits what can be sold. It is paid on the first of each month, when the "
+    "sales come in.",
+    &Promotion::Merchandising, MerchandisingCost, &MonthBooks::MerchCost};
+constexpr int kMostSpending = 100;
+
+/// How much goes into advertising or merchandise; a level counts from the moment it is set.
+class frmFedMerch : public GameScreen {
+ public:
+  frmFedMerch(Game& game, const Spending& side)
+      : GameScreen(game, "frmFedMerch", side.Title), side_(side) {
+    lblmeans.Text = side.Means;
+  }
+
+  ui::Page Layout() override {
+    return PageOf(ui::Group("", {ui::Field("Percent", hscurrent), ui::Field("Cost", lblcost),
+                                 ui::Field("Last month", lbllast), lblmeans}),
+                  &lblmoney);
+  }
+
+  void Return() override {
+    hscurrent.Value = player().*side_.Level;
+    Show();
+  }
+
+ private:
+  Promotion& player() { return game_.World().Player(); }
+
+  void Show() {
+    const int level = player().*side_.Level;
+    lblmoney.Text = FinanceText(player());
+    lblcost.Text = SpendingText(level, side_.MonthlyCost(level));
+    const MonthBooks& last = player().LastMonth;
+    lbllast.Text = "spent " + Dollars(last.*side_.Cost);
+    if (side_.Level == &Promotion::Merchandising)
+      lbllast.Text = lbllast.Text.Get() + ", sold for " + Dollars(last.MerchIncome);
+  }
+
+  void hscurrent_Change() {
+    player().*side_.Level = hscurrent.Value;
+    Show();
+  }
+
+  const Spending& side_;
+  ui::Label lblmoney{*this, "lblmoney"};
+  ui::ScrollBar hscurrent{*this, "hscurrent", 0, kMostSpending, &frmFedMerch::hscurrent_Change};
+  ui::Label lblcost{*this, "lblcost"};
+  ui::Label lbllast{*this, "lbllast"};
+  ui::Label lblmeans{*this, "lblmeans"};
+};
+
+constexpr int kRaises = static_cast<int>(kProductionRaises.size());
+
+std::string PercentText(int number) {
+  return std::to_string(kProductionRaises[static_cast<std::size_t>(number - 1)]) + "%";
+}
+
+/// Better production, bought in steps.
+class frmFedProd : public GameScreen {
+ public:
+  explicit frmFedProd(Game& game) : GameScreen(game, "frmFedProd", "Production") {}
+
+  ui::Page Layout() override {
+    return PageOf(ui::Group("", {ui::Field("Production values", lblproduction),
+                                 ui::Field("Cost of running it", lblmonthly), cmdraise(1),
+                                 cmdraise(2), cmdraise(3)}),
+                  &lblmoney);
+  }
+
+  void Return() override { Show(); }
+
+ private:
+  Promotion& player() { return game_.World().Player(); }
+  int CostOf(int number) { return ProductionRaiseCost(player().Production, number); }
+
+  void Show() {
+    lblmoney.Text = FinanceText(player());
+    lblproduction.Text = std::to_string(player().Production) + "%";
+    lblmonthly.Text = Dollars(ProductionCost(player().Production)) + " p.m";
+    const bool best = player().Production >= kBestProduction;
+    for (int number = 1; number <= kRaises; ++number) {
+      cmdraise(number).Text =
+          "Raise by " + PercentText(number) + " : Cost $" + std::to_string(CostOf(number));
+      EnableUnless(cmdraise(number), best ? "Production cannot be any better." : "");
+    }
+  }
+
+  void cmdraise_Click(int number) {
+    const char* kReport = "Finance Report";
+    if (!desk().Ask(kReport, "Pay $" + std::to_string(CostOf(number)) + " for a " +
+                                 PercentText(number) + " increase?"))
+      return;
+    if (!RaiseProduction(player(), number)) desk().Say(kReport, "You cannot afford this!");
+    Show();
+  }
+
+  ui::Label lblmoney{*this, "lblmoney"};
+  ui::Label lblproduction{*this, "lblproduction"};
+  ui::Label lblmonthly{*this, "lblmonthly"};
+  ui::Array<ui::Button> cmdraise{"cmdraise", kRaises, [this](const std::string& name, int number) {
+                                   return std::make_unique<ui::Button>(
+                                       *this, name, "", [this, number] { cmdraise_Click(number); });
+                                 }};
+};
+
+constexpr int kDearestTicket = 100;  // dollars
+
+/// What a ticket costs, and what people would say of another price.
+class frmTicket : public GameScreen {
+ public:
+  explicit frmTicket(Game& game) : GameScreen(game, "frmTicket", "Ticket Prices") {
+    BackBefore(cmddoit);
+  }
+
+  ui::Page Layout() override {
+    return PageOf(ui::Group("", {ui::Field("New price in dollars", hsticket),
+                                 ui::Field("What people say", lblopinion), lblfair}),
+                  &lblprice, {}, &cmddoit);
+  }
+
+  void Load() override {
+    hsticket.Max = std::max<int>(kDearestTicket, player().TicketPrice);
+    hsticket.Value = player().TicketPrice;
+    Show();
+  }
+  void Return() override { Show(); }
+
+ private:
+  Promotion& player() { return game_.World().Player(); }
+
+  void Show() {
+    lblprice.Text = "Current Ticket Prices : $" + std::to_string(player().TicketPrice);
+    lblfair.Text = "People expect to pay " + Dollars(FairTicketPrice(player().Size)) +
+                   " at a promotion that is " + std::string(SizeText(player().Size)) + ".";
+    ShowChoice();
+  }
+
+  void ShowChoice() {
+    lblopinion.Text = std::string(TicketOpinion(player().Size, hsticket.Value));
+    EnableUnless(cmddoit, hsticket.Value == player().TicketPrice ? "That is the price now." : "");
+  }
+
+  void cmddoit_Click() {
+    if (!desk().Ask("Change price?", "Are you sure?")) return;
+    player().TicketPrice = hsticket.Value;
+    Show();
+  }
+
+  ui::Label lblprice{*this, "lblprice"};
+  ui::ScrollBar hsticket{*this, "hsticket", 0, kDearestTicket, &frmTicket::ShowChoice};
+  ui::Label lblopinion{*this, "lblopinion"};
+  ui::Label lblfair{*this, "lblfair"};
+  ui::Button cmddoit{*this, "cmddoit", "Change Price", &frmTicket::cmddoit_Click};
+};
+
+constexpr int kMostThousands = 1000;
+
+std::string DonationText(int thousands) {
+  return thousands == kMostThousands ? "$1,000,000" : "$" + std::to_string(thousands) + ",000";
+}
+
+/// Money for a good cause, and for the player's good name.
+class frmCharity : public GameScreen {
+ public:
+  explicit frmCharity(Game& game) : GameScreen(game, "frmCharity", "Charity") {
+    BackBefore(cmddonate);
+  }
+
+  ui::Page Layout() override {
+    return PageOf(ui::Group("", {ui::Field("Thousands of dollars", hsamount),
+                                 ui::Field("Donation", lblamount), lblreputation}),
+                  &lblmoney, {}, &cmddonate);
+  }
+
+  void Return() override { Show(); }
+
+ private:
+  void Show() {
+    lblmoney.Text = FinanceText(world().Player());
+    lblreputation.Text = "Your reputation is " + std::to_string(world().Game().Reputation) +
+                         "%. It rises by a point for each $1,000, up to 100%.";
+    ShowChoice();
+  }
+
+  void ShowChoice() { lblamount.Text = DonationText(hsamount.Value); }
+
+  void cmddonate_Click() {
+    if (!CanDonate(world(), hsamount.Value))
+      return desk().Say("Money Problems!", "You cannot afford this donation!");
+    if (!desk().Ask("Donate money?", "Are you sure?")) return;
+    Donate(world(), hsamount.Value);
+    Show();
+  }
+
+  ui::Label lblmoney{*this, "lblmoney"};
+  ui::ScrollBar hsamount{*this, "hsamount", 1, kMostThousands, &frmCharity::ShowChoice};
+  ui::Label lblamount{*this, "lblamount"};
+  ui::Label lblreputation{*this, "lblreputation"};
+  ui::Button cmddonate{*this, "cmddonate", "Donate", &frmCharity::cmddonate_Click};
+};
+
+}  // namespace
+
+SCREEN(frmFedProd)
+SCREEN(frmTicket)
+
+void OpenAdvertising(Game& game) {
+  game.Desk().Open(std::make_unique<frmFedMerch>(game, kAdvertisingSide));
+}
+
+void OpenMerchandising(Game& game) {
+  game.Desk().Open(std::make_unique<frmFedMerch>(game, kMerchandisingSide));
+}
+
+SCREEN(frmCharity)
+
+}  // namespace grapplemont

@@ -1,0 +1,292 @@
+#include <algorithm>
+
+#include "records/modWresCheck.h"
+#include "roster/leaving.h"
+#include "roster/postings.h"
+#include "roster/screens/frmStaff.h"
+#include "roster/screens/frmWorker.h"
+#include "roster/screens/screentalks.h"
+#include "roster/signing.h"
+#include "roster/staff.h"
+#include "roster/talks.h"
+#include "storylines/screens/screenpeople.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kOfferedMonths = 24;
+
+/// Talks with a worker of the player's: staying, being let go, being thrown out.
+class frmWresContract : public TalkWith<Worker> {
+ public:
+  frmWresContract(Game& game, const Worker& worker) : TalkWith(game, "frmWresContract", worker) {
+    BackBefore(cmdoffer);
+  }
+
+  ui::Page Layout() override {
+    std::vector<ui::Box> now = terms_.Fields(), offered = offer_.Fields();
+    now.emplace_back(lblcreative);
+    offered.emplace_back(chkcreative);
+    ui::Page page =
+        PageOf(ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                            ui::Rows({ui::Group("The contract", std::move(now)),
+                                      ui::Group("Your offer", std::move(offered)), ui::Spacer()})
+                                .Grow(1)}),
+               &lblfacts, {&cmdterminate, &cmdrelease}, &cmdoffer);
+    page.Large = true;
+    return page;
+  }
+
+ protected:
+  Remark Refusal() override { return {kTalksTitle, WhyNoRenewal(*Who())}; }
+
+  void Begin() override {
+    const RenewalTerms terms = RenewalTermsOf(world(), *Who());
+    offer_.Begin(terms.Wage, kOfferedMonths, terms.Written);
+  }
+
+  void Show() override {
+    const Worker& worker = *Who();
+    WriteWorkerPage(txtpage, world(), &worker, "");
+    terms_.Show(worker.Wage, worker.ContractMonths, worker.ContractType == "Wri");
+    lblcreative.Visible = worker.CreativeControl;
+    ShowFacts("What is turned down can be changed and offered again.");
+    offer_.Allow(closed_);
+    EnableUnless(chkcreative, closed_);
+    EnableUnless(cmdoffer, closed_);
+  }
+
+ private:
+  void cmdoffer_Click() {
+    if (!GoesOn()) return;
+    Worker& worker = *Who();
+    ContractOffer offer = offer_.Offer();
+    offer.CreativeControl = chkcreative.Checked;
+    const RenewalAnswer answer = JudgeRenewal(worker, RenewalTermsOf(world(), worker), offer);
+    SayAll(answer.Remarks);
+    if (!answer.Accepted) return;
+    Renew(worker, offer);
+    Agree(worker.Name, offer.Written);
+  }
+
+  void cmdrelease_Click() {
+    if (!GoesOn()) return;
+    Worker& worker = *Who();
+    const ReleaseAnswer answer = AnswerToRelease(world(), worker);
+    SayAll(answer.Remarks);
+    if (!answer.Accepted ||
+        !desk().Ask("Release", worker.Name + " formally accepts your offer. Proceed?"))
+      return;
+    ReleaseWorker(world(), worker);
+    Close();
+  }
+
+  void cmdterminate_Click() {
+    if (!GoesOn()) return;
+    Worker& worker = *Who();
+    if (!desk().Ask("Terminate Contract", TerminationQuestion(world(), worker), ui::Default::No))
+      return;
+    Terminate(world(), worker);
+    Close();
+  }
+
+  TermLabels terms_{*this};
+  ui::Label lblcreative{*this, "lblcreative", "A clause gives creative control."};
+  OfferControls offer_{*this, kHighestWage};
+  ui::CheckBox chkcreative{*this, "chkcreative", "Creative control"};
+  ui::Button cmdterminate{*this, "cmdterminate", "Terminate", &frmWresContract::cmdterminate_Click};
+  ui::Button cmdrelease{*this, "cmdrelease", "Offer Release", &frmWresContract::cmdrelease_Click};
+  ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &frmWresContract::cmdoffer_Click};
+};
+
+constexpr int kOfferedPositions[] = {kMainEvent,    kUpperMidcard,   kMidcard, kLowerMidcard,
+                                     kOpener,       kJobber,         kManager, kNonWrestler,
+                                     kTrainingCamp, kDevelopmentDeal};
+constexpr const char* kOfferedDispositions[] = {"F", "T", "H"};
+
+/// Talks with a worker of anybody else's, or of nobody's, about coming.
+class frmOtherContract : public TalkWith<Worker> {
+ public:
+  frmOtherContract(Game& game, const Worker& worker) : TalkWith(game, "frmOtherContract", worker) {
+    BackBefore(cmdoffer);
+    for (const int position : kOfferedPositions)
+      cmbnewposition.Add(std::string(PositionText(position)), position);
+    for (const char* code : kOfferedDispositions)
+      cmbnewdispo.Add(std::string(DispositionText(code)));
+  }
+
+  ui::Page Layout() override {
+    std::vector<ui::Box> wanted = terms_.Fields(), offered = offer_.Fields();
+    wanted.insert(wanted.begin(), ui::Field("Position", txtposition));
+    wanted.insert(wanted.end(), {ui::Field("Creative control", txtcreative), ui::Spacer()});
+    offered.emplace_back(chkcreative);
+    ui::Page page =
+        PageOf(ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                            ui::Group("Wanted of you", std::move(wanted)),
+                            ui::Rows({ui::Group("Your offer", std::move(offered)),
+                                      ui::Group("The role", {ui::Field("Position", cmbnewposition),
+                                                             ui::Field("Disposition", cmbnewdispo),
+                                                             ui::Field("Name", txtnewname),
+                                                             ui::Field("Short name", txtnewname2)}),
+                                      ui::Spacer()})
+                                .Grow(1)}),
+               &lblfacts, {}, &cmdoffer);
+    page.Large = true;
+    return page;
+  }
+
+  void Load() override {
+    TalkScreen::Load();
+    if (closed_.empty() && Who()->Employer != 0) SayAll({{"More Money.", MoreMoneyText(*Who())}});
+  }
+
+ protected:
+  Remark Refusal() override { return {"Refusal!", WhyNoSigning(world(), *Who())}; }
+
+  void Begin() override {
+    const Worker& worker = *Who();
+    const Demands demands = ContractDemands(world(), worker);
+    offer_.Begin(demands.Wage, demands.Months, demands.Written);
+    cmbnewposition.SelectKey(demands.Position);
+    cmbnewdispo.Select(1);
+    for (int row = 1; row <= cmbnewdispo.Count(); ++row)
+      if (worker.Disposition == kOfferedDispositions[row - 1]) cmbnewdispo.Select(row);
+    txtnewname.Text = worker.Name.Str();
+    txtnewname2.Text = worker.ShortName.Str();
+  }
+
+  void Show() override {
+    const Worker& worker = *Who();
+    WriteWorkerPage(txtpage, world(), &worker, "");
+    const Demands demands = ContractDemands(world(), worker);
+    txtposition.Text = PositionText(demands.Position);
+    terms_.Show(demands.Wage, demands.Months, demands.Written);
+    txtcreative.Text = demands.CreativeControl ? "Yes" : "No";
+    ShowFacts(FactsOf(worker));
+    offer_.Allow(closed_);
+    EnableUnless({cmdoffer, cmbnewposition, cmbnewdispo, txtnewname, txtnewname2}, closed_);
+  }
+
+ private:
+  std::string FactsOf(const Worker& worker) {
+    if (worker.Employer == 0) return "A free agent.";
+    return "Works for " + PromotionName(world(), worker.Employer) +
+           ", which gets nothing for letting " + (worker.Gender ? "him" : "her") + " go.";
+  }
+
+  SigningOffer Offered() {
+    SigningOffer offer{offer_.Offer(), txtnewname.Text, txtnewname2.Text, "", 0};
+    offer.CreativeControl = chkcreative.Checked;
+    offer.Position = cmbnewposition.Key();
+    offer.Disposition = DispositionCode(cmbnewdispo.Text.Get());
+    return offer;
+  }
+
+  void cmdoffer_Click() {
+    if (!GoesOn()) return;
+    Worker& worker = *Who();
+    const SigningOffer offer = Offered();
+    if (desk().Objects(WhyNotAsOffered(world(), worker, offer))) return;
+    const std::string no = JudgeSigning(worker, ContractDemands(world(), worker), offer);
+    if (!no.empty()) return desk().Say("Rejection!", no);
+    Sign(world(), worker, offer);
+    Agree(worker.Name, offer.Written);
+  }
+
+  ui::Label txtposition{*this, "txtposition"};
+  TermLabels terms_{*this};
+  ui::Label txtcreative{*this, "txtcreative"};
+  OfferControls offer_{*this, kHighestWage};
+  ui::CheckBox chkcreative{*this, "chkcreative", "Creative control"};
+  ui::ComboBox cmbnewposition{*this, "cmbnewposition"};
+  ui::ComboBox cmbnewdispo{*this, "cmbnewdispo"};
+  ui::TextBox txtnewname{*this, "txtnewname", "", Text<25>::kWidth};
+  ui::TextBox txtnewname2{*this, "txtnewname2", "", Text<10>::kWidth};
+  ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &frmOtherContract::cmdoffer_Click};
+};
+
+/// Talks with a member of staff. The player's own keep to themselves what they want; from others it
+/// can be read.
+class StaffTalk : public TalkWith<Staff> {
+ public:
+  StaffTalk(Game& game, const Staff& staff, bool own)
+      : TalkWith(game, own ? "frmStaffContract" : "frmOtherStaffContract", staff),
+        own_(own),
+        offer_(*this, std::max<int>(kHighestStaffWage, own ? staff.Wage : 0)) {
+    BackBefore(cmdoffer);
+  }
+
+  ui::Page Layout() override {
+    ui::Page page = PageOf(
+        ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                     ui::Rows({ui::Group(own_ ? "The contract" : "Wanted of you", terms_.Fields()),
+                               ui::Group("Your offer", offer_.Fields()), ui::Spacer()})
+                         .Grow(1)}),
+        &lblfacts, {}, &cmdoffer);
+    page.Large = true;
+    return page;
+  }
+
+ protected:
+  Remark Refusal() override { return {"Refusal!", WhyNoStaffOffer(world(), *Who())}; }
+
+  void Begin() override {
+    const StaffDemands demands = StaffDemandsOf(world(), *Who());
+    offer_.Begin(demands.Wage, demands.Months, demands.Written);
+  }
+
+  void Show() override {
+    const Staff& staff = *Who();
+    WriteStaffPage(txtpage, world(), &staff, "");
+    const StaffDemands wanted =
+        own_ ? StaffDemands{staff.ContractMonths, staff.ContractType == "Wri", staff.Wage}
+             : StaffDemandsOf(world(), staff);
+    terms_.Show(wanted.Wage, wanted.Months, wanted.Written);
+    ShowFacts(FactsOf(staff));
+    offer_.Allow(closed_);
+    EnableUnless(cmdoffer, closed_);
+  }
+
+ private:
+  std::string FactsOf(const Staff& staff) {
+    if (own_) return "What is turned down can be changed and offered again.";
+    if (staff.Employer == 0) return "A free agent.";
+    return "Works for " + PromotionName(world(), staff.Employer) +
+           ", and wants a fifth more to go.";
+  }
+
+  void cmdoffer_Click() {
+    if (!GoesOn()) return;
+    Staff& staff = *Who();
+    const ContractOffer offer = offer_.Offer();
+    const std::string no = JudgeStaffOffer(world(), staff, StaffDemandsOf(world(), staff), offer);
+    if (!no.empty()) return desk().Say("Rejected!", no);
+    own_ ? RenewStaff(staff, offer) : HireStaff(world(), staff, offer);
+    Agree(staff.Name, offer.Written);
+  }
+
+  bool own_;
+  TermLabels terms_{*this};
+  OfferControls offer_;  // whoever earns more than anybody wants can be kept at it
+  ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &StaffTalk::cmdoffer_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmWresContract(Game& game, const Worker& worker) {
+  return std::make_unique<frmWresContract>(game, worker);
+}
+
+std::unique_ptr<ui::Screen> MakefrmOtherContract(Game& game, const Worker& worker) {
+  return std::make_unique<frmOtherContract>(game, worker);
+}
+
+std::unique_ptr<ui::Screen> MakefrmStaffContract(Game& game, const Staff& staff) {
+  return std::make_unique<StaffTalk>(game, staff, true);
+}
+std::unique_ptr<ui::Screen> MakefrmOtherStaffContract(Game& game, const Staff& staff) {
+  return std::make_unique<StaffTalk>(game, staff, false);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,318 @@
+#include "roster/staff.h"
+
+#include <algorithm>
+#include <array>
+
+#include "records/modWresCheck.h"
+#include "records/severing.h"
+#include "roster/leaving.h"
+
+namespace grapplemont {
+
+namespace {
+
+/// What promotions of a size mean to staff.
+struct Market {
+  int TalentCeiling;
+  int Worth;   // percent of the full price of talent
+  int Moves;   // percent by which a wage changes when he comes
+  int Months;  // wanted
+};
+// By size, Global to Backyard.
+constexpr std::array<Market, 6> kMarket = {{{100, 100, 10, 24},
+                                            {100, 75, 5, 24},
+                                            {80, 45, 0, 12},
+                                            {60, 20, 0, 12},
+                                            {40, 10, -5, 6},
+                                            {20, 5, -10, 6}}};
+
+constexpr int kTalentPerThousand = 5;  // at the full price
+constexpr int kPatience = 10;          // talent above the ceiling that a present job is kept with
+constexpr int kHappy = 61;             // morale
+constexpr int kHireLift = 20;          // of morale
+
+/// A tenth for the best, a twentieth for the good, hardly anything for the rest.
+int RaiseOf(int talent) {
+  return talent >= 80 ? 10 : talent >= 60 ? 5 : 1;
+}
+
+std::string HeOrShe(const Staff& staff, const char* rest) {
+  return (staff.Gender ? "He" : "She") + std::string(rest);
+}
+
+/// Whoever is known for good conduct leaves only for a promotion that is far bigger.
+bool IsFarAbove(int size, int employerSize, int backstage) {
+  const int steps = backstage > 90 ? 2 : backstage >= 60 ? 1 : 0;
+  return employerSize - steps > size;
+}
+
+std::string WhyStays(const World& world, const Staff& staff) {
+  const Promotion* employer = world.FindPromotion(staff.Employer);
+  if (!employer || staff.Morale < kHappy) return {};
+  if (staff.ContractType == "Wri" && staff.ContractMonths >= 1)
+    return HeOrShe(staff, " is under a written contract and happy with it.");
+  if (IsFarAbove(world.Player().Size, employer->Size, staff.Backstage)) return {};
+  return HeOrShe(staff, " is happy at ") + employer->Initials.Str() +
+         " and sees no reason to leave for you.";
+}
+
+std::string WhyNoHire(const World& world, const Staff& staff) {
+  if (staff.Loyalty < 40) return HeOrShe(staff, " wants nothing to do with you.");
+  if (std::string why = WhyStays(world, staff); !why.empty()) return why;
+  return staff.Talent > TalentCeiling(world.Player().Size)
+             ? HeOrShe(staff, " does not think that your promotion is big enough.")
+             : "";
+}
+
+std::string WhyNoRenewal(const Staff& staff) {
+  const int morale = staff.Morale, loyalty = staff.Loyalty;
+  if (staff.ContractMonths > 24 && morale > 39 && loyalty > 39)
+    return HeOrShe(staff, " is happy with the contract as it is.");
+  if (morale < 20 || loyalty < 20) return HeOrShe(staff, " will not even sit down with you.");
+  return morale < 40 || loyalty < 40 ? HeOrShe(staff, " does not want to talk about staying.") : "";
+}
+
+struct Talk {
+  const Staff& Who;
+  const StaffDemands& Wants;
+  const ContractOffer& Offer;
+  int Size;
+  bool IsOwn;
+};
+
+struct Objection {
+  bool (*Holds)(const Talk& t);
+  const char* Words;
+};
+constexpr Objection kObjections[] = {
+    {[](const Talk& t) {
+       return t.IsOwn && t.Who.Talent > TalentCeiling(t.Size) + kPatience && t.Who.Loyalty < 70;
+     },
+     "No thanks, it is time for me to move on to a bigger promotion."},
+    {[](const Talk& t) { return t.Wants.Written && !t.Offer.Written; }, "I want that in writing."},
+    {[](const Talk& t) { return !t.Wants.Written && t.Offer.Written; },
+     "I do not want to be bound by a written contract."},
+    {[](const Talk& t) { return t.IsOwn && t.Who.Loyalty < 50 && t.Offer.Wage < t.Wants.Wage; },
+     "After all that i have done here, i want a raise."},
+    {[](const Talk& t) { return t.IsOwn && t.Offer.Wage < t.Who.Wage; },
+     "I am not going to work for less."},
+    {[](const Talk& t) { return t.Offer.Wage < t.Wants.Wage - PercentOf(t.Wants.Wage, 10); },
+     "I am worth more than that."},
+    {[](const Talk& t) { return t.Wants.Months == 6 && t.Offer.Months > 12; },
+     "I do not want to bind myself for so long."},
+    {[](const Talk& t) { return t.Wants.Months >= 24 && t.Offer.Months < 12; },
+     "Half a year is no security. I want a longer contract."},
+    {[](const Talk& t) {
+       return t.Offer.Months > 36 && t.Offer.Wage < t.Wants.Wage + PercentOf(t.Wants.Wage, 20);
+     },
+     "For so many years i want a fifth on top."},
+};
+
+int WageWanted(const World& world, const Staff& staff) {
+  const int size = world.Player().Size, now = staff.Wage;
+  const bool own = WorksForPlayer(world, staff);
+  const int moved = now + PercentOf(now, own ? RaiseOf(staff.Talent) : BySize(kMarket, size).Moves);
+  int wage = std::max(moved, StaffWorth(size, staff.Talent));
+  if (!own && staff.Employer != 0) wage = PercentOf(wage, 120);
+  return std::clamp(wage, 0, kHighestStaffWage);
+}
+
+void PutInto(Staff& staff, const ContractOffer& offer) {
+  staff.ContractType = ContractCodeOf(offer.Written);
+  staff.ContractMonths = offer.Months;
+  staff.Wage = offer.Wage;
+}
+
+}  // namespace
+
+bool IsEndless(const Staff& staff) {
+  return staff.Unsackable || staff.ContractMonths == kNoEnd;
+}
+
+std::string WhyNoStaffTalks(const Staff& staff) {
+  if (staff.Position == kOwner) return staff.Name + " owns promotions, and is not for hire.";
+  if (staff.Employer != 0 && IsEndless(staff))
+    return staff.Name + " is unsackable: the agreement has no end, and nothing to talk about.";
+  return {};
+}
+
+int StaffWorth(int size, int talent) {
+  return PercentOf(talent, BySize(kMarket, size).Worth) / kTalentPerThousand;
+}
+
+int TalentCeiling(int size) {
+  return BySize(kMarket, size).TalentCeiling;
+}
+
+StaffDemands StaffDemandsOf(const World& world, const Staff& staff) {
+  const int size = world.Player().Size;
+  return {BySize(kMarket, size).Months, size < kCult, WageWanted(world, staff)};
+}
+
+std::string WhyNoStaffOffer(const World& world, const Staff& staff) {
+  return WorksForPlayer(world, staff) ? WhyNoRenewal(staff) : WhyNoHire(world, staff);
+}
+
+std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
+                            const ContractOffer& offer) {
+  const Talk talk{staff, demands, offer, world.Player().Size, WorksForPlayer(world, staff)};
+  for (const Objection& objection : kObjections)
+    if (objection.Holds(talk)) return objection.Words;
+  return {};
+}
+
+void RenewStaff(Staff& staff, const ContractOffer& offer) {
+  PutInto(staff, offer);
+}
+
+void HireStaff(World& world, Staff& staff, const ContractOffer& offer) {
+  DismissStaff(world, staff);
+  staff.Employer = world.PlayerUid();
+  staff.Unsackable = false;
+  staff.Morale += kHireLift;
+  PutInto(staff, offer);
+}
+
+namespace {
+
+Parting PartingOf(const Staff& staff) {
+  if (staff.Morale < 20) return Parting::Gladly;
+  return staff.ContractType == "Non" ? Parting::Verbal : Parting::BuyOut;
+}
+
+long long CostOf(const World& world, const Staff& staff) {
+  return BuyOutCost(world.Game().Difficulty, staff.Wage, staff.ContractMonths);
+}
+
+}  // namespace
+
+std::string FiringQuestion(const World& world, const Staff& staff) {
+  switch (PartingOf(staff)) {
+    case Parting::BuyOut:
+      return "Buying out the contract of " + staff.Name.Str() + " will cost $" +
+             std::to_string(CostOf(world, staff)) + ". Proceed?";
+    case Parting::Verbal:
+      return "Nothing is in writing, and " + staff.Name.Str() + " can be let go for free. Proceed?";
+    case Parting::Gladly:
+      break;
+  }
+  return staff.Name + " is glad to leave. Proceed?";
+}
+
+void FireStaff(World& world, Staff& staff) {
+  const Parting parting = PartingOf(staff);
+  if (parting == Parting::BuyOut) {
+    world.Player().Money -= CostOf(world, staff);
+    staff.Loyalty -= 30;
+  }
+  if (parting == Parting::Verbal) staff.Loyalty -= 20;
+  DismissStaff(world, staff);
+  staff.ContractType = "Non";
+}
+
+namespace {
+
+int OwnShows(const World& world) {
+  return static_cast<int>(std::ranges::count_if(
+      world.Shows(), [&](const Show& s) { return s.Owner == world.PlayerUid(); }));
+}
+
+template <class Test>
+int CountOwn(const World& world, Test test) {
+  return static_cast<int>(std::ranges::count_if(
+      world.Workers(), [&](const Worker& w) { return WorksForPlayer(world, w) && test(w); }));
+}
+
+int AnnouncersWanted(const World& world) {
+  return OwnShows(world) > 0 ? 1 : 0;
+}
+int MedicsWanted(const World& world) {
+  return MedicsNeeded(CountOwn(world, [](const Worker&) { return true; }));
+}
+int WritersWanted(const World& world) {
+  return WritersNeeded(OwnShows(world));
+}
+int AgentsWanted(const World& world) {
+  return AgentsNeeded(
+      CountOwn(world, [](const Worker& w) { return w.Position < kDevelopmentDeal; }));
+}
+int TrainersWanted(const World& world) {
+  return world.Player().CampName == "None" ? 0 : 1;
+}
+int NoneWanted(const World&) {
+  return 0;
+}
+
+struct Post {
+  int Code;
+  const char* Plural;
+  int (*Need)(const World& world);
+  const char* Lack;  // what comes of too few, behind "Hire 2 more, or "
+};
+constexpr std::array<Post, 7> kPosts = {{
+    {kAnnouncer, "Announcers", AnnouncersWanted, "nobody calls the shows"},
+    {kReferee, "Referees", NoneWanted, ""},
+    {kProduction, "Production", NoneWanted, ""},
+    {kMedical, "Medical", MedicsWanted, "the roster recovers slowly"},
+    {kWriter, "Writers", WritersWanted, "angles have to wait"},
+    {kRoadAgent, "Road Agents", AgentsWanted, "there will be more trouble behind the scenes"},
+    {kTrainer, "Trainers", TrainersWanted, "nobody teaches in the training camp"},
+}};
+
+const Post& PostOf(int code) {
+  return *std::ranges::find_if(kPosts, [=](const Post& post) { return post.Code == code; });
+}
+
+}  // namespace
+
+int WritersNeeded(int shows) {
+  // By shows from none to more than three.
+  constexpr std::array<int, 5> kNeeded = {1, 2, 4, 6, 10};
+  return kNeeded[static_cast<std::size_t>(std::clamp(shows, 0, 4))];
+}
+
+int MedicsNeeded(int workers) {
+  return workers >= 56 ? 3 : workers >= 31 ? 2 : 0;
+}
+
+int AgentsNeeded(int wrestlers) {
+  if (wrestlers > 80) return 5;
+  if (wrestlers > 60) return 4;
+  if (wrestlers > 40) return 3;
+  return wrestlers > 25 ? 2 : wrestlers > 0 ? 1 : 0;
+}
+
+PostCount PostCountOf(const World& world, int post) {
+  const auto isThere = [&](const Staff& staff) {
+    return WorksForPlayer(world, staff) && staff.Position == post;
+  };
+  return {post, static_cast<int>(std::ranges::count_if(world.AllStaff(), isThere)),
+          PostOf(post).Need(world)};
+}
+
+std::vector<PostCount> PostCounts(const World& world) {
+  std::vector<PostCount> posts;
+  for (const Post& post : kPosts) posts.push_back(PostCountOf(world, post.Code));
+  return posts;
+}
+
+std::string PostLine(const std::vector<PostCount>& posts) {
+  std::string line;
+  for (const PostCount& post : posts) {
+    line += (line.empty() ? "" : ", ") + std::string(PostOf(post.Post).Plural) + " " +
+            std::to_string(post.Have);
+    if (post.Need > 0) line += " (needs " + std::to_string(post.Need) + ")";
+  }
+  return line + ".";
+}
+
+std::string PostAdvice(const std::vector<PostCount>& posts) {
+  std::string advice;
+  for (const PostCount& post : posts)
+    if (IsShort(post))
+      advice += (advice.empty() ? "" : " ") + std::string(PostOf(post.Post).Plural) + ": hire " +
+                std::to_string(post.Need - post.Have) + " more, or " + PostOf(post.Post).Lack + ".";
+  return advice.empty() ? "Every post has the hands it needs." : advice;
+}
+
+}  // namespace grapplemont

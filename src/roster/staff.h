@@ -1,0 +1,76 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/world.h"
+#include "roster/talks.h"
+
+// Contract talks with members of staff, the player's own and everybody else's.
+
+namespace grapplemont {
+
+inline constexpr int kHighestStaffWage = 100;  // thousands of dollars a month
+
+/// An agreement without an end, as Owners have it too.
+bool IsEndless(const Staff& staff);
+/// Why he cannot be talked with at all: an Owner, an agreement without an end. Empty when he can.
+std::string WhyNoStaffTalks(const Staff& staff);
+
+/// What his talent is worth to a promotion of this size, thousands of dollars a month.
+int StaffWorth(int size, int talent);
+/// The most talent that would work for a promotion of this size.
+int TalentCeiling(int size);
+
+struct StaffDemands {
+  int Months = 12;
+  bool Written = true;
+  int Wage = 0;  // thousands of dollars a month
+};
+/// For staying with the player's promotion where he works there, else for coming.
+StaffDemands StaffDemandsOf(const World& world, const Staff& staff);
+
+/// What closes the talks before they begin, a whole sentence; empty while he will listen.
+std::string WhyNoStaffOffer(const World& world, const Staff& staff);
+/// Why he says no to an offer; empty when it is a deal.
+std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
+                            const ContractOffer& offer);
+
+/// Puts the offer into the contract of one of the player's.
+void RenewStaff(Staff& staff, const ContractOffer& offer);
+/// He leaves whoever employs him and works for the player from now on, in better spirits.
+void HireStaff(World& world, Staff& staff, const ContractOffer& offer);
+
+// Ending the contract of a member of the player's staff before its time: as with workers.
+
+/// What the player is asked before it happens.
+std::string FiringQuestion(const World& world, const Staff& staff);
+/// Pays, whatever is in the bank, and lets him go.
+void FireStaff(World& world, Staff& staff);
+
+// How many hands the posts of a promotion need.
+
+/// To use angles, with this many television shows.
+int WritersNeeded(int shows);
+/// For everybody to recover at full speed, with this many workers.
+int MedicsNeeded(int workers);
+/// To keep so many wrestlers out of trouble.
+int AgentsNeeded(int wrestlers);
+
+/// How a post of the player's promotion is filled.
+struct PostCount {
+  int Post;  // a code of Staff.Position
+  int Have = 0;
+  int Need = 0;  // 0 also where nobody counts them
+};
+PostCount PostCountOf(const World& world, int post);
+inline bool IsShort(const PostCount& post) {
+  return post.Have < post.Need;
+}
+/// Every post but the Owner's, in the order of their codes.
+std::vector<PostCount> PostCounts(const World& world);
+/// "Announcers 1 (needs 1), Referees 2, ..." and what to do about posts that lack hands.
+std::string PostLine(const std::vector<PostCount>& posts);
+std::string PostAdvice(const std::vector<PostCount>& posts);
+
+}  // namespace grapplemont
