@@ -184,7 +184,7 @@ void TellLargeFinish(Teller& teller, const BoutRow& bout) {
   const int finish = teller.segment.Finish, behind = finish - kFirstTurns - places;
   const bool isDraw = teller.cast.Of('w').Empty();
   if (finish >= kFirstTurns && behind < 0) {
-    const int turner = teller.segment.Worker[static_cast<std::size_t>(finish - kFirstTurns)];
+    const int turner = UidAt(teller.segment, finish - kFirstTurns + 1);
     if (teller.cast.Find(teller.world, turner)) return TellTurnFinish(teller, bout, turner);
   }
   if (behind == 2) teller.Say(Family::SideShow);

@@ -17,10 +17,6 @@ bool IsBlank(char letter) {
   return static_cast<unsigned char>(letter) <= ' ';
 }
 
-int WorkerAt(const Segment& segment, int place) {
-  return segment.Worker[static_cast<std::size_t>(place - 1)];
-}
-
 /// Who takes the fall; 0 for nobody.
 int LoserOf(const Segment& segment) {
   return NamesLoser(segment) ? int(segment.Loser) : 0;
@@ -59,33 +55,13 @@ void CastMatch(const World& world, const Segment& segment, Cast& cast) {
 }
 
 void CastInterview(const World& world, const Segment& segment, Cast& cast) {
-  const auto at = [&](int place) { return WorkerAt(segment, place); };
-  switch (segment.Style) {
-    case kSingleTalk:
-      cast.Set('T', world, {at(1)});
-      cast.Set('V', world, {at(2)});
-      break;
-    case kTeamTalk:
-      cast.Set('T', world, {at(1), at(2)});
-      cast.Set('V', world, {at(3), at(4)});
-      break;
-    case kManagedTalk:
-      cast.Set('T', world, {at(1)});
-      cast.Set('m', cast.Find(world, at(2)));
-      cast.Set('V', world, {at(3)});
-      break;
-    case kManagedTeamTalk:
-      cast.Set('m', cast.Find(world, at(1)));
-      cast.Set('T', world, {at(2), at(3)});
-      cast.Set('V', world, {at(4), at(5)});
-      break;
-    default:
-      break;
-  }
+  cast.Set('T', world, SeatedAs(segment, Casting::Talkers));
+  cast.Set('m', world, SeatedAs(segment, Casting::TalkManagers));
+  cast.Set('V', world, SeatedAs(segment, Casting::Targets));
 }
 
 void CastAngle(const World& world, const Segment& segment, Cast& cast) {
-  const auto at = [&](int place) { return WorkerAt(segment, place); };
+  const auto at = [&](int place) { return UidAt(segment, place); };
   cast.Set('F', world, {at(1), at(2)});
   cast.Set('S', world, {at(3), at(4)});
   std::vector<int> attackers = {at(2), at(3)};
@@ -208,7 +184,7 @@ Cast CastOf(const World& world, const Segment& segment) {
   Cast cast;
   for (int place = 1; place <= 8; ++place)
     if (segment.Kind == kAngle ? place <= kAnglePlaces : place <= EntrantsOf(segment))
-      cast.Set(static_cast<char>('0' + place), cast.Find(world, WorkerAt(segment, place)));
+      cast.Set(static_cast<char>('0' + place), cast.Find(world, UidAt(segment, place)));
   if (segment.Kind == kMatch) CastMatch(world, segment, cast);
   if (segment.Kind == kInterview) CastInterview(world, segment, cast);
   if (segment.Kind == kAngle) CastAngle(world, segment, cast);

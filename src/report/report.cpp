@@ -141,25 +141,17 @@ std::string WinnerLine(const World& world, const Segment& segment) {
 }
 
 std::string InterviewNames(const World& world, const Segment& segment) {
-  const auto name = [&](int place) {
-    return WorkerName(world, segment.Worker[static_cast<std::size_t>(place - 1)]);
-  };
-  const auto pair = [&](int place) {
-    return PairName(world, segment.Worker[static_cast<std::size_t>(place - 1)],
-                    segment.Worker[static_cast<std::size_t>(place)]);
-  };
-  switch (segment.Style) {
-    case kSingleTalk:
-      return name(1) + " is backstage. ";
-    case kTeamTalk:
-      return pair(1) + " are backstage. ";
-    case kManagedTalk:
-      return name(1) + " is backstage with " + name(2) + ". ";
-    case kManagedTeamTalk:
-      return name(1) + " is backstage with " + pair(2) + ". ";
-    default:
-      return {};
-  }
+  const auto talkers = SeatedAs(segment, Casting::Talkers);
+  const auto managers = SeatedAs(segment, Casting::TalkManagers);
+  if (talkers.empty()) return {};
+  const bool isTeam = talkers.size() == 2;
+  const std::string who =
+      isTeam ? PairName(world, talkers[0], talkers[1]) : WorkerName(world, talkers[0]);
+  if (managers.empty()) return who + (isTeam ? " are backstage. " : " is backstage. ");
+  const std::string manager = WorkerName(world, managers[0]);
+  // In the order of their seats.
+  return isTeam ? manager + " is backstage with " + who + ". "
+                : who + " is backstage with " + manager + ". ";
 }
 
 std::string AngleNames(const World& world, const Segment& segment) {

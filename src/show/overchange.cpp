@@ -200,15 +200,6 @@ constexpr int kAtTheTop = 90;
 constexpr int kBelow = 15;
 constexpr int kFarBelow = 20;
 
-/// How many places speak in an interview of a style, and which of them only stands by.
-struct Speakers {
-  int Style;
-  int Count;
-  int Secondary;  // place; 0 for none
-};
-constexpr Speakers kSpeakers[] = {
-    {kSingleTalk, 1, 0}, {kTeamTalk, 2, 0}, {kManagedTalk, 2, 2}, {kManagedTeamTalk, 3, 3}};
-
 int GainFrom(SegmentRun& run, int over, bool isSecondary) {
   const auto draw = [&](int n) {
     return isSecondary ? run.World.RandomDraw(2) - 1 : run.World.RandomDraw(n);
@@ -229,12 +220,12 @@ void TalkOverOf(SegmentRun& run, int uid, bool isSecondary) {
 }
 
 void AfterInterview(SegmentRun& run) {
-  for (const Speakers& row : kSpeakers) {
-    if (run.Segment.Style != row.Style) continue;
-    for (int place = 1; place <= row.Count; ++place)
-      TalkOverOf(run, run.Segment.Worker[static_cast<std::size_t>(place - 1)],
-                 place == row.Secondary);
-  }
+  const InterviewStyleRow* style = FindInterviewStyle(run.Segment.Style);
+  if (!style) return;
+  // Where a manager speaks, the last of the speakers only stands by.
+  const bool isManaged = !SeatedAs(run.Segment, Casting::TalkManagers).empty();
+  for (int place = 1; place <= style->Speakers; ++place)
+    TalkOverOf(run, UidAt(run.Segment, place), isManaged && place == style->Speakers);
 }
 
 void AfterAngle(SegmentRun& run) {
@@ -243,7 +234,7 @@ void AfterAngle(SegmentRun& run) {
   for (int place = 1; place <= kAnglePlaces; ++place) {
     // The one who is impersonated is only shown up.
     if (angle->Number == kImpression && place == 2) continue;
-    TalkOverOf(run, run.Segment.Worker[static_cast<std::size_t>(place - 1)], false);
+    TalkOverOf(run, UidAt(run.Segment, place), false);
   }
   if (!HasStableRole(*angle)) return;
   const Worker* leader = StableLeader(run.World, run.Segment.Text);

@@ -11,25 +11,18 @@ namespace grapplemont {
 namespace {
 
 /// How an interview counts, by its style: how many of its speakers make the crowd and score against
-/// the one they speak of.
+/// the first one they speak of.
 struct TalkRow {
   int Style;
   int Heard;
-  int Opponent;  // a place
   int Tallies;
 };
-constexpr TalkRow kTalks[] = {{kSingleTalk, 1, 2, 1},
-                              {kTeamTalk, 2, 3, 1},
-                              {kManagedTalk, 1, 3, 2},
-                              {kManagedTeamTalk, 1, 4, 2}};
+constexpr TalkRow kTalks[] = {
+    {kSingleTalk, 1, 1}, {kTeamTalk, 2, 1}, {kManagedTalk, 1, 2}, {kManagedTeamTalk, 1, 2}};
 
 constexpr int kGuestRating = 100;
 constexpr int kDivaLoss = 5;
 constexpr int kDivaLossDraw = 6;
-
-int WorkerAt(const Segment& segment, int place) {
-  return segment.Worker[static_cast<std::size_t>(place - 1)];
-}
 
 const TalkRow* FindTalk(int style) {
   for (const TalkRow& row : kTalks)
@@ -38,7 +31,7 @@ const TalkRow* FindTalk(int style) {
 }
 
 int PersonOf(const SegmentRun& run, int who) {
-  if (who != kLeader) return WorkerAt(run.Segment, who);
+  if (who != kLeader) return UidAt(run.Segment, who);
   const Worker* leader = StableLeader(run.World, run.Segment.Text);
   return leader ? int(leader->Uid) : 0;
 }
@@ -83,7 +76,7 @@ void AddProduction(SegmentRun& run) {
 void AddDivas(SegmentRun& run) {
   if (!IsForDivas(run.Segment.Style)) return;
   for (const int place : {1, 2}) {
-    const Worker* worker = run.World.FindWorker(WorkerAt(run.Segment, place));
+    const Worker* worker = run.World.FindWorker(UidAt(run.Segment, place));
     if (worker && !worker->Diva)
       run.Crowd.Add(-kDivaLoss - run.World.RandomDraw(kDivaLossDraw), worker->Name + " is no diva");
   }
@@ -102,16 +95,16 @@ void ScoreInterview(SegmentRun& run) {
   if (!row) return;
   MeanRating talk;
   for (int place = 1; place <= row->Heard; ++place)
-    talk.Add(run.World, WorkerAt(run.Segment, place), TalkRating);
+    talk.Add(run.World, UidAt(run.Segment, place), TalkRating);
   run.Crowd.Add(talk.Mean(), talk.Told("talk"));
 
-  const int opponent = WorkerAt(run.Segment, row->Opponent);
+  const int opponent = SeatedAs(run.Segment, Casting::Targets).front();
   if (opponent == 0) return;
   // The first two, though in most styles they are partners.
-  FeudLift(run, FeudSlotOf(run.World, WorkerAt(run.Segment, 1), WorkerAt(run.Segment, 2)));
+  FeudLift(run, FeudSlotOf(run.World, UidAt(run.Segment, 1), UidAt(run.Segment, 2)));
   HeatFollowsTalk(run);
   for (int place = 1; place <= row->Tallies; ++place)
-    TallyVerbal(run, WorkerAt(run.Segment, place), opponent);
+    TallyVerbal(run, UidAt(run.Segment, place), opponent);
 }
 
 void ScoreAngle(SegmentRun& run) {

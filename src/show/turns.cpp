@@ -146,34 +146,23 @@ void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
 
 namespace {
 
-/// An interview's turners, and the place of the one they turn on.
-struct TalkTurn {
-  int Style;
-  int Turners[2];  // places; 0 for none
-  int On;
-};
-constexpr TalkTurn kTalkTurns[] = {{kSingleTalk, {1, 0}, 2},
-                                   {kTeamTalk, {1, 2}, 3},
-                                   {kManagedTalk, {2, 0}, 3},
-                                   {kManagedTeamTalk, {2, 3}, 4}};
-
-/// The leader of the angle's stable, in place of a box.
-constexpr int kTheLeader = -1;
+/// In place of a box: the leader of the angle's stable.
+constexpr int kTheLeader = -1, kNobody = 0;
 
 struct AngleTurn {
   int Angle;
   int Turner;  // place
-  int On;      // place, kTheLeader, or 0 for nobody
+  int On;      // place, kTheLeader, kNobody
   bool OnlyPending;
 };
 constexpr AngleTurn kAngleTurns[] = {
-    {kBetterEnemies, 1, 2, false},   {kFaceTurnAngle, 1, 2, false},
-    {kHeelTurnAngle, 1, 2, false},   {kTeamFaceTurn, 1, 3, false},
-    {kTeamFaceTurn, 2, 4, false},    {kTeamHeelTurn, 1, 3, false},
-    {kTeamHeelTurn, 2, 4, false},    {kAmbush, 4, 2, true},
-    {kManagementIssues, 1, 3, true}, {kDivaFever, 3, 1, true},
-    {kStableInduction, 1, 0, true},  {kStableKickOut, 1, kTheLeader, true},
-    {kStalkerReveal, 1, 2, true},    {kStalkerCaught, 1, 2, true},
+    {kBetterEnemies, 1, 2, false},        {kFaceTurnAngle, 1, 2, false},
+    {kHeelTurnAngle, 1, 2, false},        {kTeamFaceTurn, 1, 3, false},
+    {kTeamFaceTurn, 2, 4, false},         {kTeamHeelTurn, 1, 3, false},
+    {kTeamHeelTurn, 2, 4, false},         {kAmbush, 4, 2, true},
+    {kManagementIssues, 1, 3, true},      {kDivaFever, 3, 1, true},
+    {kStableInduction, 1, kNobody, true}, {kStableKickOut, 1, kTheLeader, true},
+    {kStalkerReveal, 1, 2, true},         {kStalkerCaught, 1, 2, true},
     {kRejectedProposal, 2, 1, true},
 };
 
@@ -244,19 +233,16 @@ void AddSureTurns(Calls& calls, const Segment& segment) {
 void AddBigTeamTurns(Calls& calls, const Segment& segment) {
   const int place = segment.Finish - kFirstTurns + 1;
   if (place < 1 || place > EntrantsOf(segment)) return;
-  const int turner = segment.Worker[static_cast<std::size_t>(place - 1)];
+  const int turner = UidAt(segment, place);
   Add(calls, turner, PartnerOf(segment, turner));
-}
-
-int At(const Segment& segment, int place) {
-  return place < 1 ? 0 : int(segment.Worker[static_cast<std::size_t>(place - 1)]);
 }
 
 void AddTalkTurns(Calls& calls, const Segment& segment) {
   if (segment.Purpose != kTalkTurn) return;
-  for (const TalkTurn& row : kTalkTurns)
-    if (segment.Style == row.Style)
-      for (const int place : row.Turners) Add(calls, At(segment, place), At(segment, row.On));
+  // Where somebody speaks beside a manager, it is the manager who turns.
+  const bool isManagers = segment.Style == kManagedTalk;
+  for (const int turner : SeatedAs(segment, isManagers ? Casting::TalkManagers : Casting::Talkers))
+    Add(calls, turner, FirstOf(SeatedAs(segment, Casting::Targets)));
 }
 
 int LeaderBeside(const World& world, const Segment& segment, int uid) {
@@ -272,11 +258,13 @@ int LeaderBeside(const World& world, const Segment& segment, int uid) {
 void AddAngleTurns(Calls& calls, const World& world, const Segment& segment) {
   for (const AngleTurn& row : kAngleTurns) {
     if (segment.Style != row.Angle) continue;
-    const int turner = At(segment, row.Turner);
+    const int turner = UidAt(segment, row.Turner);
     const Worker* worker = world.FindWorker(turner);
     if (!worker || (row.OnlyPending && !worker->TurnPending)) continue;
     Add(calls, turner,
-        row.On == kTheLeader ? LeaderBeside(world, segment, turner) : At(segment, row.On));
+        row.On == kTheLeader ? LeaderBeside(world, segment, turner)
+        : row.On == kNobody  ? 0
+                             : UidAt(segment, row.On));
   }
 }
 
