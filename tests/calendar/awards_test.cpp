@@ -5,11 +5,11 @@
 #include "calendar/advanceday.h"
 #include "records/checkworld.h"
 #include "records/dates.h"
-#include "words/segments.h"
 #include "storylines/lineages.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
+#include "words/segments.h"
 
 namespace grapplemont::test {
 namespace {

@@ -5,9 +5,9 @@
 #include <set>
 
 #include "records/modWresCheck.h"
-#include "words/names.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
+#include "words/names.h"
 
 namespace grapplemont::test {
 namespace {
