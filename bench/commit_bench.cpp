@@ -1,7 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/worlds.h"
-#include "records/slot.h"
+#include "records/store/slot.h"
 #include "support/gameonworld.h"
 #include "support/scratchfolder.h"
 #include "tools/career.h"

@@ -7,7 +7,7 @@
 #include "booking/autoshow.h"
 #include "calendar/advanceday.h"
 #include "calendar/daykind.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "report/linememory.h"
 #include "support/smallworld.h"
 #include "tools/career.h"

@@ -5,7 +5,8 @@
 headers_of_folder(words_headers words)
 file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/words/*.cpp)
 list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-foreach(shared records/angles records/charset records/nearest report/family info/meetingpoints)
+foreach(shared records/angles records/fields/charset records/fields/wording report/family
+        info/meetingpoints)
   list(APPEND sources ${PROJECT_SOURCE_DIR}/src/${shared}.cpp)
 endforeach()
 add_library(words STATIC ${sources})

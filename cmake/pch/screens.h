@@ -7,4 +7,5 @@
 #include <ui/controls.h>
 #include <ui/desk.h>
 #include <ui/game.h>
+#include <ui/gamescreen.h>
 #include <ui/screen.h>

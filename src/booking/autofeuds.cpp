@@ -2,7 +2,7 @@
 
 #include "booking/automatches.h"
 #include "booking/autotalk.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "storylines/feuds.h"
 
 // Every running feud gets something: a match, an interview or an attack; the blow-off at an Event

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "booking/automatches.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "storylines/feuds.h"
 #include "storylines/titles.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "show/holdshow.h"

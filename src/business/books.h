@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "records/promotion.h"
+#include "records/fields/companies.h"
 
 namespace grapplemont {
 

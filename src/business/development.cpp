@@ -3,7 +3,7 @@
 #include <array>
 
 #include "business/past.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/severing.h"
 #include "roster/postings.h"

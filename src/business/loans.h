@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/promotion.h"
+#include "records/fields/companies.h"
 
 // Bank loans: one at a time, in steps of 100000 dollars.
 

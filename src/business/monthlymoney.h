@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/promotion.h"
+#include "records/fields/companies.h"
 
 // What the first of a month brings in and costs, in dollars, and the spending that a promotion's
 // standing asks for. Sizes outside the six count as the nearest.

@@ -1,6 +1,6 @@
 #include "business/months.h"
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "records/fields.h"
+#include "records/fields/fields.h"
 
 // Months as the office's charts and books count them.
 

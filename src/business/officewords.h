@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "records/promotion.h"
+#include "records/fields/companies.h"
 
 // What several screens of the office say alike.
 

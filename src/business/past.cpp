@@ -2,7 +2,7 @@
 
 #include "business/books.h"
 #include "business/months.h"
-#include "records/rolling.h"
+#include "records/store/table.h"
 
 namespace grapplemont {
 

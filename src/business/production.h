@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "records/promotion.h"
+#include "records/fields/companies.h"
 
 // Buying better production values, once and for all; what they cost each month is in
 // monthlymoney.h.

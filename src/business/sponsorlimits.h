@@ -1,7 +1,6 @@
 #pragma once
 
-#include "records/companies.h"
-#include "records/promotion.h"
+#include "records/fields/companies.h"
 
 namespace grapplemont {
 

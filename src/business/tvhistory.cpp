@@ -1,7 +1,7 @@
 #include "business/tvhistory.h"
 
 #include "business/past.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont {
 

@@ -2,6 +2,7 @@
 #include "business/networks.h"
 #include "business/tvshows.h"
 #include "records/arithmetic.h"
+#include "records/modVar.h"
 
 namespace grapplemont {
 

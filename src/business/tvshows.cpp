@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "business/networks.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
-#include "records/sweeps.h"
+#include "records/severing.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {

@@ -7,7 +7,7 @@
 #include "business/networks.h"
 #include "business/sponsorlimits.h"
 #include "records/arithmetic.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 
 namespace grapplemont {

@@ -3,8 +3,8 @@
 #include "business/businesssteps.h"
 #include "calendar/awards.h"
 #include "calendar/daysteps.h"
-#include "records/dates.h"
-#include "records/sweeps.h"
+#include "records/fields/fields.h"
+#include "records/severing.h"
 #include "rivals/rivalsteps.h"
 #include "storylines/lineages.h"
 

@@ -2,7 +2,7 @@
 
 #include "calendar/daykind.h"
 #include "calendar/events.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont {
 

@@ -1,7 +1,7 @@
 #include "calendar/daykind.h"
 
 #include "calendar/events.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont {
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "records/gameinfo.h"
+#include "records/fields/gameinfo.h"
 
 // How the player's show moves the image: what the public thinks of it before it has seen it, by
 // the difficulty and the player's reputation, and then by its rating.

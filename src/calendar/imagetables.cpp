@@ -5,7 +5,7 @@
 #include <span>
 
 #include "records/arithmetic.h"
-#include "records/vocabulary.h"
+#include "records/fields/vocabulary.h"
 
 namespace grapplemont {
 

@@ -1,6 +1,6 @@
 #include "calendar/incidents.h"
 
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "rivals/ownership.h"
 #include "show/injuries.h"

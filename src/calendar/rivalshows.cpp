@@ -6,7 +6,7 @@
 #include "calendar/image.h"
 #include "calendar/imagetables.h"
 #include "calendar/showconsequences.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "rivals/rivals.h"
 #include "show/showresults.h"

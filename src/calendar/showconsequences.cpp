@@ -12,7 +12,7 @@
 #include "calendar/goodwill.h"
 #include "calendar/image.h"
 #include "calendar/imagetables.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "show/showresults.h"
 

@@ -1,6 +1,6 @@
 #include "booking/writers.h"
 #include "calendar/daysteps.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 
 namespace grapplemont {

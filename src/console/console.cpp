@@ -3,7 +3,7 @@
 #include <charconv>
 
 #include "console/lines.h"
-#include "records/charset.h"
+#include "records/fields/charset.h"
 #include "ui/acts.h"
 
 namespace grapplemont::console {

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "console/columns.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 
 namespace grapplemont::console {
 

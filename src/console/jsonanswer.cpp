@@ -2,7 +2,7 @@
 
 #include "console/answer.h"
 #include "console/controltext.h"
-#include "records/charset.h"
+#include "records/fields/charset.h"
 
 namespace grapplemont::console {
 

@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont::console {
 

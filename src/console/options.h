@@ -5,7 +5,7 @@
 #include <span>
 #include <string>
 
-#include "records/fields.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont::console {
 

@@ -5,7 +5,7 @@
 
 #include "console/options.h"
 #include "program/screens.h"
-#include "records/charset.h"
+#include "records/fields/charset.h"
 #include "session/home.h"
 
 namespace grapplemont::console {

@@ -5,7 +5,7 @@
 #include "console/command.h"
 #include "console/controltext.h"
 #include "console/sections.h"
-#include "records/charset.h"
+#include "records/fields/charset.h"
 
 namespace grapplemont::console {
 

@@ -2,7 +2,7 @@
 
 #include <QList>
 
-#include "records/charset.h"
+#include "records/fields/charset.h"
 
 namespace grapplemont::desktop {
 

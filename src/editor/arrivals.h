@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "editor/recordfile.h"
-#include "records/checkworld.h"
-#include "records/freeuids.h"
+#include "records/checks/checkworld.h"
+#include "records/store/table.h"
 
 // Records from elsewhere that come into the data: under which uid, or why not.
 

@@ -4,7 +4,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 
 // What a change of one record does to the order of the rest. The rules of CheckWorld say it: a
 // fault that was not there before is either the author's to put right, or something that cannot

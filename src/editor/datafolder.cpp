@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "records/slotfolder.h"
+#include "records/store/slotfolder.h"
 
 namespace grapplemont {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "records/datastep.h"
+#include "records/store/datastep.h"
 #include "records/world.h"
 
 namespace grapplemont {

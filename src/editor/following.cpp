@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "records/modWresCheck.h"
-#include "records/sweeps.h"
+#include "records/severing.h"
 
 namespace grapplemont {
 

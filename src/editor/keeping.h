@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "editor/recordkinds.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 
 // What becomes of the default data when one record of them is added, changed or deleted: its own
 // invariants, what it may not do, and whatever else knows it.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "editor/worldcopy.h"
-#include "records/worldreport.h"
+#include "records/tables/worldreport.h"
 
 namespace grapplemont {
 

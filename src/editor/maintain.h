@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 
 // The clean-up of the data, with a report before it changes anything.
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "editor/keeping.h"
-#include "records/tablekinds.h"
+#include "records/tables/tablekinds.h"
 
 // What a record holds before an author has said anything, and what a copy holds.
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/field.h"
+#include "records/fields/field.h"
 
 // Words for numbers that the records' own vocabularies leave bare.
 

@@ -1,6 +1,6 @@
 #include "editor/recordfile.h"
 
-#include "records/counted.h"
+#include "records/fields/wording.h"
 
 #include <array>
 

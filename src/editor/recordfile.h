@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "records/table.h"
+#include "records/store/table.h"
 
 // Record files that came from elsewhere and lie beside the data: what can be read of them, and what
 // is to be said about the rest.

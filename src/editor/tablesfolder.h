@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "records/worldreport.h"
+#include "records/tables/worldreport.h"
 
 // The data as a folder of tables that people can edit, out and in.
 

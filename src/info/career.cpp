@@ -1,6 +1,6 @@
 #include "info/career.h"
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont {
 

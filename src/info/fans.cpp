@@ -9,7 +9,7 @@
 #include "info/infowords.h"
 #include "info/results.h"
 #include "info/worldnews.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "rivals/promotionfacts.h"
 #include "show/attendance.h"

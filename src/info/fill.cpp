@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "records/holes.h"
+#include "records/fields/wording.h"
 
 namespace grapplemont {
 

@@ -3,8 +3,8 @@
 #include <span>
 #include <string_view>
 
-#include "records/deeds.h"
-#include "records/words.h"
+#include "records/fields/chronicle.h"
+#include "records/fields/wording.h"
 
 // What this room says: the files of words/ that are its own, and what the lines under each of their
 // headings may name. The meeting's points are in meetingpoints.h.

@@ -1,7 +1,7 @@
 #include "business/development.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "roster/postings.h"
 #include "roster/renewal.h"

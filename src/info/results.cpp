@@ -5,8 +5,8 @@
 #include <set>
 
 #include "business/past.h"
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/segments.h"
 
 namespace grapplemont {

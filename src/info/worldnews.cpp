@@ -8,8 +8,8 @@
 #include "business/past.h"
 #include "info/fill.h"
 #include "info/infowords.h"
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "records/fields.h"
+#include "records/fields/fields.h"
 
 // The 79 angles: how each is called, when it is offered, who is cast in it.
 

@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "records/field.h"
+#include "records/fields/field.h"
 
 // The vocabulary of Segments. The codes stand in match.dat; gaps and disorder among them are part
 // of the format.

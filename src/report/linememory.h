@@ -3,7 +3,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "records/draws.h"
+#include "records/fields/outside.h"
 
 namespace grapplemont {
 

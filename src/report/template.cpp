@@ -1,6 +1,6 @@
 #include "report/template.h"
 
-#include "records/holes.h"
+#include "records/fields/wording.h"
 
 namespace grapplemont {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/words.h"
+#include "records/fields/wording.h"
 #include "report/family.h"
 
 // The voices' lines. Each voice is a module that the build makes of its folder of words/, a

@@ -1,6 +1,6 @@
 #include "rivals/houseshows.h"
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "rivals/rivals.h"
 #include "rivals/rivalsteps.h"
 #include "rivals/rivaltitles.h"

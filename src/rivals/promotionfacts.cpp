@@ -4,7 +4,7 @@
 
 #include "business/past.h"
 #include "business/standing.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "rivals/purse.h"
 #include "rivals/rivals.h"

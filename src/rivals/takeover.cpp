@@ -1,5 +1,6 @@
 #include "rivals/takeover.h"
 
+#include "records/modVar.h"
 #include "records/severing.h"
 #include "rivals/bankruptcy.h"
 #include "rivals/rivals.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/worker.h"
+#include "records/fields/people.h"
 
 namespace grapplemont {
 

@@ -1,6 +1,6 @@
 #include "roster/talks.h"
 
-#include "records/counted.h"
+#include "records/fields/wording.h"
 
 namespace grapplemont {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "records/arithmetic.h"
-#include "records/vocabulary.h"
+#include "records/fields/vocabulary.h"
 #include "records/world.h"
 
 // What all contract talks share.

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/postings.h"

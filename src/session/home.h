@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "records/disk.h"
+#include "records/store/disk.h"
 
 namespace grapplemont {
 

@@ -7,7 +7,7 @@
 #include "calendar/awards.h"
 #include "calendar/events.h"
 #include "records/arithmetic.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/challenge.h"

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "records/disk.h"
-#include "records/draws.h"
+#include "records/fields/outside.h"
+#include "records/store/disk.h"
 
 namespace grapplemont {
 

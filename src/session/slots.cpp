@@ -2,10 +2,10 @@
 
 #include <cstring>
 
-#include "records/charset.h"
-#include "records/dates.h"
-#include "records/slotfolder.h"
-#include "records/worldreport.h"
+#include "records/fields/charset.h"
+#include "records/fields/fields.h"
+#include "records/store/slotfolder.h"
+#include "records/tables/worldreport.h"
 
 namespace grapplemont {
 

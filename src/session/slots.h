@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "records/disk.h"
-#include "records/fields.h"
+#include "records/fields/fields.h"
+#include "records/store/disk.h"
 
 namespace grapplemont {
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "records/baseanddraw.h"
+#include "records/arithmetic.h"
 
 // How many people a promotion draws, by size and image.
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/segmentparts.h"
 

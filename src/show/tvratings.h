@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/baseanddraw.h"
+#include "records/arithmetic.h"
 
 // How many watch a show from home, in hundredths. The promotion's standing decides, never the card:
 // a good show moves the image, and the image the viewers. Each figure is a base and a draw.

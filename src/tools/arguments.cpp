@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <charconv>
 
-#include "records/dates.h"
-#include "records/nearest.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 
 namespace grapplemont::tools {
 

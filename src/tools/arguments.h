@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "records/fields.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont::tools {
 

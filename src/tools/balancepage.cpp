@@ -1,6 +1,6 @@
 #include <ostream>
 
-#include "records/charset.h"
+#include "records/fields/charset.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "tools/balance.h"

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <ostream>
 
-#include "records/cells.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/tables/cells.h"
 #include "tools/commands.h"
 #include "tools/pages.h"
 

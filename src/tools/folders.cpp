@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "records/charset.h"
-#include "records/datastep.h"
-#include "records/draws.h"
-#include "records/slotfolder.h"
+#include "records/fields/charset.h"
+#include "records/fields/outside.h"
+#include "records/store/datastep.h"
+#include "records/store/slotfolder.h"
 
 namespace grapplemont::tools {
 

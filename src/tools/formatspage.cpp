@@ -1,6 +1,6 @@
 #include <ostream>
 
-#include "records/tablekinds.h"
+#include "records/tables/tablekinds.h"
 #include "records/world.h"
 #include "tools/commands.h"
 #include "tools/pages.h"

@@ -2,10 +2,9 @@
 #include <optional>
 #include <ostream>
 
-#include "records/charset.h"
-#include "records/counted.h"
-#include "records/dates.h"
-#include "records/nearest.h"
+#include "records/fields/charset.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "session/home.h"
 #include "session/newgame.h"
 #include "session/slots.h"

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
-#include "records/charset.h"
-#include "records/dates.h"
+#include "records/fields/charset.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont::tools {
 

@@ -5,7 +5,7 @@
 #include "business/monthlymoney.h"
 #include "business/sponsorlimits.h"
 #include "business/sponsors.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "rivals/purse.h"
 #include "rivals/renewals.h"
 #include "rivals/staffmarket.h"

@@ -1,9 +1,9 @@
 #include <ostream>
 
-#include "records/charset.h"
-#include "records/checkworld.h"
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/checks/checkworld.h"
+#include "records/fields/charset.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "session/newgame.h"
 #include "tools/career.h"
 #include "tools/commands.h"

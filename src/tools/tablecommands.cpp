@@ -1,7 +1,7 @@
 #include <ostream>
 
-#include "records/charset.h"
-#include "records/worldreport.h"
+#include "records/fields/charset.h"
+#include "records/tables/worldreport.h"
 #include "tools/commands.h"
 #include "tools/folders.h"
 

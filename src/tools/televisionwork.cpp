@@ -3,7 +3,7 @@
 #include "business/promotapes.h"
 #include "business/tvshows.h"
 #include "business/tvtalks.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont::tools {
 

@@ -5,9 +5,9 @@
 #include <new>
 #include <ostream>
 
-#include "records/charset.h"
-#include "records/disk.h"
-#include "records/nearest.h"
+#include "records/fields/charset.h"
+#include "records/fields/wording.h"
+#include "records/store/disk.h"
 #include "tools/commands.h"
 
 namespace grapplemont::tools {

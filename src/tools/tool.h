@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "records/clock.h"
+#include "records/fields/outside.h"
 
 namespace grapplemont::tools {
 

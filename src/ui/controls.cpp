@@ -16,7 +16,8 @@ std::string_view KindName(Kind kind) {
 
 Control::Control(Screen& screen, std::string name, Kind kind, std::string text)
     : Text(revision_, std::move(text)), screen_(screen), name_(std::move(name)), kind_(kind) {
-  screen_.controls_.push_back(this);
+  auto& controls = screen_.controls_;
+  controls.insert(screen_.last_ ? controls.end() - 1 : controls.end(), this);
 }
 
 Control::~Control() {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "records/checkworld.h"
-#include "records/slot.h"
-#include "records/slotfolder.h"
+#include "records/checks/checkworld.h"
+#include "records/store/slot.h"
+#include "records/store/slotfolder.h"
 #include "records/world.h"
 
 namespace grapplemont {

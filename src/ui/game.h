@@ -7,9 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "records/clock.h"
-#include "records/disk.h"
-#include "records/draws.h"
+#include "records/fields/outside.h"
+#include "records/store/disk.h"
 #include "ui/desk.h"
 
 namespace grapplemont {

@@ -19,6 +19,12 @@ Control* Screen::Find(std::string_view name) const {
   return found == controls_.end() ? nullptr : *found;
 }
 
+void Screen::PutBefore(Control& control, const Control& next) {
+  std::erase(controls_, &control);
+  controls_.insert(std::find(controls_.begin(), controls_.end(), &next), &control);
+  if (last_ == &control) last_ = nullptr;
+}
+
 void Screen::Close() {
   desk_.Close(*this);
 }

@@ -46,6 +46,9 @@ class Screen {
  protected:
   Desk& desk() { return desk_; }
   void Close();  // this screen
+  /// Controls made later stand before this one.
+  void KeepLast(Control& control) { last_ = &control; }
+  void PutBefore(Control& control, const Control& next);
 
  private:
   friend class Control;
@@ -54,6 +57,7 @@ class Screen {
   std::string name_;
   Role role_;
   bool loaded_ = false;
+  Control* last_ = nullptr;
   std::vector<Control*> controls_;
 };
 

@@ -8,7 +8,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "records/nearest.h"
+#include "records/fields/wording.h"
 #include "words/wordscheck.h"
 
 namespace grapplemont {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "records/holes.h"
+#include "records/fields/wording.h"
 #include "report/line.h"
 
 namespace grapplemont {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <map>
 
-#include "records/nearest.h"
+#include "records/fields/wording.h"
 #include "words/linecheck.h"
 
 namespace grapplemont {

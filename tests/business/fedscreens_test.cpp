@@ -4,7 +4,7 @@
 
 #include "business/past.h"
 #include "calendar/daysteps.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {

@@ -4,7 +4,7 @@
 
 #include "business/businesssteps.h"
 #include "business/screens/tvscreens.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "support/gameonworld.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"

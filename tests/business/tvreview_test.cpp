@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "business/businesssteps.h"
-#include "records/sweeps.h"
+#include "records/severing.h"
 #include "support/newsof.h"
 #include "support/smallworld.h"
 

@@ -4,8 +4,8 @@
 
 #include "calendar/ahead.h"
 #include "calendar/daysteps.h"
-#include "records/checkworld.h"
-#include "records/dates.h"
+#include "records/checks/checkworld.h"
+#include "records/fields/fields.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
 

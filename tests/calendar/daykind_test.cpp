@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "calendar/events.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {

@@ -7,7 +7,7 @@
 #include "calendar/advanceday.h"
 #include "calendar/daykind.h"
 #include "calendar/events.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "session/newgame.h"
 #include "support/defaultworld.h"

@@ -3,7 +3,7 @@
 #include <set>
 
 #include "calendar/daysteps.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "roster/names.h"

@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "console/options.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "support/checkout.h"
 
 namespace grapplemont::test {

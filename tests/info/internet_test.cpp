@@ -8,7 +8,7 @@
 #include "info/rankings.h"
 #include "info/rumours.h"
 #include "info/worldnews.h"
-#include "records/sweeps.h"
+#include "records/severing.h"
 #include "rivals/rivalsteps.h"
 #include "rivals/workermarket.h"
 #include "support/gameonworld.h"

@@ -3,8 +3,8 @@
 #include <cstring>
 #include <set>
 
-#include "records/dates.h"
-#include "records/table.h"
+#include "records/fields/fields.h"
+#include "records/store/table.h"
 #include "support/smallworld.h"
 
 // One record of every file, byte by byte as the formats have it, read and written through the

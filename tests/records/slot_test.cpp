@@ -1,4 +1,4 @@
-#include "records/slot.h"
+#include "records/store/slot.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -6,7 +6,7 @@
 
 #include <filesystem>
 
-#include "records/journalchain.h"
+#include "records/store/journalfile.h"
 #include "support/scratchfolder.h"
 #include "support/storeworld.h"
 

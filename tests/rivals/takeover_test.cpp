@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "records/modWresCheck.h"
-#include "records/sweeps.h"
+#include "records/severing.h"
 #include "rivals/faults.h"
 #include "support/gameonworld.h"
 

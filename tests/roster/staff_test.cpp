@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "roster/stafffiring.h"
 #include "roster/staffneeds.h"
 #include "roster/stafftalks.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "records/slot.h"
+#include "records/store/slot.h"
 #include "records/world.h"
 #include "session/slots.h"
 #include "support/homefolder.h"

@@ -2,8 +2,8 @@
 
 #include <set>
 
-#include "records/checkworld.h"
-#include "records/dates.h"
+#include "records/checks/checkworld.h"
+#include "records/fields/fields.h"
 #include "records/severing.h"
 #include "report/linememory.h"
 #include "report/report.h"

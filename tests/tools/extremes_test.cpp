@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "records/checkworld.h"
-#include "records/dates.h"
+#include "records/checks/checkworld.h"
+#include "records/fields/fields.h"
 #include "session/newgame.h"
 #include "support/defaultworld.h"
 #include "support/randomworld.h"

@@ -1,5 +1,5 @@
 #include "booking/screens/bookingscreens.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "storylines/screens/screentitles.h"
 
 namespace grapplemont {

@@ -1,5 +1,5 @@
 #include "booking/screens/bookingscreens.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "storylines/managers.h"

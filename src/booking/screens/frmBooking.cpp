@@ -1,7 +1,7 @@
 #include "booking/screens/bookingscreens.h"
 #include "booking/screens/screensheet.h"
 #include "booking/sheet.h"
-#include "records/vocabulary.h"
+#include "records/fields/vocabulary.h"
 #include "show/holdshow.h"
 #include "storylines/screens/screenpeople.h"
 

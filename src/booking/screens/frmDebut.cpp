@@ -1,6 +1,6 @@
 #include "booking/debuts.h"
 #include "booking/screens/bookingscreens.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "storylines/screens/screenpeople.h"
 

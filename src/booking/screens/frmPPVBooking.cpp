@@ -3,7 +3,7 @@
 #include "booking/screens/screensheet.h"
 #include "booking/sheet.h"
 #include "business/commentators.h"
-#include "records/vocabulary.h"
+#include "records/fields/vocabulary.h"
 
 namespace grapplemont {
 

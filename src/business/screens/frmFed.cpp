@@ -6,7 +6,7 @@
 #include "business/screens/screenfedsites.h"
 #include "business/screens/screenfedsplits.h"
 #include "business/standing.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/world.h"

@@ -1,7 +1,7 @@
 #include "business/networks.h"
 #include "business/screens/screentv.h"
 #include "business/screens/tvscreens.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 
 namespace grapplemont {
 

@@ -8,7 +8,7 @@
 #include "business/tvadvice.h"
 #include "business/tvhistory.h"
 #include "business/tvshows.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "storylines/screens/screenpeople.h"
 

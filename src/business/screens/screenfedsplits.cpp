@@ -1,7 +1,7 @@
 #include "business/screens/screenfedsplits.h"
 
 #include "business/splits.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/world.h"
 #include "roster/postings.h"
 #include "storylines/screens/screenpeople.h"

@@ -3,7 +3,7 @@
 #include "business/networks.h"
 #include "business/tvadvice.h"
 #include "business/tvshows.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 
 namespace grapplemont {

@@ -3,10 +3,11 @@
 #include "editor/importworkers.h"
 #include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
-#include "records/worldreport.h"
+#include "records/tables/worldreport.h"
 #include "storylines/screens/screenpeople.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -32,10 +33,10 @@ constexpr std::array<Offer, 5> kOffers = {
       }}}};
 
 /// The workers of another world: whom to take over, and what would become of them.
-class frmEditImport : public ui::Screen {
+class frmEditImport : public GameScreen {
  public:
-  explicit frmEditImport(Game& game)
-      : Screen(game.Desk(), "frmEditImport", "Import Workers"), game_(game) {
+  explicit frmEditImport(Game& game) : GameScreen(game, "frmEditImport", "Import Workers") {
+    BackBefore(cmdclean);
     lstworkers.Multi = true;
     lstrows.EmptyText = "Choose workers on the left to see what would become of them.";
     lstmended.EmptyText = "Nothing has to be put right in those who are chosen.";
@@ -162,10 +163,8 @@ class frmEditImport : public ui::Screen {
   }
 
   void cmdclean_Click() { desk().Open("frmEditMaintain"); }
-  void cmdback_Click() { Close(); }
 
   using K = ui::ColumnKind;
-  Game& game_;
   RecordFile<Worker> file_;
   Arrivals arrivals_;
   ui::Label lblfacts{*this, "lblfacts"};
@@ -189,7 +188,6 @@ class frmEditImport : public ui::Screen {
   ui::ListBox lstrows{
       *this, "lstrows", {{"Name", K::Text, 4}, {"", K::Tag, 2}, {"Why", K::Text, 5}}};
   ui::ListBox lstmended{*this, "lstmended", FaultColumns("What is wrong, and what is done")};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmEditImport::cmdback_Click};
   ui::Button cmdclean{*this, "cmdclean", "Clean Up First", &frmEditImport::cmdclean_Click};
   ui::Button cmdlook{*this, "cmdlook", "Look Again", &frmEditImport::cmdlook_Click};
   ui::Button cmdimport{*this, "cmdimport", "Import", &frmEditImport::cmdimport_Click};

@@ -1,8 +1,9 @@
 #include "editor/maintain.h"
 #include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
-#include "records/counted.h"
-#include "records/worldreport.h"
+#include "records/fields/wording.h"
+#include "records/tables/worldreport.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -16,29 +17,23 @@ std::vector<Fault> UnreadableFaults(const DataFolder& data) {
 }
 
 /// What is wrong with the data and what a clean-up would do, before it does it.
-class frmEditMaintain : public ui::Screen {
+class frmEditMaintain : public GameScreen {
  public:
-  explicit frmEditMaintain(Game& game)
-      : Screen(game.Desk(), "frmEditMaintain", "Check And Clean-Up"), game_(game) {
+  explicit frmEditMaintain(Game& game) : GameScreen(game, "frmEditMaintain", "Check And Clean-Up") {
+    BackBefore(cmdclean);
     lstfaults.EmptyText = "Nothing is wrong with the data.";
     lstdoings.EmptyText = "There is nothing that a clean-up would do.";
     lstleft.EmptyText = "Nothing would be left to do by hand.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdclean};
-    page.Main = &cmdclean;
-    page.Cancel = &cmdback;
-    page.Body = ui::Tabs({ui::Group("What is wrong", {ui::Grow(lstfaults)}),
-                          ui::Group("What the clean-up does", {ui::Grow(lstdoings)}),
-                          ui::Group("What it leaves", {ui::Grow(lstleft)})})
-                    .Grow();
-    return page;
+    return PageOf(ui::Tabs({ui::Group("What is wrong", {ui::Grow(lstfaults)}),
+                            ui::Group("What the clean-up does", {ui::Grow(lstdoings)}),
+                            ui::Group("What it leaves", {ui::Grow(lstleft)})})
+                      .Grow(),
+                  &lblfacts, {}, &cmdclean);
   }
 
-  void Load() override { Return(); }
   void Return() override { ShowPlan({}); }
 
  private:
@@ -74,15 +69,12 @@ class frmEditMaintain : public ui::Screen {
     const std::size_t done = Maintain(data.World(), UnreadableFaults(data)).Count;
     ShowPlan("Cleaned up in " + Counted(done, "step") + ". ");
   }
-  void cmdback_Click() { Close(); }
 
-  Game& game_;
   std::size_t doings_ = 0;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstfaults{*this, "lstfaults", FaultColumns("What is wrong")};
   ui::ListBox lstdoings{*this, "lstdoings", FaultColumns("What is wrong, and what is done")};
   ui::ListBox lstleft{*this, "lstleft", FaultColumns("What is wrong")};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmEditMaintain::cmdback_Click};
   ui::Button cmdclean{*this, "cmdclean", "Clean Up", &frmEditMaintain::cmdclean_Click};
 };
 

@@ -1,16 +1,17 @@
 #include "editor/merge.h"
 #include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
 namespace {
 
 /// New records in files beside the data: what would become of each, and taking them in.
-class frmEditMerge : public ui::Screen {
+class frmEditMerge : public GameScreen {
  public:
-  explicit frmEditMerge(Game& game)
-      : Screen(game.Desk(), "frmEditMerge", "Merge New Records"), game_(game) {
+  explicit frmEditMerge(Game& game) : GameScreen(game, "frmEditMerge", "Merge New Records") {
+    BackBefore(cmdclean);
     lstrows.EmptyText =
         "There are no new records. Put the files named at the left into the data folder.";
     lstmended.EmptyText = "Nothing has to be put right in the new records.";
@@ -126,10 +127,8 @@ class frmEditMerge : public ui::Screen {
   }
 
   void cmdclean_Click() { desk().Open("frmEditMaintain"); }
-  void cmdback_Click() { Close(); }
 
   using K = ui::ColumnKind;
-  Game& game_;
   NewRecords coming_;
   NewNames names_;
   Arrivals arrivals_;
@@ -148,7 +147,6 @@ class frmEditMerge : public ui::Screen {
                        {"Why", K::Text, 8}},
                       &frmEditMerge::lstrows_Click};
   ui::ListBox lstmended{*this, "lstmended", FaultColumns("What is wrong, and what is done")};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmEditMerge::cmdback_Click};
   ui::Button cmdclean{*this, "cmdclean", "Clean Up First", &frmEditMerge::cmdclean_Click};
   ui::Button cmdlook{*this, "cmdlook", "Look Again", &frmEditMerge::cmdlook_Click};
   ui::Button cmdrename{*this, "cmdrename", "Another Name", &frmEditMerge::cmdrename_Click};

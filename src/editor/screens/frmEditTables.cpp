@@ -1,16 +1,17 @@
 #include "editor/screens/screenediting.h"
 #include "editor/tablesfolder.h"
-#include "records/charset.h"
+#include "records/fields/charset.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
 namespace {
 
 /// The data as tables that people can edit: written to a folder, or made from one.
-class frmEditTables : public ui::Screen {
+class frmEditTables : public GameScreen {
  public:
-  explicit frmEditTables(Game& game)
-      : Screen(game.Desk(), "frmEditTables", "The Data As Tables"), game_(game) {
+  explicit frmEditTables(Game& game) : GameScreen(game, "frmEditTables", "The Data As Tables") {
+    BackBefore(cmdexport);
     txtfolder.Hint = "A folder of your own";
     txtfolder.OnChange = [this] { Forget(); };
   }
@@ -113,10 +114,7 @@ class frmEditTables : public ui::Screen {
     lblfacts.Text = "Built the data anew: " + ContentsOf(data()) + ".";
   }
 
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
-  Game& game_;
   TablesPreview preview_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::TextBox txtfolder{*this, "txtfolder", "world-tables"};
@@ -128,7 +126,6 @@ class frmEditTables : public ui::Screen {
                          {"Now", K::Number, 2, "Records in the data."},
                          {"Then", K::Number, 2, "Records in the tables."}}};
   ui::ListBox lstmistakes{*this, "lstmistakes", {{"What is wrong, and where"}}};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmEditTables::cmdback_Click};
   ui::Button cmdexport{*this, "cmdexport", "Export", &frmEditTables::cmdexport_Click};
   ui::Button cmdlook{*this, "cmdlook", "Look At Tables", &frmEditTables::cmdlook_Click};
   ui::Button cmdimport{*this, "cmdimport", "Import", &frmEditTables::cmdimport_Click};

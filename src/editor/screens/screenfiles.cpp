@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "records/counted.h"
-#include "records/worldreport.h"
+#include "records/fields/wording.h"
+#include "records/tables/worldreport.h"
 
 namespace grapplemont {
 

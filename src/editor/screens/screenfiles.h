@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "editor/arrivals.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "records/world.h"
 #include "ui/controls.h"
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "editor/recordkinds.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "ui/controls.h"
 
 // How each kind of record is laid out on its screen. What a field holds, its range and its help

@@ -1,28 +1,24 @@
 #include "info/results.h"
 #include "info/screens/chroniclescreens.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
 namespace {
 
 /// The awards of the years.
-class frmAwards : public ui::Screen {
+class frmAwards : public GameScreen {
  public:
-  explicit frmAwards(Game& game) : Screen(game.Desk(), "frmAwards", "Awards"), game_(game) {
+  explicit frmAwards(Game& game) : GameScreen(game, "frmAwards", "Awards") {
     lstawards.EmptyText = "Awards are given on 31 December.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Group(
-        "", {ui::Columns({ui::Field("Year", cmbyear), ui::Field("Award", cmbaward), ui::Spacer()}),
-             ui::Grow(lstawards)});
-    return page;
+    return PageOf(ui::Group("", {ui::Columns({ui::Field("Year", cmbyear),
+                                              ui::Field("Award", cmbaward), ui::Spacer()}),
+                                 ui::Grow(lstawards)}),
+                  &lblfacts);
   }
 
   /// The latest year, or whatever there will be.
@@ -39,8 +35,6 @@ class frmAwards : public ui::Screen {
   void Return() override { ShowAwards(); }
 
  private:
-  const World& world() { return game_.World(); }
-
   void ShowAwards() {
     std::vector<ui::ListBox::Row> rows;
     for (const YearAward* award : AwardsOf(world(), cmbyear.Key(), cmbaward.Key()))
@@ -51,10 +45,7 @@ class frmAwards : public ui::Screen {
     lstawards.Fill(std::move(rows));
   }
 
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbyear{*this, "cmbyear", &frmAwards::ShowAwards};
   ui::ComboBox cmbaward{*this, "cmbaward", &frmAwards::ShowAwards};
@@ -62,7 +53,6 @@ class frmAwards : public ui::Screen {
       *this,
       "lstawards",
       {{"Year", K::Number}, {"Award", K::Text, 3}, {"Winner", K::Text, 5}, {"For", K::Text, 8}}};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmAwards::cmdback_Click};
 };
 
 }  // namespace

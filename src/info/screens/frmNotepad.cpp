@@ -1,5 +1,5 @@
 #include "records/world.h"
-#include "ui/game.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -7,9 +7,9 @@ namespace {
 
 /// The player's own notes. What is typed is on disk with the same stroke, so that no way of closing
 /// the program loses it.
-class frmNotepad : public ui::Screen {
+class frmNotepad : public GameScreen {
  public:
-  explicit frmNotepad(Game& game) : Screen(game.Desk(), "frmNotepad", "Notepad"), game_(game) {
+  explicit frmNotepad(Game& game) : GameScreen(game, "frmNotepad", "Notepad", {.Back = "Done"}) {
     txtnotes.MultiLine = true;
     txtnotes.Hint = "Plans, rumours, who owes whom a favour.";
     txtnotes.OnChange = [this] { txtnotes_Change(); };
@@ -60,16 +60,14 @@ class frmNotepad : public ui::Screen {
     ShowState();
   }
 
-  void cmdback_Click() {
+  void cmdback_Click() override {
     Store();
     Close();
   }
 
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::TextBox txtnotes{*this, "txtnotes"};
   ui::Button cmdrevert{*this, "cmdrevert", "Back To What Is Saved", &frmNotepad::cmdrevert_Click};
-  ui::Button cmdback{*this, "cmdback", "Done", &frmNotepad::cmdback_Click};
 };
 
 }  // namespace

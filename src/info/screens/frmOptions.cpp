@@ -1,6 +1,6 @@
 #include "info/mailoptions.h"
 #include "records/world.h"
-#include "ui/game.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -15,9 +15,10 @@ const MailOption& OptionOf(int number) {
 }
 
 /// Every choice counts from the moment it is made; there is nothing to save and nothing to lose.
-class frmOptions : public ui::Screen {
+class frmOptions : public GameScreen {
  public:
-  explicit frmOptions(Game& game) : Screen(game.Desk(), "frmOptions", "Options"), game_(game) {
+  explicit frmOptions(Game& game)
+      : GameScreen(game, "frmOptions", "Options", {.Back = "Done", .BackName = "cmddone"}) {
     for (int number = 1; number <= kOptions; ++number)
       for (const Term& choice : kMailOptions)
         if (!OptionOf(number).TwoWay || choice.Code != kMailRivals)
@@ -29,24 +30,21 @@ class frmOptions : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmddone};
-    page.Main = &cmddone;
-    page.Cancel = &cmddone;
     std::vector<ui::Box> world, own;
     for (int number = 1; number <= kOptions; ++number)
       (OptionOf(number).TwoWay ? own : world)
           .push_back(ui::Field(OptionOf(number).Covers, combos(number)));
-    page.Body = ui::Columns(
-        {ui::Rows({ui::Group("Mail about the world", std::move(world)), ui::Spacer()}).Grow(3),
-         ui::Rows({ui::Group("Set all mail at once", {cmdalways, cmddirect, cmdnever}),
-                   ui::Group("Mail about your own people", std::move(own)),
-                   ui::Group("Shows", {ui::Field("Match reporter", cmbreport)}),
-                   ui::Group("While time passes", {ui::Field("Loading screens", cmbload), cmdview}),
-                   ui::Spacer()})
-             .Grow(2)});
-    return page;
+    return PageOf(
+        ui::Columns(
+            {ui::Rows({ui::Group("Mail about the world", std::move(world)), ui::Spacer()}).Grow(3),
+             ui::Rows(
+                 {ui::Group("Set all mail at once", {cmdalways, cmddirect, cmdnever}),
+                  ui::Group("Mail about your own people", std::move(own)),
+                  ui::Group("Shows", {ui::Field("Match reporter", cmbreport)}),
+                  ui::Group("While time passes", {ui::Field("Loading screens", cmbload), cmdview}),
+                  ui::Spacer()})
+                 .Grow(2)}),
+        &lblfacts);
   }
 
   void Load() override { Show(); }
@@ -77,9 +75,7 @@ class frmOptions : public ui::Screen {
   void cmdalways_Click() { SetAll(kMailAlways); }
   void cmddirect_Click() { SetAll(kMailRivals); }
   void cmdnever_Click() { SetAll(kMailNever); }
-  void cmddone_Click() { Close(); }
 
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts",
                      "A direct rival or above is a promotion of your own size or bigger. News of "
                      "your own promotion always comes."};
@@ -95,7 +91,6 @@ class frmOptions : public ui::Screen {
                        &frmOptions::cmddirect_Click};
   ui::Button cmdnever{*this, "cmdnever", "Never", &frmOptions::cmdnever_Click};
   ui::Button cmdview{*this, "cmdview", "View", &frmOptions::cmdview_Click};
-  ui::Button cmddone{*this, "cmddone", "Done", &frmOptions::cmddone_Click};
 };
 
 }  // namespace

@@ -1,32 +1,25 @@
 #include "info/screens/chroniclescreens.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "report/report.h"
 #include "show/reportcolumn.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
 namespace {
 
 /// The last shows, to be read again in the words in which they were told.
-class frmReports : public ui::Screen {
+class frmReports : public GameScreen {
  public:
   explicit frmReports(Game& game, Day on = kDayZero, int promotionUid = 0)
-      : Screen(game.Desk(), "frmReports", "Report Column"),
-        game_(game),
-        on_(on),
-        promotion_(promotionUid) {
+      : GameScreen(game, "frmReports", "Report Column"), on_(on), promotion_(promotionUid) {
     lstreports.EmptyText = "Whatever is told of your shows can be read here again.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("The last shows", {ui::Grow(lstreports)}).Grow(2),
-                             ui::Group("", {ui::Grow(txtreport)}).Grow(3)});
-    return page;
+    return PageOf(ui::Columns({ui::Group("The last shows", {ui::Grow(lstreports)}).Grow(2),
+                               ui::Group("", {ui::Grow(txtreport)}).Grow(3)}),
+                  &lblfacts);
   }
 
   void Load() override {
@@ -41,8 +34,6 @@ class frmReports : public ui::Screen {
   }
 
  private:
-  const World& world() { return game_.World(); }
-
   void ShowList() {
     shows_ = ShowsInTheColumn(world());
     std::vector<ui::ListBox::Row> rows;
@@ -104,10 +95,7 @@ class frmReports : public ui::Screen {
     }
   }
 
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
-  Game& game_;
   Day on_;
   int promotion_;
   std::vector<KeptShow> shows_;
@@ -117,7 +105,6 @@ class frmReports : public ui::Screen {
                          {{"Date", K::Date}, {"Show", K::Text, 3}, {"Told by", K::Text, 2}},
                          &frmReports::ShowReport};
   ui::Report txtreport{*this, "txtreport"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmReports::cmdback_Click};
 };
 
 }  // namespace

@@ -2,10 +2,11 @@
 
 #include "info/results.h"
 #include "info/screens/chroniclescreens.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "show/reportcolumn.h"
 #include "storylines/screens/screenpeople.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
@@ -15,26 +16,21 @@ namespace {
 constexpr std::size_t kCharted = 26;
 
 /// Every show that was held or called off, and who won on it.
-class frmResults : public ui::Screen {
+class frmResults : public GameScreen {
  public:
-  explicit frmResults(Game& game) : Screen(game.Desk(), "frmResults", "Results"), game_(game) {
+  explicit frmResults(Game& game) : GameScreen(game, "frmResults", "Results") {
     lstshows.EmptyText = "Your shows stand here once they have been held.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdreports, &cmdtitles, &cmdawards, &cmdback, &cmdreport};
-    page.Main = &cmdreport;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows({ui::Group("", {ui::Columns({ui::Field("Show", cmbshow),
-                                                      ui::Field("Year", cmbyear), ui::Spacer()}),
-                                         ui::Grow(lstshows)})
-                              .Grow(5),
-                          ui::Columns({ui::Group("Who won", {ui::Grow(lstcard)}).Grow(3),
-                                       ui::Group("Ratings", {ui::Grow(chtratings)}).Grow(2)})
-                              .Grow(4)});
-    return page;
+    return PageOf(ui::Rows({ui::Group("", {ui::Columns({ui::Field("Show", cmbshow),
+                                                        ui::Field("Year", cmbyear), ui::Spacer()}),
+                                           ui::Grow(lstshows)})
+                                .Grow(5),
+                            ui::Columns({ui::Group("Who won", {ui::Grow(lstcard)}).Grow(3),
+                                         ui::Group("Ratings", {ui::Grow(chtratings)}).Grow(2)})
+                                .Grow(4)}),
+                  &lblfacts, {&cmdreports, &cmdtitles, &cmdawards}, &cmdreport);
   }
 
   void Load() override {
@@ -44,8 +40,6 @@ class frmResults : public ui::Screen {
   void Return() override { ShowShows(); }
 
  private:
-  const World& world() { return game_.World(); }
-
   void FillFilters() {
     cmbshow.Add("All shows");
     for (const std::string& name : NamesOfPastShows(world())) cmbshow.Add(name);
@@ -150,10 +144,8 @@ class frmResults : public ui::Screen {
   void lstshows_Open() {
     if (cmdreport.Enabled) cmdreport_Click();
   }
-  void cmdback_Click() { Close(); }
 
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbshow{*this, "cmbshow", &frmResults::ShowShows};
   ui::ComboBox cmbyear{*this, "cmbyear", &frmResults::ShowShows};
@@ -183,7 +175,6 @@ class frmResults : public ui::Screen {
                         [this] { desk().Open("frmReports"); }};
   ui::Button cmdtitles{*this, "cmdtitles", "Reigns", [this] { desk().Open("frmReigns"); }};
   ui::Button cmdawards{*this, "cmdawards", "Awards", [this] { desk().Open("frmAwards"); }};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmResults::cmdback_Click};
 };
 
 }  // namespace

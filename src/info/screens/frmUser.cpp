@@ -1,31 +1,25 @@
 #include "info/career.h"
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "ui/game.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
 namespace {
 
 /// The player's career.
-class frmUser : public ui::Screen {
+class frmUser : public GameScreen {
  public:
-  explicit frmUser(Game& game) : Screen(game.Desk(), "frmUser", "Career"), game_(game) {}
+  explicit frmUser(Game& game) : GameScreen(game, "frmUser", "Career") {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow(5),
-                             ui::Group("", {ui::Grow(txtuser)}).Grow(2)});
-    return page;
+    return PageOf(ui::Columns({ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow(5),
+                               ui::Group("", {ui::Grow(txtuser)}).Grow(2)}),
+                  &lblfacts);
   }
 
-  void Load() override { Return(); }
   void Return() override {
     const GameInfo& info = world().Game();
     lblfacts.Text = info.PlayerName + ", " + std::string(Says(kDifficulties, info.Difficulty)) +
@@ -35,8 +29,6 @@ class frmUser : public ui::Screen {
   }
 
  private:
-  const World& world() { return game_.World(); }
-
   static ui::Cell DateCell(Day day) {
     return {static_cast<double>((day - kDayZero).count()), PlainDate(day)};
   }
@@ -82,10 +74,7 @@ class frmUser : public ui::Screen {
     txtuser.Write(std::move(words));
   }
 
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstjobs{*this,
                       "lstjobs",
@@ -97,7 +86,6 @@ class frmUser : public ui::Screen {
                        {"Image then", K::Number, 1},
                        {"Image after", K::Number, 1, "Today's for the present job."}}};
   ui::Report txtuser{*this, "txtuser"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmUser::cmdback_Click};
 };
 
 }  // namespace

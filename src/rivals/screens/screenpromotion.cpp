@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "business/standing.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/promotionfacts.h"

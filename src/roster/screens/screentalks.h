@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "records/worker.h"
+#include "records/fields/people.h"
 #include "ui/game.h"
 
 // The way from any worker's page to the talks with him.

@@ -1,12 +1,14 @@
 #include "session/screens/sessionscreens.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
 namespace {
 
-class frmCredits : public ui::Screen {
+class frmCredits : public GameScreen {
  public:
-  explicit frmCredits(Game& game) : Screen(game.Desk(), "frmCredits", "Credits", ui::Role::Cover) {
+  explicit frmCredits(Game& game)
+      : GameScreen(game, "frmCredits", "Credits", {.Is = ui::Role::Cover}) {
     using Style = ui::Report::Style;
     rptcredits.Write(
         {{Style::Heading, "Grapplemont"},
@@ -27,29 +29,20 @@ class frmCredits : public ui::Screen {
           "else looked good."}});
   }
 
-  ui::Page Layout() override {
-    ui::Page page;
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Actions = {&cmdothers, &cmdback};
-    page.Body = ui::Group("", {ui::Grow(rptcredits)});
-    return page;
-  }
+  ui::Page Layout() override { return PageOf(ui::Group("", {ui::Grow(rptcredits)}), nullptr, {&cmdothers}); }
 
  private:
   void cmdothers_Click() { desk().Open("frmCreditsXtra"); }
-  void cmdback_Click() { Close(); }
 
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Report rptcredits{*this, "rptcredits"};
   ui::Button cmdothers{*this, "cmdothers", "Others", &frmCredits::cmdothers_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmCredits::cmdback_Click};
 };
 
-class frmCreditsXtra : public ui::Screen {
+class frmCreditsXtra : public GameScreen {
  public:
   explicit frmCreditsXtra(Game& game)
-      : Screen(game.Desk(), "frmCreditsXtra", "Other Credits", ui::Role::Cover) {
+      : GameScreen(game, "frmCreditsXtra", "Other Credits", {.Is = ui::Role::Cover}) {
     using Style = ui::Report::Style;
     rptcredits.Write({{Style::Strong, "Built with"},
                       {Style::Body,
@@ -64,21 +57,11 @@ class frmCreditsXtra : public ui::Screen {
                        "3 or later. It comes without any warranty, as does wrestling."}});
   }
 
-  ui::Page Layout() override {
-    ui::Page page;
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Actions = {&cmdback};
-    page.Body = ui::Group("", {ui::Grow(rptcredits)});
-    return page;
-  }
+  ui::Page Layout() override { return PageOf(ui::Group("", {ui::Grow(rptcredits)})); }
 
  private:
-  void cmdback_Click() { Close(); }
-
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Report rptcredits{*this, "rptcredits"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmCreditsXtra::cmdback_Click};
 };
 
 }  // namespace

@@ -1,15 +1,16 @@
 #include "session/screens/screensenter.h"
 #include "session/screens/sessionscreens.h"
 #include "session/slots.h"
+#include "ui/gamescreen.h"
 
 namespace grapplemont {
 
 namespace {
 
-class frmLoadGame : public ui::Screen {
+class frmLoadGame : public GameScreen {
  public:
   explicit frmLoadGame(Game& game)
-      : Screen(game.Desk(), "frmLoadGame", "Load Game", ui::Role::Cover), game_(game) {}
+      : GameScreen(game, "frmLoadGame", "Load Game", {.Is = ui::Role::Cover}) {}
 
   ui::Page Layout() override {
     ui::Page page;
@@ -37,9 +38,7 @@ class frmLoadGame : public ui::Screen {
 
  private:
   void cmdload_Click(int slot) { EnterSlot(game_, slot); }
-  void cmdback_Click() { Close(); }
 
-  Game& game_;
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Array<ui::Button> cmdload{"cmdload", kSlots, [this](const std::string&, int slot) {
                                   return std::make_unique<ui::Button>(
@@ -50,7 +49,6 @@ class frmLoadGame : public ui::Screen {
                                     return std::make_unique<ui::Label>(
                                         *this, "lbldetails" + std::to_string(slot));
                                   }};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmLoadGame::cmdback_Click};
 };
 
 }  // namespace

@@ -1,22 +1,22 @@
 #include <algorithm>
 
-#include "records/slotfolder.h"
+#include "records/store/slotfolder.h"
 #include "session/newgame.h"
 #include "session/screens/screensenter.h"
 #include "session/screens/sessionscreens.h"
 #include "session/slots.h"
 #include "storylines/storynames.h"
+#include "ui/gamescreen.h"
 #include "ui/waiting.h"
 
 namespace grapplemont {
 
 namespace {
 
-class frmPickSaveSlot : public ui::Screen {
+class frmPickSaveSlot : public GameScreen {
  public:
   frmPickSaveSlot(Game& game, NewGameChoice choice)
-      : Screen(game.Desk(), "frmPickSaveSlot", "Pick A Save Slot", ui::Role::Cover),
-        game_(game),
+      : GameScreen(game, "frmPickSaveSlot", "Pick A Save Slot", {.Is = ui::Role::Cover}),
         choice_(std::move(choice)) {}
 
   ui::Page Layout() override {
@@ -77,9 +77,7 @@ class frmPickSaveSlot : public ui::Screen {
     if (mended.Count > shown) text += "\nand " + std::to_string(mended.Count - shown) + " more.";
     desk().Say("Database creation", text);
   }
-  void cmdback_Click() { Close(); }
 
-  Game& game_;
   NewGameChoice choice_;
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Array<ui::Button> cmdload{"cmdload", kSlots, [this](const std::string&, int slot) {
@@ -91,7 +89,6 @@ class frmPickSaveSlot : public ui::Screen {
                                     return std::make_unique<ui::Label>(
                                         *this, "lbldetails" + std::to_string(slot));
                                   }};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmPickSaveSlot::cmdback_Click};
 };
 
 }  // namespace

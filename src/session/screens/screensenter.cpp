@@ -1,7 +1,7 @@
 #include "session/screens/screensenter.h"
 
-#include "records/headroom.h"
-#include "records/slot.h"
+#include "records/modVar.h"
+#include "records/store/slot.h"
 
 namespace grapplemont {
 

@@ -1,5 +1,5 @@
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/screens/storyscreens.h"

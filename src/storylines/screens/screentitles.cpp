@@ -1,6 +1,6 @@
 #include "storylines/screens/screentitles.h"
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
