@@ -10,8 +10,8 @@
 #include "records/fields/fields.h"
 #include "report/linememory.h"
 #include "support/smallworld.h"
-#include "tools/career.h"
-#include "ui/waiting.h"
+#include "tools/officework.h"
+#include "ui/game.h"
 
 // The day and the new game, each beside a baseline: the same walks done by opening the file,
 // reading and writing back every record, once for each walk that the steps make.

@@ -7,5 +7,4 @@
 #include <ui/controls.h>
 #include <ui/desk.h>
 #include <ui/game.h>
-#include <ui/gamescreen.h>
 #include <ui/screen.h>

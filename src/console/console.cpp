@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "console/lines.h"
+#include "console/command.h"
 #include "records/fields/charset.h"
 #include "ui/acts.h"
 

@@ -1,8 +1,27 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
-#include "console/sections.h"
+#include "ui/screen.h"
+
+namespace grapplemont::console {
+
+/// What stands under one heading; the heading may be empty.
+struct Section {
+  struct Part {
+    const ui::Control* Shown;
+    std::string Label;  // of a Field
+  };
+  std::string Heading;
+  std::vector<Part> Parts;
+};
+
+/// Every visible control of the screen once: what is always said, the body by its groups, the side
+/// bar, the actions, and whatever the layout leaves out.
+std::vector<Section> Sections(ui::Screen& screen);
+
+}  // namespace grapplemont::console
 
 namespace grapplemont::console {
 

@@ -7,9 +7,7 @@
 #include <limits>
 
 #include "desktop/housestyle.h"
-#include "desktop/letters.h"
 #include "desktop/look.h"
-#include "desktop/palette.h"
 
 namespace grapplemont::desktop {
 

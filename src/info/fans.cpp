@@ -5,7 +5,6 @@
 
 #include "business/past.h"
 #include "calendar/events.h"
-#include "info/fill.h"
 #include "info/infowords.h"
 #include "info/results.h"
 #include "info/worldnews.h"

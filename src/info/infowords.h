@@ -1,7 +1,10 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "records/fields/chronicle.h"
 #include "records/fields/wording.h"
@@ -146,5 +149,15 @@ inline constexpr FanRow kFanRows[] = {
 inline std::span<const std::string_view> FanLines(FanMood mood) {
   return LinesUnder(words::Fans(), static_cast<int>(mood));
 }
+
+/// Names in a line, without their braces, and the words that go there.
+using LineWords = std::vector<std::pair<std::string_view, std::string>>;
+
+/// The line with the words in place of {their names}; a name without words stays. The first letter
+/// of all is a capital.
+std::string FillLine(std::string_view line, const LineWords& words);
+
+/// "the CWA Crown"; a name that brings its article along keeps one.
+std::string WithArticle(std::string_view name);
 
 }  // namespace grapplemont

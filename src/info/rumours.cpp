@@ -5,7 +5,7 @@
 #include "business/months.h"
 #include "business/networks.h"
 #include "business/tvtalks.h"
-#include "info/fill.h"
+#include "info/infowords.h"
 #include "info/meetingfacts.h"
 #include "info/worldnews.h"
 #include "records/fields/fields.h"

@@ -7,11 +7,10 @@
 #include "records/fields/wording.h"
 #include "session/home.h"
 #include "session/newgame.h"
-#include "session/slots.h"
-#include "tools/career.h"
 #include "tools/commands.h"
-#include "tools/folders.h"
-#include "tools/monthstats.h"
+#include "tools/officework.h"
+#include "tools/soak.h"
+#include "tools/tool.h"
 
 namespace grapplemont::tools {
 

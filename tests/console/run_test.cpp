@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <sstream>
 
-#include "console/options.h"
 #include "records/fields/fields.h"
 #include "support/checkout.h"
 

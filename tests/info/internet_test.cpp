@@ -5,7 +5,6 @@
 #include "info/calmworld.h"
 #include "info/fans.h"
 #include "info/infowords.h"
-#include "info/rankings.h"
 #include "info/rumours.h"
 #include "info/worldnews.h"
 #include "records/severing.h"

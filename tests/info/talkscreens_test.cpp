@@ -2,7 +2,7 @@
 
 #include "info/calmworld.h"
 #include "info/meetingpoints.h"
-#include "info/rankings.h"
+#include "info/worldnews.h"
 #include "support/gameonworld.h"
 #include "ui/acts.h"
 

@@ -5,7 +5,7 @@
 #include "calendar/incidents.h"
 #include "rivals/challenge.h"
 #include "rivals/faults.h"
-#include "session/slots.h"
+#include "session/home.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
 

@@ -2,7 +2,7 @@
 
 #include "records/store/slot.h"
 #include "records/world.h"
-#include "session/slots.h"
+#include "session/home.h"
 #include "support/homefolder.h"
 #include "support/smallworld.h"
 

@@ -1,4 +1,4 @@
-#include "tools/career.h"
+#include "tools/officework.h"
 
 #include <gtest/gtest.h>
 

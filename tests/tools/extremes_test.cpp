@@ -8,7 +8,7 @@
 #include "support/defaultworld.h"
 #include "support/randomworld.h"
 #include "support/smallworld.h"
-#include "tools/career.h"
+#include "tools/officework.h"
 
 // Numbers at the ends of their ranges: what the check lets pass stops no day.
 

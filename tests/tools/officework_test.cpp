@@ -5,7 +5,6 @@
 #include "records/checks/checkworld.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
-#include "tools/career.h"
 
 // What a player whom nobody watches does beside his shows.
 

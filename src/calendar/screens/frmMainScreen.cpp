@@ -13,7 +13,7 @@
 #include "show/holdshow.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/acts.h"
-#include "ui/waiting.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -2,14 +2,12 @@
 #include <memory>
 #include <vector>
 
-#include "editor/screens/editorscreens.h"
-#include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
 #include "editor/screens/screenpages.h"
 #include "editor/screens/screenrecords.h"
 #include "records/fields/wording.h"
 #include "records/tables/worldreport.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -1,11 +1,10 @@
 #include "info/fans.h"
-#include "info/rankings.h"
 #include "info/rumours.h"
 #include "info/worldnews.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

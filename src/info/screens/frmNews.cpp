@@ -1,5 +1,5 @@
 #include <algorithm>
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 #include "info/mailbox.h"
 #include "records/fields/wording.h"

@@ -5,7 +5,7 @@
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "storylines/screens/screenpeople.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

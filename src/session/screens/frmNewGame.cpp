@@ -4,10 +4,10 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "session/newgame.h"
-#include "session/screens/sessionscreens.h"
+#include "session/screens/frmLoadGame.h"
 #include "storylines/storynames.h"
 #include "storylines/titles.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -1,7 +1,7 @@
 #include "records/world.h"
-#include "session/pictures.h"
-#include "session/screens/sessionscreens.h"
-#include "ui/gamescreen.h"
+#include "session/home.h"
+#include "session/screens/frmLoadGame.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -1,4 +1,4 @@
-#include "info/fill.h"
+#include "info/infowords.h"
 
 #include <algorithm>
 #include <cctype>
