@@ -86,10 +86,6 @@ std::string TextAnswer(const Answer& answer, int width) {
   return ToUtf8(ScreenText(*answer.Top, width));
 }
 
-}  // namespace grapplemont::console
-
-namespace grapplemont::console {
-
 namespace {
 
 using Json = nlohmann::ordered_json;

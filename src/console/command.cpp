@@ -52,10 +52,6 @@ std::optional<std::string> Letters(const Line& line, std::string& why) {
   return std::nullopt;
 }
 
-}  // namespace grapplemont::console
-
-namespace grapplemont::console {
-
 namespace {
 
 using A = Arguments;

@@ -24,10 +24,6 @@ std::optional<Line> ReadLine(std::istream& in);
 /// sentence of UTF-8.
 std::optional<std::string> Letters(const Line& line, std::string& why);
 
-}  // namespace grapplemont::console
-
-namespace grapplemont::console {
-
 enum class Verb {
   Show,
   Click,

@@ -62,10 +62,6 @@ std::vector<Section> Sections(ui::Screen& screen) {
   return std::move(all).Done();
 }
 
-}  // namespace grapplemont::console
-
-namespace grapplemont::console {
-
 namespace {
 
 // What is shown of a long control before "show NAME" is needed.

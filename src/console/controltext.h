@@ -21,10 +21,6 @@ struct Section {
 /// bar, the actions, and whatever the layout leaves out.
 std::vector<Section> Sections(ui::Screen& screen);
 
-}  // namespace grapplemont::console
-
-namespace grapplemont::console {
-
 /// The lines of one control: name, kind, what it says, and below them its rows or its prose; the
 /// first few of them unless `whole`, which also tells its tip. In the program's own letters.
 std::string ControlText(const Section::Part& part, bool whole, int width);

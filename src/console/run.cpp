@@ -58,10 +58,6 @@ std::optional<Options> ReadOptions(std::span<const std::string> arguments, std::
   return options;
 }
 
-}  // namespace grapplemont::console
-
-namespace grapplemont::console {
-
 namespace {
 
 constexpr const char* kProgram = "grapplemont-console: ";

@@ -34,10 +34,6 @@ struct Options {
 /// in a sentence.
 std::optional<Options> ReadOptions(std::span<const std::string> arguments, std::string& why);
 
-}  // namespace grapplemont::console
-
-namespace grapplemont::console {
-
 struct Streams {
   std::istream& In;
   std::ostream& Out;

@@ -129,10 +129,6 @@ void MessageBox::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 void WindowDesk::Say(const std::string& title, const std::string& text) {
   if (window_) window_->Say(title, text);
 }

@@ -44,10 +44,6 @@ class MessageBox : public Veil {
   QEventLoop loop_;
 };
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 class Window;
 
 /// The desk whose screens lie in a window. Without one, questions are answered with the careful

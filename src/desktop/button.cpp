@@ -165,10 +165,6 @@ void PushButton::leaveEvent(QEvent*) {
   update();
 }
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 ButtonView::ButtonView(ui::Button& button, Stage& stage, QWidget* parent)
     : PushButton(parent), ControlView(button, stage), button_(button) {
   connect(this, &QAbstractButton::clicked, this, [this] { Pressed ? Pressed() : Do(ui::Click); });

@@ -47,10 +47,6 @@ void DrawBadge(QPainter& painter, const QRectF& where, const QString& text, cons
 /// How wide DrawBadge's spot has to be.
 int BadgeWidthFor(const QString& text);
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 class ButtonView : public PushButton, public ControlView {
  public:
   ButtonView(ui::Button& button, Stage& stage, QWidget* parent);

@@ -72,10 +72,6 @@ int FlowLayout::Arrange(const QRect& room, bool place) const {
   return std::max(0, y - room.top() - gap_);
 }
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 namespace {
 
 constexpr int kMargin = 40;  // that a card keeps from the window's edge

@@ -31,10 +31,6 @@ class FlowLayout : public QLayout {
   Qt::Alignment align_;
 };
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 /// A sheet with round corners and a hairline.
 class Card : public QWidget {
  public:

@@ -95,10 +95,6 @@ void OptionView::Show() {
   setChecked(option_.Checked);
 }
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 namespace {
 
 class CalmSlider : public QSlider {

@@ -47,10 +47,6 @@ class OptionView : public QRadioButton, public ControlView {
   ui::OptionButton& option_;
 };
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 /// A slider with its value beside it, which can be typed too.
 class SliderView : public QWidget, public ControlView {
  public:

@@ -193,10 +193,6 @@ QColor PercentColour(const Colours& colours, double percent) {
   return percent >= 30 ? colours.AmberFill : colours.RedFill;
 }
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 namespace {
 
 struct Desktop {
@@ -307,10 +303,6 @@ void DrawFigures(QPainter& painter, const QRectF& where, Qt::Alignment align, co
     x += width;
   }
 }
-
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
 
 QString Shown(std::string_view text) {
   return QString::fromStdString(ToUtf8(text));

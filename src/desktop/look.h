@@ -46,12 +46,8 @@ QColor FillColour(const Colours& colours, ui::Tone tone);  // of a chart's bars 
 /// Green from 75, yellow from 50, orange from 30, red below.
 QColor PercentColour(const Colours& colours, double percent);
 
-}  // namespace grapplemont::desktop
-
 // Sizes and letters of the window. The look is drawn for text 13 pixels high; everything grows with
 // the player's text.
-
-namespace grapplemont::desktop {
 
 enum class Scheme { System, Dark, Light };
 
@@ -79,11 +75,7 @@ QFont ProseFont(double drawn = 15);
 void DrawFigures(QPainter& painter, const QRectF& where, Qt::Alignment align, const QString& text);
 int FiguresWidth(const QFontMetricsF& metrics, const QString& text);
 
-}  // namespace grapplemont::desktop
-
 // The program's texts are Windows-1252; Qt's are Unicode.
-
-namespace grapplemont::desktop {
 
 QString Shown(std::string_view text);
 

@@ -231,11 +231,7 @@ void SideBar::paintEvent(QPaintEvent*) {
   painter.fillRect(width() - 1, 0, 1, height(), c.Line);
 }
 
-}  // namespace grapplemont::desktop
-
 // The hub's commands: from the side bar, the top bar, by key and by search.
-
-namespace grapplemont::desktop {
 
 namespace {
 

@@ -158,10 +158,6 @@ bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
   return true;
 }
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 int TableModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(table_.Rows().size());
 }
@@ -188,11 +184,7 @@ void TableModel::Reset() {
   endResetModel();
 }
 
-}  // namespace grapplemont::desktop
-
 // The names in a table's cells: a click with Ctrl, or the menu, opens their pages.
-
-namespace grapplemont::desktop {
 
 void TableView::ConnectLinks() {
   grid_->LinkOf = [this](const QModelIndex& cell) {

@@ -102,10 +102,6 @@ void TableHeading::mouseReleaseEvent(QMouseEvent* event) {
     Clicked(column, event->modifiers().testFlag(Qt::ShiftModifier));
 }
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 TableGrid::TableGrid(TableModel& model, QWidget* parent)
     : QTableView(parent),
       model_(model),

@@ -27,10 +27,6 @@ class TableHeading : public QHeaderView {
   QPoint pressed_;
 };
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 /// The grid of a table. The cursor is Qt's; what is selected stands in the list, and changes only
 /// by what the player does here.
 class TableGrid : public QTableView {

@@ -97,10 +97,6 @@ void NotesView::keyPressEvent(QKeyEvent* event) {
   QPlainTextEdit::keyPressEvent(event);
 }
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 namespace {
 
 constexpr int kWidest = 520;    // a line that may still stand alone

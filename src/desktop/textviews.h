@@ -40,10 +40,6 @@ class NotesView : public QPlainTextEdit, public ControlView {
   bool showing_ = false;
 };
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 /// Plain text that breaks where its room ends, and is as wide as its words where it may be.
 class WrappedLabel : public QLabel {
  public:

@@ -29,10 +29,6 @@ void HubFrame::Refresh() {
   top_->Refresh();
 }
 
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 namespace {
 
 /// A label of the bar. Its weight tells what matters: "Image **62%**", "**The promotion** · Cult".

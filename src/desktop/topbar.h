@@ -11,25 +11,6 @@
 
 namespace grapplemont::desktop {
 
-/// Side bar and top bar of a hub, and beside them the room for its home page and the pages above.
-class HubFrame : public QWidget {
- public:
-  HubFrame(const ui::Page& page, Stage& stage, QWidget* parent);
-  SideBar& Side() { return *side_; }
-  TopBar& Top() { return *top_; }
-  QStackedWidget& Room() { return *room_; }
-  void Refresh();
-
- private:
-  SideBar* side_;
-  TopBar* top_;
-  QStackedWidget* room_;
-};
-
-}  // namespace grapplemont::desktop
-
-namespace grapplemont::desktop {
-
 /// What always stands above a game: the date, who one is, image, money, and what moves time.
 class TopBar : public QWidget {
  public:
@@ -45,6 +26,21 @@ class TopBar : public QWidget {
  private:
   std::vector<ControlView*> views_;
   ButtonView* main_ = nullptr;
+};
+
+/// Side bar and top bar of a hub, and beside them the room for its home page and the pages above.
+class HubFrame : public QWidget {
+ public:
+  HubFrame(const ui::Page& page, Stage& stage, QWidget* parent);
+  SideBar& Side() { return *side_; }
+  TopBar& Top() { return *top_; }
+  QStackedWidget& Room() { return *room_; }
+  void Refresh();
+
+ private:
+  SideBar* side_;
+  TopBar* top_;
+  QStackedWidget* room_;
 };
 
 }  // namespace grapplemont::desktop

@@ -154,10 +154,6 @@ std::vector<PromotionBalance> BalanceOf(const World& world) {
   return balances;
 }
 
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
-
 namespace {
 
 constexpr std::string_view kIntroduction = R"(# Balance of the default world

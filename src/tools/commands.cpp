@@ -93,10 +93,6 @@ const Command kCheck{
     {},
     Check};
 
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
-
 namespace {
 
 constexpr std::uint64_t kHighestSeed = ~std::uint64_t{0};

@@ -80,10 +80,6 @@ void WorkInTheOffice(World& world) {
   FitPosts(world, world.Player(), Posts(world));
 }
 
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
-
 namespace {
 
 /// "CWA Friday", or "CWA Friday 2" where that is taken.
@@ -125,10 +121,6 @@ void WorkOnTelevision(World& world) {
   if (IsMonday(world.Today())) ExtendDeals(world);
   if (DayOfMonth(world.Today()) == 2) SendATape(world);
 }
-
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
 
 namespace {
 

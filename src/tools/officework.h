@@ -14,17 +14,9 @@ namespace grapplemont::tools {
 /// rival's, and spends by the promotion's standing, less when in debt.
 void WorkInTheOffice(World& world);
 
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
-
 /// What a sensible player does for his place on television, once a day: takes what networks offer,
 /// asks for more weeks in time, and sends a tape a month until he has a show.
 void WorkOnTelevision(World& world);
-
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
 
 /// What becomes of the player's shows while nobody watches.
 enum class Shows { Auto, Cancel };

@@ -114,10 +114,6 @@ const Command kColumns{
     "columns", "", "Prints the part of docs/world-making.md that tells every column.",
     0,         {}, Columns};
 
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
-
 namespace {
 
 constexpr std::string_view kIntroduction = R"(# File formats

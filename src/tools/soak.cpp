@@ -106,11 +106,7 @@ void StatsFile::Add(const std::string& line) {
   end_ += static_cast<std::int64_t>(text.size());
 }
 
-}  // namespace grapplemont::tools
-
 // Many careers that nobody watches, looked at for faults month by month.
-
-namespace grapplemont::tools {
 
 namespace {
 

@@ -98,10 +98,6 @@ int RunWorldTool(std::span<const std::string> arguments, Shell shell) {
   }
 }
 
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
-
 namespace {
 
 std::string Quoted(std::string_view text) {
@@ -168,10 +164,6 @@ std::optional<Day> Arguments::Date(std::string_view name) const {
   if (const auto day = ParseIsoDate(*text)) return day;
   throw UsageError(std::string(name) + " needs a date such as 2026-03-01, not " + Quoted(*text));
 }
-
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
 
 namespace {
 

@@ -28,10 +28,6 @@ struct Shell {
 /// for faults and failures, each told in a line, 2 for arguments that make no sense.
 int RunWorldTool(std::span<const std::string> arguments, Shell shell);
 
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
-
 /// Arguments that make no sense; says why in a sentence.
 class UsageError : public std::runtime_error {
  public:
@@ -65,10 +61,6 @@ class Arguments {
   std::vector<std::string> places_;
   std::map<std::string, std::string, std::less<>> options_;
 };
-
-}  // namespace grapplemont::tools
-
-namespace grapplemont::tools {
 
 std::string WithoutSlashes(std::string folder);  // behind it
 /// The folder's name without slashes behind it, for files that lie beside it. Throws for what is no

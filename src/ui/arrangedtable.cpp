@@ -224,11 +224,7 @@ void Table::SetPlace(int topRow, int currentKey) {
   state_.CurrentKey = currentKey;
 }
 
-}  // namespace grapplemont::ui
-
 // Tables and their states as texts.
-
-namespace grapplemont::ui {
 
 namespace {
 

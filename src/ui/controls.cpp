@@ -132,10 +132,6 @@ void Report::WriteLines(std::string_view plain) {
   Write(Parted(plain, Style::Line));
 }
 
-}  // namespace grapplemont::ui
-
-namespace grapplemont::ui {
-
 ListBox::ListBox(Screen& screen, std::string name, std::vector<Column> columns, Handler pick,
                  Handler open)
     : Control(screen, std::move(name), Kind::ListBox),

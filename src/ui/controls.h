@@ -35,12 +35,8 @@ class Property {
   T value_;
 };
 
-}  // namespace grapplemont::ui
-
 // The controls of a screen: values that a shell shows and a player works. They know no toolkit. A
 // screen sets them freely; what the player does comes through acts.h and runs the handlers.
-
-namespace grapplemont::ui {
 
 class Screen;
 

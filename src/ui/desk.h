@@ -20,10 +20,6 @@ struct Link {
   Handler Open;
 };
 
-}  // namespace grapplemont::ui
-
-namespace grapplemont::ui {
-
 enum class Default { Yes, No };
 
 /// What an event is a transaction of. Commit and Rollback bring the world to a committed state or

@@ -95,14 +95,6 @@ class Game : public ui::Work {
   std::shared_ptr<ui::Work> joined_;
 };
 
-}  // namespace grapplemont
-
-/// How the desk makes a screen that it opens by its name; program/screens.cpp has a row for each.
-#define SCREEN(name)                                   \
-  std::unique_ptr<ui::Screen> Make##name(Game& game) { \
-    return std::make_unique<name>(game);               \
-  }
-
 /// What differs between the frames of screens.
 struct Frame {
   ui::Role Is = ui::Role::Page;
@@ -156,3 +148,9 @@ class Waiting {
 std::string InWords(std::string_view name);
 
 }  // namespace grapplemont
+
+/// How the desk makes a screen that it opens by its name; program/screens.cpp has a row for each.
+#define SCREEN(name)                                   \
+  std::unique_ptr<ui::Screen> Make##name(Game& game) { \
+    return std::make_unique<name>(game);               \
+  }

@@ -91,10 +91,6 @@ struct Page {
   std::vector<Button*> TopActions = {};  // Main is the last of them
 };
 
-}  // namespace grapplemont::ui
-
-namespace grapplemont::ui {
-
 class Desk;
 
 /// What a shell makes of a screen: Cover fills the window (title, menu); the Hub gives side bar and
