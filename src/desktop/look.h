@@ -67,7 +67,7 @@ void ApplyLook(Scheme scheme, int textHeight);
 
 /// Pixels of the drawing at the present size of text.
 int Px(double drawn);
-/// A letter of so many drawn pixels; the style's sans serif.
+/// A font of that many drawn pixels; the style's sans serif.
 QFont TextFont(double drawn = kUsualText, QFont::Weight weight = QFont::Normal);
 QFont ProseFont(double drawn = 15);
 

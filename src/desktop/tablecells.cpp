@@ -141,7 +141,7 @@ QSize TableCells::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index
   return {CellWidth(model_.Table().At(index.row(), index.column()), kind), Px(kRowHeight)};
 }
 
-/// A text that is cut is told whole, and a name says how its page is opened.
+/// The whole of a text that is cut; of a name also how its page is opened.
 bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                            const QStyleOptionViewItem& option, const QModelIndex& index) {
   if (!index.isValid() || event->type() != QEvent::ToolTip) return false;

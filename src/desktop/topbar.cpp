@@ -42,7 +42,7 @@ class TopLabel : public QWidget, public ControlView {
   QWidget* Widget() override { return this; }
 
   QSize sizeHint() const override { return {WidthOf(pieces_) + 2, Px(32)}; }
-  /// Whose promotion it is may be cut; a date may be told in short.
+  /// Whose promotion it is may be cut; a date may be shortened.
   QSize minimumSizeHint() const override {
     const int whole = WidthOf(pieces_) + 2;
     if (first_) return {WidthOf(InShort()) + 2, Px(32)};

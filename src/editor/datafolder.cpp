@@ -187,7 +187,7 @@ bool Names(const std::vector<Fault>& faults, std::string_view file) {
                      [&](const Fault& fault) { return fault.File == file; });
 }
 
-/// The faults of the world; a file that cannot be read is none that is missing.
+/// The faults of the world; a file that cannot be read is not missing.
 FaultList FaultsBeside(const World& world, const std::vector<Fault>& unreadable) {
   FaultList faults;
   for (const Fault& fault : unreadable) faults.Take(Fault(fault));

@@ -19,7 +19,7 @@ class FaultCounts {
   /// By record where numbers stay; else by what the fault says alone.
   enum class By { Record, What };
   FaultCounts(const World& world, By by);
-  /// Those that are there oftener than then.
+  /// Those that are more than there were then.
   std::vector<Fault> NewIn(const World& world) const;
 
  private:
@@ -36,7 +36,8 @@ void MendConsequences(World& world, const FaultCounts& before, std::vector<std::
 // What follows a record that is changed or goes, beyond the ties that the check knows.
 
 /// Names that lead to record `number` follow it, sponsors and promotions stay of one mind. `old` is
-/// what the record was, empty for a new one. Gives why it cannot be, else nothing; `also` is told.
+/// what the record was, empty for a new one. Gives why it cannot be, else nothing; `also` lists
+/// what else changed.
 std::string FollowChange(World& world, RecordKind kind, const Bytes& old, int number,
                          std::vector<std::string>& also);
 /// Removes record `number` and whatever of it the check would not see.

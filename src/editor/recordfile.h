@@ -22,7 +22,7 @@ struct FileBytes {
   std::string Remark;  // what was left aside, and why: "newtv.dat is empty."
 };
 /// Reads a file of records of this layout; one that is too long, unreadable or no file at all is
-/// told in the remark and gives no record.
+/// reported in the remark and gives no record.
 FileBytes ReadFileBytes(Disk& disk, const std::string& folder, const std::string& name,
                         const RecordLayout& layout);
 

@@ -21,7 +21,7 @@ Blocks Rumours();
 Blocks Fans();
 }  // namespace words
 
-/// The lines of a point of the meeting: so many ways to say it, then what to do, if anything.
+/// The lines of a point of the meeting: a number of ways to say it, then what to do, if anything.
 inline constexpr int kWaysToSay = 2;
 
 /// How a deed is reported.

@@ -93,7 +93,7 @@ bool EndsWithin(int left, int from, int until) {
   return left != kNoEnd && left >= from && left <= until;
 }
 
-/// He would sign for so many months if everything else were as he wants it and better.
+/// For how many months they would sign if everything else were at least as they want it.
 bool WouldSign(const World& world, const Worker& worker, int months) {
   const RenewalTerms terms = RenewalTermsOf(world, worker);
   ContractOffer best{kHighestWage, months, terms.Written, true};
@@ -106,7 +106,7 @@ bool SignsForHalfAYear(const World& world, const Worker& worker) {
   return WouldSign(world, worker, kHalfAYear) && !WouldSign(world, worker, kYear);
 }
 
-/// Whose contracts end after so many months, and who will talk about another.
+/// Whose contracts end after that many months, and who will talk about another.
 People Ending(const World& world, int from, int until) {
   return Ours(world, [&](const Worker& w) {
     return EndsWithin(w.ContractMonths, from, until) && !w.RetiringSoon && !(w.Status == "Hom") &&

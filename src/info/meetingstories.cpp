@@ -13,7 +13,7 @@
 #include "storylines/feuds.h"
 #include "storylines/titles.h"
 
-// The meeting on what is told on the shows: image, feuds, Titles, Events.
+// The meeting on what happens on the shows: image, feuds, Titles, Events.
 
 namespace grapplemont {
 

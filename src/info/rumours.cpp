@@ -89,7 +89,7 @@ void HearOfWorkers(Ear& ear, const World& world) {
   }
 }
 
-/// Money is told at its worst; nothing for a house that has enough.
+/// The worst about a house's money; nothing where it has enough.
 void HearOfMoney(Ear& ear, const Promotion& rival, const LineWords& words) {
   const std::string name = rival.Name.Str();
   const Purse purse = PurseOf(rival);

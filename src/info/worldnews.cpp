@@ -48,7 +48,7 @@ std::string Words(Desk& desk, const Deed& deed) {
        {"people", deed.People == 1 ? "one person" : std::to_string(deed.People) + " people"}});
 }
 
-/// A show of the player's is told as the rivals' are.
+/// A show of the player's reads as the rivals' do.
 Deed DeedOf(const World& world, const HistoryEntry& entry) {
   Deed deed{};
   deed.On = entry.On;

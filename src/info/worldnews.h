@@ -23,7 +23,7 @@ std::vector<NewsItem> WorldNews(const World& world);
 /// From which day on there is news: the first of the month before.
 Day NewsBegin(const World& world);
 
-/// One of so many, 0 to `of` - 1, that stays the same for the same words and the same day.
+/// A number from 0 to `of` - 1, that stays the same for the same words and the same day.
 std::size_t ChoiceFor(std::string_view words, Day day, std::size_t of);
 
 // Who is at the top of the wrestling world, and of what.

@@ -27,7 +27,7 @@ void NoteShow(World& world, DeedKind kind, const Promotion& house, std::string_v
 /// A rating held in hundredths: "2.50" for 250, "2.00" for 200, "2. 05" for 205 (with the blank).
 std::string RatingText(int value);
 
-/// Whether a mail under this option word (0 always, 1 direct rivals or above, 2 never) is told
+/// Whether a mail under this option word (0 always, 1 direct rivals or above, 2 never) comes
 /// about a promotion of this size, by the player's size as the day last saw it.
 bool ShouldTell(const World& world, int option, int size);
 /// A mail from the rival's news, if the option lets it through.

@@ -46,8 +46,8 @@ void PlayDay(World& world, Shows shows, const StepWatcher& watcher = {});
 /// Whether whoever is dismissed looks for another job in the same world.
 enum class AfterTheEnd { Stop, AnotherJob };
 
-/// Plays so many days of the open game, a commit each; a day is over when the next one's routines
-/// are. `dayPassed` hears of each.
+/// Plays a number of days of the open game, a commit each; a day is over when the next one's
+/// routines are. `dayPassed` hears of each.
 CareerEnd PlayDays(Game& game, int days, Shows shows, const std::function<void(int day)>& dayPassed,
                    AfterTheEnd after = AfterTheEnd::Stop);
 

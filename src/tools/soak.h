@@ -22,7 +22,7 @@ std::string MonthSummary(const World& world);
 /// A file of summaries, one a line, that grows month by month.
 class StatsFile {
  public:
-  /// Begins the file anew.
+  /// Begins a new file.
   StatsFile(Disk& disk, const std::string& path);
   void Add(const std::string& line);
 

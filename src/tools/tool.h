@@ -25,7 +25,7 @@ struct Shell {
 };
 
 /// The tool for worlds behind its arguments (without the program's name): 0 when all went well, 1
-/// for faults and failures, each told in a line, 2 for arguments that make no sense.
+/// for faults and failures, each reported in a line, 2 for arguments that make no sense.
 int RunWorldTool(std::span<const std::string> arguments, Shell shell);
 
 /// Arguments that make no sense; says why in a sentence.

@@ -268,7 +268,7 @@ class ListBox : public Control {
   /// Turns one row of a list that takes several.
   void Toggle(int row);
   bool Multi = false;
-  int Room = 12;          // rows that it asks room for, if it has so many
+  int Room = 12;          // the most rows that it asks room for
   std::string EmptyText;  // what belongs here and how to get it
   Handler OnPick;
   Handler OnOpen;

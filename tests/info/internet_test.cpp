@@ -7,6 +7,7 @@
 #include "info/infowords.h"
 #include "info/rumours.h"
 #include "info/worldnews.h"
+#include "records/modVar.h"
 #include "records/severing.h"
 #include "rivals/rivalsteps.h"
 #include "rivals/workermarket.h"

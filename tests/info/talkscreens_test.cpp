@@ -3,6 +3,7 @@
 #include "info/calmworld.h"
 #include "info/meetingpoints.h"
 #include "info/worldnews.h"
+#include "records/modVar.h"
 #include "support/gameonworld.h"
 #include "ui/acts.h"
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "records/fields/fields.h"
+#include "records/modVar.h"
 #include "show/holdshow.h"
 #include "show/recap.h"
 #include "showrig.h"

@@ -14,7 +14,7 @@ namespace grapplemont {
 
 namespace {
 
-/// The last shows, to be read again in the words in which they were told.
+/// The last shows, to be read again in the words of their reports.
 class frmReports : public GameScreen {
  public:
   explicit frmReports(Game& game, Day on = kDayZero, int promotionUid = 0)

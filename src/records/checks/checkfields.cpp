@@ -117,7 +117,7 @@ void InspectField(Inspection& inspection, const Place& place, const Field& field
     case FieldKind::Text:
       return InspectText(inspection, place, field, index);
     default:
-      // A uid that is none is told where uids and what leads to them are told.
+      // An invalid uid is reported where uids and what leads to them are checked.
       if (!field.IsKey) InspectNumber(inspection, place, field, index);
   }
 }

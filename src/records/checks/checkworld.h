@@ -80,7 +80,7 @@ class Inspection {
   enum class Purpose { Check, Mend, MendGame };
 
   /// Mend looks at any world as at default data. `take` gets each fault. With `wanted`, no other is
-  /// mended or told.
+  /// mended or reported.
   Inspection(World& world, Purpose purpose, TakeFault take, WantFault wanted = {});
 
   World& Of() const { return world_; }

@@ -12,7 +12,7 @@
 namespace grapplemont {
 
 /// A match that was held on a show of the player's: a record of bouts.dat, appended when it has
-/// been told.
+/// been reported.
 struct HeldMatch {
   Date On;
   Word Promotion;  // uid; the promotion may be gone
@@ -21,7 +21,7 @@ struct HeldMatch {
   Word Style;
   Word MatchType;
   Percent Rating;
-  Word Winners;                 // so many of Worker have won it; 0 for a draw
+  Word Winners;                 // how many of Worker have won it; 0 for a draw
   Text<20> Title;               // at stake; "None"
   Flag Changed;                 // and won by somebody new
   std::array<Word, 4> Feud;     // the parties as in the feud's record; all 0 for no feud's match
@@ -78,12 +78,12 @@ enum ReportKind {
 /// ReportPart.Join: how its words go on from those before it in the same row and kind.
 enum ReportJoin { kBegins = 0, kAfterBlank, kAfterBreak, kAtOnce };
 
-/// Some of the words in which a show was told: a record of reports.dat. Old shows' places are
+/// Some of the words of a show's report: a record of reports.dat. Old shows' places are
 /// taken by new ones, so that records lie in no order.
 struct ReportPart {
   Date On;
   Word Promotion;  // uid
-  Word Voice;      // who told it
+  Word Voice;      // whose report it is
   Word Row;        // of the sheet; 0 for the show's name
   Word Line;       // from 1 within the row
   Word Kind;

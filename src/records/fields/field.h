@@ -203,7 +203,7 @@ constexpr Field MakeNumbered(std::string_view name, std::size_t offset) {
 
 }  // namespace detail
 
-// A record of so many bytes in its file; docs/file-formats.md has where each field stands.
+// A record of that many bytes in its file; docs/file-formats.md has where each field stands.
 #define GM_RECORD(Record, Bytes)                                    \
   static_assert(sizeof(Record) == (Bytes) && alignof(Record) == 1); \
   template <>                                                       \

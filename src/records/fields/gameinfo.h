@@ -74,9 +74,9 @@ enum ShowStage { kNoShow = 0, kShowRuns, kShowClosed };
 struct ShowRun {
   Word Stage;
   Flag IsEvent;
-  Word Current;        // the record of match.dat that was told last; 0 before the first
-  Word PreviousCrowd;  // of the last match told; 0 before the first
-  Word LastOverall;    // of the Segment told last; it counts once more at the close
+  Word Current;        // the record of match.dat that was reported last; 0 before the first
+  Word PreviousCrowd;  // of the last match reported; 0 before the first
+  Word LastOverall;    // of the Segment reported last; it counts once more at the close
   Flag FlatNight;
   std::array<Flag, 8> FeudTouched;
   RangedWord<-32768, 32767> ShowSum;  // ratings and charges so far; at the close the show's rating

@@ -96,7 +96,7 @@ struct KnownFile {
   std::string Name;
   std::int64_t MaxBytes;
   std::int64_t RecordBytes = 1;
-  bool Fleeting = false;  // made anew all the time: nobody misses what is wrong with it
+  bool Fleeting = false;  // made again all the time: nobody misses what is wrong with it
   /// What a longer file is cut to: whole records.
   std::int64_t MostBytes() const { return MaxBytes / RecordBytes * RecordBytes; }
 };
@@ -119,7 +119,7 @@ struct JournalEntry {
   JournalRecord Record;   // its ranges point into the journal's bytes
   std::int64_t Size = 0;  // padded
 };
-/// The record that begins at `offset`. Nothing where there is none that is whole, or where it would
+/// The record that begins at `offset`. Nothing where none is whole, or where it would
 /// touch anything but the known files within their limits.
 std::optional<JournalEntry> UnpackRecord(ByteSpan journal, std::int64_t offset,
                                          const std::vector<KnownFile>& known,

@@ -117,7 +117,7 @@ void Slot::Insides::Open(Damage damage) {
   }
 }
 
-/// Only known names, plain files and no links; whatever else lies there is told and left alone.
+/// Only known names, plain files and no links; whatever else lies there is reported and left alone.
 void Slot::Insides::LookOver() {
   constexpr std::size_t kMostRemarks = 20;
   std::size_t unknown = 0;
@@ -374,7 +374,7 @@ void Slot::Commit(const std::vector<FileChange>& changes) {
     in.WriteSeal();
     for (const FilePatch& patch : record.Files) in.Records.Apply(patch);
   } catch (const DiskError& fault) {
-    // What the disk holds now is unknown: only reading it anew tells.
+    // What the disk holds now is unknown: only reading it again tells.
     if (written) in.TryRecover();
     if (in.Committed) throw DiskError(fault, in.Broken ? kKeptUntilMended : kKept);
     throw DiskError(fault, in.Broken ? kUntilMended : kTakenBack);

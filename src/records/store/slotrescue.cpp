@@ -83,7 +83,7 @@ class Examination {
                        [&](auto& file) { return file.Name == name && file.Fleeting; });
   }
 
-  /// What the records that were applied write anew is as long as it ought to be.
+  /// What the records that were applied write again is as long as it ought to be.
   void LookForTooLong() {
     std::set<std::string> written;
     for (const JournalRecord& record : applied_)

@@ -163,7 +163,7 @@ void Records<T>::Load(ByteSpan bytes) {
   exists_ = true;
 }
 
-/// Appends to a file that need not keep everything: a full one loses so many of its oldest records
+/// Appends to a file that need not keep everything: a full one loses `oldest` of its oldest records
 /// first, many at once, since making room must not move the whole file with every record.
 template <class T>
 T& AppendRolling(Records<T>& records, const T& record, int oldest) {

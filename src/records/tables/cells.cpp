@@ -18,7 +18,7 @@ namespace {
 // A backslash in front makes a cell literal: it keeps leading blanks, and a lone one is a text of
 // no letters where an empty cell would be the default.
 constexpr char kLiteral = '\\';
-// A date that no calendar day with a fraction can tell exactly is told as its bare day count.
+// A date that no calendar day with a fraction can express exactly is written as its bare day count.
 constexpr char kDayCount = '@';
 constexpr std::string_view kNone = "none";
 

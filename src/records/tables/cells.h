@@ -6,7 +6,7 @@
 #include "records/tables/tablekinds.h"
 
 // One field of a record as the cell of a table, in UTF-8. What leads to another record by its
-// number is told in tablenames.h.
+// number is described in tablenames.h.
 
 namespace grapplemont {
 

@@ -292,7 +292,7 @@ class TableReader {
       std::unordered_map<std::string, int> lines;
       for (std::size_t row = 0; row < table_.Count(); ++row) {
         const std::string key = CellOf(kind_, column, table_.Record(row));
-        // What is empty or no number has been told already.
+        // What is empty or not a number has been reported already.
         if (key.empty() || (IsUid(*column.Of) && key == "0")) continue;
         const auto [first, isFirst] = lines.try_emplace(key, table_.Lines[row]);
         if (!isFirst)

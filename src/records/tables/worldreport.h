@@ -7,7 +7,7 @@
 #include "records/checks/checkworld.h"
 #include "records/tables/worldtables.h"
 
-// How a world, its faults and the mistakes in its tables are told, to whoever asks for them.
+// How a world, its faults and the mistakes in its tables are reported.
 
 namespace grapplemont {
 

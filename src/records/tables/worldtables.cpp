@@ -241,7 +241,7 @@ class TableWriter {
   std::string LineOf(const std::vector<Column>& columns, std::size_t row) const {
     std::vector<std::string> cells;
     for (const Column& column : columns) cells.push_back(Cell(column, row));
-    // A line of empty cells would be passed over: an empty text is told as one.
+    // A line of empty cells would be passed over: an empty text is written as one.
     if (std::all_of(cells.begin(), cells.end(), [](auto& cell) { return cell.empty(); }))
       *std::find_if(cells.begin(), cells.end(), [&](const std::string& cell) {
         return columns[static_cast<std::size_t>(&cell - cells.data())].Of->Kind == FieldKind::Text;
