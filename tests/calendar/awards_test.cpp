@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "calendar/advanceday.h"
-#include "records/checkworld.h"
-#include "records/dates.h"
+#include "records/checks/checkworld.h"
+#include "records/fields/fields.h"
 #include "records/segmentwords.h"
 #include "storylines/lineages.h"
 #include "support/newsof.h"

@@ -1,6 +1,6 @@
 #include "business/development.h"
 #include "business/screens/screenfed.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/world.h"
 #include "roster/postings.h"

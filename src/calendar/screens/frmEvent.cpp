@@ -1,6 +1,6 @@
 #include "calendar/events.h"
 #include "calendar/screens/calendarscreens.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "show/attendance.h"
 #include "storylines/screens/screenpeople.h"

@@ -4,7 +4,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "records/worker.h"
+#include "records/fields/people.h"
 #include "records/world.h"
 #include "roster/talks.h"
 #include "ui/gamescreen.h"
