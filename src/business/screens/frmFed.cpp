@@ -8,7 +8,7 @@
 #include "records/modWresCheck.h"
 #include "records/world.h"
 #include "storylines/screens/screenpeople.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -6,7 +6,7 @@
 #include "roster/postings.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 // Where the young learn, and who is to run it.
 

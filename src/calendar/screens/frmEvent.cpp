@@ -5,7 +5,7 @@
 #include "show/attendance.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

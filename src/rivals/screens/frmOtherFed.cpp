@@ -1,5 +1,5 @@
 #include "rivals/screens/frmOtherFed.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 #include <algorithm>
 

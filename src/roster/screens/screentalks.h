@@ -7,7 +7,7 @@
 #include "records/fields/people.h"
 #include "records/world.h"
 #include "roster/talks.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 // What the screens of contract talks share.
 
