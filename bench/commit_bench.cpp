@@ -1,10 +1,10 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/worlds.h"
-#include "records/slot.h"
+#include "records/store/slot.h"
 #include "support/gameonworld.h"
 #include "support/scratchfolder.h"
-#include "tools/career.h"
+#include "tools/officework.h"
 
 // The commit of a day, its show held and told, beside what a program without a journal does for it:
 // each changed file written in place and synced (a power cut leaves anything), each replaced by a

@@ -6,11 +6,11 @@
 #include "bench/worlds.h"
 #include "booking/showstart.h"
 #include "calendar/advanceday.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "report/report.h"
 #include "support/smallworld.h"
-#include "tools/career.h"
-#include "ui/waiting.h"
+#include "tools/officework.h"
+#include "ui/game.h"
 
 // The day and the new game, each beside a baseline: the same walks done by opening the file,
 // reading and writing back every record, once for each walk that the steps make.

@@ -3,7 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "calendar/advanceday.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont::bench {
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 
-#include "records/disk.h"
+#include "records/store/disk.h"
 #include "records/world.h"
 #include "support/scratchfolder.h"
 

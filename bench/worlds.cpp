@@ -6,7 +6,7 @@
 #include "session/newgame.h"
 #include "support/defaultworld.h"
 #include "support/gameonworld.h"
-#include "tools/career.h"
+#include "tools/officework.h"
 
 namespace grapplemont::bench {
 

@@ -3,7 +3,7 @@
 #include "bench/walks.h"
 #include "bench/worlds.h"
 #include "support/gameonworld.h"
-#include "tools/career.h"
+#include "tools/officework.h"
 
 // A year with the player's shows booked by the auto booker and told in full, a commit a day without
 // syncing; beside it the walks of the same days done in the files.

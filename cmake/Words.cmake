@@ -5,10 +5,10 @@
 # few files that it compiles itself. Who links word_tables may include them.
 headers_of_folder(words_headers words)
 headers_of_folder(words_tables_headers words/tables)
-headers_of_folder(records_bare_headers records)
+headers_of_folder(records_bare_headers records/fields)
 file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/words/tables/*.cpp)
 list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-foreach(shared words/units words/wordstext records/charset records/nearest)
+foreach(shared words/units words/wordstext records/fields/charset records/fields/wording)
   list(APPEND sources ${PROJECT_SOURCE_DIR}/src/${shared}.cpp)
 endforeach()
 add_library(words_tables STATIC ${sources})

@@ -14,7 +14,7 @@
 #include <utility>
 #include <vector>
 
-#include <records/dates.h>
+#include <records/fields/fields.h>
 #include <records/modVar.h>
 #include <records/modWresCheck.h>
 #include <records/world.h>

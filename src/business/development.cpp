@@ -4,7 +4,7 @@
 #include <array>
 
 #include "business/past.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "records/arithmetic.h"
-#include "records/promotion.h"
+#include "records/fields/companies.h"
 #include "records/world.h"
 
 namespace grapplemont {

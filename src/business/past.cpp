@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "business/finance.h"
-#include "records/dates.h"
-#include "records/rolling.h"
+#include "records/fields/fields.h"
+#include "records/store/table.h"
 
 namespace grapplemont {
 

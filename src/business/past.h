@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "records/fields.h"
+#include "records/fields/fields.h"
 #include "records/world.h"
 
 // What the slot remembers, oldest first.

@@ -3,8 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "records/companies.h"
-#include "records/promotion.h"
+#include "records/fields/companies.h"
 #include "records/world.h"
 
 // How sponsors and promotions, the player's and rivals' alike, come together and part.

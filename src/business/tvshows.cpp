@@ -5,9 +5,9 @@
 
 #include "business/networks.h"
 #include "records/arithmetic.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
-#include "records/sweeps.h"
+#include "records/severing.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {

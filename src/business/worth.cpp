@@ -7,7 +7,7 @@
 #include "business/networks.h"
 #include "business/sponsors.h"
 #include "records/arithmetic.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "roster/talks.h"
 

@@ -8,8 +8,8 @@
 #include "calendar/awards.h"
 #include "calendar/events.h"
 #include "calendar/incidents.h"
-#include "records/dates.h"
-#include "records/sweeps.h"
+#include "records/fields/fields.h"
+#include "records/severing.h"
 #include "rivals/rivals.h"
 #include "storylines/lineages.h"
 

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "records/arithmetic.h"
-#include "records/dates.h"
-#include "records/sweeps.h"
+#include "records/fields/fields.h"
+#include "records/severing.h"
 #include "show/attendance.h"
 #include "storylines/storynames.h"
 

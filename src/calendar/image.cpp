@@ -8,8 +8,8 @@
 #include "business/finance.h"
 #include "calendar/events.h"
 #include "records/arithmetic.h"
+#include "records/fields/vocabulary.h"
 #include "records/modVar.h"
-#include "records/vocabulary.h"
 #include "roster/invented.h"
 
 namespace grapplemont {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "records/gameinfo.h"
+#include "records/fields/gameinfo.h"
 #include "records/world.h"
 
 namespace grapplemont {

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "calendar/advanceday.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "rivals/ownership.h"
 #include "roster/leaving.h"

@@ -3,7 +3,7 @@
 #include <span>
 
 #include "calendar/advanceday.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"

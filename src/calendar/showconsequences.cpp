@@ -10,7 +10,7 @@
 #include "calendar/advanceday.h"
 #include "calendar/events.h"
 #include "calendar/image.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "rivals/rivals.h"
 #include "show/showresults.h"

@@ -2,7 +2,7 @@
 
 #include "booking/wizard/roster.h"
 #include "calendar/advanceday.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/leaving.h"

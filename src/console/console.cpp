@@ -2,8 +2,8 @@
 
 #include <charconv>
 
-#include "console/lines.h"
-#include "records/charset.h"
+#include "console/command.h"
+#include "records/fields/charset.h"
 #include "ui/acts.h"
 
 namespace grapplemont::console {

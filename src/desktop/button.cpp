@@ -6,7 +6,7 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
-#include "desktop/palette.h"
+#include "ui/acts.h"
 
 namespace grapplemont::desktop {
 
@@ -162,6 +162,20 @@ void PushButton::enterEvent(QEnterEvent*) {
 }
 
 void PushButton::leaveEvent(QEvent*) {
+  update();
+}
+
+ButtonView::ButtonView(ui::Button& button, Stage& stage, QWidget* parent)
+    : PushButton(parent), ControlView(button, stage), button_(button) {
+  connect(this, &QAbstractButton::clicked, this, [this] { Pressed ? Pressed() : Do(ui::Click); });
+}
+
+void ButtonView::Show() {
+  setText(Shown(button_.Text.Get()));
+  SetBadge(Shown(button_.Badge.Get()));
+  const ui::Tone tone = button_.Colour.Get();
+  SetTextColour(tone == ui::Tone::Plain ? QColor() : TextColour(ColoursOf(this), tone));
+  updateGeometry();
   update();
 }
 

@@ -2,6 +2,8 @@
 
 #include <QAbstractButton>
 
+#include "desktop/controlview.h"
+
 namespace grapplemont::desktop {
 
 /// A button after the look. It takes the keyboard by Tab alone, so that Enter goes on meaning the
@@ -44,5 +46,19 @@ class PushButton : public QAbstractButton {
 void DrawBadge(QPainter& painter, const QRectF& where, const QString& text, const QWidget* on);
 /// How wide DrawBadge's spot has to be.
 int BadgeWidthFor(const QString& text);
+
+class ButtonView : public PushButton, public ControlView {
+ public:
+  ButtonView(ui::Button& button, Stage& stage, QWidget* parent);
+  QWidget* Widget() override { return this; }
+  /// What a click does instead of clicking the control.
+  std::function<void()> Pressed;
+
+ protected:
+  void Show() override;
+
+ private:
+  ui::Button& button_;
+};
 
 }  // namespace grapplemont::desktop

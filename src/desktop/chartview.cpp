@@ -7,15 +7,13 @@
 #include <limits>
 
 #include "desktop/housestyle.h"
-#include "desktop/letters.h"
 #include "desktop/look.h"
-#include "desktop/palette.h"
 
 namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kSteps = 4;       // about so many lines across the chart
+constexpr int kSteps = 4;       // about how many lines go across the chart
 constexpr int kFewPlaces = 24;  // so few are marked one by one
 
 /// 1, 2 or 5 times a power of ten, at least `rough`.

@@ -3,6 +3,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QRadioButton>
+#include <QSlider>
+#include <QSpinBox>
 
 #include "desktop/controlview.h"
 
@@ -43,6 +45,23 @@ class OptionView : public QRadioButton, public ControlView {
 
  private:
   ui::OptionButton& option_;
+};
+
+/// A slider with its value beside it, which can be typed too.
+class SliderView : public QWidget, public ControlView {
+ public:
+  SliderView(ui::ScrollBar& bar, Stage& stage, QWidget* parent);
+  QWidget* Widget() override { return this; }
+  QWidget* FocusTarget() override { return slider_; }
+
+ protected:
+  void Show() override;
+
+ private:
+  void Slid(int value);
+  ui::ScrollBar& bar_;
+  QSlider* slider_;
+  QSpinBox* value_;
 };
 
 }  // namespace grapplemont::desktop

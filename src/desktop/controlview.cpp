@@ -1,13 +1,11 @@
 #include "desktop/controlview.h"
 
-#include "desktop/buttonview.h"
+#include "desktop/button.h"
 #include "desktop/chartview.h"
 #include "desktop/choiceviews.h"
-#include "desktop/labelview.h"
-#include "desktop/letters.h"
+#include "desktop/look.h"
 #include "desktop/pictureview.h"
 #include "desktop/reportview.h"
-#include "desktop/sliderview.h"
 #include "desktop/tableview.h"
 #include "desktop/textviews.h"
 

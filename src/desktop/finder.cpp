@@ -7,7 +7,6 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
-#include "desktop/palette.h"
 
 namespace grapplemont::desktop {
 

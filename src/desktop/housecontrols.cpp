@@ -5,7 +5,6 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
-#include "desktop/palette.h"
 
 // The larger parts of the style: combo boxes, sliders, scroll bars, tabs, menus.
 

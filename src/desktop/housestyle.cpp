@@ -5,7 +5,6 @@
 #include <QStyleOption>
 
 #include "desktop/look.h"
-#include "desktop/palette.h"
 
 namespace grapplemont::desktop {
 

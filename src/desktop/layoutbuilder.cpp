@@ -6,13 +6,11 @@
 #include <QTabBar>
 #include <algorithm>
 
-#include "desktop/buttonview.h"
-#include "desktop/flowlayout.h"
-#include "desktop/labelview.h"
-#include "desktop/letters.h"
+#include "desktop/button.h"
+#include "desktop/card.h"
 #include "desktop/look.h"
-#include "desktop/palette.h"
 #include "desktop/tableview.h"
+#include "desktop/textviews.h"
 
 namespace grapplemont::desktop {
 

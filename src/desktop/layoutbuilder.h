@@ -5,7 +5,7 @@
 
 #include "desktop/card.h"
 #include "desktop/controlview.h"
-#include "ui/layout.h"
+#include "ui/screen.h"
 
 namespace grapplemont::desktop {
 

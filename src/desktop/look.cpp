@@ -2,14 +2,196 @@
 
 #include <QApplication>
 #include <QFontInfo>
+#include <QList>
 #include <QStyleHints>
 #include <algorithm>
 #include <cmath>
 
 #include "desktop/housestyle.h"
-#include "desktop/palette.h"
+#include "records/fields/charset.h"
 
 namespace grapplemont::desktop {
+
+namespace {
+
+QColor Hex(QRgb rgb) {
+  return QColor::fromRgb(rgb);
+}
+
+Colours MakeDark() {
+  Colours c{};
+  c.Dark = true;
+  c.Ground = Hex(0x14161A);
+  c.Side = Hex(0x0E1013);
+  c.Bar = Hex(0x16191E);
+  c.Card = Hex(0x191C22);
+  c.Line = Hex(0x262A31);
+  c.RowLine = Hex(0x22262D);
+  c.Edge = Hex(0x343A44);
+  c.Button = Hex(0x23272F);
+  c.Field = Hex(0x1D2128);
+  c.Hover = Hex(0x2B303A);
+  c.Chosen = Hex(0x232A36);
+  c.Now = Hex(0x1D2128);
+  c.Track = Hex(0x2A2F38);
+  c.Text = Hex(0xE8E6E1);
+  c.Soft = Hex(0xC9CCD1);
+  c.Muted = Hex(0x8D939D);
+  c.Faint = Hex(0x5E646E);
+  c.Gold = Hex(0xF2C14E);
+  c.Blue = Hex(0x6AA6FF);
+  c.Green = Hex(0x5CB97B);
+  c.Amber = Hex(0xE08A3C);
+  c.Red = Hex(0xE8766F);
+  c.GoldFill = Hex(0xF2C14E);
+  c.OnGold = Hex(0x1B1508);
+  c.DimGold = Hex(0x7A6430);
+  c.BlueFill = Hex(0x3A5F96);
+  c.GreenFill = Hex(0x5CB97B);
+  c.AmberFill = Hex(0xE08A3C);
+  c.RedFill = Hex(0xC8413B);
+  c.YellowFill = Hex(0xF2C14E);
+  c.BlueEdge = Hex(0x4D86D6);
+  c.RedEdge = Hex(0xC8413B);
+  c.Shade = QColor(6, 7, 9, 170);
+  return c;
+}
+
+Colours MakeLight() {
+  Colours c{};
+  c.Dark = false;
+  c.Ground = Hex(0xF3F4F6);
+  c.Side = Hex(0xE9EBEF);
+  c.Bar = Hex(0xF8F9FA);
+  c.Card = Hex(0xFFFFFF);
+  c.Line = Hex(0xD9DCE2);
+  c.RowLine = Hex(0xE6E8EC);
+  c.Edge = Hex(0xC3C8D1);
+  c.Button = Hex(0xF1F2F5);
+  c.Field = Hex(0xFAFBFC);
+  c.Hover = Hex(0xE4E7EC);
+  c.Chosen = Hex(0xE3EBF8);
+  c.Now = Hex(0xFAFBFC);
+  c.Track = Hex(0xE0E3E8);
+  c.Text = Hex(0x1B1D22);
+  c.Soft = Hex(0x33373F);
+  c.Muted = Hex(0x5A616C);
+  c.Faint = Hex(0x9AA0AA);
+  c.Gold = Hex(0x7D5700);
+  c.Blue = Hex(0x1B5CB8);
+  c.Green = Hex(0x23713F);
+  c.Amber = Hex(0x9A4C0B);
+  c.Red = Hex(0xB3261E);
+  c.GoldFill = Hex(0xF2C14E);
+  c.OnGold = Hex(0x1B1508);
+  c.DimGold = Hex(0xF3E2B4);
+  c.BlueFill = Hex(0x7FA6DE);
+  c.GreenFill = Hex(0x3FA162);
+  c.AmberFill = Hex(0xE08A3C);
+  c.RedFill = Hex(0xC8413B);
+  c.YellowFill = Hex(0xE5B23A);
+  c.BlueEdge = Hex(0x4D86D6);
+  c.RedEdge = Hex(0xC8413B);
+  c.Shade = QColor(27, 29, 34, 120);
+  return c;
+}
+
+}  // namespace
+
+const Colours& DarkColours() {
+  static const Colours kColours = MakeDark();
+  return kColours;
+}
+
+const Colours& LightColours() {
+  static const Colours kColours = MakeLight();
+  return kColours;
+}
+
+const Colours& ColoursOf(const QPalette& palette) {
+  return palette.color(QPalette::WindowText).lightness() >= 128 ? DarkColours() : LightColours();
+}
+
+QPalette PaletteOf(const Colours& c) {
+  QPalette palette;
+  const std::pair<QPalette::ColorRole, QColor> roles[] = {
+      {QPalette::Window, c.Ground},
+      {QPalette::WindowText, c.Text},
+      {QPalette::Base, c.Field},
+      {QPalette::AlternateBase, c.Chosen},
+      {QPalette::Text, c.Text},
+      {QPalette::Button, c.Button},
+      {QPalette::ButtonText, c.Text},
+      {QPalette::BrightText, c.Red},
+      {QPalette::Light, c.Hover},
+      {QPalette::Midlight, c.Edge},
+      {QPalette::Mid, c.Line},
+      {QPalette::Dark, c.Line},
+      {QPalette::Shadow, c.Side},
+      {QPalette::Highlight, c.BlueFill},
+      {QPalette::HighlightedText, c.Dark ? c.Text : c.OnGold},
+      {QPalette::Link, c.Blue},
+      {QPalette::LinkVisited, c.Blue},
+      {QPalette::ToolTipBase, c.Button},
+      {QPalette::ToolTipText, c.Text},
+      {QPalette::PlaceholderText, c.Muted}};
+  for (const auto& [role, colour] : roles) palette.setColor(QPalette::All, role, colour);
+  for (const auto role : {QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, c.Faint);
+  return palette;
+}
+
+QColor TextColour(const Colours& colours, ui::Tone tone) {
+  switch (tone) {
+    case ui::Tone::Muted:
+      return colours.Muted;
+    case ui::Tone::Gold:
+      return colours.Gold;
+    case ui::Tone::Blue:
+      return colours.Blue;
+    case ui::Tone::Red:
+      return colours.Red;
+    case ui::Tone::Green:
+      return colours.Green;
+    case ui::Tone::Amber:
+      return colours.Amber;
+    case ui::Tone::Plain:
+      break;
+  }
+  return colours.Text;
+}
+
+QColor EdgeColour(const Colours& colours, ui::Tone tone) {
+  if (tone == ui::Tone::Blue) return colours.BlueEdge;
+  if (tone == ui::Tone::Red) return colours.RedEdge;
+  return tone == ui::Tone::Plain || tone == ui::Tone::Muted ? colours.Edge
+                                                            : TextColour(colours, tone);
+}
+
+QColor FillColour(const Colours& colours, ui::Tone tone) {
+  switch (tone) {
+    case ui::Tone::Gold:
+      return colours.GoldFill;
+    case ui::Tone::Blue:
+      return colours.BlueFill;
+    case ui::Tone::Red:
+      return colours.RedFill;
+    case ui::Tone::Green:
+      return colours.GreenFill;
+    case ui::Tone::Amber:
+      return colours.AmberFill;
+    case ui::Tone::Muted:
+    case ui::Tone::Plain:
+      break;
+  }
+  return colours.Muted;
+}
+
+QColor PercentColour(const Colours& colours, double percent) {
+  if (percent >= 75) return colours.GreenFill;
+  if (percent >= 50) return colours.YellowFill;
+  return percent >= 30 ? colours.AmberFill : colours.RedFill;
+}
 
 namespace {
 
@@ -120,6 +302,37 @@ void DrawFigures(QPainter& painter, const QRectF& where, Qt::Alignment align, co
     painter.drawText(QPointF(x + (width - own) / 2, y), QString(letter));
     x += width;
   }
+}
+
+QString Shown(std::string_view text) {
+  return QString::fromStdString(ToUtf8(text));
+}
+
+Keepable Keep(const QString& typed) {
+  // An accent typed after its letter becomes one letter with it; line ends of elsewhere become
+  // ours.
+  QString text = typed.normalized(QString::NormalizationForm_C);
+  text.replace("\r\n", "\n").replace(QChar::ParagraphSeparator, '\n');
+  Keepable kept;
+  std::string utf8 = text.toStdString();
+  for (;;) {
+    const std::string foreign = FirstForeignLetter(utf8);
+    if (foreign.empty()) break;
+    kept.Refused += QString::fromStdString(foreign);
+    for (std::size_t at = utf8.find(foreign); at != utf8.npos; at = utf8.find(foreign, at))
+      utf8.erase(at, foreign.size());
+  }
+  kept.Text = FromUtf8(utf8).value_or("");
+  return kept;
+}
+
+QString RefusalOf(const QString& letters) {
+  QString quoted;
+  const auto points = letters.toUcs4();
+  for (const char32_t point : points)
+    quoted += (quoted.isEmpty() ? "" : ", ") + ("\"" + QString::fromUcs4(&point, 1) + "\"");
+  return points.size() == 1 ? "The letter " + quoted + " cannot be written in this game."
+                            : "The letters " + quoted + " cannot be written in this game.";
 }
 
 }  // namespace grapplemont::desktop

@@ -1,13 +1,53 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QPainter>
+#include <QPalette>
 #include <QString>
+#include <QWidget>
+#include <string>
+#include <string_view>
+
+#include "ui/controls.h"
+
+// The colours of the window, dark and light. A widget is painted in the set that its QPalette was
+// made from, so that a part of the window may keep to the dark one.
+
+namespace grapplemont::desktop {
+
+struct Colours {
+  bool Dark;
+  QColor Ground, Side, Bar, Card;            // the page, the side bar, the top bar, a card
+  QColor Line, RowLine, Edge;                // hairlines of cards, of rows, of buttons
+  QColor Button, Field, Hover, Chosen, Now;  // Chosen: a selected row; Now: the present command
+  QColor Track;                              // what a bar or a slider runs in
+  QColor Text, Soft, Muted, Faint;           // Soft: the side bar's; Faint: what is disabled
+  QColor Gold, Blue, Green, Amber, Red;      // as texts
+  QColor GoldFill, OnGold, DimGold;          // the main button; DimGold: disabled
+  QColor BlueFill, GreenFill, AmberFill, RedFill, YellowFill;  // bars and spots
+  QColor BlueEdge, RedEdge;                                    // frames of tags
+  QColor Shade;                                                // over what lies below a dialog
+};
+
+const Colours& DarkColours();
+const Colours& LightColours();
+
+/// The set that a widget or a palette belongs to.
+const Colours& ColoursOf(const QPalette& palette);
+inline const Colours& ColoursOf(const QWidget* widget) {
+  return ColoursOf(widget->palette());
+}
+QPalette PaletteOf(const Colours& colours);
+
+QColor TextColour(const Colours& colours, ui::Tone tone);
+QColor EdgeColour(const Colours& colours, ui::Tone tone);  // of a tag's frame
+QColor FillColour(const Colours& colours, ui::Tone tone);  // of a chart's bars and lines
+/// Green from 75, yellow from 50, orange from 30, red below.
+QColor PercentColour(const Colours& colours, double percent);
 
 // Sizes and letters of the window. The look is drawn for text 13 pixels high; everything grows with
 // the player's text.
-
-namespace grapplemont::desktop {
 
 enum class Scheme { System, Dark, Light };
 
@@ -27,12 +67,26 @@ void ApplyLook(Scheme scheme, int textHeight);
 
 /// Pixels of the drawing at the present size of text.
 int Px(double drawn);
-/// A letter of so many drawn pixels; the style's sans serif.
+/// A font of that many drawn pixels; the style's sans serif.
 QFont TextFont(double drawn = kUsualText, QFont::Weight weight = QFont::Normal);
 QFont ProseFont(double drawn = 15);
 
 /// Text whose figures are all of one width, so that columns of numbers stand straight.
 void DrawFigures(QPainter& painter, const QRectF& where, Qt::Alignment align, const QString& text);
 int FiguresWidth(const QFontMetricsF& metrics, const QString& text);
+
+// The program's texts are Windows-1252; Qt's are Unicode.
+
+QString Shown(std::string_view text);
+
+/// What can be kept of a typed text, and the letters that cannot: each once, in order.
+struct Keepable {
+  std::string Text;
+  QString Refused;
+};
+Keepable Keep(const QString& typed);
+
+/// The sentence for letters that cannot be kept.
+QString RefusalOf(const QString& letters);
 
 }  // namespace grapplemont::desktop

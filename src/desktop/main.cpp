@@ -2,7 +2,6 @@
 #include <QIcon>
 #include <QMessageBox>
 
-#include "desktop/letters.h"
 #include "desktop/look.h"
 #include "desktop/window.h"
 #include "program/screens.h"

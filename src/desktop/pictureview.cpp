@@ -7,7 +7,6 @@
 #include <QPainterPath>
 
 #include "desktop/housestyle.h"
-#include "desktop/letters.h"
 #include "desktop/look.h"
 #include "ui/acts.h"
 

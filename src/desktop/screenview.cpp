@@ -5,9 +5,7 @@
 #include <QScrollArea>
 #include <algorithm>
 
-#include "desktop/letters.h"
 #include "desktop/look.h"
-#include "desktop/palette.h"
 #include "desktop/tableview.h"
 #include "ui/acts.h"
 

@@ -5,10 +5,10 @@
 #include <QVBoxLayout>
 #include <memory>
 
-#include "desktop/buttonview.h"
-#include "desktop/labelview.h"
+#include "desktop/button.h"
 #include "desktop/layoutbuilder.h"
 #include "desktop/pictureview.h"
+#include "desktop/textviews.h"
 #include "ui/screen.h"
 
 namespace grapplemont::desktop {

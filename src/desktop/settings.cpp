@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "desktop/letters.h"
+#include "desktop/look.h"
 
 namespace grapplemont::desktop {
 

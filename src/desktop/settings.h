@@ -7,7 +7,7 @@
 #include <string>
 
 #include "desktop/look.h"
-#include "ui/table.h"
+#include "ui/arrangedtable.h"
 
 namespace grapplemont::desktop {
 

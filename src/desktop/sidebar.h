@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "desktop/controlview.h"
-#include "ui/layout.h"
+#include "ui/screen.h"
 
 namespace grapplemont::desktop {
 

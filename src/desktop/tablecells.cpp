@@ -7,9 +7,8 @@
 #include <algorithm>
 
 #include "desktop/housestyle.h"
-#include "desktop/letters.h"
 #include "desktop/look.h"
-#include "desktop/palette.h"
+#include "desktop/tableview.h"
 
 namespace grapplemont::desktop {
 
@@ -142,7 +141,7 @@ QSize TableCells::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index
   return {CellWidth(model_.Table().At(index.row(), index.column()), kind), Px(kRowHeight)};
 }
 
-/// A text that is cut is told whole, and a name says how its page is opened.
+/// The whole of a text that is cut; of a name also how its page is opened.
 bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                            const QStyleOptionViewItem& option, const QModelIndex& index) {
   if (!index.isValid() || event->type() != QEvent::ToolTip) return false;
@@ -157,6 +156,66 @@ bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     QToolTip::showText(event->globalPos(), "<p>" + lines.join("<br>") + "</p>", view);
   }
   return true;
+}
+
+int TableModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(table_.Rows().size());
+}
+
+int TableModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(list_.Columns().size());
+}
+
+QVariant TableModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)) return {};
+  return Shown(table_.At(index.row(), index.column()).Text);
+}
+
+QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || section >= columnCount()) return {};
+  const ui::Column& column = list_.Columns()[static_cast<std::size_t>(section)];
+  if (role == Qt::DisplayRole) return Shown(column.Title);
+  if (role == Qt::ToolTipRole && !column.Tip.empty()) return Shown(column.Tip);
+  return {};
+}
+
+void TableModel::Reset() {
+  beginResetModel();
+  endResetModel();
+}
+
+// The names in a table's cells: a click with Ctrl, or the menu, opens their pages.
+
+void TableView::ConnectLinks() {
+  grid_->LinkOf = [this](const QModelIndex& cell) {
+    const auto links = LinksOf(cell.row(), cell.column());
+    return links.empty() ? ui::Handler() : links.front().Open;
+  };
+  grid_->Followed = [this](const ui::Handler& open) { Follow(open); };
+  grid_->Cells().HintOf = [this](const QModelIndex& cell) {
+    const auto links = LinksOf(cell.row(), cell.column());
+    return links.empty() ? QString() : "Ctrl+click opens " + links.front().Words;
+  };
+}
+
+std::vector<TableView::NamedLink> TableView::LinksOf(int shownRow, int listColumn) const {
+  std::vector<NamedLink> links;
+  if (!table_.Follows()) return links;
+  const std::string_view text = table_.At(shownRow, listColumn).Text;
+  for (ui::Link& link : OnStage().Desk().LinksIn(text))
+    links.push_back({Shown(text.substr(link.From, link.Length)), std::move(link.Open)});
+  return links;
+}
+
+std::vector<TableView::NamedLink> TableView::LinksOfRow(const QModelIndex& cell) const {
+  if (!cell.isValid()) return {};
+  std::vector<NamedLink> links = LinksOf(cell.row(), cell.column());
+  for (const int column : table_.Columns())
+    for (NamedLink& link : LinksOf(cell.row(), column))
+      if (std::none_of(links.begin(), links.end(),
+                       [&](const NamedLink& held) { return held.Words == link.Words; }))
+        links.push_back(std::move(link));
+  return links;
 }
 
 }  // namespace grapplemont::desktop

@@ -2,7 +2,7 @@
 #include <QVBoxLayout>
 #include <QWidgetAction>
 
-#include "desktop/letters.h"
+#include "desktop/look.h"
 #include "desktop/tableview.h"
 
 // The menus of a table: sort, filter, columns, copy.

@@ -10,10 +10,9 @@
 #include <cmath>
 #include <numeric>
 
-#include "desktop/buttonview.h"
-#include "desktop/labelview.h"
-#include "desktop/letters.h"
-#include "desktop/palette.h"
+#include "desktop/button.h"
+#include "desktop/look.h"
+#include "desktop/textviews.h"
 #include "ui/acts.h"
 #include "ui/filter.h"
 

@@ -37,7 +37,7 @@ class TableView : public QWidget, public ControlView {
   void BuildSearchRow();
   void Connect();
   void Act(int shownRow, bool open);
-  /// Shows the rows anew; the cursor stays on its row.
+  /// Shows the rows again; the cursor stays on its row.
   void Rearrange();
   void ShowSearchRow();
   void ShowSelection();

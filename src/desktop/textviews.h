@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -38,5 +39,38 @@ class NotesView : public QPlainTextEdit, public ControlView {
   ui::TextBox& box_;
   bool showing_ = false;
 };
+
+/// Plain text that breaks where its room ends, and is as wide as its words where it may be.
+class WrappedLabel : public QLabel {
+ public:
+  explicit WrappedLabel(QWidget* parent, const QString& text = {});
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ private:
+  int NaturalWidth() const;
+};
+
+class LabelView : public WrappedLabel, public ControlView {
+ public:
+  LabelView(ui::Label& label, Stage& stage, QWidget* parent);
+  QWidget* Widget() override { return this; }
+  /// The colour of a label whose tone is plain.
+  void SetUsual(ui::Tone tone);
+
+ protected:
+  void Show() override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  void Colour();
+  ui::Label& label_;
+  ui::Tone usual_ = ui::Tone::Plain;
+};
+
+/// The text with its trend's arrow.
+QString WithTrend(const ui::Label& label);
+/// Gives a label's words a colour of the set that it belongs to.
+void SetInk(QWidget& label, const QColor& colour);
 
 }  // namespace grapplemont::desktop

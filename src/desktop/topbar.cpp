@@ -4,11 +4,30 @@
 #include <QPainter>
 #include <QRegularExpression>
 
-#include "desktop/letters.h"
 #include "desktop/look.h"
-#include "desktop/palette.h"
 
 namespace grapplemont::desktop {
+
+HubFrame::HubFrame(const ui::Page& page, Stage& stage, QWidget* parent)
+    : QWidget(parent),
+      side_(new SideBar(page, stage, this)),
+      top_(new TopBar(page, stage, this)),
+      room_(new QStackedWidget(this)) {
+  auto* columns = new QHBoxLayout(this);
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->setSpacing(0);
+  auto* rows = new QVBoxLayout;
+  rows->setSpacing(0);
+  rows->addWidget(top_);
+  rows->addWidget(room_, 1);
+  columns->addWidget(side_);
+  columns->addLayout(rows, 1);
+}
+
+void HubFrame::Refresh() {
+  side_->Refresh();
+  top_->Refresh();
+}
 
 namespace {
 
@@ -23,7 +42,7 @@ class TopLabel : public QWidget, public ControlView {
   QWidget* Widget() override { return this; }
 
   QSize sizeHint() const override { return {WidthOf(pieces_) + 2, Px(32)}; }
-  /// Whose promotion it is may be cut; a date may be told in short.
+  /// Whose promotion it is may be cut; a date may be shortened.
   QSize minimumSizeHint() const override {
     const int whole = WidthOf(pieces_) + 2;
     if (first_) return {WidthOf(InShort()) + 2, Px(32)};

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QStackedWidget>
 #include <QWidget>
 #include <functional>
 
-#include "desktop/buttonview.h"
-#include "ui/layout.h"
+#include "desktop/button.h"
+#include "desktop/screenview.h"
+#include "desktop/sidebar.h"
+#include "ui/screen.h"
 
 namespace grapplemont::desktop {
 
@@ -23,6 +26,21 @@ class TopBar : public QWidget {
  private:
   std::vector<ControlView*> views_;
   ButtonView* main_ = nullptr;
+};
+
+/// Side bar and top bar of a hub, and beside them the room for its home page and the pages above.
+class HubFrame : public QWidget {
+ public:
+  HubFrame(const ui::Page& page, Stage& stage, QWidget* parent);
+  SideBar& Side() { return *side_; }
+  TopBar& Top() { return *top_; }
+  QStackedWidget& Room() { return *room_; }
+  void Refresh();
+
+ private:
+  SideBar* side_;
+  TopBar* top_;
+  QStackedWidget* room_;
 };
 
 }  // namespace grapplemont::desktop

@@ -6,9 +6,7 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "desktop/letters.h"
 #include "desktop/look.h"
-#include "desktop/palette.h"
 
 namespace grapplemont::desktop {
 

@@ -11,8 +11,7 @@
 
 #include "desktop/box.h"
 #include "desktop/finder.h"
-#include "desktop/hubframe.h"
-#include "desktop/windowdesk.h"
+#include "desktop/topbar.h"
 
 namespace grapplemont::desktop {
 

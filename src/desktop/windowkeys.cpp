@@ -59,7 +59,7 @@ void Window::SetZoom(int zoom) {
   Relook();
 }
 
-/// All views are made anew: their sizes and colours were taken when they were built.
+/// All views are made again: their sizes and colours were taken when they were built.
 void Window::Relook() {
   RetireAll();
   ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());

@@ -1,12 +1,51 @@
 #include "editor/keeping.h"
 
-#include "editor/consequences.h"
+#include <algorithm>
+#include <stdexcept>
+
 #include "editor/following.h"
 #include "editor/recordfile.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
+#include "records/tables/tablekinds.h"
 
 namespace grapplemont {
+
+const RecordLayout& LayoutOf(RecordKind kind) {
+  static const World empty;
+  return WithRecords(
+      empty, kind, []<class T>(const Records<T>&) -> const RecordLayout& { return LayoutOf<T>(); });
+}
+
+int CountOf(const World& world, RecordKind kind) {
+  return WithRecords(world, kind, [](const auto& records) { return records.Count(); });
+}
+
+const std::byte* RecordAt(const World& world, RecordKind kind, int number) {
+  return WithRecords(world, kind, [number](const auto& records) {
+    return reinterpret_cast<const std::byte*>(&records[number]);
+  });
+}
+
+std::byte* RecordAt(World& world, RecordKind kind, int number) {
+  return WithRecords(world, kind, [number](auto& records) {
+    return reinterpret_cast<std::byte*>(&records[number]);
+  });
+}
+
+FieldPlace FieldNamed(RecordKind kind, std::string_view name) {
+  for (const Field& field : LayoutOf(kind).Fields)
+    for (int index = 0; index < field.Count; ++index)
+      if (FieldName(field, index) == name) return {&field, index};
+  throw std::out_of_range(std::string(LayoutOf(kind).Name) + " has no field " + std::string(name));
+}
+
+std::string NameOf(RecordKind kind, const std::byte* record) {
+  const FieldPlace name = FieldNamed(kind, "Name");
+  std::string text(FieldText(*name.Of, record, name.Index));
+  if (kind == RecordKind::Promotion) text += " (" + As<Promotion>(record).Initials.Str() + ")";
+  return text;
+}
 
 namespace {
 
@@ -145,6 +184,135 @@ std::vector<std::string> DeleteRecord(World& world, RecordKind kind, int number)
   Forget(world, kind, number, also);
   MendConsequences(world, before, also);
   return also;
+}
+
+// What a record holds before an author has said anything, and what a copy holds.
+
+namespace {
+
+void Begin(Worker& worker) {
+  worker.Gender = true;
+  worker.Age = 25;
+  worker.Weight = "H";
+  worker.Position = kOpener;
+  for (Percent Worker::*skill :
+       {&Worker::Brawl, &Worker::Technical, &Worker::Speed, &Worker::Stiff, &Worker::Sell,
+        &Worker::Charisma, &Worker::Attitude, &Worker::Behaviour})
+    worker.*skill = 50;
+  worker.Over = 30;
+  worker.Speaks = true;
+  worker.Disposition = "F";
+}
+
+void Begin(Promotion& promotion) {
+  promotion.Size = kBackyard;
+  promotion.TicketPrice = 5;
+  promotion.Image = 50;
+  promotion.Production = 5;
+  promotion.Risk = 50;
+  promotion.MeetingDay = "Monday";
+}
+
+void Begin(Staff& staff) {
+  staff.Gender = true;
+  staff.BirthMonth = 1;
+  staff.Age = 35;
+  staff.Position = kAnnouncer;
+  staff.Talent = 50;
+  staff.Backstage = 50;
+}
+
+void Begin(Team& team) {
+  team.Experience = 50;
+}
+
+void Begin(Stable&) {}
+
+void Begin(Title& title) {
+  title.Singles = true;
+  title.Image = 50;
+}
+
+void Begin(Show& show) {
+  show.Day = "Monday";
+  show.Slot = "P";
+}
+
+void Begin(Network& network) {
+  for (Hundredths Network::*audience : {&Network::EarlyAudience, &Network::PrimeAudience,
+                                        &Network::LateAudience, &Network::GraveAudience})
+    network.*audience = 100;
+  for (Percent Network::*risk :
+       {&Network::EarlyRisk, &Network::PrimeRisk, &Network::LateRisk, &Network::GraveRisk})
+    network.*risk = 50;
+}
+
+void Begin(Sponsor& sponsor) {
+  sponsor.Morality = 50;
+  sponsor.Pay = 10;
+}
+
+void Begin(Event& event) {
+  event.Month = 1;
+  event.Type = 4;
+}
+
+void Part(Promotion& promotion) {
+  promotion.Commissioner = 0;
+  promotion.HeadTrainer = 0;
+  promotion.DevBooker = 0;
+  promotion.Sponsor = {};
+}
+
+void Part(Staff& staff) {
+  if (staff.Position == kOwner) staff.Employer = 0;
+}
+
+void Part(Sponsor& sponsor) {
+  sponsor.Promotion = 0;
+  sponsor.ContractMonths = 0;
+}
+
+template <class T>
+void Part(T&) {}
+
+/// "Bram Okafor 2", "CWA2": the first that no record has in this field.
+std::string FreeText(const World& world, RecordKind kind, const Field& field,
+                     std::string_view text) {
+  std::vector<std::string> taken;
+  for (int number = 1; number <= CountOf(world, kind); ++number)
+    taken.emplace_back(FieldText(field, RecordAt(world, kind, number)));
+  for (int n = 2;; ++n) {
+    const std::string behind = (field.Width > 6 ? " " : "") + std::to_string(n);
+    std::string free(
+        detail::Trimmed(text.substr(0, static_cast<std::size_t>(field.Width) - behind.size())));
+    free += behind;
+    if (std::find(taken.begin(), taken.end(), free) == taken.end()) return free;
+  }
+}
+
+}  // namespace
+
+Bytes NewRecord(RecordKind kind) {
+  Bytes record = TableKindOf(LayoutOf(kind)).Default;
+  const World world;
+  WithRecords(world, kind, [&]<class T>(const Records<T>&) { Begin(As<T>(record.data())); });
+  return record;
+}
+
+Bytes CopyOfRecord(const World& world, RecordKind kind, int number) {
+  const std::byte* from = RecordAt(world, kind, number);
+  Bytes record(from, from + LayoutOf(kind).Size);
+  for (const Field& field : LayoutOf(kind).Fields) {
+    if (field.Kind != FieldKind::Text || (!field.IsKey && field.Name != "Name")) continue;
+    SetFieldText(field, record.data(), 0, FreeText(world, kind, field, FieldText(field, from)));
+  }
+  WithRecords(world, kind, [&]<class T>(const Records<T>&) {
+    T& copy = As<T>(record.data());
+    Part(copy);
+    if constexpr (requires { copy.Uid; }) copy.Uid = 0;  // nobody's yet, so nobody works for it
+  });
+  return record;
 }
 
 }  // namespace grapplemont

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "records/table.h"
+#include "records/store/table.h"
+#include "records/tables/worldreport.h"
 
 // Record files that came from elsewhere and lie beside the data: what can be read of them, and what
 // is to be said about the rest.
@@ -20,7 +22,7 @@ struct FileBytes {
   std::string Remark;  // what was left aside, and why: "newtv.dat is empty."
 };
 /// Reads a file of records of this layout; one that is too long, unreadable or no file at all is
-/// told in the remark and gives no record.
+/// reported in the remark and gives no record.
 FileBytes ReadFileBytes(Disk& disk, const std::string& folder, const std::string& name,
                         const RecordLayout& layout);
 
@@ -41,5 +43,32 @@ RecordFile<T> ReadRecordFile(Disk& disk, const std::string& folder, const std::s
     std::memcpy(read.Records.data(), file.Whole.data(), read.Records.size() * sizeof(T));
   return read;
 }
+
+// The data as a folder of tables that people can edit, out and in.
+
+/// How many records of a file there are, and how many there would be.
+struct RecordCount {
+  std::string Table, File;
+  int Now = 0;
+  std::optional<int> Then = {};
+};
+/// One for each file of the data; `then` may be left out.
+std::vector<RecordCount> CountsOf(const World& now, const World* then);
+
+/// Tables looked at before they take the place of the data.
+struct TablesPreview {
+  std::string WhyNot;                 // the folder is none, or its tables are of no use here
+  std::vector<std::string> Mistakes;  // what is wrong in them, a line each
+  std::optional<World> Made;          // when nothing is
+  std::vector<RecordCount> Counts;
+};
+TablesPreview LookAtTables(Disk& disk, const std::string& folder, const World& data);
+
+/// The data become what the tables have made; the ten files and nothing else.
+void TakeOver(World& data, const World& made);
+
+/// The path, in UTF-8, of what a player typed: in the home unless it begins at the root; without
+/// slashes at its end.
+std::string PathInHome(const std::string& home, std::string_view typed);
 
 }  // namespace grapplemont

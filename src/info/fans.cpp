@@ -5,11 +5,10 @@
 
 #include "business/past.h"
 #include "calendar/events.h"
-#include "info/fill.h"
 #include "info/infowords.h"
 #include "info/results.h"
 #include "info/worldnews.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "rivals/promotionfacts.h"
 #include "show/attendance.h"

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
-#include "records/deeds.h"
-#include "records/words.h"
+#include "records/fields/chronicle.h"
+#include "records/fields/wording.h"
 
 // What this room says: the files of words/ that are its own, and what the lines under each of their
 // headings may name. The meeting's points are in meetingpoints.h.
@@ -18,7 +21,7 @@ Blocks Rumours();
 Blocks Fans();
 }  // namespace words
 
-/// The lines of a point of the meeting: so many ways to say it, then what to do, if anything.
+/// The lines of a point of the meeting: a number of ways to say it, then what to do, if anything.
 inline constexpr int kWaysToSay = 2;
 
 /// How a deed is reported.
@@ -146,5 +149,15 @@ inline constexpr FanRow kFanRows[] = {
 inline std::span<const std::string_view> FanLines(FanMood mood) {
   return LinesUnder(words::Fans(), static_cast<int>(mood));
 }
+
+/// Names in a line, without their braces, and the words that go there.
+using LineWords = std::vector<std::pair<std::string_view, std::string>>;
+
+/// The line with the words in place of {their names}; a name without words stays. A count may choose
+/// between two forms (ReadCounted). The first letter of all is a capital.
+std::string FillLine(std::string_view line, const LineWords& words);
+
+/// "the CWA Crown"; a name that brings its article along keeps one.
+std::string WithArticle(std::string_view name);
 
 }  // namespace grapplemont

@@ -4,6 +4,14 @@
 
 namespace grapplemont {
 
+void SetMailOption(GameInfo& game, const MailOption& option, int choice) {
+  game.*option.Choice = option.TwoWay && choice == kMailRivals ? int(kMailAlways) : choice;
+}
+
+void SetAllMailOptions(GameInfo& game, int choice) {
+  for (const MailOption& option : kMailOptionTable) SetMailOption(game, option, choice);
+}
+
 std::vector<std::string> MailSenders(const World& world) {
   std::set<std::string> senders;
   for (const Mail& mail : world.News())

@@ -2,9 +2,15 @@
 
 #include <algorithm>
 
-#include "info/fill.h"
+#include "business/development.h"
 #include "info/infowords.h"
+#include "info/meetingfacts.h"
+#include "records/fields/wording.h"
+#include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "roster/postings.h"
+#include "roster/staff.h"
+#include "roster/talks.h"
 #include "roster/workerfacts.h"
 
 namespace grapplemont {
@@ -69,6 +75,220 @@ std::string SomeOf(const std::vector<const Worker*>& people, std::size_t most) {
   }
   if (people.size() > named) text += " and " + std::to_string(people.size() - named) + " more";
   return text;
+}
+
+// The meeting on contracts, on who is hurt, on the young, and on the staff itself.
+
+namespace {
+
+using People = std::vector<const Worker*>;
+
+constexpr int kSoonMonths = 3;
+constexpr int kWornOut = 40, kTired = 60;
+constexpr int kTeaches = 41;  // the least talent of a booker who has anything to teach
+constexpr int kSomeNames = 4;
+constexpr int kHalfAYear = 6, kYear = 12;  // months
+
+bool EndsWithin(int left, int from, int until) {
+  return left != kNoEnd && left >= from && left <= until;
+}
+
+/// For how many months they would sign if everything else were at least as they want it.
+bool WouldSign(const World& world, const Worker& worker, int months) {
+  const RenewalTerms terms = RenewalTermsOf(world, worker);
+  ContractOffer best{kHighestWage, months, terms.Written, true};
+  return JudgeRenewal(worker, terms, best).Accepted;
+}
+bool MovesOn(const World& world, const Worker& worker) {
+  return !WouldSign(world, worker, kHalfAYear) && !WouldSign(world, worker, kYear);
+}
+bool SignsForHalfAYear(const World& world, const Worker& worker) {
+  return WouldSign(world, worker, kHalfAYear) && !WouldSign(world, worker, kYear);
+}
+
+/// Whose contracts end after that many months, and who will talk about another.
+People Ending(const World& world, int from, int until) {
+  return Ours(world, [&](const Worker& w) {
+    return EndsWithin(w.ContractMonths, from, until) && !w.RetiringSoon && !(w.Status == "Hom") &&
+           WhyNoRenewal(w).empty();
+  });
+}
+
+void TalkOfEndings(Meeting& meeting, Point point, int from, int until) {
+  const World& world = meeting.Of();
+  People ending = Ending(world, from, until);
+  std::erase_if(ending, [&](const Worker* w) { return MovesOn(world, *w); });
+  if (ending.empty()) return;
+  People brief = ending;
+  std::erase_if(brief, [&](const Worker* w) { return !SignsForHalfAYear(world, *w); });
+  const Worker& first = *ending.front();
+  meeting.Say(point, {{"n", Number(ending.size())},
+                      {"names", SomeOf(ending, kSomeNames)},
+                      {"who", first.Name.Str()},
+                      {"wage", Dollars(RenewalTermsOf(world, first).Wage * 1000LL)},
+                      {"brief", brief.empty() ? ""
+                                              : " For 6 months and not a day more: " +
+                                                    SomeOf(brief, kSomeNames) + "."}});
+}
+
+void TalkOfThoseWhoMoveOn(Meeting& meeting) {
+  const World& world = meeting.Of();
+  People leaving = Ending(world, 1, kSoonMonths);
+  std::erase_if(leaving, [&](const Worker* w) { return !MovesOn(world, *w); });
+  if (!leaving.empty())
+    meeting.Say(Point::MovingOn,
+                {{"n", Number(leaving.size())}, {"names", SomeOf(leaving, kSomeNames)}});
+}
+
+void TalkOfTheUnwilling(Meeting& meeting) {
+  const People unwilling = Ours(meeting.Of(), [](const Worker& w) {
+    return EndsWithin(w.ContractMonths, 1, kSoonMonths) && !w.RetiringSoon &&
+           !(w.Status == "Hom") && !WhyNoRenewal(w).empty();
+  });
+  if (unwilling.empty()) return;
+  const Worker& first = *unwilling.front();
+  meeting.Say(Point::WillNotSign, {{"n", Number(unwilling.size())},
+                                   {"names", SomeOf(unwilling)},
+                                   {"who", first.Name.Str()},
+                                   {"morale", std::to_string(first.Morale)},
+                                   {"loyalty", std::to_string(first.Loyalty)}});
+}
+
+void TalkOfStaffContracts(Meeting& meeting) {
+  std::string names;
+  int count = 0;
+  for (const Staff& staff : meeting.Of().AllStaff()) {
+    if (staff.Employer != meeting.Player().Uid || staff.Position == kOwner ||
+        !EndsWithin(staff.ContractMonths, 1, kSoonMonths))
+      continue;
+    names += (names.empty() ? "" : ", ") + staff.Name.Str();
+    ++count;
+  }
+  if (count > 0)
+    meeting.Say(Point::StaffContracts, {{"n", std::to_string(count)}, {"names", names}});
+}
+
+std::string Return(const People& absent, const Worker& first) {
+  const std::string months = "in " + Counted(first.StatusMonths, "month") + ".";
+  return (absent.size() == 1 ? "Back " : first.Name.Str() + " is back first, ") + months;
+}
+
+void TalkOfAbsent(Meeting& meeting, Point point, const People& absent) {
+  if (absent.empty()) return;
+  const Worker& first = **std::min_element(absent.begin(), absent.end(), [](auto* a, auto* b) {
+    return a->StatusMonths < b->StatusMonths;
+  });
+  meeting.Say(point, {{"n", Number(absent.size())},
+                      {"names", SomeOf(absent, kSomeNames)},
+                      {"return", Return(absent, first)}});
+}
+
+void TalkOfCondition(Meeting& meeting, Point point, int from, int below) {
+  const People people = Ours(meeting.Of(), [=](const Worker& w) {
+    return IsOnRoster(w) && w.Status == "Nor" && w.Condition >= from && w.Condition < below;
+  });
+  if (people.empty()) return;
+  const Worker& worst = **std::min_element(
+      people.begin(), people.end(), [](auto* a, auto* b) { return a->Condition < b->Condition; });
+  meeting.Say(point, {{"n", Number(people.size())},
+                      {"names", SomeOf(people, kSomeNames)},
+                      {"who", worst.Name.Str()},
+                      {"condition", std::to_string(worst.Condition)}});
+}
+
+/// Why nobody learns anything from this teacher; empty when somebody does.
+std::string WhyNoLessons(const World& world, int staffUid, const char* nobody) {
+  const Staff* staff = world.FindStaff(staffUid);
+  if (!staff) return nobody;
+  return staff->Talent < kTeaches ? staff->Name.Str() + " has nothing to teach, with a talent of " +
+                                        std::to_string(staff->Talent)
+                                  : "";
+}
+
+void TalkOfTerritory(Meeting& meeting) {
+  const World& world = meeting.Of();
+  const Promotion& player = meeting.Player();
+  const People pupils =
+      HasSite(player, Site::Territory) ? PeopleAt(world, Site::Territory) : People();
+  if (pupils.empty()) return;
+  const std::string territory = player.DevName.Str();
+  if (const std::string why = WhyNoLessons(world, player.DevBooker, "nobody books it");
+      !why.empty())
+    meeting.Say(Point::TerritoryIdle,
+                {{"n", Number(pupils.size())}, {"territory", territory}, {"why", why}});
+  People grown = pupils;
+  std::erase_if(grown, [](const Worker* w) { return w->Over < w->Potential; });
+  if (!grown.empty())
+    meeting.Say(Point::TerritoryOutgrown,
+                {{"n", Number(grown.size())}, {"names", SomeOf(grown)}, {"territory", territory}});
+}
+
+void TalkOfCamp(Meeting& meeting) {
+  const World& world = meeting.Of();
+  const Promotion& player = meeting.Player();
+  if (!HasSite(player, Site::Camp)) return;
+  const std::string camp = player.CampName.Str();
+  const People trainees = PeopleAt(world, Site::Camp);
+  if (trainees.empty()) return meeting.Say(Point::CampEmpty, {{"camp", camp}});
+  if (!world.FindStaff(player.HeadTrainer))
+    meeting.Say(
+        Point::CampIdle,
+        {{"n", Number(trainees.size())}, {"camp", camp}, {"why", "nobody is the head of it"}});
+  People learned = trainees;
+  std::erase_if(learned, [](const Worker* w) { return SkillTier(*w) == 0; });
+  if (learned.empty()) return;
+  const Worker& best = *learned.front();
+  meeting.Say(Point::CampLearned,
+              {{"names", SomeOf(learned)},
+               {"skill", std::to_string(
+                             std::max({int(best.Brawl), int(best.Technical), int(best.Speed)}))}});
+}
+
+/// Posts from which somebody speaks at the meeting.
+constexpr bool SpeaksHere(int post) {
+  return post != kReferee;
+}
+
+}  // namespace
+
+void TalkOfContracts(Meeting& meeting) {
+  TalkOfEndings(meeting, Point::ContractsEnd, 1, 1);
+  TalkOfEndings(meeting, Point::ContractsSoon, 2, kSoonMonths);
+  TalkOfTheUnwilling(meeting);
+  TalkOfThoseWhoMoveOn(meeting);
+  TalkOfStaffContracts(meeting);
+  const People retiring = Ours(meeting.Of(), [](const Worker& w) { return bool(w.RetiringSoon); });
+  if (!retiring.empty()) meeting.Say(Point::Retiring, {{"names", SomeOf(retiring)}});
+}
+
+void TalkOfHealth(Meeting& meeting) {
+  const World& world = meeting.Of();
+  TalkOfAbsent(meeting, Point::Injured,
+               Ours(world, [](const Worker& w) { return w.Status == "Inj"; }));
+  TalkOfAbsent(meeting, Point::Suspended,
+               Ours(world, [](const Worker& w) { return w.Status == "Sus" || w.Status == "Reh"; }));
+  TalkOfCondition(meeting, Point::WornOut, 0, kWornOut);
+  TalkOfCondition(meeting, Point::Tired, kWornOut, kTired);
+}
+
+void TalkOfTheYoung(Meeting& meeting) {
+  TalkOfTerritory(meeting);
+  TalkOfCamp(meeting);
+}
+
+void TalkOfStaff(Meeting& meeting) {
+  std::string empty;
+  for (const PostCount& post : PostCounts(meeting.Of())) {
+    const std::string name(PostText(post.Post));
+    if (post.Have < post.Need)
+      meeting.Say(Point::PostShort, {{"post", name},
+                                     {"n", Number(post.Have)},
+                                     {"need", Number(post.Need)},
+                                     {"remedy", PostAdvice({post})}});
+    else if (post.Have == 0 && SpeaksHere(post.Post))
+      empty += (empty.empty() ? "" : ", ") + name;
+  }
+  if (!empty.empty()) meeting.Say(Point::PostEmpty, {{"posts", empty}});
 }
 
 }  // namespace grapplemont

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "info/fill.h"
+#include "info/infowords.h"
 #include "info/meetingpoints.h"
 #include "records/world.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "info/fill.h"
+#include "info/infowords.h"
 #include "records/world.h"
 
 // What the subjects of the meeting count with.

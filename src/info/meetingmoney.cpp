@@ -5,7 +5,7 @@
 #include "business/sponsors.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "rivals/purse.h"
 #include "roster/talks.h"

@@ -2,7 +2,7 @@
 #include "business/finance.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/rivals.h"

@@ -1,6 +1,6 @@
 #include "info/meetingpoints.h"
 
-#include "records/vocabulary.h"
+#include "records/fields/vocabulary.h"
 
 namespace grapplemont {
 

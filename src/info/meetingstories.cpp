@@ -5,15 +5,15 @@
 #include "calendar/image.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "show/attendance.h"
 #include "storylines/feuds.h"
 #include "storylines/titles.h"
 
-// The meeting on what is told on the shows: image, feuds, Titles, Events.
+// The meeting on what happens on the shows: image, feuds, Titles, Events.
 
 namespace grapplemont {
 

@@ -4,7 +4,7 @@
 #include "business/tvtalks.h"
 #include "info/meeting.h"
 #include "info/meetingfacts.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "show/holdshow.h"
 

@@ -5,11 +5,11 @@
 #include "business/networks.h"
 #include "business/past.h"
 #include "business/tvtalks.h"
-#include "info/fill.h"
+#include "info/infowords.h"
 #include "info/meetingfacts.h"
 #include "info/worldnews.h"
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/purse.h"
@@ -88,7 +88,7 @@ void HearOfWorkers(Ear& ear, const World& world) {
   }
 }
 
-/// Money is told at its worst; nothing for a house that has enough.
+/// The worst about a house's money; nothing where it has enough.
 void HearOfMoney(Ear& ear, const Promotion& rival, const LineWords& words) {
   const std::string name = rival.Name.Str();
   const Purse purse = PurseOf(rival);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,28 @@ std::vector<NewsItem> WorldNews(const World& world);
 /// From which day on there is news: the first of the month before.
 Day NewsBegin(const World& world);
 
-/// One of so many, 0 to `of` - 1, that stays the same for the same words and the same day.
+/// A number from 0 to `of` - 1, that stays the same for the same words and the same day.
 std::size_t ChoiceFor(std::string_view words, Day day, std::size_t of);
+
+// Who is at the top of the wrestling world, and of what.
+
+struct RankFigure {
+  double Number = 0;  // what it is ordered by
+  std::string Text;
+};
+struct RankRow {
+  std::string Name, House;  // whose
+  RankFigure First, Second;
+};
+/// A list of the best, the first figure deciding.
+struct Ranking {
+  const char* Title;
+  const char* What;            // heads the names
+  const char *First, *Second;  // head the figures
+  std::vector<RankRow> (*Rows)(const World& world);
+};
+std::span<const Ranking> Rankings();
+/// Its rows from the top, a hundred at most.
+std::vector<RankRow> RowsOf(const World& world, const Ranking& ranking);
 
 }  // namespace grapplemont

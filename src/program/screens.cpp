@@ -1,7 +1,7 @@
 #include "program/screens.h"
 
 #include "calendar/screens/calendarscreens.h"
-#include "editor/screens/editorscreens.h"
+#include "editor/screens/screenpages.h"
 #include "rivals/screens/rivalscreens.h"
 #include "roster/screens/frmWorker.h"
 

@@ -1,13 +1,37 @@
 #include "records/modVar.h"
 
-#include "records/dates.h"
-#include "records/rolling.h"
+#include "records/fields/fields.h"
+#include "records/store/table.h"
 
 namespace grapplemont {
 
 namespace {
+
 constexpr int kMailsDropped = 1000;
+constexpr int kDeedsDropped = 500;
+
+Deed NewDeed(const World& world, DeedKind kind, const Promotion* house, std::string_view who) {
+  Deed deed{};
+  deed.On = world.Today();
+  deed.Kind = kind;
+  if (house) {
+    deed.Promotion = house->Uid;
+    deed.House = house->Initials;
+  }
+  deed.Who = who;
+  return deed;
 }
+
+template <class T>
+void Look(const Records<T>& records, std::string_view what, std::vector<std::string>& lines) {
+  const RecordLayout& layout = LayoutOf<T>();
+  if (records.Count() * 10 < layout.Limit * 9) return;
+  lines.push_back(std::string(layout.File) + " holds " + std::to_string(records.Count()) + " " +
+                  std::string(what) + "; " + std::to_string(layout.Limit) +
+                  " is the most. Start the next game from a smaller database.");
+}
+
+}  // namespace
 
 void AddNews(World& world, std::string_view from, std::string_view body) {
   Mail mail;
@@ -42,6 +66,37 @@ std::string Dollars(long long amount) {
   std::string digits = std::to_string(amount < 0 ? -amount : amount);
   for (std::size_t place = digits.size(); place > 3;) digits.insert(place -= 3, ",");
   return (amount < 0 ? "-$" : "$") + digits;
+}
+
+void NoteDeed(World& world, DeedKind kind, const Promotion* house, std::string_view who,
+              std::string_view other, int number) {
+  Deed deed = NewDeed(world, kind, house, who);
+  deed.Other = other;
+  deed.Number = number;
+  AppendRolling(world.Deeds(), deed, kDeedsDropped);
+}
+
+void NoteShow(World& world, DeedKind kind, const Promotion& house, std::string_view show, int draw,
+              int viewers, int people) {
+  Deed deed = NewDeed(world, kind, &house, show);
+  deed.Number = draw;
+  deed.Viewers = viewers;
+  deed.People = people;
+  AppendRolling(world.Deeds(), deed, kDeedsDropped);
+}
+
+std::vector<std::string> NearlyFullFiles(const World& world) {
+  std::vector<std::string> lines;
+  Look(world.Workers(), "workers", lines);
+  Look(world.AllStaff(), "staff", lines);
+  Look(world.Teams(), "Tag Teams", lines);
+  Look(world.Stables(), "stables", lines);
+  Look(world.Titles(), "Titles", lines);
+  Look(world.Shows(), "television shows", lines);
+  Look(world.Events(), "Events", lines);
+  Look(world.Networks(), "networks", lines);
+  Look(world.Sponsors(), "sponsors", lines);
+  return lines;
 }
 
 }  // namespace grapplemont

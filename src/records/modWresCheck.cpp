@@ -1,6 +1,6 @@
 #include "records/modWresCheck.h"
 
-#include "records/counted.h"
+#include "records/fields/wording.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include <numeric>
 
 #include "records/angles.h"
-#include "records/holes.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "records/segmentparts.h"
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <span>
 
-#include "records/field.h"
+#include "records/fields/field.h"
 
 // What the rows of the tables of Segments and angles hold. The tables themselves stand in
 // words/segments.txt and words/angles.txt, and the build makes words/segments.h and words/angles.h

@@ -13,7 +13,7 @@ GameInfo& World::Game() {
 
 const GameInfo& World::Game() const {
   if (!HasGame()) throw WorldFault("This folder has no gameinfo.dat: no game is played in it.");
-  return gameInfos_[1];
+  return GameInfos()[1];
 }
 
 Promotion& World::Player() {
@@ -30,10 +30,7 @@ const Promotion& World::Player() const {
 }
 
 std::array<Table*, World::kTables> World::Tables() {
-  return {&titles_,   &events_,    &networks_, &promotions_, &sponsors_, &stables_, &staff_,
-          &teams_,    &shows_,     &workers_,  &gameInfos_,  &news_,     &notes_,   &feuds_,
-          &segments_, &incidents_, &showRuns_, &history_,    &bouts_,    &tallies_, &reigns_,
-          &reports_,  &awards_,    &yearEnds_, &deeds_};
+  return std::apply([](auto&... table) { return std::array<Table*, kTables>{&table...}; }, tables_);
 }
 
 std::array<const Table*, World::kTables> World::Tables() const {
@@ -45,9 +42,7 @@ std::array<const Table*, World::kTables> World::Tables() const {
 
 void World::Load(const std::map<std::string, Bytes>& files) {
   // An old guess that still holds would hide an earlier record of the same uid.
-  for (UidIndex* index :
-       {&workerIndex_, &promotionIndex_, &staffIndex_, &networkIndex_, &sponsorIndex_})
-    index->Numbers.clear();
+  std::apply([](auto&... index) { (index.Numbers.clear(), ...); }, indices_);
   for (Table* table : Tables()) {
     const auto file = files.find(std::string(table->File()));
     if (file == files.end()) {

@@ -7,19 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include "records/chronicle.h"
-#include "records/companies.h"
-#include "records/deeds.h"
-#include "records/draws.h"
-#include "records/gameinfo.h"
-#include "records/history.h"
-#include "records/people.h"
-#include "records/promotion.h"
-#include "records/showrun.h"
-#include "records/slot.h"
-#include "records/storyrecords.h"
-#include "records/table.h"
-#include "records/worker.h"
+#include "records/fields/outside.h"
+#include "records/store/knownfiles.h"
+#include "records/store/slot.h"
 
 namespace grapplemont {
 
@@ -45,81 +35,98 @@ class World {
   explicit World(std::unique_ptr<Draws> chance = std::make_unique<SeededDraws>(1),
                  std::unique_ptr<Draws> prose = std::make_unique<SeededDraws>(2));
 
-  Records<Worker>& Workers() { return workers_; }
-  const Records<Worker>& Workers() const { return workers_; }
-  Records<Promotion>& Promotions() { return promotions_; }
-  const Records<Promotion>& Promotions() const { return promotions_; }
-  Records<Staff>& AllStaff() { return staff_; }
-  const Records<Staff>& AllStaff() const { return staff_; }
-  Records<Team>& Teams() { return teams_; }
-  const Records<Team>& Teams() const { return teams_; }
-  Records<Stable>& Stables() { return stables_; }
-  const Records<Stable>& Stables() const { return stables_; }
-  Records<Title>& Titles() { return titles_; }
-  const Records<Title>& Titles() const { return titles_; }
-  Records<Show>& Shows() { return shows_; }
-  const Records<Show>& Shows() const { return shows_; }
-  Records<Network>& Networks() { return networks_; }
-  const Records<Network>& Networks() const { return networks_; }
-  Records<Sponsor>& Sponsors() { return sponsors_; }
-  const Records<Sponsor>& Sponsors() const { return sponsors_; }
-  Records<Event>& Events() { return events_; }
-  const Records<Event>& Events() const { return events_; }
-  Records<Mail>& News() { return news_; }
-  const Records<Mail>& News() const { return news_; }
-  Records<Feud>& Feuds() { return feuds_; }
-  const Records<Feud>& Feuds() const { return feuds_; }
-  Records<Segment>& Segments() { return segments_; }
-  const Records<Segment>& Segments() const { return segments_; }
-  Records<Incident>& Incidents() { return incidents_; }
-  const Records<Incident>& Incidents() const { return incidents_; }
+  template <class T>
+  Records<T>& Of() {
+    return std::get<Records<T>>(tables_);
+  }
+  template <class T>
+  const Records<T>& Of() const {
+    return std::get<Records<T>>(tables_);
+  }
+  Records<Worker>& Workers() { return Of<Worker>(); }
+  const Records<Worker>& Workers() const { return Of<Worker>(); }
+  Records<Promotion>& Promotions() { return Of<Promotion>(); }
+  const Records<Promotion>& Promotions() const { return Of<Promotion>(); }
+  Records<Staff>& AllStaff() { return Of<Staff>(); }
+  const Records<Staff>& AllStaff() const { return Of<Staff>(); }
+  Records<Team>& Teams() { return Of<Team>(); }
+  const Records<Team>& Teams() const { return Of<Team>(); }
+  Records<Stable>& Stables() { return Of<Stable>(); }
+  const Records<Stable>& Stables() const { return Of<Stable>(); }
+  Records<Title>& Titles() { return Of<Title>(); }
+  const Records<Title>& Titles() const { return Of<Title>(); }
+  Records<Show>& Shows() { return Of<Show>(); }
+  const Records<Show>& Shows() const { return Of<Show>(); }
+  Records<Network>& Networks() { return Of<Network>(); }
+  const Records<Network>& Networks() const { return Of<Network>(); }
+  Records<Sponsor>& Sponsors() { return Of<Sponsor>(); }
+  const Records<Sponsor>& Sponsors() const { return Of<Sponsor>(); }
+  Records<Event>& Events() { return Of<Event>(); }
+  const Records<Event>& Events() const { return Of<Event>(); }
+  Records<Mail>& News() { return Of<Mail>(); }
+  const Records<Mail>& News() const { return Of<Mail>(); }
+  Records<Feud>& Feuds() { return Of<Feud>(); }
+  const Records<Feud>& Feuds() const { return Of<Feud>(); }
+  Records<Segment>& Segments() { return Of<Segment>(); }
+  const Records<Segment>& Segments() const { return Of<Segment>(); }
+  Records<Incident>& Incidents() { return Of<Incident>(); }
+  const Records<Incident>& Incidents() const { return Of<Incident>(); }
   /// One record while a show is under way, else none.
-  Records<ShowRun>& ShowRuns() { return showRuns_; }
-  const Records<ShowRun>& ShowRuns() const { return showRuns_; }
+  Records<ShowRun>& ShowRuns() { return Of<ShowRun>(); }
+  const Records<ShowRun>& ShowRuns() const { return Of<ShowRun>(); }
   /// The past, oldest first.
-  Records<HistoryEntry>& History() { return history_; }
-  const Records<HistoryEntry>& History() const { return history_; }
+  Records<HistoryEntry>& History() { return Of<HistoryEntry>(); }
+  const Records<HistoryEntry>& History() const { return Of<HistoryEntry>(); }
   /// The player's matches, oldest first, and what each worker's add up to.
-  Records<HeldMatch>& Bouts() { return bouts_; }
-  const Records<HeldMatch>& Bouts() const { return bouts_; }
-  Records<MatchTally>& Tallies() { return tallies_; }
-  const Records<MatchTally>& Tallies() const { return tallies_; }
+  Records<HeldMatch>& Bouts() { return Of<HeldMatch>(); }
+  const Records<HeldMatch>& Bouts() const { return Of<HeldMatch>(); }
+  Records<MatchTally>& Tallies() { return Of<MatchTally>(); }
+  const Records<MatchTally>& Tallies() const { return Of<MatchTally>(); }
   /// The reigns of all Titles, oldest first.
-  Records<TitleReign>& Reigns() { return reigns_; }
-  const Records<TitleReign>& Reigns() const { return reigns_; }
+  Records<TitleReign>& Reigns() { return Of<TitleReign>(); }
+  const Records<TitleReign>& Reigns() const { return Of<TitleReign>(); }
   /// The words of the last shows, in no order.
-  Records<ReportPart>& Reports() { return reports_; }
-  const Records<ReportPart>& Reports() const { return reports_; }
-  Records<YearAward>& Awards() { return awards_; }
-  const Records<YearAward>& Awards() const { return awards_; }
-  Records<YearEnd>& YearEnds() { return yearEnds_; }
-  const Records<YearEnd>& YearEnds() const { return yearEnds_; }
+  Records<ReportPart>& Reports() { return Of<ReportPart>(); }
+  const Records<ReportPart>& Reports() const { return Of<ReportPart>(); }
+  Records<YearAward>& Awards() { return Of<YearAward>(); }
+  const Records<YearAward>& Awards() const { return Of<YearAward>(); }
+  Records<YearEnd>& YearEnds() { return Of<YearEnd>(); }
+  const Records<YearEnd>& YearEnds() const { return Of<YearEnd>(); }
   /// What the wrestling world has done of late, oldest first.
-  Records<Deed>& Deeds() { return deeds_; }
-  const Records<Deed>& Deeds() const { return deeds_; }
-  Records<GameInfo>& GameInfos() { return gameInfos_; }
-  const Records<GameInfo>& GameInfos() const { return gameInfos_; }
-  TextFile& Notes() { return notes_; }
-  const TextFile& Notes() const { return notes_; }
+  Records<Deed>& Deeds() { return Of<Deed>(); }
+  const Records<Deed>& Deeds() const { return Of<Deed>(); }
+  Records<GameInfo>& GameInfos() { return Of<GameInfo>(); }
+  const Records<GameInfo>& GameInfos() const { return Of<GameInfo>(); }
+  TextFile& Notes() { return std::get<TextFile>(tables_); }
+  const TextFile& Notes() const { return std::get<TextFile>(tables_); }
+
+  /// Calls `visit` with the Records of every file.
+  template <class Visit>
+  void ForEachFile(Visit visit) {
+    const auto one = [&]<class Kept>(Kept& table) {
+      if constexpr (!std::is_same_v<Kept, TextFile>) visit(table);
+    };
+    std::apply([&](auto&... table) { (one(table), ...); }, tables_);
+  }
 
   /// The state of the game; throws WorldFault in a folder without one, such as the default data.
   GameInfo& Game();
   const GameInfo& Game() const;
-  bool HasGame() const { return gameInfos_.Count() > 0; }
+  bool HasGame() const { return GameInfos().Count() > 0; }
   Day Today() const { return Game().Today; }
 
   // By uid; nullptr for 0 and for a uid that leads nowhere. Constant time for a uid that leads
   // somewhere.
-  Worker* FindWorker(int uid) { return Find(workers_, workerIndex_, uid); }
-  const Worker* FindWorker(int uid) const { return Find(workers_, workerIndex_, uid); }
-  Promotion* FindPromotion(int uid) { return Find(promotions_, promotionIndex_, uid); }
-  const Promotion* FindPromotion(int uid) const { return Find(promotions_, promotionIndex_, uid); }
-  Staff* FindStaff(int uid) { return Find(staff_, staffIndex_, uid); }
-  const Staff* FindStaff(int uid) const { return Find(staff_, staffIndex_, uid); }
-  Network* FindNetwork(int uid) { return Find(networks_, networkIndex_, uid); }
-  const Network* FindNetwork(int uid) const { return Find(networks_, networkIndex_, uid); }
-  Sponsor* FindSponsor(int uid) { return Find(sponsors_, sponsorIndex_, uid); }
-  const Sponsor* FindSponsor(int uid) const { return Find(sponsors_, sponsorIndex_, uid); }
+  Worker* FindWorker(int uid) { return Find<Worker>(*this, uid); }
+  const Worker* FindWorker(int uid) const { return Find<Worker>(*this, uid); }
+  Promotion* FindPromotion(int uid) { return Find<Promotion>(*this, uid); }
+  const Promotion* FindPromotion(int uid) const { return Find<Promotion>(*this, uid); }
+  Staff* FindStaff(int uid) { return Find<Staff>(*this, uid); }
+  const Staff* FindStaff(int uid) const { return Find<Staff>(*this, uid); }
+  Network* FindNetwork(int uid) { return Find<Network>(*this, uid); }
+  const Network* FindNetwork(int uid) const { return Find<Network>(*this, uid); }
+  Sponsor* FindSponsor(int uid) { return Find<Sponsor>(*this, uid); }
+  const Sponsor* FindSponsor(int uid) const { return Find<Sponsor>(*this, uid); }
 
   /// The uid of the player's Promotion; 0 in a folder without a game.
   int PlayerUid() const { return HasGame() ? int(Game().PlayerPromotion) : 0; }
@@ -135,7 +142,7 @@ class World {
   SessionWords Session;
 
   /// Every file of a world, the ten of the data set first and in their fixed order.
-  static constexpr int kTables = 25;
+  static constexpr int kTables = std::tuple_size_v<AllTables>;
   std::array<Table*, kTables> Tables();
   std::array<const Table*, kTables> Tables() const;
 
@@ -151,43 +158,23 @@ class World {
 
  private:
   /// Record numbers by uid. An entry is only a guess that the record itself confirms.
+  template <class T>
   struct UidIndex {
     std::vector<int> Numbers;
   };
   template <class T>
-  static int NumberByUid(const Records<T>& records, UidIndex& index, int uid);
-  template <class R>
-  static auto Find(R& records, UidIndex& index, int uid) -> decltype(&records[1]) {
-    const int number = NumberByUid(records, index, uid);
+  static int NumberByUid(const Records<T>& records, UidIndex<T>& index, int uid);
+  template <class T, class Self>
+  static auto Find(Self& self, int uid) -> decltype(&self.template Of<T>()[1]) {
+    auto& records = self.template Of<T>();
+    const int number = NumberByUid(records, std::get<UidIndex<T>>(self.indices_), uid);
     return number == 0 ? nullptr : &records[number];
   }
 
-  Records<Worker> workers_;
-  Records<Promotion> promotions_;
-  Records<Staff> staff_;
-  Records<Team> teams_;
-  Records<Stable> stables_;
-  Records<Title> titles_;
-  Records<Show> shows_;
-  Records<Network> networks_;
-  Records<Sponsor> sponsors_;
-  Records<Event> events_;
-  Records<GameInfo> gameInfos_;
-  Records<Mail> news_;
-  Records<Feud> feuds_;
-  Records<Segment> segments_;
-  Records<Incident> incidents_;
-  Records<ShowRun> showRuns_;
-  Records<HistoryEntry> history_;
-  Records<HeldMatch> bouts_;
-  Records<MatchTally> tallies_;
-  Records<TitleReign> reigns_;
-  Records<ReportPart> reports_;
-  Records<YearAward> awards_;
-  Records<YearEnd> yearEnds_;
-  Records<Deed> deeds_;
-  TextFile notes_{"notes.dat"};
-  mutable UidIndex workerIndex_, promotionIndex_, staffIndex_, networkIndex_, sponsorIndex_;
+  AllTables tables_;
+  mutable std::tuple<UidIndex<Worker>, UidIndex<Promotion>, UidIndex<Staff>, UidIndex<Network>,
+                     UidIndex<Sponsor>>
+      indices_;
   std::unique_ptr<Draws> chance_, prose_;
   SessionWords committedSession_;
 };
@@ -198,10 +185,6 @@ inline constexpr std::array<std::string_view, 10> kDataSet = {
     "belt.dat",    "event.dat", "network.dat", "promos.dat", "sponsor.dat",
     "stables.dat", "staff.dat", "teams.dat",   "tv.dat",     "wrestler.dat"};
 
-/// The files a folder may hold and how long each may be.
-std::vector<KnownFile> KnownFiles();
-/// The same for one of them; 0 for any other name.
-std::int64_t MostBytesOf(std::string_view file);
 /// Reads the known files of a folder; others are left alone. A step that stands beside it counts
 /// (datastep.h). Throws DiskError, and WorldFault for a file that is too long or is none (a folder,
 /// a link).
@@ -215,7 +198,7 @@ std::vector<NewFile> FilesOf(const World& world);
 std::string FirstDifference(const World& world, const World& expected);
 
 template <class T>
-int World::NumberByUid(const Records<T>& records, UidIndex& index, int uid) {
+int World::NumberByUid(const Records<T>& records, UidIndex<T>& index, int uid) {
   if (uid < 1 || uid > 32767) return 0;
   const auto at = static_cast<std::size_t>(uid);
   const auto holds = [&](int number) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "records/angles.h"
-#include "records/holes.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "records/segmentparts.h"
 

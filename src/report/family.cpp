@@ -3,7 +3,7 @@
 #include <iterator>
 
 #include "records/angles.h"
-#include "records/enumnames.h"
+#include "records/fields/enumnames.h"
 
 namespace grapplemont {
 

@@ -4,7 +4,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "records/draws.h"
+#include "records/fields/outside.h"
 #include "records/segments.h"
 #include "records/world.h"
 #include "report/family.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/storyrecords.h"
+#include "records/fields/storyrecords.h"
 #include "report/ring.h"
 #include "report/teller.h"
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "records/words.h"
+#include "records/fields/wording.h"
 #include "report/cast.h"
 #include "report/family.h"
 #include "report/report.h"

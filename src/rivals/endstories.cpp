@@ -1,7 +1,7 @@
 #include "rivals/endstories.h"
 
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 
 namespace grapplemont {

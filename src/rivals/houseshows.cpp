@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "rivals/rivals.h"
 #include "rivals/tuning.h"
 #include "storylines/titles.h"

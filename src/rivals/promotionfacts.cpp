@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "business/past.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "rivals/ownership.h"
 #include "rivals/purse.h"

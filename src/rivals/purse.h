@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "records/promotion.h"
+#include "records/fields/companies.h"
 #include "records/world.h"
 
 // How a promotion stands with its money.

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "records/worker.h"
+#include "records/fields/people.h"
 #include "records/world.h"
 
 // Where the player's people stand: their place on the card, the development territory, the training

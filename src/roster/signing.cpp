@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/modVar.h"
 #include "records/severing.h"
 #include "roster/postings.h"
 #include "storylines/storynames.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "records/counted.h"
+#include "records/fields/wording.h"
 
 namespace grapplemont {
 

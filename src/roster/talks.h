@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "records/arithmetic.h"
-#include "records/vocabulary.h"
+#include "records/fields/vocabulary.h"
 #include "records/world.h"
 
 // What all contract talks share.

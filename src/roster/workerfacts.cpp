@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/market.h"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "storylines/lineages.h"
 

@@ -1,7 +1,13 @@
+#include "session/home.h"
+
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 
-#include "session/home.h"
+#include "records/fields/charset.h"
+#include "records/fields/fields.h"
+#include "records/store/slotfolder.h"
+#include "records/tables/worldreport.h"
 
 namespace grapplemont {
 
@@ -55,6 +61,82 @@ std::string FindHome(Disk& disk) {
   CopyFolder(disk, installed + "/data", user + "/data.new");
   disk.Rename(user + "/data.new", user + "/data");
   return user;
+}
+
+std::vector<std::string> WaitingPictures(Disk& disk, const std::string& pictureFolder, int set) {
+  std::vector<std::string> pictures;
+  const int most = set == 0 ? 4 : 10;
+  for (int i = 1; i <= most; ++i) {
+    const std::string number = std::to_string(i);
+    const std::string file =
+        set == 0 ? "VXM_load" + number + ".jpg"
+                 : "VXM_Set" + std::to_string(set) + "_" + (i < 10 ? "0" : "") + number + ".jpg";
+    if (disk.Look(pictureFolder + "/" + file) == Disk::Kind::File) pictures.push_back(file);
+  }
+  return pictures;
+}
+
+std::string DrawWaitingPicture(Disk& disk, const std::string& pictureFolder, int set,
+                               Draws& draws) {
+  std::vector<std::string> pictures = WaitingPictures(disk, pictureFolder, set);
+  if (pictures.empty() && set != 0) pictures = WaitingPictures(disk, pictureFolder, 0);
+  if (pictures.empty()) return {};
+  return pictures[static_cast<std::size_t>(draws.Draw(static_cast<int>(pictures.size())) - 1)];
+}
+
+namespace {
+
+SlotSummary Unreadable(const std::string& reason) {
+  return {"Slot Cannot Be Read", reason, false, false};
+}
+
+SlotSummary OtherFormat() {
+  return {"Save Slot Not In 2.0 Format", "", false, false};
+}
+
+}  // namespace
+
+SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
+  const std::string name(LayoutOf<GameInfo>().File);
+  const std::string standing = StandingFolder(disk, folder);
+  if (standing.empty()) return {};
+  const Disk::Kind kind = disk.Look(standing + "/" + name);
+  if (kind == Disk::Kind::Folder || kind == Disk::Kind::Other)
+    return Unreadable(name + " is no plain file.");
+  const auto bytes = Slot::Peek(disk, folder, KnownFiles(), name);
+  if (!bytes) return {};
+  GameInfo game;
+  if (bytes->size() < sizeof(GameInfo)) return OtherFormat();
+  std::memcpy(&game, bytes->data(), sizeof(GameInfo));
+  if (!(game.Version == kVersion)) return OtherFormat();
+  return {game.SaveName.Str(),
+          "( " + std::string(Says(kDifficulties, game.Difficulty)) + " level, started " +
+              MonthYear(game.StartDate) + ", current date " + MonthYear(game.Today) + ")" +
+              (HasEnded(game) ? " The career has ended." : ""),
+          false, true};
+} catch (const DiskError& fault) {
+  return Unreadable(fault.what());
+}
+
+std::string QuestionOfLeavings(Disk& disk, const std::string& folder) {
+  const std::string standing = StandingFolder(disk, folder);
+  if (disk.Look(standing) != Disk::Kind::Folder) return {};
+  std::vector<std::string> go, stay;
+  for (const std::string& name : disk.List(standing))
+    (IsOfSlot(name) ? go : stay).push_back(ForScreen(name));
+  if (go.empty() && stay.empty()) return {};
+  std::string question = "No game is kept in this slot, but its folder is not empty.";
+  if (!go.empty())
+    question += "\nWhat is left of a game that cannot be loaded is deleted: " + Listed(go) + ".";
+  if (!stay.empty()) question += "\nWhat is no game's stays in the folder: " + Listed(stay) + ".";
+  return question + "\nBegin the new game here?";
+}
+
+std::vector<std::string> MissingDataFiles(Disk& disk, const std::string& folder) {
+  std::vector<std::string> missing;
+  for (const std::string_view file : kDataSet)
+    if (disk.Look(folder + "/" + std::string(file)) != Disk::Kind::File) missing.emplace_back(file);
+  return missing;
 }
 
 }  // namespace grapplemont

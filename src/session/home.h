@@ -1,13 +1,42 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
-#include "records/disk.h"
+#include "records/fields/fields.h"
+#include "records/fields/outside.h"
+#include "records/store/disk.h"
 
 namespace grapplemont {
 
 /// The folder that holds data/, gfx/ and the slots: the working directory if it has data/, else the
 /// user's data folder, filled from the installed files the first time.
 std::string FindHome(Disk& disk);
+
+/// The pictures of a gallery that are there: set 0 is the program's own "VXM_load1.jpg" to
+/// "VXM_load4.jpg", sets 1 to 4 are "VXM_Set1_01.jpg" to "VXM_Set1_10.jpg" and so on.
+std::vector<std::string> WaitingPictures(Disk& disk, const std::string& pictureFolder, int set);
+/// One of them at random; of set 0 when the set has none; empty when there is none at all.
+std::string DrawWaitingPicture(Disk& disk, const std::string& pictureFolder, int set, Draws& draws);
+
+inline constexpr int kSlots = 8;
+
+/// What a slot's button and the label beside it say.
+struct SlotSummary {
+  std::string Caption = "<<<Empty Slot>>>";
+  std::string Details = {};
+  bool Empty = true;
+  bool Playable = false;
+};
+
+/// What loading the slot would find in its gameinfo.dat; a slot in use is exactly one that has it.
+SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder);
+
+/// What to ask before a game begins in a slot without one whose folder holds something all the
+/// same: what goes, what stays. Empty for an empty folder or none.
+std::string QuestionOfLeavings(Disk& disk, const std::string& folder);
+
+/// The files of the data set that `folder` lacks, in their fixed order.
+std::vector<std::string> MissingDataFiles(Disk& disk, const std::string& folder);
 
 }  // namespace grapplemont

@@ -7,7 +7,7 @@
 #include "calendar/awards.h"
 #include "calendar/events.h"
 #include "records/arithmetic.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/founding.h"
@@ -242,7 +242,7 @@ struct Preparation {
 };
 
 // In this order: contracts are drawn before fillers are made, so that fillers have none, and titles
-// are told by the names of teams that stand.
+// are known by the names of teams that stand.
 constexpr Preparation kPreparations[] = {
     {"Promotions", StartPromotions}, {"Challenge", MaybeChallenge}, {"Workers", StartWorkers},
     {"New workers", FillWorkers},    {"Staff", StartStaff},         {"New staff", FillStaff},

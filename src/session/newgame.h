@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "records/world.h"
 
 namespace grapplemont {

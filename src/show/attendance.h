@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/baseanddraw.h"
+#include "records/arithmetic.h"
 #include "show/ratings.h"
 
 // How many people come to a show. The promotion's standing decides, never the card: a good show

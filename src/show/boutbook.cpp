@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "records/modWresCheck.h"
-#include "records/rolling.h"
 #include "records/segments.h"
+#include "records/store/table.h"
 #include "show/showfeuds.h"
 #include "show/titlechange.h"
 #include "storylines/lineages.h"

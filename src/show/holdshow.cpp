@@ -6,7 +6,7 @@
 #include "business/tvshows.h"
 #include "records/angles.h"
 #include "records/arithmetic.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "show/boutbook.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "business/networks.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "show/attendance.h"
 

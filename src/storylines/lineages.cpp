@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <map>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "storylines/titles.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "records/charset.h"
+#include "records/fields/charset.h"
 #include "records/modWresCheck.h"
 
 namespace grapplemont {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
-#include "records/sweeps.h"
+#include "records/severing.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {

@@ -3,7 +3,6 @@
 #include <span>
 #include <string_view>
 
-#include "tools/arguments.h"
 #include "tools/tool.h"
 
 namespace grapplemont::tools {

@@ -2,17 +2,15 @@
 #include <optional>
 #include <ostream>
 
-#include "records/charset.h"
-#include "records/counted.h"
-#include "records/dates.h"
-#include "records/nearest.h"
+#include "records/fields/charset.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "session/home.h"
 #include "session/newgame.h"
-#include "session/slots.h"
-#include "tools/career.h"
 #include "tools/commands.h"
-#include "tools/folders.h"
-#include "tools/monthstats.h"
+#include "tools/officework.h"
+#include "tools/soak.h"
+#include "tools/tool.h"
 
 namespace grapplemont::tools {
 

@@ -2,14 +2,23 @@
 
 #include <algorithm>
 
+#include "booking/showstart.h"
 #include "business/finance.h"
 #include "business/sponsors.h"
-#include "records/dates.h"
+#include "business/tvshows.h"
+#include "business/tvtalks.h"
+#include "calendar/advanceday.h"
+#include "calendar/incidents.h"
+#include "records/fields/fields.h"
+#include "records/world.h"
+#include "report/report.h"
+#include "rivals/endstories.h"
+#include "rivals/founding.h"
 #include "rivals/purse.h"
+#include "rivals/rivals.h"
 #include "rivals/staffmarket.h"
 #include "rivals/tuning.h"
 #include "rivals/workermarket.h"
-#include "tools/televisionwork.h"
 
 namespace grapplemont::tools {
 
@@ -66,6 +75,125 @@ void WorkInTheOffice(World& world) {
     FitRoster(world, world.Player(), rosters);
   }
   FitPosts(world, world.Player(), Posts(world));
+}
+
+namespace {
+
+/// "CWA Friday", or "CWA Friday 2" where that is taken.
+std::string NameOfShow(const World& world, int day) {
+  const std::string plain = world.Player().Initials + " " + std::string(Says(kWeekDays, day));
+  std::string name = plain;
+  for (int n = 2; ShowNameTaken(world, name); ++n) name = plain + " " + std::to_string(n);
+  return name;
+}
+
+void TakeOffer(World& world) {
+  const auto offer = OfferOnTheTable(world);
+  if (!offer) return;
+  if (offer->Days.empty() || world.Shows().Full()) return DropOffer(world);
+  const int day = offer->Days.front();
+  AcceptOffer(world, *offer, day, NameOfShow(world, day));
+}
+
+void ExtendDeals(World& world) {
+  const Promotion& player = world.Player();
+  for (Show& show : world.Shows()) {
+    const Network* network = world.FindNetwork(show.Network);
+    if (show.Owner == player.Uid && network)
+      show.ContractWeeks += TalkOfExtension(player, show, *network).Weeks;
+  }
+}
+
+void SendATape(World& world) {
+  if (!ShowsOf(world, world.PlayerUid()).empty() || !WhyNoTape(world).empty() ||
+      world.Networks().Count() == 0)
+    return;
+  SendTape(world, world.Networks()[world.RandomDraw(world.Networks().Count())].Uid);
+}
+
+}  // namespace
+
+void WorkOnTelevision(World& world) {
+  TakeOffer(world);
+  if (IsMonday(world.Today())) ExtendDeals(world);
+  if (DayOfMonth(world.Today()) == 2) SendATape(world);
+}
+
+namespace {
+
+/// A show that was cut off goes to its end first.
+bool FinishTodays(World& world) {
+  if (!ShowUnderWay(world)) return false;
+  LineMemory memory;
+  FinishShow(world, &memory);
+  LeaveShow(world);
+  return true;
+}
+
+/// A show that the roster cannot fill is called off as well. True when it has been held.
+bool HoldTodays(World& world, DayKind kind, Shows shows) {
+  if (shows == Shows::Cancel) return false;
+  LineMemory memory;
+  return HoldAutoShow(world, kind == DayKind::Event, &memory);
+}
+
+/// Whoever runs a promotion unseen makes light of what happens backstage and takes no other job.
+void IgnoreIncidents(World& world) {
+  while (FirstIncident(world)) CloseIncident(world);
+}
+
+/// Whoever waits to challenge him is heard out.
+void MeetWhoWaits(World& world) {
+  if (world.Game().EndCode == kStrangerWaits) MeetStranger(world);
+}
+
+/// A rival no bigger than the promotion that was left has a chair for him; false where none is.
+bool TakeAnotherJob(World& world) {
+  std::vector<const Promotion*> offers;
+  for (const Promotion& promotion : world.Promotions())
+    if (IsRival(world, promotion) && promotion.Size >= world.Player().Size)
+      offers.push_back(&promotion);
+  if (offers.empty()) return false;
+  const int drawn = world.RandomDraw(static_cast<int>(offers.size()));
+  ChangeJob(world, *offers[static_cast<std::size_t>(drawn - 1)]);
+  world.Game().EndCode = 0;
+  return true;
+}
+
+}  // namespace
+
+int EndCodeOf(const World& world) {
+  return HasEnded(world.Game()) ? int(world.Game().EndCode) : 0;
+}
+
+void PlayDay(World& world, Shows shows, const StepWatcher& watcher) {
+  MeetWhoWaits(world);
+  world.Session.ShowRating = 0;
+  world.Session.ShowFlag = 0;
+  const DayKind kind = DayKindToday(world, [] { return true; });
+  const bool isShow = kind == DayKind::Television || kind == DayKind::Event;
+  const bool cancelled = isShow && !FinishTodays(world) && !HoldTodays(world, kind, shows);
+  AdvanceDay(world, cancelled, watcher);
+  IgnoreIncidents(world);
+  if (shows == Shows::Auto && !HasEnded(world.Game())) WorkInTheOffice(world);
+}
+
+CareerEnd PlayDays(Game& game, int days, Shows shows, const std::function<void(int day)>& dayPassed,
+                   AfterTheEnd after) {
+  World& world = game.World();
+  CareerEnd end;
+  end.EndCode = EndCodeOf(world);
+  while (end.Days < days && end.EndCode == 0) {
+    PlayDay(world, shows);
+    ++end.Days;
+    end.EndCode = EndCodeOf(world);
+    if (end.EndCode != 0) end.Reasons.push_back(end.EndCode);
+    if (end.EndCode != 0 && after == AfterTheEnd::AnotherJob && TakeAnotherJob(world))
+      end.EndCode = 0;
+    game.Commit();
+    dayPassed(end.Days);
+  }
+  return end;
 }
 
 }  // namespace grapplemont::tools

@@ -4,14 +4,39 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "ui/property.h"
+namespace grapplemont::ui {
+
+/// A value of a control that counts its changes, so that a shell redraws only what has changed.
+template <class T>
+class Property {
+ public:
+  Property(unsigned& revision, T value) : revision_(revision), value_(std::move(value)) {}
+  Property(const Property&) = delete;
+  Property& operator=(const Property&) = delete;
+
+  template <class V>
+  Property& operator=(V&& value) {
+    T next(std::forward<V>(value));
+    if (next != value_) {
+      value_ = std::move(next);
+      ++revision_;
+    }
+    return *this;
+  }
+  operator const T&() const { return value_; }
+  const T& Get() const { return value_; }
+  const T* operator->() const { return &value_; }
+
+ private:
+  unsigned& revision_;
+  T value_;
+};
 
 // The controls of a screen: values that a shell shows and a player works. They know no toolkit. A
 // screen sets them freely; what the player does comes through acts.h and runs the handlers.
-
-namespace grapplemont::ui {
 
 class Screen;
 
@@ -243,7 +268,7 @@ class ListBox : public Control {
   /// Turns one row of a list that takes several.
   void Toggle(int row);
   bool Multi = false;
-  int Room = 12;          // rows that it asks room for, if it has so many
+  int Room = 12;          // the most rows that it asks room for
   std::string EmptyText;  // what belongs here and how to get it
   Handler OnPick;
   Handler OnOpen;

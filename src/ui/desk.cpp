@@ -4,7 +4,7 @@
 #include <new>
 #include <stdexcept>
 
-#include "records/disk.h"
+#include "records/store/disk.h"
 
 namespace grapplemont::ui {
 

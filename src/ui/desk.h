@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <memory>
@@ -7,10 +8,17 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/links.h"
+#include "ui/controls.h"
 #include "ui/screen.h"
 
 namespace grapplemont::ui {
+
+/// A piece of a text that leads somewhere when a player follows it: the name of somebody who has a
+/// page.
+struct Link {
+  std::size_t From = 0, Length = 0;
+  Handler Open;
+};
 
 enum class Default { Yes, No };
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <charconv>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont::ui {
 

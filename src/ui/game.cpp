@@ -1,10 +1,11 @@
 #include "ui/game.h"
 
 #include <algorithm>
+#include <cctype>
 
-#include "records/checkworld.h"
-#include "records/slot.h"
-#include "records/slotfolder.h"
+#include "records/checks/checkworld.h"
+#include "records/store/slot.h"
+#include "records/store/slotfolder.h"
 #include "records/world.h"
 
 namespace grapplemont {
@@ -113,6 +114,57 @@ std::string Game::Explain(const std::exception& fault) const {
   const auto* overflow = dynamic_cast<const FieldOverflow*>(&fault);
   if (overflow && world_) return world_->Explain(*overflow);
   return joined_ ? joined_->Explain(fault) : fault.what();
+}
+
+GameScreen::GameScreen(Game& game, std::string name, std::string title, const Frame& frame)
+    : Screen(game.Desk(), std::move(name), std::move(title), frame.Is),
+      game_(game),
+      cmdback(*this, frame.BackName, frame.Back, [this] { cmdback_Click(); }),
+      manages_(frame.Manages) {
+  KeepLast(cmdback);
+}
+
+ui::Page GameScreen::PageOf(ui::Box body, ui::Label* facts, std::vector<ui::Button*> actions,
+                            ui::Button* main) {
+  ui::Page page;
+  page.Facts = facts;
+  page.Actions = std::move(actions);
+  page.Actions.push_back(&cmdback);
+  if (main) page.Actions.push_back(main);
+  page.Main = main ? main : &cmdback;
+  page.Cancel = &cmdback;
+  page.Body = std::move(body);
+  return page;
+}
+
+void GameScreen::cmdback_Click() {
+  Close();
+  if (manages_ && game_.RefreshMainScreen) game_.RefreshMainScreen();
+}
+
+void Waiting::Done() {
+  if (screen_) game_.Desk().Close(*screen_);
+  screen_ = nullptr;
+}
+
+void Waiting::Tell(std::string_view step) {
+  if (!screen_) {
+    if (!game_.Desk().Knows("frmWait")) return;
+    game_.Desk().Open("frmWait");
+    screen_ = game_.Desk().Top();
+  }
+  if (ui::Control* label = screen_->Find("lblstep")) label->Text = InWords(step);
+  game_.Desk().Repaint();
+}
+
+std::string InWords(std::string_view name) {
+  std::string words;
+  for (const char letter : name) {
+    const auto byte = static_cast<unsigned char>(letter);
+    if (std::isupper(byte) && !words.empty() && words.back() != ' ') words += ' ';
+    words += words.empty() ? letter : static_cast<char>(std::tolower(byte));
+  }
+  return words;
 }
 
 }  // namespace grapplemont

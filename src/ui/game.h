@@ -5,11 +5,11 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "records/clock.h"
-#include "records/disk.h"
-#include "records/draws.h"
+#include "records/fields/outside.h"
+#include "records/store/disk.h"
 #include "ui/desk.h"
 
 namespace grapplemont {
@@ -94,6 +94,58 @@ class Game : public ui::Work {
   bool isOver_ = false;  // as of the last commit
   std::shared_ptr<ui::Work> joined_;
 };
+
+/// What differs between the frames of screens.
+struct Frame {
+  ui::Role Is = ui::Role::Page;
+  const char* Back = "Back";  // the caption of the way back
+  const char* BackName = "cmdback";
+  bool Manages = false;  // something of the main screen's: leaving brings that up to date
+};
+
+/// What every screen of the game has: the world, and the way back, its last control.
+class GameScreen : public ui::Screen {
+ public:
+  GameScreen(Game& game, std::string name, std::string title, const Frame& frame = {});
+  /// Most screens come up as they come back.
+  void Load() override { Return(); }
+
+ protected:
+  World& world() { return game_.World(); }
+  /// The actions, then the way back, which Escape presses; then `main`, which Enter presses.
+  /// Without one Enter goes back, too.
+  ui::Page PageOf(ui::Box body, ui::Label* facts = nullptr, std::vector<ui::Button*> actions = {},
+                  ui::Button* main = nullptr);
+  /// For a screen that has controls behind the way back, of which this is the first.
+  void BackBefore(const ui::Control& control) { PutBefore(cmdback, control); }
+  virtual void cmdback_Click();
+
+  Game& game_;
+  ui::Button cmdback;
+
+ private:
+  bool manages_;
+};
+
+/// Puts the waiting screen up and tells on it what is going on. A handler that throws takes it down
+/// with all else that it opened.
+class Waiting {
+ public:
+  explicit Waiting(Game& game) : game_(game) {}
+  Waiting(const Waiting&) = delete;
+  Waiting& operator=(const Waiting&) = delete;
+  /// "RivalWorkerHiring" is shown as "Rival worker hiring".
+  void Tell(std::string_view step);
+  /// Takes it down; the screen below shows the world as it is.
+  void Done();
+
+ private:
+  Game& game_;
+  ui::Screen* screen_ = nullptr;
+};
+
+/// The words of a name written in one: "RivalNewTvShows" gives "Rival new tv shows".
+std::string InWords(std::string_view name);
 
 }  // namespace grapplemont
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "records/nearest.h"
+#include "records/fields/wording.h"
 #include "words/tables/schema.h"
 #include "words/units.h"
 #include "words/wordscheck.h"

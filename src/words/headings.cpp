@@ -6,7 +6,7 @@
 
 #include "info/infowords.h"
 #include "info/meetingpoints.h"
-#include "records/enumnames.h"
+#include "records/fields/enumnames.h"
 #include "report/family.h"
 
 namespace grapplemont {

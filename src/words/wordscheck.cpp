@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <map>
 
-#include "records/holes.h"
-#include "records/nearest.h"
+#include "records/fields/wording.h"
 #include "report/line.h"
 
 namespace grapplemont {

@@ -1,6 +1,6 @@
 #include "words/wordstext.h"
 
-#include "records/charset.h"
+#include "records/fields/charset.h"
 #include "words/units.h"
 
 namespace grapplemont {

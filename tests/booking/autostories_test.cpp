@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "records/angles.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 // Feuds, Titles, turns and debuts on the auto booker's cards.
 

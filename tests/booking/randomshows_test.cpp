@@ -3,7 +3,7 @@
 #include "autocards.h"
 #include "randomhouse.h"
 #include "randomsegment.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "report/report.h"
 #include "show/holdshow.h"
 

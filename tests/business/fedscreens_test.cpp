@@ -5,7 +5,7 @@
 #include "business/screens/screenfed.h"
 #include "business/worth.h"
 #include "calendar/advanceday.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "business/networks.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

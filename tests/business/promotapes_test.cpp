@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "business/screens/frmTVShow.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "support/gameonworld.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"

@@ -2,7 +2,7 @@
 
 #include "business/networks.h"
 #include "business/tvshows.h"
-#include "records/sweeps.h"
+#include "records/severing.h"
 #include "support/gameonworld.h"
 #include "support/newsof.h"
 #include "support/smallworld.h"

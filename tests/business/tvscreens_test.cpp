@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "business/past.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {

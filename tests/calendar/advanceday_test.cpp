@@ -5,8 +5,8 @@
 
 #include "calendar/advanceday.h"
 #include "calendar/events.h"
-#include "records/checkworld.h"
-#include "records/dates.h"
+#include "records/checks/checkworld.h"
+#include "records/fields/fields.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

@@ -6,7 +6,7 @@
 #include "business/screens/frmSpending.h"
 #include "calendar/advanceday.h"
 #include "calendar/events.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "session/newgame.h"
 #include "support/defaultworld.h"

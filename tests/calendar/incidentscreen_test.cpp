@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "calendar/incidents.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "support/gameonworld.h"
 

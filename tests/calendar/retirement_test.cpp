@@ -4,7 +4,7 @@
 
 #include "calendar/advanceday.h"
 #include "calendar/mentions.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "roster/market.h"

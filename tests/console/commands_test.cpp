@@ -2,7 +2,6 @@
 
 #include <random>
 
-#include "console/lines.h"
 #include "console/served.h"
 
 namespace grapplemont::test {

@@ -5,8 +5,7 @@
 #include <filesystem>
 #include <sstream>
 
-#include "console/options.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "support/checkout.h"
 
 namespace grapplemont::test {

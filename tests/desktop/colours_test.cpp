@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "desktop/palette.h"
+#include "desktop/look.h"
 
 namespace grapplemont::test {
 namespace {

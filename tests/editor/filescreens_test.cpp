@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "editor/screens/screenediting.h"
+#include "editor/screens/screenfiles.h"
 #include "newrecords.h"
 #include "support/homefolder.h"
 #include "support/randomworld.h"

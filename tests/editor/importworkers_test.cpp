@@ -1,4 +1,4 @@
-#include "editor/importworkers.h"
+#include "editor/merge.h"
 
 #include <gtest/gtest.h>
 

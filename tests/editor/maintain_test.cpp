@@ -1,4 +1,4 @@
-#include "editor/maintain.h"
+#include "editor/datafolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "editor/tablesfolder.h"
+#include "editor/recordfile.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include <sstream>
 #include <tuple>
 
-#include "records/csv.h"
+#include "records/tables/tablereader.h"
 
 namespace grapplemont::test {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "records/differences.h"
+#include "records/tables/differences.h"
 
 namespace grapplemont::test {
 

@@ -12,14 +12,14 @@
 #include "booking/randomsegment.h"
 #include "booking/sheet.h"
 #include "golden/worldlines.h"
-#include "records/charset.h"
-#include "records/dates.h"
+#include "records/fields/charset.h"
+#include "records/fields/fields.h"
 #include "report/family.h"
 #include "session/newgame.h"
 #include "show/holdshow.h"
 #include "support/checkout.h"
 #include "support/gameonworld.h"
-#include "tools/career.h"
+#include "tools/officework.h"
 #include "tools/tell.h"
 
 namespace grapplemont::test {

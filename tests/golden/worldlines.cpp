@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "records/charset.h"
-#include "records/csv.h"
-#include "records/worldreport.h"
+#include "records/fields/charset.h"
+#include "records/tables/tablereader.h"
+#include "records/tables/worldreport.h"
 #include "support/checkout.h"
 #include "support/defaultworld.h"
 #include "support/smallworld.h"

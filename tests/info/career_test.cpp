@@ -1,4 +1,4 @@
-#include "info/career.h"
+#include "info/results.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "info/results.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "report/report.h"
 #include "show/holdshow.h"
 #include "support/gameonworld.h"

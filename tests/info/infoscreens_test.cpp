@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "info/mailoptions.h"
+#include "info/mailbox.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "info/mailoptions.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {

@@ -2,7 +2,8 @@
 
 #include "info/calmworld.h"
 #include "info/meetingpoints.h"
-#include "info/rankings.h"
+#include "info/worldnews.h"
+#include "records/modVar.h"
 #include "support/gameonworld.h"
 #include "ui/acts.h"
 

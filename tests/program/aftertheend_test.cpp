@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "program/screens.h"
-#include "records/slot.h"
+#include "records/store/slot.h"
 #include "support/cutdisk.h"
 #include "support/smallworld.h"
 #include "ui/acts.h"

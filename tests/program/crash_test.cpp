@@ -2,8 +2,8 @@
 
 #include "program/screens.h"
 #include "records/segments.h"
-#include "records/slot.h"
-#include "records/slotfolder.h"
+#include "records/store/slot.h"
+#include "records/store/slotfolder.h"
 #include "records/world.h"
 #include "show/holdshow.h"
 #include "support/cutdisk.h"

@@ -4,7 +4,7 @@
 
 #include "booking/showstart.h"
 #include "calendar/advanceday.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/segments.h"
 
 namespace grapplemont::test {

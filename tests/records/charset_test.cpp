@@ -1,4 +1,4 @@
-#include "records/charset.h"
+#include "records/fields/charset.h"
 
 #include <gtest/gtest.h>
 

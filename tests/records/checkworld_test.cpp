@@ -1,11 +1,11 @@
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
-#include "records/sweeps.h"
+#include "records/severing.h"
 #include "support/smallworld.h"
 
 namespace grapplemont {

@@ -1,8 +1,8 @@
-#include "records/csv.h"
+#include "records/tables/tablereader.h"
 
 #include <gtest/gtest.h>
 
-#include "records/nearest.h"
+#include "records/fields/wording.h"
 
 namespace grapplemont {
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "records/slot.h"
+#include "records/store/slot.h"
 #include "support/storeworld.h"
 
 // The power is cut at every moment of what a slot does, many thousand times over; what is then

@@ -4,9 +4,9 @@
 #include <cstring>
 #include <set>
 
-#include "records/journalchain.h"
-#include "records/slot.h"
-#include "records/slotfolder.h"
+#include "records/store/journalfile.h"
+#include "records/store/slot.h"
+#include "records/store/slotfolder.h"
 #include "support/storeworld.h"
 
 // What copies, clouds and failing disks leave of a slot: a journal that was cut short or has zeros

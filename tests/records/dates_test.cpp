@@ -1,4 +1,4 @@
-#include "records/dates.h"
+#include "records/fields/fields.h"
 
 #include <gtest/gtest.h>
 

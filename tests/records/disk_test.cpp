@@ -1,4 +1,4 @@
-#include "records/disk.h"
+#include "records/store/disk.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

@@ -1,4 +1,4 @@
-#include "records/draws.h"
+#include "records/fields/outside.h"
 
 #include <gtest/gtest.h>
 

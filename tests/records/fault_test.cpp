@@ -2,8 +2,8 @@
 
 #include <ostream>
 
-#include "records/journalchain.h"
-#include "records/slot.h"
+#include "records/store/journalfile.h"
+#include "records/store/slot.h"
 #include "support/storeworld.h"
 
 // Every call fails, once and for good, with a full disk and with a broken one. Each time somebody

@@ -1,11 +1,9 @@
-#include "records/fields.h"
+#include "records/fields/fields.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
-
-#include "records/dates.h"
 
 namespace grapplemont {
 namespace {

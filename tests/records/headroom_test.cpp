@@ -1,4 +1,4 @@
-#include "records/headroom.h"
+#include "records/modVar.h"
 
 #include <gtest/gtest.h>
 

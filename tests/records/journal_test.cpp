@@ -1,11 +1,11 @@
-#include "records/journal.h"
+#include "records/store/journal.h"
 
 #include <gtest/gtest.h>
 #include <xxhash.h>
 
 #include <algorithm>
 
-#include "records/journalchain.h"
+#include "records/store/journalfile.h"
 #include "support/storeworld.h"
 
 namespace grapplemont::test {

@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
-#include "records/sweeps.h"
 #include "support/randomworld.h"
 #include "support/smallworld.h"
 

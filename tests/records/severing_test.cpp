@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "records/dates.h"
-#include "records/sweeps.h"
+#include "records/fields/fields.h"
 #include "support/smallworld.h"
 
 namespace grapplemont {

@@ -1,4 +1,4 @@
-#include "records/slot.h"
+#include "records/store/slot.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -6,9 +6,9 @@
 
 #include <filesystem>
 
-#include "records/gameinfo.h"
-#include "records/journalchain.h"
-#include "records/slotfolder.h"
+#include "records/fields/gameinfo.h"
+#include "records/store/journalfile.h"
+#include "records/store/slotfolder.h"
 #include "support/scratchfolder.h"
 #include "support/storeworld.h"
 

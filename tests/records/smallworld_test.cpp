@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 
 namespace grapplemont::test {
 

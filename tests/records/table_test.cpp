@@ -1,11 +1,11 @@
-#include "records/table.h"
+#include "records/store/table.h"
 
 #include <gtest/gtest.h>
 
-#include "records/companies.h"
-#include "records/gameinfo.h"
-#include "records/people.h"
-#include "records/storyrecords.h"
+#include "records/fields/companies.h"
+#include "records/fields/gameinfo.h"
+#include "records/fields/people.h"
+#include "records/fields/storyrecords.h"
 
 namespace grapplemont {
 namespace {

@@ -1,4 +1,4 @@
-#include "records/worldtables.h"
+#include "records/tables/worldtables.h"
 
 #include <gtest/gtest.h>
 
@@ -6,9 +6,9 @@
 #include <cmath>
 #include <cstring>
 
-#include "records/charset.h"
-#include "records/checkworld.h"
-#include "records/worldreport.h"
+#include "records/checks/checkworld.h"
+#include "records/fields/charset.h"
+#include "records/tables/worldreport.h"
 #include "support/checkout.h"
 #include "support/randomworld.h"
 #include "support/smallworld.h"

@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-#include "records/slot.h"
+#include "records/store/slot.h"
 #include "support/storeworld.h"
 
 // The protocol with one step left out must be found by the very cuts that it passes whole. A

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "records/sweeps.h"
+#include "records/severing.h"
 #include "support/smallworld.h"
 
 namespace grapplemont {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 
 namespace grapplemont::test {
 

@@ -6,7 +6,7 @@
 
 #include "calendar/advanceday.h"
 #include "records/modWresCheck.h"
-#include "records/sweeps.h"
+#include "records/severing.h"
 #include "rivals/faults.h"
 #include "rivals/rivals.h"
 #include "support/gameonworld.h"

@@ -5,7 +5,7 @@
 #include "calendar/incidents.h"
 #include "rivals/faults.h"
 #include "rivals/founding.h"
-#include "session/slots.h"
+#include "session/home.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
 

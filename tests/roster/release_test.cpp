@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "roster/postings.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "support/smallworld.h"
 
 // Coming: what opens the talks, each objection at its edge, names, and what signing changes.

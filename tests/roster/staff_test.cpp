@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "roster/staff.h"
 #include "support/gameonworld.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "support/smallworld.h"
 

@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
-#include "records/dates.h"
-#include "records/journalchain.h"
-#include "records/slotfolder.h"
+#include "records/fields/fields.h"
+#include "records/store/journalfile.h"
+#include "records/store/slotfolder.h"
 #include "records/world.h"
 #include "support/cutdisk.h"
 #include "support/homefolder.h"

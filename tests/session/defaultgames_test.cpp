@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "records/charset.h"
+#include "records/fields/charset.h"
 #include "session/newgame.h"
 #include "support/defaultworld.h"
 #include "support/smallworld.h"

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <set>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "roster/invented.h"
 #include "support/smallworld.h"

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "records/slot.h"
+#include "records/store/slot.h"
 #include "records/world.h"
-#include "session/slots.h"
+#include "session/home.h"
 #include "support/homefolder.h"
 #include "support/smallworld.h"
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "records/checkworld.h"
-#include "records/dates.h"
+#include "records/checks/checkworld.h"
+#include "records/fields/fields.h"
 #include "records/severing.h"
 #include "report/report.h"
 #include "show/boutbook.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/severing.h"
 #include "storylines/titles.h"
 #include "support/gameonworld.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "records/angles.h"
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "records/segments.h"
 #include "storylines/partners.h"
 #include "support/gameonworld.h"

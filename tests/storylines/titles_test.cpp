@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "support/gameonworld.h"

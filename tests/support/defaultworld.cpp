@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "records/disk.h"
-#include "records/worldtables.h"
+#include "records/store/disk.h"
+#include "records/tables/worldtables.h"
 #include "support/checkout.h"
 
 namespace grapplemont::test {

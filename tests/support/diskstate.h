@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "records/disk.h"
+#include "records/store/disk.h"
 
 // A disk below a system's cache: what every program sees at once, and what a power cut leaves of
 // it. Contents go to the hardware by pages of 4096 bytes that land in sectors of 512; names by

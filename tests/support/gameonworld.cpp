@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "program/screens.h"
-#include "records/slot.h"
+#include "records/store/slot.h"
 
 namespace grapplemont::test {
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "records/disk.h"
+#include "records/store/disk.h"
 #include "records/world.h"
 #include "support/scriptdesk.h"
 #include "ui/game.h"

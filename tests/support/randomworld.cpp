@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 
 namespace grapplemont::test {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "records/draws.h"
+#include "records/fields/outside.h"
 
 namespace grapplemont {
 class World;

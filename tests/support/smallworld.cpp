@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "records/modWresCheck.h"
 
 namespace grapplemont::test {

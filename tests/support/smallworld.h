@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/world.h"
 
 // Small worlds for tests, told in a few lines:

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "records/slot.h"
+#include "records/store/slot.h"
 #include "support/cutdisk.h"
 
 // Worlds of nothing but bytes, for tests of the store.

@@ -1,4 +1,4 @@
-#include "tools/career.h"
+#include "tools/officework.h"
 
 #include <gtest/gtest.h>
 
@@ -12,9 +12,9 @@
 #include "calendar/advanceday.h"
 #include "calendar/events.h"
 #include "info/results.h"
-#include "records/charset.h"
-#include "records/checkworld.h"
-#include "records/dates.h"
+#include "records/checks/checkworld.h"
+#include "records/fields/charset.h"
+#include "records/fields/fields.h"
 #include "rivals/tuning.h"
 #include "session/newgame.h"
 #include "show/holdshow.h"

@@ -2,13 +2,13 @@
 
 #include <cstring>
 
-#include "records/checkworld.h"
-#include "records/dates.h"
+#include "records/checks/checkworld.h"
+#include "records/fields/fields.h"
 #include "session/newgame.h"
 #include "support/defaultworld.h"
 #include "support/randomworld.h"
 #include "support/smallworld.h"
-#include "tools/career.h"
+#include "tools/officework.h"
 
 // Numbers at the ends of their ranges: what the check lets pass stops no day.
 

@@ -1,6 +1,6 @@
 #include <nlohmann/json.hpp>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "toolhome.h"
 
 namespace grapplemont::test {

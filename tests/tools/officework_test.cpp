@@ -2,10 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "records/checkworld.h"
+#include "records/checks/checkworld.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
-#include "tools/career.h"
 
 // What a player whom nobody watches does beside his shows.
 

@@ -1,6 +1,6 @@
 #include "tools/pages.h"
 
-#include "records/tablekinds.h"
+#include "records/tables/tablekinds.h"
 #include "support/checkout.h"
 #include "toolhome.h"
 

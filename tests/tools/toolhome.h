@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "records/slot.h"
-#include "records/worldtables.h"
+#include "records/store/slot.h"
+#include "records/tables/worldtables.h"
 #include "support/smallworld.h"
 #include "tools/tool.h"
 

@@ -1,4 +1,4 @@
-#include "ui/table.h"
+#include "ui/arrangedtable.h"
 
 #include <gtest/gtest.h>
 

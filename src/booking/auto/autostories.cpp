@@ -3,7 +3,7 @@
 #include "booking/auto/automatches.h"
 #include "booking/auto/autotalk.h"
 #include "records/angles.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "storylines/feuds.h"
 
 // Every running feud gets something: a match, an interview or an attack; the blow-off at an Event

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "booking/auto/automatches.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "show/showfeuds.h"
 #include "storylines/feuds.h"
 #include "storylines/partners.h"

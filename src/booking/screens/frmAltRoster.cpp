@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "booking/screens/bookingscreens.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "storylines/partners.h"

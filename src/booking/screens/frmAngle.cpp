@@ -1,7 +1,7 @@
 #include "booking/screens/stepscreens.h"
 #include "booking/wizard/casting.h"
 #include "booking/wizard/roster.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 
 namespace grapplemont {
 

@@ -1,7 +1,7 @@
 #include "booking/screens/bookingscreens.h"
 #include "booking/screens/screensheet.h"
 #include "booking/sheet.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/segments.h"
 #include "report/report.h"
 #include "show/holdshow.h"

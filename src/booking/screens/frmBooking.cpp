@@ -3,7 +3,7 @@
 #include "booking/sheet.h"
 #include "booking/showstart.h"
 #include "business/tvshows.h"
-#include "records/vocabulary.h"
+#include "records/fields/vocabulary.h"
 #include "show/holdshow.h"
 #include "storylines/screens/screenpeople.h"
 

@@ -3,7 +3,7 @@
 #include "booking/screens/stepscreens.h"
 #include "booking/wizard/casting.h"
 #include "booking/wizard/interviews.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "storylines/partners.h"
 
 namespace grapplemont {

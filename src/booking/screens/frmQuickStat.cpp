@@ -1,6 +1,6 @@
 #include "booking/debuts.h"
 #include "booking/screens/bookingscreens.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
@@ -106,8 +106,8 @@ class frmQuickStat : public ui::Screen {
 
   void ShowPeople() {
     FillShort(lstwres, People());
-    lblfacts.Text = Counted(lstwres.Count(), "worker") +
-                    (chkall.Checked ? " in the world" : " of yours");
+    lblfacts.Text =
+        Counted(lstwres.Count(), "worker") + (chkall.Checked ? " in the world" : " of yours");
   }
 
   void ShowWorker() {

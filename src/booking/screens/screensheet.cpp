@@ -2,7 +2,7 @@
 
 #include "booking/screens/bookingscreens.h"
 #include "booking/sheet.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
 #include "storylines/screens/screenpeople.h"

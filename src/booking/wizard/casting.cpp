@@ -4,7 +4,7 @@
 #include <iterator>
 #include <span>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "storylines/partners.h"
 #include "storylines/titles.h"

@@ -3,7 +3,7 @@
 #include <span>
 
 #include "booking/wizard/matchrules.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 
 namespace grapplemont {
 
@@ -154,8 +154,8 @@ constexpr StepRow kMatchSteps[] = {
     {"Select Match Style", "frmBookType", nullptr, ClearStyle, StyleSummary},
     {"Select Match Type", "frmBookMatchStyle", nullptr, [](Segment& s) { s.MatchType = 0; },
      TypeSummary},
-    {"Select Participants", "", ByMatchForm<&MatchForm::People>,
-     [](Segment& s) { s.Worker = {}; }, PeopleSummary},
+    {"Select Participants", "", ByMatchForm<&MatchForm::People>, [](Segment& s) { s.Worker = {}; },
+     PeopleSummary},
     {"Select Title", "frmBookBelt", nullptr, [](Segment& s) { s.TitleName = "None"; },
      TitleSummary},
     {"Select Result", "", ByResult, ClearResult, ResultSummary},

@@ -3,12 +3,12 @@
 #include "business/screens/frmSpending.h"
 #include "business/screens/screenfed.h"
 #include "business/worth.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/world.h"
 #include "storylines/screens/screenpeople.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -8,7 +8,7 @@
 #include "records/modWresCheck.h"
 #include "records/world.h"
 #include "roster/talks.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

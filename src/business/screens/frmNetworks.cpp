@@ -8,7 +8,7 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "storylines/screens/screenpeople.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -1,5 +1,5 @@
 #include "business/screens/frmSpending.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "business/networks.h"
 #include "business/screens/frmTelevision.h"
 #include "business/tvshows.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "storylines/storynames.h"
 

@@ -1,5 +1,5 @@
 #include "business/screens/frmTelevision.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 #include <algorithm>
 
@@ -8,8 +8,8 @@
 #include "business/screens/frmTVShow.h"
 #include "business/tvshows.h"
 #include "business/tvtalks.h"
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "storylines/screens/screenpeople.h"
 

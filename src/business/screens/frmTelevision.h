@@ -1,7 +1,7 @@
 #pragma once
 
 #include "business/tvtalks.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 // What the screens of television share.
 

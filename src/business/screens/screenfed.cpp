@@ -2,7 +2,7 @@
 
 #include "business/development.h"
 #include "business/sponsors.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/world.h"
 #include "roster/postings.h"

@@ -1,12 +1,12 @@
 #include "business/development.h"
 #include "business/screens/screenfed.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/world.h"
 #include "roster/postings.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 // Where the young learn, and who is to run it.
 

@@ -1,11 +1,11 @@
 #include "calendar/events.h"
 #include "calendar/screens/calendarscreens.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "show/attendance.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -2,7 +2,7 @@
 
 #include "calendar/incidents.h"
 #include "calendar/screens/calendarscreens.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 
 namespace grapplemont {

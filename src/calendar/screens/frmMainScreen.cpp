@@ -4,14 +4,14 @@
 #include "calendar/advanceday.h"
 #include "calendar/incidents.h"
 #include "calendar/screens/calendarscreens.h"
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "show/holdshow.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/acts.h"
-#include "ui/waiting.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -1,16 +1,22 @@
+#include <array>
+
 #include "editor/merge.h"
-#include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
+#include "records/fields/wording.h"
+#include "records/modWresCheck.h"
+#include "records/tables/worldreport.h"
+#include "storylines/screens/screenpeople.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
 namespace {
 
 /// New records in files beside the data: what would become of each, and taking them in.
-class frmEditMerge : public ui::Screen {
+class frmEditMerge : public GameScreen {
  public:
-  explicit frmEditMerge(Game& game)
-      : Screen(game.Desk(), "frmEditMerge", "Merge New Records"), game_(game) {
+  explicit frmEditMerge(Game& game) : GameScreen(game, "frmEditMerge", "Merge New Records") {
+    BackBefore(cmdclean);
     lstrows.EmptyText =
         "There are no new records. Put the files named at the left into the data folder.";
     lstmended.EmptyText = "Nothing has to be put right in the new records.";
@@ -126,10 +132,8 @@ class frmEditMerge : public ui::Screen {
   }
 
   void cmdclean_Click() { desk().Open("frmEditMaintain"); }
-  void cmdback_Click() { Close(); }
 
   using K = ui::ColumnKind;
-  Game& game_;
   NewRecords coming_;
   NewNames names_;
   Arrivals arrivals_;
@@ -148,7 +152,6 @@ class frmEditMerge : public ui::Screen {
                        {"Why", K::Text, 8}},
                       &frmEditMerge::lstrows_Click};
   ui::ListBox lstmended{*this, "lstmended", FaultColumns("What is wrong, and what is done")};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmEditMerge::cmdback_Click};
   ui::Button cmdclean{*this, "cmdclean", "Clean Up First", &frmEditMerge::cmdclean_Click};
   ui::Button cmdlook{*this, "cmdlook", "Look Again", &frmEditMerge::cmdlook_Click};
   ui::Button cmdrename{*this, "cmdrename", "Another Name", &frmEditMerge::cmdrename_Click};
@@ -158,5 +161,191 @@ class frmEditMerge : public ui::Screen {
 }  // namespace
 
 SCREEN(frmEditMerge)
+
+namespace {
+
+enum Meets { kNobody = 0, kSameName, kSameUid };
+
+/// Which of the other world's workers are listed.
+struct Offer {
+  const char* Label;
+  bool (*Keeps)(const Worker& worker, Meets meets);
+};
+constexpr std::array<Offer, 5> kOffers = {
+    {{"Everybody", [](const Worker&, Meets) { return true; }},
+     {"Who is not here yet", [](const Worker&, Meets meets) { return meets != kSameName; }},
+     {"Whose name is here", [](const Worker&, Meets meets) { return meets == kSameName; }},
+     {"Wrestlers not here yet",
+      [](const Worker& worker, Meets meets) {
+        return meets != kSameName && (IsOnRoster(worker) || IsSentAway(worker));
+      }},
+     {"Others not here yet", [](const Worker& worker, Meets meets) {
+        return meets != kSameName && !IsOnRoster(worker) && !IsSentAway(worker);
+      }}}};
+
+/// The workers of another world: whom to take over, and what would become of them.
+class frmEditImport : public GameScreen {
+ public:
+  explicit frmEditImport(Game& game) : GameScreen(game, "frmEditImport", "Import Workers") {
+    BackBefore(cmdclean);
+    lstworkers.Multi = true;
+    lstrows.EmptyText = "Choose workers on the left to see what would become of them.";
+    lstmended.EmptyText = "Nothing has to be put right in those who are chosen.";
+    cmdclean.Tip = "Workers come into data without faults only.";
+    int key = 0;
+    for (const Offer& offer : kOffers) cmbshow.Add(offer.Label, ++key);
+    cmbshow.Select(1);
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdback, &cmdclean, &cmdlook, &cmdimport};
+    page.Main = &cmdimport;
+    page.Cancel = &cmdback;
+    page.Body = ui::Rows(
+        {lblfolder, ui::Columns({ui::Group("Workers of the other world",
+                                           {ui::Columns({cmbshow, cmdall, cmdnone, ui::Spacer()}),
+                                            ui::Grow(lstworkers)})
+                                     .Grow(3),
+                                 ui::Tabs({ui::Group("The chosen", {ui::Grow(lstrows)}),
+                                           ui::Group("What is put right", {ui::Grow(lstmended)})})
+                                     .Grow(2)})
+                        .Grow()});
+    return page;
+  }
+
+  void Load() override { cmdlook_Click(); }
+  void Return() override { ShowWorkers(); }
+
+ private:
+  World& data() { return EditedData(game_).World(); }
+
+  void cmdlook_Click() {
+    file_ = ReadForeignWorkers(game_.Disk(), game_.DataFolder());
+    lblfolder.Text = !file_.Remark.empty() ? file_.Remark
+                     : file_.Exists
+                         ? "They stand in " + game_.DataFolder() + "/" + file_.Name + "."
+                         : "There is no " + file_.Name + " in " + game_.DataFolder() + ".";
+    lblfolder.Colour = file_.Remark.empty() ? ui::Tone::Muted : ui::Tone::Red;
+    lstworkers.EmptyText = "Copy the wrestler.dat of another data folder to " + game_.DataFolder() +
+                           "/" + file_.Name + ", then look again.";
+    lstworkers.Clear();
+    ShowWorkers();
+  }
+
+  /// Fills the list; who was chosen and still is listed stays chosen.
+  void ShowWorkers() {
+    const Entrance<Worker> here(data().Workers(), {});
+    const Offer& offer = kOffers[static_cast<std::size_t>(cmbshow.Key() - 1)];
+    std::vector<ui::ListBox::Row> rows;
+    int number = 0;
+    for (const Worker& worker : file_.Records) {
+      ++number;
+      const Meets meets = here.Names().Has(worker.Name)   ? kSameName
+                          : data().FindWorker(worker.Uid) ? kSameUid
+                                                          : kNobody;
+      if (offer.Keeps(worker, meets)) rows.push_back({RowOf(worker, meets), number});
+    }
+    lstworkers.Fill(std::move(rows));
+    Preview({});
+  }
+
+  static std::vector<ui::Cell> RowOf(const Worker& worker, Meets meets) {
+    const auto here = meets == kSameName  ? ui::Cell("Name", ui::Tone::Red)
+                      : meets == kSameUid ? ui::Cell("Uid", ui::Tone::Amber)
+                                          : ui::Cell("");
+    const int position =
+        IsSentAway(worker) ? worker.Position - kSentToDevelopment : int(worker.Position);
+    return {Shown(worker.Name),      here,
+            ui::Cell(worker.Age),    PositionText(position),
+            DispositionCell(worker), ui::Cell(worker.Over),
+            ui::Cell(worker.Brawl),  ui::Cell(worker.Technical),
+            ui::Cell(worker.Speed),  ui::Cell(worker.Charisma)};
+  }
+
+  void Preview(const std::string& before) {
+    const std::string why = WhyNoArrivals(data());
+    const std::vector<int> chosen = lstworkers.Keys();
+    ShowArrivals(why.empty() && !chosen.empty() ? PreviewImport(data(), file_.Records, chosen)
+                                                : Arrivals{});
+    cmdclean.Visible = !why.empty();
+    const bool comes = arrivals_.Count(Fate::Added) + arrivals_.Count(Fate::Renumbered) > 0;
+    cmdimport.Enabled = comes;
+    cmdimport.Tip = comes            ? ""
+                    : !why.empty()   ? why
+                    : chosen.empty() ? "Choose workers first."
+                                     : "None of the chosen can come in.";
+    lblfacts.Text =
+        before + (!why.empty()     ? why
+                  : chosen.empty() ? Counted(file_.Records.size(), "worker") + " to choose from."
+                                   : Tally(arrivals_));
+  }
+
+  void ShowArrivals(Arrivals arrivals) {
+    arrivals_ = std::move(arrivals);
+    lstrows.Clear();
+    for (const Arrival& row : arrivals_.Rows)
+      lstrows.Add({row.Name, FateCell(row.Comes), row.Why}, row.Record);
+    FillFaults(lstmended, arrivals_.Mended);
+  }
+
+  void lstworkers_Click() { Preview({}); }
+  void cmbshow_Click() { ShowWorkers(); }
+
+  void ChooseAll(bool chosen) {
+    for (int row = 1; row <= lstworkers.Count(); ++row)
+      if (lstworkers.Rows()[static_cast<std::size_t>(row - 1)].Selected != chosen)
+        lstworkers.Toggle(row);
+    Preview({});
+  }
+  void cmdall_Click() { ChooseAll(true); }
+  void cmdnone_Click() { ChooseAll(false); }
+
+  void cmdimport_Click() {
+    if (!desk().Ask("Import?", Tally(arrivals_) +
+                                   " Import them into the data, without employment? What these are "
+                                   "now is kept as a backup."))
+      return;
+    const std::string done = Tally(ImportWorkers(data(), file_.Records, lstworkers.Keys()));
+    ChooseAll(false);
+    ShowWorkers();
+    lblfacts.Text = "Imported. " + done;
+  }
+
+  void cmdclean_Click() { desk().Open("frmEditMaintain"); }
+
+  using K = ui::ColumnKind;
+  RecordFile<Worker> file_;
+  Arrivals arrivals_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Label lblfolder{*this, "lblfolder"};
+  ui::ComboBox cmbshow{*this, "cmbshow", &frmEditImport::cmbshow_Click};
+  ui::Button cmdall{*this, "cmdall", "Choose All", &frmEditImport::cmdall_Click};
+  ui::Button cmdnone{*this, "cmdnone", "Choose None", &frmEditImport::cmdnone_Click};
+  ui::ListBox lstworkers{*this,
+                         "lstworkers",
+                         {{"Name", K::Text, 6},
+                          {"Here", K::Tag, 2, "What is taken in the data: the name or the uid."},
+                          {"Age", K::Number, 1},
+                          {"Position", K::Text, 4},
+                          {"Disp.", K::Tag, 2},
+                          {"Over", K::Number, 1},
+                          {"Brawl", K::Number, 1},
+                          {"Tech.", K::Number, 1},
+                          {"Speed", K::Number, 1},
+                          {"Char.", K::Number, 1}},
+                         &frmEditImport::lstworkers_Click};
+  ui::ListBox lstrows{
+      *this, "lstrows", {{"Name", K::Text, 4}, {"", K::Tag, 2}, {"Why", K::Text, 5}}};
+  ui::ListBox lstmended{*this, "lstmended", FaultColumns("What is wrong, and what is done")};
+  ui::Button cmdclean{*this, "cmdclean", "Clean Up First", &frmEditImport::cmdclean_Click};
+  ui::Button cmdlook{*this, "cmdlook", "Look Again", &frmEditImport::cmdlook_Click};
+  ui::Button cmdimport{*this, "cmdimport", "Import", &frmEditImport::cmdimport_Click};
+};
+
+}  // namespace
+
+SCREEN(frmEditImport)
 
 }  // namespace grapplemont

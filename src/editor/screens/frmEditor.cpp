@@ -2,13 +2,12 @@
 #include <memory>
 #include <vector>
 
-#include "editor/screens/editorscreens.h"
-#include "editor/screens/screenediting.h"
 #include "editor/screens/screenfiles.h"
 #include "editor/screens/screenpages.h"
 #include "editor/screens/screenrecords.h"
-#include "records/counted.h"
-#include "records/worldreport.h"
+#include "records/fields/wording.h"
+#include "records/tables/worldreport.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -27,10 +26,10 @@ constexpr FileWork kFileWork[] = {
     {"cmdimport", "Import", "frmEditImport", "Takes workers from another file."},
     {"cmdtables", "Tables", "frmEditTables", "Writes the data as tables, and reads them."}};
 
-class frmEditor : public ui::Screen {
+class frmEditor : public GameScreen {
  public:
   explicit frmEditor(Game& game)
-      : Screen(game.Desk(), "frmEditor", "File Editor"), game_(game), data_(EditedData(game)) {
+      : GameScreen(game, "frmEditor", "File Editor"), data_(EditedData(game)) {
     for (const RecordPage& page : RecordPages()) {
       pages_.push_back(std::make_unique<ui::Button>(*this, std::string(page.Button),
                                                     std::string(page.Title),
@@ -66,7 +65,6 @@ class frmEditor : public ui::Screen {
     return page;
   }
 
-  void Load() override { Return(); }
   void Return() override {
     ShowCounts();
     ShowFaults();
@@ -121,12 +119,11 @@ class frmEditor : public ui::Screen {
     Return();
   }
 
-  void cmdback_Click() {
+  void cmdback_Click() override {
     StopEditing(game_);
     Close();
   }
 
-  Game& game_;
   DataFolder& data_;
   std::vector<std::unique_ptr<ui::Button>> pages_;
   std::vector<std::unique_ptr<ui::Label>> counts_;
@@ -138,7 +135,6 @@ class frmEditor : public ui::Screen {
                         {{"File", ui::ColumnKind::Text, 2},
                          {"Record", ui::ColumnKind::Text, 3},
                          {"Fault", ui::ColumnKind::Text, 9}}};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmEditor::cmdback_Click};
 };
 
 }  // namespace

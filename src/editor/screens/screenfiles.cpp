@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "records/counted.h"
-#include "records/worldreport.h"
+#include "records/fields/wording.h"
+#include "records/tables/worldreport.h"
 
 namespace grapplemont {
 
@@ -53,6 +53,35 @@ std::string Tally(const Arrivals& arrivals) {
   if (renumbered > 0) text += ", " + std::to_string(renumbered) + " under another uid";
   if (out > 0) text += "; " + std::to_string(out) + (out == 1 ? " stays out" : " stay out");
   return text + ".";
+}
+
+namespace {
+
+class EditingWork : public ui::Work {
+ public:
+  explicit EditingWork(Game& game) : Data(game.Disk(), game.DataFolder()) {}
+  void Commit() override { Data.Commit(); }
+  void Rollback() override { Data.Rollback(); }
+  std::string Explain(const std::exception& fault) const override {
+    const auto* overflow = dynamic_cast<const FieldOverflow*>(&fault);
+    return overflow ? Data.World().Explain(*overflow) : fault.what();
+  }
+
+  DataFolder Data;
+};
+
+}  // namespace
+
+DataFolder& EditedData(Game& game) {
+  if (const auto editing = std::dynamic_pointer_cast<EditingWork>(game.Joined()))
+    return editing->Data;
+  const auto editing = std::make_shared<EditingWork>(game);
+  game.Join(editing);
+  return editing->Data;
+}
+
+void StopEditing(Game& game) {
+  if (std::dynamic_pointer_cast<EditingWork>(game.Joined())) game.Join(nullptr);
 }
 
 }  // namespace grapplemont

@@ -3,10 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "editor/arrivals.h"
-#include "records/checkworld.h"
+#include "editor/datafolder.h"
+#include "editor/merge.h"
+#include "records/checks/checkworld.h"
 #include "records/world.h"
 #include "ui/controls.h"
+#include "ui/game.h"
 
 // How faults and arrivals stand in the tables of the editor.
 
@@ -25,5 +27,11 @@ std::string ShownOf(std::size_t count);
 ui::Cell FateCell(Fate fate);
 /// "11 records come in, 3 of them under another uid; 2 stay out."
 std::string Tally(const Arrivals& arrivals);
+
+/// The default data that this program edits, opened by the first screen that asks for them: from
+/// then on every event of the desk is a commit of them. Throws as DataFolder's constructor.
+DataFolder& EditedData(Game& game);
+/// The folder is let go; screens of the editor must be closed by then.
+void StopEditing(Game& game);
 
 }  // namespace grapplemont

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "editor/choices.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 
 namespace grapplemont {

@@ -4,14 +4,18 @@
 #include <string>
 #include <string_view>
 
-#include "editor/recordkinds.h"
-#include "records/checkworld.h"
+#include "editor/keeping.h"
+#include "records/checks/checkworld.h"
 #include "ui/controls.h"
+#include "ui/game.h"
+
+namespace grapplemont {
+
+/// Makes the editor's screen for every kind of record known to the desk.
+void RegisterRecordPages(Game& game);
 
 // How each kind of record is laid out on its screen. What a field holds, its range and its help
 // stand in the field lists of the records; here only where it stands and what it is called.
-
-namespace grapplemont {
 
 /// What is more than one field of the record.
 enum class EntryAs { Field, Finisher1Type, Finisher2Type, Commentator };

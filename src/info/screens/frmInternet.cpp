@@ -1,9 +1,8 @@
 #include "info/fans.h"
-#include "info/rankings.h"
 #include "info/rumours.h"
 #include "info/worldnews.h"
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "ui/game.h"
 
@@ -21,9 +20,9 @@ constexpr const char* kRumourSite = "Behind The Curtain";
 constexpr const char* kFanSite = "Cheap Seats";
 
 /// What the world says about itself, a tab for each site.
-class frmInternet : public ui::Screen {
+class frmInternet : public GameScreen {
  public:
-  explicit frmInternet(Game& game) : Screen(game.Desk(), "frmInternet", "Internet"), game_(game) {
+  explicit frmInternet(Game& game) : GameScreen(game, "frmInternet", "Internet") {
     lstnews.EmptyText = "Nothing has happened since the first of last month.";
     lstrank.EmptyText = "Nobody can be ranked here.";
     for (const Ranking& ranking : Rankings()) cmbrank.Add(ranking.Title, cmbrank.Count() + 1);
@@ -31,19 +30,14 @@ class frmInternet : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Tabs({ui::Group(kNewsSite, {chkshows, ui::Grow(lstnews)}),
-                          ui::Group(kRankSite, {ui::Field("Ranking", cmbrank), ui::Grow(lstrank)}),
-                          ui::Group(kRumourSite, {ui::Grow(txtrumours)}),
-                          ui::Group(kFanSite, {ui::Grow(txtfans)})});
-    return page;
+    return PageOf(
+        ui::Tabs({ui::Group(kNewsSite, {chkshows, ui::Grow(lstnews)}),
+                  ui::Group(kRankSite, {ui::Field("Ranking", cmbrank), ui::Grow(lstrank)}),
+                  ui::Group(kRumourSite, {ui::Grow(txtrumours)}),
+                  ui::Group(kFanSite, {ui::Grow(txtfans)})}),
+        &lblfacts);
   }
 
-  void Load() override { Return(); }
   void Return() override {
     lblfacts.Text = "As of " + LongDate(world().Today()) + ". Pages load slowly, but they load.";
     ShowNews();
@@ -53,8 +47,6 @@ class frmInternet : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   void ShowNews() {
     std::vector<ui::ListBox::Row> rows;
     for (const NewsItem& item : WorldNews(world())) {
@@ -137,10 +129,8 @@ class frmInternet : public ui::Screen {
   }
 
   void cmbrank_Click() { ShowRanking(); }
-  void cmdback_Click() { Close(); }
 
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::CheckBox chkshows{*this, "chkshows", "Shows that were held, too", false,
                         &frmInternet::ShowNews};
@@ -152,7 +142,6 @@ class frmInternet : public ui::Screen {
   ui::ListBox lstrank{*this, "lstrank", {{"Place", K::Number}}};
   ui::Report txtrumours{*this, "txtrumours"};
   ui::Report txtfans{*this, "txtfans"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmInternet::cmdback_Click};
 };
 
 }  // namespace

@@ -2,7 +2,7 @@
 #include "ui/game.h"
 
 #include "info/mailbox.h"
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/world.h"
 
@@ -11,21 +11,17 @@ namespace grapplemont {
 namespace {
 
 /// The mailbox: the newest on top, the selected mail beside the list.
-class frmNews : public ui::Screen {
+class frmNews : public GameScreen {
  public:
-  explicit frmNews(Game& game) : Screen(game.Desk(), "frmNews", "News"), game_(game) {
+  explicit frmNews(Game& game) : GameScreen(game, "frmNews", "News") {
     lstnews.EmptyText = "No mail. What the world has to tell you arrives here.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdempty, &cmddelete, &cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("", {ui::Field("From", cmbfrom), ui::Grow(lstnews)}).Grow(3),
-                             ui::Group("", {lblfrom, lbldate, ui::Grow(txtbody)}).Grow(2)});
-    return page;
+    return PageOf(
+        ui::Columns({ui::Group("", {ui::Field("From", cmbfrom), ui::Grow(lstnews)}).Grow(3),
+                     ui::Group("", {lblfrom, lbldate, ui::Grow(txtbody)}).Grow(2)}),
+        &lblfacts, {&cmdempty, &cmddelete});
   }
 
   void Load() override {
@@ -43,8 +39,6 @@ class frmNews : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   /// Empty for everybody.
   std::string From() const { return cmbfrom.Selected() <= 1 ? std::string() : cmbfrom.Text.Get(); }
 
@@ -122,10 +116,7 @@ class frmNews : public ui::Screen {
     if (game_.RefreshMainScreen) game_.RefreshMainScreen();
   }
 
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbfrom{*this, "cmbfrom", &frmNews::cmbfrom_Click};
   ui::ListBox lstnews{*this,
@@ -137,7 +128,6 @@ class frmNews : public ui::Screen {
   ui::Report txtbody{*this, "txtbody"};
   ui::Button cmdempty{*this, "cmdempty", "Empty Mailbox", &frmNews::cmdempty_Click};
   ui::Button cmddelete{*this, "cmddelete", "Delete", &frmNews::cmddelete_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmNews::cmdback_Click};
 };
 
 }  // namespace

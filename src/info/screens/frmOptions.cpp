@@ -1,4 +1,9 @@
-#include "info/mailoptions.h"
+#include "info/mailbox.h"
+#include "info/results.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
 #include "records/world.h"
 #include "ui/game.h"
 
@@ -15,9 +20,10 @@ const MailOption& OptionOf(int number) {
 }
 
 /// Every choice counts from the moment it is made; there is nothing to save and nothing to lose.
-class frmOptions : public ui::Screen {
+class frmOptions : public GameScreen {
  public:
-  explicit frmOptions(Game& game) : Screen(game.Desk(), "frmOptions", "Options"), game_(game) {
+  explicit frmOptions(Game& game)
+      : GameScreen(game, "frmOptions", "Options", {.Back = "Done", .BackName = "cmddone"}) {
     for (int number = 1; number <= kOptions; ++number)
       for (const Term& choice : kMailOptions)
         if (!OptionOf(number).TwoWay || choice.Code != kMailRivals)
@@ -29,24 +35,21 @@ class frmOptions : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmddone};
-    page.Main = &cmddone;
-    page.Cancel = &cmddone;
     std::vector<ui::Box> world, own;
     for (int number = 1; number <= kOptions; ++number)
       (OptionOf(number).TwoWay ? own : world)
           .push_back(ui::Field(OptionOf(number).Covers, combos(number)));
-    page.Body = ui::Columns(
-        {ui::Rows({ui::Group("Mail about the world", std::move(world)), ui::Spacer()}).Grow(3),
-         ui::Rows({ui::Group("Set all mail at once", {cmdalways, cmddirect, cmdnever}),
-                   ui::Group("Mail about your own people", std::move(own)),
-                   ui::Group("Shows", {ui::Field("Match reporter", cmbreport)}),
-                   ui::Group("While time passes", {ui::Field("Loading screens", cmbload), cmdview}),
-                   ui::Spacer()})
-             .Grow(2)});
-    return page;
+    return PageOf(
+        ui::Columns(
+            {ui::Rows({ui::Group("Mail about the world", std::move(world)), ui::Spacer()}).Grow(3),
+             ui::Rows(
+                 {ui::Group("Set all mail at once", {cmdalways, cmddirect, cmdnever}),
+                  ui::Group("Mail about your own people", std::move(own)),
+                  ui::Group("Shows", {ui::Field("Match reporter", cmbreport)}),
+                  ui::Group("While time passes", {ui::Field("Loading screens", cmbload), cmdview}),
+                  ui::Spacer()})
+                 .Grow(2)}),
+        &lblfacts);
   }
 
   void Load() override { Show(); }
@@ -77,9 +80,7 @@ class frmOptions : public ui::Screen {
   void cmdalways_Click() { SetAll(kMailAlways); }
   void cmddirect_Click() { SetAll(kMailRivals); }
   void cmdnever_Click() { SetAll(kMailNever); }
-  void cmddone_Click() { Close(); }
 
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts",
                      "A direct rival or above is a promotion of your own size or bigger. News of "
                      "your own promotion always comes."};
@@ -95,11 +96,166 @@ class frmOptions : public ui::Screen {
                        &frmOptions::cmddirect_Click};
   ui::Button cmdnever{*this, "cmdnever", "Never", &frmOptions::cmdnever_Click};
   ui::Button cmdview{*this, "cmdview", "View", &frmOptions::cmdview_Click};
-  ui::Button cmddone{*this, "cmddone", "Done", &frmOptions::cmddone_Click};
 };
 
 }  // namespace
 
 SCREEN(frmOptions)
+
+namespace {
+
+/// The player's own notes. What is typed is on disk with the same stroke, so that no way of closing
+/// the program loses it.
+class frmNotepad : public GameScreen {
+ public:
+  explicit frmNotepad(Game& game) : GameScreen(game, "frmNotepad", "Notepad", {.Back = "Done"}) {
+    txtnotes.MultiLine = true;
+    txtnotes.Hint = "Plans, rumours, who owes whom a favour.";
+    txtnotes.OnChange = [this] { txtnotes_Change(); };
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdrevert, &cmdback};
+    page.Cancel = &cmdback;
+    page.Body = ui::Group("", {ui::Grow(txtnotes)});
+    return page;
+  }
+
+  void Load() override {
+    txtnotes.Text = notes().Text();
+    ShowState();
+  }
+
+  /// An event was taken back: the box keeps what was typed, for another try.
+  void Return() override { ShowState(); }
+
+ private:
+  TextFile& notes() { return game_.World().Notes(); }
+
+  void Store() { notes().Set(txtnotes.Text.Get()); }
+
+  void ShowState() {
+    const bool stored = txtnotes.Text.Get() == notes().Text();
+    lblfacts.Text = stored ? "Saved as you type." : "The last change is not saved yet.";
+    lblfacts.Colour = stored ? ui::Tone::Muted : ui::Tone::Red;
+    cmdrevert.Visible = !stored;
+  }
+
+  void txtnotes_Change() {
+    const auto most = static_cast<std::size_t>(notes().MaxBytes());
+    if (txtnotes.Text->size() > most) {
+      txtnotes.Text = notes().Text();
+      desk().Say("Error!", "The notepad holds " + std::to_string(most) +
+                               " letters at most. Your notes are as they were before.");
+    }
+    Store();
+    ShowState();
+  }
+
+  void cmdrevert_Click() {
+    txtnotes.Text = notes().Text();
+    ShowState();
+  }
+
+  void cmdback_Click() override {
+    Store();
+    Close();
+  }
+
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::TextBox txtnotes{*this, "txtnotes"};
+  ui::Button cmdrevert{*this, "cmdrevert", "Back To What Is Saved", &frmNotepad::cmdrevert_Click};
+};
+
+}  // namespace
+
+SCREEN(frmNotepad)
+
+namespace {
+
+/// The player's career.
+class frmUser : public GameScreen {
+ public:
+  explicit frmUser(Game& game) : GameScreen(game, "frmUser", "Career") {}
+
+  ui::Page Layout() override {
+    return PageOf(ui::Columns({ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow(5),
+                               ui::Group("", {ui::Grow(txtuser)}).Grow(2)}),
+                  &lblfacts);
+  }
+
+  void Return() override {
+    const GameInfo& info = world().Game();
+    lblfacts.Text = info.PlayerName + ", " + std::string(Says(kDifficulties, info.Difficulty)) +
+                    ", since " + PlainDate(info.StartDate) + ".";
+    ShowJobs();
+    ShowRecord();
+  }
+
+ private:
+  static ui::Cell DateCell(Day day) {
+    return {static_cast<double>((day - kDayZero).count()), PlainDate(day)};
+  }
+
+  void ShowJobs() {
+    std::vector<ui::ListBox::Row> rows;
+    for (const JobLine& job : CareerOf(world()))
+      rows.push_back({{job.Promotion, DateCell(job.From),
+                       job.Present ? ui::Cell(DateCell(job.To).Number, "Today", ui::Tone::Gold)
+                                   : DateCell(job.To),
+                       SizeText(job.StartSize), SizeText(job.EndSize), ui::Cell(job.StartImage),
+                       ui::Cell(job.EndImage)},
+                      static_cast<int>(rows.size()) + 1});
+    lstjobs.Fill(std::move(rows));
+  }
+
+  static std::vector<std::string> LinesOf(const JobRecord& record) {
+    if (record.Shows + record.Events + record.CalledOff + record.Months == 0)
+      return {"Nothing has been told of it yet."};
+    std::vector<std::string> lines = {Counted(record.Shows, "television show") + " and " +
+                                      Counted(record.Events, "Event") + " held, " +
+                                      std::to_string(record.CalledOff) + " called off."};
+    if (!record.BestShow.empty()) {
+      lines.push_back("Mean rating " + std::to_string(record.MeanRating) + "%.");
+      lines.push_back("Best: " + record.BestShow + ", " + std::to_string(record.BestRating) + "%.");
+    }
+    if (record.Months > 0)
+      lines.push_back(Counted(record.Months, "month") + " closed, " +
+                      (record.Profit < 0 ? "a loss of " : "a profit of ") +
+                      Dollars(record.Profit < 0 ? -record.Profit : record.Profit) + " in all.");
+    return lines;
+  }
+
+  void ShowRecord() {
+    using Style = ui::Report::Style;
+    const GameInfo& info = world().Game();
+    std::vector<ui::Report::Paragraph> words = {
+        {Style::Heading, info.PlayerName.Str()},
+        {Style::Line, ReputationText(info.Reputation) + "."},
+        {Style::Strong, "The present job"}};
+    for (const std::string& line : LinesOf(RecordOfJob(world())))
+      words.push_back({Style::Line, line});
+    txtuser.Write(std::move(words));
+  }
+
+  using K = ui::ColumnKind;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ListBox lstjobs{*this,
+                      "lstjobs",
+                      {{"Promotion", K::Text, 4},
+                       {"From", K::Date, 2},
+                       {"To", K::Date, 2},
+                       {"Size then", K::Text, 1},
+                       {"Size after", K::Text, 1, "Today's for the present job."},
+                       {"Image then", K::Number, 1},
+                       {"Image after", K::Number, 1, "Today's for the present job."}}};
+  ui::Report txtuser{*this, "txtuser"};
+};
+
+}  // namespace
+
+SCREEN(frmUser)
 
 }  // namespace grapplemont

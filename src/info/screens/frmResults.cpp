@@ -1,13 +1,179 @@
+#include "info/screens/frmResults.h"
+
 #include <algorithm>
 
 #include "info/results.h"
-#include "info/screens/chroniclescreens.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
+#include "report/report.h"
 #include "show/recap.h"
 #include "storylines/screens/screenpeople.h"
+#include "ui/game.h"
 
 namespace grapplemont {
+
+namespace {
+
+/// The last shows, to be read again in the words of their reports.
+class frmReports : public GameScreen {
+ public:
+  explicit frmReports(Game& game, Day on = kDayZero, int promotionUid = 0)
+      : GameScreen(game, "frmReports", "Report Column"), on_(on), promotion_(promotionUid) {
+    lstreports.EmptyText = "Whatever is told of your shows can be read here again.";
+  }
+
+  ui::Page Layout() override {
+    return PageOf(ui::Columns({ui::Group("The last shows", {ui::Grow(lstreports)}).Grow(2),
+                               ui::Group("", {ui::Grow(txtreport)}).Grow(3)}),
+                  &lblfacts);
+  }
+
+  void Load() override {
+    ShowList();
+    Select();
+    ShowReport();
+  }
+  void Return() override {
+    ShowList();
+    if (lstreports.Selected() == 0) lstreports.Select(lstreports.Count() > 0 ? 1 : 0);
+    ShowReport();
+  }
+
+ private:
+  void ShowList() {
+    shows_ = ShowsInTheColumn(world());
+    std::vector<ui::ListBox::Row> rows;
+    for (const KeptShow& show : shows_)
+      rows.push_back(
+          {{ui::Cell(static_cast<double>((show.On - kDayZero).count()), PlainDate(show.On)),
+            show.Name, VoiceName(show.Voice)},
+           static_cast<int>(rows.size()) + 1});
+    lstreports.Fill(std::move(rows));
+    lblfacts.Text = shows_.empty() ? "Nothing has been told yet."
+                                   : "The last " + std::to_string(kKeptShows) +
+                                         " shows are kept as they were told.";
+  }
+
+  /// The show that was asked for, else the latest.
+  void Select() {
+    lstreports.Select(shows_.empty() ? 0 : 1);
+    for (std::size_t i = 0; i < shows_.size(); ++i)
+      if (shows_[i].On == on_ && shows_[i].Promotion == promotion_)
+        lstreports.Select(static_cast<int>(i) + 1);
+  }
+
+  static ui::Report::Style StyleOf(int kind) {
+    using Style = ui::Report::Style;
+    switch (kind) {
+      case kWhoMet:
+        return Style::Strong;
+      case kDetails:
+      case kFigures:
+        return Style::Muted;
+      case kWinner:
+        return Style::Line;
+      default:
+        return Style::Body;
+    }
+  }
+
+  void ShowReport() {
+    using Style = ui::Report::Style;
+    const int key = lstreports.Key();
+    if (key < 1 || key > static_cast<int>(shows_.size())) return txtreport.Write("");
+    const KeptShow& show = shows_[static_cast<std::size_t>(key - 1)];
+    std::vector<ui::Report::Paragraph> words = {
+        {Style::Heading, show.Name},
+        {Style::Muted,
+         LongDate(show.On) + ". Reported by " + std::string(VoiceName(show.Voice)) + "."}};
+    for (const ReportText& text : ReportOf(world(), show.On, show.Promotion))
+      AddText(words, StyleOf(text.Kind), text.Words);
+    txtreport.Write(std::move(words));
+  }
+
+  static void AddText(std::vector<ui::Report::Paragraph>& words, ui::Report::Style style,
+                      std::string_view text) {
+    while (!text.empty()) {
+      const auto end = text.find('\n');
+      if (const auto line = text.substr(0, end); !line.empty())
+        words.push_back({style, std::string(line)});
+      text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    }
+  }
+
+  using K = ui::ColumnKind;
+  Day on_;
+  int promotion_;
+  std::vector<KeptShow> shows_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ListBox lstreports{*this,
+                         "lstreports",
+                         {{"Date", K::Date}, {"Show", K::Text, 3}, {"Told by", K::Text, 2}},
+                         &frmReports::ShowReport};
+  ui::Report txtreport{*this, "txtreport"};
+};
+
+}  // namespace
+
+SCREEN(frmReports)
+
+std::unique_ptr<ui::Screen> MakefrmReports(Game& game, Day on, int promotionUid) {
+  return std::make_unique<frmReports>(game, on, promotionUid);
+}
+
+namespace {
+
+/// The awards of the years.
+class frmAwards : public GameScreen {
+ public:
+  explicit frmAwards(Game& game) : GameScreen(game, "frmAwards", "Awards") {
+    lstawards.EmptyText = "Awards are given on 31 December.";
+  }
+
+  ui::Page Layout() override {
+    return PageOf(ui::Group("", {ui::Columns({ui::Field("Year", cmbyear),
+                                              ui::Field("Award", cmbaward), ui::Spacer()}),
+                                 ui::Grow(lstawards)}),
+                  &lblfacts);
+  }
+
+  /// The latest year, or whatever there will be.
+  void Load() override {
+    cmbyear.Add("All years");
+    for (const int year : YearsOfAwards(world())) cmbyear.Add(std::to_string(year), year);
+    cmbaward.Add("All awards");
+    for (int kind = kWrestlerOfTheYear; kind <= kRookieOfTheYear; ++kind)
+      cmbaward.Add(std::string(AwardName(kind)), kind);
+    cmbyear.Select(cmbyear.Count() > 1 ? 2 : 1);
+    cmbaward.Select(1);
+    ShowAwards();
+  }
+  void Return() override { ShowAwards(); }
+
+ private:
+  void ShowAwards() {
+    std::vector<ui::ListBox::Row> rows;
+    for (const YearAward* award : AwardsOf(world(), cmbyear.Key(), cmbaward.Key()))
+      rows.push_back({{ui::Cell(YearOf(award->On)), AwardName(award->Kind),
+                       ui::Cell(award->Winner.View(), ui::Tone::Gold), award->For.View()},
+                      world().Awards().NumberOf(*award)});
+    lblfacts.Text = "Each year ends with the last day before 31 December.";
+    lstawards.Fill(std::move(rows));
+  }
+
+  using K = ui::ColumnKind;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ComboBox cmbyear{*this, "cmbyear", &frmAwards::ShowAwards};
+  ui::ComboBox cmbaward{*this, "cmbaward", &frmAwards::ShowAwards};
+  ui::ListBox lstawards{
+      *this,
+      "lstawards",
+      {{"Year", K::Number}, {"Award", K::Text, 3}, {"Winner", K::Text, 5}, {"For", K::Text, 8}}};
+};
+
+}  // namespace
+
+SCREEN(frmAwards)
 
 namespace {
 
@@ -15,26 +181,21 @@ namespace {
 constexpr std::size_t kCharted = 26;
 
 /// Every show that was held or called off, and who won on it.
-class frmResults : public ui::Screen {
+class frmResults : public GameScreen {
  public:
-  explicit frmResults(Game& game) : Screen(game.Desk(), "frmResults", "Results"), game_(game) {
+  explicit frmResults(Game& game) : GameScreen(game, "frmResults", "Results") {
     lstshows.EmptyText = "Your shows stand here once they have been held.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdreports, &cmdtitles, &cmdawards, &cmdback, &cmdreport};
-    page.Main = &cmdreport;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows({ui::Group("", {ui::Columns({ui::Field("Show", cmbshow),
-                                                      ui::Field("Year", cmbyear), ui::Spacer()}),
-                                         ui::Grow(lstshows)})
-                              .Grow(5),
-                          ui::Columns({ui::Group("Who won", {ui::Grow(lstcard)}).Grow(3),
-                                       ui::Group("Ratings", {ui::Grow(chtratings)}).Grow(2)})
-                              .Grow(4)});
-    return page;
+    return PageOf(ui::Rows({ui::Group("", {ui::Columns({ui::Field("Show", cmbshow),
+                                                        ui::Field("Year", cmbyear), ui::Spacer()}),
+                                           ui::Grow(lstshows)})
+                                .Grow(5),
+                            ui::Columns({ui::Group("Who won", {ui::Grow(lstcard)}).Grow(3),
+                                         ui::Group("Ratings", {ui::Grow(chtratings)}).Grow(2)})
+                                .Grow(4)}),
+                  &lblfacts, {&cmdreports, &cmdtitles, &cmdawards}, &cmdreport);
   }
 
   void Load() override {
@@ -44,8 +205,6 @@ class frmResults : public ui::Screen {
   void Return() override { ShowShows(); }
 
  private:
-  const World& world() { return game_.World(); }
-
   void FillFilters() {
     cmbshow.Add("All shows");
     for (const std::string& name : NamesOfPastShows(world())) cmbshow.Add(name);
@@ -150,10 +309,8 @@ class frmResults : public ui::Screen {
   void lstshows_Open() {
     if (cmdreport.Enabled) cmdreport_Click();
   }
-  void cmdback_Click() { Close(); }
 
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbshow{*this, "cmbshow", &frmResults::ShowShows};
   ui::ComboBox cmbyear{*this, "cmbyear", &frmResults::ShowShows};
@@ -183,7 +340,6 @@ class frmResults : public ui::Screen {
                         [this] { desk().Open("frmReports"); }};
   ui::Button cmdtitles{*this, "cmdtitles", "Reigns", [this] { desk().Open("frmReigns"); }};
   ui::Button cmdawards{*this, "cmdawards", "Awards", [this] { desk().Open("frmAwards"); }};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmResults::cmdback_Click};
 };
 
 }  // namespace

@@ -2,30 +2,27 @@
 
 #include "calendar/advanceday.h"
 #include "info/meeting.h"
-#include "records/counted.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "storylines/screens/screenpeople.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
 namespace {
 
 /// The staff meeting: everything that somebody has to say, the most urgent first.
-class frmTalk : public ui::Screen {
+class frmTalk : public GameScreen {
  public:
-  explicit frmTalk(Game& game) : Screen(game.Desk(), "frmTalk", "Staff Meeting"), game_(game) {
+  explicit frmTalk(Game& game) : GameScreen(game, "frmTalk", "Staff Meeting") {
+    BackBefore(cmdgo);
     lsttalk.EmptyText = "Nobody has anything to say.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdgo};
-    page.Main = &cmdgo;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("On the table", {ui::Grow(lsttalk)}).Grow(6),
-                             ui::Group("", {ui::Grow(txtsays)}).Grow(5)});
-    return page;
+    return PageOf(ui::Columns({ui::Group("On the table", {ui::Grow(lsttalk)}).Grow(6),
+                               ui::Group("", {ui::Grow(txtsays)}).Grow(5)}),
+                  &lblfacts, {}, &cmdgo);
   }
 
   void Load() override {
@@ -42,8 +39,6 @@ class frmTalk : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   void HoldIt() {
     const std::string why = WhyNoMeeting(world());
     advice_ = why.empty() ? HoldMeeting(world()) : std::vector<Advice>();
@@ -114,10 +109,8 @@ class frmTalk : public ui::Screen {
     });
     return one ? links.front().Open : ui::Handler{};
   }
-  void cmdback_Click() { Close(); }
 
   using K = ui::ColumnKind;
-  Game& game_;
   std::vector<Advice> advice_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lsttalk{*this,
@@ -129,7 +122,6 @@ class frmTalk : public ui::Screen {
                       &frmTalk::lsttalk_Click,
                       &frmTalk::cmdgo_Click};
   ui::Report txtsays{*this, "txtsays"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmTalk::cmdback_Click};
   ui::Button cmdgo{*this, "cmdgo", "See To It", &frmTalk::cmdgo_Click};
 };
 

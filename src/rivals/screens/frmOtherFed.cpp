@@ -1,10 +1,10 @@
 #include "rivals/screens/frmOtherFed.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 #include <algorithm>
 
 #include "business/past.h"
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/ownership.h"

@@ -4,7 +4,7 @@
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
 #include "rivals/screens/rivalscreens.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/market.h"

@@ -6,7 +6,7 @@
 #include "records/world.h"
 #include "roster/market.h"
 #include "roster/screens/screenworkers.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 

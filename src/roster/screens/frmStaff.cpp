@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/screens/frmWorker.h"

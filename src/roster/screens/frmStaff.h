@@ -3,7 +3,7 @@
 #include <string>
 
 #include "records/world.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 // How staff stand in tables and on pages.
 

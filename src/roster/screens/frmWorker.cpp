@@ -1,5 +1,5 @@
 #include "roster/screens/frmWorker.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 #include "records/modWresCheck.h"
 #include "records/nameindex.h"

@@ -4,10 +4,10 @@
 #include <type_traits>
 #include <vector>
 
-#include "records/worker.h"
+#include "records/fields/people.h"
 #include "records/world.h"
 #include "roster/talks.h"
-#include "ui/gamescreen.h"
+#include "ui/game.h"
 
 // What the screens of contract talks share.
 

@@ -1,15 +1,61 @@
-#include "session/screens/screensenter.h"
-#include "session/screens/sessionscreens.h"
-#include "session/slots.h"
+#include "session/screens/frmLoadGame.h"
+
+#include <algorithm>
+
+#include "records/modVar.h"
+#include "records/store/slot.h"
+#include "records/store/slotfolder.h"
+#include "session/home.h"
+#include "session/newgame.h"
+#include "storylines/storynames.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
 namespace {
 
-class frmLoadGame : public ui::Screen {
+std::string Lines(const std::vector<std::string>& remarks) {
+  std::string text;
+  for (const std::string& remark : remarks) text += (text.empty() ? "" : "\n") + remark;
+  return text;
+}
+
+/// False when the player would rather leave a damaged slot alone.
+bool Open(Game& game, int slot) {
+  std::vector<std::string> remarks;
+  try {
+    remarks = game.OpenSlot(slot);
+  } catch (const SlotDamaged& damage) {
+    if (!game.Desk().Ask("Error Loading", std::string(damage.what()) + "\nLoad it so?",
+                         ui::Default::No))
+      return false;
+    remarks = game.OpenSlot(slot, true);
+  }
+  for (std::string& line : NearlyFullFiles(game.World())) remarks.push_back(std::move(line));
+  if (!remarks.empty()) game.Desk().Say("Loading", Lines(remarks));
+  return true;
+}
+
+}  // namespace
+
+void EnterSlot(Game& game, int slot) {
+  if (!Open(game, slot)) return;
+  try {
+    game.Desk().CloseAll();
+    game.Desk().Open("frmMainScreen");
+  } catch (...) {
+    // The start-up screens come back; a game left open behind them would keep its slot locked.
+    game.CloseSlot();
+    throw;
+  }
+}
+
+namespace {
+
+class frmLoadGame : public GameScreen {
  public:
   explicit frmLoadGame(Game& game)
-      : Screen(game.Desk(), "frmLoadGame", "Load Game", ui::Role::Cover), game_(game) {}
+      : GameScreen(game, "frmLoadGame", "Load Game", {.Is = ui::Role::Cover}) {}
 
   ui::Page Layout() override {
     ui::Page page;
@@ -37,9 +83,7 @@ class frmLoadGame : public ui::Screen {
 
  private:
   void cmdload_Click(int slot) { EnterSlot(game_, slot); }
-  void cmdback_Click() { Close(); }
 
-  Game& game_;
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Array<ui::Button> cmdload{"cmdload", kSlots, [this](const std::string&, int slot) {
                                   return std::make_unique<ui::Button>(
@@ -50,11 +94,96 @@ class frmLoadGame : public ui::Screen {
                                     return std::make_unique<ui::Label>(
                                         *this, "lbldetails" + std::to_string(slot));
                                   }};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmLoadGame::cmdback_Click};
 };
 
 }  // namespace
 
 SCREEN(frmLoadGame)
+
+namespace {
+
+class frmPickSaveSlot : public GameScreen {
+ public:
+  frmPickSaveSlot(Game& game, NewGameChoice choice)
+      : GameScreen(game, "frmPickSaveSlot", "Pick A Save Slot", {.Is = ui::Role::Cover}),
+        choice_(std::move(choice)) {}
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Actions = {&cmdback};
+    page.Cancel = &cmdback;
+    std::vector<ui::Box> rows;
+    for (int slot = 1; slot <= kSlots; ++slot)
+      rows.push_back(ui::Columns({ui::Grow(cmdload(slot), 2), ui::Grow(lbldetails(slot), 3)}));
+    page.Body =
+        ui::Rows({ui::Group("Where is the game to be kept?", std::move(rows)), ui::Spacer()});
+    return page;
+  }
+
+  void Load() override {
+    for (int slot = 1; slot <= kSlots; ++slot) {
+      const SlotSummary summary = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot));
+      cmdload(slot).Text = summary.Caption;
+      lbldetails(slot).Text = summary.Details;
+    }
+  }
+  void Return() override { Load(); }
+
+ private:
+  void cmdload_Click(int slot) {
+    {
+      const SlotLock free(game_.Disk(), game_.SlotFolder(slot));
+    }  // before any question: it may be busy
+    const bool empty = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot)).Empty;
+    const std::string question = empty ? QuestionOfLeavings(game_.Disk(), game_.SlotFolder(slot))
+                                       : "Are you sure you want to overwrite this slot?";
+    if (!question.empty() && !desk().Ask("Are you sure?", question, ui::Default::No)) return;
+    choice_.SaveName =
+        desk().Prompt("User Entry", "Save Game Name:", "Save Game " + std::to_string(slot));
+    if (detail::Trimmed(choice_.SaveName).empty()) return;
+    if (desk().Objects(WhyNotPlain(choice_.SaveName))) return;
+    World world(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse));
+    world.Load(ReadWorldFiles(game_.Disk(), game_.DataFolder()));
+    desk().Say("Database creation",
+               "The database for this game will now be created.\n"
+               "This process can take up to 10 minutes depending on the speed of your machine.\n"
+               "Do not press ctrl-alt-del while it is happening, as you will corrupt your data.");
+    Waiting waiting(game_);
+    const auto mended = NewGame(world, choice_, [&](std::string_view step) { waiting.Tell(step); });
+    Slot::Create(game_.Disk(), game_.SlotFolder(slot), FilesOf(world), game_.NewWorldId());
+    waiting.Done();
+    TellOfMending(mended);
+    EnterSlot(game_, slot);
+  }
+
+  /// What the clean-up of the data had to put right; a world in order is not worth a word.
+  void TellOfMending(const FaultList& mended) {
+    if (mended.empty()) return;
+    constexpr std::size_t kShown = 12;
+    std::string text = "The default data was not in order. For this game it was put right:";
+    const std::size_t shown = std::min(mended.First.size(), kShown);
+    for (std::size_t i = 0; i < shown; ++i) text += "\n" + mended.First[i].Line();
+    if (mended.Count > shown) text += "\nand " + std::to_string(mended.Count - shown) + " more.";
+    desk().Say("Database creation", text);
+  }
+
+  NewGameChoice choice_;
+  ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
+  ui::Array<ui::Button> cmdload{"cmdload", kSlots, [this](const std::string&, int slot) {
+                                  return std::make_unique<ui::Button>(
+                                      *this, "cmdload" + std::to_string(slot), "",
+                                      [this, slot] { cmdload_Click(slot); });
+                                }};
+  ui::Array<ui::Label> lbldetails{"lbldetails", kSlots, [this](const std::string&, int slot) {
+                                    return std::make_unique<ui::Label>(
+                                        *this, "lbldetails" + std::to_string(slot));
+                                  }};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmPickSaveSlot(Game& game, NewGameChoice choice) {
+  return std::make_unique<frmPickSaveSlot>(game, std::move(choice));
+}
 
 }  // namespace grapplemont

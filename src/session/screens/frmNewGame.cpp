@@ -1,12 +1,13 @@
 #include <algorithm>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "session/newgame.h"
-#include "session/screens/sessionscreens.h"
+#include "session/screens/frmLoadGame.h"
 #include "storylines/storynames.h"
 #include "storylines/titles.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -23,10 +24,11 @@ std::string RoleSuffix(const Worker& worker) {
   return {};
 }
 
-class frmNewGame : public ui::Screen {
+class frmNewGame : public GameScreen {
  public:
   explicit frmNewGame(Game& game)
-      : Screen(game.Desk(), "frmNewGame", "New Game", ui::Role::Cover), game_(game) {
+      : GameScreen(game, "frmNewGame", "New Game", {.Is = ui::Role::Cover}) {
+    BackBefore(cmdbegin);
     txtname.Hint = "Your name";
     lstshows.EmptyText = "No television shows.";
     lstbelts.EmptyText = "No Titles.";
@@ -37,25 +39,22 @@ class frmNewGame : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdbegin};
-    page.Main = &cmdbegin;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Rows({ui::Group("You", {ui::Field("Name", txtname), ui::Field("Promotion", cmbPromo),
-                                     ui::Field("Difficulty", cmbdifficulty)}),
-                   ui::Group("The promotion",
-                             {ui::Field("Size", lblsize), ui::Field("Image", lblimage),
-                              ui::Field("Money", lblmoney), ui::Field("Owner", lblowner)}),
-                   ui::Spacer()})
-             .Grow(2),
-         ui::Rows({ui::Group("Television", {ui::Grow(lstshows)}).Grow(1),
-                   ui::Group("Titles", {ui::Grow(lstbelts)}).Grow(1),
-                   ui::Group("Staff", {ui::Grow(lststaff)}).Grow(2)})
-             .Grow(3),
-         ui::Group("Roster", {ui::Grow(lstroster)}).Grow(3)});
-    return page;
+    return PageOf(
+        ui::Columns(
+            {ui::Rows(
+                 {ui::Group("You", {ui::Field("Name", txtname), ui::Field("Promotion", cmbPromo),
+                                    ui::Field("Difficulty", cmbdifficulty)}),
+                  ui::Group("The promotion",
+                            {ui::Field("Size", lblsize), ui::Field("Image", lblimage),
+                             ui::Field("Money", lblmoney), ui::Field("Owner", lblowner)}),
+                  ui::Spacer()})
+                 .Grow(2),
+             ui::Rows({ui::Group("Television", {ui::Grow(lstshows)}).Grow(1),
+                       ui::Group("Titles", {ui::Grow(lstbelts)}).Grow(1),
+                       ui::Group("Staff", {ui::Grow(lststaff)}).Grow(2)})
+                 .Grow(3),
+             ui::Group("Roster", {ui::Grow(lstroster)}).Grow(3)}),
+        &lblfacts, {}, &cmdbegin);
   }
 
   void Load() override {
@@ -133,12 +132,9 @@ class frmNewGame : public ui::Screen {
     return worker.Disposition == "H" ? ui::Tone::Red : ui::Tone::Muted;
   }
 
-  void cmdback_Click() { Close(); }
-
   void cmdbegin_Click();
 
   using K = ui::ColumnKind;
-  Game& game_;
   World world_;
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Label lblfacts{*this, "lblfacts"};
@@ -154,7 +150,6 @@ class frmNewGame : public ui::Screen {
   ui::ListBox lststaff{*this, "lststaff", {{"Name"}, {"Post"}, {"Talent", K::Number}}};
   ui::ListBox lstroster{
       *this, "lstroster", {{"Name"}, {"Position"}, {"Disp.", K::Tag}, {"Over", K::Number}}};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmNewGame::cmdback_Click};
   ui::Button cmdbegin{*this, "cmdbegin", "Begin", &frmNewGame::cmdbegin_Click};
 };
 

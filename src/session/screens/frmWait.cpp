@@ -1,6 +1,7 @@
 #include "records/world.h"
-#include "session/pictures.h"
-#include "session/screens/sessionscreens.h"
+#include "session/home.h"
+#include "session/screens/frmLoadGame.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -26,23 +27,19 @@ class frmWait : public ui::Screen {
 };
 
 /// The galleries of waiting pictures, and how to add one's own.
-class frmLoadingScreens : public ui::Screen {
+class frmLoadingScreens : public GameScreen {
  public:
   explicit frmLoadingScreens(Game& game)
-      : Screen(game.Desk(), "frmLoadingScreens", "Loading Screens"), game_(game) {
+      : GameScreen(game, "frmLoadingScreens", "Loading Screens") {
     cmbset.Add("Graphics Set Default", 0);
     for (int set = 1; set <= 4; ++set) cmbset.Add("Graphics Set " + std::to_string(set), set);
     cmbset.SelectKey(game.HasWorld() ? int(game.World().Game().LoadingSet) : 0);
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdprevious, &cmdnext, &cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows({ui::Columns({ui::Field("Set", cmbset), lblcount, ui::Spacer()}),
-                          ui::Grow(imgpicture), lbltext});
-    return page;
+    return PageOf(ui::Rows({ui::Columns({ui::Field("Set", cmbset), lblcount, ui::Spacer()}),
+                            ui::Grow(imgpicture), lbltext}),
+                  nullptr, {&cmdprevious, &cmdnext});
   }
 
   void Load() override { cmbset_Click(); }
@@ -79,9 +76,7 @@ class frmLoadingScreens : public ui::Screen {
     at_ = (at_ + 1) % pictures_.size();
     ShowPicture();
   }
-  void cmdback_Click() { Close(); }
 
-  Game& game_;
   std::vector<std::string> pictures_;
   std::size_t at_ = 0;
   ui::ComboBox cmbset{*this, "cmbset", &frmLoadingScreens::cmbset_Click};
@@ -90,7 +85,6 @@ class frmLoadingScreens : public ui::Screen {
   ui::Label lbltext{*this, "lbltext"};
   ui::Button cmdprevious{*this, "cmdprevious", "Previous", &frmLoadingScreens::cmdprevious_Click};
   ui::Button cmdnext{*this, "cmdnext", "Next", &frmLoadingScreens::cmdnext_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmLoadingScreens::cmdback_Click};
 };
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include <array>
 
-#include "records/dates.h"
+#include "records/fields/fields.h"
 #include "records/world.h"
 #include "storylines/feuds.h"
 #include "storylines/screens/screenpeople.h"

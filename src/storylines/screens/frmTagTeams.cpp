@@ -1,4 +1,4 @@
-#include "records/counted.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "records/holes.h"
-#include "records/nearest.h"
+#include "records/fields/wording.h"
 #include "words/units.h"
 
 namespace grapplemont {

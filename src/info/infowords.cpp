@@ -1,0 +1,31 @@
+#include "info/infowords.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "records/fields/wording.h"
+
+namespace grapplemont {
+
+std::string FillLine(std::string_view line, const LineWords& words) {
+  std::string text = FillHoles(line, [&](std::string_view slot) {
+    const auto counted = ReadCounted(slot);
+    const std::string_view name = counted ? counted->Name : slot;
+    const auto found = std::find_if(words.begin(), words.end(),
+                                    [=](const auto& word) { return word.first == name; });
+    if (found == words.end()) return "{" + std::string(slot) + "}";
+    if (!counted) return found->second;
+    const std::string form(found->second == "1" ? counted->One : counted->Many);
+    return counted->SaysCount ? found->second + " " + form : form;
+  });
+  if (!text.empty()) text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
+  return text;
+}
+
+std::string WithArticle(std::string_view name) {
+  constexpr std::string_view kArticle = "The ";
+  if (name.starts_with(kArticle)) name.remove_prefix(kArticle.size());
+  return "the " + std::string(name);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "records/checks/checkworld.h"
+
+// The rules of a world in order, grouped by what they speak of. Each looks at the whole world and
+// notes every fault.
+
+namespace grapplemont {
+
+// Files and fields, by the field lists.
+void WholeRecords(Inspection& inspection);
+void FieldsHoldWhatTheyMay(Inspection& inspection);
+void CountedNumbersLieInTheirRanges(Inspection& inspection);  // of those alone
+void NoRecordStandsTwice(Inspection& inspection);
+void KeysAreUnique(Inspection& inspection);
+void ReferencesLeadSomewhere(Inspection& inspection);
+
+// People.
+void UnsackableHasEmployerAndNoEnd(Inspection& inspection);
+void UnemployedAreFree(Inspection& inspection);
+void StablesOfTheEmployer(Inspection& inspection);
+void SplitsOfTheEmployer(Inspection& inspection);
+void ManagersOfTheEmployer(Inspection& inspection);
+void DivasAreWomen(Inspection& inspection);
+void FloorNotAboveOver(Inspection& inspection);
+void PotentialOfThirty(Inspection& inspection);
+void EverybodyHasABirthday(Inspection& inspection);
+void OneOwnerEach(Inspection& inspection);
+void OfficesAreHeldByTheOwn(Inspection& inspection);
+
+// Promotions and what belongs to them.
+void NoTombstones(Inspection& inspection);
+void TitlesAgree(Inspection& inspection);
+void ChampionsWorkForTheOwner(Inspection& inspection);
+void VacantTitlesSaySo(Inspection& inspection);
+void TitlesAndStablesHaveOneName(Inspection& inspection);
+void NobodyTeamsWithHimself(Inspection& inspection);
+void TeamsAreTwo(Inspection& inspection);
+void OneEventAMonth(Inspection& inspection);
+void ThreeShowsAtMost(Inspection& inspection);
+void OneShowASpot(Inspection& inspection);
+void SponsorsAgree(Inspection& inspection);
+
+// The running game.
+void GameInfoStands(Inspection& inspection);
+void ShortlistWithoutDoubles(Inspection& inspection);
+void EightFeuds(Inspection& inspection);
+void FeudsAreEmptyOrComplete(Inspection& inspection);
+void MailsAreDated(Inspection& inspection);
+
+}  // namespace grapplemont

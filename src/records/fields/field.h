@@ -1,0 +1,229 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "records/fields/fields.h"
+
+// One list of fields per record: all that must know a record's fields (the check, the tables, the
+// editor, tool-tips, the file-format page) reads it, and nothing else does it by hand.
+
+namespace grapplemont {
+
+enum class FieldKind { Word, Percent, Long, Flag, Date, Text };
+
+/// What a field's number or text leads to.
+enum class Refers {
+  Nothing,
+  Worker,
+  Promotion,
+  Staff,
+  Commentator,
+  Network,
+  Sponsor,
+  Stable,
+  Split,
+  Title
+};
+
+/// One word of a vocabulary: the code as stored (a number, or a text for text fields) and what it
+/// says.
+struct Term {
+  int Code = 0;
+  std::string_view Stored;
+  std::string_view Says;
+};
+using Vocabulary = std::span<const Term>;
+
+/// The words of a code; empty for an unknown one.
+std::string_view Says(Vocabulary words, int code);
+std::string_view Says(Vocabulary words, std::string_view stored);
+/// The code whose words these are; nullptr for unknown words.
+const Term* FindTerm(Vocabulary words, std::string_view says);
+
+struct Field {
+  std::string_view Name;  // '#' stands for the number of a numbered field: "Rank#"
+  FieldKind Kind = FieldKind::Word;
+  int Offset = 0;
+  int Width = 0;
+  int Count = 1;   // numbered fields: how many
+  int Stride = 0;  // and how many bytes from one to the next
+  long long Min = 0, Max = 0;
+  bool MayBeNone = false;  // besides Min..Max, -1 stands for "none"
+  bool IsKey = false;      // unique in its file
+  bool MayBreak = false;   // a text of several lines
+  bool IsCounted = false;  // rules count with it, and never leave Min..Max
+  Refers To = Refers::Nothing;
+  Vocabulary Words = {};
+  std::string_view Unit = {};
+  std::string_view Help = {};
+
+  constexpr Field In(long long min, long long max) const {
+    Field f = *this;
+    f.Min = min;
+    f.Max = max;
+    return f;
+  }
+  constexpr Field OrNone() const {
+    Field f = *this;
+    f.MayBeNone = true;
+    return f;
+  }
+  constexpr Field Key() const {
+    Field f = *this;
+    f.IsKey = true;
+    return f;
+  }
+  constexpr Field InLines() const {
+    Field f = *this;
+    f.MayBreak = true;
+    return f;
+  }
+  /// A number that leads to a record is its uid, or 0 for none.
+  constexpr Field LeadsTo(Refers to) const {
+    Field f = Kind == FieldKind::Word ? In(0, 32767) : *this;
+    f.To = to;
+    return f;
+  }
+  constexpr Field From(Vocabulary words) const {
+    Field f = *this;
+    f.Words = words;
+    return f;
+  }
+  constexpr Field Counts(std::string_view unit) const {
+    Field f = *this;
+    f.Unit = unit;
+    return f;
+  }
+  constexpr Field Means(std::string_view help) const {
+    Field f = *this;
+    f.Help = help;
+    return f;
+  }
+};
+
+/// A record's layout: what a file of it is called, how long a record is, how many may be in it.
+struct RecordLayout {
+  std::string_view Name;  // "Worker"
+  std::string_view File;  // "wrestler.dat"
+  int Size = 0;           // bytes a record
+  int Limit = 0;          // records a file
+  std::span<const Field> Fields;
+};
+
+/// The layout of a record type; GM_RECORD declares it beside the record, GM_LAYOUT defines it.
+template <class T>
+const RecordLayout& LayoutOf();
+
+/// "Rank3" for the third of "Rank#".
+std::string FieldName(const Field& field, int index);
+
+// Access to a field of a record's bytes by its description; `index` counts from 0 within a numbered
+// field.
+long long FieldNumber(const Field& field, const std::byte* record,
+                      int index = 0);  // no Text, no Date
+std::string_view FieldText(const Field& field, const std::byte* record, int index = 0);
+double FieldDate(const Field& field, const std::byte* record, int index = 0);
+/// Throws FieldOverflow when the number does not fit; percentages are not saturated here.
+void SetFieldNumber(const Field& field, std::byte* record, int index, long long value);
+void SetFieldText(const Field& field, std::byte* record, int index, std::string_view text);
+void SetFieldDate(const Field& field, std::byte* record, int index, double days);
+/// The value for a person to read: a code by its words, a date as yyyy-mm-dd, a flag as yes or no.
+std::string FieldShown(const Field& field, const std::byte* record, int index = 0);
+
+namespace detail {
+
+template <class T>
+struct FieldType;
+template <>
+struct FieldType<Word> {
+  static constexpr FieldKind kKind = FieldKind::Word;
+  static constexpr long long kMin = -32768, kMax = 32767;
+};
+template <>
+struct FieldType<Percent> {
+  static constexpr FieldKind kKind = FieldKind::Percent;
+  static constexpr long long kMin = 0, kMax = 100;
+  static constexpr bool kOrNone = false;
+};
+template <>
+struct FieldType<Long> {
+  static constexpr FieldKind kKind = FieldKind::Long;
+  static constexpr long long kMin = -2147483648LL, kMax = 2147483647LL;
+};
+template <int Bytes, int Least, int Most, bool OrNone>
+struct FieldType<Ranged<Bytes, Least, Most, OrNone>> {
+  static constexpr FieldKind kKind = Bytes == 2 ? FieldKind::Word : FieldKind::Long;
+  static constexpr long long kMin = Least, kMax = Most;
+  static constexpr bool kOrNone = OrNone;
+};
+template <>
+struct FieldType<Flag> {
+  static constexpr FieldKind kKind = FieldKind::Flag;
+  static constexpr long long kMin = -1, kMax = 0;
+};
+template <>
+struct FieldType<Date> {
+  static constexpr FieldKind kKind = FieldKind::Date;
+  static constexpr long long kMin = 0, kMax = 0;
+};
+template <int N>
+struct FieldType<Text<N>> {
+  static constexpr FieldKind kKind = FieldKind::Text;
+  static constexpr long long kMin = 0, kMax = 0;
+};
+
+template <class T>
+constexpr Field MakeField(std::string_view name, std::size_t offset, int count = 1,
+                          std::size_t stride = 0) {
+  Field f;
+  f.Name = name;
+  f.Kind = FieldType<T>::kKind;
+  f.Offset = static_cast<int>(offset);
+  f.Width = static_cast<int>(sizeof(T));
+  f.Count = count;
+  f.Stride = static_cast<int>(stride);
+  f.Min = FieldType<T>::kMin;
+  f.Max = FieldType<T>::kMax;
+  if constexpr (requires { FieldType<T>::kOrNone; }) {
+    f.IsCounted = true;
+    f.MayBeNone = FieldType<T>::kOrNone;
+  }
+  return f;
+}
+
+template <class Array>
+constexpr Field MakeNumbered(std::string_view name, std::size_t offset) {
+  using Element = typename Array::value_type;
+  return MakeField<Element>(name, offset, static_cast<int>(std::tuple_size_v<Array>),
+                            sizeof(Element));
+}
+
+}  // namespace detail
+
+// A record of that many bytes in its file; docs/file-formats.md has where each field stands.
+#define GM_RECORD(Record, Bytes)                                    \
+  static_assert(sizeof(Record) == (Bytes) && alignof(Record) == 1); \
+  template <>                                                       \
+  const RecordLayout& LayoutOf<Record>()
+#define GM_LAYOUT(Record, File, Limit, Fields)                                           \
+  template <>                                                                            \
+  const RecordLayout& LayoutOf<Record>() {                                               \
+    static constexpr RecordLayout kLayout{#Record, File, sizeof(Record), Limit, Fields}; \
+    return kLayout;                                                                      \
+  }
+
+// A member, a numbered array of fields, and a member of each element of an array of parts.
+#define GM_FIELD(Record, Member) \
+  ::grapplemont::detail::MakeField<decltype(Record::Member)>(#Member, offsetof(Record, Member))
+#define GM_NUMBERED(Record, Member)                                          \
+  ::grapplemont::detail::MakeNumbered<decltype(Record::Member)>(#Member "#", \
+                                                                offsetof(Record, Member))
+#define GM_PART(Record, Array, Part, Member, Name)            \
+  ::grapplemont::detail::MakeField<decltype(Part::Member)>(   \
+      Name, offsetof(Record, Array) + offsetof(Part, Member), \
+      static_cast<int>(std::tuple_size_v<decltype(Record::Array)>), sizeof(Part))
+
+}  // namespace grapplemont

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <array>
+
+#include "records/fields/field.h"
+#include "records/fields/vocabulary.h"
+
+// Records that only a running game has: feuds, the Segments of the show being booked, mails,
+// incidents.
+
+namespace grapplemont {
+
+/// A rivalry: one of the eight records of feudinfo.dat; Worker1 0 is an empty slot. In a singles
+/// feud the sides are Worker1 and Worker2; in a tag feud they are Worker1 with Worker2, and Worker3
+/// with Worker4.
+struct Feud {
+  Flag Singles;
+  Word Worker1;
+  Word Worker2;
+  Word Worker3;
+  Word Worker4;
+  Natural Clean1;
+  Natural Dirty1;
+  Natural Interference1;
+  Natural Sneak1;
+  Natural Clean2;
+  Natural Dirty2;
+  Natural Interference2;
+  Natural Sneak2;
+  Percent Heat;
+  Date Started;
+};
+GM_RECORD(Feud, 36);
+
+inline constexpr int kFeuds = 8;
+
+/// A match, an interview or an angle of the show being booked: a record of match.dat. (Its member
+/// Text hides the type of that name.)
+struct Segment {
+  Percent Rating;
+  Word Kind;
+  Word Style;
+  Word MatchType;
+  Word Purpose;
+  Word Winner;
+  Word Loser;
+  Word Place3;
+  Word Place4;
+  Word Place5;
+  Word Place6;
+  Word Place7;
+  Word Place8;
+  Word Finish;
+  grapplemont::Text<20> TitleName;
+  Word Other1;
+  Word Other2;
+  Word Other3;
+  Word Other4;
+  Word Aftermath;
+  std::array<Word, 30> Worker;
+  grapplemont::Text<25> Text;
+};
+GM_RECORD(Segment, 143);
+
+/// A mail to the player: a record of news.dat.
+struct Mail {
+  Text<30> From;
+  Text<10> Date;  // "dd/mm/yy"
+  Text<250> Body;
+};
+GM_RECORD(Mail, 290);
+
+/// What happened backstage today: one of the ten records of incident.tmp.
+struct Incident {
+  Word Type;  // 0 for none
+  Word Uid;   // of a Worker, or of a Promotion for a job offer
+};
+GM_RECORD(Incident, 4);
+
+}  // namespace grapplemont

@@ -1,0 +1,299 @@
+#include "records/store/disk.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <map>
+
+#include "records/fields/charset.h"
+
+namespace grapplemont {
+
+DiskError::DiskError(std::string_view path, std::string_view action, std::string_view reason)
+    : std::runtime_error("Could not " + std::string(action) + " " + ForScreen(path) + ": " +
+                         std::string(reason) + "."),
+      path_(path) {}
+
+DiskError::DiskError(const DiskError& fault, std::string_view consequence)
+    : std::runtime_error(std::string(fault.what()) + " " + std::string(consequence)),
+      path_(fault.path_) {}
+
+bool IsFolder(Disk& disk, const std::string& path) {
+  return disk.Look(path + "/.") == Disk::Kind::Folder;
+}
+
+std::string ParentOf(const std::string& path) {
+  const auto slash = path.rfind('/');
+  if (slash == std::string::npos) return ".";
+  return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+Bytes ReadStart(Disk& disk, const std::string& path, std::int64_t most) {
+  const OpenedFile file(disk, path, false);
+  Bytes bytes(static_cast<std::size_t>(std::min(disk.Size(file), most)));
+  if (!bytes.empty()) disk.ReadAt(file, 0, bytes);
+  return bytes;
+}
+
+std::optional<Bytes> ReadWithin(Disk& disk, const std::string& path, std::int64_t most) {
+  Bytes bytes = ReadStart(disk, path, most + 1);
+  if (std::ssize(bytes) > most) return std::nullopt;
+  return bytes;
+}
+
+void CopyFile(Disk& disk, const std::string& from, const std::string& to) {
+  constexpr std::int64_t kPiece = 1 << 16;
+  const OpenedFile source(disk, from, false), target(disk, to, true);
+  disk.Resize(target, 0);
+  const std::int64_t size = disk.Size(source);
+  Bytes piece;
+  for (std::int64_t at = 0; at < size; at += kPiece) {
+    piece.resize(static_cast<std::size_t>(std::min(kPiece, size - at)));
+    disk.ReadAt(source, at, piece);
+    // A file that is mostly empty takes no more room than it did.
+    if (std::any_of(piece.begin(), piece.end(), [](std::byte byte) { return byte != std::byte(); }))
+      disk.WriteAt(target, at, piece);
+  }
+  disk.Resize(target, size);
+  disk.Sync(target);
+}
+
+void WriteFile(Disk& disk, const std::string& path, ByteSpan bytes) {
+  const std::string beside = path + ".tmp";
+  {
+    const OpenedFile file(disk, beside, true);
+    disk.Resize(file, 0);
+    if (!bytes.empty()) disk.WriteAt(file, 0, bytes);
+    disk.Sync(file);
+  }
+  disk.Rename(beside, path);
+  disk.SyncFolder(ParentOf(path));
+}
+
+void RemoveTree(Disk& disk, const std::string& path) {
+  const Disk::Kind kind = disk.Look(path);
+  if (kind == Disk::Kind::Nothing) return;
+  if (kind == Disk::Kind::Folder)
+    for (const std::string& name : disk.List(path)) RemoveTree(disk, path + "/" + name);
+  disk.Remove(path);
+}
+
+namespace {
+
+[[noreturn]] void Fail(std::string_view path, std::string_view action) {
+  // The plain English reason: the program's texts do not follow the machine's language.
+  const char* reason = ::strerrordesc_np(errno);
+  throw DiskError(path, action, reason ? reason : "unknown reason");
+}
+
+/// Repeats a call that a signal interrupted.
+template <class Call>
+auto Persist(Call call) {
+  decltype(call()) result;
+  do {
+    result = call();
+  } while (result == -1 && errno == EINTR);
+  return result;
+}
+
+bool NotOffered() {
+  return errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+}
+
+class MachineDisk : public Disk {
+ public:
+  explicit MachineDisk(Syncs syncs) : syncs_(syncs) {}
+  ~MachineDisk() override {
+    for (const auto& [path, handle] : locks_) ::close(handle);
+    for (const auto& [handle, path] : paths_) ::close(handle);
+  }
+  MachineDisk(const MachineDisk&) = delete;
+  MachineDisk& operator=(const MachineDisk&) = delete;
+
+  Kind Look(const std::string& path) override {
+    struct stat about {};
+    if (::lstat(path.c_str(), &about) != 0) {
+      if (errno == ENOENT || errno == ENOTDIR) return Kind::Nothing;
+      Fail(path, "look at");
+    }
+    if (S_ISREG(about.st_mode)) return Kind::File;
+    return S_ISDIR(about.st_mode) ? Kind::Folder : Kind::Other;
+  }
+
+  std::vector<std::string> List(const std::string& folder) override {
+    DIR* open = ::opendir(folder.c_str());
+    if (!open) Fail(folder, "read the folder");
+    std::vector<std::string> names;
+    errno = 0;
+    while (const dirent* entry = ::readdir(open)) {
+      const std::string name = entry->d_name;
+      if (name != "." && name != "..") names.push_back(name);
+      errno = 0;
+    }
+    const int reason = errno;
+    ::closedir(open);
+    errno = reason;
+    if (reason != 0) Fail(folder, "read the folder");
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+  Handle Open(const std::string& path, bool create) override {
+    // Without O_NONBLOCK a pipe that somebody put there would hold the program for ever.
+    constexpr int kAlways = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
+    const int wanted = O_RDWR | kAlways | (create ? O_CREAT : 0);
+    int handle = Persist([&] { return ::open(path.c_str(), wanted, 0644); });
+    if (handle < 0 && !create && (errno == EACCES || errno == EROFS || errno == EPERM))
+      handle = Persist([&] { return ::open(path.c_str(), O_RDONLY | kAlways); });
+    if (handle < 0 && errno == ELOOP) throw DiskError(path, "open", "it is a link");
+    if (handle < 0) Fail(path, create ? "create" : "open");
+    struct stat about {};
+    if (::fstat(handle, &about) != 0 || !S_ISREG(about.st_mode)) {
+      ::close(handle);
+      throw DiskError(path, "open", "it is no plain file");
+    }
+    paths_[handle] = path;
+    return handle;
+  }
+
+  void Close(Handle file) override {
+    if (paths_.erase(file) > 0) ::close(file);
+  }
+
+  std::int64_t Size(Handle file) override {
+    struct stat about {};
+    if (::fstat(file, &about) != 0) Fail(PathOf(file), "measure");
+    return about.st_size;
+  }
+
+  bool IsAt(Handle file, const std::string& path) override {
+    struct stat opened {
+    }, there{};
+    if (::fstat(file, &opened) != 0) Fail(PathOf(file), "look at");
+    if (::lstat(path.c_str(), &there) != 0) {
+      if (errno == ENOENT || errno == ENOTDIR) return false;
+      Fail(path, "look at");
+    }
+    return opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
+  }
+
+  void ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) override {
+    while (!buffer.empty()) {
+      const ssize_t got =
+          Persist([&] { return ::pread(file, buffer.data(), buffer.size(), offset); });
+      if (got < 0) Fail(PathOf(file), "read");
+      if (got == 0) throw DiskError(PathOf(file), "read", "it is shorter than expected");
+      buffer = buffer.subspan(static_cast<std::size_t>(got));
+      offset += got;
+    }
+  }
+
+  void WriteAt(Handle file, std::int64_t offset, ByteSpan bytes) override {
+    while (!bytes.empty()) {
+      const ssize_t put =
+          Persist([&] { return ::pwrite(file, bytes.data(), bytes.size(), offset); });
+      if (put < 0) Fail(PathOf(file), "write");
+      bytes = bytes.subspan(static_cast<std::size_t>(put));
+      offset += put;
+    }
+  }
+
+  void Sync(Handle file) override {
+    // Never repeated, not even after a signal: what a second call says is worth nothing.
+    if (syncs_ == Syncs::Real && ::fdatasync(file) != 0) Fail(PathOf(file), "secure");
+  }
+
+  void SyncFolder(const std::string& folder) override {
+    if (syncs_ == Syncs::None) return;
+    const int handle =
+        Persist([&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
+    if (handle < 0) Fail(folder, "open the folder");
+    const int result = ::fsync(handle);
+    const int reason = errno;
+    ::close(handle);
+    errno = reason;
+    // Some file systems keep names without being asked and say so with "invalid".
+    if (result != 0 && reason != EINVAL) Fail(folder, "secure the folder");
+  }
+
+  void Allocate(Handle file, std::int64_t size) override {
+    if (size <= 0) return;
+    if (Persist([&] { return ::fallocate(file, FALLOC_FL_KEEP_SIZE, 0, size); }) == 0) return;
+    // File systems without reservations find out when they write.
+    if (!NotOffered()) Fail(PathOf(file), "reserve room for");
+  }
+
+  void Resize(Handle file, std::int64_t size) override {
+    if (Persist([&] { return ::ftruncate(file, size); }) != 0) Fail(PathOf(file), "resize");
+  }
+
+  void Rename(const std::string& from, const std::string& to) override {
+    if (::rename(from.c_str(), to.c_str()) != 0) Fail(from, "rename");
+  }
+
+  bool Exchange(const std::string& a, const std::string& b) override {
+    if (::renameat2(AT_FDCWD, a.c_str(), AT_FDCWD, b.c_str(), RENAME_EXCHANGE) == 0) return true;
+    if (!NotOffered()) Fail(a, "swap in");
+    return false;
+  }
+
+  void Remove(const std::string& path) override {
+    if (::remove(path.c_str()) != 0) Fail(path, "remove");
+  }
+
+  void MakeFolder(const std::string& path) override {
+    if (::mkdir(path.c_str(), 0755) == 0) return;
+    const int reason = errno;
+    if (reason == EEXIST && Look(path) == Kind::Folder) return;
+    errno = reason;
+    Fail(path, "make the folder");
+  }
+
+  bool Lock(const std::string& path) override {
+    if (locks_.contains(path)) return false;
+    const int handle = Persist([&] {
+      return ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0644);
+    });
+    if (handle < 0) Fail(path, "create");
+    if (Persist([&] { return ::flock(handle, LOCK_EX | LOCK_NB); }) != 0) {
+      const int reason = errno;
+      ::close(handle);
+      errno = reason;
+      if (reason != EWOULDBLOCK) Fail(path, "lock");
+      return false;
+    }
+    locks_[path] = handle;
+    return true;
+  }
+
+  void Unlock(const std::string& path) override {
+    const auto held = locks_.find(path);
+    if (held == locks_.end()) return;
+    ::close(held->second);
+    locks_.erase(held);
+  }
+
+ private:
+  std::string PathOf(Handle file) const {
+    const auto path = paths_.find(file);
+    return path == paths_.end() ? "a closed file" : path->second;
+  }
+
+  Syncs syncs_;
+  std::map<Handle, std::string> paths_;
+  std::map<std::string, Handle> locks_;
+};
+
+}  // namespace
+
+std::unique_ptr<Disk> RealDisk(Syncs syncs) {
+  return std::make_unique<MachineDisk>(syncs);
+}
+
+}  // namespace grapplemont

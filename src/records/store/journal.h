@@ -1,0 +1,132 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "records/store/disk.h"
+
+// The form of a journal: two blocks for its marker, then one record a commit, each padded to whole
+// blocks, one behind the other; and of the seal beside it. All numbers are little-endian.
+// docs/saving.md tells how they are used.
+
+namespace grapplemont {
+
+inline constexpr std::int64_t kJournalBlock = 4096;
+/// Where the first record stands.
+inline constexpr std::int64_t kJournalStart = 2 * kJournalBlock;
+
+constexpr std::int64_t RoundedToBlocks(std::int64_t size) {
+  return (size + kJournalBlock - 1) / kJournalBlock * kJournalBlock;
+}
+
+/// Steps of the protocol left out on purpose, by tests that must notice it. All false is right.
+struct JournalQuirks {
+  bool EmptyBeforeFiles = false;  // the journal is emptied before the record files are synced
+  bool BareRanges = false;        // ranges are not rounded out to blocks
+  bool NoChecksum = false;
+  bool NoSequence = false;        // any record of the world is taken for the next one
+  bool RetrySync = false;         // a failed sync is tried once more on the same handle
+  bool TrustWhatIsRead = false;   // a chain is applied without a copy that is known to be on disk
+  bool RemoveBeforeSwap = false;  // a creation clears the old folder before the swap is synced
+  bool TrustTheChain = false;     // a chain without a gap is applied whatever the files hold
+};
+
+/// One number that stands for all files of a world: two worlds of the same digest are the same, as
+/// far as 64 bits can tell.
+class WorldDigest {
+ public:
+  void Set(const std::string& name, ByteSpan contents);
+  void Set(std::string name, std::uint64_t digest) { files_[std::move(name)] = digest; }
+  void Remove(const std::string& name) { files_.erase(name); }
+  std::uint64_t Value() const;
+  /// One number for each file, by its name.
+  const std::map<std::string, std::uint64_t>& OfFiles() const { return files_; }
+  /// The names of the files that are not the same in both.
+  std::vector<std::string> Differing(const WorldDigest& other) const;
+
+ private:
+  std::map<std::string, std::uint64_t> files_;
+};
+
+WorldDigest DigestOf(const std::map<std::string, Bytes>& files);
+
+/// Which world the journal belongs to, and the sequence up to which the record files themselves
+/// hold everything: the chain of records that counts begins with the next one.
+struct JournalMarker {
+  std::uint64_t World = 0;
+  std::uint64_t Sequence = 0;
+  std::uint64_t Digest = 0;   // of the world at that sequence (WorldDigest)
+  std::int64_t Reserved = 0;  // how long the journal is at least; 0 where nobody wrote it down
+};
+
+/// What the record files are being brought to: written before each commit's changes reach them.
+/// They hold nothing later, and where their digests are the seal's, they hold just that.
+struct WorldSeal {
+  std::uint64_t World = 0;
+  std::uint64_t Sequence = 0;
+  WorldDigest Files;
+};
+
+/// A stretch of a file's new contents; begins on a block and ends on one, or with the file.
+struct JournalRange {
+  std::int64_t Offset = 0;
+  ByteSpan Contents;
+};
+
+/// What a commit does to one file.
+struct FilePatch {
+  std::string Name;
+  bool Exists = false;
+  std::int64_t Length = 0;
+  std::vector<JournalRange> Ranges;
+};
+
+struct JournalRecord {
+  std::uint64_t World = 0;
+  std::uint64_t Sequence = 0;
+  std::uint64_t Digest = 0;  // of the world after this commit
+  std::vector<FilePatch> Files;
+};
+
+/// A file that a slot may hold, and how long it may be.
+struct KnownFile {
+  std::string Name;
+  std::int64_t MaxBytes;
+  std::int64_t RecordBytes = 1;
+  bool Fleeting = false;  // made again all the time: nobody misses what is wrong with it
+  /// What a longer file is cut to: whole records.
+  std::int64_t MostBytes() const { return MaxBytes / RecordBytes * RecordBytes; }
+};
+
+/// One block.
+Bytes PackMarker(const JournalMarker& marker);
+/// Nothing where the block is no whole marker.
+std::optional<JournalMarker> UnpackMarker(ByteSpan block);
+
+/// Whole blocks.
+Bytes PackSeal(const WorldSeal& seal);
+/// Nothing where the bytes are no whole seal.
+std::optional<WorldSeal> UnpackSeal(ByteSpan bytes);
+
+/// The record's bytes, padded to whole blocks.
+Bytes PackRecord(const JournalRecord& record);
+
+/// A record read at a place of the journal.
+struct JournalEntry {
+  JournalRecord Record;   // its ranges point into the journal's bytes
+  std::int64_t Size = 0;  // padded
+};
+/// The record that begins at `offset`. Nothing where none is whole, or where it would
+/// touch anything but the known files within their limits.
+std::optional<JournalEntry> UnpackRecord(ByteSpan journal, std::int64_t offset,
+                                         const std::vector<KnownFile>& known,
+                                         const JournalQuirks& quirks = {});
+
+/// The blocks of `after` that differ from `before`, joined where they touch.
+std::vector<JournalRange> ChangedRanges(ByteSpan before, ByteSpan after,
+                                        const JournalQuirks& quirks = {});
+
+}  // namespace grapplemont

@@ -1,0 +1,56 @@
+#include "records/store/table.h"
+
+namespace grapplemont {
+
+TableFull::TableFull(const RecordLayout& layout)
+    : std::runtime_error(std::string(layout.File) + " is full: it holds its most of " +
+                         std::to_string(layout.Limit) + " records.") {}
+
+bool Table::Changed() const {
+  const ByteSpan now = Contents();
+  if (exists_ != committedExists_ || now.size() != committed_.size()) return true;
+  return !now.empty() && std::memcmp(now.data(), committed_.data(), now.size()) != 0;
+}
+
+void Table::MarkCommitted() {
+  const ByteSpan now = Contents();
+  committed_.assign(now.begin(), now.end());
+  committedExists_ = exists_;
+}
+
+void Table::Rollback() {
+  if (committedExists_) {
+    Load(committed_);
+  } else {
+    Remove();
+  }
+}
+
+void TextFile::Remove() {
+  exists_ = false;
+  text_.clear();
+}
+
+void TextFile::Load(ByteSpan bytes) {
+  if (static_cast<std::int64_t>(bytes.size()) > MaxBytes())
+    throw WorldFault(std::string(file_) + " is longer than " + std::to_string(MaxBytes()) +
+                     " bytes. Shorten it and try again.");
+  text_.assign(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+  exists_ = true;
+}
+
+void TextFile::Set(std::string_view text) {
+  text_ = text.substr(0, static_cast<std::size_t>(MaxBytes()));
+  exists_ = true;
+}
+
+void RequireWithinLimit(const RecordLayout& layout, std::size_t bytes) {
+  const auto limit = static_cast<std::size_t>(layout.Limit);
+  if (bytes / static_cast<std::size_t>(layout.Size) > limit)
+    throw WorldFault(std::string(layout.File) + " holds " +
+                     std::to_string(bytes / static_cast<std::size_t>(layout.Size)) +
+                     " records, more than its most of " + std::to_string(limit) +
+                     ". Put back a file of this game.");
+}
+
+}  // namespace grapplemont

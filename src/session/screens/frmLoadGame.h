@@ -1,0 +1,15 @@
+#pragma once
+
+#include "ui/game.h"
+
+namespace grapplemont {
+
+/// The slot that a new game goes into: opened with what the player chose (all but the slot's name).
+struct NewGameChoice;
+std::unique_ptr<ui::Screen> MakefrmPickSaveSlot(Game& game, NewGameChoice choice);
+
+/// Opens the slot's game on the main screen in place of all start-up screens. A damaged journal is
+/// asked about. Throws what Game::OpenSlot throws; then no game is open.
+void EnterSlot(Game& game, int slot);
+
+}  // namespace grapplemont

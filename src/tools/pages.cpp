@@ -1,0 +1,291 @@
+#include "tools/pages.h"
+
+#include <algorithm>
+#include <ostream>
+
+#include "records/fields/fields.h"
+#include "records/tables/cells.h"
+#include "records/tables/tablekinds.h"
+#include "records/world.h"
+#include "tools/commands.h"
+
+namespace grapplemont::tools {
+
+namespace {
+
+std::string Words(Vocabulary words) {
+  std::string list;
+  for (const Term& term : words) list += (list.empty() ? "" : ", ") + std::string(term.Says);
+  return list;
+}
+
+std::string ReferenceInWords(Refers to) {
+  switch (to) {
+    case Refers::Worker:
+      return "a worker's Name";
+    case Refers::Promotion:
+      return "a promotion's Initials";
+    case Refers::Staff:
+      return "a staff member's Name";
+    case Refers::Commentator:
+      return "a staff member's Name, or a worker's if ColourIsWorker is yes";
+    case Refers::Network:
+      return "a network's Name";
+    case Refers::Sponsor:
+      return "a sponsor's Name";
+    case Refers::Stable:
+      return "the Name of a stable of the employer, or None";
+    case Refers::Split:
+      return "one of the employer's Split1 to Split4, or None";
+    default:
+      return "";
+  }
+}
+
+/// "dollars, 0 to 1000"
+std::string NumberInWords(const Field& field) {
+  const bool any = field.Min == -32768 || field.Min == -2147483648LL;
+  return (field.Unit.empty() ? "" : std::string(field.Unit) + ", ") +
+         (any ? "any whole number"
+              : std::to_string(field.Min) + " to " + std::to_string(field.Max));
+}
+
+std::string GoesIn(const Field& field) {
+  std::string text = ReferenceInWords(field.To);
+  if (!text.empty()) return text + (field.MayBeNone ? ", or none" : "");
+  if (!field.Words.empty()) return Words(field.Words);
+  switch (field.Kind) {
+    case FieldKind::Text:
+      return "up to " + std::to_string(field.Width) + " letters" + (field.IsKey ? ", unique" : "");
+    case FieldKind::Date:
+      return "a date, like 2026-03-31";
+    case FieldKind::Flag:
+      return "yes or no";
+    default:
+      return NumberInWords(field) + (field.MayBeNone ? ", or none" : "") +
+             (field.IsKey ? ", unique" : "");
+  }
+}
+
+std::string LeftOut(const TableKind& kind, const Column& column) {
+  if (IsUid(*column.Of)) return "the next free number";
+  if (!HasDefault(kind, column)) return "must be there";
+  const std::byte* record = kind.Default.data();
+  if (column.Of->Kind == FieldKind::Date) {
+    const std::string shown = FieldShown(*column.Of, record, column.Index);
+    return shown == IsoDate(kDayZero) ? "no date" : shown;
+  }
+  if (column.Of->Kind != FieldKind::Text && column.Of->To != Refers::Nothing) return "nobody";
+  const std::string cell = CellOf(kind, column, record);
+  return cell.empty() ? "empty" : cell;
+}
+
+std::string ColumnName(const Field& field) {
+  if (field.Count == 1) return FieldName(field, 0);
+  return FieldName(field, 0) + " to " + FieldName(field, field.Count - 1);
+}
+
+std::string TableSection(const TableKind& kind) {
+  std::string text = "\n### " + std::string(kind.Name) + "\n\nAt most " +
+                     std::to_string(kind.Layout->Limit) + " records. Becomes `" +
+                     std::string(kind.Layout->File) + "`.\n\n";
+  text += "| Column | What goes in | Left out or empty | Meaning |\n| --- | --- | --- | --- |\n";
+  for (const Field& field : kind.Layout->Fields)
+    text += "| " + ColumnName(field) + " | " + GoesIn(field) + " | " + LeftOut(kind, {&field, 0}) +
+            " | " + std::string(field.Help) + " |\n";
+  return text;
+}
+
+int Columns(const Arguments&, Shell& shell) {
+  shell.Out << ColumnsPage();
+  return 0;
+}
+
+}  // namespace
+
+std::string ColumnsPage() {
+  std::string page;
+  for (const TableKind& kind : TableKinds())
+    if (!kind.OfGame) page += TableSection(kind);
+  return page;
+}
+
+const Command kColumns{
+    "columns", "", "Prints the part of docs/world-making.md that tells every column.",
+    0,         {}, Columns};
+
+namespace {
+
+constexpr std::string_view kIntroduction = R"(# File formats
+
+This page is made by `grapplemont-world formats` from the lists of fields that the program itself works with.
+
+## Folders
+
+A world is a folder of record files. Two kinds of folder hold one, both in the *home* (the working directory if it has
+`data`, else the user's data folder):
+
+- `data` is the default world, which a new game copies. It holds the ten files of the data set: `belt.dat`,
+  `event.dat`, `network.dat`, `promos.dat`, `sponsor.dat`, `stables.dat`, `staff.dat`, `teams.dat`, `tv.dat`,
+  `wrestler.dat`.
+- `s1` to `s8` are the save slots. Each is a complete running world: the ten files, and those that only a game has:
+  `gameinfo.dat` (a slot is in use exactly when it has one), `news.dat`, `notes.dat`, `feudinfo.dat`, `match.dat` while
+  a show is booked, `showrun.dat` while one is under way, `incident.tmp` when something happened backstage,
+  `deeds.dat`, which keeps what the wrestling world did of late, and the past:
+  `history.dat` (every show of the player's, and how each promotion stood at every month end), `bouts.dat` (the player's
+  matches), `tallies.dat` (what each worker's matches add up to), `reigns.dat` (the reigns of every Title in the world),
+  `reports.dat` (the words of the last twelve shows), `awards.dat` (the awards of the years) and `yearend.dat` (how
+  popular everybody was when the last year ended).
+
+None of the past is needed to play: where one of its files is missing or cut short, the game goes on without what stood
+in it. A full file makes room by dropping its oldest records: a thousand of the history and of the reigns that have
+ended, five hundred matches (what they add up to stays in the tallies), a year of awards. The words of a show take the
+places of the oldest one's.
+
+## The journal
+
+A slot also has a `journal`. Every click of the player is one commit: what it changed in any of the files is first
+written to the journal as one checked record and brought to the disk, and only then copied into the files. A commit is
+there whole or not at all, whatever becomes of the power. The files alone may therefore lag behind the journal; opening
+the slot replays it. `world.id` tells which journal belongs to the world, `world.seal` how far the files are, and
+`s1.lock` beside the slot keeps a second program out. [How saving works](saving.md) tells the rest. Copy a slot as a whole folder while no program has it open.
+
+## Records
+
+Except for `notes.dat`, which is plain text, a file is a row of records of one length, without a header. Records are
+numbered from 1. What stands behind the last whole record is ignored, and overwritten by the next one.
+
+| Type | Bytes | Holds |
+| --- | --- | --- |
+| text | as wide as the field | letters of Windows-1252, one byte each, filled up with blanks |
+| 16-bit | 2 | a whole number, signed, little-endian; -1 (bytes FF FF) often stands for "none" or "no end" |
+| percent | 2 | the same, from 0 to 100 |
+| flag | 2 | the same: -1 is yes, 0 is no |
+| 32-bit | 4 | a whole number, signed, little-endian |
+| date | 8 | days since 30 December 1899, a little-endian floating-point number of double precision; its fraction is the time of day |
+
+Records know each other by uid, a number in the first two bytes of a record that keeps for life; 0 is nobody. Workers
+are led to Stables and to the parts of a split roster by name.
+)";
+
+std::string TypeName(const Field& field) {
+  switch (field.Kind) {
+    case FieldKind::Word:
+      return "16-bit";
+    case FieldKind::Percent:
+      return "percent";
+    case FieldKind::Long:
+      return "32-bit";
+    case FieldKind::Flag:
+      return "flag";
+    case FieldKind::Date:
+      return "date";
+    default:
+      return "text";
+  }
+}
+
+std::string NumberRange(const Field& field) {
+  if (field.Min == -32768 && field.Max == 32767) return "any";
+  if (field.Min == -2147483648LL) return "any";
+  const std::string range = std::to_string(field.Min) + " to " + std::to_string(field.Max);
+  return range + (field.MayBeNone ? ", or -1" : "");
+}
+
+std::string Stored(const Field& field, const Term& term) {
+  if (field.Kind == FieldKind::Text) return "\"" + std::string(term.Stored) + "\"";
+  return std::to_string(term.Code);
+}
+
+std::string Range(const Field& field) {
+  std::string words;
+  for (const Term& term : field.Words) {
+    if (!words.empty()) words += ", ";
+    words += Stored(field, term);
+    if (term.Stored != term.Says) words += " " + std::string(term.Says);
+  }
+  if (!words.empty()) return words;
+  switch (field.Kind) {
+    case FieldKind::Text:
+      return field.IsKey ? "unique" : "";
+    case FieldKind::Date:
+    case FieldKind::Flag:
+      return "";
+    default:
+      return NumberRange(field) + (field.IsKey ? ", unique" : "");
+  }
+}
+
+std::string RefersTo(const Field& field) {
+  switch (field.To) {
+    case Refers::Nothing:
+      return "";
+    case Refers::Worker:
+      return "Worker";
+    case Refers::Promotion:
+      return "Promotion";
+    case Refers::Staff:
+      return "Staff";
+    case Refers::Commentator:
+      return "Staff, or Worker if ColourIsWorker";
+    case Refers::Network:
+      return "Network";
+    case Refers::Sponsor:
+      return "Sponsor";
+    case Refers::Stable:
+      return "Stable, by name";
+    case Refers::Split:
+      return "Split1 to Split4 of the employer, by name";
+    case Refers::Title:
+      return "Title, by name";
+  }
+  return "";
+}
+
+std::string NameOf(const Field& field) {
+  if (field.Count == 1) return "`" + FieldName(field, 0) + "`";
+  return "`" + FieldName(field, 0) + "` to `" + FieldName(field, field.Count - 1) + "`";
+}
+
+std::string OffsetOf(const Field& field) {
+  const std::string first = std::to_string(field.Offset);
+  return field.Count == 1 ? first : first + ", every " + std::to_string(field.Stride);
+}
+
+std::string FileSection(const RecordLayout& layout) {
+  std::string text = "\n## " + std::string(layout.File) + ": " + std::string(layout.Name) + "\n\n";
+  text += layout.Limit == 1 ? "One record" : "At most " + std::to_string(layout.Limit) + " records";
+  text += " of " + std::to_string(layout.Size) + " bytes.\n\n";
+  text += "| Offset | Width | Type | Field | Values | Refers to | Unit | Meaning |\n";
+  text += "| --- | --- | --- | --- | --- | --- | --- | --- |\n";
+  for (const Field& field : layout.Fields) {
+    const std::string cells[] = {OffsetOf(field),
+                                 std::to_string(field.Width),
+                                 TypeName(field),
+                                 NameOf(field),
+                                 Range(field),
+                                 RefersTo(field),
+                                 std::string(field.Unit),
+                                 std::string(field.Help)};
+    for (const std::string& cell : cells) text += "| " + cell + (cell.empty() ? "" : " ");
+    text += "|\n";
+  }
+  return text;
+}
+
+int Formats(const Arguments&, Shell& shell) {
+  shell.Out << FormatsPage();
+  return 0;
+}
+
+}  // namespace
+
+std::string FormatsPage() {
+  std::string page(kIntroduction);
+  for (const TableKind& kind : TableKinds()) page += FileSection(*kind.Layout);
+  return page;
+}
+
+const Command kFormats{"formats", "", "Prints docs/file-formats.md.", 0, {}, Formats};
+
+}  // namespace grapplemont::tools

@@ -1,0 +1,345 @@
+#include "ui/arrangedtable.h"
+
+#include <algorithm>
+#include <charconv>
+#include <compare>
+#include <numeric>
+
+#include "ui/filter.h"
+
+namespace grapplemont::ui {
+
+namespace {
+
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
+
+const Cell& CellOf(const ListBox::Row& row, int column) {
+  static const Cell kNone("");
+  return Index(column) < row.Cells.size() ? row.Cells[Index(column)] : kNone;
+}
+
+}  // namespace
+
+std::string ColumnId(const std::vector<Column>& columns, int column) {
+  const std::string& title = columns[Index(column)].Title;
+  return title.empty() ? "#" + std::to_string(column + 1) : title;
+}
+
+Table::Table(const ListBox& list, TableState state) : list_(list), state_(std::move(state)) {
+  Follow();
+}
+
+bool Table::Follow() {
+  if (seen_ == list_.Contents()) return false;
+  seen_ = list_.Contents();
+  ArrangeColumns();
+  ArrangeRows();
+  return true;
+}
+
+const ListBox::Row& Table::RowAt(int shownRow) const {
+  return list_.Rows()[Index(rows_[Index(shownRow)])];
+}
+
+const Cell& Table::At(int shownRow, int listColumn) const {
+  return CellOf(RowAt(shownRow), listColumn);
+}
+
+int Table::ShownRow(int listRow) const {
+  const auto found = std::find(rows_.begin(), rows_.end(), listRow);
+  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+void Table::ArrangeColumns() {
+  const int count = static_cast<int>(list_.Columns().size());
+  columns_.clear();
+  const auto place = [&](int column) {
+    if (std::find(columns_.begin(), columns_.end(), column) == columns_.end())
+      columns_.push_back(column);
+  };
+  for (const std::string& id : state_.Order)
+    for (int column = 0; column < count; ++column)
+      if (Id(column) == id) place(column);
+  for (int column = 0; column < count; ++column) place(column);
+  const auto hidden = [&](int column) { return state_.Hidden.contains(Id(column)); };
+  if (!std::all_of(columns_.begin(), columns_.end(), hidden)) std::erase_if(columns_, hidden);
+}
+
+void Table::ArrangeRows() {
+  const auto& columns = list_.Columns();
+  const Search search(state_.Search, columns);
+  std::vector<std::pair<int, Filter>> filters;
+  for (int column = 0; Index(column) < columns.size(); ++column)
+    if (Filter filter(FilterOf(column)); !filter.Empty()) filters.emplace_back(column, filter);
+
+  rows_.clear();
+  for (int row = 0; row < list_.Count(); ++row) {
+    const ListBox::Row& candidate = list_.Rows()[Index(row)];
+    const bool fits = std::all_of(filters.begin(), filters.end(), [&](const auto& filter) {
+      return filter.second.Fits(CellOf(candidate, filter.first), columns[Index(filter.first)].Kind);
+    });
+    if (fits && search.Fits(candidate.Cells, columns)) rows_.push_back(row);
+  }
+  SortRows();
+}
+
+namespace {
+
+/// The cells of a column in a form that compares quickly.
+struct SortColumn {
+  bool Descending;
+  std::vector<double> Numbers;
+  std::vector<std::string> Texts;
+
+  /// Rows without a text come last, whichever way the others go.
+  std::weak_ordering Compare(std::size_t a, std::size_t b) const {
+    if (Texts[a].empty() != Texts[b].empty()) return Texts[a].empty() <=> Texts[b].empty();
+    auto order = std::weak_order(Numbers[a], Numbers[b]);
+    if (order == 0) order = Texts[a] <=> Texts[b];
+    return Descending ? 0 <=> order : order;
+  }
+};
+
+}  // namespace
+
+void Table::SortRows() {
+  std::vector<SortColumn> keys;
+  for (const auto& [id, descending] : state_.Sort)
+    for (int column = 0; Index(column) < list_.Columns().size(); ++column) {
+      if (Id(column) != id) continue;
+      SortColumn& key = keys.emplace_back();
+      key.Descending = descending;
+      const bool numeric = IsNumeric(list_.Columns()[Index(column)].Kind);
+      for (const ListBox::Row& row : list_.Rows()) {
+        const Cell& cell = CellOf(row, column);
+        key.Numbers.push_back(numeric ? cell.Number : 0);
+        key.Texts.push_back(Folded(cell.Text));
+      }
+      break;
+    }
+  if (keys.empty()) return;
+  std::stable_sort(rows_.begin(), rows_.end(), [&](int a, int b) {
+    for (const SortColumn& key : keys)
+      if (const auto order = key.Compare(Index(a), Index(b)); order != 0) return order < 0;
+    return false;
+  });
+}
+
+TableState::SortKey* Table::KeyFor(int listColumn) {
+  const std::string id = Id(listColumn);
+  const auto found = std::find_if(state_.Sort.begin(), state_.Sort.end(),
+                                  [&](const auto& key) { return key.Column == id; });
+  return found == state_.Sort.end() ? nullptr : &*found;
+}
+
+void Table::TurnSort(int listColumn, bool second) {
+  const bool falls = IsNumeric(list_.Columns()[Index(listColumn)].Kind) &&
+                     list_.Columns()[Index(listColumn)].Kind != ColumnKind::Date;
+  const std::string id = Id(listColumn);
+  auto& sort = state_.Sort;
+  if (!second && (sort.size() != 1 || sort.front().Column != id)) {
+    sort = {{id, falls}};
+  } else if (TableState::SortKey* key = KeyFor(listColumn); !key) {
+    if (sort.size() > 1) sort.resize(1);
+    sort.push_back({id, falls});
+  } else if (key->Descending == falls) {
+    key->Descending = !falls;
+  } else {
+    std::erase_if(sort, [&](const auto& held) { return held.Column == id; });
+  }
+  ArrangeRows();
+}
+
+int Table::SortPlace(int listColumn) const {
+  const std::string id = Id(listColumn);
+  for (std::size_t i = 0; i < state_.Sort.size(); ++i)
+    if (state_.Sort[i].Column == id) return static_cast<int>(i) + 1;
+  return 0;
+}
+
+bool Table::SortsDown(int listColumn) const {
+  const int place = SortPlace(listColumn);
+  return place > 0 && state_.Sort[Index(place - 1)].Descending;
+}
+
+void Table::SetFilter(int listColumn, std::string expression) {
+  if (Filter(expression).Empty()) {
+    state_.Filters.erase(Id(listColumn));
+  } else {
+    state_.Filters[Id(listColumn)] = std::move(expression);
+  }
+  ArrangeRows();
+}
+
+const std::string& Table::FilterOf(int listColumn) const {
+  static const std::string kNone;
+  const auto found = state_.Filters.find(Id(listColumn));
+  return found == state_.Filters.end() ? kNone : found->second;
+}
+
+void Table::SetSearch(std::string line) {
+  state_.Search = std::move(line);
+  ArrangeRows();
+}
+
+void Table::ClearFilters() {
+  state_.Filters.clear();
+  SetSearch({});
+}
+
+bool Table::Shows(int listColumn) const {
+  return std::find(columns_.begin(), columns_.end(), listColumn) != columns_.end();
+}
+
+void Table::Show(int listColumn, bool shown) {
+  if (shown) {
+    state_.Hidden.erase(Id(listColumn));
+  } else if (columns_.size() > 1) {
+    state_.Hidden.insert(Id(listColumn));
+  }
+  ArrangeColumns();
+}
+
+void Table::SetOrder(const std::vector<int>& listColumns) {
+  state_.Order.clear();
+  for (const int column : listColumns) state_.Order.push_back(Id(column));
+  ArrangeColumns();
+}
+
+void Table::ResetColumns() {
+  state_.Order.clear();
+  state_.Hidden.clear();
+  state_.Widths.clear();
+  ArrangeColumns();
+}
+
+void Table::SetWidth(int listColumn, int width) {
+  state_.Widths[Id(listColumn)] = width;
+}
+
+void Table::SetPlace(int topRow, int currentKey) {
+  state_.TopRow = topRow;
+  state_.CurrentKey = currentKey;
+}
+
+// Tables and their states as texts.
+
+namespace {
+
+void AppendCsv(std::string& csv, std::string_view field) {
+  if (field.find_first_of(",\"\r\n") == field.npos) {
+    csv += field;
+    return;
+  }
+  csv += '"';
+  for (const char letter : field) {
+    if (letter == '"') csv += '"';
+    csv += letter;
+  }
+  csv += '"';
+}
+
+/// A field of a state's line: the signs that part fields stand behind a backslash.
+void AppendField(std::string& line, std::string_view text) {
+  for (const char letter : text) {
+    if (letter == '\\' || letter == ';' || letter == ':') line += '\\';
+    line += letter;
+  }
+}
+
+void AppendEntry(std::string& line, std::string_view kind,
+                 std::initializer_list<std::string> fields) {
+  line += kind;
+  for (const std::string& field : fields) {
+    line += ':';
+    AppendField(line, field);
+  }
+  line += ';';
+}
+
+/// Takes the entry up to the next ';' apart.
+std::vector<std::string> TakeEntry(std::string_view& text) {
+  std::vector<std::string> fields(1);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == ';') {
+      text.remove_prefix(i + 1);
+      return fields;
+    }
+    if (text[i] == ':') {
+      fields.emplace_back();
+    } else {
+      if (text[i] == '\\' && i + 1 < text.size()) ++i;
+      fields.back() += text[i];
+    }
+  }
+  text = {};
+  return fields;
+}
+
+int NumberIn(const std::string& text) {
+  int number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
+}  // namespace
+
+std::string Table::Csv() const {
+  std::string csv;
+  const int rows = static_cast<int>(rows_.size());
+  for (int row = -1; row < rows; ++row) {
+    std::string_view part;
+    for (const int column : columns_) {
+      csv += part;
+      const auto& title = list_.Columns()[static_cast<std::size_t>(column)].Title;
+      AppendCsv(csv, row < 0 ? title : At(row, column).Text);
+      part = ",";
+    }
+    csv += "\r\n";
+  }
+  return csv;
+}
+
+std::string Written(const TableState& state) {
+  std::string line;
+  for (const auto& [column, descending] : state.Sort)
+    AppendEntry(line, descending ? "down" : "up", {column});
+  for (const auto& [column, expression] : state.Filters)
+    AppendEntry(line, "filter", {column, expression});
+  if (!state.Search.empty()) AppendEntry(line, "search", {state.Search});
+  for (const std::string& column : state.Order) AppendEntry(line, "order", {column});
+  for (const std::string& column : state.Hidden) AppendEntry(line, "hide", {column});
+  for (const auto& [column, width] : state.Widths)
+    AppendEntry(line, "width", {column, std::to_string(width)});
+  if (state.TopRow != 0 || state.CurrentKey != 0)
+    AppendEntry(line, "place", {std::to_string(state.TopRow), std::to_string(state.CurrentKey)});
+  return line;
+}
+
+TableState ReadTableState(std::string_view text) {
+  TableState state;
+  while (!text.empty()) {
+    const std::vector<std::string> entry = TakeEntry(text);
+    const std::string& kind = entry.front();
+    if (entry.size() == 2) {
+      const std::string& field = entry[1];
+      if ((kind == "up" || kind == "down") && state.Sort.size() < 2)
+        state.Sort.push_back({field, kind == "down"});
+      if (kind == "search") state.Search = field;
+      if (kind == "order") state.Order.push_back(field);
+      if (kind == "hide") state.Hidden.insert(field);
+    } else if (entry.size() == 3) {
+      if (kind == "filter") state.Filters[entry[1]] = entry[2];
+      if (kind == "width") state.Widths[entry[1]] = NumberIn(entry[2]);
+      if (kind == "place") {
+        state.TopRow = NumberIn(entry[1]);
+        state.CurrentKey = NumberIn(entry[2]);
+      }
+    }
+  }
+  return state;
+}
+
+}  // namespace grapplemont::ui
