@@ -20,7 +20,8 @@ constexpr int kHottestStart = 90;
 
 /// Fewer wins and attacks than these, and nobody has noticed the feud yet.
 constexpr int kNoticed = 4;
-/// A feud that just stops hurts one in so many of its people, as much as losing the last bout does.
+/// A feud that just stops hurts one in this many of its people, as much as losing the last bout
+/// does.
 constexpr int kHurtOdds = 4;
 constexpr int kHurtOver = 2;
 /// From this Attitude on a complaint is put politely.
@@ -49,7 +50,7 @@ std::string_view DispositionOf(const World& world, const FeudSide& side) {
   if (!first) return {};
   if (!side.IsTeam()) return first->Disposition;
   const Worker* second = world.FindWorker(side.Second);
-  if (!second || !(second->Disposition == first->Disposition)) return {};
+  if (!second || second->Disposition != first->Disposition) return {};
   return first->Disposition;
 }
 

@@ -24,7 +24,7 @@ Name NameOf(const Title& title) {
 }
 
 bool IsUsed(const Reign& line) {
-  return !(line.Holder == "None") && !line.Holder.View().empty();
+  return line.Holder != "None" && !line.Holder.View().empty();
 }
 
 bool IsPresent(const TitleReign& reign, const Title& title) {
@@ -168,7 +168,7 @@ void UpdateReigns(World& world) {
 
 void CountDefence(World& world, std::string_view title) {
   for (TitleReign& reign : world.Reigns()) {
-    if (reign.End != kReignLasts || reign.Owner != world.PlayerUid() || !(reign.Title == title))
+    if (reign.End != kReignLasts || reign.Owner != world.PlayerUid() || reign.Title != title)
       continue;
     reign.Defences = std::max<int>(0, reign.Defences) + 1;
     return;

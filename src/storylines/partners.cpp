@@ -24,7 +24,7 @@ bool IsIn(const World& world, const Worker& worker, std::string_view stable) {
   return WorksForPlayer(world, worker) && worker.Stable == stable;
 }
 
-/// What a show has held already stays as it was told.
+/// What a show has held already stays as it was reported.
 bool IsBookedFor(const Segment& segment, std::string_view stable) {
   const Angle* angle = segment.Kind == kAngle ? FindAngle(segment.Style) : nullptr;
   return angle && HasStableRole(*angle) && segment.Text == stable && segment.Rating == 0;
@@ -120,7 +120,7 @@ std::vector<const Worker*> StableMembers(const World& world, std::string_view st
 
 std::vector<const Worker*> ActiveMembers(const World& world, std::string_view stable) {
   std::vector<const Worker*> members = StableMembers(world, stable);
-  std::erase_if(members, [](const Worker* worker) { return !(worker->Status == "Nor"); });
+  std::erase_if(members, [](const Worker* worker) { return worker->Status != "Nor"; });
   return members;
 }
 
@@ -185,7 +185,7 @@ void DissolveStable(World& world, std::string_view stable) {
 }
 
 bool IsInStable(const Worker& worker) {
-  return !worker.Stable.View().empty() && !(worker.Stable == "None");
+  return !worker.Stable.View().empty() && worker.Stable != "None";
 }
 
 std::string WhyNotJoin(const World& world, std::string_view stable, const Worker& worker) {

@@ -9,7 +9,7 @@ namespace grapplemont {
 
 namespace {
 
-// The last is the blank of Windows-1252 at which no line breaks: it cannot be told from any other.
+// The last is the blank of Windows-1252 at which no line breaks: it looks like any other.
 constexpr std::string_view kBlanks = " \t\n\r\xA0";
 
 /// What the files mean something by.

@@ -59,7 +59,7 @@ std::string KindText(const Title& title) {
 }
 
 bool FitsTitle(const Title& title, const Worker& worker) {
-  return !(title.Lightweight && !(worker.Weight == "L")) && !(title.Woman && worker.Gender);
+  return !(title.Lightweight && worker.Weight != "L") && !(title.Woman && worker.Gender);
 }
 
 std::string WhyNotDefend(const Title& title, const Worker& worker) {
@@ -67,7 +67,7 @@ std::string WhyNotDefend(const Title& title, const Worker& worker) {
   if (!IsOnRoster(worker)) return "no wrestler";
   for (const auto& [status, words] : kAbsences)
     if (worker.Status == status) return words;
-  if (!(worker.Status == "Nor")) return "unfit";
+  if (worker.Status != "Nor") return "unfit";
   return FitsTitle(title, worker) ? "" : "not eligible";
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "booking/auto/autobooker.h"
+#include "booking/wizard/refusals.h"
 #include "booking/wizard/segmentcheck.h"
 #include "records/segments.h"
 #include "support/smallworld.h"

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "booking/wizard/objections.h"
 #include "randomhouse.h"
 
 // A thousand cards for rosters that nobody would put together.

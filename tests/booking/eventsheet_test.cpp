@@ -77,13 +77,6 @@ TEST(EventSheet, OffersTheExtrasOfThePromotionsSizeAtTheirPrice) {
     int Bonus;
   };
   const std::pair<int, std::vector<Extra>> kSizes[] = {
-      {kBackyard, {{"Local College Band To Play", "1000", 0}, {"Hire A Better Ring", "5000", 30}}},
-      {kSmall,
-       {{"Local Band To Play", "20000", 5}, {"Have The Event Logo On The Ring Apron", "30000", 0}}},
-      {kRegional,
-       {{"Well-Known Band To Play", "60000", 10},
-        {"Have The Event Logo On The Ring Apron", "30000", 0},
-        {"Have Pyros For Ring Entrances", "80000", 0}}},
       {kCult,
        {{"Have Special On-Screen Graphics", "70000", 5},
         {"Have A New-Look Ring", "125000", 5},
@@ -94,12 +87,6 @@ TEST(EventSheet, OffersTheExtrasOfThePromotionsSizeAtTheirPrice) {
         {"Famous Celebrity As Ring Announcer", "1000000", 0},
         {"Have A New-Look Ring", "125000", 5},
         {"Hold A Fan-Festival Beforehand", "2000000", 30}}},
-      {kGlobal,
-       {{"World Famous Rock Band To Play", "4000000", 0},
-        {"World Famous Celebrity As Ring Announcer", "4000000", 0},
-        {"Have A Specially-Designed Set", "1000000", 15},
-        {"Hold A Fan-Festival Beforehand", "2000000", 30},
-        {"'Theme' The Entire Event", "3000000", 20}}},
   };
   for (const auto& [size, extras] : kSizes) {
     SCOPED_TRACE(size);

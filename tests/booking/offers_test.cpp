@@ -426,15 +426,6 @@ TEST(Purposes, DebutEachOfATagMatchAndThePairsOfNewcomers) {
   }
 }
 
-TEST(Purposes, AreForTheEyeWhereClothesComeOff) {
-  const World world = BookingRoster().Game("CWA");
-  for (int type = kPlainSingles; type <= kBuckNaked; ++type) {
-    const bool strips = type == kBraAndPanties || type == kBuckNaked;
-    EXPECT_EQ(TurnsAmong(world, Singles(world, type, true), {12}), strips ? Codes{12} : Codes())
-        << "type " << type;
-  }
-}
-
 TEST(Results, OfferADrawToTwoSidesOfThePlainTypeAlone) {
   std::vector<std::pair<int, int>> offered;
   for (const MatchTypeRow& row : kMatchTypes) {

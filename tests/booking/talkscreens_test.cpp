@@ -74,16 +74,6 @@ void ExpectWayBack(Steps& steps) {
   }
 }
 
-TEST(frmIVType, OffersFourStyles) {
-  Steps steps(TalkCompany(), kInterview);
-  steps.Open();
-  EXPECT_EQ(steps.Desk.TopName(), "frmIVType");
-  EXPECT_EQ(
-      steps.Desk.FirstColumn("lsttype"),
-      (Names{"Single Worker", "Tag Team", "Single Worker With Manager", "Tag Team With Manager"}));
-  EXPECT_EQ(steps.Desk.Selected("lsttype"), std::vector{1});
-}
-
 TEST(frmIV2m, BringsThePartnerAndTheManagerAlong) {
   Steps steps(TalkCompany(), kInterview);
   ScriptDesk& desk = steps.Do({{"lsttype", "Tag Team With Manager"}}).Open().Desk;
@@ -92,17 +82,6 @@ TEST(frmIV2m, BringsThePartnerAndTheManagerAlong) {
   desk.Pick("lstwres2", "Bob Bold");
   desk.Click("cmddone");
   EXPECT_EQ(steps.Buffer(), (Names{"1", "3", "4"})) << "Max Mouth, Bob Bold, Cal Cold";
-}
-
-TEST(frmIV2m, TellsEverybodysNumbers) {
-  World world = TalkCompany();
-  Worker& bob = Named(world.Workers(), "Bob Bold");
-  bob.Condition = 71;
-  bob.Morale = 62;
-  Steps steps(std::move(world), kInterview);
-  ScriptDesk& desk = steps.Do({{"lsttype", "Tag Team With Manager"}}).Open().Desk;
-  EXPECT_EQ(desk.Rows("lstwres1")[0], (Names{"Max Mouth", "F", "50", "100", "80"}));
-  EXPECT_EQ(desk.Rows("lstwres2")[2], (Names{"Bob Bold", "F", "80", "71", "62"}));
 }
 
 TEST(frmIV2m, LeavesAloneWhatThePlayerHasChosen) {

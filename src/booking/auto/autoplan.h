@@ -119,7 +119,7 @@ std::vector<T> BestOf(std::vector<std::pair<int, T>> ranked, std::size_t most) {
 /// A Segment of these people in their order, empty but for them.
 Segment NewSegment(int kind, int style, const std::vector<int>& people);
 
-/// The chance of so many in a hundred. Draws once.
+/// A chance in a hundred. Draws once.
 bool Chance(World& world, int percent);
 
 /// Whether the Segment could come out of the wizard, and nobody objects or takes it amiss.

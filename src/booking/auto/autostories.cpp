@@ -178,7 +178,7 @@ std::vector<int> OpenFeuds(const AutoPlan& plan) {
 
 constexpr int kTurnsPerShow = 1;
 constexpr int kDebutsPerShow = 1;
-/// The fans remember a turn for so many days and do not believe in the next.
+/// For as many days the fans remember a turn and do not believe in the next.
 constexpr int kFansRemember = 365;
 
 bool IsTimeToTurn(const World& world, const Worker& worker) {

@@ -119,9 +119,9 @@ Segment NewInterview(int style, const std::vector<int>& speakers, int manager,
 constexpr int kVariety = 14;
 /// One who does not wrestle tonight should be seen all the same.
 constexpr int kUnseen = 10;
-/// Of the talk, so many in a hundred are angles where the writers allow them.
+/// How much of the talk is angles, in a hundred, where the writers allow them.
 constexpr int kAngleShare = 55;
-/// And of these so many announce a match of tonight, or are the work of a stable where its leader
+/// How much of that announces a match of tonight, or is the work of a stable where its leader
 /// has the word.
 constexpr int kAnnouncements = 12, kStableAttacks = 30;
 /// Angles are for those who come out best in them.

@@ -62,7 +62,7 @@ void BookFreeForAll(AutoPlan& plan) {
   BookMatch(plan, NewMatch(style, type, people), {});
 }
 
-/// Three of a stable who may wrestle together; fewer when there are not so many.
+/// Three of a stable who may wrestle together; fewer where there are no more.
 std::vector<const Worker*> TrioOf(const AutoPlan& plan, const Stable& stable) {
   std::vector<const Worker*> trio;
   for (const Worker* worker : plan.Pool.Wrestlers())

@@ -107,7 +107,7 @@ class frmAutoBook : public ui::Screen {
   void cmdbook_Click() {
     TakeCard(world(), card_);
     const std::string name = ShowOfToday(world())->Name.Str();
-    LineMemory memory;  // told all the same: the report column keeps it
+    LineMemory memory;  // written all the same: the report column keeps it
     const int rating = HoldShow(world(), false, TvTeam(world()), 0, &memory);
     desk().Say("Show Rating",
                name + " has been held. Its rating is " + std::to_string(rating) + "%.");

@@ -172,7 +172,7 @@ std::string WhyUncast(const World& world, const Segment& segment, const BookingV
   return {};
 }
 
-/// Whoever gets a Title may be told from the Commissioner by a check with words of its own.
+/// That whoever gets a Title is not the Commissioner has a check of its own.
 std::string WhySamePerson(const World&, const Segment& segment, const BookingView&) {
   std::vector<int> people;
   for (const Role& role : SeatsOf(segment))
@@ -246,7 +246,7 @@ using Check = std::string (*)(const World&, const Segment&, const BookingView&);
 constexpr Check kChecks[] = {WhyUncast,       WhySamePerson, WhyNotManaged, WhyNoTable,
                              WhyNoMembership, WhyNoStable,   WhyNoTitle};
 
-// --- What is told of a candidate
+// --- What is said of a candidate
 
 std::string AboutWorker(const World& world, const Worker& worker) {
   std::string text = std::string(PositionText(worker.Position)) + ", " +
