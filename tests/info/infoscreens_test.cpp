@@ -2,6 +2,7 @@
 
 #include "info/mailbox.h"
 #include "support/gameonworld.h"
+#include "support/smallworld.h"
 
 namespace grapplemont::test {
 namespace {
@@ -181,6 +182,151 @@ TEST(frmNews, EmptiesTheMailboxAfterAsking) {
   play.Desk.Click("cmdback");
   EXPECT_EQ(play.Desk.Text("imgmail"), "0 mails");
   EXPECT_FALSE(play.Desk.Enabled("imgmail"));
+}
+
+SmallWorld FourMails() {
+  SmallWorld small;
+  small.Promotion("CWA").Game("CWA");
+  small.Mail("Maeve", "One.").Mail("Bram", "Two.").Mail("Maeve", "Three.").Mail("Zed", "Four.");
+  return small;
+}
+
+TEST(Mailbox, ListsTheNewestFirstAndBySender) {
+  World world = FourMails();
+  EXPECT_EQ(MailsNewestFirst(world), (std::vector{4, 3, 2, 1}));
+  EXPECT_EQ(MailsNewestFirst(world, "Maeve"), (std::vector{3, 1}));
+  EXPECT_TRUE(MailsNewestFirst(world, "maeve").empty());
+  EXPECT_EQ(MailSenders(world), (std::vector<std::string>{"Bram", "Maeve", "Zed"}));
+}
+
+TEST(Mailbox, DeletesOneOrAll) {
+  World world = FourMails();
+  DeleteMail(world, 2);
+  World expected = SmallWorld()
+                       .Promotion("CWA")
+                       .Game("CWA")
+                       .Mail("Maeve", "One.")
+                       .Mail("Maeve", "Three.")
+                       .Mail("Zed", "Four.");
+  ExpectSame(world, expected);
+  EmptyMailbox(world);
+  EXPECT_EQ(world.News().Count(), 0);
+  EXPECT_TRUE(MailsNewestFirst(world).empty());
+}
+
+TEST(MailOptions, AreFourteenDifferentWords) {
+  World world = SmallWorld().Promotion("CWA").Game("CWA");
+  const World before = CopyOf(world);
+  for (const MailOption& option : kMailOptionTable) {
+    SetMailOption(world.Game(), option, kMailNever);
+    int never = 0;
+    for (const MailOption& other : kMailOptionTable)
+      never += world.Game().*other.Choice == kMailNever ? 1 : 0;
+    EXPECT_EQ(never, 1) << option.Control;
+    world.GameInfos()[1] = before.GameInfos()[1];
+  }
+}
+
+TEST(MailOptions, NeverKeepRivalsOnlyForThePlayersOwnPeople) {
+  World world = SmallWorld().Promotion("CWA").Game("CWA");
+  for (const int choice : {kMailNever, kMailRivals, kMailAlways}) {
+    SetAllMailOptions(world.Game(), choice);
+    for (const MailOption& option : kMailOptionTable)
+      EXPECT_EQ(world.Game().*option.Choice,
+                option.TwoWay && choice == kMailRivals ? int(kMailAlways) : choice)
+          << option.Control;
+    EXPECT_EQ(world.Game().MailDev, choice == kMailNever ? 2 : 0);
+    EXPECT_EQ(world.Game().MailTrain, choice == kMailNever ? 2 : 0);
+  }
+}
+
+/// A game whose commits fail while its disk is full.
+class FullDisk : public ui::Work {
+ public:
+  explicit FullDisk(GameOnWorld& play) : game_(play.Play) { play.Desk.SetWork(this); }
+  ~FullDisk() override { game_.Desk().SetWork(&game_); }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  bool Full = true;
+
+  void Commit() override {
+    if (Full && !game_.World().Changes().empty())
+      throw DiskError("notes.dat", "write to", "no space is left");
+    game_.Commit();
+  }
+  void Rollback() override { game_.Rollback(); }
+  std::string Explain(const std::exception& fault) const override { return game_.Explain(fault); }
+
+ private:
+  Game& game_;
+};
+
+TEST(frmNotepad, KeepsWhatIsTypedHoweverItCloses) {
+  GameOnWorld play(Plain());
+  play.Desk.Open("frmNotepad");
+  EXPECT_EQ(play.Desk.Text("txtnotes"), "Notepad");
+  const std::string notes =
+      "Push Bram.\r\n\tDrop Ilya.\n\n  caf\xE9 \x80"
+      "5\n";
+  play.Desk.Type("txtnotes", notes);
+  play.Desk.CloseAll();
+  play.Reopen();
+  EXPECT_EQ(play.World().Notes().Text(), notes);
+  play.Desk.Open("frmNotepad");
+  EXPECT_EQ(play.Desk.Text("txtnotes"), notes);
+  play.Desk.Type("txtnotes", "");
+  play.Desk.Click("cmdback");
+  EXPECT_TRUE(play.Desk.Empty());
+  play.Reopen();
+  EXPECT_EQ(play.World().Notes().Text(), "");
+}
+
+TEST(frmNotepad, RefusesMoreThanItHolds) {
+  GameOnWorld play(Plain());
+  play.Desk.Open("frmNotepad");
+  std::string notes(1 << 20, 'n');
+  play.Desk.Type("txtnotes", notes);
+  EXPECT_EQ(play.World().Notes().Text(), notes);
+  play.Desk.ExpectSay("Error!",
+                      "The notepad holds 1048576 letters at most. Your notes are as they were "
+                      "before.");
+  play.Desk.Type("txtnotes", notes + "n");
+  EXPECT_EQ(play.Desk.Text("txtnotes"), notes);
+  EXPECT_EQ(play.World().Notes().Text(), notes);
+}
+
+TEST(frmNotepad, LosesNothingToAFullDisk) {
+  GameOnWorld play(Plain());
+  play.Desk.Open("frmNotepad");
+  EXPECT_FALSE(play.Desk.Visible("cmdrevert"));
+
+  FullDisk disk(play);
+  play.Desk.ExpectSay("Error!", kAnyText);
+  play.Desk.Type("txtnotes", "A long letter.");
+  play.Desk.ExpectSay("Error!", kAnyText);
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.TopName(), "frmNotepad");
+  EXPECT_EQ(play.Desk.Text("txtnotes"), "A long letter.");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "The last change is not saved yet.");
+  EXPECT_EQ(play.World().Notes().Text(), "Notepad");
+
+  disk.Full = false;
+  play.Desk.Click("cmdback");
+  EXPECT_TRUE(play.Desk.Empty());
+  play.Reopen();
+  EXPECT_EQ(play.World().Notes().Text(), "A long letter.");
+}
+
+TEST(frmNotepad, CanBeLeftWhileTheDiskIsFull) {
+  GameOnWorld play(Plain());
+  play.Desk.Open("frmNotepad");
+  FullDisk disk(play);
+  play.Desk.ExpectSay("Error!", kAnyText);
+  play.Desk.Type("txtnotes", "A long letter.");
+  play.Desk.Click("cmdrevert");
+  EXPECT_EQ(play.Desk.Text("txtnotes"), "Notepad");
+  play.Desk.Click("cmdback");
+  EXPECT_TRUE(play.Desk.Empty());
 }
 
 }  // namespace

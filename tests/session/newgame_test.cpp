@@ -1,13 +1,17 @@
-#include "session/newgame.h"
-
 #include <gtest/gtest.h>
-
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <optional>
 #include <set>
 
+#include "records/fields/charset.h"
 #include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "roster/invented.h"
+#include "session/newgame.h"
+#include "support/checkout.h"
+#include "support/defaultworld.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {
@@ -200,6 +204,81 @@ TEST(NewGame, MayChallengeALonelyGlobalPromotion) {
   }
   EXPECT_GT(challenged, 2);
   EXPECT_LT(challenged, 25);
+}
+
+// The pictures of gfx/ are what the waiting and title screens expect.
+
+namespace fs = std::filesystem;
+
+struct Pixels {
+  int Width, Height;
+};
+
+/// The size that a JPEG file's frame header tells; nothing for another file, or a progressive one.
+std::optional<Pixels> JpegSize(const std::string& bytes) {
+  const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes.at(i)); };
+  if (bytes.size() < 4 || at(0) != 0xFF || at(1) != 0xD8) return std::nullopt;
+  for (std::size_t i = 2; i + 9 < bytes.size();) {
+    const int marker = at(i + 1);
+    if (at(i) != 0xFF || marker == 0xC2) return std::nullopt;
+    if (marker == 0xC0) return Pixels{at(i + 7) * 256 + at(i + 8), at(i + 5) * 256 + at(i + 6)};
+    i += 2 + static_cast<std::size_t>(at(i + 2) * 256 + at(i + 3));
+  }
+  return std::nullopt;
+}
+
+std::string Bytes(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Gallery, IsWholeAndFitsTheWindow) {
+  std::vector<std::string> names = {"vxm_back", "vxm_title"};
+  for (int i = 1; i <= 4; ++i) names.push_back("VXM_load" + std::to_string(i));
+  for (int i = 1; i <= 6; ++i) names.push_back("VXM_Set1_0" + std::to_string(i));
+  const fs::path gfx = Checkout("/gfx");
+  for (const std::string& name : names) {
+    const std::string bytes = Bytes(gfx / (name + ".jpg"));
+    const auto size = JpegSize(bytes);
+    ASSERT_TRUE(size) << name;
+    EXPECT_GE(size->Width, 1280) << name;
+    EXPECT_GE(size->Height, 800) << name;
+    EXPECT_LT(bytes.size(), 300'000u) << name;
+    EXPECT_TRUE(fs::exists(gfx / "source" / (name + ".svg"))) << name << " has no drawing";
+  }
+  EXPECT_EQ(Bytes(gfx / "icon.png").substr(1, 3), "PNG");
+}
+
+TEST(Gallery, ShowsNoPictureWithoutADrawing) {
+  for (const auto& entry : fs::directory_iterator(Checkout("/gfx")))
+    if (entry.path().extension() == ".jpg") {
+      EXPECT_TRUE(
+          fs::exists(fs::path(Checkout("/gfx/source")) / (entry.path().stem().string() + ".svg")))
+          << entry.path();
+    }
+}
+
+// Every promotion of the default world may be chosen, at every difficulty.
+TEST(DefaultGames, BeginWithoutFaultsInEveryChair) {
+  std::uint64_t seed = 0;
+  for (const Promotion& promotion : DefaultWorld().Promotions())
+    for (int difficulty = kEasy; difficulty <= kRockHard; ++difficulty) {
+      SCOPED_TRACE(promotion.Initials + " " + std::to_string(difficulty));
+      World world = CopyOf(DefaultWorld());
+      world.SetChance(std::make_unique<SeededDraws>(++seed));
+      NewGameChoice choice;
+      choice.PlayerName = "Pat Lee";
+      choice.PromotionUid = promotion.Uid;
+      choice.Difficulty = difficulty;
+      choice.Start = std::chrono::year{2026} / 4 / 1;
+      choice.SaveName = "First";
+      for (const Fault& mended : NewGame(world, choice)) ADD_FAILURE() << ToUtf8(mended.Line());
+      for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << ToUtf8(fault.Line());
+      EXPECT_EQ(world.Player().Initials.View(), promotion.Initials.View());
+      EXPECT_EQ(world.Game().Difficulty, difficulty);
+      EXPECT_EQ(world.Workers().Count(), 750);
+      EXPECT_EQ(world.News().Count(), 1) << "the Owner's welcome";
+    }
 }
 
 }  // namespace

@@ -183,5 +183,130 @@ TEST_F(TableCommands, SayWhatFolderIsNone) {
   EXPECT_NE(std::string::npos, huge.Errors.find("wrestler.dat")) << huge.Errors;
 }
 
+using ToolUsage = ToolHome;
+
+std::string FirstLine(const std::string& text) {
+  return text.substr(0, text.find('\n'));
+}
+
+TEST_F(ToolUsage, RefusesWhatMakesNoSense) {
+  const struct {
+    std::vector<std::string> Arguments;
+    std::string Expected;
+  } rows[] = {
+      {{}, "grapplemont-world: a command is missing"},
+      {{"biuld"}, "grapplemont-world: there is no command \"biuld\"; did you mean build?"},
+      {{"build", "a"}, "grapplemont-world build: something is missing"},
+      {{"build", "a", "b", "c"}, "grapplemont-world build: \"c\" is one word too many"},
+      {{"check"}, "grapplemont-world check: something is missing"},
+      {{"check", "--fast", "a"}, "grapplemont-world check: there is no option \"--fast\""},
+      {{"new", "--slot", "1", "--player", "Pat"}, "grapplemont-world new: --promotion is missing"},
+      {{"new", "--slot", "1", "--promotion", "CWA", "--player", "  "},
+       "grapplemont-world new: --player needs a name"},
+      {{"new", "--slot", "1", "--promotion", "CWA", "--player", std::string(26, 'x')},
+       "grapplemont-world new: --player has room for 25 letters"},
+      {{"new", "--slot", "1", "--promotion", "CWA", "--player", "\xC5\x81"},
+       "grapplemont-world new: --player has a letter that the game cannot hold"},
+      {{"new", "--slot", "9", "--promotion", "CWA", "--player", "Pat"},
+       "grapplemont-world new: --slot needs a whole number from 1 to 8, not \"9\""},
+      {{"new", "--slot", "1", "--promotion", "CWA", "--player", "Pat", "--difficulty", "0"},
+       "grapplemont-world new: --difficulty needs a whole number from 1 to 4, not \"0\""},
+      {{"new", "--slot", "1", "--promotion", "CWA", "--player", "Pat", "--start", "1.3.2026"},
+       "grapplemont-world new: --start needs a date such as 2026-03-01, not \"1.3.2026\""},
+      {{"new", "--slot", "1", "--promotion", "CWA", "--player", "Pat", "--start", "9999-12-31"},
+       "grapplemont-world new: --start needs a year from 1900 to 9000"},
+      {{"run", "--slot", "1"}, "grapplemont-world run: --days is missing"},
+      {{"run", "--slot", "1", "--days", "-3"},
+       "grapplemont-world run: --days needs a whole number from 0 to 100000, not \"-3\""},
+      {{"run", "--slot", "1", "--days", "1", "--days", "2"},
+       "grapplemont-world run: --days stands there twice"},
+      {{"run", "--slot", "1", "--days", "1", "--stats"},
+       "grapplemont-world run: --stats needs a value, FILE"},
+      {{"run", "--slot", "1", "--days", "1", "--shows", "all"},
+       "grapplemont-world run: --shows is \"auto\" or \"cancel\", not \"all\""},
+      {{"run", "--slot", "1", "--days", "1", "--sede", "1"},
+       "grapplemont-world run: there is no option \"--sede\"; did you mean --seed?"},
+  };
+  for (const auto& row : rows) {
+    const Ran ran = Run(row.Arguments);
+    EXPECT_EQ(2, ran.Code) << row.Expected;
+    EXPECT_EQ(row.Expected, FirstLine(ran.Errors));
+    EXPECT_NE(std::string::npos, ran.Errors.find("usage: grapplemont-world")) << row.Expected;
+    EXPECT_EQ("", ran.Out) << row.Expected;
+  }
+}
+
+TEST_F(ToolUsage, HelpsOnEveryCommand) {
+  const Ran all = Run({"--help"});
+  EXPECT_EQ(0, all.Code);
+  EXPECT_EQ("", all.Errors);
+  for (const char* command :
+       {"build", "export", "check", "new", "run", "soak", "formats", "columns"}) {
+    EXPECT_NE(std::string::npos, all.Out.find("\n  " + std::string(command))) << command;
+    const Ran one = Run({command, "--help"});
+    EXPECT_EQ(0, one.Code);
+    EXPECT_EQ("usage: grapplemont-world " + std::string(command),
+              FirstLine(one.Out).substr(0, 25 + std::string(command).size()));
+  }
+}
+
+class TellCommand : public ToolHome {
+ protected:
+  void MakeSlot() {
+    World world = Small().Game("CWA");
+    Slot::Create(*Machine, In("s1"), FilesOf(world), 1);
+  }
+  Ran Tell(const std::vector<std::string>& more = {}) {
+    std::vector<std::string> all = {"tell", "--home", Home, "--slot", "1", "--seed", "4"};
+    all.insert(all.end(), more.begin(), more.end());
+    return Run(all);
+  }
+};
+
+TEST_F(TellCommand, PrintsTheNextShowAndLeavesTheGameAsItIs) {
+  MakeSlot();
+  const auto before = RecordFiles("s1");
+  const Ran told = Tell();
+  EXPECT_EQ(0, told.Code) << told.Errors;
+  EXPECT_TRUE(
+      told.Out.starts_with("Event Report For Friday Fire\nFriday, 06 March 2026\n"
+                           "Reported By Rafe Tolland\n\n"))
+      << told.Out;
+  for (const char* part : {"\nMatch Details\n1 vs 1, ", "\nWinner : CWA Hand ",
+                           "\n\nMatch Quality ", "%, Overall Rating ", "\n\nThe show: "})
+    EXPECT_NE(std::string::npos, told.Out.find(part)) << part << " in\n" << told.Out;
+  EXPECT_EQ(std::string::npos, told.Out.find("\n\n\n"));
+  EXPECT_TRUE(before == RecordFiles("s1"));
+  EXPECT_EQ(told.Out, Tell().Out) << "the same from the same seed";
+}
+
+TEST_F(TellCommand, SpeaksInTheVoiceThatIsAskedFor) {
+  MakeSlot();
+  const std::string dry = Tell({"--voice", "1"}).Out, live = Tell({"--voice", "2"}).Out;
+  EXPECT_NE(std::string::npos, dry.find("Reported By Rafe Tolland\n"));
+  EXPECT_NE(std::string::npos, live.find("Reported By QVD\n"));
+  const auto card = [](const std::string& text) {
+    return text.substr(text.find("\nWinner : "), 24);
+  };
+  EXPECT_EQ(card(dry), card(live)) << "a voice changes no result";
+  EXPECT_EQ(2, Tell({"--voice", "3"}).Code);
+}
+
+TEST_F(TellCommand, PassesShowsOnTheWayToAnEvent) {
+  MakeSlot();
+  const Ran told = Tell({"--event"});
+  EXPECT_TRUE(told.Out.starts_with("Event Report For CWA in March\nSunday, 29 March 2026\n"))
+      << told.Out.substr(0, 80) << told.Errors;
+}
+
+TEST_F(TellCommand, SaysWhyThereIsNothingToTell) {
+  EXPECT_EQ("grapplemont-world tell: Slot 1 is empty.\n", Tell().Errors);
+  World world = SmallWorld().Promotion("CWA").Owner("Ruth Vane").Crew(8).Game("CWA");
+  Slot::Create(*Machine, In("s1"), FilesOf(world), 1);
+  const Ran none = Tell();
+  EXPECT_EQ(1, none.Code);
+  EXPECT_EQ("grapplemont-world tell: There is no show that the roster could fill.\n", none.Errors);
+}
+
 }  // namespace
 }  // namespace grapplemont::test

@@ -1,12 +1,11 @@
 #include "records/store/datastep.h"
 
-#include <xxhash.h>
-
 #include <algorithm>
 #include <cstring>
 #include <string_view>
 
 #include "records/store/knownfiles.h"
+#include "records/store/packing.h"
 
 namespace grapplemont {
 
@@ -19,96 +18,47 @@ std::string StepPath(const std::string& folder) {
   return folder + ".step";
 }
 
-std::uint64_t SumOf(ByteSpan bytes) {
-  return XXH3_64bits(bytes.data(), bytes.size());
-}
-
-void Put(Bytes& to, ByteSpan bytes) {
-  to.insert(to.end(), bytes.begin(), bytes.end());
-}
-void Put(Bytes& to, std::string_view text) {
-  Put(to, std::as_bytes(std::span(text)));
-}
-void Put(Bytes& to, std::uint64_t number) {
-  for (int i = 0; i < 8; ++i) to.push_back(static_cast<std::byte>(number >> (8 * i)));
-}
-
-/// Takes pieces off the front; whatever would reach beyond the end is empty and ends the reading.
-class Pieces {
- public:
-  explicit Pieces(ByteSpan bytes) : left_(bytes) {}
-  ByteSpan Take(std::uint64_t count) {
-    if (count > left_.size()) {
-      broken_ = true;
-      count = 0;
-    }
-    const ByteSpan piece = left_.first(static_cast<std::size_t>(count));
-    left_ = left_.subspan(piece.size());
-    return piece;
-  }
-  std::uint64_t Number() {
-    std::uint64_t number = 0;
-    int shift = 0;
-    for (const std::byte byte : Take(8)) {
-      number |= std::to_integer<std::uint64_t>(byte) << shift;
-      shift += 8;
-    }
-    return number;
-  }
-  std::string Text() {
-    const ByteSpan piece = Take(Number());
-    return {reinterpret_cast<const char*>(piece.data()), piece.size()};
-  }
-  ByteSpan Left() const { return left_; }
-  bool Broken() const { return broken_; }
-
- private:
-  ByteSpan left_;
-  bool broken_ = false;
-};
-
 Bytes Pack(const DataStep& step) {
-  Bytes body;
-  Put(body, step.size());
+  Packer body;
+  body.Put(std::uint64_t{step.size()});
   for (const StepFile& file : step) {
-    Put(body, file.Name.size());
-    Put(body, file.Name);
-    Put(body, (file.Before ? kWasThere : 0) | (file.After ? kIsThere : 0));
-    Put(body, file.Before.value_or(0));
-    Put(body, file.After ? file.After->size() : 0);
-    if (file.After) Put(body, ByteSpan(*file.After));
+    body.Put(std::uint64_t{file.Name.size()});
+    body.Put(file.Name);
+    body.Put((file.Before ? kWasThere : 0) | (file.After ? kIsThere : 0));
+    body.Put(file.Before.value_or(0));
+    body.Put(std::uint64_t{file.After ? file.After->size() : 0});
+    if (file.After) body.Put(ByteSpan(*file.After));
   }
-  Bytes packed;
-  Put(packed, kMark);
-  Put(packed, SumOf(body));
-  Put(packed, ByteSpan(body));
-  return packed;
+  Packer packed;
+  packed.Put(kMark);
+  packed.Put(Checksum(body.Packed()));
+  packed.Put(ByteSpan(body.Packed()));
+  return std::move(packed).Packed();
 }
 
-std::optional<StepFile> UnpackFile(Pieces& pieces) {
+std::optional<StepFile> UnpackFile(Unpacker& in) {
   StepFile file;
-  file.Name = pieces.Text();
-  const std::uint64_t flags = pieces.Number(), before = pieces.Number();
-  const ByteSpan after = pieces.Take(pieces.Number());
+  file.Name = in.GetText<std::uint64_t>();
+  const auto flags = in.Get<std::uint64_t>(), before = in.Get<std::uint64_t>();
+  const ByteSpan after = in.Take(in.Get<std::uint64_t>());
   if (flags & kWasThere) file.Before = before;
   if (flags & kIsThere) file.After.emplace(after.begin(), after.end());
   const std::int64_t most = MostBytesOf(file.Name);
-  const bool isKnown = most > 0 && std::ssize(after) <= most;
-  if (pieces.Broken() || !isKnown) return std::nullopt;
+  if (!in.Whole() || most == 0 || std::ssize(after) > most) return std::nullopt;
   return file;
 }
 
 /// Nothing for bytes that are no whole step.
 std::optional<DataStep> Unpack(ByteSpan bytes) {
-  Pieces pieces(bytes);
-  const ByteSpan mark = pieces.Take(kMark.size());
-  const std::uint64_t sum = pieces.Number();
-  if (pieces.Broken() || std::memcmp(mark.data(), kMark.data(), kMark.size()) != 0 ||
-      sum != SumOf(pieces.Left()))
+  Unpacker in(bytes);
+  const ByteSpan mark = in.Take(kMark.size());
+  const auto sum = in.Get<std::uint64_t>();
+  if (!in.Whole() || std::memcmp(mark.data(), kMark.data(), kMark.size()) != 0 ||
+      sum != Checksum(in.Left()))
     return std::nullopt;
   DataStep step;
-  for (std::uint64_t left = pieces.Number(); left > 0; --left) {
-    auto file = UnpackFile(pieces);
+  for (auto left = in.Get<std::uint64_t>(); left > 0; --left) {
+    auto file = UnpackFile(in);
     if (!file) return std::nullopt;
     step.push_back(*std::move(file));
   }
@@ -133,7 +83,7 @@ std::optional<std::uint64_t> SumAt(Disk& disk, const std::string& folder, const 
   if (kind != Disk::Kind::File) return std::nullopt;
   const auto bytes = ReadWithin(disk, path, MostBytesOf(name));
   isFile = bytes.has_value();
-  return bytes ? std::optional(SumOf(*bytes)) : std::nullopt;
+  return bytes ? std::optional(Checksum(*bytes)) : std::nullopt;
 }
 
 bool IsBefore(Disk& disk, const std::string& folder, const StepFile& file) {
@@ -144,7 +94,7 @@ bool IsBefore(Disk& disk, const std::string& folder, const StepFile& file) {
 bool IsBeforeOrAfter(Disk& disk, const std::string& folder, const StepFile& file) {
   bool isFile = false;
   const auto sum = SumAt(disk, folder, file.Name, isFile);
-  const auto after = file.After ? std::optional(SumOf(*file.After)) : std::nullopt;
+  const auto after = file.After ? std::optional(Checksum(*file.After)) : std::nullopt;
   return isFile && (sum == file.Before || sum == after);
 }
 
@@ -154,7 +104,7 @@ DataStep StepOf(const std::vector<FileChange>& changes) {
   DataStep step;
   for (const FileChange& change : changes) {
     StepFile file{change.Name, {}, {}};
-    if (change.ExistsBefore) file.Before = SumOf(change.Before);
+    if (change.ExistsBefore) file.Before = Checksum(change.Before);
     if (change.ExistsAfter) file.After.emplace(change.After.begin(), change.After.end());
     step.push_back(std::move(file));
   }

@@ -1,11 +1,11 @@
 #include "records/store/journal.h"
 
-#include <xxhash.h>
 #include <algorithm>
 #include <cstring>
 #include <iterator>
 #include <set>
-#include <type_traits>
+
+#include "records/store/packing.h"
 
 namespace grapplemont {
 
@@ -21,79 +21,30 @@ constexpr std::size_t kChecksumAt = 12, kChecked = 20;
 constexpr std::size_t kMarkerSize = 52, kRecordHeader = 56;
 constexpr std::size_t kLengthAt = 36;
 
-std::uint64_t Checksum(ByteSpan bytes) {
-  return XXH3_64bits(bytes.data(), bytes.size());
+Packer Begun(std::uint64_t magic, std::size_t expected) {
+  Packer out;
+  out.Reserve(expected);
+  out.Put(magic);
+  out.Put(kFormat);
+  out.Put(std::uint64_t{0});  // the checksum
+  return out;
 }
 
-class Packer {
- public:
-  Packer(std::uint64_t magic, std::size_t expected) {
-    bytes_.reserve(expected);
-    Put(magic);
-    Put(kFormat);
-    Put(std::uint64_t{0});  // the checksum
-  }
-  template <class T>
-  void Put(T value) {
-    for (std::size_t i = 0; i < sizeof(T); ++i) bytes_.push_back(ByteOf(value, i));
-  }
-  void Put(ByteSpan bytes) { bytes_.insert(bytes_.end(), bytes.begin(), bytes.end()); }
-  void Put(const std::string& name) {
-    Put(static_cast<std::uint16_t>(name.size()));
-    Put(std::as_bytes(std::span(name)));
-  }
-  template <class T>
-  void PutAt(std::size_t at, T value) {
-    for (std::size_t i = 0; i < sizeof(T); ++i) bytes_[at + i] = ByteOf(value, i);
-  }
-  std::size_t Size() const { return bytes_.size(); }
-  /// Pads to blocks and seals with the checksum, padding included.
-  Bytes Sealed() && {
-    bytes_.resize(static_cast<std::size_t>(RoundedToBlocks(std::ssize(bytes_))));
-    PutAt(kChecksumAt, Checksum(ByteSpan(bytes_).subspan(kChecked)));
-    return std::move(bytes_);
-  }
+void PutName(Packer& out, const std::string& name) {
+  out.Put(static_cast<std::uint16_t>(name.size()));
+  out.Put(name);
+}
 
- private:
-  template <class T>
-  static std::byte ByteOf(T value, std::size_t i) {
-    return static_cast<std::byte>(static_cast<std::uint64_t>(value) >> (8 * i));
-  }
-  Bytes bytes_;
-};
+std::size_t SizeInBlocks(const Packer& out) {
+  return static_cast<std::size_t>(RoundedToBlocks(std::ssize(out.Packed())));
+}
 
-/// Reads what Packer put; once anything is missing, all else is empty and Whole() is false.
-class Unpacker {
- public:
-  explicit Unpacker(ByteSpan bytes) : bytes_(bytes) {}
-  template <class T>
-  T Get() {
-    std::uint64_t value = 0;
-    const ByteSpan taken = Take(sizeof(T));
-    for (std::size_t i = 0; i < taken.size(); ++i)
-      value |= std::to_integer<std::uint64_t>(taken[i]) << (8 * i);
-    return static_cast<T>(value);
-  }
-  ByteSpan Take(std::uint64_t count) {
-    if (count > bytes_.size()) {
-      whole_ = false;
-      bytes_ = {};
-      return {};
-    }
-    const ByteSpan taken = bytes_.first(static_cast<std::size_t>(count));
-    bytes_ = bytes_.subspan(static_cast<std::size_t>(count));
-    return taken;
-  }
-  std::string GetName() {
-    const ByteSpan name = Take(Get<std::uint16_t>());
-    return {reinterpret_cast<const char*>(name.data()), name.size()};
-  }
-  bool Whole() const { return whole_; }
-
- private:
-  ByteSpan bytes_;
-  bool whole_ = true;
-};
+/// Pads to blocks and seals with the checksum, padding included.
+Bytes Sealed(Packer out) {
+  out.PadTo(SizeInBlocks(out));
+  out.PutAt(kChecksumAt, Checksum(ByteSpan(out.Packed()).subspan(kChecked)));
+  return std::move(out).Packed();
+}
 
 /// Whether what `in` reads begins as it must: its magic, its format, the checksum of all of it.
 bool Opens(Unpacker& in, std::uint64_t magic, ByteSpan whole) {
@@ -103,7 +54,7 @@ bool Opens(Unpacker& in, std::uint64_t magic, ByteSpan whole) {
 
 FilePatch UnpackFile(Unpacker& in) {
   FilePatch file;
-  file.Name = in.GetName();
+  file.Name = in.GetText<std::uint16_t>();
   file.Exists = in.Get<std::uint8_t>() != 0;
   file.Length = in.Get<std::int64_t>();
   const auto ranges = in.Get<std::uint32_t>();
@@ -138,12 +89,12 @@ std::size_t ExpectedSize(const JournalRecord& record) {
 }  // namespace
 
 Bytes PackMarker(const JournalMarker& marker) {
-  Packer out(kMarkerMagic, kJournalBlock);
+  Packer out = Begun(kMarkerMagic, kJournalBlock);
   out.Put(marker.World);
   out.Put(marker.Sequence);
   out.Put(marker.Digest);
   out.Put(marker.Reserved);
-  return std::move(out).Sealed();
+  return Sealed(std::move(out));
 }
 
 std::optional<JournalMarker> UnpackMarker(ByteSpan block) {
@@ -160,15 +111,15 @@ std::optional<JournalMarker> UnpackMarker(ByteSpan block) {
 }
 
 Bytes PackSeal(const WorldSeal& seal) {
-  Packer out(kSealMagic, kJournalBlock);
+  Packer out = Begun(kSealMagic, kJournalBlock);
   out.Put(seal.World);
   out.Put(seal.Sequence);
   out.Put(static_cast<std::uint32_t>(seal.Files.OfFiles().size()));
   for (const auto& [name, digest] : seal.Files.OfFiles()) {
-    out.Put(name);
+    PutName(out, name);
     out.Put(digest);
   }
-  return std::move(out).Sealed();
+  return Sealed(std::move(out));
 }
 
 std::optional<WorldSeal> UnpackSeal(ByteSpan bytes) {
@@ -178,7 +129,7 @@ std::optional<WorldSeal> UnpackSeal(ByteSpan bytes) {
   seal.World = in.Get<std::uint64_t>();
   seal.Sequence = in.Get<std::uint64_t>();
   for (auto files = in.Get<std::uint32_t>(); files > 0 && in.Whole(); --files) {
-    std::string name = in.GetName();
+    std::string name = in.GetText<std::uint16_t>();
     seal.Files.Set(std::move(name), in.Get<std::uint64_t>());
   }
   if (!in.Whole()) return std::nullopt;
@@ -186,14 +137,14 @@ std::optional<WorldSeal> UnpackSeal(ByteSpan bytes) {
 }
 
 Bytes PackRecord(const JournalRecord& record) {
-  Packer out(kRecordMagic, ExpectedSize(record));
+  Packer out = Begun(kRecordMagic, ExpectedSize(record));
   out.Put(record.Sequence);
   out.Put(record.World);
   out.Put(std::uint64_t{0});  // the length
   out.Put(record.Digest);
   out.Put(static_cast<std::uint32_t>(record.Files.size()));
   for (const FilePatch& file : record.Files) {
-    out.Put(file.Name);
+    PutName(out, file.Name);
     out.Put(static_cast<std::uint8_t>(file.Exists));
     out.Put(file.Length);
     out.Put(static_cast<std::uint32_t>(file.Ranges.size()));
@@ -203,8 +154,8 @@ Bytes PackRecord(const JournalRecord& record) {
       out.Put(range.Contents);
     }
   }
-  out.PutAt(kLengthAt, RoundedToBlocks(static_cast<std::int64_t>(out.Size())));
-  return std::move(out).Sealed();
+  out.PutAt(kLengthAt, static_cast<std::int64_t>(SizeInBlocks(out)));
+  return Sealed(std::move(out));
 }
 
 std::optional<JournalEntry> UnpackRecord(ByteSpan journal, std::int64_t offset,
@@ -261,13 +212,13 @@ std::vector<JournalRange> ChangedRanges(ByteSpan before, ByteSpan after,
 }
 
 void WorldDigest::Set(const std::string& name, ByteSpan contents) {
-  files_[name] = XXH3_64bits(contents.data(), contents.size());
+  files_[name] = Checksum(contents);
 }
 
 std::uint64_t WorldDigest::Value() const {
   std::string all;
   for (const auto& [name, digest] : files_) all += name + ":" + std::to_string(digest) + "\n";
-  return XXH3_64bits(all.data(), all.size());
+  return Checksum(std::as_bytes(std::span(all)));
 }
 
 std::vector<std::string> WorldDigest::Differing(const WorldDigest& other) const {

@@ -1,12 +1,12 @@
 #include "records/store/slotfolder.h"
 
-#include <xxhash.h>
 #include <algorithm>
 #include <functional>
 
 #include "records/store/journal.h"
 #include "records/store/journalfile.h"
 #include "records/store/knownfiles.h"
+#include "records/store/packing.h"
 
 namespace grapplemont {
 
@@ -19,18 +19,6 @@ std::string NewOf(const std::string& folder) {
 }
 std::string OldOf(const std::string& folder) {
   return folder + ".old";
-}
-
-std::uint64_t NumberAt(ByteSpan bytes, std::size_t at) {
-  std::uint64_t number = 0;
-  for (std::size_t i = 0; i < kIdSize; ++i)
-    number |= std::to_integer<std::uint64_t>(bytes[at + i]) << (8 * i);
-  return number;
-}
-
-void Append(Bytes& bytes, std::uint64_t number) {
-  for (std::size_t i = 0; i < kIdSize; ++i)
-    bytes.push_back(static_cast<std::byte>(number >> (8 * i)));
 }
 
 /// Removes a folder that was to take the place of `folder` or has given it up: the slot's files in
@@ -126,17 +114,17 @@ void WriteNewFile(Disk& disk, const std::string& path, ByteSpan bytes) {
 }
 
 Bytes PackWorldId(std::uint64_t id) {
-  Bytes bytes;
-  Append(bytes, id);
-  Append(bytes, XXH3_64bits(bytes.data(), bytes.size()));
-  return bytes;
+  Packer out;
+  out.Put(id);
+  out.Put(Checksum(out.Packed()));
+  return std::move(out).Packed();
 }
 
 std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes) {
-  if (bytes.size() != kSealedIdSize ||
-      NumberAt(bytes, kIdSize) != XXH3_64bits(bytes.data(), kIdSize))
-    return std::nullopt;
-  return NumberAt(bytes, 0);
+  Unpacker in(bytes);
+  const auto id = in.Get<std::uint64_t>(), sum = in.Get<std::uint64_t>();
+  if (bytes.size() != kSealedIdSize || sum != Checksum(bytes.first(kIdSize))) return std::nullopt;
+  return id;
 }
 
 std::optional<std::uint64_t> ReadWorldId(Disk& disk, const std::string& folder) {
