@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "records/checks/checkworld.h"
@@ -24,33 +25,16 @@ enum class RecordKind {
   Sponsor,
   Event
 };
+/// Their types, in the same order.
+using RecordTypes =
+    std::tuple<Worker, Promotion, Staff, Team, Stable, Title, Show, Network, Sponsor, Event>;
 
 /// Calls `visit` with the Records of this kind.
-template <class W, class Visit>
+template <std::size_t At = 0, class W, class Visit>
 decltype(auto) WithRecords(W& world, RecordKind kind, Visit visit) {
-  switch (kind) {
-    case RecordKind::Worker:
-      return visit(world.Workers());
-    case RecordKind::Promotion:
-      return visit(world.Promotions());
-    case RecordKind::Staff:
-      return visit(world.AllStaff());
-    case RecordKind::Team:
-      return visit(world.Teams());
-    case RecordKind::Stable:
-      return visit(world.Stables());
-    case RecordKind::Title:
-      return visit(world.Titles());
-    case RecordKind::Show:
-      return visit(world.Shows());
-    case RecordKind::Network:
-      return visit(world.Networks());
-    case RecordKind::Sponsor:
-      return visit(world.Sponsors());
-    case RecordKind::Event:
-      break;
-  }
-  return visit(world.Events());
+  if constexpr (At + 1 < std::tuple_size_v<RecordTypes>)
+    if (kind != static_cast<RecordKind>(At)) return WithRecords<At + 1>(world, kind, visit);
+  return visit(world.template Of<std::tuple_element_t<At, RecordTypes>>());
 }
 
 const RecordLayout& LayoutOf(RecordKind kind);

@@ -30,7 +30,7 @@ class Line {
 
   /// The record that the second cell names.
   std::byte* Named() {
-    const auto columns = ColumnsOf(*kind_);
+    const auto columns = ColumnsOfTable(*kind_);
     const auto name = std::find_if(columns.begin(), columns.end(),
                                    [](const Column& column) { return column.Of->Name == "Name"; });
     for (std::size_t i = 0; i < Count(); ++i)
@@ -41,12 +41,12 @@ class Line {
   }
   std::byte* New() {
     long long highest = 0;
-    for (const Column& column : ColumnsOf(*kind_))
+    for (const Column& column : ColumnsOfTable(*kind_))
       if (IsUid(*column.Of))
         for (std::size_t i = 0; i < Count(); ++i)
           highest = std::max(highest, FieldNumber(*column.Of, Record(i)));
     bytes_.insert(bytes_.end(), kind_->Default.begin(), kind_->Default.end());
-    for (const Column& column : ColumnsOf(*kind_))
+    for (const Column& column : ColumnsOfTable(*kind_))
       if (IsUid(*column.Of)) SetFieldNumber(*column.Of, Record(Count() - 1), 0, highest + 1);
     return Record(Count() - 1);
   }
@@ -67,7 +67,7 @@ class Line {
     const auto equals = cell.find('=');
     const std::string field = cell.substr(0, equals);
     const std::string value = equals == std::string::npos ? "" : cell.substr(equals + 1);
-    for (const Column& column : ColumnsOf(*kind_)) {
+    for (const Column& column : ColumnsOfTable(*kind_)) {
       if (column.Name() != field) continue;
       std::string why;
       if (!IsReference(*column.Of))

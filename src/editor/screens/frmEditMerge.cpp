@@ -25,16 +25,14 @@ class frmEditMerge : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
+    ui::Page page =
+        PageOf(ui::Columns(
+                   {ui::Group("The new files", {lblfolder, ui::Grow(lstfiles), lblremarks}).Grow(2),
+                    ui::Tabs({ui::Group("What becomes of each record", {ui::Grow(lstrows)}),
+                              ui::Group("What is put right on the way", {ui::Grow(lstmended)})})
+                        .Grow(7)}),
+               &lblfacts, {}, &cmdmerge);
     page.Actions = {&cmdback, &cmdclean, &cmdlook, &cmdrename, &cmdmerge};
-    page.Main = &cmdmerge;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Group("The new files", {lblfolder, ui::Grow(lstfiles), lblremarks}).Grow(2),
-         ui::Tabs({ui::Group("What becomes of each record", {ui::Grow(lstrows)}),
-                   ui::Group("What is put right on the way", {ui::Grow(lstmended)})})
-             .Grow(7)});
     return page;
   }
 
@@ -198,20 +196,18 @@ class frmEditImport : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
+    ui::Page page = PageOf(
+        ui::Rows({lblfolder,
+                  ui::Columns({ui::Group("Workers of the other world",
+                                         {ui::Columns({cmbshow, cmdall, cmdnone, ui::Spacer()}),
+                                          ui::Grow(lstworkers)})
+                                   .Grow(3),
+                               ui::Tabs({ui::Group("The chosen", {ui::Grow(lstrows)}),
+                                         ui::Group("What is put right", {ui::Grow(lstmended)})})
+                                   .Grow(2)})
+                      .Grow()}),
+        &lblfacts, {}, &cmdimport);
     page.Actions = {&cmdback, &cmdclean, &cmdlook, &cmdimport};
-    page.Main = &cmdimport;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows(
-        {lblfolder, ui::Columns({ui::Group("Workers of the other world",
-                                           {ui::Columns({cmbshow, cmdall, cmdnone, ui::Spacer()}),
-                                            ui::Grow(lstworkers)})
-                                     .Grow(3),
-                                 ui::Tabs({ui::Group("The chosen", {ui::Grow(lstrows)}),
-                                           ui::Group("What is put right", {ui::Grow(lstmended)})})
-                                     .Grow(2)})
-                        .Grow()});
     return page;
   }
 

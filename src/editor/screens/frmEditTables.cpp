@@ -20,16 +20,14 @@ class frmEditTables : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
+    ui::Page page = PageOf(
+        ui::Rows(
+            {ui::Group("The folder of tables", {txtfolder, lblplace}),
+             ui::Columns({ui::Group("Records", {ui::Grow(lstcounts)}).Grow(2),
+                          ui::Group("Mistakes in the tables", {ui::Grow(lstmistakes)}).Grow(3)})
+                 .Grow()}),
+        &lblfacts, {}, &cmdimport);
     page.Actions = {&cmdback, &cmdexport, &cmdlook, &cmdimport};
-    page.Main = &cmdimport;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows(
-        {ui::Group("The folder of tables", {txtfolder, lblplace}),
-         ui::Columns({ui::Group("Records", {ui::Grow(lstcounts)}).Grow(2),
-                      ui::Group("Mistakes in the tables", {ui::Grow(lstmistakes)}).Grow(3)})
-             .Grow()});
     return page;
   }
 

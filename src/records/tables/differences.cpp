@@ -72,7 +72,7 @@ class Comparison {
     const auto size = static_cast<std::size_t>(layout.Size);
     const std::size_t count = now.size() / size, before = then.size() / size;
     kind_ = &TableKindOf(layout);
-    columns_ = ColumnsOf(*kind_);
+    columns_ = ColumnsOfTable(*kind_);
     for (std::size_t i = 0; i < std::max(count, before) && !Full(); ++i)
       CompareRecord(static_cast<int>(i) + 1, i < count ? now.data() + i * size : nullptr,
                     i < before ? then.data() + i * size : nullptr);

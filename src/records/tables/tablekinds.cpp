@@ -115,7 +115,7 @@ const TableKind& TableKindOf(const RecordLayout& layout) {
                        [&](const TableKind& kind) { return kind.Layout == &layout; });
 }
 
-std::vector<Column> ColumnsOf(const TableKind& kind) {
+std::vector<Column> ColumnsOfTable(const TableKind& kind) {
   std::vector<Column> columns;
   // Fields that are numbered side by side stand in turn: Won1, Holder1, Lost1, Won2.
   for (const Field& field : kind.Layout->Fields)

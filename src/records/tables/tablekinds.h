@@ -40,7 +40,7 @@ struct Column {
   std::string Name() const { return FieldName(*Of, Index); }
 };
 /// All columns that the table may have, in the order of the record.
-std::vector<Column> ColumnsOf(const TableKind& kind);
+std::vector<Column> ColumnsOfTable(const TableKind& kind);
 
 /// A record's number; a table without it numbers its records itself.
 bool IsUid(const Field& field);

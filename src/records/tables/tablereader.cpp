@@ -159,7 +159,7 @@ std::string Ordinal(std::size_t number) {
 
 class TableReader {
  public:
-  explicit TableReader(const TableKind& kind) : kind_(kind), all_(ColumnsOf(kind)) {
+  explicit TableReader(const TableKind& kind) : kind_(kind), all_(ColumnsOfTable(kind)) {
     table_.Kind = &kind;
   }
 

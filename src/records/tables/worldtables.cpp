@@ -278,7 +278,7 @@ class TableWriter {
   }
 
   std::vector<Column> ColumnsWorthWriting() const {
-    const std::vector<Column> all = ColumnsOf(kind_);
+    const std::vector<Column> all = ColumnsOfTable(kind_);
     const Column& anchor = Anchor(all);
     std::vector<Column> columns;
     for (const Column& column : all) {
