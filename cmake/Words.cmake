@@ -41,7 +41,7 @@ function(words)
   endforeach()
   add_library(words STATIC ${sources})
   target_link_libraries(words PRIVATE house_rules
-                        PUBLIC words_tables word_tables report_headers info_headers)
+                        PUBLIC words_tables word_tables records_headers report_headers info_headers)
   program(embed-words src/words/main.cpp words)
   set_target_properties(embed-words PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 

@@ -80,7 +80,7 @@ constexpr StaffColumn kColumns[] = {
     {"Months", K::Number, "Months left of the contract.", true, Months},
 };
 
-std::vector<ui::Column> ColumnsOf(StaffList list) {
+std::vector<ui::Column> StaffColumns(StaffList list) {
   std::vector<ui::Column> columns;
   for (const StaffColumn& column : kColumns)
     if (column.IsOwns || list == StaffList::Market)
@@ -105,7 +105,7 @@ void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
 
 StaffListScreen::StaffListScreen(Game& game, std::string name, std::string title, StaffList list)
     : GameScreen(game, std::move(name), std::move(title), {.Manages = true}),
-      lststaff(*this, "lststaff", ColumnsOf(list), ui::Handler([this] { ShowChoice(); })),
+      lststaff(*this, "lststaff", StaffColumns(list), ui::Handler([this] { ShowChoice(); })),
       list_(list) {}
 
 /// By post, the ablest first; on the market those who are for hire.
