@@ -76,7 +76,7 @@ class frmAltRoster : public ui::Screen {
   using K = ui::ColumnKind;
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  const ColumnsOf<Worker> columns_ = {
+  const CellColumns<Worker> columns_ = {
       {{"Name"}, [](const Worker& worker) { return worker.Name.View(); }},
       {{"Position"}, [](const Worker& worker) { return PositionText(worker.Position); }},
       {{"Disp.", K::Tag}, DispositionCell},

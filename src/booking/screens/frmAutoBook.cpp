@@ -83,8 +83,8 @@ class frmAutoBook : public ui::Screen {
     lstcard.Fill(std::move(rows));
   }
 
-  ColumnsOf<SheetRow> Table() {
-    ColumnsOf<SheetRow> columns = SheetTable(world());
+  CellColumns<SheetRow> Table() {
+    CellColumns<SheetRow> columns = SheetTable(world());
     columns.insert(columns.begin(), {{"#", ui::ColumnKind::Number},
                                      [](const SheetRow& row) { return ui::Cell(row.Record); }});
     return columns;

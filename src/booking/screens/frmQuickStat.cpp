@@ -231,11 +231,11 @@ class frmDebut : public ui::Screen {
   Game& game_;
   const bool isEvent_;
   ui::Label lblfacts{*this, "lblfacts"};
-  const ColumnsOf<Worker> columns_ =
+  const CellColumns<Worker> columns_ =
       PeopleTable({{{"Position", K::Text, 3},
                     [](const Worker& worker) { return PositionText(worker.Position); }},
                    {{"", K::Tag, 2}, StatusCell}});
-  const ColumnsOf<DebutWay> ways_ = {
+  const CellColumns<DebutWay> ways_ = {
       {{"In a", K::Tag}, [](const DebutWay& way) { return way.Kind; }},
       {{"How the wizard calls it", K::Text, 3}, [](const DebutWay& way) { return way.How; }},
       {{"", K::Text, 2}, [](const DebutWay& way) {

@@ -22,7 +22,7 @@ std::string Of(int count, int least) {
 
 }  // namespace
 
-ColumnsOf<SheetRow> SheetTable(const World& world) {
+CellColumns<SheetRow> SheetTable(const World& world) {
   using K = ui::ColumnKind;
   return {{{"Segment", K::Text, 1},
            [&](const SheetRow& row) {
@@ -149,8 +149,8 @@ void SheetScreen::FillRows() {
   ShowRow();
 }
 
-ColumnsOf<SheetRow> SheetScreen::Table() {
-  ColumnsOf<SheetRow> columns = SheetTable(world());
+CellColumns<SheetRow> SheetScreen::Table() {
+  CellColumns<SheetRow> columns = SheetTable(world());
   columns.insert(columns.begin(), {{"#", K::Text, 0, "Row of the sheet."},
                                    [](const SheetRow& row) { return std::to_string(row.Record); }});
   return columns;

@@ -15,7 +15,7 @@ struct SheetRow {
 };
 /// What is booked, of what kind, whether a Title is at stake, for which feud, and the forecast.
 /// Holds on to the world.
-ColumnsOf<SheetRow> SheetTable(const World& world);
+CellColumns<SheetRow> SheetTable(const World& world);
 /// What is booked, and the lines of the wizard's summary.
 std::vector<ui::Report::Paragraph> ToldOf(const World& world, const Segment& segment, bool isEvent);
 
@@ -51,7 +51,7 @@ class SheetScreen : public ui::Screen {
   const Segment& Row(int record) { return world().Segments()[record]; }
   int OpenRows();
   void FillRows();
-  ColumnsOf<SheetRow> Table();
+  CellColumns<SheetRow> Table();
   ui::ListBox::Row RowOf(int record);
   void ShowButton(int record);
   void ShowCounts();

@@ -77,9 +77,9 @@ class frmBelts : public ui::Screen {
 
   /// Of the world's Titles one wants to know whose they are; since when they are held, the history
   /// says.
-  ColumnsOf<grapplemont::Title> Table() {
+  CellColumns<grapplemont::Title> Table() {
     constexpr std::size_t kSince = 3;
-    ColumnsOf<grapplemont::Title> columns = TitleTable(world());
+    CellColumns<grapplemont::Title> columns = TitleTable(world());
     if (cmbwhose.Key() == kEverybodys)
       columns[kSince] = {{"Of"}, [this](const auto& title) { return OwnerCell(title); }};
     return columns;
@@ -332,7 +332,7 @@ class frmReigns : public ui::Screen {
   std::vector<Lineage> lineages_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbtitle{*this, "cmbtitle", &frmReigns::ShowReigns};
-  const ColumnsOf<TitleReign> reigns_ = {
+  const CellColumns<TitleReign> reigns_ = {
       {{"Holder", K::Text, 5},
        [](const TitleReign& reign) {
          return ui::Cell(reign.Holder.View(), IsVacancy(reign) ? ui::Tone::Muted : ui::Tone::Plain);
@@ -351,7 +351,7 @@ class frmReigns : public ui::Screen {
          return CountCell(IsVacancy(reign) ? -1 : int(reign.Defences));
        }},
       {{"End", K::Tag}, EndCell}};
-  const ColumnsOf<ChampionTotal> totals_ = {
+  const CellColumns<ChampionTotal> totals_ = {
       {{"Champion", K::Text, 4}, [](const ChampionTotal& total) { return total.Name; }},
       {{"Reigns", K::Number}, [](const ChampionTotal& total) { return ui::Cell(total.Reigns); }},
       {{"Days", K::Number, 0, "Of the reigns whose length is known."},

@@ -152,7 +152,7 @@ class frmFeuds : public ui::Screen {
   Game& game_;
   int next_ = 0;  // the slot that a feud being started will take
   ui::Label lblfacts{*this, "lblfacts"};
-  const ColumnsOf<Feud> feuds_ = {
+  const CellColumns<Feud> feuds_ = {
       {{"Feud", K::Text, 5}, [this](const Feud& feud) { return NameCell(feud); }},
       {{"Heat", K::Percent, 2}, [](const Feud& feud) { return CountCell(feud, feud.Heat); }},
       {{"Days", K::Number, 1, "Days since it began."},

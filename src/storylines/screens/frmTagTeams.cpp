@@ -131,7 +131,7 @@ class frmTagTeams : public ui::Screen {
   using K = ui::ColumnKind;
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  const ColumnsOf<Team> teams_ = {
+  const CellColumns<Team> teams_ = {
       {{"Team", K::Text, 4}, [](const Team& team) { return team.Name.View(); }},
       {{"First", K::Text, 3},
        [this](const Team& team) { return WorkerName(world(), team.Worker1); }},
@@ -300,7 +300,7 @@ class frmStables : public ui::Screen {
   using K = ui::ColumnKind;
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  const ColumnsOf<Stable> stables_ = {
+  const CellColumns<Stable> stables_ = {
       {{"Stable", K::Text, 4}, [](const Stable& stable) { return stable.Name.View(); }},
       {{"Members", K::Number, 1, "Ten at most."},
        [this](const Stable& stable) {
@@ -310,9 +310,9 @@ class frmStables : public ui::Screen {
          const Worker* leader = StableLeader(world(), stable.Name);
          return leader ? leader->Name.Str() : "";
        }}};
-  const ColumnsOf<Worker> members_ =
+  const CellColumns<Worker> members_ =
       PeopleTable({{{"", K::Tag, 2}, [this](const Worker& worker) { return RoleCell(worker); }}});
-  const ColumnsOf<Worker> others_ = PeopleTable({{{"In", K::Text, 2}, InCell}});
+  const CellColumns<Worker> others_ = PeopleTable({{{"In", K::Text, 2}, InCell}});
   ui::ListBox lststables{*this, "lststables", HeadingsOf(stables_), &frmStables::lststables_Click};
   ui::TextBox txtname{*this, "txtname"};
   ui::Button cmdcreate{*this, "cmdcreate", "Found A Stable", &frmStables::cmdcreate_Click};

@@ -98,9 +98,9 @@ class frmManagers : public ui::Screen {
 
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  const ColumnsOf<Worker> clients_ = PeopleTable(
+  const CellColumns<Worker> clients_ = PeopleTable(
       {{{"Manager", K::Text, 4}, [this](const Worker& client) { return ManagerCell(client); }}});
-  const ColumnsOf<Worker> managers_ =
+  const CellColumns<Worker> managers_ =
       PeopleTable({{{"Charisma", K::Number, 1},
                     [](const Worker& manager) { return ui::Cell(manager.Charisma); }},
                    {{"", K::Tag, 1, "Can give no interviews."},
@@ -198,7 +198,7 @@ class frmTurn : public ui::Screen {
 
   Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
-  const ColumnsOf<Worker> columns_ = PeopleTable(
+  const CellColumns<Worker> columns_ = PeopleTable(
       {{{"Last turn", K::Date, 3}, [this](const Worker& worker) { return LastTurnCell(worker); }},
        {{"", K::Tag, 2}, [](const Worker& worker) {
           return ui::Cell(worker.TurnPending ? "Turn pending" : "", ui::Tone::Gold);

@@ -51,8 +51,8 @@ ui::Cell DayCell(Day day) {
   return {static_cast<double>((day - kDayZero).count()), PlainDate(day)};
 }
 
-ColumnsOf<Worker> PeopleTable(ColumnsOf<Worker> more) {
-  ColumnsOf<Worker> columns = {
+CellColumns<Worker> PeopleTable(CellColumns<Worker> more) {
+  CellColumns<Worker> columns = {
       {{"Name", K::Text, 4}, [](const Worker& worker) { return worker.Name.View(); }},
       {{"Disp.", K::Tag, 2}, DispositionCell},
       {{"Over", K::Number, 1, "Popularity."},
@@ -61,7 +61,7 @@ ColumnsOf<Worker> PeopleTable(ColumnsOf<Worker> more) {
   return columns;
 }
 
-void FillTable(ui::ListBox& list, const ColumnsOf<Worker>& columns,
+void FillTable(ui::ListBox& list, const CellColumns<Worker>& columns,
                const std::vector<const Worker*>& people) {
   std::vector<ui::ListBox::Row> rows;
   for (const Worker* worker : people) rows.push_back(RowOf(columns, *worker, worker->Uid));
@@ -89,7 +89,7 @@ void EnableUnless(Controls controls, const std::string& why) {
   for (ui::Control& control : controls) EnableUnless(control, why);
 }
 
-ColumnsOf<Title> TitleTable(const World& world) {
+CellColumns<Title> TitleTable(const World& world) {
   return {{{"Title"}, [](const Title& title) { return title.Name.View(); }},
           {{"Kind", K::Tag}, KindText},
           {{"Holder"}, [&](const Title& title) { return ChampionCell(world, title); }},
@@ -105,8 +105,8 @@ ColumnsOf<Title> TitleTable(const World& world) {
 
 namespace {
 
-const ColumnsOf<Reign>& ReignTable() {
-  static const ColumnsOf<Reign> kColumns = {
+const CellColumns<Reign>& ReignTable() {
+  static const CellColumns<Reign> kColumns = {
       {{"Holder"}, [](const Reign& reign) { return reign.Holder.View(); }},
       {{"Won", K::Date}, [](const Reign& reign) { return DateCell(reign.Won, kFromTheStart); }},
       {{"Lost", K::Date}, [](const Reign& reign) { return DateCell(reign.Lost, ""); }}};

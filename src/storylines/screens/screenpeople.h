@@ -14,23 +14,23 @@ namespace grapplemont {
 // how a record stands in it.
 
 template <class Record>
-struct ColumnOf {
+struct CellColumn {
   ui::Column Heading;
   std::function<ui::Cell(const Record&)> Show;
 };
 template <class Record>
-using ColumnsOf = std::vector<ColumnOf<Record>>;
+using CellColumns = std::vector<CellColumn<Record>>;
 
 template <class Record>
-std::vector<ui::Column> HeadingsOf(const ColumnsOf<Record>& columns) {
+std::vector<ui::Column> HeadingsOf(const CellColumns<Record>& columns) {
   std::vector<ui::Column> headings;
-  for (const ColumnOf<Record>& column : columns) headings.push_back(column.Heading);
+  for (const CellColumn<Record>& column : columns) headings.push_back(column.Heading);
   return headings;
 }
 template <class Record>
-ui::ListBox::Row RowOf(const ColumnsOf<Record>& columns, const Record& record, int key) {
+ui::ListBox::Row RowOf(const CellColumns<Record>& columns, const Record& record, int key) {
   ui::ListBox::Row row{{}, key};
-  for (const ColumnOf<Record>& column : columns) row.Cells.push_back(column.Show(record));
+  for (const CellColumn<Record>& column : columns) row.Cells.push_back(column.Show(record));
   return row;
 }
 
@@ -42,9 +42,9 @@ ui::Cell DispositionCell(const Worker& worker);
 ui::Cell StatusCell(const Worker& worker);
 
 /// Name, disposition and Over; then `more`.
-ColumnsOf<Worker> PeopleTable(ColumnsOf<Worker> more = {});
+CellColumns<Worker> PeopleTable(CellColumns<Worker> more = {});
 /// Fills such a table; what is selected stays so.
-void FillTable(ui::ListBox& list, const ColumnsOf<Worker>& columns,
+void FillTable(ui::ListBox& list, const CellColumns<Worker>& columns,
                const std::vector<const Worker*>& people);
 /// The table and the row of these three alone.
 std::vector<ui::Column> ShortColumns();
@@ -61,7 +61,7 @@ void EnableUnless(Controls controls, const std::string& why);
 // How Titles stand in tables.
 
 /// Name, kind, holder, since when, image, and whether it can be fought for. Holds on to the world.
-ColumnsOf<Title> TitleTable(const World& world);
+CellColumns<Title> TitleTable(const World& world);
 
 /// Who held a Title, from when to when.
 std::vector<ui::Column> ReignColumns();
