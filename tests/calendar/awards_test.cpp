@@ -5,11 +5,11 @@
 #include "calendar/advanceday.h"
 #include "records/checks/checkworld.h"
 #include "records/fields/fields.h"
-#include "records/segmentwords.h"
 #include "storylines/lineages.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
+#include "words/segments.h"
 
 namespace grapplemont::test {
 namespace {
