@@ -38,7 +38,8 @@ std::string CodeOf(const WordsFile& file, const WordsText& text) {
       lines << "    " << Quoted(AsSaid(line.Text, heading)) << ",\n";
     first += section.Lines.size();
   }
-  out << "// Made by the build from words/" << file.Path << ".\n#include \"records/words.h\"\n\n"
+  out << "// Made by the build from words/" << file.Path
+      << ".\n#include \"records/fields/wording.h\"\n\n"
       << "namespace grapplemont::" << file.Module << " {\n\nnamespace {\n\n"
       << "constexpr std::string_view kLines[] = {\n"
       << lines.str() << "};\n"
