@@ -54,7 +54,7 @@ int ShowsOf(const Promotion& promotion) {
                  [&](const Show& show) { return show.Owner == promotion.Uid; });
 }
 
-int BestSkill(const Worker& worker) {
+int MostSkill(const Worker& worker) {
   return std::max<int>({worker.Brawl, worker.Technical, worker.Speed});
 }
 
@@ -245,11 +245,11 @@ TEST(DefaultWorld, LetsSkillAndPopularityGoTogether) {
     auto roster = WorkersOf(promotion, Wrestles);
     std::sort(roster.begin(), roster.end(), [](auto* a, auto* b) { return a->Over > b->Over; });
     const auto half = static_cast<std::ptrdiff_t>(roster.size() / 2);
-    EXPECT_GT(Mean({roster.begin(), roster.begin() + half}, BestSkill),
-              Mean({roster.begin() + half, roster.end()}, BestSkill))
+    EXPECT_GT(Mean({roster.begin(), roster.begin() + half}, MostSkill),
+              Mean({roster.begin() + half, roster.end()}, MostSkill))
         << promotion.Initials.Str();
     if (promotion.Size <= kCult) {
-      EXPECT_GT(BestSkill(*roster.front()), 65) << Utf8(roster.front()->Name);
+      EXPECT_GT(MostSkill(*roster.front()), 65) << Utf8(roster.front()->Name);
     }
   }
 }
