@@ -6,6 +6,7 @@
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
+#include "words/names.h"
 
 namespace grapplemont::test {
 namespace {

@@ -11,6 +11,7 @@
 
 #include "booking/randomsegment.h"
 #include "booking/sheet.h"
+#include "booking/wizard/objections.h"
 #include "golden/worldlines.h"
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"

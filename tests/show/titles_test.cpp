@@ -131,6 +131,7 @@ TEST(TitleImage, FollowsTheRatingAndItsChampion) {
   };
   for (const Case& c : kCases) {
     Stage stage(WithTitles());
+    stage.S.Kind = kMatch;
     stage.S.TitleName = "CWA Crown";
     stage.Rate(0, 0, c.Overall);
     stage["Ash"].Over = c.Over;
@@ -157,6 +158,7 @@ TEST(TitleImage, OfATagTitleCountsBothChampions) {
   };
   for (const Case& c : kCases) {
     Stage stage(WithTitles());
+    stage.S.Kind = kMatch;
     stage.S.TitleName = "CWA Pair";
     stage.Rate(0, 0, c.Overall);
     stage["Ash"].Over = c.Over1;

@@ -342,7 +342,7 @@ TEST(frmManagers, GivesAndTakes) {
   play.Desk.ExpectAsk("Managers", text, true);
   play.Desk.Click("cmdgive");
   EXPECT_EQ(ash.Manager, eve);
-  EXPECT_EQ(play.Desk.Text("lblfacts"), "1 of 3 wrestlers have a manager.");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "1 of 3 wrestlers has a manager.");
   play.Desk.Click("cmdtake");
   EXPECT_EQ(ash.Manager, 0);
   EXPECT_EQ(play.Desk.Text("lblfacts"), "0 of 3 wrestlers have a manager.");

@@ -126,7 +126,8 @@ std::vector<std::string> EmbedTables(const fs::path& words, const fs::path& out)
     texts.push_back(ReadTables(file, ReadWordsText(bytes.value_or("")), mistakes));
     if (!bytes) mistakes = {"1: this file is missing"};
     for (const std::string& mistake : mistakes)
-      all.push_back((words.filename() / file.Path).generic_string() + ":" + mistake);
+      all.push_back(((words / "").parent_path().filename() / file.Path).generic_string() + ":" +
+                    mistake);
   }
   if (!all.empty()) return all;
   fs::create_directories(out);
