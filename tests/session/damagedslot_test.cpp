@@ -59,8 +59,8 @@ class ADamagedGame : public testing::Test {
 TEST_F(ADamagedGame, IsLoadedWithAWordWhereItsFilesHoldEveryDay) {
   const std::string length = CutJournal();
   home_.Desk.ExpectSay("Loading",
-                       "The slot was damaged. Its journal is " + length +
-                           " bytes long and was 4194304. Its files (Monday, 06 April 2026) hold "
+                       "The slot was damaged. Its journal was cut short: " + length +
+                           " of 4194304 bytes are left. Its files (Monday, 06 April 2026) hold "
                            "more than its journal (Friday, 03 April 2026). Every step could be "
                            "found again (Monday, 06 April 2026).\nThe slot as it was is kept in " +
                            home_.Path("s2.damaged") + ".");
@@ -74,10 +74,11 @@ TEST_F(ADamagedGame, IsAskedAboutWhereNothingProvesItsFiles) {
   const std::string length = CutJournal();
   home_.Remove("s2/world.seal");
   const std::string question =
-      "The slot " + home_.Path("s2") + " is damaged. Its journal is " + length +
-      " bytes long and was 4194304. Files of it were changed from outside since the game last kept "
-      "them. The files are taken as they are (Monday, 06 April 2026); they may hold parts of "
-      "several steps. Have the world checked. The slot as it is now will be kept in " +
+      "The slot " + home_.Path("s2") + " is damaged. Its journal was cut short: " + length +
+      " of 4194304 bytes are left. Its files (Monday, 06 April 2026) hold more than its journal "
+      "(Friday, 03 April 2026). The files are taken as they are (Monday, 06 April 2026); they may "
+      "hold parts of several steps. Have the world checked with: grapplemont-world check FOLDER. "
+      "The slot as it is now will be kept in " +
       home_.Path("s2.damaged") + ".\nLoad it so?";
   home_.Desk.ExpectAsk("Error Loading", question, false, ui::Default::No);
   home_.Desk.Click("cmdload2");

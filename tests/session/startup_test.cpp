@@ -187,7 +187,6 @@ TEST(PickSaveSlot, AsksAboutWhatLiesInAnEmptySlotAndKeepsWhatIsNoGames) {
   home.Desk.ExpectAsk("Are you sure?", kLeavings, true);
   home.Desk.ExpectPrompt("User Entry", "Save Game Name:", "First");
   home.Desk.ExpectSay("Database creation", kAnyText);
-  home.Desk.ExpectSay("Loading", kAnyText);
   home.Desk.Click("cmdload1");
   EXPECT_EQ(home.Play.World().News().Count(), 1) << "the old mail is gone, the welcome is there";
   EXPECT_EQ(RealDisk()->Look(home.Path("s1/diary.txt")), Disk::Kind::File);
