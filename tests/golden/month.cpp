@@ -190,10 +190,12 @@ class Player {
     }
   }
   bool IsEvent() { return Desk().TopName() == "frmPPVBooking"; }
-  /// Fills the open rows of the sheet with whatever its wizard would let pass, by this number.
+  /// Books rows of the sheet with whatever its wizard would let pass, by this number; the last are
+  /// left for the matches that a show needs.
   void Sheet(std::string_view rest) {
     Dice dice(NumberIn(rest));
-    for (int row = 1; row <= TermsOf(World(), IsEvent()).OpenRows; ++row) {
+    const SheetTerms terms = TermsOf(World(), IsEvent());
+    for (int row = 1; row <= terms.OpenRows - terms.MinMatches; ++row) {
       const auto segment = RandomSegment(World(), dice, {IsEvent(), "All"});
       if (!segment) continue;
       ApplyBookingGrievances(World(), *segment);
