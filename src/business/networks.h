@@ -33,8 +33,8 @@ bool IsFull(const World& world, const Network& network);
 /// Mondays: a week off every deal; some of rivals are renewed, shows without weeks or at three
 /// strikes are marked as gone.
 void TvContractReview(World& world);
-/// The first of a month: rivals of Cult size and above look for another show. Draws for each network
-/// that could want one, for each that does, and for the day.
+/// The first of a month: rivals of Cult size and above look for another show. Draws for each
+/// network that could want one, for each that does, and for the day.
 void RivalNewTvShows(World& world);
 
 }  // namespace grapplemont

@@ -8,13 +8,13 @@
 #include "records/arithmetic.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "words/promotions.h"
 #include "rivals/ownership.h"
 #include "rivals/rivals.h"
 #include "rivals/staffmarket.h"
 #include "rivals/tuning.h"
 #include "rivals/workermarket.h"
 #include "storylines/titles.h"
+#include "words/promotions.h"
 
 namespace grapplemont {
 

@@ -197,7 +197,8 @@ of the first year brings in and costs, so that a world maker sees who lives well
 page is a command away: `grapplemont-world balance mydata > balance.md`.
 
 The month is an average one: an even economy, tickets at the fair price, 52 weeks spread over 12 months, crowds and buy
-rates at their mean for today's image. Workers who cannot be released draw no wage. Two columns tell the same company in two pairs of hands:
+rates at their mean for today's image. Workers who cannot be released draw no wage. Two columns tell the same company in
+two pairs of hands:
 
 - **Player**: with the advertising, merchandise, production and Events that it has on the first day, and four sponsors
   of mean pay out of those who say yes to a player. Who picks sponsors well does better.

@@ -44,8 +44,8 @@ struct PromotionBalance {
 };
 
 /// An average month of every promotion of a world: an even economy, fair ticket prices, crowds at
-/// their mean. A player has four sponsors of mean pay out of those who would come, a rival those who
-/// sign on the first day.
+/// their mean. A player has four sponsors of mean pay out of those who would come, a rival those
+/// who sign on the first day.
 std::vector<PromotionBalance> BalanceOf(const World& world);
 
 /// docs/balance.md: the same as tables, in UTF-8.

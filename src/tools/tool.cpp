@@ -55,8 +55,8 @@ const Command& FindCommand(const std::string& name) {
 /// One line without what a terminal would take for a command.
 std::string OneLine(std::string text) {
   std::replace_if(
-      text.begin(), text.end(), [](unsigned char letter) { return letter < 0x20 || letter == 0x7F; },
-      ' ');
+      text.begin(), text.end(),
+      [](unsigned char letter) { return letter < 0x20 || letter == 0x7F; }, ' ');
   return text;
 }
 
@@ -69,7 +69,8 @@ int RunCommand(const Command& command, std::span<const std::string> words, Shell
   try {
     return command.Run(Arguments(words, command.Options, command.Places), shell);
   } catch (const UsageError& fault) {
-    shell.Errors << kProgram << " " << command.Name << ": " << OneLine(ValidUtf8(fault.what())) << "\n";
+    shell.Errors << kProgram << " " << command.Name << ": " << OneLine(ValidUtf8(fault.what()))
+                 << "\n";
     PrintUsage(shell.Errors, command);
     return 2;
   } catch (const std::bad_alloc&) {

@@ -256,7 +256,6 @@ TEST(CheckShow, HearsTheNetworksComplaints) {
 
 using std::chrono::year;
 
-
 struct Post {
   int Position, Over;
 };

@@ -16,9 +16,9 @@ namespace grapplemont {
 struct StoredSlot {
   std::map<std::string, Bytes> Files;           // a file that is too long without what is too much
   std::map<std::string, std::int64_t> TooLong;  // the lengths of those
-  bool HasId = false;                           // or seal and journal agree on one; else no slot yet
-  std::optional<std::uint64_t> Id;              // nothing where the id is missing or spoiled
-  std::optional<WorldSeal> Seal;                // of this world
+  bool HasId = false;               // or seal and journal agree on one; else no slot yet
+  std::optional<std::uint64_t> Id;  // nothing where the id is missing or spoiled
+  std::optional<WorldSeal> Seal;    // of this world
   Bytes Journal;
 };
 
