@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <set>
 
+#include "records/fields/gameinfo.h"
 #include "records/store/journalfile.h"
 #include "records/store/slot.h"
 #include "records/store/slotfolder.h"
@@ -143,15 +143,6 @@ Files All(Disk& disk, const std::string& folder) {
   Files all;
   for (const std::string& name : disk.List(folder)) all[name] = ReadFile(disk, folder + "/" + name);
   return all;
-}
-
-/// Byte for byte, and faster than == between vectors.
-bool Same(const Files& a, const Files& b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](auto& one, auto& other) {
-    const auto& [name, bytes] = one;
-    return name == other.first && bytes.size() == other.second.size() &&
-           (bytes.empty() || std::memcmp(bytes.data(), other.second.data(), bytes.size()) == 0);
-  });
 }
 
 /// How a damaged slot was opened.
@@ -339,6 +330,41 @@ TEST(DamagedJournals, AreMendedWholeOrNotAtAll) {
       ASSERT_TRUE(kept) << at.Where;
     });
     EXPECT_GT(cuts, 200);
+  }
+}
+
+/// A game's own file alone tells whether the files are of a later day than the journal, where their
+/// seal is missing or as old as the journal.
+TEST(ASlotOfAGame, KeepsFilesThatAreLaterThanTheirJournal) {
+  CutDisk disk;
+  const std::vector<KnownFile> known = {{"gameinfo.dat", 4096}};
+  const auto game = [](unsigned day) -> Files {
+    GameInfo info;
+    info.PlayerName = "Pat Lee";
+    info.Today = std::chrono::sys_days(std::chrono::year(2026) / 3 / day);
+    const auto bytes = std::as_bytes(std::span(&info, 1));
+    return {{"gameinfo.dat", Bytes(bytes.begin(), bytes.end())}};
+  };
+  Slot::Create(disk, "s1", NewFiles(game(1)), 7);
+  Files earlier;
+  {
+    Slot slot(disk, "s1", known);
+    for (unsigned day = 1; day < 9; ++day) {
+      if (day == 5)
+        for (const char* name : {"journal", "world.seal"})
+          earlier[name] = ReadFile(disk, std::string("s1/") + name);
+      const Files before = game(day), after = game(day + 1);
+      slot.Commit(
+          {{"gameinfo.dat", true, true, before.at("gameinfo.dat"), after.at("gameinfo.dat")}});
+    }
+  }
+  for (const bool sealed : {false, true}) {
+    CutDisk old = disk.Restarted();
+    WriteFile(old, "s1/journal", earlier.at("journal"));
+    old.Remove("s1/world.seal");
+    if (sealed) WriteFile(old, "s1/world.seal", earlier.at("world.seal"));
+    EXPECT_THROW(Slot(old, "s1", known), SlotDamaged);
+    EXPECT_EQ(Slot(old, "s1", known, Damage::Drop).Files(), game(9));
   }
 }
 

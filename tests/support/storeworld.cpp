@@ -1,6 +1,7 @@
 #include "support/storeworld.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace grapplemont::test {
 
@@ -53,6 +54,14 @@ std::vector<KnownFile> StoreFiles() {
   std::vector<KnownFile> known;
   for (const char* name : kNames) known.push_back({name, kLongest});
   return known;
+}
+
+bool Same(const Files& a, const Files& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](auto& one, auto& other) {
+    const auto& [name, bytes] = one;
+    return name == other.first && bytes.size() == other.second.size() &&
+           (bytes.empty() || std::memcmp(bytes.data(), other.second.data(), bytes.size()) == 0);
+  });
 }
 
 Bytes BytesOf(std::string_view text) {
@@ -114,10 +123,10 @@ int FoundWorld(Disk& disk, const std::vector<Files>& worlds, int least, int most
       return -1;
     }
     for (int world = most; world >= least; --world)
-      if (slot.Files() == worlds[static_cast<std::size_t>(world)]) return world;
+      if (Same(slot.Files(), worlds[static_cast<std::size_t>(world)])) return world;
     why = "no world from " + std::to_string(least) + " to " + std::to_string(most);
     for (std::size_t world = 0; world < worlds.size(); ++world)
-      if (slot.Files() == worlds[world]) why += ", but world " + std::to_string(world);
+      if (Same(slot.Files(), worlds[world])) why += ", but world " + std::to_string(world);
   } catch (const std::exception& thrown) {
     why = thrown.what();
   }
