@@ -40,13 +40,7 @@ class ASlot : public testing::Test {
     byte[0] ^= std::byte{0x10};
     disk_->WriteAt(file, at, byte);
   }
-  /// Every file of a folder.
-  Files All(const std::string& folder) {
-    Files all;
-    for (const std::string& name : disk_->List(folder))
-      all[name] = ReadFile(*disk_, folder + "/" + name);
-    return all;
-  }
+  Files All(const std::string& folder) { return FilesIn(*disk_, folder); }
   /// Puts the record files of a world where they are, as if later ones had never reached them.
   void PutFiles(const Files& world) {
     for (const KnownFile& known : StoreFiles()) RemoveTree(*disk_, At(known.Name));

@@ -56,7 +56,9 @@ class CutDisk : public Disk {
   /// only calls that may need room, a broken one all that can fail.
   void FailCall(int n, Fault fault, bool forGood);
   /// Whether a call has failed since FailCall.
-  bool HasFailed() const { return hasFailed_; }
+  bool HasFailed() const { return failedAt_ >= 0; }
+  /// After how many recorded calls that was.
+  int FailedAt() const { return failedAt_; }
   /// The disk answers again.
   void Heal() { failAt_ = 0; }
   /// Nearly full: no file can be made longer than this, or there is room for all.
@@ -123,7 +125,8 @@ class CutDisk : public Disk {
   int calls_ = 0, dieAt_ = 0, failAt_ = 0;
   Fault fault_ = Fault::Broken;
   std::optional<std::int64_t> room_;
-  bool failForGood_ = false, hasFailed_ = false;
+  bool failForGood_ = false;
+  int failedAt_ = -1;
   std::size_t longestRead_ = 0;
   bool recording_ = false;
   DiskState start_;
@@ -145,9 +148,10 @@ struct Cut {
 
 using Check = std::function<void(CutDisk& after, const Cut& cut)>;
 
-/// Cuts the power `each` times after every recorded call (and before the first). Returns how many
-/// cuts that were.
-int ForEveryCut(const CutDisk& disk, int each, std::uint64_t seed, const Check& check);
+/// Cuts the power `each` times after every recorded call (and before the first), or after those
+/// from one on. Returns how many cuts that were.
+int ForEveryCut(const CutDisk& disk, int each, std::uint64_t seed, const Check& check,
+                int from = 0);
 /// `count` power cuts, each at a moment drawn anew.
 int ForSomeCuts(const CutDisk& disk, int count, std::uint64_t seed, const Check& check);
 /// Kills the process after every recorded call.

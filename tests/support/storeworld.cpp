@@ -133,6 +133,23 @@ int FoundWorld(Disk& disk, const std::vector<Files>& worlds, int least, int most
   return -1;
 }
 
+bool GoesOn(Disk& disk, const Files& found, const SlotOptions& options) {
+  Files after = found;
+  after["news.dat"] = BytesOf("The show goes on.");
+  {
+    Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, options);
+    if (!slot.Remarks().empty() || !Same(slot.Files(), found)) return false;
+    slot.Commit(ChangesBetween(found, after));
+  }
+  return FoundWorld(disk, {after}, 0, 0, options) == 0;
+}
+
+Files FilesIn(Disk& disk, const std::string& folder) {
+  Files all;
+  for (const std::string& name : disk.List(folder)) all[name] = ReadFile(disk, folder + "/" + name);
+  return all;
+}
+
 Story TellStory(int commits, std::uint64_t seed, JournalQuirks quirks,
                 const std::function<void(CutDisk&)>& prepare) {
   const std::vector<Files> worlds = RandomWorlds(commits + 1, seed);
@@ -164,14 +181,15 @@ Story TellStory(int commits, std::uint64_t seed, JournalQuirks quirks,
   return story;
 }
 
-BadCuts CountBadCuts(const Story& story, int each, std::uint64_t seed) {
+BadCuts CountBadCuts(const Story& story, int each, std::uint64_t seed, int from) {
   BadCuts found;
-  found.Cuts = ForEveryCut(story.Recorded, each, seed, [&](CutDisk& after, const Cut& cut) {
+  const auto check = [&](CutDisk& after, const Cut& cut) {
     std::string why;
     if (FoundWorld(after, story.Worlds, cut.Least, cut.Most, story.Options, &why) >= 0) return;
     if (found.Bad++ == 0)
       found.First = "after call " + std::to_string(cut.Index) + " (" + cut.Where + "): " + why;
-  });
+  };
+  found.Cuts = ForEveryCut(story.Recorded, each, seed, check, from);
   return found;
 }
 
