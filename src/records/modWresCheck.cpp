@@ -71,6 +71,11 @@ std::string_view KnownOr(std::string_view text) {
   return text.empty() ? "Unknown" : text;
 }
 
+std::string_view StoredOf(Vocabulary words, std::string_view text) {
+  const Term* term = FindTerm(words, text);
+  return term ? term->Stored : std::string_view();
+}
+
 }  // namespace
 
 int NextWorkerUid(const World& world) {
@@ -161,15 +166,22 @@ std::string_view PositionText(int position) {
   return KnownOr(Says(kPositions, position));
 }
 
+int PositionCode(std::string_view text) {
+  const Term* term = FindTerm(kPositions, text);
+  return term ? term->Code : 0;
+}
+
 std::string_view DispositionText(std::string_view code) {
   return KnownOr(Says(kDispositions, code));
 }
 std::string_view DispositionCode(std::string_view text) {
-  const Term* term = FindTerm(kDispositions, text);
-  return term ? term->Stored : std::string_view();
+  return StoredOf(kDispositions, text);
 }
 std::string_view ContractText(std::string_view code) {
   return KnownOr(Says(kContracts, code));
+}
+std::string_view ContractCode(std::string_view text) {
+  return StoredOf(kContracts, text);
 }
 
 std::string ContractLine(const Worker& worker) {
