@@ -188,33 +188,6 @@ INSTANTIATE_TEST_SUITE_P(EveryCall, FaultyDisks,
                                          Trouble{Fault::Broken, false},
                                          Trouble{Fault::Broken, true}));
 
-TEST(ADyingProcess, LeavesACommittedWorldAtEveryCall) {
-  const auto worlds = RandomWorlds(kSteps + 1, 64);
-  const CutDisk start = DiskWithSlot(worlds[0]);
-  for (int call = 1;; ++call) {
-    CutDisk disk = start;
-    disk.DieAtCall(call);
-    int shown = 0;
-    bool died = false;
-    try {
-      Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, SmallJournal());
-      for (std::size_t step = 1; step <= kSteps; ++step) {
-        slot.Commit(ChangesBetween(worlds[step - 1], worlds[step]));
-        shown = static_cast<int>(step);
-      }
-      slot.Checkpoint();
-    } catch (const ProcessDied&) {
-      died = true;
-    }
-    CutDisk restarted = disk.Restarted();
-    std::string why;
-    ASSERT_GE(
-        FoundWorld(restarted, worlds, shown, std::min(shown + 1, kSteps), SmallJournal(), &why), 0)
-        << "call " << call << ": " << why;
-    if (!died) break;
-  }
-}
-
 /// A sync fails, and the process dies before it can recover: the system shows pages that are not on
 /// disk and never will be. A new process builds on them, and then the power goes.
 TEST(AFailedSyncThatNobodyRecoveredFrom, IsNotBuiltUpon) {

@@ -38,7 +38,6 @@ void CutDisk::FailCall(int n, Fault fault, bool forGood) {
 
 bool CutDisk::Counts(Need need) {
   ++calls_;
-  if (dieAt_ > 0 && calls_ >= dieAt_) throw ProcessDied{};
   if (failAt_ == 0 || calls_ < failAt_ || (calls_ > failAt_ && !failForGood_)) return false;
   if (fault_ == Fault::NoSpace && need == Need::Nothing) return false;
   if (failedAt_ < 0) failedAt_ = static_cast<int>(moments_.size());

@@ -8,7 +8,7 @@
 
 #include "support/diskstate.h"
 
-// A disk in memory that records every call, cuts the power after any of them, fails and dies.
+// A disk in memory that records every call, cuts the power after any of them, and fails.
 //
 // Power cuts: do the work once while the disk records, telling it which worlds may and must be
 // found from then on; then look at every moment of it.
@@ -33,9 +33,6 @@
 // calls of a run without faults first: `Calls()`.
 
 namespace grapplemont::test {
-
-/// Thrown by every call of a process that has died. No std::exception: nobody may catch and go on.
-struct ProcessDied {};
 
 enum class Fault { NoSpace, Broken };
 
@@ -63,8 +60,6 @@ class CutDisk : public Disk {
   void Heal() { failAt_ = 0; }
   /// Nearly full: no file can be made longer than this, or there is room for all.
   void HaveRoomFor(std::optional<std::int64_t> bytes) { room_ = bytes; }
-  /// Lets the process die at the n-th call from now on, before anything of it is done.
-  void DieAtCall(int n) { dieAt_ = calls_ + n; }
   /// The same disk under a new process: nothing open, nothing locked.
   CutDisk Restarted() const { return CutDisk(state_); }
   /// The same disk after a power cut.
@@ -122,7 +117,7 @@ class CutDisk : public Disk {
   Handle nextHandle_ = 1;
   bool exchanges_ = true;
   std::string ignoredSyncs_;
-  int calls_ = 0, dieAt_ = 0, failAt_ = 0;
+  int calls_ = 0, failAt_ = 0;
   Fault fault_ = Fault::Broken;
   std::optional<std::int64_t> room_;
   bool failForGood_ = false;
