@@ -139,7 +139,7 @@ const BadField kBadFields[] = {
 
     // Companies.
     {"belt.dat", 1, "Partner", 2, "is set for a singles title", "made 0"},
-    {"belt.dat", 2, "Holder", 0, "is set for a vacant Title", "made 0", false, "Partner"},
+    {"belt.dat", 2, "Holder", 0, "is set for a vacant Title", "made 0", true, "Partner"},
     {"belt.dat", 2, "Partner", 0, "has no partner", "vacated", false, "Holder"},
     {"belt.dat", 1, "Holder", 6, "does not work for the Title's promotion", "vacated"},
     {"belt.dat", 1, "Owner", -1, "does not work for the Title's promotion", "vacated", false,

@@ -26,7 +26,7 @@ TEST(PowerCuts, LeaveACommittedWorldAtEveryMoment) {
     });
     ASSERT_FALSE(HasFailure());
   }
-  EXPECT_GE(cuts, 7000);
+  EXPECT_GE(cuts, 6600);
 }
 
 /// Opens the slot on a disk that is recorded meanwhile, and cuts that short too.
@@ -176,7 +176,7 @@ BadCuts BadCutsAfterFailedSyncs(JournalQuirks quirks) {
 
 TEST(AFailedSync, IsNeverRetried) {
   const BadCuts right = BadCutsAfterFailedSyncs({});
-  EXPECT_GT(right.Cuts, 4000);
+  EXPECT_GT(right.Cuts, 3000);
   ExpectBad(right, BadCutsAfterFailedSyncs({.RetrySync = true}), "a second try");
 }
 

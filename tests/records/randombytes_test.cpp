@@ -4,7 +4,6 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
-#include "records/tables/worldtables.h"
 #include "soundworld.h"
 #include "support/randomworld.h"
 
@@ -93,7 +92,12 @@ std::size_t LookAtEverything(World& world) {
   for (const Worker& worker : world.Workers())
     length += ContractLine(worker).size() + StatusLine(worker).size() +
               PairName(world, worker.Uid, worker.Manager).size();
-  for (const auto& [table, text] : ExportWorld(world)) length += text.size();
+  world.ForEachFile([&]<class T>(const Records<T>& records) {
+    for (const T& record : records)
+      for (const Field& field : LayoutOf<T>().Fields)
+        length +=
+            FieldShown(field, reinterpret_cast<const std::byte*>(&record), field.Count - 1).size();
+  });
   return length;
 }
 
