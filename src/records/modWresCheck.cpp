@@ -48,9 +48,9 @@ int NextUid(const World& world, const Records<T>& records, Refers to) {
 
 template <class T>
 const T* FindNamed(const Records<T>& records, std::string_view name) {
-  const auto found =
-      std::find_if(records.begin(), records.end(), [&](auto& r) { return r.Name == name; });
-  return found == records.end() ? nullptr : &*found;
+  for (const T& record : records)
+    if (record.Name == name) return &record;
+  return nullptr;
 }
 
 template <class T>
@@ -69,11 +69,6 @@ constexpr Term kFinisherTexts[] = {{static_cast<int>(FinisherType::Impact), "", 
 
 std::string_view KnownOr(std::string_view text) {
   return text.empty() ? "Unknown" : text;
-}
-
-std::string_view StoredOf(Vocabulary words, std::string_view text) {
-  const Term* term = FindTerm(words, text);
-  return term ? term->Stored : std::string_view();
 }
 
 }  // namespace
@@ -166,22 +161,16 @@ std::string_view PositionText(int position) {
   return KnownOr(Says(kPositions, position));
 }
 
-int PositionCode(std::string_view text) {
-  const Term* term = FindTerm(kPositions, text);
-  return term ? term->Code : 0;
-}
-
 std::string_view DispositionText(std::string_view code) {
   return KnownOr(Says(kDispositions, code));
 }
 std::string_view DispositionCode(std::string_view text) {
-  return StoredOf(kDispositions, text);
+  for (const Term& term : kDispositions)
+    if (term.Says == text) return term.Stored;
+  return {};
 }
 std::string_view ContractText(std::string_view code) {
   return KnownOr(Says(kContracts, code));
-}
-std::string_view ContractCode(std::string_view text) {
-  return StoredOf(kContracts, text);
 }
 
 std::string ContractLine(const Worker& worker) {

@@ -42,16 +42,13 @@ const Title* FindTitle(const World& world, std::string_view name);
 /// The promotion's Owner on the staff; nullptr for a promotion without one.
 const Staff* OwnerOf(const World& world, int promotionUid);
 
-/// "Main Event" and so on; "Unknown" for a code without a text. PositionCode gives 0 for an unknown
-/// text.
+/// "Main Event" and so on; "Unknown" for a code without a text.
 std::string_view PositionText(int position);
-int PositionCode(std::string_view text);
 /// "Face", "Heel", "Tweener", "Unknown"; the code is "F", "H", "T", empty for an unknown text.
 std::string_view DispositionText(std::string_view code);
 std::string_view DispositionCode(std::string_view text);
-/// "Written", "None", "Unknown"; the code is "Wri" or "Non", empty for an unknown text.
+/// "Written", "None", "Unknown".
 std::string_view ContractText(std::string_view code);
-std::string_view ContractCode(std::string_view text);
 /// "Written contract for 12 months, at $40,000 per month", as the roster shows it.
 std::string ContractLine(const Worker& worker);
 /// "Available", "Broken Leg, out for 3 months" and so on.

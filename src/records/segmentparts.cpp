@@ -8,17 +8,9 @@ namespace grapplemont {
 
 namespace {
 
-std::vector<int> Places(const Segment& segment, int first, int last) {
-  std::vector<int> people;
-  for (int place = first; place <= last; ++place)
-    if (const int uid = segment.Worker[static_cast<std::size_t>(place - 1)]) people.push_back(uid);
-  return people;
-}
-
 std::vector<int> Present(std::initializer_list<int> uids) {
-  std::vector<int> people;
-  for (const int uid : uids)
-    if (uid != 0) people.push_back(uid);
+  std::vector<int> people(uids);
+  std::erase(people, 0);
   return people;
 }
 
@@ -106,20 +98,19 @@ std::vector<int> PeopleOf(const Segment& segment, Part part) {
     case Part::Worker3:
     case Part::Worker4: {
       const int place = 1 + static_cast<int>(part) - static_cast<int>(Part::Worker1);
-      return Places(segment, place, place);
+      return Present({UidAt(segment, place)});
     }
     case Part::FirstTeam:
-      return Places(segment, 1, 2);
+      return Present({UidAt(segment, 1), UidAt(segment, 2)});
     case Part::SecondTeam:
-      return Places(segment, 3, 4);
+      return Present({UidAt(segment, 3), UidAt(segment, 4)});
     case Part::Other1:
-      return Present({segment.Other1});
     case Part::Other2:
-      return Present({segment.Other2});
     case Part::Other3:
-      return Present({segment.Other3});
-    case Part::Other4:
-      return Present({segment.Other4});
+    case Part::Other4: {
+      const int others[] = {segment.Other1, segment.Other2, segment.Other3, segment.Other4};
+      return Present({others[static_cast<int>(part) - static_cast<int>(Part::Other1)]});
+    }
     case Part::Others12:
       return Present({segment.Other1, segment.Other2});
     case Part::Others34:

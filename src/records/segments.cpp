@@ -62,9 +62,9 @@ std::string FillHole(const World& world, const Segment& segment, std::string_vie
 }
 
 const Phrase* FindPhrase(Phrases phrases, int code) {
-  const auto found = std::find_if(phrases.begin(), phrases.end(),
-                                  [&](auto& phrase) { return phrase.Code == code; });
-  return found == phrases.end() ? nullptr : &*found;
+  for (const Phrase& phrase : phrases)
+    if (phrase.Code == code) return &phrase;
+  return nullptr;
 }
 
 std::string DescribeTwoSides(const World& world, const Segment& segment) {
@@ -156,10 +156,9 @@ Segment EmptySegment() {
 }
 
 const MatchTypeRow* FindMatchType(int style, int type) {
-  const auto found = std::find_if(std::begin(kMatchTypes), std::end(kMatchTypes), [&](auto& row) {
-    return row.Style == style && row.Code == type;
-  });
-  return found == std::end(kMatchTypes) ? nullptr : &*found;
+  for (const MatchTypeRow& row : kMatchTypes)
+    if (row.Style == style && row.Code == type) return &row;
+  return nullptr;
 }
 
 std::string_view MatchTypeText(int style, int type) {

@@ -1,5 +1,6 @@
 #include "records/severing.h"
 
+#include <algorithm>
 #include <array>
 
 #include "records/fields/fields.h"
@@ -30,12 +31,18 @@ int LossOf(const Title& title, TitleLoss loss) {
 /// The job offer among the incidents names a promotion.
 constexpr int kJobOfferIncident = 6;
 
+/// Nobody stands where he stood.
+template <class Places>
+void LeavePlaces(Places& places, int uid) {
+  std::replace_if(
+      places.begin(), places.end(), [=](const Word& place) { return place == uid; }, Word());
+}
+
 /// What is booked with him is booked no more. A place that the style does not look at may still
 /// name him.
 void LeaveSegment(Segment& segment, int workerUid) {
   if (TakesPart(segment, workerUid)) segment = EmptySegment();
-  for (Word& place : segment.Worker)
-    if (place == workerUid) place = 0;
+  LeavePlaces(segment.Worker, workerUid);
 }
 
 void EmptyChair(Show& show, int uid, bool isWorker) {
@@ -76,10 +83,8 @@ namespace {
 void ForgetInThePast(World& world, int uid) {
   const auto clear = [uid](auto&... places) { ((places = places == uid ? 0 : int(places)), ...); };
   for (HeldMatch& bout : world.Bouts()) {
-    for (Word& place : bout.Worker)
-      if (place == uid) place = 0;
-    for (Word& place : bout.Feud)
-      if (place == uid) place = 0;
+    LeavePlaces(bout.Worker, uid);
+    LeavePlaces(bout.Feud, uid);
   }
   for (MatchTally& tally : world.Tallies()) clear(tally.Worker);
   for (TitleReign& reign : world.Reigns()) clear(reign.Worker, reign.Partner);
@@ -103,13 +108,10 @@ int PositionFromOver(int over) {
 
 void LeaveFeuds(World& world, int workerUid) {
   for (Feud& feud : world.Feuds()) {
-    if (feud.Worker1 != workerUid && feud.Worker2 != workerUid && feud.Worker3 != workerUid &&
-        feud.Worker4 != workerUid)
-      continue;
-    feud.Worker1 = 0;
-    feud.Worker2 = 0;
-    feud.Worker3 = 0;
-    feud.Worker4 = 0;
+    Word* const parties[] = {&feud.Worker1, &feud.Worker2, &feud.Worker3, &feud.Worker4};
+    if (std::any_of(std::begin(parties), std::end(parties),
+                    [=](const Word* party) { return *party == workerUid; }))
+      for (Word* party : parties) *party = 0;
   }
 }
 
@@ -181,25 +183,21 @@ void ForgetWorker(World& world, const Worker& worker) {
   for (Segment& segment : world.Segments())
     if (segment.Rating == 0) LeaveSegment(segment, workerUid);
   if (!world.HasGame()) return;
-  for (Word& place : world.Game().Shortlist)
-    if (place == workerUid) place = 0;
+  LeavePlaces(world.Game().Shortlist, workerUid);
   for (Incident& incident : world.Incidents())
     if (incident.Type != kJobOfferIncident && incident.Uid == workerUid) incident = Incident{};
-}
-
-void SeverWorkersAndStaff(World& world, int promotionUid) {
-  for (Worker& worker : world.Workers())
-    if (worker.Employer == promotionUid) SeverWorker(world, worker);
-  for (Staff& staff : world.AllStaff())
-    if (staff.Employer == promotionUid) SeverStaff(world, staff);
 }
 
 namespace {
 
 void EndPromotion(World& world, int uid) {
-  for (Worker& worker : world.Workers())
-    if (worker.Employer == uid) worker.Split = "None";
-  SeverWorkersAndStaff(world, uid);
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer != uid) continue;
+    worker.Split = "None";
+    SeverWorker(world, worker);
+  }
+  for (Staff& staff : world.AllStaff())
+    if (staff.Employer == uid) SeverStaff(world, staff);
   for (Show& show : world.Shows())
     if (show.Owner == uid) show.Name = kToBeDeleted;
   for (Sponsor& sponsor : world.Sponsors()) {
@@ -216,10 +214,6 @@ void EndPromotion(World& world, int uid) {
 }
 
 }  // namespace
-
-void CompactPromotions(World& world) {
-  world.Promotions().Keep([](const Promotion& p) { return !(p.Name == kToBeDeleted); });
-}
 
 bool RemoveShow(World& world, std::string_view name) {
   for (int number = 1; number <= world.Shows().Count(); ++number) {
@@ -238,7 +232,7 @@ void SweepDeadShows(World& world) {
 void SweepDeadPromotions(World& world) {
   for (const Promotion& promotion : world.Promotions())
     if (promotion.Name == kToBeDeleted && promotion.Uid != 0) EndPromotion(world, promotion.Uid);
-  CompactPromotions(world);
+  world.Promotions().Keep([](const Promotion& p) { return !(p.Name == kToBeDeleted); });
 }
 
 }  // namespace grapplemont

@@ -22,8 +22,6 @@ void DismissStaff(World& world, Staff& staff);
 /// incidents of the day and what is booked with him; the past keeps his name alone. Requires that
 /// he has no employer any more.
 void ForgetWorker(World& world, const Worker& worker);
-/// Everybody whom the promotion employs.
-void SeverWorkersAndStaff(World& world, int promotionUid);
 
 /// The roster position 2 to 6 that a worker out of development or camp gets from his Over.
 int PositionFromOver(int over);
@@ -54,8 +52,6 @@ void VacateTitlesOf(World& world, int workerUid, TitleLoss loss = TitleLoss::Twe
 // What removes the records of the gone. A Promotion or Show that has ceased to exist carries "To Be
 // Deleted" as its name until the day's end.
 
-/// Removes every Promotion marked as gone; the numbers of all that follow change.
-void CompactPromotions(World& world);
 /// Removes the first show of that name, and only that one. True if there was one.
 bool RemoveShow(World& world, std::string_view name);
 /// Removes every show marked as gone.

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <set>
 
+#include "records/fields/gameinfo.h"
 #include "records/store/journalfile.h"
 #include "records/store/slot.h"
 #include "records/store/slotfolder.h"
@@ -110,21 +110,32 @@ struct Loss {
   bool IsCut;
 };
 
-std::vector<Loss> EveryLoss(std::int64_t blocks) {
+/// Where something begins or is in its midst: blocks within one record are all alike.
+std::set<std::int64_t> PointsOf(const LongChain& chain) {
+  std::set<std::int64_t> points{0, 1, 2, chain.Blocks};
+  for (const auto& [begin, end] : chain.Places)
+    points.insert({begin, (begin + end) / 2, end, (end + chain.Blocks) / 2});
+  return points;
+}
+
+std::vector<Loss> EveryLoss(const LongChain& chain) {
+  const std::set<std::int64_t> points = PointsOf(chain);
   std::vector<Loss> all;
-  for (std::int64_t begin = 0; begin < blocks; ++begin) {
-    all.push_back({begin, blocks, true});
-    for (std::int64_t end = begin + 1; end <= blocks; ++end) all.push_back({begin, end, false});
+  for (auto begin = points.begin(); *begin < chain.Blocks; ++begin) {
+    all.push_back({*begin, chain.Blocks, true});
+    for (auto end = std::next(begin); end != points.end(); ++end)
+      all.push_back({*begin, *end, false});
   }
   return all;
 }
 
 /// Without the ranges that are neither one block nor all behind it.
-std::vector<Loss> EveryEnd(std::int64_t blocks) {
-  std::vector<Loss> all = EveryLoss(blocks);
-  std::erase_if(all, [&](const Loss& loss) {
-    return !loss.IsCut && loss.End != blocks && loss.End != loss.Begin + 1;
-  });
+std::vector<Loss> EveryEnd(const LongChain& chain) {
+  std::vector<Loss> all;
+  for (std::int64_t begin = 0; begin < chain.Blocks; ++begin)
+    for (const Loss& loss : {Loss{begin, chain.Blocks, true}, Loss{begin, chain.Blocks, false},
+                             Loss{begin, begin + 1, false}})
+      all.push_back(loss);
   return all;
 }
 
@@ -137,21 +148,6 @@ void Lose(Disk& disk, const Loss& loss) {
     disk.WriteAt(journal, at,
                  Bytes(static_cast<std::size_t>((loss.End - loss.Begin) * kJournalBlock)));
   disk.Sync(journal);
-}
-
-Files All(Disk& disk, const std::string& folder) {
-  Files all;
-  for (const std::string& name : disk.List(folder)) all[name] = ReadFile(disk, folder + "/" + name);
-  return all;
-}
-
-/// Byte for byte, and faster than == between vectors.
-bool Same(const Files& a, const Files& b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](auto& one, auto& other) {
-    const auto& [name, bytes] = one;
-    return name == other.first && bytes.size() == other.second.size() &&
-           (bytes.empty() || std::memcmp(bytes.data(), other.second.data(), bytes.size()) == 0);
-  });
 }
 
 /// How a damaged slot was opened.
@@ -174,18 +170,6 @@ Outcome Opened(CutDisk& disk, const SlotOptions& options) {
     take(Damage::Drop);
   }
   return outcome;
-}
-
-/// Whether the slot is in order now, takes a further commit and gives it back.
-bool GoesOn(CutDisk& disk, const Outcome& outcome, const SlotOptions& options) {
-  Files after = outcome.World;
-  after["news.dat"] = BytesOf("On we go.");
-  {
-    Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, options);
-    if (!slot.Remarks().empty() || slot.Files() != outcome.World) return false;
-    slot.Commit(ChangesBetween(outcome.World, after));
-  }
-  return FoundWorld(disk, {after}, 0, 0, options) == 0;
 }
 
 class Judge {
@@ -252,14 +236,15 @@ void Try(const LongChain& chain, const Beside& beside, const std::vector<Loss>& 
   for (const Loss& loss : losses) {
     CutDisk disk = with.Restarted();
     Lose(disk, loss);
-    const Files before = All(disk, kStore);
+    const Files before = FilesIn(disk, kStore);
     const Outcome outcome = Opened(disk, chain.Options);
     std::string fault = judge.Fault(loss, outcome);
     const std::string copy = std::string(kStore) + ".damaged";
     const bool hasCopy = disk.Look(copy) == Disk::Kind::Folder;
     if (fault.empty() && hasCopy != outcome.Told) fault = "a copy without a word, or none";
-    if (fault.empty() && hasCopy && !Same(All(disk, copy), before)) fault = "the copy is another";
-    if (fault.empty() && figures.Cases % 64 == 0 && !GoesOn(disk, outcome, chain.Options))
+    if (fault.empty() && hasCopy && !Same(FilesIn(disk, copy), before))
+      fault = "the copy is another";
+    if (fault.empty() && figures.Cases % 64 == 0 && !GoesOn(disk, outcome.World, chain.Options))
       fault = "it does not go on";
     ++figures.Cases;
     ++(outcome.Asked ? figures.Asked : outcome.Told ? figures.Mended : figures.Silent);
@@ -271,22 +256,16 @@ void Try(const LongChain& chain, const Beside& beside, const std::vector<Loss>& 
   }
 }
 
-void Record(const Figures& figures) {
-  testing::Test::RecordProperty("cases", figures.Cases);
-  testing::Test::RecordProperty("silent", figures.Silent);
-  testing::Test::RecordProperty("mended", figures.Mended);
-  testing::Test::RecordProperty("asked", figures.Asked);
-  testing::Test::RecordProperty("bad", figures.Bad);
+const LongChain& Damaged() {
+  static const LongChain chain = MakeChain(18, 40, 171);
+  return chain;
 }
 
-constexpr int kCommits = 18;
-constexpr std::int64_t kBlocks = 40;
-
 TEST(DamagedJournals, LeaveACommittedWorldOrTellWithACopy) {
-  const LongChain chain = MakeChain(kCommits, kBlocks, 171);
+  const LongChain& chain = Damaged();
   ASSERT_GE(chain.Marked, 2);
   ASSERT_GE(chain.Places.size(), 6u);
-  const std::vector<Loss> every = EveryLoss(kBlocks), ends = EveryEnd(kBlocks);
+  const std::vector<Loss> every = EveryLoss(chain), ends = EveryEnd(chain);
   // Older than the marker, at it, in the middle of the chain and at its end.
   const std::set<int> inFull{chain.Marked - 2, chain.Marked, (chain.Marked + chain.Last()) / 2,
                              chain.Last() - 1, chain.Last()};
@@ -295,29 +274,27 @@ TEST(DamagedJournals, LeaveACommittedWorldOrTellWithACopy) {
     for (const Beside& beside : FilesAt(chain, v))
       Try(chain, beside, inFull.contains(v) ? every : ends, figures);
   for (const Beside& beside : Mixtures(chain, 6)) Try(chain, beside, every, figures);
-  Record(figures);
   EXPECT_EQ(0, figures.Bad) << "of " << figures.Cases << ", first " << figures.First;
-  EXPECT_GT(std::min({figures.Silent, figures.Mended, figures.Asked}), 500);
+  EXPECT_GT(std::min({figures.Silent, figures.Mended, figures.Asked}), 100);
 }
 
 /// The files hold all that the journal has lost.
 TEST(DamagedJournals, AreFoundOutByTheSealAlone) {
-  LongChain chain = MakeChain(kCommits, kBlocks, 171);
+  LongChain chain = Damaged();
   chain.Options.Quirks.TrustTheChain = true;
   Figures figures;
   Try(chain, {chain.Worlds.back(), chain.Last(), chain.Last(), chain.Seals.back(), true},
-      EveryLoss(kBlocks), figures);
-  Record(figures);
-  EXPECT_GT(figures.Bad, 100) << "of " << figures.Cases;
+      EveryLoss(chain), figures);
+  EXPECT_GT(figures.Bad, 30) << "of " << figures.Cases;
 }
 
 /// The power is cut while a damaged slot is mended: the same world is found, and the copy is there.
 TEST(DamagedJournals, AreMendedWholeOrNotAtAll) {
-  const LongChain chain = MakeChain(kCommits, kBlocks, 171);
+  const LongChain& chain = Damaged();
   const LongChain::Place& third = chain.Places[2];
   const auto last = static_cast<std::size_t>(chain.Last());
   const auto marked = static_cast<std::size_t>(chain.Marked);
-  const Loss hole{third.Begin, third.End, false}, cut{third.Begin, kBlocks, true};
+  const Loss hole{third.Begin, third.End, false}, cut{third.Begin, chain.Blocks, true};
   const std::pair<Beside, Loss> kCases[] = {
       {{chain.Worlds[last], chain.Last(), chain.Last(), chain.Seals[last], true}, cut},
       {{chain.Worlds[marked], chain.Marked, chain.Marked, chain.Seals[last], true}, cut},
@@ -328,17 +305,52 @@ TEST(DamagedJournals, AreMendedWholeOrNotAtAll) {
     PutBeside(disk, beside);
     Lose(disk, loss);
     for (const char* folder : {kStore, "."}) disk.SyncFolder(folder);
-    const Files before = All(disk, kStore);
+    const Files before = FilesIn(disk, kStore);
     disk.Record();
     const Files mended = Opened(disk, chain.Options).World;
-    const int cuts = ForEveryCut(disk, 12, 172, [&](CutDisk& after, const Cut& at) {
+    const int cuts = ForEveryCut(disk, 4, 172, [&](CutDisk& after, const Cut& at) {
       ASSERT_EQ(mended, Opened(after, chain.Options).World) << at.Where;
       bool kept = false;
       for (const std::string& name : after.List("."))
-        kept |= name.starts_with("s1.damaged") && All(after, name) == before;
+        kept |= name.starts_with("s1.damaged") && FilesIn(after, name) == before;
       ASSERT_TRUE(kept) << at.Where;
     });
-    EXPECT_GT(cuts, 200);
+    EXPECT_GT(cuts, 60);
+  }
+}
+
+/// A game's own file alone tells whether the files are of a later day than the journal, where their
+/// seal is missing or as old as the journal.
+TEST(ASlotOfAGame, KeepsFilesThatAreLaterThanTheirJournal) {
+  CutDisk disk;
+  const std::vector<KnownFile> known = {{"gameinfo.dat", 4096}};
+  const auto game = [](unsigned day) -> Files {
+    GameInfo info;
+    info.PlayerName = "Pat Lee";
+    info.Today = std::chrono::sys_days(std::chrono::year(2026) / 3 / day);
+    const auto bytes = std::as_bytes(std::span(&info, 1));
+    return {{"gameinfo.dat", Bytes(bytes.begin(), bytes.end())}};
+  };
+  Slot::Create(disk, "s1", NewFiles(game(1)), 7);
+  Files earlier;
+  {
+    Slot slot(disk, "s1", known);
+    for (unsigned day = 1; day < 9; ++day) {
+      if (day == 5)
+        for (const char* name : {"journal", "world.seal"})
+          earlier[name] = ReadFile(disk, std::string("s1/") + name);
+      const Files before = game(day), after = game(day + 1);
+      slot.Commit(
+          {{"gameinfo.dat", true, true, before.at("gameinfo.dat"), after.at("gameinfo.dat")}});
+    }
+  }
+  for (const bool sealed : {false, true}) {
+    CutDisk old = disk.Restarted();
+    WriteFile(old, "s1/journal", earlier.at("journal"));
+    old.Remove("s1/world.seal");
+    if (sealed) WriteFile(old, "s1/world.seal", earlier.at("world.seal"));
+    EXPECT_THROW(Slot(old, "s1", known), SlotDamaged);
+    EXPECT_EQ(Slot(old, "s1", known, Damage::Drop).Files(), game(9));
   }
 }
 

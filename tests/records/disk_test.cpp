@@ -5,12 +5,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <filesystem>
+#include <functional>
 
 #include "support/cutdisk.h"
 #include "support/scratchfolder.h"
 #include "support/storeworld.h"
+#include "support/thrown.h"
 
 namespace grapplemont::test {
 namespace {
@@ -80,6 +81,8 @@ TEST_P(EveryDisk, TellsWhatStandsThere) {
 }
 
 TEST_P(EveryDisk, RenamesSwapsAndRemoves) {
+  Put("a", "a long text to begin with");
+  Put("a.tmp", "what an earlier try left");
   Put("a", "1");
   Put("b", "2");
   disk_->Rename(At("a"), At("b"));
@@ -101,34 +104,17 @@ TEST_P(EveryDisk, RenamesSwapsAndRemoves) {
   EXPECT_EQ(std::vector<std::string>{"new"}, disk_->List(home_));
 }
 
-TEST_P(EveryDisk, ReplacesAFileWhole) {
-  Put("a", "a long text to begin with");
-  Put("a.tmp", "what an earlier try left");
-  Put("a", "short");
-  EXPECT_EQ("short", Get("a"));
-  EXPECT_EQ(std::vector<std::string>{"a"}, disk_->List(home_));
-  Put("empty", "");
-  EXPECT_EQ("", Get("empty"));
-}
-
 TEST_P(EveryDisk, SaysWhatItCouldNotDo) {
-  const auto message = [&](auto action) {
-    try {
-      action();
-    } catch (const DiskError& fault) {
-      return std::string(fault.what());
-    }
-    return std::string("nothing");
-  };
   const std::string missing = At("nobody");
-  EXPECT_TRUE(message([&] {
+  EXPECT_TRUE(ThrownBy<DiskError>([&] {
                 disk_->Open(missing, false);
               }).starts_with("Could not open " + missing + ": No such file"));
   for (const std::string& text :
-       {message([&] { disk_->List(missing); }), message([&] { disk_->Remove(missing); }),
-        message([&] { disk_->Rename(missing, At("b")); }),
-        message([&] { disk_->Open(missing + "/below", true); }),
-        message([&] { disk_->MakeFolder(missing + "/below"); })})
+       {ThrownBy<DiskError>([&] { disk_->List(missing); }),
+        ThrownBy<DiskError>([&] { disk_->Remove(missing); }),
+        ThrownBy<DiskError>([&] { disk_->Rename(missing, At("b")); }),
+        ThrownBy<DiskError>([&] { disk_->Open(missing + "/below", true); }),
+        ThrownBy<DiskError>([&] { disk_->MakeFolder(missing + "/below"); })})
     EXPECT_TRUE(text.find("nobody") != text.npos && text.ends_with("directory.")) << text;
 }
 
@@ -143,32 +129,23 @@ TEST_P(EveryDisk, GivesALockToOneAtATime) {
 
 // What only the machine's own disk has.
 
+/// What another process comes to.
+int StatusOf(const std::function<bool()>& work) {
+  const pid_t child = ::fork();
+  if (child == 0) ::_exit(work() ? 0 : 1);  // as a killed process: nothing is unlocked
+  int status = 1;
+  EXPECT_EQ(child, ::waitpid(child, &status, 0));
+  return status;
+}
+
 TEST(TheMachinesDisk, LocksOutAnotherProgramUntilItIsGone) {
   const ScratchFolder scratch;
   const std::string path = scratch / "s1.lock";
-  int ready[2], leave[2];
-  ASSERT_EQ(0, ::pipe(ready));
-  ASSERT_EQ(0, ::pipe(leave));
-  const pid_t child = ::fork();
-  if (child == 0) {
-    const auto other = RealDisk();
-    const char got = other->Lock(path) ? 'y' : 'n';
-    char end = 0;
-    const bool told = ::write(ready[1], &got, 1) == 1 && ::read(leave[0], &end, 1) == 1;
-    ::_exit(told ? 0 : 1);  // as a killed process: nothing is unlocked
-  }
-  char got = 0;
-  ASSERT_EQ(1, ::read(ready[0], &got, 1));
-  EXPECT_EQ('y', got);
-  const auto disk = RealDisk();
-  EXPECT_FALSE(disk->Lock(path));
-  ASSERT_EQ(1, ::write(leave[1], "x", 1));
-  int status = 0;
-  ASSERT_EQ(child, ::waitpid(child, &status, 0));
-  EXPECT_EQ(0, status);
-  EXPECT_TRUE(disk->Lock(path));
-  EXPECT_FALSE(RealDisk()->Lock(path));
-  for (const int end : {ready[0], ready[1], leave[0], leave[1]}) ::close(end);
+  EXPECT_EQ(0, StatusOf([&] {
+              Disk* other = RealDisk().release();
+              return other->Lock(path) && StatusOf([&] { return !RealDisk()->Lock(path); }) == 0;
+            }));
+  EXPECT_TRUE(RealDisk()->Lock(path));
 }
 
 TEST(TheMachinesDisk, FollowsNoLinksAndOpensPlainFilesOnly) {
@@ -197,25 +174,20 @@ TEST(TheMachinesDisk, ReadsWhatMayOnlyBeRead) {
   WriteFile(*RealDisk(), path, BytesOf("text"));
   ASSERT_EQ(0, ::chmod(path.c_str(), 0444));
   ASSERT_EQ(0, ::chmod(ParentOf(path).c_str(), 0755));
-  const pid_t child = ::fork();
-  if (child == 0) {
-    // Root may write anything, so this is for somebody else.
-    const bool plain = ::geteuid() != 0 || ::setuid(65534) == 0;
-    const auto disk = RealDisk();
-    bool refused = false;
-    try {
-      disk->WriteAt(disk->Open(path, false), 0, BytesOf("x"));
-    } catch (const DiskError&) {
-      refused = true;
-    }
-    ::_exit(plain && refused && ReadFile(*disk, path) == BytesOf("text") ? 0 : 1);
-  }
-  int status = 1;
-  ASSERT_EQ(child, ::waitpid(child, &status, 0));
-  EXPECT_EQ(0, status);
+  EXPECT_EQ(0, StatusOf([&] {
+              // Root may write anything, so this is for somebody else.
+              const bool plain = ::geteuid() != 0 || ::setuid(65534) == 0;
+              const auto disk = RealDisk();
+              const std::string refused = ThrownBy<DiskError>(
+                  [&] { disk->WriteAt(disk->Open(path, false), 0, BytesOf("x")); });
+              return plain && refused != "nothing" && ReadFile(*disk, path) == BytesOf("text");
+            }));
 }
 
 TEST(ADiskError, NamesAPathInTheProgramsOwnLetters) {
+  EXPECT_EQ("a/b", ParentOf("a/b/c"));
+  EXPECT_EQ(".", ParentOf("a"));
+  EXPECT_EQ("/", ParentOf("/a"));
   EXPECT_STREQ("Could not open home/jos\xe9/s1: gone.",
                DiskError("home/jos\xc3\xa9/s1", "open", "gone").what());
   EXPECT_STREQ("Could not open a\xff: gone.", DiskError("a\xff", "open", "gone").what());
@@ -224,66 +196,7 @@ TEST(ADiskError, NamesAPathInTheProgramsOwnLetters) {
   EXPECT_EQ("a", DiskError(fault, "Sorry.").Path());
 }
 
-TEST(AParent, IsTheFolderOfAPath) {
-  EXPECT_EQ("a/b", ParentOf("a/b/c"));
-  EXPECT_EQ(".", ParentOf("a"));
-  EXPECT_EQ("/", ParentOf("/a"));
-}
-
-// The double: what it cuts away and what not.
-
-TEST(ThePowerCutDouble, KeepsWhatWasSyncedAndNothingElseForSure) {
-  CutDisk disk;
-  disk.MakeFolder("s");
-  disk.SyncFolder(".");
-  const OpenedFile file(disk, "s/a", true);
-  disk.WriteAt(file, 0, Bytes(1000, std::byte{'1'}));
-  disk.Sync(file);
-  disk.SyncFolder("s");
-  disk.WriteAt(file, 0, Bytes(1000, std::byte{'2'}));
-  disk.Rename("s/a", "s/b");
-  bool kept = false, landed = false, torn = false, trashed = false, renamed = false, stayed = false;
-  Chance chance(81);
-  for (int i = 0; i < 2000; ++i) {
-    CutDisk after = disk.AfterPowerCut(chance);
-    const bool isNew = after.Look("s/b") == Disk::Kind::File;
-    (isNew ? renamed : stayed) = true;
-    ASSERT_NE(isNew, after.Look("s/a") == Disk::Kind::File);
-    const Bytes bytes = ReadFile(after, isNew ? "s/b" : "s/a");
-    ASSERT_EQ(1000u, bytes.size());
-    const auto count = [&](char letter) {
-      return std::count(bytes.begin(), bytes.end(), static_cast<std::byte>(letter));
-    };
-    kept |= count('1') == 1000;
-    landed |= count('2') == 1000;
-    torn |= count('1') == 512 && count('2') == 488;
-    trashed |= count('1') + count('2') < 600;
-  }
-  EXPECT_TRUE(kept && landed && torn && trashed && renamed && stayed);
-}
-
-TEST(ThePowerCutDouble, ForgetsWhatASyncFailedToWrite) {
-  int kept = 0;
-  for (int seed = 0; seed < 50; ++seed) {
-    CutDisk disk;
-    const OpenedFile file(disk, "a", true);
-    disk.SyncFolder(".");
-    disk.WriteAt(file, 0, Bytes(4096, std::byte{'1'}));
-    disk.Sync(file);
-    for (int i = 0; i < seed; ++i) disk.Look("a");  // another call, another luck
-    disk.WriteAt(file, 0, Bytes(4096, std::byte{'2'}));
-    disk.FailCall(1, Fault::Broken, false);
-    EXPECT_THROW(disk.Sync(file), DiskError);
-    // Every program still sees it, and a second sync is content.
-    EXPECT_EQ(Bytes(4096, std::byte{'2'}), ReadFile(disk, "a"));
-    disk.Sync(file);
-    Chance chance(82);
-    CutDisk after = disk.AfterPowerCut(chance);
-    kept += ReadFile(after, "a") == Bytes(4096, std::byte{'2'});
-  }
-  EXPECT_GT(kept, 0);
-  EXPECT_LT(kept, 40);
-}
+// The double; that it cuts away enough is proven by the faulty protocols of cut_test.cpp.
 
 TEST(ThePowerCutDouble, KnowsItsMomentsAndTheirWorlds) {
   CutDisk disk;

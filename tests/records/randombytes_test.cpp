@@ -4,8 +4,8 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
+#include "soundworld.h"
 #include "support/randomworld.h"
-#include "support/smallworld.h"
 
 // Files from elsewhere may hold anything: any bytes give a world that can be looked at and mended,
 // or a message that names the file.
@@ -15,28 +15,11 @@ namespace {
 
 using test::BytesOf;
 using test::Dice;
-using test::SmallWorld;
 
 using Files = std::map<std::string, Bytes>;
 
 const World& Sample() {
-  static const World world = SmallWorld()
-                                 .Network("Channel Nine")
-                                 .Promotion("CWA", kCult)
-                                 .Owner("Ruth Vane")
-                                 .Staff("Vic Tolliver", kAnnouncer)
-                                 .Crew(6)
-                                 .Team("Pair", "CWA Hand 1", "CWA Hand 2")
-                                 .Stable("The Bench", {"CWA Hand 3"})
-                                 .Title("CWA Crown", "CWA Hand 1")
-                                 .Show("Friday Fire", "Friday", "Channel Nine")
-                                 .Sponsor("Colossal Cola")
-                                 .Event(3)
-                                 .Promotion("NEW", kSmall)
-                                 .Crew(4)
-                                 .Game("CWA")
-                                 .Feud("CWA Hand 1", "CWA Hand 2")
-                                 .Mail("Maeve", "Good morning.");
+  static const World world = test::SoundGame();
   return world;
 }
 
@@ -106,25 +89,15 @@ Files Spoiled(Dice& dice) {
 std::size_t LookAtEverything(World& world) {
   std::size_t length = 0;
   for (const Fault& fault : CheckWorld(world)) length += fault.Line().size();
-  for (const Worker& worker : world.Workers()) {
+  for (const Worker& worker : world.Workers())
     length += ContractLine(worker).size() + StatusLine(worker).size() +
-              PositionText(worker.Position).size() + DispositionText(worker.Disposition).size();
-    length += PromotionInitials(world, worker.Employer).size() +
-              WorkerName(world, worker.Manager).size() +
               PairName(world, worker.Uid, worker.Manager).size();
-  }
-  for (const Show& show : world.Shows()) length += RatingText(show.Rating1).size();
-  for (const Promotion& promotion : world.Promotions())
-    length += Dollars(promotion.Money).size() + SizeText(promotion.Size).size() +
-              DevTerritoryName(world, promotion.Uid).size();
-  for (const Table* table : world.Tables()) {
-    if (!table->Layout()) continue;
-    const auto size = static_cast<std::size_t>(table->Layout()->Size);
-    const ByteSpan bytes = table->Contents();
-    for (std::size_t at = 0; at + size <= bytes.size(); at += size)
-      for (const Field& field : table->Layout()->Fields)
-        length += FieldShown(field, bytes.data() + at, field.Count - 1).size();
-  }
+  world.ForEachFile([&]<class T>(const Records<T>& records) {
+    for (const T& record : records)
+      for (const Field& field : LayoutOf<T>().Fields)
+        length +=
+            FieldShown(field, reinterpret_cast<const std::byte*>(&record), field.Count - 1).size();
+  });
   return length;
 }
 
@@ -146,11 +119,11 @@ bool NamesAFile(const std::string& message) {
 /// How many of the cases gave a world.
 int LoadAndLive(int cases, std::uint64_t seed, Files (*make)(Dice&)) {
   int worlds = 0;
+  World world;
   for (int i = 0; i < cases; ++i) {
     Dice dice(seed + static_cast<std::uint64_t>(i));
     const Files files = make(dice);
     SCOPED_TRACE("seed " + std::to_string(seed + static_cast<std::uint64_t>(i)));
-    World world;
     try {
       world.Load(files);
     } catch (const WorldFault& fault) {
@@ -180,55 +153,38 @@ int LoadAndLive(int cases, std::uint64_t seed, Files (*make)(Dice&)) {
 }
 
 TEST(RandomBytes, OfNoiseGiveAWorldOrAMessage) {
-  const int worlds = LoadAndLive(2500, 1000, Noise);
-  EXPECT_GT(worlds, 500);
-  EXPECT_LT(worlds, 2500);
+  const int worlds = LoadAndLive(1000, 1000, Noise);
+  EXPECT_GT(worlds, 200);
+  EXPECT_LT(worlds, 1000);
 }
 
 TEST(RandomBytes, InAGoodGameGiveAWorldOrAMessage) {
-  const int worlds = LoadAndLive(2500, 9000, Spoiled);
-  EXPECT_GT(worlds, 1500);
+  const int worlds = LoadAndLive(1000, 9000, Spoiled);
+  EXPECT_GT(worlds, 600);
 }
 
 TEST(RandomFields, OfAllKindsAreMendedForGood) {
-  for (std::uint64_t seed = 1; seed <= 300; ++seed) {
+  for (std::uint64_t seed = 1; seed <= 100; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     Dice dice(seed);
     World world = test::RandomData(seed);
-    const auto spoil = [&]<class T>(Records<T>& records) {
+    world.ForEachFile([&]<class T>(Records<T>& records) {
       for (T& record : records)
         for (const Field& field : LayoutOf<T>().Fields)
           if (dice.OneIn(40))
             test::Scramble(dice, field, dice.From(0, field.Count - 1),
                            reinterpret_cast<std::byte*>(&record));
-    };
-    spoil(world.Workers());
-    spoil(world.Promotions());
-    spoil(world.AllStaff());
-    spoil(world.Titles());
-    spoil(world.Shows());
-    spoil(world.Sponsors());
-    spoil(world.Teams());
+    });
     MendWorld(world);
     ASSERT_TRUE(CheckWorld(world).empty()) << CheckWorld(world)[0].Line();
     ASSERT_TRUE(MendWorld(world).empty());
   }
 }
 
-TEST(RandomData, IsSoundAndTheSameForItsSeed) {
-  int workers = 0, champions = 0, shows = 0;
-  for (std::uint64_t seed = 1; seed <= 100; ++seed) {
-    World world = test::RandomData(seed);
-    const auto faults = CheckWorld(world);
-    ASSERT_TRUE(faults.empty()) << seed << ": " << faults[0].Line();
-    workers += world.Workers().Count();
-    shows += world.Shows().Count();
-    for (const Title& title : world.Titles()) champions += title.Holder != 0 ? 1 : 0;
-    if (seed % 10 == 0) test::ExpectSame(test::RandomData(seed), world);
-  }
-  EXPECT_GT(workers, 1000);
-  EXPECT_GT(shows, 100);
-  EXPECT_GT(champions, 10);
+TEST(RandomData, IsTheSameForItsSeedAndFullOfThings) {
+  World world = test::RandomData(7);
+  test::ExpectSame(test::RandomData(7), world);
+  EXPECT_GT(world.Workers().Count() + world.Shows().Count() + world.Titles().Count(), 10);
 }
 
 }  // namespace

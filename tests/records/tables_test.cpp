@@ -2,14 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
-#include <cmath>
-#include <cstring>
-
 #include "records/checks/checkworld.h"
 #include "records/fields/charset.h"
 #include "records/tables/worldreport.h"
-#include "support/checkout.h"
+#include "support/defaultworld.h"
 #include "support/randomworld.h"
 #include "support/smallworld.h"
 
@@ -67,144 +63,101 @@ TEST(Tables, BuildTheWorldTheyTell) {
   const Promotion& cwa = Named(world.Promotions(), "CWA");
   EXPECT_EQ(1, cwa.Uid);
   EXPECT_TRUE(cwa.Active);
-  EXPECT_EQ(kCult, cwa.Size);
-  EXPECT_EQ("Red", cwa.Split[0].View());
   EXPECT_EQ("None", cwa.Split[1].View());
-  EXPECT_EQ("None", cwa.CampName.View());
   EXPECT_EQ(1, cwa.Sponsor[0]);
   EXPECT_EQ(2, cwa.HeadTrainer);
   const Worker& bram = Named(world.Workers(), "Bram Okafor");
-  EXPECT_TRUE(bram.Gender);
   EXPECT_EQ("Wri", bram.ContractType.View());
   EXPECT_EQ("Nor", bram.Status.View());
   EXPECT_EQ(3, bram.Manager);
   EXPECT_EQ(Day(bram.LastTurn), Day(std::chrono::year{2025} / 11 / 3));
   EXPECT_EQ("Non", Named(world.Workers(), "Cal Drift").ContractType.View());
   EXPECT_TRUE(Named(world.Workers(), "Cal Drift").LastTurn.IsNone());
-  const Title& crown = Named(world.Titles(), "CWA Crown");
-  EXPECT_EQ(bram.Uid, crown.Holder);
-  EXPECT_EQ(kNoTitleDate, Day(crown.Reigns[4].Lost));
-  EXPECT_EQ("None", crown.Reigns[0].Holder.View());
-  const Show& show = Named(world.Shows(), "Friday Fire");
-  EXPECT_EQ("P", show.Slot.View());
-  EXPECT_EQ(2, show.Announcer) << "a member of staff";
-  EXPECT_EQ(3, show.Colour) << "a worker";
-  EXPECT_TRUE(world.Events().Exists());
+  EXPECT_EQ(bram.Uid, world.Titles()[1].Holder);
+  EXPECT_EQ(kNoTitleDate, Day(world.Titles()[1].Reigns[4].Lost));
+  EXPECT_EQ(2, world.Shows()[1].Announcer) << "a member of staff";
+  EXPECT_EQ(3, world.Shows()[1].Colour) << "a worker";
   EXPECT_FALSE(world.HasGame());
   EXPECT_TRUE(world.Changes().empty());
 }
 
 struct Slip {
-  std::string_view Table, From, To;
-  std::string Expected;
+  std::string Table, From, To;
+  std::string Expected;  // "TABLE, line " goes in front; empty for no mistake
 };
 
 void ExpectMistakes(const std::vector<Slip>& slips) {
   for (const Slip& slip : slips) {
     Tables tables = SmallTables();
-    Replace(tables.at(std::string(slip.Table)), slip.From, slip.To);
+    Replace(tables.at(slip.Table), slip.From, slip.To);
     const Building building = BuildWorld(tables);
-    EXPECT_EQ(slip.Expected, AllMistakes(building)) << slip.To;
-    EXPECT_EQ(slip.Expected.empty(), building.Made.has_value()) << slip.To;
+    const bool isWrong = !slip.Expected.empty();
+    EXPECT_EQ(isWrong ? slip.Table + ", line " + slip.Expected : "", AllMistakes(building))
+        << slip.To;
+    EXPECT_EQ(!isWrong, building.Made.has_value()) << slip.To;
   }
 }
 
 TEST(Tables, NameEveryWrongCell) {
   ExpectMistakes({
       {"workers.csv", "Heavyweight,CWA", "Heavyweight,CWAA",
-       "workers.csv, line 2, column Employer: no promotion has the initials CWAA; did you mean "
-       "CWA?"},
+       "2, column Employer: no promotion has the initials CWAA; did you mean CWA?"},
       {"workers.csv", "Lou Fay,Red", "lou fay,Red",
-       "workers.csv, line 2, column Manager: no worker has the name lou fay; did you mean Lou "
-       "Fay?"},
+       "2, column Manager: no worker has the name lou fay; did you mean Lou Fay?"},
       {"workers.csv", "Lou Fay,Red", "#9,Red",
-       "workers.csv, line 2, column Manager: there is no worker of the number 9"},
+       "2, column Manager: there is no worker of the number 9"},
       {"workers.csv", "Lou Fay,Red", "#three,Red",
-       "workers.csv, line 2, column Manager: \"#three\" is no record's number; one is written like "
-       "#17"},
+       "2, column Manager: \"#three\" is no record's number; one is written like #17"},
       {"workers.csv", ",Main Event", ",Main Evnt",
-       "workers.csv, line 2, column Position: there is no \"Main Evnt\"; did you mean Main Event?"},
+       "2, column Position: there is no \"Main Evnt\"; did you mean Main Event?"},
       {"workers.csv", "40,Heel", "40,",
-       "workers.csv, line 3, column Disposition: is empty; it needs one of Face, Heel, Tweener"},
-      {"workers.csv", "Opener,40", "Opener,140",
-       "workers.csv, line 3, column Over: is 140, outside 0 to 100"},
-      {"workers.csv", "Opener,40", "Opener,99999999999999999999",
-       "workers.csv, line 3, column Over: \"99999999999999999999\" is no whole number from 0 to "
-       "100"},
-      {"workers.csv", "Opener,40", "Opener,4.5",
-       "workers.csv, line 3, column Over: \"4.5\" is no whole number from 0 to 100"},
-      {"workers.csv", "2025-11-03", "3.11.2025",
-       "workers.csv, line 2, column LastTurn: \"3.11.2025\" is no date; a date is written like "
-       "2026-03-31"},
-      {"workers.csv", "2025-11-03", "2025-02-29",
-       "workers.csv, line 2, column LastTurn: \"2025-02-29\" is no date; a date is written like "
-       "2026-03-31"},
+       "3, column Disposition: is empty; it needs one of Face, Heel, Tweener"},
+      {"workers.csv", "Opener,40", "Opener,140", "3, column Over: is 140, outside 0 to 100"},
       {"workers.csv", "2025-11-03", "2025-11-03+1.5",
-       "workers.csv, line 2, column LastTurn: \"2025-11-03+1.5\" is no date; a date is written "
-       "like "
-       "2026-03-31"},
+       "2, column LastTurn: \"2025-11-03+1.5\" is no date; a date is written like 2026-03-31"},
       {"workers.csv", "Ilya,male", "Ilya the Great,male",
-       "workers.csv, line 3, column ShortName: \"Ilya the Great\" has 14 letters; there is room "
-       "for "
-       "10"},
+       "3, column ShortName: \"Ilya the Great\" has 14 letters; there is room for 10"},
       {"workers.csv", "Ilya,male", "Il\xC5\x82,male",
-       "workers.csv, line 3, column ShortName: has the letter \xC5\x82, which the game cannot "
-       "hold: "
-       "it knows those of Windows-1252"},
+       "3, column ShortName: has the letter \xC5\x82, which the game cannot hold: it knows those "
+       "of Windows-1252"},
       {"workers.csv", "Ilya,male", "Il\xE9,male",
-       "workers.csv, line 3, column ShortName: is not written in UTF-8; save the table as \"CSV "
-       "UTF-8\""},
+       "3, column ShortName: is not written in UTF-8; save the table as \"CSV UTF-8\""},
       {"workers.csv", "Ilya,male", "\"Il\nya\",male",
-       "workers.csv, line 3, column ShortName: has a line break or another control character in "
-       "it"},
+       "3, column ShortName: has a line break or another control character in it"},
       {"workers.csv", "The Bench", "The Benhc",
-       "workers.csv, line 2, column Stable: CWA has no stable of the name The Benhc; did you mean "
-       "The Bench?"},
+       "2, column Stable: CWA has no stable of the name The Benhc; did you mean The Bench?"},
       {"workers.csv", "Fay,Red", "Fay,Rde",
-       "workers.csv, line 2, column Split: CWA has no part of its roster of the name Rde; did you "
-       "mean Red?"},
+       "2, column Split: CWA has no part of its roster of the name Rde; did you mean Red?"},
       {"titles.csv", ",yes,CWA", ",yep,CWA",
-       "titles.csv, line 2, column Singles: there is no \"yep\"; did you mean yes?"},
+       "2, column Singles: there is no \"yep\"; did you mean yes?"},
       {"titles.csv", "CWA,Bram Okafor", "none,", ""},
       {"shows.csv", "Lou Fay,yes", "Lou Fay,no",
-       "shows.csv, line 2, column Colour: no member of staff has the name Lou Fay, but a worker "
-       "has; "
+       "2, column Colour: no member of staff has the name Lou Fay, but a worker has; "
        "ColourIsWorker tells which is meant"},
-      {"shows.csv", "Nine,", "Ten,",
-       "shows.csv, line 2, column Network: no network has the name Ten; the nearest is Nine"},
-      {"events.csv", "CWA,3,", "CWA,13,",
-       "events.csv, line 2, column Month: is 13, outside 1 to 12"},
-      {"events.csv", "CWA,3,", "CWA,,", "events.csv, line 2, column Month: is empty"},
+      {"events.csv", "CWA,3,", "CWA,,", "2, column Month: is empty"},
   });
 }
 
 TEST(Tables, NameWhatIsWrongWithTheirShape) {
   ExpectMistakes({
       {"workers.csv", "Over,", "Ovre,",
-       "workers.csv, line 1, column Ovre: there is no such column; did you mean Over?"},
-      {"workers.csv", "Over,", "Age,", "workers.csv, line 1, column Age: stands there twice"},
-      {"workers.csv", "Over,", ",", "workers.csv, line 1: column 9 has no name"},
+       "1, column Ovre: there is no such column; did you mean Over?"},
+      {"workers.csv", "Over,", "Age,", "1, column Age: stands there twice"},
+      {"workers.csv", "Over,", ",", "1: column 9 has no name"},
       {"workers.csv", "Disposition,", "#mood,",
-       "workers.csv, line 1, column Disposition: is missing; it has no default"},
-      {"teams.csv", "The Tide,", "The Tide,,",
-       "teams.csv, line 2: has 4 cells where the header has 3"},
-      {"teams.csv", ",Ilya Marsh", "", "teams.csv, line 2: has 2 cells where the header has 3"},
-      {"teams.csv", "The Tide", "\"The Tide",
-       "teams.csv, line 2: has a quotation mark that is never closed"},
+       "1, column Disposition: is missing; it has no default"},
+      {"teams.csv", "The Tide,", "The Tide,,", "2: has 4 cells where the header has 3"},
+      {"teams.csv", "The Tide", "\"The Tide", "2: has a quotation mark that is never closed"},
       {"teams.csv", "Name,Worker1,Worker2\nThe Tide,Bram Okafor,Ilya Marsh\n", "",
-       "teams.csv, line 1: is missing; the first line of a table names its columns"},
+       "1: is missing; the first line of a table names its columns"},
       {"teams.csv", "Name,Worker1,Worker2", "Name;Worker1;Worker2",
-       "teams.csv, line 1: has semicolons between its cells; save the table with commas"},
+       "1: has semicolons between its cells; save the table with commas"},
       {"workers.csv", "Cal Drift", "Bram Okafor",
-       "workers.csv, line 5, column Name: \"Bram Okafor\" stands on line 2 already"},
-      {"promotions.csv", "Wrestling,NEW", "Wrestling,CWA",
-       "promotions.csv, line 3, column Initials: \"CWA\" stands on line 2 already"},
+       "5, column Name: \"Bram Okafor\" stands on line 2 already"},
       {"networks.csv", "Name,PrimeAudience\nNine,400",
        "Uid,Name,PrimeAudience\n4,Eight,9\n4,Nine,9",
-       "networks.csv, line 3, column Uid: \"4\" stands on line 2 already"},
-      {"networks.csv", "Name,PrimeAudience\nNine,400", "Uid,Name,PrimeAudience\n0,Nine,9",
-       "networks.csv, line 2, column Uid: is 0, outside 1 to 32767"},
-      {"networks.csv", "Nine,400", ",400\nNine,1", "networks.csv, line 2, column Name: is empty"},
+       "3, column Uid: \"4\" stands on line 2 already"},
+      {"networks.csv", "Nine,400", ",400\nNine,1", "2, column Name: is empty"},
   });
   Tables tables = SmallTables();
   tables["worker.csv"] = tables["workers.csv"];
@@ -218,14 +171,14 @@ TEST(Tables, NameWhatIsWrongWithTheirShape) {
 TEST(Tables, AreHeldToTheRulesOfAWorld) {
   ExpectMistakes({
       {"titles.csv", "CWA,Bram Okafor", "CWA,Cal Drift",
-       "titles.csv, line 2, column Holder: CWA Crown does not work for the Title's promotion"},
+       "2, column Holder: CWA Crown does not work for the Title's promotion"},
       {"events.csv", "High Water,CWA,3,Pay-Per-View\n", "\"High\nWater\",,3,Small\n",
-       "events.csv, line 2, column Name: has a line break or another control character in it"},
+       "2, column Name: has a line break or another control character in it"},
       {"events.csv", "High Water,CWA,3,Pay-Per-View\n",
        "High Water,,3,Small\n,,,\n\nHigh Water,,3,Small\n",
-       "events.csv, line 5: High Water is the double of line 2"},
+       "5: High Water is the double of line 2"},
       {"teams.csv", ",Ilya Marsh", ",Bram Okafor",
-       "teams.csv, line 2, column Worker2: The Tide is the other partner himself"},
+       "2, column Worker2: The Tide is the other partner himself"},
   });
 }
 
@@ -315,15 +268,12 @@ void ExpectToComeBack(const World& world) {
   EXPECT_EQ(tables, ExportWorld(*again.Made));
 }
 
-TEST(Tables, OfTheDefaultWorldBuildAndComeBack) {
-  const auto disk = RealDisk();
-  const Building building = BuildWorld(ReadTables(*disk, Checkout("/world")));
-  ASSERT_TRUE(building.Made) << AllMistakes(building);
-  ExpectToComeBack(*building.Made);
+TEST(Tables, OfTheDefaultWorldComeBack) {
+  ExpectToComeBack(DefaultWorld());
 }
 
 TEST(Tables, OfAnyValidWorldComeBack) {
-  for (std::uint64_t seed = 1; seed <= 60; ++seed) {
+  for (std::uint64_t seed = 1; seed <= 20; ++seed) {
     SCOPED_TRACE(seed);
     ExpectToComeBack(RandomData(seed));
   }
@@ -331,8 +281,7 @@ TEST(Tables, OfAnyValidWorldComeBack) {
 
 // Tables come from anywhere: whatever stands in them gives a sound world or a mistake in words.
 TEST(Tables, StandAnyBytes) {
-  constexpr std::string_view kPieces[] = {",",    "\"", "\n",   "#",     "\\",
-                                          "none", "-1", "\xC3", "@1e400"};
+  const std::string kPieces[] = {",", "\"", "\n", "#", "\\", "none", "-1", "\xC3", "@1e400"};
   int made = 0, refused = 0;
   for (std::uint64_t seed = 1; seed <= 400; ++seed) {
     Dice dice(seed);
@@ -342,11 +291,10 @@ TEST(Tables, StandAnyBytes) {
       std::string& text = table->second;
       const auto at = static_cast<std::size_t>(dice.From(0, static_cast<int>(text.size())));
       const auto cut = static_cast<std::size_t>(dice.From(0, 3));
-      const auto piece =
-          static_cast<std::size_t>(dice.From(0, static_cast<int>(std::size(kPieces))));
+      const auto piece = static_cast<std::size_t>(dice.From(0, int(std::size(kPieces))));
       text.replace(at, cut,
                    piece == std::size(kPieces) ? std::string(1, static_cast<char>(dice.Byte()))
-                                               : std::string(kPieces[piece]));
+                                               : kPieces[piece]);
     }
     const Building building = BuildWorld(tables);
     ASSERT_NE(building.Made.has_value(), !building.Mistakes.empty()) << seed;
@@ -433,23 +381,17 @@ TEST(Tables, OfARunningGameComeBack) {
 }
 
 TEST(Tables, OfAnyMailComeBack) {
-  for (std::uint64_t seed = 1; seed <= 10; ++seed) {
-    SCOPED_TRACE(seed);
-    Dice dice(seed);
-    World world = Plain().Game("CWA");
-    for (int i = 0; i < 40; ++i) {
-      Mail mail;
-      mail.Date = ShortDate(world.Today());
-      std::string body;
-      for (int letter = dice.From(0, 250); letter > 0; --letter)
-        body += static_cast<char>(dice.OneIn(9)   ? '\n'
-                                  : dice.OneIn(4) ? ' '
-                                                  : dice.From(0xA0, 0xFF));
-      mail.Body = body;
-      world.News().Append(mail);
-    }
-    ExpectToComeBack(world);
+  Dice dice(1);
+  World world = Plain().Game("CWA");
+  for (int i = 0; i < 400; ++i) {
+    Mail& mail = world.News().Append({});
+    mail.Date = ShortDate(world.Today());
+    std::string body;
+    for (int letter = dice.From(0, 250); letter > 0; --letter)
+      body += static_cast<char>(dice.OneIn(9) ? '\n' : dice.OneIn(4) ? ' ' : dice.From(0xA0, 0xFF));
+    mail.Body = body;
   }
+  ExpectToComeBack(world);
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "records/checks/checkworld.h"
 #include "records/modVar.h"
-#include "records/severing.h"
 #include "records/world.h"
 #include "support/smallworld.h"
+#include "support/thrown.h"
 
 namespace grapplemont {
 
@@ -15,6 +14,7 @@ using test::CopyOf;
 using test::ExpectSame;
 using test::Named;
 using test::SmallWorld;
+using test::ThrownBy;
 
 World Small() {
   return SmallWorld()
@@ -55,9 +55,7 @@ TEST(World, GoesBackToTheLastCommit) {
   const World before = CopyOf(world);
   world.Workers()[1].Name = "Somebody Else";
   world.Workers().Append(world.Workers()[2]);
-  world.Promotions()[2].Name = kToBeDeleted;
-  SweepDeadPromotions(world);
-  world.Game().Today = world.Today() + std::chrono::days{1};
+  world.Promotions().Erase(2);
   world.Notes().Set("Scribbled over");
   world.GameInfos().Remove();
   world.Incidents().Append({});
@@ -66,7 +64,7 @@ TEST(World, GoesBackToTheLastCommit) {
   EXPECT_EQ("", ChangedFiles(world));
 }
 
-TEST(World, LoadsExactlyTheFilesItIsGiven) {
+TEST(World, LoadsAndListsExactlyTheFilesItIsGiven) {
   World world = Small();
   auto files = BytesOf(world);
   files.erase("wrestler.dat");
@@ -77,6 +75,9 @@ TEST(World, LoadsExactlyTheFilesItIsGiven) {
   EXPECT_FALSE(world.Workers().Exists());
   EXPECT_TRUE(world.Notes().Exists());
   EXPECT_EQ(files, BytesOf(world));
+  std::map<std::string, Bytes> listed;
+  for (const NewFile& file : FilesOf(world)) listed[file.Name] = file.Contents;
+  EXPECT_EQ(files, listed);
 }
 
 TEST(World, LooksUpByUid) {
@@ -85,12 +86,7 @@ TEST(World, LooksUpByUid) {
   EXPECT_EQ("NEW", world.FindPromotion(2)->Initials.View());
   for (const int uid : {0, -1, 4, 32767, 32768, -32768, 2147483647, -2147483647})
     EXPECT_EQ(nullptr, world.FindWorker(uid)) << uid;
-  const World empty;
-  EXPECT_EQ(nullptr, empty.FindWorker(1));
-  EXPECT_EQ(nullptr, empty.FindPromotion(1));
-  EXPECT_EQ(nullptr, empty.FindStaff(1));
-  EXPECT_EQ(nullptr, empty.FindNetwork(1));
-  EXPECT_EQ(nullptr, empty.FindSponsor(1));
+  EXPECT_EQ(nullptr, World().FindSponsor(1));
 }
 
 TEST(World, FindsRecordsWhereverTheyHaveGone) {
@@ -140,26 +136,17 @@ TEST(World, AFolderLoadedAnewIsLookedUpAnew) {
   EXPECT_EQ(&world.Workers()[1], world.FindWorker(4));
 }
 
-TEST(World, AFolderWithoutAGameSaysSo) {
-  World world = SmallWorld().Promotion("CWA");
-  EXPECT_FALSE(world.HasGame());
-  EXPECT_EQ(0, world.PlayerUid());
-  EXPECT_THROW(world.Game(), WorldFault);
-  EXPECT_THROW(world.Player(), WorldFault);
-  EXPECT_THROW(world.Today(), WorldFault);
-}
-
-TEST(World, AGameWithoutItsPromotionNamesTheField) {
+TEST(World, SaysWhatIsMissingInAFolderWithoutAGameOrItsPromotion) {
   World world = Small();
   world.Game().PlayerPromotion = 77;
-  try {
-    world.Player();
-    FAIL();
-  } catch (const WorldFault& fault) {
-    EXPECT_NE(std::string::npos, std::string(fault.what())
-                                     .find("gameinfo.dat, record 1, PlayerPromotion: promos.dat "
-                                           "has no promotion 77"));
-  }
+  EXPECT_EQ(
+      "gameinfo.dat, record 1, PlayerPromotion: promos.dat has no promotion 77. Put back the files "
+      "of this game, or start a new one.",
+      ThrownBy<WorldFault>([&] { world.Player(); }));
+  world.GameInfos().Remove();
+  EXPECT_EQ(0, world.PlayerUid());
+  EXPECT_EQ("This folder has no gameinfo.dat: no game is played in it.",
+            ThrownBy<WorldFault>([&] { world.Today(); }));
 }
 
 TEST(World, ExplainsAnOverflowByRecordAndField) {
@@ -194,12 +181,8 @@ TEST(FirstDifference, NamesRecordAndField) {
       {"", [](World&) {}},
       {"wrestler.dat, record 2, Ilya Marsh, Morale: was 80, is 61",
        [](World& w) { w.Workers()[2].Morale = 61; }},
-      {"wrestler.dat, record 1, Bram Okafor, Status: was Normal, is Injured",
-       [](World& w) { w.Workers()[1].Status = "Inj"; }},
       {"wrestler.dat, record 1, Bram Okafor, Employer: was CWA, is ",
        [](World& w) { w.Workers()[1].Employer = 0; }},
-      {"gameinfo.dat, record 1, Today: was 2026-03-01, is 2026-03-02",
-       [](World& w) { w.Game().Today = w.Today() + std::chrono::days{1}; }},
       {"wrestler.dat, record 3, Cal Drift: was there, is missing",
        [](World& w) { w.Workers().Erase(3); }},
       {"news.dat: was missing, is there", [](World& w) { w.News().Append({}); }},
@@ -211,21 +194,6 @@ TEST(FirstDifference, NamesRecordAndField) {
     row.Change(world);
     EXPECT_EQ(row.Says, FirstDifference(world, expected));
   }
-}
-
-TEST(World, KnowsItsFilesAndHowLongEachMayBe) {
-  const auto known = KnownFiles();
-  ASSERT_EQ(25u, known.size());
-  for (std::size_t i = 0; i < kDataSet.size(); ++i) EXPECT_EQ(kDataSet[i], known[i].Name);
-  EXPECT_EQ("wrestler.dat", known[9].Name);
-  EXPECT_EQ(25000 * 237 + 236, known[9].MaxBytes);
-}
-
-TEST(World, ListsItsFilesWhole) {
-  const World world = Small();
-  std::map<std::string, Bytes> files;
-  for (const NewFile& file : FilesOf(world)) files[file.Name] = file.Contents;
-  EXPECT_EQ(BytesOf(world), files);
 }
 
 TEST(Headroom, IsRemarkedOnFromNineTenthsOn) {
@@ -243,45 +211,148 @@ TEST(Headroom, IsRemarkedOnFromNineTenthsOn) {
             NearlyFullFiles(world));
 }
 
-}  // namespace
-}  // namespace grapplemont
+// The tables that a world is made of.
 
-namespace grapplemont::test {
-namespace {
+Bytes AsBytes(std::string_view text) {
+  const auto bytes = std::as_bytes(std::span(text));
+  return {bytes.begin(), bytes.end()};
+}
 
-TEST(SmallWorld, ToldInAFewLinesStandsAsTold) {
-  World world = SmallWorld()
-                    .Network("Channel Nine")
-                    .Promotion("CWA", kCult)
-                    .Owner("Ruth Vane")
-                    .Staff("Vic Tolliver", kAnnouncer, 70)
-                    .Worker("Bram Okafor", kMainEvent, 88)
-                    .Worker("Ilya Marsh", [](Worker& w) { w.Disposition = "H"; })
-                    .Team("Law and Order", "Bram Okafor", "Ilya Marsh")
-                    .Stable("The Bench", {"Bram Okafor", "Ilya Marsh"})
-                    .Title("CWA Crown", "Bram Okafor")
-                    .Title("CWA Pairs", "Bram Okafor", "Ilya Marsh")
-                    .Show("Friday Fire", "Friday", "Channel Nine")
-                    .Sponsor("Colossal Cola")
-                    .Event(3)
-                    .Promotion("NEW", kSmall)
-                    .Crew(12)
-                    .OnTheMarket()
-                    .Worker("Cal Drift")
-                    .Game("CWA")
-                    .Feud("Bram Okafor", "Ilya Marsh")
-                    .Mail("Maeve", "Good morning.");
-  EXPECT_TRUE(CheckWorld(world).empty());
-  EXPECT_TRUE(world.Changes().empty());
-  EXPECT_EQ(15, world.Workers().Count());
-  EXPECT_EQ("CWA", world.Player().Initials.View());
-  EXPECT_EQ(world.PlayerUid(), Named(world.Workers(), "Bram Okafor").Employer);
-  EXPECT_EQ(0, Named(world.Workers(), "Cal Drift").Employer);
-  EXPECT_EQ("Law and Order", Named(world.Titles(), "CWA Pairs").Reigns[0].Holder.View());
-  EXPECT_EQ(8, world.Feuds().Count());
-  EXPECT_EQ("01/03/26", world.News()[1].Date.View());
-  ExpectSame(CopyOf(world), world);
+std::string AsText(ByteSpan bytes) {
+  return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+Stable StableNamed(std::string_view name) {
+  Stable stable;
+  stable.Name = name;
+  return stable;
+}
+
+/// A file of stables and its records as text.
+std::string FileOf(std::initializer_list<std::string_view> names) {
+  std::string file;
+  for (const std::string_view name : names) {
+    const Stable stable = StableNamed(name);
+    file.append(reinterpret_cast<const char*>(&stable), sizeof stable);
+  }
+  return file;
+}
+
+std::string Names(const Records<Stable>& stables) {
+  std::string names;
+  for (const Stable& stable : stables) names += (names.empty() ? "" : ",") + stable.Name.Str();
+  return names;
+}
+
+TEST(Records, CountWholeRecordsAndKeepTheRestUntilAnAppend) {
+  const std::string whole = FileOf({"One", "Two"});
+  for (const std::size_t surplus : {0u, 1u, 26u}) {
+    const std::string file = whole + FileOf({"Lost"}).substr(0, surplus);
+    Records<Stable> stables;
+    stables.Load(AsBytes(file));
+    stables.MarkCommitted();
+    EXPECT_EQ(2, stables.Count());
+    EXPECT_EQ(file, AsText(stables.Contents())) << surplus;
+    EXPECT_FALSE(stables.Changed());
+    stables[2].Name = "Too";
+    EXPECT_EQ(FileOf({"One", "Too"}) + file.substr(whole.size()), AsText(stables.Contents()));
+    stables.Append(StableNamed("Three"));
+    EXPECT_EQ(FileOf({"One", "Too", "Three"}), AsText(stables.Contents()));
+    stables.Rollback();
+    EXPECT_EQ(file, AsText(stables.Contents()));
+  }
+}
+
+TEST(Records, AFileShorterThanARecordIsEmptyButThere) {
+  Records<Stable> stables;
+  EXPECT_FALSE(stables.Exists());
+  for (const std::string file : {"", "short"}) {
+    stables.Load(AsBytes(file));
+    EXPECT_TRUE(stables.Exists());
+    EXPECT_EQ(0, stables.Count());
+    EXPECT_EQ(file, AsText(stables.Contents()));
+  }
+}
+
+TEST(Records, NumberFromOneAndTakeNoMoreThanTheirLimit) {
+  Records<Feud> feuds;
+  for (int i = 0; i < kFeuds; ++i) feuds.Append({}).Heat = i;
+  EXPECT_TRUE(feuds.Full());
+  EXPECT_EQ("feudinfo.dat is full: it holds its most of 8 records.",
+            ThrownBy<TableFull>([&] { feuds.Append({}); }));
+  EXPECT_EQ(kFeuds, feuds.Count());
+  EXPECT_EQ(0, feuds[1].Heat);
+  EXPECT_EQ(2, feuds.NumberOf(feuds[2]));
+  for (const int number : {0, 9, -1, 32767}) EXPECT_THROW(feuds[number], std::out_of_range);
+  EXPECT_THROW(feuds.Erase(9), std::out_of_range);
+  const Bytes atTheLimit(8 * sizeof(Feud) + sizeof(Feud) - 1);
+  feuds.Load(atTheLimit);
+  EXPECT_EQ(8, feuds.Count());
+  EXPECT_EQ(feuds.MaxBytes(), static_cast<std::int64_t>(atTheLimit.size()));
+  EXPECT_EQ("feudinfo.dat holds 9 records, more than its most of 8. Put back a file of this game.",
+            ThrownBy<WorldFault>([&] { feuds.Load(Bytes(9 * sizeof(Feud))); }));
+}
+
+TEST(Records, ReferencesStayGoodWhileRecordsAreAppended) {
+  Records<Staff> all;
+  Staff& first = all.Append({});
+  first.Name = "Ruth Vane";
+  const Staff* place = &first;
+  while (!all.Full()) all.Append(first);
+  EXPECT_EQ(10000, all.Count());
+  EXPECT_EQ(place, &all[1]);
+  EXPECT_EQ("Ruth Vane", all[10000].Name.View());
+}
+
+TEST(Records, CompactionKeepsTheOrderOfWhatStays) {
+  Records<Stable> stables;
+  stables.Load(AsBytes(FileOf({"A", "x", "B", "x", "x", "C"}) + "tail"));
+  stables.Keep([](const Stable&) { return true; });
+  EXPECT_EQ("A,x,B,x,x,C", Names(stables));
+  EXPECT_EQ("tail", AsText(stables.Contents()).substr(6 * sizeof(Stable)));
+  stables.Keep([](const Stable& stable) { return !(stable.Name == "x"); });
+  EXPECT_EQ(FileOf({"A", "B", "C"}), AsText(stables.Contents()));
+  stables.Erase(2);
+  EXPECT_EQ("A,C", Names(stables));
+  stables.Keep([](const Stable&) { return false; });
+  EXPECT_TRUE(stables.Exists());
+  EXPECT_EQ(0, stables.Count());
+}
+
+TEST(Records, KnowWhatHasChangedSinceTheCommit) {
+  Records<Stable> stables;
+  stables.Rewrite({});
+  EXPECT_TRUE(stables.Changed()) << "an empty file is not none";
+  stables.Rewrite({StableNamed("One")});
+  stables.MarkCommitted();
+  stables[1].Owner = 7;
+  EXPECT_TRUE(stables.Changed());
+  stables[1].Owner = 0;
+  EXPECT_FALSE(stables.Changed());
+  stables.Append(StableNamed("Two"));
+  EXPECT_TRUE(stables.Changed());
+  stables.Remove();
+  EXPECT_TRUE(stables.Changed());
+  stables.Rollback();
+  EXPECT_EQ("One", Names(stables));
+}
+
+TEST(TextFile, HoldsItsTextToTheLetterAndIsCutAtItsMost) {
+  TextFile notes("notes.dat");
+  notes.Set("Notepad");
+  notes.MarkCommitted();
+  notes.Set("Sign Bram.\r\nTape!\xE9");
+  EXPECT_TRUE(notes.Changed());
+  notes.Rollback();
+  EXPECT_EQ("Notepad", AsText(notes.Contents()));
+  notes.Load({});
+  EXPECT_TRUE(notes.Exists());
+  EXPECT_EQ("", notes.Text());
+  const auto most = static_cast<std::size_t>(notes.MaxBytes());
+  notes.Set(std::string(most + 5, 'a'));
+  EXPECT_EQ(most, notes.Text().size());
+  EXPECT_THROW(notes.Load(Bytes(most + 1)), WorldFault);
 }
 
 }  // namespace
-}  // namespace grapplemont::test
+}  // namespace grapplemont

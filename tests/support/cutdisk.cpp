@@ -33,15 +33,14 @@ void CutDisk::FailCall(int n, Fault fault, bool forGood) {
   failAt_ = calls_ + n;
   fault_ = fault;
   failForGood_ = forGood;
-  hasFailed_ = false;
+  failedAt_ = -1;
 }
 
 bool CutDisk::Counts(Need need) {
   ++calls_;
-  if (dieAt_ > 0 && calls_ >= dieAt_) throw ProcessDied{};
   if (failAt_ == 0 || calls_ < failAt_ || (calls_ > failAt_ && !failForGood_)) return false;
   if (fault_ == Fault::NoSpace && need == Need::Nothing) return false;
-  hasFailed_ = true;
+  if (failedAt_ < 0) failedAt_ = static_cast<int>(moments_.size());
   return true;
 }
 
@@ -266,10 +265,11 @@ void ForEveryMoment(const CutDisk& disk,
   }
 }
 
-int ForEveryCut(const CutDisk& disk, int each, std::uint64_t seed, const Check& check) {
+int ForEveryCut(const CutDisk& disk, int each, std::uint64_t seed, const Check& check, int from) {
   Chance chance(seed);
   int cuts = 0;
   ForEveryMoment(disk, [&](const DiskState& state, const Cut& cut) {
+    if (cut.Index < from) return;
     for (int i = 0; i < each; ++i, ++cuts) {
       CutDisk after(state.AfterPowerCut(chance));
       check(after, cut);

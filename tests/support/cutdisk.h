@@ -8,7 +8,7 @@
 
 #include "support/diskstate.h"
 
-// A disk in memory that records every call, cuts the power after any of them, fails and dies.
+// A disk in memory that records every call, cuts the power after any of them, and fails.
 //
 // Power cuts: do the work once while the disk records, telling it which worlds may and must be
 // found from then on; then look at every moment of it.
@@ -34,9 +34,6 @@
 
 namespace grapplemont::test {
 
-/// Thrown by every call of a process that has died. No std::exception: nobody may catch and go on.
-struct ProcessDied {};
-
 enum class Fault { NoSpace, Broken };
 
 class CutDisk : public Disk {
@@ -56,13 +53,13 @@ class CutDisk : public Disk {
   /// only calls that may need room, a broken one all that can fail.
   void FailCall(int n, Fault fault, bool forGood);
   /// Whether a call has failed since FailCall.
-  bool HasFailed() const { return hasFailed_; }
+  bool HasFailed() const { return failedAt_ >= 0; }
+  /// After how many recorded calls that was.
+  int FailedAt() const { return failedAt_; }
   /// The disk answers again.
   void Heal() { failAt_ = 0; }
   /// Nearly full: no file can be made longer than this, or there is room for all.
   void HaveRoomFor(std::optional<std::int64_t> bytes) { room_ = bytes; }
-  /// Lets the process die at the n-th call from now on, before anything of it is done.
-  void DieAtCall(int n) { dieAt_ = calls_ + n; }
   /// The same disk under a new process: nothing open, nothing locked.
   CutDisk Restarted() const { return CutDisk(state_); }
   /// The same disk after a power cut.
@@ -120,10 +117,11 @@ class CutDisk : public Disk {
   Handle nextHandle_ = 1;
   bool exchanges_ = true;
   std::string ignoredSyncs_;
-  int calls_ = 0, dieAt_ = 0, failAt_ = 0;
+  int calls_ = 0, failAt_ = 0;
   Fault fault_ = Fault::Broken;
   std::optional<std::int64_t> room_;
-  bool failForGood_ = false, hasFailed_ = false;
+  bool failForGood_ = false;
+  int failedAt_ = -1;
   std::size_t longestRead_ = 0;
   bool recording_ = false;
   DiskState start_;
@@ -145,9 +143,10 @@ struct Cut {
 
 using Check = std::function<void(CutDisk& after, const Cut& cut)>;
 
-/// Cuts the power `each` times after every recorded call (and before the first). Returns how many
-/// cuts that were.
-int ForEveryCut(const CutDisk& disk, int each, std::uint64_t seed, const Check& check);
+/// Cuts the power `each` times after every recorded call (and before the first), or after those
+/// from one on. Returns how many cuts that were.
+int ForEveryCut(const CutDisk& disk, int each, std::uint64_t seed, const Check& check,
+                int from = 0);
 /// `count` power cuts, each at a moment drawn anew.
 int ForSomeCuts(const CutDisk& disk, int count, std::uint64_t seed, const Check& check);
 /// Kills the process after every recorded call.

@@ -1,7 +1,5 @@
 #include "support/gameonworld.h"
 
-#include <filesystem>
-
 #include "program/screens.h"
 #include "records/store/slot.h"
 
@@ -10,12 +8,6 @@ namespace grapplemont::test {
 namespace {
 
 constexpr int kSlot = 1;
-
-std::string NewHome() {
-  std::string name = (std::filesystem::temp_directory_path() / "grapplemont-XXXXXX").string();
-  if (!mkdtemp(name.data())) throw std::runtime_error("No temporary folder can be made.");
-  return name;
-}
 
 Game::Options OptionsIn(const std::string& home) {
   Game::Options options;
@@ -28,9 +20,8 @@ Game::Options OptionsIn(const std::string& home) {
 }  // namespace
 
 GameOnWorld::GameOnWorld(grapplemont::World world, std::unique_ptr<Disk> disk)
-    : home_(NewHome()),
-      disk_(disk ? std::move(disk) : RealDisk(Syncs::None)),
-      Play(Desk, *disk_, OptionsIn(home_)) {
+    : disk_(disk ? std::move(disk) : RealDisk(Syncs::None)),
+      Play(Desk, *disk_, OptionsIn(home_.Path())) {
   RegisterScreens(Play);
   Slot::Create(*disk_, Play.SlotFolder(kSlot), grapplemont::FilesOf(world), Play.NewWorldId());
   Play.OpenSlot(kSlot);
@@ -39,8 +30,6 @@ GameOnWorld::GameOnWorld(grapplemont::World world, std::unique_ptr<Disk> disk)
 GameOnWorld::~GameOnWorld() {
   Desk.CloseAll();
   Play.CloseSlot();
-  std::error_code ignored;
-  std::filesystem::remove_all(home_, ignored);
 }
 
 void GameOnWorld::Reopen() {

@@ -5,6 +5,7 @@
 
 #include "records/store/disk.h"
 #include "records/world.h"
+#include "support/scratchfolder.h"
 #include "support/scriptdesk.h"
 #include "support/smallworld.h"
 #include "ui/game.h"
@@ -33,7 +34,7 @@ class GameOnWorld {
   void Reopen();
 
  private:
-  std::string home_;
+  ScratchFolder home_;
   std::unique_ptr<Disk> disk_;
 
  public:

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -15,12 +14,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string MakeHome() {
-  std::string pattern = (fs::temp_directory_path() / "grapplemont-home-XXXXXX").string();
-  if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
-  return pattern;
-}
-
 Game::Options At(const std::string& home) {
   return {home, [] { return Day{std::chrono::year{2026} / 3 / 17}; }, 11};
 }
@@ -28,11 +21,10 @@ Game::Options At(const std::string& home) {
 }  // namespace
 
 HomeFolder::HomeFolder(const World& data)
-    : home_(MakeHome()), disk_(RealDisk(Syncs::None)), Play(Desk, *disk_, At(home_)) {
+    : disk_(RealDisk(Syncs::None)), Play(Desk, *disk_, At(home_.Path())) {
   for (const auto& [name, bytes] : FilesOf(data))
     Write("data/" + name, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
-  for (const char* file : {"belt.dat", "event.dat", "network.dat", "promos.dat", "sponsor.dat",
-                           "stables.dat", "staff.dat", "teams.dat", "tv.dat", "wrestler.dat"})
+  for (const std::string_view file : kDataSet)
     if (!fs::exists(Path("data/" + std::string(file)))) Write("data/" + std::string(file), "");
   for (const char* picture : {"vxm_back.jpg", "vxm_title.jpg", "VXM_load1.jpg"})
     Write("gfx/" + std::string(picture), "picture");
@@ -41,8 +33,6 @@ HomeFolder::HomeFolder(const World& data)
 
 HomeFolder::~HomeFolder() {
   Play.CloseSlot();
-  std::error_code ignored;
-  fs::remove_all(home_, ignored);
 }
 
 void HomeFolder::Write(const std::string& name, std::string_view text) {

@@ -5,6 +5,7 @@
 
 #include "records/store/disk.h"
 #include "records/world.h"
+#include "support/scratchfolder.h"
 #include "support/scriptdesk.h"
 #include "ui/game.h"
 
@@ -19,14 +20,14 @@ class HomeFolder {
   HomeFolder(const HomeFolder&) = delete;
   HomeFolder& operator=(const HomeFolder&) = delete;
 
-  std::string Path(const std::string& name) const { return home_ + "/" + name; }
+  std::string Path(const std::string& name) const { return home_ / name; }
   void Write(const std::string& name, std::string_view text);
   void Remove(const std::string& name);
   /// From the menu to the main screen of a new game in slot 1.
   void StartNewGame(const std::string& player = "Pat Lee");
 
  private:
-  std::string home_;
+  ScratchFolder home_;
   std::unique_ptr<Disk> disk_;
 
  public:

@@ -32,11 +32,6 @@ int NextUid(const Records<T>& records) {
   return highest + 1;
 }
 
-template <class T>
-void Apply(const Change<T>& change, T& record) {
-  if (change) change(record);
-}
-
 std::string_view LastWord(std::string_view name) {
   const auto blank = name.rfind(' ');
   return blank == std::string_view::npos ? name : name.substr(blank + 1);
@@ -52,6 +47,13 @@ std::string HolderText(const World& world, const Title& title) {
 }
 
 }  // namespace
+
+template <class T>
+SmallWorld& SmallWorld::Add(Records<T>& to, T record, const Change<T>& change) {
+  if (change) change(record);
+  to.Append(record);
+  return *this;
+}
 
 SmallWorld& SmallWorld::Promotion(std::string_view initials, int size,
                                   const Change<grapplemont::Promotion>& change) {
@@ -74,9 +76,8 @@ SmallWorld& SmallWorld::Promotion(std::string_view initials, int size,
   for (auto& split : promotion.Split) split = "None";
   promotion.CampName = "None";
   promotion.DevName = "None";
-  Apply(change, promotion);
-  employer_ = promotion.Uid;
-  world_.Promotions().Append(promotion);
+  Add(world_.Promotions(), promotion, change);
+  employer_ = world_.Promotions()[world_.Promotions().Count()].Uid;
   return *this;
 }
 
@@ -119,9 +120,7 @@ grapplemont::Worker SmallWorld::NewWorker(std::string_view name) const {
 
 SmallWorld& SmallWorld::Worker(std::string_view name, const Change<grapplemont::Worker>& change) {
   grapplemont::Worker worker = NewWorker(name);
-  Apply(change, worker);
-  world_.Workers().Append(worker);
-  return *this;
+  return Add(world_.Workers(), worker, change);
 }
 
 SmallWorld& SmallWorld::Worker(std::string_view name, int position, int over,
@@ -130,7 +129,7 @@ SmallWorld& SmallWorld::Worker(std::string_view name, int position, int over,
     worker.Position = position;
     worker.Over = over;
     worker.Potential = std::max(70, over);
-    Apply(change, worker);
+    if (change) change(worker);
   });
 }
 
@@ -170,9 +169,7 @@ SmallWorld& SmallWorld::Staff(std::string_view name, int position, int talent,
                               const Change<grapplemont::Staff>& change) {
   grapplemont::Staff staff = NewStaff(name, position);
   staff.Talent = talent;
-  Apply(change, staff);
-  world_.AllStaff().Append(staff);
-  return *this;
+  return Add(world_.AllStaff(), staff, change);
 }
 
 SmallWorld& SmallWorld::Team(std::string_view name, std::string_view workerA,
@@ -183,9 +180,7 @@ SmallWorld& SmallWorld::Team(std::string_view name, std::string_view workerA,
   team.Worker2 = WorkerUid(workerB);
   team.Finisher = "Double Suplex";
   team.Experience = 50;
-  Apply(change, team);
-  world_.Teams().Append(team);
-  return *this;
+  return Add(world_.Teams(), team, change);
 }
 
 SmallWorld& SmallWorld::Stable(std::string_view name,
@@ -213,9 +208,7 @@ SmallWorld& SmallWorld::Title(std::string_view name, std::string_view holder,
     reign.Lost = kNoTitleDate;
   }
   title.Reigns[0].Holder = HolderText(world_, title);
-  Apply(change, title);
-  world_.Titles().Append(title);
-  return *this;
+  return Add(world_.Titles(), title, change);
 }
 
 SmallWorld& SmallWorld::Network(std::string_view name, const Change<grapplemont::Network>& change) {
@@ -230,9 +223,7 @@ SmallWorld& SmallWorld::Network(std::string_view name, const Change<grapplemont:
        {&network.EarlyRisk, &network.PrimeRisk, &network.LateRisk, &network.GraveRisk})
     *risk = 60;
   network.Production = 10;
-  Apply(change, network);
-  world_.Networks().Append(network);
-  return *this;
+  return Add(world_.Networks(), network, change);
 }
 
 SmallWorld& SmallWorld::Show(std::string_view name, std::string_view day, std::string_view network,
@@ -244,9 +235,7 @@ SmallWorld& SmallWorld::Show(std::string_view name, std::string_view day, std::s
   show.Slot = "P";
   show.Network = Named(world_.Networks(), network).Uid;
   show.ContractWeeks = 24;
-  Apply(change, show);
-  world_.Shows().Append(show);
-  return *this;
+  return Add(world_.Shows(), show, change);
 }
 
 SmallWorld& SmallWorld::Sponsor(std::string_view name, const Change<grapplemont::Sponsor>& change) {
@@ -258,14 +247,10 @@ SmallWorld& SmallWorld::Sponsor(std::string_view name, const Change<grapplemont:
   sponsor.ContractMonths = employer_ == 0 ? 0 : 12;
   sponsor.Morality = 50;
   sponsor.Pay = 100;
-  Apply(change, sponsor);
-  world_.Sponsors().Append(sponsor);
+  Add(world_.Sponsors(), sponsor, change);
   if (grapplemont::Promotion* promotion = Employer()) {
-    for (Word& place : promotion->Sponsor) {
-      if (place != 0) continue;
-      place = sponsor.Uid;
-      break;
-    }
+    const auto free = std::find(promotion->Sponsor.begin(), promotion->Sponsor.end(), Word());
+    if (free != promotion->Sponsor.end()) *free = world_.Sponsors()[world_.Sponsors().Count()].Uid;
   }
   return *this;
 }
@@ -278,8 +263,7 @@ SmallWorld& SmallWorld::Event(int month, int type, std::string_view name) {
   event.Owner = employer_;
   event.Month = month;
   event.Type = type;
-  world_.Events().Append(event);
-  return *this;
+  return Add(world_.Events(), event, {});
 }
 
 SmallWorld& SmallWorld::Game(std::string_view player, Day today, const Change<GameInfo>& change) {
@@ -297,9 +281,7 @@ SmallWorld& SmallWorld::Feud(std::string_view workerA, std::string_view workerB,
   feud.Worker2 = WorkerUid(workerB);
   feud.Heat = 50;
   feud.Started = kGameStart;
-  Apply(change, feud);
-  world_.Feuds().Append(feud);
-  return *this;
+  return Add(world_.Feuds(), feud, change);
 }
 
 SmallWorld& SmallWorld::TagFeud(std::string_view workerA, std::string_view partnerA,
@@ -309,7 +291,7 @@ SmallWorld& SmallWorld::TagFeud(std::string_view workerA, std::string_view partn
     feud.Singles = false;
     feud.Worker3 = WorkerUid(workerB);
     feud.Worker4 = WorkerUid(partnerB);
-    Apply(change, feud);
+    if (change) change(feud);
   });
 }
 
@@ -318,8 +300,7 @@ SmallWorld& SmallWorld::Mail(std::string_view from, std::string_view body) {
   mail.From = from;
   mail.Date = ShortDate(today_);
   mail.Body = body;
-  world_.News().Append(mail);
-  return *this;
+  return Add(world_.News(), mail, {});
 }
 
 World SmallWorld::Build() {
@@ -358,8 +339,7 @@ void SmallWorld::BeginGame() {
   game.Economy = 60;
   game.EconomyRising = true;
   game.Version = kVersion;
-  Apply(gameChange_, game);
-  world_.GameInfos().Append(game);
+  Add(world_.GameInfos(), game, gameChange_);
   world_.Session.StartSize = player.Size;
   for (grapplemont::Promotion& promotion : world_.Promotions())
     if (promotion.Rank[0] == kNoEnd) promotion.Rank[0] = StandingScore(promotion);

@@ -87,6 +87,8 @@ class SmallWorld {
   World BuildUnchecked();
 
  private:
+  template <class T>
+  SmallWorld& Add(Records<T>& to, T record, const Change<T>& change);
   grapplemont::Worker NewWorker(std::string_view name) const;
   grapplemont::Staff NewStaff(std::string_view name, int position) const;
   grapplemont::Promotion* Employer();

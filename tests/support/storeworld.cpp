@@ -1,6 +1,7 @@
 #include "support/storeworld.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace grapplemont::test {
 
@@ -53,6 +54,14 @@ std::vector<KnownFile> StoreFiles() {
   std::vector<KnownFile> known;
   for (const char* name : kNames) known.push_back({name, kLongest});
   return known;
+}
+
+bool Same(const Files& a, const Files& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](auto& one, auto& other) {
+    const auto& [name, bytes] = one;
+    return name == other.first && bytes.size() == other.second.size() &&
+           (bytes.empty() || std::memcmp(bytes.data(), other.second.data(), bytes.size()) == 0);
+  });
 }
 
 Bytes BytesOf(std::string_view text) {
@@ -114,14 +123,31 @@ int FoundWorld(Disk& disk, const std::vector<Files>& worlds, int least, int most
       return -1;
     }
     for (int world = most; world >= least; --world)
-      if (slot.Files() == worlds[static_cast<std::size_t>(world)]) return world;
+      if (Same(slot.Files(), worlds[static_cast<std::size_t>(world)])) return world;
     why = "no world from " + std::to_string(least) + " to " + std::to_string(most);
     for (std::size_t world = 0; world < worlds.size(); ++world)
-      if (slot.Files() == worlds[world]) why += ", but world " + std::to_string(world);
+      if (Same(slot.Files(), worlds[world])) why += ", but world " + std::to_string(world);
   } catch (const std::exception& thrown) {
     why = thrown.what();
   }
   return -1;
+}
+
+bool GoesOn(Disk& disk, const Files& found, const SlotOptions& options) {
+  Files after = found;
+  after["news.dat"] = BytesOf("The show goes on.");
+  {
+    Slot slot(disk, kStore, StoreFiles(), Damage::Refuse, options);
+    if (!slot.Remarks().empty() || !Same(slot.Files(), found)) return false;
+    slot.Commit(ChangesBetween(found, after));
+  }
+  return FoundWorld(disk, {after}, 0, 0, options) == 0;
+}
+
+Files FilesIn(Disk& disk, const std::string& folder) {
+  Files all;
+  for (const std::string& name : disk.List(folder)) all[name] = ReadFile(disk, folder + "/" + name);
+  return all;
 }
 
 Story TellStory(int commits, std::uint64_t seed, JournalQuirks quirks,
@@ -155,14 +181,15 @@ Story TellStory(int commits, std::uint64_t seed, JournalQuirks quirks,
   return story;
 }
 
-BadCuts CountBadCuts(const Story& story, int each, std::uint64_t seed) {
+BadCuts CountBadCuts(const Story& story, int each, std::uint64_t seed, int from) {
   BadCuts found;
-  found.Cuts = ForEveryCut(story.Recorded, each, seed, [&](CutDisk& after, const Cut& cut) {
+  const auto check = [&](CutDisk& after, const Cut& cut) {
     std::string why;
     if (FoundWorld(after, story.Worlds, cut.Least, cut.Most, story.Options, &why) >= 0) return;
     if (found.Bad++ == 0)
       found.First = "after call " + std::to_string(cut.Index) + " (" + cut.Where + "): " + why;
-  });
+  };
+  found.Cuts = ForEveryCut(story.Recorded, each, seed, check, from);
   return found;
 }
 

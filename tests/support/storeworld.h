@@ -19,6 +19,8 @@ std::vector<KnownFile> StoreFiles();
 /// A world and what became of it: each differs from the one before by a few stretches, lengths, new
 /// files and files gone.
 std::vector<Files> RandomWorlds(int count, std::uint64_t seed);
+/// Byte for byte, and faster than == between vectors.
+bool Same(const Files& a, const Files& b);
 std::vector<FileChange> ChangesBetween(const Files& before, const Files& after);
 std::vector<NewFile> NewFiles(const Files& files);
 Bytes BytesOf(std::string_view text);
@@ -35,6 +37,12 @@ SlotOptions SmallJournal(JournalQuirks quirks = {});
 int FoundWorld(Disk& disk, const std::vector<Files>& worlds, int least, int most,
                const SlotOptions& options, std::string* fault = nullptr);
 
+/// Whether a slot that was found with this world is in order, takes a further commit and gives it
+/// back.
+bool GoesOn(Disk& disk, const Files& found, const SlotOptions& options);
+/// Every file of a folder.
+Files FilesIn(Disk& disk, const std::string& folder);
+
 /// A run on a recording disk: a slot with worlds[0], then a commit for each of the others, and a
 /// clean exit.
 struct Story {
@@ -47,12 +55,18 @@ struct Story {
 Story TellStory(int commits, std::uint64_t seed, JournalQuirks quirks = {},
                 const std::function<void(CutDisk&)>& prepare = {});
 
-/// How many of the cuts (`each` at every moment) leave something else than they may, and the first
-/// of them in words.
+/// How many of the cuts (`each` at every moment from one on) leave something else than they may,
+/// and the first of them in words.
 struct BadCuts {
   int Cuts = 0, Bad = 0;
   std::string First;
+
+  void Add(const BadCuts& more, const std::string& where = {}) {
+    if (Bad == 0 && more.Bad > 0) First = where + more.First;
+    Cuts += more.Cuts;
+    Bad += more.Bad;
+  }
 };
-BadCuts CountBadCuts(const Story& story, int each, std::uint64_t seed);
+BadCuts CountBadCuts(const Story& story, int each, std::uint64_t seed, int from = 0);
 
 }  // namespace grapplemont::test

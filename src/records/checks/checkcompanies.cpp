@@ -67,10 +67,6 @@ void InspectOwnNames(Inspection& inspection, Records<T>& records, RemedyFor reme
                       remedyFor(record, names));
 }
 
-std::pair<int, int> Pair(const Team& team) {
-  return std::minmax<int>({int(team.Worker1), int(team.Worker2)});
-}
-
 bool IsIn(const Promotion& promotion, int sponsorUid) {
   return std::any_of(promotion.Sponsor.begin(), promotion.Sponsor.end(),
                      [&](const Word& place) { return place == sponsorUid; });
@@ -149,63 +145,48 @@ void TitlesAndStablesHaveOneName(Inspection& inspection) {
 }
 
 void NobodyTeamsWithHimself(Inspection& inspection) {
-  Removal<Team> removal(inspection.Of().Teams());
-  for (Team& team : inspection.Of().Teams())
-    if (team.Worker1 != 0 && team.Worker1 == team.Worker2)
-      inspection.Note(inspection.Of().Teams(), team, "Worker2", "is the other partner himself",
-                      removal.Of(team));
-  removal.Apply();
+  RemoveWrong(inspection, inspection.Of().Teams(), "Worker2", [](const Team& team) -> std::string {
+    const bool isAlone = team.Worker1 != 0 && team.Worker1 == team.Worker2;
+    return isAlone ? "is the other partner himself" : "";
+  });
 }
 
 void TeamsAreTwo(Inspection& inspection) {
-  Records<Team>& teams = inspection.Of().Teams();
-  Removal<Team> removal(teams);
   std::set<std::pair<int, int>> pairs;
-  for (Team& team : teams) {
-    if (team.Worker1 == 0 || team.Worker2 == 0)
-      inspection.Note(teams, team, "", "lacks a partner", removal.Of(team));
-    else if (!pairs.insert(Pair(team)).second)
-      inspection.Note(teams, team, "", "is a pair that is a team already", removal.Of(team));
-  }
-  removal.Apply();
+  RemoveWrong(inspection, inspection.Of().Teams(), "", [&](const Team& team) -> std::string {
+    if (team.Worker1 == 0 || team.Worker2 == 0) return "lacks a partner";
+    const auto pair = std::minmax<int>({int(team.Worker1), int(team.Worker2)});
+    return pairs.insert(pair).second ? "" : "is a pair that is a team already";
+  });
 }
 
 void OneEventAMonth(Inspection& inspection) {
-  Records<Event>& events = inspection.Of().Events();
-  Removal<Event> removal(events);
   std::set<std::pair<int, int>> months;
-  for (Event& event : events)
-    if (event.Owner != 0 && !months.emplace(event.Owner, event.Month).second)
-      inspection.Note(events, event, "Month", "has an Event of the promotion already",
-                      removal.Of(event));
-  removal.Apply();
+  RemoveWrong(
+      inspection, inspection.Of().Events(), "Month", [&](const Event& event) -> std::string {
+        const bool isFirst = event.Owner == 0 || months.emplace(event.Owner, event.Month).second;
+        return isFirst ? "" : "has an Event of the promotion already";
+      });
 }
 
 void ThreeShowsAtMost(Inspection& inspection) {
   constexpr int kMostShows = 3;
-  Records<Show>& shows = inspection.Of().Shows();
-  Removal<Show> removal(shows);
   std::unordered_map<int, int> counts;
-  for (Show& show : shows)
-    if (show.Owner != 0 && ++counts[show.Owner] > kMostShows)
-      inspection.Note(shows, show, "Owner", "has three shows already", removal.Of(show));
-  removal.Apply();
+  RemoveWrong(inspection, inspection.Of().Shows(), "Owner", [&](const Show& show) -> std::string {
+    const bool isTooMany = show.Owner != 0 && ++counts[show.Owner] > kMostShows;
+    return isTooMany ? "has three shows already" : "";
+  });
 }
 
 void OneShowASpot(Inspection& inspection) {
-  Records<Show>& shows = inspection.Of().Shows();
-  Removal<Show> removal(shows);
   std::map<std::tuple<int, std::string, std::string>, std::string> spots;
-  for (Show& show : shows) {
+  RemoveWrong(inspection, inspection.Of().Shows(), "Slot", [&](const Show& show) -> std::string {
     const Network* network = inspection.Of().FindNetwork(show.Network);
-    if (!network || network->Generic) continue;
+    if (!network || network->Generic) return {};
     const auto [spot, isFree] =
         spots.try_emplace({show.Network, show.Day.Str(), show.Slot.Str()}, show.Name.Str());
-    if (!isFree)
-      inspection.Note(shows, show, "Slot", "is taken on that day by " + spot->second,
-                      removal.Of(show));
-  }
-  removal.Apply();
+    return isFree ? "" : "is taken on that day by " + spot->second;
+  });
 }
 
 void SponsorsAgree(Inspection& inspection) {

@@ -251,16 +251,11 @@ void NoRecordStandsTwice(Inspection& inspection) {
   ForEachFile(inspection, [&]<class T>(Records<T>& records) {
     if constexpr (!requires(T & record) { record.Uid; }) {
       std::unordered_map<std::string_view, int> firstLike;
-      Removal<T> removal(records);
-      for (T& record : records) {
+      RemoveWrong(inspection, records, "", [&](const T& record) -> std::string {
         const std::string_view bytes(reinterpret_cast<const char*>(&record), sizeof(T));
         const auto [first, isFirst] = firstLike.try_emplace(bytes, records.NumberOf(record));
-        if (!isFirst)
-          inspection.Note(records, record, "",
-                          "is the double of record " + std::to_string(first->second),
-                          removal.Of(record));
-      }
-      removal.Apply();
+        return isFirst ? "" : "is the double of record " + std::to_string(first->second);
+      });
     }
   });
 }
@@ -308,9 +303,9 @@ const Target* TargetOf(const Targets& targets, const Place& place, const Field& 
   if (to == Refers::Commentator)
     to = reinterpret_cast<const Show*>(place.Record)->ColourIsWorker ? Refers::Worker
                                                                      : Refers::Staff;
-  const auto found = std::find_if(targets.begin(), targets.end(),
-                                  [&](const Target& target) { return target.To == to; });
-  return found == targets.end() ? nullptr : &*found;
+  for (const Target& target : targets)
+    if (target.To == to) return &target;
+  return nullptr;
 }
 
 void InspectReference(Inspection& inspection, const Targets& targets, const Place& place,

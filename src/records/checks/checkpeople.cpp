@@ -123,14 +123,11 @@ void FloorNotAboveOver(Inspection& inspection) {
       [](Worker& worker) { worker.OverFloor = worker.Over; });
 }
 
-void PotentialOfThirty(Inspection& inspection) {
+void PotentialOfThirtyAndABirthday(Inspection& inspection) {
   ForWorkers(
       inspection, "Potential", "is under 30", "made 30",
       [](const Worker& worker) { return worker.Potential < 30; },
       [](Worker& worker) { worker.Potential = 30; });
-}
-
-void EverybodyHasABirthday(Inspection& inspection) {
   ForWorkers(
       inspection, "BirthMonth", "is 0, which a game draws anew when it begins", "",
       [](const Worker& worker) { return worker.BirthMonth == 0; }, nullptr);

@@ -7,6 +7,16 @@
 
 namespace grapplemont {
 
+/// Notes each record of which `wrong` has something to say, and removes it.
+template <class T, class Wrong>
+void RemoveWrong(Inspection& inspection, Records<T>& records, std::string_view field, Wrong wrong) {
+  Removal<T> removal(records);
+  for (T& record : records)
+    if (std::string what = wrong(record); !what.empty())
+      inspection.Note(records, record, field, std::move(what), removal.Of(record));
+  removal.Apply();
+}
+
 // Files and fields, by the field lists.
 void WholeRecords(Inspection& inspection);
 void FieldsHoldWhatTheyMay(Inspection& inspection);
@@ -23,8 +33,7 @@ void SplitsOfTheEmployer(Inspection& inspection);
 void ManagersOfTheEmployer(Inspection& inspection);
 void DivasAreWomen(Inspection& inspection);
 void FloorNotAboveOver(Inspection& inspection);
-void PotentialOfThirty(Inspection& inspection);
-void EverybodyHasABirthday(Inspection& inspection);
+void PotentialOfThirtyAndABirthday(Inspection& inspection);
 void OneOwnerEach(Inspection& inspection);
 void OfficesAreHeldByTheOwn(Inspection& inspection);
 

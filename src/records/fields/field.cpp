@@ -19,21 +19,15 @@ auto* At(const Field& field, Byte* record, int index) {
 }  // namespace
 
 std::string_view Says(Vocabulary words, int code) {
-  const auto found =
-      std::find_if(words.begin(), words.end(), [&](auto& term) { return term.Code == code; });
-  return found == words.end() ? std::string_view() : found->Says;
+  for (const Term& term : words)
+    if (term.Code == code) return term.Says;
+  return {};
 }
 
 std::string_view Says(Vocabulary words, std::string_view stored) {
-  const auto found =
-      std::find_if(words.begin(), words.end(), [&](auto& term) { return term.Stored == stored; });
-  return found == words.end() ? std::string_view() : found->Says;
-}
-
-const Term* FindTerm(Vocabulary words, std::string_view says) {
-  const auto found =
-      std::find_if(words.begin(), words.end(), [&](auto& term) { return term.Says == says; });
-  return found == words.end() ? nullptr : &*found;
+  for (const Term& term : words)
+    if (term.Stored == stored) return term.Says;
+  return {};
 }
 
 std::string FieldName(const Field& field, int index) {

@@ -40,8 +40,6 @@ using Vocabulary = std::span<const Term>;
 /// The words of a code; empty for an unknown one.
 std::string_view Says(Vocabulary words, int code);
 std::string_view Says(Vocabulary words, std::string_view stored);
-/// The code whose words these are; nullptr for unknown words.
-const Term* FindTerm(Vocabulary words, std::string_view says);
 
 struct Field {
   std::string_view Name;  // '#' stands for the number of a numbered field: "Rank#"
@@ -61,46 +59,25 @@ struct Field {
   std::string_view Help = {};
 
   constexpr Field In(long long min, long long max) const {
-    Field f = *this;
-    f.Min = min;
-    f.Max = max;
-    return f;
+    return With(&Field::Min, min).With(&Field::Max, max);
   }
-  constexpr Field OrNone() const {
-    Field f = *this;
-    f.MayBeNone = true;
-    return f;
-  }
-  constexpr Field Key() const {
-    Field f = *this;
-    f.IsKey = true;
-    return f;
-  }
-  constexpr Field InLines() const {
-    Field f = *this;
-    f.MayBreak = true;
-    return f;
-  }
+  constexpr Field OrNone() const { return With(&Field::MayBeNone, true); }
+  constexpr Field Key() const { return With(&Field::IsKey, true); }
+  constexpr Field InLines() const { return With(&Field::MayBreak, true); }
   /// A number that leads to a record is its uid, or 0 for none.
   constexpr Field LeadsTo(Refers to) const {
-    Field f = Kind == FieldKind::Word ? In(0, 32767) : *this;
-    f.To = to;
-    return f;
+    return (Kind == FieldKind::Word ? In(0, 32767) : *this).With(&Field::To, to);
   }
-  constexpr Field From(Vocabulary words) const {
-    Field f = *this;
-    f.Words = words;
-    return f;
-  }
-  constexpr Field Counts(std::string_view unit) const {
-    Field f = *this;
-    f.Unit = unit;
-    return f;
-  }
-  constexpr Field Means(std::string_view help) const {
-    Field f = *this;
-    f.Help = help;
-    return f;
+  constexpr Field From(Vocabulary words) const { return With(&Field::Words, words); }
+  constexpr Field Counts(std::string_view unit) const { return With(&Field::Unit, unit); }
+  constexpr Field Means(std::string_view help) const { return With(&Field::Help, help); }
+
+ private:
+  template <class T>
+  constexpr Field With(T Field::*member, T value) const {
+    Field field = *this;
+    field.*member = value;
+    return field;
   }
 };
 
@@ -135,45 +112,33 @@ std::string FieldShown(const Field& field, const std::byte* record, int index = 
 
 namespace detail {
 
+template <FieldKind Kind, long long Min = 0, long long Max = 0>
+struct TypeOf {
+  static constexpr FieldKind kKind = Kind;
+  static constexpr long long kMin = Min, kMax = Max;
+};
+template <FieldKind Kind, long long Min, long long Max, bool OrNone>
+struct CountedTypeOf : TypeOf<Kind, Min, Max> {
+  static constexpr bool kOrNone = OrNone;
+};
+
 template <class T>
 struct FieldType;
 template <>
-struct FieldType<Word> {
-  static constexpr FieldKind kKind = FieldKind::Word;
-  static constexpr long long kMin = -32768, kMax = 32767;
-};
+struct FieldType<Word> : TypeOf<FieldKind::Word, -32768, 32767> {};
 template <>
-struct FieldType<Percent> {
-  static constexpr FieldKind kKind = FieldKind::Percent;
-  static constexpr long long kMin = 0, kMax = 100;
-  static constexpr bool kOrNone = false;
-};
+struct FieldType<Percent> : CountedTypeOf<FieldKind::Percent, 0, 100, false> {};
 template <>
-struct FieldType<Long> {
-  static constexpr FieldKind kKind = FieldKind::Long;
-  static constexpr long long kMin = -2147483648LL, kMax = 2147483647LL;
-};
+struct FieldType<Long> : TypeOf<FieldKind::Long, -2147483648LL, 2147483647LL> {};
 template <int Bytes, int Least, int Most, bool OrNone>
-struct FieldType<Ranged<Bytes, Least, Most, OrNone>> {
-  static constexpr FieldKind kKind = Bytes == 2 ? FieldKind::Word : FieldKind::Long;
-  static constexpr long long kMin = Least, kMax = Most;
-  static constexpr bool kOrNone = OrNone;
-};
+struct FieldType<Ranged<Bytes, Least, Most, OrNone>>
+    : CountedTypeOf<Bytes == 2 ? FieldKind::Word : FieldKind::Long, Least, Most, OrNone> {};
 template <>
-struct FieldType<Flag> {
-  static constexpr FieldKind kKind = FieldKind::Flag;
-  static constexpr long long kMin = -1, kMax = 0;
-};
+struct FieldType<Flag> : TypeOf<FieldKind::Flag, -1, 0> {};
 template <>
-struct FieldType<Date> {
-  static constexpr FieldKind kKind = FieldKind::Date;
-  static constexpr long long kMin = 0, kMax = 0;
-};
+struct FieldType<Date> : TypeOf<FieldKind::Date> {};
 template <int N>
-struct FieldType<Text<N>> {
-  static constexpr FieldKind kKind = FieldKind::Text;
-  static constexpr long long kMin = 0, kMax = 0;
-};
+struct FieldType<Text<N>> : TypeOf<FieldKind::Text> {};
 
 template <class T>
 constexpr Field MakeField(std::string_view name, std::size_t offset, int count = 1,

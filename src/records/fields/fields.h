@@ -77,14 +77,17 @@ class Number : public Integer<Bytes> {
 
 }  // namespace detail
 
-/// 16 bits, signed. Storing a value outside them throws FieldOverflow.
-class Word : public detail::Number<Word, 2> {
+/// 16 or 32 bits, signed. Storing a value outside them throws FieldOverflow.
+template <int Bytes>
+class Whole : public detail::Number<Whole<Bytes>, Bytes> {
  public:
-  constexpr Word() = default;
-  constexpr explicit Word(int value) { Set(value); }
-  using Number::operator=;
-  constexpr void Set(long long value) { Store(value); }
+  constexpr Whole() = default;
+  constexpr explicit Whole(int value) { Set(value); }
+  using detail::Number<Whole, Bytes>::operator=;
+  constexpr void Set(long long value) { this->Store(value); }
 };
+using Word = Whole<2>;
+using Long = Whole<4>;
 
 /// 16 bits that hold a percentage: storing saturates to 0..100, reading gives what the file holds.
 class Percent : public detail::Number<Percent, 2> {
@@ -93,15 +96,6 @@ class Percent : public detail::Number<Percent, 2> {
   constexpr explicit Percent(int value) { Set(value); }
   using Number::operator=;
   constexpr void Set(long long value) { Store(std::clamp(value, 0LL, 100LL)); }
-};
-
-/// 32 bits, signed. Storing a value outside them throws FieldOverflow.
-class Long : public detail::Number<Long, 4> {
- public:
-  constexpr Long() = default;
-  constexpr explicit Long(int value) { Set(value); }
-  using Number::operator=;
-  constexpr void Set(long long value) { Store(value); }
 };
 
 /// A number that rules count with: storing saturates to Least..Most (with `OrNone` also kNoEnd),

@@ -4,14 +4,14 @@ namespace grapplemont {
 
 namespace {
 
-#define FIELD(member) GM_FIELD(GameInfo, member)
+#define GAME(member) GM_FIELD(GameInfo, member)
 #define JOB(member) GM_PART(GameInfo, Jobs, Job, member, "Job#" #member)
-#define MAIL(member) FIELD(member).In(0, 2).From(kMailOptions)
+#define MAIL(member) GAME(member).In(0, 2).From(kMailOptions)
 
 constexpr Field kFields[] = {
-    FIELD(PlayerName).Means("The player's name."),
-    FIELD(Reputation).Counts("percent").Means("The player's standing."),
-    FIELD(StartDate).Means("The day the game began."),
+    GAME(PlayerName).Means("The player's name."),
+    GAME(Reputation).Counts("percent").Means("The player's standing."),
+    GAME(StartDate).Means("The day the game began."),
     GM_NUMBERED(GameInfo, Shortlist).LeadsTo(Refers::Worker).Means("Workers to keep an eye on."),
     JOB(Promotion).Means("Employer, or None."),
     JOB(Started).Means("The day the job began."),
@@ -19,13 +19,13 @@ constexpr Field kFields[] = {
     JOB(StartSize).In(0, 6).Means("Size of the promotion at that day."),
     JOB(EndImage).In(0, 100).Counts("percent").Means("Image at the end; 0 for the present job."),
     JOB(EndSize).In(0, 6).Means("Size at the end; 0 for the present job."),
-    FIELD(SaveName).Means("The name of the saved game."),
-    FIELD(LoadingSet).In(0, 4).Means("Pictures of the waiting screen; 0 the program's own."),
-    FIELD(TapeWait).LeadsTo(Refers::Network).Means("The network that holds a promo tape."),
-    FIELD(TvOfferWait).LeadsTo(Refers::Network).Means("The network that has made an offer."),
-    FIELD(PlayerPromotion).LeadsTo(Refers::Promotion).In(1, 32767).Means("The player's promotion."),
-    FIELD(Difficulty).In(1, 4).From(kDifficulties).Means("Difficulty."),
-    FIELD(Today).Means("The present day."),
+    GAME(SaveName).Means("The name of the saved game."),
+    GAME(LoadingSet).In(0, 4).Means("Pictures of the waiting screen; 0 the program's own."),
+    GAME(TapeWait).LeadsTo(Refers::Network).Means("The network that holds a promo tape."),
+    GAME(TvOfferWait).LeadsTo(Refers::Network).Means("The network that has made an offer."),
+    GAME(PlayerPromotion).LeadsTo(Refers::Promotion).In(1, 32767).Means("The player's promotion."),
+    GAME(Difficulty).In(1, 4).From(kDifficulties).Means("Difficulty."),
+    GAME(Today).Means("The present day."),
     MAIL(MailOwners).Means("Mails about new owners."),
     MAIL(MailWorkerHire).Means("Mails about workers signed."),
     MAIL(MailWorkerFire).Means("Mails about workers fired."),
@@ -35,16 +35,16 @@ constexpr Field kFields[] = {
     MAIL(MailRetirement).Means("Mails about retirements."),
     MAIL(MailOtherFed).Means("Mails about rival finances, sizes and new promotions."),
     MAIL(MailSponsor).Means("Mails about sponsors."),
-    FIELD(EndCode).In(0, 100).Means("0 while the game goes on."),
+    GAME(EndCode).In(0, 100).Means("0 while the game goes on."),
     MAIL(MailShows).Means("Mails about rival events."),
     MAIL(MailTvShow).Means("Mails about rival television shows."),
     MAIL(MailStaffRetire).Means("Mails about staff retirements."),
-    FIELD(MailDev).In(0, 2).From(kTwoWayMailOptions).Means("Reports of the development territory."),
-    FIELD(MailTrain).In(0, 2).From(kTwoWayMailOptions).Means("Reports of the training camp."),
-    FIELD(Reporter).In(0, 2).Means("Who reports the shows."),
-    FIELD(Economy).Means("The world's economy."),
-    FIELD(EconomyRising).Means("The economy drifts upward."),
-    FIELD(Version).Means("Version of the slot."),
+    GAME(MailDev).In(0, 2).From(kTwoWayMailOptions).Means("Reports of the development territory."),
+    GAME(MailTrain).In(0, 2).From(kTwoWayMailOptions).Means("Reports of the training camp."),
+    GAME(Reporter).In(0, 2).Means("Who reports the shows."),
+    GAME(Economy).Means("The world's economy."),
+    GAME(EconomyRising).Means("The economy drifts upward."),
+    GAME(Version).Means("Version of the slot."),
 };
 
 }  // namespace
@@ -60,29 +60,26 @@ namespace {
 constexpr Term kStages[] = {
     {kNoShow, "", "None"}, {kShowRuns, "", "Under way"}, {kShowClosed, "", "Closed"}};
 
-#undef FIELD
-#define FIELD(member) GM_FIELD(ShowRun, member)
-
+#define RUN(member) GM_FIELD(ShowRun, member)
 constexpr Field kRunFields[] = {
-    FIELD(Stage).In(kNoShow, kShowClosed).From(kStages).Means("How far the show has come."),
-    FIELD(IsEvent).Means("A monthly Event; else a television show."),
-    FIELD(Current).In(0, 11).Means("Record of match.dat told last; 0 before the first."),
-    FIELD(PreviousCrowd).In(0, 100).Means("Crowd reaction of the last match told."),
-    FIELD(LastOverall).In(0, 100).Means("Overall rating of the Segment told last."),
-    FIELD(FlatNight).Means("Nothing quite comes off tonight: matches lose a tenth."),
+    RUN(Stage).In(kNoShow, kShowClosed).From(kStages).Means("How far the show has come."),
+    RUN(IsEvent).Means("A monthly Event; else a television show."),
+    RUN(Current).In(0, 11).Means("Record of match.dat told last; 0 before the first."),
+    RUN(PreviousCrowd).In(0, 100).Means("Crowd reaction of the last match told."),
+    RUN(LastOverall).In(0, 100).Means("Overall rating of the Segment told last."),
+    RUN(FlatNight).Means("Nothing quite comes off tonight: matches lose a tenth."),
     GM_NUMBERED(ShowRun, FeudTouched).Means("The show has used the feud of this slot."),
-    FIELD(ShowSum).Means("Ratings and charges added up; at the close the show's rating."),
-    FIELD(ShowSegments).Means("How many ratings stand in the sum."),
-    FIELD(Announcer).LeadsTo(Refers::Staff).Means("Primary announcer."),
-    FIELD(Colour).In(0, 32767).Means("Colour commentator: staff, or a worker."),
-    FIELD(ColourIsWorker).Means("The colour commentator is a worker."),
-    FIELD(AnnouncerCharge).Means("What the primary announcer cost the sum."),
-    FIELD(ColourCharge).Means("What the colour commentator cost the sum."),
-    FIELD(ProductionCharge).Means("What poor production cost the sum."),
-    FIELD(ExtraBonus).Means("What an Event's extra added to the sum."),
-    FIELD(ExtraCost).Counts("dollars").Means("What an Event's extra cost."),
+    RUN(ShowSum).Means("Ratings and charges added up; at the close the show's rating."),
+    RUN(ShowSegments).Means("How many ratings stand in the sum."),
+    RUN(Announcer).LeadsTo(Refers::Staff).Means("Primary announcer."),
+    RUN(Colour).In(0, 32767).Means("Colour commentator: staff, or a worker."),
+    RUN(ColourIsWorker).Means("The colour commentator is a worker."),
+    RUN(AnnouncerCharge).Means("What the primary announcer cost the sum."),
+    RUN(ColourCharge).Means("What the colour commentator cost the sum."),
+    RUN(ProductionCharge).Means("What poor production cost the sum."),
+    RUN(ExtraBonus).Means("What an Event's extra added to the sum."),
+    RUN(ExtraCost).Counts("dollars").Means("What an Event's extra cost."),
 };
-#undef FIELD
 
 }  // namespace
 

@@ -73,29 +73,20 @@ std::int64_t MostBytesOfStep() {
   return bytes;
 }
 
-/// A checksum of the file; nothing where there is none. `isFile` is false for what no file of the
-/// data can be.
-std::optional<std::uint64_t> SumAt(Disk& disk, const std::string& folder, const std::string& name,
-                                   bool& isFile) {
-  const std::string path = folder + "/" + name;
+/// Whether the file is as it was before the step, or as it is after it where that will do too.
+bool IsAsBefore(Disk& disk, const std::string& folder, const StepFile& file, bool orAfter) {
+  const std::string path = folder + "/" + file.Name;
   const Disk::Kind kind = disk.Look(path);
-  isFile = kind == Disk::Kind::Nothing;
-  if (kind != Disk::Kind::File) return std::nullopt;
-  const auto bytes = ReadWithin(disk, path, MostBytesOf(name));
-  isFile = bytes.has_value();
-  return bytes ? std::optional(Checksum(*bytes)) : std::nullopt;
-}
-
-bool IsBefore(Disk& disk, const std::string& folder, const StepFile& file) {
-  bool isFile = false;
-  return SumAt(disk, folder, file.Name, isFile) == file.Before && isFile;
-}
-
-bool IsBeforeOrAfter(Disk& disk, const std::string& folder, const StepFile& file) {
-  bool isFile = false;
-  const auto sum = SumAt(disk, folder, file.Name, isFile);
-  const auto after = file.After ? std::optional(Checksum(*file.After)) : std::nullopt;
-  return isFile && (sum == file.Before || sum == after);
+  std::optional<std::uint64_t> sum;
+  if (kind == Disk::Kind::File) {
+    const auto bytes = ReadWithin(disk, path, MostBytesOf(file.Name));
+    if (!bytes) return false;
+    sum = Checksum(*bytes);
+  } else if (kind != Disk::Kind::Nothing) {
+    return false;
+  }
+  if (sum == file.Before) return true;
+  return orAfter && sum == (file.After ? std::optional(Checksum(*file.After)) : std::nullopt);
 }
 
 }  // namespace
@@ -113,16 +104,11 @@ DataStep StepOf(const std::vector<FileChange>& changes) {
 
 bool StepFits(Disk& disk, const std::string& folder, const DataStep& step) {
   return std::all_of(step.begin(), step.end(),
-                     [&](const StepFile& file) { return IsBefore(disk, folder, file); });
+                     [&](const StepFile& file) { return IsAsBefore(disk, folder, file, false); });
 }
 
 void WriteStep(Disk& disk, const std::string& folder, const DataStep& step) {
-  {
-    const OpenedFile file(disk, StepPath(folder), true);
-    disk.Resize(file, 0);
-    disk.WriteAt(file, 0, Pack(step));
-    disk.Sync(file);
-  }
+  WriteNewFile(disk, StepPath(folder), Pack(step));
   disk.SyncFolder(ParentOf(folder));
 }
 
@@ -147,7 +133,7 @@ std::optional<DataStep> StandingStep(Disk& disk, const std::string& folder) {
   if (disk.Look(path) != Disk::Kind::File) return std::nullopt;
   const auto packed = ReadWithin(disk, path, MostBytesOfStep());
   auto step = packed ? Unpack(*packed) : std::nullopt;
-  const auto fits = [&](const StepFile& file) { return IsBeforeOrAfter(disk, folder, file); };
+  const auto fits = [&](const StepFile& file) { return IsAsBefore(disk, folder, file, true); };
   if (!step || !std::all_of(step->begin(), step->end(), fits)) return std::nullopt;
   return step;
 }

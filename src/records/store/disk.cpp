@@ -64,14 +64,16 @@ void CopyFile(Disk& disk, const std::string& from, const std::string& to) {
   disk.Sync(target);
 }
 
+void WriteNewFile(Disk& disk, const std::string& path, ByteSpan bytes) {
+  const OpenedFile file(disk, path, true);
+  disk.Resize(file, 0);
+  if (!bytes.empty()) disk.WriteAt(file, 0, bytes);
+  disk.Sync(file);
+}
+
 void WriteFile(Disk& disk, const std::string& path, ByteSpan bytes) {
   const std::string beside = path + ".tmp";
-  {
-    const OpenedFile file(disk, beside, true);
-    disk.Resize(file, 0);
-    if (!bytes.empty()) disk.WriteAt(file, 0, bytes);
-    disk.Sync(file);
-  }
+  WriteNewFile(disk, beside, bytes);
   disk.Rename(beside, path);
   disk.SyncFolder(ParentOf(path));
 }

@@ -104,6 +104,9 @@ std::optional<Bytes> ReadWithin(Disk& disk, const std::string& path, std::int64_
 /// Makes or replaces a file by another's contents, piece by piece; they are on disk when this
 /// returns, the name is not.
 void CopyFile(Disk& disk, const std::string& from, const std::string& to);
+/// Makes a file, or a new one in its place; its contents are on disk when this returns, its name is
+/// not.
+void WriteNewFile(Disk& disk, const std::string& path, ByteSpan bytes);
 /// Replaces or makes the file: written beside it (".tmp"), synced, renamed over it.
 void WriteFile(Disk& disk, const std::string& path, ByteSpan bytes);
 /// Removes a folder and all in it, or a file; nothing there is no error.

@@ -68,9 +68,8 @@ FilePatch UnpackFile(Unpacker& in) {
 }
 
 bool InBounds(const FilePatch& file, const std::vector<KnownFile>& known) {
-  const auto found = std::find_if(known.begin(), known.end(),
-                                  [&](const KnownFile& each) { return each.Name == file.Name; });
-  if (found == known.end() || file.Length < 0 || file.Length > found->MaxBytes) return false;
+  const KnownFile* found = FindFile(known, file.Name);
+  if (!found || file.Length < 0 || file.Length > found->MaxBytes) return false;
   return std::all_of(file.Ranges.begin(), file.Ranges.end(), [&](const JournalRange& range) {
     return range.Offset >= 0 && range.Offset <= file.Length &&
            std::ssize(range.Contents) <= file.Length - range.Offset;
@@ -87,6 +86,12 @@ std::size_t ExpectedSize(const JournalRecord& record) {
 }
 
 }  // namespace
+
+const KnownFile* FindFile(const std::vector<KnownFile>& known, std::string_view name) {
+  for (const KnownFile& file : known)
+    if (file.Name == name) return &file;
+  return nullptr;
+}
 
 Bytes PackMarker(const JournalMarker& marker) {
   Packer out = Begun(kMarkerMagic, kJournalBlock);

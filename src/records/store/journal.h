@@ -101,6 +101,9 @@ struct KnownFile {
   std::int64_t MostBytes() const { return MaxBytes / RecordBytes * RecordBytes; }
 };
 
+/// nullptr where none has the name.
+const KnownFile* FindFile(const std::vector<KnownFile>& known, std::string_view name);
+
 /// One block.
 Bytes PackMarker(const JournalMarker& marker);
 /// Nothing where the block is no whole marker.

@@ -1,7 +1,5 @@
 #include "records/store/knownfiles.h"
 
-#include <algorithm>
-
 namespace grapplemont {
 
 const std::vector<KnownFile>& KnownFiles() {
@@ -20,9 +18,8 @@ const std::vector<KnownFile>& KnownFiles() {
 }
 
 std::int64_t MostBytesOf(std::string_view file) {
-  const auto found = std::find_if(KnownFiles().begin(), KnownFiles().end(),
-                                  [&](const KnownFile& one) { return one.Name == file; });
-  return found == KnownFiles().end() ? 0 : found->MaxBytes;
+  const KnownFile* known = FindFile(KnownFiles(), file);
+  return known ? known->MaxBytes : 0;
 }
 
 }  // namespace grapplemont

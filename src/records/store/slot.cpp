@@ -68,6 +68,7 @@ struct Slot::Insides {
   bool Broken = false;  // a call has failed, and recovery has not succeeded since
 
   std::string Path(const std::string& name) const { return Folder + "/" + name; }
+  std::string CopyName() const { return FreeName(Disk, Folder + ".damaged"); }
   Bytes ReadJournal() { return Journal.Read(LongestJournal(Known, Options.JournalBytes)); }
 
   void Open(Damage damage);
@@ -75,6 +76,10 @@ struct Slot::Insides {
   void Adopt(const StoredSlot& stored, SlotFinding finding);
   void Mend(const StoredSlot& stored, SlotFinding finding);
   void GoOn(SlotFinding finding, const StoredSlot& stored);
+  void Apply(const std::vector<JournalRecord>& records) {
+    for (const JournalRecord& record : records)
+      for (const FilePatch& patch : record.Files) Records.Apply(patch);
+  }
   void SyncAll();
   void WriteSeal();
   void RequireInPlace();
@@ -98,7 +103,7 @@ void Slot::Insides::Open(Damage damage) {
   World = finding.World;
   if (!finding.Damage.empty()) {
     if (finding.GivesUp && damage == Damage::Refuse)
-      throw SlotDamaged(Folder, finding.Damage, FreeCopyName(Disk, Folder));
+      throw SlotDamaged(Folder, finding.Damage, CopyName());
     Mend(stored, std::move(finding));
   } else if (!stored.HasId) {
     Adopt(stored, std::move(finding));
@@ -142,8 +147,7 @@ void Slot::Insides::GoOn(SlotFinding finding, const StoredSlot& stored) {
   Digest = std::move(finding.Digest);
   Sequence = finding.Chain.Last();
   WriteSeal();
-  for (const JournalRecord& record : finding.Chain.Records)
-    for (const FilePatch& patch : record.Files) Records.Apply(patch);
+  Apply(finding.Chain.Records);
   for (const auto& [name, size] : stored.TooLong)
     if (const auto file = Files.find(name); file != Files.end())
       Records.Apply({name, true, std::ssize(file->second), {}});
@@ -169,10 +173,7 @@ void Slot::Insides::Adopt(const StoredSlot& stored, SlotFinding finding) {
   Journal.Drop();
   const bool hasJournal = Disk.Look(Path(kJournalName)) != Disk::Kind::Nothing;
   if (hasJournal) {
-    std::string aside = kOtherJournalName;
-    for (int i = 2; Disk.Look(Path(aside)) != Disk::Kind::Nothing; ++i)
-      aside = kOtherJournalName + ("-" + std::to_string(i));
-    Disk.Rename(Path(kJournalName), Path(aside));
+    Disk.Rename(Path(kJournalName), FreeName(Disk, Path(kOtherJournalName)));
     Disk.SyncFolder(Folder);
   }
   Remarks.push_back(hasJournal ? "The journal that lay in this folder cannot be known to be its "
@@ -187,7 +188,7 @@ void Slot::Insides::Adopt(const StoredSlot& stored, SlotFinding finding) {
 /// The folder is copied as it is. Then the files, as they are, begin a new journal, and what makes
 /// the world found of them is the one record in it: from there on it is a slot like any other.
 void Slot::Insides::Mend(const StoredSlot& stored, SlotFinding finding) {
-  const std::string copy = FreeCopyName(Disk, Folder);
+  const std::string copy = CopyName();
   CopyBeside(Disk, Folder, copy);
   Remarks.push_back("The slot was damaged. " + finding.Damage);
   Remarks.push_back("The slot as it was is kept in " + copy + ".");
@@ -218,9 +219,8 @@ void Slot::Insides::Recover() {
   const Bytes journal = ReadJournal();
   const JournalChain chain = ReadChain(journal, World, Known, Sequence, Options.Quirks);
   if (chain.Found != JournalChain::State::Sound || chain.Last() < Sequence)
-    throw SlotDamaged(Folder, kStepsLost, FreeCopyName(Disk, Folder));
-  for (const JournalRecord& record : chain.Records)
-    for (const FilePatch& patch : record.Files) Records.Apply(patch);
+    throw SlotDamaged(Folder, kStepsLost, CopyName());
+  Apply(chain.Records);
   Records.Sync();
   const std::uint64_t spent = std::max(Sequence + 1, chain.Last());
   Journal.Empty({World, spent, Digest.Value()});
@@ -247,9 +247,8 @@ bool Slot::Insides::TryRecover() {
 /// What the next opening would not believe is not written either.
 void Slot::Insides::Require(const std::vector<FileChange>& changes) const {
   for (const FileChange& change : changes) {
-    const auto known = std::find_if(Known.begin(), Known.end(),
-                                    [&](auto& file) { return file.Name == change.Name; });
-    if (known == Known.end()) throw std::invalid_argument(change.Name + " is no file of a slot.");
+    const KnownFile* known = FindFile(Known, change.Name);
+    if (!known) throw std::invalid_argument(change.Name + " is no file of a slot.");
     if (std::ssize(change.After) > known->MaxBytes)
       throw std::invalid_argument(change.Name + " would be longer than its most of " +
                                   std::to_string(known->MaxBytes) + " bytes.");

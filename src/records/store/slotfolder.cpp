@@ -12,7 +12,7 @@ namespace grapplemont {
 
 namespace {
 
-constexpr std::size_t kIdSize = 8, kSealedIdSize = 16;
+constexpr std::int64_t kSealedIdSize = 16;
 
 std::string NewOf(const std::string& folder) {
   return folder + kBesideSuffix;
@@ -106,13 +106,6 @@ SlotLock::SlotLock(Disk& disk, const std::string& folder) : disk_(disk), path_(f
   if (!disk_.Lock(path_)) throw SlotBusy(folder);
 }
 
-void WriteNewFile(Disk& disk, const std::string& path, ByteSpan bytes) {
-  const OpenedFile file(disk, path, true);
-  disk.Resize(file, 0);
-  if (!bytes.empty()) disk.WriteAt(file, 0, bytes);
-  disk.Sync(file);
-}
-
 Bytes PackWorldId(std::uint64_t id) {
   Packer out;
   out.Put(id);
@@ -120,17 +113,12 @@ Bytes PackWorldId(std::uint64_t id) {
   return std::move(out).Packed();
 }
 
-std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes) {
-  Unpacker in(bytes);
-  const auto id = in.Get<std::uint64_t>(), sum = in.Get<std::uint64_t>();
-  if (bytes.size() != kSealedIdSize || sum != Checksum(bytes.first(kIdSize))) return std::nullopt;
-  return id;
-}
-
 std::optional<std::uint64_t> ReadWorldId(Disk& disk, const std::string& folder) {
   const std::string path = folder + "/" + kWorldIdName;
   if (disk.Look(path) != Disk::Kind::File) return std::nullopt;
-  return UnpackWorldId(ReadStart(disk, path, kSealedIdSize + 1));
+  const Bytes bytes = ReadStart(disk, path, kSealedIdSize + 1);
+  const auto id = Unpacker(bytes).Get<std::uint64_t>();
+  return bytes == PackWorldId(id) ? std::optional(id) : std::nullopt;
 }
 
 bool IsOfSlot(std::string_view name) {
@@ -185,10 +173,10 @@ std::string StandingFolder(Disk& disk, const std::string& folder) {
   return disk.Look(NewOf(folder)) == Disk::Kind::Nothing ? OldOf(folder) : NewOf(folder);
 }
 
-std::string FreeCopyName(Disk& disk, const std::string& folder) {
-  std::string name = folder + ".damaged";
+std::string FreeName(Disk& disk, const std::string& path) {
+  std::string name = path;
   for (int i = 2; disk.Look(name) != Disk::Kind::Nothing; ++i)
-    name = folder + ".damaged-" + std::to_string(i);
+    name = path + "-" + std::to_string(i);
   return name;
 }
 

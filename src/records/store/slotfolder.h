@@ -42,12 +42,8 @@ class SlotGone : public DiskError {
   explicit SlotGone(const std::string& path);
 };
 
-/// Makes a file that did not exist, on disk when this returns (its name is not).
-void WriteNewFile(Disk& disk, const std::string& path, ByteSpan bytes);
-
-/// The contents of world.id, and back; nothing where they are no id.
+/// The contents of world.id.
 Bytes PackWorldId(std::uint64_t id);
-std::optional<std::uint64_t> UnpackWorldId(ByteSpan bytes);
 /// The id of the world in the folder; nothing where no file holds one.
 std::optional<std::uint64_t> ReadWorldId(Disk& disk, const std::string& folder);
 
@@ -70,8 +66,8 @@ void FinishSwap(Disk& disk, const std::string& folder);
 /// Where the slot's files are at this moment, FinishSwap or not; "" when nowhere.
 std::string StandingFolder(Disk& disk, const std::string& folder);
 
-/// A name beside the folder that is still free: "s1.damaged", "s1.damaged-2" and on.
-std::string FreeCopyName(Disk& disk, const std::string& folder);
+/// A path that is still free: "s1.damaged", "s1.damaged-2" and on.
+std::string FreeName(Disk& disk, const std::string& path);
 /// Copies the plain files of a folder to a new one beside it, whole or not at all. Requires the
 /// lock and FinishSwap.
 void CopyBeside(Disk& disk, const std::string& folder, const std::string& copy);

@@ -93,8 +93,8 @@ class Examination {
   }
 
   bool IsFleeting(const std::string& name) const {
-    return std::any_of(known_.begin(), known_.end(),
-                       [&](auto& file) { return file.Name == name && file.Fleeting; });
+    const KnownFile* file = FindFile(known_, name);
+    return file && file->Fleeting;
   }
 
   /// What the records that were applied write again is as long as it ought to be.

@@ -23,10 +23,9 @@ constexpr char kDayCount = '@';
 constexpr std::string_view kNone = "none";
 
 /// The field's letters without the blanks that fill it up; those in front belong to it.
-std::string_view RawText(const Field& field, const std::byte* record, int index) {
-  const std::string_view text(
-      reinterpret_cast<const char*>(record) + field.Offset + index * field.Stride,
-      static_cast<std::size_t>(field.Width));
+std::string_view RawText(const Column& column, const std::byte* record) {
+  const ByteSpan bytes = BytesAt(column, record);
+  const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
   return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
@@ -90,9 +89,9 @@ std::string NoSuchWord(std::string_view cell, Vocabulary words) {
 }
 
 const Term* TermOf(Vocabulary words, std::string_view cell) {
-  const auto found = std::find_if(words.begin(), words.end(),
-                                  [&](const Term& term) { return SameWords(term.Says, cell); });
-  return found == words.end() ? nullptr : &*found;
+  for (const Term& term : words)
+    if (SameWords(term.Says, cell)) return &term;
+  return nullptr;
 }
 
 constexpr Term kYesNo[] = {{-1, "", "yes"}, {0, "", "no"}};
@@ -157,11 +156,6 @@ std::string TakeText(const Field& field, int index, std::string_view cell, std::
   return {};
 }
 
-void TakeDefault(const TableKind& kind, const Field& field, int index, std::byte* record) {
-  const auto offset = static_cast<std::size_t>(field.Offset + index * field.Stride);
-  std::memcpy(record + offset, kind.Default.data() + offset, static_cast<std::size_t>(field.Width));
-}
-
 std::string NumberText(const Field& field, long long number) {
   if (field.MayBeNone && number == kNoEnd) return std::string(kNone);
   const Vocabulary words = WordsOf(field);
@@ -200,9 +194,9 @@ std::string CellOf(const TableKind& kind, const Column& column, const std::byte*
       return std::memcmp(&days, &none, sizeof days) == 0 ? "" : DateText(days);
     }
     case FieldKind::Text: {
-      const std::string_view text = RawText(field, record, index);
+      const std::string_view text = RawText(column, record);
       if (const auto says = Says(field.Words, text); !says.empty()) return std::string(says);
-      const bool isDefault = text == RawText(field, kind.Default.data(), index);
+      const bool isDefault = text == RawText(column, kind.Default.data());
       if (text.empty()) return isDefault ? "" : std::string(1, kLiteral);
       const bool literal = text.front() == ' ' || text.front() == kLiteral;
       return (literal ? std::string(1, kLiteral) : std::string()) + ToUtf8(text);
@@ -217,7 +211,8 @@ std::string TakeCell(const TableKind& kind, const Column& column, std::string_vi
   const Field& field = *column.Of;
   cell = detail::Trimmed(cell);
   if (cell.empty()) {
-    TakeDefault(kind, field, column.Index, record);
+    const ByteSpan left = BytesAt(column, kind.Default.data());
+    std::memcpy(record + (left.data() - kind.Default.data()), left.data(), left.size());
     if (HasDefault(kind, column)) return {};
     const Vocabulary words = WordsOf(field);
     return words.empty() ? "is empty" : "is empty; it needs one of " + Listed(words);

@@ -11,12 +11,6 @@ namespace grapplemont {
 
 namespace {
 
-/// Where the bytes of a field lie in a record.
-ByteSpan BytesAt(const Column& column, const std::byte* record) {
-  return {record + column.Of->Offset + column.Index * column.Of->Stride,
-          static_cast<std::size_t>(column.Of->Width)};
-}
-
 bool SameBytes(ByteSpan a, ByteSpan b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end());
 }

@@ -103,10 +103,9 @@ std::span<const TableKind> TableKinds() {
 }
 
 const TableKind* FindTableKind(std::string_view name) {
-  const auto kinds = TableKinds();
-  const auto found = std::find_if(kinds.begin(), kinds.end(),
-                                  [&](const TableKind& kind) { return kind.Name == name; });
-  return found == kinds.end() ? nullptr : &*found;
+  for (const TableKind& kind : TableKinds())
+    if (kind.Name == name) return &kind;
+  return nullptr;
 }
 
 const TableKind& TableKindOf(const RecordLayout& layout) {

@@ -39,6 +39,11 @@ struct Column {
   int Index = 0;
   std::string Name() const { return FieldName(*Of, Index); }
 };
+/// Where its bytes lie in a record.
+inline ByteSpan BytesAt(const Column& column, const std::byte* record) {
+  return {record + column.Of->Offset + column.Index * column.Of->Stride,
+          static_cast<std::size_t>(column.Of->Width)};
+}
 /// All columns that the table may have, in the order of the record.
 std::vector<Column> ColumnsOfTable(const TableKind& kind);
 

@@ -188,9 +188,9 @@ class TableReader {
   }
 
   const Column* Find(std::string_view name) const {
-    const auto found =
-        std::find_if(all_.begin(), all_.end(), [&](const Column& c) { return c.Name() == name; });
-    return found == all_.end() ? nullptr : &*found;
+    for (const Column& column : all_)
+      if (column.Name() == name) return &column;
+    return nullptr;
   }
 
   bool TakeHeader(const CsvRow& header) {

@@ -62,10 +62,9 @@ class Builder {
   }
 
   ReadTable* Read(const RecordLayout& layout) {
-    const auto found = std::find_if(read_.begin(), read_.end(), [&](const ReadTable& table) {
-      return table.Kind->Layout == &layout;
-    });
-    return found == read_.end() ? nullptr : &*found;
+    for (ReadTable& table : read_)
+      if (table.Kind->Layout == &layout) return &table;
+    return nullptr;
   }
 
   void Connect() {
@@ -257,16 +256,11 @@ class TableWriter {
   }
 
   bool HoldsOnlyDefaults(const Column& column) const {
-    const auto offset =
-        static_cast<std::size_t>(column.Of->Offset + column.Index * column.Of->Stride);
-    const ByteSpan wanted = ByteSpan(kind_.Default).subspan(offset, Width(column));
+    const ByteSpan wanted = BytesAt(column, kind_.Default.data());
     for (std::size_t row = 0; row < Count(); ++row)
-      if (!std::equal(wanted.begin(), wanted.end(), Record(row) + offset)) return false;
+      if (!std::equal(wanted.begin(), wanted.end(), BytesAt(column, Record(row)).begin()))
+        return false;
     return true;
-  }
-
-  static std::size_t Width(const Column& column) {
-    return static_cast<std::size_t>(column.Of->Width);
   }
 
   /// The column that every table has: the name of its records, where they have one.
