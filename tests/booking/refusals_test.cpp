@@ -595,9 +595,6 @@ TEST(Grievances, OfTheLastBoutOfAFeud) {
 }
 
 TEST(Grievances, TakeMoraleDownToNothing) {
-  for (const auto& [level, price] : {std::pair(0, 0), std::pair(1, 5), std::pair(2, 10),
-                                     std::pair(3, 15), std::pair(4, 25), std::pair(5, 50)})
-    EXPECT_EQ(MoralePrice(level), price);
   World world = Roster();
   Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 1", "Woman 1"});
   StoreResult(match, UidOf(world, "Woman 1"), {});

@@ -114,7 +114,7 @@ void ExpectRecords(const std::vector<Booking>& bookings) {
     Book(play, booking);
     play.Reopen();
     EXPECT_EQ(RecordOf(play.World(), kSlot), booking.Expected.Held);
-    EXPECT_EQ(WhyNotTalk(play.World(), play.World().Segments()[kSlot], {booking.IsEvent}),
+    EXPECT_EQ(WhyNotBookable(play.World(), play.World().Segments()[kSlot], {booking.IsEvent}),
               std::vector<std::string>());
     for (const int other : {kSlot - 1, kSlot + 1})
       EXPECT_EQ(RecordOf(play.World(), other), Bytes143(0, 0, 0, {}).Held);

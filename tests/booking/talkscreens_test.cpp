@@ -1,4 +1,4 @@
-#include "booking/screens/stepscreens.h"
+#include "booking/screens/screenstep.h"
 
 #include <gtest/gtest.h>
 
