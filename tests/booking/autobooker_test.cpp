@@ -1,7 +1,5 @@
 #include "autocards.h"
 
-#include <set>
-
 #include "booking/auto/autoplan.h"
 #include "records/angles.h"
 
@@ -17,10 +15,6 @@ int Uid(const World& world, std::string_view name) {
 
 int MatchesOf(const AutoCard& card, int uid) {
   return Count(card, [&](const Segment& row) { return row.Kind == kMatch && TakesPart(row, uid); });
-}
-
-bool AreTogether(const Segment& row, int uidA, int uidB) {
-  return TakesPart(row, uidA) && TakesPart(row, uidB);
 }
 
 TEST(AutoBooker, FillsEverySheetWithAMixAndTheTopLast) {
@@ -169,47 +163,6 @@ TEST(AutoBooker, LeavesTheDarkMatchOutBeforeTheShowProperGoesShort) {
   });
 }
 
-TEST(AutoFeuds, EachGetsSomethingOnEveryCard) {
-  World world = House(30)
-                    .Team("Moles", "Hand 11", "Hand 13")
-                    .Team("Voles", "Hand 12", "Hand 14")
-                    .Stable("The Tide", {"Hand 2", "Hand 22"})
-                    .Game("CWA")
-                    .Feud("Hand 1", "Hand 2")
-                    .Feud("Hand 5", "Hand 6")
-                    .TagFeud("Hand 11", "Hand 13", "Hand 12", "Hand 14");
-  std::set<int> kinds, styles;
-  for (const bool isEvent : {false, true})
-    CardsWith(
-        world, isEvent, isEvent ? kEventRows : kTv,
-        [&](const AutoCard& card) {
-          for (const auto& [one, two] : {std::pair(1, 2), std::pair(5, 6), std::pair(11, 12)}) {
-            const int a = Uid(world, "Hand " + std::to_string(one)),
-                      b = Uid(world, "Hand " + std::to_string(two));
-            EXPECT_GT(Count(card,
-                            [&](const Segment& row) {
-                              return AreTogether(row, a, b) ||
-                                     (row.Text == "The Tide" && row.Worker[0] == a);
-                            }),
-                      0)
-                << one;
-          }
-          for (const Segment& row : card.Rows) {
-            if (AreTogether(row, Uid(world, "Hand 1"), Uid(world, "Hand 2")))
-              kinds.insert(row.Kind);
-            if (row.Kind != kAngle) continue;
-            styles.insert(row.Style);
-            if (row.Style == kAmbush || row.Style == 27 || row.Style == kStableAttack) {
-              EXPECT_EQ(0, MatchesOf(card, row.Worker[0])) << "nobody is carried out and wrestles";
-            }
-          }
-          return true;
-        },
-        2 * kSeeds);
-  EXPECT_EQ(kinds, (std::set<int>{kMatch, kInterview, kAngle}));
-  EXPECT_TRUE(styles.contains(kAmbush) && styles.contains(kStableAttack));
-}
-
 TEST(AutoFeuds, EndAtAnEventOnceTheyHaveHadEnough) {
   struct {
     const char* Says;
@@ -236,24 +189,6 @@ TEST(AutoFeuds, EndAtAnEventOnceTheyHaveHadEnough) {
       return ends;
     });
     EXPECT_EQ(feud.Ends ? int(kSeeds) : 0, ended) << feud.Says;
-  }
-}
-
-TEST(AutoFeuds, StipulationsAreForEventsAndWithinTheRisk) {
-  for (const int risk : {0, 95}) {
-    World world = House(30, kCult, risk).Game("CWA").Feud("Hand 1", "Hand 2", [](Feud& feud) {
-      feud.Heat = 80;
-      feud.Clean1 = feud.Dirty2 = 8;
-    });
-    const int cards = CardsWith(world, true, kEventRows, [&](const AutoCard& card) {
-      const int special = Count(card, [](const Segment& row) {
-        return row.Kind == kMatch && row.Style <= kTag && row.MatchType != kPlainSingles;
-      });
-      const Segment* match = MatchOf(card, Uid(world, "Hand 1"), Uid(world, "Hand 2"));
-      EXPECT_EQ(special, match && match->MatchType != kPlainSingles) << "nobody else has a reason";
-      return special;
-    });
-    EXPECT_EQ(risk == 0 ? 0 : int(kSeeds), cards) << risk;
   }
 }
 
@@ -297,19 +232,6 @@ TEST(AutoTalk, NeedsWritersForAnglesAndBringsManagersAlong) {
                                }) > 0;
                       }),
             int(kSeeds) / 2);
-}
-
-TEST(AutoTalk, LetsTheCommissionerAnnounceAMatchOfTonight) {
-  World world = House(30).Worker("Com Boss", kNonWrestler, 50).Game("CWA");
-  world.Player().Commissioner = Uid(world, "Com Boss");
-  const auto announces = [&](const AutoCard& card) {
-    return Count(card, [&](const Segment& row) {
-      if (row.Kind != kAngle || row.Style != kMatchMaking) return false;
-      EXPECT_TRUE(MatchOf(card, row.Worker[1], row.Worker[2])) << "it has to come off";
-      return true;
-    });
-  };
-  EXPECT_GT(CardsWith(world, false, kTv, announces, 2 * kSeeds), 0);
 }
 
 TEST(AutoChanges, AWaitingTurnIsMade) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "booking/ring.h"
+#include "booking/wizard/matchrules.h"
 #include "booking/wizard/segmentcheck.h"
 
 namespace grapplemont::test {
@@ -25,18 +26,6 @@ Names Men(int count) {
 using S = Segment;
 // Men have the uids of their numbers.
 const Booking kBookings[] = {
-    Booking("1 vs 1", "Singles", 2,
-            {{"cmbwinner: Man 2"},
-             {"lstfinish: Man 2 by interference", "lstrun1: Man 9"},
-             {"lstafter: Run in for the save", "lstrun1: Man 10"},
-             {"lstpurpose: Put Man 10 over"}},
-            {{&S::Winner, 2},
-             {&S::Loser, 1},
-             {&S::Finish, 3},
-             {&S::Other1, 9},
-             {&S::Aftermath, 26},
-             {&S::Other2, 10},
-             {&S::Purpose, 32}}),
     Booking(
         "1 vs 1", "Singles", 2,
         {{"cmbwinner: Draw"},
@@ -62,11 +51,6 @@ const Booking kBookings[] = {
         "2 vs 2 vs 2", "Elimination", 6,
         {{"cmbwinner: Man 5 \\ Man 6", "cmbloser1: Man 3 \\ Man 4", "cmbloser2: Man 1 \\ Man 2"}},
         {{&S::Winner, 5}, {&S::Loser, 3}, {&S::Place3, 1}}),
-    Booking("2 vs 2 vs 2", "Triangle", 6, {{"cmbwinner: Man 4", "cmbloser: Man 6"}},
-            {{&S::Winner, 4}, {&S::Loser, 6}}),
-    Booking("1 vs 1 vs 1 vs 1", "Elimination", 4,
-            {{"cmbwinner: Man 1", "cmbloser1: Man 4", "cmbloser2: Man 3", "cmbloser3: Man 2"}},
-            {{&S::Winner, 1}, {&S::Loser, 4}, {&S::Place3, 3}, {&S::Place4, 2}}),
     Booking("2 vs 2 vs 2 vs 2", "TLC", 8, {{"cmbwinner: Man 5 \\ Man 6"}},
             {{&S::Winner, 5}, {&S::Loser, 1}}),
     Booking("3 vs 3", "Tag", 6,
@@ -114,43 +98,6 @@ TEST(BookMatch, WritesEveryFormOfMatchAsChosen) {
     EXPECT_EQ(FindMatchStyle(held.Style)->Says, booking.Style);
     EXPECT_EQ(WhyNotBookable(play.World(), held, {}), Names());
   }
-}
-
-TEST(BookMatch, FillsABattleRoyalInTheOrderOfEntry) {
-  BookingPlay play(BookingRoster().Game("CWA"));
-  play.Book();
-  play.ChooseMatch("Special", "10 Man Battle Royal");
-  EXPECT_EQ(play.Desk.Text("lblroster"), "Roster : 16");
-  EXPECT_FALSE(play.Desk.Enabled("cmddone"));
-  EXPECT_FALSE(play.Desk.Enabled("cmdadd"));
-  for (int i = 10; i >= 2; --i) {
-    play.Desk.Pick("lstroster", "Man " + std::to_string(i));
-    play.Desk.Click("cmdadd");
-  }
-  play.Desk.OpenRow("lstroster", "Man 12");
-  EXPECT_EQ(play.Desk.Text("lblenter"), "Entered : 10");
-  play.Desk.Pick("lstroster", "Man 11");
-  play.Desk.Click("cmdadd");
-  EXPECT_EQ(play.Desk.Tip("cmddone"), "10 workers must be entered; so far it is 11.");
-  play.Desk.Pick("lstenter", "Man 5");
-  play.Desk.Click("cmdrem");
-  EXPECT_EQ(play.Desk.Text("lblroster"), "Roster : 6");
-  play.Next();
-  play.Next();
-  PickAll(play.Desk, {"cmbwinner: Man 7", "cmbloser: Man 7"});
-  play.Desk.ExpectSay("Error!", "The same person cannot win and be runner up!");
-  play.Next();
-  play.Desk.Pick("cmbloser", "Man 11");
-  play.Next();
-  EXPECT_EQ(play.Desk.Text("txtdesc(3)"), "10 Workers Entered");
-  EXPECT_EQ(play.Desk.Text("txtdesc(5)"), "Result = Man 7 Wins");
-  play.Complete();
-  Segment expected = MatchOf(play.World(), kSpecial, kTenMan,
-                             {"Man 10", "Man 9", "Man 8", "Man 7", "Man 6", "Man 4", "Man 3",
-                              "Man 2", "Man 12", "Man 11"});
-  expected.Winner = 7;
-  expected.Loser = 11;
-  ExpectSegment(play.Slot(), expected);
 }
 
 TEST(BookMatch, TellsWhatAWinnerCostsBeforeIt) {
@@ -242,140 +189,37 @@ TEST(BookMatch, BooksAPlainSinglesMatchWithWhatIsPreselected) {
   ExpectSegment(play.Slot(), expected);
 }
 
-TEST(BookMatch, RefusesPicksThatCannotBe) {
+TEST(BookMatch, RefusesResultsThatCannotBe) {
   struct Row {
-    const char* Style;
-    const char* Type;
-    int People;
-    Picks Result;
+    int Style, Type, Winner;
+    std::vector<int> Losers;
     const char* Message;
   };
   const Row kRows[] = {
-      Row("2 vs 2", "Tag", 4, {"cmbwinner: Man 1", "cmbloser: Man 1"},
-          "A worker cannot both win and lose a match"),
-      Row("2 vs 2", "Tag", 4, {"cmbwinner: Man 3", "cmbloser: Man 4"},
-          "Team mates cannot both win and lose the same match."),
-      Row("1 vs 1 vs 1", "Triangle", 3, {"cmbwinner: Man 2", "cmbloser: Man 2"},
-          "The same worker cannot win and lose the same bout!"),
-      Row("1 vs 1 vs 1", "Elimination", 3, {"cmbloser1: Man 3", "cmbloser2: Man 3"},
-          "Please select a different worker for each box!"),
-      Row("2 vs 2 vs 2", "Elimination", 6, {"cmbloser1: Man 1 \\ Man 2"},
-          "Please select a different team for each box!"),
-      Row("4 vs 4", "Survivor", 8, {"cmbloser1: None"},
-          "Sorry, the first elimination box MUST be filled in."),
-      Row("4 vs 4", "Survivor", 8, {"cmbloser7: Man 1"},
-          "You have selected the same worker twice!"),
-      Row("4 vs 4", "Survivor", 8, {"cmbloser3: Man 3"}, "One team must be totally eliminated!"),
+      {kTag, 1, 1, {1}, "A worker cannot both win and lose a match"},
+      {kTag, 1, 3, {4}, "Team mates cannot both win and lose the same match."},
+      {kTag, 1, 3, {1}, ""},
+      {kThreeWay, kTriangle, 2, {2}, "The same worker cannot win and lose the same bout!"},
+      {kThreeWay, kElimination, 1, {3, 3}, "Please select a different worker for each box!"},
+      {kThreeTeams, kElimination, 1, {1, 3}, "Please select a different team for each box!"},
+      {kThreeTeams, kTriangle, 5, {6}, "The winner and loser cannot be team-mates!"},
+      {kFourOnFour, kSurvivor, 1, {0}, "Sorry, the first elimination box MUST be filled in."},
+      {kFourOnFour, kSurvivor, 1, {5, 6, 7, 2}, "One team must be totally eliminated!"},
+      {kFourOnFour, kSurvivor, 1, {5, 6, 7, 8}, ""},
+      {kSpecial, kTenMan, 7, {7}, "The same person cannot win and be runner up!"},
   };
   for (const Row& row : kRows) {
-    SCOPED_TRACE(std::string(row.Style) + ", " + row.Message);
-    BookingPlay play(BookingRoster().Game("CWA"));
-    play.Book();
-    play.ChooseMatch(row.Style, row.Type);
-    Names twice = Men(row.People);
-    twice.back() = "Man 1";
-    play.Desk.ExpectSay("Error!", "You have selected the same worker twice!");
-    play.ChoosePeople(twice);
-    play.ChoosePeople(Men(row.People));
-    play.Next();
-    const std::string screen = play.Desk.TopName();
-    PickAll(play.Desk, row.Result);
-    play.Desk.ExpectSay("Error!", row.Message);
-    play.Desk.Click("cmddone");
-    EXPECT_EQ(play.Desk.TopName(), screen);
-    play.Desk.Click("cmdback");
-    EXPECT_EQ(play.Desk.Text("txtdesc(5)"), "");
+    Segment match = EmptySegment();
+    match.Kind = kMatch;
+    match.Style = row.Style;
+    match.MatchType = row.Type;
+    for (int i = 0; i < EntrantsOf(match); ++i) match.Worker[static_cast<std::size_t>(i)] = i + 1;
+    StoreResult(match, row.Winner, row.Losers);
+    EXPECT_EQ(WhyNotLeft(match, kResultStep), row.Message);
+    EXPECT_EQ(WhyNotLeft(match, kPeopleStep), "");
+    match.Worker[1] = 1;
+    EXPECT_EQ(WhyNotLeft(match, kPeopleStep), "You have selected the same worker twice!");
   }
-}
-
-TEST(BookMatch, AsksForRunInsWhereTheyAreNeeded) {
-  BookingPlay play(BookingRoster().Game("CWA"));
-  play.Book();
-  play.ChooseMatch("1 vs 1", "Singles");
-  play.Desk.ExpectSay("Error!", "Workers cannot fight themselves!");
-  play.ChoosePeople({"Man 1", "Man 1"});
-  play.ChoosePeople({"Man 1", "Man 2"});
-  play.Next();
-  play.Next();
-  EXPECT_FALSE(play.Desk.Enabled("lstrun1"));
-  const Names runIns = play.Desk.FirstColumn("lstrun1");
-  EXPECT_EQ(runIns.front(), "None");
-  EXPECT_EQ(runIns.size(), 15u) << "None, and all but the two in the match";
-  play.Desk.Pick("lstfinish", "Man 1 by botched interference");
-  play.Desk.ExpectSay("Error!", "You must select someone to run in if you want interference");
-  play.Next();
-  play.Desk.Pick("lstfinish", "Man 1 cleanly");
-  play.Next();
-  play.Desk.Pick("lstafter", "Run in attack on Man 2");
-  play.Desk.ExpectSay("Error!", "You must select someone to run in for this aftermath");
-  play.Next();
-  play.Desk.Pick("lstrun1", "Man 3");
-  play.Desk.Click("cmddone");
-  EXPECT_EQ(play.Desk.Text("txtdesc(7)"), "Aftermath = Run in attack on Man 2\nFrom Man 3");
-}
-
-TEST(BookMatch, AsksForRunInsOfTeams) {
-  BookingPlay play(BookingRoster().Game("CWA"));
-  play.Book();
-  play.ChooseMatch("2 vs 2", "Tag");
-  play.ChoosePeople(Men(4));
-  play.Next();
-  play.Next();
-  PickAll(play.Desk, {"lstfinish: Man 1 \\ Man 2 by interference", "lstrun2: Man 5"});
-  play.Desk.ExpectSay("Error!",
-                      "If you want interference, someone must be picked in the first inteference "
-                      "box");
-  play.Next();
-  play.Desk.Pick("lstrun1", "Man 5");
-  play.Desk.ExpectSay("Error!", "You cannot select the same interfering person twice");
-  play.Next();
-  play.Desk.Pick("lstrun1", "Man 6");
-  play.Next();
-  const Names savers = play.Desk.FirstColumn("lstrun1");
-  EXPECT_EQ(std::count(savers.begin(), savers.end(), "Man 6"), 0) << "is in the ring already";
-  PickAll(play.Desk, {"lstafter: Run in for the save", "lstrun1: Man 8", "lstrun2: Man 8"});
-  play.Desk.ExpectSay("Error!", "You can't select the same person to run in twice!");
-  play.Next();
-  play.Desk.Pick("lstrun2", "Man 7");
-  play.Desk.Click("cmddone");
-  EXPECT_EQ(play.Desk.Tip("txtdesc(6)"), "From Man 6 \\ Man 5");
-  EXPECT_EQ(play.Desk.Text("txtdesc(7)"), "Aftermath = Run in for the save\nFrom Man 8 \\ Man 7");
-}
-
-TEST(BookMatch, AsksWhetherAChampionMayBeMissing) {
-  BookingPlay play(BookingRoster()
-                       .Title("Crown", "Man 1")
-                       .Title("Vacant Crown")
-                       .Title("Tag Straps", "Man 1", "Man 2")
-                       .Game("CWA"));
-  const char* text = "The champion is not present in this match! Continue?";
-  play.Book();
-  play.ChooseMatch("1 vs 1", "Singles");
-  play.ChoosePeople({"Man 2", "Man 3"});
-  EXPECT_EQ(play.Desk.FirstColumn("lsttitle"), (Names{"Crown", "Vacant Crown", "None"}));
-  EXPECT_EQ(play.Desk.Selected("lsttitle"), std::vector{3});
-  play.Desk.Pick("lsttitle", "Crown");
-  play.Desk.ExpectAsk("Continue?", text, false);
-  play.Next();
-  EXPECT_EQ(play.Desk.TopName(), "frmBookBelt");
-  play.Desk.ExpectAsk("Continue?", text, true);
-  play.Desk.Click("cmddone");
-  EXPECT_EQ(play.Desk.Text("txtdesc(4)"), "Title = Crown");
-  play.Desk.Click("cmdback(4)");
-  play.Desk.Click("cmdbook(4)");
-  play.Desk.Pick("lsttitle", "Vacant Crown");
-  play.Next();
-  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1Winner") << "nobody holds it";
-  play.Desk.Click("cmdback");
-  play.Desk.Click("cmdexit");
-
-  play.Book();
-  play.ChooseMatch("2 vs 2", "Tag");
-  play.ChoosePeople({"Man 1", "Man 3", "Man 2", "Man 4"});
-  play.Desk.Pick("lsttitle", "Tag Straps");
-  play.Desk.ExpectAsk("Continue?",
-                      "The tag team champions are not present in this match! Continue?", false);
-  play.Next();
 }
 
 }  // namespace

@@ -165,19 +165,6 @@ TEST(EventSheet, StartsWithItsExtraPaidAndItsBonusDrawn) {
   EXPECT_EQ(run.ExtraBonus, 11);
 }
 
-TEST(EventSheet, DrawsNothingForAnExtraThatBringsNothing) {
-  OnSheet play(OnTheDay(Arena(kRegional)));
-  BookEnough(play);
-  const int money = play.World().Player().Money;
-  play.Desk.Pick("cmbspecial", "Have Pyros For Ring Entrances");
-  ScriptDraws(play.World(), {2});
-  play.Desk.ExpectAsk("Continue?", kTeamText, true);
-  play.Desk.ExpectAsk("Sure?", kStartText, true);
-  play.Desk.Click("cmddoshow");
-  EXPECT_EQ(play.World().Player().Money, money - 80000);
-  EXPECT_EQ(play.World().ShowRuns()[1].ExtraBonus, 0);
-}
-
 TEST(EventSheet, IsLeftForNothingAndCancelledForItsCharge) {
   OnSheet play(OnTheDay(Arena()));
   BookEnough(play);

@@ -72,22 +72,14 @@ TEST(Finishes, GoByTypeResultAndPartner) {
 
 TEST(Finishes, OfBiggerTeamsNameWhoIsReadyToTurn) {
   World world = BookingRoster().Game("CWA");
-  Lines people;
-  for (int i = 1; i <= 8; ++i) people.push_back("Man " + std::to_string(i));
-  Segment eight = MatchOf(world, kFourOnFour, kSurvivor, people);
-  StoreResult(eight, 1, {5});
-  people.resize(6);
-  Segment six = MatchOf(world, kThreeOnThree, 1, people);
+  Segment six =
+      MatchOf(world, kThreeOnThree, 1, {"Man 1", "Man 2", "Man 3", "Man 4", "Man 5", "Man 6"});
   StoreResult(six, 1, {4});
   EXPECT_EQ(OfferedFinishes(world, six), (Codes{1, 2}));
-  for (const char* name : {"Man 2", "Man 6", "Man 8"})
-    Named(world.Workers(), name).TurnPending = true;
+  for (const int uid : {2, 6, 8}) world.FindWorker(uid)->TurnPending = true;
   EXPECT_EQ(OfferedFinishes(world, six), (Codes{1, 2, 4, 8}));
-  EXPECT_EQ(OfferedFinishes(world, eight), (Codes{1, 2, 4, 8, 10}));
   StoreResult(six, 0, {});
-  StoreResult(eight, 0, {});
   EXPECT_EQ(OfferedFinishes(world, six), (Codes{4, 8, 9, 10, 11}));
-  EXPECT_EQ(OfferedFinishes(world, eight), (Codes{4, 8, 10, 11, 12, 13}));
   EXPECT_EQ(OfferedFinishes(world, MatchOf(world, kThreeWay, 1, {})), Codes());
 }
 
@@ -120,27 +112,6 @@ Lines PurposesRead(const World& world, const Segment& match) {
   for (const int code : OfferedPurposes(world, match))
     lines.push_back(PhraseText(world, match, PurposesOf(match.Style), code));
   return lines;
-}
-
-TEST(Purposes, OfASinglesMatch) {
-  World world = BookingRoster()
-                    .Worker("New Man", [](Worker& w) { w.Debuted = false; })
-                    .Game("CWA")
-                    .Feud("Man 2", "Man 1");
-  Segment match = Singles(world, kBraAndPanties, true);
-  match.Finish = kInterference;
-  match.Other1 = UidOf(world, "New Man");
-  match.Aftermath = after1::kFailedSave;
-  match.Other2 = 6;
-  EXPECT_EQ(PurposesRead(world, match),
-            (Lines{"Debut New Man", "Put Man 1 over", "Put Man 2 over", "Put New Man over",
-                   "Put Man 6 over", "Put on a good match", "End feud", "Continue feud",
-                   "Eye Candy", "None"}));
-  Segment draw = Singles(world, kPlainSingles, false);
-  draw.Finish = kNoContest;
-  draw.Other1 = 7;
-  EXPECT_EQ(PurposesRead(world, draw), (Lines{"Put on a good match", "Put both workers over",
-                                              "Put Man 7 over", "Continue feud", "None"}));
 }
 
 Codes PurposesAmong(const World& world, const Segment& match, const Codes& codes) {
@@ -265,19 +236,6 @@ TEST(Purposes, DebutEachOfATagMatchAndThePairsOfNewcomers) {
   }
 }
 
-TEST(RunInRoster, KeepsToTheSplitAndLeavesThoseInTheRingOut) {
-  World world = BookingRoster().Worker("Cook", kNonWrestler, 30).Game("CWA");
-  for (const char* name : {"Man 1", "Man 3", "Cook"}) Named(world.Workers(), name).Split = "Red";
-  const auto names = [&](const char* split) {
-    Lines found;
-    for (const Worker* worker : RunInRoster(world, Singles(world, 1, true), {false, split}))
-      found.push_back(worker->Name.Str());
-    return found;
-  };
-  EXPECT_EQ(names("Red"), (Lines{"Man 3", "Cook"}));
-  EXPECT_EQ(names("All").size(), 15u);
-}
-
 TEST(Purposes, OfATagMatch) {
   const auto isNew = [](Worker& w) { w.Debuted = false; };
   World world = BookingRoster()
@@ -304,23 +262,15 @@ TEST(Purposes, OfATagMatch) {
 }
 
 TEST(CanTurn, LooksAtBothSides) {
-  struct Row {
-    const char* Turner;
-    const char* Partner;  // empty for nobody
-    bool Can;
-  };
-  for (const Row& row :
-       {Row{"F", "F", true}, Row{"F", "H", false}, Row{"F", "T", true}, Row{"H", "F", false},
-        Row{"H", "H", true}, Row{"H", "T", true}, Row{"T", "F", true}, Row{"T", "H", true},
-        Row{"T", "T", false}, Row{"F", "", true}, Row{"T", "", true}, Row{"H", "", false}}) {
+  for (const std::string pair : {"FF", "FT", "HH", "HT", "TF", "TH", "FH", "HF", "TT"}) {
     Worker turner, partner;
-    turner.Disposition = row.Turner;
-    partner.Disposition = row.Partner;
+    turner.Disposition = pair.substr(0, 1);
+    partner.Disposition = pair.substr(1);
     turner.TurnPending = true;
-    const Worker* other = *row.Partner ? &partner : nullptr;
-    EXPECT_EQ(CanTurn(turner, other), row.Can) << row.Turner << row.Partner;
+    EXPECT_EQ(CanTurn(turner, &partner), pair != "FH" && pair != "HF" && pair != "TT") << pair;
+    EXPECT_EQ(CanTurn(turner, nullptr), pair[0] != 'H') << pair;
     turner.TurnPending = false;
-    EXPECT_FALSE(CanTurn(turner, other));
+    EXPECT_FALSE(CanTurn(turner, &partner));
   }
 }
 

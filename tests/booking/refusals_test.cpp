@@ -340,59 +340,5 @@ TEST(Grievances, OfTheLastBoutOfAFeud) {
   }
 }
 
-TEST(RefusalBoxes, LetThePlayerInsistAndPayForIt) {
-  World world = Roster();
-  Give(world, 1, {81, 70});
-  world.FindWorker(1)->Morale = 80;
-  BookingPlay play(std::move(world));
-  const auto insist = [&](std::initializer_list<bool> answers) {
-    for (const bool answer : answers) {
-      play.Desk.ExpectSay("Refusal!", kLeague);
-      play.Desk.ExpectAsk("Continue?", "Contine Anyway?", answer, ui::Default::No);
-    }
-  };
-  play.Book();
-  play.ChooseMatch("1 vs 1", "Singles");
-  play.ChoosePeople({"Man 1", "Man 2"});
-  play.Next();
-  play.Desk.Pick("cmbwinner", "Man 2");
-  EXPECT_EQ(play.Desk.Text("txtsay"), kLeague + "\n" + kLeague);
-  insist({false});
-  play.Next();
-  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1Winner");
-  insist({true, true});
-  for (int step = 5; step < 9; ++step) play.Next();
-  EXPECT_EQ(play.World().FindWorker(1)->Morale, 80) << "nothing is paid yet";
-  play.Complete();
-  play.Reopen();
-  EXPECT_EQ(play.World().FindWorker(1)->Morale, 65) << "the highest level alone counts";
-}
-
-TEST(RefusalBoxes, CannotBePassedAgainstCreativeControlOrWhereNothingHelps) {
-  World world = Roster();
-  Worker& queen = Named(world.Workers(), "Woman 2");
-  queen.Over = 81;
-  queen.Attitude = 80;
-  queen.CreativeControl = true;
-  BookingPlay play(std::move(world));
-  play.Book();
-  play.ChooseMatch("1 vs 1", "Singles");
-  play.ChoosePeople({"Woman 2", "Woman 1"});
-  play.Next();
-  play.Desk.Pick("cmbwinner", "Woman 1");
-  play.Desk.ExpectSay("Refusal!", "Woman 2: I am not losing this match, she is not in my league.");
-  play.Desk.ExpectSay("Creative Control",
-                      "Because she has creative control, you cannot challenge this.");
-  play.Desk.Click("cmddone");
-  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1Winner");
-  play.Desk.Click("cmdback");
-  play.Desk.Click("cmdexit");
-  play.Book();
-  play.ChooseMatch("1 vs 1", "Buck Naked");
-  play.Desk.ExpectSay("Refusal!", "Man 1: You're joking, right???");
-  play.ChoosePeople({"Man 1", "Man 2"});
-  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1");
-}
-
 }  // namespace
 }  // namespace grapplemont::test

@@ -147,63 +147,6 @@ TEST(TelevisionSheet, TellsWhatIsBookedInARow) {
   EXPECT_NE(textOf(1).find("Nothing is booked here."), std::string::npos);
 }
 
-Segment Booked(const World& world, int kind, int style, int type, int people) {
-  Segment segment = EmptySegment();
-  segment.Kind = kind;
-  segment.Style = style;
-  segment.MatchType = type;
-  for (int i = 1; i <= people; ++i)
-    segment.Worker[static_cast<std::size_t>(i - 1)] = world.Workers()[i].Uid;
-  return segment;
-}
-
-TEST(DetailsOfRow, TellsWhatTheSummaryLeavesOut) {
-  const World world = Sunday();
-  struct Row {
-    int Style, Type, People;
-    std::vector<int> Result;  // Winner, Loser, Place3 and up; hands have the uids of their numbers
-    Names Told;
-  };
-  const std::string kOrder = "Order of elimination: ";
-  const Row kRows[] = {
-      Row(kSingles, 1, 2, {1, 2}, {}),
-      Row(kTag, 1, 4, {2, 4}, {"Fall: CWA Hand 2 over CWA Hand 4"}),
-      Row(kTag, 1, 4, {}, {}),
-      Row(kThreeTeams, kThreeTeamsTlc, 6, {1}, {}),
-      Row(kThreeTeams, kElimination, 6, {1, 5, 3},
-          {kOrder + "CWA Hand 5 \\ CWA Hand 6, The Dock Rats"}),
-      Row(kFourWay, kElimination, 4, {1, 4, 2, 3}, {kOrder + "CWA Hand 4, CWA Hand 2, CWA Hand 3"}),
-      Row(kFourOnFour, kSurvivor, 8, {1, 5, 2, 6, 0, 7, 8},
-          {kOrder + "CWA Hand 5, CWA Hand 2, CWA Hand 6, CWA Hand 7, CWA Hand 8"}),
-      Row(kSpecial, kTenMan, 3, {3, 1},
-          {"Entrants: CWA Hand 1, CWA Hand 2, CWA Hand 3", "Runner-up: CWA Hand 1"}),
-  };
-  for (const Row& row : kRows) {
-    Segment match = Booked(world, kMatch, row.Style, row.Type, row.People);
-    match.Loser = kNoLoser;
-    Word* const places[] = {&match.Winner, &match.Loser,  &match.Place3, &match.Place4,
-                            &match.Place5, &match.Place6, &match.Place7};
-    for (std::size_t i = 0; i < row.Result.size(); ++i) *places[i] = row.Result[i];
-    EXPECT_EQ(DetailsOfRow(world, match), row.Told) << row.Style << ", " << row.Type;
-  }
-}
-
-TEST(DetailsOfRow, TellsWhoPlaysWhat) {
-  const World world = Sunday();
-  Segment ambush = Booked(world, kAngle, kAmbush, 0, 4);
-  ambush.Worker[2] = 0;
-  EXPECT_EQ(DetailsOfRow(world, ambush),
-            (Names{"Ambushee: CWA Hand 1", "Ambusher #1: CWA Hand 2", "Saver: CWA Hand 4"}));
-  Segment attack = Booked(world, kAngle, kStableAttack, 0, 1);
-  attack.Text = "The Tide";
-  EXPECT_EQ(DetailsOfRow(world, attack), (Names{"Victim: CWA Hand 1", "Stable: The Tide"}));
-  Segment award = Booked(world, kAngle, kAwardSingles, 0, 2);
-  award.TitleName = "CWA Crown";
-  EXPECT_EQ(DetailsOfRow(world, award),
-            (Names{"Commissioner: CWA Hand 1", "Title: CWA Crown", "Worker: CWA Hand 2"}));
-  EXPECT_EQ(DetailsOfRow(world, Talk(world, "CWA Hand 1")), Names());
-}
-
 TEST(TelevisionSheet, SaysWhatTheShowMayComeToAndWhoIsFree) {
   OnSheet play(Sunday());
   EXPECT_EQ(play.Desk.Text("lblforecast"), "Nothing is booked yet.");
@@ -321,42 +264,6 @@ TEST(TelevisionSheet, OffersTheAutoBookerWhileSomebodyAboveTheJobbersIsFit) {
     EXPECT_TRUE(
         play.Desk.Boxes().back().Text.starts_with("The roster has nothing to fill a row with.\n"));
   }
-}
-
-TEST(Sheet, OpensEachScreenAtHandAndComesBack) {
-  const std::pair<const char*, const char*> kAtHand[] = {
-      {"cmddebut", "frmDebut"},      {"cmdfeuds", "frmFeuds"},     {"cmdmanagers", "frmManagers"},
-      {"cmdroster", "frmAltRoster"}, {"cmdstables", "frmStables"}, {"cmdstats", "frmQuickStat"},
-      {"cmdteams", "frmTagTeams"},   {"cmdtitles", "frmAltBelts"}, {"cmdturns", "frmTurn"},
-      {"cmdnotepad", "frmNotepad"},  {"cmdauto", "frmAutoBook"}};
-  OnSheet play(Sunday());
-  play.Book(1, Talk(play.World(), "CWA Hand 3"));
-  for (const auto& [button, screen] : kAtHand) {
-    play.Desk.Click(button);
-    ASSERT_EQ(play.Desk.TopName(), screen);
-    play.Desk.Click(play.Desk.Top()->Layout().Cancel->Name());
-    ASSERT_EQ(play.Desk.TopName(), "frmBooking") << screen;
-    EXPECT_EQ(play.Row(1)[1], "Interview with CWA Hand 3") << screen;
-  }
-}
-
-TEST(Sheet, FillsTheRestAfterAsking) {
-  OnSheet play(Sunday("G"));
-  play.Book(2, Singles(play.World(), "CWA Hand 29", "CWA Hand 30"));
-  play.Desk.ExpectAsk("Fill The Rest", kAnyText, false);
-  play.Desk.Click("cmdfill");
-  EXPECT_EQ(play.Desk.Text("lblcount"), "1 of 2 matches, 1 of 5 segments booked.");
-  play.Desk.ExpectAsk("Fill The Rest", kAnyText, true);
-  play.Desk.Click("cmdfill");
-  EXPECT_TRUE(play.Desk.Boxes().back().Text.starts_with(
-      "Book 4 segments in the rows that are still empty? What you have booked stays."));
-  EXPECT_EQ(play.Row(2)[1], "CWA Hand 29 over CWA Hand 30");
-  for (int record = 1; record <= 5; ++record)
-    EXPECT_NE(play.Row(record)[1], "<Nothing Booked>") << record;
-  for (int record = 6; record <= 11; ++record)
-    EXPECT_EQ(play.World().Segments()[record].Kind, kEmptySegment) << record;
-  EXPECT_FALSE(play.Desk.Enabled("cmdfill"));
-  EXPECT_TRUE(play.Desk.Enabled("cmddoshow"));
 }
 
 }  // namespace

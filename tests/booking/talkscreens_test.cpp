@@ -82,93 +82,6 @@ TEST(frmIV1, CannotBePassedWithoutATalker) {
   Refused(desk, "Please select a worker!");
 }
 
-TEST(frmIV2opp, OffersNoneFirstAndNoSpeakers) {
-  Steps steps(TalkCompany(), kInterview);
-  ScriptDesk& desk =
-      steps.Do({"lsttype: Tag Team"}).Do({"lstwres1: Bob Bold", "lstwres2: Dan Dark"}).Open().Desk;
-  const Names offered = desk.FirstColumn("lstopp1");
-  EXPECT_EQ(offered.front(), "None");
-  EXPECT_EQ(offered, desk.FirstColumn("lstopp2"));
-  for (const char* absent : {"Bob Bold", "Dan Dark", "Com Boss"})
-    EXPECT_EQ(std::count(offered.begin(), offered.end(), absent), 0) << absent;
-  EXPECT_EQ(desk.Selected("lstopp1"), std::vector{1});
-  desk.Pick("lstopp2", "Eve East");
-  Refused(desk, "If the first opponent is 'None', then the second must be too!");
-  desk.Pick("lstopp1", "Eve East");
-  Refused(desk, "Please select two different people!");
-  desk.Pick("lstopp2", "None");
-  desk.Click("cmddone");
-  EXPECT_EQ(steps.Buffer(), (Names{"3", "5", "6"}));
-}
-
-TEST(frmIVPurpose, StartsFromNone) {
-  for (const auto& [target, purposes] :
-       {std::pair<std::string, Names>{"None", {"None", "Self Promotion"}},
-        {"Bob Bold", {"None", "Verbal Attack", "Hype Upcoming Match", "Turn"}}}) {
-    Steps steps(TalkCompany(), kInterview);
-    ScriptDesk& desk = steps.Do({"lsttype: Single Worker"})
-                           .Do({"lstwres1: Dan Dark"})
-                           .Do({"lstopp1: " + target})
-                           .Open()
-                           .Desk;
-    EXPECT_EQ(desk.FirstColumn("cmbwinner"), purposes);
-    desk.Click("cmddone");
-    EXPECT_EQ(steps.State().Buffer.Purpose, kTalkNone);
-    EXPECT_TRUE(steps.State().SegmentComplete);
-  }
-}
-
-/// All of them are waiting to; beside a single worker it is the manager who does.
-TEST(frmIVPurpose, SaysWhoWillTurn) {
-  const auto company = [] {
-    World world = TalkCompany();
-    for (const char* name : {"Bob Bold", "Cal Cold", "Max Mouth"})
-      Named(world.Workers(), name).TurnPending = true;
-    return world;
-  };
-  struct Row {
-    const char* Style;
-    const char* Speaker;
-    const char* Target;
-    const char* Says;
-  };
-  const Row kRows[] = {
-      {"Single Worker", "lstwres1: Bob Bold", "Eve East", "Bob Bold on Eve East."},
-      {"Single Worker", "lstwres1: Eve East", "Bob Bold", ""},
-      {"Tag Team", "lstwres1: Bob Bold", "Eve East", "Bob Bold on Eve East, Cal Cold on Eve East."},
-      {"Single Worker With Manager", "lstwres1: Bob Bold", "Eve East", "Max Mouth on Eve East."},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.Says);
-    Steps steps(company(), kInterview);
-    ScriptDesk& desk = steps.Do({std::string("lsttype: ") + row.Style})
-                           .Do({row.Speaker})
-                           .Do({std::string("lstopp1: ") + row.Target})
-                           .Open()
-                           .Desk;
-    const std::string says = row.Says;
-    EXPECT_EQ(desk.Text("lblturn"), says.empty() ? "" : "Who turns with \"Turn\": " + says);
-    EXPECT_EQ(desk.Visible("lblturn"), *row.Says != 0);
-  }
-}
-
-TEST(frmAngleType, StartsFromWalkingAndTellsEachAngle) {
-  Steps steps(TalkCompany(), kAngle);
-  ScriptDesk& desk = steps.Open().Desk;
-  const Names angles = desk.FirstColumn("lstangle");
-  EXPECT_EQ(angles.front(), "Challenge");
-  EXPECT_EQ(angles.back(), "Blood Bath");
-  EXPECT_EQ(angles.at(static_cast<std::size_t>(desk.Selected("lstangle").at(0) - 1)), "Walking");
-  EXPECT_EQ(desk.Text("lbldesc"), "A worker walks down a corridor.");
-  desk.Pick("lstangle", "Ambush");
-  EXPECT_EQ(desk.Text("lbldesc"),
-            "An ambush happens backstage. (This angle causes the saver to turn, if set.)");
-  EXPECT_EQ(desk.Rows("lstangle")[2],
-            (Names{"Ambush", "Ambush", "Ambushee, Ambusher #1, (Ambusher #2), (Saver)"}));
-  desk.OpenRow("lstangle", "Ambush");
-  EXPECT_EQ(steps.State().Buffer.Style, 3);
-}
-
 TEST(frmAngleType, NeedsWritersOnTelevisionMoreThanAtAnEvent) {
   const auto company = [] {
     World world = TalkCompany();
@@ -205,18 +118,6 @@ TEST(frmAnglePeople, ShowsTheBoxesOfTheAngle) {
   desk.Pick("cmb2", "Fay Fair");
   Refused(desk, "Please select unique workers!");
   EXPECT_EQ(steps.Buffer(), Names());
-}
-
-TEST(frmAnglePeople, TellsOfStablesTitlesAndManagers) {
-  Steps steps(TalkCompany(), kAngle);
-  ScriptDesk& desk = steps.Do({"lstangle: Stable Kick-Out"}).Open().Desk;
-  EXPECT_EQ(desk.Text("lblabout2"), "2 of 10 members, 2 of them active, led by Tide One");
-  desk.Pick("cmb1", "Tide Two");
-  EXPECT_EQ(desk.Text("lblabout1"),
-            "Midcard, Face, Over 60, Condition 100, Morale 80, managed by Mo Fresh, in The Tide");
-  Steps award(TalkCompany(), kAngle);
-  EXPECT_EQ(award.Do({"lstangle: Award Singles Title"}).Open().Desk.Text("lblabout2"),
-            "Vacant, image 50%");
 }
 
 TEST(frmAnglePeople, SaysWhoIsMissing) {

@@ -86,9 +86,7 @@ TEST(StepBack, UndoesMatchesWhereverTheirRunInsStand) {
 TEST(StepBack, UndoesInterviewsAndAngles) {
   ExpectTakenBack({[](Segment& s) { s.Kind = kInterview; },
                    [](Segment& s) { s.Style = kManagedTeamTalk; },
-                   [](Segment& s) {
-                     s.Worker = {1, 2, 3};
-                   },
+                   [](Segment& s) { s.Worker[0] = s.Worker[1] = s.Worker[2] = 1; },
                    [](Segment& s) { s.Worker[3] = s.Worker[4] = 4; },
                    [](Segment& s) { s.Purpose = kVerbalAttack; }});
   ExpectTakenBack({[](Segment& s) { s.Kind = kAngle; }, [](Segment& s) { s.Style = 71; },
@@ -97,38 +95,6 @@ TEST(StepBack, UndoesInterviewsAndAngles) {
                      s.TitleName = "Crown";
                      s.Text = "The Dock Rats";
                    }});
-}
-
-TEST(TextOfStep, TellsWhatHasBeenChosen) {
-  const World world = BookingRoster().Team("Odd Men", "Man 1", "Man 2").Game("CWA");
-  Wizard wizard = BeginBooking(3, true);
-  EXPECT_EQ(TextOfStep(world, wizard, 0).Caption, "Select Segment Type");
-  EXPECT_EQ(TextOfStep(world, wizard, 1).Caption, "???");
-  wizard.Buffer = MatchOf(world, kTag, kPlainTag, {"Man 1", "Man 2", "Man 3", "Man 4"});
-  StoreResult(wizard.Buffer, 1, {4});
-  wizard.Buffer.Finish = kPartnerTurns;
-  wizard.Buffer.Aftermath = after2::kThreeOnOne;
-  wizard.Buffer.Purpose = purpose2::kTurnWorker3;
-  wizard.Step = 8;
-  const std::pair<const char*, const char*> kRows[] = {
-      {"Select Segment Type", "Segment Type = Match"},
-      {"Select Match Style", "Match Style = 2 vs 2"},
-      {"Select Match Type", "Match Type = Tag"},
-      {"Select Participants", "Odd Men vs Man 3 \\ Man 4"},
-      {"Select Title", "Title = None"},
-      {"Select Result", "Result = Odd Men Win"},
-      {"Select Finish", "Finish = Man 4 Gets Backstabbed"},
-      {"Select Aftermath", "Aftermath = Three-On-One Assault"},
-      {"Select Purpose", ""},
-      {"???", ""}};
-  for (int step = 0; step < 10; ++step) {
-    EXPECT_EQ(TextOfStep(world, wizard, step).Caption, kRows[step].first);
-    EXPECT_EQ(TextOfStep(world, wizard, step).Summary, kRows[step].second);
-  }
-  StepDone(wizard);
-  EXPECT_EQ(TextOfStep(world, wizard, 8).Summary, "Purpose = Turn Man 3");
-  StoreResult(wizard.Buffer, 0, {});
-  EXPECT_EQ(TextOfStep(world, wizard, 5).Summary, "Result = Draw");
 }
 
 TEST(TextOfStep, TellsInterviewsAndAngles) {
@@ -154,28 +120,6 @@ TEST(TextOfStep, TellsInterviewsAndAngles) {
     for (int i = 0; i < row.People; ++i) wizard.Buffer.Worker[static_cast<std::size_t>(i)] = i + 1;
     wizard.Step = 5;
     EXPECT_EQ(TextOfStep(world, wizard, row.Step).Summary, row.Says);
-  }
-}
-
-TEST(ScreenOfStep, GoesByKindStyleAndType) {
-  struct Row {
-    int Kind, Style, Type, Step;
-    const char* Screen;
-  };
-  const Row kRows[] = {
-      {kEmptySegment, 0, 0, 0, "frmBookStyle"}, {kMatch, 1, 0, 2, "frmBookMatchStyle"},
-      {kMatch, 1, 1, 3, "frmBook1vs1"},         {kMatch, 3, 4, 5, "frmBook3x1Winner"},
-      {kMatch, 8, 2, 6, "frmBook4vs4Finish"},   {kMatch, 1, 1, 7, "frmBookAfter"},
-      {kMatch, 2, 1, 8, "frmBook2vs2Purpose"},  {kMatch, 1, 1, 9, ""},
-      {kInterview, 3, 0, 2, "frmIV1m"},         {kInterview, 3, 0, 3, "frmIV1opp"},
-      {kAngle, 79, 0, 2, "frmAnglePeople"},
-  };
-  for (const Row& row : kRows) {
-    Wizard wizard = BeginBooking(1, false);
-    wizard.Buffer.Kind = row.Kind;
-    wizard.Buffer.Style = row.Style;
-    wizard.Buffer.MatchType = row.Type;
-    EXPECT_EQ(ScreenOfStep(wizard, row.Step), row.Screen);
   }
 }
 
