@@ -44,22 +44,6 @@ TEST(OfferedAngles, GoByRiskSizeCommissionerAndDate) {
   }
 }
 
-TEST(EnoughWriters, DependsOnTheShowsOnTelevisionAlone) {
-  for (const auto& [shows, few] : {std::pair(0, 0), {1, 1}, {2, 3}, {4, 9}}) {
-    SmallWorld small;
-    small.Network("Channel Nine").Promotion("CWA").Staff("A Trainer", kTrainer);
-    for (int i = 0; i < shows; ++i)
-      small.Show("Show " + std::to_string(i), "Friday", "Channel Nine");
-    for (int i = 0; i < few; ++i) small.Staff("Writer " + std::to_string(i), kWriter);
-    small.Promotion("NEW").Staff("Strange Writer", kWriter);
-    World world = small.Game("CWA").BuildUnchecked();
-    EXPECT_FALSE(EnoughWriters(world, false)) << shows;
-    EXPECT_EQ(EnoughWriters(world, true), few > 0) << shows;
-    Named(world.AllStaff(), "Strange Writer").Employer = world.PlayerUid();
-    EXPECT_TRUE(EnoughWriters(world, false)) << shows;
-  }
-}
-
 /// One of every kind that lists tell apart, and some who are out of reach.
 SmallWorld Company() {
   SmallWorld small;

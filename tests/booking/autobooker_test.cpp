@@ -192,31 +192,6 @@ TEST(AutoFeuds, EndAtAnEventOnceTheyHaveHadEnough) {
   }
 }
 
-TEST(AutoTitles, AnEventHasThemAllAndTheTopOneLast) {
-  World world = House(30)
-                    .Title("Belt", "Hand 3", {}, [](Title& t) { t.Image = 40; })
-                    .Title("Crown", "Hand 6", {}, [](Title& t) { t.Image = 90; })
-                    .Title("Cup", {}, {}, [](Title& t) { t.Image = 30; })
-                    .Title("Shelf", "Hand 8", {}, [](Title& t) { t.Suspended = true; })
-                    .Team("Moles", "Hand 11", "Hand 13")
-                    .Team("Voles", "Hand 12", "Hand 14")
-                    .Title("Tag Belts", "Hand 11", "Hand 13")
-                    .Game("CWA")
-                    .Feud("Hand 9", "Hand 6");
-  CardsWith(world, true, kEventRows, [&](const AutoCard& card) {
-    EXPECT_FALSE(TitleMatch(card, "Shelf"));
-    EXPECT_EQ("Crown", card.Rows[8].TitleName.Str());
-    EXPECT_TRUE(TakesPart(card.Rows[8], Uid(world, "Hand 9"))) << "whoever feuds for it";
-    for (const char* name : {"Belt", "Crown", "Cup", "Tag Belts"}) {
-      const Segment* match = TitleMatch(card, name);
-      const int holder = Named(world.Titles(), name).Holder;
-      EXPECT_TRUE(match && (holder == 0 ? match->Winner != 0 : TakesPart(*match, holder))) << name;
-    }
-    EXPECT_TRUE(card.Rows[0].TitleName == "None") << "the dark match";
-    return true;
-  });
-}
-
 TEST(AutoTalk, NeedsWritersForAnglesAndBringsManagersAlong) {
   World world = House(20).Worker("Mr. Silk", kManager, 60).Game("CWA");
   for (Worker& worker : world.Workers())

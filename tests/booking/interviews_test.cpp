@@ -1,7 +1,5 @@
 #include "booking/wizard/interviews.h"
 
-#include "booking/wizard/casting.h"
-
 #include <gtest/gtest.h>
 
 #include "support/smallworld.h"
@@ -11,7 +9,6 @@ namespace {
 
 using Names = std::vector<std::string>;
 using Purposes = std::vector<int>;
-constexpr BookingView kTv, kEvent{true};
 
 World Company() {
   SmallWorld small;
@@ -44,24 +41,6 @@ Segment Interview(const World& world, int style, const Names& people) {
   for (std::size_t place = 0; place < people.size(); ++place)
     if (!people[place].empty()) interview.Worker[place] = Named(world.Workers(), people[place]).Uid;
   return interview;
-}
-
-TEST(Interviews, AreOfWhoCanSpeakAboutTheRosterWithoutThem) {
-  const World world = Company();
-  const auto names = [&](Casting from, int style, const Names& people, const BookingView& view) {
-    Names found;
-    for (const Worker* worker : WorkersFor(world, from, Interview(world, style, people), view))
-      found.push_back(worker->Name.Str());
-    return found;
-  };
-  EXPECT_EQ(names(Casting::Talkers, kSingleTalk, {}, kTv),
-            (Names{"Ann Ace", "Bob Bold", "Cat Cold", "Dan Dark", "Max Mouth", "Nell Suit"}));
-  EXPECT_EQ(names(Casting::TalkManagers, kManagedTalk, {}, kTv), Names{"Max Mouth"});
-  EXPECT_EQ(names(Casting::Targets, kSingleTalk, {"Ann Ace", "Bob Bold"}, kTv),
-            (Names{"Bob Bold", "Cat Cold", "Dan Dark", "Max Mouth", "Mim Mute", "Sid Silent"}))
-      << "Bob Bold is no speaker";
-  EXPECT_EQ(names(Casting::Targets, kManagedTeamTalk, {"Max Mouth", "Ann Ace", "Bob Bold"}, kEvent),
-            (Names{"Cat Cold", "Dan Dark", "Mim Mute", "Sid Silent", "Nell Suit"}));
 }
 
 TEST(Interviews, SayWhatIsWrongWithTheirPeople) {

@@ -55,24 +55,6 @@ TEST(WaysToDebut, FitThePersonAndTheDay) {
   for (const Case& c : kCases) EXPECT_EQ(WhyNot(world, c.Who, c.How), c.WhyNot) << c.Who << c.How;
 }
 
-TEST(WaysToDebut, InAnAngleNeedWriters) {
-  constexpr const char* kTooFew = "There are not enough writers for angles.";
-  struct Case {
-    int Writers, Shows;
-    const char *OnShow, *AtEvent;
-  };
-  for (const Case& c : {Case{0, 0, kTooFew, kTooFew}, Case{1, 0, "", ""}, Case{1, 1, kTooFew, ""},
-                        Case{2, 1, "", ""}}) {
-    SmallWorld small;
-    small.Network("Harbor 9").Promotion("CWA").Worker("Fresh", kMidcard, 40, Unseen());
-    for (int i = 1; i <= c.Writers; ++i) small.Staff("Quill " + std::to_string(i), kWriter);
-    if (c.Shows > 0) small.Show("Tidal Force", "Sunday", "Harbor 9");
-    const World world = small.Game("CWA");
-    EXPECT_EQ(WhyNot(world, "Fresh", "Debut Attack"), c.OnShow) << c.Writers << c.Shows;
-    EXPECT_EQ(WhyNot(world, "Fresh", "Debut Attack", true), c.AtEvent) << c.Writers << c.Shows;
-  }
-}
-
 TEST(frmDebut, KnowsWhichSheetItStandsBeside) {
   for (const bool isEvent : {false, true}) {
     SmallWorld small;
