@@ -116,7 +116,7 @@ bool IsOnCard(const AutoPlan& plan, Takes takes) {
 
 /// The best by their scores, those alike in their order; `most` of them at most.
 template <class T>
-std::vector<T> BestOf(std::vector<std::pair<int, T>> ranked, std::size_t most = 1000) {
+std::vector<T> BestOf(std::vector<std::pair<int, T>> ranked, std::size_t most = ~std::size_t{0}) {
   std::stable_sort(ranked.begin(), ranked.end(),
                    [](auto& a, auto& b) { return a.first > b.first; });
   std::vector<T> best;
