@@ -32,11 +32,6 @@ bool HasPartFor(const Angle& angle, const Worker& worker) {
   });
 }
 
-std::string WhyNotToday(const World& world, const Angle& angle, bool isEvent) {
-  if (!EnoughWriters(world, isEvent)) return "There are not enough writers for angles.";
-  return WhyNotOffered(world, angle);
-}
-
 }  // namespace
 
 std::vector<const Worker*> WaitingForDebut(const World& world) {
@@ -54,7 +49,10 @@ std::vector<DebutWay> WaysToDebut(const World& world, const Worker& worker, bool
       ways.push_back({"Match", std::string(way.How), unfit});
   for (const Angle& angle : AllAngles()) {
     if (!HasPartFor(angle, worker)) continue;
-    const std::string why = unfit.empty() ? WhyNotToday(world, angle, isEvent) : unfit;
+    const std::string why = !unfit.empty() ? unfit
+                            : !EnoughWriters(world, isEvent)
+                                ? "There are not enough writers for angles."
+                                : WhyNotOffered(world, angle);
     ways.push_back({"Angle", std::string(angle.Says), why});
   }
   return ways;

@@ -21,13 +21,6 @@ namespace {
 // In the order of kTvTerms. The last one stands for every other code.
 constexpr std::string_view kSlots[] = {"P", "E", "L", "G"};
 
-/// Jobbers alone are nothing that the auto booker could start from.
-constexpr int kAutoBookable = kJobber;
-
-bool Counts(int record, bool isEvent) {
-  return !isEvent || record != kDarkMatch;
-}
-
 std::string NameOf(const World& world, int uid) {
   return SideText(world, {uid});
 }
@@ -84,7 +77,7 @@ SheetCount CountSheet(const World& world, bool isEvent) {
   SheetCount count;
   for (int record = 1; record <= world.Segments().Count(); ++record) {
     const int kind = world.Segments()[record].Kind;
-    if (kind == kEmptySegment || !Counts(record, isEvent)) continue;
+    if (kind == kEmptySegment || (isEvent && record == kDarkMatch)) continue;
     ++count.Segments;
     if (kind == kMatch) ++count.Matches;
   }
@@ -103,24 +96,18 @@ void EmptySheet(World& world, bool isEvent) {
       std::vector<Segment>(static_cast<std::size_t>(RowsOf(isEvent)), EmptySegment()));
 }
 
-void RemoveBooking(World& world, int record) {
-  ClearSegment(world.Segments()[record]);
-}
-
 void TakeCard(World& world, const AutoCard& card) {
-  for (int record = 1; record <= world.Segments().Count(); ++record)
-    if (const auto row = static_cast<std::size_t>(record - 1); row < card.Rows.size())
-      world.Segments()[record] = card.Rows[row];
+  auto row = card.Rows.begin();
+  for (Segment& record : world.Segments())
+    if (row != card.Rows.end()) record = *row++;
 }
 
 int NewSegments(const World& world, const AutoCard& card) {
   int fresh = 0;
-  for (int record = 1; record <= world.Segments().Count(); ++record) {
-    const auto row = static_cast<std::size_t>(record - 1);
-    if (row < card.Rows.size() && card.Rows[row].Kind != kEmptySegment &&
-        world.Segments()[record].Kind == kEmptySegment)
-      ++fresh;
-  }
+  auto row = card.Rows.begin();
+  for (const Segment& record : world.Segments())
+    if (row != card.Rows.end())
+      fresh += row++->Kind != kEmptySegment && record.Kind == kEmptySegment;
   return fresh;
 }
 
@@ -138,11 +125,6 @@ std::string SheetWarning(const World& world, bool isEvent) {
          " matches, and a minimum of " + std::to_string(terms.MinSegments) + " segments overall.";
 }
 
-std::string DarkMatchHeading(const World& world) {
-  const Show* show = ShowOfToday(world);
-  return show ? show->Name + " Main Event Match Description" : "Pre-Show Match Description";
-}
-
 std::string TitleTip(const Segment& segment) {
   if (segment.Kind == kEmptySegment || segment.TitleName == "None") return {};
   return segment.TitleName + (segment.Kind == kMatch ? " Title Match!" : " Title Segment!");
@@ -150,22 +132,13 @@ std::string TitleTip(const Segment& segment) {
 
 bool HasAutoBooker(const World& world) {
   return std::any_of(world.Workers().begin(), world.Workers().end(), [&](const Worker& worker) {
-    return WorksForPlayer(world, worker) && worker.Status == "Nor" &&
-           worker.Position < kAutoBookable;
+    return WorksForPlayer(world, worker) && worker.Status == "Nor" && worker.Position < kJobber;
   });
 }
 
 std::string KindOfRow(const Segment& segment) {
-  switch (segment.Kind) {
-    case kMatch:
-      return std::string(MatchTypeText(segment.Style, segment.MatchType));
-    case kInterview:
-      return "Interview";
-    case kAngle:
-      return "Angle";
-    default:
-      return {};
-  }
+  if (segment.Kind == kMatch) return std::string(MatchTypeText(segment.Style, segment.MatchType));
+  return std::string(segment.Kind == kEmptySegment ? "" : Says(kSegmentKinds, segment.Kind));
 }
 
 std::string FeudOfRow(const World& world, const Segment& segment) {

@@ -30,8 +30,6 @@ bool MayStart(const World& world, bool isEvent);
 
 /// Writes match.dat with every record empty.
 void EmptySheet(World& world, bool isEvent);
-/// Empties a record of match.dat.
-void RemoveBooking(World& world, int record);
 /// Puts a card into match.dat.
 void TakeCard(World& world, const AutoCard& card);
 /// How many Segments of a card are new to match.dat.
@@ -41,8 +39,6 @@ int NewSegments(const World& world, const AutoCard& card);
 std::string SheetHeading(const World& world, bool isEvent);
 /// What the sheet warns of, with its minimum.
 std::string SheetWarning(const World& world, bool isEvent);
-/// What the dark match of today's Event is called.
-std::string DarkMatchHeading(const World& world);
 /// "CWA Crown Title Match!"; empty where none is at stake.
 std::string TitleTip(const Segment& segment);
 

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "booking/wizard/casting.h"
 #include "booking/wizard/roster.h"
 #include "support/smallworld.h"
@@ -9,89 +7,40 @@
 namespace grapplemont::test {
 namespace {
 
-using Numbers = std::vector<int>;
 using Names = std::vector<std::string>;
 constexpr BookingView kTv, kEvent{true};
 
-Numbers Offered(int risk, int size, bool commissioner = false, Day today = kGameStart) {
-  SmallWorld small;
-  small.Promotion("CWA", size, [&](Promotion& p) { p.Risk = risk; })
-      .Worker("Ada Crown", kNonWrestler, 60)
-      .Game("CWA", today);
-  World world = small;
-  if (commissioner) world.Player().Commissioner = Named(world.Workers(), "Ada Crown").Uid;
-  Numbers numbers;
-  for (const Angle* angle : OfferedAngles(world)) numbers.push_back(angle->Number);
-  return numbers;
-}
-
-/// What the second list has more than the first.
-Numbers More(const Numbers& few, const Numbers& many) {
-  Numbers more;
-  std::set_difference(many.begin(), many.end(), few.begin(), few.end(), std::back_inserter(more));
-  return more;
-}
-
-TEST(OfferedAngles, AreInTheOrderOfTheirNumbersAndAskForNothingAtFirst) {
-  EXPECT_EQ(Offered(0, kBackyard),
-            (Numbers{1,  2,  4,  5,  6,  7,  8,  9,  11, 18, 21, 22, 23, 24, 25, 27,
-                     29, 30, 31, 32, 34, 35, 36, 37, 38, 43, 44, 45, 46, 47, 48, 49,
-                     50, 51, 52, 53, 55, 56, 57, 58, 59, 60, 61, 62, 63, 64, 65, 66}));
-}
-
-TEST(OfferedAngles, GrowWithRisk) {
-  const std::map<int, Numbers> kSteps = {
-      {35, {3, 19}},      {40, {76}},     {45, {13, 17, 33}}, {55, {12, 16, 79}},
-      {60, {14, 39, 75}}, {65, {15, 78}}, {80, {77}},
+TEST(OfferedAngles, GoByRiskSizeCommissionerAndDate) {
+  struct Row {
+    int Number, Risk, Size;
+    bool Commissioner;
+    Day Today;
+    const char* WhyNot;
   };
-  for (int risk = 0; risk < 100; ++risk) {
-    const auto step = kSteps.find(risk);
-    EXPECT_EQ(More(Offered(risk, kBackyard), Offered(risk + 1, kBackyard)),
-              step == kSteps.end() ? Numbers() : step->second)
-        << risk;
-  }
-}
-
-TEST(OfferedAngles, GrowWithTheSizeOfThePromotion) {
-  EXPECT_EQ(More(Offered(0, kNational), Offered(0, kGlobal)), Numbers{20});
-  EXPECT_EQ(More(Offered(56, kRegional), Offered(56, kCult)), Numbers{28});
-  EXPECT_EQ(Offered(55, kCult), Offered(55, kRegional));
-}
-
-TEST(OfferedAngles, NeedACommissionerForHisOwn) {
-  EXPECT_EQ(More(Offered(0, kCult), Offered(0, kCult, true)),
-            (Numbers{10, 26, 40, 41, 42, 54, 71, 72}));
-}
-
-TEST(OfferedAngles, ComeOnTheirDays) {
-  const auto on = [](int month, unsigned day) {
-    const Day date{std::chrono::year{2026} / month / static_cast<int>(day)};
-    return More(Offered(0, kCult), Offered(0, kCult, false, date));
+  const auto day = [](int month, int day) { return Day{std::chrono::year{2026} / month / day}; };
+  const Row kRows[] = {
+      {1, 0, kBackyard, false, kGameStart, ""},
+      {kAmbush, 36, kBackyard, false, kGameStart, ""},
+      {kAmbush, 35, kBackyard, false, kGameStart, "The risk level must be over 35."},
+      {20, 0, kGlobal, false, kGameStart, ""},
+      {20, 0, kNational, false, kGameStart, "The promotion is too small for it."},
+      {10, 0, kCult, true, kGameStart, ""},
+      {10, 0, kCult, false, kGameStart, "There is no Commissioner."},
+      {67, 0, kCult, false, day(12, 25), ""},
+      {67, 0, kCult, false, day(12, 24), "Only on 25 December."},
+      {68, 0, kCult, false, day(1, 1), ""},
+      {68, 0, kCult, false, day(1, 11), "Only on 01 January."},
   };
-  const std::tuple<int, unsigned, Numbers> kDays[] = {
-      {12, 25, {67}}, {1, 1, {68}}, {10, 31, {69}}, {7, 23, {70}}, {2, 14, {73, 74}}};
-  for (const auto& [month, day, angles] : kDays) EXPECT_EQ(on(month, day), angles) << month;
-  for (const auto& [month, day] :
-       {std::pair{12, 24u}, {12, 26u}, {1, 2u}, {1, 11u}, {10, 30u}, {7, 22u}, {2, 13u}, {2, 15u}})
-    EXPECT_EQ(on(month, day), Numbers()) << month << "/" << day;
-}
-
-TEST(EnoughWriters, DependsOnTheShowsOnTelevisionAlone) {
-  struct Case {
-    int Shows, Few;  // one writer fewer than enough
-  };
-  for (const Case& row : {Case{0, 0}, {1, 1}, {2, 3}, {3, 5}, {4, 9}, {5, 9}}) {
-    SmallWorld small;
-    small.Network("Channel Nine").Promotion("CWA").Staff("A Trainer", kTrainer);
-    for (int i = 0; i < row.Shows; ++i)
-      small.Show("Show " + std::to_string(i), "Friday", "Channel Nine");
-    for (int i = 0; i < row.Few; ++i) small.Staff("Writer " + std::to_string(i), kWriter);
-    small.Promotion("NEW").Staff("Strange Writer", kWriter);
-    World world = small.Game("CWA").BuildUnchecked();
-    EXPECT_FALSE(EnoughWriters(world, false)) << row.Shows;
-    EXPECT_EQ(EnoughWriters(world, true), row.Few > 0) << row.Shows;
-    Named(world.AllStaff(), "Strange Writer").Employer = world.PlayerUid();
-    EXPECT_TRUE(EnoughWriters(world, false)) << row.Shows;
+  for (const Row& row : kRows) {
+    World world = SmallWorld()
+                      .Promotion("CWA", row.Size, [&](Promotion& p) { p.Risk = row.Risk; })
+                      .Worker("Ada Crown", kNonWrestler, 60)
+                      .Game("CWA", row.Today);
+    if (row.Commissioner) world.Player().Commissioner = 1;
+    const Angle& angle = *FindAngle(row.Number);
+    EXPECT_EQ(WhyNotOffered(world, angle), row.WhyNot) << row.Number;
+    const auto offered = OfferedAngles(world);
+    EXPECT_EQ(std::count(offered.begin(), offered.end(), &angle), *row.WhyNot == 0);
   }
 }
 
@@ -178,19 +127,14 @@ TEST(CandidatesFor, FillEachListWithThoseItIsFor) {
             (Names{"Abel Face", "Bea Heel", "Cy Manager", "Di New", "Ed Suit", "Gus Fresh"}));
 }
 
-TEST(CandidatesFor, KeepToTheSplit) {
+TEST(CandidatesFor, KeepToTheSplitAndLeaveOutWhoIsNotFit) {
   World world = Company();
   world.Player().Commissioner = Named(world.Workers(), "Ed Suit").Uid;
   const BookingView blue{false, "Blue"};
   for (const Casting from : {Casting::Plain, Casting::Women, Casting::Turners})
     EXPECT_EQ(List(world, from, blue), Names{"Bea Heel"});
-  for (const Casting from :
-       {Casting::Commissioner, Casting::Managers, Casting::Men, Casting::Debuts})
+  for (const Casting from : {Casting::Commissioner, Casting::Managers, Casting::Debuts})
     EXPECT_EQ(List(world, from, blue), Names()) << NobodyFor(from);
-}
-
-TEST(CandidatesFor, LeaveOutACommissionerWhoIsNotFit) {
-  World world = Company();
   world.Player().Commissioner = Named(world.Workers(), "Flo Hurt").Uid;
   EXPECT_EQ(List(world, Casting::Commissioner), Names());
 }

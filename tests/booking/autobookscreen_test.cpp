@@ -46,19 +46,6 @@ TEST(AutoBookScreen, ProposesACardAndLeavesTheSheetAlone) {
   EXPECT_EQ(SheetOf(play.World()), sheet);
 }
 
-TEST(AutoBookScreen, SendsItsCardToTheSheet) {
-  OnSheet play(Sunday());
-  play.Desk.Click("cmdauto");
-  const Names card = Card(play);
-  play.Desk.Click("cmdsheet");
-  ASSERT_EQ(play.Desk.TopName(), "frmBooking");
-  for (int record = 1; record <= 5; ++record)
-    EXPECT_EQ(play.Row(record)[0] + " " + play.Row(record)[1],
-              card[static_cast<std::size_t>(record - 1)]);
-  EXPECT_EQ(play.World().Segments().Count(), 11);
-  EXPECT_TRUE(play.Desk.Enabled("cmddoshow"));
-}
-
 TEST(AutoBookScreen, RunsTheShowAndMovesOnToTheNextDay) {
   OnSheet play(Sunday());
   play.Desk.Click("cmdauto");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <memory>
 #include <string>
@@ -64,6 +66,20 @@ inline std::string FaultsOf(const World& world, const AutoCard& card, bool isEve
   for (const Worker& worker : world.Workers())
     if (PartsOf(card, worker.Uid) > 2) faults += worker.Name.Str() + " appears too often\n";
   return faults;
+}
+
+inline constexpr std::uint64_t kSeeds = 20;
+
+/// How many of the cards that as many seeds bring are taken. None may have faults.
+template <class Takes>
+int CardsWith(World& world, bool isEvent, int rows, Takes takes, std::uint64_t cards = kSeeds) {
+  int count = 0;
+  for (std::uint64_t seed = 1; seed <= cards; ++seed) {
+    const AutoCard card = BookedBy(world, isEvent, rows, seed);
+    EXPECT_EQ("", FaultsOf(world, card, isEvent)) << "seed " << seed;
+    count += takes(card);
+  }
+  return count;
 }
 
 /// A promotion of so many men, Faces and Heels in turn, with writers enough for one show.

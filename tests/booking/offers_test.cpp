@@ -28,139 +28,83 @@ Segment TagMatch(const World& world, int type, bool won) {
   return match;
 }
 
-TEST(Finishes, OfASinglesMatchGoByItsType) {
-  const World world = BookingRoster().Game("CWA");
-  const Codes kPlain = {1, 3, 4}, kCheats = {1, 3, 4, 5}, kBumps = {1, 3, 4, 10};
-  const Codes kOffered[] = {{1, 3, 4, 2, 13, 5},
-                            kPlain,
-                            kCheats,
-                            kCheats,
-                            kPlain,
-                            kPlain,
-                            kPlain,
-                            kCheats,
-                            kBumps,
-                            kPlain,
-                            kPlain,
-                            kBumps,
-                            kCheats,
-                            kCheats,
-                            {1, 3, 4, 5, 10},
-                            {10},
-                            {1, 3, 4, 5, 10},
-                            {1, 3, 4, 5, 10},
-                            kPlain};
-  for (int type = kPlainSingles; type <= kBuckNaked; ++type)
-    EXPECT_EQ(OfferedFinishes(world, Singles(world, type, true)), kOffered[type - 1])
-        << "type " << type;
-  EXPECT_EQ(OfferedFinishes(world, Singles(world, kPlainSingles, false)), (Codes{6, 7, 8}));
+/// What a list offers for a match that is as far as this, with so many run-ins at its finish.
+struct OfferRow {
+  int Style, Type;
+  bool Won;
+  int Finish, RunIns;
+  Codes Offered;
+};
+
+using Offers = std::vector<int>(const World&, const Segment&);
+
+void ExpectOffers(const World& world, Offers* offers, std::initializer_list<OfferRow> rows) {
+  for (const OfferRow& row : rows) {
+    Segment match = row.Style == kSingles ? Singles(world, row.Type, row.Won)
+                                          : TagMatch(world, row.Type, row.Won);
+    match.Finish = row.Finish;
+    match.Other1 = row.RunIns > 0 ? 5 : 0;
+    match.Other2 = row.RunIns > 1 ? 6 : 0;
+    EXPECT_EQ(offers(world, match), row.Offered) << "style " << row.Style << ", type " << row.Type
+                                                 << ", finish " << row.Finish << row.RunIns;
+  }
 }
 
-TEST(Finishes, OfATagMatchGoByItsTypeAndThePartner) {
+TEST(Finishes, GoByTypeResultAndPartner) {
   World world = BookingRoster().Game("CWA");
-  const Codes kOffered[] = {
-      {1, 2, 13, 3, 4, 5, 11}, {1, 3, 4, 5, 11}, {1, 3, 4}, {1, 3, 4, 10}, {1, 3, 4, 11}};
-  const Codes kWithTurn[] = {{1, 2, 13, 3, 4, 5, 11, 12},
-                             {1, 3, 4, 5, 11, 12},
-                             {1, 3, 4},
-                             {1, 3, 4, 10},
-                             {1, 3, 4, 11, 12}};
-  for (int type = kPlainTag; type <= kTagTables; ++type) {
-    Named(world.Workers(), "Man 4").TurnPending = false;
-    Named(world.Workers(), "Man 3").TurnPending = true;  // the one who falls
-    EXPECT_EQ(OfferedFinishes(world, TagMatch(world, type, true)), kOffered[type - 1]);
-    Named(world.Workers(), "Man 4").TurnPending = true;
-    EXPECT_EQ(OfferedFinishes(world, TagMatch(world, type, true)), kWithTurn[type - 1]);
-  }
-  EXPECT_EQ(OfferedFinishes(world, TagMatch(world, kPlainTag, false)), (Codes{6, 7, 8}));
+  world.FindWorker(3)->TurnPending = true;  // the one who falls
+  ExpectOffers(world, OfferedFinishes,
+               {{kSingles, kPlainSingles, true, 0, 0, {1, 3, 4, 2, 13, 5}},
+                {kSingles, kHardcore, true, 0, 0, {1, 3, 4, 5}},
+                {kSingles, kCage, true, 0, 0, {1, 3, 4}},
+                {kSingles, kHellInACell, true, 0, 0, {1, 3, 4, 5, 10}},
+                {kSingles, kHighIncident, true, 0, 0, {10}},
+                {kSingles, kPlainSingles, false, 0, 0, {6, 7, 8}},
+                {kTag, kPlainTag, true, 0, 0, {1, 2, 13, 3, 4, 5, 11}},
+                {kTag, kPlainTag, false, 0, 0, {6, 7, 8}}});
+  world.FindWorker(4)->TurnPending = true;
+  ExpectOffers(world, OfferedFinishes,
+               {{kTag, kPlainTag, true, 0, 0, {1, 2, 13, 3, 4, 5, 11, 12}},
+                {kTag, kTagCage, true, 0, 0, {1, 3, 4}},
+                {kTag, kTagLadder, true, 0, 0, {1, 3, 4, 10}},
+                {kTag, kTagTables, true, 0, 0, {1, 3, 4, 11, 12}}});
 }
 
 TEST(Finishes, OfBiggerTeamsNameWhoIsReadyToTurn) {
   World world = BookingRoster().Game("CWA");
-  Lines people;
-  for (int i = 1; i <= 8; ++i) people.push_back("Man " + std::to_string(i));
-  Segment eight = MatchOf(world, kFourOnFour, kSurvivor, people);
-  StoreResult(eight, 1, {5});
-  people.resize(6);
-  Segment six = MatchOf(world, kThreeOnThree, 1, people);
+  Segment six =
+      MatchOf(world, kThreeOnThree, 1, {"Man 1", "Man 2", "Man 3", "Man 4", "Man 5", "Man 6"});
   StoreResult(six, 1, {4});
   EXPECT_EQ(OfferedFinishes(world, six), (Codes{1, 2}));
-  for (const char* name : {"Man 2", "Man 6", "Man 8"})
-    Named(world.Workers(), name).TurnPending = true;
+  for (const int uid : {2, 6, 8}) world.FindWorker(uid)->TurnPending = true;
   EXPECT_EQ(OfferedFinishes(world, six), (Codes{1, 2, 4, 8}));
-  EXPECT_EQ(OfferedFinishes(world, eight), (Codes{1, 2, 4, 8, 10}));
   StoreResult(six, 0, {});
-  StoreResult(eight, 0, {});
   EXPECT_EQ(OfferedFinishes(world, six), (Codes{4, 8, 9, 10, 11}));
-  EXPECT_EQ(OfferedFinishes(world, eight), (Codes{4, 8, 10, 11, 12, 13}));
   EXPECT_EQ(OfferedFinishes(world, MatchOf(world, kThreeWay, 1, {})), Codes());
 }
 
-TEST(Aftermaths, OfASinglesMatchFollowItsFinish) {
-  const World world = BookingRoster().Game("CWA");
-  const Codes kAlone = {19, 21, 22, 20, 23, 4, 5, 6, 1};
-  const auto after = [&](Codes start, const Codes& end) {
-    start.insert(start.end(), end.begin(), end.end());
-    return start;
-  };
-  const std::pair<int, Codes> kWon[] = {
-      {kClean, after({2, 3, 24, 18, 7, 8}, kAlone)},
-      {kCountOut, after({2, 3, 24, 18, 7, 8}, kAlone)},
-      {kInterference, {2, 3, 24, 18, 9, 10, 25, 26, 27, 1}},
-      {kBotchedInterference, {2, 3, 24, 18, 11, 12, 26, 27, 1}},
-      {kCheating, after({2, 3, 24, 18}, kAlone)},
-      {kSickBump, after({2, 3, 24, 18}, kAlone)},
-      {kDqThroughInterference, {2, 3, 24, 18, 11, 12, 25, 26, 27, 1}},
-  };
-  for (const auto& [finish, codes] : kWon) {
-    Segment match = Singles(world, kPlainSingles, true);
-    match.Finish = finish;
-    if (NeedsFinishRunIn(kSingles, finish)) match.Other1 = 5;
-    EXPECT_EQ(OfferedAftermaths(world, match), codes) << "finish " << finish;
-  }
-  Segment draw = Singles(world, kPlainSingles, false);
-  draw.Finish = kDoubleDq;
-  EXPECT_EQ(OfferedAftermaths(world, draw), (Codes{19, 21, 22, 23, 4, 5, 6, 1}));
-  draw.Finish = kNoContest;
-  draw.Other1 = 5;
-  EXPECT_EQ(OfferedAftermaths(world, draw), (Codes{13, 14, 15, 16, 17, 1}));
-}
-
-TEST(Aftermaths, OfATagMatchFollowItsFinishAndRunIns) {
+TEST(Aftermaths, FollowTheFinishAndItsRunIns) {
   World world = BookingRoster().Game("CWA");
-  const Codes kAlone = {20, 21, 22, 23, 24, 25, 26, 27, 1};
-  struct Row {
-    bool Won;
-    int Finish, RunIns;
-    Codes Offered;
-  };
-  const Row kRows[] = {
-      {true, kClean, 0, {2, 3, 16, 20, 21, 22, 23, 24, 25, 26, 27, 1}},
-      {true, kPartnerTurns, 0, {17, 20, 21, 22, 23, 24, 25, 26, 27, 1}},
-      {true, kInterference, 1, {2, 3, 16, 12, 18, 19, 1}},
-      {true, kInterference, 2, {2, 3, 16, 11, 18, 19, 15, 1}},
-      {true, kBotchedInterference, 1, {2, 3, 16, 13, 18, 19, 1}},
-      {true, kBotchedInterference, 2, {2, 3, 16, 14, 18, 19, 15, 1}},
-      {true, kDqThroughInterference, 1, {2, 3, 16, 12, 18, 19, 1}},
-      {true, kDqThroughInterference, 2, {2, 3, 16, 11, 18, 19, 15, 1}},
-      {false, kDoubleDq, 0, {8, 9, 10, 20, 21, 22, 23, 24, 25, 26, 27, 1}},
-      {false, kNoContest, 1, {8, 9, 10, 1}},
-      {false, kNoContest, 2, {8, 9, 10, 15, 1}},
-  };
-  for (const Row& row : kRows) {
-    Segment match = TagMatch(world, kPlainTag, row.Won);
-    match.Finish = row.Finish;
-    if (row.RunIns > 0) match.Other1 = 5;
-    if (row.RunIns > 1) match.Other2 = 6;
-    EXPECT_EQ(OfferedAftermaths(world, match), row.Offered)
-        << "finish " << row.Finish << ", run-ins " << row.RunIns;
-  }
-  for (const char* name : {"Man 1", "Man 4"}) Named(world.Workers(), name).TurnPending = true;
-  Segment match = TagMatch(world, kPlainTag, true);
-  match.Finish = kClean;
-  EXPECT_EQ(OfferedAftermaths(world, match),
-            (Codes{2, 3, 7, 16, 20, 21, 22, 23, 24, 25, 26, 27, 1}))
-      << "of the losers alone";
+  ExpectOffers(
+      world, OfferedAftermaths,
+      {{kSingles, 1, true, kClean, 0, {2, 3, 24, 18, 7, 8, 19, 21, 22, 20, 23, 4, 5, 6, 1}},
+       {kSingles, 1, true, kCheating, 0, {2, 3, 24, 18, 19, 21, 22, 20, 23, 4, 5, 6, 1}},
+       {kSingles, 1, true, kInterference, 1, {2, 3, 24, 18, 9, 10, 25, 26, 27, 1}},
+       {kSingles, 1, true, kDqThroughInterference, 1, {2, 3, 24, 18, 11, 12, 25, 26, 27, 1}},
+       {kSingles, 1, false, kDoubleDq, 0, {19, 21, 22, 23, 4, 5, 6, 1}},
+       {kSingles, 1, false, kNoContest, 1, {13, 14, 15, 16, 17, 1}},
+       {kTag, 1, true, kPartnerTurns, 0, {17, 20, 21, 22, 23, 24, 25, 26, 27, 1}},
+       {kTag, 1, true, kInterference, 1, {2, 3, 16, 12, 18, 19, 1}},
+       {kTag, 1, true, kInterference, 2, {2, 3, 16, 11, 18, 19, 15, 1}},
+       {kTag, 1, true, kBotchedInterference, 1, {2, 3, 16, 13, 18, 19, 1}},
+       {kTag, 1, true, kBotchedInterference, 2, {2, 3, 16, 14, 18, 19, 15, 1}},
+       {kTag, 1, false, kDoubleDq, 0, {8, 9, 10, 20, 21, 22, 23, 24, 25, 26, 27, 1}},
+       {kTag, 1, false, kNoContest, 1, {8, 9, 10, 1}},
+       {kTag, 1, false, kNoContest, 2, {8, 9, 10, 15, 1}}});
+  for (const int uid : {1, 4}) world.FindWorker(uid)->TurnPending = true;
+  // Of the losers alone.
+  ExpectOffers(world, OfferedAftermaths,
+               {{kTag, 1, true, kClean, 0, {2, 3, 7, 16, 20, 21, 22, 23, 24, 25, 26, 27, 1}}});
 }
 
 Lines PurposesRead(const World& world, const Segment& match) {
@@ -170,151 +114,60 @@ Lines PurposesRead(const World& world, const Segment& match) {
   return lines;
 }
 
-TEST(Purposes, OfASinglesMatch) {
-  World world = BookingRoster()
-                    .Worker("New Man", [](Worker& w) { w.Debuted = false; })
-                    .Game("CWA")
-                    .Feud("Man 2", "Man 1");
-  Segment match = Singles(world, kBraAndPanties, true);
-  match.Finish = kInterference;
-  match.Other1 = UidOf(world, "New Man");
-  match.Aftermath = after1::kFailedSave;
-  match.Other2 = 6;
-  EXPECT_EQ(PurposesRead(world, match),
-            (Lines{"Debut New Man", "Put Man 1 over", "Put Man 2 over", "Put New Man over",
-                   "Put Man 6 over", "Put on a good match", "End feud", "Continue feud",
-                   "Eye Candy", "None"}));
-  Segment plain = MatchOf(world, kSingles, kPlainSingles, {"Man 1", "New Man"});
-  StoreResult(plain, 1, {});
-  plain.Finish = kClean;
-  EXPECT_EQ(PurposesRead(world, plain), (Lines{"Debut New Man", "Put Man 1 over",
-                                               "Put New Man over", "Put on a good match", "None"}));
-  Segment draw = Singles(world, kPlainSingles, false);
-  draw.Finish = kDoubleDq;
-  EXPECT_EQ(PurposesRead(world, draw),
-            (Lines{"Put on a good match", "Put both workers over", "Continue feud", "None"}));
-  draw.Finish = kNoContest;
-  draw.Other1 = 7;
-  EXPECT_EQ(PurposesRead(world, draw), (Lines{"Put on a good match", "Put both workers over",
-                                              "Put Man 7 over", "Continue feud", "None"}));
-}
-
-/// Everybody is ready to turn; who is offered depends on the occasion.
-struct TurnRow {
-  int Finish, Aftermath;
-  Codes Turns;
-};
-
-void ReadyAll(World& world) {
-  for (Worker& worker : world.Workers()) {
-    worker.TurnPending = true;
-    worker.Disposition = "F";
-  }
-}
-
-Codes TurnsAmong(const World& world, const Segment& match, const Codes& turns) {
+Codes PurposesAmong(const World& world, const Segment& match, const Codes& codes) {
   Codes found;
   for (const int code : OfferedPurposes(world, match))
-    if (std::find(turns.begin(), turns.end(), code) != turns.end()) found.push_back(code);
+    if (std::find(codes.begin(), codes.end(), code) != codes.end()) found.push_back(code);
   return found;
 }
 
-TEST(Purposes, TurnWhoActsInASinglesMatch) {
-  World world = BookingRoster().Game("CWA");
-  ReadyAll(world);
-  const TurnRow kRows[] = {
-      {kClean, 1, {}},
-      {kClean, 2, {11}},
-      {kClean, 3, {11}},
-      {kClean, 4, {5}},
-      {kClean, 5, {5}},
-      {kClean, 6, {}},
-      {kClean, 7, {11}},
-      {kClean, 8, {10}},
-      {kClean, 18, {}},
-      {kClean, 19, {10, 11}},
-      {kClean, 20, {11}},
-      {kClean, 21, {10}},
-      {kClean, 22, {11}},
-      {kClean, 23, {}},
-      {kClean, 24, {}},
-      {kCountOut, 1, {10}},
-      {kInterference, 1, {10, 5}},
-      {kInterference, 9, {10, 11, 5}},
-      {kInterference, 10, {10, 5}},
-      {kInterference, 26, {10, 5, 31}},
-      {kInterference, 27, {10, 5}},
-      {kDqThroughInterference, 10, {10, 5}},
-      {kBotchedInterference, 1, {5}},
-      {kBotchedInterference, 11, {11, 5}},
-      {kBotchedInterference, 12, {11, 5}},
-      {kCheating, 1, {10}},
-      {kSickBump, 1, {}},
-      {kDqThroughInterference, 1, {}},
-      {kDqThroughInterference, 11, {11, 5}},
-      {kDqThroughInterference, 25, {}},
-      {kDqThroughInterference, 26, {31}},
-  };
-  for (const TurnRow& row : kRows) {
-    Segment match = Singles(world, kPlainSingles, true);
-    match.Finish = row.Finish;
-    match.Aftermath = row.Aftermath;
-    if (NeedsFinishRunIn(kSingles, row.Finish)) match.Other1 = 5;
-    if (NeedsAftermathRunIn(kSingles, row.Aftermath))
-      (row.Aftermath >= after1::kSave ? match.Other2 : match.Other1) = 6;
-    EXPECT_EQ(TurnsAmong(world, match, {5, 10, 11, 31}), row.Turns)
-        << "finish " << row.Finish << ", aftermath " << row.Aftermath;
+/// Fills the run-ins that the match asks for, from Man 5 on.
+void RunIn(Segment& match) {
+  int uid = 5;
+  if (NeedsFinishRunIn(match.Style, match.Finish)) {
+    match.Other1 = uid++;
+    if (match.Style == kTag) match.Other2 = uid++;
   }
+  for (Word* runIn : AftermathRunIns(match)) *runIn = uid++;
 }
 
-TEST(Purposes, TurnWhoActsInATagMatch) {
-  World world = BookingRoster().Game("CWA");
-  ReadyAll(world);
-  const Codes kTurns = {12, 13, 14, 15, 16, 17, 18, 19, 33, 34, 35, 36};
-  const TurnRow kRows[] = {
-      {kClean, 1, {}},
-      {kClean, 2, {17, 14, 15}},
-      {kClean, 3, {16, 12, 13}},
-      {kClean, 4, {12}},
-      {kClean, 5, {13}},
-      {kClean, 6, {14}},
-      {kClean, 7, {15}},
-      {kClean, 16, {14, 15}},
-      {kClean, 20, {}},
-      {kClean, 21, {36, 34, 35}},
-      {kClean, 22, {36, 34, 35}},
-      {kClean, 23, {36, 34, 35}},
-      {kClean, 24, {36, 34, 35}},
-      {kClean, 25, {36, 34, 35}},
-      {kClean, 26, {36, 34, 35}},
-      {kClean, 27, {}},
-      {kCountOut, 1, {12}},
-      {kCheating, 1, {12}},
-      {kMiscommunication, 1, {}},
-      {kPartnerTurns, 1, {15}},
-      {kPartnerTurns, 17, {16, 12, 13, 15}},
-      {kInterference, 1, {12, 19, 18, 33}},
-      {kInterference, 11, {12, 19, 18, 33}},
-      {kInterference, 18, {12, 19, 18, 33, 36, 34, 35}},
-      {kBotchedInterference, 14, {17, 14, 15, 19, 18, 33}},
-      {kDqThroughInterference, 1, {}},
-      {kInterference, 12, {16, 12, 13, 19, 18, 33}},
-      {kDqThroughInterference, 12, {17, 14, 15, 19, 18, 33}},
-      {kDqThroughInterference, 13, {17, 14, 15}},
+/// Everybody is ready to turn; who is offered depends on the occasion.
+TEST(Purposes, TurnWhoActs) {
+  struct Row {
+    int Style, Finish, Aftermath;
+    Codes Turns;
   };
-  for (const TurnRow& row : kRows) {
-    Segment match = TagMatch(world, kPlainTag, true);
+  const Row kRows[] = {
+      {kSingles, kClean, 1, {}},
+      {kSingles, kClean, 3, {11}},
+      {kSingles, kClean, 5, {5}},
+      {kSingles, kClean, 8, {10}},
+      {kSingles, kClean, 19, {10, 11}},
+      {kSingles, kInterference, 9, {10, 11, 5}},
+      {kSingles, kInterference, 26, {10, 5, 31}},
+      {kSingles, kBotchedInterference, 11, {11, 5}},
+      {kSingles, kDqThroughInterference, 25, {}},
+      {kTag, kClean, 2, {17, 14, 15}},
+      {kTag, kClean, 3, {16, 12, 13}},
+      {kTag, kClean, 6, {14}},
+      {kTag, kClean, 24, {36, 34, 35}},
+      {kTag, kCountOut, 1, {12}},
+      {kTag, kPartnerTurns, 17, {16, 12, 13, 15}},
+      {kTag, kInterference, 12, {16, 12, 13, 19, 18, 33}},
+      {kTag, kInterference, 18, {12, 19, 18, 33, 36, 34, 35}},
+      {kTag, kDqThroughInterference, 13, {17, 14, 15}},
+  };
+  World world = BookingRoster().Game("CWA");
+  for (Worker& worker : world.Workers()) worker.TurnPending = true;
+  for (const Row& row : kRows) {
+    Segment match = row.Style == kSingles ? Singles(world, 1, true) : TagMatch(world, 1, true);
     match.Finish = row.Finish;
     match.Aftermath = row.Aftermath;
-    if (NeedsFinishRunIn(kTag, row.Finish)) {
-      match.Other1 = 5;
-      match.Other2 = 6;
-    }
-    if (NeedsAftermathRunIn(kTag, row.Aftermath)) {
-      match.Other3 = 7;
-      match.Other4 = 8;
-    }
-    EXPECT_EQ(TurnsAmong(world, match, kTurns), row.Turns)
+    RunIn(match);
+    const Codes turns = row.Style == kSingles
+                            ? Codes{5, 10, 11, 31}
+                            : Codes{12, 13, 14, 15, 16, 17, 18, 19, 33, 34, 35, 36};
+    EXPECT_EQ(PurposesAmong(world, match, turns), row.Turns)
         << "finish " << row.Finish << ", aftermath " << row.Aftermath;
   }
 }
@@ -336,15 +189,11 @@ void ExpectTurns(const World& world, Segment match, int purpose) {
 }
 
 void ExpectEveryTurn(const World& world, Segment match) {
-  if (NeedsFinishRunIn(match.Style, match.Finish)) {
-    match.Other1 = 5;
-    if (match.Style == kTag) match.Other2 = 6;
-  }
+  RunIn(match);
   for (const int aftermath : OfferedAftermaths(world, match)) {
     Segment after = match;
     after.Aftermath = aftermath;
-    int uid = 7;
-    for (Word* runIn : AftermathRunIns(after)) *runIn = uid++;
+    RunIn(after);
     for (const int purpose : OfferedPurposes(world, after))
       if (PhraseText(world, after, PurposesOf(after.Style), purpose).starts_with("Turn "))
         ExpectTurns(world, after, purpose);
@@ -367,88 +216,24 @@ TEST(Purposes, OfferNoTurnThatTheShowWouldNotBring) {
   }
 }
 
-TEST(Aftermaths, SetThreeOnWhomTheRunInAttacked) {
-  const World world = BookingRoster().Game("CWA");
-  Segment match = TagMatch(world, kPlainTag, true);
-  match.Other1 = 5;
-  for (const auto& [finish, words] :
-       {std::pair(kInterference, "Three-on-two on Man 3 \\ Man 4"),
-        std::pair(kDqThroughInterference, "Three-on-two on Man 1 \\ Man 2")}) {
-    match.Finish = finish;
-    EXPECT_EQ(PhraseText(world, match, AftermathsOf(kTag), after2::kThreeOnTwo), words);
-  }
-}
-
-TEST(Purposes, PutRunInsOverAfterATagWin) {
-  const World world = BookingRoster().Game("CWA");
-  Segment match = TagMatch(world, kPlainTag, true);
-  match.Finish = kInterference;
-  const Codes kRunIns = {20, 21, 37, 38};
-  const std::pair<Word*, Codes> kRows[] = {{&match.Other1, {20}},
-                                           {&match.Other2, {20, 21}},
-                                           {&match.Other3, {20, 21, 37}},
-                                           {&match.Other4, {20, 21, 37, 38}}};
-  int uid = 5;
-  for (const auto& [runIn, offered] : kRows) {
-    *runIn = uid++;
-    EXPECT_EQ(TurnsAmong(world, match, kRunIns), offered) << "up to " << uid - 5 << " run-ins";
-  }
-}
-
 TEST(Purposes, DebutEachOfATagMatchAndThePairsOfNewcomers) {
   const Codes kDebuts = {22, 23, 24, 25, 26, 27, 28, 29, 30, 39, 40, 41};
   const std::pair<Codes, Codes> kRows[] = {
-      {{1}, {24}},
-      {{2}, {25}},
-      {{3}, {26}},
-      {{4}, {27}},
-      {{5}, {29}},
-      {{6}, {30}},
-      {{7}, {39}},
-      {{8}, {40}},
-      {{1, 3}, {24, 26}},
-      {{1, 2}, {22, 24, 25}},
-      {{3, 4}, {23, 26, 27}},
-      {{5, 6}, {28, 29, 30}},
-      {{7, 8}, {41, 39, 40}},
+      {{1, 3, 5, 7}, {24, 26, 29, 39}},
+      {{2, 4, 6, 8}, {25, 27, 30, 40}},
+      {{1, 2, 5, 6}, {22, 24, 25, 28, 29, 30}},
+      {{3, 4, 7, 8}, {23, 26, 27, 41, 39, 40}},
   };
   for (const auto& [newcomers, offered] : kRows) {
     World world = BookingRoster().Game("CWA");
     for (const int uid : newcomers) world.FindWorker(uid)->Debuted = false;
     Segment match = TagMatch(world, kPlainTag, true);
     match.Finish = kInterference;
-    match.Other1 = 5;
-    match.Other2 = 6;
     match.Aftermath = after2::kSave;
-    match.Other3 = 7;
-    match.Other4 = 8;
-    EXPECT_EQ(TurnsAmong(world, match, kDebuts), offered) << newcomers.front();
+    RunIn(match);
+    EXPECT_EQ(PurposesAmong(world, match, kDebuts), offered) << newcomers.front();
+    EXPECT_EQ(PurposesAmong(world, match, {20, 21, 37, 38}), (Codes{20, 21, 37, 38}));
   }
-}
-
-TEST(Results, OfferADrawToTwoSidesOfThePlainTypeAlone) {
-  std::vector<std::pair<int, int>> offered;
-  for (const MatchTypeRow& row : kMatchTypes) {
-    Segment match = EmptySegment();
-    match.Kind = kMatch;
-    match.Style = row.Style;
-    match.MatchType = row.Code;
-    if (OffersDraw(match)) offered.emplace_back(row.Style, row.Code);
-  }
-  EXPECT_EQ(offered, (std::vector<std::pair<int, int>>{{1, 1}, {2, 1}, {7, 1}, {8, 1}}));
-}
-
-TEST(RunInRoster, KeepsToTheSplitAndLeavesThoseInTheRingOut) {
-  World world = BookingRoster().Worker("Cook", kNonWrestler, 30).Game("CWA");
-  for (const char* name : {"Man 1", "Man 3", "Cook"}) Named(world.Workers(), name).Split = "Red";
-  const auto names = [&](const char* split) {
-    Lines found;
-    for (const Worker* worker : RunInRoster(world, Singles(world, 1, true), {false, split}))
-      found.push_back(worker->Name.Str());
-    return found;
-  };
-  EXPECT_EQ(names("Red"), (Lines{"Man 3", "Cook"}));
-  EXPECT_EQ(names("All").size(), 15u);
 }
 
 TEST(Purposes, OfATagMatch) {
@@ -477,23 +262,15 @@ TEST(Purposes, OfATagMatch) {
 }
 
 TEST(CanTurn, LooksAtBothSides) {
-  struct Row {
-    const char* Turner;
-    const char* Partner;  // empty for nobody
-    bool Can;
-  };
-  for (const Row& row :
-       {Row{"F", "F", true}, Row{"F", "H", false}, Row{"F", "T", true}, Row{"H", "F", false},
-        Row{"H", "H", true}, Row{"H", "T", true}, Row{"T", "F", true}, Row{"T", "H", true},
-        Row{"T", "T", false}, Row{"F", "", true}, Row{"T", "", true}, Row{"H", "", false}}) {
+  for (const std::string pair : {"FF", "FT", "HH", "HT", "TF", "TH", "FH", "HF", "TT"}) {
     Worker turner, partner;
-    turner.Disposition = row.Turner;
-    partner.Disposition = row.Partner;
+    turner.Disposition = pair.substr(0, 1);
+    partner.Disposition = pair.substr(1);
     turner.TurnPending = true;
-    const Worker* other = *row.Partner ? &partner : nullptr;
-    EXPECT_EQ(CanTurn(turner, other), row.Can) << row.Turner << row.Partner;
+    EXPECT_EQ(CanTurn(turner, &partner), pair != "FH" && pair != "HF" && pair != "TT") << pair;
+    EXPECT_EQ(CanTurn(turner, nullptr), pair[0] != 'H') << pair;
     turner.TurnPending = false;
-    EXPECT_FALSE(CanTurn(turner, other));
+    EXPECT_FALSE(CanTurn(turner, &partner));
   }
 }
 
@@ -509,70 +286,56 @@ Lines TitlesFor(const World& world, int style, int type, const Lines& people) {
 TEST(Titles, FitTheirMatch) {
   const Change<Worker> light = [](Worker& w) { w.Weight = "L"; };
   SmallWorld small = BookingRoster();
-  for (int i = 1; i <= 30; ++i) small.Worker("Light " + std::to_string(i), light);
-  World world = small.Title("Crown")
-                    .Title("Light", {}, {}, [](Title& t) { t.Lightweight = true; })
-                    .Title("Women", {}, {}, [](Title& t) { t.Woman = true; })
-                    .Title("Gone", {}, {}, [](Title& t) { t.Suspended = true; })
-                    .Title("Straps", "Man 1", "Man 2")
-                    .Promotion("NEW", kSmall)
-                    .Title("Theirs")
-                    .Game("CWA");
-  const auto lights = [](int count) {
-    Lines names;
-    for (int i = 1; i <= count; ++i) names.push_back("Light " + std::to_string(i));
-    return names;
-  };
-  EXPECT_EQ(TitlesFor(world, kSingles, 1, {"Man 1", "Man 2"}), Lines{"Crown"});
+  Lines lights;
+  for (int i = 1; i <= 10; ++i)
+    small.Worker(lights.emplace_back("Light " + std::to_string(i)), light);
+  const World world = small.Title("Crown")
+                          .Title("Light", {}, {}, [](Title& t) { t.Lightweight = true; })
+                          .Title("Women", {}, {}, [](Title& t) { t.Woman = true; })
+                          .Title("Gone", {}, {}, [](Title& t) { t.Suspended = true; })
+                          .Title("Straps", "Man 1", "Man 2")
+                          .Promotion("NEW", kSmall)
+                          .Title("Theirs")
+                          .Game("CWA");
   EXPECT_EQ(TitlesFor(world, kSingles, 1, {"Light 1", "Man 2"}), Lines{"Crown"});
-  EXPECT_EQ(TitlesFor(world, kSingles, 1, lights(2)), (Lines{"Crown", "Light"}));
   EXPECT_EQ(TitlesFor(world, kSingles, 1, {"Woman 1", "Woman 2"}), (Lines{"Crown", "Women"}));
-  EXPECT_EQ(TitlesFor(world, kSingles, 1, {"Woman 1", "Man 2"}), Lines{"Crown"});
-  EXPECT_EQ(TitlesFor(world, kThreeWay, 1, {"Woman 1", "Woman 2", "Man 3"}), Lines{"Crown"});
-  EXPECT_EQ(TitlesFor(world, kThreeWay, 1, {"Woman 1", "Woman 2", "Woman 3"}),
-            (Lines{"Crown", "Women"}));
   EXPECT_EQ(TitlesFor(world, kFourWay, 1, {"Woman 1", "Woman 2", "Woman 3", "Man 1"}),
             Lines{"Crown"});
   for (const int style : {kTag, kThreeTeams, kFourTeams})
-    EXPECT_EQ(TitlesFor(world, style, 1, lights(8)), Lines{"Straps"});
-  for (const int style : {kThreeOnThree, kFourOnFour})
-    EXPECT_EQ(TitlesFor(world, style, 1, lights(8)), Lines());
-  for (const auto& [type, count] :
-       {std::pair(kTenMan, 10), std::pair(kTwentyMan, 20), std::pair(kRoyalRumble, 30)}) {
-    Lines field = lights(count);
-    EXPECT_EQ(TitlesFor(world, kSpecial, type, field), (Lines{"Crown", "Light"}));
-    field.back() = "Man 1";
-    EXPECT_EQ(TitlesFor(world, kSpecial, type, field), Lines{"Crown"});
-  }
+    EXPECT_EQ(TitlesFor(world, style, 1, lights), Lines{"Straps"});
+  EXPECT_EQ(TitlesFor(world, kFourOnFour, 1, lights), Lines());
+  EXPECT_EQ(TitlesFor(world, kSpecial, kTenMan, lights), (Lines{"Crown", "Light"}));
+  lights.back() = "Man 1";
+  EXPECT_EQ(TitlesFor(world, kSpecial, kTenMan, lights), Lines{"Crown"});
 }
 
 TEST(Titles, MissTheirChampion) {
-  World world = BookingRoster()
-                    .Title("Crown", "Man 4")
-                    .Title("Vacant")
-                    .Title("Straps", "Man 2", "Man 1")
-                    .Game("CWA");
-  const auto misses = [&](int style, const Lines& people, const char* title) {
-    return IsChampionMissing(MatchOf(world, style, 3, people), Named(world.Titles(), title));
+  const World world = BookingRoster()
+                          .Title("Crown", "Man 4")
+                          .Title("Vacant")
+                          .Title("Straps", "Man 2", "Man 1")
+                          .Game("CWA");
+  struct Row {
+    int Style;
+    std::vector<int> People;
+    const char* Title;
+    bool Misses;
   };
-  EXPECT_TRUE(misses(kSingles, {"Man 1", "Man 2"}, "Crown"));
-  EXPECT_FALSE(misses(kSingles, {"Man 4", "Man 2"}, "Crown"));
-  EXPECT_FALSE(misses(kSingles, {"Man 1", "Man 2"}, "Vacant"));
-  EXPECT_FALSE(misses(kFourWay, {"Man 1", "Man 2", "Man 3", "Man 4"}, "Crown"));
-  EXPECT_FALSE(misses(kSpecial, {"Man 1", "Man 2", "Man 3", "Man 5", "Man 6", "Man 4"}, "Crown"));
-  for (int place = 1; place <= 30; ++place) {
-    Segment royal = MatchOf(world, kSpecial, kRoyalRumble, {});
-    royal.Worker[static_cast<std::size_t>(place - 1)] = 4;
-    EXPECT_FALSE(IsChampionMissing(royal, Named(world.Titles(), "Crown"))) << place;
-    royal.Style = kFourWay;
-    EXPECT_EQ(IsChampionMissing(royal, Named(world.Titles(), "Crown")), place > 4) << place;
+  for (const Row& row :
+       {Row{kSingles, {1, 2}, "Crown", true}, Row{kSingles, {4, 2}, "Crown", false},
+        Row{kSingles, {1, 2}, "Vacant", false}, Row{kFourWay, {1, 2, 3, 4}, "Crown", false},
+        Row{kFourWay, {1, 2, 3, 5, 4}, "Crown", true},  // beyond the places
+        Row{kSpecial, {1, 2, 3, 5, 6, 4}, "Crown", false}, Row{kTag, {3, 4, 1, 2}, "Straps", false},
+        Row{kTag, {1, 4, 3, 2}, "Straps", true},  // apart
+        Row{kFourTeams, {3, 4, 5, 6, 7, 8, 2, 1}, "Straps", false}}) {
+    Segment match = MatchOf(world, row.Style, 3, {});
+    std::copy(row.People.begin(), row.People.end(), match.Worker.begin());
+    EXPECT_EQ(IsChampionMissing(match, Named(world.Titles(), row.Title)), row.Misses)
+        << row.Style << row.Title << row.People.back();
   }
-  EXPECT_TRUE(misses(kSpecial, {"Man 1", "Man 2", "Man 3", "Man 5", "Man 6"}, "Crown"));
-  EXPECT_FALSE(misses(kTag, {"Man 3", "Man 4", "Man 1", "Man 2"}, "Straps"));
-  EXPECT_TRUE(misses(kTag, {"Man 1", "Man 4", "Man 3", "Man 2"}, "Straps")) << "apart";
-  EXPECT_FALSE(misses(kFourTeams,
-                      {"Man 3", "Man 4", "Man 5", "Man 6", "Man 7", "Man 8", "Man 2", "Man 1"},
-                      "Straps"));
+  Segment royal = MatchOf(world, kSpecial, kRoyalRumble, {});
+  royal.Worker[29] = 4;
+  EXPECT_FALSE(IsChampionMissing(royal, Named(world.Titles(), "Crown")));
 }
 
 }  // namespace

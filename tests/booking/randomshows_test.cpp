@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "autocards.h"
+#include "booking/wizard/objections.h"
 #include "randomhouse.h"
 #include "randomsegment.h"
 #include "records/checks/checkworld.h"
@@ -49,10 +50,19 @@ struct Tally {
   int Segments = 0, Random = 0, Matches = 0, Interviews = 0, Angles = 0;
 };
 
+/// The first who would take the card amiss although nobody has objected.
+std::string GrudgeOf(const World& world, const AutoCard& card) {
+  World booked = CopyOf(world);
+  for (const Segment& row : card.Rows) ApplyBookingGrievances(booked, row);
+  return FirstDifference(booked, world);
+}
+
 /// The card of the auto booker with some rows booked anew.
 void Book(World& world, Dice& dice, bool isEvent, std::uint64_t seed, Tally& tally) {
   const int rows = RowsOf(isEvent);
   AutoCard card = BookedBy(world, isEvent, rows, seed);
+  ASSERT_EQ("", FaultsOf(world, card, isEvent));
+  ASSERT_EQ("", GrudgeOf(world, card));
   card.Rows.resize(static_cast<std::size_t>(rows), EmptySegment());
   for (Segment& row : card.Rows) {
     if (row.Kind != kEmptySegment && !dice.OneIn(3)) continue;

@@ -9,20 +9,23 @@ namespace grapplemont::test {
 namespace {
 
 using Lines = std::vector<std::string>;
+using Levels = std::map<int, int>;
 
 /// Somebody's numbers in a case.
 struct Numbers {
   int Over, Attitude;
 };
 
+/// Men have the uids of their numbers, and 50 and 96 for Over and Attitude.
 World Roster() {
-  return BookingRoster().Game("CWA");
+  World world = BookingRoster().Game("CWA");
+  for (Worker& worker : world.Workers()) worker.Over = 50;
+  return world;
 }
 
-void Give(World& world, const std::string& name, Numbers numbers) {
-  Worker& worker = Named(world.Workers(), name);
-  worker.Over = numbers.Over;
-  worker.Attitude = numbers.Attitude;
+void Give(World& world, int man, const Numbers& numbers) {
+  world.FindWorker(man)->Over = numbers.Over;
+  world.FindWorker(man)->Attitude = numbers.Attitude;
 }
 
 Lines WordsAt(const World& world, const Segment& match, MatchStep step) {
@@ -31,323 +34,145 @@ Lines WordsAt(const World& world, const Segment& match, MatchStep step) {
   return words;
 }
 
-std::vector<std::string> Men(int count) {
-  std::vector<std::string> names;
-  for (int i = 1; i <= count; ++i) names.push_back("Man " + std::to_string(i));
-  return names;
-}
-
-/// Man 1 is the loser of everything, Man 3 of the fewest, so that both stand on different sides in
-/// every style.
-Segment LostByMan1(const World& world, int style, int type) {
-  Segment match = MatchOf(
-      world, style, type,
-      Men(style == kSpecial ? 10 : FindMatchStyle(style)->Sides * FindMatchStyle(style)->PerSide));
-  match.Winner = UidOf(world, style == kThreeOnThree || style == kFourOnFour ? "Man 6" : "Man 3");
-  match.Loser = UidOf(world, "Man 1");
+/// Of Man 1 and on, ended in a way that nobody minds. Winner 0 is a draw.
+Segment Match(const World& world, int style, int type, int winner, const std::vector<int>& losers) {
+  Segment match = MatchOf(world, style, type, {});
+  for (int man = 1; man <= EntrantsOf(match); ++man)
+    match.Worker[static_cast<std::size_t>(man - 1)] = man;
+  StoreResult(match, winner, losers);
+  match.Finish = kCheating;
+  match.Aftermath = after1::kTantrum;
   return match;
 }
 
-std::string WinnerOf(const Segment& match) {
-  return "Man " + std::to_string(match.Winner);
-}
-
-/// A loser and a winner of 50 in Over: how often he objects, and the level of his grievance.
-struct GapRow {
-  Numbers Loser;
-  int Times;
-  int Level;
-};
-
-TEST(Refusals, OfTheSinglesLoserComeAtTheirThresholds) {
-  const GapRow kRows[] = {
-      {{81, 96}, 1, 3}, {{80, 96}, 0, 0}, {{81, 75}, 1, 3}, {{71, 74}, 1, 2}, {{71, 75}, 0, 0},
-      {{70, 74}, 0, 0}, {{61, 39}, 1, 1}, {{61, 40}, 0, 0}, {{60, 39}, 0, 0}, {{71, 39}, 2, 2},
-      {{81, 74}, 2, 3}, {{81, 39}, 3, 3}, {{50, 39}, 0, 0},
-  };
-  for (const GapRow& row : kRows) {
-    SCOPED_TRACE(std::to_string(row.Loser.Over) + ", " + std::to_string(row.Loser.Attitude));
-    World world = Roster();
-    Give(world, "Man 1", row.Loser);
-    Give(world, "Man 2", {50, 96});
-    Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 1", "Man 2"});
-    StoreResult(match, UidOf(world, "Man 2"), {});
-    match.Finish = kBotchedInterference;
-    match.Aftermath = after1::kTantrum;
-    EXPECT_EQ(WordsAt(world, match, kResultStep),
-              Lines(static_cast<std::size_t>(row.Times),
-                    "Man 1: I am not losing this match, he is not in my league."));
-    EXPECT_EQ(GrievancesOf(world, match)[UidOf(world, "Man 1")], row.Level);
-
-    StoreResult(match, 0, {});
-    EXPECT_EQ(WordsAt(world, match, kResultStep),
-              Lines(static_cast<std::size_t>(row.Times),
-                    "Man 1: I should win this match, he is not in my league."));
-    EXPECT_EQ(GrievancesOf(world, match)[UidOf(world, "Man 1")], row.Level);
-    std::swap(match.Worker[0], match.Worker[1]);
-    EXPECT_EQ(WordsAt(world, match, kResultStep).size(), static_cast<std::size_t>(row.Times))
-        << "a draw asks both";
-  }
-}
-
-TEST(Refusals, OfMenAgainstWomen) {
-  for (const auto& [attitude, level, drawLevel] : {std::tuple(94, 5, 4), std::tuple(95, 0, 0)}) {
-    World world = Roster();
-    Give(world, "Man 1", {50, attitude});
-    Give(world, "Woman 1", {50, 20});
-    Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 1", "Woman 1"});
-    match.Aftermath = after1::kTantrum;
-    StoreResult(match, UidOf(world, "Woman 1"), {});
-    EXPECT_EQ(WordsAt(world, match, kResultStep),
-              level ? Lines{"Man 1: I am not losing to a woman."} : Lines());
-    EXPECT_EQ(GrievancesOf(world, match)[1], level);
-    StoreResult(match, 0, {});
-    EXPECT_EQ(WordsAt(world, match, kResultStep),
-              level ? Lines{"Man 1: I am not drawing with a woman."} : Lines());
-    EXPECT_EQ(GrievancesOf(world, match)[1], drawLevel);
-    StoreResult(match, UidOf(world, "Man 1"), {});
-    EXPECT_EQ(WordsAt(world, match, kResultStep), Lines()) << "a woman minds nothing";
-  }
-  World world = Roster();
-  Give(world, "Woman 2", {81, 80});
-  Give(world, "Woman 1", {50, 20});
-  Segment match = MatchOf(world, kSingles, kPlainSingles, {"Woman 1", "Woman 2"});
-  StoreResult(match, UidOf(world, "Woman 1"), {});
-  EXPECT_EQ(WordsAt(world, match, kResultStep),
-            Lines{"Woman 2: I am not losing this match, she is not in my league."});
-}
-
-/// Sums of a losing pair against a pair of 100.
-struct TagRow {
-  bool FirstWins;
-  Numbers Losers;
+/// What is said to a result, and the levels of the grievances when the player insists.
+struct ResultRow {
+  int Style, Type, Winner;
+  std::vector<int> Losers;     // as in their boxes
+  std::map<int, Numbers> Who;  // of those who are not like all others
+  std::vector<int> Women;
   Lines Says;
-  int Level;
+  Levels Minds;
 };
 
-TEST(Refusals, OfTheLosingPairComeAtTheirThresholds) {
-  const std::string kLeague = ": We are not losing this match, they are not in our league.";
-  const std::string kPlain = ": We are not losing this match.";
-  const TagRow kRows[] = {
-      {true, {141, 190}, {kLeague}, 3},
-      {true, {140, 190}, {}, 0},
-      {false, {131, 190}, {kLeague}, 3},
-      {false, {130, 190}, {}, 0},
-      {true, {141, 179}, {kLeague, kLeague}, 3},
-      {true, {141, 180}, {kLeague}, 3},
-      {true, {140, 179}, {}, 0},
-      {false, {140, 179}, {kLeague}, 3},
-      {false, {121, 129}, {kLeague}, 2},
-      {false, {121, 130}, {}, 0},
-      {false, {120, 129}, {}, 0},
-      {false, {101, 99}, {kPlain}, 1},
-      {false, {101, 100}, {}, 0},
-      {false, {100, 99}, {}, 0},
-      {false, {141, 179}, {kLeague, kLeague}, 3},
-      {false, {141, 180}, {kLeague}, 3},
-      {true, {121, 129}, {kLeague}, 2},
-      {true, {121, 130}, {}, 0},
-      {true, {120, 129}, {}, 0},
-      {true, {101, 99}, {kPlain}, 1},
-      {true, {101, 100}, {}, 0},
-      {true, {100, 99}, {}, 0},
-      {false, {141, 99}, {kLeague, kLeague, kLeague, kPlain}, 3},
-  };
-  for (const TagRow& row : kRows) {
-    SCOPED_TRACE(std::to_string(row.Losers.Over) + ", " + std::to_string(row.Losers.Attitude));
-    World world = Roster();
-    const int losing = row.FirstWins ? 3 : 1, winning = row.FirstWins ? 1 : 3;
-    const auto man = [](int i) { return "Man " + std::to_string(i); };
-    Give(world, man(losing), {row.Losers.Over - 60, row.Losers.Attitude / 2});
-    Give(world, man(losing + 1), {60, row.Losers.Attitude - row.Losers.Attitude / 2});
-    Give(world, man(winning), {40, 96});
-    Give(world, man(winning + 1), {60, 96});
-    Segment match = MatchOf(world, kTag, kPlainTag, Men(4));
-    StoreResult(match, winning, {losing});
-    match.Finish = kCheating;
-    Lines expected = row.Says;
-    for (std::string& line : expected) line = man(losing) + " \\ " + man(losing + 1) + line;
-    EXPECT_EQ(WordsAt(world, match, kResultStep), expected);
-    auto levels = GrievancesOf(world, match);
-    EXPECT_EQ(levels[losing], row.Level);
-    EXPECT_EQ(levels[losing + 1], row.Level);
-    EXPECT_EQ(levels[winning], 0);
-  }
+Lines Times(int count, const std::string& line) {
+  return Lines(static_cast<std::size_t>(count), line);
 }
 
-TEST(Refusals, OfPairsInADraw) {
-  const std::string kLine = "Man 3 \\ Man 4: We should win this match, they are not in our league.";
-  for (const auto& [over, attitude, times, level] :
-       {std::tuple(141, 175, 2, 3), std::tuple(140, 175, 1, 1), std::tuple(141, 174, 3, 3),
-        std::tuple(121, 174, 2, 2), std::tuple(120, 174, 1, 1), std::tuple(111, 190, 1, 1),
-        std::tuple(110, 20, 0, 0)}) {
-    SCOPED_TRACE(std::to_string(over) + ", " + std::to_string(attitude));
-    World world = Roster();
-    Give(world, "Man 3", {over - 60, attitude / 2});
-    Give(world, "Man 4", {60, attitude - attitude / 2});
-    Give(world, "Man 1", {40, 96});
-    Give(world, "Man 2", {60, 96});
-    Segment match = MatchOf(world, kTag, kPlainTag, Men(4));
-    StoreResult(match, 0, {});
-    for (const bool swapped : {false, true}) {
-      if (swapped) {
-        std::swap(match.Worker[0], match.Worker[2]);
-        std::swap(match.Worker[1], match.Worker[3]);
-      }
-      EXPECT_EQ(WordsAt(world, match, kResultStep), Lines(static_cast<std::size_t>(times), kLine))
-          << "a draw asks both pairs";
-      EXPECT_EQ(GrievancesOf(world, match)[3], level);
-      EXPECT_EQ(GrievancesOf(world, match)[4], level);
-    }
-  }
-}
+const std::string kLeague = "Man 1: I am not losing this match, he is not in my league.";
+const std::string kShouldWin = "Man 1: I should win this match, he is not in my league.";
+const std::string kThird = "Man 1: I am not losing this match to Man 3";
+const std::string kWorthy = "Man 1: I think i am a more worthy winner of this match.";
+const std::string kThem = "Man 1: We are not losing this match to them.";
+const std::string kFirstPair = "Man 1 \\ Man 2: ", kSecondPair = "Man 3 \\ Man 4: ";
+const std::string kPairLeague = "We are not losing this match, they are not in our league.";
+const std::string kPairPlain = "We are not losing this match.";
+const std::string kPairDraw = "We should win this match, they are not in our league.";
 
-TEST(Refusals, OfPairsOfMenAgainstAPairWithAWoman) {
-  for (const auto& [attitude, minds] : {std::pair(184, true), std::pair(185, false)}) {
-    World world = Roster();
-    Give(world, "Man 1", {50, 90});
-    Give(world, "Man 2", {50, attitude - 90});
-    Give(world, "Man 3", {50, 96});
-    Segment match = MatchOf(world, kTag, kPlainTag, {"Man 1", "Man 2", "Man 3", "Woman 1"});
-    StoreResult(match, 3, {1});
-    match.Finish = kCheating;
-    EXPECT_EQ(
-        WordsAt(world, match, kResultStep),
-        minds ? Lines{"Man 1 \\ Man 2: We are not losing to a team including a woman."} : Lines());
-    EXPECT_EQ(GrievancesOf(world, match)[2], minds ? 5 : 0);
-    StoreResult(match, 0, {});
-    EXPECT_EQ(WordsAt(world, match, kResultStep),
-              minds ? Lines{"Man 1 \\ Man 2: We are not drawing with a team that has a woman on "
-                            "it."}
-                    : Lines());
-    EXPECT_EQ(GrievancesOf(world, match)[1], minds ? 4 : 0);
-    EXPECT_EQ(GrievancesOf(world, match)[2], minds ? 4 : 0);
-    StoreResult(match, 1, {3});
-    EXPECT_EQ(WordsAt(world, match, kResultStep), Lines()) << "the losers are not both men";
-  }
-}
+const ResultRow kSinglesRows[] = {
+    ResultRow(kSingles, 1, 2, {}, {{1, {81, 96}}}, {}, {kLeague}, {{1, 3}}),
+    ResultRow(kSingles, 1, 2, {}, {{1, {80, 96}}}, {}, {}, {}),
+    ResultRow(kSingles, 1, 2, {}, {{1, {71, 74}}}, {}, {kLeague}, {{1, 2}}),
+    ResultRow(kSingles, 1, 2, {}, {{1, {71, 75}}}, {}, {}, {}),
+    ResultRow(kSingles, 1, 2, {}, {{1, {61, 39}}}, {}, {kLeague}, {{1, 1}}),
+    ResultRow(kSingles, 1, 2, {}, {{1, {61, 40}}}, {}, {}, {}),
+    ResultRow(kSingles, 1, 2, {}, {{1, {81, 39}}}, {}, Times(3, kLeague), {{1, 3}}),
+    ResultRow(kSingles, 1, 0, {}, {{1, {71, 74}}}, {}, {kShouldWin}, {{1, 2}}),
+    ResultRow(kSingles, 1, 0, {}, {{2, {81, 96}}}, {}, {"Man 2" + kShouldWin.substr(5)}, {{2, 3}}),
+    ResultRow(kSingles, 1, 2, {}, {{1, {50, 94}}}, {2}, {"Man 1: I am not losing to a woman."},
+              {{1, 5}}),
+    ResultRow(kSingles, 1, 2, {}, {{1, {50, 95}}}, {2}, {}, {}),
+    ResultRow(kSingles, 1, 0, {}, {{1, {50, 94}}}, {2}, {"Man 1: I am not drawing with a woman."},
+              {{1, 4}}),
+    ResultRow(kSingles, 1, 1, {}, {{2, {50, 40}}}, {2}, {}, {}),
+    ResultRow(kSingles, 1, 2, {}, {{1, {81, 96}}}, {1, 2},
+              {"Man 1: I am not losing this match, she is not in my league."}, {{1, 3}}),
+};
 
-TEST(Refusals, OfTheOneLoserOfOtherStylesComeAtTheirThresholds) {
-  const GapRow kRows[] = {
-      {{81, 96}, 1, 3}, {{80, 96}, 0, 0}, {{71, 94}, 1, 2}, {{71, 95}, 0, 0},
-      {{70, 94}, 0, 0}, {{61, 89}, 1, 1}, {{61, 90}, 0, 0}, {{60, 89}, 0, 0},
-      {{51, 49}, 1, 1}, {{51, 50}, 0, 0}, {{50, 49}, 0, 0}, {{81, 49}, 4, 3},
-  };
-  struct Form {
-    int Style, Type;
-    const char* Words;
-  };
-  const Form kForms[] = {
-      {kThreeWay, kTriangle, ": I am not losing this match to "},
-      {kFourWay, 2, ": I am not losing this match to "},
-      {kThreeTeams, kTriangle, ": We are not losing this match to them."},
-      {kThreeOnThree, 1, ": We are not losing this match to them."},
-      {kFourOnFour, kPlainEightMan, ": We are not losing this match to them."},
-      {kThreeWay, kElimination, ": I think i am a more worthy winner of this match."},
-      {kFourWay, kElimination, ": I think i am a more worthy winner of this match."},
-      {kThreeTeams, kElimination, ": We are not losing this match to them."},
-      {kFourTeams, kElimination, ": We are not losing this match to them."},
-  };
-  for (const Form& form : kForms)
-    for (const GapRow& row : kRows) {
-      SCOPED_TRACE(form.Words + std::to_string(row.Loser.Over) + ", " +
-                   std::to_string(row.Loser.Attitude));
+// The bounds of a pair are of sums: theirs against 100.
+const ResultRow kTagRows[] = {
+    ResultRow(kTag, 1, 1, {3}, {{3, {91, 96}}, {4, {50, 94}}}, {}, {kSecondPair + kPairLeague},
+              {{3, 3}, {4, 3}}),
+    ResultRow(kTag, 1, 1, {3}, {{3, {90, 96}}, {4, {50, 94}}}, {}, {}, {}),
+    ResultRow(kTag, 1, 1, {3}, {{3, {71, 65}}, {4, {50, 64}}}, {}, {kSecondPair + kPairLeague},
+              {{3, 2}, {4, 2}}),
+    ResultRow(kTag, 1, 1, {3}, {{3, {71, 65}}, {4, {50, 65}}}, {}, {}, {}),
+    ResultRow(kTag, 1, 1, {3}, {{3, {51, 50}}, {4, {50, 49}}}, {}, {kSecondPair + kPairPlain},
+              {{3, 1}, {4, 1}}),
+    ResultRow(kTag, 1, 3, {1}, {{1, {81, 96}}, {2, {50, 94}}}, {}, {kFirstPair + kPairLeague},
+              {{1, 3}, {2, 3}}),
+    ResultRow(kTag, 1, 3, {1}, {{1, {91, 50}}, {2, {50, 49}}}, {},
+              {kFirstPair + kPairLeague, kFirstPair + kPairLeague, kFirstPair + kPairLeague,
+               kFirstPair + kPairPlain},
+              {{1, 3}, {2, 3}}),
+    ResultRow(kTag, 1, 0, {}, {{3, {91, 87}}, {4, {50, 88}}}, {}, Times(2, kSecondPair + kPairDraw),
+              {{3, 3}, {4, 3}}),
+    ResultRow(kTag, 1, 0, {}, {{3, {71, 87}}, {4, {50, 87}}}, {}, Times(2, kSecondPair + kPairDraw),
+              {{3, 2}, {4, 2}}),
+    ResultRow(kTag, 1, 0, {}, {{1, {61, 96}}}, {}, {kFirstPair + kPairDraw}, {{1, 1}, {2, 1}}),
+    ResultRow(kTag, 1, 3, {1}, {{1, {50, 90}}, {2, {50, 94}}}, {4},
+              {kFirstPair + "We are not losing to a team including a woman."}, {{1, 5}, {2, 5}}),
+    ResultRow(kTag, 1, 3, {1}, {{1, {50, 90}}, {2, {50, 95}}}, {4}, {}, {}),
+    ResultRow(kTag, 1, 0, {}, {{1, {50, 90}}, {2, {50, 94}}}, {4},
+              {kFirstPair + "We are not drawing with a team that has a woman on it."},
+              {{1, 4}, {2, 4}}),
+};
+
+// A woman high on the card has her price however patient a loser is.
+const ResultRow kOtherRows[] = {
+    ResultRow(kThreeWay, kTriangle, 3, {1}, {{1, {81, 96}}}, {}, {kThird}, {{1, 3}}),
+    ResultRow(kThreeWay, kTriangle, 3, {1}, {{1, {80, 96}}}, {}, {}, {}),
+    ResultRow(kThreeWay, kTriangle, 3, {1}, {{1, {71, 94}}}, {}, {kThird}, {{1, 2}}),
+    ResultRow(kThreeWay, kTriangle, 3, {1}, {{1, {71, 95}}}, {}, {}, {}),
+    ResultRow(kThreeWay, kTriangle, 3, {1}, {{1, {61, 89}}}, {}, {kThird}, {{1, 1}}),
+    ResultRow(kThreeWay, kTriangle, 3, {1}, {{1, {51, 49}}}, {}, {kThird}, {{1, 1}}),
+    ResultRow(kThreeWay, kTriangle, 3, {1}, {{1, {81, 49}}}, {}, Times(4, kThird), {{1, 3}}),
+    ResultRow(kFourWay, 2, 3, {1}, {{1, {81, 96}}}, {}, {kThird}, {{1, 3}}),
+    ResultRow(kThreeWay, kElimination, 3, {1, 2}, {{1, {81, 96}}}, {}, {kWorthy}, {{1, 3}}),
+    ResultRow(kFourWay, kElimination, 4, {3, 1, 2}, {{1, {81, 96}}, {2, {80, 96}}, {3, {81, 96}}},
+              {}, {"Man 3" + kWorthy.substr(5), kWorthy}, {{1, 3}, {3, 3}}),
+    ResultRow(kThreeTeams, kTriangle, 3, {1}, {{1, {81, 96}}}, {}, {kThem}, {{1, 3}}),
+    ResultRow(kFourTeams, kElimination, 3, {1, 5, 7}, {{1, {81, 96}}}, {}, {kThem}, {{1, 3}}),
+    ResultRow(kThreeOnThree, 1, 6, {1}, {{1, {81, 96}}}, {}, {kThem}, {{1, 3}}),
+    ResultRow(kFourOnFour, kPlainEightMan, 6, {1}, {{1, {81, 96}}}, {}, {kThem}, {{1, 3}}),
+    ResultRow(kThreeTeams, kThreeTeamsTlc, 3, {}, {{1, {100, 0}}}, {}, {}, {}),
+    ResultRow(kThreeWay, kTriangle, 3, {1}, {{1, {50, 94}}}, {3},
+              {"Man 1: I am not losing to a woman."}, {{1, 5}}),
+    ResultRow(kThreeWay, kTriangle, 3, {1}, {{1, {50, 95}}}, {3}, {}, {{1, 5}}),
+    ResultRow(kThreeWay, kElimination, 3, {1, 2}, {{1, {50, 94}}}, {3},
+              {"Man 1: I am not losing out to a woman."}, {{1, 5}, {2, 5}}),
+    ResultRow(kThreeOnThree, 1, 6, {1}, {{1, {50, 94}}}, {6},
+              {"Man 1: We are not losing to a team containing a woman."}, {{1, 5}}),
+    ResultRow(kFourOnFour, kSurvivor, 6, {1, 2, 3, 4}, {{1, {50, 0}}}, {6}, {},
+              {{1, 5}, {2, 5}, {3, 5}, {4, 5}}),
+    ResultRow(kFourOnFour, kSurvivor, 2, {1, 5, 6, 7, 8},
+              {{1, {76, 96}}, {6, {76, 96}}, {7, {75, 96}}}, {},
+              {"Man 6: I think my team should win this bout."}, {}),
+    ResultRow(kSpecial, kTenMan, 10, {1}, {{2, {71, 91}}, {3, {71, 92}}, {4, {70, 91}}}, {},
+              {"Man 2: I'm not being in a match where the winner is so much lower than me."},
+              {{2, 2}, {3, 2}}),
+};
+
+TEST(Refusals, OfTheResultAndTheirPrice) {
+  for (const auto& rows : {std::span<const ResultRow>(kSinglesRows), {kTagRows}, {kOtherRows}})
+    for (const ResultRow& row : rows) {
+      SCOPED_TRACE("style " + std::to_string(row.Style) + ", row " +
+                   std::to_string(&row - rows.data()));
       World world = Roster();
-      Segment match = LostByMan1(world, form.Style, form.Type);
-      Give(world, "Man 1", row.Loser);
-      Give(world, WinnerOf(match), {50, 96});
-      std::string words = std::string("Man 1") + form.Words;
-      if (words.ends_with(" to ")) words += WinnerOf(match);
-      EXPECT_EQ(WordsAt(world, match, kResultStep),
-                Lines(static_cast<std::size_t>(row.Times), words));
-      EXPECT_EQ(GrievancesOf(world, match)[1], row.Level);
+      for (const auto& [man, numbers] : row.Who) Give(world, man, numbers);
+      for (const int uid : row.Women) world.FindWorker(uid)->Gender = false;
+      const Segment match = Match(world, row.Style, row.Type, row.Winner, row.Losers);
+      EXPECT_EQ(WordsAt(world, match, kResultStep), row.Says);
+      EXPECT_EQ(GrievancesOf(world, match), row.Minds);
     }
 }
 
-TEST(Refusals, OfMenWhoLoseOtherStylesToAWoman) {
-  struct Form {
-    int Style, Type;
-    const char* Words;
-  };
-  const Form kForms[] = {
-      {kThreeWay, kTriangle, "Man 1: I am not losing to a woman."},
-      {kFourWay, kElimination, "Man 1: I am not losing out to a woman."},
-      {kFourTeams, kElimination, "Man 1: We are not losing to a team containing a woman."},
-      {kThreeOnThree, 1, "Man 1: We are not losing to a team containing a woman."},
-  };
-  for (const Form& form : kForms)
-    for (const int attitude : {94, 95}) {
-      SCOPED_TRACE(form.Words);
-      World world = Roster();
-      Segment match = LostByMan1(world, form.Style, form.Type);
-      Worker& winner = *world.FindWorker(match.Winner);
-      winner.Gender = false;
-      Give(world, "Man 1", {50, attitude});
-      EXPECT_EQ(WordsAt(world, match, kResultStep), attitude < 95 ? Lines{form.Words} : Lines());
-      winner.Position = kOpener;
-      EXPECT_EQ(GrievancesOf(world, match)[1], attitude < 95 ? 5 : 0);
-      winner.Position = kLowerMidcard;
-      EXPECT_EQ(GrievancesOf(world, match)[1], 5) << "a woman high on the card";
-    }
-}
-
-TEST(Refusals, OfNobodyWhoLosesATeamOrABattleRoyalToAWoman) {
-  for (const auto& [style, type, people] :
-       {std::tuple(kFourOnFour, int(kSurvivor), 8), std::tuple(kSpecial, int(kTenMan), 10)}) {
-    World world = Roster();
-    Segment match = MatchOf(world, style, type, Men(people));
-    StoreResult(match, 6, {1});
-    for (int i = 1; i <= people; ++i) Give(world, "Man " + std::to_string(i), {50, 0});
-    world.FindWorker(6)->Gender = false;
-    EXPECT_EQ(WordsAt(world, match, kResultStep), Lines()) << style;
-    EXPECT_EQ(GrievancesOf(world, match)[1], 5) << "but it has its price";
-  }
-}
-
-TEST(Refusals, OfEveryLoserOfAnElimination) {
+TEST(Refusals, PutNoPriceOnAWomanLowOnTheCard) {
   World world = Roster();
-  Segment match = MatchOf(world, kFourWay, kElimination, Men(4));
-  StoreResult(match, 4, {3, 1, 2});
-  for (const char* name : {"Man 1", "Man 2", "Man 3"}) Give(world, name, {91, 96});
-  const std::string words = ": I think i am a more worthy winner of this match.";
-  EXPECT_EQ(WordsAt(world, match, kResultStep),
-            (Lines{"Man 3" + words, "Man 1" + words, "Man 2" + words}));
-  EXPECT_EQ(GrievancesOf(world, match), (std::map<int, int>{{1, 3}, {2, 3}, {3, 3}}));
-}
-
-TEST(Refusals, OfTheLosingTeamOfASurvivorMatch) {
-  World world = Roster();
-  Segment match = MatchOf(world, kFourOnFour, kSurvivor, Men(8));
-  StoreResult(match, 2, {1, 5, 6, 7, 8});
-  for (const char* name : {"Man 1", "Man 6"}) Give(world, name, {86, 96});
-  Give(world, "Man 7", {85, 96});
-  EXPECT_EQ(WordsAt(world, match, kResultStep),
-            Lines{"Man 6: I think my team should win this bout."})
-      << "Man 1 was put out, but his team wins";
-}
-
-TEST(Refusals, OfEveryEntrantOfABattleRoyal) {
-  World world = Roster();
-  Segment match = MatchOf(world, kSpecial, kTenMan, Men(10));
-  StoreResult(match, 10, {1});
-  Give(world, "Man 2", {81, 91});
-  Give(world, "Man 3", {81, 92});
-  Give(world, "Man 4", {80, 91});
-  EXPECT_EQ(WordsAt(world, match, kResultStep),
-            Lines{"Man 2: I'm not being in a match where the winner is so much lower than me."});
-  EXPECT_EQ(GrievancesOf(world, match), (std::map<int, int>{{2, 2}, {3, 2}}))
-      << "the price asks for an Attitude under 95";
-}
-
-TEST(Refusals, OfNobodyWhereNobodyIsNamedLoser) {
-  World world = Roster();
-  for (const int style : {kThreeTeams, kFourTeams}) {
-    Segment match = LostByMan1(world, style, style == kThreeTeams ? 4 : 2);
-    StoreResult(match, 3, {});
-    Give(world, "Man 1", {100, 0});
-    EXPECT_EQ(WordsAt(world, match, kResultStep), Lines());
-    EXPECT_TRUE(GrievancesOf(world, match).empty());
-  }
+  world.FindWorker(3)->Gender = false;
+  world.FindWorker(3)->Position = kOpener;
+  Give(world, 1, {50, 95});
+  EXPECT_EQ(GrievancesOf(world, Match(world, kThreeWay, kTriangle, 3, {1})), Levels());
 }
 
 TEST(Refusals, OfWhoIsToBeStripped) {
@@ -362,9 +187,7 @@ TEST(Refusals, OfWhoIsToBeStripped) {
   const std::string kWoman = ": You're a sick freak! Go to hell!";
   const Row kRows[] = {
       {kPlainSingles, "Man 1", "Woman 2", 90, 90, {}},
-      {kBraAndPanties, "Man 1", "Woman 2", 20, 20, {"Man 1" + kMan}},
-      {kBraAndPanties, "Woman 2", "Man 1", 20, 20, {"Man 1" + kMan}},
-      {kBraAndPanties, "Woman 1", "Woman 2", 90, 90, {}},
+      {kBraAndPanties, "Woman 2", "Man 1", 90, 90, {"Man 1" + kMan}},
       {kBuckNaked, "Man 1", "Man 2", 20, 20, {"Man 1" + kMan, "Man 2" + kMan}},
       {kBuckNaked, "Woman 1", "Woman 2", 30, 30, {}},
       {kBuckNaked, "Woman 1", "Woman 2", 31, 30, {"Woman 2" + kWoman}},
@@ -384,184 +207,115 @@ TEST(Refusals, OfWhoIsToBeStripped) {
 TEST(Refusals, OfTheFinish) {
   struct Row {
     int Style, Finish;
-    int LoserOver, LoserAttitude, WinnerOver, RunInOver;
-    bool HighSpots;
+    Numbers Loser;  // Man 1, as much as half of his team
+    int WinnerOver, RunInOver;
     Lines Says;
     int Level;
   };
   const std::string kCleanly = "Man 1: I am not losing this match cleanly.";
   const std::string kBetter =
       "Man 1: If i am to lose this match by interference, i want someone better to run in.";
-  const std::string kTeam = "Man 1 \\ Man 2: We are not losing this match cleanly.";
+  const std::string kBump = "Man 1: I'm not taking a sick bump, sorry.";
   const Row kRows[] = {
-      {kSingles, kClean, 50, 39, 79, 0, true, {kCleanly}, 1},
-      {kSingles, kClean, 50, 39, 80, 0, true, {}, 0},
-      {kSingles, kClean, 50, 40, 50, 0, true, {}, 0},
-      {kSingles, kCheating, 50, 39, 50, 0, true, {}, 0},
-      {kSingles, kInterference, 50, 39, 50, 69, true, {kBetter}, 1},
-      {kSingles, kInterference, 50, 39, 50, 70, true, {}, 0},
-      {kSingles, kInterference, 50, 40, 50, 10, true, {}, 0},
-      {kSingles, kBotchedInterference, 50, 39, 50, 10, true, {}, 0},
-      {kSingles, kSickBump, 50, 96, 50, 0, false, {"Man 1: I'm not taking a sick bump, sorry."}, 0},
-      {kSingles, kSickBump, 50, 96, 50, 0, true, {}, 0},
-      {kTag, kClean, 100, 99, 129, 0, true, {kTeam}, 1},
-      {kTag, kClean, 100, 99, 130, 0, true, {}, 0},
-      {kTag, kClean, 100, 100, 100, 0, true, {}, 0},
-      {kTag, kInterference, 100, 20, 100, 10, true, {}, 0},
-      {kTag, kSickBump, 100, 190, 100, 0, false, {"Man 1: I'm not taking a sick bump, sorry."}, 0},
+      {kSingles, kClean, {50, 39}, 79, 0, {kCleanly}, 1},
+      {kSingles, kClean, {50, 39}, 80, 0, {}, 0},
+      {kSingles, kClean, {50, 40}, 50, 0, {}, 0},
+      {kSingles, kInterference, {50, 39}, 50, 69, {kBetter}, 1},
+      {kSingles, kInterference, {50, 39}, 50, 70, {}, 0},
+      {kSingles, kInterference, {50, 40}, 50, 10, {}, 0},
+      {kSingles, kSickBump, {50, 96}, 50, 0, {kBump}, 0},
+      {kTag, kClean, {50, 49}, 64, 0, {"Man 1 \\ Man 2: We are not losing this match cleanly."}, 1},
+      {kTag, kClean, {50, 49}, 65, 0, {}, 0},
+      {kTag, kClean, {50, 50}, 50, 0, {}, 0},
+      {kTag, kSickBump, {50, 96}, 50, 0, {kBump}, 0},
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(std::to_string(row.Style) + ", finish " + std::to_string(row.Finish) + ", " +
                  std::to_string(row.WinnerOver));
     World world = Roster();
-    const bool tag = row.Style == kTag;
-    const int half = tag ? 2 : 1;
-    Give(world, "Man 1", {row.LoserOver / half, row.LoserAttitude / half});
-    Give(world, "Man 2", {row.LoserOver / half, row.LoserAttitude - row.LoserAttitude / 2});
-    Give(world, "Man 3", {row.WinnerOver / half, 96});
-    Give(world, "Man 4", {row.WinnerOver - row.WinnerOver / 2, 96});
-    Give(world, "Man 5", {row.RunInOver, 96});
-    Named(world.Workers(), "Man 1").HighSpots = row.HighSpots;
-    Segment match =
-        MatchOf(world, row.Style, 1, tag ? Men(4) : std::vector<std::string>{"Man 3", "Man 1"});
-    StoreResult(match, 3, {1});
+    const int winner = row.Style == kTag ? 3 : 2;
+    for (const int man : {1, winner - 1}) Give(world, man, row.Loser);
+    for (const int man : {winner, winner + 1}) Give(world, man, {row.WinnerOver, 96});
+    Give(world, 5, {row.RunInOver, 96});
+    world.FindWorker(1)->HighSpots = false;
+    Segment match = Match(world, row.Style, 1, winner, {1});
     match.Finish = row.Finish;
-    if (row.RunInOver) match.Other1 = UidOf(world, "Man 5");
-    match.Aftermath = after1::kTantrum;
+    match.Other1 = row.RunInOver ? 5 : 0;
     EXPECT_EQ(WordsAt(world, match, kFinishStep), row.Says);
-    EXPECT_EQ(GrievancesOf(world, match)[1], row.Level);
+    EXPECT_EQ(GrievancesOf(world, match),
+              row.Level ? (row.Style == kTag ? Levels{{1, 1}, {2, 1}} : Levels{{1, 1}}) : Levels());
   }
 }
 
-/// What may follow a singles match that Man 1 has lost.
-struct AfterRow {
-  int Aftermath;
-  const char* Disposition;  // of loser and winner
-  bool TurnPending;
-  int Attitude;
-  Lines Says;
-  int LoserLevel, WinnerLevel;
-};
-
 TEST(Refusals, OfTheAftermath) {
   using namespace after1;
+  struct Row {
+    int Aftermath, Winner;    // of Man 1, named first, and Man 2
+    const char* Disposition;  // of both
+    bool TurnPending;
+    int Attitude;
+    Lines Says;
+    Levels Minds;
+  };
   const std::string kHeat =
-      "Man 1: If i am to lose, i want to do something after the match to get my heat back.";
+      ": If i am to lose, i want to do something after the match to get my heat back.";
   const std::string kHand = ": I don't think refusing a handshake is good for my character.";
   const std::string kRun = "Man 1: I don't think running away is good for my character.";
   const std::string kCheap =
       "Man 1: I don't think cheap-shotting on a handshake is good for my character.";
-  std::vector<AfterRow> rows = {
-      {kNothing, "T", false, 29, {kHeat}, 1, 0},
-      {kNothing, "T", false, 30, {}, 0, 0},
-      {kLoserRuns, "H", false, 96, {}, 0, 0},
-      {kLoserRuns, "F", false, 96, {kRun}, 2, 0},
-      {kLoserRuns, "F", true, 96, {kRun}, 2, 0},
-      {kLoserRuns, "F", false, 29, {kHeat, kRun}, 2, 0},
-      {kCheapShot, "F", false, 96, {kCheap}, 2, 0},
-      {kCheapShot, "F", true, 96, {}, 0, 0},
-      {kCheapShot, "T", false, 96, {}, 0, 0},
-      {kFirstRefusesHand, "F", false, 96, {"Man 3" + kHand}, 0, 2},
-      {kFirstRefusesHand, "F", true, 96, {}, 0, 0},
-      {kFirstRefusesHand, "H", false, 96, {}, 0, 0},
-      {kSecondRefusesHand, "F", false, 96, {"Man 1" + kHand}, 2, 0},
-      {kSecondRefusesHand, "F", true, 96, {}, 0, 0},
+  const Row kRows[] = {
+      {kNothing, 2, "T", false, 29, {"Man 1" + kHeat}, {{1, 1}}},
+      {kNothing, 2, "T", false, 30, {}, {}},
+      {kRevengeAttack, 2, "T", false, 29, {}, {}},
+      // The handshakes are passed over, yet have their price.
+      {kHandshake, 2, "T", false, 29, {}, {{1, 1}}},
+      {kBrawlToTheBack, 2, "T", false, 29, {}, {{1, 1}}},
+      {kBeatDown, 2, "T", false, 29, {"Man 1" + kHeat}, {{1, 1}}},
+      {kLoserRuns, 2, "F", true, 96, {kRun}, {{1, 2}}},
+      {kLoserRuns, 2, "F", false, 29, {"Man 1" + kHeat, kRun}, {{1, 2}}},
+      {kCheapShot, 2, "F", false, 96, {kCheap}, {{1, 2}}},
+      {kCheapShot, 2, "F", true, 96, {}, {}},
+      // Whoever refuses the hand speaks, by his place; what it costs goes by who has won.
+      {kFirstRefusesHand, 1, "F", false, 96, {"Man 1" + kHand}, {{1, 2}}},
+      {kFirstRefusesHand, 2, "F", false, 96, {"Man 1" + kHand}, {{2, 2}}},
+      {kFirstRefusesHand, 1, "F", true, 96, {}, {}},
+      {kSecondRefusesHand, 1, "F", false, 96, {"Man 2" + kHand}, {{2, 2}}},
+      {kSecondRefusesHand, 2, "F", false, 96, {"Man 2" + kHand}, {{1, 2}}},
+      {kSecondRefusesHand, 0, "F", false, 96, {"Man 2" + kHand}, {}},
   };
-  // The loser's temper, code by code: the handshakes are passed over, yet have their price.
-  for (const int code :
-       {kAttacksReferee, kTantrum, kRevengeAttack, kGetsRevenge, kTwoOnWinner, kTwoOnRunIn})
-    rows.push_back({code, "T", false, 29, {}, 0, 0});
-  for (const int code :
-       {kHandshake, kCheapShot, kFirstRefusesHand, kSecondRefusesHand, kBrawlToTheBack})
-    rows.push_back({code, "T", false, 29, {}, 1, 0});
-  for (const int code :
-       {kRunInOnFirst, kRunInOnSecond, kRunInOnBoth, kBeatDown, kTwoOnLoser, kAttacksRunIn,
-        kLoserRuns, kWinnerRuns, kAssaultGoesOn, kSave, kFailedSave})
-    rows.push_back({code, "T", false, 29, {kHeat}, 1, 0});
-  for (const AfterRow& row : rows) {
-    SCOPED_TRACE(std::to_string(row.Aftermath) + row.Disposition);
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(std::to_string(row.Aftermath) + row.Disposition + std::to_string(row.Winner));
     World world = Roster();
-    for (const char* name : {"Man 1", "Man 3"}) {
-      Give(world, name, {50, row.Attitude});
-      Named(world.Workers(), name).Disposition = row.Disposition;
-      Named(world.Workers(), name).TurnPending = row.TurnPending;
+    for (const int man : {1, 2}) {
+      Give(world, man, {50, row.Attitude});
+      world.FindWorker(man)->Disposition = row.Disposition;
+      world.FindWorker(man)->TurnPending = row.TurnPending;
     }
-    Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 3", "Man 1"});
-    StoreResult(match, 3, {});
-    match.Finish = kCheating;
+    Segment match = Match(world, kSingles, 1, row.Winner, {});
     match.Aftermath = row.Aftermath;
     EXPECT_EQ(WordsAt(world, match, kAftermathStep), row.Says);
-    auto levels = GrievancesOf(world, match);
-    EXPECT_EQ(levels[1], row.LoserLevel);
-    EXPECT_EQ(levels[3], row.WinnerLevel);
+    EXPECT_EQ(GrievancesOf(world, match), row.Minds);
   }
-}
-
-/// Whoever refuses the hand speaks, by his place; what it costs goes by who has won.
-TEST(Refusals, OfTheHandLookAtThePlaceAndTheirPriceAtTheResult) {
-  using namespace after1;
-  struct Row {
-    int Aftermath, Winner;
-    const char* Speaks;
-    int Level1, Level3;  // of Man 1, named first, and of Man 3
-  };
-  for (const Row& row :
-       {Row{kFirstRefusesHand, 1, "Man 1", 2, 0}, Row{kFirstRefusesHand, 3, "Man 1", 0, 2},
-        Row{kSecondRefusesHand, 1, "Man 3", 0, 2}, Row{kSecondRefusesHand, 3, "Man 3", 2, 0}}) {
-    SCOPED_TRACE(std::to_string(row.Aftermath) + ", won by " + std::to_string(row.Winner));
-    World world = Roster();
-    for (const char* name : {"Man 1", "Man 3"}) Named(world.Workers(), name).Disposition = "F";
-    Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 1", "Man 3"});
-    StoreResult(match, row.Winner, {});
-    match.Finish = kCheating;
-    match.Aftermath = row.Aftermath;
-    EXPECT_EQ(WordsAt(world, match, kAftermathStep),
-              Lines{std::string(row.Speaks) +
-                    ": I don't think refusing a handshake is good for my character."});
-    EXPECT_EQ(GrievancesOf(world, match)[1], row.Level1);
-    EXPECT_EQ(GrievancesOf(world, match)[3], row.Level3);
-  }
-}
-
-TEST(Refusals, OfAHandshakeAfterADrawStillCome) {
-  World world = Roster();
-  Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 3", "Man 1"});
-  StoreResult(match, 0, {});
-  match.Aftermath = after1::kSecondRefusesHand;
-  Named(world.Workers(), "Man 1").Disposition = "F";
-  EXPECT_EQ(WordsAt(world, match, kAftermathStep).size(), 1u);
-  EXPECT_TRUE(GrievancesOf(world, match).empty());
 }
 
 TEST(Refusals, GiveWhyTheyAreFinal) {
   struct Row {
-    int Style, Type, Winner, Loser;
-    const char* Controls;
+    int Style, Type, Winner, Controls;
     const char* Veto;
   };
   const Row kRows[] = {
-      {kSingles, 1, 3, 1, "Man 1", "Because he has creative control, you cannot challenge this."},
-      {kSingles, 1, 3, 1, "Man 3", ""},
-      {kTag, 1, 3, 1, "Man 2", "Because they have creative control, you cannot challenge this."},
-      {kTag, 1, 3, 1, "Man 4", ""},
-      {kThreeWay, 2, 3, 1, "Man 1", "Because he has creative control, you cannot challenge this."},
-      {kThreeTeams, 2, 3, 1, "Man 1", "Because of creative control, you cannot challenge this."},
-      {kThreeOnThree, 1, 5, 1, "Man 1", "Because of creative control, you cannot challenge this."},
-      {kThreeOnThree, 1, 5, 1, "Man 2", ""},
-      {kFourOnFour, 2, 5, 1, "Man 1",
-       "Because he has creative control, you cannot challenge this."},
-      {kFourOnFour, 2, 5, 1, "Man 2", ""},
+      {kSingles, 1, 2, 1, "Because he has creative control, you cannot challenge this."},
+      {kTag, 1, 3, 2, "Because they have creative control, you cannot challenge this."},
+      {kThreeWay, 2, 3, 1, "Because he has creative control, you cannot challenge this."},
+      {kThreeOnThree, 1, 5, 1, "Because of creative control, you cannot challenge this."},
+      {kFourOnFour, 2, 5, 1, "Because he has creative control, you cannot challenge this."},
   };
   for (const Row& row : kRows) {
     World world = Roster();
-    const MatchStyleRow& style = *FindMatchStyle(row.Style);
-    const auto people = row.Style == kSingles ? std::vector<std::string>{"Man 1", "Man 3"}
-                                              : Men(style.Sides * style.PerSide);
-    Segment match = MatchOf(world, row.Style, row.Type, people);
-    StoreResult(match, row.Winner, {row.Loser});
-    Give(world, "Man 1", {100, 96});
-    Named(world.Workers(), row.Controls).CreativeControl = true;
-    const auto refusals = RefusalsAt(world, match, kResultStep);
+    Give(world, 1, {100, 96});
+    world.FindWorker(row.Controls)->CreativeControl = true;
+    const auto refusals =
+        RefusalsAt(world, Match(world, row.Style, row.Type, row.Winner, {1}), kResultStep);
     ASSERT_FALSE(refusals.empty());
     for (const Refusal& refusal : refusals) EXPECT_EQ(refusal.Veto, row.Veto);
   }
@@ -569,105 +323,21 @@ TEST(Refusals, GiveWhyTheyAreFinal) {
 
 TEST(Grievances, OfTheLastBoutOfAFeud) {
   struct Row {
-    bool FirstWins;
-    Numbers Loser;
+    int Loser;
+    Numbers Has;
     int Level;
   };
-  for (const Row& row : {Row{true, {76, 96}, 4}, Row{true, {75, 96}, 0}, Row{false, {71, 96}, 4},
-                         Row{false, {70, 96}, 0}, Row{true, {61, 74}, 2}, Row{true, {61, 75}, 0},
-                         Row{true, {60, 74}, 0}, Row{false, {61, 74}, 2}, Row{false, {61, 75}, 0},
-                         Row{false, {60, 74}, 0}, Row{true, {81, 96}, 4}}) {
-    SCOPED_TRACE(std::to_string(row.Loser.Over));
+  for (const Row& row : {Row{2, {76, 96}, 4}, Row{2, {75, 96}, 0}, Row{1, {71, 96}, 4},
+                         Row{1, {70, 96}, 0}, Row{2, {61, 74}, 2}, Row{2, {61, 75}, 0}}) {
+    SCOPED_TRACE(std::to_string(row.Has.Over));
     World world = Roster();
-    Give(world, "Man 1", row.Loser);
-    Give(world, "Man 2", {50, 96});
-    Segment match = MatchOf(world, kSingles, kPlainSingles,
-                            row.FirstWins ? std::vector<std::string>{"Man 2", "Man 1"}
-                                          : std::vector<std::string>{"Man 1", "Man 2"});
-    StoreResult(match, UidOf(world, "Man 2"), {});
-    match.Finish = kCheating;
-    match.Aftermath = after1::kTantrum;
+    Give(world, row.Loser, row.Has);
+    Segment match = Match(world, kSingles, 1, 3 - row.Loser, {});
     match.Purpose = purpose1::kEndFeud;
-    EXPECT_EQ(GrievancesOf(world, match)[1], row.Level);
+    EXPECT_EQ(GrievancesOf(world, match)[row.Loser], row.Level);
     match.Purpose = purpose1::kContinueFeud;
-    EXPECT_LT(GrievancesOf(world, match)[1], 4);
+    EXPECT_LT(GrievancesOf(world, match)[row.Loser], 3);
   }
-}
-
-TEST(Grievances, TakeMoraleDownToNothing) {
-  for (const auto& [level, price] : {std::pair(0, 0), std::pair(1, 5), std::pair(2, 10),
-                                     std::pair(3, 15), std::pair(4, 25), std::pair(5, 50)})
-    EXPECT_EQ(MoralePrice(level), price);
-  World world = Roster();
-  Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 1", "Woman 1"});
-  StoreResult(match, UidOf(world, "Woman 1"), {});
-  match.Finish = kCheating;
-  Give(world, "Man 1", {60, 50});
-  Worker& loser = Named(world.Workers(), "Man 1");
-  loser.Morale = 70;
-  EXPECT_EQ(GrievanceText(world, match), "Man 1 -50");
-  ApplyBookingGrievances(world, match);
-  EXPECT_EQ(loser.Morale, 20);
-  ApplyBookingGrievances(world, match);
-  EXPECT_EQ(loser.Morale, 0);
-}
-
-TEST(RefusalBoxes, LetThePlayerInsistAndPayForIt) {
-  World world = Roster();
-  Give(world, "Man 1", {91, 70});
-  Named(world.Workers(), "Man 1").Morale = 80;
-  BookingPlay play(std::move(world));
-  const std::string words = "Man 1: I am not losing this match, he is not in my league.";
-  const auto insist = [&](std::initializer_list<bool> answers) {
-    for (const bool answer : answers) {
-      play.Desk.ExpectSay("Refusal!", words);
-      play.Desk.ExpectAsk("Continue?", "Contine Anyway?", answer, ui::Default::No);
-    }
-  };
-  play.Book();
-  play.ChooseMatch("1 vs 1", "Singles");
-  play.ChoosePeople({"Man 1", "Man 2"});
-  play.Next();
-  play.Desk.Pick("cmbwinner", "Man 2");
-  EXPECT_EQ(play.Desk.Text("txtsay"), words + "\n" + words);
-  insist({false});
-  play.Next();
-  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1Winner");
-  insist({true, false});
-  play.Next();
-  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1Winner");
-  insist({true, true});
-  for (int step = 5; step < 9; ++step) play.Next();
-  EXPECT_EQ(Named(play.World().Workers(), "Man 1").Morale, 80) << "nothing is paid yet";
-  play.Complete();
-  play.Reopen();
-  EXPECT_EQ(Named(play.World().Workers(), "Man 1").Morale, 65) << "the highest level alone counts";
-}
-
-TEST(RefusalBoxes, CannotBePassedAgainstCreativeControl) {
-  World world = Roster();
-  Give(world, "Woman 2", {91, 80});
-  Named(world.Workers(), "Woman 2").CreativeControl = true;
-  BookingPlay play(std::move(world));
-  play.Book();
-  play.ChooseMatch("1 vs 1", "Singles");
-  play.ChoosePeople({"Woman 2", "Woman 1"});
-  play.Next();
-  play.Desk.Pick("cmbwinner", "Woman 1");
-  play.Desk.ExpectSay("Refusal!", "Woman 2: I am not losing this match, she is not in my league.");
-  play.Desk.ExpectSay("Creative Control",
-                      "Because she has creative control, you cannot challenge this.");
-  play.Desk.Click("cmddone");
-  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1Winner");
-}
-
-TEST(RefusalBoxes, EndTheStepOutrightWhereNothingHelps) {
-  BookingPlay play(Roster());
-  play.Book();
-  play.ChooseMatch("1 vs 1", "Buck Naked");
-  play.Desk.ExpectSay("Refusal!", "Man 1: You're joking, right???");
-  play.ChoosePeople({"Man 1", "Man 2"});
-  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1");
 }
 
 }  // namespace

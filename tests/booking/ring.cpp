@@ -60,6 +60,13 @@ void BookingPlay::ChoosePeople(const std::vector<std::string>& names) {
   Next();
 }
 
+void PickAll(ScriptDesk& desk, const Picks& picks) {
+  for (const std::string& pick : picks) {
+    const auto colon = pick.find(": ");
+    desk.Pick(pick.substr(0, colon), pick.substr(colon + 2));
+  }
+}
+
 void ExpectSegment(const Segment& held, const Segment& expected) {
   const auto* left = reinterpret_cast<const std::byte*>(&held);
   const auto* right = reinterpret_cast<const std::byte*>(&expected);

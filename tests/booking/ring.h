@@ -39,6 +39,10 @@ class BookingPlay : public GameOnWorld {
   const Segment& Slot(int slot = 1) { return World().Segments()[slot]; }
 };
 
+/// "cmbwinner: Man 2" picks that row of that list.
+using Picks = std::vector<std::string>;
+void PickAll(ScriptDesk& desk, const Picks& picks);
+
 /// Fails with the first field that differs.
 void ExpectSegment(const Segment& held, const Segment& expected);
 

@@ -122,22 +122,5 @@ TEST(WhyNotBookable, LooksAtTheShorterPaths) {
   EXPECT_EQ(WhyNotBookable(world, teams, {}), Lines{"The winner does not stand in the match."});
 }
 
-TEST(RefusalsOf, CollectsThoseOfEveryStepInOrder) {
-  World world = Roster();
-  Worker& loser = Named(world.Workers(), "Man 2");
-  loser.Over = 100;
-  loser.Attitude = 20;
-  Segment match = Sound(world);
-  match.Finish = kClean;
-  match.Other1 = match.Other2 = 0;
-  match.Aftermath = after1::kNothing;
-  Lines words;
-  for (const Refusal& refusal : RefusalsOf(world, match)) words.push_back(refusal.Words.substr(7));
-  const std::string league = "I am not losing this match, he is not in my league.";
-  EXPECT_EQ(words, (Lines{league, league, league, "I am not losing this match cleanly.",
-                          "If i am to lose, i want to do something after the match to get my heat "
-                          "back."}));
-}
-
 }  // namespace
 }  // namespace grapplemont::test

@@ -2,30 +2,9 @@
 #include "words/segments.h"
 
 #include "booking/ring.h"
-#include "booking/wizard/roster.h"
 
 namespace grapplemont::test {
 namespace {
-
-TEST(MatchTypes, AreOfferedByRiskAndSizeInTheirOwnOrder) {
-  World world = BookingRoster().Game("CWA");
-  const auto offered = [&](int style, int risk, int size) {
-    world.Player().Risk = risk;
-    world.Player().Size = size;
-    std::vector<int> codes;
-    for (const MatchTypeRow* type : OfferedMatchTypes(world, style)) codes.push_back(type->Code);
-    return codes;
-  };
-  EXPECT_EQ(offered(kTag, 0, kGlobal), std::vector<int>{kPlainTag});
-  EXPECT_EQ(offered(kTag, 30, kGlobal), std::vector<int>{kPlainTag});
-  EXPECT_EQ(offered(kTag, 31, 5), (std::vector<int>{kPlainTag, kTagHardcore}));
-  EXPECT_EQ(offered(kTag, 31, 4), (std::vector<int>{kPlainTag, kTagHardcore, kTagCage}));
-  EXPECT_EQ(offered(kTag, 100, kGlobal).size(), 5u);
-  const std::vector<int> first = offered(kSingles, 100, kGlobal);
-  ASSERT_EQ(first.size(), 19u);
-  EXPECT_EQ((std::vector<int>{first[0], first[1], first[2]}),
-            (std::vector<int>{kPlainSingles, kHardcore, kSubmission}));
-}
 
 /// Man 1 and Man 3 against Man 2, who wins, and Man 4; Man 5 to Man 8 run in.
 TEST(Phrases, NameWhomTheyAreAbout) {

@@ -38,7 +38,7 @@ Segment Wedding() {
 Faults FaultsOf(const World& world, Segment segment, const Alter& alter,
                 const BookingView& view = {}) {
   if (alter) alter(segment);
-  return WhyNotTalk(world, segment, view);
+  return WhyNotBookable(world, segment, view);
 }
 
 TEST(WhyNotTalk, FindsWhatNoInterviewOfTheWizardHolds) {
@@ -62,7 +62,7 @@ TEST(WhyNotTalk, FindsWhatNoInterviewOfTheWizardHolds) {
       {[](Segment& s) { s.TitleName = "Open Crown"; },
        {"An interview is for no Title and has no text."}},
       {[](Segment& s) { s.Winner = 3; }, {"The Segment holds what only a match has."}},
-      {[](Segment& s) { s.Kind = kMatch; }, {"The Segment is no interview and no angle."}},
+      {[](Segment& s) { s.Kind = kEmptySegment; }, {"Nothing is booked."}},
   };
   World mute = TalkCompany();
   Named(mute.Workers(), "Com Boss").Speaks = false;
@@ -116,7 +116,7 @@ TEST(WhyNotTalk, TakesAnyBytes) {
           static_cast<unsigned char>(draws.Draw(256) - 1);
     segment.Kind = i % 4;
     if (i % 3 != 0) segment.Style = draws.Draw(81) - 1;
-    EXPECT_FALSE(WhyNotTalk(world, segment, {}).empty());
+    EXPECT_FALSE(WhyNotBookable(world, segment, {}).empty());
   }
 }
 

@@ -55,11 +55,6 @@ void ShareRows(AutoPlan& plan) {
   FillTalks(plan);
 }
 
-void SortByWeight(std::vector<Planned>& planned) {
-  std::stable_sort(planned.begin(), planned.end(),
-                   [](const Planned& a, const Planned& b) { return a.Weight < b.Weight; });
-}
-
 /// The dark match is left out when the show proper needs everything there is.
 bool WantsDarkMatch(const AutoPlan& plan) {
   if (!plan.View.IsEvent || plan.Matches.empty() || plan.Rows[kDarkMatch].Kind != kEmptySegment)
@@ -110,18 +105,12 @@ std::string Count(int number, const char* one, const char* many) {
          (number == 1 ? one : many);
 }
 
-bool HasEmptyRow(const AutoPlan& plan) {
-  return RowsOf(plan) < static_cast<int>(plan.Rows.size()) - (plan.View.IsEvent ? 1 : 0);
-}
-
 std::string WhyNoMatch(const AutoPlan& plan) {
-  if (!HasEmptyRow(plan)) return "no row is left.";
   return plan.Pool.Wrestlers().size() < 2 ? "the roster has nobody left who is fit."
                                           : "nobody is left on the roster who would make one.";
 }
 
 std::string WhyNoTalk(const AutoPlan& plan) {
-  if (!HasEmptyRow(plan)) return "no row is left.";
   return plan.MayUseAngles ? "nobody is left for them."
                            : "nobody is left who can speak, and angles need more writers.";
 }
@@ -142,8 +131,8 @@ AutoCard AutoBook(World& world, bool isEvent, int openRows) {
 // Which row everything gets, and what is still missing then.
 
 void PlaceOnRows(AutoPlan& plan) {
-  SortByWeight(plan.Matches);
-  SortByWeight(plan.Talks);
+  std::ranges::stable_sort(plan.Matches, {}, &Planned::Weight);
+  std::ranges::stable_sort(plan.Talks, {}, &Planned::Weight);
   const bool dark = WantsDarkMatch(plan);
   if (dark)
     PlaceDarkMatch(plan);
@@ -163,11 +152,15 @@ void PlaceOnRows(AutoPlan& plan) {
 
 std::vector<std::string> WhatIsMissing(const AutoPlan& plan) {
   std::vector<std::string> missing;
+  const int booked = RowsOf(plan);
+  const bool full = booked >= static_cast<int>(plan.Rows.size()) - (plan.View.IsEvent ? 1 : 0);
+  const auto tell = [&](const std::string& what, const std::string& why) {
+    missing.push_back(what + ": " + (full ? "no row is left." : why));
+  };
   const int matches = std::max(0, plan.LeastMatches - RowsOf(plan, kMatch));
-  if (matches > 0) missing.push_back(Count(matches, "match", "matches") + ": " + WhyNoMatch(plan));
-  const int segments = plan.LeastSegments - RowsOf(plan) - matches;
-  if (segments > 0)
-    missing.push_back(Count(segments, "segment", "segments") + ": " + WhyNoTalk(plan));
+  if (matches > 0) tell(Count(matches, "match", "matches"), WhyNoMatch(plan));
+  const int segments = plan.LeastSegments - booked - matches;
+  if (segments > 0) tell(Count(segments, "segment", "segments"), WhyNoTalk(plan));
   return missing;
 }
 

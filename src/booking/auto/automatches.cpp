@@ -30,25 +30,20 @@ bool IsRestless(const AutoPlan& plan, const Worker& worker) {
 }
 
 bool HasMet(const AutoPlan& plan, const Worker& a, const Worker& b) {
-  const auto hasBoth = [&](const Segment& match) {
+  return IsOnCard(plan, [&](const Segment& match) {
     return match.Kind == kMatch && TakesPart(match, a.Uid) && TakesPart(match, b.Uid);
-  };
-  return std::any_of(plan.Rows.begin(), plan.Rows.end(), hasBoth) ||
-         std::any_of(plan.Matches.begin(), plan.Matches.end(),
-                     [&](const Planned& planned) { return hasBoth(planned.Segment); });
+  });
 }
 
-const Worker* Member(const AutoPlan& plan, int uid) {
-  return plan.World.FindWorker(uid);
-}
+/// Both of a team, who are there.
+struct Pair {
+  Pair(const AutoPlan& plan, const Team& team)
+      : One(*plan.World.FindWorker(team.Worker1)), Two(*plan.World.FindWorker(team.Worker2)) {}
+  int Women() const { return !One.Gender + !Two.Gender; }
+  int Over() const { return One.Over + Two.Over; }
 
-int WomenIn(const AutoPlan& plan, const Team& team) {
-  return !Member(plan, team.Worker1)->Gender + !Member(plan, team.Worker2)->Gender;
-}
-
-int OverOf(const AutoPlan& plan, const Team& team) {
-  return Member(plan, team.Worker1)->Over + Member(plan, team.Worker2)->Over;
-}
+  const Worker &One, &Two;
+};
 
 bool ShareAMember(const Team& a, const Team& b) {
   return a.Worker1 == b.Worker1 || a.Worker1 == b.Worker2 || a.Worker2 == b.Worker1 ||
@@ -58,8 +53,7 @@ bool ShareAMember(const Team& a, const Team& b) {
 /// Tries a match of the lead with whoever suits him best.
 bool BookLead(AutoPlan& plan, const Worker& lead, const std::vector<const Worker*>& from) {
   for (const Worker* opponent : OpponentsFor(plan, lead, from)) {
-    Wish wish;
-    wish.Feud = FeudExists(plan.World, lead.Uid, opponent->Uid);
+    const Wish wish{.Feud = FeudExists(plan.World, lead.Uid, opponent->Uid)};
     if (BookMatch(plan, NewMatch(kSingles, kPlainSingles, {lead.Uid, opponent->Uid}), wish))
       return true;
   }
@@ -171,22 +165,28 @@ std::vector<const Worker*> OpponentsFor(AutoPlan& plan, const Worker& lead,
 }
 
 std::vector<const Team*> ReadyTeams(const AutoPlan& plan) {
-  std::vector<const Team*> ready;
+  std::vector<std::pair<int, const Team*>> ready;
   for (const Team& team : plan.World.Teams())
-    if (plan.Pool.MayWrestle({team.Worker1, team.Worker2})) ready.push_back(&team);
-  std::stable_sort(ready.begin(), ready.end(), [&](const Team* a, const Team* b) {
-    return OverOf(plan, *a) > OverOf(plan, *b);
-  });
-  return ready;
+    if (plan.Pool.MayWrestle({team.Worker1, team.Worker2}))
+      ready.emplace_back(Pair(plan, team).Over(), &team);
+  return BestOf(std::move(ready));
+}
+
+Segment TeamMatch(const Team& a, const Team& b) {
+  return NewMatch(kTag, kPlainTag, {a.Worker1, a.Worker2, b.Worker1, b.Worker2});
+}
+
+bool TeamsFeud(const AutoPlan& plan, const Team& a, const Team& b) {
+  return FeudExists(plan.World, {{a.Worker1, a.Worker2}, {b.Worker1, b.Worker2}});
 }
 
 int TeamScore(AutoPlan& plan, const Team& a, const Team& b) {
   const int luck = plan.World.RandomDraw(kVariety);
-  if (&a == &b || ShareAMember(a, b) || WomenIn(plan, a) != WomenIn(plan, b)) return kNoPair;
-  const Worker *one = Member(plan, a.Worker1), *two = Member(plan, b.Worker1);
-  if (!plan.Pool.SameCornerMeets() && InOneCorner(plan.World, *one, *two)) return kNoPair;
-  const int gap = std::abs(OverOf(plan, a) - OverOf(plan, b)) / 2;
-  const int score = OverOf(plan, b) / 4 + b.Experience / 8 + ContrastOf(*one, *two) + luck -
+  const Pair one(plan, a), two(plan, b);
+  if (&a == &b || ShareAMember(a, b) || one.Women() != two.Women()) return kNoPair;
+  if (!plan.Pool.SameCornerMeets() && InOneCorner(plan.World, one.One, two.One)) return kNoPair;
+  const int gap = std::abs(one.Over() - two.Over()) / 2;
+  const int score = two.Over() / 4 + b.Experience / 8 + ContrastOf(one.One, two.One) + luck -
                     std::max(0, gap - kCloseCall);
   return std::max(score, kNoPair + 1);
 }

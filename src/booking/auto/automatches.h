@@ -1,12 +1,20 @@
 #pragma once
 
-#include <span>
-
-#include "booking/auto/autooutcome.h"
+#include "booking/auto/autoplan.h"
 
 // Who makes a good match with whom.
 
 namespace grapplemont {
+
+/// What the auto booker would like of a match; what the workers refuse gives way.
+struct Wish {
+  int Favoured = 0;       // uid of who should win; 0: whoever it helps
+  bool Firm = false;      // nobody else may
+  bool Changes = false;   // the finish must let a Title change hands
+  bool Feud = false;      // bad blood: cheap finishes, brawls
+  bool EndsFeud = false;  // clean, and settled
+  bool MayDraw = false;   // better a draw than no match
+};
 
 /// Team mates and those of one stable; a manager and his client.
 bool InOneCorner(const World& world, const Worker& a, const Worker& b);
@@ -28,9 +36,24 @@ int TypeFor(AutoPlan& plan, int style, const std::vector<int>& people, int heat,
 /// Decides and plans a match; with a plain type when nobody agrees to the one given.
 bool BookMatch(AutoPlan& plan, Segment match, const Wish& wish);
 
+/// Shows of this length have room for more of everything.
+inline constexpr std::size_t kBigShowRows = 8;
+
+/// A plain match of two teams; and whether they are in a feud.
+Segment TeamMatch(const Team& a, const Team& b);
+bool TeamsFeud(const AutoPlan& plan, const Team& a, const Team& b);
 /// The teams both of whose members may wrestle, the most popular first.
 std::vector<const Team*> ReadyTeams(const AutoPlan& plan);
 /// How good a match two teams would make; kNoPair and below for none. Draws once.
 int TeamScore(AutoPlan& plan, const Team& a, const Team& b);
+
+// Who wins, how, and to what end.
+
+/// A match of these people, first side first, of which nothing else is decided.
+Segment NewMatch(int style, int type, const std::vector<int>& people);
+
+/// Chooses the result, the finish, the aftermath and the purpose of a match whose people, type and
+/// Title are set. False when nothing is found that all accept. Draws.
+bool Decide(AutoPlan& plan, Segment& match, const Wish& wish);
 
 }  // namespace grapplemont

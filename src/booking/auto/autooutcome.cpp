@@ -1,4 +1,4 @@
-#include "booking/auto/autooutcome.h"
+#include "booking/auto/automatches.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -258,17 +258,12 @@ int SideWorth(AutoPlan& plan, const std::vector<int>& side) {
 
 /// Side numbers from 0, the one to win first.
 std::vector<std::size_t> SidesByWorth(AutoPlan& plan, const Segment& match, const Wish& wish) {
-  const auto sides = SidesOf(match);
-  std::vector<int> worth;
-  for (const auto& side : sides)
-    worth.push_back(SideWorth(plan, side) +
-                    (std::find(side.begin(), side.end(), wish.Favoured) != side.end() ? 1000 : 0));
-  std::vector<std::size_t> order(sides.size());
-  for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
-  std::stable_sort(order.begin(), order.end(),
-                   [&](std::size_t a, std::size_t b) { return worth[a] > worth[b]; });
-  if (wish.Firm) order.resize(1);
-  return order;
+  std::vector<std::pair<int, std::size_t>> ranked;
+  for (const auto& side : SidesOf(match))
+    ranked.emplace_back(
+        SideWorth(plan, side) + (std::ranges::count(side, wish.Favoured) > 0 ? 1000 : 0),
+        ranked.size());
+  return wish.Firm ? BestOf(std::move(ranked), 1) : BestOf(std::move(ranked));
 }
 
 bool IsLessOver(const World& world, int a, int b) {
@@ -308,28 +303,22 @@ bool TryDraw(AutoPlan& plan, Segment& match, const Wish& wish) {
   return Stands(plan, match);
 }
 
+/// Trios and quartets: a finish, but nothing behind it.
+bool TryCheap(AutoPlan& plan, Segment& match) {
+  const Worker* star = plan.World.FindWorker(match.Winner);
+  const bool cheap = star && star->Disposition == "H" && Chance(plan.World, 40);
+  match.Finish = cheap ? kCheapVictory : int(kClean);
+  return Stands(plan, match);
+}
+
 bool DecideTwoSides(AutoPlan& plan, Segment& match, const Wish& wish) {
   const auto sides = SidesOf(match);
   for (const std::size_t winner : SidesByWorth(plan, match, wish)) {
     match.Winner = sides[winner][0];
     match.Loser = WeakestOf(plan.World, sides[1 - winner]);
-    if (TryEndings(plan, match, wish)) return true;
+    if (match.Style <= kTag ? TryEndings(plan, match, wish) : TryCheap(plan, match)) return true;
   }
   return wish.MayDraw && match.MatchType == kPlainSingles && TryDraw(plan, match, wish);
-}
-
-/// Trios and quartets: a finish, but nothing behind it.
-bool DecideMany(AutoPlan& plan, Segment& match, const Wish& wish) {
-  const auto sides = SidesOf(match);
-  for (const std::size_t winner : SidesByWorth(plan, match, wish)) {
-    match.Winner = sides[winner][0];
-    match.Loser = WeakestOf(plan.World, sides[1 - winner]);
-    const Worker* star = plan.World.FindWorker(match.Winner);
-    const bool cheap = star && star->Disposition == "H" && Chance(plan.World, 40);
-    match.Finish = cheap ? kCheapVictory : int(kClean);
-    if (Stands(plan, match)) return true;
-  }
-  return false;
 }
 
 /// The least popular goes out first, which is the Loser's place; a battle royal has it for the
@@ -365,16 +354,8 @@ Segment NewMatch(int style, int type, const std::vector<int>& people) {
 }
 
 bool Decide(AutoPlan& plan, Segment& match, const Wish& wish) {
-  switch (match.Style) {
-    case kSingles:
-    case kTag:
-      return DecideTwoSides(plan, match, wish);
-    case kThreeOnThree:
-    case kFourOnFour:
-      return DecideMany(plan, match, wish);
-    default:
-      return DecideFreeForAll(plan, match, wish);
-  }
+  return SidesOf(match).size() == 2 ? DecideTwoSides(plan, match, wish)
+                                    : DecideFreeForAll(plan, match, wish);
 }
 
 }  // namespace grapplemont

@@ -51,23 +51,14 @@ void CountIn(AutoPlan& plan, const Segment& segment) {
 
 constexpr int kTopTitle = 1000;  // outweighs whatever stands beside it on an Event
 
-/// The most renowned Title of the player's.
-const Title* TopTitle(const World& world) {
-  const Title* top = nullptr;
-  for (const Title& title : world.Titles())
-    if (IsPlayers(world, title) && !title.Suspended && (!top || title.Image > top->Image))
-      top = &title;
-  return top;
-}
-
 int WeightOf(const AutoPlan& plan, const Segment& match) {
   int weight = ExpectedCrowd(plan.World, match);
   for (const Feud& feud : plan.World.Feuds())
     if (EnemiesMeet(feud, PeopleOf(match))) weight += feud.Heat / 12;
   for (const Title& title : plan.World.Titles())
     if (IsPlayers(plan.World, title) && title.Name == match.TitleName) weight += title.Image / 10;
-  const Title* top = TopTitle(plan.World);
-  const bool crowns = top && match.TitleName == top->Name;
+  const std::vector<const Title*> titles = ActiveTitles(plan.World);
+  const bool crowns = !titles.empty() && match.TitleName == titles[0]->Name;
   return weight + (crowns && plan.View.IsEvent ? kTopTitle : 0);
 }
 
@@ -80,36 +71,29 @@ AutoPool::AutoPool(const World& world, const BookingView& view) {
                    [](const Hand& a, const Hand& b) { return a.Who->Over > b.Who->Over; });
 }
 
-const Hand* AutoPool::Find(int uid) const {
+const Hand& AutoPool::Find(int uid) const {
+  static constexpr Hand kNobody;
   const auto found = std::find_if(hands_.begin(), hands_.end(),
                                   [&](const Hand& hand) { return hand.Who->Uid == uid; });
-  return found == hands_.end() ? nullptr : &*found;
-}
-
-Hand* AutoPool::Find(int uid) {
-  return const_cast<Hand*>(std::as_const(*this).Find(uid));
+  return found == hands_.end() ? kNobody : *found;
 }
 
 void AutoPool::Count(const Segment& segment) {
-  for (const int uid : EverybodyOf(segment))
-    if (Hand* hand = Find(uid)) {
-      ++hand->Parts;
-      hand->Matches += segment.Kind == kMatch;
-    }
+  const std::vector<int> people = EverybodyOf(segment);
+  for (Hand& hand : hands_) {
+    const auto parts = std::count(people.begin(), people.end(), int(hand.Who->Uid));
+    hand.Parts += static_cast<int>(parts);
+    if (segment.Kind == kMatch) hand.Matches += static_cast<int>(parts);
+  }
 }
 
 void AutoPool::Rest(int uid) {
-  if (Hand* hand = Find(uid)) ++hand->Matches;
+  for (Hand& hand : hands_) hand.Matches += hand.Who->Uid == uid;
 }
 
 bool AutoPool::MayWrestle(const Hand& hand) const {
-  return IsOnRoster(*hand.Who) && hand.Parts < kMostParts && hand.Matches < reserve_.Matches &&
-         hand.Who->Condition >= reserve_.Condition;
-}
-
-bool AutoPool::MayWrestle(int uid) const {
-  const Hand* hand = Find(uid);
-  return hand && MayWrestle(*hand);
+  return hand.Who && IsOnRoster(*hand.Who) && hand.Parts < kMostParts &&
+         hand.Matches < reserve_.Matches && hand.Who->Condition >= reserve_.Condition;
 }
 
 bool AutoPool::MayWrestle(const std::vector<int>& uids) const {
@@ -117,22 +101,12 @@ bool AutoPool::MayWrestle(const std::vector<int>& uids) const {
 }
 
 bool AutoPool::MayAppear(int uid) const {
-  const Hand* hand = Find(uid);
-  return hand && hand->Parts < kMostParts;
+  const Hand& hand = Find(uid);
+  return hand.Who && hand.Parts < kMostParts;
 }
 
 bool AutoPool::MayAppear(const std::vector<int>& uids) const {
   return std::all_of(uids.begin(), uids.end(), [&](int uid) { return MayAppear(uid); });
-}
-
-bool AutoPool::IsBooked(int uid) const {
-  const Hand* hand = Find(uid);
-  return hand && hand->Parts > 0;
-}
-
-bool AutoPool::Wrestles(int uid) const {
-  const Hand* hand = Find(uid);
-  return hand && hand->Matches > 0;
 }
 
 std::vector<const Worker*> AutoPool::Wrestlers() const {
@@ -160,7 +134,7 @@ AutoPlan::AutoPlan(grapplemont::World& world, const BookingView& view, int openR
   LeastSegments = terms.MinSegments;
   int matches = 0;
   for (const Segment& row : Rows) {
-    if (row.Kind == kMatch) ++matches;
+    matches += row.Kind == kMatch;
     if (row.Kind != kEmptySegment) CountIn(*this, row);
   }
   MatchesWanted = TalksWanted = 0;
@@ -203,6 +177,13 @@ bool PlanTalk(AutoPlan& plan, const Segment& talk, int weight) {
   plan.Talks.push_back({talk, weight});
   CountIn(plan, talk);
   return true;
+}
+
+std::vector<const Title*> ActiveTitles(const World& world) {
+  std::vector<std::pair<int, const Title*>> titles;
+  for (const Title& title : world.Titles())
+    if (IsPlayers(world, title) && !title.Suspended) titles.emplace_back(title.Image, &title);
+  return BestOf(std::move(titles));
 }
 
 int ExpectedCrowd(const World& world, const Segment& match) {

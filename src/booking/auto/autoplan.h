@@ -14,7 +14,7 @@ namespace grapplemont {
 
 /// Somebody who may be booked tonight. Parts are matches, interviews, angles and run-ins together.
 struct Hand {
-  const Worker* Who;
+  const Worker* Who = nullptr;
   int Matches = 0;
   int Parts = 0;
 };
@@ -47,13 +47,13 @@ class AutoPool {
   void Reach(const Reserve& reserve) { reserve_ = reserve; }
 
   /// An active wrestler within reach with a match left.
-  bool MayWrestle(int uid) const;
+  bool MayWrestle(int uid) const { return MayWrestle(Find(uid)); }
   bool MayWrestle(const std::vector<int>& uids) const;
   /// On the roster in whatever role, with a part left.
   bool MayAppear(int uid) const;
   bool MayAppear(const std::vector<int>& uids) const;
-  bool IsBooked(int uid) const;  // has a part
-  bool Wrestles(int uid) const;  // has a match
+  bool IsBooked(int uid) const { return Find(uid).Parts > 0; }
+  bool Wrestles(int uid) const { return Find(uid).Matches > 0; }
   bool SameCornerMeets() const { return reserve_.SameCorner; }
 
   /// All who may wrestle and all who may appear, the most popular first.
@@ -63,8 +63,8 @@ class AutoPool {
   std::vector<const Worker*> Newcomers() const;
 
  private:
-  const Hand* Find(int uid) const;
-  Hand* Find(int uid);
+  /// Of nobody where the worker is none of them.
+  const Hand& Find(int uid) const;
   bool MayWrestle(const Hand& hand) const;
 
   std::vector<Hand> hands_;
@@ -106,9 +106,17 @@ struct AutoPlan {
   int RowsLeft() const;
 };
 
+/// Whether the sheet or what waits for its row has a Segment that `takes` accepts.
+template <class Takes>
+bool IsOnCard(const AutoPlan& plan, Takes takes) {
+  const auto is = [&](const Planned& planned) { return takes(planned.Segment); };
+  return std::ranges::any_of(plan.Rows, takes) || std::ranges::any_of(plan.Matches, is) ||
+         std::ranges::any_of(plan.Talks, is);
+}
+
 /// The best by their scores, those alike in their order; `most` of them at most.
 template <class T>
-std::vector<T> BestOf(std::vector<std::pair<int, T>> ranked, std::size_t most) {
+std::vector<T> BestOf(std::vector<std::pair<int, T>> ranked, std::size_t most = ~std::size_t{0}) {
   std::stable_sort(ranked.begin(), ranked.end(),
                    [](auto& a, auto& b) { return a.first > b.first; });
   std::vector<T> best;
@@ -129,6 +137,8 @@ void PlanMatch(AutoPlan& plan, const Segment& match);
 /// The same for an interview or angle; false, with nothing planned, when it does not stand.
 bool PlanTalk(AutoPlan& plan, const Segment& talk, int weight);
 
+/// The player's Titles that may be fought for, the most renowned first.
+std::vector<const Title*> ActiveTitles(const World& world);
 /// What the crowd will make of the match, before its feud and Title.
 int ExpectedCrowd(const World& world, const Segment& match);
 

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <tuple>
 
 #include "booking/auto/automatches.h"
 #include "booking/auto/autotalk.h"
@@ -29,6 +30,13 @@ std::vector<int> Members(const FeudSide& side) {
   return side.IsTeam() ? std::vector<int>{side.First, side.Second} : std::vector<int>{side.First};
 }
 
+/// Of both sides.
+std::vector<int> Members(const FeudSides& sides) {
+  std::vector<int> people = Members(sides.One);
+  for (const int uid : Members(sides.Two)) people.push_back(uid);
+  return people;
+}
+
 int OverOf(const AutoPlan& plan, const FeudSide& side) {
   int sum = 0;
   for (const int uid : Members(side))
@@ -41,14 +49,10 @@ bool IsHeel(const AutoPlan& plan, const FeudSide& side) {
   return worker && worker->Disposition == "H";
 }
 
-int DaysRun(const World& world, const Feud& feud) {
-  return static_cast<int>((world.Today() - Day(feud.Started)).count());
-}
-
 bool IsRipe(const World& world, const Feud& feud) {
   const FeudScore score = FeudWins(feud);
   const int total = score.One + score.Two, gap = std::abs(score.One - score.Two);
-  const int days = DaysRun(world, feud);
+  const auto days = (world.Today() - Day(feud.Started)).count();
   if (total >= kLongFeud) return true;
   const bool dirty = feud.Dirty1 + feud.Dirty2 > 0;
   if (total >= kEvenFeud && gap <= kEvenGap && dirty && days >= kEvenDays) return true;
@@ -79,8 +83,7 @@ bool MayEnd(const AutoPlan& plan, const FeudSide& winner, const FeudSide& loser)
 
 Segment FeudBout(AutoPlan& plan, const Feud& feud, bool last) {
   const FeudSides sides = SidesOf(feud);
-  std::vector<int> people = Members(sides.One);
-  for (const int uid : Members(sides.Two)) people.push_back(uid);
+  const std::vector<int> people = Members(sides);
   const int heat = std::max(1, int(feud.Heat));
   const int style = sides.One.IsTeam() ? kTag : kSingles;
   return NewMatch(style, TypeFor(plan, style, people, heat, last), people);
@@ -98,19 +101,17 @@ std::string TitleBetween(const AutoPlan& plan, const Segment& match) {
 
 bool BookBlowOff(AutoPlan& plan, const Feud& feud) {
   const FeudSides sides = SidesOf(feud);
-  if (!plan.Pool.MayWrestle(Members(sides.One)) || !plan.Pool.MayWrestle(Members(sides.Two)))
-    return false;
+  if (!plan.Pool.MayWrestle(Members(sides))) return false;
   Segment match = FeudBout(plan, feud, true);
   match.TitleName = TitleBetween(plan, match);
   const bool one = SideOneIsNext(plan, feud, true);
   for (const bool oneWins : {one, !one}) {
-    const FeudSide &winner = oneWins ? sides.One : sides.Two,
-                   &loser = oneWins ? sides.Two : sides.One;
+    const auto& [winner, loser] =
+        oneWins ? std::tie(sides.One, sides.Two) : std::tie(sides.Two, sides.One);
     if (!MayEnd(plan, winner, loser)) continue;
-    Wish wish;
-    wish.Favoured = winner.First;
-    wish.Firm = wish.Feud = wish.EndsFeud = true;
-    if (BookMatch(plan, match, wish)) return true;
+    if (BookMatch(plan, match,
+                  {.Favoured = winner.First, .Firm = true, .Feud = true, .EndsFeud = true}))
+      return true;
   }
   return false;
 }
@@ -118,19 +119,10 @@ bool BookBlowOff(AutoPlan& plan, const Feud& feud) {
 bool BookBout(AutoPlan& plan, const Feud& feud) {
   if (!plan.WantsMatch()) return false;
   const FeudSides sides = SidesOf(feud);
-  if (!plan.Pool.MayWrestle(Members(sides.One)) || !plan.Pool.MayWrestle(Members(sides.Two)))
-    return false;
-  Wish wish;
-  wish.Feud = true;
-  wish.MayDraw = !plan.View.IsEvent;
-  wish.Favoured = SideOneIsNext(plan, feud, false) ? sides.One.First : sides.Two.First;
-  return BookMatch(plan, FeudBout(plan, feud, false), wish);
-}
-
-/// Nobody is carried out and wrestles all the same.
-bool MayBeAttacked(const AutoPlan& plan, const std::vector<int>& victims) {
-  return std::none_of(victims.begin(), victims.end(),
-                      [&](int uid) { return plan.Pool.Wrestles(uid); });
+  if (!plan.Pool.MayWrestle(Members(sides))) return false;
+  const FeudSide& next = SideOneIsNext(plan, feud, false) ? sides.One : sides.Two;
+  return BookMatch(plan, FeudBout(plan, feud, false),
+                   {.Favoured = next.First, .Feud = true, .MayDraw = !plan.View.IsEvent});
 }
 
 /// Whoever leads a stable need not do it alone.
@@ -150,7 +142,9 @@ bool BookWords(AutoPlan& plan, const Feud& feud) {
                          others = Members(oneActs ? sides.Two : sides.One);
   const bool team = sides.One.IsTeam();
   const AngleScene attack = team ? AngleScene::TeamAttack : AngleScene::Attack;
-  if (Chance(plan.World, kAttacks) && MayBeAttacked(plan, others) &&
+  // Nobody is carried out and wrestles all the same.
+  const auto wrestles = [&](int uid) { return plan.Pool.Wrestles(uid); };
+  if (Chance(plan.World, kAttacks) && std::ranges::none_of(others, wrestles) &&
       ((!team && BringsHisStable(plan, actors[0], others[0])) ||
        BookScene(plan, attack, actors, others)))
     return true;
@@ -161,19 +155,15 @@ bool BookWords(AutoPlan& plan, const Feud& feud) {
 
 /// Slots that something can be done about tonight, the hottest first.
 std::vector<int> OpenFeuds(const AutoPlan& plan) {
-  std::vector<int> slots;
+  std::vector<std::pair<int, int>> slots;
   int slot = 0;
   for (const Feud& feud : plan.World.Feuds()) {
     if (++slot > kFeuds) break;
-    if (IsFreeSlot(feud) || plan.FeudsUsed.contains(slot)) continue;
-    const FeudSides sides = SidesOf(feud);
-    if (plan.Pool.MayAppear(Members(sides.One)) && plan.Pool.MayAppear(Members(sides.Two)))
-      slots.push_back(slot);
+    if (!IsFreeSlot(feud) && !plan.FeudsUsed.contains(slot) &&
+        plan.Pool.MayAppear(Members(SidesOf(feud))))
+      slots.emplace_back(feud.Heat, slot);
   }
-  std::stable_sort(slots.begin(), slots.end(), [&](int a, int b) {
-    return plan.World.Feuds()[a].Heat > plan.World.Feuds()[b].Heat;
-  });
-  return slots;
+  return BestOf(std::move(slots));
 }
 
 constexpr int kTurnsPerShow = 1;
@@ -230,27 +220,21 @@ bool Turn(AutoPlan& plan, const Worker& turner) {
   return TurnInMatch(plan, turner, *other);
 }
 
-/// Whom a newcomer picks on: somebody of the other kind who stands no more than a step above him.
-const Worker* WhomToPickOn(AutoPlan& plan, const Worker& newcomer) {
-  const std::vector<const Worker*> opponents = OpponentsFor(plan, newcomer, plan.Pool.Wrestlers());
-  return opponents.empty() ? nullptr : opponents[0];
-}
-
 bool DebutInMatch(AutoPlan& plan, const Worker& newcomer) {
   if (!plan.WantsMatch()) return false;
   for (const Worker* opponent : OpponentsFor(plan, newcomer, plan.Pool.Wrestlers())) {
-    Wish wish;
-    wish.Favoured = newcomer.Uid;
-    if (BookMatch(plan, NewMatch(kSingles, kPlainSingles, {newcomer.Uid, opponent->Uid}), wish))
-      return true;
+    const Segment match = NewMatch(kSingles, kPlainSingles, {newcomer.Uid, opponent->Uid});
+    if (BookMatch(plan, match, {.Favoured = newcomer.Uid})) return true;
   }
   return false;
 }
 
 bool Introduce(AutoPlan& plan, const Worker& newcomer) {
-  const Worker* victim = plan.WantsTalk() ? WhomToPickOn(plan, newcomer) : nullptr;
-  if (victim && BookScene(plan, AngleScene::Debut, {newcomer.Uid}, {victim->Uid})) return true;
-  return DebutInMatch(plan, newcomer);
+  std::vector<const Worker*> victims;
+  if (plan.WantsTalk()) victims = OpponentsFor(plan, newcomer, plan.Pool.Wrestlers());
+  return (!victims.empty() &&
+          BookScene(plan, AngleScene::Debut, {newcomer.Uid}, {victims[0]->Uid})) ||
+         DebutInMatch(plan, newcomer);
 }
 
 /// A manager is introduced by his client.

@@ -4,6 +4,7 @@
 
 #include "booking/auto/automatches.h"
 #include "booking/wizard/casting.h"
+#include "booking/wizard/interviews.h"
 #include "records/angles.h"
 #include "show/runsegment.h"
 #include "storylines/feuds.h"
@@ -70,10 +71,6 @@ std::vector<const AngleTaste*> TastesFor(const AutoPlan& plan, AngleScene scene,
   return tastes;
 }
 
-bool LaysOut(AngleScene scene) {
-  return scene == AngleScene::Attack || scene == AngleScene::TeamAttack;
-}
-
 /// Takes one out of the list by its weight.
 const AngleTaste* DrawTaste(AutoPlan& plan, std::vector<const AngleTaste*>& tastes) {
   int total = 0;
@@ -91,14 +88,9 @@ const AngleTaste* DrawTaste(AutoPlan& plan, std::vector<const AngleTaste*>& tast
 const Worker* ManagerOf(const AutoPlan& plan, const std::vector<int>& clients) {
   const Worker* first = plan.World.FindWorker(clients[0]);
   const Worker* manager = first ? plan.World.FindWorker(first->Manager) : nullptr;
-  if (!manager || manager->Position != kManager || !manager->Speaks ||
-      !plan.Pool.MayAppear(manager->Uid))
-    return nullptr;
-  const bool all = std::all_of(clients.begin(), clients.end(), [&](int uid) {
-    const Worker* client = plan.World.FindWorker(uid);
-    return client && client->Manager == manager->Uid;
-  });
-  return all ? manager : nullptr;
+  const bool talks = manager && manager->Position == kManager && manager->Speaks &&
+                     plan.Pool.MayAppear(manager->Uid);
+  return talks && ManagesAll(plan.World, manager->Uid, clients) ? manager : nullptr;
 }
 
 /// An interview of these, everybody in the next seat that is for them.
@@ -127,16 +119,19 @@ constexpr int kAnnouncements = 12, kStableAttacks = 30;
 /// Angles are for those who come out best in them.
 constexpr std::size_t kStars = 6;
 
+bool IsFreeToTalk(const AutoPlan& plan, const Worker& worker) {
+  return worker.Debuted && IsOnRoster(worker) && !HasTalk(plan, worker.Uid);
+}
+
 /// All who have no talk yet, best talkers first, mixed a little.
 std::vector<const Worker*> TalkersByWorth(AutoPlan& plan) {
   std::vector<std::pair<int, const Worker*>> ranked;
   for (const Worker* worker : plan.Pool.People()) {
-    if (!worker->Debuted || HasTalk(plan, worker->Uid) || !IsOnRoster(*worker)) continue;
+    if (!IsFreeToTalk(plan, *worker)) continue;
     const int unseen = plan.Pool.IsBooked(worker->Uid) ? 0 : kUnseen;
     ranked.emplace_back(TalkRating(*worker) + unseen + plan.World.RandomDraw(kVariety), worker);
   }
-  const std::size_t all = ranked.size();
-  return BestOf(std::move(ranked), all);
+  return BestOf(std::move(ranked));
 }
 
 /// Whom the speaker would talk about: another kind, near in standing, nobody else's subject.
@@ -144,15 +139,13 @@ const Worker* RivalOf(const AutoPlan& plan, const Worker& speaker) {
   const Worker* best = nullptr;
   int least = 1000;
   for (const Worker* other : plan.Pool.People()) {
-    if (other->Uid == speaker.Uid || !IsOnRoster(*other) || !other->Debuted ||
-        other->Gender != speaker.Gender || ContrastOf(speaker, *other) <= 0 ||
-        HasTalk(plan, other->Uid) || InOneCorner(plan.World, speaker, *other))
-      continue;
     const int distance = std::abs(other->Over - speaker.Over);
-    if (distance < least) {
-      least = distance;
-      best = other;
-    }
+    if (other->Uid == speaker.Uid || distance >= least || other->Gender != speaker.Gender ||
+        ContrastOf(speaker, *other) <= 0 || !IsFreeToTalk(plan, *other) ||
+        InOneCorner(plan.World, speaker, *other))
+      continue;
+    least = distance;
+    best = other;
   }
   return best;
 }
@@ -208,9 +201,8 @@ bool Interview(AutoPlan& plan, const Worker& speaker) {
 /// A friend who has no talk tonight; nullptr for none.
 const Worker* FriendOf(const AutoPlan& plan, const Worker& star) {
   for (const Worker* other : plan.Pool.People())
-    if (other->Uid != star.Uid && IsOnRoster(*other) && other->Debuted &&
-        other->Disposition == star.Disposition && !HasTalk(plan, other->Uid) &&
-        InOneCorner(plan.World, star, *other))
+    if (other->Uid != star.Uid && other->Disposition == star.Disposition &&
+        IsFreeToTalk(plan, *other) && InOneCorner(plan.World, star, *other))
       return other;
   return nullptr;
 }
@@ -294,7 +286,7 @@ bool BookScene(AutoPlan& plan, AngleScene scene, const std::vector<int>& actors,
     std::vector<int> people = taste->Cast == First::Actors ? actors : victims;
     for (const int uid : taste->Cast == First::Actors ? victims : actors) people.push_back(uid);
     if (!BookAngle(plan, taste->Number, people, taste->When)) continue;
-    if (LaysOut(scene))
+    if (scene == AngleScene::Attack || scene == AngleScene::TeamAttack)
       for (const int uid : victims) plan.Pool.Rest(uid);
     return true;
   }
@@ -302,12 +294,9 @@ bool BookScene(AutoPlan& plan, AngleScene scene, const std::vector<int>& actors,
 }
 
 bool HasTalk(const AutoPlan& plan, int uid) {
-  const auto has = [&](const Segment& segment) {
+  return IsOnCard(plan, [&](const Segment& segment) {
     return (segment.Kind == kInterview || segment.Kind == kAngle) && TakesPart(segment, uid);
-  };
-  return std::any_of(plan.Rows.begin(), plan.Rows.end(), has) ||
-         std::any_of(plan.Talks.begin(), plan.Talks.end(),
-                     [&](const Planned& planned) { return has(planned.Segment); });
+  });
 }
 
 bool BookTalkBetween(AutoPlan& plan, const std::vector<int>& speakers,

@@ -9,7 +9,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr std::size_t kBigShowRows = 8;
 constexpr int kFirstTag = 60, kSecondTag = 35;
 constexpr int kTrios = 20;
 constexpr int kFreeForAllOnShow = 18, kFreeForAllAtEvent = 40;
@@ -27,26 +26,20 @@ bool BookTag(AutoPlan& plan) {
       most = score;
       best = team;
     }
-  return best && BookMatch(plan,
-                           NewMatch(kTag, kPlainTag,
-                                    {teams[lead]->Worker1, teams[lead]->Worker2, best->Worker1,
-                                     best->Worker2}),
-                           {});
+  return best && BookMatch(plan, TeamMatch(*teams[lead], *best), {});
 }
 
 /// Adds the best opponents of `lead` who are nobody's friends in the match, until there are
 /// `count`.
 std::vector<int> Rivals(AutoPlan& plan, const Worker& lead, std::size_t count) {
-  std::vector<const Worker*> in = {&lead};
+  std::vector<int> in = {lead.Uid};
   for (const Worker* other : OpponentsFor(plan, lead, plan.Pool.Wrestlers())) {
-    const bool friendless = std::none_of(in.begin(), in.end(), [&](const Worker* one) {
-      return InOneCorner(plan.World, *one, *other);
+    const bool friendless = std::none_of(in.begin(), in.end(), [&](int uid) {
+      return InOneCorner(plan.World, *plan.World.FindWorker(uid), *other);
     });
-    if (in.size() < count && friendless) in.push_back(other);
+    if (in.size() < count && friendless) in.push_back(other->Uid);
   }
-  std::vector<int> people;
-  for (const Worker* worker : in) people.push_back(worker->Uid);
-  return people;
+  return in;
 }
 
 void BookFreeForAll(AutoPlan& plan) {

@@ -28,7 +28,6 @@ constexpr int kSettled = 14;   // days before a new champion defends on a show
 constexpr int kTopChance = 5;  // of the top Title on one of the week's shows
 constexpr int kLesserChance = 25;
 constexpr int kVacantChance = 50;
-constexpr int kBigShowRows = 8;  // from here on a show has room for two Titles
 constexpr int kFeudsForIt = 90;
 constexpr int kNeedNotRise = 20;  // a contender this far below the champion is none
 constexpr int kHasGold = 12;
@@ -51,16 +50,6 @@ bool DrawChange(AutoPlan& plan, const Title& title) {
   return false;
 }
 
-/// The player's Titles that may be fought for, the most renowned first.
-std::vector<const Title*> ActiveTitles(const World& world) {
-  std::vector<const Title*> titles;
-  for (const Title& title : world.Titles())
-    if (IsPlayers(world, title) && !title.Suspended) titles.push_back(&title);
-  std::stable_sort(titles.begin(), titles.end(),
-                   [](const Title* a, const Title* b) { return a->Image > b->Image; });
-  return titles;
-}
-
 /// A show in a week of several has its share of the chance.
 bool IsDueOnShow(AutoPlan& plan, const Title& title, bool isTop) {
   const auto most = static_cast<std::size_t>(plan.Rows.size() >= kBigShowRows ? 2 : 1);
@@ -80,11 +69,8 @@ bool HoldsATitle(const AutoPlan& plan, const Worker& worker) {
 /// In a feud that tonight has done nothing for yet.
 bool HasOpenFeud(const AutoPlan& plan, const Worker& worker) {
   int slot = 0;
-  for (const Feud& feud : plan.World.Feuds()) {
-    ++slot;
-    if (plan.FeudsUsed.contains(slot)) continue;
-    if (FeudSideOf(feud, worker.Uid) != 0) return true;
-  }
+  for (const Feud& feud : plan.World.Feuds())
+    if (!plan.FeudsUsed.contains(++slot) && FeudSideOf(feud, worker.Uid) != 0) return true;
   return false;
 }
 
@@ -123,11 +109,10 @@ int HeatBetween(const World& world, int a, int b) {
 bool BookDefence(AutoPlan& plan, const Segment& match, int champion, int challenger, bool feud,
                  bool change) {
   for (const bool changes : {change, !change}) {
-    Wish wish;
-    wish.Favoured = changes ? challenger : champion;
-    wish.Firm = true;
-    wish.Changes = changes;
-    wish.Feud = feud;
+    const Wish wish{.Favoured = changes ? challenger : champion,
+                    .Firm = true,
+                    .Changes = changes,
+                    .Feud = feud};
     if (!BookMatch(plan, match, wish)) continue;
     plan.TitleChanges += changes;
     return true;
@@ -153,9 +138,7 @@ bool FillVacancy(AutoPlan& plan, const Title& title) {
     for (const Worker* contender : ContendersFor(plan, title, *lead)) {
       Segment match = NewMatch(kSingles, kPlainSingles, {lead->Uid, contender->Uid});
       match.TitleName = title.Name;
-      Wish wish;
-      wish.Changes = true;
-      if (BookMatch(plan, match, wish)) return true;
+      if (BookMatch(plan, match, {.Changes = true})) return true;
     }
   }
   return false;
@@ -167,27 +150,20 @@ std::vector<const Team*> Challengers(AutoPlan& plan, const Team& champions) {
   for (const Team* team : ReadyTeams(plan)) {
     int score = TeamScore(plan, champions, *team);
     if (score <= kNoPair) continue;
-    if (FeudExists(plan.World,
-                   {{champions.Worker1, champions.Worker2}, {team->Worker1, team->Worker2}}))
-      score += kFeudsForIt;
+    if (TeamsFeud(plan, champions, *team)) score += kFeudsForIt;
     ranked.emplace_back(score, team);
   }
-  const std::size_t all = ranked.size();
-  return BestOf(std::move(ranked), all);
+  return BestOf(std::move(ranked));
 }
 
 bool DefendTag(AutoPlan& plan, const Title& title, const Team& champions, bool change,
                bool vacant) {
   for (const Team* team : Challengers(plan, champions)) {
-    Segment match = NewMatch(kTag, kPlainTag,
-                             {champions.Worker1, champions.Worker2, team->Worker1, team->Worker2});
+    Segment match = TeamMatch(champions, *team);
     match.TitleName = title.Name;
-    const bool feud = FeudExists(
-        plan.World, {{champions.Worker1, champions.Worker2}, {team->Worker1, team->Worker2}});
-    Wish open;
-    open.Changes = true;
-    if (vacant ? BookMatch(plan, match, open)
-               : BookDefence(plan, match, champions.Worker1, team->Worker1, feud, change))
+    if (vacant ? BookMatch(plan, match, {.Changes = true})
+               : BookDefence(plan, match, champions.Worker1, team->Worker1,
+                             TeamsFeud(plan, champions, *team), change))
       return true;
   }
   return false;

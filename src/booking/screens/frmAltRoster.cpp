@@ -14,34 +14,26 @@ namespace grapplemont {
 namespace {
 
 /// The roster to look things up in while a show is being booked.
-class frmAltRoster : public ui::Screen {
+class frmAltRoster : public GameScreen {
  public:
-  explicit frmAltRoster(Game& game) : Screen(game.Desk(), "frmAltRoster", "Roster"), game_(game) {
+  explicit frmAltRoster(Game& game) : GameScreen(game, "frmAltRoster", "Roster") {
     lstwres.EmptyText = "Nobody works for you yet.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdstats, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Group("", {ui::Grow(lstwres)});
-    return page;
+    return WithoutMain(PageOf(ui::Group("", {ui::Grow(lstwres)}), &lblfacts, {&cmdstats}));
   }
 
-  void Load() override { Return(); }
   void Return() override {
     ShowRoster();
     ShowButtons();
   }
 
  private:
-  World& world() { return game_.World(); }
-
   bool IsOnTheCard(const Worker& worker) {
-    for (const Segment& segment : world().Segments())
-      if (TakesPart(segment, worker.Uid)) return true;
-    return false;
+    const auto& sheet = world().Segments();
+    return std::any_of(sheet.begin(), sheet.end(),
+                       [&](const Segment& segment) { return TakesPart(segment, worker.Uid); });
   }
 
   ui::Cell TeamsCell(const Worker& worker) {
@@ -70,11 +62,7 @@ class frmAltRoster : public ui::Screen {
 
   void ShowButtons() { EnableUnless(cmdstats, lstwres.Key() == 0 ? "Choose somebody first." : ""); }
 
-  void cmdstats_Click() { desk().Open(MakefrmQuickStat(game_, lstwres.Key())); }
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   const CellColumns<Worker> columns_ = {
       {{"Name"}, [](const Worker& worker) { return worker.Name.View(); }},
@@ -95,32 +83,23 @@ class frmAltRoster : public ui::Screen {
          return ui::Cell(IsOnTheCard(worker) ? "Booked" : "", ui::Tone::Gold);
        }}};
   ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmAltRoster::ShowButtons, cmdstats};
-  ui::Button cmdstats{*this, "cmdstats", "Stats", &frmAltRoster::cmdstats_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmAltRoster::cmdback_Click};
+  ui::Button cmdstats{*this, "cmdstats", "Stats",
+                      [this] { desk().Open(MakefrmQuickStat(game_, lstwres.Key())); }};
 };
 
-}  // namespace
-
-SCREEN(frmAltRoster)
-
-namespace {
-
 /// The player's Titles to look up while a show is being booked.
-class frmAltBelts : public ui::Screen {
+class frmAltBelts : public GameScreen {
  public:
-  explicit frmAltBelts(Game& game) : Screen(game.Desk(), "frmAltBelts", "Titles"), game_(game) {
+  explicit frmAltBelts(Game& game) : GameScreen(game, "frmAltBelts", "Titles") {
     lsttitles.EmptyText = "Your promotion has no Title.";
     lsthistory.EmptyText = "Choose a Title to see who has held it.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("", {ui::Grow(lsttitles)}).Grow(4),
-                             ui::Group("Who has held it", {ui::Grow(lsthistory)}).Grow(3)});
-    return page;
+    return WithoutMain(
+        PageOf(ui::Columns({ui::Group("", {ui::Grow(lsttitles)}).Grow(4),
+                            ui::Group("Who has held it", {ui::Grow(lsthistory)}).Grow(3)}),
+               &lblfacts));
   }
 
   void Load() override {
@@ -134,8 +113,6 @@ class frmAltBelts : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   void ShowTitles() {
     std::vector<ui::ListBox::Row> rows;
     int vacant = 0;
@@ -155,18 +132,15 @@ class frmAltBelts : public ui::Screen {
                                 : ReignRows(world().Titles()[number]));
   }
 
-  void cmdback_Click() { Close(); }
-
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lsttitles{*this, "lsttitles", HeadingsOf(TitleTable(world())),
                         &frmAltBelts::ShowHistory};
   ui::ListBox lsthistory{*this, "lsthistory", ReignColumns()};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmAltBelts::cmdback_Click};
 };
 
 }  // namespace
 
+SCREEN(frmAltRoster)
 SCREEN(frmAltBelts)
 
 }  // namespace grapplemont

@@ -1,4 +1,4 @@
-#include "booking/screens/stepscreens.h"
+#include "booking/screens/screenstep.h"
 #include "booking/wizard/casting.h"
 #include "booking/wizard/roster.h"
 #include "records/fields/wording.h"
@@ -64,9 +64,6 @@ class frmAngleType : public StepScreen {
   ui::Label lbldesc{*this, "lbldesc"};
 };
 
-constexpr const char* kUnused = "N\\A";
-constexpr const char* kNobody = "None (optional)";
-
 class frmAnglePeople : public StepScreen {
  public:
   using StepScreen::StepScreen;
@@ -94,10 +91,10 @@ class frmAnglePeople : public StepScreen {
     lbl(box).Text = std::string(role.Caption);
     lblabout(box).Colour = ui::Tone::Muted;
     if (role.Caption.empty()) {
-      cmb(box).Add(kUnused);
+      cmb(box).Add("N\\A");
     } else {
       candidates = CandidatesFor(world(), role.From, buffer(), wizard().View);
-      if (role.Optional) cmb(box).Add(kNobody);
+      if (role.Optional) cmb(box).Add("None (optional)");
       for (const Candidate& candidate : candidates) cmb(box).Add(candidate.Name, candidate.Uid);
       if (cmb(box).Count() == 0) cmb(box).Add(std::string(NobodyFor(role.From)));
     }
@@ -157,12 +154,7 @@ class frmAnglePeople : public StepScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakeAngleStep(Game& game, WizardHost& host) {
-  return std::make_unique<frmAngleType>(game, host);
-}
-
-std::unique_ptr<ui::Screen> MakeCastStep(Game& game, WizardHost& host) {
-  return std::make_unique<frmAnglePeople>(game, host);
-}
+STEP(MakeAngleStep, frmAngleType)
+STEP(MakeCastStep, frmAnglePeople)
 
 }  // namespace grapplemont

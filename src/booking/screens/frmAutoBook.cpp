@@ -23,25 +23,23 @@ auto WithCard(World& world, const AutoCard& card, Look look) {
 
 /// A card for today's television show, proposed whole. What the sheet holds already stays in it;
 /// the sheet itself stays as it is until the player takes the card.
-class frmAutoBook : public ui::Screen {
+class frmAutoBook : public GameScreen {
  public:
-  explicit frmAutoBook(Game& game)
-      : Screen(game.Desk(), "frmAutoBook", "Auto Booker"), game_(game) {
+  explicit frmAutoBook(Game& game) : GameScreen(game, "frmAutoBook", "Auto Booker") {
+    BackBefore(cmdagain);
     lstcard.EmptyText = "There is no show today to book a card for.";
     lblmissing.Colour = ui::Tone::Amber;
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
+    ui::Page page = PageOf(
+        ui::Columns(
+            {ui::Group("", {ui::Grow(lstcard)}).Grow(5),
+             ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(1),
+                       ui::Group("What it may come to", {lblrating, lblmissing}), ui::Spacer()})
+                 .Grow(2)}),
+        &lblfacts, {}, &cmdbook);
     page.Actions = {&cmdback, &cmdagain, &cmdsheet, &cmdbook};
-    page.Main = &cmdbook;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Group("", {ui::Grow(lstcard)}).Grow(5),
-         ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(1),
-                   ui::Group("What it may come to", {lblrating, lblmissing}), ui::Spacer()})
-             .Grow(2)});
     return page;
   }
 
@@ -49,8 +47,6 @@ class frmAutoBook : public ui::Screen {
   void Return() override { ShowCard(); }
 
  private:
-  World& world() { return game_.World(); }
-
   void Propose() {
     card_ = AutoBook(world(), false, TermsOf(world(), false).OpenRows);
     ShowCard();
@@ -84,18 +80,15 @@ class frmAutoBook : public ui::Screen {
   }
 
   CellColumns<SheetRow> Table() {
-    CellColumns<SheetRow> columns = SheetTable(world());
-    columns.insert(columns.begin(), {{"#", ui::ColumnKind::Number},
-                                     [](const SheetRow& row) { return ui::Cell(row.Record); }});
-    return columns;
+    return SheetTable(world(), {{"#", ui::ColumnKind::Number},
+                                [](const SheetRow& row) { return ui::Cell(row.Record); }});
   }
 
   void ShowMissing() {
     std::vector<std::string> lines = card_.Missing;
     lines.insert(lines.end(), forecast_.Warnings.begin(), forecast_.Warnings.end());
-    const std::string text = Joined(lines, "\n");
-    lblmissing.Text = text;
-    lblmissing.Visible = !text.empty();
+    lblmissing.Text = Joined(lines, "\n");
+    lblmissing.Visible = !lblmissing.Text->empty();
   }
 
   void ShowRow() {
@@ -112,25 +105,12 @@ class frmAutoBook : public ui::Screen {
     desk().Say("Show Rating",
                name + " has been held. Its rating is " + std::to_string(rating) + "%.");
     LeaveShow(world());
-    CloseSheet();
+    for (const auto& screen : std::vector(desk().Screens()))
+      if (screen->Name() == "frmBooking") desk().Close(*screen);
     Close();
     game_.AdvanceDay(false);
   }
 
-  void CloseSheet() {
-    for (const auto& screen : std::vector(desk().Screens()))
-      if (screen->Name() == "frmBooking") desk().Close(*screen);
-  }
-
-  void cmdsheet_Click() {
-    TakeCard(world(), card_);
-    Close();
-  }
-
-  void cmdagain_Click() { Propose(); }
-  void cmdback_Click() { Close(); }
-
-  Game& game_;
   AutoCard card_;
   ShowForecast forecast_;
   ui::Label lblfacts{*this, "lblfacts"};
@@ -138,9 +118,11 @@ class frmAutoBook : public ui::Screen {
   ui::Report txtrow{*this, "txtrow"};
   ui::Label lblrating{*this, "lblrating"};
   ui::Label lblmissing{*this, "lblmissing"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmAutoBook::cmdback_Click};
-  ui::Button cmdagain{*this, "cmdagain", "Another Card", &frmAutoBook::cmdagain_Click};
-  ui::Button cmdsheet{*this, "cmdsheet", "Send To The Sheet", &frmAutoBook::cmdsheet_Click};
+  ui::Button cmdagain{*this, "cmdagain", "Another Card", &frmAutoBook::Propose};
+  ui::Button cmdsheet{*this, "cmdsheet", "Send To The Sheet", [this] {
+                        TakeCard(world(), card_);
+                        Close();
+                      }};
   ui::Button cmdbook{*this, "cmdbook", "Run This Show", &frmAutoBook::cmdbook_Click};
 };
 

@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "booking/screens/screenstep.h"
-#include "booking/screens/stepscreens.h"
 #include "booking/wizard/objections.h"
 #include "booking/wizard/offers.h"
 
@@ -17,7 +16,7 @@ class frmBookWinner : public MatchStepScreen {
 
  private:
   void Prepare() override {
-    FillPeople(lstring, People());
+    FillPeople(lstring, WorkersOf(PeopleOf(buffer())));
     FillBox(cmbwinner);
     if (OffersDraw(buffer())) cmbwinner.Add("Draw");
     for (int box = 1; box <= form_.Losers; ++box) {
@@ -45,13 +44,6 @@ class frmBookWinner : public MatchStepScreen {
   std::string LoserLabel(int box) {
     if (form_.Losers > 1) return "Loser #" + std::to_string(box);
     return buffer().Style == kSpecial ? "Runner-up" : "Loser";
-  }
-
-  std::vector<const Worker*> People() {
-    std::vector<const Worker*> people;
-    for (const int uid : PeopleOf(buffer()))
-      if (const Worker* worker = world().FindWorker(uid)) people.push_back(worker);
-    return people;
   }
 
   void FillBox(ui::ComboBox& box) {
@@ -132,17 +124,19 @@ constexpr int kDrawFinishes = 3;
 /// A step that picks a code of how the match ends, and perhaps who runs in for it.
 struct EndingRow {
   MatchStep Does;
-  std::string_view Called, List;
+  std::string_view Called, Lowered, List;
   Phrases (*Says)(int style);
   std::vector<int> (*Offers)(const World&, const Segment&);
   Word Segment::*Field;
   bool PicksLast;  // "Nothing" and "None" stand last and are preselected
 };
 constexpr EndingRow kEndings[] = {
-    {kFinishStep, "Finish", "lstfinish", FinishesOf, OfferedFinishes, &Segment::Finish, false},
-    {kAftermathStep, "Aftermath", "lstafter", AftermathsOf, OfferedAftermaths, &Segment::Aftermath,
-     true},
-    {kPurposeStep, "Purpose", "lstpurpose", PurposesOf, OfferedPurposes, &Segment::Purpose, true},
+    {kFinishStep, "Finish", "finish", "lstfinish", FinishesOf, OfferedFinishes, &Segment::Finish,
+     false},
+    {kAftermathStep, "Aftermath", "aftermath", "lstafter", AftermathsOf, OfferedAftermaths,
+     &Segment::Aftermath, true},
+    {kPurposeStep, "Purpose", "purpose", "lstpurpose", PurposesOf, OfferedPurposes,
+     &Segment::Purpose, true},
 };
 
 class frmBookEnding : public MatchStepScreen {
@@ -186,10 +180,9 @@ class frmBookEnding : public MatchStepScreen {
   std::vector<const Worker*> RunIns() {
     auto roster = RunInRoster(world(), buffer(), wizard().View);
     const std::vector<int> in = FinishRunIns(buffer());
-    std::erase_if(roster, [&](const Worker* worker) {
-      return row_.Does == kAftermathStep &&
-             std::find(in.begin(), in.end(), worker->Uid) != in.end();
-    });
+    if (row_.Does == kAftermathStep)
+      std::erase_if(roster,
+                    [&](auto* worker) { return std::ranges::count(in, int(worker->Uid)) > 0; });
     return roster;
   }
 
@@ -213,17 +206,13 @@ class frmBookEnding : public MatchStepScreen {
     const bool needed = NeedsRunIn();
     for (int list = 1; list <= runIns_; ++list) {
       lstrun(list).Enabled = needed;
-      lstrun(list).Tip = needed ? "" : "Nobody runs in for this " + Lowered() + ".";
+      lstrun(list).Tip = needed ? "" : "Nobody runs in for this " + std::string(row_.Lowered) + ".";
     }
     if (row_.Does == kPurposeStep)
-      ShowPrice();
+      ShowGrievances(txtsay, world(), Draft());
     else
       ShowObjections(Draft(), row_.Does);
   }
-
-  std::string Lowered() const { return row_.Does == kFinishStep ? "finish" : "aftermath"; }
-
-  void ShowPrice() { ShowGrievances(txtsay, world(), Draft()); }
 
   const EndingRow& row_;
   const int runIns_;
@@ -241,12 +230,7 @@ class frmBookEnding : public MatchStepScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakeResultStep(Game& game, WizardHost& host) {
-  return std::make_unique<frmBookWinner>(game, host);
-}
-
-std::unique_ptr<ui::Screen> MakeEndingStep(Game& game, WizardHost& host) {
-  return std::make_unique<frmBookEnding>(game, host);
-}
+STEP(MakeResultStep, frmBookWinner)
+STEP(MakeEndingStep, frmBookEnding)
 
 }  // namespace grapplemont

@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "booking/screens/screenstep.h"
-#include "booking/screens/stepscreens.h"
 #include "booking/wizard/matchrules.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
@@ -123,8 +122,7 @@ class frmBookPeople : public MatchStepScreen {
 
   bool Store() override {
     Segment draft = buffer();
-    for (int place = 1; place <= lstwres.Count(); ++place)
-      draft.Worker[static_cast<std::size_t>(place - 1)] = lstwres(place).Key();
+    std::ranges::copy(Chosen(), draft.Worker.begin());
     return Accept(draft, kPeopleStep);
   }
 
@@ -136,22 +134,18 @@ class frmBookPeople : public MatchStepScreen {
   }
   int ListsAbreast() const { return HasRowsOfMates() ? style_.PerSide : SidesAbreast(); }
 
-  bool IsComplete() {
-    for (int place = 1; place <= lstwres.Count(); ++place)
-      if (lstwres(place).Key() == 0) return false;
-    return true;
+  /// Their uids by place; 0 for nobody yet.
+  std::vector<int> Chosen() {
+    std::vector<int> uids;
+    for (int place = 1; place <= lstwres.Count(); ++place) uids.push_back(lstwres(place).Key());
+    return uids;
   }
-
-  bool IsChosen(int uid) {
-    for (int place = 1; place <= lstwres.Count(); ++place)
-      if (lstwres(place).Key() == uid) return true;
-    return false;
-  }
+  bool IsChosen(int uid) { return std::ranges::count(Chosen(), uid) > 0; }
 
   void lstwres_Click(int place) {
     if (style_.PerSide == 2 && place % 2 == 1 && lstwres(place + 1).Key() == 0)
       SuggestPartner(lstwres(place).Key(), lstwres(place + 1));
-    AllowDone(IsComplete(), kChooseAll);
+    AllowDone(!IsChosen(0), kChooseAll);
   }
 
   /// Who belongs to a Tag Team mostly stands beside their partner.
@@ -191,25 +185,21 @@ class frmBookSpecial : public MatchStepScreen {
 
   bool Store() override {
     Segment draft = buffer();
-    for (std::size_t i = 0; i < entered_.size(); ++i) draft.Worker[i] = entered_[i];
+    std::ranges::copy(entered_, draft.Worker.begin());
     return Accept(draft, kPeopleStep);
   }
 
-  std::size_t Needed() { return static_cast<std::size_t>(EntrantsOf(buffer())); }
-
   void ShowLists() {
-    std::vector<const Worker*> left, in;
-    for (const Worker* worker : EligibleRoster(world(), wizard().View))
-      if (std::find(entered_.begin(), entered_.end(), worker->Uid) == entered_.end())
-        left.push_back(worker);
-    for (const int uid : entered_) in.push_back(world().FindWorker(uid));
+    auto left = EligibleRoster(world(), wizard().View);
+    std::erase_if(left, [&](auto* w) { return std::ranges::count(entered_, int(w->Uid)) > 0; });
     FillPeople(lstroster, left);
-    FillPeople(lstenter, in);
+    FillPeople(lstenter, WorkersOf(entered_));
     lblroster.Text = "Roster : " + std::to_string(left.size());
-    lblenter.Text = "Entered : " + std::to_string(in.size());
-    AllowDone(entered_.size() == Needed(), std::to_string(Needed()) +
-                                               " workers must be entered; so far it is " +
-                                               std::to_string(entered_.size()) + ".");
+    lblenter.Text = "Entered : " + std::to_string(entered_.size());
+    const auto needed = static_cast<std::size_t>(EntrantsOf(buffer()));
+    AllowDone(entered_.size() == needed, std::to_string(needed) +
+                                             " workers must be entered; so far it is " +
+                                             std::to_string(entered_.size()) + ".");
     ShowButtons();
   }
 
@@ -254,21 +244,17 @@ class frmBookBelt : public MatchStepScreen {
   ui::Box Body() override { return ui::Group("", {ui::Grow(lsttitle)}); }
 
   bool Store() override {
-    const int record = lsttitle.Key();
-    if (record == 0) {
-      buffer().TitleName = "None";
-      return true;
-    }
-    const grapplemont::Title& title = world().Titles()[record];
-    if (IsChampionMissing(buffer(), title) && !desk().Ask("Continue?", Question())) return false;
+    buffer().TitleName = "None";
+    if (lsttitle.Key() == 0) return true;
+    const grapplemont::Title& title = world().Titles()[lsttitle.Key()];
+    const std::string who = FindMatchStyle(buffer().Style)->PerSide == 2
+                                ? "The tag team champions are"
+                                : "The champion is";
+    if (IsChampionMissing(buffer(), title) &&
+        !desk().Ask("Continue?", who + " not present in this match! Continue?"))
+      return false;
     buffer().TitleName = title.Name;
     return true;
-  }
-
-  std::string Question() {
-    return FindMatchStyle(buffer().Style)->PerSide == 2
-               ? "The tag team champions are not present in this match! Continue?"
-               : "The champion is not present in this match! Continue?";
   }
 
   using K = ui::ColumnKind;
@@ -281,17 +267,12 @@ class frmBookBelt : public MatchStepScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakeChoiceStep(Game& game, WizardHost& host) {
-  return std::make_unique<frmBookChoice>(game, host);
-}
-
+STEP(MakeChoiceStep, frmBookChoice)
 std::unique_ptr<ui::Screen> MakePeopleStep(Game& game, WizardHost& host) {
   if (host.State().Buffer.Style == kSpecial) return std::make_unique<frmBookSpecial>(game, host);
   return std::make_unique<frmBookPeople>(game, host);
 }
 
-std::unique_ptr<ui::Screen> MakeTitleStep(Game& game, WizardHost& host) {
-  return std::make_unique<frmBookBelt>(game, host);
-}
+STEP(MakeTitleStep, frmBookBelt)
 
 }  // namespace grapplemont

@@ -100,44 +100,33 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     RefreshWizard();
   }
 
-  void cmbsplit_Click() { wizard_.View.Split = cmbsplit.Text; }
-
-  void cmdexit_Click() { Close(); }
-
   void cmdcomplete_Click() {
     ApplyBookingGrievances(game_.World(), wizard_.Buffer);
     game_.World().Segments()[wizard_.CurrentSlot] = wizard_.Buffer;
     Close();
   }
 
-  template <class C>
-  using Maker = std::function<std::unique_ptr<C>(const std::string&, int)>;
-  static std::string Numbered(const char* name, int i) {
-    return std::string(name) + "(" + std::to_string(i - 1) + ")";
-  }
-  Maker<ui::Label> Labels(const char* name) {
-    return [this, name](const std::string&, int i) {
-      return std::make_unique<ui::Label>(*this, Numbered(name, i));
-    };
-  }
-  Maker<ui::Button> Buttons(const char* name, const char* caption, void (frmBookSheet::*click)()) {
-    return [this, name, caption, click](const std::string&, int i) {
-      return std::make_unique<ui::Button>(*this, Numbered(name, i), caption, click);
-    };
+  /// A control for each row, "txtstep(0)" and on.
+  template <class C, class... More>
+  ui::Array<C> ForRows(const char* name, More... more) {
+    return {"", kRows, [=, this](const std::string&, int i) {
+              return std::make_unique<C>(
+                  *this, std::string(name) + "(" + std::to_string(i - 1) + ")", more...);
+            }};
   }
 
   Game& game_;
   Wizard wizard_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::Array<ui::Label> txtstep{"", kRows, Labels("txtstep")};
-  ui::Array<ui::Label> txtdesc{"", kRows, Labels("txtdesc")};
-  ui::Array<ui::Button> cmdback{"", kRows,
-                                Buttons("cmdback", "Back", &frmBookSheet::cmdback_Click)};
-  ui::Array<ui::Button> cmdbook{"", kRows,
-                                Buttons("cmdbook", "Select", &frmBookSheet::cmdbook_Click)};
+  ui::Array<ui::Label> txtstep = ForRows<ui::Label>("txtstep");
+  ui::Array<ui::Label> txtdesc = ForRows<ui::Label>("txtdesc");
+  ui::Array<ui::Button> cmdback =
+      ForRows<ui::Button>("cmdback", "Back", &frmBookSheet::cmdback_Click);
+  ui::Array<ui::Button> cmdbook =
+      ForRows<ui::Button>("cmdbook", "Select", &frmBookSheet::cmdbook_Click);
   ui::Label lblprice{*this, "lblprice"};
-  ui::ComboBox cmbsplit{*this, "cmbsplit", &frmBookSheet::cmbsplit_Click};
-  ui::Button cmdexit{*this, "cmdexit", "Exit", &frmBookSheet::cmdexit_Click};
+  ui::ComboBox cmbsplit{*this, "cmbsplit", [this] { wizard_.View.Split = cmbsplit.Text; }};
+  ui::Button cmdexit{*this, "cmdexit", "Exit", [this] { Close(); }};
   ui::Button cmdcomplete{*this, "cmdcomplete", "Complete Booking This Segment",
                          &frmBookSheet::cmdcomplete_Click};
   ui::Button cmdstep{*this, "cmdstep", "Next Step", &frmBookSheet::OpenStep};

@@ -21,7 +21,13 @@ std::string SlotText(const Show& show) {
 class frmBooking : public SheetScreen {
  public:
   explicit frmBooking(Game& game) : SheetScreen(game, "frmBooking", false) {}
-  void Load() override { OpenTvSheet(); }
+  void Load() override {
+    EmptySheet(world(), false);
+    EnableUnless(cmdauto, HasAutoBooker(world())
+                              ? ""
+                              : "Nobody above the jobbers is fit, so there is nobody to book.");
+    ShowOpened();
+  }
 
  protected:
   CommentaryTeam Team() override { return TvTeam(world()); }
@@ -43,35 +49,29 @@ class frmBooking : public SheetScreen {
   }
 
  private:
-  void OpenTvSheet() {
-    EmptySheet(world(), false);
-    EnableUnless(cmdauto, HasAutoBooker(world())
-                              ? ""
-                              : "Nobody above the jobbers is fit, so there is nobody to book.");
-    ShowOpened();
-  }
-
-  void cmdauto_Click() { desk().Open("frmAutoBook"); }
-  ui::Button cmdauto{*this, "cmdauto", "Auto Booker", &frmBooking::cmdauto_Click};
+  ui::Button cmdauto{*this, "cmdauto", "Auto Booker", Opens("frmAutoBook")};
 };
-
-}  // namespace
-
-SCREEN(frmBooking)
-
-namespace {
 
 /// The sheet of this month's Event, with its extras and its commentary.
 class frmPPVBooking : public SheetScreen {
  public:
   explicit frmPPVBooking(Game& game) : SheetScreen(game, "frmPPVBooking", true) {}
-  void Load() override { OpenEventSheet(); }
+  void Load() override {
+    EmptySheet(world(), true);
+    FillBox(cmbannouncer, CommentaryStaff(world()));
+    FillColour();
+    FillExtras();
+    ShowOpened();
+  }
 
  protected:
   CommentaryTeam Team() override {
     return {cmbannouncer.Key(), cmbcolour.Key(), chkcolour.Checked};
   }
-  std::string TopRow() override { return DarkMatchHeading(world()); }
+  std::string TopRow() override {
+    const Show* show = ShowOfToday(world());
+    return show ? show->Name + " Main Event Match Description" : "Pre-Show Match Description";
+  }
 
   std::string Facts() override {
     const Event* event = EventOfToday(world());
@@ -105,28 +105,19 @@ class frmPPVBooking : public SheetScreen {
   }
 
  private:
-  void OpenEventSheet() {
-    EmptySheet(world(), true);
-    FillStaff(cmbannouncer);
-    FillColour();
-    FillExtras();
-    ShowOpened();
-  }
-
-  void FillStaff(ui::ComboBox& box) {
+  template <class People>
+  static void FillBox(ui::ComboBox& box, const People& people) {
     box.Clear();
     box.Add("None");
-    for (const Staff* staff : CommentaryStaff(world())) box.Add(staff->Name.Str(), staff->Uid);
+    for (const auto* one : people) box.Add(one->Name.Str(), one->Uid);
     box.Select(1);
   }
 
   void FillColour() {
-    if (!chkcolour.Checked) return FillStaff(cmbcolour);
-    cmbcolour.Clear();
-    cmbcolour.Add("None");
-    for (const Worker* worker : CommentaryWorkers(world()))
-      cmbcolour.Add(worker->Name.Str(), worker->Uid);
-    cmbcolour.Select(1);
+    if (chkcolour.Checked)
+      FillBox(cmbcolour, CommentaryWorkers(world()));
+    else
+      FillBox(cmbcolour, CommentaryStaff(world()));
   }
 
   void FillExtras() {
@@ -156,10 +147,8 @@ class frmPPVBooking : public SheetScreen {
     ShowForecast();
   }
 
-  void Table_Click() { ShowForecast(); }
-
-  ui::ComboBox cmbannouncer{*this, "cmbannouncer", &frmPPVBooking::Table_Click};
-  ui::ComboBox cmbcolour{*this, "cmbcolour", &frmPPVBooking::Table_Click};
+  ui::ComboBox cmbannouncer{*this, "cmbannouncer", [this] { ShowForecast(); }};
+  ui::ComboBox cmbcolour{*this, "cmbcolour", [this] { ShowForecast(); }};
   ui::CheckBox chkcolour{*this, "chkcolour", "Use Wrestler?", false,
                          &frmPPVBooking::chkcolour_Click};
   ui::ComboBox cmbspecial{*this, "cmbspecial", &frmPPVBooking::cmbspecial_Click};
@@ -168,6 +157,7 @@ class frmPPVBooking : public SheetScreen {
 
 }  // namespace
 
+SCREEN(frmBooking)
 SCREEN(frmPPVBooking)
 
 }  // namespace grapplemont

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "booking/screens/stepscreens.h"
+#include "booking/screens/screenstep.h"
 #include "booking/wizard/casting.h"
 #include "booking/wizard/interviews.h"
 #include "records/fields/wording.h"
@@ -50,13 +50,10 @@ class frmIVPeople : public StepScreen {
     for (int other = 1; other <= Seats(); ++other) {
       if (other == seat || chosen_[static_cast<std::size_t>(other)]) continue;
       const int partner = partners.empty() ? 0 : partners.front();
-      Suggest(lstwres(other), Seat(other).From == Casting::Talkers ? partner : worker->Manager);
+      const int uid = Seat(other).From == Casting::Talkers ? partner : int(worker->Manager);
+      lstwres(other).Select(0);
+      if (uid != 0) lstwres(other).SelectKey(uid);
     }
-  }
-
-  static void Suggest(ui::ListBox& list, int uid) {
-    list.Select(0);
-    if (uid != 0) list.SelectKey(uid);
   }
 
   bool Store() override {
@@ -116,12 +113,7 @@ class frmIVPurpose : public StepScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakeSeatsStep(Game& game, WizardHost& host) {
-  return std::make_unique<frmIVPeople>(game, host);
-}
-
-std::unique_ptr<ui::Screen> MakeTalkPurposeStep(Game& game, WizardHost& host) {
-  return std::make_unique<frmIVPurpose>(game, host);
-}
+STEP(MakeSeatsStep, frmIVPeople)
+STEP(MakeTalkPurposeStep, frmIVPurpose)
 
 }  // namespace grapplemont

@@ -60,23 +60,19 @@ std::string FinishersOf(const Worker& worker) {
 }
 
 /// Anybody's numbers at a glance.
-class frmQuickStat : public ui::Screen {
+class frmQuickStat : public GameScreen {
  public:
   explicit frmQuickStat(Game& game, int workerUid = 0)
-      : Screen(game.Desk(), "frmQuickStat", "Stats"), game_(game), first_(workerUid) {
+      : GameScreen(game, "frmQuickStat", "Stats"), first_(workerUid) {
     lstwres.EmptyText = "Nobody is here.";
     lststats.EmptyText = "Choose somebody to see his numbers.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("Who", {chkall, ui::Grow(lstwres)}).Grow(3),
-                             ui::Group("Numbers", {ui::Grow(lststats)}).Grow(2),
-                             ui::Group("", {ui::Grow(txtworker)}).Grow(3)});
-    return page;
+    return WithoutMain(PageOf(ui::Columns({ui::Group("Who", {chkall, ui::Grow(lstwres)}).Grow(3),
+                                           ui::Group("Numbers", {ui::Grow(lststats)}).Grow(2),
+                                           ui::Group("", {ui::Grow(txtworker)}).Grow(3)}),
+                              &lblfacts));
   }
 
   void Load() override {
@@ -93,8 +89,6 @@ class frmQuickStat : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   std::vector<const Worker*> People() {
     std::vector<const Worker*> people;
     for (const Worker& worker : world().Workers())
@@ -151,48 +145,29 @@ class frmQuickStat : public ui::Screen {
     return Joined(names);
   }
 
-  void chkall_Click() { Return(); }
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
-  Game& game_;
   int first_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::CheckBox chkall{*this, "chkall", "Everybody in the world", false,
-                      &frmQuickStat::chkall_Click};
+  ui::CheckBox chkall{*this, "chkall", "Everybody in the world", false, [this] { Return(); }};
   ui::ListBox lstwres{*this, "lstwres", ShortColumns(), &frmQuickStat::ShowWorker};
   ui::ListBox lststats{*this, "lststats", {{"Skill", K::Text, 2}, {"", K::Percent, 2}}};
   ui::Report txtworker{*this, "txtworker"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmQuickStat::cmdback_Click};
 };
 
-}  // namespace
-
-SCREEN(frmQuickStat)
-
-std::unique_ptr<ui::Screen> MakefrmQuickStat(Game& game, int workerUid) {
-  return std::make_unique<frmQuickStat>(game, workerUid);
-}
-
-namespace {
-
 /// Who waits for his first appearance, and the ways to it.
-class frmDebut : public ui::Screen {
+class frmDebut : public GameScreen {
  public:
   explicit frmDebut(Game& game, bool isEvent = false)
-      : Screen(game.Desk(), "frmDebut", "Debuts"), game_(game), isEvent_(isEvent) {
+      : GameScreen(game, "frmDebut", "Debuts"), isEvent_(isEvent) {
     lstwres.EmptyText = "Everybody on your roster has been seen. Whom you sign waits here.";
     lstways.EmptyText = "Choose somebody to see how he can be brought out.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("Not seen yet", {ui::Grow(lstwres)}).Grow(3),
-                             ui::Group("Ways to a debut", {ui::Grow(lstways), lblnote}).Grow(4)});
-    return page;
+    return WithoutMain(
+        PageOf(ui::Columns({ui::Group("Not seen yet", {ui::Grow(lstwres)}).Grow(3),
+                            ui::Group("Ways to a debut", {ui::Grow(lstways), lblnote}).Grow(4)}),
+               &lblfacts));
   }
 
   void Load() override {
@@ -206,8 +181,6 @@ class frmDebut : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   void ShowRoster() {
     const std::vector<const Worker*> waiting = WaitingForDebut(world());
     FillTable(lstwres, columns_, waiting);
@@ -225,10 +198,8 @@ class frmDebut : public ui::Screen {
   }
 
   void lstwres_Open() { desk().Open(MakefrmQuickStat(game_, lstwres.Key())); }
-  void cmdback_Click() { Close(); }
 
   using K = ui::ColumnKind;
-  Game& game_;
   const bool isEvent_;
   ui::Label lblfacts{*this, "lblfacts"};
   const CellColumns<Worker> columns_ =
@@ -248,12 +219,16 @@ class frmDebut : public ui::Screen {
   ui::Label lblnote{*this, "lblnote",
                     "Whoever appears in a match or an angle without one of these has been seen as "
                     "well, and the debut is spent."};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmDebut::cmdback_Click};
 };
 
 }  // namespace
 
+SCREEN(frmQuickStat)
 SCREEN(frmDebut)
+
+std::unique_ptr<ui::Screen> MakefrmQuickStat(Game& game, int workerUid) {
+  return std::make_unique<frmQuickStat>(game, workerUid);
+}
 
 std::unique_ptr<ui::Screen> MakefrmDebut(Game& game, bool isEvent) {
   return std::make_unique<frmDebut>(game, isEvent);

@@ -1,6 +1,5 @@
 #include "booking/screens/screensheet.h"
 
-#include "booking/screens/bookingscreens.h"
 #include "booking/sheet.h"
 #include "records/fields/wording.h"
 #include "records/segments.h"
@@ -14,17 +13,16 @@ namespace {
 constexpr std::string_view kClosedRowTip = "Not Available In This TV Time Slot.";
 constexpr std::string_view kClosedRow = kClosedRowTip.substr(0, kClosedRowTip.size() - 1);
 
-constexpr const char* kChangeRow = "To book something else in this row, remove it first.";
-
 std::string Of(int count, int least) {
   return std::to_string(count) + " of " + std::to_string(least);
 }
 
 }  // namespace
 
-CellColumns<SheetRow> SheetTable(const World& world) {
+CellColumns<SheetRow> SheetTable(const World& world, const CellColumn<SheetRow>& first) {
   using K = ui::ColumnKind;
-  return {{{"Segment", K::Text, 1},
+  return {first,
+          {{"Segment", K::Text, 1},
            [&](const SheetRow& row) {
              const bool empty = row.Segment.Kind == kEmptySegment;
              return ui::Cell(DescribeSegment(world, row.Segment),
@@ -54,8 +52,7 @@ std::vector<ui::Report::Paragraph> ToldOf(const World& world, const Segment& seg
 }
 
 SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
-    : Screen(game.Desk(), std::move(name), SheetHeading(game.World(), isEvent)),
-      game_(game),
+    : GameScreen(game, std::move(name), SheetHeading(game.World(), isEvent)),
       isEvent_(isEvent),
       lstrows(*this, "lstrows", {}, &SheetScreen::ShowRow, &SheetScreen::lstrows_Open),
       cmdbook("cmdbook", RowsOf(isEvent),
@@ -63,7 +60,9 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
                 return std::make_unique<ui::Button>(*this, full, "Book",
                                                     [this, record] { cmdbook_Click(record); });
               }),
-      lstfree(*this, "lstfree", ShortColumns(), ui::Handler{}, [this] { lstfree_Open(); }) {
+      lstfree(*this, "lstfree", ShortColumns(), ui::Handler{},
+              [this] { desk().Open(MakefrmQuickStat(game_, lstfree.Key())); }) {
+  BackBefore(cmddoshow);
   std::vector<ui::Column> headings = HeadingsOf(Table());
   headings.push_back({"", K::Button});
   lstrows.SetColumns(std::move(headings));
@@ -79,58 +78,51 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
 ui::Page SheetScreen::Layout() {
   std::vector<ui::Button*> buttons;
   for (int record = 1; record <= cmdbook.Count(); ++record) buttons.push_back(&cmdbook(record));
-  ui::Page page;
-  page.Facts = &lblfacts;
-  page.Actions = FirstActions();
-  for (ui::Button* action : {&cmdfill, &cmdcancel, &cmdback, &cmddoshow})
-    page.Actions.push_back(action);
-  page.Main = &cmddoshow;
-  page.Cancel = &cmdback;
+  std::vector<ui::Button*> actions = FirstActions();
+  actions.insert(actions.end(), {&cmdfill, &cmdcancel});
   std::vector<ui::Box> left{
       ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(), lblwarn,
                      ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblwarnings})
           .Grow()};
   for (ui::Box& below : BelowRows()) left.push_back(std::move(below));
-  page.Body = ui::Columns(
-      {ui::Rows(std::move(left)).Grow(5),
-       ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(5),
-                 ui::Group("Not on the card yet", {ui::Grow(lstfree)}).Grow(4),
-                 ui::Group("At hand", {cmddebut, cmdfeuds, cmdmanagers, cmdroster, cmdstables,
-                                       cmdstats, cmdteams, cmdtitles, cmdturns, cmdnotepad})})
-           .Grow(2)});
-  return page;
+  return PageOf(
+      ui::Columns(
+          {ui::Rows(std::move(left)).Grow(5),
+           ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(5),
+                     ui::Group("Not on the card yet", {ui::Grow(lstfree)}).Grow(4),
+                     ui::Group("At hand", {cmddebut, cmdfeuds, cmdmanagers, cmdroster, cmdstables,
+                                           cmdstats, cmdteams, cmdtitles, cmdturns, cmdnotepad})})
+               .Grow(2)}),
+      &lblfacts, std::move(actions), &cmddoshow);
 }
 
 void SheetScreen::ShowOpened() {
-  RefreshSheet();
+  Return();
   lstrows.SelectKey(1);
   ShowRow();
-}
-
-void SheetScreen::Return() {
-  RefreshSheet();
 }
 
 int SheetScreen::OpenRows() {
   return TermsOf(world(), isEvent_).OpenRows;
 }
 
-/// Runs on opening and after every change to a row.
-void SheetScreen::RefreshSheet() {
+void SheetScreen::Return() {
   Title = SheetHeading(world(), isEvent_);
   lblfacts.Text = Facts();
   lblwarn.Text = SheetWarning(world(), isEvent_);
   lblwarn.Colour = MayStart(world(), isEvent_) ? ui::Tone::Muted : ui::Tone::Amber;
   ShowForecast();
   ShowCounts();
-  ShowFree();
+  FillShort(lstfree, NotOnTheCard(world(), isEvent_));
 }
 
 void SheetScreen::ShowForecast() {
-  forecast_ = {};
-  bool any = false;
-  for (const Segment& segment : world().Segments()) any = any || segment.Kind != kEmptySegment;
-  if (any) forecast_ = grapplemont::ForecastShow(world(), isEvent_, Team());
+  const auto& sheet = world().Segments();
+  const bool any = std::any_of(sheet.begin(), sheet.end(), [](const Segment& segment) {
+    return segment.Kind != kEmptySegment;
+  });
+  forecast_ =
+      any ? grapplemont::ForecastShow(world(), isEvent_, Team()) : grapplemont::ShowForecast();
   lblforecast.Text =
       any ? "Expected rating " + RangeText(forecast_.Rating) + "." : "Nothing is booked yet.";
   lblwarnings.Text = Joined(forecast_.Warnings, "\n");
@@ -150,10 +142,8 @@ void SheetScreen::FillRows() {
 }
 
 CellColumns<SheetRow> SheetScreen::Table() {
-  CellColumns<SheetRow> columns = SheetTable(world());
-  columns.insert(columns.begin(), {{"#", K::Text, 0, "Row of the sheet."},
-                                   [](const SheetRow& row) { return std::to_string(row.Record); }});
-  return columns;
+  return SheetTable(world(), {{"#", K::Text, 0, "Row of the sheet."},
+                              [](const SheetRow& row) { return std::to_string(row.Record); }});
 }
 
 ui::ListBox::Row SheetScreen::RowOf(int record) {
@@ -188,10 +178,6 @@ bool SheetScreen::HasEmptyRow() {
   return false;
 }
 
-void SheetScreen::ShowFree() {
-  FillShort(lstfree, NotOnTheCard(world(), isEvent_));
-}
-
 /// What the selected row is about, without opening it.
 void SheetScreen::ShowRow() {
   using Style = ui::Report::Style;
@@ -208,7 +194,7 @@ void SheetScreen::ShowRow() {
   for (std::string& line : DetailsOfRow(world(), segment))
     told.push_back({Style::Line, std::move(line)});
   if (const std::string tip = TitleTip(segment); !tip.empty()) told.push_back({Style::Strong, tip});
-  told.push_back({Style::Muted, kChangeRow});
+  told.push_back({Style::Muted, "To book something else in this row, remove it first."});
   txtrow.Write(std::move(told));
 }
 
@@ -218,22 +204,14 @@ void SheetScreen::cmdbook_Click(int record) {
   if (Row(record).Kind == kEmptySegment)
     return desk().Open(MakefrmBookSheet(game_, record, isEvent_));
   if (!desk().Ask("Remove?", "Are you sure you wish to remove this booking?")) return;
-  RemoveBooking(world(), record);
-  RefreshSheet();
+  ClearSegment(world().Segments()[record]);
+  Return();
 }
 
 void SheetScreen::lstrows_Open() {
   const int record = lstrows.Key();
   if (record == 0 || record > OpenRows() || Row(record).Kind != kEmptySegment) return;
   OpenWizardAtOnce(game_, record, isEvent_);
-}
-
-void SheetScreen::cmddebut_Click() {
-  desk().Open(MakefrmDebut(game_, isEvent_));
-}
-
-void SheetScreen::lstfree_Open() {
-  desk().Open(MakefrmQuickStat(game_, lstfree.Key()));
 }
 
 void SheetScreen::cmdfill_Click() {
@@ -247,7 +225,7 @@ void SheetScreen::cmdfill_Click() {
                       " in the rows that are still empty? What you have booked stays." + missing))
     return;
   TakeCard(world(), card);
-  RefreshSheet();
+  Return();
 }
 
 void SheetScreen::cmddoshow_Click() {

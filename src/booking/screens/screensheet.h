@@ -1,9 +1,9 @@
 #pragma once
 
+#include "booking/screens/bookingscreens.h"
 #include "records/world.h"
 #include "show/forecast.h"
 #include "storylines/screens/screenpeople.h"
-#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -13,23 +13,23 @@ struct SheetRow {
   const grapplemont::Segment& Segment;
   const ShowForecast& Forecast;
 };
-/// What is booked, of what kind, whether a Title is at stake, for which feud, and the forecast.
-/// Holds on to the world.
-CellColumns<SheetRow> SheetTable(const World& world);
+/// Behind the first column: what is booked, of what kind, whether a Title is at stake, for which
+/// feud, and the forecast. Holds on to the world.
+CellColumns<SheetRow> SheetTable(const World& world, const CellColumn<SheetRow>& first);
 /// What is booked, and the lines of the wizard's summary.
 std::vector<ui::Report::Paragraph> ToldOf(const World& world, const Segment& segment, bool isEvent);
 
 /// What both booking sheets share: the rows of match.dat, what stands in the selected one, what the
 /// show may come to, who is still free, and the screens at the sheet's side.
-class SheetScreen : public ui::Screen {
+class SheetScreen : public GameScreen {
  public:
   ui::Page Layout() override;
+  /// Runs after every change to a row, too.
   void Return() override;
 
  protected:
   SheetScreen(Game& game, std::string name, bool isEvent);
 
-  World& world() { return game_.World(); }
   /// Who sits at the table, as things stand on the sheet.
   virtual CommentaryTeam Team() = 0;
   /// The line under the title.
@@ -44,8 +44,10 @@ class SheetScreen : public ui::Screen {
 
   /// Shows a sheet that has just been opened, on an empty match.dat.
   void ShowOpened();
-  void RefreshSheet();
   void ShowForecast();
+  ui::Handler Opens(const char* screen) {
+    return [this, screen] { desk().Open(screen); };
+  }
 
  private:
   const Segment& Row(int record) { return world().Segments()[record]; }
@@ -55,24 +57,17 @@ class SheetScreen : public ui::Screen {
   ui::ListBox::Row RowOf(int record);
   void ShowButton(int record);
   void ShowCounts();
-  void ShowFree();
   void ShowRow();
   bool HasEmptyRow();
 
   void cmdbook_Click(int record);
   void lstrows_Open();
-  void lstfree_Open();
-  void cmddebut_Click();
   void cmdfill_Click();
   void cmddoshow_Click();
-  void cmdback_Click();
+  void cmdback_Click() override;
   void cmdcancel_Click();
-  ui::Handler Opens(const char* screen) {
-    return [this, screen] { desk().Open(screen); };
-  }
 
   using K = ui::ColumnKind;
-  Game& game_;
   const bool isEvent_;
   grapplemont::ShowForecast forecast_;
 
@@ -85,7 +80,8 @@ class SheetScreen : public ui::Screen {
   ui::Label lblforecast{*this, "lblforecast"};
   ui::Label lblwarnings{*this, "lblwarnings"};
   ui::ListBox lstfree;
-  ui::Button cmddebut{*this, "cmddebut", "Debuts", &SheetScreen::cmddebut_Click};
+  ui::Button cmddebut{*this, "cmddebut", "Debuts",
+                      [this] { desk().Open(MakefrmDebut(game_, isEvent_)); }};
   ui::Button cmdfeuds{*this, "cmdfeuds", "Feuds", Opens("frmFeuds")};
   ui::Button cmdmanagers{*this, "cmdmanagers", "Managers", Opens("frmManagers")};
   ui::Button cmdroster{*this, "cmdroster", "Roster", Opens("frmAltRoster")};
@@ -97,7 +93,6 @@ class SheetScreen : public ui::Screen {
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", Opens("frmNotepad")};
   ui::Button cmdfill{*this, "cmdfill", "Fill The Rest", &SheetScreen::cmdfill_Click};
   ui::Button cmdcancel{*this, "cmdcancel", "Cancel Show", &SheetScreen::cmdcancel_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &SheetScreen::cmdback_Click};
   ui::Button cmddoshow{*this, "cmddoshow", "Start The Show!", &SheetScreen::cmddoshow_Click};
 };
 

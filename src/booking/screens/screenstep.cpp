@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <span>
 
-#include "booking/screens/stepscreens.h"
 #include "booking/wizard/objections.h"
 #include "booking/wizard/refusals.h"
-#include "records/modWresCheck.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -22,23 +20,27 @@ constexpr StepMaker* kAngleSteps[] = {MakeChoiceStep, MakeAngleStep, MakeCastSte
 
 constexpr int kNarrowName = 4;
 
+CellColumns<Worker> PeopleTableOf(bool narrow) {
+  using K = ui::ColumnKind;
+  const int wide = narrow ? 1 : 2;
+  return {{{"Name", K::Text, narrow ? kNarrowName : 6},
+           [](auto& worker) { return worker.Name.View(); }},
+          {{narrow ? "D." : "Disp.", K::Tag, narrow ? 1 : 3, "Face, Heel or Tweener."},
+           [narrow](auto& worker) {
+             ui::Cell cell = DispositionCell(worker);
+             if (narrow) cell.Text = worker.Disposition.Str();
+             return cell;
+           }},
+          {{narrow ? "Ov" : "Over", K::Number, wide, "Popularity."},
+           [](auto& worker) { return ui::Cell(worker.Over); }},
+          {{narrow ? "Con" : "Cond.", K::Number, wide, "Condition."},
+           [](auto& worker) { return ui::Cell(worker.Condition); }},
+          {{narrow ? "Mor" : "Mor.", K::Number, wide, "Morale."},
+           [](auto& worker) { return ui::Cell(worker.Morale); }}};
+}
+
 /// A battle royal may have many objections; these are read out beforehand.
 constexpr std::size_t kShown = 4;
-
-std::string WhyNot(const Segment& draft, MatchStep step) {
-  switch (step) {
-    case kPeopleStep:
-      return WhyNotPeople(draft);
-    case kResultStep:
-      return WhyNotResult(draft);
-    case kFinishStep:
-      return WhyNotFinish(draft);
-    case kAftermathStep:
-      return WhyNotAftermath(draft);
-    default:
-      return {};
-  }
-}
 
 }  // namespace
 
@@ -64,9 +66,9 @@ ui::Page StepScreen::Layout() {
 }
 
 void StepScreen::Load() {
-  cmdback = std::make_unique<ui::Button>(*this, "cmdback", "Back", &StepScreen::cmdback_Click);
-  cmddone = std::make_unique<ui::Button>(*this, "cmddone", "Done", &StepScreen::cmddone_Click);
-  cmdnext = std::make_unique<ui::Button>(*this, "cmdnext", "Next", &StepScreen::cmdnext_Click);
+  cmdback = std::make_unique<ui::Button>(*this, "cmdback", "Back", [this] { Close(); });
+  cmddone = std::make_unique<ui::Button>(*this, "cmddone", "Done", [this] { Finish(false); });
+  cmdnext = std::make_unique<ui::Button>(*this, "cmdnext", "Next", [this] { Finish(true); });
   ShowSoFar();
   Prepare();
 }
@@ -79,6 +81,13 @@ void StepScreen::ShowSoFar() {
   if (wizard().Step > 0) return;
   lblsofar(1).Text = "Nothing has been chosen yet.";
   lblsofar(1).Visible = true;
+}
+
+std::vector<const Worker*> StepScreen::WorkersOf(const std::vector<int>& uids) {
+  std::vector<const Worker*> workers;
+  for (const int uid : uids)
+    if (const Worker* worker = world().FindWorker(uid)) workers.push_back(worker);
+  return workers;
 }
 
 void StepScreen::AllowDone(bool allowed, const std::string& why) {
@@ -95,18 +104,6 @@ void StepScreen::GoOn() {
 bool StepScreen::Fail(const std::string& message) {
   desk().Say("Error!", message);
   return false;
-}
-
-void StepScreen::cmddone_Click() {
-  Finish(false);
-}
-
-void StepScreen::cmdnext_Click() {
-  Finish(true);
-}
-
-void StepScreen::cmdback_Click() {
-  Close();
 }
 
 void StepScreen::Finish(bool goOn) {
@@ -131,37 +128,20 @@ void ShowGrievances(ui::Label& label, const World& world, const Segment& booking
 }
 
 std::vector<ui::Column> PeopleColumns(int listsAbreast) {
-  using K = ui::ColumnKind;
-  if (listsAbreast > 2)
-    return {{"Name", K::Text, kNarrowName},
-            {"D.", K::Tag, 1, "Face, Heel or Tweener."},
-            {"Ov", K::Number, 1, "Popularity."},
-            {"Con", K::Number, 1, "Condition."},
-            {"Mor", K::Number, 1, "Morale."}};
-  return {{"Name", K::Text, 6},
-          {"Disp.", K::Tag, 3, "Face, Heel or Tweener."},
-          {"Over", K::Number, 2, "Popularity."},
-          {"Cond.", K::Number, 2, "Condition."},
-          {"Mor.", K::Number, 2, "Morale."}};
+  return HeadingsOf(PeopleTableOf(listsAbreast > 2));
 }
 
 void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none) {
-  const bool narrow = list.Columns().front().Width == kNarrowName;
+  const auto columns = PeopleTableOf(list.Columns().front().Width == kNarrowName);
   std::vector<ui::ListBox::Row> rows;
   if (none) rows.push_back({{"None", "", "", "", ""}, 0});
-  for (const Worker* worker : people) {
-    const std::string_view side =
-        narrow ? worker->Disposition.View() : DispositionText(worker->Disposition);
-    rows.push_back({{worker->Name.View(), ui::Cell(side, DispositionTone(*worker)),
-                     ui::Cell(worker->Over), ui::Cell(worker->Condition), ui::Cell(worker->Morale)},
-                    worker->Uid});
-  }
+  for (const Worker* worker : people) rows.push_back(RowOf(columns, *worker, worker->Uid));
   list.Fill(std::move(rows), false);
   if (none) list.Select(1);
 }
 
 bool MatchStepScreen::Accept(const Segment& draft, MatchStep step) {
-  if (const std::string why = WhyNot(draft, step); !why.empty()) return Fail(why);
+  if (const std::string why = WhyNotLeft(draft, step); !why.empty()) return Fail(why);
   for (const Refusal& refusal : RefusalsAt(world(), draft, step))
     if (!IsOverruled(refusal)) return false;
   buffer() = draft;
@@ -179,7 +159,7 @@ bool MatchStepScreen::IsOverruled(const Refusal& refusal) {
 void MatchStepScreen::ShowObjections(const Segment& draft, MatchStep step) {
   std::vector<Refusal> refusals;
   std::string price;
-  if (WhyNot(draft, step).empty()) {
+  if (WhyNotLeft(draft, step).empty()) {
     refusals = RefusalsAt(world(), draft, step);
     // Where a purpose follows, its step tells the price.
     if (step == kResultStep && PurposesOf(draft.Style).empty())

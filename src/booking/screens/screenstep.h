@@ -34,6 +34,8 @@ class StepScreen : public ui::Screen {
   World& world() { return game_.World(); }
   Wizard& wizard() { return host_.State(); }
   Segment& buffer() { return host_.State().Buffer; }
+  /// Those of the uids who are there.
+  std::vector<const Worker*> WorkersOf(const std::vector<int>& uids);
 
   /// Fills the step's controls when it opens.
   virtual void Prepare() = 0;
@@ -52,9 +54,6 @@ class StepScreen : public ui::Screen {
   bool Fail(const std::string& message);  // says it, titled "Error!"; always false
 
  private:
-  void cmddone_Click();
-  void cmdnext_Click();
-  void cmdback_Click();
   void Finish(bool goOn);
   void ShowSoFar();
 
@@ -101,4 +100,26 @@ class MatchStepScreen : public StepScreen {
   ui::Label txtsay{*this, "txtsay"};
 };
 
+// The step screens, each for the step that the host stands at. Steps that differ by a table are one
+// class.
+using StepMaker = std::unique_ptr<ui::Screen>(Game& game, WizardHost& host);
+
+/// Kind, style and type: one list each.
+StepMaker MakeChoiceStep;
+/// Who stands in a match, and in a battle royal.
+StepMaker MakePeopleStep;
+StepMaker MakeTitleStep, MakeResultStep;
+/// Finish, aftermath and purpose of a match.
+StepMaker MakeEndingStep;
+/// Who speaks in an interview, about whom, and what for.
+StepMaker MakeSeatsStep, MakeTalkPurposeStep;
+/// Which angle, and who plays in it.
+StepMaker MakeAngleStep, MakeCastStep;
+
 }  // namespace grapplemont
+
+/// How the wizard makes the screen of a step.
+#define STEP(maker, name)                                           \
+  std::unique_ptr<ui::Screen> maker(Game& game, WizardHost& host) { \
+    return std::make_unique<name>(game, host);                      \
+  }

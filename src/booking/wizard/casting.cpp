@@ -15,32 +15,14 @@ namespace {
 
 // --- Whom a seat may be given to
 
-bool Anybody(const World&, const Worker&, const Segment&) {
-  return true;
-}
-bool IsCommissioner(const World& world, const Worker& worker, const Segment&) {
-  return worker.Uid == world.Player().Commissioner;
-}
 bool IsManager(const World&, const Worker& worker, const Segment&) {
   return worker.Position == kManager;
-}
-bool IsNew(const World&, const Worker& worker, const Segment&) {
-  return !worker.Debuted;
-}
-bool IsNewManager(const World&, const Worker& worker, const Segment&) {
-  return worker.Position == kManager && !worker.Debuted;
 }
 /// What a team turns to decides who is waiting for it.
 bool IsWaitingToTurn(const World&, const Worker& worker, const Segment& angle) {
   if (!worker.TurnPending) return false;
   if (angle.Style == kTeamFaceTurn) return worker.Disposition != "F";
   return angle.Style != kTeamHeelTurn || worker.Disposition != "H";
-}
-bool IsWoman(const World&, const Worker& worker, const Segment&) {
-  return !worker.Gender;
-}
-bool IsMan(const World&, const Worker& worker, const Segment&) {
-  return worker.Gender;
 }
 bool IsNoSpeaker(const World&, const Worker& worker, const Segment& talk) {
   for (const Casting speaks : {Casting::Talkers, Casting::TalkManagers})
@@ -53,22 +35,27 @@ bool IsNoSpeaker(const World&, const Worker& worker, const Segment& talk) {
 struct CastingRow {
   Casting From;
   std::string_view Nobody;
-  bool (*Of)(const World&, const Worker&, const BookingView&);  // nullptr: no people
-  bool (*Takes)(const World&, const Worker&, const Segment&);
+  bool (*Of)(const World&, const Worker&, const BookingView&);           // nullptr: no people
+  bool (*Takes)(const World&, const Worker&, const Segment&) = nullptr;  // nullptr: all of them
 };
 constexpr CastingRow kCastings[] = {
-    {Casting::Plain, "No workers available", IsEligible, Anybody},
-    {Casting::Commissioner, "No Commissioner available", IsAvailable, IsCommissioner},
+    {Casting::Plain, "No workers available", IsEligible},
+    {Casting::Commissioner, "No Commissioner available", IsAvailable,
+     [](auto& world, auto& worker, auto&) { return worker.Uid == world.Player().Commissioner; }},
     {Casting::Managers, "No managers available", IsAvailable, IsManager},
-    {Casting::DebutManagers, "No debut managers available", IsAvailable, IsNewManager},
+    {Casting::DebutManagers, "No debut managers available", IsAvailable,
+     [](auto&, auto& worker, auto&) { return worker.Position == kManager && !worker.Debuted; }},
     {Casting::Turners, "Nobody waiting to turn", IsAvailable, IsWaitingToTurn},
-    {Casting::Women, "No women available", IsAvailable, IsWoman},
-    {Casting::Men, "No men available", IsAvailable, IsMan},
-    {Casting::Debuts, "No debuts available", IsAvailable, IsNew},
-    {Casting::Stables, "No stables available", nullptr, nullptr},
-    {Casting::SinglesTitles, "No vacant titles available", nullptr, nullptr},
-    {Casting::TagTitles, "No vacant titles available", nullptr, nullptr},
-    {Casting::Talkers, "Nobody on the roster can be interviewed.", IsTalker, Anybody},
+    {Casting::Women, "No women available", IsAvailable,
+     [](auto&, auto& worker, auto&) { return !worker.Gender; }},
+    {Casting::Men, "No men available", IsAvailable,
+     [](auto&, auto& worker, auto&) { return bool(worker.Gender); }},
+    {Casting::Debuts, "No debuts available", IsAvailable,
+     [](auto&, auto& worker, auto&) { return !worker.Debuted; }},
+    {Casting::Stables, "No stables available", nullptr},
+    {Casting::SinglesTitles, "No vacant titles available", nullptr},
+    {Casting::TagTitles, "No vacant titles available", nullptr},
+    {Casting::Talkers, "Nobody on the roster can be interviewed.", IsTalker},
     {Casting::TalkManagers, "Nobody on the roster can speak as a manager.", IsTalker, IsManager},
     {Casting::Targets, "", IsEligible, IsNoSpeaker},
 };
@@ -139,16 +126,9 @@ constexpr StableRow kStables[] = {
     {kKidnap, 1},       {kCrucifixion, 1}, {kBlackWedding, 0}, {kBloodBath, 1},
 };
 
-template <class Row, std::size_t n>
-const Row* FindRow(const Row (&rows)[n], int angle) {
-  const auto found =
-      std::find_if(std::begin(rows), std::end(rows), [&](auto& row) { return row.Angle == angle; });
-  return found == std::end(rows) ? nullptr : &*found;
-}
-
 std::string_view SamePersonText(int angle) {
   for (const SamePersonRow& row : kSamePerson)
-    if (std::find(row.Angles.begin(), row.Angles.end(), angle) != row.Angles.end()) return row.Says;
+    if (std::ranges::count(row.Angles, angle) > 0) return row.Says;
   return {};
 }
 
@@ -185,8 +165,8 @@ std::string WhySamePerson(const World&, const Segment& segment, const BookingVie
 }
 
 std::string WhyNotManaged(const World& world, const Segment& segment, const BookingView&) {
-  const ManagedRow* row = FindRow(kManaged, segment.Style);
-  if (!row) return {};
+  const auto* row = std::ranges::find(kManaged, int(segment.Style), &ManagedRow::Angle);
+  if (row == std::end(kManaged)) return {};
   const Worker* client = WorkerAt(world, segment, row->Place);
   return client && client->Manager == UidAt(segment, 1) ? "" : std::string(row->Says);
 }
@@ -208,8 +188,8 @@ std::string WhyNoMembership(const World& world, const Segment& segment, const Bo
 }
 
 std::string WhyNoStable(const World& world, const Segment& segment, const BookingView&) {
-  const StableRow* row = FindRow(kStables, segment.Style);
-  if (!row) return {};
+  const auto* row = std::ranges::find(kStables, int(segment.Style), &StableRow::Angle);
+  if (row == std::end(kStables)) return {};
   if (ActiveMembers(world, segment.Text).size() < 2)
     return "Sorry, there need to be at least 2 active members of the stable!";
   for (int place = 1; place <= row->StrangersUpTo; ++place)
@@ -219,23 +199,28 @@ std::string WhyNoStable(const World& world, const Segment& segment, const Bookin
   return {};
 }
 
-bool FitsVacantTitle(const World& world, const Segment& segment, const Worker* worker) {
-  const bool singles = segment.Style == kAwardSingles;
+/// Whether one of the player's Titles waits for a holder; a singles Title or one for a team.
+bool IsVacantTitle(const World& world, const Title& title, bool singles) {
+  return IsPlayers(world, title) && title.Holder == 0 && title.Singles == singles;
+}
+
+const Title* FindVacant(const World& world, bool singles, std::string_view name) {
   for (const Title& title : world.Titles())
-    if (IsVacantTitle(world, title, singles) && title.Name == segment.TitleName)
-      return worker && FitsTitle(title, *worker);
-  return false;
+    if (IsVacantTitle(world, title, singles) && title.Name == name) return &title;
+  return nullptr;
 }
 
 std::string WhyNoTitle(const World& world, const Segment& segment, const BookingView&) {
   if (!IsAward(segment)) return {};
   const bool singles = segment.Style == kAwardSingles;
+  const Title* title = FindVacant(world, singles, segment.TitleName);
   const int last = singles ? 2 : 3;
   for (int place = 2; place <= last; ++place)
     if (UidAt(segment, place) == UidAt(segment, 1))
       return "The worker cannot also be the Commissioner!";
   for (int place = 2; place <= last; ++place)
-    if (!FitsVacantTitle(world, segment, WorkerAt(world, segment, place)))
+    if (const Worker* worker = WorkerAt(world, segment, place);
+        !title || !worker || !FitsTitle(*title, *worker))
       return singles ? "The worker is not eligible for this title!"
                      : "These workers are not eligible for these titles!";
   return {};
@@ -270,14 +255,10 @@ std::string AboutStable(const World& world, std::string_view name) {
 }
 
 std::string AboutTitle(const World& world, bool singles, std::string_view name) {
-  for (const Title& title : world.Titles()) {
-    if (!IsVacantTitle(world, title, singles) || title.Name != name) continue;
-    std::string text = "Vacant, image " + std::to_string(title.Image) + "%";
-    if (title.Woman) text += ", for women";
-    if (title.Lightweight) text += ", for lightweights";
-    return text;
-  }
-  return {};
+  const Title* title = FindVacant(world, singles, name);
+  if (!title) return {};
+  return "Vacant, image " + std::to_string(title->Image) + "%" +
+         (title->Woman ? ", for women" : "") + (title->Lightweight ? ", for lightweights" : "");
 }
 
 }  // namespace
@@ -304,14 +285,10 @@ std::vector<const Angle*> OfferedAngles(const World& world) {
   return offered;
 }
 
-bool IsVacantTitle(const World& world, const Title& title, bool singles) {
-  return IsPlayers(world, title) && title.Holder == 0 && title.Singles == singles;
-}
-
 bool MayBeCast(const World& world, Casting from, const Worker& worker, const Segment& segment,
                const BookingView& view) {
   const CastingRow& row = RowOf(from);
-  return row.Of && row.Of(world, worker, view) && row.Takes(world, worker, segment);
+  return row.Of && row.Of(world, worker, view) && (!row.Takes || row.Takes(world, worker, segment));
 }
 
 std::vector<const Worker*> WorkersFor(const World& world, Casting from, const Segment& segment,

@@ -34,9 +34,6 @@ std::vector<Candidate> CandidatesFor(const World& world, Casting from, const Seg
 /// What a seat's list says when there is nobody: "No women available".
 std::string_view NobodyFor(Casting from);
 
-/// Whether one of the player's Titles waits for a holder; a singles Title or one for a team.
-bool IsVacantTitle(const World& world, const Title& title, bool singles);
-
 /// Puts a candidate into the seat: a worker at its place, a stable or a Title by its name.
 void Cast(Segment& segment, const Role& seat, const Candidate& candidate);
 

@@ -16,13 +16,6 @@ bool AreDifferentPeople(std::vector<int> uids) {
   return uids.front() != 0 && std::adjacent_find(uids.begin(), uids.end()) == uids.end();
 }
 
-bool ManagesAll(const World& world, int manager, const std::vector<int>& workers) {
-  return std::all_of(workers.begin(), workers.end(), [&](int uid) {
-    const Worker* worker = world.FindWorker(uid);
-    return worker && worker->Manager == manager;
-  });
-}
-
 /// The manager and who is spoken for.
 std::vector<int> SpeakersOf(const Segment& interview) {
   std::vector<int> speakers = SeatedAs(interview, kSpeaker);
@@ -55,6 +48,13 @@ bool IsFeud(const World& world, const Segment& interview) {
 }
 
 }  // namespace
+
+bool ManagesAll(const World& world, int manager, const std::vector<int>& workers) {
+  return std::all_of(workers.begin(), workers.end(), [&](int uid) {
+    const Worker* worker = world.FindWorker(uid);
+    return worker && worker->Manager == manager;
+  });
+}
 
 std::string WhyNotSpeakers(const World& world, const Segment& interview) {
   const std::vector<int> speakers = SpeakersOf(interview);

@@ -10,6 +10,7 @@
 
 namespace grapplemont {
 
+bool ManagesAll(const World& world, int manager, const std::vector<int>& workers);
 /// What stands against these speakers, against these targets; empty for nothing.
 std::string WhyNotSpeakers(const World& world, const Segment& interview);
 std::string WhyNotTargets(const Segment& interview);

@@ -23,6 +23,47 @@ bool IsOneSideOut(const Segment& match) {
   });
 }
 
+std::string WhyNotPeople(const Segment& match) {
+  if (!HasTwice(PeopleOf(match))) return {};
+  return match.Style == kSingles ? "Workers cannot fight themselves!"
+                                 : "You have selected the same worker twice!";
+}
+
+std::string WhyNotResult(const Segment& match) {
+  if (match.Winner == 0) return {};
+  const ResultForm& form = ResultFormOf(match);
+  if (form.Losers == 0) return {};
+  if (form.MayBeNone && match.Loser == 0)
+    return "Sorry, the first elimination box MUST be filled in.";
+  std::vector<int> named = LosersInOrder(match);
+  named.push_back(match.Winner);
+  if (HasTwice(named)) return std::string(form.Same);
+  if (!form.Mates.empty() && SideOf(match, match.Winner) == SideOf(match, match.Loser))
+    return std::string(form.Mates);
+  if (form.MayBeNone && !IsOneSideOut(match)) return "One team must be totally eliminated!";
+  return {};
+}
+
+std::string WhyNotFinish(const Segment& match) {
+  if (!NeedsFinishRunIn(match.Style, match.Finish)) return {};
+  if (match.Other1 == 0)
+    return match.Style == kSingles
+               ? "You must select someone to run in if you want interference"
+               : "If you want interference, someone must be picked in the first inteference box";
+  if (match.Other1 == match.Other2) return "You cannot select the same interfering person twice";
+  return {};
+}
+
+std::string WhyNotAftermath(const Segment& match) {
+  Segment copy = match;
+  const std::vector<Word*> runIns = AftermathRunIns(copy);
+  if (runIns.empty()) return {};
+  if (*runIns[0] == 0) return "You must select someone to run in for this aftermath";
+  if (runIns.size() > 1 && *runIns[0] == *runIns[1])
+    return "You can't select the same person to run in twice!";
+  return {};
+}
+
 }  // namespace
 
 bool NeedsFinishRunIn(int style, int finish) {
@@ -87,14 +128,18 @@ std::vector<Word*> LoserFields(Segment& match) {
           &match.Place6, &match.Place7, &match.Place8};
 }
 
-std::vector<int> LosersInOrder(const Segment& match) {
+std::vector<int> NamedLosers(const Segment& match) {
   Segment copy = match;
   std::vector<int> uids;
   for (const Word* field : LoserFields(copy))
     if (*field != 0) uids.push_back(*field);
-  if (match.Winner == 0 || ResultFormOf(match).Losers == 0) uids.clear();
-  if (match.Style == kSingles && match.Winner != 0) uids = {match.Loser};
   return uids;
+}
+
+std::vector<int> LosersInOrder(const Segment& match) {
+  if (match.Winner == 0) return {};
+  if (match.Style == kSingles) return {match.Loser};
+  return ResultFormOf(match).Losers == 0 ? std::vector<int>() : NamedLosers(match);
 }
 
 void StoreResult(Segment& match, int winner, const std::vector<int>& losers) {
@@ -108,45 +153,19 @@ void StoreResult(Segment& match, int winner, const std::vector<int>& losers) {
   for (std::size_t i = 0; i < losers.size() && i < fields.size(); ++i) *fields[i] = losers[i];
 }
 
-std::string WhyNotPeople(const Segment& match) {
-  if (!HasTwice(PeopleOf(match))) return {};
-  return match.Style == kSingles ? "Workers cannot fight themselves!"
-                                 : "You have selected the same worker twice!";
-}
-
-std::string WhyNotResult(const Segment& match) {
-  if (match.Winner == 0) return {};
-  const ResultForm& form = ResultFormOf(match);
-  if (form.Losers == 0) return {};
-  if (form.MayBeNone && match.Loser == 0)
-    return "Sorry, the first elimination box MUST be filled in.";
-  std::vector<int> named = LosersInOrder(match);
-  named.push_back(match.Winner);
-  if (HasTwice(named)) return std::string(form.Same);
-  if (!form.Mates.empty() && SideOf(match, match.Winner) == SideOf(match, match.Loser))
-    return std::string(form.Mates);
-  if (form.MayBeNone && !IsOneSideOut(match)) return "One team must be totally eliminated!";
-  return {};
-}
-
-std::string WhyNotFinish(const Segment& match) {
-  if (!NeedsFinishRunIn(match.Style, match.Finish)) return {};
-  if (match.Other1 == 0)
-    return match.Style == kSingles
-               ? "You must select someone to run in if you want interference"
-               : "If you want interference, someone must be picked in the first inteference box";
-  if (match.Other1 == match.Other2) return "You cannot select the same interfering person twice";
-  return {};
-}
-
-std::string WhyNotAftermath(const Segment& match) {
-  Segment copy = match;
-  const std::vector<Word*> runIns = AftermathRunIns(copy);
-  if (runIns.empty()) return {};
-  if (*runIns[0] == 0) return "You must select someone to run in for this aftermath";
-  if (runIns.size() > 1 && *runIns[0] == *runIns[1])
-    return "You can't select the same person to run in twice!";
-  return {};
+std::string WhyNotLeft(const Segment& match, MatchStep step) {
+  switch (step) {
+    case kPeopleStep:
+      return WhyNotPeople(match);
+    case kResultStep:
+      return WhyNotResult(match);
+    case kFinishStep:
+      return WhyNotFinish(match);
+    case kAftermathStep:
+      return WhyNotAftermath(match);
+    default:
+      return {};
+  }
 }
 
 bool IsChampionMissing(const Segment& match, const Title& title) {

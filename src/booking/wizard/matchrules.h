@@ -42,16 +42,14 @@ bool OffersDraw(const Segment& match);
 std::vector<int> ResultCandidates(const Segment& match);
 /// The fields of losers in the order in which they leave the match.
 std::vector<Word*> LoserFields(Segment& match);
-std::vector<int> LosersInOrder(const Segment& match);  // their uids, without the empty ones
+std::vector<int> NamedLosers(const Segment& match);    // their uids, without the empty ones
+std::vector<int> LosersInOrder(const Segment& match);  // of them, those that the match asks for
 /// Writes the result: winner 0 is a draw, `losers` are those of the boxes, 0 for an empty one.
 void StoreResult(Segment& match, int winner, const std::vector<int>& losers);
 
-// Why the step would not be left with what the Segment holds, as its message says it; empty when it
-// would.
-std::string WhyNotPeople(const Segment& match);
-std::string WhyNotResult(const Segment& match);
-std::string WhyNotFinish(const Segment& match);
-std::string WhyNotAftermath(const Segment& match);
+/// Why the step would not be left with what the Segment holds, as its message says it; empty when
+/// it would.
+std::string WhyNotLeft(const Segment& match, MatchStep step);
 
 /// The Title has a holder, and he does not stand in the match.
 bool IsChampionMissing(const Segment& match, const Title& title);

@@ -1,10 +1,8 @@
 #include "booking/wizard/objections.h"
 
 #include <algorithm>
-#include <array>
 #include <functional>
-#include <initializer_list>
-#include <vector>
+#include <iterator>
 
 #include "booking/wizard/matchrules.h"
 
@@ -14,6 +12,8 @@ namespace {
 
 constexpr int kCleanLossGap = 30;
 constexpr int kRunInGap = 20;
+// Attitude below which losers mind how it happens, and the sum of two.
+constexpr int kMindsAlone = 40, kMindTogether = 100;
 
 using Levels = std::map<int, int>;
 
@@ -42,14 +42,6 @@ void DrawLevels(Levels& levels, const Standing& first, const Standing& second, i
       Raise(levels, *who, kWomanDrawLevel);
     RaiseByGaps(levels, *who, *other, gaps);
   }
-}
-
-/// What losers of little patience still take as their heat back.
-bool GivesHeatBack(int aftermath) {
-  constexpr std::array<int, 6> kGives = {after1::kAttacksReferee, after1::kTantrum,
-                                         after1::kRevengeAttack,  after1::kGetsRevenge,
-                                         after1::kTwoOnWinner,    after1::kTwoOnRunIn};
-  return std::find(kGives.begin(), kGives.end(), aftermath) != kGives.end();
 }
 
 /// Losing the last bout of a feud costs more patience when the worker named first wins.
@@ -86,12 +78,9 @@ void SinglesLevels(Levels& levels, const World& world, const Segment& match) {
   if (IsManAgainstWoman(loser, winner) && loser.Attitude < kWomanRule)
     Raise(levels, loser, kWomanLevel);
   RaiseByGaps(levels, loser, winner, kSinglesGaps);
-  const bool mindsFinish =
-      (match.Finish == kClean && IsHurtByCleanLoss(loser, winner, kCleanLossAttitude)) ||
-      (match.Finish == kInterference &&
-       IsHurtByRunIn(loser, StandingOf(world, {match.Other1}), kCleanLossAttitude)) ||
-      (loser.Attitude < kVengeful && !GivesHeatBack(match.Aftermath));
-  if (mindsFinish) Raise(levels, loser, kFinishLevel);
+  if (MindFinish(world, match, loser, winner) ||
+      (loser.Attitude < kVengeful && !GivesHeatBack(match.Aftermath)))
+    Raise(levels, loser, kFinishLevel);
   EndFeudLevels(levels, match, loser, winner);
   CharacterLevels(levels, match.Aftermath, loser, winner);
 }
@@ -106,8 +95,7 @@ void TagLevels(Levels& levels, const World& world, const Segment& match) {
   if (IsManAgainstWoman(losers, winners) && losers.Attitude < kTagWomanRule)
     Raise(levels, losers, kWomanLevel);
   RaiseByGaps(levels, losers, winners, TagGaps(match));
-  if (match.Finish == kClean && IsHurtByCleanLoss(losers, winners, kTagCleanLossAttitude))
-    Raise(levels, losers, kFinishLevel);
+  if (MindFinish(world, match, losers, winners)) Raise(levels, losers, kFinishLevel);
 }
 
 void OtherLevels(Levels& levels, const World& world, const Segment& match) {
@@ -123,6 +111,12 @@ void OtherLevels(Levels& levels, const World& world, const Segment& match) {
   }
 }
 
+/// What a level takes from Morale.
+int MoralePrice(int level) {
+  constexpr int kPrices[] = {0, 5, 10, 15, 25, 50};
+  return kPrices[static_cast<std::size_t>(std::clamp(level, 0, 5))];
+}
+
 std::string InWords(int number) {
   constexpr const char* kWords[] = {"nobody", "one",   "two",  "three", "four",   "five",  "six",
                                     "seven",  "eight", "nine", "ten",   "eleven", "twelve"};
@@ -131,19 +125,6 @@ std::string InWords(int number) {
 }
 
 }  // namespace
-
-bool Standing::HasWoman() const {
-  return std::any_of(People.begin(), People.end(), [](auto* worker) { return !worker->Gender; });
-}
-
-bool Standing::AllMen() const {
-  return !People.empty() && !HasWoman();
-}
-
-bool Standing::HasCreativeControl() const {
-  return std::any_of(People.begin(), People.end(),
-                     [](auto* worker) { return bool(worker->CreativeControl); });
-}
 
 Standing StandingOf(const World& world, const std::vector<int>& uids) {
   Standing standing;
@@ -157,12 +138,19 @@ Standing StandingOf(const World& world, const std::vector<int>& uids) {
   return standing;
 }
 
-bool IsHurtByCleanLoss(const Standing& loser, const Standing& winner, int attitudeUnder) {
-  return loser.Attitude < attitudeUnder && winner.Over - kCleanLossGap < loser.Over;
+bool GivesHeatBack(int aftermath) {
+  constexpr int kGives[] = {after1::kAttacksReferee, after1::kTantrum,     after1::kRevengeAttack,
+                            after1::kGetsRevenge,    after1::kTwoOnWinner, after1::kTwoOnRunIn};
+  return std::find(std::begin(kGives), std::end(kGives), aftermath) != std::end(kGives);
 }
 
-bool IsHurtByRunIn(const Standing& loser, const Standing& runIn, int attitudeUnder) {
-  return loser.Attitude < attitudeUnder && runIn.Over - kRunInGap < loser.Over;
+bool MindFinish(const World& world, const Segment& match, const Standing& losers,
+                const Standing& winners) {
+  const bool alone = match.Style == kSingles;
+  if (losers.Attitude >= (alone ? kMindsAlone : kMindTogether)) return false;
+  if (match.Finish == kClean) return winners.Over - kCleanLossGap < losers.Over;
+  return alone && match.Finish == kInterference &&
+         StandingOf(world, {match.Other1}).Over - kRunInGap < losers.Over;
 }
 
 bool IsAbove(const Standing& who, const Standing& other, const Gap& gap) {
@@ -170,7 +158,9 @@ bool IsAbove(const Standing& who, const Standing& other, const Gap& gap) {
 }
 
 bool IsManAgainstWoman(const Standing& who, const Standing& other) {
-  return who.AllMen() && other.HasWoman();
+  const auto isMan = [](const Worker* worker) { return bool(worker->Gender); };
+  return !who.People.empty() && std::ranges::all_of(who.People, isMan) &&
+         !std::ranges::all_of(other.People, isMan);
 }
 
 Gaps TagGaps(const Segment& match) {
@@ -202,11 +192,6 @@ std::map<int, int> GrievancesOf(const World& world, const Segment& match) {
   else
     OtherLevels(levels, world, match);
   return levels;
-}
-
-int MoralePrice(int level) {
-  constexpr std::array<int, 6> kPrices = {0, 5, 10, 15, 25, 50};
-  return kPrices[static_cast<std::size_t>(std::clamp(level, 0, 5))];
 }
 
 std::string GrievanceText(const World& world, const Segment& match) {

@@ -17,10 +17,6 @@ struct Standing {
   std::vector<const Worker*> People;
   int Over = 0;
   int Attitude = 0;
-
-  bool HasWoman() const;
-  bool AllMen() const;  // false for nobody
-  bool HasCreativeControl() const;
 };
 Standing StandingOf(const World& world, const std::vector<int>& uids);
 
@@ -50,17 +46,15 @@ inline constexpr Gap kSpecialGaps[] = {{20, 92}};
 inline constexpr int kWomanRule = 95;
 inline constexpr int kTagWomanRule = 185;  // of the sum
 
-// Attitude below which a loser minds how it happens.
-inline constexpr int kCleanLossAttitude = 40;
-inline constexpr int kTagCleanLossAttitude = 100;  // of the sum
-
 /// Below it a loser in a singles match wants to do something afterwards.
 inline constexpr int kVengeful = 30;
+/// What losers of little patience take as their heat back.
+bool GivesHeatBack(int aftermath);
 
-/// Loses cleanly to somebody who is not far enough above them.
-bool IsHurtByCleanLoss(const Standing& loser, const Standing& winner, int attitudeUnder);
-/// Loses because of somebody who is not far enough above them.
-bool IsHurtByRunIn(const Standing& loser, const Standing& runIn, int attitudeUnder);
+/// Whether the losers of a match of 1 vs 1 or of 2 vs 2 mind how it happens: cleanly by somebody,
+/// or alone because of somebody who runs in, who is not far enough above them.
+bool MindFinish(const World& world, const Segment& match, const Standing& losers,
+                const Standing& winners);
 
 bool IsAbove(const Standing& who, const Standing& other, const Gap& gap);
 bool IsManAgainstWoman(const Standing& who, const Standing& other);
@@ -73,8 +67,6 @@ std::vector<int> Objectors(const Segment& match);
 
 /// The level of each worker's grievance, 1 to 5, by their uid; who has none is not there.
 std::map<int, int> GrievancesOf(const World& world, const Segment& match);
-/// What a level takes from Morale.
-int MoralePrice(int level);
 /// "Bram Okafor -15" for each of them, most first; empty when nobody minds.
 std::string GrievanceText(const World& world, const Segment& match);
 /// By what it costs: "nine will hold it against you, 50 morale each, two more 15 each".

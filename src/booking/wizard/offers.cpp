@@ -1,8 +1,8 @@
 #include "booking/wizard/offers.h"
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
-#include <optional>
 
 #include "booking/wizard/roster.h"
 #include "records/segmentacts.h"
@@ -29,16 +29,14 @@ enum class If { Always, Won, Drawn };
 /// What else an entry needs, of its people where it has some.
 enum class Needs {
   Nothing,
+  FeudBetween,
+  Stripping,
   Presence,
   Absence,
   Debut,       // nobody has seen them yet
-  PairDebut,   // neither of the two
   Pending,     // a turn is prepared
   LosersTurn,  // and they have lost
-  Turn,        // they do something that can turn them
-  PairTurn,    // and do so together
-  FeudBetween,
-  Stripping
+  Turn         // they do something that can turn them, a pair together
 };
 
 /// An entry of a list.
@@ -82,6 +80,7 @@ constexpr Offer kTagFinishOffers[] = {
     {kNoContest, Drawn},
 };
 
+constexpr Codes kHits = Only({kInterference, kDqThroughInterference});
 constexpr Codes kForASide = Only({kInterference, kBotchedInterference, kDqThroughInterference});
 
 constexpr Offer kSinglesAftermathOffers[] = {
@@ -126,10 +125,8 @@ constexpr Offer kTagAftermathOffers[] = {
     {after2::kThirdTurns, Won, AllBut({kPartnerTurns}), LosersTurn, Part::Worker3},
     {after2::kFourthTurns, Won, AllBut({kPartnerTurns}), LosersTurn, Part::Worker4},
     {after2::kLosersArgue, Won, AllBut({kPartnerTurns})},
-    {after2::kAssaultGoesOn, Won, Only({kInterference, kDqThroughInterference}), Presence,
-     Part::Other2},
-    {after2::kThreeOnTwo, Won, Only({kInterference, kDqThroughInterference}), Absence,
-     Part::Other2},
+    {after2::kAssaultGoesOn, Won, kHits, Presence, Part::Other2},
+    {after2::kThreeOnTwo, Won, kHits, Absence, Part::Other2},
     {after2::kAttackRunIns, Won, Only({kBotchedInterference}), Presence, Part::Other2},
     {after2::kAttackRunIn, Won, Only({kBotchedInterference}), Absence, Part::Other2},
     {after2::kSave, Won, kForASide},
@@ -170,16 +167,16 @@ constexpr Offer kSinglesPurposeOffers[] = {
     {purpose1::kNone, Always},
 };
 constexpr Offer kTagPurposeOffers[] = {
-    {purpose2::kDebutFirstTeam, Always, kEvery, PairDebut, Part::FirstTeam},
+    {purpose2::kDebutFirstTeam, Always, kEvery, Debut, Part::FirstTeam},
     {purpose2::kDebutWorker1, Always, kEvery, Debut, Part::Worker1},
     {purpose2::kDebutWorker2, Always, kEvery, Debut, Part::Worker2},
-    {purpose2::kDebutSecondTeam, Always, kEvery, PairDebut, Part::SecondTeam},
+    {purpose2::kDebutSecondTeam, Always, kEvery, Debut, Part::SecondTeam},
     {purpose2::kDebutWorker3, Always, kEvery, Debut, Part::Worker3},
     {purpose2::kDebutWorker4, Always, kEvery, Debut, Part::Worker4},
-    {purpose2::kDebutOthers12, Always, kEvery, PairDebut, Part::Others12},
+    {purpose2::kDebutOthers12, Always, kEvery, Debut, Part::Others12},
     {purpose2::kDebutOther1, Always, kEvery, Debut, Part::Other1},
     {purpose2::kDebutOther2, Always, kEvery, Debut, Part::Other2},
-    {purpose2::kDebutOthers34, Always, kEvery, PairDebut, Part::Others34},
+    {purpose2::kDebutOthers34, Always, kEvery, Debut, Part::Others34},
     {purpose2::kDebutOther3, Always, kEvery, Debut, Part::Other3},
     {purpose2::kDebutOther4, Always, kEvery, Debut, Part::Other4},
     {purpose2::kGoodMatch, Drawn},
@@ -200,22 +197,20 @@ constexpr Offer kTagPurposeOffers[] = {
     {purpose2::kGoodMatch},
     {purpose2::kEndFeud, Won, kEvery, FeudBetween},
     {purpose2::kContinueFeud, Won, kEvery, FeudBetween},
-    {purpose2::kTurnFirstTeam, Won, kEvery, PairTurn, Part::FirstTeam},
+    {purpose2::kTurnFirstTeam, Won, kEvery, Turn, Part::FirstTeam},
     {purpose2::kTurnWorker1, Won, kEvery, Turn, Part::Worker1},
     {purpose2::kTurnWorker2, Won, kEvery, Turn, Part::Worker2},
-    {purpose2::kTurnSecondTeam, Won, kEvery, PairTurn, Part::SecondTeam},
+    {purpose2::kTurnSecondTeam, Won, kEvery, Turn, Part::SecondTeam},
     {purpose2::kTurnWorker3, Won, kEvery, Turn, Part::Worker3},
     {purpose2::kTurnWorker4, Won, kEvery, Turn, Part::Worker4},
-    {purpose2::kTurnOthers12, Won, kEvery, PairTurn, Part::Others12},
+    {purpose2::kTurnOthers12, Won, kEvery, Turn, Part::Others12},
     {purpose2::kTurnOther1, Won, kEvery, Turn, Part::Other1},
     {purpose2::kTurnOther2, Won, kEvery, Turn, Part::Other2},
-    {purpose2::kTurnOthers34, Won, kEvery, PairTurn, Part::Others34},
+    {purpose2::kTurnOthers34, Won, kEvery, Turn, Part::Others34},
     {purpose2::kTurnOther3, Won, kEvery, Turn, Part::Other3},
     {purpose2::kTurnOther4, Won, kEvery, Turn, Part::Other4},
     {purpose2::kNone, Always},
 };
-
-using Uids = std::vector<int>;
 
 bool IsPending(const World& world, int uid) {
   const Worker* worker = world.FindWorker(uid);
@@ -227,61 +222,69 @@ bool IsNew(const World& world, int uid) {
   return worker && !worker->Debuted;
 }
 
-/// Who may turn in this match: for each act the people who do it and can.
-std::vector<Uids> TurnersOf(const World& world, const Segment& match) {
-  std::vector<Uids> turners;
-  for (const Act& act : ActsOf(match)) {
-    if (!act.Is(kTurnOccasion)) continue;
-    const Uids on = PeopleOf(match, act.On);
-    const Worker* victim = on.empty() ? nullptr : world.FindWorker(on.front());
-    Uids ready = PeopleOf(match, act.By);
-    std::erase_if(ready, [&](int uid) {
-      const Worker* worker = world.FindWorker(uid);
-      return !worker || !CanTurn(*worker, victim);
-    });
-    turners.push_back(std::move(ready));
-  }
-  return turners;
-}
-
-/// A match as its lists look at it.
+/// A match as its lists look at it. They are asked for every match that the auto booker tries, so
+/// nothing is allocated until somebody waits to turn.
 class Look {
  public:
-  Look(const World& world, const Segment& match) : world_(world), match_(match) {}
+  Look(const World& world, const Segment& match) : world_(world), match_(match) {
+    std::copy_n(match.Worker.begin(), kWorkers, people_.begin());
+    std::size_t at = kWorkers;
+    for (const int uid : {match.Other1, match.Other2, match.Other3, match.Other4, match.Winner})
+      people_[at++] = uid;
+    mayTurn_ =
+        std::any_of(people_.begin(), people_.end(), [&](int uid) { return IsPending(world, uid); });
+  }
 
-  bool Takes(const Offer& offer, int after) {
+  bool Takes(const Offer& offer, int after) const {
     return (offer.Result == Always || (offer.Result == Drawn) == IsDraw(match_)) &&
            (offer.After >> std::min(after, kBeyond) & 1) != 0 && Has(offer.Need, offer.Who);
   }
 
  private:
-  bool Has(Needs need, Part who) {
+  using Uids = std::span<const int>;  // 0 for nobody
+
+  bool Has(Needs need, Part who) const {
     if (need == Nothing) return true;
     if (need == FeudBetween) return IsFeud();
     if (need == Stripping)
       return match_.MatchType == kBraAndPanties || match_.MatchType == kBuckNaked;
-    const Uids uids = PeopleOf(match_, who);
-    if (need == Absence) return uids.empty();
-    const bool pair = need == PairDebut || need == PairTurn;
-    return uids.size() >= (pair ? 2 : 1) && HasAll(need, uids);
+    if (need >= Pending && !mayTurn_) return false;
+    if (who != Part::Loser && who != Part::LosersPartner) return HasAll(need, Standing(who));
+    const std::vector<int> beaten = PeopleOf(match_, who);
+    return !beaten.empty() && HasAll(need, beaten);
   }
 
-  bool HasAll(Needs need, const Uids& uids) {
-    if (need == Turn || need == PairTurn) return Turns(uids);
+  /// Of a winner, of who stands in a place and of who runs in.
+  Uids Standing(Part who) const {
+    constexpr std::pair<std::size_t, std::size_t> kStand[] = {
+        {0, 1}, {1, 1}, {2, 1}, {3, 1}, {0, 2}, {2, 2},   // Worker1 to SecondTeam
+        {4, 1}, {5, 1}, {6, 1}, {7, 1}, {4, 2}, {6, 2}};  // Other1 to Others34
+    if (who == Part::Winner) return Uids(people_).last(1);
+    const auto& [first, count] = kStand[static_cast<int>(who) - static_cast<int>(Part::Worker1)];
+    return Uids(people_).subspan(first, count);
+  }
+
+  bool HasAll(Needs need, Uids uids) const {
+    if (need == Turn) return Turns(uids);
     return std::all_of(uids.begin(), uids.end(), [&](int uid) {
-      if (need == Debut || need == PairDebut) return IsNew(world_, uid);
-      if (need == LosersTurn && SideOf(match_, uid) != SideOf(match_, match_.Loser)) return false;
-      return need == Presence || IsPending(world_, uid);
+      if (need == Presence || need == Absence) return (uid == 0) == (need == Absence);
+      if (need == Debut) return IsNew(world_, uid);
+      return IsPending(world_, uid) &&
+             (need == Pending || SideOf(match_, uid) == SideOf(match_, match_.Loser));
     });
   }
 
-  /// Whether some act turns them, a pair both.
-  bool Turns(const Uids& uids) {
-    if (!turners_) turners_ = TurnersOf(world_, match_);
-    return std::any_of(turners_->begin(), turners_->end(), [&](const Uids& ready) {
-      return std::all_of(uids.begin(), uids.end(), [&](int uid) {
-        return std::find(ready.begin(), ready.end(), uid) != ready.end();
-      });
+  /// Whether some act turns all of them.
+  bool Turns(Uids uids) const {
+    const std::vector<Act> acts = ActsOf(match_);
+    return std::any_of(acts.begin(), acts.end(), [&](const Act& act) {
+      const std::vector<int> by = PeopleOf(match_, act.By), on = PeopleOf(match_, act.On);
+      const Worker* victim = on.empty() ? nullptr : world_.FindWorker(on.front());
+      return act.Is(kTurnOccasion) && std::all_of(uids.begin(), uids.end(), [&](int uid) {
+               const Worker* worker = world_.FindWorker(uid);
+               return worker && CanTurn(*worker, victim) &&
+                      std::find(by.begin(), by.end(), uid) != by.end();
+             });
     });
   }
 
@@ -292,18 +295,22 @@ class Look {
                : FeudExists(world_, {{worker[0], worker[1]}, {worker[2], worker[3]}});
   }
 
+  static constexpr std::size_t kWorkers = 4;
   const World& world_;
   const Segment& match_;
-  std::optional<std::vector<Uids>> turners_;
+  std::array<int, kWorkers + 5> people_;  // then who runs in, and the winner
+  bool mayTurn_;                          // somebody among them waits to
 };
 
 std::vector<int> Offered(const World& world, const Segment& match, std::span<const Offer> singles,
                          std::span<const Offer> tag, int after) {
   std::vector<int> codes;
-  Look look(world, match);
-  if (match.Style == kSingles || match.Style == kTag)
-    for (const Offer& offer : match.Style == kSingles ? singles : tag)
-      if (look.Takes(offer, after)) codes.push_back(offer.Code);
+  if (match.Style != kSingles && match.Style != kTag) return codes;
+  const Look look(world, match);
+  const auto offers = match.Style == kSingles ? singles : tag;
+  codes.reserve(offers.size());
+  for (const Offer& offer : offers)
+    if (look.Takes(offer, after)) codes.push_back(offer.Code);
   return codes;
 }
 

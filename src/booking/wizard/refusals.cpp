@@ -10,6 +10,7 @@ namespace grapplemont {
 namespace {
 
 using Refusals = std::vector<Refusal>;
+using Uids = std::vector<int>;
 
 std::string_view Pronoun(const Worker& worker) {
   return worker.Gender ? "he" : "she";
@@ -19,7 +20,9 @@ std::string_view Pronoun(const Worker& worker) {
 enum class Voice { Alone, Pair, ForTeam };
 
 std::string VetoOf(const Standing& speaker, Voice voice) {
-  if (!speaker.HasCreativeControl()) return {};
+  if (std::ranges::none_of(speaker.People,
+                           [](auto* worker) { return bool(worker->CreativeControl); }))
+    return {};
   switch (voice) {
     case Voice::Pair:
       return "Because they have creative control, you cannot challenge this.";
@@ -123,10 +126,9 @@ Refusals TagResult(const World& world, const Segment& match) {
   if (IsDraw(match)) {
     const ResultWords words = {": We are not drawing with a team that has a woman on it.",
                                {": We should win this match, they are not in our league."}};
-    AddResultRefusals(refusals, world, first, second, kTagWomanRule, kTagDrawGaps, Voice::Pair,
-                      words);
-    AddResultRefusals(refusals, world, second, first, kTagWomanRule, kTagDrawGaps, Voice::Pair,
-                      words);
+    for (const auto& [who, other] : {std::pair(first, second), std::pair(second, first)})
+      AddResultRefusals(refusals, world, who, other, kTagWomanRule, kTagDrawGaps, Voice::Pair,
+                        words);
     return refusals;
   }
   const bool secondWins = SideOf(match, match.Winner) == 2;
@@ -141,36 +143,25 @@ Refusals TagResult(const World& world, const Segment& match) {
 /// How the losers of the other styles speak, by style and type.
 struct LoserVoice {
   Gaps Bounds;
-  bool MindsWomen;
   Voice How;
-  ResultWords Words;
+  const char* ToAWoman;  // empty: nobody minds
+  std::string ToOthers;
 };
 
 LoserVoice VoiceOf(const World& world, const Segment& match) {
   if (match.Style == kSpecial)
-    return {kSpecialGaps,
-            false,
-            Voice::Alone,
-            {{}, {": I'm not being in a match where the winner is so much lower than me."}}};
+    return {kSpecialGaps, Voice::Alone, "",
+            ": I'm not being in a match where the winner is so much lower than me."};
   if (match.Style == kFourOnFour && match.MatchType == kSurvivor)
-    return {kSurvivorGaps, false, Voice::Alone, {{}, {": I think my team should win this bout."}}};
+    return {kSurvivorGaps, Voice::Alone, "", ": I think my team should win this bout."};
   if (match.Style != kThreeWay && match.Style != kFourWay)
-    return {kLoserGaps,
-            true,
-            Voice::ForTeam,
-            {": We are not losing to a team containing a woman.",
-             {": We are not losing this match to them."}}};
+    return {kLoserGaps, Voice::ForTeam, ": We are not losing to a team containing a woman.",
+            ": We are not losing this match to them."};
   if (match.MatchType == kElimination)
-    return {kLoserGaps,
-            true,
-            Voice::Alone,
-            {": I am not losing out to a woman.",
-             {": I think i am a more worthy winner of this match."}}};
-  return {kLoserGaps,
-          true,
-          Voice::Alone,
-          {": I am not losing to a woman.",
-           {": I am not losing this match to " + SideText(world, {match.Winner})}}};
+    return {kLoserGaps, Voice::Alone, ": I am not losing out to a woman.",
+            ": I think i am a more worthy winner of this match."};
+  return {kLoserGaps, Voice::Alone, ": I am not losing to a woman.",
+          ": I am not losing this match to " + SideText(world, {match.Winner})};
 }
 
 Refusals OtherResult(const World& world, const Segment& match) {
@@ -179,7 +170,8 @@ Refusals OtherResult(const World& world, const Segment& match) {
   const Standing winner = StandingOf(world, {match.Winner});
   for (const int loser : Objectors(match))
     AddResultRefusals(refusals, world, StandingOf(world, {loser}), winner,
-                      voice.MindsWomen ? kWomanRule : 0, voice.Bounds, voice.How, voice.Words);
+                      *voice.ToAWoman ? kWomanRule : 0, voice.Bounds, voice.How,
+                      {voice.ToAWoman, {voice.ToOthers}});
   return refusals;
 }
 
@@ -190,44 +182,30 @@ Refusals ResultRefusals(const World& world, const Segment& match) {
 
 // --- The finish
 
-Refusals TagFinish(const World& world, const Segment& match) {
-  const Standing winners = StandingOf(world, WinnersOf(match));
-  const Standing losers = StandingOf(world, LosersOf(match));
-  if (match.Finish == kClean && IsHurtByCleanLoss(losers, winners, kTagCleanLossAttitude))
-    return {Says(world, losers, Voice::Pair, ": We are not losing this match cleanly.")};
-  return {};
-}
-
-Refusals SinglesFinish(const World& world, const Segment& match) {
-  const Standing winner = StandingOf(world, {match.Winner});
-  const Standing loser = StandingOf(world, {match.Loser});
-  if (match.Finish == kClean && IsHurtByCleanLoss(loser, winner, kCleanLossAttitude))
-    return {Says(world, loser, Voice::Alone, ": I am not losing this match cleanly.")};
-  if (match.Finish == kInterference &&
-      IsHurtByRunIn(loser, StandingOf(world, {match.Other1}), kCleanLossAttitude))
-    return {Says(world, loser, Voice::Alone,
-                 ": If i am to lose this match by interference, i want someone better to run "
-                 "in.")};
-  return {};
-}
-
 Refusals FinishRefusals(const World& world, const Segment& match) {
-  const bool told = match.Style == kSingles || match.Style == kTag;
+  const bool alone = match.Style == kSingles;
   const Worker* loser = world.FindWorker(match.Loser);
-  if (!told || IsDraw(match) || !loser) return {};
+  if ((!alone && match.Style != kTag) || IsDraw(match) || !loser) return {};
   if (match.Finish == kSickBump && !loser->HighSpots)
     return {Final(*loser, ": I'm not taking a sick bump, sorry.")};
-  return match.Style == kSingles ? SinglesFinish(world, match) : TagFinish(world, match);
+  const Standing winners = StandingOf(world, alone ? Uids{match.Winner} : WinnersOf(match));
+  const Standing losers = StandingOf(world, alone ? Uids{match.Loser} : LosersOf(match));
+  if (!MindFinish(world, match, losers, winners)) return {};
+  if (!alone) return {Says(world, losers, Voice::Pair, ": We are not losing this match cleanly.")};
+  return {Says(world, losers, Voice::Alone,
+               match.Finish == kClean
+                   ? ": I am not losing this match cleanly."
+                   : ": If i am to lose this match by interference, i want someone better to run "
+                     "in.")};
 }
 
 // --- The aftermath of a singles match
 
 bool GetsNoHeatBack(const Worker& loser, int aftermath) {
   using namespace after1;
-  return loser.Attitude < kVengeful &&
-         !IsAmong(aftermath, {kAttacksReferee, kTantrum, kRevengeAttack, kGetsRevenge, kTwoOnWinner,
-                              kTwoOnRunIn, kHandshake, kCheapShot, kFirstRefusesHand,
-                              kSecondRefusesHand, kBrawlToTheBack});
+  return loser.Attitude < kVengeful && !GivesHeatBack(aftermath) &&
+         !IsAmong(aftermath,
+                  {kHandshake, kCheapShot, kFirstRefusesHand, kSecondRefusesHand, kBrawlToTheBack});
 }
 
 /// A Face of whom nobody expects a turn.

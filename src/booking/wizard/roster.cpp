@@ -28,12 +28,9 @@ bool AllFit(const World& world, const Title& title, const Segment& match) {
 
 }  // namespace
 
-bool InSplit(const Worker& worker, const BookingView& view) {
-  return view.Split == "All" || worker.Split == view.Split;
-}
-
 bool IsAvailable(const World& world, const Worker& worker, const BookingView& view) {
-  return WorksForPlayer(world, worker) && worker.Status == "Nor" && InSplit(worker, view);
+  return WorksForPlayer(world, worker) && worker.Status == "Nor" &&
+         (view.Split == "All" || worker.Split == view.Split);
 }
 
 bool IsEligible(const World& world, const Worker& worker, const BookingView& view) {

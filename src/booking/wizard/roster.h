@@ -17,8 +17,6 @@ struct BookingView {
   std::string Split = "All";  // or one of the promotion's splits
 };
 
-/// Whether the split of the view takes the worker in.
-bool InSplit(const Worker& worker, const BookingView& view);
 /// Under contract to the player, fit, and in the split.
 bool IsAvailable(const World& world, const Worker& worker, const BookingView& view);
 /// May stand in a participant list: available, and a wrestler or a manager; at an Event a

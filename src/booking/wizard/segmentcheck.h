@@ -11,12 +11,9 @@ namespace grapplemont {
 
 /// Why a finished Segment could not have come out of the wizard, a sentence each: who may not stand
 /// where they stand, codes that its lists would not offer, what its checks would say. Refusals that
-/// the player may override are not among them.
+/// the player may override are not among them. Any bytes will do: unknown styles and people are
+/// reported like the rest.
 std::vector<std::string> WhyNotBookable(const World& world, const Segment& segment,
                                         const BookingView& view);
-/// Why a finished interview or angle could not have come out of the wizard, a sentence each; empty
-/// for one that could. Any bytes will do: unknown styles and people are reported like the rest.
-std::vector<std::string> WhyNotTalk(const World& world, const Segment& segment,
-                                    const BookingView& view);
 
 }  // namespace grapplemont

@@ -29,15 +29,9 @@ void ClearCast(Segment& segment) {
 
 // The wizard's screens of the steps that look different from style to style.
 
-template <std::string_view MatchForm::*screen>
-std::string_view ByMatchForm(const Segment& segment) {
-  const MatchForm* form = FindMatchForm(segment.Style);
-  return form ? form->*screen : std::string_view();
-}
-
-template <std::string_view InterviewForm::*screen>
-std::string_view ByInterviewForm(const Segment& segment) {
-  const InterviewForm* form = FindInterviewForm(segment.Style);
+template <auto find, auto screen>
+std::string_view ByForm(const Segment& segment) {
+  const auto* form = find(segment.Style);
   return form ? form->*screen : std::string_view();
 }
 
@@ -45,86 +39,67 @@ std::string_view ByResult(const Segment& segment) {
   return ResultFormOf(segment).Screen;
 }
 
-// What is said of a step once it is done.
+// What is said of a step once it is done, behind its row's name for it.
 
-std::string KindSummary(const World&, const Segment& segment) {
-  return "Segment Type = " + std::string(Says(kSegmentKinds, segment.Kind));
+/// What a table says of a style.
+template <auto find>
+std::string StyleText(const World&, const Segment& segment) {
+  const auto* style = find(segment.Style);
+  return std::string(style ? style->Says : "");
 }
 
-std::string StyleSummary(const World&, const Segment& segment) {
-  const MatchStyleRow* style = FindMatchStyle(segment.Style);
-  return "Match Style = " + std::string(style ? style->Says : "");
+template <const auto& terms, Word Segment::*code>
+std::string TermText(const World&, const Segment& segment) {
+  return std::string(Says(terms, segment.*code));
 }
 
-std::string TypeSummary(const World&, const Segment& segment) {
-  return "Match Type = " + std::string(MatchTypeText(segment.Style, segment.MatchType));
+template <auto phrases, Word Segment::*code>
+std::string CodeText(const World& world, const Segment& segment) {
+  return SummaryText(world, segment, phrases(segment.Style), segment.*code);
 }
 
-std::string PeopleSummary(const World& world, const Segment& segment) {
+std::string PeopleText(const World& world, const Segment& segment) {
   if (segment.Style == kSpecial) return std::to_string(EntrantsOf(segment)) + " Workers Entered";
   std::vector<std::string> sides;
   for (const auto& side : SidesOf(segment)) sides.push_back(SideText(world, side));
   return Joined(sides, " vs ");
 }
 
-std::string TitleSummary(const World&, const Segment& segment) {
-  return "Title = " + segment.TitleName;
-}
-
-std::string ResultSummary(const World& world, const Segment& segment) {
-  if (IsDraw(segment)) return "Result = Draw";
+std::string ResultText(const World& world, const Segment& segment) {
+  if (IsDraw(segment)) return "Draw";
   const std::vector<int> winners = WinnersOf(segment);
-  return "Result = " + SideText(world, winners) + (winners.size() > 1 ? " Win" : " Wins");
+  return SideText(world, winners) + (winners.size() > 1 ? " Win" : " Wins");
 }
 
-std::string FinishSummary(const World& world, const Segment& segment) {
-  return "Finish = " + SummaryText(world, segment, FinishesOf(segment.Style), segment.Finish);
-}
-
-std::string AftermathSummary(const World& world, const Segment& segment) {
-  std::string text =
-      "Aftermath = " + SummaryText(world, segment, AftermathsOf(segment.Style), segment.Aftermath);
+std::string AftermathText(const World& world, const Segment& segment) {
+  const std::string text = CodeText<AftermathsOf, &Segment::Aftermath>(world, segment);
   if (!NeedsAftermathRunIn(segment.Style, segment.Aftermath)) return text;
   return text + "\nFrom " + SideText(world, AftermathRunIns(segment));
 }
 
-std::string PurposeSummary(const World& world, const Segment& segment) {
-  return "Purpose = " + SummaryText(world, segment, PurposesOf(segment.Style), segment.Purpose);
-}
-
-std::string TalkStyleSummary(const World&, const Segment& segment) {
-  const InterviewStyleRow* style = FindInterviewStyle(segment.Style);
-  return "Interview Style = " + std::string(style ? style->Says : "");
-}
-
-std::string SpeakersSummary(const World& world, const Segment& segment) {
+std::string SpeakersText(const World& world, const Segment& segment) {
   const std::vector<int> managers = SeatedAs(segment, Casting::TalkManagers);
-  return "Participants = " + SideText(world, SeatedAs(segment, Casting::Talkers)) +
+  return SideText(world, SeatedAs(segment, Casting::Talkers)) +
          (managers.empty() ? "" : " With " + SideText(world, managers));
 }
 
-std::string TargetsSummary(const World& world, const Segment& segment) {
+std::string TargetsText(const World& world, const Segment& segment) {
   std::vector<int> targets = SeatedAs(segment, Casting::Targets);
   std::erase(targets, 0);
-  return "Targets = " + (targets.empty() ? std::string("None") : SideText(world, targets));
+  return targets.empty() ? "None" : SideText(world, targets);
 }
 
-std::string TalkPurposeSummary(const World&, const Segment& segment) {
-  return "Purpose = " + std::string(Says(kInterviewPurposes, segment.Purpose));
-}
-
-std::string AngleSummary(const World&, const Segment& segment) {
+std::string AngleText(const World&, const Segment& segment) {
   const Angle* angle = FindAngle(segment.Style);
-  if (!angle) return "Angle = ";
-  return "Angle = " + std::string(angle->Summary.empty() ? angle->Says : angle->Summary);
+  return std::string(!angle ? "" : angle->Summary.empty() ? angle->Says : angle->Summary);
 }
 
-std::string CastSummary(const World& world, const Segment& segment) {
-  if (IsToldByStable(segment.Style)) return "Participants = " + segment.Text;
+std::string CastText(const World& world, const Segment& segment) {
+  if (IsToldByStable(segment.Style)) return segment.Text.Str();
   std::vector<std::string> cast;
   for (const int uid : PeopleOf(segment)) cast.push_back(SideText(world, {uid}));
   if (segment.Text != "None") cast.push_back(segment.Text.Str());
-  return "Participants = " + Joined(cast, ", ");
+  return Joined(cast, ", ");
 }
 
 /// One step of a path: what it is called, the screen that does it, by the Segment's style where
@@ -134,51 +109,55 @@ struct StepRow {
   std::string_view Screen;
   std::string_view (*ByStyle)(const Segment&);
   void (*Undo)(Segment&);
+  std::string_view Named;
   std::string (*Says)(const World&, const Segment&);
 };
 
-void ClearKind(Segment& segment) {
-  segment.Kind = 0;
-}
-void ClearStyle(Segment& segment) {
-  segment.Style = 0;
-}
-void ClearPurpose(Segment& segment) {
-  segment.Purpose = 0;
+template <auto... fields>
+void Clear(Segment& segment) {
+  ((segment.*fields = {}), ...);
 }
 
-constexpr StepRow kKindRow = {"Select Segment Type", "frmBookStyle", nullptr, ClearKind,
-                              KindSummary};
+constexpr StepRow kKindRow = {
+    "Select Segment Type", "frmBookStyle",    nullptr,
+    Clear<&Segment::Kind>, "Segment Type = ", TermText<kSegmentKinds, &Segment::Kind>};
 constexpr StepRow kMatchSteps[] = {
     kKindRow,
-    {"Select Match Style", "frmBookType", nullptr, ClearStyle, StyleSummary},
-    {"Select Match Type", "frmBookMatchStyle", nullptr, [](Segment& s) { s.MatchType = 0; },
-     TypeSummary},
-    {"Select Participants", "", ByMatchForm<&MatchForm::People>, [](Segment& s) { s.Worker = {}; },
-     PeopleSummary},
+    {"Select Match Style", "frmBookType", nullptr, Clear<&Segment::Style>,
+     "Match Style = ", StyleText<FindMatchStyle>},
+    {"Select Match Type", "frmBookMatchStyle", nullptr, Clear<&Segment::MatchType>, "Match Type = ",
+     [](const World&, const Segment& s) {
+       return std::string(MatchTypeText(s.Style, s.MatchType));
+     }},
+    {"Select Participants", "", ByForm<FindMatchForm, &MatchForm::People>, Clear<&Segment::Worker>,
+     "", PeopleText},
     {"Select Title", "frmBookBelt", nullptr, [](Segment& s) { s.TitleName = "None"; },
-     TitleSummary},
-    {"Select Result", "", ByResult, ClearResult, ResultSummary},
-    {"Select Finish", "", ByMatchForm<&MatchForm::Finish>,
-     [](Segment& s) { s.Finish = s.Other1 = s.Other2 = 0; }, FinishSummary},
+     "Title = ", [](const World&, const Segment& s) { return s.TitleName.Str(); }},
+    {"Select Result", "", ByResult, ClearResult, "Result = ", ResultText},
+    {"Select Finish", "", ByForm<FindMatchForm, &MatchForm::Finish>,
+     Clear<&Segment::Finish, &Segment::Other1, &Segment::Other2>,
+     "Finish = ", CodeText<FinishesOf, &Segment::Finish>},
     // Its run-ins share a field with those of the finish in a singles match.
-    {"Select Aftermath", "", ByMatchForm<&MatchForm::Aftermath>,
-     [](Segment& s) { s = BeforeAftermath(s); }, AftermathSummary},
-    {"Select Purpose", "", ByMatchForm<&MatchForm::Purpose>, ClearPurpose, PurposeSummary},
+    {"Select Aftermath", "", ByForm<FindMatchForm, &MatchForm::Aftermath>,
+     [](Segment& s) { s = BeforeAftermath(s); }, "Aftermath = ", AftermathText},
+    {"Select Purpose", "", ByForm<FindMatchForm, &MatchForm::Purpose>, Clear<&Segment::Purpose>,
+     "Purpose = ", CodeText<PurposesOf, &Segment::Purpose>},
 };
 constexpr StepRow kInterviewSteps[] = {
     kKindRow,
-    {"Select Interview Style", "frmIVType", nullptr, ClearStyle, TalkStyleSummary},
-    {"Select Participants", "", ByInterviewForm<&InterviewForm::SpeakersScreen>,
-     [](Segment& s) { s.Worker = {}; }, SpeakersSummary},
-    {"Select Targets", "", ByInterviewForm<&InterviewForm::TargetsScreen>, ClearTargets,
-     TargetsSummary},
-    {"Select Interview Purpose", "frmIVPurpose", nullptr, ClearPurpose, TalkPurposeSummary},
+    {"Select Interview Style", "frmIVType", nullptr, Clear<&Segment::Style>,
+     "Interview Style = ", StyleText<FindInterviewStyle>},
+    {"Select Participants", "", ByForm<FindInterviewForm, &InterviewForm::SpeakersScreen>,
+     Clear<&Segment::Worker>, "Participants = ", SpeakersText},
+    {"Select Targets", "", ByForm<FindInterviewForm, &InterviewForm::TargetsScreen>, ClearTargets,
+     "Targets = ", TargetsText},
+    {"Select Interview Purpose", "frmIVPurpose", nullptr, Clear<&Segment::Purpose>,
+     "Purpose = ", TermText<kInterviewPurposes, &Segment::Purpose>},
 };
 constexpr StepRow kAngleSteps[] = {
     kKindRow,
-    {"Select Angle", "frmAngleType", nullptr, ClearStyle, AngleSummary},
-    {"Select Participants", "frmAnglePeople", nullptr, ClearCast, CastSummary},
+    {"Select Angle", "frmAngleType", nullptr, Clear<&Segment::Style>, "Angle = ", AngleText},
+    {"Select Participants", "frmAnglePeople", nullptr, ClearCast, "Participants = ", CastText},
 };
 
 std::span<const StepRow> StepsOfKind(int kind) {
@@ -234,8 +213,9 @@ StepText TextOfStep(const World& world, const Wizard& wizard, int step) {
     return {kNotReached, {}, {}};
   StepText text{std::string(row->Caption), {}, {}};
   if (step == wizard.Step) return text;
-  text.Summary = row->Says(world, wizard.Buffer);
-  if (row->Says == FinishSummary && NeedsFinishRunIn(wizard.Buffer.Style, wizard.Buffer.Finish))
+  text.Summary = std::string(row->Named) + row->Says(world, wizard.Buffer);
+  if (step == kFinishStep && wizard.Buffer.Kind == kMatch &&
+      NeedsFinishRunIn(wizard.Buffer.Style, wizard.Buffer.Finish))
     text.Tip = "From " + SideText(world, FinishRunIns(wizard.Buffer));
   return text;
 }
