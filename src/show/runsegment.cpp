@@ -4,7 +4,6 @@
 
 #include "report/report.h"
 #include "show/aftermatch.h"
-#include "show/feudend.h"
 #include "show/matchscore.h"
 #include "show/overchange.h"
 #include "show/showfeuds.h"
@@ -34,7 +33,6 @@ void Do(Telling& telling) {
 }
 
 void SetScene(Telling& telling) {
-  telling.Scene.IsEvent = telling.Run.Show.IsEvent;
   for (const TurnCall& turn : BookedTurns(telling.Run.World, telling.Run.Segment))
     telling.Scene.Turners.push_back(turn.Turner);
   if (!telling.AtStake) return;
@@ -142,33 +140,20 @@ ToldSegment RunSegment(World& world, int number, LineMemory* memory) {
           std::move(run.Notes),   std::move(telling.Report), std::move(telling.Verdict)};
 }
 
-namespace {
-
-void AfterMatchFor(SegmentRun& run, const std::vector<int>& people, bool isWinner) {
-  for (const int uid : people)
-    if (Worker* worker = run.World.FindWorker(uid)) AfterMatch(run, *worker, isWinner);
-}
-
-}  // namespace
-
 void MatchConsequences(SegmentRun& run) {
   // A battle royal is too big for any one of it to be marked by it.
   if (run.Segment.Style == kSpecial) return;
-  AfterMatchFor(run, PeopleOf(run.Segment), false);
-  AfterMatchFor(run, WinnersOf(run.Segment), true);
+  const auto after = [&](const std::vector<int>& people, bool areWinners) {
+    for (const int uid : people)
+      if (Worker* worker = run.World.FindWorker(uid)) AfterMatch(run, *worker, areWinners);
+  };
+  after(PeopleOf(run.Segment), false);
+  after(WinnersOf(run.Segment), true);
   ShiftOver(run);
   TallyResult(run);
   TallyAttacks(run);
   EndFeudByMatch(run);
   DrawInjuries(run);
-}
-
-void GainTeamExperience(SegmentRun& run) {
-  const int style = run.Segment.Style;
-  if (style != kTag && style != kThreeTeams && style != kFourTeams) return;
-  for (Team& team : run.World.Teams())
-    if (team.Worker2 != 0 && PartnerOf(run.Segment, team.Worker1) == team.Worker2)
-      ++team.Experience;
 }
 
 }  // namespace grapplemont
