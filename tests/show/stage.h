@@ -64,12 +64,6 @@ struct Stage {
     Run.Overall.Become(overall, "");
   }
 
-  /// "Road Agent: Ash is losing heat ..." a line each.
-  std::string Mails() const {
-    std::string mails;
-    for (const Mail& mail : W.News()) mails += mail.From.Str() + ": " + mail.Body.Str() + "\n";
-    return mails;
-  }
   /// Over of the first so many workers.
   std::vector<int> Overs(int count) const {
     std::vector<int> overs;
