@@ -109,34 +109,6 @@ TEST(Verdict, IsTheSecondVoicesOnMatchesByTheBandOfTheRating) {
   }
 }
 
-struct BandCase {
-  int Brawl, Technical, Speed;
-  std::vector<int> Draws;
-  int Band;
-};
-
-TEST(OffenceBand, IsTheStrongestSideBeforeTheTieAndTheSkillBehindIt) {
-  const std::vector<BandCase> cases = {
-      {90, 5, 5, {1, 10, 10}, kBrawlHigh},  // whatever the draws
-      {39, 5, 5, {1, 1, 1}, kBrawlLow},       {64, 5, 5, {10, 1, 1}, kBrawlMid},
-      {5, 40, 5, {1, 1, 1}, kTechnicalMid},   {5, 5, 65, {1, 1, 1}, kSpeedHigh},
-      {50, 50, 50, {3, 3, 3}, kBrawlMid},      // ties: Brawl first
-      {10, 50, 50, {1, 3, 3}, kTechnicalMid},  // then Technical
-      {60, 66, 10, {10, 1, 1}, kBrawlMid},     // the plain skill counts, not the sum
-      {38, 30, 39, {1, 1, 1}, kSpeedLow},
-  };
-  for (const BandCase& each : cases) {
-    World world = SmallWorld().Promotion("CWA").Worker("Bram Okafor").Game("CWA");
-    Worker& bram = world.Workers()[1];
-    bram.Brawl = each.Brawl;
-    bram.Technical = each.Technical;
-    bram.Speed = each.Speed;
-    World scripted(std::make_unique<SeededDraws>(1), std::make_unique<ScriptedDraws>(each.Draws));
-    EXPECT_EQ(OffenceBandOf(scripted, bram), each.Band)
-        << each.Brawl << " " << each.Technical << " " << each.Speed;
-  }
-}
-
 TEST(LineMemory, GivesNoLineAgainBeforeTheOthersOfItsBand) {
   LineMemory memory;
   const int band = 0, other = 0;

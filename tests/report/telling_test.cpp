@@ -113,42 +113,6 @@ TEST_P(Telling, SaysWhatIsAtStakeAndWhatBecomesOfIt) {
   }
 }
 
-TEST_P(Telling, SpeaksOfSeveralTitlesAsSeveral) {
-  World world = Ten().Title("Tide Titles", "Aoe Aax", "Boe Bbx").Game("CWA");
-  Segment segment = Match(kTag);
-  segment.TitleName = "Tide Titles";
-  for (int i = 0; i < 8; ++i) {
-    const std::string text = Tell(world, segment, {1, 2});
-    for (const char* verb : {"is", "has", "stays", "belongs", "changes", "goes", "does"})
-      EXPECT_FALSE(HasWord(text, std::string("Tide Titles ") + verb)) << text;
-  }
-}
-
-TEST_P(Telling, MentionsChampionsOfBothKinds) {
-  World world =
-      Ten().Title("Harbor Crown", "Aoe Aax").Title("Tide Titles", "Coe Ccx", "Doe Ddx").Game("CWA");
-  for (const auto& [first, second, style, told] : {std::tuple(1, 2, kSingles, "Harbor Crown"),
-                                                   {2, 5, kSingles, ""},
-                                                   {3, 2, kSingles, ""},
-                                                   {2, 1, kThreeWay, "Harbor Crown"}}) {
-    Segment segment = Match(style);
-    segment.Worker[0] = first;
-    segment.Worker[1] = second;
-    segment.Worker[2] = 6;
-    segment.Winner = first;
-    segment.Loser = second;
-    const std::string text = Tell(world, segment);
-    ExpectBand(text, Family::ChampionNote, *told != 0 ? 0 : kNothing, 1);
-    EXPECT_NE(text.find(told), std::string::npos) << text;
-  }
-  Segment tag = Match(kTag);
-  for (const int place : {0, 1}) tag.Worker[static_cast<std::size_t>(place)] = 5 + place;
-  tag.Winner = 5;
-  EXPECT_NE(Tell(world, tag).find("the Tide Titles"), std::string::npos);
-  tag.Worker[3] = 7;  // one half of them is not both
-  EXPECT_EQ(Tell(world, tag).find("Tide Titles"), std::string::npos);
-}
-
 TEST_P(Telling, TellsFeudsInEveryStyle) {
   struct Case {
     const char* Rival;

@@ -104,39 +104,6 @@ TEST(Matches, AreWrittenDownAsTheyWereFought) {
   EXPECT_TRUE(CheckWorld(world).empty());
 }
 
-TEST(Matches, AddUpForEverybodyInThem) {
-  World world = House();
-  Hold(world, {Singles(2, 1, "Crown"), Singles(2, 3),
-               Won(SegmentOf(kMatch, kSingles, kPlainSingles, {7, 8}), 0, kNoLoser)});
-  world.Game().Today = world.Today() + std::chrono::days{7};
-  Hold(world, {Singles(1, 2, "Crown"), Won(SegmentOf(kMatch, kThreeWay, 1, {2, 3, 4}), 2, 3)});
-  EXPECT_EQ(Counts(world, "Bea"), "3-1-0/2");
-  EXPECT_EQ(Counts(world, "Ash"), "1-1-0/2");
-  EXPECT_EQ(Counts(world, "Cal"), "0-2-0/0");
-  EXPECT_EQ(Counts(world, "Dot"), "0-1-0/0") << "whoever has not won has lost";
-  EXPECT_EQ(Counts(world, "Gus"), "0-0-1/0");
-  EXPECT_EQ(Day(TallyOf(world, "Gus").Last), kGameStart);
-  int ratings = 0;
-  for (const HeldMatch& match : world.Bouts()) ratings += match.Worker[1] == 1 ? match.Rating : 0;
-  EXPECT_EQ(TallyOf(world, "Ash").Ratings, ratings + world.Bouts()[4].Rating);
-}
-
-TEST(Matches, CountADefenceOfWhoeverKeepsTheTitle) {
-  const auto drawn = Won(SegmentOf(kMatch, kSingles, kPlainSingles, {1, 2}), 0, kNoLoser, "Crown");
-  for (const auto& [match, defences] : {std::pair(Singles(1, 2, "Crown"), 1),
-                                        {drawn, 1},
-                                        {Singles(3, 2, "Crown"), 0},
-                                        {Singles(1, 2), 0}}) {
-    World world = House();
-    Hold(world, {match});
-    UpdateReigns(world);
-    int counted = -2;
-    for (const TitleReign& reign : world.Reigns())
-      if (reign.Title == "Crown" && reign.Worker == 1) counted = reign.Defences;
-    EXPECT_EQ(counted, defences);
-  }
-}
-
 TEST(Matches, LoseTheUidOfWhoeverLeavesTheWorldAndKeepHisName) {
   World world = House();
   Hold(world, {Singles(2, 1, "Crown"), Singles(5, 6)});
@@ -258,7 +225,7 @@ TEST(Pieces, AreCutBetweenWordsAndLoseNothing) {
 }
 
 /// A show that has closed with these Segments, rated 10, 20 and so on.
-World Closed(const std::vector<Segment>& segments, const Change<ShowRun>& change = {}) {
+World Closed(const std::vector<Segment>& segments) {
   World world =
       Cast(30).Network("Nine").Show("Fire", DayName(kGameStart), "Nine").Event(3, 2).Game("CWA");
   std::vector<Segment> sheet = segments;
@@ -267,7 +234,6 @@ World Closed(const std::vector<Segment>& segments, const Change<ShowRun>& change
   ShowRun run;
   run.Stage = kShowClosed;
   run.Current = static_cast<int>(sheet.size());
-  if (change) change(run);
   world.ShowRuns().Rewrite({run});
   return world;
 }
@@ -293,26 +259,6 @@ TEST(Recap, TellsEachResultInALine) {
             "8 Interview with Dot 80\n");
   EXPECT_EQ(recap.Best, "Interview with Dot, 80%");
   EXPECT_EQ(recap.Worst, "Bea over Ash, 10%");
-}
-
-TEST(Recap, AddsUpTheSumOfAnEventWithoutItsDarkMatch) {
-  const World world =
-      Closed({Won(MatchOf(kSingles), 1, 2), Won(MatchOf(kSingles), 3, 4)}, [](ShowRun& run) {
-        run.IsEvent = true;
-        run.AnnouncerCharge = -20;
-        run.ExtraBonus = 5;
-        run.LastOverall = 20;
-        run.ProductionCharge = -10;
-        run.ShowSegments = 2;
-        run.ShowSum = 7;
-      });
-  std::string sum;
-  for (const ScoreStep& step : RecapOf(world).Sum)
-    sum += step.Why + " " + std::to_string(step.Change) + "\n";
-  EXPECT_EQ(sum,
-            "The announcer -20\nThe extra of the Event 5\nThe Segments 20\n"
-            "The closing Segment once more 20\nPoor production -10\nTogether 15\n"
-            "Over 2 ratings 7\n");
 }
 
 }  // namespace

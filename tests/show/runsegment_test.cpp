@@ -78,16 +78,6 @@ TEST(RunSegment, TakesSellingBeforeSoftWork) {
             "mean work of Ash 55, Bea 54 +54, Bea sold nothing -16, Bea worked too softly -4");
 }
 
-TEST(RunSegment, TakesATenthOfMatchesOnAFlatNightNotOfTalk) {
-  World world = Tonight(Cast().Promotion("NEW").Worker("Nat").Title("Crown", "Nat").Game("CWA"),
-                        {MatchOf(kSingles), SegmentOf(kInterview, kSingleTalk, 0, {3})});
-  world.Segments()[1].TitleName = "Crown";  // somebody else's is none
-  world.ShowRuns()[1].FlatNight = true;
-  EXPECT_EQ(RunSegment(world, 1, nullptr).Overall, 45);
-  EXPECT_EQ(RunSegment(world, 2, nullptr).Overall, 43);
-  EXPECT_EQ(ShowOf(world).PreviousCrowd, 47) << "talk does not touch it";
-}
-
 /// A Segment of any kind with codes that may be in use, among people who may be there.
 Segment RandomSegment(Dice& dice) {
   const int kind = dice.From(kMatch, kAngle);

@@ -1,8 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "show/runsegment.h"
 #include "show/titlechange.h"
-#include "stage.h"
+#include "showrig.h"
 
 namespace grapplemont::test {
 namespace {
@@ -100,45 +98,6 @@ TEST(ChangeTitle, LeavesChampionsWhoWinOrDraw) {
   ExpectSame(stage.W, before);
 }
 
-TEST(TitleImage, FollowsTheRatingAndItsChampions) {
-  struct Case {
-    std::string_view Title;
-    int Overall, Over1, Over2, Image, ImageAfter, After1, After2;
-    std::string_view Notes;
-  };
-  constexpr std::string_view kUp = "The CWA Crown title has gained in image.";
-  constexpr std::string_view kDown = "The CWA Crown title has lost image.";
-  constexpr Case kCases[] = {
-      {"CWA Crown", 51, 50, 50, 50, 50, 50, 50, ""},
-      {"CWA Crown", 52, 50, 50, 50, 52, 50, 50, kUp},
-      {"CWA Crown", 72, 50, 50, 50, 54, 50, 50, kUp},
-      {"CWA Crown", 50, 50, 50, 57, 57, 50, 50, ""},
-      {"CWA Crown", 50, 50, 50, 58, 56, 50, 50, kDown},
-      {"CWA Crown", 30, 50, 50, 53, 51, 50, 50, kDown},
-      {"CWA Crown", 39, 61, 50, 50, 50, 60, 50, "Ash lost overness from this match. "},
-      {"CWA Crown", 59, 41, 50, 50, 50, 41, 50, ""},
-      {"CWA Crown", 100, 99, 50, 98, 100, 99, 50, kUp},
-      {"CWA Pair", 50, 50, 52, 50, 50, 50, 52, ""},  // 152 / 3 = 50
-      {"CWA Pair", 50, 50, 53, 50, 52, 50, 53, "The CWA Pair titles have gained in image."},
-      {"CWA Pair", 30, 39, 40, 50, 48, 40, 40,
-       "Ash gained overness from this match. The CWA Pair title has lost image."},
-  };
-  for (const Case& c : kCases) {
-    Stage stage(WithTitles());
-    stage.S.Kind = kMatch;
-    stage.S.TitleName = c.Title;
-    stage.Rate(0, 0, c.Overall);
-    stage["Ash"].Over = c.Over1;
-    stage["Bea"].Over = c.Over2;
-    Title& title = Named(stage.W.Titles(), c.Title);
-    title.Image = c.Image;
-    MoveTitleImage(stage.Run);
-    EXPECT_EQ(title.Image, c.ImageAfter) << c.Overall << "/" << c.Over1 << "/" << c.Image;
-    EXPECT_EQ(stage.Overs(2), (std::vector<int>{c.After1, c.After2})) << c.Overall;
-    EXPECT_EQ(stage.Run.Notes, c.Notes) << c.Overall << "/" << c.Over1 << "/" << c.Image;
-  }
-}
-
 TEST(TitleImage, OfAVacantTitleLosesAQuarter) {
   Stage stage(WithTitles());
   Crown(stage).Holder = 0;
@@ -183,48 +142,6 @@ TEST(MatchConsequences, ComeInTheirOrder) {
       "Ash gained overness from this feud ending. Cal gained overness from this feud ending. "
       "Bea gained overness from this feud ending. Dot gained overness from this feud ending. "
       "Bea has sustained an injury as a result of a bad bump! Broken Leg, out for 2 months. ");
-}
-
-TEST(MatchConsequences, OfADrawAreWearAndWhatAGreatMatchLifts) {
-  Stage stage;
-  SetAside(stage);
-  stage.Match(kSingles, {"Bea", "Cal"});
-  stage.Draw(kDoubleDq);
-  stage["Cal"].Over = 90;
-  stage.Rate(100, 100);
-  ScriptDraws(stage.W, {{2, 1}, {2, 2}});
-  MatchConsequences(stage.Run);
-  EXPECT_EQ(stage["Ash"].Condition, 100) << "the number that stands for no loser is nobody";
-  EXPECT_EQ(stage["Bea"].Condition, 96);
-  EXPECT_EQ(stage["Cal"].Condition, 95);
-  EXPECT_EQ(stage.Run.Notes, "Bea gained overness from this match. ");
-}
-
-TEST(MatchConsequences, ReachEveryMemberOfTheWinningSide) {
-  struct Case {
-    int Style, Draws;  // for wear
-    std::vector<int> Morale;
-  };
-  const Case kCases[] = {{kThreeWay, 3, {50, 51, 50, 50, 50, 50, 50, 50}},
-                         {kThreeTeams, 6, {51, 51, 50, 50, 50, 50, 50, 50}},
-                         {kFourOnFour, 8, {51, 51, 51, 51, 50, 50, 50, 50}}};
-  for (const Case& c : kCases) {
-    Stage stage;
-    SetAside(stage);
-    for (Worker& worker : stage.W.Workers()) {
-      worker.Morale = 50;
-      worker.Attitude = 0;
-    }
-    stage.Match(c.Style, {"Ash", "Bea", "Cal", "Dot", "Eli", "Fay", "Gus", "Hal"}, 2);
-    stage.S.Winner = stage.Uid("Bea");
-    stage.Rate(40, 40);
-    const int winners = 8 - static_cast<int>(std::count(c.Morale.begin(), c.Morale.end(), 50));
-    ScriptDraws(stage.W, std::vector<int>(static_cast<std::size_t>(c.Draws + winners), 1));
-    MatchConsequences(stage.Run);
-    std::vector<int> morale;
-    for (const Worker& worker : stage.W.Workers()) morale.push_back(worker.Morale);
-    EXPECT_EQ(morale, c.Morale) << "style " << c.Style;
-  }
 }
 
 TEST(MatchConsequences, OfABattleRoyalAreNone) {

@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
-
-#include "records/angles.h"
 #include "show/turns.h"
+#include "records/angles.h"
 #include "showrig.h"
-#include "stage.h"
 
 namespace grapplemont::test {
 namespace {
@@ -307,16 +304,6 @@ TEST(BookedTurns, OfAnglesAreSomeAlwaysAndSomeOfThePending) {
       for (Worker& worker : booking.W.Workers()) worker.TurnPending = isPending;
       EXPECT_EQ(booking.Turns(), isPending ? c.Pending : c.Always) << "angle " << c.Angle;
     }
-}
-
-TEST(BookedTurns, SkipBoxesThatStayedEmpty) {
-  Booking booking;
-  booking.Talk(kAngle, kAmbush, {"Ash", "Bea"});
-  EXPECT_EQ(booking.Turns(), "");
-  booking.Match(kSingles, {"Ash", "Bea"});
-  booking.Result("Ash", "Bea", kInterference);
-  booking.S.Purpose = purpose1::kTurnRunIn;
-  EXPECT_EQ(booking.Turns(), "");
 }
 
 }  // namespace
