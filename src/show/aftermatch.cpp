@@ -144,7 +144,7 @@ void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
   }
   for (const Showcase& showcase : kShowcases)
     if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom) over += showcase.Gain;
-  ReportOver(run, worker, ChangeOver(worker, over - worker.Over), true);
+  ChangeOverAndTell(run, worker, over - worker.Over);
   worker.Morale = morale;
 }
 

@@ -1,4 +1,5 @@
 #include "records/modVar.h"
+#include "records/segmentparts.h"
 #include "show/legend.h"
 #include "show/overchange.h"
 #include "show/showfeuds.h"
@@ -114,11 +115,6 @@ constexpr EndRule kEndRules[] = {
     {[](const Ended& e) { return e.X > e.Y + kFarAhead; }, {3, 3}, FeudStory::Plain},
 };
 
-bool IsToEnd(const Segment& segment) {
-  return (segment.Style == kSingles && segment.Purpose == purpose1::kEndFeud) ||
-         (segment.Style == kTag && segment.Purpose == purpose2::kEndFeud);
-}
-
 Ended Look(const Feud& feud, bool firstWon) {
   const FeudScore score = FeudWins(feud);
   if (firstWon) return {!feud.Singles, score.Two, score.One, feud.Dirty2, feud.Clean1};
@@ -160,7 +156,7 @@ void PayOff(SegmentRun& run, const Feud& feud, bool firstWon) {
 }  // namespace
 
 void EndFeudByMatch(SegmentRun& run) {
-  if (!IsToEnd(run.Segment)) return;
+  if (PurposeOf(run.Segment).Does != Aim::EndsFeud) return;
   const int slot = FeudSlotOf(run.World, run.Segment, run.Segment.Style == kTag);
   if (slot == 0) return;
   MarkSlot(run, slot);

@@ -16,17 +16,19 @@ int ChangeOver(Worker& worker, int change) {
   return worker.Over - before;
 }
 
-void ReportOver(SegmentRun& run, const Worker& worker, int change, bool isMatch) {
+void ReportOver(SegmentRun& run, const Worker& worker, int change) {
   if (change == 0) return;
   run.Notes += worker.Name.Str() + (change < 0 ? " lost " : " gained ");
   if (run.World.Game().Difficulty == kEasy)
     run.Notes += std::to_string(std::abs(change)) + (change == 1 ? " point of " : " points of ");
   run.Notes += "overness from this ";
-  run.Notes += run.FeudEnding ? "feud ending. " : isMatch ? "match. " : "segment. ";
+  run.Notes += run.FeudEnding               ? "feud ending. "
+               : run.Segment.Kind == kMatch ? "match. "
+                                            : "segment. ";
 }
 
 void ChangeOverAndTell(SegmentRun& run, Worker& worker, int change) {
-  ReportOver(run, worker, ChangeOver(worker, change), run.Segment.Kind == kMatch);
+  ReportOver(run, worker, ChangeOver(worker, change));
 }
 
 namespace {
@@ -76,13 +78,13 @@ void ShiftOverSingles(SegmentRun& run, Worker& winner, Worker& loser) {
   if (isAbove(10) && isClean) --lost;
   if (isAbove(10) && run.Crowd > loser.Over) ++lost;
   lost += PenaltyOf(run, loser, kUnlikeLoser);
-  ReportOver(run, loser, ChangeOver(loser, lost), true);
+  ReportOver(run, loser, ChangeOver(loser, lost));
 
   const bool isLucky = run.World.RandomDraw(5) == kLuck;
   int gained = isAbove(10) && isLucky ? 1 : 0;
   if (isAbove(7) && isClean) ++gained;
   if (isAbove(7) && run.Crowd > winner.Over) ++gained;
-  ReportOver(run, winner, ChangeOver(winner, gained) + penalty, true);
+  ReportOver(run, winner, ChangeOver(winner, gained) + penalty);
 }
 
 void ShiftOverTeams(SegmentRun& run, Worker& winner1, Worker& winner2, Worker& loser1,

@@ -44,10 +44,6 @@ void LookForChampion(Telling& telling) {
   CheckChampion(telling.Run, telling.AtStake);
 }
 
-void HandOverTitle(Telling& telling) {
-  if (telling.AtStake && telling.Run.Segment.Winner != 0) ChangeTitle(telling.Run);
-}
-
 void WriteProse(Telling& telling) {
   if (telling.Memory)
     telling.Report =
@@ -59,26 +55,20 @@ void LimitBoth(SegmentRun& run) {
   run.Crowd.Limit();
 }
 
-void MoveImage(Telling& telling) {
-  if (telling.AtStake) MoveTitleImage(telling.Run);
-}
-
 void GiveVerdict(Telling& telling) {
   if (telling.Memory)
     telling.Verdict = Verdict(telling.Run.World, telling.Run.Segment, telling.Run.Overall);
 }
 
 /// What opens an Event counts for nothing.
-void AddToShow(Telling& telling) {
+void KeepRating(Telling& telling) {
+  const int rating = telling.Run.Overall;
+  telling.Run.Segment.Rating = rating;
   ShowRun& show = telling.Run.Show;
-  show.LastOverall = telling.Run.Overall;
+  show.LastOverall = rating;
   if (show.IsEvent && telling.Number == 1) return;
-  show.ShowSum += telling.Run.Overall;
+  show.ShowSum += rating;
   ++show.ShowSegments;
-}
-
-void StoreRating(SegmentRun& run) {
-  run.Segment.Rating = run.Overall;
 }
 
 // The order is a rule: later steps read what earlier ones left. The champions of the scene are
@@ -86,34 +76,21 @@ void StoreRating(SegmentRun& run) {
 // image and the verdict see the overall rating as it stands in the end. A talk is rated by a crowd
 // that may lie beyond its limits, which only what is shown keeps to.
 constexpr Step kMatchSteps[] = {
-    SetScene,
-    Do<RemarkOnShape>,
-    Do<ScoreMatch>,
-    Do<MatchConsequences>,
-    Do<AddSelling>,
-    Do<AddStiffness>,
-    Do<GainTeamExperience>,
-    LookForChampion,
-    HandOverTitle,
-    WriteProse,
-    Do<ApplyTurns>,
-    Do<LimitBoth>,
-    Do<AddBurnOut>,
-    Do<WeighMatch>,
-    MoveImage,
-    GiveVerdict,
-    AddToShow,
-    Do<StoreRating>,
+    SetScene,        Do<RemarkOnShape>, Do<ScoreMatch>,         Do<MatchConsequences>,
+    Do<AddSelling>,  Do<AddStiffness>,  Do<GainTeamExperience>, LookForChampion,
+    Do<ChangeTitle>, WriteProse,        Do<ApplyTurns>,         Do<LimitBoth>,
+    Do<AddBurnOut>,  Do<WeighMatch>,    Do<MoveTitleImage>,     GiveVerdict,
+    KeepRating,
 };
 
 constexpr Step kInterviewSteps[] = {
-    SetScene,      Do<ScoreInterview>,   WriteProse, Do<ApplyTurns>,  Do<RateTalk>,
-    Do<LimitBoth>, Do<TalkConsequences>, AddToShow,  Do<StoreRating>,
+    SetScene,     Do<ScoreInterview>, WriteProse,           Do<ApplyTurns>,
+    Do<RateTalk>, Do<LimitBoth>,      Do<TalkConsequences>, KeepRating,
 };
 
 constexpr Step kAngleSteps[] = {
     SetScene,     Do<ScoreAngle>, WriteProse,           Do<ApplyTurns>, Do<CapByWriters>,
-    Do<RateTalk>, Do<LimitBoth>,  Do<TalkConsequences>, AddToShow,      Do<StoreRating>,
+    Do<RateTalk>, Do<LimitBoth>,  Do<TalkConsequences>, KeepRating,
 };
 
 std::span<const Step> StepsOf(const Segment& segment) {

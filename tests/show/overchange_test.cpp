@@ -102,7 +102,8 @@ TEST(ReportOver, SaysWhatTheDifficultyAllows) {
     Stage stage;
     stage.W.Game().Difficulty = c.Difficulty;
     stage.Run.FeudEnding = c.FeudEnding;
-    ReportOver(stage.Run, stage["Ash"], c.Change, c.IsMatch);
+    stage.S.Kind = c.IsMatch ? kMatch : kAngle;
+    ReportOver(stage.Run, stage["Ash"], c.Change);
     EXPECT_EQ(stage.Run.Notes, c.Says);
   }
 }
