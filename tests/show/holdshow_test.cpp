@@ -85,43 +85,42 @@ TEST(TheClose, WearsOffPopularityAndSoursStarsAtHome) {
     std::vector<int> Draws;
     int Over, Morale;
     bool Debuted;
-  } rows[] = {
-    {"a star left at home", kMatch, kSingles, 0, 2, 86, {8}, 50, 42, false},
-    {"a midcarder", kMatch, kSingles, 0, kMidcard, 100, {}, 50, 50, false},
-    {"three times", kMatch, kSingles, 3, 1, 100, {2}, 48, 50, true},
-    {"four times", kMatch, kSingles, 4, 1, 100, {3}, 45, 50, true},
-    {"eleven times", kMatch, kSingles, 11, 1, 100, {}, 44, 50, true},
-    {"in interviews", kInterview, 1, 5, kMidcard, 100, {}, 50, 50, false},
-    {"in debut videos", kAngle, 65, 5, kMidcard, 100, {}, 50, 50, false},
-    {"in development", kMatch, kSingles, 5, kDevelopmentDeal, 100, {}, 50, 50, false},
-    for (const auto& row
-         : rows){SCOPED_TRACE(row.What);
-  World world = Promoter()
-                    .Worker("Star",
-                            [&](Worker& w) {
-                              w.Position = row.Position;
-                              w.Condition = row.Condition;
-                              w.Over = w.Morale = 50;
-                              w.Debuted = false;
-                            })
-                    .Game("CWA");
-  const Worker& star = Named(world.Workers(), "Star");
-  for (int number = 1; number <= 11; ++number) {
-    const bool isSeen = number <= row.Rows;
-    world.Segments().Append(isSeen ? SegmentOf(row.Kind, row.Style, 1, {}) : EmptySegment());
-    if (!isSeen) continue;
-    if (row.Kind == kMatch)
-      world.Segments()[number].Other4 = star.Uid;
-    else
-      world.Segments()[number].Worker[0] = star.Uid;
+  } rows[] = {{"a star left at home", kMatch, kSingles, 0, 2, 86, {8}, 50, 42, false},
+              {"a midcarder", kMatch, kSingles, 0, kMidcard, 100, {}, 50, 50, false},
+              {"three times", kMatch, kSingles, 3, 1, 100, {2}, 48, 50, true},
+              {"four times", kMatch, kSingles, 4, 1, 100, {3}, 45, 50, true},
+              {"eleven times", kMatch, kSingles, 11, 1, 100, {}, 44, 50, true},
+              {"in interviews", kInterview, 1, 5, kMidcard, 100, {}, 50, 50, false},
+              {"in debut videos", kAngle, 65, 5, kMidcard, 100, {}, 50, 50, false},
+              {"in development", kMatch, kSingles, 5, kDevelopmentDeal, 100, {}, 50, 50, false}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.What);
+    World world = Promoter()
+                      .Worker("Star",
+                              [&](Worker& w) {
+                                w.Position = row.Position;
+                                w.Condition = row.Condition;
+                                w.Over = w.Morale = 50;
+                                w.Debuted = false;
+                              })
+                      .Game("CWA");
+    const Worker& star = Named(world.Workers(), "Star");
+    for (int number = 1; number <= 11; ++number) {
+      const bool isSeen = number <= row.Rows;
+      world.Segments().Append(isSeen ? SegmentOf(row.Kind, row.Style, 1, {}) : EmptySegment());
+      if (!isSeen) continue;
+      if (row.Kind == kMatch)
+        world.Segments()[number].Other4 = star.Uid;
+      else
+        world.Segments()[number].Worker[0] = star.Uid;
+    }
+    Under(world, false, 50, 1, 50);
+    ScriptDraws(world, row.Draws);
+    CloseShow(world);
+    EXPECT_EQ(row.Over, star.Over);
+    EXPECT_EQ(row.Morale, star.Morale);
+    EXPECT_EQ(row.Debuted, bool(star.Debuted));
   }
-  Under(world, false, 50, 1, 50);
-  ScriptDraws(world, row.Draws);
-  CloseShow(world);
-  EXPECT_EQ(row.Over, star.Over);
-  EXPECT_EQ(row.Morale, star.Morale);
-  EXPECT_EQ(row.Debuted, bool(star.Debuted));
-}
 }
 
 TEST(TheClose, OfAnEventCoolsFeudsAndFadesTitlesThatItDidNotUse) {
