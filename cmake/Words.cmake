@@ -21,7 +21,8 @@ set(tables ${PROJECT_SOURCE_DIR}/words/angles.txt ${PROJECT_SOURCE_DIR}/words/na
            ${PROJECT_SOURCE_DIR}/words/promotions.txt ${PROJECT_SOURCE_DIR}/words/segments.txt)
 set(made ${CMAKE_BINARY_DIR}/tables/words)
 add_custom_command(
-  OUTPUT ${made}/angles.h ${made}/names.h ${made}/promotions.h ${made}/purposes.h ${made}/segments.h
+  OUTPUT ${made}/anglerules.h ${made}/angles.h ${made}/names.h ${made}/promotions.h ${made}/purposes.h
+         ${made}/segments.h
   COMMAND embed-tables ${PROJECT_SOURCE_DIR}/words ${made}
   DEPENDS embed-tables ${tables}
   COMMENT "Reading the tables of words/"

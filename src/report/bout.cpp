@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "report/stages.h"
@@ -6,19 +8,10 @@ namespace grapplemont {
 
 namespace {
 
-Script RowByDraw(Teller& teller, Scripts rows) {
-  return rows[static_cast<std::size_t>(teller.Draw(static_cast<int>(rows.size())) - 1)];
-}
-
 /// A shape and a variant of it; a draw is never a squash.
-Script SinglesRow(Teller& teller, bool isDraw) {
+Script SinglesRow(Teller& teller, Scripts rows, bool isDraw) {
   const int shape = teller.Draw(isDraw ? kShapes - 1 : kShapes), variant = teller.Draw(kVariants);
-  return SinglesScripts()[static_cast<std::size_t>((shape - 1) * kVariants + variant - 1)];
-}
-
-Person* FirstOf(const Teller& teller, char part) {
-  const Party& party = teller.cast.Of(part);
-  return party.People.empty() ? nullptr : party.People[0];
+  return rows[static_cast<std::size_t>((shape - 1) * kVariants + variant - 1)];
 }
 
 }  // namespace
@@ -26,10 +19,10 @@ Person* FirstOf(const Teller& teller, char part) {
 void TellBody(Teller& teller, const BoutRow& bout) {
   Ring ring(teller);
   if (!ring.CanFight()) return;
-  const Person *winner = FirstOf(teller, 'w'), *loser = FirstOf(teller, 'l');
+  const Person *winner = teller.cast.First('w'), *loser = teller.cast.First('l');
   const bool isSingles = bout.Style == kSingles && bout.Type == kPlainSingles;
   const Script row =
-      isSingles ? SinglesRow(teller, winner == nullptr) : RowByDraw(teller, bout.Rows);
+      isSingles ? SinglesRow(teller, bout.Rows, winner == nullptr) : teller.OneOf(bout.Rows);
   ring.Play(row, bout.Spot, winner, loser);
 }
 
@@ -46,14 +39,14 @@ std::string Tally(const Person& one, int falls, const Person& two, int fallsTwo)
 /// the marker.
 void TellIronMan(Teller& teller, const BoutRow& bout) {
   Ring ring(teller);
-  Person *winner = FirstOf(teller, 'w'), *loser = FirstOf(teller, 'l');
+  Person *winner = teller.cast.First('w'), *loser = teller.cast.First('l');
   const bool canTell = ring.CanFight() && winner && loser;
   int won = 0, lost = 0;
   const int each = canTell ? teller.Draw(3) - 1 : 0;
   while (won + lost < 2 * each) {
     const bool winners = lost == each || (won < each && teller.Draw(2) == 1);
     Person *taker = winners ? winner : loser, *giver = winners ? loser : winner;
-    ring.Play(RowByDraw(teller, bout.Rows), bout.Spot, taker, giver);
+    ring.Play(teller.OneOf(bout.Rows), bout.Spot, taker, giver);
     ++(winners ? won : lost);
     teller.Act(taker, giver);
     teller.cast.Set(Item::Tally, Tally(*winner, won, *loser, lost));
@@ -61,7 +54,7 @@ void TellIronMan(Teller& teller, const BoutRow& bout) {
     teller.Paragraph();
   }
   if (canTell) {
-    ring.Play(RowByDraw(teller, bout.Rows), bout.Spot, winner, loser);
+    ring.Play(teller.OneOf(bout.Rows), bout.Spot, winner, loser);
     teller.Say(Family::Spot, kClockSpot);
     teller.cast.Set(Item::Tally, Tally(*winner, won + 1, *loser, lost));
   }
@@ -107,21 +100,17 @@ Family FinisherFamily(FinisherType type) {
 
 /// One of the winner's two finishing moves, by a draw where they have both. True for a hold.
 bool TellFinisher(Teller& teller) {
-  const Party &winner = teller.cast.Of('w'), &loser = teller.cast.Of('l');
-  if (winner.Empty() || loser.Empty()) return false;
-  const Worker* worker = teller.world.FindWorker(winner.People[0]->Uid);
+  Person *winner = teller.cast.First('w'), *loser = teller.cast.First('l');
+  if (!winner || !loser) return false;
+  const Worker* worker = teller.world.FindWorker(winner->Uid);
+  const auto moveIn = [&](int slot) { return slot == 1 ? worker->Finisher1 : worker->Finisher2; };
   std::vector<int> slots;
   for (const int slot : {1, 2})
-    if (const auto& name = slot == 1 ? worker->Finisher1 : worker->Finisher2;
-        !name.View().empty() && name != "None")
-      slots.push_back(slot);
+    if (!moveIn(slot).View().empty() && moveIn(slot) != "None") slots.push_back(slot);
   if (slots.empty()) return false;
-  const int slot =
-      slots.size() == 1 ? slots[0] : slots[static_cast<std::size_t>(teller.Draw(2) - 1)];
-  std::string move = OneSpaced(slot == 1 ? worker->Finisher1 : worker->Finisher2);
-  if (move.starts_with("The ") || move.starts_with("the ")) move.erase(0, 4);
-  teller.cast.Set(Item::Finisher, move);
-  teller.Act(winner.People[0], loser.People[0]);
+  const int slot = slots.size() == 1 ? slots[0] : teller.OneOf(slots);
+  teller.cast.Set(Item::Finisher, WithoutThe(moveIn(slot)));
+  teller.Act(winner, loser);
   const FinisherType type = FinisherTypeOf(*worker, slot);
   teller.Say(FinisherFamily(type));
   return type == FinisherType::Submission;
@@ -129,8 +118,8 @@ bool TellFinisher(Teller& teller) {
 
 /// The deciding moment, as the stipulation has it.
 void Decide(Teller& teller, const BoutRow& bout, bool byHold) {
-  if (bout.ByTable && !teller.cast.Of('l').Empty()) {
-    teller.Act(teller.cast.Of('w').People[0], teller.cast.Of('l').People[0]);
+  if (Person* loser = teller.cast.First('l'); bout.ByTable && loser) {
+    teller.Act(teller.cast.First('w'), loser);
     teller.Say(Family::TableSpot);
   }
   if (bout.Pinfall) teller.Say(byHold ? Family::TapOut : Family::ThreeCount);
@@ -147,12 +136,13 @@ void TellSmallFinish(Teller& teller, const BoutRow& bout) {
 }
 
 Person* MateOf(Teller& teller, int uid) {
-  const int side = SideOf(teller.segment, uid);
-  if (side == 0) return nullptr;
-  const auto sides = SidesOf(teller.segment);
-  for (const int mate : sides[static_cast<std::size_t>(side - 1)])
-    if (Person* person = mate == uid ? nullptr : teller.cast.Find(teller.world, mate))
-      return person;
+  for (const auto& side : SidesOf(teller.segment)) {
+    if (std::find(side.begin(), side.end(), uid) == side.end()) continue;
+    for (const int mate : side)
+      if (Person* person = mate == uid ? nullptr : teller.cast.Find(teller.world, mate))
+        return person;
+    return nullptr;
+  }
   return nullptr;
 }
 
@@ -162,15 +152,14 @@ void TellTurnFinish(Teller& teller, const BoutRow& bout, int turner) {
   Cast& cast = teller.cast;
   cast.Set('t', cast.Find(teller.world, turner));
   cast.Set('v', MateOf(teller, turner));
-  const bool isDraw = cast.Of('w').Empty(),
-             isWinning = !isDraw && SideOf(teller.segment, turner) ==
-                                        SideOf(teller.segment, teller.segment.Winner);
-  if (isDraw) {
+  if (!cast.First('w')) {
     teller.Say(Family::TurnDraw);
     return;
   }
-  const Party& loser = cast.Of('l');
-  const bool isLoser = !loser.Empty() && loser.People[0]->Uid == turner;
+  const bool isWinning =
+      SideOf(teller.segment, turner) == SideOf(teller.segment, teller.segment.Winner);
+  const Person* loser = cast.First('l');
+  const bool isLoser = loser && loser->Uid == turner;
   if (!isWinning) teller.Say(isLoser ? Family::TurnWalksOut : Family::TurnCosts);
   Decide(teller, bout, isWinning && TellFinisher(teller));
   if (!isWinning) return;
@@ -209,23 +198,6 @@ int TitleBand(const Outcome& is, bool winnerHeld) {
   return is.Present ? kNewChampion : kWonInAbsence;
 }
 
-/// Wins by disqualification or count-out leave a Title where it is.
-bool PassesOn(const Segment& segment) {
-  if (FinishesOf(segment.Style).empty()) return true;
-  switch (segment.Finish) {
-    case kClean:
-    case kInterference:
-    case kBotchedInterference:
-    case kCheating:
-    case kSickBump:
-    case kMiscommunication:
-    case kPartnerTurns:
-      return true;
-    default:
-      return false;
-  }
-}
-
 }  // namespace
 
 void TellFinish(Teller& teller, const BoutRow& bout) {
@@ -233,6 +205,13 @@ void TellFinish(Teller& teller, const BoutRow& bout) {
   if (bout.Style == kThreeOnThree || bout.Style == kFourOnFour)
     return TellLargeFinish(teller, bout);
   if (!teller.cast.Of('w').Empty()) Decide(teller, bout, TellFinisher(teller));
+}
+
+bool PassesTitles(const Segment& segment) {
+  constexpr int kDecisive[] = {kClean,    kInterference,     kBotchedInterference, kCheating,
+                               kSickBump, kMiscommunication, kPartnerTurns};
+  return FinishesOf(segment.Style).empty() ||
+         std::count(std::begin(kDecisive), std::end(kDecisive), int(segment.Finish)) != 0;
 }
 
 void TellTitleEnding(Teller& teller) {
@@ -243,11 +222,12 @@ void TellTitleEnding(Teller& teller) {
   const bool forTeams = title && !title->Singles;
   cast.Of('C') = cast.Of(forTeams ? 'W' : 'w');
   const bool isDraw = cast.Of('C').Empty();
-  bool winnerHeld = false, isPresent = false;
-  for (const Person* person : cast.Of('C').People)
-    if (holder != 0 && person->Uid == holder) winnerHeld = true;
-  for (const int uid : PeopleOf(teller.segment)) isPresent = isPresent || (holder && uid == holder);
-  const bool passesOn = PassesOn(teller.segment);
+  const auto& champions = cast.Of('C').People;
+  const bool winnerHeld =
+      holder != 0 && std::any_of(champions.begin(), champions.end(),
+                                 [&](const Person* person) { return person->Uid == holder; });
+  const bool isPresent = IsEntrant(teller.segment, holder);
+  const bool passesOn = PassesTitles(teller.segment);
   if ((holder == 0 || !isPresent) && (isDraw || !passesOn)) return;
   teller.Say(Family::TitleEnding,
              TitleBand({passesOn, isDraw, holder == 0, isPresent}, winnerHeld));

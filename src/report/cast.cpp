@@ -23,11 +23,10 @@ int LoserOf(const Segment& segment) {
 }
 
 void CastSides(const World& world, const Segment& segment, Cast& cast) {
-  constexpr std::string_view kSides = "FSXY";
   const auto sides = SidesOf(segment);
   if (segment.Style != kSpecial)
-    for (std::size_t i = 0; i < sides.size() && i < kSides.size(); ++i)
-      cast.Set(kSides[i], world, sides[i]);
+    for (std::size_t i = 0; i < sides.size() && i < kSideParts.size(); ++i)
+      cast.Set(kSideParts[i], world, sides[i]);
   const int loser = LoserOf(segment);
   cast.Set('w', cast.Find(world, segment.Winner));
   cast.Set('l', cast.Find(world, loser));
@@ -85,9 +84,14 @@ std::string Capitalised(std::string name) {
 
 }  // namespace
 
-std::string TitleInProse(std::string_view name, bool singles) {
+std::string WithoutThe(std::string_view name) {
   std::string plain = OneSpaced(name);
   if (plain.starts_with("The ") || plain.starts_with("the ")) plain.erase(0, 4);
+  return plain;
+}
+
+std::string TitleInProse(std::string_view name, bool singles) {
+  const std::string plain = WithoutThe(name);
   if (plain.empty()) return {};
   for (const std::string_view word : {"Title", "Titles", "Championship", "Championships", "Crown",
                                       "Crowns", "Belt", "Belts", "Cup", "Trophy"})

@@ -52,6 +52,10 @@ class Cast {
   /// The person of this uid; nullptr for nobody and for a uid that leads nowhere or to no name.
   Person* Find(const World& world, int uid);
 
+  /// The first of a part; nullptr for nobody.
+  Person* First(char part) const {
+    return Of(part).People.empty() ? nullptr : Of(part).People.front();
+  }
   const Party& Of(char part) const { return parties_[Place(part)]; }
   Party& Of(char part) { return parties_[Place(part)]; }
   /// Those of them who are there; a pair takes its team's name.
@@ -82,6 +86,9 @@ class Cast {
   std::array<std::string, std::size(kItems)> things_;
 };
 
+/// The parts of the sides, in their order.
+inline constexpr std::string_view kSideParts = "FSXY";
+
 /// Everybody and everything that a Segment names, and the Titles' and promotion's names.
 Cast CastOf(const World& world, const Segment& segment);
 
@@ -91,6 +98,8 @@ std::string TitleInProse(std::string_view name, bool singles);
 std::string_view WordOfThing(std::string_view name, int row);
 /// Several spaces in a row as one.
 std::string OneSpaced(std::string_view text);
+/// The same, with a "The" in front left out.
+std::string WithoutThe(std::string_view name);
 
 /// Appends a line with its slots filled. A sentence that names a part nobody plays, or a thing that
 /// is not there, is left out. A word or name that begins a sentence gets a capital. False when

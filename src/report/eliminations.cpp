@@ -22,29 +22,19 @@ std::vector<Person*> Booked(Teller& teller, const Ring& ring, const Person* winn
   return out;
 }
 
-Script Exchange(Teller& teller) {
-  const Scripts rows = ExchangeScripts();
-  return rows[static_cast<std::size_t>(teller.Draw(static_cast<int>(rows.size())) - 1)];
-}
-
 /// Plays the exchange that ends with the one out, and says who did it.
-Person* PlayOut(Teller& teller, Ring& ring, const BoutRow& bout, Person* out, Person* by) {
+void PlayOut(Teller& teller, Ring& ring, const BoutRow& bout, Person* out, Person* by) {
   if (!by) by = OneOf(teller, ring.Against(out));
-  ring.Play(Exchange(teller), bout.Spot, by, out);
+  ring.Play(teller.OneOf(bout.Rows), bout.Spot, by, out);
   teller.Act(by, out);
-  return by;
-}
-
-char SidePart(const Segment& segment, int uid) {
-  constexpr std::string_view kSides = "FSXY";
-  const int side = SideOf(segment, uid);
-  return side == 0 ? 'F' : kSides[static_cast<std::size_t>(side - 1)];
 }
 
 /// The side of the one who was pinned, under the letter that the lines know.
 void SayTeamOut(Teller& teller, const Person* out) {
+  const int side = SideOf(teller.segment, out->Uid);
   const Party third = teller.cast.Of('X');
-  teller.cast.Of('X') = Party(teller.cast.Of(SidePart(teller.segment, out->Uid)));
+  teller.cast.Of('X') =
+      Party(teller.cast.Of(kSideParts[static_cast<std::size_t>(std::max(side, 1) - 1)]));
   teller.Say(Family::EliminatedTeam);
   teller.cast.Of('X') = third;
 }
@@ -69,7 +59,7 @@ std::vector<Person*> OnePerSide(Teller& teller, const Ring& ring, const Person* 
 
 void TellEliminations(Teller& teller, const BoutRow& bout) {
   Ring ring(teller);
-  Person* winner = teller.cast.Of('w').Empty() ? nullptr : teller.cast.Of('w').People[0];
+  Person* winner = teller.cast.First('w');
   if (!winner || !ring.CanFight()) return;
   const auto out = OnePerSide(teller, ring, winner);
   for (Person* person : out) {
@@ -90,7 +80,7 @@ void TellEliminations(Teller& teller, const BoutRow& bout) {
 
 void TellSurvivor(Teller& teller, const BoutRow& bout) {
   Ring ring(teller);
-  Person* winner = teller.cast.Of('w').Empty() ? nullptr : teller.cast.Of('w').People[0];
+  Person* winner = teller.cast.First('w');
   const auto out = Booked(teller, ring, winner);
   for (Person* person : out) {
     const auto rivals = ring.Against(person);
@@ -123,10 +113,8 @@ constexpr int kTryOneIn = 4;
 /// end.
 class Melee {
  public:
-  explicit Melee(Teller& teller) : teller_(teller) {
-    winner_ = First('w');
-    loser_ = First('l');
-  }
+  explicit Melee(Teller& teller)
+      : teller_(teller), winner_(teller.cast.First('w')), loser_(teller.cast.First('l')) {}
 
   bool HasEnd() const { return winner_ && loser_; }
   int Count() const { return static_cast<int>(in_.size()); }
@@ -134,14 +122,14 @@ class Melee {
 
   /// One goes, of those who may. False when only the last two are in.
   bool OneOut() {
-    Person* out = OneOf(teller_, MayGo());
+    Person* out = OneOf(teller_, InBut(winner_, loser_));
     if (!out) return false;
-    Throw(OneOf(teller_, Others(out)), out);
+    Throw(OneOf(teller_, InBut(out, out)), out);
     return true;
   }
 
   void Throw(Person* by, Person* out) {
-    in_.erase(std::remove(in_.begin(), in_.end(), out), in_.end());
+    std::erase(in_, out);
     teller_.cast.Set(Item::No, std::to_string(++out_));
     teller_.Act(by, out);
     teller_.Say(Family::Elimination);
@@ -151,7 +139,7 @@ class Melee {
   void Scuffle() {
     if (Count() < 2) return;
     Person* one = OneOf(teller_, in_);
-    Person* two = OneOf(teller_, Others(one));
+    Person* two = OneOf(teller_, InBut(one, one));
     teller_.Act(one, two);
     if (teller_.Draw(kTryOneIn) == 1)
       teller_.Say(Family::EliminationTry);
@@ -175,36 +163,20 @@ class Melee {
   }
 
  private:
-  Person* First(char part) const {
-    const Party& party = teller_.cast.Of(part);
-    return party.People.empty() ? nullptr : party.People[0];
-  }
-  std::vector<Person*> MayGo() const {
-    std::vector<Person*> may;
-    for (Person* person : in_)
-      if (person != winner_ && person != loser_) may.push_back(person);
-    return may;
-  }
-  std::vector<Person*> Others(const Person* person) const {
-    std::vector<Person*> others;
-    for (Person* other : in_)
-      if (other != person) others.push_back(other);
-    return others;
+  std::vector<Person*> InBut(const Person* one, const Person* other) const {
+    std::vector<Person*> some = in_;
+    std::erase_if(some, [&](const Person* each) { return each == one || each == other; });
+    return some;
   }
 
   Teller& teller_;
-  Person *winner_ = nullptr, *loser_ = nullptr;
+  Person *winner_, *loser_;
   std::vector<Person*> in_;
   int out_ = 0;
 };
 
 std::vector<Person*> Entrants(Teller& teller) {
-  std::vector<Person*> entrants;
-  for (const int uid : PeopleOf(teller.segment))
-    if (Person* person = teller.cast.Find(teller.world, uid);
-        person && std::find(entrants.begin(), entrants.end(), person) == entrants.end())
-      entrants.push_back(person);
-  return entrants;
+  return teller.cast.Together(teller.world, PeopleOf(teller.segment)).People;
 }
 
 /// Down to the last two, and then the end.

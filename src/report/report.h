@@ -18,7 +18,6 @@ std::string_view VoiceName(int voice);
 
 /// What the report knows beside the Segment itself.
 struct Scene {
-  bool IsEvent = false;
   int Champion = 0;               // who held the Title at stake when the bell rang; 0 for nobody
   int CoChampion = 0;             // the other half of a tag champion
   std::vector<int> Turners = {};  // uids of all whom the booking makes turn

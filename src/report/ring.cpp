@@ -9,26 +9,17 @@ namespace grapplemont {
 
 namespace {
 
+/// A step that says a line; which line of an offence, what the attacker is best at decides.
 struct StepRow {
   char Step;
   Family Calls;
+  bool IsOffence = false;
 };
-constexpr StepRow kOffence[] = {{'A', Family::OffenceA},
-                                {'B', Family::OffenceB},
-                                {'C', Family::OffenceC},
-                                {'D', Family::OffenceD},
-                                {'E', Family::OffenceE}};
-constexpr StepRow kPlain[] = {{'2', Family::TwoCount},   {'N', Family::NearFall},
-                              {'R', Family::RefBump},    {'P', Family::PinNoRef},
-                              {'L', Family::LadderSpot}, {'W', Family::WeaponSpot},
-                              {'K', Family::TableSpot}};
-
-template <class Rows>
-const StepRow* FindStep(const Rows& rows, char step) {
-  const auto found = std::find_if(std::begin(rows), std::end(rows),
-                                  [&](const StepRow& row) { return row.Step == step; });
-  return found == std::end(rows) ? nullptr : &*found;
-}
+constexpr StepRow kSays[] = {
+    {'A', Family::OffenceA, true}, {'B', Family::OffenceB, true}, {'C', Family::OffenceC, true},
+    {'D', Family::OffenceD, true}, {'E', Family::OffenceE, true}, {'2', Family::TwoCount},
+    {'N', Family::NearFall},       {'R', Family::RefBump},        {'P', Family::PinNoRef},
+    {'L', Family::LadderSpot},     {'W', Family::WeaponSpot},     {'K', Family::TableSpot}};
 
 }  // namespace
 
@@ -100,9 +91,7 @@ int Ring::OtherSide(int side, int notThis) {
   std::vector<int> others;
   for (int i = 0; i < Sides(); ++i)
     if (i != side && (i != notThis || Sides() < 3)) others.push_back(i);
-  return others[others.size() < 2
-                    ? 0
-                    : static_cast<std::size_t>(teller_.Draw(static_cast<int>(others.size())) - 1)];
+  return others.size() == 1 ? others[0] : teller_.OneOf(others);
 }
 
 /// Each counter changes hands once: an even number of them brings the beginner back on top.
@@ -129,10 +118,10 @@ void Ring::Play(std::string_view script, int spot, const Person* last, const Per
 
 void Ring::Step(char step, int spot) {
   Act();
-  if (const StepRow* row = FindStep(kOffence, step)) return teller_.SayOffence(row->Calls);
-  if (const StepRow* row = FindStep(kPlain, step)) {
-    teller_.Say(row->Calls);
-    return;
+  for (const StepRow& row : kSays) {
+    if (row.Step != step) continue;
+    if (row.IsOffence) return teller_.SayOffence(row.Calls);
+    teller_.Say(row.Calls);
   }
   switch (step) {
     case '#':
@@ -183,7 +172,7 @@ void Ring::DoubleTeam() {
 
 Person* OneOf(Teller& teller, const std::vector<Person*>& people) {
   if (people.empty()) return nullptr;
-  return people[static_cast<std::size_t>(teller.Draw(static_cast<int>(people.size())) - 1)];
+  return teller.OneOf(people);
 }
 
 namespace {
@@ -286,6 +275,8 @@ constexpr BoutRow kBouts[] = {
 };
 static_assert(std::size(kBouts) == std::size(kMatchTypes));
 
+constexpr std::string_view kSteps = "ABCDE2N#RPTXLWKS~";
+
 constexpr bool KnowAllSteps() {
   for (const BoutRow& bout : kBouts)
     for (const Script row : bout.Rows)
@@ -296,20 +287,6 @@ constexpr bool KnowAllSteps() {
 static_assert(KnowAllSteps());
 
 }  // namespace
-
-Scripts SinglesScripts() {
-  return kSinglesRows;
-}
-Scripts FallScripts() {
-  return kFallRows;
-}
-Scripts ExchangeScripts() {
-  return kExchangeRows;
-}
-
-std::span<const BoutRow> AllBouts() {
-  return kBouts;
-}
 
 const BoutRow* FindBout(int style, int type) {
   const auto found = std::find_if(std::begin(kBouts), std::end(kBouts), [&](auto& row) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/segmentparts.h"
+#include "storylines/feuds.h"
 
 namespace grapplemont {
 
@@ -25,44 +26,23 @@ char LetterOf(Part part) {
 
 constexpr int kBoilingHeat = 50;
 
-bool IsIn(const Feud& feud, const Person* person) {
-  for (const int uid : {feud.Worker1, feud.Worker2, feud.Worker3, feud.Worker4})
-    if (uid != 0 && uid == person->Uid) return true;
-  return false;
-}
-
-/// 1 or 2 for the side of the feud that the person is on, 0 for none.
-int FeudSideOf(const Feud& feud, const Person* person) {
-  if (!IsIn(feud, person)) return 0;
-  if (feud.Singles) return person->Uid == feud.Worker1 ? 1 : 2;
-  return person->Uid == feud.Worker1 || person->Uid == feud.Worker2 ? 1 : 2;
-}
-
 bool SetsApart(const Feud& feud, const Party& one, const Party& two) {
+  const FeudSides sides = SidesOf(feud);
   for (const Person* a : one.People)
-    for (const Person* b : two.People) {
-      const int sideA = FeudSideOf(feud, a), sideB = FeudSideOf(feud, b);
-      if (sideA != 0 && sideB != 0 && sideA != sideB) return true;
-    }
+    for (const Person* b : two.People)
+      if ((sides.One.Has(a->Uid) && sides.Two.Has(b->Uid)) ||
+          (sides.Two.Has(a->Uid) && sides.One.Has(b->Uid)))
+        return true;
   return false;
-}
-
-bool TakesPartAsEntrant(const Teller& teller, int uid) {
-  const auto people = PeopleOf(teller.segment);
-  return uid != 0 && std::find(people.begin(), people.end(), uid) != people.end();
 }
 
 void TellStake(Teller& teller) {
-  const int holder = teller.scene.Champion;
-  if (holder == 0) {
-    teller.Say(Family::TitleOpening, kVacant);
-  } else if (!TakesPartAsEntrant(teller, holder)) {
-    teller.Say(Family::TitleOpening, kChampionAway);
-  } else {
-    const int partner = teller.scene.CoChampion;
-    teller.cast.Set('c', teller.world, {holder, TakesPartAsEntrant(teller, partner) ? partner : 0});
-    teller.Say(Family::TitleOpening, kDefended);
-  }
+  const int holder = teller.scene.Champion, partner = teller.scene.CoChampion;
+  TitleStake stake = kVacant;
+  if (holder != 0) stake = IsEntrant(teller.segment, holder) ? kDefended : kChampionAway;
+  if (stake == kDefended)
+    teller.cast.Set('c', teller.world, {holder, IsEntrant(teller.segment, partner) ? partner : 0});
+  teller.Say(Family::TitleOpening, stake);
 }
 
 /// Both halves of a tag champion have to be there, side by side.
@@ -122,6 +102,11 @@ void SayFeud(Teller& teller, const FeudOfSides& feud, Family family, int band) {
   cast.Of('S') = second;
 }
 
+bool IsEntrant(const Segment& segment, int uid) {
+  const auto people = PeopleOf(segment);
+  return uid != 0 && std::find(people.begin(), people.end(), uid) != people.end();
+}
+
 void TellOpening(Teller& teller) {
   const Segment& segment = teller.segment;
   if (FindMatchType(segment.Style, segment.MatchType))
@@ -146,28 +131,18 @@ void TellPurpose(Teller& teller, const PurposeRow& purpose) {
     TurnOf(teller, LetterOf(purpose.Whom));
     if (teller.cast.Of('t').Empty()) return;
   }
-  switch (purpose.Does) {
-    case Aim::GoodMatch:
-      teller.Say(Family::PurposeEnding, kGoodMatchTold);
-      break;
-    case Aim::PutsOver:
-      teller.Say(Family::PurposeEnding, kPutOverTold);
-      break;
-    case Aim::BothOver:
-      teller.Say(Family::PurposeEnding, kBothOverTold);
-      break;
-    case Aim::EyeCandy:
-      teller.Say(Family::PurposeEnding, kEyeCandyTold);
-      break;
-    case Aim::Debuts:
-      if (IsRunIn(purpose.Whom)) teller.Say(Family::PurposeEnding, kRunInDebutTold);
-      break;
-    case Aim::Turns:
-      TellTurn(teller);
-      break;
-    default:
-      break;
-  }
+  constexpr struct {
+    Aim Does;
+    PurposeTold Told;
+  } kEndings[] = {{Aim::GoodMatch, kGoodMatchTold},
+                  {Aim::PutsOver, kPutOverTold},
+                  {Aim::BothOver, kBothOverTold},
+                  {Aim::EyeCandy, kEyeCandyTold},
+                  {Aim::Debuts, kRunInDebutTold}};
+  if (purpose.Does == Aim::Turns) return TellTurn(teller);
+  if (purpose.Does == Aim::Debuts && !IsRunIn(purpose.Whom)) return;
+  for (const auto& ending : kEndings)
+    if (purpose.Does == ending.Does) teller.Say(Family::PurposeEnding, ending.Told);
 }
 
 /// The turns that a tag match's finish and aftermath name.

@@ -16,6 +16,9 @@ FeudOfSides FeudTold(Teller& teller);
 /// Says a line of the feud, with {F} and {S} for its two sides.
 void SayFeud(Teller& teller, const FeudOfSides& feud, Family family, int band);
 
+/// Whether the worker is one of those who fight.
+bool IsEntrant(const Segment& segment, int uid);
+
 // The stages of a report, in the order in which a match passes through them.
 
 /// Who fights whom and what for: the match itself, the Title, a feud, a champion, a debut.
@@ -24,6 +27,8 @@ void TellOpening(Teller& teller);
 void TellBody(Teller& teller, const BoutRow& bout);
 /// How the booked result comes about.
 void TellFinish(Teller& teller, const BoutRow& bout);
+/// Whether a win takes a Title along: by disqualification or count-out it stays where it is.
+bool PassesTitles(const Segment& segment);
 /// What becomes of the Title.
 void TellTitleEnding(Teller& teller);
 /// After the bell: the aftermath, turns, what the match was booked for, the feud.

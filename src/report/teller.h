@@ -28,6 +28,11 @@ class Teller {
 
   /// A draw for the prose.
   int Draw(int n) { return world.Prose().Draw(n); }
+  /// One of these by a draw. Requires one.
+  template <class Some>
+  const auto& OneOf(const Some& some) {
+    return some[static_cast<std::size_t>(Draw(static_cast<int>(some.size())) - 1)];
+  }
   /// Sets {a} and {d}.
   void Act(Person* attacker, Person* defender);
 

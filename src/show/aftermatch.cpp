@@ -64,28 +64,11 @@ int MoraleFrom(int attitude, int matchLevel, int workerLevel) {
   return 0;
 }
 
-}  // namespace
-
-void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
-  const int matchLevel = WeighRating(run.Quality, run.Crowd) + kMatchAhead;
-  const int workerLevel = WeighRating(BestSkill(worker), worker.Over);
-  int over = worker.Over, morale = worker.Morale;
-  if (isWinner) {
-    morale += run.World.RandomDraw(kWinnersJoy);
-  } else {
-    const CardPull pull = CheckCardPosition(run.World, worker);
-    over += pull.Over;
-    morale += pull.Morale;
-    WearOut(run, worker);
-    morale += MoraleFrom(worker.Attitude, matchLevel, workerLevel);
-  }
-  for (const Showcase& showcase : kShowcases)
-    if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom) over += showcase.Gain;
-  ReportOver(run, worker, ChangeOver(worker, over - worker.Over), true);
-  worker.Morale = morale;
-}
-
-namespace {
+/// What their place on the card does to a worker. The numbers may leave 0..100.
+struct CardPull {
+  int Over = 0;
+  int Morale = 0;
+};
 
 constexpr int kMoods = 6;
 constexpr int kMoodToWrite = 2;
@@ -133,8 +116,8 @@ CardPull HeldTooLow(World& world, const Worker& worker, int fit, int mood) {
   return pull;
 }
 
-}  // namespace
-
+/// Compares the worker's place with the one that fits, tells the player by mail, and gives what
+/// follows for the worker. Draws once; does nothing for a manager or non-wrestler.
 CardPull CheckCardPosition(World& world, const Worker& worker) {
   if (worker.Position == kNonWrestler || worker.Position == kManager) return {};
   const int fit = FittingPosition(world.Player().Size, worker.Over);
@@ -142,6 +125,27 @@ CardPull CheckCardPosition(World& world, const Worker& worker) {
   if (worker.Position < fit) return PushedTooHigh(world, worker, fit, mood);
   if (worker.Position > fit) return HeldTooLow(world, worker, fit, mood);
   return {};
+}
+
+}  // namespace
+
+void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
+  const int matchLevel = WeighRating(run.Quality, run.Crowd) + kMatchAhead;
+  const int workerLevel = WeighRating(BestSkill(worker), worker.Over);
+  int over = worker.Over, morale = worker.Morale;
+  if (isWinner) {
+    morale += run.World.RandomDraw(kWinnersJoy);
+  } else {
+    const CardPull pull = CheckCardPosition(run.World, worker);
+    over += pull.Over;
+    morale += pull.Morale;
+    WearOut(run, worker);
+    morale += MoraleFrom(worker.Attitude, matchLevel, workerLevel);
+  }
+  for (const Showcase& showcase : kShowcases)
+    if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom) over += showcase.Gain;
+  ChangeOverAndTell(run, worker, over - worker.Over);
+  worker.Morale = morale;
 }
 
 namespace {
@@ -182,18 +186,14 @@ void BreakSomething(World& world, Worker& worker) {
            worker.InjuryName, worker.StatusMonths);
 }
 
-void Injure(SegmentRun& run, Worker& worker) {
-  if (worker.Status == "Inj") return;
-  BreakSomething(run.World, worker);
-  run.Notes += worker.Name.Str() + " has sustained an injury as a result of a bad bump! " +
-               StatusLine(worker) + ". ";
-}
-
 void DrawInjuries(SegmentRun& run) {
   for (const int uid : PeopleOf(run.Segment)) {
     Worker* worker = run.World.FindWorker(uid);
     const int odds = worker ? OddsOf(run, *worker) : 0;
-    if (odds > 0 && run.World.RandomDraw(odds) == 1) Injure(run, *worker);
+    if (odds == 0 || run.World.RandomDraw(odds) != 1 || worker->Status == "Inj") continue;
+    BreakSomething(run.World, *worker);
+    run.Notes += worker->Name.Str() + " has sustained an injury as a result of a bad bump! " +
+                 StatusLine(*worker) + ". ";
   }
 }
 
@@ -227,10 +227,11 @@ constexpr Complaint kComplaints[] = {
 void HurtOthers(SegmentRun& run, const Worker& stiff) {
   const int partner = PartnerOf(run.Segment, stiff.Uid);
   for (std::size_t place = 0; place < std::size(kComplaints); ++place) {
-    const int uid =
-        static_cast<int>(place) < EntrantsOf(run.Segment) ? run.Segment.Worker[place] : 0;
+    const int uid = run.Segment.Worker[place];
     Worker* hurt = run.World.FindWorker(uid);
-    if (!hurt || uid == stiff.Uid || uid == partner) continue;
+    if (static_cast<int>(place) >= EntrantsOf(run.Segment) || !hurt || uid == stiff.Uid ||
+        uid == partner)
+      continue;
     const int blow = run.World.RandomDraw(kHardestBlow);
     hurt->Condition -= blow;
     if (blow < kHardestBlow) continue;

@@ -15,12 +15,11 @@ namespace grapplemont {
 namespace {
 
 /// People by tenths of the image, from below 10 to 90 up.
+using Bands = std::array<int, 10>;
 struct CrowdRow {
-  std::array<int, 10> Base;
-  std::array<int, 10> Draw;
+  Bands Base, Draw;
 };
 using CrowdsBySize = std::array<CrowdRow, 6>;
-using Bands = std::array<int, 10>;
 
 constexpr Bands Each(int value) {
   Bands bands{};
@@ -107,10 +106,6 @@ constexpr PriceStep kPriceSteps[] = {{-5, 110}, {-10, 125}, {5, 90},  {10, 80},
 constexpr int kAnyPrice = std::numeric_limits<int>::max();
 constexpr std::array<int, 6> kNobodysPrice = {kAnyPrice, kAnyPrice, 71, 51, 26, 16};
 
-bool LiesBeyond(int off, int step) {
-  return step < 0 ? off < step : off > step;
-}
-
 BaseAndDraw InBand(const CrowdRow& row, int image) {
   const auto band = static_cast<std::size_t>(std::clamp(image / 10, 0, 9));
   return {row.Base[band], row.Draw[band]};
@@ -122,7 +117,7 @@ std::string PriceInWords(int off) {
 
 int PeopleAtPrice(int people, int off) {
   for (const PriceStep& step : kPriceSteps)
-    if (LiesBeyond(off, step.Off)) people = PercentOf(people, step.Percent);
+    if (step.Off < 0 ? off < step.Off : off > step.Off) people = PercentOf(people, step.Percent);
   return people;
 }
 
@@ -204,19 +199,15 @@ constexpr std::array<std::span<const RateBand>, 4> kBuyRates = {kGlobalRates, kN
 constexpr EconomyFactor kBuyRateEconomy[] = {{20, 29, 90}, {10, 19, 80}, {kAnyLow, 9, 70}};
 constexpr int kDollarsPerBuy = 25000;
 
-// By size from Global to Small; by the image up to 20, 30 and so on to 100.
-struct RatingRow {
-  std::array<int, 9> Base;
-  std::array<int, 9> Draw;
-};
-constexpr std::array<RatingRow, 5> kTvRatings = {{
-    {{540, 560, 580, 600, 640, 680, 720, 760, 800}, {10, 10, 10, 10, 10, 10, 10, 10, 10}},
-    {{300, 330, 360, 390, 420, 450, 480, 500, 520}, {10, 10, 10, 10, 10, 10, 10, 10, 10}},
-    {{140, 160, 180, 200, 220, 240, 260, 280, 300}, {10, 10, 10, 10, 10, 10, 10, 10, 10}},
-    {{40, 50, 60, 70, 80, 90, 100, 120, 140}, {10, 10, 10, 10, 10, 10, 10, 10, 10}},
-    {{1, 2, 4, 6, 8, 9, 10, 20, 30}, {2, 2, 5, 5, 5, 5, 5, 5, 5}},
+// By size; by the image from 11, 21 and so on, a little later than the crowds.
+constexpr CrowdsBySize kTvRatings = {{
+    {{540, 540, 560, 580, 600, 640, 680, 720, 760, 800}, Each(10)},
+    {{300, 300, 330, 360, 390, 420, 450, 480, 500, 520}, Each(10)},
+    {{140, 140, 160, 180, 200, 220, 240, 260, 280, 300}, Each(10)},
+    {{40, 40, 50, 60, 70, 80, 90, 100, 120, 140}, Each(10)},
+    {{1, 1, 2, 4, 6, 8, 9, 10, 20, 30}, {2, 2, 2, 5, 5, 5, 5, 5, 5, 5}},
+    {Each(1), Each(2)},
 }};
-constexpr BaseAndDraw kBackyardRating = {1, 2};
 
 constexpr EconomyFactor kViewerEconomy[] = {
     {91, kAnyHigh, 120}, {81, 90, 110}, {10, 19, 90}, {kAnyLow, 9, 80}};
@@ -231,13 +222,9 @@ BaseAndDraw BuyRateBase(int size, int image) {
   return above == bands.begin() ? bands.front().Rate : above[-1].Rate;
 }
 
-int BuyRateByEconomy(int rate, int economy) {
-  return ByEconomy(rate, kBuyRateEconomy, economy);
-}
-
 int BuyRate(World& world, const Promotion& promotion) {
-  return BuyRateByEconomy(Drawn(world, BuyRateBase(promotion.Size, promotion.Image)),
-                          world.Game().Economy);
+  return ByEconomy(Drawn(world, BuyRateBase(promotion.Size, promotion.Image)), kBuyRateEconomy,
+                   world.Game().Economy);
 }
 
 int PpvIncome(int buyRate) {
@@ -245,18 +232,12 @@ int PpvIncome(int buyRate) {
 }
 
 BaseAndDraw TvRatingBase(int size, int image) {
-  if (size >= kBackyard) return kBackyardRating;
-  const RatingRow& row = kTvRatings[static_cast<std::size_t>(std::max(size, int(kGlobal)) - 1)];
-  const auto band = static_cast<std::size_t>(std::clamp((image - 1) / 10 - 1, 0, 8));
-  return {row.Base[band], row.Draw[band]};
-}
-
-int TvRatingByEconomy(int rating, int size, int economy) {
-  return size >= kBackyard ? rating : ByEconomy(rating, kViewerEconomy, economy);
+  return InBand(BySize(kTvRatings, size), image - 1);
 }
 
 int TvBaseRating(World& world, int size, int image) {
-  return TvRatingByEconomy(Drawn(world, TvRatingBase(size, image)), size, world.Game().Economy);
+  const int rating = Drawn(world, TvRatingBase(size, image));
+  return size >= kBackyard ? rating : ByEconomy(rating, kViewerEconomy, world.Game().Economy);
 }
 
 }  // namespace grapplemont

@@ -1,6 +1,5 @@
-#include "show/feudend.h"
-
 #include "records/modVar.h"
+#include "records/segmentparts.h"
 #include "show/legend.h"
 #include "show/overchange.h"
 #include "show/showfeuds.h"
@@ -99,7 +98,7 @@ struct Payout {
 /// The first that fits is paid and written about.
 struct EndRule {
   bool (*Fits)(const Ended&);
-  Payout Singles, Teams;
+  Payout Pays;
   FeudStory Story;
 };
 constexpr int kFarAhead = 5;
@@ -108,29 +107,13 @@ constexpr EndRule kEndRules[] = {
        return e.X > e.Y + kFarAhead && e.Y == 1 && e.CleanY == 1 && e.CheapX >= 4;
      },
      {7, 7},
-     {7, 7},
      FeudStory::Comeback},
-    {[](const Ended& e) { return e.X + e.Y > (e.IsTeams ? 13 : 12); },
-     {4, 7},
-     {4, 7},
-     FeudStory::Long},
-    {[](const Ended& e) { return e.X == e.Y; }, {4, 4}, {3, 3}, FeudStory::Plain},
-    {[](const Ended& e) { return e.Y > e.X + kFarAhead; }, {-7, 4}, {-7, 4}, FeudStory::Rout},
-    {[](const Ended& e) { return e.X > e.Y + kFarAhead; }, {3, 3}, {3, 3}, FeudStory::Plain},
+    {[](const Ended& e) { return e.X + e.Y > (e.IsTeams ? 13 : 12); }, {4, 7}, FeudStory::Long},
+    {[](const Ended& e) { return e.X == e.Y && !e.IsTeams; }, {4, 4}, FeudStory::Plain},
+    {[](const Ended& e) { return e.X == e.Y; }, {3, 3}, FeudStory::Plain},
+    {[](const Ended& e) { return e.Y > e.X + kFarAhead; }, {-7, 4}, FeudStory::Rout},
+    {[](const Ended& e) { return e.X > e.Y + kFarAhead; }, {3, 3}, FeudStory::Plain},
 };
-
-/// The slot of the feud that the match is fought in: for teams a feud of teams alone, whole pair
-/// against whole pair.
-int BlowOffSlot(const World& world, const Segment& segment) {
-  const auto& w = segment.Worker;
-  return segment.Style == kSingles ? FeudSlotOf(world, w[0], w[1])
-                                   : FeudSlotOfTeams(world, w[0], w[1], w[2], w[3]);
-}
-
-bool IsToEnd(const Segment& segment) {
-  return (segment.Style == kSingles && segment.Purpose == purpose1::kEndFeud) ||
-         (segment.Style == kTag && segment.Purpose == purpose2::kEndFeud);
-}
 
 Ended Look(const Feud& feud, bool firstWon) {
   const FeudScore score = FeudWins(feud);
@@ -150,9 +133,7 @@ Payout PayoutOf(const Feud& feud, const EndRule* rule) {
     payout.X += kNoCheapWins;
     payout.Y += kNoCheapWins;
   }
-  if (!rule) return payout;
-  const Payout& ruled = feud.Singles ? rule->Singles : rule->Teams;
-  return {payout.X + ruled.X, payout.Y + ruled.Y};
+  return rule ? Payout{payout.X + rule->Pays.X, payout.Y + rule->Pays.Y} : payout;
 }
 
 void Pay(SegmentRun& run, const FeudSide& side, int change) {
@@ -175,10 +156,10 @@ void PayOff(SegmentRun& run, const Feud& feud, bool firstWon) {
 }  // namespace
 
 void EndFeudByMatch(SegmentRun& run) {
-  if (!IsToEnd(run.Segment)) return;
-  const int slot = BlowOffSlot(run.World, run.Segment);
+  if (PurposeOf(run.Segment).Does != Aim::EndsFeud) return;
+  const int slot = FeudSlotOf(run.World, run.Segment, run.Segment.Style == kTag);
   if (slot == 0) return;
-  run.Show.FeudTouched[static_cast<std::size_t>(slot - 1)] = true;
+  MarkSlot(run, slot);
   Feud& feud = run.World.Feuds()[slot];
   const FeudScore score = FeudWins(feud);
   run.FeudEnding = true;

@@ -106,7 +106,7 @@ class Rehearsals {
 };
 
 bool IsAnythingBooked(const World& world, bool isEvent) {
-  for (int number = 1; number <= std::min(RowsOf(isEvent), world.Segments().Count()); ++number)
+  for (int number = 1; number <= LastRow(world, isEvent); ++number)
     if (world.Segments()[number].Kind != kEmptySegment) return true;
   return false;
 }
@@ -129,7 +129,7 @@ void WarnOfTable(const World& world, const CommentaryTeam& team,
 /// Each worker of the card once, in the order of the file, with what speaks against them.
 void WarnOfWorkers(const World& world, bool isEvent, std::vector<std::string>& warnings) {
   std::map<int, int> seen;
-  for (int number = 1; number <= std::min(RowsOf(isEvent), world.Segments().Count()); ++number) {
+  for (int number = 1; number <= LastRow(world, isEvent); ++number) {
     const Segment& segment = world.Segments()[number];
     const std::vector<int> people = PeopleOf(segment);
     if (segment.Kind == kMatch || segment.Kind == kAngle)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 #include "business/tvshows.h"
 #include "records/angles.h"
@@ -44,18 +45,19 @@ const Event* EventOfToday(const World& world) {
 }
 
 std::string ShowName(const World& world, bool isEvent) {
-  if (isEvent) {
-    const Event* event = EventOfToday(world);
-    return event ? event->Name.Str() : std::string();
-  }
-  const Show* show = ShowOfToday(world);
-  return show ? show->Name.Str() : std::string();
+  const Event* event = isEvent ? EventOfToday(world) : nullptr;
+  const Show* show = isEvent ? nullptr : ShowOfToday(world);
+  return event ? event->Name.Str() : show ? show->Name.Str() : std::string();
+}
+
+int LastRow(const World& world, bool isEvent) {
+  return std::min(RowsOf(isEvent), world.Segments().Count());
 }
 
 CommentaryTeam TvTeam(const World& world) {
   const Show* show = ShowOfToday(world);
-  if (!show) return {};
-  return {show->Announcer, show->Colour, show->ColourIsWorker};
+  return show ? CommentaryTeam{show->Announcer, show->Colour, show->ColourIsWorker}
+              : CommentaryTeam{};
 }
 
 std::string AnnouncerName(const World& world, const CommentaryTeam& team) {
@@ -107,7 +109,7 @@ bool IsPassedOver(const World& world, const Segment& segment) {
 int NextSegment(const World& world) {
   const ShowRun* run = ShowUnderWay(world);
   if (!run || run->Stage != kShowRuns) return 0;
-  const int last = std::min(RowsOf(run->IsEvent), world.Segments().Count());
+  const int last = LastRow(world, run->IsEvent);
   for (int number = std::max(0, int(run->Current)) + 1; number <= last; ++number) {
     const Segment& segment = world.Segments()[number];
     if (segment.Style != 0 && !IsPassedOver(world, segment)) return number;
@@ -126,6 +128,79 @@ ToldSegment RunNextSegment(World& world, LineMemory* memory) {
   return told;
 }
 
+namespace {
+
+/// A match, or an angle in which its people are there in person; interviews do not wear anybody
+/// out.
+bool Shows(const Segment& segment) {
+  if (segment.Kind == kMatch) return true;
+  return segment.Kind == kAngle && segment.Style != kWorkerDebutVideo &&
+         segment.Style != kTeamDebutVideo;
+}
+
+int Appearances(const World& world, int uid, bool isEvent) {
+  int count = 0;
+  for (int number = 1; number <= LastRow(world, isEvent); ++number)
+    if (const Segment& segment = world.Segments()[number];
+        Shows(segment) && TakesPart(segment, uid))
+      ++count;
+  return count;
+}
+
+void TakeOverexposure(World& world, Worker& worker, int appearances) {
+  if (appearances == 3) worker.Over -= world.RandomDraw(2);
+  if (appearances == 4) worker.Over -= 2 + world.RandomDraw(3);
+  if (appearances >= 5) worker.Over -= 6;
+}
+
+void FeelLeftOut(World& world, Worker& worker) {
+  if (worker.Position < kMidcard && worker.Condition >= 86) worker.Morale -= world.RandomDraw(8);
+}
+
+bool WasAtStake(const World& world, const Title& title) {
+  for (int number = 1; number <= LastRow(world, true); ++number)
+    if (const Segment& segment = world.Segments()[number];
+        segment.Kind == kMatch && segment.TitleName == title.Name)
+      return true;
+  return false;
+}
+
+/// Overexposure and rest: Over of who was seen three times and more, Morale of stars who were left
+/// at home, and the debuts.
+void AfterShow(World& world, bool isEvent) {
+  for (Worker& worker : world.Workers()) {
+    if (!WorksForPlayer(world, worker) || worker.Position == kDevelopmentDeal ||
+        worker.Position >= 79)
+      continue;
+    const int appearances = Appearances(world, worker.Uid, isEvent);
+    if (appearances == 0) {
+      FeelLeftOut(world, worker);
+    } else {
+      TakeOverexposure(world, worker, appearances);
+      worker.Debuted = true;
+    }
+  }
+}
+
+/// An Event's: feuds that it did not use may cool. Draws once for each.
+void CoolUnusedFeuds(World& world, const ShowRun& run) {
+  for (int slot = 1; slot <= world.Feuds().Count(); ++slot) {
+    if (run.FeudTouched[static_cast<std::size_t>(slot - 1)]) continue;
+    Feud& feud = world.Feuds()[slot];
+    if (world.RandomDraw(3) == 2) feud.Heat -= feud.Heat / 10;
+  }
+}
+
+/// An Event's: Titles that were not at stake may lose image. Draws once for each.
+void FadeUnusedTitles(World& world) {
+  for (Title& title : world.Titles()) {
+    if (title.Owner != world.PlayerUid() || title.Suspended || WasAtStake(world, title)) continue;
+    if (world.RandomDraw(3) == 1) title.Image = title.Image * 9 / 10;
+  }
+}
+
+}  // namespace
+
 int CloseShow(World& world) {
   ShowRun& run = Run(world);
   run.ProductionCharge = ProductionCharge(world.Player());
@@ -134,7 +209,7 @@ int CloseShow(World& world) {
   run.ShowSum += run.LastOverall;  // the closing Segment counts twice
   run.ShowSegments += 1;
   run.ShowSum = std::clamp(Score::Floor(run.ShowSum, run.ShowSegments), 0, 100);
-  AfterShow(world, RowsOf(run.IsEvent));
+  AfterShow(world, run.IsEvent);
   if (run.IsEvent) FadeUnusedTitles(world);
   run.Stage = kShowClosed;
   world.Session.ShowRating = run.ShowSum;
@@ -163,96 +238,21 @@ void LeaveShow(World& world) {
 
 namespace {
 
-/// A match, or an angle in which its people are there in person; interviews do not wear anybody
-/// out.
-bool Shows(const Segment& segment) {
-  if (segment.Kind == kMatch) return true;
-  return segment.Kind == kAngle && segment.Style != kWorkerDebutVideo &&
-         segment.Style != kTeamDebutVideo;
-}
-
-int Appearances(const World& world, int uid, int rows) {
-  int count = 0;
-  for (int number = 1; number <= std::min(rows, world.Segments().Count()); ++number)
-    if (const Segment& segment = world.Segments()[number];
-        Shows(segment) && TakesPart(segment, uid))
-      ++count;
-  return count;
-}
-
-void TakeOverexposure(World& world, Worker& worker, int appearances) {
-  if (appearances == 3) worker.Over -= world.RandomDraw(2);
-  if (appearances == 4) worker.Over -= 2 + world.RandomDraw(3);
-  if (appearances >= 5) worker.Over -= 6;
-}
-
-void FeelLeftOut(World& world, Worker& worker) {
-  if (worker.Position < kMidcard && worker.Condition >= 86) worker.Morale -= world.RandomDraw(8);
-}
-
-bool WasAtStake(const World& world, const Title& title) {
-  const auto& segments = world.Segments();
-  const int rows = std::min(RowsOf(true), segments.Count());
-  for (int number = 1; number <= rows; ++number)
-    if (segments[number].Kind == kMatch && segments[number].TitleName == title.Name) return true;
-  return false;
-}
-
-}  // namespace
-
-void AfterShow(World& world, int rows) {
-  for (Worker& worker : world.Workers()) {
-    if (!WorksForPlayer(world, worker) || worker.Position == kDevelopmentDeal ||
-        worker.Position >= 79)
-      continue;
-    const int appearances = Appearances(world, worker.Uid, rows);
-    if (appearances == 0) {
-      FeelLeftOut(world, worker);
-    } else {
-      TakeOverexposure(world, worker, appearances);
-      worker.Debuted = true;
-    }
-  }
-}
-
-void CoolUnusedFeuds(World& world, const ShowRun& run) {
-  for (int slot = 1; slot <= world.Feuds().Count(); ++slot) {
-    if (run.FeudTouched[static_cast<std::size_t>(slot - 1)]) continue;
-    Feud& feud = world.Feuds()[slot];
-    if (world.RandomDraw(3) == 2) feud.Heat -= feud.Heat / 10;
-  }
-}
-
-void FadeUnusedTitles(World& world) {
-  for (Title& title : world.Titles()) {
-    if (title.Owner != world.PlayerUid() || title.Suspended || WasAtStake(world, title)) continue;
-    if (world.RandomDraw(3) == 1) title.Image = title.Image * 9 / 10;
-  }
-}
-
-namespace {
-
 /// So much below what the size asks for, and the sum loses so much; every limit passed charges.
 struct Charge {
   int Margin;
   int Amount;
 };
-constexpr std::array<Charge, 4> kAnnouncerCharges = {{{5, 20}, {10, 20}, {20, 20}, {30, 40}}};
-constexpr std::array<Charge, 4> kColourCharges = {{{5, 5}, {10, 10}, {20, 15}, {30, 30}}};
-constexpr std::array<Charge, 5> kProductionCharges = {
-    {{5, 10}, {10, 10}, {20, 10}, {30, 10}, {50, 20}}};
+constexpr Charge kAnnouncerCharges[] = {{5, 20}, {10, 20}, {20, 20}, {30, 40}};
+constexpr Charge kColourCharges[] = {{5, 5}, {10, 10}, {20, 15}, {30, 30}};
+constexpr Charge kProductionCharges[] = {{5, 10}, {10, 10}, {20, 10}, {30, 10}, {50, 20}};
 
 // By size, Global to Backyard.
 constexpr std::array<int, 6> kWantedProduction = {85, 65, 60, 40, 10, 5};
 
 constexpr int kSpeechlessCharge = 100;
 
-int WantedProduction(int size) {
-  return BySize(kWantedProduction, size);
-}
-
-template <std::size_t N>
-int Charged(const std::array<Charge, N>& charges, int have, int want) {
+int Charged(std::span<const Charge> charges, int have, int want) {
   int sum = 0;
   for (const Charge& charge : charges)
     if (have + charge.Margin < want) sum -= charge.Amount;
@@ -282,7 +282,8 @@ int WithColour(const World& world, int colour, bool isWorker, int sum) {
 }
 
 int ProductionCharge(const Promotion& promotion) {
-  return Charged(kProductionCharges, promotion.Production, WantedProduction(promotion.Size));
+  return Charged(kProductionCharges, promotion.Production,
+                 BySize(kWantedProduction, promotion.Size));
 }
 
 }  // namespace grapplemont

@@ -25,6 +25,8 @@ inline constexpr int kTvRows = 11, kEventRows = 9;
 constexpr int RowsOf(bool isEvent) {
   return isEvent ? kEventRows : kTvRows;
 }
+/// The last record of match.dat that belongs to the sheet.
+int LastRow(const World& world, bool isEvent);
 /// The commentators of the player's television show of today.
 CommentaryTeam TvTeam(const World& world);
 /// "Bram Okafor" and so on; "None" for nobody.
@@ -58,16 +60,6 @@ int HoldShow(World& world, bool isEvent, const CommentaryTeam& team, int extraBo
              LineMemory* memory);
 /// The show's rating goes to the day that follows, and its record is gone.
 void LeaveShow(World& world);
-
-// What the close of a show does to who was on it too often, or not at all.
-
-/// Overexposure and rest: Over of who was seen three times and more, Morale of stars who were left
-/// at home, and the debuts. Looks at the first `rows` records of match.dat.
-void AfterShow(World& world, int rows);
-/// An Event's: feuds that it did not use may cool. Draws once for each.
-void CoolUnusedFeuds(World& world, const ShowRun& run);
-/// An Event's: Titles that were not at stake may lose image. Draws once for each.
-void FadeUnusedTitles(World& world);
 
 // What a show's sum of ratings loses by poor commentary and poor production, by the promotion's
 // size.

@@ -1,9 +1,11 @@
 #include "show/matchscore.h"
 
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "show/aftermatch.h"
 #include "show/ratings.h"
 #include "show/showfeuds.h"
+#include "show/titlechange.h"
 
 namespace grapplemont {
 
@@ -72,8 +74,8 @@ void AddDraw(World& world, Score& score, int draw, const std::string& why) {
 
 void AddMeans(SegmentRun& run) {
   MeanRating work, draw;
-  for (int place = 0; place < EntrantsOf(run.Segment); ++place) {
-    const int uid = run.Segment.Worker[static_cast<std::size_t>(place)];
+  for (int place = 1; place <= EntrantsOf(run.Segment); ++place) {
+    const int uid = UidAt(run.Segment, place);
     work.Add(run.World, uid, WorkRating);
     draw.Add(run.World, uid, DrawRating);
   }
@@ -92,11 +94,9 @@ void AddType(SegmentRun& run) {
 void MarkRunIns(SegmentRun& run) {
   const Segment& segment = run.Segment;
   for (const int uid : PeopleOf(segment)) {
-    MarkFeud(run.World, run.Show, uid, segment.Other1);
-    MarkFeud(run.World, run.Show, uid, segment.Other2);
+    for (const int other : {segment.Other1, segment.Other2}) MarkFeud(run, uid, other);
     if (segment.Style != kTag) continue;
-    MarkFeud(run.World, run.Show, uid, segment.Other3);
-    MarkFeud(run.World, run.Show, uid, segment.Other4);
+    for (const int other : {segment.Other3, segment.Other4}) MarkFeud(run, uid, other);
   }
 }
 
@@ -104,24 +104,15 @@ void MarkEverybody(SegmentRun& run) {
   const std::vector<int> people = PeopleOf(run.Segment);
   for (std::size_t one = 0; one < people.size(); ++one)
     for (std::size_t other = one + 1; other < people.size(); ++other)
-      MarkFeud(run.World, run.Show, people[one], people[other]);
+      MarkFeud(run, people[one], people[other]);
 }
 
 /// The crowd is lifted first, so that the heat follows the higher one.
 void AddFeuds(SegmentRun& run) {
-  const auto& worker = run.Segment.Worker;
-  switch (run.Segment.Style) {
-    case kSingles:
-      FeudLift(run, FeudSlotOf(run.World, worker[0], worker[1]));
-      break;
-    case kTag:
-      FeudLift(run, FeudSlotOfTeams(run.World, worker[0], worker[1], worker[2], worker[3]));
-      break;
-    case kSpecial:
-      return;
-    default:
-      return MarkEverybody(run);
-  }
+  const int style = run.Segment.Style;
+  if (style == kSpecial) return;
+  if (style != kSingles && style != kTag) return MarkEverybody(run);
+  FeudLift(run, FeudSlotOf(run.World, run.Segment, style == kTag));
   HeatFollowsMatch(run);
   MarkRunIns(run);
 }
@@ -130,7 +121,7 @@ void AddAlignment(SegmentRun& run) {
   if (run.Segment.Style != kSingles) return;
   const Worker* first = run.World.FindWorker(run.Segment.Worker[0]);
   const Worker* second = run.World.FindWorker(run.Segment.Worker[1]);
-  if (!first || !second || !(first->Disposition == second->Disposition)) return;
+  if (!first || !second || first->Disposition != second->Disposition) return;
   const int loss = first->Disposition == "H" ? kTwoHeels : run.World.RandomDraw(kTwoAlikeDraw);
   run.Crowd.Add(-loss, "two " + std::string(DispositionText(first->Disposition)) + "s");
 }
@@ -164,42 +155,35 @@ int Given(const Band (&bands)[N], int value) {
   return 0;
 }
 
-bool IsPair(const Team& team, const std::vector<int>& side) {
-  if (side[0] == 0 || side[1] == 0) return false;
-  return (team.Worker1 == side[0] && team.Worker2 == side[1]) ||
-         (team.Worker1 == side[1] && team.Worker2 == side[0]);
-}
-
-bool HasTeams(const Segment& segment) {
-  return segment.Style == kTag || segment.Style == kThreeTeams || segment.Style == kFourTeams;
-}
-
-std::string TeamsText(const std::vector<std::string>& teams) {
-  std::string text;
-  for (const std::string& team : teams) text += (text.empty() ? "" : ", ") + team;
-  return text;
+/// Whether the two are a side of a match of teams.
+bool IsSide(const Team& team, const Segment& segment) {
+  const MatchStyleRow* style = FindMatchStyle(segment.Style);
+  return style && style->PerSide == 2 && team.Worker2 != 0 &&
+         PartnerOf(segment, team.Worker1) == team.Worker2;
 }
 
 }  // namespace
 
 Chemistry ChemistryOf(const World& world, const Segment& segment) {
   Chemistry chemistry;
-  if (!HasTeams(segment)) return chemistry;
-  const auto sides = SidesOf(segment);
-  for (const Team& team : world.Teams())
-    for (const auto& side : sides) {
-      const int level = IsPair(team, side) ? Given(kLevels, team.Experience) : 0;
-      if (level == 0) continue;
-      chemistry.Level += level;
-      chemistry.Teams.push_back(team.Name.Str());
-    }
+  for (const Team& team : world.Teams()) {
+    const int level = IsSide(team, segment) ? Given(kLevels, team.Experience) : 0;
+    if (level == 0) continue;
+    chemistry.Level += level;
+    chemistry.Teams.push_back(team.Name.Str());
+  }
   return chemistry;
+}
+
+void GainTeamExperience(SegmentRun& run) {
+  for (Team& team : run.World.Teams())
+    if (IsSide(team, run.Segment)) ++team.Experience;
 }
 
 void AddChemistry(SegmentRun& run, const Chemistry& chemistry) {
   const int draw = Given(kDraws, chemistry.Level);
   if (draw == 0) return;
-  const std::string why = "chemistry of " + TeamsText(chemistry.Teams);
+  const std::string why = "chemistry of " + Joined(chemistry.Teams);
   run.Quality.Add(run.World.RandomDraw(draw), why);
   run.Crowd.Add(run.World.RandomDraw(draw), why);
 }
@@ -263,24 +247,15 @@ void Sell(SegmentRun& run, const Worker& worker) {
   }
 }
 
-void NotBelowZero(Score& score) {
-  if (score < 0) score.Become(0, "limit");
-}
-
 bool HoldsSingles(const Segment& segment, const Title& title) {
-  const int places = segment.Style == kSpecial ? 30 : 4;
-  for (int place = 0; place < places; ++place)
-    if (segment.Worker[static_cast<std::size_t>(place)] == title.Holder) return true;
-  return false;
+  const auto& worker = segment.Worker;
+  const auto last = segment.Style == kSpecial ? worker.end() : worker.begin() + 4;
+  return std::find(worker.begin(), last, title.Holder) != last;
 }
 
 bool HoldsTag(const Segment& segment, const Title& title) {
-  for (std::size_t first = 0; first < 8; first += 2) {
-    const int one = segment.Worker[first], other = segment.Worker[first + 1];
-    if ((one == title.Holder && other == title.Partner) ||
-        (one == title.Partner && other == title.Holder))
-      return true;
-  }
+  for (int first = 1; first < 8; first += 2)
+    if (AreChampions(title, UidAt(segment, first), UidAt(segment, first + 1))) return true;
   return false;
 }
 
@@ -304,8 +279,8 @@ void AddSelling(SegmentRun& run) {
   if (sellers.empty()) return;
   for (const int uid : sellers)
     if (const Worker* worker = run.World.FindWorker(uid)) Sell(run, *worker);
-  NotBelowZero(run.Quality);
-  NotBelowZero(run.Crowd);
+  for (Score* score : {&run.Quality, &run.Crowd})
+    if (*score < 0) score->Become(0, "limit");
 }
 
 void AddStiffness(SegmentRun& run) {
@@ -321,12 +296,9 @@ void AddStiffness(SegmentRun& run) {
 void CheckChampion(SegmentRun& run, const Title* title) {
   if (!title || IsChampionThere(run.Segment, *title)) return;
   run.Crowd.Scale(5, 10, "no champion in the Title match");
-  run.Notes += title->Singles
-                   ? "The crowd were confused as to why this was a title match, when the champion "
-                     "wasn't involved. "
-                   : "The crowd were confused as to why this was a title match, when the champions "
-                     "weren't involved. ";
-  run.Notes += "This affected their response to the entire match. ";
+  run.Notes += "The crowd were confused as to why this was a title match, when the champion" +
+               std::string(title->Singles ? " wasn't" : "s weren't") +
+               " involved. This affected their response to the entire match. ";
 }
 
 void AddBurnOut(SegmentRun& run) {
@@ -342,11 +314,10 @@ void AddBurnOut(SegmentRun& run) {
 
 void WeighMatch(SegmentRun& run) {
   const bool isCrowdStronger = run.Quality <= run.Crowd;
+  const std::string crowd = isCrowdStronger ? "70" : "50", quality = isCrowdStronger ? "30" : "50";
   run.Overall.Become(WeighRating(run.Quality, run.Crowd),
-                     (isCrowdStronger ? "70% of Crowd " : "50% of Crowd ") +
-                         std::to_string(run.Crowd) +
-                         (isCrowdStronger ? " and 30% of Quality " : " and 50% of Quality ") +
-                         std::to_string(run.Quality));
+                     crowd + "% of Crowd " + std::to_string(run.Crowd) + " and " + quality +
+                         "% of Quality " + std::to_string(run.Quality));
   if (run.Show.FlatNight) run.Overall.Scale(9, 10, "flat night");
   run.Overall.Limit();
 }

@@ -23,6 +23,8 @@ struct Chemistry {
 Chemistry ChemistryOf(const World& world, const Segment& segment);
 /// Draws twice, quality first; not at all at level 0.
 void AddChemistry(SegmentRun& run, const Chemistry& chemistry);
+/// Such teams have one match more behind them.
+void GainTeamExperience(SegmentRun& run);
 
 // After the scoring, in the order of the run, with what the road agent says of it.
 

@@ -1,6 +1,7 @@
 #include "show/overchange.h"
 
 #include <cstdlib>
+#include <span>
 
 #include "records/angles.h"
 #include "records/modWresCheck.h"
@@ -15,17 +16,19 @@ int ChangeOver(Worker& worker, int change) {
   return worker.Over - before;
 }
 
-void ReportOver(SegmentRun& run, const Worker& worker, int change, bool isMatch) {
+void ReportOver(SegmentRun& run, const Worker& worker, int change) {
   if (change == 0) return;
   run.Notes += worker.Name.Str() + (change < 0 ? " lost " : " gained ");
   if (run.World.Game().Difficulty == kEasy)
     run.Notes += std::to_string(std::abs(change)) + (change == 1 ? " point of " : " points of ");
   run.Notes += "overness from this ";
-  run.Notes += run.FeudEnding ? "feud ending. " : isMatch ? "match. " : "segment. ";
+  run.Notes += run.FeudEnding               ? "feud ending. "
+               : run.Segment.Kind == kMatch ? "match. "
+                                            : "segment. ";
 }
 
 void ChangeOverAndTell(SegmentRun& run, Worker& worker, int change) {
-  ReportOver(run, worker, ChangeOver(worker, change), run.Segment.Kind == kMatch);
+  ReportOver(run, worker, ChangeOver(worker, change));
 }
 
 namespace {
@@ -44,8 +47,7 @@ constexpr OutOfCharacter kUnlikeLoser[] = {{after1::kHandshake, "H", true, 5},
                                            {after1::kSecondRefusesHand, "F", true, 5},
                                            {after1::kLoserRuns, "F", false, 2}};
 
-template <std::size_t N>
-int PenaltyOf(SegmentRun& run, const Worker& worker, const OutOfCharacter (&rows)[N]) {
+int PenaltyOf(SegmentRun& run, const Worker& worker, std::span<const OutOfCharacter> rows) {
   int change = 0;
   for (const OutOfCharacter& row : rows)
     if (run.Segment.Aftermath == row.Aftermath && worker.Disposition == row.Disposition)
@@ -64,8 +66,6 @@ void ShiftTeamMember(SegmentRun& run, Worker& worker, bool gap, int result, int 
   ChangeOverAndTell(run, worker, gap ? result * (isLucky + isClean) + isLoud : 0);
 }
 
-}  // namespace
-
 void ShiftOverSingles(SegmentRun& run, Worker& winner, Worker& loser) {
   const int winnerOver = winner.Over, loserOver = loser.Over;
   const bool isClean = run.Segment.Finish == kClean;
@@ -78,13 +78,13 @@ void ShiftOverSingles(SegmentRun& run, Worker& winner, Worker& loser) {
   if (isAbove(10) && isClean) --lost;
   if (isAbove(10) && run.Crowd > loser.Over) ++lost;
   lost += PenaltyOf(run, loser, kUnlikeLoser);
-  ReportOver(run, loser, ChangeOver(loser, lost), true);
+  ReportOver(run, loser, ChangeOver(loser, lost));
 
   const bool isLucky = run.World.RandomDraw(5) == kLuck;
   int gained = isAbove(10) && isLucky ? 1 : 0;
   if (isAbove(7) && isClean) ++gained;
   if (isAbove(7) && run.Crowd > winner.Over) ++gained;
-  ReportOver(run, winner, ChangeOver(winner, gained) + penalty, true);
+  ReportOver(run, winner, ChangeOver(winner, gained) + penalty);
 }
 
 void ShiftOverTeams(SegmentRun& run, Worker& winner1, Worker& winner2, Worker& loser1,
@@ -95,6 +95,8 @@ void ShiftOverTeams(SegmentRun& run, Worker& winner1, Worker& winner2, Worker& l
   ShiftTeamMember(run, winner2, gap, 1, 5);
   ShiftTeamMember(run, winner1, gap, 1, 5);
 }
+
+}  // namespace
 
 void ShiftOver(SegmentRun& run) {
   std::vector<Worker*> people;
@@ -116,28 +118,23 @@ struct Cast {
   Worker* Three;
 };
 
-int UidOf(const Worker* worker) {
-  return worker ? int(worker->Uid) : 0;
-}
-
 /// Tells what one has come to be to the other.
-void Tell(SegmentRun& run, const Worker& one, std::string_view what, std::string_view other) {
-  run.Notes += one.Name.Str() + std::string(what) + std::string(other) + ". ";
+void Tell(SegmentRun& run, std::string_view one, std::string_view what, std::string_view other) {
+  run.Notes.append(one).append(what).append(other).append(". ");
 }
 
 void TakeManager(SegmentRun& run, const Cast& cast) {
-  const int manager = UidOf(cast.One);
+  const int manager = cast.One ? int(cast.One->Uid) : 0;
   if (!cast.Two || cast.Two->Manager == manager) return;
   cast.Two->Manager = manager;
-  if (cast.One) Tell(run, *cast.One, " now manages ", cast.Two->Name.View());
+  if (cast.One) Tell(run, cast.One->Name.View(), " now manages ", cast.Two->Name.View());
 }
 
 void ChangeManager(SegmentRun& run, const Cast& cast) {
   if (cast.Three && cast.Three->Manager != 0) {
     const std::string former = WorkerName(run.World, cast.Three->Manager);
     cast.Three->Manager = 0;
-    if (!former.empty())
-      run.Notes += former + " no longer manages " + cast.Three->Name.Str() + ". ";
+    if (!former.empty()) Tell(run, former, " no longer manages ", cast.Three->Name.View());
   }
   TakeManager(run, cast);
 }
@@ -145,29 +142,24 @@ void ChangeManager(SegmentRun& run, const Cast& cast) {
 void JoinStable(SegmentRun& run, const Cast& cast) {
   if (!cast.One) return;
   cast.One->Stable = run.Segment.Text.View();
-  Tell(run, *cast.One, " joined ", run.Segment.Text.View());
+  Tell(run, cast.One->Name.View(), " joined ", run.Segment.Text.View());
 }
 
 void LeaveStable(SegmentRun& run, const Cast& cast) {
   if (!cast.One || cast.One->Stable == "None") return;
-  Tell(run, *cast.One, " is out of ", cast.One->Stable.View());
+  Tell(run, cast.One->Name.View(), " is out of ", cast.One->Stable.View());
   cast.One->Stable = "None";
 }
 
-void Award(SegmentRun& run, const Worker* holder, const Worker* partner) {
+/// A Title for one, or for the two.
+void Award(SegmentRun& run, const Cast& cast) {
+  const bool isForTeams = run.Segment.Style == kAwardTag;
+  if (!cast.Two || (isForTeams && !cast.Three)) return;
   Title* title = TitleAtStake(run.World, run.Segment);
   // Somebody may have won it since the show was booked.
-  if (title && title->Holder == 0 && holder)
-    PassTitle(run, *title, holder->Uid, UidOf(partner),
-              partner ? " were awarded " : " was awarded ");
-}
-
-void AwardSingles(SegmentRun& run, const Cast& cast) {
-  Award(run, cast.Two, nullptr);
-}
-
-void AwardTeam(SegmentRun& run, const Cast& cast) {
-  if (cast.Three) Award(run, cast.Two, cast.Three);
+  if (!title || title->Holder != 0) return;
+  PassTitle(run, *title, cast.Two->Uid, isForTeams ? int(cast.Three->Uid) : 0,
+            isForTeams ? " were awarded " : " was awarded ");
 }
 
 struct Move {
@@ -180,8 +172,8 @@ constexpr Move kMoves[] = {
     {kManagersSurprise, TakeManager},
     {kStableInduction, JoinStable},
     {kStableKickOut, LeaveStable},
-    {kAwardSingles, AwardSingles},
-    {kAwardTag, AwardTeam},
+    {kAwardSingles, Award},
+    {kAwardTag, Award},
 };
 
 /// Managers, stables and Titles that the angle moves.
@@ -215,8 +207,13 @@ int LossFrom(SegmentRun& run, int over, bool isSecondary) {
   return -2;
 }
 
-void TalkOverOf(SegmentRun& run, int uid, bool isSecondary) {
-  if (Worker* worker = run.World.FindWorker(uid)) TalkOver(run, *worker, isSecondary);
+/// By the final rating. Who only stands by (secondary) gains and loses less.
+void TalkOver(SegmentRun& run, int uid, bool isSecondary) {
+  Worker* worker = run.World.FindWorker(uid);
+  if (!worker) return;
+  const int over = worker->Over;
+  ChangeOverAndTell(run, *worker,
+                    GainFrom(run, over, isSecondary) + LossFrom(run, over, isSecondary));
 }
 
 void AfterInterview(SegmentRun& run) {
@@ -225,7 +222,7 @@ void AfterInterview(SegmentRun& run) {
   // Where a manager speaks, the last of the speakers only stands by.
   const bool isManaged = !SeatedAs(run.Segment, Casting::TalkManagers).empty();
   for (int place = 1; place <= style->Speakers; ++place)
-    TalkOverOf(run, UidAt(run.Segment, place), isManaged && place == style->Speakers);
+    TalkOver(run, UidAt(run.Segment, place), isManaged && place == style->Speakers);
 }
 
 void AfterAngle(SegmentRun& run) {
@@ -234,21 +231,15 @@ void AfterAngle(SegmentRun& run) {
   for (int place = 1; place <= kAnglePlaces; ++place) {
     // The one who is impersonated is only shown up.
     if (angle->Number == kImpression && place == 2) continue;
-    TalkOverOf(run, UidAt(run.Segment, place), false);
+    TalkOver(run, UidAt(run.Segment, place), false);
   }
   if (!HasStableRole(*angle)) return;
   const Worker* leader = StableLeader(run.World, run.Segment.Text);
   // Who is on camera in person has had their share.
-  if (leader && !TakesPart(run.Segment, leader->Uid)) TalkOverOf(run, leader->Uid, false);
+  if (leader && !TakesPart(run.Segment, leader->Uid)) TalkOver(run, leader->Uid, false);
 }
 
 }  // namespace
-
-void TalkOver(SegmentRun& run, Worker& worker, bool isSecondary) {
-  const int over = worker.Over;
-  ChangeOverAndTell(run, worker,
-                    GainFrom(run, over, isSecondary) + LossFrom(run, over, isSecondary));
-}
 
 void TalkConsequences(SegmentRun& run) {
   if (run.Segment.Kind == kInterview) AfterInterview(run);

@@ -13,10 +13,6 @@ namespace grapplemont {
 
 namespace {
 
-std::string Signed(int number) {
-  return (number > 0 ? "+" : "") + std::to_string(number);
-}
-
 std::string Rated(const RecapLine& line) {
   return line.What + ", " + std::to_string(line.Rating) + "%";
 }
@@ -30,26 +26,21 @@ bool Counts(const ShowRun& run, const RecapLine& line) {
   return !run.IsEvent || line.Number != 1;
 }
 
-void AddIfAny(std::vector<ScoreStep>& sum, const char* why, int change) {
-  if (change != 0) sum.push_back({why, change});
-}
-
 std::vector<ScoreStep> SumOf(const ShowRun& run, const ShowRecap& recap) {
-  std::vector<ScoreStep> sum;
+  Score sum;
   int ratings = 0;
   for (const RecapLine& line : recap.Lines)
     if (Counts(run, line)) ratings += line.Rating;
-  AddIfAny(sum, "The announcer", run.AnnouncerCharge);
-  AddIfAny(sum, "The colour commentator", run.ColourCharge);
-  AddIfAny(sum, "The extra of the Event", run.ExtraBonus);
-  AddIfAny(sum, "The Segments", ratings);
-  AddIfAny(sum, "The closing Segment once more", run.LastOverall);
-  AddIfAny(sum, "Poor production", run.ProductionCharge);
-  int total = 0;
-  for (const ScoreStep& step : sum) total += step.Change;
-  sum.push_back({"Together", total});
-  sum.push_back({"Over " + std::to_string(run.ShowSegments) + " ratings", run.ShowSum});
-  return sum;
+  sum.Add(run.AnnouncerCharge, "The announcer");
+  sum.Add(run.ColourCharge, "The colour commentator");
+  sum.Add(run.ExtraBonus, "The extra of the Event");
+  sum.Add(ratings, "The Segments");
+  sum.Add(run.LastOverall, "The closing Segment once more");
+  sum.Add(run.ProductionCharge, "Poor production");
+  std::vector<ScoreStep> steps = sum.Steps();
+  steps.push_back({"Together", sum});
+  steps.push_back({"Over " + std::to_string(run.ShowSegments) + " ratings", run.ShowSum});
+  return steps;
 }
 
 /// What the sheet announced as a win has been won.
@@ -72,8 +63,7 @@ std::string ResultText(const World& world, const Segment& segment) {
 RatingsSoFar RatingsOfShow(const World& world) {
   RatingsSoFar ratings;
   const ShowRun& run = *ShowUnderWay(world);
-  for (int number = 1; number <= std::min(RowsOf(run.IsEvent), world.Segments().Count());
-       ++number) {
+  for (int number = 1; number <= LastRow(world, run.IsEvent); ++number) {
     if (!WasTold(world, world.Segments()[number])) continue;
     ratings.Rows.push_back(std::to_string(number));
     if (number <= run.Current) ratings.Values.push_back(world.Segments()[number].Rating);
@@ -85,7 +75,7 @@ ShowRecap RecapOf(const World& world) {
   const ShowRun& run = *ShowUnderWay(world);
   ShowRecap recap;
   recap.Rating = run.ShowSum;
-  for (int number = 1; number <= std::min(RowsOf(run.IsEvent), world.Segments().Count()); ++number)
+  for (int number = 1; number <= LastRow(world, run.IsEvent); ++number)
     if (const Segment& segment = world.Segments()[number]; WasTold(world, segment))
       recap.Lines.push_back({number, ResultText(world, segment), segment.Rating});
   const auto byRating = [](const RecapLine& a, const RecapLine& b) { return a.Rating < b.Rating; };
@@ -100,11 +90,10 @@ ShowRecap RecapOf(const World& world) {
 }
 
 std::string WhyText(std::string_view caption, const Score& score) {
-  std::string text = std::string(caption) + " " + std::to_string(score) + " =";
-  bool first = true;
+  std::string text = std::string(caption) + " " + std::to_string(score) + " =", sign = "\n";
   for (const ScoreStep& step : score.Steps()) {
-    text += "\n" + (first ? std::to_string(step.Change) : Signed(step.Change)) + " " + step.Why;
-    first = false;
+    text += (step.Change > 0 ? sign : "\n") + std::to_string(step.Change) + " " + step.Why;
+    sign = "\n+";  // the first is no change
   }
   return text;
 }

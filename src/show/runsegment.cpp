@@ -4,7 +4,6 @@
 
 #include "report/report.h"
 #include "show/aftermatch.h"
-#include "show/feudend.h"
 #include "show/matchscore.h"
 #include "show/overchange.h"
 #include "show/showfeuds.h"
@@ -34,7 +33,6 @@ void Do(Telling& telling) {
 }
 
 void SetScene(Telling& telling) {
-  telling.Scene.IsEvent = telling.Run.Show.IsEvent;
   for (const TurnCall& turn : BookedTurns(telling.Run.World, telling.Run.Segment))
     telling.Scene.Turners.push_back(turn.Turner);
   if (!telling.AtStake) return;
@@ -44,10 +42,6 @@ void SetScene(Telling& telling) {
 
 void LookForChampion(Telling& telling) {
   CheckChampion(telling.Run, telling.AtStake);
-}
-
-void HandOverTitle(Telling& telling) {
-  if (telling.AtStake && telling.Run.Segment.Winner != 0) ChangeTitle(telling.Run);
 }
 
 void WriteProse(Telling& telling) {
@@ -61,26 +55,20 @@ void LimitBoth(SegmentRun& run) {
   run.Crowd.Limit();
 }
 
-void MoveImage(Telling& telling) {
-  if (telling.AtStake) MoveTitleImage(telling.Run);
-}
-
 void GiveVerdict(Telling& telling) {
   if (telling.Memory)
     telling.Verdict = Verdict(telling.Run.World, telling.Run.Segment, telling.Run.Overall);
 }
 
 /// What opens an Event counts for nothing.
-void AddToShow(Telling& telling) {
+void KeepRating(Telling& telling) {
+  const int rating = telling.Run.Overall;
+  telling.Run.Segment.Rating = rating;
   ShowRun& show = telling.Run.Show;
-  show.LastOverall = telling.Run.Overall;
+  show.LastOverall = rating;
   if (show.IsEvent && telling.Number == 1) return;
-  show.ShowSum += telling.Run.Overall;
+  show.ShowSum += rating;
   ++show.ShowSegments;
-}
-
-void StoreRating(SegmentRun& run) {
-  run.Segment.Rating = run.Overall;
 }
 
 // The order is a rule: later steps read what earlier ones left. The champions of the scene are
@@ -88,34 +76,21 @@ void StoreRating(SegmentRun& run) {
 // image and the verdict see the overall rating as it stands in the end. A talk is rated by a crowd
 // that may lie beyond its limits, which only what is shown keeps to.
 constexpr Step kMatchSteps[] = {
-    SetScene,
-    Do<RemarkOnShape>,
-    Do<ScoreMatch>,
-    Do<MatchConsequences>,
-    Do<AddSelling>,
-    Do<AddStiffness>,
-    Do<GainTeamExperience>,
-    LookForChampion,
-    HandOverTitle,
-    WriteProse,
-    Do<ApplyTurns>,
-    Do<LimitBoth>,
-    Do<AddBurnOut>,
-    Do<WeighMatch>,
-    MoveImage,
-    GiveVerdict,
-    AddToShow,
-    Do<StoreRating>,
+    SetScene,        Do<RemarkOnShape>, Do<ScoreMatch>,         Do<MatchConsequences>,
+    Do<AddSelling>,  Do<AddStiffness>,  Do<GainTeamExperience>, LookForChampion,
+    Do<ChangeTitle>, WriteProse,        Do<ApplyTurns>,         Do<LimitBoth>,
+    Do<AddBurnOut>,  Do<WeighMatch>,    Do<MoveTitleImage>,     GiveVerdict,
+    KeepRating,
 };
 
 constexpr Step kInterviewSteps[] = {
-    SetScene,      Do<ScoreInterview>,   WriteProse, Do<ApplyTurns>,  Do<RateTalk>,
-    Do<LimitBoth>, Do<TalkConsequences>, AddToShow,  Do<StoreRating>,
+    SetScene,     Do<ScoreInterview>, WriteProse,           Do<ApplyTurns>,
+    Do<RateTalk>, Do<LimitBoth>,      Do<TalkConsequences>, KeepRating,
 };
 
 constexpr Step kAngleSteps[] = {
     SetScene,     Do<ScoreAngle>, WriteProse,           Do<ApplyTurns>, Do<CapByWriters>,
-    Do<RateTalk>, Do<LimitBoth>,  Do<TalkConsequences>, AddToShow,      Do<StoreRating>,
+    Do<RateTalk>, Do<LimitBoth>,  Do<TalkConsequences>, KeepRating,
 };
 
 std::span<const Step> StepsOf(const Segment& segment) {
@@ -142,33 +117,20 @@ ToldSegment RunSegment(World& world, int number, LineMemory* memory) {
           std::move(run.Notes),   std::move(telling.Report), std::move(telling.Verdict)};
 }
 
-namespace {
-
-void AfterMatchFor(SegmentRun& run, const std::vector<int>& people, bool isWinner) {
-  for (const int uid : people)
-    if (Worker* worker = run.World.FindWorker(uid)) AfterMatch(run, *worker, isWinner);
-}
-
-}  // namespace
-
 void MatchConsequences(SegmentRun& run) {
   // A battle royal is too big for any one of it to be marked by it.
   if (run.Segment.Style == kSpecial) return;
-  AfterMatchFor(run, PeopleOf(run.Segment), false);
-  AfterMatchFor(run, WinnersOf(run.Segment), true);
+  const auto after = [&](const std::vector<int>& people, bool areWinners) {
+    for (const int uid : people)
+      if (Worker* worker = run.World.FindWorker(uid)) AfterMatch(run, *worker, areWinners);
+  };
+  after(PeopleOf(run.Segment), false);
+  after(WinnersOf(run.Segment), true);
   ShiftOver(run);
   TallyResult(run);
   TallyAttacks(run);
   EndFeudByMatch(run);
   DrawInjuries(run);
-}
-
-void GainTeamExperience(SegmentRun& run) {
-  const int style = run.Segment.Style;
-  if (style != kTag && style != kThreeTeams && style != kFourTeams) return;
-  for (Team& team : run.World.Teams())
-    if (team.Worker2 != 0 && PartnerOf(run.Segment, team.Worker1) == team.Worker2)
-      ++team.Experience;
 }
 
 }  // namespace grapplemont

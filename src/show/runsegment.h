@@ -23,7 +23,5 @@ ToldSegment RunSegment(World& world, int number, LineMemory* memory);
 /// With a match's score: wear, morale and card position of everybody, Over by the result, the
 /// tallies of feuds, the end of a feud, injuries.
 void MatchConsequences(SegmentRun& run);
-/// Teams that were in the match have one match more behind them.
-void GainTeamExperience(SegmentRun& run);
 
 }  // namespace grapplemont

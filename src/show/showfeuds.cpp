@@ -30,10 +30,13 @@ int FeudSlotOf(const World& world, int workerX, int workerY) {
   return 0;
 }
 
-void MarkFeud(World& world, ShowRun& show, int workerX, int workerY) {
-  for (int slot = 1; slot <= world.Feuds().Count(); ++slot)
-    if (AreEnemies(world.Feuds()[slot], workerX, workerY))
-      show.FeudTouched[static_cast<std::size_t>(slot - 1)] = true;
+void MarkFeud(SegmentRun& run, int workerX, int workerY) {
+  for (int slot = 1; slot <= run.World.Feuds().Count(); ++slot)
+    if (AreEnemies(run.World.Feuds()[slot], workerX, workerY)) MarkSlot(run, slot);
+}
+
+void MarkSlot(SegmentRun& run, int slot) {
+  run.Show.FeudTouched[static_cast<std::size_t>(slot - 1)] = true;
 }
 
 namespace {
@@ -59,14 +62,10 @@ std::string FeudText(const World& world, const Feud& feud) {
   return SideName(world, sides.One) + " and " + SideName(world, sides.Two);
 }
 
-bool StandWhole(const Feud& feud, int workerA, int partnerA, int workerB, int partnerB) {
-  const int sideA = FeudSideOf(feud, workerA), sideB = FeudSideOf(feud, workerB);
-  return sideA != 0 && sideB != 0 && sideA != sideB && FeudSideOf(feud, partnerA) == sideA &&
-         FeudSideOf(feud, partnerB) == sideB;
-}
-
-void MarkSlot(SegmentRun& run, int slot) {
-  run.Show.FeudTouched[static_cast<std::size_t>(slot - 1)] = true;
+bool StandWhole(const Feud& feud, const Segment& segment) {
+  const auto sideOf = [&](int place) { return FeudSideOf(feud, UidAt(segment, place)); };
+  return !feud.Singles && sideOf(1) != 0 && sideOf(3) != 0 && sideOf(1) != sideOf(3) &&
+         sideOf(2) == sideOf(1) && sideOf(4) == sideOf(3);
 }
 
 int TalkTarget(SegmentRun& run) {
@@ -89,23 +88,23 @@ bool SpeakAgainst(const Feud& feud, const Segment& segment) {
   });
 }
 
-}  // namespace
-
-int MoveHeat(int heat, int target, HeatRise rise) {
+/// The heat after it has followed a rating; 0..100. Held back near the top where enemies only talk.
+int MoveHeat(int heat, int target, bool isTalk) {
   for (const HeatStep& step : kHeatSteps)
     if (heat - step.Off > target) heat -= step.By;
   for (const HeatStep& step : kHeatSteps) {
-    const bool isHeldBack = rise == HeatRise::HeldBack && heat >= step.TalkBelow;
+    const bool isHeldBack = isTalk && heat >= step.TalkBelow;
     if (heat + step.Off < target && !isHeldBack) heat += step.By;
   }
   return std::clamp(heat, 0, 100);
 }
 
-int FeudSlotOfTeams(const World& world, int workerA, int partnerA, int workerB, int partnerB) {
-  for (int slot = 1; slot <= world.Feuds().Count(); ++slot) {
-    const Feud& feud = world.Feuds()[slot];
-    if (!feud.Singles && StandWhole(feud, workerA, partnerA, workerB, partnerB)) return slot;
-  }
+}  // namespace
+
+int FeudSlotOf(const World& world, const Segment& segment, bool ofTeams) {
+  if (!ofTeams) return FeudSlotOf(world, UidAt(segment, 1), UidAt(segment, 2));
+  for (int slot = 1; slot <= world.Feuds().Count(); ++slot)
+    if (StandWhole(world.Feuds()[slot], segment)) return slot;
   return 0;
 }
 
@@ -121,11 +120,11 @@ void FeudLift(SegmentRun& run, int slot) {
 }
 
 void HeatFollowsMatch(SegmentRun& run) {
-  const int slot = FeudSlotOf(run.World, run.Segment.Worker[0], run.Segment.Worker[1]);
+  const int slot = FeudSlotOf(run.World, run.Segment, false);
   if (slot == 0) return;
   MarkSlot(run, slot);
   Feud& feud = run.World.Feuds()[slot];
-  feud.Heat = MoveHeat(feud.Heat, WeighRating(run.Quality, run.Crowd), HeatRise::Free);
+  feud.Heat = MoveHeat(feud.Heat, WeighRating(run.Quality, run.Crowd), false);
 }
 
 void HeatFollowsTalk(SegmentRun& run) {
@@ -134,7 +133,7 @@ void HeatFollowsTalk(SegmentRun& run) {
     Feud& feud = run.World.Feuds()[slot];
     if (!SpeakAgainst(feud, run.Segment)) continue;
     MarkSlot(run, slot);
-    feud.Heat = MoveHeat(feud.Heat, target, HeatRise::HeldBack);
+    feud.Heat = MoveHeat(feud.Heat, target, true);
   }
 }
 
@@ -151,11 +150,7 @@ constexpr int kCleanFinishes[] = {kClean, kCountOut, kSickBump, kMiscommunicatio
 
 /// A side's counters in the record.
 struct Counters {
-  Natural& Clean;
-  Natural& Cheap;
-  Natural& Verbal;
-  Natural& Attacks;
-  int Wins() const { return Clean + Cheap; }
+  Natural &Clean, &Cheap, &Verbal, &Attacks;
 };
 
 Counters CountersOf(Feud& feud, int side) {
@@ -164,22 +159,23 @@ Counters CountersOf(Feud& feud, int side) {
 }
 
 void Cool(Feud& feud) {
-  const Counters a = CountersOf(feud, 1), b = CountersOf(feud, 2);
+  const int winsA = feud.Clean1 + feud.Dirty1, winsB = feud.Clean2 + feud.Dirty2;
   int heat = feud.Heat;
-  if (a.Clean > kCleanWins) heat -= kBored;
-  if (b.Clean > kCleanWins) heat -= kBored;
-  if (a.Wins() > b.Wins() + kRunaway && b.Clean > 0) heat -= kRunawayCools;
-  if (b.Wins() > a.Wins() + kRunaway && a.Clean > 0) heat -= kRunawayCools;
+  if (feud.Clean1 > kCleanWins) heat -= kBored;
+  if (feud.Clean2 > kCleanWins) heat -= kBored;
+  if (winsA > winsB + kRunaway && feud.Clean2 > 0) heat -= kRunawayCools;
+  if (winsB > winsA + kRunaway && feud.Clean1 > 0) heat -= kRunawayCools;
   feud.Heat = heat;
 }
 
-/// Adds one to a counter of `uid` in the first feud against `enemy`; nullptr where there is none.
-Feud* Count(World& world, int uid, int enemy, Natural& (*counter)(const Counters&)) {
+/// Adds one to a counter of `uid` in the first feud against `enemy`; 0 where there is none, else
+/// its slot.
+int Count(World& world, int uid, int enemy, Natural& (*counter)(const Counters&)) {
   const int slot = FeudSlotOf(world, uid, enemy);
-  if (slot == 0) return nullptr;
+  if (slot == 0) return 0;
   Feud& feud = world.Feuds()[slot];
   ++counter(CountersOf(feud, FeudSideOf(feud, uid)));
-  return &feud;
+  return slot;
 }
 
 bool CountsWins(const Segment& segment) {
@@ -194,28 +190,22 @@ bool IsCleanWin(const Segment& segment) {
          std::end(kCleanFinishes);
 }
 
-}  // namespace
-
 void TallyWin(SegmentRun& run, int winnerUid, int loserUid, bool isClean) {
-  const int slot = FeudSlotOf(run.World, winnerUid, loserUid);
-  if (slot == 0) return;
-  Feud* feud = Count(
+  const int slot = Count(
       run.World, winnerUid, loserUid,
       isClean ? +[](const Counters& side) -> Natural& { return side.Clean; }
               : +[](const Counters& side) -> Natural& { return side.Cheap; });
-  run.Show.FeudTouched[static_cast<std::size_t>(slot - 1)] = true;
-  Cool(*feud);
+  if (slot == 0) return;
+  MarkSlot(run, slot);
+  Cool(run.World.Feuds()[slot]);
 }
+
+}  // namespace
 
 void TallyVerbal(SegmentRun& run, int speakerUid, int targetUid) {
-  Feud* feud = Count(run.World, speakerUid, targetUid,
-                     [](const Counters& side) -> Natural& { return side.Verbal; });
-  if (feud) Cool(*feud);
-}
-
-void TallyAttack(SegmentRun& run, int attackerUid, int targetUid) {
-  Count(run.World, attackerUid, targetUid,
-        [](const Counters& side) -> Natural& { return side.Attacks; });
+  const int slot = Count(run.World, speakerUid, targetUid,
+                         [](const Counters& side) -> Natural& { return side.Verbal; });
+  if (slot != 0) Cool(run.World.Feuds()[slot]);
 }
 
 void TallyResult(SegmentRun& run) {
@@ -245,7 +235,9 @@ void TallyAttacks(SegmentRun& run) {
   for (const Act& act : ActsOf(run.Segment))
     if (act.Is(kFeudAttack))
       AddPairs(pairs, PeopleOf(run.Segment, act.By), PeopleOf(run.Segment, act.On));
-  for (const auto& [attacker, target] : pairs) TallyAttack(run, attacker, target);
+  for (const auto& [attacker, target] : pairs)
+    Count(run.World, attacker, target,
+          [](const Counters& side) -> Natural& { return side.Attacks; });
 }
 
 }  // namespace grapplemont

@@ -14,17 +14,15 @@ int FeudSideOf(const Feud& feud, int uid);
 /// The slot from 1 of the first feud in which the two are enemies; 0 for none.
 int FeudSlotOf(const World& world, int workerX, int workerY);
 /// Marks every feud in which the two are enemies as used by the show.
-void MarkFeud(World& world, ShowRun& show, int workerX, int workerY);
+void MarkFeud(SegmentRun& run, int workerX, int workerY);
+/// The same of the feud in this slot.
+void MarkSlot(SegmentRun& run, int slot);
 
 // Feuds lift crowds, and what the enemies show moves the heat of their feud.
 
-/// How far heat may climb: held back near the top where enemies only talk.
-enum class HeatRise { Free, HeldBack };
-/// The heat after it has followed a rating; 0..100.
-int MoveHeat(int heat, int target, HeatRise rise);
-
-/// The slot of the first tag feud in which each pair stands whole on a side of its own; 0 for none.
-int FeudSlotOfTeams(const World& world, int workerA, int partnerA, int workerB, int partnerB);
+/// The slot of the first feud of a Segment's first two people, or of the first tag feud in which
+/// both its pairs stand whole on a side of their own; 0 for none.
+int FeudSlotOf(const World& world, const Segment& segment, bool ofTeams);
 /// Lifts the crowd towards the heat of the feud in this slot and marks it as used; nothing for slot
 /// 0. Draws once where the crowd is below the heat.
 void FeudLift(SegmentRun& run, int slot);
@@ -39,15 +37,16 @@ void HeatFollowsTalk(SegmentRun& run);
 // What a Segment writes into the record of a feud. Each tally goes to the first feud in which the
 // two are enemies.
 
-/// A win goes into the feud's record and marks it as used; a feud that one side runs away with
-/// cools.
-void TallyWin(SegmentRun& run, int winnerUid, int loserUid, bool isClean);
-/// The win of a match that counts wins, and nothing for other matches and for a draw.
+/// The win of a match that counts wins, which marks the feud as used; a feud that one side runs
+/// away with cools. Nothing for other matches and for a draw.
 void TallyResult(SegmentRun& run);
-/// One word or one attack against an enemy.
+/// One word against an enemy.
 void TallyVerbal(SegmentRun& run, int speakerUid, int targetUid);
-void TallyAttack(SegmentRun& run, int attackerUid, int targetUid);
 /// Every attack that a match's run-ins and aftermath stand for.
 void TallyAttacks(SegmentRun& run);
+
+/// A match that is booked to end its workers' feud does: both sides gain or lose by how it went,
+/// some write about it, and its slot is free. Nothing for other matches.
+void EndFeudByMatch(SegmentRun& run);
 
 }  // namespace grapplemont

@@ -42,19 +42,15 @@ std::string Got(const Promotion& promotion, const Voice& voice) {
   return (voice.Who == "We" ? voice.Who : promotion.Initials.Str()) + " got a ";
 }
 
-/// What came in at the gate, in dollars.
-int SellTickets(Promotion& promotion, int people) {
-  const int dollars = promotion.TicketPrice * people;
+/// Puts dollars that came in into a book of the month; gives them.
+int TakeIn(Promotion& promotion, Cash MonthBooks::*book, int dollars) {
   promotion.Money += dollars;
-  promotion.ThisMonth.TicketIncome += dollars;
+  promotion.ThisMonth.*book += dollars;
   return dollars;
 }
 
-int SellPayPerView(Promotion& promotion, int buyRate) {
-  const int dollars = PpvIncome(buyRate);
-  promotion.Money += dollars;
-  promotion.ThisMonth.PpvIncome += dollars;
-  return dollars;
+int SellTickets(Promotion& promotion, int people) {
+  return TakeIn(promotion, &MonthBooks::TicketIncome, promotion.TicketPrice * people);
 }
 
 int PayForProduction(Promotion& promotion, int type) {
@@ -104,6 +100,8 @@ struct Contest {
   const char* Behind;
 };
 constexpr Contest kContests[] = {
+    {-79, 79, false, 0, "Our ratings battle with ",
+     " is so close that neither show is gaining a clear advantage!"},
     {80, 200, false, -40, "Going head-to-head with ",
      " cost us a lot of viewers, we came out worst!"},
     {200, 400, false, -80, "Competing with ",
@@ -112,23 +110,12 @@ constexpr Contest kContests[] = {
     {200, 400, true, 40, "",
      " are trying to compete with us, but are being destroyed in the ratings."},
 };
-constexpr int kTooClose = 79;
-
-void TellOfContest(World& world, bool tells, const Show& rival, const char* before,
-                   const char* behind) {
-  if (tells) AddNews(world, "Maeve", before + rival.Name.Str() + behind);
-}
 
 int Compete(World& world, const Show& rival, int rating, int strength, bool tells) {
-  if (rating - kTooClose < strength && strength < rating + kTooClose) {
-    TellOfContest(world, tells, rival, "Our ratings battle with ",
-                  " is so close that neither show is gaining a clear advantage!");
-    return rating;
-  }
   for (const Contest& contest : kContests) {
     const int lead = contest.WeLead ? rating - strength : strength - rating;
     if (lead <= contest.Above || lead >= contest.Below) continue;
-    TellOfContest(world, tells, rival, contest.Before, contest.Behind);
+    if (tells) AddNews(world, "Maeve", contest.Before + rival.Name.Str() + contest.Behind);
     return rating + contest.Change;
   }
   return rating;
@@ -166,7 +153,8 @@ ShowTakings EventReport(World& world, Promotion& promotion, const Event& event, 
   const bool isPayPerView = type == kPayPerView && promotion.Size <= kRegional;
   const int buyRate = isPayPerView ? BuyRate(world, promotion) : 0;
   const int people = EventAttendance(world, promotion, type);
-  const int ppvDollars = isPayPerView ? SellPayPerView(promotion, buyRate) : 0;
+  const int ppvDollars =
+      isPayPerView ? TakeIn(promotion, &MonthBooks::PpvIncome, PpvIncome(buyRate)) : 0;
   const int ticketDollars = SellTickets(promotion, people);
   const int costs = PayForProduction(promotion, type);
   if (isPayPerView)

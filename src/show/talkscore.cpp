@@ -1,10 +1,14 @@
 #include "show/talkscore.h"
+
 #include <algorithm>
+
+#include "records/angles.h"
 #include "records/modWresCheck.h"
 #include "show/ratings.h"
 #include "show/runsegment.h"
 #include "show/showfeuds.h"
 #include "storylines/partners.h"
+#include "words/anglerules.h"
 
 namespace grapplemont {
 
@@ -37,10 +41,10 @@ int PersonOf(const SegmentRun& run, int who) {
 }
 
 /// Only those who are named count.
-void AddPeople(SegmentRun& run, const AngleScore& angle) {
+void AddPeople(SegmentRun& run, const AngleRules& angle) {
   MeanRating talk;
-  for (const int who : angle.People) {
-    if (who == 0) continue;
+  for (const int who : angle.Talk) {
+    if (who == kNobody) continue;
     if (who == kGuest) {
       talk.Add("the guest", kGuestRating);
     } else if (const int uid = PersonOf(run, who)) {
@@ -51,39 +55,35 @@ void AddPeople(SegmentRun& run, const AngleScore& angle) {
 }
 
 void AddAngleFeud(SegmentRun& run, AngleFeud feud) {
-  const auto& worker = run.Segment.Worker;
   if (feud == AngleFeud::None) return;
-  FeudLift(run, feud == AngleFeud::Pair
-                    ? FeudSlotOf(run.World, worker[0], worker[1])
-                    : FeudSlotOfTeams(run.World, worker[0], worker[1], worker[2], worker[3]));
+  FeudLift(run, FeudSlotOf(run.World, run.Segment, feud != AngleFeud::Pair));
   if (feud != AngleFeud::TeamsLift) HeatFollowsTalk(run);
 }
 
-void TallyAngle(SegmentRun& run, const AngleScore& angle) {
-  for (const AngleTally& tally : angle.Tallies) {
-    if (tally.From == 0) continue;
-    const int from = PersonOf(run, tally.From), against = PersonOf(run, tally.Against);
-    if (from != 0 && against != 0) TallyVerbal(run, from, against);
+void TallyAngle(SegmentRun& run, const AngleRules& angle) {
+  for (const AnglePair& score : angle.Scores) {
+    if (score.By == kNobody) continue;
+    const int by = PersonOf(run, score.By), on = PersonOf(run, score.On);
+    if (by != 0 && on != 0) TallyVerbal(run, by, on);
   }
 }
 
-void AddProduction(SegmentRun& run) {
-  if (!IsVideo(run.Segment.Style)) return;
-  const int production = run.World.Player().Production;
-  run.Crowd.Add(production / 2 / 2, "production " + std::to_string(production));
-}
-
+/// Only whoever is no diva costs something.
 void AddDivas(SegmentRun& run) {
-  if (!IsForDivas(run.Segment.Style)) return;
   for (const int place : {1, 2}) {
-    const Worker* worker = run.World.FindWorker(UidAt(run.Segment, place));
+    const Worker* worker = WorkerAt(run.World, run.Segment, place);
     if (worker && !worker->Diva)
       run.Crowd.Add(-kDivaLoss - run.World.RandomDraw(kDivaLossDraw), worker->Name + " is no diva");
   }
 }
 
-void AddSpectacle(SegmentRun& run) {
-  if (!IsSpectacle(run.Segment.Style)) return;
+void AddExtra(SegmentRun& run, AngleExtra extra) {
+  if (extra == AngleExtra::Video) {
+    const int production = run.World.Player().Production;
+    run.Crowd.Add(production / 2 / 2, "production " + std::to_string(production));
+  }
+  if (extra == AngleExtra::Divas) AddDivas(run);
+  if (extra != AngleExtra::Spectacle) return;
   run.Crowd.Scale(11, 10, "spectacle");
   run.Crowd.Limit();
 }
@@ -101,21 +101,19 @@ void ScoreInterview(SegmentRun& run) {
   const int opponent = SeatedAs(run.Segment, Casting::Targets).front();
   if (opponent == 0) return;
   // The first two, though in most styles they are partners.
-  FeudLift(run, FeudSlotOf(run.World, UidAt(run.Segment, 1), UidAt(run.Segment, 2)));
+  FeudLift(run, FeudSlotOf(run.World, run.Segment, false));
   HeatFollowsTalk(run);
   for (int place = 1; place <= row->Tallies; ++place)
     TallyVerbal(run, UidAt(run.Segment, place), opponent);
 }
 
 void ScoreAngle(SegmentRun& run) {
-  const AngleScore* angle = FindAngleScore(run.Segment.Style);
+  const AngleRules* angle = FindAngleRules(run.Segment.Style);
   if (!angle) return;
   AddPeople(run, *angle);
   AddAngleFeud(run, angle->Feud);
   TallyAngle(run, *angle);
-  AddProduction(run);
-  AddDivas(run);
-  AddSpectacle(run);
+  AddExtra(run, angle->Extra);
 }
 
 namespace {
@@ -123,28 +121,18 @@ namespace {
 constexpr int kCapBonus = 10;
 constexpr int kTalkDraw = 15;
 
-struct Writers {
-  int Count = 0, Sum = 0, Best = 0;
-};
-
-Writers WritersOf(const World& world) {
-  Writers writers;
-  for (const Staff& staff : world.AllStaff()) {
-    if (!WorksForPlayer(world, staff) || staff.Position != kWriter) continue;
-    ++writers.Count;
-    writers.Sum += staff.Talent;
-    writers.Best = std::max<int>(writers.Best, staff.Talent);
-  }
-  return writers;
-}
-
 }  // namespace
 
 void CapByWriters(SegmentRun& run) {
-  const Writers writers = WritersOf(run.World);
-  if (writers.Count == 0) return;
-  const int mean = writers.Sum / writers.Count;
-  const int cap = (mean + writers.Best) / 2 + kCapBonus;
+  int count = 0, sum = 0, best = 0;
+  for (const Staff& staff : run.World.AllStaff()) {
+    if (!WorksForPlayer(run.World, staff) || staff.Position != kWriter) continue;
+    ++count;
+    sum += staff.Talent;
+    best = std::max<int>(best, staff.Talent);
+  }
+  if (count == 0) return;
+  const int cap = (sum / count + best) / 2 + kCapBonus;
   if (run.Quality <= cap) return;
   run.Quality.Become(cap, "no better than the writing team");
   run.Notes += " This angle would have been better if we had a better writing team. ";
@@ -160,62 +148,8 @@ void RateTalk(SegmentRun& run) {
   run.Overall.Limit();
 }
 
-namespace {
-
-using enum AngleFeud;
-
-// Numbers, people, feud, tallies. A row holds the angles that are scored alike.
-constexpr AngleScore kAngleScores[] = {
-    {{1, 2, 21, 22, 26, 28, 29, 30, 33, 34, 35, 37, 38, 42, 49, 73, 74}, {1, 2}},
-    {{4, 5, 6, 9, 10, 13, 14, 15, 18, 24, 25, 27, 39, 64}, {1, 2}, Pair, {{{2, 1}}}},
-    {{23, 40, 41, 63, 67, 68, 69}, {1, 2}, Pair, {{{1, 2}}}},
-    {{19}, {1, 2}, Pair},
-    {{3, 16}, {1, 2}, None, {{{2, 1}, {3, 1}, {4, 2}, {4, 3}}}},
-    {{12}, {1, 3}, None, {{{3, 1}, {3, 2}, {4, 1}, {4, 2}}}},
-    {{20, 31, 32, 36, 43, 44, 60, 65}, {1}},
-    {{45}, {1}, Pair, {{{1, 2}}}},
-    {{47}, {1, 2, 3}, Pair, {{{2, 1}, {3, 1}}}},
-    {{7}, {1, 2, 3}, None, {{{1, 3}, {2, 3}}}},
-    {{8, 72}, {1, 2, 3}},
-    {{11}, {1, 2, 3, 4}},
-    {{17}, {1, 2, 3, 4}, None, {{{2, 1}, {3, 1}, {4, 1}}}},
-    {{46, 56, 57, 58, 59}, {1, 2, 3, 4}, Teams, {{{1, 3}, {2, 4}}}},
-    {{48}, {1, 2, 3, 4}, TeamsLift},
-    {{50}, {1, kLeader}},
-    {{51, 52, 53, 54, 75, 76, 77, 79}, {1, kLeader}, None, {{{kLeader, 1}}}},
-    {{55}, {1, 2, kLeader}, None, {{{kLeader, 1}, {kLeader, 2}}}},
-    {{78}, {4, 2, 1}, None, {{{4, 1}}}},
-    {{61, 66, 71}, {1, 2}},
-    {{62}, {kLeader}},
-    {{70}, {1, kGuest}},
-};
-
-constexpr int kVideos[] = {60, 61, 62, 65, 66};
-constexpr int kDivaAngles[] = {15, 19};
-constexpr int kSpectacles[] = {24, 25, 26, 37, 38, 58, 59};
-
-template <class Range>
-bool Has(const Range& numbers, int number) {
-  return std::find(std::begin(numbers), std::end(numbers), number) != std::end(numbers);
-}
-
-}  // namespace
-
-const AngleScore* FindAngleScore(int number) {
-  if (number == 0) return nullptr;  // what fills a row up
-  const auto found = std::find_if(std::begin(kAngleScores), std::end(kAngleScores),
-                                  [&](auto& row) { return Has(row.Numbers, number); });
-  return found == std::end(kAngleScores) ? nullptr : &*found;
-}
-
-bool IsVideo(int number) {
-  return Has(kVideos, number);
-}
-bool IsForDivas(int number) {
-  return Has(kDivaAngles, number);
-}
-bool IsSpectacle(int number) {
-  return Has(kSpectacles, number);
+const AngleRules* FindAngleRules(int number) {
+  return number >= 1 && number <= kAngles ? &kAngleRules[number - 1] : nullptr;
 }
 
 }  // namespace grapplemont

@@ -1,39 +1,16 @@
 #include "show/titlechange.h"
 
-#include "show/overchange.h"
-
-#include <algorithm>
-#include <iterator>
-
 #include "report/cast.h"
-#include "show/ratings.h"
+#include "report/stages.h"
+#include "show/overchange.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
 
 namespace {
 
-/// Wins of 1 vs 1 and 2 vs 2 that take a Title along.
-constexpr int kDecisiveFinishes[] = {kClean,    kInterference,     kBotchedInterference, kCheating,
-                                     kSickBump, kMiscommunication, kPartnerTurns};
-
 bool TakesTitles(const Segment& segment) {
-  switch (segment.Style) {
-    case kSingles:
-    case kTag:
-      return std::find(std::begin(kDecisiveFinishes), std::end(kDecisiveFinishes),
-                       int(segment.Finish)) != std::end(kDecisiveFinishes);
-    case kThreeOnThree:
-    case kFourOnFour:
-      return false;
-    default:
-      return true;
-  }
-}
-
-bool Holds(const Title& title, int one, int two) {
-  return (title.Holder == one && title.Partner == two) ||
-         (title.Holder == two && title.Partner == one);
+  return segment.Style != kThreeOnThree && segment.Style != kFourOnFour && PassesTitles(segment);
 }
 
 }  // namespace
@@ -43,6 +20,11 @@ Title* TitleAtStake(World& world, const Segment& segment) {
   for (Title& title : world.Titles())
     if (title.Owner == world.PlayerUid() && title.Name == segment.TitleName.View()) return &title;
   return nullptr;
+}
+
+bool AreChampions(const Title& title, int one, int other) {
+  return (title.Holder == one && title.Partner == other) ||
+         (title.Holder == other && title.Partner == one);
 }
 
 void PassTitle(SegmentRun& run, Title& title, int holder, int partner, std::string_view how) {
@@ -60,7 +42,7 @@ void ChangeTitle(SegmentRun& run) {
     return;
   }
   const std::vector<int> pair = WinnersOf(segment);
-  if (pair.size() == 2 && !Holds(*title, pair[0], pair[1]))
+  if (pair.size() == 2 && !AreChampions(*title, pair[0], pair[1]))
     PassTitle(run, *title, pair[0], pair[1], " won ");
 }
 
@@ -68,6 +50,7 @@ namespace {
 
 /// A Title whose image lies further than this from a champion's Over pulls it along.
 constexpr int kPull = 10;
+constexpr std::string_view kHasLost = " title has lost image.";
 
 int StepTowards(int image, const Worker& champion) {
   return image > champion.Over + kPull ? 1 : image < champion.Over - kPull ? -1 : 0;
@@ -95,8 +78,7 @@ void MoveTitleImage(SegmentRun& run) {
   const int image = title->Image;
   if (title->Holder == 0) {
     title->Image = Score::Floor(image * 3, 4);
-    Tell(run, *title, " title has lost image.");
-    return;
+    return Tell(run, *title, kHasLost);
   }
   int sum = run.Overall, counted = 1;
   for (const int uid : {int(title->Holder), title->Singles ? 0 : int(title->Partner)}) {
@@ -111,7 +93,7 @@ void MoveTitleImage(SegmentRun& run) {
   if (change > 0)
     Tell(run, *title,
          title->Singles ? " title has gained in image." : " titles have gained in image.");
-  if (change < 0) Tell(run, *title, " title has lost image.");
+  if (change < 0) Tell(run, *title, kHasLost);
 }
 
 }  // namespace grapplemont

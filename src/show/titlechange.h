@@ -6,6 +6,8 @@ namespace grapplemont {
 
 /// The player's Title that the Segment names; nullptr for none.
 Title* TitleAtStake(World& world, const Segment& segment);
+/// Whether the two hold it together.
+bool AreChampions(const Title& title, int one, int other);
 /// The Title gets new holders (`partner` 0 for a singles Title), and the notes tell it: " won " or
 /// another way in which they came by it.
 void PassTitle(SegmentRun& run, Title& title, int holder, int partner, std::string_view how);

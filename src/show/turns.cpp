@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <optional>
 
-#include "records/angles.h"
 #include "records/segmentacts.h"
+#include "show/anglerules.h"
 #include "show/overchange.h"
 #include "storylines/partners.h"
 
@@ -146,26 +146,6 @@ void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
 
 namespace {
 
-/// In place of a box: the leader of the angle's stable.
-constexpr int kTheLeader = -1, kNobody = 0;
-
-struct AngleTurn {
-  int Angle;
-  int Turner;  // place
-  int On;      // place, kTheLeader, kNobody
-  bool OnlyPending;
-};
-constexpr AngleTurn kAngleTurns[] = {
-    {kBetterEnemies, 1, 2, false},        {kFaceTurnAngle, 1, 2, false},
-    {kHeelTurnAngle, 1, 2, false},        {kTeamFaceTurn, 1, 3, false},
-    {kTeamFaceTurn, 2, 4, false},         {kTeamHeelTurn, 1, 3, false},
-    {kTeamHeelTurn, 2, 4, false},         {kAmbush, 4, 2, true},
-    {kManagementIssues, 1, 3, true},      {kDivaFever, 3, 1, true},
-    {kStableInduction, 1, kNobody, true}, {kStableKickOut, 1, kTheLeader, true},
-    {kStalkerReveal, 1, 2, true},         {kStalkerCaught, 1, 2, true},
-    {kRejectedProposal, 2, 1, true},
-};
-
 using Calls = std::vector<TurnCall>;
 
 void Add(Calls& calls, int turner, int other) {
@@ -256,15 +236,17 @@ int LeaderBeside(const World& world, const Segment& segment, int uid) {
 }
 
 void AddAngleTurns(Calls& calls, const World& world, const Segment& segment) {
-  for (const AngleTurn& row : kAngleTurns) {
-    if (segment.Style != row.Angle) continue;
-    const int turner = UidAt(segment, row.Turner);
+  const AngleRules* angle = FindAngleRules(segment.Style);
+  if (!angle) return;
+  for (const AnglePair& turn : angle->Turns) {
+    if (turn.By == kNobody) continue;
+    const int turner = UidAt(segment, turn.By);
     const Worker* worker = world.FindWorker(turner);
-    if (!worker || (row.OnlyPending && !worker->TurnPending)) continue;
+    if (!worker || (turn.OnlyPending && !worker->TurnPending)) continue;
     Add(calls, turner,
-        row.On == kTheLeader ? LeaderBeside(world, segment, turner)
-        : row.On == kNobody  ? 0
-                             : UidAt(segment, row.On));
+        turn.On == kLeader   ? LeaderBeside(world, segment, turner)
+        : turn.On == kNobody ? 0
+                             : UidAt(segment, turn.On));
   }
 }
 

@@ -1,8 +1,6 @@
-#include <gtest/gtest.h>
-
-#include "show/feudend.h"
 #include "show/showfeuds.h"
-#include "stage.h"
+#include "showrig.h"
+#include "support/newsof.h"
 
 namespace grapplemont::test {
 namespace {
@@ -28,19 +26,11 @@ TEST(TallyResult, CountsByStyleAndFinish) {
   constexpr std::string_view kCleanWin = "0 0 0 0 : 1 0 0 0", kCheapWin = "0 0 0 0 : 0 1 0 0",
                              kNothing = "0 0 0 0 : 0 0 0 0";
   constexpr Case kCases[] = {
-      {kSingles, 1, kClean, kCleanWin},
       {kSingles, 1, kCountOut, kCleanWin},
-      {kSingles, 1, kInterference, kCheapWin},
-      {kSingles, 1, kSickBump, kCleanWin},
-      {kSingles, 1, kDqThroughInterference, kCheapWin},
-      {kTag, 1, kMiscommunication, kCleanWin},
       {kTag, 1, kPartnerTurns, kCheapWin},
       {kThreeOnThree, 1, kCheapVictory, kCheapWin},
-      {kThreeOnThree, 1, 5, kCheapWin},
       {kFourOnFour, kPlainEightMan, kClean, kCleanWin},
       {kFourOnFour, kSurvivor, kClean, kNothing},
-      {kThreeWay, 1, kClean, kNothing},
-      {kFourTeams, 1, kClean, kNothing},
   };
   for (const Case& c : kCases) {
     Stage stage(Eight().Feud("Gus", "Hal").Feud("Ash", "Hal"));
@@ -56,40 +46,23 @@ TEST(TallyResult, CountsByStyleAndFinish) {
     EXPECT_EQ(Record(stage.W.Feuds()[2]), c.Record) << c.Style << "/" << c.Type << "/" << c.Finish;
     EXPECT_EQ(Record(stage.W.Feuds()[1]), kNothing);
     EXPECT_EQ(stage.Show.FeudTouched[1], c.Record != kNothing);
+    stage.Draw(kDoubleDq);
+    TallyResult(stage.Run);
+    EXPECT_EQ(Record(stage.W.Feuds()[2]), c.Record) << "a draw counts nothing";
   }
 }
 
-TEST(TallyResult, CountsNoDrawAndNoStranger) {
-  Stage stage(Eight().Feud("Ash", "Bea"));
-  stage.Match(kSingles, {"Ash", "Bea"});
-  stage.Draw(kDoubleDq);
-  TallyResult(stage.Run);
-  stage.Match(kSingles, {"Ash", "Cal"});
-  stage.Result("Ash", "Cal");
-  TallyResult(stage.Run);
-  EXPECT_EQ(Record(stage.W.Feuds()[1]), "0 0 0 0 : 0 0 0 0");
-  EXPECT_FALSE(stage.Show.FeudTouched[0]);
-}
-
-TEST(TallyResult, CountsAgainstWhoTakesTheFall) {
-  Stage stage(Eight().Feud("Ash", "Cal").Feud("Ash", "Dot"));
+TEST(Tallies, GoToTheFirstFeudAgainstWhoTakesTheFallAndToTheirSide) {
+  Stage stage(Eight().TagFeud("Bea", "Ash", "Eli", "Dot").Feud("Ash", "Cal").Feud("Dot", "Ash"));
   stage.Match(kTag, {"Ash", "Bea", "Cal", "Dot"});
   stage.Result("Ash", "Dot");
   TallyResult(stage.Run);
-  EXPECT_EQ(stage.W.Feuds()[1].Clean1, 0);
-  EXPECT_EQ(stage.W.Feuds()[2].Clean1, 1);
-}
-
-TEST(Tallies, GoToTheFirstFeudOfTheTwoAndToTheirSide) {
-  Stage stage(Eight().TagFeud("Ash", "Bea", "Cal", "Dot").Feud("Cal", "Ash"));
-  TallyWin(stage.Run, stage.Uid("Cal"), stage.Uid("Ash"), true);
-  TallyVerbal(stage.Run, stage.Uid("Bea"), stage.Uid("Dot"));
-  TallyAttack(stage.Run, stage.Uid("Dot"), stage.Uid("Ash"));
-  TallyAttack(stage.Run, stage.Uid("Dot"), stage.Uid("Ash"));
-  TallyAttack(stage.Run, stage.Uid("Ash"), stage.Uid("Bea"));  // partners
-  TallyAttack(stage.Run, 0, stage.Uid("Bea"));
-  EXPECT_EQ(Record(stage.W.Feuds()[1]), "0 0 1 0 : 1 0 0 2");
+  TallyVerbal(stage.Run, stage.Uid("Dot"), stage.Uid("Bea"));
+  TallyVerbal(stage.Run, stage.Uid("Ash"), stage.Uid("Bea"));  // partners
+  TallyVerbal(stage.Run, 0, stage.Uid("Bea"));
+  EXPECT_EQ(Record(stage.W.Feuds()[1]), "1 0 0 0 : 0 0 1 0");
   EXPECT_EQ(Record(stage.W.Feuds()[2]), "0 0 0 0 : 0 0 0 0");
+  EXPECT_EQ(Record(stage.W.Feuds()[3]), "0 0 0 0 : 0 0 0 0");
 }
 
 TEST(Tallies, CoolAFeudThatOneSideRunsAwayWith) {
@@ -98,9 +71,8 @@ TEST(Tallies, CoolAFeudThatOneSideRunsAwayWith) {
     int Heat, After;
   };
   constexpr Case kCases[] = {
-      {8, 0, 3, 0, 50, 50}, {9, 0, 4, 0, 50, 48}, {4, 0, 9, 0, 50, 48}, {9, 0, 9, 0, 50, 46},
-      {3, 3, 1, 0, 50, 50}, {3, 4, 1, 0, 50, 45}, {3, 4, 0, 1, 50, 50}, {1, 0, 3, 4, 50, 45},
-      {0, 1, 3, 4, 50, 50}, {9, 0, 1, 0, 50, 43}, {9, 0, 1, 0, 6, 0},   {9, 9, 0, 0, 50, 48},
+      {8, 0, 3, 0, 50, 50}, {9, 0, 4, 0, 50, 48}, {4, 0, 9, 0, 50, 48}, {3, 3, 1, 0, 50, 50},
+      {3, 4, 1, 0, 50, 45}, {3, 4, 0, 1, 50, 50}, {1, 0, 3, 4, 50, 45}, {9, 0, 1, 0, 6, 0},
   };
   for (const Case& c : kCases) {
     Stage stage(Eight().Feud("Ash", "Bea", [&](Feud& feud) {
@@ -110,8 +82,6 @@ TEST(Tallies, CoolAFeudThatOneSideRunsAwayWith) {
       feud.Dirty2 = c.CheapB;
       feud.Heat = c.Heat;
     }));
-    TallyAttack(stage.Run, stage.Uid("Ash"), stage.Uid("Bea"));
-    EXPECT_EQ(stage.W.Feuds()[1].Heat, c.Heat) << "attacks never cool";
     TallyVerbal(stage.Run, stage.Uid("Ash"), stage.Uid("Bea"));
     EXPECT_EQ(stage.W.Feuds()[1].Heat, c.After)
         << c.CleanA << "+" << c.CheapA << " : " << c.CleanB << "+" << c.CheapB;
@@ -143,6 +113,7 @@ std::string Attacks(int style, int finish, int aftermath, bool isDraw,
       if (style == kTag) stage.S.Other4 = stage.Uid("Hal");
       TallyAttacks(stage.Run);
       const Feud& feud = stage.W.Feuds()[1];
+      EXPECT_EQ(feud.Heat, 50) << "attacks never cool";
       EXPECT_LE(feud.Sneak1, 1);
       if (feud.Sneak1 == 1) text += (text.empty() ? "" : " ") + std::string(by) + ">" + on;
     }
@@ -162,7 +133,6 @@ TEST(TallyAttacks, OfSinglesComeFromRunInsAndAftermath) {
       {kNoContest, 1, true, "Eli>Ash Eli>Bea"},
       {kDqThroughInterference, 1, false, "Eli>Bea"},
       {kClean, 4, false, "Eli>Bea"},  // the winner, whoever was attacked
-      {kClean, 5, false, "Eli>Ash"},
       {kClean, 6, false, "Eli>Ash Eli>Bea"},
       {kDoubleDq, 4, true, "Eli>Ash"},
       {kInterference, 26, false, "Eli>Ash Fay>Bea Fay>Eli"},
@@ -187,13 +157,11 @@ TEST(TallyAttacks, OfTeamsGoPairByPair) {
       {kBotchedInterference, 1, false, "Cal>Eli Dot>Fay"},
       {kNoContest, 1, true, "Eli>Ash Eli>Cal Fay>Bea Fay>Dot"},
       {kDoubleDq, 9, true, "Ash>Cal Bea>Dot"},
-      {kInterference, 11, false, "Eli>Ash Fay>Bea"},
       {kInterference, 12, false, "Cal>Ash Dot>Bea Eli>Ash Eli>Bea Fay>Bea"},
       {kBotchedInterference, 13, false, "Ash>Eli Bea>Eli Cal>Eli Dot>Fay"},
       {kInterference, 18, false, "Eli>Ash Fay>Bea Gus>Cal Gus>Eli Hal>Dot Hal>Fay"},
       {kDqThroughInterference, 19, false, "Ash>Gus Bea>Hal Eli>Cal Eli>Gus Fay>Dot Fay>Hal"},
       {kClean, 21, false, "Gus>Ash Hal>Ash"},
-      {kClean, 24, false, "Gus>Dot Hal>Dot"},
       {kClean, 25, false, "Gus>Ash Hal>Bea"},
       {kClean, 27, false, "Gus>Ash Gus>Cal Hal>Bea Hal>Dot"},
   };
@@ -264,7 +232,7 @@ void Expect(const Case& c, bool isTeams) {
   };
   const std::string mailA = line(isTeams ? "The Kindling" : "Ash", c.MailA);
   const std::string mailB = line(isTeams ? "Cal \\ Dot" : "Cal", c.MailB);
-  EXPECT_EQ(stage.Mails(), c.FirstWins ? mailA + mailB : mailB + mailA) << c.Why;
+  EXPECT_EQ(NewsOf(stage.W), c.FirstWins ? mailA + mailB : mailB + mailA) << c.Why;
   EXPECT_EQ(stage.W.Feuds()[2].Worker1, 0);
   EXPECT_EQ(stage.W.Feuds()[2].Worker4, 0);
   EXPECT_NE(stage.W.Feuds()[1].Worker1, 0);
@@ -276,22 +244,13 @@ void Expect(const Case& c, bool isTeams) {
 TEST(EndFeud, OfTeamsPaysByTheFirstRuleThatFits) {
   const Case kCases[] = {
       {"barely begun", {1, 1, 0, 0}, {0, 1, 0, 0}, true, 0, 0, "", ""},
-      {"only the last match counts", {2, 1, 0, 0}, {0, 1, 0, 0}, true, 2, -2, "", ""},
       {"no cheap win", {2, 0, 1, 0}, {0, 0, 0, 1}, true, -1, -5, "", ""},
       {"comeback", {1, 0, 0, 0}, {0, 4, 3, 0}, true, 9, 5, kTeamGreat, kTeamBoth},
-      {"comeback of the others", {0, 4, 0, 3}, {1, 0, 0, 0}, false, 5, 9, kTeamBoth, kTeamGreat},
-      {"too near for a comeback", {1, 0, 0, 0}, {0, 4, 2, 0}, true, 2, -2, "", ""},
       {"the one point is no clean win", {0, 1, 0, 0}, {0, 4, 3, 0}, true, 5, 1, "", ""},
-      {"two points are no comeback", {2, 0, 0, 0}, {0, 4, 4, 0}, true, 5, 1, "", ""},
-      {"three cheap wins are too few", {1, 0, 0, 0}, {1, 3, 3, 0}, true, 5, 1, "", ""},
-      {"no long feud yet", {3, 1, 2, 1}, {3, 1, 1, 1}, true, 2, -2, "", ""},
       {"long", {3, 1, 2, 2}, {3, 1, 1, 1}, true, 9, 2, kTeamLong, ""},
-      {"long, by the others", {3, 1, 2, 2}, {3, 1, 1, 1}, false, 2, 9, "", kTeamLong},
       {"long before even", {3, 1, 2, 1}, {3, 1, 2, 1}, true, 9, 2, kTeamLong, ""},
       {"even", {2, 1, 0, 0}, {2, 0, 0, 1}, true, 5, 1, "", ""},
-      {"even, no cheap win", {2, 0, 0, 0}, {2, 0, 0, 0}, false, -2, 2, "", ""},
       {"rout", {4, 3, 0, 0}, {1, 0, 0, 0}, true, 6, -9, "", kTeamRout},
-      {"nearly a rout", {4, 2, 0, 0}, {1, 0, 0, 0}, true, 2, -2, "", ""},
       {"the weak win", {0, 2, 0, 0}, {4, 0, 2, 2}, true, 5, 1, "", ""},
   };
   for (const Case& c : kCases) Expect(c, true);
@@ -299,27 +258,13 @@ TEST(EndFeud, OfTeamsPaysByTheFirstRuleThatFits) {
 
 TEST(EndFeud, OfSinglesPaysABitSooner) {
   const Case kCases[] = {
-      {"barely begun", {1, 1, 0, 0}, {0, 1, 0, 0}, true, 0, 0, "", ""},
       {"comeback", {1, 0, 0, 0}, {0, 4, 3, 0}, true, 9, 5, kHelped, kGreat},
       {"no long feud yet", {3, 1, 2, 1}, {3, 1, 1, 0}, true, 2, -2, "", ""},
       {"long", {3, 1, 2, 1}, {3, 1, 1, 1}, false, 2, 9, "", kExcellent},
       {"even", {2, 1, 0, 0}, {2, 0, 0, 1}, true, 6, 2, "", ""},
       {"rout", {4, 3, 0, 0}, {1, 0, 0, 0}, true, 6, -9, "", kHated},
-      {"the weak win", {0, 2, 0, 0}, {4, 0, 2, 2}, true, 5, 1, "", ""},
   };
   for (const Case& c : kCases) Expect(c, false);
-}
-
-TEST(EndFeud, WithoutAWinnerPaysNobody) {
-  Stage stage(Eight().Feud("Ash", "Cal", Kept({4, 3, 0, 0}, {1, 0, 0, 0})));
-  stage.Match(kSingles, {"Ash", "Cal"});
-  stage.Draw(kDoubleCountOut);
-  stage.S.Purpose = purpose1::kEndFeud;
-  EndFeudByMatch(stage.Run);
-  EXPECT_EQ(stage.Overs(3), (std::vector<int>{50, 50, 50}));
-  EXPECT_EQ(stage.Mails(), "");
-  EXPECT_EQ(stage.W.Feuds()[1].Worker1, 0);
-  EXPECT_TRUE(stage.Show.FeudTouched[0]);
 }
 
 TEST(EndFeud, NeedsItsPurposeAndTheRightPeople) {
@@ -331,58 +276,39 @@ TEST(EndFeud, NeedsItsPurposeAndTheRightPeople) {
   const Ring kRings[] = {
       {kSingles, purpose1::kEndFeud, {"Bea", "Dot"}, true},
       {kSingles, purpose1::kEndFeud, {"Ash", "Bea"}, false},
-      {kSingles, purpose1::kEndFeud, {"Ash", "Eli"}, false},
       {kSingles, purpose1::kContinueFeud, {"Bea", "Dot"}, false},
       {kTag, purpose2::kEndFeud, {"Cal", "Dot", "Bea", "Ash"}, true},
       {kTag, purpose2::kEndFeud, {"Cal", "Ash", "Bea", "Dot"}, false},
-      {kTag, purpose2::kEndFeud, {"Cal", "Dot", "Bea", "Eli"}, false},
       {kTag, purpose1::kEndFeud, {"Cal", "Dot", "Bea", "Ash"}, false},
-      {kThreeWay, 4, {"Ash", "Cal", "Eli"}, false},
+      {kTag, purpose2::kEndFeud, {"Eli", "Fay", "Gus", "Hal"}, false},  // of two, not of teams
   };
   for (const Ring& ring : kRings) {
-    Stage stage(Eight().TagFeud("Ash", "Bea", "Cal", "Dot"));
+    Stage stage(Eight()
+                    .TagFeud("Ash", "Bea", "Cal", "Dot", Kept({4, 3, 0, 0}, {1, 0, 0, 0}))
+                    .Feud("Eli", "Gus"));
     stage.Match(ring.Style, ring.People);
-    stage.Result(*ring.People.begin(), *std::prev(ring.People.end()));
+    stage.Draw(kDoubleCountOut);
     stage.S.Purpose = ring.Purpose;
     EndFeudByMatch(stage.Run);
+    EXPECT_EQ(stage.Overs(4), (std::vector<int>{50, 50, 50, 50})) << "without a winner";
     EXPECT_EQ(stage.W.Feuds()[1].Worker1 == 0, ring.Ends) << *ring.People.begin();
+    EXPECT_NE(stage.W.Feuds()[2].Worker1, 0);
   }
-  Stage stage(Eight().Feud("Ash", "Cal"));
-  stage.Match(kTag, {"Ash", "Bea", "Cal", "Dot"});
-  stage.Result("Ash", "Cal");
-  stage.S.Purpose = purpose2::kEndFeud;
-  EndFeudByMatch(stage.Run);
-  EXPECT_NE(stage.W.Feuds()[1].Worker1, 0) << "a match of teams ends no feud of two men";
 }
 
 TEST(EndFeud, IsWrittenAboutByTemper) {
-  const auto mails = [](bool isTeams, const Counts& a, const Counts& b, std::string_view name) {
-    SmallWorld small = Eight();
-    if (isTeams)
-      small.TagFeud("Ash", "Bea", "Cal", "Dot", Kept(a, b));
-    else
-      small.Feud("Ash", "Cal", Kept(a, b));
-    Stage stage(small.Build());
-    for (Worker& worker : stage.W.Workers()) worker.Attitude = 60;
+  for (const auto& [name, begins] :
+       {std::pair("Ash", "That last feud rocked, it has helped my career a lot!"),
+        {"Maul Gantry", "That last feud rocked, brother, Maulamania is"}}) {
+    Stage stage(Eight().Feud("Ash", "Cal", Kept({1, 0, 0, 0}, {0, 4, 3, 0})));
+    stage["Ash"].Attitude = 60;
+    stage.Match(kSingles, {"Ash", "Cal"});
+    stage.Result("Ash", "Cal");
     stage["Ash"].Name = name;
-    if (isTeams)
-      stage.Match(kTag, {name == "Ash" ? "Ash" : "Maul Gantry", "Bea", "Cal", "Dot"});
-    else
-      stage.Match(kSingles, {name == "Ash" ? "Ash" : "Maul Gantry", "Cal"});
-    stage.Result(name, "Cal");
-    stage.S.Purpose = isTeams ? int{purpose2::kEndFeud} : int{purpose1::kEndFeud};
+    stage.S.Purpose = purpose1::kEndFeud;
     EndFeudByMatch(stage.Run);
-    return stage.W.News()[1].Body.Str();
-  };
-  const Counts one = {1, 0, 0, 0}, many = {0, 4, 3, 0}, some = {4, 4, 0, 0};
-  EXPECT_EQ(mails(true, one, many, "Ash"),
-            "That last feud ruled, we hope the next one is just as good!");
-  EXPECT_EQ(mails(true, some, many, "Ash"), "The previous feud was excellent.");
-  EXPECT_EQ(mails(false, one, many, "Ash"),
-            "That last feud rocked, it has helped my career a lot!");
-  EXPECT_EQ(mails(false, one, many, "Maul Gantry"),
-            "That last feud rocked, brother, Maulamania is running wilder than ever!");
-  EXPECT_NE(mails(false, some, many, "Maul Gantry").find("the Maulster"), std::string::npos);
+    EXPECT_TRUE(stage.W.News()[1].Body.Str().starts_with(begins)) << name;
+  }
 }
 
 }  // namespace

@@ -22,32 +22,23 @@ const ShowRun& ShowOf(const World& world) {
   return world.ShowRuns()[1];
 }
 
-TEST(RunSegment, StoresTheRatingAndAddsItToTheShow) {
-  World world = Tonight(Cast().Game("CWA"), {MatchOf(kSingles), MatchOf(kThreeWay)});
-  const ToldSegment first = RunSegment(world, 1, nullptr);
-  EXPECT_EQ(first.Quality, 55);
-  EXPECT_EQ(first.Crowd, 47);
-  EXPECT_EQ(first.Overall, 51);
-  EXPECT_EQ(world.Segments()[1].Rating, 51);
-  EXPECT_EQ(ShowOf(world).PreviousCrowd, 47);
-  const ToldSegment second = RunSegment(world, 2, nullptr);
-  EXPECT_EQ(ShowOf(world).LastOverall, second.Overall);
-  EXPECT_EQ(ShowOf(world).ShowSum, 51 + second.Overall);
-  EXPECT_EQ(ShowOf(world).ShowSegments, 2);
-}
-
-TEST(RunSegment, LeavesAnEventsFirstOutOfTheSum) {
-  World world = Tonight(Cast().Game("CWA"),
-                        {SegmentOf(kInterview, kSingleTalk, 0, {1}), MatchOf(kSingles)}, true);
-  const int opener = RunSegment(world, 1, nullptr).Overall;
-  EXPECT_EQ(opener, 43);  // of 50
-  EXPECT_EQ(world.Segments()[1].Rating, 43);
-  EXPECT_EQ(ShowOf(world).LastOverall, 43);
-  EXPECT_EQ(ShowOf(world).ShowSum, 0);
-  EXPECT_EQ(ShowOf(world).ShowSegments, 0);
-  RunSegment(world, 2, nullptr);
-  EXPECT_EQ(ShowOf(world).ShowSum, 51);
-  EXPECT_EQ(ShowOf(world).ShowSegments, 1);
+TEST(RunSegment, StoresTheRatingAndAddsItToTheShowButForAnEventsFirst) {
+  for (const bool isEvent : {false, true}) {
+    World world = Tonight(
+        Cast().Game("CWA"),
+        {SegmentOf(kInterview, kSingleTalk, 0, {1}), MatchOf(kSingles), EmptySegment()}, isEvent);
+    EXPECT_EQ(RunSegment(world, 1, nullptr).Overall, 43);  // of 50
+    EXPECT_EQ(world.Segments()[1].Rating, 43);
+    EXPECT_EQ(ShowOf(world).LastOverall, 43);
+    EXPECT_EQ(ShowOf(world).ShowSum, isEvent ? 0 : 43);
+    EXPECT_EQ(RunSegment(world, 2, nullptr).Overall, 51);
+    EXPECT_EQ(ShowOf(world).PreviousCrowd, 47);
+    EXPECT_EQ(ShowOf(world).ShowSum, isEvent ? 51 : 43 + 51);
+    EXPECT_EQ(ShowOf(world).ShowSegments, isEvent ? 1 : 2);
+    const World before = CopyOf(world);
+    EXPECT_EQ(RunSegment(world, 3, nullptr).Overall, 0);
+    ExpectSame(world, before);  // an empty place changes nothing
+  }
 }
 
 TEST(RunSegment, HalvesATitleMatchBeforeTheBurnOutAndTellsAllOfIt) {
@@ -85,30 +76,6 @@ TEST(RunSegment, TakesSellingBeforeSoftWork) {
   const ToldSegment told = RunSegment(world, 1, nullptr);
   EXPECT_EQ(StepsText(told.Quality),
             "mean work of Ash 55, Bea 54 +54, Bea sold nothing -16, Bea worked too softly -4");
-}
-
-TEST(RunSegment, KnowsATitleOnlyAmongThePlayers) {
-  World world = Tonight(Cast().Promotion("NEW").Worker("Nat").Title("Crown", "Nat").Game("CWA"),
-                        {MatchOf(kSingles)});
-  world.Segments()[1].TitleName = "Crown";
-  EXPECT_EQ(RunSegment(world, 1, nullptr).Crowd, 47);
-}
-
-TEST(RunSegment, TakesATenthOfMatchesOnAFlatNightNotOfTalk) {
-  World world =
-      Tonight(Cast().Game("CWA"), {MatchOf(kSingles), SegmentOf(kInterview, kSingleTalk, 0, {3})});
-  world.ShowRuns()[1].FlatNight = true;
-  EXPECT_EQ(RunSegment(world, 1, nullptr).Overall, 45);
-  world.ShowRuns()[1].PreviousCrowd = 99;
-  EXPECT_EQ(RunSegment(world, 2, nullptr).Overall, 43);
-  EXPECT_EQ(ShowOf(world).PreviousCrowd, 99) << "talk does not touch it";
-}
-
-TEST(RunSegment, LeavesAnEmptyPlaceAlone) {
-  World world = Tonight(Cast().Game("CWA"), {EmptySegment()});
-  const World before = CopyOf(world);
-  EXPECT_EQ(RunSegment(world, 1, nullptr).Overall, 0);
-  ExpectSame(world, before);
 }
 
 /// A Segment of any kind with codes that may be in use, among people who may be there.

@@ -62,22 +62,74 @@ inline Segment MatchOf(int style, int type = 1) {
 
 /// A Segment in the middle of its run.
 struct Rig {
-  World TheWorld;
-  Segment Booked;
+  World W;
+  Segment S;
   ShowRun Show;
-  SegmentRun Run{TheWorld, Booked, Show, {}, {}, {}, 1, false, {}};
+  SegmentRun Run{W, S, Show, {}, {}, {}, 1, false, {}};
 
-  Rig(World world, const Segment& segment) : TheWorld(std::move(world)), Booked(segment), Show{} {}
+  Rig(World world, const Segment& segment) : W(std::move(world)), S(segment), Show{} {}
   Rig(const Rig&) = delete;
   Rig& operator=(const Rig&) = delete;
 
-  Worker& Who(int uid) { return *TheWorld.FindWorker(uid); }
-  void Script(std::initializer_list<ScriptedDraw> draws) { ScriptDraws(TheWorld, draws); }
+  Worker& Who(int uid) { return *W.FindWorker(uid); }
+  void Script(std::initializer_list<ScriptedDraw> draws) { ScriptDraws(W, draws); }
   std::vector<int> Touched() const {
     std::vector<int> slots;
     for (int slot = 1; slot <= kFeuds; ++slot)
       if (Show.FeudTouched[static_cast<std::size_t>(slot - 1)]) slots.push_back(slot);
     return slots;
+  }
+};
+
+/// Eight workers of the player's with the uids 1 to 8 and Over 50, all Faces; Bea is a woman.
+inline SmallWorld Eight() {
+  SmallWorld small = Cast(8, [](Worker& w) {
+    w.Disposition = "F";
+    w.Gender = w.Name != "Bea";
+  });
+  small.Game("CWA");
+  return small;
+}
+
+/// A Segment of these about to have its consequences.
+struct Stage : Rig {
+  explicit Stage(World world = Eight()) : Rig(std::move(world), EmptySegment()) {}
+
+  Worker& operator[](std::string_view name) { return Named(W.Workers(), name); }
+  int Uid(std::string_view name) { return name.empty() ? 0 : int((*this)[name].Uid); }
+
+  /// A match, a draw until somebody wins.
+  void Match(int style, std::initializer_list<const char*> names, int type = 1) {
+    Talk(kMatch, style, names);
+    S.MatchType = type;
+    S.Loser = kNoLoser;
+  }
+  void Result(std::string_view winner, std::string_view loser, int finish = kClean) {
+    S.Winner = Uid(winner);
+    S.Loser = Uid(loser);
+    S.Finish = finish;
+  }
+  void Draw(int finish) {
+    S.Winner = 0;
+    S.Loser = kNoLoser;
+    S.Finish = finish;
+  }
+  void Talk(int kind, int style, std::initializer_list<const char*> names) {
+    S.Kind = kind;
+    S.Style = style;
+    std::size_t place = 0;
+    for (const char* name : names) S.Worker[place++] = Uid(name);
+  }
+  void Rate(int quality, int crowd, int overall = 0) {
+    Run.Quality.Become(quality, "");
+    Run.Crowd.Become(crowd, "");
+    Run.Overall.Become(overall, "");
+  }
+  /// Over of the first so many workers.
+  std::vector<int> Overs(int count) const {
+    std::vector<int> overs;
+    for (int number = 1; number <= count; ++number) overs.push_back(W.Workers()[number].Over);
+    return overs;
   }
 };
 

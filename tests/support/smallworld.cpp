@@ -371,16 +371,6 @@ World CopyOf(const World& world) {
   return copy;
 }
 
-void TakeThePast(World& world, const World& from) {
-  const auto take = [](auto& to, const auto& records) {
-    if (records.Exists()) to.Rewrite({records.begin(), records.end()});
-  };
-  take(world.Bouts(), from.Bouts());
-  take(world.Tallies(), from.Tallies());
-  take(world.Reigns(), from.Reigns());
-  take(world.Reports(), from.Reports());
-}
-
 void ExpectSame(const World& world, const World& expected) {
   EXPECT_EQ("", FirstDifference(world, expected));
 }

@@ -117,9 +117,6 @@ auto& Named(R& records, std::string_view name) {
 std::map<std::string, Bytes> BytesOf(const World& world);
 /// A second world of the same bytes, for a comparison later.
 World CopyOf(const World& world);
-/// Puts the matches, tallies, reigns and reports of one world into another, for a look at
-/// everything else.
-void TakeThePast(World& world, const World& from);
 /// Fails the test with the first record and field in which the worlds differ.
 void ExpectSame(const World& world, const World& expected);
 

@@ -23,11 +23,16 @@ constexpr std::array<Figure, 3> kFigures = {{
     {"txtcrowd", "Crowd Reaction", &ToldSegment::Crowd},
     {"txtoverall", "Overall Rating", &ToldSegment::Overall},
 }};
-constexpr int kFigureCount = static_cast<int>(kFigures.size());
-constexpr int kOverallFigure = 3;
+constexpr int kFigureCount = 3, kOverallFigure = 3;
 
 const Figure& FigureAt(int i) {
   return kFigures[static_cast<std::size_t>(i - 1)];
+}
+
+void ShowRatings(World& world, ui::Chart& chart) {
+  const RatingsSoFar ratings = RatingsOfShow(world);
+  chart.Captions = ratings.Rows;
+  chart.Lines = std::vector<ui::Chart::Series>{{"", ratings.Values}};
 }
 
 /// The show told Segment by Segment. It cannot be left but through its end.
@@ -91,7 +96,7 @@ class frmMatchOutput : public ui::Screen {
                         ? "Every Segment has been told. Press Next for what the show came to."
                         : "What has been told so far stands. Press Next for what was to come.");
     ShowFigures();
-    ShowChart();
+    ShowRatings(world(), chtshow);
   }
 
   std::string RowName(int number) { return DescribeSegment(world(), world().Segments()[number]); }
@@ -102,7 +107,7 @@ class frmMatchOutput : public ui::Screen {
     ShowDetails();
     ShowProse();
     ShowFigures();
-    ShowChart();
+    ShowRatings(world(), chtshow);
   }
 
   void ShowDetails() {
@@ -148,12 +153,6 @@ class frmMatchOutput : public ui::Screen {
     txtwhy.WriteLines(WhyText(figure.Caption, (*told_).*figure.Of));
   }
 
-  void ShowChart() {
-    const RatingsSoFar ratings = RatingsOfShow(world());
-    chtshow.Captions = ratings.Rows;
-    chtshow.Lines = std::vector<ui::Chart::Series>{{"", ratings.Values}};
-  }
-
   void Finish() {
     if (!ShowIsClosed(world())) CloseShow(world());
     desk().Open("frmPostShow");
@@ -190,30 +189,21 @@ class frmMatchOutput : public ui::Screen {
   ui::Button cmdnext{*this, "cmdnext", "Next", &frmMatchOutput::cmdnext_Click};
 };
 
-}  // namespace
-
-SCREEN(frmMatchOutput)
-
-namespace {
-
 /// What the show came to.
-class frmPostShow : public ui::Screen {
+class frmPostShow : public GameScreen {
  public:
   explicit frmPostShow(Game& game)
-      : Screen(game.Desk(), "frmPostShow", "Recap Sheet"), game_(game) {}
+      : GameScreen(game, "frmPostShow", "Recap Sheet", {.Back = "To The Next Day"}) {}
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblrating;
-    page.Actions = {&cmdnotepad, &cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Group("The Segments", {lbltitle, ui::Grow(lstrecap)}).Grow(3),
-         ui::Rows({ui::Group("How the rating came about", {ui::Grow(lstsum)}).Grow(2),
-                   ui::Group("Segment by Segment", {lblbest, lblworst, ui::Grow(chtshow)}).Grow(3)})
-             .Grow(2)});
-    return page;
+    return PageOf(
+        ui::Columns(
+            {ui::Group("The Segments", {lbltitle, ui::Grow(lstrecap)}).Grow(3),
+             ui::Rows(
+                 {ui::Group("How the rating came about", {ui::Grow(lstsum)}).Grow(2),
+                  ui::Group("Segment by Segment", {lblbest, lblworst, ui::Grow(chtshow)}).Grow(3)})
+                 .Grow(2)}),
+        &lblrating, {&cmdnotepad});
   }
 
   void Load() override {
@@ -230,22 +220,17 @@ class frmPostShow : public ui::Screen {
       lstrecap.Add({ui::Cell(line.Number), line.What,
                     ui::Cell(line.Rating, std::to_string(line.Rating) + "%")});
     for (const ScoreStep& step : recap.Sum) lstsum.Add({step.Why, ui::Cell(step.Change)});
-    const RatingsSoFar ratings = RatingsOfShow(world());
-    chtshow.Captions = ratings.Rows;
-    chtshow.Lines = std::vector<ui::Chart::Series>{{"", ratings.Values}};
+    ShowRatings(world(), chtshow);
   }
 
  private:
-  World& world() { return game_.World(); }
-
-  void cmdback_Click() {
+  void cmdback_Click() override {
     LeaveShow(world());
     game_.AdvanceDay(false);
     Close();
   }
 
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lbltitle{*this, "lbltitle"};
   ui::Label lblrating{*this, "lblrating"};
   ui::ListBox lstrecap{
@@ -255,11 +240,11 @@ class frmPostShow : public ui::Screen {
   ui::Label lblworst{*this, "lblworst"};
   ui::Chart chtshow{*this, "chtshow", true};
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", [this] { desk().Open("frmNotepad"); }};
-  ui::Button cmdback{*this, "cmdback", "To The Next Day", &frmPostShow::cmdback_Click};
 };
 
 }  // namespace
 
+SCREEN(frmMatchOutput)
 SCREEN(frmPostShow)
 
 }  // namespace grapplemont

@@ -1,6 +1,7 @@
 #include "words/tables/embedtables.h"
 
 #include <algorithm>
+#include <cctype>
 #include <sstream>
 
 #include "words/tables/tablecheck.h"
@@ -25,6 +26,21 @@ std::string CastCode(const Column& column, const std::string& cell) {
   return (hasCommissioner ? "true, {{" : "false, {{") + boxes + "}}";
 }
 
+/// "1 Leader" as {1, kLeader}, "2>1 3?>1" as {{{2, 1}, {3, 1, true}}}.
+std::string PlacesCode(const Column& column, const std::string& cell) {
+  std::string code;
+  for (const std::string& each : CellsOf(cell, ' ')) {
+    std::string places;
+    for (const std::string& place : PlacesIn(each))
+      places += (places.empty() ? "" : ", ") +
+                (std::isdigit(place[0]) ? place : std::string(column.Before) + place);
+    if (column.Is == Column::Pairs)
+      places = "{" + places + (each.find('?') == each.npos ? "}" : ", true}");
+    code += (code.empty() ? "" : ", ") + places;
+  }
+  return column.Is == Column::Pairs ? "{{" + code + "}}" : "{" + code + "}";
+}
+
 std::string CellCode(const Table& table, const TableRow& row, std::string_view title) {
   if (title[0] == '"') return std::string(title.substr(1));
   const std::size_t number = ColumnOf(table, title);
@@ -42,6 +58,9 @@ std::string CellCode(const Table& table, const TableRow& row, std::string_view t
       return std::string(column.Before) + cell;
     case Column::Cast:
       return CastCode(column, cell);
+    case Column::Places:
+    case Column::Pairs:
+      return PlacesCode(column, cell);
     default:
       return Quoted(cell + std::string(column.Behind));
   }

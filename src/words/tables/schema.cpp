@@ -123,7 +123,7 @@ TableFile Segments() {
 TableFile Angles() {
   return {
       "angles.txt",
-      {{"angles", {"records/segmentwords.h"}}},
+      {{"angles", {"records/segmentwords.h"}}, {"anglerules", {"show/anglerules.h"}}},
       {{"Angles",
         {{"No", Number},
          {"Rule", RuleName},
@@ -133,6 +133,11 @@ TableFile Angles() {
          {"Size under", Number, "kAnySize"},
          {"Date", Text, "{}"},
          {"Summary", Text, "{}"},
+         {"Talk", Places, "", "k", {"Leader", "Guest"}},
+         {"Feud", Choice, "AngleFeud::None", "AngleFeud::", {"Pair", "Teams", "TeamsLift"}},
+         {"Scores", Pairs, "{}", "k", {"Leader"}},
+         {"Extra", Choice, "AngleExtra::None", "AngleExtra::", {"Video", "Divas", "Spectacle"}},
+         {"Turns", Pairs, "{}", "k", {"Leader", "Nobody"}},
          {"Cast",
           Cast,
           "",
@@ -148,7 +153,11 @@ TableFile Angles() {
         {{"angles",
           "Angle",
           "kAllAngles",
-          {"No", "Says", "Sheet", "Risk over", "Size under", "Date", "Cast", "Text", "Summary"}}}}},
+          {"No", "Says", "Sheet", "Risk over", "Size under", "Date", "Cast", "Text", "Summary"}},
+         {"anglerules",
+          "AngleRules",
+          "kAngleRules",
+          {"Talk", "Feud", "Scores", "Extra", "Turns"}}}}},
       {}};
 }
 

@@ -18,7 +18,9 @@ struct Column {
     RuleName,  // letters and digits; becomes an enumerator or a constant with a k before it
     Choice,    // one of Choices
     Rule,      // a rule name of the table Of, which stands above
-    Cast       // the boxes of an angle
+    Cast,      // the boxes of an angle
+    Places,    // of an angle's people, one of Choices among them: "1 2 Leader"
+    Pairs      // of such: "2>1 3>1"; "3?>1" for one who is not sure
   };
   std::string_view Title;
   Kind Is = Text;

@@ -32,6 +32,12 @@ std::string NoSuch(std::string_view what, std::string_view name, const Texts& na
   return "there is no " + std::string(what) + " " + InQuotes(name) + DidYouMean(name, names);
 }
 
+std::string WhyNotOneOf(const Texts& choices, const std::string& cell) {
+  return std::find(choices.begin(), choices.end(), cell) == choices.end()
+             ? NoSuch("such thing as", cell, choices)
+             : std::string();
+}
+
 std::string Joined(const Texts& texts) {
   std::string joined;
   for (const std::string_view text : texts)
@@ -79,6 +85,19 @@ std::string WhyNoCast(const std::string& cell, const Column& column) {
   unsigned taken = 0;
   for (const BoxText& box : boxes)
     if (std::string why = WhyNoBox(box, column, taken); !why.empty()) return why;
+  return {};
+}
+
+std::string WhyNoPlaces(const std::string& cell, const Column& column) {
+  const bool arePairs = column.Is == Column::Pairs;
+  for (const std::string& each : CellsOf(cell, ' ')) {
+    const auto places = PlacesIn(each);
+    if (places.size() != (arePairs ? 2 : 1))
+      return InQuotes(each) + (arePairs ? " is no pair like 2>1" : " is no place from 1 to 4");
+    for (const std::string& place : places)
+      if (place.size() != 1 || place[0] < '1' || place[0] > '0' + kPlaces)
+        if (std::string why = WhyNotOneOf(column.Choices, place); !why.empty()) return why;
+  }
   return {};
 }
 
@@ -176,15 +195,12 @@ class Reader {
         return WhyNotOneOf(RulesOf(column.Of), cell);
       case Column::Cast:
         return WhyNoCast(cell, column);
+      case Column::Places:
+      case Column::Pairs:
+        return WhyNoPlaces(cell, column);
       default:
         return {};
     }
-  }
-
-  static std::string WhyNotOneOf(const Texts& choices, const std::string& cell) {
-    return std::find(choices.begin(), choices.end(), cell) == choices.end()
-               ? NoSuch("such thing as", cell, choices)
-               : std::string();
   }
 
   /// The rule names of a table that stands above.
@@ -278,6 +294,11 @@ std::vector<BoxText> BoxesOf(const std::string& cell) {
     boxes.push_back(std::move(box));
   }
   return boxes;
+}
+
+std::vector<std::string> PlacesIn(std::string each) {
+  if (const auto unsure = each.find("?>"); unsure != each.npos) each.erase(unsure, 1);
+  return CellsOf(each, '>');
 }
 
 TableTexts ReadTables(const TableFile& file, const WordsText& text,

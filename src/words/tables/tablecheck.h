@@ -29,6 +29,9 @@ struct BoxText {
 /// Of a sound cell.
 std::vector<BoxText> BoxesOf(const std::string& cell);
 
+/// Both of a pair "3?>1", the one of a place.
+std::vector<std::string> PlacesIn(std::string each);
+
 /// The number of a column; it must exist.
 std::size_t ColumnOf(const Table& table, std::string_view title);
 
