@@ -31,21 +31,26 @@ Title* LeftBehind(World& world, std::string_view name) {
   return any;
 }
 
-/// "CWA Crown", or "CWA Crown II" and on where somebody has a Title of that name.
-std::string TitleNameOf(const World& world, const Promotion& promotion, std::string_view what) {
-  const std::string plain = promotion.Initials + " " + std::string(what);
+/// "CWA Crown", or "CWA Crown II" and on where that is taken.
+template <class Taken>
+std::string NumberedName(const std::string& plain, Taken isTaken) {
   std::string name = plain;
-  const auto isHeld = [&](const Title& title) {
-    return title.Owner != kNoEnd && title.Name == name;
-  };
   for (const char* behind : {" II", " III", " IV"})
-    if (std::ranges::any_of(world.Titles(), isHeld)) name = plain + behind;
+    if (isTaken(name)) name = plain + behind;
   return name;
+}
+
+bool IsHeld(const World& world, std::string_view name) {
+  return std::ranges::any_of(world.Titles(), [&](const Title& title) {
+    return title.Owner != kNoEnd && title.Name == name;
+  });
 }
 
 /// A Title that comes back keeps its past.
 void FoundTitle(World& world, const Promotion& promotion, std::string_view what, bool singles) {
-  const TitleTerms terms{.Name = TitleNameOf(world, promotion, what), .Singles = singles};
+  const std::string plain = promotion.Initials + " " + std::string(what);
+  const auto isHeld = [&](std::string_view name) { return IsHeld(world, name); };
+  const TitleTerms terms{.Name = NumberedName(plain, isHeld), .Singles = singles};
   Title title =
       VacantTitle(world, terms, promotion.Uid, BySize(tuning::kNewTitleImage, promotion.Size));
   Title* before = LeftBehind(world, terms.Name);
@@ -184,10 +189,8 @@ bool IsRoomFor(const World& world) {
 void Employ(World& world, Promotion& promotion) {
   Staff owner;
   owner.Uid = NextStaffUid(world);
-  std::string name = kStranger;
-  for (const char* behind : {" II", " III", " IV"})
-    if (!StaffNameFree(world, name)) name = kStranger + std::string(behind);
-  owner.Name = name;
+  owner.Name =
+      NumberedName(kStranger, [&](std::string_view name) { return !StaffNameFree(world, name); });
   owner.Gender = true;
   owner.BirthMonth = world.RandomDraw(12);
   owner.Age = 44;

@@ -40,10 +40,6 @@ bool Takes(World& world, int size, int talent) {
   return false;
 }
 
-bool HasOwner(const World& world, int promotionUid) {
-  return OwnerOf(world, promotionUid) != nullptr;
-}
-
 Staff* FindOwnerFor(World& world, int size) {
   for (Staff& staff : world.AllStaff())
     if (staff.Employer == 0 && staff.Position == kOwner && Takes(world, size, staff.Talent))
@@ -95,7 +91,7 @@ void TakeOver(World& world, Promotion& promotion, Staff& owner) {
   owner.ContractMonths = kNoEnd;
   owner.Unsackable = false;
   NoteDeed(world, kDeedOwner, &promotion, owner.Name);
-  const bool isOwn = promotion.Uid == world.PlayerUid();
+  const bool isOwn = IsPlayers(world, promotion);
   if (!isOwn) FollowOwner(promotion, owner);
   // The mail options are about rivals alone.
   if (isOwn || ShouldTell(world, world.Game().MailOwners, promotion.Size))
@@ -125,7 +121,7 @@ void FollowOwner(Promotion& rival, const Staff& owner) {
 
 void OwnerlessPromotions(World& world) {
   for (Promotion& promotion : world.Promotions()) {
-    if (!IsAlive(promotion) || HasOwner(world, promotion.Uid) ||
+    if (!IsAlive(promotion) || OwnerOf(world, promotion.Uid) ||
         world.RandomDraw(kDaysBetweenOwners) != 1)
       continue;
     if (Staff* owner = FindOwnerFor(world, promotion.Size)) TakeOver(world, promotion, *owner);
