@@ -46,43 +46,6 @@ TEST(AdvanceDay, RunsItsBlocksInTheirFixedOrder) {
   EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1).size(), 5u + 17 + 5);
 }
 
-TEST(AdvanceDay, AnswersTapesOnlyOnTheFirstOfAMonth) {
-  for (const auto& [morning, left] :
-       {std::pair<Day, int>{year{2026} / 3 / 31, 4}, {year{2026} / 4 / 1, 0}}) {
-    World world =
-        SmallWorld().Network("Nine").Promotion("CWA").Game("CWA", morning - std::chrono::days{1});
-    world.Game().TapeWait = 4;
-    AdvanceDay(world, false);
-    EXPECT_EQ(world.Game().TapeWait, left) << IsoDate(morning);
-  }
-}
-
-TEST(AdvanceDay, SweepsAwayWhatHasCeasedToExist) {
-  World world = SmallWorld()
-                    .Network("Nine")
-                    .Promotion("CWA")
-                    .Promotion("DED")
-                    .Worker("Gone Under", kMainEvent, 85)
-                    .Show("Last Hour", "Friday", "Nine")
-                    .Game("CWA");
-  Named(world.Promotions(), "DED").Name = kToBeDeleted;
-  AdvanceDay(world, false);
-  EXPECT_EQ(world.Promotions().Count(), 1);
-  EXPECT_EQ(world.Shows().Count(), 0);
-  EXPECT_EQ(Named(world.Workers(), "Gone Under").Employer, 0);
-  for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
-}
-
-TEST(Events, AreEnsuredForTheMonthsThatLackOne) {
-  World world =
-      SmallWorld().Promotion("CWA").Promotion("NEW").Event(5, 1, "May Mayhem").Game("CWA");
-  const Promotion& rival = Named(world.Promotions(), "NEW");
-  EnsureEvents(world, rival);
-  ASSERT_EQ(world.Events().Count(), 12);
-  EXPECT_EQ(world.Events()[1].Name.View(), "May Mayhem");
-  EXPECT_EQ(world.Events()[12].Name.View(), "NEW in December");
-}
-
 /// CWA with Events in March and May; a rival with one in April.
 SmallWorld Planned(int size = kRegional) {
   SmallWorld small;

@@ -97,35 +97,6 @@ TEST(ChangeImage, TellsOfARivalUnderTheOptionsAndLetsItSpendByItsStanding) {
   }
 }
 
-TEST(ChangeImage, LiftsPlayerAndPeopleAClass) {
-  World world =
-      TwoPromotions(kCult, 93).Promotion("OTH").Worker("Someone Else", kMainEvent, 70).Game("CWA");
-  Promotion& player = world.Player();
-  Named(world.Workers(), "CWA Top").OverFloor = 0;
-  Named(world.Workers(), "CWA Held").OverFloor = 72;
-  ScriptDraws(world, {{5, 3}, {5, 5}, {5, 2}});
-  ChangeImage(world, player, 7, true);
-  EXPECT_EQ(player.Image, 10);
-  EXPECT_EQ(player.Size, kNational);
-  EXPECT_EQ(world.Session.StartSize, kNational);
-  struct Lifted {
-    const char* Name;
-    int Over, Floor, Potential;
-  };
-  constexpr Lifted kLifted[] = {{"CWA Top", 96, 70, 90},
-                                {"CWA Held", 67, 72, 92},
-                                {"CWA Low", 4, 0, 30},
-                                {"CWA Away", 40, 0, 70},
-                                {"Someone Else", 70, 0, 70}};
-  for (const Lifted& lifted : kLifted) {
-    const Worker& worker = Named(world.Workers(), lifted.Name);
-    EXPECT_EQ(worker.Over, lifted.Over) << lifted.Name;
-    EXPECT_EQ(worker.OverFloor, lifted.Floor) << lifted.Name;
-    EXPECT_EQ(worker.Potential, lifted.Potential) << lifted.Name;
-  }
-  EXPECT_EQ(NewsOf(world), "Maeve: We have risen to National level.\n");
-}
-
 TEST(ChangeImage, LiftsNobodyWhoIsKeptAway) {
   for (const int position : {kDevelopmentDeal + 0, kTrainingCamp + 0, 79}) {
     World world = SmallWorld()
@@ -141,23 +112,6 @@ TEST(ChangeImage, LiftsNobodyWhoIsKeptAway) {
     EXPECT_EQ(Named(world.Workers(), "At Hand").OverFloor, 80);
     EXPECT_EQ(Named(world.Workers(), "At Hand").Potential, 100);
   }
-}
-
-TEST(ChangeImage, SetsTheTypeOfEveryEventOfThePromotion) {
-  struct Case {
-    int Size, Image, Type;
-  };
-  constexpr Case kCases[] = {
-      {kNational, 61, 1}, {kNational, 60, 2}, {kRegional, 99, 3}, {kBackyard, 50, 4}};
-  for (const Case& c : kCases)
-    for (const char* initials : {"CWA", "NEW"}) {
-      World world = TwoPromotions(c.Size, c.Image).Game("CWA");
-      for (Event& event : world.Events()) event.Type = 4;
-      Promotion& promotion = Named(world.Promotions(), initials);
-      ChangeImage(world, promotion, 0, true);
-      for (const Event& event : world.Events())
-        EXPECT_EQ(event.Type, event.Owner == promotion.Uid ? c.Type : 4) << c.Size << c.Image;
-    }
 }
 
 /// What a size's ladder comes to over all ratings, weighed by the rating: a row or a step that

@@ -61,12 +61,6 @@ TEST(IncidentScreen, TellsOfEachKind) {
     const char* Words;
   };
   const Case kCases[] = {
-      {{kFight, "Bram Okafor"}, {}, "Bram Okafor has been involved in a backstage fight!"},
-      {{kLate, "Ilya Marsh"}, {}, "Ilya Marsh showed up very late to our last show!"},
-      {{kPolice, "Cal Drift"},
-       {},
-       "Cal Drift has been involved in a police incident! Apparently he was carrying drugs when "
-       "stopped."},
       {{kPolice, "Ann Teal"},
        {},
        "Ann Teal has been involved in a police incident! Apparently she was carrying drugs when "
@@ -75,10 +69,6 @@ TEST(IncidentScreen, TellsOfEachKind) {
        {{3, 1}},
        "Cal Drift has been forced to check into rehab because of personal problems!\nThe stay "
        "takes 2 months."},
-      {{kInjury, "Moe Flint"},
-       {{12, 9}, {6, 1}},
-       "Moe Flint has sustained an injury!\nKnee Injury, out for 1 month."},
-      {{kJobOffer, "NEW"}, {}, "NEW owner Lou Hart would like to offer you a job. "},
       {{kJobOffer, "BRD"}, {}, "The BRD board would like to offer you a job. "},
   };
   for (const Case& c : kCases) {
@@ -92,20 +82,6 @@ TEST(IncidentScreen, TellsOfEachKind) {
     backstage.Play.Desk.Click("cmdignore");
     EXPECT_FALSE(backstage.Waits());
     EXPECT_EQ(backstage.Play.World().Incidents()[1].Type, 0);
-  }
-}
-
-TEST(IncidentScreen, SuspendsForTheMonthsOfTheButton) {
-  constexpr int kMonths[] = {1, 3, 6, 12};
-  for (int i = 1; i <= 4; ++i) {
-    Backstage backstage({{kFight, "Bram Okafor"}});
-    const std::string button = "cmdsuspend(" + std::to_string(i) + ")";
-    EXPECT_EQ(backstage.Play.Desk.Text(button),
-              "Suspend " + std::to_string(kMonths[i - 1]) + (i == 1 ? " Month" : " Months"));
-    backstage.Play.Desk.Click(button);
-    EXPECT_EQ(backstage.Who("Bram Okafor").Status.View(), "Sus");
-    EXPECT_EQ(backstage.Who("Bram Okafor").StatusMonths, kMonths[i - 1]);
-    EXPECT_FALSE(backstage.Waits());
   }
 }
 

@@ -84,64 +84,6 @@ TEST(Loans, EndACareerOrARivalWhenThreePaymentsAreMissed) {
   }
 }
 
-TEST(MonthEnd, SellsChargesAndBooks) {
-  World world = SmallWorld().Promotion("CWA").Promotion("NEW").Game("CWA");
-  MerchandiseIncome(world);
-  EXPECT_EQ(NewsOf(world), "") << "without merchandise there is nothing to tell";
-  for (Promotion& promotion : world.Promotions()) {
-    promotion.Money = 3000000;
-    promotion.Advertising = 40;
-    promotion.Merchandising = 30;
-    promotion.Production = 41;
-  }
-  MerchandiseIncome(world);
-  MonthlyCosts(world);
-  for (const Promotion& promotion : world.Promotions()) {
-    EXPECT_EQ(promotion.ThisMonth.MerchIncome, 600000);
-    EXPECT_EQ(promotion.ThisMonth.AdvertisingCost, 400000);
-    EXPECT_EQ(promotion.ThisMonth.MerchCost, 600000);
-    EXPECT_EQ(promotion.ThisMonth.ProductionCost, 410000);
-    EXPECT_EQ(promotion.Money, 3000000 + 600000 - 1410000);
-  }
-  EXPECT_EQ(NewsOf(world), "Finance Dept.: We made $600000 off merchandise this month.\n");
-}
-
-TEST(CloseMonthBooks, LeavesAnEntryOfEveryPromotionThatLives) {
-  constexpr Day kMarch{std::chrono::year{2026} / 3 / 1}, kApril{std::chrono::year{2026} / 4 / 1};
-  World world =
-      SmallWorld().Promotion("CWA", kCult).Promotion("NEW").Promotion("OLD").Game("CWA", kApril);
-  Named(world.Promotions(), "OLD").Name = kToBeDeleted;
-  struct Crowd {
-    int Days, Kind, Promotion, People;  // days from the first of March
-  };
-  const int player = world.PlayerUid(), rival = Named(world.Promotions(), "NEW").Uid;
-  for (const Crowd& crowd : {Crowd{-1, kPastTv, player, 1000},
-                             {0, kPastTv, player, 200},
-                             {7, kPastMonth, player, 5000},
-                             {7, kPastTv, rival, 40},
-                             {28, kPastEvent, player, 3000},
-                             {31, kPastTv, player, 9000}}) {
-    HistoryEntry entry{};
-    entry.On = kMarch + std::chrono::days{crowd.Days};
-    entry.Kind = crowd.Kind;
-    entry.Promotion = crowd.Promotion;
-    entry.Attendance = crowd.People;
-    entry.Size = kCult;
-    world.History().Append(entry);
-  }
-  world.Player().Money = 95000000;
-  world.Player().ThisMonth.MerchCost = 7;
-  CloseMonthBooks(world);
-  ASSERT_EQ(world.History().Count(), 6 + 2);
-  const HistoryEntry& own = world.History()[7];
-  EXPECT_EQ(own.Promotion, player);
-  EXPECT_EQ(own.Attendance, 200 + 3000) << "of March, and the player's shows alone";
-  EXPECT_EQ(own.Costs, 7);
-  EXPECT_EQ(own.Money, 90000000) << "as the close held it";
-  EXPECT_EQ(world.Player().ThisMonth.MerchCost, 0);
-  EXPECT_EQ(world.History()[8].Promotion, rival);
-}
-
 /// The player's CWA is Regional with image 50: a standing of 250, and $2000000.
 World Reviewed(const std::array<int, 4>& ranks, const std::array<int, 4>& money, bool owned) {
   SmallWorld small;
@@ -262,6 +204,108 @@ TEST(Money, MovesThroughTheBooksAlone) {
       books = Balance(world.Player().ThisMonth) - Balance(before.ThisMonth);
     }
     ASSERT_EQ(moved, books) << IsoDate(world.Today());
+  }
+}
+
+/// "Bram Okafor" and "Pat Bell" at the player's CWA or at the rival NEW (both have $2000000), with
+/// so many months.
+World Contracts(bool isPlayers, int months, const Change<Worker>& worker = {},
+                const Change<Staff>& staff = {}) {
+  SmallWorld small;
+  small.Promotion(isPlayers ? "NEW" : "CWA").Promotion(isPlayers ? "CWA" : "NEW");
+  return small
+      .Worker("Bram Okafor", kMidcard, 72,
+              [&](Worker& w) {
+                w.ContractMonths = months;
+                w.Wage = 12;
+                if (worker) worker(w);
+              })
+      .Staff("Pat Bell", kReferee, 50,
+             [&](Staff& s) {
+               s.ContractMonths = months;
+               s.Wage = 7;
+               if (staff) staff(s);
+             })
+      .Game("CWA");
+}
+
+TEST(Wages, AreNotPaidToWhoSitsOutOrHasNoContract) {
+  World home = Contracts(true, 8, [](Worker& worker) { worker.Status = "Hom"; });
+  PayWagesAndContracts(home);
+  EXPECT_EQ(home.Workers()[1].ContractMonths, 7) << "the contract runs all the same";
+  EXPECT_EQ(home.Player().ThisMonth.WrestlerWages, 0);
+
+  for (const bool isFree : {true, false}) {
+    World world = Contracts(
+        true, isFree ? 0 : int(kNoEnd),
+        [&](Worker& worker) {
+          worker.Unsackable = !isFree;
+          if (isFree) worker.Employer = 0;
+          if (isFree) worker.ContractType = "Non";
+        },
+        [&](Staff& staff) {
+          if (isFree) staff.Employer = 0;
+          if (isFree) staff.ContractType = "Non";
+          if (!isFree) staff.Position = kOwner;
+        });
+    const World before = CopyOf(world);
+    PayWagesAndContracts(world);
+    ExpectSame(world, before);
+  }
+}
+
+TEST(Contracts, ThatStoodAtNothingArePaidOnceMoreAndHaveNoEndFromThenOn) {
+  for (const bool isPlayers : {true, false}) {
+    World world = Contracts(isPlayers, 0);
+    for (int month = 1; month <= 2; ++month) PayWagesAndContracts(world);
+    EXPECT_EQ(world.Workers()[1].ContractMonths, kNoEnd);
+    EXPECT_NE(world.Workers()[1].Employer, 0);
+    EXPECT_EQ(world.Promotions()[2].ThisMonth.WrestlerWages, 12000);
+    EXPECT_EQ(NewsOf(world), "");
+  }
+}
+
+TEST(Contracts, EndAtARivals) {
+  struct Case {
+    int Option;
+    bool Listed, Small, WorkerTold, StaffTold;
+  };
+  constexpr Case kCases[] = {{0, false, true, true, true},   {1, false, false, true, true},
+                             {1, false, true, false, false}, {2, false, false, false, false},
+                             {2, true, true, true, false},   {1, true, true, true, false}};
+  for (const Case& c : kCases) {
+    World world = Contracts(false, 1, [](Worker& worker) {
+      worker.Position = kTrainingCamp;
+      worker.Status = "Hom";
+      worker.TurnPending = true;
+    });
+    for (const bool isWorker : {false, true}) {
+      Show show;
+      show.Owner = world.AllStaff()[1].Employer;
+      show.Announcer = show.Colour = 1;
+      show.ColourIsWorker = isWorker;
+      world.Shows().Append(show);
+    }
+    world.Workers()[1].Manager = 1;
+    world.Game().MailWorkerFire = world.Game().MailStaffFire = c.Option;
+    if (c.Listed) world.Game().Shortlist[14] = 1;
+    if (c.Small) Named(world.Promotions(), "NEW").Size = kSmall;
+    ScriptDraws(world, {});
+    PayWagesAndContracts(world);
+    const Worker& worker = world.Workers()[1];
+    EXPECT_EQ(worker.Position, kMidcard) << "as Over 72 earns it";
+    EXPECT_EQ(worker.Employer, 0);
+    EXPECT_EQ(worker.Status.View(), "Nor");
+    EXPECT_EQ(worker.ContractType.View(), "Non");
+    EXPECT_EQ(worker.Manager, 0);
+    EXPECT_FALSE(worker.TurnPending);
+    EXPECT_EQ(world.AllStaff()[1].Employer, 0);
+    EXPECT_EQ(world.Shows()[1].Announcer, 0);
+    EXPECT_EQ(world.Shows()[1].Colour, 0);
+    EXPECT_EQ(NewsOf(world),
+              std::string(c.WorkerTold ? "NEW News: Bram Okafor has left NEW.\n" : "") +
+                  (c.StaffTold ? "NEW News: Pat Bell has left the staff of NEW.\n" : ""))
+        << c.Option << c.Listed << c.Small;
   }
 }
 

@@ -65,32 +65,6 @@ Worker& Sol(World& world) {
 
 const ScriptedDraw kSkillsStay{5, 3};
 
-TEST(Birthdays, ComeInTheMonthAfterAndMoveTheSkills) {
-  for (const auto& [today, birthMonth, comes] :
-       {std::tuple(Day{std::chrono::year{2026} / 1 / 1}, 12, true),
-        {Day{std::chrono::year{2026} / 2 / 1}, 1, true},
-        {Day{std::chrono::year{2026} / 12 / 1}, 11, true},
-        {Day{std::chrono::year{2026} / 12 / 1}, 12, false},
-        {Day{std::chrono::year{2026} / 1 / 1}, 1, false}}) {
-    World world = With("CWA");
-    world.Game().Today = today;
-    Sol(world).BirthMonth = birthMonth;
-    ScriptDraws(world, comes ? Script{kSkillsStay} : Script{});
-    AgeAndRetire(world);
-    EXPECT_EQ(Sol(world).Age, comes ? 29 : 28);
-  }
-  World world = With("CWA", [](Worker& worker) {
-    worker.Brawl = 98;
-    worker.Technical = 2;
-    worker.Speed = 60;
-  });
-  ScriptDraws(world, {{5, 4}, {5, 5}, {5, 1}, {5, 1}, {5, 5}, {5, 3}, {5, 2}});
-  AgeAndRetire(world);
-  EXPECT_EQ(Sol(world).Brawl, 100);
-  EXPECT_EQ(Sol(world).Technical, 0);
-  EXPECT_EQ(Sol(world).Speed, 61);
-}
-
 TEST(Retirement, IsDrawnByAgeAndToldByTheOptionTheShortlistAndOnesOwn) {
   struct Case {
     int AgeBefore;
@@ -137,39 +111,6 @@ TEST(Retirement, IsDrawnByAgeAndToldByTheOptionTheShortlistAndOnesOwn) {
   }
 }
 
-TEST(Retirement, MakesTheOldNonWrestlersFirst) {
-  struct Case {
-    int AgeBefore, Position;
-    Script Draws;  // after the skills: the end, then the ring
-    bool Leaves;
-    std::string_view Name = "Sol Varga";
-  };
-  const Case kCases[] = {{39, kMidcard, {{40, 2}}, false},
-                         {40, kMidcard, {{40, 2}, {25, 5}}, true},
-                         {48, kMidcard, {{15, 2}, {25, 4}}, false},
-                         {49, kMidcard, {{15, 2}}, true},
-                         {50, 83, {{3, 2}}, true},
-                         {50, kNonWrestler, {{3, 2}}, false},
-                         {80, kMidcard, {}, true, "Tobias Fenn"}};  // who never ends
-  for (const Case& c : kCases)
-    for (const char* employer : {"CWA", "NEW", ""}) {
-      SCOPED_TRACE(std::to_string(c.AgeBefore) + " at " + employer);
-      World world = With(employer, [&](Worker& worker) {
-        worker.Name = c.Name;
-        worker.Age = c.AgeBefore;
-        worker.Position = c.Position;
-      });
-      ScriptDraws(world, Then({kSkillsStay}, c.Draws));
-      AgeAndRetire(world);
-      EXPECT_FALSE(world.Workers()[1].RetiringSoon);
-      EXPECT_EQ(world.Workers()[1].Position, c.Leaves ? int(kNonWrestler) : c.Position);
-      const bool told = c.Leaves && std::string_view(employer) == "CWA";
-      EXPECT_EQ(NewsOf(world), told ? "News Desk: " + std::string(c.Name) +
-                                          " has decided to become a 'non wrestler'!\n"
-                                    : "");
-    }
-}
-
 TEST(Retirement, WaitsForTheMonthAfterABirthdayEvenIfAnnouncedBefore) {
   for (const int drawn : {1, 2}) {
     World world = With("CWA", [](Worker& worker) {
@@ -194,46 +135,6 @@ Script Rookie() {
           {45, 6},  {10, 1},  {6, 2},  {25, 10}, {moves, 1}, {moves, 2}, {30, 30},
           {20, 3},  {20, 4},  {15, 5}, {12, 7},  {2, 2},     {35, 1},    {20, 2},
           {70, 1},  {70, 2},  {14, 1}, {14, 14}, {30, 3},    {30, 29},   {30, 30}};
-}
-
-TEST(Retirement, TakesPlaceInAMonthThatIsNotTheBirthdays) {
-  World world = With("CWA", [](Worker& worker) { worker.Age = 70; });
-  const int uid = Sol(world).Uid;
-  ScriptDraws(world, {kSkillsStay});
-  AgeAndRetire(world);
-  EXPECT_TRUE(Sol(world).RetiringSoon) << "not gone in the month of the announcement";
-  world.Game().Today = std::chrono::year{2026} / 4 / 1;
-  world.News().Remove();
-  ScriptDraws(world, Rookie());
-  AgeAndRetire(world);
-  EXPECT_EQ(NewsOf(world), "Retirement!: Sol Varga has retired from CWA!\n");
-  ASSERT_EQ(world.Workers().Count(), 1);
-  const Worker& rookie = world.Workers()[1];
-  EXPECT_EQ(rookie.Uid, uid + 1);
-  EXPECT_EQ(rookie.Name.Str(), std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[0]));
-  EXPECT_EQ(rookie.Employer, 0);
-  EXPECT_EQ(rookie.Position, kLowerMidcard);
-  EXPECT_EQ(rookie.Over, 20);
-  EXPECT_EQ(rookie.Potential, 49);
-  EXPECT_EQ(rookie.OverFloor, 0);
-  EXPECT_FALSE(rookie.RetiringSoon);
-}
-
-TEST(Retirement, GivesARookieAtLeastThirtyPotentialAndNoFloorBelowNothing) {
-  for (const auto& [potential, floor, potentialAfter, floorAfter] :
-       {std::tuple(1, 1, 30, 19), {11, 20, 31, 0}}) {
-    World world = With("", [](Worker& worker) {
-      worker.BirthMonth = 6;
-      worker.RetiringSoon = true;
-    });
-    Script draws = Rookie();
-    draws.end()[-2] = {30, potential};
-    draws.end()[-1] = {30, floor};
-    ScriptDraws(world, draws);
-    AgeAndRetire(world);
-    EXPECT_EQ(world.Workers()[1].Potential, potentialAfter);
-    EXPECT_EQ(world.Workers()[1].OverFloor, floorAfter);
-  }
 }
 
 TEST(Retirement, LeavesNoLinkBehind) {

@@ -12,7 +12,6 @@ using std::chrono::year;
 
 constexpr Day kLastSunday{year{2026} / 3 / 29};
 constexpr Day kFriday{year{2026} / 3 / 6};
-constexpr Day kTuesday{year{2026} / 3 / 3};
 
 SmallWorld Company(int size = kCult) {
   SmallWorld small;
@@ -101,26 +100,6 @@ TEST(PlayerShowConsequences, PayTellAndRememberTelevision) {
   }
 }
 
-TEST(PlayerShowConsequences, SellAPayPerView) {
-  World world = Company(kRegional).Event(3, 1, "Big One").Game("CWA", kLastSunday);
-  world.Session.ShowRating = 45;
-  ScriptDraws(world, {{3, 2}, {100, 50}});
-  PlayerShowConsequences(world, false);
-  const HistoryEntry& entry = world.History()[1];
-  EXPECT_EQ(entry.Viewers, 6 + 2) << "a buy rate";
-  EXPECT_EQ(entry.Income, 200000 + 8 * 25000 + entry.Attendance * 20);
-  EXPECT_EQ(entry.Costs, 1500000);
-}
-
-TEST(PlayerShowConsequences, AreNoneOnAPlainDay) {
-  World world = Company().Event(3, 2).Game("CWA", kTuesday);
-  world.Session.ShowRating = 95;
-  const World before = CopyOf(world);
-  ScriptDraws(world, {});
-  PlayerShowConsequences(world, false);
-  ExpectSame(world, before);
-}
-
 TEST(PlayerShowConsequences, CostMoneyAndImageWhenAShowIsNotHeld) {
   struct Case {
     Day On;
@@ -207,81 +186,6 @@ SmallWorld Rival(int size, const std::vector<Post>& people) {
   small.Sponsor("Gulp", [](Sponsor& s) { s.Pay = 105; });
   small.Sponsor("Crunch", [](Sponsor& s) { s.Pay = 95; });
   return small;
-}
-
-// At Cult size a quality of 48 lifts an Event by 2 and television by 1; 47 takes 1 off.
-TEST(RivalShows, WeighTheRoster) {
-  struct Case {
-    Day On;
-    std::vector<Post> People;
-    int Image;
-  };
-  const Post kBelow[] = {{kOpener, 0}, {kJobber, 100}, {kDevelopmentDeal, 100}, {81, 100}};
-  for (const Case& c :
-       {Case{kLastSunday, {{kNonWrestler, 44}, {kManager, 44}}, 52},
-        {kLastSunday, {{kNonWrestler, 43}, {kManager, 44}, {kLowerMidcard, 99}}, 49},
-        {kFriday, {{kLowerMidcard, 44}, {kMidcard, 44}}, 51},
-        {kFriday, {{kLowerMidcard, 43}, {kMidcard, 44}, {kManager, 100}}, 49}}) {
-    std::vector<Post> people = {{kMainEvent, 60}, {kUpperMidcard, 40}, {kMidcard, 40}};
-    people.insert(people.end(), c.People.begin(), c.People.end());
-    people.insert(people.end(), std::begin(kBelow), std::end(kBelow));
-    World world = Rival(kCult, people).Game("CWA", c.On);
-    RivalShows(world);
-    EXPECT_EQ(Named(world.Promotions(), "NEW").Image, c.Image);
-  }
-}
-
-TEST(RivalShows, HoldAnEventThatNobodyHadPlanned) {
-  const std::vector<Post> people(6, {kMidcard, 70});
-  World world = Rival(kCult, people).Game("CWA", kLastSunday);
-  ScriptDraws(world, {{50, 20}});
-  RivalShows(world);
-  const Promotion& rival = Named(world.Promotions(), "NEW");
-  ASSERT_EQ(world.Events().Count(), 1);
-  EXPECT_EQ(world.Events()[1].Name.View(), "NEW in March");
-  EXPECT_EQ(rival.Image, 54);
-  EXPECT_EQ(rival.ThisMonth.SponsorIncome, 200000);
-  EXPECT_EQ(rival.ThisMonth.TicketIncome, 820 * 30);
-  EXPECT_EQ(rival.ThisMonth.ProductionCost, 25000);
-  EXPECT_EQ(rival.Money, 5000000 + 200000 + 24600 - 25000);
-  EXPECT_EQ(rival.Merchandising, 60) << "and spends by its standing";
-  EXPECT_EQ(NewsOf(world),
-            "NEW News: NEW in March was attended by 820 people!\n"
-            "They made $24600 from ticket sales.\n");
-  EXPECT_EQ(Named(world.Shows(), "New Sunday").Rating3, 0) << "no television on an Event's day";
-  EXPECT_EQ(world.Player().Money, 2000000) << "the player's own show is another step's";
-}
-
-TEST(RivalShows, SellAPayPerView) {
-  World world = Rival(kGlobal, std::vector<Post>(3, {kMainEvent, 85})).Game("CWA", kLastSunday);
-  ScriptDraws(world, {{4, 2}, {1000, 500}});
-  RivalShows(world);
-  const Promotion& rival = Named(world.Promotions(), "NEW");
-  EXPECT_EQ(rival.Image, 54);
-  EXPECT_EQ(rival.ThisMonth.PpvIncome, 144 * 25000);
-  EXPECT_EQ(rival.Money, 20000000 + 200000 + 3600000 + 15500 * 60 - 1500000);
-  EXPECT_EQ(NewsOf(world),
-            "NEW News: NEW got a 1.44 buy rate for 'NEW in March'!\n"
-            "The event was attended by 15500 people.\n"
-            "They made $3600000 from pay-per-view revenue.\n"
-            "They made $930000 from ticket sales.\n");
-}
-
-TEST(RivalShows, RunTelevisionWithTheThirdPersonsWords) {
-  World world = Rival(kCult, std::vector<Post>(6, {kMidcard, 70})).Game("CWA", kFriday);
-  Promotion& rival = Named(world.Promotions(), "NEW");
-  rival.Risk = 61;
-  ScriptDraws(world, {{10, 5}, {20, 12}});
-  RivalShows(world);
-  EXPECT_EQ(rival.Image, 52);
-  EXPECT_EQ(rival.ThisMonth.SponsorIncome, 35000);
-  EXPECT_EQ(rival.Money, 5000000 + 35000 + 412 * 30);
-  const Show& show = Named(world.Shows(), "New Hour");
-  EXPECT_EQ(show.Rating3, 225);
-  EXPECT_EQ(show.Rating4, 1) << "a strike, and no mail to the player";
-  EXPECT_EQ(NewsOf(world),
-            "NEW News: NEW got a 2.25 television rating for 'New Hour'!\n"
-            "The event was attended by 412 people.\nThey made $12360 from ticket sales.\n");
 }
 
 TEST(RivalShows, AreCalledOffWithTooFewPeople) {

@@ -13,52 +13,6 @@ World One(const Change<Worker>& change, std::string_view name = "Bram Okafor") {
   return SmallWorld().Promotion("CWA").Worker(name, kMidcard, 50, change).Game("CWA");
 }
 
-TEST(DailyUpkeep, RestsThePlayersPeopleAsTheMedicsCan) {
-  struct Case {
-    int Roster, Medics, Draw;
-  };
-  constexpr Case kCases[] = {{30, 0, 5}, {31, 1, 2}, {31, 2, 5}};
-  for (const Case& c : kCases) {
-    SmallWorld small;
-    small.Promotion("CWA").Crew(c.Roster).Staff("Bell Ringer", kReferee);
-    for (int i = 0; i < c.Medics; ++i) small.Staff("Medic " + std::to_string(i), kMedical);
-    World world = small.Promotion("NEW").Staff("Rival Medic", kMedical).Game("CWA");
-    for (Worker& worker : world.Workers()) worker.Condition = 40;
-    ScriptDraws(world, std::vector<ScriptedDraw>(static_cast<std::size_t>(c.Roster),
-                                                 ScriptedDraw(c.Draw, c.Draw)));
-    DailyWorkerUpkeep(world);
-    EXPECT_EQ(world.Workers()[1].Condition, 40 + c.Draw);
-  }
-}
-
-TEST(DailyUpkeep, LeavesOthersToThemselves) {
-  struct Case {
-    bool Employed;
-    int Morale, Condition, Draw, MoraleAfter, ConditionAfter;
-  };
-  constexpr Case kCases[] = {
-      {true, 64, 50, 1, 65, 50}, {true, 65, 50, 2, 65, 51}, {false, 30, 99, 2, 30, 100}};
-  for (const Case& c : kCases) {
-    SmallWorld small;
-    small.Promotion("CWA").Staff("Mine", kReferee).Promotion("NEW").Staff("Theirs", kReferee);
-    if (!c.Employed) small.OnTheMarket();
-    World world = small
-                      .Worker("Bram Okafor",
-                              [&](Worker& worker) {
-                                worker.Morale = c.Morale;
-                                worker.Condition = c.Condition;
-                                worker.Behaviour = 0;
-                              })
-                      .Game("CWA");
-    ScriptDraws(world, {{2, c.Draw}});
-    DailyWorkerUpkeep(world);
-    EXPECT_EQ(world.Workers()[1].Morale, c.MoraleAfter);
-    EXPECT_EQ(world.Workers()[1].Condition, c.ConditionAfter);
-    EXPECT_EQ(world.AllStaff()[2].Morale, world.AllStaff()[1].Morale + 1);
-    EXPECT_EQ(NewsOf(world), "");
-  }
-}
-
 void Unhappy(Worker& worker) {
   worker.ContractType = "Non";
   worker.Behaviour = 79;
@@ -163,38 +117,6 @@ TEST(DailyUpkeep, MovesTheMoodOfThoseKeptAway) {
   }
 }
 
-TEST(StatusCountdown, EndsEachAbsenceAtItsTime) {
-  struct Case {
-    const char* Status;
-    int Months, MonthsAfter;
-    const char* From;  // nullptr: it goes on
-  };
-  constexpr Case kCases[] = {{"Inj", 1, 0, "injury"},     {"Reh", 1, 0, "rehab"},
-                             {"Sus", 1, 0, "suspension"}, {"Sus", 12, 11, nullptr},
-                             {"Hom", 1, 1, nullptr},      {"Nor", 1, 1, nullptr}};
-  for (const Case& c : kCases)
-    for (const bool isPlayers : {true, false}) {
-      SCOPED_TRACE(std::string(c.Status) + std::to_string(c.Months));
-      World world = SmallWorld()
-                        .Promotion("NEW")
-                        .Promotion("CWA")
-                        .Worker("Sol Varga")
-                        .Game(isPlayers ? "CWA" : "NEW");
-      Worker& sol = world.Workers()[1];
-      sol.Status = c.Status;
-      sol.StatusMonths = c.Months;
-      sol.InjuryName = "Broken Leg";
-      ScriptDraws(world, {});
-      StatusCountdown(world);
-      EXPECT_EQ(sol.Status.View(), c.From ? "Nor" : c.Status);
-      EXPECT_EQ(sol.StatusMonths, c.MonthsAfter);
-      EXPECT_EQ(sol.InjuryName.View(), c.From ? "" : "Broken Leg");
-      EXPECT_EQ(NewsOf(world), isPlayers && c.From ? "Roster News: Sol Varga has returned from " +
-                                                         std::string(c.From) + ".\n"
-                                                   : "");
-    }
-}
-
 TEST(EconomyDrift, MovesByItsBands) {
   struct Case {
     int Before;
@@ -219,29 +141,95 @@ TEST(EconomyDrift, MovesByItsBands) {
   }
 }
 
-TEST(WriterWorkload, BringsAMailWhenTheWritersAreTooFew) {
-  struct Case {
-    int Shows, Writers;
-    const char* Mail;
-  };
-  constexpr Case kCases[] = {
-      {0, 0, ""},
-      {1, 2, ""},
-      {1, 0,
-       "Maeve: Our writers can't keep up. For 1 television show we need at least 2 writers, and we "
-       "have none. Until we hire more, i can't put any angles on television.\n"},
-      {2, 3,
-       "Maeve: Our writers can't keep up. For 2 television shows we need at least 4 writers, and "
-       "we have 3. Until we hire more, i can't put any angles on television.\n"}};
-  constexpr const char* kDays[] = {"Monday", "Tuesday"};
-  for (const Case& c : kCases) {
-    SmallWorld small;
-    small.Network("Nine").Promotion("CWA");
-    for (int i = 0; i < c.Shows; ++i) small.Show("Show " + std::to_string(i), kDays[i], "Nine");
-    for (int i = 0; i < c.Writers; ++i) small.Staff("Pen " + std::to_string(i), kWriter);
-    World world = small.Promotion("NEW").Staff("Rival Pen", kWriter).Game("CWA");
-    WriterWorkload(world);
-    EXPECT_EQ(NewsOf(world), c.Mail);
+/// The player's CWA with a territory under a booker, and "Sol Varga" there.
+World Territory(int talent, const Change<Worker>& change = {}) {
+  World world = SmallWorld()
+                    .Promotion("NEW")
+                    .Worker("Al Other", kDevelopmentDeal, 10)
+                    .Promotion("CWA")
+                    .Staff("Kit Booker", kRoadAgent, talent)
+                    .Worker("Sol Varga", kDevelopmentDeal, 40,
+                            [&](Worker& worker) {
+                              worker.Potential = 70;
+                              worker.Charisma = 95;
+                              worker.Stiff = 50;
+                              if (change) change(worker);
+                            })
+                    .Game("CWA");
+  world.Player().DevName = "Ohio Ring";
+  world.Player().DevBooker = Named(world.AllStaff(), "Kit Booker").Uid;
+  return world;
+}
+
+std::string Improved(const std::string& pieces) {
+  return pieces.empty() ? ""
+                        : "Development: Sol Varga in Ohio Ring has improved in the following "
+                          "areas: " +
+                              pieces + "\n";
+}
+
+TEST(DevelopmentMonth, LetsTheOutgrownFret) {
+  const char* const kWords[] = {"is unhappy about remaining in Ohio Ring.",
+                                "doesn't want to remain in Ohio Ring.",
+                                "wants to be promoted to the full roster.",
+                                "feels that Ohio Ring isn't helping her career much.",
+                                "is not happy about being stuck in Ohio Ring."};
+  for (int mail = 1; mail <= 5; ++mail) {
+    World world = Territory(99, [&](Worker& worker) {
+      worker.Over = 70;
+      worker.Gender = false;
+      worker.Behaviour = 50;
+      worker.Morale = 60;
+    });
+    world.Game().MailDev = 2;
+    ScriptDraws(world, {{2, 2}, {5, 4}, {5, mail}});
+    DevelopmentMonth(world);
+    const Worker& sol = Named(world.Workers(), "Sol Varga");
+    EXPECT_EQ(sol.Behaviour, 48);
+    EXPECT_EQ(sol.Morale, 56);
+    EXPECT_EQ(NewsOf(world), std::string("Development: Sol Varga ") + kWords[mail - 1] + "\n");
+  }
+  World world = Territory(80, [](Worker& worker) { worker.Over = 68; });
+  ScriptDraws(world, {{4, 2}, {2, 1}, {5, 1}, {5, 4}});
+  DevelopmentMonth(world);
+  EXPECT_EQ(NewsOf(world),
+            Improved("Over (2 points);") +
+                "Development: Sol Varga feels that Ohio Ring isn't helping his career much.\n")
+      << "already in the month in which he gets there";
+}
+
+/// The player's CWA with a camp under a head trainer, and "Sol Varga" in it.
+World Camp(int talent, int facilities) {
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Staff("Pop Grim", kTrainer, talent)
+                    .Worker("Sol Varga", kTrainingCamp, 10,
+                            [](Worker& worker) {
+                              worker.Brawl = 10;
+                              worker.Technical = 20;
+                              worker.Speed = 30;
+                              worker.Sell = 40;
+                              worker.Attitude = 50;
+                            })
+                    .Worker("Al Jobber", kJobber, 10)
+                    .Game("CWA");
+  world.Player().CampName = "Pump House";
+  world.Player().CampFacilities = facilities;
+  world.Player().HeadTrainer = Named(world.AllStaff(), "Pop Grim").Uid;
+  return world;
+}
+
+TEST(TrainingCampMonth, NeedsACampAHeadTrainerAndATrainee) {
+  const Change<World> kLacks[] = {[](World& w) { w.Player().HeadTrainer = 0; },
+                                  [](World& w) { w.Player().CampName = "None"; },
+                                  [](World& w) { w.Workers()[1].Employer = 99; }};
+  for (const Change<World>& lacks : kLacks) {
+    World world = Camp(99, 4);
+    lacks(world);
+    ScriptDraws(world, {});
+    const World before = CopyOf(world);
+    TrainingCampMonth(world);
+    ExpectSame(world, before);
   }
 }
 
