@@ -61,17 +61,14 @@ void FoundTitle(World& world, const Promotion& promotion, std::string_view what,
     world.Titles().Append(title);
 }
 
-}  // namespace
-
+/// Whether no promotion has the name or the initials, or had them until today.
 bool IsNameFree(const World& world, std::string_view name, std::string_view initials) {
   return std::ranges::none_of(world.Promotions(),
                               [&](auto& p) { return p.Name == name || p.Initials == initials; });
 }
 
-int CountPromotions(const World& world) {
-  return static_cast<int>(std::ranges::count_if(world.Promotions(), IsAlive));
-}
-
+/// A promotion of this name without people, sponsors, Titles or a past. Size, money, image and risk
+/// are the caller's to set before `Open`.
 Promotion NewPromotion(const World& world, std::string_view name, std::string_view initials) {
   Promotion promotion;
   promotion.Uid = NextPromotionUid(world);
@@ -87,6 +84,8 @@ Promotion NewPromotion(const World& world, std::string_view name, std::string_vi
   return promotion;
 }
 
+/// It opens today: spends as its size does, enters the file, and looks for workers and staff at
+/// once.
 Promotion& Open(World& world, Promotion promotion) {
   const RivalSpending spending = RivalSpendingFor(promotion.Size);
   promotion.Merchandising = spending.Merchandising;
@@ -99,6 +98,8 @@ Promotion& Open(World& world, Promotion promotion) {
   FitPosts(world, opened, Posts(world));
   return opened;
 }
+
+}  // namespace
 
 void FoundTitles(World& world, const Promotion& promotion) {
   FoundTitle(world, promotion, "Crown", true);
@@ -148,7 +149,7 @@ void OpenSomewhere(World& world) {
 }  // namespace
 
 void NewPromotionCheck(World& world) {
-  const int count = CountPromotions(world);
+  const auto count = std::ranges::count_if(world.Promotions(), IsAlive);
   const bool opens = world.RandomDraw(count < kFewPromotions ? 3 : 5) == kOpens;
   if (opens && count < kManyPromotions && !world.Promotions().Full() && AnyNameLeft(world))
     OpenSomewhere(world);

@@ -86,6 +86,13 @@ constexpr const char* kWelcomes[] = {
 // By the owner's style: how risky he wants his shows.
 constexpr std::array<int, 6> kRisks = {70, 30, 10, 40, 85, 20};
 
+/// What a new boss writes to the player.
+std::string OwnersWelcome(const World& world, const Staff& owner) {
+  for (const OwnVoice& voice : kOwnVoices)
+    if (owner.Name == voice.Owner) return voice.Words;
+  return kWelcomes[static_cast<std::size_t>(TasteOf(world, owner.Employer) - 1)];
+}
+
 void TakeOver(World& world, Promotion& promotion, Staff& owner) {
   owner.Employer = promotion.Uid;
   owner.ContractMonths = kNoEnd;
@@ -106,12 +113,6 @@ std::string WhoDecides(const World& world, const Promotion& promotion) {
   const Staff* owner = OwnerOf(world, promotion.Uid);
   return owner ? promotion.Initials + " owner " + owner->Name.Str()
                : "The " + promotion.Initials.Str() + " board";
-}
-
-std::string OwnersWelcome(const World& world, const Staff& owner) {
-  for (const OwnVoice& voice : kOwnVoices)
-    if (owner.Name == voice.Owner) return voice.Words;
-  return kWelcomes[static_cast<std::size_t>(TasteOf(world, owner.Employer) - 1)];
 }
 
 void FollowOwner(Promotion& rival, const Staff& owner) {
