@@ -78,7 +78,7 @@ std::string Learn(World& world, Worker& worker, const Lesson& lesson) {
   return Piece("Over", over) + Piece("Charisma", charisma) + Piece("Stiffness", stiffness);
 }
 
-/// One of five.
+/// By a draw of five.
 std::string Complaint(const Worker& worker, const std::string& territory, int drawn) {
   constexpr std::array<std::string_view, 5> kWords = {
       "{who} is unhappy about remaining in {there}.", "{who} doesn't want to remain in {there}.",

@@ -26,7 +26,7 @@ const BankruptcyLine& BankruptcyLineOf(int size);
 
 // Buying a rival out of its debts.
 
-/// From a quarter of the way to the line on where the bank closes it.
+/// A quarter of the debt is enough for which its bank would close it.
 bool IsForSale(const Promotion& rival);
 
 enum class Takeover { Complete, Destruction };

@@ -54,7 +54,8 @@ TEST(MainScreen, LeadsToEveryScreenOfTheSideBar) {
   play.Desk.Open("frmMainScreen");
   EXPECT_EQ(play.Desk.Badge("cmdmeeting"), "today");
   int screens = 0;
-  for (const ui::SideGroup& group : play.Desk.Top()->Layout().Side)
+  const std::vector<ui::SideGroup> side = play.Desk.Top()->Layout().Side;
+  for (const ui::SideGroup& group : side)
     for (const auto& command : group.Commands) {
       const std::string button = command.Press->Name();
       if (button == "cmdquit") continue;

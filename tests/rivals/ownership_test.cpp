@@ -68,9 +68,10 @@ TEST(OwnerlessPromotions, BringThePlayerANewBoss) {
                       .Staff(name, kOwner, 50, [](Staff& owner) { owner.Wage = 2; })
                       .Game("CWA");
     world.Game().MailOwners = 2;
+    world.Player().Risk = 55;
     ScriptDraws(world, {{14, 1}, {2, 1}});
     OwnerlessPromotions(world);
-    EXPECT_EQ(world.Player().Risk, 30) << "the player's product is the player's";
+    EXPECT_EQ(world.Player().Risk, 55) << "the player's product is the player's";
     EXPECT_EQ(NewsOf(world), "News Desk: " + std::string(name) +
                                  " has taken over control of CWA Wrestling!\n" + name + ": " +
                                  words + "\n");
