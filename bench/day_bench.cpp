@@ -121,11 +121,10 @@ void BM_Step(benchmark::State& state, Step step, int morning) {
 }
 
 const bool kStepsRegistered = [] {
-  const std::pair<std::span<const Step>, int> kBlocks[] = {{DailySteps(), kPlain},
-                                                           {MondaySteps(), kMonday},
-                                                           {FirstOfMonthSteps(), kFirst},
-                                                           {SecondFirstOfMonthSteps(), kFirst},
-                                                           {ClosingSteps(), kPlain}};
+  const std::pair<std::span<const Step>, int> kBlocks[] = {{kDayBlocks.Daily, kPlain},
+                                                           {kDayBlocks.Monday, kMonday},
+                                                           {kDayBlocks.FirstOfMonth, kFirst},
+                                                           {kDayBlocks.Closing, kPlain}};
   for (const auto& [steps, morning] : kBlocks)
     for (const Step& step : steps)
       benchmark::RegisterBenchmark(("BM_Step/" + InWords(step.Name)).c_str(), BM_Step, step,

@@ -43,10 +43,9 @@ void WorldInFiles::WalkAll(int times) const {
 
 int WalksOn(Day morning) {
   const auto count = [](auto steps) { return static_cast<int>(steps.size()); };
-  int walks = 2 + count(DailySteps()) + count(ClosingSteps());
-  if (IsMonday(morning)) walks += count(MondaySteps());
-  if (IsFirstOfMonth(morning))
-    walks += count(FirstOfMonthSteps()) + count(SecondFirstOfMonthSteps());
+  int walks = 2 + count(kDayBlocks.Daily) + count(kDayBlocks.Closing);
+  if (IsMonday(morning)) walks += count(kDayBlocks.Monday);
+  if (IsFirstOfMonth(morning)) walks += count(kDayBlocks.FirstOfMonth);
   return walks;
 }
 

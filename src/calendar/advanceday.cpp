@@ -40,11 +40,7 @@ constexpr Step kFirstOfMonth[] = {
     STEP(RivalContractRenewals), STEP(SponsorContractCountdown),
     STEP(LoanRepayments),        STEP(MerchandiseIncome),
     STEP(MonthlyCosts),          STEP(MonthlyReview),
-};
-
-constexpr Step kSecondFirstOfMonth[] = {
-    STEP(CloseMonthBooks),
-    STEP(BankruptcyCheck),
+    STEP(CloseMonthBooks),       STEP(BankruptcyCheck),
     STEP(NewPromotionCheck),
 };
 
@@ -72,21 +68,7 @@ void MoveDate(World& world) {
 
 }  // namespace
 
-std::span<const Step> DailySteps() {
-  return kDaily;
-}
-std::span<const Step> MondaySteps() {
-  return kMonday;
-}
-std::span<const Step> FirstOfMonthSteps() {
-  return kFirstOfMonth;
-}
-std::span<const Step> SecondFirstOfMonthSteps() {
-  return kSecondFirstOfMonth;
-}
-std::span<const Step> ClosingSteps() {
-  return kClosing;
-}
+const DayBlocks kDayBlocks{kDaily, kMonday, kFirstOfMonth, kClosing};
 
 void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher) {
   world.Session.StartSize = world.Player().Size;
@@ -96,10 +78,7 @@ void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher) {
   world.Session.StartSize = world.Player().Size;
   Walk(world, kDaily, watcher);
   if (IsMonday(world.Today())) Walk(world, kMonday, watcher);
-  if (IsFirstOfMonth(world.Today())) {
-    Walk(world, kFirstOfMonth, watcher);
-    Walk(world, kSecondFirstOfMonth, watcher);
-  }
+  if (IsFirstOfMonth(world.Today())) Walk(world, kFirstOfMonth, watcher);
   Walk(world, kClosing, watcher);
 }
 

@@ -17,12 +17,11 @@ struct Step {
   void (*Run)(World&);
 };
 
-// The day's blocks; their order is a rule, since each step reads what the last one wrote.
-std::span<const Step> DailySteps();
-std::span<const Step> MondaySteps();
-std::span<const Step> FirstOfMonthSteps();
-std::span<const Step> SecondFirstOfMonthSteps();
-std::span<const Step> ClosingSteps();
+/// The day's blocks; their order is a rule, since each step reads what the last one wrote.
+struct DayBlocks {
+  std::span<const Step> Daily, Monday, FirstOfMonth, Closing;
+};
+extern const DayBlocks kDayBlocks;
 
 /// Hears the name of each step of the new day before it runs; what the old day leaves behind comes
 /// first and untold, since it may show screens of its own.
@@ -33,8 +32,6 @@ void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher = {});
 /// Plain days pass, one at least and a month at most, until a show is due, the career ends or an
 /// incident waits.
 void AdvanceToNextShow(World& world, const StepWatcher& watcher = {});
-
-// The day's own steps: what shows leave behind, what days do to people, the month's books.
 
 // What the day that ends leaves behind.
 void PlayerShowConsequences(World& world, bool cancelled);

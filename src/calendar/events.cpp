@@ -21,11 +21,13 @@ struct EventTypes {
 constexpr std::array<EventTypes, 6> kNewEventTypes = {
     {{1, 1}, {1, 2}, {2, 3}, {3, 3}, {4, 4}, {4, 4}}};
 
-/// The place of an Event whose promotion is gone; nullptr for none.
-Event* LeftBehind(World& world) {
-  for (Event& event : world.Events())
-    if (event.Owner == 0) return &event;
-  return nullptr;
+/// The number of the place for one more Event: that of one whose promotion is gone, else behind the
+/// last; 0 for none.
+int FreePlace(const World& world) {
+  const Records<Event>& events = world.Events();
+  for (const Event& event : events)
+    if (event.Owner == 0) return events.NumberOf(event);
+  return events.Full() ? 0 : events.Count() + 1;
 }
 
 /// Nothing once no place is left.
@@ -35,20 +37,16 @@ void Add(World& world, int owner, int month, std::string_view name, int type) {
   event.Month = month;
   event.Name = name;
   event.Type = type;
-  if (Event* place = LeftBehind(world))
-    *place = event;
-  else if (!world.Events().Full())
+  const int place = FreePlace(world);
+  if (place > world.Events().Count())
     world.Events().Append(event);
+  else if (place != 0)
+    world.Events()[place] = event;
 }
 
 void AddEvent(World& world, const Promotion& promotion, int month) {
   Add(world, promotion.Uid, month, promotion.Initials + " in " + std::string(MonthName(month)),
       NewEventType(promotion));
-}
-
-bool IsRoom(const World& world) {
-  const auto isLeft = [](const Event& event) { return event.Owner == 0; };
-  return !world.Events().Full() || std::ranges::any_of(world.Events(), isLeft);
 }
 
 Day LastSunday(int year, int month) {
@@ -119,7 +117,7 @@ std::string WhyNotEventName(const World& world, int month, std::string_view name
 std::string WhyNotPlan(const World& world, int month, std::string_view name, int type) {
   if (PlayerEvent(world, month))
     return "There is an Event in " + std::string(MonthName(month)) + " already.";
-  if (!IsRoom(world)) return "No more Events can be kept.";
+  if (FreePlace(world) == 0) return "No more Events can be kept.";
   if (std::string why = WhyNotEventName(world, month, name); !why.empty()) return why;
   return WhyNotEventType(world.Player(), type);
 }

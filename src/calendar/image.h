@@ -16,20 +16,15 @@ void ChangeImage(World& world, Promotion& promotion, int amount, bool gain);
 /// The same by a step that may be negative.
 void MoveImage(World& world, Promotion& promotion, int step);
 
-// What a show does to its promotion's image, a minus being a loss. By the size of the promotion,
-// and by the rating of the player's show or the quality of a rival's.
-int EventImageStep(int size, int rating);
-int TvImageStep(int size, int rating);
-int RivalEventImageStep(int size, int quality);
-int RivalTvImageStep(int size, int quality);
+enum class HeldShow { Event, Television, RivalEvent, RivalTelevision };
+/// What a show does to its promotion's image, a minus being a loss: by the size of the promotion,
+/// and by the rating of the player's show or the quality of a rival's.
+int ImageStep(HeldShow kind, int size, int rating);
 
-// How the player's show moves the image: what the public thinks of it before it has seen it, by
-// the difficulty and the player's reputation, and then by its rating.
-
-/// The steps before the show in the order in which they are taken; 0 for none.
+/// What the public thinks of a show of the player's before it has seen it, by the difficulty and
+/// the player's reputation: steps of the image in the order in which they are taken, 0 for none.
 using Goodwill = std::array<int, 3>;
-Goodwill EventGoodwill(const GameInfo& game);
-Goodwill TvGoodwill(const GameInfo& game);
+Goodwill GoodwillBefore(const GameInfo& game, HeldShow kind);
 
 /// All that a show of this rating does to the image of a player's promotion of this size.
 int WholeEventStep(const GameInfo& game, int size, int rating);

@@ -1,5 +1,6 @@
 #include "calendar/incidents.h"
 
+#include <algorithm>
 #include <array>
 
 #include "calendar/advanceday.h"
@@ -35,10 +36,6 @@ void TakeOut(World& world, const Incident& incident) {
   }
 }
 
-std::string OfferText(const World& world, const Promotion& promotion) {
-  return WhoDecides(world, promotion) + " would like to offer you a job. ";
-}
-
 }  // namespace
 
 bool HasIncident(const World& world) {
@@ -58,7 +55,9 @@ const Incident* FirstIncident(World& world) {
 }
 
 std::string IncidentText(const World& world, const Incident& incident) {
-  if (incident.Type == kJobOffer) return OfferText(world, *world.FindPromotion(incident.Uid));
+  if (incident.Type == kJobOffer)
+    return WhoDecides(world, *world.FindPromotion(incident.Uid)) +
+           " would like to offer you a job. ";
   const Worker& worker = *world.FindWorker(incident.Uid);
   const std::string name = worker.Name.Str();
   switch (incident.Type) {
@@ -121,38 +120,27 @@ int InjuryOdds(int condition) {
   return condition < 90 ? 1800 : 2500;
 }
 
-/// The day's list, filled from the front; what does not fit is dropped.
-class Bookings {
- public:
-  explicit Bookings(World& world) : incidents_(world.Incidents()) {
-    incidents_.Rewrite(std::vector<Incident>(kIncidentsKept));
+/// The day's list is filled from the front; what does not fit is dropped.
+void Book(World& world, int type, int uid) {
+  for (Incident& incident : world.Incidents()) {
+    if (incident.Type != 0) continue;
+    incident.Type = type;
+    incident.Uid = uid;
+    return;
   }
-  void Book(int type, int uid) {
-    if (next_ > kIncidentsKept) return;
-    incidents_[next_].Type = type;
-    incidents_[next_].Uid = uid;
-    ++next_;
-  }
+}
 
- private:
-  Records<Incident>& incidents_;
-  int next_ = 1;
-};
-
-void RollFor(World& world, const Worker& worker, bool isShort, Bookings& bookings) {
-  bool booked = false;
-  const auto book = [&](int type) {
-    if (booked) return;
-    bookings.Book(type, worker.Uid);
-    booked = true;
-  };
-  if (world.RandomDraw(InjuryOdds(worker.Condition)) == kInjuryHit) book(kInjury);
+/// Everything is drawn; the first that hits is booked.
+void RollFor(World& world, const Worker& worker, bool isShort) {
+  int type = 0;
+  if (world.RandomDraw(InjuryOdds(worker.Condition)) == kInjuryHit) type = kInjury;
   const std::size_t band = BehaviourBand(worker.Behaviour);
   for (const ConductRow& row : kConduct) {
-    const int odds = row.Odds[band];
-    if (odds == 0) continue;
-    if (world.RandomDraw(odds - (isShort ? row.OffWhenShort : 0)) == row.Hit) book(row.Type);
+    if (row.Odds[band] == 0) continue;
+    const int odds = row.Odds[band] - (isShort ? row.OffWhenShort : 0);
+    if (world.RandomDraw(odds) == row.Hit && type == 0) type = row.Type;
   }
+  if (type != 0) Book(world, type, worker.Uid);
 }
 
 bool IsAround(const Worker& worker) {
@@ -160,35 +148,29 @@ bool IsAround(const Worker& worker) {
          worker.Position != kDevelopmentDeal && worker.Position != kTrainingCamp;
 }
 
-void RollRoster(World& world, Bookings& bookings) {
+void RollRoster(World& world) {
   const bool isShort = IsShort(PostCountOf(world, kRoadAgent));
   for (const Worker& worker : world.Workers())
-    if (WorksForPlayer(world, worker) && IsAround(worker))
-      RollFor(world, worker, isShort, bookings);
+    if (WorksForPlayer(world, worker) && IsAround(worker)) RollFor(world, worker, isShort);
 }
 
-void RollOffer(World& world, Bookings& bookings) {
+void RollOffer(World& world) {
   if (world.Promotions().Count() == 0) return;
   const Promotion& promotion = world.Promotions()[world.RandomDraw(world.Promotions().Count())];
   if (promotion.Uid != world.PlayerUid() && promotion.Size > world.Session.StartSize - 3)
-    bookings.Book(kJobOffer, promotion.Uid);
+    Book(world, kJobOffer, promotion.Uid);
 }
 
 }  // namespace
 
 void IncidentRoll(World& world) {
-  Bookings bookings(world);
-  int draw = world.RandomDraw(kOfferDraw);
-  const Day start = world.Game().StartDate;
-  if (start + std::chrono::days{kQuietDays} >= world.Today()) draw = 1;
-  if (draw == kOfferHit)
-    RollOffer(world, bookings);
+  world.Incidents().Rewrite(std::vector<Incident>(kIncidentsKept));
+  const int draw = world.RandomDraw(kOfferDraw);
+  const bool isQuiet = Day(world.Game().StartDate) + std::chrono::days{kQuietDays} >= world.Today();
+  if (draw == kOfferHit && !isQuiet)
+    RollOffer(world);
   else
-    RollRoster(world, bookings);
-}
-
-void FireFor(World& world, Worker& worker) {
-  ReleaseWorker(world, worker);
+    RollRoster(world);
 }
 
 void Suspend(Worker& worker, int months) {
@@ -234,7 +216,7 @@ void ChangeJob(World& world, const Promotion& promotion) {
   const Promotion& former = world.Player();
   GoOnWithoutThePlayer(world, former);
   ClearTheBooth(world, promotion);
-  for (std::size_t i = game.Jobs.size() - 1; i > 0; --i) game.Jobs[i] = game.Jobs[i - 1];
+  std::shift_right(game.Jobs.begin(), game.Jobs.end(), 1);
   game.Jobs[1].EndImage = former.Image;
   game.Jobs[1].EndSize = former.Size;
   Job job;

@@ -22,8 +22,6 @@ std::string IncidentText(const World& world, const Incident& incident);
 /// Takes the first off the list.
 void CloseIncident(World& world);
 
-/// He leaves at once, without a buy-out.
-void FireFor(World& world, Worker& worker);
 void Suspend(Worker& worker, int months);
 /// The player leaves his promotion to its own devices and takes over another: the job goes to the
 /// former ones, and his feuds end with it.

@@ -19,33 +19,23 @@ namespace {
 constexpr const char* kFinance = "Finance Dept.";
 constexpr int kMostMoney = 90000000;
 
-bool IsPlayers(const World& world, const Promotion& promotion) {
-  return promotion.Uid == world.PlayerUid();
-}
-
-void TellOfRival(World& world, const Promotion& rival, const char* what) {
-  TellOf(world, world.Game().MailOtherFed, rival, rival.Initials + what);
-}
-
 void PlayerMisses(World& world, int missed) {
-  if (missed == 1)
-    AddNews(world, kFinance,
-            "The bank have given us a verbal warning as we could not make this month's loan "
-            "repayment.");
-  if (missed == 2)
-    AddNews(world, kFinance,
-            "The bank have given us a written warning as we could not make this month's loan "
-            "repayment.");
   if (missed == 3) world.Game().EndCode = kEndLoan;
+  if (missed != 1 && missed != 2) return;
+  AddNews(world, kFinance,
+          std::string("The bank have given us a ") + (missed == 1 ? "verbal" : "written") +
+              " warning as we could not make this month's loan repayment.");
 }
 
 void RivalMisses(World& world, Promotion& rival, int missed) {
-  if (missed == 1) TellOfRival(world, rival, " are experiencing financial problems.");
-  if (missed == 2) TellOfRival(world, rival, " are experiencing major financial problems.");
-  if (missed != 3) return;
-  NoteDeed(world, kDeedClosed, &rival, rival.Name);
-  TellOfRival(world, rival, " have gone out of business!");
-  rival.Name = kToBeDeleted;
+  constexpr std::array<const char*, 3> kWords = {" are experiencing financial problems.",
+                                                 " are experiencing major financial problems.",
+                                                 " have gone out of business!"};
+  if (missed < 1 || missed > 3) return;
+  if (missed == 3) NoteDeed(world, kDeedClosed, &rival, rival.Name);
+  TellOf(world, world.Game().MailOtherFed, rival,
+         rival.Initials + kWords[static_cast<std::size_t>(missed - 1)]);
+  if (missed == 3) rival.Name = kToBeDeleted;
 }
 
 void MissRepayment(World& world, Promotion& promotion) {
@@ -240,27 +230,22 @@ int Trend(const std::array<Number, 5>& history) {
 }
 
 void TellTrend(World& world, const std::string& from, int trend, const TrendWords& words) {
-  const int count = trend < 0 ? -trend : trend;
-  if (count < 2) return;
-  const auto& said = trend > 0 ? words.Up : words.Down;
-  AddNews(world, from, said[static_cast<std::size_t>(count - 2)]);
+  if (trend >= 2) AddNews(world, from, words.Up[static_cast<std::size_t>(trend - 2)]);
+  if (trend <= -2) AddNews(world, from, words.Down[static_cast<std::size_t>(-trend - 2)]);
 }
 
 template <class Number>
 void Shift(std::array<Number, 5>& history, int newest) {
-  for (std::size_t i = history.size() - 1; i > 0; --i) history[i] = history[i - 1];
+  std::shift_right(history.begin(), history.end(), 1);
   history[0] = newest;
 }
 
 /// How many months in a row the standing fell, up to 3.
 int FallsInARow(const Promotion& promotion) {
-  int falls = 0;
-  for (std::size_t i = 0; i < 3; ++i) {
-    const int before = promotion.Rank[i + 1], after = promotion.Rank[i];
-    if (before == kNoEnd || before <= after) break;
-    ++falls;
-  }
-  return falls;
+  const auto& rank = promotion.Rank;
+  std::size_t falls = 0;
+  while (falls < 3 && rank[falls + 1] != kNoEnd && rank[falls + 1] > rank[falls]) ++falls;
+  return static_cast<int>(falls);
 }
 
 }  // namespace
@@ -268,7 +253,7 @@ int FallsInARow(const Promotion& promotion) {
 void PoorFormMorale(World& world) {
   for (const Promotion& promotion : world.Promotions()) {
     if (FallsInARow(promotion) < 2) continue;
-    if (promotion.Uid == world.PlayerUid())
+    if (IsPlayers(world, promotion))
       AddNews(world, "Maeve", "Our poor performance is affecting the worker's morale.");
     for (Worker& worker : world.Workers())
       if (worker.Employer == promotion.Uid) worker.Morale -= kPoorFormLoss;
@@ -283,7 +268,7 @@ void MonthlyReview(World& world) {
   const Promotion& player = world.Player();
   const Staff* owner = OwnerOf(world, player.Uid);
   TellTrend(world, owner ? owner->Name.Str() : "The Board", Trend(player.Rank), kImageWords);
-  TellTrend(world, "Finance Dept.", Trend(player.MoneyBefore), kMoneyWords);
+  TellTrend(world, kFinance, Trend(player.MoneyBefore), kMoneyWords);
 }
 
 }  // namespace grapplemont

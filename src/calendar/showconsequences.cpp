@@ -1,5 +1,3 @@
-#include "calendar/showconsequences.h"
-
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -21,19 +19,70 @@ namespace {
 
 constexpr int kNoEventImage = 10;
 constexpr int kCancelledImage = 15;
+constexpr int kEnoughPeople = 6;
 
 // By Event type from 1 to 4, in dollars.
 constexpr std::array<int, 4> kCancelCharges = {2000000, 1000000, 100000, 5000};
 
-void ApplyGoodwill(World& world, Promotion& player, const Goodwill& goodwill) {
-  for (const int step : goodwill)
+/// Money by its type, and image. Gives the dollars it cost.
+int CallOffEvent(World& world, Promotion& promotion, int type) {
+  const int dollars =
+      type >= 1 && type <= 4 ? kCancelCharges[static_cast<std::size_t>(type - 1)] : 0;
+  promotion.Money -= dollars;
+  ChangeImage(world, promotion, kCancelledImage, false);
+  return dollars;
+}
+
+/// Image, and a strike with its network.
+void CallOffTv(World& world, Promotion& promotion) {
+  if (Show* show = ShowOn(world, promotion.Uid, world.Today())) ++show->Rating4;
+  ChangeImage(world, promotion, kCancelledImage, false);
+}
+
+/// A network looks at the promotion's show of today: too risky, too poorly produced. Each complaint
+/// is a strike, and a mail where it is the player's show.
+void CheckShow(World& world, const Promotion& promotion) {
+  Show* show = ShowOn(world, promotion.Uid, world.Today());
+  const Network* network = show ? world.FindNetwork(show->Network) : nullptr;
+  if (!network) return;
+  const auto complain = [&](std::string_view from, const std::string& words) {
+    ++show->Rating4;
+    if (promotion.Uid == world.PlayerUid()) AddNews(world, from, words);
+  };
+  if (promotion.Risk > SlotRisk(*network, show->Slot))
+    complain("TV News",
+             network->Name +
+                 " are not happy with the risky nature of our last show. They are asking us to "
+                 "tone it down.");
+  if (promotion.Production < network->Production)
+    complain(network->Name, "We are not happy with the production quality of " + show->Name.Str() +
+                                ", please improve your productions values ASAP.");
+}
+
+/// Each sponsor pays in full for an Event, a quarter (the main one) or a tenth for a television
+/// show. Gives the dollars they paid.
+long long PaySponsors(World& world, Promotion& promotion, bool isEvent) {
+  long long dollars = 0;
+  for (const Sponsor& sponsor : world.Sponsors()) {
+    if (sponsor.Promotion != promotion.Uid) continue;
+    const bool isMain = promotion.Sponsor[0] == sponsor.Uid;
+    dollars += 1000LL * (isEvent ? int(sponsor.Pay) : SponsorPayForTv(sponsor, isMain));
+  }
+  promotion.Money += dollars;
+  promotion.ThisMonth.SponsorIncome += dollars;
+  return dollars;
+}
+
+/// What the public and the sponsors make of a show of the player's; gives what these paid.
+long long Judge(World& world, Promotion& player, HeldShow kind) {
+  for (const int step : GoodwillBefore(world.Game(), kind))
     if (step != 0) MoveImage(world, player, step);
+  MoveImage(world, player, ImageStep(kind, player.Size, world.Session.ShowRating));
+  return PaySponsors(world, player, kind == HeldShow::Event);
 }
 
 ShowTakings HoldEvent(World& world, Promotion& player, const Event& event, int type) {
-  ApplyGoodwill(world, player, EventGoodwill(world.Game()));
-  MoveImage(world, player, EventImageStep(player.Size, world.Session.ShowRating));
-  const long long sponsors = PayEventSponsors(world, player);
+  const long long sponsors = Judge(world, player, HeldShow::Event);
   ShowTakings takings = EventReport(world, player, event, type);
   takings.Income += sponsors;
   takings.Costs += world.Session.ExtraCost;
@@ -42,9 +91,7 @@ ShowTakings HoldEvent(World& world, Promotion& player, const Event& event, int t
 
 ShowTakings HoldTv(World& world, Promotion& player) {
   CheckShow(world, player);
-  ApplyGoodwill(world, player, TvGoodwill(world.Game()));
-  MoveImage(world, player, TvImageStep(player.Size, world.Session.ShowRating));
-  const long long sponsors = PayTvSponsors(world, player);
+  const long long sponsors = Judge(world, player, HeldShow::Television);
   ShowTakings takings = TvReport(world, player);
   takings.Income += sponsors;
   return takings;
@@ -86,80 +133,6 @@ void TvDay(World& world, Promotion& player, bool cancelled) {
     RememberShow(world, player, kPastTv, show->Name, cancelled, takings);
 }
 
-long long Receive(Promotion& promotion, int thousands) {
-  const long long dollars = thousands * 1000LL;
-  promotion.Money += dollars;
-  promotion.ThisMonth.SponsorIncome += dollars;
-  return dollars;
-}
-
-}  // namespace
-
-int CallOffEvent(World& world, Promotion& promotion, int type) {
-  const int dollars =
-      type >= 1 && type <= 4 ? kCancelCharges[static_cast<std::size_t>(type - 1)] : 0;
-  promotion.Money -= dollars;
-  ChangeImage(world, promotion, kCancelledImage, false);
-  return dollars;
-}
-
-void CallOffTv(World& world, Promotion& promotion) {
-  if (Show* show = ShowOn(world, promotion.Uid, world.Today())) ++show->Rating4;
-  ChangeImage(world, promotion, kCancelledImage, false);
-}
-
-void CheckShow(World& world, const Promotion& promotion) {
-  Show* show = ShowOn(world, promotion.Uid, world.Today());
-  const Network* network = show ? world.FindNetwork(show->Network) : nullptr;
-  if (!network) return;
-  const bool tells = promotion.Uid == world.PlayerUid();
-  if (promotion.Risk > SlotRisk(*network, show->Slot)) {
-    ++show->Rating4;
-    if (tells)
-      AddNews(world, "TV News",
-              network->Name +
-                  " are not happy with the risky nature of our last show. They are asking us to "
-                  "tone it down.");
-  }
-  if (promotion.Production < network->Production) {
-    ++show->Rating4;
-    if (tells)
-      AddNews(world, network->Name,
-              "We are not happy with the production quality of " + show->Name.Str() +
-                  ", please improve your productions values ASAP.");
-  }
-}
-
-long long PayEventSponsors(World& world, Promotion& promotion) {
-  long long dollars = 0;
-  for (const Sponsor& sponsor : world.Sponsors())
-    if (sponsor.Promotion == promotion.Uid) dollars += Receive(promotion, sponsor.Pay);
-  return dollars;
-}
-
-long long PayTvSponsors(World& world, Promotion& promotion) {
-  long long dollars = 0;
-  for (const Sponsor& sponsor : world.Sponsors()) {
-    if (sponsor.Promotion != promotion.Uid) continue;
-    const bool isMain = promotion.Sponsor[0] == sponsor.Uid;
-    dollars += Receive(promotion, SponsorPayForTv(sponsor, isMain));
-  }
-  return dollars;
-}
-
-void PlayerShowConsequences(World& world, bool cancelled) {
-  Promotion& player = world.Player();
-  if (IsEventDay(world.Today()))
-    EventDay(world, player, cancelled);
-  else if (HasTvToday(world, player.Uid))
-    TvDay(world, player, cancelled);
-  world.Session.ExtraCost = 0;
-}
-
-namespace {
-
-constexpr int kEnoughPeople = 6;
-
 /// How often a worker counts in a show's mean, by his position; 0 for who does not carry a show.
 int EventWeight(int position) {
   if (position == kMainEvent) return 2;
@@ -191,36 +164,16 @@ void TellCancelled(World& world, const Promotion& rival, int option, const char*
   TellOf(world, option, rival, rival.Initials + what);
 }
 
-/// The draw of those who carried it; nothing when it was called off.
-std::optional<int> SimulateRivalEvent(World& world, Promotion& rival, int type) {
-  const auto quality = QualityOf(world, rival.Uid, EventWeight);
-  if (quality) {
-    MoveImage(world, rival, RivalEventImageStep(rival.Size, *quality));
-    return quality;
-  }
-  TellCancelled(world, rival, world.Game().MailShows, " were forced to cancel their last show.");
-  CallOffEvent(world, rival, type);
-  return std::nullopt;
-}
-
-std::optional<int> SimulateRivalTv(World& world, Promotion& rival) {
-  const auto quality = QualityOf(world, rival.Uid, TvWeight);
-  if (quality) {
-    CheckShow(world, rival);
-    MoveImage(world, rival, RivalTvImageStep(rival.Size, *quality));
-    return quality;
-  }
-  TellCancelled(world, rival, world.Game().MailTvShow,
-                " were forced to cancel their last television show.");
-  CallOffTv(world, rival);
-  return std::nullopt;
-}
-
 void RivalEvent(World& world, Promotion& rival) {
   const int type = EventThisMonth(world, rival);
-  const std::optional<int> draw = SimulateRivalEvent(world, rival, type);
-  if (!draw) return;
-  PayEventSponsors(world, rival);
+  const std::optional<int> draw = QualityOf(world, rival.Uid, EventWeight);
+  if (!draw) {
+    TellCancelled(world, rival, world.Game().MailShows, " were forced to cancel their last show.");
+    CallOffEvent(world, rival, type);
+    return;
+  }
+  MoveImage(world, rival, ImageStep(HeldShow::RivalEvent, rival.Size, *draw));
+  PaySponsors(world, rival, true);
   const Event* event = EventOf(world, rival.Uid, MonthOf(world.Today()));
   if (!event) return;
   const ShowTakings takings = EventReport(world, rival, *event, type);
@@ -228,15 +181,30 @@ void RivalEvent(World& world, Promotion& rival) {
 }
 
 void RivalTv(World& world, Promotion& rival) {
-  const std::optional<int> draw = SimulateRivalTv(world, rival);
-  if (!draw) return;
-  PayTvSponsors(world, rival);
+  const std::optional<int> draw = QualityOf(world, rival.Uid, TvWeight);
+  if (!draw) {
+    TellCancelled(world, rival, world.Game().MailTvShow,
+                  " were forced to cancel their last television show.");
+    return CallOffTv(world, rival);
+  }
+  CheckShow(world, rival);
+  MoveImage(world, rival, ImageStep(HeldShow::RivalTelevision, rival.Size, *draw));
+  PaySponsors(world, rival, false);
   const Show* show = ShowOn(world, rival.Uid, world.Today());
   const ShowTakings takings = TvReport(world, rival);
   if (show) NoteShow(world, kDeedTvHeld, rival, show->Name, *draw, takings.Viewers, takings.People);
 }
 
 }  // namespace
+
+void PlayerShowConsequences(World& world, bool cancelled) {
+  Promotion& player = world.Player();
+  if (IsEventDay(world.Today()))
+    EventDay(world, player, cancelled);
+  else if (HasTvToday(world, player.Uid))
+    TvDay(world, player, cancelled);
+  world.Session.ExtraCost = 0;
+}
 
 void RivalShows(World& world) {
   for (Promotion& rival : world.Promotions()) {

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "calendar/advanceday.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 
 // What the young learn away from the main roster: in the development territory and in the training
@@ -24,8 +25,7 @@ bool IsToldOf(int option) {
 /// "Over (2 points); "; nothing for no points.
 std::string Piece(std::string_view what, int points) {
   if (points <= 0) return {};
-  return std::string(what) + " (" + std::to_string(points) +
-         (points == 1 ? " point); " : " points); ");
+  return std::string(what) + " (" + Counted(points, "point") + "); ";
 }
 
 std::string Improved(const Worker& worker, std::string_view where, const std::string& pieces) {
@@ -78,21 +78,18 @@ std::string Learn(World& world, Worker& worker, const Lesson& lesson) {
   return Piece("Over", over) + Piece("Charisma", charisma) + Piece("Stiffness", stiffness);
 }
 
+/// By a draw of five.
 std::string Complaint(const Worker& worker, const std::string& territory, int drawn) {
-  const std::string name = worker.Name.Str();
-  switch (drawn) {
-    case 1:
-      return name + " is unhappy about remaining in " + territory + ".";
-    case 2:
-      return name + " doesn't want to remain in " + territory + ".";
-    case 3:
-      return name + " wants to be promoted to the full roster.";
-    case 4:
-      return name + " feels that " + territory + " isn't helping " +
-             (worker.Gender ? "his" : "her") + " career much.";
-    default:
-      return name + " is not happy about being stuck in " + territory + ".";
-  }
+  constexpr std::array<std::string_view, 5> kWords = {
+      "{who} is unhappy about remaining in {there}.", "{who} doesn't want to remain in {there}.",
+      "{who} wants to be promoted to the full roster.",
+      "{who} feels that {there} isn't helping {his} career much.",
+      "{who} is not happy about being stuck in {there}."};
+  return FillHoles(kWords[static_cast<std::size_t>(drawn - 1)], [&](std::string_view slot) {
+    return slot == "who"     ? worker.Name.Str()
+           : slot == "there" ? territory
+                             : std::string(worker.Gender ? "his" : "her");
+  });
 }
 
 void Outgrow(World& world, Worker& worker, const std::string& territory) {

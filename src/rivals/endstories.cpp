@@ -8,73 +8,51 @@ namespace grapplemont {
 
 namespace {
 
-struct Subject {
-  std::string Name, Initials, Size, Player;
-};
-
-std::string LoanStory(const Subject& of) {
-  return of.Name + " today released their general manager " + of.Player + ". " +
-         "According to reports, a loan taken out by " + of.Player +
-         " had caused financial problems for the company, to the extent that the board felt it was "
-         "necessary to take action. More news on this story as we get it.";
-}
-
-std::string BankruptStory(const Subject& of) {
-  return of.Name +
-         " today went out of business due to financial problems. The company has been having "
-         "problems with cash flow for some time, and many blame this on the inability of general "
-         "manager " +
-         of.Player + " to handle financial affairs. More news as we get it.";
-}
-
-std::string BoardStory(const Subject& of) {
-  return of.Name + " today released their general manager " + of.Player + ". Many feel that " +
-         of.Player +
-         " had to go, as the company was suffering an alarming slump in fortunes. The "
-         "mismanagement of " +
-         of.Player + " is seen as the main reason why " + of.Initials + " have fallen to " +
-         of.Size +
-         " level, and few in the dressing room were sorry to hear the news. Nobody at head office "
-         "would say who takes over. More news on this story as we get it.";
-}
-
-std::string PartingStory(const Subject& of) {
-  return of.Name + " and their general manager " + of.Player +
-         " today went their separate ways. Both sides thank each other for the time spent together "
-         "and ask that their privacy be respected. More news on this story as we get it.";
-}
-
 struct Story {
   int Code;
-  const char* Headline;  // between the initials and the player's name
-  bool NamesPlayer;
-  std::string (*Body)(const Subject&);
-  const char* SignedBy;
+  std::string_view Headline, Body, SignedBy;
 };
+constexpr std::string_view kDelia = "Delia Crumb, The Turnbuckle Courier";
+constexpr std::string_view kHob = "Hob Nettles, The Turnbuckle Courier";
+// The last is for any other code.
 constexpr Story kStories[] = {
-    {kEndLoan, " fire ", true, LoanStory, "Delia Crumb, The Turnbuckle Courier"},
-    {kEndBankrupt, " go bankrupt", false, BankruptStory, "Hob Nettles, The Turnbuckle Courier"},
-    {kEndBoard, " fire ", true, BoardStory, "Delia Crumb, The Turnbuckle Courier"},
-};
-// For any other code.
-constexpr Story kParting = {0, " part with ", true, PartingStory,
-                            "Hob Nettles, The Turnbuckle Courier"};
-
-const Story& StoryOf(int endCode) {
-  for (const Story& story : kStories)
-    if (story.Code == endCode) return story;
-  return kParting;
-}
+    {kEndLoan, "{initials} fire {player}!",
+     "{name} today released their general manager {player}. According to reports, a loan taken out "
+     "by {player} had caused financial problems for the company, to the extent that the board felt "
+     "it was necessary to take action. More news on this story as we get it.",
+     kDelia},
+    {kEndBankrupt, "{initials} go bankrupt!",
+     "{name} today went out of business due to financial problems. The company has been having "
+     "problems with cash flow for some time, and many blame this on the inability of general "
+     "manager {player} to handle financial affairs. More news as we get it.",
+     kHob},
+    {kEndBoard, "{initials} fire {player}!",
+     "{name} today released their general manager {player}. Many feel that {player} had to go, as "
+     "the company was suffering an alarming slump in fortunes. The mismanagement of {player} is "
+     "seen as the main reason why {initials} have fallen to {size} level, and few in the dressing "
+     "room were sorry to hear the news. Nobody at head office would say who takes over. More news "
+     "on this story as we get it.",
+     kDelia},
+    {0, "{initials} part with {player}!",
+     "{name} and their general manager {player} today went their separate ways. Both sides thank "
+     "each other for the time spent together and ask that their privacy be respected. More news on "
+     "this story as we get it.",
+     kHob}};
 
 }  // namespace
 
 EndStory StoryOfTheEnd(const World& world, int endCode) {
   const Promotion& promotion = world.Player();
-  const Subject of{promotion.Name.Str(), promotion.Initials.Str(),
-                   std::string(SizeText(promotion.Size)), world.Game().PlayerName.Str()};
-  const Story& story = StoryOf(endCode);
-  return {of.Initials + story.Headline + (story.NamesPlayer ? of.Player : "") + "!", story.Body(of),
-          story.SignedBy};
+  const Story* story = kStories;
+  while (story->Code != endCode && story->Code != 0) ++story;
+  const auto fill = [&](std::string_view slot) {
+    return slot == "name"       ? promotion.Name.Str()
+           : slot == "initials" ? promotion.Initials.Str()
+           : slot == "size"     ? std::string(SizeText(promotion.Size))
+                                : world.Game().PlayerName.Str();
+  };
+  return {FillHoles(story->Headline, fill), FillHoles(story->Body, fill),
+          std::string(story->SignedBy)};
 }
 
 std::string CareerInFigures(const World& world) {

@@ -31,21 +31,26 @@ Title* LeftBehind(World& world, std::string_view name) {
   return any;
 }
 
-/// "CWA Crown", or "CWA Crown II" and on where somebody has a Title of that name.
-std::string TitleNameOf(const World& world, const Promotion& promotion, std::string_view what) {
-  const std::string plain = promotion.Initials + " " + std::string(what);
+/// "CWA Crown", or "CWA Crown II" and on where that is taken.
+template <class Taken>
+std::string NumberedName(const std::string& plain, Taken isTaken) {
   std::string name = plain;
-  const auto isHeld = [&](const Title& title) {
-    return title.Owner != kNoEnd && title.Name == name;
-  };
   for (const char* behind : {" II", " III", " IV"})
-    if (std::ranges::any_of(world.Titles(), isHeld)) name = plain + behind;
+    if (isTaken(name)) name = plain + behind;
   return name;
+}
+
+bool IsHeld(const World& world, std::string_view name) {
+  return std::ranges::any_of(world.Titles(), [&](const Title& title) {
+    return title.Owner != kNoEnd && title.Name == name;
+  });
 }
 
 /// A Title that comes back keeps its past.
 void FoundTitle(World& world, const Promotion& promotion, std::string_view what, bool singles) {
-  const TitleTerms terms{.Name = TitleNameOf(world, promotion, what), .Singles = singles};
+  const std::string plain = promotion.Initials + " " + std::string(what);
+  const auto isHeld = [&](std::string_view name) { return IsHeld(world, name); };
+  const TitleTerms terms{.Name = NumberedName(plain, isHeld), .Singles = singles};
   Title title =
       VacantTitle(world, terms, promotion.Uid, BySize(tuning::kNewTitleImage, promotion.Size));
   Title* before = LeftBehind(world, terms.Name);
@@ -56,17 +61,14 @@ void FoundTitle(World& world, const Promotion& promotion, std::string_view what,
     world.Titles().Append(title);
 }
 
-}  // namespace
-
+/// Whether no promotion has the name or the initials, or had them until today.
 bool IsNameFree(const World& world, std::string_view name, std::string_view initials) {
   return std::ranges::none_of(world.Promotions(),
                               [&](auto& p) { return p.Name == name || p.Initials == initials; });
 }
 
-int CountPromotions(const World& world) {
-  return static_cast<int>(std::ranges::count_if(world.Promotions(), IsAlive));
-}
-
+/// A promotion of this name without people, sponsors, Titles or a past. Size, money, image and risk
+/// are the caller's to set before `Open`.
 Promotion NewPromotion(const World& world, std::string_view name, std::string_view initials) {
   Promotion promotion;
   promotion.Uid = NextPromotionUid(world);
@@ -82,6 +84,8 @@ Promotion NewPromotion(const World& world, std::string_view name, std::string_vi
   return promotion;
 }
 
+/// It opens today: spends as its size does, enters the file, and looks for workers and staff at
+/// once.
 Promotion& Open(World& world, Promotion promotion) {
   const RivalSpending spending = RivalSpendingFor(promotion.Size);
   promotion.Merchandising = spending.Merchandising;
@@ -94,6 +98,8 @@ Promotion& Open(World& world, Promotion promotion) {
   FitPosts(world, opened, Posts(world));
   return opened;
 }
+
+}  // namespace
 
 void FoundTitles(World& world, const Promotion& promotion) {
   FoundTitle(world, promotion, "Crown", true);
@@ -143,7 +149,7 @@ void OpenSomewhere(World& world) {
 }  // namespace
 
 void NewPromotionCheck(World& world) {
-  const int count = CountPromotions(world);
+  const auto count = std::ranges::count_if(world.Promotions(), IsAlive);
   const bool opens = world.RandomDraw(count < kFewPromotions ? 3 : 5) == kOpens;
   if (opens && count < kManyPromotions && !world.Promotions().Full() && AnyNameLeft(world))
     OpenSomewhere(world);
@@ -184,10 +190,8 @@ bool IsRoomFor(const World& world) {
 void Employ(World& world, Promotion& promotion) {
   Staff owner;
   owner.Uid = NextStaffUid(world);
-  std::string name = kStranger;
-  for (const char* behind : {" II", " III", " IV"})
-    if (!StaffNameFree(world, name)) name = kStranger + std::string(behind);
-  owner.Name = name;
+  owner.Name =
+      NumberedName(kStranger, [&](std::string_view name) { return !StaffNameFree(world, name); });
   owner.Gender = true;
   owner.BirthMonth = world.RandomDraw(12);
   owner.Age = 44;

@@ -19,11 +19,6 @@ bool IsEnough(int crew) {
   return crew >= tuning::kHouseShowCrew;
 }
 
-void Earn(Promotion& rival, int dollars) {
-  rival.Money += dollars;
-  rival.ThisMonth.TicketIncome += dollars;
-}
-
 }  // namespace
 
 std::map<int, int> HouseShowCrews(const World& world) {
@@ -39,20 +34,6 @@ int HouseShowIncome(const Promotion& rival, int crew) {
   return sure + sure * rival.Image / 100;
 }
 
-void RivalHouseShows(World& world) {
-  std::map<int, int> crews = HouseShowCrews(world);
-  const auto plays = [&](int uid) { return IsEnough(crews[uid]); };
-  for (Promotion& promotion : world.Promotions())
-    if (IsRival(world, promotion))
-      Earn(promotion, HouseShowIncome(promotion, crews[promotion.Uid]));
-  for (Worker& worker : world.Workers()) {
-    const Promotion* employer = world.FindPromotion(worker.Employer);
-    if (employer && IsRival(world, *employer) && Works(worker) && plays(employer->Uid))
-      worker.Condition -= world.RandomDraw(tuning::kHouseShowWear);
-  }
-  if (IsEventDay(world.Today() - std::chrono::days{1})) DefendRivalTitles(world);
-}
-
 namespace {
 
 /// Who might hold a Title next; `Second` for its partner.
@@ -63,8 +44,8 @@ struct Contender {
 };
 
 bool MayHold(const Worker& worker, const Title& title) {
-  return worker.Employer == title.Owner && IsOnRoster(worker) && worker.Status == "Nor" &&
-         FitsTitle(title, worker) && worker.Uid != title.Holder && worker.Uid != title.Partner;
+  return worker.Employer == title.Owner && Works(worker) && FitsTitle(title, worker) &&
+         worker.Uid != title.Holder && worker.Uid != title.Partner;
 }
 
 std::vector<Contender> Singles(const World& world, const Title& title) {
@@ -121,8 +102,9 @@ int ChampionsOver(const World& world, const Title& title) {
   return holder ? int(holder->Over) : 0;
 }
 
-}  // namespace
-
+/// Each Title of a rival's that is not suspended: a vacant one finds champions if anybody may hold
+/// it, the other changes hands in so many of a hundred defences, the sooner the longer it has not.
+/// Draws of a hundred for a defence, then once for who wins.
 void DefendRivalTitles(World& world) {
   for (Title& title : world.Titles()) {
     const Promotion* owner = world.FindPromotion(title.Owner);
@@ -137,6 +119,24 @@ void DefendRivalTitles(World& world) {
     }
     if (title.Holder != 0) FollowChampion(title, ChampionsOver(world, title));
   }
+}
+
+}  // namespace
+
+void RivalHouseShows(World& world) {
+  std::map<int, int> crews = HouseShowCrews(world);
+  for (Promotion& promotion : world.Promotions()) {
+    if (!IsRival(world, promotion)) continue;
+    const int dollars = HouseShowIncome(promotion, crews[promotion.Uid]);
+    promotion.Money += dollars;
+    promotion.ThisMonth.TicketIncome += dollars;
+  }
+  for (Worker& worker : world.Workers()) {
+    const Promotion* employer = world.FindPromotion(worker.Employer);
+    if (employer && IsRival(world, *employer) && Works(worker) && IsEnough(crews[employer->Uid]))
+      worker.Condition -= world.RandomDraw(tuning::kHouseShowWear);
+  }
+  if (IsEventDay(world.Today() - std::chrono::days{1})) DefendRivalTitles(world);
 }
 
 }  // namespace grapplemont

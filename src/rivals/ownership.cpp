@@ -40,10 +40,6 @@ bool Takes(World& world, int size, int talent) {
   return false;
 }
 
-bool HasOwner(const World& world, int promotionUid) {
-  return OwnerOf(world, promotionUid) != nullptr;
-}
-
 Staff* FindOwnerFor(World& world, int size) {
   for (Staff& staff : world.AllStaff())
     if (staff.Employer == 0 && staff.Position == kOwner && Takes(world, size, staff.Talent))
@@ -90,12 +86,19 @@ constexpr const char* kWelcomes[] = {
 // By the owner's style: how risky he wants his shows.
 constexpr std::array<int, 6> kRisks = {70, 30, 10, 40, 85, 20};
 
+/// What a new boss writes to the player.
+std::string OwnersWelcome(const World& world, const Staff& owner) {
+  for (const OwnVoice& voice : kOwnVoices)
+    if (owner.Name == voice.Owner) return voice.Words;
+  return kWelcomes[static_cast<std::size_t>(TasteOf(world, owner.Employer) - 1)];
+}
+
 void TakeOver(World& world, Promotion& promotion, Staff& owner) {
   owner.Employer = promotion.Uid;
   owner.ContractMonths = kNoEnd;
   owner.Unsackable = false;
   NoteDeed(world, kDeedOwner, &promotion, owner.Name);
-  const bool isOwn = promotion.Uid == world.PlayerUid();
+  const bool isOwn = IsPlayers(world, promotion);
   if (!isOwn) FollowOwner(promotion, owner);
   // The mail options are about rivals alone.
   if (isOwn || ShouldTell(world, world.Game().MailOwners, promotion.Size))
@@ -112,12 +115,6 @@ std::string WhoDecides(const World& world, const Promotion& promotion) {
                : "The " + promotion.Initials.Str() + " board";
 }
 
-std::string OwnersWelcome(const World& world, const Staff& owner) {
-  for (const OwnVoice& voice : kOwnVoices)
-    if (owner.Name == voice.Owner) return voice.Words;
-  return kWelcomes[static_cast<std::size_t>(TasteOf(world, owner.Employer) - 1)];
-}
-
 void FollowOwner(Promotion& rival, const Staff& owner) {
   if (owner.Wage >= kBrawlers && owner.Wage <= kYouth)
     rival.Risk = kRisks[static_cast<std::size_t>(owner.Wage - kBrawlers)];
@@ -125,7 +122,7 @@ void FollowOwner(Promotion& rival, const Staff& owner) {
 
 void OwnerlessPromotions(World& world) {
   for (Promotion& promotion : world.Promotions()) {
-    if (!IsAlive(promotion) || HasOwner(world, promotion.Uid) ||
+    if (!IsAlive(promotion) || OwnerOf(world, promotion.Uid) ||
         world.RandomDraw(kDaysBetweenOwners) != 1)
       continue;
     if (Staff* owner = FindOwnerFor(world, promotion.Size)) TakeOver(world, promotion, *owner);

@@ -21,6 +21,11 @@ struct MoneyWords {
 constexpr MoneyWords kWords[] = {
     {300, "Rich"}, {100, "Comfortable"}, {40, "Sound"}, {10, "Short of money"}, {0, "Scraping by"}};
 
+long long WagesOf(const Promotion& promotion) {
+  const MonthBooks& books = promotion.LastMonth;
+  return static_cast<long long>(books.WrestlerWages) + books.StaffWages;
+}
+
 /// Twice in a row the money at a month end was less (`sign` -1) or more (1) than at the one before.
 bool MovedTwice(const Promotion& promotion, int sign) {
   const auto& money = promotion.MoneyBefore;
@@ -33,9 +38,7 @@ bool MovedTwice(const Promotion& promotion, int sign) {
 
 Purse PurseOf(const Promotion& promotion) {
   if (promotion.Money < 0) return Purse::Saving;
-  const long long wages =
-      static_cast<long long>(promotion.LastMonth.WrestlerWages) + promotion.LastMonth.StaffWages;
-  const bool hasReserve = promotion.Money >= tuning::kMonthsInHand * wages;
+  const bool hasReserve = promotion.Money >= tuning::kMonthsInHand * WagesOf(promotion);
   if (!hasReserve && MovedTwice(promotion, -1)) return Purse::Saving;
   if (hasReserve && MovedTwice(promotion, 1)) return Purse::Spending;
   return Purse::Steady;
@@ -54,7 +57,7 @@ namespace {
 
 void Warn(World& world, const Promotion& promotion) {
   NoteDeed(world, kDeedWarned, &promotion, promotion.Name);
-  if (promotion.Uid == world.PlayerUid())
+  if (IsPlayers(world, promotion))
     AddNews(world, "Finance Dept.",
             "The bank are warning that we face bankruptcy if our finances fall much lower!");
   else
@@ -63,7 +66,7 @@ void Warn(World& world, const Promotion& promotion) {
 }
 
 void GoBankrupt(World& world, Promotion& promotion) {
-  if (promotion.Uid == world.PlayerUid()) {
+  if (IsPlayers(world, promotion)) {
     world.Game().EndCode = kEndBankrupt;
     return;
   }
@@ -98,7 +101,6 @@ namespace {
 
 constexpr int kLeastMorale = 10;
 constexpr int kLeastMonths = 3;
-
 constexpr int kShortContract = 2;
 
 /// What is the same for whoever comes over; contracts that end at once are made longer.
@@ -135,20 +137,12 @@ void ComeOver(World& world, Staff& staff) {
 
 }  // namespace
 
-int ForSaleAtMost(int size) {
-  return BankruptcyLineOf(size).BankruptBelow / 4;
-}
-
 bool IsForSale(const Promotion& rival) {
-  return rival.Money <= ForSaleAtMost(rival.Size);
+  return rival.Money <= BankruptcyLineOf(rival.Size).BankruptBelow / 4;
 }
 
 long long TakeoverCost(const Promotion& rival, Takeover kind) {
-  const long long wages =
-      kind == Takeover::Destruction
-          ? static_cast<long long>(rival.LastMonth.StaffWages) + rival.LastMonth.WrestlerWages
-          : 0;
-  return wages - rival.Money;
+  return (kind == Takeover::Destruction ? WagesOf(rival) : 0) - rival.Money;
 }
 
 void TakeOverRival(World& world, Promotion& rival, Takeover kind) {

@@ -26,9 +26,7 @@ const BankruptcyLine& BankruptcyLineOf(int size);
 
 // Buying a rival out of its debts.
 
-/// The money that a rival of this size must not have more than to be for sale, in dollars: a
-/// quarter of the way to the line where the bank closes it.
-int ForSaleAtMost(int size);
+/// A quarter of the debt is enough for which its bank would close it.
 bool IsForSale(const Promotion& rival);
 
 enum class Takeover { Complete, Destruction };

@@ -10,8 +10,12 @@ bool IsAlive(const Promotion& promotion) {
   return promotion.Name != kToBeDeleted;
 }
 
+bool IsPlayers(const World& world, const Promotion& promotion) {
+  return promotion.Uid == world.PlayerUid();
+}
+
 bool IsRival(const World& world, const Promotion& promotion) {
-  return promotion.Uid != world.PlayerUid() && IsAlive(promotion);
+  return !IsPlayers(world, promotion) && IsAlive(promotion);
 }
 
 bool IsOnMainRoster(const Worker& worker) {

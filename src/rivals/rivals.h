@@ -15,6 +15,7 @@ namespace grapplemont {
 
 /// A promotion that has not ceased to exist today.
 bool IsAlive(const Promotion& promotion);
+bool IsPlayers(const World& world, const Promotion& promotion);
 /// A living promotion that is not the player's.
 bool IsRival(const World& world, const Promotion& promotion);
 

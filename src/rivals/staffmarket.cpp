@@ -9,17 +9,14 @@ namespace grapplemont {
 
 namespace {
 
-struct PostTarget {
-  std::array<int, 6> BySize;
-};
-// From Announcer to Trainer; by size, Global to Backyard.
-constexpr std::array<PostTarget, 7> kTargets = {{{{5, 4, 3, 2, 1, 0}},
-                                                 {{4, 3, 2, 1, 1, 1}},
-                                                 {{4, 4, 3, 1, 0, 0}},
-                                                 {{2, 2, 1, 1, 0, 0}},
-                                                 {{3, 2, 1, 1, 0, 0}},
-                                                 {{4, 3, 2, 1, 0, 0}},
-                                                 {{2, 1, 1, 1, 0, 0}}}};
+// How many people a rival wants in a post, Announcer to Trainer; by size, Global to Backyard.
+constexpr std::array<std::array<int, 6>, 7> kTargets = {{{5, 4, 3, 2, 1, 0},
+                                                         {4, 3, 2, 1, 1, 1},
+                                                         {4, 4, 3, 1, 0, 0},
+                                                         {2, 2, 1, 1, 0, 0},
+                                                         {3, 2, 1, 1, 0, 0},
+                                                         {4, 3, 2, 1, 0, 0},
+                                                         {2, 1, 1, 1, 0, 0}}};
 
 struct TalentLimits {
   int AtMost;
@@ -35,10 +32,6 @@ constexpr int kUnsackableTalent = 101;
 constexpr int kAboveAllTalents = 102;
 
 }  // namespace
-
-int StaffWanted(int position, int size) {
-  return BySize(kTargets.at(static_cast<std::size_t>(position - kAnnouncer)).BySize, size);
-}
 
 Posts::Posts(const World& world) {
   for (const Staff& staff : world.AllStaff())
@@ -97,7 +90,8 @@ void FireStaff(World& world, const Promotion& rival, Staff& staff) {
 
 void FitPosts(World& world, const Promotion& rival, const Posts& posts) {
   for (int position = kAnnouncer; position <= kTrainer; ++position) {
-    const int wanted = StaffWanted(position, rival.Size);
+    const int wanted =
+        BySize(kTargets.at(static_cast<std::size_t>(position - kAnnouncer)), rival.Size);
     const int count = posts.Of(rival.Uid, position);
     for (int n = count; n < wanted; ++n) {
       Staff* staff = FindStaffFor(world, position, rival.Size);

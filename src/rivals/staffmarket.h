@@ -9,9 +9,6 @@
 
 namespace grapplemont {
 
-/// How many people a rival of this size wants in a post, 2 Announcer to 8 Trainer.
-int StaffWanted(int position, int size);
-
 /// How many each promotion has in each post.
 class Posts {
  public:

@@ -47,6 +47,16 @@ void TellOfFiring(World& world, const Promotion& rival, const Worker& worker) {
                 worker.Name.Str() + "!");
 }
 
+/// Finds a candidate and signs him; false for none.
+bool SignOne(World& world, const Promotion& rival, Taste taste, Rosters& rosters) {
+  Worker* candidate = FindCandidate(world, rival, taste);
+  if (!candidate) return false;
+  rosters.Move(*candidate, candidate->Employer, 0);
+  SignFor(world, rival, *candidate);
+  rosters.Move(*candidate, 0, rival.Uid);
+  return true;
+}
+
 }  // namespace
 
 bool IsWithinLimits(const Worker& worker, int size) {
@@ -119,15 +129,6 @@ void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& 
   }
 }
 
-bool SignOne(World& world, const Promotion& rival, Taste taste, Rosters& rosters) {
-  Worker* candidate = FindCandidate(world, rival, taste);
-  if (!candidate) return false;
-  rosters.Move(*candidate, candidate->Employer, 0);
-  SignFor(world, rival, *candidate);
-  rosters.Move(*candidate, 0, rival.Uid);
-  return true;
-}
-
 void FitRoster(World& world, const Promotion& rival, Rosters& rosters) {
   const tuning::RosterBand& band = BySize(tuning::kRosters, rival.Size);
   const int count = rosters.Of(rival.Uid);
@@ -142,13 +143,14 @@ void FitRoster(World& world, const Promotion& rival, Rosters& rosters) {
   FireFrom(world, rival, weakest);
 }
 
-int GoingRate(int size, int over) {
-  return std::max(1, BySize(tuning::kTopWage, size) * over * over / 10000);
-}
-
 namespace {
 
 constexpr int kLastMonth = 1;
+
+/// Thousands of dollars a month that a promotion of this size thinks fair for this Over.
+int GoingRate(int size, int over) {
+  return std::max(1, BySize(tuning::kTopWage, size) * over * over / 10000);
+}
 
 /// The score below which a roster's least wanted stand.
 int ScoreToStay(const World& world, const Promotion& rival, Taste taste) {

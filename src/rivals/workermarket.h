@@ -27,11 +27,6 @@ void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& 
 /// Signs or fires until the main roster is within its band: at most ten signings, and none after
 /// one that fails.
 void FitRoster(World& world, const Promotion& rival, Rosters& rosters);
-/// Finds a candidate and signs him; false for none.
-bool SignOne(World& world, const Promotion& rival, Taste taste, Rosters& rosters);
-
-/// Thousands of dollars a month that a promotion of this size thinks fair for this Over.
-int GoingRate(int size, int over);
 
 /// Contracts of the promotion's that have one month left are renewed by taste and budget or left to
 /// run out.

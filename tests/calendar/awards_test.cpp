@@ -47,14 +47,6 @@ Worker& Who(World& world, std::string_view name) {
   return Named(world.Workers(), name);
 }
 
-/// "Match of the Year: A beat B" of every award, a line each.
-std::string Given(const World& world) {
-  std::string text;
-  for (const YearAward& award : AwardsOfTheYear(world))
-    text += std::string(AwardName(award.Kind)) + ": " + award.Winner.Str() + "\n";
-  return text;
-}
-
 std::string GivenFor(const World& world, int kind) {
   for (const YearAward& award : AwardsOfTheYear(world))
     if (award.Kind == kind) return award.Winner.Str() + " | " + award.For.Str();
@@ -95,15 +87,6 @@ HistoryEntry& AddPast(World& world, int kind, int daysBack, std::string_view nam
   entry.Attendance = people;
   entry.Size = int(kRegional);
   return world.History().Append(entry);
-}
-
-TEST(Awards, OfAYearInWhichNothingHappenedGoToWhoeverStandsBest) {
-  World world = House();
-  NoteYearEnd(world);
-  EXPECT_EQ(Given(world),
-            "Wrestler of the Year: Bram Okafor\n"
-            "Woman of the Year: Ilya Marsh\n"
-            "Tag Team of the Year: The Drifters\n");
 }
 
 TEST(TheWrestlerOfTheYear, IsWorthHisOverHisRiseAndHisTitles) {

@@ -25,23 +25,17 @@ SmallWorld TwoPromotions(int size, int image) {
 }
 
 TEST(ChangeImage, StopsAtTheEndsOfTheWorld) {
-  World backyard = TwoPromotions(kBackyard, 5).Game("CWA");
-  ScriptDraws(backyard, {});
-  for (const char* initials : {"CWA", "NEW"}) {
-    Promotion& promotion = Named(backyard.Promotions(), initials);
-    ChangeImage(backyard, promotion, 9, false);
-    EXPECT_EQ(promotion.Image, 0);
-    EXPECT_EQ(promotion.Size, kBackyard);
+  for (const auto& [size, image, amount, after] :
+       {std::tuple(int(kBackyard), 5, -9, 0), {kGlobal, 95, 9, 100}}) {
+    World world = TwoPromotions(size, image).Game("CWA");
+    ScriptDraws(world, {});
+    for (Promotion& promotion : world.Promotions()) {
+      MoveImage(world, promotion, amount);
+      EXPECT_EQ(promotion.Image, after);
+      EXPECT_EQ(promotion.Size, size);
+    }
+    EXPECT_EQ(NewsOf(world), "");
   }
-  EXPECT_EQ(Named(backyard.Workers(), "CWA Top").Over, 88);
-  EXPECT_EQ(NewsOf(backyard), "");
-
-  World global = TwoPromotions(kGlobal, 95).Game("CWA");
-  ScriptDraws(global, {});
-  ChangeImage(global, global.Player(), 9, true);
-  EXPECT_EQ(global.Player().Image, 100);
-  EXPECT_EQ(global.Player().Size, kGlobal);
-  EXPECT_EQ(NewsOf(global), "");
 }
 
 TEST(ChangeImage, TakesThePlayerDownAClass) {
@@ -71,11 +65,11 @@ TEST(ChangeImage, MayCostThePlayerHisJob) {
   Named(world.AllStaff(), "CWA Boss").Unsackable = true;
   ScriptDraws(world, {{3, 3}, 1, 1, 1, 1});
   ChangeImage(world, world.Player(), 30, false);
-  EXPECT_EQ(world.Game().EndCode, 3);
+  EXPECT_EQ(world.Game().EndCode, kEndBoard);
   EXPECT_NE(Named(world.AllStaff(), "CWA Boss").Employer, 0) << "he stays";
 }
 
-TEST(ChangeImage, TellsOfARivalUnderTheOptions) {
+TEST(ChangeImage, TellsOfARivalUnderTheOptionsAndLetsItSpendByItsStanding) {
   struct Case {
     int Size, FedOption, OwnerOption;
     const char* News;
@@ -83,14 +77,7 @@ TEST(ChangeImage, TellsOfARivalUnderTheOptions) {
   // The player is Regional; a rival counts by the size that it has fallen to.
   constexpr const char* kFall = "NEW News: NEW have fallen to Regional level.\n";
   constexpr const char* kQuit = "NEW News: Owner NEW Boss has quit NEW.\n";
-  const Case kCases[] = {
-      {kCult, 1, 2, kFall},
-      {kCult, 2, 1, kQuit},
-      {kCult, 2, 2, ""},
-      {kRegional, 1, 1, ""},
-      {kRegional, 0, 2, "NEW News: NEW have fallen to Small level.\n"},
-      {kRegional, 2, 0, kQuit},
-  };
+  const Case kCases[] = {{kCult, 1, 2, kFall}, {kCult, 2, 1, kQuit}, {kRegional, 1, 1, ""}};
   for (const Case& c : kCases) {
     World world = TwoPromotions(kRegional, 5).Game("CWA");
     Promotion& rival = Named(world.Promotions(), "NEW");
@@ -103,40 +90,15 @@ TEST(ChangeImage, TellsOfARivalUnderTheOptions) {
     EXPECT_EQ(world.Session.StartSize, kRegional);
     EXPECT_EQ(Named(world.AllStaff(), "NEW Boss").Employer, 0);
     EXPECT_EQ(world.Game().EndCode, 0);
+    EXPECT_EQ(rival.Advertising, TargetAdvertising(c.Size + 1, 90));
+    EXPECT_EQ(rival.Merchandising, RivalSpendingFor(c.Size + 1).Merchandising);
+    EXPECT_EQ(rival.Production, RivalSpendingFor(c.Size + 1).Production);
+    EXPECT_EQ(rival.TicketPrice, FairTicketPrice(c.Size + 1));
   }
-}
-
-TEST(ChangeImage, LiftsPlayerAndPeopleAClass) {
-  World world =
-      TwoPromotions(kCult, 93).Promotion("OTH").Worker("Someone Else", kMainEvent, 70).Game("CWA");
-  Promotion& player = world.Player();
-  Named(world.Workers(), "CWA Top").OverFloor = 0;
-  Named(world.Workers(), "CWA Held").OverFloor = 72;
-  ScriptDraws(world, {{5, 3}, {5, 5}, {5, 2}});
-  ChangeImage(world, player, 7, true);
-  EXPECT_EQ(player.Image, 10);
-  EXPECT_EQ(player.Size, kNational);
-  EXPECT_EQ(world.Session.StartSize, kNational);
-  struct Lifted {
-    const char* Name;
-    int Over, Floor, Potential;
-  };
-  constexpr Lifted kLifted[] = {{"CWA Top", 96, 70, 90},
-                                {"CWA Held", 67, 72, 92},
-                                {"CWA Low", 4, 0, 30},
-                                {"CWA Away", 40, 0, 70},
-                                {"Someone Else", 70, 0, 70}};
-  for (const Lifted& lifted : kLifted) {
-    const Worker& worker = Named(world.Workers(), lifted.Name);
-    EXPECT_EQ(worker.Over, lifted.Over) << lifted.Name;
-    EXPECT_EQ(worker.OverFloor, lifted.Floor) << lifted.Name;
-    EXPECT_EQ(worker.Potential, lifted.Potential) << lifted.Name;
-  }
-  EXPECT_EQ(NewsOf(world), "Maeve: We have risen to National level.\n");
 }
 
 TEST(ChangeImage, LiftsNobodyWhoIsKeptAway) {
-  for (const int position : {kDevelopmentDeal + 0, kTrainingCamp + 0, 79, 81, 86}) {
+  for (const int position : {kDevelopmentDeal + 0, kTrainingCamp + 0, 79}) {
     World world = SmallWorld()
                       .Promotion("CWA", kCult, [](Promotion& p) { p.Image = 99; })
                       .Worker("Kept Away", kJobber, 40)
@@ -152,49 +114,21 @@ TEST(ChangeImage, LiftsNobodyWhoIsKeptAway) {
   }
 }
 
-TEST(ChangeImage, LetsRivalsSpendByTheirStanding) {
-  World world = TwoPromotions(kCult, 60).Game("CWA");
-  Promotion& rival = Named(world.Promotions(), "NEW");
-  ChangeImage(world, rival, 0, false);
-  EXPECT_EQ(rival.Advertising, TargetAdvertising(kCult, 60));
-  EXPECT_EQ(rival.Merchandising, RivalSpendingFor(kCult).Merchandising);
-  EXPECT_EQ(rival.Production, RivalSpendingFor(kCult).Production);
-  EXPECT_EQ(rival.TicketPrice, FairTicketPrice(kCult));
-}
-
-TEST(ChangeImage, SetsTheTypeOfEveryEventOfThePromotion) {
-  struct Case {
-    int Size, Image, Type;
-  };
-  constexpr Case kCases[] = {{kGlobal, 5, 1},    {kGlobal, 95, 1},  {kNational, 61, 1},
-                             {kNational, 60, 2}, {kCult, 61, 2},    {kCult, 60, 3},
-                             {kRegional, 99, 3}, {kRegional, 5, 3}, {kSmall, 99, 4},
-                             {kBackyard, 50, 4}};
-  for (const Case& c : kCases)
-    for (const char* initials : {"CWA", "NEW"}) {
-      World world = TwoPromotions(c.Size, c.Image).Game("CWA");
-      for (Event& event : world.Events()) event.Type = 4;
-      Promotion& promotion = Named(world.Promotions(), initials);
-      ChangeImage(world, promotion, 0, true);
-      for (const Event& event : world.Events())
-        EXPECT_EQ(event.Type, event.Owner == promotion.Uid ? c.Type : 4) << c.Size << c.Image;
-    }
-}
-
 /// What a size's ladder comes to over all ratings, weighed by the rating: a row or a step that
 /// moves changes it.
 TEST(ImageSteps, AreThoseOfTheirLadders) {
   const struct {
-    int (*Step)(int size, int rating);
+    HeldShow Kind;
     std::array<int, 6> Sums;  // Global to Backyard
-  } rows[] = {{EventImageStep, {1070, 1711, 13520, 18560, 18960, 21675}},
-              {TvImageStep, {-4162, -2312, 4064, 5984, 11970, 35805}},
-              {RivalEventImageStep, {-3330, 3811, 26127, 28745, 23130, 22950}},
-              {RivalTvImageStep, {-615, 2218, 7326, 16028, 17796, 13884}}};
+  } rows[] = {{HeldShow::Event, {1070, 1711, 13520, 18560, 18960, 21675}},
+              {HeldShow::Television, {-4162, -2312, 4064, 5984, 11970, 35805}},
+              {HeldShow::RivalEvent, {-3330, 3811, 26127, 28745, 23130, 22950}},
+              {HeldShow::RivalTelevision, {-615, 2218, 7326, 16028, 17796, 13884}}};
   for (const auto& row : rows)
     for (int size = kGlobal; size <= kBackyard; ++size) {
       int sum = 0;
-      for (int rating = 0; rating <= 100; ++rating) sum += row.Step(size, rating) * (rating + 1);
+      for (int rating = 0; rating <= 100; ++rating)
+        sum += ImageStep(row.Kind, size, rating) * (rating + 1);
       EXPECT_EQ(sum, row.Sums[static_cast<std::size_t>(size - 1)]) << size;
     }
 }

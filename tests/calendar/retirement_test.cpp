@@ -1,10 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "calendar/advanceday.h"
-#include "calendar/mentions.h"
-#include "records/checks/checkworld.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "roster/market.h"
@@ -17,6 +13,22 @@
 namespace grapplemont::test {
 namespace {
 
+/// Every place in the world that names the uid as one of this kind.
+std::string Mentions(const World& world, Refers to, int uid) {
+  std::string places;
+  for (const Table* table : world.Tables()) {
+    if (!table->Layout()) continue;
+    const RecordLayout& layout = *table->Layout();
+    const ByteSpan bytes = table->RecordBytes();
+    for (std::size_t at = 0; at < bytes.size(); at += static_cast<std::size_t>(layout.Size))
+      for (const Field& field : layout.Fields)
+        for (int i = 0; i < field.Count && field.To == to; ++i)
+          if (FieldNumber(field, bytes.data() + at, i) == uid)
+            places += std::string(layout.File) + " " + FieldName(field, i) + "\n";
+  }
+  return places;
+}
+
 using Script = std::vector<ScriptedDraw>;
 
 Script Then(Script first, const Script& next) {
@@ -26,20 +38,25 @@ Script Then(Script first, const Script& next) {
 
 constexpr int kFebruary = 2;  // the month whose birthdays 1 March keeps
 
-/// "Sol Varga", whose birthday it is, at the player's CWA, at its rival NEW or on the market.
-World With(std::string_view employer, const Change<Worker>& change = {},
-           const Change<GameInfo>& options = {}) {
-  SmallWorld small;
-  small.Promotion("NEW", kBackyard).Promotion("CWA");
-  if (employer == "NEW") small = SmallWorld(), small.Promotion("CWA").Promotion("NEW", kBackyard);
+/// Whoever comes next works for this one of the player's CWA and its rival NEW, or for nobody.
+void Houses(SmallWorld& small, std::string_view employer) {
+  const bool isRivals = employer == "NEW";
+  small.Promotion(isRivals ? "CWA" : "NEW", isRivals ? kRegional : kBackyard);
+  small.Promotion(isRivals ? "NEW" : "CWA", isRivals ? kBackyard : kRegional);
   if (employer.empty()) small.OnTheMarket();
+}
+
+/// "Sol Varga", whose birthday it is, at the player's CWA, at its rival NEW or on the market.
+World With(std::string_view employer, const Change<Worker>& change = {}) {
+  SmallWorld small;
+  Houses(small, employer);
   return small
       .Worker("Sol Varga",
               [&](Worker& worker) {
                 worker.BirthMonth = kFebruary;
                 if (change) change(worker);
               })
-      .Game("CWA", kGameStart, options);
+      .Game("CWA");
 }
 
 Worker& Sol(World& world) {
@@ -48,104 +65,50 @@ Worker& Sol(World& world) {
 
 const ScriptedDraw kSkillsStay{5, 3};
 
-TEST(Birthdays, ComeInTheMonthAfter) {
-  const struct {
-    Day Today;
-    int BirthMonth;
-  } rows[] = {{std::chrono::year{2026} / 1 / 1, 12},
-              {std::chrono::year{2026} / 2 / 1, 1},
-              {std::chrono::year{2026} / 12 / 1, 11}};
-  for (const auto& row : rows)
-    for (const int off : {0, 1, 11}) {
-      World world = With("CWA");
-      world.Game().Today = row.Today;
-      Sol(world).BirthMonth = (row.BirthMonth - 1 + off) % 12 + 1;
-      ScriptDraws(world, off == 0 ? Script{kSkillsStay} : Script{});
-      AgeAndRetire(world);
-      EXPECT_EQ(Sol(world).Age, off == 0 ? 29 : 28);
-    }
-}
-
-TEST(Birthdays, MoveTheSkillsUnlessAThreeIsDrawn) {
-  World world = With("CWA", [](Worker& worker) {
-    worker.Brawl = 98;
-    worker.Technical = 2;
-    worker.Speed = 60;
-  });
-  ScriptDraws(world, {{5, 4}, {5, 5}, {5, 1}, {5, 1}, {5, 5}, {5, 3}, {5, 2}});
-  AgeAndRetire(world);
-  EXPECT_EQ(Sol(world).Brawl, 100);
-  EXPECT_EQ(Sol(world).Technical, 0);
-  EXPECT_EQ(Sol(world).Speed, 61);
-}
-
-TEST(Retirement, IsDrawnByAge) {
+TEST(Retirement, IsDrawnByAgeAndToldByTheOptionTheShortlistAndOnesOwn) {
   struct Case {
     int AgeBefore;
     Script Draws;  // after the skills
     bool Announces;
+    std::string_view Employer = "CWA";
+    int Option = 2;  // NEW is smaller than CWA
+    bool Listed = false;
+    std::string_view Mail =
+        "Retirement!: Sol Varga has announced he will retire from CWA in one "
+        "month.\n";
   };
-  const Case kCases[] = {{33, {}, false},       {34, {{40, 1}}, true}, {34, {{40, 2}}, false},
-                         {43, {{40, 1}}, true}, {44, {{15, 1}}, true}, {49, {{15, 1}}, true},
-                         {50, {{3, 1}}, true},  {50, {{3, 3}}, false}, {64, {{3, 2}}, false},
-                         {65, {}, true},        {90, {}, true}};
+  constexpr std::string_view kFree =
+      "Retiring!: Sol Varga has announced she will retire in one month.\n";
+  constexpr std::string_view kRival =
+      "Retirement!: Sol Varga has announced he will retire from NEW in one month.\n";
+  const Case kCases[] = {{33, {}, false},
+                         {34, {{40, 1}}, true},
+                         {34, {{40, 2}}, false},
+                         {44, {{15, 1}}, true},
+                         {50, {{3, 1}}, true},
+                         {64, {{3, 2}}, false},
+                         {65, {}, true},
+                         {65, {}, true, "", 0, false, kFree},
+                         {65, {}, true, "", 1, false, ""},
+                         {65, {}, true, "", 2, true, kFree},
+                         {65, {}, true, "NEW", 0, false, kRival},
+                         {65, {}, true, "NEW", 1, false, ""},
+                         {65, {}, true, "NEW", 2, true, kRival}};
   for (const Case& c : kCases) {
     SCOPED_TRACE(c.AgeBefore);
-    World world = With("CWA", [&](Worker& worker) {
+    World world = With(c.Employer, [&](Worker& worker) {
       worker.Age = c.AgeBefore;
+      worker.Gender = !c.Employer.empty();
       worker.Position = kNonWrestler;
     });
+    world.Game().MailRetirement = c.Option;
+    world.Session.StartSize = world.Player().Size;
+    if (c.Listed) AddToShortlist(world, Sol(world).Uid);
     ScriptDraws(world, Then({kSkillsStay}, c.Draws));
     AgeAndRetire(world);
     EXPECT_EQ(Sol(world).RetiringSoon, c.Announces);
-    EXPECT_EQ(NewsOf(world),
-              c.Announces
-                  ? "Retirement!: Sol Varga has announced he will retire from CWA in one month.\n"
-                  : "");
+    EXPECT_EQ(NewsOf(world), c.Announces ? c.Mail : "");
   }
-}
-
-TEST(Retirement, IsNothingForTobiasFenn) {
-  World world = With("CWA");
-  Worker& tobias = Sol(world);
-  tobias.Name = "Tobias Fenn";
-  tobias.Age = 80;
-  ScriptDraws(world, {kSkillsStay});
-  AgeAndRetire(world);
-  EXPECT_FALSE(tobias.RetiringSoon);
-  EXPECT_EQ(tobias.Position, kNonWrestler) << "though he leaves the ring";
-}
-
-TEST(Retirement, MakesTheOldNonWrestlersFirst) {
-  struct Case {
-    int AgeBefore, Position;
-    Script Draws;  // after the skills: the end, then the ring
-    bool Leaves;
-  };
-  const Case kCases[] = {{39, kMidcard, {{40, 2}}, false},
-                         {40, kMidcard, {{40, 2}, {25, 5}}, true},
-                         {40, kMidcard, {{40, 2}, {25, 4}}, false},
-                         {48, kMidcard, {{15, 2}, {25, 5}}, true},
-                         {49, kMidcard, {{15, 2}}, true},
-                         {50, kMidcard, {{3, 2}}, true},
-                         {50, kManager, {{3, 2}}, true},
-                         {50, 83, {{3, 2}}, true},
-                         {50, kNonWrestler, {{3, 2}}, false}};
-  for (const Case& c : kCases)
-    for (const char* employer : {"CWA", "NEW", ""}) {
-      SCOPED_TRACE(std::to_string(c.AgeBefore) + " at " + employer);
-      World world = With(employer, [&](Worker& worker) {
-        worker.Age = c.AgeBefore;
-        worker.Position = c.Position;
-      });
-      ScriptDraws(world, Then({kSkillsStay}, c.Draws));
-      AgeAndRetire(world);
-      EXPECT_EQ(Sol(world).Position, c.Leaves ? int(kNonWrestler) : c.Position);
-      EXPECT_EQ(Sol(world).Morale, 80);
-      const bool told = c.Leaves && std::string_view(employer) == "CWA";
-      EXPECT_EQ(NewsOf(world),
-                told ? "News Desk: Sol Varga has decided to become a 'non wrestler'!\n" : "");
-    }
 }
 
 TEST(Retirement, WaitsForTheMonthAfterABirthdayEvenIfAnnouncedBefore) {
@@ -163,121 +126,15 @@ TEST(Retirement, WaitsForTheMonthAfterABirthdayEvenIfAnnouncedBefore) {
   }
 }
 
-TEST(Retirement, IsToldByTheOptionTheShortlistAndOnesOwn) {
-  struct Case {
-    const char* Employer;
-    int Option;  // NEW is smaller than CWA
-    bool Shortlisted;
-    const char* News;
-  };
-  const char* const kFree = "Retiring!: Sol Varga has announced she will retire in one month.\n";
-  const char* const kRival =
-      "Retirement!: Sol Varga has announced she will retire from NEW in one month.\n";
-  const char* const kOwn =
-      "Retirement!: Sol Varga has announced she will retire from CWA in one month.\n";
-  const Case kCases[] = {{"", 0, false, kFree},  {"", 1, false, ""},        {"", 2, false, ""},
-                         {"", 2, true, kFree},   {"NEW", 0, false, kRival}, {"NEW", 1, false, ""},
-                         {"NEW", 2, false, ""},  {"NEW", 2, true, kRival},  {"CWA", 2, false, kOwn},
-                         {"CWA", 1, false, kOwn}};
-  for (const Case& c : kCases) {
-    SCOPED_TRACE(std::string(c.Employer) + std::to_string(c.Option));
-    World world = With(
-        c.Employer,
-        [](Worker& worker) {
-          worker.Age = 70;
-          worker.Gender = false;
-        },
-        [&](GameInfo& game) { game.MailRetirement = c.Option; });
-    world.Session.StartSize = world.Player().Size;
-    if (c.Shortlisted) AddToShortlist(world, Sol(world).Uid);
-    ScriptDraws(world, {kSkillsStay});
-    AgeAndRetire(world);
-    EXPECT_EQ(NewsOf(world), c.News);
-  }
-}
-
 // The rookie's draws: name, attributes, market, moods. A brawler of the middle tier, Over 20.
-Script Rookie(bool isWoman, int diva = 5) {
+Script Rookie() {
   const int moves =
       static_cast<int>(std::count_if(FinisherMoves.begin(), FinisherMoves.end(),
                                      [](const FinisherMove& move) { return move.Kind == 'B'; }));
-  Script script{{300, 1}, {303, isWoman ? 252 : 1}, {4, 2}, {60, 10}, {60, 20}, {95, 30}, {45, 5},
-                {45, 6}};
-  if (isWoman) script.push_back({10, 1});
-  script = Then(
-      script,
-      {{10, 1}, {6, 2}, {25, 10}, {moves, 1}, {moves, 2}, {30, 30}, {20, 3}, {20, 4}, {15, 5}});
-  if (isWoman) script.push_back({20, diva});
-  return Then(script, {{12, 7},
-                       {2, 2},
-                       {35, 1},
-                       {20, 2},
-                       {70, 1},
-                       {70, 2},
-                       {14, 1},
-                       {14, 14},
-                       {30, 3},
-                       {30, 29},
-                       {30, 30}});
-}
-
-TEST(Retirement, TakesPlaceInAMonthThatIsNotTheBirthdays) {
-  World world = With("CWA", [](Worker& worker) { worker.Age = 70; });
-  const int uid = Sol(world).Uid;
-  ScriptDraws(world, {kSkillsStay});
-  AgeAndRetire(world);
-  EXPECT_TRUE(Sol(world).RetiringSoon) << "not gone in the month of the announcement";
-  world.Game().Today = std::chrono::year{2026} / 4 / 1;
-  world.News().Remove();
-  ScriptDraws(world, Rookie(false));
-  AgeAndRetire(world);
-  EXPECT_EQ(NewsOf(world), "Retirement!: Sol Varga has retired from CWA!\n");
-  ASSERT_EQ(world.Workers().Count(), 1);
-  const Worker& rookie = world.Workers()[1];
-  EXPECT_EQ(rookie.Uid, uid + 1);
-  EXPECT_EQ(rookie.Name.Str(), std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[0]));
-  EXPECT_EQ(rookie.ShortName.View(), Surnames[0]);
-  EXPECT_TRUE(rookie.Gender);
-  EXPECT_EQ(rookie.Age, 20);
-  EXPECT_EQ(rookie.BirthMonth, 7);
-  EXPECT_EQ(rookie.Employer, 0);
-  EXPECT_EQ(rookie.ContractType.View(), "Non");
-  EXPECT_EQ(rookie.ContractMonths, 0);
-  EXPECT_EQ(rookie.Status.View(), "Nor");
-  EXPECT_EQ(rookie.Position, kLowerMidcard);
-  EXPECT_EQ(rookie.Over, 20);
-  EXPECT_EQ(rookie.Potential, 49);
-  EXPECT_EQ(rookie.OverFloor, 0);
-  EXPECT_EQ(rookie.Condition, 76);
-  EXPECT_EQ(rookie.Morale, 89);
-  EXPECT_EQ(rookie.Loyalty, 73);
-  EXPECT_EQ(rookie.Disposition.View(), "H");
-  EXPECT_TRUE(rookie.Speaks && rookie.Trainer && rookie.Booker && rookie.Debuted);
-  EXPECT_FALSE(rookie.SuperstarLook || rookie.Announcer || rookie.RetiringSoon ||
-               rookie.CreativeControl || rookie.Diva || rookie.Unsackable);
-  EXPECT_EQ(rookie.Stable.View(), "None");
-  EXPECT_EQ(rookie.Split.View(), "None");
-}
-
-TEST(Retirement, GivesARookieAtLeastThirtyPotentialAndNoFloorBelowNothing) {
-  struct Case {
-    int Potential, Floor;  // drawn, for an Over of 20
-    int PotentialAfter, FloorAfter;
-  };
-  constexpr Case kCases[] = {{1, 1, 30, 19}, {10, 19, 30, 1}, {11, 20, 31, 0}, {30, 30, 50, 0}};
-  for (const Case& c : kCases) {
-    World world = With("", [](Worker& worker) {
-      worker.BirthMonth = 6;
-      worker.RetiringSoon = true;
-    });
-    Script draws = Rookie(false);
-    draws.end()[-2] = {30, c.Potential};
-    draws.end()[-1] = {30, c.Floor};
-    ScriptDraws(world, draws);
-    AgeAndRetire(world);
-    EXPECT_EQ(world.Workers()[1].Potential, c.PotentialAfter);
-    EXPECT_EQ(world.Workers()[1].OverFloor, c.FloorAfter);
-  }
+  return {{300, 1}, {303, 1}, {4, 2},  {60, 10}, {60, 20},   {95, 30},   {45, 5},
+          {45, 6},  {10, 1},  {6, 2},  {25, 10}, {moves, 1}, {moves, 2}, {30, 30},
+          {20, 3},  {20, 4},  {15, 5}, {12, 7},  {2, 2},     {35, 1},    {20, 2},
+          {70, 1},  {70, 2},  {14, 1}, {14, 14}, {30, 3},    {30, 29},   {30, 30}};
 }
 
 TEST(Retirement, LeavesNoLinkBehind) {
@@ -287,22 +144,18 @@ TEST(Retirement, LeavesNoLinkBehind) {
           .Promotion("NEW")
           .Show("Monday Mire", "Monday", "Nine")
           .Promotion("CWA")
-          .Crew(4)
+          .Crew(3)
           .Worker("Sol Varga", kMainEvent, 80, [](Worker& worker) { worker.RetiringSoon = true; })
-          .Worker("Client", [](Worker& worker) { worker.Position = kJobber; })
           .Team("The Hands", "CWA Hand 1", "CWA Hand 2")
-          .Team("Sol and One", "Sol Varga", "CWA Hand 1")
           .Team("Two and Sol", "CWA Hand 2", "Sol Varga")
           .Stable("The Firm", {"Sol Varga", "CWA Hand 3"})
           .Title("CWA Crown", "Sol Varga")
           .Title("CWA Pair", "CWA Hand 1", "Sol Varga")
-          .Title("CWA Cup", "CWA Hand 3")
           .Show("Friday Fire", "Friday", "Nine")
           .Game("CWA")
           .Feud("CWA Hand 1", "Sol Varga")
           .Feud("CWA Hand 2", "CWA Hand 3");
   const int uid = Sol(world).Uid;
-  const int record = world.Workers().NumberOf(Sol(world));
   for (Title& title : world.Titles()) title.Image = 50;
   for (Show& show : world.Shows()) {
     show.Colour = uid;
@@ -311,7 +164,7 @@ TEST(Retirement, LeavesNoLinkBehind) {
   }
   world.Player().Commissioner = uid;
   world.Player().HeadTrainer = uid;  // a member of staff who has the same number
-  Named(world.Workers(), "Client").Manager = uid;
+  Named(world.Workers(), "CWA Hand 1").Manager = uid;
   AddToShortlist(world, uid);
   for (const int type : {4, 6}) {
     Incident incident;
@@ -320,22 +173,24 @@ TEST(Retirement, LeavesNoLinkBehind) {
     world.Incidents().Append(incident);
   }
   struct Booked {
-    int Style, Place, RunIn;  // where he stands; -1: nowhere
-    bool Stays;
+    int Style;
+    std::size_t Place;  // where he stands
+    bool RunsIn, Stays;
   };
-  constexpr Booked kBooked[] = {{kSingles, 1, 0, false},  {kSingles, -1, 0, true},
-                                {kTag, 3, 0, false},      {kThreeTeams, 5, 0, false},
-                                {kSingles, -1, 1, false}, {kSingles, 9, 0, true}};
+  constexpr Booked kBooked[] = {{kSingles, 1, false, false},
+                                {kTag, 3, false, false},
+                                {kSingles, 0, true, false},
+                                {kSingles, 0, false, true}};
   for (const Booked& row : kBooked) {
     Segment segment = EmptySegment();
     segment.Kind = kMatch;
     segment.Style = row.Style;
-    for (std::size_t place = 0; place < 6; ++place) segment.Worker[place] = 1;
-    if (row.Place >= 0) segment.Worker[static_cast<std::size_t>(row.Place)] = uid;
-    if (row.RunIn) segment.Other2 = uid;
+    for (std::size_t place = 0; place < 4; ++place) segment.Worker[place] = 1;
+    if (row.Place != 0) segment.Worker[row.Place] = uid;
+    if (row.RunsIn) segment.Other2 = uid;
     world.Segments().Append(segment);
   }
-  ScriptDraws(world, Rookie(false));
+  ScriptDraws(world, Rookie());
   AgeAndRetire(world);
   EXPECT_EQ(Mentions(world, Refers::Worker, uid), "");
   EXPECT_EQ(Mentions(world, Refers::Commentator, uid), "");
@@ -343,11 +198,7 @@ TEST(Retirement, LeavesNoLinkBehind) {
   ASSERT_EQ(world.Teams().Count(), 1);
   EXPECT_EQ(world.Teams()[1].Name.View(), "The Hands");
   EXPECT_EQ(world.Titles()[1].Image, 45);
-  EXPECT_EQ(world.Titles()[1].Reigns[0].Holder.View(), "Vacant");
   EXPECT_EQ(world.Titles()[1].Reigns[1].Holder.View(), "Sol Varga");
-  EXPECT_EQ(Day(world.Titles()[1].Reigns[1].Lost), kGameStart);
-  EXPECT_EQ(world.Titles()[2].Holder, 0);
-  EXPECT_EQ(world.Titles()[3].Image, 50);
   EXPECT_EQ(world.Feuds()[1].Worker1, 0);
   EXPECT_NE(world.Feuds()[2].Worker1, 0);
   EXPECT_EQ(world.Incidents()[1].Type, 0);
@@ -355,8 +206,86 @@ TEST(Retirement, LeavesNoLinkBehind) {
   int number = 0;
   for (const Booked& row : kBooked)
     EXPECT_EQ(world.Segments()[++number].Kind, row.Stays ? kMatch : kEmptySegment) << number;
-  EXPECT_EQ(world.Workers()[record].Name.Str(),
-            std::string(WorkerFirstNames[0]) + " " + std::string(Surnames[0]));
+}
+
+/// "Pen Ward" of the age, whose birthday it is.
+World WithStaff(std::string_view employer, int position, int age, int option = 0) {
+  SmallWorld small;
+  Houses(small, employer);
+  return small
+      .Staff("Pen Ward", position, 50,
+             [&](Staff& staff) {
+               staff.BirthMonth = kFebruary;
+               staff.Age = age;
+             })
+      .Game("CWA", kGameStart, [&](GameInfo& game) { game.MailStaffRetire = option; });
+}
+
+/// Name, age, talent, wage of an Owner, backstage, birthday, booker, morale, loyalty.
+Script Newcomer(int position) {
+  Script script{{300, 1}, {192, 162}, {35, 5}, {100, 60}};
+  if (position == kOwner) script.push_back({6, 3});
+  return Then(script,
+              {{65, 10}, {12, 11}, {position == kAnnouncer ? 5 : 35, 1}, {40, 40}, {30, 1}});
+}
+
+TEST(StaffRetirement, IsDrawnByAgeAndAtOnce) {
+  struct Case {
+    int AgeBefore;
+    Script Draws;
+    bool Retires;
+    std::string_view Employer = "CWA";
+    int Option = 2;
+    const char* From = " from CWA";  // nullptr: untold
+  };
+  const Case kCases[] = {{48, {}, false},
+                         {49, {{10, 1}}, true},
+                         {58, {{10, 2}}, false},
+                         {59, {{3, 1}}, true},
+                         {65, {{2, 1}}, true},
+                         {72, {{2, 2}}, false},
+                         {73, {}, true},
+                         {73, {}, true, "NEW", 0, " from NEW"},
+                         {73, {}, true, "NEW", 1, nullptr},
+                         {73, {}, true, "", 0, ""},
+                         {73, {}, true, "", 1, nullptr}};
+  for (const Case& c : kCases) {
+    SCOPED_TRACE(c.AgeBefore);
+    World world = WithStaff(c.Employer, kMedical, c.AgeBefore, c.Option);
+    world.Session.StartSize = kRegional;
+    const int uid = world.AllStaff()[1].Uid;
+    ScriptDraws(world, c.Retires ? Then(c.Draws, Newcomer(kMedical)) : c.Draws);
+    AgeAndRetire(world);
+    EXPECT_EQ(world.AllStaff()[1].Uid, c.Retires ? uid + 1 : uid);
+    EXPECT_EQ(world.AllStaff()[1].Age, c.Retires ? 30 : c.AgeBefore + 1);
+    EXPECT_EQ(NewsOf(world),
+              c.Retires && c.From
+                  ? "Retirement!: Staff member Pen Ward has retired" + std::string(c.From) + "!\n"
+                  : "");
+  }
+}
+
+TEST(StaffRetirement, LeavesItsChairsToNobody) {
+  World world = WithStaff("CWA", kAnnouncer, 80);
+  const int uid = world.AllStaff()[1].Uid;
+  world.Player().HeadTrainer = uid;
+  world.Player().DevBooker = uid;
+  Show show;
+  show.Announcer = show.Colour = uid;
+  for (const Promotion& owner : world.Promotions()) {
+    show.Owner = owner.Uid;
+    world.Shows().Append(show);
+  }
+  show.ColourIsWorker = true;
+  show.Announcer = 0;
+  world.Shows().Append(show);
+  ScriptDraws(world, Newcomer(kAnnouncer));
+  AgeAndRetire(world);
+  EXPECT_EQ(world.AllStaff()[1].Position, kAnnouncer);
+  EXPECT_EQ(world.AllStaff()[1].Employer, 0);
+  EXPECT_EQ(Mentions(world, Refers::Staff, uid), "");
+  EXPECT_EQ(Mentions(world, Refers::Commentator, uid), "tv.dat Colour\n")
+      << "a worker of the same number speaks on";
 }
 
 }  // namespace

@@ -1,83 +1,16 @@
 #include <gtest/gtest.h>
 
 #include "calendar/advanceday.h"
-#include "calendar/mentions.h"
-#include "roster/names.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
-#include "words/names.h"
 
 namespace grapplemont::test {
 namespace {
 
-/// Always the highest number; notes of how many.
-class HighDraws : public Draws {
- public:
-  explicit HighDraws(std::vector<int>& asked) : asked_(asked) {}
-  int Draw(int n) override {
-    asked_.push_back(n);
-    return n;
-  }
-
- private:
-  std::vector<int>& asked_;
-};
-
 /// The player's promotion with one worker.
 World One(const Change<Worker>& change, std::string_view name = "Bram Okafor") {
   return SmallWorld().Promotion("CWA").Worker(name, kMidcard, 50, change).Game("CWA");
-}
-
-TEST(DailyUpkeep, RestsThePlayersPeopleAsTheMedicsCan) {
-  struct Case {
-    int Roster, Medics, Draw;
-  };
-  constexpr Case kCases[] = {{1, 0, 5},  {30, 0, 5}, {31, 1, 2}, {31, 2, 5}, {55, 1, 2},
-                             {55, 2, 5}, {56, 2, 2}, {56, 3, 5}, {90, 3, 5}};
-  for (const Case& c : kCases) {
-    SmallWorld small;
-    small.Promotion("CWA").Crew(c.Roster).Staff("Bell Ringer", kReferee);
-    for (int i = 0; i < c.Medics; ++i) small.Staff("Medic " + std::to_string(i), kMedical);
-    World world = small.Promotion("NEW").Staff("Rival Medic", kMedical).Game("CWA");
-    for (Worker& worker : world.Workers()) worker.Condition = 40;
-    std::vector<int> asked;
-    world.SetChance(std::make_unique<HighDraws>(asked));
-    DailyWorkerUpkeep(world);
-    EXPECT_EQ(asked, std::vector<int>(static_cast<std::size_t>(c.Roster), c.Draw))
-        << c.Roster << " with " << c.Medics;
-    EXPECT_EQ(world.Workers()[1].Condition, 40 + c.Draw);
-  }
-}
-
-TEST(DailyUpkeep, LeavesOthersToThemselves) {
-  struct Case {
-    bool Employed;
-    int Morale, Condition, Draw, MoraleAfter, ConditionAfter;
-  };
-  constexpr Case kCases[] = {{true, 64, 50, 1, 65, 50},
-                             {true, 65, 50, 2, 65, 51},
-                             {true, 0, 100, 2, 1, 100},
-                             {false, 30, 0, 1, 30, 0},
-                             {false, 70, 99, 2, 70, 100}};
-  for (const Case& c : kCases) {
-    SmallWorld small;
-    small.Promotion("CWA").Promotion("NEW");
-    if (!c.Employed) small.OnTheMarket();
-    World world = small
-                      .Worker("Bram Okafor",
-                              [&](Worker& worker) {
-                                worker.Morale = c.Morale;
-                                worker.Condition = c.Condition;
-                                worker.Behaviour = 0;
-                              })
-                      .Game("CWA");
-    ScriptDraws(world, {{2, c.Draw}});
-    DailyWorkerUpkeep(world);
-    EXPECT_EQ(world.Workers()[1].Morale, c.MoraleAfter);
-    EXPECT_EQ(world.Workers()[1].Condition, c.ConditionAfter);
-    EXPECT_EQ(NewsOf(world), "");
-  }
 }
 
 void Unhappy(Worker& worker) {
@@ -86,105 +19,78 @@ void Unhappy(Worker& worker) {
   worker.Morale = 9;
   worker.Condition = 50;
 }
+void Hopeless(Worker& worker) {
+  worker.Behaviour = 74;
+  worker.Morale = 0;
+  worker.Condition = 50;
+}
 
-TEST(DailyUpkeep, LetsTheUnhappyWalkOutOfAVerbalAgreement) {
-  World world = One(Unhappy);
-  ScriptDraws(world, {{3, 2}, {5, 4}});
-  DailyWorkerUpkeep(world);
-  EXPECT_EQ(world.Workers()[1].Employer, 0);
-  EXPECT_EQ(world.Workers()[1].ContractMonths, 0);
-  EXPECT_EQ(world.Workers()[1].Condition, 54);
-  EXPECT_EQ(NewsOf(world),
-            "Bram Okafor: I'm not happy in this promotion, so i am leaving to work elsewhere.\n");
-
-  World legend = One(Unhappy, "Maul Gantry");
-  ScriptDraws(legend, {{3, 2}, {5, 4}});
-  DailyWorkerUpkeep(legend);
-  EXPECT_EQ(NewsOf(legend),
-            "Maul Gantry: Brother, I'm not happy in this promotion, so i am leaving to take "
-            "Maulamania elsewhere!\n");
+TEST(DailyUpkeep, LetsTheUnhappyWalkOutAndTheHopelessSitOut) {
+  struct Case {
+    const char* Name;
+    void (*Change)(Worker&);
+    bool Leaves;
+    const char* Says;
+  };
+  const Case kCases[] = {
+      {"Bram Okafor", Unhappy, true,
+       "I'm not happy in this promotion, so i am leaving to work elsewhere."},
+      {"Maul Gantry", Unhappy, true,
+       "Brother, I'm not happy in this promotion, so i am leaving to take Maulamania elsewhere!"},
+      {"Bram Okafor", Hopeless, false,
+       "I've had enough with this promotion, i refuse to wrestle for you again."},
+      {"Maul Gantry", Hopeless, false,
+       "Dude, I've had enough with this promotion, i refuse to wrestle for you again, brother!"},
+      // Neither verbal nor written: a code that only another program writes.
+      {"Bram Okafor",
+       [](Worker& worker) {
+         Hopeless(worker);
+         worker.ContractType = "???";
+       },
+       true, "I've had enough with this promotion and the way i've been treated, i'm leaving."}};
+  for (const Case& c : kCases) {
+    World world = SmallWorld()
+                      .Promotion("CWA")
+                      .Worker(c.Name, kMidcard, 50, c.Change)
+                      .Game("CWA")
+                      .BuildUnchecked();
+    ScriptDraws(world, c.Leaves ? std::vector<ScriptedDraw>{{3, 2}, {5, 4}}
+                                : std::vector<ScriptedDraw>{{5, 4}});
+    DailyWorkerUpkeep(world);
+    const Worker& worker = world.Workers()[1];
+    EXPECT_EQ(worker.Employer == 0, c.Leaves);
+    EXPECT_EQ(worker.Status.View(), c.Leaves ? "Nor" : "Hom");
+    EXPECT_EQ(worker.Loyalty == 0, c.Change != Unhappy);
+    EXPECT_EQ(worker.Condition, 54) << "whoever leaves still recovers that morning";
+    EXPECT_EQ(NewsOf(world), std::string(c.Name) + ": " + c.Says + "\n");
+    if (c.Leaves) continue;
+    ScriptDraws(world, {{5, 1}});
+    DailyWorkerUpkeep(world);
+    EXPECT_EQ(world.News().Count(), 1) << "he says so once";
+  }
 }
 
 TEST(DailyUpkeep, HoldsWhomNothingLetsGo) {
   const Change<Worker> kReasons[] = {
-      [](Worker& w) { w.ContractType = "Wri"; }, [](Worker& w) { w.Status = "Inj"; },
+      [](Worker& w) { w.ContractType = "Wri"; },
+      [](Worker& w) { w.Status = "Inj", w.StatusMonths = 2, w.InjuryName = "Broken Arm"; },
       [](Worker& w) { w.Unsackable = true, w.ContractMonths = kNoEnd; },
-      [](Worker& w) { w.Behaviour = 80; }, [](Worker& w) { w.Morale = 10; }};
+      [](Worker& w) { w.Behaviour = 80; },
+      [](Worker& w) { w.Morale = 10; },
+      [](Worker& w) { Hopeless(w), w.Behaviour = 75, w.ContractType = "Wri"; },
+      [](Worker& w) { Hopeless(w), w.Morale = 1, w.ContractType = "Wri"; }};
   int number = 0;
   for (const Change<Worker>& reason : kReasons) {
     World world = One([&](Worker& worker) {
       Unhappy(worker);
       reason(worker);
-      if (worker.Status == "Inj") worker.StatusMonths = 2, worker.InjuryName = "Broken Arm";
     });
     ScriptDraws(world, {{5, 1}});
     DailyWorkerUpkeep(world);
     EXPECT_NE(world.Workers()[1].Employer, 0) << number++;
+    EXPECT_NE(world.Workers()[1].Status.View(), "Hom");
     EXPECT_EQ(NewsOf(world), "");
   }
-}
-
-TEST(DailyUpkeep, LetsTheHopelessSitOutAWrittenContract) {
-  const auto hopeless = [](Worker& worker) {
-    worker.Behaviour = 74;
-    worker.Morale = 0;
-  };
-  World world = One(hopeless);
-  ScriptDraws(world, {{5, 1}});
-  DailyWorkerUpkeep(world);
-  const Worker& worker = world.Workers()[1];
-  EXPECT_EQ(worker.Status.View(), "Hom");
-  EXPECT_EQ(worker.Loyalty, 0);
-  EXPECT_NE(worker.Employer, 0);
-  EXPECT_EQ(NewsOf(world),
-            "Bram Okafor: I've had enough with this promotion, i refuse to wrestle for you "
-            "again.\n");
-  ScriptDraws(world, {{5, 1}});
-  DailyWorkerUpkeep(world);
-  EXPECT_EQ(world.News().Count(), 1) << "he says so once";
-
-  World legend = One(hopeless, "Maul Gantry");
-  ScriptDraws(legend, {{5, 1}});
-  DailyWorkerUpkeep(legend);
-  EXPECT_EQ(NewsOf(legend),
-            "Maul Gantry: Dude, I've had enough with this promotion, i refuse to wrestle for you "
-            "again, brother!\n");
-
-  for (const Change<Worker>& reason :
-       {Change<Worker>([](Worker& w) { w.Behaviour = 75; }), {[](Worker& w) { w.Morale = 1; }}}) {
-    World held = One([&](Worker& w) {
-      hopeless(w);
-      reason(w);
-    });
-    ScriptDraws(held, {{5, 1}});
-    DailyWorkerUpkeep(held);
-    EXPECT_EQ(held.Workers()[1].Status.View(), "Nor");
-  }
-}
-
-TEST(DailyUpkeep, LetsTheHopelessBreakAnyOtherContract) {
-  // Neither verbal nor written: a code that only another program writes.
-  World world = SmallWorld()
-                    .Promotion("CWA")
-                    .Worker("Bram Okafor",
-                            [](Worker& worker) {
-                              worker.ContractType = "???";
-                              worker.Behaviour = 74;
-                              worker.Morale = 0;
-                              worker.Condition = 50;
-                            })
-                    .Game("CWA")
-                    .BuildUnchecked();
-  ScriptDraws(world, {{3, 3}, {5, 2}});
-  DailyWorkerUpkeep(world);
-  const Worker& worker = world.Workers()[1];
-  EXPECT_EQ(worker.Employer, 0);
-  EXPECT_EQ(worker.Status.View(), "Nor");
-  EXPECT_EQ(worker.Morale, 80);
-  EXPECT_EQ(worker.Loyalty, 0);
-  EXPECT_EQ(NewsOf(world),
-            "Bram Okafor: I've had enough with this promotion and the way i've been treated, i'm "
-            "leaving.\n");
 }
 
 TEST(DailyUpkeep, MovesTheMoodOfThoseKeptAway) {
@@ -193,22 +99,15 @@ TEST(DailyUpkeep, MovesTheMoodOfThoseKeptAway) {
     std::vector<int> Draws;  // after the Condition's
     int Morale;              // from 50
   };
-  const Case kCases[] = {{kDevelopmentDeal, 25, {2}, 51},
-                         {kDevelopmentDeal, 25, {1}, 50},
-                         {81, 18, {2}, 51},
-                         {kDevelopmentDeal, 26, {}, 50},
-                         {kDevelopmentDeal, 27, {2, 1}, 51},
-                         {86, 34, {1, 2}, 49},
-                         {kDevelopmentDeal, 30, {2, 2}, 50},
-                         {kDevelopmentDeal, 35, {}, 50},
-                         {kTrainingCamp, 20, {}, 50},
-                         {kMidcard, 20, {}, 50}};
+  const Case kCases[] = {
+      {kDevelopmentDeal, 25, {2}, 51},    {81, 18, {1}, 50},     {kDevelopmentDeal, 26, {}, 50},
+      {kDevelopmentDeal, 27, {2, 1}, 51}, {86, 34, {1, 2}, 49},  {kDevelopmentDeal, 35, {}, 50},
+      {kTrainingCamp, 20, {}, 50},        {kMidcard, 20, {}, 50}};
   for (const Case& c : kCases) {
     World world = One([&](Worker& worker) {
       worker.Position = c.Position;
       worker.Age = c.Age;
       worker.Morale = 50;
-      worker.TurnPending = true;
     });
     std::vector<int> script{1};
     script.insert(script.end(), c.Draws.begin(), c.Draws.end());
@@ -218,99 +117,119 @@ TEST(DailyUpkeep, MovesTheMoodOfThoseKeptAway) {
   }
 }
 
-using Script = std::vector<ScriptedDraw>;
-
-Script Then(Script first, const Script& next) {
-  first.insert(first.end(), next.begin(), next.end());
-  return first;
-}
-
-/// "Pen Ward" of the age, whose birthday it is.
-World WithStaff(std::string_view employer, int position, int age, int option = 0) {
-  SmallWorld small;
-  small.Promotion("NEW", kBackyard).Promotion("CWA");
-  if (employer == "NEW") small = SmallWorld(), small.Promotion("CWA").Promotion("NEW", kBackyard);
-  if (employer.empty()) small.OnTheMarket();
-  World world =
-      small
-          .Staff("Pen Ward", position, 50,
-                 [&](Staff& staff) {
-                   staff.BirthMonth = 2;
-                   staff.Age = age;
-                 })
-          .Game("CWA", kGameStart, [&](GameInfo& game) { game.MailStaffRetire = option; });
-  world.Session.StartSize = world.Player().Size;
-  return world;
-}
-
-/// Name, age, talent, wage of an Owner, backstage, birthday, booker, morale, loyalty.
-Script Newcomer(int position) {
-  Script script{{300, 1}, {192, 162}, {35, 5}, {100, 60}};
-  if (position == kOwner) script.push_back({6, 3});
-  return Then(script,
-              {{65, 10}, {12, 11}, {position == kAnnouncer ? 5 : 35, 1}, {40, 40}, {30, 1}});
-}
-
-TEST(StaffRetirement, IsDrawnByAgeAndAtOnce) {
+TEST(EconomyDrift, MovesByItsBands) {
   struct Case {
-    int AgeBefore;
-    Script Draws;
-    bool Retires;
+    int Before;
+    bool Rising;
+    std::vector<int> Draws;
+    int After;
+    bool RisingAfter;
   };
-  const Case kCases[] = {{48, {}, false},       {49, {{10, 1}}, true}, {49, {{10, 2}}, false},
-                         {58, {{10, 1}}, true}, {59, {{3, 1}}, true},  {64, {{3, 3}}, false},
-                         {65, {{2, 1}}, true},  {72, {{2, 2}}, false}, {73, {}, true},
-                         {90, {}, true}};
+  const Case kCases[] = {
+      {50, true, {8}, 51, true},   {50, false, {8}, 49, false},       {50, true, {9}, 50, true},
+      {20, false, {1}, 19, false}, {80, true, {1}, 81, true},         {81, true, {}, 82, true},
+      {19, true, {}, 26, true},    {99, true, {}, 100, false},        {7, false, {}, 0, true},
+      {5, false, {}, -2, false},   {-32765, false, {}, -32768, false}};
   for (const Case& c : kCases) {
-    SCOPED_TRACE(c.AgeBefore);
-    World world = WithStaff("CWA", kMedical, c.AgeBefore, 2);
-    const int uid = world.AllStaff()[1].Uid;
-    ScriptDraws(world, c.Retires ? Then(c.Draws, Newcomer(kMedical)) : c.Draws);
-    AgeAndRetire(world);
-    const Staff& there = world.AllStaff()[1];
-    EXPECT_EQ(world.AllStaff().Count(), 1);
-    EXPECT_EQ(there.Uid, c.Retires ? uid + 1 : uid);
-    EXPECT_EQ(there.Age, c.Retires ? 30 : c.AgeBefore + 1);
-    EXPECT_EQ(NewsOf(world),
-              c.Retires ? "Retirement!: Staff member Pen Ward has retired from CWA!\n" : "");
+    World world = SmallWorld().Promotion("CWA").Game("CWA");
+    world.Game().Economy = c.Before;
+    world.Game().EconomyRising = c.Rising;
+    ScriptDraws(world, c.Draws);
+    EconomyDrift(world);
+    EXPECT_EQ(world.Game().Economy, c.After) << "from " << c.Before;
+    EXPECT_EQ(world.Game().EconomyRising, c.RisingAfter) << "from " << c.Before;
   }
 }
 
-TEST(StaffRetirement, PutsSomebodyNewForThePostIntoTheRecord) {
-  for (const int position : {int(kOwner), int(kAnnouncer), int(kTrainer)}) {
-    SCOPED_TRACE(position);
-    World world = WithStaff("CWA", position, 80);
-    const int uid = world.AllStaff()[1].Uid;
-    world.Player().HeadTrainer = uid;
-    world.Player().DevBooker = uid;
-    Show show;
-    show.Name = "Friday Fire";
-    show.Announcer = uid;
-    show.Colour = uid;
-    for (const char* owner : {"CWA", "NEW"}) {
-      show.Owner = Named(world.Promotions(), owner).Uid;
-      world.Shows().Append(show);
-    }
-    show.ColourIsWorker = true;
-    show.Announcer = 0;
-    world.Shows().Append(show);
-    ScriptDraws(world, Newcomer(position));
-    AgeAndRetire(world);
-    const Staff& fresh = world.AllStaff()[1];
-    EXPECT_EQ(fresh.Name.Str(), std::string(StaffFirstNames[161]) + " " + std::string(Surnames[0]));
-    EXPECT_FALSE(fresh.Gender);
-    EXPECT_EQ(fresh.Position, position);
-    EXPECT_EQ(fresh.Employer, 0);
-    EXPECT_EQ(fresh.ContractMonths, position == kOwner ? int(kNoEnd) : 0);
-    EXPECT_EQ(fresh.Wage, position == kOwner ? 3 : 13);
-    EXPECT_EQ(fresh.BirthMonth, 11);
-    EXPECT_TRUE(fresh.Booker);
-    EXPECT_EQ(fresh.Morale, 100);
-    EXPECT_EQ(fresh.Loyalty, 71);
-    EXPECT_FALSE(fresh.Unsackable);
-    EXPECT_EQ(Mentions(world, Refers::Staff, uid), "");
-    EXPECT_EQ(Mentions(world, Refers::Commentator, uid), "tv.dat Colour\n")
-        << "a worker of the same number speaks on";
+/// The player's CWA with a territory under a booker, and "Sol Varga" there.
+World Territory(int talent, const Change<Worker>& change = {}) {
+  World world = SmallWorld()
+                    .Promotion("NEW")
+                    .Worker("Al Other", kDevelopmentDeal, 10)
+                    .Promotion("CWA")
+                    .Staff("Kit Booker", kRoadAgent, talent)
+                    .Worker("Sol Varga", kDevelopmentDeal, 40,
+                            [&](Worker& worker) {
+                              worker.Potential = 70;
+                              worker.Charisma = 95;
+                              worker.Stiff = 50;
+                              if (change) change(worker);
+                            })
+                    .Game("CWA");
+  world.Player().DevName = "Ohio Ring";
+  world.Player().DevBooker = Named(world.AllStaff(), "Kit Booker").Uid;
+  return world;
+}
+
+std::string Improved(const std::string& pieces) {
+  return pieces.empty() ? ""
+                        : "Development: Sol Varga in Ohio Ring has improved in the following "
+                          "areas: " +
+                              pieces + "\n";
+}
+
+TEST(DevelopmentMonth, LetsTheOutgrownFret) {
+  const char* const kWords[] = {"is unhappy about remaining in Ohio Ring.",
+                                "doesn't want to remain in Ohio Ring.",
+                                "wants to be promoted to the full roster.",
+                                "feels that Ohio Ring isn't helping her career much.",
+                                "is not happy about being stuck in Ohio Ring."};
+  for (int mail = 1; mail <= 5; ++mail) {
+    World world = Territory(99, [&](Worker& worker) {
+      worker.Over = 70;
+      worker.Gender = false;
+      worker.Behaviour = 50;
+      worker.Morale = 60;
+    });
+    world.Game().MailDev = 2;
+    ScriptDraws(world, {{2, 2}, {5, 4}, {5, mail}});
+    DevelopmentMonth(world);
+    const Worker& sol = Named(world.Workers(), "Sol Varga");
+    EXPECT_EQ(sol.Behaviour, 48);
+    EXPECT_EQ(sol.Morale, 56);
+    EXPECT_EQ(NewsOf(world), std::string("Development: Sol Varga ") + kWords[mail - 1] + "\n");
+  }
+  World world = Territory(80, [](Worker& worker) { worker.Over = 68; });
+  ScriptDraws(world, {{4, 2}, {2, 1}, {5, 1}, {5, 4}});
+  DevelopmentMonth(world);
+  EXPECT_EQ(NewsOf(world),
+            Improved("Over (2 points);") +
+                "Development: Sol Varga feels that Ohio Ring isn't helping his career much.\n")
+      << "already in the month in which he gets there";
+}
+
+/// The player's CWA with a camp under a head trainer, and "Sol Varga" in it.
+World Camp(int talent, int facilities) {
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Staff("Pop Grim", kTrainer, talent)
+                    .Worker("Sol Varga", kTrainingCamp, 10,
+                            [](Worker& worker) {
+                              worker.Brawl = 10;
+                              worker.Technical = 20;
+                              worker.Speed = 30;
+                              worker.Sell = 40;
+                              worker.Attitude = 50;
+                            })
+                    .Worker("Al Jobber", kJobber, 10)
+                    .Game("CWA");
+  world.Player().CampName = "Pump House";
+  world.Player().CampFacilities = facilities;
+  world.Player().HeadTrainer = Named(world.AllStaff(), "Pop Grim").Uid;
+  return world;
+}
+
+TEST(TrainingCampMonth, NeedsACampAHeadTrainerAndATrainee) {
+  const Change<World> kLacks[] = {[](World& w) { w.Player().HeadTrainer = 0; },
+                                  [](World& w) { w.Player().CampName = "None"; },
+                                  [](World& w) { w.Workers()[1].Employer = 99; }};
+  for (const Change<World>& lacks : kLacks) {
+    World world = Camp(99, 4);
+    lacks(world);
+    ScriptDraws(world, {});
+    const World before = CopyOf(world);
+    TrainingCampMonth(world);
+    ExpectSame(world, before);
   }
 }
 

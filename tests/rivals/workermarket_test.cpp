@@ -4,7 +4,6 @@
 
 #include "rivals/faults.h"
 #include "rivals/rivals.h"
-#include "rivals/tuning.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -45,48 +44,16 @@ std::string Weakest(World& world, int most) {
   return names;
 }
 
-TEST(RivalSigning, HoldsToTheLimitsOfEachSize) {
-  struct Row {
-    int Size, Wage, OverMost, OverAbove;
-  };
-  const Row kRows[] = {{1, 300, 100, 50}, {2, 100, 100, 50}, {3, 80, 80, 40},
-                       {4, 60, 60, 20},   {5, 30, 40, 5},    {6, 20, 20, 0}};
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.Size);
-    Worker worker;
-    worker.Wage = row.Wage;
-    worker.Over = row.OverMost;
-    EXPECT_TRUE(IsWithinLimits(worker, row.Size));
-    worker.Wage = row.Wage + 1;
-    EXPECT_FALSE(IsWithinLimits(worker, row.Size));
-    worker.Wage = 0;
-    worker.Over = row.OverAbove + 1;
-    EXPECT_TRUE(IsWithinLimits(worker, row.Size));
-    worker.Over = row.OverAbove;
-    EXPECT_FALSE(IsWithinLimits(worker, row.Size));
-    worker.Over = row.OverMost + 1;
-    EXPECT_EQ(IsWithinLimits(worker, row.Size), row.OverMost == 100) << "nobody has more than 100";
-  }
-}
-
 TEST(RivalSigning, StealsByBehaviourAndTheDistanceInSize) {
   // The biggest number of a size that can have somebody who works for a promotion of size 5.
-  for (const auto& [behaviour, most] :
-       {std::pair(0, 4), {59, 4}, {60, 3}, {90, 3}, {91, 2}, {100, 2}}) {
-    World world = SmallWorld()
-                      .Promotion("CWA", kSmall)
-                      .Worker("Bram Okafor",
-                              [&](Worker& worker) {
-                                worker.Behaviour = behaviour;
-                                worker.ContractType = "Non";
-                              })
-                      .Build();
+  for (const auto& [behaviour, most] : {std::pair(59, 4), {60, 3}, {90, 3}, {91, 2}}) {
+    World world = SmallWorld().Promotion("CWA", kSmall).Worker("Bram Okafor").Build();
     Worker& worker = world.Workers()[1];
+    EXPECT_FALSE(IsOpenTo(world, worker, kGlobal)) << "a written contract binds";
+    worker.Behaviour = behaviour;
+    worker.ContractType = "Non";
     for (int size = kGlobal; size <= kBackyard; ++size)
       EXPECT_EQ(IsOpenTo(world, worker, size), size <= most) << behaviour << " at " << size;
-    worker.ContractType = "Wri";
-    EXPECT_FALSE(IsOpenTo(world, worker, kGlobal)) << "a written contract binds";
-    worker.ContractType = "Non";
     worker.Unsackable = true;
     EXPECT_FALSE(IsOpenTo(world, worker, kGlobal));
   }
@@ -107,35 +74,6 @@ TEST(RivalSigning, LooksAtOneInTenOfAllButItsOwn) {
   Named(world.Workers(), "Good Far").Employer = Rival(world).Uid;
   ScriptDraws(world, {{10, 2}, {10, 2}, {10, 1}, {10, 2}});
   EXPECT_EQ(FindCandidate(world, Rival(world), kBrawlers)->Name.Str(), "Worse");
-}
-
-TEST(RivalSigning, GivesAContractByItsSize) {
-  struct Row {
-    int Size, Months;
-    const char* Type;
-    int Rise;
-  };
-  const Row kRows[] = {{1, 24, "Wri", 10}, {2, 24, "Wri", 8}, {3, 12, "Wri", 6},
-                       {4, 12, "Non", 4},  {5, 6, "Non", 0},  {6, 6, "Non", 0}};
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.Size);
-    World world = Beside(row.Size).Worker("Bram Okafor", Of(50, 58)).Game("CWA");
-    world.Game().MailWorkerHire = 0;
-    Worker& worker = world.Workers()[1];
-    worker.Morale = 90;
-    worker.Debuted = false;
-    SignFor(world, Rival(world), worker);
-    EXPECT_EQ(worker.Employer, Rival(world).Uid);
-    EXPECT_EQ(worker.ContractMonths, row.Months);
-    EXPECT_EQ(worker.ContractType.Str(), row.Type);
-    EXPECT_EQ(worker.Wage, 10 + row.Rise);
-    EXPECT_EQ(worker.Morale, 100);
-    EXPECT_TRUE(worker.Debuted);
-    EXPECT_EQ(NewsOf(world), "XWF News: XWF have signed Bram Okafor!\n");
-    worker.Wage = 295;
-    SignFor(world, Rival(world), worker);
-    EXPECT_EQ(worker.Wage, std::min(295 + row.Rise, 300));
-  }
 }
 
 TEST(RivalSigning, TakesThePlayersPeopleOutOfAllTheyWereIn) {
@@ -206,45 +144,6 @@ TEST(RivalFiring, LetsTheLowestScoreGo) {
             "XWF News: XWF have fired Weak!\nXWF News: XWF have released As Weak!\n");
 }
 
-TEST(RivalFiring, MeasuresManagersAndNonWrestlersToo) {
-  const auto with = [](int charisma, int skill) {
-    return [=](Worker& worker) {
-      worker.Charisma = charisma;
-      worker.Brawl = skill;
-      worker.Technical = skill;
-      worker.Speed = skill;
-    };
-  };
-  struct Row {
-    int Position, Charisma, Skill, Over;
-    bool Goes;
-  };
-  // Against a wrestler whose score is 50.
-  for (const Row& row : {Row{kManager, 50, 99, 49, true}, Row{kManager, 53, 0, 49, false},
-                         Row{kNonWrestler, 99, 49, 49, true}, Row{kNonWrestler, 0, 51, 51, false},
-                         Row{kTrainingCamp, 0, 0, 0, false}, Row{kDevelopmentDeal, 0, 0, 0, false},
-                         Row{kSentToDevelopment + kOpener, 0, 0, 0, false}}) {
-    World world = SmallWorld()
-                      .Promotion("CWA")
-                      .Promotion("XWF")
-                      .Worker("Plain", kMidcard, 50, with(50, 50))
-                      .Worker("Other", row.Position, row.Over, with(row.Charisma, row.Skill))
-                      .BuildUnchecked();
-    EXPECT_EQ(Weakest(world, 1), row.Goes ? "Other;" : "Plain;")
-        << row.Position << " " << row.Charisma;
-  }
-}
-
-TEST(RivalFiring, TellsOfTheShortlistWhateverTheOption) {
-  for (const bool noted : {false, true}) {
-    World world = SmallWorld().Promotion("CWA").Promotion("XWF").Worker("Bram Okafor").Game("CWA");
-    world.Game().MailWorkerFire = 2;
-    if (noted) world.Game().Shortlist[14] = world.Workers()[1].Uid;
-    FireFrom(world, Rival(world), {&world.Workers()[1]});
-    EXPECT_EQ(NewsOf(world), noted ? "XWF News: XWF have fired Bram Okafor!\n" : "");
-  }
-}
-
 TEST(RivalWorkerHiring, SignsTenInARowAtMostAndNoneAfterAFailure) {
   SmallWorld small = Beside(kBackyard);
   for (int i = 1; i <= 12; ++i) small.Worker("Free " + std::to_string(i), Of(50, 10));
@@ -260,74 +159,6 @@ TEST(RivalWorkerHiring, SignsTenInARowAtMostAndNoneAfterAFailure) {
   ScriptDraws(unlucky, {{10, 1}, {10, 2}, {10, 2}});
   RivalWorkerHiring(unlucky);
   EXPECT_EQ(Rosters(unlucky).Of(Rival(unlucky).Uid), 1) << "the second try found nobody";
-}
-
-TEST(RivalWorkerHiring, FiresWhatStandsAboveItsBandTheWeakestFirst) {
-  const int most = tuning::kRosters[kBackyard - 1].Most;
-  World world = SmallWorld()
-                    .Promotion("CWA")
-                    .Promotion("XWF", kBackyard)
-                    .Crew(most + 2)
-                    .Worker("Corner", kManager, 1, [](Worker& worker) { worker.Charisma = 1; })
-                    .Game("CWA", kGameStart, TellsAll());
-  const int corner = Named(world.Workers(), "Corner").Uid;
-  for (Worker& worker : world.Workers())
-    if (worker.Uid != corner) worker.Manager = corner;
-  ScriptDraws(world, std::vector<int>{});
-  RivalWorkerHiring(world);
-  EXPECT_EQ(Rosters(world).Of(Rival(world).Uid), most);
-  EXPECT_EQ(NewsOf(world),
-            "XWF News: XWF have fired Corner!\nXWF News: XWF have fired XWF Hand 6!\n"
-            "XWF News: XWF have fired XWF Hand 12!\n");
-  for (const Worker& worker : world.Workers()) EXPECT_EQ(worker.Manager, 0) << worker.Name.Str();
-  EXPECT_EQ(FaultsOf(world), "");
-}
-
-TEST(RivalWorkerHiring, LeavesThePlayerAndTheDyingAlone) {
-  World world = SmallWorld()
-                    .Promotion("CWA", kBackyard)
-                    .Promotion("XWF", kBackyard, [](Promotion& gone) { gone.Name = kToBeDeleted; })
-                    .OnTheMarket()
-                    .Worker("Free", Of(50, 10))
-                    .Game("CWA")
-                    .BuildUnchecked();
-  ScriptDraws(world, std::vector<int>{});
-  RivalWorkerHiring(world);
-  EXPECT_EQ(world.Workers()[1].Employer, 0);
-}
-
-TEST(RivalPositions, FollowPopularityForRivalsAlone) {
-  World world = SmallWorld()
-                    .Promotion("CWA", kRegional)
-                    .Worker("Mine", kJobber, 90)
-                    .Promotion("XWF", kRegional)
-                    .Worker("Star", kJobber, 56)
-                    .Worker("Camper", kTrainingCamp, 36)
-                    .Worker("Corner", kManager, 90)
-                    .Worker("Voice", kNonWrestler, 90)
-                    .Game("CWA");
-  RivalPositions(world);
-  const std::pair<const char*, int> kPlaces[] = {{"Mine", kJobber},
-                                                 {"Star", kMainEvent},
-                                                 {"Camper", kMidcard},
-                                                 {"Corner", kManager},
-                                                 {"Voice", kNonWrestler}};
-  for (const auto& [name, position] : kPlaces)
-    EXPECT_EQ(Named(world.Workers(), name).Position, position) << name;
-}
-
-TEST(RivalPositions, BringWhoeverWasSentAwayBackToTheCard) {
-  for (const int over : {10, 81, 100}) {
-    World world = SmallWorld()
-                      .Promotion("CWA")
-                      .Promotion("XWF", kGlobal)
-                      .Worker("Away", kSentToDevelopment + kMidcard, over)
-                      .Game("CWA");
-    RivalPositions(world);
-    EXPECT_EQ(world.Workers()[1].Position, over == 10   ? kJobber
-                                           : over == 81 ? kUpperMidcard
-                                                        : kMainEvent);
-  }
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include "calendar/events.h"
-#include "calendar/screens/calendarscreens.h"
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "show/attendance.h"

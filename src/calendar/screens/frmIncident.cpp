@@ -1,19 +1,16 @@
 #include <array>
 
 #include "calendar/incidents.h"
-#include "calendar/screens/calendarscreens.h"
 #include "records/fields/wording.h"
 #include "records/modWresCheck.h"
+#include "roster/leaving.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
 namespace {
 
 constexpr std::array<int, 4> kSuspensions = {1, 3, 6, 12};  // months
-
-int SuspensionAt(int i) {
-  return kSuspensions[static_cast<std::size_t>(i - 1)];
-}
 
 /// What happened backstage, one after the other. Each answer takes it off the list for good.
 class frmIncident : public ui::Screen {
@@ -98,7 +95,7 @@ class frmIncident : public ui::Screen {
     if (!desk().Ask("Fire?", "Are you sure you wish to fire " + worker->Name.Str() + "?",
                     ui::Default::No))
       return;
-    FireFor(world(), *worker);
+    ReleaseWorker(world(), *worker);
     Next();
   }
   void cmdsuspend_Click(int months) {
@@ -123,7 +120,7 @@ class frmIncident : public ui::Screen {
   ui::Button cmdfire{*this, "cmdfire", "Fire", &frmIncident::cmdfire_Click};
   ui::Array<ui::Button> cmdsuspend{
       "cmdsuspend", static_cast<int>(kSuspensions.size()), [this](const std::string& name, int i) {
-        const int months = SuspensionAt(i);
+        const int months = kSuspensions[static_cast<std::size_t>(i - 1)];
         return std::make_unique<ui::Button>(*this, name, "Suspend " + Counted(months, "Month"),
                                             [this, months] { cmdsuspend_Click(months); });
       }};

@@ -57,9 +57,6 @@ class frmMainScreen : public ui::Screen {
   explicit frmMainScreen(Game& game)
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
     CommandNamed("cmdfed").Tip = "Click for promotional matters.";
-    for (int i = 1; i <= commands.Count(); ++i)
-      OfferOnlyWhatIsThere(commands(i), kCommands[static_cast<std::size_t>(i - 1)].Screen);
-    OfferOnlyWhatIsThere(txtname, "frmUser");
     lstmail.EmptyText = "No mail. What the world has to tell you arrives here.";
   }
 
@@ -101,12 +98,6 @@ class frmMainScreen : public ui::Screen {
   }
 
  private:
-  void OfferOnlyWhatIsThere(ui::Button& button, const char* screen) {
-    if (desk().Knows(screen)) return;
-    button.Enabled = false;
-    button.Tip = "This comes with a later version.";
-  }
-
   ui::Button& CommandNamed(std::string_view control) {
     for (int i = 1; i <= commands.Count(); ++i)
       if (commands(i).Name() == control) return commands(i);
@@ -129,7 +120,6 @@ class frmMainScreen : public ui::Screen {
   /// The staff meet once a week.
   void ShowMeeting() {
     ui::Button& meeting = CommandNamed("cmdmeeting");
-    if (!desk().Knows("frmTalk")) return;
     const std::string why = WhyNoMeeting(world());
     EnableUnless(meeting, why);
     meeting.Badge = why.empty() ? "today" : "";
@@ -188,28 +178,27 @@ class frmMainScreen : public ui::Screen {
     return show.Kind == "Television" ? ui::Tone::Plain : ui::Tone::Red;
   }
 
-  /// What stops the game until the player has dealt with it. Such a screen opens once its room has
-  /// it.
+  /// What stops the game until the player has dealt with it.
   void OpenWhatWaits() {
     if (HasEnded(world().Game())) return TellTheEnd();
     if (ShowUnderWay(world()))
-      return OpenIfKnown(ShowIsClosed(world()) ? "frmPostShow" : "frmMatchOutput");
+      return OpenUnlessOpen(ShowIsClosed(world()) ? "frmPostShow" : "frmMatchOutput");
     const int endCode = world().Game().EndCode;
-    if (endCode == kStrangerWaits) return OpenIfKnown("frmPinky");
-    if (endCode == 0 && HasIncident(world())) OpenIfKnown("frmIncident");
+    if (endCode == kStrangerWaits) return OpenUnlessOpen("frmPinky");
+    if (endCode == 0 && HasIncident(world())) OpenUnlessOpen("frmIncident");
   }
 
   /// Once is enough: afterwards the player reads the world as he left it.
   void TellTheEnd() {
     if (endIsTold_) return;
     endIsTold_ = true;
-    OpenIfKnown("frmTheEnd");
+    OpenUnlessOpen("frmTheEnd");
   }
 
-  void OpenIfKnown(const char* screen) {
+  void OpenUnlessOpen(const char* screen) {
     const auto isThere = [&](const auto& open) { return open->Name() == screen; };
     const auto& screens = desk().Screens();
-    if (desk().Knows(screen) && std::ranges::none_of(screens, isThere)) desk().Open(screen);
+    if (std::ranges::none_of(screens, isThere)) desk().Open(screen);
   }
 
   void cmdnext_Click() {
@@ -244,7 +233,6 @@ class frmMainScreen : public ui::Screen {
 
   /// The mailbox lists the same mails in the same order.
   void lstmail_Open() {
-    if (!desk().Knows("frmNews")) return;
     const int row = lstmail.Selected();
     desk().Open("frmNews");
     ui::Pick(desk(), *desk().Top(), "lstnews", row);

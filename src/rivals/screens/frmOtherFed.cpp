@@ -1,6 +1,3 @@
-#include "rivals/screens/frmOtherFed.h"
-#include "ui/game.h"
-
 #include <algorithm>
 
 #include "business/past.h"
@@ -13,6 +10,8 @@
 #include "rivals/rivals.h"
 #include "rivals/screens/rivalscreens.h"
 #include "storylines/screens/screenpeople.h"
+#include "storylines/titles.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -22,12 +21,6 @@ using K = ui::ColumnKind;
 
 /// Month ends that the chart shows.
 constexpr int kChartMonths = 36;
-
-std::string ChampionOf(const World& world, const Title& title) {
-  if (title.Holder == 0) return "Vacant";
-  return title.Partner == 0 ? WorkerName(world, title.Holder)
-                            : PairName(world, title.Holder, title.Partner);
-}
 
 ui::Cell SinceCell(const Title& title) {
   const Day won = title.Reigns[0].Won;
@@ -46,142 +39,158 @@ std::string NetworkName(const World& world, const Show& show) {
   return network ? network->Name.Str() : "None";
 }
 
-}  // namespace
+/// What is known of a promotion, on sheets side by side: the part that the list of all promotions
+/// and the page of one have in common.
+class PromotionSheets {
+ public:
+  PromotionSheets(ui::Screen& screen, Game& game) : screen_(screen), game_(game) {
+    txtabout.Brief = true;
+    lstroster.EmptyText = "Nobody works here yet.";
+    lststaff.EmptyText = "There is no staff.";
+    lstshows.EmptyText = "No network carries a show of theirs.";
+    lstevents.EmptyText = "No Event is planned.";
+    lsttitles.EmptyText = "They have no Titles. A roster of eight founds its first.";
+    lstsponsors.EmptyText = "Nobody sponsors them.";
+    lstpast.EmptyText = "What a promotion was is remembered at the end of each month.";
+  }
 
-PromotionSheets::PromotionSheets(ui::Screen& screen, Game& game)
-    : game_(game),
-      txtabout(screen, "txtabout"),
-      lstroster(screen, "lstroster",
-                {{"Name", K::Text, 8},
-                 {"Position", K::Text, 7},
-                 {"Disp.", K::Tag, 4},
-                 {"Over", K::Percent, 5, "Popularity."},
-                 {"Age", K::Number, 2},
-                 {"Status", K::Text, 5}},
-                ui::Handler{}, [this] { OpenWorkerOf(lstroster); }),
-      lststaff(screen, "lststaff",
-               {{"Name", K::Text, 4}, {"Post", K::Text, 3}, {"Talent", K::Percent, 2}}),
-      lstshows(screen, "lstshows",
-               {{"Show", K::Text, 4},
-                {"Day", K::Text, 2},
-                {"Slot", K::Text, 2},
-                {"Network", K::Text, 3},
-                {"Last rating", K::Number, 2}}),
-      lstevents(screen, "lstevents",
-                {{"Event", K::Text, 4}, {"Month", K::Number, 2}, {"Type", K::Text, 2}}),
-      lsttitles(screen, "lsttitles",
-                {{"Title", K::Text, 9},
-                 {"Kind", K::Text, 5},
-                 {"Champion", K::Text, 9},
-                 {"Since", K::Date, 4},
-                 {"Image", K::Number, 3}},
-                ui::Handler{}, [this] { OpenWorkerOf(lsttitles); }),
-      lstsponsors(screen, "lstsponsors",
-                  {{"Sponsor", K::Text, 4}, {"Place", K::Text, 2}, {"Months left", K::Number, 2}}),
-      lstpast(screen, "lstpast",
-              {{"Month end", K::Text, 3},
-               {"Size", K::Text, 2},
-               {"Image", K::Percent, 2},
-               {"Money", K::Text, 3}}),
-      chtstanding(screen, "chtstanding") {
-  txtabout.Brief = true;
-  lstroster.EmptyText = "Nobody works here yet.";
-  lststaff.EmptyText = "There is no staff.";
-  lstshows.EmptyText = "No network carries a show of theirs.";
-  lstevents.EmptyText = "No Event is planned.";
-  lsttitles.EmptyText = "They have no Titles. A roster of eight founds its first.";
-  lstsponsors.EmptyText = "Nobody sponsors them.";
-  lstpast.EmptyText = "What a promotion was is remembered at the end of each month.";
-}
+  ui::Box Layout() {
+    return ui::Tabs(
+        {ui::Group("Overview", {txtabout, ui::Group("Sponsors", {ui::Grow(lstsponsors)}).Grow()}),
+         ui::Group("Roster", {ui::Grow(lstroster)}), ui::Group("Staff", {ui::Grow(lststaff)}),
+         ui::Group("Shows", {ui::Grow(lstshows), ui::Grow(lstevents)}),
+         ui::Group("Titles", {ui::Grow(lsttitles)}),
+         ui::Group("History", {ui::Grow(chtstanding), ui::Grow(lstpast)})});
+  }
 
-ui::Box PromotionSheets::Layout() {
-  return ui::Tabs(
-      {ui::Group("Overview", {txtabout, ui::Group("Sponsors", {ui::Grow(lstsponsors)}).Grow()}),
-       ui::Group("Roster", {ui::Grow(lstroster)}), ui::Group("Staff", {ui::Grow(lststaff)}),
-       ui::Group("Shows", {ui::Grow(lstshows), ui::Grow(lstevents)}),
-       ui::Group("Titles", {ui::Grow(lsttitles)}),
-       ui::Group("History", {ui::Grow(chtstanding), ui::Grow(lstpast)})});
-}
+  /// Nothing at all for nullptr.
+  void Show(const Promotion* promotion) {
+    for (ui::ListBox* list :
+         {&lstroster, &lststaff, &lstshows, &lstevents, &lsttitles, &lstsponsors, &lstpast})
+      list->Clear();
+    chtstanding.Lines = std::vector<ui::Chart::Series>{};
+    txtabout.WriteLines(promotion ? AboutPromotion(world(), *promotion) : "");
+    if (!promotion) return;
+    ShowPeople(promotion->Uid);
+    ShowProgramme(promotion->Uid);
+    ShowTitles(promotion->Uid);
+    ShowSponsors(*promotion);
+    ShowPast(*promotion);
+  }
 
-void PromotionSheets::Show(const Promotion* promotion) {
-  for (ui::ListBox* list :
-       {&lstroster, &lststaff, &lstshows, &lstevents, &lsttitles, &lstsponsors, &lstpast})
-    list->Clear();
-  chtstanding.Lines = std::vector<ui::Chart::Series>{};
-  txtabout.WriteLines(promotion ? AboutPromotion(world(), *promotion) : "");
-  if (!promotion) return;
-  ShowPeople(promotion->Uid);
-  ShowProgramme(promotion->Uid);
-  ShowTitles(promotion->Uid);
-  ShowSponsors(*promotion);
-  ShowPast(*promotion);
-}
+ private:
+  const World& world() { return game_.World(); }
 
-void PromotionSheets::ShowPeople(int uid) {
-  for (const Worker* worker : RosterOf(world(), uid))
-    lstroster.Add({worker->Name.View(),
-                   {1.0 * worker->Position, std::string(PositionText(worker->Position))},
-                   DispositionCell(*worker),
-                   int(worker->Over),
-                   int(worker->Age),
-                   StatusCell(*worker)},
-                  worker->Uid);
-  for (const Staff* staff : StaffOf(world(), uid))
-    lststaff.Add({staff->Name.View(),
-                  {1.0 * staff->Position, std::string(Says(kStaffPositions, staff->Position))},
-                  int(staff->Talent)},
-                 staff->Uid);
-}
+  void ShowPeople(int uid) {
+    for (const Worker* worker : RosterOf(world(), uid))
+      lstroster.Add({worker->Name.View(),
+                     {1.0 * worker->Position, std::string(PositionText(worker->Position))},
+                     DispositionCell(*worker),
+                     int(worker->Over),
+                     int(worker->Age),
+                     StatusCell(*worker)},
+                    worker->Uid);
+    for (const Staff* staff : StaffOf(world(), uid))
+      lststaff.Add({staff->Name.View(),
+                    {1.0 * staff->Position, std::string(Says(kStaffPositions, staff->Position))},
+                    int(staff->Talent)},
+                   staff->Uid);
+  }
 
-void PromotionSheets::ShowProgramme(int uid) {
-  for (const grapplemont::Show& show : world().Shows())
-    if (show.Owner == uid && show.Name != kToBeDeleted)
-      lstshows.Add({show.Name.View(),
-                    {1.0 * DayNumber(show.Day), show.Day.Str()},
-                    Says(kTimeSlots, show.Slot),
-                    NetworkName(world(), show),
-                    {1.0 * show.Rating3, RatingText(show.Rating3)}});
-  for (int month = 1; month <= 12; ++month)
-    for (const Event& event : world().Events())
-      if (event.Owner == uid && event.Month == month)
-        lstevents.Add({event.Name.View(),
-                       {1.0 * month, std::string(MonthName(month))},
-                       Says(kEventTypes, event.Type)});
-}
+  void ShowProgramme(int uid) {
+    for (const grapplemont::Show& show : world().Shows())
+      if (show.Owner == uid && show.Name != kToBeDeleted)
+        lstshows.Add({show.Name.View(),
+                      {1.0 * DayNumber(show.Day), show.Day.Str()},
+                      Says(kTimeSlots, show.Slot),
+                      NetworkName(world(), show),
+                      {1.0 * show.Rating3, RatingText(show.Rating3)}});
+    for (int month = 1; month <= 12; ++month)
+      for (const Event& event : world().Events())
+        if (event.Owner == uid && event.Month == month)
+          lstevents.Add({event.Name.View(),
+                         {1.0 * month, std::string(MonthName(month))},
+                         Says(kEventTypes, event.Type)});
+  }
 
-void PromotionSheets::ShowTitles(int uid) {
-  std::vector<const Title*> titles;
-  for (const Title& title : world().Titles())
-    if (title.Owner == uid) titles.push_back(&title);
-  std::ranges::stable_sort(titles, [](auto* a, auto* b) { return a->Image > b->Image; });
-  for (const Title* title : titles)
-    lsttitles.Add({title->Name.View(), TitleKind(*title), ChampionOf(world(), *title),
-                   SinceCell(*title), int(title->Image)},
-                  title->Holder);
-}
+  void ShowTitles(int uid) {
+    std::vector<const Title*> titles;
+    for (const Title& title : world().Titles())
+      if (title.Owner == uid) titles.push_back(&title);
+    std::ranges::stable_sort(titles, [](auto* a, auto* b) { return a->Image > b->Image; });
+    for (const Title* title : titles)
+      lsttitles.Add({title->Name.View(), TitleKind(*title), ChampionText(world(), *title),
+                     SinceCell(*title), int(title->Image)},
+                    title->Holder);
+  }
 
-void PromotionSheets::ShowSponsors(const Promotion& promotion) {
-  for (std::size_t i = 0; i < promotion.Sponsor.size(); ++i)
-    if (const Sponsor* sponsor = world().FindSponsor(promotion.Sponsor[i]))
-      lstsponsors.Add(
-          {sponsor->Name.View(), i == 0 ? "Main" : "Minor", int(sponsor->ContractMonths)});
-}
+  void ShowSponsors(const Promotion& promotion) {
+    for (std::size_t i = 0; i < promotion.Sponsor.size(); ++i)
+      if (const Sponsor* sponsor = world().FindSponsor(promotion.Sponsor[i]))
+        lstsponsors.Add(
+            {sponsor->Name.View(), i == 0 ? "Main" : "Minor", int(sponsor->ContractMonths)});
+  }
 
-void PromotionSheets::ShowPast(const Promotion& promotion) {
-  for (const MonthEnd& then : MonthEndsOf(world(), promotion))
-    lstpast.Add({then.When, SizeText(then.Size), then.Image, MoneyInWords(then.Size, then.Money)});
-  const std::vector<PastStanding> standings = StandingsOf(world(), promotion, kChartMonths);
-  ui::Chart::Series line{"Standing", {}, ui::Tone::Gold};
-  for (const PastStanding& then : standings) line.Values.push_back(then.Score());
-  chtstanding.Captions = CaptionsOf(standings);
-  chtstanding.Lines = std::vector{std::move(line)};
-}
+  void ShowPast(const Promotion& promotion) {
+    for (const MonthEnd& then : MonthEndsOf(world(), promotion))
+      lstpast.Add(
+          {then.When, SizeText(then.Size), then.Image, MoneyInWords(then.Size, then.Money)});
+    const std::vector<PastStanding> standings = StandingsOf(world(), promotion, kChartMonths);
+    ui::Chart::Series line{"Standing", {}, ui::Tone::Gold};
+    for (const PastStanding& then : standings) line.Values.push_back(then.Score());
+    chtstanding.Captions = CaptionsOf(standings);
+    chtstanding.Lines = std::vector{std::move(line)};
+  }
 
-void PromotionSheets::OpenWorkerOf(const ui::ListBox& list) {
-  if (list.Key() != 0 && game_.OpenWorker) game_.OpenWorker(list.Key());
-}
+  void OpenWorkerOf(const ui::ListBox& list) {
+    if (list.Key() != 0 && game_.OpenWorker) game_.OpenWorker(list.Key());
+  }
 
-namespace {
+  ui::Screen& screen_;
+  Game& game_;
+  ui::Report txtabout{screen_, "txtabout"};
+  ui::ListBox lstroster{screen_,
+                        "lstroster",
+                        {{"Name", K::Text, 8},
+                         {"Position", K::Text, 7},
+                         {"Disp.", K::Tag, 4},
+                         {"Over", K::Percent, 5, "Popularity."},
+                         {"Age", K::Number, 2},
+                         {"Status", K::Text, 5}},
+                        ui::Handler{},
+                        [this] { OpenWorkerOf(lstroster); }};
+  ui::ListBox lststaff{
+      screen_, "lststaff", {{"Name", K::Text, 4}, {"Post", K::Text, 3}, {"Talent", K::Percent, 2}}};
+  ui::ListBox lstshows{screen_,
+                       "lstshows",
+                       {{"Show", K::Text, 4},
+                        {"Day", K::Text, 2},
+                        {"Slot", K::Text, 2},
+                        {"Network", K::Text, 3},
+                        {"Last rating", K::Number, 2}}};
+  ui::ListBox lstevents{
+      screen_, "lstevents", {{"Event", K::Text, 4}, {"Month", K::Number, 2}, {"Type", K::Text, 2}}};
+  ui::ListBox lsttitles{screen_,
+                        "lsttitles",
+                        {{"Title", K::Text, 9},
+                         {"Kind", K::Text, 5},
+                         {"Champion", K::Text, 9},
+                         {"Since", K::Date, 4},
+                         {"Image", K::Number, 3}},
+                        ui::Handler{},
+                        [this] { OpenWorkerOf(lsttitles); }};
+  ui::ListBox lstsponsors{
+      screen_,
+      "lstsponsors",
+      {{"Sponsor", K::Text, 4}, {"Place", K::Text, 2}, {"Months left", K::Number, 2}}};
+  ui::ListBox lstpast{screen_,
+                      "lstpast",
+                      {{"Month end", K::Text, 3},
+                       {"Size", K::Text, 2},
+                       {"Image", K::Percent, 2},
+                       {"Money", K::Text, 3}}};
+  ui::Chart chtstanding{screen_, "chtstanding"};
+};
 
 const Promotion* LivingPromotion(const World& world, int uid) {
   const Promotion* promotion = world.FindPromotion(uid);
