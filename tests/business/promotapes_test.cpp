@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "business/screens/frmTVShow.h"
 #include "records/checks/checkworld.h"
 #include "support/gameonworld.h"
 #include "support/newsof.h"

@@ -1,4 +1,3 @@
-#include "business/screens/frmTVShow.h"
 
 #include <gtest/gtest.h>
 

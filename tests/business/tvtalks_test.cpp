@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "business/screens/frmTVShow.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "storylines/feuds.h"
-#include "storylines/screens/storyscreens.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
 
