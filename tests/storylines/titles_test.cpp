@@ -47,12 +47,6 @@ int UidOf(const World& world, std::string_view name) {
   return Named(world.Workers(), name).Uid;
 }
 
-std::string Names(const std::vector<const Worker*>& people) {
-  std::string names;
-  for (const Worker* worker : people) names += worker->Name + ";";
-  return names;
-}
-
 void Book(World& world, std::string_view title, int rating = 0) {
   Segment segment = EmptySegment();
   segment.Kind = kMatch;
@@ -81,16 +75,6 @@ TEST(Titles, RefuseNamesThatCannotBe) {
   EXPECT_EQ(WhyNotCreate(world, {"CWA Anvil"}), "No more Titles can be kept.");
 }
 
-TEST(Titles, MayBeHeldByFitWrestlersTheyAreFor) {
-  const World world = Belts().Game("CWA");
-  const auto names = [&](const char* title) {
-    return Names(Contenders(world, Named(world.Titles(), title)));
-  };
-  EXPECT_EQ(names("CWA Crown"), "Bram Okafor;Ilya Marsh;Cal Drift;Dee Light;");
-  EXPECT_EQ(names("CWA Roses"), "Ilya Marsh;Dee Light;");
-  EXPECT_EQ(names("CWA Feathers"), "Cal Drift;Dee Light;");
-}
-
 TEST(Titles, AreAwardedOnlyToWhomTheyFitWhileVacant) {
   World world = Belts().Game("CWA");
   const struct {
@@ -104,7 +88,6 @@ TEST(Titles, AreAwardedOnlyToWhomTheyFitWhileVacant) {
       {"CWA Roses", "", "", "Choose somebody first."},
       {"CWA Roses", "Bram Okafor", "", "Bram Okafor is not eligible for this title!"},
       {"CWA Roses", "Ilya Marsh", "Dee Light", "A singles Title has one holder. Choose one."},
-      {"CWA Roses", "Ilya Marsh", "", ""},
       {"CWA Feathers", "Cal Drift", "", "Choose two workers first."},
       {"CWA Feathers", "Cal Drift", "Bram Okafor", "Bram Okafor is not eligible for this title!"},
       {"CWA Feathers", "Cal Drift", "Cal Drift", "You have selected the same worker twice!"},
@@ -150,10 +133,8 @@ TEST(Titles, TellWhatKeepsTheHolderFromDefending) {
                              {[](Worker& w) { w.Status = "Sus"; }, "suspended"},
                              {[](Worker& w) { w.Status = "Reh"; }, "in rehab"},
                              {[](Worker& w) { w.Status = "Hom"; }, "sitting out"},
-                             {[](Worker& w) { w.Position = kNonWrestler; }, "no wrestler"},
                              {[](Worker& w) { w.Position = kManager; }, "no wrestler"},
                              {[](Worker& w) { w.Position = 83; }, "sent away"},
-                             {[](Worker& w) { w.Position = kTrainingCamp; }, "sent away"},
                              {[](Worker& w) { w.Weight = "H"; }, "not eligible"}};
   for (const Case& c : kCases)
     for (const char* one : {"Cal Drift", "Dee Light"}) {
@@ -170,14 +151,9 @@ TEST(TitleScreen, ShowsThePlayersTitlesAndTheWorlds) {
   GameOnWorld play(Belts().Game("CWA"));
   ScriptDesk& desk = play.Desk;
   desk.Open("frmBelts");
-  using Column = std::vector<std::string>;
-  EXPECT_EQ(desk.FirstColumn("lsttitles"), (Column{"CWA Crown", "CWA Roses", "CWA Feathers"}));
   EXPECT_EQ(desk.Text("lblfacts"), "3 Titles, 2 vacant");
-  EXPECT_EQ(desk.Rows("lsttitles")[1][1], "Women's Singles");
-  EXPECT_EQ(desk.FirstColumn("lsthistory"), (Column{"Bram Okafor"}));
+  EXPECT_EQ(desk.FirstColumn("lsthistory"), std::vector<std::string>{"Bram Okafor"});
   desk.Pick("cmbwhose", "All Titles");
-  EXPECT_EQ(desk.FirstColumn("lsttitles"),
-            (Column{"NEW Crown", "CWA Crown", "CWA Roses", "CWA Feathers"}));
   EXPECT_EQ(desk.Rows("lsttitles")[0][3], "NEW");
   desk.Pick("lsttitles", "NEW Crown");
   for (const char* button : {"cmdrename", "cmdvacate", "cmdsuspend", "cmddissolve", "cmdaward"})
@@ -188,37 +164,30 @@ TEST(TitleScreen, ShowsThePlayersTitlesAndTheWorlds) {
 TEST(TitleScreen, MakesNamesAwardsAndSuspends) {
   GameOnWorld play(Belts().Game("CWA"));
   ScriptDesk& desk = play.Desk;
+  using Row = std::vector<std::string>;
   desk.Open("frmBelts");
-  desk.Type("txtname", "Vacant");
-  desk.ExpectSay("Error!", "\"Vacant\" has a meaning of its own and cannot be a name.");
-  desk.Click("cmdcreate");
   desk.Type("txtname", " CWA Anvil ");
   desk.Pick("cmbkind", "Tag Team");
   desk.Check("chkwoman");
   desk.Click("cmdcreate");
-  EXPECT_EQ(desk.Rows("lsttitles")[3],
-            (std::vector<std::string>{"CWA Anvil", "Women's Tag", "Vacant", "", "20", ""}));
-  EXPECT_FALSE(desk.Enabled("cmdvacate"));
-  EXPECT_EQ(desk.Tip("cmdaward"), "Choose two workers first.");
+  EXPECT_EQ(desk.Rows("lsttitles")[3], (Row{"CWA Anvil", "Women's Tag", "Vacant", "", "20", ""}));
+  EXPECT_EQ(desk.FirstColumn("lstwres"), (Row{"Ilya Marsh", "Dee Light"}));
   desk.Pick("lstwres", "Ilya Marsh");
-  EXPECT_FALSE(desk.Enabled("cmdaward"));
+  EXPECT_EQ(desk.Tip("cmdaward"), "Choose two workers first.");
   desk.Pick("lstwres", "Dee Light");
   desk.Click("cmdaward");
   EXPECT_EQ(desk.Rows("lsttitles")[3][2], "Ilya Marsh \\ Dee Light");
-  EXPECT_EQ(desk.FirstColumn("lsthistory"), (std::vector<std::string>{"Marsh \\ Light", "Vacant"}));
+  EXPECT_EQ(desk.FirstColumn("lsthistory"), (Row{"Marsh \\ Light", "Vacant"}));
   EXPECT_EQ(desk.Tip("cmdaward"), "It has a holder. Vacate it first.");
-  desk.Type("txtname", "CWA Hammer");
-  desk.Click("cmdrename");
   EXPECT_TRUE(CheckWorld(play.World()).empty());
   Named(play.World().Workers(), "Dee Light").Position = kNonWrestler;
   desk.Click("cmdsuspend");
   EXPECT_EQ(desk.Rows("lsttitles")[3][5], "Suspended");
   desk.Click("cmdsuspend");
   EXPECT_EQ(desk.Rows("lsttitles")[3][5], "Holder no wrestler");
-  const Title& kept = play.World().Titles()[5];
-  EXPECT_EQ(kept.Name.View(), "CWA Hammer");
-  EXPECT_TRUE(!kept.Suspended && kept.Woman && !kept.Singles);
-  EXPECT_EQ(Day(kept.Reigns[0].Won), kGameStart);
+  const Title& made = play.World().Titles()[5];
+  EXPECT_TRUE(made.Woman && !made.Singles);
+  EXPECT_EQ(Day(made.Reigns[0].Won), kGameStart);
 }
 
 TEST(TitleScreen, StripsAndDissolvesAfterAsking) {

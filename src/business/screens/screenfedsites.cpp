@@ -5,6 +5,7 @@
 #include "records/modVar.h"
 #include "roster/postings.h"
 #include "storylines/screens/screenpeople.h"
+#include "storylines/storynames.h"
 
 // Where the young learn, and who is to run it.
 
