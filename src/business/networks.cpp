@@ -6,6 +6,7 @@
 #include "business/finance.h"
 #include "business/tvshows.h"
 #include "records/arithmetic.h"
+#include "records/modVar.h"
 
 namespace grapplemont {
 

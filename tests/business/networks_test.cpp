@@ -224,17 +224,5 @@ TEST(TvContractReview, EndsShows) {
     }
 }
 
-TEST(TvContractReview, BearsShowsWithoutNetworkOrOwner) {
-  World world = TwoShows();
-  world.Shows()[1].Network = 9;
-  world.Shows()[1].ContractWeeks = 3;
-  world.Shows()[2].Owner = 0;
-  world.Shows()[2].ContractWeeks = 0;
-  TvContractReview(world);
-  EXPECT_EQ(world.Shows()[1].ContractWeeks, 2);
-  EXPECT_EQ(world.Shows()[2].ContractWeeks, 0);
-  EXPECT_EQ(NewsOf(world), "");
-}
-
 }  // namespace
 }  // namespace grapplemont::test

@@ -100,12 +100,6 @@ TEST(Lineages, SeeEveryWayInWhichATitleChanges) {
          Crown(w, crown(w), UidOf(w, "Ilya Marsh"), 0);
        },
        "Bram Okafor ? lost, Cal Drift 0 lost, Ilya Marsh 4 lasts"},
-      {"back at once",
-       [&](World& w) {
-         VacateTitle(w, crown(w));
-         Crown(w, crown(w), UidOf(w, "Bram Okafor"), 0);
-       },
-       "Bram Okafor ? vacated, Vacant 0 lost, Bram Okafor 4 lasts"},
       {"dissolved", [&](World& w) { DissolveTitle(w, w.Titles().NumberOf(crown(w))); },
        "Bram Okafor ? dissolved"},
       {"its promotion closed", [&](World& w) { crown(w).Owner = kNoEnd; },
