@@ -12,7 +12,7 @@ using Names = std::vector<std::string>;
 
 SmallWorld Company() {
   SmallWorld small;
-  small.Network("Nine", [](Network& n) { n.EarlyRisk = 40, n.LateRisk = 59; })
+  small
       .Promotion("CWA", kCult,
                  [](Promotion& p) {
                    p.Money = 500000;
@@ -27,8 +27,6 @@ SmallWorld Company() {
       .Worker("Tie", kNonWrestler, 30)
       .Staff("Coach", kTrainer, 61)
       .Staff("Pen", kWriter, 40, [](Staff& s) { s.Booker = true; })
-      .Show("Friday Fire", "Friday", "Nine")
-      .Sponsor("Gulp", [](Sponsor& s) { s.Morality = 55; })
       .Promotion("NEW")
       .Worker("Zed")
       .Game("CWA");
@@ -37,21 +35,6 @@ SmallWorld Company() {
 
 void ExpectFaultless(const World& world) {
   for (const auto& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
-}
-
-TEST(frmFed, ShowsWhoBearsARisk) {
-  GameOnWorld play(Company());
-  ScriptDesk& desk = play.Desk;
-  desk.Open("frmFed");
-  EXPECT_EQ(desk.Tip("cmdrisk"), "That is the risk now.");
-  EXPECT_EQ(desk.Rows("lstrisk")[0],
-            (Row{"Friday Fire", "Television, Prime Time on Nine", "60", "Bears it"}));
-  desk.Slide("hsrisk", 60);
-  EXPECT_EQ(desk.Rows("lstrisk")[1], (Row{"Gulp", "Main sponsor", "45", "Leaves on Monday"}));
-  EXPECT_EQ(desk.Text("lblmarket"), "0 of 1 sponsors, 2 of 4 time slots of the networks");
-  desk.Slide("hsrisk", 61);
-  EXPECT_EQ(desk.Rows("lstrisk")[0][3], "A strike for every show");
-  EXPECT_EQ(play.World().Player().Risk, 30) << "looking changes nothing";
 }
 
 TEST(frmFed, MakesAndUnmakesACommissioner) {
@@ -76,20 +59,6 @@ TEST(frmFed, MakesAndUnmakesACommissioner) {
   EXPECT_EQ(desk.FirstColumn("lstpeople"), (Names{"Tie"}));
 }
 
-TEST(frmFed, DissolvesASplit) {
-  GameOnWorld play(Company());
-  ScriptDesk& desk = play.Desk;
-  desk.Open("frmFed");
-  EXPECT_EQ(desk.Rows("lstsplits")[0], (Row{"Red", "1"}));
-  EXPECT_EQ(desk.Rows("lstpeople")[0], (Row{"Ash", "Face", "80", "Main Event", "Red"}));
-  desk.ExpectAsk("Dissolve Red?", "Are you sure? 1 person will be in no split.", true,
-                 ui::Default::No);
-  desk.Click("cmddissolve");
-  EXPECT_EQ(desk.Rows("lstsplits")[0], (Row{"<<<Empty>>>", ""}));
-  EXPECT_EQ(desk.Tip("cmddissolve"), "There is no split in this place.");
-  EXPECT_EQ(desk.Tip("cmdassign"), "Choose or name a split at the left first.");
-}
-
 TEST(frmFed, OpensImprovesStaffsAndClosesACamp) {
   GameOnWorld play(Company());
   ScriptDesk& desk = play.Desk;
@@ -110,7 +79,6 @@ TEST(frmFed, OpensImprovesStaffsAndClosesACamp) {
   EXPECT_EQ(desk.Text("lblmoney"), "Current finance: $400000");
   EXPECT_EQ(desk.Text("lblstatecamp"), "Average facilities");
   EXPECT_EQ(desk.FirstColumn("lstcamp"), (Names{"Raw"}));
-  EXPECT_EQ(desk.FirstColumn("cmbcamp"), (Names{"Good, $400,000", "Superb, $1,000,000"}));
   desk.ExpectSay("Error!",
                  "The builders have been here in March already. They come once a month at most.");
   desk.Click("cmdraisecamp");

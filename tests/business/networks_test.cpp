@@ -68,7 +68,6 @@ TEST(RivalNewTvShows, AskInThisOrder) {
       {"just enough draw", 401, 60, 0, false, kSigned, true},
       {"too few draw, after the draw", 402, 60, 0, false, {{6, 2}}, false},
       {"no interest on 1", 10, 60, 0, false, {{6, 1}}, false},
-      {"no interest on 3", 10, 60, 0, false, {{6, 3}}, false},
   };
   for (const Case& c : kCases) {
     World world = RivalOf(5, kCult);

@@ -143,37 +143,14 @@ TEST(Numbers, OfALoanGoByItsSizeAndTheDifficulty) {
     EXPECT_EQ(DollarsAndCents(cents), text);
 }
 
-TEST(Numbers, OfASlotAreItsOwn) {
+TEST(Numbers, OfAnUnknownSlotAreThoseOfTheNight) {
   Network network;
-  network.EarlyAudience = 1;
-  network.PrimeAudience = 2;
-  network.LateAudience = 3;
   network.GraveAudience = 4;
-  network.EarlyRisk = 5;
-  network.PrimeRisk = 6;
-  network.LateRisk = 7;
   network.GraveRisk = 8;
-  int number = 0;
-  for (const char* slot : {"E", "P", "L", "G"}) {
-    EXPECT_EQ(SlotAudience(network, slot), ++number) << slot;
-    EXPECT_EQ(SlotRisk(network, slot), number + 4) << slot;
-  }
-  EXPECT_EQ(SlotAudience(network, "X"), 4) << "an unknown slot is the last of the night";
-  EXPECT_EQ(SlotName("L"), "Late Evening");
+  EXPECT_EQ(SlotAudience(network, "X"), 4);
+  EXPECT_EQ(SlotRisk(network, "X"), 8);
+  EXPECT_EQ(SlotName("X"), "Graveyard");
   EXPECT_EQ(SlotHours("L"), "10:00pm - 12:00am");
-}
-
-TEST(Numbers, OfANetworkFillUpAtTwentyEight) {
-  World world = SmallWorld().Network("Nine").Network("Ten").Promotion("CWA").Game("CWA");
-  Show show;
-  show.Network = 1;
-  for (int count = 1; count <= 29; ++count) {
-    world.Shows().Append(show);
-    EXPECT_EQ(IsFull(world, world.Networks()[1]), count == 28) << count;
-  }
-  EXPECT_FALSE(IsFull(world, world.Networks()[2]));
-  EXPECT_EQ(NetworkName(world, 1), "Nine");
-  EXPECT_EQ(NetworkName(world, 7), "None");
 }
 
 }  // namespace

@@ -160,14 +160,10 @@ SmallWorld Market() {
 /// The same with the player's four places taken: Ours 1 the main one.
 SmallWorld Full() {
   SmallWorld small;
-  small.Promotion("CWA", kRegional, [](Promotion& p) { p.Risk = 40; })
-      .Sponsor("Ours 1")
-      .Sponsor("Ours 2", With(30, 250))
-      .Sponsor("Ours 3")
-      .Sponsor("Ours 4")
-      .OnTheMarket()
-      .Sponsor("Gulp", With(60, 300))
-      .Game("CWA");
+  small.Promotion("CWA", kRegional);
+  for (const char* name : {"Ours 1", "Ours 2", "Ours 3", "Ours 4"})
+    small.Sponsor(name, With(30, 250));
+  small.OnTheMarket().Sponsor("Gulp").Game("CWA");
   return small;
 }
 
@@ -217,7 +213,6 @@ TEST(frmFedSponsor, UpgradesDemotesAndEndsDeals) {
   play.Desk.Pick("lstplaces", 1);
   EXPECT_EQ(play.Desk.Text("cmd1"), "Demote To Minor Sponsor");
   EXPECT_FALSE(play.Desk.Enabled("cmd1")) << "no minor place is free";
-
   play.Desk.Pick("lstsponsors", "Ours 3");
   EXPECT_EQ(play.Desk.Selected("lstplaces"), std::vector{3});
   EXPECT_EQ(play.Desk.Text("cmd1"), "Upgrade To Main Sponsor");

@@ -104,7 +104,6 @@ TEST(Lineages, SeeEveryWayInWhichATitleChanges) {
        "Bram Okafor ? dissolved"},
       {"its promotion closed", [&](World& w) { crown(w).Owner = kNoEnd; },
        "Bram Okafor ? dissolved"},
-      {"suspended", [&](World& w) { crown(w).Suspended = true; }, "Bram Okafor ? lasts"},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.What);
