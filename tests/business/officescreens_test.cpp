@@ -37,7 +37,6 @@ TEST(TheOffice, AsksBeforeMoneyGoesAndMindsWhatIsThere) {
   desk.ExpectSay("Money Problems!", "You cannot afford this donation!");
   desk.Click("cmddonate");
   desk.Slide("hsamount", 30);
-  EXPECT_EQ(desk.Text("lblamount"), "$30,000");
   desk.ExpectAsk("Donate money?", "Are you sure?", false);
   desk.Click("cmddonate");
   EXPECT_EQ(player.Money, 30'000);
