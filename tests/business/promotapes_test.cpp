@@ -203,7 +203,7 @@ TEST(TvOffer, IsTurnedDownOrWithdrawn) {
          {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"});
   play.Desk.ExpectSay("No offer",
                       "Sorry, scheduling conflicts mean that the network have removed the offer.");
-  play.Desk.Open("frmTvOffer");
+  play.Desk.Click("cmdpromo");
   EXPECT_EQ(play.Desk.TopName(), "frmTelevision");
   EXPECT_EQ(game.TvOfferWait, 0);
 }
