@@ -40,20 +40,9 @@ const SiteRow& Row(Site site) {
   return kSites[static_cast<std::size_t>(site)];
 }
 
-/// The past tells: whatever was paid for stands in it.
-bool HasBuiltThisMonth(const World& world, HistoryKind kind) {
-  const Day today = world.Today();
-  const Day first = today - std::chrono::days{DayOfMonth(today) - 1};
-  for (int number = world.History().Count(); number >= 1; --number) {
-    const HistoryEntry& entry = world.History()[number];
-    if (Day(entry.On) < first) return false;
-    if (entry.Kind == kind && entry.Promotion == world.PlayerUid()) return true;
-  }
-  return false;
-}
-
+/// The past tells who has built this month: whatever was paid for stands in it.
 std::string WhyNotBuild(const World& world, Site site, int level) {
-  if (HasBuiltThisMonth(world, Row(site).Kind))
+  if (LastShowOf(world, world.PlayerUid(), MonthsBefore(world.Today(), 0), Row(site).Kind))
     return "The builders have been here in " + std::string(MonthName(MonthOf(world.Today()))) +
            " already. They come once a month at most.";
   if (world.Player().Money < SitePrice(site, level))
@@ -162,30 +151,12 @@ const OfficeRow& Row(Office office) {
 }
 
 bool Fits(const Staff& staff, Office office) {
-  if (staff.Position == kOwner) return false;
+  if (staff.Position == kOwner || office == Office::Commissioner) return false;
   return office == Office::HeadTrainer ? staff.Position == kTrainer : bool(staff.Booker);
-}
-
-std::vector<OfficeSeeker> NonWrestlers(const World& world) {
-  std::vector<OfficeSeeker> people;
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer == world.PlayerUid() && worker.Position == kNonWrestler)
-      people.push_back({worker.Uid, worker.Name.Str(), worker.Charisma,
-                        worker.Status == "Nor" ? std::string() : StatusLine(worker)});
-  return people;
 }
 
 std::string NameOf(const World& world, Office office, int uid) {
   return office == Office::Commissioner ? WorkerName(world, uid) : StaffName(world, uid);
-}
-
-std::vector<OfficeSeeker> StaffFor(const World& world, Office office) {
-  std::vector<OfficeSeeker> people;
-  for (const Staff& staff : world.AllStaff())
-    if (staff.Employer == world.PlayerUid() && Fits(staff, office))
-      people.push_back({staff.Uid, staff.Name.Str(), staff.Talent,
-                        std::string(Says(kStaffPositions, staff.Position))});
-  return people;
 }
 
 }  // namespace
@@ -207,7 +178,17 @@ std::string HolderName(const World& world, Office office) {
 }
 
 std::vector<OfficeSeeker> CandidatesFor(const World& world, Office office) {
-  return office == Office::Commissioner ? NonWrestlers(world) : StaffFor(world, office);
+  std::vector<OfficeSeeker> people;
+  for (const Worker& worker : world.Workers())
+    if (office == Office::Commissioner && worker.Employer == world.PlayerUid() &&
+        worker.Position == kNonWrestler)
+      people.push_back({worker.Uid, worker.Name.Str(), worker.Charisma,
+                        worker.Status == "Nor" ? std::string() : StatusLine(worker)});
+  for (const Staff& staff : world.AllStaff())
+    if (staff.Employer == world.PlayerUid() && Fits(staff, office))
+      people.push_back({staff.Uid, staff.Name.Str(), staff.Talent,
+                        std::string(Says(kStaffPositions, staff.Position))});
+  return people;
 }
 
 std::string WhyNotAppoint(const World& world, Office office, int uid) {

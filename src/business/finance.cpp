@@ -17,22 +17,6 @@ long long Sum(const MonthBooks& books, std::span<const Book> of) {
   return sum;
 }
 
-}  // namespace
-
-long long TotalIn(const MonthBooks& books) {
-  return Sum(books, kIncome);
-}
-
-long long TotalOut(const MonthBooks& books) {
-  return Sum(books, kOutgoings);
-}
-
-long long Balance(const MonthBooks& books) {
-  return TotalIn(books) - TotalOut(books);
-}
-
-namespace {
-
 // All by size, Global to Backyard.
 constexpr std::array<int, 6> kFairTicketPrice = {60, 40, 30, 20, 10, 5};
 constexpr std::array<RivalSpending, 6> kRivalSpending = {
@@ -73,12 +57,61 @@ struct ProductionRate {
 constexpr ProductionRate kProductionRates[] = {
     {20, 1000}, {40, 5000}, {60, 10000}, {80, 12000}, {100, 22000}};
 
-template <std::size_t N>
-int ByImage(const std::array<int, N>& bands, int image, int width) {
-  return bands[std::min(static_cast<std::size_t>(std::max(image, 0) / width), N - 1)];
+struct Opinion {
+  int UpTo;  // dollars off the fair price
+  std::string_view Words;
+};
+constexpr std::string_view kScandal = "Hardly anybody would pay that.";
+constexpr std::array<Opinion, 6> kOpinions = {
+    {{-11, "They cannot believe how little we ask."},
+     {-6, "They are glad of the low price."},
+     {5, "They find it a fair price."},
+     {15, "They find it dear, and some stay at home."},
+     {30, "They find it far too dear, and many stay at home."},
+     {std::numeric_limits<int>::max(), kScandal}}};
+
+struct RaisePrices {
+  int UpTo;                 // present production
+  std::array<int, 3> Cost;  // dollars, as kProductionRaises
+};
+constexpr std::array<RaisePrices, 10> kPrices = {{{10, {140, 525, 1000}},
+                                                  {20, {1000, 4000, 7500}},
+                                                  {30, {1500, 7000, 12500}},
+                                                  {40, {2800, 13000, 25000}},
+                                                  {50, {8000, 40000, 75000}},
+                                                  {60, {15000, 60000, 100000}},
+                                                  {70, {28000, 130000, 250000}},
+                                                  {80, {70000, 280000, 500000}},
+                                                  {90, {90000, 400000, 750000}},
+                                                  {100, {110000, 520000, 1000000}}}};
+
+/// Whole dollars of interest on the whole sum.
+int InterestOn(int sum, int difficulty) {
+  // Percent, by difficulty from 1 to 4.
+  constexpr std::array<int, 4> kRates = {0, 2, 5, 8};
+  return PercentOf(
+      sum, kRates[static_cast<std::size_t>(std::clamp<int>(difficulty, kEasy, kRockHard) - 1)]);
 }
 
+struct LoanSize {
+  int UpTo;  // steps
+  int Months;
+};
+constexpr std::array<LoanSize, 3> kSizesOfLoans = {{{10, 12}, {25, 24}, {kMostLoanSteps, 36}}};
+
 }  // namespace
+
+long long TotalIn(const MonthBooks& books) {
+  return Sum(books, kIncome);
+}
+
+long long TotalOut(const MonthBooks& books) {
+  return Sum(books, kOutgoings);
+}
+
+long long Balance(const MonthBooks& books) {
+  return TotalIn(books) - TotalOut(books);
+}
 
 int FairTicketPrice(int size) {
   return BySize(kFairTicketPrice, size);
@@ -108,9 +141,7 @@ int MerchandisingCost(int level) {
 }
 
 int ProductionCost(int level) {
-  for (const ProductionRate& rate : kProductionRates)
-    if (level <= rate.UpTo) return std::max(level, 0) * rate.PerPoint;
-  return level * std::end(kProductionRates)[-1].PerPoint;
+  return std::max(level, 0) * RowUpTo(kProductionRates, level).PerPoint;
 }
 
 int TargetAdvertising(int size, int image) {
@@ -121,56 +152,15 @@ RivalSpending RivalSpendingFor(int size) {
   return BySize(kRivalSpending, size);
 }
 
-namespace {
-
-struct Opinion {
-  int UpTo;  // dollars off the fair price
-  std::string_view Words;
-};
-constexpr std::string_view kScandal = "Hardly anybody would pay that.";
-constexpr std::array<Opinion, 6> kOpinions = {
-    {{-11, "They cannot believe how little we ask."},
-     {-6, "They are glad of the low price."},
-     {5, "They find it a fair price."},
-     {15, "They find it dear, and some stay at home."},
-     {30, "They find it far too dear, and many stay at home."},
-     {std::numeric_limits<int>::max(), kScandal}}};
-
-}  // namespace
-
 std::string_view TicketOpinion(int size, int price) {
   const int fair = FairTicketPrice(size);
   // A small promotion's crowd walks away long before the dollars add up.
   if (price > 2 * fair) return kScandal;
-  for (const Opinion& opinion : kOpinions)
-    if (price - fair <= opinion.UpTo) return opinion.Words;
-  return kScandal;
+  return RowUpTo(kOpinions, price - fair).Words;
 }
 
-namespace {
-
-struct RaisePrices {
-  int UpTo;                 // present production
-  std::array<int, 3> Cost;  // dollars, as kProductionRaises
-};
-constexpr std::array<RaisePrices, 10> kPrices = {{{10, {140, 525, 1000}},
-                                                  {20, {1000, 4000, 7500}},
-                                                  {30, {1500, 7000, 12500}},
-                                                  {40, {2800, 13000, 25000}},
-                                                  {50, {8000, 40000, 75000}},
-                                                  {60, {15000, 60000, 100000}},
-                                                  {70, {28000, 130000, 250000}},
-                                                  {80, {70000, 280000, 500000}},
-                                                  {90, {90000, 400000, 750000}},
-                                                  {100, {110000, 520000, 1000000}}}};
-
-}  // namespace
-
 int ProductionRaiseCost(int production, int number) {
-  const auto raise = static_cast<std::size_t>(number - 1);
-  for (const RaisePrices& prices : kPrices)
-    if (production <= prices.UpTo) return prices.Cost.at(raise);
-  return kPrices.back().Cost.at(raise);
+  return RowUpTo(kPrices, production).Cost.at(static_cast<std::size_t>(number - 1));
 }
 
 bool RaiseProduction(Promotion& promotion, int number) {
@@ -197,42 +187,17 @@ std::string DollarsAndCents(long long cents) {
   return text;
 }
 
-namespace {
-constexpr int kThousand = 1000;
-}  // namespace
-
 bool CanDonate(const World& world, int thousands) {
-  return thousands * kThousand <= world.Player().Money;
+  return thousands * 1000 <= world.Player().Money;
 }
 
 void Donate(World& world, int thousands) {
   world.Game().Reputation += thousands;
-  world.Player().Money -= thousands * kThousand;
+  world.Player().Money -= thousands * 1000;
 }
-
-namespace {
-
-/// Whole dollars of interest, each time anew on the sum.
-int InterestOn(int sum, int difficulty) {
-  // Percent, by difficulty from 1 to 4.
-  constexpr std::array<int, 4> kRates = {0, 2, 5, 8};
-  const int rate =
-      kRates[static_cast<std::size_t>(std::clamp<int>(difficulty, kEasy, kRockHard) - 1)];
-  return static_cast<int>(static_cast<long long>(sum) * rate / 100);
-}
-
-struct LoanSize {
-  int UpTo;  // steps
-  int Months;
-};
-constexpr std::array<LoanSize, 3> kSizesOfLoans = {{{10, 12}, {25, 24}, {kMostLoanSteps, 36}}};
-
-}  // namespace
 
 int LoanTerm(int steps) {
-  for (const LoanSize& size : kSizesOfLoans)
-    if (steps <= size.UpTo) return size.Months;
-  return kSizesOfLoans.back().Months;
+  return RowUpTo(kSizesOfLoans, steps).Months;
 }
 
 long long LoanQuote(int dollars, int months, int difficulty) {

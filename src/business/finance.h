@@ -53,6 +53,20 @@ constexpr int ByEconomy(int amount, std::span<const EconomyFactor> factors, int 
   return amount;
 }
 
+/// The number of a table by an image's bands of so many points, the lowest first.
+template <std::size_t N>
+constexpr int ByImage(const std::array<int, N>& bands, int image, int width) {
+  return bands[std::min(static_cast<std::size_t>(std::max(image, 0) / width), N - 1)];
+}
+
+/// The first row that reaches up to the value, else the last.
+template <class Rows>
+constexpr const auto& RowUpTo(const Rows& rows, int value) {
+  for (const auto& row : rows)
+    if (value <= row.UpTo) return row;
+  return std::end(rows)[-1];
+}
+
 // What the first of a month brings in and costs, in dollars, and the spending that a promotion's
 // standing asks for. Sizes outside the six count as the nearest.
 

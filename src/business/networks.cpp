@@ -6,6 +6,7 @@
 #include "business/finance.h"
 #include "business/tvshows.h"
 #include "records/arithmetic.h"
+#include "records/modVar.h"
 
 namespace grapplemont {
 
@@ -13,27 +14,29 @@ namespace {
 
 constexpr int kSpots = 28;  // seven days of four slots
 
-// By size from Global to Regional: image 81 up, 61 to 80, 41 to 60, 21 to 40, below.
-constexpr std::array<std::array<int, 5>, 4> kPotential = {{{800, 760, 720, 680, 640},
-                                                           {600, 560, 520, 480, 440},
-                                                           {400, 360, 320, 280, 240},
-                                                           {200, 160, 120, 80, 40}}};
+// By size, Global to Backyard; by image up to 20, 21 to 40, 41 to 60, 61 to 80, above.
+constexpr std::array<std::array<int, 5>, 6> kPotential = {{{640, 680, 720, 760, 800},
+                                                           {440, 480, 520, 560, 600},
+                                                           {240, 280, 320, 360, 400},
+                                                           {40, 80, 120, 160, 200}}};
 
 constexpr EconomyFactor kEconomy[] = {
     {91, kAnyHigh, 120}, {81, 90, 110}, {10, 19, 90}, {kAnyLow, 9, 80}};
 
-struct SlotWords {
+struct SlotRow {
   std::string_view Slot, Name, Hours;
+  Hundredths Network::*Audience;
+  Percent Network::*Risk;
 };
-constexpr SlotWords kSlots[] = {{"E", "Early Evening", "6:00pm - 8:00pm"},
-                                {"P", "Prime Time", "8:00pm - 10:00pm"},
-                                {"L", "Late Evening", "10:00pm - 12:00am"},
-                                {"G", "Graveyard", "12:00am - 2:00am"}};
+constexpr SlotRow kSlots[] = {
+    {"E", "Early Evening", "6:00pm - 8:00pm", &Network::EarlyAudience, &Network::EarlyRisk},
+    {"P", "Prime Time", "8:00pm - 10:00pm", &Network::PrimeAudience, &Network::PrimeRisk},
+    {"L", "Late Evening", "10:00pm - 12:00am", &Network::LateAudience, &Network::LateRisk},
+    {"G", "Graveyard", "12:00am - 2:00am", &Network::GraveAudience, &Network::GraveRisk}};
 
-const SlotWords& WordsOf(std::string_view slot) {
-  const auto* found =
-      std::ranges::find_if(kSlots, [&](const SlotWords& words) { return words.Slot == slot; });
-  return found == std::end(kSlots) ? kSlots[std::size(kSlots) - 1] : *found;
+const SlotRow& Row(std::string_view slot) {
+  const auto* found = std::ranges::find(kSlots, slot, &SlotRow::Slot);
+  return found == std::end(kSlots) ? found[-1] : *found;
 }
 
 }  // namespace
@@ -44,34 +47,24 @@ std::string NetworkName(const World& world, int networkUid) {
 }
 
 std::string_view SlotName(std::string_view slot) {
-  return WordsOf(slot).Name;
+  return Row(slot).Name;
 }
 
 std::string_view SlotHours(std::string_view slot) {
-  return WordsOf(slot).Hours;
+  return Row(slot).Hours;
 }
 
 int SlotAudience(const Network& network, std::string_view slot) {
-  if (slot == "E") return network.EarlyAudience;
-  if (slot == "P") return network.PrimeAudience;
-  return slot == "L" ? network.LateAudience : network.GraveAudience;
+  return network.*Row(slot).Audience;
 }
 
 int SlotRisk(const Network& network, std::string_view slot) {
-  if (slot == "E") return network.EarlyRisk;
-  if (slot == "P") return network.PrimeRisk;
-  return slot == "L" ? network.LateRisk : network.GraveRisk;
+  return network.*Row(slot).Risk;
 }
 
 int AudiencePotential(const Promotion& promotion, int economy) {
-  if (promotion.Size > kRegional) return 0;
-  const auto& row = kPotential[static_cast<std::size_t>(std::max<int>(promotion.Size, 1) - 1)];
-  const int band = promotion.Image > 80   ? 0
-                   : promotion.Image > 60 ? 1
-                   : promotion.Image > 40 ? 2
-                   : promotion.Image > 20 ? 3
-                                          : 4;
-  return ByEconomy(row[static_cast<std::size_t>(band)], kEconomy, economy);
+  const int amount = ByImage(BySize(kPotential, promotion.Size), promotion.Image - 1, 20);
+  return ByEconomy(amount, kEconomy, economy);
 }
 
 int ShowsOn(const World& world, const Network& network) {
@@ -178,7 +171,7 @@ int ChooseDay(World& world, const std::vector<int>& free) {
   int day = free.back();
   for (int attempt = 0; attempt < kDayTries; ++attempt) {
     const int drawn = world.RandomDraw(7);
-    if (std::find(free.begin(), free.end(), drawn) != free.end()) day = drawn;
+    if (std::ranges::find(free, drawn) != free.end()) day = drawn;
   }
   return day;
 }

@@ -15,14 +15,9 @@ namespace grapplemont {
 std::vector<const HistoryEntry*> MonthsOf(const World& world, int promotionUid);
 /// The entry is a television show or an Event.
 bool IsShow(const HistoryEntry& entry);
-/// The promotion's latest show of the day `from` or later, held or called off; of one kind alone
-/// where one is given. nullptr for none.
+/// The promotion's latest show of the day `from` or later, held or called off; where a kind is
+/// given, the latest entry of that. nullptr for none.
 const HistoryEntry* LastShowOf(const World& world, int promotionUid, Day from, int kind = 0);
-/// What became of a television show of the promotion's, or of its Events where no name is given.
-std::vector<const HistoryEntry*> PastShowsOf(const World& world, int promotionUid,
-                                             std::string_view name = {});
-/// The crowds, in people, of all its shows from the day `from` until the day before `until`.
-long long AttendanceOf(const World& world, int promotionUid, Day from, Day until);
 
 /// An entry of today with the promotion's name, money, size and image as they are now.
 HistoryEntry EntryOf(const World& world, const Promotion& promotion, HistoryKind kind);
@@ -36,8 +31,6 @@ void RememberMonth(World& world, const Promotion& promotion);
 
 /// The first of the month that lies so many months before the day's own.
 Day MonthsBefore(Day day, int months);
-/// "Mar 2026" for the month that ended before the day, a first of a month.
-std::string MonthClosedBefore(Day first);
 
 /// What a promotion had when a month was closed.
 struct MoneyPoint {

@@ -20,6 +20,35 @@ Word& PlaceOf(Promotion& promotion, int place) {
   return promotion.Sponsor.at(static_cast<std::size_t>(place - 1));
 }
 
+struct PayLimits {
+  int Image51Up;
+  int Below51;
+};
+// By size, Global to Backyard.
+constexpr std::array<PayLimits, 6> kPlayerLimits = {
+    {{1001, 801}, {751, 651}, {576, 476}, {401, 301}, {151, 101}, {51, 11}}};
+constexpr std::array<PayLimits, 6> kRivalLimits = {
+    {{1001, 1001}, {921, 861}, {821, 701}, {601, 531}, {451, 321}, {251, 101}}};
+
+int LimitOf(const std::array<PayLimits, 6>& limits, int size, int image) {
+  const PayLimits& row = BySize(limits, size);
+  return image >= 51 ? row.Image51Up : row.Below51;
+}
+
+/// From which risk on.
+constexpr std::pair<int, const char*> kRiskWords[] = {{81, "Nothing is too much"},
+                                                      {61, "For grown-ups only"},
+                                                      {41, "An edge that some mind"},
+                                                      {21, "For most of the family"}};
+
+void Tell(World& world, const Promotion& promotion, const std::string& ours,
+          const std::string& theirs) {
+  if (promotion.Uid == world.PlayerUid())
+    AddNews(world, "News Desk", ours);
+  else if (ShouldTell(world, world.Game().MailSponsor, promotion.Size))
+    AddNews(world, promotion.Initials + " News", theirs);
+}
+
 }  // namespace
 
 Sponsor* SponsorAt(World& world, const Promotion& promotion, int place) {
@@ -75,25 +104,6 @@ void EndSponsorship(World& world, Promotion& promotion, Sponsor& sponsor) {
   LoseSponsor(world, sponsor);
 }
 
-namespace {
-
-struct PayLimits {
-  int Image51Up;
-  int Below51;
-};
-// By size, Global to Backyard.
-constexpr std::array<PayLimits, 6> kPlayerLimits = {
-    {{1001, 801}, {751, 651}, {576, 476}, {401, 301}, {151, 101}, {51, 11}}};
-constexpr std::array<PayLimits, 6> kRivalLimits = {
-    {{1001, 1001}, {921, 861}, {821, 701}, {601, 531}, {451, 321}, {251, 101}}};
-
-int LimitOf(const std::array<PayLimits, 6>& limits, int size, int image) {
-  const PayLimits& row = BySize(limits, size);
-  return image >= 51 ? row.Image51Up : row.Below51;
-}
-
-}  // namespace
-
 bool BearsRisk(const Sponsor& sponsor, int risk) {
   return risk <= 100 - sponsor.Morality;
 }
@@ -110,43 +120,21 @@ int SponsorPayForTv(const Sponsor& sponsor, bool isMain) {
   return isMain ? sponsor.Pay / 4 : sponsor.Pay / 10;
 }
 
-namespace {
-
-struct RiskWords {
-  int From;
-  const char* Words;
-};
-constexpr RiskWords kRiskWords[] = {{81, "Nothing is too much"},
-                                    {61, "For grown-ups only"},
-                                    {41, "An edge that some mind"},
-                                    {21, "For most of the family"},
-                                    {0, "For the whole family"}};
-
-constexpr int kHighestRisk = 100;
-
-RiskLimit LimitOf(const Show& show, const Network& network) {
-  return {show.Name.Str(),
-          "Television, " + std::string(Says(kTimeSlots, show.Slot)) + " on " + network.Name.Str(),
-          SlotRisk(network, show.Slot), "A strike for every show"};
-}
-
-RiskLimit LimitOf(const Sponsor& sponsor, bool isMain) {
-  return {sponsor.Name.Str(), isMain ? "Main sponsor" : "Minor sponsor",
-          kHighestRisk - sponsor.Morality, "Leaves on Monday"};
-}
-
-}  // namespace
-
 std::vector<RiskLimit> RiskLimits(const World& world) {
   std::vector<RiskLimit> limits;
   const Promotion& player = world.Player();
   for (const Show& show : world.Shows())
     if (show.Owner == player.Uid)
       if (const Network* network = world.FindNetwork(show.Network))
-        limits.push_back(LimitOf(show, *network));
+        limits.push_back({show.Name.Str(),
+                          "Television, " + std::string(Says(kTimeSlots, show.Slot)) + " on " +
+                              network->Name.Str(),
+                          SlotRisk(*network, show.Slot), "A strike for every show"});
   for (const Sponsor& sponsor : world.Sponsors())
     if (sponsor.Promotion == player.Uid)
-      limits.push_back(LimitOf(sponsor, player.Sponsor[0] == sponsor.Uid));
+      limits.push_back({sponsor.Name.Str(),
+                        player.Sponsor[0] == sponsor.Uid ? "Main sponsor" : "Minor sponsor",
+                        100 - sponsor.Morality, "Leaves on Monday"});
   return limits;
 }
 
@@ -165,22 +153,10 @@ RiskMarket MarketFor(const World& world, int risk) {
 }
 
 const char* RiskText(int risk) {
-  for (const RiskWords& row : kRiskWords)
-    if (risk >= row.From) return row.Words;
-  return kRiskWords[std::size(kRiskWords) - 1].Words;
+  for (const auto& [from, words] : kRiskWords)
+    if (risk >= from) return words;
+  return "For the whole family";
 }
-
-namespace {
-
-void Tell(World& world, const Promotion& promotion, const std::string& ours,
-          const std::string& theirs) {
-  if (promotion.Uid == world.PlayerUid())
-    AddNews(world, "News Desk", ours);
-  else if (ShouldTell(world, world.Game().MailSponsor, promotion.Size))
-    AddNews(world, promotion.Initials + " News", theirs);
-}
-
-}  // namespace
 
 void SponsorRiskReview(World& world) {
   for (Sponsor& sponsor : world.Sponsors()) {

@@ -33,15 +33,16 @@ std::vector<const Show*> ShowsOf(const World& world, int promotionUid) {
   return shows;
 }
 
-Show* PlayerShow(World& world, std::string_view name) {
-  for (Show& show : world.Shows())
-    if (show.Owner == world.PlayerUid() && show.Name == name) return &show;
-  return nullptr;
+std::string WhyNoMoreShows(const World& world) {
+  return ShowsOf(world, world.PlayerUid()).size() < kMostShows
+             ? ""
+             : "You already have the maximum amount of TV shows allowed.";
 }
 
-std::string WhyNoShowName(std::string_view name) {
+std::string WhyNoShowName(const World& world, std::string_view name, const char* taken) {
   if (TrimmedName(name) == kToBeDeleted) return "No show can be called that.";
-  return WhyNoName(name, kShowNameLetters);
+  if (std::string why = WhyNoName(name, kShowNameLetters); !why.empty()) return why;
+  return ShowNameTaken(world, name) ? taken : "";
 }
 
 bool ShowNameTaken(const World& world, std::string_view name) {
@@ -167,50 +168,30 @@ namespace {
 /// Commentators get by who are this much below what the public expects.
 constexpr int kTolerance = 10;
 
-/// What Maeve says of an empty chair and of who does not fill it.
-struct ChairWords {
-  TvRemark Empty, Poor;
-};
-
+/// Speaks of an empty chair and of who does not fill it.
 void JudgeChair(std::vector<TvRemark>& remarks, const std::optional<Commentator>& seated,
-                int wanted, const ChairWords& words) {
-  if (!seated)
-    remarks.push_back(words.Empty);
-  else if (seated->Skill + kTolerance < wanted)
-    remarks.push_back(words.Poor);
+                int wanted, const std::string& title, const std::string& one,
+                const std::string& better) {
+  if (seated && seated->Skill + kTolerance >= wanted) return;
+  remarks.push_back({(seated ? "Poor " : "No ") + title + "!",
+                     "Maeve: 'You need to assign " + (seated ? better : one) + " to this show!'"});
 }
 
-void JudgeTable(std::vector<TvRemark>& remarks, const World& world, const Show& show) {
-  const int wanted = WantedTalent(world.Player().Size);
-  JudgeChair(remarks, AnnouncerOf(world, show), wanted,
-             {{"No Announcer!", "Maeve: 'You need to assign an announcer to this show!'"},
-              {"Poor Announcer!", "Maeve: 'You need to assign a better announcer to this show!'"}});
-  JudgeChair(
-      remarks, ColourManOf(world, show), wanted,
-      {{"No Colour Commentator!", "Maeve: 'You need to assign a colour commentator to this show!'"},
-       {"Poor Colour Commentator!",
-        "Maeve: 'You need to assign a better colour commentator to this show!'"}});
-}
-
-/// Nothing to say between 70 and 80 per cent of what is wanted.
-std::vector<TvRemark> JudgeRating(int rating, int audience) {
+/// Speaks of the risk alone between 70 and 80 per cent of what is wanted.
+TvRemark JudgeAired(const Promotion& promotion, const Show& show, const Network& network) {
   // Tenths, since the limits are not rounded.
-  if (rating * 10 < audience * 6)
-    return {{"Uh-oh!",
-             "Maeve: 'Our ratings are well below what the network expects, something needs to "
-             "change very soon!'"}};
-  if (rating * 10 < audience * 7)
-    return {{"Uh-oh!",
-             "Maeve: 'Our ratings are below what the network expects, something needs to "
-             "change!'"}};
-  if (rating * 10 > audience * 9)
-    return {{"Great!", "Maeve: 'Our ratings are superb, the network are very happy with us!'"}};
-  if (rating * 10 > audience * 8)
-    return {{"OK!", "Maeve: 'Our ratings are good, the network appears to be happy with us.'"}};
-  return {};
-}
-
-TvRemark JudgeRisk(const Promotion& promotion, const Show& show, const Network& network) {
+  const int rating = show.Rating3 * 10, tenth = SlotAudience(network, show.Slot);
+  if (rating < tenth * 6)
+    return {"Uh-oh!",
+            "Maeve: 'Our ratings are well below what the network expects, something needs to "
+            "change very soon!'"};
+  if (rating < tenth * 7)
+    return {"Uh-oh!",
+            "Maeve: 'Our ratings are below what the network expects, something needs to change!'"};
+  if (rating > tenth * 9)
+    return {"Great!", "Maeve: 'Our ratings are superb, the network are very happy with us!'"};
+  if (rating > tenth * 8)
+    return {"OK!", "Maeve: 'Our ratings are good, the network appears to be happy with us.'"};
   if (promotion.Risk > SlotRisk(network, show.Slot))
     return {"Too Risky!",
             "Maeve: 'We need to tone down the riskiness of the show if we want to stay on the "
@@ -219,48 +200,41 @@ TvRemark JudgeRisk(const Promotion& promotion, const Show& show, const Network& 
 }
 
 std::string StrikesText(const Show& show) {
-  switch (show.Rating4) {
-    case 0:
-      return "No strikes.";
-    case 1:
-      return "One strike. At three the network drops the show.";
-    case 2:
-      return "Two strikes. One more, and the network drops the show.";
-    case 3:
-      return "Three strikes: the network will drop the show on Monday.";
-    default:
-      return std::to_string(show.Rating4) + " strikes, and somehow nobody has noticed.";
-  }
+  constexpr const char* kStrikes[] = {"No strikes.",
+                                      "One strike. At three the network drops the show.",
+                                      "Two strikes. One more, and the network drops the show.",
+                                      "Three strikes: the network will drop the show on Monday."};
+  const int strikes = show.Rating4;
+  return strikes >= 0 && strikes < std::ssize(kStrikes)
+             ? kStrikes[strikes]
+             : std::to_string(strikes) + " strikes, and somehow nobody has noticed.";
 }
 
 }  // namespace
 
 std::vector<TvRemark> TvAdvice(const World& world, const Show& show, const Network& network) {
   std::vector<TvRemark> remarks;
-  JudgeTable(remarks, world, show);
-  if (show.Rating1 == 0) {
+  const int wanted = WantedTalent(world.Player().Size);
+  JudgeChair(remarks, AnnouncerOf(world, show), wanted, "Announcer", "an announcer",
+             "a better announcer");
+  JudgeChair(remarks, ColourManOf(world, show), wanted, "Colour Commentator",
+             "a colour commentator", "a better colour commentator");
+  if (show.Rating1 == 0)
     remarks.push_back({"Duh!",
                        "Maeve: 'What are you expecting me to say? We haven't even debuted this "
                        "show yet!'"});
-    return remarks;
-  }
-  const auto ratings = JudgeRating(show.Rating3, SlotAudience(network, show.Slot));
-  remarks.insert(remarks.end(), ratings.begin(), ratings.end());
-  if (ratings.empty()) remarks.push_back(JudgeRisk(world.Player(), show, network));
+  else
+    remarks.push_back(JudgeAired(world.Player(), show, network));
   return remarks;
 }
 
-std::vector<std::string> NetworkWants(const Promotion& promotion, const Show& show,
-                                      const Network& network) {
-  const int audience = SlotAudience(network, show.Slot);
-  const std::string slot(SlotName(show.Slot));
-  return {network.Name + " measures the show against a rating of " + RatingText(audience) + " in " +
-              slot + ".",
-          "It bears a risk of " + std::to_string(SlotRisk(network, show.Slot)) +
-              " there. Ours is " + std::to_string(promotion.Risk) + ".",
-          "It asks for production values of " + std::to_string(network.Production) + ". Ours are " +
-              std::to_string(promotion.Production) + ".",
-          StrikesText(show)};
+std::string NetworkWants(const Promotion& promotion, const Show& show, const Network& network) {
+  return network.Name + " measures the show against a rating of " +
+         RatingText(SlotAudience(network, show.Slot)) + " in " + std::string(SlotName(show.Slot)) +
+         ".\nIt bears a risk of " + std::to_string(SlotRisk(network, show.Slot)) +
+         " there. Ours is " + std::to_string(promotion.Risk) +
+         ".\nIt asks for production values of " + std::to_string(network.Production) +
+         ". Ours are " + std::to_string(promotion.Production) + ".\n" + StrikesText(show);
 }
 
 }  // namespace grapplemont

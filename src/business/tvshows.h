@@ -14,14 +14,15 @@ namespace grapplemont {
 
 /// As many as a promotion may have.
 inline constexpr int kMostShows = 3;
+/// Why the player can have no more shows; empty when he can.
+std::string WhyNoMoreShows(const World& world);
 
 /// A promotion's shows in the order of the file.
 std::vector<const Show*> ShowsOf(const World& world, int promotionUid);
-/// The player's show of this name; nullptr when there is none.
-Show* PlayerShow(World& world, std::string_view name);
 
-/// Why this can be no show's name at all; empty when it can, though it may be taken.
-std::string WhyNoShowName(std::string_view name);
+/// Why no show can have this name from now on, in the words of `taken` where one has it; empty when
+/// one can.
+std::string WhyNoShowName(const World& world, std::string_view name, const char* taken);
 bool ShowNameTaken(const World& world, std::string_view name);
 
 /// Whether the network has a show in the slot on some day. A generic one has room for any number.
@@ -82,7 +83,6 @@ std::string WhyNoTable(int announcer, int colour, bool colourIsWorker);
 std::vector<TvRemark> TvAdvice(const World& world, const Show& show, const Network& network);
 
 /// What the network asks of the show, a line each.
-std::vector<std::string> NetworkWants(const Promotion& promotion, const Show& show,
-                                      const Network& network);
+std::string NetworkWants(const Promotion& promotion, const Show& show, const Network& network);
 
 }  // namespace grapplemont

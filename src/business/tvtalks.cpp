@@ -20,11 +20,8 @@ constexpr int kTalkWeeks = 12;
 constexpr int kHappyWeeks = 24;
 constexpr int kGreatWeeks = 36;
 
-struct ViewWords {
-  const char* Title;
-  const char* Text;
-};
-constexpr ViewWords kViewWords[] = {
+/// In the order of NetworkView.
+const TvRemark kViewWords[] = {
     {"No shows", "Network: 'We haven't seen any shows yet.'"},
     {"Terrible ratings!",
      "Network: 'We are extremely concerned about the poor ratings that this show is getting.'"},
@@ -53,7 +50,7 @@ std::vector<TvRemark> AskNetwork(const Promotion& promotion, const Show& show,
   if (view != kUnseen && IsTooRisky(promotion, show, network))
     remarks.push_back(
         {"Too risky!", "Network: 'We are not happy with the risky nature of your product.'"});
-  remarks.push_back({kViewWords[view].Title, kViewWords[view].Text});
+  remarks.push_back(kViewWords[view]);
   return remarks;
 }
 
@@ -99,6 +96,11 @@ constexpr const char* kRefuse = "Network: 'We do not wish to move the time slot 
 constexpr const char* kRiskOfMovingBack =
     "Network: 'We would be willing to move this show back, but only if your promotion reduced its "
     "risk level.'";
+constexpr const char* kDownToGrave =
+    "Network: 'We would be happy to move this show down to a graveyard slot.'";
+constexpr const char* kPrimeOnRisk =
+    "Network: 'We would be willing to move this show to prime time, but only if your promotion "
+    "reduced its risk level.'";
 
 struct SlotMove {
   std::string_view From;
@@ -118,39 +120,23 @@ constexpr SlotMove kMoves[] = {
      "Network: 'We would be willing to move this show to a late evening slot, but only if your "
      "promotion reduced its risk level.'"},
     {"E", kGreat, "P", &Network::PrimeRisk,
-     "Network: 'We are willing to move this show to prime time.'",
-     "Network: 'We would be willing to move this show to prime time, but only if your promotion "
-     "reduced its risk level.'"},
-    {"P", kTerrible, "G", &Network::LateRisk,
-     "Network: 'We would be happy to move this show down to a graveyard slot.'", kRiskOfMovingBack},
+     "Network: 'We are willing to move this show to prime time.'", kPrimeOnRisk},
+    {"P", kTerrible, "G", &Network::LateRisk, kDownToGrave, kRiskOfMovingBack},
     {"P", kLow, "L", &Network::LateRisk,
      "Network: 'We would be happy to move this show down to a late evening slot.'",
      kRiskOfMovingBack},
-    {"L", kTerrible, "G", &Network::GraveRisk,
-     "Network: 'We would be happy to move this show down to a graveyard slot.'", kRiskOfMovingBack},
-    {"L", kLow, "G", &Network::GraveRisk,
-     "Network: 'We would be happy to move this show down to a graveyard slot.'", kRiskOfMovingBack},
+    {"L", kTerrible, "G", &Network::GraveRisk, kDownToGrave, kRiskOfMovingBack},
+    {"L", kLow, "G", &Network::GraveRisk, kDownToGrave, kRiskOfMovingBack},
     {"L", kGreat, "P", &Network::PrimeRisk,
-     "Network: 'We are willing to move this show to a prime time slot.'",
-     "Network: 'We would be willing to move this show to prime time, but only if your promotion "
-     "reduced its risk level.'"},
+     "Network: 'We are willing to move this show to a prime time slot.'", kPrimeOnRisk},
     {"G", kGreat, "L", &Network::LateRisk,
      "Network: 'We are willing to move this show to a late evening slot.'",
      "Network: 'We would be willing to move this show forward, but only if your promotion reduced "
      "its risk level.'"}};
 
-struct TakenSlot {
-  std::string_view Slot;
-  const char* Text;
-};
-constexpr TakenSlot kTaken[] = {
-    {"G", "Network: 'We would move you to a graveyard slot, but we already have a show then.'"},
-    {"L", "Network: 'We would move you to a late night slot, but we already have a show then.'"},
-    {"P", "Network: 'We would move you to a prime time slot, but we already have a show then.'"}};
-
-const char* TakenWords(std::string_view slot) {
-  return std::ranges::find_if(kTaken, [&](const TakenSlot& taken) { return taken.Slot == slot; })
-      ->Text;
+std::string TakenWords(std::string_view slot) {
+  const std::string name = slot == "G" ? "graveyard" : slot == "L" ? "late night" : "prime time";
+  return "Network: 'We would move you to a " + name + " slot, but we already have a show then.'";
 }
 
 }  // namespace
@@ -216,10 +202,8 @@ bool CouldUseTape(const World& world, const Network& network) {
 }
 
 std::string WhyNoTape(const World& world) {
-  if (world.Game().TapeWait != 0) return "You can only send out one tape per month.";
-  if (ShowsOf(world, world.PlayerUid()).size() >= kMostShows)
-    return "You already have the maximum amount of TV shows allowed.";
-  return {};
+  return world.Game().TapeWait != 0 ? "You can only send out one tape per month."
+                                    : WhyNoMoreShows(world);
 }
 
 void SendTape(World& world, int networkUid) {
@@ -229,8 +213,7 @@ void SendTape(World& world, int networkUid) {
 void AnswerPromoTapes(World& world) {
   GameInfo& game = world.Game();
   const Network* network = world.FindNetwork(game.TapeWait);
-  game.TapeWait = 0;
-  game.TvOfferWait = 0;
+  DropOffer(world);
   if (!network) return;
   if (const auto reason = RefusalOf(world, world.Player(), *network))
     return AddNews(world, network->Name, kRefusals[*reason]);

@@ -6,6 +6,7 @@
 #include "business/development.h"
 #include "business/networks.h"
 #include "business/sponsors.h"
+#include "business/tvshows.h"
 #include "records/arithmetic.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
@@ -64,10 +65,6 @@ WorthLine FameWorth(const Promotion& promotion, const Roster& roster) {
           roster.Fame * rate};
 }
 
-WorthLine WagesOwed(const Roster& roster) {
-  return {"The roster's wages", "Promised for the same months", -roster.Wages * kThousand};
-}
-
 int RatingOf(const World& world, const Promotion& promotion, const Show& show) {
   if (show.Rating3 > 0) return show.Rating3;
   const Network* network = world.FindNetwork(show.Network);
@@ -75,25 +72,20 @@ int RatingOf(const World& world, const Promotion& promotion, const Show& show) {
   return network ? std::min(potential, SlotAudience(*network, show.Slot)) : 0;
 }
 
-int TvShowsOf(const World& world, const Promotion& promotion) {
-  return static_cast<int>(std::ranges::count_if(
-      world.Shows(), [&](const Show& s) { return s.Owner == promotion.Uid; }));
-}
-
 WorthLine TelevisionWorth(const World& world, const Promotion& promotion) {
+  const auto shows = ShowsOf(world, promotion.Uid);
   long long dollars = 0;
-  for (const Show& show : world.Shows())
-    if (show.Owner == promotion.Uid)
-      dollars += static_cast<long long>(RatingOf(world, promotion, show)) * kDollarsPerRating *
-                 std::clamp<int>(show.ContractWeeks, 0, kYearWeeks);
+  for (const Show* show : shows)
+    dollars += static_cast<long long>(RatingOf(world, promotion, *show)) * kDollarsPerRating *
+               std::clamp<int>(show->ContractWeeks, 0, kYearWeeks);
   return {"Television deals",
-          Counted(TvShowsOf(world, promotion), "show") + ", " + Dollars(kDollarsPerRating) +
+          Counted(std::ssize(shows), "show") + ", " + Dollars(kDollarsPerRating) +
               " a week for each hundredth of the rating, a year at most",
           dollars};
 }
 
 WorthLine SponsorWorth(const World& world, const Promotion& promotion) {
-  const int shows = TvShowsOf(world, promotion);
+  const auto shows = std::ssize(ShowsOf(world, promotion.Uid));
   const auto events = std::ranges::count_if(
       world.Events(), [&](const Event& event) { return event.Owner == promotion.Uid; });
   long long dollars = 0, sponsors = 0;
@@ -117,26 +109,21 @@ WorthLine DevelopmentWorth(const Promotion& promotion) {
   return {"Training camp and territory", "Half of what they would cost", dollars / 2};
 }
 
-WorthLine LoanOwed(const Promotion& promotion) {
-  return {
-      "Loan", "What is still to be repaid",
-      std::min<long long>(0, static_cast<long long>(promotion.LoanRepaid) - promotion.LoanAmount)};
-}
-
 }  // namespace
 
 std::vector<WorthLine> PromotionWorth(const World& world, const Promotion& promotion) {
   const Roster roster = RosterOf(world, promotion);
   const int money = promotion.Money;
+  const long long owed = static_cast<long long>(promotion.LoanAmount) - promotion.LoanRepaid;
   return {NameWorth(promotion),
           FameWorth(promotion, roster),
-          WagesOwed(roster),
+          {"The roster's wages", "Promised for the same months", -roster.Wages * kThousand},
           TelevisionWorth(world, promotion),
           SponsorWorth(world, promotion),
           DevelopmentWorth(promotion),
           {"Cash", "In hand", std::max(money, 0)},
           {"Debts", "What is overdrawn", std::min(money, 0)},
-          LoanOwed(promotion)};
+          {"Loan", "What is still to be repaid", std::min<long long>(0, -owed)}};
 }
 
 long long SumOf(const std::vector<WorthLine>& lines) {

@@ -65,8 +65,7 @@ bool IsTooLow(const World& world, const FeudSide& speaker, const FeudSide& oppon
 }
 
 bool HasCreativeControl(const World& world, const FeudSide& side) {
-  const std::vector<int> members = Members(side);
-  return std::any_of(members.begin(), members.end(), [&](int uid) {
+  return std::ranges::any_of(Members(side), [&](int uid) {
     const Worker* worker = world.FindWorker(uid);
     return worker && worker->CreativeControl;
   });
@@ -100,44 +99,40 @@ struct View {
   int Sum() const { return Won + WonThere; }
 };
 
-/// Whose name stands in the sentence: nobody's, or the side for which the test holds. Side one is
-/// tried first.
-enum class About { Nobody, ASide };
-
+/// A sentence; with something after the name it names the side for which the test holds. Side one
+/// is tried first.
 struct Opinion {
   bool (*Fits)(const View&);
-  About Whom;
-  std::string_view Before;  // the name, if any
-  std::string_view After = {};
+  std::string_view Before, After = {};
   bool IsEnd = false;  // says that the feud should come to one
 };
 
 // The first that fits is said, so the order is the rule. The one about losing popularity stands
 // before the one about falling behind and leaves it nothing to fit.
 constexpr std::array<Opinion, 8> kOpinions = {{
-    {[](const View& v) { return v.Sum() < 4 && v.Seen.Singles; }, About::Nobody,
+    {[](const View& v) { return v.Sum() < 4 && v.Seen.Singles; },
      "You need to build this rivalry up more. Use matches, interviews and angles to heat things "
      "up."},
-    {[](const View& v) { return v.Sum() < 4; }, About::Nobody,
+    {[](const View& v) { return v.Sum() < 4; },
      "You need to build this rivalry up more, it has barely begun."},
-    {[](const View& v) { return v.Seen.Dirty1 == 0 && v.Seen.Dirty2 == 0; }, About::Nobody,
+    {[](const View& v) { return v.Seen.Dirty1 == 0 && v.Seen.Dirty2 == 0; },
      "I'd give one of the teams a few cheap wins - clean-cut faces vs cheating heels always "
      "draws."},
     {[](const View& v) {
        return v.Won == 0 && v.Won + 5 < v.WonThere && v.Clean == 0 && v.DirtyThere >= 4;
      },
-     About::ASide, "This feud is poised perfectly for ",
-     " to get a climatic clean victory to end the feud.", true},
-    {[](const View& v) { return v.Sum() <= 13 && v.Won == v.WonThere; }, About::Nobody,
+     "This feud is poised perfectly for ", " to get a climatic clean victory to end the feud.",
+     true},
+    {[](const View& v) { return v.Sum() <= 13 && v.Won == v.WonThere; },
      "A nice even feud - i'd let one team get slightly ahead, then have the other team win the "
      "feud-ending bout to even the score."},
-    {[](const View& v) { return v.Sum() > 13; }, About::Nobody,
+    {[](const View& v) { return v.Sum() > 13; },
      "This feud has been built up well, i think we should end it with a big gimmick bout, then "
      "move both teams onto new feuds.",
      "", true},
-    {[](const View& v) { return v.Won + 5 > v.WonThere; }, About::ASide, "",
+    {[](const View& v) { return v.Won + 5 > v.WonThere; }, "",
      " would lose popularity if they lost the feud at this stage."},
-    {[](const View& v) { return v.Won + 5 < v.WonThere; }, About::ASide, "I'd give ",
+    {[](const View& v) { return v.Won + 5 < v.WonThere; }, "I'd give ",
      " more wins, as they are falling too far behind."},
 }};
 
@@ -182,7 +177,7 @@ bool EnemiesMeet(const Feud& feud, const std::vector<int>& people) {
   if (IsFreeSlot(feud)) return false;
   const FeudSides sides = SidesOf(feud);
   const auto has = [&](const FeudSide& side) {
-    return std::any_of(people.begin(), people.end(), [&](int uid) { return side.Has(uid); });
+    return std::ranges::any_of(people, [&](int uid) { return side.Has(uid); });
   };
   return has(sides.One) && has(sides.Two);
 }
@@ -201,7 +196,7 @@ bool FeudExists(const World& world, int workerA, int workerB) {
 }
 
 bool FeudExists(const World& world, const FeudSides& sides) {
-  return std::any_of(world.Feuds().begin(), world.Feuds().end(), [&](const Feud& feud) {
+  return std::ranges::any_of(world.Feuds(), [&](const Feud& feud) {
     if (IsFreeSlot(feud) || bool(feud.Singles) == sides.One.IsTeam()) return false;
     const FeudSides held = SidesOf(feud);
     return (held.One == sides.One && held.Two == sides.Two) ||
@@ -214,10 +209,8 @@ bool MayFeud(const World& world, const Worker& worker) {
 }
 
 std::vector<const Worker*> FeudRoster(const World& world) {
-  std::vector<const Worker*> roster;
-  for (const Worker& worker : world.Workers())
-    if (MayFeud(world, worker)) roster.push_back(&worker);
-  SortByOver(roster);
+  std::vector<const Worker*> roster = SeenOnShows(world);
+  std::erase_if(roster, [&](const Worker* worker) { return !MayFeud(world, *worker); });
   return roster;
 }
 
@@ -280,7 +273,7 @@ std::string AssessFeud(const World& world, const Feud& feud) {
   if (!found.Is) return "I'd keep developing this feud, it is getting interesting.";
   const FeudSides sides = SidesOf(feud);
   std::string text(found.Is->Before);
-  if (found.Is->Whom == About::ASide)
+  if (!found.Is->After.empty())
     text.append(SideName(world, found.FromOne ? sides.One : sides.Two)).append(found.Is->After);
   return text;
 }

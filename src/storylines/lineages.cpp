@@ -1,7 +1,9 @@
 #include "storylines/lineages.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
+#include <ranges>
 
 #include "records/fields/fields.h"
 #include "records/modWresCheck.h"
@@ -122,7 +124,7 @@ class Update {
 
   /// A Title nobody knows by its name: one of the promotion's under a new name, or a new one.
   void Meet(const Title& title) {
-    const auto renamed = std::find_if(open_.begin(), open_.end(), [&](const auto& known) {
+    const auto renamed = std::ranges::find_if(open_, [&](const auto& known) {
       return known.first.first == title.Owner && IsPresent(*known.second, title);
     });
     if (renamed != open_.end()) {
@@ -156,8 +158,13 @@ class Update {
   std::vector<TitleReign> fresh_;          // appended at the end: an append may move the others
 };
 
-Day Known(const Date& date, Day unknown) {
-  return Day(date) > kNoTitleDate ? Day(date) : unknown;
+/// The latest first.
+template <class Test>
+std::vector<const TitleReign*> ReignsWhere(const World& world, Test test) {
+  std::vector<const TitleReign*> reigns;
+  for (const TitleReign& reign : std::views::reverse(world.Reigns()))
+    if (test(reign)) reigns.push_back(&reign);
+  return reigns;
 }
 
 }  // namespace
@@ -178,26 +185,20 @@ void CountDefence(World& world, std::string_view title) {
 std::vector<Lineage> LineagesOf(const World& world) {
   std::vector<Lineage> lineages;
   const auto add = [&](const Lineage& lineage) {
-    if (std::find(lineages.begin(), lineages.end(), lineage) == lineages.end())
-      lineages.push_back(lineage);
+    if (std::ranges::find(lineages, lineage) == lineages.end()) lineages.push_back(lineage);
   };
   for (const Title& title : world.Titles())
     if (title.Owner > 0)
       add({title.Name.Str(), title.Owner, PromotionInitials(world, title.Owner), true});
-  for (int number = world.Reigns().Count(); number >= 1; --number) {
-    const TitleReign& reign = world.Reigns()[number];
+  for (const TitleReign& reign : std::views::reverse(world.Reigns()))
     add({reign.Title.Str(), reign.Owner, reign.Initials.Str(), false});
-  }
   return lineages;
 }
 
 std::vector<const TitleReign*> ReignsOf(const World& world, const Lineage& lineage) {
-  std::vector<const TitleReign*> reigns;
-  for (int number = world.Reigns().Count(); number >= 1; --number) {
-    const TitleReign& reign = world.Reigns()[number];
-    if (reign.Owner == lineage.Owner && reign.Title == lineage.Title) reigns.push_back(&reign);
-  }
-  return reigns;
+  return ReignsWhere(world, [&](const TitleReign& reign) {
+    return reign.Owner == lineage.Owner && reign.Title == lineage.Title;
+  });
 }
 
 bool IsVacancy(const TitleReign& reign) {
@@ -205,9 +206,8 @@ bool IsVacancy(const TitleReign& reign) {
 }
 
 int DaysOf(const TitleReign& reign, Day today) {
-  const Day from = Known(reign.From, kNoTitleDate);
-  const Day until = reign.End == kReignLasts ? today : Known(reign.Until, kNoTitleDate);
-  if (from == kNoTitleDate || until == kNoTitleDate || until < from) return -1;
+  const Day from = reign.From, until = reign.End == kReignLasts ? today : Day(reign.Until);
+  if (from <= kNoTitleDate || until <= kNoTitleDate || until < from) return -1;
   return static_cast<int>((until - from).count());
 }
 
@@ -215,9 +215,7 @@ std::vector<ChampionTotal> TotalsOf(const World& world, const Lineage& lineage) 
   std::vector<ChampionTotal> totals;
   for (const TitleReign* reign : ReignsOf(world, lineage)) {
     if (IsVacancy(*reign)) continue;
-    auto total = std::find_if(totals.begin(), totals.end(), [&](const ChampionTotal& known) {
-      return known.Name == reign->Holder.View();
-    });
+    auto total = std::ranges::find(totals, reign->Holder.View(), &ChampionTotal::Name);
     if (total == totals.end()) {
       totals.push_back(
           {reign->Holder.Str(), 0, 0, kNoEnd, reign->Partner == 0 ? int(reign->Worker) : 0});
@@ -227,19 +225,16 @@ std::vector<ChampionTotal> TotalsOf(const World& world, const Lineage& lineage) 
     total->Days += std::max(0, DaysOf(*reign, world.Today()));
     if (reign->Defences >= 0) total->Defences = std::max(0, total->Defences) + reign->Defences;
   }
-  std::stable_sort(totals.begin(), totals.end(), [](const auto& a, const auto& b) {
-    return a.Days != b.Days ? a.Days > b.Days : a.Reigns > b.Reigns;
+  std::ranges::stable_sort(totals, std::greater{}, [](const ChampionTotal& total) {
+    return std::pair(total.Days, total.Reigns);
   });
   return totals;
 }
 
 std::vector<const TitleReign*> ReignsOfWorker(const World& world, int workerUid) {
-  std::vector<const TitleReign*> reigns;
-  for (int number = world.Reigns().Count(); number >= 1 && workerUid != 0; --number) {
-    const TitleReign& reign = world.Reigns()[number];
-    if (reign.Worker == workerUid || reign.Partner == workerUid) reigns.push_back(&reign);
-  }
-  return reigns;
+  return ReignsWhere(world, [&](const TitleReign& reign) {
+    return workerUid != 0 && (reign.Worker == workerUid || reign.Partner == workerUid);
+  });
 }
 
 }  // namespace grapplemont

@@ -36,12 +36,8 @@ std::vector<const Worker*> Of(std::vector<const Worker*> people, Stays stays) {
   return people;
 }
 
-struct Memory {
-  int UpTo;  // days since the last turn
-  const char* Words;
-};
-// How long the fans remember a turn.
-constexpr Memory kMemories[] = {
+/// How long the fans remember a turn: up to so many days.
+constexpr std::pair<int, const char*> kMemories[] = {
     {90, "The fans will not care for another turn so soon."},
     {180, "The fans most likely remember the last turn, and would not care for another."},
     {365, "Some fans remember the last turn. Another one may fall flat."},
@@ -62,18 +58,17 @@ std::vector<int> PartnersOf(const World& world, int workerUid) {
   return partners;
 }
 
-std::vector<int> PlayerTeams(const World& world) {
-  std::vector<int> numbers;
+std::vector<const Team*> PlayerTeams(const World& world) {
+  std::vector<const Team*> teams;
   for (const Team& team : world.Teams())
-    if (IsPlayers(world, team.Worker1) && IsPlayers(world, team.Worker2))
-      numbers.push_back(world.Teams().NumberOf(team));
-  return numbers;
+    if (IsPlayers(world, team.Worker1) && IsPlayers(world, team.Worker2)) teams.push_back(&team);
+  return teams;
 }
 
 std::string WhyNotTeamName(const World& world, std::string_view name) {
   if (std::string why = WhyNoName(name); !why.empty()) return why;
-  const bool taken = std::any_of(world.Teams().begin(), world.Teams().end(),
-                                 [&](const Team& team) { return team.Name == name; });
+  const bool taken =
+      std::ranges::any_of(world.Teams(), [&](const Team& team) { return team.Name == name; });
   return taken ? "There is a team called " + std::string(name) + " already." : "";
 }
 
@@ -106,10 +101,6 @@ void SetTeamFinisher(Team& team, std::string_view finisher) {
   team.Finisher = trimmed.empty() ? "None" : trimmed;
 }
 
-void DissolveTeam(World& world, int number) {
-  world.Teams().Erase(number);
-}
-
 std::vector<const Worker*> StableMembers(const World& world, std::string_view stable) {
   std::vector<const Worker*> members;
   if (stable.empty() || stable == "None") return members;
@@ -119,9 +110,7 @@ std::vector<const Worker*> StableMembers(const World& world, std::string_view st
 }
 
 std::vector<const Worker*> ActiveMembers(const World& world, std::string_view stable) {
-  std::vector<const Worker*> members = StableMembers(world, stable);
-  std::erase_if(members, [](const Worker* worker) { return worker->Status != "Nor"; });
-  return members;
+  return Of(StableMembers(world, stable), [](const Worker& w) { return w.Status == "Nor"; });
 }
 
 const Worker* StableLeader(const World& world, std::string_view stable) {
@@ -169,9 +158,8 @@ void RenameStable(World& world, std::string_view from, std::string_view to) {
 }
 
 int BookedFor(const World& world, std::string_view stable) {
-  return static_cast<int>(
-      std::count_if(world.Segments().begin(), world.Segments().end(),
-                    [&](const Segment& segment) { return IsBookedFor(segment, stable); }));
+  return static_cast<int>(std::ranges::count_if(
+      world.Segments(), [&](const Segment& segment) { return IsBookedFor(segment, stable); }));
 }
 
 void DissolveStable(World& world, std::string_view stable) {
@@ -179,7 +167,7 @@ void DissolveStable(World& world, std::string_view stable) {
   for (Segment& segment : world.Segments())
     if (IsBookedFor(segment, name)) ClearSegment(segment);
   for (Worker& worker : world.Workers())
-    if (IsIn(world, worker, name)) LeaveStable(worker);
+    if (IsIn(world, worker, name)) worker.Stable = "None";
   world.Stables().Keep(
       [&](const Stable& kept) { return !(IsPlayers(world, kept) && kept.Name == name); });
 }
@@ -197,14 +185,6 @@ std::string WhyNotJoin(const World& world, std::string_view stable, const Worker
   if (static_cast<int>(StableMembers(world, stable).size()) >= kFullStable)
     return std::string(stable) + " has ten members, and that is as many as a stable can have.";
   return {};
-}
-
-void JoinStable(Worker& worker, std::string_view stable) {
-  worker.Stable = stable;
-}
-
-void LeaveStable(Worker& worker) {
-  worker.Stable = "None";
 }
 
 std::vector<const Worker*> Managers(const World& world) {
@@ -225,17 +205,8 @@ std::vector<const Worker*> ClientsOf(const World& world, const Worker& manager) 
 }
 
 std::string WhyNotManage(const Worker& manager, const Worker& client) {
-  if (client.Manager == manager.Uid)
-    return manager.Name + " manages " + client.Name.Str() + " already.";
-  return {};
-}
-
-void GiveManager(Worker& client, const Worker& manager) {
-  client.Manager = manager.Uid;
-}
-
-void TakeManager(Worker& client) {
-  client.Manager = 0;
+  if (client.Manager != manager.Uid) return {};
+  return manager.Name + " manages " + client.Name.Str() + " already.";
 }
 
 int DaysSinceTurn(const World& world, const Worker& worker) {
@@ -246,17 +217,9 @@ int DaysSinceTurn(const World& world, const Worker& worker) {
 
 std::string TurnAdvice(const World& world, const Worker& worker) {
   const int days = DaysSinceTurn(world, worker);
-  for (const Memory& memory : kMemories)
-    if (days >= 0 && days <= memory.UpTo) return memory.Words;
+  for (const auto& [upTo, words] : kMemories)
+    if (days >= 0 && days <= upTo) return words;
   return "The fans are ready for a turn.";
-}
-
-void PrepareTurn(Worker& worker) {
-  worker.TurnPending = true;
-}
-
-void CallOffTurn(Worker& worker) {
-  worker.TurnPending = false;
 }
 
 }  // namespace grapplemont

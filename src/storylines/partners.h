@@ -16,9 +16,8 @@ namespace grapplemont {
 bool IsTeamOf(const Team& team, int workerA, int workerB);
 /// The partners of a worker in the teams of the file, in its order.
 std::vector<int> PartnersOf(const World& world, int workerUid);
-/// The record numbers of the teams whose members both work for the player, in the order of the
-/// file.
-std::vector<int> PlayerTeams(const World& world);
+/// The teams whose members both work for the player, in the order of the file.
+std::vector<const Team*> PlayerTeams(const World& world);
 
 /// Why no team can have this name from now on; empty when one can.
 std::string WhyNotTeamName(const World& world, std::string_view name);
@@ -33,8 +32,6 @@ int FormTeam(World& world, std::string_view name, int workerA, int workerB,
              std::string_view finisher);
 /// "None" in the record for a team without one.
 void SetTeamFinisher(Team& team, std::string_view finisher);
-/// Its record goes; those behind it move up.
-void DissolveTeam(World& world, int number);
 
 // Who belongs to a stable and who leads it; how one is founded, changed and given up.
 
@@ -66,8 +63,6 @@ void DissolveStable(World& world, std::string_view stable);
 bool IsInStable(const Worker& worker);
 /// Why the worker cannot join; empty when he can.
 std::string WhyNotJoin(const World& world, std::string_view stable, const Worker& worker);
-void JoinStable(Worker& worker, std::string_view stable);
-void LeaveStable(Worker& worker);
 
 /// The most popular active member, the lower uid where two are alike; nullptr for none.
 const Worker* StableLeader(const World& world, std::string_view stable);
@@ -84,9 +79,6 @@ std::vector<const Worker*> ClientsOf(const World& world, const Worker& manager);
 
 /// Why he cannot be given to the client; empty when he can.
 std::string WhyNotManage(const Worker& manager, const Worker& client);
-/// The client has this manager from now on, instead of any other.
-void GiveManager(Worker& client, const Worker& manager);
-void TakeManager(Worker& client);
 
 // Turns in preparation. A booking that turns somebody only works once his turn has been prepared.
 
@@ -94,8 +86,5 @@ void TakeManager(Worker& client);
 int DaysSinceTurn(const World& world, const Worker& worker);
 /// What the fans would make of a turn so soon after the last.
 std::string TurnAdvice(const World& world, const Worker& worker);
-
-void PrepareTurn(Worker& worker);
-void CallOffTurn(Worker& worker);
 
 }  // namespace grapplemont

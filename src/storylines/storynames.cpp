@@ -12,9 +12,6 @@ namespace {
 // The last is the blank of Windows-1252 at which no line breaks: it looks like any other.
 constexpr std::string_view kBlanks = " \t\n\r\xA0";
 
-/// What the files mean something by.
-constexpr std::string_view kReserved[] = {kVacantHolder, kToBeDeleted};
-
 }  // namespace
 
 std::string_view TrimmedName(std::string_view name) {
@@ -24,15 +21,14 @@ std::string_view TrimmedName(std::string_view name) {
 }
 
 std::string WhyNotPlain(std::string_view name) {
-  const bool plain = std::none_of(name.begin(), name.end(), IsControl);
-  return plain ? "" : "A name is one line of plain text.";
+  return std::ranges::none_of(name, IsControl) ? "" : "A name is one line of plain text.";
 }
 
 std::string WhyNoName(std::string_view name, int letters) {
   name = TrimmedName(name);
   if (name.empty()) return "Type a name first.";
   if (name == "None") return "\"None\" stands for nothing at all and cannot be a name.";
-  if (std::find(std::begin(kReserved), std::end(kReserved), name) != std::end(kReserved))
+  if (name == kVacantHolder || name == kToBeDeleted)
     return "\"" + std::string(name) + "\" has a meaning of its own and cannot be a name.";
   if (std::string why = WhyNotPlain(name); !why.empty()) return why;
   if (static_cast<int>(name.size()) > letters)

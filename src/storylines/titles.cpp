@@ -30,6 +30,16 @@ bool IsBookedFor(const Segment& segment, const Title& title) {
 constexpr std::pair<const char*, const char*> kAbsences[] = {
     {"Inj", "injured"}, {"Sus", "suspended"}, {"Reh", "in rehab"}, {"Hom", "sitting out"}};
 
+/// What keeps a holder from defending it.
+std::string WhyNotDefend(const Title& title, const Worker& worker) {
+  if (IsInDevelopment(worker) || worker.Position == kTrainingCamp) return "sent away";
+  if (!IsOnRoster(worker)) return "no wrestler";
+  for (const auto& [status, words] : kAbsences)
+    if (worker.Status == status) return words;
+  if (worker.Status != "Nor") return "unfit";
+  return FitsTitle(title, worker) ? "" : "not eligible";
+}
+
 bool MayHold(const World& world, const Title& title, const Worker& worker) {
   return WorksForPlayer(world, worker) && WhyNotDefend(title, worker).empty();
 }
@@ -60,15 +70,6 @@ std::string KindText(const Title& title) {
 
 bool FitsTitle(const Title& title, const Worker& worker) {
   return !(title.Lightweight && worker.Weight != "L") && !(title.Woman && worker.Gender);
-}
-
-std::string WhyNotDefend(const Title& title, const Worker& worker) {
-  if (IsInDevelopment(worker) || worker.Position == kTrainingCamp) return "sent away";
-  if (!IsOnRoster(worker)) return "no wrestler";
-  for (const auto& [status, words] : kAbsences)
-    if (worker.Status == status) return words;
-  if (worker.Status != "Nor") return "unfit";
-  return FitsTitle(title, worker) ? "" : "not eligible";
 }
 
 std::string WhyNoDefence(const World& world, const Title& title) {
@@ -122,10 +123,6 @@ void RenameTitle(World& world, int number, std::string_view name) {
   title.Name = TrimmedName(name);
 }
 
-void SuspendTitle(Title& title, bool suspended) {
-  title.Suspended = suspended;
-}
-
 std::vector<const Worker*> Contenders(const World& world, const Title& title) {
   std::vector<const Worker*> contenders = SeenOnShows(world);
   std::erase_if(contenders, [&](const Worker* worker) { return !MayHold(world, title, *worker); });
@@ -152,9 +149,8 @@ std::string WhyNotVacate(const Title& title) {
 }
 
 int BookedForTitle(const World& world, const Title& title) {
-  return static_cast<int>(
-      std::count_if(world.Segments().begin(), world.Segments().end(),
-                    [&](const Segment& segment) { return IsBookedFor(segment, title); }));
+  return static_cast<int>(std::ranges::count_if(
+      world.Segments(), [&](const Segment& segment) { return IsBookedFor(segment, title); }));
 }
 
 void DissolveTitle(World& world, int number) {

@@ -30,9 +30,8 @@ std::string KindText(const Title& title);
 /// Whether the worker's weight and sex allow him to hold it.
 bool FitsTitle(const Title& title, const Worker& worker);
 
-/// What keeps him from defending it, as "injured" or "no wrestler"; empty when nothing does.
-std::string WhyNotDefend(const Title& title, const Worker& worker);
-/// The same of those who hold it; empty for a vacant Title.
+/// What keeps its holders from defending it, as "injured" or "no wrestler"; empty when nothing
+/// does, and for a vacant Title.
 std::string WhyNoDefence(const World& world, const Title& title);
 
 /// Why no Title can have this name from now on; empty when one can.
@@ -46,8 +45,6 @@ Title VacantTitle(const World& world, const TitleTerms& terms, int promotionUid,
 int CreateTitle(World& world, const TitleTerms& terms);
 /// What is booked for it and not held yet follows. Requires a name that can be had.
 void RenameTitle(World& world, int number, std::string_view name);
-/// A suspended Title is fought for no more, yet keeps its holder.
-void SuspendTitle(Title& title, bool suspended);
 
 /// Everybody of the player's whom it could be given to: wrestlers who are fit and whom it is for;
 /// the most popular first.

@@ -1,92 +1,14 @@
+#include "business/networks.h"
+
 #include <gtest/gtest.h>
 
-#include "business/networks.h"
-#include "records/checks/checkworld.h"
+#include "records/severing.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {
 namespace {
-
-TEST(AudiencePotential, FollowsSizeAndImage) {
-  struct Band {
-    int Low, High;
-    std::vector<int> BySize;
-  };
-  const Band kBands[] = {{81, 100, {800, 600, 400, 200, 0, 0}},
-                         {61, 80, {760, 560, 360, 160, 0, 0}},
-                         {41, 60, {720, 520, 320, 120, 0, 0}},
-                         {21, 40, {680, 480, 280, 80, 0, 0}},
-                         {0, 20, {640, 440, 240, 40, 0, 0}}};
-  for (const Band& band : kBands)
-    for (int size = kGlobal; size <= kBackyard; ++size)
-      for (const int image : {band.Low, band.High}) {
-        Promotion promotion;
-        promotion.Size = size;
-        promotion.Image = image;
-        EXPECT_EQ(AudiencePotential(promotion, 50), band.BySize[static_cast<std::size_t>(size - 1)])
-            << size << " at " << image;
-      }
-}
-
-TEST(AudiencePotential, FollowsTheEconomyRoundedDown) {
-  constexpr int kCases[][2] = {{100, 576}, {91, 576}, {90, 528}, {81, 528}, {80, 480},
-                               {20, 480},  {19, 432}, {10, 432}, {9, 384},  {0, 384}};
-  Promotion promotion;
-  promotion.Size = kNational;
-  promotion.Image = 40;
-  for (const auto& [economy, potential] : kCases)
-    EXPECT_EQ(AudiencePotential(promotion, economy), potential) << economy;
-}
-
-TEST(Networks, GiveAndBearByTheSlot) {
-  Network network;
-  network.EarlyAudience = 1;
-  network.PrimeAudience = 2;
-  network.LateAudience = 3;
-  network.GraveAudience = 4;
-  network.EarlyRisk = 5;
-  network.PrimeRisk = 6;
-  network.LateRisk = 7;
-  network.GraveRisk = 8;
-  struct Case {
-    const char* Slot;
-    int Audience, Risk;
-    const char *Name, *Hours;
-  };
-  constexpr Case kCases[] = {{"E", 1, 5, "Early Evening", "6:00pm - 8:00pm"},
-                             {"P", 2, 6, "Prime Time", "8:00pm - 10:00pm"},
-                             {"L", 3, 7, "Late Evening", "10:00pm - 12:00am"},
-                             {"G", 4, 8, "Graveyard", "12:00am - 2:00am"},
-                             {"X", 4, 8, "Graveyard", "12:00am - 2:00am"}};
-  for (const Case& c : kCases) {
-    EXPECT_EQ(SlotAudience(network, c.Slot), c.Audience) << c.Slot;
-    EXPECT_EQ(SlotRisk(network, c.Slot), c.Risk) << c.Slot;
-    EXPECT_EQ(SlotName(c.Slot), c.Name);
-    EXPECT_EQ(SlotHours(c.Slot), c.Hours);
-  }
-}
-
-TEST(Networks, AreFullWithExactlyTwentyEightShows) {
-  World world = SmallWorld().Network("Nine").Network("Ten").Promotion("CWA").Game("CWA");
-  const Network& nine = world.Networks()[1];
-  for (int count = 1; count <= 29; ++count) {
-    Show show;
-    show.Name = "Show " + std::to_string(count);
-    show.Network = nine.Uid;
-    world.Shows().Append(show);
-    EXPECT_EQ(IsFull(world, nine), count == 28) << count;
-    EXPECT_FALSE(IsFull(world, world.Networks()[2]));
-  }
-}
-
-TEST(Networks, HaveANameEvenWhenTheyAreNoMore) {
-  World world = SmallWorld().Network("Nine").Promotion("CWA").Game("CWA");
-  EXPECT_EQ(NetworkName(world, 1), "Nine");
-  EXPECT_EQ(NetworkName(world, 0), "None");
-  EXPECT_EQ(NetworkName(world, 7), "None");
-}
 
 Change<Network> Grave(int audience, int risk = 60, bool generic = false) {
   return [=](Network& n) {
@@ -96,93 +18,48 @@ Change<Network> Grave(int audience, int risk = 60, bool generic = false) {
   };
 }
 
-/// The player "CWA" has the uid 4, so that the rival can be any of the others.
-SmallWorld RivalOf(int uid, int size, const Change<Promotion>& change = {}) {
+/// The player "CWA" has the uid 4, so that the rival "NEW" can be any of the others.
+SmallWorld RivalOf(int uid, int size) {
   SmallWorld small;
-  small.Network("Nine", Grave(400));
-  for (int other = 1; other <= 5; ++other) {
-    const std::string initials = other == 4     ? "CWA"
-                                 : other == uid ? "NEW"
-                                                : "P" + std::to_string(other);
-    small.Promotion(initials, other == uid ? size : kRegional, [&](Promotion& p) {
-      p.Risk = 60;
-      p.Image = 50;
-      if (other == uid && change) change(p);
-    });
-  }
+  small.Network("Nine", Grave(10));
+  for (int other = 1; other <= 5; ++other)
+    small.Promotion(other == 4     ? "CWA"
+                    : other == uid ? "NEW"
+                                   : "P" + std::to_string(other),
+                    other == uid ? size : kRegional, [](Promotion& p) {
+                      p.Risk = 60;
+                      p.Image = 50;
+                    });
   small.Game("CWA");
   return small;
 }
 
-void AddShow(World& world, const std::string& name, int owner, const char* day, const char* slot,
-             int network = 1) {
-  Show show;
-  show.Name = name;
-  show.Owner = owner;
-  show.Day = day;
-  show.Slot = slot;
-  show.Network = network;
-  show.ContractWeeks = 10;
-  world.Shows().Append(show);
-}
-
-TEST(RivalNewTvShows, SignsADeal) {
-  struct Case {
-    int Uid, Size;
-    const char* Slot;
-    int Weeks;
-  };
-  constexpr Case kCases[] = {{1, kCult, "P", 12},   {2, kNational, "L", 24}, {3, kGlobal, "E", 52},
-                             {5, kGlobal, "G", 52}, {5, kNational, "G", 24}, {5, kCult, "G", 12}};
-  for (const Case& c : kCases) {
-    World world = RivalOf(c.Uid, c.Size);
-    world.Networks()[1].GraveAudience = 10;
-    ScriptDraws(world, {{6, 2}, {100, 50}, {7, 3}, {7, 5}, {7, 4}});
-    RivalNewTvShows(world);
-    ASSERT_EQ(world.Shows().Count(), 1);
-    const Show& show = world.Shows()[1];
-    EXPECT_EQ(show.Name.View(), "NEW Thursday");
-    EXPECT_EQ(show.Owner, c.Uid);
-    EXPECT_EQ(show.Day.View(), "Thursday");
-    EXPECT_EQ(show.Slot.View(), c.Slot);
-    EXPECT_EQ(show.Network, 1);
-    EXPECT_EQ(show.ContractWeeks, c.Weeks);
-    EXPECT_EQ(
-        show.Announcer + show.Colour + show.Rating1 + show.Rating2 + show.Rating3 + show.Rating4,
-        0);
-    EXPECT_FALSE(show.ColourIsWorker);
-    EXPECT_EQ(NewsOf(world), "TV News: NEW have a new TV show on Thursdays!\n");
-    for (const auto& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
+void AddShows(World& world, int owner, const std::vector<const char*>& days, const char* slot,
+              int network = 1) {
+  for (const char* day : days) {
+    Show show;
+    show.Name = std::to_string(owner) + " on " + day;
+    show.Owner = owner;
+    show.Day = day;
+    show.Slot = slot;
+    show.Network = network;
+    show.ContractWeeks = 10;
+    world.Shows().Append(show);
   }
 }
 
-TEST(RivalNewTvShows, IsForCultAndAboveAndNotForThePlayer) {
-  for (int size = kRegional; size <= kBackyard; ++size) {
-    World world = RivalOf(5, size);
-    world.Player().Size = kGlobal;
-    ScriptDraws(world, {});
-    RivalNewTvShows(world);
-    EXPECT_EQ(world.Shows().Count(), 0);
-  }
-}
-
-TEST(RivalNewTvShows, PassesOverAPromotionThatIsBeingClosed) {
-  World world = RivalOf(5, kGlobal, [](Promotion& p) { p.Name = kToBeDeleted; }).BuildUnchecked();
-  ScriptDraws(world, {});
-  RivalNewTvShows(world);
-  EXPECT_EQ(world.Shows().Count(), 0);
-}
+using Draws = std::vector<ScriptedDraw>;
+const Draws kSigned = {{6, 2}, {100, 50}, {7, 3}, {7, 5}, {7, 4}};
 
 // A Cult rival of image 50 could draw 320: eight tenths of 401 are 320, of 402 they are 321.
-TEST(RivalNewTvShows, AsksTheNetworkInThisOrder) {
+TEST(RivalNewTvShows, AskInThisOrder) {
   struct Case {
     const char* What;
     int Audience, Risk, Shows;
     bool Generic;
-    std::vector<ScriptedDraw> Draws;
+    Draws Script;
     bool Signs;
   };
-  const std::vector<ScriptedDraw> kSigned = {{6, 2}, {100, 1}, {7, 1}, {7, 1}, {7, 1}};
   const Case kCases[] = {
       {"too risky draws nothing", 10, 59, 0, false, {}, false},
       {"full draws nothing", 10, 60, 28, false, {}, false},
@@ -191,25 +68,44 @@ TEST(RivalNewTvShows, AsksTheNetworkInThisOrder) {
       {"just enough draw", 401, 60, 0, false, kSigned, true},
       {"too few draw, after the draw", 402, 60, 0, false, {{6, 2}}, false},
       {"no interest on 1", 10, 60, 0, false, {{6, 1}}, false},
-      {"no interest on 3", 10, 60, 0, false, {{6, 3}}, false},
   };
   for (const Case& c : kCases) {
     World world = RivalOf(5, kCult);
     Grave(c.Audience, c.Risk, c.Generic)(world.Networks()[1]);
-    for (int i = 0; i < c.Shows; ++i) AddShow(world, "Show " + std::to_string(i), 0, "Monday", "E");
-    ScriptDraws(world, c.Draws);
+    AddShows(world, 0, std::vector<const char*>(static_cast<std::size_t>(c.Shows), "Monday"), "E");
+    ScriptDraws(world, c.Script);
     RivalNewTvShows(world);
-    EXPECT_EQ(world.Shows().Count(), c.Shows + (c.Signs ? 1 : 0)) << c.What;
+    ASSERT_EQ(world.Shows().Count(), c.Shows + (c.Signs ? 1 : 0)) << c.What;
+    if (!c.Signs) continue;
+    const Show& show = world.Shows()[c.Shows + 1];
+    EXPECT_EQ(show.Slot.View(), "G");
+    EXPECT_EQ(show.ContractWeeks, 12);
+    EXPECT_EQ(NewsOf(world), "TV News: NEW have a new TV show on Thursdays!\n");
   }
 }
 
-TEST(RivalNewTvShows, GoesToTheBiggestNetworkATieToTheEarlier) {
-  struct Case {
-    int Draws[3];
-    int Network;
-  };
-  constexpr Case kCases[] = {{{50, 40, 1}, 1}, {{50, 41, 1}, 2}, {{1, 1, 100}, 3}};
-  for (const Case& c : kCases) {
+TEST(RivalNewTvShows, AreForOthersOfCultSizeAndAbove) {
+  for (const int size : {kRegional, kBackyard}) {
+    World world = RivalOf(5, size);
+    world.Player().Size = kGlobal;
+    ScriptDraws(world, Draws{});
+    RivalNewTvShows(world);
+    EXPECT_EQ(world.Shows().Count(), 0);
+  }
+  World world = RivalOf(5, kGlobal);
+  world.Promotions()[5].Name = kToBeDeleted;
+  ScriptDraws(world, Draws{});
+  RivalNewTvShows(world);
+  world.Promotions()[5].Name = "NEW Wrestling";
+  AddShows(world, 5, {"Monday", "Tuesday", "Friday"}, "P");
+  ScriptDraws(world, Draws{{6, 2}, {100, 9}});
+  RivalNewTvShows(world);
+  EXPECT_EQ(world.Shows().Count(), 3) << "nobody has a fourth";
+}
+
+TEST(RivalNewTvShows, GoToTheBiggestNetworkATieToTheEarlier) {
+  for (const auto& [first, second, third, network] :
+       {std::tuple(50, 40, 1, 1), {50, 41, 1, 2}, {1, 1, 100, 4}}) {
     World world = SmallWorld()
                       .Network("Nine", Grave(100))
                       .Network("Ten", Grave(110))
@@ -218,72 +114,113 @@ TEST(RivalNewTvShows, GoesToTheBiggestNetworkATieToTheEarlier) {
                       .Promotion("CWA")
                       .Promotion("NEW", kCult)
                       .Game("CWA");
-    ScriptDraws(world, {{6, 2},
-                        {100, c.Draws[0]},
-                        {6, 2},
-                        {100, c.Draws[1]},
-                        {6, 2},
-                        {100, c.Draws[2]},
-                        {7, 1},
-                        {7, 1},
-                        {7, 1}});
+    ScriptDraws(world, Draws{{6, 2},
+                             {100, first},
+                             {6, 2},
+                             {100, second},
+                             {6, 2},
+                             {100, third},
+                             {7, 1},
+                             {7, 1},
+                             {7, 1}});
     RivalNewTvShows(world);
     ASSERT_EQ(world.Shows().Count(), 1);
-    EXPECT_EQ(world.Shows()[1].Network, c.Network == 3 ? 4 : c.Network);
+    EXPECT_EQ(world.Shows()[1].Network, network);
   }
 }
 
-TEST(RivalNewTvShows, FindsADay) {
+TEST(RivalNewTvShows, FindADayAndAName) {
   struct Case {
-    const char* What;
-    std::vector<int> Draws;
+    std::vector<int> Days;
+    bool Generic;
     const char* Day;
   };
-  // Saturday and Sunday are the rival's own or the network's; Monday to Wednesday too.
-  const Case kCases[] = {{"no draw hits: the last free one", {1, 6, 7}, "Friday"},
-                         {"the first draw hits", {4, 1, 2}, "Thursday"},
-                         {"the last hit counts", {4, 5, 3}, "Friday"},
-                         {"the third hits", {1, 5, 4}, "Thursday"}};
+  // Saturday is the rival's own, Monday to Wednesday and Sunday are the network's.
+  const Case kCases[] = {{{1, 6, 7}, false, "Friday"},    // no hit: the last free one
+                         {{4, 1, 2}, false, "Thursday"},  // the first
+                         {{4, 5, 3}, false, "Friday"},    // of two the last
+                         {{1, 5, 4}, false, "Thursday"},
+                         {{2, 2, 6}, true, "Tuesday"}};
   for (const Case& c : kCases) {
     World world = RivalOf(5, kCult);
-    AddShow(world, "Own", 5, "Saturday", "P");
-    for (const char* day : {"Monday", "Tuesday", "Wednesday", "Sunday"})
-      AddShow(world, std::string("Other ") + day, 3, day, "G");
-    AddShow(world, "Elsewhere", 3, "Thursday", "P");
-    AddShow(world, "On another network", 3, "Friday", "G", 99);
-    ScriptDraws(world, {{6, 2}, {100, 9}, {7, c.Draws[0]}, {7, c.Draws[1]}, {7, c.Draws[2]}});
+    world.Networks()[1].Generic = c.Generic;
+    AddShows(world, 5, {"Saturday"}, "P");
+    AddShows(world, 3, {"Monday", "Tuesday", "Wednesday", "Sunday"}, "G");
+    AddShows(world, 2, {"Thursday"}, "P");
+    AddShows(world, 2, {"Friday"}, "G", 99);
+    world.Shows()[1].Name = "NEW Friday";
+    world.Shows()[2].Name = "NEW Friday 2";
+    ScriptDraws(world, Draws{{6, 2}, {100, 9}, {7, c.Days[0]}, {7, c.Days[1]}, {7, c.Days[2]}});
     RivalNewTvShows(world);
-    EXPECT_EQ(world.Shows()[world.Shows().Count()].Day.View(), c.Day) << c.What;
+    const Show& show = world.Shows()[world.Shows().Count()];
+    EXPECT_EQ(show.Day.View(), c.Day);
+    EXPECT_EQ(show.Name.Str(), "NEW " + show.Day.Str() + (show.Day == "Friday" ? " 3" : ""));
   }
 }
 
-TEST(RivalNewTvShows, SharesTheSpotsOfAGenericNetwork) {
-  World world = RivalOf(5, kCult);
-  world.Networks()[1].Generic = true;
-  for (const Term& day : kWeekDays)
-    AddShow(world, "Other " + std::string(day.Says), 3, day.Says.data(), "G");
-  ScriptDraws(world, {{6, 2}, {100, 9}, {7, 2}, {7, 2}, {7, 2}});
-  RivalNewTvShows(world);
-  EXPECT_EQ(Named(world.Shows(), "NEW Tuesday").Owner, 5);
+/// "NEW", a rival, and "CWA", the player's; each with a show that the network is content with.
+World TwoShows() {
+  const auto rated = [](Show& s) { s.Rating1 = s.Rating3 = 400; };
+  return SmallWorld()
+      .Network("Nine", [](Network& n) { n.PrimeAudience = n.LateAudience = 405; })
+      .Promotion("NEW", kRegional, [](Promotion& p) { p.Risk = 60; })
+      .Show("New Hour", "Friday", "Nine", rated)
+      .Promotion("CWA", kRegional)
+      .Show("Our Hour", "Monday", "Nine", rated)
+      .Game("CWA");
 }
 
-TEST(RivalNewTvShows, GivesNobodyAFourthShow) {
-  World world = RivalOf(5, kCult);
-  for (const char* day : {"Monday", "Tuesday", "Friday"})
-    AddShow(world, std::string("Own ") + day, 5, day, "P");
-  ScriptDraws(world, {{6, 2}, {100, 9}});
-  RivalNewTvShows(world);
-  EXPECT_EQ(world.Shows().Count(), 3);
+TEST(TvContractReview, RenewsARivalsShowAtTwoWeeks) {
+  struct Case {
+    int Risk, Rating, Weeks;
+    const char* Slot = "P";
+  };
+  // Seven tenths of 405 are 283, eight tenths 324; the graveyard wants 100.
+  constexpr Case kCases[] = {{60, 282, 2},  {60, 283, 20}, {60, 324, 20},
+                             {60, 325, 27}, {61, 400, 2},  {60, 99, 27, "G"}};
+  for (const Case& c : kCases) {
+    World world = TwoShows();
+    for (Show& show : world.Shows()) {
+      show.ContractWeeks = 3;
+      show.Rating3 = c.Rating;
+      show.Slot = c.Slot;
+    }
+    world.Promotions()[1].Risk = c.Risk;
+    TvContractReview(world);
+    EXPECT_EQ(world.Shows()[1].ContractWeeks, c.Weeks) << c.Rating << " at " << c.Risk;
+    EXPECT_EQ(world.Shows()[2].ContractWeeks, 2) << "never the player's";
+    EXPECT_EQ(NewsOf(world), c.Weeks == 2
+                                 ? ""
+                                 : "TV News: NEW's New Hour has been renewed for a further " +
+                                       std::to_string(c.Weeks - 2) + " weeks!\n");
+  }
 }
 
-TEST(RivalNewTvShows, NumbersANameThatIsTaken) {
-  World world = RivalOf(5, kCult);
-  AddShow(world, "NEW Monday", 3, "Monday", "P");
-  AddShow(world, "NEW Monday 2", 3, "Friday", "P");
-  ScriptDraws(world, {{6, 2}, {100, 9}, {7, 1}, {7, 1}, {7, 1}});
-  RivalNewTvShows(world);
-  EXPECT_EQ(world.Shows()[3].Name.View(), "NEW Monday 3");
-  EXPECT_EQ(NewsOf(world), "TV News: NEW have a new TV show on Mondays!\n");
+TEST(TvContractReview, EndsShows) {
+  struct Case {
+    int Weeks, Strikes;
+    const char* Told;  // nullptr: the show goes on
+  };
+  constexpr Case kCases[] = {{1, 0, " has not been renewed by Nine!"},
+                             {9, 3, " has been dropped by Nine!"},
+                             {1, 3, " has not been renewed by Nine!"},
+                             {9, 2, nullptr},
+                             {9, 4, nullptr}};
+  for (const Case& c : kCases)
+    for (const int number : {1, 2}) {
+      SCOPED_TRACE(std::to_string(c.Weeks) + " " + std::to_string(c.Strikes));
+      World world = TwoShows();
+      world.Game().MailTv = number == 2 ? 2 : 1;  // he always hears of his own
+      Show& show = world.Shows()[number];
+      const std::string name = show.Name.Str();
+      show.ContractWeeks = c.Weeks;
+      show.Rating4 = c.Strikes;
+      TvContractReview(world);
+      EXPECT_EQ(show.ContractWeeks, c.Weeks - 1);
+      EXPECT_EQ(NewsOf(world), c.Told ? "TV News: " + name + c.Told + "\n" : "");
+      SweepDeadShows(world);
+      EXPECT_EQ(world.Shows().Count(), c.Told ? 1 : 2);
+    }
 }
 
 }  // namespace

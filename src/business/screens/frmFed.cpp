@@ -6,15 +6,25 @@
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "records/world.h"
 #include "storylines/screens/screenpeople.h"
-#include "ui/game.h"
 
 namespace grapplemont {
 
 namespace {
 
 constexpr int kMonthsShown = 120;
+
+using K = ui::ColumnKind;
+
+/// What the promotion pays for month by month or asks at the door, each with a button of its own.
+struct SpendingRow {
+  const char* For;
+  std::string Now;
+};
+const CellColumns<SpendingRow> kSpendingTable = {
+    {{"For", K::Text, 2}, [](const SpendingRow& row) { return row.For; }},
+    {{"Now", K::Text, 3}, [](const SpendingRow& row) { return row.Now; }},
+    {{"", K::Button, 2}, [](const SpendingRow&) { return ""; }}};
 
 /// The player's promotion: how it stands, what it shows, how its people are divided, where its
 /// young learn, and the way to its money.
@@ -25,25 +35,22 @@ class frmFed : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page = PageOf(
+    return WithoutEnter(PageOf(
         ui::Tabs(
             {ui::Group("Overview", {ui::Columns({Facts().Grow(2), Charts().Grow(3)}).Grow()}),
-             product_.Layout(), splits_.Layout(),
-             ui::Group("Camp and territory",
-                       {ui::Columns({camp_.Layout().Grow(), territory_.Layout().Grow()}).Grow()})}),
-        &lblmoney, {&cmdfinance, &cmdsponsor, &cmdvalue});
-    page.Main = nullptr;  // Enter does nothing
-    return page;
+             product_->Layout(), splits_->Layout(),
+             ui::Group(
+                 "Camp and territory",
+                 {ui::Columns({camp_->Layout().Grow(), territory_->Layout().Grow()}).Grow()})}),
+        &lblmoney, {&cmdfinance, &cmdsponsor, &cmdvalue}));
   }
 
   void Return() override {
     ShowPromotion();
     ShowSpending();
     ShowCharts();
-    product_.Show();
-    splits_.Show();
-    camp_.Show();
-    territory_.Show();
+    for (FedPart* part : {product_.get(), splits_.get(), camp_.get(), territory_.get()})
+      part->Show();
   }
 
  private:
@@ -83,12 +90,13 @@ class frmFed : public GameScreen {
   void ShowSpending() {
     lblmoney.Text = FinanceText(player());
     const Promotion& p = player();
-    lstspending.Fill(
-        {{{"Advertising", SpendingText(p.Advertising, AdvertisingCost(p.Advertising)), ""}, 1},
-         {{"Merchandise", SpendingText(p.Merchandising, MerchandisingCost(p.Merchandising)), ""},
-          2},
-         {{"Production", SpendingText(p.Production, ProductionCost(p.Production)), ""}, 3},
-         {{"Tickets", Dollars(p.TicketPrice) + " a ticket", ""}, 4}});
+    FillPlaces(
+        lstspending, kSpendingTable,
+        std::vector<SpendingRow>{
+            {"Advertising", SpendingText(p.Advertising, AdvertisingCost(p.Advertising))},
+            {"Merchandise", SpendingText(p.Merchandising, MerchandisingCost(p.Merchandising))},
+            {"Production", SpendingText(p.Production, ProductionCost(p.Production))},
+            {"Tickets", Dollars(p.TicketPrice) + " a ticket"}});
   }
 
   void ShowCharts() {
@@ -106,10 +114,6 @@ class frmFed : public GameScreen {
 
   void cmbmeeting_Pick() { player().MeetingDay = Says(kWeekDays, cmbmeeting.Key()); }
 
-  void cmdprod_Click() { desk().Open("frmFedProd"); }
-  void cmdvalue_Click() { desk().Open("frmFedValue"); }
-
-  using K = ui::ColumnKind;
   ui::Label lblmoney{*this, "lblmoney"};
   ui::Label lblname{*this, "lblname"};
   ui::Label lblsize{*this, "lblsize"};
@@ -120,22 +124,33 @@ class frmFed : public GameScreen {
   ui::Label lblcommissioner{*this, "lblcommissioner"};
   ui::Button cmdcommissioner{*this, "cmdcommissioner", "Choose A Commissioner",
                              [this] { desk().Open(MakefrmFedPick(game_, Office::Commissioner)); }};
-  ui::ListBox lstspending{
-      *this, "lstspending", {{"For", K::Text, 2}, {"Now", K::Text, 3}, {"", K::Button, 2}}};
+  ui::ListBox lstspending{*this, "lstspending", HeadingsOf(kSpendingTable)};
   ui::Button cmdadvertising{*this, "cmdadvertising", "Change", [this] { OpenAdvertising(game_); }};
   ui::Button cmdmerch{*this, "cmdmerch", "Change", [this] { OpenMerchandising(game_); }};
-  ui::Button cmdprod{*this, "cmdprod", "Raise", &frmFed::cmdprod_Click};
+  ui::Button cmdprod{*this, "cmdprod", "Raise", [this] { desk().Open("frmFedProd"); }};
   ui::Button cmdtickets{*this, "cmdtickets", "Change", [this] { desk().Open("frmTicket"); }};
   ui::Chart chtimage{*this, "chtimage"};
   ui::Chart chtstanding{*this, "chtstanding"};
-  FedProduct product_{*this, game_};
-  FedSplits splits_{*this, game_};
-  FedSite camp_{*this, game_, kCampSite, [this] { Return(); }};
-  FedSite territory_{*this, game_, kTerritorySite, [this] { Return(); }};
+  using Part = std::unique_ptr<FedPart>;
+  Part product_ = MakeFedProduct(*this, game_);
+  Part splits_ = MakeFedSplits(*this, game_);
+  Part camp_ = MakeFedSite(*this, game_, Site::Camp, [this] { Return(); });
+  Part territory_ = MakeFedSite(*this, game_, Site::Territory, [this] { Return(); });
   ui::Button cmdfinance{*this, "cmdfinance", "Finance", [this] { desk().Open("frmFinance"); }};
   ui::Button cmdsponsor{*this, "cmdsponsor", "Sponsors", [this] { desk().Open("frmFedSponsor"); }};
-  ui::Button cmdvalue{*this, "cmdvalue", "What We Are Worth", &frmFed::cmdvalue_Click};
+  ui::Button cmdvalue{*this, "cmdvalue", "What We Are Worth",
+                      [this] { desk().Open("frmFedValue"); }};
 };
+
+const CellColumns<WorthLine> kWorthTable = {
+    {{"What", K::Text, 3}, [](const WorthLine& line) { return line.What; }},
+    {{"Why", K::Text, 8},
+     [](const WorthLine& line) { return ui::Cell(line.Why, ui::Tone::Muted); }},
+    {{"Dollars", K::Number, 2}, [](const WorthLine& line) {
+       return MoneyCell(line.Dollars, line.Dollars < 0    ? ui::Tone::Red
+                                      : line.Dollars == 0 ? ui::Tone::Muted
+                                                          : ui::Tone::Plain);
+     }}};
 
 /// What the promotion is worth, and why.
 class frmFedValue : public GameScreen {
@@ -152,30 +167,17 @@ class frmFedValue : public GameScreen {
   }
 
   void Return() override {
-    const Promotion& player = game_.World().Player();
-    const std::vector<WorthLine> lines = PromotionWorth(game_.World(), player);
-    std::vector<ui::ListBox::Row> rows;
-    for (const WorthLine& line : lines)
-      rows.push_back({{line.What, ui::Cell(line.Why, ui::Tone::Muted), Amount(line.Dollars)}});
-    const std::string sum = Dollars(SumOf(lines));
-    rows.push_back({{ui::Cell("All together", ui::Tone::Gold), "",
-                     ui::Cell(static_cast<double>(SumOf(lines)), sum, ui::Tone::Gold)}});
-    lstworth.Fill(std::move(rows));
-    lblworth.Text = player.Name + " is worth " + sum + ".";
+    const Promotion& player = world().Player();
+    const std::vector<WorthLine> lines = PromotionWorth(world(), player);
+    const long long sum = SumOf(lines);
+    FillPlaces(lstworth, kWorthTable, lines);
+    lstworth.Add({ui::Cell("All together", ui::Tone::Gold), "", MoneyCell(sum, ui::Tone::Gold)});
+    lblworth.Text = player.Name + " is worth " + Dollars(sum) + ".";
   }
 
  private:
-  static ui::Cell Amount(long long dollars) {
-    return {static_cast<double>(dollars), Dollars(dollars),
-            dollars < 0    ? ui::Tone::Red
-            : dollars == 0 ? ui::Tone::Muted
-                           : ui::Tone::Plain};
-  }
-
-  using K = ui::ColumnKind;
   ui::Label lblworth{*this, "lblworth"};
-  ui::ListBox lstworth{
-      *this, "lstworth", {{"What", K::Text, 3}, {"Why", K::Text, 8}, {"Dollars", K::Number, 2}}};
+  ui::ListBox lstworth{*this, "lstworth", HeadingsOf(kWorthTable)};
 };
 
 }  // namespace

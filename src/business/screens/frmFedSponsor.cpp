@@ -7,7 +7,6 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "storylines/screens/screenpeople.h"
-#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -39,6 +38,52 @@ std::string Welcome(World& world) {
   return kLines[static_cast<std::size_t>(world.Prose().Draw(3) - 1)];
 }
 
+using K = ui::ColumnKind;
+
+struct SponsorRow {
+  const World& In;
+  const Sponsor& Of;
+  bool IsFree() const { return Of.Promotion == 0; }
+};
+
+ui::Cell HolderCell(const SponsorRow& row) {
+  if (row.IsFree()) return {"Free", ui::Tone::Green};
+  return {PromotionInitials(row.In, row.Of.Promotion),
+          row.Of.Promotion == row.In.PlayerUid() ? ui::Tone::Gold : ui::Tone::Plain};
+}
+
+const CellColumns<SponsorRow> kSponsorTable = {
+    {{"Name", K::Text, 4}, [](const SponsorRow& row) { return row.Of.Name.View(); }},
+    {{"Pay", K::Number, 2, "For an Event."},
+     [](const SponsorRow& row) { return PayCell(row.Of.Pay); }},
+    {{"Morality", K::Tag, 2}, [](const SponsorRow& row) { return MoralityCell(row.Of.Morality); }},
+    {{"Bears", K::Percent, 2, "The highest risk that the sponsor bears in a product."},
+     [](const SponsorRow& row) { return ui::Cell(100 - row.Of.Morality); }},
+    {{"With", K::Text, 1, "The promotion that has its deal."}, HolderCell},
+    {{"Months", K::Number, 1, "Months left of the deal."}, [](const SponsorRow& row) {
+       return row.IsFree() ? ui::Cell("") : ui::Cell(row.Of.ContractMonths);
+     }}};
+
+struct PlaceRow {
+  bool IsMain;
+  const Sponsor* Of;  // nullptr for a free place
+};
+
+const CellColumns<PlaceRow> kPlaceTable = {
+    {{"Place", K::Text, 1}, [](const PlaceRow& row) { return row.IsMain ? "Main" : "Minor"; }},
+    {{"Sponsor", K::Text, 3},
+     [](const PlaceRow& row) {
+       return row.Of ? ui::Cell(row.Of->Name.View()) : ui::Cell("None", ui::Tone::Muted);
+     }},
+    {{"TV show", K::Number, 2, "Pay for a television show."},
+     [](const PlaceRow& row) {
+       return row.Of ? PayCell(SponsorPayForTv(*row.Of, row.IsMain)) : ui::Cell("");
+     }},
+    {{"Event", K::Number, 2, "Pay for an Event."},
+     [](const PlaceRow& row) { return row.Of ? PayCell(row.Of->Pay) : ui::Cell(""); }},
+    {{"Months", K::Number, 1, "Months left of the deal."},
+     [](const PlaceRow& row) { return row.Of ? ui::Cell(row.Of->ContractMonths) : ui::Cell(""); }}};
+
 /// All sponsors, the four places of the player's promotion, and the deals between them.
 class frmFedSponsor : public GameScreen {
  public:
@@ -61,14 +106,7 @@ class frmFedSponsor : public GameScreen {
                  .Grow(2)})};
   }
 
-  void Return() override { Show(); }
-
- private:
-  Promotion& player() { return world().Player(); }
-  Sponsor* chosen() { return world().FindSponsor(lstsponsors.Key()); }
-  int PlaceOf(const Sponsor* sponsor) { return sponsor ? SponsorPlace(player(), sponsor->Uid) : 0; }
-
-  void Show() {
+  void Return() override {
     lblfacts.Text = FinanceText(player()) + ". The risk of our product is " +
                     std::to_string(player().Risk) + "%.";
     ShowSponsors();
@@ -76,43 +114,28 @@ class frmFedSponsor : public GameScreen {
     ShowChoice();
   }
 
+ private:
+  Promotion& player() { return world().Player(); }
+  Sponsor* chosen() { return world().FindSponsor(lstsponsors.Key()); }
+  int PlaceOf(const Sponsor* sponsor) { return sponsor ? SponsorPlace(player(), sponsor->Uid) : 0; }
+
   void ShowSponsors() {
-    std::vector<ui::ListBox::Row> rows;
+    std::vector<SponsorRow> rows;
     for (const Sponsor& sponsor : world().Sponsors())
       if (!chkfilter.Checked || sponsor.Promotion == 0 || sponsor.Promotion == player().Uid)
-        rows.push_back({RowOf(sponsor), sponsor.Uid});
+        rows.push_back({world(), sponsor});
     lstsponsors.EmptyText = world().Sponsors().Count() == 0
                                 ? "There are no sponsors in this world."
                                 : "No sponsor is free. Show all of them to see whose they are.";
-    lstsponsors.Fill(std::move(rows));
-  }
-
-  std::vector<ui::Cell> RowOf(const Sponsor& sponsor) {
-    const bool free = sponsor.Promotion == 0;
-    return {sponsor.Name.View(),
-            PayCell(sponsor.Pay),
-            MoralityCell(sponsor.Morality),
-            ui::Cell(100 - sponsor.Morality),
-            free ? ui::Cell("Free", ui::Tone::Green)
-                 : ui::Cell(PromotionInitials(world(), sponsor.Promotion),
-                            sponsor.Promotion == player().Uid ? ui::Tone::Gold : ui::Tone::Plain),
-            free ? ui::Cell("") : ui::Cell(sponsor.ContractMonths)};
+    FillTable(lstsponsors, kSponsorTable, rows,
+              [](const SponsorRow& row) { return int(row.Of.Uid); });
   }
 
   void ShowPlaces() {
-    std::vector<ui::ListBox::Row> rows;
+    std::vector<PlaceRow> rows;
     for (int place = kMainSponsor; place <= kSponsorPlaces; ++place)
-      rows.push_back({PlaceRow(place), place});
-    lstplaces.Fill(std::move(rows));
-  }
-
-  std::vector<ui::Cell> PlaceRow(int place) {
-    const bool isMain = place == kMainSponsor;
-    const char* kind = isMain ? "Main" : "Minor";
-    const Sponsor* sponsor = SponsorAt(world(), player(), place);
-    if (!sponsor) return {kind, ui::Cell("None", ui::Tone::Muted), "", "", ""};
-    return {kind, sponsor->Name.View(), PayCell(SponsorPayForTv(*sponsor, isMain)),
-            PayCell(sponsor->Pay), ui::Cell(sponsor->ContractMonths)};
+      rows.push_back({place == kMainSponsor, SponsorAt(world(), player(), place)});
+    FillPlaces(lstplaces, kPlaceTable, rows);
   }
 
   void ShowChoice() {
@@ -178,7 +201,7 @@ class frmFedSponsor : public GameScreen {
   bool Stands(int place, const std::string& why) {
     if (why.empty() && place == shownPlace_) return true;
     desk().Say("Error!", why.empty() ? "This deal has changed in the meantime." : why);
-    Show();
+    Return();
     return false;
   }
 
@@ -188,7 +211,7 @@ class frmFedSponsor : public GameScreen {
     if (!Stands(place, WhyNotFirst(sponsor, place))) return;
     if (place == 0) return Offer(*sponsor, kMainSponsor);
     MoveSponsor(player(), sponsor->Uid, place == kMainSponsor ? MinorPlace() : kMainSponsor);
-    Show();
+    Return();
   }
 
   void cmd2_Click() {
@@ -209,7 +232,7 @@ class frmFedSponsor : public GameScreen {
       case SponsorAnswer::Accepts:
         desk().Say("Accepted!", "They accept the deal. " + Welcome(world()));
         SignSponsor(world(), player(), sponsor, place);
-        return Show();
+        return Return();
     }
   }
 
@@ -221,31 +244,16 @@ class frmFedSponsor : public GameScreen {
       return;
     EndSponsorship(world(), player(), sponsor);
     desk().Say("Done!", "Sponsorship ended!");
-    Show();
+    Return();
   }
 
-  using K = ui::ColumnKind;
   int shownPlace_ = 0;  // of the chosen sponsor, as the buttons say
   ui::Label lblfacts{*this, "lblfacts"};
   ui::CheckBox chkfilter{*this, "chkfilter", "Only those who are free, and ours", false,
-                         &frmFedSponsor::Show};
-  ui::ListBox lstsponsors{
-      *this,
-      "lstsponsors",
-      {{"Name", K::Text, 4},
-       {"Pay", K::Number, 2, "For an Event."},
-       {"Morality", K::Tag, 2},
-       {"Bears", K::Percent, 2, "The highest risk that the sponsor bears in a product."},
-       {"With", K::Text, 1, "The promotion that has its deal."},
-       {"Months", K::Number, 1, "Months left of the deal."}},
-      &frmFedSponsor::ShowChoice};
-  ui::ListBox lstplaces{*this,
-                        "lstplaces",
-                        {{"Place", K::Text, 1},
-                         {"Sponsor", K::Text, 3},
-                         {"TV show", K::Number, 2, "Pay for a television show."},
-                         {"Event", K::Number, 2, "Pay for an Event."},
-                         {"Months", K::Number, 1, "Months left of the deal."}},
+                         &frmFedSponsor::Return};
+  ui::ListBox lstsponsors{*this, "lstsponsors", HeadingsOf(kSponsorTable),
+                          &frmFedSponsor::ShowChoice};
+  ui::ListBox lstplaces{*this, "lstplaces", HeadingsOf(kPlaceTable),
                         &frmFedSponsor::lstplaces_Click};
   ui::Label lblsponsor{*this, "lblsponsor"};
   ui::Label lblslogan{*this, "lblslogan"};

@@ -1,26 +1,40 @@
 #include <algorithm>
-#include <span>
 
 #include "business/finance.h"
 #include "business/past.h"
 #include "business/screens/frmSpending.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "records/world.h"
 #include "roster/talks.h"
-#include "ui/game.h"
+#include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
 
 namespace {
 
-ui::Cell Amount(long long dollars, ui::Tone tone = ui::Tone::Plain) {
-  return {static_cast<double>(dollars), Dollars(dollars), tone};
+using K = ui::ColumnKind;
+using ui::Tone;
+
+/// A book, or a sum of books, whose amounts have a colour.
+struct BookRow {
+  const char* Title;
+  long long Last, Present;
+  Tone Colour = Tone::Plain;  // of the title
+  Tone (*ToneOf)(long long) = [](long long) { return Tone::Plain; };
+};
+Tone SumTone(long long) {
+  return Tone::Gold;
+}
+Tone BalanceTone(long long balance) {
+  return balance < 0 ? Tone::Red : Tone::Green;
 }
 
-ui::Tone ToneOf(long long balance) {
-  return balance < 0 ? ui::Tone::Red : ui::Tone::Green;
-}
+const CellColumns<BookRow> kBookTable = {
+    {{"", K::Text, 3}, [](const BookRow& row) { return ui::Cell(row.Title, row.Colour); }},
+    {{"Last month", K::Number, 2},
+     [](const BookRow& row) { return MoneyCell(row.Last, row.ToneOf(row.Last)); }},
+    {{"This month", K::Number, 2},
+     [](const BookRow& row) { return MoneyCell(row.Present, row.ToneOf(row.Present)); }}};
 
 /// The books of last month and of this one, and the money over time.
 class frmFinance : public GameScreen {
@@ -38,42 +52,37 @@ class frmFinance : public GameScreen {
                                  ui::Group("Money at month ends", {ui::Grow(chtmoney)}).Grow(2)})};
   }
 
-  void Return() override { Show(); }
+  void Return() override {
+    const Promotion& player = world().Player();
+    lblmoney.Text = FinanceText(player);
+    lblmoney.Colour = player.Money < 0 ? Tone::Red : Tone::Plain;
+    lstbooks.Clear();
+    FillPlaces(lstbooks, kBookTable, BooksOf(player.LastMonth, player.ThisMonth));
+    ShowMoney(player);
+  }
 
  private:
-  const Promotion& player() { return game_.World().Player(); }
-
-  void Show() {
-    lblmoney.Text = FinanceText(player());
-    lblmoney.Colour = player().Money < 0 ? ui::Tone::Red : ui::Tone::Plain;
-    ShowBooks(player().LastMonth, player().ThisMonth);
-    ShowMoney();
+  static std::vector<BookRow> BooksOf(const MonthBooks& last, const MonthBooks& present) {
+    std::vector<BookRow> rows;
+    const auto add = [&](const auto& books) {
+      for (const Book& book : books)
+        rows.push_back({book.Title, last.*book.Total, present.*book.Total});
+    };
+    const auto sum = [&](const char* title, long long (*of)(const MonthBooks&), auto toneOf) {
+      rows.push_back({title, of(last), of(present), Tone::Gold, toneOf});
+    };
+    add(kIncome);
+    sum("Total in", TotalIn, SumTone);
+    add(kOutgoings);
+    sum("Total out", TotalOut, SumTone);
+    sum("Balance", Balance, BalanceTone);
+    return rows;
   }
 
-  void ShowBooks(const MonthBooks& last, const MonthBooks& present) {
-    lstbooks.Clear();
-    AddBooks(kIncome, last, present);
-    AddTotal("Total in", TotalIn(last), TotalIn(present));
-    AddBooks(kOutgoings, last, present);
-    AddTotal("Total out", TotalOut(last), TotalOut(present));
-    lstbooks.Add({ui::Cell("Balance", ui::Tone::Gold), Amount(Balance(last), ToneOf(Balance(last))),
-                  Amount(Balance(present), ToneOf(Balance(present)))});
-  }
-
-  void AddBooks(std::span<const Book> books, const MonthBooks& last, const MonthBooks& present) {
-    for (const Book& book : books)
-      lstbooks.Add({book.Title, Amount(last.*book.Total), Amount(present.*book.Total)});
-  }
-
-  void AddTotal(const char* title, long long last, long long present) {
-    constexpr auto kTone = ui::Tone::Gold;
-    lstbooks.Add({ui::Cell(title, kTone), Amount(last, kTone), Amount(present, kTone)});
-  }
-
-  void ShowMoney() {
+  void ShowMoney(const Promotion& player) {
     std::vector<std::string> months;
-    ui::Chart::Series money{"", {}, ui::Tone::Green};
-    for (const MoneyPoint& point : MoneyOverTime(game_.World(), player())) {
+    ui::Chart::Series money{"", {}, Tone::Green};
+    for (const MoneyPoint& point : MoneyOverTime(world(), player)) {
       months.push_back(point.Month);
       money.Values.push_back(point.Dollars);
     }
@@ -81,12 +90,8 @@ class frmFinance : public GameScreen {
     chtmoney.Lines = std::vector<ui::Chart::Series>{std::move(money)};
   }
 
-  using K = ui::ColumnKind;
   ui::Label lblmoney{*this, "lblmoney"};
-  ui::ListBox lstbooks{
-      *this,
-      "lstbooks",
-      {{"", K::Text, 3}, {"Last month", K::Number, 2}, {"This month", K::Number, 2}}};
+  ui::ListBox lstbooks{*this, "lstbooks", HeadingsOf(kBookTable)};
   ui::Label lblbeside{*this, "lblbeside",
                       "Loans, donations, better production, camps and territories, legal payments, "
                       "an Event's extras and the price of calling one off are paid beside the "
@@ -100,13 +105,47 @@ class frmFinance : public GameScreen {
 };
 
 ui::Cell WageCell(long long dollars) {
-  return Amount(dollars, dollars == 0 ? ui::Tone::Muted : ui::Tone::Plain);
+  return MoneyCell(dollars, dollars == 0 ? Tone::Muted : Tone::Plain);
 }
 
 ui::Cell MonthsCell(int months) {
   if (months != kNoEnd) return ui::Cell(months);
-  return {10000.0, "No end", ui::Tone::Muted};  // sorts behind every term
+  return {10000.0, "No end", Tone::Muted};  // sorts behind every term
 }
+
+/// Somebody who draws a wage. Staff have keys below 0: their uids are not those of workers.
+struct WageRow {
+  int Uid;
+  std::string Name;
+  const char* Kind;
+  std::string_view Position;
+  int Wage;  // thousands of dollars
+  long long Due;
+  int Months;
+};
+template <class Person>
+WageRow WageOf(const Person& person, int key, const char* kind, std::string_view position) {
+  return {key,
+          person.Name.Str(),
+          kind,
+          position,
+          person.Wage,
+          MonthlyWage(person),
+          person.ContractMonths};
+}
+
+const CellColumns<WageRow> kWageTable = {
+    {{"Name", K::Text, 4}, [](const WageRow& row) { return row.Name; }},
+    {{"Kind", K::Text, 1}, [](const WageRow& row) { return row.Kind; }},
+    {{"Position", K::Text, 2}, [](const WageRow& row) { return row.Position; }},
+    {{"Wage", K::Number, 2, "As agreed, each month."},
+     [](const WageRow& row) { return WageCell(row.Wage * 1000LL); }},
+    {{"Due", K::Number, 2,
+      "What is paid on the first. Nothing goes to people who were sent home or whose contract has "
+      "no end."},
+     [](const WageRow& row) { return WageCell(row.Due); }},
+    {{"Months", K::Number, 1, "Months left of the contract."},
+     [](const WageRow& row) { return MonthsCell(row.Months); }}};
 
 /// Everybody who draws a wage, and what they draw in all.
 class frmWages : public GameScreen {
@@ -123,60 +162,30 @@ class frmWages : public GameScreen {
   }
 
   void Return() override {
-    std::vector<ui::ListBox::Row> rows;
+    std::vector<WageRow> rows;
     for (const Worker& worker : world().Workers())
-      if (worker.Employer == world().PlayerUid()) rows.push_back(RowOf(worker));
+      if (worker.Employer == world().PlayerUid())
+        rows.push_back(WageOf(worker, worker.Uid, "Worker", PositionText(worker.Position)));
     for (const Staff& staff : world().AllStaff())
       if (staff.Employer == world().PlayerUid() && staff.Position != kOwner)
-        rows.push_back(RowOf(staff));
-    lstwages.Fill(std::move(rows));
-    ShowTotals();
-  }
-
- private:
-  static ui::ListBox::Row RowOf(const Worker& worker) {
-    return {{worker.Name.View(), "Worker", PositionText(worker.Position),
-             WageCell(worker.Wage * 1000LL), WageCell(MonthlyWage(worker)),
-             MonthsCell(worker.ContractMonths)},
-            worker.Uid};
-  }
-
-  /// Staff have keys below 0: their uids are not those of workers.
-  static ui::ListBox::Row RowOf(const Staff& staff) {
-    return {{staff.Name.View(), "Staff", Says(kStaffPositions, staff.Position),
-             WageCell(staff.Wage * 1000LL), WageCell(MonthlyWage(staff)),
-             MonthsCell(staff.ContractMonths)},
-            -staff.Uid};
-  }
-
-  void ShowTotals() {
+        rows.push_back(WageOf(staff, -staff.Uid, "Staff", Says(kStaffPositions, staff.Position)));
+    FillTable(lstwages, kWageTable, rows);
     const WageBill bill = WagesOf(world(), world().PlayerUid());
     lblworkers.Text = Dollars(bill.Workers) + " p.m";
     lblstaff.Text = Dollars(bill.Staff) + " p.m";
     lbltotal.Text = "Wages due on the first of the month: " + Dollars(bill.Workers + bill.Staff);
   }
 
+ private:
   void lstwages_DblClick() {
     if (lstwages.Key() > 0 && game_.OpenWorker) game_.OpenWorker(lstwages.Key());
   }
 
-  using K = ui::ColumnKind;
   ui::Label lbltotal{*this, "lbltotal"};
   ui::Label lblworkers{*this, "lblworkers"};
   ui::Label lblstaff{*this, "lblstaff"};
-  ui::ListBox lstwages{
-      *this,
-      "lstwages",
-      {{"Name", K::Text, 4},
-       {"Kind", K::Text, 1},
-       {"Position", K::Text, 2},
-       {"Wage", K::Number, 2, "As agreed, each month."},
-       {"Due", K::Number, 2,
-        "What is paid on the first. Nothing goes to people who were sent home or whose contract "
-        "has no end."},
-       {"Months", K::Number, 1, "Months left of the contract."}},
-      ui::Handler{},
-      [this] { lstwages_DblClick(); }};
+  ui::ListBox lstwages{*this, "lstwages", HeadingsOf(kWageTable), ui::Handler{},
+                       [this] { lstwages_DblClick(); }};
 };
 
 std::string TermText(int months) {
@@ -198,16 +207,9 @@ class frmLoan : public GameScreen {
 
   void Load() override {
     if (!HasLoan()) hsamount.Value = 1;
-    Show();
+    Return();
   }
-  void Return() override { Show(); }
-
- private:
-  Promotion& player() { return game_.World().Player(); }
-  int difficulty() { return game_.World().Game().Difficulty; }
-  bool HasLoan() { return player().LoanAmount > 0; }
-
-  void Show() {
+  void Return() override {
     const bool loan = HasLoan();
     lblmoney.Text = FinanceText(player());
     txtstatus.Text = loan ? "Currently Repaying A Loan" : "No Outstanding Loans";
@@ -218,6 +220,11 @@ class frmLoan : public GameScreen {
     cmddoit.Text = loan ? "Repay Entire Loan" : "Apply For Loan";
     ShowTerms();
   }
+
+ private:
+  Promotion& player() { return world().Player(); }
+  int difficulty() { return world().Game().Difficulty; }
+  bool HasLoan() { return player().LoanAmount > 0; }
 
   void ShowTerms() {
     const Promotion& p = player();
@@ -247,7 +254,7 @@ class frmLoan : public GameScreen {
       return desk().Say("Rejected!", "The bank have rejected your loan application!");
     TakeLoan(player(), hsamount.Value);
     desk().Say("Accepted!", "The bank have accepted your loan application!");
-    Show();
+    Return();
   }
 
   void Repay() {
@@ -255,7 +262,7 @@ class frmLoan : public GameScreen {
     if (!PayOffLoan(player(), difficulty()))
       return desk().Say("Error!", "You cannot afford to repay it!");
     desk().Say("Done!", "The loan has been repayed");
-    Show();
+    Return();
   }
 
   ui::Label lblmoney{*this, "lblmoney"};

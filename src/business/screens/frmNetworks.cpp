@@ -1,14 +1,10 @@
 #include <algorithm>
+#include <functional>
 
 #include "business/networks.h"
-#include "business/screens/frmTVShow.h"
 #include "business/screens/frmTelevision.h"
 #include "business/tvshows.h"
-#include "business/tvtalks.h"
 #include "records/modVar.h"
-#include "records/modWresCheck.h"
-#include "storylines/screens/screenpeople.h"
-#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -46,7 +42,7 @@ class frmPromoTape : public GameScreen {
   }
 
   void cmdsend_Click() {
-    if (const std::string why = WhyNoTape(world()); !why.empty()) return desk().Say("Error!", why);
+    if (desk().Objects(WhyNoTape(world()))) return;
     SendTape(world(), lstnetworks.Key());
     desk().Say("Sent!", "Tape sent!");
     Close();
@@ -86,8 +82,7 @@ class frmTvOffer : public GameScreen {
  private:
   void ShowNone() {
     lblfacts.Text = "No network has made us an offer.";
-    for (ui::Button* button : {&cmdaccept, &cmdreject})
-      EnableUnless(*button, "There is no offer on the table.");
+    EnableUnless({cmdaccept, cmdreject}, "There is no offer on the table.");
   }
 
   /// The offer, as long as there is a day for it; without one the network takes it back.
@@ -115,17 +110,11 @@ class frmTvOffer : public GameScreen {
     if (cmbdays.Selected() == 0) cmbdays.Select(1);
   }
 
-  std::string WhyNotName() {
-    if (const std::string why = WhyNoShowName(txtname.Text.Get()); !why.empty()) return why;
-    return ShowNameTaken(world(), txtname.Text.Get()) ? "The show name needs to be unique!" : "";
-  }
-
   std::string WhyNotAccept(const TvOffer& offer) {
-    if (ShowsOf(world(), world().PlayerUid()).size() >= kMostShows)
-      return "You already have the maximum amount of TV shows allowed.";
-    if (std::find(offer.Days.begin(), offer.Days.end(), cmbdays.Key()) == offer.Days.end())
+    if (std::string why = WhyNoMoreShows(world()); !why.empty()) return why;
+    if (std::ranges::find(offer.Days, cmbdays.Key()) == offer.Days.end())
       return "That day has gone to another show meanwhile. Choose another.";
-    return WhyNotName();
+    return WhyNoShowName(world(), txtname.Text.Get(), "The show name needs to be unique!");
   }
 
   void cmdaccept_Click() {
@@ -163,11 +152,9 @@ class frmViewNetworks : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page =
+    return WithoutEnter(
         PageOf(ui::Rows({ui::Group("", {ui::Grow(lstnetworks)}).Grow(3),
-                         ui::Group("On the chosen network", {ui::Grow(lstshows)}).Grow(2)}));
-    page.Main = nullptr;  // Enter does nothing
-    return page;
+                         ui::Group("On the chosen network", {ui::Grow(lstshows)}).Grow(2)})));
   }
 
   void Load() override {
@@ -183,134 +170,80 @@ class frmViewNetworks : public GameScreen {
     const Network* network = world().FindNetwork(lstnetworks.Key());
     lstshows.EmptyText =
         network ? network->Name + " shows no wrestling." : "Choose a network to see its shows.";
-    if (!network) return;
+    std::vector<const Show*> shows;
     for (const Show& show : world().Shows())
-      if (show.Network == network->Uid)
-        lstshows.Add({OwnedCell(world(), show, show.Name), PromotionInitials(world(), show.Owner),
-                      DayCell(show), SlotName(show.Slot), RatingCell(show, show.Rating3)});
+      if (network && show.Network == network->Uid) shows.push_back(&show);
+    FillShows(lstshows, shows_, world(), shows);
   }
 
-  using K = ui::ColumnKind;
   ui::ListBox lstnetworks{*this, "lstnetworks", NetworkColumns(),
                           &frmViewNetworks::lstnetworks_Click};
-  ui::ListBox lstshows{*this,
-                       "lstshows",
-                       {{"Show", K::Text, 5},
-                        {"Promotion", K::Text, 2},
-                        {"Day", K::Date, 3},
-                        {"Time", K::Text, 3},
-                        {"Last", K::Number, 2, "Last rating."}}};
+  const CellColumns<ShowRow> shows_ =
+      ShowTable({ShowColumn::Name, ShowColumn::Promotion, ShowColumn::Day, ShowColumn::Time,
+                 ShowColumn::Last});
+  ui::ListBox lstshows{*this, "lstshows", HeadingsOf(shows_)};
 };
-
-}  // namespace
-
-SCREEN(frmViewNetworks)
 
 // The shows of the world to look at: by their ratings, and all there is to know.
 
-namespace {
-
-using K = ui::ColumnKind;
-
 /// A table and the way back.
-class ShowTable : public GameScreen {
+class AllShows : public GameScreen {
  public:
-  ShowTable(Game& game, std::string name, std::string title, std::vector<ui::Column> columns,
-            std::string none)
-      : GameScreen(game, std::move(name), std::move(title)),
-        lstshows{*this, "lstshows", std::move(columns)} {
-    lstshows.EmptyText = std::move(none);
+  AllShows(Game& game, const char* name, const char* title,
+           std::initializer_list<ShowColumn> columns, const char* none)
+      : GameScreen(game, name, title), table_(ShowTable(columns)) {
+    lstshows.EmptyText = none;
   }
 
-  ui::Page Layout() override {
-    ui::Page page = PageOf(ui::Group("", {ui::Grow(lstshows)}));
-    page.Main = nullptr;  // Enter does nothing
-    return page;
-  }
+  ui::Page Layout() override { return WithoutEnter(PageOf(ui::Group("", {ui::Grow(lstshows)}))); }
 
   void Return() override {
     std::vector<const Show*> shows;
     for (const Show& show : world().Shows()) shows.push_back(&show);
     Arrange(shows);
-    std::vector<ui::ListBox::Row> rows;
-    for (const Show* show : shows) {
-      const int place = static_cast<int>(rows.size()) + 1;
-      rows.push_back({RowOf(place, *show), place});
-    }
-    lstshows.Fill(std::move(rows));
+    FillShows(lstshows, table_, world(), shows);
   }
 
  protected:
   virtual void Arrange(std::vector<const Show*>&) {}
-  virtual std::vector<ui::Cell> RowOf(int place, const Show& show) = 0;
 
  private:
-  ui::ListBox lstshows;
+  const CellColumns<ShowRow> table_;
+  ui::ListBox lstshows{*this, "lstshows", HeadingsOf(table_)};
 };
 
 /// The best of the last week first; who has not been seen yet stands at the end.
-class frmTVRank : public ShowTable {
+class frmTVRank : public AllShows {
  public:
   explicit frmTVRank(Game& game)
-      : ShowTable(game, "frmTVRank", "Television Ranking",
-                  {{"#", K::Number, 1},
-                   {"Show", K::Text, 5},
-                   {"Promotion", K::Text, 2},
-                   {"Network", K::Text, 4},
-                   {"Last", K::Number, 2, "Last rating."},
-                   {"Highest", K::Number, 2}},
-                  "No TV Shows To Rank") {}
+      : AllShows(game, "frmTVRank", "Television Ranking",
+                 {ShowColumn::Place, ShowColumn::Name, ShowColumn::Promotion, ShowColumn::Network,
+                  ShowColumn::Last, ShowColumn::Highest},
+                 "No TV Shows To Rank") {}
 
  protected:
   void Arrange(std::vector<const Show*>& shows) override {
-    const auto last = [](const Show* show) { return show->Rating1 == 0 ? -1 : int(show->Rating3); };
-    std::ranges::stable_sort(shows,
-                             [&](const Show* a, const Show* b) { return last(a) > last(b); });
-  }
-
-  std::vector<ui::Cell> RowOf(int place, const Show& show) override {
-    return {ui::Cell(place),
-            OwnedCell(world(), show, show.Name),
-            PromotionInitials(world(), show.Owner),
-            NetworkName(world(), show.Network),
-            RatingCell(show, show.Rating3),
-            RatingCell(show, show.Rating1)};
+    std::ranges::stable_sort(shows, std::greater{}, [](const Show* show) {
+      return show->Rating1 == 0 ? -1 : int(show->Rating3);
+    });
   }
 };
 
-class frmViewShows : public ShowTable {
+class frmViewShows : public AllShows {
  public:
   explicit frmViewShows(Game& game)
-      : ShowTable(game, "frmViewShows", "Television Shows",
-                  {{"Show", K::Text, 5},
-                   {"Promotion", K::Text, 2},
-                   {"Day", K::Date, 3},
-                   {"Time", K::Text, 3},
-                   {"Network", K::Text, 4},
-                   {"Weeks", K::Number, 2, "Weeks left of the deal."},
-                   {"Last", K::Number, 2, "Last rating."},
-                   {"Highest", K::Number, 2},
-                   {"Lowest", K::Number, 2}},
-                  "Nobody is on the air.") {}
-
- protected:
-  std::vector<ui::Cell> RowOf(int, const Show& show) override {
-    return {OwnedCell(world(), show, show.Name),
-            PromotionInitials(world(), show.Owner),
-            DayCell(show),
-            SlotName(show.Slot),
-            NetworkName(world(), show.Network),
-            ui::Cell(show.ContractWeeks),
-            RatingCell(show, show.Rating3),
-            RatingCell(show, show.Rating1),
-            RatingCell(show, show.Rating2)};
-  }
+      : AllShows(game, "frmViewShows", "Television Shows",
+                 {ShowColumn::Name, ShowColumn::Promotion, ShowColumn::Day, ShowColumn::Time,
+                  ShowColumn::Network, ShowColumn::Weeks, ShowColumn::Last, ShowColumn::Highest,
+                  ShowColumn::Lowest},
+                 "Nobody is on the air.") {}
 };
 
 }  // namespace
 
 SCREEN(frmPromoTape)
 SCREEN(frmTvOffer)
+SCREEN(frmViewNetworks)
 SCREEN(frmTVRank)
 SCREEN(frmViewShows)
 

@@ -1,11 +1,9 @@
 #include "business/screens/frmSpending.h"
-#include "ui/game.h"
 
 #include <algorithm>
 
 #include "business/finance.h"
 #include "records/modVar.h"
-#include "records/world.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -51,7 +49,7 @@ class frmFedMerch : public GameScreen {
   }
 
  private:
-  Promotion& player() { return game_.World().Player(); }
+  Promotion& player() { return world().Player(); }
 
   void Show() {
     const int level = player().*side_.Level;
@@ -94,13 +92,7 @@ class frmFedProd : public GameScreen {
                   &lblmoney);
   }
 
-  void Return() override { Show(); }
-
- private:
-  Promotion& player() { return game_.World().Player(); }
-  int CostOf(int number) { return ProductionRaiseCost(player().Production, number); }
-
-  void Show() {
+  void Return() override {
     lblmoney.Text = FinanceText(player());
     lblproduction.Text = std::to_string(player().Production) + "%";
     lblmonthly.Text = Dollars(ProductionCost(player().Production)) + " p.m";
@@ -112,13 +104,17 @@ class frmFedProd : public GameScreen {
     }
   }
 
+ private:
+  Promotion& player() { return world().Player(); }
+  int CostOf(int number) { return ProductionRaiseCost(player().Production, number); }
+
   void cmdraise_Click(int number) {
     const char* kReport = "Finance Report";
     if (!desk().Ask(kReport, "Pay $" + std::to_string(CostOf(number)) + " for a " +
                                  PercentText(number) + " increase?"))
       return;
     if (!RaiseProduction(player(), number)) desk().Say(kReport, "You cannot afford this!");
-    Show();
+    Return();
   }
 
   ui::Label lblmoney{*this, "lblmoney"};
@@ -148,19 +144,17 @@ class frmTicket : public GameScreen {
   void Load() override {
     hsticket.Max = std::max<int>(kDearestTicket, player().TicketPrice);
     hsticket.Value = player().TicketPrice;
-    Show();
+    Return();
   }
-  void Return() override { Show(); }
-
- private:
-  Promotion& player() { return game_.World().Player(); }
-
-  void Show() {
+  void Return() override {
     lblprice.Text = "Current Ticket Prices : $" + std::to_string(player().TicketPrice);
     lblfair.Text = "People expect to pay " + Dollars(FairTicketPrice(player().Size)) +
                    " at a promotion that is " + std::string(SizeText(player().Size)) + ".";
     ShowChoice();
   }
+
+ private:
+  Promotion& player() { return world().Player(); }
 
   void ShowChoice() {
     lblopinion.Text = std::string(TicketOpinion(player().Size, hsticket.Value));
@@ -170,7 +164,7 @@ class frmTicket : public GameScreen {
   void cmddoit_Click() {
     if (!desk().Ask("Change price?", "Are you sure?")) return;
     player().TicketPrice = hsticket.Value;
-    Show();
+    Return();
   }
 
   ui::Label lblprice{*this, "lblprice"};
@@ -199,16 +193,14 @@ class frmCharity : public GameScreen {
                   &lblmoney, {}, &cmddonate);
   }
 
-  void Return() override { Show(); }
-
- private:
-  void Show() {
+  void Return() override {
     lblmoney.Text = FinanceText(world().Player());
     lblreputation.Text = "Your reputation is " + std::to_string(world().Game().Reputation) +
                          "%. It rises by a point for each $1,000, up to 100%.";
     ShowChoice();
   }
 
+ private:
   void ShowChoice() { lblamount.Text = DonationText(hsamount.Value); }
 
   void cmddonate_Click() {
@@ -216,7 +208,7 @@ class frmCharity : public GameScreen {
       return desk().Say("Money Problems!", "You cannot afford this donation!");
     if (!desk().Ask("Donate money?", "Are you sure?")) return;
     Donate(world(), hsamount.Value);
-    Show();
+    Return();
   }
 
   ui::Label lblmoney{*this, "lblmoney"};
@@ -230,6 +222,11 @@ class frmCharity : public GameScreen {
 
 SCREEN(frmFedProd)
 SCREEN(frmTicket)
+SCREEN(frmCharity)
+
+ui::Cell MoneyCell(long long dollars, ui::Tone tone) {
+  return {static_cast<double>(dollars), Dollars(dollars), tone};
+}
 
 void OpenAdvertising(Game& game) {
   game.Desk().Open(std::make_unique<frmFedMerch>(game, kAdvertisingSide));
@@ -238,7 +235,5 @@ void OpenAdvertising(Game& game) {
 void OpenMerchandising(Game& game) {
   game.Desk().Open(std::make_unique<frmFedMerch>(game, kMerchandisingSide));
 }
-
-SCREEN(frmCharity)
 
 }  // namespace grapplemont

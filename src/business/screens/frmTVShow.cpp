@@ -1,5 +1,3 @@
-#include "business/screens/frmTVShow.h"
-
 #include "business/networks.h"
 #include "business/screens/frmTelevision.h"
 #include "business/tvshows.h"
@@ -11,6 +9,8 @@ namespace grapplemont {
 
 namespace {
 
+using K = ui::ColumnKind;
+
 /// Talks with the network about a show.
 class frmTVContract : public ShowScreen {
  public:
@@ -20,12 +20,10 @@ class frmTVContract : public ShowScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page =
+    return WithoutEnter(
         PageOf(ui::Rows({ui::Group("", {txtwants}),
                          ui::Group("", {ui::Columns({cmdask, cmdcontract, cmdtime, cmdend})})}),
-               &lblfacts);
-    page.Main = nullptr;  // Enter does nothing
-    return page;
+               &lblfacts));
   }
 
   void Return() override {
@@ -33,20 +31,17 @@ class frmTVContract : public ShowScreen {
   }
 
  private:
-  /// The show with its network, as long as both are there.
-  struct Deal {
-    Show* Airs = nullptr;
-    const Network* With = nullptr;
-  };
-  Deal DealOrLeave() {
-    Show* show = ShowOrLeave();
-    if (!show) return {};
-    const Network* network = world().FindNetwork(show->Network);
-    if (!network) {
+  using Talk = void (frmTVContract::*)(Show& show, const Network& network);
+  /// About the show and with its network, as long as both are there.
+  ui::Handler About(Talk talk) {
+    return [this, talk] {
+      Show* show = ShowOrLeave();
+      if (!show) return;
+      if (const Network* network = world().FindNetwork(show->Network))
+        return (this->*talk)(*show, *network);
       desk().Say("Error!", "The network of " + show->Name.Str() + " is no longer there.");
       Close();
-    }
-    return {show, network};
+    };
   }
 
   void ShowDeal(const Show& show) {
@@ -54,50 +49,43 @@ class frmTVContract : public ShowScreen {
     lblfacts.Text = show.Name + ", " + show.Day.Str() + ", " + std::string(SlotName(show.Slot)) +
                     ", on " + NetworkName(world(), show.Network) + ". " +
                     Counted(show.ContractWeeks, "week") + " to run.";
-    txtwants.WriteLines(network ? WantsText(world(), show, *network) : "");
+    txtwants.WriteLines(network ? NetworkWants(world().Player(), show, *network) : "");
   }
 
-  void cmdask_Click() {
-    if (const Deal deal = DealOrLeave(); deal.With)
-      SayAll(desk(), AskNetwork(world().Player(), *deal.Airs, *deal.With));
+  void Ask(Show& show, const Network& network) {
+    for (const TvRemark& remark : AskNetwork(world().Player(), show, network))
+      desk().Say(remark.Title, remark.Text);
   }
 
-  void cmdcontract_Click() {
-    const Deal deal = DealOrLeave();
-    if (!deal.With) return;
-    const ExtensionTalk talk = TalkOfExtension(world().Player(), *deal.Airs, *deal.With);
+  void Extend(Show& show, const Network& network) {
+    const ExtensionTalk talk = TalkOfExtension(world().Player(), show, network);
     if (talk.Weeks == 0) return desk().Say("Rejection!", talk.Text);
     if (!desk().Ask("Offer!", talk.Text + "\nAccept?")) return;
-    deal.Airs->ContractWeeks += talk.Weeks;
-    ShowDeal(*deal.Airs);
+    show.ContractWeeks += talk.Weeks;
+    ShowDeal(show);
   }
 
-  void cmdtime_Click() {
-    const Deal deal = DealOrLeave();
-    if (!deal.With) return;
-    const MoveTalk talk = TalkOfMove(world(), world().Player(), *deal.Airs, *deal.With);
+  void Move(Show& show, const Network& network) {
+    const MoveTalk talk = TalkOfMove(world(), world().Player(), show, network);
     if (talk.Slot.empty()) return desk().Say("Rejection!", talk.Text);
     if (!desk().Ask("Offer!", talk.Text + "\nContinue?")) return;
-    deal.Airs->Slot = talk.Slot;
-    ShowDeal(*deal.Airs);
+    show.Slot = talk.Slot;
+    ShowDeal(show);
   }
 
-  void cmdend_Click() {
-    const Deal deal = DealOrLeave();
-    if (!deal.With) return;
-    const EndingTalk talk = TalkOfEnding(world().Player(), *deal.Airs, *deal.With);
+  void End(Show& show, const Network& network) {
+    const EndingTalk talk = TalkOfEnding(world().Player(), show, network);
     if (!desk().Ask("End Deal?", talk.Text + "\nContinue?", ui::Default::No)) return;
-    EndDeal(world(), *deal.Airs, talk.Penalty);
+    EndDeal(world(), show, talk.Penalty);
     Close();
   }
 
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Report txtwants{*this, "txtwants"};
-  ui::Button cmdask{*this, "cmdask", "Ask The Network", &frmTVContract::cmdask_Click};
-  ui::Button cmdcontract{*this, "cmdcontract", "Extend The Deal",
-                         &frmTVContract::cmdcontract_Click};
-  ui::Button cmdtime{*this, "cmdtime", "Move The Slot", &frmTVContract::cmdtime_Click};
-  ui::Button cmdend{*this, "cmdend", "End The Deal", &frmTVContract::cmdend_Click};
+  ui::Button cmdask{*this, "cmdask", "Ask The Network", About(&frmTVContract::Ask)};
+  ui::Button cmdcontract{*this, "cmdcontract", "Extend The Deal", About(&frmTVContract::Extend)};
+  ui::Button cmdtime{*this, "cmdtime", "Move The Slot", About(&frmTVContract::Move)};
+  ui::Button cmdend{*this, "cmdend", "End The Deal", About(&frmTVContract::End)};
 };
 
 class frmShowName : public ShowScreen {
@@ -122,9 +110,7 @@ class frmShowName : public ShowScreen {
     if (!show) return;
     const std::string name(TrimmedName(txtname.Text.Get()));
     if (show->Name == name) return Close();
-    std::string why = WhyNoShowName(name);
-    if (why.empty() && ShowNameTaken(world(), name)) why = "This show name already exists!";
-    if (!why.empty()) return desk().Say("Error!", why);
+    if (desk().Objects(WhyNoShowName(world(), name, "This show name already exists!"))) return;
     show->Name = name;
     Close();
   }
@@ -133,6 +119,21 @@ class frmShowName : public ShowScreen {
   ui::Label lblpast{*this, "lblpast", "Its charts begin anew: the past keeps the old name."};
   ui::Button cmdchange{*this, "cmdchange", "Change Name", &frmShowName::cmdchange_Click};
 };
+
+ui::Cell KindCell(const Commentator& person) {
+  return person.Uid == 0 ? "" : person.IsWorker ? "Worker" : "Staff";
+}
+
+const CellColumns<Commentator> kCommentatorTable = {
+    {{"Name", K::Text, 4}, [](const Commentator& person) { return person.Name; }},
+    {{"Is", K::Text, 2}, KindCell},
+    {{"Talent", K::Percent, 3, "A worker's is his charisma."},
+     [](const Commentator& person) {
+       return person.Uid == 0 ? ui::Cell("") : ui::Cell(person.Skill);
+     }},
+    {{"", K::Text, 2}, [](const Commentator& person) {
+       return person.Speaks ? ui::Cell("") : ui::Cell("Cannot speak", ui::Tone::Red);
+     }}};
 
 /// Who sits in one of the two chairs at the table of a show.
 class frmCommentator : public ShowScreen {
@@ -152,10 +153,7 @@ class frmCommentator : public ShowScreen {
   void Load() override {
     people_ = chair_ == kPrimary ? AnnouncersToChoose(world()) : ColourMenToChoose(world());
     people_.insert(people_.begin(), Commentator{"None"});
-    std::vector<ui::ListBox::Row> rows;
-    for (const Commentator& person : people_)
-      rows.push_back({RowOf(person), static_cast<int>(rows.size()) + 1});
-    lststaff.Fill(std::move(rows));
+    FillPlaces(lststaff, kCommentatorTable, people_);
     const int wanted = WantedTalent(world().Player().Size);
     lblfacts.Text =
         "For a promotion of our size people expect a talent of " + std::to_string(wanted) + ".";
@@ -164,12 +162,6 @@ class frmCommentator : public ShowScreen {
   void Return() override { Load(); }
 
  private:
-  static std::vector<ui::Cell> RowOf(const Commentator& person) {
-    if (person.Uid == 0) return {person.Name, "", "", ""};
-    return {person.Name, person.IsWorker ? "Worker" : "Staff", ui::Cell(person.Skill),
-            person.Speaks ? ui::Cell("") : ui::Cell("Cannot speak", ui::Tone::Red)};
-  }
-
   void SelectSeated() {
     const Show* show = FindShow();
     if (!show || lststaff.Selected() != 0) return;
@@ -191,8 +183,7 @@ class frmCommentator : public ShowScreen {
     Show* show = ShowOrLeave();
     if (!show || lststaff.Key() == 0) return;
     const Commentator& person = people_[static_cast<std::size_t>(lststaff.Key() - 1)];
-    if (const std::string why = WhyNot(*show, person); !why.empty())
-      return desk().Say("Error!", why);
+    if (desk().Objects(WhyNot(*show, person))) return;
     if (chair_ == kPrimary) {
       show->Announcer = person.Uid;
     } else {
@@ -202,18 +193,10 @@ class frmCommentator : public ShowScreen {
     Close();
   }
 
-  using K = ui::ColumnKind;
   Chair chair_;
   std::vector<Commentator> people_;  // "None" first
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lststaff{*this,
-                       "lststaff",
-                       {{"Name", K::Text, 4},
-                        {"Is", K::Text, 2},
-                        {"Talent", K::Percent, 3, "A worker's is his charisma."},
-                        {"", K::Text, 2}},
-                       ui::Handler{},
-                       cmdassign};
+  ui::ListBox lststaff{*this, "lststaff", HeadingsOf(kCommentatorTable), ui::Handler{}, cmdassign};
   ui::Button cmdassign{*this, "cmdassign", "Assign", &frmCommentator::cmdassign_Click};
 };
 
@@ -227,11 +210,10 @@ class frmTVRivals : public ShowScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page = PageOf(
+    ui::Page page = WithoutEnter(PageOf(
         ui::Rows({ui::Group("Direct rivals: in the same time slot", {ui::Grow(lstdirect)}).Grow(),
                   ui::Group("Indirect rivals: on the same day", {ui::Grow(lstindirect)}).Grow()}),
-        &lblfacts);
-    page.Main = nullptr;  // Enter does nothing
+        &lblfacts));
     page.Large = true;
     return page;
   }
@@ -241,50 +223,40 @@ class frmTVRivals : public ShowScreen {
     if (!ours) return;
     lblfacts.Text =
         ours->Name + ", " + ours->Day.Str() + ", " + std::string(SlotName(ours->Slot)) + ".";
+    std::vector<const Show*> direct, indirect;
+    for (const Show& show : world().Shows())
+      if (show.Owner != ours->Owner && show.Day == ours->Day)
+        (show.Slot == ours->Slot ? direct : indirect).push_back(&show);
     lstdirect.Clear();
     lstindirect.Clear();
-    for (const Show& show : world().Shows()) {
-      if (show.Owner == ours->Owner || show.Day != ours->Day) continue;
-      ui::ListBox& list = show.Slot == ours->Slot ? lstdirect : lstindirect;
-      list.Add({show.Name.View(), PromotionInitials(world(), show.Owner), SlotName(show.Slot),
-                NetworkName(world(), show.Network), RatingCell(show, show.Rating3)});
-    }
+    FillShows(lstdirect, table_, world(), direct);
+    FillShows(lstindirect, table_, world(), indirect);
   }
 
  private:
-  using K = ui::ColumnKind;
-  static std::vector<ui::Column> RivalColumns() {
-    return {{"Show", K::Text, 4},
-            {"Promotion", K::Text, 2},
-            {"Time", K::Text, 3},
-            {"Network", K::Text, 4},
-            {"Last", K::Number, 2, "Its last rating."}};
+  static CellColumns<ShowRow> RivalTable() {
+    using enum ShowColumn;
+    auto table = ShowTable({ShowColumn::Name, ShowColumn::Promotion, ShowColumn::Time,
+                            ShowColumn::Network, ShowColumn::Last});
+    table.front().Heading.Width = 4;
+    table.back().Heading.Tip = "Its last rating.";
+    return table;
   }
+
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstdirect{*this, "lstdirect", RivalColumns()};
-  ui::ListBox lstindirect{*this, "lstindirect", RivalColumns()};
+  const CellColumns<ShowRow> table_ = RivalTable();
+  ui::ListBox lstdirect{*this, "lstdirect", HeadingsOf(table_)};
+  ui::ListBox lstindirect{*this, "lstindirect", HeadingsOf(table_)};
 };
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmTVContract(Game& game, std::string show) {
-  return std::make_unique<frmTVContract>(game, std::move(show));
-}
-
-std::unique_ptr<ui::Screen> MakefrmShowName(Game& game, std::string show) {
-  return std::make_unique<frmShowName>(game, std::move(show));
-}
-
-std::unique_ptr<ui::Screen> MakefrmAnnouncer(Game& game, std::string show) {
-  return std::make_unique<frmCommentator>(game, frmCommentator::kPrimary, std::move(show));
-}
-
-std::unique_ptr<ui::Screen> MakefrmColourMan(Game& game, std::string show) {
-  return std::make_unique<frmCommentator>(game, frmCommentator::kColour, std::move(show));
-}
-
-std::unique_ptr<ui::Screen> MakefrmTVRivals(Game& game, std::string show) {
-  return std::make_unique<frmTVRivals>(game, std::move(show));
+std::unique_ptr<ui::Screen> MakeShowScreen(Game& game, std::string_view screen, std::string show) {
+  if (screen == "frmTVContract") return std::make_unique<frmTVContract>(game, std::move(show));
+  if (screen == "frmShowName") return std::make_unique<frmShowName>(game, std::move(show));
+  if (screen == "frmTVRivals") return std::make_unique<frmTVRivals>(game, std::move(show));
+  const auto chair = screen == "frmAnnouncer" ? frmCommentator::kPrimary : frmCommentator::kColour;
+  return std::make_unique<frmCommentator>(game, chair, std::move(show));
 }
 
 }  // namespace grapplemont

@@ -1,31 +1,77 @@
 #include "business/screens/frmTelevision.h"
-#include "ui/game.h"
 
 #include <algorithm>
 
 #include "business/networks.h"
 #include "business/past.h"
-#include "business/screens/frmTVShow.h"
 #include "business/tvshows.h"
-#include "business/tvtalks.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
-#include "storylines/screens/screenpeople.h"
+#include "records/modWresCheck.h"
 
 namespace grapplemont {
 
 namespace {
 
-ui::Cell SlotCell(const Network& network, std::string_view slot) {
-  const int audience = SlotAudience(network, slot);
-  return {double(audience), RatingText(audience) + " / " + std::to_string(SlotRisk(network, slot))};
+using K = ui::ColumnKind;
+
+struct NetworkRow {
+  const World& In;
+  const Network& Is;
+};
+
+CellColumn<NetworkRow> SlotColumn(const char* title, const char* slot) {
+  return {
+      {title, K::Number, 2, "The rating that a show is measured against, and the risk it may run."},
+      [slot](const NetworkRow& row) {
+        const int audience = SlotAudience(row.Is, slot);
+        return ui::Cell(double(audience),
+                        RatingText(audience) + " / " + std::to_string(SlotRisk(row.Is, slot)));
+      }};
 }
 
-ui::Cell RoomCell(const World& world, const Network& network) {
-  if (network.Generic) return {"Always", ui::Tone::Green};
-  return IsFull(world, network) ? ui::Cell("Full", ui::Tone::Red) : ui::Cell("Yes");
+ui::Cell RoomCell(const NetworkRow& row) {
+  if (row.Is.Generic) return {"Always", ui::Tone::Green};
+  return IsFull(row.In, row.Is) ? ui::Cell("Full", ui::Tone::Red) : ui::Cell("Yes");
 }
+
+const CellColumns<NetworkRow> kNetworkTable = {
+    {{"Network", K::Text, 4}, [](const NetworkRow& row) { return row.Is.Name.View(); }},
+    SlotColumn("Early", "E"),
+    SlotColumn("Prime", "P"),
+    SlotColumn("Late", "L"),
+    SlotColumn("Graveyard", "G"),
+    {{"Production", K::Number, 2, "The production values it asks for."},
+     [](const NetworkRow& row) { return ui::Cell(row.Is.Production); }},
+    {{"Shows", K::Number, 1, "So many are on it now."},
+     [](const NetworkRow& row) { return ui::Cell(ShowsOn(row.In, row.Is)); }},
+    {{"Room", K::Tag, 2, "Whether it has a spot for another show."}, RoomCell}};
+
+ui::Cell NameCell(const ShowRow& row) {
+  const bool ours = row.Is.Owner == row.In.PlayerUid();
+  return {row.Is.Name.View(), ours ? ui::Tone::Gold : ui::Tone::Plain};
+}
+
+/// In the order of ShowColumn.
+const CellColumns<ShowRow> kShowTable = {
+    {{"#", K::Number, 1}, [](const ShowRow& row) { return ui::Cell(row.Place); }},
+    {{"Show", K::Text, 5}, NameCell},
+    {{"Promotion", K::Text, 2},
+     [](const ShowRow& row) { return PromotionInitials(row.In, row.Is.Owner); }},
+    {{"Day", K::Date, 3},
+     [](const ShowRow& row) { return ui::Cell(double(DayNumber(row.Is.Day)), row.Is.Day.Str()); }},
+    {{"Time", K::Text, 3}, [](const ShowRow& row) { return SlotName(row.Is.Slot); }},
+    {{"Network", K::Text, 4},
+     [](const ShowRow& row) { return NetworkName(row.In, row.Is.Network); }},
+    {{"Weeks", K::Number, 2, "Weeks left of the deal."},
+     [](const ShowRow& row) { return ui::Cell(row.Is.ContractWeeks); }},
+    {{"Last", K::Number, 2, "Last rating."},
+     [](const ShowRow& row) { return RatingCell(row.Is, row.Is.Rating3); }},
+    {{"Highest", K::Number, 2},
+     [](const ShowRow& row) { return RatingCell(row.Is, row.Is.Rating1); }},
+    {{"Lowest", K::Number, 2},
+     [](const ShowRow& row) { return RatingCell(row.Is, row.Is.Rating2); }}};
 
 }  // namespace
 
@@ -34,7 +80,9 @@ ShowScreen::ShowScreen(Game& game, std::string name, std::string title, std::str
       show_(std::move(show)) {}
 
 Show* ShowScreen::FindShow() {
-  return PlayerShow(world(), show_);
+  for (Show& show : world().Shows())
+    if (show.Owner == world().PlayerUid() && show.Name == show_) return &show;
+  return nullptr;
 }
 
 Show* ShowScreen::ShowOrLeave() {
@@ -45,51 +93,33 @@ Show* ShowScreen::ShowOrLeave() {
   return nullptr;
 }
 
-std::string WantsText(const World& world, const Show& show, const Network& network) {
-  std::string text;
-  for (const std::string& line : NetworkWants(world.Player(), show, network))
-    text += (text.empty() ? "" : "\n") + line;
-  return text;
-}
-
 ui::Cell RatingCell(const Show& show, int rating) {
   if (show.Rating1 == 0) return {-1.0, "-", ui::Tone::Muted};
   return {double(rating), RatingText(rating)};
 }
 
-ui::Cell DayCell(const Show& show) {
-  return {double(DayNumber(show.Day)), show.Day.Str()};
+CellColumns<ShowRow> ShowTable(std::initializer_list<ShowColumn> columns) {
+  CellColumns<ShowRow> table;
+  for (const ShowColumn column : columns)
+    table.push_back(kShowTable[static_cast<std::size_t>(column)]);
+  return table;
 }
 
-ui::Cell OwnedCell(const World& world, const Show& show, std::string_view text) {
-  return {text, show.Owner == world.PlayerUid() ? ui::Tone::Gold : ui::Tone::Plain};
+void FillShows(ui::ListBox& list, const CellColumns<ShowRow>& table, const World& world,
+               const std::vector<const Show*>& shows) {
+  std::vector<ShowRow> rows;
+  for (const Show* show : shows) rows.push_back({world, *show, static_cast<int>(rows.size()) + 1});
+  FillPlaces(list, table, rows);
 }
 
 std::vector<ui::Column> NetworkColumns() {
-  using K = ui::ColumnKind;
-  const std::string tip = "The rating that a show is measured against, and the risk it may run.";
-  return {{"Network", K::Text, 4},
-          {"Early", K::Number, 2, tip},
-          {"Prime", K::Number, 2, tip},
-          {"Late", K::Number, 2, tip},
-          {"Graveyard", K::Number, 2, tip},
-          {"Production", K::Number, 2, "The production values it asks for."},
-          {"Shows", K::Number, 1, "So many are on it now."},
-          {"Room", K::Tag, 2, "Whether it has a spot for another show."}};
+  return HeadingsOf(kNetworkTable);
 }
 
 void FillNetworks(ui::ListBox& list, const World& world) {
-  std::vector<ui::ListBox::Row> rows;
-  for (const Network& network : world.Networks())
-    rows.push_back({{network.Name.View(), SlotCell(network, "E"), SlotCell(network, "P"),
-                     SlotCell(network, "L"), SlotCell(network, "G"), ui::Cell(network.Production),
-                     ui::Cell(ShowsOn(world, network)), RoomCell(world, network)},
-                    network.Uid});
-  list.Fill(std::move(rows));
-}
-
-void SayAll(ui::Desk& desk, const std::vector<TvRemark>& remarks) {
-  for (const TvRemark& remark : remarks) desk.Say(remark.Title, remark.Text);
+  std::vector<NetworkRow> rows;
+  for (const Network& network : world.Networks()) rows.push_back({world, network});
+  FillTable(list, kNetworkTable, rows, [](const NetworkRow& row) { return int(row.Is.Uid); });
 }
 
 namespace {
@@ -148,7 +178,9 @@ class frmTelevision : public GameScreen {
     const auto place = static_cast<std::size_t>(chosen_);
     return place < shows.size() ? shows[place] : nullptr;
   }
-  std::string ChosenName() { return Chosen()->Name.Str(); }
+  void OpenOnChosen(std::string_view screen) {
+    desk().Open(MakeShowScreen(game_, screen, Chosen()->Name.Str()));
+  }
 
   /// A world from elsewhere may have more shows than buttons: the first three count.
   void ShowButtons() {
@@ -162,15 +194,10 @@ class frmTelevision : public GameScreen {
       button.Colour = place == chosen_ + 1 ? ui::Tone::Gold : ui::Tone::Plain;
     }
     lblnone.Visible = count == 0;
+    const int tape = world().Game().TapeWait;
     lblfacts.Text = std::to_string(count) + " of " + std::to_string(kMostShows) +
-                    " shows on the air." + TapeWords();
-  }
-
-  std::string TapeWords() {
-    const GameInfo& game = world().Game();
-    return game.TapeWait == 0
-               ? ""
-               : " " + NetworkName(world(), game.TapeWait) + " is watching our tape.";
+                    " shows on the air." +
+                    (tape == 0 ? "" : " " + NetworkName(world(), tape) + " is watching our tape.");
   }
 
   void ShowTape() {
@@ -183,10 +210,8 @@ class frmTelevision : public GameScreen {
     const Show* show = Chosen();
     const Network* network = show ? world().FindNetwork(show->Network) : nullptr;
     const std::string none = show ? "" : "There is no show on the air.";
-    for (ui::Button* button : {&cmdname, &cmdchangea, &cmdchangec, &cmdrivals})
-      EnableUnless(*button, none);
-    for (ui::Button* button : {&cmdnegotiate, &cmdmaeve})
-      EnableUnless(*button, show && !network ? "No network airs this show." : none);
+    EnableUnless({cmdname, cmdchangea, cmdchangec, cmdrivals}, none);
+    EnableUnless({cmdnegotiate, cmdmaeve}, show && !network ? "No network airs this show." : none);
     ShowFacts(show);
     ShowWants(show, network);
     ShowPast(show);
@@ -205,7 +230,7 @@ class frmTelevision : public GameScreen {
   }
 
   void ShowWants(const Show* show, const Network* network) {
-    txtwants.WriteLines(show && network ? WantsText(world(), *show, *network)
+    txtwants.WriteLines(show && network ? NetworkWants(world().Player(), *show, *network)
                         : show          ? "No network airs this show."
                                         : "A network takes up a show that suits it: send a tape.");
   }
@@ -235,17 +260,14 @@ class frmTelevision : public GameScreen {
 
   void cmdpromo_Click() {
     if (world().Game().TvOfferWait != 0) return desk().Open("frmTvOffer");
-    if (const std::string why = WhyNoTape(world()); !why.empty()) return desk().Say("Error!", why);
-    desk().Open("frmPromoTape");
+    if (!desk().Objects(WhyNoTape(world()))) desk().Open("frmPromoTape");
   }
 
   void cmdmaeve_Click() {
     const Show& show = *Chosen();
-    SayAll(desk(), TvAdvice(world(), show, *world().FindNetwork(show.Network)));
+    for (const TvRemark& r : TvAdvice(world(), show, *world().FindNetwork(show.Network)))
+      desk().Say(r.Title, r.Text);
   }
-
-  void cmdchangec_Click() { desk().Open(MakefrmColourMan(game_, ChosenName())); }
-  void cmdshows_Click() { desk().Open("frmViewShows"); }
 
   int chosen_ = 0;  // place among the player's shows, from 0
   ui::Label lblfacts{*this, "lblfacts"};
@@ -268,20 +290,19 @@ class frmTelevision : public GameScreen {
   ui::Chart chtratings{*this, "chtratings"};
   ui::Report txtattendance{*this, "txtattendance"};
   ui::Chart chtattendance{*this, "chtattendance", true};
-  ui::Button cmdname{*this, "cmdname", "Rename",
-                     [this] { desk().Open(MakefrmShowName(game_, ChosenName())); }};
+  ui::Button cmdname{*this, "cmdname", "Rename", [this] { OpenOnChosen("frmShowName"); }};
   ui::Button cmdnegotiate{*this, "cmdnegotiate", "Negotiate",
-                          [this] { desk().Open(MakefrmTVContract(game_, ChosenName())); }};
+                          [this] { OpenOnChosen("frmTVContract"); }};
   ui::Button cmdchangea{*this, "cmdchangea", "Change Announcer",
-                        [this] { desk().Open(MakefrmAnnouncer(game_, ChosenName())); }};
-  ui::Button cmdchangec{*this, "cmdchangec", "Change Colour", &frmTelevision::cmdchangec_Click};
-  ui::Button cmdrivals{*this, "cmdrivals", "Rivals",
-                       [this] { desk().Open(MakefrmTVRivals(game_, ChosenName())); }};
+                        [this] { OpenOnChosen("frmAnnouncer"); }};
+  ui::Button cmdchangec{*this, "cmdchangec", "Change Colour",
+                        [this] { OpenOnChosen("frmColourMan"); }};
+  ui::Button cmdrivals{*this, "cmdrivals", "Rivals", [this] { OpenOnChosen("frmTVRivals"); }};
   ui::Button cmdmaeve{*this, "cmdmaeve", "Ask Maeve", &frmTelevision::cmdmaeve_Click};
   ui::Button cmdranking{*this, "cmdranking", "Ranking", [this] { desk().Open("frmTVRank"); }};
   ui::Button cmdnetworks{*this, "cmdnetworks", "Networks",
                          [this] { desk().Open("frmViewNetworks"); }};
-  ui::Button cmdshows{*this, "cmdshows", "All Shows", &frmTelevision::cmdshows_Click};
+  ui::Button cmdshows{*this, "cmdshows", "All Shows", [this] { desk().Open("frmViewShows"); }};
   ui::Button cmdpromo{*this, "cmdpromo", "Send Out Promo Tapes", &frmTelevision::cmdpromo_Click};
 };
 

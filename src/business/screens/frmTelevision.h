@@ -1,13 +1,15 @@
 #pragma once
 
 #include "business/tvtalks.h"
+#include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
 // What the screens of television share.
 
 namespace grapplemont {
 
-/// A screen about one show of the player's.
+/// A screen about one show of the player's, by its name. When it is gone by the time something is
+/// done with it, the screen says so and closes.
 class ShowScreen : public GameScreen {
  protected:
   ShowScreen(Game& game, std::string name, std::string title, std::string show);
@@ -20,21 +22,27 @@ class ShowScreen : public GameScreen {
   std::string show_;
 };
 
-/// What the network asks of the show, a line each.
-std::string WantsText(const World& world, const Show& show, const Network& network);
+/// One of those screens: "frmTVContract", "frmShowName", "frmAnnouncer", "frmColourMan" or
+/// "frmTVRivals".
+std::unique_ptr<ui::Screen> MakeShowScreen(Game& game, std::string_view screen, std::string show);
 
 /// A rating with its two decimals; "-" before a show has been held.
 ui::Cell RatingCell(const Show& show, int rating);
-/// The day of a show, sorted through the week.
-ui::Cell DayCell(const Show& show);
-/// A name of the player's in gold.
-ui::Cell OwnedCell(const World& world, const Show& show, std::string_view text);
+
+/// A show in a table of shows.
+struct ShowRow {
+  const World& In;
+  const Show& Is;
+  int Place;  // from 1
+};
+enum class ShowColumn { Place, Name, Promotion, Day, Time, Network, Weeks, Last, Highest, Lowest };
+/// A table of these columns.
+CellColumns<ShowRow> ShowTable(std::initializer_list<ShowColumn> columns);
+void FillShows(ui::ListBox& list, const CellColumns<ShowRow>& table, const World& world,
+               const std::vector<const Show*>& shows);
 
 /// Every network with what its slots have, bear and ask.
 std::vector<ui::Column> NetworkColumns();
 void FillNetworks(ui::ListBox& list, const World& world);
-
-/// The boxes of somebody who has several things to say.
-void SayAll(ui::Desk& desk, const std::vector<TvRemark>& remarks);
 
 }  // namespace grapplemont

@@ -7,89 +7,33 @@
 
 namespace grapplemont {
 
-/// The tab of frmFed on how risky the product is, and who would not bear it.
-class FedProduct {
+/// A part of frmFed that has its own controls and their arrangement.
+class FedPart {
  public:
-  FedProduct(ui::Screen& screen, Game& game);
-  ui::Box Layout();
-  /// The slider goes back to the present risk.
-  void Show();
+  FedPart(ui::Screen& screen, Game& game) : screen_(screen), game_(game) {}
+  virtual ~FedPart() = default;
+  virtual ui::Box Layout() = 0;
+  /// The world as it is; what was being chosen is forgotten.
+  virtual void Show() = 0;
 
- private:
-  void ShowChoice();
-  void cmdrisk_Click();
+ protected:
+  World& world() const { return game_.World(); }
+  ui::Desk& desk() const { return game_.Desk(); }
 
+  ui::Screen& screen_;
   Game& game_;
-  ui::ScrollBar hsrisk;
-  ui::Label lblrisk, lblmarket;
-  ui::Button cmdrisk;
-  ui::ListBox lstrisk;
 };
 
-/// The tab of frmFed on the splits of the roster and who is in them.
-class FedSplits {
- public:
-  FedSplits(ui::Screen& screen, Game& game);
-  ui::Box Layout();
-  void Show();
-
- private:
-  std::string Chosen() const;  // empty for a place without a split
-  void ShowSplits();
-  void ShowPeople();
-  void ShowButtons();
-  void lstsplits_Click();
-  void cmdsplit_Click();
-  void cmddissolve_Click();
-  void Assign(const std::string& split);
-
-  Game& game_;
-  ui::ListBox lstsplits;
-  ui::TextBox txtsplit;
-  ui::Button cmdsplit, cmddissolve;
-  ui::ListBox lstpeople;
-  ui::Button cmdassign, cmdtakeout;
-};
+/// The tab on how risky the product is, and who would not bear it.
+std::unique_ptr<FedPart> MakeFedProduct(ui::Screen& screen, Game& game);
+/// The tab on the splits of the roster and who is in them.
+std::unique_ptr<FedPart> MakeFedSplits(ui::Screen& screen, Game& game);
+/// Half of a tab: what a training camp or a territory is called, who runs it, who learns there, how
+/// it is opened and closed. `changed` runs when money has moved or people have come back.
+std::unique_ptr<FedPart> MakeFedSite(ui::Screen& screen, Game& game, Site site,
+                                     ui::Handler changed);
 
 /// Who is to hold an office of the player's promotion.
 std::unique_ptr<ui::Screen> MakefrmFedPick(Game& game, Office office);
-
-/// What a training camp and a development territory have in common, and in which words.
-struct SiteKind;
-extern const SiteKind kCampSite, kTerritorySite;
-
-/// The half of a tab of frmFed on one of the two: its name, who runs it, who learns there, how it
-/// is opened and closed.
-class FedSite {
- public:
-  /// `changed` runs when money has moved or people have come back.
-  FedSite(ui::Screen& screen, Game& game, const SiteKind& kind, ui::Handler changed);
-  ui::Box Layout();
-  void Show();
-
- private:
-  World& world() const { return game_.World(); }
-  bool IsThere() const;
-  int Level() const;  // the chosen one; 0 for none
-  bool Pays(const std::string& what);
-  void ShowLevels();
-  void ShowPeople();
-  void cmdopen_Click();
-  void cmdraise_Click();
-  void cmdclose_Click();
-
-  Game& game_;
-  const SiteKind& kind_;
-  ui::Handler changed_;
-  ui::TextBox txtname;
-  ui::Label lblstate;
-  std::unique_ptr<ui::ComboBox> cmblevel;  // where there are levels
-  ui::Button cmdopen;
-  std::unique_ptr<ui::Button> cmdraise;
-  ui::Button cmdclose;
-  ui::Label lblhead;
-  ui::Button cmdhead;
-  ui::ListBox lstpeople;
-};
 
 }  // namespace grapplemont

@@ -6,21 +6,120 @@
 #include "records/severing.h"
 #include "storylines/lineages.h"
 #include "storylines/screens/screenpeople.h"
-#include "storylines/screens/storyscreens.h"
 #include "storylines/storynames.h"
 #include "storylines/titles.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
 namespace {
 
+/// Every reign of a Title, of those that stand and those of the past, and what they add up to.
+class frmReigns : public GameScreen {
+ public:
+  explicit frmReigns(Game& game, Lineage first = {})
+      : GameScreen(game, "frmReigns", "Reigns"), first_(std::move(first)) {
+    lstreigns.EmptyText = "Nothing is known of its past.";
+    lsttotals.EmptyText = "Nobody has held it yet.";
+  }
+
+  ui::Page Layout() override {
+    return PageOf(
+        ui::Columns({ui::Group("", {ui::Field("Title", cmbtitle), ui::Grow(lstreigns)}).Grow(5),
+                     ui::Group("Champions", {ui::Grow(lsttotals)}).Grow(3)}),
+        &lblfacts);
+  }
+
+  void Load() override {
+    if (!HasEnded(world().Game())) UpdateReigns(world());
+    lineages_ = LineagesOf(world());
+    for (const Lineage& lineage : lineages_)
+      cmbtitle.Add(
+          lineage.Title + " (" + lineage.Initials + ")" + (lineage.Stands ? "" : ", of the past"),
+          cmbtitle.Count() + 1);
+    cmbtitle.Select(cmbtitle.Count() > 0 ? 1 : 0);
+    Select();
+    ShowReigns();
+  }
+  void Return() override { ShowReigns(); }
+
+ private:
+  /// The Title that was asked for, else the player's first.
+  void Select() {
+    const auto asked = std::find(lineages_.begin(), lineages_.end(), first_);
+    const auto own = std::find_if(lineages_.begin(), lineages_.end(), [&](const Lineage& lineage) {
+      return lineage.Owner == world().PlayerUid();
+    });
+    const auto chosen = asked != lineages_.end() ? asked : own;
+    if (chosen != lineages_.end())
+      cmbtitle.Select(static_cast<int>(chosen - lineages_.begin()) + 1);
+  }
+
+  static ui::Cell CountCell(int number) {
+    return number < 0 ? ui::Cell(-1.0, std::string()) : ui::Cell(number);
+  }
+
+  static ui::Cell EndCell(const TitleReign& reign) {
+    constexpr const char* kEnds[] = {"Lasts", "Lost", "Vacated", "Dissolved"};
+    const int end = reign.End;
+    if (end < kReignLasts || end > kReignDissolved) return {""};
+    const bool says = end == kReignLasts || end == kReignDissolved || !IsVacancy(reign);
+    return {says ? kEnds[end] : "", end == kReignLasts ? ui::Tone::Gold : ui::Tone::Plain};
+  }
+
+  void ShowReigns() {
+    if (cmbtitle.Selected() != 0) {
+      const Lineage& lineage = lineages_[static_cast<std::size_t>(cmbtitle.Selected() - 1)];
+      FillTable(lstreigns, reigns_, ReignsOf(world(), lineage),
+                [&](const TitleReign& reign) { return world().Reigns().NumberOf(reign); });
+      FillPlaces(lsttotals, totals_, TotalsOf(world(), lineage));
+    }
+    lblfacts.Text = cmbtitle.Count() == 0 ? "There is no Title in the world."
+                                          : Counted(lsttotals.Count(), "champion") + ".";
+  }
+
+  using K = ui::ColumnKind;
+  Lineage first_;
+  std::vector<Lineage> lineages_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ComboBox cmbtitle{*this, "cmbtitle", &frmReigns::ShowReigns};
+  const CellColumns<TitleReign> reigns_ = {
+      {{"Holder", K::Text, 5},
+       [](const TitleReign& reign) {
+         return ui::Cell(reign.Holder.View(), IsVacancy(reign) ? ui::Tone::Muted : ui::Tone::Plain);
+       }},
+      {{"From", K::Date, 3},
+       [](const TitleReign& reign) { return DateCell(reign.From, "Before the game"); }},
+      {{"Until", K::Date, 3},
+       [](const TitleReign& reign) {
+         return reign.End == kReignLasts ? ui::Cell(0.0, std::string())
+                                         : DateCell(reign.Until, "Unknown");
+       }},
+      {{"Days", K::Number},
+       [this](const TitleReign& reign) { return CountCell(DaysOf(reign, world().Today())); }},
+      {{"Defences", K::Number, 0, "On your shows; of others nobody counts them."},
+       [](const TitleReign& reign) {
+         return CountCell(IsVacancy(reign) ? -1 : int(reign.Defences));
+       }},
+      {{"End", K::Tag}, EndCell}};
+  const CellColumns<ChampionTotal> totals_ = {
+      {{"Champion", K::Text, 4}, [](const ChampionTotal& total) { return total.Name; }},
+      {{"Reigns", K::Number}, [](const ChampionTotal& total) { return ui::Cell(total.Reigns); }},
+      {{"Days", K::Number, 0, "Of the reigns whose length is known."},
+       [](const ChampionTotal& total) { return ui::Cell(total.Days); }},
+      {{"Defences", K::Number},
+       [](const ChampionTotal& total) { return CountCell(total.Defences); }}};
+  ui::ListBox lstreigns{*this, "lstreigns", HeadingsOf(reigns_)};
+  ui::ListBox lsttotals{*this, "lsttotals", HeadingsOf(totals_)};
+};
+
 enum Whose { kYours = 1, kEverybodys };
 enum ForHowMany { kForOne = 1, kForTwo };
 
 /// The player's Titles to be made, given, taken and given up; the whole world's to be looked at.
-class frmBelts : public ui::Screen {
+class frmBelts : public GameScreen {
  public:
-  explicit frmBelts(Game& game) : Screen(game.Desk(), "frmBelts", "Titles"), game_(game) {
+  explicit frmBelts(Game& game) : GameScreen(game, "frmBelts", "Titles", {.Manages = true}) {
     lsthistory.EmptyText = "Choose a Title to see who has held it.";
     lstwres.Multi = true;
     txtname.Hint = "Name";
@@ -33,20 +132,17 @@ class frmBelts : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdsuspend, &cmdvacate, &cmddissolve, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns(
-        {ui::Rows({ui::Group("", {cmbwhose, ui::Grow(lsttitles)}).Grow(3),
-                   ui::Group("Who has held it", {ui::Grow(lsthistory), cmdreigns}).Grow(2)})
-             .Grow(5),
-         ui::Rows(
-             {ui::Group("Name and kind", {txtname, cmdrename,
-                                          ui::Columns({cmbkind, chkwoman, chklight}), cmdcreate}),
-              ui::Group("Award it without a match", {ui::Grow(lstwres), cmdaward}).Grow()})
-             .Grow(3)});
-    return page;
+    return WithoutEnter(PageOf(
+        ui::Columns(
+            {ui::Rows({ui::Group("", {cmbwhose, ui::Grow(lsttitles)}).Grow(3),
+                       ui::Group("Who has held it", {ui::Grow(lsthistory), cmdreigns}).Grow(2)})
+                 .Grow(5),
+             ui::Rows({ui::Group("Name and kind",
+                                 {txtname, cmdrename, ui::Columns({cmbkind, chkwoman, chklight}),
+                                  cmdcreate}),
+                       ui::Group("Award it without a match", {ui::Grow(lstwres), cmdaward}).Grow()})
+                 .Grow(3)}),
+        &lblfacts, {&cmdsuspend, &cmdvacate, &cmddissolve}));
   }
 
   void Load() override {
@@ -60,7 +156,6 @@ class frmBelts : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   /// nullptr when none is selected.
   grapplemont::Title* Chosen() {
     return lsttitles.Key() == 0 ? nullptr : &world().Titles()[lsttitles.Key()];
@@ -155,8 +250,8 @@ class frmBelts : public ui::Screen {
 
   void cmdreigns_Click() {
     const grapplemont::Title* title = Chosen();
-    desk().Open(MakefrmReigns(game_, title ? title->Name.View() : std::string_view(),
-                              title ? int(title->Owner) : 0));
+    desk().Open(std::make_unique<frmReigns>(
+        game_, title ? Lineage{title->Name.Str(), title->Owner, {}, false} : Lineage{}));
   }
 
   void cmdcreate_Click() {
@@ -212,12 +307,6 @@ class frmBelts : public ui::Screen {
     Load();
   }
 
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
-
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbwhose{*this, "cmbwhose", &frmBelts::cmbwhose_Click};
   ui::ListBox lsttitles{*this, "lsttitles", HeadingsOf(TitleTable(world())),
@@ -235,140 +324,11 @@ class frmBelts : public ui::Screen {
   ui::Button cmdsuspend{*this, "cmdsuspend", "Suspend", &frmBelts::cmdsuspend_Click};
   ui::Button cmdvacate{*this, "cmdvacate", "Vacate", &frmBelts::cmdvacate_Click};
   ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmBelts::cmddissolve_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmBelts::cmdback_Click};
-};
-
-}  // namespace
-
-SCREEN(frmBelts)
-
-namespace {
-
-/// Every reign of a Title, of those that stand and those of the past, and what they add up to.
-class frmReigns : public ui::Screen {
- public:
-  explicit frmReigns(Game& game, Lineage first = {})
-      : Screen(game.Desk(), "frmReigns", "Reigns"), game_(game), first_(std::move(first)) {
-    lstreigns.EmptyText = "Nothing is known of its past.";
-    lsttotals.EmptyText = "Nobody has held it yet.";
-  }
-
-  ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body =
-        ui::Columns({ui::Group("", {ui::Field("Title", cmbtitle), ui::Grow(lstreigns)}).Grow(5),
-                     ui::Group("Champions", {ui::Grow(lsttotals)}).Grow(3)});
-    return page;
-  }
-
-  void Load() override {
-    if (!HasEnded(game_.World().Game())) UpdateReigns(game_.World());
-    lineages_ = LineagesOf(world());
-    for (const Lineage& lineage : lineages_)
-      cmbtitle.Add(
-          lineage.Title + " (" + lineage.Initials + ")" + (lineage.Stands ? "" : ", of the past"),
-          cmbtitle.Count() + 1);
-    cmbtitle.Select(cmbtitle.Count() > 0 ? 1 : 0);
-    Select();
-    ShowReigns();
-  }
-  void Return() override { ShowReigns(); }
-
- private:
-  const World& world() { return game_.World(); }
-
-  /// The Title that was asked for, else the player's first.
-  void Select() {
-    const auto asked = std::find(lineages_.begin(), lineages_.end(), first_);
-    const auto own = std::find_if(lineages_.begin(), lineages_.end(), [&](const Lineage& lineage) {
-      return lineage.Owner == world().PlayerUid();
-    });
-    const auto chosen = asked != lineages_.end() ? asked : own;
-    if (chosen != lineages_.end())
-      cmbtitle.Select(static_cast<int>(chosen - lineages_.begin()) + 1);
-  }
-
-  static ui::Cell DateCell(Day day, const char* unknown) {
-    if (day <= kNoTitleDate) return {0.0, unknown, ui::Tone::Muted};
-    return DayCell(day);
-  }
-
-  static ui::Cell CountCell(int number) {
-    return number < 0 ? ui::Cell(-1.0, std::string()) : ui::Cell(number);
-  }
-
-  static ui::Cell EndCell(const TitleReign& reign) {
-    constexpr const char* kEnds[] = {"Lasts", "Lost", "Vacated", "Dissolved"};
-    const int end = reign.End;
-    if (end < kReignLasts || end > kReignDissolved) return {""};
-    const bool says = end == kReignLasts || end == kReignDissolved || !IsVacancy(reign);
-    return {says ? kEnds[end] : "", end == kReignLasts ? ui::Tone::Gold : ui::Tone::Plain};
-  }
-
-  void ShowReigns() {
-    std::vector<ui::ListBox::Row> reigns, totals;
-    if (cmbtitle.Selected() != 0) {
-      const Lineage& lineage = lineages_[static_cast<std::size_t>(cmbtitle.Selected() - 1)];
-      for (const TitleReign* reign : ReignsOf(world(), lineage))
-        reigns.push_back(RowOf(reigns_, *reign, world().Reigns().NumberOf(*reign)));
-      for (const ChampionTotal& total : TotalsOf(world(), lineage))
-        totals.push_back(RowOf(totals_, total, static_cast<int>(totals.size()) + 1));
-    }
-    lblfacts.Text = cmbtitle.Count() == 0 ? "There is no Title in the world."
-                                          : Counted(std::ssize(totals), "champion") + ".";
-    lstreigns.Fill(std::move(reigns));
-    lsttotals.Fill(std::move(totals));
-  }
-
-  void cmdback_Click() { Close(); }
-
-  using K = ui::ColumnKind;
-  Game& game_;
-  Lineage first_;
-  std::vector<Lineage> lineages_;
-  ui::Label lblfacts{*this, "lblfacts"};
-  ui::ComboBox cmbtitle{*this, "cmbtitle", &frmReigns::ShowReigns};
-  const CellColumns<TitleReign> reigns_ = {
-      {{"Holder", K::Text, 5},
-       [](const TitleReign& reign) {
-         return ui::Cell(reign.Holder.View(), IsVacancy(reign) ? ui::Tone::Muted : ui::Tone::Plain);
-       }},
-      {{"From", K::Date, 3},
-       [](const TitleReign& reign) { return DateCell(reign.From, "Before the game"); }},
-      {{"Until", K::Date, 3},
-       [](const TitleReign& reign) {
-         return reign.End == kReignLasts ? ui::Cell(0.0, std::string())
-                                         : DateCell(reign.Until, "Unknown");
-       }},
-      {{"Days", K::Number},
-       [this](const TitleReign& reign) { return CountCell(DaysOf(reign, world().Today())); }},
-      {{"Defences", K::Number, 0, "On your shows; of others nobody counts them."},
-       [](const TitleReign& reign) {
-         return CountCell(IsVacancy(reign) ? -1 : int(reign.Defences));
-       }},
-      {{"End", K::Tag}, EndCell}};
-  const CellColumns<ChampionTotal> totals_ = {
-      {{"Champion", K::Text, 4}, [](const ChampionTotal& total) { return total.Name; }},
-      {{"Reigns", K::Number}, [](const ChampionTotal& total) { return ui::Cell(total.Reigns); }},
-      {{"Days", K::Number, 0, "Of the reigns whose length is known."},
-       [](const ChampionTotal& total) { return ui::Cell(total.Days); }},
-      {{"Defences", K::Number},
-       [](const ChampionTotal& total) { return CountCell(total.Defences); }}};
-  ui::ListBox lstreigns{*this, "lstreigns", HeadingsOf(reigns_)};
-  ui::ListBox lsttotals{*this, "lsttotals", HeadingsOf(totals_)};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmReigns::cmdback_Click};
 };
 
 }  // namespace
 
 SCREEN(frmReigns)
-
-std::unique_ptr<ui::Screen> MakefrmReigns(Game& game, std::string_view title, int owner) {
-  return std::make_unique<frmReigns>(game, Lineage{std::string(title), owner, {}, false});
-}
+SCREEN(frmBelts)
 
 }  // namespace grapplemont

@@ -2,7 +2,7 @@
 #include "storylines/feuds.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
-#include "storylines/screens/storyscreens.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -23,23 +23,19 @@ std::string Forecast(const StartingHeat& start) {
 
 /// Who is to feud with whom: a list a head. In a singles feud lists 1 and 2 are the sides; in a tag
 /// feud lists 1 and 2 are one side, lists 3 and 4 the other.
-class frmFeudStart : public ui::Screen {
+class frmFeudStart : public GameScreen {
  public:
-  explicit frmFeudStart(Game& game)
-      : Screen(game.Desk(), "frmFeudStart", "Start A Feud"), game_(game) {}
+  explicit frmFeudStart(Game& game) : GameScreen(game, "frmFeudStart", "Start A Feud") {
+    BackBefore(cmdstart);
+  }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblheat;
-    page.Actions = {&cmdback, &cmdstart};
-    page.Main = &cmdstart;
-    page.Cancel = &cmdback;
     std::vector<ui::Box> heads;
     for (int head = 1; head <= kHeads; ++head)
       heads.push_back(ui::Rows({lblheads(head), ui::Grow(lstwres(head))}).Grow());
-    page.Body = ui::Rows({ui::Columns({chksingles, lblwarning, ui::Spacer()}),
-                          ui::Group("", {ui::Columns(std::move(heads)).Grow()}).Grow()});
-    return page;
+    return PageOf(ui::Rows({ui::Columns({chksingles, lblwarning, ui::Spacer()}),
+                            ui::Group("", {ui::Columns(std::move(heads)).Grow()}).Grow()}),
+                  &lblheat, {}, &cmdstart);
   }
 
   void Load() override {
@@ -55,8 +51,6 @@ class frmFeudStart : public ui::Screen {
 
  private:
   static constexpr int kHeads = 4;
-
-  World& world() { return game_.World(); }
 
   void FillLists() {
     const std::vector<const Worker*> roster = FeudRoster(world());
@@ -129,9 +123,7 @@ class frmFeudStart : public ui::Screen {
 
   void cmdstart_Click() {
     const FeudSides sides = Chosen();
-    if (const std::string why = WhyNoFeud(world(), sides); !why.empty())
-      return desk().Say("Error!", why);
-    if (!IsAgreed(sides)) return;
+    if (desk().Objects(WhyNoFeud(world(), sides)) || !IsAgreed(sides)) return;
     if (!desk().Ask("Start?", "Are you sure you wish to start a feud between " +
                                   SideName(world(), sides.One) + " and " +
                                   SideName(world(), sides.Two) + "?"))
@@ -140,9 +132,6 @@ class frmFeudStart : public ui::Screen {
     Close();
   }
 
-  void cmdback_Click() { Close(); }
-
-  Game& game_;
   ui::CheckBox chksingles{*this, "chksingles", "Singles feud", true,
                           &frmFeudStart::chksingles_Click};
   ui::Label lblheat{*this, "lblheat"};
@@ -156,7 +145,6 @@ class frmFeudStart : public ui::Screen {
                                        *this, "lstwres" + std::to_string(head), ShortColumns(),
                                        [this, head] { lstwres_Click(head); });
                                  }};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFeudStart::cmdback_Click};
   ui::Button cmdstart{*this, "cmdstart", "Start Feud", &frmFeudStart::cmdstart_Click};
 };
 

@@ -1,10 +1,11 @@
+#include <algorithm>
 #include <array>
 
 #include "records/fields/fields.h"
 #include "records/world.h"
 #include "storylines/feuds.h"
 #include "storylines/screens/screenpeople.h"
-#include "storylines/screens/storyscreens.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -23,32 +24,106 @@ constexpr std::array<Counter, 4> kCounters = {{
     {"txtinter", "Verbal attacks", &Feud::Interference1, &Feud::Interference2},
     {"txtsneak", "Sneak attacks", &Feud::Sneak1, &Feud::Sneak2},
 }};
-constexpr int kKinds = static_cast<int>(kCounters.size());
 
-const Counter& CounterOf(int kind) {
-  return kCounters[static_cast<std::size_t>(kind - 1)];
+/// Asks, and on Yes ends the feud off camera. True when it has ended.
+bool EndFeudAfterAsking(Game& game, int slot) {
+  if (!game.Desk().Ask("End Feud?", "End this feud off-camera?", ui::Default::No)) return false;
+  EndFeudOffCamera(game.World(), slot);
+  return true;
 }
 
-/// The eight feud slots as one table, the score of the selected feud beside it.
-class frmFeuds : public ui::Screen {
+/// The numbers of one feud, by its slot from 1. Requires a slot that is taken.
+class frmFeudStat : public GameScreen {
  public:
-  explicit frmFeuds(Game& game) : Screen(game.Desk(), "frmFeuds", "Feuds"), game_(game) {
+  frmFeudStat(Game& game, int slot)
+      : GameScreen(game, "frmFeudStat", "Feud Statistics"), slot_(slot) {}
+
+  ui::Page Layout() override {
+    return PageOf(ui::Rows({ui::Group("The feud", {ui::Field("Heat", txtheat),
+                                                   ui::Field("Started", txtstarted)}),
+                            ui::Columns({ui::Group("Side one", one_.Layout()),
+                                         ui::Group("Side two", two_.Layout())}),
+                            ui::Spacer()}),
+                  &lblfacts, {&cmdend});
+  }
+
+  void Return() override {
+    const Feud& feud = world().Feuds()[slot_];
+    const FeudSides sides = SidesOf(feud);
+    const FeudScore score = FeudWins(feud);
+    one_.Show(SideName(world(), sides.One), feud, &Counter::One, score.One);
+    two_.Show(SideName(world(), sides.Two), feud, &Counter::Two, score.Two);
+    lblfacts.Text = one_.Name.Text.Get() + " vs " + two_.Name.Text.Get();
+    txtheat.Text = std::to_string(feud.Heat) + "%";
+    txtstarted.Text = PlainDate(feud.Started);
+  }
+
+ private:
+  /// "txtside1", "txtclean1" and so on.
+  struct Side {
+    Side(ui::Screen& screen, const std::string& number)
+        : Name(screen, "txtside" + number),
+          Counts("", static_cast<int>(kCounters.size()),
+                 [&](const std::string&, int kind) {
+                   return std::make_unique<ui::Label>(
+                       screen, kCounters[static_cast<std::size_t>(kind - 1)].Control + number);
+                 }),
+          Won(screen, "txtwon" + number) {}
+
+    std::vector<ui::Box> Layout() {
+      std::vector<ui::Box> box{Name};
+      int kind = 0;
+      for (const Counter& counter : kCounters)
+        box.push_back(ui::Field(counter.Caption, Counts(++kind)));
+      box.push_back(ui::Field("Won", Won));
+      return box;
+    }
+
+    void Show(const std::string& name, const Feud& feud, Natural Feud::*Counter::*side, int won) {
+      Name.Text = name;
+      int kind = 0;
+      for (const Counter& counter : kCounters)
+        Counts(++kind).Text = std::to_string(feud.*(counter.*side));
+      Won.Text = std::to_string(won);
+    }
+
+    ui::Label Name;
+    ui::Array<ui::Label> Counts;
+    ui::Label Won;
+  };
+
+  void cmdend_Click() {
+    if (EndFeudAfterAsking(game_, slot_)) Close();
+  }
+
+  int slot_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Label txtheat{*this, "txtheat"};
+  ui::Label txtstarted{*this, "txtstarted"};
+  Side one_{*this, "1"}, two_{*this, "2"};
+  ui::Button cmdend{*this, "cmdend", "End Feud", &frmFeudStat::cmdend_Click};
+};
+
+/// The eight feud slots as one table, the score of the selected feud beside it.
+class frmFeuds : public GameScreen {
+ public:
+  explicit frmFeuds(Game& game) : GameScreen(game, "frmFeuds", "Feuds", {.Manages = true}) {
+    BackBefore(cmdend);
     lstscore.EmptyText =
         "Nobody feuds in this slot. Start a feud, then feed it with matches, "
         "interviews and angles.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback, &cmdend, &cmdstat, &cmdask};
-    page.Main = &cmdask;
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("", {ui::Grow(lstfeuds)}).Grow(3),
+    return {
+        .Facts = &lblfacts,
+        .Actions = {&cmdback, &cmdend, &cmdstat, &cmdask},
+        .Main = &cmdask,
+        .Cancel = &cmdback,
+        .Body = ui::Columns({ui::Group("", {ui::Grow(lstfeuds)}).Grow(3),
                              ui::Rows({ui::Group("The score so far", {ui::Grow(lstscore)}).Grow(3),
                                        ui::Group("Maeve's advice", {ui::Grow(txtmaeve)}).Grow(2)})
-                                 .Grow(2)});
-    return page;
+                                 .Grow(2)})};
   }
 
   void Load() override {
@@ -66,22 +141,16 @@ class frmFeuds : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   /// The feud of a slot; an empty one where the file is too short to have it.
   Feud FeudOf(int slot) {
     return slot >= 1 && slot <= world().Feuds().Count() ? world().Feuds()[slot] : Feud{};
   }
 
   void ShowFeuds() {
-    std::vector<ui::ListBox::Row> rows;
-    int running = 0;
-    for (int slot = 1; slot <= kFeuds; ++slot) {
-      const Feud feud = FeudOf(slot);
-      if (!IsFreeSlot(feud)) ++running;
-      rows.push_back(RowOf(feuds_, feud, slot));
-    }
-    lstfeuds.Fill(std::move(rows));
+    std::vector<Feud> feuds;
+    for (int slot = 1; slot <= kFeuds; ++slot) feuds.push_back(FeudOf(slot));
+    FillPlaces(lstfeuds, feuds_, feuds);
+    const auto running = kFeuds - std::ranges::count_if(feuds, IsFreeSlot);
     lblfacts.Text = std::to_string(running) + " of " + std::to_string(kFeuds) + " feuds running.";
   }
 
@@ -135,7 +204,7 @@ class frmFeuds : public ui::Screen {
     txtmaeve.Write(AssessFeud(world(), feud));
   }
 
-  void cmdstat_Click() { desk().Open(MakefrmFeudStat(game_, lstfeuds.Key())); }
+  void cmdstat_Click() { desk().Open(std::make_unique<frmFeudStat>(game_, lstfeuds.Key())); }
 
   void cmdend_Click() {
     if (!EndFeudAfterAsking(game_, lstfeuds.Key())) return;
@@ -143,13 +212,7 @@ class frmFeuds : public ui::Screen {
     lstfeuds_Click();
   }
 
-  void cmdback_Click() {
-    Close();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
-  }
-
   using K = ui::ColumnKind;
-  Game& game_;
   int next_ = 0;  // the slot that a feud being started will take
   ui::Label lblfacts{*this, "lblfacts"};
   const CellColumns<Feud> feuds_ = {
@@ -167,7 +230,6 @@ class frmFeuds : public ui::Screen {
                        &frmFeuds::lstfeuds_DblClick};
   ui::ListBox lstscore{*this, "lstscore"};
   ui::Report txtmaeve{*this, "txtmaeve"};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFeuds::cmdback_Click};
   ui::Button cmdend{*this, "cmdend", "End Feud", &frmFeuds::cmdend_Click};
   ui::Button cmdstat{*this, "cmdstat", "Statistics", &frmFeuds::cmdstat_Click};
   ui::Button cmdask{*this, "cmdask", "Start Feud", &frmFeuds::cmdask_Click};
@@ -176,96 +238,5 @@ class frmFeuds : public ui::Screen {
 }  // namespace
 
 SCREEN(frmFeuds)
-
-namespace {
-
-class frmFeudStat : public ui::Screen {
- public:
-  frmFeudStat(Game& game, int slot)
-      : Screen(game.Desk(), "frmFeudStat", "Feud Statistics"), game_(game), slot_(slot) {}
-
-  ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdend, &cmdback};
-    page.Main = &cmdback;
-    page.Cancel = &cmdback;
-    page.Body = ui::Rows(
-        {ui::Group("The feud", {ui::Field("Heat", txtheat), ui::Field("Started", txtstarted)}),
-         ui::Columns({ui::Group("Side one", SideBox(txtside1, counts1, txtwon1)),
-                      ui::Group("Side two", SideBox(txtside2, counts2, txtwon2))}),
-         ui::Spacer()});
-    return page;
-  }
-
-  void Load() override { Show(); }
-  void Return() override { Show(); }
-
- private:
-  using Labels = ui::Array<ui::Label>;
-
-  static std::vector<ui::Box> SideBox(ui::Label& name, Labels& counts, ui::Label& won) {
-    std::vector<ui::Box> box{name};
-    for (int kind = 1; kind <= kKinds; ++kind)
-      box.push_back(ui::Field(CounterOf(kind).Caption, counts(kind)));
-    box.push_back(ui::Field("Won", won));
-    return box;
-  }
-
-  Labels CountLabels(const std::string& side) {
-    return Labels("", kKinds, [this, side](const std::string&, int kind) {
-      return std::make_unique<ui::Label>(*this, CounterOf(kind).Control + side);
-    });
-  }
-
-  void Show() {
-    const World& world = game_.World();
-    const Feud& feud = world.Feuds()[slot_];
-    const FeudSides sides = SidesOf(feud);
-    const FeudScore score = FeudWins(feud);
-    txtside1.Text = SideName(world, sides.One);
-    txtside2.Text = SideName(world, sides.Two);
-    lblfacts.Text = txtside1.Text.Get() + " vs " + txtside2.Text.Get();
-    txtheat.Text = std::to_string(feud.Heat) + "%";
-    txtstarted.Text = PlainDate(feud.Started);
-    for (int kind = 1; kind <= kKinds; ++kind) {
-      counts1(kind).Text = std::to_string(feud.*CounterOf(kind).One);
-      counts2(kind).Text = std::to_string(feud.*CounterOf(kind).Two);
-    }
-    txtwon1.Text = std::to_string(score.One);
-    txtwon2.Text = std::to_string(score.Two);
-  }
-
-  void cmdend_Click() {
-    if (EndFeudAfterAsking(game_, slot_)) Close();
-  }
-  void cmdback_Click() { Close(); }
-
-  Game& game_;
-  int slot_;
-  ui::Label lblfacts{*this, "lblfacts"};
-  ui::Label txtheat{*this, "txtheat"};
-  ui::Label txtstarted{*this, "txtstarted"};
-  ui::Label txtside1{*this, "txtside1"};
-  Labels counts1 = CountLabels("1");
-  ui::Label txtwon1{*this, "txtwon1"};
-  ui::Label txtside2{*this, "txtside2"};
-  Labels counts2 = CountLabels("2");
-  ui::Label txtwon2{*this, "txtwon2"};
-  ui::Button cmdend{*this, "cmdend", "End Feud", &frmFeudStat::cmdend_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmFeudStat::cmdback_Click};
-};
-
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmFeudStat(Game& game, int slot) {
-  return std::make_unique<frmFeudStat>(game, slot);
-}
-
-bool EndFeudAfterAsking(Game& game, int slot) {
-  if (!game.Desk().Ask("End Feud?", "End this feud off-camera?", ui::Default::No)) return false;
-  EndFeudOffCamera(game.World(), slot);
-  return true;
-}
 
 }  // namespace grapplemont

@@ -2,17 +2,17 @@
 #include "records/modWresCheck.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
-#include "storylines/screens/storyscreens.h"
 #include "storylines/storynames.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
 namespace {
 
 /// The player's Tag Teams, and the roster that new ones are formed from.
-class frmTagTeams : public ui::Screen {
+class frmTagTeams : public GameScreen {
  public:
-  explicit frmTagTeams(Game& game) : Screen(game.Desk(), "frmTagTeams", "Tag Teams"), game_(game) {
+  explicit frmTagTeams(Game& game) : GameScreen(game, "frmTagTeams", "Tag Teams") {
     lstteams.EmptyText = "You have no team yet. Choose two workers below, name them, form a team.";
     for (int head : {1, 2}) lstwres(head).EmptyText = "Nobody works for you yet.";
     txtname.Hint = "Name of the team";
@@ -20,11 +20,7 @@ class frmTagTeams : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmddissolve, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body =
+    return WithoutEnter(PageOf(
         ui::Rows({ui::Group("Your teams", {ui::Grow(lstteams)}).Grow(2),
                   ui::Columns({ui::Group("First worker", {ui::Grow(lstwres(1))}).Grow(3),
                                ui::Group("Second worker", {ui::Grow(lstwres(2))}).Grow(3),
@@ -32,8 +28,8 @@ class frmTagTeams : public ui::Screen {
                                                       ui::Field("Finisher", txtfinisher), lblpair,
                                                       cmdcreate, cmdrename, cmdfinisher})
                                    .Grow(3)})
-                      .Grow(3)});
-    return page;
+                      .Grow(3)}),
+        &lblfacts, {&cmddissolve}));
   }
 
   void Load() override {
@@ -47,17 +43,13 @@ class frmTagTeams : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
   /// nullptr when none is selected.
   Team* Chosen() { return lstteams.Key() == 0 ? nullptr : &world().Teams()[lstteams.Key()]; }
 
   void ShowTeams() {
-    std::vector<ui::ListBox::Row> rows;
-    for (const int number : PlayerTeams(world()))
-      rows.push_back(RowOf(teams_, world().Teams()[number], number));
-    const auto count = std::ssize(rows);
-    lstteams.Fill(std::move(rows));
-    lblfacts.Text = count == 0 ? "No team yet" : Counted(count, "team");
+    FillTable(lstteams, teams_, PlayerTeams(world()),
+              [&](const Team& team) { return world().Teams().NumberOf(team); });
+    lblfacts.Text = lstteams.Count() == 0 ? "No team yet" : Counted(lstteams.Count(), "team");
   }
 
   void ShowRoster() {
@@ -91,8 +83,8 @@ class frmTagTeams : public ui::Screen {
   void cmdcreate_Click() {
     const int first = lstwres(1).Key(), second = lstwres(2).Key();
     const std::string name = Typed(txtname), finisher = Typed(txtfinisher);
-    if (desk().Objects(WhyNotTeam(world(), first, second))) return;
-    if (desk().Objects(WhyNotTeamName(world(), name)) || desk().Objects(WhyNotFinisher(finisher)))
+    if (desk().Objects(WhyNotTeam(world(), first, second)) ||
+        desk().Objects(WhyNotTeamName(world(), name)) || desk().Objects(WhyNotFinisher(finisher)))
       return;
     const int number = FormTeam(world(), name, first, second, finisher);
     ShowTeams();
@@ -120,16 +112,11 @@ class frmTagTeams : public ui::Screen {
     if (!desk().Ask("Dissolve?", "Are you sure you wish to dissolve " + Chosen()->Name + "?",
                     ui::Default::No))
       return;
-    DissolveTeam(world(), lstteams.Key());
-    ShowTeams();
-    lstteams.Select(lstteams.Count() > 0 ? 1 : 0);
-    lstteams_Click();
+    world().Teams().Erase(lstteams.Key());
+    Load();
   }
 
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   const CellColumns<Team> teams_ = {
       {{"Team", K::Text, 4}, [](const Team& team) { return team.Name.View(); }},
@@ -154,19 +141,12 @@ class frmTagTeams : public ui::Screen {
   ui::Button cmdrename{*this, "cmdrename", "Rename", &frmTagTeams::cmdrename_Click};
   ui::Button cmdfinisher{*this, "cmdfinisher", "Set Finisher", &frmTagTeams::cmdfinisher_Click};
   ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmTagTeams::cmddissolve_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmTagTeams::cmdback_Click};
 };
 
-}  // namespace
-
-SCREEN(frmTagTeams)
-
-namespace {
-
 /// The player's stables: who is in them and who could be.
-class frmStables : public ui::Screen {
+class frmStables : public GameScreen {
  public:
-  explicit frmStables(Game& game) : Screen(game.Desk(), "frmStables", "Stables"), game_(game) {
+  explicit frmStables(Game& game) : GameScreen(game, "frmStables", "Stables") {
     lststables.EmptyText = "You have no stable yet. Type a name below and found one.";
     lstmembers.EmptyText = "Nobody is in this stable. Choose somebody at the right and add him.";
     lstwres.EmptyText = "Everybody you have is in this stable.";
@@ -174,16 +154,13 @@ class frmStables : public ui::Screen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmddissolve, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Rows({ui::Group("Your stables", {ui::Grow(lststables)}).Grow(),
-                                       ui::Group("Name", {txtname, cmdcreate, cmdrename})})
-                                 .Grow(3),
-                             ui::Group("Members", {ui::Grow(lstmembers), cmdremove}).Grow(3),
-                             ui::Group("Not in this stable", {ui::Grow(lstwres), cmdadd}).Grow(4)});
-    return page;
+    return WithoutEnter(
+        PageOf(ui::Columns({ui::Rows({ui::Group("Your stables", {ui::Grow(lststables)}).Grow(),
+                                      ui::Group("Name", {txtname, cmdcreate, cmdrename})})
+                                .Grow(3),
+                            ui::Group("Members", {ui::Grow(lstmembers), cmdremove}).Grow(3),
+                            ui::Group("Not in this stable", {ui::Grow(lstwres), cmdadd}).Grow(4)}),
+               &lblfacts, {&cmddissolve}));
   }
 
   void Load() override {
@@ -197,8 +174,6 @@ class frmStables : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   /// Empty when none is selected.
   std::string Chosen() {
     const int number = lststables.Key();
@@ -206,12 +181,10 @@ class frmStables : public ui::Screen {
   }
 
   void ShowStables() {
-    std::vector<ui::ListBox::Row> rows;
-    for (const Stable* stable : PlayerStables(world()))
-      rows.push_back(RowOf(stables_, *stable, world().Stables().NumberOf(*stable)));
-    const auto count = std::ssize(rows);
-    lststables.Fill(std::move(rows));
-    lblfacts.Text = count == 0 ? "No stable yet" : Counted(count, "stable");
+    FillTable(lststables, stables_, PlayerStables(world()),
+              [&](const Stable& stable) { return world().Stables().NumberOf(stable); });
+    lblfacts.Text =
+        lststables.Count() == 0 ? "No stable yet" : Counted(lststables.Count(), "stable");
   }
 
   void ShowStable() {
@@ -278,27 +251,22 @@ class frmStables : public ui::Screen {
                     ui::Default::No))
       return;
     DissolveStable(world(), stable);
-    ShowStables();
-    lststables.Select(lststables.Count() > 0 ? 1 : 0);
-    lststables_Click();
+    Load();
   }
 
   void cmdadd_Click() {
     Worker* worker = world().FindWorker(lstwres.Key());
     if (!worker || desk().Objects(WhyNotJoin(world(), Chosen(), *worker))) return;
-    JoinStable(*worker, Chosen());
+    worker->Stable = Chosen();
     Return();
   }
 
   void cmdremove_Click() {
-    if (Worker* worker = world().FindWorker(lstmembers.Key())) LeaveStable(*worker);
+    if (Worker* worker = world().FindWorker(lstmembers.Key())) worker->Stable = "None";
     Return();
   }
 
-  void cmdback_Click() { Close(); }
-
   using K = ui::ColumnKind;
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   const CellColumns<Stable> stables_ = {
       {{"Stable", K::Text, 4}, [](const Stable& stable) { return stable.Name.View(); }},
@@ -323,11 +291,11 @@ class frmStables : public ui::Screen {
   ui::ListBox lstwres{*this, "lstwres", HeadingsOf(others_), &frmStables::ShowButtons, cmdadd};
   ui::Button cmdadd{*this, "cmdadd", "Add To The Stable", &frmStables::cmdadd_Click};
   ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmStables::cmddissolve_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmStables::cmdback_Click};
 };
 
 }  // namespace
 
+SCREEN(frmTagTeams)
 SCREEN(frmStables)
 
 }  // namespace grapplemont

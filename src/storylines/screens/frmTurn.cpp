@@ -5,8 +5,8 @@
 #include "records/modWresCheck.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
-#include "storylines/screens/storyscreens.h"
 #include "storylines/storynames.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -15,25 +15,21 @@ namespace {
 using K = ui::ColumnKind;
 
 /// Who manages whom, and who could.
-class frmManagers : public ui::Screen {
+class frmManagers : public GameScreen {
  public:
-  explicit frmManagers(Game& game) : Screen(game.Desk(), "frmManagers", "Managers"), game_(game) {
+  explicit frmManagers(Game& game) : GameScreen(game, "frmManagers", "Managers") {
     lstclients.EmptyText = "Nobody wrestles for you yet.";
     lstmanagers.EmptyText = "You have no manager. Hire one, or make one of a worker.";
     lsthis.EmptyText = "No client yet. Choose a wrestler, then give this manager.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    page.Body =
+    return WithoutEnter(PageOf(
         ui::Columns({ui::Group("Your wrestlers", {ui::Grow(lstclients), cmdtake}).Grow(3),
                      ui::Rows({ui::Group("Your managers", {ui::Grow(lstmanagers), cmdgive}).Grow(3),
                                ui::Group("Clients of this manager", {ui::Grow(lsthis)}).Grow(2)})
-                         .Grow(3)});
-    return page;
+                         .Grow(3)}),
+        &lblfacts));
   }
 
   void Load() override {
@@ -49,8 +45,6 @@ class frmManagers : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   void ShowClients() {
     const std::vector<const Worker*> clients = Clients(world());
     const auto managed = std::count_if(clients.begin(), clients.end(), [&](const Worker* client) {
@@ -94,9 +88,6 @@ class frmManagers : public ui::Screen {
     Return();
   }
 
-  void cmdback_Click() { Close(); }
-
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   const CellColumns<Worker> clients_ = PeopleTable(
       {{{"Manager", K::Text, 4}, [this](const Worker& client) { return ManagerCell(client); }}});
@@ -115,30 +106,20 @@ class frmManagers : public ui::Screen {
   ui::ListBox lsthis{*this, "lsthis", ShortColumns()};
   ui::Button cmdgive{*this, "cmdgive", "Give This Manager", &frmManagers::cmdgive_Click};
   ui::Button cmdtake{*this, "cmdtake", "Take The Manager Away", &frmManagers::cmdtake_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmManagers::cmdback_Click};
 };
 
-}  // namespace
-
-SCREEN(frmManagers)
-
-namespace {
-
 /// Whose turn is being prepared.
-class frmTurn : public ui::Screen {
+class frmTurn : public GameScreen {
  public:
-  explicit frmTurn(Game& game) : Screen(game.Desk(), "frmTurn", "Turns"), game_(game) {
+  explicit frmTurn(Game& game) : GameScreen(game, "frmTurn", "Turns") {
     lstwres.EmptyText = "Nobody works for you yet.";
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(3),
-                             ui::Group("The turn", {ui::Grow(txtturn), cmdturn}).Grow(2)});
-    return page;
+    return WithoutEnter(
+        PageOf(ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(3),
+                            ui::Group("The turn", {ui::Grow(txtturn), cmdturn}).Grow(2)}),
+               &lblfacts));
   }
 
   void Load() override {
@@ -152,8 +133,6 @@ class frmTurn : public ui::Screen {
   }
 
  private:
-  World& world() { return game_.World(); }
-
   void ShowRoster() {
     const std::vector<const Worker*> seen = SeenOnShows(world());
     const auto pending = std::count_if(
@@ -194,9 +173,6 @@ class frmTurn : public ui::Screen {
     Return();
   }
 
-  void cmdback_Click() { Close(); }
-
-  Game& game_;
   ui::Label lblfacts{*this, "lblfacts"};
   const CellColumns<Worker> columns_ = PeopleTable(
       {{{"Last turn", K::Date, 3}, [this](const Worker& worker) { return LastTurnCell(worker); }},
@@ -206,11 +182,11 @@ class frmTurn : public ui::Screen {
   ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmTurn::ShowTurn, cmdturn};
   ui::Report txtturn{*this, "txtturn"};
   ui::Button cmdturn{*this, "cmdturn", "Prepare A Turn", &frmTurn::cmdturn_Click};
-  ui::Button cmdback{*this, "cmdback", "Back", &frmTurn::cmdback_Click};
 };
 
 }  // namespace
 
+SCREEN(frmManagers)
 SCREEN(frmTurn)
 
 }  // namespace grapplemont

@@ -16,11 +16,6 @@ using K = ui::ColumnKind;
 /// A reign that has lasted since before the game has no day.
 constexpr const char* kFromTheStart = "From the start";
 
-ui::Cell DateCell(Day day, const char* unknown) {
-  if (day <= kNoTitleDate) return {unknown, ui::Tone::Muted};
-  return DayCell(day);
-}
-
 ui::Cell ChampionCell(const World& world, const Title& title) {
   return {ChampionText(world, title), title.Holder == 0 ? ui::Tone::Muted : ui::Tone::Plain};
 }
@@ -30,6 +25,11 @@ ui::Cell StandingCell(const World& world, const Title& title) {
   const std::string why = WhyNoDefence(world, title);
   return {why.empty() ? why : "Holder " + why, ui::Tone::Amber};
 }
+
+const CellColumns<Reign> kReignTable = {
+    {{"Holder"}, [](const Reign& reign) { return reign.Holder.View(); }},
+    {{"Won", K::Date}, [](const Reign& reign) { return DateCell(reign.Won, kFromTheStart); }},
+    {{"Lost", K::Date}, [](const Reign& reign) { return DateCell(reign.Lost, ""); }}};
 
 }  // namespace
 
@@ -51,6 +51,10 @@ ui::Cell DayCell(Day day) {
   return {static_cast<double>((day - kDayZero).count()), PlainDate(day)};
 }
 
+ui::Cell DateCell(Day day, const char* unknown) {
+  return day > kNoTitleDate ? DayCell(day) : ui::Cell(unknown, ui::Tone::Muted);
+}
+
 CellColumns<Worker> PeopleTable(CellColumns<Worker> more) {
   CellColumns<Worker> columns = {
       {{"Name", K::Text, 4}, [](const Worker& worker) { return worker.Name.View(); }},
@@ -59,13 +63,6 @@ CellColumns<Worker> PeopleTable(CellColumns<Worker> more) {
        [](const Worker& worker) { return ui::Cell(worker.Over); }}};
   std::move(more.begin(), more.end(), std::back_inserter(columns));
   return columns;
-}
-
-void FillTable(ui::ListBox& list, const CellColumns<Worker>& columns,
-               const std::vector<const Worker*>& people) {
-  std::vector<ui::ListBox::Row> rows;
-  for (const Worker* worker : people) rows.push_back(RowOf(columns, *worker, worker->Uid));
-  list.Fill(std::move(rows));
 }
 
 std::vector<ui::Column> ShortColumns() {
@@ -89,6 +86,11 @@ void EnableUnless(Controls controls, const std::string& why) {
   for (ui::Control& control : controls) EnableUnless(control, why);
 }
 
+ui::Page WithoutEnter(ui::Page page) {
+  page.Main = nullptr;
+  return page;
+}
+
 CellColumns<Title> TitleTable(const World& world) {
   return {{{"Title"}, [](const Title& title) { return title.Name.View(); }},
           {{"Kind", K::Tag}, KindText},
@@ -103,27 +105,15 @@ CellColumns<Title> TitleTable(const World& world) {
            [&](const Title& title) { return StandingCell(world, title); }}};
 }
 
-namespace {
-
-const CellColumns<Reign>& ReignTable() {
-  static const CellColumns<Reign> kColumns = {
-      {{"Holder"}, [](const Reign& reign) { return reign.Holder.View(); }},
-      {{"Won", K::Date}, [](const Reign& reign) { return DateCell(reign.Won, kFromTheStart); }},
-      {{"Lost", K::Date}, [](const Reign& reign) { return DateCell(reign.Lost, ""); }}};
-  return kColumns;
-}
-
-}  // namespace
-
 std::vector<ui::Column> ReignColumns() {
-  return HeadingsOf(ReignTable());
+  return HeadingsOf(kReignTable);
 }
 
 std::vector<ui::ListBox::Row> ReignRows(const Title& title) {
   std::vector<ui::ListBox::Row> rows;
   for (const Reign& reign : title.Reigns)
     if (reign.Holder != "None")
-      rows.push_back(RowOf(ReignTable(), reign, static_cast<int>(rows.size()) + 1));
+      rows.push_back(RowOf(kReignTable, reign, static_cast<int>(rows.size()) + 1));
   return rows;
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "records/world.h"
-#include "ui/controls.h"
+#include "ui/screen.h"
 
 namespace grapplemont {
 
@@ -34,6 +34,37 @@ ui::ListBox::Row RowOf(const CellColumns<Record>& columns, const Record& record,
   return row;
 }
 
+template <class Record>
+const Record& RecordOf(const Record& record) {
+  return record;
+}
+template <class Record>
+const Record& RecordOf(const Record* record) {
+  return *record;
+}
+/// Fills a table with records, or with what pointers lead to, under the keys that `keyOf` gives;
+/// what is selected stays so.
+template <class Record, class All, class Key>
+void FillTable(ui::ListBox& list, const CellColumns<Record>& columns, const All& records,
+               Key keyOf) {
+  std::vector<ui::ListBox::Row> rows;
+  for (const auto& each : records) {
+    const Record& record = RecordOf<Record>(each);
+    rows.push_back(RowOf(columns, record, keyOf(record)));
+  }
+  list.Fill(std::move(rows));
+}
+/// The same under their uids.
+template <class Record, class All>
+void FillTable(ui::ListBox& list, const CellColumns<Record>& columns, const All& records) {
+  FillTable(list, columns, records, [](const Record& record) { return int(record.Uid); });
+}
+/// The same under their places, from 1.
+template <class Record, class All>
+void FillPlaces(ui::ListBox& list, const CellColumns<Record>& columns, const All& records) {
+  FillTable(list, columns, records, [place = 0](const Record&) mutable { return ++place; });
+}
+
 /// Blue for a Face, red for a Heel, grey for a Tweener.
 ui::Tone DispositionTone(const Worker& worker);
 /// "Face" in blue, "Heel" in red, "Tweener" in grey.
@@ -43,20 +74,22 @@ ui::Cell StatusCell(const Worker& worker);
 
 /// Name, disposition and Over; then `more`.
 CellColumns<Worker> PeopleTable(CellColumns<Worker> more = {});
-/// Fills such a table; what is selected stays so.
-void FillTable(ui::ListBox& list, const CellColumns<Worker>& columns,
-               const std::vector<const Worker*>& people);
 /// The table and the row of these three alone.
 std::vector<ui::Column> ShortColumns();
 std::vector<ui::Cell> ShortRow(const Worker& worker);
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people);
 /// A day, sorted by its date.
 ui::Cell DayCell(Day day);
+/// The same of a Title's past, where a day may be unknown.
+ui::Cell DateCell(Day day, const char* unknown);
 
 /// Enables a control, or disables it with the reason as its tip.
 void EnableUnless(ui::Control& control, const std::string& why);
 using Controls = std::initializer_list<std::reference_wrapper<ui::Control>>;
 void EnableUnless(Controls controls, const std::string& why);
+
+/// The same page, on which Enter does nothing.
+ui::Page WithoutEnter(ui::Page page);
 
 // How Titles stand in tables.
 
