@@ -6,7 +6,7 @@
 #include "business/past.h"
 #include "business/tvtalks.h"
 #include "info/infowords.h"
-#include "info/meetingfacts.h"
+#include "info/meeting.h"
 #include "info/worldnews.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"

@@ -121,6 +121,21 @@ constexpr const char* kNowhere =
 constexpr const char* kNoMove =
     ": 'I don't think leaving is a good career move for me at the moment.'";
 
+/// The smallest promotion, by its size, that this Over would still go to.
+int SmallestFor(int over) {
+  if (over >= 86) return kNational;
+  if (over >= 66) return kCult;
+  if (over >= 41) return kRegional;
+  return over >= 20 ? kSmall : kBackyard;
+}
+
+/// Whether any promotion there is, the player's included, is big enough for him.
+bool HasMarket(const World& world, const Worker& worker) {
+  const int smallest = SmallestFor(worker.Over);
+  return std::ranges::any_of(
+      world.Promotions(), [=](const Promotion& promotion) { return promotion.Size <= smallest; });
+}
+
 /// Why he would go; nullptr when he would rather stay.
 const Reason* ReasonToGo(const World& world, const Worker& worker) {
   const Promotion& own = world.Player();
@@ -130,19 +145,6 @@ const Reason* ReasonToGo(const World& world, const Worker& worker) {
 }
 
 }  // namespace
-
-int SmallestFor(int over) {
-  if (over >= 86) return kNational;
-  if (over >= 66) return kCult;
-  if (over >= 41) return kRegional;
-  return over >= 20 ? kSmall : kBackyard;
-}
-
-bool HasMarket(const World& world, const Worker& worker) {
-  const int smallest = SmallestFor(worker.Over);
-  return std::ranges::any_of(
-      world.Promotions(), [=](const Promotion& promotion) { return promotion.Size <= smallest; });
-}
 
 ReleaseAnswer AnswerToRelease(const World& world, const Worker& worker) {
   ReleaseAnswer answer;
@@ -185,10 +187,6 @@ void BreakWord(World& world, Worker& worker) {
           "I can't believe you broke my verbal contract! I'll never work for you again!");
 }
 
-long long CostOf(const World& world, const Worker& worker) {
-  return BuyOutCost(world.Game().Difficulty, worker.Wage, worker.ContractMonths);
-}
-
 }  // namespace
 
 long long BuyOutCost(int difficulty, int wage, int months) {
@@ -200,6 +198,11 @@ long long BuyOutCost(int difficulty, int wage, int months) {
   return cost < 0 ? 6 * month : cost;
 }
 
+Parting PartingOf(const Staff& staff) {
+  if (staff.Morale < 20) return Parting::Gladly;
+  return staff.ContractType == "Non" ? Parting::Verbal : Parting::BuyOut;
+}
+
 Parting PartingOf(const Worker& worker) {
   if (worker.Status == "Hom" || worker.Morale < 20) return Parting::Gladly;
   return worker.ContractType == "Non" ? Parting::Verbal : Parting::BuyOut;
@@ -208,7 +211,7 @@ Parting PartingOf(const Worker& worker) {
 std::string TerminationQuestion(const World& world, const Worker& worker) {
   switch (PartingOf(worker)) {
     case Parting::BuyOut:
-      return "Terminating this contract will cost $" + std::to_string(CostOf(world, worker)) +
+      return "Terminating this contract will cost $" + std::to_string(BuyOutCost(world, worker)) +
              ". Proceed?";
     case Parting::Verbal:
       return "This worker is only under a verbal contract, and so can be released for free. "
@@ -221,10 +224,7 @@ std::string TerminationQuestion(const World& world, const Worker& worker) {
 
 void Terminate(World& world, Worker& worker) {
   const Parting parting = PartingOf(worker);
-  if (parting == Parting::BuyOut) {
-    world.Player().Money -= CostOf(world, worker);
-    worker.Loyalty -= 30;
-  }
+  if (parting == Parting::BuyOut) BuyOut(world, worker);
   if (parting == Parting::Verbal) BreakWord(world, worker);
   ReleaseWorker(world, worker);
 }

@@ -262,7 +262,7 @@ class StaffTalk : public TalkWith<Staff> {
     const ContractOffer offer = offer_.Offer();
     const std::string no = JudgeStaffOffer(world(), staff, StaffDemandsOf(world(), staff), offer);
     if (!no.empty()) return desk().Say("Rejected!", no);
-    own_ ? RenewStaff(staff, offer) : HireStaff(world(), staff, offer);
+    own_ ? PutInto(staff, offer) : HireStaff(world(), staff, offer);
     Agree(staff.Name, offer.Written);
   }
 
