@@ -258,6 +258,7 @@ std::vector<RankRow> RowsOf(const World& world, const Ranking& ranking) {
     return a.First.Number > b.First.Number;
   });
   if (rows.size() > kMost) rows.resize(kMost);
+  for (int place = 1; RankRow & row : rows) row.Place = place++;
   return rows;
 }
 
