@@ -230,11 +230,6 @@ void TalkOfCamp(Meeting& meeting) {
               {{"names", SomeOf(learned)}, {"skill", Number(BestSkillOf(best))}});
 }
 
-/// Posts from which somebody speaks at the meeting.
-constexpr bool SpeaksHere(int post) {
-  return post != kReferee;
-}
-
 }  // namespace
 
 void TalkOfContracts(Meeting& meeting) {
@@ -271,7 +266,7 @@ void TalkOfStaff(Meeting& meeting) {
                                      {"n", Number(post.Have)},
                                      {"need", Number(post.Need)},
                                      {"remedy", PostAdvice({post})}});
-    else if (post.Have == 0 && SpeaksHere(post.Post))
+    else if (post.Have == 0 && post.Post != kReferee)  // who has nothing to say here
       empty.push_back(name);
   }
   if (!empty.empty()) meeting.Say(Point::PostEmpty, {{"posts", Joined(empty)}});

@@ -178,19 +178,6 @@ void TalkOfHeldTitle(Meeting& meeting, const Title& title) {
   if (isDated && days > kLongReign) meeting.Say(Point::TitleLong, words);
 }
 
-/// The next Event day that the player has to think about, today or later.
-Day EventDayAhead(const World& world) {
-  Day day = world.Today();
-  while (!IsEventDay(day)) day += std::chrono::days{1};
-  return day;
-}
-
-int HotFeuds(const World& world) {
-  int hot = 0;
-  for (const Feud& feud : world.Feuds()) hot += !IsFreeSlot(feud) && feud.Heat >= kFitForAnEvent;
-  return hot;
-}
-
 }  // namespace
 
 int FallsInARow(const Promotion& promotion) {
@@ -252,7 +239,8 @@ void TalkOfTitles(Meeting& meeting) {
 
 void TalkOfEvents(Meeting& meeting) {
   const World& world = meeting.Of();
-  const Day day = EventDayAhead(world);
+  Day day = world.Today();
+  while (!IsEventDay(day)) day += std::chrono::days{1};
   const auto days = (day - world.Today()).count();
   if (days > kDaysAhead) return;
   const Event* event = PlayerEvent(world, MonthOf(day));
@@ -266,9 +254,12 @@ void TalkOfEvents(Meeting& meeting) {
                                    {"money", Dollars(meeting.Player().Money)}});
   if (days > kNear) return;
   const auto fit = FitWrestlers(world).size();
+  const auto hot = std::ranges::count_if(world.Feuds(), [](const Feud& feud) {
+    return !IsFreeSlot(feud) && feud.Heat >= kFitForAnEvent;
+  });
   meeting.Say(Point::EventNear, {{"event", event->Name.Str()},
                                  {"days", Counted(days, "day")},
-                                 {"feuds", Number(HotFeuds(world))},
+                                 {"feuds", Number(hot)},
                                  {"fit", Counted(fit, "fit person", "fit people")},
                                  {"are", fit == 1 ? "is" : "are"}});
 }

@@ -89,29 +89,18 @@ namespace {
 
 constexpr int kPoorMarket = 40;  // of the economy
 
-struct Reason {
-  bool (*Holds)(const Promotion& own, const Worker& who);
+/// Whoever is so popular in a promotion of this size would try a bigger one.
+struct Ambition {
+  int Size, Over;
   const char* Words;
 };
-constexpr Reason kReasons[] = {
-    {[](const Promotion& own, const Worker&) { return own.Money < 0; },
-     ": 'With the financial situation of the company the way it is, i accept!'"},
-    {[](const Promotion&, const Worker& who) { return who.Morale < 40; },
-     ": 'I am unhappy here, so i accept!'"},
-    {[](const Promotion& own, const Worker& who) {
-       return own.Size == kBackyard && who.Over >= 21;
-     },
-     ": 'I accept, i'd like to try my luck in a bigger promotion.'"},
-    {[](const Promotion& own, const Worker& who) { return own.Size == kSmall && who.Over >= 41; },
-     ": 'I was thinking of moving to another promotion anyway, so i accept!'"},
-    {[](const Promotion& own, const Worker& who) {
-       return own.Size == kRegional && who.Over >= 56;
-     },
-     ": 'Thanks boss, i was hoping to try my luck elsewhere. I accept.'"},
-    {[](const Promotion& own, const Worker& who) {
-       return (own.Size == kCult && who.Over >= 71) || (own.Size == kNational && who.Over >= 83);
-     },
-     ": 'Thanks, i will accept so that i can try my luck elsewhere.'"},
+constexpr const char* kTryMyLuck = ": 'Thanks, i will accept so that i can try my luck elsewhere.'";
+constexpr Ambition kAmbitions[] = {
+    {kBackyard, 21, ": 'I accept, i'd like to try my luck in a bigger promotion.'"},
+    {kSmall, 41, ": 'I was thinking of moving to another promotion anyway, so i accept!'"},
+    {kRegional, 56, ": 'Thanks boss, i was hoping to try my luck elsewhere. I accept.'"},
+    {kCult, 71, kTryMyLuck},
+    {kNational, 83, kTryMyLuck},
 };
 
 constexpr const char* kPoorTimes =
@@ -137,11 +126,14 @@ bool HasMarket(const World& world, const Worker& worker) {
 }
 
 /// Why he would go; nullptr when he would rather stay.
-const Reason* ReasonToGo(const World& world, const Worker& worker) {
+const char* ReasonToGo(const World& world, const Worker& worker) {
   const Promotion& own = world.Player();
-  const auto reason =
-      std::ranges::find_if(kReasons, [&](const Reason& r) { return r.Holds(own, worker); });
-  return reason == std::end(kReasons) ? nullptr : reason;
+  if (own.Money < 0)
+    return ": 'With the financial situation of the company the way it is, i accept!'";
+  if (worker.Morale < 40) return ": 'I am unhappy here, so i accept!'";
+  for (const Ambition& row : kAmbitions)
+    if (own.Size == row.Size && worker.Over >= row.Over) return row.Words;
+  return nullptr;
 }
 
 }  // namespace
@@ -155,9 +147,9 @@ ReleaseAnswer AnswerToRelease(const World& world, const Worker& worker) {
   if (poor) say("Rejected", kPoorTimes);
   if (!market) say("Rejected", kNowhere);
   if (!poor && market) {
-    const Reason* reason = ReasonToGo(world, worker);
+    const char* reason = ReasonToGo(world, worker);
     answer.Accepted = reason != nullptr;
-    reason ? say("Accepted", reason->Words) : say("Rejected", kNoMove);
+    say(reason ? "Accepted" : "Rejected", reason ? reason : kNoMove);
   }
   if (!answer.Accepted) say("Rejected", " formally rejects your offer of a release.");
   return answer;

@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "records/fields/people.h"
 #include "records/world.h"
 
 // Where the player's people stand: their place on the card, the development territory, the training

@@ -201,15 +201,22 @@ int CountOwn(const World& world, Test test) {
 int AnnouncersWanted(const World& world) {
   return OwnShows(world) > 0 ? 1 : 0;
 }
+/// For everybody to recover at full speed.
 int MedicsWanted(const World& world) {
-  return MedicsNeeded(CountOwn(world, [](const Worker&) { return true; }));
+  const int workers = CountOwn(world, [](const Worker&) { return true; });
+  return workers >= 56 ? 3 : workers >= 31 ? 2 : 0;
 }
 int WritersWanted(const World& world) {
   return WritersNeeded(OwnShows(world));
 }
+/// To keep the wrestlers out of trouble.
 int AgentsWanted(const World& world) {
-  return AgentsNeeded(
-      CountOwn(world, [](const Worker& w) { return w.Position < kDevelopmentDeal; }));
+  const int wrestlers =
+      CountOwn(world, [](const Worker& w) { return w.Position < kDevelopmentDeal; });
+  if (wrestlers > 80) return 5;
+  if (wrestlers > 60) return 4;
+  if (wrestlers > 40) return 3;
+  return wrestlers > 25 ? 2 : wrestlers > 0 ? 1 : 0;
 }
 int TrainersWanted(const World& world) {
   return world.Player().CampName == "None" ? 0 : 1;
@@ -244,17 +251,6 @@ int WritersNeeded(int shows) {
   // By shows from none to more than three.
   constexpr std::array<int, 5> kNeeded = {1, 2, 4, 6, 10};
   return kNeeded[static_cast<std::size_t>(std::clamp(shows, 0, 4))];
-}
-
-int MedicsNeeded(int workers) {
-  return workers >= 56 ? 3 : workers >= 31 ? 2 : 0;
-}
-
-int AgentsNeeded(int wrestlers) {
-  if (wrestlers > 80) return 5;
-  if (wrestlers > 60) return 4;
-  if (wrestlers > 40) return 3;
-  return wrestlers > 25 ? 2 : wrestlers > 0 ? 1 : 0;
 }
 
 PostCount PostCountOf(const World& world, int post) {

@@ -48,10 +48,6 @@ void FireStaff(World& world, Staff& staff);
 
 /// To use angles, with this many television shows.
 int WritersNeeded(int shows);
-/// For everybody to recover at full speed, with this many workers.
-int MedicsNeeded(int workers);
-/// To keep so many wrestlers out of trouble.
-int AgentsNeeded(int wrestlers);
 
 /// How a post of the player's promotion is filled.
 struct PostCount {

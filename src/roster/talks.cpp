@@ -21,11 +21,6 @@ std::string MonthsText(int months) {
   return Counted(std::max(months, 1), "month");
 }
 
-Remark AcceptedRemark(std::string_view name, bool written) {
-  return {"Accepted!",
-          std::string(name) + (written ? " signs the contract!" : " agrees to the contract!")};
-}
-
 int MonthlyWage(const Worker& worker) {
   const bool paid =
       worker.Employer != 0 && worker.ContractMonths != kNoEnd && worker.Status != "Hom";

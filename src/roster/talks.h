@@ -49,9 +49,6 @@ std::string WageText(int thousands);
 /// "1 month" for the last one, else "14 months".
 std::string MonthsText(int months);
 
-/// "Bram Okafor signs the contract!", or agrees to it where it is verbal.
-Remark AcceptedRemark(std::string_view name, bool written);
-
 // Who costs what on the first of a month, in dollars.
 
 /// 0 for whoever draws no wage: nobody's worker, one who has been sent home, one whose contract has

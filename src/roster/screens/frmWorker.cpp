@@ -65,33 +65,6 @@ void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
 
 namespace {
 
-/// Opens what the name stands for; empty where there is no page for it.
-ui::Handler WayTo(Game& game, const NameSpan& name) {
-  const auto& page = name.Of == NameSpan::Kind::Worker ? game.OpenWorker : game.OpenPromotion;
-  if (!page) return {};
-  return [&page, uid = name.Uid] { page(uid); };
-}
-
-std::vector<ui::Link> LinksOf(Game& game, NameIndex& names, std::string_view text) {
-  std::vector<ui::Link> links;
-  if (!game.HasWorld()) return links;
-  for (const NameSpan& name : names.Find(game.World(), text))
-    if (ui::Handler open = WayTo(game, name))
-      links.push_back({name.From, name.Length, std::move(open)});
-  return links;
-}
-
-}  // namespace
-
-void ConnectRoster(Game& game) {
-  game.OpenWorker = [&game](int uid) { OpenWorkerPage(game, uid); };
-  game.Desk().FindLinks = [&game, names = std::make_shared<NameIndex>()](std::string_view text) {
-    return LinksOf(game, *names, text);
-  };
-}
-
-namespace {
-
 /// What is known of one worker.
 class frmWorker : public GameScreen {
  public:
@@ -147,8 +120,8 @@ frmWorker* PageBelow(ui::Desk& desk, int uid) {
   return nullptr;
 }
 
-}  // namespace
-
+/// Opens the worker's page, or goes back to it where it lies below others of its kind. Says so when
+/// there is nobody of this uid any more.
 void OpenWorkerPage(Game& game, int workerUid) {
   ui::Desk& desk = game.Desk();
   if (!game.World().FindWorker(workerUid))
@@ -156,6 +129,25 @@ void OpenWorkerPage(Game& game, int workerUid) {
   const frmWorker* page = PageBelow(desk, workerUid);
   if (!page) return desk.Open(std::make_unique<frmWorker>(game, workerUid));
   while (desk.Top() != page) desk.Close(*desk.Top());
+}
+
+std::vector<ui::Link> LinksOf(Game& game, NameIndex& names, std::string_view text) {
+  std::vector<ui::Link> links;
+  if (!game.HasWorld()) return links;
+  for (const NameSpan& name : names.Find(game.World(), text)) {
+    const auto& page = name.Of == NameSpan::Kind::Worker ? game.OpenWorker : game.OpenPromotion;
+    if (page) links.push_back({name.From, name.Length, [&page, uid = name.Uid] { page(uid); }});
+  }
+  return links;
+}
+
+}  // namespace
+
+void ConnectRoster(Game& game) {
+  game.OpenWorker = [&game](int uid) { OpenWorkerPage(game, uid); };
+  game.Desk().FindLinks = [&game, names = std::make_shared<NameIndex>()](std::string_view text) {
+    return LinksOf(game, *names, text);
+  };
 }
 
 namespace {
@@ -206,7 +198,6 @@ class frmShortlist : public GameScreen {
     lstwres.Select(std::min(place, lstwres.Count()));
     ShowChoice();
   }
-  void cmdpage_Click() { OpenWorkerPage(game_, lstwres.Key()); }
   void cmdcontract_Click() {
     if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
   }
@@ -219,7 +210,8 @@ class frmShortlist : public GameScreen {
   ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmShortlist::ShowChoice, cmdpage};
   ui::Report txtpage{*this, "txtpage"};
   ui::Button cmdremove{*this, "cmdremove", "Remove", &frmShortlist::cmdremove_Click};
-  ui::Button cmdpage{*this, "cmdpage", "Open Page", &frmShortlist::cmdpage_Click};
+  ui::Button cmdpage{*this, "cmdpage", "Open Page",
+                     [this] { OpenWorkerPage(game_, lstwres.Key()); }};
   ui::Button cmdcontract{*this, "cmdcontract", "Talks", &frmShortlist::cmdcontract_Click};
 };
 

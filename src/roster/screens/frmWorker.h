@@ -16,8 +16,4 @@ void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
 /// Gives the game its page of a worker, and makes every name of a worker or a promotion a link.
 void ConnectRoster(Game& game);
 
-/// Opens the worker's page, or goes back to it where it lies below others of its kind. Says so when
-/// there is nobody of this uid any more.
-void OpenWorkerPage(Game& game, int workerUid);
-
 }  // namespace grapplemont

@@ -98,7 +98,8 @@ void TalkScreen::ShowFacts(const std::string& facts) {
 }
 
 void TalkScreen::Agree(std::string_view name, bool written) {
-  SayAll({AcceptedRemark(name, written)});
+  const char* how = written ? " signs the contract!" : " agrees to the contract!";
+  desk().Say("Accepted!", std::string(name) + how);
   Close();
 }
 
