@@ -266,20 +266,18 @@ TEST(PostAdvice, CountsWhatThePromotionNeeds) {
             "or nobody teaches in the training camp.");
 }
 
-TEST(StaffNeeds, StepWithTheCrowd) {
-  for (const auto& [workers, medics] : {std::pair(30, 0), {31, 2}, {55, 2}, {56, 3}})
-    EXPECT_EQ(MedicsNeeded(workers), medics) << workers;
-  for (const auto& [wrestlers, agents] : {std::pair(0, 0),
-                                          {1, 1},
-                                          {25, 1},
-                                          {26, 2},
-                                          {40, 2},
-                                          {41, 3},
-                                          {60, 3},
-                                          {61, 4},
-                                          {80, 4},
-                                          {81, 5}})
-    EXPECT_EQ(AgentsNeeded(wrestlers), agents) << wrestlers;
+TEST(PostCounts, StepWithTheCrowd) {
+  struct Case {
+    int Crew, Medics, Agents;
+  };
+  constexpr Case kCases[] = {{0, 0, 0},  {1, 0, 1},  {25, 0, 1}, {26, 0, 2}, {30, 0, 2},
+                             {31, 2, 2}, {40, 2, 2}, {41, 2, 3}, {55, 2, 3}, {56, 3, 3},
+                             {60, 3, 3}, {61, 3, 4}, {80, 3, 4}, {81, 3, 5}};
+  for (const Case& c : kCases) {
+    World world = SmallWorld().Promotion("CWA").Crew(c.Crew).Game("CWA");
+    EXPECT_EQ(PostCountOf(world, kMedical).Need, c.Medics) << c.Crew;
+    EXPECT_EQ(PostCountOf(world, kRoadAgent).Need, c.Agents) << c.Crew;
+  }
 }
 
 TEST(frmStaff, ListsTheOwnAndTellsOfTheChosen) {
