@@ -35,8 +35,9 @@ TEST(TheReportColumn, ReadsAShowAgainFromItsRow) {
   held.Kind = kPastTv;
   held.Promotion = world.PlayerUid();
   held.Name = "Sunday Slam";
+  held.Size = int(kRegional);
   world.History().Append(held);
-  held.On = world.Today() + std::chrono::days{1};
+  held.On = world.Today() - std::chrono::days{1};
   world.History().Append(held);
   play.Play.Commit();
   play.Reopen();

@@ -219,17 +219,11 @@ TEST(FireStaff, CostsWhatAWorkersTerminationDoes) {
   constexpr const char* kFreely =
       "Nothing is in writing, and Hal Horn can be let go for free. Proceed?";
   constexpr const char* kGladly = "Hal Horn is glad to leave. Proceed?";
-  constexpr Case kCases[] = {
-      {kEasy, 20, "Wri", 5000, 50, "Buying out the contract of Hal Horn will cost $5000. Proceed?"},
-      {kMedium, 20, "Wri", 30000, 50,
-       "Buying out the contract of Hal Horn will cost $30000. Proceed?"},
-      {kHard, 20, "Wri", 60000, 50,
-       "Buying out the contract of Hal Horn will cost $60000. Proceed?"},
-      {kRockHard, 20, "Wri", 120000, 50,
-       "Buying out the contract of Hal Horn will cost $120000. Proceed?"},
-      {kRockHard, 20, "Non", 0, 60, kFreely},
-      {kRockHard, 19, "Wri", 0, 80, kGladly},
-      {kRockHard, 19, "Non", 0, 80, kGladly}};
+  constexpr Case kCases[] = {{kHard, 20, "Wri", 60000, 50,
+                              "Buying out the contract of Hal Horn will cost $60000. Proceed?"},
+                             {kRockHard, 20, "Non", 0, 60, kFreely},
+                             {kRockHard, 19, "Wri", 0, 80, kGladly},
+                             {kRockHard, 19, "Non", 0, 80, kGladly}};
   for (const Case& c : kCases) {
     World world = Offices();
     Staff& hal = Who(world, "Hal Horn");
