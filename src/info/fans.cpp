@@ -22,6 +22,10 @@ constexpr int kVoices = 2;  // say how it was in all
 /// A gate is full or empty when it lies so far from what such a show draws on the average.
 constexpr int kFullPercent = 110, kEmptyPercent = 90;
 
+std::span<const std::string_view> FanLines(FanMood mood) {
+  return LinesUnder(words::Fans(), static_cast<int>(mood));
+}
+
 struct MoodFrom {
   int Rating;
   FanMood Mood;
@@ -37,13 +41,6 @@ FanMood MoodOf(const ShowSeen& show) {
   for (const MoodFrom& row : kMoods)
     if (show.Rating >= row.Rating) return row.Mood;
   return FanMood::Awful;
-}
-
-std::vector<ShowSeen::Row> RowsOf(const std::vector<const HeldMatch*>& matches) {
-  std::vector<ShowSeen::Row> rows;
-  for (const HeldMatch* match : matches)
-    rows.push_back({match->Won + " against " + match->Lost.Str(), match->Rating});
-  return rows;
 }
 
 /// The name of the most popular of several; empty for nobody.
@@ -76,7 +73,8 @@ ShowSeen SeenOf(const World& world, const HistoryEntry& entry) {
   seen.Rating = entry.Rating;
   seen.Viewers = entry.Viewers;
   seen.People = entry.Attendance;
-  seen.Rows = RowsOf(matches);
+  for (const HeldMatch* match : matches)
+    seen.Rows.push_back({match->Won + " against " + match->Lost.Str(), match->Rating});
   seen.Star = StarOf(PeopleOf(world, matches));
   return seen;
 }

@@ -146,9 +146,6 @@ inline constexpr FanRow kFanRows[] = {
     {FanMood::Star, "show house who"},    {FanMood::Full, "show house"},
     {FanMood::Empty, "show house"},       {FanMood::Handles, ""},
 };
-inline std::span<const std::string_view> FanLines(FanMood mood) {
-  return LinesUnder(words::Fans(), static_cast<int>(mood));
-}
 
 /// Names in a line, without their braces, and the words that go there.
 using LineWords = std::vector<std::pair<std::string_view, std::string>>;

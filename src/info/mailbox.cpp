@@ -26,12 +26,4 @@ std::vector<int> MailsNewestFirst(const World& world, std::string_view from) {
   return numbers;
 }
 
-void DeleteMail(World& world, int number) {
-  world.News().Erase(number);
-}
-
-void EmptyMailbox(World& world) {
-  world.News().Rewrite({});
-}
-
 }  // namespace grapplemont

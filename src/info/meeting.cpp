@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #include "business/development.h"
-#include "info/infowords.h"
-#include "info/meetingfacts.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -66,7 +64,11 @@ std::vector<Advice> HoldMeeting(const World& world) {
   return meeting.Close();
 }
 
-std::string SomeOf(const std::vector<const Worker*>& people, std::size_t most) {
+People FitWrestlers(const World& world) {
+  return Ours(world, [](const Worker& w) { return IsOnRoster(w) && w.Status == "Nor"; });
+}
+
+std::string SomeOf(const People& people, std::size_t most) {
   std::string text;
   const std::size_t named = std::min(people.size(), most);
   for (std::size_t i = 0; i < named; ++i) {
@@ -77,11 +79,17 @@ std::string SomeOf(const std::vector<const Worker*>& people, std::size_t most) {
   return text;
 }
 
+void SayOf(Meeting& meeting, Point point, const People& people, std::size_t most,
+           const Meeting::Words& more) {
+  if (people.empty()) return;
+  Meeting::Words words = {{"n", Number(people.size())}, {"names", SomeOf(people, most)}};
+  words.insert(words.end(), more.begin(), more.end());
+  meeting.Say(point, words);
+}
+
 // The meeting on contracts, on who is hurt, on the young, and on the staff itself.
 
 namespace {
-
-using People = std::vector<const Worker*>;
 
 constexpr int kSoonMonths = 3;
 constexpr int kWornOut = 40, kTired = 60;
@@ -122,22 +130,19 @@ void TalkOfEndings(Meeting& meeting, Point point, int from, int until) {
   People brief = ending;
   std::erase_if(brief, [&](const Worker* w) { return !SignsForHalfAYear(world, *w); });
   const Worker& first = *ending.front();
-  meeting.Say(point, {{"n", Number(ending.size())},
-                      {"names", SomeOf(ending, kSomeNames)},
-                      {"who", first.Name.Str()},
-                      {"wage", Dollars(RenewalTermsOf(world, first).Wage * 1000LL)},
-                      {"brief", brief.empty() ? ""
-                                              : " For 6 months and not a day more: " +
-                                                    SomeOf(brief, kSomeNames) + "."}});
+  const std::string briefly =
+      brief.empty() ? "" : " For 6 months and not a day more: " + SomeOf(brief, kSomeNames) + ".";
+  SayOf(meeting, point, ending, kSomeNames,
+        {{"who", first.Name.Str()},
+         {"wage", Dollars(RenewalTermsOf(world, first).Wage * 1000LL)},
+         {"brief", briefly}});
 }
 
 void TalkOfThoseWhoMoveOn(Meeting& meeting) {
   const World& world = meeting.Of();
   People leaving = Ending(world, 1, kSoonMonths);
   std::erase_if(leaving, [&](const Worker* w) { return !MovesOn(world, *w); });
-  if (!leaving.empty())
-    meeting.Say(Point::MovingOn,
-                {{"n", Number(leaving.size())}, {"names", SomeOf(leaving, kSomeNames)}});
+  SayOf(meeting, Point::MovingOn, leaving, kSomeNames);
 }
 
 void TalkOfTheUnwilling(Meeting& meeting) {
@@ -147,40 +152,28 @@ void TalkOfTheUnwilling(Meeting& meeting) {
   });
   if (unwilling.empty()) return;
   const Worker& first = *unwilling.front();
-  meeting.Say(Point::WillNotSign, {{"n", Number(unwilling.size())},
-                                   {"names", SomeOf(unwilling)},
-                                   {"who", first.Name.Str()},
-                                   {"morale", std::to_string(first.Morale)},
-                                   {"loyalty", std::to_string(first.Loyalty)}});
+  SayOf(meeting, Point::WillNotSign, unwilling, 3,
+        {{"who", first.Name.Str()},
+         {"morale", Number(first.Morale)},
+         {"loyalty", Number(first.Loyalty)}});
 }
 
 void TalkOfStaffContracts(Meeting& meeting) {
-  std::string names;
-  int count = 0;
-  for (const Staff& staff : meeting.Of().AllStaff()) {
-    if (staff.Employer != meeting.Player().Uid || staff.Position == kOwner ||
-        !EndsWithin(staff.ContractMonths, 1, kSoonMonths))
-      continue;
-    names += (names.empty() ? "" : ", ") + staff.Name.Str();
-    ++count;
-  }
-  if (count > 0)
-    meeting.Say(Point::StaffContracts, {{"n", std::to_string(count)}, {"names", names}});
-}
-
-std::string Return(const People& absent, const Worker& first) {
-  const std::string months = "in " + Counted(first.StatusMonths, "month") + ".";
-  return (absent.size() == 1 ? "Back " : first.Name.Str() + " is back first, ") + months;
+  std::vector<std::string> names;
+  for (const Staff& staff : meeting.Of().AllStaff())
+    if (staff.Employer == meeting.Player().Uid && staff.Position != kOwner &&
+        EndsWithin(staff.ContractMonths, 1, kSoonMonths))
+      names.push_back(staff.Name.Str());
+  if (!names.empty())
+    meeting.Say(Point::StaffContracts, {{"n", Number(names.size())}, {"names", Joined(names)}});
 }
 
 void TalkOfAbsent(Meeting& meeting, Point point, const People& absent) {
   if (absent.empty()) return;
-  const Worker& first = **std::min_element(absent.begin(), absent.end(), [](auto* a, auto* b) {
-    return a->StatusMonths < b->StatusMonths;
-  });
-  meeting.Say(point, {{"n", Number(absent.size())},
-                      {"names", SomeOf(absent, kSomeNames)},
-                      {"return", Return(absent, first)}});
+  const Worker& first = LeastOf(absent, &Worker::StatusMonths);
+  SayOf(meeting, point, absent, kSomeNames,
+        {{"return", (absent.size() == 1 ? "Back" : first.Name + " is back first,") + " in " +
+                        Counted(first.StatusMonths, "month") + "."}});
 }
 
 void TalkOfCondition(Meeting& meeting, Point point, int from, int below) {
@@ -188,12 +181,9 @@ void TalkOfCondition(Meeting& meeting, Point point, int from, int below) {
     return IsOnRoster(w) && w.Status == "Nor" && w.Condition >= from && w.Condition < below;
   });
   if (people.empty()) return;
-  const Worker& worst = **std::min_element(
-      people.begin(), people.end(), [](auto* a, auto* b) { return a->Condition < b->Condition; });
-  meeting.Say(point, {{"n", Number(people.size())},
-                      {"names", SomeOf(people, kSomeNames)},
-                      {"who", worst.Name.Str()},
-                      {"condition", std::to_string(worst.Condition)}});
+  const Worker& worst = LeastOf(people, &Worker::Condition);
+  SayOf(meeting, point, people, kSomeNames,
+        {{"who", worst.Name.Str()}, {"condition", Number(worst.Condition)}});
 }
 
 /// Why nobody learns anything from this teacher; empty when somebody does.
@@ -218,9 +208,7 @@ void TalkOfTerritory(Meeting& meeting) {
                 {{"n", Number(pupils.size())}, {"territory", territory}, {"why", why}});
   People grown = pupils;
   std::erase_if(grown, [](const Worker* w) { return w->Over < w->Potential; });
-  if (!grown.empty())
-    meeting.Say(Point::TerritoryOutgrown,
-                {{"n", Number(grown.size())}, {"names", SomeOf(grown)}, {"territory", territory}});
+  SayOf(meeting, Point::TerritoryOutgrown, grown, 3, {{"territory", territory}});
 }
 
 void TalkOfCamp(Meeting& meeting) {
@@ -239,14 +227,7 @@ void TalkOfCamp(Meeting& meeting) {
   if (learned.empty()) return;
   const Worker& best = *learned.front();
   meeting.Say(Point::CampLearned,
-              {{"names", SomeOf(learned)},
-               {"skill", std::to_string(
-                             std::max({int(best.Brawl), int(best.Technical), int(best.Speed)}))}});
-}
-
-/// Posts from which somebody speaks at the meeting.
-constexpr bool SpeaksHere(int post) {
-  return post != kReferee;
+              {{"names", SomeOf(learned)}, {"skill", Number(BestSkillOf(best))}});
 }
 
 }  // namespace
@@ -257,8 +238,8 @@ void TalkOfContracts(Meeting& meeting) {
   TalkOfTheUnwilling(meeting);
   TalkOfThoseWhoMoveOn(meeting);
   TalkOfStaffContracts(meeting);
-  const People retiring = Ours(meeting.Of(), [](const Worker& w) { return bool(w.RetiringSoon); });
-  if (!retiring.empty()) meeting.Say(Point::Retiring, {{"names", SomeOf(retiring)}});
+  SayOf(meeting, Point::Retiring,
+        Ours(meeting.Of(), [](const Worker& w) { return bool(w.RetiringSoon); }));
 }
 
 void TalkOfHealth(Meeting& meeting) {
@@ -277,7 +258,7 @@ void TalkOfTheYoung(Meeting& meeting) {
 }
 
 void TalkOfStaff(Meeting& meeting) {
-  std::string empty;
+  std::vector<std::string> empty;
   for (const PostCount& post : PostCounts(meeting.Of())) {
     const std::string name(PostText(post.Post));
     if (post.Have < post.Need)
@@ -285,10 +266,10 @@ void TalkOfStaff(Meeting& meeting) {
                                      {"n", Number(post.Have)},
                                      {"need", Number(post.Need)},
                                      {"remedy", PostAdvice({post})}});
-    else if (post.Have == 0 && SpeaksHere(post.Post))
-      empty += (empty.empty() ? "" : ", ") + name;
+    else if (post.Have == 0 && post.Post != kReferee)  // who has nothing to say here
+      empty.push_back(name);
   }
-  if (!empty.empty()) meeting.Say(Point::PostEmpty, {{"posts", empty}});
+  if (!empty.empty()) meeting.Say(Point::PostEmpty, {{"posts", Joined(empty)}});
 }
 
 }  // namespace grapplemont

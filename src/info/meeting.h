@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -62,16 +63,43 @@ void TalkOfTitles(Meeting& meeting);
 void TalkOfTelevision(Meeting& meeting);
 void TalkOfEvents(Meeting& meeting);
 
-/// The ticket price that brings most at the gate.
-int BestTicketPrice(int size, int economy);
-/// The level of merchandising that leaves most after its cost.
-int BestMerchandising(const Promotion& promotion, int economy);
-/// What weighs on a worker of the player's, as far as the records tell: "stands too low on the
-/// card"; empty where they do not.
-std::string WhyUnhappy(const World& world, const Worker& worker);
+// What they count with.
+
+using People = std::vector<const Worker*>;
+
+/// The player's of whom the test holds, the most popular first.
+template <class Test>
+People Ours(const World& world, Test test) {
+  People people;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid() && test(worker)) people.push_back(&worker);
+  std::stable_sort(people.begin(), people.end(),
+                   [](auto* a, auto* b) { return a->Over > b->Over; });
+  return people;
+}
+/// Those on the card who can wrestle.
+People FitWrestlers(const World& world);
+
+/// The first of those who have least of it. Requires somebody.
+template <class Record, class Field>
+const Record& LeastOf(const std::vector<const Record*>& records, Field field) {
+  return **std::ranges::min_element(records, {},
+                                    [=](const Record* record) { return int(record->*field); });
+}
 
 /// "Bram Okafor", "Bram Okafor and Ilya Marsh", "Bram Okafor, Ilya Marsh and 3 more": no more than
 /// `most` names.
-std::string SomeOf(const std::vector<const Worker*>& people, std::size_t most = 3);
+std::string SomeOf(const People& people, std::size_t most = 3);
+/// Says the point with their number {n} and some of their {names}, and `more`, if there is anybody.
+void SayOf(Meeting& meeting, Point point, const People& people, std::size_t most = 3,
+           const Meeting::Words& more = {});
+
+template <class Count>
+std::string Number(Count count) {
+  return std::to_string(count);
+}
+
+/// How often in a row the standing fell at the last month ends.
+int FallsInARow(const Promotion& promotion);
 
 }  // namespace grapplemont

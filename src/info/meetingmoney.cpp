@@ -4,7 +4,6 @@
 #include "business/finance.h"
 #include "business/sponsors.h"
 #include "info/meeting.h"
-#include "info/meetingfacts.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "rivals/purse.h"
@@ -27,10 +26,6 @@ constexpr int kEndingMonths = 2;
 /// A crowd that is large enough for every percent to show.
 constexpr int kManyPeople = 10000;
 
-std::string Money(long long dollars) {
-  return Dollars(dollars);
-}
-
 bool HasClosedAMonth(const MonthBooks& books) {
   return TotalIn(books) != 0 || TotalOut(books) != 0;
 }
@@ -42,21 +37,21 @@ void TalkOfDebt(Meeting& meeting) {
   const long long debt = -static_cast<long long>(player.Money);
   const long long end = -static_cast<long long>(line.BankruptBelow);
   meeting.Say(player.Money < line.WarnedBelow ? Point::NearBankruptcy : Point::Debt,
-              {{"debt", Money(debt)},
-               {"line", Money(end)},
-               {"left", debt < end ? Money(end - debt) : "nothing"}});
+              {{"debt", Dollars(debt)},
+               {"line", Dollars(end)},
+               {"left", debt < end ? Dollars(end - debt) : "nothing"}});
 }
 
 void TalkOfTheMonth(Meeting& meeting) {
   const Promotion& player = meeting.Player();
   const long long balance = Balance(player.LastMonth);
-  if (balance > 0) meeting.Say(Point::Profit, {{"gain", Money(balance)}});
+  if (balance > 0) meeting.Say(Point::Profit, {{"gain", Dollars(balance)}});
   if (balance >= 0 || player.Money < 0) return;
   const long long months = player.Money / -balance;
   if (months <= kShortRunway)
     meeting.Say(Point::Runway,
-                {{"loss", Money(-balance)},
-                 {"money", Money(player.Money)},
+                {{"loss", Dollars(-balance)},
+                 {"money", Dollars(player.Money)},
                  {"months", months == 0 ? "less than a month" : Counted(months, "month")}},
                 months > kVeryShortRunway ? Urgency::Soon : Urgency::Now);
 }
@@ -65,24 +60,32 @@ void TalkOfWages(Meeting& meeting) {
   const MonthBooks& books = meeting.Player().LastMonth;
   const long long wages = static_cast<long long>(books.WrestlerWages) + books.StaffWages;
   const long long income = TotalIn(books);
-  if (income == 0 && wages > 0) meeting.Say(Point::NoIncome, {{"wages", Money(wages)}});
+  if (income == 0 && wages > 0) meeting.Say(Point::NoIncome, {{"wages", Dollars(wages)}});
   if (income <= 0) return;
   const long long share = wages * 100 / income;
   if (share > kDearWages)
-    meeting.Say(Point::WageShare, {{"wages", Money(wages)}, {"share", Number(share)}});
+    meeting.Say(Point::WageShare, {{"wages", Dollars(wages)}, {"share", Number(share)}});
 }
 
 long long GateAt(int size, int price, int economy) {
   return static_cast<long long>(price) * TvGate(kManyPeople, {size, price, economy});
 }
 
+/// The ticket price that brings most at the gate.
+int BestTicketPrice(int size, int economy) {
+  int best = 1;
+  for (int price = 2; price <= 2 * FairTicketPrice(size) + kWorthAWord; ++price)
+    if (GateAt(size, price, economy) > GateAt(size, best, economy)) best = price;
+  return best;
+}
+
 void TalkOfTickets(Meeting& meeting) {
   const Promotion& player = meeting.Player();
   const int economy = meeting.Of().Game().Economy;
   const int best = BestTicketPrice(player.Size, economy);
-  const Meeting::Words words = {{"price", Money(player.TicketPrice)},
-                                {"fair", Money(FairTicketPrice(player.Size))},
-                                {"best", Money(best)}};
+  const Meeting::Words words = {{"price", Dollars(player.TicketPrice)},
+                                {"fair", Dollars(FairTicketPrice(player.Size))},
+                                {"best", Dollars(best)}};
   if (player.TicketPrice == 0) return meeting.Say(Point::TicketFree, words);
   if (IsNobodysPrice(player.Size, player.TicketPrice))
     return meeting.Say(Point::TicketNobody, words);
@@ -103,6 +106,14 @@ long long LeftOf(const Promotion& promotion, int level, int economy) {
   return static_cast<long long>(MerchandiseSales(other, economy)) - MerchandisingCost(level);
 }
 
+/// The level of merchandising that leaves most after its cost.
+int BestMerchandising(const Promotion& promotion, int economy) {
+  int best = 0;
+  for (int level = 1; level <= kMostSpending; ++level)
+    if (LeftOf(promotion, level, economy) > LeftOf(promotion, best, economy)) best = level;
+  return best;
+}
+
 void TalkOfMerchandise(Meeting& meeting) {
   const Promotion& player = meeting.Player();
   const int economy = meeting.Of().Game().Economy;
@@ -112,16 +123,16 @@ void TalkOfMerchandise(Meeting& meeting) {
   if ((then - now) * 100 <= then * kWorthTheBother || then == now) return;
   meeting.Say(Point::Merchandise, {{"level", Number(int(player.Merchandising))},
                                    {"best", Number(best)},
-                                   {"now", Money(now)},
-                                   {"then", Money(then)}});
+                                   {"now", Dollars(now)},
+                                   {"then", Dollars(then)}});
 }
 
-/// Those who are free and give the answer.
-template <class Test>
-std::vector<const Sponsor*> FreeSponsors(const World& world, Test test) {
+/// Those who are free and give the player this answer.
+std::vector<const Sponsor*> FreeSponsors(const World& world, SponsorAnswer answer) {
   std::vector<const Sponsor*> found;
   for (const Sponsor& sponsor : world.Sponsors())
-    if (sponsor.Promotion == 0 && test(sponsor)) found.push_back(&sponsor);
+    if (sponsor.Promotion == 0 && AnswerOf(sponsor, world.Player()) == answer)
+      found.push_back(&sponsor);
   return found;
 }
 
@@ -142,10 +153,7 @@ void TalkOfFreePlaces(Meeting& meeting) {
   const Promotion& player = meeting.Player();
   const auto free = kSponsorPlaces - OurSponsors(world).size();
   if (free == 0) return;
-  const auto answers = [&](SponsorAnswer answer) {
-    return FreeSponsors(world, [&](const Sponsor& s) { return AnswerOf(s, player) == answer; });
-  };
-  const auto willing = answers(SponsorAnswer::Accepts);
+  const auto willing = FreeSponsors(world, SponsorAnswer::Accepts);
   if (!willing.empty()) {
     const Sponsor& best = BestPaying(willing);
     const bool isMain = !world.FindSponsor(player.Sponsor[0]);
@@ -153,14 +161,13 @@ void TalkOfFreePlaces(Meeting& meeting) {
                        {{"n", Number(free)},
                         {"takers", Number(willing.size())},
                         {"who", best.Name.Str()},
-                        {"pay", Money(SponsorPayForTv(best, isMain) * 1000LL)}});
+                        {"pay", Dollars(SponsorPayForTv(best, isMain) * 1000LL)}});
   }
-  auto shy = answers(SponsorAnswer::TooRisky);
+  auto shy = FreeSponsors(world, SponsorAnswer::TooRisky);
   std::erase_if(
       shy, [&](const Sponsor* s) { return s->Pay >= SponsorPayLimit(player.Size, player.Image); });
   if (shy.empty()) return;
-  const Sponsor& boldest = **std::min_element(
-      shy.begin(), shy.end(), [](auto* a, auto* b) { return a->Morality < b->Morality; });
+  const Sponsor& boldest = LeastOf(shy, &Sponsor::Morality);
   meeting.Say(Point::SponsorsRisk, {{"n", Number(free)},
                                     {"risk", Number(int(player.Risk))},
                                     {"who", boldest.Name.Str()},
@@ -168,11 +175,10 @@ void TalkOfFreePlaces(Meeting& meeting) {
 }
 
 void TalkOfEndingSponsors(Meeting& meeting) {
-  std::string names;
+  std::vector<std::string> names;
   for (const Sponsor* sponsor : OurSponsors(meeting.Of()))
-    if (sponsor->ContractMonths <= kEndingMonths)
-      names += (names.empty() ? "" : ", ") + sponsor->Name.Str();
-  if (!names.empty()) meeting.Say(Point::SponsorsEnd, {{"names", names}});
+    if (sponsor->ContractMonths <= kEndingMonths) names.push_back(sponsor->Name.Str());
+  if (!names.empty()) meeting.Say(Point::SponsorsEnd, {{"names", Joined(names)}});
 }
 
 void TalkOfTheirOrder(Meeting& meeting) {
@@ -186,24 +192,10 @@ void TalkOfTheirOrder(Meeting& meeting) {
   if (more > 0)
     meeting.Say(
         Point::SponsorsOrder,
-        {{"main", main->Name.Str()}, {"who", best.Name.Str()}, {"more", Money(more * 1000LL)}});
+        {{"main", main->Name.Str()}, {"who", best.Name.Str()}, {"more", Dollars(more * 1000LL)}});
 }
 
 }  // namespace
-
-int BestTicketPrice(int size, int economy) {
-  int best = 1;
-  for (int price = 2; price <= 2 * FairTicketPrice(size) + kWorthAWord; ++price)
-    if (GateAt(size, price, economy) > GateAt(size, best, economy)) best = price;
-  return best;
-}
-
-int BestMerchandising(const Promotion& promotion, int economy) {
-  int best = 0;
-  for (int level = 1; level <= kMostSpending; ++level)
-    if (LeftOf(promotion, level, economy) > LeftOf(promotion, best, economy)) best = level;
-  return best;
-}
 
 void TalkOfMoney(Meeting& meeting) {
   TalkOfDebt(meeting);
@@ -212,7 +204,7 @@ void TalkOfMoney(Meeting& meeting) {
     TalkOfWages(meeting);
   }
   if (const int cost = AdvertisingCost(meeting.Player().Advertising); cost > 0)
-    meeting.Say(Point::Advertising, {{"cost", Money(cost)}});
+    meeting.Say(Point::Advertising, {{"cost", Dollars(cost)}});
 }
 
 void TalkOfLoans(Meeting& meeting) {
@@ -225,13 +217,13 @@ void TalkOfLoans(Meeting& meeting) {
   const long long wages = bill.Workers + bill.Staff, need = wages + payment;
   const long long rest = static_cast<long long>(player.LoanAmount) - player.LoanRepaid;
   const Meeting::Words words = {
-      {"payment", Money(payment)},
-      {"wages", Money(wages)},
-      {"need", Money(need)},
-      {"money", Money(player.Money)},
+      {"payment", Dollars(payment)},
+      {"wages", Dollars(wages)},
+      {"need", Dollars(need)},
+      {"money", Dollars(player.Money)},
       {"missed", Number(int(player.LoanMissed))},
-      {"gap", Money(need - player.Money)},
-      {"rest", Money(rest)},
+      {"gap", Dollars(need - player.Money)},
+      {"rest", Dollars(rest)},
       {"fee", PayOffCost(player, difficulty) > rest ? " Paying early costs a fee." : ""}};
   if (player.Money < need) return meeting.Say(Point::LoanShort, words);
   meeting.Say(player.LoanMissed > 0 ? Point::LoanMissed : Point::LoanRuns, words);

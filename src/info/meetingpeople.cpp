@@ -1,7 +1,6 @@
 #include "business/development.h"
 #include "business/finance.h"
 #include "info/meeting.h"
-#include "info/meetingfacts.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -16,8 +15,6 @@ namespace grapplemont {
 
 namespace {
 
-using People = std::vector<const Worker*>;
-
 constexpr int kAMatch = 2;  // people
 constexpr int kFewSides = 6;
 constexpr int kDisproportion = 3;
@@ -27,10 +24,6 @@ constexpr int kBoycottBehaviour = 75;
 constexpr int kUnhappyBelow = 40;
 constexpr int kRoomLowBelow = 50, kRoomHappyFrom = 80;
 constexpr int kPoorForm = 2;
-
-People FitWrestlers(const World& world) {
-  return Ours(world, [](const Worker& w) { return IsOnRoster(w) && w.Status == "Nor"; });
-}
 
 std::string Place(int position) {
   return std::string(PositionText(position));
@@ -42,15 +35,14 @@ void TalkOfCount(Meeting& meeting) {
   const int count = Rosters(world).Of(world.PlayerUid());
   const long long balance = Balance(meeting.Player().LastMonth);
   if (count < band.Least)
-    meeting.Say(Point::RosterSmall, {{"n", std::to_string(count)},
+    meeting.Say(Point::RosterSmall, {{"n", Number(count)},
                                      {"people", Counted(count, "person", "people")},
-                                     {"least", std::to_string(band.Least)},
-                                     {"most", std::to_string(band.Most)},
-                                     {"missing", std::to_string(band.Least - count)}});
+                                     {"least", Number(band.Least)},
+                                     {"most", Number(band.Most)},
+                                     {"missing", Number(band.Least - count)}});
   if (count > band.Most && balance < 0)
-    meeting.Say(Point::RosterLarge, {{"n", std::to_string(count)},
-                                     {"most", std::to_string(band.Most)},
-                                     {"loss", Dollars(-balance)}});
+    meeting.Say(Point::RosterLarge,
+                {{"n", Number(count)}, {"most", Number(band.Most)}, {"loss", Dollars(-balance)}});
 }
 
 /// The least Over that a place on the card asks for.
@@ -64,9 +56,8 @@ std::string RemedyForThin(const Meeting& meeting, const People& fit, int positio
   const int size = meeting.Player().Size;
   for (const Worker* worker : fit)
     if (worker->Position != position && FittingPosition(size, worker->Over) == position)
-      return "Move " + worker->Name.Str() + " there: an Over of " + std::to_string(worker->Over) +
-             " fits.";
-  return "Sign somebody with an Over of " + std::to_string(OverFor(size, position)) + " or more.";
+      return "Move " + worker->Name.Str() + " there: an Over of " + Number(worker->Over) + " fits.";
+  return "Sign somebody with an Over of " + Number(OverFor(size, position)) + " or more.";
 }
 
 void TalkOfPlaces(Meeting& meeting) {
@@ -87,7 +78,7 @@ void TalkOfMisplaced(Meeting& meeting, Point point, const People& people) {
   const Worker& worst = *people.front();
   meeting.Say(point, {{"n", Number(people.size())},
                       {"who", worst.Name.Str()},
-                      {"over", std::to_string(worst.Over)},
+                      {"over", Number(worst.Over)},
                       {"place", Place(worst.Position)},
                       {"fit", Place(FittingPosition(meeting.Player().Size, worst.Over))}});
 }
@@ -105,8 +96,18 @@ void TalkOfSides(Meeting& meeting, const People& fit) {
   const int faces = count("F"), heels = count("H");
   if (faces + heels >= kFewSides &&
       std::min(faces, heels) * kDisproportion < std::max(faces, heels))
-    meeting.Say(Point::OneSided,
-                {{"faces", std::to_string(faces)}, {"heels", std::to_string(heels)}});
+    meeting.Say(Point::OneSided, {{"faces", Number(faces)}, {"heels", Number(heels)}});
+}
+
+/// What weighs on a worker of the player's; empty where the records do not tell.
+std::string WhyUnhappy(const World& world, const Worker& worker) {
+  if (IsHeldLow(world, worker)) return "stands too low on the card";
+  if (HasSite(world.Player(), Site::Territory) && IsInDevelopment(worker) &&
+      worker.Over >= worker.Potential)
+    return "has nothing left to learn in the development territory";
+  if (FallsInARow(world.Player()) >= kPoorForm)
+    return "has seen our standing fall month after month";
+  return {};
 }
 
 std::string BecauseOf(const World& world, const Worker& worker) {
@@ -117,7 +118,7 @@ std::string BecauseOf(const World& world, const Worker& worker) {
 Meeting::Words MoodOf(const World& world, const Worker& worker) {
   return {{"who", worker.Name.Str()},
           {"them", std::string(HimOrHer(worker))},
-          {"morale", std::to_string(worker.Morale)},
+          {"morale", Number(worker.Morale)},
           {"why", BecauseOf(world, worker)}};
 }
 
@@ -137,9 +138,7 @@ void TalkOfTheUnhappy(Meeting& meeting) {
     return w.Morale < kUnhappyBelow && !(w.Status == "Hom") && !WillWalkOut(w) && !WillBoycott(w);
   });
   if (unhappy.empty()) return;
-  const Worker& worst = **std::min_element(unhappy.begin(), unhappy.end(),
-                                           [](auto* a, auto* b) { return a->Morale < b->Morale; });
-  Meeting::Words words = MoodOf(world, worst);
+  Meeting::Words words = MoodOf(world, LeastOf(unhappy, &Worker::Morale));
   words.emplace_back("n", Number(unhappy.size()));
   meeting.Say(Point::Unhappy, words);
 }
@@ -151,21 +150,11 @@ void TalkOfTheRoom(Meeting& meeting) {
   int sum = 0;
   for (const Worker* worker : all) sum += worker->Morale;
   const int mean = sum / static_cast<int>(all.size());
-  if (mean < kRoomLowBelow) meeting.Say(Point::RoomLow, {{"n", std::to_string(mean)}});
-  if (mean >= kRoomHappyFrom) meeting.Say(Point::RoomHappy, {{"n", std::to_string(mean)}});
+  if (mean < kRoomLowBelow) meeting.Say(Point::RoomLow, {{"n", Number(mean)}});
+  if (mean >= kRoomHappyFrom) meeting.Say(Point::RoomHappy, {{"n", Number(mean)}});
 }
 
 }  // namespace
-
-std::string WhyUnhappy(const World& world, const Worker& worker) {
-  if (IsHeldLow(world, worker)) return "stands too low on the card";
-  if (HasSite(world.Player(), Site::Territory) && IsInDevelopment(worker) &&
-      worker.Over >= worker.Potential)
-    return "has nothing left to learn in the development territory";
-  if (FallsInARow(world.Player()) >= kPoorForm)
-    return "has seen our standing fall month after month";
-  return {};
-}
 
 void TalkOfRoster(Meeting& meeting) {
   const World& world = meeting.Of();
@@ -179,10 +168,9 @@ void TalkOfRoster(Meeting& meeting) {
                     return w.Status == "Nor" && IsOnRoster(w) &&
                            w.Position < FittingPosition(size, w.Over) - 1;
                   }));
-  const People unseen = Ours(
-      world, [](const Worker& w) { return !w.Debuted && IsOnMainRoster(w) && w.Status == "Nor"; });
-  if (!unseen.empty())
-    meeting.Say(Point::Undebuted, {{"n", Number(unseen.size())}, {"names", SomeOf(unseen)}});
+  SayOf(meeting, Point::Undebuted, Ours(world, [](const Worker& w) {
+          return !w.Debuted && IsOnMainRoster(w) && w.Status == "Nor";
+        }));
   TalkOfSides(meeting, FitWrestlers(world));
 }
 
@@ -192,9 +180,7 @@ void TalkOfMorale(Meeting& meeting) {
     meeting.Say(Point::WalkOut, MoodOf(world, *worker));
   for (const Worker* worker : Ours(world, WillBoycott))
     meeting.Say(Point::Boycott, MoodOf(world, *worker));
-  const People home = Ours(world, [](const Worker& w) { return w.Status == "Hom"; });
-  if (!home.empty())
-    meeting.Say(Point::SittingOut, {{"n", Number(home.size())}, {"names", SomeOf(home)}});
+  SayOf(meeting, Point::SittingOut, Ours(world, [](const Worker& w) { return w.Status == "Hom"; }));
   TalkOfTheUnhappy(meeting);
   TalkOfTheRoom(meeting);
 }

@@ -11,6 +11,7 @@ using enum Urgency;
 using P = Point;
 
 constexpr int kMaeve = 0;
+constexpr std::string_view kOnAir = "show network weeks rating audience needed risk limit strikes";
 
 // In the order of Point: what it is about, how urgent it is, who makes it, the screen where it is
 // done, what its lines in words/meeting.txt may name.
@@ -82,16 +83,11 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
     {P::TitlesNone, Titles, Soon, kWriter, "frmBelts", ""},
     {P::TvWeeks, Television, Now, kAnnouncer, "frmTelevision",
      "show network weeks rating audience needed risk limit strikes talk remedy"},
-    {P::TvTerrible, Television, Now, kAnnouncer, "frmTelevision",
-     "show network weeks rating audience needed risk limit strikes"},
-    {P::TvLow, Television, Soon, kAnnouncer, "frmTelevision",
-     "show network weeks rating audience needed risk limit strikes"},
-    {P::TvGreat, Television, Good, kAnnouncer, "frmTelevision",
-     "show network weeks rating audience needed risk limit strikes"},
-    {P::TvStrikes, Television, Now, kAnnouncer, "frmTelevision",
-     "show network weeks rating audience needed risk limit strikes"},
-    {P::TvRisk, Television, Now, kAnnouncer, "frmFed",
-     "show network weeks rating audience needed risk limit strikes"},
+    {P::TvTerrible, Television, Now, kAnnouncer, "frmTelevision", kOnAir},
+    {P::TvLow, Television, Soon, kAnnouncer, "frmTelevision", kOnAir},
+    {P::TvGreat, Television, Good, kAnnouncer, "frmTelevision", kOnAir},
+    {P::TvStrikes, Television, Now, kAnnouncer, "frmTelevision", kOnAir},
+    {P::TvRisk, Television, Now, kAnnouncer, "frmFed", kOnAir},
     {P::TvProduction, Television, Soon, kProduction, "frmFedProd", "have charge cost"},
     {P::TvEmptyChair, Television, Watch, kAnnouncer, "frmTelevision", "show chair wanted"},
     {P::TvWeakTable, Television, Soon, kAnnouncer, "frmTelevision",

@@ -4,11 +4,11 @@
 #include "calendar/events.h"
 #include "calendar/image.h"
 #include "info/meeting.h"
-#include "info/meetingfacts.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "roster/postings.h"
 #include "show/attendance.h"
 #include "storylines/feuds.h"
 #include "storylines/titles.h"
@@ -25,8 +25,8 @@ constexpr int kGreatShow = 90;
 constexpr int kFewFeuds = 2;
 constexpr int kColdHeat = 30, kHotHeat = 80, kFitForAnEvent = 60;
 constexpr int kLongReign = 180;
-constexpr int kOutshines =
-    7;  // a Title loses image when the match and its holder lie below by more
+/// A Title loses image when the match and its holder lie below it by more.
+constexpr int kOutshines = 7;
 constexpr int kLeavingMonths = 2;
 constexpr int kDaysAhead = 35, kNear = 14;
 constexpr std::chrono::days kOfLate{28};
@@ -83,8 +83,8 @@ std::string FeudName(const World& world, const Feud& feud) {
   return SideName(world, sides.One) + " against " + SideName(world, sides.Two);
 }
 
-std::vector<const Worker*> PartiesOf(const World& world, const Feud& feud) {
-  std::vector<const Worker*> people;
+People PartiesOf(const World& world, const Feud& feud) {
+  People people;
   for (const Word& uid : {feud.Worker1, feud.Worker2, feud.Worker3, feud.Worker4})
     if (const Worker* worker = world.FindWorker(uid)) people.push_back(worker);
   return people;
@@ -92,7 +92,7 @@ std::vector<const Worker*> PartiesOf(const World& world, const Feud& feud) {
 
 void TalkOfFeud(Meeting& meeting, const Feud& feud) {
   const World& world = meeting.Of();
-  std::vector<const Worker*> away = PartiesOf(world, feud);
+  People away = PartiesOf(world, feud);
   std::erase_if(away, [](const Worker* w) { return w->Status == "Nor" && !IsSentAway(*w); });
   const FeudScore score = FeudWins(feud);
   const int wins = score.One + score.Two;
@@ -107,18 +107,11 @@ void TalkOfFeud(Meeting& meeting, const Feud& feud) {
   if (feud.Heat >= kHotHeat) meeting.Say(Point::FeudHot, words);
 }
 
-bool IsBusy(const World& world, int uid) {
-  for (const Feud& feud : world.Feuds())
-    if (feud.Worker1 == uid || feud.Worker2 == uid || feud.Worker3 == uid || feud.Worker4 == uid)
-      return true;
-  return false;
-}
-
 /// The most popular Face and Heel without a feud who would both have it; empty for none.
 std::string FeudIdea(const World& world) {
   const Worker *face = nullptr, *heel = nullptr;
   for (const Worker* worker : FeudRoster(world)) {
-    if (IsBusy(world, worker->Uid)) continue;
+    if (IsInFeud(world, worker->Uid)) continue;
     if (!face && worker->Disposition == "F") face = worker;
     if (!heel && worker->Disposition == "H") heel = worker;
   }
@@ -140,8 +133,8 @@ std::string WhyLeaving(const Worker& worker) {
   return "the contract has " + Counted(worker.ContractMonths, "month") + " left";
 }
 
-std::vector<const Worker*> HoldersOf(const World& world, const Title& title) {
-  std::vector<const Worker*> holders;
+People HoldersOf(const World& world, const Title& title) {
+  People holders;
   for (const Word& uid : {title.Holder, title.Partner})
     if (const Worker* worker = world.FindWorker(uid)) holders.push_back(worker);
   return holders;
@@ -183,19 +176,6 @@ void TalkOfHeldTitle(Meeting& meeting, const Title& title) {
                                 {"days", Counted(days, "day")}};
   if (over + kOutshines < title.Image) return meeting.Say(Point::TitleOutshines, words);
   if (isDated && days > kLongReign) meeting.Say(Point::TitleLong, words);
-}
-
-/// The next Event day that the player has to think about, today or later.
-Day EventDayAhead(const World& world) {
-  Day day = world.Today();
-  while (!IsEventDay(day)) day += std::chrono::days{1};
-  return day;
-}
-
-int HotFeuds(const World& world) {
-  int hot = 0;
-  for (const Feud& feud : world.Feuds()) hot += !IsFreeSlot(feud) && feud.Heat >= kFitForAnEvent;
-  return hot;
 }
 
 }  // namespace
@@ -259,7 +239,8 @@ void TalkOfTitles(Meeting& meeting) {
 
 void TalkOfEvents(Meeting& meeting) {
   const World& world = meeting.Of();
-  const Day day = EventDayAhead(world);
+  Day day = world.Today();
+  while (!IsEventDay(day)) day += std::chrono::days{1};
   const auto days = (day - world.Today()).count();
   if (days > kDaysAhead) return;
   const Event* event = PlayerEvent(world, MonthOf(day));
@@ -272,11 +253,13 @@ void TalkOfEvents(Meeting& meeting) {
                                    {"cost", Dollars(cost)},
                                    {"money", Dollars(meeting.Player().Money)}});
   if (days > kNear) return;
-  const auto fit = static_cast<int>(
-      Ours(world, [](const Worker& w) { return IsOnRoster(w) && w.Status == "Nor"; }).size());
+  const auto fit = FitWrestlers(world).size();
+  const auto hot = std::ranges::count_if(world.Feuds(), [](const Feud& feud) {
+    return !IsFreeSlot(feud) && feud.Heat >= kFitForAnEvent;
+  });
   meeting.Say(Point::EventNear, {{"event", event->Name.Str()},
                                  {"days", Counted(days, "day")},
-                                 {"feuds", Number(HotFeuds(world))},
+                                 {"feuds", Number(hot)},
                                  {"fit", Counted(fit, "fit person", "fit people")},
                                  {"are", fit == 1 ? "is" : "are"}});
 }

@@ -3,7 +3,6 @@
 #include "business/tvshows.h"
 #include "business/tvtalks.h"
 #include "info/meeting.h"
-#include "info/meetingfacts.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "show/holdshow.h"

@@ -107,15 +107,6 @@ constexpr Standing kStandings[] = {{90, "A legend of the business"},
                                    {25, "Doubted"},
                                    {1, "Distrusted"}};
 
-JobLine LineOf(const Job& job) {
-  return {job.Promotion.Str(), job.Started,    {},          false,
-          job.StartSize,       job.StartImage, job.EndSize, job.EndImage};
-}
-
-bool IsTaken(const Job& job) {
-  return !(job.Promotion == "None") && !job.Promotion.View().empty();
-}
-
 void CountShow(const HistoryEntry& show, JobRecord& record, long long& sum) {
   if (show.CalledOff) {
     ++record.CalledOff;
@@ -142,11 +133,10 @@ std::vector<JobLine> CareerOf(const World& world) {
   Day next = world.Today();
   for (const Job& job : world.Game().Jobs) {
     const bool present = &job == &world.Game().Jobs.front();
-    if (!present && !IsTaken(job)) continue;
-    JobLine& line = career.emplace_back(LineOf(job));
-    line.To = next;
-    line.Present = present;
-    next = line.From;
+    if (!present && (job.Promotion == "None" || job.Promotion == "")) continue;
+    career.push_back({job.Promotion.Str(), job.Started, next, present, job.StartSize,
+                      job.StartImage, job.EndSize, job.EndImage});
+    next = job.Started;
   }
   if (const Promotion* player = world.FindPromotion(world.PlayerUid())) {
     career.front().Promotion = player->Name.Str();

@@ -6,7 +6,7 @@
 #include "business/past.h"
 #include "business/tvtalks.h"
 #include "info/infowords.h"
-#include "info/meetingfacts.h"
+#include "info/meeting.h"
 #include "info/worldnews.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
@@ -40,87 +40,81 @@ struct Heard {
 };
 using Ear = std::vector<Heard>;
 
-LineWords Of(const World& world, const Worker& worker) {
-  return {{"who", worker.Name.Str()}, {"house", PromotionInitials(world, worker.Employer)}};
+/// What may be heard about one of them; all of it can say these words.
+class Whispers {
+ public:
+  Whispers(Ear& ear, std::string about, LineWords words)
+      : ear_(ear), about_(std::move(about)), words_(std::move(words)) {}
+  void If(bool holds, Whisper whisper, const LineWords& more = {}) {
+    if (!holds) return;
+    ear_.push_back({whisper, about_, words_});
+    ear_.back().Words.insert(ear_.back().Words.end(), more.begin(), more.end());
+  }
+
+ private:
+  Ear& ear_;
+  std::string about_;
+  LineWords words_;
+};
+
+void HearOfRivalsStar(Whispers& heard, const Promotion& house, const Worker& worker) {
+  heard.If(worker.ContractMonths >= 1 && worker.ContractMonths <= kLastMonths,
+           Whisper::ContractEnds, {{"n", Counted(worker.ContractMonths, "month")}});
+  heard.If(worker.ContractType == "Non" && !worker.Unsackable, Whisper::Handshake);
+  heard.If(IsOnRoster(worker) && worker.Position - 1 > FittingPosition(house.Size, worker.Over),
+           Whisper::HeldDown, {{"what", std::string(PositionText(worker.Position))}});
+  heard.If(worker.Morale < kUnhappyBelow, Whisper::Unhappy);
 }
 
-LineWords With(LineWords words, const char* name, std::string word) {
-  words.emplace_back(name, std::move(word));
-  return words;
-}
-
-void HearOfRivalsStar(Ear& ear, const World& world, const Worker& worker) {
-  const std::string name = worker.Name.Str();
-  if (worker.ContractMonths >= 1 && worker.ContractMonths <= kLastMonths)
-    ear.push_back({Whisper::ContractEnds, name,
-                   With(Of(world, worker), "n", Counted(worker.ContractMonths, "month"))});
-  if (worker.ContractType == "Non" && !worker.Unsackable)
-    ear.push_back({Whisper::Handshake, name, Of(world, worker)});
-  const Promotion& house = *world.FindPromotion(worker.Employer);
-  if (IsOnRoster(worker) && worker.Position - 1 > FittingPosition(house.Size, worker.Over))
-    ear.push_back({Whisper::HeldDown, name,
-                   With(Of(world, worker), "what", std::string(PositionText(worker.Position)))});
-  if (worker.Morale < kUnhappyBelow) ear.push_back({Whisper::Unhappy, name, Of(world, worker)});
-}
-
-void HearOfAnybody(Ear& ear, const World& world, const Worker& worker) {
-  const std::string name = worker.Name.Str();
-  if (worker.Status == "Inj" && worker.StatusMonths == 1)
-    ear.push_back({Whisper::Back, name, Of(world, worker)});
-  if (worker.TurnPending) ear.push_back({Whisper::Turn, name, Of(world, worker)});
-  if (IsOnRoster(worker) && worker.Age >= kOld && worker.BirthMonth == MonthOf(world.Today()) &&
-      !worker.RetiringSoon)
-    ear.push_back(
-        {Whisper::OldBones, name, With(Of(world, worker), "n", std::to_string(worker.Age))});
+void HearOfAnybody(Whispers& heard, const World& world, const Worker& worker) {
+  heard.If(worker.Status == "Inj" && worker.StatusMonths == 1, Whisper::Back);
+  heard.If(worker.TurnPending, Whisper::Turn);
+  heard.If(IsOnRoster(worker) && worker.Age >= kOld &&
+               worker.BirthMonth == MonthOf(world.Today()) && !worker.RetiringSoon,
+           Whisper::OldBones, {{"n", std::to_string(worker.Age)}});
 }
 
 void HearOfWorkers(Ear& ear, const World& world) {
   for (const Worker& worker : world.Workers()) {
     if (worker.Over < kKnown) continue;
-    if (worker.Employer == 0 && IsOnRoster(worker))
-      ear.push_back({Whisper::FreeStar,
-                     worker.Name.Str(),
-                     {{"who", worker.Name.Str()}, {"n", Dollars(worker.Wage * 1000LL)}}});
+    Whispers heard(
+        ear, worker.Name.Str(),
+        {{"who", worker.Name.Str()}, {"house", PromotionInitials(world, worker.Employer)}});
+    heard.If(worker.Employer == 0 && IsOnRoster(worker), Whisper::FreeStar,
+             {{"n", Dollars(worker.Wage * 1000LL)}});
     const Promotion* house = world.FindPromotion(worker.Employer);
     if (!house || !IsAlive(*house)) continue;
-    if (IsRival(world, *house)) HearOfRivalsStar(ear, world, worker);
-    HearOfAnybody(ear, world, worker);
+    if (IsRival(world, *house)) HearOfRivalsStar(heard, *house, worker);
+    HearOfAnybody(heard, world, worker);
   }
 }
 
 /// The worst about a house's money; nothing where it has enough.
-void HearOfMoney(Ear& ear, const Promotion& rival, const LineWords& words) {
-  const std::string name = rival.Name.Str();
+void HearOfMoney(Whispers& heard, const Promotion& rival) {
   const Purse purse = PurseOf(rival);
   if (rival.Money < BankruptcyLineOf(rival.Size).WarnedBelow)
-    ear.push_back({Whisper::NearBankruptcy, name, words});
-  else if (rival.Money < 0)
-    ear.push_back({Whisper::InDebt, name, words});
-  else if (purse == Purse::Saving)
-    ear.push_back({Whisper::Saving, name, words});
-  else if (purse == Purse::Spending)
-    ear.push_back({Whisper::Spending, name, words});
+    return heard.If(true, Whisper::NearBankruptcy);
+  if (rival.Money < 0) return heard.If(true, Whisper::InDebt);
+  heard.If(purse == Purse::Saving, Whisper::Saving);
+  heard.If(purse == Purse::Spending, Whisper::Spending);
 }
 
-void HearOfStanding(Ear& ear, const Promotion& rival, LineWords words) {
-  words.emplace_back("n", std::to_string(rival.Image));
-  const std::string name = rival.Name.Str();
-  if (rival.Image >= kNearTheTop && rival.Size > kGlobal)
-    ear.push_back(
-        {Whisper::AboutToRise, name, With(words, "what", std::string(SizeText(rival.Size - 1)))});
-  if (rival.Image <= kNearTheBottom && rival.Size < kBackyard)
-    ear.push_back(
-        {Whisper::AboutToFall, name, With(words, "what", std::string(SizeText(rival.Size + 1)))});
-  if (FallsInARow(rival) >= kBadMonths) ear.push_back({Whisper::Slipping, name, words});
+void HearOfStanding(Whispers& heard, const Promotion& rival) {
+  heard.If(rival.Image >= kNearTheTop && rival.Size > kGlobal, Whisper::AboutToRise,
+           {{"what", std::string(SizeText(rival.Size - 1))}});
+  heard.If(rival.Image <= kNearTheBottom && rival.Size < kBackyard, Whisper::AboutToFall,
+           {{"what", std::string(SizeText(rival.Size + 1))}});
+  heard.If(FallsInARow(rival) >= kBadMonths, Whisper::Slipping);
 }
 
 void HearOfPromotions(Ear& ear, const World& world) {
   for (const Promotion& rival : world.Promotions()) {
     if (!IsRival(world, rival)) continue;
-    const LineWords words = {{"house", rival.Initials.Str()}};
-    HearOfMoney(ear, rival, words);
-    HearOfStanding(ear, rival, words);
-    if (!OwnerOf(world, rival.Uid)) ear.push_back({Whisper::NoOwner, rival.Name.Str(), words});
+    Whispers heard(ear, rival.Name.Str(),
+                   {{"house", rival.Initials.Str()}, {"n", std::to_string(rival.Image)}});
+    HearOfMoney(heard, rival);
+    HearOfStanding(heard, rival);
+    heard.If(!OwnerOf(world, rival.Uid), Whisper::NoOwner);
   }
 }
 
@@ -129,21 +123,14 @@ void HearOfTitles(Ear& ear, const World& world) {
     const Promotion* house = world.FindPromotion(title.Owner);
     const Day won = title.Reigns[0].Won;
     if (!house || !IsRival(world, *house) || title.Suspended) continue;
-    if (title.Holder == 0)
-      ear.push_back({Whisper::NoChampion,
-                     title.Name.Str(),
-                     {{"what", WithArticle(title.Name.View())}, {"house", house->Initials.Str()}}});
+    Whispers heard(ear, title.Name.Str(),
+                   {{"what", WithArticle(title.Name.View())}, {"house", house->Initials.Str()}});
+    heard.If(title.Holder == 0, Whisper::NoChampion);
     if (title.Holder == 0 || won == kNoTitleDate) continue;
-    const auto days = static_cast<int>((world.Today() - won).count());
     // Counted to the month's first day, so that the words stay as they are.
-    const auto told = static_cast<int>((MonthsBefore(world.Today(), 0) - won).count());
-    if (days >= kLongReign && told >= kLongReign)
-      ear.push_back({Whisper::LongReign,
-                     title.Name.Str(),
-                     {{"who", ChampionText(world, title)},
-                      {"what", WithArticle(title.Name.View())},
-                      {"house", house->Initials.Str()},
-                      {"n", "more than " + std::to_string(told)}}});
+    const auto days = static_cast<int>((MonthsBefore(world.Today(), 0) - won).count());
+    heard.If(days >= kLongReign, Whisper::LongReign,
+             {{"who", ChampionText(world, title)}, {"n", "more than " + std::to_string(days)}});
   }
 }
 
@@ -152,15 +139,14 @@ void HearOfShows(Ear& ear, const World& world) {
     const Promotion* owner = world.FindPromotion(show.Owner);
     const Network* network = world.FindNetwork(show.Network);
     if (!owner || !network || !IsRival(world, *owner)) continue;
-    const LineWords words = {{"who", show.Name.Str()},
-                             {"house", owner->Initials.Str()},
-                             {"other", network->Name.Str()},
-                             {"n", "a few weeks"}};
+    Whispers heard(ear, show.Name.Str(),
+                   {{"who", show.Name.Str()},
+                    {"house", owner->Initials.Str()},
+                    {"other", network->Name.Str()},
+                    {"n", "a few weeks"}});
     const NetworkView view = ViewOf(show, *network);
-    if (view == kTerrible || view == kLow)
-      ear.push_back({Whisper::NetworkCold, show.Name.Str(), words});
-    if (show.ContractWeeks >= 1 && show.ContractWeeks <= kShortDeal)
-      ear.push_back({Whisper::ShortDeal, show.Name.Str(), words});
+    heard.If(view == kTerrible || view == kLow, Whisper::NetworkCold);
+    heard.If(show.ContractWeeks >= 1 && show.ContractWeeks <= kShortDeal, Whisper::ShortDeal);
   }
 }
 

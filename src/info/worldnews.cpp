@@ -153,9 +153,8 @@ int AgeOf(const Worker& worker) {
 }
 
 /// Whoever may wrestle, with or without a job.
-template <class Test>
-Rows Wrestlers(const World& world, Test test, int (*first)(const Worker&),
-               int (*second)(const Worker&)) {
+template <bool (*test)(const Worker&), int (*first)(const Worker&), int (*second)(const Worker&)>
+Rows Wrestlers(const World& world) {
   Rows rows;
   for (const Worker& worker : world.Workers())
     if (IsOnRoster(worker) && test(worker))
@@ -169,6 +168,9 @@ bool IsMan(const Worker& worker) {
 }
 bool IsWoman(const Worker& worker) {
   return !worker.Gender;
+}
+bool IsYoung(const Worker& worker) {
+  return worker.Age < kYoung;
 }
 
 Rows PromotionRows(const World& world) {
@@ -228,19 +230,11 @@ Rows TitleRows(const World& world) {
 
 constexpr Ranking kRankings[] = {
     {"Promotions", "Name", "Size", "Image", PromotionRows},
-    {"Men by popularity", "Worker", "Over", "Skill",
-     [](const World& world) { return Wrestlers(world, IsMan, OverOf, SkillOf); }},
-    {"Women by popularity", "Worker", "Over", "Skill",
-     [](const World& world) { return Wrestlers(world, IsWoman, OverOf, SkillOf); }},
-    {"Men by skill", "Worker", "Skill", "Over",
-     [](const World& world) { return Wrestlers(world, IsMan, SkillOf, OverOf); }},
-    {"Women by skill", "Worker", "Skill", "Over",
-     [](const World& world) { return Wrestlers(world, IsWoman, SkillOf, OverOf); }},
-    {"The young", "Worker", "Over", "Age",
-     [](const World& world) {
-       return Wrestlers(
-           world, [](const Worker& w) { return w.Age < kYoung; }, OverOf, AgeOf);
-     }},
+    {"Men by popularity", "Worker", "Over", "Skill", Wrestlers<IsMan, OverOf, SkillOf>},
+    {"Women by popularity", "Worker", "Over", "Skill", Wrestlers<IsWoman, OverOf, SkillOf>},
+    {"Men by skill", "Worker", "Skill", "Over", Wrestlers<IsMan, SkillOf, OverOf>},
+    {"Women by skill", "Worker", "Skill", "Over", Wrestlers<IsWoman, SkillOf, OverOf>},
+    {"The young", "Worker", "Over", "Age", Wrestlers<IsYoung, OverOf, AgeOf>},
     {"Tag Teams", "Team", "Over", "Experience", TeamRows},
     {"Titles", "Title", "Image", "Champion", TitleRows},
     {"Television shows", "Show", "Last rating", "Network", ShowRows},
@@ -258,6 +252,7 @@ std::vector<RankRow> RowsOf(const World& world, const Ranking& ranking) {
     return a.First.Number > b.First.Number;
   });
   if (rows.size() > kMost) rows.resize(kMost);
+  for (int place = 1; RankRow & row : rows) row.Place = place++;
   return rows;
 }
 

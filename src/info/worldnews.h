@@ -35,6 +35,7 @@ struct RankFigure {
 struct RankRow {
   std::string Name, House;  // whose
   RankFigure First, Second;
+  int Place = 0;  // from 1
 };
 /// A list of the best, the first figure deciding.
 struct Ranking {

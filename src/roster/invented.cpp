@@ -10,15 +10,10 @@ namespace grapplemont {
 
 namespace {
 
+/// The place of one of them, from 1.
 template <class Names>
-std::string_view DrawFrom(World& world, const Names& names) {
-  return names[static_cast<std::size_t>(world.RandomDraw(static_cast<int>(names.size())) - 1)];
-}
-
-template <class Names>
-DrawnFirstName DrawFirstName(World& world, const Names& names, int lastMale) {
-  const int drawn = world.RandomDraw(static_cast<int>(names.size()));
-  return {names[static_cast<std::size_t>(drawn - 1)], drawn > lastMale};
+int DrawPlace(World& world, const Names& names) {
+  return world.RandomDraw(static_cast<int>(names.size()));
 }
 
 /// What a wrestler is built for.
@@ -88,6 +83,16 @@ void CharismaBonus(Worker& worker) {
   worker.Over = over;
 }
 
+/// Names the finisher of slot 1 or 2 and sets how it is done, from the moves of a kind.
+void RandomMove(World& world, Worker& worker, char kind, int slot) {
+  const auto isKind = [kind](const FinisherMove& move) { return move.Kind == kind; };
+  const auto first = std::ranges::find_if(FinisherMoves, isKind);
+  const auto last = std::find_if_not(first, FinisherMoves.end(), isKind);
+  const FinisherMove& move = first[world.RandomDraw(static_cast<int>(last - first)) - 1];
+  (slot == 1 ? worker.Finisher1 : worker.Finisher2) = move.Name;
+  FinisherFlags(worker, slot, move.Type);
+}
+
 void DrawTier(World& world, Worker& worker, const Build& build) {
   const int drawn = world.RandomDraw(25);
   const Tier& tier = *std::ranges::find_if(kTiers, [&](auto& t) { return drawn <= t.UpTo; });
@@ -102,24 +107,25 @@ void DrawTier(World& world, Worker& worker, const Build& build) {
   CharismaBonus(worker);
 }
 
-void DrawName(World& world, Worker& worker) {
+/// A name that nobody has, and the sex that comes with it: women's first names stand behind the
+/// last male one. Gives the surname.
+template <class Person, class Names>
+std::string_view DrawName(World& world, Person& person, const Names& firstNames, int lastMale,
+                          bool (*isFree)(const World& world, std::string_view name)) {
   std::string_view surname;
   do {
-    surname = RandomSurname(world);
-    const DrawnFirstName first = RandomWorkerFirstName(world);
-    worker.Name = std::string(first.Name) + " " + std::string(surname);
-    worker.Gender = !first.IsFemale;
-  } while (!WorkerNameFree(world, worker.Name));
-  worker.ShortName = surname;
+    surname = Surnames[static_cast<std::size_t>(DrawPlace(world, Surnames) - 1)];
+    const int first = DrawPlace(world, firstNames);
+    person.Name =
+        std::string(firstNames[static_cast<std::size_t>(first - 1)]) + " " + std::string(surname);
+    person.Gender = first <= lastMale;
+  } while (!isFree(world, person.Name));
+  return surname;
 }
 
-void DrawName(World& world, Staff& staff) {
-  do {
-    const std::string_view surname = RandomSurname(world);
-    const DrawnFirstName first = RandomStaffFirstName(world);
-    staff.Name = std::string(first.Name) + " " + std::string(surname);
-    staff.Gender = !first.IsFemale;
-  } while (!StaffNameFree(world, staff.Name));
+void DrawName(World& world, Worker& worker) {
+  worker.ShortName =
+      DrawName(world, worker, WorkerFirstNames, kLastMaleWorkerFirstName, WorkerNameFree);
 }
 
 /// Birthday, disposition and the four flags of somebody whom nobody employs.
@@ -139,7 +145,7 @@ void DrawOnTheMarket(World& world, Worker& worker) {
 
 Staff NewStaffMember(World& world, int position) {
   Staff staff;
-  DrawName(world, staff);
+  DrawName(world, staff, StaffFirstNames, kLastMaleStaffFirstName, StaffNameFree);
   staff.Uid = NextStaffUid(world);
   staff.Position = position;
   NewStaffAttributes(world, staff);
@@ -147,27 +153,6 @@ Staff NewStaffMember(World& world, int position) {
 }
 
 }  // namespace
-
-std::string_view RandomSurname(World& world) {
-  return DrawFrom(world, Surnames);
-}
-
-DrawnFirstName RandomWorkerFirstName(World& world) {
-  return DrawFirstName(world, WorkerFirstNames, kLastMaleWorkerFirstName);
-}
-
-DrawnFirstName RandomStaffFirstName(World& world) {
-  return DrawFirstName(world, StaffFirstNames, kLastMaleStaffFirstName);
-}
-
-void RandomMove(World& world, Worker& worker, char kind, int slot) {
-  const auto isKind = [kind](const FinisherMove& move) { return move.Kind == kind; };
-  const auto first = std::ranges::find_if(FinisherMoves, isKind);
-  const auto last = std::find_if_not(first, FinisherMoves.end(), isKind);
-  const FinisherMove& move = first[world.RandomDraw(static_cast<int>(last - first)) - 1];
-  (slot == 1 ? worker.Finisher1 : worker.Finisher2) = move.Name;
-  FinisherFlags(worker, slot, move.Type);
-}
 
 void NewWorkerAttributes(World& world, Worker& worker, Generation generation) {
   worker.Age = 18 + world.RandomDraw(generation == Generation::Rookie ? 4 : 20);

@@ -1,26 +1,11 @@
 #pragma once
 
 #include <string>
-#include <string_view>
-
 #include "records/world.h"
 
 // People whom the program makes up: to fill a new world, and in the place of the retired.
 
 namespace grapplemont {
-
-struct DrawnFirstName {
-  std::string_view Name;
-  bool IsFemale = false;  // nothing else decides a made-up person's sex
-};
-
-// One draw each, over the whole table.
-std::string_view RandomSurname(World& world);
-DrawnFirstName RandomWorkerFirstName(World& world);
-DrawnFirstName RandomStaffFirstName(World& world);
-/// One draw over the moves of a kind, 'B' brawling, 'T' technical or 'S' speed; names the finisher
-/// of slot 1 or 2 and sets how it is done.
-void RandomMove(World& world, Worker& worker, char kind, int slot);
 
 enum class Generation { Filler, Rookie };  // a rookie is 19 to 22
 /// Age, body, skills, finishers, place and Over. Requires Gender.

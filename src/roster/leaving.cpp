@@ -89,29 +89,18 @@ namespace {
 
 constexpr int kPoorMarket = 40;  // of the economy
 
-struct Reason {
-  bool (*Holds)(const Promotion& own, const Worker& who);
+/// Whoever is so popular in a promotion of this size would try a bigger one.
+struct Ambition {
+  int Size, Over;
   const char* Words;
 };
-constexpr Reason kReasons[] = {
-    {[](const Promotion& own, const Worker&) { return own.Money < 0; },
-     ": 'With the financial situation of the company the way it is, i accept!'"},
-    {[](const Promotion&, const Worker& who) { return who.Morale < 40; },
-     ": 'I am unhappy here, so i accept!'"},
-    {[](const Promotion& own, const Worker& who) {
-       return own.Size == kBackyard && who.Over >= 21;
-     },
-     ": 'I accept, i'd like to try my luck in a bigger promotion.'"},
-    {[](const Promotion& own, const Worker& who) { return own.Size == kSmall && who.Over >= 41; },
-     ": 'I was thinking of moving to another promotion anyway, so i accept!'"},
-    {[](const Promotion& own, const Worker& who) {
-       return own.Size == kRegional && who.Over >= 56;
-     },
-     ": 'Thanks boss, i was hoping to try my luck elsewhere. I accept.'"},
-    {[](const Promotion& own, const Worker& who) {
-       return (own.Size == kCult && who.Over >= 71) || (own.Size == kNational && who.Over >= 83);
-     },
-     ": 'Thanks, i will accept so that i can try my luck elsewhere.'"},
+constexpr const char* kTryMyLuck = ": 'Thanks, i will accept so that i can try my luck elsewhere.'";
+constexpr Ambition kAmbitions[] = {
+    {kBackyard, 21, ": 'I accept, i'd like to try my luck in a bigger promotion.'"},
+    {kSmall, 41, ": 'I was thinking of moving to another promotion anyway, so i accept!'"},
+    {kRegional, 56, ": 'Thanks boss, i was hoping to try my luck elsewhere. I accept.'"},
+    {kCult, 71, kTryMyLuck},
+    {kNational, 83, kTryMyLuck},
 };
 
 constexpr const char* kPoorTimes =
@@ -121,16 +110,7 @@ constexpr const char* kNowhere =
 constexpr const char* kNoMove =
     ": 'I don't think leaving is a good career move for me at the moment.'";
 
-/// Why he would go; nullptr when he would rather stay.
-const Reason* ReasonToGo(const World& world, const Worker& worker) {
-  const Promotion& own = world.Player();
-  const auto reason =
-      std::ranges::find_if(kReasons, [&](const Reason& r) { return r.Holds(own, worker); });
-  return reason == std::end(kReasons) ? nullptr : reason;
-}
-
-}  // namespace
-
+/// The smallest promotion, by its size, that this Over would still go to.
 int SmallestFor(int over) {
   if (over >= 86) return kNational;
   if (over >= 66) return kCult;
@@ -138,11 +118,25 @@ int SmallestFor(int over) {
   return over >= 20 ? kSmall : kBackyard;
 }
 
+/// Whether any promotion there is, the player's included, is big enough for him.
 bool HasMarket(const World& world, const Worker& worker) {
   const int smallest = SmallestFor(worker.Over);
   return std::ranges::any_of(
       world.Promotions(), [=](const Promotion& promotion) { return promotion.Size <= smallest; });
 }
+
+/// Why he would go; nullptr when he would rather stay.
+const char* ReasonToGo(const World& world, const Worker& worker) {
+  const Promotion& own = world.Player();
+  if (own.Money < 0)
+    return ": 'With the financial situation of the company the way it is, i accept!'";
+  if (worker.Morale < 40) return ": 'I am unhappy here, so i accept!'";
+  for (const Ambition& row : kAmbitions)
+    if (own.Size == row.Size && worker.Over >= row.Over) return row.Words;
+  return nullptr;
+}
+
+}  // namespace
 
 ReleaseAnswer AnswerToRelease(const World& world, const Worker& worker) {
   ReleaseAnswer answer;
@@ -153,9 +147,9 @@ ReleaseAnswer AnswerToRelease(const World& world, const Worker& worker) {
   if (poor) say("Rejected", kPoorTimes);
   if (!market) say("Rejected", kNowhere);
   if (!poor && market) {
-    const Reason* reason = ReasonToGo(world, worker);
+    const char* reason = ReasonToGo(world, worker);
     answer.Accepted = reason != nullptr;
-    reason ? say("Accepted", reason->Words) : say("Rejected", kNoMove);
+    say(reason ? "Accepted" : "Rejected", reason ? reason : kNoMove);
   }
   if (!answer.Accepted) say("Rejected", " formally rejects your offer of a release.");
   return answer;
@@ -185,10 +179,6 @@ void BreakWord(World& world, Worker& worker) {
           "I can't believe you broke my verbal contract! I'll never work for you again!");
 }
 
-long long CostOf(const World& world, const Worker& worker) {
-  return BuyOutCost(world.Game().Difficulty, worker.Wage, worker.ContractMonths);
-}
-
 }  // namespace
 
 long long BuyOutCost(int difficulty, int wage, int months) {
@@ -200,6 +190,11 @@ long long BuyOutCost(int difficulty, int wage, int months) {
   return cost < 0 ? 6 * month : cost;
 }
 
+Parting PartingOf(const Staff& staff) {
+  if (staff.Morale < 20) return Parting::Gladly;
+  return staff.ContractType == "Non" ? Parting::Verbal : Parting::BuyOut;
+}
+
 Parting PartingOf(const Worker& worker) {
   if (worker.Status == "Hom" || worker.Morale < 20) return Parting::Gladly;
   return worker.ContractType == "Non" ? Parting::Verbal : Parting::BuyOut;
@@ -208,7 +203,7 @@ Parting PartingOf(const Worker& worker) {
 std::string TerminationQuestion(const World& world, const Worker& worker) {
   switch (PartingOf(worker)) {
     case Parting::BuyOut:
-      return "Terminating this contract will cost $" + std::to_string(CostOf(world, worker)) +
+      return "Terminating this contract will cost $" + std::to_string(BuyOutCost(world, worker)) +
              ". Proceed?";
     case Parting::Verbal:
       return "This worker is only under a verbal contract, and so can be released for free. "
@@ -221,10 +216,7 @@ std::string TerminationQuestion(const World& world, const Worker& worker) {
 
 void Terminate(World& world, Worker& worker) {
   const Parting parting = PartingOf(worker);
-  if (parting == Parting::BuyOut) {
-    world.Player().Money -= CostOf(world, worker);
-    worker.Loyalty -= 30;
-  }
+  if (parting == Parting::BuyOut) BuyOut(world, worker);
   if (parting == Parting::Verbal) BreakWord(world, worker);
   ReleaseWorker(world, worker);
 }

@@ -18,11 +18,6 @@ void PartWith(World& world, Worker& worker);
 
 // Offering a worker to let him go: he takes it only where he has somewhere to go.
 
-/// The smallest promotion, by its size, that this Over would still go to.
-int SmallestFor(int over);
-/// Whether any promotion there is, the player's included, is big enough for him.
-bool HasMarket(const World& world, const Worker& worker);
-
 struct ReleaseAnswer {
   std::vector<Remark> Remarks;
   bool Accepted = false;
@@ -36,10 +31,21 @@ ReleaseAnswer AnswerToRelease(const World& world, const Worker& worker);
 /// dollars a month and the months left. What would be below 0, for want of an end, is half a year
 /// of wages.
 long long BuyOutCost(int difficulty, int wage, int months);
+template <class Person>
+long long BuyOutCost(const World& world, const Person& person) {
+  return BuyOutCost(world.Game().Difficulty, person.Wage, person.ContractMonths);
+}
+/// Pays it, whatever is in the bank, and he feels it.
+template <class Person>
+void BuyOut(World& world, Person& person) {
+  world.Player().Money -= BuyOutCost(world, person);
+  person.Loyalty -= 30;
+}
 
 /// How he would go.
 enum class Parting { BuyOut, Verbal, Gladly };
 Parting PartingOf(const Worker& worker);
+Parting PartingOf(const Staff& staff);
 /// What the player is asked before it happens.
 std::string TerminationQuestion(const World& world, const Worker& worker);
 /// Pays, whatever is in the bank, lets him feel it, and releases him. Draws as ReleaseWorker does.

@@ -20,9 +20,11 @@ template <int low, int high>
 bool Aged(const Worker& worker) {
   return worker.Age >= low && worker.Age <= high;
 }
+/// Not of free agents and the unsackable.
 template <int months>
 bool EndsWithin(const Worker& worker) {
-  return RunsOutWithin(worker, months);
+  return worker.Employer != 0 && !worker.Unsackable && worker.ContractMonths >= 0 &&
+         worker.ContractMonths <= months;
 }
 template <int tier>
 bool Skilled(const Worker& worker) {
@@ -125,11 +127,6 @@ std::span<const FilterFamily> RosterFilters() {
 }
 std::span<const FilterFamily> MarketFilters() {
   return kMarketFilters;
-}
-
-bool RunsOutWithin(const Worker& worker, int months) {
-  return worker.Employer != 0 && !worker.Unsackable && worker.ContractMonths >= 0 &&
-         worker.ContractMonths <= months;
 }
 
 bool IsShortlisted(const World& world, int workerUid) {

@@ -28,9 +28,6 @@ std::span<const FilterFamily> RosterFilters();
 /// By bond, sex, kind of work, skill and age.
 std::span<const FilterFamily> MarketFilters();
 
-/// A contract that runs out within so many months; none for free agents and the unsackable.
-bool RunsOutWithin(const Worker& worker, int months);
-
 // The workers of other promotions and of the market whom the player keeps an eye on.
 
 bool IsShortlisted(const World& world, int workerUid);

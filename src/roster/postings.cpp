@@ -6,7 +6,6 @@
 #include "records/arithmetic.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
-#include "storylines/storynames.h"
 
 namespace grapplemont {
 
@@ -22,22 +21,11 @@ std::string WhyNotOurs(const World& world, const Worker& worker) {
   return WorksForPlayer(world, worker) ? "" : worker.Name + " does not work for you.";
 }
 
-const Title* TitleOf(const World& world, int uid) {
-  for (const Title& title : world.Titles())
-    if (title.Holder == uid || title.Partner == uid) return &title;
-  return nullptr;
-}
-
-bool IsInFeud(const World& world, int uid) {
-  return std::ranges::any_of(world.Feuds(), [uid](const Feud& feud) {
-    return feud.Worker1 == uid || feud.Worker2 == uid || feud.Worker3 == uid || feud.Worker4 == uid;
-  });
-}
-
 std::string WhyTitleHolds(const World& world, const Worker& worker) {
-  const Title* title = TitleOf(world, worker.Uid);
-  return title ? worker.Name + " holds the " + title->Name.Str() + " and has to lose it first."
-               : "";
+  for (const Title& title : world.Titles())
+    if (title.Holder == worker.Uid || title.Partner == worker.Uid)
+      return worker.Name + " holds the " + title.Name.Str() + " and has to lose it first.";
+  return {};
 }
 
 /// Whatever keeps somebody on the shows.
@@ -51,24 +39,30 @@ std::string WhyNotAway(const World& world, const Worker& worker) {
   return IsInFeud(world, worker.Uid) ? worker.Name + " is in a feud, which has to end first." : "";
 }
 
-bool HasClients(const World& world, const Worker& worker) {
-  return std::ranges::any_of(world.Workers(),
-                             [&](const Worker& w) { return w.Manager == worker.Uid; });
-}
-
 bool IsCommissioner(const World& world, const Worker& worker) {
   return world.Player().Commissioner == worker.Uid;
 }
 
 }  // namespace
 
+int BestSkillOf(const Worker& worker) {
+  return std::max({int(worker.Brawl), int(worker.Technical), int(worker.Speed)});
+}
+
 int SkillTier(const Worker& worker) {
-  const int best = std::max({int(worker.Brawl), int(worker.Technical), int(worker.Speed)});
+  const int best = BestSkillOf(worker);
   return best >= 76 ? 2 : best >= 61 ? 1 : 0;
 }
 
 bool IsInCamp(const Worker& worker) {
   return worker.Position == kTrainingCamp;
+}
+
+bool IsInFeud(const World& world, int workerUid) {
+  return std::ranges::any_of(world.Feuds(), [=](const Feud& feud) {
+    return feud.Worker1 == workerUid || feud.Worker2 == workerUid || feud.Worker3 == workerUid ||
+           feud.Worker4 == workerUid;
+  });
 }
 
 std::string PlaceText(const Worker& worker) {
@@ -102,10 +96,6 @@ std::string WhyNotRecall(const World& world, const Worker& worker) {
                                                      : worker.Name + " has not been sent away.";
 }
 
-void Recall(Worker& worker) {
-  EndPosting(worker);
-}
-
 std::span<const int> PositionsToMoveTo() {
   return kMoves;
 }
@@ -128,7 +118,8 @@ int MoraleOfMove(int from, int to) {
 
 std::string EndedByMove(const World& world, const Worker& worker, int position) {
   std::string ended;
-  if (position != kManager && HasClients(world, worker))
+  const auto isClient = [&](const Worker& other) { return other.Manager == worker.Uid; };
+  if (position != kManager && std::ranges::any_of(world.Workers(), isClient))
     ended += " The clients lose their manager.";
   if (position != kNonWrestler && IsCommissioner(world, worker))
     ended += " You lose your Commissioner.";

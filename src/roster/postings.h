@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "records/fields/people.h"
 #include "records/world.h"
 
 // Where the player's people stand: their place on the card, the development territory, the training
@@ -12,10 +11,13 @@
 
 namespace grapplemont {
 
+/// The highest of Brawl, Technical and Speed.
+int BestSkillOf(const Worker& worker);
 /// 2 with a Brawl, Technical or Speed of 76 and more, 1 with one of 61 and more, else 0.
 int SkillTier(const Worker& worker);
 
 bool IsInCamp(const Worker& worker);
+bool IsInFeud(const World& world, int workerUid);
 /// "Main Event", "Midcard, in development", "Training Camp": of any code.
 std::string PlaceText(const Worker& worker);
 
@@ -25,9 +27,8 @@ void SendToDevelopment(Worker& worker);
 /// Only the young who cannot do much yet go there; they lose their place on the card.
 std::string WhyNotToCamp(const World& world, const Worker& worker);
 void SendToCamp(Worker& worker);
-/// Back to the place he came from; where he had none, to the one that his Over earns.
+/// Whether EndPosting of records/severing.h may bring him back.
 std::string WhyNotRecall(const World& world, const Worker& worker);
-void Recall(Worker& worker);
 
 /// The positions that a worker can be moved to, in the order of screens.
 std::span<const int> PositionsToMoveTo();

@@ -184,9 +184,7 @@ void Sign(World& world, Worker& worker, const SigningOffer& offer) {
   worker.ShortName = TrimmedName(offer.ShortName);
   worker.Disposition = offer.Disposition;
   worker.Position = offer.Position;
-  worker.ContractMonths = offer.Months;
-  worker.ContractType = ContractCodeOf(offer.Written);
-  worker.Wage = offer.Wage;
+  PutInto(worker, offer);
   worker.CreativeControl = offer.CreativeControl;
   worker.Stable = "None";
   worker.Split = "None";

@@ -108,19 +108,18 @@ constexpr Objection kObjections[] = {
      "For so many years i want a fifth on top."},
 };
 
+/// What his talent is worth to a promotion of this size, thousands of dollars a month.
+int WorthOf(int size, int talent) {
+  return PercentOf(talent, BySize(kMarket, size).Worth) / kTalentPerThousand;
+}
+
 int WageWanted(const World& world, const Staff& staff) {
   const int size = world.Player().Size, now = staff.Wage;
   const bool own = WorksForPlayer(world, staff);
   const int moved = now + PercentOf(now, own ? RaiseOf(staff.Talent) : BySize(kMarket, size).Moves);
-  int wage = std::max(moved, StaffWorth(size, staff.Talent));
+  int wage = std::max(moved, WorthOf(size, staff.Talent));
   if (!own && staff.Employer != 0) wage = PercentOf(wage, 120);
   return std::clamp(wage, 0, kHighestStaffWage);
-}
-
-void PutInto(Staff& staff, const ContractOffer& offer) {
-  staff.ContractType = ContractCodeOf(offer.Written);
-  staff.ContractMonths = offer.Months;
-  staff.Wage = offer.Wage;
 }
 
 }  // namespace
@@ -134,10 +133,6 @@ std::string WhyNoStaffTalks(const Staff& staff) {
   if (staff.Employer != 0 && IsEndless(staff))
     return staff.Name + " is unsackable: the agreement has no end, and nothing to talk about.";
   return {};
-}
-
-int StaffWorth(int size, int talent) {
-  return PercentOf(talent, BySize(kMarket, size).Worth) / kTalentPerThousand;
 }
 
 int TalentCeiling(int size) {
@@ -161,10 +156,6 @@ std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffD
   return {};
 }
 
-void RenewStaff(Staff& staff, const ContractOffer& offer) {
-  PutInto(staff, offer);
-}
-
 void HireStaff(World& world, Staff& staff, const ContractOffer& offer) {
   DismissStaff(world, staff);
   staff.Employer = world.PlayerUid();
@@ -173,24 +164,11 @@ void HireStaff(World& world, Staff& staff, const ContractOffer& offer) {
   PutInto(staff, offer);
 }
 
-namespace {
-
-Parting PartingOf(const Staff& staff) {
-  if (staff.Morale < 20) return Parting::Gladly;
-  return staff.ContractType == "Non" ? Parting::Verbal : Parting::BuyOut;
-}
-
-long long CostOf(const World& world, const Staff& staff) {
-  return BuyOutCost(world.Game().Difficulty, staff.Wage, staff.ContractMonths);
-}
-
-}  // namespace
-
 std::string FiringQuestion(const World& world, const Staff& staff) {
   switch (PartingOf(staff)) {
     case Parting::BuyOut:
       return "Buying out the contract of " + staff.Name.Str() + " will cost $" +
-             std::to_string(CostOf(world, staff)) + ". Proceed?";
+             std::to_string(BuyOutCost(world, staff)) + ". Proceed?";
     case Parting::Verbal:
       return "Nothing is in writing, and " + staff.Name.Str() + " can be let go for free. Proceed?";
     case Parting::Gladly:
@@ -201,10 +179,7 @@ std::string FiringQuestion(const World& world, const Staff& staff) {
 
 void FireStaff(World& world, Staff& staff) {
   const Parting parting = PartingOf(staff);
-  if (parting == Parting::BuyOut) {
-    world.Player().Money -= CostOf(world, staff);
-    staff.Loyalty -= 30;
-  }
+  if (parting == Parting::BuyOut) BuyOut(world, staff);
   if (parting == Parting::Verbal) staff.Loyalty -= 20;
   DismissStaff(world, staff);
   staff.ContractType = "Non";
@@ -226,15 +201,22 @@ int CountOwn(const World& world, Test test) {
 int AnnouncersWanted(const World& world) {
   return OwnShows(world) > 0 ? 1 : 0;
 }
+/// For everybody to recover at full speed.
 int MedicsWanted(const World& world) {
-  return MedicsNeeded(CountOwn(world, [](const Worker&) { return true; }));
+  const int workers = CountOwn(world, [](const Worker&) { return true; });
+  return workers >= 56 ? 3 : workers >= 31 ? 2 : 0;
 }
 int WritersWanted(const World& world) {
   return WritersNeeded(OwnShows(world));
 }
+/// To keep the wrestlers out of trouble.
 int AgentsWanted(const World& world) {
-  return AgentsNeeded(
-      CountOwn(world, [](const Worker& w) { return w.Position < kDevelopmentDeal; }));
+  const int wrestlers =
+      CountOwn(world, [](const Worker& w) { return w.Position < kDevelopmentDeal; });
+  if (wrestlers > 80) return 5;
+  if (wrestlers > 60) return 4;
+  if (wrestlers > 40) return 3;
+  return wrestlers > 25 ? 2 : wrestlers > 0 ? 1 : 0;
 }
 int TrainersWanted(const World& world) {
   return world.Player().CampName == "None" ? 0 : 1;
@@ -269,17 +251,6 @@ int WritersNeeded(int shows) {
   // By shows from none to more than three.
   constexpr std::array<int, 5> kNeeded = {1, 2, 4, 6, 10};
   return kNeeded[static_cast<std::size_t>(std::clamp(shows, 0, 4))];
-}
-
-int MedicsNeeded(int workers) {
-  return workers >= 56 ? 3 : workers >= 31 ? 2 : 0;
-}
-
-int AgentsNeeded(int wrestlers) {
-  if (wrestlers > 80) return 5;
-  if (wrestlers > 60) return 4;
-  if (wrestlers > 40) return 3;
-  return wrestlers > 25 ? 2 : wrestlers > 0 ? 1 : 0;
 }
 
 PostCount PostCountOf(const World& world, int post) {

@@ -17,8 +17,6 @@ bool IsEndless(const Staff& staff);
 /// Why he cannot be talked with at all: an Owner, an agreement without an end. Empty when he can.
 std::string WhyNoStaffTalks(const Staff& staff);
 
-/// What his talent is worth to a promotion of this size, thousands of dollars a month.
-int StaffWorth(int size, int talent);
 /// The most talent that would work for a promotion of this size.
 int TalentCeiling(int size);
 
@@ -36,8 +34,6 @@ std::string WhyNoStaffOffer(const World& world, const Staff& staff);
 std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
                             const ContractOffer& offer);
 
-/// Puts the offer into the contract of one of the player's.
-void RenewStaff(Staff& staff, const ContractOffer& offer);
 /// He leaves whoever employs him and works for the player from now on, in better spirits.
 void HireStaff(World& world, Staff& staff, const ContractOffer& offer);
 
@@ -52,10 +48,6 @@ void FireStaff(World& world, Staff& staff);
 
 /// To use angles, with this many television shows.
 int WritersNeeded(int shows);
-/// For everybody to recover at full speed, with this many workers.
-int MedicsNeeded(int workers);
-/// To keep so many wrestlers out of trouble.
-int AgentsNeeded(int wrestlers);
 
 /// How a post of the player's promotion is filled.
 struct PostCount {

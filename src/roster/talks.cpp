@@ -21,25 +21,16 @@ std::string MonthsText(int months) {
   return Counted(std::max(months, 1), "month");
 }
 
-Remark AcceptedRemark(std::string_view name, bool written) {
-  return {"Accepted!",
-          std::string(name) + (written ? " signs the contract!" : " agrees to the contract!")};
-}
-
-namespace {
-constexpr int kThousand = 1000;
-}
-
 int MonthlyWage(const Worker& worker) {
   const bool paid =
       worker.Employer != 0 && worker.ContractMonths != kNoEnd && worker.Status != "Hom";
-  return paid ? worker.Wage * kThousand : 0;
+  return paid ? 1000 * worker.Wage : 0;
 }
 
 int MonthlyWage(const Staff& staff) {
   const bool paid =
       staff.Employer != 0 && staff.Position != kOwner && staff.ContractMonths != kNoEnd;
-  return paid ? staff.Wage * kThousand : 0;
+  return paid ? 1000 * staff.Wage : 0;
 }
 
 WageBill WagesOf(const World& world, int promotionUid) {
@@ -115,8 +106,6 @@ bool WantsControl(const Worker& worker) {
   return isStar || (worker.CreativeControl && worker.Age < 50);
 }
 
-}  // namespace
-
 bool WantsWritten(int size, const Worker& worker) {
   return size < kCult || (size == kCult && worker.Over <= 50);
 }
@@ -127,15 +116,12 @@ int RenewalWage(const Worker& worker) {
   return std::clamp(worker.Wage + PercentOf(worker.Wage, percent), 1, kHighestWage);
 }
 
+}  // namespace
+
 Demands ContractDemands(const World& world, const Worker& worker) {
   const int size = world.Player().Size;
-  Demands demands;
-  demands.Position = PositionWanted(size, worker);
-  demands.Months = MonthsWanted(size, worker);
-  demands.Written = WantsWritten(size, worker);
-  demands.Wage = WageWanted(size, worker);
-  demands.CreativeControl = WantsControl(worker);
-  return demands;
+  return {PositionWanted(size, worker), MonthsWanted(size, worker), WantsWritten(size, worker),
+          WageWanted(size, worker), WantsControl(worker)};
 }
 
 namespace {
@@ -242,10 +228,8 @@ RenewalAnswer JudgeRenewal(const Worker& worker, const RenewalTerms& terms,
 }
 
 void Renew(Worker& worker, const ContractOffer& offer) {
-  worker.ContractType = ContractCodeOf(offer.Written);
+  PutInto(worker, offer);
   worker.CreativeControl = offer.CreativeControl;
-  worker.ContractMonths = offer.Months;
-  worker.Wage = offer.Wage;
 }
 
 }  // namespace grapplemont

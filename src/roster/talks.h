@@ -36,13 +36,18 @@ inline constexpr int kHighestWage = 300;  // thousands of dollars a month, a wor
 std::string_view ContractCodeOf(bool written);
 std::string_view ContractWord(bool written);
 
+/// The length, the kind and the wage of the offer become those of the contract.
+template <class Person>
+void PutInto(Person& person, const ContractOffer& offer) {
+  person.ContractType = ContractCodeOf(offer.Written);
+  person.ContractMonths = offer.Months;
+  person.Wage = offer.Wage;
+}
+
 /// "$40,000", and "$0" for nothing.
 std::string WageText(int thousands);
 /// "1 month" for the last one, else "14 months".
 std::string MonthsText(int months);
-
-/// "Bram Okafor signs the contract!", or agrees to it where it is verbal.
-Remark AcceptedRemark(std::string_view name, bool written);
 
 // Who costs what on the first of a month, in dollars.
 
@@ -60,12 +65,6 @@ struct WageBill {
 WageBill WagesOf(const World& world, int promotionUid);
 
 // What a worker wants of a contract.
-
-/// Whether he wants it in writing, from a promotion of this size.
-bool WantsWritten(int size, const Worker& worker);
-
-/// The wage that a worker of the player's wants for staying, thousands of dollars a month.
-int RenewalWage(const Worker& worker);
 
 /// What somebody from outside wants for coming.
 struct Demands {

@@ -41,6 +41,14 @@ std::string Number(int number) {
   return std::to_string(number);
 }
 
+/// "A man of 34, born in June".
+template <class Person>
+std::string WhoHeIs(const Person& person) {
+  const std::string who = (person.Gender ? "A man of " : "A woman of ") + Number(person.Age);
+  const std::string month(MonthName(person.BirthMonth));
+  return month.empty() ? who : who + ", born in " + month;
+}
+
 std::string WhenTurned(const World& world, const Worker& worker) {
   const int days = DaysSinceTurn(world, worker);
   if (days < 0) return "Has never turned.";
@@ -57,9 +65,28 @@ void Add(FactGroup& group, std::string line) {
   AddIf(group, true, std::move(line));
 }
 
+/// Whoever teaches him; nullptr for nobody.
+const Staff* TeacherOf(const World& world, const Worker& worker) {
+  if (!WorksForPlayer(world, worker)) return nullptr;
+  if (IsInDevelopment(worker)) return world.FindStaff(world.Player().DevBooker);
+  return IsInCamp(worker) ? world.FindStaff(world.Player().HeadTrainer) : nullptr;
+}
+
+/// How far he can rise, as his teacher sees it; empty where nobody can tell.
+std::string PotentialWords(const World& world, const Worker& worker) {
+  const Staff* teacher = TeacherOf(world, worker);
+  if (!teacher) return {};
+  const int room = worker.Potential - worker.Over;
+  const char* words = room <= 0    ? "has learned what can be learned here."
+                      : room <= 10 ? "has a little left to learn."
+                      : room <= 25 ? "has room to grow."
+                                   : "could go very far.";
+  return teacher->Name + " thinks that " + worker.ShortName.Str() + " " + words;
+}
+
 FactGroup Person(const World& world, const Worker& worker) {
   FactGroup group{worker.Name.Str(), {}};
-  Add(group, WhoHeIs(worker) + ".");
+  Add(group, WhoHeIs(worker) + (worker.Weight == "L" ? ", a lightweight." : ", a heavyweight."));
   Add(group, "Known as " + worker.ShortName + " for short.");
   Add(group, std::string(DispositionText(worker.Disposition)) + ". Over " + Number(worker.Over) +
                  ", charisma " + Number(worker.Charisma) + ".");
@@ -96,8 +123,8 @@ FactGroup InTheRing(const Worker& worker) {
 
 FactGroup Character(const Worker& worker) {
   return {"Character",
-          {MoraleWords(worker.Morale), LoyaltyWords(worker.Loyalty), AttitudeWords(worker.Attitude),
-           BehaviourWords(worker.Behaviour)}};
+          {StepOf(kMorale, worker.Morale), StepOf(kLoyalty, worker.Loyalty),
+           StepOf(kAttitude, worker.Attitude), StepOf(kBehaviour, worker.Behaviour)}};
 }
 
 FactGroup Contract(const World& world, const Worker& worker) {
@@ -113,6 +140,18 @@ FactGroup Contract(const World& world, const Worker& worker) {
   AddIf(group, !(worker.Split == "None" || worker.Split == ""), "Split: " + worker.Split + ".");
   AddIf(group, worker.Employer != 0 && !worker.Debuted, "Has not been seen on the shows yet.");
   return group;
+}
+
+/// Commissioner of a promotion, voice beside the ring.
+std::vector<std::string> OfficesOf(const World& world, const Worker& worker) {
+  std::vector<std::string> offices;
+  for (const Promotion& promotion : world.Promotions())
+    if (promotion.Commissioner == worker.Uid)
+      offices.push_back("Commissioner of " + promotion.Name + ".");
+  for (const Show& show : world.Shows())
+    if (show.ColourIsWorker && show.Colour == worker.Uid)
+      offices.push_back("Colour commentator of " + show.Name + ".");
+  return offices;
 }
 
 FactGroup BesideTheRing(const World& world, const Worker& worker) {
@@ -134,68 +173,6 @@ FactGroup Titles(const World& world, const Worker& worker) {
 /// How many of his matches the page tells.
 constexpr int kMatchesTold = 6;
 
-FactGroup Awards(const World& world, const Worker& worker) {
-  return {"Awards", AwardLines(world, worker)};
-}
-
-/// Whoever teaches him; nullptr for nobody.
-const Staff* TeacherOf(const World& world, const Worker& worker) {
-  if (!WorksForPlayer(world, worker)) return nullptr;
-  if (IsInDevelopment(worker)) return world.FindStaff(world.Player().DevBooker);
-  return IsInCamp(worker) ? world.FindStaff(world.Player().HeadTrainer) : nullptr;
-}
-
-}  // namespace
-
-std::string MoraleWords(int morale) {
-  return StepOf(kMorale, morale);
-}
-std::string LoyaltyWords(int loyalty) {
-  return StepOf(kLoyalty, loyalty);
-}
-std::string AttitudeWords(int attitude) {
-  return StepOf(kAttitude, attitude);
-}
-std::string BehaviourWords(int behaviour) {
-  return StepOf(kBehaviour, behaviour);
-}
-
-std::string WhoHeIs(const Worker& worker) {
-  std::string who = std::string(worker.Gender ? "A man of " : "A woman of ") + Number(worker.Age);
-  if (const auto month = MonthName(worker.BirthMonth); !month.empty())
-    who += ", born in " + std::string(month);
-  return who + (worker.Weight == "L" ? ", a lightweight" : ", a heavyweight");
-}
-
-std::string PotentialWords(const World& world, const Worker& worker) {
-  const Staff* teacher = TeacherOf(world, worker);
-  if (!teacher) return {};
-  const int room = worker.Potential - worker.Over;
-  const char* words = room <= 0    ? "has learned what can be learned here."
-                      : room <= 10 ? "has a little left to learn."
-                      : room <= 25 ? "has room to grow."
-                                   : "could go very far.";
-  return teacher->Name + " thinks that " + worker.ShortName.Str() + " " + words;
-}
-
-std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker) {
-  std::vector<FactGroup> facts = {Person(world, worker),
-                                  Contract(world, worker),
-                                  InTheRing(worker),
-                                  Character(worker),
-                                  BesideTheRing(world, worker),
-                                  Titles(world, worker),
-                                  Awards(world, worker),
-                                  {"Matches", RecordLines(world, worker)},
-                                  {"Last matches", LastMatchLines(world, worker, kMatchesTold)},
-                                  {"Company", CompanyOf(world, worker)},
-                                  {"Feuds", FeudsOf(world, worker)}};
-  std::erase_if(facts, [](const FactGroup& group) { return group.Lines.empty(); });
-  return facts;
-}
-
-namespace {
-
 std::string TeamLine(const World& world, const Team& team, const Worker& worker) {
   const int partner = team.Worker1 == worker.Uid ? team.Worker2 : team.Worker1;
   const std::string finisher =
@@ -204,19 +181,7 @@ std::string TeamLine(const World& world, const Team& team, const Worker& worker)
          std::to_string(team.Experience) + finisher + ".";
 }
 
-}  // namespace
-
-std::vector<std::string> OfficesOf(const World& world, const Worker& worker) {
-  std::vector<std::string> offices;
-  for (const Promotion& promotion : world.Promotions())
-    if (promotion.Commissioner == worker.Uid)
-      offices.push_back("Commissioner of " + promotion.Name + ".");
-  for (const Show& show : world.Shows())
-    if (show.ColourIsWorker && show.Colour == worker.Uid)
-      offices.push_back("Colour commentator of " + show.Name + ".");
-  return offices;
-}
-
+/// His stable, his Tag Teams, his manager and those whom he manages.
 std::vector<std::string> CompanyOf(const World& world, const Worker& worker) {
   std::vector<std::string> company;
   if (worker.Stable != "None" && !worker.Stable.View().empty())
@@ -229,6 +194,24 @@ std::vector<std::string> CompanyOf(const World& world, const Worker& worker) {
   for (const Worker& client : world.Workers())
     if (client.Manager == worker.Uid) company.push_back("Manages " + client.Name + ".");
   return company;
+}
+
+}  // namespace
+
+std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker) {
+  std::vector<FactGroup> facts = {Person(world, worker),
+                                  Contract(world, worker),
+                                  InTheRing(worker),
+                                  Character(worker),
+                                  BesideTheRing(world, worker),
+                                  Titles(world, worker),
+                                  {"Awards", AwardLines(world, worker)},
+                                  {"Matches", RecordLines(world, worker)},
+                                  {"Last matches", LastMatchLines(world, worker, kMatchesTold)},
+                                  {"Company", CompanyOf(world, worker)},
+                                  {"Feuds", FeudsOf(world, worker)}};
+  std::erase_if(facts, [](const FactGroup& group) { return group.Lines.empty(); });
+  return facts;
 }
 
 std::vector<std::string> FeudsOf(const World& world, const Worker& worker) {
@@ -251,30 +234,31 @@ constexpr Steps kBackstage = {"A trouble maker behind the scenes.",
                               "A good colleague.", "Everybody's friend behind the scenes."};
 
 FactGroup Person(const Staff& staff) {
-  std::string who =
-      std::string(staff.Gender ? "A man of " : "A woman of ") + std::to_string(staff.Age);
-  if (const auto month = MonthName(staff.BirthMonth); !month.empty())
-    who += ", born in " + std::string(month);
-  FactGroup group{staff.Name.Str(), {who + ".", std::string(PostText(staff.Position)) + "."}};
-  if (staff.Position != kOwner)
-    group.Lines.push_back("Talent " + std::to_string(staff.Talent) + ". " +
-                          StepOf(kTalent, staff.Talent));
-  if (staff.Booker) group.Lines.push_back("Can book as well.");
+  FactGroup group{staff.Name.Str(),
+                  {WhoHeIs(staff) + ".", std::string(PostText(staff.Position)) + "."}};
+  AddIf(group, staff.Position != kOwner,
+        "Talent " + Number(staff.Talent) + ". " + StepOf(kTalent, staff.Talent));
+  AddIf(group, staff.Booker, "Can book as well.");
   return group;
 }
 
+/// "Written contract for 12 months, at $5,000 per month".
+std::string ContractLineOf(const Staff& staff) {
+  if (IsEndless(staff)) return "Unsackable, agreement for " + WageText(staff.Wage) + " per month";
+  return (staff.ContractType == "Wri" ? "Written contract for " : "Verbal agreement for ") +
+         MonthsText(staff.ContractMonths) + ", at " + WageText(staff.Wage) + " per month";
+}
+
 FactGroup Contract(const World& world, const Staff& staff) {
-  FactGroup group{"Contract", {}};
-  if (staff.Employer == 0) {
-    group.Lines = {"Works for nobody."};
-    if (staff.Wage > 0 && staff.Position != kOwner)
-      group.Lines.push_back("Last earned " + WageText(staff.Wage) + " a month.");
+  const bool owns = staff.Position == kOwner;
+  if (staff.Employer != 0) {
+    FactGroup group{"Contract",
+                    {(owns ? "Owns " : "Works for ") + PromotionName(world, staff.Employer) + "."}};
+    AddIf(group, !owns, ContractLineOf(staff) + ".");
     return group;
   }
-  const std::string employer = PromotionName(world, staff.Employer);
-  group.Lines = {(staff.Position == kOwner ? "Owns " : "Works for ") + employer + "."};
-  if (const std::string line = StaffContractLine(staff); !line.empty())
-    group.Lines.push_back(line + ".");
+  FactGroup group{"Contract", {"Works for nobody."}};
+  AddIf(group, staff.Wage > 0 && !owns, "Last earned " + WageText(staff.Wage) + " a month.");
   return group;
 }
 
@@ -301,18 +285,11 @@ std::string_view PostText(int post) {
   return words.empty() ? "Unknown" : words;
 }
 
-std::string StaffContractLine(const Staff& staff) {
-  if (staff.Employer == 0 || staff.Position == kOwner) return {};
-  if (IsEndless(staff)) return "Unsackable, agreement for " + WageText(staff.Wage) + " per month";
-  return (staff.ContractType == "Wri" ? "Written contract for " : "Verbal agreement for ") +
-         MonthsText(staff.ContractMonths) + ", at " + WageText(staff.Wage) + " per month";
-}
-
 std::vector<FactGroup> StaffFacts(const World& world, const Staff& staff) {
   std::vector<FactGroup> facts = {Person(staff),
                                   Contract(world, staff),
                                   {"Character",
-                                   {MoraleWords(staff.Morale), LoyaltyWords(staff.Loyalty),
+                                   {StepOf(kMorale, staff.Morale), StepOf(kLoyalty, staff.Loyalty),
                                     StepOf(kBackstage, staff.Backstage)}},
                                   Offices(world, staff)};
   std::erase_if(facts, [](const FactGroup& group) { return group.Lines.empty(); });

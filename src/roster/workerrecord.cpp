@@ -17,13 +17,25 @@ std::string Number(int number) {
 
 std::string RecordLine(const World& world, const MatchTally& tally) {
   const int matches = tally.Won + tally.Lost + tally.Drawn;
-  std::string text = PromotionInitials(world, tally.Promotion) == "None"
-                         ? "Elsewhere"
-                         : PromotionInitials(world, tally.Promotion);
+  const std::string house = PromotionInitials(world, tally.Promotion);
+  std::string text = house == "None" ? "Elsewhere" : house;
   text += ": " + Number(tally.Won) + " won, " + Number(tally.Lost) + " lost, " +
           Number(tally.Drawn) + " drawn";
   if (tally.ForTitles > 0) text += ", " + Number(tally.ForTitles) + " for a Title";
   return text + ". Rated " + Number(tally.Ratings / std::max(matches, 1)) + "% on average.";
+}
+
+bool WasIn(const HeldMatch& bout, int workerUid) {
+  return workerUid != 0 &&
+         std::find(bout.Worker.begin(), bout.Worker.end(), workerUid) != bout.Worker.end();
+}
+
+/// How a match went for somebody who was in it: a win counts 1, a loss -1, a draw 0. Whoever has
+/// not won has lost, however many there were.
+int OutcomeFor(const HeldMatch& bout, int workerUid) {
+  if (bout.Winners <= 0) return 0;
+  const auto place = std::find(bout.Worker.begin(), bout.Worker.end(), workerUid);
+  return place - bout.Worker.begin() < bout.Winners ? 1 : -1;
 }
 
 std::string MatchLine(const HeldMatch& bout, int uid) {
@@ -36,17 +48,6 @@ std::string MatchLine(const HeldMatch& bout, int uid) {
 }
 
 }  // namespace
-
-bool WasIn(const HeldMatch& bout, int workerUid) {
-  return workerUid != 0 &&
-         std::find(bout.Worker.begin(), bout.Worker.end(), workerUid) != bout.Worker.end();
-}
-
-int OutcomeFor(const HeldMatch& bout, int workerUid) {
-  if (bout.Winners <= 0) return 0;
-  const auto place = std::find(bout.Worker.begin(), bout.Worker.end(), workerUid);
-  return place - bout.Worker.begin() < bout.Winners ? 1 : -1;
-}
 
 std::vector<std::string> RecordLines(const World& world, const Worker& worker) {
   std::vector<std::string> lines;

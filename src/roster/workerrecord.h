@@ -17,11 +17,6 @@ std::vector<std::string> LastMatchLines(const World& world, const Worker& worker
 /// The awards of the years, the latest first: "Wrestler of the Year 2026".
 std::vector<std::string> AwardLines(const World& world, const Worker& worker);
 
-/// How a match went for somebody who was in it: a win counts 1, a loss -1, a draw 0. Whoever has
-/// not won has lost, however many there were.
-int OutcomeFor(const HeldMatch& bout, int workerUid);
-bool WasIn(const HeldMatch& bout, int workerUid);
-
 /// The Titles that he holds, alone or with a partner.
 std::vector<const Title*> TitlesHeldBy(const World& world, int workerUid);
 /// All his reigns, the latest first: "CWA Crown, 03 March 2026 to 12 March 2026 (9 days)". Of a

@@ -15,36 +15,22 @@ SmallWorld Plain() {
   return small;
 }
 
-TEST(frmOptions, OffersTheThreeChoicesOrTwo) {
-  GameOnWorld play(Plain());
-  play.Desk.Open("frmOptions");
-  const Names three = {"Always", "Only for direct rivals or above", "Never"};
-  const Names two = {"Always", "Never"};
-  for (const char* name :
-       {"cmbowners", "cmbwreshire", "cmbwresfire", "cmbstaffhire", "cmbstafffire", "cmbtv",
-        "cmbretirement", "cmbotherfed", "cmbsponsor", "cmbshows", "cmbtvshow", "cmbstaffretire"}) {
-    EXPECT_EQ(play.Desk.FirstColumn(name), three) << name;
-    EXPECT_EQ(play.Desk.Text(name), three[1]) << name;
-  }
-  for (const char* name : {"cmbdev", "cmbtrain"}) {
-    EXPECT_EQ(play.Desk.FirstColumn(name), two) << name;
-    EXPECT_EQ(play.Desk.Text(name), "Always") << name;
-  }
-  EXPECT_EQ(play.Desk.FirstColumn("cmbreport"), (Names{"The Lamplighter", "Rafe Tolland", "QVD"}));
-  EXPECT_EQ(play.Desk.Text("cmbreport"), "Rafe Tolland");
-  EXPECT_EQ(play.Desk.FirstColumn("cmbload"),
-            (Names{"Graphics Set Default", "Graphics Set 1", "Graphics Set 2", "Graphics Set 3",
-                   "Graphics Set 4"}));
-}
-
-TEST(frmOptions, KeepsEveryChoice) {
+TEST(frmOptions, OffersAndKeepsEveryChoice) {
   GameOnWorld play(Plain());
   play.Desk.Open("frmOptions");
   // A different pattern of choices in each control, so that no two of them can be mixed up.
   const int kChoices[] = {2, 0, 1, 0, 2, 1, 1, 2, 0, 0, 1, 2, 2, 0};
-  for (std::size_t i = 0; i < kMailOptionTable.size(); ++i)
-    play.Desk.Pick(kMailOptionTable[i].Control, std::string(Says(kMailOptions, kChoices[i])));
+  for (std::size_t i = 0; i < kMailOptionTable.size(); ++i) {
+    const MailOption& option = kMailOptionTable[i];
+    EXPECT_EQ(play.Desk.FirstColumn(option.Control),
+              option.TwoWay ? Names({"Always", "Never"})
+                            : Names({"Always", "Only for direct rivals or above", "Never"}));
+    play.Desk.Pick(option.Control, std::string(Says(kMailOptions, kChoices[i])));
+  }
+  EXPECT_EQ(play.Desk.FirstColumn("cmbreport"), (Names{"The Lamplighter", "Rafe Tolland", "QVD"}));
+  EXPECT_EQ(play.Desk.Text("cmbreport"), "Rafe Tolland");
   play.Desk.Pick("cmbreport", "QVD");
+  EXPECT_EQ(play.Desk.FirstColumn("cmbload").front(), "Graphics Set Default");
   play.Desk.Pick("cmbload", "Graphics Set 3");
   play.Desk.Click("cmddone");
   EXPECT_TRUE(play.Desk.Empty());
@@ -62,21 +48,18 @@ TEST(frmOptions, KeepsEveryChoice) {
 }
 
 TEST(frmOptions, SetsAllAtOnce) {
-  struct Case {
-    const char* Button;
-    const char* Choice;
-    const char* TwoWay;
-  };
-  const Case kCases[] = {{"cmdnever", "Never", "Never"},
-                         {"cmddirect", "Only for direct rivals or above", "Always"},
-                         {"cmdalways", "Always", "Always"}};
+  const std::tuple<const char*, const char*, int> kCases[] = {
+      {"cmdnever", "Never", kMailNever},
+      {"cmddirect", "Only for direct rivals or above", kMailAlways},
+      {"cmdalways", "Always", kMailAlways}};
   GameOnWorld play(Plain());
   play.Desk.Open("frmOptions");
-  for (const Case& c : kCases) {
-    play.Desk.Click(c.Button);
+  for (const auto& [button, choice, twoWay] : kCases) {
+    play.Desk.Click(button);
     for (const MailOption& option : kMailOptionTable)
-      EXPECT_EQ(play.Desk.Text(option.Control), option.TwoWay ? c.TwoWay : c.Choice)
-          << c.Button << " " << option.Control;
+      EXPECT_EQ(play.Desk.Text(option.Control), option.TwoWay ? Says(kMailOptions, twoWay) : choice)
+          << button << " " << option.Control;
+    EXPECT_EQ(play.World().Game().MailTrain, twoWay);
   }
 }
 
@@ -116,20 +99,13 @@ void ExpectMails(ScriptDesk& desk, const Names& bodies, const std::string& open)
   EXPECT_EQ(desk.Text("txtbody"), open);
 }
 
-TEST(frmNews, ShowsTheNewestFirst) {
+TEST(frmNews, ShowsTheNewestFirstAndKeepsItsPlaceAfterADelete) {
   GameOnWorld play(SixMails());
   play.Desk.Open("frmNews");
   ExpectMails(play.Desk, {"6", "5", "4", "3", "2", "1"}, "6");
-  EXPECT_EQ(play.Desk.Text("lblfacts"), "6 mails.");
   play.Desk.Pick("lstnews", 2);
   EXPECT_EQ(play.Desk.Text("lblfrom"), "Bram Okafor");
   EXPECT_EQ(play.Desk.Text("lbldate"), play.World().News()[5].Date.Str());
-  EXPECT_EQ(play.Desk.Text("txtbody"), "5");
-}
-
-TEST(frmNews, KeepsItsPlaceAfterADelete) {
-  GameOnWorld play(SixMails());
-  play.Desk.Open("frmNews");
   play.Desk.Pick("lstnews", 3);
   play.Desk.Click("cmddelete");
   ExpectMails(play.Desk, {"6", "5", "3", "2", "1"}, "3");
@@ -140,7 +116,8 @@ TEST(frmNews, KeepsItsPlaceAfterADelete) {
   for (int left = 4; left > 0; --left) play.Desk.Click("cmddelete");
   ExpectMails(play.Desk, {}, "");
   EXPECT_FALSE(play.Desk.Enabled("cmddelete"));
-  EXPECT_FALSE(play.Desk.Enabled("cmdempty"));
+  EXPECT_EQ(play.Desk.Tip("cmddelete"), "Pick a mail first.");
+  EXPECT_EQ(play.Desk.Tip("cmdempty"), "The mailbox is empty.");
   EXPECT_EQ(play.Desk.Text("lblfacts"), "0 mails.");
   play.Reopen();
   EXPECT_EQ(play.World().News().Count(), 0);
@@ -182,62 +159,6 @@ TEST(frmNews, EmptiesTheMailboxAfterAsking) {
   play.Desk.Click("cmdback");
   EXPECT_EQ(play.Desk.Text("imgmail"), "0 mails");
   EXPECT_FALSE(play.Desk.Enabled("imgmail"));
-}
-
-SmallWorld FourMails() {
-  SmallWorld small;
-  small.Promotion("CWA").Game("CWA");
-  small.Mail("Maeve", "One.").Mail("Bram", "Two.").Mail("Maeve", "Three.").Mail("Zed", "Four.");
-  return small;
-}
-
-TEST(Mailbox, ListsTheNewestFirstAndBySender) {
-  World world = FourMails();
-  EXPECT_EQ(MailsNewestFirst(world), (std::vector{4, 3, 2, 1}));
-  EXPECT_EQ(MailsNewestFirst(world, "Maeve"), (std::vector{3, 1}));
-  EXPECT_TRUE(MailsNewestFirst(world, "maeve").empty());
-  EXPECT_EQ(MailSenders(world), (std::vector<std::string>{"Bram", "Maeve", "Zed"}));
-}
-
-TEST(Mailbox, DeletesOneOrAll) {
-  World world = FourMails();
-  DeleteMail(world, 2);
-  World expected = SmallWorld()
-                       .Promotion("CWA")
-                       .Game("CWA")
-                       .Mail("Maeve", "One.")
-                       .Mail("Maeve", "Three.")
-                       .Mail("Zed", "Four.");
-  ExpectSame(world, expected);
-  EmptyMailbox(world);
-  EXPECT_EQ(world.News().Count(), 0);
-  EXPECT_TRUE(MailsNewestFirst(world).empty());
-}
-
-TEST(MailOptions, AreFourteenDifferentWords) {
-  World world = SmallWorld().Promotion("CWA").Game("CWA");
-  const World before = CopyOf(world);
-  for (const MailOption& option : kMailOptionTable) {
-    SetMailOption(world.Game(), option, kMailNever);
-    int never = 0;
-    for (const MailOption& other : kMailOptionTable)
-      never += world.Game().*other.Choice == kMailNever ? 1 : 0;
-    EXPECT_EQ(never, 1) << option.Control;
-    world.GameInfos()[1] = before.GameInfos()[1];
-  }
-}
-
-TEST(MailOptions, NeverKeepRivalsOnlyForThePlayersOwnPeople) {
-  World world = SmallWorld().Promotion("CWA").Game("CWA");
-  for (const int choice : {kMailNever, kMailRivals, kMailAlways}) {
-    SetAllMailOptions(world.Game(), choice);
-    for (const MailOption& option : kMailOptionTable)
-      EXPECT_EQ(world.Game().*option.Choice,
-                option.TwoWay && choice == kMailRivals ? int(kMailAlways) : choice)
-          << option.Control;
-    EXPECT_EQ(world.Game().MailDev, choice == kMailNever ? 2 : 0);
-    EXPECT_EQ(world.Game().MailTrain, choice == kMailNever ? 2 : 0);
-  }
 }
 
 /// A game whose commits fail while its disk is full.
@@ -309,24 +230,16 @@ TEST(frmNotepad, LosesNothingToAFullDisk) {
   EXPECT_EQ(play.Desk.Text("txtnotes"), "A long letter.");
   EXPECT_EQ(play.Desk.Text("lblfacts"), "The last change is not saved yet.");
   EXPECT_EQ(play.World().Notes().Text(), "Notepad");
+  play.Desk.Click("cmdrevert");
+  EXPECT_EQ(play.Desk.Text("txtnotes"), "Notepad") << "what is saved can be gone back to";
+  play.Desk.ExpectSay("Error!", kAnyText);
+  play.Desk.Type("txtnotes", "A long letter.");
 
   disk.Full = false;
   play.Desk.Click("cmdback");
   EXPECT_TRUE(play.Desk.Empty());
   play.Reopen();
   EXPECT_EQ(play.World().Notes().Text(), "A long letter.");
-}
-
-TEST(frmNotepad, CanBeLeftWhileTheDiskIsFull) {
-  GameOnWorld play(Plain());
-  play.Desk.Open("frmNotepad");
-  FullDisk disk(play);
-  play.Desk.ExpectSay("Error!", kAnyText);
-  play.Desk.Type("txtnotes", "A long letter.");
-  play.Desk.Click("cmdrevert");
-  EXPECT_EQ(play.Desk.Text("txtnotes"), "Notepad");
-  play.Desk.Click("cmdback");
-  EXPECT_TRUE(play.Desk.Empty());
 }
 
 }  // namespace

@@ -304,26 +304,15 @@ TEST(ContractTalks, EndWhenTheOtherSideIsNotThereAnyMore) {
   }
 }
 
-TEST(ContractTalks, DoNotBeginWithTheWrongPeople) {
+TEST(ContractTalks, DoNotBeginWithTheUnsackable) {
   GameOnWorld play(Business());
-  Game& game = play.Play;
-  const int bram = Who(play, kBram).Uid, ray = Who(play, kRay).Uid;
-  play.Desk.ExpectSay(kTalks, "This worker is not in the business any more.");
-  OpenWresContract(game, 999);
-  play.Desk.ExpectSay(kTalks, "This worker is not in the business any more.");
-  OpenOtherContract(game, 999);
-  play.Desk.ExpectSay(kTalks, "Rival Ray does not work for you any more.");
-  OpenWresContract(game, ray);
-  play.Desk.ExpectSay(kTalks, "Bram Okafor works for you now.");
-  OpenOtherContract(game, bram);
-  Who(play, kBram).Unsackable = Who(play, kRay).Unsackable = true;
-  play.Desk.ExpectSay(kTalks, "Bram Okafor is unsackable now: there is nothing to talk about.");
-  OpenWresContract(game, bram);
-  play.Desk.ExpectSay(kTalks, "Rival Ray is unsackable now: there is nothing to talk about.");
-  OpenOtherContract(game, ray);
-  EXPECT_TRUE(play.Desk.Empty());
   for (const auto& [list, name] : {std::pair("frmRoster", kBram), {"frmOtherWres", kRay}}) {
     play.Desk.Open(list);
+    play.Desk.Pick("lstwres", name);
+    Who(play, name).Unsackable = true;
+    play.Desk.ExpectSay(kTalks,
+                        std::string(name) + " is unsackable now: there is nothing to talk about.");
+    play.Desk.Click("cmdcontract");
     play.Desk.Pick("lstwres", name);
     EXPECT_FALSE(play.Desk.Enabled("cmdcontract")) << list;
     play.Desk.OpenRow("lstwres", name);

@@ -31,22 +31,18 @@ Worker& Bram(World& world) {
   return Named(world.Workers(), "Bram Okafor");
 }
 
-TEST(HasMarket, CountsPromotionsBigEnoughForHisOver) {
-  struct Case {
-    int Over, Smallest;
-  };
-  constexpr Case kCases[] = {{100, 2}, {86, 2}, {85, 3}, {66, 3}, {65, 4},
-                             {41, 4},  {40, 5}, {20, 5}, {19, 6}, {0, 6}};
-  for (const Case& c : kCases) {
-    EXPECT_EQ(SmallestFor(c.Over), c.Smallest) << c.Over;
-    World world = Employed(kBackyard, c.Smallest);
-    Bram(world).Over = c.Over;
-    EXPECT_TRUE(HasMarket(world, Bram(world))) << c.Over;
-    if (c.Smallest == kBackyard) continue;
-    Named(world.Promotions(), "NEW").Size = c.Smallest + 1;
-    EXPECT_FALSE(HasMarket(world, Bram(world))) << c.Over;
-    world.Player().Size = c.Smallest;
-    EXPECT_TRUE(HasMarket(world, Bram(world))) << "the player's own counts";
+TEST(AnswerToRelease, CountsPromotionsBigEnoughForHisOver) {
+  const std::pair<int, int> kCases[] = {{100, 2}, {86, 2}, {85, 3}, {66, 3},
+                                        {65, 4},  {41, 4}, {40, 5}, {20, 5}};
+  for (const auto& [over, smallest] : kCases) {
+    World world = Employed(kBackyard, smallest);
+    Bram(world).Over = over;
+    world.Game().Economy = 60;
+    EXPECT_NE(AnswerToRelease(world, Bram(world)).Remarks[0].Text, kNowhere) << over;
+    Named(world.Promotions(), "NEW").Size = smallest + 1;
+    EXPECT_EQ(AnswerToRelease(world, Bram(world)).Remarks[0].Text, kNowhere) << over;
+    world.Player().Size = smallest;
+    EXPECT_NE(AnswerToRelease(world, Bram(world)).Remarks[0].Text, kNowhere) << "one's own counts";
   }
 }
 

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <set>
 
 #include "roster/market.h"
 #include "roster/talks.h"
@@ -186,155 +185,95 @@ TEST(MarketStanding, TellsEmployerAndEnd) {
   }
 }
 
-}  // namespace
-}  // namespace grapplemont::test
-
-// What workers want, by every band: the tables stand here a second time, as ranges.
-
-namespace grapplemont::test {
-namespace {
-
-World Of(int size) {
-  return SmallWorld()
-      .Promotion("CWA", size)
-      .Promotion("NEW", kSmall)
-      .OnTheMarket()
-      .Worker("Free Fred")
-      .Game("CWA");
-}
+// What workers want.
 
 Demands DemandsOf(int size, const Change<Worker>& change) {
-  World world = Of(size);
+  World world = SmallWorld()
+                    .Promotion("CWA", size)
+                    .Promotion("NEW", kSmall)
+                    .OnTheMarket()
+                    .Worker("Free Fred")
+                    .Game("CWA");
   Worker& fred = Named(world.Workers(), "Free Fred");
   change(fred);
   return ContractDemands(world, fred);
 }
 
-TEST(ContractDemands, WantThePositionOfTheirOver) {
-  struct Range {
-    int Size, Low, High, Position;
-  };
-  constexpr Range kRanges[] = {{1, 91, 100, 1}, {1, 81, 90, 2},  {1, 71, 80, 3},  {1, 51, 70, 4},
-                               {1, 31, 50, 5},  {1, 0, 30, 6},   {2, 86, 100, 1}, {2, 71, 85, 2},
-                               {2, 61, 70, 3},  {2, 46, 60, 4},  {2, 21, 45, 5},  {2, 0, 20, 6},
-                               {3, 66, 100, 1}, {3, 56, 65, 2},  {3, 41, 55, 3},  {3, 31, 40, 4},
-                               {3, 11, 30, 5},  {3, 0, 10, 6},   {4, 56, 100, 1}, {4, 41, 55, 2},
-                               {4, 31, 40, 3},  {4, 26, 30, 4},  {4, 11, 25, 5},  {4, 0, 10, 6},
-                               {5, 36, 100, 1}, {5, 21, 35, 2},  {5, 11, 20, 3},  {5, 6, 10, 4},
-                               {5, 0, 5, 5},    {6, 26, 100, 1}, {6, 11, 25, 2},  {6, 0, 10, 3}};
-  for (const Range& r : kRanges)
-    for (const int over : {r.Low, r.High})
-      EXPECT_EQ(DemandsOf(r.Size, [&](Worker& w) { w.Over = over; }).Position, r.Position)
-          << "size " << r.Size << " over " << over;
-  for (const int kept : {kNonWrestler, kManager})
-    EXPECT_EQ(DemandsOf(1, [&](Worker& w) { w.Position = kept; }).Position, kept);
-  EXPECT_EQ(DemandsOf(1, [](Worker& w) { w.Position = kTrainingCamp; }).Position, kOpener);
-}
-
-TEST(ContractDemands, WantMonthsByAgeAndSize) {
+TEST(ContractDemands, GoBySizeAgeOverAndWage) {
   struct Case {
-    int Size, Age, Over, Months;
-  };
-  constexpr Case kCases[] = {{1, 16, 50, 12}, {1, 17, 50, 24}, {1, 24, 50, 24}, {1, 25, 50, 36},
-                             {1, 29, 50, 36}, {2, 30, 50, 48}, {2, 34, 90, 48}, {2, 35, 50, 36},
-                             {2, 39, 50, 36}, {2, 40, 50, 24}, {2, 70, 50, 24}, {3, 24, 60, 12},
-                             {3, 25, 60, 24}, {3, 37, 60, 24}, {3, 38, 60, 12}, {3, 30, 61, 6},
-                             {4, 24, 60, 12}, {4, 37, 60, 24}, {4, 38, 60, 12}, {4, 30, 61, 6},
-                             {5, 30, 10, 6},  {6, 20, 90, 6}};
-  for (const Case& c : kCases)
-    EXPECT_EQ(DemandsOf(c.Size,
-                        [&](Worker& w) {
-                          w.Age = c.Age;
-                          w.Over = c.Over;
-                        })
-                  .Months,
-              c.Months)
-        << "size " << c.Size << " age " << c.Age << " over " << c.Over;
-}
-
-TEST(ContractDemands, WantAWageByWhatTheyEarnAndWhoAsks) {
-  struct Case {
-    int Size, Age, Wage;
+    int Size, Age, Over, Now;
     bool Employed;
-    int Wanted;
+    Demands Wanted;  // position, months, written, wage
   };
-  constexpr Case kCases[] = {
-      {1, 39, 49, false, 53},   {1, 40, 49, false, 49},   {2, 39, 59, false, 61},
-      {2, 40, 59, false, 59},   {3, 30, 59, false, 59},   {4, 30, 59, false, 59},
-      {5, 30, 6, false, 6},     {5, 30, 7, false, 7},     {5, 30, 20, false, 19},
-      {6, 30, 2, false, 2},     {6, 30, 10, false, 9},    {6, 30, 9, false, 9},
-      {1, 39, 49, true, 63},    {3, 30, 4, true, 4},      {3, 30, 5, true, 6},
-      {1, 30, 273, false, 300}, {1, 30, 274, false, 300}, {3, 30, 250, true, 300},
-      {3, 30, 249, true, 298},  {3, 30, 0, true, 0}};
-  for (const Case& c : kCases)
-    EXPECT_EQ(DemandsOf(c.Size,
-                        [&](Worker& w) {
-                          w.Age = c.Age;
-                          w.Wage = c.Wage;
-                          w.Employer = c.Employed ? 2 : 0;
-                        })
-                  .Wage,
-              c.Wanted)
-        << "size " << c.Size << " age " << c.Age << " wage " << c.Wage << " " << c.Employed;
+  const Case kCases[] = {
+      {1, 16, 91, 49, false, {1, 12, true, 53}},   {1, 17, 90, 49, false, {2, 24, true, 53}},
+      {1, 24, 81, 273, false, {2, 24, true, 300}}, {1, 25, 80, 274, false, {3, 36, true, 300}},
+      {1, 29, 51, 49, true, {4, 36, true, 63}},    {2, 30, 50, 59, false, {4, 48, true, 61}},
+      {2, 34, 86, 59, false, {1, 48, true, 61}},   {2, 35, 85, 59, false, {2, 36, true, 61}},
+      {2, 39, 20, 59, false, {6, 36, true, 61}},   {2, 40, 21, 59, false, {5, 24, true, 59}},
+      {3, 24, 60, 59, false, {2, 12, false, 59}},  {3, 25, 51, 4, true, {3, 24, false, 4}},
+      {3, 37, 50, 5, true, {3, 24, true, 6}},      {3, 38, 11, 250, true, {5, 12, true, 300}},
+      {3, 30, 61, 249, true, {2, 6, false, 298}},  {4, 24, 56, 0, false, {1, 12, false, 0}},
+      {4, 30, 61, 59, false, {1, 6, false, 59}},   {4, 37, 55, 59, false, {2, 24, false, 59}},
+      {5, 30, 36, 6, false, {1, 6, false, 6}},     {5, 30, 5, 7, false, {5, 6, false, 7}},
+      {5, 30, 6, 20, false, {4, 6, false, 19}},    {6, 30, 26, 2, false, {1, 6, false, 2}},
+      {6, 20, 10, 10, false, {3, 6, false, 9}},    {6, 20, 11, 9, false, {2, 6, false, 9}}};
+  int number = 0;
+  for (const Case& c : kCases) {
+    SCOPED_TRACE("case " + std::to_string(number++));
+    const Demands wants = DemandsOf(c.Size, [&](Worker& w) {
+      w.Age = c.Age;
+      w.Over = c.Over;
+      w.Wage = c.Now;
+      w.Employer = c.Employed ? 2 : 0;
+    });
+    EXPECT_EQ(wants.Position, c.Wanted.Position);
+    EXPECT_EQ(wants.Months, c.Wanted.Months);
+    EXPECT_EQ(wants.Written, c.Wanted.Written);
+    EXPECT_EQ(wants.Wage, c.Wanted.Wage);
+  }
+  for (const auto& [now, wanted] :
+       {std::pair<int, int>(kNonWrestler, kNonWrestler), {kManager, kManager}, {kTrainingCamp, 5}})
+    EXPECT_EQ(DemandsOf(1, At(now)).Position, wanted);
 }
 
 TEST(ContractDemands, WantControlWhenTheyAreStarsOrHaveIt) {
-  const auto star = [](Worker& w) {
-    w.Attitude = 49;
-    w.Age = 31;
-    w.Over = 91;
-    w.Wage = 250;
+  struct Case {
+    int Attitude, Age, Over, Wage;
+    bool Has, Wants;
   };
-  EXPECT_TRUE(DemandsOf(1, star).CreativeControl);
-  const std::vector<Change<Worker>> kMisses = {
-      [](Worker& w) { w.Attitude = 50; }, [](Worker& w) { w.Age = 30; },
-      [](Worker& w) { w.Age = 50; }, [](Worker& w) { w.Over = 90; },
-      [](Worker& w) { w.Wage = 249; }};
-  for (std::size_t i = 0; i < kMisses.size(); ++i)
-    EXPECT_FALSE(DemandsOf(1,
-                           [&](Worker& w) {
-                             star(w);
-                             kMisses[i](w);
-                           })
-                     .CreativeControl)
-        << i;
-  for (const auto& [age, wants] : {std::pair(49, true), {50, false}})
+  constexpr Case kCases[] = {{49, 31, 91, 250, false, true},  {49, 49, 91, 250, false, true},
+                             {50, 31, 91, 250, false, false}, {49, 30, 91, 250, false, false},
+                             {49, 50, 91, 250, false, false}, {49, 31, 90, 250, false, false},
+                             {49, 31, 91, 249, false, false}, {80, 49, 50, 10, true, true},
+                             {80, 50, 50, 10, true, false}};
+  for (const Case& c : kCases)
     EXPECT_EQ(DemandsOf(1,
-                        [age = age](Worker& w) {
-                          w.CreativeControl = true;
-                          w.Age = age;
+                        [&](Worker& w) {
+                          w.Attitude = c.Attitude;
+                          w.Age = c.Age;
+                          w.Over = c.Over;
+                          w.Wage = c.Wage;
+                          w.CreativeControl = c.Has;
                         })
                   .CreativeControl,
-              wants)
-        << age;
+              c.Wants)
+        << c.Attitude << " " << c.Age << " " << c.Over << " " << c.Wage;
 }
 
-TEST(WantsWritten, TurnsFromWrittenToVerbalAtCult) {
-  Worker worker;
-  for (const auto& [size, over, written] : {std::tuple(1, 100, true),
-                                            {2, 100, true},
-                                            {3, 50, true},
-                                            {3, 51, false},
-                                            {4, 0, false},
-                                            {5, 0, false},
-                                            {6, 0, false}}) {
-    worker.Over = over;
-    EXPECT_EQ(WantsWritten(size, worker), written) << size << " " << over;
-  }
-}
-
-TEST(RenewalWage, RisesWithThePlaceOnTheCard) {
+TEST(RenewalTerms, AskForMoreWithThePlaceOnTheCard) {
   struct Case {
     int Position, Wage, Wanted;
   };
   constexpr Case kCases[] = {{1, 109, 119},  {2, 9, 9},      {2, 10, 11},   {3, 119, 124},
                              {4, 20, 21},    {4, 19, 19},    {5, 100, 101}, {6, 99, 99},
                              {50, 250, 252}, {81, 200, 202}, {1, 280, 300}, {6, 0, 1}};
+  World world = SmallWorld().Promotion("CWA", kCult).Game("CWA");
   for (const Case& c : kCases) {
     Worker worker;
     worker.Position = c.Position;
     worker.Wage = c.Wage;
-    EXPECT_EQ(RenewalWage(worker), c.Wanted) << c.Position << " at " << c.Wage;
+    EXPECT_EQ(RenewalTermsOf(world, worker).Wage, c.Wanted) << c.Position << " at " << c.Wage;
   }
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "records/checks/checkworld.h"
+#include "records/severing.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {
@@ -108,7 +109,7 @@ TEST(Development, KeepsThePlaceOfWhoIsSentThere) {
     EXPECT_EQ(WhyNotToDevelopment(world, bram),
               "Bram Okafor is in the development territory already.");
     ASSERT_EQ(WhyNotRecall(world, bram), "");
-    Recall(bram);
+    EndPosting(bram);
     EXPECT_EQ(bram.Position, place);
     EXPECT_EQ(WhyNotRecall(world, bram), "Bram Okafor has not been sent away.");
   }
@@ -126,7 +127,7 @@ TEST(Postings, EarnAPlaceByOverWhereNoneWaits) {
       bram.Over = row.Over;
       bram.Position = posting;
       ASSERT_EQ(WhyNotRecall(world, bram), "");
-      Recall(bram);
+      EndPosting(bram);
       EXPECT_EQ(bram.Position, row.Position) << row.Over << " out of " << posting;
     }
 }

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "records/checks/checkworld.h"
-#include "roster/postings.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -41,9 +40,10 @@ TEST(ReleaseWorker, EndsWhateverBoundHim) {
                     .Title("Crown", "Bram Okafor")
                     .Title("Cups", "Ilya Marsh", "Bram Okafor", [](Title& t) { t.Image = 9; })
                     .Title("Belt", "Ilya Marsh")
+                    .Promotion("NEW", kCult)
                     .Game("CWA")
                     .Feud("Ilya Marsh", "Bram Okafor");
-  world.Player().Commissioner = 2;
+  for (Promotion& promotion : world.Promotions()) promotion.Commissioner = 2;
   world.Player().Split[0] = "Blue";
   Bram(world).Split = "Blue";
   Named(world.Workers(), "Ilya Marsh").Manager = 2;
@@ -61,7 +61,7 @@ TEST(ReleaseWorker, EndsWhateverBoundHim) {
   EXPECT_FALSE(bram.Unsackable);
   EXPECT_FALSE(bram.TurnPending);
   EXPECT_TRUE(bram.Debuted);
-  EXPECT_EQ(world.Player().Commissioner, 0);
+  for (const Promotion& promotion : world.Promotions()) EXPECT_EQ(promotion.Commissioner, 0);
   EXPECT_EQ(Named(world.Workers(), "Ilya Marsh").Manager, 0);
   EXPECT_EQ(world.Feuds()[1].Worker1, 0);
   EXPECT_EQ(world.Feuds()[1].Worker2, 0);
@@ -79,33 +79,6 @@ TEST(ReleaseWorker, EndsWhateverBoundHim) {
   EXPECT_EQ(Named(world.Titles(), "Crown").Reigns[1].Holder.View(), "Bram Okafor");
   EXPECT_EQ(Named(world.Titles(), "Belt").Holder, 1);
   for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
-}
-
-TEST(ReleaseWorker, GivesThoseKeptAwayAPlaceAgain) {
-  struct Case {
-    int Position, Over, After;
-  };
-  constexpr Case kCases[] = {{81, 90, kMainEvent},
-                             {86, 10, kJobber},
-                             {kDevelopmentDeal, 81, kUpperMidcard},
-                             {kDevelopmentDeal, 80, kMidcard},
-                             {kTrainingCamp, 71, kMidcard},
-                             {kTrainingCamp, 70, kLowerMidcard},
-                             {kDevelopmentDeal, 51, kLowerMidcard},
-                             {kDevelopmentDeal, 50, kOpener},
-                             {kTrainingCamp, 30, kOpener},
-                             {kTrainingCamp, 29, kJobber},
-                             {kManager, 90, kManager},
-                             {kJobber, 90, kJobber}};
-  for (const Case& c : kCases) {
-    World world = Employed([&](Worker& worker) {
-                    worker.Position = c.Position;
-                    worker.Over = c.Over;
-                  }).Game("CWA");
-    ScriptDraws(world, {{3, 2}});
-    ReleaseWorker(world, Bram(world));
-    EXPECT_EQ(Bram(world).Position, c.After) << c.Position << " with " << c.Over;
-  }
 }
 
 struct Rival {
@@ -203,14 +176,6 @@ TEST(ReleaseWorker, PassesOverAPromotionThatIsGoneWithoutADraw) {
   EXPECT_EQ(Bram(world).Employer, 0);
 }
 
-TEST(ReleaseWorker, TakesTheOfficeOfAnyPromotion) {
-  World world = Employed().Promotion("NEW", kCult).Game("CWA");
-  for (Promotion& promotion : world.Promotions()) promotion.Commissioner = 2;
-  ScriptDraws(world, {{3, 2}});
-  ReleaseWorker(world, Bram(world));
-  for (const Promotion& promotion : world.Promotions()) EXPECT_EQ(promotion.Commissioner, 0);
-}
-
 TEST(ReleaseWorker, TellsOfTheSigningUnderTheOption) {
   for (const auto& [option, size, told] :
        {std::tuple(0, kSmall, true), {1, kRegional, true}, {1, kSmall, false}, {2, kCult, false}}) {
@@ -220,38 +185,6 @@ TEST(ReleaseWorker, TellsOfTheSigningUnderTheOption) {
     ReleaseWorker(world, Bram(world));
     EXPECT_NE(Bram(world).Employer, 0);
     EXPECT_EQ(world.News().Count(), told ? 1 : 0) << option << " " << size;
-  }
-}
-
-TEST(PlacementPosition, IsTheWholeTable) {
-  struct Row {
-    int Size, Start;
-    int Above[5];  // Opener to Main Event; -1: no such rung
-  };
-  constexpr Row kRows[] = {
-      {kGlobal, 6, {20, 40, 60, 80, 90}}, {kNational, 6, {20, 40, 55, 70, 80}},
-      {kCult, 6, {10, 20, 40, 50, 65}},   {kRegional, 6, {10, 20, 35, 45, 55}},
-      {kSmall, 5, {-1, 5, 10, 20, 35}},   {kBackyard, 3, {-1, -1, -1, 10, 25}}};
-  for (const Row& row : kRows) {
-    Worker worker;
-    worker.Position = kJobber;
-    worker.Over = 0;
-    EXPECT_EQ(PlacementPosition(worker, row.Size), row.Start);
-    int before = row.Start;
-    for (int rung = 0; rung < 5; ++rung) {
-      if (row.Above[rung] < 0) continue;
-      worker.Over = row.Above[rung];
-      EXPECT_EQ(PlacementPosition(worker, row.Size), before) << row.Size << " " << worker.Over;
-      worker.Over = row.Above[rung] + 1;
-      before = 5 - rung;
-      EXPECT_EQ(PlacementPosition(worker, row.Size), before) << row.Size << " " << worker.Over;
-    }
-    worker.Over = 100;
-    EXPECT_EQ(PlacementPosition(worker, row.Size), kMainEvent);
-    for (const int kept : {kNonWrestler, kManager}) {
-      worker.Position = kept;
-      EXPECT_EQ(PlacementPosition(worker, row.Size), kept);
-    }
   }
 }
 

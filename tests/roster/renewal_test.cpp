@@ -9,274 +9,150 @@
 namespace grapplemont::test {
 namespace {
 
-/// An offer that nobody could refuse.
-struct Talk {
-  Worker Who;
-  RenewalTerms Wants{kGlobal, 100, true};
-  ContractOffer Offer{100, 24, true, false};
+constexpr const char* kBackyards = "No thanks, i think i should move on to a bigger promotion.";
+constexpr const char* kSmalls = "No thanks, i want to move to a bigger promotion.";
+constexpr const char* kRegionals =
+    "No thanks, i feel i'm ready to try and join one of the big promotions.";
+constexpr const char* kTooLong = "This contract is too long.";
+constexpr const char* kKeepControl = "I do not want to give up my creative control.";
+constexpr const char* kControl = "I want a creative control clause in my contract.";
+constexpr const char* kWritten = "I want a written contract.";
+constexpr const char* kVerbal = "I do not want a written contract.";
+constexpr const char* kIncrease = "I think i deserve a small pay increase.";
+constexpr const char* kReduction = "I do not accept this pay reduction.";
+constexpr const char* kConditions = "I do not accept these conditions.";
+constexpr const char* kMoney = "I think i deserve more money.";
+constexpr const char* kSubstantial =
+    "I want a substantial pay increase if i am to sign for this amount of time.";
+constexpr const char* kMoreUnder = "Under these conditions, i'd want more money to sign.";
+constexpr const char* kLessUnder = "I do not want a pay reduction under these conditions.";
 
-  Talk() {
-    Who.Name = "Bram Okafor";
-    Who.Status = "Nor";
-    Who.Age = 28;
-    Who.Over = 15;
-    Who.Wage = 100;
-    Who.Position = kMidcard;
-    for (Percent* mood : {&Who.Attitude, &Who.Morale, &Who.Loyalty}) *mood = 80;
-  }
-  RenewalAnswer Judge() const { return JudgeRenewal(Who, Wants, Offer); }
-  void Money(int now, int wanted, int offered) {
-    Who.Wage = now;
-    Wants.Wage = wanted;
-    Offer.Wage = offered;
-  }
-};
-
-using Twist = void (*)(Talk& t);
-
-void Veteran(Talk& t) {
-  t.Who.Age = 31;
-  t.Who.Attitude = 39;
-  t.Who.Over = 91;
-  t.Money(250, 250, 299);
+Worker Bram() {
+  Worker worker;
+  worker.Name = "Bram Okafor";
+  worker.Status = "Nor";
+  worker.Position = kMidcard;
+  for (Percent* mood : {&worker.Attitude, &worker.Morale, &worker.Loyalty}) *mood = 80;
+  return worker;
 }
 
-struct Objection {
-  Twist Holds;
-  std::vector<Twist> HoldsNot;  // at the other side of each of its edges, on top of Holds
-  const char* Words;
-};
-const std::vector<Objection>& Objections() {
-  static const std::vector<Objection> all = {
-      {[](Talk& t) {
-         t.Wants.Size = kBackyard;
-         t.Who.Over = 21;
-       },
-       {[](Talk& t) { t.Who.Over = 20; }},
-       "No thanks, i think i should move on to a bigger promotion."},
-      {[](Talk& t) {
-         t.Wants.Size = kSmall;
-         t.Who.Over = 41;
-       },
-       {[](Talk& t) { t.Who.Over = 40; }},
-       "No thanks, i want to move to a bigger promotion."},
-      {[](Talk& t) {
-         t.Wants.Size = kRegional;
-         t.Who.Over = 56;
-         t.Offer.Months = 6;
-       },
-       {[](Talk& t) { t.Who.Over = 55; }, [](Talk& t) { t.Wants.Size = kCult; }},
-       "No thanks, i feel i'm ready to try and join one of the big promotions."},
-      {[](Talk& t) {
-         t.Wants.Size = kRegional;
-         t.Who.Over = 46;
-         t.Offer.Months = 12;
-       },
-       {[](Talk& t) { t.Who.Over = 45; }, [](Talk& t) { t.Offer.Months = 6; },
-        [](Talk& t) { t.Wants.Size = kCult; }},
-       "This contract is too long."},
-      {[](Talk& t) {
-         t.Who.CreativeControl = true;
-         t.Offer.Wage = 119;
-       },
-       {[](Talk& t) { t.Offer.Wage = 120; }, [](Talk& t) { t.Offer.CreativeControl = true; }},
-       "I do not want to give up my creative control."},
-      {Veteran,
-       {[](Talk& t) { t.Who.Age = 30; }, [](Talk& t) { t.Who.Age = 50; },
-        [](Talk& t) { t.Who.Wage = 249; }, [](Talk& t) { t.Who.Attitude = 40; },
-        [](Talk& t) { t.Who.Over = 90; }, [](Talk& t) { t.Offer.CreativeControl = true; },
-        [](Talk& t) { t.Offer.Wage = 300; }},
-       "I want a creative control clause in my contract."},
-      {[](Talk& t) { t.Offer.Written = false; },
-       {[](Talk& t) { t.Wants.Written = false; }},
-       "I want a written contract."},
-      {[](Talk& t) { t.Wants.Written = false; },
-       {[](Talk& t) { t.Offer.Written = false; }},
-       "I do not want a written contract."},
-      {[](Talk& t) {
-         t.Who.Loyalty = 49;
-         t.Money(100, 101, 100);
-       },
-       {[](Talk& t) { t.Who.Loyalty = 50; }, [](Talk& t) { t.Offer.Wage = 101; }},
-       "I think i deserve a small pay increase."},
-      {[](Talk& t) {
-         t.Who.Loyalty = 49;
-         t.Money(101, 100, 100);
-       },
-       {[](Talk& t) { t.Who.Loyalty = 50; }, [](Talk& t) { t.Offer.Wage = 101; }},
-       "I do not accept this pay reduction."},
-      {[](Talk& t) {
-         t.Offer.Months = 12;
-         t.Money(100, 101, 100);
-       },
-       {[](Talk& t) { t.Offer.Months = 13; }, [](Talk& t) { t.Offer.Wage = 101; }},
-       "I do not accept these conditions."},
-      {[](Talk& t) {
-         t.Offer.Months = 12;
-         t.Money(101, 100, 100);
-       },
-       {[](Talk& t) { t.Offer.Months = 13; }, [](Talk& t) { t.Offer.Wage = 101; }},
-       "I do not accept these conditions."},
-      {[](Talk& t) { t.Money(100, 111, 100); },
-       {[](Talk& t) { t.Wants.Wage = 110; }},
-       "I think i deserve more money."},
-      {[](Talk& t) { t.Money(111, 100, 100); },
-       {[](Talk& t) { t.Who.Wage = 110; }},
-       "I do not accept this pay reduction."},
-      {[](Talk& t) { t.Money(20, 19, 19); },
-       {[](Talk& t) { t.Who.Wage = 19; }, [](Talk& t) { t.Offer.Wage = 20; }},
-       "I do not accept this pay reduction."},
-      {[](Talk& t) {
-         t.Offer.Months = 37;
-         t.Offer.Wage = 120;
-       },
-       {[](Talk& t) { t.Offer.Months = 36; }, [](Talk& t) { t.Offer.Wage = 121; }},
-       "I want a substantial pay increase if i am to sign for this amount of time."},
-      {[](Talk& t) { t.Money(99, 100, 99); },
-       {[](Talk& t) { t.Offer.Wage = 100; }, [](Talk& t) { t.Who.Wage = 100; }},
-       "Under these conditions, i'd want more money to sign."},
-      {[](Talk& t) { t.Money(99, 98, 98); },
-       {[](Talk& t) { t.Offer.Wage = 99; }, [](Talk& t) { t.Who.Wage = 100; }},
-       "I do not want a pay reduction under these conditions."},
+/// Each objection at both sides of its edges; the last ones show their order.
+TEST(JudgeRenewal, HearsTheFirstObjectionThatHolds) {
+  struct Case {
+    RenewalTerms Wants;   // size, wage, written
+    ContractOffer Offer;  // wage, months, written, control
+    int Age, Over, Now, Loyalty, Attitude;
+    bool HasControl;
+    const char* Words;
   };
-  return all;
-}
-
-TEST(JudgeRenewal, TakesAnOfferThatNothingStandsAgainst) {
-  EXPECT_TRUE(Talk().Judge().Accepted);
-  EXPECT_TRUE(Talk().Judge().Remarks.empty());
-}
-
-TEST(JudgeRenewal, HearsEachObjectionAloneAtItsEdge) {
-  for (const Objection& objection : Objections()) {
-    SCOPED_TRACE(objection.Words);
-    Talk talk;
-    objection.Holds(talk);
-    const RenewalAnswer answer = talk.Judge();
-    EXPECT_FALSE(answer.Accepted);
-    EXPECT_EQ(answer.Remarks, std::vector<Remark>({{"Rejected!", objection.Words}}));
-    for (std::size_t edge = 0; edge < objection.HoldsNot.size(); ++edge) {
-      Talk near;
-      objection.Holds(near);
-      objection.HoldsNot[edge](near);
-      EXPECT_TRUE(near.Judge().Accepted) << "edge " << edge;
-      EXPECT_TRUE(near.Judge().Remarks.empty()) << "edge " << edge;
-    }
-  }
-}
-
-TEST(JudgeRenewal, HearsOfControlFromStarsOfThirtyOneToFortyNine) {
-  for (const auto& [age, wants] : {std::pair(30, false), {31, true}, {49, true}, {50, false}}) {
-    Talk talk;
-    Veteran(talk);
-    talk.Who.Age = age;
-    EXPECT_EQ(talk.Judge().Accepted, !wants) << age;
-  }
-}
-
-TEST(JudgeRenewal, SaysNothingMoreAfterAnObjection) {
-  for (const Objection& objection : Objections()) {
-    Talk talk;
-    objection.Holds(talk);
-    talk.Wants.Size = kBackyard;
-    talk.Who.Over = 91;
-    EXPECT_EQ(talk.Judge().Remarks,
-              std::vector<Remark>({{"Rejected!", Objections().front().Words}}))
-        << objection.Words;
+  const Case kCases[] = {
+      {{1, 100, true}, {100, 24, true, false}, 28, 15, 100, 80, 80, false, ""},
+      {{6, 100, true}, {100, 24, true, false}, 28, 21, 100, 80, 80, false, kBackyards},
+      {{6, 100, true}, {100, 24, true, false}, 28, 20, 100, 80, 80, false, ""},
+      {{5, 100, true}, {100, 24, true, false}, 28, 41, 100, 80, 80, false, kSmalls},
+      {{5, 100, true}, {100, 24, true, false}, 28, 40, 100, 80, 80, false, ""},
+      {{4, 100, true}, {100, 6, true, false}, 28, 56, 100, 80, 80, false, kRegionals},
+      {{4, 100, true}, {100, 6, true, false}, 28, 55, 100, 80, 80, false, ""},
+      {{3, 100, true}, {100, 24, true, false}, 28, 56, 100, 80, 80, false, ""},
+      {{4, 100, true}, {100, 12, true, false}, 28, 46, 100, 80, 80, false, kTooLong},
+      {{4, 100, true}, {100, 12, true, false}, 28, 45, 100, 80, 80, false, ""},
+      {{1, 100, true}, {119, 24, true, false}, 28, 15, 100, 80, 80, true, kKeepControl},
+      {{1, 100, true}, {120, 24, true, false}, 28, 15, 100, 80, 80, true, ""},
+      {{1, 100, true}, {119, 24, true, true}, 28, 15, 100, 80, 80, true, ""},
+      {{1, 250, true}, {299, 24, true, false}, 31, 91, 250, 80, 39, false, kControl},
+      {{1, 250, true}, {299, 24, true, false}, 49, 91, 250, 80, 39, false, kControl},
+      {{1, 250, true}, {299, 24, true, false}, 30, 91, 250, 80, 39, false, ""},
+      {{1, 250, true}, {299, 24, true, false}, 50, 91, 250, 80, 39, false, ""},
+      {{1, 250, true}, {299, 24, true, false}, 31, 91, 249, 80, 39, false, ""},
+      {{1, 250, true}, {299, 24, true, false}, 31, 91, 250, 80, 40, false, ""},
+      {{1, 250, true}, {299, 24, true, false}, 31, 90, 250, 80, 39, false, ""},
+      {{1, 250, true}, {299, 24, true, true}, 31, 91, 250, 80, 39, false, ""},
+      {{1, 250, true}, {300, 24, true, false}, 31, 91, 250, 80, 39, false, ""},
+      {{1, 100, true}, {100, 24, false, false}, 28, 15, 100, 80, 80, false, kWritten},
+      {{1, 100, false}, {100, 24, false, false}, 28, 15, 100, 80, 80, false, ""},
+      {{1, 100, false}, {100, 24, true, false}, 28, 15, 100, 80, 80, false, kVerbal},
+      {{1, 101, true}, {100, 24, true, false}, 28, 15, 100, 49, 80, false, kIncrease},
+      {{1, 101, true}, {100, 24, true, false}, 28, 15, 100, 50, 80, false, ""},
+      {{1, 101, true}, {101, 24, true, false}, 28, 15, 100, 49, 80, false, ""},
+      {{1, 100, true}, {100, 24, true, false}, 28, 15, 101, 49, 80, false, kReduction},
+      {{1, 100, true}, {100, 24, true, false}, 28, 15, 101, 50, 80, false, ""},
+      {{1, 101, true}, {100, 12, true, false}, 28, 15, 100, 80, 80, false, kConditions},
+      {{1, 101, true}, {100, 13, true, false}, 28, 15, 100, 80, 80, false, ""},
+      {{1, 100, true}, {100, 12, true, false}, 28, 15, 101, 80, 80, false, kConditions},
+      {{1, 100, true}, {101, 12, true, false}, 28, 15, 101, 80, 80, false, ""},
+      {{1, 111, true}, {100, 24, true, false}, 28, 15, 100, 80, 80, false, kMoney},
+      {{1, 110, true}, {100, 24, true, false}, 28, 15, 100, 80, 80, false, ""},
+      {{1, 100, true}, {100, 24, true, false}, 28, 15, 111, 80, 80, false, kReduction},
+      {{1, 100, true}, {100, 24, true, false}, 28, 15, 110, 80, 80, false, ""},
+      {{1, 19, true}, {19, 24, true, false}, 28, 15, 20, 80, 80, false, kReduction},
+      {{1, 19, true}, {19, 24, true, false}, 28, 15, 19, 80, 80, false, ""},
+      {{1, 100, true}, {120, 37, true, false}, 28, 15, 100, 80, 80, false, kSubstantial},
+      {{1, 100, true}, {121, 37, true, false}, 28, 15, 100, 80, 80, false, ""},
+      {{1, 100, true}, {120, 36, true, false}, 28, 15, 100, 80, 80, false, ""},
+      {{1, 100, true}, {99, 24, true, false}, 28, 15, 99, 80, 80, false, kMoreUnder},
+      {{1, 100, true}, {99, 24, true, false}, 28, 15, 100, 80, 80, false, ""},
+      {{1, 98, true}, {98, 24, true, false}, 28, 15, 99, 80, 80, false, kLessUnder},
+      {{1, 98, true}, {98, 24, true, false}, 28, 15, 100, 80, 80, false, ""},
+      {{6, 300, true}, {250, 12, false, false}, 31, 91, 300, 49, 39, true, kBackyards},
+      {{5, 300, true}, {250, 12, false, false}, 31, 91, 300, 49, 39, true, kSmalls},
+      {{4, 300, true}, {250, 12, false, false}, 31, 91, 300, 49, 39, true, kRegionals},
+      {{4, 300, true}, {250, 12, false, false}, 31, 55, 300, 49, 39, true, kTooLong},
+      {{1, 300, true}, {250, 12, false, false}, 31, 91, 300, 49, 39, true, kKeepControl},
+      {{1, 300, true}, {250, 12, false, false}, 31, 91, 300, 49, 39, false, kControl},
+      {{1, 300, true}, {250, 12, false, true}, 31, 91, 300, 49, 39, false, kWritten},
+      {{1, 300, false}, {250, 12, true, true}, 31, 91, 300, 49, 39, false, kVerbal},
+      {{1, 300, true}, {250, 12, true, true}, 31, 91, 300, 49, 39, false, kIncrease},
+      {{1, 250, true}, {250, 12, true, true}, 31, 91, 300, 49, 39, false, kReduction},
+      {{1, 300, true}, {250, 12, true, true}, 31, 91, 300, 50, 39, false, kConditions},
+      {{1, 300, true}, {250, 48, true, true}, 31, 91, 300, 50, 39, false, kMoney},
+      {{1, 250, true}, {250, 48, true, true}, 31, 91, 300, 50, 39, false, kReduction},
+      {{1, 21, true}, {20, 48, true, true}, 31, 91, 22, 50, 39, false, kSubstantial},
+      {{1, 21, true}, {20, 24, true, true}, 31, 91, 22, 50, 39, false, kMoreUnder},
+      {{1, 20, true}, {20, 24, true, true}, 31, 91, 22, 50, 39, false, kLessUnder},
+      {{1, 20, true}, {20, 24, true, true}, 31, 91, 20, 50, 39, false, ""},
+  };
+  int number = 0;
+  for (const Case& c : kCases) {
+    SCOPED_TRACE("case " + std::to_string(number++));
+    Worker worker = Bram();
+    worker.Age = c.Age;
+    worker.Over = c.Over;
+    worker.Wage = c.Now;
+    worker.Loyalty = c.Loyalty;
+    worker.Attitude = c.Attitude;
+    worker.CreativeControl = c.HasControl;
+    const RenewalAnswer answer = JudgeRenewal(worker, c.Wants, c.Offer);
+    const bool accepts = std::string_view(c.Words).empty();
+    EXPECT_EQ(answer.Accepted, accepts);
+    EXPECT_EQ(answer.Remarks,
+              accepts ? std::vector<Remark>() : std::vector<Remark>({{"Rejected!", c.Words}}));
   }
 }
 
 TEST(JudgeRenewal, SpeaksOfWagesUnderFiveThousandWhateverWasSaidBefore) {
-  const std::string reduction = "I do not accept this pay reduction.";
-  Talk talk;
-  talk.Money(4, 4, 4);
-  EXPECT_EQ(talk.Judge().Remarks, std::vector<Remark>({{"Rejected!", reduction}}));
-  talk.Money(30, 4, 4);
-  talk.Offer.Months = 24;
-  EXPECT_EQ(talk.Judge().Remarks.size(), 2u) << "the fall of 26 and the wage of 4";
-  talk.Money(4, 4, 4);
-  talk.Offer.Written = false;
-  EXPECT_EQ(talk.Judge().Remarks, std::vector<Remark>({{"Rejected!", "I want a written contract."},
-                                                       {"Rejected!", reduction}}));
-  talk.Offer.Wage = 5;
-  EXPECT_EQ(talk.Judge().Remarks.size(), 1u);
-  talk.Offer.Written = true;
-  EXPECT_TRUE(talk.Judge().Accepted);
-}
-
-/// Every objection at once, taken away from the front.
-TEST(JudgeRenewal, GoesDownItsListInOrder) {
-  struct Step {
-    Twist Change;
-    int Objection;  // from 1; 0: a deal
+  Worker worker = Bram();
+  const Remark reduction{"Rejected!", kReduction}, written{"Rejected!", kWritten};
+  const auto said = [&](int now, ContractOffer offer) {
+    worker.Wage = now;
+    return JudgeRenewal(worker, {kGlobal, 4, true}, offer).Remarks;
   };
-  const Step kSteps[] = {
-      {[](Talk& t) {
-         t.Wants = {kBackyard, 300, true};
-         t.Offer = {250, 12, false, false};
-         Veteran(t);
-         t.Who.CreativeControl = true;
-         t.Who.Loyalty = 49;
-         t.Money(300, 300, 250);
-       },
-       1},
-      {[](Talk& t) { t.Wants.Size = kSmall; }, 2},
-      {[](Talk& t) { t.Wants.Size = kRegional; }, 3},
-      {[](Talk& t) { t.Who.Over = 55; }, 4},
-      {[](Talk& t) {
-         t.Wants.Size = kGlobal;
-         t.Who.Over = 91;
-       },
-       5},
-      {[](Talk& t) { t.Who.CreativeControl = false; }, 6},
-      {[](Talk& t) { t.Offer.CreativeControl = true; }, 7},
-      {[](Talk& t) {
-         t.Wants.Written = false;
-         t.Offer.Written = true;
-       },
-       8},
-      {[](Talk& t) { t.Wants.Written = true; }, 9},
-      {[](Talk& t) { t.Wants.Wage = 250; }, 10},
-      {[](Talk& t) {
-         t.Who.Loyalty = 50;
-         t.Wants.Wage = 300;
-       },
-       11},
-      {[](Talk& t) { t.Wants.Wage = 250; }, 12},
-      {[](Talk& t) {
-         t.Offer.Months = 48;
-         t.Wants.Wage = 300;
-       },
-       13},
-      {[](Talk& t) { t.Wants.Wage = 250; }, 14},
-      {[](Talk& t) { t.Money(21, 20, 19); }, 15},
-      {[](Talk& t) { t.Money(22, 21, 20); }, 16},
-      {[](Talk& t) { t.Offer.Months = 24; }, 17},
-      {[](Talk& t) { t.Wants.Wage = 20; }, 18},
-      {[](Talk& t) { t.Who.Wage = 20; }, 0},
-  };
-  Talk talk;
-  for (const Step& step : kSteps) {
-    step.Change(talk);
-    const RenewalAnswer answer = talk.Judge();
-    EXPECT_EQ(answer.Accepted, step.Objection == 0);
-    if (step.Objection == 0) continue;
-    ASSERT_EQ(answer.Remarks.size(), 1u) << step.Objection;
-    EXPECT_EQ(answer.Remarks[0].Text,
-              Objections()[static_cast<std::size_t>(step.Objection - 1)].Words)
-        << step.Objection;
-  }
+  EXPECT_EQ(said(4, {4, 24, true, false}), std::vector<Remark>({reduction}));
+  EXPECT_EQ(said(30, {4, 24, true, false}).size(), 2u) << "the fall of 26 and the wage of 4";
+  EXPECT_EQ(said(4, {4, 24, false, false}), std::vector<Remark>({written, reduction}));
+  EXPECT_EQ(said(4, {5, 24, false, false}), std::vector<Remark>({written}));
+  EXPECT_TRUE(said(4, {5, 24, true, false}).empty());
 }
 
 TEST(JudgeRenewal, LetsWhoeverSitsOutAcceptAfterHisWords) {
-  Talk talk;
-  talk.Who.Status = "Hom";
+  Worker worker = Bram();
+  worker.Wage = 100;
+  worker.Status = "Hom";
   const Remark refusal{"Refusal", "I'm not negotiating with you."};
-  EXPECT_TRUE(talk.Judge().Accepted);
-  EXPECT_EQ(talk.Judge().Remarks, std::vector<Remark>({refusal}));
-  talk.Offer.Written = false;
-  EXPECT_EQ(talk.Judge().Remarks,
-            std::vector<Remark>({refusal, {"Rejected!", "I want a written contract."}}));
+  const RenewalAnswer yes = JudgeRenewal(worker, {kGlobal, 100, true}, {100, 24, true, false});
+  EXPECT_TRUE(yes.Accepted);
+  EXPECT_EQ(yes.Remarks, std::vector<Remark>({refusal}));
+  EXPECT_EQ(JudgeRenewal(worker, {kGlobal, 100, true}, {100, 24, false, false}).Remarks,
+            std::vector<Remark>({refusal, {"Rejected!", kWritten}}));
 }
 
 TEST(WhyNoRenewal, ClosesTheTalksForThreeReasons) {
@@ -297,7 +173,7 @@ TEST(WhyNoRenewal, ClosesTheTalksForThreeReasons) {
       {12, 40, 40, "Inj", ""},         {kNoEnd, 80, 80, "Nor", ""},
   };
   for (const Case& c : kCases) {
-    Worker worker = Talk().Who;
+    Worker worker = Bram();
     worker.ContractMonths = c.Months;
     worker.Morale = c.Morale;
     worker.Loyalty = c.Loyalty;
@@ -308,7 +184,7 @@ TEST(WhyNoRenewal, ClosesTheTalksForThreeReasons) {
 }
 
 TEST(Renew, PutsTheOfferIntoTheContract) {
-  Worker worker = Talk().Who;
+  Worker worker = Bram();
   worker.CreativeControl = true;
   Renew(worker, {120, 36, true, false});
   EXPECT_EQ(worker.ContractType.View(), "Wri");

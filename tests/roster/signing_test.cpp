@@ -10,217 +10,99 @@
 namespace grapplemont::test {
 namespace {
 
-/// An offer that nobody could refuse.
-struct Talk {
-  Worker Who;
-  Demands Wants{kMidcard, 12, true, 100, false};
-  SigningOffer Offer;
+constexpr const char* kWritten = "I want a written contract!";
+constexpr const char* kVerbal = "I do not want a written contract!";
+constexpr const char* kMoney = "You are not offering me enough money!";
+constexpr const char* kControl = "I want a creative control clause!";
+constexpr const char* kOnlyManager = "I only wish to work as a manager!";
+constexpr const char* kNoManager = "I do not want to become a manager!";
+constexpr const char* kOnlyNon = "I only wish to work as a non-wrestler!";
+constexpr const char* kNoNon = "I do not want to become a non-wrestler!";
+constexpr const char* kCamp = "I do not want to go to the training camp!";
+constexpr const char* kHigher = "I want to be positioned higher up the card!";
+constexpr const char* kLong = "I do not want to sign such a long contract!";
+constexpr const char* kShort = "I need job security. I want a longer contract!";
+constexpr const char* kMuchLonger = "I want a much longer contract!";
+constexpr const char* kExtra = "I want extra money to sign for this amount of time!";
 
-  Talk() {
-    Who.Age = 28;
-    Who.Brawl = Who.Technical = Who.Speed = 60;
-    Offer.Wage = 100;
-    Offer.Months = 12;
-    Offer.Position = kMidcard;
-  }
-  std::string Judge() const { return JudgeSigning(Who, Wants, Offer); }
-};
-
-using Twist = void (*)(Talk& t);
-
-struct Objection {
-  Twist Holds;
-  std::vector<Twist> HoldsNot;  // at the other side of each of its edges, on top of Holds
-  const char* Words;
-};
-const std::vector<Objection>& Objections() {
-  static const std::vector<Objection> all = {
-      {[](Talk& t) { t.Offer.Written = false; },
-       {[](Talk& t) { t.Offer.Written = true; }, [](Talk& t) { t.Wants.Written = false; }},
-       "I want a written contract!"},
-      {[](Talk& t) { t.Wants.Written = false; },
-       {[](Talk& t) { t.Offer.Written = false; }},
-       "I do not want a written contract!"},
-      {[](Talk& t) {
-         t.Wants.Wage = 109;  // a tenth of it is 10
-         t.Offer.Wage = 98;
-       },
-       {[](Talk& t) { t.Offer.Wage = 99; }},
-       "You are not offering me enough money!"},
-      {[](Talk& t) {
-         t.Wants.CreativeControl = true;
-         t.Offer.Wage = 119;
-       },
-       {[](Talk& t) { t.Offer.Wage = 120; }, [](Talk& t) { t.Offer.CreativeControl = true; }},
-       "I want a creative control clause!"},
-      {[](Talk& t) {
-         t.Wants.Position = kManager;
-         t.Offer.Wage = 119;
-       },
-       {[](Talk& t) { t.Offer.Wage = 120; }, [](Talk& t) { t.Offer.Position = kManager; },
-        [](Talk& t) { t.Who.Speed = 61; }},
-       "I only wish to work as a manager!"},
-      {[](Talk& t) {
-         t.Offer.Position = kManager;
-         t.Who.Brawl = 61;
-         t.Offer.Wage = 119;
-       },
-       {[](Talk& t) { t.Offer.Wage = 120; }, [](Talk& t) { t.Who.Brawl = 60; },
-        [](Talk& t) { t.Wants.Position = kManager; }},
-       "I do not want to become a manager!"},
-      {[](Talk& t) {
-         t.Wants.Position = kNonWrestler;
-         t.Offer.Wage = 139;
-       },
-       {[](Talk& t) { t.Offer.Wage = 140; }, [](Talk& t) { t.Offer.Position = kNonWrestler; },
-        [](Talk& t) { t.Who.Technical = 61; }},
-       "I only wish to work as a non-wrestler!"},
-      {[](Talk& t) {
-         t.Wants.Position = kNonWrestler;
-         t.Who.Technical = 76;
-         t.Who.Age = 36;
-       },
-       {[](Talk& t) { t.Who.Age = 35; }},
-       "I only wish to work as a non-wrestler!"},
-      {[](Talk& t) {
-         t.Wants.Position = kNonWrestler;
-         t.Who.Technical = 61;
-         t.Who.Age = 36;
-       },
-       {[](Talk& t) { t.Offer.Wage = 140; }},
-       "I only wish to work as a non-wrestler!"},
-      {[](Talk& t) {
-         t.Offer.Position = kNonWrestler;
-         t.Who.Technical = 61;
-         t.Offer.Wage = 129;
-       },
-       {[](Talk& t) { t.Offer.Wage = 130; }, [](Talk& t) { t.Who.Technical = 60; },
-        [](Talk& t) { t.Wants.Position = kNonWrestler; }},
-       "I do not want to become a non-wrestler!"},
-      {[](Talk& t) {
-         t.Offer.Position = kTrainingCamp;
-         t.Who.Age = 25;
-       },
-       {[](Talk& t) { t.Who.Age = 24; }},
-       "I do not want to go to the training camp!"},
-      {[](Talk& t) {
-         t.Offer.Position = kTrainingCamp;
-         t.Who.Age = 20;
-         t.Who.Speed = 61;
-       },
-       {[](Talk& t) { t.Who.Speed = 60; }},
-       "I do not want to go to the training camp!"},
-      {[](Talk& t) { t.Offer.Position = kLowerMidcard; },
-       {[](Talk& t) { t.Offer.Position = kMidcard; },
-        [](Talk& t) { t.Offer.Position = kMainEvent; },
-        [](Talk& t) { t.Wants.Position = kLowerMidcard; },
-        [](Talk& t) { t.Offer.Position = kDevelopmentDeal; }},
-       "I want to be positioned higher up the card!"},
-      {[](Talk& t) {
-         t.Wants.Months = 6;
-         t.Offer.Months = 13;
-       },
-       {[](Talk& t) { t.Offer.Months = 12; }, [](Talk& t) { t.Wants.Months = 12; }},
-       "I do not want to sign such a long contract!"},
-      {[](Talk& t) {
-         t.Wants.Months = 24;
-         t.Offer.Months = 6;
-       },
-       {[](Talk& t) { t.Offer.Months = 12; }, [](Talk& t) { t.Wants.Months = 12; }},
-       "I need job security. I want a longer contract!"},
-      {[](Talk& t) {
-         t.Wants.Months = 31;
-         t.Offer.Months = 24;
-       },
-       {[](Talk& t) { t.Offer.Months = 25; }, [](Talk& t) { t.Wants.Months = 30; }},
-       "I need job security. I want a longer contract!"},
-      {[](Talk& t) {
-         t.Wants.Months = 60;
-         t.Offer.Months = 36;
-       },
-       {[](Talk& t) { t.Offer.Months = 37; }, [](Talk& t) { t.Wants.Months = 48; }},
-       "I want a much longer contract!"},
-      {[](Talk& t) {
-         t.Wants.Months = 24;
-         t.Offer.Months = 49;
-         t.Wants.Wage = 119;  // 15 percent of it are 17
-         t.Offer.Wage = 137;
-       },
-       {[](Talk& t) { t.Offer.Wage = 136; }, [](Talk& t) { t.Offer.Months = 48; },
-        [](Talk& t) { t.Wants.Months = 36; }},
-       "I want extra money to sign for this amount of time!"},
-      {[](Talk& t) {
-         t.Offer.Months = 31;
-         t.Wants.Wage = 104;  // a fifth of it is 20
-         t.Offer.Wage = 125;
-       },
-       {[](Talk& t) { t.Offer.Wage = 124; }, [](Talk& t) { t.Offer.Months = 30; },
-        [](Talk& t) { t.Wants.Months = 24; }},
-       "I want extra money to sign for this amount of time!"},
-  };
-  return all;
-}
-
-TEST(JudgeSigning, HearsEachObjectionAloneAtItsEdge) {
-  EXPECT_EQ(Talk().Judge(), "");
-  for (const Objection& objection : Objections()) {
-    SCOPED_TRACE(objection.Words);
-    Talk talk;
-    objection.Holds(talk);
-    EXPECT_EQ(talk.Judge(), objection.Words);
-    for (std::size_t edge = 0; edge < objection.HoldsNot.size(); ++edge) {
-      Talk near;
-      objection.Holds(near);
-      objection.HoldsNot[edge](near);
-      EXPECT_EQ(near.Judge(), "") << "edge " << edge;
-    }
-  }
-}
-
-TEST(JudgeSigning, GoesDownItsListInOrder) {
-  struct Step {
-    Twist Change;
+/// Each objection at both sides of its edges; the last ones show their order.
+TEST(JudgeSigning, HearsTheFirstObjectionThatHolds) {
+  struct Case {
+    Demands Wants;        // position, months, written, wage, control
+    ContractOffer Offer;  // wage, months, written, control
+    int Position, Age, Skill;
     const char* Words;
   };
-  const Step kSteps[] = {
-      {[](Talk& t) {
-         t.Offer.Written = false;
-         t.Wants = {kManager, 6, true, 200, true};
-         t.Offer.Months = 60;
-       },
-       "I want a written contract!"},
-      {[](Talk& t) {
-         t.Wants.Written = false;
-         t.Offer.Written = true;
-       },
-       "I do not want a written contract!"},
-      {[](Talk& t) { t.Wants.Written = true; }, "You are not offering me enough money!"},
-      {[](Talk& t) { t.Offer.Wage = 200; }, "I want a creative control clause!"},
-      {[](Talk& t) { t.Offer.CreativeControl = true; }, "I only wish to work as a manager!"},
-      {[](Talk& t) {
-         t.Wants.Position = kNonWrestler;
-         t.Who.Brawl = 61;
-         t.Who.Age = 40;
-         t.Offer.Position = kManager;
-       },
-       "I do not want to become a manager!"},
-      {[](Talk& t) { t.Offer.Position = kTrainingCamp; }, "I only wish to work as a non-wrestler!"},
-      {[](Talk& t) { t.Wants.Position = kMidcard; }, "I do not want to go to the training camp!"},
-      {[](Talk& t) { t.Offer.Position = kNonWrestler; }, "I do not want to become a non-wrestler!"},
-      {[](Talk& t) { t.Offer.Position = kJobber; }, "I want to be positioned higher up the card!"},
-      {[](Talk& t) { t.Offer.Position = kMidcard; }, "I do not want to sign such a long contract!"},
-      {[](Talk& t) {
-         t.Wants.Months = 60;
-         t.Offer.Months = 24;
-       },
-       "I need job security. I want a longer contract!"},
-      {[](Talk& t) { t.Offer.Months = 36; }, "I want a much longer contract!"},
-      {[](Talk& t) { t.Offer.Months = 48; }, ""},
+  constexpr int kM = kManager, kN = kNonWrestler, kC = kTrainingCamp;
+  const Case kCases[] = {
+      {{3, 12, true, 100, false}, {100, 12, true, false}, 3, 28, 60, ""},
+      {{3, 12, true, 100, false}, {100, 12, false, false}, 3, 28, 60, kWritten},
+      {{3, 12, false, 100, false}, {100, 12, false, false}, 3, 28, 60, ""},
+      {{3, 12, false, 100, false}, {100, 12, true, false}, 3, 28, 60, kVerbal},
+      {{3, 12, true, 109, false}, {98, 12, true, false}, 3, 28, 60, kMoney},
+      {{3, 12, true, 109, false}, {99, 12, true, false}, 3, 28, 60, ""},
+      {{3, 12, true, 100, true}, {119, 12, true, false}, 3, 28, 60, kControl},
+      {{3, 12, true, 100, true}, {120, 12, true, false}, 3, 28, 60, ""},
+      {{3, 12, true, 100, true}, {100, 12, true, true}, 3, 28, 60, ""},
+      {{kM, 12, true, 100, false}, {119, 12, true, false}, 3, 28, 60, kOnlyManager},
+      {{kM, 12, true, 100, false}, {120, 12, true, false}, 3, 28, 60, ""},
+      {{kM, 12, true, 100, false}, {119, 12, true, false}, 3, 28, 61, ""},
+      {{kM, 12, true, 100, false}, {119, 12, true, false}, kM, 28, 61, ""},
+      {{3, 12, true, 100, false}, {119, 12, true, false}, kM, 28, 61, kNoManager},
+      {{3, 12, true, 100, false}, {120, 12, true, false}, kM, 28, 61, ""},
+      {{3, 12, true, 100, false}, {119, 12, true, false}, kM, 28, 60, ""},
+      {{kN, 12, true, 100, false}, {139, 12, true, false}, 3, 28, 60, kOnlyNon},
+      {{kN, 12, true, 100, false}, {140, 12, true, false}, 3, 28, 60, ""},
+      {{kN, 12, true, 100, false}, {139, 12, true, false}, kN, 28, 60, ""},
+      {{kN, 12, true, 100, false}, {100, 12, true, false}, 3, 35, 76, ""},
+      {{kN, 12, true, 100, false}, {100, 12, true, false}, 3, 36, 76, kOnlyNon},
+      {{3, 12, true, 100, false}, {129, 12, true, false}, kN, 28, 61, kNoNon},
+      {{3, 12, true, 100, false}, {130, 12, true, false}, kN, 28, 61, ""},
+      {{3, 12, true, 100, false}, {129, 12, true, false}, kN, 28, 60, ""},
+      {{3, 12, true, 100, false}, {100, 12, true, false}, kC, 25, 60, kCamp},
+      {{3, 12, true, 100, false}, {100, 12, true, false}, kC, 24, 60, ""},
+      {{3, 12, true, 100, false}, {100, 12, true, false}, kC, 24, 61, kCamp},
+      {{3, 12, true, 100, false}, {100, 12, true, false}, 4, 28, 60, kHigher},
+      {{3, 12, true, 100, false}, {100, 12, true, false}, 1, 28, 60, ""},
+      {{3, 12, true, 100, false}, {100, 12, true, false}, kDevelopmentDeal, 28, 60, ""},
+      {{3, 6, true, 100, false}, {100, 13, true, false}, 3, 28, 60, kLong},
+      {{3, 6, true, 100, false}, {100, 12, true, false}, 3, 28, 60, ""},
+      {{3, 24, true, 100, false}, {100, 6, true, false}, 3, 28, 60, kShort},
+      {{3, 24, true, 100, false}, {100, 12, true, false}, 3, 28, 60, ""},
+      {{3, 31, true, 100, false}, {100, 24, true, false}, 3, 28, 60, kShort},
+      {{3, 31, true, 100, false}, {100, 25, true, false}, 3, 28, 60, ""},
+      {{3, 30, true, 100, false}, {100, 24, true, false}, 3, 28, 60, ""},
+      {{3, 60, true, 100, false}, {100, 36, true, false}, 3, 28, 60, kMuchLonger},
+      {{3, 60, true, 100, false}, {100, 37, true, false}, 3, 28, 60, ""},
+      {{3, 48, true, 100, false}, {100, 36, true, false}, 3, 28, 60, ""},
+      // 15 percent of 119 are 17, a fifth of 104 is 20.
+      {{3, 24, true, 119, false}, {137, 49, true, false}, 3, 28, 60, kExtra},
+      {{3, 24, true, 119, false}, {136, 49, true, false}, 3, 28, 60, ""},
+      {{3, 24, true, 119, false}, {137, 48, true, false}, 3, 28, 60, ""},
+      {{3, 12, true, 104, false}, {125, 31, true, false}, 3, 28, 60, kExtra},
+      {{3, 12, true, 104, false}, {124, 31, true, false}, 3, 28, 60, ""},
+      {{3, 12, true, 104, false}, {125, 30, true, false}, 3, 28, 60, ""},
+      {{kM, 6, true, 200, true}, {100, 60, false, false}, 3, 28, 60, kWritten},
+      {{kM, 6, false, 200, true}, {100, 60, true, false}, 3, 28, 60, kVerbal},
+      {{kM, 6, true, 200, true}, {100, 60, true, false}, 3, 28, 60, kMoney},
+      {{kM, 6, true, 200, true}, {200, 60, true, false}, 3, 28, 60, kControl},
+      {{kM, 6, true, 200, true}, {200, 60, true, true}, 3, 28, 60, kOnlyManager},
+      {{kN, 6, true, 200, true}, {200, 60, true, true}, kM, 40, 61, kNoManager},
+      {{kN, 6, true, 200, true}, {200, 60, true, true}, kC, 40, 61, kOnlyNon},
+      {{3, 6, true, 200, true}, {200, 60, true, true}, kC, 40, 61, kCamp},
+      {{3, 6, true, 200, true}, {200, 60, true, true}, 6, 40, 61, kHigher},
+      {{3, 6, true, 200, true}, {200, 60, true, true}, 3, 40, 61, kLong},
+      {{3, 60, true, 200, true}, {200, 24, true, true}, 3, 40, 61, kShort},
+      {{3, 60, true, 200, true}, {200, 36, true, true}, 3, 40, 61, kMuchLonger},
   };
-  Talk talk;
-  for (const Step& step : kSteps) {
-    step.Change(talk);
-    EXPECT_EQ(talk.Judge(), step.Words);
+  int number = 0;
+  for (const Case& c : kCases) {
+    Worker worker;
+    worker.Age = c.Age;
+    worker.Speed = c.Skill;
+    SigningOffer offer{c.Offer, "", "", "", c.Position};
+    EXPECT_EQ(JudgeSigning(worker, c.Wants, offer), c.Words) << "case " << number;
+    ++number;
   }
 }
 

@@ -1,7 +1,7 @@
 #include "info/fans.h"
 #include "info/rumours.h"
+#include "info/screens/infotables.h"
 #include "info/worldnews.h"
-#include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "ui/game.h"
@@ -48,21 +48,17 @@ class frmInternet : public GameScreen {
 
  private:
   void ShowNews() {
-    std::vector<ui::ListBox::Row> rows;
-    for (const NewsItem& item : WorldNews(world())) {
-      if (!chkshows.Checked && (item.What == "Show" || item.What == "Event")) continue;
-      const double day = static_cast<double>((item.On - kDayZero).count());
-      rows.push_back({{{day, ShortDate(item.On), ui::Tone::Muted},
-                       ui::Cell(item.What, ToneOf(item)),
-                       item.House,
-                       item.Words},
-                      static_cast<int>(rows.size()) + 1});
-    }
-    lstnews.Fill(std::move(rows), false);
+    std::vector<NewsItem> news = WorldNews(world());
+    std::erase_if(news, [&](const NewsItem& item) {
+      return !chkshows.Checked && (item.What == "Show" || item.What == "Event");
+    });
+    lstnews.Fill(NumberedRows(news_, news), false);
   }
 
+  bool IsOurs(const std::string& house) { return house == world().Player().Initials.View(); }
+
   ui::Tone ToneOf(const NewsItem& item) {
-    if (item.House == world().Player().Initials.View()) return ui::Tone::Gold;
+    if (IsOurs(item.House)) return ui::Tone::Gold;
     if (item.What == "Money" || item.What == "Injury") return ui::Tone::Red;
     return item.What == "Title" ? ui::Tone::Blue : ui::Tone::Plain;
   }
@@ -71,23 +67,22 @@ class frmInternet : public GameScreen {
     const int key = cmbrank.Key();
     if (key < 1) return;
     const Ranking& ranking = Rankings()[static_cast<std::size_t>(key - 1)];
-    lstrank.SetColumns({{"Place", K::Number, 1},
-                        {ranking.What, K::Text, 5},
-                        {"Promotion", K::Text, 2},
-                        {ranking.First, K::Number, 2},
-                        {ranking.Second, K::Number, 3}});
-    std::vector<ui::ListBox::Row> rows;
-    for (const RankRow& row : RowsOf(world(), ranking)) {
-      const int place = static_cast<int>(rows.size()) + 1;
-      rows.push_back(
-          {{ui::Cell(place),
-            ui::Cell(row.Name, row.House == world().Player().Initials.View() ? ui::Tone::Gold
-                                                                             : ui::Tone::Plain),
-            row.House, ui::Cell(row.First.Number, row.First.Text),
-            ui::Cell(row.Second.Number, row.Second.Text)},
-           place});
-    }
-    lstrank.Fill(std::move(rows), false);
+    const CellColumns<RankRow> columns = TableOf(ranking);
+    lstrank.SetColumns(HeadingsOf(columns));
+    lstrank.Fill(NumberedRows(columns, RowsOf(world(), ranking)), false);
+  }
+
+  CellColumns<RankRow> TableOf(const Ranking& ranking) {
+    return {{{"Place", K::Number, 1}, [](const RankRow& row) { return row.Place; }},
+            {{ranking.What, K::Text, 5},
+             [this](const RankRow& row) {
+               return ui::Cell(row.Name, IsOurs(row.House) ? ui::Tone::Gold : ui::Tone::Plain);
+             }},
+            {{"Promotion", K::Text, 2}, [](const RankRow& row) { return row.House; }},
+            {{ranking.First, K::Number, 2},
+             [](const RankRow& row) { return ui::Cell(row.First.Number, row.First.Text); }},
+            {{ranking.Second, K::Number, 3},
+             [](const RankRow& row) { return ui::Cell(row.Second.Number, row.Second.Text); }}};
   }
 
   void ShowRumours() {
@@ -128,17 +123,19 @@ class frmInternet : public GameScreen {
     txtfans.Write(std::move(words));
   }
 
-  void cmbrank_Click() { ShowRanking(); }
-
   using K = ui::ColumnKind;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::CheckBox chkshows{*this, "chkshows", "Shows that were held, too", false,
                         &frmInternet::ShowNews};
-  ui::ListBox lstnews{
-      *this,
-      "lstnews",
-      {{"Date", K::Date, 2}, {"What", K::Tag, 2}, {"Who", K::Text, 2}, {"Story", K::Text, 14}}};
-  ui::ComboBox cmbrank{*this, "cmbrank", &frmInternet::cmbrank_Click};
+  const CellColumns<NewsItem> news_ = {
+      {{"Date", K::Date, 2},
+       [](const NewsItem& item) { return ShortDayCell(item.On, ui::Tone::Muted); }},
+      {{"What", K::Tag, 2},
+       [this](const NewsItem& item) { return ui::Cell(item.What, ToneOf(item)); }},
+      {{"Who", K::Text, 2}, [](const NewsItem& item) { return item.House; }},
+      {{"Story", K::Text, 14}, [](const NewsItem& item) { return item.Words; }}};
+  ui::ListBox lstnews{*this, "lstnews", HeadingsOf(news_)};
+  ui::ComboBox cmbrank{*this, "cmbrank", &frmInternet::ShowRanking};
   ui::ListBox lstrank{*this, "lstrank", {{"Place", K::Number}}};
   ui::Report txtrumours{*this, "txtrumours"};
   ui::Report txtfans{*this, "txtfans"};

@@ -1,10 +1,10 @@
 #include <algorithm>
-#include "ui/game.h"
 
 #include "info/mailbox.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
-#include "records/world.h"
+#include "storylines/screens/screenpeople.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -22,13 +22,6 @@ class frmNews : public GameScreen {
         ui::Columns({ui::Group("", {ui::Field("From", cmbfrom), ui::Grow(lstnews)}).Grow(3),
                      ui::Group("", {lblfrom, lbldate, ui::Grow(txtbody)}).Grow(2)}),
         &lblfacts, {&cmdempty, &cmddelete});
-  }
-
-  void Load() override {
-    ShowSenders();
-    ShowMails();
-    lstnews.Select(1);
-    lstnews_Click();
   }
 
   void Return() override {
@@ -56,13 +49,8 @@ class frmNews : public GameScreen {
 
   void ShowMails() {
     std::vector<ui::ListBox::Row> rows;
-    for (const int number : MailsNewestFirst(world(), From())) {
-      const Mail& mail = world().News()[number];
-      // Sorted by date a mailbox is in the order in which the mails came.
-      rows.push_back(
-          {{mail.From.View(), ui::Cell(number, mail.Date.Str(), ui::Tone::Muted), mail.Body.View()},
-           number});
-    }
+    for (const int number : MailsNewestFirst(world(), From()))
+      rows.push_back(RowOf(mails_, world().News()[number], number));
     lstnews.Fill(std::move(rows));
     ShowCount();
   }
@@ -72,8 +60,7 @@ class frmNews : public GameScreen {
     lblfacts.Text = Counted(all, "mail") + ".";
     if (lstnews.Count() < all)
       lblfacts.Text = std::to_string(lstnews.Count()) + " of " + lblfacts.Text.Get();
-    cmdempty.Enabled = HasNews(world());
-    cmdempty.Tip = cmdempty.Enabled ? "" : "The mailbox is empty.";
+    EnableUnless(cmdempty, HasNews(world()) ? "" : "The mailbox is empty.");
   }
 
   void lstnews_Click() {
@@ -82,8 +69,7 @@ class frmNews : public GameScreen {
     lblfrom.Text = mail.From.Str();
     lbldate.Text = mail.Date.Str();
     txtbody.Write(mail.Body.View());
-    cmddelete.Enabled = number != 0;
-    cmddelete.Tip = number != 0 ? "" : "Pick a mail first.";
+    EnableUnless(cmddelete, number != 0 ? "" : "Pick a mail first.");
   }
 
   void cmbfrom_Click() {
@@ -96,7 +82,7 @@ class frmNews : public GameScreen {
   /// The place in the list stays, so that several can be deleted one after the other.
   void cmddelete_Click() {
     const int place = lstnews.Selected();
-    DeleteMail(world(), lstnews.Key());
+    world().News().Erase(lstnews.Key());
     lstnews.Select(0);
     ShowSenders();
     ShowMails();
@@ -109,20 +95,23 @@ class frmNews : public GameScreen {
     const std::string what = all == 1 ? "the one mail" : "all " + std::to_string(all) + " mails";
     if (!desk().Ask("Empty?", "Are you sure you want to delete " + what + "?", ui::Default::No))
       return;
-    EmptyMailbox(world());
-    ShowSenders();
-    ShowMails();
-    lstnews_Click();
+    world().News().Rewrite({});
+    Return();
     if (game_.RefreshMainScreen) game_.RefreshMainScreen();
   }
 
   using K = ui::ColumnKind;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbfrom{*this, "cmbfrom", &frmNews::cmbfrom_Click};
-  ui::ListBox lstnews{*this,
-                      "lstnews",
-                      {{"From", K::Text, 2}, {"Date", K::Date, 1}, {"Mail", K::Text, 5}},
-                      &frmNews::lstnews_Click};
+  /// Sorted by date a mailbox is in the order in which the mails came.
+  const CellColumns<Mail> mails_ = {
+      {{"From", K::Text, 2}, [](const Mail& mail) { return mail.From.View(); }},
+      {{"Date", K::Date, 1},
+       [this](const Mail& mail) {
+         return ui::Cell(world().News().NumberOf(mail), mail.Date.Str(), ui::Tone::Muted);
+       }},
+      {{"Mail", K::Text, 5}, [](const Mail& mail) { return mail.Body.View(); }}};
+  ui::ListBox lstnews{*this, "lstnews", HeadingsOf(mails_), &frmNews::lstnews_Click};
   ui::Label lblfrom{*this, "lblfrom"};
   ui::Label lbldate{*this, "lbldate"};
   ui::Report txtbody{*this, "txtbody"};

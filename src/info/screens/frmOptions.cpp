@@ -1,10 +1,9 @@
 #include "info/mailbox.h"
 #include "info/results.h"
-#include "records/fields/fields.h"
+#include "info/screens/infotables.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "records/world.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -52,13 +51,7 @@ class frmOptions : public GameScreen {
         &lblfacts);
   }
 
-  void Load() override { Show(); }
-  void Return() override { Show(); }
-
- private:
-  GameInfo& state() { return game_.World().Game(); }
-
-  void Show() {
+  void Return() override {
     for (int number = 1; number <= kOptions; ++number) {
       const MailOption& option = OptionOf(number);
       const int choice = state().*option.Choice;
@@ -68,18 +61,17 @@ class frmOptions : public GameScreen {
     cmbload.SelectKey(state().LoadingSet);
   }
 
+ private:
+  GameInfo& state() { return world().Game(); }
+
   void SetAll(int choice) {
     SetAllMailOptions(state(), choice);
-    Show();
+    Return();
   }
 
   void cmbmail_Click(int number) { SetMailOption(state(), OptionOf(number), combos(number).Key()); }
   void cmbreport_Click() { state().Reporter = cmbreport.Key(); }
   void cmbload_Click() { state().LoadingSet = cmbload.Key(); }
-  void cmdview_Click() { desk().Open("frmLoadingScreens"); }
-  void cmdalways_Click() { SetAll(kMailAlways); }
-  void cmddirect_Click() { SetAll(kMailRivals); }
-  void cmdnever_Click() { SetAll(kMailNever); }
 
   ui::Label lblfacts{*this, "lblfacts",
                      "A direct rival or above is a promotion of your own size or bigger. News of "
@@ -91,11 +83,11 @@ class frmOptions : public GameScreen {
                                  }};
   ui::ComboBox cmbreport{*this, "cmbreport", &frmOptions::cmbreport_Click};
   ui::ComboBox cmbload{*this, "cmbload", &frmOptions::cmbload_Click};
-  ui::Button cmdalways{*this, "cmdalways", "Always", &frmOptions::cmdalways_Click};
+  ui::Button cmdalways{*this, "cmdalways", "Always", [this] { SetAll(kMailAlways); }};
   ui::Button cmddirect{*this, "cmddirect", "Only for direct rivals or above",
-                       &frmOptions::cmddirect_Click};
-  ui::Button cmdnever{*this, "cmdnever", "Never", &frmOptions::cmdnever_Click};
-  ui::Button cmdview{*this, "cmdview", "View", &frmOptions::cmdview_Click};
+                       [this] { SetAll(kMailRivals); }};
+  ui::Button cmdnever{*this, "cmdnever", "Never", [this] { SetAll(kMailNever); }};
+  ui::Button cmdview{*this, "cmdview", "View", [this] { desk().Open("frmLoadingScreens"); }};
 };
 
 }  // namespace
@@ -132,7 +124,7 @@ class frmNotepad : public GameScreen {
   void Return() override { ShowState(); }
 
  private:
-  TextFile& notes() { return game_.World().Notes(); }
+  TextFile& notes() { return world().Notes(); }
 
   void Store() { notes().Set(txtnotes.Text.Get()); }
 
@@ -175,6 +167,23 @@ SCREEN(frmNotepad)
 
 namespace {
 
+using K = ui::ColumnKind;
+
+const CellColumns<JobLine> kJobs = {
+    {{"Promotion", K::Text, 4}, [](const JobLine& job) { return job.Promotion; }},
+    {{"From", K::Date, 2}, [](const JobLine& job) { return DayCell(job.From); }},
+    {{"To", K::Date, 2},
+     [](const JobLine& job) {
+       const ui::Cell to = DayCell(job.To);
+       return job.Present ? ui::Cell(to.Number, "Today", ui::Tone::Gold) : to;
+     }},
+    {{"Size then", K::Text, 1}, [](const JobLine& job) { return SizeText(job.StartSize); }},
+    {{"Size after", K::Text, 1, "Today's for the present job."},
+     [](const JobLine& job) { return SizeText(job.EndSize); }},
+    {{"Image then", K::Number, 1}, [](const JobLine& job) { return job.StartImage; }},
+    {{"Image after", K::Number, 1, "Today's for the present job."},
+     [](const JobLine& job) { return job.EndImage; }}};
+
 /// The player's career.
 class frmUser : public GameScreen {
  public:
@@ -190,27 +199,11 @@ class frmUser : public GameScreen {
     const GameInfo& info = world().Game();
     lblfacts.Text = info.PlayerName + ", " + std::string(Says(kDifficulties, info.Difficulty)) +
                     ", since " + PlainDate(info.StartDate) + ".";
-    ShowJobs();
+    lstjobs.Fill(NumberedRows(kJobs, CareerOf(world())));
     ShowRecord();
   }
 
  private:
-  static ui::Cell DateCell(Day day) {
-    return {static_cast<double>((day - kDayZero).count()), PlainDate(day)};
-  }
-
-  void ShowJobs() {
-    std::vector<ui::ListBox::Row> rows;
-    for (const JobLine& job : CareerOf(world()))
-      rows.push_back({{job.Promotion, DateCell(job.From),
-                       job.Present ? ui::Cell(DateCell(job.To).Number, "Today", ui::Tone::Gold)
-                                   : DateCell(job.To),
-                       SizeText(job.StartSize), SizeText(job.EndSize), ui::Cell(job.StartImage),
-                       ui::Cell(job.EndImage)},
-                      static_cast<int>(rows.size()) + 1});
-    lstjobs.Fill(std::move(rows));
-  }
-
   static std::vector<std::string> LinesOf(const JobRecord& record) {
     if (record.Shows + record.Events + record.CalledOff + record.Months == 0)
       return {"Nothing has been told of it yet."};
@@ -240,17 +233,8 @@ class frmUser : public GameScreen {
     txtuser.Write(std::move(words));
   }
 
-  using K = ui::ColumnKind;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstjobs{*this,
-                      "lstjobs",
-                      {{"Promotion", K::Text, 4},
-                       {"From", K::Date, 2},
-                       {"To", K::Date, 2},
-                       {"Size then", K::Text, 1},
-                       {"Size after", K::Text, 1, "Today's for the present job."},
-                       {"Image then", K::Number, 1},
-                       {"Image after", K::Number, 1, "Today's for the present job."}}};
+  ui::ListBox lstjobs{*this, "lstjobs", HeadingsOf(kJobs)};
   ui::Report txtuser{*this, "txtuser"};
 };
 

@@ -1,20 +1,25 @@
-#include "info/screens/frmResults.h"
-
 #include <algorithm>
 
 #include "info/results.h"
-#include "records/fields/fields.h"
+#include "info/screens/infotables.h"
 #include "records/modVar.h"
 #include "report/report.h"
 #include "show/recap.h"
-#include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
 namespace grapplemont {
 
 namespace {
 
-/// The last shows, to be read again in the words of their reports.
+using K = ui::ColumnKind;
+
+const CellColumns<KeptShow> kReports = {
+    {{"Date", K::Date}, [](const KeptShow& show) { return DayCell(show.On); }},
+    {{"Show", K::Text, 3}, [](const KeptShow& show) { return show.Name; }},
+    {{"Told by", K::Text, 2}, [](const KeptShow& show) { return VoiceName(show.Voice); }}};
+
+/// The last shows, to be read again in the words of their reports. With a day it begins with the
+/// promotion's show of that day.
 class frmReports : public GameScreen {
  public:
   explicit frmReports(Game& game, Day on = kDayZero, int promotionUid = 0)
@@ -42,13 +47,7 @@ class frmReports : public GameScreen {
  private:
   void ShowList() {
     shows_ = ShowsInTheColumn(world());
-    std::vector<ui::ListBox::Row> rows;
-    for (const KeptShow& show : shows_)
-      rows.push_back(
-          {{ui::Cell(static_cast<double>((show.On - kDayZero).count()), PlainDate(show.On)),
-            show.Name, VoiceName(show.Voice)},
-           static_cast<int>(rows.size()) + 1});
-    lstreports.Fill(std::move(rows));
+    lstreports.Fill(NumberedRows(kReports, shows_));
     lblfacts.Text = shows_.empty() ? "Nothing has been told yet."
                                    : "The last " + std::to_string(kKeptShows) +
                                          " shows are kept as they were told.";
@@ -64,17 +63,9 @@ class frmReports : public GameScreen {
 
   static ui::Report::Style StyleOf(int kind) {
     using Style = ui::Report::Style;
-    switch (kind) {
-      case kWhoMet:
-        return Style::Strong;
-      case kDetails:
-      case kFigures:
-        return Style::Muted;
-      case kWinner:
-        return Style::Line;
-      default:
-        return Style::Body;
-    }
+    if (kind == kWhoMet) return Style::Strong;
+    if (kind == kDetails || kind == kFigures) return Style::Muted;
+    return kind == kWinner ? Style::Line : Style::Body;
   }
 
   void ShowReport() {
@@ -101,15 +92,11 @@ class frmReports : public GameScreen {
     }
   }
 
-  using K = ui::ColumnKind;
   Day on_;
   int promotion_;
   std::vector<KeptShow> shows_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstreports{*this,
-                         "lstreports",
-                         {{"Date", K::Date}, {"Show", K::Text, 3}, {"Told by", K::Text, 2}},
-                         &frmReports::ShowReport};
+  ui::ListBox lstreports{*this, "lstreports", HeadingsOf(kReports), &frmReports::ShowReport};
   ui::Report txtreport{*this, "txtreport"};
 };
 
@@ -117,11 +104,14 @@ class frmReports : public GameScreen {
 
 SCREEN(frmReports)
 
-std::unique_ptr<ui::Screen> MakefrmReports(Game& game, Day on, int promotionUid) {
-  return std::make_unique<frmReports>(game, on, promotionUid);
-}
-
 namespace {
+
+const CellColumns<YearAward> kAwards = {
+    {{"Year", K::Number}, [](const YearAward& award) { return YearOf(award.On); }},
+    {{"Award", K::Text, 3}, [](const YearAward& award) { return AwardName(award.Kind); }},
+    {{"Winner", K::Text, 5},
+     [](const YearAward& award) { return ui::Cell(award.Winner.View(), ui::Tone::Gold); }},
+    {{"For", K::Text, 8}, [](const YearAward& award) { return award.For.View(); }}};
 
 /// The awards of the years.
 class frmAwards : public GameScreen {
@@ -154,21 +144,15 @@ class frmAwards : public GameScreen {
   void ShowAwards() {
     std::vector<ui::ListBox::Row> rows;
     for (const YearAward* award : AwardsOf(world(), cmbyear.Key(), cmbaward.Key()))
-      rows.push_back({{ui::Cell(YearOf(award->On)), AwardName(award->Kind),
-                       ui::Cell(award->Winner.View(), ui::Tone::Gold), award->For.View()},
-                      world().Awards().NumberOf(*award)});
+      rows.push_back(RowOf(kAwards, *award, world().Awards().NumberOf(*award)));
     lblfacts.Text = "Each year ends with the last day before 31 December.";
     lstawards.Fill(std::move(rows));
   }
 
-  using K = ui::ColumnKind;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbyear{*this, "cmbyear", &frmAwards::ShowAwards};
   ui::ComboBox cmbaward{*this, "cmbaward", &frmAwards::ShowAwards};
-  ui::ListBox lstawards{
-      *this,
-      "lstawards",
-      {{"Year", K::Number}, {"Award", K::Text, 3}, {"Winner", K::Text, 5}, {"For", K::Text, 8}}};
+  ui::ListBox lstawards{*this, "lstawards", HeadingsOf(kAwards)};
 };
 
 }  // namespace
@@ -179,6 +163,52 @@ namespace {
 
 /// How many shows the chart goes back.
 constexpr std::size_t kCharted = 26;
+
+ui::Cell KindCell(const HistoryEntry& show) {
+  if (show.CalledOff) return {"Called off", ui::Tone::Red};
+  return show.Kind == kPastEvent ? ui::Cell("Event", ui::Tone::Gold) : ui::Cell("Television");
+}
+
+/// A figure that a show has which was held.
+ui::Cell HeldCell(const HistoryEntry& show, ui::Cell figure) {
+  return show.CalledOff ? ui::Cell(0.0, "") : figure;
+}
+
+ui::Cell MoneyCell(int dollars) {
+  return {static_cast<double>(dollars), Dollars(dollars)};
+}
+
+const CellColumns<HistoryEntry> kShows = {
+    {{"Date", K::Date}, [](const HistoryEntry& show) { return ShortDayCell(show.On); }},
+    {{"Show", K::Text, 4}, [](const HistoryEntry& show) { return show.Name.View(); }},
+    {{"Day"}, [](const HistoryEntry& show) { return DayName(show.On); }},
+    {{"Kind", K::Tag}, KindCell},
+    {{"Rating", K::Percent},
+     [](const HistoryEntry& show) { return HeldCell(show, int(show.Rating)); }},
+    {{"Crowd", K::Number},
+     [](const HistoryEntry& show) { return HeldCell(show, int(show.Attendance)); }},
+    {{"Viewers", K::Number, 0, "Television rating, or buy rate."},
+     [](const HistoryEntry& show) {
+       return HeldCell(show,
+                       {1.0 * show.Viewers, show.Viewers == 0 ? "" : RatingText(show.Viewers)});
+     }},
+    {{"In", K::Number, 0, "What the show brought."},
+     [](const HistoryEntry& show) { return MoneyCell(show.Income); }},
+    {{"Out", K::Number, 0, "What the show itself cost."},
+     [](const HistoryEntry& show) { return MoneyCell(show.Costs); }}};
+
+ui::Cell StakeCell(const HeldMatch& match) {
+  if (match.Changed) return {"Title change", ui::Tone::Gold};
+  if (!(match.Title == "None")) return {"Title", ui::Tone::Gold};
+  return match.Feud[0] != 0 ? ui::Cell("Feud", ui::Tone::Red) : ui::Cell("");
+}
+
+const CellColumns<HeldMatch> kCard = {
+    {{"#", K::Number}, [](const HeldMatch& match) { return int(match.Row); }},
+    {{"Result", K::Text, 6}, ResultText},
+    {{"Kind", K::Text, 3}, grapplemont::KindText},
+    {{"For", K::Tag}, StakeCell},
+    {{"Rating", K::Percent}, [](const HeldMatch& match) { return int(match.Rating); }}};
 
 /// Every show that was held or called off, and who won on it.
 class frmResults : public GameScreen {
@@ -220,39 +250,13 @@ class frmResults : public GameScreen {
     const auto shows = PastCards(world(), name, cmbyear.Key());
     std::vector<ui::ListBox::Row> rows;
     for (const HistoryEntry* show : shows)
-      rows.push_back({CellsOf(*show), world().History().NumberOf(*show)});
+      rows.push_back(RowOf(kShows, *show, world().History().NumberOf(*show)));
     lstshows.Fill(std::move(rows));
     if (lstshows.Selected() == 0) lstshows.Select(lstshows.Count() > 0 ? 1 : 0);
     lblfacts.Text = SumOf(shows);
     ShowChart(shows);
     ShowCard();
   }
-
-  static std::vector<ui::Cell> CellsOf(const HistoryEntry& show) {
-    const bool isEvent = show.Kind == kPastEvent;
-    const ui::Cell when(static_cast<double>((Day(show.On) - kDayZero).count()), ShortDate(show.On));
-    if (show.CalledOff)
-      return {when,
-              show.Name.View(),
-              DayName(show.On),
-              ui::Cell("Called off", ui::Tone::Red),
-              ui::Cell(0, std::string()),
-              ui::Cell(0, std::string()),
-              ui::Cell(0, std::string()),
-              Money(show.Income),
-              Money(show.Costs)};
-    return {when,
-            show.Name.View(),
-            DayName(show.On),
-            isEvent ? ui::Cell("Event", ui::Tone::Gold) : ui::Cell("Television"),
-            ui::Cell(show.Rating),
-            ui::Cell(show.Attendance),
-            ui::Cell(show.Viewers, show.Viewers == 0 ? "" : RatingText(show.Viewers)),
-            Money(show.Income),
-            Money(show.Costs)};
-  }
-
-  static ui::Cell Money(int dollars) { return {static_cast<double>(dollars), Dollars(dollars)}; }
 
   void ShowChart(const std::vector<const HistoryEntry*>& shows) {
     std::vector<double> ratings;
@@ -278,20 +282,12 @@ class frmResults : public GameScreen {
     std::vector<ui::ListBox::Row> rows;
     if (show)
       for (const HeldMatch* match : MatchesOf(world(), *show))
-        rows.push_back({{ui::Cell(match->Row), ResultText(*match), KindText(*match),
-                         StakeOf(*match), ui::Cell(match->Rating)},
-                        world().Bouts().NumberOf(*match)});
+        rows.push_back(RowOf(kCard, *match, world().Bouts().NumberOf(*match)));
     lstcard.EmptyText = !show             ? "Choose a show to see who won on it."
                         : show->CalledOff ? "The show was called off."
                                           : "The matches of this show are not kept.";
     lstcard.Fill(std::move(rows), false);
     ShowButtons(show);
-  }
-
-  static ui::Cell StakeOf(const HeldMatch& match) {
-    if (match.Changed) return {"Title change", ui::Tone::Gold};
-    if (!(match.Title == "None")) return {"Title", ui::Tone::Gold};
-    return match.Feud[0] != 0 ? ui::Cell("Feud", ui::Tone::Red) : ui::Cell("");
   }
 
   void ShowButtons(const HistoryEntry* show) {
@@ -304,36 +300,18 @@ class frmResults : public GameScreen {
 
   void cmdreport_Click() {
     if (const HistoryEntry* show = Chosen())
-      desk().Open(MakefrmReports(game_, show->On, show->Promotion));
+      desk().Open(std::make_unique<frmReports>(game_, show->On, show->Promotion));
   }
   void lstshows_Open() {
     if (cmdreport.Enabled) cmdreport_Click();
   }
 
-  using K = ui::ColumnKind;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ComboBox cmbshow{*this, "cmbshow", &frmResults::ShowShows};
   ui::ComboBox cmbyear{*this, "cmbyear", &frmResults::ShowShows};
-  ui::ListBox lstshows{*this,
-                       "lstshows",
-                       {{"Date", K::Date},
-                        {"Show", K::Text, 4},
-                        {"Day"},
-                        {"Kind", K::Tag},
-                        {"Rating", K::Percent},
-                        {"Crowd", K::Number},
-                        {"Viewers", K::Number, 0, "Television rating, or buy rate."},
-                        {"In", K::Number, 0, "What the show brought."},
-                        {"Out", K::Number, 0, "What the show itself cost."}},
-                       &frmResults::ShowCard,
+  ui::ListBox lstshows{*this, "lstshows", HeadingsOf(kShows), &frmResults::ShowCard,
                        &frmResults::lstshows_Open};
-  ui::ListBox lstcard{*this,
-                      "lstcard",
-                      {{"#", K::Number},
-                       {"Result", K::Text, 6},
-                       {"Kind", K::Text, 3},
-                       {"For", K::Tag},
-                       {"Rating", K::Percent}}};
+  ui::ListBox lstcard{*this, "lstcard", HeadingsOf(kCard)};
   ui::Chart chtratings{*this, "chtratings"};
   ui::Button cmdreport{*this, "cmdreport", "Read Report", &frmResults::cmdreport_Click};
   ui::Button cmdreports{*this, "cmdreports", "Report Column",

@@ -2,33 +2,38 @@
 
 #include "calendar/advanceday.h"
 #include "info/meeting.h"
-#include "records/fields/fields.h"
+#include "info/screens/infotables.h"
 #include "records/fields/wording.h"
-#include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
 namespace grapplemont {
 
 namespace {
 
+using K = ui::ColumnKind;
+
+ui::Cell WhenCell(const Advice& advice) {
+  constexpr ui::Tone kTones[] = {ui::Tone::Red, ui::Tone::Amber, ui::Tone::Plain, ui::Tone::Green};
+  const auto how = static_cast<std::size_t>(advice.How);
+  return {static_cast<double>(how), std::string(UrgencyText(advice.How)), kTones[how]};
+}
+
+const CellColumns<Advice> kTable = {
+    {{"When", K::Tag, 2, "How long it can wait."}, WhenCell},
+    {{"About", K::Text, 2}, [](const Advice& advice) { return TopicText(advice.About); }},
+    {{"Who", K::Text, 3},
+     [](const Advice& advice) { return ui::Cell(advice.Speaker, ui::Tone::Muted); }},
+    {{"Says", K::Text, 6}, [](const Advice& advice) { return advice.Says; }}};
+
 /// The staff meeting: everything that somebody has to say, the most urgent first.
 class frmTalk : public GameScreen {
  public:
-  explicit frmTalk(Game& game) : GameScreen(game, "frmTalk", "Staff Meeting") {
-    BackBefore(cmdgo);
-    lsttalk.EmptyText = "Nobody has anything to say.";
-  }
+  explicit frmTalk(Game& game) : GameScreen(game, "frmTalk", "Staff Meeting") { BackBefore(cmdgo); }
 
   ui::Page Layout() override {
     return PageOf(ui::Columns({ui::Group("On the table", {ui::Grow(lsttalk)}).Grow(6),
                                ui::Group("", {ui::Grow(txtsays)}).Grow(5)}),
                   &lblfacts, {}, &cmdgo);
-  }
-
-  void Load() override {
-    HoldIt();
-    lsttalk.Select(advice_.empty() ? 0 : 1);
-    lsttalk_Click();
   }
 
   /// What has been seen to in the meantime is off the table.
@@ -44,15 +49,7 @@ class frmTalk : public GameScreen {
     advice_ = why.empty() ? HoldMeeting(world()) : std::vector<Advice>();
     lsttalk.EmptyText = why.empty() ? "Nobody has anything to say." : why;
     lblfacts.Text = why.empty() ? Summary() : why;
-    std::vector<ui::ListBox::Row> rows;
-    for (const Advice& advice : advice_)
-      rows.push_back({{{static_cast<double>(advice.How), std::string(UrgencyText(advice.How)),
-                        ToneOf(advice.How)},
-                       TopicText(advice.About),
-                       ui::Cell(advice.Speaker, ui::Tone::Muted),
-                       advice.Says},
-                      static_cast<int>(rows.size()) + 1});
-    lsttalk.Fill(std::move(rows));
+    lsttalk.Fill(NumberedRows(kTable, advice_));
   }
 
   std::string Summary() const {
@@ -61,12 +58,6 @@ class frmTalk : public GameScreen {
     });
     return LongDate(game_.World().Today()) + ": " + Counted(std::ssize(advice_), "point") +
            " on the table, " + (urgent == 0 ? "none" : std::to_string(urgent)) + " of them urgent.";
-  }
-
-  static ui::Tone ToneOf(Urgency urgency) {
-    constexpr ui::Tone kTones[] = {ui::Tone::Red, ui::Tone::Amber, ui::Tone::Plain,
-                                   ui::Tone::Green};
-    return kTones[static_cast<std::size_t>(urgency)];
   }
 
   const Advice* Chosen() const {
@@ -110,16 +101,9 @@ class frmTalk : public GameScreen {
     return one ? links.front().Open : ui::Handler{};
   }
 
-  using K = ui::ColumnKind;
   std::vector<Advice> advice_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lsttalk{*this,
-                      "lsttalk",
-                      {{"When", K::Tag, 2, "How long it can wait."},
-                       {"About", K::Text, 2},
-                       {"Who", K::Text, 3},
-                       {"Says", K::Text, 6}},
-                      &frmTalk::lsttalk_Click,
+  ui::ListBox lsttalk{*this, "lsttalk", HeadingsOf(kTable), &frmTalk::lsttalk_Click,
                       &frmTalk::cmdgo_Click};
   ui::Report txtsays{*this, "txtsays"};
   ui::Button cmdgo{*this, "cmdgo", "See To It", &frmTalk::cmdgo_Click};

@@ -3,7 +3,6 @@
 #include "records/modWresCheck.h"
 #include "roster/leaving.h"
 #include "roster/postings.h"
-#include "roster/screens/frmStaff.h"
 #include "roster/screens/frmWorker.h"
 #include "roster/screens/screentalks.h"
 #include "roster/signing.h"
@@ -28,14 +27,10 @@ class frmWresContract : public TalkWith<Worker> {
     std::vector<ui::Box> now = terms_.Fields(), offered = offer_.Fields();
     now.emplace_back(lblcreative);
     offered.emplace_back(chkcreative);
-    ui::Page page =
-        PageOf(ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-                            ui::Rows({ui::Group("The contract", std::move(now)),
-                                      ui::Group("Your offer", std::move(offered)), ui::Spacer()})
-                                .Grow(1)}),
-               &lblfacts, {&cmdterminate, &cmdrelease}, &cmdoffer);
-    page.Large = true;
-    return page;
+    return TalkPage({ui::Rows({ui::Group("The contract", std::move(now)),
+                               ui::Group("Your offer", std::move(offered)), ui::Spacer()})
+                         .Grow(1)},
+                    {&cmdterminate, &cmdrelease}, cmdoffer);
   }
 
  protected:
@@ -53,8 +48,7 @@ class frmWresContract : public TalkWith<Worker> {
     lblcreative.Visible = worker.CreativeControl;
     ShowFacts("What is turned down can be changed and offered again.");
     offer_.Allow(closed_);
-    EnableUnless(chkcreative, closed_);
-    EnableUnless(cmdoffer, closed_);
+    EnableUnless({chkcreative, cmdoffer}, closed_);
   }
 
  private:
@@ -121,19 +115,15 @@ class frmOtherContract : public TalkWith<Worker> {
     wanted.insert(wanted.begin(), ui::Field("Position", txtposition));
     wanted.insert(wanted.end(), {ui::Field("Creative control", txtcreative), ui::Spacer()});
     offered.emplace_back(chkcreative);
-    ui::Page page =
-        PageOf(ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-                            ui::Group("Wanted of you", std::move(wanted)),
-                            ui::Rows({ui::Group("Your offer", std::move(offered)),
-                                      ui::Group("The role", {ui::Field("Position", cmbnewposition),
-                                                             ui::Field("Disposition", cmbnewdispo),
-                                                             ui::Field("Name", txtnewname),
-                                                             ui::Field("Short name", txtnewname2)}),
-                                      ui::Spacer()})
-                                .Grow(1)}),
-               &lblfacts, {}, &cmdoffer);
-    page.Large = true;
-    return page;
+    return TalkPage({ui::Group("Wanted of you", std::move(wanted)),
+                     ui::Rows({ui::Group("Your offer", std::move(offered)),
+                               ui::Group("The role", {ui::Field("Position", cmbnewposition),
+                                                      ui::Field("Disposition", cmbnewdispo),
+                                                      ui::Field("Name", txtnewname),
+                                                      ui::Field("Short name", txtnewname2)}),
+                               ui::Spacer()})
+                         .Grow(1)},
+                    {}, cmdoffer);
   }
 
   void Load() override {
@@ -218,14 +208,10 @@ class StaffTalk : public TalkWith<Staff> {
   }
 
   ui::Page Layout() override {
-    ui::Page page = PageOf(
-        ui::Columns({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
-                     ui::Rows({ui::Group(own_ ? "The contract" : "Wanted of you", terms_.Fields()),
+    return TalkPage({ui::Rows({ui::Group(own_ ? "The contract" : "Wanted of you", terms_.Fields()),
                                ui::Group("Your offer", offer_.Fields()), ui::Spacer()})
-                         .Grow(1)}),
-        &lblfacts, {}, &cmdoffer);
-    page.Large = true;
-    return page;
+                         .Grow(1)},
+                    {}, cmdoffer);
   }
 
  protected:
@@ -262,7 +248,7 @@ class StaffTalk : public TalkWith<Staff> {
     const ContractOffer offer = offer_.Offer();
     const std::string no = JudgeStaffOffer(world(), staff, StaffDemandsOf(world(), staff), offer);
     if (!no.empty()) return desk().Say("Rejected!", no);
-    own_ ? RenewStaff(staff, offer) : HireStaff(world(), staff, offer);
+    own_ ? PutInto(staff, offer) : HireStaff(world(), staff, offer);
     Agree(staff.Name, offer.Written);
   }
 
@@ -283,10 +269,7 @@ std::unique_ptr<ui::Screen> MakefrmOtherContract(Game& game, const Worker& worke
 }
 
 std::unique_ptr<ui::Screen> MakefrmStaffContract(Game& game, const Staff& staff) {
-  return std::make_unique<StaffTalk>(game, staff, true);
-}
-std::unique_ptr<ui::Screen> MakefrmOtherStaffContract(Game& game, const Staff& staff) {
-  return std::make_unique<StaffTalk>(game, staff, false);
+  return std::make_unique<StaffTalk>(game, staff, WorksForPlayer(game.World(), staff));
 }
 
 }  // namespace grapplemont

@@ -1,14 +1,15 @@
-#include "roster/screens/frmRoster.h"
-
 #include <algorithm>
+#include <span>
 
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/severing.h"
 #include "roster/market.h"
 #include "roster/postings.h"
 #include "roster/screens/frmWorker.h"
 #include "roster/screens/screentalks.h"
+#include "roster/screens/screenworkers.h"
 #include "roster/talks.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
@@ -17,85 +18,116 @@ namespace grapplemont {
 
 namespace {
 
-std::size_t Index(int number) {
-  return static_cast<std::size_t>(number - 1);
-}
+/// A table of workers under its quick filters, the page of the chosen one beside it. Rows are made
+/// when the list or a filter changes; picking one writes his page and no more.
+class WorkerListScreen : public GameScreen {
+ public:
+  WorkerListScreen(Game& game, std::string name, std::string title, PeopleList list,
+                   std::span<const FilterFamily> filters)
+      : GameScreen(game, std::move(name), std::move(title), {.Manages = true}),
+        cmbfilters("", static_cast<int>(filters.size()),
+                   [&](const std::string&, int i) {
+                     const FilterFamily& family = filters[Index(i)];
+                     auto combo = std::make_unique<ui::ComboBox>(*this, std::string(family.Control),
+                                                                 [this] { ShowList(); });
+                     for (const WorkerFilter& row : family.Rows) combo->Add(std::string(row.Label));
+                     combo->Select(1);
+                     return combo;
+                   }),
+        lstwres(*this, "lstwres", WorkerColumns(list), ui::Handler([this] { ShowChoice(); })),
+        list_(list),
+        filters_(filters) {}
 
-}  // namespace
+  void Load() override { ShowList(); }
 
-WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string title, WorkerList list,
-                                   std::span<const FilterFamily> filters)
-    : GameScreen(game, std::move(name), std::move(title), {.Manages = true}),
-      cmbfilters("", static_cast<int>(filters.size()),
-                 [&](const std::string&, int i) {
-                   const FilterFamily& family = filters[Index(i)];
-                   auto combo = std::make_unique<ui::ComboBox>(*this, std::string(family.Control),
-                                                               [this] { ShowList(); });
-                   for (const WorkerFilter& row : family.Rows) combo->Add(std::string(row.Label));
-                   combo->Select(1);
-                   return combo;
-                 }),
-      lstwres(*this, "lstwres", WorkerColumns(list), ui::Handler([this] { ShowChoice(); })),
-      list_(list),
-      filters_(filters) {}
-
-/// Where the chosen worker is listed no more, the next one takes his place.
-void WorkerListScreen::Return() {
-  const int key = lstwres.Key(), row = lstwres.Selected();
-  ShowList();
-  if (lstwres.Key() == key || row == 0) return;
-  lstwres.Select(std::min(row, lstwres.Count()));
-  ShowChoice();
-}
-
-bool WorkerListScreen::FitsFilters(const Worker& worker) {
-  for (int i = 1; i <= cmbfilters.Count(); ++i) {
-    const int row = cmbfilters(i).Selected();
-    if (row > 1 && !filters_[Index(i)].Rows[Index(row)].Keeps(worker)) return false;
+  /// Where the chosen worker is listed no more, the next one takes his place.
+  void Return() override {
+    const int key = lstwres.Key(), row = lstwres.Selected();
+    ShowList();
+    if (lstwres.Key() == key || row == 0) return;
+    lstwres.Select(std::min(row, lstwres.Count()));
+    ShowChoice();
   }
-  return Passes(worker);
-}
 
-/// The most popular come first.
-void WorkerListScreen::ShowList() {
-  std::vector<const Worker*> people;
-  listed_ = 0;
-  for (const Worker& worker : world().Workers()) {
-    if (!Belongs(worker)) continue;
-    ++listed_;
-    if (FitsFilters(worker)) people.push_back(&worker);
+ protected:
+  /// Who is to be listed at all.
+  virtual bool Belongs(const Worker& worker) const = 0;
+  /// What the screen's own filters say.
+  virtual bool Passes(const Worker&) const { return true; }
+  /// Brings the buttons to the chosen worker; nullptr for nobody.
+  virtual void ShowActions(const Worker* chosen) = 0;
+  virtual std::string Facts(int listed) const = 0;
+
+  using GameScreen::world;
+  const World& world() const { return game_.World(); }
+  /// nullptr for nobody, or somebody who has left the world.
+  const Worker* Chosen() { return world().FindWorker(lstwres.Key()); }
+
+  /// The most popular come first; the choice stays where it can, else the first row is chosen.
+  void ShowList() {
+    std::vector<const Worker*> people;
+    listed_ = 0;
+    for (const Worker& worker : world().Workers()) {
+      if (!Belongs(worker)) continue;
+      ++listed_;
+      if (FitsFilters(worker)) people.push_back(&worker);
+    }
+    SortByOver(people);
+    std::vector<ui::ListBox::Row> rows;
+    rows.reserve(people.size());
+    for (const Worker* worker : people) rows.push_back(WorkerRow(world(), *worker, list_));
+    lstwres.Fill(std::move(rows));
+    if (lstwres.Selected() == 0) lstwres.Select(1);
+    ShowFacts();
+    ShowChoice();
   }
-  SortByOver(people);
-  std::vector<ui::ListBox::Row> rows;
-  rows.reserve(people.size());
-  for (const Worker* worker : people) rows.push_back(WorkerRow(world(), *worker, list_));
-  lstwres.Fill(std::move(rows));
-  if (lstwres.Selected() == 0) lstwres.Select(1);
-  ShowFacts();
-  ShowChoice();
-}
 
-void WorkerListScreen::ShowChoice() {
-  const Worker* chosen = Chosen();
-  WriteWorkerPage(txtpage, world(), chosen, "Choose somebody to read about.");
-  ShowActions(chosen);
-}
+  void ShowChoice() {
+    const Worker* chosen = Chosen();
+    WriteWorkerPage(txtpage, world(), chosen, "Choose somebody to read about.");
+    ShowActions(chosen);
+  }
+  void ShowFacts() { lblfacts.Text = Facts(listed_); }
 
-ui::Box WorkerListScreen::FilterBox(std::vector<ui::Box> more) {
-  std::vector<ui::Box> fields;
-  for (int i = 1; i <= cmbfilters.Count(); ++i)
-    fields.push_back(ui::Field(std::string(filters_[Index(i)].Caption), cmbfilters(i)));
-  for (ui::Box& box : more) fields.push_back(std::move(box));
-  return ui::Columns(std::move(fields));
-}
+  void Negotiate() {
+    if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
+  }
 
-namespace {
+  /// The filters side by side, with the screen's own behind them.
+  ui::Box FilterBox(std::vector<ui::Box> more = {}) {
+    std::vector<ui::Box> fields;
+    for (int i = 1; i <= cmbfilters.Count(); ++i)
+      fields.push_back(ui::Field(std::string(filters_[Index(i)].Caption), cmbfilters(i)));
+    for (ui::Box& box : more) fields.push_back(std::move(box));
+    return ui::Columns(std::move(fields));
+  }
+
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Array<ui::ComboBox> cmbfilters;
+  ui::ListBox lstwres;
+  ui::Report txtpage{*this, "txtpage"};
+
+ private:
+  static std::size_t Index(int number) { return static_cast<std::size_t>(number - 1); }
+
+  bool FitsFilters(const Worker& worker) {
+    for (int i = 1; i <= cmbfilters.Count(); ++i) {
+      const int row = cmbfilters(i).Selected();
+      if (row > 1 && !filters_[Index(i)].Rows[Index(row)].Keeps(worker)) return false;
+    }
+    return Passes(worker);
+  }
+
+  PeopleList list_;
+  int listed_ = 0;  // before the filters
+  std::span<const FilterFamily> filters_;
+};
 
 /// The player's people, wherever they are posted.
 class frmRoster : public WorkerListScreen {
  public:
   explicit frmRoster(Game& game)
-      : WorkerListScreen(game, "frmRoster", "Roster", WorkerList::Roster, RosterFilters()) {
+      : WorkerListScreen(game, "frmRoster", "Roster", PeopleList::Own, RosterFilters()) {
     BackBefore(cmdcontract);
     lstwres.EmptyText = "Nobody works for you yet. Look for people under Other Workers.";
     lstwres.OpenWith(cmdcontract);
@@ -210,14 +242,11 @@ class frmRoster : public WorkerListScreen {
   }
   void cmddevelopment_Click() {
     Act([](Worker& worker) {
-      IsInDevelopment(worker) ? Recall(worker) : SendToDevelopment(worker);
+      IsInDevelopment(worker) ? EndPosting(worker) : SendToDevelopment(worker);
     });
   }
   void cmdcamp_Click() {
-    Act([](Worker& worker) { IsInCamp(worker) ? Recall(worker) : SendToCamp(worker); });
-  }
-  void cmdcontract_Click() {
-    if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
+    Act([](Worker& worker) { IsInCamp(worker) ? EndPosting(worker) : SendToCamp(worker); });
   }
 
   ui::ComboBox cmbsplit{*this, "cmbsplit", &frmRoster::ShowList};
@@ -232,14 +261,14 @@ class frmRoster : public WorkerListScreen {
   ui::Button cmdturn{*this, "cmdturn", "Turns", [this] { desk().Open("frmTurn"); }};
   ui::Button cmdmanager{*this, "cmdmanager", "Managers", [this] { desk().Open("frmManagers"); }};
   ui::Button cmdstables{*this, "cmdstables", "Stables", [this] { desk().Open("frmStables"); }};
-  ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmRoster::cmdcontract_Click};
+  ui::Button cmdcontract{*this, "cmdcontract", "Contract", [this] { Negotiate(); }};
 };
 
 /// Everybody who does not work for the player.
 class frmOtherWres : public WorkerListScreen {
  public:
   explicit frmOtherWres(Game& game)
-      : WorkerListScreen(game, "frmOtherWres", "Other Workers", WorkerList::Market,
+      : WorkerListScreen(game, "frmOtherWres", "Other Workers", PeopleList::Market,
                          MarketFilters()) {
     BackBefore(cmdcontract);
     lstwres.EmptyText = "There is nobody else who fits.";
@@ -269,9 +298,6 @@ class frmOtherWres : public WorkerListScreen {
   }
 
  private:
-  void cmdcontract_Click() {
-    if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
-  }
   /// Nobody's row changes by it.
   void cmdshortlist_Click() {
     TurnShortlist(game_, lstwres.Key());
@@ -282,7 +308,7 @@ class frmOtherWres : public WorkerListScreen {
   ui::Button cmdlist{*this, "cmdlist", "Shortlist", [this] { desk().Open("frmShortlist"); }};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Put On Shortlist",
                           &frmOtherWres::cmdshortlist_Click};
-  ui::Button cmdcontract{*this, "cmdcontract", "Talks", &frmOtherWres::cmdcontract_Click};
+  ui::Button cmdcontract{*this, "cmdcontract", "Talks", [this] { Negotiate(); }};
 };
 
 }  // namespace

@@ -1,12 +1,13 @@
 #include "roster/screens/frmWorker.h"
-#include "ui/game.h"
+
+#include <algorithm>
+#include <span>
 
 #include "records/modWresCheck.h"
 #include "records/nameindex.h"
-#include "records/world.h"
 #include "roster/market.h"
 #include "roster/screens/screentalks.h"
-#include "roster/screens/screenworkers.h"
+#include "roster/workerfacts.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -27,20 +28,15 @@ Paragraphs Told(std::span<const FactGroup> groups) {
   return words;
 }
 
-}  // namespace
-
+/// The first group's heading is the title.
 void WriteFacts(ui::Report& page, std::span<const FactGroup> facts) {
   Paragraphs words = Told(facts);
   words.front().As = Style::Heading;
   page.Write(std::move(words));
 }
 
-void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
-                     const std::string& nobody) {
-  if (!worker) return page.Write({{Style::Muted, nobody}});
-  WriteFacts(page, WorkerFacts(world, *worker));
-}
-
+/// Two sheets side by side, under a title that names him already: who he is, his work and his skill
+/// at the left, everything else at the right.
 void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,
                       const std::string& nobody) {
   right.Write(Paragraphs());
@@ -53,31 +49,18 @@ void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, c
   right.Write(Told(all.subspan(kAtLeft)));
 }
 
-namespace {
-
-/// Opens what the name stands for; empty where there is no page for it.
-ui::Handler WayTo(Game& game, const NameSpan& name) {
-  const auto& page = name.Of == NameSpan::Kind::Worker ? game.OpenWorker : game.OpenPromotion;
-  if (!page) return {};
-  return [&page, uid = name.Uid] { page(uid); };
-}
-
-std::vector<ui::Link> LinksOf(Game& game, NameIndex& names, std::string_view text) {
-  std::vector<ui::Link> links;
-  if (!game.HasWorld()) return links;
-  for (const NameSpan& name : names.Find(game.World(), text))
-    if (ui::Handler open = WayTo(game, name))
-      links.push_back({name.From, name.Length, std::move(open)});
-  return links;
-}
-
 }  // namespace
 
-void ConnectRoster(Game& game) {
-  game.OpenWorker = [&game](int uid) { OpenWorkerPage(game, uid); };
-  game.Desk().FindLinks = [&game, names = std::make_shared<NameIndex>()](std::string_view text) {
-    return LinksOf(game, *names, text);
-  };
+void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
+                     const std::string& nobody) {
+  if (!worker) return page.Write({{Style::Muted, nobody}});
+  WriteFacts(page, WorkerFacts(world, *worker));
+}
+
+void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
+                    const std::string& nobody) {
+  if (!staff) return page.Write({{Style::Muted, nobody}});
+  WriteFacts(page, StaffFacts(world, *staff));
 }
 
 namespace {
@@ -137,19 +120,34 @@ frmWorker* PageBelow(ui::Desk& desk, int uid) {
   return nullptr;
 }
 
-}  // namespace
-
-std::unique_ptr<ui::Screen> MakefrmWorker(Game& game, int workerUid) {
-  return std::make_unique<frmWorker>(game, workerUid);
-}
-
+/// Opens the worker's page, or goes back to it where it lies below others of its kind. Says so when
+/// there is nobody of this uid any more.
 void OpenWorkerPage(Game& game, int workerUid) {
   ui::Desk& desk = game.Desk();
   if (!game.World().FindWorker(workerUid))
     return desk.Say("Gone", "This worker is not in the business any more.");
   const frmWorker* page = PageBelow(desk, workerUid);
-  if (!page) return desk.Open(MakefrmWorker(game, workerUid));
+  if (!page) return desk.Open(std::make_unique<frmWorker>(game, workerUid));
   while (desk.Top() != page) desk.Close(*desk.Top());
+}
+
+std::vector<ui::Link> LinksOf(Game& game, NameIndex& names, std::string_view text) {
+  std::vector<ui::Link> links;
+  if (!game.HasWorld()) return links;
+  for (const NameSpan& name : names.Find(game.World(), text)) {
+    const auto& page = name.Of == NameSpan::Kind::Worker ? game.OpenWorker : game.OpenPromotion;
+    if (page) links.push_back({name.From, name.Length, [&page, uid = name.Uid] { page(uid); }});
+  }
+  return links;
+}
+
+}  // namespace
+
+void ConnectRoster(Game& game) {
+  game.OpenWorker = [&game](int uid) { OpenWorkerPage(game, uid); };
+  game.Desk().FindLinks = [&game, names = std::make_shared<NameIndex>()](std::string_view text) {
+    return LinksOf(game, *names, text);
+  };
 }
 
 namespace {
@@ -178,16 +176,9 @@ class frmShortlist : public GameScreen {
   const Worker* Chosen() { return world().FindWorker(lstwres.Key()); }
 
   void ShowList() {
-    std::vector<ui::ListBox::Row> rows;
-    for (const Worker* worker : Shortlisted(world())) {
-      std::vector<ui::Cell> cells = ShortRow(*worker);
-      cells.emplace_back(MarketStanding(world(), *worker));
-      cells.push_back(StatusCell(*worker));
-      rows.push_back({std::move(cells), worker->Uid});
-    }
-    lblfacts.Text = std::to_string(rows.size()) + " of " +
+    FillTable(lstwres, columns_, Shortlisted(world()));
+    lblfacts.Text = std::to_string(lstwres.Count()) + " of " +
                     std::to_string(world().Game().Shortlist.size()) + " places taken.";
-    lstwres.Fill(std::move(rows));
   }
 
   void ShowChoice() {
@@ -207,23 +198,20 @@ class frmShortlist : public GameScreen {
     lstwres.Select(std::min(place, lstwres.Count()));
     ShowChoice();
   }
-  void cmdpage_Click() { OpenWorkerPage(game_, lstwres.Key()); }
   void cmdcontract_Click() {
     if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
   }
 
-  static std::vector<ui::Column> Columns() {
-    std::vector<ui::Column> columns = ShortColumns();
-    columns.push_back({"Standing", ui::ColumnKind::Text, 6});
-    columns.push_back({"Status", ui::ColumnKind::Text, 2, "Empty for who is available."});
-    return columns;
-  }
-
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstwres{*this, "lstwres", Columns(), &frmShortlist::ShowChoice, cmdpage};
+  const CellColumns<Worker> columns_ = PeopleTable(
+      {{{"Standing", ui::ColumnKind::Text, 6},
+        [this](const Worker& worker) { return MarketStanding(world(), worker); }},
+       {{"Status", ui::ColumnKind::Text, 2, "Empty for who is available."}, StatusCell}});
+  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmShortlist::ShowChoice, cmdpage};
   ui::Report txtpage{*this, "txtpage"};
   ui::Button cmdremove{*this, "cmdremove", "Remove", &frmShortlist::cmdremove_Click};
-  ui::Button cmdpage{*this, "cmdpage", "Open Page", &frmShortlist::cmdpage_Click};
+  ui::Button cmdpage{*this, "cmdpage", "Open Page",
+                     [this] { OpenWorkerPage(game_, lstwres.Key()); }};
   ui::Button cmdcontract{*this, "cmdcontract", "Talks", &frmShortlist::cmdcontract_Click};
 };
 

@@ -10,11 +10,7 @@
 
 namespace grapplemont {
 
-namespace {
-
-constexpr int kWrittenRow = 1, kVerbalRow = 2;
-
-}  // namespace
+static constexpr int kWrittenRow = 1, kVerbalRow = 2;
 
 OfferControls::OfferControls(ui::Screen& screen, int highestWage)
     : hsnewwage(screen, "hsnewwage", 0, highestWage, ui::Handler([this] { ShowWage(); })),
@@ -89,12 +85,21 @@ bool TalkScreen::GoesOn() {
   return false;
 }
 
+ui::Page TalkScreen::TalkPage(std::vector<ui::Box> beside, std::vector<ui::Button*> actions,
+                              ui::Button& offer) {
+  beside.insert(beside.begin(), ui::Group("", {ui::Grow(txtpage)}).Grow(1));
+  ui::Page page = PageOf(ui::Columns(std::move(beside)), &lblfacts, std::move(actions), &offer);
+  page.Large = true;
+  return page;
+}
+
 void TalkScreen::ShowFacts(const std::string& facts) {
   lblfacts.Text = closed_.empty() ? facts : closed_;
 }
 
 void TalkScreen::Agree(std::string_view name, bool written) {
-  SayAll({AcceptedRemark(name, written)});
+  const char* how = written ? " signs the contract!" : " agrees to the contract!";
+  desk().Say("Accepted!", std::string(name) + how);
   Close();
 }
 
@@ -127,8 +132,17 @@ std::string WhyNoTalks(Game& game, const Worker* worker) {
 }
 
 void OpenTalks(Game& game, const Worker& worker) {
-  const bool own = WorksForPlayer(game.World(), worker);
-  own ? OpenWresContract(game, worker.Uid) : OpenOtherContract(game, worker.Uid);
+  const World& world = game.World();
+  const std::string why = WhyTalksOver(world, &worker, {worker.Name.Str(), worker.Employer});
+  if (!why.empty()) return game.Desk().Say(kTalksTitle, why);
+  game.Desk().Open(WorksForPlayer(world, worker) ? MakefrmWresContract(game, worker)
+                                                 : MakefrmOtherContract(game, worker));
+}
+
+void OpenTalks(Game& game, const Staff& staff) {
+  const std::string why = WhyNoStaffTalks(staff);
+  if (!why.empty()) return game.Desk().Say(kTalksTitle, why);
+  game.Desk().Open(MakefrmStaffContract(game, staff));
 }
 
 void TurnShortlist(Game& game, int workerUid) {
@@ -149,44 +163,6 @@ void ShowShortlistButton(Game& game, const Worker* worker, ui::Button& button) {
   EnableUnless(button, !worker          ? kNobodyChosen
                        : own && !listed ? worker->Name + " works for you."
                                         : "");
-}
-
-namespace {
-
-void Say(Game& game, const std::string& why) {
-  game.Desk().Say(kTalksTitle, why);
-}
-
-std::string WhyNotWith(const World& world, const Worker* worker, bool own) {
-  if (!worker) return "This worker is not in the business any more.";
-  if (own && !WorksForPlayer(world, *worker))
-    return worker->Name + " does not work for you any more.";
-  if (!own && WorksForPlayer(world, *worker)) return worker->Name + " works for you now.";
-  return WhyTalksOver(world, worker, {worker->Name.Str(), worker->Employer});
-}
-
-}  // namespace
-
-void OpenWresContract(Game& game, int workerUid) {
-  const Worker* worker = game.World().FindWorker(workerUid);
-  if (const std::string why = WhyNotWith(game.World(), worker, true); !why.empty())
-    return Say(game, why);
-  game.Desk().Open(MakefrmWresContract(game, *worker));
-}
-
-void OpenOtherContract(Game& game, int workerUid) {
-  const Worker* worker = game.World().FindWorker(workerUid);
-  if (const std::string why = WhyNotWith(game.World(), worker, false); !why.empty())
-    return Say(game, why);
-  game.Desk().Open(MakefrmOtherContract(game, *worker));
-}
-
-void OpenStaffContract(Game& game, int staffUid) {
-  const Staff* staff = game.World().FindStaff(staffUid);
-  if (!staff) return Say(game, "This member of staff is not in the business any more.");
-  if (const std::string why = WhyNoStaffTalks(*staff); !why.empty()) return Say(game, why);
-  game.Desk().Open(WorksForPlayer(game.World(), *staff) ? MakefrmStaffContract(game, *staff)
-                                                        : MakefrmOtherStaffContract(game, *staff));
 }
 
 }  // namespace grapplemont

@@ -80,6 +80,9 @@ class TalkScreen : public GameScreen {
   /// Otherwise says why not and closes.
   bool GoesOn();
   void SayAll(const std::vector<Remark>& remarks);
+  /// A large window: his page, and beside it what is talked about.
+  ui::Page TalkPage(std::vector<ui::Box> beside, std::vector<ui::Button*> actions,
+                    ui::Button& offer);
   /// The line under the title; what closed the talks goes before it.
   void ShowFacts(const std::string& facts);
   /// Says that it is a deal, and closes.
@@ -119,29 +122,20 @@ inline constexpr const char* kNobodyChosen = "Choose a worker first.";
 /// Why there can be no talks with him at this moment; empty when there can. nullptr for nobody
 /// chosen.
 std::string WhyNoTalks(Game& game, const Worker* worker);
-/// The contract of a worker of the player's, or the talks with anybody else. Requires that nothing
-/// stands against them.
+/// The contract of one of the player's, or the talks with anybody else. Says why there can be none
+/// with somebody who has become unsackable.
 void OpenTalks(Game& game, const Worker& worker);
+void OpenTalks(Game& game, const Staff& staff);
 
 /// Puts him on the shortlist or takes him off; says why when there is no room.
 void TurnShortlist(Game& game, int workerUid);
 /// Shows on the button what it would do; nobody chosen disables it.
 void ShowShortlistButton(Game& game, const Worker* worker, ui::Button& button);
 
-// The talks: each opens its screen for one person. Whoever has left the world or changed sides
-// since the list was drawn is told so instead.
-
-/// frmWresContract, for a worker of the player's.
-void OpenWresContract(Game& game, int workerUid);
-/// frmOtherContract, for a worker of anybody else or of nobody.
-void OpenOtherContract(Game& game, int workerUid);
-/// frmStaffContract for a member of the player's staff, frmOtherStaffContract for any other.
-void OpenStaffContract(Game& game, int staffUid);
-
 // Each requires somebody who can be talked with.
 std::unique_ptr<ui::Screen> MakefrmWresContract(Game& game, const Worker& worker);
 std::unique_ptr<ui::Screen> MakefrmOtherContract(Game& game, const Worker& worker);
+/// frmStaffContract for a member of the player's staff, frmOtherStaffContract for any other.
 std::unique_ptr<ui::Screen> MakefrmStaffContract(Game& game, const Staff& staff);
-std::unique_ptr<ui::Screen> MakefrmOtherStaffContract(Game& game, const Staff& staff);
 
 }  // namespace grapplemont

@@ -3,6 +3,8 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/postings.h"
+#include "roster/staff.h"
+#include "roster/workerfacts.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -12,32 +14,76 @@ namespace {
 
 using K = ui::ColumnKind;
 
-struct WorkerColumn {
+/// A column and where it is shown.
+template <class Person>
+struct PersonColumn {
   const char* Title;
   K Kind;
   const char* Tip;
-  bool OnRoster, OnMarket;
-  ui::Cell (*Show)(const World& world, const Worker& worker);
+  bool OnOwn, OnMarket;
+  ui::Cell (*Show)(const World& world, const Person& person);
+
+  bool IsIn(PeopleList list) const { return list == PeopleList::Own ? OnOwn : OnMarket; }
 };
 
-ui::Cell Muted(std::string_view text) {
-  return {text, ui::Tone::Muted};
+template <class Person, std::size_t N>
+std::vector<ui::Column> ColumnsIn(PeopleList list, const PersonColumn<Person> (&table)[N]) {
+  std::vector<ui::Column> columns;
+  for (const PersonColumn<Person>& column : table)
+    if (column.IsIn(list)) columns.push_back({column.Title, column.Kind, 0, column.Tip});
+  return columns;
 }
 
-template <Percent Worker::*field>
-ui::Cell Points(const World&, const Worker& worker) {
-  return int(worker.*field);
+template <class Person, std::size_t N>
+ui::ListBox::Row RowIn(PeopleList list, const PersonColumn<Person> (&table)[N], const World& world,
+                       const Person& person) {
+  ui::ListBox::Row row{{}, person.Uid};
+  row.Cells.reserve(N);
+  for (const PersonColumn<Person>& column : table)
+    if (column.IsIn(list)) row.Cells.push_back(column.Show(world, person));
+  return row;
 }
 
-ui::Cell Name(const World&, const Worker& worker) {
-  return worker.Name.View();
+// How anybody stands in a column.
+
+template <class Person>
+ui::Cell Name(const World&, const Person& person) {
+  return person.Name.View();
 }
-ui::Cell Sex(const World&, const Worker& worker) {
-  return worker.Gender ? "M" : "F";
+template <class Person>
+ui::Cell Sex(const World&, const Person& person) {
+  return person.Gender ? "M" : "F";
 }
-ui::Cell Age(const World&, const Worker& worker) {
-  return int(worker.Age);
+template <class Person>
+ui::Cell Age(const World&, const Person& person) {
+  return int(person.Age);
 }
+template <auto field, class Person>
+ui::Cell Points(const World&, const Person& person) {
+  return int(person.*field);
+}
+template <class Person>
+ui::Cell Employer(const World& world, const Person& person) {
+  if (person.Employer == 0) return {"Free", ui::Tone::Muted};
+  return PromotionInitials(world, person.Employer);
+}
+ui::Cell WageCell(int thousands) {
+  const long long dollars = 1000LL * thousands;
+  return {static_cast<double>(dollars), Dollars(dollars)};
+}
+bool IsEndless(const Worker& worker) {
+  return worker.Unsackable || worker.ContractMonths < 0;
+}
+/// What has no end sorts behind all that has one.
+template <class Person>
+ui::Cell Months(const World&, const Person& person) {
+  constexpr double kNever = 100000;
+  if (person.Employer == 0) return {0.0, ""};
+  if (IsEndless(person)) return {kNever, "-"};
+  return {int(person.ContractMonths),
+          person.ContractMonths <= 3 ? ui::Tone::Amber : ui::Tone::Plain};
+}
+
 ui::Cell Position(const World&, const Worker& worker) {
   return {1.0 * worker.Position, PlaceText(worker)};
 }
@@ -57,10 +103,6 @@ ui::Cell Condition(const World&, const Worker& worker) {
                                                      : "Sits out";
   return {-1.0, words, ui::Tone::Red};
 }
-ui::Cell Employer(const World& world, const Worker& worker) {
-  if (worker.Employer == 0) return Muted("Free");
-  return PromotionInitials(world, worker.Employer);
-}
 ui::Cell Split(const World&, const Worker& worker) {
   return worker.Split == "None" ? ui::Cell("") : ui::Cell(worker.Split.View());
 }
@@ -69,17 +111,8 @@ ui::Cell Contract(const World&, const Worker& worker) {
   if (worker.Unsackable) return {"Unsackable", ui::Tone::Gold};
   return worker.ContractType == "Wri" ? "Written" : "Verbal";
 }
-/// What has no end sorts behind all that has one.
-ui::Cell Months(const World&, const Worker& worker) {
-  constexpr double kNever = 100000;
-  if (worker.Employer == 0) return {0.0, ""};
-  if (worker.Unsackable || worker.ContractMonths < 0) return {kNever, "-"};
-  const bool ending = worker.ContractMonths <= 3;
-  return {int(worker.ContractMonths), ending ? ui::Tone::Amber : ui::Tone::Plain};
-}
 ui::Cell Wage(const World&, const Worker& worker) {
-  const long long dollars = 1000LL * worker.Wage;
-  return {static_cast<double>(dollars), Dollars(dollars)};
+  return WageCell(worker.Wage);
 }
 ui::Cell Weeks(const World& world, const Worker& worker) {
   const int days = DaysSinceTurn(world, worker);
@@ -88,7 +121,7 @@ ui::Cell Weeks(const World& world, const Worker& worker) {
 }
 
 // A position goes by its number as a date does: from the first up, words at the left.
-constexpr WorkerColumn kColumns[] = {
+constexpr PersonColumn<Worker> kWorkers[] = {
     {"Name", K::Text, "", true, true, Name},
     {"Emp.", K::Tag, "Employer.", false, true, Employer},
     {"Position", K::Date, "", true, true, Position},
@@ -112,25 +145,47 @@ constexpr WorkerColumn kColumns[] = {
      true, Weeks},
 };
 
-bool IsIn(const WorkerColumn& column, WorkerList list) {
-  return list == WorkerList::Roster ? column.OnRoster : column.OnMarket;
+ui::Cell Post(const World&, const Staff& staff) {
+  return {1.0 * staff.Position, std::string(PostText(staff.Position))};
 }
+ui::Cell StaffWage(const World&, const Staff& staff) {
+  return staff.Position == kOwner ? ui::Cell(0.0, "") : WageCell(staff.Wage);
+}
+ui::Cell StaffContract(const World&, const Staff& staff) {
+  if (staff.Employer == 0) return "";
+  if (staff.Position == kOwner) return {"Owner", ui::Tone::Gold};
+  if (IsEndless(staff)) return {"No end", ui::Tone::Gold};
+  return ContractWord(staff.ContractType == "Wri");
+}
+
+// So does a post.
+constexpr PersonColumn<Staff> kStaff[] = {
+    {"Name", K::Text, "", true, true, Name},
+    {"Post", K::Date, "", true, true, Post},
+    {"Emp.", K::Tag, "Employer.", false, true, Employer},
+    {"Age", K::Number, "", true, true, Age},
+    {"Sex", K::Text, "", true, true, Sex},
+    {"Talent", K::Number, "", true, true, Points<&Staff::Talent>},
+    {"Morale", K::Number, "", true, true, Points<&Staff::Morale>},
+    {"Loyalty", K::Number, "", true, true, Points<&Staff::Loyalty>},
+    {"Wage", K::Number, "Dollars a month.", true, true, StaffWage},
+    {"Contract", K::Tag, "", true, true, StaffContract},
+    {"Months", K::Number, "Months left of the contract.", true, true, Months},
+};
 
 }  // namespace
 
-std::vector<ui::Column> WorkerColumns(WorkerList list) {
-  std::vector<ui::Column> columns;
-  for (const WorkerColumn& column : kColumns)
-    if (IsIn(column, list)) columns.push_back({column.Title, column.Kind, 0, column.Tip});
-  return columns;
+std::vector<ui::Column> WorkerColumns(PeopleList list) {
+  return ColumnsIn(list, kWorkers);
 }
-
-ui::ListBox::Row WorkerRow(const World& world, const Worker& worker, WorkerList list) {
-  ui::ListBox::Row row{{}, worker.Uid};
-  row.Cells.reserve(std::size(kColumns));
-  for (const WorkerColumn& column : kColumns)
-    if (IsIn(column, list)) row.Cells.push_back(column.Show(world, worker));
-  return row;
+ui::ListBox::Row WorkerRow(const World& world, const Worker& worker, PeopleList list) {
+  return RowIn(list, kWorkers, world, worker);
+}
+std::vector<ui::Column> StaffColumns(PeopleList list) {
+  return ColumnsIn(list, kStaff);
+}
+ui::ListBox::Row StaffRow(const World& world, const Staff& staff, PeopleList list) {
+  return RowIn(list, kStaff, world, staff);
 }
 
 }  // namespace grapplemont

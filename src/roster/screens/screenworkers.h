@@ -5,14 +5,16 @@
 #include "records/world.h"
 #include "ui/controls.h"
 
-// The one table of workers: the same columns wherever workers are listed.
+// The one table of workers and the one of staff: the same columns wherever they are listed.
 
 namespace grapplemont {
 
-/// Whose list it is: the player's own people have a split and no employer to be told.
-enum class WorkerList { Roster, Market };
+/// Whose list it is: only the market's has employers to be told.
+enum class PeopleList { Own, Market };
 
-std::vector<ui::Column> WorkerColumns(WorkerList list);
-ui::ListBox::Row WorkerRow(const World& world, const Worker& worker, WorkerList list);
+std::vector<ui::Column> WorkerColumns(PeopleList list);
+ui::ListBox::Row WorkerRow(const World& world, const Worker& worker, PeopleList list);
+std::vector<ui::Column> StaffColumns(PeopleList list);
+ui::ListBox::Row StaffRow(const World& world, const Staff& staff, PeopleList list);
 
 }  // namespace grapplemont

@@ -1,0 +1,64 @@
+#include <gtest/gtest.h>
+
+#include "report/report.h"
+#include "show/holdshow.h"
+#include "support/gameonworld.h"
+
+// What was told is read again. How past shows, awards and jobs are listed a golden month shows.
+
+namespace grapplemont::test {
+namespace {
+
+TEST(TheReportColumn, ReadsAShowAgainFromItsRow) {
+  GameOnWorld play(SmallWorld()
+                       .Network("Nine")
+                       .Promotion("CWA")
+                       .Crew(8)
+                       .Show("Sunday Slam", "Sunday", "Nine")
+                       .Game("CWA"));
+  World& world = play.World();
+  std::vector<Segment> sheet(static_cast<std::size_t>(kTvRows), EmptySegment());
+  sheet[0].Kind = kMatch;
+  sheet[0].Style = kSingles;
+  sheet[0].MatchType = kPlainSingles;
+  sheet[0].Worker[0] = sheet[0].Winner = 3;
+  sheet[0].Worker[1] = sheet[0].Loser = 4;
+  sheet[0].Finish = sheet[0].Purpose = sheet[0].Aftermath = 1;
+  world.Segments().Rewrite(sheet);
+  LineMemory memory;
+  StartShow(world, false, {});
+  const ToldSegment told = RunNextSegment(world, &memory);
+  CloseShow(world);
+  LeaveShow(world);
+  HistoryEntry held;
+  held.On = world.Today();
+  held.Kind = kPastTv;
+  held.Promotion = world.PlayerUid();
+  held.Name = "Sunday Slam";
+  held.Size = int(kRegional);
+  world.History().Append(held);
+  held.On = world.Today() - std::chrono::days{1};
+  world.History().Append(held);
+  play.Play.Commit();
+  play.Reopen();
+  play.Desk.Open("frmResults");
+  EXPECT_FALSE(play.Desk.Enabled("cmdreport"));
+  EXPECT_EQ(play.Desk.Tip("cmdreport"), "Only the reports of the last 12 shows are kept.");
+  play.Desk.OpenRow("lstshows", 1);
+  EXPECT_EQ(play.Desk.TopName(), "frmResults") << "a row opens what its button opens";
+  play.Desk.OpenRow("lstshows", 2);
+  ASSERT_EQ(play.Desk.TopName(), "frmReports");
+  EXPECT_EQ(
+      play.Desk.Rows("lstreports"),
+      (std::vector<std::vector<std::string>>{{"01 March 2026", "Sunday Slam", "Rafe Tolland"}}));
+  const std::string text = play.Desk.Text("txtreport");
+  const std::string first = told.Report.substr(0, told.Report.find('\n'));
+  EXPECT_NE(text.find(first), std::string::npos) << text;
+  EXPECT_NE(text.find("CWA Hand 3 vs CWA Hand 4"), std::string::npos) << text;
+  EXPECT_NE(text.find("Overall Rating " + std::to_string(told.Overall) + "%"), std::string::npos);
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.TopName(), "frmResults");
+}
+
+}  // namespace
+}  // namespace grapplemont::test
