@@ -82,22 +82,19 @@ TEST(AnAuthor, GetsTheDataBackFromTheBackup) {
   EditorHome home;
   const auto before = home.Files();
   EXPECT_FALSE(home.Desk.Enabled("cmdrestore"));
-  for (const NewRecordCase& made : kNewRecords) {
-    Add(home.Desk, made);
-    home.Desk.Click("cmdback");
-  }
+  Add(home.Desk, kNewRecords[0]);
+  home.Desk.Click("cmdback");
   const auto after = home.Files();
   EXPECT_EQ("10 of 25000", home.Desk.Text("lblwres"));
-  home.Desk.ExpectAsk("Restore Backup", kAnyText, true, ui::Default::No);
-  home.Desk.Click("cmdrestore");
-  EXPECT_EQ(before, home.Files());
-  EXPECT_EQ("9 of 25000", home.Desk.Text("lblwres"));
-  home.Desk.ExpectAsk("Restore Backup", kAnyText, true);
-  home.Desk.Click("cmdrestore");
-  EXPECT_EQ(after, home.Files());
+  for (const auto& then : {before, after}) {
+    home.Desk.ExpectAsk("Restore Backup", kAnyText, true, ui::Default::No);
+    home.Desk.Click("cmdrestore");
+    EXPECT_EQ(then, home.Files());
+    EXPECT_EQ(then == before ? "9 of 25000" : "10 of 25000", home.Desk.Text("lblwres"));
+  }
 }
 
-TEST(AnAuthor, ChangesEveryWordOfAWorker) {
+TEST(AnAuthor, ChangesEveryKindOfField) {
   EditorHome home;
   World expected = home.OnDisk();
   home.Page("cmdwres", "Cal Drift");
@@ -105,22 +102,14 @@ TEST(AnAuthor, ChangesEveryWordOfAWorker) {
                    {"cmbgender", "female"},
                    {"chkdiva", "on"},
                    {"cmbbirthmonth", "May"},
-                   {"txtage", "31"},
-                   {"cmbweight", "Lightweight"},
-                   {"cmbdisposition", "Heel"},
                    {"chkspeaks", "off"},
-                   {"txtfinisher1", "Undertow"},
                    {"cmbfinisher1", "Submission"},
                    {"txtbrawl", "0"},
-                   {"txtover", "100"},
                    {"cmbemployer", "CWA"},
-                   {"cmbposition", "Midcard"},
-                   {"cmbcontract", "Written"},
                    {"txtmonths", "24"},
                    {"txtwage", "1,250"},
                    {"cmbstable", "The Firm"},
                    {"cmbmanager", "Max Agent"},
-                   {"chkcreative", "on"},
                    {"txtlastturn", "2025-12-24"}});
   home.Desk.Click("cmdsave");
   Worker& cass = Named(expected.Workers(), "Cal Drift");
@@ -128,22 +117,14 @@ TEST(AnAuthor, ChangesEveryWordOfAWorker) {
   cass.Gender = false;
   cass.Diva = true;
   cass.BirthMonth = 5;
-  cass.Age = 31;
-  cass.Weight = "L";
-  cass.Disposition = "H";
   cass.Speaks = false;
-  cass.Finisher1 = "Undertow";
   FinisherFlags(cass, 1, FinisherType::Submission);
   cass.Brawl = 0;
-  cass.Over = 100;
   cass.Employer = Named(expected.Promotions(), "CWA").Uid;
-  cass.Position = kMidcard;
-  cass.ContractType = "Wri";
   cass.ContractMonths = 24;
   cass.Wage = 1250;
   cass.Stable = "The Firm";
   cass.Manager = Named(expected.Workers(), "Max Agent").Uid;
-  cass.CreativeControl = true;
   cass.LastTurn = Day{std::chrono::year{2025} / 12 / 24};
   ExpectSame(home.OnDisk(), expected);
 }
@@ -247,11 +228,10 @@ TEST(AMember, WhoChangesEmployerLosesStableAndManagerInTheForm) {
 struct RefusalCase {
   std::string Button, Record;  // "" for a new one
   Steps Typed;
-  std::optional<std::string> Says;
+  std::string Says;
 };
 const RefusalCase kRefusals[] = {
     {"cmdwres", "", {}, "It needs a name."},
-    {"cmdwres", "", {{"txtname", "Cal Drift"}}, "This name already exists!"},
     {"cmdwres", "Cal Drift", {{"txtname", "CWA Hand 1"}}, "This name already exists!"},
     {"cmdwres", "Cal Drift", {{"txtname", "None"}}, "Nobody can be called \"None\"."},
     {"cmdwres", "Cal Drift", {{"txtbrawl", "101"}}, "Brawling: 0 to 100 percent."},
@@ -264,19 +244,9 @@ const RefusalCase kRefusals[] = {
      "Cal Drift",
      {{"txtlastturn", "yesterday"}},
      "Last turn: needs a day as yyyy-mm-dd, or nothing."},
-    {"cmdwres",
-     "Cal Drift",
-     {{"txtoverfloor", "100"}},
-     "Popularity floor is above the worker's Over."},
     {"cmdpromo", "NEW", {{"txtinitials", "CWA"}}, "These initials already exist!"},
     {"cmdpromo", "NEW", {{"txtname", "To Be Deleted"}}, "Nobody can be called \"To Be Deleted\"."},
-    {"cmdowners", "Nell Ewing", {{"cmbemployer", "CWA"}}, kAnyText},
     {"cmdteams", "", {{"txtname", "One"}, {"cmbworker1", "Cal Drift"}}, "It lacks a partner."},
-    {"cmdteams",
-     "",
-     {{"txtname", "Two"}, {"cmbworker1", "CWA Hand 2"}, {"cmbworker2", "CWA Hand 1"}},
-     kAnyText},
-    {"cmdbelts", "CWA Tag", {{"txtname", "CWA Crown"}}, "Name stands twice in the same promotion."},
     {"cmdtv",
      "",
      {{"txtname", "Copycat"},
@@ -291,14 +261,14 @@ const RefusalCase kRefusals[] = {
      "Month has an Event of the promotion already."},
 };
 
-/// What no page shows, and why.
+/// What no page shows: the editor's own, what one pick list says, and what a game writes anew.
 constexpr std::string_view kLeftOut[] = {"Uid",
-                                         "Active",  // the editor's own
+                                         "Active",
                                          "Finisher1TopRope",
                                          "Finisher1Ground",
                                          "Finisher2TopRope",
-                                         "Finisher2Ground",  // one pick list
-                                         "ColourIsWorker",   // told by the commentator
+                                         "Finisher2Ground",
+                                         "ColourIsWorker",
                                          "Momentum",
                                          "Rank",
                                          "Money",
@@ -314,38 +284,27 @@ constexpr std::string_view kLeftOut[] = {"Uid",
                                          "Last",
                                          "Won",
                                          "Lost",
-                                         "Holder"};  // a game writes them anew
+                                         "Holder"};
 
 TEST(ThePages, ShowEveryFieldThatAnAuthorCanMean) {
-  std::set<std::string> shown;
+  std::set<std::pair<RecordKind, std::string_view>> shown;
   for (const RecordPage& page : RecordPages())
     for (const FormGroup& group : page.Groups)
-      for (const FormEntry& entry : group.Entries)
-        shown.insert(std::string(LayoutOf(page.Kind).Name) + "." + std::string(entry.Field));
+      for (const FormEntry& entry : group.Entries) shown.insert({page.Kind, entry.Field});
   for (const RecordPage& page : RecordPages())
     for (const Field& field : LayoutOf(page.Kind).Fields)
       for (int i = 0; i < field.Count; ++i) {
         const std::string name = FieldName(field, i);
-        const bool leftOut = std::ranges::any_of(
-            kLeftOut, [&](std::string_view left) { return name.starts_with(left); });
-        const bool isShown = shown.contains(std::string(LayoutOf(page.Kind).Name) + "." + name);
-        EXPECT_TRUE(isShown || leftOut) << LayoutOf(page.Kind).Name << " " << name;
+        EXPECT_TRUE(
+            shown.contains({page.Kind, name}) ||
+            std::ranges::any_of(kLeftOut, [&](auto left) { return name.starts_with(left); }))
+            << LayoutOf(page.Kind).Name << " " << name;
       }
-}
-
-TEST(TheCamp, IsChosenByItsWords) {
-  EditorHome home;
-  home.Page("cmdpromo", "NEW");
-  const std::vector<std::string> words = {"None", "Poor", "Average", "Good", "Superb"};
-  EXPECT_EQ(words, home.Desk.FirstColumn("cmbtrain"));
-  EXPECT_EQ(R"(For a promotion to go to the "next size", they have to reach 100% image during the )"
-            "game. 0 to 100 percent.",
-            home.Desk.Tip("txtimage"));
 }
 
 TEST(AnAuthor, IsToldWhyARecordCannotBe) {
   for (const RefusalCase& refusal : kRefusals) {
-    SCOPED_TRACE(refusal.Button + " " + refusal.Says.value_or("?"));
+    SCOPED_TRACE(refusal.Button + " " + refusal.Says);
     EditorHome home;
     const auto before = home.Files();
     home.Page(refusal.Button, refusal.Record);
@@ -368,24 +327,17 @@ TEST(FullFiles, TakeNoMore) {
     promotion.Initials = "P" + std::to_string(uid);
     data.Promotions().Append(promotion);
   }
-  Worker worker = As<Worker>(NewRecord(RecordKind::Worker).data());
-  for (int uid = 1; uid <= 25000; ++uid) {
-    worker.Uid = uid;
-    worker.Name = "Worker " + std::to_string(uid);
-    data.Workers().Append(worker);
-  }
   EditorHome home(data);
-  home.Desk.Click("cmdpromo");
-  home.Desk.ExpectSay("Error!", "Maximum 35 promotions per file!");
-  home.Desk.Click("cmdnew");
-  home.Desk.ExpectSay("Error!", "Maximum 35 promotions per file!");
-  home.Desk.Click("cmdcopy");
-  home.Desk.Click("cmdback");
-  home.Desk.Click("cmdwres");
-  home.Desk.ExpectSay("Error!", "Maximum 25,000 wrestlers per file!");
-  home.Desk.Click("cmdnew");
-  home.Desk.Type("txtsearch", "worker 2499");
+  home.Page("cmdpromo");
+  for (const char* button : {"cmdnew", "cmdcopy"}) {
+    home.Desk.ExpectSay("Error!", "Maximum 35 promotions per file!");
+    home.Desk.Click(button);
+  }
+  home.Desk.Type("txtsearch", "promotion 2");
   EXPECT_EQ(11u, home.Desk.Rows("lstrecords").size());
+  EXPECT_EQ(R"(For a promotion to go to the "next size", they have to reach 100% image during the )"
+            "game. 0 to 100 percent.",
+            home.Desk.Tip("txtimage"));
 }
 
 TEST(ACopy, HasAFreeNameAndGoesWhenItIsNotSaved) {
@@ -522,12 +474,10 @@ TEST(DamagedData, AreShownWithTheirFaultsAndKeptWhereNobodyTouchesThem) {
 TEST(AFileThatIsNone, IsSaidAndLeftAlone) {
   EditorHome home;
   home.Desk.Click("cmdback");
-  const std::string huge(36 * sizeof(Promotion), 'x');
-  home.Write("data/promos.dat", huge);
+  home.Write("data/promos.dat", std::string(36 * sizeof(Promotion), 'x'));
   home.Desk.Click("cmdeditor");
   EXPECT_EQ("cannot be read", home.Desk.Text("lblpromo"));
-  home.Desk.Click("cmdpromo");
-  EXPECT_FALSE(home.Desk.Enabled("cmdnew"));
+  home.Page("cmdpromo");
   EXPECT_EQ("The file cannot be read.", home.Desk.Tip("cmdnew"));
 }
 

@@ -56,7 +56,10 @@ World Linked() {
 TEST(Merge, ClashingUidsGetFreeOnesAndEveryReferenceFollows) {
   World world = Here();
   const World before = CopyOf(world);
+  const Arrivals preview = PreviewMerge(world, AsNew(Linked()));
+  ExpectSame(world, before);
   const Arrivals arrivals = MergeNewRecords(world, AsNew(Linked()));
+  EXPECT_EQ(Lines(preview), Lines(arrivals));
   EXPECT_EQ(Lines(arrivals),
             (Texts{"Promotion NEW Wrestling 1>2: Its uid belongs to CWA Wrestling.",
                    "Network Ten 1>2: Its uid belongs to Nine.",
@@ -98,15 +101,6 @@ TEST(Merge, ClashingUidsGetFreeOnesAndEveryReferenceFollows) {
   ExpectSame(world, before);
 }
 
-TEST(Merge, APreviewTellsTheSameAndChangesNothing) {
-  World world = Here();
-  const World before = CopyOf(world);
-  const NewRecords coming = AsNew(Linked());
-  const Arrivals preview = PreviewMerge(world, coming);
-  ExpectSame(world, before);
-  EXPECT_EQ(Lines(preview), Lines(MergeNewRecords(world, coming)));
-}
-
 TEST(Merge, WhatIsHereAlreadyStaysOutTheSecondTime) {
   World world = Here();
   const NewRecords coming = AsNew(Linked());
@@ -145,21 +139,16 @@ TEST(Merge, WhoRefersToATakenNameGetsTheOneWhoHasIt) {
   EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
 }
 
-TEST(Merge, TakenInitialsKeepAPromotionOutUntilItIsGivenOthers) {
+TEST(Merge, TakenInitialsKeepAPromotionOutAndItsPeopleFree) {
+  World world = Here();
   World there = There();
   there.Promotions()[1].Initials = "CWA";
-  const NewRecords coming = AsNew(there);
-  World world = Here();
-  const Arrivals without = PreviewMerge(world, coming);
-  EXPECT_EQ(Line(without.Rows[0]), "Promotion NEW Wrestling out: The initials are taken.");
-  EXPECT_TRUE(without.Rows[0].NameTaken);
-  EXPECT_EQ(without.Mended[0].Line(),
+  const Arrivals arrivals = MergeNewRecords(world, AsNew(there));
+  EXPECT_EQ(Line(arrivals.Rows[0]), "Promotion NEW Wrestling out: The initials are taken.");
+  EXPECT_TRUE(arrivals.Rows[0].NameTaken);
+  EXPECT_EQ(arrivals.Mended[0].Line(),
             "newwrestler.dat, record 1 (Ann Ring), Employer: is 1, but nobody came or was here "
             "under it; made 0");
-  const Arrivals with = MergeNewRecords(world, coming, {{{"Promotion", 1}, {"", "NWC"}}});
-  EXPECT_EQ(Line(with.Rows[0]), "Promotion NEW Wrestling 1>2: Its uid belongs to CWA Wrestling.");
-  EXPECT_EQ(Named(world.Promotions(), "NWC").Name, "NEW Wrestling");
-  EXPECT_EQ(Named(world.Workers(), "Bo Stone").Employer, 2);
 }
 
 TEST(Merge, ANewNameLetsARecordOfEachKindIn) {
@@ -258,61 +247,23 @@ TEST(Merge, ShowsKeepToTheirSpotsAndTeamsToTheirPairs) {
             Texts{"Show Four out: Its promotion has three shows already."});
 }
 
-// Which limit refuses what, with a file that has room for one more record.
-template <class T>
-std::string SecondAtLimit(Records<T>& (World::*table)(), RecordFile<T> NewRecords::*file,
-                          const std::function<void(T&, int)>& make) {
+TEST(Merge, AFullFileRefusesInTheEditorsWords) {
   World world = SmallWorld().Network("N").Build();
-  if constexpr (std::is_same_v<T, Team>)
-    for (int i = 1; i <= 202; ++i) {
-      Worker worker = World(SmallWorld().OnTheMarket().Worker("W")).Workers()[1];
-      worker.Uid = i;
-      worker.Name = "W" + std::to_string(i);
-      world.Workers().Append(worker);
-    }
-  Records<T>& records = (world.*table)();
-  records.Remove();
-  for (int i = 1; i < LayoutOf<T>().Limit; ++i) {
-    T record;
-    make(record, i);
-    records.Append(record);
-  }
   NewRecords coming;
-  for (int i = 0; i < 2; ++i) make((coming.*file).Records.emplace_back(), LayoutOf<T>().Limit + i);
-  const Arrivals arrivals = PreviewMerge(world, coming);
-  EXPECT_NE(arrivals.Rows[0].Comes, Fate::LeftOut) << arrivals.Rows[0].Why;
-  EXPECT_FALSE(arrivals.Rows[1].NameTaken);
-  return arrivals.Rows[1].Why;
-}
-
-template <class T>
-void MakeNamed(T& record, int i) {
-  record.Uid = i;
-  record.Name = "R" + std::to_string(i);
-}
-
-TEST(Merge, TheLimitsRefuseInTheEditorsWords) {
-  EXPECT_EQ(SecondAtLimit<Worker>(&World::Workers, &NewRecords::Workers, MakeNamed<Worker>),
-            "Maximum 25,000 wrestlers per file!");
-  EXPECT_EQ(SecondAtLimit<Staff>(&World::AllStaff, &NewRecords::AllStaff, MakeNamed<Staff>),
-            "Maximum 10,000 staff members per file!");
-  EXPECT_EQ(SecondAtLimit<Promotion>(&World::Promotions, &NewRecords::Promotions,
-                                     [](Promotion& promotion, int i) {
-                                       MakeNamed(promotion, i);
-                                       promotion.Initials = promotion.Name;
-                                     }),
-            "Maximum 35 promotions per file!");
-  EXPECT_EQ(SecondAtLimit<Network>(&World::Networks, &NewRecords::Networks, MakeNamed<Network>),
-            "Maximum 1,000 networks per file!");
-  EXPECT_EQ(SecondAtLimit<Show>(&World::Shows, &NewRecords::Shows,
-                                [](Show& show, int i) { show.Name = "S" + std::to_string(i); }),
-            "Maximum 1,000 shows per file!");
-  EXPECT_EQ(SecondAtLimit<Team>(&World::Teams, &NewRecords::Teams,
-                                [](Team& team, int i) {
-                                  team.Worker1 = i / 100 + 1;
-                                  team.Worker2 = 102 + i % 100;
-                                }),
-            "Maximum 10,000 tag teams per file!");
+  for (int i = 2; i <= 1001; ++i) {
+    Network network = world.Networks()[1];
+    network.Uid = i;
+    network.Name = "N" + std::to_string(i);
+    Show show;
+    show.Name = "S" + std::to_string(i);
+    if (i < 1000) world.Networks().Append(network);
+    if (i < 1001) world.Shows().Append(show);
+    if (i >= 1000) coming.Networks.Records.push_back(network);
+    if (i == 1001) coming.Shows.Records.push_back(show);
+  }
+  EXPECT_EQ(Lines(PreviewMerge(world, coming)),
+            (Texts{"Network N1000", "Network N1001 out: Maximum 1,000 networks per file!",
+                   "Show S1001 out: Maximum 1,000 shows per file!"}));
 }
 
 /// What was here stands first in every file, to the byte.
@@ -352,6 +303,73 @@ TEST(Merge, WhateverIsInTheFilesTheDataStayInOrder) {
     EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
     ExpectBegins(world, before);
   }
+}
+
+// Workers of another world, taken in as free agents.
+
+/// People under contract, with all that ties them to their world.
+std::vector<Worker> Foreign() {
+  World world = SmallWorld()
+                    .Promotion("FAR", kCult, [](Promotion& p) { p.Split[0] = "Blue"; })
+                    .Worker("Mae Boss", kManager, 40)
+                    .Worker("Gil Tied",
+                            [](Worker& w) {
+                              w.Split = "Blue";
+                              w.Unsackable = true;
+                              w.ContractMonths = kNoEnd;
+                              w.ContractType = "Wri";
+                              w.CreativeControl = true;
+                              w.Debuted = true;
+                              w.TurnPending = true;
+                              w.Status = "Hom";
+                              w.StatusMonths = 2;
+                              w.Morale = 10;
+                            })
+                    .Worker("CWA Hand 2")
+                    .Worker("Dev Young", kDevelopmentDeal, 35)
+                    .Worker("Sent Away", kSentToDevelopment + kMidcard, 60)
+                    .Stable("The Far Firm", {"Gil Tied"});
+  Named(world.Workers(), "Gil Tied").Manager = Named(world.Workers(), "Mae Boss").Uid;
+  return {world.Workers().begin(), world.Workers().end()};
+}
+
+TEST(Import, LeavesContractsAndTiesBehind) {
+  World world = Here();
+  const Arrivals arrivals = ImportWorkers(world, Foreign(), {2, 4, 5});
+  EXPECT_EQ(Lines(arrivals), (Texts{"Worker Gil Tied 2>6: Its uid belongs to CWA Hand 2.",
+                                    "Worker Dev Young", "Worker Sent Away"}));
+  EXPECT_EQ(Lines(arrivals.Mended), Texts{});
+  EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
+  Worker wanted = Foreign()[1];
+  wanted.Uid = 6;
+  wanted.Employer = 0;
+  wanted.ContractType = "Non";
+  wanted.ContractMonths = 0;
+  wanted.CreativeControl = false;
+  wanted.Status = "Nor";
+  wanted.Morale = 80;
+  wanted.Stable = "None";
+  wanted.Manager = 0;
+  wanted.Split = "None";
+  wanted.Unsackable = false;
+  wanted.TurnPending = false;
+  wanted.Debuted = false;
+  EXPECT_EQ(Named(world.Workers(), "Dev Young").Position, kOpener);
+  EXPECT_EQ(Named(world.Workers(), "Sent Away").Position, kMidcard);
+  World expected = Here();
+  expected.Workers().Append(wanted);
+  world.Workers().Keep([](const Worker& w) { return !(w.Uid == 4 || w.Uid == 5); });
+  ExpectSame(world, expected);
+}
+
+TEST(Import, ANameThatIsTakenStaysOutAndTheSameCannotComeTwice) {
+  World world = Here();
+  const std::vector<Worker> foreign = Foreign();
+  EXPECT_EQ(Lines(PreviewImport(world, foreign, {3, 1, 1})),
+            (Texts{"Worker CWA Hand 2 out: The name is taken.",
+                   "Worker Mae Boss 1>6: Its uid belongs to CWA Hand 1.",
+                   "Worker Mae Boss out: The name is taken."}));
+  ExpectSame(world, Here());
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 
 #include "records/store/slot.h"
 #include "records/tables/worldtables.h"
+#include "support/scratchfolder.h"
 #include "support/smallworld.h"
 #include "tools/tool.h"
 
@@ -23,13 +24,6 @@ class ToolHome : public ::testing::Test {
     int Code = 0;
     std::string Out, Errors;
   };
-
-  ToolHome() {
-    std::string name = (std::filesystem::temp_directory_path() / "grapplemont-XXXXXX").string();
-    if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-    Home = name;
-  }
-  ~ToolHome() override { std::filesystem::remove_all(Home); }
 
   Ran Run(const std::vector<std::string>& arguments, bool terminal = false) {
     std::ostringstream out, errors;
@@ -85,8 +79,19 @@ class ToolHome : public ::testing::Test {
     ASSERT_EQ(0, ran.Code) << ran.Errors;
   }
 
-  std::string Home;
-  std::unique_ptr<Disk> Machine = RealDisk();
+  /// A saved game.
+  void MakeSlot(const std::string& slot, const World& world) {
+    Slot::Create(*Machine, In("s" + slot), FilesOf(world), 1);
+  }
+  static World WorldOf(const Slot& slot) {
+    World world;
+    world.Load(slot.Files());
+    return world;
+  }
+
+  const ScratchFolder Scratch;
+  const std::string Home = Scratch / ".";
+  const std::unique_ptr<Disk> Machine = RealDisk();
 
  private:
   std::string Homeless(std::string text) const {
