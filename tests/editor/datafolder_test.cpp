@@ -234,9 +234,10 @@ void OpenAtEveryCut(CutDisk& disk, const Files& before, const Files& after, cons
   ForSomeCuts(disk, 6, static_cast<std::uint64_t>(outer.Index), check);
 }
 
-TEST(PowerCutsInTheEditor, LeaveTheOldDataOrTheNew) {
-  const World before = SmallData();
-  CutDisk disk = DiskWith(before);
+/// A commit on a recording disk; a sync of `unsynced` is a lie.
+CutDisk RecordedCommit(const char* unsynced = nullptr) {
+  CutDisk disk = DiskWith(SmallData());
+  if (unsynced) disk.IgnoreSyncs(unsynced);
   {
     DataFolder data(disk, kData);
     disk.Record();
@@ -245,31 +246,21 @@ TEST(PowerCutsInTheEditor, LeaveTheOldDataOrTheNew) {
     data.Commit();
     disk.Shows(1);
   }
-  const Files old = BytesOf(before), fresh = Edited(before);
+  return disk;
+}
+
+TEST(PowerCutsInTheEditor, LeaveTheOldDataOrTheNewAndNoticeAStepThatIsNotOnDisk) {
+  const Files old = BytesOf(SmallData()), fresh = Edited(SmallData());
+  CutDisk disk = RecordedCommit();
   const auto check = [&](CutDisk& after, const Cut& cut) {
     OpenAtEveryCut(after, old, fresh, cut);
   };
   EXPECT_GT(ForEveryCut(disk, 8, 5, check), 200);
   EXPECT_GT(ForEveryDeath(disk, check), 30);
-}
-
-/// The same cuts must notice a disk that lies about a sync that counts.
-TEST(PowerCutsInTheEditor, NoticeAStepThatIsNotOnDisk) {
   for (const char* unsynced : {"data.step", "wrestler.dat.tmp"}) {
-    const World before = SmallData();
-    CutDisk disk = DiskWith(before);
-    disk.IgnoreSyncs(unsynced);
-    {
-      DataFolder data(disk, kData);
-      disk.Record();
-      disk.Begins(1);
-      Edit(data.World());
-      data.Commit();
-      disk.Shows(1);
-    }
-    const Files old = BytesOf(before), fresh = Edited(before);
+    CutDisk liar = RecordedCommit(unsynced);
     int bad = 0;
-    ForEveryCut(disk, 8, 5, [&](CutDisk& after, const Cut& cut) {
+    ForEveryCut(liar, 8, 5, [&](CutDisk& after, const Cut& cut) {
       const Files found = Found(after);
       bad += !((cut.Least == 0 && found == old) || (cut.Most == 1 && found == fresh));
     });

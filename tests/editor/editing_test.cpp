@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <functional>
+#include <regex>
 #include <set>
+#include <sstream>
 
 #include "editor/keeping.h"
 #include "editor/screens/screenpages.h"
@@ -15,11 +17,12 @@
 namespace grapplemont::test {
 namespace {
 
-using Steps = std::vector<std::pair<std::string, std::string>>;
-
-/// Types into boxes, picks rows, turns marks on ("on") and off.
-void Fill(ScriptDesk& desk, const Steps& steps) {
-  for (const auto& [control, value] : steps) {
+/// "txtname=Bram; cmbsex=male; chkdiva=on": types into boxes, picks rows, turns marks on and off.
+void Fill(ScriptDesk& desk, const std::string& steps) {
+  std::istringstream all(steps);
+  for (std::string step; std::getline(all >> std::ws, step, ';');) {
+    const std::string control = step.substr(0, step.find('=')),
+                      value = step.substr(step.find('=') + 1);
     if (control.starts_with("txt"))
       desk.Type(control, value);
     else if (control.starts_with("cmb"))
@@ -30,30 +33,21 @@ void Fill(ScriptDesk& desk, const Steps& steps) {
 }
 
 struct NewRecordCase {
-  std::string Button;
-  Steps Typed;
+  std::string Button, Typed;
   std::string Shown;  // the first cell of its row
 };
 const NewRecordCase kNewRecords[] = {
-    {"cmdwres", {{"txtname", "Bram Okafor"}, {"txtshortname", "Bram"}}, "Bram Okafor"},
-    {"cmdpromo", {{"txtname", "Far Out"}, {"txtinitials", "FAR"}}, "FAR"},
-    {"cmdowners",
-     {{"txtname", "Deep Pockets"}, {"cmbstyle", "6, youth (risk 20)"}},
-     "Deep Pockets"},
-    {"cmdstaff", {{"txtname", "Doc Tor"}, {"cmbposition", "Medical"}}, "Doc Tor"},
-    {"cmdteams",
-     {{"txtname", "Odd Pair"}, {"cmbworker1", "Cal Drift"}, {"cmbworker2", "CWA Hand 6"}},
-     "Odd Pair"},
-    {"cmdstables", {{"txtname", "The Club"}, {"cmbowner", "NEW"}}, "The Club"},
-    {"cmdbelts", {{"txtname", "NEW Cup"}, {"cmbowner", "NEW"}}, "NEW Cup"},
-    {"cmdtv",
-     {{"txtname", "New Dawn"}, {"cmbowner", "NEW"}, {"cmbnetwork", "Local"}, {"cmbday", "Friday"}},
-     "New Dawn"},
-    {"cmdevents",
-     {{"txtname", "Big Bang"}, {"cmbowner", "CWA"}, {"cmbmonth", "April"}},
-     "Big Bang"},
-    {"cmdnetworks", {{"txtname", "Ten"}, {"txtprime", "750"}}, "Ten"},
-    {"cmdsponsors", {{"txtname", "Fizz"}, {"cmbpromotion", "NEW"}}, "Fizz"}};
+    {"cmdwres", "txtname=Bram Okafor; txtshortname=Bram", "Bram Okafor"},
+    {"cmdpromo", "txtname=Far Out; txtinitials=FAR", "FAR"},
+    {"cmdowners", "txtname=Deep Pockets; cmbstyle=6, youth (risk 20)", "Deep Pockets"},
+    {"cmdstaff", "txtname=Doc Tor; cmbposition=Medical", "Doc Tor"},
+    {"cmdteams", "txtname=Odd Pair; cmbworker1=Cal Drift; cmbworker2=CWA Hand 6", "Odd Pair"},
+    {"cmdstables", "txtname=The Club; cmbowner=NEW", "The Club"},
+    {"cmdbelts", "txtname=NEW Cup; cmbowner=NEW", "NEW Cup"},
+    {"cmdtv", "txtname=New Dawn; cmbowner=NEW; cmbnetwork=Local; cmbday=Friday", "New Dawn"},
+    {"cmdevents", "txtname=Big Bang; cmbowner=CWA; cmbmonth=April", "Big Bang"},
+    {"cmdnetworks", "txtname=Ten; txtprime=750", "Ten"},
+    {"cmdsponsors", "txtname=Fizz; cmbpromotion=NEW", "Fizz"}};
 
 void Add(ScriptDesk& desk, const NewRecordCase& made) {
   desk.Click(made.Button);
@@ -98,19 +92,10 @@ TEST(AnAuthor, ChangesEveryKindOfField) {
   EditorHome home;
   World expected = home.OnDisk();
   home.Page("cmdwres", "Cal Drift");
-  Fill(home.Desk, {{"txtname", " Cass Drift "},
-                   {"cmbgender", "female"},
-                   {"chkdiva", "on"},
-                   {"cmbbirthmonth", "May"},
-                   {"chkspeaks", "off"},
-                   {"cmbfinisher1", "Submission"},
-                   {"txtbrawl", "0"},
-                   {"cmbemployer", "CWA"},
-                   {"txtmonths", "24"},
-                   {"txtwage", "1,250"},
-                   {"cmbstable", "The Firm"},
-                   {"cmbmanager", "Max Agent"},
-                   {"txtlastturn", "2025-12-24"}});
+  Fill(home.Desk,
+       "txtname= Cass Drift ; cmbgender=female; chkdiva=on; cmbbirthmonth=May; chkspeaks=off; "
+       "cmbfinisher1=Submission; txtbrawl=0; cmbemployer=CWA; txtmonths=24; txtwage=1,250; "
+       "cmbstable=The Firm; cmbmanager=Max Agent; txtlastturn=2025-12-24");
   home.Desk.Click("cmdsave");
   Worker& cass = Named(expected.Workers(), "Cal Drift");
   cass.Name = "Cass Drift";
@@ -131,51 +116,38 @@ TEST(AnAuthor, ChangesEveryKindOfField) {
 
 /// What is done to a record, and what the data hold then.
 struct ChangeCase {
-  std::string Button, Record;
-  Steps Changes;
+  std::string Button, Record, Changes;
   std::function<void(World&)> Then;
 };
 const std::vector<ChangeCase> kChanges = {
-    {"cmdpromo",
-     "CWA",
-     {{"txtcamp", "The Yard"}, {"cmbtrain", "Superb"}, {"cmbheadtrainer", "Tray Nor"}},
+    {"cmdpromo", "CWA", "txtcamp=The Yard; cmbtrain=Superb; cmbheadtrainer=Tray Nor",
      [](World& world) {
        Promotion& cwa = world.Promotions()[1];
        cwa.CampName = "The Yard";
        cwa.CampFacilities = 4;
        cwa.HeadTrainer = Named(world.AllStaff(), "Tray Nor").Uid;
      }},
-    {"cmdowners",
-     "Ruth Vane",
-     {{"cmbstyle", "5, women and stars (risk 85)"}},
+    {"cmdowners", "Ruth Vane", "cmbstyle=5, women and stars (risk 85)",
      [](World& world) { Named(world.AllStaff(), "Ruth Vane").Wage = 5; }},
-    {"cmdstables",
-     "The Firm",
-     {{"txtname", "The Board"}},
+    {"cmdstables", "The Firm", "txtname=The Board",
      [](World& world) {
        world.Stables()[1].Name = "The Board";
        Named(world.Workers(), "CWA Hand 3").Stable = "The Board";
        Named(world.Workers(), "CWA Hand 4").Stable = "The Board";
      }},
-    {"cmdtv",
-     "Sunday Slam",
-     {{"cmbannouncer", "Ann Nounce"}, {"cmbslot", "Late Night"}},
+    {"cmdtv", "Sunday Slam", "cmbannouncer=Ann Nounce; cmbslot=Late Night",
      [](World& world) {
        world.Shows()[1].Announcer = Named(world.AllStaff(), "Ann Nounce").Uid;
        world.Shows()[1].Slot = "L";
      }},
-    {"cmdsponsors",
-     "Gulp",
-     {{"cmbpromotion", "NEW"}},
+    {"cmdsponsors", "Gulp", "cmbpromotion=NEW",
      [](World& world) {
        Promotion &cwa = world.Promotions()[1], &rival = world.Promotions()[2];
        cwa.Sponsor[0] = 0;
        rival.Sponsor[0] = world.Sponsors()[1].Uid;
        world.Sponsors()[1].Promotion = rival.Uid;
      }},
-    {"cmdpromo",
-     "CWA",
-     {{"cmbsponsor1", "None"}, {"txtsplit1", "Red"}},
+    {"cmdpromo", "CWA", "cmbsponsor1=None; txtsplit1=Red",
      [](World& world) {
        world.Promotions()[1].Sponsor[0] = 0;
        world.Promotions()[1].Split[0] = "Red";
@@ -186,7 +158,7 @@ const std::vector<ChangeCase> kChanges = {
 
 TEST(AnAuthor, SeesWhatHangsOnARecordFollow) {
   for (const ChangeCase& change : kChanges) {
-    SCOPED_TRACE(change.Record + ", " + change.Changes.front().first);
+    SCOPED_TRACE(change.Record + ", " + change.Changes);
     EditorHome home;
     World expected = home.OnDisk();
     home.Page(change.Button, change.Record);
@@ -227,64 +199,33 @@ TEST(AMember, WhoChangesEmployerLosesStableAndManagerInTheForm) {
 
 struct RefusalCase {
   std::string Button, Record;  // "" for a new one
-  Steps Typed;
-  std::string Says;
+  std::string Typed, Says;
 };
 const RefusalCase kRefusals[] = {
-    {"cmdwres", "", {}, "It needs a name."},
-    {"cmdwres", "Cal Drift", {{"txtname", "CWA Hand 1"}}, "This name already exists!"},
-    {"cmdwres", "Cal Drift", {{"txtname", "None"}}, "Nobody can be called \"None\"."},
-    {"cmdwres", "Cal Drift", {{"txtbrawl", "101"}}, "Brawling: 0 to 100 percent."},
-    {"cmdwres",
-     "Cal Drift",
-     {{"txtage", "old"}, {"txtwage", "-1"}},
+    {"cmdwres", "", "", "It needs a name."},
+    {"cmdwres", "Cal Drift", "txtname=CWA Hand 1", "This name already exists!"},
+    {"cmdwres", "Cal Drift", "txtname=None", "Nobody can be called \"None\"."},
+    {"cmdwres", "Cal Drift", "txtbrawl=101", "Brawling: 0 to 100 percent."},
+    {"cmdwres", "Cal Drift", "txtage=old; txtwage=-1",
      "Age: needs a number, 0 to 250 years.\nWage ($1000 a month): 0 to 10000 thousand dollars a "
      "month."},
-    {"cmdwres",
-     "Cal Drift",
-     {{"txtlastturn", "yesterday"}},
+    {"cmdwres", "Cal Drift", "txtlastturn=yesterday",
      "Last turn: needs a day as yyyy-mm-dd, or nothing."},
-    {"cmdpromo", "NEW", {{"txtinitials", "CWA"}}, "These initials already exist!"},
-    {"cmdpromo", "NEW", {{"txtname", "To Be Deleted"}}, "Nobody can be called \"To Be Deleted\"."},
-    {"cmdteams", "", {{"txtname", "One"}, {"cmbworker1", "Cal Drift"}}, "It lacks a partner."},
-    {"cmdtv",
-     "",
-     {{"txtname", "Copycat"},
-      {"cmbnetwork", "Nine"},
-      {"cmbday", "Sunday"},
-      {"cmbslot", "Prime Time"}},
+    {"cmdpromo", "NEW", "txtinitials=CWA", "These initials already exist!"},
+    {"cmdpromo", "NEW", "txtname=To Be Deleted", "Nobody can be called \"To Be Deleted\"."},
+    {"cmdteams", "", "txtname=One; cmbworker1=Cal Drift", "It lacks a partner."},
+    {"cmdtv", "", "txtname=Copycat; cmbnetwork=Nine; cmbday=Sunday; cmbslot=Prime Time",
      "Slot is taken on that day by Sunday Slam."},
-    {"cmdtv", "", {{"txtname", "Sunday Slam"}}, "This name already exists!"},
-    {"cmdevents",
-     "",
-     {{"txtname", "Again"}, {"cmbowner", "CWA"}, {"cmbmonth", "March"}},
+    {"cmdtv", "", "txtname=Sunday Slam", "This name already exists!"},
+    {"cmdevents", "", "txtname=Again; cmbowner=CWA; cmbmonth=March",
      "Month has an Event of the promotion already."},
 };
 
 /// What no page shows: the editor's own, what one pick list says, and what a game writes anew.
-constexpr std::string_view kLeftOut[] = {"Uid",
-                                         "Active",
-                                         "Finisher1TopRope",
-                                         "Finisher1Ground",
-                                         "Finisher2TopRope",
-                                         "Finisher2Ground",
-                                         "ColourIsWorker",
-                                         "Momentum",
-                                         "Rank",
-                                         "Money",
-                                         "TicketIncome",
-                                         "MerchIncome",
-                                         "PpvIncome",
-                                         "SponsorIncome",
-                                         "WrestlerWages",
-                                         "StaffWages",
-                                         "ProductionCost",
-                                         "AdvertisingCost",
-                                         "MerchCost",
-                                         "Last",
-                                         "Won",
-                                         "Lost",
-                                         "Holder"};
+const std::regex kLeftOut(
+    "^(Uid|Active|Finisher.(TopRope|Ground)|ColourIsWorker|Momentum|Rank|Money|TicketIncome|"
+    "MerchIncome|PpvIncome|SponsorIncome|WrestlerWages|StaffWages|ProductionCost|AdvertisingCost|"
+    "MerchCost|Last|Won|Lost|Holder)");
 
 TEST(ThePages, ShowEveryFieldThatAnAuthorCanMean) {
   std::set<std::pair<RecordKind, std::string_view>> shown;

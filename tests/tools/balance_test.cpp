@@ -4,29 +4,16 @@
 #include "records/checks/checkworld.h"
 #include "records/fields/fields.h"
 #include "session/newgame.h"
-#include "support/checkout.h"
 #include "support/defaultworld.h"
 #include "support/gameonworld.h"
 #include "support/randomworld.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
-#include "toolhome.h"
 #include "tools/balance.h"
 #include "tools/officework.h"
 
 namespace grapplemont::test {
 namespace {
-
-using ToolBalance = ToolHome;
-
-TEST_F(ToolBalance, PageIsWhatTheCommandPrintsOfTheBuiltWorld) {
-  ASSERT_EQ(0, Run({"build", Checkout("/world"), In("data")}).Code);
-  const Ran ran = Run({"balance", In("data")});
-  EXPECT_EQ(0, ran.Code);
-  std::ifstream file(Checkout("/docs/balance.md"), std::ios::binary);
-  const std::string page{std::istreambuf_iterator<char>(file), {}};
-  EXPECT_TRUE(page == ran.Out) << "Run: grapplemont-world balance data >docs/balance.md";
-}
 
 TEST(Balance, LetsNobodyStartInRuinNorGetRichWithoutWork) {
   for (const auto& balance : tools::BalanceOf(DefaultWorld())) {
