@@ -67,18 +67,8 @@ void NewGameInfo(World& world, const NewGameChoice& choice) {
 }
 
 void EmptyFiles(World& world, const NewGameChoice& choice) {
-  world.News().Remove();
-  world.Segments().Remove();
-  world.ShowRuns().Remove();
-  world.History().Remove();
-  world.Bouts().Remove();
-  world.Tallies().Remove();
-  world.Reigns().Remove();
-  world.Reports().Remove();
-  world.Awards().Remove();
-  world.YearEnds().Remove();
-  world.Deeds().Remove();
-  world.Incidents().Remove();
+  for (Table* table : world.Tables())
+    if (std::ranges::find(kDataSet, table->File()) == kDataSet.end()) table->Remove();
   world.Feuds().Rewrite(std::vector<Feud>(kFeuds));
   NewGameInfo(world, choice);
   world.Notes().Set("Notepad");

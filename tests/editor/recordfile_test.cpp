@@ -88,27 +88,19 @@ TEST(TablesFolder, RefusesWhatIsNoWorldForTheData) {
 
 TEST(TablesFolder, GoesWhereNothingElseLies) {
   CutDisk disk;
-  EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot, "There is no folder home to put it in.");
+  const auto whyNot = [&](const char* folder) { return LookForExport(disk, folder).WhyNot; };
+  EXPECT_EQ(whyNot("home/tables"), "There is no folder home to put it in.");
   disk.MakeFolder("home");
-  EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot, "");
-  disk.MakeFolder("home/tables");
-  EXPECT_EQ(LookForExport(disk, "home/tables").Present, Texts{});
+  EXPECT_EQ(whyNot("home/tables"), "");
   ExportTables(disk, "home/tables", Complete(SmallWorld().Promotion("CWA")));
-  EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot, "");
   EXPECT_EQ(LookForExport(disk, "home/tables").Present.size(), 10u);
   // Without a game's tables beside them, notes are somebody's own.
   WriteFile(disk, "home/tables/notes.txt", {});
-  EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot,
+  EXPECT_EQ(whyNot("home/tables"),
             "home/tables holds other things, such as notes.txt. Name a new folder.");
   WriteFile(disk, "home/tables/game.csv", {});
-  EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot, "");
-  ExportTables(disk, "home/tables", Complete(SmallWorld().Promotion("CWA")));
-  EXPECT_EQ(LookForExport(disk, "home/tables").Present.size(), 10u);
-  WriteFile(disk, "home/tables/diary.txt", {});
-  EXPECT_EQ(LookForExport(disk, "home/tables").WhyNot,
-            "home/tables holds other things, such as diary.txt. Name a new folder.");
-  EXPECT_EQ(LookForExport(disk, "home/tables/diary.txt").WhyNot,
-            "home/tables/diary.txt is no folder.");
+  EXPECT_EQ(whyNot("home/tables"), "");
+  EXPECT_EQ(whyNot("home/tables/game.csv"), "home/tables/game.csv is no folder.");
 }
 
 TEST(TablesFolder, AFolderThatCannotBeFilledIsGoneAgain) {

@@ -147,7 +147,7 @@ TEST_F(ToolUsage, RefusesWhatMakesNoSense) {
       {"build a b c", " build: \"c\" is one word too many"},
       {"check --fast a", " check: there is no option \"--fast\""},
       {"new --slot 1 --player Pat", " new: --promotion is missing"},
-      {begin + "\t", " new: --player needs a name"},
+      {begin + " ", " new: --player needs a name"},
       {begin + std::string(26, 'x'), " new: --player has room for 25 letters"},
       {begin + "\xC5\x81", " new: --player has a letter that the game cannot hold"},
       {"new --slot 9 --promotion CWA --player Pat",

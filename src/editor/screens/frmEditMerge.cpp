@@ -156,12 +156,6 @@ class frmEditMerge : public GameScreen {
   ui::Button cmdmerge{*this, "cmdmerge", "Merge", &frmEditMerge::cmdmerge_Click};
 };
 
-}  // namespace
-
-SCREEN(frmEditMerge)
-
-namespace {
-
 enum Meets { kNobody = 0, kSameName, kSameUid };
 
 /// Which of the other world's workers are listed.
@@ -342,6 +336,7 @@ class frmEditImport : public GameScreen {
 
 }  // namespace
 
+SCREEN(frmEditMerge)
 SCREEN(frmEditImport)
 
 }  // namespace grapplemont

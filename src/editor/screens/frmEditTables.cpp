@@ -132,12 +132,6 @@ class frmEditTables : public GameScreen {
   ui::Button cmdimport{*this, "cmdimport", "Import", &frmEditTables::cmdimport_Click};
 };
 
-}  // namespace
-
-SCREEN(frmEditTables)
-
-namespace {
-
 std::vector<Fault> UnreadableFaults(const DataFolder& data) {
   std::vector<Fault> faults;
   for (const UnreadableFile& file : data.Unreadable())
@@ -209,6 +203,7 @@ class frmEditMaintain : public GameScreen {
 
 }  // namespace
 
+SCREEN(frmEditTables)
 SCREEN(frmEditMaintain)
 
 }  // namespace grapplemont

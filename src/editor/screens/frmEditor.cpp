@@ -40,9 +40,7 @@ class frmEditor : public GameScreen {
     for (const FileWork& work : kFileWork) {
       works_.push_back(std::make_unique<ui::Button>(*this, work.Button, work.Caption,
                                                     [this, &work] { desk().Open(work.Screen); }));
-      const bool known = desk().Knows(work.Screen);
-      works_.back()->Enabled = known;
-      works_.back()->Tip = known ? work.Tip : "Comes with a later version.";
+      works_.back()->Tip = work.Tip;
     }
     lstfaults.EmptyText = "The data are in order.";
   }

@@ -17,15 +17,12 @@ void RegisterRecordPages(Game& game);
 // How each kind of record is laid out on its screen. What a field holds, its range and its help
 // stand in the field lists of the records; here only where it stands and what it is called.
 
-/// What is more than one field of the record.
-enum class EntryAs { Field, Finisher1Type, Finisher2Type, Commentator };
-
 struct FormEntry {
   std::string_view Field;  // "Brawl", "Split3"
-  std::string_view Label;
-  std::string_view Control;  // "txtbrawl"
-  Vocabulary Words = {};     // in place of the field's own
-  EntryAs As = EntryAs::Field;
+  std::string_view Label = Field;
+  std::string_view Control = {};  // "txtbrawl", which is the name without one
+  Vocabulary Words = {};          // in place of the field's own
+  int Finisher = 0;               // 1 or 2: how it is done, by three flags of the record
 };
 
 struct FormGroup {
@@ -40,7 +37,7 @@ inline constexpr ui::ColumnKind kByCode = ui::ColumnKind::Date;
 
 struct PageColumn {
   std::string_view Field;
-  std::string_view Title;
+  std::string_view Title = Field;
   ui::ColumnKind Kind = ui::ColumnKind::Text;
   Vocabulary Words = {};
 };
@@ -63,9 +60,5 @@ std::span<const RecordPage> RecordPages();
 
 /// "Popularity is 140, outside 0 to 100." with the field's name as the pages have it.
 std::string FaultWords(const Fault& fault);
-
-// The pages' tables.
-extern const RecordPage kWorkerPage, kPromotionPage, kOwnerPage, kStaffPage, kTeamPage, kStablePage,
-    kTitlePage, kShowPage, kEventPage, kNetworkPage, kSponsorPage;
 
 }  // namespace grapplemont

@@ -6,17 +6,11 @@
 #include "editor/keeping.h"
 #include "editor/screens/screenfiles.h"
 #include "records/modVar.h"
+#include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
 
 namespace {
-
-std::vector<ui::Column> ColumnsFor(const RecordPage& page) {
-  std::vector<ui::Column> columns;
-  for (const PageColumn& column : page.Columns)
-    columns.push_back({std::string(column.Title), column.Kind});
-  return columns;
-}
 
 std::string Small(std::string_view text) {
   std::string small(text);
@@ -55,10 +49,14 @@ RecordScreen::RecordScreen(Game& game, const RecordPage& page)
     : Screen(game.Desk(), std::string(page.Screen), std::string(page.Title)),
       data_(EditedData(game)),
       page_(page),
-      lstrecords(*this, "lstrecords", ColumnsFor(page), &RecordScreen::lstrecords_Click),
+      lstrecords(*this, "lstrecords", {}, &RecordScreen::lstrecords_Click),
       form_(*this, page, [this] { ShowButtons(); }) {
-  for (const PageColumn& column : page.Columns)
+  std::vector<ui::Column> headings;
+  for (const PageColumn& column : page.Columns) {
+    headings.push_back({std::string(column.Title), column.Kind});
     columns_.push_back(FieldNamed(page.Kind, column.Field));
+  }
+  lstrecords.SetColumns(std::move(headings));
   txtsearch.Hint = "Search in all columns";
   txtsearch.OnChange = [this] { txtsearch_Change(); };
   lblfault.Colour = ui::Tone::Amber;
@@ -199,15 +197,10 @@ void RecordScreen::ShowButtons() {
   const auto fault = faults_.find(number_);
   lblfault.Text = fault == faults_.end() ? std::string() : fault->second.Words;
   lblfault.Visible = !lblfault.Text->empty();
-  const auto offer = [](ui::Button& button, bool on, const char* why) {
-    button.Enabled = on;
-    button.Tip = on ? "" : why;
-  };
-  offer(cmdsave, dirty || fresh_, "Nothing has been changed.");
-  offer(cmdrevert, dirty || fresh_, "Nothing has been changed.");
-  offer(cmdcopy, stands, "Choose a record first.");
-  offer(cmddelete, stands, "Choose a record first.");
-  offer(cmdnew, data_.IsReadable(LayoutOf(page_.Kind).File), "The file cannot be read.");
+  EnableUnless({cmdsave, cmdrevert}, dirty || fresh_ ? "" : "Nothing has been changed.");
+  EnableUnless({cmdcopy, cmddelete}, stands ? "" : "Choose a record first.");
+  EnableUnless(cmdnew,
+               data_.IsReadable(LayoutOf(page_.Kind).File) ? "" : "The file cannot be read.");
 }
 
 bool RecordScreen::IsDirty() const {
@@ -230,20 +223,21 @@ void RecordScreen::lstrecords_Click() {
   lstrecords.SelectKey(number_);
 }
 
-void RecordScreen::cmdnew_Click() {
+bool RecordScreen::MayBegin() {
   const std::string why = WhyNoMore(data_.World(), page_.Kind);
-  if (!why.empty()) return desk().Say("Error!", why);
-  if (!MayLeave()) return;
+  if (!why.empty()) desk().Say("Error!", why);
+  return why.empty() && MayLeave();
+}
+
+void RecordScreen::cmdnew_Click() {
+  if (!MayBegin()) return;
   Bytes record = NewRecord(page_.Kind);
   if (page_.Begin) page_.Begin(record.data());
   ShowNew(std::move(record), false);
 }
 
 void RecordScreen::cmdcopy_Click() {
-  const std::string why = WhyNoMore(data_.World(), page_.Kind);
-  if (!why.empty()) return desk().Say("Error!", why);
-  if (!MayLeave()) return;
-  ShowNew(CopyOfRecord(data_.World(), page_.Kind, number_), true);
+  if (MayBegin()) ShowNew(CopyOfRecord(data_.World(), page_.Kind, number_), true);
 }
 
 void RecordScreen::cmddelete_Click() {
@@ -286,12 +280,6 @@ void RecordScreen::cmdback_Click() {
 
 namespace {
 
-ui::Tone ToneOf(const Field& field, std::string_view words) {
-  if (field.Name != "Disposition") return ui::Tone::Plain;
-  if (words == "Face") return ui::Tone::Blue;
-  return words == "Heel" ? ui::Tone::Red : ui::Tone::Muted;
-}
-
 int CodeIn(const Field& field, const FieldPlace& place, const std::byte* record) {
   if (field.Kind != FieldKind::Text)
     return static_cast<int>(FieldNumber(field, record, place.Index));
@@ -323,7 +311,8 @@ ui::Cell CellOf(const World& world, const PageColumn& column, const FieldPlace& 
   }
   const std::string words = WordsOf(column, place, record);
   if (column.Kind == kByCode) return {static_cast<double>(CodeIn(field, place, record)), words};
-  return {words, ToneOf(field, words)};
+  return {words,
+          field.Name == "Disposition" ? DispositionTone(As<Worker>(record)) : ui::Tone::Plain};
 }
 
 }  // namespace grapplemont

@@ -36,6 +36,7 @@ class RecordScreen : public ui::Screen {
   void ShowButtons();
   bool IsDirty() const;
   bool MayLeave();
+  bool MayBegin();
   std::string Called() const;
 
   void lstrecords_Click();

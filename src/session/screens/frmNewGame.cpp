@@ -5,6 +5,7 @@
 #include "records/modWresCheck.h"
 #include "session/newgame.h"
 #include "session/screens/frmLoadGame.h"
+#include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
 #include "storylines/titles.h"
 #include "ui/game.h"
@@ -123,16 +124,20 @@ class frmNewGame : public GameScreen {
       lstroster.Add({worker->Name + RoleSuffix(*worker),
                      PositionText(IsSentAway(*worker) ? worker->Position - kSentToDevelopment
                                                       : int(worker->Position)),
-                     ui::Cell(DispositionText(worker->Disposition), ToneOf(*worker)),
-                     ui::Cell(worker->Over)});
+                     DispositionCell(*worker), ui::Cell(worker->Over)});
   }
 
-  static ui::Tone ToneOf(const Worker& worker) {
-    if (worker.Disposition == "F") return ui::Tone::Blue;
-    return worker.Disposition == "H" ? ui::Tone::Red : ui::Tone::Muted;
+  void cmdbegin_Click() {
+    const std::string name(detail::Trimmed(txtname.Text.Get()));
+    if (name.empty()) return desk().Say("Error!", "Please enter your name first.");
+    if (desk().Objects(WhyNotPlain(name))) return;
+    NewGameChoice choice;
+    choice.PlayerName = name;
+    choice.PromotionUid = cmbPromo.Key();
+    choice.Difficulty = cmbdifficulty.Key();
+    choice.Start = NextFirst(game_.PresentDay());
+    desk().Open(MakefrmPickSaveSlot(game_, choice));
   }
-
-  void cmdbegin_Click();
 
   using K = ui::ColumnKind;
   World world_;
@@ -152,18 +157,6 @@ class frmNewGame : public GameScreen {
       *this, "lstroster", {{"Name"}, {"Position"}, {"Disp.", K::Tag}, {"Over", K::Number}}};
   ui::Button cmdbegin{*this, "cmdbegin", "Begin", &frmNewGame::cmdbegin_Click};
 };
-
-void frmNewGame::cmdbegin_Click() {
-  const std::string name(detail::Trimmed(txtname.Text.Get()));
-  if (name.empty()) return desk().Say("Error!", "Please enter your name first.");
-  if (desk().Objects(WhyNotPlain(name))) return;
-  NewGameChoice choice;
-  choice.PlayerName = name;
-  choice.PromotionUid = cmbPromo.Key();
-  choice.Difficulty = cmbdifficulty.Key();
-  choice.Start = NextFirst(game_.PresentDay());
-  desk().Open(MakefrmPickSaveSlot(game_, choice));
-}
 
 }  // namespace
 
