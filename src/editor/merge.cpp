@@ -166,19 +166,13 @@ class Merger {
     });
   }
 
+  /// nullptr for what is not among the new files: the mending sees to it.
   const UidMap* LeadsOf(Refers to) const {
-    switch (to) {
-      case Refers::Worker:
-        return &workers_.Leads();
-      case Refers::Promotion:
-        return &promotions_.Leads();
-      case Refers::Staff:
-        return &staff_.Leads();
-      case Refers::Network:
-        return &networks_.Leads();
-      default:
-        return nullptr;  // not among the new files: the mending sees to it
-    }
+    return to == Refers::Worker      ? &workers_.Leads()
+           : to == Refers::Promotion ? &promotions_.Leads()
+           : to == Refers::Staff     ? &staff_.Leads()
+           : to == Refers::Network   ? &networks_.Leads()
+                                     : nullptr;
   }
 
   /// Where the fields of a record lead once everybody has his uid.

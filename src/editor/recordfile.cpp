@@ -17,19 +17,12 @@ constexpr std::pair<std::string_view, std::string_view> kPlurals[] = {
     {"Show", "shows"},       {"Network", "networks"},     {"Sponsor", "sponsors"},
     {"Event", "events"}};
 
-Bytes ReadUpTo(Disk& disk, const std::string& path, std::int64_t most, std::int64_t& size) {
-  const OpenedFile file(disk, path, false);
-  size = disk.Size(file);
-  Bytes bytes(size > most ? 0 : static_cast<std::size_t>(size));
-  if (!bytes.empty()) disk.ReadAt(file, 0, bytes);
-  return bytes;
-}
-
 void ReadWhole(FileBytes& file, Disk& disk, const std::string& path, const std::string& name,
                const RecordLayout& layout) {
-  const std::int64_t record = layout.Size;
-  std::int64_t size = 0;
-  file.Whole = ReadUpTo(disk, path, record * (layout.Limit + 1) - 1, size);
+  const OpenedFile opened(disk, path, false);
+  const std::int64_t record = layout.Size, size = disk.Size(opened);
+  if (size / record <= layout.Limit) file.Whole.resize(static_cast<std::size_t>(size));
+  if (!file.Whole.empty()) disk.ReadAt(opened, 0, file.Whole);
   const auto surplus = static_cast<std::size_t>(size % record);
   if (size / record > layout.Limit) {
     file.Remark = name + " has room for " + Counted(size / record, "record") +

@@ -128,16 +128,12 @@ long long SponsorsMonth(const World& world, const Promotion& promotion, const Ha
          1000 / pay.Of / kMonths;
 }
 
-void AddWages(const World& world, const Promotion& promotion, MonthMoney& money) {
-  const WageBill bill = WagesOf(world, promotion.Uid);
-  money.WorkerWages = bill.Workers;
-  money.StaffWages = bill.Staff;
-}
-
 MonthMoney MonthOf(const World& world, const Promotion& promotion, const Hands& hands) {
   MonthMoney money;
   AddTickets(world, promotion, hands, money);
-  AddWages(world, promotion, money);
+  const WageBill bill = WagesOf(world, promotion.Uid);
+  money.WorkerWages = bill.Workers;
+  money.StaffWages = bill.Staff;
   Promotion spending = promotion;
   spending.Merchandising = hands.Merchandising;
   money.Merchandise = MerchandiseSales(spending, kEvenEconomy);

@@ -127,30 +127,6 @@ void RequireGame(Game& game, int slot) {
     throw WorldFault("Slot " + std::to_string(slot) + ": " + summary.Caption + ".");
 }
 
-/// Tells of the days on a terminal, and of each month in the file of summaries.
-class Watcher {
- public:
-  Watcher(Game& game, const Shell& shell, int days) : game_(game), shell_(shell), days_(days) {}
-  void WriteTo(const std::string& path) { stats_.emplace(game_.Disk(), path); }
-
-  void DayPassed(int day) {
-    const World& world = game_.World();
-    if (stats_ && IsFirstOfMonth(world.Today())) stats_->Add(MonthSummary(world));
-    if (shell_.Terminal)
-      shell_.Errors << "\r" << IsoDate(world.Today()) << ", day " << day << " of " << days_
-                    << std::flush;
-  }
-  void Done() {
-    if (shell_.Terminal) shell_.Errors << "\r\x1B[K" << std::flush;
-  }
-
- private:
-  Game& game_;
-  const Shell& shell_;
-  int days_;
-  std::optional<StatsFile> stats_;
-};
-
 void TellEnd(const World& world, const CareerEnd& end, std::ostream& out) {
   std::vector<std::string> reasons;
   for (const int reason : end.Reasons) reasons.push_back(std::to_string(reason));
@@ -174,18 +150,27 @@ int Run(const Arguments& arguments, Shell& shell) {
   Game game(desk, *disk, GameOptions(arguments, *disk, shell));
   RequireGame(game, slot);
   for (const std::string& remark : game.OpenSlot(slot)) shell.Errors << ToUtf8(remark) << "\n";
-  Watcher watcher(game, shell, days);
-  if (const auto stats = arguments.Text("--stats")) watcher.WriteTo(*stats);
+  std::optional<StatsFile> stats;
+  if (const auto path = arguments.Text("--stats")) stats.emplace(*disk, *path);
+  const World& world = game.World();
+  const auto dayPassed = [&](int day) {
+    if (stats && IsFirstOfMonth(world.Today())) stats->Add(MonthSummary(world));
+    if (shell.Terminal)
+      shell.Errors << "\r" << IsoDate(world.Today()) << ", day " << day << " of " << days
+                   << std::flush;
+  };
+  const auto clearLine = [&] {
+    if (shell.Terminal) shell.Errors << "\r\x1B[K" << std::flush;
+  };
   CareerEnd end;
   try {
-    end = PlayDays(
-        game, days, shows, [&](int day) { watcher.DayPassed(day); }, after);
+    end = PlayDays(game, days, shows, dayPassed, after);
   } catch (const FieldOverflow& fault) {
-    watcher.Done();
-    throw WorldFault(IsoDate(game.World().Today()) + ": " + game.Explain(fault));
+    clearLine();
+    throw WorldFault(IsoDate(world.Today()) + ": " + game.Explain(fault));
   }
-  watcher.Done();
-  TellEnd(game.World(), end, shell.Out);
+  clearLine();
+  TellEnd(world, end, shell.Out);
   game.CloseSlot();
   return 0;
 }

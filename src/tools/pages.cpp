@@ -96,11 +96,6 @@ std::string TableSection(const TableKind& kind) {
   return text;
 }
 
-int Columns(const Arguments&, Shell& shell) {
-  shell.Out << ColumnsPage();
-  return 0;
-}
-
 }  // namespace
 
 std::string ColumnsPage() {
@@ -110,9 +105,15 @@ std::string ColumnsPage() {
   return page;
 }
 
-const Command kColumns{
-    "columns", "", "Prints the part of docs/world-making.md that tells every column.",
-    0,         {}, Columns};
+const Command kColumns{"columns",
+                       "",
+                       "Prints the part of docs/world-making.md that tells every column.",
+                       0,
+                       {},
+                       [](const Arguments&, Shell& shell) {
+                         shell.Out << ColumnsPage();
+                         return 0;
+                       }};
 
 namespace {
 
@@ -233,11 +234,6 @@ std::string FileSection(const RecordLayout& layout) {
   return text;
 }
 
-int Formats(const Arguments&, Shell& shell) {
-  shell.Out << FormatsPage();
-  return 0;
-}
-
 }  // namespace
 
 std::string FormatsPage() {
@@ -246,6 +242,10 @@ std::string FormatsPage() {
   return page;
 }
 
-const Command kFormats{"formats", "", "Prints docs/file-formats.md.", 0, {}, Formats};
+const Command kFormats{
+    "formats", "", "Prints docs/file-formats.md.", 0, {}, [](const Arguments&, Shell& shell) {
+      shell.Out << FormatsPage();
+      return 0;
+    }};
 
 }  // namespace grapplemont::tools

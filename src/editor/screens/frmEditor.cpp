@@ -81,8 +81,7 @@ class frmEditor : public GameScreen {
       const RecordLayout& layout = LayoutOf(page.Kind);
       int count = 0;
       for (int number = 1; number <= CountOf(data_.World(), page.Kind); ++number)
-        count +=
-            !page.Shows || page.Shows(RecordAt(std::as_const(data_).World(), page.Kind, number));
+        count += page.Has(RecordAt(std::as_const(data_).World(), page.Kind, number));
       counts_[i]->Text = data_.IsReadable(layout.File)
                              ? std::to_string(count) + " of " + std::to_string(layout.Limit)
                              : "cannot be read";

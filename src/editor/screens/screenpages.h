@@ -53,6 +53,8 @@ struct RecordPage {
   /// Which of the file's records it shows; all without. What begins here gets `Begin`.
   bool (*Shows)(const std::byte* record) = nullptr;
   void (*Begin)(std::byte* record) = nullptr;
+
+  bool Has(const std::byte* record) const { return !Shows || Shows(record); }
 };
 
 /// In the order of the hub.

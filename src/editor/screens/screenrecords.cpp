@@ -39,10 +39,6 @@ std::string WhyNot(const Keeping& keeping, std::string_view file) {
   return why;
 }
 
-bool IsShown(const RecordPage& page, const std::byte* record) {
-  return !page.Shows || page.Shows(record);
-}
-
 }  // namespace
 
 RecordScreen::RecordScreen(Game& game, const RecordPage& page)
@@ -98,7 +94,7 @@ void RecordScreen::LookOver() {
   const std::string_view file = LayoutOf(page_.Kind).File;
   CheckWorld(data_.World(), [&](Fault&& fault) {
     if (fault.File != file || fault.Record == 0) return;
-    if (!IsShown(page_, RecordAt(std::as_const(data_).World(), page_.Kind, fault.Record))) return;
+    if (!page_.Has(RecordAt(std::as_const(data_).World(), page_.Kind, fault.Record))) return;
     constexpr int kMost = 6;
     Faults& found = faults_[fault.Record];
     if (++found.Count <= kMost)
@@ -131,7 +127,7 @@ void RecordScreen::FillTable() {
   std::vector<ui::ListBox::Row> rows;
   int all = 0;
   for (int number = 1; number <= CountOf(world, page_.Kind); ++number) {
-    if (!IsShown(page_, RecordAt(world, page_.Kind, number))) continue;
+    if (!page_.Has(RecordAt(world, page_.Kind, number))) continue;
     ++all;
     auto row = RowOf(number);
     if (Found(row)) rows.push_back(std::move(row));
@@ -150,37 +146,29 @@ void RecordScreen::FillTable() {
 }
 
 void RecordScreen::Choose(int number) {
-  if (number > 0)
-    ShowRecord(number);
-  else
-    ShowNothing();
-  lstrecords.SelectKey(number);
-}
-
-void RecordScreen::ShowRecord(int number) {
-  number_ = number;
+  Bytes record;
+  if (number > 0) {
+    const std::byte* stands = RecordAt(std::as_const(data_).World(), page_.Kind, number);
+    record.assign(stands, stands + LayoutOf(page_.Kind).Size);
+  }
   fresh_ = worthKeeping_ = false;
-  const std::byte* record = RecordAt(std::as_const(data_).World(), page_.Kind, number);
-  inHand_.assign(record, record + LayoutOf(page_.Kind).Size);
-  form_.Show(data_.World(), inHand_);
-  ShowButtons();
+  TakeInHand(number, std::move(record));
 }
 
 void RecordScreen::ShowNew(Bytes record, bool worthKeeping) {
-  number_ = 0;
   fresh_ = true;
   worthKeeping_ = worthKeeping;
-  inHand_ = std::move(record);
-  form_.Show(data_.World(), inHand_);
-  lstrecords.Select(0);
-  ShowButtons();
+  TakeInHand(0, std::move(record));
 }
 
-void RecordScreen::ShowNothing() {
-  number_ = 0;
-  fresh_ = worthKeeping_ = false;
-  inHand_.clear();
-  form_.Clear();
+void RecordScreen::TakeInHand(int number, Bytes record) {
+  number_ = number;
+  inHand_ = std::move(record);
+  if (inHand_.empty())
+    form_.Clear();
+  else
+    form_.Show(data_.World(), inHand_);
+  lstrecords.SelectKey(number);
   ShowButtons();
 }
 

@@ -30,9 +30,8 @@ class RecordScreen : public ui::Screen {
   void Choose(int number);
 
   // The record in hand.
-  void ShowRecord(int number);
   void ShowNew(Bytes record, bool worthKeeping);
-  void ShowNothing();
+  void TakeInHand(int number, Bytes record);  // empty for none
   void ShowButtons();
   bool IsDirty() const;
   bool MayLeave();
