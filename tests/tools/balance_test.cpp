@@ -5,7 +5,6 @@
 #include "records/fields/fields.h"
 #include "session/newgame.h"
 #include "support/defaultworld.h"
-#include "support/gameonworld.h"
 #include "support/randomworld.h"
 #include "support/smallworld.h"
 #include "tools/balance.h"
@@ -144,25 +143,6 @@ TEST(NumbersAtTheEndsOfTheirRanges, StopNoDayOfAYear) {
       const auto faults = CheckWorld(world);
       ASSERT_TRUE(faults.empty()) << IsoDate(world.Today()) << ": " << faults[0].Line();
     }
-  }
-}
-
-TEST(Career, GoesOnElsewhereWhereAnotherJobIsWanted) {
-  for (const auto after : {tools::AfterTheEnd::Stop, tools::AfterTheEnd::AnotherJob}) {
-    GameOnWorld play(SmallWorld()
-                         .Promotion("CWA", kRegional, [](Promotion& p) { p.Money = -3000000; })
-                         .Promotion("BIG", kGlobal)
-                         .Promotion("XWF", kSmall)
-                         .Game("CWA", std::chrono::year{2026} / 3 / 31));
-    const auto end = tools::PlayDays(
-        play.Play, 40, tools::Shows::Cancel, [](int) {}, after);
-    EXPECT_EQ(end.Reasons, std::vector{2});
-    const bool goesOn = after == tools::AfterTheEnd::AnotherJob;
-    EXPECT_EQ(end.EndCode, goesOn ? 0 : 2);
-    EXPECT_EQ(end.Days, goesOn ? 40 : 1);
-    EXPECT_EQ(play.World().Player().Initials.Str(), goesOn ? "XWF" : "CWA");
-    EXPECT_EQ(play.World().Game().Jobs[1].Promotion.Str(), goesOn ? "CWA Wrestling" : "None");
-    EXPECT_TRUE(CheckWorld(play.World()).empty());
   }
 }
 

@@ -257,5 +257,24 @@ TEST(Careers, KeepWhatTheyHaveBeenForTwoYears) {
     EXPECT_EQ(AwardsOf(world, 2027, kind).size(), 1u) << AwardName(kind);
 }
 
+TEST(Careers, GoesOnElsewhereWhereAnotherJobIsWanted) {
+  for (const auto after : {tools::AfterTheEnd::Stop, tools::AfterTheEnd::AnotherJob}) {
+    GameOnWorld play(SmallWorld()
+                         .Promotion("CWA", kRegional, [](Promotion& p) { p.Money = -3000000; })
+                         .Promotion("BIG", kGlobal)
+                         .Promotion("XWF", kSmall)
+                         .Game("CWA", year{2026} / 3 / 31));
+    const auto end = PlayDays(
+        play.Play, 40, Shows::Cancel, [](int) {}, after);
+    EXPECT_EQ(end.Reasons, std::vector{2});
+    const bool goesOn = after == tools::AfterTheEnd::AnotherJob;
+    EXPECT_EQ(end.EndCode, goesOn ? 0 : 2);
+    EXPECT_EQ(end.Days, goesOn ? 40 : 1);
+    EXPECT_EQ(play.World().Player().Initials.Str(), goesOn ? "XWF" : "CWA");
+    EXPECT_EQ(play.World().Game().Jobs[1].Promotion.Str(), goesOn ? "CWA Wrestling" : "None");
+    ExpectSound(play.World());
+  }
+}
+
 }  // namespace
 }  // namespace grapplemont::test

@@ -79,21 +79,6 @@ TEST(DefaultWorld, IsAsBigAsItShouldBe) {
   }
 }
 
-TEST(DefaultWorld, HasAllKindsOfWorkers) {
-  const auto count = [](auto wanted) { return CountIf(DefaultWorld().Workers(), wanted); };
-  using W = const Worker&;
-  EXPECT_GE(count([](W w) { return w.Over >= 85; }), 15) << "stars";
-  EXPECT_GE(count([](W w) { return w.Age <= 25 && w.Over >= 60; }), 12) << "rising youngsters";
-  EXPECT_GE(count([](W w) { return w.Age >= 44 && w.Over >= 45 && Wrestles(w); }), 10);
-  EXPECT_GE(count([](W w) { return w.Position == kManager; }), 25);
-  EXPECT_GE(count([](W w) { return w.Position == kNonWrestler; }), 15);
-  EXPECT_GE(count([](W w) { return w.Position == kTrainingCamp; }), 15);
-  EXPECT_GE(count([](W w) { return w.Position == kDevelopmentDeal; }), 10);
-  EXPECT_GE(count([](W w) { return !w.Gender; }), 120);
-  EXPECT_GE(count([](W w) { return w.Weight == "L"; }), 120);
-  EXPECT_GE(count([](W w) { return w.Trainer; }), 10);
-}
-
 TEST(DefaultWorld, LeavesTheNamesOfLaterPromotionsFree) {
   for (const Promotion& promotion : DefaultWorld().Promotions())
     for (const NewPromotionName& later : kNewPromotionNames) {
@@ -114,12 +99,12 @@ TEST(DefaultWorld, CanFillAShowWithAnyRoster) {
   for (const Promotion& promotion : DefaultWorld().Promotions()) {
     const auto ready =
         WorkersOf(promotion, [](const Worker& w) { return Wrestles(w) && w.Status == "Nor"; });
-    const auto counts = [&](auto wanted) { return CountIf(ready, wanted); };
-    EXPECT_GE(ready.size(), 8u) << promotion.Initials.Str();
-    EXPECT_GE(counts([](auto* w) { return w->Disposition == "F"; }), 3) << promotion.Initials.Str();
-    EXPECT_GE(counts([](auto* w) { return w->Disposition == "H"; }), 3) << promotion.Initials.Str();
-    EXPECT_NE(counts([](auto* w) { return !w->Gender; }), 1)
-        << promotion.Initials.Str() << " has one woman and nobody for her to wrestle";
+    const std::string& who = promotion.Initials.Str();
+    EXPECT_GE(ready.size(), 8u) << who;
+    for (const char* side : {"F", "H"})
+      EXPECT_GE(CountIf(ready, [=](auto* w) { return w->Disposition == side; }), 3) << who;
+    EXPECT_NE(CountIf(ready, [](auto* w) { return !w->Gender; }), 1)
+        << who << " has one woman and nobody for her to wrestle";
     const auto speakers = WorkersOf(promotion, [](const Worker& w) {
       return w.Speaks && (Wrestles(w) || w.Position == kManager || w.Position == kNonWrestler);
     });
@@ -224,16 +209,6 @@ TEST(DefaultWorld, BroadcastsOnlyWhatNetworksWant) {
 TEST(DefaultWorld, HasSponsorsForEverybody) {
   const World& world = DefaultWorld();
   const auto count = [&](auto wanted) { return CountIf(world.Sponsors(), wanted); };
-  EXPECT_GE(count([](auto& s) { return s.Pay >= 900; }), 2);
-  EXPECT_GE(count([](auto& s) { return s.Pay <= 5; }), 5);
-  for (const auto& [low, high] : {std::pair{0, 29}, {30, 69}, {70, 100}})
-    EXPECT_GE(count([=, low = low, high = high](auto& s) {
-                return s.Morality >= low && s.Morality <= high;
-              }),
-              15)
-        << "morality from " << low;
-  for (int pay = 0; pay < 900; pay += 50)
-    EXPECT_GE(count([=](auto& s) { return s.Pay > pay && s.Pay <= pay + 50; }), 2) << pay;
   std::set<std::string> slogans, names;
   for (const Sponsor& sponsor : world.Sponsors()) {
     EXPECT_FALSE(sponsor.Slogan.View().empty()) << ToUtf8(sponsor.Name);
