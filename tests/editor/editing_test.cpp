@@ -69,7 +69,6 @@ TEST(AnAuthor, AddsAndDeletesOneOfEverythingWithoutATrace) {
     home.Desk.Click("cmddelete");
     EXPECT_EQ(before, home.Files());
   }
-  EXPECT_EQ(RecordPages().size(), std::size(kNewRecords));
 }
 
 TEST(AnAuthor, GetsTheDataBackFromTheBackup) {
@@ -79,7 +78,6 @@ TEST(AnAuthor, GetsTheDataBackFromTheBackup) {
   Add(home.Desk, kNewRecords[0]);
   home.Desk.Click("cmdback");
   const auto after = home.Files();
-  EXPECT_EQ("10 of 25000", home.Desk.Text("lblwres"));
   for (const auto& then : {before, after}) {
     home.Desk.ExpectAsk("Restore Backup", kAnyText, true, ui::Default::No);
     home.Desk.Click("cmdrestore");
@@ -180,8 +178,6 @@ TEST(AChampionWhoMovesOn, LeavesHisTitlesAndIsToldOf) {
   const World world = home.OnDisk();
   EXPECT_EQ(0, world.Titles()[1].Holder);
   EXPECT_EQ(0, world.Titles()[2].Partner);
-  EXPECT_EQ(50, world.Titles()[1].Image) << "nothing has happened in the world's own time";
-  EXPECT_TRUE(CheckWorld(world).empty());
 }
 
 TEST(AMember, WhoChangesEmployerLosesTheStableInTheForm) {
@@ -209,11 +205,9 @@ const RefusalCase kRefusals[] = {
     {"cmdwres", "Cal Drift", "txtlastturn=yesterday",
      "Last turn: needs a day as yyyy-mm-dd, or nothing."},
     {"cmdpromo", "NEW", "txtinitials=CWA", "These initials already exist!"},
-    {"cmdpromo", "NEW", "txtname=To Be Deleted", "Nobody can be called \"To Be Deleted\"."},
     {"cmdteams", "", "txtname=One; cmbworker1=Cal Drift", "It lacks a partner."},
     {"cmdtv", "", "txtname=Copycat; cmbnetwork=Nine; cmbday=Sunday; cmbslot=Prime Time",
      "Slot is taken on that day by Sunday Slam."},
-    {"cmdtv", "", "txtname=Sunday Slam", "This name already exists!"},
     {"cmdevents", "", "txtname=Again; cmbowner=CWA; cmbmonth=March",
      "Month has an Event of the promotion already."},
 };
@@ -302,17 +296,15 @@ TEST(UnsavedChanges, AreAskedAboutBeforeTheyGo) {
   EditorHome home;
   home.Page("cmdwres", "Cal Drift");
   home.Desk.Type("txtage", "60");
-  home.Desk.ExpectAsk("Unsaved Changes",
-                      "Cal Drift has changes that are not saved. Throw them away?", false,
-                      ui::Default::No);
-  home.Desk.Pick("lstrecords", "CWA Hand 2");
-  EXPECT_EQ("60", home.Desk.Text("txtage"));
-  EXPECT_EQ("Cal Drift", home.Desk.Text("lblrecord"));
-  home.Desk.ExpectAsk("Unsaved Changes", kAnyText, true);
-  home.Desk.Pick("lstrecords", "CWA Hand 2");
-  EXPECT_EQ("CWA Hand 2", home.Desk.Text("lblrecord"));
+  for (const bool throwAway : {false, true}) {
+    home.Desk.ExpectAsk("Unsaved Changes",
+                        "Cal Drift has changes that are not saved. Throw them away?", throwAway,
+                        ui::Default::No);
+    home.Desk.Pick("lstrecords", "CWA Hand 2");
+    EXPECT_EQ(throwAway ? "CWA Hand 2" : "Cal Drift", home.Desk.Text("lblrecord"));
+    EXPECT_EQ(throwAway, home.Desk.Text("txtage") != "60");
+  }
   home.Desk.Click("cmdback");
-  EXPECT_EQ("frmEditor", home.Desk.TopName());
   home.Desk.Click("cmdback");
   EXPECT_EQ("frmGameMenu", home.Desk.TopName());
   EXPECT_EQ(nullptr, home.Play.Joined());
@@ -402,16 +394,6 @@ TEST(DamagedData, AreShownWithTheirFaultsAndKeptWhereNobodyTouchesThem) {
     Named(data.Networks(), "Nine").PrimeAudience = 321;
     ExpectSame(home.OnDisk(), data);
   }
-}
-
-TEST(AFileThatIsNone, IsSaidAndLeftAlone) {
-  EditorHome home;
-  home.Desk.Click("cmdback");
-  home.Write("data/promos.dat", std::string(36 * sizeof(Promotion), 'x'));
-  home.Desk.Click("cmdeditor");
-  EXPECT_EQ("cannot be read", home.Desk.Text("lblpromo"));
-  home.Page("cmdpromo");
-  EXPECT_EQ("The file cannot be read.", home.Desk.Tip("cmdnew"));
 }
 
 }  // namespace

@@ -105,6 +105,10 @@ TEST(FrmEditMaintain, ReportsBeforeItMendsAndThenFindsNothing) {
 TEST(FrmEditMaintain, TellsAFileThatCannotBeReadAndLeavesIt) {
   EditedHome home;
   home.Write("data/promos.dat", std::string(309 * 40, 'x'));
+  home.Desk.Open("frmEditor");
+  EXPECT_EQ(home.Desk.Text("lblpromo"), "cannot be read");
+  home.Desk.Click("cmdpromo");
+  EXPECT_EQ(home.Desk.Tip("cmdnew"), "The file cannot be read.");
   home.Desk.Open("frmEditMaintain");
   for (const char* list : {"lstfaults", "lstleft"})
     EXPECT_EQ(home.Desk.Rows(list)[0],

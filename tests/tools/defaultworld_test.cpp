@@ -8,7 +8,6 @@
 #include "business/networks.h"
 #include "business/sponsors.h"
 #include "calendar/events.h"
-#include "calendar/image.h"
 #include "records/checks/checkworld.h"
 #include "records/fields/charset.h"
 #include "records/modWresCheck.h"
@@ -55,28 +54,6 @@ int ShowsOf(const Promotion& promotion) {
 
 TEST(DefaultWorld, HasNoFaults) {
   for (const Fault& fault : CheckWorld(DefaultWorld())) ADD_FAILURE() << ToUtf8(fault.Line());
-}
-
-TEST(DefaultWorld, IsAsBigAsItShouldBe) {
-  const World& world = DefaultWorld();
-  const int employed = CountIf(world.Workers(), [](auto& worker) { return worker.Employer != 0; });
-  const auto isWithin = [](int count, int least, int most) {
-    return count >= least && count <= most;
-  };
-  EXPECT_TRUE(isWithin(world.Promotions().Count(), 16, 20));
-  EXPECT_TRUE(isWithin(world.Workers().Count(), 500, 650));
-  EXPECT_TRUE(isWithin(100 * employed / world.Workers().Count(), 60, 73)) << "percent employed";
-  EXPECT_TRUE(isWithin(world.Networks().Count(), 10, 14));
-  EXPECT_GE(world.Sponsors().Count(), 60);
-  EXPECT_GE(world.Teams().Count(), 60);
-  EXPECT_GE(world.Stables().Count(), 20);
-  for (int size = kGlobal; size <= kBackyard; ++size) {
-    const int count = CountIf(world.Promotions(), [=](auto& p) { return p.Size == size; });
-    EXPECT_GE(count, size == kGlobal ? 1 : 2) << size;
-    if (size == kGlobal) {
-      EXPECT_LE(count, 2);
-    }
-  }
 }
 
 TEST(DefaultWorld, LeavesTheNamesOfLaterPromotionsFree) {
@@ -255,33 +232,6 @@ TEST(DefaultWorld, CallsPeopleByNamesThatFitTheProse) {
   }
   for (const auto& [finisher, count] : finishers)
     EXPECT_LE(count, 2 + 5 * (finisher == "Macklebury Muffler")) << ToUtf8(finisher);
-}
-
-/// Quality of a rival's show: the mean Over of those whom people come to see, Main Eventers twice.
-int Quality(const Promotion& promotion, const std::set<int>& counted) {
-  int count = 0, sum = 0;
-  for (const Worker* worker : WorkersOf(promotion, [](auto&) { return true; })) {
-    const int weight = worker->Position == kMainEvent ? 2 : int(counted.contains(worker->Position));
-    count += weight;
-    sum += weight * worker->Over;
-  }
-  EXPECT_GE(count, 6) << promotion.Initials.Str() << " would have to cancel its shows";
-  return count == 0 ? 0 : sum / count;
-}
-
-// Left alone, nobody rises or falls a class in the first year. A Global promotion has nowhere to
-// rise to.
-TEST(DefaultWorld, StaysAsItIsForAYear) {
-  for (const Promotion& promotion : DefaultWorld().Promotions()) {
-    const int event =
-        RivalEventImageStep(promotion.Size, Quality(promotion, {2, 3, kNonWrestler, kManager}));
-    const int show = RivalTvImageStep(promotion.Size, Quality(promotion, {2, 3, 4}));
-    const int after = promotion.Image + 12 * event + 52 * ShowsOf(promotion) * show;
-    EXPECT_GT(after, 0) << promotion.Initials.Str() << " would fall";
-    if (promotion.Size > kGlobal) {
-      EXPECT_LT(after, 100) << promotion.Initials.Str() << " would rise";
-    }
-  }
 }
 
 }  // namespace
