@@ -266,13 +266,7 @@ std::string MoneyTable(const PromotionBalance& balance) {
 
 int Balance(const Arguments& arguments, Shell& shell) {
   const auto disk = RealDisk();
-  shell.Out << BalancePage(ReadWorld(*disk, arguments.Place(0), shell.Errors));
-  return 0;
-}
-
-}  // namespace
-
-std::string BalancePage(const World& world) {
+  const World world = ReadWorld(*disk, arguments.Place(0), shell.Errors);
   const std::vector<PromotionBalance> balances = BalanceOf(world);
   std::string page = std::string(kIntroduction) + Overview(balances);
   for (const PromotionBalance& balance : balances)
@@ -280,8 +274,11 @@ std::string BalancePage(const World& world) {
             std::string(SizeText(balance.Of->Size)) + ", image " +
             std::to_string(balance.Of->Image) + ", risk " + std::to_string(balance.Of->Risk) +
             ".\n\n" + CardTable(balance) + "\n" + MoneyTable(balance);
-  return ToUtf8(page);
+  shell.Out << ToUtf8(page);
+  return 0;
 }
+
+}  // namespace
 
 const Command kBalance{"balance",
                        "FOLDER",

@@ -1,5 +1,3 @@
-#include "tools/pages.h"
-
 #include <algorithm>
 #include <ostream>
 
@@ -8,6 +6,8 @@
 #include "records/tables/tablekinds.h"
 #include "records/world.h"
 #include "tools/commands.h"
+
+// Pages of docs/ that are made from the field lists, so that they are always right.
 
 namespace grapplemont::tools {
 
@@ -96,26 +96,11 @@ std::string TableSection(const TableKind& kind) {
   return text;
 }
 
-}  // namespace
-
-std::string ColumnsPage() {
-  std::string page;
+int Columns(const Arguments&, Shell& shell) {
   for (const TableKind& kind : TableKinds())
-    if (!kind.OfGame) page += TableSection(kind);
-  return page;
+    if (!kind.OfGame) shell.Out << TableSection(kind);
+  return 0;
 }
-
-const Command kColumns{"columns",
-                       "",
-                       "Prints the part of docs/world-making.md that tells every column.",
-                       0,
-                       {},
-                       [](const Arguments&, Shell& shell) {
-                         shell.Out << ColumnsPage();
-                         return 0;
-                       }};
-
-namespace {
 
 constexpr std::string_view kIntroduction = R"(# File formats
 
@@ -234,18 +219,17 @@ std::string FileSection(const RecordLayout& layout) {
   return text;
 }
 
-}  // namespace
-
-std::string FormatsPage() {
-  std::string page(kIntroduction);
-  for (const TableKind& kind : TableKinds()) page += FileSection(*kind.Layout);
-  return page;
+int Formats(const Arguments&, Shell& shell) {
+  shell.Out << kIntroduction;
+  for (const TableKind& kind : TableKinds()) shell.Out << FileSection(*kind.Layout);
+  return 0;
 }
 
-const Command kFormats{
-    "formats", "", "Prints docs/file-formats.md.", 0, {}, [](const Arguments&, Shell& shell) {
-      shell.Out << FormatsPage();
-      return 0;
-    }};
+}  // namespace
+
+const Command kColumns{
+    "columns", "", "Prints the part of docs/world-making.md that tells every column.",
+    0,         {}, Columns};
+const Command kFormats{"formats", "", "Prints docs/file-formats.md.", 0, {}, Formats};
 
 }  // namespace grapplemont::tools

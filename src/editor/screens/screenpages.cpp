@@ -10,11 +10,8 @@ namespace {
 
 using K = ui::ColumnKind;
 
-constexpr PageColumn kPromotionColumns[] = {{"Initials"},
-                                            {"Name"},
-                                            {"Size", "Size", kByCode},
-                                            {"Image", "Image", K::Percent},
-                                            {"Money", "Money", K::Number}};
+constexpr PageColumn kPromotionColumns[] = {
+    {"Initials"}, {"Name"}, {"Size", "Size", kByCode}, {"Image"}, {"Money"}};
 constexpr FormEntry kPromotionWho[] = {
     {"Name"},  {"Initials"},     {"Size"},
     {"Image"}, {"Commissioner"}, {"MeetingDay", "Meeting day", "cmbmeeting"}};
@@ -51,7 +48,7 @@ constexpr PageColumn kTitleColumns[] = {{"Name", "Title"},
                                         {"Owner", "Promotion"},
                                         {"Holder"},
                                         {"Singles", "Kind", K::Text, kSinglesOrTag},
-                                        {"Image", "Image", K::Percent}};
+                                        {"Image"}};
 constexpr FormEntry kTitleWhat[] = {{"Name"},
                                     {"Owner", "Promotion"},
                                     {"Singles", "Kind", "cmbsingles", kSinglesOrTag},
@@ -62,12 +59,9 @@ constexpr FormEntry kTitleWhat[] = {{"Name"},
 constexpr FormEntry kTitleWho[] = {{"Holder", "Champion"}, {"Partner", "Partner (tag)"}};
 constexpr FormGroup kTitleGroups[] = {{"", 1, "Title", kTitleWhat}, {"", 1, "Champion", kTitleWho}};
 
-constexpr PageColumn kShowColumns[] = {{"Name", "Show"},
-                                       {"Owner", "Promotion"},
-                                       {"Day", "Day", kByCode},
-                                       {"Slot"},
-                                       {"Network"},
-                                       {"Rating3", "Last rating", K::Number}};
+constexpr PageColumn kShowColumns[] = {
+    {"Name", "Show"}, {"Owner", "Promotion"},    {"Day", "Day", kByCode}, {"Slot"},
+    {"Network"},      {"Rating3", "Last rating"}};
 constexpr FormEntry kShowWhat[] = {
     {"Name"}, {"Owner", "Promotion"}, {"Network"}, {"Day"}, {"Slot"}};
 constexpr FormEntry kShowDrawn[] = {{"ContractWeeks", "Weeks left", "txtweeks"}};
@@ -90,9 +84,9 @@ constexpr FormEntry kEventEntries[] = {
 constexpr FormGroup kEventGroups[] = {{"", 1, "Event", kEventEntries}};
 
 constexpr PageColumn kNetworkColumns[] = {{"Name", "Network"},
-                                          {"PrimeAudience", "Prime Time", K::Number},
-                                          {"PrimeRisk", "Risk", K::Percent},
-                                          {"Production", "Production", K::Percent},
+                                          {"PrimeAudience", "Prime Time"},
+                                          {"PrimeRisk", "Risk"},
+                                          {"Production"},
                                           {"Generic"}};
 constexpr FormEntry kNetworkWhat[] = {
     {"Name"}, {"Production", "Least production"}, {"Generic", "Several shows at a time"}};
@@ -108,10 +102,8 @@ constexpr FormGroup kNetworkGroups[] = {{"", 1, "Network", kNetworkWhat},
                                         {"", 1, "Audience (1/100 rating)", kNetworkAudience},
                                         {"", 2, "Most risk tolerated", kNetworkRisk}};
 
-constexpr PageColumn kSponsorColumns[] = {{"Name", "Sponsor"},
-                                          {"Promotion", "Sponsors"},
-                                          {"Pay", "Pay", K::Number},
-                                          {"Morality", "Morality", K::Percent}};
+constexpr PageColumn kSponsorColumns[] = {
+    {"Name", "Sponsor"}, {"Promotion", "Sponsors"}, {"Pay"}, {"Morality"}};
 constexpr FormEntry kSponsorEntries[] = {
     {"Name"}, {"Slogan"}, {"Pay", "Pay ($1000 a show)"}, {"Morality"}};
 constexpr FormEntry kSponsorDeal[] = {{"Promotion", "Sponsors"},
@@ -121,12 +113,9 @@ constexpr FormGroup kSponsorGroups[] = {{"", 1, "Sponsor", kSponsorEntries},
 
 // Workers, owners, staff, teams and stables.
 
-constexpr PageColumn kWorkerColumns[] = {{"Name"},
-                                         {"Employer"},
-                                         {"Position", "Position", kByCode},
-                                         {"Disposition", "Side"},
-                                         {"Age", "Age", K::Number},
-                                         {"Over", "Over", K::Percent}};
+constexpr PageColumn kWorkerColumns[] = {
+    {"Name"}, {"Employer"}, {"Position", "Position", kByCode}, {"Disposition", "Side"},
+    {"Age"},  {"Over"}};
 constexpr FormEntry kWorkerWho[] = {{"Name"},
                                     {"ShortName", "Short name"},
                                     {"Gender", "Sex"},
@@ -184,21 +173,16 @@ constexpr FormGroup kWorkerGroups[] = {
     {"In a game", 1, "Drawn when a game begins", kWorkerDrawn},
     {"In a game", 2, "Cleared when a game begins", kWorkerCleared}};
 
-constexpr PageColumn kOwnerColumns[] = {{"Name"},
-                                        {"Employer", "Promotion"},
-                                        {"Wage", "Style", K::Text, kOwnerStyles},
-                                        {"Age", "Age", K::Number}};
+constexpr PageColumn kOwnerColumns[] = {
+    {"Name"}, {"Employer", "Promotion"}, {"Wage", "Style", K::Text, kOwnerStyles}, {"Age"}};
 constexpr FormEntry kStaffWho[] = {
     {"Name"}, {"Gender", "Sex"}, {"BirthMonth", "Birthday in", "cmbbirthmonth", kMonths}, {"Age"}};
 constexpr FormEntry kOwnerJob[] = {
     {"Employer", "Owns"}, {"Wage", "Style", "cmbstyle", kOwnerStyles}, {"Talent"}, {"Backstage"}};
 constexpr FormGroup kOwnerGroups[] = {{"", 1, "Who", kStaffWho}, {"", 1, "Chair", kOwnerJob}};
 
-constexpr PageColumn kStaffColumns[] = {{"Name"},
-                                        {"Position", "Post", kByCode},
-                                        {"Employer"},
-                                        {"Age", "Age", K::Number},
-                                        {"Talent", "Talent", K::Percent}};
+constexpr PageColumn kStaffColumns[] = {
+    {"Name"}, {"Position", "Post", kByCode}, {"Employer"}, {"Age"}, {"Talent"}};
 constexpr FormEntry kStaffWork[] = {
     {"Position", "Post", "cmbposition", Vocabulary(kStaffPositions).last(7)},
     {"Talent"},
@@ -215,10 +199,8 @@ constexpr FormGroup kStaffGroups[] = {{"", 1, "Who", kStaffWho},
                                       {"", 2, "Contract", kStaffJob},
                                       {"", 2, "Drawn when a game begins", kStaffDrawn}};
 
-constexpr PageColumn kTeamColumns[] = {{"Name", "Team"},
-                                       {"Worker1", "One"},
-                                       {"Worker2", "The other"},
-                                       {"Experience", "Experience", K::Percent}};
+constexpr PageColumn kTeamColumns[] = {
+    {"Name", "Team"}, {"Worker1", "One"}, {"Worker2", "The other"}, {"Experience"}};
 constexpr FormEntry kTeamEntries[] = {{"Name"},
                                       {"Worker1", "One partner"},
                                       {"Worker2", "The other partner"},

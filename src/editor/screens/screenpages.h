@@ -38,7 +38,7 @@ inline constexpr ui::ColumnKind kByCode = ui::ColumnKind::Date;
 struct PageColumn {
   std::string_view Field;
   std::string_view Title = Field;
-  ui::ColumnKind Kind = ui::ColumnKind::Text;
+  ui::ColumnKind Kind = ui::ColumnKind::Text;  // numbers without words stand as what they are
   Vocabulary Words = {};
 };
 

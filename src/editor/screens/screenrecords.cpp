@@ -12,6 +12,15 @@ namespace grapplemont {
 
 namespace {
 
+ui::ColumnKind KindOf(const PageColumn& column, const Field& field) {
+  if (!column.Words.empty() || !field.Words.empty() || field.To != Refers::Nothing)
+    return column.Kind;
+  const bool isNumber = field.Kind == FieldKind::Word || field.Kind == FieldKind::Long;
+  return isNumber                           ? ui::ColumnKind::Number
+         : field.Kind == FieldKind::Percent ? ui::ColumnKind::Percent
+                                            : column.Kind;
+}
+
 std::string Small(std::string_view text) {
   std::string small(text);
   for (char& c : small)
@@ -49,8 +58,8 @@ RecordScreen::RecordScreen(Game& game, const RecordPage& page)
       form_(*this, page, [this] { ShowButtons(); }) {
   std::vector<ui::Column> headings;
   for (const PageColumn& column : page.Columns) {
-    headings.push_back({std::string(column.Title), column.Kind});
     columns_.push_back(FieldNamed(page.Kind, column.Field));
+    headings.push_back({std::string(column.Title), KindOf(column, *columns_.back().Of)});
   }
   lstrecords.SetColumns(std::move(headings));
   txtsearch.Hint = "Search in all columns";
@@ -290,7 +299,8 @@ ui::Cell CellOf(const World& world, const PageColumn& column, const FieldPlace& 
   const Field& field = *place.Of;
   if (field.To != Refers::Nothing && field.Kind == FieldKind::Word)
     return NameOfUid(world, field.To, static_cast<int>(FieldNumber(field, record, place.Index)));
-  if (column.Kind == ui::ColumnKind::Number || column.Kind == ui::ColumnKind::Percent) {
+  const ui::ColumnKind kind = KindOf(column, field);
+  if (kind == ui::ColumnKind::Number || kind == ui::ColumnKind::Percent) {
     const long long number = FieldNumber(field, record, place.Index);
     if (field.Unit == "dollars") return {static_cast<double>(number), Dollars(number)};
     if (field.Unit == "hundredths")
@@ -298,7 +308,7 @@ ui::Cell CellOf(const World& world, const PageColumn& column, const FieldPlace& 
     return ui::Cell(static_cast<int>(number));
   }
   const std::string words = WordsOf(column, place, record);
-  if (column.Kind == kByCode) return {static_cast<double>(CodeIn(field, place, record)), words};
+  if (kind == kByCode) return {static_cast<double>(CodeIn(field, place, record)), words};
   return {words,
           field.Name == "Disposition" ? DispositionTone(As<Worker>(record)) : ui::Tone::Plain};
 }
