@@ -22,7 +22,6 @@ TEST(RecordFile, HasRoomForSoManyRecordsAndNoMore) {
     const char* Remark;
   } rows[] = {
       {100, 2, ""},
-      {149, 2, "newtv.dat ends in 49 bytes that are no whole record; they are left aside."},
       {1, 0, "newtv.dat ends in 1 bytes that are no whole record; they are left aside."},
       {50000, 1000, ""},
       {50050, 0,
@@ -86,23 +85,6 @@ TEST(TablesFolder, RefusesWhatIsNoWorldForTheData) {
             "These tables are a saved game's; the data are a world in which no game has begun.");
 }
 
-TEST(TablesFolder, GoesWhereNothingElseLies) {
-  CutDisk disk;
-  const auto whyNot = [&](const char* folder) { return LookForExport(disk, folder).WhyNot; };
-  EXPECT_EQ(whyNot("home/tables"), "There is no folder home to put it in.");
-  disk.MakeFolder("home");
-  EXPECT_EQ(whyNot("home/tables"), "");
-  ExportTables(disk, "home/tables", Complete(SmallWorld().Promotion("CWA")));
-  EXPECT_EQ(LookForExport(disk, "home/tables").Present.size(), 10u);
-  // Without a game's tables beside them, notes are somebody's own.
-  WriteFile(disk, "home/tables/notes.txt", {});
-  EXPECT_EQ(whyNot("home/tables"),
-            "home/tables holds other things, such as notes.txt. Name a new folder.");
-  WriteFile(disk, "home/tables/game.csv", {});
-  EXPECT_EQ(whyNot("home/tables"), "");
-  EXPECT_EQ(whyNot("home/tables/game.csv"), "home/tables/game.csv is no folder.");
-}
-
 TEST(TablesFolder, AFolderThatCannotBeFilledIsGoneAgain) {
   const World world = SmallWorld().Promotion("CWA").Build();
   CutDisk counting;
@@ -125,37 +107,6 @@ TEST(TablesFolder, APathIsMeantFromTheHome) {
   EXPECT_EQ(PathInHome("home", " my world/ "), "home/my world");
   EXPECT_EQ(PathInHome("home", "/elsewhere//"), "/elsewhere");
   EXPECT_EQ(PathInHome("home", "caf\xE9"), "home/caf\xC3\xA9");
-}
-
-TEST(Maintenance, ReportsThenMendsAndFindsNothingTheSecondTime) {
-  World world = Complete(SmallWorld()
-                             .Promotion("CWA", kCult)
-                             .Crew(2)
-                             .Team("The Hands", "CWA Hand 1", "CWA Hand 2")
-                             .Title("CWA Crown", "CWA Hand 1"));
-  world.Teams()[1].Worker2 = 88;
-  world.Titles()[1].Reigns[0].Won.SetRaw(-1e200);
-  Bytes cut(world.Workers().Contents().begin(), world.Workers().Contents().end());
-  cut.resize(cut.size() + 20);
-  world.Workers().Load(cut);
-  world.Events().Remove();
-  const World damaged = CopyOf(world);
-
-  const Maintenance plan = PlanMaintenance(world);
-  ExpectSame(world, damaged);
-  EXPECT_EQ(
-      Lines(plan.Faults),
-      (Texts{"event.dat: is missing", "wrestler.dat: ends in 20 bytes that are no whole record",
-             "belt.dat, record 1 (CWA Crown), Won1: is no date of the calendar",
-             "teams.dat, record 1 (The Hands), Worker2: is 88, but there is no such worker"}));
-  EXPECT_EQ(Lines(plan.Doings).front(), "event.dat: is missing; made without a record");
-  EXPECT_EQ(Lines(plan.Left), Texts{});
-  EXPECT_EQ(Lines(Maintain(world)), Lines(plan.Doings));
-  EXPECT_EQ(world.Teams().Count(), 0) << "a team of one is none";
-  EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
-  const World mended = CopyOf(world);
-  EXPECT_EQ(Lines(Maintain(world)), Texts{});
-  ExpectSame(world, mended);
 }
 
 TEST(Maintenance, MakesAWorldOfAnyBytes) {

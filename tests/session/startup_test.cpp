@@ -258,9 +258,11 @@ TEST(LoadGame, SaysWhyASlotIsNotOpened) {
   expectRefused("another program");
 }
 
-TEST(LoadGame, RemarksOnFilesThatAreNearlyFull) {
+TEST(LoadGame, BringsNumbersBackIntoTheirRangesAndRemarksOnFilesThatAreNearlyFull) {
   HomeFolder home(TwoPromotions());
   LeaveGame(home, [](World& world) {
+    reinterpret_cast<Long&>(world.Player().Money) = 2147483647;
+    reinterpret_cast<Word&>(world.AllStaff()[1].Morale) = -5;
     for (int uid = 2; uid <= 900; ++uid) {
       Network network = world.Networks()[1];
       network.Uid = uid;
@@ -268,32 +270,23 @@ TEST(LoadGame, RemarksOnFilesThatAreNearlyFull) {
       world.Networks().Append(network);
     }
   });
-  home.Desk.ExpectSay("Loading",
-                      "network.dat holds 900 networks; 1000 is the most. Start the next game from "
-                      "a smaller database.");
-  home.Desk.Click("cmdload1");
-  EXPECT_EQ(home.Desk.TopName(), "frmMainScreen");
-}
-
-TEST(LoadGame, BringsNumbersBackIntoTheirRanges) {
-  HomeFolder home(TwoPromotions());
-  LeaveGame(home, [](World& world) {
-    reinterpret_cast<Long&>(world.Player().Money) = 2147483647;
-    reinterpret_cast<Word&>(world.AllStaff()[1].Morale) = -5;
-  });
+  const std::string nearlyFull =
+      "network.dat holds 900 networks; 1000 is the most. Start the next game from a smaller "
+      "database.";
   home.Desk.ExpectSay(
       "Loading",
       "Numbers that no game can go on with were brought back into their ranges:\npromos.dat, "
-      "record "
-      "1 (CWA Wrestling), Money: is 2147483647, outside -1000000000 to 1000000000; made "
-      "1000000000\nstaff.dat, record 1 (Ruth Vane), Morale: is -5, outside 0 to 100; made 0");
+      "record 1 (CWA Wrestling), Money: is 2147483647, outside -1000000000 to 1000000000; made "
+      "1000000000\nstaff.dat, record 1 (Ruth Vane), Morale: is -5, outside 0 to 100; made 0\n" +
+          nearlyFull);
   home.Desk.Click("cmdload1");
   EXPECT_EQ(home.Desk.Text("lblmoney"), "$1,000,000,000");
   home.Play.CloseSlot();
   home.Desk.CloseAll();
   home.Desk.Open("frmLoadGame");
+  home.Desk.ExpectSay("Loading", nearlyFull);  // the slot itself is mended
   home.Desk.Click("cmdload1");
-  EXPECT_EQ(home.Desk.TopName(), "frmMainScreen") << "the slot itself is mended";
+  EXPECT_EQ(home.Desk.TopName(), "frmMainScreen");
 }
 
 TEST(LoadingScreens, ShowTheSetsAndHowToAddOnesOwn) {

@@ -79,6 +79,11 @@ TEST_F(TableCommands, ExportTakesASavedGameWithAllThatItsJournalHolds) {
 
 TEST_F(TableCommands, ExportTakesNobodysFilesAway) {
   BuildSmallData();
+  Write("tables/notes.txt", "Without a game's tables beside them notes are somebody's own.");
+  EXPECT_EQ(
+      "[grapplemont-world export: H/tables holds other things, such as notes.txt. Name a new "
+      "folder.\n]=1",
+      Say("export H/data H/tables --replace"));
   Write("tables/game.csv", "PlayerName\n");
   Write("tables/mine.csv", "Word\n");
   EXPECT_EQ(
@@ -87,7 +92,8 @@ TEST_F(TableCommands, ExportTakesNobodysFilesAway) {
       Say("export H/data H/tables/ --replace"));
   fs::remove(In("tables/mine.csv"));
   EXPECT_EQ(
-      "[grapplemont-world export: H/tables holds game.csv. With --replace the tables of the world "
+      "[grapplemont-world export: H/tables holds game.csv and notes.txt. With --replace the tables "
+      "of the world "
       "are put in their place.\n]=1",
       Say("export H/data H/tables"));
   EXPECT_TRUE(fs::exists(In("tables/game.csv")));

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "business/networks.h"
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -91,9 +92,8 @@ class frmNewGame : public GameScreen {
     lstshows.Clear();
     for (const Show& show : world_.Shows()) {
       if (show.Owner != promotion.Uid) continue;
-      const Network* network = world_.FindNetwork(show.Network);
-      lstshows.Add({show.Name.View(), network ? network->Name.View() : std::string_view("None"),
-                    show.Day.View(), Says(kTimeSlots, show.Slot)});
+      lstshows.Add({show.Name.View(), NetworkName(world_, show.Network), show.Day.View(),
+                    Says(kTimeSlots, show.Slot)});
     }
   }
 
