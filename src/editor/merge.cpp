@@ -16,11 +16,6 @@ int Arrivals::Count(Fate fate) const {
                                         [&](const Arrival& row) { return row.Comes == fate; }));
 }
 
-void MendArrivals(World& world, Arrivals& arrivals) {
-  const FaultList mended = MendWorld(world);
-  arrivals.Mended.insert(arrivals.Mended.end(), mended.begin(), mended.end());
-}
-
 std::string WhyNoArrivals(const World& world) {
   const std::size_t faults = TellFaults(world);
   return faults == 0 ? "" : "The data have " + Counted(faults, "fault") + ". Clean them up first.";
@@ -51,6 +46,12 @@ int UidMap::operator()(int uid) const {
 }
 
 namespace {
+
+/// Puts in order what came into a world that was in order before.
+void MendArrivals(World& world, Arrivals& arrivals) {
+  const FaultList mended = MendWorld(world);
+  arrivals.Mended.insert(arrivals.Mended.end(), mended.begin(), mended.end());
+}
 
 void MakeFreeAgent(World& world, Worker& worker) {
   worker.Employer = 0;  // of the other world: nobody here lost him

@@ -48,6 +48,41 @@ std::string WhyNot(const Keeping& keeping, std::string_view file) {
   return why;
 }
 
+int CodeIn(const Field& field, const FieldPlace& place, const std::byte* record) {
+  if (field.Kind != FieldKind::Text)
+    return static_cast<int>(FieldNumber(field, record, place.Index));
+  for (const Term& term : field.Words)
+    if (term.Stored == FieldText(field, record, place.Index)) return term.Code;
+  return 0;
+}
+
+std::string WordsOf(const PageColumn& column, const FieldPlace& place, const std::byte* record) {
+  if (column.Words.empty()) return FieldShown(*place.Of, record, place.Index);
+  const int code = static_cast<int>(FieldNumber(*place.Of, record, place.Index));
+  const auto words = Says(column.Words, code);
+  return words.empty() ? std::to_string(code) : std::string(words);
+}
+
+/// What a table shows of a field: words for codes, names for references, dollars for money.
+ui::Cell CellOf(const World& world, const PageColumn& column, const FieldPlace& place,
+                const std::byte* record) {
+  const Field& field = *place.Of;
+  if (field.To != Refers::Nothing && field.Kind == FieldKind::Word)
+    return NameOfUid(world, field.To, static_cast<int>(FieldNumber(field, record, place.Index)));
+  const ui::ColumnKind kind = KindOf(column, field);
+  if (kind == ui::ColumnKind::Number || kind == ui::ColumnKind::Percent) {
+    const long long number = FieldNumber(field, record, place.Index);
+    if (field.Unit == "dollars") return {static_cast<double>(number), Dollars(number)};
+    if (field.Unit == "hundredths")
+      return {static_cast<double>(number), RatingText(static_cast<int>(number))};
+    return ui::Cell(static_cast<int>(number));
+  }
+  const std::string words = WordsOf(column, place, record);
+  if (kind == kByCode) return {static_cast<double>(CodeIn(field, place, record)), words};
+  return {words,
+          field.Name == "Disposition" ? DispositionTone(As<Worker>(record)) : ui::Tone::Plain};
+}
+
 }  // namespace
 
 RecordScreen::RecordScreen(Game& game, const RecordPage& page)
@@ -273,44 +308,6 @@ void RecordScreen::cmdsave_Click() {
 
 void RecordScreen::cmdback_Click() {
   if (MayLeave()) Close();
-}
-
-namespace {
-
-int CodeIn(const Field& field, const FieldPlace& place, const std::byte* record) {
-  if (field.Kind != FieldKind::Text)
-    return static_cast<int>(FieldNumber(field, record, place.Index));
-  for (const Term& term : field.Words)
-    if (term.Stored == FieldText(field, record, place.Index)) return term.Code;
-  return 0;
-}
-
-std::string WordsOf(const PageColumn& column, const FieldPlace& place, const std::byte* record) {
-  if (column.Words.empty()) return FieldShown(*place.Of, record, place.Index);
-  const int code = static_cast<int>(FieldNumber(*place.Of, record, place.Index));
-  const auto words = Says(column.Words, code);
-  return words.empty() ? std::to_string(code) : std::string(words);
-}
-
-}  // namespace
-
-ui::Cell CellOf(const World& world, const PageColumn& column, const FieldPlace& place,
-                const std::byte* record) {
-  const Field& field = *place.Of;
-  if (field.To != Refers::Nothing && field.Kind == FieldKind::Word)
-    return NameOfUid(world, field.To, static_cast<int>(FieldNumber(field, record, place.Index)));
-  const ui::ColumnKind kind = KindOf(column, field);
-  if (kind == ui::ColumnKind::Number || kind == ui::ColumnKind::Percent) {
-    const long long number = FieldNumber(field, record, place.Index);
-    if (field.Unit == "dollars") return {static_cast<double>(number), Dollars(number)};
-    if (field.Unit == "hundredths")
-      return {static_cast<double>(number), RatingText(static_cast<int>(number))};
-    return ui::Cell(static_cast<int>(number));
-  }
-  const std::string words = WordsOf(column, place, record);
-  if (kind == kByCode) return {static_cast<double>(CodeIn(field, place, record)), words};
-  return {words,
-          field.Name == "Disposition" ? DispositionTone(As<Worker>(record)) : ui::Tone::Plain};
 }
 
 }  // namespace grapplemont

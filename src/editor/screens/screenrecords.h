@@ -74,8 +74,4 @@ class RecordScreen : public ui::Screen {
   ui::Button cmdsave{*this, "cmdsave", "Save", &RecordScreen::cmdsave_Click};
 };
 
-/// What a table shows of a field: words for codes, names for references, dollars for money.
-ui::Cell CellOf(const World& world, const PageColumn& column, const FieldPlace& place,
-                const std::byte* record);
-
 }  // namespace grapplemont

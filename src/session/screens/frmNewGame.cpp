@@ -131,12 +131,11 @@ class frmNewGame : public GameScreen {
     const std::string name(detail::Trimmed(txtname.Text.Get()));
     if (name.empty()) return desk().Say("Error!", "Please enter your name first.");
     if (desk().Objects(WhyNotPlain(name))) return;
-    NewGameChoice choice;
-    choice.PlayerName = name;
-    choice.PromotionUid = cmbPromo.Key();
-    choice.Difficulty = cmbdifficulty.Key();
-    choice.Start = NextFirst(game_.PresentDay());
-    desk().Open(MakefrmPickSaveSlot(game_, choice));
+    desk().Open(MakefrmPickSaveSlot(game_, {.PlayerName = name,
+                                            .PromotionUid = cmbPromo.Key(),
+                                            .Difficulty = cmbdifficulty.Key(),
+                                            .Start = NextFirst(game_.PresentDay()),
+                                            .SaveName = {}}));
   }
 
   using K = ui::ColumnKind;
