@@ -1,10 +1,8 @@
-#include "editor/datafolder.h"
 #include "editor/recordfile.h"
 #include "editor/screens/screenfiles.h"
 #include "records/fields/charset.h"
 #include "records/fields/wording.h"
 #include "records/tables/worldreport.h"
-#include "ui/game.h"
 
 namespace grapplemont {
 

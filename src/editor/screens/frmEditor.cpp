@@ -6,7 +6,6 @@
 #include "editor/screens/screenrecords.h"
 #include "records/fields/wording.h"
 #include "records/tables/worldreport.h"
-#include "ui/game.h"
 
 namespace grapplemont {
 

@@ -4,8 +4,6 @@
 #include <vector>
 
 #include "editor/datafolder.h"
-#include "records/checks/checkworld.h"
-#include "records/world.h"
 #include "ui/controls.h"
 #include "ui/game.h"
 

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "editor/keeping.h"
-#include "records/checks/checkworld.h"
 #include "ui/controls.h"
 #include "ui/game.h"
 

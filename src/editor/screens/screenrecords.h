@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "editor/datafolder.h"
-#include "editor/screens/screenpages.h"
 #include "editor/screens/screenrecordform.h"
 #include "ui/game.h"
 
