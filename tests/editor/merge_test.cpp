@@ -183,16 +183,19 @@ TEST(Merge, AFullFileRefusesInTheEditorsWords) {
     Network network = world.Networks()[1];
     network.Uid = i;
     network.Name = "N" + std::to_string(i);
+    if (i < 1000)
+      world.Networks().Append(network);
+    else
+      coming.Networks.Records.push_back(network);
     Show show;
     show.Name = "S" + std::to_string(i);
-    if (i < 1000) world.Networks().Append(network);
-    if (i < 1001) world.Shows().Append(show);
-    if (i >= 1000) coming.Networks.Records.push_back(network);
-    if (i == 1001) coming.Shows.Records.push_back(show);
+    world.Shows().Append(show);
   }
+  coming.Shows.Records.resize(1);
+  coming.Shows.Records[0].Name = "S1";
   EXPECT_EQ(Lines(PreviewMerge(world, coming)),
             (Texts{"Network N1000", "Network N1001 out: Maximum 1,000 networks per file!",
-                   "Show S1001 out: Maximum 1,000 shows per file!"}));
+                   "Show S1 out: Maximum 1,000 shows per file!"}));
 }
 
 /// What was here stands first in every file, to the byte.
