@@ -15,6 +15,7 @@
 #include "show/attendance.h"
 #include "support/defaultworld.h"
 #include "support/smallworld.h"
+#include "tools/balance.h"
 #include "words/promotions.h"
 
 // Holds the tables of world/ to what makes a world worth playing: nothing here is a rule of the
@@ -201,6 +202,27 @@ TEST(DefaultWorld, CallsPeopleByNamesThatFitTheProse) {
     }
     EXPECT_FALSE(worker.Finisher1.View().empty() || worker.Finisher2.View().empty()) << who;
     EXPECT_FALSE(worker.Finisher1 == worker.Finisher2) << who;
+  }
+}
+
+TEST(DefaultWorld, LetsNobodyStartInRuinNorGetRichWithoutWork) {
+  for (const auto& balance : tools::BalanceOf(DefaultWorld())) {
+    SCOPED_TRACE(balance.Of->Initials.Str());
+    EXPECT_EQ(balance.AsPlayers.HouseShows, 0);
+    EXPECT_LE(balance.AsPlayers.CostsPerHundred(), 150);
+    if (balance.Of->Size < kBackyard) {
+      EXPECT_GE(balance.AsPlayers.CostsPerHundred(), 60);
+      // A year of waiting must not win more than one and a half times what there was.
+      const auto won = balance.AsPlayers.Income() - balance.AsPlayers.Costs();
+      EXPECT_LE(2 * 12 * won, 3LL * balance.Of->Money);
+    }
+    // Nobody is left to sponsor the last Small one; it lives on what it has and closes in the end.
+    if (balance.Of->Initials == "GSG") continue;
+    EXPECT_LE(balance.AsRival.CostsPerHundred(), 150);
+    // What is lost in a year must be there, or may be owed.
+    constexpr int kRuin[] = {20'000'000, 15'000'000, 5'000'000, 2'500'000, 1'000'000, 500'000};
+    const auto lost = balance.AsRival.Costs() - balance.AsRival.Income();
+    EXPECT_LT(12 * lost, balance.Of->Money + kRuin[balance.Of->Size - 1]);
   }
 }
 
