@@ -227,9 +227,7 @@ TEST(ThePages, ShowEveryFieldThatAnAuthorCanMean) {
     for (const Field& field : LayoutOf(page.Kind).Fields)
       for (int i = 0; i < field.Count; ++i) {
         const std::string name = FieldName(field, i);
-        EXPECT_TRUE(
-            shown.contains({page.Kind, name}) ||
-            std::ranges::any_of(kLeftOut, [&](auto left) { return name.starts_with(left); }))
+        EXPECT_TRUE(shown.contains({page.Kind, name}) || std::regex_search(name, kLeftOut))
             << LayoutOf(page.Kind).Name << " " << name;
       }
 }
