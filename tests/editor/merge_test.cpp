@@ -154,7 +154,7 @@ TEST(Merge, FreeUidsAreFoundInGapsWhereThereIsNothingBehindTheHighest) {
 TEST(Merge, ShowsKeepToTheirSpots) {
   World world = Here();
   NewRecords coming;
-  const auto add = [&](const char* name, const char* day, const char* slot, int network = 1) {
+  const auto add = [&](std::string_view name, const char* day, const char* slot, int network = 1) {
     Show& show = coming.Shows.Records.emplace_back(world.Shows()[1]);
     show.Name = name;
     show.Day = day;
