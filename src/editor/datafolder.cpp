@@ -17,16 +17,6 @@ constexpr const char* kKept = "Your change is kept.";
 constexpr const char* kNoUndo =
     "The backup has been restored, but what the data were before could not be kept.";
 
-std::string LockOf(const std::string& folder) {
-  return folder + ".lock";
-}
-
-std::vector<NewFile> AsNewFiles(const std::map<std::string, Bytes>& files) {
-  std::vector<NewFile> all;
-  for (const auto& [name, contents] : files) all.push_back({name, contents});
-  return all;
-}
-
 /// What turns one set of files into another; before it, the checksums of the first.
 DataStep StepBetween(const std::map<std::string, Bytes>& before,
                      const std::map<std::string, Bytes>& after) {
@@ -55,19 +45,19 @@ DataFolder::DataFolder(Disk& disk, std::string folder) : disk_(disk), folder_(st
   const Disk::Kind kind = disk_.Look(folder_);
   if (kind == Disk::Kind::Nothing || kind == Disk::Kind::File)
     throw WorldFault("There is no folder \"" + folder_ + "\". Put the game's data there.");
-  if (!disk_.Lock(LockOf(folder_))) throw DataBusy();
+  if (!disk_.Lock(Lock())) throw DataBusy();
   try {
     FinishStep(disk_, folder_);
     FinishSwap(disk_, BackupFolder());
     Read();
   } catch (...) {
-    disk_.Unlock(LockOf(folder_));
+    disk_.Unlock(Lock());
     throw;
   }
 }
 
 DataFolder::~DataFolder() {
-  disk_.Unlock(LockOf(folder_));
+  disk_.Unlock(Lock());
 }
 
 void DataFolder::Read() {
@@ -106,7 +96,9 @@ bool DataFolder::HasBackup() const {
 
 void DataFolder::KeepBackup(const std::map<std::string, Bytes>& files) {
   FinishSwap(disk_, BackupFolder());
-  ReplaceFolder(disk_, BackupFolder(), AsNewFiles(files));
+  std::vector<NewFile> all;
+  for (const auto& [name, contents] : files) all.push_back({name, contents});
+  ReplaceFolder(disk_, BackupFolder(), all);
   backedUp_ = true;
 }
 

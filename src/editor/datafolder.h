@@ -61,6 +61,7 @@ class DataFolder {
   enum class Unfinished { Nothing, Drop, Apply };
 
   std::string BackupFolder() const { return folder_ + ".backup"; }
+  std::string Lock() const { return folder_ + ".lock"; }
   /// The files as they are on disk, but for those that cannot be read.
   std::map<std::string, Bytes> FilesNow() const;
   void Read();

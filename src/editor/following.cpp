@@ -39,10 +39,6 @@ std::string Told(const Fault& fault) {
   return words + fault.What + ".";
 }
 
-std::string WholeKey(const Fault& fault) {
-  return fault.File + "#" + std::to_string(fault.Record) + "#" + fault.Field + "#" + fault.What;
-}
-
 }  // namespace
 
 FaultCounts::FaultCounts(const World& world, By by) : by_(by) {
@@ -79,10 +75,10 @@ void MendConsequences(World& world, const FaultCounts& before, std::vector<std::
   for (int round = 0; round < kMostRounds; ++round) {
     std::set<std::string> wanted;
     for (const Fault& fault : before.NewIn(world))
-      if (IsConsequence(fault)) wanted.insert(WholeKey(fault));
+      if (IsConsequence(fault)) wanted.insert(fault.Line());
     if (wanted.empty()) return;
     const auto mended =
-        MendWorld(world, [&](const Fault& fault) { return wanted.contains(WholeKey(fault)); });
+        MendWorld(world, [&](const Fault& fault) { return wanted.contains(fault.Line()); });
     if (mended.empty()) return;
     for (const Fault& fault : mended) also.push_back(Told(fault));
   }
@@ -106,20 +102,29 @@ void FollowSplits(World& world, const Promotion& old, const Promotion& now) {
 }
 
 /// Nobody talks beside the ring of a promotion that he has left.
-void LeaveShows(World& world, int employer, int uid, bool isWorker,
-                std::vector<std::string>& also) {
+template <class T>
+void LeaveShows(World& world, const T& who, std::vector<std::string>& also) {
+  constexpr bool isWorker = std::is_same_v<T, Worker>;
   for (Show& show : world.Shows()) {
-    if (show.Owner != employer || uid == 0) continue;
-    if (!isWorker && show.Announcer == uid) {
+    if (show.Owner != who.Employer || who.Uid == 0) continue;
+    if (!isWorker && show.Announcer == who.Uid) {
       show.Announcer = 0;
       also.push_back(show.Name + " loses its announcer.");
     }
-    if (show.Colour == uid && bool(show.ColourIsWorker) == isWorker) {
+    if (show.Colour == who.Uid && bool(show.ColourIsWorker) == isWorker) {
       show.Colour = 0;
       show.ColourIsWorker = false;
       also.push_back(show.Name + " loses its colour commentator.");
     }
   }
+}
+
+template <class T>
+void FollowEmployer(World& world, const Bytes& old, const std::byte* now,
+                    std::vector<std::string>& also) {
+  if (old.empty()) return;
+  const T was = As<T>(old.data());
+  if (was.Employer != As<T>(now).Employer) LeaveShows(world, was, also);
 }
 
 void FreePlaces(Promotion& promotion, int sponsorUid) {
@@ -216,12 +221,10 @@ std::string FollowChange(World& world, RecordKind kind, const Bytes& old, int nu
       if (!old.empty()) FollowStable(world, As<Stable>(old.data()), As<Stable>(now));
       break;
     case RecordKind::Worker:
-      if (!old.empty() && As<Worker>(old.data()).Employer != As<Worker>(now).Employer)
-        LeaveShows(world, As<Worker>(old.data()).Employer, As<Worker>(old.data()).Uid, true, also);
+      FollowEmployer<Worker>(world, old, now, also);
       break;
     case RecordKind::Staff:
-      if (!old.empty() && As<Staff>(old.data()).Employer != As<Staff>(now).Employer)
-        LeaveShows(world, As<Staff>(old.data()).Employer, As<Staff>(old.data()).Uid, false, also);
+      FollowEmployer<Staff>(world, old, now, also);
       break;
     default:
       break;
@@ -231,13 +234,8 @@ std::string FollowChange(World& world, RecordKind kind, const Bytes& old, int nu
 
 void Forget(World& world, RecordKind kind, int number, std::vector<std::string>& also) {
   if (kind == RecordKind::Promotion) return EndPromotion(world, number, also);
-  if (kind == RecordKind::Worker) {
-    const Worker& worker = world.Workers()[number];
-    LeaveShows(world, worker.Employer, worker.Uid, true, also);
-  } else if (kind == RecordKind::Staff) {
-    const Staff& staff = world.AllStaff()[number];
-    LeaveShows(world, staff.Employer, staff.Uid, false, also);
-  }
+  if (kind == RecordKind::Worker) LeaveShows(world, world.Workers()[number], also);
+  if (kind == RecordKind::Staff) LeaveShows(world, world.AllStaff()[number], also);
   WithRecords(world, kind, [number](auto& records) { records.Erase(number); });
 }
 

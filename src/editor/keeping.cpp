@@ -1,6 +1,7 @@
 #include "editor/keeping.h"
 
 #include <algorithm>
+#include <span>
 #include <stdexcept>
 
 #include "editor/following.h"
@@ -49,27 +50,10 @@ std::string NameOf(RecordKind kind, const std::byte* record) {
 
 namespace {
 
-int FreeUid(const World& world, RecordKind kind) {
-  switch (kind) {
-    case RecordKind::Worker:
-      return NextWorkerUid(world);
-    case RecordKind::Promotion:
-      return NextPromotionUid(world);
-    case RecordKind::Staff:
-      return NextStaffUid(world);
-    case RecordKind::Network:
-      return NextNetworkUid(world);
-    case RecordKind::Sponsor:
-      return NextSponsorUid(world);
-    default:
-      return 0;
-  }
-}
-
-template <class T>
-constexpr bool kHasUid = requires(T& record) {
-  record.Uid;
-};
+/// By kind; nobody goes by the uid of the others.
+constexpr int (*kNextUid[])(const World&) = {
+    NextWorkerUid, NextPromotionUid, NextStaffUid,   nullptr,        nullptr,
+    nullptr,       nullptr,          NextNetworkUid, NextSponsorUid, nullptr};
 
 // What a record owes to its own fields.
 
@@ -115,6 +99,11 @@ bool IsReserved(std::string_view name) {
   return name == "None" || name == kToBeDeleted;
 }
 
+/// A name, or a promotion's initials.
+bool IsName(const Field& field) {
+  return field.Kind == FieldKind::Text && (field.IsKey || field.Name == "Name");
+}
+
 /// Unique in its file, whatever else; other names are held to their promotion by the check.
 bool MustBeFree(RecordKind kind, const Field& field) {
   return field.IsKey || (kind == RecordKind::Show && field.Name == "Name");
@@ -122,7 +111,7 @@ bool MustBeFree(RecordKind kind, const Field& field) {
 
 std::string WhyNotNamed(const World& world, RecordKind kind, int number, const std::byte* record) {
   for (const Field& field : LayoutOf(kind).Fields) {
-    if (field.Kind != FieldKind::Text || (!field.IsKey && field.Name != "Name")) continue;
+    if (!IsName(field)) continue;
     const std::string text(FieldText(field, record));
     const bool isName = field.Name == "Name";
     if (text.empty()) return isName ? "It needs a name." : "It needs initials.";
@@ -143,7 +132,8 @@ int Put(World& world, RecordKind kind, int number, const Bytes& bytes) {
       records[number] = record;
       return number;
     }
-    if constexpr (kHasUid<T>) record.Uid = FreeUid(world, kind);
+    if constexpr (requires { record.Uid; })
+      record.Uid = kNextUid[static_cast<std::size_t>(kind)](world);
     return records.NumberOf(records.Append(record));
   });
 }
@@ -190,72 +180,34 @@ std::vector<std::string> DeleteRecord(World& world, RecordKind kind, int number)
 
 namespace {
 
-void Begin(Worker& worker) {
-  worker.Gender = true;
-  worker.Age = 25;
-  worker.Weight = "H";
-  worker.Position = kOpener;
-  for (Percent Worker::*skill :
-       {&Worker::Brawl, &Worker::Technical, &Worker::Speed, &Worker::Stiff, &Worker::Sell,
-        &Worker::Charisma, &Worker::Attitude, &Worker::Behaviour})
-    worker.*skill = 50;
-  worker.Over = 30;
-  worker.Speaks = true;
-  worker.Disposition = "F";
-}
-
-void Begin(Promotion& promotion) {
-  promotion.Size = kBackyard;
-  promotion.TicketPrice = 5;
-  promotion.Image = 50;
-  promotion.Production = 5;
-  promotion.Risk = 50;
-  promotion.MeetingDay = "Monday";
-}
-
-void Begin(Staff& staff) {
-  staff.Gender = true;
-  staff.BirthMonth = 1;
-  staff.Age = 35;
-  staff.Position = kAnnouncer;
-  staff.Talent = 50;
-  staff.Backstage = 50;
-}
-
-void Begin(Team& team) {
-  team.Experience = 50;
-}
-
-void Begin(Stable&) {}
-
-void Begin(Title& title) {
-  title.Singles = true;
-  title.Image = 50;
-}
-
-void Begin(Show& show) {
-  show.Day = "Monday";
-  show.Slot = "P";
-}
-
-void Begin(Network& network) {
-  for (Hundredths Network::*audience : {&Network::EarlyAudience, &Network::PrimeAudience,
-                                        &Network::LateAudience, &Network::GraveAudience})
-    network.*audience = 100;
-  for (Percent Network::*risk :
-       {&Network::EarlyRisk, &Network::PrimeRisk, &Network::LateRisk, &Network::GraveRisk})
-    network.*risk = 50;
-}
-
-void Begin(Sponsor& sponsor) {
-  sponsor.Morality = 50;
-  sponsor.Pay = 10;
-}
-
-void Begin(Event& event) {
-  event.Month = 1;
-  event.Type = 4;
-}
+/// What a field of a new record holds, where the table's default is no sensible beginning.
+struct Beginning {
+  std::string_view Field;
+  int Number;
+  std::string_view Text = {};  // of a text field
+};
+constexpr int kYes = -1;
+constexpr Beginning kOfWorker[] = {
+    {"Gender", kYes}, {"Age", 25},       {"Weight", 0, "H"},     {"Position", kOpener},
+    {"Brawl", 50},    {"Technical", 50}, {"Speed", 50},          {"Stiff", 50},
+    {"Sell", 50},     {"Charisma", 50},  {"Attitude", 50},       {"Behaviour", 50},
+    {"Over", 30},     {"Speaks", kYes},  {"Disposition", 0, "F"}};
+constexpr Beginning kOfPromotion[] = {{"Size", kBackyard}, {"TicketPrice", 5},
+                                      {"Image", 50},       {"Production", 5},
+                                      {"Risk", 50},        {"MeetingDay", 0, "Monday"}};
+constexpr Beginning kOfStaff[] = {{"Gender", kYes},         {"BirthMonth", 1}, {"Age", 35},
+                                  {"Position", kAnnouncer}, {"Talent", 50},    {"Backstage", 50}};
+constexpr Beginning kOfTeam[] = {{"Experience", 50}};
+constexpr Beginning kOfTitle[] = {{"Singles", kYes}, {"Image", 50}};
+constexpr Beginning kOfShow[] = {{"Day", 0, "Monday"}, {"Slot", 0, "P"}};
+constexpr Beginning kOfNetwork[] = {
+    {"EarlyAudience", 100}, {"PrimeAudience", 100}, {"LateAudience", 100}, {"GraveAudience", 100},
+    {"EarlyRisk", 50},      {"PrimeRisk", 50},      {"LateRisk", 50},      {"GraveRisk", 50}};
+constexpr Beginning kOfSponsor[] = {{"Morality", 50}, {"Pay", 10}};
+constexpr Beginning kOfEvent[] = {{"Month", 1}, {"Type", 4}};
+constexpr std::span<const Beginning> kBeginnings[] = {
+    kOfWorker, kOfPromotion, kOfStaff,   kOfTeam,    {},
+    kOfTitle,  kOfShow,      kOfNetwork, kOfSponsor, kOfEvent};
 
 void Part(Promotion& promotion) {
   promotion.Commissioner = 0;
@@ -295,18 +247,22 @@ std::string FreeText(const World& world, RecordKind kind, const Field& field,
 
 Bytes NewRecord(RecordKind kind) {
   Bytes record = TableKindOf(LayoutOf(kind)).Default;
-  const World world;
-  WithRecords(world, kind, [&]<class T>(const Records<T>&) { Begin(As<T>(record.data())); });
+  for (const Beginning& beginning : kBeginnings[static_cast<std::size_t>(kind)]) {
+    const Field& field = *FieldNamed(kind, beginning.Field).Of;
+    if (field.Kind == FieldKind::Text)
+      SetFieldText(field, record.data(), 0, beginning.Text);
+    else
+      SetFieldNumber(field, record.data(), 0, beginning.Number);
+  }
   return record;
 }
 
 Bytes CopyOfRecord(const World& world, RecordKind kind, int number) {
   const std::byte* from = RecordAt(world, kind, number);
   Bytes record(from, from + LayoutOf(kind).Size);
-  for (const Field& field : LayoutOf(kind).Fields) {
-    if (field.Kind != FieldKind::Text || (!field.IsKey && field.Name != "Name")) continue;
-    SetFieldText(field, record.data(), 0, FreeText(world, kind, field, FieldText(field, from)));
-  }
+  for (const Field& field : LayoutOf(kind).Fields)
+    if (IsName(field))
+      SetFieldText(field, record.data(), 0, FreeText(world, kind, field, FieldText(field, from)));
   WithRecords(world, kind, [&]<class T>(const Records<T>&) {
     T& copy = As<T>(record.data());
     Part(copy);

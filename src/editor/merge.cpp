@@ -16,11 +16,6 @@ int Arrivals::Count(Fate fate) const {
                                         [&](const Arrival& row) { return row.Comes == fate; }));
 }
 
-void MendArrivals(World& world, Arrivals& arrivals) {
-  const FaultList mended = MendWorld(world);
-  arrivals.Mended.insert(arrivals.Mended.end(), mended.begin(), mended.end());
-}
-
 std::string WhyNoArrivals(const World& world) {
   const std::size_t faults = TellFaults(world);
   return faults == 0 ? "" : "The data have " + Counted(faults, "fault") + ". Clean them up first.";
@@ -51,6 +46,12 @@ int UidMap::operator()(int uid) const {
 }
 
 namespace {
+
+/// Puts in order what came into a world that was in order before.
+void MendArrivals(World& world, Arrivals& arrivals) {
+  const FaultList mended = MendWorld(world);
+  arrivals.Mended.insert(arrivals.Mended.end(), mended.begin(), mended.end());
+}
 
 void MakeFreeAgent(World& world, Worker& worker) {
   worker.Employer = 0;  // of the other world: nobody here lost him
@@ -166,19 +167,13 @@ class Merger {
     });
   }
 
+  /// nullptr for what is not among the new files: the mending sees to it.
   const UidMap* LeadsOf(Refers to) const {
-    switch (to) {
-      case Refers::Worker:
-        return &workers_.Leads();
-      case Refers::Promotion:
-        return &promotions_.Leads();
-      case Refers::Staff:
-        return &staff_.Leads();
-      case Refers::Network:
-        return &networks_.Leads();
-      default:
-        return nullptr;  // not among the new files: the mending sees to it
-    }
+    return to == Refers::Worker      ? &workers_.Leads()
+           : to == Refers::Promotion ? &promotions_.Leads()
+           : to == Refers::Staff     ? &staff_.Leads()
+           : to == Refers::Network   ? &networks_.Leads()
+                                     : nullptr;
   }
 
   /// Where the fields of a record lead once everybody has his uid.

@@ -39,10 +39,6 @@ struct Arrivals {
   int Count(Fate fate) const;
 };
 
-/// Puts in order what came into a world that was in order before: references to nobody, values out
-/// of range and what does not fit to what was there.
-void MendArrivals(World& world, Arrivals& arrivals);
-
 /// Why nothing may be taken in: the data has faults of its own. Empty when it is in order.
 std::string WhyNoArrivals(const World& world);
 

@@ -1,56 +1,28 @@
 #include "editor/recordfile.h"
 
 #include <algorithm>
-#include <array>
 
 #include "records/fields/charset.h"
 #include "records/fields/wording.h"
+#include "records/modVar.h"
 
 namespace grapplemont {
 
 namespace {
 
-/// What the editor calls the records of a file.
-struct Plural {
-  std::string_view Record, Says;
-};
-constexpr std::array<Plural, 10> kPlurals = {{{"Worker", "wrestlers"},
-                                              {"Promotion", "promotions"},
-                                              {"Staff", "staff members"},
-                                              {"Team", "tag teams"},
-                                              {"Stable", "stables"},
-                                              {"Title", "titles"},
-                                              {"Show", "shows"},
-                                              {"Network", "networks"},
-                                              {"Sponsor", "sponsors"},
-                                              {"Event", "events"}}};
-
-std::string_view PluralOf(std::string_view record) {
-  for (const Plural& row : kPlurals)
-    if (row.Record == record) return row.Says;
-  return "records";
-}
-
-std::string Grouped(int number) {
-  std::string digits = std::to_string(number);
-  for (int at = static_cast<int>(digits.size()) - 3; at > 0; at -= 3)
-    digits.insert(static_cast<std::size_t>(at), ",");
-  return digits;
-}
-
-Bytes ReadUpTo(Disk& disk, const std::string& path, std::int64_t most, std::int64_t& size) {
-  const OpenedFile file(disk, path, false);
-  size = disk.Size(file);
-  Bytes bytes(size > most ? 0 : static_cast<std::size_t>(size));
-  if (!bytes.empty()) disk.ReadAt(file, 0, bytes);
-  return bytes;
-}
+/// What the editor calls the records of a file, by what one is called.
+constexpr std::pair<std::string_view, std::string_view> kPlurals[] = {
+    {"Worker", "wrestlers"}, {"Promotion", "promotions"}, {"Staff", "staff members"},
+    {"Team", "tag teams"},   {"Stable", "stables"},       {"Title", "titles"},
+    {"Show", "shows"},       {"Network", "networks"},     {"Sponsor", "sponsors"},
+    {"Event", "events"}};
 
 void ReadWhole(FileBytes& file, Disk& disk, const std::string& path, const std::string& name,
                const RecordLayout& layout) {
-  const std::int64_t record = layout.Size;
-  std::int64_t size = 0;
-  file.Whole = ReadUpTo(disk, path, record * (layout.Limit + 1) - 1, size);
+  const OpenedFile opened(disk, path, false);
+  const std::int64_t record = layout.Size, size = disk.Size(opened);
+  if (size / record <= layout.Limit) file.Whole.resize(static_cast<std::size_t>(size));
+  if (!file.Whole.empty()) disk.ReadAt(opened, 0, file.Whole);
   const auto surplus = static_cast<std::size_t>(size % record);
   if (size / record > layout.Limit) {
     file.Remark = name + " has room for " + Counted(size / record, "record") +
@@ -67,7 +39,8 @@ void ReadWhole(FileBytes& file, Disk& disk, const std::string& path, const std::
 }  // namespace
 
 std::string LimitMessage(const RecordLayout& layout) {
-  return "Maximum " + Grouped(layout.Limit) + " " + std::string(PluralOf(layout.Name)) +
+  const auto plural = std::ranges::find(kPlurals, layout.Name, [](auto& row) { return row.first; });
+  return "Maximum " + Dollars(layout.Limit).substr(1) + " " + std::string(plural->second) +
          " per file!";
 }
 
@@ -89,26 +62,19 @@ FileBytes ReadFileBytes(Disk& disk, const std::string& folder, const std::string
   return file;
 }
 
-namespace {
-
-int CountIn(const World& world, const RecordLayout& layout) {
-  for (const Table* table : world.Tables())
-    if (table->Layout() == &layout)
-      return static_cast<int>(table->RecordBytes().size()) / layout.Size;
-  return 0;
-}
-
-}  // namespace
-
 std::vector<RecordCount> CountsOf(const World& now, const World* then) {
+  const auto countIn = [](const World& world, const RecordLayout& layout) {
+    for (const Table* table : world.Tables())
+      if (table->Layout() == &layout)
+        return static_cast<int>(table->RecordBytes().size()) / layout.Size;
+    return 0;
+  };
   std::vector<RecordCount> counts;
   for (const TableKind& kind : TableKinds()) {
     if (kind.OfGame) continue;
-    RecordCount& row = counts.emplace_back();
-    row.Table = kind.Name;
-    row.File = kind.Layout->File;
-    row.Now = CountIn(now, *kind.Layout);
-    if (then) row.Then = CountIn(*then, *kind.Layout);
+    counts.push_back(
+        {std::string(kind.Name), std::string(kind.Layout->File), countIn(now, *kind.Layout)});
+    if (then) counts.back().Then = countIn(*then, *kind.Layout);
   }
   return counts;
 }

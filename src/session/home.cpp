@@ -86,13 +86,10 @@ std::string DrawWaitingPicture(Disk& disk, const std::string& pictureFolder, int
 
 namespace {
 
-SlotSummary Unreadable(const std::string& reason) {
-  return {"Slot Cannot Be Read", reason, false, false};
+SlotSummary NotPlayable(const char* caption, std::string details = {}) {
+  return {caption, std::move(details), false, false};
 }
-
-SlotSummary OtherFormat() {
-  return {"Save Slot Not In 2.0 Format", "", false, false};
-}
+constexpr const char* kUnreadable = "Slot Cannot Be Read";
 
 }  // namespace
 
@@ -102,20 +99,19 @@ SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
   if (standing.empty()) return {};
   const Disk::Kind kind = disk.Look(standing + "/" + name);
   if (kind == Disk::Kind::Folder || kind == Disk::Kind::Other)
-    return Unreadable(name + " is no plain file.");
+    return NotPlayable(kUnreadable, name + " is no plain file.");
   const auto bytes = Slot::Peek(disk, folder, KnownFiles(), name);
   if (!bytes) return {};
   GameInfo game;
-  if (bytes->size() < sizeof(GameInfo)) return OtherFormat();
-  std::memcpy(&game, bytes->data(), sizeof(GameInfo));
-  if (!(game.Version == kVersion)) return OtherFormat();
+  if (bytes->size() >= sizeof(GameInfo)) std::memcpy(&game, bytes->data(), sizeof(GameInfo));
+  if (game.Version != kVersion) return NotPlayable("Save Slot Not In 2.0 Format");
   return {game.SaveName.Str(),
           "( " + std::string(Says(kDifficulties, game.Difficulty)) + " level, started " +
               MonthYear(game.StartDate) + ", current date " + MonthYear(game.Today) + ")" +
               (HasEnded(game) ? " The career has ended." : ""),
           false, true};
 } catch (const DiskError& fault) {
-  return Unreadable(fault.what());
+  return NotPlayable(kUnreadable, fault.what());
 }
 
 std::string QuestionOfLeavings(Disk& disk, const std::string& folder) {

@@ -67,18 +67,8 @@ void NewGameInfo(World& world, const NewGameChoice& choice) {
 }
 
 void EmptyFiles(World& world, const NewGameChoice& choice) {
-  world.News().Remove();
-  world.Segments().Remove();
-  world.ShowRuns().Remove();
-  world.History().Remove();
-  world.Bouts().Remove();
-  world.Tallies().Remove();
-  world.Reigns().Remove();
-  world.Reports().Remove();
-  world.Awards().Remove();
-  world.YearEnds().Remove();
-  world.Deeds().Remove();
-  world.Incidents().Remove();
+  for (Table* table : world.Tables())
+    if (std::ranges::find(kDataSet, table->File()) == kDataSet.end()) table->Remove();
   world.Feuds().Rewrite(std::vector<Feud>(kFeuds));
   NewGameInfo(world, choice);
   world.Notes().Set("Notepad");
@@ -160,7 +150,7 @@ void StartWorkers(World& world) {
 }
 
 void FillWorkers(World& world) {
-  const int target = WorkerTarget(world.Promotions().Count());
+  const int target = std::min(world.Promotions().Count() * 50, 750);
   while (world.Workers().Count() < target) NewFillerWorker(world);
 }
 
@@ -177,7 +167,9 @@ void FillStaff(World& world) {
   for (int position = kOwner; position <= kTrainer; ++position) {
     auto count = std::count_if(world.AllStaff().begin(), world.AllStaff().end(),
                                [&](const Staff& staff) { return staff.Position == position; });
-    const int target = StaffTarget(position, world.Promotions().Count());
+    const PostTarget& post = kPostTargets[static_cast<std::size_t>(position - 1)];
+    const int target =
+        std::min(post.Base + world.Promotions().Count() * post.PerPromotion, post.Most);
     for (; count < target && !world.AllStaff().Full(); ++count) NewFillerStaff(world, position);
   }
 }
@@ -251,15 +243,6 @@ constexpr Preparation kPreparations[] = {
 };
 
 }  // namespace
-
-int WorkerTarget(int promotions) {
-  return std::min(promotions * 50, 750);
-}
-
-int StaffTarget(int position, int promotions) {
-  const PostTarget& target = kPostTargets.at(static_cast<std::size_t>(position - 1));
-  return std::min(target.Base + promotions * target.PerPromotion, target.Most);
-}
 
 FaultList NewGame(World& world, const NewGameChoice& choice,
                   const std::function<void(std::string_view)>& watcher) {

@@ -25,9 +25,4 @@ struct NewGameChoice {
 FaultList NewGame(World& world, const NewGameChoice& choice,
                   const std::function<void(std::string_view)>& watcher = {});
 
-/// How many workers and how many staff of a post a new world has at least, by its count of
-/// promotions.
-int WorkerTarget(int promotions);
-int StaffTarget(int position, int promotions);
-
 }  // namespace grapplemont

@@ -128,16 +128,12 @@ long long SponsorsMonth(const World& world, const Promotion& promotion, const Ha
          1000 / pay.Of / kMonths;
 }
 
-void AddWages(const World& world, const Promotion& promotion, MonthMoney& money) {
-  const WageBill bill = WagesOf(world, promotion.Uid);
-  money.WorkerWages = bill.Workers;
-  money.StaffWages = bill.Staff;
-}
-
 MonthMoney MonthOf(const World& world, const Promotion& promotion, const Hands& hands) {
   MonthMoney money;
   AddTickets(world, promotion, hands, money);
-  AddWages(world, promotion, money);
+  const WageBill bill = WagesOf(world, promotion.Uid);
+  money.WorkerWages = bill.Workers;
+  money.StaffWages = bill.Staff;
   Promotion spending = promotion;
   spending.Merchandising = hands.Merchandising;
   money.Merchandise = MerchandiseSales(spending, kEvenEconomy);
@@ -270,13 +266,7 @@ std::string MoneyTable(const PromotionBalance& balance) {
 
 int Balance(const Arguments& arguments, Shell& shell) {
   const auto disk = RealDisk();
-  shell.Out << BalancePage(ReadWorld(*disk, arguments.Place(0), shell.Errors));
-  return 0;
-}
-
-}  // namespace
-
-std::string BalancePage(const World& world) {
+  const World world = ReadWorld(*disk, arguments.Place(0), shell.Errors);
   const std::vector<PromotionBalance> balances = BalanceOf(world);
   std::string page = std::string(kIntroduction) + Overview(balances);
   for (const PromotionBalance& balance : balances)
@@ -284,8 +274,11 @@ std::string BalancePage(const World& world) {
             std::string(SizeText(balance.Of->Size)) + ", image " +
             std::to_string(balance.Of->Image) + ", risk " + std::to_string(balance.Of->Risk) +
             ".\n\n" + CardTable(balance) + "\n" + MoneyTable(balance);
-  return ToUtf8(page);
+  shell.Out << ToUtf8(page);
+  return 0;
 }
+
+}  // namespace
 
 const Command kBalance{"balance",
                        "FOLDER",

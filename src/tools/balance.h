@@ -48,7 +48,4 @@ struct PromotionBalance {
 /// who sign on the first day.
 std::vector<PromotionBalance> BalanceOf(const World& world);
 
-/// docs/balance.md: the same as tables, in UTF-8.
-std::string BalancePage(const World& world);
-
 }  // namespace grapplemont::tools

@@ -2,9 +2,13 @@
 #include <optional>
 #include <ostream>
 
+#include "booking/showstart.h"
+#include "calendar/advanceday.h"
+#include "calendar/incidents.h"
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
+#include "report/report.h"
 #include "session/home.h"
 #include "session/newgame.h"
 #include "tools/commands.h"
@@ -123,40 +127,11 @@ void RequireGame(Game& game, int slot) {
     throw WorldFault("Slot " + std::to_string(slot) + ": " + summary.Caption + ".");
 }
 
-/// Tells of the days on a terminal, and of each month in the file of summaries.
-class Watcher {
- public:
-  Watcher(Game& game, const Shell& shell, int days) : game_(game), shell_(shell), days_(days) {}
-  void WriteTo(const std::string& path) { stats_.emplace(game_.Disk(), path); }
-
-  void DayPassed(int day) {
-    const World& world = game_.World();
-    if (stats_ && IsFirstOfMonth(world.Today())) stats_->Add(MonthSummary(world));
-    if (shell_.Terminal)
-      shell_.Errors << "\r" << IsoDate(world.Today()) << ", day " << day << " of " << days_
-                    << std::flush;
-  }
-  void Done() {
-    if (shell_.Terminal) shell_.Errors << "\r\x1B[K" << std::flush;
-  }
-
- private:
-  Game& game_;
-  const Shell& shell_;
-  int days_;
-  std::optional<StatsFile> stats_;
-};
-
-/// "3, 2": why he has lost his jobs, in their order.
-std::string Reasons(const CareerEnd& end) {
-  std::string list;
-  for (const int reason : end.Reasons) list += (list.empty() ? "" : ", ") + std::to_string(reason);
-  return list;
-}
-
 void TellEnd(const World& world, const CareerEnd& end, std::ostream& out) {
-  if (end.EndCode == 0 && !end.Reasons.empty())
-    out << "Dismissed on the way (reason " << Reasons(end) << ").\n";
+  std::vector<std::string> reasons;
+  for (const int reason : end.Reasons) reasons.push_back(std::to_string(reason));
+  if (end.EndCode == 0 && !reasons.empty())
+    out << "Dismissed on the way (reason " << Joined(reasons) << ").\n";
   const std::string days = Counted(end.Days, "day");
   if (end.EndCode == 0)
     out << "After " << days << " it is " << LongDate(world.Today()) << ".\n";
@@ -175,18 +150,27 @@ int Run(const Arguments& arguments, Shell& shell) {
   Game game(desk, *disk, GameOptions(arguments, *disk, shell));
   RequireGame(game, slot);
   for (const std::string& remark : game.OpenSlot(slot)) shell.Errors << ToUtf8(remark) << "\n";
-  Watcher watcher(game, shell, days);
-  if (const auto stats = arguments.Text("--stats")) watcher.WriteTo(*stats);
+  std::optional<StatsFile> stats;
+  if (const auto path = arguments.Text("--stats")) stats.emplace(*disk, *path);
+  const World& world = game.World();
+  const auto dayPassed = [&](int day) {
+    if (stats && IsFirstOfMonth(world.Today())) stats->Add(MonthSummary(world));
+    if (shell.Terminal)
+      shell.Errors << "\r" << IsoDate(world.Today()) << ", day " << day << " of " << days
+                   << std::flush;
+  };
+  const auto clearLine = [&] {
+    if (shell.Terminal) shell.Errors << "\r\x1B[K" << std::flush;
+  };
   CareerEnd end;
   try {
-    end = PlayDays(
-        game, days, shows, [&](int day) { watcher.DayPassed(day); }, after);
+    end = PlayDays(game, days, shows, dayPassed, after);
   } catch (const FieldOverflow& fault) {
-    watcher.Done();
-    throw WorldFault(IsoDate(game.World().Today()) + ": " + game.Explain(fault));
+    clearLine();
+    throw WorldFault(IsoDate(world.Today()) + ": " + game.Explain(fault));
   }
-  watcher.Done();
-  TellEnd(game.World(), end, shell.Out);
+  clearLine();
+  TellEnd(world, end, shell.Out);
   game.CloseSlot();
   return 0;
 }
@@ -224,5 +208,103 @@ const Command kRun{"run",
                    0,
                    kRunOptions,
                    Run};
+
+// The next show of a game, told.
+
+namespace {
+
+constexpr int kFarthest = 400;  // days; an Event may be a year away
+
+/// The slot's world as it is read, for nobody to write.
+World CopyOfSlot(Game& game, int slot) {
+  RequireGame(game, slot);
+  std::map<std::string, Bytes> files;
+  const auto known = KnownFiles();
+  for (const KnownFile& file : known)
+    if (auto contents = Slot::Peek(game.Disk(), game.SlotFolder(slot), known, file.Name))
+      files.emplace(file.Name, std::move(*contents));
+  World world(game.NewDraws(Game::kPlay), game.NewDraws(Game::kProse));
+  world.Load(std::move(files));
+  return world;
+}
+
+/// Passes days without a show of the wanted kind, and books the first that can be held.
+DayKind GoToShow(World& world, bool onlyEvent) {
+  if (ShowUnderWay(world)) LeaveShow(world);
+  for (int day = 0; day < kFarthest; ++day) {
+    const DayKind kind = DayKindToday(world, [] { return true; });
+    const bool wanted = kind == DayKind::Event || (kind == DayKind::Television && !onlyEvent);
+    if (wanted && BookAutoShow(world, kind == DayKind::Event)) return kind;
+    AdvanceDay(world, false);
+    while (FirstIncident(world)) CloseIncident(world);
+  }
+  throw WorldFault("There is no show that the roster could fill.");
+}
+
+void TellLine(std::ostream& out, const std::string& text) {
+  if (!text.empty()) out << ToUtf8(text) << "\n";
+}
+
+void TellDetails(std::ostream& out, const SegmentDetails& details) {
+  out << "\n" << ToUtf8(details.Heading) << "\n";
+  TellLine(out, details.Type.empty() ? details.Style : details.Style + ", " + details.Type);
+  TellLine(out, details.Names);
+  TellLine(out, details.Belt);
+  TellLine(out, details.Winner);
+  out << "\n";
+}
+
+void TellRatings(std::ostream& out, const ToldSegment& told, bool isMatch) {
+  out << "\n";
+  if (isMatch) out << "Match Quality " << int(told.Quality) << "%, ";
+  out << "Crowd Reaction " << int(told.Crowd) << "%, Overall Rating " << int(told.Overall) << "%\n";
+}
+
+int Tell(const Arguments& arguments, Shell& shell) {
+  const auto disk = RealDisk();
+  const auto voice = arguments.Number("--voice", kLamplighter, kQvd);
+  EmptyDesk desk;
+  Game game(desk, *disk, GameOptions(arguments, *disk, shell));
+  World world = CopyOfSlot(game, SlotOf(arguments));
+  if (voice) world.Game().Reporter = static_cast<int>(*voice);
+  try {
+    const DayKind kind = GoToShow(world, arguments.Has("--event"));
+    TellShow(world, kind == DayKind::Event, shell.Out);
+  } catch (const FieldOverflow& fault) {
+    throw WorldFault(world.Explain(fault));
+  }
+  return 0;
+}
+
+constexpr OptionKind kTellOptions[] = {
+    {"--home", "H"}, {"--slot", "N", true}, {"--seed", "S"}, {"--voice", "0..2"}, {"--event", ""}};
+
+}  // namespace
+
+void TellShow(World& world, bool isEvent, std::ostream& out) {
+  const CommentaryTeam team = isEvent ? BestTeam(world) : TvTeam(world);
+  TellLine(out, "Event Report For " + ShowName(world, isEvent));
+  TellLine(out, LongDate(world.Today()));
+  TellLine(out, "Reported By " + std::string(VoiceName(world.Game().Reporter)));
+  LineMemory memory;
+  StartShow(world, isEvent, team);
+  while (const int number = NextSegment(world)) {
+    const Segment segment = world.Segments()[number];
+    const ToldSegment told = RunNextSegment(world, &memory);
+    TellDetails(out, DetailsOf(world, segment));
+    TellLine(out, told.Report);
+    TellLine(out, told.Verdict);
+    TellRatings(out, told, segment.Kind == kMatch);
+  }
+  out << "\nThe show: " << CloseShow(world) << "%\n";
+}
+
+const Command kTell{"tell",
+                    "--home H --slot N --seed S [--voice 0..2] [--event]",
+                    "Books the next show (with --event the next Event) of a saved game and prints "
+                    "its report; the game itself stays as it is.",
+                    0,
+                    kTellOptions,
+                    Tell};
 
 }  // namespace grapplemont::tools

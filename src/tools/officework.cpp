@@ -137,16 +137,6 @@ bool HoldTodays(World& world, DayKind kind, Shows shows) {
   return HoldAutoShow(world, kind == DayKind::Event, &memory);
 }
 
-/// Whoever runs a promotion unseen makes light of what happens backstage and takes no other job.
-void IgnoreIncidents(World& world) {
-  while (FirstIncident(world)) CloseIncident(world);
-}
-
-/// Whoever waits to challenge him is heard out.
-void MeetWhoWaits(World& world) {
-  if (world.Game().EndCode == kStrangerWaits) MeetStranger(world);
-}
-
 /// A rival no bigger than the promotion that was left has a chair for him; false where none is.
 bool TakeAnotherJob(World& world) {
   std::vector<const Promotion*> offers;
@@ -167,14 +157,16 @@ int EndCodeOf(const World& world) {
 }
 
 void PlayDay(World& world, Shows shows, const StepWatcher& watcher) {
-  MeetWhoWaits(world);
+  // Whoever waits to challenge him is heard out.
+  if (world.Game().EndCode == kStrangerWaits) MeetStranger(world);
   world.Session.ShowRating = 0;
   world.Session.ShowFlag = 0;
   const DayKind kind = DayKindToday(world, [] { return true; });
   const bool isShow = kind == DayKind::Television || kind == DayKind::Event;
   const bool cancelled = isShow && !FinishTodays(world) && !HoldTodays(world, kind, shows);
   AdvanceDay(world, cancelled, watcher);
-  IgnoreIncidents(world);
+  // Whoever runs a promotion unseen makes light of what happens backstage and takes no other job.
+  while (FirstIncident(world)) CloseIncident(world);
   if (shows == Shows::Auto && !HasEnded(world.Game())) WorkInTheOffice(world);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <iosfwd>
 #include <vector>
 
 #include "calendar/advanceday.h"
@@ -50,5 +51,8 @@ enum class AfterTheEnd { Stop, AnotherJob };
 /// routines are. `dayPassed` hears of each.
 CareerEnd PlayDays(Game& game, int days, Shows shows, const std::function<void(int day)>& dayPassed,
                    AfterTheEnd after = AfterTheEnd::Stop);
+
+/// Holds the show that match.dat holds and tells it from start to close, in UTF-8.
+void TellShow(World& world, bool isEvent, std::ostream& out);
 
 }  // namespace grapplemont::tools

@@ -1,5 +1,3 @@
-#include "tools/pages.h"
-
 #include <algorithm>
 #include <ostream>
 
@@ -8,6 +6,8 @@
 #include "records/tables/tablekinds.h"
 #include "records/world.h"
 #include "tools/commands.h"
+
+// Pages of docs/ that are made from the field lists, so that they are always right.
 
 namespace grapplemont::tools {
 
@@ -19,27 +19,27 @@ std::string Words(Vocabulary words) {
   return list;
 }
 
-std::string ReferenceInWords(Refers to) {
-  switch (to) {
-    case Refers::Worker:
-      return "a worker's Name";
-    case Refers::Promotion:
-      return "a promotion's Initials";
-    case Refers::Staff:
-      return "a staff member's Name";
-    case Refers::Commentator:
-      return "a staff member's Name, or a worker's if ColourIsWorker is yes";
-    case Refers::Network:
-      return "a network's Name";
-    case Refers::Sponsor:
-      return "a sponsor's Name";
-    case Refers::Stable:
-      return "the Name of a stable of the employer, or None";
-    case Refers::Split:
-      return "one of the employer's Split1 to Split4, or None";
-    default:
-      return "";
-  }
+/// What a field that leads somewhere holds: in a table, in a file.
+struct Reference {
+  Refers To;
+  std::string_view Cell, Record;
+};
+constexpr Reference kReferences[] = {
+    {Refers::Nothing, "", ""},
+    {Refers::Worker, "a worker's Name", "Worker"},
+    {Refers::Promotion, "a promotion's Initials", "Promotion"},
+    {Refers::Staff, "a staff member's Name", "Staff"},
+    {Refers::Commentator, "a staff member's Name, or a worker's if ColourIsWorker is yes",
+     "Staff, or Worker if ColourIsWorker"},
+    {Refers::Network, "a network's Name", "Network"},
+    {Refers::Sponsor, "a sponsor's Name", "Sponsor"},
+    {Refers::Stable, "the Name of a stable of the employer, or None", "Stable, by name"},
+    {Refers::Split, "one of the employer's Split1 to Split4, or None",
+     "Split1 to Split4 of the employer, by name"},
+    {Refers::Title, "", "Title, by name"}};
+
+const Reference& ReferenceOf(const Field& field) {
+  return *std::ranges::find(kReferences, field.To, &Reference::To);
 }
 
 /// "dollars, 0 to 1000"
@@ -51,7 +51,7 @@ std::string NumberInWords(const Field& field) {
 }
 
 std::string GoesIn(const Field& field) {
-  std::string text = ReferenceInWords(field.To);
+  std::string text(ReferenceOf(field).Cell);
   if (!text.empty()) return text + (field.MayBeNone ? ", or none" : "");
   if (!field.Words.empty()) return Words(field.Words);
   switch (field.Kind) {
@@ -97,24 +97,10 @@ std::string TableSection(const TableKind& kind) {
 }
 
 int Columns(const Arguments&, Shell& shell) {
-  shell.Out << ColumnsPage();
+  for (const TableKind& kind : TableKinds())
+    if (!kind.OfGame) shell.Out << TableSection(kind);
   return 0;
 }
-
-}  // namespace
-
-std::string ColumnsPage() {
-  std::string page;
-  for (const TableKind& kind : TableKinds())
-    if (!kind.OfGame) page += TableSection(kind);
-  return page;
-}
-
-const Command kColumns{
-    "columns", "", "Prints the part of docs/world-making.md that tells every column.",
-    0,         {}, Columns};
-
-namespace {
 
 constexpr std::string_view kIntroduction = R"(# File formats
 
@@ -168,22 +154,8 @@ Records know each other by uid, a number in the first two bytes of a record that
 are led to Stables and to the parts of a split roster by name.
 )";
 
-std::string TypeName(const Field& field) {
-  switch (field.Kind) {
-    case FieldKind::Word:
-      return "16-bit";
-    case FieldKind::Percent:
-      return "percent";
-    case FieldKind::Long:
-      return "32-bit";
-    case FieldKind::Flag:
-      return "flag";
-    case FieldKind::Date:
-      return "date";
-    default:
-      return "text";
-  }
-}
+/// By FieldKind.
+constexpr std::string_view kTypeNames[] = {"16-bit", "percent", "32-bit", "flag", "date", "text"};
 
 std::string NumberRange(const Field& field) {
   if (field.Min == -32768 && field.Max == 32767) return "any";
@@ -216,35 +188,9 @@ std::string Range(const Field& field) {
   }
 }
 
-std::string RefersTo(const Field& field) {
-  switch (field.To) {
-    case Refers::Nothing:
-      return "";
-    case Refers::Worker:
-      return "Worker";
-    case Refers::Promotion:
-      return "Promotion";
-    case Refers::Staff:
-      return "Staff";
-    case Refers::Commentator:
-      return "Staff, or Worker if ColourIsWorker";
-    case Refers::Network:
-      return "Network";
-    case Refers::Sponsor:
-      return "Sponsor";
-    case Refers::Stable:
-      return "Stable, by name";
-    case Refers::Split:
-      return "Split1 to Split4 of the employer, by name";
-    case Refers::Title:
-      return "Title, by name";
-  }
-  return "";
-}
-
 std::string NameOf(const Field& field) {
-  if (field.Count == 1) return "`" + FieldName(field, 0) + "`";
-  return "`" + FieldName(field, 0) + "` to `" + FieldName(field, field.Count - 1) + "`";
+  const std::string first = "`" + FieldName(field, 0) + "`";
+  return field.Count == 1 ? first : first + " to `" + FieldName(field, field.Count - 1) + "`";
 }
 
 std::string OffsetOf(const Field& field) {
@@ -261,10 +207,10 @@ std::string FileSection(const RecordLayout& layout) {
   for (const Field& field : layout.Fields) {
     const std::string cells[] = {OffsetOf(field),
                                  std::to_string(field.Width),
-                                 TypeName(field),
+                                 std::string(kTypeNames[static_cast<std::size_t>(field.Kind)]),
                                  NameOf(field),
                                  Range(field),
-                                 RefersTo(field),
+                                 std::string(ReferenceOf(field).Record),
                                  std::string(field.Unit),
                                  std::string(field.Help)};
     for (const std::string& cell : cells) text += "| " + cell + (cell.empty() ? "" : " ");
@@ -274,18 +220,16 @@ std::string FileSection(const RecordLayout& layout) {
 }
 
 int Formats(const Arguments&, Shell& shell) {
-  shell.Out << FormatsPage();
+  shell.Out << kIntroduction;
+  for (const TableKind& kind : TableKinds()) shell.Out << FileSection(*kind.Layout);
   return 0;
 }
 
 }  // namespace
 
-std::string FormatsPage() {
-  std::string page(kIntroduction);
-  for (const TableKind& kind : TableKinds()) page += FileSection(*kind.Layout);
-  return page;
-}
-
+const Command kColumns{
+    "columns", "", "Prints the part of docs/world-making.md that tells every column.",
+    0,         {}, Columns};
 const Command kFormats{"formats", "", "Prints docs/file-formats.md.", 0, {}, Formats};
 
 }  // namespace grapplemont::tools

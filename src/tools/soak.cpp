@@ -127,13 +127,11 @@ World Begin(const World& data, const Plan& plan) {
   std::map<std::string, Bytes> files;
   for (NewFile& file : FilesOf(data)) files[file.Name] = std::move(file.Contents);
   world.Load(files);
-  NewGameChoice choice;
-  choice.PlayerName = "Nobody";
-  choice.PromotionUid = plan.PromotionUid;
-  choice.Difficulty = kEasy + static_cast<int>(plan.Seed % 4);
-  choice.Start = kStart;
-  choice.SaveName = "Soak";
-  NewGame(world, choice);
+  NewGame(world, {.PlayerName = "Nobody",
+                  .PromotionUid = plan.PromotionUid,
+                  .Difficulty = kEasy + static_cast<int>(plan.Seed % 4),
+                  .Start = kStart,
+                  .SaveName = "Soak"});
   return world;
 }
 

@@ -66,23 +66,23 @@ int RunCommand(const Command& command, std::span<const std::string> words, Shell
     shell.Out << command.Summary << "\n";
     return 0;
   }
+  const auto tell = [&](std::string_view fault) {
+    // Some speak of what they found in files, in the letters of the records, others of what was
+    // typed.
+    shell.Errors << kProgram << " " << command.Name << ": " << OneLine(ValidUtf8(fault)) << "\n";
+  };
   try {
     return command.Run(Arguments(words, command.Options, command.Places), shell);
   } catch (const UsageError& fault) {
-    shell.Errors << kProgram << " " << command.Name << ": " << OneLine(ValidUtf8(fault.what()))
-                 << "\n";
+    tell(fault.what());
     PrintUsage(shell.Errors, command);
     return 2;
   } catch (const std::bad_alloc&) {
-    shell.Errors << kProgram << " " << command.Name << ": " << kOutOfMemory << "\n";
-    return 1;
+    tell(kOutOfMemory);
   } catch (const std::exception& fault) {
-    // Some speak of what they found in files, in the letters of the records, others of what was
-    // typed.
-    shell.Errors << kProgram << " " << command.Name << ": " << OneLine(ValidUtf8(fault.what()))
-                 << "\n";
-    return 1;
+    tell(fault.what());
   }
+  return 1;
 }
 
 }  // namespace

@@ -61,14 +61,13 @@ Heading Named(std::string_view name, int number, std::string_view slots, int lea
   return heading;
 }
 
-WordsFile Meeting() {
-  WordsFile file{"meeting.txt", "words", "Meeting", {}};
-  for (const PointRow& row : PointRows()) {
+/// A heading for each row, called by its name in the enumeration.
+template <auto First, auto Last>
+void AddRows(WordsFile& file, const auto& rows, int least, int most = kAnyNumber) {
+  for (const auto& row : rows) {
     const int number = static_cast<int>(row.Is);
-    file.Headings.push_back(Named(EnumNameIn<Point::RosterSmall, Point::EventNear>(number), number,
-                                  row.Slots, kWaysToSay, kWaysToSay + 1));
+    file.Headings.push_back(Named(EnumNameIn<First, Last>(number), number, row.Slots, least, most));
   }
-  return file;
 }
 
 WordsFile News() {
@@ -78,39 +77,23 @@ WordsFile News() {
   for (const DeedRow& row : kDeedRows)
     file.Headings.push_back(Named(EnumNameIn<kDeedSigned, kDeedCalledOff>(row.Kind).substr(kDeed),
                                   row.Kind, row.Slots, kLeast));
-  for (const TitleNewsRow& row : kTitleNewsRows)
-    file.Headings.push_back(
-        Named(EnumNameIn<kTitleFound, kTitleWon>(row.Is), row.Is, row.Slots, kLeast));
-  return file;
-}
-
-WordsFile Rumours() {
-  WordsFile file{"rumours.txt", "words", "Rumours", {}};
-  for (const WhisperRow& row : kWhisperRows) {
-    const int number = static_cast<int>(row.Is);
-    file.Headings.push_back(Named(EnumNameIn<Whisper::ContractEnds, Whisper::Slipping>(number),
-                                  number, row.Slots, kMostOfAKind));
-  }
-  return file;
-}
-
-WordsFile Fans() {
-  constexpr int kLeast = 8;
-  WordsFile file{"fans.txt", "words", "Fans", {}};
-  for (const FanRow& row : kFanRows) {
-    const int number = static_cast<int>(row.Is);
-    file.Headings.push_back(
-        Named(EnumNameIn<FanMood::Superb, FanMood::Handles>(number), number, row.Slots, kLeast));
-  }
+  AddRows<kTitleFound, kTitleWon>(file, kTitleNewsRows, kLeast);
   return file;
 }
 
 }  // namespace
 
 std::vector<WordsFile> AllWordsFiles() {
+  constexpr int kFanLines = 8;
+  WordsFile meeting{"meeting.txt", "words", "Meeting", {}};
+  AddRows<Point::RosterSmall, Point::EventNear>(meeting, PointRows(), kWaysToSay, kWaysToSay + 1);
+  WordsFile rumours{"rumours.txt", "words", "Rumours", {}};
+  AddRows<Whisper::ContractEnds, Whisper::Slipping>(rumours, kWhisperRows, kMostOfAKind);
+  WordsFile fans{"fans.txt", "words", "Fans", {}};
+  AddRows<FanMood::Superb, FanMood::Handles>(fans, kFanRows, kFanLines);
   std::vector<WordsFile> files;
   AddVoices(files);
-  for (auto file : {Meeting, News, Rumours, Fans}) files.push_back(file());
+  for (const WordsFile& file : {meeting, News(), rumours, fans}) files.push_back(file);
   return files;
 }
 

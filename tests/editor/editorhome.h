@@ -35,16 +35,21 @@ inline World EditorData() {
 }
 
 /// A home whose data folder is edited by screens, and seen as it stands on disk.
-struct EditorHome : HomeFolder {
-  explicit EditorHome(const World& data = EditorData()) : HomeFolder(data) {
-    Desk.Open("frmGameMenu");
-    Desk.Click("cmdeditor");
-  }
+struct DataHome : HomeFolder {
+  using HomeFolder::HomeFolder;
   std::map<std::string, Bytes> Files() { return ReadWorldFiles(Play.Disk(), Play.DataFolder()); }
   World OnDisk() {
     World world;
     world.Load(Files());
     return world;
+  }
+};
+
+/// The same with the editor's hub on screen.
+struct EditorHome : DataHome {
+  explicit EditorHome(const World& data = EditorData()) : DataHome(data) {
+    Desk.Open("frmGameMenu");
+    Desk.Click("cmdeditor");
   }
   /// From the hub to the page of a kind, with a record in hand if one is named.
   void Page(const std::string& button, const std::string& record = {}) {

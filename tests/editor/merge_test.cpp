@@ -8,19 +8,15 @@
 namespace grapplemont::test {
 namespace {
 
-SmallWorld& Here(SmallWorld& here) {
-  return here.Network("Nine")
+World Here() {
+  return SmallWorld()
+      .Network("Nine")
       .Promotion("CWA", kCult)
       .Owner("Ruth Vane")
       .Staff("Pen Loud", kAnnouncer)
       .Crew(3)
       .Team("The Hands", "CWA Hand 1", "CWA Hand 2")
       .Show("Friday Fire", "Friday", "Nine");
-}
-
-World Here() {
-  SmallWorld here;
-  return Here(here);
 }
 
 /// Another promotion, whose records have the same uids as those of Here.
@@ -55,8 +51,10 @@ World Linked() {
 
 TEST(Merge, ClashingUidsGetFreeOnesAndEveryReferenceFollows) {
   World world = Here();
-  const World before = CopyOf(world);
+  const Arrivals preview = PreviewMerge(world, AsNew(Linked()));
+  ExpectSame(world, Here());
   const Arrivals arrivals = MergeNewRecords(world, AsNew(Linked()));
+  EXPECT_EQ(Lines(preview), Lines(arrivals));
   EXPECT_EQ(Lines(arrivals),
             (Texts{"Promotion NEW Wrestling 1>2: Its uid belongs to CWA Wrestling.",
                    "Network Ten 1>2: Its uid belongs to Nine.",
@@ -87,36 +85,6 @@ TEST(Merge, ClashingUidsGetFreeOnesAndEveryReferenceFollows) {
   EXPECT_EQ(world.FindNetwork(show.Network)->Name, "Ten");
   EXPECT_EQ(staff(show.Announcer), "Ed Call");
   EXPECT_EQ(worker(show.Colour), "Ann Ring");
-
-  // Whoever was here stays as he was.
-  world.Workers().Keep([&](const Worker& w) { return w.Employer != promotion.Uid; });
-  world.AllStaff().Keep([&](const Staff& s) { return s.Employer != promotion.Uid; });
-  world.Teams().Erase(2);
-  world.Shows().Erase(2);
-  world.Networks().Erase(2);
-  world.Promotions().Erase(2);
-  ExpectSame(world, before);
-}
-
-TEST(Merge, APreviewTellsTheSameAndChangesNothing) {
-  World world = Here();
-  const World before = CopyOf(world);
-  const NewRecords coming = AsNew(Linked());
-  const Arrivals preview = PreviewMerge(world, coming);
-  ExpectSame(world, before);
-  EXPECT_EQ(Lines(preview), Lines(MergeNewRecords(world, coming)));
-}
-
-TEST(Merge, WhatIsHereAlreadyStaysOutTheSecondTime) {
-  World world = Here();
-  const NewRecords coming = AsNew(Linked());
-  MergeNewRecords(world, coming);
-  const World once = CopyOf(world);
-  const Arrivals again = MergeNewRecords(world, coming);
-  EXPECT_EQ(again.Count(Fate::LeftOut), 11);
-  EXPECT_EQ(Line(again.Rows[0]), "Promotion NEW Wrestling out: The name is taken.");
-  EXPECT_EQ(Line(again.Rows[9]), "Team Stone And Flint out: The two are a team already.");
-  ExpectSame(world, once);
 }
 
 TEST(Merge, WhoRefersToATakenNameGetsTheOneWhoHasIt) {
@@ -142,42 +110,6 @@ TEST(Merge, WhoRefersToATakenNameGetsTheOneWhoHasIt) {
   EXPECT_EQ(team.Worker1, Named(world.Workers(), "CWA Hand 3").Uid);
   EXPECT_EQ(team.Worker2, Named(world.Workers(), "Dee Nova").Uid);
   EXPECT_EQ(Named(world.Shows(), "Late Night").Network, 1);
-  EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
-}
-
-TEST(Merge, TakenInitialsKeepAPromotionOutUntilItIsGivenOthers) {
-  World there = There();
-  there.Promotions()[1].Initials = "CWA";
-  const NewRecords coming = AsNew(there);
-  World world = Here();
-  const Arrivals without = PreviewMerge(world, coming);
-  EXPECT_EQ(Line(without.Rows[0]), "Promotion NEW Wrestling out: The initials are taken.");
-  EXPECT_TRUE(without.Rows[0].NameTaken);
-  EXPECT_EQ(without.Mended[0].Line(),
-            "newwrestler.dat, record 1 (Ann Ring), Employer: is 1, but nobody came or was here "
-            "under it; made 0");
-  const Arrivals with = MergeNewRecords(world, coming, {{{"Promotion", 1}, {"", "NWC"}}});
-  EXPECT_EQ(Line(with.Rows[0]), "Promotion NEW Wrestling 1>2: Its uid belongs to CWA Wrestling.");
-  EXPECT_EQ(Named(world.Promotions(), "NWC").Name, "NEW Wrestling");
-  EXPECT_EQ(Named(world.Workers(), "Bo Stone").Employer, 2);
-}
-
-TEST(Merge, ANewNameLetsARecordOfEachKindIn) {
-  World world = Here();
-  NewNames names;
-  for (const char* kind : {"Network", "Promotion", "Worker", "Staff", "Team", "Show"})
-    names[{kind, 1}] = {"Other " + std::string(kind), "OTH"};
-  World there = Here();
-  there.Teams()[1].Worker2 = there.Workers()[3].Uid;
-  there.Shows()[1].Day = "Monday";
-  EXPECT_EQ(PreviewMerge(world, AsNew(there)).Count(Fate::LeftOut), 8);
-  MergeNewRecords(world, AsNew(there), names);
-  EXPECT_EQ(Named(world.Promotions(), "OTH").Name, "Other Promotion");
-  const Worker& worker = Named(world.Workers(), "Other Worker");
-  EXPECT_EQ(worker.Employer, Named(world.Promotions(), "OTH").Uid);
-  EXPECT_EQ(Named(world.Teams(), "Other Team").Worker1, worker.Uid);
-  EXPECT_EQ(Named(world.Shows(), "Other Show").Network,
-            Named(world.Networks(), "Other Network").Uid);
   EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
 }
 
@@ -219,100 +151,51 @@ TEST(Merge, FreeUidsAreFoundInGapsWhereThereIsNothingBehindTheHighest) {
   EXPECT_EQ(MergeNewRecords(world, AsNew(there)).Rows[0].Becomes, 1);
 }
 
-TEST(Merge, ShowsKeepToTheirSpotsAndTeamsToTheirPairs) {
-  struct Case {
-    const char* What;
-    void (*Change)(Show&);
-    const char* Line;
-  };
-  const Case kCases[] = {
-      {"fits", [](Show&) {}, "Show Fresh"},
-      {"spot", [](Show& s) { s.Day = "Friday"; },
-       "Show Fresh out: Its network has Friday Fire at that time."},
-      {"another time", [](Show& s) { s.Day = "Friday", s.Slot = "G"; }, "Show Fresh"},
-      {"name", [](Show& s) { s.Name = "Friday Fire"; }, "Show Friday Fire out: The name is taken."},
-      {"no name", [](Show& s) { s.Name = ""; }, "Show  out: It has no name."},
-      {"gone", [](Show& s) { s.Name = kToBeDeleted; },
-       "Show To Be Deleted out: It is marked as gone."},
-      {"no network", [](Show& s) { s.Network = 99, s.Day = "Friday"; }, "Show Fresh"},
-  };
-  for (const Case& c : kCases) {
-    SCOPED_TRACE(c.What);
-    World world = Here();
-    NewRecords coming;
-    coming.Shows.Records = {world.Shows()[1]};
-    Show& show = coming.Shows.Records[0];
-    show.Name = "Fresh";
-    show.Day = "Monday";
-    c.Change(show);
-    EXPECT_EQ(Lines(MergeNewRecords(world, coming)), Texts{c.Line});
-    EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
-  }
-  SmallWorld busy;
-  World full = Here(busy).Show("Two", "Monday", "Nine").Show("Three", "Tuesday", "Nine");
+TEST(Merge, ShowsKeepToTheirSpots) {
+  World world = Here();
   NewRecords coming;
-  coming.Shows.Records = {full.Shows()[1]};
-  coming.Shows.Records[0].Name = "Four";
-  coming.Shows.Records[0].Day = "Sunday";
-  EXPECT_EQ(Lines(MergeNewRecords(full, coming)),
-            Texts{"Show Four out: Its promotion has three shows already."});
+  const auto add = [&](std::string_view name, const char* day, const char* slot, int network = 1) {
+    Show& show = coming.Shows.Records.emplace_back(world.Shows()[1]);
+    show.Name = name;
+    show.Day = day;
+    show.Slot = slot;
+    show.Network = network;
+  };
+  add("Clash", "Friday", "P");
+  add("Late", "Friday", "G");
+  add("Friday Fire", "Monday", "P");
+  add("", "Monday", "P");
+  add(kToBeDeleted, "Monday", "P");
+  add("Nowhere", "Friday", "P", 99);
+  add("Fourth", "Sunday", "P");
+  EXPECT_EQ(Lines(MergeNewRecords(world, coming)),
+            (Texts{"Show Clash out: Its network has Friday Fire at that time.", "Show Late",
+                   "Show Friday Fire out: The name is taken.", "Show  out: It has no name.",
+                   "Show To Be Deleted out: It is marked as gone.", "Show Nowhere",
+                   "Show Fourth out: Its promotion has three shows already."}));
+  EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
 }
 
-// Which limit refuses what, with a file that has room for one more record.
-template <class T>
-std::string SecondAtLimit(Records<T>& (World::*table)(), RecordFile<T> NewRecords::*file,
-                          const std::function<void(T&, int)>& make) {
+TEST(Merge, AFullFileRefusesInTheEditorsWords) {
   World world = SmallWorld().Network("N").Build();
-  if constexpr (std::is_same_v<T, Team>)
-    for (int i = 1; i <= 202; ++i) {
-      Worker worker = World(SmallWorld().OnTheMarket().Worker("W")).Workers()[1];
-      worker.Uid = i;
-      worker.Name = "W" + std::to_string(i);
-      world.Workers().Append(worker);
-    }
-  Records<T>& records = (world.*table)();
-  records.Remove();
-  for (int i = 1; i < LayoutOf<T>().Limit; ++i) {
-    T record;
-    make(record, i);
-    records.Append(record);
-  }
   NewRecords coming;
-  for (int i = 0; i < 2; ++i) make((coming.*file).Records.emplace_back(), LayoutOf<T>().Limit + i);
-  const Arrivals arrivals = PreviewMerge(world, coming);
-  EXPECT_NE(arrivals.Rows[0].Comes, Fate::LeftOut) << arrivals.Rows[0].Why;
-  EXPECT_FALSE(arrivals.Rows[1].NameTaken);
-  return arrivals.Rows[1].Why;
-}
-
-template <class T>
-void MakeNamed(T& record, int i) {
-  record.Uid = i;
-  record.Name = "R" + std::to_string(i);
-}
-
-TEST(Merge, TheLimitsRefuseInTheEditorsWords) {
-  EXPECT_EQ(SecondAtLimit<Worker>(&World::Workers, &NewRecords::Workers, MakeNamed<Worker>),
-            "Maximum 25,000 wrestlers per file!");
-  EXPECT_EQ(SecondAtLimit<Staff>(&World::AllStaff, &NewRecords::AllStaff, MakeNamed<Staff>),
-            "Maximum 10,000 staff members per file!");
-  EXPECT_EQ(SecondAtLimit<Promotion>(&World::Promotions, &NewRecords::Promotions,
-                                     [](Promotion& promotion, int i) {
-                                       MakeNamed(promotion, i);
-                                       promotion.Initials = promotion.Name;
-                                     }),
-            "Maximum 35 promotions per file!");
-  EXPECT_EQ(SecondAtLimit<Network>(&World::Networks, &NewRecords::Networks, MakeNamed<Network>),
-            "Maximum 1,000 networks per file!");
-  EXPECT_EQ(SecondAtLimit<Show>(&World::Shows, &NewRecords::Shows,
-                                [](Show& show, int i) { show.Name = "S" + std::to_string(i); }),
-            "Maximum 1,000 shows per file!");
-  EXPECT_EQ(SecondAtLimit<Team>(&World::Teams, &NewRecords::Teams,
-                                [](Team& team, int i) {
-                                  team.Worker1 = i / 100 + 1;
-                                  team.Worker2 = 102 + i % 100;
-                                }),
-            "Maximum 10,000 tag teams per file!");
+  for (int i = 2; i <= 1001; ++i) {
+    Network network = world.Networks()[1];
+    network.Uid = i;
+    network.Name = "N" + std::to_string(i);
+    if (i < 1000)
+      world.Networks().Append(network);
+    else
+      coming.Networks.Records.push_back(network);
+    Show show;
+    show.Name = "S" + std::to_string(i);
+    world.Shows().Append(show);
+  }
+  coming.Shows.Records.resize(1);
+  coming.Shows.Records[0].Name = "S1";
+  EXPECT_EQ(Lines(PreviewMerge(world, coming)),
+            (Texts{"Network N1000", "Network N1001 out: Maximum 1,000 networks per file!",
+                   "Show S1 out: Maximum 1,000 shows per file!"}));
 }
 
 /// What was here stands first in every file, to the byte.
@@ -352,6 +235,63 @@ TEST(Merge, WhateverIsInTheFilesTheDataStayInOrder) {
     EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
     ExpectBegins(world, before);
   }
+}
+
+// Workers of another world, taken in as free agents.
+
+/// People under contract, with all that ties them to their world.
+std::vector<Worker> Foreign() {
+  World world = SmallWorld()
+                    .Promotion("FAR", kCult, [](Promotion& p) { p.Split[0] = "Blue"; })
+                    .Worker("Mae Boss", kManager, 40)
+                    .Worker("Gil Tied",
+                            [](Worker& w) {
+                              w.Split = "Blue";
+                              w.Unsackable = true;
+                              w.ContractMonths = kNoEnd;
+                              w.ContractType = "Wri";
+                              w.CreativeControl = true;
+                              w.Debuted = true;
+                              w.TurnPending = true;
+                              w.Status = "Hom";
+                              w.StatusMonths = 2;
+                              w.Morale = 10;
+                            })
+                    .Worker("CWA Hand 2")
+                    .Worker("Dev Young", kDevelopmentDeal, 35)
+                    .Worker("Sent Away", kSentToDevelopment + kMidcard, 60)
+                    .Stable("The Far Firm", {"Gil Tied"});
+  Named(world.Workers(), "Gil Tied").Manager = Named(world.Workers(), "Mae Boss").Uid;
+  return {world.Workers().begin(), world.Workers().end()};
+}
+
+TEST(Import, LeavesContractsAndTiesBehind) {
+  World world = Here();
+  const Arrivals arrivals = ImportWorkers(world, Foreign(), {2, 4, 5});
+  EXPECT_EQ(Lines(arrivals), (Texts{"Worker Gil Tied 2>6: Its uid belongs to CWA Hand 2.",
+                                    "Worker Dev Young", "Worker Sent Away"}));
+  EXPECT_EQ(Lines(arrivals.Mended), Texts{});
+  EXPECT_EQ(Lines(CheckWorld(world)), Texts{});
+  Worker wanted = Foreign()[1];
+  wanted.Uid = 6;
+  wanted.Employer = 0;
+  wanted.ContractType = "Non";
+  wanted.ContractMonths = 0;
+  wanted.CreativeControl = false;
+  wanted.Status = "Nor";
+  wanted.Morale = 80;
+  wanted.Stable = "None";
+  wanted.Manager = 0;
+  wanted.Split = "None";
+  wanted.Unsackable = false;
+  wanted.TurnPending = false;
+  wanted.Debuted = false;
+  EXPECT_EQ(Named(world.Workers(), "Dev Young").Position, kOpener);
+  EXPECT_EQ(Named(world.Workers(), "Sent Away").Position, kMidcard);
+  World expected = Here();
+  expected.Workers().Append(wanted);
+  world.Workers().Keep([](const Worker& w) { return !(w.Uid == 4 || w.Uid == 5); });
+  ExpectSame(world, expected);
 }
 
 }  // namespace

@@ -21,7 +21,6 @@
 #include "support/checkout.h"
 #include "support/gameonworld.h"
 #include "tools/officework.h"
-#include "tools/tell.h"
 
 namespace grapplemont::test {
 

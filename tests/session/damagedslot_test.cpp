@@ -15,16 +15,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
+World Data() {
+  return SmallWorld().Network("Nine").Promotion("CWA", kCult).Owner("Ruth Vane").Crew(6);
+}
+
 /// A game in slot 1 that has come five days on from 1 April, each day in another file.
 class ADamagedGame : public testing::Test {
  protected:
-  ADamagedGame()
-      : home_(SmallWorld()
-                  .Network("Nine")
-                  .Promotion("CWA", kCult)
-                  .Owner("Ruth Vane")
-                  .Crew(6)
-                  .Build()) {
+  ADamagedGame() : home_(Data()) {
     home_.StartNewGame();
     World& world = home_.Play.World();
     const std::function<void()> kSteps[] = {
@@ -91,8 +89,7 @@ TEST_F(ADamagedGame, IsAskedAboutWhereNothingProvesItsFiles) {
 }
 
 TEST(AGameWhoseSlotIsRemoved, SaysSoAtEachStepAndOnLeaving) {
-  HomeFolder home(
-      SmallWorld().Network("Nine").Promotion("CWA", kCult).Owner("Ruth Vane").Crew(6).Build());
+  HomeFolder home(Data());
   home.StartNewGame();
   home.Desk.Click("cmdnext");
   const Day today = home.Play.World().Today();

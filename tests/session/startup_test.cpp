@@ -26,14 +26,14 @@ World TwoPromotions() {
       .Build();
 }
 
-TEST(TitleScreen, LeadsOnWithAClick) {
-  HomeFolder home(TwoPromotions());
-  home.Desk.Open("frmTitleScreen");
-  home.Desk.Click("imgtitle");
-  EXPECT_EQ(home.Desk.TopName(), "frmDisclaimer");
-  EXPECT_EQ(home.Desk.Screens().size(), 1u);
-  home.Desk.Click("imgback");
-  EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
+/// A game in slot 1 that is left with what `change` has done to its world; the slots are on screen.
+void LeaveGame(HomeFolder& home, void (*change)(World&)) {
+  home.StartNewGame();
+  change(home.Play.World());
+  home.Play.Commit();
+  home.Play.CloseSlot();
+  home.Desk.CloseAll();
+  home.Desk.Open("frmLoadGame");
 }
 
 TEST(TitleScreen, EndsTheProgramWithoutItsPictures) {
@@ -51,25 +51,26 @@ TEST(TitleScreen, EndsTheProgramWithoutItsPictures) {
 
 TEST(Disclaimer, TellsOfEveryFileAndStopsWhereOneIsMissing) {
   HomeFolder home(TwoPromotions());
-  home.Desk.Open("frmDisclaimer");
-  EXPECT_EQ(home.Desk.Text("lblbelt"), "Belt.dat data file found!");
+  home.Desk.Open("frmTitleScreen");
+  home.Desk.Click("imgtitle");
+  EXPECT_EQ(home.Desk.Screens().size(), 1u);
   EXPECT_EQ(home.Desk.Text("lblwrestler"), "Wrestler.dat data file found!");
   EXPECT_FALSE(home.Desk.Visible("lblverdict"));
-  home.Desk.CloseAll();
-  home.Remove("data/belt.dat");
-  home.Remove("data/tv.dat");
-  home.Remove("data/wrestler.dat");
-  home.Desk.Open("frmDisclaimer");
-  EXPECT_EQ(home.Desk.Text("lblbelt"), "ERROR : belt.dat data file missing!");
-  EXPECT_EQ(home.Desk.Text("lblevent"), "Event.dat data file found!");
-  EXPECT_EQ(home.Desk.Text("lbltv"), "ERROR : tv.dat data file missing!");
-  EXPECT_EQ(home.Desk.Text("lblwrestler"), "ERROR : Wrestler.dat data file missing!");
-  EXPECT_FALSE(home.Desk.Enabled("cmdcontinue"));
-  const std::string verdict = home.Desk.Text("lblverdict");
-  EXPECT_NE(verdict.find("belt.dat, tv.dat, wrestler.dat"), std::string::npos) << verdict;
+  for (const char* file : {"data/belt.dat", "data/tv.dat", "data/wrestler.dat"}) home.Remove(file);
+  const std::string verdict =
+      "The game cannot go on without belt.dat, tv.dat, wrestler.dat. Put what is missing into the "
+      "folder data, then start again.";
   home.Desk.ExpectSay("Error!", verdict);
   home.Desk.Click("imgback");
-  EXPECT_EQ(home.Desk.TopName(), "frmDisclaimer");
+  EXPECT_EQ(home.Desk.Text("lblbelt"), "ERROR : belt.dat data file missing!");
+  EXPECT_EQ(home.Desk.Text("lblevent"), "Event.dat data file found!");
+  EXPECT_EQ(home.Desk.Text("lblwrestler"), "ERROR : Wrestler.dat data file missing!");
+  EXPECT_EQ(home.Desk.Text("lblverdict"), verdict);
+  EXPECT_FALSE(home.Desk.Enabled("cmdcontinue"));
+  for (const char* file : {"data/belt.dat", "data/tv.dat", "data/wrestler.dat"})
+    home.Write(file, "");
+  home.Desk.Click("imgback");
+  EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
 }
 
 TEST(GameMenu, OpensItsScreensAndAsksBeforeItEnds) {
@@ -81,19 +82,17 @@ TEST(GameMenu, OpensItsScreensAndAsksBeforeItEnds) {
     home.Desk.Click(button);
     EXPECT_EQ(home.Desk.TopName(), screen);
     home.Desk.Click("cmdback");
-    EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
   }
   home.Desk.Click("cmdcredits");
   home.Desk.Click("cmdothers");
   EXPECT_EQ(home.Desk.TopName(), "frmCreditsXtra");
   home.Desk.Click("cmdback");
   home.Desk.Click("cmdback");
-  home.Desk.ExpectAsk("Quit?", "Are you sure you want to quit?", false);
-  home.Desk.Click("cmdquit");
-  EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
-  home.Desk.ExpectAsk("Quit?", "Are you sure you want to quit?", true);
-  home.Desk.Click("cmdquit");
-  EXPECT_TRUE(home.Desk.Empty());
+  for (const bool quits : {false, true}) {
+    home.Desk.ExpectAsk("Quit?", "Are you sure you want to quit?", quits);
+    home.Desk.Click("cmdquit");
+    EXPECT_EQ(home.Desk.Empty(), quits);
+  }
 }
 
 TEST(NewGameScreen, ShowsThePromotionPicked) {
@@ -122,26 +121,24 @@ TEST(NewGameScreen, SaysWhyNoGameCanBegin) {
   for (Promotion& promotion : data.Promotions()) promotion.Name = kToBeDeleted;
   HomeFolder home(std::move(data));
   home.Desk.Open("frmNewGame");
+  const char* why =
+      "The default world has no promotion that can be played. Build it anew, or put back its "
+      "files.";
+  EXPECT_EQ(home.Desk.Text("lblfacts"), why);
+  EXPECT_EQ(home.Desk.Tip("cmdbegin"), why);
   EXPECT_FALSE(home.Desk.Enabled("cmdbegin"));
-  EXPECT_EQ(home.Desk.Text("lblfacts"),
-            "The default world has no promotion that can be played. Build it anew, or put back its "
-            "files.");
-  EXPECT_EQ(home.Desk.Top()->Find("cmdbegin")->Tip.Get(), home.Desk.Text("lblfacts"));
 }
 
 TEST(NewGameScreen, WantsAName) {
   HomeFolder home(TwoPromotions());
   home.Desk.Open("frmNewGame");
-  for (const char* name : {"", "   "}) {
+  for (const auto& [name, why] : {std::pair{"   ", "Please enter your name first."},
+                                  {"Pat\tLee", "A name is one line of plain text."}}) {
     home.Desk.Type("txtname", name);
-    home.Desk.ExpectSay("Error!", "Please enter your name first.");
+    home.Desk.ExpectSay("Error!", why);
     home.Desk.Click("cmdbegin");
     EXPECT_EQ(home.Desk.TopName(), "frmNewGame");
   }
-  home.Desk.Type("txtname", "Pat\tLee");
-  home.Desk.ExpectSay("Error!", "A name is one line of plain text.");
-  home.Desk.Click("cmdbegin");
-  EXPECT_EQ(home.Desk.TopName(), "frmNewGame");
   home.Desk.Type("txtname", std::string(300, 'x'));
   EXPECT_EQ(home.Desk.Text("txtname"), std::string(25, 'x'));
 }
@@ -149,10 +146,9 @@ TEST(NewGameScreen, WantsAName) {
 TEST(NewGameScreen, SaysWhichFileOfTheDataIsNoFile) {
   HomeFolder home(TwoPromotions());
   home.Write("data/promos.dat", std::string(309 * 36, 'x'));
-  home.Desk.Open("frmGameMenu");
   home.Desk.ExpectSay("Error!", kAnyText);
-  home.Desk.Click("cmdnewgame");
-  EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
+  home.Desk.Event([&] { home.Desk.Open("frmNewGame"); });
+  EXPECT_EQ(home.Desk.TopName(), "");
   EXPECT_NE(home.Desk.Boxes().back().Text.find("promos.dat"), std::string::npos);
 }
 
@@ -193,38 +189,31 @@ TEST(PickSaveSlot, AsksAboutWhatLiesInAnEmptySlotAndKeepsWhatIsNoGames) {
   EXPECT_EQ(RealDisk()->Look(home.Path("s1/pictures/one")), Disk::Kind::File);
 }
 
-TEST(PickSaveSlot, MakesAGameThatIsThereWhenItIsLoaded) {
+TEST(PickSaveSlot, MakesAGameThatIsThereAndAsksBeforeItOverwrites) {
   HomeFolder home(TwoPromotions());
   home.StartNewGame();
   EXPECT_EQ(home.Desk.Text("txtdate"), "Wednesday, 01 April 2026");
-  EXPECT_EQ(home.Desk.Text("txtname"), "Pat Lee");
   EXPECT_EQ(home.Desk.Text("cmdfed"), "CWA");
-  home.Desk.ExpectAsk("Quit?", "Are you sure you want to quit?", true);
+  home.Desk.ExpectAsk("Quit?", kAnyText, true);
   home.Desk.Click("cmdquit");
-  EXPECT_EQ(home.Desk.TopName(), "frmGameMenu");
   home.Desk.Click("cmdloadgame");
   EXPECT_EQ(home.Desk.Text("cmdload1"), "First");
   EXPECT_EQ(home.Desk.Text("lbldetails1"),
             "( Medium level, started April 2026, current date April 2026)");
   EXPECT_FALSE(home.Desk.Enabled("cmdload2"));
   home.Desk.Click("cmdload1");
-  EXPECT_EQ(home.Desk.TopName(), "frmMainScreen");
   EXPECT_EQ(home.Desk.Text("txtname"), "Pat Lee");
-}
-
-TEST(PickSaveSlot, AsksBeforeItOverwrites) {
-  HomeFolder home(TwoPromotions());
-  home.StartNewGame("First Player");
   home.Desk.ExpectAsk("Quit?", kAnyText, true);
   home.Desk.Click("cmdquit");
   home.Desk.Click("cmdnewgame");
   home.Desk.Type("txtname", "Second Player");
   home.Desk.Pick("cmbdifficulty", "Rock Hard");
   home.Desk.Click("cmdbegin");
-  home.Desk.ExpectAsk("Are you sure?", "Are you sure you want to overwrite this slot?", false);
+  const char* question = "Are you sure you want to overwrite this slot?";
+  home.Desk.ExpectAsk("Are you sure?", question, false);
   home.Desk.Click("cmdload1");
   EXPECT_EQ(home.Desk.TopName(), "frmPickSaveSlot");
-  home.Desk.ExpectAsk("Are you sure?", "Are you sure you want to overwrite this slot?", true);
+  home.Desk.ExpectAsk("Are you sure?", question, true);
   home.Desk.ExpectPrompt("User Entry", "Save Game Name:", "Again", "Save Game 1");
   home.Desk.ExpectSay("Database creation",
                       "The database for this game will now be created.\nThis process can take up "
@@ -253,78 +242,51 @@ TEST(LoadGame, TellsOfSlotsThatCannotBePlayed) {
     EXPECT_FALSE(home.Desk.Enabled(slot)) << slot;
 }
 
-TEST(LoadGame, SaysWhenAnotherProgramHasTheSlot) {
+TEST(LoadGame, SaysWhyASlotIsNotOpened) {
   HomeFolder home(TwoPromotions());
-  home.StartNewGame();
-  home.Play.CloseSlot();
-  home.Desk.CloseAll();
+  LeaveGame(home, [](World& world) { world.Promotions().Remove(); });
+  const auto expectRefused = [&](const char* why) {
+    home.Desk.ExpectSay("Error!", kAnyText);
+    home.Desk.Click("cmdload1");
+    EXPECT_EQ(home.Desk.TopName(), "frmLoadGame");
+    EXPECT_NE(home.Desk.Boxes().back().Text.find(why), std::string::npos);
+    EXPECT_FALSE(home.Play.HasWorld());
+  };
+  expectRefused("PlayerPromotion");
   const auto other = RealDisk();
   const Slot held(*other, home.Path("s1"), KnownFiles());
-  home.Desk.Open("frmLoadGame");
-  home.Desk.ExpectSay("Error!", kAnyText);
-  home.Desk.Click("cmdload1");
-  EXPECT_EQ(home.Desk.TopName(), "frmLoadGame");
-  EXPECT_NE(home.Desk.Boxes().back().Text.find("another program"), std::string::npos);
-  EXPECT_FALSE(home.Play.HasWorld());
+  expectRefused("another program");
 }
 
-TEST(LoadGame, RemarksOnFilesThatAreNearlyFull) {
+TEST(LoadGame, BringsNumbersBackIntoTheirRangesAndRemarksOnFilesThatAreNearlyFull) {
   HomeFolder home(TwoPromotions());
-  home.StartNewGame();
-  World& world = home.Play.World();
-  for (int uid = 2; uid <= 900; ++uid) {
-    Network network = world.Networks()[1];
-    network.Uid = uid;
-    network.Name = "Network " + std::to_string(uid);
-    world.Networks().Append(network);
-  }
-  home.Play.Commit();
-  home.Play.CloseSlot();
-  home.Desk.CloseAll();
-  home.Desk.Open("frmLoadGame");
-  home.Desk.ExpectSay("Loading",
-                      "network.dat holds 900 networks; 1000 is the most. Start the next game from "
-                      "a smaller database.");
-  home.Desk.Click("cmdload1");
-  EXPECT_EQ(home.Desk.TopName(), "frmMainScreen");
-}
-
-TEST(LoadGame, BringsNumbersBackIntoTheirRanges) {
-  HomeFolder home(TwoPromotions());
-  home.StartNewGame();
-  reinterpret_cast<Long&>(home.Play.World().Player().Money) = 2147483647;
-  reinterpret_cast<Word&>(home.Play.World().AllStaff()[1].Morale) = -5;
-  home.Play.Commit();
-  home.Play.CloseSlot();
-  home.Desk.CloseAll();
-  home.Desk.Open("frmLoadGame");
+  LeaveGame(home, [](World& world) {
+    reinterpret_cast<Long&>(world.Player().Money) = 2147483647;
+    reinterpret_cast<Word&>(world.AllStaff()[1].Morale) = -5;
+    for (int uid = 2; uid <= 900; ++uid) {
+      Network network = world.Networks()[1];
+      network.Uid = uid;
+      network.Name = "Network " + std::to_string(uid);
+      world.Networks().Append(network);
+    }
+  });
+  const std::string nearlyFull =
+      "network.dat holds 900 networks; 1000 is the most. Start the next game from a smaller "
+      "database.";
   home.Desk.ExpectSay(
       "Loading",
       "Numbers that no game can go on with were brought back into their ranges:\npromos.dat, "
-      "record "
-      "1 (CWA Wrestling), Money: is 2147483647, outside -1000000000 to 1000000000; made "
-      "1000000000\nstaff.dat, record 1 (Ruth Vane), Morale: is -5, outside 0 to 100; made 0");
+      "record 1 (CWA Wrestling), Money: is 2147483647, outside -1000000000 to 1000000000; made "
+      "1000000000\nstaff.dat, record 1 (Ruth Vane), Morale: is -5, outside 0 to 100; made 0\n" +
+          nearlyFull);
   home.Desk.Click("cmdload1");
   EXPECT_EQ(home.Desk.Text("lblmoney"), "$1,000,000,000");
   home.Play.CloseSlot();
   home.Desk.CloseAll();
   home.Desk.Open("frmLoadGame");
+  home.Desk.ExpectSay("Loading", nearlyFull);  // the slot itself is mended
   home.Desk.Click("cmdload1");
-  EXPECT_EQ(home.Desk.TopName(), "frmMainScreen") << "the slot itself is mended";
-}
-
-TEST(LoadGame, RefusesAGameWhosePromotionIsGone) {
-  HomeFolder home(TwoPromotions());
-  home.StartNewGame();
-  home.Play.World().Promotions().Remove();
-  home.Play.Commit();
-  home.Play.CloseSlot();
-  home.Desk.CloseAll();
-  home.Desk.Open("frmLoadGame");
-  home.Desk.ExpectSay("Error!", kAnyText);
-  home.Desk.Click("cmdload1");
-  EXPECT_EQ(home.Desk.TopName(), "frmLoadGame");
-  EXPECT_NE(home.Desk.Boxes().back().Text.find("PlayerPromotion"), std::string::npos);
+  EXPECT_EQ(home.Desk.TopName(), "frmMainScreen");
 }
 
 TEST(LoadingScreens, ShowTheSetsAndHowToAddOnesOwn) {

@@ -7,42 +7,31 @@ using TableCommands = ToolHome;
 namespace fs = std::filesystem;
 
 TEST_F(TableCommands, BuildAndExportGoThereAndBack) {
-  WriteSmallTables("world");
-  const Ran built = Run({"build", In("world"), In("data")});
-  EXPECT_EQ(0, built.Code);
-  EXPECT_EQ("Built H/data: 2 promotions, 14 workers, 1 staff.\n", built.Out);
-  EXPECT_EQ("", built.Errors);
+  BuildSmallData();
   EXPECT_EQ(kDataSet.size(), RecordFiles("data").size());
-  const Ran exported = Run({"export", In("data") + "/", In("tables")});
-  EXPECT_EQ(0, exported.Code) << exported.Errors;
-  EXPECT_EQ("Wrote the tables of 2 promotions, 14 workers, 1 staff to H/tables.\n", exported.Out);
-  EXPECT_EQ(0, Run({"build", In("tables"), In("again")}).Code);
+  EXPECT_EQ("Wrote the tables of 2 promotions, 14 workers, 1 staff to H/tables.\n",
+            Say("export H/data/ H/tables"));
+  Say("build H/tables H/again");
   EXPECT_TRUE(RecordFiles("data") == RecordFiles("again"));
   EXPECT_EQ(Read("world/workers.csv"), Read("tables/workers.csv"));
-  const Ran checked = Run({"check", In("again")});
-  EXPECT_EQ(0, checked.Code);
-  EXPECT_EQ("No faults: 2 promotions, 14 workers, 1 staff.\n", checked.Out);
+  EXPECT_EQ("No faults: 2 promotions, 14 workers, 1 staff.\n", Say("check H/again"));
 }
 
 TEST_F(TableCommands, BuildLeavesTheOldWorldWhereATableIsWrong) {
   BuildSmallData();
   const auto before = RecordFiles("data");
   std::string titles = Read("world/titles.csv");
-  titles.replace(titles.find("CWA Hand 1"), 10, "CWA Hand X");
-  Write("world/titles.csv", titles);
+  Write("world/titles.csv", titles.replace(titles.find("CWA Hand 1"), 10, "CWA Hand X"));
   fs::remove(In("world/events.csv"));
-  const Ran ran = Run({"build", In("world"), In("data")});
-  EXPECT_EQ(1, ran.Code);
-  EXPECT_EQ("", ran.Out);
   EXPECT_EQ(
-      "events.csv: is missing; a table without records has only its header\n"
-      "1 mistake; nothing was built.\n",
-      ran.Errors);
+      "[events.csv: is missing; a table without records has only its header\n"
+      "1 mistake; nothing was built.\n]=1",
+      Say("build H/world H/data"));
   Write("world/events.csv", "Name,Owner,Month,Type\n");
   EXPECT_EQ(
-      "titles.csv, line 2, column Holder: no worker has the name CWA Hand X; did you mean CWA Hand "
-      "1?\n1 mistake; nothing was built.\n",
-      Run({"build", In("world"), In("data")}).Errors);
+      "[titles.csv, line 2, column Holder: no worker has the name CWA Hand X; did you mean CWA "
+      "Hand 1?\n1 mistake; nothing was built.\n]=1",
+      Say("build H/world H/data"));
   EXPECT_TRUE(before == RecordFiles("data"));
   EXPECT_FALSE(fs::exists(In("data.new")));
 }
@@ -50,262 +39,186 @@ TEST_F(TableCommands, BuildLeavesTheOldWorldWhereATableIsWrong) {
 TEST_F(TableCommands, BuildKeepsItsHandsOffWhatIsNoWorld) {
   BuildSmallData();
   Write("data/mine.txt", "keep me");
-  EXPECT_EQ(0, Run({"build", In("world"), In("data")}).Code);
-  EXPECT_EQ("keep me", Read("data/mine.txt"));
-
-  World game = Small().Game("CWA");
-  Slot::Create(*Machine, In("s1"), FilesOf(game), 1);
+  BuildSmallData();
+  MakeSlot("1", Small().Game("CWA"));
   const auto saved = RecordFiles("s1");
-  const Ran onGame = Run({"build", In("world"), In("s1")});
-  EXPECT_EQ(1, onGame.Code);
   EXPECT_EQ(
-      "grapplemont-world build: \"H/s1\" holds a saved game. Name another folder for the world.\n",
-      onGame.Errors);
+      "[grapplemont-world build: \"H/s1\" holds a saved game. Name another folder for the world.\n"
+      "]=1",
+      Say("build H/world H/s1"));
   EXPECT_TRUE(saved == RecordFiles("s1"));
-
-  EXPECT_EQ(0, Run({"export", In("s1"), In("game")}).Code);
-  const Ran onData = Run({"build", In("game"), In("data")});
-  EXPECT_EQ(1, onData.Code);
+  Say("export H/s1 H/game");
   EXPECT_EQ(
-      "grapplemont-world build: \"H/data\" holds other files. Name an empty folder for the saved "
-      "game.\n",
-      onData.Errors);
+      "[grapplemont-world build: \"H/data\" holds other files. Name an empty folder for the saved "
+      "game.\n]=1",
+      Say("build H/game H/data"));
   EXPECT_EQ("keep me", Read("data/mine.txt"));
+  Write("world.new/mine.txt", "keep me");
+  EXPECT_TRUE(Say("build H/world H/world").ends_with("=1"));
+  EXPECT_EQ("keep me", Read("world.new/mine.txt"));
 }
 
 TEST_F(TableCommands, ExportTakesASavedGameWithAllThatItsJournalHolds) {
-  World game = Small().Game("CWA").Mail("Maeve", "First");
-  Slot::Create(*Machine, In("s1"), FilesOf(game), 1);
+  MakeSlot("1", Small().Game("CWA").Mail("Maeve", "First"));
   {
     // Left without a checkpoint, as by a program that was killed.
     Slot slot(*Machine, In("s1"), KnownFiles());
-    World world;
-    world.Load(slot.Files());
+    World world = WorldOf(slot);
     world.Workers()[1].Over = 77;
     slot.Commit(world.Changes());
   }
-  ASSERT_EQ(0, Run({"export", In("s1"), In("tables")}).Code);
-  EXPECT_EQ(0, Run({"check", In("s1")}).Code);
-  ASSERT_EQ(0, Run({"build", In("tables"), In("s2")}).Code);
+  Say("export H/s1 H/tables");
+  EXPECT_EQ("No faults: 2 promotions, 14 workers, 1 staff.\n", Say("check H/s1"));
+  Say("build H/tables H/s2");
   EXPECT_TRUE(RecordFiles("s1") == RecordFiles("s2"));
   Slot slot(*Machine, In("s2"), KnownFiles());
-  World world;
-  world.Load(slot.Files());
-  EXPECT_EQ(77, world.Workers()[1].Over);
-  EXPECT_EQ("First", world.News()[1].Body.View());
-  const Ran busy = Run({"check", In("s2")});
-  EXPECT_EQ(1, busy.Code) << "another program plays it";
-  EXPECT_NE("", busy.Errors);
+  EXPECT_EQ(77, WorldOf(slot).Workers()[1].Over);
+  EXPECT_EQ("First", WorldOf(slot).News()[1].Body.View());
+  EXPECT_TRUE(Say("check H/s2").ends_with("]=1")) << "another program plays it";
 }
 
 TEST_F(TableCommands, ExportTakesNobodysFilesAway) {
   BuildSmallData();
+  Write("tables/notes.txt", "Without a game's tables beside them notes are somebody's own.");
+  EXPECT_EQ(
+      "[grapplemont-world export: H/tables holds other things, such as notes.txt. Name a new "
+      "folder.\n]=1",
+      Say("export H/data H/tables --replace"));
   Write("tables/game.csv", "PlayerName\n");
   Write("tables/mine.csv", "Word\n");
   EXPECT_EQ(
-      "grapplemont-world export: H/tables holds other things, such as mine.csv. Name a new "
-      "folder.\n",
-      Run({"export", In("data"), In("tables") + "/", "--replace"}).Errors);
+      "[grapplemont-world export: H/tables holds other things, such as mine.csv. Name a new "
+      "folder.\n]=1",
+      Say("export H/data H/tables/ --replace"));
   fs::remove(In("tables/mine.csv"));
-  const Ran ran = Run({"export", In("data"), In("tables")});
-  EXPECT_EQ(1, ran.Code);
   EXPECT_EQ(
-      "grapplemont-world export: H/tables holds game.csv. With --replace the tables of the world "
-      "are put in their place.\n",
-      ran.Errors);
+      "[grapplemont-world export: H/tables holds game.csv and notes.txt. With --replace the tables "
+      "of the world "
+      "are put in their place.\n]=1",
+      Say("export H/data H/tables"));
   EXPECT_TRUE(fs::exists(In("tables/game.csv")));
-  EXPECT_EQ(0, Run({"export", In("data"), In("tables"), "--replace"}).Code);
+  Say("export H/data H/tables --replace");
   EXPECT_FALSE(fs::exists(In("tables/game.csv")));
-  EXPECT_EQ(1, Run({"export", In("data"), "/"}).Code);
-
-  Write("world.new/mine.txt", "keep me");
-  EXPECT_EQ(1, Run({"build", In("tables"), In("world")}).Code);
-  EXPECT_EQ("keep me", Read("world.new/mine.txt"));
-}
-
-TEST_F(TableCommands, SpeakUtf8WhateverIsTyped) {
-  EXPECT_EQ("grapplemont-world check: \"H/caf\xC3\xA9\" is no folder.\n",
-            Run({"check", In("caf\xE9")}).Errors);
-  EXPECT_EQ("grapplemont-world check: \"H/caf\xC3\xA9\" is no folder.\n",
-            Run({"check", In("caf\xC3\xA9")}).Errors);
+  EXPECT_TRUE(Say("export H/data /").ends_with("=1"));
 }
 
 TEST_F(TableCommands, CheckListsEveryFault) {
   World world = Small();
   world.Workers()[2].Employer = 99;
-  world.Workers()[2].Morale.Set(0);
   world.Shows()[1].Day = "Tonight";
   for (const NewFile& file : FilesOf(world))
     if (file.Name != "event.dat") {
       std::string bytes(reinterpret_cast<const char*>(file.Contents.data()), file.Contents.size());
       Write("odd/" + file.Name, file.Name == "teams.dat" ? bytes + "xyz" : bytes);
     }
-  const Ran ran = Run({"check", In("odd")});
-  EXPECT_EQ(1, ran.Code);
+  const std::string checked = Say("check H/odd");
   for (const char* line :
        {"event.dat: is missing\n", "teams.dat: ends in 3 bytes that are no whole record\n",
         "wrestler.dat, record 2 (CWA Hand 2), Employer: is 99, but there is no such promotion\n",
         "tv.dat, record 1 (Friday Fire), Day: is \"Tonight\", no known code\n"})
-    EXPECT_NE(std::string::npos, ran.Out.find(line)) << line << "in\n" << ran.Out;
-  const Ran exported = Run({"export", In("odd"), In("tables")});
-  EXPECT_EQ(0, exported.Code);
-  EXPECT_EQ(0u, exported.Errors.find("H/odd has ")) << exported.Errors;
-  const Ran built = Run({"build", In("tables"), In("data")});
-  EXPECT_EQ(1, built.Code);
-  EXPECT_NE(std::string::npos,
-            built.Errors.find("shows.csv, line 2, column Day: there is no \"Tonight\""))
-      << built.Errors;
+    EXPECT_NE(std::string::npos, checked.find(line)) << line << "in\n" << checked;
+  EXPECT_TRUE(checked.ends_with("=1"));
+  EXPECT_TRUE(Say("export H/odd H/tables").starts_with("[H/odd has "));
+  EXPECT_NE(
+      std::string::npos,
+      Say("build H/tables H/data").find("shows.csv, line 2, column Day: there is no \"Tonight\""));
 }
 
-TEST_F(TableCommands, SayWhatFolderIsNone) {
+TEST_F(TableCommands, SayWhatFolderIsNoneInUtf8WhateverIsTyped) {
   Write("file", "x");
   fs::create_directories(In("empty"));
-  const struct {
-    std::vector<std::string> Arguments;
-    std::string Expected;
-  } rows[] = {
-      {{"check", In("nowhere")}, "grapplemont-world check: \"H/nowhere\" is no folder.\n"},
-      {{"check", In("file")}, "grapplemont-world check: \"H/file\" is no folder.\n"},
-      {{"check", In("empty")}, "grapplemont-world check: \"H/empty\" holds no file of a world.\n"},
-      {{"export", In("empty"), In("t")},
-       "grapplemont-world export: \"H/empty\" holds no file of a world.\n"},
-      {{"build", In("nowhere"), In("d")}, "grapplemont-world build: \"H/nowhere\" is no folder.\n"},
-  };
-  for (const auto& row : rows) {
-    const Ran ran = Run(row.Arguments);
-    EXPECT_EQ(1, ran.Code);
-    EXPECT_EQ(row.Expected, ran.Errors);
-    EXPECT_EQ("", ran.Out);
-  }
+  const std::pair<const char*, std::string> kRows[] = {
+      {"check H/nowhere", "check: \"H/nowhere\" is no folder."},
+      {"check H/file", "check: \"H/file\" is no folder."},
+      {"check H/caf\xE9", "check: \"H/caf\xC3\xA9\" is no folder."},
+      {"check H/caf\xC3\xA9", "check: \"H/caf\xC3\xA9\" is no folder."},
+      {"check H/empty", "check: \"H/empty\" holds no file of a world."},
+      {"export H/empty H/t", "export: \"H/empty\" holds no file of a world."},
+      {"build H/nowhere H/d", "build: \"H/nowhere\" is no folder."}};
+  for (const auto& [typed, why] : kRows)
+    EXPECT_EQ("[grapplemont-world " + why + "\n]=1", Say(typed));
   Write("huge/wrestler.dat", std::string(std::size_t{237} * 25001, ' '));
-  const Ran huge = Run({"check", In("huge")});
-  EXPECT_EQ(1, huge.Code);
-  EXPECT_NE(std::string::npos, huge.Errors.find("wrestler.dat")) << huge.Errors;
+  EXPECT_NE(std::string::npos, Say("check H/huge").find("wrestler.dat"));
 }
 
 using ToolUsage = ToolHome;
 
-std::string FirstLine(const std::string& text) {
-  return text.substr(0, text.find('\n'));
-}
-
 TEST_F(ToolUsage, RefusesWhatMakesNoSense) {
-  const struct {
-    std::vector<std::string> Arguments;
-    std::string Expected;
-  } rows[] = {
-      {{}, "grapplemont-world: a command is missing"},
-      {{"biuld"}, "grapplemont-world: there is no command \"biuld\"; did you mean build?"},
-      {{"build", "a"}, "grapplemont-world build: something is missing"},
-      {{"build", "a", "b", "c"}, "grapplemont-world build: \"c\" is one word too many"},
-      {{"check"}, "grapplemont-world check: something is missing"},
-      {{"check", "--fast", "a"}, "grapplemont-world check: there is no option \"--fast\""},
-      {{"new", "--slot", "1", "--player", "Pat"}, "grapplemont-world new: --promotion is missing"},
-      {{"new", "--slot", "1", "--promotion", "CWA", "--player", "  "},
-       "grapplemont-world new: --player needs a name"},
-      {{"new", "--slot", "1", "--promotion", "CWA", "--player", std::string(26, 'x')},
-       "grapplemont-world new: --player has room for 25 letters"},
-      {{"new", "--slot", "1", "--promotion", "CWA", "--player", "\xC5\x81"},
-       "grapplemont-world new: --player has a letter that the game cannot hold"},
-      {{"new", "--slot", "9", "--promotion", "CWA", "--player", "Pat"},
-       "grapplemont-world new: --slot needs a whole number from 1 to 8, not \"9\""},
-      {{"new", "--slot", "1", "--promotion", "CWA", "--player", "Pat", "--difficulty", "0"},
-       "grapplemont-world new: --difficulty needs a whole number from 1 to 4, not \"0\""},
-      {{"new", "--slot", "1", "--promotion", "CWA", "--player", "Pat", "--start", "1.3.2026"},
-       "grapplemont-world new: --start needs a date such as 2026-03-01, not \"1.3.2026\""},
-      {{"new", "--slot", "1", "--promotion", "CWA", "--player", "Pat", "--start", "9999-12-31"},
-       "grapplemont-world new: --start needs a year from 1900 to 9000"},
-      {{"run", "--slot", "1"}, "grapplemont-world run: --days is missing"},
-      {{"run", "--slot", "1", "--days", "-3"},
-       "grapplemont-world run: --days needs a whole number from 0 to 100000, not \"-3\""},
-      {{"run", "--slot", "1", "--days", "1", "--days", "2"},
-       "grapplemont-world run: --days stands there twice"},
-      {{"run", "--slot", "1", "--days", "1", "--stats"},
-       "grapplemont-world run: --stats needs a value, FILE"},
-      {{"run", "--slot", "1", "--days", "1", "--shows", "all"},
-       "grapplemont-world run: --shows is \"auto\" or \"cancel\", not \"all\""},
-      {{"run", "--slot", "1", "--days", "1", "--sede", "1"},
-       "grapplemont-world run: there is no option \"--sede\"; did you mean --seed?"},
-  };
-  for (const auto& row : rows) {
-    const Ran ran = Run(row.Arguments);
-    EXPECT_EQ(2, ran.Code) << row.Expected;
-    EXPECT_EQ(row.Expected, FirstLine(ran.Errors));
-    EXPECT_NE(std::string::npos, ran.Errors.find("usage: grapplemont-world")) << row.Expected;
-    EXPECT_EQ("", ran.Out) << row.Expected;
+  const std::string begin = "new --slot 1 --promotion CWA --player ",
+                    play = "run --slot 1 --days 1 ";
+  const std::pair<std::string, std::string> kRows[] = {
+      {"", ": a command is missing"},
+      {"biuld", ": there is no command \"biuld\"; did you mean build?"},
+      {"build a", " build: something is missing"},
+      {"build a b c", " build: \"c\" is one word too many"},
+      {"check --fast a", " check: there is no option \"--fast\""},
+      {"new --slot 1 --player Pat", " new: --promotion is missing"},
+      {begin + " ", " new: --player needs a name"},
+      {begin + std::string(26, 'x'), " new: --player has room for 25 letters"},
+      {begin + "\xC5\x81", " new: --player has a letter that the game cannot hold"},
+      {"new --slot 9 --promotion CWA --player Pat",
+       " new: --slot needs a whole number from 1 to 8, not \"9\""},
+      {begin + "Pat --difficulty 0",
+       " new: --difficulty needs a whole number from 1 to 4, not \"0\""},
+      {begin + "Pat --start 1.3.2026",
+       " new: --start needs a date such as 2026-03-01, not \"1.3.2026\""},
+      {begin + "Pat --start 9999-12-31", " new: --start needs a year from 1900 to 9000"},
+      {"run --slot 1 --days -3", " run: --days needs a whole number from 0 to 100000, not \"-3\""},
+      {play + "--days 2", " run: --days stands there twice"},
+      {play + "--stats", " run: --stats needs a value, FILE"},
+      {play + "--shows all", " run: --shows is \"auto\" or \"cancel\", not \"all\""},
+      {play + "--sede 1", " run: there is no option \"--sede\"; did you mean --seed?"}};
+  for (const auto& [typed, why] : kRows) {
+    const std::string said = Say(typed);
+    EXPECT_TRUE(said.starts_with("[grapplemont-world" + why + "\nusage: ")) << said;
+    EXPECT_TRUE(said.ends_with("]=2")) << said;
   }
 }
 
 TEST_F(ToolUsage, HelpsOnEveryCommand) {
-  const Ran all = Run({"--help"});
-  EXPECT_EQ(0, all.Code);
-  EXPECT_EQ("", all.Errors);
-  for (const char* command :
+  const std::string all = Say("--help");
+  for (const std::string command :
        {"build", "export", "check", "new", "run", "soak", "formats", "columns"}) {
-    EXPECT_NE(std::string::npos, all.Out.find("\n  " + std::string(command))) << command;
-    const Ran one = Run({command, "--help"});
-    EXPECT_EQ(0, one.Code);
-    EXPECT_EQ("usage: grapplemont-world " + std::string(command),
-              FirstLine(one.Out).substr(0, 25 + std::string(command).size()));
+    EXPECT_NE(std::string::npos, all.find("\n  " + command)) << command;
+    EXPECT_TRUE(Say(command + " --help").starts_with("usage: grapplemont-world " + command));
   }
 }
 
-class TellCommand : public ToolHome {
- protected:
-  void MakeSlot() {
-    World world = Small().Game("CWA");
-    Slot::Create(*Machine, In("s1"), FilesOf(world), 1);
-  }
-  Ran Tell(const std::vector<std::string>& more = {}) {
-    std::vector<std::string> all = {"tell", "--home", Home, "--slot", "1", "--seed", "4"};
-    all.insert(all.end(), more.begin(), more.end());
-    return Run(all);
-  }
-};
+using TellCommand = ToolHome;
+constexpr const char* kTell = "tell --home H --slot 1 --seed 4";
 
-TEST_F(TellCommand, PrintsTheNextShowAndLeavesTheGameAsItIs) {
-  MakeSlot();
+TEST_F(TellCommand, PrintsTheNextShowInAnyVoiceAndLeavesTheGameAsItIs) {
+  MakeSlot("1", Small().Game("CWA"));
   const auto before = RecordFiles("s1");
-  const Ran told = Tell();
-  EXPECT_EQ(0, told.Code) << told.Errors;
+  const std::string told = Say(kTell);
   EXPECT_TRUE(
-      told.Out.starts_with("Event Report For Friday Fire\nFriday, 06 March 2026\n"
-                           "Reported By Rafe Tolland\n\n"))
-      << told.Out;
+      told.starts_with("Event Report For Friday Fire\nFriday, 06 March 2026\n"
+                       "Reported By Rafe Tolland\n\n"))
+      << told;
   for (const char* part : {"\nMatch Details\n1 vs 1, ", "\nWinner : CWA Hand ",
                            "\n\nMatch Quality ", "%, Overall Rating ", "\n\nThe show: "})
-    EXPECT_NE(std::string::npos, told.Out.find(part)) << part << " in\n" << told.Out;
-  EXPECT_EQ(std::string::npos, told.Out.find("\n\n\n"));
-  EXPECT_TRUE(before == RecordFiles("s1"));
-  EXPECT_EQ(told.Out, Tell().Out) << "the same from the same seed";
-}
-
-TEST_F(TellCommand, SpeaksInTheVoiceThatIsAskedFor) {
-  MakeSlot();
-  const std::string dry = Tell({"--voice", "1"}).Out, live = Tell({"--voice", "2"}).Out;
-  EXPECT_NE(std::string::npos, dry.find("Reported By Rafe Tolland\n"));
+    EXPECT_NE(std::string::npos, told.find(part)) << part << " in\n" << told;
+  EXPECT_EQ(std::string::npos, told.find("\n\n\n"));
+  const std::string live = Say(std::string(kTell) + " --voice 2");
   EXPECT_NE(std::string::npos, live.find("Reported By QVD\n"));
-  const auto card = [](const std::string& text) {
-    return text.substr(text.find("\nWinner : "), 24);
-  };
-  EXPECT_EQ(card(dry), card(live)) << "a voice changes no result";
-  EXPECT_EQ(2, Tell({"--voice", "3"}).Code);
+  EXPECT_EQ(told.substr(told.find("\nWinner : "), 24), live.substr(live.find("\nWinner : "), 24))
+      << "a voice changes no result";
+  EXPECT_TRUE(Say(std::string(kTell) + " --voice 3").ends_with("=2"));
+  EXPECT_TRUE(before == RecordFiles("s1"));
+  EXPECT_EQ(told, Say(kTell)) << "the same from the same seed";
 }
 
 TEST_F(TellCommand, PassesShowsOnTheWayToAnEvent) {
-  MakeSlot();
-  const Ran told = Tell({"--event"});
-  EXPECT_TRUE(told.Out.starts_with("Event Report For CWA in March\nSunday, 29 March 2026\n"))
-      << told.Out.substr(0, 80) << told.Errors;
+  MakeSlot("1", Small().Game("CWA"));
+  EXPECT_TRUE(Say(std::string(kTell) + " --event")
+                  .starts_with("Event Report For CWA in March\nSunday, 29 March 2026\n"));
 }
 
 TEST_F(TellCommand, SaysWhyThereIsNothingToTell) {
-  EXPECT_EQ("grapplemont-world tell: Slot 1 is empty.\n", Tell().Errors);
-  World world = SmallWorld().Promotion("CWA").Owner("Ruth Vane").Crew(8).Game("CWA");
-  Slot::Create(*Machine, In("s1"), FilesOf(world), 1);
-  const Ran none = Tell();
-  EXPECT_EQ(1, none.Code);
-  EXPECT_EQ("grapplemont-world tell: There is no show that the roster could fill.\n", none.Errors);
+  EXPECT_EQ("[grapplemont-world tell: Slot 1 is empty.\n]=1", Say(kTell));
+  MakeSlot("1", SmallWorld().Promotion("CWA").Owner("Ruth Vane").Crew(8).Game("CWA"));
+  EXPECT_EQ("[grapplemont-world tell: There is no show that the roster could fill.\n]=1",
+            Say(kTell));
 }
 
 }  // namespace

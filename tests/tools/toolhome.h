@@ -11,6 +11,7 @@
 
 #include "records/store/slot.h"
 #include "records/tables/worldtables.h"
+#include "support/scratchfolder.h"
 #include "support/smallworld.h"
 #include "tools/tool.h"
 
@@ -19,24 +20,18 @@ namespace grapplemont::test {
 /// A home folder for one test, and the tool to work in it.
 class ToolHome : public ::testing::Test {
  protected:
-  struct Ran {
-    int Code = 0;
-    std::string Out, Errors;
-  };
-
-  ToolHome() {
-    std::string name = (std::filesystem::temp_directory_path() / "grapplemont-XXXXXX").string();
-    if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-    Home = name;
-  }
-  ~ToolHome() override { std::filesystem::remove_all(Home); }
-
-  Ran Run(const std::vector<std::string>& arguments, bool terminal = false) {
+  /// What the tool answers to words between single blanks, of which H is the home: all that it
+  /// prints, first what goes to the errors in square brackets, and last "=1" for the code 1.
+  std::string Say(const std::string& typed, bool terminal = false) {
+    std::istringstream all(typed);
+    std::vector<std::string> words;
+    for (std::string word; std::getline(all, word, ' ');)
+      words.push_back(word == "H" || word.starts_with("H/") ? Home + word.substr(1) : word);
     std::ostringstream out, errors;
     const auto today = [] { return Day(std::chrono::year{2026} / 3 / 20); };
-    const int code = tools::RunWorldTool(arguments, {out, errors, terminal, today});
-    // What a test expects does not depend on where its home is.
-    return {code, Homeless(out.str()), Homeless(errors.str())};
+    const int code = tools::RunWorldTool(words, {out, errors, terminal, today});
+    return (errors.str().empty() ? "" : "[" + Homeless(errors.str()) + "]") + Homeless(out.str()) +
+           (code == 0 ? "" : "=" + std::to_string(code));
   }
 
   std::string In(const std::string& name) const { return Home + "/" + name; }
@@ -76,19 +71,27 @@ class ToolHome : public ::testing::Test {
         .Sponsor("Gulp");
     return small;
   }
-  void WriteSmallTables(const std::string& folder) {
-    WriteTables(*Machine, In(folder), ExportWorld(Small()));
-  }
   void BuildSmallData() {
-    WriteSmallTables("world");
-    const Ran ran = Run({"build", In("world"), In("data")});
-    ASSERT_EQ(0, ran.Code) << ran.Errors;
+    WriteTables(*Machine, In("world"), ExportWorld(Small()));
+    ASSERT_EQ("Built H/data: 2 promotions, 14 workers, 1 staff.\n", Say("build H/world H/data"));
   }
 
-  std::string Home;
-  std::unique_ptr<Disk> Machine = RealDisk();
+  /// A saved game.
+  void MakeSlot(const std::string& slot, const World& world) {
+    Slot::Create(*Machine, In("s" + slot), FilesOf(world), 1);
+  }
+  static World WorldOf(const Slot& slot) {
+    World world;
+    world.Load(slot.Files());
+    return world;
+  }
+
+  const ScratchFolder Scratch;
+  const std::string Home = Scratch / ".";
+  const std::unique_ptr<Disk> Machine = RealDisk();
 
  private:
+  /// What a test expects does not depend on where its home is.
   std::string Homeless(std::string text) const {
     for (auto at = text.find(Home); at != std::string::npos; at = text.find(Home))
       text.replace(at, Home.size(), "H");

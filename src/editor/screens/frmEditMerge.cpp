@@ -12,6 +12,31 @@ namespace grapplemont {
 
 namespace {
 
+ui::Cell FateCell(Fate fate) {
+  switch (fate) {
+    case Fate::Added:
+      return {"Added", ui::Tone::Green};
+    case Fate::Renumbered:
+      return {"New uid", ui::Tone::Amber};
+    default:
+      return {"Left out", ui::Tone::Red};
+  }
+}
+
+/// "11 records come in, 3 under another uid; 2 stay out."
+std::string Tally(const Arrivals& arrivals) {
+  const int renumbered = arrivals.Count(Fate::Renumbered);
+  const int out = arrivals.Count(Fate::LeftOut);
+  const int in = arrivals.Count(Fate::Added) + renumbered;
+  const auto records = [](int count, const char* one, const char* many) {
+    return Counted(static_cast<std::size_t>(count), "record") + (count == 1 ? one : many);
+  };
+  std::string text = records(in, " comes in", " come in");
+  if (renumbered > 0) text += ", " + std::to_string(renumbered) + " under another uid";
+  if (out > 0) text += "; " + std::to_string(out) + (out == 1 ? " stays out" : " stay out");
+  return text + ".";
+}
+
 /// New records in files beside the data: what would become of each, and taking them in.
 class frmEditMerge : public GameScreen {
  public:
@@ -155,12 +180,6 @@ class frmEditMerge : public GameScreen {
   ui::Button cmdrename{*this, "cmdrename", "Another Name", &frmEditMerge::cmdrename_Click};
   ui::Button cmdmerge{*this, "cmdmerge", "Merge", &frmEditMerge::cmdmerge_Click};
 };
-
-}  // namespace
-
-SCREEN(frmEditMerge)
-
-namespace {
 
 enum Meets { kNobody = 0, kSameName, kSameUid };
 
@@ -342,6 +361,7 @@ class frmEditImport : public GameScreen {
 
 }  // namespace
 
+SCREEN(frmEditMerge)
 SCREEN(frmEditImport)
 
 }  // namespace grapplemont

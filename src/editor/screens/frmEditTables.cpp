@@ -1,10 +1,8 @@
-#include "editor/datafolder.h"
 #include "editor/recordfile.h"
 #include "editor/screens/screenfiles.h"
 #include "records/fields/charset.h"
 #include "records/fields/wording.h"
 #include "records/tables/worldreport.h"
-#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -132,12 +130,6 @@ class frmEditTables : public GameScreen {
   ui::Button cmdimport{*this, "cmdimport", "Import", &frmEditTables::cmdimport_Click};
 };
 
-}  // namespace
-
-SCREEN(frmEditTables)
-
-namespace {
-
 std::vector<Fault> UnreadableFaults(const DataFolder& data) {
   std::vector<Fault> faults;
   for (const UnreadableFile& file : data.Unreadable())
@@ -209,6 +201,7 @@ class frmEditMaintain : public GameScreen {
 
 }  // namespace
 
+SCREEN(frmEditTables)
 SCREEN(frmEditMaintain)
 
 }  // namespace grapplemont

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -7,7 +6,6 @@
 #include "editor/screens/screenrecords.h"
 #include "records/fields/wording.h"
 #include "records/tables/worldreport.h"
-#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -40,9 +38,7 @@ class frmEditor : public GameScreen {
     for (const FileWork& work : kFileWork) {
       works_.push_back(std::make_unique<ui::Button>(*this, work.Button, work.Caption,
                                                     [this, &work] { desk().Open(work.Screen); }));
-      const bool known = desk().Knows(work.Screen);
-      works_.back()->Enabled = known;
-      works_.back()->Tip = known ? work.Tip : "Comes with a later version.";
+      works_.back()->Tip = work.Tip;
     }
     lstfaults.EmptyText = "The data are in order.";
   }
@@ -83,8 +79,7 @@ class frmEditor : public GameScreen {
       const RecordLayout& layout = LayoutOf(page.Kind);
       int count = 0;
       for (int number = 1; number <= CountOf(data_.World(), page.Kind); ++number)
-        count +=
-            !page.Shows || page.Shows(RecordAt(std::as_const(data_).World(), page.Kind, number));
+        count += page.Has(RecordAt(std::as_const(data_).World(), page.Kind, number));
       counts_[i]->Text = data_.IsReadable(layout.File)
                              ? std::to_string(count) + " of " + std::to_string(layout.Limit)
                              : "cannot be read";

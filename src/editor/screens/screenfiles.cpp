@@ -2,9 +2,6 @@
 
 #include <algorithm>
 
-#include "records/fields/wording.h"
-#include "records/tables/worldreport.h"
-
 namespace grapplemont {
 
 std::vector<ui::Column> FaultColumns(std::string what) {
@@ -18,7 +15,7 @@ std::vector<ui::Column> FaultColumns(std::string what) {
 
 void FillFaults(ui::ListBox& list, const std::vector<Fault>& faults) {
   std::vector<ui::ListBox::Row> rows;
-  for (std::size_t i = 0; i < std::min(faults.size(), kMostRows); ++i) {
+  for (std::size_t i = 0; i < std::min(faults.size(), FaultList::kMost); ++i) {
     const Fault& fault = faults[i];
     rows.push_back({{fault.File, fault.Record == 0 ? ui::Cell("") : ui::Cell(fault.Record),
                      fault.Who, fault.Field, fault.What}});
@@ -27,32 +24,9 @@ void FillFaults(ui::ListBox& list, const std::vector<Fault>& faults) {
 }
 
 std::string ShownOf(std::size_t count) {
-  return count <= kMostRows ? ""
-                            : ", of which the first " + std::to_string(kMostRows) + " are shown";
-}
-
-ui::Cell FateCell(Fate fate) {
-  switch (fate) {
-    case Fate::Added:
-      return {"Added", ui::Tone::Green};
-    case Fate::Renumbered:
-      return {"New uid", ui::Tone::Amber};
-    default:
-      return {"Left out", ui::Tone::Red};
-  }
-}
-
-std::string Tally(const Arrivals& arrivals) {
-  const int renumbered = arrivals.Count(Fate::Renumbered);
-  const int out = arrivals.Count(Fate::LeftOut);
-  const int in = arrivals.Count(Fate::Added) + renumbered;
-  const auto records = [](int count, const char* one, const char* many) {
-    return Counted(static_cast<std::size_t>(count), "record") + (count == 1 ? one : many);
-  };
-  std::string text = records(in, " comes in", " come in");
-  if (renumbered > 0) text += ", " + std::to_string(renumbered) + " under another uid";
-  if (out > 0) text += "; " + std::to_string(out) + (out == 1 ? " stays out" : " stay out");
-  return text + ".";
+  return count <= FaultList::kMost
+             ? ""
+             : ", of which the first " + std::to_string(FaultList::kMost) + " are shown";
 }
 
 namespace {

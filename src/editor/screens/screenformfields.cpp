@@ -1,6 +1,7 @@
 #include "editor/screens/screenformfields.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <vector>
 
@@ -33,13 +34,20 @@ bool ReadNumber(std::string_view text, long long& number) {
   return !digits.empty() && read.ec == std::errc() && read.ptr == end;
 }
 
+/// "cmbsize": the entry's own name for its control, or its field's.
+std::string ControlOf(const FormEntry& entry, std::string prefix) {
+  if (!entry.Control.empty()) return std::string(entry.Control);
+  for (const char c : entry.Field) prefix += static_cast<char>(std::tolower(c));
+  return prefix;
+}
+
 /// Texts, numbers and dates.
 class TextEntry : public FormField {
  public:
   TextEntry(ui::Screen& screen, FieldPlace place, const FormEntry& entry, const ui::Handler& edited)
       : place_(place),
         label_(entry.Label),
-        box_(screen, std::string(entry.Control), "",
+        box_(screen, ControlOf(entry, "txt"), "",
              place.Of->Kind == FieldKind::Text ? place.Of->Width : 0) {
     box_.OnChange = edited;
     if (place.Of->Kind == FieldKind::Date) box_.Hint = "yyyy-mm-dd";
@@ -109,7 +117,7 @@ class FlagEntry : public FormField {
  public:
   FlagEntry(ui::Screen& screen, FieldPlace place, const FormEntry& entry, const ui::Handler& edited)
       : place_(place),
-        box_(screen, std::string(entry.Control), std::string(entry.Label), false, edited) {}
+        box_(screen, ControlOf(entry, "chk"), std::string(entry.Label), false, edited) {}
   ui::Control& Control() override { return box_; }
   void Show(const World&, const std::byte* record) override {
     shown_ = FieldNumber(*place_.Of, record, place_.Index) != 0;
@@ -127,198 +135,134 @@ class FlagEntry : public FormField {
   bool shown_ = false;
 };
 
-/// One of several words. `Value` is what the record holds for one of them.
-template <class Value>
+std::vector<Choice> FinisherTypes() {
+  std::vector<Choice> types;
+  for (const FinisherType type : {FinisherType::Impact, FinisherType::Submission,
+                                  FinisherType::TopRope, FinisherType::Ground})
+    types.push_back({std::string(FinisherText(type)), static_cast<int>(type)});
+  return types;
+}
+
+/// One of several words: of a vocabulary, another record by name, or how a finisher is done. What
+/// the record holds is told as text: a code, a name, or a uid, of a worker who comments below 0.
 class PickEntry : public FormField {
  public:
-  PickEntry(ui::Screen& screen, const FormEntry& entry, const ui::Handler& edited)
-      : box_(screen, std::string(entry.Control), edited) {}
+  PickEntry(ui::Screen& screen, RecordKind kind, FieldPlace place, const FormEntry& entry,
+            const ui::Handler& edited)
+      : kind_(kind),
+        place_(place),
+        finisher_(entry.Finisher),
+        words_(entry.Words.empty() ? place.Of->Words : entry.Words),
+        box_(screen, ControlOf(entry, "cmb"), edited) {}
   ui::Control& Control() override { return box_; }
+  void Show(const World& world, const std::byte* record) override {
+    at_ = ValueIn(record);
+    Fill(world, record);
+    if (RowOf(at_) == 0) Add(StrangeName(world), at_);
+    shown_ = RowOf(at_);
+    box_.Select(shown_);
+  }
   bool Changed() const override { return box_.Selected() > 0 && box_.Selected() != shown_; }
   std::string Take(std::byte* record) const override {
     if (Changed()) Put(record, values_[static_cast<std::size_t>(box_.Selected() - 1)]);
     return {};
   }
-
- protected:
-  virtual void Put(std::byte* record, const Value& value) const = 0;
-
-  void Clear() {
-    box_.Clear();
-    values_.clear();
-  }
-  void Add(std::string says, Value value) {
-    box_.Add(std::move(says), static_cast<int>(values_.size()) + 1);
-    values_.push_back(std::move(value));
-  }
-  /// False when no row stands for it.
-  bool Select(const Value& value) {
-    const auto found = std::find(values_.begin(), values_.end(), value);
-    if (found == values_.end()) return false;
-    box_.Select(static_cast<int>(found - values_.begin()) + 1);
-    return true;
-  }
-  void CountAsShown() { shown_ = box_.Selected(); }
-  /// Rows have changed, and what was shown at first is another one of them, or none.
-  void CountAsShown(const Value& value) {
-    const auto found = std::find(values_.begin(), values_.end(), value);
-    shown_ = found == values_.end() ? 0 : static_cast<int>(found - values_.begin()) + 1;
-  }
-  const Value* Picked() const {
-    return box_.Selected() > 0 ? &values_[static_cast<std::size_t>(box_.Selected() - 1)] : nullptr;
-  }
-
- private:
-  ui::ComboBox box_;
-  std::vector<Value> values_;
-  int shown_ = 0;
-};
-
-/// A word of a vocabulary, by its code; what is none of them is shown as it is.
-class WordEntry : public PickEntry<std::string> {
- public:
-  WordEntry(ui::Screen& screen, FieldPlace place, const FormEntry& entry, const ui::Handler& edited)
-      : PickEntry(screen, entry, edited),
-        place_(place),
-        words_(entry.Words.empty() ? place.Of->Words : entry.Words) {}
-  void Show(const World&, const std::byte* record) override {
-    Clear();
-    for (const Term& term : words_) Add(std::string(term.Says), CodeOf(term));
-    const std::string code = CodeIn(record);
-    if (!Select(code)) {
-      Add("Unknown (" + code + ")", code);
-      Select(code);
-    }
-    CountAsShown();
+  void Follow(const World& world, const std::byte* record) override {
+    if (!IsReference() || !HangsOnTheRecord(kind_, *place_.Of)) return;
+    // What stands there though it may not goes only when the player moves the record elsewhere.
+    if (ChoicesFor(world, kind_, place_, record) == choices_) return;
+    const int row = box_.Selected();
+    const std::string picked = row > 0 ? values_[static_cast<std::size_t>(row - 1)] : None();
+    Fill(world, record);
+    shown_ = RowOf(at_);
+    box_.Select(std::max(RowOf(picked), 1));
   }
 
  private:
   bool IsText() const { return place_.Of->Kind == FieldKind::Text; }
-  std::string CodeOf(const Term& term) const {
-    return IsText() ? std::string(term.Stored) : std::to_string(term.Code);
-  }
-  std::string CodeIn(const std::byte* record) const {
-    if (IsText()) return std::string(FieldText(*place_.Of, record, place_.Index));
-    const long long code = FieldNumber(*place_.Of, record, place_.Index);
-    return std::to_string(place_.Of->Kind == FieldKind::Flag && code != 0 ? -1 : code);
-  }
-  void Put(std::byte* record, const std::string& code) const override {
-    if (IsText())
-      SetFieldText(*place_.Of, record, place_.Index, code);
-    else
-      SetFieldNumber(*place_.Of, record, place_.Index, std::stoll(code));
-  }
+  bool IsReference() const { return place_.Of->To != Refers::Nothing; }
+  bool IsCommentator() const { return place_.Of->To == Refers::Commentator; }
+  std::string None() const { return IsText() ? "None" : "0"; }
 
-  FieldPlace place_;
-  Vocabulary words_;
-};
-
-/// Three flags that say how a finisher is done.
-class FinisherEntry : public PickEntry<int> {
- public:
-  FinisherEntry(ui::Screen& screen, const FormEntry& entry, int slot, const ui::Handler& edited)
-      : PickEntry(screen, entry, edited), slot_(slot) {}
-  void Show(const World&, const std::byte* record) override {
-    Clear();
-    for (const FinisherType type : {FinisherType::Impact, FinisherType::Submission,
-                                    FinisherType::TopRope, FinisherType::Ground})
-      Add(std::string(FinisherText(type)), static_cast<int>(type));
-    Select(static_cast<int>(FinisherTypeOf(As<Worker>(record), slot_)));
-    CountAsShown();
+  void Add(std::string says, std::string value) {
+    box_.Add(std::move(says), static_cast<int>(values_.size()) + 1);
+    values_.push_back(std::move(value));
   }
-
- private:
-  void Put(std::byte* record, const int& type) const override {
-    FinisherFlags(As<Worker>(record), slot_, static_cast<FinisherType>(type));
-  }
-  int slot_;
-};
-
-/// Another record, by name.
-class ReferenceEntry : public PickEntry<std::string> {
- public:
-  ReferenceEntry(ui::Screen& screen, RecordKind kind, FieldPlace place, const FormEntry& entry,
-                 const ui::Handler& edited)
-      : PickEntry(screen, entry, edited), kind_(kind), place_(place) {}
-  void Show(const World& world, const std::byte* record) override {
-    at_ = ValueIn(record);
-    Fill(world, record);
-    if (!Select(at_)) {
-      Add(NameOfValue(world) + " (as it stands)", at_);
-      Select(at_);
-    }
-    CountAsShown();
-  }
-  void Follow(const World& world, const std::byte* record) override {
-    if (!HangsOnTheRecord(kind_, *place_.Of)) return;
-    // What stands there though it may not goes only when the player moves the record elsewhere.
-    if (ChoicesFor(world, kind_, place_, record) == choices_) return;
-    const std::string picked = Picked() ? *Picked() : std::string();
-    Fill(world, record);
-    CountAsShown(at_);
-    if (!Select(picked)) Select(None());
-  }
-
- private:
-  bool IsName() const { return place_.Of->Kind == FieldKind::Text; }
-  std::string None() const { return IsName() ? "None" : "0"; }
-
   void Fill(const World& world, const std::byte* record) {
-    Clear();
-    Add("None", None());
-    choices_ = ChoicesFor(world, kind_, place_, record);
+    box_.Clear();
+    values_.clear();
+    if (finisher_ != 0) {
+      choices_ = FinisherTypes();
+    } else if (IsReference()) {
+      Add("None", None());
+      choices_ = ChoicesFor(world, kind_, place_, record);
+    } else {
+      for (const Term& term : words_)
+        Add(std::string(term.Says),
+            IsText() ? std::string(term.Stored) : std::to_string(term.Code));
+      return;
+    }
     for (const Choice& choice : choices_)
-      Add(choice.Says, IsName() ? choice.Says : std::to_string(choice.Uid));
+      Add(choice.Says, IsText() ? choice.Says : std::to_string(choice.Uid));
   }
-  /// A uid as text, a commentator from the roster below 0; or a name.
+  /// From 1; 0 when no row stands for it.
+  int RowOf(const std::string& value) const {
+    const auto found = std::find(values_.begin(), values_.end(), value);
+    return found == values_.end() ? 0 : static_cast<int>(found - values_.begin()) + 1;
+  }
+  std::string StrangeName(const World& world) const {
+    if (!IsReference()) return "Unknown (" + at_ + ")";
+    return (IsText() ? at_ : NameOfUid(world, place_.Of->To, std::stoi(at_))) + " (as it stands)";
+  }
+
   std::string ValueIn(const std::byte* record) const {
-    if (IsName()) {
-      const auto name = FieldText(*place_.Of, record, place_.Index);
-      return name.empty() ? "None" : std::string(name);
+    if (finisher_ != 0)
+      return std::to_string(static_cast<int>(FinisherTypeOf(As<Worker>(record), finisher_)));
+    if (IsText()) {
+      const auto text = FieldText(*place_.Of, record, place_.Index);
+      return IsReference() && text.empty() ? None() : std::string(text);
     }
-    long long uid = FieldNumber(*place_.Of, record, place_.Index);
-    if (place_.Of->To == Refers::Commentator) {
-      if (As<grapplemont::Show>(record).ColourIsWorker) uid = -uid;
-    } else if (uid == kNoEnd && place_.Of->MayBeNone) {
-      uid = 0;
-    }
-    return std::to_string(uid);
+    long long number = FieldNumber(*place_.Of, record, place_.Index);
+    if (place_.Of->Kind == FieldKind::Flag && number != 0) number = -1;
+    if (IsCommentator())
+      number *= As<grapplemont::Show>(record).ColourIsWorker ? -1 : 1;
+    else if (IsReference() && number == kNoEnd && place_.Of->MayBeNone)
+      number = 0;
+    return std::to_string(number);
   }
-  std::string NameOfValue(const World& world) const {
-    return IsName() ? at_ : NameOfUid(world, place_.Of->To, std::stoi(at_));
-  }
-  void Put(std::byte* record, const std::string& value) const override {
-    if (IsName()) return SetFieldText(*place_.Of, record, place_.Index, value);
-    const int uid = std::stoi(value);
-    if (place_.Of->To == Refers::Commentator)
-      As<grapplemont::Show>(record).ColourIsWorker = uid < 0;
-    SetFieldNumber(*place_.Of, record, place_.Index,
-                   place_.Of->To == Refers::Commentator ? std::abs(uid) : uid);
+  void Put(std::byte* record, const std::string& value) const {
+    if (finisher_ != 0)
+      return FinisherFlags(As<Worker>(record), finisher_,
+                           static_cast<FinisherType>(std::stoi(value)));
+    if (IsText()) return SetFieldText(*place_.Of, record, place_.Index, value);
+    const long long number = std::stoll(value);
+    if (IsCommentator()) As<grapplemont::Show>(record).ColourIsWorker = number < 0;
+    SetFieldNumber(*place_.Of, record, place_.Index, IsCommentator() ? std::abs(number) : number);
   }
 
   RecordKind kind_;
   FieldPlace place_;
-  std::string at_;  // what the record held when it was shown
+  int finisher_;
+  Vocabulary words_;
+  ui::ComboBox box_;
+  std::vector<std::string> values_;  // a row each
   std::vector<Choice> choices_;
+  std::string at_;  // what the record held when it was shown
+  int shown_ = 0;   // its row
 };
 
 std::unique_ptr<FormField> Make(ui::Screen& screen, RecordKind kind, FieldPlace place,
                                 const FormEntry& entry, const ui::Handler& edited) {
   const Field& field = *place.Of;
-  if (entry.As == EntryAs::Finisher1Type || entry.As == EntryAs::Finisher2Type)
-    return std::make_unique<FinisherEntry>(screen, entry,
-                                           entry.As == EntryAs::Finisher1Type ? 1 : 2, edited);
-  if (field.To != Refers::Nothing)
-    return std::make_unique<ReferenceEntry>(screen, kind, place, entry, edited);
-  if (!entry.Words.empty() || !field.Words.empty())
-    return std::make_unique<WordEntry>(screen, place, entry, edited);
+  if (entry.Finisher != 0 || field.To != Refers::Nothing || !entry.Words.empty() ||
+      !field.Words.empty())
+    return std::make_unique<PickEntry>(screen, kind, place, entry, edited);
   if (field.Kind == FieldKind::Flag)
     return std::make_unique<FlagEntry>(screen, place, entry, edited);
   return std::make_unique<TextEntry>(screen, place, entry, edited);
 }
 
-}  // namespace
-
+/// "Skill at brawling. 0 to 100 percent."
 std::string TipOf(const Field& field) {
   std::string tip(field.Help);
   if (IsNumber(field) && field.Words.empty() && field.To == Refers::Nothing)
@@ -326,12 +270,13 @@ std::string TipOf(const Field& field) {
   return tip;
 }
 
+}  // namespace
+
 std::unique_ptr<FormField> MakeFormField(ui::Screen& screen, RecordKind kind,
                                          const FormEntry& entry, const ui::Handler& edited) {
   const FieldPlace place = FieldNamed(kind, entry.Field);
   auto made = Make(screen, kind, place, entry, edited);
-  const bool isType = entry.As == EntryAs::Finisher1Type || entry.As == EntryAs::Finisher2Type;
-  made->Control().Tip = isType ? "How the finisher is done." : TipOf(*place.Of);
+  made->Control().Tip = entry.Finisher != 0 ? "How the finisher is done." : TipOf(*place.Of);
   return made;
 }
 

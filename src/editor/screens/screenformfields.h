@@ -26,7 +26,4 @@ class FormField {
 std::unique_ptr<FormField> MakeFormField(ui::Screen& screen, RecordKind kind,
                                          const FormEntry& entry, const ui::Handler& edited);
 
-/// "Skill at brawling. 0 to 100 percent."
-std::string TipOf(const Field& field);
-
 }  // namespace grapplemont

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "editor/keeping.h"
-#include "records/checks/checkworld.h"
 #include "ui/controls.h"
 #include "ui/game.h"
 
@@ -17,15 +16,12 @@ void RegisterRecordPages(Game& game);
 // How each kind of record is laid out on its screen. What a field holds, its range and its help
 // stand in the field lists of the records; here only where it stands and what it is called.
 
-/// What is more than one field of the record.
-enum class EntryAs { Field, Finisher1Type, Finisher2Type, Commentator };
-
 struct FormEntry {
   std::string_view Field;  // "Brawl", "Split3"
-  std::string_view Label;
-  std::string_view Control;  // "txtbrawl"
-  Vocabulary Words = {};     // in place of the field's own
-  EntryAs As = EntryAs::Field;
+  std::string_view Label = Field;
+  std::string_view Control = {};  // "txtbrawl", which is the name without one
+  Vocabulary Words = {};          // in place of the field's own
+  int Finisher = 0;               // 1 or 2: how it is done, by three flags of the record
 };
 
 struct FormGroup {
@@ -40,8 +36,8 @@ inline constexpr ui::ColumnKind kByCode = ui::ColumnKind::Date;
 
 struct PageColumn {
   std::string_view Field;
-  std::string_view Title;
-  ui::ColumnKind Kind = ui::ColumnKind::Text;
+  std::string_view Title = Field;
+  ui::ColumnKind Kind = ui::ColumnKind::Text;  // numbers without words stand as what they are
   Vocabulary Words = {};
 };
 
@@ -56,6 +52,8 @@ struct RecordPage {
   /// Which of the file's records it shows; all without. What begins here gets `Begin`.
   bool (*Shows)(const std::byte* record) = nullptr;
   void (*Begin)(std::byte* record) = nullptr;
+
+  bool Has(const std::byte* record) const { return !Shows || Shows(record); }
 };
 
 /// In the order of the hub.
@@ -63,9 +61,5 @@ std::span<const RecordPage> RecordPages();
 
 /// "Popularity is 140, outside 0 to 100." with the field's name as the pages have it.
 std::string FaultWords(const Fault& fault);
-
-// The pages' tables.
-extern const RecordPage kWorkerPage, kPromotionPage, kOwnerPage, kStaffPage, kTeamPage, kStablePage,
-    kTitlePage, kShowPage, kEventPage, kNetworkPage, kSponsorPage;
 
 }  // namespace grapplemont

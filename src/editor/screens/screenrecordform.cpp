@@ -34,9 +34,7 @@ void RecordForm::Clear() {
 }
 
 bool RecordForm::Changed() const {
-  for (const auto& field : fields_)
-    if (field->Changed()) return true;
-  return false;
+  return std::ranges::any_of(fields_, [](const auto& field) { return field->Changed(); });
 }
 
 std::string RecordForm::Take(Bytes& record) const {

@@ -6,16 +6,19 @@
 #include "editor/keeping.h"
 #include "editor/screens/screenfiles.h"
 #include "records/modVar.h"
+#include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
 
 namespace {
 
-std::vector<ui::Column> ColumnsFor(const RecordPage& page) {
-  std::vector<ui::Column> columns;
-  for (const PageColumn& column : page.Columns)
-    columns.push_back({std::string(column.Title), column.Kind});
-  return columns;
+ui::ColumnKind KindOf(const PageColumn& column, const Field& field) {
+  if (!column.Words.empty() || !field.Words.empty() || field.To != Refers::Nothing)
+    return column.Kind;
+  const bool isNumber = field.Kind == FieldKind::Word || field.Kind == FieldKind::Long;
+  return isNumber                           ? ui::ColumnKind::Number
+         : field.Kind == FieldKind::Percent ? ui::ColumnKind::Percent
+                                            : column.Kind;
 }
 
 std::string Small(std::string_view text) {
@@ -45,8 +48,39 @@ std::string WhyNot(const Keeping& keeping, std::string_view file) {
   return why;
 }
 
-bool IsShown(const RecordPage& page, const std::byte* record) {
-  return !page.Shows || page.Shows(record);
+int CodeIn(const Field& field, const FieldPlace& place, const std::byte* record) {
+  if (field.Kind != FieldKind::Text)
+    return static_cast<int>(FieldNumber(field, record, place.Index));
+  for (const Term& term : field.Words)
+    if (term.Stored == FieldText(field, record, place.Index)) return term.Code;
+  return 0;
+}
+
+std::string WordsOf(const PageColumn& column, const FieldPlace& place, const std::byte* record) {
+  if (column.Words.empty()) return FieldShown(*place.Of, record, place.Index);
+  const int code = static_cast<int>(FieldNumber(*place.Of, record, place.Index));
+  const auto words = Says(column.Words, code);
+  return words.empty() ? std::to_string(code) : std::string(words);
+}
+
+/// What a table shows of a field: words for codes, names for references, dollars for money.
+ui::Cell CellOf(const World& world, const PageColumn& column, const FieldPlace& place,
+                const std::byte* record) {
+  const Field& field = *place.Of;
+  if (field.To != Refers::Nothing && field.Kind == FieldKind::Word)
+    return NameOfUid(world, field.To, static_cast<int>(FieldNumber(field, record, place.Index)));
+  const ui::ColumnKind kind = KindOf(column, field);
+  if (kind == ui::ColumnKind::Number || kind == ui::ColumnKind::Percent) {
+    const long long number = FieldNumber(field, record, place.Index);
+    if (field.Unit == "dollars") return {static_cast<double>(number), Dollars(number)};
+    if (field.Unit == "hundredths")
+      return {static_cast<double>(number), RatingText(static_cast<int>(number))};
+    return ui::Cell(static_cast<int>(number));
+  }
+  const std::string words = WordsOf(column, place, record);
+  if (kind == kByCode) return {static_cast<double>(CodeIn(field, place, record)), words};
+  return {words,
+          field.Name == "Disposition" ? DispositionTone(As<Worker>(record)) : ui::Tone::Plain};
 }
 
 }  // namespace
@@ -55,10 +89,14 @@ RecordScreen::RecordScreen(Game& game, const RecordPage& page)
     : Screen(game.Desk(), std::string(page.Screen), std::string(page.Title)),
       data_(EditedData(game)),
       page_(page),
-      lstrecords(*this, "lstrecords", ColumnsFor(page), &RecordScreen::lstrecords_Click),
+      lstrecords(*this, "lstrecords", {}, &RecordScreen::lstrecords_Click),
       form_(*this, page, [this] { ShowButtons(); }) {
-  for (const PageColumn& column : page.Columns)
+  std::vector<ui::Column> headings;
+  for (const PageColumn& column : page.Columns) {
     columns_.push_back(FieldNamed(page.Kind, column.Field));
+    headings.push_back({std::string(column.Title), KindOf(column, *columns_.back().Of)});
+  }
+  lstrecords.SetColumns(std::move(headings));
   txtsearch.Hint = "Search in all columns";
   txtsearch.OnChange = [this] { txtsearch_Change(); };
   lblfault.Colour = ui::Tone::Amber;
@@ -100,7 +138,7 @@ void RecordScreen::LookOver() {
   const std::string_view file = LayoutOf(page_.Kind).File;
   CheckWorld(data_.World(), [&](Fault&& fault) {
     if (fault.File != file || fault.Record == 0) return;
-    if (!IsShown(page_, RecordAt(std::as_const(data_).World(), page_.Kind, fault.Record))) return;
+    if (!page_.Has(RecordAt(std::as_const(data_).World(), page_.Kind, fault.Record))) return;
     constexpr int kMost = 6;
     Faults& found = faults_[fault.Record];
     if (++found.Count <= kMost)
@@ -133,7 +171,7 @@ void RecordScreen::FillTable() {
   std::vector<ui::ListBox::Row> rows;
   int all = 0;
   for (int number = 1; number <= CountOf(world, page_.Kind); ++number) {
-    if (!IsShown(page_, RecordAt(world, page_.Kind, number))) continue;
+    if (!page_.Has(RecordAt(world, page_.Kind, number))) continue;
     ++all;
     auto row = RowOf(number);
     if (Found(row)) rows.push_back(std::move(row));
@@ -152,37 +190,29 @@ void RecordScreen::FillTable() {
 }
 
 void RecordScreen::Choose(int number) {
-  if (number > 0)
-    ShowRecord(number);
-  else
-    ShowNothing();
-  lstrecords.SelectKey(number);
-}
-
-void RecordScreen::ShowRecord(int number) {
-  number_ = number;
+  Bytes record;
+  if (number > 0) {
+    const std::byte* stands = RecordAt(std::as_const(data_).World(), page_.Kind, number);
+    record.assign(stands, stands + LayoutOf(page_.Kind).Size);
+  }
   fresh_ = worthKeeping_ = false;
-  const std::byte* record = RecordAt(std::as_const(data_).World(), page_.Kind, number);
-  inHand_.assign(record, record + LayoutOf(page_.Kind).Size);
-  form_.Show(data_.World(), inHand_);
-  ShowButtons();
+  TakeInHand(number, std::move(record));
 }
 
 void RecordScreen::ShowNew(Bytes record, bool worthKeeping) {
-  number_ = 0;
   fresh_ = true;
   worthKeeping_ = worthKeeping;
-  inHand_ = std::move(record);
-  form_.Show(data_.World(), inHand_);
-  lstrecords.Select(0);
-  ShowButtons();
+  TakeInHand(0, std::move(record));
 }
 
-void RecordScreen::ShowNothing() {
-  number_ = 0;
-  fresh_ = worthKeeping_ = false;
-  inHand_.clear();
-  form_.Clear();
+void RecordScreen::TakeInHand(int number, Bytes record) {
+  number_ = number;
+  inHand_ = std::move(record);
+  if (inHand_.empty())
+    form_.Clear();
+  else
+    form_.Show(data_.World(), inHand_);
+  lstrecords.SelectKey(number);
   ShowButtons();
 }
 
@@ -199,15 +229,10 @@ void RecordScreen::ShowButtons() {
   const auto fault = faults_.find(number_);
   lblfault.Text = fault == faults_.end() ? std::string() : fault->second.Words;
   lblfault.Visible = !lblfault.Text->empty();
-  const auto offer = [](ui::Button& button, bool on, const char* why) {
-    button.Enabled = on;
-    button.Tip = on ? "" : why;
-  };
-  offer(cmdsave, dirty || fresh_, "Nothing has been changed.");
-  offer(cmdrevert, dirty || fresh_, "Nothing has been changed.");
-  offer(cmdcopy, stands, "Choose a record first.");
-  offer(cmddelete, stands, "Choose a record first.");
-  offer(cmdnew, data_.IsReadable(LayoutOf(page_.Kind).File), "The file cannot be read.");
+  EnableUnless({cmdsave, cmdrevert}, dirty || fresh_ ? "" : "Nothing has been changed.");
+  EnableUnless({cmdcopy, cmddelete}, stands ? "" : "Choose a record first.");
+  EnableUnless(cmdnew,
+               data_.IsReadable(LayoutOf(page_.Kind).File) ? "" : "The file cannot be read.");
 }
 
 bool RecordScreen::IsDirty() const {
@@ -230,20 +255,21 @@ void RecordScreen::lstrecords_Click() {
   lstrecords.SelectKey(number_);
 }
 
-void RecordScreen::cmdnew_Click() {
+bool RecordScreen::MayBegin() {
   const std::string why = WhyNoMore(data_.World(), page_.Kind);
-  if (!why.empty()) return desk().Say("Error!", why);
-  if (!MayLeave()) return;
+  if (!why.empty()) desk().Say("Error!", why);
+  return why.empty() && MayLeave();
+}
+
+void RecordScreen::cmdnew_Click() {
+  if (!MayBegin()) return;
   Bytes record = NewRecord(page_.Kind);
   if (page_.Begin) page_.Begin(record.data());
   ShowNew(std::move(record), false);
 }
 
 void RecordScreen::cmdcopy_Click() {
-  const std::string why = WhyNoMore(data_.World(), page_.Kind);
-  if (!why.empty()) return desk().Say("Error!", why);
-  if (!MayLeave()) return;
-  ShowNew(CopyOfRecord(data_.World(), page_.Kind, number_), true);
+  if (MayBegin()) ShowNew(CopyOfRecord(data_.World(), page_.Kind, number_), true);
 }
 
 void RecordScreen::cmddelete_Click() {
@@ -282,48 +308,6 @@ void RecordScreen::cmdsave_Click() {
 
 void RecordScreen::cmdback_Click() {
   if (MayLeave()) Close();
-}
-
-namespace {
-
-ui::Tone ToneOf(const Field& field, std::string_view words) {
-  if (field.Name != "Disposition") return ui::Tone::Plain;
-  if (words == "Face") return ui::Tone::Blue;
-  return words == "Heel" ? ui::Tone::Red : ui::Tone::Muted;
-}
-
-int CodeIn(const Field& field, const FieldPlace& place, const std::byte* record) {
-  if (field.Kind != FieldKind::Text)
-    return static_cast<int>(FieldNumber(field, record, place.Index));
-  for (const Term& term : field.Words)
-    if (term.Stored == FieldText(field, record, place.Index)) return term.Code;
-  return 0;
-}
-
-std::string WordsOf(const PageColumn& column, const FieldPlace& place, const std::byte* record) {
-  if (column.Words.empty()) return FieldShown(*place.Of, record, place.Index);
-  const int code = static_cast<int>(FieldNumber(*place.Of, record, place.Index));
-  const auto words = Says(column.Words, code);
-  return words.empty() ? std::to_string(code) : std::string(words);
-}
-
-}  // namespace
-
-ui::Cell CellOf(const World& world, const PageColumn& column, const FieldPlace& place,
-                const std::byte* record) {
-  const Field& field = *place.Of;
-  if (field.To != Refers::Nothing && field.Kind == FieldKind::Word)
-    return NameOfUid(world, field.To, static_cast<int>(FieldNumber(field, record, place.Index)));
-  if (column.Kind == ui::ColumnKind::Number || column.Kind == ui::ColumnKind::Percent) {
-    const long long number = FieldNumber(field, record, place.Index);
-    if (field.Unit == "dollars") return {static_cast<double>(number), Dollars(number)};
-    if (field.Unit == "hundredths")
-      return {static_cast<double>(number), RatingText(static_cast<int>(number))};
-    return ui::Cell(static_cast<int>(number));
-  }
-  const std::string words = WordsOf(column, place, record);
-  if (column.Kind == kByCode) return {static_cast<double>(CodeIn(field, place, record)), words};
-  return {words, ToneOf(field, words)};
 }
 
 }  // namespace grapplemont

@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "editor/datafolder.h"
-#include "editor/screens/screenpages.h"
 #include "editor/screens/screenrecordform.h"
 #include "ui/game.h"
 
@@ -30,12 +29,12 @@ class RecordScreen : public ui::Screen {
   void Choose(int number);
 
   // The record in hand.
-  void ShowRecord(int number);
   void ShowNew(Bytes record, bool worthKeeping);
-  void ShowNothing();
+  void TakeInHand(int number, Bytes record);  // empty for none
   void ShowButtons();
   bool IsDirty() const;
   bool MayLeave();
+  bool MayBegin();
   std::string Called() const;
 
   void lstrecords_Click();
@@ -73,9 +72,5 @@ class RecordScreen : public ui::Screen {
   ui::Button cmdrevert{*this, "cmdrevert", "Revert", &RecordScreen::cmdrevert_Click};
   ui::Button cmdsave{*this, "cmdsave", "Save", &RecordScreen::cmdsave_Click};
 };
-
-/// What a table shows of a field: words for codes, names for references, dollars for money.
-ui::Cell CellOf(const World& world, const PageColumn& column, const FieldPlace& place,
-                const std::byte* record);
 
 }  // namespace grapplemont

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "records/fields/wording.h"
 #include "records/world.h"
 #include "session/home.h"
 #include "session/screens/frmLoadGame.h"
@@ -49,12 +50,6 @@ class frmTitleScreen : public ui::Screen {
   ui::Button cmdbegin{*this, "cmdbegin", "Begin", &frmTitleScreen::imgtitle_Click};
 };
 
-}  // namespace
-
-SCREEN(frmTitleScreen)
-
-namespace {
-
 /// "lblbelt" for "belt.dat".
 std::string LabelName(std::string_view file) {
   return "lbl" + std::string(file.substr(0, file.find('.')));
@@ -98,9 +93,7 @@ class frmDisclaimer : public ui::Screen {
     lblverdict.Visible = !missing.empty();
     cmdcontinue.Enabled = missing.empty();
     if (missing.empty()) return;
-    std::string names;
-    for (const std::string& file : missing) names += (names.empty() ? "" : ", ") + file;
-    lblverdict.Text = "The game cannot go on without " + names +
+    lblverdict.Text = "The game cannot go on without " + Joined(missing) +
                       ". Put what is missing into the folder data, then start again.";
     cmdcontinue.Tip = "Files of the default world are missing.";
   }
@@ -138,19 +131,10 @@ class frmDisclaimer : public ui::Screen {
   ui::Button cmdcontinue{*this, "cmdcontinue", "Continue", &frmDisclaimer::cmdcontinue_Click};
 };
 
-}  // namespace
-
-SCREEN(frmDisclaimer)
-
-namespace {
-
 class frmGameMenu : public ui::Screen {
  public:
   explicit frmGameMenu(Game& game)
-      : Screen(game.Desk(), "frmGameMenu", "Grapplemont", ui::Role::Cover) {
-    cmdeditor.Enabled = desk().Knows("frmEditor");
-    if (!cmdeditor.Enabled) cmdeditor.Tip = "The editor comes with a later version.";
-  }
+      : Screen(game.Desk(), "frmGameMenu", "Grapplemont", ui::Role::Cover) {}
 
   ui::Page Layout() override {
     ui::Page page;
@@ -178,12 +162,6 @@ class frmGameMenu : public ui::Screen {
   ui::Button cmdcredits{*this, "cmdcredits", "Credits", &frmGameMenu::cmdcredits_Click};
   ui::Button cmdquit{*this, "cmdquit", "Quit", &frmGameMenu::cmdquit_Click};
 };
-
-}  // namespace
-
-SCREEN(frmGameMenu)
-
-namespace {
 
 class frmCredits : public GameScreen {
  public:
@@ -248,6 +226,9 @@ class frmCreditsXtra : public GameScreen {
 
 }  // namespace
 
+SCREEN(frmTitleScreen)
+SCREEN(frmDisclaimer)
+SCREEN(frmGameMenu)
 SCREEN(frmCredits)
 SCREEN(frmCreditsXtra)
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/store/slot.h"
 #include "records/store/slotfolder.h"
@@ -13,12 +14,6 @@
 namespace grapplemont {
 
 namespace {
-
-std::string Lines(const std::vector<std::string>& remarks) {
-  std::string text;
-  for (const std::string& remark : remarks) text += (text.empty() ? "" : "\n") + remark;
-  return text;
-}
 
 /// False when the player would rather leave a damaged slot alone.
 bool Open(Game& game, int slot) {
@@ -32,7 +27,7 @@ bool Open(Game& game, int slot) {
     remarks = game.OpenSlot(slot, true);
   }
   for (std::string& line : NearlyFullFiles(game.World())) remarks.push_back(std::move(line));
-  if (!remarks.empty()) game.Desk().Say("Loading", Lines(remarks));
+  if (!remarks.empty()) game.Desk().Say("Loading", Joined(remarks, "\n"));
   return true;
 }
 
@@ -52,10 +47,12 @@ void EnterSlot(Game& game, int slot) {
 
 namespace {
 
-class frmLoadGame : public GameScreen {
+/// The slots, a button each and beside it what is in them.
+class SlotScreen : public GameScreen {
  public:
-  explicit frmLoadGame(Game& game)
-      : GameScreen(game, "frmLoadGame", "Load Game", {.Is = ui::Role::Cover}) {}
+  SlotScreen(Game& game, std::string name, std::string title, std::string heading)
+      : GameScreen(game, std::move(name), std::move(title), {.Is = ui::Role::Cover}),
+        heading_(std::move(heading)) {}
 
   ui::Page Layout() override {
     ui::Page page;
@@ -64,26 +61,24 @@ class frmLoadGame : public GameScreen {
     std::vector<ui::Box> rows;
     for (int slot = 1; slot <= kSlots; ++slot)
       rows.push_back(ui::Columns({ui::Grow(cmdload(slot), 2), ui::Grow(lbldetails(slot), 3)}));
-    page.Body = ui::Rows({ui::Group("Saved games", std::move(rows)), ui::Spacer()});
+    page.Body = ui::Rows({ui::Group(heading_, std::move(rows)), ui::Spacer()});
     return page;
   }
 
-  void Load() override {
+  void Return() override {
     for (int slot = 1; slot <= kSlots; ++slot) {
       const SlotSummary summary = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot));
       cmdload(slot).Text = summary.Caption;
-      cmdload(slot).Enabled = summary.Playable;
-      cmdload(slot).Tip = summary.Empty      ? "No game is kept in this slot."
-                          : summary.Playable ? ""
-                                             : "This slot can't be loaded.";
       lbldetails(slot).Text = summary.Details;
+      Offer(cmdload(slot), summary);
     }
   }
-  void Return() override { Load(); }
 
  private:
-  void cmdload_Click(int slot) { EnterSlot(game_, slot); }
+  virtual void Offer(ui::Button&, const SlotSummary&) {}
+  virtual void cmdload_Click(int slot) = 0;
 
+  std::string heading_;
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Array<ui::Button> cmdload{"cmdload", kSlots, [this](const std::string&, int slot) {
                                   return std::make_unique<ui::Button>(
@@ -96,41 +91,28 @@ class frmLoadGame : public GameScreen {
                                   }};
 };
 
-}  // namespace
-
-SCREEN(frmLoadGame)
-
-namespace {
-
-class frmPickSaveSlot : public GameScreen {
+class frmLoadGame : public SlotScreen {
  public:
-  frmPickSaveSlot(Game& game, NewGameChoice choice)
-      : GameScreen(game, "frmPickSaveSlot", "Pick A Save Slot", {.Is = ui::Role::Cover}),
-        choice_(std::move(choice)) {}
-
-  ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    std::vector<ui::Box> rows;
-    for (int slot = 1; slot <= kSlots; ++slot)
-      rows.push_back(ui::Columns({ui::Grow(cmdload(slot), 2), ui::Grow(lbldetails(slot), 3)}));
-    page.Body =
-        ui::Rows({ui::Group("Where is the game to be kept?", std::move(rows)), ui::Spacer()});
-    return page;
-  }
-
-  void Load() override {
-    for (int slot = 1; slot <= kSlots; ++slot) {
-      const SlotSummary summary = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot));
-      cmdload(slot).Text = summary.Caption;
-      lbldetails(slot).Text = summary.Details;
-    }
-  }
-  void Return() override { Load(); }
+  explicit frmLoadGame(Game& game) : SlotScreen(game, "frmLoadGame", "Load Game", "Saved games") {}
 
  private:
-  void cmdload_Click(int slot) {
+  void Offer(ui::Button& button, const SlotSummary& summary) override {
+    button.Enabled = summary.Playable;
+    button.Tip = summary.Empty      ? "No game is kept in this slot."
+                 : summary.Playable ? ""
+                                    : "This slot can't be loaded.";
+  }
+  void cmdload_Click(int slot) override { EnterSlot(game_, slot); }
+};
+
+class frmPickSaveSlot : public SlotScreen {
+ public:
+  frmPickSaveSlot(Game& game, NewGameChoice choice)
+      : SlotScreen(game, "frmPickSaveSlot", "Pick A Save Slot", "Where is the game to be kept?"),
+        choice_(std::move(choice)) {}
+
+ private:
+  void cmdload_Click(int slot) override {
     {
       const SlotLock free(game_.Disk(), game_.SlotFolder(slot));
     }  // before any question: it may be busy
@@ -168,19 +150,11 @@ class frmPickSaveSlot : public GameScreen {
   }
 
   NewGameChoice choice_;
-  ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
-  ui::Array<ui::Button> cmdload{"cmdload", kSlots, [this](const std::string&, int slot) {
-                                  return std::make_unique<ui::Button>(
-                                      *this, "cmdload" + std::to_string(slot), "",
-                                      [this, slot] { cmdload_Click(slot); });
-                                }};
-  ui::Array<ui::Label> lbldetails{"lbldetails", kSlots, [this](const std::string&, int slot) {
-                                    return std::make_unique<ui::Label>(
-                                        *this, "lbldetails" + std::to_string(slot));
-                                  }};
 };
 
 }  // namespace
+
+SCREEN(frmLoadGame)
 
 std::unique_ptr<ui::Screen> MakefrmPickSaveSlot(Game& game, NewGameChoice choice) {
   return std::make_unique<frmPickSaveSlot>(game, std::move(choice));

@@ -1,10 +1,12 @@
 #include <algorithm>
 
+#include "business/networks.h"
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "session/newgame.h"
 #include "session/screens/frmLoadGame.h"
+#include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
 #include "storylines/titles.h"
 #include "ui/game.h"
@@ -90,9 +92,8 @@ class frmNewGame : public GameScreen {
     lstshows.Clear();
     for (const Show& show : world_.Shows()) {
       if (show.Owner != promotion.Uid) continue;
-      const Network* network = world_.FindNetwork(show.Network);
-      lstshows.Add({show.Name.View(), network ? network->Name.View() : std::string_view("None"),
-                    show.Day.View(), Says(kTimeSlots, show.Slot)});
+      lstshows.Add({show.Name.View(), NetworkName(world_, show.Network), show.Day.View(),
+                    Says(kTimeSlots, show.Slot)});
     }
   }
 
@@ -123,16 +124,19 @@ class frmNewGame : public GameScreen {
       lstroster.Add({worker->Name + RoleSuffix(*worker),
                      PositionText(IsSentAway(*worker) ? worker->Position - kSentToDevelopment
                                                       : int(worker->Position)),
-                     ui::Cell(DispositionText(worker->Disposition), ToneOf(*worker)),
-                     ui::Cell(worker->Over)});
+                     DispositionCell(*worker), ui::Cell(worker->Over)});
   }
 
-  static ui::Tone ToneOf(const Worker& worker) {
-    if (worker.Disposition == "F") return ui::Tone::Blue;
-    return worker.Disposition == "H" ? ui::Tone::Red : ui::Tone::Muted;
+  void cmdbegin_Click() {
+    const std::string name(detail::Trimmed(txtname.Text.Get()));
+    if (name.empty()) return desk().Say("Error!", "Please enter your name first.");
+    if (desk().Objects(WhyNotPlain(name))) return;
+    desk().Open(MakefrmPickSaveSlot(game_, {.PlayerName = name,
+                                            .PromotionUid = cmbPromo.Key(),
+                                            .Difficulty = cmbdifficulty.Key(),
+                                            .Start = NextFirst(game_.PresentDay()),
+                                            .SaveName = {}}));
   }
-
-  void cmdbegin_Click();
 
   using K = ui::ColumnKind;
   World world_;
@@ -152,18 +156,6 @@ class frmNewGame : public GameScreen {
       *this, "lstroster", {{"Name"}, {"Position"}, {"Disp.", K::Tag}, {"Over", K::Number}}};
   ui::Button cmdbegin{*this, "cmdbegin", "Begin", &frmNewGame::cmdbegin_Click};
 };
-
-void frmNewGame::cmdbegin_Click() {
-  const std::string name(detail::Trimmed(txtname.Text.Get()));
-  if (name.empty()) return desk().Say("Error!", "Please enter your name first.");
-  if (desk().Objects(WhyNotPlain(name))) return;
-  NewGameChoice choice;
-  choice.PlayerName = name;
-  choice.PromotionUid = cmbPromo.Key();
-  choice.Difficulty = cmbdifficulty.Key();
-  choice.Start = NextFirst(game_.PresentDay());
-  desk().Open(MakefrmPickSaveSlot(game_, choice));
-}
 
 }  // namespace
 

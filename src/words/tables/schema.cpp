@@ -67,35 +67,31 @@ Table MatchTypes() {
 }
 
 Table Finishes() {
-  return {"Finishes of 1 vs 1 and 2 vs 2",
-          {{"Code", Number},
-           {"Rule", RuleName},
-           {"Says of 1 vs 1", Phrase, kLeavesOut},
-           {"Says of 2 vs 2", Phrase, kLeavesOut},
-           {"Summary", Phrase}},
-          {"Code"},
-          false,
-          "",
-          "Finish",
-          "Code",
-          {{"segments", "Phrase", "kSinglesFinishes", {"Code", "Says of 1 vs 1", "Summary"}},
-           {"segments", "Phrase", "kTagFinishes", {"Code", "Says of 2 vs 2", "Summary"}}}};
+  return {
+      .Heading = "Finishes of 1 vs 1 and 2 vs 2",
+      .Columns = {{"Code", Number},
+                  {"Rule", RuleName},
+                  {"Says of 1 vs 1", Phrase, kLeavesOut},
+                  {"Says of 2 vs 2", Phrase, kLeavesOut},
+                  {"Summary", Phrase}},
+      .Keys = {"Code"},
+      .Enum = "Finish",
+      .NumbersOf = "Code",
+      .Arrays = {{"segments", "Phrase", "kSinglesFinishes", {"Code", "Says of 1 vs 1", "Summary"}},
+                 {"segments", "Phrase", "kTagFinishes", {"Code", "Says of 2 vs 2", "Summary"}}}};
 }
 
 Table SideFinishes() {
-  return {"Finishes of 3 vs 3 and 4 vs 4",
-          {{"3 vs 3", Number, kLeavesOut},
-           {"4 vs 4", Number},
-           {"Rule", RuleName},
-           {"Says", Phrase},
-           {"Summary", Phrase, kSame}},
-          {"4 vs 4"},
-          false,
-          "",
-          "",
-          "4 vs 4",
-          {{"segments", "Phrase", "kSixManFinishes", {"3 vs 3", "Says", "Summary"}},
-           {"segments", "Phrase", "kEightManFinishes", {"4 vs 4", "Says", "Summary"}}}};
+  return {.Heading = "Finishes of 3 vs 3 and 4 vs 4",
+          .Columns = {{"3 vs 3", Number, kLeavesOut},
+                      {"4 vs 4", Number},
+                      {"Rule", RuleName},
+                      {"Says", Phrase},
+                      {"Summary", Phrase, kSame}},
+          .Keys = {"4 vs 4"},
+          .NumbersOf = "4 vs 4",
+          .Arrays = {{"segments", "Phrase", "kSixManFinishes", {"3 vs 3", "Says", "Summary"}},
+                     {"segments", "Phrase", "kEightManFinishes", {"4 vs 4", "Says", "Summary"}}}};
 }
 
 TableFile Segments() {
@@ -164,14 +160,11 @@ TableFile Angles() {
 TableFile NewPromotions() {
   return {"promotions.txt",
           {{"promotions", {"rivals/newpromotionnames.h"}}},
-          {{"New promotions",
-            {{"Name"}, {"Initials"}},
-            {"Name"},
-            false,
-            "",
-            "",
-            "",
-            {{"promotions", "NewPromotionName", "kNewPromotionNames", {"Name", "Initials"}}}}},
+          {{.Heading = "New promotions",
+            .Columns = {{"Name"}, {"Initials"}},
+            .Keys = {"Name"},
+            .Arrays =
+                {{"promotions", "NewPromotionName", "kNewPromotionNames", {"Name", "Initials"}}}}},
           {}};
 }
 
