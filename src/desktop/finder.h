@@ -21,7 +21,7 @@ class Finder : public Veil {
   std::function<void(const Entry* chosen)> Done;
 
  protected:
-  void mousePressEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent*) override { Finish(nullptr); }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

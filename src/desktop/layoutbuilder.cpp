@@ -1,16 +1,14 @@
 #include "desktop/layoutbuilder.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <algorithm>
 
 #include "desktop/button.h"
 #include "desktop/card.h"
-#include "desktop/look.h"
+#include "desktop/pieces.h"
 #include "desktop/tableview.h"
-#include "desktop/textviews.h"
 
 namespace grapplemont::desktop {
 
@@ -24,6 +22,12 @@ constexpr int kCardSide = 14;
 
 bool IsButton(const Box& box) {
   return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
+}
+
+/// Lets a button with a share take it.
+void Widen(QWidget& widget, const Box& box) {
+  if (IsButton(box) && box.Stretch > 0)
+    widget.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
 /// A row of controls alone, such as one of several alike below each other.
@@ -51,6 +55,13 @@ class Column : public QVBoxLayout {
   bool calm_;
 };
 
+QGridLayout* NewGrid(int gap) {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(Px(gap));
+  grid->setVerticalSpacing(Px(kClose));
+  return grid;
+}
+
 bool GrowsByItself(const ui::Control& control) {
   switch (control.Is()) {
     case ui::Kind::ListBox:
@@ -63,6 +74,11 @@ bool GrowsByItself(const ui::Control& control) {
     default:
       return false;
   }
+}
+
+/// The share of the room left over that a box takes.
+int ShareOf(const Box& box) {
+  return std::max(box.Stretch, Grows(box) ? 1 : 0);
 }
 
 }  // namespace
@@ -86,8 +102,15 @@ void CollectControls(const Box& box, std::vector<ui::Control*>& controls) {
   for (const Box& part : box.Parts) CollectControls(part, controls);
 }
 
-LayoutBuilder::LayoutBuilder(Stage& stage, QWidget* holder, bool cover)
-    : stage_(stage), holder_(holder), cover_(cover) {}
+TableView* OnlyTable(const std::vector<ControlView*>& views) {
+  TableView* only = nullptr;
+  for (ControlView* view : views)
+    if (auto* table = dynamic_cast<TableView*>(view)) {
+      if (only) return nullptr;
+      only = table;
+    }
+  return only;
+}
 
 ControlView* LayoutBuilder::View(ui::Control& control) {
   ControlView* view = MakeView(control, stage_, holder_);
@@ -169,8 +192,7 @@ void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
   const bool across = into->direction() == QBoxLayout::LeftToRight;
   int stretch = box.Stretch;
   if (!across && stretch == 0 && Grows(box)) stretch = 1;
-  if (IsButton(box) && stretch > 0)
-    widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  Widen(*widget, box);
   const bool fills = Grows(box) || (stretch > 0 && !IsButton(box));
   const Qt::Alignment place = across && !fills ? Qt::AlignVCenter : Qt::Alignment();
   into->addWidget(widget, stretch, place);
@@ -192,14 +214,13 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
     for (const Box& part : box.Parts) buttons.push_back(&part);
     return AddButtons(buttons, into);
   }
-  auto* columns = new QHBoxLayout;
   const bool cards = std::any_of(box.Parts.begin(), box.Parts.end(), [](const Box& part) {
     return part.Is == Kind::Group || part.Is == Kind::Rows;
   });
   const bool fields = std::any_of(box.Parts.begin(), box.Parts.end(),
                                   [](const Box& part) { return part.Is == Kind::Field; });
-  columns->setSpacing(Px(fields || (cards && !inCard_) ? kWide : kClose));
-  into->addLayout(columns, std::max(box.Stretch, Grows(box) ? 1 : 0));
+  auto* columns = NewLayout<QHBoxLayout>(nullptr, fields || (cards && !inCard_) ? kWide : kClose);
+  into->addLayout(columns, ShareOf(box));
   bool filled = cards;
   for (const Box& part : box.Parts) {
     filled = filled || part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
@@ -209,28 +230,18 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
 }
 
 void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
+  const QFont bold = TextFont(13, QFont::DemiBold);
   if (inCard_) {  // a card on a card is a heading with what belongs to it
-    auto* part = new QVBoxLayout;
-    part->setSpacing(Px(kClose));
-    if (!box.Title.empty()) {
-      auto* title = new WrappedLabel(holder_, Shown(box.Title));
-      title->setFont(TextFont(13, QFont::DemiBold));
-      part->addWidget(title);
-    }
-    into->addLayout(part, std::max(box.Stretch, Grows(box) ? 1 : 0));
+    auto* part = NewLayout<QVBoxLayout>(nullptr, kClose);
+    if (!box.Title.empty()) part->addWidget(new WrappedLabel(holder_, Shown(box.Title), bold));
+    into->addLayout(part, ShareOf(box));
     return AddAll(box.Parts, part);
   }
   auto* card = new Card(holder_);
-  auto* inside = new QVBoxLayout(card);
-  inside->setContentsMargins(Px(kCardSide), Px(kCardSide), Px(kCardSide), Px(kCardSide));
-  inside->setSpacing(Px(kClose));
+  auto* inside = NewLayout<QVBoxLayout>(card, kClose, {kCardSide, kCardSide, kCardSide, kCardSide});
   auto* head = new QHBoxLayout;
   inside->addLayout(head);
-  if (!box.Title.empty()) {
-    auto* title = new WrappedLabel(card, Shown(box.Title));
-    title->setFont(TextFont(13, QFont::DemiBold));
-    head->addWidget(title, 1);
-  }
+  if (!box.Title.empty()) head->addWidget(new WrappedLabel(card, Shown(box.Title), bold), 1);
   QWidget* const outer = holder_;
   holder_ = card;
   inCard_ = true;
@@ -238,27 +249,17 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   AddAll(box.Parts, inside);
   inCard_ = false;
   holder_ = outer;
-  if (!box.Title.empty()) PlaceSearch(before, head);
-  cards_.push_back({card, {views_.begin() + static_cast<std::ptrdiff_t>(before), views_.end()}});
-  into->addWidget(card, std::max(box.Stretch, Grows(box) ? 1 : 0));
-}
-
-/// The only table of a card has its search line beside the card's title.
-void LayoutBuilder::PlaceSearch(std::size_t from, QBoxLayout* head) {
-  TableView* only = nullptr;
-  for (std::size_t i = from; i < views_.size(); ++i)
-    if (auto* table = dynamic_cast<TableView*>(views_[i])) {
-      if (only) return;
-      only = table;
-    }
-  if (only) head->addWidget(only->TakeSearchRow(), 4);
+  const std::vector<ControlView*> views(views_.begin() + static_cast<std::ptrdiff_t>(before),
+                                        views_.end());
+  TableView* table = OnlyTable(views);
+  if (table && !box.Title.empty()) head->addWidget(table->TakeSearchRow(), 4);
+  cards_.push_back({card, views});
+  into->addWidget(card, ShareOf(box));
 }
 
 void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   auto* holder = new QWidget(holder_);
-  auto* rows = new QVBoxLayout(holder);
-  rows->setContentsMargins(0, 0, 0, 0);
-  rows->setSpacing(Px(kWide));
+  auto* rows = NewLayout<QVBoxLayout>(holder, kWide);
   auto* bar = new QTabBar(holder);
   bar->setDrawBase(false);
   bar->setExpanding(false);
@@ -269,8 +270,7 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   QWidget* const outer = holder_;
   for (const Box& part : box.Parts) {
     auto* page = new QWidget(pages);
-    auto* inside = new QVBoxLayout(page);
-    inside->setContentsMargins(0, 0, 0, 0);
+    auto* inside = NewLayout<QVBoxLayout>(page, -1);
     holder_ = page;
     Box untitled = part;
     untitled.Title.clear();
@@ -294,10 +294,8 @@ QWidget* LayoutBuilder::FieldLabel(const Box& field, ControlView& view) {
 /// Labels in one column, what they name in the next. In a row of fields each label stands close to
 /// its own.
 void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
-  auto* form = new QGridLayout;
   const bool across = into->direction() == QBoxLayout::LeftToRight;
-  form->setHorizontalSpacing(Px(across ? kClose : kWide));
-  form->setVerticalSpacing(Px(kClose));
+  QGridLayout* form = NewGrid(across ? kClose : kWide);
   form->setColumnStretch(1, 1);
   int row = 0;
   bool grows = false;
@@ -311,7 +309,7 @@ void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
     form->setRowStretch(row, tall ? 1 : 0);
     ++row;
   }
-  into->addLayout(form, grows || into->direction() == QBoxLayout::LeftToRight ? 1 : 0);
+  into->addLayout(form, grows || across ? 1 : 0);
 }
 
 void LayoutBuilder::AddButtons(const Run& buttons, QBoxLayout* into) {
@@ -326,16 +324,13 @@ void LayoutBuilder::AddButtons(const Run& buttons, QBoxLayout* into) {
 
 /// Rows alike share their columns' widths.
 void LayoutBuilder::AddGrid(const Run& rows, QBoxLayout* into) {
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(Px(14));
-  grid->setVerticalSpacing(Px(kClose));
+  QGridLayout* grid = NewGrid(kWide);
   int row = 0, most = 0;
   for (const Box* line : rows) {
     int column = 0;
     for (const Box& part : line->Parts) {
       ControlView* view = View(*part.Shown);
-      if (IsButton(part) && part.Stretch > 0)
-        view->Widget()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+      Widen(*view->Widget(), part);
       grid->addWidget(view->Widget(), row, column, Qt::AlignVCenter);
       grid->setColumnStretch(column, part.Stretch);
       most = std::max(most, part.Stretch);

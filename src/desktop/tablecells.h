@@ -20,6 +20,9 @@ class TableModel : public QAbstractTableModel {
   void Reset();
 
   const ui::ListBox& List() const { return list_; }
+  const ui::Column& Column(int column) const {
+    return list_.Columns()[static_cast<std::size_t>(column)];
+  }
   const ui::Table& Table() const { return table_; }
 
  private:

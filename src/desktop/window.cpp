@@ -2,11 +2,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QTimer>
 #include <algorithm>
 
-#include "desktop/look.h"
+#include "desktop/pieces.h"
 
 namespace grapplemont::desktop {
 
@@ -17,10 +16,6 @@ constexpr QSize kUsualSize(1280, 800), kLeastSize(1024, 640);
 constexpr qint64 kPatience = 200;  // milliseconds
 constexpr qint64 kFrame = 33;      // between two pictures of a long event
 constexpr int kHintTime = 6000;
-
-bool Fills(ui::Role role) {
-  return role != ui::Role::Dialog;
-}
 
 }  // namespace
 
@@ -63,34 +58,28 @@ bool Window::IsPatient(const ui::Screen& screen) {
 
 Window::Scene Window::Survey() {
   Scene scene;
-  const auto& screens = desk_.Screens();
-  const int count = static_cast<int>(screens.size());
   const ui::Screen* waiting = nullptr;
-  for (int place = 0; place < count; ++place) {
-    const ui::Screen& screen = *screens[static_cast<std::size_t>(place)];
-    const ui::Role role = screen.Is();
+  for (const Held& screen : desk_.Screens()) {
+    const ui::Role role = screen->Is();
     if (role == ui::Role::Wait) {
-      waiting = &screen;
-      if (IsPatient(screen)) continue;
+      waiting = screen.get();
+      if (IsPatient(*screen)) continue;
     }
-    if (Fills(role)) {
-      scene.Base = place;
-      scene.Dialogs.clear();
-      if (role == ui::Role::Hub) scene.Hub = place;
-    } else {
-      scene.Dialogs.push_back(place);
+    if (role == ui::Role::Dialog) {
+      scene.Dialogs.push_back(screen);
+      continue;
     }
+    scene.Base = screen;
+    scene.Dialogs.clear();
+    if (role == ui::Role::Hub) scene.Hub = screen;
   }
   if (!waiting) waitsFor_ = nullptr;
   return scene;
 }
 
 void Window::DropGone() {
-  for (Layer& layer : layers_) {
-    const bool held = std::any_of(desk_.Screens().begin(), desk_.Screens().end(),
-                                  [&](const auto& screen) { return screen.get() == layer.Screen; });
-    if (!held) Retire(layer);
-  }
+  for (Layer& layer : layers_)
+    if (!desk_.Holds(*layer.Screen)) Retire(layer);
   std::erase_if(layers_, [](const Layer& layer) { return !layer.View; });
 }
 
@@ -111,8 +100,8 @@ void Window::Retire(Layer& layer) {
     frame->hide();
     frame->deleteLater();
   } else {
-    QWidget* const widget =
-        layer.Over ? static_cast<QWidget*>(layer.Over.data()) : static_cast<QWidget*>(layer.View);
+    QWidget* widget = layer.View;
+    if (layer.Over) widget = layer.Over;
     widget->hide();
     widget->deleteLater();
   }
@@ -125,15 +114,13 @@ void Window::RetireAll() {
   top_ = nullptr;
 }
 
-Window::Layer& Window::LayerOf(int place, const Scene& scene) {
-  const auto& screen = desk_.Screens()[static_cast<std::size_t>(place)];
+Window::Layer& Window::LayerOf(const Held& screen, const Scene& scene) {
   for (Layer& layer : layers_)
     if (layer.Screen == screen.get()) return layer;
   Layer layer{screen.get(), nullptr, nullptr};
   if (screen->Is() == ui::Role::Dialog) {
     layer.Over = new Veil(ground_);
-    auto* inside = new QVBoxLayout(&layer.Over->Sheet());
-    inside->setContentsMargins(Px(20), Px(18), Px(20), Px(18));
+    auto* inside = NewLayout<QVBoxLayout>(&layer.Over->Sheet(), -1, {20, 18, 20, 18});
     layer.View = new ScreenView(screen, *this, &layer.Over->Sheet());
     inside->addWidget(layer.View);
     layer.View->setMinimumWidth(Px(380));
@@ -149,21 +136,19 @@ Window::Layer& Window::LayerOf(int place, const Scene& scene) {
 /// Puts a page into the room beside the side bar, all else over the whole window.
 void Window::Place(ScreenView& view, const Scene& scene) {
   const ui::Role role = view.Shows().Is();
-  if (role == ui::Role::Hub) {
-    FrameOf(scene.Hub).Room().addWidget(&view);
-  } else if (role == ui::Role::Page && scene.Hub >= 0) {
-    LayerOf(scene.Hub, scene);  // the frame comes with the hub
-    FrameOf(scene.Hub).Room().addWidget(&view);
-  } else {
+  const bool framed = role == ui::Role::Hub || (role == ui::Role::Page && scene.Hub);
+  if (!framed) {
     full_->addWidget(&view);
+    return;
   }
+  if (role == ui::Role::Page) LayerOf(scene.Hub, scene);  // the frame comes with the hub
+  FrameOf(*scene.Hub).Room().addWidget(&view);
 }
 
-HubFrame& Window::FrameOf(int hub) {
-  ui::Screen* const screen = desk_.Screens()[static_cast<std::size_t>(hub)].get();
-  if (frame_ && framed_ == screen) return *frame_;
-  frame_ = new HubFrame(screen->Layout(), *this, ground_);
-  framed_ = screen;
+HubFrame& Window::FrameOf(ui::Screen& hub) {
+  if (framed_ == &hub) return *frame_;
+  frame_ = new HubFrame(hub.Layout(), *this, ground_);
+  framed_ = &hub;
   frame_->Side().Pressed = [this](ui::Button& command) { PressHub(command); };
   frame_->Side().Search = [this] { OpenFinder(); };
   frame_->Side().Home = [this] {
@@ -180,7 +165,7 @@ void Window::Sync() {
   if (ScreenView* top = TopView()) top->RememberKeyboard();
   DropGone();
   const Scene scene = Survey();
-  if (scene.Base >= 0) ShowNow(scene);
+  if (scene.Base) ShowNow(scene);
   syncing_ = false;
 }
 
@@ -190,13 +175,13 @@ void Window::ShowNow(const Scene& scene) {
   if (framed) {
     frame_->Room().setCurrentWidget(base);
     frame_->Refresh();
-    frame_->Side().SetNow(CommandOf(scene));
+    frame_->Side().SetNow(PresentCommand());
   }
   base->Refresh();
-  full_->setCurrentWidget(framed ? static_cast<QWidget*>(frame_) : base);
+  full_->setCurrentWidget(framed ? frame_ : static_cast<QWidget*>(base));
   ScreenView* top = base;
-  for (const int place : scene.Dialogs) {
-    Layer& layer = LayerOf(place, scene);
+  for (const Held& dialog : scene.Dialogs) {
+    Layer& layer = LayerOf(dialog, scene);
     layer.View->Refresh();
     layer.Over->PlaceCard();
     layer.Over->show();
@@ -214,10 +199,9 @@ void Window::ShowNow(const Scene& scene) {
   if (!box_) top->TakeKeyboard();
 }
 
-/// The view of the desk's top screen, if it has been shown.
-ScreenView* Window::TopView() const {
+ScreenView* Window::ViewFor(const ui::Screen* screen) const {
   for (const Layer& layer : layers_)
-    if (layer.View && layer.Screen == top_) return layer.View;
+    if (layer.View && layer.Screen == screen) return layer.View;
   return nullptr;
 }
 
@@ -331,6 +315,23 @@ void Window::closeEvent(QCloseEvent* event) {
   KeepPlace();
   if (options_.Closing) options_.Closing();
   event->accept();
+}
+
+void WindowDesk::Say(const std::string& title, const std::string& text) {
+  if (window_) window_->Say(title, text);
+}
+
+bool WindowDesk::Ask(const std::string& title, const std::string& text, ui::Default answer) {
+  return window_ && window_->Ask(title, text, answer);
+}
+
+std::string WindowDesk::Prompt(const std::string& title, const std::string& text,
+                               const std::string& offered) {
+  return window_ ? window_->Prompt(title, text, offered) : std::string();
+}
+
+void WindowDesk::Repaint() {
+  if (window_) window_->RepaintNow();
 }
 
 }  // namespace grapplemont::desktop
