@@ -30,10 +30,6 @@ QString Short(double value) {
   return QString::number(value, 'g', 6);
 }
 
-QFont SmallFont() {
-  return TextFont(11);
-}
-
 /// Where a place and a value lie within the widget.
 struct Scale {
   QRectF Plot;
@@ -54,6 +50,7 @@ struct Scale {
 class ChartView : public ViewOf<QWidget, ui::Chart> {
  public:
   ChartView(ui::Chart& chart, Stage& stage, QWidget* parent) : ViewOf(chart, stage, parent) {
+    setFont(TextFont(11));
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   }
@@ -108,7 +105,7 @@ Scale ChartView::MakeScale() const {
   scale.Low = std::floor(low / scale.Step) * scale.Step;
   scale.High = std::ceil(high / scale.Step) * scale.Step;
   scale.Count = Count();
-  const QFontMetrics small(SmallFont());
+  const QFontMetrics small = fontMetrics();
   int left = 0;
   for (int line = 0; line < scale.Lines(); ++line)
     left = std::max(left, FiguresWidth(small, Short(scale.LineAt(line))) + Px(8));
@@ -122,7 +119,6 @@ Scale ChartView::MakeScale() const {
 
 void ChartView::DrawAxis(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
-  painter.setFont(SmallFont());
   for (int line = 0; line < scale.Lines(); ++line) {
     const double value = scale.LineAt(line);
     const double y = std::round(scale.Y(value)) + 0.5;
@@ -139,8 +135,7 @@ void ChartView::DrawCaptions(QPainter& painter, const Scale& scale) const {
   const auto& captions = control_.Captions.Get();
   const int count = std::min(scale.Count, static_cast<int>(captions.size()));
   if (count == 0) return;
-  const QFontMetrics small(SmallFont());
-  painter.setFont(SmallFont());
+  const QFontMetrics small = fontMetrics();
   painter.setPen(ColoursOf(this).Muted);
   const auto words = [&](int place) { return Shown(captions[static_cast<std::size_t>(place)]); };
   const auto spot = [&](int place) {
@@ -179,7 +174,7 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
       const QColor fill = now ? c.GoldFill : FillColour(c, lines[s].Colour);
       painter.fillRect(bar, place == hover_ ? fill.lighter(115) : fill);
       const QString number = Short(value);
-      const QFontMetrics small(SmallFont());
+      const QFontMetrics small = fontMetrics();
       if (FiguresWidth(small, number) > width + gap) continue;
       painter.setPen(now ? c.Gold : c.Muted);
       DrawFigures(painter,
@@ -218,8 +213,7 @@ void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
 /// What the lines stand for, above them.
 void ChartView::DrawNames(QPainter& painter) const {
   const Colours& c = ColoursOf(this);
-  const QFontMetrics small(SmallFont());
-  painter.setFont(SmallFont());
+  const QFontMetrics small = fontMetrics();
   double x = 0;
   for (const auto& series : control_.Lines.Get()) {
     if (series.Name.empty()) continue;
@@ -248,7 +242,7 @@ void ChartView::DrawHover(QPainter& painter, const Scale& scale) const {
               TextColour(c, series.Colour), c.Card, 4);
   }
   const QString text = words.join(" \u00B7 ");
-  const QFontMetrics small(SmallFont());
+  const QFontMetrics small = fontMetrics();
   const double width = small.horizontalAdvance(text) + Px(16);
   const double x =
       std::clamp(scale.X(hover_) - width / 2, 0.0, std::max(0.0, this->width() - width));
@@ -263,6 +257,7 @@ void ChartView::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const Scale scale = MakeScale();
   if (scale.Count == 0) {
+    painter.setFont(TextFont());
     painter.setPen(ColoursOf(this).Muted);
     painter.drawText(rect(), Qt::AlignCenter, "Nothing to show yet.");
     return;

@@ -10,7 +10,7 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kEntryRole = Qt::UserRole, kAsideRole = Qt::UserRole + 1;
+constexpr int kAsideRole = Qt::UserRole;
 constexpr int kRow = 32;
 
 class EntryCells : public QStyledItemDelegate {
@@ -79,25 +79,21 @@ Finder::Finder(QWidget* ground, std::vector<Entry> entries)
 }
 
 void Finder::Filter(const QString& letters) {
-  std::vector<std::pair<int, int>> fits;  // how well, which
-  for (int i = 0; i < static_cast<int>(entries_.size()); ++i)
-    if (const int fit = Fit(entries_[static_cast<std::size_t>(i)].Words, letters.trimmed()))
-      fits.emplace_back(-fit, i);
-  std::stable_sort(fits.begin(), fits.end(),
-                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  found_.clear();
+  for (const Entry& entry : entries_)
+    if (const int fit = Fit(entry.Words, letters.trimmed())) found_.emplace_back(fit, &entry);
+  std::ranges::stable_sort(found_, [](const auto& a, const auto& b) { return a.first > b.first; });
   list_->clear();
-  for (const auto& [fit, i] : fits) {
-    const Entry& entry = entries_[static_cast<std::size_t>(i)];
-    auto* item = new QListWidgetItem(entry.Words, list_);
-    item->setData(kEntryRole, i);
-    item->setData(kAsideRole, entry.Where + (entry.Key.isEmpty() ? "" : "   " + entry.Key));
+  for (const auto& [fit, entry] : found_) {
+    auto* item = new QListWidgetItem(entry->Words, list_);
+    item->setData(kAsideRole, entry->Where + (entry->Key.isEmpty() ? "" : "   " + entry->Key));
   }
   list_->setCurrentRow(0);
 }
 
 void Finder::Choose() {
-  const QListWidgetItem* item = list_->currentItem();
-  if (item) Finish(&entries_[static_cast<std::size_t>(item->data(kEntryRole).toInt())]);
+  const int row = list_->currentRow();
+  if (row >= 0) Finish(found_[static_cast<std::size_t>(row)].second);
 }
 
 void Finder::Finish(const Entry* chosen) {

@@ -30,6 +30,7 @@ class Finder : public Veil {
   void Finish(const Entry* chosen);
 
   std::vector<Entry> entries_;
+  std::vector<std::pair<int, const Entry*>> found_;  // how well each fits, in the list's order
   QLineEdit* line_ = nullptr;
   QListWidget* list_ = nullptr;
   bool done_ = false;

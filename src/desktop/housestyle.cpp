@@ -1,6 +1,7 @@
 #include "desktop/housestyle.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "desktop/look.h"
 
@@ -9,6 +10,34 @@ namespace grapplemont::desktop {
 namespace {
 
 constexpr double kCorner = 6;
+
+/// Sizes in drawn pixels; all others are Qt's.
+struct Metric {
+  QStyle::PixelMetric Of;
+  int Drawn;
+};
+constexpr Metric kMetrics[] = {
+    {QStyle::PM_ScrollBarExtent, 12},
+    {QStyle::PM_ScrollBarSliderMin, 28},
+    {QStyle::PM_IndicatorWidth, 16},
+    {QStyle::PM_IndicatorHeight, 16},
+    {QStyle::PM_ExclusiveIndicatorWidth, 16},
+    {QStyle::PM_ExclusiveIndicatorHeight, 16},
+    {QStyle::PM_CheckBoxLabelSpacing, 8},
+    {QStyle::PM_RadioButtonLabelSpacing, 8},
+    {QStyle::PM_SliderThickness, 18},
+    {QStyle::PM_SliderControlThickness, 18},
+    {QStyle::PM_SliderLength, 16},
+    {QStyle::PM_MenuPanelWidth, 4},
+    {QStyle::PM_MenuVMargin, 4},
+    {QStyle::PM_TabBarTabHSpace, 28},
+    {QStyle::PM_TabBarTabVSpace, 16},
+    {QStyle::PM_TabBarTabShiftVertical, 0},
+    {QStyle::PM_TabBarTabShiftHorizontal, 0},
+    {QStyle::PM_TabBarBaseOverlap, 0},
+    {QStyle::PM_ButtonShiftHorizontal, 0},
+    {QStyle::PM_ButtonShiftVertical, 0},
+};
 
 void DrawField(const QStyleOption& option, QPainter& painter) {
   const Colours& c = ColoursOf(option.palette);
@@ -89,40 +118,10 @@ HouseStyle::HouseStyle() : QProxyStyle("Fusion") {}
 
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                             const QWidget* widget) const {
-  switch (metric) {
-    case PM_ScrollBarExtent:
-      return Px(12);
-    case PM_ScrollBarSliderMin:
-      return Px(28);
-    case PM_IndicatorWidth:
-    case PM_IndicatorHeight:
-    case PM_ExclusiveIndicatorWidth:
-    case PM_ExclusiveIndicatorHeight:
-      return Px(16);
-    case PM_CheckBoxLabelSpacing:
-    case PM_RadioButtonLabelSpacing:
-      return Px(8);
-    case PM_SliderThickness:
-    case PM_SliderControlThickness:
-      return Px(18);
-    case PM_SliderLength:
-      return Px(16);
-    case PM_MenuPanelWidth:
-    case PM_MenuVMargin:
-      return Px(4);
-    case PM_TabBarTabHSpace:
-      return Px(28);
-    case PM_TabBarTabVSpace:
-      return Px(16);
-    case PM_TabBarTabShiftVertical:
-    case PM_TabBarTabShiftHorizontal:
-    case PM_TabBarBaseOverlap:
-    case PM_ButtonShiftHorizontal:
-    case PM_ButtonShiftVertical:
-      return 0;
-    default:
-      return QProxyStyle::pixelMetric(metric, option, widget);
-  }
+  const auto drawn =
+      std::ranges::find_if(kMetrics, [&](const Metric& row) { return row.Of == metric; });
+  return drawn == std::end(kMetrics) ? QProxyStyle::pixelMetric(metric, option, widget)
+                                     : Px(drawn->Drawn);
 }
 
 int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

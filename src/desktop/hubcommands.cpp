@@ -49,8 +49,8 @@ void Window::PressHub(ui::Button& command) {
 /// The screen that lies on the hub; nullptr for none.
 const ui::Screen* Window::Above(const ui::Screen& hub) const {
   const auto& screens = desk_.Screens();
-  const auto found = std::find_if(screens.begin(), screens.end(),
-                                  [&](const auto& screen) { return screen.get() == &hub; });
+  const auto found =
+      std::ranges::find_if(screens, [&](const auto& screen) { return screen.get() == &hub; });
   return found == screens.end() || found + 1 == screens.end() ? nullptr : (found + 1)->get();
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/layoutbuilder.h"
 
 #include <QGridLayout>
+#include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <algorithm>
@@ -24,6 +25,11 @@ bool IsButton(const Box& box) {
   return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
 }
 
+/// A button that takes no more room than it needs.
+bool IsCalmButton(const Box& box) {
+  return IsButton(box) && box.Stretch == 0;
+}
+
 /// Lets a button with a share take it.
 void Widen(QWidget& widget, const Box& box) {
   if (IsButton(box) && box.Stretch > 0)
@@ -33,9 +39,9 @@ void Widen(QWidget& widget, const Box& box) {
 /// A row of controls alone, such as one of several alike below each other.
 bool IsPlainRow(const Box& box) {
   return box.Is == Kind::Columns && box.Parts.size() > 1 &&
-         std::all_of(box.Parts.begin(), box.Parts.end(),
-                     [](const Box& part) { return part.Is == Kind::Item && !Grows(part); }) &&
-         !std::all_of(box.Parts.begin(), box.Parts.end(), IsButton);
+         std::ranges::all_of(
+             box.Parts, [](const Box& part) { return part.Is == Kind::Item && !Grows(part); }) &&
+         !std::ranges::all_of(box.Parts, IsButton);
 }
 
 /// A column among others. A calm one does not ask for more because of the stretch at its end; one
@@ -93,7 +99,7 @@ bool Grows(const Box& box) {
     case Kind::Tabs:
       return true;
     default:
-      return std::any_of(box.Parts.begin(), box.Parts.end(), Grows);
+      return std::ranges::any_of(box.Parts, Grows);
   }
 }
 
@@ -127,7 +133,7 @@ void LayoutBuilder::Build(const Box& root, QVBoxLayout* into) {
 /// Boxes one below the other. Room that nobody wants stays at the end.
 void LayoutBuilder::AddAll(const std::vector<Box>& boxes, QBoxLayout* into) {
   for (std::size_t at = 0; at < boxes.size();) at = AddRun(boxes, at, into);
-  const bool filled = std::any_of(boxes.begin(), boxes.end(), [](const Box& box) {
+  const bool filled = std::ranges::any_of(boxes, [](const Box& box) {
     return box.Is == Kind::Spacer || box.Stretch > 0 || Grows(box);
   });
   if (!filled) into->addStretch(1);
@@ -136,27 +142,26 @@ void LayoutBuilder::AddAll(const std::vector<Box>& boxes, QBoxLayout* into) {
 /// Adds the box at `from`, or those alike that follow it as one; gives the first after them.
 std::size_t LayoutBuilder::AddRun(const std::vector<Box>& boxes, std::size_t from,
                                   QBoxLayout* into) {
-  const auto run = [&](auto fits) {
-    Run alike;
-    for (std::size_t i = from; i < boxes.size() && fits(boxes[i]); ++i) alike.push_back(&boxes[i]);
-    return alike;
+  struct Alike {
+    bool (*Fits)(const Box& box, const Box& first);
+    std::size_t Least;
+    void (LayoutBuilder::*Add)(const Run& run, QBoxLayout* into);
   };
-  if (const Run fields = run([](const Box& box) { return box.Is == Kind::Field; });
-      !fields.empty()) {
-    AddForm(fields, into);
-    return from + fields.size();
-  }
-  if (const Run buttons = run([](const Box& box) { return IsButton(box) && box.Stretch == 0; });
-      !buttons.empty()) {
-    AddButtons(buttons, into);
-    return from + buttons.size();
-  }
-  const std::size_t parts = boxes[from].Parts.size();
-  if (const Run rows =
-          run([&](const Box& box) { return IsPlainRow(box) && box.Parts.size() == parts; });
-      rows.size() > 1) {
-    AddGrid(rows, into);
-    return from + rows.size();
+  static constexpr Alike kAlike[] = {
+      {[](const Box& box, const Box&) { return box.Is == Kind::Field; }, 1,
+       &LayoutBuilder::AddForm},
+      {[](const Box& box, const Box&) { return IsCalmButton(box); }, 1, &LayoutBuilder::AddButtons},
+      {[](const Box& box, const Box& first) {
+         return IsPlainRow(box) && box.Parts.size() == first.Parts.size();
+       },
+       2, &LayoutBuilder::AddGrid}};
+  for (const auto& [fits, least, add] : kAlike) {
+    Run run;
+    for (std::size_t i = from; i < boxes.size() && fits(boxes[i], boxes[from]); ++i)
+      run.push_back(&boxes[i]);
+    if (run.size() < least) continue;
+    (this->*add)(run, into);
+    return from + run.size();
   }
   Add(boxes[from], into);
   return from + 1;
@@ -200,25 +205,21 @@ void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
 
 void LayoutBuilder::AddRowButtons(const Box& box, TableView& table) {
   std::vector<ButtonView*> buttons;
-  QWidget* const outer = holder_;
-  holder_ = table.RowHolder();
+  const QScopedValueRollback<QWidget*> within(holder_, table.RowHolder());
   for (const Box& part : box.Parts) buttons.push_back(dynamic_cast<ButtonView*>(View(*part.Shown)));
-  holder_ = outer;
   table.SetRowButtons(std::move(buttons));
 }
 
 void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
-  if (std::all_of(box.Parts.begin(), box.Parts.end(),
-                  [](const Box& part) { return IsButton(part) && part.Stretch == 0; })) {
+  if (std::ranges::all_of(box.Parts, IsCalmButton)) {
     Run buttons;
     for (const Box& part : box.Parts) buttons.push_back(&part);
     return AddButtons(buttons, into);
   }
-  const bool cards = std::any_of(box.Parts.begin(), box.Parts.end(), [](const Box& part) {
-    return part.Is == Kind::Group || part.Is == Kind::Rows;
-  });
-  const bool fields = std::any_of(box.Parts.begin(), box.Parts.end(),
-                                  [](const Box& part) { return part.Is == Kind::Field; });
+  const bool cards = std::ranges::any_of(
+      box.Parts, [](const Box& part) { return part.Is == Kind::Group || part.Is == Kind::Rows; });
+  const bool fields =
+      std::ranges::any_of(box.Parts, [](const Box& part) { return part.Is == Kind::Field; });
   auto* columns = NewLayout<QHBoxLayout>(nullptr, fields || (cards && !inCard_) ? kWide : kClose);
   into->addLayout(columns, ShareOf(box));
   bool filled = cards;
@@ -267,7 +268,7 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   auto* pages = new QStackedWidget(holder);
   rows->addWidget(bar, 0, Qt::AlignLeft);
   rows->addWidget(pages, 1);
-  QWidget* const outer = holder_;
+  const QScopedValueRollback<QWidget*> within(holder_);
   for (const Box& part : box.Parts) {
     auto* page = new QWidget(pages);
     auto* inside = NewLayout<QVBoxLayout>(page, -1);
@@ -278,17 +279,8 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
     pages->addWidget(page);
     bar->addTab(Shown(part.Title));
   }
-  holder_ = outer;
   QObject::connect(bar, &QTabBar::currentChanged, pages, &QStackedWidget::setCurrentIndex);
   into->addWidget(holder, std::max(1, box.Stretch));
-}
-
-QWidget* LayoutBuilder::FieldLabel(const Box& field, ControlView& view) {
-  auto* label = new WrappedLabel(holder_, Shown(field.Title));
-  SetInk(*label, ColoursOf(holder_).Muted);
-  view.SetCompanion(label);
-  label->setBuddy(view.FocusTarget());
-  return label;
 }
 
 /// Labels in one column, what they name in the next. In a row of fields each label stands close to
@@ -301,9 +293,13 @@ void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
   bool grows = false;
   for (const Box* field : fields) {
     ControlView* view = View(*field->Shown);
+    auto* label = new WrappedLabel(holder_, Shown(field->Title));
+    SetInk(*label, ColoursOf(holder_).Muted);
+    view->SetCompanion(label);
+    label->setBuddy(view->FocusTarget());
     const bool tall = Grows(*field);
     grows = grows || tall;
-    form->addWidget(FieldLabel(*field, *view), row, 0,
+    form->addWidget(label, row, 0,
                     tall ? Qt::AlignTop | Qt::AlignLeft : Qt::AlignVCenter | Qt::AlignLeft);
     form->addWidget(view->Widget(), row, 1, tall ? Qt::Alignment() : Qt::AlignVCenter);
     form->setRowStretch(row, tall ? 1 : 0);

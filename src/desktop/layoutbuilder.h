@@ -44,7 +44,6 @@ class LayoutBuilder {
   void AddForm(const Run& fields, QBoxLayout* into);
   void AddButtons(const Run& buttons, QBoxLayout* into);
   void AddGrid(const Run& rows, QBoxLayout* into);
-  QWidget* FieldLabel(const ui::Box& field, ControlView& view);
 
   Stage& stage_;
   QWidget* holder_;

@@ -111,7 +111,7 @@ void ScreenView::FindBackdrop() {
 }
 
 bool ScreenView::HasTitlePicture() const {
-  return std::any_of(views_.begin(), views_.end(), [](const ControlView* view) {
+  return std::ranges::any_of(views_, [](const ControlView* view) {
     const auto* picture = dynamic_cast<const ui::Picture*>(&view->Shows());
     return picture && picture->File.Get() == "vxm_title.jpg";
   });
@@ -230,9 +230,9 @@ void ScreenView::Refresh() {
   }
   for (ControlView* view : views_) view->Refresh();
   for (const auto& card : cards_)
-    card.Sheet->setVisible(card.Views.empty() ||
-                           std::any_of(card.Views.begin(), card.Views.end(),
-                                       [](auto* view) { return view->Shows().Visible.Get(); }));
+    card.Sheet->setVisible(card.Views.empty() || std::ranges::any_of(card.Views, [](auto* view) {
+                             return view->Shows().Visible.Get();
+                           }));
 }
 
 void ScreenView::Leave() {
@@ -275,7 +275,7 @@ bool ScreenView::HandleKey(int key) {
 }
 
 bool ScreenView::FocusSearch() {
-  return std::any_of(views_.begin(), views_.end(), [](ControlView* view) {
+  return std::ranges::any_of(views_, [](ControlView* view) {
     auto* table = dynamic_cast<TableView*>(view);
     return table && table->isVisible() && table->FocusSearch();
   });

@@ -152,9 +152,8 @@ void SideBar::SetNow(const ui::Button* present) {
 
 /// In a low window the lines move closer together before anything has to scroll.
 void SideBar::FitLines() {
-  const int lines = static_cast<int>(
-      std::count_if(commands_.begin(), commands_.end(),
-                    [this](const Command* command) { return command->parentWidget() == middle_; }));
+  const int lines = static_cast<int>(std::ranges::count_if(
+      commands_, [this](const Command* command) { return command->parentWidget() == middle_; }));
   const int headings = static_cast<int>(headings_.size());
   const int room = height() - Px(kLogo) - Px(kFoot) - Px(kGap) -
                    Px(kLine) * (static_cast<int>(commands_.size()) - lines + 1);

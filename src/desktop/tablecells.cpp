@@ -96,9 +96,8 @@ int CellWidth(const ui::Cell& cell, ColumnKind kind) {
 /// it.
 bool TableCells::IsLink(const QModelIndex& index) const {
   const auto& columns = model_.List().Columns();
-  const bool hasButtons = std::any_of(columns.begin(), columns.end(), [](const ui::Column& column) {
-    return column.Kind == ColumnKind::Button;
-  });
+  const bool hasButtons = std::ranges::any_of(
+      columns, [](const ui::Column& column) { return column.Kind == ColumnKind::Button; });
   if (!model_.List().OnOpen || hasButtons) return false;
   for (const int column : model_.Table().Columns())
     if (model_.Column(column).Kind == ColumnKind::Text) return column == index.column();
@@ -156,14 +155,6 @@ bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
   return true;
 }
 
-int TableModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(table_.Rows().size());
-}
-
-int TableModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(list_.Columns().size());
-}
-
 QVariant TableModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)) return {};
   return Shown(table_.At(index.row(), index.column()).Text);
@@ -174,11 +165,6 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
   if (role == Qt::DisplayRole) return Shown(Column(section).Title);
   if (role == Qt::ToolTipRole && !Column(section).Tip.empty()) return Shown(Column(section).Tip);
   return {};
-}
-
-void TableModel::Reset() {
-  beginResetModel();
-  endResetModel();
 }
 
 }  // namespace grapplemont::desktop

@@ -32,8 +32,8 @@ std::vector<TableView::NamedLink> TableView::LinksOfRow(const QModelIndex& cell)
   std::vector<NamedLink> links = LinksOf(cell.row(), cell.column());
   for (const int column : table_.Columns())
     for (NamedLink& link : LinksOf(cell.row(), column))
-      if (std::none_of(links.begin(), links.end(),
-                       [&](const NamedLink& held) { return held.Words == link.Words; }))
+      if (std::ranges::none_of(links,
+                               [&](const NamedLink& held) { return held.Words == link.Words; }))
         links.push_back(std::move(link));
   return links;
 }

@@ -239,8 +239,8 @@ void TableView::FitColumns() {
   const auto& shown = table_.Columns();
   std::vector<int> widths = NaturalWidths();
   std::vector<double> shares;
-  const bool anyShare = std::any_of(shown.begin(), shown.end(),
-                                    [&](int column) { return model_.Column(column).Width > 0; });
+  const bool anyShare =
+      std::ranges::any_of(shown, [&](int column) { return model_.Column(column).Width > 0; });
   int room = grid_->viewport()->width();
   for (std::size_t i = 0; i < shown.size(); ++i) {
     const ui::Column& column = model_.Column(shown[i]);

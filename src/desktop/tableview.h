@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/controlview.h"
 #include "desktop/pieces.h"
 #include "desktop/tablegrid.h"
 

@@ -21,11 +21,6 @@ HubFrame::HubFrame(const ui::Page& page, Stage& stage, QWidget* parent)
   columns->addLayout(rows, 1);
 }
 
-void HubFrame::Refresh() {
-  side_->Refresh();
-  top_->Refresh();
-}
-
 namespace {
 
 /// A label of the bar. Its weight tells what matters: "Image **62%**", "**The promotion** · Cult".

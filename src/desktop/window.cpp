@@ -212,55 +212,28 @@ void Window::Act(const std::function<std::string()>& act) {
   --acting_;
   Sync();
   if (!why.empty()) Hint(*this, Shown(why));
-  AfterEvent();
+  // The program ends when nothing lies on the desk any more, or when the window was to be closed
+  // amid an event.
+  if (desk_.Empty() || closing_) QTimer::singleShot(0, this, [this] { close(); });
 }
 
-/// The program ends when nothing lies on the desk any more, or when the window was to be closed
-/// amid an event.
-void Window::AfterEvent() {
-  if (!desk_.Empty() && !closing_) return;
-  QTimer::singleShot(0, this, [this] { close(); });
-}
-
-std::optional<int> Window::RunBox(MessageBox& box) {
+int Window::AnswerOf(const std::string& title, const std::string& text, const QStringList& captions,
+                     int usual, std::string* line) {
+  if (closing_) return 0;
+  Sync();
+  MessageBox box(ground_, Shown(title), Shown(text));
+  if (line) box.AddLine(Shown(*line), *this);
+  for (int i = 0; i < captions.size(); ++i) box.AddButton(captions[i], i, i == usual);
   const QPointer<QWidget> focus = focusWidget();
   const QPointer<MessageBox> before = box_;
   const bool busy = std::exchange(busy_, false);
   box_ = &box;
-  const auto answer = box.Run();
+  const int answer = box.Run().value_or(0);
   box_ = before;
   busy_ = busy;
   if (focus && focus->isVisible()) focus->setFocus(Qt::OtherFocusReason);
+  if (line) *line = Keep(box.Line()).Text;
   return answer;
-}
-
-void Window::Say(const std::string& title, const std::string& text) {
-  if (closing_) return;
-  Sync();
-  MessageBox box(ground_, Shown(title), Shown(text));
-  box.AddButton("OK", 1, true);
-  RunBox(box);
-}
-
-bool Window::Ask(const std::string& title, const std::string& text, ui::Default answer) {
-  if (closing_) return false;
-  Sync();
-  MessageBox box(ground_, Shown(title), Shown(text));
-  const bool yes = answer == ui::Default::Yes;
-  box.AddButton("No", 0, !yes);
-  box.AddButton("Yes", 1, yes);
-  return RunBox(box).value_or(0) == 1;
-}
-
-std::string Window::Prompt(const std::string& title, const std::string& text,
-                           const std::string& offered) {
-  if (closing_) return {};
-  Sync();
-  MessageBox box(ground_, Shown(title), Shown(text));
-  box.AddLine(Shown(offered), *this);
-  box.AddButton("Cancel", 0, false);
-  box.AddButton("OK", 1, true);
-  return RunBox(box).value_or(0) == 1 ? Keep(box.Line()).Text : std::string();
 }
 
 void Window::RepaintNow() {
@@ -298,12 +271,6 @@ void Window::Hint(QWidget& beside, const QString& text) {
   QTimer::singleShot(kHintTime, hint_.data(), &QObject::deleteLater);
 }
 
-void Window::KeepPlace() {
-  for (const Layer& layer : layers_)
-    if (layer.View) layer.View->Leave();
-  settings_.SetPlace(saveGeometry());
-}
-
 /// There is nothing to save, so nothing is asked. Amid an event, its boxes get the careful answer
 /// and the window goes once the event has ended.
 void Window::closeEvent(QCloseEvent* event) {
@@ -312,22 +279,27 @@ void Window::closeEvent(QCloseEvent* event) {
     if (box_) box_->Dismiss();
     return event->ignore();
   }
-  KeepPlace();
+  for (const Layer& layer : layers_)
+    if (layer.View) layer.View->Leave();
+  settings_.SetPlace(saveGeometry());
   if (options_.Closing) options_.Closing();
   event->accept();
 }
 
 void WindowDesk::Say(const std::string& title, const std::string& text) {
-  if (window_) window_->Say(title, text);
+  if (window_) window_->AnswerOf(title, text, {"OK"}, 0);
 }
 
 bool WindowDesk::Ask(const std::string& title, const std::string& text, ui::Default answer) {
-  return window_ && window_->Ask(title, text, answer);
+  const int usual = answer == ui::Default::Yes ? 1 : 0;
+  return window_ && window_->AnswerOf(title, text, {"No", "Yes"}, usual) == 1;
 }
 
 std::string WindowDesk::Prompt(const std::string& title, const std::string& text,
                                const std::string& offered) {
-  return window_ ? window_->Prompt(title, text, offered) : std::string();
+  std::string line = offered;
+  const bool taken = window_ && window_->AnswerOf(title, text, {"Cancel", "OK"}, 1, &line) == 1;
+  return taken ? line : std::string();
 }
 
 void WindowDesk::Repaint() {

@@ -47,9 +47,10 @@ class Window : public QMainWindow, public Stage {
   void Sync();
 
   // What the desk asks for.
-  void Say(const std::string& title, const std::string& text);
-  bool Ask(const std::string& title, const std::string& text, ui::Default answer);
-  std::string Prompt(const std::string& title, const std::string& text, const std::string& offered);
+  /// Waits for the answer to a box: the place of its button from 0, the careful answer when there
+  /// is none. With a line, that is offered and then holds what was typed.
+  int AnswerOf(const std::string& title, const std::string& text, const QStringList& captions,
+               int usual, std::string* line = nullptr);
   void RepaintNow();
 
   // The stage of the views.
@@ -116,10 +117,6 @@ class Window : public QMainWindow, public Stage {
   void SetZoom(int zoom);
   void Relook();
   bool SwallowWhileBusy(QObject* watched, QEvent* event);
-
-  std::optional<int> RunBox(MessageBox& box);
-  void AfterEvent();
-  void KeepPlace();
 
   WindowDesk& desk_;
   Options options_;

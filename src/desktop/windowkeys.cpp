@@ -64,30 +64,31 @@ void Window::Relook() {
   Sync();
 }
 
+namespace {
+
+constexpr QEvent::Type kInput[] = {QEvent::MouseButtonPress,
+                                   QEvent::MouseButtonRelease,
+                                   QEvent::MouseButtonDblClick,
+                                   QEvent::Wheel,
+                                   QEvent::KeyPress,
+                                   QEvent::KeyRelease,
+                                   QEvent::Shortcut,
+                                   QEvent::ShortcutOverride,
+                                   QEvent::ContextMenu,
+                                   QEvent::TouchBegin,
+                                   QEvent::TouchUpdate,
+                                   QEvent::TouchEnd};
+
+}  // namespace
+
 /// While an event is under way and shows itself, nothing that is typed or clicked counts.
 bool Window::SwallowWhileBusy(QObject* watched, QEvent* event) {
-  switch (event->type()) {
-    case QEvent::Close:
-      if (watched != this) return false;
-      closing_ = true;
-      event->ignore();
-      return true;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::Shortcut:
-    case QEvent::ShortcutOverride:
-    case QEvent::ContextMenu:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-      return true;
-    default:
-      return false;
+  if (event->type() == QEvent::Close && watched == this) {
+    closing_ = true;
+    event->ignore();
+    return true;
   }
+  return std::ranges::find(kInput, event->type()) != std::end(kInput);
 }
 
 bool Window::eventFilter(QObject* watched, QEvent* event) {
