@@ -12,11 +12,6 @@ constexpr std::size_t kNarrowest = 6;    // a column is not cut below this
 constexpr std::size_t kLeastFirst = 18;  // nor the first, by which rows are picked, below this
 constexpr std::string_view kCut = "...";
 
-std::string Padded(std::string text, std::size_t width, bool right) {
-  const std::string blanks(width - std::min(width, text.size()), ' ');
-  return right ? blanks + text : text + blanks;
-}
-
 void WrapLine(std::string_view line, std::size_t width, std::vector<std::string>& lines) {
   while (line.size() > width) {
     const auto blank = line.rfind(' ', width);
@@ -28,6 +23,11 @@ void WrapLine(std::string_view line, std::size_t width, std::vector<std::string>
 }
 
 }  // namespace
+
+std::string Padded(std::string text, std::size_t width, bool right) {
+  const std::string blanks(width - std::min(width, text.size()), ' ');
+  return right ? blanks + text : text + blanks;
+}
 
 std::string TrimmedBehind(std::string line) {
   line.resize(line.find_last_not_of(' ') + 1);
@@ -86,9 +86,8 @@ std::vector<std::size_t> TableText::Widths(std::size_t width) const {
     return column - std::min(column, least);
   };
   for (; width != 0 && used > width; --used) {
-    const auto widest = std::max_element(
-        widths.begin(), widths.end(),
-        [&](const auto& one, const auto& other) { return excess(one) < excess(other); });
+    const auto widest = std::ranges::max_element(
+        widths, [&](const auto& one, const auto& other) { return excess(one) < excess(other); });
     if (widest == widths.end() || excess(*widest) == 0) break;
     --*widest;
   }
@@ -113,7 +112,7 @@ std::vector<std::string> TableText::Lines(std::size_t width) const {
   for (const Row& row : rows_) numbers = std::max(numbers, row.Number.size());
   std::vector<std::string> titles, lines;
   for (const TableColumn& column : columns_) titles.push_back(column.Title);
-  if (std::any_of(titles.begin(), titles.end(), [](auto& title) { return !title.empty(); }))
+  if (std::ranges::any_of(titles, [](auto& title) { return !title.empty(); }))
     lines.push_back(Line(' ', std::string(numbers, ' '), titles, widths));
   for (const Row& row : rows_)
     lines.push_back(

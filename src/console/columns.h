@@ -14,6 +14,8 @@ namespace grapplemont::console {
 std::string Printable(std::string_view text);
 /// The line without the blanks behind it.
 std::string TrimmedBehind(std::string line);
+/// The text with blanks behind it, or before it, up to the width.
+std::string Padded(std::string text, std::size_t width, bool right = false);
 /// Lines of at most `width` letters, broken at blanks where there are any; never none.
 std::vector<std::string> Wrapped(std::string_view text, std::size_t width);
 /// The text on one line, with "..." in place of what `width` has no room for.

@@ -40,7 +40,7 @@ std::optional<std::string> Letters(const Line& line, std::string& why) {
     why = "The line is longer than " + std::to_string(kLongestLine) + " bytes.";
   } else if (line.Bytes.find('\0') != std::string::npos) {
     why = "The line holds a NUL byte.";
-  } else if (std::any_of(line.Bytes.begin(), line.Bytes.end(), isControl)) {
+  } else if (std::ranges::any_of(line.Bytes, isControl)) {
     why = "The line holds a control character.";
   } else if (auto letters = FromUtf8(line.Bytes)) {
     return letters;
@@ -126,8 +126,7 @@ std::span<const VerbRow> Verbs() {
 std::optional<Command> ReadCommand(std::string_view line, std::string& why) {
   if (WithoutBlanks(line).empty()) return Command{};
   const std::string_view word = TakeWord(line);
-  const auto row =
-      std::find_if(kVerbs.begin(), kVerbs.end(), [&](auto& v) { return v.Word == word; });
+  const auto row = std::ranges::find_if(kVerbs, [&](auto& v) { return v.Word == word; });
   if (row == kVerbs.end()) {
     why = "There is no command \"" + std::string(word) + "\"; \"help\" lists them.";
     return std::nullopt;

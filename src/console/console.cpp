@@ -1,10 +1,9 @@
 #include "console/console.h"
 
-#include <charconv>
-
 #include "console/command.h"
 #include "records/fields/charset.h"
 #include "ui/acts.h"
+#include "ui/asnumber.h"
 
 namespace grapplemont::console {
 
@@ -39,31 +38,19 @@ std::string Check(ui::Desk& desk, ui::Screen& screen, const Command& command) {
 }
 
 std::string Slide(ui::Desk& desk, ui::Screen& screen, const Command& command) {
-  int value = 0;
-  const char* const last = command.Text.data() + command.Text.size();
-  const auto [end, fault] = std::from_chars(command.Text.data(), last, value);
-  if (fault != std::errc() || end != last)
-    return "\"" + command.Text + "\" is no whole number that a scroll bar could go to.";
-  return ui::Slide(desk, screen, command.Name, value);
+  const auto value = ui::AsNumber(command.Text);
+  if (!value) return "\"" + command.Text + "\" is no whole number that a scroll bar could go to.";
+  return ui::Slide(desk, screen, command.Name, *value);
 }
 
-bool Answers(Verb verb, Box::Kind box) {
-  switch (box) {
-    case Box::Kind::Ok:
-      return verb == Verb::Ok;
-    case Box::Kind::YesNo:
-      return verb == Verb::Yes || verb == Verb::No;
-    case Box::Kind::Input:
-      return verb == Verb::Enter || verb == Verb::Cancel;
-  }
-  return false;
-}
-
-std::string WaitsFor(Box::Kind box) {
-  constexpr const char* kAnswers[] = {"\"ok\"", "\"yes\" or \"no\"",
-                                      "\"enter TEXT\" or \"cancel\""};
-  return std::string("A box is open; answer it with ") + kAnswers[static_cast<int>(box)] + ".";
-}
+/// What answers a box, and how that is told. In the order of Box::Kind.
+struct Answering {
+  Verb One, Other;
+  const char* Told;
+};
+constexpr Answering kAnswering[] = {{Verb::Ok, Verb::Ok, "\"ok\""},
+                                    {Verb::Yes, Verb::No, "\"yes\" or \"no\""},
+                                    {Verb::Enter, Verb::Cancel, "\"enter TEXT\" or \"cancel\""}};
 
 }  // namespace
 
@@ -154,10 +141,11 @@ void Console::Perform(const Command& command) {
 
 std::optional<Command> Console::AnswerTo(Box box) {
   if (ended_) return std::nullopt;
-  const Box::Kind kind = box.Is;
+  const auto& [one, other, told] = kAnswering[static_cast<std::size_t>(box.Is)];
   box_ = std::move(box);
   std::optional<Command> command;
-  while ((command = NextCommand()) && !Answers(command->Is, kind)) Refuse(WaitsFor(kind));
+  while ((command = NextCommand()) && command->Is != one && command->Is != other)
+    Refuse("A box is open; answer it with " + std::string(told) + ".");
   box_.reset();
   return command;
 }

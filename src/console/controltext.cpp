@@ -76,17 +76,9 @@ std::string Number(double value) {
   return text.substr(0, text.find('.') + 3);
 }
 
-std::string Quoted(const std::string& text) {
-  return "\"" + text + "\"";
-}
-
-std::string Padded(std::string text, std::size_t width) {
-  text.resize(std::max(text.size(), width), ' ');
-  return text;
-}
-
 std::string Says(const ui::TextBox& box) {
-  return Quoted(box.Text) + (box.Text->empty() && !box.Hint.empty() ? " (" + box.Hint + ")" : "");
+  return "\"" + box.Text.Get() + "\"" +
+         (box.Text->empty() && !box.Hint.empty() ? " (" + box.Hint + ")" : "");
 }
 
 std::string Says(const ui::ComboBox& combo) {

@@ -1,24 +1,17 @@
 #include "console/run.h"
 
 #include <algorithm>
-#include <charconv>
 #include <stdexcept>
 
 #include "program/screens.h"
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
 #include "session/home.h"
+#include "ui/asnumber.h"
 
 namespace grapplemont::console {
 
 namespace {
-
-std::optional<std::uint64_t> WholeNumber(const std::string& text) {
-  std::uint64_t number = 0;
-  const char* const last = text.data() + text.size();
-  const auto [end, fault] = std::from_chars(text.data(), last, number);
-  return fault == std::errc() && end == last ? std::optional(number) : std::nullopt;
-}
 
 /// Takes one option's value; empty, or what is wrong with it.
 std::string Take(Options& options, const std::string& name, const std::string& value) {
@@ -29,7 +22,7 @@ std::string Take(Options& options, const std::string& name, const std::string& v
     options.Today = ParseIsoDate(value);
     if (!options.Today) return "--today needs a date such as 2026-03-01, not \"" + value + "\".";
   } else {
-    options.Seed = WholeNumber(value);
+    options.Seed = ui::AsNumber<std::uint64_t>(value);
     if (!options.Seed) return "--seed needs a whole number from 0 up, not \"" + value + "\".";
   }
   return {};
@@ -64,11 +57,6 @@ constexpr const char* kProgram = "grapplemont-console: ";
 constexpr const char* kGreeting =
     "Grapplemont on a terminal. Name a control to work it, for example: click cmdbegin.\n"
     "The command \"help\" lists all there are.\n\n";
-
-std::string OneLine(std::string text) {
-  std::replace(text.begin(), text.end(), '\n', ' ');
-  return text;
-}
 
 std::string HomeOf(const Options& options, Disk& disk) {
   if (!options.Home) return FindHome(disk);
@@ -114,7 +102,9 @@ int RunConsole(std::span<const std::string> arguments, Streams streams, Settings
     Play(*options, console);
     return 0;
   } catch (const std::exception& fault) {
-    streams.Errors << kProgram << OneLine(ToUtf8(fault.what())) << "\n";
+    why = ToUtf8(fault.what());
+    std::replace(why.begin(), why.end(), '\n', ' ');
+    streams.Errors << kProgram << why << "\n";
     return 1;
   }
 }

@@ -1,45 +1,31 @@
 #include "desktop/box.h"
 
-#include <QHBoxLayout>
-#include <QKeyEvent>
-
-#include "desktop/controlview.h"
-#include "desktop/look.h"
 #include "desktop/textviews.h"
-#include "desktop/window.h"
 
 namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kLeastWidth = 320;
+constexpr int kLeastWidth = 320, kLineWidth = 360;
+constexpr int kLinePlace = 2;  // below title and text
 
 }  // namespace
 
 MessageBox::MessageBox(QWidget* ground, const QString& title, const QString& text)
-    : Veil(ground), place_(new QWidget(&Sheet())) {
+    : Veil(ground),
+      rows_(NewLayout<QVBoxLayout>(&Sheet(), 8, {20, 18, 20, 16})),
+      foot_(NewLayout<QHBoxLayout>(nullptr, 12)) {
   setObjectName("box");
-  auto* rows = new QVBoxLayout(&Sheet());
-  rows->setContentsMargins(Px(20), Px(18), Px(20), Px(16));
-  rows->setSpacing(Px(8));
-  auto* heading = new WrappedLabel(&Sheet(), title);
+  auto* heading = new WrappedLabel(&Sheet(), title, TextFont(15, QFont::DemiBold));
   heading->setObjectName("boxtitle");
-  heading->setFont(TextFont(15, QFont::DemiBold));
   heading->setMinimumWidth(Px(kLeastWidth));
   auto* words = new WrappedLabel(&Sheet(), text);
   words->setObjectName("boxtext");
-  auto* line = new QVBoxLayout(place_);
-  line->setContentsMargins(0, Px(4), 0, 0);
-  auto* foot = new QHBoxLayout;
-  foot->setSpacing(Px(12));
-  foot->addStretch(1);
-  rows->addWidget(heading);
-  rows->addWidget(words);
-  rows->addWidget(place_);
-  rows->addSpacing(Px(8));
-  rows->addLayout(foot);
-  foot_ = foot;
-  place_->hide();
+  rows_->addWidget(heading);
+  rows_->addWidget(words);
+  rows_->addSpacing(Px(8));
+  rows_->addLayout(foot_);
+  foot_->addStretch(1);
 }
 
 void MessageBox::AddButton(const QString& caption, int answer, bool usual) {
@@ -50,25 +36,16 @@ void MessageBox::AddButton(const QString& caption, int answer, bool usual) {
   button->SetEnter(usual);
   connect(button, &QAbstractButton::clicked, this, [this, answer] { Answer(answer); });
   foot_->addWidget(button);
-  choices_.push_back({button, answer, usual});
+  choices_.push_back(button);
+  if (usual) usual_ = button;
 }
 
 void MessageBox::AddLine(const QString& offered, Stage& stage) {
-  line_ = new QLineEdit(offered, place_);
-  line_->setObjectName("boxline");
-  line_->setTextMargins(Px(8), 0, Px(8), 0);
-  line_->setMinimumWidth(Px(360));
-  connect(line_, &QLineEdit::textEdited, this, [this, &stage](const QString& text) {
-    const Keepable kept = Keep(text);
-    if (!kept.Refused.isEmpty()) stage.Hint(*line_, RefusalOf(kept.Refused));
-    if (const QString shown = Shown(kept.Text); shown != text) {
-      const auto cursor = Keep(text.left(line_->cursorPosition())).Text.size();
-      line_->setText(shown);
-      line_->setCursorPosition(static_cast<int>(cursor));
-    }
-  });
-  place_->layout()->addWidget(line_);
-  place_->show();
+  line_ = NewLine(&Sheet(), "boxline", offered);
+  line_->setMinimumWidth(Px(kLineWidth));
+  connect(line_, &QLineEdit::textEdited, this, [this, &stage] { KeepTyped(*line_, stage); });
+  rows_->insertSpacing(kLinePlace, Px(4));
+  rows_->insertWidget(kLinePlace + 1, line_);
 }
 
 std::optional<int> MessageBox::Run() {
@@ -80,70 +57,42 @@ std::optional<int> MessageBox::Run() {
     line_->setFocus(Qt::OtherFocusReason);
     line_->selectAll();
   } else {
-    setFocus(Qt::OtherFocusReason);
-    // The arrows start from the answer that Enter gives.
-    for (const Choice& choice : choices_)
-      if (choice.Usual) choice.Press->setFocus(Qt::OtherFocusReason);
+    usual_->setFocus(Qt::OtherFocusReason);  // the arrows start from the answer that Enter gives
   }
   loop_.exec();
   hide();
   return answer_;
 }
 
-void MessageBox::Answer(int answer) {
+void MessageBox::Answer(std::optional<int> answer) {
   answer_ = answer;
   loop_.quit();
 }
 
-void MessageBox::Dismiss() {
-  answer_.reset();
-  loop_.quit();
+void MessageBox::PressEnter() {
+  for (PushButton* choice : choices_)
+    if (choice == window()->focusWidget()) return choice->click();
+  usual_->click();
 }
 
 /// "Y" answers like a click on "Yes".
 void MessageBox::PressLetter(const QString& letter) {
   if (letter.isEmpty() || line_) return;
-  for (const Choice& choice : choices_)
-    if (choice.Press->text().startsWith(letter, Qt::CaseInsensitive)) return choice.Press->click();
+  for (PushButton* choice : choices_)
+    if (choice->text().startsWith(letter, Qt::CaseInsensitive)) return choice->click();
 }
 
 void MessageBox::keyPressEvent(QKeyEvent* event) {
   event->accept();
   if (event->isAutoRepeat()) return;
-  switch (event->key()) {
-    case Qt::Key_Escape:
-      return Dismiss();
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      for (const Choice& choice : choices_)
-        if (choice.Press == window()->focusWidget()) return choice.Press->click();
-      for (const Choice& choice : choices_)
-        if (choice.Usual) return choice.Press->click();
-      return;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-      focusNextPrevChild(event->key() == Qt::Key_Right);
-      return;
-    default:
-      return PressLetter(event->text());
+  const int key = event->key();
+  if (key == Qt::Key_Escape) return Dismiss();
+  if (IsEnter(key)) return PressEnter();
+  if (key == Qt::Key_Left || key == Qt::Key_Right) {
+    focusNextPrevChild(key == Qt::Key_Right);
+  } else {
+    PressLetter(event->text());
   }
-}
-
-void WindowDesk::Say(const std::string& title, const std::string& text) {
-  if (window_) window_->Say(title, text);
-}
-
-bool WindowDesk::Ask(const std::string& title, const std::string& text, ui::Default answer) {
-  return window_ && window_->Ask(title, text, answer);
-}
-
-std::string WindowDesk::Prompt(const std::string& title, const std::string& text,
-                               const std::string& offered) {
-  return window_ ? window_->Prompt(title, text, offered) : std::string();
-}
-
-void WindowDesk::Repaint() {
-  if (window_) window_->RepaintNow();
 }
 
 }  // namespace grapplemont::desktop

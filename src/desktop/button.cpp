@@ -1,11 +1,11 @@
 #include "desktop/button.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
 
 #include "desktop/housestyle.h"
-#include "desktop/look.h"
+#include "desktop/pieces.h"
+#include "desktop/views.h"
 #include "ui/acts.h"
 
 namespace grapplemont::desktop {
@@ -28,127 +28,90 @@ void DrawEnterSign(QPainter& painter, const QRectF& where, const QColor& colour)
   path.moveTo(where.left() + head, y - head);
   path.lineTo(where.left(), y);
   path.lineTo(where.left() + head, y + head);
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(colour, where.width() / 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawPath(path);
-  painter.restore();
+  DrawStroke(painter, path, colour, where.width() / 8);
+}
+
+QFont BadgeFont() {
+  return TextFont(11, QFont::DemiBold);
 }
 
 }  // namespace
 
-int BadgeWidthFor(const QString& text) {
-  const int words = QFontMetrics(TextFont(11, QFont::DemiBold)).horizontalAdvance(text);
-  return std::max(Px(20), words + Px(12));
-}
-
-void DrawBadge(QPainter& painter, const QRectF& where, const QString& text, const QWidget* on) {
-  DrawBox(painter, where, ColoursOf(on).RedFill, QColor(), where.height() / 2);
-  painter.setFont(TextFont(11, QFont::DemiBold));
-  painter.setPen(Qt::white);
-  painter.drawText(where, Qt::AlignCenter, text);
-}
-
-PushButton::PushButton(QWidget* parent, const QString& caption) : QAbstractButton(parent) {
+BareButton::BareButton(QWidget* parent, const QString& caption) : QAbstractButton(parent) {
   setText(caption);
   setFocusPolicy(Qt::TabFocus);
+}
+
+void BareButton::keyPressEvent(QKeyEvent* event) {
+  if (PressesEnter(*event)) return click();
+  QAbstractButton::keyPressEvent(event);
+}
+
+int BareButton::BadgeWidth() const {
+  if (badge_.isEmpty()) return 0;
+  return std::max(Px(20), QFontMetrics(BadgeFont()).horizontalAdvance(badge_) + Px(12));
+}
+
+void BareButton::DrawBadge(QPainter& painter, double left) const {
+  const QRectF spot(left, (height() - Px(kBadgeHeight)) / 2.0, BadgeWidth(), Px(kBadgeHeight));
+  DrawBox(painter, spot, ColoursOf(this).RedFill, QColor(), spot.height() / 2);
+  painter.setFont(BadgeFont());
+  painter.setPen(Qt::white);
+  painter.drawText(spot, Qt::AlignCenter, badge_);
+}
+
+PushButton::PushButton(QWidget* parent, const QString& caption) : BareButton(parent, caption) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-void PushButton::SetGold(bool gold) {
-  if (gold_ == gold) return;
-  gold_ = gold;
-  updateGeometry();
-  update();
-}
-
-void PushButton::SetEnter(bool enter) {
-  if (enter_ == enter) return;
-  enter_ = enter;
-  updateGeometry();
-  update();
-}
-
-void PushButton::SetBadge(const QString& badge) {
-  if (badge_ == badge) return;
-  badge_ = badge;
-  updateGeometry();
-  update();
-}
-
-void PushButton::SetLeast(int width, int height) {
-  least_ = {Px(width), Px(height)};
-  updateGeometry();
-}
-
-void PushButton::SetTextColour(const QColor& colour) {
-  textColour_ = colour;
-  update();
 }
 
 QFont PushButton::CaptionFont() const {
   return TextFont(kUsualText, gold_ ? QFont::DemiBold : QFont::Normal);
 }
 
-int PushButton::BadgeWidth() const {
-  return badge_.isEmpty() ? 0 : BadgeWidthFor(badge_) + Px(kGap);
+int PushButton::TailWidth() const {
+  return (badge_.isEmpty() ? 0 : Px(kGap) + BadgeWidth()) +
+         (enter_ ? Px(kGap) + Px(kEnterWidth) : 0);
 }
 
 QSize PushButton::sizeHint() const {
-  int width = QFontMetrics(CaptionFont()).horizontalAdvance(text()) + 2 * Px(kSide) + BadgeWidth();
-  if (enter_) width += Px(kGap) + Px(kEnterWidth);
-  return QSize(width, Px(32)).expandedTo(least_);
+  const int words = QFontMetrics(CaptionFont()).horizontalAdvance(text());
+  return QSize(words + 2 * Px(kSide) + TailWidth(), Px(32)).expandedTo(least_);
+}
+
+PushButton::Paints PushButton::PaintsNow() const {
+  const Colours& c = ColoursOf(this);
+  const bool lit = isEnabled() && (underMouse() || isDown());
+  Paints paints{lit ? c.Hover : c.Button, c.Edge, textColour_.isValid() ? textColour_ : c.Text};
+  if (!isEnabled()) paints = {c.Card, c.Line, c.Faint};
+  if (gold_) {
+    const QColor fill = !isEnabled() ? c.DimGold : lit ? c.GoldFill.lighter(108) : c.GoldFill;
+    paints = {fill, QColor(), c.OnGold};
+  }
+  if (isDown()) paints.Fill = paints.Fill.darker(108);
+  return paints;
 }
 
 void PushButton::paintEvent(QPaintEvent*) {
-  const Colours& c = ColoursOf(this);
   QPainter painter(this);
-  const bool lit = isEnabled() && (underMouse() || isDown());
-  QColor fill = lit ? c.Hover : c.Button;
-  QColor edge = c.Edge;
-  QColor ink = textColour_.isValid() ? textColour_ : c.Text;
-  if (!isEnabled()) {
-    fill = c.Card;
-    edge = c.Line;
-    ink = c.Faint;
-  }
-  if (gold_) {
-    fill = !isEnabled() ? c.DimGold : lit ? c.GoldFill.lighter(108) : c.GoldFill;
-    edge = QColor();
-    ink = c.OnGold;
-  }
-  if (isDown()) fill = fill.darker(108);
+  const auto [fill, edge, ink] = PaintsNow();
   DrawBox(painter, rect(), fill, edge, Px(6));
 
-  const QFont font = CaptionFont();
-  const QFontMetrics metrics(font);
-  const int tail = BadgeWidth() + (enter_ ? Px(kGap) + Px(kEnterWidth) : 0);
-  const int room = width() - 2 * Px(8) - tail;
+  const QFontMetrics metrics(CaptionFont());
+  const int room = width() - 2 * Px(8) - TailWidth();
   const QString caption = metrics.elidedText(text(), Qt::ElideRight, room);
   const int words = metrics.horizontalAdvance(caption);
-  double x = (width() - words - tail) / 2.0;
-  painter.setFont(font);
+  double x = (width() - words - TailWidth()) / 2.0;
+  painter.setFont(CaptionFont());
   painter.setPen(ink);
   painter.drawText(QRectF(x, 0, words + 2, height()), Qt::AlignVCenter | Qt::AlignLeft, caption);
   x += words + Px(kGap);
   if (!badge_.isEmpty()) {
-    const int spot = BadgeWidthFor(badge_);
-    DrawBadge(painter, QRectF(x, (height() - Px(kBadgeHeight)) / 2.0, spot, Px(kBadgeHeight)),
-              badge_, this);
-    x += spot + Px(kGap);
+    DrawBadge(painter, x);
+    x += BadgeWidth() + Px(kGap);
   }
-  if (enter_)
-    DrawEnterSign(painter,
-                  QRectF(x, (height() - Px(kEnterWidth)) / 2.0, Px(kEnterWidth), Px(kEnterWidth)),
-                  ink);
+  const int sign = Px(kEnterWidth);
+  if (enter_) DrawEnterSign(painter, QRectF(x, (height() - sign) / 2.0, sign, sign), ink);
   if (hasFocus() && ring_) DrawFocus(painter, rect(), Px(6), palette());
-}
-
-void PushButton::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && !event->isAutoRepeat()) return click();
-  QAbstractButton::keyPressEvent(event);
 }
 
 /// The ring tells where keys have led to; the answer that a box offers is gold already.
@@ -157,26 +120,22 @@ void PushButton::focusInEvent(QFocusEvent* event) {
   QAbstractButton::focusInEvent(event);
 }
 
-void PushButton::enterEvent(QEnterEvent*) {
-  update();
-}
-
-void PushButton::leaveEvent(QEvent*) {
-  update();
-}
-
 ButtonView::ButtonView(ui::Button& button, Stage& stage, QWidget* parent)
-    : PushButton(parent), ControlView(button, stage), button_(button) {
+    : ViewOf(button, stage, parent) {
   connect(this, &QAbstractButton::clicked, this, [this] { Pressed ? Pressed() : Do(ui::Click); });
 }
 
 void ButtonView::Show() {
-  setText(Shown(button_.Text.Get()));
-  SetBadge(Shown(button_.Badge.Get()));
-  const ui::Tone tone = button_.Colour.Get();
-  SetTextColour(tone == ui::Tone::Plain ? QColor() : TextColour(ColoursOf(this), tone));
+  setText(Shown(control_.Text.Get()));
+  SetBadge(Shown(control_.Badge.Get()));
+  const ui::Tone tone = control_.Colour.Get();
+  textColour_ = tone == ui::Tone::Plain ? QColor() : TextColour(ColoursOf(this), tone);
   updateGeometry();
   update();
+}
+
+ControlView* NewView(ui::Button& button, Stage& stage, QWidget* parent) {
+  return new ButtonView(button, stage, parent);
 }
 
 }  // namespace grapplemont::desktop

@@ -6,20 +6,43 @@
 
 namespace grapplemont::desktop {
 
-/// A button after the look. It takes the keyboard by Tab alone, so that Enter goes on meaning the
-/// page's main button after a click.
-class PushButton : public QAbstractButton {
+/// A button without a look of its own, which Enter presses as the space bar does. It takes the
+/// keyboard by Tab alone, so that Enter goes on meaning the page's main button after a click.
+class BareButton : public QAbstractButton {
+ public:
+  BareButton(QWidget* parent, const QString& caption);
+  void SetBadge(const QString& badge) { Change(badge_, badge); }
+
+ protected:
+  /// Makes room for what has changed and shows it.
+  template <class T>
+  void Change(T& held, const T& value) {
+    if (held == value) return;
+    held = value;
+    updateGeometry();
+    update();
+  }
+  void keyPressEvent(QKeyEvent* event) override;
+  void enterEvent(QEnterEvent*) override { update(); }
+  void leaveEvent(QEvent*) override { update(); }
+  /// The width of the badge's spot; 0 without a badge.
+  int BadgeWidth() const;
+  /// Draws it in the middle of the height.
+  void DrawBadge(QPainter& painter, double left) const;
+
+  QString badge_;
+};
+
+/// A button after the look.
+class PushButton : public BareButton {
  public:
   explicit PushButton(QWidget* parent = nullptr, const QString& caption = {});
 
-  void SetGold(bool gold);
+  void SetGold(bool gold) { Change(gold_, gold); }
   /// Shows the sign of the Enter key behind the caption.
-  void SetEnter(bool enter);
-  void SetBadge(const QString& badge);
-  void SetLeast(int width, int height);  // in drawn pixels
-  /// Of the caption; none: the usual one.
-  void SetTextColour(const QColor& colour);
-  bool IsGold() const { return gold_; }
+  void SetEnter(bool enter) { Change(enter_, enter); }
+  /// In drawn pixels.
+  void SetLeast(int width, int height) { Change(least_, {Px(width), Px(height)}); }
   bool ShowsEnter() const { return enter_; }
 
   QSize sizeHint() const override;
@@ -27,38 +50,31 @@ class PushButton : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void enterEvent(QEnterEvent* event) override;
-  void leaveEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
 
+  QColor textColour_;  // of the caption; none: the usual one
+
  private:
+  struct Paints {
+    QColor Fill, Edge, Ink;
+  };
+  Paints PaintsNow() const;
   QFont CaptionFont() const;
-  int BadgeWidth() const;
+  /// What stands behind the caption, with the gaps before it.
+  int TailWidth() const;
 
   bool gold_ = false, enter_ = false, ring_ = false;
-  QString badge_;
-  QColor textColour_;
   QSize least_;
 };
 
-/// A red spot with a short text.
-void DrawBadge(QPainter& painter, const QRectF& where, const QString& text, const QWidget* on);
-/// How wide DrawBadge's spot has to be.
-int BadgeWidthFor(const QString& text);
-
-class ButtonView : public PushButton, public ControlView {
+class ButtonView : public ViewOf<PushButton, ui::Button> {
  public:
   ButtonView(ui::Button& button, Stage& stage, QWidget* parent);
-  QWidget* Widget() override { return this; }
   /// What a click does instead of clicking the control.
   std::function<void()> Pressed;
 
  protected:
   void Show() override;
-
- private:
-  ui::Button& button_;
 };
 
 }  // namespace grapplemont::desktop

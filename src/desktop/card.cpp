@@ -84,29 +84,23 @@ void Card::paintEvent(QPaintEvent*) {
   DrawBox(painter, rect(), c.Card, c.Line, Px(8));
 }
 
-void FocusRing::FocusFirst() {
-  const QWidget* const self = this;
-  for (QWidget* widget = nextInFocusChain(); widget != self; widget = widget->nextInFocusChain())
-    if (isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() &&
-        widget->isVisibleTo(this) && !widget->focusProxy())
-      return widget->setFocus(Qt::OtherFocusReason);
-  setFocus(Qt::OtherFocusReason);
+bool Veil::Leads(const QWidget& widget) const {
+  return isAncestorOf(&widget) && (widget.focusPolicy() & Qt::TabFocus) && widget.isEnabled() &&
+         widget.isVisibleTo(this) && !widget.focusProxy();
 }
 
-bool FocusRing::focusNextPrevChild(bool next) {
+bool Veil::focusNextPrevChild(bool next) {
   QWidget* const from = focusWidget() ? focusWidget() : this;
-  for (QWidget* widget = from;;) {
+  QWidget* widget = from;
+  do {
     widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain();
     if (widget == from) return true;
-    if (isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() &&
-        widget->isVisibleTo(this) && !widget->focusProxy()) {
-      widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-      return true;
-    }
-  }
+  } while (!Leads(*widget));
+  widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  return true;
 }
 
-Veil::Veil(QWidget* ground) : FocusRing(ground), card_(new Card(this)) {
+Veil::Veil(QWidget* ground) : QWidget(ground), card_(new Card(this)) {
   setFocusPolicy(Qt::ClickFocus);
   card_->installEventFilter(this);
   ground->installEventFilter(this);
@@ -115,9 +109,8 @@ Veil::Veil(QWidget* ground) : FocusRing(ground), card_(new Card(this)) {
 
 void Veil::PlaceCard() {
   const QSize most = size() - QSize(2 * Px(kMargin), 2 * Px(kMargin));
-  QSize wanted =
-      wanted_.isValid() ? QSize(Px(wanted_.width()), Px(wanted_.height())) : card_->sizeHint();
-  if (wanted_.isValid()) wanted = wanted.expandedTo(card_->sizeHint());
+  QSize wanted = card_->sizeHint();
+  if (wanted_.isValid()) wanted = wanted.expandedTo({Px(wanted_.width()), Px(wanted_.height())});
   wanted = wanted.boundedTo(most);
   if (!wanted_.isValid() && card_->layout() && card_->layout()->hasHeightForWidth())
     wanted.setHeight(std::min(most.height(), card_->layout()->totalHeightForWidth(wanted.width())));
@@ -130,25 +123,16 @@ void Veil::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), ColoursOf(this).Shade);
 }
 
-void Veil::resizeEvent(QResizeEvent*) {
-  PlaceCard();
-}
-
-/// What lies below takes no clicks.
-void Veil::mousePressEvent(QMouseEvent* event) {
-  event->accept();
-}
-
+/// What lies below takes no clicks and does not scroll.
 bool Veil::event(QEvent* event) {
-  if (event->type() == QEvent::Wheel) return true;
-  return FocusRing::event(event);
+  return event->type() == QEvent::Wheel || QWidget::event(event);
 }
 
 bool Veil::eventFilter(QObject* watched, QEvent* event) {
   if (watched == card_ && event->type() == QEvent::LayoutRequest) PlaceCard();
   if (watched == parentWidget() && event->type() == QEvent::Resize)
     setGeometry(parentWidget()->rect());
-  return FocusRing::eventFilter(watched, event);
+  return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace grapplemont::desktop

@@ -2,6 +2,7 @@
 
 #include <QLayout>
 #include <QList>
+#include <QMouseEvent>
 #include <QWidget>
 #include <vector>
 
@@ -40,19 +41,9 @@ class Card : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 };
 
-/// A widget in which Tab goes round, instead of leaving it.
-class FocusRing : public QWidget {
- public:
-  explicit FocusRing(QWidget* parent) : QWidget(parent) {}
-  /// Gives the keyboard to the first that takes it by Tab.
-  void FocusFirst();
-
- protected:
-  bool focusNextPrevChild(bool next) override;
-};
-
-/// The ground that is dimmed below a dialog or a box, with a card in its middle.
-class Veil : public FocusRing {
+/// The ground that is dimmed below a dialog or a box, with a card in its middle. Tab goes round in
+/// it, instead of leaving it.
+class Veil : public QWidget {
  public:
   explicit Veil(QWidget* ground);
   Card& Sheet() { return *card_; }
@@ -64,12 +55,16 @@ class Veil : public FocusRing {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent*) override { PlaceCard(); }
+  void mousePressEvent(QMouseEvent* event) override { event->accept(); }
   bool event(QEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  /// Whether Tab may lead to this widget.
+  bool Leads(const QWidget& widget) const;
+
   Card* card_;
   QSize wanted_;
   bool atTop_ = false;

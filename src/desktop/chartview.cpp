@@ -1,5 +1,3 @@
-#include "desktop/chartview.h"
-
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -8,6 +6,7 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
+#include "desktop/views.h"
 
 namespace grapplemont::desktop {
 
@@ -31,16 +30,10 @@ QString Short(double value) {
   return QString::number(value, 'g', 6);
 }
 
-QFont SmallFont() {
-  return TextFont(11);
-}
-
-}  // namespace
-
 /// Where a place and a value lie within the widget.
-struct ChartView::Scale {
+struct Scale {
   QRectF Plot;
-  int Count = 0;
+  int Count = 0;  // of places along the axis
   double Low = 0, High = 1, Step = 1;
 
   double Slot() const { return Plot.width() / std::max(1, Count); }
@@ -53,35 +46,50 @@ struct ChartView::Scale {
   double LineAt(int line) const { return Low + line * Step; }
 };
 
-ChartView::ChartView(ui::Chart& chart, Stage& stage, QWidget* parent)
-    : QWidget(parent), ControlView(chart, stage), chart_(chart) {
-  setMouseTracking(true);
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-}
+/// Lines or bars over time, with an axis, captions and the value under the pointer.
+class ChartView : public ViewOf<QWidget, ui::Chart> {
+ public:
+  ChartView(ui::Chart& chart, Stage& stage, QWidget* parent) : ViewOf(chart, stage, parent) {
+    setFont(TextFont(11));
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  }
+  QSize sizeHint() const override { return {Px(280), Px(170)}; }
+  QSize minimumSizeHint() const override { return {Px(160), Px(120)}; }
 
-QSize ChartView::sizeHint() const {
-  return {Px(280), Px(170)};
-}
+ protected:
+  void Show() override { Hover(-1); }
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent*) override { Hover(-1); }
 
-QSize ChartView::minimumSizeHint() const {
-  return {Px(160), Px(120)};
-}
+ private:
+  Scale MakeScale() const;
+  int Count() const;
+  void Hover(int place) {
+    hover_ = place;
+    update();
+  }
+  void DrawAxis(QPainter& painter, const Scale& scale) const;
+  void DrawCaptions(QPainter& painter, const Scale& scale) const;
+  void DrawBars(QPainter& painter, const Scale& scale) const;
+  void DrawLines(QPainter& painter, const Scale& scale) const;
+  void DrawNames(QPainter& painter) const;
+  void DrawHover(QPainter& painter, const Scale& scale) const;
 
-void ChartView::Show() {
-  hover_ = -1;
-  update();
-}
+  int hover_ = -1;
+};
 
 int ChartView::Count() const {
-  std::size_t count = chart_.Captions.Get().size();
-  for (const auto& series : chart_.Lines.Get()) count = std::max(count, series.Values.size());
+  std::size_t count = control_.Captions.Get().size();
+  for (const auto& series : control_.Lines.Get()) count = std::max(count, series.Values.size());
   return static_cast<int>(count);
 }
 
-ChartView::Scale ChartView::MakeScale() const {
+Scale ChartView::MakeScale() const {
   double low = std::numeric_limits<double>::infinity(), high = -low;
   bool whole = true;
-  for (const auto& series : chart_.Lines.Get())
+  for (const auto& series : control_.Lines.Get())
     for (const double value : series.Values) {
       if (!std::isfinite(value)) continue;
       low = std::min(low, value);
@@ -89,7 +97,7 @@ ChartView::Scale ChartView::MakeScale() const {
       whole = whole && value == std::floor(value);
     }
   if (low > high) low = 0, high = 1;
-  if (chart_.Bars) low = std::min(low, 0.0), high = std::max(high, 0.0);
+  if (control_.Bars) low = std::min(low, 0.0), high = std::max(high, 0.0);
   if (high - low < 1e-9) low -= 1, high += 1;
   Scale scale;
   scale.Step = RoundStep((high - low) / kSteps);
@@ -97,21 +105,20 @@ ChartView::Scale ChartView::MakeScale() const {
   scale.Low = std::floor(low / scale.Step) * scale.Step;
   scale.High = std::ceil(high / scale.Step) * scale.Step;
   scale.Count = Count();
-  const QFontMetrics small(SmallFont());
+  const QFontMetrics small = fontMetrics();
   int left = 0;
   for (int line = 0; line < scale.Lines(); ++line)
     left = std::max(left, FiguresWidth(small, Short(scale.LineAt(line))) + Px(8));
-  const bool named = std::any_of(chart_.Lines->begin(), chart_.Lines->end(),
+  const bool named = std::any_of(control_.Lines->begin(), control_.Lines->end(),
                                  [](const auto& series) { return !series.Name.empty(); });
   const int top = small.height() + (named ? small.height() + Px(6) : 0);
-  const int bottom = chart_.Captions->empty() ? Px(4) : small.height() + Px(6);
+  const int bottom = control_.Captions->empty() ? Px(4) : small.height() + Px(6);
   scale.Plot = QRectF(rect()).adjusted(left, top, -Px(4), -bottom);
   return scale;
 }
 
 void ChartView::DrawAxis(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
-  painter.setFont(SmallFont());
   for (int line = 0; line < scale.Lines(); ++line) {
     const double value = scale.LineAt(line);
     const double y = std::round(scale.Y(value)) + 0.5;
@@ -125,11 +132,10 @@ void ChartView::DrawAxis(QPainter& painter, const Scale& scale) const {
 
 /// As many captions as there is room for from the left; the last, the present, always.
 void ChartView::DrawCaptions(QPainter& painter, const Scale& scale) const {
-  const auto& captions = chart_.Captions.Get();
+  const auto& captions = control_.Captions.Get();
   const int count = std::min(scale.Count, static_cast<int>(captions.size()));
   if (count == 0) return;
-  const QFontMetrics small(SmallFont());
-  painter.setFont(SmallFont());
+  const QFontMetrics small = fontMetrics();
   painter.setPen(ColoursOf(this).Muted);
   const auto words = [&](int place) { return Shown(captions[static_cast<std::size_t>(place)]); };
   const auto spot = [&](int place) {
@@ -152,7 +158,7 @@ void ChartView::DrawCaptions(QPainter& painter, const Scale& scale) const {
 
 void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
-  const auto& lines = chart_.Lines.Get();
+  const auto& lines = control_.Lines.Get();
   const double gap = std::min<double>(Px(6), scale.Slot() * 0.2);
   const double width =
       (scale.Slot() - gap) / static_cast<double>(std::max<std::size_t>(1, lines.size()));
@@ -168,7 +174,7 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
       const QColor fill = now ? c.GoldFill : FillColour(c, lines[s].Colour);
       painter.fillRect(bar, place == hover_ ? fill.lighter(115) : fill);
       const QString number = Short(value);
-      const QFontMetrics small(SmallFont());
+      const QFontMetrics small = fontMetrics();
       if (FiguresWidth(small, number) > width + gap) continue;
       painter.setPen(now ? c.Gold : c.Muted);
       DrawFigures(painter,
@@ -180,7 +186,7 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
 
 void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
-  for (const auto& series : chart_.Lines.Get()) {
+  for (const auto& series : control_.Lines.Get()) {
     painter.setPen(
         QPen(TextColour(c, series.Colour), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     QPolygonF run;
@@ -207,13 +213,12 @@ void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
 /// What the lines stand for, above them.
 void ChartView::DrawNames(QPainter& painter) const {
   const Colours& c = ColoursOf(this);
-  const QFontMetrics small(SmallFont());
-  painter.setFont(SmallFont());
+  const QFontMetrics small = fontMetrics();
   double x = 0;
-  for (const auto& series : chart_.Lines.Get()) {
+  for (const auto& series : control_.Lines.Get()) {
     if (series.Name.empty()) continue;
     const QString name = Shown(series.Name);
-    const QColor mark = chart_.Bars ? FillColour(c, series.Colour) : TextColour(c, series.Colour);
+    const QColor mark = control_.Bars ? FillColour(c, series.Colour) : TextColour(c, series.Colour);
     DrawBox(painter, QRectF(x, small.height() / 2.0 - Px(4), Px(8), Px(8)), mark, QColor(), 2);
     x += Px(8) + Px(6);
     painter.setPen(c.Muted);
@@ -226,18 +231,18 @@ void ChartView::DrawHover(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
   QStringList words;
   const auto at = static_cast<std::size_t>(hover_);
-  if (at < chart_.Captions->size()) words << Shown(chart_.Captions.Get()[at]);
-  for (const auto& series : chart_.Lines.Get()) {
+  if (at < control_.Captions->size()) words << Shown(control_.Captions.Get()[at]);
+  for (const auto& series : control_.Lines.Get()) {
     if (at >= series.Values.size() || !std::isfinite(series.Values[at])) continue;
     const QString number = QString::number(
         series.Values[at], 'f', series.Values[at] == std::floor(series.Values[at]) ? 0 : 2);
     words << (series.Name.empty() ? number : Shown(series.Name) + " " + number);
-    if (!chart_.Bars)
+    if (!control_.Bars)
       DrawBox(painter, QRectF(scale.X(hover_) - 4, scale.Y(series.Values[at]) - 4, 8, 8),
               TextColour(c, series.Colour), c.Card, 4);
   }
   const QString text = words.join(" \u00B7 ");
-  const QFontMetrics small(SmallFont());
+  const QFontMetrics small = fontMetrics();
   const double width = small.horizontalAdvance(text) + Px(16);
   const double x =
       std::clamp(scale.X(hover_) - width / 2, 0.0, std::max(0.0, this->width() - width));
@@ -252,13 +257,14 @@ void ChartView::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const Scale scale = MakeScale();
   if (scale.Count == 0) {
+    painter.setFont(TextFont());
     painter.setPen(ColoursOf(this).Muted);
     painter.drawText(rect(), Qt::AlignCenter, "Nothing to show yet.");
     return;
   }
   DrawAxis(painter, scale);
   DrawCaptions(painter, scale);
-  chart_.Bars ? DrawBars(painter, scale) : DrawLines(painter, scale);
+  control_.Bars ? DrawBars(painter, scale) : DrawLines(painter, scale);
   DrawNames(painter);
   if (hover_ >= 0 && hover_ < scale.Count) DrawHover(painter, scale);
 }
@@ -268,14 +274,13 @@ void ChartView::mouseMoveEvent(QMouseEvent* event) {
   const double x = event->position().x();
   const bool within = scale.Count > 0 && x >= scale.Plot.left() && x < scale.Plot.right();
   const int place = within ? static_cast<int>((x - scale.Plot.left()) / scale.Slot()) : -1;
-  if (place == hover_) return;
-  hover_ = place;
-  update();
+  if (place != hover_) Hover(place);
 }
 
-void ChartView::leaveEvent(QEvent*) {
-  hover_ = -1;
-  update();
+}  // namespace
+
+ControlView* NewView(ui::Chart& chart, Stage& stage, QWidget* parent) {
+  return new ChartView(chart, stage, parent);
 }
 
 }  // namespace grapplemont::desktop

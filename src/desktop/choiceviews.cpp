@@ -1,17 +1,33 @@
-#include "desktop/choiceviews.h"
-
+#include <QCheckBox>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QRadioButton>
 #include <QSignalBlocker>
+#include <QSlider>
+#include <QSpinBox>
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
 
-#include "desktop/look.h"
+#include "desktop/pieces.h"
+#include "desktop/views.h"
 #include "ui/acts.h"
+
+// What is chosen by a click: combo boxes, check boxes, options, sliders.
 
 namespace grapplemont::desktop {
 
 namespace {
+
+/// A turn of the wheel is meant for the page; it must not change what is chosen.
+template <class Q>
+class Calm : public Q {
+ public:
+  using Q::Q;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
 
 /// The rows of a combo box's list.
 class Choices : public QStyledItemDelegate {
@@ -35,121 +51,113 @@ class Choices : public QStyledItemDelegate {
   }
 };
 
-}  // namespace
-
-ComboView::ComboView(ui::ComboBox& combo, Stage& stage, QWidget* parent)
-    : QComboBox(parent), ControlView(combo, stage), combo_(combo) {
-  setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
-  setMaxVisibleItems(18);
-  setItemDelegate(new Choices(this));
-  setMinimumContentsLength(8);
-  setFocusPolicy(Qt::StrongFocus);
-  connect(this, &QComboBox::activated, this, [this](int row) {
-    Do(static_cast<std::string (*)(ui::Desk&, ui::Screen&, std::string_view, int)>(ui::Pick),
-       row + 1);
-    Show();  // what the screen made of it, even if that is what it was before
-  });
-}
-
-void ComboView::Show() {
-  const int count = combo_.Count();
-  bool same = count == QComboBox::count();
-  for (int row = 0; same && row < count; ++row)
-    same = itemText(row) == Shown(combo_.Rows()[static_cast<std::size_t>(row)]);
-  if (!same) {
-    clear();
-    for (const std::string& row : combo_.Rows()) addItem(Shown(row));
+class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
+ public:
+  ComboView(ui::ComboBox& combo, Stage& stage, QWidget* parent) : ViewOf(combo, stage, parent) {
+    setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
+    setMaxVisibleItems(18);
+    setItemDelegate(new Choices(this));
+    setMinimumContentsLength(8);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QComboBox::activated, this, [this](int row) {
+      Do<int>(ui::Pick, row + 1);
+      Show();  // what the screen made of it, even if that is what it was before
+    });
   }
-  setCurrentIndex(combo_.Selected() - 1);
-}
-
-/// A turn of the wheel is meant for the page; it must not change what is chosen.
-void ComboView::wheelEvent(QWheelEvent* event) {
-  event->ignore();
-}
-
-CheckView::CheckView(ui::CheckBox& box, Stage& stage, QWidget* parent)
-    : QCheckBox(parent), ControlView(box, stage), box_(box) {
-  connect(this, &QAbstractButton::clicked, this, [this](bool on) {
-    Do(ui::Check, on);
-    Show();
-  });
-}
-
-void CheckView::Show() {
-  setText(Shown(box_.Text.Get()));
-  setChecked(box_.Checked);
-}
-
-OptionView::OptionView(ui::OptionButton& option, Stage& stage, QWidget* parent)
-    : QRadioButton(parent), ControlView(option, stage), option_(option) {
-  setAutoExclusive(false);
-  connect(this, &QAbstractButton::clicked, this, [this] {
-    Do(ui::Check, true);
-    Show();
-  });
-}
-
-void OptionView::Show() {
-  setText(Shown(option_.Text.Get()));
-  setChecked(option_.Checked);
-}
-
-namespace {
-
-class CalmSlider : public QSlider {
- public:
-  using QSlider::QSlider;
 
  protected:
-  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+  void Show() override {
+    QStringList rows, shown;
+    for (const std::string& row : control_.Rows()) rows.append(Shown(row));
+    for (int row = 0; row < count(); ++row) shown.append(itemText(row));
+    if (rows != shown) {
+      clear();
+      addItems(rows);
+    }
+    setCurrentIndex(control_.Selected() - 1);
+  }
 };
 
-class CalmSpinBox : public QSpinBox {
+/// A check box or an option.
+template <class Q, class C>
+class TickView : public ViewOf<Q, C> {
  public:
-  using QSpinBox::QSpinBox;
+  TickView(C& control, Stage& stage, QWidget* parent) : ViewOf<Q, C>(control, stage, parent) {
+    this->setAutoExclusive(false);
+    QObject::connect(this, &QAbstractButton::clicked, this, [this](bool on) {
+      // An option is left by choosing another.
+      this->Do(ui::Check, on || std::is_same_v<C, ui::OptionButton>);
+      Show();
+    });
+  }
 
  protected:
-  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+  void Show() override {
+    this->setText(Shown(this->control_.Text.Get()));
+    this->setChecked(this->control_.Checked);
+  }
+};
+
+/// A slider with its value beside it, which can be typed too.
+class SliderView : public ViewOf<QWidget, ui::ScrollBar> {
+ public:
+  SliderView(ui::ScrollBar& bar, Stage& stage, QWidget* parent)
+      : ViewOf(bar, stage, parent),
+        slider_(new Calm<QSlider>(Qt::Horizontal, this)),
+        value_(new Calm<QSpinBox>(this)) {
+    auto* row = NewLayout<QHBoxLayout>(this, 12);
+    slider_->setMinimumWidth(Px(120));
+    value_->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    value_->setAlignment(Qt::AlignRight);
+    row->addWidget(slider_, 1);
+    row->addWidget(value_);
+    setFocusProxy(slider_);
+    connect(slider_, &QSlider::valueChanged, this, &SliderView::Slid);
+    connect(value_, &QSpinBox::valueChanged, this, &SliderView::Slid);
+  }
+  QWidget* FocusTarget() override { return slider_; }
+
+ protected:
+  void Show() override {
+    const QSignalBlocker quietSlider(slider_), quietValue(value_);
+    const int min = control_.Min, max = control_.Max;
+    slider_->setRange(min, max);
+    slider_->setPageStep(std::max(1, (max - min) / 10));
+    slider_->setValue(control_.Value);
+    value_->setRange(min, max);
+    value_->setValue(control_.Value);
+    const auto width = [&](int number) {
+      return fontMetrics().horizontalAdvance(QString::number(number));
+    };
+    value_->setFixedWidth(std::max({width(min), width(max), Px(28)}) + Px(28));
+  }
+
+ private:
+  void Slid(int value) {
+    Do(ui::Slide, value);
+    Show();
+  }
+
+  QSlider* slider_;
+  QSpinBox* value_;
 };
 
 }  // namespace
 
-SliderView::SliderView(ui::ScrollBar& bar, Stage& stage, QWidget* parent)
-    : QWidget(parent),
-      ControlView(bar, stage),
-      bar_(bar),
-      slider_(new CalmSlider(Qt::Horizontal, this)),
-      value_(new CalmSpinBox(this)) {
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(Px(12));
-  slider_->setMinimumWidth(Px(120));
-  value_->setButtonSymbols(QAbstractSpinBox::NoButtons);
-  value_->setAlignment(Qt::AlignRight);
-  row->addWidget(slider_, 1);
-  row->addWidget(value_);
-  setFocusProxy(slider_);
-  connect(slider_, &QSlider::valueChanged, this, &SliderView::Slid);
-  connect(value_, &QSpinBox::valueChanged, this, &SliderView::Slid);
+ControlView* NewView(ui::ComboBox& combo, Stage& stage, QWidget* parent) {
+  return new ComboView(combo, stage, parent);
 }
 
-void SliderView::Slid(int value) {
-  Do(ui::Slide, value);
-  Show();
+ControlView* NewView(ui::CheckBox& box, Stage& stage, QWidget* parent) {
+  return new TickView<QCheckBox, ui::CheckBox>(box, stage, parent);
 }
 
-void SliderView::Show() {
-  const QSignalBlocker quietSlider(slider_), quietValue(value_);
-  slider_->setRange(bar_.Min, bar_.Max);
-  slider_->setPageStep(std::max(1, (bar_.Max - bar_.Min) / 10));
-  slider_->setValue(bar_.Value);
-  value_->setRange(bar_.Min, bar_.Max);
-  value_->setValue(bar_.Value);
-  const auto width = [&](int number) {
-    return fontMetrics().horizontalAdvance(QString::number(number));
-  };
-  value_->setFixedWidth(std::max({width(bar_.Min), width(bar_.Max), Px(28)}) + Px(28));
+ControlView* NewView(ui::OptionButton& option, Stage& stage, QWidget* parent) {
+  return new TickView<QRadioButton, ui::OptionButton>(option, stage, parent);
+}
+
+ControlView* NewView(ui::ScrollBar& bar, Stage& stage, QWidget* parent) {
+  return new SliderView(bar, stage, parent);
 }
 
 }  // namespace grapplemont::desktop

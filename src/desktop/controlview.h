@@ -27,7 +27,7 @@ class Stage {
 /// What stands in the window for a control; its widget is one with it or owns it.
 class ControlView {
  public:
-  ControlView(ui::Control& control, Stage& stage) : control_(control), stage_(stage) {}
+  ControlView(ui::Control& control, Stage& stage) : shows_(control), stage_(stage) {}
   virtual ~ControlView() = default;
   ControlView(const ControlView&) = delete;
   ControlView& operator=(const ControlView&) = delete;
@@ -40,7 +40,7 @@ class ControlView {
   /// Where the keyboard goes when it goes to this control.
   virtual QWidget* FocusTarget() { return Widget(); }
 
-  ui::Control& Shows() const { return control_; }
+  ui::Control& Shows() const { return shows_; }
   /// A label that is shown and hidden together with the control.
   void SetCompanion(QWidget* label) { companion_ = label; }
 
@@ -50,7 +50,7 @@ class ControlView {
   /// Runs one of the acts that take a control's name.
   template <class... Value>
   void Do(std::string (*act)(ui::Desk&, ui::Screen&, std::string_view, Value...), Value... value) {
-    stage_.Act([&] { return act(stage_.Desk(), control_.Parent(), control_.Name(), value...); });
+    stage_.Act([&] { return act(stage_.Desk(), shows_.Parent(), shows_.Name(), value...); });
   }
   /// Opens what a link leads to.
   void Follow(const ui::Handler& open) {
@@ -61,10 +61,22 @@ class ControlView {
   }
 
  private:
-  ui::Control& control_;
+  ui::Control& shows_;
   Stage& stage_;
   unsigned seen_ = 0;
   QWidget* companion_ = nullptr;
+};
+
+/// A view of a control of class C that is its own widget, of class Q.
+template <class Q, class C>
+class ViewOf : public Q, public ControlView {
+ public:
+  ViewOf(C& control, Stage& stage, QWidget* parent)
+      : Q(parent), ControlView(control, stage), control_(control) {}
+  QWidget* Widget() override { return this; }
+
+ protected:
+  C& control_;
 };
 
 /// A view of any control. The widget is a child of `parent`, which owns the view.

@@ -1,18 +1,16 @@
 #include "desktop/finder.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
-#include <QVBoxLayout>
 
 #include "desktop/housestyle.h"
-#include "desktop/look.h"
+#include "desktop/pieces.h"
 
 namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kEntryRole = Qt::UserRole, kWhereRole = Qt::UserRole + 1, kKeyRole = Qt::UserRole + 2;
+constexpr int kAsideRole = Qt::UserRole;
 constexpr int kRow = 32;
 
 class EntryCells : public QStyledItemDelegate {
@@ -29,9 +27,7 @@ class EntryCells : public QStyledItemDelegate {
     painter->setPen(c.Text);
     painter->drawText(room, Qt::AlignVCenter, index.data().toString());
     painter->setPen(c.Muted);
-    const QString key = index.data(kKeyRole).toString();
-    painter->drawText(room, Qt::AlignVCenter | Qt::AlignRight,
-                      index.data(kWhereRole).toString() + (key.isEmpty() ? "" : "   " + key));
+    painter->drawText(room, Qt::AlignVCenter | Qt::AlignRight, index.data(kAsideRole).toString());
     painter->restore();
   }
   QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
@@ -58,18 +54,14 @@ int Fit(const QString& words, const QString& letters) {
 Finder::Finder(QWidget* ground, std::vector<Entry> entries)
     : Veil(ground), entries_(std::move(entries)) {
   // The veil filters events from the first child on: until then both are known to be none.
-  line_ = new QLineEdit(&Sheet());
+  line_ = NewLine(&Sheet(), "finderline");
   list_ = new QListWidget(&Sheet());
   setObjectName("finder");
   SetAtTop();
   SetWanted({560, 400});
-  auto* rows = new QVBoxLayout(&Sheet());
-  rows->setContentsMargins(Px(12), Px(12), Px(12), Px(12));
-  rows->setSpacing(Px(8));
+  auto* rows = NewLayout<QVBoxLayout>(&Sheet(), 8, {12, 12, 12, 12});
   rows->addWidget(line_);
   rows->addWidget(list_, 1);
-  line_->setObjectName("finderline");
-  line_->setTextMargins(Px(8), 0, Px(8), 0);
   line_->setPlaceholderText("Where to, or what to do?");
   line_->installEventFilter(this);
   list_->setObjectName("finderlist");
@@ -87,26 +79,21 @@ Finder::Finder(QWidget* ground, std::vector<Entry> entries)
 }
 
 void Finder::Filter(const QString& letters) {
-  std::vector<std::pair<int, int>> fits;  // how well, which
-  for (int i = 0; i < static_cast<int>(entries_.size()); ++i)
-    if (const int fit = Fit(entries_[static_cast<std::size_t>(i)].Words, letters.trimmed()))
-      fits.emplace_back(-fit, i);
-  std::stable_sort(fits.begin(), fits.end(),
-                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  found_.clear();
+  for (const Entry& entry : entries_)
+    if (const int fit = Fit(entry.Words, letters.trimmed())) found_.emplace_back(fit, &entry);
+  std::ranges::stable_sort(found_, [](const auto& a, const auto& b) { return a.first > b.first; });
   list_->clear();
-  for (const auto& [fit, i] : fits) {
-    const Entry& entry = entries_[static_cast<std::size_t>(i)];
-    auto* item = new QListWidgetItem(entry.Words, list_);
-    item->setData(kEntryRole, i);
-    item->setData(kWhereRole, entry.Where);
-    item->setData(kKeyRole, entry.Key);
+  for (const auto& [fit, entry] : found_) {
+    auto* item = new QListWidgetItem(entry->Words, list_);
+    item->setData(kAsideRole, entry->Where + (entry->Key.isEmpty() ? "" : "   " + entry->Key));
   }
   list_->setCurrentRow(0);
 }
 
 void Finder::Choose() {
-  const QListWidgetItem* item = list_->currentItem();
-  if (item) Finish(&entries_[static_cast<std::size_t>(item->data(kEntryRole).toInt())]);
+  const int row = list_->currentRow();
+  if (row >= 0) Finish(found_[static_cast<std::size_t>(row)].second);
 }
 
 void Finder::Finish(const Entry* chosen) {
@@ -117,30 +104,22 @@ void Finder::Finish(const Entry* chosen) {
   if (Done) Done(chosen);
 }
 
-void Finder::mousePressEvent(QMouseEvent*) {
-  Finish(nullptr);
-}
-
 bool Finder::eventFilter(QObject* watched, QEvent* event) {
   if (watched != line_ || event->type() != QEvent::KeyPress)
     return Veil::eventFilter(watched, event);
   const int key = static_cast<QKeyEvent*>(event)->key();
-  const int row = list_->currentRow(), last = list_->count() - 1;
-  switch (key) {
-    case Qt::Key_Escape:
-      Finish(nullptr);
-      return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      Choose();
-      return true;
-    case Qt::Key_Down:
-    case Qt::Key_Up:
-      list_->setCurrentRow(std::clamp(row + (key == Qt::Key_Down ? 1 : -1), 0, std::max(0, last)));
-      return true;
-    default:
-      return false;
+  const int step = key == Qt::Key_Down ? 1 : key == Qt::Key_Up ? -1 : 0;
+  if (key == Qt::Key_Escape) {
+    Finish(nullptr);
+  } else if (IsEnter(key)) {
+    Choose();
+  } else if (step != 0) {
+    const int last = std::max(0, list_->count() - 1);
+    list_->setCurrentRow(std::clamp(list_->currentRow() + step, 0, last));
+  } else {
+    return false;
   }
+  return true;
 }
 
 }  // namespace grapplemont::desktop

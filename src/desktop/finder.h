@@ -21,7 +21,7 @@ class Finder : public Veil {
   std::function<void(const Entry* chosen)> Done;
 
  protected:
-  void mousePressEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent*) override { Finish(nullptr); }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -30,6 +30,7 @@ class Finder : public Veil {
   void Finish(const Entry* chosen);
 
   std::vector<Entry> entries_;
+  std::vector<std::pair<int, const Entry*>> found_;  // how well each fits, in the list's order
   QLineEdit* line_ = nullptr;
   QListWidget* list_ = nullptr;
   bool done_ = false;

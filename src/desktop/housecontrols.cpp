@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QPainter>
-#include <QStyleOption>
 #include <algorithm>
 
 #include "desktop/housestyle.h"
@@ -14,18 +13,18 @@ namespace {
 
 void DrawCombo(const QStyleOptionComboBox& option, QPainter& painter) {
   const Colours& c = ColoursOf(option.palette);
-  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
-  const bool hover = enabled && option.state.testFlag(QStyle::State_MouseOver);
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const bool hover = enabled && Has(option, QStyle::State_MouseOver);
   DrawBox(painter, option.rect, hover ? c.Hover : enabled ? c.Field : c.Card, c.Edge, Px(6));
   DrawChevron(painter, QPointF(option.rect.right() - Px(15), option.rect.center().y() + 1), Px(8),
               enabled ? c.Muted : c.Faint);
-  if (enabled && option.state.testFlag(QStyle::State_HasFocus))
+  if (enabled && Has(option, QStyle::State_HasFocus))
     DrawFocus(painter, option.rect, Px(6), option.palette);
 }
 
 void DrawSlider(const QStyleOptionSlider& option, QPainter& painter, const QRect& handle) {
   const Colours& c = ColoursOf(option.palette);
-  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+  const bool enabled = Has(option, QStyle::State_Enabled);
   const QRectF full = option.rect;
   const double thick = Px(4);
   const QRectF groove(full.left(), full.center().y() - thick / 2, full.width(), thick);
@@ -36,7 +35,7 @@ void DrawSlider(const QStyleOptionSlider& option, QPainter& painter, const QRect
   const double size = Px(14);
   const QRectF knob(handle.center().x() - size / 2, full.center().y() - size / 2, size, size);
   DrawBox(painter, knob, enabled ? c.Soft : c.Faint, c.Card, size / 2);
-  if (option.state.testFlag(QStyle::State_HasFocus))
+  if (Has(option, QStyle::State_HasFocus))
     DrawFocus(painter, knob.adjusted(-2, -2, 2, 2), size / 2 + 2, option.palette);
 }
 
@@ -44,8 +43,7 @@ void DrawSlider(const QStyleOptionSlider& option, QPainter& painter, const QRect
 void DrawScrollBar(const QStyleOptionSlider& option, QPainter& painter, QRectF slider) {
   if (option.maximum <= option.minimum) return;
   const Colours& c = ColoursOf(option.palette);
-  const bool busy =
-      option.state.testFlag(QStyle::State_MouseOver) || option.state.testFlag(QStyle::State_Sunken);
+  const bool busy = Has(option, QStyle::State_MouseOver) || Has(option, QStyle::State_Sunken);
   const double inset = Px(busy ? 2 : 3);
   slider.adjust(inset, inset, -inset, -inset);
   const double radius = std::min(slider.width(), slider.height()) / 2;
@@ -54,15 +52,15 @@ void DrawScrollBar(const QStyleOptionSlider& option, QPainter& painter, QRectF s
 
 void DrawTab(const QStyleOptionTab& option, QPainter& painter) {
   const Colours& c = ColoursOf(option.palette);
-  const bool chosen = option.state.testFlag(QStyle::State_Selected);
-  const bool hover = option.state.testFlag(QStyle::State_MouseOver);
+  const bool chosen = Has(option, QStyle::State_Selected);
+  const bool hover = Has(option, QStyle::State_MouseOver);
   painter.setFont(TextFont(13, chosen ? QFont::DemiBold : QFont::Normal));
   painter.setPen(chosen ? c.Text : hover ? c.Soft : c.Muted);
   painter.drawText(option.rect, Qt::AlignCenter, option.text);
   QRect line = option.rect;
   line.setTop(line.bottom() - Px(2) + 1);
   if (chosen) painter.fillRect(line.adjusted(Px(8), 0, -Px(8), 0), c.GoldFill);
-  if (option.state.testFlag(QStyle::State_HasFocus))
+  if (Has(option, QStyle::State_HasFocus))
     DrawFocus(painter, option.rect.adjusted(2, 2, -2, -4), Px(4), option.palette);
 }
 
@@ -73,8 +71,8 @@ void DrawMenuItem(const QStyleOptionMenuItem& option, QPainter& painter) {
     painter.fillRect(rect.left() + Px(8), rect.center().y(), rect.width() - Px(16), 1, c.Edge);
     return;
   }
-  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
-  if (enabled && option.state.testFlag(QStyle::State_Selected))
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  if (enabled && Has(option, QStyle::State_Selected))
     DrawBox(painter, rect.adjusted(Px(2), 0, -Px(2), 0), c.Hover, QColor(), Px(4));
   if (option.checkType != QStyleOptionMenuItem::NotCheckable && option.checked) {
     QStyleOption tick;
@@ -111,7 +109,7 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption* option,
     case CE_ComboBoxLabel:
       if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
         const Colours& c = ColoursOf(option->palette);
-        painter->setPen(option->state.testFlag(State_Enabled) ? c.Text : c.Faint);
+        painter->setPen(Has(*option, State_Enabled) ? c.Text : c.Faint);
         const QRect text = option->rect.adjusted(Px(11), 0, -Px(26), 0);
         painter->drawText(
             text, Qt::AlignVCenter | Qt::AlignLeft,

@@ -1,8 +1,7 @@
 #include "desktop/housestyle.h"
 
 #include <QPainter>
-#include <QPainterPath>
-#include <QStyleOption>
+#include <algorithm>
 
 #include "desktop/look.h"
 
@@ -12,48 +11,67 @@ namespace {
 
 constexpr double kCorner = 6;
 
-bool Has(const QStyleOption* option, QStyle::StateFlag state) {
-  return option->state.testFlag(state);
-}
+/// Sizes in drawn pixels; all others are Qt's.
+struct Metric {
+  QStyle::PixelMetric Of;
+  int Drawn;
+};
+constexpr Metric kMetrics[] = {
+    {QStyle::PM_ScrollBarExtent, 12},
+    {QStyle::PM_ScrollBarSliderMin, 28},
+    {QStyle::PM_IndicatorWidth, 16},
+    {QStyle::PM_IndicatorHeight, 16},
+    {QStyle::PM_ExclusiveIndicatorWidth, 16},
+    {QStyle::PM_ExclusiveIndicatorHeight, 16},
+    {QStyle::PM_CheckBoxLabelSpacing, 8},
+    {QStyle::PM_RadioButtonLabelSpacing, 8},
+    {QStyle::PM_SliderThickness, 18},
+    {QStyle::PM_SliderControlThickness, 18},
+    {QStyle::PM_SliderLength, 16},
+    {QStyle::PM_MenuPanelWidth, 4},
+    {QStyle::PM_MenuVMargin, 4},
+    {QStyle::PM_TabBarTabHSpace, 28},
+    {QStyle::PM_TabBarTabVSpace, 16},
+    {QStyle::PM_TabBarTabShiftVertical, 0},
+    {QStyle::PM_TabBarTabShiftHorizontal, 0},
+    {QStyle::PM_TabBarBaseOverlap, 0},
+    {QStyle::PM_ButtonShiftHorizontal, 0},
+    {QStyle::PM_ButtonShiftVertical, 0},
+};
 
-void DrawField(const QStyleOption* option, QPainter* painter) {
-  const Colours& c = ColoursOf(option->palette);
-  const bool focus = Has(option, QStyle::State_HasFocus) && Has(option, QStyle::State_Enabled);
-  DrawBox(*painter, option->rect, Has(option, QStyle::State_Enabled) ? c.Field : c.Card, c.Edge,
-          Px(kCorner));
-  if (focus) DrawFocus(*painter, option->rect, Px(kCorner), option->palette);
-}
-
-void DrawTick(const QStyleOption* option, QPainter* painter) {
-  const Colours& c = ColoursOf(option->palette);
-  const QRectF box = QRectF(option->rect);
-  const bool on = Has(option, QStyle::State_On);
+void DrawField(const QStyleOption& option, QPainter& painter) {
+  const Colours& c = ColoursOf(option.palette);
   const bool enabled = Has(option, QStyle::State_Enabled);
-  DrawBox(*painter, box, on ? (enabled ? c.GoldFill : c.DimGold) : c.Field, on ? QColor() : c.Edge,
-          Px(4));
-  if (!on) return;
+  DrawBox(painter, option.rect, enabled ? c.Field : c.Card, c.Edge, Px(kCorner));
+  if (enabled && Has(option, QStyle::State_HasFocus))
+    DrawFocus(painter, option.rect, Px(kCorner), option.palette);
+}
+
+/// The box of a tick or a dot; false when nothing is to stand in it.
+bool DrawMarkBox(const QStyleOption& option, QPainter& painter, double radius) {
+  const Colours& c = ColoursOf(option.palette);
+  const bool on = Has(option, QStyle::State_On);
+  const QColor gold = Has(option, QStyle::State_Enabled) ? c.GoldFill : c.DimGold;
+  DrawBox(painter, option.rect, on ? gold : c.Field, on ? QColor() : c.Edge, radius);
+  return on;
+}
+
+void DrawTick(const QStyleOption& option, QPainter& painter) {
+  if (!DrawMarkBox(option, painter, Px(4))) return;
+  const QRectF box = option.rect;
   QPainterPath tick;
   tick.moveTo(box.left() + box.width() * 0.26, box.top() + box.height() * 0.52);
   tick.lineTo(box.left() + box.width() * 0.44, box.top() + box.height() * 0.70);
   tick.lineTo(box.left() + box.width() * 0.75, box.top() + box.height() * 0.32);
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setPen(QPen(c.OnGold, box.width() / 8.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter->drawPath(tick);
-  painter->restore();
+  DrawStroke(painter, tick, ColoursOf(option.palette).OnGold, box.width() / 8.0);
 }
 
-void DrawDot(const QStyleOption* option, QPainter* painter) {
-  const Colours& c = ColoursOf(option->palette);
-  const QRectF box = QRectF(option->rect);
-  const bool on = Has(option, QStyle::State_On);
-  const bool enabled = Has(option, QStyle::State_Enabled);
-  const QColor gold = enabled ? c.GoldFill : c.DimGold;
-  DrawBox(*painter, box, on ? gold : c.Field, on ? QColor() : c.Edge, box.width() / 2);
+void DrawDot(const QStyleOption& option, QPainter& painter) {
+  const QRectF box = option.rect;
+  if (!DrawMarkBox(option, painter, box.width() / 2)) return;
   const qreal inset = box.width() * 0.32;
-  if (on)
-    DrawBox(*painter, box.adjusted(inset, inset, -inset, -inset), c.OnGold, QColor(),
-            box.width() / 2);
+  DrawBox(painter, box.adjusted(inset, inset, -inset, -inset), ColoursOf(option.palette).OnGold,
+          QColor(), box.width() / 2);
 }
 
 }  // namespace
@@ -78,55 +96,32 @@ void DrawFocus(QPainter& painter, const QRectF& where, double radius, const QPal
   painter.restore();
 }
 
-void DrawChevron(QPainter& painter, const QPointF& centre, double width, const QColor& colour) {
+void DrawStroke(QPainter& painter, const QPainterPath& path, const QColor& colour, double width) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(colour, width / 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  const double half = width / 2, drop = width / 4;
-  painter.drawPolyline(QPolygonF{{centre.x() - half, centre.y() - drop},
-                                 {centre.x(), centre.y() + drop},
-                                 {centre.x() + half, centre.y() - drop}});
+  painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawPath(path);
   painter.restore();
+}
+
+void DrawChevron(QPainter& painter, const QPointF& centre, double width, const QColor& colour) {
+  const double half = width / 2, drop = width / 4;
+  QPainterPath path;
+  path.moveTo(centre.x() - half, centre.y() - drop);
+  path.lineTo(centre.x(), centre.y() + drop);
+  path.lineTo(centre.x() + half, centre.y() - drop);
+  DrawStroke(painter, path, colour, width / 6);
 }
 
 HouseStyle::HouseStyle() : QProxyStyle("Fusion") {}
 
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                             const QWidget* widget) const {
-  switch (metric) {
-    case PM_ScrollBarExtent:
-      return Px(12);
-    case PM_ScrollBarSliderMin:
-      return Px(28);
-    case PM_IndicatorWidth:
-    case PM_IndicatorHeight:
-    case PM_ExclusiveIndicatorWidth:
-    case PM_ExclusiveIndicatorHeight:
-      return Px(16);
-    case PM_CheckBoxLabelSpacing:
-    case PM_RadioButtonLabelSpacing:
-      return Px(8);
-    case PM_SliderThickness:
-    case PM_SliderControlThickness:
-      return Px(18);
-    case PM_SliderLength:
-      return Px(16);
-    case PM_MenuPanelWidth:
-    case PM_MenuVMargin:
-      return Px(4);
-    case PM_TabBarTabHSpace:
-      return Px(28);
-    case PM_TabBarTabVSpace:
-      return Px(16);
-    case PM_TabBarTabShiftVertical:
-    case PM_TabBarTabShiftHorizontal:
-    case PM_TabBarBaseOverlap:
-    case PM_ButtonShiftHorizontal:
-    case PM_ButtonShiftVertical:
-      return 0;
-    default:
-      return QProxyStyle::pixelMetric(metric, option, widget);
-  }
+  const auto drawn =
+      std::ranges::find_if(kMetrics, [&](const Metric& row) { return row.Of == metric; });
+  return drawn == std::end(kMetrics) ? QProxyStyle::pixelMetric(metric, option, widget)
+                                     : Px(drawn->Drawn);
 }
 
 int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -175,18 +170,17 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     case PE_PanelLineEdit:
       if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
           frame && frame->lineWidth > 0)
-        DrawField(option, painter);
+        DrawField(*option, *painter);
       return;
     case PE_Frame:
     case PE_FrameLineEdit:
       DrawBox(*painter, option->rect, c.Field, c.Edge, Px(kCorner));
-      if (Has(option, State_HasFocus))
-        DrawFocus(*painter, option->rect, Px(kCorner), option->palette);
-      return;
+      if (!Has(*option, State_HasFocus)) return;
+      return DrawFocus(*painter, option->rect, Px(kCorner), option->palette);
     case PE_IndicatorCheckBox:
-      return DrawTick(option, painter);
+      return DrawTick(*option, *painter);
     case PE_IndicatorRadioButton:
-      return DrawDot(option, painter);
+      return DrawDot(*option, *painter);
     case PE_FrameFocusRect:
       return DrawFocus(*painter, option->rect, Px(4), option->palette);
     case PE_PanelMenu:
@@ -202,7 +196,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
       return;
     case PE_PanelItemViewRow:
     case PE_PanelItemViewItem:
-      if (Has(option, State_Selected) || Has(option, State_MouseOver))
+      if (Has(*option, State_Selected) || Has(*option, State_MouseOver))
         painter->fillRect(option->rect, c.Chosen);
       return;
     default:

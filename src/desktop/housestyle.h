@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QPainterPath>
 #include <QProxyStyle>
+#include <QStyleOption>
 
 namespace grapplemont::desktop {
 
@@ -31,7 +33,13 @@ void DrawBox(QPainter& painter, const QRectF& where, const QColor& fill, const Q
              double radius);
 /// The line around what has the keyboard.
 void DrawFocus(QPainter& painter, const QRectF& where, double radius, const QPalette& palette);
+/// A line along the path, its ends round.
+void DrawStroke(QPainter& painter, const QPainterPath& path, const QColor& colour, double width);
 /// A small arrow head, its tip down.
 void DrawChevron(QPainter& painter, const QPointF& centre, double width, const QColor& colour);
+
+inline bool Has(const QStyleOption& option, QStyle::StateFlag state) {
+  return option.state.testFlag(state);
+}
 
 }  // namespace grapplemont::desktop

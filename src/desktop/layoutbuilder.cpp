@@ -1,16 +1,15 @@
 #include "desktop/layoutbuilder.h"
 
 #include <QGridLayout>
-#include <QLabel>
+#include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <algorithm>
 
 #include "desktop/button.h"
 #include "desktop/card.h"
-#include "desktop/look.h"
+#include "desktop/pieces.h"
 #include "desktop/tableview.h"
-#include "desktop/textviews.h"
 
 namespace grapplemont::desktop {
 
@@ -26,12 +25,23 @@ bool IsButton(const Box& box) {
   return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
 }
 
+/// A button that takes no more room than it needs.
+bool IsCalmButton(const Box& box) {
+  return IsButton(box) && box.Stretch == 0;
+}
+
+/// Lets a button with a share take it.
+void Widen(QWidget& widget, const Box& box) {
+  if (IsButton(box) && box.Stretch > 0)
+    widget.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
 /// A row of controls alone, such as one of several alike below each other.
 bool IsPlainRow(const Box& box) {
   return box.Is == Kind::Columns && box.Parts.size() > 1 &&
-         std::all_of(box.Parts.begin(), box.Parts.end(),
-                     [](const Box& part) { return part.Is == Kind::Item && !Grows(part); }) &&
-         !std::all_of(box.Parts.begin(), box.Parts.end(), IsButton);
+         std::ranges::all_of(
+             box.Parts, [](const Box& part) { return part.Is == Kind::Item && !Grows(part); }) &&
+         !std::ranges::all_of(box.Parts, IsButton);
 }
 
 /// A column among others. A calm one does not ask for more because of the stretch at its end; one
@@ -51,6 +61,13 @@ class Column : public QVBoxLayout {
   bool calm_;
 };
 
+QGridLayout* NewGrid(int gap) {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(Px(gap));
+  grid->setVerticalSpacing(Px(kClose));
+  return grid;
+}
+
 bool GrowsByItself(const ui::Control& control) {
   switch (control.Is()) {
     case ui::Kind::ListBox:
@@ -65,6 +82,11 @@ bool GrowsByItself(const ui::Control& control) {
   }
 }
 
+/// The share of the room left over that a box takes.
+int ShareOf(const Box& box) {
+  return std::max(box.Stretch, Grows(box) ? 1 : 0);
+}
+
 }  // namespace
 
 bool Grows(const Box& box) {
@@ -77,7 +99,7 @@ bool Grows(const Box& box) {
     case Kind::Tabs:
       return true;
     default:
-      return std::any_of(box.Parts.begin(), box.Parts.end(), Grows);
+      return std::ranges::any_of(box.Parts, Grows);
   }
 }
 
@@ -86,8 +108,15 @@ void CollectControls(const Box& box, std::vector<ui::Control*>& controls) {
   for (const Box& part : box.Parts) CollectControls(part, controls);
 }
 
-LayoutBuilder::LayoutBuilder(Stage& stage, QWidget* holder, bool cover)
-    : stage_(stage), holder_(holder), cover_(cover) {}
+TableView* OnlyTable(const std::vector<ControlView*>& views) {
+  TableView* only = nullptr;
+  for (ControlView* view : views)
+    if (auto* table = dynamic_cast<TableView*>(view)) {
+      if (only) return nullptr;
+      only = table;
+    }
+  return only;
+}
 
 ControlView* LayoutBuilder::View(ui::Control& control) {
   ControlView* view = MakeView(control, stage_, holder_);
@@ -104,7 +133,7 @@ void LayoutBuilder::Build(const Box& root, QVBoxLayout* into) {
 /// Boxes one below the other. Room that nobody wants stays at the end.
 void LayoutBuilder::AddAll(const std::vector<Box>& boxes, QBoxLayout* into) {
   for (std::size_t at = 0; at < boxes.size();) at = AddRun(boxes, at, into);
-  const bool filled = std::any_of(boxes.begin(), boxes.end(), [](const Box& box) {
+  const bool filled = std::ranges::any_of(boxes, [](const Box& box) {
     return box.Is == Kind::Spacer || box.Stretch > 0 || Grows(box);
   });
   if (!filled) into->addStretch(1);
@@ -113,27 +142,26 @@ void LayoutBuilder::AddAll(const std::vector<Box>& boxes, QBoxLayout* into) {
 /// Adds the box at `from`, or those alike that follow it as one; gives the first after them.
 std::size_t LayoutBuilder::AddRun(const std::vector<Box>& boxes, std::size_t from,
                                   QBoxLayout* into) {
-  const auto run = [&](auto fits) {
-    Run alike;
-    for (std::size_t i = from; i < boxes.size() && fits(boxes[i]); ++i) alike.push_back(&boxes[i]);
-    return alike;
+  struct Alike {
+    bool (*Fits)(const Box& box, const Box& first);
+    std::size_t Least;
+    void (LayoutBuilder::*Add)(const Run& run, QBoxLayout* into);
   };
-  if (const Run fields = run([](const Box& box) { return box.Is == Kind::Field; });
-      !fields.empty()) {
-    AddForm(fields, into);
-    return from + fields.size();
-  }
-  if (const Run buttons = run([](const Box& box) { return IsButton(box) && box.Stretch == 0; });
-      !buttons.empty()) {
-    AddButtons(buttons, into);
-    return from + buttons.size();
-  }
-  const std::size_t parts = boxes[from].Parts.size();
-  if (const Run rows =
-          run([&](const Box& box) { return IsPlainRow(box) && box.Parts.size() == parts; });
-      rows.size() > 1) {
-    AddGrid(rows, into);
-    return from + rows.size();
+  static constexpr Alike kAlike[] = {
+      {[](const Box& box, const Box&) { return box.Is == Kind::Field; }, 1,
+       &LayoutBuilder::AddForm},
+      {[](const Box& box, const Box&) { return IsCalmButton(box); }, 1, &LayoutBuilder::AddButtons},
+      {[](const Box& box, const Box& first) {
+         return IsPlainRow(box) && box.Parts.size() == first.Parts.size();
+       },
+       2, &LayoutBuilder::AddGrid}};
+  for (const auto& [fits, least, add] : kAlike) {
+    Run run;
+    for (std::size_t i = from; i < boxes.size() && fits(boxes[i], boxes[from]); ++i)
+      run.push_back(&boxes[i]);
+    if (run.size() < least) continue;
+    (this->*add)(run, into);
+    return from + run.size();
   }
   Add(boxes[from], into);
   return from + 1;
@@ -169,8 +197,7 @@ void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
   const bool across = into->direction() == QBoxLayout::LeftToRight;
   int stretch = box.Stretch;
   if (!across && stretch == 0 && Grows(box)) stretch = 1;
-  if (IsButton(box) && stretch > 0)
-    widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  Widen(*widget, box);
   const bool fills = Grows(box) || (stretch > 0 && !IsButton(box));
   const Qt::Alignment place = across && !fills ? Qt::AlignVCenter : Qt::Alignment();
   into->addWidget(widget, stretch, place);
@@ -178,28 +205,23 @@ void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
 
 void LayoutBuilder::AddRowButtons(const Box& box, TableView& table) {
   std::vector<ButtonView*> buttons;
-  QWidget* const outer = holder_;
-  holder_ = table.RowHolder();
+  const QScopedValueRollback<QWidget*> within(holder_, table.RowHolder());
   for (const Box& part : box.Parts) buttons.push_back(dynamic_cast<ButtonView*>(View(*part.Shown)));
-  holder_ = outer;
   table.SetRowButtons(std::move(buttons));
 }
 
 void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
-  if (std::all_of(box.Parts.begin(), box.Parts.end(),
-                  [](const Box& part) { return IsButton(part) && part.Stretch == 0; })) {
+  if (std::ranges::all_of(box.Parts, IsCalmButton)) {
     Run buttons;
     for (const Box& part : box.Parts) buttons.push_back(&part);
     return AddButtons(buttons, into);
   }
-  auto* columns = new QHBoxLayout;
-  const bool cards = std::any_of(box.Parts.begin(), box.Parts.end(), [](const Box& part) {
-    return part.Is == Kind::Group || part.Is == Kind::Rows;
-  });
-  const bool fields = std::any_of(box.Parts.begin(), box.Parts.end(),
-                                  [](const Box& part) { return part.Is == Kind::Field; });
-  columns->setSpacing(Px(fields || (cards && !inCard_) ? kWide : kClose));
-  into->addLayout(columns, std::max(box.Stretch, Grows(box) ? 1 : 0));
+  const bool cards = std::ranges::any_of(
+      box.Parts, [](const Box& part) { return part.Is == Kind::Group || part.Is == Kind::Rows; });
+  const bool fields =
+      std::ranges::any_of(box.Parts, [](const Box& part) { return part.Is == Kind::Field; });
+  auto* columns = NewLayout<QHBoxLayout>(nullptr, fields || (cards && !inCard_) ? kWide : kClose);
+  into->addLayout(columns, ShareOf(box));
   bool filled = cards;
   for (const Box& part : box.Parts) {
     filled = filled || part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
@@ -209,28 +231,18 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
 }
 
 void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
+  const QFont bold = TextFont(13, QFont::DemiBold);
   if (inCard_) {  // a card on a card is a heading with what belongs to it
-    auto* part = new QVBoxLayout;
-    part->setSpacing(Px(kClose));
-    if (!box.Title.empty()) {
-      auto* title = new WrappedLabel(holder_, Shown(box.Title));
-      title->setFont(TextFont(13, QFont::DemiBold));
-      part->addWidget(title);
-    }
-    into->addLayout(part, std::max(box.Stretch, Grows(box) ? 1 : 0));
+    auto* part = NewLayout<QVBoxLayout>(nullptr, kClose);
+    if (!box.Title.empty()) part->addWidget(new WrappedLabel(holder_, Shown(box.Title), bold));
+    into->addLayout(part, ShareOf(box));
     return AddAll(box.Parts, part);
   }
   auto* card = new Card(holder_);
-  auto* inside = new QVBoxLayout(card);
-  inside->setContentsMargins(Px(kCardSide), Px(kCardSide), Px(kCardSide), Px(kCardSide));
-  inside->setSpacing(Px(kClose));
+  auto* inside = NewLayout<QVBoxLayout>(card, kClose, {kCardSide, kCardSide, kCardSide, kCardSide});
   auto* head = new QHBoxLayout;
   inside->addLayout(head);
-  if (!box.Title.empty()) {
-    auto* title = new WrappedLabel(card, Shown(box.Title));
-    title->setFont(TextFont(13, QFont::DemiBold));
-    head->addWidget(title, 1);
-  }
+  if (!box.Title.empty()) head->addWidget(new WrappedLabel(card, Shown(box.Title), bold), 1);
   QWidget* const outer = holder_;
   holder_ = card;
   inCard_ = true;
@@ -238,27 +250,17 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   AddAll(box.Parts, inside);
   inCard_ = false;
   holder_ = outer;
-  if (!box.Title.empty()) PlaceSearch(before, head);
-  cards_.push_back({card, {views_.begin() + static_cast<std::ptrdiff_t>(before), views_.end()}});
-  into->addWidget(card, std::max(box.Stretch, Grows(box) ? 1 : 0));
-}
-
-/// The only table of a card has its search line beside the card's title.
-void LayoutBuilder::PlaceSearch(std::size_t from, QBoxLayout* head) {
-  TableView* only = nullptr;
-  for (std::size_t i = from; i < views_.size(); ++i)
-    if (auto* table = dynamic_cast<TableView*>(views_[i])) {
-      if (only) return;
-      only = table;
-    }
-  if (only) head->addWidget(only->TakeSearchRow(), 4);
+  const std::vector<ControlView*> views(views_.begin() + static_cast<std::ptrdiff_t>(before),
+                                        views_.end());
+  TableView* table = OnlyTable(views);
+  if (table && !box.Title.empty()) head->addWidget(table->TakeSearchRow(), 4);
+  cards_.push_back({card, views});
+  into->addWidget(card, ShareOf(box));
 }
 
 void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   auto* holder = new QWidget(holder_);
-  auto* rows = new QVBoxLayout(holder);
-  rows->setContentsMargins(0, 0, 0, 0);
-  rows->setSpacing(Px(kWide));
+  auto* rows = NewLayout<QVBoxLayout>(holder, kWide);
   auto* bar = new QTabBar(holder);
   bar->setDrawBase(false);
   bar->setExpanding(false);
@@ -266,11 +268,10 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   auto* pages = new QStackedWidget(holder);
   rows->addWidget(bar, 0, Qt::AlignLeft);
   rows->addWidget(pages, 1);
-  QWidget* const outer = holder_;
+  const QScopedValueRollback<QWidget*> within(holder_);
   for (const Box& part : box.Parts) {
     auto* page = new QWidget(pages);
-    auto* inside = new QVBoxLayout(page);
-    inside->setContentsMargins(0, 0, 0, 0);
+    auto* inside = NewLayout<QVBoxLayout>(page, -1);
     holder_ = page;
     Box untitled = part;
     untitled.Title.clear();
@@ -278,40 +279,33 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
     pages->addWidget(page);
     bar->addTab(Shown(part.Title));
   }
-  holder_ = outer;
   QObject::connect(bar, &QTabBar::currentChanged, pages, &QStackedWidget::setCurrentIndex);
   into->addWidget(holder, std::max(1, box.Stretch));
-}
-
-QWidget* LayoutBuilder::FieldLabel(const Box& field, ControlView& view) {
-  auto* label = new WrappedLabel(holder_, Shown(field.Title));
-  SetInk(*label, ColoursOf(holder_).Muted);
-  view.SetCompanion(label);
-  label->setBuddy(view.FocusTarget());
-  return label;
 }
 
 /// Labels in one column, what they name in the next. In a row of fields each label stands close to
 /// its own.
 void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
-  auto* form = new QGridLayout;
   const bool across = into->direction() == QBoxLayout::LeftToRight;
-  form->setHorizontalSpacing(Px(across ? kClose : kWide));
-  form->setVerticalSpacing(Px(kClose));
+  QGridLayout* form = NewGrid(across ? kClose : kWide);
   form->setColumnStretch(1, 1);
   int row = 0;
   bool grows = false;
   for (const Box* field : fields) {
     ControlView* view = View(*field->Shown);
+    auto* label = new WrappedLabel(holder_, Shown(field->Title));
+    SetInk(*label, ColoursOf(holder_).Muted);
+    view->SetCompanion(label);
+    label->setBuddy(view->FocusTarget());
     const bool tall = Grows(*field);
     grows = grows || tall;
-    form->addWidget(FieldLabel(*field, *view), row, 0,
+    form->addWidget(label, row, 0,
                     tall ? Qt::AlignTop | Qt::AlignLeft : Qt::AlignVCenter | Qt::AlignLeft);
     form->addWidget(view->Widget(), row, 1, tall ? Qt::Alignment() : Qt::AlignVCenter);
     form->setRowStretch(row, tall ? 1 : 0);
     ++row;
   }
-  into->addLayout(form, grows || into->direction() == QBoxLayout::LeftToRight ? 1 : 0);
+  into->addLayout(form, grows || across ? 1 : 0);
 }
 
 void LayoutBuilder::AddButtons(const Run& buttons, QBoxLayout* into) {
@@ -326,16 +320,13 @@ void LayoutBuilder::AddButtons(const Run& buttons, QBoxLayout* into) {
 
 /// Rows alike share their columns' widths.
 void LayoutBuilder::AddGrid(const Run& rows, QBoxLayout* into) {
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(Px(14));
-  grid->setVerticalSpacing(Px(kClose));
+  QGridLayout* grid = NewGrid(kWide);
   int row = 0, most = 0;
   for (const Box* line : rows) {
     int column = 0;
     for (const Box& part : line->Parts) {
       ControlView* view = View(*part.Shown);
-      if (IsButton(part) && part.Stretch > 0)
-        view->Widget()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+      Widen(*view->Widget(), part);
       grid->addWidget(view->Widget(), row, column, Qt::AlignVCenter);
       grid->setColumnStretch(column, part.Stretch);
       most = std::max(most, part.Stretch);

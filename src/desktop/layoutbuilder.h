@@ -15,7 +15,8 @@ class TableView;
 class LayoutBuilder {
  public:
   /// On a cover, buttons are large and stand in the middle.
-  LayoutBuilder(Stage& stage, QWidget* holder, bool cover);
+  LayoutBuilder(Stage& stage, QWidget* holder, bool cover)
+      : stage_(stage), holder_(holder), cover_(cover) {}
 
   /// Puts a box into a column, where it fills what room there is.
   void Build(const ui::Box& root, QVBoxLayout* into);
@@ -39,12 +40,10 @@ class LayoutBuilder {
   void AddRowButtons(const ui::Box& box, TableView& table);
   void AddColumns(const ui::Box& box, QBoxLayout* into);
   void AddGroup(const ui::Box& box, QBoxLayout* into);
-  void PlaceSearch(std::size_t from, QBoxLayout* head);
   void AddTabs(const ui::Box& box, QBoxLayout* into);
   void AddForm(const Run& fields, QBoxLayout* into);
   void AddButtons(const Run& buttons, QBoxLayout* into);
   void AddGrid(const Run& rows, QBoxLayout* into);
-  QWidget* FieldLabel(const ui::Box& field, ControlView& view);
 
   Stage& stage_;
   QWidget* holder_;
@@ -56,6 +55,8 @@ class LayoutBuilder {
 
 /// Whether a box makes use of more room than it needs, upright.
 bool Grows(const ui::Box& box);
+/// The table among the views; nullptr for none and for several.
+TableView* OnlyTable(const std::vector<ControlView*>& views);
 /// The controls of a box in order.
 void CollectControls(const ui::Box& box, std::vector<ui::Control*>& controls);
 

@@ -14,97 +14,66 @@ namespace grapplemont::desktop {
 
 namespace {
 
-QColor Hex(QRgb rgb) {
-  return QColor::fromRgb(rgb);
-}
+/// What a colour is in either set.
+struct Pair {
+  QColor Colours::*Which;
+  QRgb Dark, Light;
+};
+constexpr Pair kPairs[] = {
+    {&Colours::Ground, 0x14161A, 0xF3F4F6},    {&Colours::Side, 0x0E1013, 0xE9EBEF},
+    {&Colours::Bar, 0x16191E, 0xF8F9FA},       {&Colours::Card, 0x191C22, 0xFFFFFF},
+    {&Colours::Line, 0x262A31, 0xD9DCE2},      {&Colours::RowLine, 0x22262D, 0xE6E8EC},
+    {&Colours::Edge, 0x343A44, 0xC3C8D1},      {&Colours::Button, 0x23272F, 0xF1F2F5},
+    {&Colours::Field, 0x1D2128, 0xFAFBFC},     {&Colours::Hover, 0x2B303A, 0xE4E7EC},
+    {&Colours::Chosen, 0x232A36, 0xE3EBF8},    {&Colours::Now, 0x1D2128, 0xFAFBFC},
+    {&Colours::Track, 0x2A2F38, 0xE0E3E8},     {&Colours::Text, 0xE8E6E1, 0x1B1D22},
+    {&Colours::Soft, 0xC9CCD1, 0x33373F},      {&Colours::Muted, 0x8D939D, 0x5A616C},
+    {&Colours::Faint, 0x5E646E, 0x9AA0AA},     {&Colours::Gold, 0xF2C14E, 0x7D5700},
+    {&Colours::Blue, 0x6AA6FF, 0x1B5CB8},      {&Colours::Green, 0x5CB97B, 0x23713F},
+    {&Colours::Amber, 0xE08A3C, 0x9A4C0B},     {&Colours::Red, 0xE8766F, 0xB3261E},
+    {&Colours::GoldFill, 0xF2C14E, 0xF2C14E},  {&Colours::OnGold, 0x1B1508, 0x1B1508},
+    {&Colours::DimGold, 0x7A6430, 0xF3E2B4},   {&Colours::BlueFill, 0x3A5F96, 0x7FA6DE},
+    {&Colours::GreenFill, 0x5CB97B, 0x3FA162}, {&Colours::AmberFill, 0xE08A3C, 0xE08A3C},
+    {&Colours::RedFill, 0xC8413B, 0xC8413B},   {&Colours::YellowFill, 0xF2C14E, 0xE5B23A},
+    {&Colours::BlueEdge, 0x4D86D6, 0x4D86D6},  {&Colours::RedEdge, 0xC8413B, 0xC8413B},
+};
 
-Colours MakeDark() {
+Colours MakeColours(bool dark) {
   Colours c{};
-  c.Dark = true;
-  c.Ground = Hex(0x14161A);
-  c.Side = Hex(0x0E1013);
-  c.Bar = Hex(0x16191E);
-  c.Card = Hex(0x191C22);
-  c.Line = Hex(0x262A31);
-  c.RowLine = Hex(0x22262D);
-  c.Edge = Hex(0x343A44);
-  c.Button = Hex(0x23272F);
-  c.Field = Hex(0x1D2128);
-  c.Hover = Hex(0x2B303A);
-  c.Chosen = Hex(0x232A36);
-  c.Now = Hex(0x1D2128);
-  c.Track = Hex(0x2A2F38);
-  c.Text = Hex(0xE8E6E1);
-  c.Soft = Hex(0xC9CCD1);
-  c.Muted = Hex(0x8D939D);
-  c.Faint = Hex(0x5E646E);
-  c.Gold = Hex(0xF2C14E);
-  c.Blue = Hex(0x6AA6FF);
-  c.Green = Hex(0x5CB97B);
-  c.Amber = Hex(0xE08A3C);
-  c.Red = Hex(0xE8766F);
-  c.GoldFill = Hex(0xF2C14E);
-  c.OnGold = Hex(0x1B1508);
-  c.DimGold = Hex(0x7A6430);
-  c.BlueFill = Hex(0x3A5F96);
-  c.GreenFill = Hex(0x5CB97B);
-  c.AmberFill = Hex(0xE08A3C);
-  c.RedFill = Hex(0xC8413B);
-  c.YellowFill = Hex(0xF2C14E);
-  c.BlueEdge = Hex(0x4D86D6);
-  c.RedEdge = Hex(0xC8413B);
-  c.Shade = QColor(6, 7, 9, 170);
+  c.Dark = dark;
+  for (const Pair& pair : kPairs) c.*pair.Which = QColor::fromRgb(dark ? pair.Dark : pair.Light);
+  c.Shade = dark ? QColor(6, 7, 9, 170) : QColor(27, 29, 34, 120);
   return c;
 }
 
-Colours MakeLight() {
-  Colours c{};
-  c.Dark = false;
-  c.Ground = Hex(0xF3F4F6);
-  c.Side = Hex(0xE9EBEF);
-  c.Bar = Hex(0xF8F9FA);
-  c.Card = Hex(0xFFFFFF);
-  c.Line = Hex(0xD9DCE2);
-  c.RowLine = Hex(0xE6E8EC);
-  c.Edge = Hex(0xC3C8D1);
-  c.Button = Hex(0xF1F2F5);
-  c.Field = Hex(0xFAFBFC);
-  c.Hover = Hex(0xE4E7EC);
-  c.Chosen = Hex(0xE3EBF8);
-  c.Now = Hex(0xFAFBFC);
-  c.Track = Hex(0xE0E3E8);
-  c.Text = Hex(0x1B1D22);
-  c.Soft = Hex(0x33373F);
-  c.Muted = Hex(0x5A616C);
-  c.Faint = Hex(0x9AA0AA);
-  c.Gold = Hex(0x7D5700);
-  c.Blue = Hex(0x1B5CB8);
-  c.Green = Hex(0x23713F);
-  c.Amber = Hex(0x9A4C0B);
-  c.Red = Hex(0xB3261E);
-  c.GoldFill = Hex(0xF2C14E);
-  c.OnGold = Hex(0x1B1508);
-  c.DimGold = Hex(0xF3E2B4);
-  c.BlueFill = Hex(0x7FA6DE);
-  c.GreenFill = Hex(0x3FA162);
-  c.AmberFill = Hex(0xE08A3C);
-  c.RedFill = Hex(0xC8413B);
-  c.YellowFill = Hex(0xE5B23A);
-  c.BlueEdge = Hex(0x4D86D6);
-  c.RedEdge = Hex(0xC8413B);
-  c.Shade = QColor(27, 29, 34, 120);
-  return c;
+/// What a tone is as a text, as the frame of a tag and as a chart's bar.
+struct ToneColours {
+  QColor Colours::*Text, Colours::*Edge, Colours::*Fill;
+};
+/// In the order of Tone.
+constexpr ToneColours kTones[] = {
+    {&Colours::Text, &Colours::Edge, &Colours::Muted},
+    {&Colours::Muted, &Colours::Edge, &Colours::Muted},
+    {&Colours::Gold, &Colours::Gold, &Colours::GoldFill},
+    {&Colours::Blue, &Colours::BlueEdge, &Colours::BlueFill},
+    {&Colours::Red, &Colours::RedEdge, &Colours::RedFill},
+    {&Colours::Green, &Colours::Green, &Colours::GreenFill},
+    {&Colours::Amber, &Colours::Amber, &Colours::AmberFill},
+};
+
+const ToneColours& Of(ui::Tone tone) {
+  return kTones[static_cast<std::size_t>(tone)];
 }
 
 }  // namespace
 
 const Colours& DarkColours() {
-  static const Colours kColours = MakeDark();
+  static const Colours kColours = MakeColours(true);
   return kColours;
 }
 
 const Colours& LightColours() {
-  static const Colours kColours = MakeLight();
+  static const Colours kColours = MakeColours(false);
   return kColours;
 }
 
@@ -142,49 +111,15 @@ QPalette PaletteOf(const Colours& c) {
 }
 
 QColor TextColour(const Colours& colours, ui::Tone tone) {
-  switch (tone) {
-    case ui::Tone::Muted:
-      return colours.Muted;
-    case ui::Tone::Gold:
-      return colours.Gold;
-    case ui::Tone::Blue:
-      return colours.Blue;
-    case ui::Tone::Red:
-      return colours.Red;
-    case ui::Tone::Green:
-      return colours.Green;
-    case ui::Tone::Amber:
-      return colours.Amber;
-    case ui::Tone::Plain:
-      break;
-  }
-  return colours.Text;
+  return colours.*Of(tone).Text;
 }
 
 QColor EdgeColour(const Colours& colours, ui::Tone tone) {
-  if (tone == ui::Tone::Blue) return colours.BlueEdge;
-  if (tone == ui::Tone::Red) return colours.RedEdge;
-  return tone == ui::Tone::Plain || tone == ui::Tone::Muted ? colours.Edge
-                                                            : TextColour(colours, tone);
+  return colours.*Of(tone).Edge;
 }
 
 QColor FillColour(const Colours& colours, ui::Tone tone) {
-  switch (tone) {
-    case ui::Tone::Gold:
-      return colours.GoldFill;
-    case ui::Tone::Blue:
-      return colours.BlueFill;
-    case ui::Tone::Red:
-      return colours.RedFill;
-    case ui::Tone::Green:
-      return colours.GreenFill;
-    case ui::Tone::Amber:
-      return colours.AmberFill;
-    case ui::Tone::Muted:
-    case ui::Tone::Plain:
-      break;
-  }
-  return colours.Muted;
+  return colours.*Of(tone).Fill;
 }
 
 QColor PercentColour(const Colours& colours, double percent) {
@@ -202,21 +137,13 @@ struct Desktop {
 Desktop desktop;
 
 /// The letters that the look is drawn with, and what stands in for them.
-const QStringList& SansFamilies() {
+QFont SansFont(int pixels) {
   static const QStringList kFamilies = {"Inter", "Noto Sans", "Cantarell", "DejaVu Sans",
                                         "sans-serif"};
-  return kFamilies;
-}
-
-const QStringList& SerifFamilies() {
-  static const QStringList kFamilies = {"Noto Serif", "Source Serif 4", "DejaVu Serif", "serif"};
-  return kFamilies;
-}
-
-QFont FontOf(const QStringList& families, double drawn) {
   QFont font;
-  font.setFamilies(families);
-  font.setPixelSize(Px(drawn));
+  font.setFamilies(kFamilies);
+  font.setPixelSize(pixels);
+  font.setHintingPreference(QFont::PreferNoHinting);
   return font;
 }
 
@@ -245,11 +172,7 @@ bool IsDark(Scheme scheme) {
 
 void ApplyLook(Scheme scheme, int textHeight) {
   if (!dynamic_cast<HouseStyle*>(QApplication::style())) QApplication::setStyle(new HouseStyle);
-  QFont font;
-  font.setFamilies(SansFamilies());
-  font.setPixelSize(std::clamp(textHeight, kSmallestText, kLargestText));
-  font.setHintingPreference(QFont::PreferNoHinting);
-  QApplication::setFont(font);
+  QApplication::setFont(SansFont(std::clamp(textHeight, kSmallestText, kLargestText)));
   QApplication::setPalette(PaletteOf(IsDark(scheme) ? DarkColours() : LightColours()));
 }
 
@@ -259,14 +182,17 @@ int Px(double drawn) {
 }
 
 QFont TextFont(double drawn, QFont::Weight weight) {
-  QFont font = FontOf(SansFamilies(), drawn);
-  font.setHintingPreference(QFont::PreferNoHinting);
+  QFont font = SansFont(Px(drawn));
   font.setWeight(weight);
   return font;
 }
 
 QFont ProseFont(double drawn) {
-  return FontOf(SerifFamilies(), drawn);
+  static const QStringList kFamilies = {"Noto Serif", "Source Serif 4", "DejaVu Serif", "serif"};
+  QFont font;
+  font.setFamilies(kFamilies);
+  font.setPixelSize(Px(drawn));
+  return font;
 }
 
 namespace {

@@ -1,13 +1,13 @@
 #include "desktop/pictureview.h"
 
 #include <QImageReader>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 
 #include "desktop/housestyle.h"
-#include "desktop/look.h"
+#include "desktop/pieces.h"
+#include "desktop/views.h"
 #include "ui/acts.h"
 
 namespace grapplemont::desktop {
@@ -33,27 +33,22 @@ void FadeEdges(QImage& image) {
   }
 }
 
-}  // namespace
-
-QSize SizeOfPicture(const QString& file) {
-  return file.isEmpty() ? QSize() : QImageReader(file).size();
-}
-
-QImage ReadPicture(const QString& file, const QSize& size) {
-  QImageReader reader(file);
-  const QSize full = reader.size();
-  if (!full.isValid() || size.isEmpty()) return {};
-  reader.setScaledSize(full.scaled(size, Qt::KeepAspectRatio));
-  return reader.read();
-}
-
-QImage ReadCovering(const QString& file, const QSize& room) {
+/// A picture read at a size in its own proportions, within `room` or covering it; null when there
+/// is none.
+QPixmap ReadPicture(const QString& file, const QSize& room, Qt::AspectRatioMode mode, double ratio,
+                    bool fading = false) {
   QImageReader reader(file);
   const QSize full = reader.size();
   if (!full.isValid() || room.isEmpty()) return {};
-  reader.setScaledSize(full.scaled(room, Qt::KeepAspectRatioByExpanding));
-  return reader.read();
+  reader.setScaledSize(full.scaled(room, mode));
+  QImage image = reader.read();
+  if (fading && !image.isNull()) FadeEdges(image);
+  QPixmap pixmap = QPixmap::fromImage(image);
+  pixmap.setDevicePixelRatio(ratio);
+  return pixmap;
 }
+
+}  // namespace
 
 void Backdrop::SetFile(const QString& file) {
   if (file == file_) return;
@@ -65,8 +60,7 @@ void Backdrop::Paint(QPainter& painter, const QWidget& on) {
   const double ratio = on.devicePixelRatioF();
   if (for_ != on.size()) {
     for_ = on.size();
-    scaled_ = QPixmap::fromImage(ReadCovering(file_, on.size() * ratio));
-    scaled_.setDevicePixelRatio(ratio);
+    scaled_ = ReadPicture(file_, on.size() * ratio, Qt::KeepAspectRatioByExpanding, ratio);
   }
   if (scaled_.isNull()) return;
   const QSizeF size = scaled_.deviceIndependentSize();
@@ -75,7 +69,7 @@ void Backdrop::Paint(QPainter& painter, const QWidget& on) {
 }
 
 PictureView::PictureView(ui::Picture& picture, Stage& stage, QWidget* parent)
-    : QWidget(parent), ControlView(picture, stage), picture_(picture) {
+    : ViewOf(picture, stage, parent) {
   if (Clickable()) {
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
@@ -83,20 +77,6 @@ PictureView::PictureView(ui::Picture& picture, Stage& stage, QWidget* parent)
   QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   policy.setHeightForWidth(true);
   setSizePolicy(policy);
-}
-
-bool PictureView::Clickable() const {
-  return static_cast<bool>(picture_.OnClick);
-}
-
-void PictureView::SetSeeThrough() {
-  seeThrough_ = true;
-  update();
-}
-
-void PictureView::SetFading() {
-  fading_ = true;
-  scaled_ = {};
 }
 
 QSize PictureView::sizeHint() const {
@@ -118,38 +98,35 @@ int PictureView::heightForWidth(int width) const {
 
 void PictureView::Show() {
   const QString file =
-      picture_.File->empty() ? QString() : OnStage().PictureFile(picture_.File.Get());
+      control_.File->empty() ? QString() : OnStage().PictureFile(control_.File.Get());
   if (file == file_) return;
   file_ = file;
-  full_ = SizeOfPicture(file_);
+  full_ = file.isEmpty() ? QSize() : QImageReader(file).size();
   scaled_ = {};
   updateGeometry();
   update();
 }
 
+void PictureView::DrawPicture(QPainter& painter) {
+  const double ratio = devicePixelRatioF();
+  const QSize wanted = full_.scaled(size() * ratio, Qt::KeepAspectRatio);
+  if (scaled_.size() != wanted)
+    scaled_ = ReadPicture(file_, wanted, Qt::KeepAspectRatio, ratio, fading_);
+  const QSizeF size = scaled_.deviceIndependentSize();
+  const QRectF where({(width() - size.width()) / 2, (height() - size.height()) / 2}, size);
+  if (!fading_) {
+    QPainterPath corners;
+    corners.addRoundedRect(where, Px(8), Px(8));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipPath(corners);
+  }
+  painter.drawPixmap(where.topLeft(), scaled_);
+  painter.setClipping(false);
+}
+
 void PictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  if (!seeThrough_ && full_.isValid()) {
-    const double ratio = devicePixelRatioF();
-    const QSize wanted = full_.scaled(size() * ratio, Qt::KeepAspectRatio);
-    if (scaled_.size() != wanted) {
-      QImage image = ReadPicture(file_, wanted);
-      if (fading_ && !image.isNull()) FadeEdges(image);
-      scaled_ = QPixmap::fromImage(image);
-      scaled_.setDevicePixelRatio(ratio);
-    }
-    const QSizeF size = scaled_.deviceIndependentSize();
-    const QRectF where((width() - size.width()) / 2, (height() - size.height()) / 2, size.width(),
-                       size.height());
-    if (!fading_) {
-      QPainterPath corners;
-      corners.addRoundedRect(where, Px(8), Px(8));
-      painter.setRenderHint(QPainter::Antialiasing);
-      painter.setClipPath(corners);
-    }
-    painter.drawPixmap(where.topLeft(), scaled_);
-    painter.setClipping(false);
-  }
+  if (!seeThrough_ && full_.isValid()) DrawPicture(painter);
   if (hasFocus()) DrawFocus(painter, rect(), Px(8), palette());
 }
 
@@ -159,11 +136,13 @@ void PictureView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void PictureView::keyPressEvent(QKeyEvent* event) {
-  if (Clickable() && !event->isAutoRepeat() &&
-      (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
-       event->key() == Qt::Key_Enter))
-    return Do(ui::Click);
+  const bool pressed = event->key() == Qt::Key_Space || IsEnter(event->key());
+  if (Clickable() && pressed && !event->isAutoRepeat()) return Do(ui::Click);
   event->ignore();
+}
+
+ControlView* NewView(ui::Picture& picture, Stage& stage, QWidget* parent) {
+  return new PictureView(picture, stage, parent);
 }
 
 }  // namespace grapplemont::desktop

@@ -1,12 +1,13 @@
-#include "desktop/reportview.h"
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextEdit>
 #include <cmath>
+#include <map>
 
 #include "desktop/look.h"
+#include "desktop/views.h"
 
 namespace grapplemont::desktop {
 
@@ -18,21 +19,10 @@ constexpr double kLine = 26.2;  // from one line of prose to the next, in drawn 
 
 QTextCharFormat LettersOf(Style style, const Colours& colours) {
   QTextCharFormat format;
-  switch (style) {
-    case Style::Heading:
-      format.setFont(TextFont(22, QFont::Bold));
-      break;
-    case Style::Strong:
-      format.setFont(TextFont(15, QFont::DemiBold));
-      break;
-    case Style::Muted:
-    case Style::Line:
-      format.setFont(TextFont());
-      break;
-    case Style::Body:
-      format.setFont(ProseFont());
-      break;
-  }
+  format.setFont(style == Style::Body      ? ProseFont()
+                 : style == Style::Heading ? TextFont(22, QFont::Bold)
+                 : style == Style::Strong  ? TextFont(15, QFont::DemiBold)
+                                           : TextFont());
   format.setForeground(style == Style::Muted ? colours.Muted : colours.Text);
   return format;
 }
@@ -53,10 +43,32 @@ QTextBlockFormat BlockOf(Style style, bool first) {
   return format;
 }
 
-}  // namespace
+/// Long prose: a serif with wide lines.
+class ReportView : public ViewOf<QTextEdit, ui::Report> {
+ public:
+  ReportView(ui::Report& report, Stage& stage, QWidget* parent);
+  QSize sizeHint() const override { return {Px(420), Px(240)}; }
+
+ protected:
+  void Show() override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  void FitBrief();
+  void Write(QTextCursor& cursor, const std::string& words, const QTextCharFormat& letters);
+  /// The link under the mouse; nullptr for none.
+  const ui::Link* LinkAt(const QMouseEvent& event) const;
+
+  std::vector<ui::Link> links_;  // of all paragraphs; an anchor's address is a place in here
+  QPoint pressed_;
+};
 
 ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
-    : QTextEdit(parent), ControlView(report, stage), report_(report) {
+    : ViewOf(report, stage, parent) {
   setReadOnly(true);
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
@@ -70,17 +82,13 @@ ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
     setMinimumHeight(Px(96));
 }
 
-QSize ReportView::sizeHint() const {
-  return {Px(420), Px(240)};
-}
-
 void ReportView::Show() {
   clear();
   links_.clear();
   const Colours& colours = ColoursOf(this);
   QTextCursor cursor(document());
   bool first = true;
-  for (const auto& paragraph : report_.Paragraphs()) {
+  for (const auto& paragraph : control_.Paragraphs()) {
     const QTextBlockFormat block = BlockOf(paragraph.As, first);
     const QTextCharFormat letters = LettersOf(paragraph.As, colours);
     if (first) {
@@ -142,7 +150,7 @@ void ReportView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ReportView::FitBrief() {
-  if (!report_.Brief) return;
+  if (!control_.Brief) return;
   document()->setTextWidth(viewport()->width());
   setFixedHeight(static_cast<int>(std::ceil(document()->size().height())));
 }
@@ -154,27 +162,26 @@ void ReportView::resizeEvent(QResizeEvent* event) {
 
 /// Arrows and pages scroll; Enter and Escape are the screen's.
 void ReportView::keyPressEvent(QKeyEvent* event) {
+  static const std::map<int, QAbstractSlider::SliderAction> kScrolls = {
+      {Qt::Key_Down, QAbstractSlider::SliderSingleStepAdd},
+      {Qt::Key_Up, QAbstractSlider::SliderSingleStepSub},
+      {Qt::Key_Space, QAbstractSlider::SliderPageStepAdd},
+      {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
+      {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
+      {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
+      {Qt::Key_End, QAbstractSlider::SliderToMaximum}};
   QScrollBar* bar = verticalScrollBar();
-  switch (event->key()) {
-    case Qt::Key_Down:
-      return bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-    case Qt::Key_Up:
-      return bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
-    case Qt::Key_Space:
-      if (bar->value() >= bar->maximum()) return event->ignore();  // read to its end
-      return bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
-    case Qt::Key_PageDown:
-      return bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
-    case Qt::Key_PageUp:
-      return bar->triggerAction(QAbstractSlider::SliderPageStepSub);
-    case Qt::Key_Home:
-      return bar->setValue(bar->minimum());
-    case Qt::Key_End:
-      return bar->setValue(bar->maximum());
-    default:
-      if (event->matches(QKeySequence::Copy)) return copy();
-      event->ignore();
-  }
+  const bool isRead = event->key() == Qt::Key_Space && bar->value() >= bar->maximum();
+  if (const auto scroll = kScrolls.find(event->key()); scroll != kScrolls.end() && !isRead)
+    return bar->triggerAction(scroll->second);
+  if (event->matches(QKeySequence::Copy)) return copy();
+  event->ignore();
+}
+
+}  // namespace
+
+ControlView* NewView(ui::Report& report, Stage& stage, QWidget* parent) {
+  return new ReportView(report, stage, parent);
 }
 
 }  // namespace grapplemont::desktop

@@ -2,10 +2,8 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScrollArea>
 #include <algorithm>
 
-#include "desktop/look.h"
 #include "desktop/tableview.h"
 #include "ui/acts.h"
 
@@ -15,29 +13,21 @@ namespace {
 
 constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
+constexpr int kGap = 14;  // between head, body and foot
 
 bool IsBackdropFile(const std::string& file) {
   return file == "vxm_back.jpg" || file == "vxm_title.jpg";
 }
 
-bool Contains(const std::vector<ui::Control*>& controls, const ui::Control* control) {
+template <class C>
+bool Contains(const std::vector<C*>& controls, const ui::Control* control) {
   return std::find(controls.begin(), controls.end(), control) != controls.end();
 }
 
 /// A body that scrolls when the window is too low for what it needs at least.
-class Scroller : public QScrollArea {
+class Scroller : public BareScroller {
  public:
-  Scroller(QWidget* parent, bool tight) : QScrollArea(parent), tight_(tight) {
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    viewport()->setAutoFillBackground(false);
-  }
-  void Hold(QWidget* body) {
-    setWidget(body);
-    body->setAutoFillBackground(false);
-    body->installEventFilter(this);
-  }
+  Scroller(QWidget* parent, bool tight) : BareScroller(parent), tight_(tight) {}
   QSize sizeHint() const override {
     const QSize wanted = widget()->sizeHint();
     return tight_ ? QSize(wanted.width(), LeastHeight(std::max(width(), Px(480)))) : wanted;
@@ -77,10 +67,10 @@ ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget
     : QWidget(parent), screen_(std::move(screen)), stage_(stage), page_(screen_->Layout()) {
   setObjectName(Shown(screen_->Name()));
   setFocusPolicy(Qt::ClickFocus);
-  const ui::Role role = screen_->Is();
   // The pictures behind covers are dark, so what stands on them is light in both sets of colours.
-  if (role == ui::Role::Cover || role == ui::Role::Wait) setPalette(PaletteOf(DarkColours()));
+  if (HasBackdrop()) setPalette(PaletteOf(DarkColours()));
   FindBackdrop();
+  const ui::Role role = screen_->Is();
   if (role == ui::Role::Wait) {
     BuildWait();
   } else if (role == ui::Role::Dialog) {
@@ -90,20 +80,25 @@ ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget
   }
   DressPictures();
   for (ControlView* view : views_)
-    if (&view->Shows() == page_.Main || &view->Shows() == page_.Then)
+    if (&view->Shows() == page_.Main || &view->Shows() == page_.Then) {
       mains_.push_back(dynamic_cast<ButtonView*>(view));
-  for (ButtonView* main : mains_) main->SetGold(true);
+      mains_.back()->SetGold(true);
+    }
   Refresh();
 }
 
-ControlView* ScreenView::Add(ControlView* view) {
-  views_.push_back(view);
-  return view;
+bool ScreenView::HasBackdrop() const {
+  return screen_->Is() == ui::Role::Cover || screen_->Is() == ui::Role::Wait;
+}
+
+QWidget* ScreenView::Add(ui::Control& control) {
+  views_.push_back(MakeView(control, stage_, this));
+  return views_.back()->Widget();
 }
 
 /// The picture behind all: one that has no place of its own, else the one the screen is about.
 void ScreenView::FindBackdrop() {
-  if (screen_->Is() != ui::Role::Cover && screen_->Is() != ui::Role::Wait) return;
+  if (!HasBackdrop()) return;
   std::vector<ui::Control*> placed;
   CollectControls(page_.Body, placed);
   const bool wait = screen_->Is() == ui::Role::Wait;
@@ -116,7 +111,7 @@ void ScreenView::FindBackdrop() {
 }
 
 bool ScreenView::HasTitlePicture() const {
-  return std::any_of(views_.begin(), views_.end(), [](const ControlView* view) {
+  return std::ranges::any_of(views_, [](const ControlView* view) {
     const auto* picture = dynamic_cast<const ui::Picture*>(&view->Shows());
     return picture && picture->File.Get() == "vxm_title.jpg";
   });
@@ -135,51 +130,43 @@ void ScreenView::DressPictures() {
 
 void ScreenView::BuildPage() {
   const bool cover = screen_->Is() == ui::Role::Cover;
-  auto* rows = new QVBoxLayout(this);
-  const int side = Px(cover ? kCoverSide : kPageSide);
-  rows->setContentsMargins(side, cover ? side : Px(18), side, cover ? side : Px(kPageSide));
-  rows->setSpacing(Px(14));
+  const int side = cover ? kCoverSide : kPageSide;
+  auto* rows = NewLayout<QVBoxLayout>(this, kGap, {side, cover ? side : 18, side, side});
   rows->addLayout(BuildHead(true));
   BuildBody(rows);
   const bool bare = cover && HasTitlePicture() && page_.Actions.empty();
   title_->setVisible(!bare);
-  PlaceSearch();
+  // The only table of a page has its search line beside the page's title.
+  if (TableView* table = OnlyTable(views_); table && screen_->Is() == ui::Role::Page)
+    head_->insertWidget(1, table->TakeSearchRow(), 0, Qt::AlignBottom);
 }
 
 void ScreenView::BuildDialog() {
-  auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(0, 0, 0, 0);
-  rows->setSpacing(Px(14));
+  auto* rows = NewLayout<QVBoxLayout>(this, kGap);
   rows->addLayout(BuildHead(false));
   BuildBody(rows);
-  auto* foot = new QHBoxLayout;
-  foot->setSpacing(Px(12));
+  auto* foot = NewLayout<QHBoxLayout>(nullptr, 12);
   foot->addStretch(1);
   BuildActions(foot);
   rows->addLayout(foot);
 }
 
 void ScreenView::BuildWait() {
-  auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(Px(28), Px(28), Px(28), Px(24));
+  auto* rows = NewLayout<QVBoxLayout>(this, -1, {28, 28, 28, 24});
   rows->addStretch(1);
   for (ui::Control* control : screen_->Controls())
-    if (control->Is() == ui::Kind::Label)
-      rows->addWidget(Add(MakeView(*control, stage_, this))->Widget(), 0, Qt::AlignHCenter);
+    if (control->Is() == ui::Kind::Label) rows->addWidget(Add(*control), 0, Qt::AlignHCenter);
 }
 
 /// Title and facts at the left, actions at the right.
 QLayout* ScreenView::BuildHead(bool withActions) {
-  head_ = new QHBoxLayout;
-  head_->setSpacing(Px(12));
-  auto* words = new QVBoxLayout;
-  words->setSpacing(Px(1));
-  title_ = new WrappedLabel(this);
+  head_ = NewLayout<QHBoxLayout>(nullptr, 12);
+  auto* words = NewLayout<QVBoxLayout>(nullptr, 1);
+  title_ = new WrappedLabel(this, {}, TextFont(19, QFont::DemiBold));
   title_->setObjectName("title");
-  title_->setFont(TextFont(19, QFont::DemiBold));
   words->addWidget(title_);
   if (page_.Facts) {
-    auto* facts = dynamic_cast<LabelView*>(Add(MakeView(*page_.Facts, stage_, this)));
+    auto* facts = dynamic_cast<LabelView*>(Add(*page_.Facts));
     facts->SetUsual(ui::Tone::Muted);
     words->addWidget(facts);
   }
@@ -196,13 +183,10 @@ std::vector<ui::Button*> ScreenView::ActionsInOrder() const {
     for (const auto& command : group.Commands) placed.push_back(command.Press);
   placed.insert(placed.end(), page_.TopActions.begin(), page_.TopActions.end());
   std::vector<ui::Button*> actions = page_.Actions;
-  const auto has = [&](ui::Button* button) {
-    return std::find(actions.begin(), actions.end(), button) != actions.end();
-  };
-  if (page_.Cancel && !has(page_.Cancel) && !Contains(placed, page_.Cancel) &&
+  if (page_.Cancel && !Contains(actions, page_.Cancel) && !Contains(placed, page_.Cancel) &&
       page_.Cancel != page_.Main)
     actions.insert(actions.begin(), page_.Cancel);
-  if (page_.Main && (has(page_.Main) || !Contains(placed, page_.Main))) {
+  if (page_.Main && (Contains(actions, page_.Main) || !Contains(placed, page_.Main))) {
     std::erase(actions, page_.Main);
     actions.push_back(page_.Main);
   }
@@ -210,33 +194,20 @@ std::vector<ui::Button*> ScreenView::ActionsInOrder() const {
 }
 
 void ScreenView::BuildActions(QBoxLayout* into) {
-  for (ui::Button* action : ActionsInOrder())
-    into->addWidget(Add(MakeView(*action, stage_, this))->Widget(), 0, Qt::AlignBottom);
+  for (ui::Button* action : ActionsInOrder()) into->addWidget(Add(*action), 0, Qt::AlignBottom);
 }
 
 void ScreenView::BuildBody(QVBoxLayout* into) {
   auto* scroller = new Scroller(this, Grows(page_.Body));
   auto* body = new QWidget(scroller);
-  auto* column = new QVBoxLayout(body);
-  column->setContentsMargins(0, 0, 0, 0);
+  auto* column = NewLayout<QVBoxLayout>(body, -1);
   LayoutBuilder builder(stage_, body, screen_->Is() == ui::Role::Cover);
   builder.Build(page_.Body, column);
+  body->installEventFilter(scroller);
   scroller->Hold(body);
   into->addWidget(scroller, 1);
   views_.insert(views_.end(), builder.Views().begin(), builder.Views().end());
   cards_ = builder.Cards();
-}
-
-/// The only table of a page has its search line beside the page's title.
-void ScreenView::PlaceSearch() {
-  if (screen_->Is() != ui::Role::Page) return;
-  TableView* only = nullptr;
-  for (ControlView* view : views_)
-    if (auto* table = dynamic_cast<TableView*>(view)) {
-      if (only) return;
-      only = table;
-    }
-  if (only) head_->insertWidget(1, only->TakeSearchRow(), 0, Qt::AlignBottom);
 }
 
 QSize ScreenView::DialogSize() const {
@@ -259,9 +230,9 @@ void ScreenView::Refresh() {
   }
   for (ControlView* view : views_) view->Refresh();
   for (const auto& card : cards_)
-    card.Sheet->setVisible(card.Views.empty() ||
-                           std::any_of(card.Views.begin(), card.Views.end(),
-                                       [](auto* view) { return view->Shows().Visible.Get(); }));
+    card.Sheet->setVisible(card.Views.empty() || std::ranges::any_of(card.Views, [](auto* view) {
+                             return view->Shows().Visible.Get();
+                           }));
 }
 
 void ScreenView::Leave() {
@@ -297,14 +268,14 @@ bool ScreenView::Press(ui::Button* button) {
 }
 
 bool ScreenView::HandleKey(int key) {
-  if (key == Qt::Key_Return || key == Qt::Key_Enter) return Press(page_.Main) || Press(page_.Then);
+  if (IsEnter(key)) return Press(page_.Main) || Press(page_.Then);
   // Where there is only one way to go, the space bar turns the page as well.
   if (key == Qt::Key_Space && !page_.Cancel) return Press(page_.Main);
   return key == Qt::Key_Escape && Press(page_.Cancel);
 }
 
 bool ScreenView::FocusSearch() {
-  return std::any_of(views_.begin(), views_.end(), [](ControlView* view) {
+  return std::ranges::any_of(views_, [](ControlView* view) {
     auto* table = dynamic_cast<TableView*>(view);
     return table && table->isVisible() && table->FocusSearch();
   });
@@ -317,22 +288,21 @@ void ScreenView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ScreenView::paintEvent(QPaintEvent*) {
-  const ui::Role role = screen_->Is();
-  if (role != ui::Role::Cover && role != ui::Role::Wait) return;
+  if (!HasBackdrop()) return;
   QPainter painter(this);
   const Colours& c = ColoursOf(this);
   painter.fillRect(rect(), c.Ground);
   backdrop_.Paint(painter, *this);
-  if (role == ui::Role::Wait || !title_->isHidden()) {
-    // Words stand on the picture: it steps back, at the bottom alone while one waits.
-    QLinearGradient veil(0, 0, 0, height());
-    QColor shade = c.Ground;
-    shade.setAlphaF(role == ui::Role::Wait ? 0.F : 0.45F);
-    veil.setColorAt(role == ui::Role::Wait ? 0.75 : 0, shade);
-    shade.setAlphaF(role == ui::Role::Wait ? 0.85F : 0.55F);
-    veil.setColorAt(1, shade);
-    painter.fillRect(rect(), veil);
-  }
+  const bool waits = screen_->Is() == ui::Role::Wait;
+  if (!waits && title_->isHidden()) return;
+  // Words stand on the picture: it steps back, at the bottom alone while one waits.
+  QLinearGradient veil(0, 0, 0, height());
+  QColor shade = c.Ground;
+  shade.setAlphaF(waits ? 0.F : 0.45F);
+  veil.setColorAt(waits ? 0.75 : 0, shade);
+  shade.setAlphaF(waits ? 0.85F : 0.55F);
+  veil.setColorAt(1, shade);
+  painter.fillRect(rect(), veil);
 }
 
 }  // namespace grapplemont::desktop

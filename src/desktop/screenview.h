@@ -13,8 +13,6 @@
 
 namespace grapplemont::desktop {
 
-class TableView;
-
 /// A screen with its title, facts, actions and body. Its layout is built once; afterwards only what
 /// has changed is brought up to date. It keeps the screen alive until it goes itself.
 class ScreenView : public QWidget {
@@ -49,11 +47,12 @@ class ScreenView : public QWidget {
   void BuildBody(QVBoxLayout* into);
   void BuildActions(QBoxLayout* into);
   std::vector<ui::Button*> ActionsInOrder() const;
+  bool HasBackdrop() const;
   void FindBackdrop();
   void DressPictures();
-  void PlaceSearch();
   bool HasTitlePicture() const;
-  ControlView* Add(ControlView* view);
+  /// Makes a view of the control here and gives its widget.
+  QWidget* Add(ui::Control& control);
   bool Press(ui::Button* button);
 
   std::shared_ptr<ui::Screen> screen_;

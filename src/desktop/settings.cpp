@@ -9,8 +9,6 @@ namespace grapplemont::desktop {
 namespace {
 
 constexpr auto kColours = "window/colours";
-constexpr auto kZoom = "window/zoom";
-constexpr auto kPlace = "window/place";
 
 QString TableKey(const std::string& list) {
   return "tables/" + Shown(list);
@@ -49,18 +47,6 @@ void Settings::SetColours(Scheme scheme) {
 int Settings::Zoom() const {
   return std::clamp(Read(kZoom).toInt(), kSmallestText - kLargestText,
                     kLargestText - kSmallestText);
-}
-
-void Settings::SetZoom(int zoom) {
-  Write(kZoom, zoom);
-}
-
-QByteArray Settings::Place() const {
-  return Read(kPlace).toByteArray();
-}
-
-void Settings::SetPlace(const QByteArray& place) {
-  Write(kPlace, place);
 }
 
 ui::TableState Settings::Table(const std::string& list) {

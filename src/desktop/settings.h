@@ -21,15 +21,16 @@ class Settings {
   void SetColours(Scheme scheme);
   /// The player's step above or below the desktop's size of text, in pixels.
   int Zoom() const;
-  void SetZoom(int zoom);
-  QByteArray Place() const;  // of the window
-  void SetPlace(const QByteArray& place);
+  void SetZoom(int zoom) { Write(kZoom, zoom); }
+  QByteArray Place() const { return Read(kPlace).toByteArray(); }  // of the window
+  void SetPlace(const QByteArray& place) { Write(kPlace, place); }
 
   /// By the list's name: "frmRoster.lstwres".
   ui::TableState Table(const std::string& list);
   void SetTable(const std::string& list, const ui::TableState& state);
 
  private:
+  static constexpr auto kZoom = "window/zoom", kPlace = "window/place";
   QVariant Read(const QString& key) const;
   void Write(const QString& key, const QVariant& value);
 

@@ -1,32 +1,28 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QVBoxLayout>
 #include <functional>
 
-#include "desktop/controlview.h"
+#include "desktop/button.h"
 #include "ui/screen.h"
 
 namespace grapplemont::desktop {
 
 /// A line of the side bar: a caption, a key, a spot.
-class SideLine : public QAbstractButton {
+class SideLine : public BareButton {
  public:
-  SideLine(QWidget* parent, const QString& caption, const QString& key);
-  void SetBadge(const QString& badge);
-  void SetNow(bool now);
+  explicit SideLine(QWidget* parent, const QString& caption = {});
+  void SetKey(const QString& key) { key_ = key; }
+  void SetNow(bool now) { Change(now_, now); }
   void SetQuiet() { quiet_ = true; }
   bool IsNow() const { return now_; }
   QSize sizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  void enterEvent(QEnterEvent* event) override;
-  void leaveEvent(QEvent* event) override;
 
  private:
-  QString key_, badge_;
+  QString key_;
   bool now_ = false, quiet_ = false;
 };
 
@@ -43,7 +39,7 @@ class SideBar : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
+  void resizeEvent(QResizeEvent*) override { FitLines(); }
 
  private:
   class Command;

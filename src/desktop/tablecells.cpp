@@ -8,16 +8,10 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
-#include "desktop/tableview.h"
 
 namespace grapplemont::desktop {
 
 namespace {
-
-/// A row has room for one line, however many the text has.
-QString OneLine(const std::string& text) {
-  return Shown(text).replace('\n', ' ');
-}
 
 using ui::ColumnKind;
 
@@ -67,6 +61,17 @@ void DrawBar(QPainter& painter, const QRect& room, const ui::Cell& cell, const C
               Qt::AlignLeft, Shown(cell.Text));
 }
 
+void DrawText(QPainter& painter, const QRect& room, const ui::Cell& cell, ColumnKind kind) {
+  // A row has room for one line, however many the text has.
+  const QString line = Shown(cell.Text).replace('\n', ' ');
+  const QString text = painter.fontMetrics().elidedText(line, Qt::ElideRight, room.width() + 1);
+  if (kind == ColumnKind::Number || kind == ColumnKind::Date) {
+    DrawFigures(painter, room, AlignsRight(kind) ? Qt::AlignRight : Qt::AlignLeft, text);
+  } else {
+    painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft, text);
+  }
+}
+
 }  // namespace
 
 bool AlignsRight(ColumnKind kind) {
@@ -91,13 +96,11 @@ int CellWidth(const ui::Cell& cell, ColumnKind kind) {
 /// it.
 bool TableCells::IsLink(const QModelIndex& index) const {
   const auto& columns = model_.List().Columns();
-  const bool hasButtons = std::any_of(columns.begin(), columns.end(), [](const ui::Column& column) {
-    return column.Kind == ColumnKind::Button;
-  });
+  const bool hasButtons = std::ranges::any_of(
+      columns, [](const ui::Column& column) { return column.Kind == ColumnKind::Button; });
   if (!model_.List().OnOpen || hasButtons) return false;
   for (const int column : model_.Table().Columns())
-    if (model_.List().Columns()[static_cast<std::size_t>(column)].Kind == ColumnKind::Text)
-      return column == index.column();
+    if (model_.Column(column).Kind == ColumnKind::Text) return column == index.column();
   return false;
 }
 
@@ -114,7 +117,7 @@ void TableCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->fillRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1, c.RowLine);
 
   const ui::Cell& cell = model_.Table().At(index.row(), index.column());
-  const ColumnKind kind = model_.List().Columns()[static_cast<std::size_t>(index.column())].Kind;
+  const ColumnKind kind = model_.Column(index.column()).Kind;
   const QRect room = option.rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
   painter->save();
   painter->setFont(TextFont());
@@ -125,19 +128,13 @@ void TableCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
   } else {
     const bool link = cell.Colour == ui::Tone::Plain && IsLink(index);
     painter->setPen(!enabled ? c.Faint : link ? c.Blue : TextColour(c, cell.Colour));
-    const QString text =
-        painter->fontMetrics().elidedText(OneLine(cell.Text), Qt::ElideRight, room.width() + 1);
-    if (kind == ColumnKind::Number || kind == ColumnKind::Date) {
-      DrawFigures(*painter, room, AlignsRight(kind) ? Qt::AlignRight : Qt::AlignLeft, text);
-    } else {
-      painter->drawText(room, Qt::AlignVCenter | Qt::AlignLeft, text);
-    }
+    DrawText(*painter, room, cell, kind);
   }
   painter->restore();
 }
 
 QSize TableCells::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
-  const ColumnKind kind = model_.List().Columns()[static_cast<std::size_t>(index.column())].Kind;
+  const ColumnKind kind = model_.Column(index.column()).Kind;
   return {CellWidth(model_.Table().At(index.row(), index.column()), kind), Px(kRowHeight)};
 }
 
@@ -158,14 +155,6 @@ bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
   return true;
 }
 
-int TableModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(table_.Rows().size());
-}
-
-int TableModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(list_.Columns().size());
-}
-
 QVariant TableModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)) return {};
   return Shown(table_.At(index.row(), index.column()).Text);
@@ -173,49 +162,9 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section >= columnCount()) return {};
-  const ui::Column& column = list_.Columns()[static_cast<std::size_t>(section)];
-  if (role == Qt::DisplayRole) return Shown(column.Title);
-  if (role == Qt::ToolTipRole && !column.Tip.empty()) return Shown(column.Tip);
+  if (role == Qt::DisplayRole) return Shown(Column(section).Title);
+  if (role == Qt::ToolTipRole && !Column(section).Tip.empty()) return Shown(Column(section).Tip);
   return {};
-}
-
-void TableModel::Reset() {
-  beginResetModel();
-  endResetModel();
-}
-
-// The names in a table's cells: a click with Ctrl, or the menu, opens their pages.
-
-void TableView::ConnectLinks() {
-  grid_->LinkOf = [this](const QModelIndex& cell) {
-    const auto links = LinksOf(cell.row(), cell.column());
-    return links.empty() ? ui::Handler() : links.front().Open;
-  };
-  grid_->Followed = [this](const ui::Handler& open) { Follow(open); };
-  grid_->Cells().HintOf = [this](const QModelIndex& cell) {
-    const auto links = LinksOf(cell.row(), cell.column());
-    return links.empty() ? QString() : "Ctrl+click opens " + links.front().Words;
-  };
-}
-
-std::vector<TableView::NamedLink> TableView::LinksOf(int shownRow, int listColumn) const {
-  std::vector<NamedLink> links;
-  if (!table_.Follows()) return links;
-  const std::string_view text = table_.At(shownRow, listColumn).Text;
-  for (ui::Link& link : OnStage().Desk().LinksIn(text))
-    links.push_back({Shown(text.substr(link.From, link.Length)), std::move(link.Open)});
-  return links;
-}
-
-std::vector<TableView::NamedLink> TableView::LinksOfRow(const QModelIndex& cell) const {
-  if (!cell.isValid()) return {};
-  std::vector<NamedLink> links = LinksOf(cell.row(), cell.column());
-  for (const int column : table_.Columns())
-    for (NamedLink& link : LinksOf(cell.row(), column))
-      if (std::none_of(links.begin(), links.end(),
-                       [&](const NamedLink& held) { return held.Words == link.Words; }))
-        links.push_back(std::move(link));
-  return links;
 }
 
 }  // namespace grapplemont::desktop

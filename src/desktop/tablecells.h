@@ -13,13 +13,23 @@ class TableModel : public QAbstractTableModel {
  public:
   TableModel(const ui::ListBox& list, const ui::Table& table) : list_(list), table_(table) {}
 
-  int rowCount(const QModelIndex& parent = {}) const override;
-  int columnCount(const QModelIndex& parent = {}) const override;
+  int rowCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : static_cast<int>(table_.Rows().size());
+  }
+  int columnCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : static_cast<int>(list_.Columns().size());
+  }
   QVariant data(const QModelIndex& index, int role) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-  void Reset();
+  void Reset() {
+    beginResetModel();
+    endResetModel();
+  }
 
   const ui::ListBox& List() const { return list_; }
+  const ui::Column& Column(int column) const {
+    return list_.Columns()[static_cast<std::size_t>(column)];
+  }
   const ui::Table& Table() const { return table_; }
 
  private:

@@ -1,14 +1,12 @@
 #include "desktop/tablegrid.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 
 #include "desktop/housestyle.h"
-#include "desktop/look.h"
-#include "desktop/tablecells.h"
+#include "desktop/pieces.h"
 
 namespace grapplemont::desktop {
 
@@ -48,13 +46,16 @@ QSize TableHeading::sizeHint() const {
   return {QHeaderView::sizeHint().width(), Px(kHeight)};
 }
 
-int TableHeading::HeadingWidth(int column) const {
+int TableHeading::MarksWidth(int column) const {
   const ui::Table& table = model_.Table();
-  const QString title = model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-  int width = QFontMetrics(HeadingFont()).horizontalAdvance(title) + 2 * Px(kCellSide) + 2;
-  if (table.SortPlace(column) > 0) width += Px(kMark);
-  if (!table.FilterOf(column).empty()) width += Px(kMark);
-  return width;
+  return (table.SortPlace(column) > 0 ? Px(kMark) : 0) +
+         (table.FilterOf(column).empty() ? 0 : Px(kMark));
+}
+
+int TableHeading::HeadingWidth(int column) const {
+  const QString title = Shown(model_.Column(column).Title);
+  return QFontMetrics(HeadingFont()).horizontalAdvance(title) + 2 * Px(kCellSide) + 2 +
+         MarksWidth(column);
 }
 
 void TableHeading::paintSection(QPainter* painter, const QRect& rect, int column) const {
@@ -62,10 +63,10 @@ void TableHeading::paintSection(QPainter* painter, const QRect& rect, int column
   const ui::Table& table = model_.Table();
   painter->save();
   painter->fillRect(rect.left(), rect.bottom(), rect.width(), 1, c.Line);
-  const ui::Column& shown = model_.List().Columns()[static_cast<std::size_t>(column)];
+  const ui::Column& shown = model_.Column(column);
   const int place = table.SortPlace(column);
   const bool filtered = !table.FilterOf(column).empty();
-  const int marks = (place > 0 ? Px(kMark) : 0) + (filtered ? Px(kMark) : 0);
+  const int marks = MarksWidth(column);
   const QFontMetrics metrics(HeadingFont());
   const QRect room = rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
   const QString title =
@@ -98,7 +99,7 @@ void TableHeading::mouseReleaseEvent(QMouseEvent* event) {
   QHeaderView::mouseReleaseEvent(event);
   const bool still = (at - pressed_).manhattanLength() < QApplication::startDragDistance();
   const int column = logicalIndexAt(at);
-  if (event->button() == Qt::LeftButton && still && !edge && column >= 0 && Clicked)
+  if (event->button() == Qt::LeftButton && still && !edge && column >= 0)
     Clicked(column, event->modifiers().testFlag(Qt::ShiftModifier));
 }
 
@@ -151,7 +152,7 @@ bool TableGrid::FollowAt(const QMouseEvent& event) {
   if (event.button() != Qt::LeftButton || !event.modifiers().testFlag(Qt::ControlModifier))
     return false;
   const QModelIndex cell = indexAt(event.position().toPoint());
-  const ui::Handler open = cell.isValid() && LinkOf ? LinkOf(cell) : ui::Handler();
+  const ui::Handler open = cell.isValid() ? LinkOf(cell) : ui::Handler();
   if (open) Followed(open);
   return static_cast<bool>(open);
 }
@@ -160,15 +161,15 @@ void TableGrid::mousePressEvent(QMouseEvent* event) {
   if (FollowAt(*event)) return;
   QTableView::mousePressEvent(event);
   const QModelIndex index = indexAt(event->position().toPoint());
-  if (event->button() == Qt::LeftButton && index.isValid() && Picked) Picked(index.row());
+  if (event->button() == Qt::LeftButton && index.isValid()) Picked(index.row());
 }
 
 void TableGrid::mouseDoubleClickEvent(QMouseEvent* event) {
   const QModelIndex index = indexAt(event->position().toPoint());
   if (event->button() != Qt::LeftButton || !index.isValid()) return;
   if (model_.List().OnOpen) {
-    if (Opened) Opened(index.row());
-  } else if (model_.List().Multi && Picked) {
+    Opened(index.row());
+  } else if (model_.List().Multi) {
     Picked(index.row());  // two quick clicks are two clicks
   }
 }
@@ -184,7 +185,7 @@ void TableGrid::mouseMoveEvent(QMouseEvent* event) {
   const QModelIndex cell = indexAt(event->position().toPoint());
   Hover(cell.row());
   const bool leads =
-      event->modifiers().testFlag(Qt::ControlModifier) && cell.isValid() && LinkOf && LinkOf(cell);
+      event->modifiers().testFlag(Qt::ControlModifier) && cell.isValid() && LinkOf(cell);
   viewport()->setCursor(leads ? Qt::PointingHandCursor : Qt::ArrowCursor);
   if (event->buttons() == Qt::NoButton) QTableView::mouseMoveEvent(event);
 }
@@ -203,45 +204,30 @@ void TableGrid::Move(QKeyEvent* event) {
     QTableView::keyPressEvent(event);
   }
   event->accept();
-  if (CurrentRow() != before && CurrentRow() >= 0 && !model_.List().Multi && Picked)
-    Picked(CurrentRow());
+  if (CurrentRow() != before && CurrentRow() >= 0 && !model_.List().Multi) Picked(CurrentRow());
 }
 
 void TableGrid::keyPressEvent(QKeyEvent* event) {
-  if (event->matches(QKeySequence::Copy)) return Copied ? Copied() : void();
-  switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-      return Move(event);
-    case Qt::Key_Home:
-    case Qt::Key_End: {
-      QKeyEvent whole(event->type(), event->key(), Qt::ControlModifier);  // of all rows
-      return Move(&whole);
-    }
-    case Qt::Key_Left:
-    case Qt::Key_Right: {
-      QScrollBar* bar = horizontalScrollBar();
-      return bar->setValue(bar->value() + (event->key() == Qt::Key_Left ? -1 : 1) * Px(40));
-    }
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      if (!model_.List().OnOpen || CurrentRow() < 0 || event->isAutoRepeat())
-        return event->ignore();
-      return Opened ? Opened(CurrentRow()) : void();
-    case Qt::Key_Space:
-      if (CurrentRow() >= 0 && Picked) Picked(CurrentRow());
-      return;
-    default:
-      break;
+  if (event->matches(QKeySequence::Copy)) return Copied();
+  const int key = event->key();
+  if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown)
+    return Move(event);
+  if (key == Qt::Key_Home || key == Qt::Key_End) {
+    QKeyEvent whole(event->type(), key, Qt::ControlModifier);  // of all rows
+    return Move(&whole);
   }
+  if (key == Qt::Key_Left || key == Qt::Key_Right) {
+    QScrollBar* bar = horizontalScrollBar();
+    return bar->setValue(bar->value() + (key == Qt::Key_Left ? -1 : 1) * Px(40));
+  }
+  const int row = CurrentRow();
+  if (IsEnter(key))
+    return model_.List().OnOpen && row >= 0 && !event->isAutoRepeat() ? Opened(row)
+                                                                      : event->ignore();
+  if (key == Qt::Key_Space) return row >= 0 ? Picked(row) : void();
   const QString letters = event->text();
   const bool plain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-  if (plain && !letters.isEmpty() && letters.front().isPrint()) {
-    Typed ? Typed(letters) : keyboardSearch(letters);
-    return;
-  }
+  if (plain && !letters.isEmpty() && letters.front().isPrint()) return Typed(letters);
   event->ignore();
 }
 

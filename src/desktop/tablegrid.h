@@ -23,6 +23,9 @@ class TableHeading : public QHeaderView {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  /// Of the arrow of sorting and the spot of a filter.
+  int MarksWidth(int column) const;
+
   const TableModel& model_;
   QPoint pressed_;
 };

@@ -2,17 +2,14 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QKeyEvent>
-#include <QLabel>
+#include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 #include <numeric>
 
 #include "desktop/button.h"
-#include "desktop/look.h"
-#include "desktop/textviews.h"
+#include "desktop/views.h"
 #include "ui/acts.h"
 #include "ui/filter.h"
 
@@ -43,53 +40,68 @@ std::size_t Index(int number) {
   return static_cast<std::size_t>(number);
 }
 
+/// Hands out the room left over by shares.
+void Spread(int room, const std::vector<double>& shares, std::vector<int>& widths) {
+  double all = std::accumulate(shares.begin(), shares.end(), 0.0);
+  for (std::size_t i = 0; room > 0 && all > 0 && i < widths.size(); ++i) {
+    const int more = static_cast<int>(std::lround(room * shares[i] / all));
+    widths[i] += more;
+    room -= more;
+    all -= shares[i];
+  }
+}
+
+/// Takes what is missing bit by bit from what exceeds its least width most; gives what is missing
+/// still.
+int Squeeze(int missing, const std::vector<int>& least, std::vector<int>& widths) {
+  while (missing > 0) {
+    std::size_t widest = 0;
+    for (std::size_t i = 1; i < widths.size(); ++i)
+      if (widths[i] - least[i] > widths[widest] - least[widest]) widest = i;
+    const int take = std::min({widths[widest] - least[widest], missing, Px(16)});
+    if (take <= 0) break;
+    widths[widest] -= take;
+    missing -= take;
+  }
+  return missing;
+}
+
 }  // namespace
 
 TableView::TableView(ui::ListBox& list, Stage& stage, QWidget* parent)
-    : QWidget(parent),
-      ControlView(list, stage),
-      list_(list),
+    : ViewOf(list, stage, parent),
       id_(list.Parent().Name() + "." + list.Name()),
       table_(list, stage.Kept().Table(id_)),
       model_(list, table_),
       grid_(new TableGrid(model_, this)) {
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(Px(8));
+  auto* column = NewLayout<QVBoxLayout>(this, 8);
   BuildSearchRow();
   column->addWidget(searchRow_);
   column->addWidget(grid_, 1);
   setFocusProxy(grid_);
   ApplyColumns();
   Connect();
+  ConnectGrid();
   RestorePlace();
 }
 
 void TableView::BuildSearchRow() {
+  const QString name = Shown(control_.Name());
   searchRow_ = new QWidget(this);
-  search_ = new QLineEdit(searchRow_);
+  search_ = NewLine(searchRow_, name + "_search", Shown(table_.State().Search));
   count_ = new QLabel(searchRow_);
   columns_ = new PushButton(searchRow_, "Columns");
-  auto* row = new QHBoxLayout(searchRow_);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(Px(12));
-  search_->setObjectName(Name() + "_search");
-  search_->setTextMargins(Px(8), 0, Px(8), 0);
+  auto* row = NewLayout<QHBoxLayout>(searchRow_, 12);
   search_->setMinimumWidth(Px(96));
   search_->setMaximumWidth(Px(240));
   search_->setClearButtonEnabled(true);
-  search_->setPlaceholderText(SearchHint(list_));
-  search_->setText(Shown(table_.State().Search));
+  search_->setPlaceholderText(SearchHint(control_));
   search_->installEventFilter(this);
-  columns_->setObjectName(Name() + "_columns");
+  columns_->setObjectName(name + "_columns");
   row->addWidget(count_);
   row->addStretch(1);
   row->addWidget(search_, 100);
   row->addWidget(columns_);
-}
-
-QString TableView::Name() const {
-  return Shown(list_.Name());
 }
 
 void TableView::Connect() {
@@ -104,7 +116,7 @@ void TableView::Connect() {
     table_.TurnSort(column, second);
     Rearrange();
   };
-  connect(&heading, &QHeaderView::sectionMoved, this, [this] { TakeOrder(); });
+  connect(&heading, &QHeaderView::sectionMoved, this, &TableView::TakeOrder);
   connect(&heading, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
     if (arranging_) return;
     table_.SetWidth(column, width * kUsualText / std::max(1, Px(kUsualText)));
@@ -112,9 +124,11 @@ void TableView::Connect() {
   });
   heading.setContextMenuPolicy(Qt::CustomContextMenu);
   connect(&heading, &QWidget::customContextMenuRequested, this, &TableView::OpenHeadingMenu);
+}
+
+void TableView::ConnectGrid() {
   grid_->setContextMenuPolicy(Qt::CustomContextMenu);
-  connect(grid_, &QWidget::customContextMenuRequested, this,
-          [this](const QPoint& at) { OpenRowMenu(at); });
+  connect(grid_, &QWidget::customContextMenuRequested, this, &TableView::OpenRowMenu);
   grid_->Picked = [this](int row) { Act(row, false); };
   grid_->Opened = [this](int row) { Act(row, true); };
   grid_->Copied = [this] { CopyCsv(); };
@@ -131,10 +145,9 @@ void TableView::Connect() {
 }
 
 void TableView::Act(int shownRow, bool open) {
-  using ByNumber = std::string (*)(ui::Desk&, ui::Screen&, std::string_view, int);
   currentKey_ = table_.RowAt(shownRow).Key;
   const int row = table_.Rows()[Index(shownRow)] + 1;
-  open ? Do(static_cast<ByNumber>(ui::OpenRow), row) : Do(static_cast<ByNumber>(ui::Pick), row);
+  open ? Do<int>(ui::OpenRow, row) : Do<int>(ui::Pick, row);
 }
 
 void TableView::Show() {
@@ -144,7 +157,7 @@ void TableView::Show() {
 }
 
 void TableView::Rearrange() {
-  arranging_ = true;
+  const QScopedValueRollback<bool> arranging(arranging_, true);
   const int top = grid_->verticalScrollBar()->value(), before = grid_->CurrentRow();
   model_.Reset();
   ApplyColumns();
@@ -158,29 +171,28 @@ void TableView::Rearrange() {
   grid_->SetCurrentRow(row);
   grid_->verticalScrollBar()->setValue(top);
   ShowSearchRow();
-  grid_->SetEmptyText(list_.Count() > 0 ? "Nothing here fits the filter." : Shown(list_.EmptyText));
+  grid_->SetEmptyText(control_.Count() > 0 ? "Nothing here fits the filter."
+                                           : Shown(control_.EmptyText));
   grid_->updateGeometry();
-  arranging_ = false;
 }
 
 void TableView::ShowSearchRow() {
   const bool filters = !table_.State().Search.empty() || !table_.State().Filters.empty();
-  const bool wide = list_.Count() > kWorthSearching && rowButtons_.empty();
+  const bool wide = control_.Count() > kWorthSearching && rowButtons_.empty();
   searchRow_->setVisible(wide || filters);
-  auto* count = static_cast<QLabel*>(count_);
-  count->setText(!table_.Filtered()
-                     ? QString()
-                     : QString("%1 of %2").arg(model_.rowCount()).arg(list_.Count()));
-  SetInk(*count, ColoursOf(this).Muted);
+  count_->setText(!table_.Filtered()
+                      ? QString()
+                      : QString("%1 of %2").arg(model_.rowCount()).arg(control_.Count()));
+  SetInk(*count_, ColoursOf(this).Muted);
 }
 
 /// The cursor follows where the screen selects.
 void TableView::ShowSelection() {
-  const int selected = list_.Selected() - 1;
-  if (selected < 0 || list_.Multi) return;
+  const int selected = control_.Selected() - 1;
+  if (selected < 0 || control_.Multi) return;
   const int row = table_.ShownRow(selected);
   if (row < 0 || row == grid_->CurrentRow()) return;
-  currentKey_ = list_.Rows()[Index(selected)].Key;
+  currentKey_ = control_.Rows()[Index(selected)].Key;
   grid_->SetCurrentRow(row);
 }
 
@@ -189,7 +201,7 @@ std::vector<int> TableView::NaturalWidths() const {
   for (const int column : table_.Columns()) {
     const TableHeading& heading = grid_->Heading();
     int width = std::max(heading.HeadingWidth(column), heading.minimumSectionSize());
-    const auto kind = list_.Columns()[Index(column)].Kind;
+    const auto kind = model_.Column(column).Kind;
     const ui::Cell* longest = nullptr;
     const int rows = model_.rowCount();
     for (int row = 0; row < rows; ++row) {
@@ -206,18 +218,33 @@ std::vector<int> TableView::NaturalWidths() const {
   return widths;
 }
 
+/// The widths below which texts are not cut: at least these, and no heading is ever cut. What is
+/// no text keeps its own.
+std::vector<int> TableView::LeastWidths(const std::vector<int>& widths, int first,
+                                        int other) const {
+  std::vector<int> least;
+  for (const int column : table_.Columns()) {
+    const std::size_t place = least.size();
+    least.push_back(
+        model_.Column(column).Kind != ui::ColumnKind::Text
+            ? widths[place]
+            : std::max(grid_->Heading().HeadingWidth(column), Px(place == 0 ? first : other)));
+  }
+  return least;
+}
+
 /// Each column gets what its contents ask for; what is left over goes to those with a share, else
-/// to the texts; what is missing is taken from the widest texts, but no heading is ever cut.
+/// to the texts; what is missing is taken from the widest texts.
 void TableView::FitColumns() {
   const auto& shown = table_.Columns();
   std::vector<int> widths = NaturalWidths();
   std::vector<double> shares;
-  bool anyShare = false;
-  for (const int column : shown) anyShare = anyShare || list_.Columns()[Index(column)].Width > 0;
+  const bool anyShare =
+      std::ranges::any_of(shown, [&](int column) { return model_.Column(column).Width > 0; });
   int room = grid_->viewport()->width();
   for (std::size_t i = 0; i < shown.size(); ++i) {
-    const ui::Column& column = list_.Columns()[Index(shown[i])];
-    const auto byHand = table_.State().Widths.find(ui::ColumnId(list_.Columns(), shown[i]));
+    const ui::Column& column = model_.Column(shown[i]);
+    const auto byHand = table_.State().Widths.find(ui::ColumnId(control_.Columns(), shown[i]));
     double share = anyShare                              ? column.Width
                    : column.Kind == ui::ColumnKind::Text ? widths[i]
                                                          : widths[i] * 0.3;
@@ -228,52 +255,26 @@ void TableView::FitColumns() {
     shares.push_back(share);
     room -= widths[i];
   }
-  double all = std::accumulate(shares.begin(), shares.end(), 0.0);
-  for (std::size_t i = 0; room > 0 && all > 0 && i < shown.size(); ++i) {
-    const int more = static_cast<int>(std::lround(room * shares[i] / all));
-    widths[i] += more;
-    room -= more;
-    all -= shares[i];
+  Spread(room, shares, widths);
+  if (room < 0 && !widths.empty()) {
+    const int whole = widths.front();
+    int missing = Squeeze(-room, LeastWidths(widths, 110, 72), widths);
+    missing = Squeeze(missing, LeastWidths(widths, 56, 56), widths);
+    // Where the table has to be scrolled anyway, its first words are not cut for it.
+    if (missing > 0) widths.front() = whole;
   }
-  const int whole = widths.empty() ? 0 : widths.front();
-  for (bool tight = false; room < 0;) {
-    const auto excess = [&](std::size_t i) {
-      const bool text = list_.Columns()[Index(shown[i])].Kind == ui::ColumnKind::Text;
-      const int least = std::max(grid_->Heading().HeadingWidth(shown[i]), Px(tight    ? 56
-                                                                             : i == 0 ? 110
-                                                                                      : 72));
-      return text && shares[i] >= 0 ? widths[i] - least : 0;
-    };
-    std::size_t widest = 0;
-    for (std::size_t i = 1; i < shown.size(); ++i)
-      if (excess(i) > excess(widest)) widest = i;
-    const int take = shown.empty() ? 0 : std::min({excess(widest), -room, Px(16)});
-    if (take <= 0 && tight) break;
-    if (take <= 0) {
-      tight = true;
-      continue;
-    }
-    widths[widest] -= take;
-    room += take;
-  }
-  // Where the table has to be scrolled anyway, its first words are not cut for it.
-  if (room < 0 && !widths.empty()) widths.front() = whole;
-  const bool was = arranging_;
-  arranging_ = true;
+  const QScopedValueRollback<bool> arranging(arranging_, true);
   for (std::size_t i = 0; i < shown.size(); ++i) grid_->setColumnWidth(shown[i], widths[i]);
-  arranging_ = was;
   PlaceRowButtons();
 }
 
 void TableView::ApplyColumns() {
-  const bool was = arranging_;
-  arranging_ = true;
+  const QScopedValueRollback<bool> arranging(arranging_, true);
   TableHeading& heading = grid_->Heading();
   for (int column = 0; column < model_.columnCount(); ++column)
     heading.setSectionHidden(column, !table_.Shows(column));
   for (std::size_t i = 0; i < table_.Columns().size(); ++i)
     heading.moveSection(heading.visualIndex(table_.Columns()[i]), static_cast<int>(i));
-  arranging_ = was;
 }
 
 /// The player has dragged a heading.
@@ -296,13 +297,9 @@ void TableView::RestorePlace() {
       this, [this, top] { grid_->verticalScrollBar()->setValue(top); }, Qt::QueuedConnection);
 }
 
-void TableView::Remember() {
+void TableView::Leave() {
   table_.SetPlace(grid_->verticalScrollBar()->value(), currentKey_);
   OnStage().Kept().SetTable(id_, table_.State());
-}
-
-void TableView::Leave() {
-  Remember();
 }
 
 QWidget* TableView::TakeSearchRow() {
@@ -321,12 +318,11 @@ bool TableView::eventFilter(QObject* watched, QEvent* event) {
   if (watched != search_ || event->type() != QEvent::KeyPress)
     return QWidget::eventFilter(watched, event);
   const int key = static_cast<QKeyEvent*>(event)->key();
-  const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
   if (key == Qt::Key_Escape && !search_->text().isEmpty()) {
     search_->clear();
     return true;
   }
-  if (key == Qt::Key_Down || enter || key == Qt::Key_Escape) {
+  if (key == Qt::Key_Down || IsEnter(key) || key == Qt::Key_Escape) {
     grid_->setFocus(Qt::TabFocusReason);
     return true;
   }
@@ -345,7 +341,7 @@ void TableView::PlaceRowButtons() {
   for (ButtonView* button : rowButtons_) button->move(-Px(1000), 0);
   int column = -1;
   for (const int shown : table_.Columns())
-    if (list_.Columns()[Index(shown)].Kind == ui::ColumnKind::Button) column = shown;
+    if (model_.Column(shown).Kind == ui::ColumnKind::Button) column = shown;
   if (column < 0) return;
   for (int row = 0; row < model_.rowCount(); ++row) {
     const int key = table_.RowAt(row).Key;
@@ -358,6 +354,10 @@ void TableView::PlaceRowButtons() {
 
 void TableView::CopyCsv() const {
   QApplication::clipboard()->setText(Shown(table_.Csv()));
+}
+
+ControlView* NewView(ui::ListBox& list, Stage& stage, QWidget* parent) {
+  return new TableView(list, stage, parent);
 }
 
 }  // namespace grapplemont::desktop

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QLineEdit>
-#include <QMenu>
-
 #include "desktop/controlview.h"
+#include "desktop/pieces.h"
 #include "desktop/tablegrid.h"
 
 namespace grapplemont::desktop {
@@ -13,11 +11,11 @@ class PushButton;
 
 /// A ListBox: the grid, a search line above it once it is worth one, and the menus that filter and
 /// choose columns.
-class TableView : public QWidget, public ControlView {
+class TableView : public ViewOf<QWidget, ui::ListBox> {
  public:
   TableView(ui::ListBox& list, Stage& stage, QWidget* parent);
-  QWidget* Widget() override { return this; }
   QWidget* FocusTarget() override { return grid_; }
+  /// Keeps what the player has made of the table.
   void Leave() override;
   /// The search line's row, for a page that has a better place for it.
   QWidget* TakeSearchRow();
@@ -33,9 +31,9 @@ class TableView : public QWidget, public ControlView {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QString Name() const;
   void BuildSearchRow();
   void Connect();
+  void ConnectGrid();
   void Act(int shownRow, bool open);
   /// Shows the rows again; the cursor stays on its row.
   void Rearrange();
@@ -43,14 +41,14 @@ class TableView : public QWidget, public ControlView {
   void ShowSelection();
   void FitColumns();
   std::vector<int> NaturalWidths() const;
+  std::vector<int> LeastWidths(const std::vector<int>& widths, int first, int other) const;
   void ApplyColumns();
   void TakeOrder();
   void RestorePlace();
-  void Remember();
   void CopyCsv() const;
   void PlaceRowButtons();
 
-  // Names in cells, in tablelinks.cpp.
+  // Names in cells and menus, in tablemenu.cpp.
   struct NamedLink {
     QString Words;
     ui::Handler Open;
@@ -61,22 +59,21 @@ class TableView : public QWidget, public ControlView {
   /// Those of all shown cells of a row, each once, those of the cell first.
   std::vector<NamedLink> LinksOfRow(const QModelIndex& cell) const;
 
-  // Menus, in tablemenu.cpp.
   void OpenHeadingMenu(const QPoint& at);
   void OpenColumnsMenu(const QPoint& globally);
   void OpenRowMenu(const QPoint& at);
+  QAction* AddChange(QMenu& menu, const QString& words, const std::function<void()>& change);
   void AddColumnChoices(QMenu& menu);
   void AddFilterLine(QMenu& menu, int column);
   void MoveColumn(int column, int by);
 
-  ui::ListBox& list_;
   std::string id_;
   ui::Table table_;
   TableModel model_;
   TableGrid* grid_;
   QWidget* searchRow_;
   QLineEdit* search_;
-  QWidget* count_;
+  QLabel* count_;
   PushButton* columns_;
   std::vector<ButtonView*> rowButtons_;
   bool arranging_ = false;

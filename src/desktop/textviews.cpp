@@ -1,145 +1,122 @@
 #include "desktop/textviews.h"
 
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <algorithm>
 
-#include "desktop/look.h"
+#include "desktop/views.h"
 #include "ui/acts.h"
 
 namespace grapplemont::desktop {
 
 namespace {
 
+/// What can be kept of a text; of letters that cannot it tells beside the widget.
+std::string KeepOf(const QString& text, QWidget& widget, Stage& stage) {
+  Keepable kept = Keep(text);
+  if (!kept.Refused.isEmpty()) stage.Hint(widget, RefusalOf(kept.Refused));
+  return std::move(kept.Text);
+}
+
 /// Where the cursor stands once what cannot be kept is gone from in front of it.
 int CursorAfter(const QString& typed, int cursor) {
   return static_cast<int>(Keep(typed.left(cursor)).Text.size());
 }
 
-}  // namespace
-
-LineView::LineView(ui::TextBox& box, Stage& stage, QWidget* parent)
-    : QLineEdit(parent), ControlView(box, stage), box_(box) {
-  setTextMargins(Px(8), 0, Px(8), 0);
-  setMinimumWidth(Px(120));
-  if (box.MaxLength > 0) setMaxLength(box.MaxLength);
-  setPlaceholderText(Shown(box.Hint));
-  connect(this, &QLineEdit::textEdited, this, &LineView::Typed);
-}
-
-void LineView::Typed(const QString& text) {
-  const Keepable kept = Keep(text);
-  if (!kept.Refused.isEmpty()) OnStage().Hint(*this, RefusalOf(kept.Refused));
-  if (const QString shown = Shown(kept.Text); shown != text) {
-    const int cursor = CursorAfter(text, cursorPosition());
-    setText(shown);
-    setCursorPosition(cursor);
+/// A text box of one line.
+class LineView : public ViewOf<QLineEdit, ui::TextBox> {
+ public:
+  LineView(ui::TextBox& box, Stage& stage, QWidget* parent) : ViewOf(box, stage, parent) {
+    SetMargins(*this);
+    setMinimumWidth(Px(120));
+    if (box.MaxLength > 0) setMaxLength(box.MaxLength);
+    connect(this, &QLineEdit::textEdited, this, [this] {
+      const std::string kept = KeepTyped(*this, OnStage());
+      if (kept != control_.Text.Get()) Do(ui::Type, std::string_view(kept));
+    });
   }
-  if (kept.Text != box_.Text.Get()) Do(ui::Type, std::string_view(kept.Text));
-}
 
-void LineView::Show() {
-  setPlaceholderText(Shown(box_.Hint));
-  const QString text = Shown(box_.Text.Get());
-  if (text == this->text()) return;
-  const int cursor = cursorPosition();
-  setText(text);
-  if (hasFocus()) setCursorPosition(cursor);
-}
+ protected:
+  void Show() override {
+    setPlaceholderText(Shown(control_.Hint));
+    const QString text = Shown(control_.Text.Get());
+    if (text == this->text()) return;
+    const int cursor = cursorPosition();
+    setText(text);
+    if (hasFocus()) setCursorPosition(cursor);
+  }
+  void focusInEvent(QFocusEvent* event) override {
+    QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::OtherFocusReason) selectAll();
+  }
+};
 
-void LineView::focusInEvent(QFocusEvent* event) {
-  QLineEdit::focusInEvent(event);
-  if (event->reason() == Qt::OtherFocusReason) selectAll();
-}
+/// A text box of many lines.
+class NotesView : public ViewOf<QPlainTextEdit, ui::TextBox> {
+ public:
+  NotesView(ui::TextBox& box, Stage& stage, QWidget* parent) : ViewOf(box, stage, parent) {
+    setTabChangesFocus(true);
+    document()->setDocumentMargin(Px(10));
+    setPlaceholderText(Shown(box.Hint));
+    setMinimumHeight(Px(96));
+    viewport()->setAutoFillBackground(false);
+    connect(this, &QPlainTextEdit::textChanged, this, &NotesView::Typed);
+  }
 
-NotesView::NotesView(ui::TextBox& box, Stage& stage, QWidget* parent)
-    : QPlainTextEdit(parent), ControlView(box, stage), box_(box) {
-  setTabChangesFocus(true);
-  document()->setDocumentMargin(Px(10));
-  setPlaceholderText(Shown(box.Hint));
-  setMinimumHeight(Px(96));
-  viewport()->setAutoFillBackground(false);
-  connect(this, &QPlainTextEdit::textChanged, this, &NotesView::Typed);
-}
+ protected:
+  void Show() override {
+    const QString text = Shown(control_.Text.Get());
+    if (text != toPlainText()) Put(text, textCursor().position());
+  }
+  /// Enter makes a line here; with Ctrl it goes on to the page.
+  void keyPressEvent(QKeyEvent* event) override {
+    if ((IsEnter(event->key()) && event->modifiers().testFlag(Qt::ControlModifier)) ||
+        event->key() == Qt::Key_Escape)
+      return event->ignore();
+    QPlainTextEdit::keyPressEvent(event);
+  }
 
-void NotesView::Put(const QString& text, int cursor) {
-  showing_ = true;
-  setPlainText(text);
-  QTextCursor place = textCursor();
-  place.setPosition(std::min(cursor, static_cast<int>(text.size())));
-  setTextCursor(place);
-  showing_ = false;
-}
+ private:
+  void Put(const QString& text, int cursor) {
+    showing_ = true;
+    setPlainText(text);
+    QTextCursor place = textCursor();
+    place.setPosition(std::min(cursor, static_cast<int>(text.size())));
+    setTextCursor(place);
+    showing_ = false;
+  }
 
-void NotesView::Typed() {
-  if (showing_) return;
-  const QString text = toPlainText();
-  Keepable kept = Keep(text);
-  if (!kept.Refused.isEmpty()) OnStage().Hint(*this, RefusalOf(kept.Refused));
-  if (box_.MaxLength > 0)
-    kept.Text.resize(std::min(kept.Text.size(), static_cast<std::size_t>(box_.MaxLength)));
-  if (const QString shown = Shown(kept.Text); shown != text)
-    Put(shown, CursorAfter(text, textCursor().position()));
-  if (kept.Text != box_.Text.Get()) Do(ui::Type, std::string_view(kept.Text));
-}
+  void Typed() {
+    if (showing_) return;
+    const QString text = toPlainText();
+    std::string kept = KeepOf(text, *this, OnStage());
+    if (control_.MaxLength > 0)
+      kept.resize(std::min(kept.size(), static_cast<std::size_t>(control_.MaxLength)));
+    if (const QString shown = Shown(kept); shown != text)
+      Put(shown, CursorAfter(text, textCursor().position()));
+    if (kept != control_.Text.Get()) Do(ui::Type, std::string_view(kept));
+  }
 
-void NotesView::Show() {
-  const QString text = Shown(box_.Text.Get());
-  if (text != toPlainText()) Put(text, textCursor().position());
-}
-
-/// Enter makes a line here; with Ctrl it goes on to the page.
-void NotesView::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if ((enter && event->modifiers().testFlag(Qt::ControlModifier)) || event->key() == Qt::Key_Escape)
-    return event->ignore();
-  QPlainTextEdit::keyPressEvent(event);
-}
-
-namespace {
-
-constexpr int kWidest = 520;    // a line that may still stand alone
-constexpr int kUnbroken = 190;  // a text as short as this is never broken
+  bool showing_ = false;
+};
 
 }  // namespace
 
-WrappedLabel::WrappedLabel(QWidget* parent, const QString& text) : QLabel(text, parent) {
-  setTextFormat(Qt::PlainText);
-  setWordWrap(true);
-  setFont(TextFont());
+std::string KeepTyped(QLineEdit& line, Stage& stage) {
+  const QString text = line.text();
+  std::string kept = KeepOf(text, line, stage);
+  if (const QString shown = Shown(kept); shown != text) {
+    const int cursor = CursorAfter(text, line.cursorPosition());
+    line.setText(shown);
+    line.setCursorPosition(cursor);
+  }
+  return kept;
 }
 
-int WrappedLabel::NaturalWidth() const {
-  int widest = 0;
-  for (const QString& line : text().split('\n'))
-    widest = std::max(widest, fontMetrics().horizontalAdvance(line));
-  return widest + 2;
-}
-
-QSize WrappedLabel::sizeHint() const {
-  const int width = std::min(NaturalWidth(), Px(kWidest));
-  return {width, heightForWidth(width)};
-}
-
-QSize WrappedLabel::minimumSizeHint() const {
-  return {std::min(NaturalWidth(), Px(kUnbroken)), fontMetrics().height()};
-}
-
-LabelView::LabelView(ui::Label& label, Stage& stage, QWidget* parent)
-    : WrappedLabel(parent), ControlView(label, stage), label_(label) {}
-
-QString WithTrend(const ui::Label& label) {
-  const QString text = Shown(label.Text.Get());
-  if (label.Trend == 0) return text;
-  return text + (label.Trend > 0 ? QStringLiteral(" \u25B2") : QStringLiteral(" \u25BC"));
-}
-
-void SetInk(QWidget& label, const QColor& colour) {
-  QPalette palette = label.palette();
-  palette.setColor(QPalette::Text, colour);
-  label.setForegroundRole(QPalette::Text);
-  label.setPalette(palette);
+QString TrendSign(int trend) {
+  if (trend == 0) return {};
+  return trend > 0 ? QStringLiteral(" \u25B2") : QStringLiteral(" \u25BC");
 }
 
 void LabelView::SetUsual(ui::Tone tone) {
@@ -148,14 +125,14 @@ void LabelView::SetUsual(ui::Tone tone) {
 }
 
 void LabelView::Colour() {
-  const ui::Tone tone = label_.Colour.Get();
+  const ui::Tone tone = control_.Colour.Get();
   SetInk(*this, TextColour(ColoursOf(this), tone == ui::Tone::Plain ? usual_ : tone));
 }
 
 void LabelView::Show() {
-  setText(WithTrend(label_));
+  setText(Shown(control_.Text.Get()) + TrendSign(control_.Trend));
   Colour();
-  if (OnStage().Desk().LinksIn(label_.Text.Get()).empty()) {
+  if (OnStage().Desk().LinksIn(control_.Text.Get()).empty()) {
     unsetCursor();
   } else {
     setCursor(Qt::PointingHandCursor);
@@ -164,17 +141,25 @@ void LabelView::Show() {
 
 /// A click opens the page of the name in the text; several names are offered.
 void LabelView::mouseReleaseEvent(QMouseEvent* event) {
-  const std::string text = label_.Text.Get();
+  const std::string text = control_.Text.Get();
   const auto links = OnStage().Desk().LinksIn(text);
   if (links.empty() || event->button() != Qt::LeftButton)
     return WrappedLabel::mouseReleaseEvent(event);
   if (links.size() == 1) return Follow(links.front().Open);
-  auto* menu = new QMenu(this);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
+  QMenu* menu = NewMenu(this);
   for (const ui::Link& link : links)
     menu->addAction("Open " + Shown(text.substr(link.From, link.Length)), this,
                     [this, open = link.Open] { Follow(open); });
   menu->popup(event->globalPosition().toPoint());
+}
+
+ControlView* NewView(ui::Label& label, Stage& stage, QWidget* parent) {
+  return new LabelView(label, stage, parent);
+}
+
+ControlView* NewView(ui::TextBox& box, Stage& stage, QWidget* parent) {
+  if (box.MultiLine) return new NotesView(box, stage, parent);
+  return new LineView(box, stage, parent);
 }
 
 }  // namespace grapplemont::desktop

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QRegularExpression>
 
-#include "desktop/look.h"
+#include "desktop/textviews.h"
 
 namespace grapplemont::desktop {
 
@@ -13,34 +13,24 @@ HubFrame::HubFrame(const ui::Page& page, Stage& stage, QWidget* parent)
       side_(new SideBar(page, stage, this)),
       top_(new TopBar(page, stage, this)),
       room_(new QStackedWidget(this)) {
-  auto* columns = new QHBoxLayout(this);
-  columns->setContentsMargins(0, 0, 0, 0);
-  columns->setSpacing(0);
-  auto* rows = new QVBoxLayout;
-  rows->setSpacing(0);
+  auto* columns = NewLayout<QHBoxLayout>(this, 0);
+  auto* rows = NewLayout<QVBoxLayout>(nullptr, 0);
   rows->addWidget(top_);
   rows->addWidget(room_, 1);
   columns->addWidget(side_);
   columns->addLayout(rows, 1);
 }
 
-void HubFrame::Refresh() {
-  side_->Refresh();
-  top_->Refresh();
-}
-
 namespace {
 
 /// A label of the bar. Its weight tells what matters: "Image **62%**", "**The promotion** · Cult".
-class TopLabel : public QWidget, public ControlView {
+class TopLabel : public ViewOf<QWidget, ui::Label> {
  public:
   TopLabel(ui::Label& label, bool first, Stage& stage, QWidget* parent)
-      : QWidget(parent), ControlView(label, stage), label_(label), first_(first) {
+      : ViewOf(label, stage, parent), first_(first) {
     setObjectName(Shown(label.Name()));
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
   }
-  QWidget* Widget() override { return this; }
-
   QSize sizeHint() const override { return {WidthOf(pieces_) + 2, Px(32)}; }
   /// Whose promotion it is may be cut; a date may be shortened.
   QSize minimumSizeHint() const override {
@@ -52,11 +42,9 @@ class TopLabel : public QWidget, public ControlView {
 
  protected:
   void Show() override {
-    TakeApart(Shown(label_.Text.Get()));
-    if (label_.Tip->empty()) setToolTip(Shown(label_.Text.Get()));
-    if (label_.Trend != 0)
-      pieces_.push_back(
-          {label_.Trend > 0 ? QStringLiteral(" \u25B2") : QStringLiteral(" \u25BC"), false});
+    TakeApart(Shown(control_.Text.Get()));
+    if (control_.Tip->empty()) setToolTip(Shown(control_.Text.Get()));
+    if (control_.Trend != 0) pieces_.push_back({TrendSign(control_.Trend), false});
     updateGeometry();
     update();
   }
@@ -70,7 +58,7 @@ class TopLabel : public QWidget, public ControlView {
       const QFontMetrics metrics(FontOf(piece));
       const QString words = metrics.elidedText(piece.Words, Qt::ElideRight, width() - x);
       painter.setFont(FontOf(piece));
-      painter.setPen(piece.Matters ? TextColour(c, label_.Colour.Get()) : c.Muted);
+      painter.setPen(piece.Matters ? TextColour(c, control_.Colour.Get()) : c.Muted);
       painter.drawText(QRect(x, 0, width() - x, height()), Qt::AlignVCenter, words);
       x += metrics.horizontalAdvance(words);
     }
@@ -122,7 +110,6 @@ class TopLabel : public QWidget, public ControlView {
     }
   }
 
-  ui::Label& label_;
   bool first_;
   Pieces pieces_;
 };
@@ -131,9 +118,8 @@ class TopLabel : public QWidget, public ControlView {
 
 TopBar::TopBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(parent) {
   setFixedHeight(Px(52));
-  auto* row = new QHBoxLayout(this);
+  auto* row = NewLayout<QHBoxLayout>(this, 18);
   row->setContentsMargins(Px(20), 0, Px(20), 1);
-  row->setSpacing(Px(18));
   for (ui::Label* label : page.Top) {
     auto* view = new TopLabel(*label, views_.empty(), stage, this);
     views_.push_back(view);

@@ -35,7 +35,10 @@ class HubFrame : public QWidget {
   SideBar& Side() { return *side_; }
   TopBar& Top() { return *top_; }
   QStackedWidget& Room() { return *room_; }
-  void Refresh();
+  void Refresh() {
+    side_->Refresh();
+    top_->Refresh();
+  }
 
  private:
   SideBar* side_;

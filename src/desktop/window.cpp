@@ -2,11 +2,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QTimer>
 #include <algorithm>
 
-#include "desktop/look.h"
+#include "desktop/pieces.h"
 
 namespace grapplemont::desktop {
 
@@ -17,10 +16,6 @@ constexpr QSize kUsualSize(1280, 800), kLeastSize(1024, 640);
 constexpr qint64 kPatience = 200;  // milliseconds
 constexpr qint64 kFrame = 33;      // between two pictures of a long event
 constexpr int kHintTime = 6000;
-
-bool Fills(ui::Role role) {
-  return role != ui::Role::Dialog;
-}
 
 }  // namespace
 
@@ -63,34 +58,28 @@ bool Window::IsPatient(const ui::Screen& screen) {
 
 Window::Scene Window::Survey() {
   Scene scene;
-  const auto& screens = desk_.Screens();
-  const int count = static_cast<int>(screens.size());
   const ui::Screen* waiting = nullptr;
-  for (int place = 0; place < count; ++place) {
-    const ui::Screen& screen = *screens[static_cast<std::size_t>(place)];
-    const ui::Role role = screen.Is();
+  for (const Held& screen : desk_.Screens()) {
+    const ui::Role role = screen->Is();
     if (role == ui::Role::Wait) {
-      waiting = &screen;
-      if (IsPatient(screen)) continue;
+      waiting = screen.get();
+      if (IsPatient(*screen)) continue;
     }
-    if (Fills(role)) {
-      scene.Base = place;
-      scene.Dialogs.clear();
-      if (role == ui::Role::Hub) scene.Hub = place;
-    } else {
-      scene.Dialogs.push_back(place);
+    if (role == ui::Role::Dialog) {
+      scene.Dialogs.push_back(screen);
+      continue;
     }
+    scene.Base = screen;
+    scene.Dialogs.clear();
+    if (role == ui::Role::Hub) scene.Hub = screen;
   }
   if (!waiting) waitsFor_ = nullptr;
   return scene;
 }
 
 void Window::DropGone() {
-  for (Layer& layer : layers_) {
-    const bool held = std::any_of(desk_.Screens().begin(), desk_.Screens().end(),
-                                  [&](const auto& screen) { return screen.get() == layer.Screen; });
-    if (!held) Retire(layer);
-  }
+  for (Layer& layer : layers_)
+    if (!desk_.Holds(*layer.Screen)) Retire(layer);
   std::erase_if(layers_, [](const Layer& layer) { return !layer.View; });
 }
 
@@ -111,8 +100,8 @@ void Window::Retire(Layer& layer) {
     frame->hide();
     frame->deleteLater();
   } else {
-    QWidget* const widget =
-        layer.Over ? static_cast<QWidget*>(layer.Over.data()) : static_cast<QWidget*>(layer.View);
+    QWidget* widget = layer.View;
+    if (layer.Over) widget = layer.Over;
     widget->hide();
     widget->deleteLater();
   }
@@ -125,15 +114,13 @@ void Window::RetireAll() {
   top_ = nullptr;
 }
 
-Window::Layer& Window::LayerOf(int place, const Scene& scene) {
-  const auto& screen = desk_.Screens()[static_cast<std::size_t>(place)];
+Window::Layer& Window::LayerOf(const Held& screen, const Scene& scene) {
   for (Layer& layer : layers_)
     if (layer.Screen == screen.get()) return layer;
   Layer layer{screen.get(), nullptr, nullptr};
   if (screen->Is() == ui::Role::Dialog) {
     layer.Over = new Veil(ground_);
-    auto* inside = new QVBoxLayout(&layer.Over->Sheet());
-    inside->setContentsMargins(Px(20), Px(18), Px(20), Px(18));
+    auto* inside = NewLayout<QVBoxLayout>(&layer.Over->Sheet(), -1, {20, 18, 20, 18});
     layer.View = new ScreenView(screen, *this, &layer.Over->Sheet());
     inside->addWidget(layer.View);
     layer.View->setMinimumWidth(Px(380));
@@ -149,21 +136,19 @@ Window::Layer& Window::LayerOf(int place, const Scene& scene) {
 /// Puts a page into the room beside the side bar, all else over the whole window.
 void Window::Place(ScreenView& view, const Scene& scene) {
   const ui::Role role = view.Shows().Is();
-  if (role == ui::Role::Hub) {
-    FrameOf(scene.Hub).Room().addWidget(&view);
-  } else if (role == ui::Role::Page && scene.Hub >= 0) {
-    LayerOf(scene.Hub, scene);  // the frame comes with the hub
-    FrameOf(scene.Hub).Room().addWidget(&view);
-  } else {
+  const bool framed = role == ui::Role::Hub || (role == ui::Role::Page && scene.Hub);
+  if (!framed) {
     full_->addWidget(&view);
+    return;
   }
+  if (role == ui::Role::Page) LayerOf(scene.Hub, scene);  // the frame comes with the hub
+  FrameOf(*scene.Hub).Room().addWidget(&view);
 }
 
-HubFrame& Window::FrameOf(int hub) {
-  ui::Screen* const screen = desk_.Screens()[static_cast<std::size_t>(hub)].get();
-  if (frame_ && framed_ == screen) return *frame_;
-  frame_ = new HubFrame(screen->Layout(), *this, ground_);
-  framed_ = screen;
+HubFrame& Window::FrameOf(ui::Screen& hub) {
+  if (framed_ == &hub) return *frame_;
+  frame_ = new HubFrame(hub.Layout(), *this, ground_);
+  framed_ = &hub;
   frame_->Side().Pressed = [this](ui::Button& command) { PressHub(command); };
   frame_->Side().Search = [this] { OpenFinder(); };
   frame_->Side().Home = [this] {
@@ -180,7 +165,7 @@ void Window::Sync() {
   if (ScreenView* top = TopView()) top->RememberKeyboard();
   DropGone();
   const Scene scene = Survey();
-  if (scene.Base >= 0) ShowNow(scene);
+  if (scene.Base) ShowNow(scene);
   syncing_ = false;
 }
 
@@ -190,13 +175,13 @@ void Window::ShowNow(const Scene& scene) {
   if (framed) {
     frame_->Room().setCurrentWidget(base);
     frame_->Refresh();
-    frame_->Side().SetNow(CommandOf(scene));
+    frame_->Side().SetNow(PresentCommand());
   }
   base->Refresh();
-  full_->setCurrentWidget(framed ? static_cast<QWidget*>(frame_) : base);
+  full_->setCurrentWidget(framed ? frame_ : static_cast<QWidget*>(base));
   ScreenView* top = base;
-  for (const int place : scene.Dialogs) {
-    Layer& layer = LayerOf(place, scene);
+  for (const Held& dialog : scene.Dialogs) {
+    Layer& layer = LayerOf(dialog, scene);
     layer.View->Refresh();
     layer.Over->PlaceCard();
     layer.Over->show();
@@ -214,10 +199,9 @@ void Window::ShowNow(const Scene& scene) {
   if (!box_) top->TakeKeyboard();
 }
 
-/// The view of the desk's top screen, if it has been shown.
-ScreenView* Window::TopView() const {
+ScreenView* Window::ViewFor(const ui::Screen* screen) const {
   for (const Layer& layer : layers_)
-    if (layer.View && layer.Screen == top_) return layer.View;
+    if (layer.View && layer.Screen == screen) return layer.View;
   return nullptr;
 }
 
@@ -228,55 +212,28 @@ void Window::Act(const std::function<std::string()>& act) {
   --acting_;
   Sync();
   if (!why.empty()) Hint(*this, Shown(why));
-  AfterEvent();
+  // The program ends when nothing lies on the desk any more, or when the window was to be closed
+  // amid an event.
+  if (desk_.Empty() || closing_) QTimer::singleShot(0, this, [this] { close(); });
 }
 
-/// The program ends when nothing lies on the desk any more, or when the window was to be closed
-/// amid an event.
-void Window::AfterEvent() {
-  if (!desk_.Empty() && !closing_) return;
-  QTimer::singleShot(0, this, [this] { close(); });
-}
-
-std::optional<int> Window::RunBox(MessageBox& box) {
+int Window::AnswerOf(const std::string& title, const std::string& text, const QStringList& captions,
+                     int usual, std::string* line) {
+  if (closing_) return 0;
+  Sync();
+  MessageBox box(ground_, Shown(title), Shown(text));
+  if (line) box.AddLine(Shown(*line), *this);
+  for (int i = 0; i < captions.size(); ++i) box.AddButton(captions[i], i, i == usual);
   const QPointer<QWidget> focus = focusWidget();
   const QPointer<MessageBox> before = box_;
   const bool busy = std::exchange(busy_, false);
   box_ = &box;
-  const auto answer = box.Run();
+  const int answer = box.Run().value_or(0);
   box_ = before;
   busy_ = busy;
   if (focus && focus->isVisible()) focus->setFocus(Qt::OtherFocusReason);
+  if (line) *line = Keep(box.Line()).Text;
   return answer;
-}
-
-void Window::Say(const std::string& title, const std::string& text) {
-  if (closing_) return;
-  Sync();
-  MessageBox box(ground_, Shown(title), Shown(text));
-  box.AddButton("OK", 1, true);
-  RunBox(box);
-}
-
-bool Window::Ask(const std::string& title, const std::string& text, ui::Default answer) {
-  if (closing_) return false;
-  Sync();
-  MessageBox box(ground_, Shown(title), Shown(text));
-  const bool yes = answer == ui::Default::Yes;
-  box.AddButton("No", 0, !yes);
-  box.AddButton("Yes", 1, yes);
-  return RunBox(box).value_or(0) == 1;
-}
-
-std::string Window::Prompt(const std::string& title, const std::string& text,
-                           const std::string& offered) {
-  if (closing_) return {};
-  Sync();
-  MessageBox box(ground_, Shown(title), Shown(text));
-  box.AddLine(Shown(offered), *this);
-  box.AddButton("Cancel", 0, false);
-  box.AddButton("OK", 1, true);
-  return RunBox(box).value_or(0) == 1 ? Keep(box.Line()).Text : std::string();
 }
 
 void Window::RepaintNow() {
@@ -314,12 +271,6 @@ void Window::Hint(QWidget& beside, const QString& text) {
   QTimer::singleShot(kHintTime, hint_.data(), &QObject::deleteLater);
 }
 
-void Window::KeepPlace() {
-  for (const Layer& layer : layers_)
-    if (layer.View) layer.View->Leave();
-  settings_.SetPlace(saveGeometry());
-}
-
 /// There is nothing to save, so nothing is asked. Amid an event, its boxes get the careful answer
 /// and the window goes once the event has ended.
 void Window::closeEvent(QCloseEvent* event) {
@@ -328,9 +279,31 @@ void Window::closeEvent(QCloseEvent* event) {
     if (box_) box_->Dismiss();
     return event->ignore();
   }
-  KeepPlace();
+  for (const Layer& layer : layers_)
+    if (layer.View) layer.View->Leave();
+  settings_.SetPlace(saveGeometry());
   if (options_.Closing) options_.Closing();
   event->accept();
+}
+
+void WindowDesk::Say(const std::string& title, const std::string& text) {
+  if (window_) window_->AnswerOf(title, text, {"OK"}, 0);
+}
+
+bool WindowDesk::Ask(const std::string& title, const std::string& text, ui::Default answer) {
+  const int usual = answer == ui::Default::Yes ? 1 : 0;
+  return window_ && window_->AnswerOf(title, text, {"No", "Yes"}, usual) == 1;
+}
+
+std::string WindowDesk::Prompt(const std::string& title, const std::string& text,
+                               const std::string& offered) {
+  std::string line = offered;
+  const bool taken = window_ && window_->AnswerOf(title, text, {"Cancel", "OK"}, 1, &line) == 1;
+  return taken ? line : std::string();
+}
+
+void WindowDesk::Repaint() {
+  if (window_) window_->RepaintNow();
 }
 
 }  // namespace grapplemont::desktop

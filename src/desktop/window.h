@@ -15,6 +15,23 @@
 
 namespace grapplemont::desktop {
 
+class Window;
+
+/// The desk whose screens lie in a window. Without one, questions are answered with the careful
+/// answer.
+class WindowDesk : public ui::Desk {
+ public:
+  void Say(const std::string& title, const std::string& text) override;
+  bool Ask(const std::string& title, const std::string& text, ui::Default answer) override;
+  std::string Prompt(const std::string& title, const std::string& text,
+                     const std::string& offered) override;
+  void Repaint() override;
+
+ private:
+  friend class Window;
+  Window* window_ = nullptr;
+};
+
 /// The one window of the program: it shows what lies on the desk.
 class Window : public QMainWindow, public Stage {
  public:
@@ -30,9 +47,10 @@ class Window : public QMainWindow, public Stage {
   void Sync();
 
   // What the desk asks for.
-  void Say(const std::string& title, const std::string& text);
-  bool Ask(const std::string& title, const std::string& text, ui::Default answer);
-  std::string Prompt(const std::string& title, const std::string& text, const std::string& offered);
+  /// Waits for the answer to a box: the place of its button from 0, the careful answer when there
+  /// is none. With a line, that is offered and then holds what was typed.
+  int AnswerOf(const std::string& title, const std::string& text, const QStringList& captions,
+               int usual, std::string* line = nullptr);
   void RepaintNow();
 
   // The stage of the views.
@@ -54,42 +72,51 @@ class Window : public QMainWindow, public Stage {
     ScreenView* View;
     QPointer<Veil> Over;
   };
-  /// Which screens of the desk are to be seen, by their places in its stack.
+  using Held = std::shared_ptr<ui::Screen>;
+  /// Which screens of the desk are to be seen.
   struct Scene {
-    int Base = -1, Hub = -1;
-    std::vector<int> Dialogs;
+    Held Base, Hub;
+    std::vector<Held> Dialogs;
   };
   Scene Survey();
   /// Whether a waiting screen has come too lately to be shown.
   bool IsPatient(const ui::Screen& screen);
   void DropGone();
-  Layer& LayerOf(int place, const Scene& scene);
+  Layer& LayerOf(const Held& screen, const Scene& scene);
   void Place(ScreenView& view, const Scene& scene);
-  HubFrame& FrameOf(int hub);
+  HubFrame& FrameOf(ui::Screen& hub);
   void Retire(Layer& layer);
   void RetireAll();
   void ShowNow(const Scene& scene);
-  ScreenView* TopView() const;
+  /// What is shown of a screen; nullptr for nothing.
+  ScreenView* ViewFor(const ui::Screen* screen) const;
+  ScreenView* TopView() const { return ViewFor(top_); }
+  ScreenView* HubView() const { return ViewFor(framed_); }
 
   // The hub's commands, in hubcommands.cpp.
   void PressHub(ui::Button& command);
   /// Leaves what lies above the hub by its Cancel buttons; false when something stays.
   bool LeaveUpTo(const ui::Screen& hub);
-  void RememberCommand(const ui::Screen& hub, const ui::Button& command);
-  const ui::Button* CommandOf(const Scene& scene) const;
-  ScreenView* HubView() const;
+  const ui::Screen* Above(const ui::Screen& hub) const;
+  const ui::Button* PresentCommand() const;
+  /// Whether the side bar may be used: no dialog lies over it.
+  bool HubInReach() const;
   bool PressSideKey(const QKeyEvent& event);
   void OpenFinder();
   std::vector<Finder::Entry> FinderEntries();
 
+  // Keys and the window's own commands, in windowkeys.cpp.
+  struct OwnCommand {
+    std::vector<int> Keys;  // with Ctrl
+    QString Words, Key;     // as they are found; without words it is not
+    std::function<void()> Run;
+  };
+  std::vector<OwnCommand> OwnCommands();
   bool HandleCommonKey(const QKeyEvent& event);
   void TurnColours();
   void SetZoom(int zoom);
   void Relook();
-  std::optional<int> RunBox(MessageBox& box);
   bool SwallowWhileBusy(QObject* watched, QEvent* event);
-  void AfterEvent();
-  void KeepPlace();
 
   WindowDesk& desk_;
   Options options_;

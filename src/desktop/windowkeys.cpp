@@ -14,9 +14,21 @@ namespace grapplemont::desktop {
 void Window::keyPressEvent(QKeyEvent* event) {
   ScreenView* top = TopView();
   if (!top || box_ || finder_ || acting_ > 0 || event->isAutoRepeat()) return;
-  if (top->HandleKey(event->key())) return;
-  // The home page of the hub has its main action in the top bar; its layout names it too.
-  QMainWindow::keyPressEvent(event);
+  if (!top->HandleKey(event->key())) QMainWindow::keyPressEvent(event);
+}
+
+/// What the window does by itself, with Ctrl and a key or by search.
+std::vector<Window::OwnCommand> Window::OwnCommands() {
+  const bool dark = IsDark(settings_.Colours());
+  return {
+      {{Qt::Key_K}, {}, {}, [this] { OpenFinder(); }},
+      {{Qt::Key_L}, dark ? "Light colours" : "Dark colours", "Ctrl L", [this] { TurnColours(); }},
+      {{Qt::Key_Plus, Qt::Key_Equal},
+       "Larger text",
+       "Ctrl +",
+       [this] { SetZoom(settings_.Zoom() + 1); }},
+      {{Qt::Key_Minus}, "Smaller text", "Ctrl -", [this] { SetZoom(settings_.Zoom() - 1); }},
+      {{Qt::Key_0}, "Text as the desktop has it", "Ctrl 0", [this] { SetZoom(0); }}};
 }
 
 bool Window::HandleCommonKey(const QKeyEvent& event) {
@@ -24,28 +36,13 @@ bool Window::HandleCommonKey(const QKeyEvent& event) {
   const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
   if (modifiers == Qt::NoModifier) return PressSideKey(event);
   if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier)) return false;
-  switch (event.key()) {
-    case Qt::Key_K:
-      OpenFinder();
+  if (event.key() == Qt::Key_F) return TopView() && TopView()->FocusSearch();
+  for (const OwnCommand& own : OwnCommands())
+    if (std::find(own.Keys.begin(), own.Keys.end(), event.key()) != own.Keys.end()) {
+      own.Run();
       return true;
-    case Qt::Key_L:
-      TurnColours();
-      return true;
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-      SetZoom(settings_.Zoom() + 1);
-      return true;
-    case Qt::Key_Minus:
-      SetZoom(settings_.Zoom() - 1);
-      return true;
-    case Qt::Key_0:
-      SetZoom(0);
-      return true;
-    case Qt::Key_F:
-      return TopView() && TopView()->FocusSearch();
-    default:
-      return false;
-  }
+    }
+  return false;
 }
 
 void Window::TurnColours() {
@@ -67,30 +64,31 @@ void Window::Relook() {
   Sync();
 }
 
+namespace {
+
+constexpr QEvent::Type kInput[] = {QEvent::MouseButtonPress,
+                                   QEvent::MouseButtonRelease,
+                                   QEvent::MouseButtonDblClick,
+                                   QEvent::Wheel,
+                                   QEvent::KeyPress,
+                                   QEvent::KeyRelease,
+                                   QEvent::Shortcut,
+                                   QEvent::ShortcutOverride,
+                                   QEvent::ContextMenu,
+                                   QEvent::TouchBegin,
+                                   QEvent::TouchUpdate,
+                                   QEvent::TouchEnd};
+
+}  // namespace
+
 /// While an event is under way and shows itself, nothing that is typed or clicked counts.
 bool Window::SwallowWhileBusy(QObject* watched, QEvent* event) {
-  switch (event->type()) {
-    case QEvent::Close:
-      if (watched != this) return false;
-      closing_ = true;
-      event->ignore();
-      return true;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::Shortcut:
-    case QEvent::ShortcutOverride:
-    case QEvent::ContextMenu:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-      return true;
-    default:
-      return false;
+  if (event->type() == QEvent::Close && watched == this) {
+    closing_ = true;
+    event->ignore();
+    return true;
   }
+  return std::ranges::find(kInput, event->type()) != std::end(kInput);
 }
 
 bool Window::eventFilter(QObject* watched, QEvent* event) {

@@ -1,51 +1,40 @@
 #include "ui/acts.h"
 
-#include <charconv>
+#include <functional>
+
+#include "ui/asnumber.h"
 
 namespace grapplemont::ui {
 
 namespace {
 
-/// The control if it is there for the player, else nullptr and why not.
-Control* Reach(Screen& screen, std::string_view name, std::string& why) {
+std::string Quoted(std::string_view text) {
+  return "\"" + std::string(text) + "\"";
+}
+
+/// Does an act to a control that is there for the player; else why it cannot be done.
+std::string Reach(Screen& screen, std::string_view name,
+                  const std::function<std::string(Control&)>& act) {
   Control* control = screen.Find(name);
-  const std::string quoted = "\"" + std::string(name) + "\"";
-  if (!control) {
-    why = screen.Name() + " has no control " + quoted + ".";
-  } else if (!control->Visible) {
-    why = quoted + " is not visible.";
-  } else if (!control->Enabled) {
-    why = quoted + " is disabled.";
-  } else {
-    return control;
-  }
-  return nullptr;
+  if (!control) return screen.Name() + " has no control " + Quoted(name) + ".";
+  if (!control->Visible) return Quoted(name) + " is not visible.";
+  if (!control->Enabled) return Quoted(name) + " is disabled.";
+  return act(*control);
 }
 
 std::string CannotBe(const Control& control, std::string_view action) {
-  return "\"" + control.Name() + "\" is a " + std::string(KindName(control.Is())) +
+  return Quoted(control.Name()) + " is a " + std::string(KindName(control.Is())) +
          " and cannot be " + std::string(action) + ".";
 }
 
-/// The row that a number or a text means; 0 when none.
-template <class TextOf>
-int FindRow(std::string_view rowOrText, int count, TextOf textOf) {
-  for (int row = 1; row <= count; ++row)
-    if (textOf(row) == rowOrText) return row;
-  int row = 0;
-  const auto [end, fault] =
-      std::from_chars(rowOrText.data(), rowOrText.data() + rowOrText.size(), row);
-  const bool whole = fault == std::errc() && end == rowOrText.data() + rowOrText.size();
-  return whole && row >= 1 && row <= count ? row : 0;
-}
-
-std::string NoRow(const Control& control, std::string_view rowOrText) {
-  return "\"" + control.Name() + "\" has no row \"" + std::string(rowOrText) + "\".";
-}
-
-std::string FirstColumn(const ListBox& list, int row) {
-  const auto& cells = list.Rows()[static_cast<std::size_t>(row - 1)].Cells;
-  return cells.empty() ? std::string() : cells.front().Text;
+/// The same to a control of class C alone; `action` is what cannot be done to any other.
+template <class C>
+std::string ReachA(Screen& screen, std::string_view name, std::string_view action,
+                   const std::function<std::string(C&)>& act) {
+  return Reach(screen, name, [&](Control& control) {
+    auto* of = dynamic_cast<C*>(&control);
+    return of ? act(*of) : CannotBe(control, action);
+  });
 }
 
 void Choose(Screen& screen, OptionButton& chosen) {
@@ -58,140 +47,130 @@ void Choose(Screen& screen, OptionButton& chosen) {
 }  // namespace
 
 std::string Click(Desk& desk, Screen& screen, std::string_view name) {
-  std::string why;
-  Control* control = Reach(screen, name, why);
-  if (!control) return why;
-  if (auto* button = dynamic_cast<Button*>(control)) {
-    desk.Event(button->OnClick);
-  } else if (auto* picture = dynamic_cast<Picture*>(control); picture && picture->OnClick) {
-    desk.Event(picture->OnClick);
-  } else if (auto* box = dynamic_cast<CheckBox*>(control)) {
-    return Check(desk, screen, name, !box->Checked);
-  } else if (dynamic_cast<OptionButton*>(control)) {
-    return Check(desk, screen, name, true);
-  } else {
-    return CannotBe(*control, "clicked");
-  }
-  return {};
+  return Reach(screen, name, [&](Control& control) -> std::string {
+    auto* button = dynamic_cast<Button*>(&control);
+    auto* picture = dynamic_cast<Picture*>(&control);
+    if (const auto* box = dynamic_cast<CheckBox*>(&control))
+      return Check(desk, screen, name, !box->Checked);
+    if (control.Is() == Kind::OptionButton) return Check(desk, screen, name, true);
+    if (!button && !(picture && picture->OnClick)) return CannotBe(control, "clicked");
+    desk.Event(button ? button->OnClick : picture->OnClick);
+    return {};
+  });
 }
 
 std::string Type(Desk& desk, Screen& screen, std::string_view name, std::string_view text) {
-  std::string why;
-  Control* control = Reach(screen, name, why);
-  if (!control) return why;
-  auto* box = dynamic_cast<TextBox*>(control);
-  if (!box) return CannotBe(*control, "typed into");
-  if (box->MaxLength > 0) text = text.substr(0, static_cast<std::size_t>(box->MaxLength));
-  box->Text = text;
-  desk.Event(box->OnChange);
-  return {};
+  return ReachA<TextBox>(screen, name, "typed into", [&](TextBox& box) -> std::string {
+    if (box.MaxLength > 0) text = text.substr(0, static_cast<std::size_t>(box.MaxLength));
+    box.Text = text;
+    desk.Event(box.OnChange);
+    return {};
+  });
 }
 
 namespace {
 
-using FindIn = int (*)(const Control& control, std::string_view wanted);
-
-int ByNumberOrText(const Control& control, std::string_view wanted) {
-  if (const auto* combo = dynamic_cast<const ComboBox*>(&control))
-    return FindRow(wanted, combo->Count(), [&](int row) -> std::string_view {
-      return combo->Rows()[static_cast<std::size_t>(row - 1)];
-    });
-  const auto& list = dynamic_cast<const ListBox&>(control);
-  return FindRow(wanted, list.Count(), [&](int row) { return FirstColumn(list, row); });
+/// What a row's first column says.
+std::string_view TextOf(const ComboBox& combo, int row) {
+  return combo.Rows()[static_cast<std::size_t>(row - 1)];
+}
+std::string_view TextOf(const ListBox& list, int row) {
+  const auto& cells = list.Rows()[static_cast<std::size_t>(row - 1)].Cells;
+  return cells.empty() ? std::string_view() : cells.front().Text;
 }
 
-int ByNumber(const Control& control, std::string_view wanted) {
-  const auto* combo = dynamic_cast<const ComboBox*>(&control);
-  const int count = combo ? combo->Count() : dynamic_cast<const ListBox&>(control).Count();
-  return FindRow(wanted, count, [](int) { return std::string_view(); });
-}
+/// A row as a player names it.
+struct Wanted {
+  std::string Words;
+  bool ByText = true;  // else by its number alone
 
-std::string PickBy(FindIn find, Desk& desk, Screen& screen, std::string_view name,
-                   std::string_view wanted) {
-  std::string why;
-  Control* control = Reach(screen, name, why);
-  if (!control) return why;
-  auto* combo = dynamic_cast<ComboBox*>(control);
-  auto* list = dynamic_cast<ListBox*>(control);
-  if (!combo && !list) return CannotBe(*control, "picked from");
-  const int row = find(*control, wanted);
-  if (row == 0) return NoRow(*control, wanted);
-  if (combo) {
-    combo->Select(row);
-    desk.Event(combo->OnPick);
-  } else {
-    list->Multi ? list->Toggle(row) : list->Select(row);
-    desk.Event(list->OnPick);
+  /// The row that is meant; 0 when none.
+  template <class Rows>
+  int In(const Rows& rows) const {
+    for (int row = 1; ByText && row <= rows.Count(); ++row)
+      if (TextOf(rows, row) == Words) return row;
+    const int row = AsNumber(Words).value_or(0);
+    return row >= 1 && row <= rows.Count() ? row : 0;
   }
-  return {};
+};
+
+std::string NoRow(const Control& control, const Wanted& wanted) {
+  return Quoted(control.Name()) + " has no row " + Quoted(wanted.Words) + ".";
 }
 
-std::string OpenBy(FindIn find, Desk& desk, Screen& screen, std::string_view name,
-                   std::string_view wanted) {
-  std::string why;
-  Control* control = Reach(screen, name, why);
-  if (!control) return why;
-  auto* list = dynamic_cast<ListBox*>(control);
-  if (!list || !list->OnOpen) return CannotBe(*control, "opened");
-  const int row = find(*control, wanted);
-  if (row == 0) return NoRow(*list, wanted);
-  list->Select(row);
-  desk.Event([list] {
-    if (list->OnPick) list->OnPick();
-    list->OnOpen();
+std::string PickRow(Desk& desk, Screen& screen, std::string_view name, const Wanted& wanted) {
+  return Reach(screen, name, [&](Control& control) -> std::string {
+    auto* combo = dynamic_cast<ComboBox*>(&control);
+    auto* list = dynamic_cast<ListBox*>(&control);
+    if (!combo && !list) return CannotBe(control, "picked from");
+    const int row = combo ? wanted.In(*combo) : wanted.In(*list);
+    if (row == 0) return NoRow(control, wanted);
+    if (combo) {
+      combo->Select(row);
+    } else {
+      list->Multi ? list->Toggle(row) : list->Select(row);
+    }
+    desk.Event(combo ? combo->OnPick : list->OnPick);
+    return {};
   });
-  return {};
+}
+
+std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, const Wanted& wanted) {
+  return ReachA<ListBox>(screen, name, "opened", [&](ListBox& list) -> std::string {
+    if (!list.OnOpen) return CannotBe(list, "opened");
+    const int row = wanted.In(list);
+    if (row == 0) return NoRow(list, wanted);
+    list.Select(row);
+    desk.Event([&list] {
+      if (list.OnPick) list.OnPick();
+      list.OnOpen();
+    });
+    return {};
+  });
 }
 
 }  // namespace
 
 std::string Pick(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText) {
-  return PickBy(ByNumberOrText, desk, screen, name, rowOrText);
+  return PickRow(desk, screen, name, {std::string(rowOrText)});
 }
 std::string Pick(Desk& desk, Screen& screen, std::string_view name, int row) {
-  return PickBy(ByNumber, desk, screen, name, std::to_string(row));
+  return PickRow(desk, screen, name, {std::to_string(row), false});
 }
 std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText) {
-  return OpenBy(ByNumberOrText, desk, screen, name, rowOrText);
+  return OpenRow(desk, screen, name, Wanted{std::string(rowOrText)});
 }
 std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, int row) {
-  return OpenBy(ByNumber, desk, screen, name, std::to_string(row));
+  return OpenRow(desk, screen, name, Wanted{std::to_string(row), false});
 }
 
 std::string Check(Desk& desk, Screen& screen, std::string_view name, bool on) {
-  std::string why;
-  Control* control = Reach(screen, name, why);
-  if (!control) return why;
-  if (auto* box = dynamic_cast<CheckBox*>(control)) {
-    if (box->Checked != on) {
+  return Reach(screen, name, [&](Control& control) -> std::string {
+    auto* box = dynamic_cast<CheckBox*>(&control);
+    auto* option = dynamic_cast<OptionButton*>(&control);
+    if (!box && !option) return CannotBe(control, "checked");
+    if (option && !on) return Quoted(name) + " is left by checking another of its group.";
+    if ((box ? box->Checked : option->Checked) == on) return {};
+    if (box) {
       box->Checked = on;
-      desk.Event(box->OnClick);
-    }
-  } else if (auto* option = dynamic_cast<OptionButton*>(control)) {
-    if (!on) return "\"" + option->Name() + "\" is left by checking another of its group.";
-    if (!option->Checked) {
+    } else {
       Choose(screen, *option);
-      desk.Event(option->OnClick);
     }
-  } else {
-    return CannotBe(*control, "checked");
-  }
-  return {};
+    desk.Event(box ? box->OnClick : option->OnClick);
+    return {};
+  });
 }
 
 std::string Slide(Desk& desk, Screen& screen, std::string_view name, int value) {
-  std::string why;
-  Control* control = Reach(screen, name, why);
-  if (!control) return why;
-  auto* bar = dynamic_cast<ScrollBar*>(control);
-  if (!bar) return CannotBe(*control, "slid");
-  if (value < bar->Min || value > bar->Max)
-    return "\"" + bar->Name() + "\" goes from " + std::to_string(bar->Min) + " to " +
-           std::to_string(bar->Max) + ".";
-  if (bar->Value == value) return {};
-  bar->Value = value;
-  desk.Event(bar->OnChange);
-  return {};
+  return ReachA<ScrollBar>(screen, name, "slid", [&](ScrollBar& bar) -> std::string {
+    if (value < bar.Min || value > bar.Max)
+      return Quoted(name) + " goes from " + std::to_string(bar.Min) + " to " +
+             std::to_string(bar.Max) + ".";
+    if (bar.Value == value) return {};
+    bar.Value = value;
+    desk.Event(bar.OnChange);
+    return {};
+  });
 }
 
 namespace {
@@ -225,7 +204,7 @@ std::string Follow(Desk& desk, Screen& screen, std::string_view words) {
       return {};
     }
   }
-  return screen.Name() + " shows no link \"" + std::string(words) + "\".";
+  return screen.Name() + " shows no link " + Quoted(words) + ".";
 }
 
 }  // namespace grapplemont::ui

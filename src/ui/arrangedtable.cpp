@@ -64,7 +64,7 @@ void Table::ArrangeColumns() {
       if (Id(column) == id) place(column);
   for (int column = 0; column < count; ++column) place(column);
   const auto hidden = [&](int column) { return state_.Hidden.contains(Id(column)); };
-  if (!std::all_of(columns_.begin(), columns_.end(), hidden)) std::erase_if(columns_, hidden);
+  if (!std::ranges::all_of(columns_, hidden)) std::erase_if(columns_, hidden);
 }
 
 void Table::ArrangeRows() {
@@ -77,7 +77,7 @@ void Table::ArrangeRows() {
   rows_.clear();
   for (int row = 0; row < list_.Count(); ++row) {
     const ListBox::Row& candidate = list_.Rows()[Index(row)];
-    const bool fits = std::all_of(filters.begin(), filters.end(), [&](const auto& filter) {
+    const bool fits = std::ranges::all_of(filters, [&](const auto& filter) {
       return filter.second.Fits(CellOf(candidate, filter.first), columns[Index(filter.first)].Kind);
     });
     if (fits && search.Fits(candidate.Cells, columns)) rows_.push_back(row);
@@ -120,18 +120,11 @@ void Table::SortRows() {
       break;
     }
   if (keys.empty()) return;
-  std::stable_sort(rows_.begin(), rows_.end(), [&](int a, int b) {
+  std::ranges::stable_sort(rows_, [&](int a, int b) {
     for (const SortColumn& key : keys)
       if (const auto order = key.Compare(Index(a), Index(b)); order != 0) return order < 0;
     return false;
   });
-}
-
-TableState::SortKey* Table::KeyFor(int listColumn) {
-  const std::string id = Id(listColumn);
-  const auto found = std::find_if(state_.Sort.begin(), state_.Sort.end(),
-                                  [&](const auto& key) { return key.Column == id; });
-  return found == state_.Sort.end() ? nullptr : &*found;
 }
 
 void Table::TurnSort(int listColumn, bool second) {
@@ -141,11 +134,11 @@ void Table::TurnSort(int listColumn, bool second) {
   auto& sort = state_.Sort;
   if (!second && (sort.size() != 1 || sort.front().Column != id)) {
     sort = {{id, falls}};
-  } else if (TableState::SortKey* key = KeyFor(listColumn); !key) {
+  } else if (const int place = SortPlace(listColumn); place == 0) {
     if (sort.size() > 1) sort.resize(1);
     sort.push_back({id, falls});
-  } else if (key->Descending == falls) {
-    key->Descending = !falls;
+  } else if (bool& down = sort[Index(place - 1)].Descending; down == falls) {
+    down = !falls;
   } else {
     std::erase_if(sort, [&](const auto& held) { return held.Column == id; });
   }
@@ -293,8 +286,7 @@ std::string Table::Csv() const {
     std::string_view part;
     for (const int column : columns_) {
       csv += part;
-      const auto& title = list_.Columns()[static_cast<std::size_t>(column)].Title;
-      AppendCsv(csv, row < 0 ? title : At(row, column).Text);
+      AppendCsv(csv, row < 0 ? list_.Columns()[Index(column)].Title : At(row, column).Text);
       part = ",";
     }
     csv += "\r\n";

@@ -83,7 +83,6 @@ class Table {
   void ArrangeColumns();
   void ArrangeRows();
   void SortRows();
-  TableState::SortKey* KeyFor(int listColumn);
   std::string Id(int listColumn) const { return ColumnId(list_.Columns(), listColumn); }
 
   const ListBox& list_;

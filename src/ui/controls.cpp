@@ -181,7 +181,7 @@ void ListBox::Fill(std::vector<Row> rows, bool keepSelection) {
 }
 
 int ListBox::Selected() const {
-  const auto found = std::find_if(rows_.begin(), rows_.end(), [](auto& r) { return r.Selected; });
+  const auto found = std::ranges::find_if(rows_, [](auto& r) { return r.Selected; });
   return found == rows_.end() ? 0 : static_cast<int>(found - rows_.begin()) + 1;
 }
 
@@ -203,8 +203,7 @@ void ListBox::Select(int row) {
 }
 
 void ListBox::SelectKey(int key) {
-  const auto found =
-      std::find_if(rows_.begin(), rows_.end(), [key](auto& r) { return r.Key == key; });
+  const auto found = std::ranges::find_if(rows_, [key](auto& r) { return r.Key == key; });
   Select(found == rows_.end() ? 0 : static_cast<int>(found - rows_.begin()) + 1);
 }
 

@@ -47,8 +47,8 @@ void Desk::LoadTop() {
 }
 
 void Desk::Close(Screen& screen) {
-  const auto found = std::find_if(screens_.begin(), screens_.end(),
-                                  [&](auto& held) { return held.get() == &screen; });
+  const auto found =
+      std::ranges::find_if(screens_, [&](auto& held) { return held.get() == &screen; });
   if (found == screens_.end()) return;
   const bool wasTop = found + 1 == screens_.end();
   closed_.push_back(std::move(*found));
@@ -64,8 +64,7 @@ void Desk::CloseAll() {
 }
 
 bool Desk::Holds(const Screen& screen) const {
-  return std::any_of(screens_.begin(), screens_.end(),
-                     [&](auto& held) { return held.get() == &screen; });
+  return std::ranges::any_of(screens_, [&](auto& held) { return held.get() == &screen; });
 }
 
 void Desk::Event(const Handler& handler) {

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
+#include <compare>
 
 #include "records/fields/fields.h"
+#include "ui/asnumber.h"
 
 namespace grapplemont::ui {
 
@@ -34,13 +35,6 @@ bool TakeFront(std::string_view& text, std::string_view start) {
   return true;
 }
 
-std::optional<int> WholeNumber(std::string_view text) {
-  int number = 0;
-  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (fault != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return number;
-}
-
 /// "09/03/2026" or "2026-03-09" as the day count of the records.
 std::optional<double> ReadDate(std::string_view text) {
   const auto count = [](Day day) {
@@ -50,8 +44,7 @@ std::optional<double> ReadDate(std::string_view text) {
   if (const auto iso = ParseIsoDate(text)) return count(*iso);
   const auto parts = Split(text, '/');
   if (parts.size() != 3) return std::nullopt;
-  const auto day = WholeNumber(parts[0]), month = WholeNumber(parts[1]),
-             year = WholeNumber(parts[2]);
+  const auto day = AsNumber(parts[0]), month = AsNumber(parts[1]), year = AsNumber(parts[2]);
   if (!day || !month || !year || *day < 1 || *month < 1) return std::nullopt;
   const std::chrono::year_month_day date{std::chrono::year{*year < 100 ? *year + 2000 : *year},
                                          std::chrono::month{static_cast<unsigned>(*month)},
@@ -75,11 +68,8 @@ std::optional<double> ReadNumber(std::string_view text) {
     }
   std::string digits(text);
   std::erase(digits, ',');
-  double number = 0;
-  const char* last = digits.data() + digits.size();
-  const auto [end, fault] = std::from_chars(digits.data(), last, number);
-  if (fault != std::errc() || end != last) return std::nullopt;
-  return (negative ? -number : number) * unit;
+  const auto number = AsNumber<double>(digits);
+  return number ? std::optional((negative ? -*number : *number) * unit) : std::nullopt;
 }
 
 /// What the letters 0xC0 to 0xFF are without their accents.
@@ -138,26 +128,21 @@ Filter::Filter(std::string_view expression) {
 }
 
 std::optional<Filter::Term> Filter::Read(std::string_view text) {
-  constexpr std::array<std::pair<std::string_view, Test>, 6> kOperators = {
-      {{">=", Test::GreaterOrEqual},
-       {"<=", Test::LessOrEqual},
-       {"==", Test::Equals},
-       {">", Test::Greater},
-       {"<", Test::Less},
-       {"=", Test::Equals}}};
+  constexpr std::pair<std::string_view, bool (*)(std::partial_ordering)> kOperators[] = {
+      {">=", std::is_gteq}, {"<=", std::is_lteq}, {"==", std::is_eq},
+      {">", std::is_gt},    {"<", std::is_lt},    {"=", std::is_eq}};
   Term term;
   term.Not = TakeFront(text, "!");
-  for (const auto& [sign, test] : kOperators)
+  for (const auto& [sign, compares] : kOperators)
     if (TakeFront(text, sign)) {
-      term.How = test;
+      term.Compares = compares;
       break;
     }
   if (text.empty()) return std::nullopt;
   term.Text = Folded(text);
-  if (const auto dots = text.find(".."); term.How == Test::Holds && dots != text.npos) {
+  if (const auto dots = text.find(".."); !term.Compares && dots != text.npos) {
     term.Low = ReadNumber(Trim(text.substr(0, dots)));
-    term.High = ReadNumber(Trim(text.substr(dots + 2)));
-    if (term.Low && term.High) term.How = Test::Between;
+    if (term.Low) term.High = ReadNumber(Trim(text.substr(dots + 2)));
   } else {
     term.Low = ReadNumber(text);
   }
@@ -166,55 +151,24 @@ std::optional<Filter::Term> Filter::Read(std::string_view text) {
 
 bool Filter::Fits(const Term& term, const Cell& cell, ColumnKind kind) {
   const bool asNumber = IsNumeric(kind) && term.Low;
-  if (term.How == Test::Holds || (term.How == Test::Between && !asNumber))
-    return Folded(cell.Text).find(term.Text) != std::string::npos;
-  if (asNumber) {
-    const double number = cell.Number;
-    switch (term.How) {
-      case Test::Less:
-        return number < *term.Low;
-      case Test::LessOrEqual:
-        return number <= *term.Low;
-      case Test::Greater:
-        return number > *term.Low;
-      case Test::GreaterOrEqual:
-        return number >= *term.Low;
-      case Test::Between:
-        return number >= *term.Low && number <= *term.High;
-      default:
-        return number == *term.Low;
-    }
-  }
-  const int order = Folded(cell.Text).compare(term.Text);
-  switch (term.How) {
-    case Test::Less:
-      return order < 0;
-    case Test::LessOrEqual:
-      return order <= 0;
-    case Test::Greater:
-      return order > 0;
-    case Test::GreaterOrEqual:
-      return order >= 0;
-    default:
-      return order == 0;
-  }
+  if (asNumber && term.High) return cell.Number >= *term.Low && cell.Number <= *term.High;
+  const std::string text = Folded(cell.Text);
+  if (!term.Compares) return text.find(term.Text) != std::string::npos;
+  return term.Compares(asNumber ? cell.Number <=> *term.Low
+                                : std::partial_ordering(text <=> term.Text));
 }
 
 bool Filter::Fits(const Cell& cell, ColumnKind kind) const {
   if (Empty()) return true;
-  return not_ != std::any_of(alternatives_.begin(), alternatives_.end(), [&](const auto& terms) {
-           return std::all_of(terms.begin(), terms.end(),
-                              [&](const Term& term) { return Fits(term, cell, kind) != term.Not; });
+  return not_ != std::ranges::any_of(alternatives_, [&](const auto& terms) {
+           return std::ranges::all_of(
+               terms, [&](const Term& term) { return Fits(term, cell, kind) != term.Not; });
          });
 }
 
 namespace {
 
-constexpr std::string_view kSigns = "<>=!:";
-
-bool IsComparison(std::string_view text) {
-  return !text.empty() && (text.front() == '<' || text.front() == '>' || text.front() == '=');
-}
+constexpr std::string_view kSigns = "<>=!:", kComparing = "<>=";
 
 /// The column that a name means: its whole title, or the only one that begins so.
 std::optional<std::size_t> ColumnNamed(std::string_view name, const std::vector<Column>& columns) {
@@ -243,7 +197,7 @@ Search::Search(std::string_view line, const std::vector<Column>& columns) {
       TakeFront(text, ":");
     } else {
       term.Not = TakeFront(text, "!");
-      term.NumbersAlone = IsComparison(text);
+      term.NumbersAlone = text.find_first_of(kComparing) == 0;
     }
     term.Wanted = Filter(text);
     if (!term.Wanted.Empty()) terms_.push_back(std::move(term));
@@ -256,7 +210,7 @@ bool Search::Fits(const std::vector<Cell>& cells, const std::vector<Column>& col
     const ColumnKind kind = i < columns.size() ? columns[i].Kind : ColumnKind::Text;
     return (!term.NumbersAlone || IsNumeric(kind)) && term.Wanted.Fits(cells[i], kind);
   };
-  return std::all_of(terms_.begin(), terms_.end(), [&](const Term& term) {
+  return std::ranges::all_of(terms_, [&](const Term& term) {
     if (term.Column) return fits(term, *term.Column);
     bool found = false;
     for (std::size_t i = 0; i < cells.size() && !found; ++i) found = fits(term, i);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,12 +25,11 @@ class Filter {
   bool Fits(const Cell& cell, ColumnKind kind) const;
 
  private:
-  enum class Test { Holds, Equals, Less, LessOrEqual, Greater, GreaterOrEqual, Between };
   struct Term {
     bool Not = false;
-    Test How = Test::Holds;
-    std::string Text;                 // folded
-    std::optional<double> Low, High;  // of a number, an amount or a date
+    bool (*Compares)(std::partial_ordering) = nullptr;  // none: the cell holds the text
+    std::string Text;                                   // folded
+    std::optional<double> Low, High;  // of a number, an amount or a date; High ends a span
   };
   static std::optional<Term> Read(std::string_view text);
   static bool Fits(const Term& term, const Cell& cell, ColumnKind kind);

@@ -14,8 +14,7 @@ Screen::Screen(Desk& desk, std::string name, std::string title, Role role)
 Screen::~Screen() = default;
 
 Control* Screen::Find(std::string_view name) const {
-  const auto found =
-      std::find_if(controls_.begin(), controls_.end(), [&](auto* c) { return c->Name() == name; });
+  const auto found = std::ranges::find_if(controls_, [&](auto* c) { return c->Name() == name; });
   return found == controls_.end() ? nullptr : *found;
 }
 

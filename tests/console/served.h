@@ -31,7 +31,6 @@ class Served {
     };
     desk.Run();
     Open = !desk.Empty();
-    Price = Open ? screen.hsprice.Value.Get() : 0;
     Name = Open ? screen.txtname.Text.Get() : std::string();
     Notes = Open ? screen.txtnotes.Text.Get() : std::string();
   }
@@ -40,7 +39,6 @@ class Served {
 
   std::vector<std::string> Log;  // of the screen's handlers
   bool Open = false;             // whether the screen still lies there at the end
-  int Price = 0;
   std::string Name, Notes;
 
  private:

@@ -1,18 +1,13 @@
 #include <gtest/gtest.h>
 #include <QAction>
-#include <QLabel>
 #include <QMenu>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTextEdit>
-#include <filesystem>
-#include <fstream>
 
 #include "desktop/player.h"
 #include "program/screens.h"
-#include "records/world.h"
-#include "support/checkout.h"
-#include "support/scratchfolder.h"
+#include "support/homefolder.h"
 #include "support/smallworld.h"
 #include "ui/game.h"
 
@@ -24,8 +19,7 @@ namespace {
 class TheControls : public testing::Test {
  protected:
   TheControls() : Page(*new DeskPage(Play.Desk, Notes)) {
-    Play.Desk.Open(std::unique_ptr<ui::Screen>(&Page));
-    Play.Window.Sync();
+    Play.Open(std::unique_ptr<ui::Screen>(&Page));
   }
 
   Log Notes;
@@ -33,35 +27,18 @@ class TheControls : public testing::Test {
   DeskPage& Page;
 };
 
-TEST_F(TheControls, TakeWhatIsTypedInTheGamesLetters) {
+TEST_F(TheControls, TakeTextInTheGamesLetters) {
   Play.Click("txtname");
   Play.Type(QString::fromUtf8("Jos\u00E9 \u20AC"));
   EXPECT_EQ(Page.txtname.Text.Get(), "Jos\xE9 \x80");
-}
+  Play.Key(Qt::Key_Home);
+  Play.Type(QString::fromUtf8("Te\u0142d "));
+  EXPECT_EQ(Page.txtname.Text.Get(), "Ted Jos\xE9 \x80") << "the cursor goes on where it was";
+  EXPECT_TRUE(Play.TextOf("hint").contains(QChar(0x142))) << "the letter that is refused is named";
+  Play.Type("and more");
+  EXPECT_EQ(Page.txtname.Text->size(), 12U) << "the box takes no more";
+  EXPECT_EQ(Play.TextOf("txtname"), desktop::Shown(Page.txtname.Text.Get()));
 
-TEST_F(TheControls, RefuseALetterThatTheGameCannotKeepAndNameIt) {
-  Play.Click("txtname");
-  Play.Type(QString::fromUtf8("Te\u0142d"));
-  EXPECT_EQ(Page.txtname.Text.Get(), "Ted");
-  EXPECT_EQ(Play.TextOf("txtname"), "Ted");
-  EXPECT_TRUE(Play.TextOf("hint").contains(QChar(0x142)));
-}
-
-TEST_F(TheControls, CutATextAtItsMostLetters) {
-  Play.Click("txtname");
-  Play.Type("Twelve letters and more");
-  EXPECT_EQ(Page.txtname.Text.Get(), "Twelve lette");
-}
-
-TEST_F(TheControls, KeepTheCursorWhereSomebodyTypesInTheMiddle) {
-  Play.Click("txtname");
-  Play.Type("Bo");
-  Play.Key(Qt::Key_Left);
-  Play.Type(QString::fromUtf8("ru\u0142n"));
-  EXPECT_EQ(Page.txtname.Text.Get(), "Bruno");
-}
-
-TEST_F(TheControls, TakeLinesInABoxOfMany) {
   Play.Click("txtnotes");
   Play.Type("One");
   Play.Key(Qt::Key_Return);
@@ -71,7 +48,10 @@ TEST_F(TheControls, TakeLinesInABoxOfMany) {
   EXPECT_EQ(Notes, Log({"done"}));
 }
 
-TEST_F(TheControls, ShowWhatTheScreenPutsIn) {
+TEST_F(TheControls, ShowWhatTheScreenPutsInAndDoNothingWhileDisabled) {
+  Play.Click("cmdoff");
+  EXPECT_EQ(Notes, Log());
+  EXPECT_TRUE(Play.See("cmdoff")->toolTip().contains("Not today."));
   Page.txtname.Text = "Put in";
   Page.lblfacts.Text = "Other facts";
   Page.cmdask.Text = "Really ask";
@@ -86,34 +66,19 @@ TEST_F(TheControls, ShowWhatTheScreenPutsIn) {
   EXPECT_EQ(Notes, Log({"off"}));
 }
 
-TEST_F(TheControls, DoNothingWhileDisabledAndSayWhy) {
-  Play.Click("cmdoff");
-  EXPECT_EQ(Notes, Log());
-  EXPECT_TRUE(Play.See("cmdoff")->toolTip().contains("Not today."));
-}
-
-TEST_F(TheControls, PickFromAComboByItsRowNotByALikeText) {
-  QWidget* combo = Play.See("cmbkind");
-  combo->setFocus();
+TEST_F(TheControls, AreChosenFromByMouseAndKeys) {
+  Play.See("cmbkind")->setFocus();
   Play.Key(Qt::Key_Down);
   EXPECT_EQ(Page.cmbkind.Selected(), 2) << "the third row's text is \"2\"";
   Play.Key(Qt::Key_End);
-  EXPECT_EQ(Notes, Log({"kind Second", "kind 2"}));
-}
-
-TEST_F(TheControls, CheckAndChoose) {
   Play.Click("chkday");
   EXPECT_TRUE(Page.chkday.Checked.Get());
   Play.Click("optheel");
-  EXPECT_TRUE(Page.optheel.Checked.Get());
-  EXPECT_FALSE(qobject_cast<QAbstractButton*>(Play.See("optface"))->isChecked());
   Play.Click("optheel");
-  EXPECT_TRUE(qobject_cast<QAbstractButton*>(Play.See("optheel"))->isChecked())
-      << "one of them is always chosen";
-  EXPECT_EQ(Notes, Log({"day", "heel"}));
-}
+  EXPECT_EQ(Notes, Log({"kind Second", "kind 2", "day", "heel"}));
+  for (const auto& [option, chosen] : {std::pair("optface", false), std::pair("optheel", true)})
+    EXPECT_EQ(qobject_cast<QAbstractButton*>(Play.See(option))->isChecked(), chosen) << option;
 
-TEST_F(TheControls, SlideByKeyOrByNumber) {
   auto* slider = Play.See("hsprice")->findChild<QSlider*>();
   auto* number = Play.See("hsprice")->findChild<QSpinBox*>();
   slider->setFocus();
@@ -135,11 +100,9 @@ class LinkPage : public ui::Screen {
     rptstory.Write("It was Ludo who beat Bram last night.");
   }
   ui::Page Layout() override {
-    ui::Page page;
-    page.Cancel = &cmdback;
-    page.Actions = {&cmdback};
-    page.Body = ui::Rows({lblwho, lblnobody, ui::Grow(rptstory)});
-    return page;
+    return {.Actions = {&cmdback},
+            .Cancel = &cmdback,
+            .Body = ui::Rows({lblwho, lblnobody, ui::Grow(rptstory)})};
   }
 
   ui::Label lblwho{*this, "lblwho", "Champion: Bram"};
@@ -159,12 +122,6 @@ class TheLinks : public testing::Test {
       return links;
     };
   }
-  void OpenPage() { Open(std::make_unique<LinkPage>(Play.Desk)); }
-  void OpenPeople() { Open(std::make_unique<PeoplePage>(Play.Desk, Notes)); }
-  void Open(std::unique_ptr<ui::Screen> screen) {
-    Play.Desk.Open(std::move(screen));
-    Play.Window.Sync();
-  }
   QPoint WordIn(QTextEdit& story, const QString& word) {
     QTextCursor found = story.document()->find(word);
     EXPECT_FALSE(found.isNull()) << word.toStdString();
@@ -180,39 +137,30 @@ class TheLinks : public testing::Test {
   Player Play;
 };
 
-TEST_F(TheLinks, OfAReportOpenWithAClickAndStandOut) {
-  OpenPage();
+TEST_F(TheLinks, OfAReportStandOutAndOpenWithAClickUnlessTheyAreMarked) {
+  Play.Open(std::make_unique<LinkPage>(Play.Desk));
   auto& story = *qobject_cast<QTextEdit*>(Play.See("rptstory"));
+  QWidget* const words = story.viewport();
   const QPoint bram = WordIn(story, "Bram"), beat = WordIn(story, "beat");
-  QTest::mouseClick(story.viewport(), Qt::LeftButton, {}, beat);
-  EXPECT_EQ(Notes, Log());
-  QTest::mouseClick(story.viewport(), Qt::LeftButton, {}, bram);
-  EXPECT_EQ(Notes, Log({"page of Bram"}));
-
-  QTextCursor letters = story.cursorForPosition(bram);
-  const QColor named = letters.charFormat().foreground().color();
-  letters = story.cursorForPosition(beat);
-  EXPECT_NE(named, letters.charFormat().foreground().color());
+  EXPECT_NE(story.cursorForPosition(bram).charFormat().foreground().color(),
+            story.cursorForPosition(beat).charFormat().foreground().color());
   EXPECT_EQ(story.toPlainText(), "It was Ludo who beat Bram last night.");
+  QTest::mouseMove(words, bram);
+  EXPECT_EQ(words->cursor().shape(), Qt::PointingHandCursor);
+  QTest::mouseMove(words, beat);
+  EXPECT_EQ(words->cursor().shape(), Qt::IBeamCursor);
 
-  QTest::mouseMove(story.viewport(), bram);
-  EXPECT_EQ(story.viewport()->cursor().shape(), Qt::PointingHandCursor);
-  QTest::mouseMove(story.viewport(), beat);
-  EXPECT_EQ(story.viewport()->cursor().shape(), Qt::IBeamCursor);
-}
-
-TEST_F(TheLinks, OfAReportStayShutWhenTheirWordsAreMarked) {
-  OpenPage();
-  auto& story = *qobject_cast<QTextEdit*>(Play.See("rptstory"));
-  const QPoint bram = WordIn(story, "Bram");
-  QTest::mousePress(story.viewport(), Qt::LeftButton, {}, WordIn(story, "was"));
-  QTest::mouseMove(story.viewport(), bram);
-  QTest::mouseRelease(story.viewport(), Qt::LeftButton, {}, bram);
+  QTest::mouseClick(words, Qt::LeftButton, {}, beat);
+  QTest::mousePress(words, Qt::LeftButton, {}, WordIn(story, "was"));
+  QTest::mouseMove(words, bram);
+  QTest::mouseRelease(words, Qt::LeftButton, {}, bram);
   EXPECT_EQ(Notes, Log());
+  QTest::mouseClick(words, Qt::LeftButton, {}, bram);
+  EXPECT_EQ(Notes, Log({"page of Bram"}));
 }
 
 TEST_F(TheLinks, OfALabelOpenWithAClick) {
-  OpenPage();
+  Play.Open(std::make_unique<LinkPage>(Play.Desk));
   Play.Click("lblnobody");
   EXPECT_EQ(Notes, Log());
   EXPECT_NE(Play.See("lblnobody")->cursor().shape(), Qt::PointingHandCursor);
@@ -221,20 +169,17 @@ TEST_F(TheLinks, OfALabelOpenWithAClick) {
   EXPECT_EQ(Play.See("lblwho")->cursor().shape(), Qt::PointingHandCursor);
 }
 
-TEST_F(TheLinks, OfATableOpenWithCtrlAndLeaveItsClicksAlone) {
-  OpenPeople();
-  QWidget* cells = Play.Grid("lstpeople").viewport();
+TEST_F(TheLinks, OfATableOpenWithCtrlOrFromItsMenu) {
+  Play.Open(std::make_unique<PeoplePage>(Play.Desk, Notes));
+  desktop::TableGrid& grid = Play.Grid("lstpeople");
+  QWidget* const cells = grid.viewport();
   QTest::mouseClick(cells, Qt::LeftButton, Qt::ControlModifier, CellAt(1, 1));
   EXPECT_EQ(Notes, Log({"page of Ludo"}));
   QTest::mouseClick(cells, Qt::LeftButton, {}, CellAt(1, 1));
   QTest::mouseClick(cells, Qt::LeftButton, Qt::ControlModifier, CellAt(2, 1));
   EXPECT_EQ(Notes, Log({"page of Ludo", "picked 102", "picked 103"})) << "Dane has no page";
-}
 
-TEST_F(TheLinks, OfATableStandInItsMenu) {
-  OpenPeople();
-  desktop::TableGrid& grid = Play.Grid("lstpeople");
-  const auto choices = [&](int row) {
+  const auto offered = [&](int row) {
     emit grid.customContextMenuRequested(CellAt(row, 3));
     auto* menu = Play.Window.findChild<QMenu*>("columnsmenu");
     QStringList words;
@@ -246,44 +191,16 @@ TEST_F(TheLinks, OfATableStandInItsMenu) {
     delete menu;
     return words;
   };
-  EXPECT_EQ(choices(0), QStringList({"Open Bram"}));
-  EXPECT_EQ(choices(2), QStringList());
-  EXPECT_EQ(Notes, Log({"page of Bram"}));
+  EXPECT_EQ(offered(2), QStringList());
+  EXPECT_EQ(offered(0), QStringList({"Open Bram"}));
+  EXPECT_EQ(Notes.back(), "page of Bram");
 }
 
 // From the title to the next day and back again, with nothing but mouse and keys.
 
-namespace fs = std::filesystem;
-
-World TwoPromotions() {
-  return SmallWorld()
-      .Network("Channel Nine")
-      .Promotion("CWA", kCult)
-      .Owner("Ruth Vane")
-      .Crew(6)
-      .Show("Friday Fire", "Friday", "Channel Nine")
-      .Promotion("NEW", kSmall)
-      .Owner("Otto Grim")
-      .Crew(4)
-      .Build();
-}
-
-void WriteHome(const std::string& home) {
-  fs::create_directories(home + "/data");
-  for (const char* file : {"belt.dat", "event.dat", "network.dat", "promos.dat", "sponsor.dat",
-                           "stables.dat", "staff.dat", "teams.dat", "tv.dat", "wrestler.dat"})
-    std::ofstream(home + "/data/" + file, std::ios::binary);
-  for (const auto& [name, bytes] : FilesOf(TwoPromotions()))
-    std::ofstream(home + "/data/" + name, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()),
-               static_cast<std::streamsize>(bytes.size()));
-  fs::create_directory_symlink(Checkout("/gfx"), home + "/gfx");
-}
-
 class FromTitleToNextDay : public testing::Test {
  protected:
   FromTitleToNextDay() {
-    WriteHome(Home);
     RegisterScreens(Game);
     Play.Desk.Event([&] { Play.Desk.Open("frmTitleScreen"); });
     Play.Window.Sync();
@@ -293,32 +210,41 @@ class FromTitleToNextDay : public testing::Test {
     Game.CloseSlot();
     Play.Desk.CloseAll();
   }
-  std::string Top() const { return Play.Desk.Top() ? Play.Desk.Top()->Name() : ""; }
   std::string TextIn(const char* name) const {
     const ui::Control* control = Play.Desk.Top()->Find(name);
     return control ? control->Text.Get() : "nothing";
   }
 
-  ScratchFolder Scratch;
-  std::string Home = Scratch / "home";
+  HomeFolder Home{SmallWorld()
+                      .Network("Channel Nine")
+                      .Promotion("CWA", kCult)
+                      .Owner("Ruth Vane")
+                      .Crew(6)
+                      .Show("Friday Fire", "Friday", "Channel Nine")
+                      .Promotion("NEW", kSmall)
+                      .Owner("Otto Grim")
+                      .Crew(4)
+                      .Build()};
   std::unique_ptr<Disk> Files = RealDisk(Syncs::None);
   Player Play;
   grapplemont::Game Game{
-      Play.Desk, *Files, {Home, [] { return Day{std::chrono::year{2026} / 3 / 17}; }, 11}};
+      Play.Desk,
+      *Files,
+      {Home.Path("."), [] { return Day{std::chrono::year{2026} / 3 / 17}; }, 11}};
 };
 
 TEST_F(FromTitleToNextDay, GoesByMouseAndKeys) {
-  ASSERT_EQ(Top(), "frmTitleScreen");
+  ASSERT_EQ(Play.Top(), "frmTitleScreen");
   Play.Click("imgtitle");
-  ASSERT_EQ(Top(), "frmDisclaimer");
+  ASSERT_EQ(Play.Top(), "frmDisclaimer");
   Play.Key(Qt::Key_Return);
-  ASSERT_EQ(Top(), "frmGameMenu");
+  ASSERT_EQ(Play.Top(), "frmGameMenu");
   Play.Click("cmdnewgame");
-  ASSERT_EQ(Top(), "frmNewGame");
+  ASSERT_EQ(Play.Top(), "frmNewGame");
   EXPECT_EQ(Play.FocusName(), "txtname");
   Play.Type("Pat Lee");
   Play.Key(Qt::Key_Return);
-  ASSERT_EQ(Top(), "frmPickSaveSlot");
+  ASSERT_EQ(Play.Top(), "frmPickSaveSlot");
 
   Play.AtNextBox([&] {
     EXPECT_EQ(Play.TextOf("boxtitle"), "User Entry");
@@ -330,7 +256,7 @@ TEST_F(FromTitleToNextDay, GoesByMouseAndKeys) {
     Play.Click("boxok");
   });
   Play.Click("cmdload1");
-  ASSERT_EQ(Top(), "frmMainScreen");
+  ASSERT_EQ(Play.Top(), "frmMainScreen");
   EXPECT_EQ(TextIn("txtdate"), "Wednesday, 01 April 2026");
 
   Play.Click("cmdnext");
@@ -338,27 +264,27 @@ TEST_F(FromTitleToNextDay, GoesByMouseAndKeys) {
   Play.Key(Qt::Key_Return);
   EXPECT_EQ(TextIn("txtdate"), "Friday, 03 April 2026");
   Play.Key(Qt::Key_Return);
-  ASSERT_EQ(Top(), "frmBooking") << "Friday is a day of television";
+  ASSERT_EQ(Play.Top(), "frmBooking") << "Friday is a day of television";
 
   Play.AtNextBox([&] { Play.Click("boxyes"); });
   Play.Click("cmdcancel");
-  ASSERT_EQ(Top(), "frmMainScreen");
+  ASSERT_EQ(Play.Top(), "frmMainScreen");
   EXPECT_EQ(TextIn("txtdate"), "Saturday, 04 April 2026");
 
   Play.Click("cmdnews");
-  EXPECT_EQ(Top(), "frmNews");
+  EXPECT_EQ(Play.Top(), "frmNews");
   Play.Click("cmdnotepad");
-  EXPECT_EQ(Top(), "frmNotepad");
+  EXPECT_EQ(Play.Top(), "frmNotepad");
   Play.Key(Qt::Key_Escape);
-  ASSERT_EQ(Top(), "frmMainScreen");
+  ASSERT_EQ(Play.Top(), "frmMainScreen");
 
   Play.AtNextBox([&] { Play.Key(Qt::Key_Return); });
   Play.Click("cmdquit");
-  ASSERT_EQ(Top(), "frmGameMenu");
+  ASSERT_EQ(Play.Top(), "frmGameMenu");
   Play.Click("cmdloadgame");
   EXPECT_EQ(TextIn("cmdload1"), "First");
   Play.Click("cmdload1");
-  ASSERT_EQ(Top(), "frmMainScreen");
+  ASSERT_EQ(Play.Top(), "frmMainScreen");
   EXPECT_EQ(TextIn("txtdate"), "Saturday, 04 April 2026");
 }
 

@@ -15,8 +15,7 @@ class TheTableInTheWindow : public testing::Test {
  protected:
   void Open(bool multi = false) {
     Page = new PeoplePage(Play.Desk, Notes, multi);
-    Play.Desk.Open(std::unique_ptr<ui::Screen>(Page));
-    Play.Window.Sync();
+    Play.Open(std::unique_ptr<ui::Screen>(Page));
   }
   std::vector<QString> Names() { return Play.Column("lstpeople", 1); }
 
@@ -25,39 +24,26 @@ class TheTableInTheWindow : public testing::Test {
   PeoplePage* Page = nullptr;
 };
 
-TEST_F(TheTableInTheWindow, PicksTheRowThatWasClickedNotTheOneOfThatText) {
+TEST_F(TheTableInTheWindow, PicksAndOpensByMouseAndKeys) {
   Open();
+  Play.Grid("lstpeople").setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(Page->lstpeople.Selected(), 0) << "having the keyboard picks nothing";
   Play.ClickRow("lstpeople", 1);  // its first cell reads "9"
-  EXPECT_EQ(Page->lstpeople.Key(), 102);
   Play.DoubleClickRow("lstpeople", 3);
   EXPECT_EQ(Notes, Log({"picked 102", "picked 104", "picked 104", "opened 104"}));
-}
-
-TEST_F(TheTableInTheWindow, FollowsTheArrowsAndOpensWithEnter) {
-  Open();
-  Play.Grid("lstpeople").setFocus();
   Play.Key(Qt::Key_Down);
-  Play.Key(Qt::Key_Down);
-  EXPECT_EQ(Page->lstpeople.Key(), 102);
+  EXPECT_EQ(Page->lstpeople.Key(), 105);
   Play.Key(Qt::Key_End);
   EXPECT_EQ(Page->lstpeople.Key(), 110);
   Play.Key(Qt::Key_Return);
   EXPECT_EQ(Notes.back(), "opened 110");
 }
 
-TEST_F(TheTableInTheWindow, DoesNotPickByHavingTheKeyboardAlone) {
-  Open();
-  Play.Grid("lstpeople").setFocus(Qt::TabFocusReason);
-  EXPECT_EQ(Page->lstpeople.Selected(), 0);
-  EXPECT_EQ(Notes, Log());
-}
-
 TEST_F(TheTableInTheWindow, ShowsTheRowThatItOpensWith) {
   Page = new PeoplePage(Play.Desk, Notes, false);
   for (int more = 0; more < 60; ++more) Page->lstpeople.Add({"", "More", "", 1}, 200 + more);
   Page->lstpeople.SelectKey(240);
-  Play.Desk.Open(std::unique_ptr<ui::Screen>(Page));
-  Play.Window.Sync();
+  Play.Open(std::unique_ptr<ui::Screen>(Page));
   QApplication::processEvents();
   desktop::TableGrid& grid = Play.Grid("lstpeople");
   EXPECT_EQ(grid.CurrentRow(), 50);
@@ -94,25 +80,19 @@ TEST_F(TheTableInTheWindow, FiltersByTheSearchLine) {
   EXPECT_EQ(Play.Desk.Top(), Page) << "the first Escape only empties the line";
 }
 
-TEST_F(TheTableInTheWindow, FiltersAColumnFromItsHeading) {
+TEST_F(TheTableInTheWindow, FiltersAndHidesColumnsByItsMenusAndCopiesWhatIsShown) {
   Open();
   QHeaderView& heading = Play.Grid("lstpeople").Heading();
-  const QPoint at(heading.sectionViewportPosition(2) + 10, 10);
-  emit heading.customContextMenuRequested(at);
+  emit heading.customContextMenuRequested(QPoint(heading.sectionViewportPosition(2) + 10, 10));
   auto* menu = Play.Window.findChild<QMenu*>("headingmenu");
   ASSERT_NE(menu, nullptr);
   QTest::keyClicks(menu->findChild<QLineEdit*>("columnfilter"), "!Heel");
   menu->close();
   EXPECT_EQ(Names().size(), 5U);
-  EXPECT_EQ(Play.Column("lstpeople", 2).front(), "Face");
-}
-
-TEST_F(TheTableInTheWindow, HidesAColumnAndCopiesWhatIsShown) {
-  Open();
   Play.See("lstpeople_search")->setFocus();
   Play.Type("Bram");
   Play.Click("lstpeople_columns");
-  auto* menu = Play.Window.findChild<QMenu*>("columnsmenu");
+  menu = Play.Window.findChild<QMenu*>("columnsmenu");
   ASSERT_NE(menu, nullptr);
   for (QAction* action : menu->actions())
     if (action->text() == "Disp.") action->trigger();
@@ -158,8 +138,7 @@ TEST(TheSettings, KeepATableAndTheLookBeyondTheProgram) {
   int height = 0;
   {
     Player play(file);
-    play.Desk.Open(std::make_unique<PeoplePage>(play.Desk, notes));
-    play.Window.Sync();
+    play.Open(std::make_unique<PeoplePage>(play.Desk, notes));
     play.ClickHeading("lstpeople", 1);
     play.Key(Qt::Key_Plus, Qt::ControlModifier);
     height = play.See("cmdback")->height();
@@ -168,8 +147,7 @@ TEST(TheSettings, KeepATableAndTheLookBeyondTheProgram) {
     play.Window.close();
   }
   Player again(file);
-  again.Desk.Open(std::make_unique<PeoplePage>(again.Desk, notes));
-  again.Window.Sync();
+  again.Open(std::make_unique<PeoplePage>(again.Desk, notes));
   EXPECT_EQ(again.Column("lstpeople", 1),
             std::vector<QString>({"Fetch", "Hattie", "Iron", "Kid", "Ludo"}));
   EXPECT_EQ(again.TextOf("lstpeople_search"), "heel");
@@ -225,17 +203,12 @@ class RowButtons : public testing::Test {
  protected:
   RowButtons() {
     Page = new ChorePage(Play.Desk, Notes);
-    Play.Desk.Open(std::unique_ptr<ui::Screen>(Page));
-    Play.Window.Sync();
+    Play.Open(std::unique_ptr<ui::Screen>(Page));
   }
-  /// The row, as shown from 0, in which a button stands; -1 for none.
-  int RowOf(const QString& button) {
-    const QWidget* widget = Play.See(button);
-    return Play.Grid("lstchores").indexAt(widget->geometry().center()).row();
-  }
-  int ColumnOf(const QString& button) {
-    const QWidget* widget = Play.See(button);
-    return Play.Grid("lstchores").indexAt(widget->geometry().center()).column();
+  /// Row and column, as shown from 0, in which a button stands; -1 for none.
+  std::pair<int, int> CellOf(const QString& button) {
+    const QModelIndex cell = Play.Grid("lstchores").indexAt(Play.See(button)->geometry().center());
+    return {cell.row(), cell.column()};
   }
 
   Log Notes;
@@ -243,34 +216,20 @@ class RowButtons : public testing::Test {
   ChorePage* Page = nullptr;
 };
 
-TEST_F(RowButtons, StandInTheRowsOfTheirKeys) {
-  for (int key = 1; key <= 3; ++key) {
-    const QString name = QString("cmddo(%1)").arg(key);
-    EXPECT_EQ(RowOf(name), key - 1);
-    EXPECT_EQ(ColumnOf(name), 2);
-  }
-  Play.Click("cmddo(2)");
-  EXPECT_EQ(Notes, Log({"did 2"})) << "the click is the button's alone";
-}
-
-TEST_F(RowButtons, GoWithTheirRowsWhenTheTableIsSorted) {
+TEST_F(RowButtons, StandInTheRowsOfTheirKeysAndGoWithThem) {
+  desktop::TableGrid& grid = Play.Grid("lstchores");
+  EXPECT_EQ(grid.horizontalHeader()->length(), grid.viewport()->width()) << "it fits its room";
+  EXPECT_EQ(CellOf("cmddo(1)"), std::pair(0, 2));
+  EXPECT_EQ(CellOf("cmddo(3)"), std::pair(2, 2));
   Play.ClickHeading("lstchores", 0);
-  EXPECT_EQ(RowOf("cmddo(1)"), 2);
-  EXPECT_EQ(RowOf("cmddo(3)"), 0);
+  EXPECT_EQ(CellOf("cmddo(1)"), std::pair(2, 2));
+  EXPECT_EQ(CellOf("cmddo(3)"), std::pair(0, 2));
   Play.Click("cmddo(3)");
-  EXPECT_EQ(Notes, Log({"did 3"}));
-}
-
-TEST_F(RowButtons, StandOutOfSightWithoutARow) {
+  EXPECT_EQ(Notes, Log({"did 3"})) << "the click is the button's alone";
   Page->Fill(2);
   Play.Window.Sync();
-  EXPECT_EQ(RowOf("cmddo(1)"), 0);
-  EXPECT_EQ(RowOf("cmddo(3)"), -1);
-}
-
-TEST_F(RowButtons, TheTableFitsIntoItsRoom) {
-  desktop::TableGrid& grid = Play.Grid("lstchores");
-  EXPECT_EQ(grid.horizontalHeader()->length(), grid.viewport()->width());
+  EXPECT_EQ(CellOf("cmddo(2)"), std::pair(0, 2));
+  EXPECT_EQ(CellOf("cmddo(3)"), std::pair(-1, -1)) << "it has no row";
 }
 
 TEST_F(RowButtons, AListMayShrinkWhileItsNeighbourGrows) {

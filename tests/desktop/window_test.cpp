@@ -20,13 +20,9 @@ class WaitingScreen : public ui::Screen {
 
 class TheWindow : public testing::Test {
  protected:
-  TheWindow() {
-    Play.Desk.Open(std::make_unique<Hub>(Play.Desk, Notes));
-    Play.Window.Sync();
-  }
+  TheWindow() { Play.Open(std::make_unique<Hub>(Play.Desk, Notes)); }
   ~TheWindow() override { EXPECT_TRUE(Play.EveryBoxCame()); }
 
-  std::string Top() const { return Play.Desk.Top() ? Play.Desk.Top()->Name() : ""; }
   DeskPage& OpenDesk() {
     Play.Click("cmddesk");
     Notes.clear();
@@ -43,24 +39,23 @@ class TheWindow : public testing::Test {
   Player Play;
 };
 
-TEST_F(TheWindow, OpensAPageByAClickInTheSideBarAndMarksItsCommand) {
+TEST_F(TheWindow, OpensPagesFromTheSideBarAndLeavesThemForOthers) {
   EXPECT_TRUE(BearsEnter("cmdnext"));
   Play.Click("cmdpeople");
-  EXPECT_EQ(Top(), "frmPeople");
-  EXPECT_TRUE(Play.Sees("lstpeople"));
+  EXPECT_EQ(Play.Top(), "frmPeople");
   EXPECT_TRUE(IsNow("cmdpeople"));
   EXPECT_FALSE(IsNow("cmddesk"));
   EXPECT_FALSE(BearsEnter("cmdnext"));
-}
-
-TEST_F(TheWindow, LeavesAPageBeforeAnotherCommandIsPressed) {
-  Play.Click("cmdpeople");
   Play.Click("cmddesk");
-  EXPECT_EQ(Top(), "frmDesk");
+  EXPECT_EQ(Play.Top(), "frmDesk");
   EXPECT_EQ(Play.Desk.Screens().size(), 2U);
   EXPECT_EQ(Notes, Log({"hub again"}));
   EXPECT_TRUE(IsNow("cmddesk"));
   EXPECT_FALSE(Play.Sees("lstpeople"));
+  Play.Key(Qt::Key_F2);
+  EXPECT_EQ(Play.Top(), "frmPeople");
+  Play.Key(Qt::Key_F5);
+  EXPECT_EQ(Play.Top(), "frmPeople") << "a disabled command has no key";
 }
 
 TEST_F(TheWindow, StaysOnAPageThatDoesNotWantToBeLeft) {
@@ -70,20 +65,11 @@ TEST_F(TheWindow, StaysOnAPageThatDoesNotWantToBeLeft) {
     Play.Key(Qt::Key_Return);  // the default is No
   });
   Play.Click("cmdpeople");
-  EXPECT_EQ(Top(), "frmDesk");
+  EXPECT_EQ(Play.Top(), "frmDesk");
   Play.AtNextBox([&] { Play.Click("boxyes"); });
   Play.Click("cmdnext");
-  EXPECT_EQ(Top(), "frmHub");
+  EXPECT_EQ(Play.Top(), "frmHub");
   EXPECT_EQ(Notes.back(), "next day") << "the top bar leaves pages too";
-}
-
-TEST_F(TheWindow, KnowsTheKeysOfTheSideBar) {
-  Play.Key(Qt::Key_F2);
-  EXPECT_EQ(Top(), "frmPeople");
-  Play.Key(Qt::Key_F4);
-  EXPECT_EQ(Top(), "frmDesk");
-  Play.Key(Qt::Key_F5);
-  EXPECT_EQ(Top(), "frmDesk") << "a disabled command has no key";
 }
 
 TEST_F(TheWindow, TakesEnterForMainAndEscapeForCancel) {
@@ -93,70 +79,42 @@ TEST_F(TheWindow, TakesEnterForMainAndEscapeForCancel) {
   EXPECT_EQ(Play.FocusName(), "txtname");
   Play.Key(Qt::Key_Return);
   EXPECT_EQ(Notes, Log({"done"}));
+  for (int i = 0; i < 40 && Play.FocusName() != "cmdmore"; ++i) Play.Key(Qt::Key_Tab);
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Play.Top(), "frmMore") << "a button that was reached by Tab has Enter";
   Play.Key(Qt::Key_Escape);
-  EXPECT_EQ(Top(), "frmHub");
+  Play.Key(Qt::Key_Escape);
+  EXPECT_EQ(Play.Top(), "frmHub");
 }
-
-/// Goes on once, then there is nothing left but to end it.
-class TwoSteps : public ui::Screen {
- public:
-  TwoSteps(ui::Desk& desk, Log& log) : Screen(desk, "frmTwo", "Two", ui::Role::Dialog), log_(log) {
-    cmdend.Enabled = false;
-  }
-  ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdend, &cmdon};
-    page.Main = &cmdon;
-    page.Then = &cmdend;
-    return page;
-  }
-
- private:
-  void GoesOn() {
-    log_.push_back("on");
-    cmdon.Visible = false;
-    cmdend.Enabled = true;
-  }
-  Log& log_;
-  ui::Button cmdend{*this, "cmdend", "End", [this] { log_.push_back("end"); }};
-  ui::Button cmdon{*this, "cmdon", "Go On", [this] { GoesOn(); }};
-};
 
 TEST_F(TheWindow, HandsEnterOnWhenMainIsGone) {
-  Play.Desk.Open(std::make_unique<TwoSteps>(Play.Desk, Notes));
+  auto dialog = std::make_unique<Dialog>(Play.Desk, Notes);
+  Dialog& shown = *dialog;
+  Play.Open(std::move(dialog));
+  EXPECT_TRUE(BearsEnter("cmdok"));
+  shown.cmdok.Visible = false;
+  shown.cmdlast.Visible = true;
   Play.Window.Sync();
-  EXPECT_TRUE(BearsEnter("cmdon"));
-  EXPECT_FALSE(BearsEnter("cmdend"));
+  EXPECT_TRUE(BearsEnter("cmdlast"));
   Play.Key(Qt::Key_Return);
-  EXPECT_FALSE(Play.Sees("cmdon"));
-  EXPECT_TRUE(BearsEnter("cmdend"));
-  Play.Key(Qt::Key_Return);
-  EXPECT_EQ(Notes, Log({"on", "end"}));
-}
-
-TEST_F(TheWindow, GivesEnterToAButtonThatWasReachedByTab) {
-  OpenDesk();
-  for (int i = 0; i < 40 && Play.FocusName() != "cmdmore"; ++i) Play.Key(Qt::Key_Tab);
-  ASSERT_EQ(Play.FocusName(), "cmdmore");
-  Play.Key(Qt::Key_Return);
-  EXPECT_EQ(Top(), "frmMore");
+  EXPECT_EQ(Notes, Log({"last", "hub again"}));
 }
 
 TEST_F(TheWindow, ShowsADialogOverThePageAndNothingBelowTakesClicks) {
   OpenDesk();
   Play.Click("cmdmore");
-  ASSERT_EQ(Top(), "frmMore");
+  ASSERT_EQ(Play.Top(), "frmMore");
   EXPECT_TRUE(BearsEnter("cmdok"));
   Play.Click("cmdpeople");
   Play.Click("cmdnext");
   Play.Key(Qt::Key_F2);
-  EXPECT_EQ(Top(), "frmMore");
+  EXPECT_EQ(Play.Top(), "frmMore");
   Play.Key(Qt::Key_Return);
   EXPECT_EQ(Notes, Log({"ok", "page again"}));
   Play.Click("cmdmore");
   Play.Key(Qt::Key_Escape);
   EXPECT_EQ(Notes, Log({"ok", "page again", "cancel", "page again"}));
-  EXPECT_EQ(Top(), "frmDesk");
+  EXPECT_EQ(Play.Top(), "frmDesk");
 }
 
 TEST_F(TheWindow, AsksAndTakesTheAnswerByKeyOrClick) {
@@ -198,29 +156,20 @@ TEST_F(TheWindow, PromptsWithWhatItOffersSelected) {
   EXPECT_EQ(Notes, Log({"[Save Game 1]", "[M\xFCller]", "[]"}));
 }
 
-TEST_F(TheWindow, KeepsTheKeyboardWithinABox) {
+TEST_F(TheWindow, TellsAFaultInABoxThatHoldsTheKeyboardAndGoesBack) {
   OpenDesk();
   Play.AtNextBox([&] {
-    for (int i = 0; i < 7; ++i) {
+    EXPECT_EQ(Play.TextOf("boxtext"), "The disk is full.");
+    for (int i = 0; i < 3; ++i) {
       Play.Key(Qt::Key_Tab);
       EXPECT_TRUE(Play.FocusName().startsWith("box")) << Play.FocusName().toStdString();
     }
     Play.Key(Qt::Key_F2);
     Play.Click("cmdpeople");
-    Play.Key(Qt::Key_Escape);
-  });
-  Play.Click("cmdask");
-  EXPECT_EQ(Top(), "frmDesk");
-}
-
-TEST_F(TheWindow, TellsAFaultAndGoesBackToWhereItWas) {
-  OpenDesk();
-  Play.AtNextBox([&] {
-    EXPECT_EQ(Play.TextOf("boxtext"), "The disk is full.");
     Play.Click("boxok");
   });
   Play.Click("cmdthrow");
-  EXPECT_EQ(Top(), "frmDesk");
+  EXPECT_EQ(Play.Top(), "frmDesk");
   EXPECT_TRUE(Play.Sees("cmdthrow"));
   EXPECT_FALSE(Play.Sees("frmMore"));
 }
@@ -231,7 +180,7 @@ TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
   ASSERT_TRUE(Play.Sees("finder"));
   Play.Type("ppl");
   Play.Key(Qt::Key_Return);
-  EXPECT_EQ(Top(), "frmPeople");
+  EXPECT_EQ(Play.Top(), "frmPeople");
   EXPECT_FALSE(Play.Sees("finder"));
   Play.Click("searcheverything");
   Play.Type("later");
@@ -239,7 +188,7 @@ TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
   EXPECT_TRUE(Play.Sees("finder")) << "what is disabled is not found";
   Play.Key(Qt::Key_Escape);
   EXPECT_FALSE(Play.Sees("finder"));
-  EXPECT_EQ(Top(), "frmPeople");
+  EXPECT_EQ(Play.Top(), "frmPeople");
 }
 
 TEST_F(TheWindow, ShowsAWaitingScreenAndTakesNoKeysAmidALongEvent) {
@@ -267,17 +216,16 @@ TEST_F(TheWindow, ShowsAWaitingScreenAndTakesNoKeysAmidALongEvent) {
   EXPECT_FALSE(Play.Sees("frmWaits"));
 }
 
-TEST_F(TheWindow, EndsWhenNothingLiesOnTheDesk) {
+TEST_F(TheWindow, EndsWithTheLastScreenOrWhenItIsClosedWithoutAQuestion) {
   Play.Click("cmdquit");
   EXPECT_TRUE(QTest::qWaitFor([&] { return !Play.Window.isVisible(); }, 10000));
   EXPECT_EQ(Play.Closings, 1);
-}
-
-TEST_F(TheWindow, ClosesWithoutAQuestion) {
-  OpenDesk().AsksBeforeItGoes = true;
-  EXPECT_TRUE(Play.Window.close());
-  EXPECT_EQ(Play.Closings, 1);
-  EXPECT_EQ(Notes, Log());
+  Player other;
+  auto page = std::make_unique<DeskPage>(other.Desk, Notes);
+  page->AsksBeforeItGoes = true;
+  other.Open(std::move(page));
+  EXPECT_TRUE(other.Window.close());
+  EXPECT_EQ(other.Closings, 1);
 }
 
 TEST_F(TheWindow, ClosedAmidAQuestionGivesTheCarefulAnswerFirst) {

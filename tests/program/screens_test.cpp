@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "program/richworld.h"
 #include "support/gameonworld.h"
 #include "support/homefolder.h"
 
@@ -45,18 +46,6 @@ void Visit(ScriptDesk& desk, const std::string& name) {
   desk.Close(screen);
 }
 
-constexpr const char* kInGame[] = {
-    "frmMainScreen", "frmOptions",      "frmNews",       "frmNotepad",   "frmFeuds",
-    "frmFeudStart",  "frmBooking",      "frmPPVBooking", "frmWait",      "frmLoadingScreens",
-    "frmAutoBook",   "frmDebut",        "frmAltRoster",  "frmAltBelts",  "frmQuickStat",
-    "frmTagTeams",   "frmStables",      "frmManagers",   "frmTurn",      "frmRoster",
-    "frmOtherWres",  "frmStaff",        "frmOtherStaff", "frmShortlist", "frmUser",
-    "frmFinance",    "frmTicket",       "frmCharity",    "frmLoan",      "frmWages",
-    "frmFedProd",    "frmFedSponsor",   "frmTelevision", "frmPromoTape", "frmTvOffer",
-    "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
-    "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
-    "frmReigns",     "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
-    "frmInternet"};
 constexpr const char* kBeforeGame[] = {
     "frmTitleScreen",  "frmDisclaimer",   "frmGameMenu",   "frmCredits",        "frmCreditsXtra",
     "frmNewGame",      "frmLoadGame",     "frmWait",       "frmLoadingScreens", "frmEditor",
@@ -64,48 +53,24 @@ constexpr const char* kBeforeGame[] = {
     "frmEditStables",  "frmEditBelts",    "frmEditTv",     "frmEditEvents",     "frmEditNetworks",
     "frmEditSponsors", "frmEditMaintain", "frmEditMerge",  "frmEditImport",     "frmEditTables"};
 
-TEST(EveryScreen, OpensOnAWorldWithSomethingOfEverything) {
-  GameOnWorld play(SmallWorld()
-                       .Network("Nine")
-                       .Promotion("CWA", kCult)
-                       .Owner("Ruth Vane")
-                       .Staff("Pen", kWriter)
-                       .Crew(12)
-                       .Team("The Hands", "CWA Hand 1", "CWA Hand 2")
-                       .Stable("The Firm", {"CWA Hand 3", "CWA Hand 4"})
-                       .Title("CWA Crown", "CWA Hand 1")
-                       .Show("Sunday Slam", "Sunday", "Nine")
-                       .Sponsor("Gulp")
-                       .Event(3)
-                       .Game("CWA")
-                       .Feud("CWA Hand 5", "CWA Hand 6")
-                       .TagFeud("CWA Hand 1", "CWA Hand 2", "CWA Hand 7", "CWA Hand 8")
-                       .Mail("Ruth Vane", "Hello."));
-  for (const char* name : kInGame) Visit(play.Desk, name);
-}
-
-TEST(EveryScreen, OpensOnAWorldWithNothingButThePlayersPromotion) {
-  GameOnWorld play(SmallWorld().Promotion("CWA").Game("CWA"));
-  for (const char* name : kInGame) Visit(play.Desk, name);
+TEST(EveryScreen, OpensInARichWorldAndInOneOfThePlayersPromotionAlone) {
+  const auto look = [](World world) {
+    GameOnWorld play(std::move(world));
+    for (const char* name : kInGame) Visit(play.Desk, name);
+  };
+  look(RichWorld()
+           .Game("CWA")
+           .Feud("CWA Hand 5", "CWA Hand 6")
+           .TagFeud("CWA Hand 1", "CWA Hand 2", "CWA Hand 7", "CWA Hand 8")
+           .Mail("Ruth Vane", "Hello."));
+  look(SmallWorld().Promotion("CWA").Game("CWA"));
 }
 
 TEST(EveryScreen, OpensBeforeAGameOnRichAndOnEmptyData) {
-  HomeFolder rich(SmallWorld()
-                      .Network("Nine")
-                      .Promotion("CWA")
-                      .Owner("Ruth Vane")
-                      .Staff("Pen", kWriter)
-                      .Crew(4)
-                      .Team("The Hands", "CWA Hand 1", "CWA Hand 2")
-                      .Stable("The Firm", {"CWA Hand 3"})
-                      .Title("CWA Crown", "CWA Hand 1")
-                      .Show("Sunday Slam", "Sunday", "Nine")
-                      .Sponsor("Gulp")
-                      .Event(3)
-                      .Build());
-  for (const char* name : kBeforeGame) Visit(rich.Desk, name);
-  HomeFolder empty{World()};
-  for (const char* name : kBeforeGame) Visit(empty.Desk, name);
+  for (const World& data : {RichWorld().Build(), World()}) {
+    HomeFolder home(data);
+    for (const char* name : kBeforeGame) Visit(home.Desk, name);
+  }
 }
 
 }  // namespace

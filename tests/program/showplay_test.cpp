@@ -1,19 +1,145 @@
-#include "showplay.h"
-
 #include <gtest/gtest.h>
 
-#include "booking/showstart.h"
+#include <sstream>
+
 #include "calendar/advanceday.h"
-#include "records/fields/fields.h"
 #include "records/segments.h"
+#include "report/report.h"
+#include "show/holdshow.h"
+#include "support/gameonworld.h"
+
+// A show day as a player has it, from the main screen and back, beside a second world in which the
+// engine does what the screens should do.
 
 namespace grapplemont::test {
 namespace {
 
-using Row = std::vector<std::string>;
+/// "Crowd Reaction 61 =" and its reasons with their changes: the changes must make the number.
+void ExpectAddsUp(ScriptDesk& desk, int figure, const std::string& caption, const Score& score) {
+  desk.Click("cmdwhy(" + std::to_string(figure) + ")");
+  std::istringstream lines(desk.Text("txtwhy"));
+  std::string line;
+  std::getline(lines, line);
+  EXPECT_EQ(line, caption + " " + std::to_string(score) + " =");
+  int sum = 0;
+  while (std::getline(lines, line)) {
+    std::size_t read = 0;
+    sum += std::stoi(line, &read);
+    EXPECT_GT(line.size(), read + 1) << "no reason: " << line;
+  }
+  EXPECT_EQ(sum, score) << desk.Text("txtwhy");
+}
 
-constexpr Day kEventDay{std::chrono::year{2026} / 3 / 29};
-constexpr CommentaryTeam kTable{1, 2, false};
+/// Both worlds draw the same from the moment the show begins.
+struct ShowPlay : GameOnWorld {
+  explicit ShowPlay(grapplemont::World world) : GameOnWorld(std::move(world)) {
+    Desk.Open("frmMainScreen");
+  }
+
+  /// Books a row through the wizard with what its steps offer: a match of these two, or an
+  /// interview with the first.
+  void BookRow(int row, const std::string& one, const std::string& other = {},
+               const std::string& title = "None") {
+    const std::string sheet = Desk.TopName();
+    Desk.Click("cmdbook(" + std::to_string(row) + ")");
+    Desk.Click("cmdbook(0)");
+    Desk.Pick("lststyle", other.empty() ? "Interview" : "Match");
+    Desk.Click("cmdnext");
+    for (int step = 0; step < 10 && Desk.TopName() != "frmBookSheet"; ++step) {
+      if (Desk.TopName() == "frmIV1" || Desk.TopName() == "frmBook1vs1") Desk.Pick("lstwres1", one);
+      if (Desk.TopName() == "frmBook1vs1") Desk.Pick("lstwres2", other);
+      if (Desk.TopName() == "frmBookBelt") Desk.Pick("lsttitle", title);
+      Desk.Click("cmdnext");
+    }
+    Desk.Click("cmdcomplete");
+    EXPECT_EQ(Desk.TopName(), sheet);
+  }
+
+  /// Lets the sheet fill the rows that are empty.
+  void FillTheRest() {
+    Desk.ExpectAsk("Fill The Rest", kAnyText, true);
+    Desk.Click("cmdfill");
+  }
+
+  /// But for the words: the other world is told nothing.
+  void ExpectSameAsOther() {
+    if (World().Reports().Exists())
+      Other.Reports().Rewrite({World().Reports().begin(), World().Reports().end()});
+    ExpectSame(World(), Other);
+  }
+
+  /// Presses the start and begins the show in the other world too.
+  void Start() {
+    Other = CopyOf(World());
+    DrawAlike();
+    StartShow(Other, false, {1, 2, false});
+    Desk.ExpectAsk("Sure?", "Are you sure you wish to start this show?", true);
+    Desk.Click("cmddoshow");
+    ASSERT_EQ(Desk.TopName(), "frmMatchOutput");
+  }
+
+  /// The screen shows what the other world's next Segment comes to, and why.
+  void ExpectNextSegment() {
+    ASSERT_EQ(Desk.TopName(), "frmMatchOutput");
+    const int row = NextSegment(Other);
+    ASSERT_NE(row, 0);
+    SCOPED_TRACE("row " + std::to_string(row));
+    const ToldSegment told = RunNextSegment(Other, nullptr);
+    ExpectSameAsOther();
+    const Segment& segment = Other.Segments()[row];
+    const bool isMatch = segment.Kind == kMatch;
+    const SegmentDetails details = DetailsOf(Other, segment);
+    const std::pair<const char*, std::string> kShown[] = {
+        {"lblinfo", details.Heading},
+        {"txtstyle", details.Style},
+        {"txttype", details.Type},
+        {"txtbelt", details.Belt},
+        {"lblwinner", details.Winner},
+        {"txtcrowd", std::to_string(told.Crowd) + "%"},
+        {"txtoverall", std::to_string(told.Overall) + "%"},
+        {"txtroad", told.Notes},
+        {"cmdnext", "Next"}};
+    for (const auto& [name, text] : kShown) EXPECT_EQ(Desk.Text(name), text) << name;
+    EXPECT_NE(Desk.Text("txtreport"), "");
+    EXPECT_EQ(Desk.Visible("txtbelt"), !details.Belt.empty());
+    for (const char* name : {"lblwinner", "txtquality", "cmdwhy(1)"})
+      EXPECT_EQ(Desk.Visible(name), isMatch) << name;
+    if (isMatch) {
+      EXPECT_EQ(Desk.Text("txtquality"), std::to_string(told.Quality) + "%");
+      ExpectAddsUp(Desk, 1, "Match Quality", told.Quality);
+    }
+    ExpectAddsUp(Desk, 2, "Crowd Reaction", told.Crowd);
+    ExpectAddsUp(Desk, 3, "Overall Rating", told.Overall);
+  }
+
+  /// The next one and those behind it up to this row.
+  void ExpectSegmentsUpTo(int row) {
+    while (NextSegment(Other) != 0 && NextSegment(Other) <= row) {
+      if (NextSegment(Other) != 1) Desk.Click("cmdnext");
+      ExpectNextSegment();
+      if (testing::Test::HasFailure()) return;
+    }
+  }
+
+  /// Ends the program without warning and opens it again.
+  void Kill() {
+    Desk.CloseAll();
+    Reopen();
+    DrawAlike();
+    Desk.Open("frmMainScreen");
+    ExpectSameAsOther();
+  }
+
+  grapplemont::World Other;
+
+ private:
+  void DrawAlike() {
+    ++draws_;
+    World().SetChance(std::make_unique<SeededDraws>(draws_));
+    Other.SetChance(std::make_unique<SeededDraws>(draws_));
+  }
+  int draws_ = 40;
+};
 
 /// The game starts on a Sunday, and five rows are booked on the sheet of its show.
 struct OnSunday : ShowPlay {
@@ -22,13 +148,22 @@ struct OnSunday : ShowPlay {
     EXPECT_EQ(Desk.TopName(), "frmBooking");
     BookRow(1, "CWA Hand 2", "CWA Hand 8");
     BookRow(2, "CWA Hand 3");
-    BookRow(5, "CWA Hand 1", "CWA Hand 7", "CWA Crown");
+    BookRow(kRows, "CWA Hand 1", "CWA Hand 7", "CWA Crown");
     FillTheRest();
-    Start(false, kTable);
+    Start();
   }
+  static constexpr int kRows = 5;
 
   static grapplemont::World Sunday() {
-    return Company(kRegional)
+    return SmallWorld()
+        .Network("Harbor 9")
+        .Promotion("CWA", kRegional)
+        .Staff("Milo Grant", kAnnouncer, 44)
+        .Staff("Pia Root", kAnnouncer, 41)
+        .Staff("Pen", kWriter)
+        .Staff("Quill", kWriter)
+        .Crew(24)
+        .Title("CWA Crown", "CWA Hand 1")
         .Show("Sunday Slam", "Sunday", "Harbor 9",
               [](Show& show) {
                 show.Slot = "G";
@@ -60,25 +195,17 @@ TEST(ATelevisionShowPlayed, IsToldSegmentBySegmentAndLeadsToTheNextDay) {
   EXPECT_EQ(play.Desk.Text("lbltitle"), "Event Report For Sunday Slam");
   EXPECT_EQ(play.Desk.Text("lblreportedby"), "Reported By Rafe Tolland");
   EXPECT_EQ(play.Desk.Text("txtannouncers"), "Milo Grant and Pia Root");
-  EXPECT_EQ(play.Desk.Text("lblinfo"), "Match Details");
-  EXPECT_EQ(play.Desk.Text("txtstyle"), "1 vs 1");
-  EXPECT_EQ(play.Desk.Text("txttype"), "Singles");
   EXPECT_EQ(play.Desk.Text("lblwinner"), "Winner : CWA Hand 2");
-  play.ExpectNextSegment();
-  play.Desk.Click("cmdnext");
+  play.ExpectSegmentsUpTo(2);
   EXPECT_EQ(play.Desk.Text("lblinfo"), "Interview Details");
-  play.ExpectNextSegment();
-  for (int row = 3; row <= 5; ++row) {
-    play.Desk.Click("cmdnext");
-    play.ExpectNextSegment();
-  }
+  play.ExpectSegmentsUpTo(play.kRows);
   EXPECT_EQ(play.Desk.Text("txtbelt"), "(For The CWA Crown Title)");
   play.CloseTheShow();
 
   EXPECT_EQ(play.Desk.Title(), "Recap Sheet For Sunday Slam");
   const int rating = play.Other.ShowRuns()[1].ShowSum;
   EXPECT_EQ(play.Desk.Text("lblrating"), "The show is rated " + std::to_string(rating) + "%.");
-  std::vector<Row> recap;
+  std::vector<std::vector<std::string>> recap;
   for (int row = 1; row <= 5; ++row) {
     const Segment& segment = play.Other.Segments()[row];
     recap.push_back({std::to_string(row), DescribeSegment(play.Other, segment),
@@ -91,116 +218,30 @@ TEST(ATelevisionShowPlayed, IsToldSegmentBySegmentAndLeadsToTheNextDay) {
   EXPECT_NE(senders.find("Television report"), std::string::npos) << senders;
 }
 
-TEST(AShowThatIsKilled, GoesOnWithTheSegmentThatWasToCome) {
-  for (const int toldBefore : {1, 2, 4, 5}) {
+TEST(AShowThatIsKilled, GoesOnWithTheSegmentThatWasToComeOrOnItsRecap) {
+  for (const int toldBefore : {1, 4, 5}) {
     SCOPED_TRACE(toldBefore);
     OnSunday play;
-    play.ExpectNextSegment();
-    for (int told = 2; told <= toldBefore; ++told) {
-      play.Desk.Click("cmdnext");
-      play.ExpectNextSegment();
-    }
+    play.ExpectSegmentsUpTo(toldBefore);
     play.Kill();
-    play.ExpectSameAsOther();
     ASSERT_EQ(play.Desk.TopName(), "frmMatchOutput");
     EXPECT_EQ(play.Desk.Text("lbltitle"), "Event Report For Sunday Slam");
     EXPECT_EQ(play.Desk.Text("lblinfo"), "The show goes on");
     EXPECT_FALSE(play.Desk.Visible("txtoverall"));
     EXPECT_EQ(play.Desk.Text("txtreport"),
-              toldBefore == 5
+              toldBefore == play.kRows
                   ? "Every Segment has been told. Press Next for what the show came to."
                   : "What has been told so far stands. Press Next for what was to come.");
-    for (int row = toldBefore + 1; row <= 5; ++row) {
-      play.Desk.Click("cmdnext");
-      play.ExpectNextSegment();
-    }
+    play.ExpectSegmentsUpTo(play.kRows);
     play.CloseTheShow();
     EXPECT_EQ(play.World().ShowRuns()[1].ShowSegments, 6);
+    const auto recap = play.Desk.Rows("lstrecap"), sum = play.Desk.Rows("lstsum");
+    play.Kill();
+    ASSERT_EQ(play.Desk.TopName(), "frmPostShow");
+    EXPECT_EQ(play.Desk.Rows("lstrecap"), recap);
+    EXPECT_EQ(play.Desk.Rows("lstsum"), sum);
     play.GoOnToMonday();
   }
-}
-
-TEST(AShowThatIsKilled, OpensAgainOnItsRecap) {
-  OnSunday play;
-  play.ExpectNextSegment();
-  for (int row = 2; row <= 5; ++row) {
-    play.Desk.Click("cmdnext");
-    play.ExpectNextSegment();
-  }
-  play.CloseTheShow();
-  const auto recap = play.Desk.Rows("lstrecap"), sum = play.Desk.Rows("lstsum");
-  play.Kill();
-  ASSERT_EQ(play.Desk.TopName(), "frmPostShow");
-  play.ExpectSameAsOther();
-  EXPECT_EQ(play.Desk.Rows("lstrecap"), recap);
-  EXPECT_EQ(play.Desk.Rows("lstsum"), sum);
-  play.GoOnToMonday();
-}
-
-/// The number behind these words in the mail from `from`.
-int NumberInMail(const World& world, std::string_view from, const std::string& words) {
-  for (const Mail& mail : world.News())
-    if (const auto at = mail.Body.View().find(words);
-        mail.From == from && at != std::string_view::npos)
-      return std::stoi(std::string(mail.Body.View().substr(at + words.size())));
-  ADD_FAILURE() << "no mail from " << from << " says " << words;
-  return 0;
-}
-
-TEST(AnEventPlayed, PaysForItsExtraAndTakesItsBonus) {
-  ShowPlay play(Company(kCult).Event(3, 2, "Marchmania").Game("CWA", kEventDay));
-  play.Desk.Click("cmdnext");
-  ASSERT_EQ(play.Desk.TopName(), "frmPPVBooking");
-  play.BookRow(1, "CWA Hand 2", "CWA Hand 8");
-  play.BookRow(9, "CWA Hand 1", "CWA Hand 7", "CWA Crown");
-  play.FillTheRest();
-  play.Desk.Pick("cmbannouncer", "Milo Grant");
-  play.Desk.Pick("cmbcolour", "Pia Root");
-  play.Desk.Pick("cmbspecial", "Hire A Big-Screen For This Event");
-  const int money = play.World().Player().Money;
-  play.Start(true, kTable);
-  const int bonus = play.Other.RandomDraw(15);
-  AddExtraBonus(play.Other, bonus);
-  play.Other.Player().Money -= 500000;
-  play.Other.ShowRuns()[1].ExtraCost = 500000;
-  EXPECT_EQ(play.World().Player().Money, money - 500000);
-  play.ExpectNextSegment();
-  while (NextSegment(play.Other) != 0) {
-    play.Desk.Click("cmdnext");
-    play.ExpectNextSegment();
-    if (testing::Test::HasFailure()) return;
-  }
-  play.Desk.Click("cmdnext");
-  CloseShow(play.Other);
-  ASSERT_EQ(play.Desk.TopName(), "frmPostShow");
-  play.ExpectSameAsOther();
-  EXPECT_EQ(play.Desk.Title(), "Recap Sheet For Marchmania");
-
-  // What the sum is made of, line by line; the last line divides it.
-  const auto sum = play.Desk.Rows("lstsum");
-  int total = 0, extra = 0;
-  for (const Row& row : sum) {
-    if (row[0] == "Together") {
-      EXPECT_EQ(std::stoi(row[1]), total);
-      break;
-    }
-    total += std::stoi(row[1]);
-    if (row[0] == "The extra of the Event") extra = std::stoi(row[1]);
-  }
-  EXPECT_EQ(extra, bonus);
-  const ShowRun& run = play.Other.ShowRuns()[1];
-  EXPECT_EQ(Score::Floor(total, run.ShowSegments), run.ShowSum);
-  EXPECT_EQ(sum.back()[1], std::to_string(run.ShowSum));
-
-  play.Desk.Click("cmdback");
-  LeaveShow(play.Other);
-  AdvanceDay(play.Other, false);
-  EXPECT_EQ(play.Desk.Text("txtdate"), "Monday, 30 March 2026");
-  play.ExpectSameAsOther();
-  const int people = NumberInMail(play.World(), "Show report", "Marchmania was attended by ");
-  EXPECT_GT(people, 0);
-  EXPECT_EQ(play.World().Player().Money,
-            money - 500000 - 200000 + people * int(play.World().Player().TicketPrice));
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <set>
 
 #include "support/samplescreen.h"
 #include "support/scriptdesk.h"
@@ -24,36 +23,18 @@ class Controls : public testing::Test {
 };
 
 TEST_F(Controls, CountEveryChangeThatCanBeSeen) {
-  struct Row {
-    const char* What;
-    ui::Control& Control;
-    ui::Handler Change;
-  };
-  const Row kRows[] = {
-      {"text", Screen.lblfacts, [&] { Screen.lblfacts.Text = "Other"; }},
-      {"enabled", Screen.cmddoit, [&] { Screen.cmddoit.Enabled = false; }},
-      {"visible", Screen.cmddoit, [&] { Screen.cmddoit.Visible = false; }},
-      {"tip", Screen.cmddoit, [&] { Screen.cmddoit.Tip = "Go on"; }},
-      {"colour", Screen.lblfacts, [&] { Screen.lblfacts.Colour = ui::Tone::Red; }},
-      {"badge", Screen.cmdsay, [&] { Screen.cmdsay.Badge = "3"; }},
-      {"checked", Screen.chkday, [&] { Screen.chkday.Checked = true; }},
-      {"value", Screen.hsprice, [&] { Screen.hsprice.Value = 21; }},
-      {"range", Screen.hsprice, [&] { Screen.hsprice.Max = 120; }},
-      {"file", Screen.imgdoor, [&] { Screen.imgdoor.File = "gate.jpg"; }},
-      {"captions", Screen.chtmoney, [&] { Screen.chtmoney.Captions = std::vector<std::string>{}; }},
-      {"rows", Screen.lstpeople,
-       [&] {
-         Screen.lstpeople.Add({"Cal Drift", 10});
-       }},
-      {"selection", Screen.lstpeople, [&] { Screen.lstpeople.Select(2); }},
-      {"combo", Screen.cmbkind, [&] { Screen.cmbkind.Select(2); }},
-  };
-  for (const Row& row : kRows) EXPECT_TRUE(Shows(row.Control, row.Change)) << row.What;
-  const std::set<std::string_view> kAlwaysCount = {"rows", "selection", "combo"};
-  for (const Row& row : kRows) {
-    if (kAlwaysCount.contains(row.What)) continue;
-    EXPECT_FALSE(Shows(row.Control, row.Change)) << row.What << ", the same again";
+  const std::pair<ui::Control&, ui::Handler> kValues[] = {
+      {Screen.lblfacts, [&] { Screen.lblfacts.Text = "Other"; }},
+      {Screen.cmdsay, [&] { Screen.cmdsay.Badge = "3"; }},
+      {Screen.chkday, [&] { Screen.chkday.Checked = true; }},
+      {Screen.hsprice, [&] { Screen.hsprice.Value = 21; }}};
+  for (const auto& [control, change] : kValues) {
+    EXPECT_TRUE(Shows(control, change)) << control.Name();
+    EXPECT_FALSE(Shows(control, change)) << control.Name() << ", the same again";
   }
+  EXPECT_TRUE(Shows(Screen.lstpeople, [&] { Screen.lstpeople.Add({"Cal Drift"}, 10); }));
+  EXPECT_TRUE(Shows(Screen.lstpeople, [&] { Screen.lstpeople.Select(2); }));
+  EXPECT_TRUE(Shows(Screen.cmbkind, [&] { Screen.cmbkind.Select(2); }));
 }
 
 TEST_F(Controls, AListKeepsItsSelectionByKey) {
@@ -73,51 +54,32 @@ TEST_F(Controls, AListKeepsItsSelectionByKey) {
   EXPECT_EQ(Screen.lstpeople.Selected(), 0);
 }
 
-TEST_F(Controls, AListBearsAnyRowNumber) {
+TEST_F(Controls, SelectsNothingForARowThatIsNotThereAndTellsNoHandler) {
+  Log.clear();
+  ui::ComboBox& combo = Screen.cmbkind;
   for (const int row : {-1, 0, 4, 99}) {
+    SCOPED_TRACE(row);
     Screen.lstpeople.Select(2);
     Screen.lstpeople.Select(row);
-    EXPECT_EQ(Screen.lstpeople.Selected(), 0) << row;
+    EXPECT_EQ(Screen.lstpeople.Selected(), 0);
     Screen.lstmany.Toggle(row);
-    EXPECT_EQ(Screen.lstmany.Keys(), std::vector<int>{}) << row;
+    EXPECT_EQ(Screen.lstmany.Keys(), std::vector<int>{});
+    combo.SelectKey(8);
+    EXPECT_EQ(combo.Text.Get(), "Tag Team");
+    combo.Select(row);
+    EXPECT_EQ(combo.Selected(), 0);
+    EXPECT_EQ(combo.Text.Get(), "");
+    EXPECT_EQ(combo.Key(), 0);
+    EXPECT_EQ(combo.KeyOf(row), 0);
   }
+  Screen.lstpeople.Select(2);
   Screen.lstpeople.SelectKey(999);
   EXPECT_EQ(Screen.lstpeople.Selected(), 0);
-  Screen.lstpeople.Select(2);
   Screen.lstpeople.Clear();
-  EXPECT_EQ(Screen.lstpeople.Selected(), 0);
   EXPECT_EQ(Screen.lstpeople.Count(), 0);
-}
-
-TEST_F(Controls, AComboShowsItsChosenRow) {
-  ui::ComboBox& combo = Screen.cmbkind;
-  EXPECT_EQ(combo.Text.Get(), "Singles");
-  EXPECT_EQ(combo.Key(), 7);
-  combo.SelectKey(8);
-  EXPECT_EQ(combo.Selected(), 2);
-  EXPECT_EQ(combo.Text.Get(), "Tag Team");
-  for (const int row : {-1, 0, 3}) {
-    combo.Select(2);
-    combo.Select(row);
-    EXPECT_EQ(combo.Selected(), 0) << row;
-    EXPECT_EQ(combo.Text.Get(), "") << row;
-    EXPECT_EQ(combo.Key(), 0) << row;
-    EXPECT_EQ(combo.KeyOf(row), 0) << row;
-  }
-  combo.SelectKey(7);
   combo.Clear();
-  EXPECT_EQ(combo.Text.Get(), "");
   combo.SelectKey(7);
   EXPECT_EQ(combo.Selected(), 0);
-}
-
-TEST_F(Controls, SelectingTellsNoHandler) {
-  Log.clear();
-  Screen.cmbkind.Select(2);
-  Screen.lstpeople.Select(1);
-  Screen.lstmany.Toggle(1);
-  Screen.hsprice.Value = 7;
-  Screen.chkday.Checked = true;
   EXPECT_TRUE(Log.empty());
 }
 
@@ -165,38 +127,20 @@ const Act kActs[] = {
     {"slide", "slid", [](auto& d, auto& s, auto n) { return ui::Slide(d, s, n, 50); }},
 };
 
-/// A list whose rows open with a button that picking the second row disables.
-class Doors : public ui::Screen {
- public:
-  explicit Doors(ui::Desk& desk) : Screen(desk, "frmDoors", "Doors") {
-    lstdoors.Add({"Open"}, 1);
-    lstdoors.Add({"Locked"}, 2);
-  }
-  ui::Page Layout() override { return {}; }
-  int Entered = 0;
-
- private:
-  ui::ListBox lstdoors{*this,
-                       "lstdoors",
-                       {{}},
-                       ui::Handler([this] { cmdenter.Enabled = lstdoors.Key() == 1; }),
-                       cmdenter};
-  ui::Button cmdenter{*this, "cmdenter", "Enter", ui::Handler([this] { ++Entered; })};
-};
-
 TEST(Acts, OpenARowOnlyWithAButtonThatCanBePressed) {
   ScriptDesk desk;
-  auto screen = std::make_unique<Doors>(desk);
-  Doors& doors = *screen;
-  desk.Open(std::move(screen));
-  desk.OpenRow("lstdoors", "Open");
-  EXPECT_EQ(doors.Entered, 1);
-  desk.OpenRow("lstdoors", "Locked");
-  EXPECT_EQ(doors.Entered, 1);
-  EXPECT_EQ(desk.Selected("lstdoors"), std::vector{2}) << "picked all the same";
-  doors.Find("cmdenter")->Visible = false;
-  desk.OpenRow("lstdoors", "Open");
-  EXPECT_EQ(doors.Entered, 1);
+  Log log;
+  SampleScreen& screen = SampleScreen::On(desk, log);
+  screen.lstpeople.OpenWith(screen.cmddoit);
+  log.clear();
+  desk.OpenRow("lstpeople", 1);
+  screen.cmddoit.Enabled = false;
+  desk.OpenRow("lstpeople", 2);
+  EXPECT_EQ(desk.Selected("lstpeople"), std::vector{2}) << "picked all the same";
+  screen.cmddoit.Enabled = true;
+  screen.cmddoit.Visible = false;
+  desk.OpenRow("lstpeople", 3);
+  EXPECT_EQ(log, (Log{"lstpeople picked", "cmddoit", "lstpeople picked", "lstpeople picked"}));
 }
 
 TEST(Acts, FitTheKindOfTheControl) {
@@ -262,41 +206,23 @@ TEST(Acts, DoNotReachWhatAPlayerCannotReach) {
   EXPECT_FALSE(screen.chkday.Checked);
 }
 
-TEST(Acts, CutWhatIsTypedAtTheLongestText) {
-  ScriptDesk desk;
-  Log log;
-  SampleScreen& screen = SampleScreen::On(desk, log);
-  desk.Type("txtname", std::string(300, 'x'));
-  EXPECT_EQ(screen.txtname.Text.Get(), "xxxxxxxx");
-  desk.Type("txtname", "");
-  EXPECT_EQ(screen.txtname.Text.Get(), "");
-  desk.Type("txtnotes", std::string(300, 'x'));
-  EXPECT_EQ(screen.txtnotes.Text->size(), 300u);
-}
-
 TEST(Acts, FindARowByItsTextBeforeItsNumber) {
   ScriptDesk desk;
   Log log;
   SampleScreen& screen = SampleScreen::On(desk, log);
-  struct Row {
-    const char* Wanted;
-    int Found;  // 0: refused
-  };
-  // The second row's text is "3".
-  constexpr Row kRows[] = {{"1", 1},  {"2", 2},  {"3", 2},           {"Ilya Marsh", 3},
-                           {"0", 0},  {"4", 0},  {"-1", 0},          {"", 0},
-                           {"1 ", 0}, {"+1", 0}, {"ilya marsh", 0},  {"88", 0},
-                           {"1x", 0}, {" 1", 0}, {"99999999999", 0}, {"Ilya", 0}};
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.Wanted);
+  // The second row's text is "3"; 0: refused.
+  constexpr std::pair<const char*, int> kRows[] = {{"1", 1},  {"3", 2},           {"Ilya Marsh", 3},
+                                                   {"0", 0},  {"4", 0},           {"", 0},
+                                                   {"1x", 0}, {"99999999999", 0}, {"Ilya", 0}};
+  for (const auto& [wanted, row] : kRows) {
+    SCOPED_TRACE(wanted);
     for (const bool open : {false, true}) {
       screen.lstpeople.Select(0);
-      const std::string refusal = open ? ui::OpenRow(desk, screen, "lstpeople", row.Wanted)
-                                       : ui::Pick(desk, screen, "lstpeople", row.Wanted);
-      EXPECT_EQ(screen.lstpeople.Selected(), row.Found);
-      EXPECT_EQ(refusal, row.Found != 0
-                             ? ""
-                             : "\"lstpeople\" has no row \"" + std::string(row.Wanted) + "\".");
+      const std::string refusal = open ? ui::OpenRow(desk, screen, "lstpeople", wanted)
+                                       : ui::Pick(desk, screen, "lstpeople", wanted);
+      EXPECT_EQ(screen.lstpeople.Selected(), row);
+      EXPECT_EQ(refusal,
+                row != 0 ? "" : "\"lstpeople\" has no row \"" + std::string(wanted) + "\".");
     }
   }
   desk.Pick("lstpeople", 3);
@@ -307,21 +233,22 @@ TEST(Acts, FindARowByItsTextBeforeItsNumber) {
   EXPECT_EQ(screen.cmbkind.Text.Get(), "Tag Team");
 }
 
-TEST(Acts, ToggleTheRowsOfAListThatTakesSeveral) {
+TEST(Acts, ChangeWhatTheyNameAndTellOnlyOfChanges) {
   ScriptDesk desk;
   Log log;
-  SampleScreen::On(desk, log);
+  SampleScreen& screen = SampleScreen::On(desk, log);
+  log.clear();
+  desk.Type("txtname", std::string(300, 'x'));
+  EXPECT_EQ(screen.txtname.Text.Get(), "xxxxxxxx") << "cut at its longest";
+  desk.Type("txtnotes", std::string(300, 'x'));
+  EXPECT_EQ(screen.txtnotes.Text->size(), 300u);
+
   desk.Pick("lstmany", "Green");
   desk.Pick("lstmany", 1);
   EXPECT_EQ(desk.Selected("lstmany"), (std::vector<int>{1, 2}));
   desk.Pick("lstmany", "Green");
   EXPECT_EQ(desk.Selected("lstmany"), (std::vector<int>{1}));
-}
 
-TEST(Acts, KeepOneOptionOfAGroupChecked) {
-  ScriptDesk desk;
-  Log log;
-  SampleScreen& screen = SampleScreen::On(desk, log);
   desk.Click("optheel");
   EXPECT_TRUE(desk.Checked("optheel"));
   EXPECT_FALSE(desk.Checked("optface"));
@@ -329,12 +256,7 @@ TEST(Acts, KeepOneOptionOfAGroupChecked) {
   EXPECT_EQ(ui::Check(desk, screen, "optheel", false),
             "\"optheel\" is left by checking another of its group.");
   EXPECT_TRUE(desk.Checked("optheel"));
-}
 
-TEST(Acts, TurnACheckBoxAndTellOnlyOfChanges) {
-  ScriptDesk desk;
-  Log log;
-  SampleScreen::On(desk, log);
   log.clear();
   desk.Click("chkday");
   desk.Check("chkday", true);
@@ -342,22 +264,15 @@ TEST(Acts, TurnACheckBoxAndTellOnlyOfChanges) {
   desk.Check("chkday", false);
   desk.Check("chkday", false);
   EXPECT_FALSE(desk.Checked("chkday"));
-  EXPECT_EQ(log, (Log{"chkday", "chkday"}));
-}
 
-TEST(Acts, SlideWithinTheBar) {
-  ScriptDesk desk;
-  Log log;
-  SampleScreen& screen = SampleScreen::On(desk, log);
   for (const int value : {4, 101, -2147483647})
     EXPECT_EQ(ui::Slide(desk, screen, "hsprice", value), "\"hsprice\" goes from 5 to 100.");
   EXPECT_EQ(screen.hsprice.Value.Get(), 20);
-  log.clear();
   for (const int value : {5, 100, 100}) {
     desk.Slide("hsprice", value);
     EXPECT_EQ(desk.Value("hsprice"), value);
   }
-  EXPECT_EQ(log, (Log{"hsprice", "hsprice"}));
+  EXPECT_EQ(log, (Log{"chkday", "chkday", "hsprice", "hsprice"}));
 }
 
 }  // namespace

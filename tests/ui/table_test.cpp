@@ -23,33 +23,25 @@ TEST(AFilter, UnderstandsWhatPeopleType) {
   const ui::Cell march(46090, "09/03/2026");  // 46090 days from 30 December 1899
   const FilterRow kRows[] = {
       {">70", over70, K::Number, false},
-      {">69", over70, K::Number, true},
       {">=70", over70, K::Number, true},
-      {"<=3", over70, K::Number, false},
       {"<70.5", over70, K::Number, true},
-      {"=70", over70, K::Number, true},
       {"==7", over70, K::Number, false},
       {"!=70", over70, K::Number, false},
       {"7", over70, K::Number, true},
       {"60..80", over70, K::Percent, true},
       {"71 .. 80", over70, K::Percent, false},
       {">20 & <30", over70, K::Number, false},
-      {">20 & <90", over70, K::Number, true},
       {"<30 | >60", over70, K::Number, true},
       {">-5", over70, K::Number, true},
       {">1.2m", wage, K::Number, true},
       {">$1300k", wage, K::Number, false},
       {"Heel|Tweener", heel, K::Tag, true},
-      {"Face|Tweener", heel, K::Tag, false},
       {"!Heel|Face", heel, K::Tag, false},
       {"!Face|Tweener", heel, K::Tag, true},
-      {"heel", heel, K::Tag, true},
       {"=hee", heel, K::Tag, false},
       {"=HEEL", heel, K::Tag, true},
       {"!Injur", injured, K::Percent, false},
-      {"!Injur", heel, K::Percent, true},
       {">G", heel, K::Text, true},
-      {"<G", heel, K::Text, false},
       {"..", heel, K::Text, false},
       {"<10/03/2026", march, K::Date, true},
       {">9/3/26", march, K::Date, false},
@@ -152,16 +144,12 @@ TEST_F(TheTable, SortsByAColumnThenByASecond) {
   EXPECT_EQ(Keys(), Numbers({14, 13, 15, 12, 11}));
   Table.TurnSort(2, false);
   EXPECT_EQ(Keys(), Numbers({11, 12, 13, 14, 15})) << "and back to the list's own order";
-}
-
-TEST_F(TheTable, PutsRowsWithoutATextLastWhicheverWayItSorts) {
   List.Add({"Sister Calamity", "", 90}, 16);
   Table.Follow();
-  Table.TurnSort(1, false);
-  EXPECT_EQ(Keys().back(), 16);
-  Table.TurnSort(1, false);
-  EXPECT_EQ(Keys().back(), 16);
-  EXPECT_EQ(Table.At(0, 1).Text, "Tweener");
+  for (int way = 0; way < 2; ++way) {
+    Table.TurnSort(1, false);
+    EXPECT_EQ(Keys().back(), 16) << "a row without a text comes last both ways";
+  }
 }
 
 TEST_F(TheTable, KeepsItsStateWhenTheRowsChange) {
@@ -235,12 +223,6 @@ TEST_F(TheTable, IgnoresAStateOfColumnsThatAreGone) {
   EXPECT_EQ(table.Rows().size(), 5U);
   EXPECT_EQ(table.Columns().size(), 4U) << "all hidden is none hidden";
   EXPECT_EQ(table.Columns().front(), 2);
-}
-
-TEST(AColumn, IsKnownByItsTitleOrItsPlace) {
-  const std::vector<ui::Column> columns = {{"Name"}, {""}};
-  EXPECT_EQ(ui::ColumnId(columns, 0), "Name");
-  EXPECT_EQ(ui::ColumnId(columns, 1), "#2");
 }
 
 }  // namespace

@@ -1,0 +1,74 @@
+#include "desktop/pieces.h"
+
+#include <algorithm>
+
+namespace grapplemont::desktop {
+
+namespace {
+
+constexpr int kWidest = 520;    // a line that may still stand alone
+constexpr int kUnbroken = 190;  // a text as short as this is never broken
+
+}  // namespace
+
+WrappedLabel::WrappedLabel(QWidget* parent, const QString& text, const QFont& font)
+    : QLabel(text, parent) {
+  setTextFormat(Qt::PlainText);
+  setWordWrap(true);
+  setFont(font);
+}
+
+int WrappedLabel::NaturalWidth() const {
+  int widest = 0;
+  for (const QString& line : text().split('\n'))
+    widest = std::max(widest, fontMetrics().horizontalAdvance(line));
+  return widest + 2;
+}
+
+QSize WrappedLabel::sizeHint() const {
+  const int width = std::min(NaturalWidth(), Px(kWidest));
+  return {width, heightForWidth(width)};
+}
+
+QSize WrappedLabel::minimumSizeHint() const {
+  return {std::min(NaturalWidth(), Px(kUnbroken)), fontMetrics().height()};
+}
+
+void SetInk(QWidget& label, const QColor& colour) {
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::Text, colour);
+  label.setForegroundRole(QPalette::Text);
+  label.setPalette(palette);
+}
+
+void SetMargins(QLineEdit& line) {
+  line.setTextMargins(Px(8), 0, Px(8), 0);
+}
+
+QLineEdit* NewLine(QWidget* holder, const QString& name, const QString& text) {
+  auto* line = new QLineEdit(text, holder);
+  line->setObjectName(name);
+  SetMargins(*line);
+  return line;
+}
+
+BareScroller::BareScroller(QWidget* parent) : QScrollArea(parent) {
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  viewport()->setAutoFillBackground(false);
+}
+
+void BareScroller::Hold(QWidget* body) {
+  setWidget(body);
+  body->setAutoFillBackground(false);
+}
+
+QMenu* NewMenu(QWidget* parent, const QString& name) {
+  auto* menu = new QMenu(parent);
+  menu->setObjectName(name);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  return menu;
+}
+
+}  // namespace grapplemont::desktop

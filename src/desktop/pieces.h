@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScrollArea>
+
+#include "desktop/look.h"
+
+// What every part of the window is made of.
+
+namespace grapplemont::desktop {
+
+/// A layout of the holder, or without one for another layout. Spacing and margins are in drawn
+/// pixels; below 0 the spacing is the style's.
+template <class Layout>
+Layout* NewLayout(QWidget* holder, int spacing, const QMargins& drawn = {}) {
+  auto* layout = new Layout(holder);
+  layout->setContentsMargins(Px(drawn.left()), Px(drawn.top()), Px(drawn.right()),
+                             Px(drawn.bottom()));
+  if (spacing >= 0) layout->setSpacing(Px(spacing));
+  return layout;
+}
+
+/// Plain text that breaks where its room ends, and is as wide as its words where it may be.
+class WrappedLabel : public QLabel {
+ public:
+  explicit WrappedLabel(QWidget* parent, const QString& text = {}, const QFont& font = TextFont());
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ private:
+  int NaturalWidth() const;
+};
+
+/// Gives a label's words a colour of the set that it belongs to.
+void SetInk(QWidget& label, const QColor& colour);
+
+/// Gives the text in a line its room at the sides.
+void SetMargins(QLineEdit& line);
+/// A line to type in.
+QLineEdit* NewLine(QWidget* holder, const QString& name, const QString& text = {});
+
+/// A scroll area that shows nothing of itself but its bar, upright.
+class BareScroller : public QScrollArea {
+ public:
+  explicit BareScroller(QWidget* parent);
+  void Hold(QWidget* body);
+};
+
+/// A menu that goes when it closes.
+QMenu* NewMenu(QWidget* parent, const QString& name = {});
+
+inline bool IsEnter(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+/// Enter as it is pressed, not as it is held.
+inline bool PressesEnter(const QKeyEvent& event) {
+  return IsEnter(event.key()) && !event.isAutoRepeat();
+}
+
+}  // namespace grapplemont::desktop

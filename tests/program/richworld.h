@@ -1,0 +1,44 @@
+#pragma once
+
+#include "support/smallworld.h"
+
+namespace grapplemont::test {
+
+/// Two promotions, of which "CWA" has something of everything, and people on the market.
+inline SmallWorld RichWorld() {
+  SmallWorld small;
+  small.Network("Nine")
+      .Promotion("CWA", kCult, [](Promotion& p) { p.Money = 9000000; })
+      .Owner("Ruth Vane")
+      .Staff("Pen", kWriter)
+      .Crew(12)
+      .Team("The Hands", "CWA Hand 1", "CWA Hand 2")
+      .Stable("The Firm", {"CWA Hand 3", "CWA Hand 4"})
+      .Title("CWA Crown", "CWA Hand 1")
+      .Show("Sunday Slam", "Sunday", "Nine")
+      .Sponsor("Gulp")
+      .Event(3)
+      .Promotion("XWF", kRegional, [](Promotion& p) { p.Money = -2000000; })
+      .Crew(4)
+      .OnTheMarket()
+      .Crew(4)
+      .Staff("Free Pen", kWriter)
+      .Sponsor("Chew");
+  return small;
+}
+
+/// The screens that lie on the desk of a game.
+inline constexpr const char* kInGame[] = {
+    "frmMainScreen", "frmOptions",      "frmNews",       "frmNotepad",   "frmFeuds",
+    "frmFeudStart",  "frmBooking",      "frmPPVBooking", "frmWait",      "frmLoadingScreens",
+    "frmAutoBook",   "frmDebut",        "frmAltRoster",  "frmAltBelts",  "frmQuickStat",
+    "frmTagTeams",   "frmStables",      "frmManagers",   "frmTurn",      "frmRoster",
+    "frmOtherWres",  "frmStaff",        "frmOtherStaff", "frmShortlist", "frmUser",
+    "frmFinance",    "frmTicket",       "frmCharity",    "frmLoan",      "frmWages",
+    "frmFedProd",    "frmFedSponsor",   "frmTelevision", "frmPromoTape", "frmTvOffer",
+    "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
+    "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
+    "frmReigns",     "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
+    "frmInternet"};
+
+}  // namespace grapplemont::test
