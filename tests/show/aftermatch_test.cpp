@@ -1,5 +1,6 @@
 #include "show/aftermatch.h"
 
+#include "roster/postings.h"
 #include "showrig.h"
 #include "support/newsof.h"
 
@@ -26,6 +27,16 @@ TEST(AfterMatch, SumsUpBeforeItLimits) {
     AfterMatch(stage.Run, ash, false);
     EXPECT_EQ(ash.Over, c.OverAfter);
     EXPECT_EQ(ash.Morale, c.MoraleAfter);
+  }
+}
+
+TEST(FittingPosition, ChangesJustAboveEachLimit) {
+  // Each place counts as often as the Over that it fits.
+  constexpr int kSums[] = {15641, 13716, 9846, 8791, 6135, 5568};
+  for (int size = kGlobal; size <= kBackyard; ++size) {
+    int sum = 0;
+    for (int over = 0; over <= 100; ++over) sum += (over + 1) * FittingPosition(size, over);
+    EXPECT_EQ(sum, kSums[size - 1]) << size;
   }
 }
 

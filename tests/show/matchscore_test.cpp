@@ -46,9 +46,7 @@ TEST(ScoreMatch, IsLiftedByTheFirstFeudThatFitsWhoseHeatFollows) {
     const char* Why;
     World Is;
     Segment Match;
-    int Draw;  // of 5; 0 for none
-    int Crowd;
-    std::vector<int> Heat, Touched;
+    std::array<int, 4> Comes;  // draw of 5 or 0 for none, crowd, slot touched or 0, its heat
   };
   const auto tag = [](const std::vector<int>& order) {
     return SegmentOf(kMatch, kTag, kPlainTag, order);
@@ -57,62 +55,41 @@ TEST(ScoreMatch, IsLiftedByTheFirstFeudThatFitsWhoseHeatFollows) {
       {"a lift",
        Cast().Feud("Cal", "Dot").Feud("Bea", "Ash", Hot(80)).Game("CWA"),
        MatchOf(kSingles),
-       5,
-       57,
-       {50, 71},
-       {2}},
+       {5, 57, 2, 71}},
       {"no further than the heat",
        Cast().Feud("Bea", "Ash", Hot(52)).Game("CWA"),
        MatchOf(kSingles),
-       5,
-       52,
-       {53},
-       {1}},
+       {5, 52, 1, 53}},
       {"the first of two alone",
        Cast().TagFeud("Ash", "Cal", "Dot", "Bea", Hot(30)).Feud("Ash", "Bea", Hot(90)).Game("CWA"),
        MatchOf(kSingles),
-       0,
-       47,
-       {39, 90},
-       {1}},
+       {0, 47, 1, 39}},
       {"teams, whose heat stays",
        Cast().TagFeud("Ash", "Bea", "Cal", "Dot", Hot(80)).Game("CWA"),
        tag({4, 3, 1, 2}),
-       2,
-       54,
-       {80},
-       {1}},
+       {2, 54, 1, 80}},
       {"a stranger behind",
        Cast().TagFeud("Ash", "Bea", "Cal", "Dot", Hot(80)).Game("CWA"),
        tag({1, 2, 3, 5}),
-       0,
-       47,
-       {80},
-       {}},
+       {0, 47, 0, 80}},
       {"partners who are enemies",
        Cast().Feud("Ash", "Bea", Hot(80)).Game("CWA"),
        MatchOf(kTag),
-       0,
-       47,
-       {65},
-       {1}},
+       {0, 47, 1, 65}},
       {"enemies of two teams",
        Cast().Feud("Ash", "Cal", Hot(80)).Game("CWA"),
        MatchOf(kTag),
-       0,
-       47,
-       {80},
-       {}},
+       {0, 47, 0, 80}},
   };
   for (Case& c : cases) {
     SCOPED_TRACE(c.Why);
+    const auto [draw, crowd, slot, heat] = c.Comes;
     Rig rig(std::move(c.Is), c.Match);
-    ScriptDraws(rig.W, c.Draw ? std::vector{c.Draw} : std::vector<int>());
+    ScriptDraws(rig.W, draw ? std::vector{draw} : std::vector<int>());
     ScoreMatch(rig.Run);
-    EXPECT_EQ(rig.Run.Crowd, c.Crowd);
-    EXPECT_EQ(rig.Touched(), c.Touched);
-    for (std::size_t i = 0; i < c.Heat.size(); ++i)
-      EXPECT_EQ(rig.W.Feuds()[static_cast<int>(i) + 1].Heat, c.Heat[i]);
+    EXPECT_EQ(rig.Run.Crowd, crowd);
+    EXPECT_EQ(rig.Touched(), slot ? std::vector{slot} : std::vector<int>());
+    EXPECT_EQ(rig.W.Feuds()[std::max(slot, 1)].Heat, heat);
   }
 }
 
