@@ -263,12 +263,19 @@ class TableWriter {
     return true;
   }
 
-  /// The column that every table has: the name of its records, where they have one.
+  /// The column that every table has: the name of its records; where they have none, a number,
+  /// whose cells are never empty.
   static const Column& Anchor(const std::vector<Column>& columns) {
-    const auto text = std::find_if(columns.begin(), columns.end(), [](const Column& column) {
-      return column.Of->Kind == FieldKind::Text;
+    const auto first = [&](auto fits) {
+      return std::find_if(columns.begin(), columns.end(), fits);
+    };
+    const auto text =
+        first([](const Column& column) { return column.Of->Kind == FieldKind::Text; });
+    if (text != columns.end()) return *text;
+    const auto number = first([](const Column& column) {
+      return column.Of->Kind != FieldKind::Date && !IsReference(*column.Of) && !IsUid(*column.Of);
     });
-    return text == columns.end() ? columns.front() : *text;
+    return number == columns.end() ? columns.front() : *number;
   }
 
   std::vector<Column> ColumnsWorthWriting() const {
