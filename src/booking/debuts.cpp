@@ -5,7 +5,6 @@
 #include "booking/wizard/casting.h"
 #include "booking/wizard/roster.h"
 #include "records/modWresCheck.h"
-#include "records/segments.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {

@@ -39,45 +39,6 @@ const SlotRow& Row(std::string_view slot) {
   return found == std::end(kSlots) ? found[-1] : *found;
 }
 
-}  // namespace
-
-std::string NetworkName(const World& world, int networkUid) {
-  const Network* network = world.FindNetwork(networkUid);
-  return network ? network->Name.Str() : "None";
-}
-
-std::string_view SlotName(std::string_view slot) {
-  return Row(slot).Name;
-}
-
-std::string_view SlotHours(std::string_view slot) {
-  return Row(slot).Hours;
-}
-
-int SlotAudience(const Network& network, std::string_view slot) {
-  return network.*Row(slot).Audience;
-}
-
-int SlotRisk(const Network& network, std::string_view slot) {
-  return network.*Row(slot).Risk;
-}
-
-int AudiencePotential(const Promotion& promotion, int economy) {
-  const int amount = ByImage(BySize(kPotential, promotion.Size), promotion.Image - 1, 20);
-  return ByEconomy(amount, kEconomy, economy);
-}
-
-int ShowsOn(const World& world, const Network& network) {
-  return static_cast<int>(std::ranges::count_if(
-      world.Shows(), [&](const Show& show) { return show.Network == network.Uid; }));
-}
-
-bool IsFull(const World& world, const Network& network) {
-  return ShowsOn(world, network) == kSpots;
-}
-
-namespace {
-
 /// A rival's deal is talked about when these many weeks are left.
 constexpr int kRenewalWeeks = 2;
 constexpr int kLongRenewal = 25;
@@ -118,15 +79,6 @@ void Review(World& world, const Promotion& owner, Show& show) {
   if (show.Rating4 == kDroppedAt && show.Name != kToBeDeleted)
     TakeOff(world, owner, show, " has been dropped by ");
 }
-
-}  // namespace
-
-void TvContractReview(World& world) {
-  for (Show& show : world.Shows())
-    if (const Promotion* owner = world.FindPromotion(show.Owner)) Review(world, *owner, show);
-}
-
-namespace {
 
 /// Promotions of this size and above look for television.
 constexpr int kSmallestOnTv = kCult;
@@ -203,6 +155,46 @@ void SeekShow(World& world, const Promotion& rival) {
 }
 
 }  // namespace
+
+std::string NetworkName(const World& world, int networkUid) {
+  const Network* network = world.FindNetwork(networkUid);
+  return network ? network->Name.Str() : "None";
+}
+
+std::string_view SlotName(std::string_view slot) {
+  return Row(slot).Name;
+}
+
+std::string_view SlotHours(std::string_view slot) {
+  return Row(slot).Hours;
+}
+
+int SlotAudience(const Network& network, std::string_view slot) {
+  return network.*Row(slot).Audience;
+}
+
+int SlotRisk(const Network& network, std::string_view slot) {
+  return network.*Row(slot).Risk;
+}
+
+int AudiencePotential(const Promotion& promotion, int economy) {
+  const int amount = ByImage(BySize(kPotential, promotion.Size), promotion.Image - 1, 20);
+  return ByEconomy(amount, kEconomy, economy);
+}
+
+int ShowsOn(const World& world, const Network& network) {
+  return static_cast<int>(std::ranges::count_if(
+      world.Shows(), [&](const Show& show) { return show.Network == network.Uid; }));
+}
+
+bool IsFull(const World& world, const Network& network) {
+  return ShowsOn(world, network) == kSpots;
+}
+
+void TvContractReview(World& world) {
+  for (Show& show : world.Shows())
+    if (const Promotion* owner = world.FindPromotion(show.Owner)) Review(world, *owner, show);
+}
 
 void RivalNewTvShows(World& world) {
   for (const Promotion& rival : world.Promotions()) {

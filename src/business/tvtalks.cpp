@@ -1,6 +1,5 @@
 #include "business/tvtalks.h"
 
-#include <algorithm>
 #include <array>
 
 #include "business/networks.h"
@@ -139,22 +138,6 @@ std::string TakenWords(std::string_view slot) {
   return "Network: 'We would move you to a " + name + " slot, but we already have a show then.'";
 }
 
-}  // namespace
-
-MoveTalk TalkOfMove(const World& world, const Promotion& promotion, const Show& show,
-                    const Network& network) {
-  const NetworkView view = ViewOf(show, network);
-  for (const SlotMove& move : kMoves) {
-    if (show.Slot != move.From || view != move.View) continue;
-    if (promotion.Risk >= network.*move.RiskBelow) return {move.TooRisky, {}};
-    if (SlotTaken(world, network, move.To)) return {TakenWords(move.To), {}};
-    return {move.Offer, move.To};
-  }
-  return {kRefuse, {}};
-}
-
-namespace {
-
 // By size, Global to Backyard.
 constexpr std::array<int, 6> kOfferedWeeks = {52, 24, 12, 12, 6, 6};
 
@@ -196,6 +179,18 @@ std::string_view OfferedSlot(const Network& network, int potential) {
 }
 
 }  // namespace
+
+MoveTalk TalkOfMove(const World& world, const Promotion& promotion, const Show& show,
+                    const Network& network) {
+  const NetworkView view = ViewOf(show, network);
+  for (const SlotMove& move : kMoves) {
+    if (show.Slot != move.From || view != move.View) continue;
+    if (promotion.Risk >= network.*move.RiskBelow) return {move.TooRisky, {}};
+    if (SlotTaken(world, network, move.To)) return {TakenWords(move.To), {}};
+    return {move.Offer, move.To};
+  }
+  return {kRefuse, {}};
+}
 
 bool CouldUseTape(const World& world, const Network& network) {
   return !RefusalOf(world, world.Player(), network);

@@ -144,10 +144,6 @@ std::optional<Day> NextMeeting(const World& world) {
   return world.Today() + std::chrono::days{(wanted - present + 7) % 7};
 }
 
-bool IsMeetingDay(const World& world) {
-  return NextMeeting(world) == world.Today();
-}
-
 std::string WhyNoMeeting(const World& world) {
   const std::optional<Day> next = NextMeeting(world);
   if (!next) return "No day is set for the meeting. The promotion's page has it.";

@@ -5,7 +5,6 @@
 
 #include "records/arithmetic.h"
 #include "records/fields/fields.h"
-#include "records/severing.h"
 #include "show/attendance.h"
 #include "storylines/storynames.h"
 

@@ -1,6 +1,5 @@
 #include "calendar/incidents.h"
 
-#include <algorithm>
 #include <array>
 
 #include "calendar/advanceday.h"
@@ -161,25 +160,6 @@ void RollOffer(World& world) {
     Book(world, kJobOffer, promotion.Uid);
 }
 
-}  // namespace
-
-void IncidentRoll(World& world) {
-  world.Incidents().Rewrite(std::vector<Incident>(kIncidentsKept));
-  const int draw = world.RandomDraw(kOfferDraw);
-  const bool isQuiet = Day(world.Game().StartDate) + std::chrono::days{kQuietDays} >= world.Today();
-  if (draw == kOfferHit && !isQuiet)
-    RollOffer(world);
-  else
-    RollRoster(world);
-}
-
-void Suspend(Worker& worker, int months) {
-  worker.Status = "Sus";
-  worker.StatusMonths = months;
-}
-
-namespace {
-
 /// Rivals make no use of debuts, turns and suspended Titles that the player has had in mind.
 void GoOnWithoutThePlayer(World& world, const Promotion& former) {
   for (Worker& worker : world.Workers()) {
@@ -210,6 +190,21 @@ void ClearTheBooth(World& world, const Promotion& promotion) {
 }
 
 }  // namespace
+
+void IncidentRoll(World& world) {
+  world.Incidents().Rewrite(std::vector<Incident>(kIncidentsKept));
+  const int draw = world.RandomDraw(kOfferDraw);
+  const bool isQuiet = Day(world.Game().StartDate) + std::chrono::days{kQuietDays} >= world.Today();
+  if (draw == kOfferHit && !isQuiet)
+    RollOffer(world);
+  else
+    RollRoster(world);
+}
+
+void Suspend(Worker& worker, int months) {
+  worker.Status = "Sus";
+  worker.StatusMonths = months;
+}
 
 void ChangeJob(World& world, const Promotion& promotion) {
   GameInfo& game = world.Game();

@@ -182,15 +182,6 @@ void PayStaff(World& world) {
   }
 }
 
-}  // namespace
-
-void PayWagesAndContracts(World& world) {
-  PayWorkers(world);
-  PayStaff(world);
-}
-
-namespace {
-
 constexpr int kPoorFormLoss = 10;
 
 /// What is said of a trend of 2, 3 and 4 counts, up and down. The months in the words do not match
@@ -249,6 +240,11 @@ int FallsInARow(const Promotion& promotion) {
 }
 
 }  // namespace
+
+void PayWagesAndContracts(World& world) {
+  PayWorkers(world);
+  PayStaff(world);
+}
 
 void PoorFormMorale(World& world) {
   for (const Promotion& promotion : world.Promotions()) {

@@ -79,23 +79,6 @@ void UpkeepOfOthers(World& world, Worker& worker) {
   if (worker.Employer != 0 && worker.Morale < 65) worker.Morale += 1;
 }
 
-}  // namespace
-
-void DailyWorkerUpkeep(World& world) {
-  const int player = world.PlayerUid();
-  const bool adequateMedics = !IsShort(PostCountOf(world, kMedical));
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer == player)
-      UpkeepOfPlayers(world, worker, adequateMedics);
-    else
-      UpkeepOfOthers(world, worker);
-  }
-  for (Staff& staff : world.AllStaff())
-    if (staff.Employer != 0 && staff.Employer != player) staff.Morale += 1;
-}
-
-namespace {
-
 struct Absence {
   std::string_view Status;
   std::string_view From;
@@ -111,6 +94,19 @@ void TellReturn(World& world, const Worker& worker) {
 }
 
 }  // namespace
+
+void DailyWorkerUpkeep(World& world) {
+  const int player = world.PlayerUid();
+  const bool adequateMedics = !IsShort(PostCountOf(world, kMedical));
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer == player)
+      UpkeepOfPlayers(world, worker, adequateMedics);
+    else
+      UpkeepOfOthers(world, worker);
+  }
+  for (Staff& staff : world.AllStaff())
+    if (staff.Employer != 0 && staff.Employer != player) staff.Morale += 1;
+}
 
 void StatusCountdown(World& world) {
   for (Worker& worker : world.Workers()) {

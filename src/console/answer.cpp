@@ -75,19 +75,6 @@ std::string OneControl(ui::Screen& screen, const std::string& name, int width) {
   return {};
 }
 
-}  // namespace
-
-std::string TextAnswer(const Answer& answer, int width) {
-  if (!answer.Error.empty()) return "Error: " + answer.Error + "\n";
-  if (!answer.Help.empty()) return answer.Help;
-  if (answer.Open) return ToUtf8(BoxText(*answer.Open, width));
-  if (!answer.Top) return "The game has ended.\n";
-  if (!answer.Only.empty()) return ToUtf8(OneControl(*answer.Top, answer.Only, width));
-  return ToUtf8(ScreenText(*answer.Top, width));
-}
-
-namespace {
-
 using Json = nlohmann::ordered_json;
 
 void AddRows(Json& json, const ui::ComboBox& combo) {
@@ -159,6 +146,15 @@ Json BoxJson(const Box& box) {
 }
 
 }  // namespace
+
+std::string TextAnswer(const Answer& answer, int width) {
+  if (!answer.Error.empty()) return "Error: " + answer.Error + "\n";
+  if (!answer.Help.empty()) return answer.Help;
+  if (answer.Open) return ToUtf8(BoxText(*answer.Open, width));
+  if (!answer.Top) return "The game has ended.\n";
+  if (!answer.Only.empty()) return ToUtf8(OneControl(*answer.Top, answer.Only, width));
+  return ToUtf8(ScreenText(*answer.Top, width));
+}
 
 std::string JsonAnswer(const Answer& answer) {
   Json json = Json::object();

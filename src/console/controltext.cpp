@@ -39,31 +39,6 @@ class Arrangement {
   std::set<const ui::Control*> placed_;
 };
 
-}  // namespace
-
-std::vector<Section> Sections(ui::Screen& screen) {
-  const ui::Page page = screen.Layout();
-  Arrangement all;
-  for (const ui::Label* label : page.Top) all.Add(label);
-  all.Add(page.Facts);
-  all.Begin({});
-  all.Add(page.Body);
-  for (const ui::SideGroup& group : page.Side) {
-    all.Begin(group.Title);
-    for (const auto& command : group.Commands) all.Add(command.Press);
-  }
-  all.Begin({});
-  for (const ui::Button* button : page.Actions) all.Add(button);
-  for (const ui::Button* button : page.TopActions) all.Add(button);
-  all.Add(page.Main);
-  all.Add(page.Cancel);
-  all.Begin({});
-  for (const ui::Control* control : screen.Controls()) all.Add(control);
-  return std::move(all).Done();
-}
-
-namespace {
-
 // What is shown of a long control before "show NAME" is needed.
 constexpr int kRowsShown = 12;
 constexpr std::size_t kLinesShown = 60;
@@ -227,6 +202,27 @@ std::string Remark(const ui::Control& control, bool whole) {
 }
 
 }  // namespace
+
+std::vector<Section> Sections(ui::Screen& screen) {
+  const ui::Page page = screen.Layout();
+  Arrangement all;
+  for (const ui::Label* label : page.Top) all.Add(label);
+  all.Add(page.Facts);
+  all.Begin({});
+  all.Add(page.Body);
+  for (const ui::SideGroup& group : page.Side) {
+    all.Begin(group.Title);
+    for (const auto& command : group.Commands) all.Add(command.Press);
+  }
+  all.Begin({});
+  for (const ui::Button* button : page.Actions) all.Add(button);
+  for (const ui::Button* button : page.TopActions) all.Add(button);
+  all.Add(page.Main);
+  all.Add(page.Cancel);
+  all.Begin({});
+  for (const ui::Control* control : screen.Controls()) all.Add(control);
+  return std::move(all).Done();
+}
 
 std::string ControlText(const Section::Part& part, bool whole, int width) {
   const ui::Control& control = *part.Shown;

@@ -28,31 +28,6 @@ std::string Take(Options& options, const std::string& name, const std::string& v
   return {};
 }
 
-}  // namespace
-
-std::optional<Options> ReadOptions(std::span<const std::string> arguments, std::string& why) {
-  Options options;
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& name = arguments[i];
-    if (name == "--json") {
-      options.Json = true;
-    } else if (name == "--help") {
-      options.Help = true;
-    } else if (name != "--home" && name != "--today" && name != "--seed") {
-      why = "There is no option \"" + name + "\".";
-      return std::nullopt;
-    } else if (++i == arguments.size()) {
-      why = name + " needs a value.";
-      return std::nullopt;
-    } else if (why = Take(options, name, arguments[i]); !why.empty()) {
-      return std::nullopt;
-    }
-  }
-  return options;
-}
-
-namespace {
-
 constexpr const char* kProgram = "grapplemont-console: ";
 constexpr const char* kGreeting =
     "Grapplemont on a terminal. Name a control to work it, for example: click cmdbegin.\n"
@@ -82,6 +57,27 @@ void Play(const Options& options, Console& console) {
 }
 
 }  // namespace
+
+std::optional<Options> ReadOptions(std::span<const std::string> arguments, std::string& why) {
+  Options options;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& name = arguments[i];
+    if (name == "--json") {
+      options.Json = true;
+    } else if (name == "--help") {
+      options.Help = true;
+    } else if (name != "--home" && name != "--today" && name != "--seed") {
+      why = "There is no option \"" + name + "\".";
+      return std::nullopt;
+    } else if (++i == arguments.size()) {
+      why = name + " needs a value.";
+      return std::nullopt;
+    } else if (why = Take(options, name, arguments[i]); !why.empty()) {
+      return std::nullopt;
+    }
+  }
+  return options;
+}
 
 int RunConsole(std::span<const std::string> arguments, Streams streams, Settings settings) {
   std::string why;

@@ -4,7 +4,6 @@
 #include <QList>
 #include <QMouseEvent>
 #include <QWidget>
-#include <vector>
 
 namespace grapplemont::desktop {
 

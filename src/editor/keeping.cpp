@@ -138,48 +138,6 @@ int Put(World& world, RecordKind kind, int number, const Bytes& bytes) {
   });
 }
 
-}  // namespace
-
-std::string WhyNoMore(const World& world, RecordKind kind) {
-  if (CountOf(world, kind) < LayoutOf(kind).Limit) return {};
-  return LimitMessage(LayoutOf(kind));
-}
-
-Keeping KeepRecord(World& world, RecordKind kind, int number, Bytes record) {
-  Keeping keeping;
-  if (number == 0) keeping.WhyNot = WhyNoMore(world, kind);
-  if (keeping.WhyNot.empty()) keeping.WhyNot = WhyNotNamed(world, kind, number, record.data());
-  if (!keeping.WhyNot.empty()) return keeping;
-  const FaultCounts before(world, FaultCounts::By::Record);
-  Bytes old;
-  if (number > 0) {
-    const std::byte* was = RecordAt(world, kind, number);
-    old.assign(was, was + LayoutOf(kind).Size);
-  }
-  keeping.Number = Put(world, kind, number, record);
-  keeping.WhyNot = FollowChange(world, kind, old, keeping.Number, keeping.Also);
-  if (!keeping.WhyNot.empty()) return keeping;
-  const std::string_view file = LayoutOf(kind).File;
-  for (Fault& fault : before.NewIn(world)) {
-    const bool own = fault.File == file && fault.Record == keeping.Number;
-    if (own || !IsConsequence(fault)) keeping.Wrong.push_back(std::move(fault));
-  }
-  if (keeping.Done()) MendConsequences(world, before, keeping.Also);
-  return keeping;
-}
-
-std::vector<std::string> DeleteRecord(World& world, RecordKind kind, int number) {
-  const FaultCounts before(world, FaultCounts::By::What);
-  std::vector<std::string> also;
-  Forget(world, kind, number, also);
-  MendConsequences(world, before, also);
-  return also;
-}
-
-// What a record holds before an author has said anything, and what a copy holds.
-
-namespace {
-
 /// What a field of a new record holds, where the table's default is no sensible beginning.
 struct Beginning {
   std::string_view Field;
@@ -244,6 +202,44 @@ std::string FreeText(const World& world, RecordKind kind, const Field& field,
 }
 
 }  // namespace
+
+std::string WhyNoMore(const World& world, RecordKind kind) {
+  if (CountOf(world, kind) < LayoutOf(kind).Limit) return {};
+  return LimitMessage(LayoutOf(kind));
+}
+
+Keeping KeepRecord(World& world, RecordKind kind, int number, Bytes record) {
+  Keeping keeping;
+  if (number == 0) keeping.WhyNot = WhyNoMore(world, kind);
+  if (keeping.WhyNot.empty()) keeping.WhyNot = WhyNotNamed(world, kind, number, record.data());
+  if (!keeping.WhyNot.empty()) return keeping;
+  const FaultCounts before(world, FaultCounts::By::Record);
+  Bytes old;
+  if (number > 0) {
+    const std::byte* was = RecordAt(world, kind, number);
+    old.assign(was, was + LayoutOf(kind).Size);
+  }
+  keeping.Number = Put(world, kind, number, record);
+  keeping.WhyNot = FollowChange(world, kind, old, keeping.Number, keeping.Also);
+  if (!keeping.WhyNot.empty()) return keeping;
+  const std::string_view file = LayoutOf(kind).File;
+  for (Fault& fault : before.NewIn(world)) {
+    const bool own = fault.File == file && fault.Record == keeping.Number;
+    if (own || !IsConsequence(fault)) keeping.Wrong.push_back(std::move(fault));
+  }
+  if (keeping.Done()) MendConsequences(world, before, keeping.Also);
+  return keeping;
+}
+
+std::vector<std::string> DeleteRecord(World& world, RecordKind kind, int number) {
+  const FaultCounts before(world, FaultCounts::By::What);
+  std::vector<std::string> also;
+  Forget(world, kind, number, also);
+  MendConsequences(world, before, also);
+  return also;
+}
+
+// What a record holds before an author has said anything, and what a copy holds.
 
 Bytes NewRecord(RecordKind kind) {
   Bytes record = TableKindOf(LayoutOf(kind)).Default;

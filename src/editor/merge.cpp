@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <set>
-#include <tuple>
 
 #include "editor/datafolder.h"
 #include "records/fields/wording.h"
@@ -60,33 +59,6 @@ void MakeFreeAgent(World& world, Worker& worker) {
   worker.Split = "None";
   worker.Debuted = false;
 }
-
-}  // namespace
-
-RecordFile<Worker> ReadForeignWorkers(Disk& disk, const std::string& folder) {
-  return ReadRecordFile<Worker>(disk, folder, "wrestler2.dat");
-}
-
-Arrivals ImportWorkers(World& world, const std::vector<Worker>& all,
-                       const std::vector<int>& chosen) {
-  Arrivals arrivals;
-  Entrance<Worker> entrance(world.Workers(), all);
-  for (const int number : chosen) {
-    arrivals.Rows.push_back(entrance.Admit(all.at(static_cast<std::size_t>(number - 1)), number));
-    if (arrivals.Rows.back().Comes != Fate::LeftOut)
-      MakeFreeAgent(world, world.Workers()[world.Workers().Count()]);
-  }
-  MendArrivals(world, arrivals);
-  return arrivals;
-}
-
-Arrivals PreviewImport(const World& world, const std::vector<Worker>& all,
-                       const std::vector<int>& chosen) {
-  World trial = TrialCopyOf(world);
-  return ImportWorkers(trial, all, chosen);
-}
-
-namespace {
 
 constexpr int kMostShows = 3;
 
@@ -284,6 +256,29 @@ class Merger {
 };
 
 }  // namespace
+
+RecordFile<Worker> ReadForeignWorkers(Disk& disk, const std::string& folder) {
+  return ReadRecordFile<Worker>(disk, folder, "wrestler2.dat");
+}
+
+Arrivals ImportWorkers(World& world, const std::vector<Worker>& all,
+                       const std::vector<int>& chosen) {
+  Arrivals arrivals;
+  Entrance<Worker> entrance(world.Workers(), all);
+  for (const int number : chosen) {
+    arrivals.Rows.push_back(entrance.Admit(all.at(static_cast<std::size_t>(number - 1)), number));
+    if (arrivals.Rows.back().Comes != Fate::LeftOut)
+      MakeFreeAgent(world, world.Workers()[world.Workers().Count()]);
+  }
+  MendArrivals(world, arrivals);
+  return arrivals;
+}
+
+Arrivals PreviewImport(const World& world, const std::vector<Worker>& all,
+                       const std::vector<int>& chosen) {
+  World trial = TrialCopyOf(world);
+  return ImportWorkers(trial, all, chosen);
+}
 
 std::vector<NewRecords::FileLine> NewRecords::Files() const {
   return {LineOf(Networks), LineOf(Promotions), LineOf(Workers),

@@ -1,5 +1,3 @@
-#include <limits>
-#include <optional>
 
 #include "business/finance.h"
 #include "business/sponsors.h"

@@ -95,40 +95,6 @@ bool IsNews(const Title& title, std::size_t reign) {
   return !(IsNobody(title.Reigns[reign]) && neverHeld);
 }
 
-}  // namespace
-
-std::size_t ChoiceFor(std::string_view words, Day day, std::size_t of) {
-  std::size_t hash = static_cast<std::size_t>((day - kDayZero).count()) * 2654435761U;
-  for (const char letter : words) hash = hash * 31 + static_cast<unsigned char>(letter);
-  return (hash >> 7) % of;
-}
-
-Day NewsBegin(const World& world) {
-  return MonthsBefore(world.Today(), 1);
-}
-
-std::vector<NewsItem> WorldNews(const World& world) {
-  const Day from = NewsBegin(world);
-  std::vector<NewsItem> news;
-  Desk desk;
-  for (const Deed& deed : world.Deeds())
-    if (Day(deed.On) >= from) news.push_back(ItemOf(desk, deed));
-  for (const HistoryEntry& entry : world.History())
-    if (Day(entry.On) >= from && IsShow(entry) && world.FindPromotion(entry.Promotion))
-      news.push_back(ItemOf(desk, DeedOf(world, entry)));
-  for (const Title& title : world.Titles()) {
-    if (title.Owner <= 0) continue;  // its promotion has closed
-    for (std::size_t reign = 0; reign < title.Reigns.size(); ++reign)
-      if (Day(title.Reigns[reign].Won) >= from && IsNews(title, reign))
-        news.push_back(ItemOf(desk, world, title, reign));
-  }
-  std::stable_sort(news.begin(), news.end(),
-                   [](const NewsItem& a, const NewsItem& b) { return a.On > b.On; });
-  return news;
-}
-
-namespace {
-
 using Rows = std::vector<RankRow>;
 
 constexpr std::size_t kMost = 100;
@@ -241,6 +207,36 @@ constexpr Ranking kRankings[] = {
     {"Networks", "Network", "Prime Time", "Shows", NetworkRows}};
 
 }  // namespace
+
+std::size_t ChoiceFor(std::string_view words, Day day, std::size_t of) {
+  std::size_t hash = static_cast<std::size_t>((day - kDayZero).count()) * 2654435761U;
+  for (const char letter : words) hash = hash * 31 + static_cast<unsigned char>(letter);
+  return (hash >> 7) % of;
+}
+
+Day NewsBegin(const World& world) {
+  return MonthsBefore(world.Today(), 1);
+}
+
+std::vector<NewsItem> WorldNews(const World& world) {
+  const Day from = NewsBegin(world);
+  std::vector<NewsItem> news;
+  Desk desk;
+  for (const Deed& deed : world.Deeds())
+    if (Day(deed.On) >= from) news.push_back(ItemOf(desk, deed));
+  for (const HistoryEntry& entry : world.History())
+    if (Day(entry.On) >= from && IsShow(entry) && world.FindPromotion(entry.Promotion))
+      news.push_back(ItemOf(desk, DeedOf(world, entry)));
+  for (const Title& title : world.Titles()) {
+    if (title.Owner <= 0) continue;  // its promotion has closed
+    for (std::size_t reign = 0; reign < title.Reigns.size(); ++reign)
+      if (Day(title.Reigns[reign].Won) >= from && IsNews(title, reign))
+        news.push_back(ItemOf(desk, world, title, reign));
+  }
+  std::stable_sort(news.begin(), news.end(),
+                   [](const NewsItem& a, const NewsItem& b) { return a.On > b.On; });
+  return news;
+}
 
 std::span<const Ranking> Rankings() {
   return kRankings;

@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "records/angles.h"
 #include "records/segmentwords.h"
 #include "records/world.h"
 #include "words/segments.h"

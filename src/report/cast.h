@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>

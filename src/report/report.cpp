@@ -1,7 +1,6 @@
 #include "report/report.h"
 
 #include <algorithm>
-#include <array>
 
 #include "records/angles.h"
 #include "records/modWresCheck.h"
@@ -41,6 +40,14 @@ void TellMatch(Teller& teller) {
   TellTitleEnding(teller);
   teller.Paragraph();
   TellAftermath(teller);
+}
+
+bool HasTurnPending(const Teller& teller) {
+  const auto& turners = teller.scene.Turners;
+  return std::any_of(turners.begin(), turners.end(), [&](int uid) {
+    const Worker* worker = teller.world.FindWorker(uid);
+    return worker && worker->TurnPending;
+  });
 }
 
 }  // namespace
@@ -84,18 +91,6 @@ bool LineMemory::Used(const void* band, int line) const {
   const auto found = used_.find(band);
   return found != used_.end() && found->second[static_cast<std::size_t>(line)];
 }
-
-namespace {
-
-bool HasTurnPending(const Teller& teller) {
-  const auto& turners = teller.scene.Turners;
-  return std::any_of(turners.begin(), turners.end(), [&](int uid) {
-    const Worker* worker = teller.world.FindWorker(uid);
-    return worker && worker->TurnPending;
-  });
-}
-
-}  // namespace
 
 void TellInterview(Teller& teller) {
   const Segment& segment = teller.segment;

@@ -99,15 +99,6 @@ Promotion& Open(World& world, Promotion promotion) {
   return opened;
 }
 
-}  // namespace
-
-void FoundTitles(World& world, const Promotion& promotion) {
-  FoundTitle(world, promotion, "Crown", true);
-  FoundTitle(world, promotion, "Tag Titles", false);
-}
-
-namespace {
-
 constexpr int kFewPromotions = 16;
 constexpr int kManyPromotions = 30;
 constexpr int kOpens = 2;
@@ -145,18 +136,6 @@ void OpenSomewhere(World& world) {
   NoteDeed(world, kDeedFounded, &promotion, promotion.Name, {}, promotion.Size);
   Open(world, promotion);
 }
-
-}  // namespace
-
-void NewPromotionCheck(World& world) {
-  const auto count = std::ranges::count_if(world.Promotions(), IsAlive);
-  const bool opens = world.RandomDraw(count < kFewPromotions ? 3 : 5) == kOpens;
-  if (opens && count < kManyPromotions && !world.Promotions().Full() && AnyNameLeft(world))
-    OpenSomewhere(world);
-  AwaitStranger(world);
-}
-
-namespace {
 
 constexpr const char* kStranger = "Lysander Pinkney";
 constexpr NewPromotionName kStrangersNames[] = {{"Pinkney Presents Wrestling", "PPW"},
@@ -232,6 +211,19 @@ void BuyStars(World& world, const Promotion& promotion) {
 }
 
 }  // namespace
+
+void FoundTitles(World& world, const Promotion& promotion) {
+  FoundTitle(world, promotion, "Crown", true);
+  FoundTitle(world, promotion, "Tag Titles", false);
+}
+
+void NewPromotionCheck(World& world) {
+  const auto count = std::ranges::count_if(world.Promotions(), IsAlive);
+  const bool opens = world.RandomDraw(count < kFewPromotions ? 3 : 5) == kOpens;
+  if (opens && count < kManyPromotions && !world.Promotions().Full() && AnyNameLeft(world))
+    OpenSomewhere(world);
+  AwaitStranger(world);
+}
 
 bool IsAloneAtTheTop(const World& world) {
   return world.Player().Size == kGlobal && std::ranges::none_of(world.Promotions(), [&](auto& p) {

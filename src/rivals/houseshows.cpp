@@ -19,23 +19,6 @@ bool IsEnough(int crew) {
   return crew >= tuning::kHouseShowCrew;
 }
 
-}  // namespace
-
-std::map<int, int> HouseShowCrews(const World& world) {
-  std::map<int, int> crews;
-  for (const Worker& worker : world.Workers())
-    if (Works(worker)) ++crews[worker.Employer];
-  return crews;
-}
-
-int HouseShowIncome(const Promotion& rival, int crew) {
-  if (!IsEnough(crew)) return 0;
-  const int sure = BySize(tuning::kHouseShow, rival.Size) / 2;
-  return sure + sure * rival.Image / 100;
-}
-
-namespace {
-
 /// Who might hold a Title next; `Second` for its partner.
 struct Contender {
   const Worker* First;
@@ -122,6 +105,19 @@ void DefendRivalTitles(World& world) {
 }
 
 }  // namespace
+
+std::map<int, int> HouseShowCrews(const World& world) {
+  std::map<int, int> crews;
+  for (const Worker& worker : world.Workers())
+    if (Works(worker)) ++crews[worker.Employer];
+  return crews;
+}
+
+int HouseShowIncome(const Promotion& rival, int crew) {
+  if (!IsEnough(crew)) return 0;
+  const int sure = BySize(tuning::kHouseShow, rival.Size) / 2;
+  return sure + sure * rival.Image / 100;
+}
 
 void RivalHouseShows(World& world) {
   std::map<int, int> crews = HouseShowCrews(world);

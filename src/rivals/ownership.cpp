@@ -107,30 +107,6 @@ void TakeOver(World& world, Promotion& promotion, Staff& owner) {
   if (isOwn) AddNews(world, owner.Name, OwnersWelcome(world, owner));
 }
 
-}  // namespace
-
-std::string WhoDecides(const World& world, const Promotion& promotion) {
-  const Staff* owner = OwnerOf(world, promotion.Uid);
-  return owner ? promotion.Initials + " owner " + owner->Name.Str()
-               : "The " + promotion.Initials.Str() + " board";
-}
-
-void FollowOwner(Promotion& rival, const Staff& owner) {
-  if (owner.Wage >= kBrawlers && owner.Wage <= kYouth)
-    rival.Risk = kRisks[static_cast<std::size_t>(owner.Wage - kBrawlers)];
-}
-
-void OwnerlessPromotions(World& world) {
-  for (Promotion& promotion : world.Promotions()) {
-    if (!IsAlive(promotion) || OwnerOf(world, promotion.Uid) ||
-        world.RandomDraw(kDaysBetweenOwners) != 1)
-      continue;
-    if (Staff* owner = FindOwnerFor(world, promotion.Size)) TakeOver(world, promotion, *owner);
-  }
-}
-
-namespace {
-
 constexpr std::array<const char*, 6> kTasteTexts = {
     "Brawlers", "Technicians", "All-rounders", "High-flyers", "Women and stars", "Youth"};
 constexpr int kYoung = 28;
@@ -158,6 +134,26 @@ int YouthFirst(const Worker& worker) {
 }
 
 }  // namespace
+
+std::string WhoDecides(const World& world, const Promotion& promotion) {
+  const Staff* owner = OwnerOf(world, promotion.Uid);
+  return owner ? promotion.Initials + " owner " + owner->Name.Str()
+               : "The " + promotion.Initials.Str() + " board";
+}
+
+void FollowOwner(Promotion& rival, const Staff& owner) {
+  if (owner.Wage >= kBrawlers && owner.Wage <= kYouth)
+    rival.Risk = kRisks[static_cast<std::size_t>(owner.Wage - kBrawlers)];
+}
+
+void OwnerlessPromotions(World& world) {
+  for (Promotion& promotion : world.Promotions()) {
+    if (!IsAlive(promotion) || OwnerOf(world, promotion.Uid) ||
+        world.RandomDraw(kDaysBetweenOwners) != 1)
+      continue;
+    if (Staff* owner = FindOwnerFor(world, promotion.Size)) TakeOver(world, promotion, *owner);
+  }
+}
 
 Taste TasteOf(const World& world, int promotionUid) {
   const Staff* owner = OwnerOf(world, promotionUid);

@@ -34,27 +34,6 @@ bool MovedTwice(const Promotion& promotion, int sign) {
          sign * (static_cast<long long>(money[1]) - money[2]) > 0;
 }
 
-}  // namespace
-
-Purse PurseOf(const Promotion& promotion) {
-  if (promotion.Money < 0) return Purse::Saving;
-  const bool hasReserve = promotion.Money >= tuning::kMonthsInHand * WagesOf(promotion);
-  if (!hasReserve && MovedTwice(promotion, -1)) return Purse::Saving;
-  if (hasReserve && MovedTwice(promotion, 1)) return Purse::Spending;
-  return Purse::Steady;
-}
-
-std::string MoneyInWords(int size, long long money) {
-  if (money < BankruptcyLineOf(size).WarnedBelow) return "Close to bankruptcy";
-  if (money < 0) return "In debt";
-  const long long percent = money * 100 / BySize(kFairSum, size);
-  for (const MoneyWords& row : kWords)
-    if (percent >= row.FromPercent) return row.Words;
-  return {};
-}
-
-namespace {
-
 void Warn(World& world, const Promotion& promotion) {
   NoteDeed(world, kDeedWarned, &promotion, promotion.Name);
   if (IsPlayers(world, promotion))
@@ -76,6 +55,23 @@ void GoBankrupt(World& world, Promotion& promotion) {
 }
 
 }  // namespace
+
+Purse PurseOf(const Promotion& promotion) {
+  if (promotion.Money < 0) return Purse::Saving;
+  const bool hasReserve = promotion.Money >= tuning::kMonthsInHand * WagesOf(promotion);
+  if (!hasReserve && MovedTwice(promotion, -1)) return Purse::Saving;
+  if (hasReserve && MovedTwice(promotion, 1)) return Purse::Spending;
+  return Purse::Steady;
+}
+
+std::string MoneyInWords(int size, long long money) {
+  if (money < BankruptcyLineOf(size).WarnedBelow) return "Close to bankruptcy";
+  if (money < 0) return "In debt";
+  const long long percent = money * 100 / BySize(kFairSum, size);
+  for (const MoneyWords& row : kWords)
+    if (percent >= row.FromPercent) return row.Words;
+  return {};
+}
 
 const BankruptcyLine& BankruptcyLineOf(int size) {
   static constexpr std::array<BankruptcyLine, 6> kLines = {{{-19999999, -18000000, -20000000},

@@ -213,34 +213,6 @@ void RenewStaff(World& world, const Promotion& rival) {
   }
 }
 
-}  // namespace
-
-void RenewContracts(World& world, const Promotion& promotion) {
-  RenewWorkers(world, promotion);
-  RenewStaff(world, promotion);
-}
-
-void RivalContractRenewals(World& world) {
-  for (const Promotion& promotion : world.Promotions())
-    if (IsRival(world, promotion)) RenewContracts(world, promotion);
-}
-
-void RivalWorkerHiring(World& world) {
-  Rosters rosters(world);
-  for (const Promotion& promotion : world.Promotions())
-    if (IsRival(world, promotion)) FitRoster(world, promotion, rosters);
-}
-
-void RivalPositions(World& world) {
-  for (Worker& worker : world.Workers()) {
-    const Promotion* employer = world.FindPromotion(worker.Employer);
-    if (employer && IsRival(world, *employer))
-      worker.Position = PlacementPosition(worker, employer->Size);
-  }
-}
-
-namespace {
-
 /// How much more he costs than his popularity is worth there.
 int Overpaid(const Worker& worker, int size) {
   return worker.Wage - GoingRate(size, worker.Over);
@@ -274,6 +246,30 @@ bool HasTitles(const World& world, int promotionUid) {
 }
 
 }  // namespace
+
+void RenewContracts(World& world, const Promotion& promotion) {
+  RenewWorkers(world, promotion);
+  RenewStaff(world, promotion);
+}
+
+void RivalContractRenewals(World& world) {
+  for (const Promotion& promotion : world.Promotions())
+    if (IsRival(world, promotion)) RenewContracts(world, promotion);
+}
+
+void RivalWorkerHiring(World& world) {
+  Rosters rosters(world);
+  for (const Promotion& promotion : world.Promotions())
+    if (IsRival(world, promotion)) FitRoster(world, promotion, rosters);
+}
+
+void RivalPositions(World& world) {
+  for (Worker& worker : world.Workers()) {
+    const Promotion* employer = world.FindPromotion(worker.Employer);
+    if (employer && IsRival(world, *employer))
+      worker.Position = PlacementPosition(worker, employer->Size);
+  }
+}
 
 void RosterSizeReview(World& world) {
   Rosters rosters(world);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include "records/world.h"
 
 // People whom the program makes up: to fill a new world, and in the place of the retired.

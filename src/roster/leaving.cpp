@@ -63,30 +63,6 @@ void SignWith(World& world, Worker& worker, const Promotion& rival) {
   worker.Wage = std::min<int>(worker.Wage, BySize(kMarket, rival.Size).SignedWageCap);
 }
 
-}  // namespace
-
-void PartWith(World& world, Worker& worker) {
-  EndPosting(worker);
-  EndContract(worker);
-  worker.Split = "None";
-  worker.Debuted = true;
-  if (worker.Uid == 0) return;
-  LeaveOffice(world, worker.Uid);
-  LoseClients(world, {worker.Uid});
-  LeaveFeuds(world, worker.Uid);
-  VacateTitlesOf(world, worker.Uid, TitleLoss::ATenth);
-  LeaveCommentary(world, worker.Uid);
-}
-
-void ReleaseWorker(World& world, Worker& worker) {
-  NoteDeed(world, kDeedLeft, world.FindPromotion(worker.Employer), worker.Name);
-  PartWith(world, worker);
-  if (world.RandomDraw(3) != 1) return;
-  if (const Promotion* rival = BestBidder(world, worker)) SignWith(world, worker, *rival);
-}
-
-namespace {
-
 constexpr int kPoorMarket = 40;  // of the economy
 
 /// Whoever is so popular in a promotion of this size would try a bigger one.
@@ -136,27 +112,6 @@ const char* ReasonToGo(const World& world, const Worker& worker) {
   return nullptr;
 }
 
-}  // namespace
-
-ReleaseAnswer AnswerToRelease(const World& world, const Worker& worker) {
-  ReleaseAnswer answer;
-  const auto say = [&](const char* title, const char* words) {
-    answer.Remarks.push_back({title, worker.Name + words});
-  };
-  const bool poor = world.Game().Economy < kPoorMarket, market = HasMarket(world, worker);
-  if (poor) say("Rejected", kPoorTimes);
-  if (!market) say("Rejected", kNowhere);
-  if (!poor && market) {
-    const char* reason = ReasonToGo(world, worker);
-    answer.Accepted = reason != nullptr;
-    say(reason ? "Accepted" : "Rejected", reason ? reason : kNoMove);
-  }
-  if (!answer.Accepted) say("Rejected", " formally rejects your offer of a release.");
-  return answer;
-}
-
-namespace {
-
 /// Half of the months, rounded down below 0 as well.
 int HalfOf(int months) {
   return (months - (months < 0)) / 2;
@@ -180,6 +135,43 @@ void BreakWord(World& world, Worker& worker) {
 }
 
 }  // namespace
+
+void PartWith(World& world, Worker& worker) {
+  EndPosting(worker);
+  EndContract(worker);
+  worker.Split = "None";
+  worker.Debuted = true;
+  if (worker.Uid == 0) return;
+  LeaveOffice(world, worker.Uid);
+  LoseClients(world, {worker.Uid});
+  LeaveFeuds(world, worker.Uid);
+  VacateTitlesOf(world, worker.Uid, TitleLoss::ATenth);
+  LeaveCommentary(world, worker.Uid);
+}
+
+void ReleaseWorker(World& world, Worker& worker) {
+  NoteDeed(world, kDeedLeft, world.FindPromotion(worker.Employer), worker.Name);
+  PartWith(world, worker);
+  if (world.RandomDraw(3) != 1) return;
+  if (const Promotion* rival = BestBidder(world, worker)) SignWith(world, worker, *rival);
+}
+
+ReleaseAnswer AnswerToRelease(const World& world, const Worker& worker) {
+  ReleaseAnswer answer;
+  const auto say = [&](const char* title, const char* words) {
+    answer.Remarks.push_back({title, worker.Name + words});
+  };
+  const bool poor = world.Game().Economy < kPoorMarket, market = HasMarket(world, worker);
+  if (poor) say("Rejected", kPoorTimes);
+  if (!market) say("Rejected", kNowhere);
+  if (!poor && market) {
+    const char* reason = ReasonToGo(world, worker);
+    answer.Accepted = reason != nullptr;
+    say(reason ? "Accepted" : "Rejected", reason ? reason : kNoMove);
+  }
+  if (!answer.Accepted) say("Rejected", " formally rejects your offer of a release.");
+  return answer;
+}
 
 long long BuyOutCost(int difficulty, int wage, int months) {
   const long long month = 1000LL * wage;

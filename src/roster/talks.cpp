@@ -116,16 +116,6 @@ int RenewalWage(const Worker& worker) {
   return std::clamp(worker.Wage + PercentOf(worker.Wage, percent), 1, kHighestWage);
 }
 
-}  // namespace
-
-Demands ContractDemands(const World& world, const Worker& worker) {
-  const int size = world.Player().Size;
-  return {PositionWanted(size, worker), MonthsWanted(size, worker), WantsWritten(size, worker),
-          WageWanted(size, worker), WantsControl(worker)};
-}
-
-namespace {
-
 struct Talk {
   const Worker& Who;
   const RenewalTerms& Wants;
@@ -194,6 +184,12 @@ constexpr Objection kObjections[] = {
 };
 
 }  // namespace
+
+Demands ContractDemands(const World& world, const Worker& worker) {
+  const int size = world.Player().Size;
+  return {PositionWanted(size, worker), MonthsWanted(size, worker), WantsWritten(size, worker),
+          WageWanted(size, worker), WantsControl(worker)};
+}
 
 std::string WhyNoRenewal(const Worker& worker) {
   const int morale = worker.Morale, loyalty = worker.Loyalty;

@@ -196,37 +196,6 @@ std::vector<std::string> CompanyOf(const World& world, const Worker& worker) {
   return company;
 }
 
-}  // namespace
-
-std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker) {
-  std::vector<FactGroup> facts = {Person(world, worker),
-                                  Contract(world, worker),
-                                  InTheRing(worker),
-                                  Character(worker),
-                                  BesideTheRing(world, worker),
-                                  Titles(world, worker),
-                                  {"Awards", AwardLines(world, worker)},
-                                  {"Matches", RecordLines(world, worker)},
-                                  {"Last matches", LastMatchLines(world, worker, kMatchesTold)},
-                                  {"Company", CompanyOf(world, worker)},
-                                  {"Feuds", FeudsOf(world, worker)}};
-  std::erase_if(facts, [](const FactGroup& group) { return group.Lines.empty(); });
-  return facts;
-}
-
-std::vector<std::string> FeudsOf(const World& world, const Worker& worker) {
-  std::vector<std::string> feuds;
-  for (const Feud& feud : world.Feuds()) {
-    const FeudSides sides = SidesOf(feud);
-    if (IsFreeSlot(feud) || (!sides.One.Has(worker.Uid) && !sides.Two.Has(worker.Uid))) continue;
-    feuds.push_back(SideName(world, sides.One) + " vs " + SideName(world, sides.Two) + ", heat " +
-                    std::to_string(feud.Heat) + ".");
-  }
-  return feuds;
-}
-
-namespace {
-
 constexpr Steps kTalent = {"Has everything to learn.", "Knows the basics.", "Does a decent job.",
                            "Is good at it.", "Is among the best there are."};
 constexpr Steps kBackstage = {"A trouble maker behind the scenes.",
@@ -279,6 +248,33 @@ FactGroup Offices(const World& world, const Staff& staff) {
 }
 
 }  // namespace
+
+std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker) {
+  std::vector<FactGroup> facts = {Person(world, worker),
+                                  Contract(world, worker),
+                                  InTheRing(worker),
+                                  Character(worker),
+                                  BesideTheRing(world, worker),
+                                  Titles(world, worker),
+                                  {"Awards", AwardLines(world, worker)},
+                                  {"Matches", RecordLines(world, worker)},
+                                  {"Last matches", LastMatchLines(world, worker, kMatchesTold)},
+                                  {"Company", CompanyOf(world, worker)},
+                                  {"Feuds", FeudsOf(world, worker)}};
+  std::erase_if(facts, [](const FactGroup& group) { return group.Lines.empty(); });
+  return facts;
+}
+
+std::vector<std::string> FeudsOf(const World& world, const Worker& worker) {
+  std::vector<std::string> feuds;
+  for (const Feud& feud : world.Feuds()) {
+    const FeudSides sides = SidesOf(feud);
+    if (IsFreeSlot(feud) || (!sides.One.Has(worker.Uid) && !sides.Two.Has(worker.Uid))) continue;
+    feuds.push_back(SideName(world, sides.One) + " vs " + SideName(world, sides.Two) + ", heat " +
+                    std::to_string(feud.Heat) + ".");
+  }
+  return feuds;
+}
 
 std::string_view PostText(int post) {
   const std::string_view words = Says(kStaffPositions, post);

@@ -47,37 +47,6 @@ std::string MatchLine(const HeldMatch& bout, int uid) {
   return text + ", " + Number(bout.Rating) + "%.";
 }
 
-}  // namespace
-
-std::vector<std::string> RecordLines(const World& world, const Worker& worker) {
-  std::vector<std::string> lines;
-  for (const MatchTally& tally : world.Tallies())
-    if (tally.Worker == worker.Uid && tally.Worker != 0 && tally.Won + tally.Lost + tally.Drawn > 0)
-      lines.push_back(RecordLine(world, tally));
-  return lines;
-}
-
-std::vector<std::string> LastMatchLines(const World& world, const Worker& worker, int most) {
-  std::vector<std::string> lines;
-  for (int number = world.Bouts().Count(); number >= 1 && static_cast<int>(lines.size()) < most;
-       --number)
-    if (WasIn(world.Bouts()[number], worker.Uid))
-      lines.push_back(MatchLine(world.Bouts()[number], worker.Uid));
-  return lines;
-}
-
-std::vector<std::string> AwardLines(const World& world, const Worker& worker) {
-  std::vector<std::string> lines;
-  for (int number = world.Awards().Count(); number >= 1; --number) {
-    const YearAward& award = world.Awards()[number];
-    if (worker.Uid != 0 && (award.Worker == worker.Uid || award.Partner == worker.Uid))
-      lines.push_back(std::string(AwardName(award.Kind)) + " " + Number(YearOf(award.On)) + ".");
-  }
-  return lines;
-}
-
-namespace {
-
 constexpr std::string_view kAnd = " \\ ";  // between the short names of a pair without a name
 
 bool IsTeamOf(const World& world, std::string_view team, int uid) {
@@ -122,6 +91,33 @@ std::string Told(const World& world, const TitleReign& reign) {
 }
 
 }  // namespace
+
+std::vector<std::string> RecordLines(const World& world, const Worker& worker) {
+  std::vector<std::string> lines;
+  for (const MatchTally& tally : world.Tallies())
+    if (tally.Worker == worker.Uid && tally.Worker != 0 && tally.Won + tally.Lost + tally.Drawn > 0)
+      lines.push_back(RecordLine(world, tally));
+  return lines;
+}
+
+std::vector<std::string> LastMatchLines(const World& world, const Worker& worker, int most) {
+  std::vector<std::string> lines;
+  for (int number = world.Bouts().Count(); number >= 1 && static_cast<int>(lines.size()) < most;
+       --number)
+    if (WasIn(world.Bouts()[number], worker.Uid))
+      lines.push_back(MatchLine(world.Bouts()[number], worker.Uid));
+  return lines;
+}
+
+std::vector<std::string> AwardLines(const World& world, const Worker& worker) {
+  std::vector<std::string> lines;
+  for (int number = world.Awards().Count(); number >= 1; --number) {
+    const YearAward& award = world.Awards()[number];
+    if (worker.Uid != 0 && (award.Worker == worker.Uid || award.Partner == worker.Uid))
+      lines.push_back(std::string(AwardName(award.Kind)) + " " + Number(YearOf(award.On)) + ".");
+  }
+  return lines;
+}
 
 std::vector<const Title*> TitlesHeldBy(const World& world, int workerUid) {
   std::vector<const Title*> held;

@@ -47,6 +47,11 @@ void CopyFolder(Disk& disk, const std::string& from, const std::string& to) {
       CopyFile(disk, from + "/" + name, to + "/" + name);
 }
 
+SlotSummary NotPlayable(const char* caption, std::string details = {}) {
+  return {caption, std::move(details), false, false};
+}
+constexpr const char* kUnreadable = "Slot Cannot Be Read";
+
 }  // namespace
 
 std::string FindHome(Disk& disk) {
@@ -83,15 +88,6 @@ std::string DrawWaitingPicture(Disk& disk, const std::string& pictureFolder, int
   if (pictures.empty()) return {};
   return pictures[static_cast<std::size_t>(draws.Draw(static_cast<int>(pictures.size())) - 1)];
 }
-
-namespace {
-
-SlotSummary NotPlayable(const char* caption, std::string details = {}) {
-  return {caption, std::move(details), false, false};
-}
-constexpr const char* kUnreadable = "Slot Cannot Be Read";
-
-}  // namespace
 
 SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
   const std::string name(LayoutOf<GameInfo>().File);

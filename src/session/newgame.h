@@ -3,7 +3,6 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "records/checks/checkworld.h"
 #include "records/world.h"

@@ -199,6 +199,32 @@ void FadeUnusedTitles(World& world) {
   }
 }
 
+/// So much below what the size asks for, and the sum loses so much; every limit passed charges.
+struct Charge {
+  int Margin;
+  int Amount;
+};
+constexpr Charge kAnnouncerCharges[] = {{5, 20}, {10, 20}, {20, 20}, {30, 40}};
+constexpr Charge kColourCharges[] = {{5, 5}, {10, 10}, {20, 15}, {30, 30}};
+constexpr Charge kProductionCharges[] = {{5, 10}, {10, 10}, {20, 10}, {30, 10}, {50, 20}};
+
+// By size, Global to Backyard.
+constexpr std::array<int, 6> kWantedProduction = {85, 65, 60, 40, 10, 5};
+
+constexpr int kSpeechlessCharge = 100;
+
+int Charged(std::span<const Charge> charges, int have, int want) {
+  int sum = 0;
+  for (const Charge& charge : charges)
+    if (have + charge.Margin < want) sum -= charge.Amount;
+  return sum;
+}
+
+/// An empty chair does not charge the sum: it makes it true or false that it stood at a number.
+int EmptyChair(int sum, int number) {
+  return sum == number ? -1 : 0;
+}
+
 }  // namespace
 
 int CloseShow(World& world) {
@@ -235,36 +261,6 @@ void LeaveShow(World& world) {
   world.Session.ExtraCost = Run(world).ExtraCost;
   world.ShowRuns().Remove();
 }
-
-namespace {
-
-/// So much below what the size asks for, and the sum loses so much; every limit passed charges.
-struct Charge {
-  int Margin;
-  int Amount;
-};
-constexpr Charge kAnnouncerCharges[] = {{5, 20}, {10, 20}, {20, 20}, {30, 40}};
-constexpr Charge kColourCharges[] = {{5, 5}, {10, 10}, {20, 15}, {30, 30}};
-constexpr Charge kProductionCharges[] = {{5, 10}, {10, 10}, {20, 10}, {30, 10}, {50, 20}};
-
-// By size, Global to Backyard.
-constexpr std::array<int, 6> kWantedProduction = {85, 65, 60, 40, 10, 5};
-
-constexpr int kSpeechlessCharge = 100;
-
-int Charged(std::span<const Charge> charges, int have, int want) {
-  int sum = 0;
-  for (const Charge& charge : charges)
-    if (have + charge.Margin < want) sum -= charge.Amount;
-  return sum;
-}
-
-/// An empty chair does not charge the sum: it makes it true or false that it stood at a number.
-int EmptyChair(int sum, int number) {
-  return sum == number ? -1 : 0;
-}
-
-}  // namespace
 
 int WithAnnouncer(const World& world, int announcer, int sum) {
   const Staff* staff = world.FindStaff(announcer);

@@ -126,19 +126,6 @@ void AddAlignment(SegmentRun& run) {
   run.Crowd.Add(-loss, "two " + std::string(DispositionText(first->Disposition)) + "s");
 }
 
-}  // namespace
-
-void ScoreMatch(SegmentRun& run) {
-  const Chemistry chemistry = ChemistryOf(run.World, run.Segment);
-  AddMeans(run);
-  AddType(run);
-  AddFeuds(run);
-  AddAlignment(run);
-  AddChemistry(run, chemistry);
-}
-
-namespace {
-
 struct Band {
   int From;
   int Gives;
@@ -161,34 +148,6 @@ bool IsSide(const Team& team, const Segment& segment) {
   return style && style->PerSide == 2 && team.Worker2 != 0 &&
          PartnerOf(segment, team.Worker1) == team.Worker2;
 }
-
-}  // namespace
-
-Chemistry ChemistryOf(const World& world, const Segment& segment) {
-  Chemistry chemistry;
-  for (const Team& team : world.Teams()) {
-    const int level = IsSide(team, segment) ? Given(kLevels, team.Experience) : 0;
-    if (level == 0) continue;
-    chemistry.Level += level;
-    chemistry.Teams.push_back(team.Name.Str());
-  }
-  return chemistry;
-}
-
-void GainTeamExperience(SegmentRun& run) {
-  for (Team& team : run.World.Teams())
-    if (IsSide(team, run.Segment)) ++team.Experience;
-}
-
-void AddChemistry(SegmentRun& run, const Chemistry& chemistry) {
-  const int draw = Given(kDraws, chemistry.Level);
-  if (draw == 0) return;
-  const std::string why = "chemistry of " + Joined(chemistry.Teams);
-  run.Quality.Add(run.World.RandomDraw(draw), why);
-  run.Crowd.Add(run.World.RandomDraw(draw), why);
-}
-
-namespace {
 
 constexpr int kNoMood = 30;
 constexpr int kBadShape = 40;
@@ -265,6 +224,39 @@ bool IsChampionThere(const Segment& segment, const Title& title) {
 }
 
 }  // namespace
+
+void ScoreMatch(SegmentRun& run) {
+  const Chemistry chemistry = ChemistryOf(run.World, run.Segment);
+  AddMeans(run);
+  AddType(run);
+  AddFeuds(run);
+  AddAlignment(run);
+  AddChemistry(run, chemistry);
+}
+
+Chemistry ChemistryOf(const World& world, const Segment& segment) {
+  Chemistry chemistry;
+  for (const Team& team : world.Teams()) {
+    const int level = IsSide(team, segment) ? Given(kLevels, team.Experience) : 0;
+    if (level == 0) continue;
+    chemistry.Level += level;
+    chemistry.Teams.push_back(team.Name.Str());
+  }
+  return chemistry;
+}
+
+void GainTeamExperience(SegmentRun& run) {
+  for (Team& team : run.World.Teams())
+    if (IsSide(team, run.Segment)) ++team.Experience;
+}
+
+void AddChemistry(SegmentRun& run, const Chemistry& chemistry) {
+  const int draw = Given(kDraws, chemistry.Level);
+  if (draw == 0) return;
+  const std::string why = "chemistry of " + Joined(chemistry.Teams);
+  run.Quality.Add(run.World.RandomDraw(draw), why);
+  run.Crowd.Add(run.World.RandomDraw(draw), why);
+}
 
 void RemarkOnShape(SegmentRun& run) {
   for (const int uid : PeopleOf(run.Segment)) {

@@ -96,21 +96,6 @@ void ShiftOverTeams(SegmentRun& run, Worker& winner1, Worker& winner2, Worker& l
   ShiftTeamMember(run, winner1, gap, 1, 5);
 }
 
-}  // namespace
-
-void ShiftOver(SegmentRun& run) {
-  std::vector<Worker*> people;
-  for (const auto& side : {WinnersOf(run.Segment), LosersOf(run.Segment)})
-    for (const int uid : side)
-      if (Worker* worker = run.World.FindWorker(uid)) people.push_back(worker);
-  if (run.Segment.Style == kSingles && people.size() == 2)
-    ShiftOverSingles(run, *people[0], *people[1]);
-  if (run.Segment.Style == kTag && people.size() == 4)
-    ShiftOverTeams(run, *people[0], *people[1], *people[2], *people[3]);
-}
-
-namespace {
-
 /// The cast of the angle by its boxes; nullptr for nobody.
 struct Cast {
   Worker* One;
@@ -240,6 +225,17 @@ void AfterAngle(SegmentRun& run) {
 }
 
 }  // namespace
+
+void ShiftOver(SegmentRun& run) {
+  std::vector<Worker*> people;
+  for (const auto& side : {WinnersOf(run.Segment), LosersOf(run.Segment)})
+    for (const int uid : side)
+      if (Worker* worker = run.World.FindWorker(uid)) people.push_back(worker);
+  if (run.Segment.Style == kSingles && people.size() == 2)
+    ShiftOverSingles(run, *people[0], *people[1]);
+  if (run.Segment.Style == kTag && people.size() == 4)
+    ShiftOverTeams(run, *people[0], *people[1], *people[2], *people[3]);
+}
 
 void TalkConsequences(SegmentRun& run) {
   if (run.Segment.Kind == kInterview) AfterInterview(run);

@@ -58,48 +58,6 @@ std::string ResultText(const World& world, const Segment& segment) {
   return SideText(world, WinnersOf(segment)) + " won a " + won;
 }
 
-}  // namespace
-
-RatingsSoFar RatingsOfShow(const World& world) {
-  RatingsSoFar ratings;
-  const ShowRun& run = *ShowUnderWay(world);
-  for (int number = 1; number <= LastRow(world, run.IsEvent); ++number) {
-    if (!WasTold(world, world.Segments()[number])) continue;
-    ratings.Rows.push_back(std::to_string(number));
-    if (number <= run.Current) ratings.Values.push_back(world.Segments()[number].Rating);
-  }
-  return ratings;
-}
-
-ShowRecap RecapOf(const World& world) {
-  const ShowRun& run = *ShowUnderWay(world);
-  ShowRecap recap;
-  recap.Rating = run.ShowSum;
-  for (int number = 1; number <= LastRow(world, run.IsEvent); ++number)
-    if (const Segment& segment = world.Segments()[number]; WasTold(world, segment))
-      recap.Lines.push_back({number, ResultText(world, segment), segment.Rating});
-  const auto byRating = [](const RecapLine& a, const RecapLine& b) { return a.Rating < b.Rating; };
-  if (const auto [worst, best] =
-          std::minmax_element(recap.Lines.begin(), recap.Lines.end(), byRating);
-      worst != recap.Lines.end()) {
-    recap.Best = Rated(*best);
-    recap.Worst = Rated(*worst);
-  }
-  recap.Sum = SumOf(run, recap);
-  return recap;
-}
-
-std::string WhyText(std::string_view caption, const Score& score) {
-  std::string text = std::string(caption) + " " + std::to_string(score) + " =", sign = "\n";
-  for (const ScoreStep& step : score.Steps()) {
-    text += (step.Change > 0 ? sign : "\n") + std::to_string(step.Change) + " " + step.Why;
-    sign = "\n+";  // the first is no change
-  }
-  return text;
-}
-
-namespace {
-
 using ShowKey = std::pair<Day, int>;
 
 ShowKey KeyOf(const ReportPart& part) {
@@ -230,6 +188,44 @@ void Add(std::vector<ReportText>& texts, const ReportPart& part) {
 }
 
 }  // namespace
+
+RatingsSoFar RatingsOfShow(const World& world) {
+  RatingsSoFar ratings;
+  const ShowRun& run = *ShowUnderWay(world);
+  for (int number = 1; number <= LastRow(world, run.IsEvent); ++number) {
+    if (!WasTold(world, world.Segments()[number])) continue;
+    ratings.Rows.push_back(std::to_string(number));
+    if (number <= run.Current) ratings.Values.push_back(world.Segments()[number].Rating);
+  }
+  return ratings;
+}
+
+ShowRecap RecapOf(const World& world) {
+  const ShowRun& run = *ShowUnderWay(world);
+  ShowRecap recap;
+  recap.Rating = run.ShowSum;
+  for (int number = 1; number <= LastRow(world, run.IsEvent); ++number)
+    if (const Segment& segment = world.Segments()[number]; WasTold(world, segment))
+      recap.Lines.push_back({number, ResultText(world, segment), segment.Rating});
+  const auto byRating = [](const RecapLine& a, const RecapLine& b) { return a.Rating < b.Rating; };
+  if (const auto [worst, best] =
+          std::minmax_element(recap.Lines.begin(), recap.Lines.end(), byRating);
+      worst != recap.Lines.end()) {
+    recap.Best = Rated(*best);
+    recap.Worst = Rated(*worst);
+  }
+  recap.Sum = SumOf(run, recap);
+  return recap;
+}
+
+std::string WhyText(std::string_view caption, const Score& score) {
+  std::string text = std::string(caption) + " " + std::to_string(score) + " =", sign = "\n";
+  for (const ScoreStep& step : score.Steps()) {
+    text += (step.Change > 0 ? sign : "\n") + std::to_string(step.Change) + " " + step.Why;
+    sign = "\n+";  // the first is no change
+  }
+  return text;
+}
 
 std::vector<ReportPiece> CutToPieces(std::string_view text, std::size_t width) {
   std::vector<ReportPiece> pieces;

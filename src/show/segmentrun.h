@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "records/segments.h"
 #include "records/world.h"
 #include "show/ratings.h"
 

@@ -99,46 +99,6 @@ int MoveHeat(int heat, int target, bool isTalk) {
   return std::clamp(heat, 0, 100);
 }
 
-}  // namespace
-
-int FeudSlotOf(const World& world, const Segment& segment, bool ofTeams) {
-  if (!ofTeams) return FeudSlotOf(world, UidAt(segment, 1), UidAt(segment, 2));
-  for (int slot = 1; slot <= world.Feuds().Count(); ++slot)
-    if (StandWhole(world.Feuds()[slot], segment)) return slot;
-  return 0;
-}
-
-void FeudLift(SegmentRun& run, int slot) {
-  if (slot == 0) return;
-  MarkSlot(run, slot);
-  const Feud& feud = run.World.Feuds()[slot];
-  if (run.Crowd >= feud.Heat) return;
-  const int lifted = run.Crowd + kLeastLift + run.World.RandomDraw(kLiftDraw);
-  run.Crowd.Become(
-      std::min<int>(lifted, feud.Heat),
-      "feud of " + FeudText(run.World, feud) + ", up to its heat " + std::to_string(feud.Heat));
-}
-
-void HeatFollowsMatch(SegmentRun& run) {
-  const int slot = FeudSlotOf(run.World, run.Segment, false);
-  if (slot == 0) return;
-  MarkSlot(run, slot);
-  Feud& feud = run.World.Feuds()[slot];
-  feud.Heat = MoveHeat(feud.Heat, WeighRating(run.Quality, run.Crowd), false);
-}
-
-void HeatFollowsTalk(SegmentRun& run) {
-  const int target = TalkTarget(run);
-  for (int slot = 1; slot <= run.World.Feuds().Count(); ++slot) {
-    Feud& feud = run.World.Feuds()[slot];
-    if (!SpeakAgainst(feud, run.Segment)) continue;
-    MarkSlot(run, slot);
-    feud.Heat = MoveHeat(feud.Heat, target, true);
-  }
-}
-
-namespace {
-
 /// So many clean wins, and a side begins to bore.
 constexpr int kCleanWins = 8;
 constexpr int kBored = 2;
@@ -201,6 +161,42 @@ void TallyWin(SegmentRun& run, int winnerUid, int loserUid, bool isClean) {
 }
 
 }  // namespace
+
+int FeudSlotOf(const World& world, const Segment& segment, bool ofTeams) {
+  if (!ofTeams) return FeudSlotOf(world, UidAt(segment, 1), UidAt(segment, 2));
+  for (int slot = 1; slot <= world.Feuds().Count(); ++slot)
+    if (StandWhole(world.Feuds()[slot], segment)) return slot;
+  return 0;
+}
+
+void FeudLift(SegmentRun& run, int slot) {
+  if (slot == 0) return;
+  MarkSlot(run, slot);
+  const Feud& feud = run.World.Feuds()[slot];
+  if (run.Crowd >= feud.Heat) return;
+  const int lifted = run.Crowd + kLeastLift + run.World.RandomDraw(kLiftDraw);
+  run.Crowd.Become(
+      std::min<int>(lifted, feud.Heat),
+      "feud of " + FeudText(run.World, feud) + ", up to its heat " + std::to_string(feud.Heat));
+}
+
+void HeatFollowsMatch(SegmentRun& run) {
+  const int slot = FeudSlotOf(run.World, run.Segment, false);
+  if (slot == 0) return;
+  MarkSlot(run, slot);
+  Feud& feud = run.World.Feuds()[slot];
+  feud.Heat = MoveHeat(feud.Heat, WeighRating(run.Quality, run.Crowd), false);
+}
+
+void HeatFollowsTalk(SegmentRun& run) {
+  const int target = TalkTarget(run);
+  for (int slot = 1; slot <= run.World.Feuds().Count(); ++slot) {
+    Feud& feud = run.World.Feuds()[slot];
+    if (!SpeakAgainst(feud, run.Segment)) continue;
+    MarkSlot(run, slot);
+    feud.Heat = MoveHeat(feud.Heat, target, true);
+  }
+}
 
 void TallyVerbal(SegmentRun& run, int speakerUid, int targetUid) {
   const int slot = Count(run.World, speakerUid, targetUid,

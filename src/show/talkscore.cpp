@@ -88,6 +88,9 @@ void AddExtra(SegmentRun& run, AngleExtra extra) {
   run.Crowd.Limit();
 }
 
+constexpr int kCapBonus = 10;
+constexpr int kTalkDraw = 15;
+
 }  // namespace
 
 void ScoreInterview(SegmentRun& run) {
@@ -115,13 +118,6 @@ void ScoreAngle(SegmentRun& run) {
   TallyAngle(run, *angle);
   AddExtra(run, angle->Extra);
 }
-
-namespace {
-
-constexpr int kCapBonus = 10;
-constexpr int kTalkDraw = 15;
-
-}  // namespace
 
 void CapByWriters(SegmentRun& run) {
   int count = 0, sum = 0, best = 0;

@@ -13,6 +13,28 @@ bool TakesTitles(const Segment& segment) {
   return segment.Style != kThreeOnThree && segment.Style != kFourOnFour && PassesTitles(segment);
 }
 
+/// A Title whose image lies further than this from a champion's Over pulls it along.
+constexpr int kPull = 10;
+constexpr std::string_view kHasLost = " title has lost image.";
+
+int StepTowards(int image, const Worker& champion) {
+  return image > champion.Over + kPull ? 1 : image < champion.Over - kPull ? -1 : 0;
+}
+
+int ImageChange(int target, int image) {
+  int change = 0;
+  // Whatever falls by 4 also passes the test for 2, which has the last word.
+  if (target + 12 < image) change = -4;
+  if (target + 7 < image) change = -2;
+  if (target > image) change = 2;
+  if (target > image + 10) change = 4;
+  return change;
+}
+
+void Tell(SegmentRun& run, const Title& title, std::string_view what) {
+  run.Notes += "The " + title.Name.Str() + std::string(what);
+}
+
 }  // namespace
 
 Title* TitleAtStake(World& world, const Segment& segment) {
@@ -45,32 +67,6 @@ void ChangeTitle(SegmentRun& run) {
   if (pair.size() == 2 && !AreChampions(*title, pair[0], pair[1]))
     PassTitle(run, *title, pair[0], pair[1], " won ");
 }
-
-namespace {
-
-/// A Title whose image lies further than this from a champion's Over pulls it along.
-constexpr int kPull = 10;
-constexpr std::string_view kHasLost = " title has lost image.";
-
-int StepTowards(int image, const Worker& champion) {
-  return image > champion.Over + kPull ? 1 : image < champion.Over - kPull ? -1 : 0;
-}
-
-int ImageChange(int target, int image) {
-  int change = 0;
-  // Whatever falls by 4 also passes the test for 2, which has the last word.
-  if (target + 12 < image) change = -4;
-  if (target + 7 < image) change = -2;
-  if (target > image) change = 2;
-  if (target > image + 10) change = 4;
-  return change;
-}
-
-void Tell(SegmentRun& run, const Title& title, std::string_view what) {
-  run.Notes += "The " + title.Name.Str() + std::string(what);
-}
-
-}  // namespace
 
 void MoveTitleImage(SegmentRun& run) {
   Title* title = TitleAtStake(run.World, run.Segment);

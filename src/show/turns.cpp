@@ -123,29 +123,6 @@ void FailTurn(SegmentRun& run, Worker& turner, const FailedTurn& price) {
   turner.Morale += price.Morale - run.World.RandomDraw(price.MoraleDraw);
 }
 
-}  // namespace
-
-bool IsSureToFail(const Worker& turner, const Worker* other) {
-  const TurnRow* row = FindTurn(turner, other ? *other : turner);
-  return row && row->MayFallFlat && row->FlatWhen == Popularity::Any;
-}
-
-void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
-  TurnOutcome outcome = RememberedTurn(run.World, turner);
-  if (!turner.TurnPending)
-    outcome = TurnOutcome::Baffling;
-  else if (ChangeDisposition(turner, other ? *other : turner))
-    outcome = TurnOutcome::Flat;
-  turner.TurnPending = false;
-  turner.LastTurn = run.World.Today();
-  if (outcome == TurnOutcome::Completed)
-    CompleteTurn(run, turner);
-  else
-    FailTurn(run, turner, kFailedTurns[static_cast<int>(outcome) - 1]);
-}
-
-namespace {
-
 using Calls = std::vector<TurnCall>;
 
 void Add(Calls& calls, int turner, int other) {
@@ -258,6 +235,25 @@ void AddMatchTurns(Calls& calls, const World& world, const Segment& segment) {
 }
 
 }  // namespace
+
+bool IsSureToFail(const Worker& turner, const Worker* other) {
+  const TurnRow* row = FindTurn(turner, other ? *other : turner);
+  return row && row->MayFallFlat && row->FlatWhen == Popularity::Any;
+}
+
+void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
+  TurnOutcome outcome = RememberedTurn(run.World, turner);
+  if (!turner.TurnPending)
+    outcome = TurnOutcome::Baffling;
+  else if (ChangeDisposition(turner, other ? *other : turner))
+    outcome = TurnOutcome::Flat;
+  turner.TurnPending = false;
+  turner.LastTurn = run.World.Today();
+  if (outcome == TurnOutcome::Completed)
+    CompleteTurn(run, turner);
+  else
+    FailTurn(run, turner, kFailedTurns[static_cast<int>(outcome) - 1]);
+}
 
 std::vector<TurnCall> BookedTurns(const World& world, const Segment& segment) {
   Calls calls;

@@ -1,7 +1,6 @@
 #include "tools/balance.h"
 
 #include <algorithm>
-#include <ostream>
 
 #include "business/finance.h"
 #include "business/sponsors.h"
@@ -159,33 +158,6 @@ std::vector<PlaceOnCard> CardOf(const World& world, const Promotion& promotion) 
   return card;
 }
 
-}  // namespace
-
-long long MonthMoney::Income() const {
-  return TvTickets + EventTickets + HouseShows + PayPerView + Merchandise + Sponsors;
-}
-
-long long MonthMoney::Costs() const {
-  return WorkerWages + StaffWages + Production + Events + Advertising + Merchandising;
-}
-
-int MonthMoney::CostsPerHundred() const {
-  return static_cast<int>(100 * Costs() / std::max(Income(), 1LL));
-}
-
-std::vector<PromotionBalance> BalanceOf(const World& world) {
-  World market = AfterSigning(world);
-  std::vector<PromotionBalance> balances;
-  for (const Promotion& promotion : world.Promotions())
-    balances.push_back(
-        {&promotion, CardOf(world, promotion),
-         MonthOf(world, promotion, PlayersHands(world, promotion)),
-         MonthOf(world, promotion, RivalsHands(market, *market.FindPromotion(promotion.Uid)))});
-  return balances;
-}
-
-namespace {
-
 constexpr std::string_view kIntroduction = R"(# Balance of the default world
 
 This page is made by `grapplemont-world balance data`. It shows what each promotion starts with and what an average month
@@ -279,6 +251,29 @@ int Balance(const Arguments& arguments, Shell& shell) {
 }
 
 }  // namespace
+
+long long MonthMoney::Income() const {
+  return TvTickets + EventTickets + HouseShows + PayPerView + Merchandise + Sponsors;
+}
+
+long long MonthMoney::Costs() const {
+  return WorkerWages + StaffWages + Production + Events + Advertising + Merchandising;
+}
+
+int MonthMoney::CostsPerHundred() const {
+  return static_cast<int>(100 * Costs() / std::max(Income(), 1LL));
+}
+
+std::vector<PromotionBalance> BalanceOf(const World& world) {
+  World market = AfterSigning(world);
+  std::vector<PromotionBalance> balances;
+  for (const Promotion& promotion : world.Promotions())
+    balances.push_back(
+        {&promotion, CardOf(world, promotion),
+         MonthOf(world, promotion, PlayersHands(world, promotion)),
+         MonthOf(world, promotion, RivalsHands(market, *market.FindPromotion(promotion.Uid)))});
+  return balances;
+}
 
 const Command kBalance{"balance",
                        "FOLDER",

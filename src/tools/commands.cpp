@@ -1,7 +1,5 @@
 #include "tools/commands.h"
 
-#include <ostream>
-
 #include "records/fields/charset.h"
 #include "records/tables/worldreport.h"
 #include "tools/tool.h"

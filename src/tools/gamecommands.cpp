@@ -191,28 +191,6 @@ constexpr OptionKind kRunOptions[] = {{"--home", "H"},
                                       {"--stats", "FILE"},
                                       {"--go-on", ""}};
 
-}  // namespace
-
-const Command kNew{"new",
-                   "--home H --slot N --player NAME --promotion INITIALS --difficulty 1..4 --start "
-                   "YYYY-MM-DD --seed S",
-                   "Begins a game in a slot of the home H, in place of one that is there, on the "
-                   "first of a month from the start on.",
-                   0,
-                   kNewOptions,
-                   New};
-const Command kRun{"run",
-                   "--home H --slot N --days D --seed S --shows auto|cancel [--no-sync] [--stats "
-                   "FILE]",
-                   "Plays days of a saved game; FILE gets a JSON object a line for each month.",
-                   0,
-                   kRunOptions,
-                   Run};
-
-// The next show of a game, told.
-
-namespace {
-
 constexpr int kFarthest = 400;  // days; an Event may be a year away
 
 /// The slot's world as it is read, for nobody to write.
@@ -280,6 +258,24 @@ constexpr OptionKind kTellOptions[] = {
     {"--home", "H"}, {"--slot", "N", true}, {"--seed", "S"}, {"--voice", "0..2"}, {"--event", ""}};
 
 }  // namespace
+
+const Command kNew{"new",
+                   "--home H --slot N --player NAME --promotion INITIALS --difficulty 1..4 --start "
+                   "YYYY-MM-DD --seed S",
+                   "Begins a game in a slot of the home H, in place of one that is there, on the "
+                   "first of a month from the start on.",
+                   0,
+                   kNewOptions,
+                   New};
+const Command kRun{"run",
+                   "--home H --slot N --days D --seed S --shows auto|cancel [--no-sync] [--stats "
+                   "FILE]",
+                   "Plays days of a saved game; FILE gets a JSON object a line for each month.",
+                   0,
+                   kRunOptions,
+                   Run};
+
+// The next show of a game, told.
 
 void TellShow(World& world, bool isEvent, std::ostream& out) {
   const CommentaryTeam team = isEvent ? BestTeam(world) : TvTeam(world);

@@ -12,7 +12,6 @@
 #include "records/fields/fields.h"
 #include "records/world.h"
 #include "report/report.h"
-#include "rivals/endstories.h"
 #include "rivals/founding.h"
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
@@ -60,25 +59,6 @@ bool MaySign(const World& world) {
          Rosters(world).Of(player.Uid) * 2 < BySize(tuning::kRosters, player.Size).Least;
 }
 
-}  // namespace
-
-void WorkInTheOffice(World& world) {
-  FillSponsorPlaces(world);
-  WorkOnTelevision(world);
-  if (IsFirstOfMonth(world.Today())) {
-    RenewContracts(world, world.Player());
-    SpendByStanding(world.Player());
-  }
-  if (!IsMonday(world.Today())) return;
-  if (MaySign(world)) {
-    Rosters rosters(world);
-    FitRoster(world, world.Player(), rosters);
-  }
-  FitPosts(world, world.Player(), Posts(world));
-}
-
-namespace {
-
 /// "CWA Friday", or "CWA Friday 2" where that is taken.
 std::string NameOfShow(const World& world, int day) {
   const std::string plain = world.Player().Initials + " " + std::string(Says(kWeekDays, day));
@@ -111,16 +91,6 @@ void SendATape(World& world) {
   SendTape(world, world.Networks()[world.RandomDraw(world.Networks().Count())].Uid);
 }
 
-}  // namespace
-
-void WorkOnTelevision(World& world) {
-  TakeOffer(world);
-  if (IsMonday(world.Today())) ExtendDeals(world);
-  if (DayOfMonth(world.Today()) == 2) SendATape(world);
-}
-
-namespace {
-
 /// A show that was cut off goes to its end first.
 bool FinishTodays(World& world) {
   if (!ShowUnderWay(world)) return false;
@@ -151,6 +121,27 @@ bool TakeAnotherJob(World& world) {
 }
 
 }  // namespace
+
+void WorkInTheOffice(World& world) {
+  FillSponsorPlaces(world);
+  WorkOnTelevision(world);
+  if (IsFirstOfMonth(world.Today())) {
+    RenewContracts(world, world.Player());
+    SpendByStanding(world.Player());
+  }
+  if (!IsMonday(world.Today())) return;
+  if (MaySign(world)) {
+    Rosters rosters(world);
+    FitRoster(world, world.Player(), rosters);
+  }
+  FitPosts(world, world.Player(), Posts(world));
+}
+
+void WorkOnTelevision(World& world) {
+  TakeOffer(world);
+  if (IsMonday(world.Today())) ExtendDeals(world);
+  if (DayOfMonth(world.Today()) == 2) SendATape(world);
+}
 
 int EndCodeOf(const World& world) {
   return HasEnded(world.Game()) ? int(world.Game().EndCode) : 0;

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <ostream>
 
 #include "records/fields/fields.h"
 #include "records/tables/cells.h"

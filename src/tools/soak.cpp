@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <nlohmann/json.hpp>
-#include <ostream>
 
 #include "records/checks/checkworld.h"
 #include "records/fields/charset.h"
@@ -81,34 +80,6 @@ Json PlayerState(const World& world) {
           {"money", int(promotion->Money)},
           {"reputation", int(world.Game().Reputation)}};
 }
-
-}  // namespace
-
-std::string MonthSummary(const World& world) {
-  return Json{{"date", IsoDate(world.Today())},
-              {"economy", int(world.Game().Economy)},
-              {"promotions", PromotionsBySize(world)},
-              {"workers", WorkerCounts(world)},
-              {"shows", ShowsOnAir(world)},
-              {"titles", TitleCounts(world, MonthBefore(world.Today()))},
-              {"player", PlayerState(world)},
-              {"mails", world.News().Count()}}
-      .dump();
-}
-
-StatsFile::StatsFile(Disk& disk, const std::string& path) : disk_(disk), file_(disk, path, true) {
-  disk_.Resize(file_, 0);
-}
-
-void StatsFile::Add(const std::string& line) {
-  const std::string text = line + "\n";
-  disk_.WriteAt(file_, end_, std::as_bytes(std::span(text)));
-  end_ += static_cast<std::int64_t>(text.size());
-}
-
-// Many careers that nobody watches, looked at for faults month by month.
-
-namespace {
 
 constexpr Day kStart{std::chrono::year{2026} / 1 / 1};
 constexpr std::uint64_t kMostSeeds = 10000, kMostDays = 40000;
@@ -199,6 +170,30 @@ int Soak(const Arguments& arguments, Shell& shell) {
 constexpr OptionKind kSoakOptions[] = {{"--seeds", "N"}, {"--days", "D"}};
 
 }  // namespace
+
+std::string MonthSummary(const World& world) {
+  return Json{{"date", IsoDate(world.Today())},
+              {"economy", int(world.Game().Economy)},
+              {"promotions", PromotionsBySize(world)},
+              {"workers", WorkerCounts(world)},
+              {"shows", ShowsOnAir(world)},
+              {"titles", TitleCounts(world, MonthBefore(world.Today()))},
+              {"player", PlayerState(world)},
+              {"mails", world.News().Count()}}
+      .dump();
+}
+
+StatsFile::StatsFile(Disk& disk, const std::string& path) : disk_(disk), file_(disk, path, true) {
+  disk_.Resize(file_, 0);
+}
+
+void StatsFile::Add(const std::string& line) {
+  const std::string text = line + "\n";
+  disk_.WriteAt(file_, end_, std::as_bytes(std::span(text)));
+  end_ += static_cast<std::int64_t>(text.size());
+}
+
+// Many careers that nobody watches, looked at for faults month by month.
 
 const Command kSoak{"soak",
                     "DATA --seeds N --days D",

@@ -85,6 +85,19 @@ int RunCommand(const Command& command, std::span<const std::string> words, Shell
   return 1;
 }
 
+std::string Quoted(std::string_view text) {
+  return '"' + std::string(text) + '"';
+}
+
+const OptionKind& FindOption(std::span<const OptionKind> options, const std::string& name) {
+  const auto found = std::find_if(options.begin(), options.end(),
+                                  [&](const OptionKind& option) { return option.Name == name; });
+  if (found != options.end()) return *found;
+  std::vector<std::string_view> names;
+  for (const OptionKind& option : options) names.push_back(option.Name);
+  throw UsageError("there is no option " + Quoted(name) + DidYouMean(name, names));
+}
+
 }  // namespace
 
 int RunWorldTool(std::span<const std::string> arguments, Shell shell) {
@@ -101,23 +114,6 @@ int RunWorldTool(std::span<const std::string> arguments, Shell shell) {
     return 2;
   }
 }
-
-namespace {
-
-std::string Quoted(std::string_view text) {
-  return '"' + std::string(text) + '"';
-}
-
-const OptionKind& FindOption(std::span<const OptionKind> options, const std::string& name) {
-  const auto found = std::find_if(options.begin(), options.end(),
-                                  [&](const OptionKind& option) { return option.Name == name; });
-  if (found != options.end()) return *found;
-  std::vector<std::string_view> names;
-  for (const OptionKind& option : options) names.push_back(option.Name);
-  throw UsageError("there is no option " + Quoted(name) + DidYouMean(name, names));
-}
-
-}  // namespace
 
 Arguments::Arguments(std::span<const std::string> words, std::span<const OptionKind> options,
                      std::size_t places) {

@@ -44,32 +44,6 @@ void Choose(Screen& screen, OptionButton& chosen) {
       option->Checked = option == &chosen;
 }
 
-}  // namespace
-
-std::string Click(Desk& desk, Screen& screen, std::string_view name) {
-  return Reach(screen, name, [&](Control& control) -> std::string {
-    auto* button = dynamic_cast<Button*>(&control);
-    auto* picture = dynamic_cast<Picture*>(&control);
-    if (const auto* box = dynamic_cast<CheckBox*>(&control))
-      return Check(desk, screen, name, !box->Checked);
-    if (control.Is() == Kind::OptionButton) return Check(desk, screen, name, true);
-    if (!button && !(picture && picture->OnClick)) return CannotBe(control, "clicked");
-    desk.Event(button ? button->OnClick : picture->OnClick);
-    return {};
-  });
-}
-
-std::string Type(Desk& desk, Screen& screen, std::string_view name, std::string_view text) {
-  return ReachA<TextBox>(screen, name, "typed into", [&](TextBox& box) -> std::string {
-    if (box.MaxLength > 0) text = text.substr(0, static_cast<std::size_t>(box.MaxLength));
-    box.Text = text;
-    desk.Event(box.OnChange);
-    return {};
-  });
-}
-
-namespace {
-
 /// What a row's first column says.
 std::string_view TextOf(const ComboBox& combo, int row) {
   return combo.Rows()[static_cast<std::size_t>(row - 1)];
@@ -130,6 +104,28 @@ std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, const Wan
 }
 
 }  // namespace
+
+std::string Click(Desk& desk, Screen& screen, std::string_view name) {
+  return Reach(screen, name, [&](Control& control) -> std::string {
+    auto* button = dynamic_cast<Button*>(&control);
+    auto* picture = dynamic_cast<Picture*>(&control);
+    if (const auto* box = dynamic_cast<CheckBox*>(&control))
+      return Check(desk, screen, name, !box->Checked);
+    if (control.Is() == Kind::OptionButton) return Check(desk, screen, name, true);
+    if (!button && !(picture && picture->OnClick)) return CannotBe(control, "clicked");
+    desk.Event(button ? button->OnClick : picture->OnClick);
+    return {};
+  });
+}
+
+std::string Type(Desk& desk, Screen& screen, std::string_view name, std::string_view text) {
+  return ReachA<TextBox>(screen, name, "typed into", [&](TextBox& box) -> std::string {
+    if (box.MaxLength > 0) text = text.substr(0, static_cast<std::size_t>(box.MaxLength));
+    box.Text = text;
+    desk.Event(box.OnChange);
+    return {};
+  });
+}
 
 std::string Pick(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText) {
   return PickRow(desk, screen, name, {std::string(rowOrText)});

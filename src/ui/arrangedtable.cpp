@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <compare>
-#include <numeric>
 
 #include "ui/filter.h"
 

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "booking/auto/autobooker.h"
 #include "booking/wizard/refusals.h"

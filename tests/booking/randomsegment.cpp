@@ -1,7 +1,5 @@
 #include "randomsegment.h"
 
-#include <algorithm>
-
 #include "booking/wizard/casting.h"
 #include "booking/wizard/matchrules.h"
 

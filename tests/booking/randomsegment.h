@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "booking/wizard/segmentcheck.h"
 #include "support/randomworld.h"
 
 namespace grapplemont::test {

@@ -3,7 +3,6 @@
 #include "rivals/faults.h"
 #include "rivals/ownership.h"
 #include "rivals/rivals.h"
-#include "rivals/staffmarket.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "calendar/advanceday.h"
 #include "rivals/faults.h"
 #include "rivals/founding.h"
 #include "rivals/newpromotionnames.h"

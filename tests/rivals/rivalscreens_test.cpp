@@ -1,9 +1,7 @@
-#include "rivals/screens/rivalscreens.h"
 
 #include <gtest/gtest.h>
 
 #include "rivals/faults.h"
-#include "rivals/founding.h"
 #include "session/home.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"

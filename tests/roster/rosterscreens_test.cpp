@@ -1,8 +1,5 @@
-#include "roster/screens/frmWorker.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 #include "support/gameonworld.h"
 #include "ui/acts.h"

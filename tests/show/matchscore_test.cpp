@@ -1,7 +1,6 @@
 #include "show/matchscore.h"
 
 #include "show/ratings.h"
-#include "show/showfeuds.h"
 #include "showrig.h"
 
 namespace grapplemont::test {

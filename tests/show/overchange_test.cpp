@@ -1,5 +1,4 @@
 #include "show/overchange.h"
-#include "records/angles.h"
 #include "showrig.h"
 
 namespace grapplemont::test {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 #include "records/store/disk.h"
 #include "records/world.h"

@@ -8,7 +8,6 @@
 #include "booking/wizard/refusals.h"
 #include "booking/wizard/roster.h"
 #include "booking/wizard/segmentcheck.h"
-#include "show/runsegment.h"
 #include "storylines/feuds.h"
 #include "storylines/storynames.h"
 #include "storylines/titles.h"

@@ -6,7 +6,6 @@
 #include "booking/wizard/casting.h"
 #include "booking/wizard/interviews.h"
 #include "records/angles.h"
-#include "show/runsegment.h"
 #include "storylines/feuds.h"
 #include "storylines/partners.h"
 

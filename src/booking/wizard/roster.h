@@ -5,7 +5,6 @@
 
 #include "records/segments.h"
 #include "records/world.h"
-#include "roster/staff.h"
 
 // Whom the player may book.
 

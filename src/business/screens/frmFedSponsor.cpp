@@ -2,7 +2,6 @@
 #include <array>
 
 #include "business/finance.h"
-#include "business/screens/frmSpending.h"
 #include "business/sponsors.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"

@@ -2,7 +2,6 @@
 #include "business/screens/frmTelevision.h"
 #include "business/tvshows.h"
 #include "records/fields/wording.h"
-#include "records/modWresCheck.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {

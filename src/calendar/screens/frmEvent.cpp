@@ -3,7 +3,6 @@
 #include "records/modVar.h"
 #include "show/attendance.h"
 #include "storylines/screens/screenpeople.h"
-#include "storylines/storynames.h"
 #include "ui/game.h"
 
 namespace grapplemont {

@@ -7,7 +7,6 @@
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
-#include "records/modWresCheck.h"
 #include "show/holdshow.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/acts.h"

@@ -4,7 +4,6 @@
 #include "editor/screens/screenfiles.h"
 #include "records/fields/wording.h"
 #include "records/modWresCheck.h"
-#include "records/tables/worldreport.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 

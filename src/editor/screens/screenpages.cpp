@@ -224,6 +224,17 @@ void BeginOwner(std::byte* record) {
   As<Staff>(record).Age = 50;
 }
 
+/// What the field is called on a page of its file; its own name where no page shows it.
+std::string LabelOf(std::string_view file, const std::string& field) {
+  for (const RecordPage& page : RecordPages()) {
+    if (LayoutOf(page.Kind).File != file) continue;
+    for (const FormGroup& group : page.Groups)
+      for (const FormEntry& entry : group.Entries)
+        if (entry.Field == field) return std::string(entry.Label);
+  }
+  return field;
+}
+
 }  // namespace
 
 std::span<const RecordPage> RecordPages() {
@@ -251,21 +262,6 @@ std::span<const RecordPage> RecordPages() {
        kSponsorColumns, kSponsorGroups}};
   return kPages;
 }
-
-namespace {
-
-/// What the field is called on a page of its file; its own name where no page shows it.
-std::string LabelOf(std::string_view file, const std::string& field) {
-  for (const RecordPage& page : RecordPages()) {
-    if (LayoutOf(page.Kind).File != file) continue;
-    for (const FormGroup& group : page.Groups)
-      for (const FormEntry& entry : group.Entries)
-        if (entry.Field == field) return std::string(entry.Label);
-  }
-  return field;
-}
-
-}  // namespace
 
 std::string FaultWords(const Fault& fault) {
   if (fault.Field.empty()) return "It " + fault.What + ".";

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <map>
-#include <memory>
 
 #include "editor/datafolder.h"
 #include "editor/screens/screenrecordform.h"

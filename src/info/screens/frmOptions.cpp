@@ -3,7 +3,6 @@
 #include "info/screens/infotables.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
-#include "records/modWresCheck.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -90,12 +89,6 @@ class frmOptions : public GameScreen {
   ui::Button cmdview{*this, "cmdview", "View", [this] { desk().Open("frmLoadingScreens"); }};
 };
 
-}  // namespace
-
-SCREEN(frmOptions)
-
-namespace {
-
 /// The player's own notes. What is typed is on disk with the same stroke, so that no way of closing
 /// the program loses it.
 class frmNotepad : public GameScreen {
@@ -160,12 +153,6 @@ class frmNotepad : public GameScreen {
   ui::TextBox txtnotes{*this, "txtnotes"};
   ui::Button cmdrevert{*this, "cmdrevert", "Back To What Is Saved", &frmNotepad::cmdrevert_Click};
 };
-
-}  // namespace
-
-SCREEN(frmNotepad)
-
-namespace {
 
 using K = ui::ColumnKind;
 
@@ -239,6 +226,10 @@ class frmUser : public GameScreen {
 };
 
 }  // namespace
+
+SCREEN(frmOptions)
+
+SCREEN(frmNotepad)
 
 SCREEN(frmUser)
 

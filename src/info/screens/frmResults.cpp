@@ -100,12 +100,6 @@ class frmReports : public GameScreen {
   ui::Report txtreport{*this, "txtreport"};
 };
 
-}  // namespace
-
-SCREEN(frmReports)
-
-namespace {
-
 const CellColumns<YearAward> kAwards = {
     {{"Year", K::Number}, [](const YearAward& award) { return YearOf(award.On); }},
     {{"Award", K::Text, 3}, [](const YearAward& award) { return AwardName(award.Kind); }},
@@ -154,12 +148,6 @@ class frmAwards : public GameScreen {
   ui::ComboBox cmbaward{*this, "cmbaward", &frmAwards::ShowAwards};
   ui::ListBox lstawards{*this, "lstawards", HeadingsOf(kAwards)};
 };
-
-}  // namespace
-
-SCREEN(frmAwards)
-
-namespace {
 
 /// How many shows the chart goes back.
 constexpr std::size_t kCharted = 26;
@@ -321,6 +309,10 @@ class frmResults : public GameScreen {
 };
 
 }  // namespace
+
+SCREEN(frmReports)
+
+SCREEN(frmAwards)
 
 SCREEN(frmResults)
 

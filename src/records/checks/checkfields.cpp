@@ -134,43 +134,6 @@ void ForEachField(Inspection& inspection, Look look) {
   });
 }
 
-}  // namespace
-
-void WholeRecords(Inspection& inspection) {
-  for (Table* table : inspection.Of().Tables()) {
-    const RecordLayout* layout = table->Layout();
-    if (!layout || !inspection.Covers(*layout)) continue;
-    const ByteSpan bytes = table->Contents();
-    const auto size = static_cast<std::size_t>(layout->Size);
-    const std::size_t count = bytes.size() / size;
-    if (bytes.size() % size == 0) continue;
-    inspection.NoteFile(
-        layout->File,
-        "ends in " + std::to_string(bytes.size() % size) + " bytes that are no whole record",
-        {"cut off", [&] {
-           const Bytes whole(bytes.begin(),
-                             bytes.begin() + static_cast<std::ptrdiff_t>(count * size));
-           table->Load(whole);
-         }});
-  }
-}
-
-void FieldsHoldWhatTheyMay(Inspection& inspection) {
-  ForEachField(inspection, [&](const Place& place, const Field& field, int index) {
-    InspectField(inspection, place, field, index);
-  });
-}
-
-void CountedNumbersLieInTheirRanges(Inspection& inspection) {
-  ForEachField(inspection, [&](const Place& place, const Field& field, int index) {
-    if (field.IsCounted) InspectNumber(inspection, place, field, index);
-  });
-}
-
-// What records are known by is there and stands once.
-
-namespace {
-
 template <class T>
 void InspectUids(Inspection& inspection, Records<T>& records) {
   std::unordered_map<int, int> firstWith;
@@ -246,6 +209,39 @@ void InspectKeys(Inspection& inspection, Records<T>& records) {
 }
 
 }  // namespace
+
+void WholeRecords(Inspection& inspection) {
+  for (Table* table : inspection.Of().Tables()) {
+    const RecordLayout* layout = table->Layout();
+    if (!layout || !inspection.Covers(*layout)) continue;
+    const ByteSpan bytes = table->Contents();
+    const auto size = static_cast<std::size_t>(layout->Size);
+    const std::size_t count = bytes.size() / size;
+    if (bytes.size() % size == 0) continue;
+    inspection.NoteFile(
+        layout->File,
+        "ends in " + std::to_string(bytes.size() % size) + " bytes that are no whole record",
+        {"cut off", [&] {
+           const Bytes whole(bytes.begin(),
+                             bytes.begin() + static_cast<std::ptrdiff_t>(count * size));
+           table->Load(whole);
+         }});
+  }
+}
+
+void FieldsHoldWhatTheyMay(Inspection& inspection) {
+  ForEachField(inspection, [&](const Place& place, const Field& field, int index) {
+    InspectField(inspection, place, field, index);
+  });
+}
+
+void CountedNumbersLieInTheirRanges(Inspection& inspection) {
+  ForEachField(inspection, [&](const Place& place, const Field& field, int index) {
+    if (field.IsCounted) InspectNumber(inspection, place, field, index);
+  });
+}
+
+// What records are known by is there and stands once.
 
 void NoRecordStandsTwice(Inspection& inspection) {
   ForEachFile(inspection, [&]<class T>(Records<T>& records) {

@@ -2,7 +2,6 @@
 #include <unordered_map>
 
 #include "records/checks/checkrules.h"
-#include "records/severing.h"
 
 // Workers and staff, and the promotions they work for.
 

@@ -76,6 +76,18 @@ void Mend(World& world, const TakeFault& take, const WantFault& wanted = {}) {
   }
 }
 
+/// The record's own name; blanks stand for what would spoil the line.
+std::string OwnName(const Place& place) {
+  for (const Field& field : place.Layout.Fields) {
+    if (field.Name != "Name") continue;
+    std::string name(FieldText(field, place.Record));
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
+    return name;
+  }
+  return {};
+}
+
 }  // namespace
 
 void CheckWorld(const World& world, const TakeFault& take) {
@@ -109,22 +121,6 @@ std::vector<Fault> MendNumbers(World& world) {
   CountedNumbersLieInTheirRanges(inspection);
   return mended;
 }
-
-namespace {
-
-/// The record's own name; blanks stand for what would spoil the line.
-std::string OwnName(const Place& place) {
-  for (const Field& field : place.Layout.Fields) {
-    if (field.Name != "Name") continue;
-    std::string name(FieldText(field, place.Record));
-    std::replace_if(
-        name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
-    return name;
-  }
-  return {};
-}
-
-}  // namespace
 
 std::string Fault::Line() const {
   std::string line = File;

@@ -1,10 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <functional>
-#include <initializer_list>
-#include <memory>
 #include <random>
 
 #include "records/fields/fields.h"

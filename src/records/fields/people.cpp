@@ -1,7 +1,5 @@
 #include "records/fields/people.h"
 
-#include <algorithm>
-
 #include "records/fields/fields.h"
 
 namespace grapplemont {

@@ -1,6 +1,5 @@
 #include "records/store/slotfolder.h"
 
-#include <algorithm>
 #include <functional>
 
 #include "records/store/journal.h"

@@ -1,7 +1,6 @@
 #include "records/tables/differences.h"
 
 #include <algorithm>
-#include <cstring>
 #include <optional>
 
 #include "records/fields/charset.h"

@@ -1,7 +1,6 @@
 #include "records/tables/tablekinds.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "records/fields/fields.h"
 #include "records/world.h"

@@ -1,7 +1,6 @@
 #include "records/tables/tablereader.h"
 
 #include <algorithm>
-#include <optional>
 #include <set>
 #include <unordered_map>
 #include <unordered_set>

@@ -201,14 +201,6 @@ class Builder {
   World world_;
 };
 
-}  // namespace
-
-Building BuildWorld(const Tables& tables) {
-  return Builder(tables).Build();
-}
-
-namespace {
-
 /// One record file as a table.
 class TableWriter {
  public:
@@ -298,6 +290,10 @@ class TableWriter {
 };
 
 }  // namespace
+
+Building BuildWorld(const Tables& tables) {
+  return Builder(tables).Build();
+}
 
 TableNames NamesIn(const World& world) {
   return TableNames([files = world.Tables()](const RecordLayout& layout) {

@@ -2,7 +2,6 @@
 #include "rivals/endstories.h"
 #include "rivals/founding.h"
 #include "rivals/purse.h"
-#include "rivals/rivals.h"
 #include "rivals/screens/rivalscreens.h"
 #include "ui/game.h"
 

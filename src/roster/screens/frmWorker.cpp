@@ -49,22 +49,6 @@ void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, c
   right.Write(Told(all.subspan(kAtLeft)));
 }
 
-}  // namespace
-
-void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
-                     const std::string& nobody) {
-  if (!worker) return page.Write({{Style::Muted, nobody}});
-  WriteFacts(page, WorkerFacts(world, *worker));
-}
-
-void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
-                    const std::string& nobody) {
-  if (!staff) return page.Write({{Style::Muted, nobody}});
-  WriteFacts(page, StaffFacts(world, *staff));
-}
-
-namespace {
-
 /// What is known of one worker.
 class frmWorker : public GameScreen {
  public:
@@ -141,17 +125,6 @@ std::vector<ui::Link> LinksOf(Game& game, NameIndex& names, std::string_view tex
   return links;
 }
 
-}  // namespace
-
-void ConnectRoster(Game& game) {
-  game.OpenWorker = [&game](int uid) { OpenWorkerPage(game, uid); };
-  game.Desk().FindLinks = [&game, names = std::make_shared<NameIndex>()](std::string_view text) {
-    return LinksOf(game, *names, text);
-  };
-}
-
-namespace {
-
 /// Whom the player keeps an eye on, and how they stand today.
 class frmShortlist : public GameScreen {
  public:
@@ -216,6 +189,25 @@ class frmShortlist : public GameScreen {
 };
 
 }  // namespace
+
+void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
+                     const std::string& nobody) {
+  if (!worker) return page.Write({{Style::Muted, nobody}});
+  WriteFacts(page, WorkerFacts(world, *worker));
+}
+
+void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
+                    const std::string& nobody) {
+  if (!staff) return page.Write({{Style::Muted, nobody}});
+  WriteFacts(page, StaffFacts(world, *staff));
+}
+
+void ConnectRoster(Game& game) {
+  game.OpenWorker = [&game](int uid) { OpenWorkerPage(game, uid); };
+  game.Desk().FindLinks = [&game, names = std::make_shared<NameIndex>()](std::string_view text) {
+    return LinksOf(game, *names, text);
+  };
+}
 
 SCREEN(frmShortlist)
 

@@ -1,10 +1,8 @@
 #include <algorithm>
-#include <array>
 
 #include "records/fields/wording.h"
 #include "records/world.h"
 #include "session/home.h"
-#include "session/screens/frmLoadGame.h"
 #include "ui/game.h"
 
 namespace grapplemont {

@@ -31,22 +31,6 @@ bool Open(Game& game, int slot) {
   return true;
 }
 
-}  // namespace
-
-void EnterSlot(Game& game, int slot) {
-  if (!Open(game, slot)) return;
-  try {
-    game.Desk().CloseAll();
-    game.Desk().Open("frmMainScreen");
-  } catch (...) {
-    // The start-up screens come back; a game left open behind them would keep its slot locked.
-    game.CloseSlot();
-    throw;
-  }
-}
-
-namespace {
-
 /// The slots, a button each and beside it what is in them.
 class SlotScreen : public GameScreen {
  public:
@@ -153,6 +137,18 @@ class frmPickSaveSlot : public SlotScreen {
 };
 
 }  // namespace
+
+void EnterSlot(Game& game, int slot) {
+  if (!Open(game, slot)) return;
+  try {
+    game.Desk().CloseAll();
+    game.Desk().Open("frmMainScreen");
+  } catch (...) {
+    // The start-up screens come back; a game left open behind them would keep its slot locked.
+    game.CloseSlot();
+    throw;
+  }
+}
 
 SCREEN(frmLoadGame)
 

@@ -1,6 +1,5 @@
 #include "records/world.h"
 #include "session/home.h"
-#include "session/screens/frmLoadGame.h"
 #include "ui/game.h"
 
 namespace grapplemont {

@@ -1,7 +1,6 @@
 #include <array>
 #include <optional>
 
-#include "records/modWresCheck.h"
 #include "report/report.h"
 #include "show/holdshow.h"
 #include "show/recap.h"

@@ -1,6 +1,5 @@
 #include "storylines/screens/screenpeople.h"
 
-#include <algorithm>
 #include <iterator>
 
 #include "records/fields/fields.h"
