@@ -60,6 +60,7 @@ std::string GrudgeOf(const World& world, const AutoCard& card) {
 /// The card of the auto booker with some rows booked anew.
 void Book(World& world, Dice& dice, bool isEvent, std::uint64_t seed, Tally& tally) {
   const int rows = RowsOf(isEvent);
+  world.Segments().Rewrite({});  // what the last show has left may not be booked again
   AutoCard card = BookedBy(world, isEvent, rows, seed);
   ASSERT_EQ("", FaultsOf(world, card, isEvent));
   ASSERT_EQ("", GrudgeOf(world, card));

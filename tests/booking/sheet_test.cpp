@@ -50,7 +50,8 @@ TEST(TelevisionSheet, OpensAsManyRowsAsItsTimeSlotHas) {
   for (const Case& c : kCases) {
     SCOPED_TRACE(c.Slot);
     OnSheet play(OnAir(c.Slot)
-                     .Show("Late Tide", "Sunday", "Harbor 9", [](Show& show) { show.Slot = "P"; })
+                     .Show("Late Tide", "Sunday", "Harbor 9",
+                           [&](Show& show) { show.Slot = *c.Slot == 'P' ? "L" : "P"; })
                      .Game("CWA"));
     const std::string matches = std::to_string(c.Matches), segments = std::to_string(c.Segments);
     EXPECT_EQ(play.Desk.Title(), "Television Booking Sheet For Tidal Force") << "the first today";

@@ -26,27 +26,6 @@ World Peopled() {
       .Promotion("NEW", kSmall);
 }
 
-TEST(LookUps, GiveNamesAndTheirAnswersForNobody) {
-  const World world = Peopled(), empty;
-  EXPECT_EQ("CWA Wrestling", PromotionName(world, 1));
-  EXPECT_EQ("CWA", PromotionInitials(world, 1));
-  EXPECT_EQ("Anvil Valley", DevTerritoryName(world, 1));
-  EXPECT_EQ("None", DevTerritoryName(world, 2));
-  EXPECT_EQ("Ilya Marsh", WorkerName(world, 2));
-  EXPECT_EQ("The Mire", WorkerShortName(world, 2));
-  EXPECT_EQ("Vic Tolliver", StaffName(world, 2));
-  EXPECT_EQ("Ruth Vane", OwnerOf(world, 1)->Name.View());
-  EXPECT_EQ(nullptr, OwnerOf(world, 2));
-  for (const World* nobody : {&world, &empty})
-    for (const int uid : {0, 99, -1, 32767}) {
-      EXPECT_EQ("None", PromotionName(*nobody, uid));
-      EXPECT_EQ("None", PromotionInitials(*nobody, uid));
-      EXPECT_EQ("None", DevTerritoryName(*nobody, uid));
-      EXPECT_EQ("",
-                WorkerName(*nobody, uid) + WorkerShortName(*nobody, uid) + StaffName(*nobody, uid));
-    }
-}
-
 TEST(LookUps, KnowTeamsStablesAndTitlesByName) {
   const World world = Peopled();
   EXPECT_EQ("Mud and Iron", TeamNameOf(world, 1, 2));
@@ -90,22 +69,6 @@ TEST(Uids, AreNotTakenWhileARecordStillNamesThem) {
   EXPECT_EQ(1, NextStaffUid(world));
   world.Promotions()[1].HeadTrainer = 1;
   EXPECT_EQ(2, NextStaffUid(world));
-}
-
-TEST(TextConversions, GoBothWaysAndHaveAnAnswerForWhatIsUnknown) {
-  EXPECT_EQ("Training Camp", PositionText(75));
-  for (const int code : {0, 8, 26, 80, 81, 86, -1})
-    EXPECT_EQ("Unknown", PositionText(code)) << code;
-  EXPECT_EQ("Tweener", DispositionText("T"));
-  EXPECT_EQ("T", DispositionCode("Tweener"));
-  EXPECT_EQ("Written", ContractText("Wri"));
-  for (const char* odd : {"", "X", "f", "Wr"}) {
-    EXPECT_EQ("Unknown", DispositionText(odd));
-    EXPECT_EQ("Unknown", ContractText(odd));
-    EXPECT_EQ("", DispositionCode(odd));
-  }
-  EXPECT_EQ("Global", SizeText(kGlobal));
-  EXPECT_EQ("", SizeText(0));
 }
 
 TEST(TextConversions, TellContractAndStatus) {
@@ -194,17 +157,6 @@ TEST(News, IsDatedTodayAndDropsTheOldestOfAFullMailbox) {
   EXPECT_EQ("Last", world.News()[19001].From.View());
   world.GameInfos().Remove();
   EXPECT_THROW(AddNews(world, "Maeve", "Hello."), WorldFault);
-}
-
-TEST(Positions, AreOnTheRosterOrEarnedByOver) {
-  Worker worker;
-  for (int position = 0; position <= 100; ++position) {
-    worker.Position = position;
-    EXPECT_EQ(position >= 1 && position <= 6, IsOnRoster(worker)) << position;
-    EXPECT_EQ(position >= 81 && position <= 86, IsSentAway(worker)) << position;
-  }
-  for (const auto& [over, earned] : {std::pair{-5, 6}, {30, 5}, {51, 4}, {71, 3}, {81, 2}})
-    EXPECT_EQ(earned, PositionFromOver(over)) << over;
 }
 
 // Which names are seen in a text, and where.

@@ -120,10 +120,6 @@ TEST(Taste, ScoresWorkersByWhatItLooksFor) {
   }
 }
 
-Promotion& Rival(World& world) {
-  return Named(world.Promotions(), "XWF");
-}
-
 TEST(RivalStaffHiring, TriesOncePerMissingPostUntilOneFails) {
   // A Regional promotion wants 2, 1, 1, 1, 1, 1 and 1.
   World world = SmallWorld()

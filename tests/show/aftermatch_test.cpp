@@ -12,7 +12,7 @@ TEST(AfterMatch, SumsUpBeforeItLimits) {
     int Position, Over, Morale, Attitude, Quality, Crowd;
     int OverAfter, MoraleAfter;
   };
-  constexpr Case kCases[] = {{kJobber, 36, 6, 60, 80, 80, 36, 1},     // 3 fits: 6 - 3 - 5 + 3
+  constexpr Case kCases[] = {{kJobber, 36, 6, 60, 80, 80, 39, 1},     // 3 fits: 6 - 3 - 5 + 3
                              {kMainEvent, 40, 50, 0, 66, 0, 42, 50},  // 40 - 1 + 3
                              {4, 34, 50, 0, 91, 0, 42, 50}};          // lifted twice
   for (const Case& c : kCases) {

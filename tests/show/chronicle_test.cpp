@@ -94,7 +94,7 @@ TEST(Matches, AreWrittenDownAsTheyWereFought) {
   EXPECT_EQ(told,
             "1: Bea beat Ash for Crown, new\n3: The Dots beat Gus \\ Hal for Ropes\n"
             "4: Eli beat Fay, feud\n5: Hand 9 beat " +
-                royal.Lost.Str() + "\n6: Gus drew with Hal\n");
+                royal.Lost.Str() + ", feud\n6: Gus drew with Hal\n");
   EXPECT_TRUE(royal.Lost.Str().ends_with(" more")) << "nineteen names find no room: " << told;
   EXPECT_EQ(royal.Winners, 1);
   EXPECT_EQ(royal.Worker[0], 9);

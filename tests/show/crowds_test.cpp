@@ -110,7 +110,8 @@ TEST(EventReport, OfAPayPerViewNeedsASizeThatHoldsOne) {
 TEST(TvReport, CutsToTheSlotsAudienceAndComplainsBelowItsFloor) {
   // A Cult promotion at image 50 draws of 10 on top of 200. Its rival is worth 40, but no viewers
   // that the slot does not reach.
-  constexpr int kCases[][3] = {{150, 150, 0}, {220, 220, 0}, {408, 245, 0}, {409, 245, 1}};
+  constexpr int kCases[][3] = {
+      {150, 150, 0}, {220, 220, 0}, {408, 245, 0}, {409, 245, 0}, {410, 245, 1}};
   for (const auto& [audience, rating, complains] : kCases) {
     const auto network = [](int viewers) { return [=](Network& n) { n.PrimeAudience = viewers; }; };
     World world = SmallWorld()
