@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <span>
 
+#include "records/angles.h"
+
 namespace grapplemont {
 
 namespace {

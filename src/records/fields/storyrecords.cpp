@@ -1,5 +1,7 @@
 #include "records/fields/storyrecords.h"
 
+#include "records/fields/vocabulary.h"
+
 namespace grapplemont {
 
 namespace {
