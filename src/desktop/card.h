@@ -4,6 +4,7 @@
 #include <QList>
 #include <QMouseEvent>
 #include <QWidget>
+#include <vector>
 
 namespace grapplemont::desktop {
 

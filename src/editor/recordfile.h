@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "records/store/table.h"
+#include "records/tables/worldreport.h"
 
 // Record files that came from elsewhere and lie beside the data: what can be read of them, and what
 // is to be said about the rest.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 
 // A line of prose: a text with slots in braces, checked by the build where words/ has it.

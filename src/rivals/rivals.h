@@ -1,8 +1,12 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <map>
+#include <string>
 #include <vector>
 
+#include "records/arithmetic.h"
 #include "records/world.h"
 
 // What all that rivals do has in common.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include "records/world.h"
 
 // People whom the program makes up: to fill a new world, and in the place of the retired.

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "records/checks/checkworld.h"
 #include "records/world.h"

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "records/segments.h"
 #include "records/world.h"
 #include "show/ratings.h"
 

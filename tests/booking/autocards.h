@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "booking/auto/autobooker.h"
 #include "booking/wizard/refusals.h"

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "booking/wizard/segmentcheck.h"
 #include "support/randomworld.h"
 
 namespace grapplemont::test {

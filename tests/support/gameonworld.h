@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "records/store/disk.h"
 #include "records/world.h"

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "booking/wizard/roster.h"
+
 namespace grapplemont {
 
 /// What a sheet offers and asks for before the show can start.

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "booking/wizard/roster.h"
 #include "show/turns.h"
 
 // Interviews: who speaks, about whom, what for.

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "records/segments.h"
+
 // What the lists of a match's later steps offer: codes, in the order of the list. Each looks at
 // what the steps before it have put into the Segment.
 

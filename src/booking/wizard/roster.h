@@ -5,6 +5,7 @@
 
 #include "records/segments.h"
 #include "records/world.h"
+#include "roster/staff.h"
 
 // Whom the player may book.
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 
 #include "editor/datafolder.h"
 #include "editor/screens/screenrecordform.h"
