@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "records/angles.h"
 #include "records/segmentwords.h"
 #include "records/world.h"
 #include "words/segments.h"

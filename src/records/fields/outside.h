@@ -1,7 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <functional>
+#include <initializer_list>
+#include <memory>
 #include <random>
 
 #include "records/fields/fields.h"

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "records/fields/field.h"
+#include "records/fields/vocabulary.h"
 
 // Records that only a running game has: feuds, the Segments of the show being booked, mails,
 // incidents.
