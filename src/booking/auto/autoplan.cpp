@@ -8,6 +8,7 @@
 #include "booking/wizard/refusals.h"
 #include "booking/wizard/roster.h"
 #include "booking/wizard/segmentcheck.h"
+#include "show/matchscore.h"
 #include "storylines/feuds.h"
 #include "storylines/storynames.h"
 #include "storylines/titles.h"
