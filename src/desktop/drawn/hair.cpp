@@ -164,7 +164,11 @@ void PaintMask(Brush& brush, const Likeness& face) {
 }
 
 void PaintOver(Brush& brush, const Likeness& face) {
-  PaintHair(brush, face);
+  const bool hides =
+      face.On == Headwear::Bandana || face.On == Headwear::Brim || face.On == Headwear::FlatCap;
+  QPainterPath shown;
+  shown.addRect(0, hides ? 25 : -20, 100, 120);
+  brush.Within(shown, [&] { PaintHair(brush, face); });
   PaintHeadwear(brush, face);
   PaintGlasses(brush, face);
 }
