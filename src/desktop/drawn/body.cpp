@@ -190,8 +190,6 @@ void PaintClothes(Brush& brush, const Likeness& face) {
   }
 }
 
-}  // namespace
-
 QColor GroundOf(ui::Mood mood, bool inner) {
   switch (mood) {
     case ui::Mood::Face:
@@ -206,14 +204,17 @@ QColor GroundOf(ui::Mood mood, bool inner) {
   return QColor(inner ? 0x424B50 : 0x343B40);
 }
 
+}  // namespace
+
 void PaintGround(Brush& brush, const Likeness& face, bool small) {
-  const QColor outer = GroundOf(face.Person.Shows, false),
-               inner = GroundOf(face.Person.Shows, true);
+  const bool wrestles = Wrestles(face.Person);
+  const ui::Mood mood = wrestles ? face.Person.Shows : ui::Mood::None;
+  const QColor outer = GroundOf(mood, false), inner = GroundOf(mood, true);
   QPainterPath all;
   all.addRect(0, 0, 100, 100);
   brush.Fill(all, small ? inner : outer);
   if (small) return;
-  if (!face.Person.Superstar) return brush.Fill(Shape("E0 50 38 38"), inner);
+  if (!face.Person.Superstar || !wrestles) return brush.Fill(Shape("E0 50 38 38"), inner);
   for (int beam = 0; beam < 8; ++beam) {
     const double from = beam * M_PI / 4 + M_PI / 16, to = from + M_PI / 8;
     brush.Fill(Polygon({{kMiddle, 52},

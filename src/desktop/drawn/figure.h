@@ -8,7 +8,6 @@
 
 namespace grapplemont::desktop {
 
-QColor GroundOf(ui::Mood mood, bool inner);
 void PaintGround(Brush& brush, const Likeness& face, bool small);
 
 /// Neck, shoulders and what is worn.

@@ -148,10 +148,6 @@ Value PickedBy(const Weighted<Value> (&rows)[N], int uid, std::string_view word)
   return rows[Drawn(rows, Lot(uid, word), [](const auto& row) { return row.Weight; })].Is;
 }
 
-bool Wrestles(const ui::Portrait& person) {
-  return person.Wears != Dress::Manager && person.Wears != Dress::Office;
-}
-
 void GiveProportions(Likeness& face) {
   const int uid = face.Person.Uid;
   const bool woman = face.Person.Woman, heavy = face.Person.Heavy;
@@ -296,6 +292,10 @@ void GiveCostume(Likeness& face) {
 }
 
 }  // namespace
+
+bool Wrestles(const ui::Portrait& person) {
+  return person.Wears != Dress::Manager && person.Wears != Dress::Office;
+}
 
 Likeness LikenessOf(const ui::Portrait& person) {
   const int uid = person.Uid;

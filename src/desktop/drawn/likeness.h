@@ -53,6 +53,8 @@ struct Likeness {
   int Eyes, Nose, Mouth, MaskCut;  // a form each
 };
 
+/// False for managers and the office.
+bool Wrestles(const ui::Portrait& person);
 Likeness LikenessOf(const ui::Portrait& person);
 
 }  // namespace grapplemont::desktop
