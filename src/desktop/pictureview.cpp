@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "desktop/drawn/drawn.h"
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
 #include "desktop/views.h"
@@ -79,7 +80,12 @@ PictureView::PictureView(ui::Picture& picture, Stage& stage, QWidget* parent)
   setSizePolicy(policy);
 }
 
+double PictureView::Drawn() const {
+  return ShapeOf(control_.Drawn.Get());
+}
+
 QSize PictureView::sizeHint() const {
+  if (Drawn() > 0) return {static_cast<int>(Px(control_.Height) * Drawn()), Px(control_.Height)};
   if (!full_.isValid() || seeThrough_) return {Px(120), Px(80)};
   const QSize most(Px(kAskedFor.width()), Px(kAskedFor.height()));
   return full_.width() > most.width() || full_.height() > most.height()
@@ -88,15 +94,22 @@ QSize PictureView::sizeHint() const {
 }
 
 QSize PictureView::minimumSizeHint() const {
+  if (Drawn() > 0) return sizeHint();
   return sizeHint().boundedTo({Px(120), Px(80)});
 }
 
 int PictureView::heightForWidth(int width) const {
+  if (Drawn() > 0) return sizeHint().height();
   if (!full_.isValid() || seeThrough_) return Px(80);
   return std::min(sizeHint().height(), width * full_.height() / std::max(1, full_.width()));
 }
 
 void PictureView::Show() {
+  if (Drawn() > 0) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    updateGeometry();
+    return update();
+  }
   const QString file =
       control_.File->empty() ? QString() : OnStage().PictureFile(control_.File.Get());
   if (file == file_) return;
@@ -126,7 +139,11 @@ void PictureView::DrawPicture(QPainter& painter) {
 
 void PictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  if (!seeThrough_ && full_.isValid()) DrawPicture(painter);
+  if (Drawn() > 0) {
+    Draw(painter, QRectF({}, sizeHint()), control_.Drawn.Get());
+  } else if (!seeThrough_ && full_.isValid()) {
+    DrawPicture(painter);
+  }
   if (hasFocus()) DrawFocus(painter, rect(), Px(8), palette());
 }
 

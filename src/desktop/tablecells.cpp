@@ -6,6 +6,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "desktop/drawn/drawn.h"
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
 
@@ -18,6 +19,7 @@ using ui::ColumnKind;
 constexpr int kBarWidth = 56, kBarHeight = 6;
 constexpr int kTagHeight = 19, kTagSide = 6;
 constexpr int kRowButton = 76;
+constexpr int kDrawn = 24;  // high
 
 bool IsFigure(const std::string& text) {
   return !text.empty() && text.find_first_not_of("0123456789.%-") == text.npos &&
@@ -72,7 +74,23 @@ void DrawText(QPainter& painter, const QRect& room, const ui::Cell& cell, Column
   }
 }
 
+/// What is drawn before a cell's text; gives how wide that is with its gap, 0 for nothing.
+int DrawSmall(QPainter* painter, const QRect& room, const ui::Column& column, int key) {
+  const ui::Drawing drawing = column.Draws ? column.Draws(key) : ui::Drawing();
+  const double shape = ShapeOf(drawing);
+  if (shape == 0) return 0;
+  const int width = static_cast<int>(Px(kDrawn) * shape);
+  if (painter)
+    Draw(*painter, QRectF(room.left(), room.center().y() - Px(kDrawn) / 2.0 + 1, width, Px(kDrawn)),
+         drawing);
+  return width + Px(8);
+}
+
 }  // namespace
+
+int DrawnWidth(const ui::Column& column, int key) {
+  return DrawSmall(nullptr, {}, column, key);
+}
 
 bool AlignsRight(ColumnKind kind) {
   return kind == ColumnKind::Number;
@@ -118,8 +136,9 @@ void TableCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
   const ui::Cell& cell = model_.Table().At(index.row(), index.column());
   const ColumnKind kind = model_.Column(index.column()).Kind;
-  const QRect room = option.rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
+  QRect room = option.rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
   painter->save();
+  room.setLeft(room.left() + DrawSmall(painter, room, model_.Column(index.column()), row.Key));
   painter->setFont(TextFont());
   if (IsTag(cell, kind)) {
     DrawTag(*painter, room, cell, c);
@@ -134,8 +153,10 @@ void TableCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
 }
 
 QSize TableCells::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
-  const ColumnKind kind = model_.Column(index.column()).Kind;
-  return {CellWidth(model_.Table().At(index.row(), index.column()), kind), Px(kRowHeight)};
+  const ui::Column& column = model_.Column(index.column());
+  const int drawn = DrawnWidth(column, model_.Table().RowAt(index.row()).Key);
+  return {CellWidth(model_.Table().At(index.row(), index.column()), column.Kind) + drawn,
+          Px(kRowHeight)};
 }
 
 /// The whole of a text that is cut; of a name also how its page is opened.

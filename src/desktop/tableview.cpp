@@ -213,6 +213,7 @@ std::vector<int> TableView::NaturalWidths() const {
       }
     }
     if (longest) width = std::max(width, CellWidth(*longest, kind));
+    if (rows > 0) width += DrawnWidth(model_.Column(column), table_.RowAt(0).Key);
     widths.push_back(width);
   }
   return widths;

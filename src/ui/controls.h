@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "ui/drawings.h"
+
 namespace grapplemont::ui {
 
 /// A value of a control that counts its changes, so that a shell redraws only what has changed.
@@ -155,14 +157,17 @@ class ScrollBar : public Control {
   Handler OnChange;
 };
 
-/// A picture of the folder gfx/, named by its file; it may be clicked when it has a handler.
+/// A picture of the folder gfx/, named by its file, or one that is drawn; it may be clicked when it
+/// has a handler.
 class Picture : public Control {
  public:
   Picture(Screen& screen, std::string name, std::string file = {}, Handler click = {});
   template <class S>
   Picture(Screen& screen, std::string name, std::string file, void (S::*click)())
       : Picture(screen, std::move(name), std::move(file), Bind(screen, click)) {}
-  Property<std::string> File;  // for example "vxm_title.jpg"
+  Property<std::string> File;              // for example "vxm_title.jpg"
+  Property<Drawing> Drawn{Changes(), {}};  // goes before the file
+  int Height = 104;                        // pixels of what is drawn
   Handler OnClick;
 };
 
@@ -206,6 +211,8 @@ struct Column {
   ColumnKind Kind = ColumnKind::Text;
   int Width = 0;  // share of the width; 0: by contents
   std::string Tip = {};
+  /// The small picture before a cell's text, by the key of its row.
+  std::function<Drawing(int key)> Draws = {};
 };
 
 struct Cell {

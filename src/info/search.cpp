@@ -1,0 +1,292 @@
+#include "info/search.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <tuple>
+
+#include "business/networks.h"
+#include "records/fields/vocabulary.h"
+#include "records/modWresCheck.h"
+
+namespace grapplemont {
+
+namespace {
+
+using Kind = Found::Kind;
+
+constexpr int kTypo = 10;       // a wrong letter is worse than any place in the name
+constexpr int kWorkless = 200;  // behind everybody who works somewhere
+
+/// A letter without its accent, small; a blank for what is no letter.
+char Plain(char letter) {
+  static constexpr std::string_view kBare =
+      "aaaaaaaceeeeiiiidnooooo ouuuuypsaaaaaaaceeeeiiiidnooooo ouuuuypy";
+  static_assert(kBare.size() == 0x100 - 0xC0);
+  const auto byte = static_cast<unsigned char>(letter);
+  if (byte >= 0xC0) return kBare[byte - 0xC0];
+  if (byte == 0x8A || byte == 0x9A) return 's';
+  if (byte == 0x8E || byte == 0x9E) return 'z';
+  return byte < 0x80 && std::isalnum(byte) ? static_cast<char>(std::tolower(byte)) : ' ';
+}
+
+/// The words of a text in plain letters, one blank before each.
+std::string PlainWords(std::string_view text) {
+  std::string plain = " ";
+  for (const char letter : text) {
+    const bool joins = letter == '\'' || letter == '.';  // O'Shea, J.T.
+    if (joins) continue;
+    const char bare = Plain(letter);
+    if (bare != ' ' || plain.back() != ' ') plain += bare;
+  }
+  if (plain.size() > 1 && plain.back() == ' ') plain.pop_back();
+  return plain;
+}
+
+/// The fewest letters to put in, leave out, exchange or swap until `word` begins `text`; `most` + 1
+/// for more than that.
+int WrongLetters(std::string_view word, std::string_view text, int most) {
+  constexpr std::size_t kLongest = 24;
+  if (word.size() > kLongest) return most + 1;
+  text = text.substr(0, std::min(kLongest, word.size() + static_cast<std::size_t>(most)));
+  std::array<std::array<int, kLongest + 1>, 3> rows{};
+  for (std::size_t at = 0; at <= word.size(); ++at) rows[0][at] = static_cast<int>(at);
+  int best = rows[0][word.size()];
+  for (std::size_t row = 1; row <= text.size(); ++row) {
+    auto& now = rows[row % 3];
+    const auto &last = rows[(row + 2) % 3], &before = rows[(row + 1) % 3];
+    now[0] = static_cast<int>(row);
+    for (std::size_t at = 1; at <= word.size(); ++at) {
+      now[at] = std::min(
+          {last[at] + 1, now[at - 1] + 1, last[at - 1] + (word[at - 1] == text[row - 1] ? 0 : 1)});
+      const bool swapped =
+          at > 1 && row > 1 && word[at - 1] == text[row - 2] && word[at - 2] == text[row - 1];
+      if (swapped) now[at] = std::min(now[at], before[at - 2] + 1);
+    }
+    best = std::min(best, now[word.size()]);
+  }
+  return std::min(best, most + 1);
+}
+
+/// How many wrong letters a word may have: nobody guesses from three letters.
+int Forgiven(std::size_t letters) {
+  return letters < 4 ? 0 : letters < 7 ? 1 : 2;
+}
+
+/// How far one typed word (a blank before it) is from standing in a name; -1 for not at all.
+int FitOfWord(std::string_view name, std::string_view word, bool forgiving) {
+  if (name.starts_with(word)) return 0;
+  if (name.find(word) != name.npos) return 1;
+  const std::string_view letters = word.substr(1);
+  if (letters.size() > 1 && name.find(letters) != name.npos) return 3;
+  const int most = forgiving ? Forgiven(letters.size()) : 0;
+  int least = most + 1;
+  for (std::size_t at = 0; most > 0 && at != name.npos; at = name.find(' ', at + 1))
+    // Few mistake the first letter, and most names are done with by it.
+    if (name[at + 1] == letters[0] || (letters.size() > 1 && name[at + 1] == letters[1]))
+      least = std::min(least, WrongLetters(letters, name.substr(at + 1), most));
+  return least <= most && most > 0 ? kTypo + least : -1;
+}
+
+std::vector<std::string> TypedWords(std::string_view typed) {
+  const std::string plain = PlainWords(typed);
+  std::vector<std::string> words;
+  for (std::size_t at = 0; at != plain.npos && at + 1 < plain.size();) {
+    const std::size_t next = plain.find(' ', at + 1);
+    words.push_back(plain.substr(at, next - at));
+    at = next;
+  }
+  return words;
+}
+
+int FitOf(std::string_view name, const std::vector<std::string>& words, bool forgiving) {
+  int sum = 0;
+  for (const std::string& word : words) {
+    const int fit = FitOfWord(name, word, forgiving);
+    if (fit < 0) return -1;
+    sum += fit;
+  }
+  return sum;
+}
+
+int StandingOf(const World& world, const Worker& worker) {
+  if (WorksForPlayer(world, worker)) return 100 - worker.Over - 1000;
+  return 100 - worker.Over + (worker.Employer == 0 ? kWorkless : 0);
+}
+
+std::string EmployerOr(const World& world, int uid, std::string_view otherwise) {
+  return uid > 0 && world.FindPromotion(uid) ? PromotionName(world, uid) : std::string(otherwise);
+}
+
+std::string AboutWorker(const World& world, const Worker& worker) {
+  const std::string place = EmployerOr(world, worker.Employer, "Free agent");
+  return worker.Employer == 0 ? place : std::string(PositionText(worker.Position)) + ", " + place;
+}
+
+std::string AboutTitle(const World& world, const Title& title) {
+  const std::string_view holder = title.Reigns[0].Holder;
+  return EmployerOr(world, title.Owner, "Its promotion has closed") + ", " +
+         (holder == kVacantHolder ? "vacant" : "held by " + std::string(holder));
+}
+
+std::string AboutShow(const World& world, const Show& show) {
+  const Network* network = world.FindNetwork(show.Network);
+  return EmployerOr(world, show.Owner, "Off the air") + ", " + std::string(show.Day) +
+         (network ? ", " + std::string(network->Name) : "");
+}
+
+/// A mail has no name: how it begins.
+std::string BeginningOf(std::string_view body) {
+  constexpr std::size_t kShown = 60;
+  if (body.size() <= kShown) return std::string(body);
+  return std::string(body.substr(0, body.rfind(' ', kShown))) + " ...";
+}
+
+std::string_view NameOf(const World& world, Kind kind, int number) {
+  switch (kind) {
+    case Kind::Worker:
+      return world.Workers()[number].Name;
+    case Kind::Promotion:
+      return world.Promotions()[number].Name;
+    case Kind::Title:
+      return world.Titles()[number].Name;
+    case Kind::Show:
+      return world.Shows()[number].Name;
+    case Kind::Event:
+      return world.Events()[number].Name;
+    case Kind::Team:
+      return world.Teams()[number].Name;
+    case Kind::Stable:
+      return world.Stables()[number].Name;
+    case Kind::Staff:
+      return world.AllStaff()[number].Name;
+    case Kind::Network:
+      return world.Networks()[number].Name;
+    case Kind::Sponsor:
+      return world.Sponsors()[number].Name;
+    case Kind::Mail:
+      return world.News()[number].Body;
+  }
+  return {};
+}
+
+}  // namespace
+
+std::string_view KindOfFound(Kind kind) {
+  static constexpr std::string_view kKinds[] = {"Workers",  "Promotions", "Titles",  "Shows",
+                                                "Events",   "Tag Teams",  "Stables", "Staff",
+                                                "Networks", "Sponsors",   "Mail"};
+  return kKinds[static_cast<std::size_t>(kind)];
+}
+
+NameSearch::NameSearch(const World& world) : world_(world) {
+  const auto add = [this](Kind kind, int number, std::string_view name, int standing = 0) {
+    std::string letters = PlainWords(name);
+    if (letters.size() > 1) names_.push_back({kind, number, standing, std::move(letters)});
+  };
+  const auto all = [](const auto& records, auto visit) {
+    for (int number = 1; number <= records.Count(); ++number) visit(number, records[number]);
+  };
+  all(world.Workers(), [&](int number, const Worker& worker) {
+    if (worker.Uid != 0) add(Kind::Worker, number, worker.Name, StandingOf(world, worker));
+  });
+  all(world.Promotions(), [&](int number, const Promotion& one) {
+    if (one.Active)
+      add(Kind::Promotion, number, std::string(one.Name) + " " + std::string(one.Initials),
+          one.Size);
+  });
+  all(world.Titles(), [&](int number, const Title& title) {
+    add(Kind::Title, number, title.Name, title.Owner == world.PlayerUid() ? -1000 : -title.Image);
+  });
+  all(world.Shows(), [&](int number, const Show& show) { add(Kind::Show, number, show.Name); });
+  all(world.Events(),
+      [&](int number, const Event& event) { add(Kind::Event, number, event.Name); });
+  all(world.Teams(),
+      [&](int number, const Team& team) { add(Kind::Team, number, team.Name, -team.Experience); });
+  all(world.Stables(),
+      [&](int number, const Stable& stable) { add(Kind::Stable, number, stable.Name); });
+  all(world.AllStaff(), [&](int number, const Staff& person) {
+    if (person.Uid != 0)
+      add(Kind::Staff, number, person.Name, WorksForPlayer(world, person) ? -1000 : -person.Talent);
+  });
+  all(world.Networks(),
+      [&](int number, const Network& network) { add(Kind::Network, number, network.Name); });
+  all(world.Sponsors(),
+      [&](int number, const Sponsor& sponsor) { add(Kind::Sponsor, number, sponsor.Name); });
+  all(world.News(), [&](int number, const Mail& mail) {
+    add(Kind::Mail, number, std::string(mail.From) + " " + std::string(mail.Body), -number);
+  });
+}
+
+std::vector<Found> NameSearch::Find(std::string_view typed, std::size_t most) const {
+  const std::vector<std::string> words = TypedWords(typed);
+  if (words.empty()) return {};
+  struct Hit {
+    const Name* Of;
+    int Fit;
+  };
+  std::vector<Hit> hits;
+  for (const bool forgiving : {false, true}) {
+    if (forgiving && !hits.empty()) break;
+    for (const Name& name : names_) {
+      if (forgiving && name.Is == Kind::Mail) continue;
+      const int fit = FitOf(name.Letters, words, forgiving);
+      if (fit >= 0) hits.push_back({&name, fit});
+    }
+  }
+  std::stable_sort(hits.begin(), hits.end(), [](const Hit& a, const Hit& b) {
+    return std::tuple(a.Of->Is, a.Fit, a.Of->Standing) <
+           std::tuple(b.Of->Is, b.Fit, b.Of->Standing);
+  });
+  std::vector<Found> found;
+  std::size_t ofKind = 0;
+  for (const Hit& hit : hits) {
+    ofKind = !found.empty() && found.back().Is == hit.Of->Is ? ofKind : 0;
+    if (++ofKind <= most) found.push_back({hit.Of->Is, hit.Of->Number, {}, hit.Fit});
+  }
+  for (Found& one : found) {
+    const std::string_view name = NameOf(world_, one.Is, one.Number);
+    one.Name = one.Is == Kind::Mail ? BeginningOf(name) : std::string(name);
+  }
+  return found;
+}
+
+std::string AboutFound(const World& world, const Found& found) {
+  const int number = found.Number;
+  switch (found.Is) {
+    case Kind::Worker:
+      return AboutWorker(world, world.Workers()[number]);
+    case Kind::Promotion: {
+      const Promotion& one = world.Promotions()[number];
+      return std::string(Says(kSizes, one.Size)) + ", image " + std::to_string(one.Image) + "%";
+    }
+    case Kind::Title:
+      return AboutTitle(world, world.Titles()[number]);
+    case Kind::Show:
+      return AboutShow(world, world.Shows()[number]);
+    case Kind::Event:
+      return EmployerOr(world, world.Events()[number].Owner, "Not held any more");
+    case Kind::Team: {
+      const Team& team = world.Teams()[number];
+      return WorkerName(world, team.Worker1) + ", " + WorkerName(world, team.Worker2);
+    }
+    case Kind::Stable:
+      return EmployerOr(world, world.Stables()[number].Owner, "Broken up");
+    case Kind::Staff: {
+      const Staff& person = world.AllStaff()[number];
+      return std::string(Says(kStaffPositions, person.Position)) + ", " +
+             EmployerOr(world, person.Employer, "out of work");
+    }
+    case Kind::Network:
+      return "Television network";
+    case Kind::Sponsor: {
+      const Sponsor& sponsor = world.Sponsors()[number];
+      return sponsor.Promotion == 0 ? "Free" : EmployerOr(world, sponsor.Promotion, "Free");
+    }
+    case Kind::Mail:
+      return std::string(world.News()[number].From) + ", " + std::string(world.News()[number].Date);
+  }
+  return {};
+}
+
+}  // namespace grapplemont

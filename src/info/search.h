@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "records/world.h"
+
+// Finds whatever has a name in the world by a few typed letters.
+
+namespace grapplemont {
+
+struct Found {
+  enum class Kind {
+    Worker,
+    Promotion,
+    Title,
+    Show,
+    Event,
+    Team,
+    Stable,
+    Staff,
+    Network,
+    Sponsor,
+    Mail
+  };
+  Kind Is;
+  int Number;  // of the record in its file
+  std::string Name;
+  int Fit;  // 0 is best: how far the name is from what was typed
+};
+
+/// The names of a world as they were when this was made. Small and capital letters and accents are
+/// all alike.
+class NameSearch {
+ public:
+  explicit NameSearch(const World& world);
+  /// Names that hold every typed word, the best first, the better known among equals; up to two
+  /// wrong letters a word where too few are right. At most `most` of each kind; none for no
+  /// letters.
+  std::vector<Found> Find(std::string_view typed, std::size_t most) const;
+
+ private:
+  struct Name {
+    Found::Kind Is;
+    int Number;
+    int Standing;  // the smaller the better known
+    std::string Letters;
+  };
+  const World& world_;
+  std::vector<Name> names_;
+};
+
+/// What something found is, for the place beside its name: "Main Event, CWA".
+std::string AboutFound(const World& world, const Found& found);
+/// The heading of its kind: "Workers".
+std::string_view KindOfFound(Found::Kind kind);
+
+}  // namespace grapplemont
