@@ -60,8 +60,8 @@ std::string Window::WhyWaits(const ui::Button& command) const {
   const ScreenView *const stays = Staying(), *const hub = HubView();
   if (!stays || !hub) return {};
   const ui::Reach into = ReachOf(hub->Page(), command);
-  const bool canGo = into == ui::Reach::Away ? CanPress(stays->Page().Cancel)
-                                             : into <= stays->Page().Lets;
+  const bool canGo =
+      into == ui::Reach::Away ? CanPress(stays->Page().Cancel) : into <= stays->Page().Lets;
   return canGo ? std::string() : stays->Page().Stays;
 }
 

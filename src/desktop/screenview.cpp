@@ -258,6 +258,19 @@ void ScreenView::RememberKeyboard() {
   if (focus && isAncestorOf(focus)) keyboard_ = focus;
 }
 
+const ui::Control* ScreenView::KeyboardOn() const {
+  QWidget* const focus = window()->focusWidget();
+  for (ControlView* view : views_)
+    if (focus && (view->Widget() == focus || view->Widget()->isAncestorOf(focus)))
+      return &view->Shows();
+  return nullptr;
+}
+
+void ScreenView::GiveKeyboard(const ui::Control& control) {
+  for (ControlView* view : views_)
+    if (&view->Shows() == &control) view->FocusTarget()->setFocus(Qt::ActiveWindowFocusReason);
+}
+
 void ScreenView::TakeKeyboard() {
   if (keyboard_ && keyboard_->isEnabled() && keyboard_->isVisibleTo(this))
     return keyboard_->setFocus(Qt::ActiveWindowFocusReason);  // as it was, with ring and cursor

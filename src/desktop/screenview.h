@@ -34,6 +34,9 @@ class ScreenView : public QWidget {
   /// Gives the keyboard to what had it last here, else to where one begins.
   void TakeKeyboard();
   void RememberKeyboard();
+  /// The control here that has the keyboard; nullptr for none.
+  const ui::Control* KeyboardOn() const;
+  void GiveKeyboard(const ui::Control& control);
   /// The space bar and Escape; true when the key meant something.
   bool HandleKey(int key);
   bool FocusSearch();

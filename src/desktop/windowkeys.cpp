@@ -97,10 +97,12 @@ void Window::SetZoom(int zoom) {
 
 /// All views are made again: their sizes and colours were taken when they were built.
 void Window::Relook() {
+  const ui::Control* const keyboard = TopView() ? TopView()->KeyboardOn() : nullptr;
   RetireAll();
   ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
   setPalette(QApplication::palette());
   Sync();
+  if (keyboard && TopView()) TopView()->GiveKeyboard(*keyboard);
 }
 
 namespace {

@@ -199,7 +199,8 @@ void SheetScreen::ShowRow() {
   if (segment.Kind == kEmptySegment)
     return txtrow.Write(
         {{Style::Strong, "Row " + std::to_string(record)},
-         {Style::Muted, "Nothing is booked here. Book opens the wizard, opening the row its first step."}});
+         {Style::Muted,
+          "Nothing is booked here. Book opens the wizard, opening the row its first step."}});
   std::vector<ui::Report::Paragraph> told = ToldOf(world(), segment, isEvent_);
   for (std::string& line : DetailsOfRow(world(), segment))
     told.push_back({Style::Line, std::move(line)});
