@@ -89,6 +89,7 @@ void Window::DropGone() {
 /// closed it may have come from one of its widgets.
 void Window::Retire(Layer& layer) {
   if (!layer.View) return;
+  if (top_ == layer.Screen) top_ = nullptr;
   layer.View->Leave();
   if (frame_ && layer.Screen == framed_) {
     // What lies in the frame goes with it.

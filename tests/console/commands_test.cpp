@@ -63,7 +63,9 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
   const std::pair<std::string, std::string> kRows[] = {
       {"fly", "There is no command \"fly\"; \"help\" lists them."},
       {"click", "Write it as \"click NAME\"."},
-      {"click cmddoit now", "Write it as \"click NAME\"."},
+      {"click cmddoit now", "frmSample has no control \"cmddoit now\"."},
+      {"click Off", "\"cmdoff\" is disabled."},
+      {"click Hidden", "frmSample has no control \"Hidden\"."},
       {"pick lstpeople", "Write it as \"pick NAME ROW-or-TEXT\"."},
       {"check chkday maybe", "Write it as \"check NAME on|off\"."},
       {"follow ", "Write it as \"follow NAME\"."},
