@@ -14,6 +14,7 @@ TEST(Commands, WorkTheControls) {
   const std::pair<const char*, Log> kRows[] = {
       {"click cmddoit\n", {"cmddoit"}},
       {"click imgdoor\n", {"imgdoor"}},
+      {"click Do It\nclick Every day\n", {"cmddoit", "chkday"}},
       {"  click \t cmddoit  \n", {"cmddoit"}},
       {"click cmddoit\r\nclick cmddoit\r\n", {"cmddoit", "cmddoit"}},
       {"click cmddoit", {"cmddoit"}},  // the last line lacks its end

@@ -71,11 +71,10 @@ class TheKeys : public testing::Test {
   void HoldMarkAgainstEnter(const std::string& name) {
     SCOPED_TRACE(name);
     Open(name);
-    const std::size_t count = Holders().size();
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0;; ++i) {
       if (Play.Top() != name) Open(name);  // Enter has left it for the hub
       const std::vector<QWidget*> holders = Holders();
-      ASSERT_EQ(holders.size(), count);
+      if (i >= holders.size()) return;
       holders[i]->setFocus(Qt::TabFocusReason);
       Play.Window.Sync();
       SCOPED_TRACE(holders[i]->metaObject()->className());
