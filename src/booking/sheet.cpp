@@ -189,4 +189,33 @@ std::vector<const Worker*> NotOnTheCard(const World& world, bool isEvent) {
   return free;
 }
 
+std::vector<int> AtHand(const World& world, bool isEvent) {
+  std::vector<int> uids;
+  for (const Segment& segment : world.Segments())
+    for (const int uid : EverybodyOf(segment)) {
+      const Worker* worker = world.FindWorker(uid);
+      if (worker && IsAvailable(world, *worker, {isEvent, "All"})) uids.push_back(uid);
+    }
+  return uids;
+}
+
+std::vector<std::string> EmptyRowsOfGone(World& world, bool isEvent,
+                                         const std::vector<int>& wereAtHand) {
+  const std::vector<int> still = AtHand(world, isEvent);
+  const auto has = [](const std::vector<int>& uids, int uid) {
+    return std::ranges::find(uids, uid) != uids.end();
+  };
+  std::vector<std::string> lines;
+  for (int record = 1; record <= world.Segments().Count(); ++record) {
+    const std::vector<int> people = EverybodyOf(world.Segments()[record]);
+    const auto gone = std::ranges::find_if(
+        people, [&](int uid) { return has(wereAtHand, uid) && !has(still, uid); });
+    if (gone == people.end()) continue;
+    lines.push_back(NameOf(world, *gone) + " cannot be booked any more: row " +
+                    std::to_string(record) + " is empty again.");
+    ClearSegment(world.Segments()[record]);
+  }
+  return lines;
+}
+
 }  // namespace grapplemont

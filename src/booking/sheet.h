@@ -63,4 +63,10 @@ std::vector<std::string> DetailsOfRow(const World& world, const Segment& segment
 /// Who may be booked and is not on the card yet, the most popular first.
 std::vector<const Worker*> NotOnTheCard(const World& world, bool isEvent);
 
+/// The uids of those on the card who can be booked as things stand.
+std::vector<int> AtHand(const World& world, bool isEvent);
+/// Empties the rows of those who were at hand and are not any more; gives a line for each.
+std::vector<std::string> EmptyRowsOfGone(World& world, bool isEvent,
+                                         const std::vector<int>& wereAtHand);
+
 }  // namespace grapplemont

@@ -57,7 +57,8 @@ namespace {
 using A = Arguments;
 constexpr std::array<VerbRow, 15> kVerbs = {{
     {Verb::Show, A::MaybeName, "show", "show [NAME]", "the top screen, or all of one control"},
-    {Verb::Click, A::Name, "click", "click NAME", "press a button, a picture or a box"},
+    {Verb::Click, A::Caption, "click", "click NAME",
+     "press a button, a picture or a box, by its name or by what it says"},
     {Verb::Type, A::NameAndMaybeText, "type", "type NAME TEXT",
      "put TEXT into a text box; without TEXT empty it; \\n starts a new line in a long one"},
     {Verb::Pick, A::NameAndText, "pick", "pick NAME ROW-or-TEXT",
@@ -103,8 +104,8 @@ bool Fits(const VerbRow& row, const Command& command) {
     case A::None:
     case A::MaybeName:
       return noText;
-    case A::Name:
-      return !command.Name.empty() && noText;
+    case A::Caption:
+      return !command.Name.empty();
     case A::NameAndText:
       return !command.Name.empty() && !command.Text.empty();
     case A::NameAndMaybeText:
@@ -133,7 +134,8 @@ std::optional<Command> ReadCommand(std::string_view line, std::string& why) {
   }
   Command command{row->Is, {}, {}};
   const bool named = row->Takes != A::None && row->Takes != A::Text && row->Takes != A::MaybeText;
-  if (named) command.Name = TakeWord(line);
+  if (named && row->Takes != A::Caption) command.Name = TakeWord(line);
+  if (row->Takes == A::Caption) command.Name = WithoutBlanks(line);
   command.Text = line;
   if (Fits(*row, command)) return command;
   why = "Write it as \"" + std::string(row->Form) + "\".";

@@ -43,7 +43,7 @@ enum class Verb {
 };
 
 /// What stands behind a verb.
-enum class Arguments { None, MaybeName, Name, NameAndText, NameAndMaybeText, Text, MaybeText };
+enum class Arguments { None, MaybeName, Caption, NameAndText, NameAndMaybeText, Text, MaybeText };
 
 struct VerbRow {
   Verb Is;
@@ -60,7 +60,7 @@ inline const VerbRow& RowOf(Verb verb) {
 
 struct Command {
   Verb Is = Verb::Show;
-  std::string Name;
+  std::string Name;  // of a control, or to click it what it says
   std::string Text;  // as it was typed, with its blanks
 };
 

@@ -43,6 +43,21 @@ std::string Slide(ui::Desk& desk, ui::Screen& screen, const Command& command) {
   return ui::Slide(desk, screen, command.Name, *value);
 }
 
+/// The name of the control that a click means: of that name, else the only one that says this.
+std::string Clicked(const ui::Screen& screen, const std::string& nameOrWords) {
+  if (screen.Find(nameOrWords)) return nameOrWords;
+  const ui::Control* found = nullptr;
+  for (const ui::Control* control : screen.Controls()) {
+    const ui::Kind kind = control->Is();
+    const bool says =
+        kind == ui::Kind::Button || kind == ui::Kind::CheckBox || kind == ui::Kind::OptionButton;
+    if (!says || !control->Visible || control->Text.Get() != nameOrWords) continue;
+    if (found) return nameOrWords;
+    found = control;
+  }
+  return found ? found->Name() : nameOrWords;
+}
+
 /// What answers a box, and how that is told. In the order of Box::Kind.
 struct Answering {
   Verb One, Other;
@@ -121,7 +136,7 @@ void Console::Perform(const Command& command) {
   ui::Screen& top = *Top();
   switch (command.Is) {
     case Verb::Click:
-      return Refuse(ui::Click(*this, top, command.Name));
+      return Refuse(ui::Click(*this, top, Clicked(top, command.Name)));
     case Verb::Type:
       return Refuse(ui::Type(*this, top, command.Name, Typed(top, command)));
     case Verb::Pick:

@@ -30,21 +30,13 @@ std::string Take(Options& options, const std::string& name, const std::string& v
 
 constexpr const char* kProgram = "grapplemont-console: ";
 constexpr const char* kGreeting =
-    "Grapplemont on a terminal. Name a control to work it, for example: click cmdbegin.\n"
+    "Grapplemont on a terminal. Name a control to work it, or what a button says: click Begin.\n"
     "The command \"help\" lists all there are.\n\n";
-
-std::string HomeOf(const Options& options, Disk& disk) {
-  if (!options.Home) return FindHome(disk);
-  // Behind the "/." a link to a folder counts as the folder.
-  if (disk.Look(*options.Home + "/.") != Disk::Kind::Folder)
-    throw std::runtime_error("\"" + *options.Home + "\" is no folder.");
-  return *options.Home;
-}
 
 void Play(const Options& options, Console& console) {
   const std::unique_ptr<Disk> disk = RealDisk();
   Game::Options choice;
-  choice.Home = HomeOf(options, *disk);
+  choice.Home = options.Home ? HomeAt(*disk, *options.Home) : FindHome(*disk);
   if (options.Today) choice.Today = [day = *options.Today] { return day; };
   choice.Seed = options.Seed;
   Game game(console, *disk, choice);

@@ -69,10 +69,19 @@ void MessageBox::Answer(std::optional<int> answer) {
   loop_.quit();
 }
 
-void MessageBox::PressEnter() {
+PushButton& MessageBox::Chosen() const {
   for (PushButton* choice : choices_)
-    if (choice == window()->focusWidget()) return choice->click();
-  usual_->click();
+    if (choice == window()->focusWidget()) return *choice;
+  return *usual_;
+}
+
+bool MessageBox::focusNextPrevChild(bool next) {
+  const bool moved = Veil::focusNextPrevChild(next);
+  for (PushButton* choice : choices_) {
+    choice->SetGold(choice == &Chosen());
+    choice->SetEnter(choice == &Chosen());
+  }
+  return moved;
 }
 
 /// "Y" answers like a click on "Yes".
@@ -87,7 +96,7 @@ void MessageBox::keyPressEvent(QKeyEvent* event) {
   if (event->isAutoRepeat()) return;
   const int key = event->key();
   if (key == Qt::Key_Escape) return Dismiss();
-  if (IsEnter(key)) return PressEnter();
+  if (IsEnter(key)) return Chosen().click();
   if (key == Qt::Key_Left || key == Qt::Key_Right) {
     focusNextPrevChild(key == Qt::Key_Right);
   } else {

@@ -13,7 +13,8 @@ namespace grapplemont::desktop {
 class MessageBox : public Veil {
  public:
   MessageBox(QWidget* ground, const QString& title, const QString& text);
-  /// Enter means the button that is usual, Escape the answer of a dismissal.
+  /// Enter means the gold button: the usual one, until keys have led to another. Escape means the
+  /// answer of a dismissal.
   void AddButton(const QString& caption, int answer, bool usual);
   void AddLine(const QString& offered, Stage& stage);
   /// Waits; the answer of the button that was pressed, nothing when the box was dismissed.
@@ -23,10 +24,12 @@ class MessageBox : public Veil {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   void Answer(std::optional<int> answer);
-  void PressEnter();
+  /// What Enter presses.
+  PushButton& Chosen() const;
   void PressLetter(const QString& letter);
 
   QVBoxLayout* rows_;

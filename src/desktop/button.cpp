@@ -42,8 +42,9 @@ BareButton::BareButton(QWidget* parent, const QString& caption) : QAbstractButto
   setFocusPolicy(Qt::TabFocus);
 }
 
+/// Some desktops have Enter press whatever button has the keyboard; here it is the page's.
 void BareButton::keyPressEvent(QKeyEvent* event) {
-  if (PressesEnter(*event)) return click();
+  if (IsEnter(event->key())) return event->ignore();
   QAbstractButton::keyPressEvent(event);
 }
 
@@ -68,14 +69,14 @@ QFont PushButton::CaptionFont() const {
   return TextFont(kUsualText, gold_ ? QFont::DemiBold : QFont::Normal);
 }
 
-int PushButton::TailWidth() const {
+int PushButton::TailWidth(bool enter) const {
   return (badge_.isEmpty() ? 0 : Px(kGap) + BadgeWidth()) +
-         (enter_ ? Px(kGap) + Px(kEnterWidth) : 0);
+         (enter ? Px(kGap) + Px(kEnterWidth) : 0);
 }
 
 QSize PushButton::sizeHint() const {
   const int words = QFontMetrics(CaptionFont()).horizontalAdvance(text());
-  return QSize(words + 2 * Px(kSide) + TailWidth(), Px(32)).expandedTo(least_);
+  return QSize(words + 2 * Px(kSide) + TailWidth(gold_ || enter_), Px(32)).expandedTo(least_);
 }
 
 PushButton::Paints PushButton::PaintsNow() const {
@@ -97,10 +98,10 @@ void PushButton::paintEvent(QPaintEvent*) {
   DrawBox(painter, rect(), fill, edge, Px(6));
 
   const QFontMetrics metrics(CaptionFont());
-  const int room = width() - 2 * Px(8) - TailWidth();
+  const int room = width() - 2 * Px(8) - TailWidth(enter_);
   const QString caption = metrics.elidedText(text(), Qt::ElideRight, room);
   const int words = metrics.horizontalAdvance(caption);
-  double x = (width() - words - TailWidth()) / 2.0;
+  double x = (width() - words - TailWidth(enter_)) / 2.0;
   painter.setFont(CaptionFont());
   painter.setPen(ink);
   painter.drawText(QRectF(x, 0, words + 2, height()), Qt::AlignVCenter | Qt::AlignLeft, caption);

@@ -6,8 +6,8 @@
 
 namespace grapplemont::desktop {
 
-/// A button without a look of its own, which Enter presses as the space bar does. It takes the
-/// keyboard by Tab alone, so that Enter goes on meaning the page's main button after a click.
+/// A button without a look of its own. It takes the keyboard by Tab alone, and then the space bar
+/// presses it; Enter goes on meaning the page's main button.
 class BareButton : public QAbstractButton {
  public:
   BareButton(QWidget* parent, const QString& caption);
@@ -39,7 +39,7 @@ class PushButton : public BareButton {
   explicit PushButton(QWidget* parent = nullptr, const QString& caption = {});
 
   void SetGold(bool gold) { Change(gold_, gold); }
-  /// Shows the sign of the Enter key behind the caption.
+  /// Shows the sign of the Enter key behind the caption. A gold button keeps room for it.
   void SetEnter(bool enter) { Change(enter_, enter); }
   /// In drawn pixels.
   void SetLeast(int width, int height) { Change(least_, {Px(width), Px(height)}); }
@@ -61,7 +61,7 @@ class PushButton : public BareButton {
   Paints PaintsNow() const;
   QFont CaptionFont() const;
   /// What stands behind the caption, with the gaps before it.
-  int TailWidth() const;
+  int TailWidth(bool enter) const;
 
   bool gold_ = false, enter_ = false, ring_ = false;
   QSize least_;

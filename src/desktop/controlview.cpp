@@ -30,12 +30,21 @@ constexpr auto kMakers = std::to_array<ControlView* (*)(ui::Control&, Stage&, QW
 void ControlView::Refresh() {
   if (seen_ == shows_.Revision()) return;
   seen_ = shows_.Revision();
-  QWidget* widget = Widget();
-  widget->setEnabled(shows_.Enabled);
-  widget->setToolTip(TipText(shows_.Tip));
+  ShowUse();
   Show();
-  widget->setVisible(shows_.Visible);
+  Widget()->setVisible(shows_.Visible);
   if (companion_) companion_->setVisible(shows_.Visible);
+}
+
+void ControlView::Hold(const std::string& why) {
+  if (why == held_) return;
+  held_ = why;
+  ShowUse();
+}
+
+void ControlView::ShowUse() {
+  Widget()->setEnabled(shows_.Enabled && held_.empty());
+  Widget()->setToolTip(TipText(held_.empty() ? shows_.Tip.Get() : held_));
 }
 
 ControlView* MakeView(ui::Control& control, Stage& stage, QWidget* parent) {

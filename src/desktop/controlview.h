@@ -35,6 +35,8 @@ class ControlView {
   virtual QWidget* Widget() = 0;
   /// Brings the widget up to date if the control has changed.
   void Refresh();
+  /// Keeps it from use for a reason of the window's own; empty gives it back.
+  void Hold(const std::string& why);
   /// Called before the screen's views are taken away.
   virtual void Leave() {}
   /// Where the keyboard goes when it goes to this control.
@@ -63,7 +65,10 @@ class ControlView {
  private:
   ui::Control& shows_;
   Stage& stage_;
+  void ShowUse();
+
   unsigned seen_ = 0;
+  std::string held_;  // why it cannot be used although its control can
   QWidget* companion_ = nullptr;
 };
 

@@ -1,5 +1,6 @@
 #include <QKeySequence>
 #include <algorithm>
+#include <ranges>
 
 #include "desktop/window.h"
 #include "ui/acts.h"
@@ -17,14 +18,22 @@ bool CanPress(const ui::Button* button) {
   return button && button->Enabled && button->Visible;
 }
 
+/// What stands in the top bar moves time, or is about who one is.
+ui::Reach ReachOf(const ui::Page& hub, const ui::Button& command) {
+  for (const auto& group : hub.Side)
+    for (const auto& side : group.Commands)
+      if (side.Press == &command) return side.Into;
+  return ui::Reach::Today;
+}
+
 }  // namespace
 
-bool Window::LeaveUpTo(const ui::Screen& hub) {
+bool Window::LeaveUpTo(const ui::Screen& screen) {
   if (box_) return false;
   for (int page = 0; page < kMostPages; ++page) {
     ui::Screen* const top = desk_.Top();
-    if (!top || !desk_.Holds(hub)) return false;
-    if (top == &hub) return true;
+    if (!top || !desk_.Holds(screen)) return false;
+    if (top == &screen) return true;
     ScreenView* const view = TopView();
     if (!view || &view->Shows() != top || !CanPress(view->Page().Cancel)) return false;
     view->HandleKey(Qt::Key_Escape);
@@ -33,24 +42,47 @@ bool Window::LeaveUpTo(const ui::Screen& hub) {
   return false;
 }
 
-void Window::PressHub(ui::Button& command) {
-  const ui::Screen& hub = command.Parent();
-  if (!LeaveUpTo(hub)) {
-    if (const ScreenView* top = TopView(); top && !box_ && !top->Page().Cancel)
-      Hint(*this, "This has to be seen through to its end first.");
-    return;
+ScreenView* Window::Staying() const {
+  for (const auto& screen : desk_.Screens() | std::views::reverse) {
+    if (screen.get() == framed_) break;
+    ScreenView* const view = ViewFor(screen.get());
+    if (view && !view->Page().Stays.empty()) return view;
   }
+  return nullptr;
+}
+
+const ui::Screen& Window::Ground() const {
+  const ScreenView* const stays = Staying();
+  return stays ? stays->Shows() : *framed_;
+}
+
+std::string Window::WhyWaits(const ui::Button& command) const {
+  const ScreenView *const stays = Staying(), *const hub = HubView();
+  if (!stays || !hub) return {};
+  const ui::Reach into = ReachOf(hub->Page(), command);
+  const bool canGo =
+      into == ui::Reach::Away ? CanPress(stays->Page().Cancel) : into <= stays->Page().Lets;
+  return canGo ? std::string() : stays->Page().Stays;
+}
+
+/// A room opens above what stays and leads back to it. What leaves the game leaves all that.
+void Window::PressHub(ui::Button& command) {
+  if (const std::string why = WhyWaits(command); !why.empty()) return Hint(*this, Shown(why));
+  const ui::Screen& hub = command.Parent();
+  const bool away = ReachOf(HubView()->Page(), command) == ui::Reach::Away;
+  const ui::Screen& ground = away ? hub : Ground();
+  if (!LeaveUpTo(ground)) return;
   Act([&] { return ui::Click(desk_, command.Parent(), command.Name()); });
-  if (!desk_.Holds(hub)) return;
-  if (const ui::Screen* page = Above(hub)) commandOf_[page->Name()] = command.Name();
+  if (!desk_.Holds(ground)) return;
+  if (const ui::Screen* page = Above(ground)) commandOf_[page->Name()] = command.Name();
   Sync();
 }
 
-/// The screen that lies on the hub; nullptr for none.
-const ui::Screen* Window::Above(const ui::Screen& hub) const {
+/// The screen that lies on this one; nullptr for none.
+const ui::Screen* Window::Above(const ui::Screen& screen) const {
   const auto& screens = desk_.Screens();
   const auto found =
-      std::ranges::find_if(screens, [&](const auto& screen) { return screen.get() == &hub; });
+      std::ranges::find_if(screens, [&](const auto& held) { return held.get() == &screen; });
   return found == screens.end() || found + 1 == screens.end() ? nullptr : (found + 1)->get();
 }
 
@@ -58,7 +90,7 @@ const ui::Screen* Window::Above(const ui::Screen& hub) const {
 /// same name.
 const ui::Button* Window::PresentCommand() const {
   const ScreenView* hub = HubView();
-  const ui::Screen* page = hub ? Above(hub->Shows()) : nullptr;
+  const ui::Screen* page = hub ? Above(Ground()) : nullptr;
   if (!page) return nullptr;
   const auto remembered = commandOf_.find(page->Name());
   for (const auto& group : hub->Page().Side)
@@ -82,7 +114,10 @@ bool Window::PressSideKey(const QKeyEvent& event) {
     for (const auto& command : group.Commands) {
       const QKeySequence keys(Shown(command.Key));
       if (keys.isEmpty() || keys[0].key() != event.key()) continue;
-      if (CanPress(command.Press)) PressHub(*command.Press);
+      if (CanPress(command.Press))
+        PressHub(*command.Press);
+      else if (!command.Press->Tip->empty())
+        Hint(*this, Shown(command.Press->Tip.Get()));
       return true;
     }
   return false;
@@ -97,7 +132,8 @@ std::vector<Finder::Entry> Window::FinderEntries() {
   };
   const auto addCommand = [&](ui::Button* command, const std::string& where,
                               const std::string& key) {
-    add(command, where, key, [this, command] { PressHub(*command); });
+    if (WhyWaits(*command).empty())
+      add(command, where, key, [this, command] { PressHub(*command); });
   };
   if (ScreenView* const view = TopView(); view && desk_.Top())
     for (ui::Button* action : view->Page().Actions)
@@ -124,8 +160,10 @@ void Window::OpenFinder() {
     const std::function<void()> run = chosen ? chosen->Run : std::function<void()>();
     finder_ = nullptr;
     if (ScreenView* top = TopView()) top->TakeKeyboard();
+    ShowEnter();
     if (run) run();
   };
+  ShowEnter();
 }
 
 }  // namespace grapplemont::desktop

@@ -253,7 +253,14 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   const std::vector<ControlView*> views(views_.begin() + static_cast<std::ptrdiff_t>(before),
                                         views_.end());
   TableView* table = OnlyTable(views);
-  if (table && !box.Title.empty()) head->addWidget(table->TakeSearchRow(), 4);
+  if (table && !box.Title.empty()) {
+    QWidget* const search = table->TakeSearchRow();
+    // The panel below keeps its place when it comes and goes with the rows.
+    QSizePolicy policy = search->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    search->setSizePolicy(policy);
+    head->addWidget(search, 4);
+  }
   cards_.push_back({card, views});
   into->addWidget(card, ShareOf(box));
 }

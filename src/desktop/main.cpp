@@ -1,6 +1,10 @@
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
+#include <cstring>
+#include <iostream>
+#include <optional>
+#include <stdexcept>
 
 #include "desktop/look.h"
 #include "desktop/window.h"
@@ -12,9 +16,33 @@ namespace {
 
 using namespace grapplemont;
 
-int Play(QApplication& app) {
+constexpr const char* kUsage =
+    "usage: grapplemont [--home DIR]\n"
+    "\n"
+    "  --home DIR  the folder with data/, gfx/ and the slots; without it, the folder the game\n"
+    "              is started in if that has data/, else your user's data folder\n"
+    "  --help      these lines\n";
+
+struct Arguments {
+  std::optional<std::string> Home;
+  bool Sensible = true;
+};
+
+Arguments Read(int count, char** words) {
+  Arguments read;
+  for (int i = 1; i < count; ++i) {
+    if (std::strcmp(words[i], "--home") == 0 && i + 1 < count) {
+      read.Home = words[++i];
+    } else {
+      read.Sensible = false;
+    }
+  }
+  return read;
+}
+
+int Play(QApplication& app, const std::optional<std::string>& named) {
   const std::unique_ptr<Disk> disk = RealDisk();
-  const std::string home = FindHome(*disk);
+  const std::string home = named ? HomeAt(*disk, *named) : FindHome(*disk);
   const QString folder = QString::fromStdString(home);
   app.setWindowIcon(QIcon(folder + "/gfx/icon.png"));
 
@@ -35,7 +63,9 @@ int Play(QApplication& app) {
   window.show();
   desk.Event([&] { desk.Open("frmTitleScreen"); });
   window.Sync();
-  if (desk.Empty()) return 1;
+  if (desk.Empty())
+    throw std::runtime_error("The game could not start from the folder \"" + home +
+                             "\": its pictures belong into \"" + home + "/gfx\".");
   const int result = QApplication::exec();
   desk.CloseAll();
   return result;
@@ -44,14 +74,25 @@ int Play(QApplication& app) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QApplication app(argc, argv);
+  for (int i = 1; i < argc; ++i)
+    if (std::strcmp(argv[i], "--help") == 0) {
+      std::cout << kUsage;
+      return 0;
+    }
+  QApplication app(argc, argv);  // takes its own arguments out
   QApplication::setApplicationName("Grapplemont");
   QApplication::setDesktopFileName("grapplemont");
+  const Arguments arguments = Read(argc, argv);
+  if (!arguments.Sensible) {
+    std::cerr << kUsage;
+    return 2;
+  }
   grapplemont::desktop::ReadDesktop();
   try {
-    return Play(app);
+    return Play(app, arguments.Home);
   } catch (const std::exception& fault) {
-    QMessageBox::critical(nullptr, "Grapplemont", fault.what());
+    std::cerr << "grapplemont: " << fault.what() << "\n";
+    QMessageBox::critical(nullptr, "Grapplemont", QString::fromStdString(fault.what()));
     return 1;
   }
 }

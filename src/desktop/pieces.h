@@ -56,9 +56,10 @@ QMenu* NewMenu(QWidget* parent, const QString& name = {});
 inline bool IsEnter(int key) {
   return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
-/// Enter as it is pressed, not as it is held.
-inline bool PressesEnter(const QKeyEvent& event) {
-  return IsEnter(event.key()) && !event.isAutoRepeat();
+/// Of a widget that takes Enter for what is typed in it, instead of leaving it to the page.
+inline constexpr const char* kKeepsEnter = "keepsEnter";
+inline bool KeepsEnter(const QWidget* widget) {
+  return widget && widget->property(kKeepsEnter).toBool();
 }
 
 }  // namespace grapplemont::desktop

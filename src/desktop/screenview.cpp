@@ -132,8 +132,9 @@ void ScreenView::BuildPage() {
   const bool cover = screen_->Is() == ui::Role::Cover;
   const int side = cover ? kCoverSide : kPageSide;
   auto* rows = NewLayout<QVBoxLayout>(this, kGap, {side, cover ? side : 18, side, side});
-  rows->addLayout(BuildHead(true));
+  rows->addLayout(BuildHead());
   BuildBody(rows);
+  BuildActions(head_);  // last in the order of Tab, too: what a page is about comes first
   const bool bare = cover && HasTitlePicture() && page_.Actions.empty();
   title_->setVisible(!bare);
   // The only table of a page has its search line beside the page's title.
@@ -143,7 +144,7 @@ void ScreenView::BuildPage() {
 
 void ScreenView::BuildDialog() {
   auto* rows = NewLayout<QVBoxLayout>(this, kGap);
-  rows->addLayout(BuildHead(false));
+  rows->addLayout(BuildHead());
   BuildBody(rows);
   auto* foot = NewLayout<QHBoxLayout>(nullptr, 12);
   foot->addStretch(1);
@@ -158,8 +159,8 @@ void ScreenView::BuildWait() {
     if (control->Is() == ui::Kind::Label) rows->addWidget(Add(*control), 0, Qt::AlignHCenter);
 }
 
-/// Title and facts at the left, actions at the right.
-QLayout* ScreenView::BuildHead(bool withActions) {
+/// Title and facts; there is room for actions at their right.
+QLayout* ScreenView::BuildHead() {
   head_ = NewLayout<QHBoxLayout>(nullptr, 12);
   auto* words = NewLayout<QVBoxLayout>(nullptr, 1);
   title_ = new WrappedLabel(this, {}, TextFont(19, QFont::DemiBold));
@@ -171,7 +172,6 @@ QLayout* ScreenView::BuildHead(bool withActions) {
     words->addWidget(facts);
   }
   head_->addLayout(words, 1);
-  if (withActions) BuildActions(head_);
   return head_;
 }
 
@@ -239,8 +239,18 @@ void ScreenView::Leave() {
   for (ControlView* view : views_) view->Leave();
 }
 
-void ScreenView::SetOnTop(bool onTop) {
-  for (ButtonView* main : mains_) main->SetEnter(onTop && main->Shows().Enabled);
+ui::Button* ScreenView::MainNow() const {
+  ui::Button* seen = nullptr;
+  for (ui::Button* main : {page_.Main, page_.Then}) {
+    if (!main || !main->Visible) continue;
+    if (main->Enabled) return main;
+    if (!seen) seen = main;
+  }
+  return seen;
+}
+
+void ScreenView::SetEnter(const ui::Button* pressed) {
+  for (ButtonView* main : mains_) main->SetEnter(&main->Shows() == pressed);
 }
 
 void ScreenView::RememberKeyboard() {
@@ -248,9 +258,22 @@ void ScreenView::RememberKeyboard() {
   if (focus && isAncestorOf(focus)) keyboard_ = focus;
 }
 
+const ui::Control* ScreenView::KeyboardOn() const {
+  QWidget* const focus = window()->focusWidget();
+  for (ControlView* view : views_)
+    if (focus && (view->Widget() == focus || view->Widget()->isAncestorOf(focus)))
+      return &view->Shows();
+  return nullptr;
+}
+
+void ScreenView::GiveKeyboard(const ui::Control& control) {
+  for (ControlView* view : views_)
+    if (&view->Shows() == &control) view->FocusTarget()->setFocus(Qt::ActiveWindowFocusReason);
+}
+
 void ScreenView::TakeKeyboard() {
   if (keyboard_ && keyboard_->isEnabled() && keyboard_->isVisibleTo(this))
-    return keyboard_->setFocus(Qt::OtherFocusReason);
+    return keyboard_->setFocus(Qt::ActiveWindowFocusReason);  // as it was, with ring and cursor
   if (screen_->Is() != ui::Role::Hub)
     for (ControlView* view : views_) {
       const ui::Kind kind = view->Shows().Is();
@@ -267,11 +290,22 @@ bool ScreenView::Press(ui::Button* button) {
   return true;
 }
 
+bool ScreenView::PressCancel() {
+  const std::string lost = page_.Loses ? page_.Loses() : std::string();
+  if (lost.empty()) return Press(page_.Cancel);
+  stage_.Act([&]() -> std::string {
+    if (!stage_.Desk().Ask("Leave?", lost, ui::Default::No)) return {};
+    return ui::Click(stage_.Desk(), *screen_, page_.Cancel->Name());
+  });
+  return true;
+}
+
 bool ScreenView::HandleKey(int key) {
-  if (IsEnter(key)) return Press(page_.Main) || Press(page_.Then);
+  const bool hub = screen_->Is() == ui::Role::Hub;
   // Where there is only one way to go, the space bar turns the page as well.
   if (key == Qt::Key_Space && !page_.Cancel) return Press(page_.Main);
-  return key == Qt::Key_Escape && Press(page_.Cancel);
+  // From the hub nothing leads back but the end of the game, which is no slip of the hand.
+  return key == Qt::Key_Escape && !hub && PressCancel();
 }
 
 bool ScreenView::FocusSearch() {

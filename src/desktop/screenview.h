@@ -24,12 +24,20 @@ class ScreenView : public QWidget {
   void Refresh();
   /// Remembers what is to be remembered; the view is taken away next.
   void Leave();
-  /// Whether the screen has the player's attention; then its main button bears the Enter sign.
-  void SetOnTop(bool onTop);
+  /// What Enter does here, if it can be pressed: Main, or Then in its place; nullptr when neither
+  /// is to be seen.
+  ui::Button* MainNow() const;
+  /// Shows the Enter sign on this button, if it is a main one of the page.
+  void SetEnter(const ui::Button* pressed);
+  /// False when the button cannot be pressed.
+  bool Press(ui::Button* button);
   /// Gives the keyboard to what had it last here, else to where one begins.
   void TakeKeyboard();
   void RememberKeyboard();
-  /// Enter and Escape; true when the key meant something.
+  /// The control here that has the keyboard; nullptr for none.
+  const ui::Control* KeyboardOn() const;
+  void GiveKeyboard(const ui::Control& control);
+  /// The space bar and Escape; true when the key meant something.
   bool HandleKey(int key);
   bool FocusSearch();
   /// How large a dialog wants to be, in drawn pixels; invalid: as its contents are.
@@ -43,7 +51,7 @@ class ScreenView : public QWidget {
   void BuildPage();
   void BuildDialog();
   void BuildWait();
-  QLayout* BuildHead(bool withActions);
+  QLayout* BuildHead();
   void BuildBody(QVBoxLayout* into);
   void BuildActions(QBoxLayout* into);
   std::vector<ui::Button*> ActionsInOrder() const;
@@ -53,7 +61,7 @@ class ScreenView : public QWidget {
   bool HasTitlePicture() const;
   /// Makes a view of the control here and gives its widget.
   QWidget* Add(ui::Control& control);
-  bool Press(ui::Button* button);
+  bool PressCancel();
 
   std::shared_ptr<ui::Screen> screen_;
   Stage& stage_;
@@ -62,7 +70,7 @@ class ScreenView : public QWidget {
   std::vector<LayoutBuilder::CardContents> cards_;
   QLabel* title_ = nullptr;
   QBoxLayout* head_ = nullptr;
-  std::vector<ButtonView*> mains_;  // what Enter presses, the first that can be seen
+  std::vector<ButtonView*> mains_;  // Main and Then
   unsigned seen_ = 0;
   Backdrop backdrop_;
   ui::Picture* behind_ = nullptr;

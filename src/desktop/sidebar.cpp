@@ -146,6 +146,10 @@ void SideBar::Refresh() {
   for (Command* command : commands_) command->Refresh();
 }
 
+void SideBar::Hold(const std::function<std::string(const ui::Button& command)>& why) {
+  for (Command* command : commands_) command->Hold(why(command->Presses()));
+}
+
 void SideBar::SetNow(const ui::Button* present) {
   for (Command* command : commands_) command->SetNow(&command->Presses() == present);
 }

@@ -34,6 +34,8 @@ class SideBar : public QWidget {
   std::function<void(ui::Button& command)> Pressed;
   std::function<void()> Search, Home;
   void Refresh();
+  /// Keeps each command from use for the reason that is given for it; empty for none.
+  void Hold(const std::function<std::string(const ui::Button& command)>& why);
   /// The command whose page is open; none: nullptr.
   void SetNow(const ui::Button* command);
 

@@ -143,8 +143,9 @@ QSize TableGrid::sizeHint() const {
   return {Px(240), heading_->sizeHint().height() + rows * Px(kRowHeight) + 2};
 }
 
+/// Whatever is in it: a panel keeps its size when its rows change.
 QSize TableGrid::minimumSizeHint() const {
-  const int rows = std::clamp(model_.rowCount(), 2, 4);
+  const int rows = std::clamp(model_.List().Room, 2, 3);
   return {Px(160), heading_->sizeHint().height() + rows * Px(kRowHeight) + 2};
 }
 
@@ -221,9 +222,8 @@ void TableGrid::keyPressEvent(QKeyEvent* event) {
     return bar->setValue(bar->value() + (key == Qt::Key_Left ? -1 : 1) * Px(40));
   }
   const int row = CurrentRow();
-  if (IsEnter(key))
-    return model_.List().OnOpen && row >= 0 && !event->isAutoRepeat() ? Opened(row)
-                                                                      : event->ignore();
+  if (IsEnter(key) && event->modifiers().testFlag(Qt::ControlModifier))
+    return model_.List().OnOpen && row >= 0 && !event->isAutoRepeat() ? Opened(row) : void();
   if (key == Qt::Key_Space) return row >= 0 ? Picked(row) : void();
   const QString letters = event->text();
   const bool plain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));

@@ -95,6 +95,7 @@ void TableView::BuildSearchRow() {
   search_->setMinimumWidth(Px(96));
   search_->setMaximumWidth(Px(240));
   search_->setClearButtonEnabled(true);
+  search_->setProperty(kKeepsEnter, true);
   search_->setPlaceholderText(SearchHint(control_));
   search_->installEventFilter(this);
   columns_->setObjectName(name + "_columns");

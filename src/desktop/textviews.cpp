@@ -57,6 +57,7 @@ class NotesView : public ViewOf<QPlainTextEdit, ui::TextBox> {
  public:
   NotesView(ui::TextBox& box, Stage& stage, QWidget* parent) : ViewOf(box, stage, parent) {
     setTabChangesFocus(true);
+    setProperty(kKeepsEnter, true);
     document()->setDocumentMargin(Px(10));
     setPlaceholderText(Shown(box.Hint));
     setMinimumHeight(Px(96));

@@ -142,8 +142,13 @@ void TopBar::Refresh() {
   for (ControlView* view : views_) view->Refresh();
 }
 
-void TopBar::SetEnter(bool enter) {
-  if (main_) main_->SetEnter(enter && main_->isEnabled());
+void TopBar::SetEnter(const ui::Button* pressed) {
+  if (main_) main_->SetEnter(&main_->Shows() == pressed);
+}
+
+void TopBar::Hold(const std::string& why) {
+  for (ControlView* view : views_)
+    if (view->Shows().Is() == ui::Kind::Button) view->Hold(why);
 }
 
 void TopBar::paintEvent(QPaintEvent*) {

@@ -17,8 +17,10 @@ class TopBar : public QWidget {
   TopBar(const ui::Page& page, Stage& stage, QWidget* parent);
   std::function<void(ui::Button& action)> Pressed;
   void Refresh();
-  /// Whether Enter means the main action at present.
-  void SetEnter(bool enter);
+  /// Shows the Enter sign on the main action if it is this button.
+  void SetEnter(const ui::Button* pressed);
+  /// Keeps the actions from use for this reason; empty gives them back.
+  void Hold(const std::string& why);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -34,10 +34,12 @@ Window::Window(WindowDesk& desk, Options options)
   resize(kUsualSize);
   if (const QByteArray place = settings_.Place(); !place.isEmpty()) restoreGeometry(place);
   qApp->installEventFilter(this);
+  connect(qApp, &QApplication::focusChanged, this, [this] { ShowEnter(); });
 }
 
 Window::~Window() {
   qApp->removeEventFilter(this);
+  qApp->disconnect(this);
   // A field that is left tells what was typed in it; nobody listens any more.
   syncing_ = true;
   qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
@@ -87,6 +89,7 @@ void Window::DropGone() {
 /// closed it may have come from one of its widgets.
 void Window::Retire(Layer& layer) {
   if (!layer.View) return;
+  if (top_ == layer.Screen) top_ = nullptr;
   layer.View->Leave();
   if (frame_ && layer.Screen == framed_) {
     // What lies in the frame goes with it.
@@ -152,7 +155,7 @@ HubFrame& Window::FrameOf(ui::Screen& hub) {
   frame_->Side().Pressed = [this](ui::Button& command) { PressHub(command); };
   frame_->Side().Search = [this] { OpenFinder(); };
   frame_->Side().Home = [this] {
-    if (framed_) LeaveUpTo(*framed_);
+    if (framed_) LeaveUpTo(Ground());
   };
   frame_->Top().Pressed = [this](ui::Button& action) { PressHub(action); };
   full_->addWidget(frame_);
@@ -167,6 +170,7 @@ void Window::Sync() {
   const Scene scene = Survey();
   if (scene.Base) ShowNow(scene);
   syncing_ = false;
+  ShowEnter();
 }
 
 void Window::ShowNow(const Scene& scene) {
@@ -176,6 +180,8 @@ void Window::ShowNow(const Scene& scene) {
     frame_->Room().setCurrentWidget(base);
     frame_->Refresh();
     frame_->Side().SetNow(PresentCommand());
+    frame_->Side().Hold([this](const ui::Button& command) { return WhyWaits(command); });
+    frame_->Top().Hold(Staying() ? Staying()->Page().Stays : std::string());
   }
   base->Refresh();
   full_->setCurrentWidget(framed ? frame_ : static_cast<QWidget*>(base));
@@ -188,15 +194,10 @@ void Window::ShowNow(const Scene& scene) {
     layer.Over->raise();
     top = layer.View;
   }
-  for (const Layer& layer : layers_)
-    if (layer.View && layer.View != top) layer.View->SetOnTop(false);
-  const bool hubOnTop = scene.Dialogs.empty() && scene.Base == scene.Hub;
-  if (framed) frame_->Top().SetEnter(hubOnTop);
-  top->SetOnTop(true);
   if (box_) box_->raise();
-  if (top_ == &top->Shows()) return;
+  const bool isNew = top_ != &top->Shows();
   top_ = &top->Shows();
-  if (!box_) top->TakeKeyboard();
+  if (isNew && !box_) top->TakeKeyboard();
 }
 
 ScreenView* Window::ViewFor(const ui::Screen* screen) const {
@@ -228,10 +229,12 @@ int Window::AnswerOf(const std::string& title, const std::string& text, const QS
   const QPointer<MessageBox> before = box_;
   const bool busy = std::exchange(busy_, false);
   box_ = &box;
+  ShowEnter();
   const int answer = box.Run().value_or(0);
   box_ = before;
   busy_ = busy;
-  if (focus && focus->isVisible()) focus->setFocus(Qt::OtherFocusReason);
+  if (focus && focus->isVisible()) focus->setFocus(Qt::ActiveWindowFocusReason);
+  ShowEnter();
   if (line) *line = Keep(box.Line()).Text;
   return answer;
 }

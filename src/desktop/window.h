@@ -95,9 +95,15 @@ class Window : public QMainWindow, public Stage {
 
   // The hub's commands, in hubcommands.cpp.
   void PressHub(ui::Button& command);
-  /// Leaves what lies above the hub by its Cancel buttons; false when something stays.
-  bool LeaveUpTo(const ui::Screen& hub);
-  const ui::Screen* Above(const ui::Screen& hub) const;
+  /// Leaves what lies above the screen by its Cancel buttons; false when something stays.
+  bool LeaveUpTo(const ui::Screen& screen);
+  /// The topmost page above the hub that stays while rooms are visited; nullptr for none.
+  ScreenView* Staying() const;
+  /// What rooms open above: a page that stays, else the hub. Requires a hub.
+  const ui::Screen& Ground() const;
+  /// Why a command of the hub waits at present; empty when it does not.
+  std::string WhyWaits(const ui::Button& command) const;
+  const ui::Screen* Above(const ui::Screen& screen) const;
   const ui::Button* PresentCommand() const;
   /// Whether the side bar may be used: no dialog lies over it.
   bool HubInReach() const;
@@ -112,7 +118,12 @@ class Window : public QMainWindow, public Stage {
     std::function<void()> Run;
   };
   std::vector<OwnCommand> OwnCommands();
-  bool HandleCommonKey(const QKeyEvent& event);
+  bool HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event);
+  /// What Enter presses at present; nullptr for nothing.
+  ui::Button* EnterButton() const;
+  void PressEnter();
+  /// The sign of the Enter key stands on what it presses, and nowhere else.
+  void ShowEnter();
   void TurnColours();
   void SetZoom(int zoom);
   void Relook();

@@ -3,18 +3,52 @@
 #include <QKeyEvent>
 #include <algorithm>
 
-#include "desktop/look.h"
+#include "desktop/pieces.h"
 #include "desktop/window.h"
 
 // The keys that mean the same everywhere, and input that comes at the wrong time.
 
 namespace grapplemont::desktop {
 
-/// What no widget has wanted: Enter and Escape are the top screen's.
+/// What no widget has wanted: Escape is the top screen's, and Enter with Ctrl is Enter.
 void Window::keyPressEvent(QKeyEvent* event) {
   ScreenView* top = TopView();
   if (!top || box_ || finder_ || acting_ > 0 || event->isAutoRepeat()) return;
+  if (IsEnter(event->key())) return PressEnter();
   if (!top->HandleKey(event->key())) QMainWindow::keyPressEvent(event);
+}
+
+/// A page has its own main action. Above the hub one without goes on to the hub's, unless something
+/// is being typed: a name that is finished with Enter must not end the day.
+ui::Button* Window::EnterButton() const {
+  const ScreenView *top = TopView(), *hub = HubView();
+  if (!top || box_ || finder_) return nullptr;
+  if (ui::Button* const main = top->MainNow()) return main->Enabled ? main : nullptr;
+  if (!hub || top->Shows().Is() != ui::Role::Page || qobject_cast<QLineEdit*>(focusWidget()))
+    return nullptr;
+  ui::Button* const next = hub->MainNow();
+  return next && next->Enabled && WhyWaits(*next).empty() ? next : nullptr;
+}
+
+void Window::PressEnter() {
+  ScreenView& top = *TopView();
+  if (ui::Button* const button = EnterButton()) {
+    if (&button->Parent() == &top.Shows())
+      top.Press(button);
+    else
+      PressHub(*button);
+  } else if (const ui::Button* const main = top.MainNow(); main && !main->Enabled) {
+    Hint(*this, main->Tip->empty() ? Shown(main->Text.Get()) + " cannot be pressed now."
+                                   : Shown(main->Tip.Get()));
+  }
+}
+
+void Window::ShowEnter() {
+  if (syncing_) return;
+  const ui::Button* const pressed = KeepsEnter(focusWidget()) ? nullptr : EnterButton();
+  for (const Layer& layer : layers_)
+    if (layer.View) layer.View->SetEnter(pressed);
+  if (frame_) frame_->Top().SetEnter(pressed);
 }
 
 /// What the window does by itself, with Ctrl and a key or by search.
@@ -31,9 +65,14 @@ std::vector<Window::OwnCommand> Window::OwnCommands() {
       {{Qt::Key_0}, "Text as the desktop has it", "Ctrl 0", [this] { SetZoom(0); }}};
 }
 
-bool Window::HandleCommonKey(const QKeyEvent& event) {
+bool Window::HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event) {
   if (box_ || finder_ || acting_ > 0) return false;
   const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+  if (modifiers == Qt::NoModifier && IsEnter(event.key())) {
+    if (!TopView() || KeepsEnter(&typedIn)) return false;
+    if (!event.isAutoRepeat()) PressEnter();
+    return true;
+  }
   if (modifiers == Qt::NoModifier) return PressSideKey(event);
   if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier)) return false;
   if (event.key() == Qt::Key_F) return TopView() && TopView()->FocusSearch();
@@ -58,10 +97,12 @@ void Window::SetZoom(int zoom) {
 
 /// All views are made again: their sizes and colours were taken when they were built.
 void Window::Relook() {
+  const ui::Control* const keyboard = TopView() ? TopView()->KeyboardOn() : nullptr;
   RetireAll();
   ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
   setPalette(QApplication::palette());
   Sync();
+  if (keyboard && TopView()) TopView()->GiveKeyboard(*keyboard);
 }
 
 namespace {
@@ -97,7 +138,7 @@ bool Window::eventFilter(QObject* watched, QEvent* event) {
     return QMainWindow::eventFilter(watched, event);
   const auto* widget = static_cast<QWidget*>(watched);
   const bool ours = widget->window() == this;
-  return ours && HandleCommonKey(*static_cast<QKeyEvent*>(event));
+  return ours && HandleCommonKey(*widget, *static_cast<QKeyEvent*>(event));
 }
 
 }  // namespace grapplemont::desktop

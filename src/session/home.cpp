@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <stdexcept>
 
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
@@ -66,6 +67,13 @@ std::string FindHome(Disk& disk) {
   CopyFolder(disk, installed + "/data", user + "/data.new");
   disk.Rename(user + "/data.new", user + "/data");
   return user;
+}
+
+std::string HomeAt(Disk& disk, const std::string& folder) {
+  // Behind the "/." a link to a folder counts as the folder.
+  if (folder.empty() || disk.Look(folder + "/.") != Disk::Kind::Folder)
+    throw std::runtime_error("\"" + folder + "\" is no folder.");
+  return folder;
 }
 
 std::vector<std::string> WaitingPictures(Disk& disk, const std::string& pictureFolder, int set) {

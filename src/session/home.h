@@ -12,6 +12,8 @@ namespace grapplemont {
 /// The folder that holds data/, gfx/ and the slots: the working directory if it has data/, else the
 /// user's data folder, filled from the installed files the first time.
 std::string FindHome(Disk& disk);
+/// A home that was named; throws std::runtime_error when it is no folder.
+std::string HomeAt(Disk& disk, const std::string& folder);
 
 /// The pictures of a gallery that are there: set 0 is the program's own "VXM_load1.jpg" to
 /// "VXM_load4.jpg", sets 1 to 4 are "VXM_Set1_01.jpg" to "VXM_Set1_10.jpg" and so on.

@@ -113,7 +113,7 @@ class GameScreen : public ui::Screen {
  protected:
   World& world() { return game_.World(); }
   /// The actions, then the way back, which Escape presses; then `main`, which Enter presses.
-  /// Without one Enter goes back, too.
+  /// Without one Enter goes back, too; Main may be taken off, which leaves Enter to the hub.
   ui::Page PageOf(ui::Box body, ui::Label* facts = nullptr, std::vector<ui::Button*> actions = {},
                   ui::Button* main = nullptr);
   /// For a screen that has controls behind the way back, of which this is the first.

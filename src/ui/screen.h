@@ -64,25 +64,37 @@ inline Box Spacer() {
   return {};
 }
 
+/// How far a command of the hub reaches: its room only tells, or changes the company, or what is on
+/// today; Away leaves the game.
+enum class Reach { Tells, Company, Today, Away };
+
 /// A group of the hub's commands in the side bar.
 struct SideGroup {
   struct Command {
     Button* Press;
     std::string Key = {};  // "F2"
+    Reach Into = Reach::Company;
   };
   std::string Title;
   std::vector<Command> Commands;
 };
 
 /// A screen's arrangement. Facts is the line under the title. Actions stand right of the title, in
-/// order; Main is gold, stands last and is what Enter does; Then takes its part while Main is
-/// hidden; Cancel is what Escape does. Main and Cancel need not be among Actions.
+/// order; Main is gold, stands last and is what Enter does, whatever has the keyboard; Then takes
+/// its part while Main is hidden; Cancel is what Escape does. Main and Cancel need not be among
+/// Actions. On a page above the hub that has no Main, Enter does what the hub's Main does.
 struct Page {
   Label* Facts = nullptr;
   std::vector<Button*> Actions = {};
   Button* Main = nullptr;
   Button* Then = nullptr;
   Button* Cancel = nullptr;
+  /// What Escape would lose, as a question that it asks first; empty while there is nothing.
+  std::function<std::string()> Loses = {};
+  /// Why the page stays while rooms of the hub are visited: those that reach up to Lets open above
+  /// it and lead back, the others wait. Empty: who goes to a room leaves the page.
+  std::string Stays = {};
+  Reach Lets = Reach::Company;
   bool Large = false;  // a dialog that wants nearly the whole window, whatever is in it
   Box Body = {};
   // The hub alone: its commands, and what the top bar always says.

@@ -94,7 +94,9 @@ TEST(IncidentScreen, FiresWithoutABuyOutWhomTheContractDoesNotProtect) {
   desk.Open("frmMainScreen");
   EXPECT_FALSE(desk.Enabled("cmdfire"));
   EXPECT_EQ(desk.Tip("cmdfire"), "The contract does not allow it.");
+  EXPECT_FALSE(desk.Visible("lbldone"));
   desk.Click("cmdignore");
+  EXPECT_EQ(desk.Text("lbldone"), "What Bram Okafor did was ignored.");
   const int money = backstage.Play.World().Player().Money;
   desk.ExpectAsk("Fire?", "Are you sure you wish to fire Ilya Marsh?", false);
   desk.Click("cmdfire");
@@ -105,6 +107,8 @@ TEST(IncidentScreen, FiresWithoutABuyOutWhomTheContractDoesNotProtect) {
   EXPECT_FALSE(backstage.Waits());
   EXPECT_EQ(backstage.Who("Ilya Marsh").Employer, 0);
   EXPECT_EQ(backstage.Play.World().Player().Money, money);
+  EXPECT_TRUE(
+      desk.Text("lblfacts").ends_with(" What Bram Okafor did was ignored. Ilya Marsh was fired."));
 }
 
 TEST(IncidentScreen, GoesOnWhereItWasClosed) {

@@ -14,6 +14,7 @@ TEST(Commands, WorkTheControls) {
   const std::pair<const char*, Log> kRows[] = {
       {"click cmddoit\n", {"cmddoit"}},
       {"click imgdoor\n", {"imgdoor"}},
+      {"click Do It\nclick Every day\n", {"cmddoit", "chkday"}},
       {"  click \t cmddoit  \n", {"cmddoit"}},
       {"click cmddoit\r\nclick cmddoit\r\n", {"cmddoit", "cmddoit"}},
       {"click cmddoit", {"cmddoit"}},  // the last line lacks its end
@@ -63,7 +64,9 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
   const std::pair<std::string, std::string> kRows[] = {
       {"fly", "There is no command \"fly\"; \"help\" lists them."},
       {"click", "Write it as \"click NAME\"."},
-      {"click cmddoit now", "Write it as \"click NAME\"."},
+      {"click cmddoit now", "frmSample has no control \"cmddoit now\"."},
+      {"click Off", "\"cmdoff\" is disabled."},
+      {"click Hidden", "frmSample has no control \"Hidden\"."},
       {"pick lstpeople", "Write it as \"pick NAME ROW-or-TEXT\"."},
       {"check chkday maybe", "Write it as \"check NAME on|off\"."},
       {"follow ", "Write it as \"follow NAME\"."},

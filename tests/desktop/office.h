@@ -55,6 +55,7 @@ class DeskPage : public ui::Screen {
             .Actions = {&cmddone, &cmdback},
             .Main = &cmddone,
             .Cancel = &cmdback,
+            .Stays = WhyItStays,
             .Body = ui::Rows(
                 {ui::Group("Fields", {ui::Field("Name", txtname), ui::Field("Notes", txtnotes),
                                       ui::Field("Kind", cmbkind), ui::Field("Price", hsprice)}),
@@ -84,6 +85,7 @@ class DeskPage : public ui::Screen {
 
  public:
   bool AsksBeforeItGoes = false;
+  std::string WhyItStays;  // before it is opened
   ui::Label lblfacts{*this, "lblfacts", "Everything at hand"};
   ui::TextBox txtname{*this, "txtname", "", 12};
   ui::TextBox txtnotes{*this, "txtnotes"};
@@ -147,8 +149,9 @@ class Hub : public ui::Screen {
   ui::Page Layout() override {
     return {.Main = &cmdnext,
             .Cancel = &cmdquit,
-            .Side = {{"Rooms", {{&cmdpeople, "F2"}, {&cmddesk, "F4"}, {&cmdlater, "F5"}}},
-                     {"", {{&cmdquit}}}},
+            .Side = {{"Rooms",
+                      {{&cmdpeople, "F2"}, {&cmddesk, "F4", ui::Reach::Today}, {&cmdlater, "F5"}}},
+                     {"", {{&cmdquit, "", ui::Reach::Away}}}},
             .Top = {&txtdate, &lblimage},
             .TopActions = {&cmdnext}};
   }

@@ -45,12 +45,14 @@ TEST_F(TheWindow, OpensPagesFromTheSideBarAndLeavesThemForOthers) {
   EXPECT_EQ(Play.Top(), "frmPeople");
   EXPECT_TRUE(IsNow("cmdpeople"));
   EXPECT_FALSE(IsNow("cmddesk"));
-  EXPECT_FALSE(BearsEnter("cmdnext"));
+  EXPECT_TRUE(BearsEnter("cmdnext")) << "the page has no main action of its own";
   Play.Click("cmddesk");
   EXPECT_EQ(Play.Top(), "frmDesk");
   EXPECT_EQ(Play.Desk.Screens().size(), 2U);
   EXPECT_EQ(Notes, Log({"hub again"}));
   EXPECT_TRUE(IsNow("cmddesk"));
+  EXPECT_TRUE(BearsEnter("cmddone"));
+  EXPECT_FALSE(BearsEnter("cmdnext"));
   EXPECT_FALSE(Play.Sees("lstpeople"));
   Play.Key(Qt::Key_F2);
   EXPECT_EQ(Play.Top(), "frmPeople");
@@ -81,10 +83,58 @@ TEST_F(TheWindow, TakesEnterForMainAndEscapeForCancel) {
   EXPECT_EQ(Notes, Log({"done"}));
   for (int i = 0; i < 40 && Play.FocusName() != "cmdmore"; ++i) Play.Key(Qt::Key_Tab);
   Play.Key(Qt::Key_Return);
-  EXPECT_EQ(Play.Top(), "frmMore") << "a button that was reached by Tab has Enter";
+  EXPECT_EQ(Notes, Log({"done", "done"})) << "whatever has the keyboard";
+  Play.Key(Qt::Key_Space);
+  ASSERT_EQ(Play.Top(), "frmMore");
   Play.Key(Qt::Key_Escape);
+  EXPECT_EQ(Play.FocusName(), "cmdmore");
+  Play.Key(Qt::Key_L, Qt::ControlModifier);
+  EXPECT_EQ(Play.FocusName(), "cmdmore") << "though all was drawn anew";
   Play.Key(Qt::Key_Escape);
   EXPECT_EQ(Play.Top(), "frmHub");
+  Play.Key(Qt::Key_Escape);
+  EXPECT_EQ(Play.Top(), "frmHub") << "nothing leads back from the hub";
+}
+
+TEST_F(TheWindow, SaysWhyEnterDoesNothing) {
+  DeskPage& page = OpenDesk();
+  page.cmddone.Enabled = false;
+  page.cmddone.Tip = "Nothing is chosen yet.";
+  Play.Window.Sync();
+  EXPECT_FALSE(BearsEnter("cmddone"));
+  EXPECT_FALSE(BearsEnter("cmdnext")) << "a page with an action of its own never ends the day";
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Play.TextOf("hint"), "Nothing is chosen yet.");
+  EXPECT_EQ(Notes, Log());
+}
+
+TEST_F(TheWindow, OpensRoomsAboveAPageThatStaysAndComesBackToIt) {
+  auto page = std::make_unique<DeskPage>(Play.Desk, Notes);
+  page->WhyItStays = "First things first.";
+  Play.Open(std::move(page));
+  Play.See("cmdask")->setFocus(Qt::TabFocusReason);
+  for (const char* command : {"cmddesk", "cmdnext"}) {
+    EXPECT_FALSE(Play.See(command)->isEnabled()) << command;
+    EXPECT_TRUE(Play.See(command)->toolTip().contains("First things first.")) << command;
+  }
+  Play.Key(Qt::Key_F4);
+  EXPECT_EQ(Play.TextOf("hint"), "First things first.");
+  EXPECT_EQ(Play.Desk.Screens().size(), 2U);
+  Play.Key(Qt::Key_F2);
+  ASSERT_EQ(Play.Top(), "frmPeople");
+  EXPECT_EQ(Play.Desk.Screens().size(), 3U);
+  EXPECT_TRUE(IsNow("cmdpeople"));
+  EXPECT_FALSE(BearsEnter("cmdnext"));
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Play.Top(), "frmPeople");
+  Play.Key(Qt::Key_F2);
+  EXPECT_EQ(Play.Desk.Screens().size(), 3U) << "one room at a time";
+  Play.Key(Qt::Key_Escape);
+  EXPECT_EQ(Play.Top(), "frmDesk");
+  EXPECT_EQ(Play.FocusName(), "cmdask");
+  EXPECT_EQ(Notes, Log({"page again", "page again"}));
+  Play.Click("cmdback");
+  EXPECT_TRUE(Play.See("cmddesk")->isEnabled());
 }
 
 TEST_F(TheWindow, HandsEnterOnWhenMainIsGone) {
@@ -136,6 +186,9 @@ TEST_F(TheWindow, AsksAndTakesTheAnswerByKeyOrClick) {
   Play.AtNextBox([&] {
     EXPECT_EQ(Play.TextOf("boxtext"), "Are you sure?\nReally?");
     Play.Key(Qt::Key_Left);  // to No, and round again
+    EXPECT_TRUE(BearsEnter("boxno"));
+    EXPECT_FALSE(BearsEnter("boxyes"));
+    EXPECT_FALSE(BearsEnter("cmddone")) << "one sign in the window";
     Play.Key(Qt::Key_Return);
   });
   Play.Click("cmdask");

@@ -46,13 +46,6 @@ void Visit(ScriptDesk& desk, const std::string& name) {
   desk.Close(screen);
 }
 
-constexpr const char* kBeforeGame[] = {
-    "frmTitleScreen",  "frmDisclaimer",   "frmGameMenu",   "frmCredits",        "frmCreditsXtra",
-    "frmNewGame",      "frmLoadGame",     "frmWait",       "frmLoadingScreens", "frmEditor",
-    "frmEditWres",     "frmEditPromo",    "frmEditOwners", "frmEditStaff",      "frmEditTeams",
-    "frmEditStables",  "frmEditBelts",    "frmEditTv",     "frmEditEvents",     "frmEditNetworks",
-    "frmEditSponsors", "frmEditMaintain", "frmEditMerge",  "frmEditImport",     "frmEditTables"};
-
 TEST(EveryScreen, OpensInARichWorldAndInOneOfThePlayersPromotionAlone) {
   const auto look = [](World world) {
     GameOnWorld play(std::move(world));

@@ -4,7 +4,7 @@
 
 namespace grapplemont {
 
-/// A page on which Enter does nothing, for lists to look things up in.
+/// A page without a main action, for lists to look things up in.
 inline ui::Page WithoutMain(ui::Page page) {
   page.Main = nullptr;
   return page;

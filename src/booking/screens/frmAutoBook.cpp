@@ -38,8 +38,8 @@ class frmAutoBook : public GameScreen {
              ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(1),
                        ui::Group("What it may come to", {lblrating, lblmissing}), ui::Spacer()})
                  .Grow(2)}),
-        &lblfacts, {}, &cmdbook);
-    page.Actions = {&cmdback, &cmdagain, &cmdsheet, &cmdbook};
+        &lblfacts, {}, &cmdsheet);
+    page.Actions = {&cmdback, &cmdagain, &cmdbook, &cmdsheet};
     return page;
   }
 

@@ -24,6 +24,10 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     page.Main = &cmdstep;
     page.Then = &cmdcomplete;
     page.Cancel = &cmdexit;
+    page.Loses = [this]() -> std::string {
+      if (wizard_.Step == 0) return {};
+      return "What you have chosen for this segment is not on the sheet yet. Leave without it?";
+    };
     std::vector<ui::Box> rows;
     for (int step = 0; step < kRows; ++step)
       rows.push_back(ui::Columns({ui::Grow(At(txtstep, step), 3), ui::Grow(At(txtdesc, step), 5),

@@ -85,7 +85,7 @@ ui::Page SheetScreen::Layout() {
                      ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblwarnings})
           .Grow()};
   for (ui::Box& below : BelowRows()) left.push_back(std::move(below));
-  return PageOf(
+  ui::Page page = PageOf(
       ui::Columns(
           {ui::Rows(std::move(left)).Grow(5),
            ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(5),
@@ -94,6 +94,8 @@ ui::Page SheetScreen::Layout() {
                                            cmdstats, cmdteams, cmdtitles, cmdturns, cmdnotepad})})
                .Grow(2)}),
       &lblfacts, std::move(actions), &cmddoshow);
+  page.Stays = "Not while today's show is being booked: it comes first, or is cancelled.";
+  return page;
 }
 
 void SheetScreen::ShowOpened() {
@@ -107,6 +109,7 @@ int SheetScreen::OpenRows() {
 }
 
 void SheetScreen::Return() {
+  DropGone();
   Title = SheetHeading(world(), isEvent_);
   lblfacts.Text = Facts();
   lblwarn.Text = SheetWarning(world(), isEvent_);
@@ -114,6 +117,13 @@ void SheetScreen::Return() {
   ShowForecast();
   ShowCounts();
   FillShort(lstfree, NotOnTheCard(world(), isEvent_));
+  atHand_ = AtHand(world(), isEvent_);
+}
+
+/// A room that was visited may have let somebody go who is booked.
+void SheetScreen::DropGone() {
+  const std::vector<std::string> dropped = EmptyRowsOfGone(world(), isEvent_, atHand_);
+  if (!dropped.empty()) desk().Say("Booking", Joined(dropped, "\n"));
 }
 
 void SheetScreen::ShowForecast() {
@@ -189,7 +199,8 @@ void SheetScreen::ShowRow() {
   if (segment.Kind == kEmptySegment)
     return txtrow.Write(
         {{Style::Strong, "Row " + std::to_string(record)},
-         {Style::Muted, "Nothing is booked here. Press Book, or Enter to begin at once."}});
+         {Style::Muted,
+          "Nothing is booked here. Book opens the wizard, opening the row its first step."}});
   std::vector<ui::Report::Paragraph> told = ToldOf(world(), segment, isEvent_);
   for (std::string& line : DetailsOfRow(world(), segment))
     told.push_back({Style::Line, std::move(line)});

@@ -52,6 +52,7 @@ class SheetScreen : public GameScreen {
  private:
   const Segment& Row(int record) { return world().Segments()[record]; }
   int OpenRows();
+  void DropGone();
   void FillRows();
   CellColumns<SheetRow> Table();
   ui::ListBox::Row RowOf(int record);
@@ -70,6 +71,7 @@ class SheetScreen : public GameScreen {
   using K = ui::ColumnKind;
   const bool isEvent_;
   grapplemont::ShowForecast forecast_;
+  std::vector<int> atHand_;  // who could be booked when the sheet was last shown
 
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstrows;

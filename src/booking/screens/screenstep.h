@@ -22,7 +22,7 @@ class WizardHost {
 
 /// The step that the wizard stands at: a dialog over it. At its left is what has been chosen so
 /// far, at its right the step; Back leaves without storing, Done stores and shows the wizard, Next
-/// stores and goes straight on to the next step, as Enter and a double click in a list do.
+/// stores and goes straight on to the next step, as Enter does and a double click in a list.
 class StepScreen : public ui::Screen {
  public:
   StepScreen(Game& game, WizardHost& host);

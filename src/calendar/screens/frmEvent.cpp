@@ -31,7 +31,7 @@ class frmEvent : public GameScreen {
                                ui::Spacer()})
                          .Grow(2)}),
         &lblfacts, {&cmddrop});
-    page.Main = nullptr;  // Enter does nothing
+    page.Main = nullptr;  // Enter is the hub's
     return page;
   }
 

@@ -1,6 +1,7 @@
 #include <array>
 
 #include "calendar/incidents.h"
+#include "calendar/screens/calendarscreens.h"
 #include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "roster/leaving.h"
@@ -18,6 +19,8 @@ class frmIncident : public ui::Screen {
   explicit frmIncident(Game& game)
       : Screen(game.Desk(), "frmIncident", "Backstage", ui::Role::Dialog), game_(game) {
     txtincident.Brief = true;
+    lbldone.Visible = false;
+    lbldone.Colour = ui::Tone::Muted;
   }
 
   ui::Page Layout() override {
@@ -28,7 +31,7 @@ class frmIncident : public ui::Screen {
     page.Actions.insert(page.Actions.end(), {&cmdignore, &cmdaccept});
     page.Main = &cmdaccept;
     page.Cancel = &cmdignore;
-    page.Body = ui::Rows({txtincident, lblabout});
+    page.Body = ui::Rows({lbldone, txtincident, lblabout});
     return page;
   }
 
@@ -80,8 +83,12 @@ class frmIncident : public ui::Screen {
 
   Worker* Culprit() { return world().FindWorker(world().Incidents()[1].Uid); }
 
-  void Next() {
+  /// Goes on to the next, with a line of what was decided; empty where there was nothing to decide.
+  void Next(const std::string& done) {
     CloseIncident(world());
+    lbldone.Text = done;
+    lbldone.Visible = !done.empty();
+    if (!done.empty()) NoteOnMainScreen(game_, done);
     ShowFirst();
   }
 
@@ -95,12 +102,23 @@ class frmIncident : public ui::Screen {
     if (!desk().Ask("Fire?", "Are you sure you wish to fire " + worker->Name.Str() + "?",
                     ui::Default::No))
       return;
+    const std::string done = worker->Name + " was fired.";
     ReleaseWorker(world(), *worker);
-    Next();
+    Next(done);
   }
   void cmdsuspend_Click(int months) {
-    Suspend(*Culprit(), months);
-    Next();
+    Worker& culprit = *Culprit();
+    Suspend(culprit, months);
+    Next(culprit.Name + " was suspended for " + Counted(months, "month") + ".");
+  }
+  void cmdignore_Click() {
+    const Incident& incident = *FirstIncident(world());
+    const std::string name = incident.Type == kJobOffer
+                                 ? world().FindPromotion(incident.Uid)->Name.Str()
+                                 : world().FindWorker(incident.Uid)->Name.Str();
+    Next(incident.Type == kJobOffer ? "The offer of " + name + " was declined."
+         : incident.Type >= kRehab  ? ""
+                                    : "What " + name + " did was ignored.");
   }
   void cmdaccept_Click() {
     const Promotion& promotion = *world().FindPromotion(world().Incidents()[1].Uid);
@@ -109,12 +127,14 @@ class frmIncident : public ui::Screen {
                         promotion.Name.Str() + "?",
                     ui::Default::No))
       return;
+    const std::string done = "You left for " + promotion.Name.Str() + ".";
     ChangeJob(world(), promotion);
-    Next();
+    Next(done);
   }
 
   Game& game_;
   ui::Label lblleft{*this, "lblleft"};
+  ui::Label lbldone{*this, "lbldone"};
   ui::Report txtincident{*this, "txtincident"};
   ui::Label lblabout{*this, "lblabout"};
   ui::Button cmdfire{*this, "cmdfire", "Fire", &frmIncident::cmdfire_Click};
@@ -124,7 +144,7 @@ class frmIncident : public ui::Screen {
         return std::make_unique<ui::Button>(*this, name, "Suspend " + Counted(months, "Month"),
                                             [this, months] { cmdsuspend_Click(months); });
       }};
-  ui::Button cmdignore{*this, "cmdignore", "Ignore", [this] { Next(); }};
+  ui::Button cmdignore{*this, "cmdignore", "Ignore", &frmIncident::cmdignore_Click};
   ui::Button cmdaccept{*this, "cmdaccept", "Accept", &frmIncident::cmdaccept_Click};
 };
 

@@ -16,34 +16,37 @@ namespace grapplemont {
 
 namespace {
 
+using ui::Reach;
+
 /// A command of the hub: the control, its caption, the screen it opens, its group and key in the
-/// side bar.
+/// side bar. What could take today's show, its Titles or its table away reaches into today.
 struct Command {
   const char* Control;
   const char* Caption;
   const char* Screen;
   const char* Group;
   const char* Key;
+  Reach Into = Reach::Company;
 };
 constexpr std::array<Command, 19> kCommands = {{
     {"cmdroster", "Roster", "frmRoster", "People", "F2"},
-    {"cmdstaff", "Staff", "frmStaff", "People", "F3"},
+    {"cmdstaff", "Staff", "frmStaff", "People", "F3", Reach::Today},
     {"cmdtag", "Tag Teams", "frmTagTeams", "People", ""},
     {"cmdstables", "Stables", "frmStables", "People", ""},
-    {"cmdbelt", "Titles", "frmBelts", "People", "F4"},
+    {"cmdbelt", "Titles", "frmBelts", "People", "F4", Reach::Today},
     {"cmdfeud", "Feuds", "frmFeuds", "People", "F5"},
-    {"cmdtv", "Television", "frmTelevision", "Business", "F6"},
-    {"cmdevents", "Events", "frmEvent", "Business", ""},
+    {"cmdtv", "Television", "frmTelevision", "Business", "F6", Reach::Today},
+    {"cmdevents", "Events", "frmEvent", "Business", "", Reach::Today},
     {"cmdfed", "", "frmFed", "Business", "F7"},
     {"cmdfinance", "Finance", "frmFinance", "Business", "F8"},
     {"cmdotherwres", "Other Workers", "frmOtherWres", "World", "F9"},
     {"cmdotherstaff", "Other Staff", "frmOtherStaff", "World", ""},
-    {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", ""},
-    {"cmdnet", "Internet", "frmInternet", "World", ""},
-    {"cmdnews", "News", "frmNews", "Desk", "F10"},
-    {"cmdresults", "Results", "frmResults", "Desk", ""},
-    {"cmdmeeting", "Meeting", "frmTalk", "Desk", ""},
-    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "F11"},
+    {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", "", Reach::Today},
+    {"cmdnet", "Internet", "frmInternet", "World", "", Reach::Tells},
+    {"cmdnews", "News", "frmNews", "Desk", "F10", Reach::Tells},
+    {"cmdresults", "Results", "frmResults", "Desk", "", Reach::Tells},
+    {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", Reach::Today},
+    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "F11", Reach::Tells},
     {"cmdoptions", "Options", "frmOptions", "Desk", "F12"},
 }};
 
@@ -66,9 +69,9 @@ class frmMainScreen : public ui::Screen {
       const Command& command = kCommands[static_cast<std::size_t>(i - 1)];
       if (page.Side.empty() || page.Side.back().Title != command.Group)
         page.Side.push_back({command.Group, {}});
-      page.Side.back().Commands.push_back({&commands(i), command.Key});
+      page.Side.back().Commands.push_back({&commands(i), command.Key, command.Into});
     }
-    page.Side.push_back({"", {{&cmdquit, ""}}});
+    page.Side.push_back({"", {{&cmdquit, "", Reach::Away}}});
     page.Top = {&txtdate, &lblpromotion, &lblimage, &lblmoney};
     page.TopActions = {&txtname, &cmduntil, &cmdnext};
     page.Main = &cmdnext;
@@ -88,8 +91,14 @@ class frmMainScreen : public ui::Screen {
     OpenWhatWaits();
   }
 
+  void Note(const std::string& line) {
+    done_ += " " + line;
+    ShowTheWorld();
+  }
+
   /// Ends the day under the waiting screen and shows the next.
   void AdvanceDay(bool cancelled) {
+    done_.clear();
     Waiting waiting(game_);
     grapplemont::AdvanceDay(world(), cancelled, Teller(waiting));
     waiting.Done();
@@ -168,8 +177,8 @@ class frmMainScreen : public ui::Screen {
     }
     lstahead.Fill(std::move(rows), false);
     lblfacts.Text = HasEnded(world().Game()) ? kCareerIsOver
-                    : today.empty()          ? "Nothing is due today."
-                                             : "Due today: " + today + ".";
+                    : today.empty()          ? "Nothing is due today." + done_
+                                             : "Due today: " + today + "." + done_;
   }
 
   static ui::Tone ToneOf(const Appointment& show) {
@@ -224,6 +233,7 @@ class frmMainScreen : public ui::Screen {
   /// Plain days pass until a show is due or something waits for the player; at least one does.
   void cmduntil_Click() {
     if (NeedsThePlayer(world())) return cmdnext_Click();
+    done_.clear();
     Waiting waiting(game_);
     AdvanceToNextShow(world(), Teller(waiting));
     waiting.Done();
@@ -248,6 +258,7 @@ class frmMainScreen : public ui::Screen {
   using K = ui::ColumnKind;
   Game& game_;
   bool endIsTold_ = false;
+  std::string done_;  // what was decided backstage today
   ui::Label txtdate{*this, "txtdate"};
   ui::Label lblpromotion{*this, "lblpromotion"};
   ui::Label lblimage{*this, "lblimage"};
@@ -287,6 +298,10 @@ void ConnectCalendar(Game& game) {
   game.AdvanceDay = [&game](bool cancelled) {
     if (frmMainScreen* main = FindMainScreen(game)) main->AdvanceDay(cancelled);
   };
+}
+
+void NoteOnMainScreen(Game& game, const std::string& line) {
+  if (frmMainScreen* main = FindMainScreen(game)) main->Note(line);
 }
 
 }  // namespace grapplemont

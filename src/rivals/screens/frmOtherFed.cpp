@@ -229,7 +229,7 @@ class frmOtherFed : public GameScreen {
     ui::Page page =
         PageOf(ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()}),
                &lblfacts, {&cmdbuyout});
-    page.Main = nullptr;  // Enter does nothing
+    page.Main = nullptr;  // Enter is the hub's
     return page;
   }
 

@@ -48,6 +48,8 @@ class frmMatchOutput : public ui::Screen {
     page.Facts = &lblreportedby;
     page.Actions = {&cmdnotepad, &cmdnext};
     page.Main = &cmdnext;
+    page.Stays = "The show has to be seen through to its end first.";
+    page.Lets = ui::Reach::Tells;
     std::vector<ui::Box> figures{lblanalysis};
     for (int i = 1; i <= kFigureCount; ++i)
       figures.push_back(
@@ -195,7 +197,7 @@ class frmPostShow : public GameScreen {
       : GameScreen(game, "frmPostShow", "Recap Sheet", {.Back = "To The Next Day"}) {}
 
   ui::Page Layout() override {
-    return PageOf(
+    ui::Page page = PageOf(
         ui::Columns(
             {ui::Group("The Segments", {lbltitle, ui::Grow(lstrecap)}).Grow(3),
              ui::Rows(
@@ -203,6 +205,9 @@ class frmPostShow : public GameScreen {
                   ui::Group("Segment by Segment", {lblbest, lblworst, ui::Grow(chtshow)}).Grow(3)})
                  .Grow(2)}),
         &lblrating, {&cmdnotepad});
+    page.Stays = "The next day comes first.";
+    page.Lets = ui::Reach::Tells;
+    return page;
   }
 
   void Load() override {

@@ -88,7 +88,7 @@ void EnableUnless(ui::Control& control, const std::string& why);
 using Controls = std::initializer_list<std::reference_wrapper<ui::Control>>;
 void EnableUnless(Controls controls, const std::string& why);
 
-/// The same page, on which Enter does nothing.
+/// The same page without a main action: Enter is the hub's.
 ui::Page WithoutEnter(ui::Page page);
 
 // How Titles stand in tables.
