@@ -271,7 +271,17 @@ bool ScreenView::HandleKey(int key) {
   if (IsEnter(key)) return Press(page_.Main) || Press(page_.Then);
   // Where there is only one way to go, the space bar turns the page as well.
   if (key == Qt::Key_Space && !page_.Cancel) return Press(page_.Main);
+  if (key == Qt::Key_Backspace) return ClearFilters();
   return key == Qt::Key_Escape && Press(page_.Cancel);
+}
+
+/// Those of the tables, and the screen's own.
+bool ScreenView::ClearFilters() {
+  bool cleared = Press(page_.Clear);
+  for (ControlView* view : views_)
+    if (auto* table = dynamic_cast<TableView*>(view); table && table->isVisible())
+      cleared |= table->ClearFilters();
+  return cleared;
 }
 
 bool ScreenView::FocusSearch() {
