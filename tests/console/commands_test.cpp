@@ -65,6 +65,7 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
       {"click", "Write it as \"click NAME\"."},
       {"click cmddoit now", "Write it as \"click NAME\"."},
       {"pick lstpeople", "Write it as \"pick NAME ROW-or-TEXT\"."},
+      {"also lstpeople 1", "\"lstpeople\" takes one row at a time."},
       {"check chkday maybe", "Write it as \"check NAME on|off\"."},
       {"follow ", "Write it as \"follow NAME\"."},
       {"follow Ilya Marsh", "frmSample shows no link \"Ilya Marsh\"."},
