@@ -89,6 +89,8 @@ void TableView::OpenRowMenu(const QPoint& at) {
   QMenu* menu = NewMenu(this, "rowmenu");
   menu->setToolTipsVisible(true);
   if (canAct) AddActs(*menu);
+  if (cell.isValid() && !canAct && control_.OnOpen)
+    menu->addAction("Open\tDouble click", this, [this, row = cell.row()] { Act(row, true); });
   for (const NamedLink& link : LinksOfRow(grid_->indexAt(at)))
     menu->addAction("Open " + link.Words, this, [this, open = link.Open] { Follow(open); });
   if (!menu->isEmpty()) menu->addSeparator();

@@ -147,6 +147,7 @@ void TableView::Show() {
 void TableView::Rearrange() {
   const QScopedValueRollback<bool> arranging(arranging_, true);
   const int top = grid_->verticalScrollBar()->value(), before = grid_->CurrentRow();
+  const int across = grid_->horizontalScrollBar()->value();
   model_.Reset();
   ApplyColumns();
   FitColumns();
@@ -158,6 +159,7 @@ void TableView::Rearrange() {
   if (row < 0 && before >= 0) row = std::min(before, rows - 1);
   grid_->SetCurrentRow(row);
   grid_->verticalScrollBar()->setValue(top);
+  grid_->horizontalScrollBar()->setValue(across);
   ShowSearchRow();
   ShowFilterRow();
   grid_->SetEmptyText(control_.Count() > 0

@@ -222,6 +222,7 @@ TEST(TheSettings, KeepTheTablesOfPagesWithTheirGameAndOfNothingElse) {
   Player play;
   const auto shown = [&](const char* slot, const char* world, ui::Role role, const char* filter) {
     play.Game = {slot, world};
+    play.Open(std::make_unique<DeskPage>(play.Desk, notes));
     play.Open(std::make_unique<PeoplePage>(play.Desk, notes, false, role));
     const std::size_t rows = play.Column("lstpeople", 1).size();
     if (*filter) {
@@ -236,7 +237,6 @@ TEST(TheSettings, KeepTheTablesOfPagesWithTheirGameAndOfNothingElse) {
     return rows;
   };
   const ui::Role page = ui::Role::Page;
-  play.Open(std::make_unique<DeskPage>(play.Desk, notes));
   EXPECT_EQ(shown("s1", "a", page, "heel"), 10U);
   EXPECT_EQ(shown("s1", "a", page, ""), 5U);
   EXPECT_EQ(shown("s2", "b", page, ""), 10U) << "another slot";

@@ -136,7 +136,7 @@ TEST(frmRoster, ActsOnSeveralAndSaysToWhomAndToWhomNot) {
   EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, $50,000 a month. 3 are chosen.");
   EXPECT_EQ(play.Desk.Text("cmdposition"), "Move (3)");
   play.Desk.Pick("cmbnewposition", "Midcard");
-  EXPECT_EQ(play.Desk.Text("lblmove"), "Morale: Low Down +5");
+  EXPECT_EQ(play.Desk.Text("lblmove"), "Morale: Bram Okafor -10, Low Down +5");
   play.Desk.ExpectSay("Move",
                       "Done: Bram Okafor, Low Down.\nNot done:\n"
                       "Ilya Marsh has this position already.");
