@@ -105,7 +105,7 @@ void TableView::AddActs(QMenu& menu) {
     const QString words = Shown(button->Text.Get());
     if (!box) {
       QAction* act =
-          menu.addAction(words, this, [this, button = button] { PressAct(*button, nullptr, 0); });
+          menu.addAction(words, this, [this, press = button] { PressAct(*press, nullptr, 0); });
       act->setEnabled(button->Enabled);
       act->setToolTip(Shown(button->Tip.Get()));
       continue;
@@ -113,7 +113,7 @@ void TableView::AddActs(QMenu& menu) {
     QMenu* choices = menu.addMenu(words);
     for (int row = 1; row <= box->Count(); ++row)
       choices->addAction(Shown(box->Rows()[static_cast<std::size_t>(row - 1)]), this,
-                         [this, button = button, box = box, row] { PressAct(*button, box, row); });
+                         [this, press = button, with = box, row] { PressAct(*press, with, row); });
   }
   if (!menu.isEmpty()) menu.addSeparator();
 }

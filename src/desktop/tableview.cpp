@@ -185,9 +185,10 @@ void TableView::ShowSearchRow() {
   const bool filters = !table_.State().Search.empty() || !table_.State().Filters.empty();
   const bool wide = control_.Count() > kWorthSearching && rowButtons_.empty();
   searchRow_->setVisible(wide || filters || !control_.Views.empty());
-  const std::string& view = table_.State().View;
-  columns_->setText(table_.Views().empty() ? "Columns"
-                                           : "View: " + (view.empty() ? "All" : Shown(view)));
+  const bool all = static_cast<int>(table_.Columns().size()) == model_.columnCount();
+  const QString view = Shown(table_.State().View);
+  const QString words = !view.isEmpty() ? view : all ? "All" : "Yours";
+  columns_->setText(table_.Views().empty() ? "Columns" : "View: " + words);
   columns_->updateGeometry();
 }
 
