@@ -33,12 +33,14 @@ std::string Possible(const ui::Screen& screen, int width) {
     can(Verb::Click) |= kind == ui::Kind::Button || (picture && picture->OnClick);
     can(Verb::Type) |= kind == ui::Kind::TextBox;
     can(Verb::Pick) |= kind == ui::Kind::ComboBox || (list && list->Count() > 0);
+    can(Verb::Also) |= list && list->Extends && list->Count() > 0;
     can(Verb::Open) |= list && list->OnOpen && list->Count() > 0;
     can(Verb::Check) |= kind == ui::Kind::CheckBox || kind == ui::Kind::OptionButton;
     can(Verb::Slide) |= kind == ui::Kind::ScrollBar;
   }
   std::string text = "Type: ";
-  for (Verb verb : {Verb::Click, Verb::Type, Verb::Pick, Verb::Open, Verb::Check, Verb::Slide})
+  for (Verb verb :
+       {Verb::Click, Verb::Type, Verb::Pick, Verb::Also, Verb::Open, Verb::Check, Verb::Slide})
     if (can(verb)) text += std::string(RowOf(verb).Form) + ", ";
   std::string wrapped;
   for (const std::string& line :

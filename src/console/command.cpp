@@ -55,7 +55,7 @@ std::optional<std::string> Letters(const Line& line, std::string& why) {
 namespace {
 
 using A = Arguments;
-constexpr std::array<VerbRow, 15> kVerbs = {{
+constexpr std::array<VerbRow, 16> kVerbs = {{
     {Verb::Show, A::MaybeName, "show", "show [NAME]", "the top screen, or all of one control"},
     {Verb::Click, A::Caption, "click", "click NAME",
      "press a button, a picture or a box, by its name or by what it says"},
@@ -63,6 +63,8 @@ constexpr std::array<VerbRow, 15> kVerbs = {{
      "put TEXT into a text box; without TEXT empty it; \\n starts a new line in a long one"},
     {Verb::Pick, A::NameAndText, "pick", "pick NAME ROW-or-TEXT",
      "choose a row by its number from 1 or its first column"},
+    {Verb::Also, A::NameAndText, "also", "also NAME ROW-or-TEXT",
+     "choose a further row, or one less"},
     {Verb::Open, A::NameAndText, "open", "open NAME ROW-or-TEXT", "double click a row"},
     {Verb::Check, A::NameAndText, "check", "check NAME on|off", "set a check box or an option"},
     {Verb::Slide, A::NameAndText, "slide", "slide NAME VALUE", "move a scroll bar"},

@@ -29,6 +29,7 @@ enum class Verb {
   Click,
   Type,
   Pick,
+  Also,
   Open,
   Check,
   Slide,

@@ -141,6 +141,8 @@ void Console::Perform(const Command& command) {
       return Refuse(ui::Type(*this, top, command.Name, Typed(top, command)));
     case Verb::Pick:
       return Refuse(ui::Pick(*this, top, command.Name, command.Text));
+    case Verb::Also:
+      return Refuse(ui::PickToo(*this, top, command.Name, command.Text));
     case Verb::Open:
       return Refuse(ui::OpenRow(*this, top, command.Name, command.Text));
     case Verb::Check:

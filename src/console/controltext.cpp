@@ -75,6 +75,7 @@ std::string Says(const ui::ListBox& list) {
   std::string text = Counted(list.Count(), "row");
   if (chosen > 0) text += ", chosen" + rows;
   if (list.Multi) text += " (any number may be chosen)";
+  if (list.Extends && chosen > 0) text += " (more with \"also\")";
   return text;
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/housestyle.h"
 
 #include <QPainter>
+#include <QTableView>
 #include <algorithm>
 
 #include "desktop/look.h"
@@ -195,6 +196,8 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     case PE_PanelScrollAreaCorner:
       return;
     case PE_PanelItemViewRow:
+      if (qobject_cast<const QTableView*>(widget)) return;  // its cells mark the whole row
+      [[fallthrough]];
     case PE_PanelItemViewItem:
       if (Has(*option, State_Selected) || Has(*option, State_MouseOver))
         painter->fillRect(option->rect, c.Chosen);

@@ -59,6 +59,11 @@ int Play(QApplication& app, const std::optional<std::string>& named) {
       desk.Say("Error!", game.Explain(fault));
     }
   };
+  options.Game = [&] {
+    const auto [slot, world] = game.Opened();
+    return slot == 0 ? desktop::OpenGame()
+                     : desktop::OpenGame{QString("s%1").arg(slot), QString::number(world, 16)};
+  };
   desktop::Window window(desk, options);
   window.show();
   desk.Event([&] { desk.Open("frmTitleScreen"); });

@@ -304,8 +304,18 @@ bool ScreenView::HandleKey(int key) {
   const bool hub = screen_->Is() == ui::Role::Hub;
   // Where there is only one way to go, the space bar turns the page as well.
   if (key == Qt::Key_Space && !page_.Cancel) return Press(page_.Main);
+  if (key == Qt::Key_Backspace) return ClearFilters();
   // From the hub nothing leads back but the end of the game, which is no slip of the hand.
   return key == Qt::Key_Escape && !hub && PressCancel();
+}
+
+/// Those of the tables, and the screen's own.
+bool ScreenView::ClearFilters() {
+  bool cleared = Press(page_.Clear);
+  for (ControlView* view : views_)
+    if (auto* table = dynamic_cast<TableView*>(view); table && table->isVisible())
+      cleared |= table->ClearFilters();
+  return cleared;
 }
 
 bool ScreenView::FocusSearch() {

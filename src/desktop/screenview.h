@@ -62,6 +62,7 @@ class ScreenView : public QWidget {
   /// Makes a view of the control here and gives its widget.
   QWidget* Add(ui::Control& control);
   bool PressCancel();
+  bool ClearFilters();
 
   std::shared_ptr<ui::Screen> screen_;
   Stage& stage_;

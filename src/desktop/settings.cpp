@@ -10,10 +10,6 @@ namespace {
 
 constexpr auto kColours = "window/colours";
 
-QString TableKey(const std::string& list) {
-  return "tables/" + Shown(list);
-}
-
 }  // namespace
 
 Settings::Settings(const QString& file) {
@@ -49,14 +45,50 @@ int Settings::Zoom() const {
                     kLargestText - kSmallestText);
 }
 
-ui::TableState Settings::Table(const std::string& list) {
-  const Keepable kept = Keep(Read(TableKey(list)).toString());
-  return ui::ReadTableState(kept.Text);
+void Settings::Erase(const QString& group) {
+  if (file_) {
+    file_->remove(group);
+  } else {
+    std::erase_if(kept_, [&](const auto& entry) { return entry.first.startsWith(group + "/"); });
+  }
 }
 
-void Settings::SetTable(const std::string& list, const ui::TableState& state) {
+QString Settings::PassingOf(const ui::Screen& screen) {
+  return QString("%1/").arg(reinterpret_cast<quintptr>(&screen));
+}
+
+QString Settings::PlaceOf(const ui::ListBox& list) {
+  const ui::Screen& screen = list.Parent();
+  const ui::Role role = screen.Is();
+  if (role != ui::Role::Page && role != ui::Role::Hub)
+    return PassingOf(screen) + Shown(list.Name());
+  const OpenGame game = Game ? Game() : OpenGame();
+  const QString group = "tables-" + (game.Slot.isEmpty() ? "program" : game.Slot);
+  if (Read(group + "/world").toString() != game.World) {
+    Erase(group);
+    Write(group + "/world", game.World);
+  }
+  return group + "/" + Shown(screen.Name() + "." + list.Name());
+}
+
+ui::TableState Settings::Table(const QString& place) const {
+  if (const auto passing = passing_.find(place); passing != passing_.end()) return passing->second;
+  return ui::ReadTableState(Keep(Read(place).toString()).Text);
+}
+
+void Settings::SetTable(const QString& place, const ui::TableState& state) {
+  if (!place.startsWith("tables-")) {
+    passing_[place] = state;
+    return;
+  }
   const QString line = Shown(ui::Written(state));
-  if (Read(TableKey(list)).toString() != line) Write(TableKey(list), line);
+  if (Read(place).toString() != line) Write(place, line);
+}
+
+void Settings::Forget(const ui::Screen& screen) {
+  std::erase_if(passing_, [group = PassingOf(screen)](const auto& entry) {
+    return entry.first.startsWith(group);
+  });
 }
 
 }  // namespace grapplemont::desktop

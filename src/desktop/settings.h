@@ -2,16 +2,23 @@
 
 #include <QSettings>
 #include <QString>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
 
 #include "desktop/look.h"
 #include "ui/arrangedtable.h"
+#include "ui/screen.h"
 
 namespace grapplemont::desktop {
 
-/// What the player has set about the window; it has nothing to do with any world.
+/// The game that is being played: its slot and the id of its world; empty for none.
+struct OpenGame {
+  QString Slot, World;
+};
+
+/// What the player has set about the window, and what the tables keep; nothing of any world.
 class Settings {
  public:
   /// An empty file name keeps nothing beyond the program's run.
@@ -25,15 +32,25 @@ class Settings {
   QByteArray Place() const { return Read(kPlace).toByteArray(); }  // of the window
   void SetPlace(const QByteArray& place) { Write(kPlace, place); }
 
-  /// By the list's name: "frmRoster.lstwres".
-  ui::TableState Table(const std::string& list);
-  void SetTable(const std::string& list, const ui::TableState& state);
+  /// What is being played; without it there is no game.
+  std::function<OpenGame()> Game;
+
+  /// Where the state of a table is kept: of a page with the open game, each slot by itself and
+  /// forgotten with its world; of anything else until its screen is closed.
+  QString PlaceOf(const ui::ListBox& list);
+  ui::TableState Table(const QString& place) const;
+  void SetTable(const QString& place, const ui::TableState& state);
+  /// The screen is closed: what it comes up with next time is new.
+  void Forget(const ui::Screen& screen);
 
  private:
+  static QString PassingOf(const ui::Screen& screen);
+  void Erase(const QString& group);
   static constexpr auto kZoom = "window/zoom", kPlace = "window/place";
   QVariant Read(const QString& key) const;
   void Write(const QString& key, const QVariant& value);
 
+  std::map<QString, ui::TableState> passing_;
   std::unique_ptr<QSettings> file_;
   std::map<QString, QVariant> kept_;
 };

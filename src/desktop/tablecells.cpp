@@ -117,39 +117,54 @@ bool TableCells::IsLink(const QModelIndex& index) const {
   const bool hasButtons = std::ranges::any_of(
       columns, [](const ui::Column& column) { return column.Kind == ColumnKind::Button; });
   if (!model_.List().OnOpen || hasButtons) return false;
-  for (const int column : model_.Table().Columns())
-    if (model_.Column(column).Kind == ColumnKind::Text) return column == index.column();
-  return false;
+  const int column = model_.Table().Columns()[static_cast<std::size_t>(model_.Table().NamePlace())];
+  return column == index.column() && model_.Column(column).Kind == ColumnKind::Text;
 }
 
+/// One pass paints what scrolls, and nothing of it beneath what stays; another what stays.
 void TableCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
                        const QModelIndex& index) const {
-  const Colours& c = ColoursOf(option.palette);
-  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
-  const auto& row = model_.Table().RowAt(index.row());
-  if (row.Selected) {
-    painter->fillRect(option.rect, c.Chosen);
-  } else if (index.row() == hover_ && enabled) {
-    painter->fillRect(option.rect, c.Field);
-  }
-  painter->fillRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1, c.RowLine);
-
-  const ui::Cell& cell = model_.Table().At(index.row(), index.column());
-  const ColumnKind kind = model_.Column(index.column()).Kind;
-  QRect room = option.rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
+  const bool stays = model_.IsPinned(index.column());
+  if (stays != paintsPinned_) return;
   painter->save();
-  room.setLeft(room.left() + DrawSmall(painter, room, model_.Column(index.column()), row.Key));
-  painter->setFont(TextFont());
-  if (IsTag(cell, kind)) {
-    DrawTag(*painter, room, cell, c);
-  } else if (kind == ColumnKind::Percent && !cell.Text.empty()) {
-    DrawBar(*painter, room, cell, c);
+  if (!stays && option.rect.left() < model_.Pin.Width)
+    painter->setClipRect(option.rect.adjusted(model_.Pin.Width - option.rect.left(), 0, 0, 0),
+                         Qt::IntersectClip);
+  PaintRow(*painter, option, index.row());
+  PaintCell(*painter, option, index);
+  painter->restore();
+}
+
+/// What a cell shows of its row: that it is chosen or under the mouse, and the line below it.
+void TableCells::PaintRow(QPainter& painter, const QStyleOptionViewItem& option, int row) const {
+  const Colours& c = ColoursOf(option.palette);
+  if (model_.Table().RowAt(row).Selected) {
+    painter.fillRect(option.rect, c.Chosen);
+  } else if (row == hover_ && option.state.testFlag(QStyle::State_Enabled)) {
+    painter.fillRect(option.rect, c.Field);
+  }
+  painter.fillRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1, c.RowLine);
+}
+
+void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option,
+                           const QModelIndex& index) const {
+  const Colours& c = ColoursOf(option.palette);
+  const ui::Cell& cell = model_.Table().At(index.row(), index.column());
+  const ui::Column& column = model_.Column(index.column());
+  QRect room = option.rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
+  room.setLeft(room.left() +
+               DrawSmall(&painter, room, column, model_.Table().RowAt(index.row()).Key));
+  painter.setFont(TextFont());
+  if (IsTag(cell, column.Kind)) {
+    DrawTag(painter, room, cell, c);
+  } else if (column.Kind == ColumnKind::Percent && !cell.Text.empty()) {
+    DrawBar(painter, room, cell, c);
   } else {
     const bool link = cell.Colour == ui::Tone::Plain && IsLink(index);
-    painter->setPen(!enabled ? c.Faint : link ? c.Blue : TextColour(c, cell.Colour));
-    DrawText(*painter, room, cell, kind);
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    painter.setPen(!enabled ? c.Faint : link ? c.Blue : TextColour(c, cell.Colour));
+    DrawText(painter, room, cell, column.Kind);
   }
-  painter->restore();
 }
 
 QSize TableCells::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
@@ -174,6 +189,17 @@ bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     QToolTip::showText(event->globalPos(), "<p>" + lines.join("<br>") + "</p>", view);
   }
   return true;
+}
+
+std::span<const int> TableModel::PinnedColumns() const {
+  const std::span<const int> shown = table_.Columns();
+  const auto count = static_cast<std::size_t>(Pin.Width > 0 ? Pin.Count : 0);
+  return shown.first(std::min(count, shown.size()));
+}
+
+bool TableModel::IsPinned(int column) const {
+  const auto pinned = PinnedColumns();
+  return std::find(pinned.begin(), pinned.end(), column) != pinned.end();
 }
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {

@@ -3,10 +3,17 @@
 #include <QAbstractTableModel>
 #include <QStyledItemDelegate>
 #include <functional>
+#include <span>
 
 #include "ui/arrangedtable.h"
 
 namespace grapplemont::desktop {
+
+/// The first columns as shown, which stay in place while the others scroll beside them.
+struct Pinned {
+  int Count = 0;
+  int Width = 0;  // of them all; 0 while nothing is scrolled
+};
 
 /// The rows of a table as Qt asks for them. Columns are the list's own, rows those shown.
 class TableModel : public QAbstractTableModel {
@@ -32,6 +39,11 @@ class TableModel : public QAbstractTableModel {
   }
   const ui::Table& Table() const { return table_; }
 
+  Pinned Pin;
+  /// In the order shown; none while nothing is scrolled.
+  std::span<const int> PinnedColumns() const;
+  bool IsPinned(int column) const;
+
  private:
   const ui::ListBox& list_;
   const ui::Table& table_;
@@ -44,6 +56,8 @@ class TableCells : public QStyledItemDelegate {
       : QStyledItemDelegate(parent), model_(model) {}
 
   void SetHover(int row) { hover_ = row; }
+  /// Whether the columns that stay are painted, else those that scroll.
+  void SetPaintsPinned(bool pinned) { paintsPinned_ = pinned; }
   /// What a cell's hint says beside its text; empty for nothing.
   std::function<QString(const QModelIndex& cell)> HintOf;
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -54,8 +68,12 @@ class TableCells : public QStyledItemDelegate {
 
  private:
   bool IsLink(const QModelIndex& index) const;
+  void PaintRow(QPainter& painter, const QStyleOptionViewItem& option, int row) const;
+  void PaintCell(QPainter& painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const;
   const TableModel& model_;
   int hover_ = -1;
+  bool paintsPinned_ = false;
 };
 
 /// The width that a cell's contents ask for, with the room at its sides.

@@ -4,104 +4,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <algorithm>
 
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
 
 namespace grapplemont::desktop {
-
-namespace {
-
-constexpr int kHeight = 32;
-constexpr int kMark = 12;  // room for an arrow or the spot of a filter
-
-QFont HeadingFont() {
-  return TextFont(11, QFont::DemiBold);
-}
-
-void DrawArrow(QPainter& painter, const QPointF& centre, bool down, const QColor& colour) {
-  const double half = Px(4) * 0.9, height = Px(5);
-  const double base = centre.y() + (down ? -height / 2 : height / 2);
-  const double tip = centre.y() + (down ? height / 2 : -height / 2);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(colour);
-  painter.drawPolygon(
-      QPolygonF{{centre.x() - half, base}, {centre.x() + half, base}, {centre.x(), tip}});
-}
-
-}  // namespace
-
-TableHeading::TableHeading(const TableModel& model, QWidget* parent)
-    : QHeaderView(Qt::Horizontal, parent), model_(model) {
-  setSectionsMovable(true);
-  setSectionsClickable(true);
-  setHighlightSections(false);
-  setStretchLastSection(false);
-  setMinimumSectionSize(Px(28));
-  setFocusPolicy(Qt::NoFocus);
-}
-
-QSize TableHeading::sizeHint() const {
-  return {QHeaderView::sizeHint().width(), Px(kHeight)};
-}
-
-int TableHeading::MarksWidth(int column) const {
-  const ui::Table& table = model_.Table();
-  return (table.SortPlace(column) > 0 ? Px(kMark) : 0) +
-         (table.FilterOf(column).empty() ? 0 : Px(kMark));
-}
-
-int TableHeading::HeadingWidth(int column) const {
-  const QString title = Shown(model_.Column(column).Title);
-  return QFontMetrics(HeadingFont()).horizontalAdvance(title) + 2 * Px(kCellSide) + 2 +
-         MarksWidth(column);
-}
-
-void TableHeading::paintSection(QPainter* painter, const QRect& rect, int column) const {
-  const Colours& c = ColoursOf(this);
-  const ui::Table& table = model_.Table();
-  painter->save();
-  painter->fillRect(rect.left(), rect.bottom(), rect.width(), 1, c.Line);
-  const ui::Column& shown = model_.Column(column);
-  const int place = table.SortPlace(column);
-  const bool filtered = !table.FilterOf(column).empty();
-  const int marks = MarksWidth(column);
-  const QFontMetrics metrics(HeadingFont());
-  const QRect room = rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
-  const QString title =
-      metrics.elidedText(Shown(shown.Title), Qt::ElideRight, room.width() - marks + 1);
-  const int width = metrics.horizontalAdvance(title);
-  int x = AlignsRight(shown.Kind) ? room.right() + 1 - width - marks : room.left();
-  painter->setFont(HeadingFont());
-  painter->setPen(place > 0 ? c.Text : c.Soft);
-  painter->drawText(QRect(x, room.top(), width + 1, room.height()), Qt::AlignVCenter, title);
-  x += width;
-  if (place > 0) {
-    DrawArrow(*painter, QPointF(x + Px(7), rect.center().y() + 1), table.SortsDown(column),
-              place == 1 ? c.Text : c.Muted);
-    x += Px(kMark);
-  }
-  if (filtered)
-    DrawBox(*painter, QRectF(x + Px(4), rect.center().y() - Px(2), Px(6), Px(6)), c.Gold, QColor(),
-            Px(3));
-  painter->restore();
-}
-
-void TableHeading::mousePressEvent(QMouseEvent* event) {
-  pressed_ = event->position().toPoint();
-  QHeaderView::mousePressEvent(event);
-}
-
-void TableHeading::mouseReleaseEvent(QMouseEvent* event) {
-  const QPoint at = event->position().toPoint();
-  const bool edge = cursor().shape() == Qt::SplitHCursor;
-  QHeaderView::mouseReleaseEvent(event);
-  const bool still = (at - pressed_).manhattanLength() < QApplication::startDragDistance();
-  const int column = logicalIndexAt(at);
-  if (event->button() == Qt::LeftButton && still && !edge && column >= 0)
-    Clicked(column, event->modifiers().testFlag(Qt::ShiftModifier));
-}
 
 TableGrid::TableGrid(TableModel& model, QWidget* parent)
     : QTableView(parent),
@@ -149,9 +57,52 @@ QSize TableGrid::minimumSizeHint() const {
   return {Px(160), heading_->sizeHint().height() + rows * Px(kRowHeight) + 2};
 }
 
+void TableGrid::SetPinned(int count) {
+  model_.Pin.Count = count;
+  UpdatePinned();
+}
+
+void TableGrid::UpdatePinned() {
+  model_.Pin.Width = 0;
+  if (horizontalScrollBar()->value() > 0) {
+    model_.Pin.Width = 1;  // some, so that they are known as staying
+    int width = 0;
+    for (const int column : model_.PinnedColumns()) width += columnWidth(column);
+    model_.Pin.Width = width;
+  }
+  viewport()->update();
+  heading_->viewport()->update();
+}
+
+QModelIndex TableGrid::indexAt(const QPoint& at) const {
+  int right = 0;
+  for (const int column : model_.PinnedColumns())
+    if (right += columnWidth(column); at.x() < right && rowAt(at.y()) >= 0)
+      return model_.index(rowAt(at.y()), column);
+  return QTableView::indexAt(at);
+}
+
+QRect TableGrid::visualRect(const QModelIndex& index) const {
+  QRect cell = QTableView::visualRect(index);
+  int left = 0;
+  for (const int column : model_.PinnedColumns()) {
+    if (column == index.column()) cell.moveLeft(left);
+    left += columnWidth(column);
+  }
+  return cell;
+}
+
+/// The cursor is a row's: it never turns the table sideways.
+void TableGrid::scrollTo(const QModelIndex& index, ScrollHint hint) {
+  const int across = horizontalScrollBar()->value();
+  QTableView::scrollTo(index, hint);
+  horizontalScrollBar()->setValue(across);
+}
+
+/// Ctrl opens a name that is clicked; where it adds a row, Alt does.
 bool TableGrid::FollowAt(const QMouseEvent& event) {
-  if (event.button() != Qt::LeftButton || !event.modifiers().testFlag(Qt::ControlModifier))
-    return false;
+  const auto key = model_.List().Extends ? Qt::AltModifier : Qt::ControlModifier;
+  if (event.button() != Qt::LeftButton || !event.modifiers().testFlag(key)) return false;
   const QModelIndex cell = indexAt(event.position().toPoint());
   const ui::Handler open = cell.isValid() ? LinkOf(cell) : ui::Handler();
   if (open) Followed(open);
@@ -162,7 +113,14 @@ void TableGrid::mousePressEvent(QMouseEvent* event) {
   if (FollowAt(*event)) return;
   QTableView::mousePressEvent(event);
   const QModelIndex index = indexAt(event->position().toPoint());
-  if (event->button() == Qt::LeftButton && index.isValid()) Picked(index.row());
+  if (event->button() == Qt::LeftButton && index.isValid()) PickAs(index.row(), event->modifiers());
+}
+
+void TableGrid::PickAs(int row, Qt::KeyboardModifiers held) {
+  const bool extends = model_.List().Extends;
+  if (extends && held.testFlag(Qt::ShiftModifier)) return Reached(row);
+  if (extends && held.testFlag(Qt::ControlModifier)) return Added(row);
+  Picked(row);
 }
 
 void TableGrid::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -185,8 +143,8 @@ void TableGrid::Hover(int row) {
 void TableGrid::mouseMoveEvent(QMouseEvent* event) {
   const QModelIndex cell = indexAt(event->position().toPoint());
   Hover(cell.row());
-  const bool leads =
-      event->modifiers().testFlag(Qt::ControlModifier) && cell.isValid() && LinkOf(cell);
+  const auto key = model_.List().Extends ? Qt::AltModifier : Qt::ControlModifier;
+  const bool leads = event->modifiers().testFlag(key) && cell.isValid() && LinkOf(cell);
   viewport()->setCursor(leads ? Qt::PointingHandCursor : Qt::ArrowCursor);
   if (event->buttons() == Qt::NoButton) QTableView::mouseMoveEvent(event);
 }
@@ -202,19 +160,23 @@ void TableGrid::Move(QKeyEvent* event) {
   if (before < 0 && model_.rowCount() > 0) {
     SetCurrentRow(0);
   } else {
-    QTableView::keyPressEvent(event);
+    QKeyEvent plain(event->type(), event->key(), event->modifiers() & ~Qt::ShiftModifier);
+    QTableView::keyPressEvent(&plain);
   }
   event->accept();
-  if (CurrentRow() != before && CurrentRow() >= 0 && !model_.List().Multi) Picked(CurrentRow());
+  if (CurrentRow() != before && CurrentRow() >= 0 && !model_.List().Multi)
+    PickAs(CurrentRow(), event->modifiers() & Qt::ShiftModifier);
 }
 
 void TableGrid::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Copy)) return Copied();
+  if (event->matches(QKeySequence::SelectAll) && model_.List().Extends) return AllPicked();
   const int key = event->key();
   if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown)
     return Move(event);
   if (key == Qt::Key_Home || key == Qt::Key_End) {
-    QKeyEvent whole(event->type(), key, Qt::ControlModifier);  // of all rows
+    const auto held = event->modifiers() | Qt::ControlModifier;
+    QKeyEvent whole(event->type(), key, held);  // of all rows
     return Move(&whole);
   }
   if (key == Qt::Key_Left || key == Qt::Key_Right) {
@@ -224,11 +186,31 @@ void TableGrid::keyPressEvent(QKeyEvent* event) {
   const int row = CurrentRow();
   if (IsEnter(key) && event->modifiers().testFlag(Qt::ControlModifier))
     return model_.List().OnOpen && row >= 0 && !event->isAutoRepeat() ? Opened(row) : void();
-  if (key == Qt::Key_Space) return row >= 0 ? Picked(row) : void();
+  if (key == Qt::Key_Space) return row >= 0 ? PickAs(row, event->modifiers()) : void();
   const QString letters = event->text();
   const bool plain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
   if (plain && !letters.isEmpty() && letters.front().isPrint()) return Typed(letters);
   event->ignore();
+}
+
+/// Over the others, which leave the place free.
+void TableGrid::DrawPinned(QPainter& painter) {
+  if (model_.Pin.Width == 0) return;
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  cells_->SetPaintsPinned(true);
+  for (int row = std::max(0, rowAt(0)); row < model_.rowCount(); ++row) {
+    const int top = rowViewportPosition(row);
+    if (top >= viewport()->height()) break;
+    int left = 0;
+    for (const int column : model_.PinnedColumns()) {
+      option.rect = QRect(left, top, columnWidth(column), rowHeight(row));
+      cells_->paint(&painter, option, model_.index(row, column));
+      left += columnWidth(column);
+    }
+  }
+  cells_->SetPaintsPinned(false);
+  painter.fillRect(model_.Pin.Width - 1, 0, 1, viewport()->height(), ColoursOf(this).Line);
 }
 
 void TableGrid::DrawCursor(QPainter& painter) {
@@ -245,6 +227,7 @@ void TableGrid::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
   painted_ = true;
   QPainter painter(viewport());
+  DrawPinned(painter);
   DrawCursor(painter);
   if (model_.rowCount() > 0) return;
   painter.setFont(TextFont());
@@ -263,12 +246,13 @@ void TableGrid::resizeEvent(QResizeEvent* event) {
 /// The cursor's line reaches over all cells, so scrolled pieces do not fit together.
 void TableGrid::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
-  viewport()->update();
+  UpdatePinned();
   if (Moved) Moved();
 }
 
 void TableGrid::updateGeometries() {
   QTableView::updateGeometries();
+  UpdatePinned();
   if (Moved) Moved();
 }
 

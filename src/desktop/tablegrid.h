@@ -15,16 +15,23 @@ class TableHeading : public QHeaderView {
   /// The width that a heading needs with its marks.
   int HeadingWidth(int column) const;
   QSize sizeHint() const override;
+  /// The column whose heading is there, -1 for none.
+  int ColumnAt(const QPoint& at) const;
   std::function<void(int column, bool second)> Clicked;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void paintSection(QPainter* painter, const QRect& rect, int column) const override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   /// Of the arrow of sorting and the spot of a filter.
   int MarksWidth(int column) const;
+  void DrawHeading(QPainter& painter, const QRect& rect, int column) const;
+  /// Whether a point lies on the headings of the columns that stay.
+  bool OnPinned(const QPoint& at) const { return at.x() < model_.Pin.Width; }
 
   const TableModel& model_;
   QPoint pressed_;
@@ -43,8 +50,17 @@ class TableGrid : public QTableView {
   int CurrentRow() const { return currentIndex().row(); }
   void SetCurrentRow(int row);
 
+  /// So many of the first columns shown stay in place while the others scroll.
+  void SetPinned(int count);
+  QModelIndex indexAt(const QPoint& at) const override;
+  QRect visualRect(const QModelIndex& index) const override;
+  void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
   // Rows as shown.
   std::function<void(int row)> Picked, Opened;
+  /// In a list that can have several rows: one more or one less, or all from the last picked on.
+  std::function<void(int row)> Added, Reached;
+  std::function<void()> AllPicked;
   std::function<void(const QString& letters)> Typed;
   std::function<void()> Copied, Resized, Moved;
   /// The way to the link in a cell, by row and column of the list; empty for none.
@@ -70,6 +86,10 @@ class TableGrid : public QTableView {
   /// Follows the link of a cell that was clicked with Ctrl; false where there is none.
   bool FollowAt(const QMouseEvent& event);
   void Move(QKeyEvent* event);
+  /// Picks a row as the keys that are held with it say.
+  void PickAs(int row, Qt::KeyboardModifiers held);
+  void UpdatePinned();
+  void DrawPinned(QPainter& painter);
   void DrawCursor(QPainter& painter);
 
   TableModel& model_;

@@ -1,8 +1,11 @@
 #include <QWidgetAction>
 
+#include "desktop/button.h"
 #include "desktop/tableview.h"
+#include "ui/acts.h"
 
-// The names in a table's cells, which Ctrl and a click opens, and its menus: sort, filter, columns.
+// The names in a table's cells, which a click with a key opens, and its menus: what can be done to
+// a row, sort, filter, columns, views.
 
 namespace grapplemont::desktop {
 
@@ -14,7 +17,8 @@ void TableView::ConnectLinks() {
   grid_->Followed = [this](const ui::Handler& open) { Follow(open); };
   grid_->Cells().HintOf = [this](const QModelIndex& cell) {
     const auto links = LinksOf(cell.row(), cell.column());
-    return links.empty() ? QString() : "Ctrl+click opens " + links.front().Words;
+    const QString how = control_.Extends ? "Alt+click opens " : "Ctrl+click opens ";
+    return links.empty() ? QString() : how + links.front().Words;
   };
 }
 
@@ -43,12 +47,12 @@ QAction* TableView::AddChange(QMenu& menu, const QString& words,
                               const std::function<void()>& change) {
   return menu.addAction(words, this, [this, change] {
     change();
-    Rearrange();
+    Refilter();
   });
 }
 
 void TableView::OpenHeadingMenu(const QPoint& at) {
-  const int column = grid_->Heading().logicalIndexAt(at);
+  const int column = grid_->Heading().ColumnAt(at);
   if (column < 0) return OpenColumnsMenu(grid_->Heading().mapToGlobal(at));
   QMenu* menu = NewMenu(this, "headingmenu");
   AddFilterLine(*menu, column);
@@ -64,23 +68,94 @@ void TableView::OpenHeadingMenu(const QPoint& at) {
   })->setEnabled(table_.Columns().size() > 1);
   menu->addSeparator();
   AddColumnChoices(*menu);
+  AddTableActs(*menu);
   menu->popup(grid_->Heading().mapToGlobal(at));
 }
 
 void TableView::OpenColumnsMenu(const QPoint& globally) {
   QMenu* menu = NewMenu(this, "columnsmenu");
+  AddViews(*menu);
   AddColumnChoices(*menu);
+  AddTableActs(*menu);
   menu->popup(globally);
 }
 
-/// The pages that the row's names lead to, then what the table always offers.
+/// What can be done to the row, the pages that its names lead to, then what the table always
+/// offers. A row that is not among the chosen is chosen for it.
 void TableView::OpenRowMenu(const QPoint& at) {
-  QMenu* menu = NewMenu(this, "columnsmenu");
+  const QModelIndex cell = grid_->indexAt(at);
+  const bool canAct = cell.isValid() && !control_.Acts.empty();
+  if (canAct && !table_.RowAt(cell.row()).Selected) Act(cell.row(), false);
+  QMenu* menu = NewMenu(this, "rowmenu");
+  menu->setToolTipsVisible(true);
+  if (canAct) AddActs(*menu);
+  if (cell.isValid() && !canAct && control_.OnOpen)
+    menu->addAction("Open\tDouble click", this, [this, row = cell.row()] { Act(row, true); });
   for (const NamedLink& link : LinksOfRow(grid_->indexAt(at)))
     menu->addAction("Open " + link.Words, this, [this, open = link.Open] { Follow(open); });
   if (!menu->isEmpty()) menu->addSeparator();
-  AddColumnChoices(*menu);
+  AddColumnChoices(*menu->addMenu("Columns"));
+  AddTableActs(*menu);
   menu->popup(grid_->viewport()->mapToGlobal(at));
+}
+
+void TableView::AddActs(QMenu& menu) {
+  for (const auto& [button, box] : control_.Acts) {
+    if (!button->Visible) continue;
+    const QString words = Shown(button->Text.Get());
+    if (!box) {
+      QAction* act =
+          menu.addAction(words, this, [this, press = button] { PressAct(*press, nullptr, 0); });
+      act->setEnabled(button->Enabled);
+      act->setToolTip(Shown(button->Tip.Get()));
+      continue;
+    }
+    QMenu* choices = menu.addMenu(words);
+    for (int row = 1; row <= box->Count(); ++row)
+      choices->addAction(Shown(box->Rows()[static_cast<std::size_t>(row - 1)]), this,
+                         [this, press = button, with = box, row] { PressAct(*press, with, row); });
+  }
+  if (!menu.isEmpty()) menu.addSeparator();
+}
+
+/// Presses the button of the screen, after a choice in its box; says why it cannot be pressed.
+void TableView::PressAct(ui::Button& button, ui::ComboBox* box, int row) {
+  OnStage().Act([&]() -> std::string {
+    ui::Desk& desk = OnStage().Desk();
+    ui::Screen& screen = control_.Parent();
+    if (box)
+      if (std::string why = ui::Pick(desk, screen, box->Name(), row); !why.empty()) return why;
+    if (!button.Enabled && !button.Tip->empty()) return button.Tip.Get();
+    return ui::Click(desk, screen, button.Name());
+  });
+}
+
+void TableView::AddViews(QMenu& menu) {
+  if (model_.columnCount() < 2) return;
+  const std::string shown = table_.State().View;
+  for (const std::string& name : table_.Views()) {
+    QAction* view = AddChange(menu, Shown(name), [this, name] {
+      table_.TakeView(name);
+      search_->setText(Shown(table_.State().Search));
+    });
+    view->setCheckable(true);
+    view->setChecked(name == shown);
+  }
+  QAction* save = menu.addAction("Save as a view\u2026");
+  connect(save, &QAction::triggered, this, &TableView::SaveView, Qt::QueuedConnection);
+  AddChange(menu, "Forget this view", [this, shown] {
+    table_.ForgetView(shown);
+  })->setEnabled(table_.IsOwnView(shown));
+  menu.addSeparator();
+}
+
+void TableView::SaveView() {
+  const std::string name = OnStage().Desk().Prompt(
+      "Save A View",
+      "A name for these columns, their order and what filters them:", table_.State().View);
+  if (name.empty()) return;
+  table_.KeepView(name);
+  Rearrange();
 }
 
 void TableView::AddColumnChoices(QMenu& menu) {
@@ -93,12 +168,13 @@ void TableView::AddColumnChoices(QMenu& menu) {
   }
   menu.addSeparator();
   AddChange(menu, "All columns as they were", [this] { table_.ResetColumns(); });
-  QAction* clear = AddChange(menu, "Clear all filters", [this] {
-    table_.ClearFilters();
-    search_->clear();
-  });
-  clear->setEnabled(!table_.State().Filters.empty() || !table_.State().Search.empty());
+}
+
+void TableView::AddTableActs(QMenu& menu) {
+  menu.addAction("Clear all filters\tBackspace", this, [this] { ClearFilters(); })
+      ->setEnabled(!table_.State().Filters.empty() || !table_.State().Search.empty());
   menu.addAction("Copy as CSV\tCtrl C", this, [this] { CopyCsv(); });
+  menu.addAction("Save as CSV\u2026", this, [this] { SaveCsv(); });
 }
 
 void TableView::AddFilterLine(QMenu& menu, int column) {
@@ -112,7 +188,7 @@ void TableView::AddFilterLine(QMenu& menu, int column) {
   rows->addWidget(line);
   connect(line, &QLineEdit::textChanged, this, [this, column](const QString& text) {
     table_.SetFilter(column, Keep(text).Text);
-    Rearrange();
+    Refilter();
   });
   connect(line, &QLineEdit::returnPressed, &menu, &QMenu::close);
   auto* action = new QWidgetAction(&menu);

@@ -25,6 +25,8 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   QWidget* RowHolder() { return grid_->viewport(); }
   /// Puts the keyboard into the search line if it is there.
   bool FocusSearch();
+  /// Shows all rows again; false when nothing filtered.
+  bool ClearFilters();
 
  protected:
   void Show() override;
@@ -32,20 +34,34 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
 
  private:
   void BuildSearchRow();
+  void BuildFilterRow();
   void Connect();
   void ConnectGrid();
   void Act(int shownRow, bool open);
+  // Of a list that can have several rows, in tablemany.cpp.
+  void AddRow(int shownRow);
+  void ReachRow(int shownRow);
+  void PickAll();
+  /// Nobody acts on rows that he does not see.
+  void DropUnseen();
+  void PickShown(const std::vector<int>& shownRows);
   /// Shows the rows again; the cursor stays on its row.
   void Rearrange();
+  void Refilter();
   void ShowSearchRow();
+  void ShowFilterRow();
   void ShowSelection();
   void FitColumns();
   std::vector<int> NaturalWidths() const;
-  std::vector<int> LeastWidths(const std::vector<int>& widths, int first, int other) const;
+  std::vector<int> LeastWidths(const std::vector<int>& widths, int name, int other) const;
+  int PinnedIn(const std::vector<int>& widths) const;
+  void SqueezeTexts(int missing, std::vector<int>& widths);
   void ApplyColumns();
   void TakeOrder();
   void RestorePlace();
+  std::string Csv() const;
   void CopyCsv() const;
+  void SaveCsv();
   void PlaceRowButtons();
 
   // Names in cells and menus, in tablemenu.cpp.
@@ -63,21 +79,29 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void OpenColumnsMenu(const QPoint& globally);
   void OpenRowMenu(const QPoint& at);
   QAction* AddChange(QMenu& menu, const QString& words, const std::function<void()>& change);
+  void AddActs(QMenu& menu);
+  void AddViews(QMenu& menu);
   void AddColumnChoices(QMenu& menu);
+  void AddTableActs(QMenu& menu);
+  void SaveView();
+  void PressAct(ui::Button& button, ui::ComboBox* box, int row);
   void AddFilterLine(QMenu& menu, int column);
   void MoveColumn(int column, int by);
 
-  std::string id_;
+  const QString place_;  // where the table's state is kept
   ui::Table table_;
   TableModel model_;
   TableGrid* grid_;
   QWidget* searchRow_;
   QLineEdit* search_;
-  QLabel* count_;
   PushButton* columns_;
+  QWidget* filterRow_;
+  QLabel* filtered_;
+  PushButton* clear_;
   std::vector<ButtonView*> rowButtons_;
   bool arranging_ = false;
   int currentKey_ = 0;
+  int anchorKey_ = 0;  // of the row that was picked last, from which Shift reaches
 };
 
 }  // namespace grapplemont::desktop

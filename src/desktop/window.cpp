@@ -26,6 +26,7 @@ Window::Window(WindowDesk& desk, Options options)
       ground_(new QWidget(this)),
       full_(new QStackedLayout(ground_)) {
   desk_.window_ = this;
+  settings_.Game = options_.Game;
   ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
   setPalette(QApplication::palette());
   setWindowTitle("Grapplemont");
@@ -81,7 +82,10 @@ Window::Scene Window::Survey() {
 
 void Window::DropGone() {
   for (Layer& layer : layers_)
-    if (!desk_.Holds(*layer.Screen)) Retire(layer);
+    if (!desk_.Holds(*layer.Screen)) {
+      Retire(layer);
+      settings_.Forget(*layer.Screen);
+    }
   std::erase_if(layers_, [](const Layer& layer) { return !layer.View; });
 }
 

@@ -39,6 +39,7 @@ class Window : public QMainWindow, public Stage {
     QString Pictures;  // the folder gfx/
     QString Settings;  // the file settings.ini; empty: nothing is kept
     std::function<void()> Closing;
+    std::function<OpenGame()> Game = {};  // what is being played; without it no game is
   };
   Window(WindowDesk& desk, Options options);
   ~Window() override;

@@ -89,6 +89,25 @@ std::string PickRow(Desk& desk, Screen& screen, std::string_view name, const Wan
   });
 }
 
+/// The same to a list that can have several rows chosen.
+std::string ReachMany(Screen& screen, std::string_view name,
+                      const std::function<std::string(ListBox&)>& act) {
+  return ReachA<ListBox>(screen, name, "given more rows", [&](ListBox& list) {
+    return list.Extends || list.Multi ? act(list)
+                                      : Quoted(list.Name()) + " takes one row at a time.";
+  });
+}
+
+std::string PickToo(Desk& desk, Screen& screen, std::string_view name, const Wanted& wanted) {
+  return ReachMany(screen, name, [&](ListBox& list) -> std::string {
+    const int row = wanted.In(list);
+    if (row == 0) return NoRow(list, wanted);
+    list.Toggle(row);
+    desk.Event(list.OnPick);
+    return {};
+  });
+}
+
 std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, const Wanted& wanted) {
   return ReachA<ListBox>(screen, name, "opened", [&](ListBox& list) -> std::string {
     if (!list.OnOpen) return CannotBe(list, "opened");
@@ -132,6 +151,19 @@ std::string Pick(Desk& desk, Screen& screen, std::string_view name, std::string_
 }
 std::string Pick(Desk& desk, Screen& screen, std::string_view name, int row) {
   return PickRow(desk, screen, name, {std::to_string(row), false});
+}
+std::string PickToo(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText) {
+  return PickToo(desk, screen, name, Wanted{std::string(rowOrText)});
+}
+std::string PickToo(Desk& desk, Screen& screen, std::string_view name, int row) {
+  return PickToo(desk, screen, name, Wanted{std::to_string(row), false});
+}
+std::string PickRows(Desk& desk, Screen& screen, std::string_view name, std::vector<int> rows) {
+  return ReachMany(screen, name, [&](ListBox& list) -> std::string {
+    list.SelectRows(rows);
+    desk.Event(list.OnPick);
+    return {};
+  });
 }
 std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText) {
   return OpenRow(desk, screen, name, Wanted{std::string(rowOrText)});

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ui/desk.h"
 
@@ -17,6 +18,11 @@ std::string Type(Desk& desk, Screen& screen, std::string_view name, std::string_
 std::string Pick(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText);
 /// The row of this number, whatever its text and that of others.
 std::string Pick(Desk& desk, Screen& screen, std::string_view name, int row);
+/// Adds a row to the chosen ones of a list that can have several, or takes it from them.
+std::string PickToo(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText);
+std::string PickToo(Desk& desk, Screen& screen, std::string_view name, int row);
+/// Chooses exactly these rows of such a list.
+std::string PickRows(Desk& desk, Screen& screen, std::string_view name, std::vector<int> rows);
 /// Picks the row and opens it, as a double click does.
 std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText);
 std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, int row);

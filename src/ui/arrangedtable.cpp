@@ -1,7 +1,6 @@
 #include "ui/arrangedtable.h"
 
 #include <algorithm>
-#include <charconv>
 #include <compare>
 
 #include "ui/filter.h"
@@ -191,12 +190,14 @@ void Table::Show(int listColumn, bool shown) {
   } else if (columns_.size() > 1) {
     state_.Hidden.insert(Id(listColumn));
   }
+  state_.View.clear();
   ArrangeColumns();
 }
 
 void Table::SetOrder(const std::vector<int>& listColumns) {
   state_.Order.clear();
   for (const int column : listColumns) state_.Order.push_back(Id(column));
+  state_.View.clear();
   ArrangeColumns();
 }
 
@@ -204,6 +205,7 @@ void Table::ResetColumns() {
   state_.Order.clear();
   state_.Hidden.clear();
   state_.Widths.clear();
+  state_.View.clear();
   ArrangeColumns();
 }
 
@@ -216,121 +218,88 @@ void Table::SetPlace(int topRow, int currentKey) {
   state_.CurrentKey = currentKey;
 }
 
-// Tables and their states as texts.
-
-namespace {
-
-void AppendCsv(std::string& csv, std::string_view field) {
-  if (field.find_first_of(",\"\r\n") == field.npos) {
-    csv += field;
-    return;
+int Table::NamePlace() const {
+  for (std::size_t place = 0; place < columns_.size(); ++place) {
+    const Column& column = list_.Columns()[Index(columns_[place])];
+    if (column.Kind == ColumnKind::Text && column.Title != "#") return static_cast<int>(place);
   }
-  csv += '"';
-  for (const char letter : field) {
-    if (letter == '"') csv += '"';
-    csv += letter;
-  }
-  csv += '"';
+  return 0;
 }
 
-/// A field of a state's line: the signs that part fields stand behind a backslash.
-void AppendField(std::string& line, std::string_view text) {
-  for (const char letter : text) {
-    if (letter == '\\' || letter == ';' || letter == ':') line += '\\';
-    line += letter;
+int Table::RowsHidden(int listColumn) const {
+  const Filter filter(FilterOf(listColumn));
+  const ColumnKind kind = list_.Columns()[Index(listColumn)].Kind;
+  return static_cast<int>(std::ranges::count_if(list_.Rows(), [&](const ListBox::Row& row) {
+    return !filter.Fits(CellOf(row, listColumn), kind);
+  }));
+}
+
+std::vector<Table::Hider> Table::Hiders() const {
+  const auto& columns = list_.Columns();
+  std::vector<Hider> hiders;
+  if (const Search search(state_.Search, columns); !search.Empty()) {
+    const auto hidden = std::ranges::count_if(
+        list_.Rows(), [&](const ListBox::Row& row) { return !search.Fits(row.Cells, columns); });
+    hiders.push_back({"\"" + state_.Search + "\"", static_cast<int>(hidden)});
   }
+  for (int column = 0; Index(column) < columns.size(); ++column)
+    if (!FilterOf(column).empty())
+      hiders.push_back({Id(column) + " " + FilterOf(column), RowsHidden(column)});
+  return hiders;
 }
 
-void AppendEntry(std::string& line, std::string_view kind,
-                 std::initializer_list<std::string> fields) {
-  line += kind;
-  for (const std::string& field : fields) {
-    line += ':';
-    AppendField(line, field);
+std::string Table::HidingText() const {
+  std::string text;
+  for (const auto& [words, rows] : Hiders())
+    text += (text.empty() ? "" : ", ") + words + " hides " + std::to_string(rows);
+  return text;
+}
+
+std::vector<std::string> Table::Views() const {
+  std::vector<std::string> names;
+  for (const ListBox::View& view : list_.Views) names.push_back(view.Name);
+  for (const auto& [name, state] : state_.Own)
+    if (std::ranges::find(names, name) == names.end()) names.push_back(name);
+  return names;
+}
+
+void Table::TakeView(const std::string& name) {
+  if (const auto own = state_.Own.find(name); own != state_.Own.end()) {
+    TableState taken = ReadTableState(own->second);
+    taken.Own = std::move(state_.Own);
+    taken.TopRow = state_.TopRow;
+    taken.CurrentKey = state_.CurrentKey;
+    state_ = std::move(taken);
+  } else {
+    const auto view = std::ranges::find(list_.Views, name, &ListBox::View::Name);
+    if (view == list_.Views.end()) return;
+    state_.Order = view->Columns;
+    state_.Widths.clear();
+    state_.Hidden.clear();
+    for (int column = 0; Index(column) < list_.Columns().size(); ++column)
+      if (std::ranges::find(view->Columns, Id(column)) == view->Columns.end())
+        state_.Hidden.insert(Id(column));
   }
-  line += ';';
+  state_.View = name;
+  ArrangeColumns();
+  ArrangeRows();
 }
 
-/// Takes the entry up to the next ';' apart.
-std::vector<std::string> TakeEntry(std::string_view& text) {
-  std::vector<std::string> fields(1);
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == ';') {
-      text.remove_prefix(i + 1);
-      return fields;
-    }
-    if (text[i] == ':') {
-      fields.emplace_back();
-    } else {
-      if (text[i] == '\\' && i + 1 < text.size()) ++i;
-      fields.back() += text[i];
-    }
-  }
-  text = {};
-  return fields;
+void Table::KeepView(const std::string& name) {
+  TableState kept = state_;
+  kept.Own.clear();
+  kept.View.clear();
+  kept.TopRow = kept.CurrentKey = 0;
+  // Columns that come later stand behind those of today.
+  kept.Order.clear();
+  for (const int column : columns_) kept.Order.push_back(Id(column));
+  state_.Own[name] = Written(kept);
+  state_.View = name;
 }
 
-int NumberIn(const std::string& text) {
-  int number = 0;
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return number;
-}
-
-}  // namespace
-
-std::string Table::Csv() const {
-  std::string csv;
-  const int rows = static_cast<int>(rows_.size());
-  for (int row = -1; row < rows; ++row) {
-    std::string_view part;
-    for (const int column : columns_) {
-      csv += part;
-      AppendCsv(csv, row < 0 ? list_.Columns()[Index(column)].Title : At(row, column).Text);
-      part = ",";
-    }
-    csv += "\r\n";
-  }
-  return csv;
-}
-
-std::string Written(const TableState& state) {
-  std::string line;
-  for (const auto& [column, descending] : state.Sort)
-    AppendEntry(line, descending ? "down" : "up", {column});
-  for (const auto& [column, expression] : state.Filters)
-    AppendEntry(line, "filter", {column, expression});
-  if (!state.Search.empty()) AppendEntry(line, "search", {state.Search});
-  for (const std::string& column : state.Order) AppendEntry(line, "order", {column});
-  for (const std::string& column : state.Hidden) AppendEntry(line, "hide", {column});
-  for (const auto& [column, width] : state.Widths)
-    AppendEntry(line, "width", {column, std::to_string(width)});
-  if (state.TopRow != 0 || state.CurrentKey != 0)
-    AppendEntry(line, "place", {std::to_string(state.TopRow), std::to_string(state.CurrentKey)});
-  return line;
-}
-
-TableState ReadTableState(std::string_view text) {
-  TableState state;
-  while (!text.empty()) {
-    const std::vector<std::string> entry = TakeEntry(text);
-    const std::string& kind = entry.front();
-    if (entry.size() == 2) {
-      const std::string& field = entry[1];
-      if ((kind == "up" || kind == "down") && state.Sort.size() < 2)
-        state.Sort.push_back({field, kind == "down"});
-      if (kind == "search") state.Search = field;
-      if (kind == "order") state.Order.push_back(field);
-      if (kind == "hide") state.Hidden.insert(field);
-    } else if (entry.size() == 3) {
-      if (kind == "filter") state.Filters[entry[1]] = entry[2];
-      if (kind == "width") state.Widths[entry[1]] = NumberIn(entry[2]);
-      if (kind == "place") {
-        state.TopRow = NumberIn(entry[1]);
-        state.CurrentKey = NumberIn(entry[2]);
-      }
-    }
-  }
-  return state;
+void Table::ForgetView(const std::string& name) {
+  state_.Own.erase(name);
+  if (state_.View == name) state_.View.clear();
 }
 
 }  // namespace grapplemont::ui

@@ -25,9 +25,11 @@ struct TableState {
   std::string Search;
   std::vector<std::string> Order;  // columns that are not named follow in their own order
   std::set<std::string> Hidden;
-  std::map<std::string, int> Widths;  // set by hand, in pixels at the usual size of text
-  int TopRow = 0;                     // where the table is scrolled to, from 0
-  int CurrentKey = 0;                 // the key of the row under the cursor
+  std::map<std::string, int> Widths;       // set by hand, in pixels at the usual size of text
+  std::string View;                        // the view that is shown as it is; empty for none
+  std::map<std::string, std::string> Own;  // the player's own views: states as texts, by name
+  int TopRow = 0;                          // where the table is scrolled to, from 0
+  int CurrentKey = 0;                      // the key of the row under the cursor
   friend bool operator==(const TableState&, const TableState&) = default;
 };
 
@@ -75,13 +77,35 @@ class Table {
   void ResetColumns();
   void SetWidth(int listColumn, int width);
   void SetPlace(int topRow, int currentKey);
+  /// The place, among the columns shown, of what is read first: the first text that is no number.
+  int NamePlace() const;
 
-  /// What is shown, headings first, lines ending as RFC 4180 has it.
-  std::string Csv() const;
+  /// A filter in force and how many rows it hides by itself.
+  struct Hider {
+    std::string Words;
+    int Rows;
+  };
+  std::vector<Hider> Hiders() const;
+  /// "Disp. Heel hides 5, Over >60 hides 8"; empty where nothing filters.
+  std::string HidingText() const;
+
+  /// The list's own views, then the player's.
+  std::vector<std::string> Views() const;
+  bool IsOwnView(const std::string& name) const { return state_.Own.contains(name); }
+  /// Shows the columns of a view; of one of the player's own also in its order and its filters.
+  void TakeView(const std::string& name);
+  /// Keeps what is shown under a name; one of that name is replaced.
+  void KeepView(const std::string& name);
+  void ForgetView(const std::string& name);
+
+  /// What is shown, headings first, lines ending as RFC 4180 has it; or of it the chosen rows
+  /// alone.
+  std::string Csv(bool chosenAlone = false) const;
 
  private:
   void ArrangeColumns();
   void ArrangeRows();
+  int RowsHidden(int listColumn) const;
   void SortRows();
   std::string Id(int listColumn) const { return ColumnId(list_.Columns(), listColumn); }
 

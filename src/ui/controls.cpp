@@ -202,6 +202,13 @@ void ListBox::Select(int row) {
   ++Changes();
 }
 
+void ListBox::SelectRows(const std::vector<int>& rows) {
+  for (Row& row : rows_) row.Selected = false;
+  for (const int row : rows)
+    if (row >= 1 && row <= Count()) rows_[static_cast<std::size_t>(row - 1)].Selected = true;
+  ++Changes();
+}
+
 void ListBox::SelectKey(int key) {
   const auto found = std::ranges::find_if(rows_, [key](auto& r) { return r.Key == key; });
   Select(found == rows_.end() ? 0 : static_cast<int>(found - rows_.begin()) + 1);

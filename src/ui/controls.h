@@ -274,7 +274,23 @@ class ListBox : public Control {
   void SelectKey(int key);
   /// Turns one row of a list that takes several.
   void Toggle(int row);
-  bool Multi = false;
+  /// Selects these rows alone, without telling the handler.
+  void SelectRows(const std::vector<int>& rows);
+  bool Multi = false;    // every pick turns a row
+  bool Extends = false;  // a pick chooses one row; more can be added to it
+
+  /// What can be done to the chosen rows: a button of the screen, and a box to choose from first.
+  struct Act {
+    Button* Press;
+    ComboBox* With = nullptr;
+  };
+  std::vector<Act> Acts;
+  /// Columns that are looked at together, by their titles.
+  struct View {
+    std::string Name;
+    std::vector<std::string> Columns;
+  };
+  std::vector<View> Views;
   int Room = 12;          // the most rows that it asks room for
   std::string EmptyText;  // what belongs here and how to get it
   Handler OnPick;

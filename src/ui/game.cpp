@@ -54,6 +54,7 @@ std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   world->Session.StartSize = world->Player().Size;
   slot_ = std::move(files);
   world_ = std::move(world);
+  opened_ = {slot, ReadWorldId(disk_, SlotFolder(slot)).value_or(0)};
   MarkCommitted();
   std::vector<std::string> remarks = slot_->Remarks();
   if (!isOver_) TellMended(MendNumbers(*world_), remarks);

@@ -69,6 +69,12 @@ class Game : public ui::Work {
   /// Brings the open world's files up to date and lets go of it.
   void CloseSlot();
   bool HasWorld() const { return world_ != nullptr; }
+  /// The open slot from 1 and the id of its world, which no other game has; 0 for none.
+  struct OpenGame {
+    int Slot = 0;
+    std::uint64_t World = 0;
+  };
+  OpenGame Opened() const { return HasWorld() ? opened_ : OpenGame(); }
   /// Requires an open world.
   grapplemont::World& World();
 
@@ -90,6 +96,7 @@ class Game : public ui::Work {
   grapplemont::Disk& disk_;
   Options options_;
   std::unique_ptr<Slot> slot_;
+  OpenGame opened_;
   std::unique_ptr<grapplemont::World> world_;
   bool isOver_ = false;  // as of the last commit
   std::shared_ptr<ui::Work> joined_;

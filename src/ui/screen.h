@@ -97,6 +97,7 @@ struct Page {
   Reach Lets = Reach::Company;
   bool Large = false;  // a dialog that wants nearly the whole window, whatever is in it
   Box Body = {};
+  Button* Clear = nullptr;  // takes the screen's own filters off; Backspace does
   // The hub alone: its commands, and what the top bar always says.
   std::vector<SideGroup> Side = {};
   std::vector<Label*> Top = {};

@@ -68,6 +68,7 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
       {"click Off", "\"cmdoff\" is disabled."},
       {"click Hidden", "frmSample has no control \"Hidden\"."},
       {"pick lstpeople", "Write it as \"pick NAME ROW-or-TEXT\"."},
+      {"also lstpeople 1", "\"lstpeople\" takes one row at a time."},
       {"check chkday maybe", "Write it as \"check NAME on|off\"."},
       {"follow ", "Write it as \"follow NAME\"."},
       {"follow Ilya Marsh", "frmSample shows no link \"Ilya Marsh\"."},

@@ -181,7 +181,7 @@ TEST_F(TheLinks, OfATableOpenWithCtrlOrFromItsMenu) {
 
   const auto offered = [&](int row) {
     emit grid.customContextMenuRequested(CellAt(row, 3));
-    auto* menu = Play.Window.findChild<QMenu*>("columnsmenu");
+    auto* menu = Play.Window.findChild<QMenu*>("rowmenu");
     QStringList words;
     for (QAction* action : menu->actions())
       if (action->text().startsWith("Open ")) {

@@ -106,8 +106,8 @@ class DeskPage : public ui::Screen {
 /// A page with a table of ten people.
 class PeoplePage : public ui::Screen {
  public:
-  PeoplePage(ui::Desk& desk, Log& log, bool multi = false)
-      : Screen(desk, "frmPeople", "People"), log_(log) {
+  PeoplePage(ui::Desk& desk, Log& log, bool multi = false, ui::Role role = ui::Role::Page)
+      : Screen(desk, "frmPeople", "People", role), log_(log) {
     lstpeople.Multi = multi;
     // The first column holds numbers that are not those of the rows.
     int row = 0;

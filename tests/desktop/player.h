@@ -20,7 +20,8 @@ namespace grapplemont::test {
 class Player {
  public:
   explicit Player(const QString& settings = {})
-      : Window(Desk, {QString::fromStdString(Checkout("/gfx")), settings, [this] { ++Closings; }}) {
+      : Window(Desk, {QString::fromStdString(Checkout("/gfx")), settings, [this] { ++Closings; },
+                      [this] { return Game; }}) {
     Window.show();
   }
 
@@ -66,8 +67,8 @@ class Player {
   desktop::TableGrid& Grid(const QString& list) {
     return *See(list)->findChild<desktop::TableGrid*>();
   }
-  void ClickRow(const QString& list, int row) {
-    QTest::mouseClick(Grid(list).viewport(), Qt::LeftButton, {}, RowAt(list, row));
+  void ClickRow(const QString& list, int row, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+    QTest::mouseClick(Grid(list).viewport(), Qt::LeftButton, keys, RowAt(list, row));
   }
   void DoubleClickRow(const QString& list, int row) {
     ClickRow(list, row);
@@ -107,6 +108,7 @@ class Player {
 
   desktop::WindowDesk Desk;
   int Closings = 0;
+  desktop::OpenGame Game;
   desktop::Window Window;
 
  private:

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMenu>
+#include <QScrollBar>
 #include <QTemporaryDir>
 
 #include "desktop/player.h"
@@ -115,6 +116,67 @@ TEST_F(TheTableInTheWindow, TogglesRowsOfAListThatTakesSeveral) {
   EXPECT_EQ(Page->lstpeople.Keys(), std::vector<int>({103, 104}));
 }
 
+TEST_F(TheTableInTheWindow, AddsRowsWithCtrlAndShiftAndOffersWhatCanBeDoneToThem) {
+  Open();
+  Page->lstpeople.Extends = true;
+  Page->lstpeople.Acts = {{&Page->cmdback}};
+  using Keys = std::vector<int>;
+  Play.ClickRow("lstpeople", 1);
+  Play.ClickRow("lstpeople", 3, Qt::ControlModifier);
+  EXPECT_EQ(Page->lstpeople.Keys(), Keys({102, 104}));
+  Play.ClickRow("lstpeople", 5, Qt::ShiftModifier);
+  EXPECT_EQ(Page->lstpeople.Keys(), Keys({104, 105, 106})) << "from the one added last";
+  Play.Key(Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(Page->lstpeople.Keys(), Keys({104, 105, 106, 107}));
+  Play.Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text().count("\r\n"), 5) << "the chosen ones alone";
+  Play.Key(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(Page->lstpeople.Keys().size(), 10U);
+  Play.Type("heel");
+  EXPECT_EQ(Page->lstpeople.Keys(), Keys({102, 104, 106, 108, 110})) << "nobody who is not seen";
+  emit Play.Grid("lstpeople").customContextMenuRequested(QPoint(30, 10));
+  EXPECT_EQ(Page->lstpeople.Keys().size(), 5U) << "the menu is for all of them";
+  for (QAction* action : Play.Window.findChild<QMenu*>("rowmenu")->actions())
+    if (action->text() == "Back") action->trigger();
+  EXPECT_NE(Play.Top(), "frmPeople");
+}
+
+TEST_F(TheTableInTheWindow, SaysWhatHidesItsRowsAndShowsAllByOneKey) {
+  Open();
+  QHeaderView& heading = Play.Grid("lstpeople").Heading();
+  emit heading.customContextMenuRequested(QPoint(heading.sectionViewportPosition(2) + 10, 10));
+  auto* menu = Play.Window.findChild<QMenu*>("headingmenu");
+  QTest::keyClicks(menu->findChild<QLineEdit*>("columnfilter"), "Heel");
+  menu->close();
+  Play.See("lstpeople_search")->setFocus();
+  Play.Type("Over >90");
+  EXPECT_EQ(Play.TextOf("lstpeople_filtered"),
+            "0 of 10: \"Over >90\" hides 10, Disp. Heel hides 5");
+  Play.Key(Qt::Key_Down);
+  Play.Key(Qt::Key_Backspace);
+  EXPECT_EQ(Names().size(), 10U);
+  EXPECT_FALSE(Play.Sees("lstpeople_filtered"));
+}
+
+TEST_F(TheTableInTheWindow, KeepsTheNameInPlaceWhileTheRestScrolls) {
+  Open();
+  std::vector<ui::Column> columns = Page->lstpeople.Columns();
+  for (int more = 0; more < 30; ++more)
+    columns.push_back({"A Long Heading " + std::to_string(more), ui::ColumnKind::Number});
+  Page->lstpeople.SetColumns(columns);
+  Play.Window.Sync();
+  QApplication::processEvents();
+  desktop::TableGrid& grid = Play.Grid("lstpeople");
+  const int name = grid.columnWidth(0) + 5, row = grid.rowHeight(0) / 2;
+  grid.horizontalScrollBar()->setValue(900);
+  EXPECT_EQ(grid.indexAt(QPoint(name, row)).column(), 1);
+  EXPECT_EQ(grid.visualRect(grid.indexAt(QPoint(name, row))).left(), grid.columnWidth(0));
+  EXPECT_GT(grid.indexAt(QPoint(grid.viewport()->width() - 5, row)).column(), 5);
+  QTest::mouseClick(grid.Heading().viewport(), Qt::LeftButton, {}, QPoint(name, 10));
+  EXPECT_EQ(Names().front(), "Bram") << "its heading sorts by it";
+  EXPECT_EQ(grid.horizontalScrollBar()->value(), 900);
+}
+
 TEST_F(TheTableInTheWindow, FollowsRowsThatComeAndGo) {
   Open();
   Play.ClickRow("lstpeople", 4);
@@ -155,6 +217,36 @@ TEST(TheSettings, KeepATableAndTheLookBeyondTheProgram) {
   EXPECT_EQ(again.TextOf("lstpeople_search"), "heel");
   EXPECT_EQ(again.See("cmdback")->height(), height);
   again.Key(Qt::Key_0, Qt::ControlModifier);
+}
+
+TEST(TheSettings, KeepTheTablesOfPagesWithTheirGameAndOfNothingElse) {
+  Log notes;
+  Player play;
+  const auto shown = [&](const char* slot, const char* world, ui::Role role, const char* filter) {
+    play.Game = {slot, world};
+    play.Open(std::make_unique<DeskPage>(play.Desk, notes));
+    play.Open(std::make_unique<PeoplePage>(play.Desk, notes, false, role));
+    const std::size_t rows = play.Column("lstpeople", 1).size();
+    if (*filter) {
+      play.See("lstpeople_search")->setFocus();
+      play.Type(filter);
+    }
+    play.Key(Qt::Key_Plus, Qt::ControlModifier);  // makes the views again
+    EXPECT_EQ(play.TextOf("lstpeople_search").isEmpty(), rows == 10 && !*filter);
+    play.Key(Qt::Key_0, Qt::ControlModifier);
+    play.Desk.CloseAll();
+    play.Window.Sync();
+    return rows;
+  };
+  const ui::Role page = ui::Role::Page;
+  EXPECT_EQ(shown("s1", "a", page, "heel"), 10U);
+  EXPECT_EQ(shown("s1", "a", page, ""), 5U);
+  EXPECT_EQ(shown("s2", "b", page, ""), 10U) << "another slot";
+  EXPECT_EQ(shown("s1", "a", page, ""), 5U);
+  EXPECT_EQ(shown("s1", "c", page, ""), 10U) << "another game in the same slot";
+  EXPECT_EQ(shown("s1", "a", page, ""), 10U) << "gone with its world";
+  EXPECT_EQ(shown("s1", "a", ui::Role::Dialog, "heel"), 10U);
+  EXPECT_EQ(shown("s1", "a", ui::Role::Dialog, ""), 10U) << "a picker opens clean";
 }
 
 // Buttons that stand in the rows of a table.

@@ -68,8 +68,12 @@ TEST(frmRoster, FiltersByOneAndByAll) {
   EXPECT_TRUE(play.Desk.FirstColumn("lstwres").empty());
   EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
   EXPECT_FALSE(play.Desk.Enabled("cmdposition"));
+  EXPECT_EQ(play.Desk.Text("lblfilters"), "0 of 3: Position Jobber hides 2, Split Red hides 2");
   play.Desk.Pick("cmbsplit", "All");
   EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Low Down"}));
+  play.Desk.Click("cmdclear");
+  EXPECT_EQ(play.Desk.Rows("lstwres").size(), 3U);
+  EXPECT_FALSE(play.Desk.Visible("cmdclear"));
 }
 
 TEST(frmRoster, PickingMakesNoRowsAnew) {
@@ -117,6 +121,40 @@ TEST(frmRoster, SendsAwayAndRecalls) {
   EXPECT_EQ(play.Desk.Text("cmdcamp"), "Recall From Camp");
   play.Desk.Click("cmdcamp");
   EXPECT_EQ(low.Position, kJobber);
+}
+
+TEST(frmRoster, ActsOnSeveralAndSaysToWhomAndToWhomNot) {
+  GameOnWorld play(Business());
+  const auto choose = [&](std::vector<int> rows) {
+    EXPECT_EQ(ui::PickRows(play.Desk, *play.Desk.Top(), "lstwres", std::move(rows)), "");
+  };
+  play.Desk.Open("frmRoster");
+  choose({1, 2, 3});
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, $50,000 a month. 3 are chosen.");
+  EXPECT_EQ(play.Desk.Text("cmdposition"), "Move (3)");
+  play.Desk.Pick("cmbnewposition", "Midcard");
+  EXPECT_EQ(play.Desk.Text("lblmove"), "Morale: Bram Okafor -10, Low Down +5");
+  play.Desk.ExpectSay("Move",
+                      "Done: Bram Okafor, Low Down.\nNot done:\n"
+                      "Ilya Marsh has this position already.");
+  play.Desk.Click("cmdposition");
+  EXPECT_EQ(Named(play.World().Workers(), kBram).Position, kMidcard);
+  EXPECT_EQ(play.Desk.Selected("lstwres"), std::vector<int>({1, 2, 3})) << "the choice stays";
+
+  choose({1, 2});
+  play.Desk.ExpectSay("Send To Development", "Done: Bram Okafor, Ilya Marsh.");
+  play.Desk.Click("cmddevelopment");
+  EXPECT_EQ(play.Desk.Text("cmddevelopment"), "Recall From Development (2)");
+  play.Desk.ExpectSay("Recall From Development", "Done: Bram Okafor, Ilya Marsh.");
+  play.Desk.Click("cmddevelopment");
+  EXPECT_EQ(Named(play.World().Workers(), "Ilya Marsh").Position, kMidcard);
+
+  Named(play.World().Workers(), kBram).Morale = 10;
+  Named(play.World().Workers(), "Ilya Marsh").Morale = 10;
+  choose({1, 2, 3});
+  play.Desk.ExpectAsk("Release", kAnyText, true, ui::Default::No);
+  play.Desk.Click("cmdrelease");
+  EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Low Down"}));
 }
 
 TEST(frmRoster, SetsTheSplit) {
@@ -171,6 +209,16 @@ TEST(frmOtherWres, ShowsEverybodyElse) {
   play.Desk.Pick("cmbbond", "All");
   play.Desk.Pick("lstwres", "Fixed Fay");
   EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
+}
+
+TEST(frmOtherWres, ShortlistsSeveralAtOnce) {
+  GameOnWorld play(Business());
+  play.Desk.Open("frmOtherWres");
+  EXPECT_EQ(ui::PickToo(play.Desk, *play.Desk.Top(), "lstwres", "Free Fred"), "");
+  play.Desk.ExpectSay("Put On Shortlist", "Done: Rival Ray, Free Fred.");
+  play.Desk.Click("cmdshortlist");
+  EXPECT_EQ(play.Desk.Text("cmdshortlist"), "Take Off Shortlist (2)");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, 2 on your shortlist. 2 are chosen.");
 }
 
 TEST(frmOtherWres, KeepsTheShortlist) {

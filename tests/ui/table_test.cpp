@@ -192,6 +192,28 @@ TEST_F(TheTable, CopiesWhatItShowsAsCsv) {
             "\"$1,000\",\"A \"\"Quoted\"\", Name\",5\r\n");
 }
 
+TEST_F(TheTable, ShowsItsViewsAndThePlayersOwn) {
+  List.Views = {{"Short", {"Over", "Name"}}};
+  Table.TakeView("Short");
+  EXPECT_EQ(Table.Columns(), Numbers({2, 0}));
+  Table.Show(3, true);
+  EXPECT_EQ(Table.State().View, "") << "changed, it is no view any more";
+  Table.TurnSort(2, false);
+  Table.SetFilter(1, "Heel");
+  Table.KeepView("Mine");
+  Table.ResetColumns();
+  Table.ClearFilters();
+  Table.TurnSort(2, false);
+  EXPECT_EQ(Table.Views(), std::vector<std::string>({"Short", "Mine"}));
+  Table.TakeView("Mine");
+  EXPECT_EQ(Table.Columns(), Numbers({2, 0, 3}));
+  EXPECT_EQ(Keys(), Numbers({12, 13, 15}));
+  EXPECT_TRUE(Table.SortsDown(2));
+  EXPECT_EQ(Table.HidingText(), "Disp. Heel hides 2");
+  Table.ForgetView("Mine");
+  EXPECT_EQ(Table.Views(), std::vector<std::string>({"Short"}));
+}
+
 TEST(ATableState, ComesBackFromItsText) {
   ui::TableState state;
   state.Sort = {{"Over", true}, {"A; strange: name\\", false}};
@@ -200,6 +222,8 @@ TEST(ATableState, ComesBackFromItsText) {
   state.Order = {"Over", "Name"};
   state.Hidden = {"Wage"};
   state.Widths = {{"Name", 140}};
+  state.View = "Mine; too";
+  state.Own = {{"Mine; too", "hide:Over;order:Name\\:;"}};
   state.TopRow = 12;
   state.CurrentKey = 4711;
   EXPECT_EQ(ui::ReadTableState(ui::Written(state)), state);

@@ -4,6 +4,7 @@
 #include "roster/leaving.h"
 #include "roster/postings.h"
 #include "roster/screens/frmWorker.h"
+#include "roster/screens/screenmany.h"
 #include "roster/screens/screentalks.h"
 #include "roster/signing.h"
 #include "roster/staff.h"
@@ -66,14 +67,7 @@ class frmWresContract : public TalkWith<Worker> {
 
   void cmdrelease_Click() {
     if (!GoesOn()) return;
-    Worker& worker = *Who();
-    const ReleaseAnswer answer = AnswerToRelease(world(), worker);
-    SayAll(answer.Remarks);
-    if (!answer.Accepted ||
-        !desk().Ask("Release", worker.Name + " formally accepts your offer. Proceed?"))
-      return;
-    ReleaseWorker(world(), worker);
-    Close();
+    if (OfferRelease(game_, *Who())) Close();
   }
 
   void cmdterminate_Click() {

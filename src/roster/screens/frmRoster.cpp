@@ -1,127 +1,18 @@
-#include <algorithm>
-#include <span>
-
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "roster/market.h"
 #include "roster/postings.h"
-#include "roster/screens/frmWorker.h"
+#include "roster/screens/screenmany.h"
 #include "roster/screens/screentalks.h"
-#include "roster/screens/screenworkers.h"
+#include "roster/screens/workerlist.h"
 #include "roster/talks.h"
 #include "storylines/screens/screenpeople.h"
-#include "storylines/storynames.h"
 
 namespace grapplemont {
 
 namespace {
-
-/// A table of workers under its quick filters, the page of the chosen one beside it. Rows are made
-/// when the list or a filter changes; picking one writes his page and no more.
-class WorkerListScreen : public GameScreen {
- public:
-  WorkerListScreen(Game& game, std::string name, std::string title, PeopleList list,
-                   std::span<const FilterFamily> filters)
-      : GameScreen(game, std::move(name), std::move(title), {.Manages = true}),
-        cmbfilters("", static_cast<int>(filters.size()),
-                   [&](const std::string&, int i) {
-                     const FilterFamily& family = filters[Index(i)];
-                     auto combo = std::make_unique<ui::ComboBox>(*this, std::string(family.Control),
-                                                                 [this] { ShowList(); });
-                     for (const WorkerFilter& row : family.Rows) combo->Add(std::string(row.Label));
-                     combo->Select(1);
-                     return combo;
-                   }),
-        lstwres(*this, "lstwres", WorkerColumns(list), ui::Handler([this] { ShowChoice(); })),
-        list_(list),
-        filters_(filters) {}
-
-  void Load() override { ShowList(); }
-
-  /// Where the chosen worker is listed no more, the next one takes his place.
-  void Return() override {
-    const int key = lstwres.Key(), row = lstwres.Selected();
-    ShowList();
-    if (lstwres.Key() == key || row == 0) return;
-    lstwres.Select(std::min(row, lstwres.Count()));
-    ShowChoice();
-  }
-
- protected:
-  /// Who is to be listed at all.
-  virtual bool Belongs(const Worker& worker) const = 0;
-  /// What the screen's own filters say.
-  virtual bool Passes(const Worker&) const { return true; }
-  /// Brings the buttons to the chosen worker; nullptr for nobody.
-  virtual void ShowActions(const Worker* chosen) = 0;
-  virtual std::string Facts(int listed) const = 0;
-
-  using GameScreen::world;
-  const World& world() const { return game_.World(); }
-  /// nullptr for nobody, or somebody who has left the world.
-  const Worker* Chosen() { return world().FindWorker(lstwres.Key()); }
-
-  /// The most popular come first; the choice stays where it can, else the first row is chosen.
-  void ShowList() {
-    std::vector<const Worker*> people;
-    listed_ = 0;
-    for (const Worker& worker : world().Workers()) {
-      if (!Belongs(worker)) continue;
-      ++listed_;
-      if (FitsFilters(worker)) people.push_back(&worker);
-    }
-    SortByOver(people);
-    std::vector<ui::ListBox::Row> rows;
-    rows.reserve(people.size());
-    for (const Worker* worker : people) rows.push_back(WorkerRow(world(), *worker, list_));
-    lstwres.Fill(std::move(rows));
-    if (lstwres.Selected() == 0) lstwres.Select(1);
-    ShowFacts();
-    ShowChoice();
-  }
-
-  void ShowChoice() {
-    const Worker* chosen = Chosen();
-    WriteWorkerPage(txtpage, world(), chosen, "Choose somebody to read about.");
-    ShowActions(chosen);
-  }
-  void ShowFacts() { lblfacts.Text = Facts(listed_); }
-
-  void Negotiate() {
-    if (const Worker* chosen = Chosen()) OpenTalks(game_, *chosen);
-  }
-
-  /// The filters side by side, with the screen's own behind them.
-  ui::Box FilterBox(std::vector<ui::Box> more = {}) {
-    std::vector<ui::Box> fields;
-    for (int i = 1; i <= cmbfilters.Count(); ++i)
-      fields.push_back(ui::Field(std::string(filters_[Index(i)].Caption), cmbfilters(i)));
-    for (ui::Box& box : more) fields.push_back(std::move(box));
-    return ui::Columns(std::move(fields));
-  }
-
-  ui::Label lblfacts{*this, "lblfacts"};
-  ui::Array<ui::ComboBox> cmbfilters;
-  ui::ListBox lstwres;
-  ui::Report txtpage{*this, "txtpage"};
-
- private:
-  static std::size_t Index(int number) { return static_cast<std::size_t>(number - 1); }
-
-  bool FitsFilters(const Worker& worker) {
-    for (int i = 1; i <= cmbfilters.Count(); ++i) {
-      const int row = cmbfilters(i).Selected();
-      if (row > 1 && !filters_[Index(i)].Rows[Index(row)].Keeps(worker)) return false;
-    }
-    return Passes(worker);
-  }
-
-  PeopleList list_;
-  int listed_ = 0;  // before the filters
-  std::span<const FilterFamily> filters_;
-};
 
 /// The player's people, wherever they are posted.
 class frmRoster : public WorkerListScreen {
@@ -131,23 +22,29 @@ class frmRoster : public WorkerListScreen {
     BackBefore(cmdcontract);
     lstwres.EmptyText = "Nobody works for you yet. Look for people under Other Workers.";
     lstwres.OpenWith(cmdcontract);
+    lstwres.Acts = {{&cmdcontract},
+                    {&cmdposition, &cmbnewposition},
+                    {&cmdsplit, &cmbnewsplit},
+                    {&cmddevelopment},
+                    {&cmdcamp},
+                    {&cmdrelease}};
     for (const int position : PositionsToMoveTo())
       cmbnewposition.Add(std::string(PositionText(position)), position);
   }
 
   ui::Page Layout() override {
-    return PageOf(
-        ui::Rows({ui::Group("", {FilterBox({ui::Field("Split", cmbsplit)})}),
+    return WithFilters(PageOf(
+        ui::Rows({FilterBox({ui::Field("Split", cmbsplit)}),
                   ui::Columns(
                       {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
                        ui::Rows({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
                                  ui::Group("Place",
                                            {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
                                             lblmove, ui::Columns({ui::Grow(cmbnewsplit), cmdsplit}),
-                                            ui::Columns({cmddevelopment, cmdcamp})})})
+                                            ui::Columns({cmddevelopment, cmdcamp, cmdrelease})})})
                            .Grow(4)})
                       .Grow(1)}),
-        &lblfacts, {&cmdturn, &cmdmanager, &cmdstables}, &cmdcontract);
+        &lblfacts, {&cmdturn, &cmdmanager, &cmdstables}, &cmdcontract));
   }
 
   void Load() override {
@@ -161,6 +58,8 @@ class frmRoster : public WorkerListScreen {
   bool Passes(const Worker& worker) const override {
     return cmbsplit.Selected() <= 1 || worker.Split == cmbsplit.Text.Get();
   }
+
+  ui::ComboBox* OwnFilter() override { return &cmbsplit; }
 
   std::string Facts(int listed) const override {
     return Counted(listed, "worker") + ", " +
@@ -193,60 +92,112 @@ class frmRoster : public WorkerListScreen {
   }
 
   void ShowPostings(const Worker* chosen) {
-    const bool away = chosen && IsInDevelopment(*chosen), camps = chosen && IsInCamp(*chosen);
-    cmddevelopment.Text = away ? "Recall From Development" : "Send To Development";
-    cmdcamp.Text = camps ? "Recall From Camp" : "Send To Camp";
-    EnableUnless(cmddevelopment, !chosen ? kNobodyChosen
-                                 : away  ? WhyNotRecall(world(), *chosen)
-                                         : WhyNotToDevelopment(world(), *chosen));
-    EnableUnless(cmdcamp, !chosen ? kNobodyChosen
-                          : camps ? WhyNotRecall(world(), *chosen)
-                                  : WhyNotToCamp(world(), *chosen));
+    const std::vector<int> all = AllChosen();
+    const ManyAct development = Development(chosen), camp = Camp(chosen);
+    cmddevelopment.Text = CaptionFor(development.Title, all);
+    cmdcamp.Text = CaptionFor(camp.Title, all);
+    cmdrelease.Text = CaptionFor("Offer Release", all);
+    EnableUnless(cmddevelopment, WhyToNobody(world(), all, development));
+    EnableUnless(cmdcamp, WhyToNobody(world(), all, camp));
+    EnableUnless(cmdrelease, WhyToNobody(world(), all, {"", NoTalks(), {}}));
+  }
+
+  std::function<std::string(const Worker&)> NoTalks() {
+    return [this](const Worker& worker) { return WhyNoTalks(game_, &worker); };
+  }
+
+  // What the buttons do to all who are chosen; the first of them says which way.
+
+  ManyAct Development(const Worker* first) {
+    if (first && IsInDevelopment(*first))
+      return {"Recall From Development",
+              [this](const Worker& worker) {
+                return IsInDevelopment(worker) ? WhyNotRecall(world(), worker)
+                                               : worker.Name + " is not in development.";
+              },
+              [](Worker& worker) { EndPosting(worker); }};
+    return {"Send To Development",
+            [this](const Worker& worker) { return WhyNotToDevelopment(world(), worker); },
+            [](Worker& worker) { SendToDevelopment(worker); }};
+  }
+  ManyAct Camp(const Worker* first) {
+    if (first && IsInCamp(*first))
+      return {"Recall From Camp",
+              [this](const Worker& worker) {
+                return IsInCamp(worker) ? WhyNotRecall(world(), worker)
+                                        : worker.Name + " is not in the training camp.";
+              },
+              [](Worker& worker) { EndPosting(worker); }};
+    return {"Send To Camp", [this](const Worker& worker) { return WhyNotToCamp(world(), worker); },
+            [](Worker& worker) { SendToCamp(worker); }};
+  }
+  ManyAct Move() {
+    const int to = cmbnewposition.Key();
+    return {"Move", [this, to](const Worker& worker) { return WhyNotMove(world(), worker, to); },
+            [this, to](Worker& worker) { MovePosition(world(), worker, to); }};
+  }
+  ManyAct SetSplit() {
+    const std::string to = cmbnewsplit.Text.Get();
+    return {"Set Split",
+            [this, to](const Worker& worker) {
+              return cmbnewsplit.Count() <= 1 ? "Your promotion has no split roster."
+                                              : WhyNotSplit(world(), worker, to);
+            },
+            [to](Worker& worker) { AssignSplit(worker, to); }};
   }
 
   /// Says beforehand what the move would do.
   void ShowMove() {
-    const Worker* chosen = Chosen();
-    const int to = cmbnewposition.Key();
-    const std::string why = chosen ? WhyNotMove(world(), *chosen, to) : kNobodyChosen;
+    const std::vector<int> all = AllChosen();
+    const std::string why = WhyToNobody(world(), all, Move());
+    cmdposition.Text = CaptionFor("Move", all);
     EnableUnless(cmdposition, why);
-    const int morale = why.empty() ? MoraleOfMove(chosen->Position, to) : 0;
-    std::string words = why.empty() ? EndedByMove(world(), *chosen, to) : "";
-    if (morale < 0) words = "A fall that costs " + std::to_string(-morale) + " morale. " + words;
-    if (morale > 0) words = "A rise that gives " + std::to_string(morale) + " morale. " + words;
+    const std::string words = !why.empty()     ? ""
+                              : all.size() > 1 ? OutcomeOfMoves(all)
+                                               : OutcomeOfMove(*world().FindWorker(all.front()));
     lblmove.Text = words;
     lblmove.Visible = !words.empty();
   }
 
-  void ShowSplit() {
-    const Worker* chosen = Chosen();
-    EnableUnless(cmdsplit, !chosen ? kNobodyChosen
-                           : cmbnewsplit.Count() <= 1
-                               ? "Your promotion has no split roster."
-                               : WhyNotSplit(world(), *chosen, cmbnewsplit.Text.Get()));
+  std::string OutcomeOfMove(const Worker& worker) {
+    const int to = cmbnewposition.Key(), morale = MoraleOfMove(worker.Position, to);
+    std::string words = EndedByMove(world(), worker, to);
+    if (morale < 0) words = "A fall that costs " + std::to_string(-morale) + " morale. " + words;
+    if (morale > 0) words = "A rise that gives " + std::to_string(morale) + " morale. " + words;
+    return words;
   }
 
-  /// Acts on the chosen worker, who may have gone since the list was made.
-  template <class Does>
-  void Act(Does does) {
-    Worker* worker = world().FindWorker(lstwres.Key());
-    if (worker && Belongs(*worker)) does(*worker);
+  std::string OutcomeOfMoves(const std::vector<int>& all) {
+    const int to = cmbnewposition.Key();
+    const ManyAct move = Move();
+    std::string words;
+    for (const int uid : all)
+      if (const Worker* worker = world().FindWorker(uid); worker && move.WhyNot(*worker).empty())
+        if (const int morale = MoraleOfMove(worker->Position, to); morale != 0)
+          words += (words.empty() ? "Morale: " : ", ") + worker->Name + (morale < 0 ? " " : " +") +
+                   std::to_string(morale);
+    return words;
+  }
+
+  void ShowSplit() {
+    const std::vector<int> all = AllChosen();
+    cmdsplit.Text = CaptionFor("Set Split", all);
+    EnableUnless(cmdsplit, WhyToNobody(world(), all, SetSplit()));
+  }
+
+  /// Acts on the chosen workers, who may have gone since the list was made.
+  void Act(const ManyAct& act) {
+    DoToAll(game_, AllChosen(), act);
     ShowList();
   }
 
-  void cmdposition_Click() {
-    Act([this](Worker& worker) { MovePosition(world(), worker, cmbnewposition.Key()); });
-  }
-  void cmdsplit_Click() {
-    Act([this](Worker& worker) { AssignSplit(worker, cmbnewsplit.Text.Get()); });
-  }
-  void cmddevelopment_Click() {
-    Act([](Worker& worker) {
-      IsInDevelopment(worker) ? EndPosting(worker) : SendToDevelopment(worker);
-    });
-  }
-  void cmdcamp_Click() {
-    Act([](Worker& worker) { IsInCamp(worker) ? EndPosting(worker) : SendToCamp(worker); });
+  void cmdposition_Click() { Act(Move()); }
+  void cmdsplit_Click() { Act(SetSplit()); }
+  void cmddevelopment_Click() { Act(Development(Chosen())); }
+  void cmdcamp_Click() { Act(Camp(Chosen())); }
+  void cmdrelease_Click() {
+    OfferReleases(game_, AllChosen(), NoTalks());
+    WorkerListScreen::Return();
   }
 
   ui::ComboBox cmbsplit{*this, "cmbsplit", &frmRoster::ShowList};
@@ -258,6 +209,7 @@ class frmRoster : public WorkerListScreen {
   ui::Button cmddevelopment{*this, "cmddevelopment", "Send To Development",
                             &frmRoster::cmddevelopment_Click};
   ui::Button cmdcamp{*this, "cmdcamp", "Send To Camp", &frmRoster::cmdcamp_Click};
+  ui::Button cmdrelease{*this, "cmdrelease", "Offer Release", &frmRoster::cmdrelease_Click};
   ui::Button cmdturn{*this, "cmdturn", "Turns", [this] { desk().Open("frmTurn"); }};
   ui::Button cmdmanager{*this, "cmdmanager", "Managers", [this] { desk().Open("frmManagers"); }};
   ui::Button cmdstables{*this, "cmdstables", "Stables", [this] { desk().Open("frmStables"); }};
@@ -273,14 +225,15 @@ class frmOtherWres : public WorkerListScreen {
     BackBefore(cmdcontract);
     lstwres.EmptyText = "There is nobody else who fits.";
     lstwres.OpenWith(cmdcontract);
+    lstwres.Acts = {{&cmdcontract}, {&cmdshortlist}};
   }
 
   ui::Page Layout() override {
-    return PageOf(ui::Rows({ui::Group("", {FilterBox()}),
-                            ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
-                                         ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
-                                .Grow(1)}),
-                  &lblfacts, {&cmdlist, &cmdshortlist}, &cmdcontract);
+    return WithFilters(
+        PageOf(ui::Rows({FilterBox(), ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
+                                                   ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
+                                          .Grow(1)}),
+               &lblfacts, {&cmdlist, &cmdshortlist}, &cmdcontract));
   }
 
  protected:
@@ -295,13 +248,30 @@ class frmOtherWres : public WorkerListScreen {
   void ShowActions(const Worker* chosen) override {
     EnableUnless(cmdcontract, WhyNoTalks(game_, chosen));
     ShowShortlistButton(game_, chosen, cmdshortlist);
+    cmdshortlist.Text = CaptionFor(cmdshortlist.Text.Get(), AllChosen());
   }
 
  private:
-  /// Nobody's row changes by it.
+  /// Puts all on it or takes all off, as the first one of them is. Nobody's row changes by it.
   void cmdshortlist_Click() {
-    TurnShortlist(game_, lstwres.Key());
-    ShowFacts();
+    const std::vector<int> all = AllChosen();
+    if (all.size() < 2) {
+      TurnShortlist(game_, lstwres.Key());
+    } else if (IsShortlisted(world(), all.front())) {
+      DoToAll(game_, all,
+              {"Take Off Shortlist",
+               [this](const Worker& worker) {
+                 return IsShortlisted(world(), worker.Uid)
+                            ? ""
+                            : worker.Name + " is not on your shortlist.";
+               },
+               [this](Worker& worker) { RemoveFromShortlist(world(), worker.Uid); }});
+    } else {
+      DoToAll(game_, all,
+              {"Put On Shortlist",
+               [this](const Worker& worker) { return WhyNotShortlist(world(), worker); },
+               [this](Worker& worker) { AddToShortlist(world(), worker.Uid); }});
+    }
     ShowChoice();
   }
 

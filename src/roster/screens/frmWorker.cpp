@@ -130,6 +130,8 @@ class frmShortlist : public GameScreen {
  public:
   explicit frmShortlist(Game& game) : GameScreen(game, "frmShortlist", "Shortlist") {
     BackBefore(cmdcontract);
+    lstwres.Extends = true;
+    lstwres.Acts = {{&cmdpage}, {&cmdcontract}, {&cmdremove}};
     lstwres.EmptyText = "Nobody yet. Put somebody on it under Other Workers or on a worker's page.";
   }
 
@@ -165,7 +167,7 @@ class frmShortlist : public GameScreen {
   /// The place in the list stays, so that several can be taken off one after the other.
   void cmdremove_Click() {
     const int place = lstwres.Selected();
-    RemoveFromShortlist(world(), lstwres.Key());
+    for (const int uid : lstwres.Keys()) RemoveFromShortlist(world(), uid);
     lstwres.Select(0);
     ShowList();
     lstwres.Select(std::min(place, lstwres.Count()));

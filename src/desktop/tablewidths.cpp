@@ -1,0 +1,135 @@
+#include <QScopedValueRollback>
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+#include "desktop/tableview.h"
+
+// How a table shares out its width among its columns.
+
+namespace grapplemont::desktop {
+
+namespace {
+
+constexpr int kMeasuredRows = 200;  // rows that are measured one by one for a column's width
+
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
+
+/// Hands out the room left over by shares.
+void Spread(int room, const std::vector<double>& shares, std::vector<int>& widths) {
+  double all = std::accumulate(shares.begin(), shares.end(), 0.0);
+  for (std::size_t i = 0; room > 0 && all > 0 && i < widths.size(); ++i) {
+    const int more = static_cast<int>(std::lround(room * shares[i] / all));
+    widths[i] += more;
+    room -= more;
+    all -= shares[i];
+  }
+}
+
+/// Takes what is missing bit by bit from what exceeds its least width most; gives what is missing
+/// still.
+int Squeeze(int missing, const std::vector<int>& least, std::vector<int>& widths) {
+  while (missing > 0) {
+    std::size_t widest = 0;
+    for (std::size_t i = 1; i < widths.size(); ++i)
+      if (widths[i] - least[i] > widths[widest] - least[widest]) widest = i;
+    const int take = std::min({widths[widest] - least[widest], missing, Px(16)});
+    if (take <= 0) break;
+    widths[widest] -= take;
+    missing -= take;
+  }
+  return missing;
+}
+
+}  // namespace
+
+std::vector<int> TableView::NaturalWidths() const {
+  std::vector<int> widths;
+  for (const int column : table_.Columns()) {
+    const TableHeading& heading = grid_->Heading();
+    int width = std::max(heading.HeadingWidth(column), heading.minimumSectionSize());
+    const auto kind = model_.Column(column).Kind;
+    const ui::Cell* longest = nullptr;
+    const int rows = model_.rowCount();
+    for (int row = 0; row < rows; ++row) {
+      const ui::Cell& cell = table_.At(row, column);
+      if (row < kMeasuredRows) {
+        width = std::max(width, CellWidth(cell, kind));
+      } else if (!longest || cell.Text.size() > longest->Text.size()) {
+        longest = &cell;
+      }
+    }
+    if (longest) width = std::max(width, CellWidth(*longest, kind));
+    if (rows > 0) width += DrawnWidth(model_.Column(column), table_.RowAt(0).Key);
+    widths.push_back(width);
+  }
+  return widths;
+}
+
+/// The widths below which texts are not cut: the name's and that of the others, and no heading is
+/// ever cut. What is no text keeps its own.
+std::vector<int> TableView::LeastWidths(const std::vector<int>& widths, int name, int other) const {
+  std::vector<int> least;
+  for (const int column : table_.Columns()) {
+    const std::size_t place = least.size();
+    const int text = place == Index(table_.NamePlace()) ? name : other;
+    least.push_back(
+        model_.Column(column).Kind != ui::ColumnKind::Text
+            ? widths[place]
+            : std::min(widths[place], std::max(grid_->Heading().HeadingWidth(column), text)));
+  }
+  return least;
+}
+
+/// What is read first gives way last. Where that is not enough the rest is scrolled beside it, and
+/// it is shown whole, as long as half of the room is left.
+void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
+  const std::size_t name = Index(table_.NamePlace());
+  const int whole = widths[name];
+  missing = Squeeze(missing, LeastWidths(widths, whole, Px(72)), widths);
+  missing = Squeeze(missing, LeastWidths(widths, whole, Px(56)), widths);
+  missing = Squeeze(missing, LeastWidths(widths, Px(110), Px(56)), widths);
+  if (missing > 0)
+    widths[name] = std::min(whole, std::max(widths[name], grid_->viewport()->width() * 45 / 100));
+}
+
+/// The columns up to the name, unless they take most of the room.
+int TableView::PinnedIn(const std::vector<int>& widths) const {
+  const int pinned = widths.empty() ? 0 : table_.NamePlace() + 1;
+  const int taken = std::accumulate(widths.begin(), widths.begin() + pinned, 0);
+  return taken * 10 > grid_->viewport()->width() * 6 ? 0 : pinned;
+}
+
+/// Each column gets what its contents ask for; what is left over goes to those with a share, else
+/// to the texts.
+void TableView::FitColumns() {
+  const auto& shown = table_.Columns();
+  std::vector<int> widths = NaturalWidths();
+  std::vector<double> shares;
+  const bool anyShare =
+      std::ranges::any_of(shown, [&](int column) { return model_.Column(column).Width > 0; });
+  int room = grid_->viewport()->width();
+  for (std::size_t i = 0; i < shown.size(); ++i) {
+    const ui::Column& column = model_.Column(shown[i]);
+    const auto byHand = table_.State().Widths.find(ui::ColumnId(control_.Columns(), shown[i]));
+    double share = anyShare                              ? column.Width
+                   : column.Kind == ui::ColumnKind::Text ? widths[i]
+                                                         : widths[i] * 0.3;
+    if (byHand != table_.State().Widths.end()) {
+      widths[i] = std::max(Px(28), Px(byHand->second));
+      share = 0;
+    }
+    shares.push_back(share);
+    room -= widths[i];
+  }
+  Spread(room, shares, widths);
+  if (room < 0 && !widths.empty()) SqueezeTexts(-room, widths);
+  const QScopedValueRollback<bool> arranging(arranging_, true);
+  for (std::size_t i = 0; i < shown.size(); ++i) grid_->setColumnWidth(shown[i], widths[i]);
+  grid_->SetPinned(rowButtons_.empty() ? PinnedIn(widths) : 0);
+  PlaceRowButtons();
+}
+
+}  // namespace grapplemont::desktop
