@@ -42,6 +42,11 @@ BareButton::BareButton(QWidget* parent, const QString& caption) : QAbstractButto
   setFocusPolicy(Qt::TabFocus);
 }
 
+bool BareButton::event(QEvent* event) {
+  return TipWhatIsCut(*event, *this, text(), WidthWanted() > width()) ||
+         QAbstractButton::event(event);
+}
+
 void BareButton::keyPressEvent(QKeyEvent* event) {
   if (PressesEnter(*event)) return click();
   QAbstractButton::keyPressEvent(event);

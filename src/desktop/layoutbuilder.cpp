@@ -10,6 +10,7 @@
 #include "desktop/card.h"
 #include "desktop/pieces.h"
 #include "desktop/tableview.h"
+#include "desktop/turninglayout.h"
 
 namespace grapplemont::desktop {
 
@@ -20,6 +21,7 @@ using Kind = ui::Box::Kind;
 
 constexpr int kWide = 14, kClose = 8;  // between cards, within a card
 constexpr int kCardSide = 14;
+constexpr int kLeastCard = 220;  // beside another; a narrower one stands below it
 
 bool IsButton(const Box& box) {
   return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
@@ -199,7 +201,8 @@ void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
   if (!across && stretch == 0 && Grows(box)) stretch = 1;
   Widen(*widget, box);
   const bool fills = Grows(box) || (stretch > 0 && !IsButton(box));
-  const Qt::Alignment place = across && !fills ? Qt::AlignVCenter : Qt::Alignment();
+  const Qt::Alignment side = IsCalmButton(box) ? Qt::AlignLeft : Qt::Alignment();
+  const Qt::Alignment place = across && !fills ? Qt::AlignVCenter | side : Qt::Alignment();
   into->addWidget(widget, stretch, place);
 }
 
@@ -220,7 +223,8 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
       box.Parts, [](const Box& part) { return part.Is == Kind::Group || part.Is == Kind::Rows; });
   const bool fields =
       std::ranges::any_of(box.Parts, [](const Box& part) { return part.Is == Kind::Field; });
-  auto* columns = NewLayout<QHBoxLayout>(nullptr, fields || (cards && !inCard_) ? kWide : kClose);
+  auto* columns = new TurningLayout(fields || (cards && !inCard_) ? kWide : kClose,
+                                    cards && !inCard_ ? kLeastCard : 0);
   into->addLayout(columns, ShareOf(box));
   bool filled = cards;
   for (const Box& part : box.Parts) {
@@ -240,7 +244,7 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   }
   auto* card = new Card(holder_);
   auto* inside = NewLayout<QVBoxLayout>(card, kClose, {kCardSide, kCardSide, kCardSide, kCardSide});
-  auto* head = new QHBoxLayout;
+  auto* head = new TurningLayout(kClose);
   inside->addLayout(head);
   if (!box.Title.empty()) head->addWidget(new WrappedLabel(card, Shown(box.Title), bold), 1);
   QWidget* const outer = holder_;

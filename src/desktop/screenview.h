@@ -45,7 +45,7 @@ class ScreenView : public QWidget {
   void BuildWait();
   QLayout* BuildHead(bool withActions);
   void BuildBody(QVBoxLayout* into);
-  void BuildActions(QBoxLayout* into);
+  QLayout* BuildActions();
   std::vector<ui::Button*> ActionsInOrder() const;
   bool HasBackdrop() const;
   void FindBackdrop();
@@ -61,7 +61,7 @@ class ScreenView : public QWidget {
   std::vector<ControlView*> views_;
   std::vector<LayoutBuilder::CardContents> cards_;
   QLabel* title_ = nullptr;
-  QBoxLayout* head_ = nullptr;
+  QBoxLayout* tail_ = nullptr;      // of the head: what is searched and done
   std::vector<ButtonView*> mains_;  // what Enter presses, the first that can be seen
   unsigned seen_ = 0;
   Backdrop backdrop_;

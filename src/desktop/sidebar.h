@@ -20,8 +20,12 @@ class SideLine : public BareButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  int WidthWanted() const override;
 
  private:
+  QFont CaptionFont() const;
+  /// What the badge takes, or the key.
+  int TailWidth() const;
   QString key_;
   bool now_ = false, quiet_ = false;
 };
@@ -34,6 +38,8 @@ class SideBar : public QWidget {
   std::function<void(ui::Button& command)> Pressed;
   std::function<void()> Search, Home;
   void Refresh();
+  /// Large letters leave the page most of a small window.
+  void FitWidth(int window);
   /// The command whose page is open; none: nullptr.
   void SetNow(const ui::Button* command);
 
