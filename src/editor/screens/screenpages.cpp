@@ -114,7 +114,7 @@ constexpr FormGroup kSponsorGroups[] = {{"", 1, "Sponsor", kSponsorEntries},
 // Workers, owners, staff, teams and stables.
 
 constexpr PageColumn kWorkerColumns[] = {
-    {"Name"}, {"Employer"}, {"Position", "Position", kByCode}, {"Disposition", "Side"},
+    {"Name"}, {"Employer"}, {"Position", "Position", kByCode}, {"Disposition"},
     {"Age"},  {"Over"}};
 constexpr FormEntry kWorkerWho[] = {{"Name"},
                                     {"ShortName", "Short name"},
@@ -122,7 +122,7 @@ constexpr FormEntry kWorkerWho[] = {{"Name"},
                                     {"BirthMonth", "Birthday in", "cmbbirthmonth", kBirthMonths},
                                     {"Age"},
                                     {"Weight", "Weight class"},
-                                    {"Disposition", "Side"},
+                                    {"Disposition"},
                                     {"SuperstarLook", "Superstar look", "chksuperstar"},
                                     {"Diva", "Diva (women only)"}};
 constexpr FormEntry kWorkerGifts[] = {{"Speaks", "Can speak"},
