@@ -37,8 +37,8 @@ QTextBlockFormat BlockOf(Style style, bool first) {
     format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
   }
   format.setTopMargin(first ? 0
-                            : Px(style == Style::Heading  ? 14
-                                 : style == Style::Strong ? 8
+                            : Px(style == Style::Heading  ? 20
+                                 : style == Style::Strong ? 16
                                                           : 0));
   format.setBottomMargin(Px(prose ? 6 : 4));
   return format;

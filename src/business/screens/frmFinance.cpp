@@ -210,6 +210,7 @@ class frmWages : public GameScreen {
 };
 
 std::string TermText(int months) {
+  if (months == 1) return "1 Month";
   if (months <= 0 || months % 12 != 0) return std::to_string(months) + " Months";
   return months == 12 ? "1 Year" : std::to_string(months / 12) + " Years";
 }
