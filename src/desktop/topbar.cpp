@@ -26,6 +26,7 @@ HubFrame::HubFrame(const ui::Page& page, Stage& stage, QWidget* parent)
 namespace {
 
 constexpr int kHeight = 52, kSide = 20, kBetween = 18, kSecondRow = 10;
+constexpr int kEnterSign = 20;                  // what the sign adds to a button
 constexpr int kStep = 24;                       // a number's room grows by so much at once
 constexpr int kShortName = 96, kBareName = 88;  // what is left of a long name
 
@@ -204,7 +205,8 @@ void TopBar::Fit() {
                                              {false, Form::Short},
                                              {false, Form::Bare}};
   const int room = width() - 2 * Px(kSide);
-  const int actions = Px(kBetween) + actions_->sizeHint().width();
+  const int enter = main_ && !main_->ShowsEnter() ? Px(kEnterSign) : 0;  // it comes and goes
+  const int actions = Px(kBetween) + actions_->sizeHint().width() + enter;
   for (const auto& [oneRow, form] : kWays)
     if (form == Form::Bare || FactsWidth(form) + (oneRow ? actions : 0) <= room)
       return Take(oneRow, form);
