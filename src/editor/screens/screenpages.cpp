@@ -114,8 +114,7 @@ constexpr FormGroup kSponsorGroups[] = {{"", 1, "Sponsor", kSponsorEntries},
 // Workers, owners, staff, teams and stables.
 
 constexpr PageColumn kWorkerColumns[] = {
-    {"Name"}, {"Employer"}, {"Position", "Position", kByCode}, {"Disposition"},
-    {"Age"},  {"Over"}};
+    {"Name"}, {"Employer"}, {"Position", "Position", kByCode}, {"Disposition"}, {"Age"}, {"Over"}};
 constexpr FormEntry kWorkerWho[] = {{"Name"},
                                     {"ShortName", "Short name"},
                                     {"Gender", "Sex"},
