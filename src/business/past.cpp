@@ -136,9 +136,9 @@ std::vector<MonthOfMoney> MoneyByMonth(const World& world, const Promotion& prom
   std::vector<MonthOfMoney> months;
   const HistoryEntry* before = nullptr;
   for (const HistoryEntry* entry : MonthsOf(world, promotion.Uid)) {
-    const long long books = 0LL + entry->Income - entry->Costs;
-    months.push_back({MonthClosedBefore(entry->On), entry->Money, entry->Income, entry->Costs, {}});
-    if (before) months.back().Beside = 0LL + entry->Money - before->Money - books;
+    const long long money = entry->Money, in = entry->Income, out = entry->Costs;
+    months.push_back({MonthClosedBefore(entry->On), money, in, out, {}});
+    if (before) months.back().Beside = money - before->Money - (in - out);
     before = entry;
   }
   KeepLast(months, kMonthsShown);
