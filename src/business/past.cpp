@@ -46,6 +46,12 @@ std::string MonthClosedBefore(Day first) {
 // What a chart can show and still be read.
 constexpr int kMonthsShown = 60, kWeeksShown = 52;
 
+/// "09/03".
+std::string DayAndMonth(Day on) {
+  constexpr std::size_t kLetters = 5;
+  return ShortDate(on).substr(0, kLetters);
+}
+
 std::vector<MoneyPoint> OnRecord(const Promotion& promotion, Day today) {
   std::vector<MoneyPoint> points;
   int months = 0;
@@ -117,17 +123,35 @@ std::vector<MoneyPoint> MoneyOverTime(const World& world, const Promotion& promo
   KeepLast(points, kMonthsShown);
   std::vector<MoneyPoint> record = OnRecord(promotion, world.Today());
   if (record.size() > points.size()) points = std::move(record);
+  const Day first = MonthsBefore(world.Today(), 0);
+  for (const HistoryEntry* show : Entries(world, promotion.Uid, [&](const HistoryEntry& entry) {
+         return IsShow(entry) && Day(entry.On) >= first;
+       }))
+    points.push_back({DayAndMonth(show->On), show->Money});
   points.push_back({"Today", promotion.Money});
   return points;
 }
 
+std::vector<MonthOfMoney> MoneyByMonth(const World& world, const Promotion& promotion) {
+  std::vector<MonthOfMoney> months;
+  const HistoryEntry* before = nullptr;
+  for (const HistoryEntry* entry : MonthsOf(world, promotion.Uid)) {
+    const long long money = entry->Money, in = entry->Income, out = entry->Costs;
+    months.push_back({MonthClosedBefore(entry->On), money, in, out, {}});
+    if (before) months.back().Beside = money - before->Money - (in - out);
+    before = entry;
+  }
+  KeepLast(months, kMonthsShown);
+  std::ranges::reverse(months);
+  return months;
+}
+
 TvPast TvPastOf(const World& world, std::string_view show) {
-  constexpr std::size_t kDayAndMonth = 5;  // letters of a short date
   TvPast past;
   for (const HistoryEntry* entry : Entries(world, world.PlayerUid(), [&](const HistoryEntry& e) {
          return e.Kind == kPastTv && e.Name == show && !e.CalledOff;
        })) {
-    past.Days.push_back(ShortDate(entry->On).substr(0, kDayAndMonth));
+    past.Days.push_back(DayAndMonth(entry->On));
     past.Ratings.push_back(entry->Viewers / 100.0);
     past.Attendance.push_back(entry->Attendance);
   }

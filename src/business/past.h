@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,16 +33,25 @@ void RememberMonth(World& world, const Promotion& promotion);
 /// The first of the month that lies so many months before the day's own.
 Day MonthsBefore(Day day, int months);
 
-/// What a promotion had when a month was closed.
+/// What a promotion had when a month was closed or a show was over.
 struct MoneyPoint {
-  std::string Month;  // "Mar 2026", the month that was closed
+  std::string When;  // "Mar 2026", the month that was closed, or "09/04", the day of the show
   int Dollars;
 };
 
-/// A promotion's money at the ends of the last five years' months, oldest first, and today as
-/// "Today". From what the slot remembers; where the promotion's own record goes back further (at
-/// most five months), from that.
+/// A promotion's money at the ends of the last five years' months, oldest first, after the present
+/// month's shows, and today as "Today". From what the slot remembers; where the promotion's own
+/// record goes back further (at most five months), from that.
 std::vector<MoneyPoint> MoneyOverTime(const World& world, const Promotion& promotion);
+
+/// What a month did to a promotion's money.
+struct MonthOfMoney {
+  std::string Month;  // "Mar 2026"
+  long long AtEnd, In, Out;
+  std::optional<long long> Beside;  // what moved it beside the books; unknown for the first
+};
+/// The months of the last five years that the slot remembers, the latest first.
+std::vector<MonthOfMoney> MoneyByMonth(const World& world, const Promotion& promotion);
 
 /// How a show of the player's went, week by week, the oldest first.
 struct TvPast {

@@ -42,6 +42,11 @@ BareButton::BareButton(QWidget* parent, const QString& caption) : QAbstractButto
   setFocusPolicy(Qt::TabFocus);
 }
 
+bool BareButton::event(QEvent* event) {
+  return TipWhatIsCut(*event, *this, text(), WidthWanted() > width()) ||
+         QAbstractButton::event(event);
+}
+
 /// Some desktops have Enter press whatever button has the keyboard; here it is the page's.
 void BareButton::keyPressEvent(QKeyEvent* event) {
   if (IsEnter(event->key())) return event->ignore();

@@ -22,7 +22,10 @@ class BareButton : public QAbstractButton {
     updateGeometry();
     update();
   }
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  /// The width at which the whole caption is shown; a narrower one tells it in a tip.
+  virtual int WidthWanted() const { return sizeHint().width(); }
   void enterEvent(QEnterEvent*) override { update(); }
   void leaveEvent(QEvent*) override { update(); }
   /// The width of the badge's spot; 0 without a badge.

@@ -33,7 +33,14 @@ QSize FlowLayout::sizeHint() const {
   return {width, height};
 }
 
+void FlowLayout::SetOneRow(bool oneRow) {
+  if (oneRow_ == oneRow) return;
+  oneRow_ = oneRow;
+  invalidate();
+}
+
 QSize FlowLayout::minimumSize() const {
+  if (oneRow_) return sizeHint();
   QSize least;
   for (const QLayoutItem* item : items_)
     if (!item->isEmpty()) least = least.expandedTo(item->minimumSize());
@@ -45,14 +52,31 @@ void FlowLayout::setGeometry(const QRect& rect) {
   Arrange(rect, true);
 }
 
+namespace {
+
+/// What is wider than the whole room is cut to it.
+QSize SizeWithin(const QRect& room, const QLayoutItem& item) {
+  const QSize size = item.sizeHint();
+  return {std::clamp(room.width(), 1, std::max(1, size.width())), size.height()};
+}
+
+}  // namespace
+
 int FlowLayout::Arrange(const QRect& room, bool place) const {
   int y = room.top();
+  if (place && align_ & (Qt::AlignBottom | Qt::AlignVCenter)) {
+    const int over = std::max(0, room.height() - heightForWidth(room.width()));
+    y += align_ & Qt::AlignBottom ? over : over / 2;
+  }
   QList<QLayoutItem*> line;
   int width = 0, height = 0;
   const auto finish = [&] {
-    int x = room.left() + (align_ & Qt::AlignHCenter ? (room.width() - width) / 2 : 0);
+    const int over = std::max(0, room.width() - width);
+    int x = room.left() + (align_ & Qt::AlignHCenter ? over / 2
+                           : align_ & Qt::AlignRight ? over
+                                                     : 0);
     for (QLayoutItem* item : line) {
-      const QSize size = item->sizeHint();
+      const QSize size = SizeWithin(room, *item);
       if (place) item->setGeometry(QRect(QPoint(x, y + (height - size.height()) / 2), size));
       x += size.width() + gap_;
     }
@@ -62,7 +86,7 @@ int FlowLayout::Arrange(const QRect& room, bool place) const {
   };
   for (QLayoutItem* item : items_) {
     if (item->isEmpty()) continue;
-    const QSize size = item->sizeHint();
+    const QSize size = SizeWithin(room, *item);
     if (!line.isEmpty() && width + gap_ + size.width() > room.width()) finish();
     width += (line.isEmpty() ? 0 : gap_) + size.width();
     height = std::max(height, size.height());

@@ -8,10 +8,13 @@
 
 namespace grapplemont::desktop {
 
-/// Widgets in a row that goes on in the next when it is full.
+/// Widgets in a row that goes on in the next when it is full. Rows stand at the top, in the
+/// middle or at the bottom of more room than they need.
 class FlowLayout : public QLayout {
  public:
   explicit FlowLayout(int gap, Qt::Alignment align = Qt::AlignLeft);
+  /// Whether all of it stays in one row, which then is the least that it takes.
+  void SetOneRow(bool oneRow);
   ~FlowLayout() override;
 
   void addItem(QLayoutItem* item) override { items_.append(item); }
@@ -30,6 +33,7 @@ class FlowLayout : public QLayout {
   QList<QLayoutItem*> items_;
   int gap_;
   Qt::Alignment align_;
+  bool oneRow_ = false;
 };
 
 /// A sheet with round corners and a hairline.

@@ -30,6 +30,21 @@ QString Short(double value) {
   return QString::number(value, 'g', 6);
 }
 
+/// The same with as many places as two lines of an axis that lie a step apart need to differ.
+QString OnAxis(double value, double step, double most) {
+  const auto [unit, letter] = most >= 1e6   ? std::pair(1e6, "m")
+                              : most >= 1e4 ? std::pair(1e3, "k")
+                                            : std::pair(1.0, "");
+  const int places = std::max(0, -static_cast<int>(std::floor(std::log10(step / unit) + 1e-9)));
+  return QString::number(value / unit, 'f', places) + (value == 0 ? "" : letter);
+}
+
+/// Lines differ by their strokes as well as by their colours.
+Qt::PenStyle StrokeOf(std::size_t line) {
+  constexpr Qt::PenStyle kStrokes[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
+  return kStrokes[line % std::size(kStrokes)];
+}
+
 /// Where a place and a value lie within the widget.
 struct Scale {
   QRectF Plot;
@@ -44,6 +59,9 @@ struct Scale {
   /// The values at which lines run across, from the lowest.
   int Lines() const { return static_cast<int>(std::lround((High - Low) / Step)) + 1; }
   double LineAt(int line) const { return Low + line * Step; }
+  QString Label(int line) const {
+    return OnAxis(LineAt(line), Step, std::max(std::abs(Low), std::abs(High)));
+  }
 };
 
 /// Lines or bars over time, with an axis, captions and the value under the pointer.
@@ -108,7 +126,7 @@ Scale ChartView::MakeScale() const {
   const QFontMetrics small = fontMetrics();
   int left = 0;
   for (int line = 0; line < scale.Lines(); ++line)
-    left = std::max(left, FiguresWidth(small, Short(scale.LineAt(line))) + Px(8));
+    left = std::max(left, FiguresWidth(small, scale.Label(line)) + Px(8));
   const bool named = std::any_of(control_.Lines->begin(), control_.Lines->end(),
                                  [](const auto& series) { return !series.Name.empty(); });
   const int top = small.height() + (named ? small.height() + Px(6) : 0);
@@ -120,13 +138,12 @@ Scale ChartView::MakeScale() const {
 void ChartView::DrawAxis(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
   for (int line = 0; line < scale.Lines(); ++line) {
-    const double value = scale.LineAt(line);
-    const double y = std::round(scale.Y(value)) + 0.5;
+    const double y = std::round(scale.Y(scale.LineAt(line))) + 0.5;
     painter.setPen(c.Line);
     painter.drawLine(QPointF(scale.Plot.left(), y), QPointF(scale.Plot.right(), y));
     painter.setPen(c.Muted);
-    DrawFigures(painter, QRectF(0, y - 8, scale.Plot.left() - Px(8), 16), Qt::AlignRight,
-                Short(value));
+    DrawFigures(painter, QRectF(0, y - Px(8), scale.Plot.left() - Px(8), Px(16)), Qt::AlignRight,
+                scale.Label(line));
   }
 }
 
@@ -149,7 +166,8 @@ void ChartView::DrawCaptions(QPainter& painter, const Scale& scale) const {
   double free = 0;  // what lies left of here is taken by a caption
   for (int place = 0; place + 1 < count; ++place) {
     const QRectF where = spot(place);
-    if (words(place).isEmpty() || where.left() < free || where.right() + Px(8) > last.left())
+    if (words(place).isEmpty() || (place > 0 && words(place) == words(place - 1)) ||
+        where.left() < free || where.right() + Px(8) > last.left())
       continue;
     painter.drawText(where, Qt::AlignCenter, words(place));
     free = where.right() + Px(8);
@@ -186,9 +204,10 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
 
 void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
+  std::size_t number = 0;
   for (const auto& series : control_.Lines.Get()) {
     painter.setPen(
-        QPen(TextColour(c, series.Colour), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        QPen(TextColour(c, series.Colour), 2, StrokeOf(number++), Qt::FlatCap, Qt::RoundJoin));
     QPolygonF run;
     const auto finish = [&] {
       painter.drawPolyline(run);
@@ -214,13 +233,22 @@ void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
 void ChartView::DrawNames(QPainter& painter) const {
   const Colours& c = ColoursOf(this);
   const QFontMetrics small = fontMetrics();
+  const double middle = small.height() / 2.0;
+  const int wide = Px(control_.Bars ? 8 : 24);
   double x = 0;
+  std::size_t number = 0;
   for (const auto& series : control_.Lines.Get()) {
+    const Qt::PenStyle stroke = StrokeOf(number++);
     if (series.Name.empty()) continue;
     const QString name = Shown(series.Name);
-    const QColor mark = control_.Bars ? FillColour(c, series.Colour) : TextColour(c, series.Colour);
-    DrawBox(painter, QRectF(x, small.height() / 2.0 - Px(4), Px(8), Px(8)), mark, QColor(), 2);
-    x += Px(8) + Px(6);
+    if (control_.Bars) {
+      DrawBox(painter, QRectF(x, middle - Px(4), wide, Px(8)), FillColour(c, series.Colour),
+              QColor(), 2);
+    } else {
+      painter.setPen(QPen(TextColour(c, series.Colour), 2, stroke, Qt::FlatCap));
+      painter.drawLine(QPointF(x, middle), QPointF(x + wide, middle));
+    }
+    x += wide + Px(6);
     painter.setPen(c.Muted);
     painter.drawText(QPointF(x, small.ascent()), name);
     x += small.horizontalAdvance(name) + Px(14);

@@ -41,8 +41,10 @@ class Choices : public QStyledItemDelegate {
     painter->fillRect(option.rect, lit ? c.Hover : c.Field);
     painter->setFont(TextFont());
     painter->setPen(c.Text);
-    painter->drawText(option.rect.adjusted(Px(10), 0, -Px(10), 0), Qt::AlignVCenter,
-                      index.data().toString());
+    const QRect room = option.rect.adjusted(Px(10), 0, -Px(10), 0);
+    painter->drawText(
+        room, Qt::AlignVCenter,
+        QFontMetrics(TextFont()).elidedText(index.data().toString(), Qt::ElideRight, room.width()));
     painter->restore();
   }
   QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const override {
@@ -51,11 +53,14 @@ class Choices : public QStyledItemDelegate {
   }
 };
 
+constexpr int kRowsShown = 18;
+constexpr int kAround = 37;  // beside a combo box's words
+
 class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
  public:
   ComboView(ui::ComboBox& combo, Stage& stage, QWidget* parent) : ViewOf(combo, stage, parent) {
-    setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
-    setMaxVisibleItems(18);
+    setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    setMaxVisibleItems(kRowsShown);
     setItemDelegate(new Choices(this));
     setMinimumContentsLength(8);
     setFocusPolicy(Qt::StrongFocus);
@@ -64,8 +69,19 @@ class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
       Show();  // what the screen made of it, even if that is what it was before
     });
   }
+  /// The list is as wide as its longest row, wherever the screen has the room.
+  void showPopup() override {
+    const int bar = count() > kRowsShown ? Px(16) : 0;
+    const int wanted = std::max(width(), view()->sizeHintForColumn(0) + bar + 2);
+    view()->setMinimumWidth(std::min(wanted, screen()->availableGeometry().width()));
+    Calm::showPopup();
+  }
 
  protected:
+  bool event(QEvent* event) override {
+    const bool cut = fontMetrics().horizontalAdvance(currentText()) > width() - Px(kAround);
+    return TipWhatIsCut(*event, *this, currentText(), cut) || Calm::event(event);
+  }
   void Show() override {
     QStringList rows, shown;
     for (const std::string& row : control_.Rows()) rows.append(Shown(row));

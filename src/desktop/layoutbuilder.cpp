@@ -5,11 +5,13 @@
 #include <QStackedWidget>
 #include <QTabBar>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/button.h"
 #include "desktop/card.h"
 #include "desktop/pieces.h"
 #include "desktop/tableview.h"
+#include "desktop/turninglayout.h"
 
 namespace grapplemont::desktop {
 
@@ -20,6 +22,8 @@ using Kind = ui::Box::Kind;
 
 constexpr int kWide = 14, kClose = 8;  // between cards, within a card
 constexpr int kCardSide = 14;
+constexpr int kScrollBar = 16;
+constexpr int kLeastCard = 220;  // beside another; a narrower one stands below it
 
 bool IsButton(const Box& box) {
   return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
@@ -80,6 +84,17 @@ bool GrowsByItself(const ui::Control& control) {
     default:
       return false;
   }
+}
+
+/// A card on which nothing grows but prose.
+bool IsProse(const Box& box) {
+  if (box.Is != Kind::Group) return false;
+  std::vector<ui::Control*> controls;
+  CollectControls(box, controls);
+  std::erase_if(controls, [](const ui::Control* control) { return !GrowsByItself(*control); });
+  return !controls.empty() && std::ranges::all_of(controls, [](const ui::Control* control) {
+    return control->Is() == ui::Kind::Report;
+  });
 }
 
 /// The share of the room left over that a box takes.
@@ -199,7 +214,8 @@ void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
   if (!across && stretch == 0 && Grows(box)) stretch = 1;
   Widen(*widget, box);
   const bool fills = Grows(box) || (stretch > 0 && !IsButton(box));
-  const Qt::Alignment place = across && !fills ? Qt::AlignVCenter : Qt::Alignment();
+  const Qt::Alignment side = IsCalmButton(box) ? Qt::AlignLeft : Qt::Alignment();
+  const Qt::Alignment place = across && !fills ? Qt::AlignVCenter | side : Qt::Alignment();
   into->addWidget(widget, stretch, place);
 }
 
@@ -220,10 +236,15 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
       box.Parts, [](const Box& part) { return part.Is == Kind::Group || part.Is == Kind::Rows; });
   const bool fields =
       std::ranges::any_of(box.Parts, [](const Box& part) { return part.Is == Kind::Field; });
-  auto* columns = NewLayout<QHBoxLayout>(nullptr, fields || (cards && !inCard_) ? kWide : kClose);
+  auto* columns = new TurningLayout(fields || (cards && !inCard_) ? kWide : kClose,
+                                    cards && !inCard_ ? kLeastCard : 0);
   into->addLayout(columns, ShareOf(box));
+  // Beside prose, what a wide window has to spare is for those who show more in it.
+  const bool others =
+      std::ranges::any_of(box.Parts, [](const Box& part) { return Grows(part) && !IsProse(part); });
   bool filled = cards;
   for (const Box& part : box.Parts) {
+    calm_ = others && !inCard_ && IsProse(part);
     filled = filled || part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
     Add(part, columns);
   }
@@ -239,8 +260,10 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
     return AddAll(box.Parts, part);
   }
   auto* card = new Card(holder_);
+  if (std::exchange(calm_, false))
+    card->setMaximumWidth(ReadableWidth() + 2 * Px(kCardSide) + Px(kScrollBar));
   auto* inside = NewLayout<QVBoxLayout>(card, kClose, {kCardSide, kCardSide, kCardSide, kCardSide});
-  auto* head = new QHBoxLayout;
+  auto* head = new TurningLayout(kClose);
   inside->addLayout(head);
   if (!box.Title.empty()) head->addWidget(new WrappedLabel(card, Shown(box.Title), bold), 1);
   QWidget* const outer = holder_;

@@ -49,6 +49,7 @@ class LayoutBuilder {
   QWidget* holder_;
   bool cover_;
   bool inCard_ = false;
+  bool calm_ = false;  // the next card takes no more width than its prose can be read in
   std::vector<ControlView*> views_;
   std::vector<CardContents> cards_;
 };

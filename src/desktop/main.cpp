@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QIcon>
 #include <QMessageBox>
 #include <cstring>
@@ -6,6 +7,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "desktop/album.h"
 #include "desktop/look.h"
 #include "desktop/window.h"
 #include "program/screens.h"
@@ -16,33 +18,48 @@ namespace {
 
 using namespace grapplemont;
 
-constexpr const char* kUsage =
-    "usage: grapplemont [--home DIR]\n"
-    "\n"
-    "  --home DIR  the folder with data/, gfx/ and the slots; without it, the folder the game\n"
-    "              is started in if that has data/, else your user's data folder\n"
-    "  --help      these lines\n";
-
+/// What the program is started with; without arguments it is played.
 struct Arguments {
-  std::optional<std::string> Home;
-  bool Sensible = true;
+  std::optional<std::string> Home;  // the folder with data/, gfx/ and the slots
+  QString Pictures;                 // the folder for an album of all screens
 };
 
-Arguments Read(int count, char** words) {
-  Arguments read;
-  for (int i = 1; i < count; ++i) {
-    if (std::strcmp(words[i], "--home") == 0 && i + 1 < count) {
-      read.Home = words[++i];
-    } else {
-      read.Sensible = false;
-    }
-  }
+Arguments Read(QCoreApplication& app) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      "A management simulation of professional wrestling. It plays in the folder it is started in "
+      "where that has a folder data, else in yours.");
+  parser.addHelpOption();
+  const QCommandLineOption home(
+      "home", "The folder with data, gfx and the slots that is played in.", "folder");
+  const QCommandLineOption pictures(
+      "pictures",
+      "Takes a picture of every screen into <folder> instead of being played. It plays on in the "
+      "first slot that it finds; take a copy of your games for it.",
+      "folder");
+  parser.addOptions({home, pictures});
+  parser.process(app);
+  Arguments read{{}, parser.value(pictures)};
+  if (parser.isSet(home)) read.Home = parser.value(home).toStdString();
   return read;
 }
 
-int Play(QApplication& app, const std::optional<std::string>& named) {
+int FillAlbum(desktop::Window& window, desktop::WindowDesk& desk, Game& game,
+              const QString& folder) {
+  desktop::Album album(window, desk, {}, [&](const std::string& screen, const QString& look) {
+    desktop::KeepPicture(window, folder, look, screen);
+  });
+  album.Fill();
+  for (const std::string& screen : album.Taken()) std::cout << screen << "\n";
+  desk.CloseAll();
+  game.CloseSlot();
+  return 0;
+}
+
+int Play(QApplication& app) {
+  const Arguments arguments = Read(app);
   const std::unique_ptr<Disk> disk = RealDisk();
-  const std::string home = named ? HomeAt(*disk, *named) : FindHome(*disk);
+  const std::string home = arguments.Home ? HomeAt(*disk, *arguments.Home) : FindHome(*disk);
   const QString folder = QString::fromStdString(home);
   app.setWindowIcon(QIcon(folder + "/gfx/icon.png"));
 
@@ -51,7 +68,7 @@ int Play(QApplication& app, const std::optional<std::string>& named) {
   RegisterScreens(game);
   desktop::Window::Options options;
   options.Pictures = folder + "/gfx";
-  options.Settings = folder + "/settings.ini";
+  if (arguments.Pictures.isEmpty()) options.Settings = folder + "/settings.ini";
   options.Closing = [&] {
     try {
       game.CloseSlot();
@@ -71,6 +88,7 @@ int Play(QApplication& app, const std::optional<std::string>& named) {
   if (desk.Empty())
     throw std::runtime_error("The game could not start from the folder \"" + home +
                              "\": its pictures belong into \"" + home + "/gfx\".");
+  if (!arguments.Pictures.isEmpty()) return FillAlbum(window, desk, game, arguments.Pictures);
   const int result = QApplication::exec();
   desk.CloseAll();
   return result;
@@ -79,22 +97,18 @@ int Play(QApplication& app, const std::optional<std::string>& named) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  for (int i = 1; i < argc; ++i)
-    if (std::strcmp(argv[i], "--help") == 0) {
-      std::cout << kUsage;
-      return 0;
+  // Help needs no display.
+  for (int at = 1; at < argc; ++at)
+    if (std::strcmp(argv[at], "--help") == 0 || std::strcmp(argv[at], "-h") == 0) {
+      QCoreApplication words(argc, argv);
+      Read(words);
     }
-  QApplication app(argc, argv);  // takes its own arguments out
+  QApplication app(argc, argv);
   QApplication::setApplicationName("Grapplemont");
   QApplication::setDesktopFileName("grapplemont");
-  const Arguments arguments = Read(argc, argv);
-  if (!arguments.Sensible) {
-    std::cerr << kUsage;
-    return 2;
-  }
   grapplemont::desktop::ReadDesktop();
   try {
-    return Play(app, arguments.Home);
+    return Play(app);
   } catch (const std::exception& fault) {
     std::cerr << "grapplemont: " << fault.what() << "\n";
     QMessageBox::critical(nullptr, "Grapplemont", QString::fromStdString(fault.what()));

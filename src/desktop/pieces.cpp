@@ -1,5 +1,7 @@
 #include "desktop/pieces.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
 #include <algorithm>
 
 namespace grapplemont::desktop {
@@ -32,6 +34,34 @@ QSize WrappedLabel::sizeHint() const {
 
 QSize WrappedLabel::minimumSizeHint() const {
   return {std::min(NaturalWidth(), Px(kUnbroken)), fontMetrics().height()};
+}
+
+int WrappedLabel::heightForWidth(int width) const {
+  const QMargins sides = contentsMargins();
+  return QLabel::heightForWidth(std::min(width, ReadableWidth() + sides.left() + sides.right()));
+}
+
+void WrappedLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(palette().color(foregroundRole()));
+  QRect room = contentsRect();
+  if (alignment() & Qt::AlignLeft) room.setWidth(std::min(room.width(), ReadableWidth()));
+  painter.drawText(room, static_cast<int>(alignment()) | Qt::TextWordWrap, text());
+}
+
+int ReadableWidth() {
+  constexpr int kLetters = 75;
+  static const QString kSample =
+      "The crowd has waited all night for this, and it lets both hear it.";
+  const QFontMetrics prose(ProseFont());
+  return prose.horizontalAdvance(kSample) * kLetters / static_cast<int>(kSample.size());
+}
+
+bool TipWhatIsCut(QEvent& event, QWidget& widget, const QString& text, bool cut) {
+  if (event.type() != QEvent::ToolTip || !cut || !widget.toolTip().isEmpty()) return false;
+  QToolTip::showText(static_cast<QHelpEvent&>(event).globalPos(),
+                     "<p>" + text.toHtmlEscaped() + "</p>", &widget);
+  return true;
 }
 
 void SetInk(QWidget& label, const QColor& colour) {

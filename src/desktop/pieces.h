@@ -24,12 +24,24 @@ Layout* NewLayout(QWidget* holder, int spacing, const QMargins& drawn = {}) {
   return layout;
 }
 
-/// Plain text that breaks where its room ends, and is as wide as its words where it may be.
+/// The width of about 75 letters, beyond which an eye no longer finds the next line.
+int ReadableWidth();
+
+/// At a tool-tip's event, shows the whole of a text that is cut in a widget without a tip of its
+/// own; true when it did.
+bool TipWhatIsCut(QEvent& event, QWidget& widget, const QString& text, bool cut);
+
+/// Plain text that breaks where its room ends, or where it would be too wide to be read, and is as
+/// wide as its words where it may be.
 class WrappedLabel : public QLabel {
  public:
   explicit WrappedLabel(QWidget* parent, const QString& text = {}, const QFont& font = TextFont());
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  int heightForWidth(int width) const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   int NaturalWidth() const;

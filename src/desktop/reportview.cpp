@@ -3,10 +3,11 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
+#include <algorithm>
 #include <cmath>
 #include <map>
 
-#include "desktop/look.h"
+#include "desktop/pieces.h"
 #include "desktop/views.h"
 
 namespace grapplemont::desktop {
@@ -36,8 +37,8 @@ QTextBlockFormat BlockOf(Style style, bool first) {
     format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
   }
   format.setTopMargin(first ? 0
-                            : Px(style == Style::Heading  ? 14
-                                 : style == Style::Strong ? 8
+                            : Px(style == Style::Heading  ? 20
+                                 : style == Style::Strong ? 16
                                                           : 0));
   format.setBottomMargin(Px(prose ? 6 : 4));
   return format;
@@ -58,7 +59,7 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  void FitBrief();
+  void FitWords();
   void Write(QTextCursor& cursor, const std::string& words, const QTextCharFormat& letters);
   /// The link under the mouse; nullptr for none.
   const ui::Link* LinkAt(const QMouseEvent& event) const;
@@ -70,6 +71,7 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
 ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
     : ViewOf(report, stage, parent) {
   setReadOnly(true);
+  setLineWrapMode(QTextEdit::FixedPixelWidth);
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
   setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -102,7 +104,7 @@ void ReportView::Show() {
   }
   moveCursor(QTextCursor::Start);  // a size that changes later keeps the cursor in sight
   verticalScrollBar()->setValue(0);
-  FitBrief();
+  FitWords();
 }
 
 /// Names that lead to a page stand out and can be clicked.
@@ -149,15 +151,18 @@ void ReportView::mouseReleaseEvent(QMouseEvent* event) {
   Follow(link->Open);
 }
 
-void ReportView::FitBrief() {
+/// Lines end where they can still be read.
+void ReportView::FitWords() {
+  const int wide = std::min(viewport()->width(), ReadableWidth());
+  if (lineWrapColumnOrWidth() != wide) setLineWrapColumnOrWidth(wide);
   if (!control_.Brief) return;
-  document()->setTextWidth(viewport()->width());
+  document()->setTextWidth(wide);
   setFixedHeight(static_cast<int>(std::ceil(document()->size().height())));
 }
 
 void ReportView::resizeEvent(QResizeEvent* event) {
   QTextEdit::resizeEvent(event);
-  FitBrief();
+  FitWords();
 }
 
 /// Arrows and pages scroll; Enter and Escape are the screen's.

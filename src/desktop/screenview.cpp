@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/tableview.h"
+#include "desktop/turninglayout.h"
 #include "ui/acts.h"
 
 namespace grapplemont::desktop {
@@ -13,7 +14,8 @@ namespace {
 
 constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
-constexpr int kGap = 14;  // between head, body and foot
+constexpr int kGap = 14;          // between head, body and foot
+constexpr int kLeastTitle = 260;  // what the title has beside actions
 
 bool IsBackdropFile(const std::string& file) {
   return file == "vxm_back.jpg" || file == "vxm_title.jpg";
@@ -24,15 +26,17 @@ bool Contains(const std::vector<C*>& controls, const ui::Control* control) {
   return std::find(controls.begin(), controls.end(), control) != controls.end();
 }
 
-/// A body that scrolls when the window is too low for what it needs at least.
+/// A body that scrolls when the window is too small for what it needs at least.
 class Scroller : public BareScroller {
  public:
-  Scroller(QWidget* parent, bool tight) : BareScroller(parent), tight_(tight) {}
+  Scroller(QWidget* parent, bool tight) : BareScroller(parent), tight_(tight) {
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);  // where even that is too wide for it
+  }
   QSize sizeHint() const override {
     const QSize wanted = widget()->sizeHint();
     return tight_ ? QSize(wanted.width(), LeastHeight(std::max(width(), Px(480)))) : wanted;
   }
-  QSize minimumSizeHint() const override { return {widget()->minimumSizeHint().width(), Px(80)}; }
+  QSize minimumSizeHint() const override { return {Px(160), Px(80)}; }
 
  protected:
   void resizeEvent(QResizeEvent* event) override {
@@ -55,7 +59,8 @@ class Scroller : public BareScroller {
   }
   void Fit() {
     const QSize room = viewport()->size();
-    widget()->resize(room.width(), std::max(room.height(), LeastHeight(room.width())));
+    const int width = std::max(room.width(), widget()->minimumSizeHint().width());
+    widget()->resize(width, std::max(room.height(), LeastHeight(width)));
   }
 
   bool tight_;  // asks for what the body needs, not for what it would like
@@ -134,22 +139,19 @@ void ScreenView::BuildPage() {
   auto* rows = NewLayout<QVBoxLayout>(this, kGap, {side, cover ? side : 18, side, side});
   rows->addLayout(BuildHead());
   BuildBody(rows);
-  BuildActions(head_);  // last in the order of Tab, too: what a page is about comes first
+  tail_->addLayout(BuildActions());  // last in the order of Tab, too: what a page is about comes first
   const bool bare = cover && HasTitlePicture() && page_.Actions.empty();
   title_->setVisible(!bare);
   // The only table of a page has its search line beside the page's title.
   if (TableView* table = OnlyTable(views_); table && screen_->Is() == ui::Role::Page)
-    head_->insertWidget(1, table->TakeSearchRow(), 0, Qt::AlignBottom);
+    tail_->insertWidget(0, table->TakeSearchRow(), 0, Qt::AlignBottom);
 }
 
 void ScreenView::BuildDialog() {
   auto* rows = NewLayout<QVBoxLayout>(this, kGap);
   rows->addLayout(BuildHead());
   BuildBody(rows);
-  auto* foot = NewLayout<QHBoxLayout>(nullptr, 12);
-  foot->addStretch(1);
-  BuildActions(foot);
-  rows->addLayout(foot);
+  rows->addLayout(BuildActions());
 }
 
 void ScreenView::BuildWait() {
@@ -159,9 +161,9 @@ void ScreenView::BuildWait() {
     if (control->Is() == ui::Kind::Label) rows->addWidget(Add(*control), 0, Qt::AlignHCenter);
 }
 
-/// Title and facts; there is room for actions at their right.
+/// Title and facts; there is room for actions at their right, or below where they have none there.
 QLayout* ScreenView::BuildHead() {
-  head_ = NewLayout<QHBoxLayout>(nullptr, 12);
+  auto* head = new TurningLayout(12, kLeastTitle);
   auto* words = NewLayout<QVBoxLayout>(nullptr, 1);
   title_ = new WrappedLabel(this, {}, TextFont(19, QFont::DemiBold));
   title_->setObjectName("title");
@@ -171,8 +173,14 @@ QLayout* ScreenView::BuildHead() {
     facts->SetUsual(ui::Tone::Muted);
     words->addWidget(facts);
   }
-  head_->addLayout(words, 1);
-  return head_;
+  head->addLayout(words, 1);
+  if (screen_->Is() == ui::Role::Dialog) return head;
+  auto* tail = new TurningLayout(12);
+  tail->KeepRowsWhole();
+  head->addLayout(tail);
+  tail_ = tail;
+  head->KeepRowsWhole();
+  return head;
 }
 
 /// Main stands last. Main and Cancel are there even where the layout has no place for them.
@@ -193,8 +201,10 @@ std::vector<ui::Button*> ScreenView::ActionsInOrder() const {
   return actions;
 }
 
-void ScreenView::BuildActions(QBoxLayout* into) {
-  for (ui::Button* action : ActionsInOrder()) into->addWidget(Add(*action), 0, Qt::AlignBottom);
+QLayout* ScreenView::BuildActions() {
+  auto* actions = new FlowLayout(Px(12), Qt::AlignRight | Qt::AlignBottom);
+  for (ui::Button* action : ActionsInOrder()) actions->addWidget(Add(*action));
+  return actions;
 }
 
 void ScreenView::BuildBody(QVBoxLayout* into) {

@@ -53,7 +53,7 @@ class ScreenView : public QWidget {
   void BuildWait();
   QLayout* BuildHead();
   void BuildBody(QVBoxLayout* into);
-  void BuildActions(QBoxLayout* into);
+  QLayout* BuildActions();
   std::vector<ui::Button*> ActionsInOrder() const;
   bool HasBackdrop() const;
   void FindBackdrop();
@@ -70,7 +70,7 @@ class ScreenView : public QWidget {
   std::vector<ControlView*> views_;
   std::vector<LayoutBuilder::CardContents> cards_;
   QLabel* title_ = nullptr;
-  QBoxLayout* head_ = nullptr;
+  QBoxLayout* tail_ = nullptr;      // of the head: what is searched and done
   std::vector<ButtonView*> mains_;  // Main and Then
   unsigned seen_ = 0;
   Backdrop backdrop_;

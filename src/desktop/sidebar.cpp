@@ -65,18 +65,38 @@ QSize SideLine::sizeHint() const {
   return {Px(kWidth), Px(kLine)};
 }
 
+QFont SideLine::CaptionFont() const {
+  return TextFont(quiet_ ? 12 : 13);
+}
+
+int SideLine::TailWidth() const {
+  if (!badge_.isEmpty()) return BadgeWidth() + Px(kGap);
+  return key_.isEmpty() ? 0 : QFontMetrics(TextFont(11)).horizontalAdvance(key_) + Px(kGap);
+}
+
+int SideLine::WidthWanted() const {
+  return 2 * Px(kSide) + QFontMetrics(CaptionFont()).horizontalAdvance(text()) +
+         (badge_.isEmpty() ? 0 : TailWidth());
+}
+
+/// A key that has no room beside the caption goes before the caption is cut.
 void SideLine::paintEvent(QPaintEvent*) {
   const Colours& c = ColoursOf(this);
   QPainter painter(this);
   if (now_ || (isEnabled() && underMouse())) painter.fillRect(rect(), c.Now);
   if (now_) painter.fillRect(0, 0, Px(3), height(), c.GoldFill);
   const QRect room = rect().adjusted(Px(kSide), 0, -Px(kSide), 0);
-  painter.setFont(TextFont(quiet_ ? 12 : 13));
+  const QFontMetrics metrics(CaptionFont());
+  const bool tail =
+      !badge_.isEmpty() || metrics.horizontalAdvance(text()) + TailWidth() <= room.width();
+  painter.setFont(CaptionFont());
   painter.setPen(!isEnabled() ? c.Faint : now_ ? c.Text : quiet_ ? c.Muted : c.Soft);
-  painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft, text());
+  painter.drawText(
+      room, Qt::AlignVCenter | Qt::AlignLeft,
+      metrics.elidedText(text(), Qt::ElideRight, room.width() - (tail ? TailWidth() : 0)));
   if (!badge_.isEmpty()) {
     DrawBadge(painter, room.right() + 1 - BadgeWidth());
-  } else if (!key_.isEmpty()) {
+  } else if (tail) {
     painter.setFont(TextFont(11));
     painter.setPen(isEnabled() ? c.Muted : c.Faint);
     painter.drawText(room, Qt::AlignVCenter | Qt::AlignRight, key_);
@@ -152,6 +172,11 @@ void SideBar::Hold(const std::function<std::string(const ui::Button& command)>& 
 
 void SideBar::SetNow(const ui::Button* present) {
   for (Command* command : commands_) command->SetNow(&command->Presses() == present);
+}
+
+void SideBar::FitWidth(int window) {
+  constexpr int kMost = 30;  // percent of the window
+  setFixedWidth(std::min(Px(kWidth), window * kMost / 100));
 }
 
 /// In a low window the lines move closer together before anything has to scroll.

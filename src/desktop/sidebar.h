@@ -20,8 +20,12 @@ class SideLine : public BareButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  int WidthWanted() const override;
 
  private:
+  QFont CaptionFont() const;
+  /// What the badge takes, or the key.
+  int TailWidth() const;
   QString key_;
   bool now_ = false, quiet_ = false;
 };
@@ -36,6 +40,8 @@ class SideBar : public QWidget {
   void Refresh();
   /// Keeps each command from use for the reason that is given for it; empty for none.
   void Hold(const std::function<std::string(const ui::Button& command)>& why);
+  /// Large letters leave the page most of a small window.
+  void FitWidth(int window);
   /// The command whose page is open; none: nullptr.
   void SetNow(const ui::Button* command);
 

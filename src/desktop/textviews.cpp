@@ -44,7 +44,11 @@ class LineView : public ViewOf<QLineEdit, ui::TextBox> {
     if (text == this->text()) return;
     const int cursor = cursorPosition();
     setText(text);
-    if (hasFocus()) setCursorPosition(cursor);
+    setCursorPosition(hasFocus() ? cursor : 0);  // what is too long is seen from its beginning
+  }
+  bool event(QEvent* event) override {
+    const bool cut = fontMetrics().horizontalAdvance(text()) > width() - Px(20);
+    return TipWhatIsCut(*event, *this, text(), cut) || QLineEdit::event(event);
   }
   void focusInEvent(QFocusEvent* event) override {
     QLineEdit::focusInEvent(event);

@@ -1,8 +1,10 @@
 #include "desktop/topbar.h"
 
 #include <QHBoxLayout>
+#include <QLocale>
 #include <QPainter>
 #include <QRegularExpression>
+#include <algorithm>
 
 #include "desktop/textviews.h"
 
@@ -23,21 +25,61 @@ HubFrame::HubFrame(const ui::Page& page, Stage& stage, QWidget* parent)
 
 namespace {
 
+constexpr int kHeight = 52, kSide = 20, kBetween = 18, kSecondRow = 10;
+constexpr int kEnterSign = 20;                  // what the sign adds to a button
+constexpr int kStep = 24;                       // a number's room grows by so much at once
+constexpr int kShortName = 96, kBareName = 88;  // what is left of a long name
+
+/// How wide a date may come to be.
+int WidestDate(const QFont& font, bool shortened) {
+  const QFontMetrics metrics(font);
+  const auto widest = [&](auto nameOf, int count) {
+    int width = 0;
+    for (int i = 1; i <= count; ++i) {
+      const QString name = nameOf(i);
+      width = std::max(width, metrics.horizontalAdvance(shortened ? name.left(3) : name));
+    }
+    return width;
+  };
+  const QLocale english = QLocale::c();
+  return widest([&](int day) { return english.dayName(day); }, 7) +
+         widest([&](int month) { return english.monthName(month); }, 12) +
+         metrics.horizontalAdvance(", 00  0000");
+}
+
+}  // namespace
+
 /// A label of the bar. Its weight tells what matters: "Image **62%**", "**The promotion** · Cult".
-class TopLabel : public ViewOf<QWidget, ui::Label> {
+class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
  public:
-  TopLabel(ui::Label& label, bool first, Stage& stage, QWidget* parent)
+  Fact(ui::Label& label, bool first, Stage& stage, QWidget* parent)
       : ViewOf(label, stage, parent), first_(first) {
     setObjectName(Shown(label.Name()));
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
   }
-  QSize sizeHint() const override { return {WidthOf(pieces_) + 2, Px(32)}; }
-  /// Whose promotion it is may be cut; a date may be shortened.
-  QSize minimumSizeHint() const override {
-    const int whole = WidthOf(pieces_) + 2;
-    if (first_) return {WidthOf(InShort()) + 2, Px(32)};
-    const bool name = pieces_.size() == 2 && pieces_.front().Matters;
-    return {name ? std::min(whole, Px(64)) : whole, Px(32)};
+  QSize sizeHint() const override {
+    const int most = IsName() && form_ != Form::Bare ? WidthOf(pieces_) + 2 : Least(form_);
+    return {most, Px(32)};
+  }
+  QSize minimumSizeHint() const override { return {Least(form_), Px(32)}; }
+  /// What it needs at least, whatever the day puts in.
+  int Least(Form form) const {
+    const int needed = WidthOf(InForm(form)) + 2;
+    if (first_)
+      return std::max(needed, WidestDate(FontOf(pieces_.front()), form != Form::Long) + 2);
+    if (IsName()) {
+      const int cut =
+          form == Form::Short ? Px(kShortName) + WidthOf({pieces_.back()}) : Px(kBareName);
+      return form == Form::Long ? needed : std::min(needed, cut);
+    }
+    const int sign = control_.Trend == 0 ? WidthOf({{TrendSign(1), false}}) : 0;
+    return (needed + sign + Px(kStep) - 1) / Px(kStep) * Px(kStep);
+  }
+  void SetForm(Form form) {
+    if (form_ == form) return;
+    form_ = form;
+    updateGeometry();
+    update();
   }
 
  protected:
@@ -52,11 +94,14 @@ class TopLabel : public ViewOf<QWidget, ui::Label> {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     const Colours& c = ColoursOf(this);
-    const bool shorten = first_ && width() < WidthOf(pieces_);
-    int x = 0;
-    for (const Piece& piece : shorten ? InShort() : pieces_) {
+    const Pieces pieces = InForm(form_);
+    int rest = WidthOf(pieces), x = 0;
+    for (const Piece& piece : pieces) {
+      // What is too long is cut in its first words; what follows them stays.
+      rest -= WidthOf({piece});
       const QFontMetrics metrics(FontOf(piece));
-      const QString words = metrics.elidedText(piece.Words, Qt::ElideRight, width() - x);
+      const QString words =
+          metrics.elidedText(piece.Words, Qt::ElideRight, std::max(0, width() - x - rest));
       painter.setFont(FontOf(piece));
       painter.setPen(piece.Matters ? TextColour(c, control_.Colour.Get()) : c.Muted);
       painter.drawText(QRect(x, 0, width() - x, height()), Qt::AlignVCenter, words);
@@ -69,8 +114,9 @@ class TopLabel : public ViewOf<QWidget, ui::Label> {
     QString Words;
     bool Matters;
   };
-
   using Pieces = std::vector<Piece>;
+
+  bool IsName() const { return !first_ && pieces_.size() == 2 && pieces_.front().Matters; }
 
   int WidthOf(const Pieces& pieces) const {
     int width = 0;
@@ -79,11 +125,15 @@ class TopLabel : public ViewOf<QWidget, ui::Label> {
     return width;
   }
 
-  /// "Monday, 09 March 2026" as "Mon, 09 Mar 2026".
-  Pieces InShort() const {
+  /// "Monday, 09 March 2026" as "Mon, 09 Mar 2026"; bare, what matters without its caption.
+  Pieces InForm(Form form) const {
     Pieces pieces = pieces_;
     static const QRegularExpression kLongWord("([A-Za-z]{3})[A-Za-z]+");
-    for (Piece& piece : pieces) piece.Words.replace(kLongWord, "\\1");
+    if (first_ && form != Form::Long)
+      for (Piece& piece : pieces) piece.Words.replace(kLongWord, "\\1");
+    if (first_ || form != Form::Bare) return pieces;
+    if (IsName()) pieces.pop_back();
+    if (pieces.size() > 1 && !pieces.front().Matters) pieces.erase(pieces.begin());
     return pieces;
   }
 
@@ -111,35 +161,70 @@ class TopLabel : public ViewOf<QWidget, ui::Label> {
   }
 
   bool first_;
-  Pieces pieces_;
+  Form form_ = Form::Long;
+  Pieces pieces_ = {{QString(), true}};
 };
 
-}  // namespace
-
-TopBar::TopBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(parent) {
-  setFixedHeight(Px(52));
-  auto* row = NewLayout<QHBoxLayout>(this, 18);
-  row->setContentsMargins(Px(20), 0, Px(20), 1);
+TopBar::TopBar(const ui::Page& page, Stage& stage, QWidget* parent)
+    : QWidget(parent),
+      all_(NewLayout<QHBoxLayout>(this, 0, {kSide, 0, kSide, 1})),
+      actions_(new FlowLayout(Px(kBetween), Qt::AlignRight | Qt::AlignVCenter)) {
+  setFixedHeight(Px(kHeight));
+  auto* facts = NewLayout<QHBoxLayout>(nullptr, kBetween);
   for (ui::Label* label : page.Top) {
-    auto* view = new TopLabel(*label, views_.empty(), stage, this);
-    views_.push_back(view);
-    row->addWidget(view);
+    facts_.push_back(new Fact(*label, facts_.empty(), stage, this));
+    views_.push_back(facts_.back());
+    facts->addWidget(facts_.back());
   }
-  row->addStretch(1);
+  facts->addStretch(1);
   for (ui::Button* action : page.TopActions) {
     auto* view = dynamic_cast<ButtonView*>(MakeView(*action, stage, this));
     view->Pressed = [this, action] { Pressed(*action); };
     views_.push_back(view);
-    row->addWidget(view);
+    actions_->addWidget(view);
     if (action == page.Main) {
       main_ = view;
       view->SetGold(true);
     }
   }
+  all_->addLayout(facts, 1);
+  all_->addLayout(actions_);
+  actions_->SetOneRow(true);
+}
+
+int TopBar::FactsWidth(Form form) const {
+  int width = 0;
+  for (const Fact* fact : facts_) width += (width > 0 ? Px(kBetween) : 0) + fact->Least(form);
+  return width;
+}
+
+void TopBar::Fit() {
+  constexpr std::pair<bool, Form> kWays[] = {{true, Form::Long},
+                                             {true, Form::Short},
+                                             {false, Form::Long},
+                                             {false, Form::Short},
+                                             {false, Form::Bare}};
+  const int room = width() - 2 * Px(kSide);
+  const int enter = main_ && !main_->ShowsEnter() ? Px(kEnterSign) : 0;  // it comes and goes
+  const int actions = Px(kBetween) + actions_->sizeHint().width() + enter;
+  for (const auto& [oneRow, form] : kWays)
+    if (form == Form::Bare || FactsWidth(form) + (oneRow ? actions : 0) <= room)
+      return Take(oneRow, form);
+}
+
+void TopBar::Take(bool oneRow, Form form) {
+  for (Fact* fact : facts_) fact->SetForm(form);
+  actions_->SetOneRow(oneRow);
+  all_->setDirection(oneRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+  const int second =
+      oneRow ? 0 : actions_->heightForWidth(width() - 2 * Px(kSide)) + Px(kSecondRow);
+  all_->setContentsMargins(Px(kSide), 0, Px(kSide), oneRow ? 1 : Px(kSecondRow));
+  if (height() != Px(kHeight) + second) setFixedHeight(Px(kHeight) + second);
 }
 
 void TopBar::Refresh() {
   for (ControlView* view : views_) view->Refresh();
+  Fit();
 }
 
 void TopBar::SetEnter(const ui::Button* pressed) {

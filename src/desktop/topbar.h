@@ -1,17 +1,21 @@
 #pragma once
 
+#include <QBoxLayout>
 #include <QStackedWidget>
 #include <QWidget>
 #include <functional>
 
 #include "desktop/button.h"
+#include "desktop/card.h"
 #include "desktop/screenview.h"
 #include "desktop/sidebar.h"
 #include "ui/screen.h"
 
 namespace grapplemont::desktop {
 
-/// What always stands above a game: the date, who one is, image, money, and what moves time.
+/// What always stands above a game: the date, who one is, image, money, and what moves time. Its
+/// form hangs on the window's width alone, not on the day: where there is little room, the date is
+/// short, what one can do stands in a second row, and captions go.
 class TopBar : public QWidget {
  public:
   TopBar(const ui::Page& page, Stage& stage, QWidget* parent);
@@ -24,10 +28,20 @@ class TopBar : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent*) override { Fit(); }
 
  private:
+  class Fact;
+  enum class Form { Long, Short, Bare };
+  int FactsWidth(Form form) const;
+  void Fit();
+  void Take(bool oneRow, Form form);
+
+  std::vector<Fact*> facts_;
   std::vector<ControlView*> views_;
   ButtonView* main_ = nullptr;
+  QBoxLayout* all_;
+  FlowLayout* actions_;
 };
 
 /// Side bar and top bar of a hub, and beside them the room for its home page and the pages above.
@@ -41,6 +55,9 @@ class HubFrame : public QWidget {
     side_->Refresh();
     top_->Refresh();
   }
+
+ protected:
+  void resizeEvent(QResizeEvent*) override { side_->FitWidth(width()); }
 
  private:
   SideBar* side_;

@@ -46,6 +46,8 @@ class Window : public QMainWindow, public Stage {
 
   /// Brings what is shown to what lies on the desk.
   void Sync();
+  /// Colours, and the step above or below the desktop's size of text.
+  void SetLook(Scheme scheme, int zoom);
 
   // What the desk asks for.
   /// Waits for the answer to a box: the place of its button from 0, the careful answer when there

@@ -95,6 +95,11 @@ void Window::SetZoom(int zoom) {
   Relook();
 }
 
+void Window::SetLook(Scheme scheme, int zoom) {
+  settings_.SetColours(scheme);
+  SetZoom(zoom);
+}
+
 /// All views are made again: their sizes and colours were taken when they were built.
 void Window::Relook() {
   const ui::Control* const keyboard = TopView() ? TopView()->KeyboardOn() : nullptr;

@@ -94,7 +94,8 @@ TablesPreview LookAtTables(Disk& disk, const std::string& folder, const World& d
   for (const std::string& line : MistakeLines(building))
     preview.Mistakes.push_back(ForScreen(line));
   if (!building.Made) {
-    preview.WhyNot = NothingBuilt(building);
+    preview.WhyNot =
+        Counted(building.MistakeCount, "mistake") + " to mend before these tables can be taken in.";
   } else if (building.Made->HasGame()) {
     preview.WhyNot =
         "These tables are a saved game's; the data are a world in which no game has "

@@ -219,12 +219,12 @@ ShowRecap RecapOf(const World& world) {
 }
 
 std::string WhyText(std::string_view caption, const Score& score) {
-  std::string text = std::string(caption) + " " + std::to_string(score) + " =", sign = "\n";
+  std::string text;
   for (const ScoreStep& step : score.Steps()) {
-    text += (step.Change > 0 ? sign : "\n") + std::to_string(step.Change) + " " + step.Why;
-    sign = "\n+";  // the first is no change
+    const char* const sign = text.empty() || step.Change < 0 ? "" : "+";
+    text += sign + std::to_string(step.Change) + (text.empty() ? ": " : " ") + step.Why + "\n";
   }
-  return text;
+  return text + "= " + std::to_string(score) + " " + std::string(caption);
 }
 
 std::vector<ReportPiece> CutToPieces(std::string_view text, std::size_t width) {

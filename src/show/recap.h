@@ -33,7 +33,8 @@ struct ShowRecap {
 /// Of the show that has just closed. Requires one.
 ShowRecap RecapOf(const World& world);
 
-/// A percentage and how it came about, a line a step: "Crowd Reaction 91 =", "76 draw of the two".
+/// How a percentage came about, a line a step, and what it came to: "76: draw of the two", "+15
+/// feud of the two", "= 91 Crowd Reaction".
 std::string WhyText(std::string_view caption, const Score& score);
 
 // The report column: the words in which the last shows were told, as they were told.

@@ -37,7 +37,7 @@ TEST(AutoBookScreen, ProposesACardAndLeavesTheSheetAlone) {
   EXPECT_EQ(Card(play).size(), 5u);
   EXPECT_EQ(Card(play)[1], "2 CWA Hand 29 over CWA Hand 30");
   for (const Names& row : play.Desk.Rows("lstcard")) EXPECT_TRUE(row[5].ends_with("%")) << row[1];
-  EXPECT_TRUE(play.Desk.Text("lblrating").starts_with("Expected rating "));
+  EXPECT_TRUE(play.Desk.Text("lblrating").starts_with("Forecast "));
   play.Desk.Click("cmdagain");
   EXPECT_EQ(Card(play).size(), 5u);
   EXPECT_EQ(SheetOf(play.World()), sheet);

@@ -172,7 +172,7 @@ TEST(EventSheet, IsLeftForNothingAndCancelledForItsCharge) {
   play.Desk.Pick("cmbannouncer", "Milo Grant");
   play.Desk.Pick("cmbspecial", "Have A New-Look Ring");
   play.Look();
-  EXPECT_EQ(play.Desk.Text("lblcount"), "6 of 4 matches, 6 of 6 segments booked.");
+  EXPECT_EQ(play.Desk.Text("lblcount"), "6 matches (at least 4), 6 of 6 segments booked.");
   EXPECT_EQ(play.Desk.Text("cmbannouncer"), "Milo Grant") << "after a screen at its side";
   EXPECT_EQ(play.Desk.Text("lblcost"), "Cost : $125000");
   play.Desk.ExpectAsk("Confirm", kAnyText, true, ui::Default::No);

@@ -158,7 +158,7 @@ TEST(TelevisionSheet, SaysWhatTheShowMayComeToAndWhoIsFree) {
   const ShowForecast forecast = ForecastShow(play.World(), false, TvTeam(play.World()));
   EXPECT_EQ(play.Row(1)[5], RangeText(forecast.Rows[0]));
   EXPECT_EQ(play.Row(2)[5], "");
-  EXPECT_EQ(play.Desk.Text("lblforecast"), "Expected rating " + RangeText(forecast.Rating) + ".");
+  EXPECT_EQ(play.Desk.Text("lblforecast"), "Forecast " + RangeText(forecast.Rating) + ".");
   EXPECT_EQ(RangeText({58, 66}), "58 - 66%");
   EXPECT_EQ(RangeText({58, 58}), "58%");
   const Names free = play.Desk.FirstColumn("lstfree");

@@ -304,8 +304,8 @@ TEST(FrmEditTables, ListsEveryMistakeAndReplacesNothing) {
   EXPECT_EQ(home.Desk.FirstColumn("lstmistakes"),
             (Texts{"teems.csv: is no table of a world; did you mean teams.csv?",
                    "events.csv: is missing; a table without records has only its header"}));
-  EXPECT_EQ(home.Desk.Text("lblfacts"), "2 mistakes; nothing was built.");
-  EXPECT_EQ(home.Desk.Tip("cmdimport"), "2 mistakes; nothing was built.");
+  EXPECT_EQ(home.Desk.Text("lblfacts"), "2 mistakes to mend before these tables can be taken in.");
+  EXPECT_EQ(home.Desk.Tip("cmdimport"), "2 mistakes to mend before these tables can be taken in.");
   home.Desk.ExpectSay("Error!", home.Path("world-tables") +
                                     " holds other things, such as teems.csv. Name a new folder.");
   home.Desk.Click("cmdexport");

@@ -117,7 +117,7 @@ TEST(frmNews, ShowsTheNewestFirstAndKeepsItsPlaceAfterADelete) {
   ExpectMails(play.Desk, {}, "");
   EXPECT_FALSE(play.Desk.Enabled("cmddelete"));
   EXPECT_EQ(play.Desk.Tip("cmddelete"), "Pick a mail first.");
-  EXPECT_EQ(play.Desk.Tip("cmdempty"), "The mailbox is empty.");
+  EXPECT_EQ(play.Desk.Tip("cmdempty"), "There is no mail to delete.");
   EXPECT_EQ(play.Desk.Text("lblfacts"), "0 mails.");
   play.Reopen();
   EXPECT_EQ(play.World().News().Count(), 0);

@@ -14,19 +14,18 @@
 namespace grapplemont::test {
 namespace {
 
-/// "Crowd Reaction 61 =" and its reasons with their changes: the changes must make the number.
+/// Reasons with their changes, and at last "= 61 Crowd Reaction": the changes must make the number.
 void ExpectAddsUp(ScriptDesk& desk, int figure, const std::string& caption, const Score& score) {
   desk.Click("cmdwhy(" + std::to_string(figure) + ")");
   std::istringstream lines(desk.Text("txtwhy"));
   std::string line;
-  std::getline(lines, line);
-  EXPECT_EQ(line, caption + " " + std::to_string(score) + " =");
   int sum = 0;
-  while (std::getline(lines, line)) {
+  while (std::getline(lines, line) && !line.starts_with("= ")) {
     std::size_t read = 0;
     sum += std::stoi(line, &read);
-    EXPECT_GT(line.size(), read + 1) << "no reason: " << line;
+    EXPECT_GT(line.size(), read + 2) << "no reason: " << line;
   }
+  EXPECT_EQ(line, "= " + std::to_string(score) + " " + caption);
   EXPECT_EQ(sum, score) << desk.Text("txtwhy");
 }
 
@@ -102,6 +101,7 @@ struct ShowPlay : GameOnWorld {
     for (const auto& [name, text] : kShown) EXPECT_EQ(Desk.Text(name), text) << name;
     EXPECT_NE(Desk.Text("txtreport"), "");
     EXPECT_EQ(Desk.Visible("txtbelt"), !details.Belt.empty());
+    EXPECT_EQ(Desk.Visible("txtroad"), !told.Notes.empty());
     for (const char* name : {"lblwinner", "txtquality", "cmdwhy(1)"})
       EXPECT_EQ(Desk.Visible(name), isMatch) << name;
     if (isMatch) {

@@ -96,8 +96,7 @@ TEST(frmFeudStart, KnowsWhoMayAndWhoBelongsTogether) {
       << "who is fit and seen on the shows";
   desk.Pick("lstwres1", "Cal Drift");
   desk.Pick("lstwres2", "Ilya Marsh");
-  EXPECT_EQ(desk.Text("lblheat"),
-            "Starting heat 73%: mean popularity 63, a Face against a Heel +10.");
+  EXPECT_EQ(desk.Text("lblheat"), "Starting heat 73%: mean Over 63, a Face against a Heel +10.");
   desk.Check("chksingles", false);
   desk.Pick("lstwres1", "Ilya Marsh");
   EXPECT_EQ(desk.Selected("lstwres2"), std::vector{1}) << "Bram Okafor, his partner";

@@ -67,7 +67,7 @@ class frmAltRoster : public GameScreen {
   const CellColumns<Worker> columns_ = {
       {{"Name"}, [](const Worker& worker) { return worker.Name.View(); }},
       {{"Position"}, [](const Worker& worker) { return PositionText(worker.Position); }},
-      {{"Disp.", K::Tag}, DispositionCell},
+      {{"Disposition", K::Tag}, DispositionCell},
       {{"Over", K::Number, 0, "Popularity."},
        [](const Worker& worker) { return ui::Cell(worker.Over); }},
       {{"Condition", K::Percent},

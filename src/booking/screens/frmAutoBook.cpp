@@ -59,7 +59,7 @@ class frmAutoBook : public GameScreen {
         WithCard(world(), card_, [&] { return ForecastShow(world(), false, TvTeam(world())); });
     const Show* show = ShowOfToday(world());
     lblfacts.Text = show ? show->Name.Str() : "No show today";
-    lblrating.Text = "Expected rating " + RangeText(forecast_.Rating) + ".";
+    lblrating.Text = "Forecast " + RangeText(forecast_.Rating) + ".";
     FillRows();
     ShowMissing();
     const bool any = lstcard.Count() > 0;

@@ -13,8 +13,11 @@ namespace {
 constexpr std::string_view kClosedRowTip = "Not Available In This TV Time Slot.";
 constexpr std::string_view kClosedRow = kClosedRowTip.substr(0, kClosedRowTip.size() - 1);
 
-std::string Of(int count, int least) {
-  return std::to_string(count) + " of " + std::to_string(least);
+/// "2 of 4 matches", "6 matches (at least 4)".
+std::string OfLeast(int count, int least, const char* what) {
+  const std::string some = std::to_string(count), needed = std::to_string(least);
+  if (count > least) return some + " " + what + " (at least " + needed + ")";
+  return some + " of " + needed + " " + what;
 }
 
 }  // namespace
@@ -134,7 +137,7 @@ void SheetScreen::ShowForecast() {
   forecast_ =
       any ? grapplemont::ForecastShow(world(), isEvent_, Team()) : grapplemont::ShowForecast();
   lblforecast.Text =
-      any ? "Expected rating " + RangeText(forecast_.Rating) + "." : "Nothing is booked yet.";
+      any ? "Forecast " + RangeText(forecast_.Rating) + "." : "Nothing is booked yet.";
   lblwarnings.Text = Joined(forecast_.Warnings, "\n");
   lblwarnings.Visible = !forecast_.Warnings.empty();
   FillRows();
@@ -174,8 +177,8 @@ void SheetScreen::ShowButton(int record) {
 void SheetScreen::ShowCounts() {
   const SheetTerms terms = TermsOf(world(), isEvent_);
   const SheetCount count = CountSheet(world(), isEvent_);
-  lblcount.Text = Of(count.Matches, terms.MinMatches) + " matches, " +
-                  Of(count.Segments, terms.MinSegments) + " segments booked.";
+  lblcount.Text = OfLeast(count.Matches, terms.MinMatches, "matches") + ", " +
+                  OfLeast(count.Segments, terms.MinSegments, "segments") + " booked.";
   EnableUnless(cmddoshow, MayStart(world(), isEvent_) ? ""
                           : terms.OpenRows == 0       ? "There is no show today."
                                                       : "Not enough yet: " + lblcount.Text.Get());

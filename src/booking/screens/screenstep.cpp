@@ -25,7 +25,7 @@ CellColumns<Worker> PeopleTableOf(bool narrow) {
   const int wide = narrow ? 1 : 2;
   return {{{"Name", K::Text, narrow ? kNarrowName : 6},
            [](auto& worker) { return worker.Name.View(); }},
-          {{narrow ? "D." : "Disp.", K::Tag, narrow ? 1 : 3, "Face, Heel or Tweener."},
+          {{narrow ? "D." : "Disposition", K::Tag, narrow ? 1 : 3, "Face, Heel or Tweener."},
            [narrow](auto& worker) {
              ui::Cell cell = DispositionCell(worker);
              if (narrow) cell.Text = worker.Disposition.Str();

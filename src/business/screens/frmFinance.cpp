@@ -36,20 +36,38 @@ const CellColumns<BookRow> kBookTable = {
     {{"This month", K::Number, 2},
      [](const BookRow& row) { return MoneyCell(row.Present, row.ToneOf(row.Present)); }}};
 
+const CellColumns<MonthOfMoney> kMonthTable = {
+    {{"Month", K::Text, 2}, [](const MonthOfMoney& month) { return month.Month; }},
+    {{"At its end", K::Number, 2},
+     [](const MonthOfMoney& month) { return MoneyCell(month.AtEnd); }},
+    {{"In", K::Number, 2}, [](const MonthOfMoney& month) { return MoneyCell(month.In); }},
+    {{"Out", K::Number, 2}, [](const MonthOfMoney& month) { return MoneyCell(month.Out); }},
+    {{"Beside", K::Number, 2,
+      "What moved the money beside the books: loans, donations, building, and the like."},
+     [](const MonthOfMoney& month) {
+       return month.Beside ? MoneyCell(*month.Beside, BalanceTone(*month.Beside)) : ui::Cell("");
+     }}};
+
 /// The books of last month and of this one, and the money over time.
 class frmFinance : public GameScreen {
  public:
   explicit frmFinance(Game& game) : GameScreen(game, "frmFinance", "Finance", {.Manages = true}) {
+    lstmonths.EmptyText = "Each month stands here once it has ended.";
     BackBefore(cmdnotepad);
   }
 
   ui::Page Layout() override {
-    return {.Facts = &lblmoney,
-            .Actions = {&cmdback, &cmdnotepad, &cmdcharity, &cmdloan, &cmdwages, &cmdtickets},
-            .Main = &cmdtickets,
-            .Cancel = &cmdback,
-            .Body = ui::Columns({ui::Group("The books", {ui::Grow(lstbooks), lblbeside}).Grow(3),
-                                 ui::Group("Money at month ends", {ui::Grow(chtmoney)}).Grow(2)})};
+    return {
+        .Facts = &lblmoney,
+        .Actions = {&cmdback, &cmdnotepad, &cmdcharity, &cmdloan, &cmdwages, &cmdtickets},
+        .Main = &cmdtickets,
+        .Cancel = &cmdback,
+        .Body = ui::Columns({ui::Group("The books", {ui::Grow(lstbooks), lblbeside}).Grow(3),
+                             ui::Rows({ui::Group("Money at month ends and after this month's shows",
+                                                 {ui::Grow(chtmoney)})
+                                           .Grow(3),
+                                       ui::Group("Month by month", {ui::Grow(lstmonths)}).Grow(2)})
+                                 .Grow(2)})};
   }
 
   void Return() override {
@@ -83,11 +101,13 @@ class frmFinance : public GameScreen {
     std::vector<std::string> months;
     ui::Chart::Series money{"", {}, Tone::Green};
     for (const MoneyPoint& point : MoneyOverTime(world(), player)) {
-      months.push_back(point.Month);
+      months.push_back(point.When);
       money.Values.push_back(point.Dollars);
     }
     chtmoney.Captions = std::move(months);
     chtmoney.Lines = std::vector<ui::Chart::Series>{std::move(money)};
+    lstmonths.Clear();
+    FillPlaces(lstmonths, kMonthTable, MoneyByMonth(world(), player));
   }
 
   ui::Label lblmoney{*this, "lblmoney"};
@@ -97,6 +117,7 @@ class frmFinance : public GameScreen {
                       "an Event's extras and the price of calling one off are paid beside the "
                       "books."};
   ui::Chart chtmoney{*this, "chtmoney"};
+  ui::ListBox lstmonths{*this, "lstmonths", HeadingsOf(kMonthTable)};
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", [this] { desk().Open("frmNotepad"); }};
   ui::Button cmdcharity{*this, "cmdcharity", "Charity", [this] { desk().Open("frmCharity"); }};
   ui::Button cmdloan{*this, "cmdloan", "Loan", [this] { desk().Open("frmLoan"); }};
@@ -189,6 +210,7 @@ class frmWages : public GameScreen {
 };
 
 std::string TermText(int months) {
+  if (months == 1) return "1 Month";
   if (months <= 0 || months % 12 != 0) return std::to_string(months) + " Months";
   return months == 12 ? "1 Year" : std::to_string(months / 12) + " Years";
 }

@@ -174,7 +174,7 @@ class frmEditMerge : public GameScreen {
                        {"Why", K::Text, 8}},
                       &frmEditMerge::lstrows_Click};
   ui::ListBox lstmended{*this, "lstmended", FaultColumns("What is wrong, and what is done")};
-  ui::Button cmdclean{*this, "cmdclean", "Clean Up First", &frmEditMerge::cmdclean_Click};
+  ui::Button cmdclean{*this, "cmdclean", "Check And Clean-Up", &frmEditMerge::cmdclean_Click};
   ui::Button cmdlook{*this, "cmdlook", "Look Again", &frmEditMerge::cmdlook_Click};
   ui::Button cmdrename{*this, "cmdrename", "Another Name", &frmEditMerge::cmdrename_Click};
   ui::Button cmdmerge{*this, "cmdmerge", "Merge", &frmEditMerge::cmdmerge_Click};
@@ -343,7 +343,7 @@ class frmEditImport : public GameScreen {
                           {"Here", K::Tag, 2, "What is taken in the data: the name or the uid."},
                           {"Age", K::Number, 1},
                           {"Position", K::Text, 4},
-                          {"Disp.", K::Tag, 2},
+                          {"Disposition", K::Tag, 2},
                           {"Over", K::Number, 1},
                           {"Brawl", K::Number, 1},
                           {"Tech.", K::Number, 1},
@@ -353,7 +353,7 @@ class frmEditImport : public GameScreen {
   ui::ListBox lstrows{
       *this, "lstrows", {{"Name", K::Text, 4}, {"", K::Tag, 2}, {"Why", K::Text, 5}}};
   ui::ListBox lstmended{*this, "lstmended", FaultColumns("What is wrong, and what is done")};
-  ui::Button cmdclean{*this, "cmdclean", "Clean Up First", &frmEditImport::cmdclean_Click};
+  ui::Button cmdclean{*this, "cmdclean", "Check And Clean-Up", &frmEditImport::cmdclean_Click};
   ui::Button cmdlook{*this, "cmdlook", "Look Again", &frmEditImport::cmdlook_Click};
   ui::Button cmdimport{*this, "cmdimport", "Import", &frmEditImport::cmdimport_Click};
 };

@@ -19,7 +19,7 @@ struct FileWork {
   const char* Tip;
 };
 constexpr FileWork kFileWork[] = {
-    {"cmdmaintain", "Maintain", "frmEditMaintain", "Looks for faults and mends them."},
+    {"cmdmaintain", "Check And Clean-Up", "frmEditMaintain", "Looks for faults and mends them."},
     {"cmdmerge", "Merge", "frmEditMerge", "Takes in the records of other files."},
     {"cmdimport", "Import", "frmEditImport", "Takes workers from another file."},
     {"cmdtables", "Tables", "frmEditTables", "Writes the data as tables, and reads them."}};

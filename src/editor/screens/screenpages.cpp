@@ -114,15 +114,14 @@ constexpr FormGroup kSponsorGroups[] = {{"", 1, "Sponsor", kSponsorEntries},
 // Workers, owners, staff, teams and stables.
 
 constexpr PageColumn kWorkerColumns[] = {
-    {"Name"}, {"Employer"}, {"Position", "Position", kByCode}, {"Disposition", "Side"},
-    {"Age"},  {"Over"}};
+    {"Name"}, {"Employer"}, {"Position", "Position", kByCode}, {"Disposition"}, {"Age"}, {"Over"}};
 constexpr FormEntry kWorkerWho[] = {{"Name"},
                                     {"ShortName", "Short name"},
                                     {"Gender", "Sex"},
                                     {"BirthMonth", "Birthday in", "cmbbirthmonth", kBirthMonths},
                                     {"Age"},
                                     {"Weight", "Weight class"},
-                                    {"Disposition", "Side"},
+                                    {"Disposition"},
                                     {"SuperstarLook", "Superstar look", "chksuperstar"},
                                     {"Diva", "Diva (women only)"}};
 constexpr FormEntry kWorkerGifts[] = {{"Speaks", "Can speak"},

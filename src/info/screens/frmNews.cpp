@@ -10,7 +10,7 @@ namespace grapplemont {
 
 namespace {
 
-/// The mailbox: the newest on top, the selected mail beside the list.
+/// The mails: the newest on top, the selected mail beside the list.
 class frmNews : public GameScreen {
  public:
   explicit frmNews(Game& game) : GameScreen(game, "frmNews", "News") {
@@ -60,7 +60,7 @@ class frmNews : public GameScreen {
     lblfacts.Text = Counted(all, "mail") + ".";
     if (lstnews.Count() < all)
       lblfacts.Text = std::to_string(lstnews.Count()) + " of " + lblfacts.Text.Get();
-    EnableUnless(cmdempty, HasNews(world()) ? "" : "The mailbox is empty.");
+    EnableUnless(cmdempty, HasNews(world()) ? "" : "There is no mail to delete.");
   }
 
   void lstnews_Click() {

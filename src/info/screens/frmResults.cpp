@@ -139,7 +139,7 @@ class frmAwards : public GameScreen {
     std::vector<ui::ListBox::Row> rows;
     for (const YearAward* award : AwardsOf(world(), cmbyear.Key(), cmbaward.Key()))
       rows.push_back(RowOf(kAwards, *award, world().Awards().NumberOf(*award)));
-    lblfacts.Text = "Each year ends with the last day before 31 December.";
+    lblfacts.Text = "Awards are given on 31 December, for the year up to the day before.";
     lstawards.Fill(std::move(rows));
   }
 

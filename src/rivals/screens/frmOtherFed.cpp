@@ -153,7 +153,7 @@ class PromotionSheets {
                         "lstroster",
                         {{"Name", K::Text, 8},
                          {"Position", K::Text, 7},
-                         {"Disp.", K::Tag, 4},
+                         {"Disposition", K::Tag, 4},
                          {"Over", K::Percent, 5, "Popularity."},
                          {"Age", K::Number, 2},
                          {"Status", K::Text, 5}},

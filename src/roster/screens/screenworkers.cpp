@@ -125,7 +125,7 @@ constexpr PersonColumn<Worker> kWorkers[] = {
     {"Name", K::Text, "", true, true, Name},
     {"Emp.", K::Tag, "Employer.", false, true, Employer},
     {"Position", K::Date, "", true, true, Position},
-    {"Disp.", K::Tag, "Disposition.", true, true, Disposition},
+    {"Disposition", K::Tag, "Face, Heel or Tweener.", true, true, Disposition},
     {"Over", K::Number, "Popularity.", true, true, Points<&Worker::Over>},
     {"Condition", K::Percent, "Or why he cannot work.", true, false, Condition},
     {"Morale", K::Percent, "", true, false, Points<&Worker::Morale>},

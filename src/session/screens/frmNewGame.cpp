@@ -153,7 +153,7 @@ class frmNewGame : public GameScreen {
   ui::ListBox lstbelts{*this, "lstbelts", {{"Title"}, {"Holder"}, {"Image", K::Number}}};
   ui::ListBox lststaff{*this, "lststaff", {{"Name"}, {"Post"}, {"Talent", K::Number}}};
   ui::ListBox lstroster{
-      *this, "lstroster", {{"Name"}, {"Position"}, {"Disp.", K::Tag}, {"Over", K::Number}}};
+      *this, "lstroster", {{"Name"}, {"Position"}, {"Disposition", K::Tag}, {"Over", K::Number}}};
   ui::Button cmdbegin{*this, "cmdbegin", "Begin", &frmNewGame::cmdbegin_Click};
 };
 

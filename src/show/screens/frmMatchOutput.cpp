@@ -59,10 +59,10 @@ class frmMatchOutput : public ui::Screen {
         {ui::Group("", {lbltitle, ui::Columns({lblinfo, txtstyle, txttype, txtbelt, ui::Spacer()}),
                         txtstip, ui::Grow(txtreport), lblwinner})
              .Grow(9),
-         ui::Rows({ui::Group("", std::move(figures)).Grow(8),
+         ui::Rows({ui::Group("", std::move(figures)).Grow(9),
                    ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4),
-                   ui::Group("The show so far", {txtannouncers, ui::Grow(chtshow)}).Grow(4)})
-             .Grow(4)});
+                   ui::Group("The show so far", {txtannouncers, ui::Grow(chtshow)}).Grow(3)})
+             .Grow(5)});
     return page;
   }
 
@@ -92,6 +92,7 @@ class frmMatchOutput : public ui::Screen {
   /// Between two Segments when the game is opened again.
   void ShowInterval() {
     lblinfo.Text = "The show goes on";
+    txtroad.Visible = false;
     txtstip.Write({{ui::Report::Style::Heading, "After " + RowName(run().Current)}});
     txtreport.Write(NextSegment(world()) == 0
                         ? "Every Segment has been told. Press Next for what the show came to."
@@ -129,6 +130,7 @@ class frmMatchOutput : public ui::Screen {
     if (!told_->Verdict.empty()) text += "\n" + told_->Verdict;
     txtreport.Write(text);
     txtroad.WriteLines(told_->Notes);
+    txtroad.Visible = !told_->Notes.empty();  // without a word, its room goes to the figures
   }
 
   void ShowFigures() {

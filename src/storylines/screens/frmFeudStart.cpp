@@ -16,7 +16,7 @@ std::string ContrastText(int contrast) {
 
 std::string Forecast(const StartingHeat& start) {
   const int sum = start.Popularity + start.Contrast;
-  return "Starting heat " + std::to_string(start.Heat) + "%: mean popularity " +
+  return "Starting heat " + std::to_string(start.Heat) + "%: mean Over " +
          std::to_string(start.Popularity) + ContrastText(start.Contrast) +
          (sum == start.Heat ? "." : ", held to " + std::to_string(start.Heat) + ".");
 }

@@ -57,7 +57,7 @@ ui::Cell DateCell(Day day, const char* unknown) {
 CellColumns<Worker> PeopleTable(CellColumns<Worker> more) {
   CellColumns<Worker> columns = {
       {{"Name", K::Text, 4}, [](const Worker& worker) { return worker.Name.View(); }},
-      {{"Disp.", K::Tag, 2}, DispositionCell},
+      {{"Disposition", K::Tag, 2}, DispositionCell},
       {{"Over", K::Number, 1, "Popularity."},
        [](const Worker& worker) { return ui::Cell(worker.Over); }}};
   std::move(more.begin(), more.end(), std::back_inserter(columns));

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "desktop/window.h"
+
+namespace grapplemont::desktop {
+
+/// Shows every screen that a player's clicks lead to, at several sizes of the window, in both sets
+/// of colours and at two sizes of text. It plays on in the home that is open, so that should be a
+/// copy.
+class Album {
+ public:
+  /// How each screen is looked at.
+  struct Looks {
+    std::vector<QSize> Sizes = {{1024, 640}, {1280, 800}, {1920, 1080}, {2560, 1440}};
+    std::vector<Scheme> Schemes = {Scheme::Dark, Scheme::Light};
+    std::vector<int> Texts = {100, 200};  // percent of the desktop's text
+  };
+  /// `shown` hears of each look at a screen, such as "1280x800-dark-100", while it is painted.
+  using Watcher = std::function<void(const std::string& screen, const QString& look)>;
+  Album(Window& window, WindowDesk& desk, Looks looks, Watcher shown);
+  /// Walks on from what lies on the desk until no click leads to a new screen.
+  void Fill();
+  /// The screens that it has shown.
+  const std::set<std::string>& Taken() const { return taken_; }
+
+ private:
+  void Visit();
+  void Take(const std::string& name);
+  void FillIn(ui::Screen& screen);
+  /// Clicks a control; what lies above the screen then is visited and left again.
+  void Try(ui::Screen& screen, const std::string& control);
+  void Click(ui::Screen& screen, const std::string& control);
+  void LeaveTop();
+  /// Days pass, and their shows, for the screens that only those bring.
+  void PlayOn(ui::Screen& hub);
+  void AnswerBox();
+
+  Window& window_;
+  WindowDesk& desk_;
+  Looks looks_;
+  Watcher shown_;
+  std::set<std::string> taken_;
+  bool saysYes_ = false;  // to the questions of a screen that is left
+};
+
+/// Keeps what the window shows as FOLDER/1280x800-dark-100/frmRoster.png. Throws when it cannot be
+/// written.
+void KeepPicture(Window& window, const QString& folder, const QString& look,
+                 const std::string& screen);
+
+}  // namespace grapplemont::desktop

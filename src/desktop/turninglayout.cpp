@@ -1,0 +1,80 @@
+#include "desktop/turninglayout.h"
+
+#include <algorithm>
+
+#include "desktop/card.h"
+#include "desktop/look.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+/// The width of a part that stays in one line; -1 for what is no row.
+int RowWidth(QLayoutItem& item) {
+  if (const auto* turning = dynamic_cast<const TurningLayout*>(item.layout()))
+    return turning->WidthAcross();
+  const auto* flow = dynamic_cast<const FlowLayout*>(item.layout());
+  return flow ? flow->sizeHint().width() : -1;
+}
+
+}  // namespace
+
+TurningLayout::TurningLayout(int gap, int least)
+    : QBoxLayout(QBoxLayout::LeftToRight), least_(least) {
+  setContentsMargins(0, 0, 0, 0);
+  setSpacing(Px(gap));
+}
+
+void TurningLayout::KeepRowsWhole() {
+  whole_ = true;
+  HoldRows(true);
+}
+
+void TurningLayout::SetOneRow(bool oneRow) {
+  if (oneRow_ == oneRow) return;
+  oneRow_ = oneRow;
+  invalidate();
+}
+
+void TurningLayout::HoldRows(bool oneRow) {
+  if (!whole_) return;
+  for (int i = 0; i < count(); ++i) {
+    QLayout* part = itemAt(i)->layout();
+    if (auto* turning = dynamic_cast<TurningLayout*>(part)) turning->SetOneRow(oneRow);
+    if (auto* flow = dynamic_cast<FlowLayout*>(part)) flow->SetOneRow(oneRow);
+  }
+}
+
+int TurningLayout::WidthAcross() const {
+  int width = 0;
+  for (int i = 0; i < count(); ++i) {
+    QLayoutItem* item = itemAt(i);
+    if (item->isEmpty()) continue;
+    const bool shares = stretch(i) > 0 || item->expandingDirections().testFlag(Qt::Horizontal);
+    const int whole = whole_ ? RowWidth(*item) : -1;
+    width += (width > 0 ? spacing() : 0) +
+             (whole >= 0 ? whole : std::max(item->minimumSize().width(), shares ? Px(least_) : 0));
+  }
+  return width;
+}
+
+/// It can be as narrow as its widest part.
+QSize TurningLayout::minimumSize() const {
+  QSize least = QBoxLayout::minimumSize();
+  int widest = 0;
+  for (int i = 0; i < count(); ++i)
+    if (!itemAt(i)->isEmpty()) widest = std::max(widest, itemAt(i)->minimumSize().width());
+  least.setWidth(oneRow_ ? WidthAcross() : std::min(least.width(), widest));
+  return least;
+}
+
+void TurningLayout::setGeometry(const QRect& rect) {
+  const Direction wanted = rect.width() < WidthAcross() ? TopToBottom : LeftToRight;
+  if (wanted != direction()) {
+    setDirection(wanted);
+    HoldRows(wanted == LeftToRight);
+  }
+  QBoxLayout::setGeometry(rect);
+}
+
+}  // namespace grapplemont::desktop

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QBoxLayout>
+
+namespace grapplemont::desktop {
+
+/// A row whose parts stand one below the other where they have no room beside each other.
+class TurningLayout : public QBoxLayout {
+ public:
+  /// `least` is the width, in drawn pixels, that a part with a share needs beside others.
+  explicit TurningLayout(int gap, int least = 0);
+  /// Turns rather than that a part which is itself a row, a FlowLayout or one of these, goes on in
+  /// the next line.
+  void KeepRowsWhole();
+  /// Whether it must stay a row.
+  void SetOneRow(bool oneRow);
+
+  /// The width from which on the parts stand in a row.
+  int WidthAcross() const;
+  QSize minimumSize() const override;
+  void setGeometry(const QRect& rect) override;
+
+ private:
+  /// Lets the rows in it be whole while it is a row itself.
+  void HoldRows(bool oneRow);
+
+  int least_;
+  bool whole_ = false, oneRow_ = false;
+};
+
+}  // namespace grapplemont::desktop

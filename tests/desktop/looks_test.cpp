@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTextEdit>
+
+#include "desktop/album.h"
+#include "desktop/player.h"
+#include "desktop/topbar.h"
+#include "program/richworld.h"
+#include "program/screens.h"
+#include "support/homefolder.h"
+#include "ui/game.h"
+
+// How the window looks where room is scarce, large or changes.
+
+namespace grapplemont::test {
+namespace {
+
+/// What stands for itself and may cover nothing of its kind.
+bool IsPiece(const QWidget& widget) {
+  return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
+         qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QLabel*>(&widget);
+}
+
+/// Pieces of the window that overlap beside each other: "cmdback over txtname". Buttons of rows
+/// that are scrolled away stand out of sight.
+QStringList Overlaps(const QWidget& window) {
+  QStringList found;
+  for (const QWidget* holder : window.findChildren<QWidget*>()) {
+    if (!holder->isVisible()) continue;
+    std::vector<const QWidget*> pieces;
+    for (const QWidget* part :
+         holder->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+      if (part->isVisible() && IsPiece(*part) && part->x() >= 0) pieces.push_back(part);
+    for (std::size_t i = 0; i < pieces.size(); ++i)
+      for (std::size_t k = 0; k < i; ++k)
+        if (pieces[i]->geometry().intersects(pieces[k]->geometry()))
+          found << pieces[i]->objectName() + " over " + pieces[k]->objectName();
+  }
+  return found;
+}
+
+TEST(TheAlbum, ComesToTheScreensAndNothingOverlapsInASmallWindowWithLargeText) {
+  HomeFolder home(RichWorld().Build());
+  home.StartNewGame();
+  home.Desk.CloseAll();
+  home.Play.CloseSlot();
+  const std::unique_ptr<Disk> files = RealDisk(Syncs::None);
+  Player play;
+  Game game(play.Desk, *files,
+            {home.Path("."), [] { return Day{std::chrono::year{2026} / 3 / 17}; }, 11});
+  RegisterScreens(game);
+  play.Desk.Event([&] { play.Desk.Open("frmTitleScreen"); });
+  play.Window.Sync();
+  desktop::Album::Looks looks;
+  looks.Sizes = {{1024, 640}};
+  looks.Schemes = {desktop::Scheme::Dark};
+  const auto check = [&](const std::string& screen, const QString& look) {
+    const QStringList overlaps = Overlaps(play.Window);
+    EXPECT_TRUE(overlaps.isEmpty())
+        << screen << " " << look.toStdString() << ": " << overlaps.join(", ").toStdString();
+  };
+  desktop::Album album(play.Window, play.Desk, looks, check);
+  album.Fill();
+  for (const char* screen : {"frmNewGame", "frmCredits", "frmEditor", "frmMainScreen", "frmRoster",
+                             "frmFinance", "frmBooking", "frmMatchOutput", "frmPostShow"})
+    EXPECT_TRUE(album.Taken().contains(screen)) << screen;
+  play.Window.SetLook(desktop::Scheme::Dark, 0);
+  play.Desk.CloseAll();
+  game.CloseSlot();
+}
+
+TEST(TheTopBar, KeepsItsFormFromDayToDay) {
+  Log notes;
+  Player play;
+  play.Open(std::make_unique<Hub>(play.Desk, notes));
+  const ui::Screen& hub = *play.Desk.Top();
+  auto& date = dynamic_cast<ui::Label&>(*hub.Find("txtdate"));
+  auto& image = dynamic_cast<ui::Label&>(*hub.Find("lblimage"));
+  for (const QSize& size : {QSize(1024, 640), QSize(1280, 800), QSize(1920, 1080)}) {
+    play.Window.resize(size);
+    QApplication::processEvents();
+    std::vector<QRect> places;
+    for (const auto& [day, trend] :
+         {std::pair("Friday, 01 May 2026", 0), std::pair("Wednesday, 30 September 2026", 4)}) {
+      date.Text = day;
+      image.Trend = trend;
+      play.Window.Sync();
+      QApplication::processEvents();
+      for (const char* name : {"txtdate", "lblimage"}) places.push_back(play.See(name)->geometry());
+    }
+    EXPECT_EQ(places[0], places[2]) << size.width();
+    EXPECT_EQ(places[1], places[3]) << size.width();
+  }
+}
+
+TEST(TheLines, OfProseEndWhereTheyCanBeRead) {
+  class Prose : public ui::Screen {
+   public:
+    explicit Prose(ui::Desk& desk) : Screen(desk, "frmProse", "Prose") {
+      std::string words;
+      for (int i = 0; i < 60; ++i) words += "The crowd has waited for this. ";
+      rptstory.Write(words);
+    }
+    ui::Page Layout() override { return {.Body = ui::Rows({ui::Grow(rptstory)})}; }
+    ui::Report rptstory{*this, "rptstory"};
+  };
+  Player play;
+  play.Window.resize(2560, 1440);
+  play.Open(std::make_unique<Prose>(play.Desk));
+  QApplication::processEvents();
+  const auto& story = *qobject_cast<QTextEdit*>(play.See("rptstory"));
+  const QString letters(85, 'n');
+  EXPECT_LT(story.document()->size().width(),
+            QFontMetrics(desktop::ProseFont()).horizontalAdvance(letters));
+  EXPECT_GT(story.width(), 2000) << "the page has the room";
+}
+
+}  // namespace
+}  // namespace grapplemont::test
