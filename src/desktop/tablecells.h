@@ -31,8 +31,11 @@ class TableModel : public QAbstractTableModel {
     return list_.Columns()[static_cast<std::size_t>(column)];
   }
   const ui::Table& Table() const { return table_; }
+  /// What the glossary says of a heading; empty for nothing.
+  std::function<std::string(const std::string& title)> MeaningOf;
 
  private:
+  QVariant TipOf(int section) const;
   const ui::ListBox& list_;
   const ui::Table& table_;
 };

@@ -104,6 +104,7 @@ class Window : public QMainWindow, public Stage {
   bool PressSideKey(const QKeyEvent& event);
   void OpenFinder();
   std::vector<Finder::Entry> FinderEntries();
+  void Remember(const Finder::Entry& chosen);
 
   // Keys and the window's own commands, in windowkeys.cpp.
   struct OwnCommand {
@@ -113,6 +114,8 @@ class Window : public QMainWindow, public Stage {
   };
   std::vector<OwnCommand> OwnCommands();
   bool HandleCommonKey(const QKeyEvent& event);
+  void OpenHelp();
+  void OpenGlossary(const std::string& term);
   void TurnColours();
   void SetZoom(int zoom);
   void Relook();
@@ -129,6 +132,7 @@ class Window : public QMainWindow, public Stage {
   ui::Screen* top_ = nullptr;
   QPointer<MessageBox> box_;
   QPointer<Finder> finder_;
+  std::vector<Finder::Entry> recent_;  // what was chosen in it, the last first
   QPointer<QLabel> hint_;
   std::map<std::string, std::string> commandOf_;  // screen to the command that opens it
   int acting_ = 0;

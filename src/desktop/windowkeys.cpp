@@ -28,12 +28,18 @@ std::vector<Window::OwnCommand> Window::OwnCommands() {
        "Ctrl +",
        [this] { SetZoom(settings_.Zoom() + 1); }},
       {{Qt::Key_Minus}, "Smaller text", "Ctrl -", [this] { SetZoom(settings_.Zoom() - 1); }},
-      {{Qt::Key_0}, "Text as the desktop has it", "Ctrl 0", [this] { SetZoom(0); }}};
+      {{Qt::Key_0}, "Text as the desktop has it", "Ctrl 0", [this] { SetZoom(0); }},
+      {{}, "Help for this page", "F1", [this] { OpenHelp(); }},
+      {{}, "Glossary", {}, [this] { OpenGlossary({}); }}};
 }
 
 bool Window::HandleCommonKey(const QKeyEvent& event) {
   if (box_ || finder_ || acting_ > 0) return false;
   const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+  if (modifiers == Qt::NoModifier && event.key() == Qt::Key_F1) {
+    OpenHelp();
+    return true;
+  }
   if (modifiers == Qt::NoModifier) return PressSideKey(event);
   if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier)) return false;
   if (event.key() == Qt::Key_F) return TopView() && TopView()->FocusSearch();
@@ -43,6 +49,20 @@ bool Window::HandleCommonKey(const QKeyEvent& event) {
       return true;
     }
   return false;
+}
+
+void Window::OpenHelp() {
+  Act([this] {
+    desk_.OpenHelp();
+    return std::string();
+  });
+}
+
+void Window::OpenGlossary(const std::string& term) {
+  Act([&] {
+    desk_.OpenGlossary(term);
+    return std::string();
+  });
 }
 
 void Window::TurnColours() {

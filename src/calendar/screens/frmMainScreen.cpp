@@ -2,6 +2,7 @@
 #include <array>
 
 #include "calendar/advanceday.h"
+#include "calendar/guide.h"
 #include "calendar/incidents.h"
 #include "calendar/screens/calendarscreens.h"
 #include "records/fields/fields.h"
@@ -57,6 +58,8 @@ class frmMainScreen : public ui::Screen {
   explicit frmMainScreen(Game& game)
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
     CommandNamed("cmdfed").Tip = "Click for promotional matters.";
+    txtguide.Brief = true;
+    cmdguide.Tip = "The guide does not come back.";
     lstmail.EmptyText = "No mail. What the world has to tell you arrives here.";
   }
 
@@ -74,7 +77,9 @@ class frmMainScreen : public ui::Screen {
     page.TopActions = {&txtname, &cmduntil, &cmdnext};
     page.Main = &cmdnext;
     page.Cancel = &cmdquit;
-    page.Body = ui::Columns({ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow(2),
+    page.Body = ui::Columns({ui::Rows({ui::Group("Your first week", {txtguide, cmdguide}),
+                                       ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow()})
+                                 .Grow(2),
                              ui::Group("Latest mail", {imgmail, ui::Grow(lstmail)}).Grow(3)});
     return page;
   }
@@ -112,6 +117,7 @@ class frmMainScreen : public ui::Screen {
   void ShowTheWorld() {
     if (!game_.HasWorld()) return;
     ShowTopBar();
+    ShowGuide();
     ShowMail();
     ShowMeeting();
     ShowAhead();
@@ -138,6 +144,22 @@ class frmMainScreen : public ui::Screen {
     lblmoney.Colour = player.Money < 0 ? ui::Tone::Red : ui::Tone::Plain;
     for (ui::Button* button : {&cmdnext, &cmduntil})
       EnableUnless(*button, HasEnded(world().Game()) ? kCareerIsOver : "");
+  }
+
+  /// What comes next stands out; what is done says so.
+  void ShowGuide() {
+    using Style = ui::Report::Style;
+    std::vector<ui::Report::Paragraph> words;
+    bool isNext = true;
+    for (const GuideLine& line : GuideLines(world())) {
+      const std::string place = std::to_string(words.size() + 1) + ". ";
+      const Style style = line.IsDone ? Style::Muted : isNext ? Style::Strong : Style::Line;
+      isNext = isNext && line.IsDone;
+      words.push_back({style, place + (line.IsDone ? "Done. " : "") + std::string(line.Says)});
+    }
+    txtguide.Visible = !words.empty();
+    cmdguide.Visible = !words.empty();
+    txtguide.Write(std::move(words));
   }
 
   void ShowMail() {
@@ -238,6 +260,11 @@ class frmMainScreen : public ui::Screen {
     ui::Pick(desk(), *desk().Top(), "lstnews", row);
   }
 
+  void cmdguide_Click() {
+    CloseGuide(world());
+    ShowGuide();
+  }
+
   void cmdquit_Click() {
     if (!desk().Ask("Quit?", "Are you sure you want to quit?")) return;
     game_.Commit();
@@ -263,6 +290,8 @@ class frmMainScreen : public ui::Screen {
         return std::make_unique<ui::Button>(*this, command.Control, command.Caption,
                                             [this, &command] { desk().Open(command.Screen); });
       }};
+  ui::Report txtguide{*this, "txtguide"};
+  ui::Button cmdguide{*this, "cmdguide", "Close The Guide", &frmMainScreen::cmdguide_Click};
   ui::Label imgmail{*this, "imgmail"};
   ui::ListBox lstahead{
       *this, "lstahead", {{"Date", K::Number}, {"Day"}, {"Show"}, {"Kind", K::Tag}}};
@@ -282,6 +311,11 @@ frmMainScreen* FindMainScreen(Game& game) {
 SCREEN(frmMainScreen)
 
 void ConnectCalendar(Game& game) {
+  game.Watch = [&game] {
+    std::vector<std::string_view> screens;
+    for (const auto& screen : game.Desk().Screens()) screens.push_back(screen->Name());
+    WatchGuide(game.World(), screens);
+  };
   game.RefreshMainScreen = [&game] {
     if (frmMainScreen* main = FindMainScreen(game)) main->RefreshMainScreen();
   };

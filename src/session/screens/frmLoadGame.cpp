@@ -7,6 +7,7 @@
 #include "records/store/slot.h"
 #include "records/store/slotfolder.h"
 #include "session/home.h"
+#include "calendar/guide.h"
 #include "session/newgame.h"
 #include "storylines/storynames.h"
 #include "ui/game.h"
@@ -132,6 +133,7 @@ class frmPickSaveSlot : public SlotScreen {
                "Do not press ctrl-alt-del while it is happening, as you will corrupt your data.");
     Waiting waiting(game_);
     const auto mended = NewGame(world, choice_, [&](std::string_view step) { waiting.Tell(step); });
+    BeginGuide(world);
     Slot::Create(game_.Disk(), game_.SlotFolder(slot), FilesOf(world), game_.NewWorldId());
     waiting.Done();
     TellOfMending(mended);
