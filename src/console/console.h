@@ -51,9 +51,9 @@ class Console : public ui::Desk {
   std::ostream& out_;
   Settings settings_;
   std::optional<Box> box_;
-  Answer answer_;  // what the last command adds to the screen
+  Answer answer_;                   // what the last command adds to the screen
   std::vector<ui::Finding> found_;  // by the last search
-  bool due_;       // a command has not been answered yet
+  bool due_;                        // a command has not been answered yet
   bool ended_ = false;
 };
 

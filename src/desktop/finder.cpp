@@ -157,8 +157,13 @@ void Finder::FindNames(const QString& letters) {
   names_.clear();
   if (letters.isEmpty() || !from_.Names) return;
   for (ui::Finding& found : from_.Names(Keep(letters).Text, kMost))
-    names_.push_back({Shown(found.Heading), Shown(found.Words), Shown(found.About), {}, {},
-                      std::move(found.Open), found.Picture});
+    names_.push_back({Shown(found.Heading),
+                      Shown(found.Words),
+                      Shown(found.About),
+                      {},
+                      {},
+                      std::move(found.Open),
+                      found.Picture});
 }
 
 bool Finder::IsRecent(const Entry& entry) const {

@@ -7,9 +7,7 @@
 namespace grapplemont::desktop {
 
 void TableView::ConnectLinks() {
-  model_.MeaningOf = [this](const std::string& title) {
-    return OnStage().Desk().MeaningOf(title);
-  };
+  model_.MeaningOf = [this](const std::string& title) { return OnStage().Desk().MeaningOf(title); };
   grid_->LinkOf = [this](const QModelIndex& cell) {
     const auto links = LinksOf(cell.row(), cell.column());
     return links.empty() ? ui::Handler() : links.front().Open;

@@ -192,16 +192,17 @@ using BestOfKinds = std::array<int, kKindsOfFound>;
 }  // namespace
 
 std::string_view KindOfFound(Kind kind) {
-  static constexpr std::string_view kKinds[kKindsOfFound] = {"Workers",  "Promotions", "Titles",  "Shows",
-                                                "Events",   "Tag Teams",  "Stables", "Staff",
-                                                "Networks", "Sponsors",   "Mail"};
+  static constexpr std::string_view kKinds[kKindsOfFound] = {
+      "Workers", "Promotions", "Titles",   "Shows",    "Events", "Tag Teams",
+      "Stables", "Staff",      "Networks", "Sponsors", "Mail"};
   return kKinds[static_cast<std::size_t>(kind)];
 }
 
 NameSearch::NameSearch(const World& world) : world_(world) {
   const auto add = [this](Kind kind, int number, std::string_view name, int standing = 0) {
     std::string letters = PlainWords(name);
-    if (letters.size() > 1 && name != kToBeDeleted) names_.push_back({kind, number, standing, std::move(letters)});
+    if (letters.size() > 1 && name != kToBeDeleted)
+      names_.push_back({kind, number, standing, std::move(letters)});
   };
   const auto all = [](const auto& records, auto visit) {
     for (int number = 1; number <= records.Count(); ++number) visit(number, records[number]);

@@ -124,7 +124,8 @@ void OpenSponsor(Game& game, const Sponsor& sponsor) {
 
 void OpenFound(Game& game, const Found& found) {
   const World& world = game.World();
-  if (!IsStill(world, found)) return game.Desk().Say("Gone", found.Name + " is not there any more.");
+  if (!IsStill(world, found))
+    return game.Desk().Say("Gone", found.Name + " is not there any more.");
   switch (found.Is) {
     case Kind::Worker:
       return game.OpenWorker ? game.OpenWorker(world.Workers()[found.Number].Uid) : void();
@@ -183,8 +184,11 @@ ui::Drawing PictureOf(const World& world, const Found& found) {
 void AddNames(Game& game, const NameSearch& names, std::string_view typed, std::size_t most,
               std::vector<ui::Finding>& findings) {
   for (Found& found : names.Find(typed, most)) {
-    ui::Finding finding{std::string(KindOfFound(found.Is)), found.Name,
-                        AboutFound(game.World(), found), PictureOf(game.World(), found), {}};
+    ui::Finding finding{std::string(KindOfFound(found.Is)),
+                        found.Name,
+                        AboutFound(game.World(), found),
+                        PictureOf(game.World(), found),
+                        {}};
     finding.Open = [&game, found = std::move(found)] { OpenFound(game, found); };
     findings.push_back(std::move(finding));
   }

@@ -164,7 +164,7 @@ class frmMainScreen : public ui::Screen {
 
   void ShowMail() {
     const int count = world().News().Count();
-    imgmail.Enabled = HasNews(world());
+    EnableUnless(imgmail, HasNews(world()) ? "" : "No mail.");
     imgmail.Text = Counted(count, "mail");
     const int fresh = FreshMails(world());
     CommandNamed("cmdnews").Badge = fresh == 0 ? std::string() : std::to_string(fresh);

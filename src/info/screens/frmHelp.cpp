@@ -22,8 +22,7 @@ const HelpRow* RowFor(std::string_view screen) {
   for (const HelpRow& row : kHelpRows) {
     if (row.Screen == screen) return &row;
     const bool isStarred = row.Screen.ends_with('*');
-    const bool fits =
-        isStarred && screen.starts_with(row.Screen.substr(0, row.Screen.size() - 1));
+    const bool fits = isStarred && screen.starts_with(row.Screen.substr(0, row.Screen.size() - 1));
     if (fits && (!best || row.Screen.size() > best->Screen.size())) best = &row;
   }
   return best;
@@ -139,8 +138,8 @@ class frmGlossary : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page = PageOf(ui::Columns({ui::Group("", {ui::Grow(lstterms)}).Grow(3),
-                                        ui::Group("", {ui::Grow(txtterm)}).Grow(2)}));
+    ui::Page page = PageOf(ui::Columns(
+        {ui::Group("", {ui::Grow(lstterms)}).Grow(3), ui::Group("", {ui::Grow(txtterm)}).Grow(2)}));
     page.Large = true;
     return page;
   }

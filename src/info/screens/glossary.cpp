@@ -82,8 +82,8 @@ void Take(GlossaryTerm& term, const GlossaryRow& row) {
 void AddFields(std::vector<GlossaryTerm>& terms, const RecordLayout& layout) {
   for (const Field& field : layout.Fields) {
     if (field.Name == "Uid" || field.Help.empty()) continue;
-    GlossaryTerm term{NameOf(field),           std::string(layout.Name), RangeOf(field),
-                      std::string(field.Help), {},                       {}};
+    GlossaryTerm term{
+        NameOf(field), std::string(layout.Name), RangeOf(field), std::string(field.Help), {}, {}};
     if (const GlossaryRow* row = RowFor(layout, field)) Take(term, *row);
     terms.push_back(std::move(term));
   }

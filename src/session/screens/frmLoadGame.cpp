@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "calendar/guide.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/store/slot.h"
 #include "records/store/slotfolder.h"
 #include "session/home.h"
-#include "calendar/guide.h"
 #include "session/newgame.h"
 #include "storylines/storynames.h"
 #include "ui/game.h"
