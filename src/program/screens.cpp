@@ -3,7 +3,7 @@
 #include "calendar/screens/calendarscreens.h"
 #include "editor/screens/screenpages.h"
 #include "info/screens/helpscreens.h"
-#include "program/finding.h"
+#include "program/screenfinding.h"
 #include "rivals/screens/rivalscreens.h"
 #include "roster/screens/frmWorker.h"
 

@@ -1,4 +1,4 @@
-#include "program/finding.h"
+#include "program/screenfinding.h"
 
 #include <algorithm>
 #include <array>
