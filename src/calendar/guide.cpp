@@ -58,7 +58,7 @@ std::vector<GuideLine> GuideLines(const World& world) {
   std::vector<GuideLine> lines;
   if (const GuideState* guide = OpenGuide(world))
     ForEachStep(*guide, [&](const GuideStep& step, std::size_t place) {
-      lines.push_back({step.Says, guide->Done[place]});
+      lines.push_back({step.Title, step.Says, guide->Done[place]});
     });
   return lines;
 }

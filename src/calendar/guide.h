@@ -10,7 +10,7 @@
 namespace grapplemont {
 
 struct GuideLine {
-  std::string_view Says;
+  std::string_view Title, Says;
   bool IsDone;
 };
 

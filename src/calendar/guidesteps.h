@@ -15,7 +15,7 @@ struct GuideStep {
   Tour Of;
   std::string_view Screen;
   GuideDone Done;
-  std::string_view Says;
+  std::string_view Title, Says;
 };
 
 }  // namespace grapplemont

@@ -150,12 +150,15 @@ class frmMainScreen : public ui::Screen {
   void ShowGuide() {
     using Style = ui::Report::Style;
     std::vector<ui::Report::Paragraph> words;
-    bool isNext = true;
+    bool hasNext = false;
+    int number = 0;
     for (const GuideLine& line : GuideLines(world())) {
-      const std::string place = std::to_string(words.size() + 1) + ". ";
+      const bool isNext = !line.IsDone && !hasNext;
+      hasNext = hasNext || isNext;
       const Style style = line.IsDone ? Style::Muted : isNext ? Style::Strong : Style::Line;
-      isNext = isNext && line.IsDone;
-      words.push_back({style, place + (line.IsDone ? "Done. " : "") + std::string(line.Says)});
+      words.push_back({style, std::to_string(++number) + ". " + (line.IsDone ? "Done. " : "") +
+                                  std::string(line.Title)});
+      if (isNext) words.push_back({Style::Body, std::string(line.Says)});
     }
     txtguide.Visible = !words.empty();
     cmdguide.Visible = !words.empty();

@@ -244,8 +244,10 @@ TableFile Guide() {
         .Columns = {{"Tour", Choice, "", "Tour::", {"Backyard", "Television"}},
                     {"Screen", Text, "{}"},
                     {"Done", Choice, "GuideDone::Seen", "GuideDone::", {"Signed", "Feud", "Show"}},
+                    {"Title"},
                     {"Says"}},
-        .Arrays = {{"guide", "GuideStep", "kGuideSteps", {"Tour", "Screen", "Done", "Says"}}}}},
+        .Arrays =
+            {{"guide", "GuideStep", "kGuideSteps", {"Tour", "Screen", "Done", "Title", "Says"}}}}},
       {}};
 }
 
