@@ -5,6 +5,7 @@
 #include "calendar/guide.h"
 #include "calendar/incidents.h"
 #include "calendar/screens/calendarscreens.h"
+#include "calendar/screens/screenguide.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
@@ -58,8 +59,6 @@ class frmMainScreen : public ui::Screen {
   explicit frmMainScreen(Game& game)
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
     CommandNamed("cmdfed").Tip = "Click for promotional matters.";
-    txtguide.Brief = true;
-    cmdguide.Tip = "The guide does not come back.";
     lstmail.EmptyText = "No mail. What the world has to tell you arrives here.";
   }
 
@@ -77,10 +76,10 @@ class frmMainScreen : public ui::Screen {
     page.TopActions = {&txtname, &cmduntil, &cmdnext};
     page.Main = &cmdnext;
     page.Cancel = &cmdquit;
-    page.Body = ui::Columns({ui::Rows({ui::Group("Your first week", {txtguide, cmdguide}),
-                                       ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow()})
-                                 .Grow(2),
-                             ui::Group("Latest mail", {imgmail, ui::Grow(lstmail)}).Grow(3)});
+    page.Body = ui::Columns(
+        {ui::Rows({guide_.Layout(), ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow()})
+             .Grow(2),
+         ui::Group("Latest mail", {imgmail, ui::Grow(lstmail)}).Grow(3)});
     return page;
   }
 
@@ -117,7 +116,7 @@ class frmMainScreen : public ui::Screen {
   void ShowTheWorld() {
     if (!game_.HasWorld()) return;
     ShowTopBar();
-    ShowGuide();
+    guide_.Show();
     ShowMail();
     ShowMeeting();
     ShowAhead();
@@ -144,25 +143,6 @@ class frmMainScreen : public ui::Screen {
     lblmoney.Colour = player.Money < 0 ? ui::Tone::Red : ui::Tone::Plain;
     for (ui::Button* button : {&cmdnext, &cmduntil})
       EnableUnless(*button, HasEnded(world().Game()) ? kCareerIsOver : "");
-  }
-
-  /// What comes next stands out; what is done says so.
-  void ShowGuide() {
-    using Style = ui::Report::Style;
-    std::vector<ui::Report::Paragraph> words;
-    bool hasNext = false;
-    int number = 0;
-    for (const GuideLine& line : GuideLines(world())) {
-      const bool isNext = !line.IsDone && !hasNext;
-      hasNext = hasNext || isNext;
-      const Style style = line.IsDone ? Style::Muted : isNext ? Style::Strong : Style::Line;
-      words.push_back({style, std::to_string(++number) + ". " + (line.IsDone ? "Done. " : "") +
-                                  std::string(line.Title)});
-      if (isNext) words.push_back({Style::Body, std::string(line.Says)});
-    }
-    txtguide.Visible = !words.empty();
-    cmdguide.Visible = !words.empty();
-    txtguide.Write(std::move(words));
   }
 
   void ShowMail() {
@@ -263,11 +243,6 @@ class frmMainScreen : public ui::Screen {
     ui::Pick(desk(), *desk().Top(), "lstnews", row);
   }
 
-  void cmdguide_Click() {
-    CloseGuide(world());
-    ShowGuide();
-  }
-
   void cmdquit_Click() {
     if (!desk().Ask("Quit?", "Are you sure you want to quit?")) return;
     game_.Commit();
@@ -293,8 +268,7 @@ class frmMainScreen : public ui::Screen {
         return std::make_unique<ui::Button>(*this, command.Control, command.Caption,
                                             [this, &command] { desk().Open(command.Screen); });
       }};
-  ui::Report txtguide{*this, "txtguide"};
-  ui::Button cmdguide{*this, "cmdguide", "Close The Guide", &frmMainScreen::cmdguide_Click};
+  GuideCard guide_{*this, game_};
   ui::Label imgmail{*this, "imgmail"};
   ui::ListBox lstahead{
       *this, "lstahead", {{"Date", K::Number}, {"Day"}, {"Show"}, {"Kind", K::Tag}}};
