@@ -58,7 +58,7 @@ TEST(Search, FindsNamesByTheirBeginningsInAnyLettersAndForgivesSlips) {
 TEST(Search, KnowsWhatHasGoneSince) {
   World world = SomeWorld();
   const Found bram = NameSearch(world).Find("bram", 1).front();
-  EXPECT_EQ(AboutFound(world, bram), "Main Event, CWA");
+  EXPECT_EQ(AboutFound(world, bram), "Main Event, CWA Wrestling");
   EXPECT_TRUE(IsStill(world, bram));
   world.Workers()[bram.Number].Name = "Cal Drift";
   EXPECT_FALSE(IsStill(world, bram));
