@@ -17,12 +17,14 @@ target_link_libraries(words_tables PRIVATE house_rules
 program(embed-tables src/words/tables/main.cpp words_tables)
 set_target_properties(embed-tables PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 
-set(tables ${PROJECT_SOURCE_DIR}/words/angles.txt ${PROJECT_SOURCE_DIR}/words/names.txt
-           ${PROJECT_SOURCE_DIR}/words/promotions.txt ${PROJECT_SOURCE_DIR}/words/segments.txt)
+set(tables "")
+foreach(name angles glossary guide help names promotions segments)
+  list(APPEND tables ${PROJECT_SOURCE_DIR}/words/${name}.txt)
+endforeach()
 set(made ${CMAKE_BINARY_DIR}/tables/words)
 add_custom_command(
-  OUTPUT ${made}/anglerules.h ${made}/angles.h ${made}/names.h ${made}/promotions.h ${made}/purposes.h
-         ${made}/segments.h
+  OUTPUT ${made}/anglerules.h ${made}/angles.h ${made}/glossary.h ${made}/guide.h ${made}/help.h
+         ${made}/names.h ${made}/promotions.h ${made}/purposes.h ${made}/segments.h
   COMMAND embed-tables ${PROJECT_SOURCE_DIR}/words ${made}
   DEPENDS embed-tables ${tables}
   COMMENT "Reading the tables of words/"

@@ -77,6 +77,21 @@ std::string OneControl(ui::Screen& screen, const std::string& name, int width) {
   return {};
 }
 
+std::string FoundText(const std::vector<ui::Finding>& found) {
+  if (found.empty()) return "Nothing is called so.\n";
+  std::string text, heading;
+  int number = 0;
+  for (const ui::Finding& one : found) {
+    if (one.Heading != heading) text += (heading.empty() ? "" : "\n") + one.Heading + "\n";
+    heading = one.Heading;
+    const std::string place = std::to_string(++number);
+    text += std::string(6 - std::min<std::size_t>(place.size(), 5), ' ') + place + "  " +
+            Printable(one.Words) + (one.About.empty() ? "" : " (" + Printable(one.About) + ")") +
+            "\n";
+  }
+  return text + "\nType: visit NUMBER\n";
+}
+
 using Json = nlohmann::ordered_json;
 
 void AddRows(Json& json, const ui::ComboBox& combo) {
@@ -153,6 +168,7 @@ std::string TextAnswer(const Answer& answer, int width) {
   if (!answer.Error.empty()) return "Error: " + answer.Error + "\n";
   if (!answer.Help.empty()) return answer.Help;
   if (answer.Open) return ToUtf8(BoxText(*answer.Open, width));
+  if (answer.Found) return ToUtf8(FoundText(*answer.Found));
   if (!answer.Top) return "The game has ended.\n";
   if (!answer.Only.empty()) return ToUtf8(OneControl(*answer.Top, answer.Only, width));
   return ToUtf8(ScreenText(*answer.Top, width));
@@ -168,6 +184,12 @@ std::string JsonAnswer(const Answer& answer) {
       json["controls"].push_back(ControlJson(*control));
   }
   if (answer.Open) json["box"] = BoxJson(*answer.Open);
+  if (answer.Found) {
+    json["found"] = Json::array();
+    for (const ui::Finding& one : *answer.Found)
+      json["found"].push_back(
+          Json::array({ToUtf8(one.Heading), ToUtf8(one.Words), ToUtf8(one.About)}));
+  }
   if (!answer.Error.empty()) json["error"] = answer.Error;
   if (!answer.Help.empty()) json["help"] = answer.Help;
   return json.dump();

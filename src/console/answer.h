@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "ui/screen.h"
+#include "ui/desk.h"
 
 namespace grapplemont::console {
 
@@ -20,7 +20,8 @@ struct Answer {
   const Box* Open = nullptr;
   std::string Error = {};  // UTF-8, as are all answers
   std::string Help = {};
-  std::string Only = {};  // the one control that was asked for
+  std::string Only = {};                            // the one control that was asked for
+  const std::vector<ui::Finding>* Found = nullptr;  // what a search has brought
 };
 
 /// One JSON object, without the line's end.

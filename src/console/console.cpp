@@ -120,6 +120,8 @@ std::optional<Command> Console::NextCommand() {
 bool Console::Look(const Command& command) {
   if (command.Is == Verb::Help) {
     answer_.Help = HelpText();
+  } else if (command.Is == Verb::Find) {
+    Find(command.Text);
   } else if (command.Is != Verb::Show) {
     return false;
   } else if (!command.Name.empty()) {
@@ -130,6 +132,26 @@ bool Console::Look(const Command& command) {
       Refuse("There is no \"" + command.Name + "\" to be seen.");
   }
   return true;
+}
+
+void Console::Find(const std::string& typed) {
+  constexpr std::size_t kMost = 10;  // under a heading
+  found_ = NewSearch()(typed, kMost);
+  answer_.Found = &found_;
+}
+
+std::string Console::Visit(const std::string& number) {
+  const auto place = ui::AsNumber(number);
+  if (!place || *place < 1 || *place > std::ssize(found_))
+    return "Nothing was found under \"" + number + "\"; \"find TEXT\" looks.";
+  const ui::Handler open = found_[static_cast<std::size_t>(*place - 1)].Open;
+  Event(open);
+  return {};
+}
+
+std::string Console::Explain(const std::string& term) {
+  const bool told = term.empty() ? OpenHelp() : OpenGlossary(term);
+  return told ? "" : "There is no help here.";
 }
 
 void Console::Perform(const Command& command) {
@@ -151,6 +173,10 @@ void Console::Perform(const Command& command) {
       return Refuse(Slide(*this, top, command));
     case Verb::Follow:
       return Refuse(ui::Follow(*this, top, command.Text));
+    case Verb::Visit:
+      return Refuse(Visit(command.Text));
+    case Verb::Explain:
+      return Refuse(Explain(command.Text));
     default:
       return Refuse("No box is open.");
   }

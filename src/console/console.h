@@ -43,13 +43,17 @@ class Console : public ui::Desk {
   void Perform(const Command& command);
   void GiveAnswer();
   void Refuse(std::string why);
+  void Find(const std::string& typed);
+  std::string Visit(const std::string& number);
+  std::string Explain(const std::string& term);
 
   std::istream& in_;
   std::ostream& out_;
   Settings settings_;
   std::optional<Box> box_;
-  Answer answer_;  // what the last command adds to the screen
-  bool due_;       // a command has not been answered yet
+  Answer answer_;                   // what the last command adds to the screen
+  std::vector<ui::Finding> found_;  // by the last search
+  bool due_;                        // a command has not been answered yet
   bool ended_ = false;
 };
 

@@ -2,7 +2,9 @@
 
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
+#include "desktop/drawn/drawn.h"
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
 
@@ -10,29 +12,66 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kAsideRole = Qt::UserRole;
-constexpr int kRow = 32;
+constexpr int kRow = 34, kHeading = 28, kPicture = 24;
+constexpr std::size_t kMost = 6;  // names under a heading
+constexpr int kNearly = 2;        // the letters stand together
 
 class EntryCells : public QStyledItemDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  EntryCells(QObject* parent, const std::vector<Finder::Row>& rows)
+      : QStyledItemDelegate(parent), rows_(rows) {}
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
     const Colours& c = ColoursOf(option.palette);
-    painter->save();
-    if (option.state.testFlag(QStyle::State_Selected))
-      DrawBox(*painter, option.rect, c.Chosen, QColor(), Px(4));
     const QRect room = option.rect.adjusted(Px(10), 0, -Px(10), 0);
-    painter->setFont(TextFont());
-    painter->setPen(c.Text);
-    painter->drawText(room, Qt::AlignVCenter, index.data().toString());
-    painter->setPen(c.Muted);
-    painter->drawText(room, Qt::AlignVCenter | Qt::AlignRight, index.data(kAsideRole).toString());
+    const Finder::Row* row = RowAt(index);
+    painter->save();
+    if (row && row->Is) {
+      if (option.state.testFlag(QStyle::State_Selected))
+        DrawBox(*painter, option.rect, c.Chosen, QColor(), Px(4));
+      PaintEntry(*painter, room, *row->Is, c);
+    } else {
+      painter->setFont(row ? TextFont(11, QFont::DemiBold) : TextFont());
+      painter->setPen(c.Muted);
+      const QString words = index.data().toString();
+      painter->drawText(room, row ? Qt::AlignBottom : Qt::AlignVCenter,
+                        painter->fontMetrics().elidedText(words, Qt::ElideRight, room.width()));
+    }
     painter->restore();
   }
-  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
-    return {Px(100), Px(kRow)};
+  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const override {
+    const Finder::Row* row = RowAt(index);
+    return {Px(100), Px(row && !row->Is ? kHeading : kRow)};
   }
+
+ private:
+  const Finder::Row* RowAt(const QModelIndex& index) const {
+    const auto place = static_cast<std::size_t>(index.row());
+    return place < rows_.size() ? &rows_[place] : nullptr;
+  }
+  /// The name has what room it needs; what it is gets the rest.
+  static void PaintEntry(QPainter& painter, QRect room, const Finder::Entry& entry,
+                         const Colours& c) {
+    if (entry.Picture.index() != 0) {
+      const QRectF all(room.left(), room.center().y() - Px(kPicture) / 2.0, Px(kPicture) * 2,
+                       Px(kPicture));
+      const double width = std::min(all.width(), all.height() * ShapeOf(entry.Picture));
+      Draw(painter, QRectF(all.topLeft(), QSizeF(width, all.height())), entry.Picture);
+      room.setLeft(room.left() + Px(kPicture) * 2 + Px(8));
+    }
+    painter.setFont(TextFont());
+    const QFontMetrics metrics = painter.fontMetrics();
+    const QString words = metrics.elidedText(entry.Words, Qt::ElideRight, room.width());
+    painter.setPen(c.Text);
+    painter.drawText(room, Qt::AlignVCenter, words);
+    room.setLeft(room.left() + metrics.horizontalAdvance(words) + Px(16));
+    if (room.width() < Px(30)) return;
+    const QString aside = entry.Where + (entry.Key.isEmpty() ? "" : "   " + entry.Key);
+    painter.setPen(c.Muted);
+    painter.drawText(room, Qt::AlignVCenter | Qt::AlignRight,
+                     metrics.elidedText(aside, Qt::ElideRight, room.width()));
+  }
+  const std::vector<Finder::Row>& rows_;
 };
 
 /// How well letters fit words: 0 not at all; the start counts more than the middle, and that more
@@ -51,26 +90,31 @@ int Fit(const QString& words, const QString& letters) {
 
 }  // namespace
 
-Finder::Finder(QWidget* ground, std::vector<Entry> entries)
-    : Veil(ground), entries_(std::move(entries)) {
+Finder::Finder(QWidget* ground, Sources sources) : Veil(ground), from_(std::move(sources)) {
   // The veil filters events from the first child on: until then both are known to be none.
   line_ = NewLine(&Sheet(), "finderline");
   list_ = new QListWidget(&Sheet());
   setObjectName("finder");
   SetAtTop();
-  SetWanted({560, 400});
+  SetWanted({640, 480});
   auto* rows = NewLayout<QVBoxLayout>(&Sheet(), 8, {12, 12, 12, 12});
   rows->addWidget(line_);
   rows->addWidget(list_, 1);
-  line_->setPlaceholderText("Where to, or what to do?");
+  line_->setPlaceholderText("Whom, what or where to?");
+  line_->setAccessibleName("Search everything");
   line_->installEventFilter(this);
   list_->setObjectName("finderlist");
+  list_->setAccessibleName("Found");
   list_->setFrameShape(QFrame::NoFrame);
   list_->setFocusPolicy(Qt::NoFocus);
-  list_->setItemDelegate(new EntryCells(list_));
+  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list_->setItemDelegate(new EntryCells(list_, rows_));
   list_->viewport()->setAutoFillBackground(false);
   connect(line_, &QLineEdit::textChanged, this, &Finder::Filter);
-  connect(list_, &QListWidget::itemClicked, this, &Finder::Choose, Qt::QueuedConnection);
+  connect(list_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
+    if (item->flags().testFlag(Qt::ItemIsEnabled))
+      QMetaObject::invokeMethod(this, &Finder::Choose, Qt::QueuedConnection);
+  });
   Filter({});
   PlaceCard();
   show();
@@ -78,22 +122,107 @@ Finder::Finder(QWidget* ground, std::vector<Entry> entries)
   line_->setFocus(Qt::OtherFocusReason);
 }
 
-void Finder::Filter(const QString& letters) {
-  found_.clear();
-  for (const Entry& entry : entries_)
-    if (const int fit = Fit(entry.Words, letters.trimmed())) found_.emplace_back(fit, &entry);
-  std::ranges::stable_sort(found_, [](const auto& a, const auto& b) { return a.first > b.first; });
+void Finder::Filter(const QString& typed) {
+  constexpr int kAny = 1, kAll = 100;
+  const QString letters = typed.trimmed();
   list_->clear();
-  for (const auto& [fit, entry] : found_) {
-    auto* item = new QListWidgetItem(entry->Words, list_);
-    item->setData(kAsideRole, entry->Where + (entry->Key.isEmpty() ? "" : "   " + entry->Key));
+  rows_.clear();
+  FindNames(letters);
+  Entries names;
+  for (const Entry& name : names_) names.push_back(&name);
+  if (letters.isEmpty()) {
+    AddRecent();
+    AddRows(CommandsFor(letters, kAny, kAll));
+  } else {
+    // Letters far apart are the weakest reason.
+    AddRows(CommandsFor(letters, kNearly, kAll));
+    AddRows(std::move(names));
+    AddRows(CommandsFor(letters, kAny, kNearly));
   }
-  list_->setCurrentRow(0);
+  ShowRows(letters);
+}
+
+Finder::Entries Finder::CommandsFor(const QString& letters, int least, int below) const {
+  std::vector<std::pair<int, const Entry*>> fits;
+  for (const Entry& entry : from_.Commands)
+    if (const int fit = Fit(entry.Words, letters); fit >= least && fit < below)
+      fits.emplace_back(fit, &entry);
+  std::ranges::stable_sort(fits, [](const auto& a, const auto& b) { return a.first > b.first; });
+  Entries entries;
+  for (const auto& [fit, entry] : fits) entries.push_back(entry);
+  return entries;
+}
+
+void Finder::FindNames(const QString& letters) {
+  names_.clear();
+  if (letters.isEmpty() || !from_.Names) return;
+  for (ui::Finding& found : from_.Names(Keep(letters).Text, kMost))
+    names_.push_back({Shown(found.Heading),
+                      Shown(found.Words),
+                      Shown(found.About),
+                      {},
+                      {},
+                      std::move(found.Open),
+                      found.Picture});
+}
+
+bool Finder::IsRecent(const Entry& entry) const {
+  return std::ranges::any_of(from_.Recent, [&](const Entry& one) { return Same(one, entry); });
+}
+
+/// Commands that cannot be given now are left out.
+void Finder::AddRecent() {
+  for (const Entry& one : from_.Recent) {
+    const auto command =
+        std::ranges::find_if(from_.Commands, [&](const Entry& now) { return Same(one, now); });
+    const bool isThere = command != from_.Commands.end();
+    if (!isThere && !one.Open) continue;
+    if (rows_.empty()) rows_.push_back({"Recent"});
+    rows_.push_back({{}, isThere ? &*command : &one});
+  }
+}
+
+void Finder::AddRows(Entries entries) {
+  for (std::size_t at = 0; at < entries.size();) {
+    const QString heading = entries[at]->Heading;
+    const auto first = entries.begin() + static_cast<std::ptrdiff_t>(at);
+    // Commands are sorted by how well they fit: those of a heading come together here.
+    const auto last = std::stable_partition(
+        first, entries.end(), [&](const Entry* entry) { return entry->Heading == heading; });
+    std::stable_partition(first, last, [&](const Entry* entry) { return IsRecent(*entry); });
+    rows_.push_back({heading});
+    for (auto entry = first; entry != last; ++entry) rows_.push_back({{}, *entry});
+    at += static_cast<std::size_t>(last - first);
+  }
+}
+
+void Finder::ShowRows(const QString& letters) {
+  for (const Row& row : rows_) {
+    auto* item = new QListWidgetItem(row.Is ? row.Is->Words : row.Heading, list_);
+    if (row.Is)
+      item->setData(Qt::AccessibleDescriptionRole, row.Is->Where);
+    else
+      item->setFlags(Qt::NoItemFlags);
+  }
+  if (rows_.empty()) {
+    auto* none = new QListWidgetItem("Nothing is called \"" + letters + "\".", list_);
+    none->setFlags(Qt::NoItemFlags);
+  }
+  list_->setCurrentRow(rows_.empty() ? -1 : 1);
+  list_->scrollToTop();
+}
+
+/// To the next entry in this direction; headings are passed.
+void Finder::Step(int by) {
+  const int count = static_cast<int>(rows_.size());
+  for (int row = list_->currentRow() + by; row >= 0 && row < count; row += by)
+    if (rows_[static_cast<std::size_t>(row)].Is) return list_->setCurrentRow(row);
 }
 
 void Finder::Choose() {
   const int row = list_->currentRow();
-  if (row >= 0) Finish(found_[static_cast<std::size_t>(row)].second);
+  if (row < 0 || row >= static_cast<int>(rows_.size())) return;
+  if (const Entry* entry = rows_[static_cast<std::size_t>(row)].Is) Finish(entry);
 }
 
 void Finder::Finish(const Entry* chosen) {
@@ -114,8 +243,7 @@ bool Finder::eventFilter(QObject* watched, QEvent* event) {
   } else if (IsEnter(key)) {
     Choose();
   } else if (step != 0) {
-    const int last = std::max(0, list_->count() - 1);
-    list_->setCurrentRow(std::clamp(list_->currentRow() + step, 0, last));
+    Step(step);
   } else {
     return false;
   }

@@ -6,31 +6,60 @@
 #include <vector>
 
 #include "desktop/card.h"
+#include "ui/desk.h"
 
 namespace grapplemont::desktop {
 
-/// "Search everything": a line that finds whatever can be done at present, by some of its letters.
+/// "Search everything": a line that finds whatever can be done at present and whatever has a name,
+/// by some of its letters, under headings, what was chosen lately first.
 class Finder : public Veil {
  public:
   struct Entry {
-    QString Words, Where, Key;
+    QString Heading, Words, Where, Key;
     std::function<void()> Run;
+    ui::Handler Open = {};  // of what was found by its name, in place of Run
+    ui::Drawing Picture = {};
+    friend bool Same(const Entry& a, const Entry& b) {
+      return a.Heading == b.Heading && a.Words == b.Words;
+    }
   };
-  Finder(QWidget* ground, std::vector<Entry> entries);
+  struct Sources {
+    std::vector<Entry> Commands;
+    ui::Search Names;
+    std::vector<Entry> Recent;  // the last first
+  };
+  Finder(QWidget* ground, Sources sources);
   /// Called with what was chosen, nullptr when nothing was; then the finder goes.
   std::function<void(const Entry* chosen)> Done;
+
+  /// A row of the list: an entry, or a heading above some.
+  struct Row {
+    QString Heading;
+    const Entry* Is = nullptr;
+  };
 
  protected:
   void mousePressEvent(QMouseEvent*) override { Finish(nullptr); }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  using Entries = std::vector<const Entry*>;
   void Filter(const QString& letters);
+  /// Commands whose letters fit so well at least, and less than `below`.
+  Entries CommandsFor(const QString& letters, int least, int below) const;
+  void FindNames(const QString& letters);
+  void AddRecent();
+  /// Adds entries below their headings; those that were chosen lately lead under each.
+  void AddRows(Entries entries);
+  void ShowRows(const QString& letters);
+  bool IsRecent(const Entry& entry) const;
+  void Step(int by);
   void Choose();
   void Finish(const Entry* chosen);
 
-  std::vector<Entry> entries_;
-  std::vector<std::pair<int, const Entry*>> found_;  // how well each fits, in the list's order
+  Sources from_;
+  std::vector<Entry> names_;  // what the letters have found
+  std::vector<Row> rows_;
   QLineEdit* line_ = nullptr;
   QListWidget* list_ = nullptr;
   bool done_ = false;

@@ -125,19 +125,19 @@ bool Window::PressSideKey(const QKeyEvent& event) {
 
 std::vector<Finder::Entry> Window::FinderEntries() {
   std::vector<Finder::Entry> entries;
-  const auto add = [&](ui::Button* button, const std::string& where, const std::string& key,
-                       const std::function<void()>& run) {
+  const auto add = [&](const char* heading, ui::Button* button, const std::string& where,
+                       const std::string& key, const std::function<void()>& run) {
     if (CanPress(button))
-      entries.push_back({Shown(button->Text.Get()), Shown(where), Shown(key), run});
+      entries.push_back({heading, Shown(button->Text.Get()), Shown(where), Shown(key), run});
   };
   const auto addCommand = [&](ui::Button* command, const std::string& where,
                               const std::string& key) {
     if (WhyWaits(*command).empty())
-      add(command, where, key, [this, command] { PressHub(*command); });
+      add("Rooms", command, where, key, [this, command] { PressHub(*command); });
   };
   if (ScreenView* const view = TopView(); view && desk_.Top())
     for (ui::Button* action : view->Page().Actions)
-      add(action, desk_.Top()->Title.Get(), {}, [this, action] {
+      add("On this page", action, desk_.Top()->Title.Get(), {}, [this, action] {
         Act([&] { return ui::Click(desk_, action->Parent(), action->Name()); });
       });
   if (HubInReach()) {
@@ -148,22 +148,40 @@ std::vector<Finder::Entry> Window::FinderEntries() {
         addCommand(command.Press, group.Title, command.Key);
   }
   for (const OwnCommand& own : OwnCommands())
-    if (!own.Words.isEmpty()) entries.push_back({own.Words, "Window", own.Key, own.Run});
+    if (!own.Words.isEmpty()) entries.push_back({"Window", own.Words, {}, own.Key, own.Run});
   return entries;
 }
 
 void Window::OpenFinder() {
   if (box_ || finder_ || acting_ > 0) return;
   if (ScreenView* top = TopView()) top->RememberKeyboard();
-  finder_ = new Finder(ground_, FinderEntries());
+  finder_ = new Finder(ground_, {FinderEntries(), desk_.NewSearch(), recent_});
   finder_->Done = [this](const Finder::Entry* chosen) {
-    const std::function<void()> run = chosen ? chosen->Run : std::function<void()>();
+    const Finder::Entry taken = chosen ? *chosen : Finder::Entry();
     finder_ = nullptr;
     if (ScreenView* top = TopView()) top->TakeKeyboard();
     ShowEnter();
-    if (run) run();
+    if (!chosen) return;
+    Remember(taken);
+    if (taken.Open) {
+      Act([&] {
+        desk_.Event(taken.Open);
+        return std::string();
+      });
+    } else if (taken.Run) {
+      taken.Run();
+    }
   };
   ShowEnter();
+}
+
+/// Commands are kept by their words alone: what they do is looked up when they are shown again.
+void Window::Remember(const Finder::Entry& chosen) {
+  constexpr std::size_t kMost = 8;
+  std::erase_if(recent_, [&](const Finder::Entry& one) { return Same(one, chosen); });
+  recent_.insert(recent_.begin(), chosen);
+  recent_.front().Run = {};
+  if (recent_.size() > kMost) recent_.pop_back();
 }
 
 }  // namespace grapplemont::desktop

@@ -207,10 +207,20 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
   return Shown(table_.At(index.row(), index.column()).Text);
 }
 
+/// What the heading says itself, then what the glossary says of it.
+QVariant TableModel::TipOf(int section) const {
+  const std::string meaning = MeaningOf ? MeaningOf(Column(section).Title) : std::string();
+  QStringList lines;
+  for (const std::string& line : {Column(section).Tip, meaning})
+    if (!line.empty()) lines.append(Shown(line).toHtmlEscaped());
+  if (!meaning.empty()) lines.append("Right click, \"What it means\": the glossary.");
+  return lines.isEmpty() ? QVariant() : QVariant("<p>" + lines.join("<br>") + "</p>");
+}
+
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section >= columnCount()) return {};
   if (role == Qt::DisplayRole) return Shown(Column(section).Title);
-  if (role == Qt::ToolTipRole && !Column(section).Tip.empty()) return Shown(Column(section).Tip);
+  if (role == Qt::ToolTipRole) return TipOf(section);
   return {};
 }
 

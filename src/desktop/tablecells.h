@@ -38,6 +38,8 @@ class TableModel : public QAbstractTableModel {
     return list_.Columns()[static_cast<std::size_t>(column)];
   }
   const ui::Table& Table() const { return table_; }
+  /// What the glossary says of a heading; empty for nothing.
+  std::function<std::string(const std::string& title)> MeaningOf;
 
   Pinned Pin;
   /// In the order shown; none while nothing is scrolled.
@@ -45,6 +47,7 @@ class TableModel : public QAbstractTableModel {
   bool IsPinned(int column) const;
 
  private:
+  QVariant TipOf(int section) const;
   const ui::ListBox& list_;
   const ui::Table& table_;
 };

@@ -10,6 +10,7 @@
 namespace grapplemont::desktop {
 
 void TableView::ConnectLinks() {
+  model_.MeaningOf = [this](const std::string& title) { return OnStage().Desk().MeaningOf(title); };
   grid_->LinkOf = [this](const QModelIndex& cell) {
     const auto links = LinksOf(cell.row(), cell.column());
     return links.empty() ? ui::Handler() : links.front().Open;
@@ -57,6 +58,11 @@ void TableView::OpenHeadingMenu(const QPoint& at) {
   QMenu* menu = NewMenu(this, "headingmenu");
   AddFilterLine(*menu, column);
   menu->addSeparator();
+  const std::string title = model_.Column(column).Title;
+  if (!OnStage().Desk().MeaningOf(title).empty())
+    menu->addAction("What it means", this, [this, title] {
+      Follow([this, title] { OnStage().Desk().OpenGlossary(title); });
+    });
   AddChange(*menu, "Sort", [this, column] { table_.TurnSort(column, false); });
   AddChange(*menu, "Sort as the second key\tShift click",
             [this, column] { table_.TurnSort(column, true); });

@@ -96,6 +96,9 @@ void Window::Retire(Layer& layer) {
   if (top_ == layer.Screen) top_ = nullptr;
   layer.View->Leave();
   if (frame_ && layer.Screen == framed_) {
+    // Names that were found belong to the game that is left.
+    if (!desk_.Holds(*layer.Screen))
+      std::erase_if(recent_, [](const Finder::Entry& one) { return bool(one.Open); });
     // What lies in the frame goes with it.
     HubFrame* const frame = std::exchange(frame_, nullptr);
     framed_ = nullptr;

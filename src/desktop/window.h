@@ -113,6 +113,7 @@ class Window : public QMainWindow, public Stage {
   bool PressSideKey(const QKeyEvent& event);
   void OpenFinder();
   std::vector<Finder::Entry> FinderEntries();
+  void Remember(const Finder::Entry& chosen);
 
   // Keys and the window's own commands, in windowkeys.cpp.
   struct OwnCommand {
@@ -127,6 +128,8 @@ class Window : public QMainWindow, public Stage {
   void PressEnter();
   /// The sign of the Enter key stands on what it presses, and nowhere else.
   void ShowEnter();
+  void OpenHelp();
+  void OpenGlossary(const std::string& term);
   void TurnColours();
   void SetZoom(int zoom);
   void Relook();
@@ -143,6 +146,7 @@ class Window : public QMainWindow, public Stage {
   ui::Screen* top_ = nullptr;
   QPointer<MessageBox> box_;
   QPointer<Finder> finder_;
+  std::vector<Finder::Entry> recent_;  // what was chosen in it, the last first
   QPointer<QLabel> hint_;
   std::map<std::string, std::string> commandOf_;  // screen to the command that opens it
   int acting_ = 0;

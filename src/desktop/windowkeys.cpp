@@ -62,7 +62,9 @@ std::vector<Window::OwnCommand> Window::OwnCommands() {
        "Ctrl +",
        [this] { SetZoom(settings_.Zoom() + 1); }},
       {{Qt::Key_Minus}, "Smaller text", "Ctrl -", [this] { SetZoom(settings_.Zoom() - 1); }},
-      {{Qt::Key_0}, "Text as the desktop has it", "Ctrl 0", [this] { SetZoom(0); }}};
+      {{Qt::Key_0}, "Text as the desktop has it", "Ctrl 0", [this] { SetZoom(0); }},
+      {{}, "Help for this page", "F1", [this] { OpenHelp(); }},
+      {{}, "Glossary", {}, [this] { OpenGlossary({}); }}};
 }
 
 bool Window::HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event) {
@@ -71,6 +73,10 @@ bool Window::HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event) {
   if (modifiers == Qt::NoModifier && IsEnter(event.key())) {
     if (!TopView() || KeepsEnter(&typedIn)) return false;
     if (!event.isAutoRepeat()) PressEnter();
+    return true;
+  }
+  if (modifiers == Qt::NoModifier && event.key() == Qt::Key_F1) {
+    OpenHelp();
     return true;
   }
   if (modifiers == Qt::NoModifier) return PressSideKey(event);
@@ -82,6 +88,20 @@ bool Window::HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event) {
       return true;
     }
   return false;
+}
+
+void Window::OpenHelp() {
+  Act([this] {
+    desk_.OpenHelp();
+    return std::string();
+  });
+}
+
+void Window::OpenGlossary(const std::string& term) {
+  Act([&] {
+    desk_.OpenGlossary(term);
+    return std::string();
+  });
 }
 
 void Window::TurnColours() {

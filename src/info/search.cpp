@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <limits>
 #include <tuple>
 
 #include "business/networks.h"
@@ -15,6 +16,7 @@ namespace {
 
 using Kind = Found::Kind;
 
+constexpr int kInside = 3;      // the letters stand inside a word
 constexpr int kTypo = 10;       // a wrong letter is worse than any place in the name
 constexpr int kWorkless = 200;  // behind everybody who works somewhere
 
@@ -78,7 +80,7 @@ int FitOfWord(std::string_view name, std::string_view word, bool forgiving) {
   if (name.starts_with(word)) return 0;
   if (name.find(word) != name.npos) return 1;
   const std::string_view letters = word.substr(1);
-  if (letters.size() > 1 && name.find(letters) != name.npos) return 3;
+  if (letters.size() > 1 && name.find(letters) != name.npos) return kInside;
   const int most = forgiving ? Forgiven(letters.size()) : 0;
   int least = most + 1;
   for (std::size_t at = 0; most > 0 && at != name.npos; at = name.find(' ', at + 1))
@@ -142,47 +144,65 @@ std::string BeginningOf(std::string_view body) {
   return std::string(body.substr(0, body.rfind(' ', kShown))) + " ...";
 }
 
-std::string_view NameOf(const World& world, Kind kind, int number) {
+/// Hands the records of a kind to `visit`.
+template <class Visit>
+auto WithRecords(const World& world, Kind kind, Visit visit) {
   switch (kind) {
     case Kind::Worker:
-      return world.Workers()[number].Name;
+      return visit(world.Workers());
     case Kind::Promotion:
-      return world.Promotions()[number].Name;
+      return visit(world.Promotions());
     case Kind::Title:
-      return world.Titles()[number].Name;
+      return visit(world.Titles());
     case Kind::Show:
-      return world.Shows()[number].Name;
+      return visit(world.Shows());
     case Kind::Event:
-      return world.Events()[number].Name;
+      return visit(world.Events());
     case Kind::Team:
-      return world.Teams()[number].Name;
+      return visit(world.Teams());
     case Kind::Stable:
-      return world.Stables()[number].Name;
+      return visit(world.Stables());
     case Kind::Staff:
-      return world.AllStaff()[number].Name;
+      return visit(world.AllStaff());
     case Kind::Network:
-      return world.Networks()[number].Name;
+      return visit(world.Networks());
     case Kind::Sponsor:
-      return world.Sponsors()[number].Name;
+      return visit(world.Sponsors());
     case Kind::Mail:
-      return world.News()[number].Body;
+      break;
   }
-  return {};
+  return visit(world.News());
 }
+
+/// Empty for a number that no record has.
+std::string NameOf(const World& world, Kind kind, int number) {
+  return WithRecords(world, kind, [number](const auto& records) -> std::string {
+    if (number < 1 || number > records.Count()) return {};
+    const auto& record = records[number];
+    if constexpr (requires { record.Body; })
+      return BeginningOf(record.Body.View());
+    else
+      return record.Name.Str();
+  });
+}
+
+/// How well each kind fits at its best: the kind that fits best comes first.
+using BestOfKinds = std::array<int, kKindsOfFound>;
 
 }  // namespace
 
 std::string_view KindOfFound(Kind kind) {
-  static constexpr std::string_view kKinds[] = {"Workers",  "Promotions", "Titles",  "Shows",
-                                                "Events",   "Tag Teams",  "Stables", "Staff",
-                                                "Networks", "Sponsors",   "Mail"};
+  static constexpr std::string_view kKinds[kKindsOfFound] = {
+      "Workers", "Promotions", "Titles",   "Shows",    "Events", "Tag Teams",
+      "Stables", "Staff",      "Networks", "Sponsors", "Mail"};
   return kKinds[static_cast<std::size_t>(kind)];
 }
 
 NameSearch::NameSearch(const World& world) : world_(world) {
   const auto add = [this](Kind kind, int number, std::string_view name, int standing = 0) {
     std::string letters = PlainWords(name);
-    if (letters.size() > 1) names_.push_back({kind, number, standing, std::move(letters)});
+    if (letters.size() > 1 && name != kToBeDeleted)
+      names_.push_back({kind, number, standing, std::move(letters)});
   };
   const auto all = [](const auto& records, auto visit) {
     for (int number = 1; number <= records.Count(); ++number) visit(number, records[number]);
@@ -221,34 +241,44 @@ NameSearch::NameSearch(const World& world) : world_(world) {
 std::vector<Found> NameSearch::Find(std::string_view typed, std::size_t most) const {
   const std::vector<std::string> words = TypedWords(typed);
   if (words.empty()) return {};
-  struct Hit {
-    const Name* Of;
-    int Fit;
+  std::vector<Hit> hits = HitsFor(words, false);
+  // Letters that stand inside a word alone are as likely a slip.
+  const bool isSure =
+      std::any_of(hits.begin(), hits.end(), [](const Hit& hit) { return hit.Fit < kInside; });
+  if (!isSure) hits = HitsFor(words, true);
+  BestOfKinds best;
+  best.fill(std::numeric_limits<int>::max());
+  const auto bestOf = [&best](const Hit& hit) -> int& {
+    return best[static_cast<std::size_t>(hit.Of->Is)];
   };
-  std::vector<Hit> hits;
-  for (const bool forgiving : {false, true}) {
-    if (forgiving && !hits.empty()) break;
-    for (const Name& name : names_) {
-      if (forgiving && name.Is == Kind::Mail) continue;
-      const int fit = FitOf(name.Letters, words, forgiving);
-      if (fit >= 0) hits.push_back({&name, fit});
-    }
-  }
-  std::stable_sort(hits.begin(), hits.end(), [](const Hit& a, const Hit& b) {
-    return std::tuple(a.Of->Is, a.Fit, a.Of->Standing) <
-           std::tuple(b.Of->Is, b.Fit, b.Of->Standing);
+  for (const Hit& hit : hits) bestOf(hit) = std::min(bestOf(hit), hit.Fit);
+  std::stable_sort(hits.begin(), hits.end(), [&](const Hit& a, const Hit& b) {
+    return std::tuple(bestOf(a), a.Of->Is, a.Fit, a.Of->Standing) <
+           std::tuple(bestOf(b), b.Of->Is, b.Fit, b.Of->Standing);
   });
   std::vector<Found> found;
   std::size_t ofKind = 0;
   for (const Hit& hit : hits) {
     ofKind = !found.empty() && found.back().Is == hit.Of->Is ? ofKind : 0;
-    if (++ofKind <= most) found.push_back({hit.Of->Is, hit.Of->Number, {}, hit.Fit});
-  }
-  for (Found& one : found) {
-    const std::string_view name = NameOf(world_, one.Is, one.Number);
-    one.Name = one.Is == Kind::Mail ? BeginningOf(name) : std::string(name);
+    if (++ofKind <= most)
+      found.push_back(
+          {hit.Of->Is, hit.Of->Number, NameOf(world_, hit.Of->Is, hit.Of->Number), hit.Fit});
   }
   return found;
+}
+
+std::vector<NameSearch::Hit> NameSearch::HitsFor(const std::vector<std::string>& words,
+                                                 bool forgiving) const {
+  std::vector<Hit> hits;
+  for (const Name& name : names_) {
+    const int fit = FitOf(name.Letters, words, forgiving && name.Is != Kind::Mail);
+    if (fit >= 0) hits.push_back({&name, fit});
+  }
+  return hits;
+}
+
+bool IsStill(const World& world, const Found& found) {
+  return NameOf(world, found.Is, found.Number) == found.Name;
 }
 
 std::string AboutFound(const World& world, const Found& found) {

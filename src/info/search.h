@@ -29,15 +29,16 @@ struct Found {
   std::string Name;
   int Fit;  // 0 is best: how far the name is from what was typed
 };
+inline constexpr int kKindsOfFound = static_cast<int>(Found::Kind::Mail) + 1;
 
 /// The names of a world as they were when this was made. Small and capital letters and accents are
 /// all alike.
 class NameSearch {
  public:
   explicit NameSearch(const World& world);
-  /// Names that hold every typed word, the best first, the better known among equals; up to two
-  /// wrong letters a word where too few are right. At most `most` of each kind; none for no
-  /// letters.
+  /// Names that hold every typed word: the kinds by their best, in each the best first, the better
+  /// known among equals; up to two wrong letters a word where no word begins as typed. At most
+  /// `most` of each kind; none for no letters.
   std::vector<Found> Find(std::string_view typed, std::size_t most) const;
 
  private:
@@ -47,10 +48,18 @@ class NameSearch {
     int Standing;  // the smaller the better known
     std::string Letters;
   };
+  struct Hit {
+    const Name* Of;
+    int Fit;
+  };
+  std::vector<Hit> HitsFor(const std::vector<std::string>& words, bool forgiving) const;
+
   const World& world_;
   std::vector<Name> names_;
 };
 
+/// Whether what was found still stands where it was.
+bool IsStill(const World& world, const Found& found);
 /// What something found is, for the place beside its name: "Main Event, CWA".
 std::string AboutFound(const World& world, const Found& found);
 /// The heading of its kind: "Workers".

@@ -2,6 +2,8 @@
 
 #include "calendar/screens/calendarscreens.h"
 #include "editor/screens/screenpages.h"
+#include "info/screens/helpscreens.h"
+#include "program/screenfinding.h"
 #include "rivals/screens/rivalscreens.h"
 #include "roster/screens/frmWorker.h"
 
@@ -61,6 +63,7 @@ namespace grapplemont {
   SCREEN(frmUser)            \
   SCREEN(frmTalk)            \
   SCREEN(frmInternet)        \
+  SCREEN(frmGlossary)        \
   SCREEN(frmEditMaintain)    \
   SCREEN(frmEditMerge)       \
   SCREEN(frmEditImport)      \
@@ -86,6 +89,8 @@ void RegisterScreens(Game& game) {
   ConnectRoster(game);
   ConnectRivals(game);
   ConnectCalendar(game);
+  ConnectHelp(game);
+  ConnectFinding(game);
 }
 
 }  // namespace grapplemont

@@ -95,6 +95,9 @@ class World {
   /// What the wrestling world has done of late, oldest first.
   Records<Deed>& Deeds() { return Of<Deed>(); }
   const Records<Deed>& Deeds() const { return Of<Deed>(); }
+  /// One record where the game has a guide, else none.
+  Records<GuideState>& Guides() { return Of<GuideState>(); }
+  const Records<GuideState>& Guides() const { return Of<GuideState>(); }
   Records<GameInfo>& GameInfos() { return Of<GameInfo>(); }
   const Records<GameInfo>& GameInfos() const { return Of<GameInfo>(); }
   TextFile& Notes() { return std::get<TextFile>(tables_); }

@@ -86,6 +86,30 @@ std::vector<Link> Desk::LinksIn(std::string_view text) const {
   return FindLinks && !text.empty() ? FindLinks(text) : std::vector<Link>();
 }
 
+Search Desk::NewSearch() const {
+  if (BeginSearch) return BeginSearch();
+  return [](std::string_view, std::size_t) { return std::vector<Finding>(); };
+}
+
+bool Desk::OpenHelp() {
+  Screen* const top = Top();
+  if (!Help.About || !top || top->Is() == Role::Wait) return false;
+  std::unique_ptr<Screen> page = Help.About(*top);
+  if (!page) return false;
+  Open(std::move(page));
+  return true;
+}
+
+bool Desk::OpenGlossary(std::string_view term) {
+  if (!Help.Glossary) return false;
+  Open(Help.Glossary(term));
+  return true;
+}
+
+std::string Desk::MeaningOf(std::string_view heading) const {
+  return Help.Meaning && !heading.empty() ? Help.Meaning(heading) : std::string();
+}
+
 void Desk::TakeBack(const Stack& before, const std::exception& fault) {
   std::string reason = Explained(fault);
   const auto attempt = [&](const Handler& step) {

@@ -20,6 +20,27 @@ struct Link {
   Handler Open;
 };
 
+/// Something that a search has found: the heading that it stands under, what it is called, what it
+/// is, and the way to it.
+struct Finding {
+  std::string Heading, Words, About;
+  Drawing Picture;  // a small one; none for most
+  Handler Open;
+};
+/// Finds by a few typed letters, the best first, at most so many under a heading. Made for one
+/// search: it knows the names as they were then.
+using Search = std::function<std::vector<Finding>(std::string_view typed, std::size_t most)>;
+
+/// Where help comes from, once there are pages for it.
+struct HelpPages {
+  /// What a screen is for, its keys, its words.
+  std::function<std::unique_ptr<Screen>(Screen& of)> About;
+  /// The glossary, open at a term.
+  std::function<std::unique_ptr<Screen>(std::string_view term)> Glossary;
+  /// What a heading means, in a line; empty for one that the glossary does not know.
+  std::function<std::string(std::string_view heading)> Meaning;
+};
+
 enum class Default { Yes, No };
 
 /// What an event is a transaction of. Commit and Rollback bring the world to a committed state or
@@ -78,6 +99,19 @@ class Desk {
   std::function<std::vector<Link>(std::string_view text)> FindLinks;
   /// None until FindLinks has been set.
   std::vector<Link> LinksIn(std::string_view text) const;
+
+  /// Begins a search of all that has a name, a page or a meaning; set once there are pages.
+  std::function<Search()> BeginSearch;
+  /// One that finds nothing until BeginSearch has been set.
+  Search NewSearch() const;
+
+  HelpPages Help;
+  /// Opens the help for the top screen; false where there is none.
+  bool OpenHelp();
+  /// Opens the glossary at a term; false where there is none.
+  bool OpenGlossary(std::string_view term);
+  /// Empty for a heading without a meaning.
+  std::string MeaningOf(std::string_view heading) const;
 
  private:
   using Stack = std::vector<std::shared_ptr<Screen>>;

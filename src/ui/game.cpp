@@ -82,6 +82,7 @@ World& Game::World() {
 void Game::Commit() {
   if (joined_) joined_->Commit();
   if (!world_) return;
+  if (Watch && !isOver_) Watch();
   const auto changes = world_->Changes();
   if (changes.empty()) return;
   if (!MayChange(changes)) throw std::logic_error(kCareerIsOver);

@@ -54,6 +54,10 @@ class Game : public ui::Work {
   /// is registered.
   std::function<void(bool cancelled)> AdvanceDay;
 
+  /// Runs before each commit of a world: what watches the player notes there what it has seen. Must
+  /// not throw.
+  std::function<void()> Watch;
+
   /// Brings what the main screen shows up to date, and opens what waits for the player; screens
   /// that manage something call it when they close. Set when the main screen is registered.
   std::function<void()> RefreshMainScreen;

@@ -128,6 +128,23 @@ TEST(Commands, AtAnOpenBoxWaitForItsAnswer) {
   }
 }
 
+TEST(Commands, FindAnythingAndVisitIt) {
+  const Served served("find bram\nvisit 2\nvisit 3\nfind nobody\nvisit 1\nexplain\n", kJson);
+  const auto answers = Answers(served);
+  ASSERT_EQ(answers.size(), 6u);
+  EXPECT_EQ(answers[0].at("found"), Json::parse(R"([["Workers","Bram Okafor","Main Event, CWA"],
+                            ["Titles","Bram's Crown",""]])"));
+  EXPECT_EQ(served.Log, std::vector<std::string>{"found the Crown"});
+  EXPECT_EQ(answers[2].at("error"), "Nothing was found under \"3\"; \"find TEXT\" looks.");
+  EXPECT_EQ(answers[3].at("found"), Json::array());
+  EXPECT_TRUE(answers[4].contains("error")) << "a new search forgets the last";
+  EXPECT_EQ(answers[5].at("error"), "There is no help here.");
+  const std::string text = Served("find bram\nfind nobody\n").Out();
+  for (const char* part : {"Workers\n     1  Bram Okafor (Main Event, CWA)\n",
+                           "\nTitles\n     2  Bram's Crown\n", "Nothing is called so.\n"})
+    EXPECT_NE(text.find(part), std::string::npos) << part << " is missing in\n" << text;
+}
+
 TEST(Commands, SurviveALineOfAnyLength) {
   const std::string fits = "click " + std::string(console::kLongestLine - 6, 'x');
   EXPECT_EQ(LastAnswer(fits + "\n").at("error").get<std::string>().size(), 303u)
@@ -140,7 +157,8 @@ TEST(Commands, SurviveALineOfAnyLength) {
 
 TEST(Commands, OfAnyKindGetOneAnswerEach) {
   std::istringstream text(
-      "show click type pick open check slide follow ok yes no enter cancel help cmddoit cmdsay "
+      "show click type pick open check slide follow find visit explain ok yes no enter cancel help "
+      "cmddoit cmdsay "
       "cmdask cmdoff cmdprompt cmdthrow cmdhidden txtname txtnotes lstpeople lstmany cmbkind "
       "chkday "
       "optheel hsprice imgdoor rptshow on off 1 3 -7 99 \xC3\x89 \xE2\x82 \\n \x7F \xFF \"");

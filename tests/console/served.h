@@ -29,6 +29,15 @@ class Served {
         links.push_back({at, kBram.size(), [this] { Log.push_back("page of Bram"); }});
       return links;
     };
+    desk.BeginSearch = [this]() -> ui::Search {
+      return [this](std::string_view typed, std::size_t) {
+        std::vector<ui::Finding> found;
+        if (typed == "bram")
+          found = {{"Workers", "Bram Okafor", "Main Event, CWA", {}, Writes("found Bram")},
+                   {"Titles", "Bram's Crown", "", {}, Writes("found the Crown")}};
+        return found;
+      };
+    };
     desk.Run();
     Open = !desk.Empty();
     Name = Open ? screen.txtname.Text.Get() : std::string();
@@ -36,6 +45,9 @@ class Served {
   }
 
   std::string Out() const { return out_.str(); }
+  ui::Handler Writes(const char* words) {
+    return [this, words] { Log.push_back(words); };
+  }
 
   std::vector<std::string> Log;  // of the screen's handlers
   bool Open = false;             // whether the screen still lies there at the end

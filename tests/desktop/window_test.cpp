@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QMenu>
+
 #include "desktop/player.h"
 #include "desktop/sidebar.h"
 
@@ -242,6 +244,84 @@ TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
   Play.Key(Qt::Key_Escape);
   EXPECT_FALSE(Play.Sees("finder"));
   EXPECT_EQ(Play.Top(), "frmPeople");
+}
+
+TEST_F(TheWindow, FindsNamesUnderHeadingsAndRemembersWhatWasChosen) {
+  Play.Desk.BeginSearch = [this]() -> ui::Search {
+    return [this](std::string_view typed, std::size_t) {
+      std::vector<ui::Finding> found;
+      for (const char* name : {"Bram Okafor", "Bramwell Fox"})
+        if (std::string_view(name).starts_with(typed))
+          found.push_back({"Workers", name, "Main Event", ui::Portrait{7},
+                           [this, name] { Notes.push_back(name); }});
+      return found;
+    };
+  };
+  const auto list = [&] {
+    std::vector<QString> rows;
+    const auto* found = dynamic_cast<QListWidget*>(Play.See("finderlist"));
+    for (int row = 0; row < found->count(); ++row) rows.push_back(found->item(row)->text());
+    return rows;
+  };
+  const auto find = [&](const char* typed) {
+    Play.Key(Qt::Key_K, Qt::ControlModifier);
+    Play.Type(typed);
+  };
+  using Rows = std::vector<QString>;
+  find("Bram");
+  EXPECT_EQ(list(), (Rows{"Workers", "Bram Okafor", "Bramwell Fox"}));
+  Play.Key(Qt::Key_Up);  // headings cannot be chosen
+  Play.Key(Qt::Key_Down);
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Notes.back(), "Bramwell Fox");
+  find("Bram");
+  EXPECT_EQ(list(), (Rows{"Workers", "Bramwell Fox", "Bram Okafor"}));
+  Play.Key(Qt::Key_Escape);
+  find("Next Day");
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Notes.back(), "next day");
+  find("");
+  const Rows all = list();
+  ASSERT_GT(all.size(), 4U);
+  EXPECT_EQ(Rows(all.begin(), all.begin() + 3), (Rows{"Recent", "Next Day", "Bramwell Fox"}));
+  Play.Type("xq");
+  EXPECT_EQ(list(), Rows{"Nothing is called \"xq\"."});
+  Play.Key(Qt::Key_Return);
+  EXPECT_TRUE(Play.Sees("finder"));
+}
+
+TEST_F(TheWindow, OpensHelpForThePageOnTop) {
+  Play.Key(Qt::Key_F1);
+  EXPECT_EQ(Play.Top(), "frmHub") << "without pages of help nothing happens";
+  Play.Desk.Help.About = [this](ui::Screen& of) -> std::unique_ptr<ui::Screen> {
+    Notes.push_back("help for " + of.Name());
+    return std::make_unique<Dialog>(Play.Desk, Notes);
+  };
+  Play.Desk.Help.Glossary = [this](std::string_view term) -> std::unique_ptr<ui::Screen> {
+    Notes.push_back("glossary at " + std::string(term));
+    return std::make_unique<Dialog>(Play.Desk, Notes);
+  };
+  Play.Desk.Help.Meaning = [](std::string_view heading) {
+    return heading == "Over" ? "Popularity." : "";
+  };
+  Play.Key(Qt::Key_F2);
+  Play.Key(Qt::Key_F1);
+  EXPECT_EQ(Play.Top(), "frmMore");
+  EXPECT_EQ(Notes.back(), "help for frmPeople");
+  Play.Key(Qt::Key_Escape);
+  const QAbstractItemModel& model = *Play.Grid("lstpeople").model();
+  const auto tip = [&](int column) {
+    return model.headerData(column, Qt::Horizontal, Qt::ToolTipRole).toString();
+  };
+  EXPECT_TRUE(tip(3).contains("Popularity.")) << tip(3).toStdString();
+  EXPECT_EQ(tip(1), "");
+  QHeaderView& heading = Play.Grid("lstpeople").Heading();
+  emit heading.customContextMenuRequested({heading.sectionViewportPosition(3) + 5, 5});
+  const auto* menu = Play.Window.findChild<QMenu*>("headingmenu");
+  ASSERT_TRUE(menu);
+  for (QAction* action : menu->actions())
+    if (action->text() == "What it means") action->trigger();
+  EXPECT_EQ(Notes.back(), "glossary at Over");
 }
 
 TEST_F(TheWindow, ShowsAWaitingScreenAndTakesNoKeysAmidALongEvent) {

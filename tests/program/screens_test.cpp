@@ -39,6 +39,8 @@ void Visit(ScriptDesk& desk, const std::string& name) {
     EXPECT_TRUE(names.insert(control->Name()).second) << control->Name() << " twice";
     const bool isBackdrop = control->Name() == "imgback";
     EXPECT_TRUE(isBackdrop || placed.contains(control)) << control->Name() << " lies nowhere";
+    EXPECT_TRUE(control->Enabled || !control->Visible || !control->Tip->empty())
+        << control->Name() << " is disabled and does not say why";
   }
   if (screen.Is() != ui::Role::Wait && screen.Is() != ui::Role::Hub) {
     EXPECT_TRUE(screen.Layout().Cancel) << "Escape leads nowhere";

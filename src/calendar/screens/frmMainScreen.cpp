@@ -2,8 +2,10 @@
 #include <array>
 
 #include "calendar/advanceday.h"
+#include "calendar/guide.h"
 #include "calendar/incidents.h"
 #include "calendar/screens/calendarscreens.h"
+#include "calendar/screens/screenguide.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
@@ -76,8 +78,10 @@ class frmMainScreen : public ui::Screen {
     page.TopActions = {&txtname, &cmduntil, &cmdnext};
     page.Main = &cmdnext;
     page.Cancel = &cmdquit;
-    page.Body = ui::Columns({ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow(2),
-                             ui::Group("Latest mail", {imgmail, ui::Grow(lstmail)}).Grow(3)});
+    page.Body = ui::Columns(
+        {ui::Rows({guide_.Layout(), ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow()})
+             .Grow(2),
+         ui::Group("Latest mail", {imgmail, ui::Grow(lstmail)}).Grow(3)});
     return page;
   }
 
@@ -120,6 +124,7 @@ class frmMainScreen : public ui::Screen {
   void ShowTheWorld() {
     if (!game_.HasWorld()) return;
     ShowTopBar();
+    guide_.Show();
     ShowMail();
     ShowMeeting();
     ShowAhead();
@@ -150,7 +155,7 @@ class frmMainScreen : public ui::Screen {
 
   void ShowMail() {
     const int count = world().News().Count();
-    imgmail.Enabled = HasNews(world());
+    EnableUnless(imgmail, HasNews(world()) ? "" : "No mail.");
     imgmail.Text = Counted(count, "mail");
     const int fresh = FreshMails(world());
     CommandNamed("cmdnews").Badge = fresh == 0 ? std::string() : std::to_string(fresh);
@@ -273,6 +278,7 @@ class frmMainScreen : public ui::Screen {
         return std::make_unique<ui::Button>(*this, command.Control, command.Caption,
                                             [this, &command] { desk().Open(command.Screen); });
       }};
+  GuideCard guide_{*this, game_};
   ui::Label imgmail{*this, "imgmail"};
   ui::ListBox lstahead{
       *this, "lstahead", {{"Date", K::Number}, {"Day"}, {"Show"}, {"Kind", K::Tag}}};
@@ -292,6 +298,11 @@ frmMainScreen* FindMainScreen(Game& game) {
 SCREEN(frmMainScreen)
 
 void ConnectCalendar(Game& game) {
+  game.Watch = [&game] {
+    std::vector<std::string_view> screens;
+    for (const auto& screen : game.Desk().Screens()) screens.push_back(screen->Name());
+    WatchGuide(game.World(), screens);
+  };
   game.RefreshMainScreen = [&game] {
     if (frmMainScreen* main = FindMainScreen(game)) main->RefreshMainScreen();
   };

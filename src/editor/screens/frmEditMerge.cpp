@@ -147,9 +147,8 @@ class frmEditMerge : public GameScreen {
       return;
     arrivals_ = MergeNewRecords(data(), coming_, names_);
     ShowRows();
-    cmdrename.Enabled = false;
-    cmdmerge.Enabled = false;
-    cmdmerge.Tip = "They are merged. Look again when the files have changed.";
+    for (ui::Button* button : {&cmdrename, &cmdmerge})
+      EnableUnless(*button, "They are merged. Look again when the files have changed.");
     lblfacts.Text = "Merged. " + Tally(arrivals_);
   }
 

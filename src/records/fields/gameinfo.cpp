@@ -85,4 +85,18 @@ constexpr Field kRunFields[] = {
 
 GM_LAYOUT(ShowRun, "showrun.dat", 1, kRunFields)
 
+namespace {
+
+constexpr Term kTours[] = {{0, "", "None"}, {1, "", "Backyard"}, {2, "", "Television"}};
+
+constexpr Field kGuideFields[] = {
+    GM_FIELD(GuideState, Tour).In(0, 2).From(kTours).Means("Which first week is told."),
+    GM_NUMBERED(GuideState, Done).Means("The step is done."),
+    GM_FIELD(GuideState, Closed).Means("The player has closed the guide."),
+};
+
+}  // namespace
+
+GM_LAYOUT(GuideState, "guide.dat", 1, kGuideFields)
+
 }  // namespace grapplemont

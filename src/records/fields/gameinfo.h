@@ -92,4 +92,13 @@ struct ShowRun {
 };
 GM_RECORD(ShowRun, 50);
 
+/// How far the player has come with the guide through the first week: the one record of guide.dat.
+/// A game without one has none.
+struct GuideState {
+  Word Tour;  // 1 Backyard, 2 television
+  std::array<Flag, 8> Done;
+  Flag Closed;
+};
+GM_RECORD(GuideState, 20);
+
 }  // namespace grapplemont

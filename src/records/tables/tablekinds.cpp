@@ -91,7 +91,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<ReportPart>("reports.csv", true),
           Kind<YearAward>("awards.csv", true),
           Kind<YearEnd>("yearends.csv", true),
-          Kind<Deed>("deeds.csv", true)};
+          Kind<Deed>("deeds.csv", true),
+          Kind<GuideState>("guides.csv", true)};
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "calendar/guide.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/store/slot.h"
@@ -116,6 +117,7 @@ class frmPickSaveSlot : public SlotScreen {
                "Do not press ctrl-alt-del while it is happening, as you will corrupt your data.");
     Waiting waiting(game_);
     const auto mended = NewGame(world, choice_, [&](std::string_view step) { waiting.Tell(step); });
+    BeginGuide(world);
     Slot::Create(game_.Disk(), game_.SlotFolder(slot), FilesOf(world), game_.NewWorldId());
     waiting.Done();
     TellOfMending(mended);

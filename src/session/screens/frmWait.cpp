@@ -1,5 +1,6 @@
 #include "records/world.h"
 #include "session/home.h"
+#include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -63,8 +64,7 @@ class frmLoadingScreens : public GameScreen {
     lblcount.Text = count == 0 ? "No graphics in this set."
                                : std::to_string(at_ + 1) + " of " + std::to_string(count) + ", " +
                                      pictures_[at_];
-    cmdprevious.Enabled = count > 1;
-    cmdnext.Enabled = count > 1;
+    EnableUnless({cmdprevious, cmdnext}, count > 1 ? "" : "There is no other picture.");
   }
 
   void cmdprevious_Click() {

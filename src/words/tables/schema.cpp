@@ -207,10 +207,55 @@ TableFile Names() {
            {"FinisherMove", "FinisherMoves", 64, 25, Moves()}}};
 }
 
+/// What a player is told about a screen and about a term, and the first week's steps.
+TableFile Help() {
+  return {"help.txt",
+          {{"help", {"info/screens/helprows.h"}}},
+          {{.Heading = "Screens",
+            .Columns = {{"Screen"}, {"For"}, {"How"}},
+            .Keys = {"Screen"},
+            .Arrays = {{"help", "HelpRow", "kHelpRows", {"Screen", "For", "How"}}}}},
+          {}};
+}
+
+TableFile Glossary() {
+  return {"glossary.txt",
+          {{"glossary", {"info/screens/helprows.h"}}},
+          {{.Heading = "Terms",
+            .Columns = {{"Term"},
+                        {"Field", Text, "{}"},
+                        {"Also", Text, "{}"},
+                        {"Range", Text, "{}"},
+                        {"Means", Text, "{}"},
+                        {"Moves", Text, "{}"}},
+            .Keys = {"Term"},
+            .Arrays = {{"glossary",
+                        "GlossaryRow",
+                        "kGlossaryRows",
+                        {"Term", "Field", "Also", "Range", "Means", "Moves"}}}}},
+          {}};
+}
+
+TableFile Guide() {
+  return {
+      "guide.txt",
+      {{"guide", {"calendar/guidesteps.h"}}},
+      {{.Heading = "Steps",
+        .Columns = {{"Tour", Choice, "", "Tour::", {"Backyard", "Television"}},
+                    {"Screen", Text, "{}"},
+                    {"Done", Choice, "GuideDone::Seen", "GuideDone::", {"Signed", "Feud", "Show"}},
+                    {"Title"},
+                    {"Says"}},
+        .Arrays =
+            {{"guide", "GuideStep", "kGuideSteps", {"Tour", "Screen", "Done", "Title", "Says"}}}}},
+      {}};
+}
+
 }  // namespace
 
 const std::vector<TableFile>& AllTableFiles() {
-  static const std::vector<TableFile> kFiles = {Segments(), Angles(), NewPromotions(), Names()};
+  static const std::vector<TableFile> kFiles = {Segments(), Angles(),   NewPromotions(), Names(),
+                                                Help(),     Glossary(), Guide()};
   return kFiles;
 }
 

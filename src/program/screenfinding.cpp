@@ -1,0 +1,219 @@
+#include "program/screenfinding.h"
+
+#include <algorithm>
+#include <array>
+
+#include "calendar/events.h"
+#include "info/screens/glossary.h"
+#include "info/search.h"
+#include "records/modWresCheck.h"
+#include "storylines/partners.h"
+#include "storylines/titles.h"
+#include "ui/acts.h"
+#include "ui/likeness.h"
+
+namespace grapplemont {
+
+namespace {
+
+using Kind = Found::Kind;
+
+/// What is seen through to its end before another room is entered.
+constexpr std::string_view kSeenThrough[] = {"frmBooking",     "frmPPVBooking", "frmAutoBook",
+                                             "frmMatchOutput", "frmPostShow",   "frmIncident",
+                                             "frmPinky",       "frmTheEnd"};
+
+bool MayEnterRooms(const ui::Desk& desk) {
+  return std::ranges::none_of(desk.Screens(), [](const auto& screen) {
+    return std::ranges::find(kSeenThrough, screen->Name()) != std::end(kSeenThrough);
+  });
+}
+
+/// Where a kind of record is listed.
+struct Room {
+  const char* Screen;
+  const char* List;
+};
+
+/// The row of this key, or without a key the first that shows these words; 0 for none.
+int RowIn(const ui::ListBox& list, int key, std::string_view words) {
+  const auto& rows = list.Rows();
+  const auto found = std::ranges::find_if(rows, [&](const ui::ListBox::Row& row) {
+    if (key != 0) return row.Key == key;
+    return std::ranges::any_of(row.Cells, [&](const ui::Cell& cell) { return cell.Text == words; });
+  });
+  return found == rows.end() ? 0 : static_cast<int>(found - rows.begin()) + 1;
+}
+
+/// Gives the room's screen, on top; nullptr, after a word, where it cannot be entered now.
+ui::Screen* Enter(ui::Desk& desk, const char* screen) {
+  if (!MayEnterRooms(desk)) {
+    desk.Say("Not now", "What is under way has to be seen through to its end first.");
+    return nullptr;
+  }
+  if (!desk.Top() || desk.Top()->Name() != screen) desk.Open(screen);
+  return desk.Top();
+}
+
+void EnterAt(ui::Desk& desk, const Room& room, int key, std::string_view words = {}) {
+  ui::Screen* const screen = Enter(desk, room.Screen);
+  const auto* list = screen ? dynamic_cast<ui::ListBox*>(screen->Find(room.List)) : nullptr;
+  if (!list) return;
+  if (const int row = RowIn(*list, key, words)) ui::Pick(desk, *screen, room.List, row);
+}
+
+void OpenPromotionOf(Game& game, int uid) {
+  if (game.OpenPromotion) game.OpenPromotion(uid);
+}
+
+void OpenTitle(Game& game, int number) {
+  constexpr int kEverybodys = 2;
+  ui::Desk& desk = game.Desk();
+  ui::Screen* const screen = Enter(desk, "frmBelts");
+  if (!screen) return;
+  if (!IsPlayers(game.World(), game.World().Titles()[number]))
+    ui::Pick(desk, *screen, "cmbwhose", kEverybodys);
+  EnterAt(desk, {"frmBelts", "lsttitles"}, number);
+}
+
+/// One of the player's stands under a button of its own.
+void OpenShow(Game& game, const Show& show) {
+  ui::Desk& desk = game.Desk();
+  const std::string name = show.Name.Str();
+  if (show.Owner != game.World().PlayerUid())
+    return EnterAt(desk, {"frmViewShows", "lstshows"}, 0, name);
+  ui::Screen* const screen = Enter(desk, "frmTelevision");
+  if (!screen) return;
+  for (const ui::Control* control : screen->Controls())
+    if (control->Is() == ui::Kind::Button && control->Text.Get() == name) {
+      ui::Click(desk, *screen, control->Name());
+      return;
+    }
+}
+
+void OpenEvent(Game& game, const Event& event) {
+  if (event.Owner != game.World().PlayerUid()) return OpenPromotionOf(game, event.Owner);
+  EnterAt(game.Desk(), {"frmEvent", "lstevents"}, event.Month);
+}
+
+void OpenTeam(Game& game, int number) {
+  const World& world = game.World();
+  const Team& team = world.Teams()[number];
+  if (std::ranges::count(PlayerTeams(world), &team) > 0)
+    return EnterAt(game.Desk(), {"frmTagTeams", "lstteams"}, number);
+  if (game.OpenWorker) game.OpenWorker(team.Worker1);
+}
+
+void OpenStable(Game& game, int number) {
+  const Stable& stable = game.World().Stables()[number];
+  if (stable.Owner != game.World().PlayerUid()) return OpenPromotionOf(game, stable.Owner);
+  EnterAt(game.Desk(), {"frmStables", "lststables"}, number);
+}
+
+void OpenStaff(Game& game, const Staff& person) {
+  const bool own = WorksForPlayer(game.World(), person);
+  EnterAt(game.Desk(), {own ? "frmStaff" : "frmOtherStaff", "lststaff"}, person.Uid);
+}
+
+void OpenSponsor(Game& game, const Sponsor& sponsor) {
+  ui::Screen* const screen = Enter(game.Desk(), "frmFedSponsor");
+  if (!screen) return;
+  ui::Check(game.Desk(), *screen, "chkfilter", false);
+  EnterAt(game.Desk(), {"frmFedSponsor", "lstsponsors"}, sponsor.Uid);
+}
+
+void OpenFound(Game& game, const Found& found) {
+  const World& world = game.World();
+  if (!IsStill(world, found))
+    return game.Desk().Say("Gone", found.Name + " is not there any more.");
+  switch (found.Is) {
+    case Kind::Worker:
+      return game.OpenWorker ? game.OpenWorker(world.Workers()[found.Number].Uid) : void();
+    case Kind::Promotion:
+      return OpenPromotionOf(game, world.Promotions()[found.Number].Uid);
+    case Kind::Title:
+      return OpenTitle(game, found.Number);
+    case Kind::Show:
+      return OpenShow(game, world.Shows()[found.Number]);
+    case Kind::Event:
+      return OpenEvent(game, world.Events()[found.Number]);
+    case Kind::Team:
+      return OpenTeam(game, found.Number);
+    case Kind::Stable:
+      return OpenStable(game, found.Number);
+    case Kind::Staff:
+      return OpenStaff(game, world.AllStaff()[found.Number]);
+    case Kind::Network:
+      return EnterAt(game.Desk(), {"frmViewNetworks", "lstnetworks"},
+                     world.Networks()[found.Number].Uid);
+    case Kind::Sponsor:
+      return OpenSponsor(game, world.Sponsors()[found.Number]);
+    case Kind::Mail:
+      return EnterAt(game.Desk(), {"frmNews", "lstnews"}, found.Number);
+  }
+}
+
+ui::Drawing CrestOfUid(const World& world, int uid) {
+  const Promotion* promotion = uid > 0 ? world.FindPromotion(uid) : nullptr;
+  return promotion ? ui::Drawing(CrestOf(*promotion)) : ui::Drawing();
+}
+
+/// What belongs to a promotion bears its crest.
+ui::Drawing PictureOf(const World& world, const Found& found) {
+  const int number = found.Number;
+  switch (found.Is) {
+    case Kind::Worker:
+      return PortraitOf(world.Workers()[number]);
+    case Kind::Staff:
+      return PortraitOf(world.AllStaff()[number]);
+    case Kind::Promotion:
+      return CrestOf(world.Promotions()[number]);
+    case Kind::Title:
+      return PlateOf(world.Titles()[number], number);
+    case Kind::Show:
+      return CrestOfUid(world, world.Shows()[number].Owner);
+    case Kind::Event:
+      return CrestOfUid(world, world.Events()[number].Owner);
+    case Kind::Stable:
+      return CrestOfUid(world, world.Stables()[number].Owner);
+    default:
+      return {};
+  }
+}
+
+void AddNames(Game& game, const NameSearch& names, std::string_view typed, std::size_t most,
+              std::vector<ui::Finding>& findings) {
+  for (Found& found : names.Find(typed, most)) {
+    ui::Finding finding{std::string(KindOfFound(found.Is)),
+                        found.Name,
+                        AboutFound(game.World(), found),
+                        PictureOf(game.World(), found),
+                        {}};
+    finding.Open = [&game, found = std::move(found)] { OpenFound(game, found); };
+    findings.push_back(std::move(finding));
+  }
+}
+
+void AddTerms(Game& game, std::string_view typed, std::size_t most,
+              std::vector<ui::Finding>& findings) {
+  for (const GlossaryTerm* term : TermsLike(typed, most))
+    findings.push_back({"Glossary", term->Name, term->Of, {}, [&game, term] {
+                          game.Desk().OpenGlossary(term->Name);
+                        }});
+}
+
+}  // namespace
+
+void ConnectFinding(Game& game) {
+  game.Desk().BeginSearch = [&game]() -> ui::Search {
+    const auto names = game.HasWorld() ? std::make_shared<NameSearch>(game.World()) : nullptr;
+    return [&game, names](std::string_view typed, std::size_t most) {
+      std::vector<ui::Finding> findings;
+      if (names && game.HasWorld()) AddNames(game, *names, typed, most, findings);
+      AddTerms(game, typed, most, findings);
+      return findings;
+    };
+  };
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,115 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+#include "info/screens/glossary.h"
+#include "info/screens/helpscreens.h"
+#include "program/richworld.h"
+#include "support/checkout.h"
+#include "support/gameonworld.h"
+#include "support/homefolder.h"
+
+namespace grapplemont::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// All names of screens that the program's sources write.
+std::set<std::string> NamesOfScreens() {
+  constexpr std::string_view kBefore = "\"frm";
+  std::set<std::string> names;
+  for (const auto& entry : fs::recursive_directory_iterator(Checkout("/src"))) {
+    if (entry.path().extension() != ".cpp") continue;
+    std::ifstream in(entry.path());
+    const std::string text{std::istreambuf_iterator<char>(in), {}};
+    for (auto at = text.find(kBefore); at != text.npos; at = text.find(kBefore, at + 1)) {
+      std::string name = text.substr(at + 1, text.find('"', at + 1) - at - 1);
+      if (std::all_of(name.begin(), name.end(), [](char c) { return std::isalnum(c); }))
+        names.insert(std::move(name));
+    }
+  }
+  return names;
+}
+
+TEST(Help, HasAnEntryForEveryScreen) {
+  const auto names = NamesOfScreens();
+  EXPECT_GT(names.size(), 100U);
+  for (const std::string& name : names)
+    EXPECT_TRUE(name == "frmHelp" || HasHelp(name)) << name << ": words/help.txt lacks it";
+}
+
+TEST(Help, TellsWhatAPageIsForItsKeysItsWordsAndWhatIsNotPossible) {
+  GameOnWorld play(RichWorld().Game("CWA"));
+  play.Desk.Open("frmShortlist");
+  EXPECT_TRUE(play.Desk.OpenHelp());
+  ASSERT_EQ(play.Desk.TopName(), "frmHelp");
+  const std::string text = play.Desk.Text("txthelp");
+  for (const char* part : {"Whom you keep an eye on", "Keys\n", "Enter: Talks", "Escape: Back",
+                           "Words\n", "Over: How many people care", "0 to 100 percent.",
+                           "Not possible now\n", "Remove: Choose a worker first."})
+    EXPECT_NE(text.find(part), std::string::npos) << part << " is missing in\n" << text;
+  EXPECT_FALSE(play.Desk.OpenHelp()) << "help needs no help";
+  play.Desk.Click("cmdglossary");
+  play.Desk.Pick("lstterms", "Condition");
+  EXPECT_NE(play.Desk.Text("txtterm").find("Under 40 injuries are twice as likely."),
+            std::string::npos);
+}
+
+TEST(Glossary, KnowsTheShortHeadingsAndEveryFieldItsTableNames) {
+  const std::pair<const char*, const char*> kHeadings[] = {{"Disp.", "Disposition"},
+                                                           {"cond.", "Condition"},
+                                                           {"Tech.", "Technical"},
+                                                           {"Gate", "Attendance"}};
+  for (const auto& [heading, term] : kHeadings) {
+    ASSERT_TRUE(FindTerm(heading)) << heading;
+    EXPECT_EQ(FindTerm(heading)->Name, term);
+  }
+  EXPECT_EQ(FindTerm("Disposition")->Range, "Face, Heel or Tweener");
+  EXPECT_FALSE(FindTerm("Gibberish"));
+  std::ifstream in(Checkout("/words/glossary.txt"));
+  int rows = 0;
+  for (std::string line; std::getline(in, line);) {
+    const auto bar = line.find(" | ");
+    if (line.starts_with('#') || bar == line.npos || line.starts_with("Term |")) continue;
+    const GlossaryTerm* term = FindTerm(line.substr(0, bar));
+    ASSERT_TRUE(term) << line << ": no field is called so";
+    ++rows;
+  }
+  EXPECT_GT(rows, 40);
+}
+
+TEST(Guide, WatchesTheFirstWeekAndIsClosedForGood) {
+  HomeFolder home(RichWorld());
+  home.StartNewGame();
+  ScriptDesk& desk = home.Desk;
+  ASSERT_TRUE(desk.Visible("txtguide"));
+  const auto isDone = [&](int step) {
+    return desk.Text("txtguide").find(std::to_string(step) + ". Done. ") != std::string::npos;
+  };
+  EXPECT_NE(desk.Text("txtguide").find("8. "), std::string::npos);
+  EXPECT_FALSE(isDone(1));
+  desk.Click("cmdroster");
+  desk.Click("cmdback");
+  EXPECT_TRUE(isDone(1));
+  EXPECT_FALSE(isDone(2));
+  World& world = home.Play.World();
+  Feud& feud = world.Feuds()[1];
+  feud.Singles = true;
+  feud.Worker1 = int(world.Workers()[1].Uid);
+  feud.Worker2 = int(world.Workers()[2].Uid);
+  desk.Click("cmdstaff");
+  desk.Click("cmdback");
+  EXPECT_TRUE(isDone(5)) << "what has come about counts, whatever came before";
+  desk.Click("cmdguide");
+  EXPECT_FALSE(desk.Visible("txtguide"));
+  home.Play.CloseSlot();
+  home.Play.OpenSlot(1);
+  EXPECT_TRUE(home.Play.World().Guides()[1].Closed);
+}
+
+}  // namespace
+}  // namespace grapplemont::test
