@@ -89,7 +89,10 @@ void ForgetInThePast(World& world, int uid) {
   for (MatchTally& tally : world.Tallies()) clear(tally.Worker);
   for (TitleReign& reign : world.Reigns()) clear(reign.Worker, reign.Partner);
   for (YearAward& award : world.Awards()) clear(award.Worker, award.Partner);
-  world.YearEnds().Keep([=](const YearEnd& row) { return row.Worker != uid; });
+  const auto isOthers = [=](const auto& row) { return row.Worker != uid; };
+  world.YearEnds().Keep(isOthers);
+  world.Months().Keep(isOthers);
+  world.Moods().Keep(isOthers);
 }
 
 }  // namespace

@@ -95,6 +95,12 @@ class World {
   /// What the wrestling world has done of late, oldest first.
   Records<Deed>& Deeds() { return Of<Deed>(); }
   const Records<Deed>& Deeds() const { return Of<Deed>(); }
+  /// How everybody stood on the firsts of twelve months, a record a worker.
+  Records<WorkerMonths>& Months() { return Of<WorkerMonths>(); }
+  const Records<WorkerMonths>& Months() const { return Of<WorkerMonths>(); }
+  /// What has moved the morale of the player's people, oldest first.
+  Records<MoodChange>& Moods() { return Of<MoodChange>(); }
+  const Records<MoodChange>& Moods() const { return Of<MoodChange>(); }
   Records<GameInfo>& GameInfos() { return Of<GameInfo>(); }
   const Records<GameInfo>& GameInfos() const { return Of<GameInfo>(); }
   TextFile& Notes() { return std::get<TextFile>(tables_); }

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <vector>
 
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/segmentparts.h"
+#include "roster/moods.h"
 #include "roster/postings.h"
 #include "show/legend.h"
 #include "show/overchange.h"
@@ -127,25 +130,44 @@ CardPull CheckCardPosition(World& world, const Worker& worker) {
   return {};
 }
 
+struct Feeling {
+  int Change = 0;
+  MoodReason Why = kMoodWon;
+};
+using Feelings = std::vector<Feeling>;
+
+/// Morale stops at its ends only once all have been added up, so the larger go last.
+void Feel(World& world, Worker& worker, Feelings feelings) {
+  int left = 0;
+  for (const Feeling& feeling : feelings) left += feeling.Change;
+  const int end = std::clamp(worker.Morale + left, 0, 100);
+  std::ranges::sort(feelings, {}, [](const Feeling& feeling) { return std::abs(feeling.Change); });
+  for (std::size_t i = 0; i < feelings.size(); ++i) {
+    const bool isLast = i + 1 == feelings.size();
+    MoveMorale(world, worker, isLast ? end - worker.Morale : feelings[i].Change, feelings[i].Why);
+  }
+}
+
 }  // namespace
 
 void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
   const int matchLevel = WeighRating(run.Quality, run.Crowd) + kMatchAhead;
   const int workerLevel = WeighRating(BestSkill(worker), worker.Over);
-  int over = worker.Over, morale = worker.Morale;
+  int over = worker.Over;
+  Feelings feelings;
   if (isWinner) {
-    morale += run.World.RandomDraw(kWinnersJoy);
+    feelings.push_back({run.World.RandomDraw(kWinnersJoy), kMoodWon});
   } else {
     const CardPull pull = CheckCardPosition(run.World, worker);
     over += pull.Over;
-    morale += pull.Morale;
     WearOut(run, worker);
-    morale += MoraleFrom(worker.Attitude, matchLevel, workerLevel);
+    const int match = MoraleFrom(worker.Attitude, matchLevel, workerLevel);
+    feelings = {{pull.Morale, kMoodHeldDown}, {match, match > 0 ? kMoodMatchGood : kMoodMatchBad}};
   }
   for (const Showcase& showcase : kShowcases)
     if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom) over += showcase.Gain;
   ChangeOverAndTell(run, worker, over - worker.Over);
-  worker.Morale = morale;
+  Feel(run.World, worker, feelings);
 }
 
 namespace {

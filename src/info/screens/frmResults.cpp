@@ -3,6 +3,7 @@
 #include "info/results.h"
 #include "info/screens/infotables.h"
 #include "records/modVar.h"
+#include "records/modWresCheck.h"
 #include "report/report.h"
 #include "show/recap.h"
 #include "ui/game.h"
