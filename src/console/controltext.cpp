@@ -183,7 +183,7 @@ std::vector<std::string> RowsOf(const ui::ListBox& list, bool whole, int width) 
   Rows rows(std::move(columns), whole);
   for (const ui::ListBox::Row& row : list.Rows()) {
     std::vector<std::string> cells;
-    for (const ui::Cell& cell : row.Cells) cells.push_back(cell.Text);
+    for (const ui::Cell& cell : row.Cells) cells.push_back(cell.Text + (cell.Best ? " *" : ""));
     rows.Add(row.Selected, std::move(cells));
   }
   return list.Count() == 0 ? std::vector<std::string>{} : rows.Lines(list.Name(), width);

@@ -2,6 +2,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 #include "desktop/housestyle.h"
@@ -28,6 +29,12 @@ QString Short(double value) {
   if (size >= 1e6) return QString::number(value / 1e6, 'g', 4) + "m";
   if (size >= 1e4) return QString::number(value / 1e3, 'g', 4) + "k";
   return QString::number(value, 'g', 6);
+}
+
+/// Lines differ in more than their colour.
+Qt::PenStyle StrokeOf(std::size_t line) {
+  constexpr Qt::PenStyle kStrokes[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
+  return kStrokes[line % std::size(kStrokes)];
 }
 
 /// Where a place and a value lie within the widget.
@@ -186,9 +193,11 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
 
 void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
-  for (const auto& series : control_.Lines.Get()) {
+  const auto& lines = control_.Lines.Get();
+  for (std::size_t line = 0; line < lines.size(); ++line) {
+    const auto& series = lines[line];
     painter.setPen(
-        QPen(TextColour(c, series.Colour), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        QPen(TextColour(c, series.Colour), 2, StrokeOf(line), Qt::FlatCap, Qt::RoundJoin));
     QPolygonF run;
     const auto finish = [&] {
       painter.drawPolyline(run);
@@ -215,12 +224,20 @@ void ChartView::DrawNames(QPainter& painter) const {
   const Colours& c = ColoursOf(this);
   const QFontMetrics small = fontMetrics();
   double x = 0;
-  for (const auto& series : control_.Lines.Get()) {
+  const auto& lines = control_.Lines.Get();
+  for (std::size_t line = 0; line < lines.size(); ++line) {
+    const auto& series = lines[line];
     if (series.Name.empty()) continue;
     const QString name = Shown(series.Name);
-    const QColor mark = control_.Bars ? FillColour(c, series.Colour) : TextColour(c, series.Colour);
-    DrawBox(painter, QRectF(x, small.height() / 2.0 - Px(4), Px(8), Px(8)), mark, QColor(), 2);
-    x += Px(8) + Px(6);
+    const int width = Px(control_.Bars ? 8 : 22);
+    if (control_.Bars) {
+      DrawBox(painter, QRectF(x, small.height() / 2.0 - Px(4), width, Px(8)),
+              FillColour(c, series.Colour), QColor(), 2);
+    } else {
+      painter.setPen(QPen(TextColour(c, series.Colour), 2, StrokeOf(line), Qt::FlatCap));
+      painter.drawLine(QPointF(x, small.height() / 2.0), QPointF(x + width, small.height() / 2.0));
+    }
+    x += width + Px(6);
     painter.setPen(c.Muted);
     painter.drawText(QPointF(x, small.ascent()), name);
     x += small.horizontalAdvance(name) + Px(14);

@@ -2,6 +2,7 @@
 
 #include "calendar/screens/calendarscreens.h"
 #include "editor/screens/screenpages.h"
+#include "info/screens/infoscreens.h"
 #include "rivals/screens/rivalscreens.h"
 #include "roster/screens/frmWorker.h"
 
@@ -86,6 +87,7 @@ void RegisterScreens(Game& game) {
   ConnectRoster(game);
   ConnectRivals(game);
   ConnectCalendar(game);
+  ConnectInfo(game);
 }
 
 }  // namespace grapplemont

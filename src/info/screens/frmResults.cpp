@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "info/results.h"
+#include "info/screens/infoscreens.h"
 #include "info/screens/infotables.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -104,6 +105,12 @@ class frmReports : public GameScreen {
 }  // namespace
 
 SCREEN(frmReports)
+
+void ConnectInfo(Game& game) {
+  game.OpenReport = [&game](Day on, int promotionUid) {
+    game.Desk().Open(std::make_unique<frmReports>(game, on, promotionUid));
+  };
+}
 
 namespace {
 

@@ -34,7 +34,8 @@ class WorkerListScreen : public GameScreen {
                      combo->Select(1);
                      return combo;
                    }),
-        lstwres(*this, "lstwres", WorkerColumns(list), ui::Handler([this] { ShowChoice(); })),
+        lstwres(*this, "lstwres", WithFaces(game.World(), WorkerColumns(list)),
+                ui::Handler([this] { ShowChoice(); })),
         list_(list),
         filters_(filters) {}
 
