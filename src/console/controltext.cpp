@@ -256,7 +256,7 @@ std::string ChartText(const ui::Chart& chart) {
     text += i < captions.size() ? captions[i] + ":" : std::string();
     bool first = true;
     for (const auto& series : chart.Lines.Get()) {
-      if (i >= series.Values.size()) continue;
+      if (i >= series.Values.size() || !std::isfinite(series.Values[i])) continue;
       text += std::string(first ? " " : ", ") + series.Name + (series.Name.empty() ? "" : " ") +
               Number(series.Values[i]);
       first = false;

@@ -86,6 +86,7 @@ class WorkerListScreen : public GameScreen {
   void ShowChoice() {
     const Worker* chosen = Chosen();
     WriteWorkerPage(txtpage, world(), chosen, "Choose somebody to read about.");
+    EnableUnless({cmdpage, cmdcompare}, chosen ? "" : kNobodyChosen);
     ShowActions(chosen);
   }
   void ShowFacts() { lblfacts.Text = Facts(listed_); }
@@ -103,10 +104,19 @@ class WorkerListScreen : public GameScreen {
     return ui::Columns(std::move(fields));
   }
 
+  /// What is known of the chosen worker, and the ways on.
+  ui::Box PageBox() {
+    return ui::Group("", {ui::Grow(txtpage), ui::Columns({cmdpage, cmdcompare})});
+  }
+
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Array<ui::ComboBox> cmbfilters;
   ui::ListBox lstwres;
   ui::Report txtpage{*this, "txtpage"};
+  ui::Button cmdpage{*this, "cmdpage", "Open Page",
+                     [this] { OpenWorkerPage(game_, lstwres.Key()); }};
+  ui::Button cmdcompare{*this, "cmdcompare", "Compare",
+                        [this] { desk().Open(MakefrmCompare(game_, lstwres.Key())); }};
 
  private:
   static std::size_t Index(int number) { return static_cast<std::size_t>(number - 1); }
@@ -141,7 +151,7 @@ class frmRoster : public WorkerListScreen {
         ui::Rows({ui::Group("", {FilterBox({ui::Field("Split", cmbsplit)})}),
                   ui::Columns(
                       {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
-                       ui::Rows({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                       ui::Rows({PageBox().Grow(1),
                                  ui::Group("Place",
                                            {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
                                             lblmove, ui::Columns({ui::Grow(cmbnewsplit), cmdsplit}),
@@ -277,11 +287,11 @@ class frmOtherWres : public WorkerListScreen {
   }
 
   ui::Page Layout() override {
-    return PageOf(ui::Rows({ui::Group("", {FilterBox()}),
-                            ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
-                                         ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
-                                .Grow(1)}),
-                  &lblfacts, {&cmdlist, &cmdshortlist}, &cmdcontract);
+    return PageOf(
+        ui::Rows(
+            {ui::Group("", {FilterBox()}),
+             ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9), PageBox().Grow(4)}).Grow(1)}),
+        &lblfacts, {&cmdlist, &cmdshortlist}, &cmdcontract);
   }
 
  protected:
