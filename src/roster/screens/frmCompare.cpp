@@ -99,14 +99,17 @@ class frmCompare : public GameScreen {
  public:
   frmCompare(Game& game, int uid)
       : GameScreen(game, "frmCompare", "Compare", {.Is = ui::Role::Dialog}), uids_{uid} {
+    lblhow.Colour = ui::Tone::Muted;
+    lstcompare.Room = 20;
     lstmeetings.EmptyText = "Add somebody to see how they did against each other.";
   }
 
   ui::Page Layout() override {
-    std::vector<ui::Box> heads;
+    std::vector<ui::Box> heads = {ui::Grow(lblhow, 3)};  // as wide as the table's columns
     for (int place = 1; place <= kMost; ++place)
       heads.push_back(
-          ui::Columns({picworker(place), ui::Rows({lblworker(place), cmdremove(place)})}));
+          ui::Columns({picworker(place), ui::Rows({lblworker(place), cmdremove(place)}).Grow(1)})
+              .Grow(4));
     ui::Page page = PageOf(
         ui::Columns({ui::Group("", {ui::Columns(std::move(heads)), ui::Grow(lstcompare)}).Grow(7),
                      ui::Rows({ui::Group("Add a worker", {cmbadd}),
@@ -143,9 +146,8 @@ class frmCompare : public GameScreen {
                : std::string();
       EnableUnless(cmdremove(place), uids_.size() > 1 ? "" : "One has to stay.");
     }
-    lblfacts.Text = uids_.size() < 2 ? "Add one to three others to compare with."
-                                     : "As of today. A star marks the best of a row, all who are "
-                                       "level.";
+    lblfacts.Text = uids_.size() < 2 ? "Add one to three others to compare with." : "As of today.";
+    lblhow.Text = uids_.size() < 2 ? "" : "A star marks the best of a row, and all who are level.";
   }
 
   /// The player's people and whom the player keeps an eye on.
@@ -278,6 +280,7 @@ class frmCompare : public GameScreen {
                                         *this, name, "Remove", [this, place] { Remove(place); });
                                   }};
   ui::ComboBox cmbadd{*this, "cmbadd", &frmCompare::cmbadd_Click};
+  ui::Label lblhow{*this, "lblhow"};
   ui::ListBox lstcompare{*this, "lstcompare"};
   ui::Chart chtover{*this, "chtover"};
   ui::ListBox lstmeetings{

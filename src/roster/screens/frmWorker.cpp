@@ -54,6 +54,8 @@ class frmWorker : public GameScreen {
     lsttitles.EmptyText = "No Title yet. One that is won on a show, or given, stands here.";
     lstcompany.EmptyText = "Alone: no feud, team, manager or stable.";
     txtcontract.Brief = true;
+    picworker.Height = 88;
+    pictitle.Height = 56;
   }
 
   int Uid() const { return uid_; }
@@ -61,12 +63,15 @@ class frmWorker : public GameScreen {
   ui::Page Layout() override {
     ui::Box glance(
         ui::Box::Kind::Columns, "At a glance",
-        {ui::Rows({ui::Group("", {ui::Columns({picworker, ui::Rows({lblmarks, lblfinishers})})}),
-                   ui::Group("What they can do", {ui::Grow(lstskills)}).Grow(),
-                   ui::Group("Contract", {txtcontract, ui::Columns({cmdpromote, cmddemote})})})
+        {ui::Rows(
+             {ui::Group("", {ui::Columns({picworker, ui::Rows({lblmarks, lblfinishers}).Grow(1)})}),
+              ui::Group("What they can do", {ui::Grow(lstskills)}).Grow(),
+              ui::Group("Contract", {txtcontract, ui::Columns({cmdpromote, cmddemote})})})
              .Grow(5),
          ui::Rows({ui::Group("Twelve months", {ui::Grow(chtmonths)}).Grow(2),
-                   ui::Group("Last ten matches", {lblform, ui::Grow(lstform)}).Grow(3)})
+                   ui::Group("Last ten matches",
+                             {ui::Columns({ui::Grow(lblform), cmdreport}), ui::Grow(lstform)})
+                       .Grow(3)})
              .Grow(6),
          ui::Rows({ui::Group("What they think of you, and why", {ui::Grow(txtwhy)}).Grow(3),
                    ui::Group("Titles and reigns", {pictitle, ui::Grow(lsttitles)}).Grow(3),
@@ -76,7 +81,7 @@ class frmWorker : public GameScreen {
         ui::Box::Kind::Columns, "All the facts",
         {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});
     ui::Page page = PageOf(ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
-                           {&cmdreport, &cmdcompare, &cmdturn, &cmdshortlist}, &cmdcontract);
+                           {&cmdcompare, &cmdturn, &cmdshortlist}, &cmdcontract);
     page.Large = true;
     return page;
   }
