@@ -10,6 +10,7 @@
 #include "roster/workerrecord.h"
 #include "storylines/feuds.h"
 #include "storylines/partners.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
 
@@ -153,6 +154,20 @@ std::vector<Companion> CompanionsOf(const World& world, const Worker& worker) {
       companions.push_back({"Client", client.Name.Str(), client.Uid, ""});
   if (IsInStable(worker)) companions.push_back({"Stable", worker.Stable.Str(), 0, ""});
   return companions;
+}
+
+Neighbours NeighboursOf(const World& world, const Worker& worker) {
+  if (worker.Employer == 0) return {};
+  std::vector<const Worker*> people;
+  for (const Worker& other : world.Workers())
+    if (other.Employer == worker.Employer) people.push_back(&other);
+  SortByOver(people);
+  const auto place = std::ranges::find(people, &worker);
+  Neighbours beside{.Place = static_cast<int>(place - people.begin()) + 1,
+                  .Of = static_cast<int>(people.size())};
+  if (place != people.begin()) beside.Before = (*(place - 1))->Uid;
+  if (place + 1 != people.end()) beside.After = (*(place + 1))->Uid;
+  return beside;
 }
 
 Meetings MeetingsOf(const World& world, int firstUid, int secondUid) {

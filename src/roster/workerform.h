@@ -43,6 +43,14 @@ struct Companion {
 };
 std::vector<Companion> CompanionsOf(const World& world, const Worker& worker);
 
+/// The colleagues before and behind a worker in the same promotion, the most popular first.
+struct Neighbours {
+  int Before = 0, After = 0;  // uids; 0 for nobody
+  int Place = 0, Of = 0;      // from 1
+};
+/// Nobody and no place for who works for nobody.
+Neighbours NeighboursOf(const World& world, const Worker& worker);
+
 /// How two have done against each other on the player's shows, as far as matches are kept.
 struct Meetings {
   int Won = 0, Lost = 0, Drawn = 0;  // by the first

@@ -281,6 +281,12 @@ TEST(frmWorker, ShowsAtAGlanceAndLeadsOn) {
   EXPECT_EQ(play.Desk.Text("cmdturn"), "Call The Turn Off");
   EXPECT_TRUE(Holds(play.Desk.Text("txtwhy"), "Nothing has moved morale"));
 
+  EXPECT_FALSE(play.Desk.Enabled("cmdprevious"));
+  play.Desk.Click("cmdnext");
+  EXPECT_EQ(play.Desk.Title(), "Ilya Marsh");
+  play.Desk.Click("cmdprevious");
+  EXPECT_EQ(play.Desk.Title(), kBram);
+
   play.Desk.OpenRow("lstcompany", "Ilya Marsh");
   EXPECT_EQ(play.Desk.Title(), "Ilya Marsh");
   EXPECT_EQ(play.Desk.FirstColumn("lsttitles"), Names({"CWA Crown"}));

@@ -170,15 +170,16 @@ class PromotionSheets {
                         {"Last rating", K::Number, 2}}};
   ui::ListBox lstevents{
       screen_, "lstevents", {{"Event", K::Text, 4}, {"Month", K::Number, 2}, {"Type", K::Text, 2}}};
-  ui::ListBox lsttitles{screen_,
-                        "lsttitles",
-                        {{"Title", K::Text, 9},
-                         {"Kind", K::Text, 5},
-                         {"Champion", K::Text, 9},
-                         {"Since", K::Date, 4},
-                         {"Image", K::Number, 3}},
-                        ui::Handler{},
-                        [this] { OpenWorkerOf(lsttitles); }};
+  ui::ListBox lsttitles{
+      screen_,
+      "lsttitles",
+      {{"Title", K::Text, 9},
+       {"Kind", K::Text, 5},
+       {.Title = "Champion", .Width = 9, .Draws = [this](int uid) { return FaceOf(world(), uid); }},
+       {"Since", K::Date, 4},
+       {"Image", K::Number, 3}},
+      ui::Handler{},
+      [this] { OpenWorkerOf(lsttitles); }};
   ui::ListBox lstsponsors{
       screen_,
       "lstsponsors",

@@ -11,7 +11,6 @@
 #include "roster/moods.h"
 #include "roster/postings.h"
 #include "roster/screens/screentalks.h"
-#include "roster/workerfacts.h"
 #include "roster/workerform.h"
 #include "roster/workerrecord.h"
 #include "storylines/lineages.h"
@@ -23,8 +22,6 @@ namespace grapplemont {
 
 namespace {
 
-using Style = ui::Report::Style;
-using Paragraphs = std::vector<ui::Report::Paragraph>;
 using K = ui::ColumnKind;
 
 constexpr int kFormTold = 10;
@@ -80,8 +77,9 @@ class frmWorker : public GameScreen {
     ui::Box facts(
         ui::Box::Kind::Columns, "All the facts",
         {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});
-    ui::Page page = PageOf(ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
-                           {&cmdcompare, &cmdturn, &cmdshortlist}, &cmdcontract);
+    ui::Page page =
+        PageOf(ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
+               {&cmdprevious, &cmdnext, &cmdcompare, &cmdturn, &cmdshortlist}, &cmdcontract);
     page.Large = true;
     return page;
   }
@@ -100,9 +98,10 @@ class frmWorker : public GameScreen {
       ShowForm(*worker);
       ShowTitles(*worker);
       ShowCompany(*worker);
-      ShowContract(*worker);
-      ShowMood(*worker);
+      WriteContract(txtcontract, world(), *worker);
+      WriteMood(txtwhy, world(), *worker);
     }
+    ShowNeighbours(worker);
     ShowButtons(worker);
   }
 
@@ -205,35 +204,23 @@ class frmWorker : public GameScreen {
     lstcompany.Fill(std::move(rows));
   }
 
-  void ShowContract(const Worker& worker) {
-    Paragraphs words;
-    for (const FactGroup& group : WorkerFacts(world(), worker))
-      if (group.Heading == "Contract")
-        for (const std::string& line : group.Lines) words.push_back({Style::Line, line});
-    words.push_back({Style::Muted, AskingLine(world(), worker)});
-    txtcontract.Write(std::move(words));
+  /// The ways to the colleagues before and behind, the most popular first.
+  void ShowNeighbours(const Worker* worker) {
+    const Neighbours beside = worker ? NeighboursOf(world(), *worker) : Neighbours();
+    ShowWay(cmdprevious, beside.Before, "Nobody stands before in this promotion.");
+    ShowWay(cmdnext, beside.After, "Nobody stands behind in this promotion.");
+    if (beside.Of > 1)
+      lblfacts.Text = lblfacts.Text.Get() + " " + std::to_string(beside.Place) + " of " +
+                      std::to_string(beside.Of) + " there.";
   }
-
-  void ShowMood(const Worker& worker) {
-    Paragraphs words;
-    for (const FactGroup& group : WorkerFacts(world(), worker))
-      if (group.Heading == "Character")
-        for (const std::string& line : group.Lines) words.push_back({Style::Line, line});
-    const MoodStory story = MoodStoryOf(world(), worker);
-    if (!WorksForPlayer(world(), worker)) {
-      words.push_back({Style::Muted, "What moves morale is kept of your own people."});
-    } else if (story.Steps.empty()) {
-      words.push_back({Style::Muted, "Nothing has moved morale this month or the last."});
-    } else {
-      words.push_back({Style::Strong, "Morale " + std::to_string(worker.Morale)});
-      words.push_back(
-          {Style::Muted, std::to_string(story.Before) + " before " + PlainDate(story.Since)});
-      for (const MoodStep& step : story.Steps)
-        words.push_back({Style::Line, (step.Change > 0 ? "+" : "") + std::to_string(step.Change) +
-                                          "  " + step.Why});
-      words.push_back({Style::Line, std::to_string(worker.Morale) + " today"});
-    }
-    txtwhy.Write(std::move(words));
+  void ShowWay(ui::Button& button, int uid, const char* nobody) {
+    EnableUnless(button, uid == 0 ? nobody : "");
+    if (uid != 0) button.Tip = WorkerName(world(), uid);
+  }
+  void Go(int Neighbours::*to) {
+    if (const Worker* worker = Subject(); worker && NeighboursOf(world(), *worker).*to != 0)
+      uid_ = NeighboursOf(world(), *worker).*to;
+    Return();
   }
 
   void ShowButtons(const Worker* worker) {
@@ -352,6 +339,8 @@ class frmWorker : public GameScreen {
       [this] { lstcompany_Open(); }};
   ui::Report txtpage{*this, "txtpage"};
   ui::Report txtmore{*this, "txtmore"};
+  ui::Button cmdprevious{*this, "cmdprevious", "Previous", [this] { Go(&Neighbours::Before); }};
+  ui::Button cmdnext{*this, "cmdnext", "Next", [this] { Go(&Neighbours::After); }};
   ui::Button cmdcompare{*this, "cmdcompare", "Compare",
                         [this] { desk().Open(MakefrmCompare(game_, uid_)); }};
   ui::Button cmdturn{*this, "cmdturn", "Prepare A Turn", &frmWorker::cmdturn_Click};

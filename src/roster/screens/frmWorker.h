@@ -18,6 +18,11 @@ void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
 void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,
                       const std::string& nobody);
 
+/// The contract, and what a new one would cost.
+void WriteContract(ui::Report& page, const World& world, const Worker& worker);
+/// What somebody thinks of the player, and why.
+void WriteMood(ui::Report& page, const World& world, const Worker& worker);
+
 /// Opens the worker's page, or goes back to it where it lies below others of its kind. Says so when
 /// there is nobody of this uid any more.
 void OpenWorkerPage(Game& game, int workerUid);

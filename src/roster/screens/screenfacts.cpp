@@ -2,8 +2,12 @@
 
 #include <span>
 
+#include "records/fields/fields.h"
+#include "records/modWresCheck.h"
 #include "records/nameindex.h"
+#include "roster/moods.h"
 #include "roster/workerfacts.h"
+#include "roster/workerform.h"
 
 namespace grapplemont {
 
@@ -48,6 +52,45 @@ void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, c
   words.erase(words.begin());
   left.Write(std::move(words));
   right.Write(Told(all.subspan(kAtLeft)));
+}
+
+namespace {
+
+/// One group of the facts, without its heading.
+Paragraphs LinesUnder(const World& world, const Worker& worker, std::string_view heading) {
+  Paragraphs words;
+  for (const FactGroup& group : WorkerFacts(world, worker))
+    if (group.Heading == heading)
+      for (const std::string& line : group.Lines) words.push_back({Style::Line, line});
+  return words;
+}
+
+}  // namespace
+
+void WriteContract(ui::Report& page, const World& world, const Worker& worker) {
+  Paragraphs words = LinesUnder(world, worker, "Contract");
+  words.push_back({Style::Muted, AskingLine(world, worker)});
+  page.Write(std::move(words));
+}
+
+void WriteMood(ui::Report& page, const World& world, const Worker& worker) {
+  Paragraphs words = LinesUnder(world, worker, "Character");
+  const MoodStory story = MoodStoryOf(world, worker);
+  const std::string today = std::to_string(worker.Morale);
+  if (!WorksForPlayer(world, worker)) {
+    words.push_back({Style::Muted, "What moves morale is kept of your own people."});
+  } else if (story.Steps.empty()) {
+    words.push_back({Style::Muted, "Nothing has moved morale this month or the last."});
+  } else {
+    words.push_back({Style::Strong, "Morale " + today});
+    words.push_back(
+        {Style::Muted, std::to_string(story.Before) + " before " + PlainDate(story.Since)});
+    for (const MoodStep& step : story.Steps)
+      words.push_back({Style::Line, (step.Change > 0 ? "+" : "") + std::to_string(step.Change) +
+                                        "  " + step.Why});
+    words.push_back({Style::Line, today + " today"});
+  }
+  page.Write(std::move(words));
 }
 
 void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
