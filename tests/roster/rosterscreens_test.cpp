@@ -328,7 +328,8 @@ TEST(frmWorker, HasNoTalksInTheMidstOfAShow) {
   play.Desk.Open("frmPPVBooking");
   play.Play.OpenWorker(Named(play.World().Workers(), kBram).Uid);
   ASSERT_EQ(play.Desk.TopName(), "frmWorker");
-  EXPECT_EQ(play.Desk.Tip("cmdcontract"), "There is a show to see to first.");
+  for (const char* act : {"cmdcontract", "cmdturn", "cmddemote"})
+    EXPECT_EQ(play.Desk.Tip(act), "There is a show to see to first.");
 }
 
 TEST(Links, LeadFromAMailToThePageAndOn) {

@@ -234,7 +234,8 @@ class frmWorker : public GameScreen {
     cmdturn.Visible = cmdpromote.Visible = cmddemote.Visible = own;
     if (own) {
       cmdturn.Text = worker->TurnPending ? "Call The Turn Off" : "Prepare A Turn";
-      EnableUnless(cmdturn, IsSeenOnShows(*worker) ? "" : "Is not seen on the shows.");
+      EnableUnless(cmdturn,
+                   IsSeenOnShows(*worker) ? WhyNotNow(game_) : "Is not seen on the shows.");
       if (cmdturn.Enabled) cmdturn.Tip = TurnAdvice(world(), *worker);
       ShowMove(*worker, cmdpromote, "Promote", -1);
       ShowMove(*worker, cmddemote, "Demote", 1);
@@ -248,8 +249,10 @@ class frmWorker : public GameScreen {
     const bool onCard = IsRosterPosition(worker.Position);
     const bool fits = onCard && IsRosterPosition(to);
     button.Text = fits ? std::string(caption) + " To " + std::string(PositionText(to)) : caption;
-    EnableUnless(button, fits     ? WhyNotMove(world(), worker, to)
-                         : onCard ? "There is no further place on the card."
+    const std::string busy = WhyNotNow(game_);
+    EnableUnless(button, !busy.empty() ? busy
+                         : fits        ? WhyNotMove(world(), worker, to)
+                         : onCard      ? "There is no further place on the card."
                                   : "Has no place on the card. The roster moves people to one.");
     if (button.Enabled) button.Tip = EndedByMove(world(), worker, to);
   }
