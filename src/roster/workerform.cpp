@@ -164,7 +164,7 @@ Neighbours NeighboursOf(const World& world, const Worker& worker) {
   SortByOver(people);
   const auto place = std::ranges::find(people, &worker);
   Neighbours beside{.Place = static_cast<int>(place - people.begin()) + 1,
-                  .Of = static_cast<int>(people.size())};
+                    .Of = static_cast<int>(people.size())};
   if (place != people.begin()) beside.Before = (*(place - 1))->Uid;
   if (place + 1 != people.end()) beside.After = (*(place + 1))->Uid;
   return beside;
