@@ -11,6 +11,7 @@
 #include "records/fields/fields.h"
 #include "records/severing.h"
 #include "rivals/rivals.h"
+#include "roster/moods.h"
 #include "storylines/lineages.h"
 
 namespace grapplemont {
@@ -46,7 +47,7 @@ constexpr Step kFirstOfMonth[] = {
 
 constexpr Step kClosing[] = {
     STEP(IncidentRoll), STEP(SweepDeadPromotions), STEP(SweepDeadShows),
-    STEP(UpdateReigns), STEP(GiveAwards),
+    STEP(UpdateReigns), STEP(GiveAwards),          STEP(NoteMonths),
 };
 
 #undef STEP

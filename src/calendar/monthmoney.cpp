@@ -10,6 +10,7 @@
 #include "rivals/rivals.h"
 #include "roster/leaving.h"
 #include "roster/market.h"
+#include "roster/moods.h"
 #include "roster/talks.h"
 
 namespace grapplemont {
@@ -252,7 +253,8 @@ void PoorFormMorale(World& world) {
     if (IsPlayers(world, promotion))
       AddNews(world, "Maeve", "Our poor performance is affecting the worker's morale.");
     for (Worker& worker : world.Workers())
-      if (worker.Employer == promotion.Uid) worker.Morale -= kPoorFormLoss;
+      if (worker.Employer == promotion.Uid)
+        MoveMorale(world, worker, -kPoorFormLoss, kMoodPoorForm);
   }
 }
 

@@ -4,6 +4,7 @@
 #include "calendar/advanceday.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
+#include "roster/moods.h"
 
 // What the young learn away from the main roster: in the development territory and in the training
 // camp.
@@ -94,7 +95,7 @@ std::string Complaint(const Worker& worker, const std::string& territory, int dr
 
 void Outgrow(World& world, Worker& worker, const std::string& territory) {
   worker.Behaviour -= world.RandomDraw(2);
-  worker.Morale -= world.RandomDraw(5);
+  MoveMorale(world, worker, -world.RandomDraw(5), kMoodStuck);
   AddNews(world, "Development", Complaint(worker, territory, world.RandomDraw(5)));
 }
 

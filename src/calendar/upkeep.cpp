@@ -6,6 +6,7 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/leaving.h"
+#include "roster/moods.h"
 #include "roster/staff.h"
 
 namespace grapplemont {
@@ -60,10 +61,10 @@ void HaveHadEnough(World& world, Worker& worker) {
 void FeelAway(World& world, Worker& worker) {
   if (!IsInDevelopment(worker)) return;
   if (worker.Age < 26)
-    worker.Morale += world.RandomDraw(2) - 1;
+    MoveMorale(world, worker, world.RandomDraw(2) - 1, kMoodAway);
   else if (worker.Age >= 27 && worker.Age <= 34) {
     const int up = world.RandomDraw(2);
-    worker.Morale += up - world.RandomDraw(2);
+    MoveMorale(world, worker, up - world.RandomDraw(2), kMoodAway);
   }
 }
 

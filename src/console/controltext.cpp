@@ -159,7 +159,7 @@ std::vector<std::string> RowsOf(const ui::ListBox& list, bool whole, int width) 
   Rows rows(std::move(columns), whole);
   for (const ui::ListBox::Row& row : list.Rows()) {
     std::vector<std::string> cells;
-    for (const ui::Cell& cell : row.Cells) cells.push_back(cell.Text);
+    for (const ui::Cell& cell : row.Cells) cells.push_back(cell.Text + (cell.Best ? " *" : ""));
     rows.Add(row.Selected, std::move(cells));
   }
   return list.Count() == 0 ? std::vector<std::string>{} : rows.Lines(list.Name(), width);
@@ -253,7 +253,7 @@ std::string ChartText(const ui::Chart& chart) {
     text += i < captions.size() ? captions[i] + ":" : std::string();
     bool first = true;
     for (const auto& series : chart.Lines.Get()) {
-      if (i >= series.Values.size()) continue;
+      if (i >= series.Values.size() || !std::isfinite(series.Values[i])) continue;
       text += std::string(first ? " " : ", ") + series.Name + (series.Name.empty() ? "" : " ") +
               Number(series.Values[i]);
       first = false;

@@ -2,6 +2,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 #include "desktop/housestyle.h"

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 
 #include "desktop/drawn/drawn.h"
 #include "desktop/housestyle.h"
@@ -20,16 +22,22 @@ constexpr int kBarWidth = 56, kBarHeight = 6;
 constexpr int kTagHeight = 19, kTagSide = 6;
 constexpr int kRowButton = 76;
 constexpr int kDrawn = 24;  // high
+constexpr int kStar = 18;   // wide, with its gap
 
 bool IsFigure(const std::string& text) {
   return !text.empty() && text.find_first_not_of("0123456789.%-") == text.npos &&
          text.find_first_of("0123456789") != text.npos;
 }
 
-/// A word in a bar's column, such as an injury, is framed like a tag.
+/// A word in a bar's column that has a colour, such as an injury, is framed like a tag.
 bool IsTag(const ui::Cell& cell, ColumnKind kind) {
   if (cell.Text.empty()) return false;
-  return kind == ColumnKind::Tag || (kind == ColumnKind::Percent && !IsFigure(cell.Text));
+  return kind == ColumnKind::Tag ||
+         (kind == ColumnKind::Percent && !IsFigure(cell.Text) && cell.Colour != ui::Tone::Plain);
+}
+
+bool IsBar(const ui::Cell& cell, ColumnKind kind) {
+  return kind == ColumnKind::Percent && IsFigure(cell.Text);
 }
 
 QFont TagFont() {
@@ -57,10 +65,29 @@ void DrawBar(QPainter& painter, const QRect& room, const ui::Cell& cell, const C
   QRectF bar = track;
   bar.setWidth(std::max(height, track.width() * std::clamp(cell.Number, 0.0, 100.0) / 100));
   if (cell.Number > 0) DrawBox(painter, bar, PercentColour(c, cell.Number), QColor(), height / 2);
+  if (cell.Tick >= 0)
+    painter.fillRect(QRectF(track.left() + track.width() * std::min(cell.Tick, 100) / 100 - 1,
+                            track.center().y() - Px(6), 2, Px(12)),
+                     c.Text);
   painter.setPen(TextColour(c, cell.Colour));
   const int from = static_cast<int>(track.right()) + Px(8);
   DrawFigures(painter, QRectF(from, room.top(), room.right() + 1 - from, room.height()),
               Qt::AlignLeft, Shown(cell.Text));
+}
+
+/// Says "best" beside a colour.
+void DrawStar(QPainter& painter, const QPointF& centre, const Colours& c) {
+  constexpr int kCorners = 10;
+  QPolygonF star;
+  for (int corner = 0; corner < kCorners; ++corner) {
+    const double angle = (2.0 * corner / kCorners - 0.5) * std::numbers::pi;
+    const double radius = Px(6) * (corner % 2 == 0 ? 1 : 0.42);
+    star << centre + QPointF(std::cos(angle), std::sin(angle)) * radius;
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(c.Gold);
+  painter.drawPolygon(star);
 }
 
 void DrawText(QPainter& painter, const QRect& room, const ui::Cell& cell, ColumnKind kind) {
@@ -97,14 +124,13 @@ bool AlignsRight(ColumnKind kind) {
 }
 
 int CellWidth(const ui::Cell& cell, ColumnKind kind) {
-  const int sides = 2 * Px(kCellSide);
+  const int sides = 2 * Px(kCellSide) + (cell.Best ? Px(kStar) : 0);
   const QString text = Shown(cell.Text);
   if (kind == ColumnKind::Button) return Px(kRowButton) + sides;
   if (IsTag(cell, kind))
     return QFontMetrics(TagFont()).horizontalAdvance(text) + 2 * Px(kTagSide) + sides + 2;
   const QFontMetrics metrics(TextFont());
-  if (kind == ColumnKind::Percent)
-    return Px(kBarWidth) + Px(8) + FiguresWidth(metrics, text) + sides;
+  if (IsBar(cell, kind)) return Px(kBarWidth) + Px(8) + FiguresWidth(metrics, text) + sides;
   if (kind == ColumnKind::Number || kind == ColumnKind::Date)
     return FiguresWidth(metrics, text) + sides;
   return metrics.horizontalAdvance(text) + sides + 1;
@@ -155,9 +181,13 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
   room.setLeft(room.left() +
                DrawSmall(&painter, room, column, model_.Table().RowAt(index.row()).Key));
   painter.setFont(TextFont());
+  if (cell.Best) {
+    const int width = CellWidth(cell, column.Kind) - 2 * Px(kCellSide);
+    DrawStar(painter, QPointF(room.left() + width - Px(kStar) / 3.0, room.center().y() + 1), c);
+  }
   if (IsTag(cell, column.Kind)) {
     DrawTag(painter, room, cell, c);
-  } else if (column.Kind == ColumnKind::Percent && !cell.Text.empty()) {
+  } else if (IsBar(cell, column.Kind)) {
     DrawBar(painter, room, cell, c);
   } else {
     const bool link = cell.Colour == ui::Tone::Plain && IsLink(index);
@@ -204,7 +234,9 @@ bool TableModel::IsPinned(int column) const {
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)) return {};
-  return Shown(table_.At(index.row(), index.column()).Text);
+  const ui::Cell& cell = table_.At(index.row(), index.column());
+  const bool tells = role == Qt::AccessibleTextRole && cell.Best;
+  return tells ? Shown(cell.Text) + ", the best" : Shown(cell.Text);
 }
 
 /// What the heading says itself, then what the glossary says of it.

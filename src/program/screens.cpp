@@ -3,6 +3,7 @@
 #include "calendar/screens/calendarscreens.h"
 #include "editor/screens/screenpages.h"
 #include "info/screens/helpscreens.h"
+#include "info/screens/infoscreens.h"
 #include "program/screenfinding.h"
 #include "rivals/screens/rivalscreens.h"
 #include "roster/screens/frmWorker.h"
@@ -89,6 +90,7 @@ void RegisterScreens(Game& game) {
   ConnectRoster(game);
   ConnectRivals(game);
   ConnectCalendar(game);
+  ConnectInfo(game);
   ConnectHelp(game);
   ConnectFinding(game);
 }

@@ -157,6 +157,12 @@ const Staff* OwnerOf(const World& world, int promotionUid) {
   return nullptr;
 }
 
+bool HasReport(const World& world, Day on, int promotionUid) {
+  return std::ranges::any_of(world.Reports(), [=](const ReportPart& part) {
+    return part.Kind != kNoReport && Day(part.On) == on && part.Promotion == promotionUid;
+  });
+}
+
 std::string_view PositionText(int position) {
   return KnownOr(Says(kPositions, position));
 }

@@ -42,6 +42,9 @@ const Title* FindTitle(const World& world, std::string_view name);
 /// The promotion's Owner on the staff; nullptr for a promotion without one.
 const Staff* OwnerOf(const World& world, int promotionUid);
 
+/// Whether the words of the promotion's show of that day are kept.
+bool HasReport(const World& world, Day on, int promotionUid);
+
 /// "Main Event" and so on; "Unknown" for a code without a text.
 std::string_view PositionText(int position);
 /// "Face", "Heel", "Tweener", "Unknown"; the code is "F", "H", "T", empty for an unknown text.

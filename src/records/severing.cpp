@@ -51,19 +51,6 @@ void EmptyChair(Show& show, int uid, bool isWorker) {
   show.ColourIsWorker = false;
 }
 
-/// What tells of him keeps his name, since his uid may be another's one day.
-void ForgetInThePast(World& world, int uid) {
-  const auto clear = [uid](auto&... places) { ((places = places == uid ? 0 : int(places)), ...); };
-  for (HeldMatch& bout : world.Bouts()) {
-    LeavePlaces(bout.Worker, uid);
-    LeavePlaces(bout.Feud, uid);
-  }
-  for (MatchTally& tally : world.Tallies()) clear(tally.Worker);
-  for (TitleReign& reign : world.Reigns()) clear(reign.Worker, reign.Partner);
-  for (YearAward& award : world.Awards()) clear(award.Worker, award.Partner);
-  world.YearEnds().Keep([=](const YearEnd& row) { return row.Worker != uid; });
-}
-
 }  // namespace
 
 void LeaveOffice(World& world, int workerUid) {
@@ -89,6 +76,26 @@ void LoseClients(World& world, const std::set<int>& managerUids) {
   for (Worker& client : world.Workers())
     if (client.Manager != 0 && managerUids.contains(client.Manager)) client.Manager = 0;
 }
+
+namespace {
+
+/// What tells of him keeps his name, since his uid may be another's one day.
+void ForgetInThePast(World& world, int uid) {
+  const auto clear = [uid](auto&... places) { ((places = places == uid ? 0 : int(places)), ...); };
+  for (HeldMatch& bout : world.Bouts()) {
+    LeavePlaces(bout.Worker, uid);
+    LeavePlaces(bout.Feud, uid);
+  }
+  for (MatchTally& tally : world.Tallies()) clear(tally.Worker);
+  for (TitleReign& reign : world.Reigns()) clear(reign.Worker, reign.Partner);
+  for (YearAward& award : world.Awards()) clear(award.Worker, award.Partner);
+  const auto isOthers = [=](const auto& row) { return row.Worker != uid; };
+  world.YearEnds().Keep(isOthers);
+  world.Months().Keep(isOthers);
+  world.Moods().Keep(isOthers);
+}
+
+}  // namespace
 
 void EndPosting(Worker& worker) {
   if (worker.Position > kSentToDevelopment) worker.Position -= kSentToDevelopment;

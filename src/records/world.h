@@ -98,6 +98,12 @@ class World {
   /// One record where the game has a guide, else none.
   Records<GuideState>& Guides() { return Of<GuideState>(); }
   const Records<GuideState>& Guides() const { return Of<GuideState>(); }
+  /// How everybody stood on the firsts of twelve months, a record a worker.
+  Records<WorkerMonths>& Months() { return Of<WorkerMonths>(); }
+  const Records<WorkerMonths>& Months() const { return Of<WorkerMonths>(); }
+  /// What has moved the morale of the player's people, oldest first.
+  Records<MoodChange>& Moods() { return Of<MoodChange>(); }
+  const Records<MoodChange>& Moods() const { return Of<MoodChange>(); }
   Records<GameInfo>& GameInfos() { return Of<GameInfo>(); }
   const Records<GameInfo>& GameInfos() const { return Of<GameInfo>(); }
   TextFile& Notes() { return std::get<TextFile>(tables_); }

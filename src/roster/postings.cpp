@@ -6,6 +6,7 @@
 #include "records/arithmetic.h"
 #include "records/modWresCheck.h"
 #include "records/severing.h"
+#include "roster/moods.h"
 
 namespace grapplemont {
 
@@ -129,7 +130,8 @@ std::string EndedByMove(const World& world, const Worker& worker, int position) 
 }
 
 void MovePosition(World& world, Worker& worker, int position) {
-  worker.Morale += MoraleOfMove(worker.Position, position);
+  const int change = MoraleOfMove(worker.Position, position);
+  MoveMorale(world, worker, change, change > 0 ? kMoodMovedUp : kMoodMovedDown);
   worker.Position = position;
   if (position != kManager) LoseClients(world, {worker.Uid});
   if (position != kNonWrestler && IsCommissioner(world, worker)) world.Player().Commissioner = 0;

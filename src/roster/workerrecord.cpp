@@ -30,22 +30,83 @@ bool WasIn(const HeldMatch& bout, int workerUid) {
          std::find(bout.Worker.begin(), bout.Worker.end(), workerUid) != bout.Worker.end();
 }
 
-/// How a match went for somebody who was in it: a win counts 1, a loss -1, a draw 0. Whoever has
-/// not won has lost, however many there were.
-int OutcomeFor(const HeldMatch& bout, int workerUid) {
-  if (bout.Winners <= 0) return 0;
-  const auto place = std::find(bout.Worker.begin(), bout.Worker.end(), workerUid);
-  return place - bout.Worker.begin() < bout.Winners ? 1 : -1;
+FormLine LineFor(const HeldMatch& bout, int uid) {
+  FormLine line{&bout, 0, {}, 0};
+  const auto place =
+      std::ranges::find(bout.Worker, uid, [](const Word& held) { return int(held); });
+  if (bout.Winners > 0) line.Outcome = place - bout.Worker.begin() < bout.Winners ? 1 : -1;
+  const bool isFirst = line.Outcome > 0 || (line.Outcome == 0 && bout.Worker[0] == uid);
+  line.Against = (isFirst ? bout.Lost : bout.Won).Str();
+  const int other = line.Outcome > 0 ? int(bout.Winners) : isFirst ? 1 : 0;
+  if (other < static_cast<int>(bout.Worker.size()))
+    line.Opponent = bout.Worker[static_cast<std::size_t>(other)];
+  return line;
 }
 
-std::string MatchLine(const HeldMatch& bout, int uid) {
-  const int outcome = OutcomeFor(bout, uid);
-  const bool isFirst = outcome > 0 || (outcome == 0 && bout.Worker[0] == uid);
-  const char* how = outcome > 0 ? "beat " : outcome < 0 ? "lost to " : "drew with ";
-  std::string text = ShortDate(bout.On) + ": " + how + (isFirst ? bout.Lost : bout.Won).Str();
+std::string MatchLine(const FormLine& line) {
+  const HeldMatch& bout = *line.Match;
+  const char* how = line.Outcome > 0 ? "beat " : line.Outcome < 0 ? "lost to " : "drew with ";
+  std::string text = ShortDate(bout.On) + ": " + how + line.Against;
   if (bout.Title != "None") text += " for the " + bout.Title.Str();
   return text + ", " + Number(bout.Rating) + "%.";
 }
+
+}  // namespace
+
+std::vector<std::string> RecordLines(const World& world, const Worker& worker) {
+  std::vector<std::string> lines;
+  for (const MatchTally& tally : world.Tallies())
+    if (tally.Worker == worker.Uid && tally.Worker != 0 && tally.Won + tally.Lost + tally.Drawn > 0)
+      lines.push_back(RecordLine(world, tally));
+  return lines;
+}
+
+std::vector<FormLine> FormOf(const World& world, const Worker& worker, int most) {
+  std::vector<FormLine> form;
+  for (int number = world.Bouts().Count(); number >= 1 && std::ssize(form) < most; --number)
+    if (WasIn(world.Bouts()[number], worker.Uid))
+      form.push_back(LineFor(world.Bouts()[number], worker.Uid));
+  return form;
+}
+
+std::string ShowNameOf(const World& world, const HeldMatch& match) {
+  const int kind = match.IsEvent ? kPastEvent : kPastTv;
+  for (int number = world.History().Count(); number >= 1; --number) {
+    const HistoryEntry& show = world.History()[number];
+    if (Day(show.On) < Day(match.On)) break;
+    if (Day(show.On) == Day(match.On) && show.Kind == kind && show.Promotion == match.Promotion)
+      return show.Name.Str();
+  }
+  return {};
+}
+
+FormSum SumOf(const std::vector<FormLine>& form) {
+  FormSum sum;
+  for (const FormLine& line : form) {
+    ++(line.Outcome > 0 ? sum.Won : line.Outcome < 0 ? sum.Lost : sum.Drawn);
+    sum.Mean += line.Match->Rating;
+  }
+  if (!form.empty()) sum.Mean /= static_cast<int>(form.size());
+  return sum;
+}
+
+std::vector<std::string> LastMatchLines(const World& world, const Worker& worker, int most) {
+  std::vector<std::string> lines;
+  for (const FormLine& line : FormOf(world, worker, most)) lines.push_back(MatchLine(line));
+  return lines;
+}
+
+std::vector<std::string> AwardLines(const World& world, const Worker& worker) {
+  std::vector<std::string> lines;
+  for (int number = world.Awards().Count(); number >= 1; --number) {
+    const YearAward& award = world.Awards()[number];
+    if (worker.Uid != 0 && (award.Worker == worker.Uid || award.Partner == worker.Uid))
+      lines.push_back(std::string(AwardName(award.Kind)) + " " + Number(YearOf(award.On)) + ".");
+  }
+  return lines;
+}
+
+namespace {
 
 constexpr std::string_view kAnd = " \\ ";  // between the short names of a pair without a name
 
@@ -91,33 +152,6 @@ std::string Told(const World& world, const TitleReign& reign) {
 }
 
 }  // namespace
-
-std::vector<std::string> RecordLines(const World& world, const Worker& worker) {
-  std::vector<std::string> lines;
-  for (const MatchTally& tally : world.Tallies())
-    if (tally.Worker == worker.Uid && tally.Worker != 0 && tally.Won + tally.Lost + tally.Drawn > 0)
-      lines.push_back(RecordLine(world, tally));
-  return lines;
-}
-
-std::vector<std::string> LastMatchLines(const World& world, const Worker& worker, int most) {
-  std::vector<std::string> lines;
-  for (int number = world.Bouts().Count(); number >= 1 && static_cast<int>(lines.size()) < most;
-       --number)
-    if (WasIn(world.Bouts()[number], worker.Uid))
-      lines.push_back(MatchLine(world.Bouts()[number], worker.Uid));
-  return lines;
-}
-
-std::vector<std::string> AwardLines(const World& world, const Worker& worker) {
-  std::vector<std::string> lines;
-  for (int number = world.Awards().Count(); number >= 1; --number) {
-    const YearAward& award = world.Awards()[number];
-    if (worker.Uid != 0 && (award.Worker == worker.Uid || award.Partner == worker.Uid))
-      lines.push_back(std::string(AwardName(award.Kind)) + " " + Number(YearOf(award.On)) + ".");
-  }
-  return lines;
-}
 
 std::vector<const Title*> TitlesHeldBy(const World& world, int workerUid) {
   std::vector<const Title*> held;

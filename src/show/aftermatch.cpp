@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <vector>
 
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/segmentparts.h"
+#include "roster/moods.h"
 #include "roster/postings.h"
 #include "show/legend.h"
 #include "show/overchange.h"
@@ -127,6 +130,48 @@ CardPull CheckCardPosition(World& world, const Worker& worker) {
   return {};
 }
 
+struct Feeling {
+  int Change = 0;
+  MoodReason Why = kMoodWon;
+};
+using Feelings = std::vector<Feeling>;
+
+/// Morale stops at its ends only once all have been added up, so the larger go last.
+void Feel(World& world, Worker& worker, Feelings feelings) {
+  int left = 0;
+  for (const Feeling& feeling : feelings) left += feeling.Change;
+  const int end = std::clamp(worker.Morale + left, 0, 100);
+  std::ranges::sort(feelings, {}, [](const Feeling& feeling) { return std::abs(feeling.Change); });
+  for (std::size_t i = 0; i < feelings.size(); ++i) {
+    const bool isLast = i + 1 == feelings.size();
+    MoveMorale(world, worker, isLast ? end - worker.Morale : feelings[i].Change, feelings[i].Why);
+  }
+}
+
+}  // namespace
+
+void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
+  const int matchLevel = WeighRating(run.Quality, run.Crowd) + kMatchAhead;
+  const int workerLevel = WeighRating(BestSkill(worker), worker.Over);
+  int over = worker.Over;
+  Feelings feelings;
+  if (isWinner) {
+    feelings.push_back({run.World.RandomDraw(kWinnersJoy), kMoodWon});
+  } else {
+    const CardPull pull = CheckCardPosition(run.World, worker);
+    over += pull.Over;
+    WearOut(run, worker);
+    const int match = MoraleFrom(worker.Attitude, matchLevel, workerLevel);
+    feelings = {{pull.Morale, kMoodHeldDown}, {match, match > 0 ? kMoodMatchGood : kMoodMatchBad}};
+  }
+  for (const Showcase& showcase : kShowcases)
+    if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom) over += showcase.Gain;
+  ChangeOverAndTell(run, worker, over - worker.Over);
+  Feel(run.World, worker, feelings);
+}
+
+namespace {
+
 constexpr std::array<std::string_view, 12> kInjuries = {
     "Broken Arm",  "Broken Leg", "Back Injury", "Tricep Tear",  "Neck Injury",  "Eye Injury",
     "Broken Nose", "Torn Calf",  "Knee Injury", "Ankle Injury", "Damaged Hand", "Ripped Bicep"};
@@ -152,6 +197,30 @@ int OddsOf(const SegmentRun& run, const Worker& worker) {
   return worker.Condition < kWornOut ? odds / 2 : odds;
 }
 
+}  // namespace
+
+void BreakSomething(World& world, Worker& worker) {
+  worker.Status = "Inj";
+  worker.InjuryName =
+      kInjuries[static_cast<std::size_t>(world.RandomDraw(static_cast<int>(kInjuries.size())) - 1)];
+  worker.StatusMonths = world.RandomDraw(kLongestMonths);
+  NoteDeed(world, kDeedInjured, world.FindPromotion(worker.Employer), worker.Name,
+           worker.InjuryName, worker.StatusMonths);
+}
+
+void DrawInjuries(SegmentRun& run) {
+  for (const int uid : PeopleOf(run.Segment)) {
+    Worker* worker = run.World.FindWorker(uid);
+    const int odds = worker ? OddsOf(run, *worker) : 0;
+    if (odds == 0 || run.World.RandomDraw(odds) != 1 || worker->Status == "Inj") continue;
+    BreakSomething(run.World, *worker);
+    run.Notes += worker->Name.Str() + " has sustained an injury as a result of a bad bump! " +
+                 StatusLine(*worker) + ". ";
+  }
+}
+
+namespace {
+
 constexpr int kHardestBlow = 10;
 
 /// What the one who was hurt writes about the stiff one, whose name stands between the two.
@@ -176,45 +245,6 @@ constexpr Complaint kComplaints[] = {
 };
 
 }  // namespace
-
-void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
-  const int matchLevel = WeighRating(run.Quality, run.Crowd) + kMatchAhead;
-  const int workerLevel = WeighRating(BestSkill(worker), worker.Over);
-  int over = worker.Over, morale = worker.Morale;
-  if (isWinner) {
-    morale += run.World.RandomDraw(kWinnersJoy);
-  } else {
-    const CardPull pull = CheckCardPosition(run.World, worker);
-    over += pull.Over;
-    morale += pull.Morale;
-    WearOut(run, worker);
-    morale += MoraleFrom(worker.Attitude, matchLevel, workerLevel);
-  }
-  for (const Showcase& showcase : kShowcases)
-    if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom) over += showcase.Gain;
-  ChangeOverAndTell(run, worker, over - worker.Over);
-  worker.Morale = morale;
-}
-
-void BreakSomething(World& world, Worker& worker) {
-  worker.Status = "Inj";
-  worker.InjuryName =
-      kInjuries[static_cast<std::size_t>(world.RandomDraw(static_cast<int>(kInjuries.size())) - 1)];
-  worker.StatusMonths = world.RandomDraw(kLongestMonths);
-  NoteDeed(world, kDeedInjured, world.FindPromotion(worker.Employer), worker.Name,
-           worker.InjuryName, worker.StatusMonths);
-}
-
-void DrawInjuries(SegmentRun& run) {
-  for (const int uid : PeopleOf(run.Segment)) {
-    Worker* worker = run.World.FindWorker(uid);
-    const int odds = worker ? OddsOf(run, *worker) : 0;
-    if (odds == 0 || run.World.RandomDraw(odds) != 1 || worker->Status == "Inj") continue;
-    BreakSomething(run.World, *worker);
-    run.Notes += worker->Name.Str() + " has sustained an injury as a result of a bad bump! " +
-                 StatusLine(*worker) + ". ";
-  }
-}
 
 void HurtOthers(SegmentRun& run, const Worker& stiff) {
   const int partner = PartnerOf(run.Segment, stiff.Uid);

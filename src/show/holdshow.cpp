@@ -10,6 +10,7 @@
 #include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
+#include "roster/moods.h"
 #include "show/boutbook.h"
 #include "show/recap.h"
 #include "show/runsegment.h"
@@ -154,7 +155,8 @@ void TakeOverexposure(World& world, Worker& worker, int appearances) {
 }
 
 void FeelLeftOut(World& world, Worker& worker) {
-  if (worker.Position < kMidcard && worker.Condition >= 86) worker.Morale -= world.RandomDraw(8);
+  if (worker.Position < kMidcard && worker.Condition >= 86)
+    MoveMorale(world, worker, -world.RandomDraw(8), kMoodLeftOut);
 }
 
 bool WasAtStake(const World& world, const Title& title) {

@@ -267,12 +267,6 @@ std::vector<KeptShow> ShowsInTheColumn(const World& world) {
   return shows;
 }
 
-bool HasReport(const World& world, Day on, int promotionUid) {
-  return std::any_of(world.Reports().begin(), world.Reports().end(), [&](const ReportPart& part) {
-    return part.Kind != kNoReport && KeyOf(part) == ShowKey{on, promotionUid};
-  });
-}
-
 std::vector<ReportText> ReportOf(const World& world, Day on, int promotionUid) {
   std::vector<const ReportPart*> parts;
   for (const ReportPart& part : world.Reports())

@@ -56,8 +56,6 @@ struct KeptShow {
 /// The latest first.
 std::vector<KeptShow> ShowsInTheColumn(const World& world);
 
-bool HasReport(const World& world, Day on, int promotionUid);
-
 /// A text of a report: what it is, and which row of the sheet it belongs to.
 struct ReportText {
   int Row = 0;

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "records/segmentacts.h"
+#include "roster/moods.h"
 #include "show/anglerules.h"
 #include "show/overchange.h"
 #include "storylines/partners.h"
@@ -120,7 +121,8 @@ void FailTurn(SegmentRun& run, Worker& turner, const FailedTurn& price) {
   run.Crowd.Scale(price.CrowdTenths, 10, "failed turn of " + turner.Name.Str());
   const int drop = price.OverDraw == 0 ? 0 : run.World.RandomDraw(price.OverDraw);
   ChangeOverAndTell(run, turner, price.Over - drop);
-  turner.Morale += price.Morale - run.World.RandomDraw(price.MoraleDraw);
+  MoveMorale(run.World, turner, price.Morale - run.World.RandomDraw(price.MoraleDraw),
+             kMoodTurnFailed);
 }
 
 using Calls = std::vector<TurnCall>;

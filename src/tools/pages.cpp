@@ -120,13 +120,14 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
   and the past:
   `history.dat` (every show of the player's, and how each promotion stood at every month end), `bouts.dat` (the player's
   matches), `tallies.dat` (what each worker's matches add up to), `reigns.dat` (the reigns of every Title in the world),
-  `reports.dat` (the words of the last twelve shows), `awards.dat` (the awards of the years) and `yearend.dat` (how
-  popular everybody was when the last year ended).
+  `reports.dat` (the words of the last twelve shows), `awards.dat` (the awards of the years), `yearend.dat` (how
+  popular everybody was when the last year ended), `months.dat` (how everybody stood on the firsts of twelve months) and
+  `moods.dat` (what moved the morale of the player's people).
 
 None of the past is needed to play: where one of its files is missing or cut short, the game goes on without what stood
 in it. A full file makes room by dropping its oldest records: a thousand of the history and of the reigns that have
-ended, five hundred matches (what they add up to stays in the tallies), a year of awards. The words of a show take the
-places of the oldest one's.
+ended, five hundred matches (what they add up to stays in the tallies), a year of awards, five hundred moves of morale.
+The words of a show take the places of the oldest one's, a month those of the same month a year before.
 
 ## The journal
 

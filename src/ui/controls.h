@@ -219,6 +219,8 @@ struct Cell {
   std::string Text;
   double Number = 0;
   Tone Colour = Tone::Plain;
+  int Tick = -1;      // what a percentage is compared with, a tick on its bar; -1 for nothing
+  bool Best = false;  // of those it stands beside
 
   Cell(std::string text, Tone tone = Tone::Plain) : Text(std::move(text)), Colour(tone) {}
   Cell(const char* text, Tone tone = Tone::Plain) : Text(text), Colour(tone) {}

@@ -65,6 +65,8 @@ class Game : public ui::Work {
   /// Opens the page of a worker, a promotion, by uid: what a name on any screen leads to. Empty
   /// until the rooms that have the pages are registered.
   std::function<void(int uid)> OpenWorker, OpenPromotion;
+  /// Opens the report of the promotion's show of a day, while its words are kept.
+  std::function<void(Day on, int promotionUid)> OpenReport;
 
   /// Makes the slot's world the open one. Throws SlotBusy, DiskError, WorldFault, and SlotDamaged
   /// unless the commits behind the damage may be dropped; then none is open. Gives what was left

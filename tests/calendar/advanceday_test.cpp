@@ -40,10 +40,11 @@ TEST(AdvanceDay, RunsItsBlocksInTheirFixedOrder) {
                   "RivalContractRenewals SponsorContractCountdown LoanRepayments "
                   "MerchandiseIncome MonthlyCosts MonthlyReview CloseMonthBooks BankruptcyCheck "
                   "NewPromotionCheck "
-                  "IncidentRoll SweepDeadPromotions SweepDeadShows UpdateReigns GiveAwards"));
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 3).size(), 5u + 5);
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9).size(), 5u + 8 + 5);
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1).size(), 5u + 17 + 5);
+                  "IncidentRoll SweepDeadPromotions SweepDeadShows UpdateReigns GiveAwards "
+                  "NoteMonths"));
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 3).size(), 5u + 6);
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9).size(), 5u + 8 + 6);
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1).size(), 5u + 17 + 6);
 }
 
 /// CWA with Events in March and May; a rival with one in April.

@@ -65,6 +65,11 @@ std::string OneLine(std::string text) {
   return text;
 }
 
+/// What a worker's page keeps of changes that the workers' own records tell.
+bool IsRetold(std::string_view file) {
+  return file == LayoutOf<WorkerMonths>().File || file == LayoutOf<MoodChange>().File;
+}
+
 class Player {
  public:
   void Play(const std::string& line) {
@@ -78,10 +83,10 @@ class Player {
   }
   MonthOutcome Close() {
     MonthOutcome outcome{Differences(World(), *start_), told_.str()};
-    if (!keepsReports_)
-      std::erase_if(outcome.Changes, [](const Difference& change) {
-        return change.File == LayoutOf<ReportPart>().File;
-      });
+    std::erase_if(outcome.Changes, [this](const Difference& change) {
+      return IsRetold(change.File) ||
+             (!keepsReports_ && change.File == LayoutOf<ReportPart>().File);
+    });
     game_->Desk.Finish();
     return outcome;
   }

@@ -1,6 +1,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "storylines/titles.h"
 #include "support/gameonworld.h"
 #include "ui/acts.h"
 
@@ -270,12 +273,110 @@ TEST(frmWorker, OffersWhatAppliesAndSurvivesItsSubject) {
   EXPECT_EQ(play.Desk.Title(), kBram);
 }
 
+/// Ilya has beaten Bram for the Crown on a show whose report is kept.
+World AfterAShow() {
+  World world = Business().Team("Law and Order", kBram, "Ilya Marsh");
+  const int cwa = world.PlayerUid(), ilya = Named(world.Workers(), "Ilya Marsh").Uid;
+  Crown(world, world.Titles()[CreateTitle(world, {.Name = "CWA Crown"})], ilya, 0);
+  HeldMatch match;
+  match.On = kGameStart;
+  match.Promotion = cwa;
+  match.Row = 1;
+  match.Rating = 71;
+  match.Winners = 1;
+  match.Title = "CWA Crown";
+  match.Worker[0] = ilya;
+  match.Worker[1] = Named(world.Workers(), kBram).Uid;
+  match.Won = "Ilya Marsh";
+  match.Lost = kBram;
+  world.Bouts().Append(match);
+  HistoryEntry show;
+  show.On = kGameStart;
+  show.Kind = kPastTv;
+  show.Promotion = cwa;
+  show.Name = "Sunday Slam";
+  show.Size = kCult;
+  world.History().Append(show);
+  ReportPart part;
+  part.On = kGameStart;
+  part.Promotion = cwa;
+  part.Kind = kShowName;
+  part.Words = "Sunday Slam";
+  world.Reports().Append(part);
+  return world;
+}
+
+TEST(frmWorker, ShowsAtAGlanceAndLeadsOn) {
+  GameOnWorld play(AfterAShow());
+  Worker& bram = Named(play.World().Workers(), kBram);
+  play.Play.OpenWorker(bram.Uid);
+  EXPECT_EQ(play.Desk.FirstColumn("lstskills")[0], "Brawl");
+  EXPECT_EQ(play.Desk.Rows("lstskills")[0][1], std::to_string(bram.Brawl));
+  EXPECT_EQ(play.Desk.Text("lblform"), "0 won, 1 lost, 0 drawn. Rated 71% on average.");
+  const Names lost = {"Ilya Marsh", "Lost", "Sunday Slam", "Title", "71", "01 March 2026"};
+  EXPECT_EQ(play.Desk.Rows("lstform")[0], lost);
+  EXPECT_FALSE(play.Desk.Enabled("cmdreport"));
+  play.Desk.OpenRow("lstform", 1);
+  EXPECT_EQ(play.Desk.TopName(), "frmReports");
+  play.Desk.Click("cmdback");
+
+  EXPECT_FALSE(play.Desk.Enabled("cmdpromote")) << "he is at the top";
+  play.Desk.Click("cmddemote");
+  EXPECT_EQ(bram.Position, kMainEvent + 1);
+  play.Desk.Click("cmdturn");
+  EXPECT_TRUE(bram.TurnPending);
+  EXPECT_EQ(play.Desk.Text("cmdturn"), "Call The Turn Off");
+  EXPECT_TRUE(Holds(play.Desk.Text("txtwhy"), "Nothing has moved morale"));
+
+  EXPECT_FALSE(play.Desk.Enabled("cmdprevious"));
+  play.Desk.Click("cmdnext");
+  EXPECT_EQ(play.Desk.Title(), "Ilya Marsh");
+  play.Desk.Click("cmdprevious");
+  EXPECT_EQ(play.Desk.Title(), kBram);
+
+  play.Desk.OpenRow("lstcompany", "Ilya Marsh");
+  EXPECT_EQ(play.Desk.Title(), "Ilya Marsh");
+  EXPECT_EQ(play.Desk.FirstColumn("lsttitles"), Names({"CWA Crown"}));
+  EXPECT_TRUE(Holds(play.Desk.Text("lblmarks"), "CWA Crown champion"));
+}
+
+TEST(frmCompare, PutsUpToFourSideBySideAndMarksTheBest) {
+  GameOnWorld play(AfterAShow());
+  play.Desk.Open("frmRoster");
+  play.Desk.Pick("lstwres", kBram);
+  play.Desk.Click("cmdcompare");
+  ASSERT_EQ(play.Desk.TopName(), "frmCompare");
+  EXPECT_FALSE(play.Desk.Enabled("cmdremove(1)"));
+  play.Desk.Pick("cmbadd", "Ilya Marsh");
+  const auto& list = dynamic_cast<const ui::ListBox&>(*play.Desk.Top()->Find("lstcompare"));
+  const auto row = std::ranges::find_if(
+      list.Rows(), [](const ui::ListBox::Row& each) { return each.Cells[0].Text == "Over"; });
+  ASSERT_NE(row, list.Rows().end());
+  EXPECT_EQ(row->Cells[1].Text, "80");
+  EXPECT_TRUE(row->Cells[1].Best);
+  EXPECT_FALSE(row->Cells[2].Best);
+  for (const ui::ListBox::Row& each : list.Rows()) {
+    const bool best = each.Cells[1].Best || each.Cells[2].Best;
+    EXPECT_FALSE(best && each.Cells[0].Text == "Stiffness") << "neither more nor less is better";
+  }
+  EXPECT_EQ(play.Desk.Rows("lstmeetings")[0][1], "0-1");
+  EXPECT_TRUE(Holds(play.Desk.Text("txtword"), "Bram Okafor leads in Over"));
+  play.Desk.Pick("cmbadd", "Low Down");
+  EXPECT_EQ(play.Desk.Rows("lstmeetings").size(), 3U);
+  play.Desk.Click("cmdremove(1)");
+  EXPECT_EQ(play.Desk.Rows("lstmeetings").size(), 1U);
+  play.World().Workers().Keep([](const Worker& w) { return !(w.Name == "Low Down"); });
+  play.Desk.Pick("cmbadd", kBram);
+  EXPECT_EQ(play.Desk.Rows("lstmeetings").size(), 1U) << "who has gone is left out";
+}
+
 TEST(frmWorker, HasNoTalksInTheMidstOfAShow) {
   GameOnWorld play(Business().Game("CWA"));
   play.Desk.Open("frmPPVBooking");
   play.Play.OpenWorker(Named(play.World().Workers(), kBram).Uid);
   ASSERT_EQ(play.Desk.TopName(), "frmWorker");
-  EXPECT_EQ(play.Desk.Tip("cmdcontract"), "There is a show to see to first.");
+  for (const char* act : {"cmdcontract", "cmdturn", "cmddemote"})
+    EXPECT_EQ(play.Desk.Tip(act), "There is a show to see to first.");
 }
 
 TEST(Links, LeadFromAMailToThePageAndOn) {

@@ -2,6 +2,7 @@
 
 #include "records/checks/checkworld.h"
 #include "records/fields/fields.h"
+#include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "report/report.h"
 #include "show/boutbook.h"

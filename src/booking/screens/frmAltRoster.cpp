@@ -82,7 +82,8 @@ class frmAltRoster : public GameScreen {
       {{"Card", K::Tag, 0, "Booked on the sheet."}, [this](const Worker& worker) {
          return ui::Cell(IsOnTheCard(worker) ? "Booked" : "", ui::Tone::Gold);
        }}};
-  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmAltRoster::ShowButtons, cmdstats};
+  ui::ListBox lstwres{*this, "lstwres", WithFaces(world(), HeadingsOf(columns_)),
+                      &frmAltRoster::ShowButtons, cmdstats};
   ui::Button cmdstats{*this, "cmdstats", "Stats",
                       [this] { desk().Open(MakefrmQuickStat(game_, lstwres.Key())); }};
 };

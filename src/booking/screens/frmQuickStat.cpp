@@ -149,7 +149,8 @@ class frmQuickStat : public GameScreen {
   int first_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::CheckBox chkall{*this, "chkall", "Everybody in the world", false, [this] { Return(); }};
-  ui::ListBox lstwres{*this, "lstwres", ShortColumns(), &frmQuickStat::ShowWorker};
+  ui::ListBox lstwres{*this, "lstwres", WithFaces(world(), ShortColumns()),
+                      &frmQuickStat::ShowWorker};
   ui::ListBox lststats{*this, "lststats", {{"Skill", K::Text, 2}, {"", K::Percent, 2}}};
   ui::Report txtworker{*this, "txtworker"};
 };
@@ -213,8 +214,8 @@ class frmDebut : public GameScreen {
          return way.WhyNot.empty() ? ui::Cell("Today", ui::Tone::Green)
                                    : ui::Cell(way.WhyNot, ui::Tone::Muted);
        }}};
-  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmDebut::ShowWays,
-                      &frmDebut::lstwres_Open};
+  ui::ListBox lstwres{*this, "lstwres", WithFaces(world(), HeadingsOf(columns_)),
+                      &frmDebut::ShowWays, &frmDebut::lstwres_Open};
   ui::ListBox lstways{*this, "lstways", HeadingsOf(ways_)};
   ui::Label lblnote{*this, "lblnote",
                     "Whoever appears in a match or an angle without one of these has been seen as "

@@ -63,7 +63,7 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
                 return std::make_unique<ui::Button>(*this, full, "Book",
                                                     [this, record] { cmdbook_Click(record); });
               }),
-      lstfree(*this, "lstfree", ShortColumns(), ui::Handler{},
+      lstfree(*this, "lstfree", WithFaces(world(), ShortColumns()), ui::Handler{},
               [this] { desk().Open(MakefrmQuickStat(game_, lstfree.Key())); }) {
   BackBefore(cmddoshow);
   std::vector<ui::Column> headings = HeadingsOf(Table());

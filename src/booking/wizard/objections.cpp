@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "booking/wizard/matchrules.h"
+#include "roster/moods.h"
 
 namespace grapplemont {
 
@@ -220,7 +221,8 @@ std::string HeldAgainstText(const World& world, const Segment& match) {
 
 void ApplyBookingGrievances(World& world, const Segment& segment) {
   for (const auto& [uid, level] : GrievancesOf(world, segment))
-    if (Worker* worker = world.FindWorker(uid)) worker->Morale -= MoralePrice(level);
+    if (Worker* worker = world.FindWorker(uid))
+      MoveMorale(world, *worker, -MoralePrice(level), kMoodBooked);
 }
 
 }  // namespace grapplemont

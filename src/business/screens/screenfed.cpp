@@ -201,7 +201,8 @@ class FedSplits : public FedPart {
   ui::TextBox txtsplit{screen_, "txtsplit"};
   ui::Button cmdsplit{screen_, "cmdsplit", "New Split", [this] { cmdsplit_Click(); }};
   ui::Button cmddissolve{screen_, "cmddissolve", "Dissolve", [this] { cmddissolve_Click(); }};
-  ui::ListBox lstpeople{screen_, "lstpeople", HeadingsOf(kPeopleTable), [this] { ShowButtons(); }};
+  ui::ListBox lstpeople{screen_, "lstpeople", WithFaces(world(), HeadingsOf(kPeopleTable)),
+                        [this] { ShowButtons(); }};
   ui::Button cmdassign{screen_, "cmdassign", "Put Into The Split", [this] { Assign(Chosen()); }};
   ui::Button cmdtakeout{screen_, "cmdtakeout", "Take Out", [this] { Assign("None"); }};
 };

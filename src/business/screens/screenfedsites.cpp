@@ -220,7 +220,7 @@ class FedSite : public FedPart {
   ui::Label lblhead{screen_, Named("lblhead")};
   ui::Button cmdhead{screen_, Named("cmdhead"), "Choose",
                      [this] { desk().Open(MakefrmFedPick(game_, kind_.RunBy)); }};
-  ui::ListBox lstpeople{screen_, Named("lst"), HeadingsOf(kLearnerTable)};
+  ui::ListBox lstpeople{screen_, Named("lst"), WithFaces(game_.World(), HeadingsOf(kLearnerTable))};
   std::optional<ui::ComboBox> cmblevel;  // the facilities of a camp
   std::optional<ui::Button> cmdraise;
 };

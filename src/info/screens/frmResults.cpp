@@ -1,8 +1,10 @@
 #include <algorithm>
 
 #include "info/results.h"
+#include "info/screens/infoscreens.h"
 #include "info/screens/infotables.h"
 #include "records/modVar.h"
+#include "records/modWresCheck.h"
 #include "report/report.h"
 #include "show/recap.h"
 #include "ui/game.h"
@@ -100,6 +102,18 @@ class frmReports : public GameScreen {
   ui::Report txtreport{*this, "txtreport"};
 };
 
+}  // namespace
+
+SCREEN(frmReports)
+
+void ConnectInfo(Game& game) {
+  game.OpenReport = [&game](Day on, int promotionUid) {
+    game.Desk().Open(std::make_unique<frmReports>(game, on, promotionUid));
+  };
+}
+
+namespace {
+
 const CellColumns<YearAward> kAwards = {
     {{"Year", K::Number}, [](const YearAward& award) { return YearOf(award.On); }},
     {{"Award", K::Text, 3}, [](const YearAward& award) { return AwardName(award.Kind); }},
@@ -148,6 +162,12 @@ class frmAwards : public GameScreen {
   ui::ComboBox cmbaward{*this, "cmbaward", &frmAwards::ShowAwards};
   ui::ListBox lstawards{*this, "lstawards", HeadingsOf(kAwards)};
 };
+
+}  // namespace
+
+SCREEN(frmAwards)
+
+namespace {
 
 /// How many shows the chart goes back.
 constexpr std::size_t kCharted = 26;
@@ -309,10 +329,6 @@ class frmResults : public GameScreen {
 };
 
 }  // namespace
-
-SCREEN(frmReports)
-
-SCREEN(frmAwards)
 
 SCREEN(frmResults)
 

@@ -126,6 +126,48 @@ std::string_view AwardName(int kind) {
 
 namespace {
 
+constexpr Term kMoodReasons[] = {{kMoodMatchGood, "", "in matches above their standing"},
+                                 {kMoodMatchBad, "", "in matches below their standing"},
+                                 {kMoodWon, "", "won"},
+                                 {kMoodHeldDown, "", "lost while standing too low on the card"},
+                                 {kMoodBooked, "", "held a booking against you"},
+                                 {kMoodLeftOut, "", "was left off a show"},
+                                 {kMoodMovedUp, "", "was moved up the card"},
+                                 {kMoodMovedDown, "", "was moved down the card"},
+                                 {kMoodTurnFailed, "", "a turn failed"},
+                                 {kMoodPoorForm, "", "the promotion is losing ground"},
+                                 {kMoodAway, "", "away in the territory"},
+                                 {kMoodStuck, "", "nothing left to learn there"}};
+
+#define MONTHS(member) GM_NUMBERED(WorkerMonths, member).Counts("percent")
+constexpr Field kMonthsFields[] = {
+    GM_FIELD(WorkerMonths, Worker).LeadsTo(Refers::Worker).Means("Who."),
+    MONTHS(Over).Means("Over on the first of January to December; -1 not kept."),
+    MONTHS(Morale).Means("Morale on the same days."),
+    MONTHS(Condition).Means("Condition on the same days."),
+};
+
+#define MOOD(member) GM_FIELD(MoodChange, member)
+constexpr Field kMoodFields[] = {
+    MOOD(On).Means("The day on which it happened."),
+    MOOD(Worker).LeadsTo(Refers::Worker).Means("Whose morale."),
+    MOOD(Why).In(kMoodMatchGood, kMoodStuck).From(kMoodReasons).Means("What moved it."),
+    MOOD(Change).Counts("percent").Means("By how much."),
+    MOOD(After).Counts("percent").Means("Morale afterwards."),
+};
+
+}  // namespace
+
+GM_LAYOUT(WorkerMonths, "months.dat", 25000, kMonthsFields)
+// Three shows a week of a full roster take more than a year to fill it.
+GM_LAYOUT(MoodChange, "moods.dat", 6000, kMoodFields)
+
+std::string_view MoodReasonText(int why) {
+  return Says(kMoodReasons, why);
+}
+
+namespace {
+
 constexpr Term kPastKinds[] = {{kPastTv, "", "Television show"},
                                {kPastEvent, "", "Event"},
                                {kPastMonth, "", "Month"},

@@ -124,6 +124,53 @@ struct YearEnd {
 };
 GM_RECORD(YearEnd, 4);
 
+/// How a worker stood on the first of each month: a record of months.dat. A month takes the place
+/// of the same one a year before.
+struct WorkerMonths {
+  using Months = std::array<RangedWord<0, 100, true>, 12>;  // January first; kNoEnd for not kept
+  static Months Unkept() {
+    Months months;
+    for (auto& month : months) month = kNoEnd;
+    return months;
+  }
+
+  Word Worker;  // uid
+  Months Over = Unkept();
+  Months Morale = Unkept();
+  Months Condition = Unkept();
+};
+GM_RECORD(WorkerMonths, 74);
+
+/// MoodChange.Why.
+enum MoodReason {
+  kMoodMatchGood = 1,  // a match above his standing
+  kMoodMatchBad,
+  kMoodWon,
+  kMoodHeldDown,  // lost while his place on the card is too low
+  kMoodBooked,    // holds a booking against the player
+  kMoodLeftOut,   // a star who was on no show
+  kMoodMovedUp,
+  kMoodMovedDown,
+  kMoodTurnFailed,
+  kMoodPoorForm,  // the promotion keeps falling
+  kMoodAway,      // in the development territory
+  kMoodStuck      // has nothing left to learn there
+};
+
+/// What moved the morale of one of the player's people: a record of moods.dat, appended and never
+/// changed.
+struct MoodChange {
+  Date On;
+  Word Worker;  // uid
+  Word Why;
+  RangedWord<-100, 100> Change;
+  Percent After;
+};
+GM_RECORD(MoodChange, 16);
+
+/// "won", "a match below their standing"; empty for an unknown code.
+std::string_view MoodReasonText(int why);
+
 /// "Match of the Year"; empty for an unknown code.
 std::string_view AwardName(int kind);
 

@@ -92,7 +92,9 @@ std::vector<TableKind> MakeKinds() {
           Kind<YearAward>("awards.csv", true),
           Kind<YearEnd>("yearends.csv", true),
           Kind<Deed>("deeds.csv", true),
-          Kind<GuideState>("guides.csv", true)};
+          Kind<GuideState>("guides.csv", true),
+          Kind<WorkerMonths>("months.csv", true),
+          Kind<MoodChange>("moods.csv", true)};
 }
 
 }  // namespace

@@ -149,18 +149,18 @@ class PromotionSheets {
   ui::Screen& screen_;
   Game& game_;
   ui::Report txtabout{screen_, "txtabout"};
-  ui::ListBox lstroster{screen_,
-                        "lstroster",
-                        {{"Name", K::Text, 8},
-                         {"Position", K::Text, 7},
-                         {"Disposition", K::Tag, 4},
-                         {"Over", K::Percent, 5, "Popularity."},
-                         {"Age", K::Number, 2},
-                         {"Status", K::Text, 5}},
-                        ui::Handler{},
-                        [this] { OpenWorkerOf(lstroster); }};
+  ui::ListBox lstroster{screen_, "lstroster",
+                        WithFaces(world(), {{"Name", K::Text, 8},
+                                            {"Position", K::Text, 7},
+                                            {"Disposition", K::Tag, 4},
+                                            {"Over", K::Percent, 5, "Popularity."},
+                                            {"Age", K::Number, 2},
+                                            {"Status", K::Text, 5}}),
+                        ui::Handler{}, [this] { OpenWorkerOf(lstroster); }};
   ui::ListBox lststaff{
-      screen_, "lststaff", {{"Name", K::Text, 4}, {"Post", K::Text, 3}, {"Talent", K::Percent, 2}}};
+      screen_, "lststaff",
+      WithStaffFaces(world(),
+                     {{"Name", K::Text, 4}, {"Post", K::Text, 3}, {"Talent", K::Percent, 2}})};
   ui::ListBox lstshows{screen_,
                        "lstshows",
                        {{"Show", K::Text, 4},
@@ -170,15 +170,16 @@ class PromotionSheets {
                         {"Last rating", K::Number, 2}}};
   ui::ListBox lstevents{
       screen_, "lstevents", {{"Event", K::Text, 4}, {"Month", K::Number, 2}, {"Type", K::Text, 2}}};
-  ui::ListBox lsttitles{screen_,
-                        "lsttitles",
-                        {{"Title", K::Text, 9},
-                         {"Kind", K::Text, 5},
-                         {"Champion", K::Text, 9},
-                         {"Since", K::Date, 4},
-                         {"Image", K::Number, 3}},
-                        ui::Handler{},
-                        [this] { OpenWorkerOf(lsttitles); }};
+  ui::ListBox lsttitles{
+      screen_,
+      "lsttitles",
+      {{"Title", K::Text, 9},
+       {"Kind", K::Text, 5},
+       {.Title = "Champion", .Width = 9, .Draws = [this](int uid) { return FaceOf(world(), uid); }},
+       {"Since", K::Date, 4},
+       {"Image", K::Number, 3}},
+      ui::Handler{},
+      [this] { OpenWorkerOf(lsttitles); }};
   ui::ListBox lstsponsors{
       screen_,
       "lstsponsors",
@@ -274,13 +275,13 @@ class frmOtherFed : public GameScreen {
 
   using K = ui::ColumnKind;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstfeds{*this,
-                      "lstfeds",
-                      {{"Promotion", K::Text, 10},
-                       {"Initials", K::Text, 3},
-                       {"Size", K::Number, 4},
-                       {"Image", K::Percent, 4},
-                       {"Roster", K::Number, 3, "Workers on the card, managers and the like."}},
+  ui::ListBox lstfeds{*this, "lstfeds",
+                      WithCrests(world(), {{"Promotion", K::Text, 10},
+                                           {"Initials", K::Text, 3},
+                                           {"Size", K::Number, 4},
+                                           {"Image", K::Percent, 4},
+                                           {"Roster", K::Number, 3,
+                                            "Workers on the card, managers and the like."}}),
                       &frmOtherFed::lstfeds_Click};
   PromotionSheets sheets;
   ui::Button cmdbuyout{*this, "cmdbuyout", "Attempt Buy Out", &frmOtherFed::cmdbuyout_Click};

@@ -37,7 +37,7 @@ class frmRoster : public WorkerListScreen {
         ui::Rows({FilterBox({ui::Field("Split", cmbsplit)}),
                   ui::Columns(
                       {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
-                       ui::Rows({ui::Group("", {ui::Grow(txtpage)}).Grow(1),
+                       ui::Rows({PageBox().Grow(1),
                                  ui::Group("Place",
                                            {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
                                             lblmove, ui::Columns({ui::Grow(cmbnewsplit), cmdsplit}),
@@ -229,11 +229,11 @@ class frmOtherWres : public WorkerListScreen {
   }
 
   ui::Page Layout() override {
-    return WithFilters(
-        PageOf(ui::Rows({FilterBox(), ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9),
-                                                   ui::Group("", {ui::Grow(txtpage)}).Grow(4)})
-                                          .Grow(1)}),
-               &lblfacts, {&cmdlist, &cmdshortlist}, &cmdcontract));
+    return WithFilters(PageOf(
+        ui::Rows({FilterBox(),
+                  ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9), PageBox().Grow(4)})
+                      .Grow(1)}),
+        &lblfacts, {&cmdlist, &cmdshortlist}, &cmdcontract));
   }
 
  protected:

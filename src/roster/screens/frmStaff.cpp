@@ -21,7 +21,8 @@ class StaffListScreen : public GameScreen {
  public:
   StaffListScreen(Game& game, std::string name, std::string title, PeopleList list)
       : GameScreen(game, std::move(name), std::move(title), {.Manages = true}),
-        lststaff(*this, "lststaff", StaffColumns(list), ui::Handler([this] { ShowChoice(); })),
+        lststaff(*this, "lststaff", WithStaffFaces(world(), StaffColumns(list)),
+                 ui::Handler([this] { ShowChoice(); })),
         list_(list) {}
 
   void Return() override { ShowList(); }

@@ -13,6 +13,23 @@ void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
 void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
                     const std::string& nobody);
 
+/// Two sheets side by side, under a title that names him already: who he is, his work and his skill
+/// at the left, everything else at the right.
+void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,
+                      const std::string& nobody);
+
+/// The contract, and what a new one would cost.
+void WriteContract(ui::Report& page, const World& world, const Worker& worker);
+/// What somebody thinks of the player, and why.
+void WriteMood(ui::Report& page, const World& world, const Worker& worker);
+
+/// Opens the worker's page, or goes back to it where it lies below others of its kind. Says so when
+/// there is nobody of this uid any more.
+void OpenWorkerPage(Game& game, int workerUid);
+
+/// Two to four side by side; the first is there from the beginning.
+std::unique_ptr<ui::Screen> MakefrmCompare(Game& game, int uid);
+
 /// Gives the game its page of a worker, and makes every name of a worker or a promotion a link.
 void ConnectRoster(Game& game);
 

@@ -124,11 +124,15 @@ bool IsAmidShow(Game& game) {
 
 }  // namespace
 
+std::string WhyNotNow(Game& game) {
+  return IsAmidShow(game) ? "There is a show to see to first." : "";
+}
+
 std::string WhyNoTalks(Game& game, const Worker* worker) {
   if (!worker) return kNobodyChosen;
   if (worker->Unsackable && worker->Employer != 0)
     return worker->Name + " is unsackable: the agreement has no end, and nothing to talk about.";
-  return IsAmidShow(game) ? "There is a show to see to first." : "";
+  return WhyNotNow(game);
 }
 
 void OpenTalks(Game& game, const Worker& worker) {

@@ -119,6 +119,8 @@ inline constexpr const char* kTalksTitle = "Contract Negotiations";
 
 /// The tip of what needs a worker.
 inline constexpr const char* kNobodyChosen = "Choose a worker first.";
+/// Why nobody can be moved or made ready for a turn at this moment; empty outside a show.
+std::string WhyNotNow(Game& game);
 /// Why there can be no talks with him at this moment; empty when there can. nullptr for nobody
 /// chosen.
 std::string WhyNoTalks(Game& game, const Worker* worker);

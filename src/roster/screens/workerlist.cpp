@@ -23,7 +23,8 @@ WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string tit
                    combo->Select(1);
                    return combo;
                  }),
-      lstwres(*this, "lstwres", WorkerColumns(list), ui::Handler([this] { ShowChoice(); })),
+      lstwres(*this, "lstwres", WithFaces(game.World(), WorkerColumns(list)),
+              ui::Handler([this] { ShowChoice(); })),
       list_(list),
       filters_(filters) {
   lstwres.Extends = true;
@@ -75,6 +76,7 @@ void WorkerListScreen::ShowChoice() {
   const Worker* chosen = Chosen();
   ShowFacts();
   WriteWorkerPage(txtpage, world(), chosen, "Choose somebody to read about.");
+  EnableUnless({cmdpage, cmdcompare}, chosen ? "" : kNobodyChosen);
   ShowActions(chosen);
 }
 
@@ -82,6 +84,10 @@ void WorkerListScreen::ShowFacts() {
   const std::size_t chosen = lstwres.Keys().size();
   lblfacts.Text =
       Facts(listed_) + (chosen > 1 ? " " + std::to_string(chosen) + " are chosen." : "");
+}
+
+ui::Box WorkerListScreen::PageBox() {
+  return ui::Group("", {ui::Grow(txtpage), ui::Columns({cmdpage, cmdcompare})});
 }
 
 void WorkerListScreen::Negotiate() {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "roster/market.h"
+#include "roster/screens/frmWorker.h"
 #include "roster/screens/screenworkers.h"
 #include "ui/game.h"
 
@@ -44,6 +45,8 @@ class WorkerListScreen : public GameScreen {
 
   /// The filters side by side, with the screen's own behind them, and what they hide.
   ui::Box FilterBox(std::vector<ui::Box> more = {});
+  /// What is known of the first chosen worker, and the ways on.
+  ui::Box PageBox();
   /// The page on which one key takes the filters off.
   ui::Page WithFilters(ui::Page page);
 
@@ -51,6 +54,10 @@ class WorkerListScreen : public GameScreen {
   ui::Array<ui::ComboBox> cmbfilters;
   ui::ListBox lstwres;
   ui::Report txtpage{*this, "txtpage"};
+  ui::Button cmdpage{*this, "cmdpage", "Open Page",
+                     [this] { OpenWorkerPage(game_, lstwres.Key()); }};
+  ui::Button cmdcompare{*this, "cmdcompare", "Compare",
+                        [this] { desk().Open(MakefrmCompare(game_, lstwres.Key())); }};
   ui::Label lblfilters{*this, "lblfilters"};
   ui::Button cmdclear{*this, "cmdclear", "Clear Filters", [this] { ClearFilters(); }};
 

@@ -319,7 +319,7 @@ class frmBelts : public GameScreen {
   ui::CheckBox chkwoman{*this, "chkwoman", "Women only"};
   ui::CheckBox chklight{*this, "chklight", "Lightweights only"};
   ui::Button cmdcreate{*this, "cmdcreate", "Create", &frmBelts::cmdcreate_Click};
-  ui::ListBox lstwres{*this, "lstwres", ShortColumns(), &frmBelts::ShowButtons};
+  ui::ListBox lstwres{*this, "lstwres", WithFaces(world(), ShortColumns()), &frmBelts::ShowButtons};
   ui::Button cmdaward{*this, "cmdaward", "Award", &frmBelts::cmdaward_Click};
   ui::Button cmdsuspend{*this, "cmdsuspend", "Suspend", &frmBelts::cmdsuspend_Click};
   ui::Button cmdvacate{*this, "cmdvacate", "Vacate", &frmBelts::cmdvacate_Click};

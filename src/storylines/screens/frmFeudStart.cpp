@@ -142,7 +142,8 @@ class frmFeudStart : public GameScreen {
                                 }};
   ui::Array<ui::ListBox> lstwres{"lstwres", kHeads, [this](const std::string&, int head) {
                                    return std::make_unique<ui::ListBox>(
-                                       *this, "lstwres" + std::to_string(head), ShortColumns(),
+                                       *this, "lstwres" + std::to_string(head),
+                                       WithFaces(world(), ShortColumns()),
                                        [this, head] { lstwres_Click(head); });
                                  }};
   ui::Button cmdstart{*this, "cmdstart", "Start Feud", &frmFeudStart::cmdstart_Click};

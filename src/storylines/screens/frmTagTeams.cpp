@@ -131,7 +131,8 @@ class frmTagTeams : public GameScreen {
   ui::ListBox lstteams{*this, "lstteams", HeadingsOf(teams_), &frmTagTeams::lstteams_Click};
   ui::Array<ui::ListBox> lstwres{"lstwres", 2, [this](const std::string&, int head) {
                                    return std::make_unique<ui::ListBox>(
-                                       *this, "lstwres" + std::to_string(head), ShortColumns(),
+                                       *this, "lstwres" + std::to_string(head),
+                                       WithFaces(world(), ShortColumns()),
                                        [this] { ShowButtons(); });
                                  }};
   ui::TextBox txtname{*this, "txtname"};
@@ -285,10 +286,11 @@ class frmStables : public GameScreen {
   ui::TextBox txtname{*this, "txtname"};
   ui::Button cmdcreate{*this, "cmdcreate", "Found A Stable", &frmStables::cmdcreate_Click};
   ui::Button cmdrename{*this, "cmdrename", "Rename", &frmStables::cmdrename_Click};
-  ui::ListBox lstmembers{*this, "lstmembers", HeadingsOf(members_), &frmStables::ShowButtons,
-                         cmdremove};
+  ui::ListBox lstmembers{*this, "lstmembers", WithFaces(world(), HeadingsOf(members_)),
+                         &frmStables::ShowButtons, cmdremove};
   ui::Button cmdremove{*this, "cmdremove", "Take Out", &frmStables::cmdremove_Click};
-  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(others_), &frmStables::ShowButtons, cmdadd};
+  ui::ListBox lstwres{*this, "lstwres", WithFaces(world(), HeadingsOf(others_)),
+                      &frmStables::ShowButtons, cmdadd};
   ui::Button cmdadd{*this, "cmdadd", "Add To The Stable", &frmStables::cmdadd_Click};
   ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmStables::cmddissolve_Click};
 };

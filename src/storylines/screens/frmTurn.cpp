@@ -101,9 +101,11 @@ class frmManagers : public GameScreen {
                    {{"Manages", K::Number, 1}, [this](const Worker& manager) {
                       return ui::Cell(static_cast<int>(ClientsOf(world(), manager).size()));
                     }}});
-  ui::ListBox lstclients{*this, "lstclients", HeadingsOf(clients_), &frmManagers::ShowChoice};
-  ui::ListBox lstmanagers{*this, "lstmanagers", HeadingsOf(managers_), &frmManagers::ShowChoice};
-  ui::ListBox lsthis{*this, "lsthis", ShortColumns()};
+  ui::ListBox lstclients{*this, "lstclients", WithFaces(world(), HeadingsOf(clients_)),
+                         &frmManagers::ShowChoice};
+  ui::ListBox lstmanagers{*this, "lstmanagers", WithFaces(world(), HeadingsOf(managers_)),
+                          &frmManagers::ShowChoice};
+  ui::ListBox lsthis{*this, "lsthis", WithFaces(world(), ShortColumns())};
   ui::Button cmdgive{*this, "cmdgive", "Give This Manager", &frmManagers::cmdgive_Click};
   ui::Button cmdtake{*this, "cmdtake", "Take The Manager Away", &frmManagers::cmdtake_Click};
 };
@@ -179,7 +181,8 @@ class frmTurn : public GameScreen {
        {{"", K::Tag, 2}, [](const Worker& worker) {
           return ui::Cell(worker.TurnPending ? "Turn pending" : "", ui::Tone::Gold);
         }}});
-  ui::ListBox lstwres{*this, "lstwres", HeadingsOf(columns_), &frmTurn::ShowTurn, cmdturn};
+  ui::ListBox lstwres{*this, "lstwres", WithFaces(world(), HeadingsOf(columns_)),
+                      &frmTurn::ShowTurn, cmdturn};
   ui::Report txtturn{*this, "txtturn"};
   ui::Button cmdturn{*this, "cmdturn", "Prepare A Turn", &frmTurn::cmdturn_Click};
 };

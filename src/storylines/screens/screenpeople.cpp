@@ -5,6 +5,7 @@
 #include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "storylines/titles.h"
+#include "ui/likeness.h"
 
 namespace grapplemont {
 
@@ -76,6 +77,44 @@ void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people) {
   FillTable(list, PeopleTable(), people);
 }
 
+ui::Drawing FaceOf(const World& world, int workerUid) {
+  const Worker* worker = world.FindWorker(workerUid);
+  return worker ? ui::Drawing(PortraitOf(*worker)) : ui::Drawing();
+}
+
+ui::Drawing PlateAt(const World& world, int number) {
+  if (number < 1 || number > world.Titles().Count()) return {};
+  return PlateOf(world.Titles()[number], number);
+}
+
+namespace {
+
+std::vector<ui::Column> WithPictures(std::vector<ui::Column> columns,
+                                     std::function<ui::Drawing(int key)> draw) {
+  columns.front().Draws = std::move(draw);
+  return columns;
+}
+
+}  // namespace
+
+std::vector<ui::Column> WithFaces(const World& world, std::vector<ui::Column> columns) {
+  return WithPictures(std::move(columns), [&world](int uid) { return FaceOf(world, uid); });
+}
+
+std::vector<ui::Column> WithStaffFaces(const World& world, std::vector<ui::Column> columns) {
+  return WithPictures(std::move(columns), [&world](int uid) {
+    const Staff* staff = world.FindStaff(uid);
+    return staff ? ui::Drawing(PortraitOf(*staff)) : ui::Drawing();
+  });
+}
+
+std::vector<ui::Column> WithCrests(const World& world, std::vector<ui::Column> columns) {
+  return WithPictures(std::move(columns), [&world](int uid) {
+    const Promotion* promotion = world.FindPromotion(uid);
+    return promotion ? ui::Drawing(CrestOf(*promotion)) : ui::Drawing();
+  });
+}
+
 void EnableUnless(ui::Control& control, const std::string& why) {
   control.Enabled = why.empty();
   control.Tip = why;
@@ -91,7 +130,9 @@ ui::Page WithoutEnter(ui::Page page) {
 }
 
 CellColumns<Title> TitleTable(const World& world) {
-  return {{{"Title"}, [](const Title& title) { return title.Name.View(); }},
+  const ui::Column name{.Title = "Title",
+                        .Draws = [&world](int number) { return PlateAt(world, number); }};
+  return {{name, [](const Title& title) { return title.Name.View(); }},
           {{"Kind", K::Tag}, KindText},
           {{"Holder"}, [&](const Title& title) { return ChampionCell(world, title); }},
           {{"Since", K::Date},

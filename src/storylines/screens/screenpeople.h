@@ -83,6 +83,15 @@ ui::Cell DayCell(Day day);
 /// The same of a Title's past, where a day may be unknown.
 ui::Cell DateCell(Day day, const char* unknown);
 
+// Small pictures before a table's first words, by the keys of its rows. They hold on to the world.
+
+ui::Drawing FaceOf(const World& world, int workerUid);
+std::vector<ui::Column> WithFaces(const World& world, std::vector<ui::Column> columns);
+std::vector<ui::Column> WithStaffFaces(const World& world, std::vector<ui::Column> columns);
+std::vector<ui::Column> WithCrests(const World& world, std::vector<ui::Column> columns);
+/// A Title's key is its record's number.
+ui::Drawing PlateAt(const World& world, int number);
+
 /// Enables a control, or disables it with the reason as its tip.
 void EnableUnless(ui::Control& control, const std::string& why);
 using Controls = std::initializer_list<std::reference_wrapper<ui::Control>>;

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "ui/game.h"
+
+namespace grapplemont {
+
+/// Gives the game its way to the report of a show.
+void ConnectInfo(Game& game);
+
+}  // namespace grapplemont

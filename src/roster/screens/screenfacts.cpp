@@ -1,0 +1,123 @@
+#include "roster/screens/frmWorker.h"
+
+#include <span>
+
+#include "records/fields/fields.h"
+#include "records/modWresCheck.h"
+#include "records/nameindex.h"
+#include "roster/moods.h"
+#include "roster/workerfacts.h"
+#include "roster/workerform.h"
+
+namespace grapplemont {
+
+namespace {
+
+using Style = ui::Report::Style;
+using Paragraphs = std::vector<ui::Report::Paragraph>;
+
+constexpr std::size_t kAtLeft = 3;  // groups that everybody has: himself, his work, his skill
+
+Paragraphs Told(std::span<const FactGroup> groups) {
+  Paragraphs words;
+  for (const FactGroup& group : groups) {
+    words.push_back({Style::Strong, group.Heading});
+    for (const std::string& line : group.Lines) words.push_back({Style::Line, line});
+  }
+  return words;
+}
+
+/// The first group's heading is the title.
+void WriteFacts(ui::Report& page, std::span<const FactGroup> facts) {
+  Paragraphs words = Told(facts);
+  words.front().As = Style::Heading;
+  page.Write(std::move(words));
+}
+
+}  // namespace
+
+void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
+                     const std::string& nobody) {
+  if (!worker) return page.Write({{Style::Muted, nobody}});
+  WriteFacts(page, WorkerFacts(world, *worker));
+}
+
+void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,
+                      const std::string& nobody) {
+  right.Write(Paragraphs());
+  if (!worker) return left.Write({{Style::Muted, nobody}});
+  const std::vector<FactGroup> facts = WorkerFacts(world, *worker);
+  const std::span<const FactGroup> all = facts;
+  Paragraphs words = Told(all.first(kAtLeft));
+  words.erase(words.begin());
+  left.Write(std::move(words));
+  right.Write(Told(all.subspan(kAtLeft)));
+}
+
+namespace {
+
+/// One group of the facts, without its heading.
+Paragraphs LinesUnder(const World& world, const Worker& worker, std::string_view heading) {
+  Paragraphs words;
+  for (const FactGroup& group : WorkerFacts(world, worker))
+    if (group.Heading == heading)
+      for (const std::string& line : group.Lines) words.push_back({Style::Line, line});
+  return words;
+}
+
+}  // namespace
+
+void WriteContract(ui::Report& page, const World& world, const Worker& worker) {
+  Paragraphs words = LinesUnder(world, worker, "Contract");
+  words.push_back({Style::Muted, AskingLine(world, worker)});
+  page.Write(std::move(words));
+}
+
+void WriteMood(ui::Report& page, const World& world, const Worker& worker) {
+  Paragraphs words = LinesUnder(world, worker, "Character");
+  const MoodStory story = MoodStoryOf(world, worker);
+  const std::string today = std::to_string(worker.Morale);
+  if (!WorksForPlayer(world, worker)) {
+    words.push_back({Style::Muted, "What moves morale is kept of your own people."});
+  } else if (story.Steps.empty()) {
+    words.push_back({Style::Muted, "Nothing has moved morale this month or the last."});
+  } else {
+    words.push_back({Style::Strong, "Morale " + today});
+    words.push_back(
+        {Style::Muted, std::to_string(story.Before) + " before " + PlainDate(story.Since)});
+    for (const MoodStep& step : story.Steps)
+      words.push_back({Style::Line, (step.Change > 0 ? "+" : "") + std::to_string(step.Change) +
+                                        "  " + step.Why});
+    words.push_back({Style::Line, today + " today"});
+  }
+  page.Write(std::move(words));
+}
+
+void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
+                    const std::string& nobody) {
+  if (!staff) return page.Write({{Style::Muted, nobody}});
+  WriteFacts(page, StaffFacts(world, *staff));
+}
+
+namespace {
+
+std::vector<ui::Link> LinksOf(Game& game, NameIndex& names, std::string_view text) {
+  std::vector<ui::Link> links;
+  if (!game.HasWorld()) return links;
+  for (const NameSpan& name : names.Find(game.World(), text)) {
+    const auto& page = name.Of == NameSpan::Kind::Worker ? game.OpenWorker : game.OpenPromotion;
+    if (page) links.push_back({name.From, name.Length, [&page, uid = name.Uid] { page(uid); }});
+  }
+  return links;
+}
+
+}  // namespace
+
+void ConnectRoster(Game& game) {
+  game.OpenWorker = [&game](int uid) { OpenWorkerPage(game, uid); };
+  game.Desk().FindLinks = [&game, names = std::make_shared<NameIndex>()](std::string_view text) {
+    return LinksOf(game, *names, text);
+  };
+}
+
+}  // namespace grapplemont
