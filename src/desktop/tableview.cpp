@@ -227,7 +227,8 @@ std::vector<int> TableView::LeastWidths(const std::vector<int>& widths, int firs
   for (const int column : table_.Columns()) {
     const std::size_t place = least.size();
     least.push_back(
-        model_.Column(column).Kind != ui::ColumnKind::Text
+        model_.Column(column).Kind != ui::ColumnKind::Text &&
+                model_.Column(column).Kind != ui::ColumnKind::Tags
             ? widths[place]
             : std::max(grid_->Heading().HeadingWidth(column), Px(place == 0 ? first : other)));
   }

@@ -16,7 +16,9 @@ std::unique_ptr<ui::Screen> MakefrmQuickStat(Game& game, int workerUid);
 
 /// The wizard that fills this record of match.dat.
 std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, int slot, bool isEvent);
-/// The same on the desk, with its first step open over it.
+/// The wizard filled with what is booked in the record.
+std::unique_ptr<ui::Screen> MakeEditSheet(Game& game, int slot, bool isEvent);
+/// A wizard for an empty record on the desk, with its first step open over it.
 void OpenWizardAtOnce(Game& game, int slot, bool isEvent);
 
 }  // namespace grapplemont
