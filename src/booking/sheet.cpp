@@ -11,6 +11,8 @@
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
+#include "show/titlechange.h"
+#include "show/turns.h"
 #include "storylines/feuds.h"
 #include "storylines/storynames.h"
 
@@ -179,6 +181,33 @@ std::vector<std::string> DetailsOfRow(const World& world, const Segment& segment
   if (segment.Kind == kMatch) return DetailsOfMatch(world, segment);
   if (segment.Kind == kAngle) return DetailsOfAngle(world, segment);
   return {};
+}
+
+std::vector<std::string> ChangesBy(const World& world, const Segment& segment) {
+  std::vector<std::string> changes;
+  if (segment.Kind == kEmptySegment) return changes;
+  if (const std::vector<int> won = NewChampions(world, segment); !won.empty())
+    changes.push_back(SideText(world, won) + (won.size() > 1 ? " win the " : " wins the ") +
+                      segment.TitleName + ".");
+  for (const TurnCall& turn : BookedTurns(world, segment))
+    changes.push_back(NameOf(world, turn.Turner) + " turns" +
+                      (turn.Other == 0 ? "" : " on " + NameOf(world, turn.Other)) + ".");
+  for (const int uid : EverybodyOf(segment))
+    if (const Worker* worker = world.FindWorker(uid); worker && !worker->Debuted)
+      changes.push_back(worker->Name + " is seen for the first time.");
+  if (segment.Kind == kMatch && segment.Style <= kTag && segment.Purpose == purpose1::kEndFeud)
+    changes.emplace_back("The feud between them ends.");
+  return changes;
+}
+
+std::vector<std::string> ChangesBy(const World& world, const AutoCard& card) {
+  std::vector<std::string> changes;
+  for (std::size_t row = 0; row < card.Rows.size(); ++row) {
+    if (card.Reasons[row].empty()) continue;
+    for (const std::string& change : ChangesBy(world, card.Rows[row]))
+      changes.push_back("Row " + std::to_string(row + 1) + ": " + change);
+  }
+  return changes;
 }
 
 std::vector<const Worker*> NotOnTheCard(const World& world, bool isEvent) {

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <utility>
 
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
@@ -161,7 +162,15 @@ void TableGrid::mousePressEvent(QMouseEvent* event) {
   if (FollowAt(*event)) return;
   QTableView::mousePressEvent(event);
   const QModelIndex index = indexAt(event->position().toPoint());
-  if (event->button() == Qt::LeftButton && index.isValid()) Picked(index.row());
+  if (event->button() != Qt::LeftButton || !index.isValid()) return;
+  if (model_.List().OnMove) dragged_ = index.row();
+  Picked(index.row());
+}
+
+void TableGrid::mouseReleaseEvent(QMouseEvent* event) {
+  QTableView::mouseReleaseEvent(event);
+  const int from = std::exchange(dragged_, -1), to = indexAt(event->position().toPoint()).row();
+  if (from >= 0 && to >= 0 && from != to) Dragged(from, to);
 }
 
 void TableGrid::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -186,7 +195,10 @@ void TableGrid::mouseMoveEvent(QMouseEvent* event) {
   Hover(cell.row());
   const bool leads =
       event->modifiers().testFlag(Qt::ControlModifier) && cell.isValid() && LinkOf(cell);
-  viewport()->setCursor(leads ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  viewport()->setCursor(leads ? Qt::PointingHandCursor
+                        : dragged_ >= 0 && cell.isValid() && cell.row() != dragged_
+                            ? Qt::ClosedHandCursor
+                            : Qt::ArrowCursor);
   if (event->buttons() == Qt::NoButton) QTableView::mouseMoveEvent(event);
 }
 

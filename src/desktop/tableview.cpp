@@ -131,6 +131,11 @@ void TableView::ConnectGrid() {
   connect(grid_, &QWidget::customContextMenuRequested, this, &TableView::OpenRowMenu);
   grid_->Picked = [this](int row) { Act(row, false); };
   grid_->Opened = [this](int row) { Act(row, true); };
+  grid_->Dragged = [this](int row, int to) {
+    currentKey_ = table_.RowAt(to).Key;
+    const auto& rows = table_.Rows();
+    Do<int, int>(ui::MoveRow, rows[Index(row)] + 1, rows[Index(to)] + 1);
+  };
   grid_->Copied = [this] { CopyCsv(); };
   grid_->Resized = [this] {
     if (table_.Follows()) FitColumns();

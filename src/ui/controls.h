@@ -282,6 +282,8 @@ class ListBox : public Control {
   std::string EmptyText;  // what belongs here and how to get it
   Handler OnPick;
   Handler OnOpen;
+  /// A row is dragged to another's place, by their keys; empty where rows stay.
+  std::function<void(int from, int to)> OnMove;
 
  private:
   void ContentsChanged();

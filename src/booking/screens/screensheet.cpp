@@ -1,9 +1,12 @@
 #include "booking/screens/screensheet.h"
 
+#include <algorithm>
+
 #include "booking/sheet.h"
 #include "records/fields/wording.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
+#include "show/titlechange.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -30,8 +33,10 @@ CellColumns<SheetRow> SheetTable(const World& world, const CellColumn<SheetRow>&
            }},
           {{"Kind", K::Tag}, [](const SheetRow& row) { return KindOfRow(row.Segment); }},
           {{"Title", K::Tag},
-           [](const SheetRow& row) {
-             return ui::Cell(TitleTip(row.Segment).empty() ? "" : "Title", ui::Tone::Gold);
+           [&](const SheetRow& row) {
+             if (TitleTip(row.Segment).empty()) return ui::Cell("");
+             return ui::Cell(NewChampions(world, row.Segment).empty() ? "Title" : "New champion",
+                             ui::Tone::Gold);
            }},
           {{"Feud", K::Tag},
            [&](const SheetRow& row) {
@@ -48,6 +53,8 @@ std::vector<ui::Report::Paragraph> ToldOf(const World& world, const Segment& seg
   std::vector<ui::Report::Paragraph> told{{Style::Strong, DescribeSegment(world, segment)}};
   for (std::string& line : SummaryOfRow(world, segment, isEvent))
     told.push_back({Style::Line, std::move(line)});
+  for (std::string& change : ChangesBy(world, segment))
+    told.push_back({Style::Strong, std::move(change)});
   return told;
 }
 
@@ -66,6 +73,7 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
   std::vector<ui::Column> headings = HeadingsOf(Table());
   headings.push_back({"", K::Button});
   lstrows.SetColumns(std::move(headings));
+  lstrows.OnMove = [this](int from, int to) { lstrows_Move(from, to); };
   lblwarn.Colour = ui::Tone::Amber;
   cmdcancel.Tip = isEvent_ ? "Calling it off costs image, and much of the money spent on it."
                            : "Calling it off costs image.";
@@ -81,7 +89,8 @@ ui::Page SheetScreen::Layout() {
   std::vector<ui::Button*> actions = FirstActions();
   actions.insert(actions.end(), {&cmdfill, &cmdcancel});
   std::vector<ui::Box> left{
-      ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(), lblwarn,
+      ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(),
+                     ui::Columns({cmdedit, cmdup, cmddown, cmdundo, cmdredo}), lblwarn,
                      ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblwarnings})
           .Grow()};
   for (ui::Box& below : BelowRows()) left.push_back(std::move(below));
@@ -107,6 +116,7 @@ int SheetScreen::OpenRows() {
 }
 
 void SheetScreen::Return() {
+  history_.Look(world());
   Title = SheetHeading(world(), isEvent_);
   lblfacts.Text = Facts();
   lblwarn.Text = SheetWarning(world(), isEvent_);
@@ -178,8 +188,24 @@ bool SheetScreen::HasEmptyRow() {
   return false;
 }
 
+/// What can be done with the selected row, and with the steps before.
+void SheetScreen::ShowRowActs() {
+  const int record = lstrows.Key();
+  const bool open = record >= 1 && record <= OpenRows();
+  EnableUnless(cmdedit, !open                               ? "Choose a row that is booked."
+                        : Row(record).Kind == kEmptySegment ? "Nothing is booked in this row."
+                                                            : "");
+  EnableUnless(cmdup, !open ? "Choose a row of the show." : record == 1 ? "It is the first." : "");
+  EnableUnless(cmddown, !open                  ? "Choose a row of the show."
+                        : record == OpenRows() ? "It is the last."
+                                               : "");
+  EnableUnless(cmdundo, history_.MayUndo() ? "" : "Nothing has been done on this sheet.");
+  EnableUnless(cmdredo, history_.MayRedo() ? "" : "Nothing has been taken back.");
+}
+
 /// What the selected row is about, without opening it.
 void SheetScreen::ShowRow() {
+  ShowRowActs();
   using Style = ui::Report::Style;
   const int record = lstrows.Key();
   if (record == 0)
@@ -194,7 +220,7 @@ void SheetScreen::ShowRow() {
   for (std::string& line : DetailsOfRow(world(), segment))
     told.push_back({Style::Line, std::move(line)});
   if (const std::string tip = TitleTip(segment); !tip.empty()) told.push_back({Style::Strong, tip});
-  told.push_back({Style::Muted, "To book something else in this row, remove it first."});
+  told.push_back({Style::Muted, "Edit changes a step of it, Remove empties the row."});
   txtrow.Write(std::move(told));
 }
 
@@ -210,8 +236,38 @@ void SheetScreen::cmdbook_Click(int record) {
 
 void SheetScreen::lstrows_Open() {
   const int record = lstrows.Key();
-  if (record == 0 || record > OpenRows() || Row(record).Kind != kEmptySegment) return;
+  if (record == 0 || record > OpenRows()) return;
+  if (Row(record).Kind != kEmptySegment) return cmdedit_Click();
   OpenWizardAtOnce(game_, record, isEvent_);
+}
+
+void SheetScreen::cmdedit_Click() {
+  desk().Open(MakeEditSheet(game_, lstrows.Key(), isEvent_));
+}
+
+void SheetScreen::lstrows_Move(int from, int to) {
+  if (from < 1 || to < 1 || std::max(from, to) > OpenRows()) return;
+  MoveRow(world(), from, to);
+  lstrows.SelectKey(to);
+  Return();
+}
+
+void SheetScreen::MoveBy(int rows) {
+  lstrows_Move(lstrows.Key(), lstrows.Key() + rows);
+}
+
+void SheetScreen::Tell(const std::string& title, const std::vector<std::string>& dropped) {
+  Return();
+  if (!dropped.empty())
+    desk().Say(title, "Not everything holds any more:\n" + Joined(dropped, "\n"));
+}
+
+void SheetScreen::cmdundo_Click() {
+  Tell("Undo", history_.Undo(world(), isEvent_, OpenRows()));
+}
+
+void SheetScreen::cmdredo_Click() {
+  Tell("Redo", history_.Redo(world(), isEvent_, OpenRows()));
 }
 
 void SheetScreen::cmdfill_Click() {
@@ -220,9 +276,11 @@ void SheetScreen::cmdfill_Click() {
   const std::string missing = card.Missing.empty() ? "" : "\n" + Joined(card.Missing, "\n");
   if (fresh == 0)
     return desk().Say("Fill The Rest", "The roster has nothing to fill a row with." + missing);
+  const std::vector<std::string> changes = ChangesBy(world(), card);
   if (!desk().Ask("Fill The Rest",
                   "Book " + Counted(fresh, "segment") +
-                      " in the rows that are still empty? What you have booked stays." + missing))
+                      " in the rows that are still empty? What you have booked stays." +
+                      (changes.empty() ? "" : "\n" + Joined(changes, "\n")) + missing))
     return;
   TakeCard(world(), card);
   Return();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "booking/card.h"
 #include "booking/screens/bookingscreens.h"
 #include "records/world.h"
 #include "show/forecast.h"
@@ -13,8 +14,8 @@ struct SheetRow {
   const grapplemont::Segment& Segment;
   const ShowForecast& Forecast;
 };
-/// Behind the first column: what is booked, of what kind, whether a Title is at stake, for which
-/// feud, and the forecast. Holds on to the world.
+/// Behind the first column: what is booked, of what kind, whether a Title is at stake or changes
+/// hands, for which feud, and the forecast. Holds on to the world.
 CellColumns<SheetRow> SheetTable(const World& world, const CellColumn<SheetRow>& first);
 /// What is booked, and the lines of the wizard's summary.
 std::vector<ui::Report::Paragraph> ToldOf(const World& world, const Segment& segment, bool isEvent);
@@ -60,8 +61,16 @@ class SheetScreen : public GameScreen {
   void ShowRow();
   bool HasEmptyRow();
 
+  void ShowRowActs();
+  void Tell(const std::string& title, const std::vector<std::string>& dropped);
+
   void cmdbook_Click(int record);
   void lstrows_Open();
+  void lstrows_Move(int from, int to);
+  void MoveBy(int rows);
+  void cmdedit_Click();
+  void cmdundo_Click();
+  void cmdredo_Click();
   void cmdfill_Click();
   void cmddoshow_Click();
   void cmdback_Click() override;
@@ -70,10 +79,16 @@ class SheetScreen : public GameScreen {
   using K = ui::ColumnKind;
   const bool isEvent_;
   grapplemont::ShowForecast forecast_;
+  SheetHistory history_;
 
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstrows;
   ui::Array<ui::Button> cmdbook;
+  ui::Button cmdedit{*this, "cmdedit", "Edit", &SheetScreen::cmdedit_Click};
+  ui::Button cmdup{*this, "cmdup", "Move Up", [this] { MoveBy(-1); }};
+  ui::Button cmddown{*this, "cmddown", "Move Down", [this] { MoveBy(1); }};
+  ui::Button cmdundo{*this, "cmdundo", "Undo", &SheetScreen::cmdundo_Click};
+  ui::Button cmdredo{*this, "cmdredo", "Redo", &SheetScreen::cmdredo_Click};
   ui::Label lblwarn{*this, "lblwarn"};
   ui::Label lblcount{*this, "lblcount"};
   ui::Report txtrow{*this, "txtrow"};
