@@ -9,6 +9,7 @@
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modWresCheck.h"
+#include "records/segmentparts.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
 #include "show/titlechange.h"
@@ -195,7 +196,7 @@ std::vector<std::string> ChangesBy(const World& world, const Segment& segment) {
   for (const int uid : EverybodyOf(segment))
     if (const Worker* worker = world.FindWorker(uid); worker && !worker->Debuted)
       changes.push_back(worker->Name + " is seen for the first time.");
-  if (segment.Kind == kMatch && segment.Style <= kTag && segment.Purpose == purpose1::kEndFeud)
+  if (segment.Kind == kMatch && PurposeOf(segment).Does == Aim::EndsFeud)
     changes.emplace_back("The feud between them ends.");
   return changes;
 }

@@ -18,7 +18,9 @@ void Take(Segment& to, const Segment& from) {
   ((to.*fields = from.*fields), ...);
 }
 
+/// Of two the other one loses, whoever that is.
 void TakeResult(Segment& to, const Segment& from) {
+  if (to.Style == kSingles && from.Winner != 0) return StoreResult(to, from.Winner, {});
   Segment copy = from;
   const std::vector<Word*> fields = LoserFields(to), held = LoserFields(copy);
   for (std::size_t i = 0; i < fields.size(); ++i) *fields[i] = *held[i];
