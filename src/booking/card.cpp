@@ -4,6 +4,8 @@
 #include <cstring>
 #include <utility>
 
+#include "booking/wizard/objections.h"
+#include "booking/wizard/refusals.h"
 #include "booking/wizard/segmentcheck.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
@@ -49,6 +51,36 @@ std::vector<std::string> LayCard(World& world, const Card& card, bool isEvent, i
                         ": " + why);
   }
   return dropped;
+}
+
+namespace {
+
+/// The rows of a card that another does not hold at their place.
+Card NewRows(const Card& card, const Card& other) {
+  Card fresh;
+  for (std::size_t row = 0; row < card.size(); ++row)
+    if (card[row].Kind != kEmptySegment && (row >= other.size() || !IsSame(card[row], other[row])))
+      fresh.push_back(card[row]);
+  return fresh;
+}
+
+}  // namespace
+
+std::string MindedBy(const World& world, const Card& card) {
+  std::string text;
+  PriceOfBooking all;
+  for (const Segment& segment : NewRows(card, CardOf(world))) {
+    for (const Refusal& refusal : RefusalsOf(world, segment))
+      if (!refusal.IsFinal && refusal.Veto.empty()) text += refusal.Words + "\n";
+    for (const auto& [uid, morale] : PriceOf(world, segment)) all[uid] += morale;
+  }
+  if (!all.empty()) text += "If you insist, " + HeldAgainstText(all) + ".";
+  return text;
+}
+
+void PayForRows(World& world, const Card& before) {
+  for (const Segment& segment : NewRows(CardOf(world), before))
+    ApplyBookingGrievances(world, segment);
 }
 
 void MoveRow(World& world, int from, int to) {

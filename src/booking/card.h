@@ -21,6 +21,12 @@ Card CardOf(const World& world);
 /// left empty: of each, which it was and why, a sentence.
 std::vector<std::string> LayCard(World& world, const Card& card, bool isEvent, int openRows);
 
+/// What the people in the rows that a card would add say to it and what it costs them, in lines;
+/// empty when nobody minds. What the wizard lets nobody overrule is not among it.
+std::string MindedBy(const World& world, const Card& card);
+/// Takes the price of those rows of the sheet that another did not hold.
+void PayForRows(World& world, const Card& before);
+
 /// A row goes to another's place; those between move up or down by one.
 void MoveRow(World& world, int from, int to);
 

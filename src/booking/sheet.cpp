@@ -68,12 +68,15 @@ std::vector<std::string> DetailsOfAngle(const World& world, const Segment& segme
 
 }  // namespace
 
+SheetTerms TermsOfSlot(std::string_view name) {
+  const auto slot = std::find(std::begin(kSlots), std::end(kSlots) - 1, name);
+  return kTvTerms[slot - std::begin(kSlots)];
+}
+
 SheetTerms TermsOf(const World& world, bool isEvent) {
   if (isEvent) return EventOfToday(world) ? kEventTerms : SheetTerms{};
   const Show* show = ShowOfToday(world);
-  if (!show) return {};
-  const auto slot = std::find(std::begin(kSlots), std::end(kSlots) - 1, show->Slot.View());
-  return kTvTerms[slot - std::begin(kSlots)];
+  return show ? TermsOfSlot(show->Slot) : SheetTerms{};
 }
 
 SheetCount CountSheet(const World& world, bool isEvent) {
@@ -119,11 +122,10 @@ std::string SheetHeading(const World& world, bool isEvent) {
          ShowName(world, isEvent);
 }
 
-std::string SheetWarning(const World& world, bool isEvent) {
+std::string SheetWarning(const SheetTerms& terms, bool isEvent) {
   if (isEvent)
     return "Warning : You must have a minimum of 4 matches, and 6 segments overall (not including "
            "the dark match).";
-  const SheetTerms terms = TermsOf(world, false);
   return "Warning : You must have a minimum of " + std::to_string(terms.MinMatches) +
          " matches, and a minimum of " + std::to_string(terms.MinSegments) + " segments overall.";
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "booking/auto/autobooker.h"
@@ -20,6 +21,9 @@ inline constexpr int kDarkMatch = 1;
 /// of today nothing is open.
 SheetTerms TermsOf(const World& world, bool isEvent);
 
+/// Of a television show in this time slot, whenever it is.
+SheetTerms TermsOfSlot(std::string_view slot);
+
 /// What is booked of what counts.
 struct SheetCount {
   int Matches = 0;
@@ -38,7 +42,7 @@ int NewSegments(const World& world, const AutoCard& card);
 /// "Television Booking Sheet For Tidal Force".
 std::string SheetHeading(const World& world, bool isEvent);
 /// What the sheet warns of, with its minimum.
-std::string SheetWarning(const World& world, bool isEvent);
+std::string SheetWarning(const SheetTerms& terms, bool isEvent);
 /// "CWA Crown Title Match!"; empty where none is at stake.
 std::string TitleTip(const Segment& segment);
 

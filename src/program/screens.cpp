@@ -42,6 +42,7 @@ namespace grapplemont {
   SCREEN(frmBooking)         \
   SCREEN(frmPPVBooking)      \
   SCREEN(frmAutoBook)        \
+  SCREEN(frmDrafts)          \
   SCREEN(frmDebut)           \
   SCREEN(frmAltRoster)       \
   SCREEN(frmAltBelts)        \

@@ -95,6 +95,9 @@ class World {
   /// What the wrestling world has done of late, oldest first.
   Records<Deed>& Deeds() { return Of<Deed>(); }
   const Records<Deed>& Deeds() const { return Of<Deed>(); }
+  /// The last cards that were held, and drafts.
+  Records<KeptRow>& KeptRows() { return Of<KeptRow>(); }
+  const Records<KeptRow>& KeptRows() const { return Of<KeptRow>(); }
   Records<GameInfo>& GameInfos() { return Of<GameInfo>(); }
   const Records<GameInfo>& GameInfos() const { return Of<GameInfo>(); }
   TextFile& Notes() { return std::get<TextFile>(tables_); }

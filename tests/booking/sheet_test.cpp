@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "booking/keptcards.h"
 #include "booking/onsheet.h"
 #include "booking/sheet.h"
 #include "booking/wizard/segmentcheck.h"
@@ -257,6 +258,58 @@ TEST(TelevisionSheet, MovesEditsAndTakesBackItsRows) {
                       "CWA Hand 5 cannot be booked for a match.");
   play.Desk.Click("cmdundo");
   EXPECT_EQ(sheet(), Names());
+}
+
+TEST(TelevisionSheet, LaysTheLastCardAndTheDraftOfItsDay) {
+  OnSheet play(Sunday("G"));
+  EXPECT_FALSE(play.Desk.Enabled("cmdlast"));
+  play.Desk.Event([&] {
+    World& world = play.World();
+    world.Segments()[2] = Singles(world, "CWA Hand 5", "CWA Hand 6");
+    world.Segments()[2].Rating = 40;
+    HistoryEntry held{};
+    held.On = kGameStart;
+    held.Kind = kPastTv;
+    held.Promotion = world.PlayerUid();
+    held.Name = "Tidal Force";
+    world.History().Append(held);
+    KeepLastCard(world);
+  });
+  play.Look();
+  play.Desk.ExpectAsk("Remove?", kAnyText, true);
+  play.Desk.Click("cmdbook(2)");
+  play.Desk.ExpectAsk("Last Card",
+                      "Lay the card of 01 March 2026 on the sheet? What is booked there now goes.",
+                      true);
+  play.Desk.Click("cmdlast");
+  EXPECT_EQ(play.Row(2)[1], "CWA Hand 5 over CWA Hand 6");
+  EXPECT_EQ(play.World().Segments()[2].Rating, 0);
+
+  // A week before its day: nobody's morale moves, and what is kept waits for the day.
+  play.Desk.CloseAll();
+  play.Desk.Open("frmDrafts");
+  play.Desk.Click("cmddraft");
+  EXPECT_EQ(play.Desk.Title(), "Draft For Tidal Force");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "Sunday, 08 March 2026, 5 rows");
+  play.Book(1, Singles(play.World(), "CWA Hand 7", "CWA Hand 8"));
+  play.Book(3, Singles(play.World(), "CWA Hand 9", "CWA Hand 10"));
+  play.Desk.Click("cmddoshow");
+  EXPECT_EQ(play.Desk.Rows("lstshows")[0].back(), "2 of 5 rows");
+  play.Desk.Event([&] {
+    play.World().Game().Today = kGameStart + std::chrono::days{7};
+    Worker& gone = Named(play.World().Workers(), "CWA Hand 10");
+    gone.Status = "Inj";
+    gone.StatusMonths = 2;
+    gone.InjuryName = "Broken Leg";
+  });
+  play.Desk.CloseAll();
+  play.Desk.ExpectAsk("Draft", kAnyText, true);
+  play.Desk.ExpectSay("Draft",
+                      "Not everything holds any more:\nRow 3, CWA Hand 9 over CWA Hand "
+                      "10: CWA Hand 10 cannot be booked for a match.");
+  play.Desk.Open("frmBooking");
+  EXPECT_EQ(play.Row(1)[1], "CWA Hand 7 over CWA Hand 8");
+  EXPECT_EQ(play.Row(3)[1], "<Nothing Booked>");
 }
 
 TEST(TelevisionSheet, HandsOverToTheShowWithTheCommentatorsOfItsRecord) {

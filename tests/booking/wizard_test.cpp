@@ -180,7 +180,7 @@ TEST(frmBookSheet, GoesBackToAStepAndKeepsWhatStillHolds) {
   play.Complete();
   ASSERT_EQ(DescribeSegment(play.World(), play.Slot()), "Man 1 over Man 3");
 
-  play.Desk.Open(MakeEditSheet(play.Play, 1, false));
+  play.Desk.Open(MakeEditSheet(play.Play, {1, false}));
   EXPECT_TRUE(play.Desk.Enabled("cmdcomplete")) << "every step is done";
   play.Desk.Click("cmdjump(3)");
   EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1");

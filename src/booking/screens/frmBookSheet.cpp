@@ -127,7 +127,7 @@ class frmBookSheet : public ui::Screen, public WizardHost {
   }
 
   void cmdcomplete_Click() {
-    ApplyBookingGrievances(game_.World(), wizard_.Buffer, wizard_.Paid);
+    if (!wizard_.IsDraft) ApplyBookingGrievances(game_.World(), wizard_.Buffer, wizard_.Paid);
     game_.World().Segments()[wizard_.CurrentSlot] = wizard_.Buffer;
     Close();
   }
@@ -166,22 +166,42 @@ class frmBookSheet : public ui::Screen, public WizardHost {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, int slot, bool isEvent) {
-  return std::make_unique<frmBookSheet>(game, BeginBooking(slot, isEvent));
+namespace {
+
+Wizard AtPlace(Wizard wizard, const SheetPlace& place) {
+  wizard.IsDraft = place.IsDraft;
+  return wizard;
 }
 
-std::unique_ptr<ui::Screen> MakeEditSheet(Game& game, int slot, bool isEvent) {
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, const SheetPlace& place) {
   return std::make_unique<frmBookSheet>(game,
-                                        EditBooking(game.World().Segments()[slot], slot, isEvent));
+                                        AtPlace(BeginBooking(place.Record, place.IsEvent), place));
 }
 
-void OpenWizardAtOnce(Game& game, int slot, bool isEvent) {
+std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, int slot, bool isEvent) {
+  return MakefrmBookSheet(game, {slot, isEvent});
+}
+
+std::unique_ptr<ui::Screen> MakeEditSheet(Game& game, const SheetPlace& place) {
+  const Segment& booked = game.World().Segments()[place.Record];
+  return std::make_unique<frmBookSheet>(
+      game, AtPlace(EditBooking(booked, place.Record, place.IsEvent), place));
+}
+
+void OpenWizardAtOnce(Game& game, const SheetPlace& place) {
   game.Desk().Event([&] {
-    auto wizard = std::make_unique<frmBookSheet>(game, BeginBooking(slot, isEvent));
+    auto wizard = std::make_unique<frmBookSheet>(
+        game, AtPlace(BeginBooking(place.Record, place.IsEvent), place));
     frmBookSheet& sheet = *wizard;
     game.Desk().Open(std::move(wizard));
     sheet.OpenStep();
   });
+}
+
+void OpenWizardAtOnce(Game& game, int slot, bool isEvent) {
+  OpenWizardAtOnce(game, SheetPlace{slot, isEvent});
 }
 
 }  // namespace grapplemont

@@ -90,7 +90,7 @@ ui::Page SheetScreen::Layout() {
   actions.insert(actions.end(), {&cmdfill, &cmdcancel});
   std::vector<ui::Box> left{
       ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(),
-                     ui::Columns({cmdedit, cmdup, cmddown, cmdundo, cmdredo}), lblwarn,
+                     ui::Columns({cmdedit, cmdup, cmddown, cmdlast, cmdundo, cmdredo}), lblwarn,
                      ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblwarnings})
           .Grow()};
   for (ui::Box& below : BelowRows()) left.push_back(std::move(below));
@@ -109,17 +109,24 @@ void SheetScreen::ShowOpened() {
   Return();
   lstrows.SelectKey(1);
   ShowRow();
+  if (!IsDraft() && !Kept(true).Rows.empty()) LayKept(true);
 }
 
 int SheetScreen::OpenRows() {
-  return TermsOf(world(), isEvent_).OpenRows;
+  return Terms().OpenRows;
+}
+
+/// No rows when there is nothing; a draft is for its day alone.
+KeptCard SheetScreen::Kept(bool isDraft) {
+  KeptCard kept = FindCard(world(), {ShowName(world(), isEvent_), isEvent_, isDraft});
+  return isDraft && kept.On != world().Today() ? KeptCard() : kept;
 }
 
 void SheetScreen::Return() {
   history_.Look(world());
-  Title = SheetHeading(world(), isEvent_);
+  Title = Heading();
   lblfacts.Text = Facts();
-  lblwarn.Text = SheetWarning(world(), isEvent_);
+  lblwarn.Text = SheetWarning(Terms(), isEvent_);
   lblwarn.Colour = MayStart(world(), isEvent_) ? ui::Tone::Muted : ui::Tone::Amber;
   ShowForecast();
   ShowCounts();
@@ -131,10 +138,11 @@ void SheetScreen::ShowForecast() {
   const bool any = std::any_of(sheet.begin(), sheet.end(), [](const Segment& segment) {
     return segment.Kind != kEmptySegment;
   });
-  forecast_ =
-      any ? grapplemont::ForecastShow(world(), isEvent_, Team()) : grapplemont::ShowForecast();
-  lblforecast.Text =
-      any ? "Expected rating " + RangeText(forecast_.Rating) + "." : "Nothing is booked yet.";
+  forecast_ = any && !IsDraft() ? grapplemont::ForecastShow(world(), isEvent_, Team())
+                                : grapplemont::ShowForecast();
+  lblforecast.Text = IsDraft() ? "Its forecast comes with its day."
+                     : any     ? "Expected rating " + RangeText(forecast_.Rating) + "."
+                               : "Nothing is booked yet.";
   lblwarnings.Text = Joined(forecast_.Warnings, "\n");
   lblwarnings.Visible = !forecast_.Warnings.empty();
   FillRows();
@@ -172,13 +180,13 @@ void SheetScreen::ShowButton(int record) {
 }
 
 void SheetScreen::ShowCounts() {
-  const SheetTerms terms = TermsOf(world(), isEvent_);
+  const SheetTerms terms = Terms();
   const SheetCount count = CountSheet(world(), isEvent_);
   lblcount.Text = Of(count.Matches, terms.MinMatches) + " matches, " +
                   Of(count.Segments, terms.MinSegments) + " segments booked.";
-  EnableUnless(cmddoshow, MayStart(world(), isEvent_) ? ""
-                          : terms.OpenRows == 0       ? "There is no show today."
-                                                      : "Not enough yet: " + lblcount.Text.Get());
+  EnableUnless(cmddoshow, IsDraft() || MayStart(world(), isEvent_) ? ""
+                          : terms.OpenRows == 0                    ? "There is no show today."
+                                                : "Not enough yet: " + lblcount.Text.Get());
   EnableUnless(cmdfill, HasEmptyRow() ? "" : "No row is empty.");
 }
 
@@ -199,6 +207,9 @@ void SheetScreen::ShowRowActs() {
   EnableUnless(cmddown, !open                  ? "Choose a row of the show."
                         : record == OpenRows() ? "It is the last."
                                                : "");
+  EnableUnless(cmdlast, IsDraft() || Kept(false).Rows.empty()
+                            ? "No card of this show has been kept yet."
+                            : "");
   EnableUnless(cmdundo, history_.MayUndo() ? "" : "Nothing has been done on this sheet.");
   EnableUnless(cmdredo, history_.MayRedo() ? "" : "Nothing has been taken back.");
 }
@@ -227,8 +238,7 @@ void SheetScreen::ShowRow() {
 void SheetScreen::cmdbook_Click(int record) {
   lstrows.SelectKey(record);
   ShowRow();
-  if (Row(record).Kind == kEmptySegment)
-    return desk().Open(MakefrmBookSheet(game_, record, isEvent_));
+  if (Row(record).Kind == kEmptySegment) return desk().Open(MakefrmBookSheet(game_, At(record)));
   if (!desk().Ask("Remove?", "Are you sure you wish to remove this booking?")) return;
   ClearSegment(world().Segments()[record]);
   Return();
@@ -238,11 +248,11 @@ void SheetScreen::lstrows_Open() {
   const int record = lstrows.Key();
   if (record == 0 || record > OpenRows()) return;
   if (Row(record).Kind != kEmptySegment) return cmdedit_Click();
-  OpenWizardAtOnce(game_, record, isEvent_);
+  OpenWizardAtOnce(game_, At(record));
 }
 
 void SheetScreen::cmdedit_Click() {
-  desk().Open(MakeEditSheet(game_, lstrows.Key(), isEvent_));
+  desk().Open(MakeEditSheet(game_, At(lstrows.Key())));
 }
 
 void SheetScreen::lstrows_Move(int from, int to) {
@@ -260,6 +270,22 @@ void SheetScreen::Tell(const std::string& title, const std::vector<std::string>&
   Return();
   if (!dropped.empty())
     desk().Say(title, "Not everything holds any more:\n" + Joined(dropped, "\n"));
+}
+
+void SheetScreen::LayKept(bool isDraft) {
+  const KeptCard kept = Kept(isDraft);
+  const std::string title = isDraft ? "Draft" : "Last Card";
+  std::string text =
+      "Lay " +
+      (isDraft ? std::string("the draft for today") : "the card of " + PlainDate(kept.On)) +
+      " on the sheet? What is booked there now goes.";
+  if (const std::string minded = MindedBy(world(), kept.Rows); !minded.empty())
+    text += "\n" + minded;
+  if (!desk().Ask(title, text)) return;
+  const Card before = CardOf(world());
+  const std::vector<std::string> dropped = LayCard(world(), kept.Rows, isEvent_, OpenRows());
+  PayForRows(world(), before);
+  Tell(title, dropped);
 }
 
 void SheetScreen::cmdundo_Click() {

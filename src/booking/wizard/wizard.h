@@ -13,6 +13,7 @@ struct Wizard {
   bool SegmentComplete = false;  // the last step of the Segment's path has been done
   int CurrentSlot = 1;           // the record of match.dat that is to be filled
   BookingView View;
+  bool IsDraft = false;  // for a show to come: nobody's morale moves yet
   // What had been chosen before a step was gone back to: later steps keep what of it still holds.
   Segment Earlier = {};
   int EarlierSteps = 0;  // of it

@@ -48,6 +48,10 @@ void Fill(Segment& segment) {
   segment.Text = "None";
 }
 
+void Fill(KeptRow& row) {
+  Fill(row.Booked);
+}
+
 void Fill(HeldMatch& bout) {
   bout.Title = "None";
 }
@@ -92,7 +96,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<ReportPart>("reports.csv", true),
           Kind<YearAward>("awards.csv", true),
           Kind<YearEnd>("yearends.csv", true),
-          Kind<Deed>("deeds.csv", true)};
+          Kind<Deed>("deeds.csv", true),
+          Kind<KeptRow>("cards.csv", true)};
 }
 
 }  // namespace
