@@ -75,6 +75,7 @@ std::string MindedBy(const World& world, const Card& card) {
     for (const auto& [uid, morale] : PriceOf(world, segment)) all[uid] += morale;
   }
   if (!all.empty()) text += "If you insist, " + HeldAgainstText(all) + ".";
+  if (text.ends_with('\n')) text.pop_back();
   return text;
 }
 

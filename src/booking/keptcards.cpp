@@ -13,8 +13,8 @@ namespace {
 constexpr int kDaysAhead = 370;
 
 bool Belongs(const KeptRow& row, const CardOwner& owner) {
-  return row.Show == std::string_view(owner.Show) && row.IsEvent == owner.IsEvent &&
-         row.IsDraft == owner.IsDraft;
+  return row.Show == std::string_view(owner.Show) && bool(row.IsEvent) == owner.IsEvent &&
+         bool(row.IsDraft) == owner.IsDraft;
 }
 
 /// The player's last show in the history; nullptr for none.
