@@ -170,6 +170,7 @@ class frmBookPeople : public MatchStepScreen {
   /// is free; says who was put there, or who could be.
   std::string OfferPartner(int place) {
     const int uid = lstwres(place).Key(), first = place - (place - 1) % style_.PerSide;
+    std::string told;
     for (const int partner : PartnersOf(world(), uid)) {
       const std::string team = SideText(world(), {uid, partner});
       for (int beside = first; beside < first + style_.PerSide; ++beside) {
@@ -179,10 +180,9 @@ class frmBookPeople : public MatchStepScreen {
         if (lstwres(beside).Key() != 0)
           return SideText(world(), {partner}) + " has been put beside the other of " + team + ".";
       }
-      if (const Worker* other = world().FindWorker(partner))
-        return other->Name + " is the other of " + team + ".";
+      if (told.empty()) told = SideText(world(), {partner}) + " is the other of " + team + ".";
     }
-    return {};
+    return told;
   }
 
   const MatchStyleRow& style_;

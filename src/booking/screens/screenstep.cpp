@@ -1,6 +1,7 @@
 #include "booking/screens/screenstep.h"
 
 #include <algorithm>
+#include <cstring>
 #include <span>
 
 #include "booking/sheet.h"
@@ -150,10 +151,9 @@ void StepScreen::ShowOutlook() {
 /// The first of each side, or of those who talk.
 void StepScreen::ShowFaces(const Segment& draft) {
   std::vector<int> faces;
+  if (draft.Kind != kMatch) faces = PeopleOf(draft);
   if (draft.Kind == kMatch && draft.Style != kSpecial)
     for (const std::vector<int>& side : SidesOf(draft)) faces.push_back(side.front());
-  else if (draft.Kind != kMatch)
-    faces = PeopleOf(draft);
   faces.resize(2);
   int at = 0;
   for (ui::Picture* face : {&picfirst, &picsecond}) {
@@ -167,6 +167,9 @@ void StepScreen::ShowFaces(const Segment& draft) {
 
 void StepScreen::ShowForecast(const Segment& draft) {
   const auto whole = Foreseen(world(), draft, wizard().View);
+  // A rehearsal takes its time, and most picks of a list's cursor change nothing.
+  if (whole && rehearsed_ && std::memcmp(&*whole, &*rehearsed_, sizeof(Segment)) == 0) return;
+  rehearsed_ = whole;
   const Forecast now =
       whole ? ForecastRow(world(), wizard().View.IsEvent, wizard().CurrentSlot, *whole)
             : Forecast{};

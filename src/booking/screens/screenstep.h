@@ -95,9 +95,10 @@ class StepScreen : public ui::Screen {
   Game& game_;
   WizardHost& host_;
   std::optional<RosterMarks> marks_;
-  std::optional<Forecast> before_;  // the last pick
-  bool isReady_ = false;            // the step's controls are filled
-  static constexpr int kLines = 9;  // steps of the longest path
+  std::optional<Forecast> before_;    // of the last pick
+  std::optional<Segment> rehearsed_;  // what it was given for
+  bool isReady_ = false;              // the step's controls are filled
+  static constexpr int kLines = 9;    // steps of the longest path
   ui::Array<ui::Label> lblsofar{"lblsofar", kLines, [this](const std::string& line, int) {
                                   return std::make_unique<ui::Label>(*this, line);
                                 }};
