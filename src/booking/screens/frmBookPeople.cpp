@@ -2,9 +2,11 @@
 
 #include "booking/screens/screenstep.h"
 #include "booking/wizard/matchrules.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
+#include "storylines/storynames.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
@@ -107,6 +109,7 @@ class frmBookPeople : public MatchStepScreen {
       lstwres(place).EmptyText = "Nobody on the roster can be booked.";
       FillRoster(lstwres(place), roster);
     }
+    ShowWhoIsMissing();
     AllowDone(false, kChooseAll);
   }
 
@@ -118,7 +121,26 @@ class frmBookPeople : public MatchStepScreen {
         sides.push_back(SideBox(side));
       rows.push_back(ui::Columns(std::move(sides)).Grow());
     }
+    rows.push_back(lblmissing);
     return ui::Rows(std::move(rows));
+  }
+
+  /// The most popular who cannot be chosen, with the reason, and how many they are.
+  void ShowWhoIsMissing() {
+    std::vector<const Worker*> missing = SeenOnShows(world());
+    std::erase_if(missing,
+                  [&](auto* worker) { return IsEligible(world(), *worker, wizard().View); });
+    lblmissing.Visible = !missing.empty();
+    if (missing.empty()) return;
+    const Worker& first = *missing.front();
+    const std::string why = first.Status != "Nor"            ? StatusLine(first)
+                            : first.Position == kNonWrestler ? "not in the ring on television"
+                                                             : "of another split";
+    const auto others = std::ssize(missing) - 1;
+    lblmissing.Text = "Not listed: " + first.Name.Str() + " (" + why + ")" +
+                      (others > 0 ? " and " + Counted(static_cast<int>(others), "other") : "") +
+                      ".";
+    lblmissing.Colour = ui::Tone::Muted;
   }
 
   ui::Box SideBox(int side) {
@@ -186,6 +208,7 @@ class frmBookPeople : public MatchStepScreen {
   }
 
   const MatchStyleRow& style_;
+  ui::Label lblmissing{*this, "lblmissing"};
   ui::Array<ui::ListBox> lstwres{
       "lstwres", style_.Sides* style_.PerSide, [this](const std::string&, int place) {
         return std::make_unique<ui::ListBox>(

@@ -37,6 +37,7 @@ StepScreen::StepScreen(Game& game, WizardHost& host)
 
 ui::Page StepScreen::Layout() {
   ui::Page page;
+  page.Facts = &lblplace;
   page.Actions = {cmdback.get(), cmddone.get(), cmdnext.get()};
   page.Main = cmdnext.get();
   page.Cancel = cmdback.get();
@@ -73,12 +74,10 @@ std::vector<ui::Box> StepScreen::StepBoxes() {
 
 /// Below the choice where that needs the width: then faces have no room.
 ui::Box StepScreen::Outlook(bool below) {
-  std::vector<ui::Box> people;
-  if (!below) people.push_back(ui::Columns({picfirst, picsecond}));
-  people.insert(people.end(), {lblwho, lblpartner});
-  std::vector<ui::Box> cards = {ui::Group("So far", std::move(people)).Grow(),
-                                ui::Group("Forecast", {lblforecast}).Grow(below ? 1 : 0),
-                                ui::Group("What it costs", {lblprice}).Grow(below ? 1 : 0)};
+  std::vector<ui::Box> cards = {
+      ui::Group("So far", {ui::Columns({picfirst, picsecond}), lblwho, lblpartner}).Grow(),
+      ui::Group("Forecast", {lblforecast}).Grow(below ? 1 : 0),
+      ui::Group("What it costs", {lblprice}).Grow(below ? 1 : 0)};
   return below ? ui::Columns(std::move(cards)) : ui::Rows(std::move(cards));
 }
 
@@ -107,7 +106,17 @@ void StepScreen::MakeButtons() {
       });
 }
 
+/// Which row it is for, and how far it is.
+void StepScreen::ShowPlace() {
+  const Wizard& at = wizard();
+  const std::string show = ShowName(world(), at.View.IsEvent);
+  lblplace.Text = "Row " + std::to_string(at.CurrentSlot) + (show.empty() ? "" : " of " + show) +
+                  ", step " + std::to_string(at.Step + 1) +
+                  (at.EarlierSteps > at.Step ? "; the later steps keep what still holds" : "");
+}
+
 void StepScreen::ShowSteps() {
+  ShowPlace();
   for (int step = 0; step < kLines; ++step) ShowStep(step);
 }
 
@@ -159,7 +168,7 @@ void StepScreen::ShowFaces(const Segment& draft) {
   for (ui::Picture* face : {&picfirst, &picsecond}) {
     const Worker* worker = world().FindWorker(faces[static_cast<std::size_t>(at++)]);
     face->Drawn = worker ? ui::Drawing(PortraitOf(*worker)) : ui::Drawing();
-    face->Visible = worker != nullptr;
+    face->Visible = worker && ListsAbreast() <= 2;
     face->Tip = worker ? worker->Name.Str() : std::string();
     face->Height = 88;
   }

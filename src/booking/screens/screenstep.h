@@ -86,6 +86,7 @@ class StepScreen : public ui::Screen {
   void Finish(bool goOn);
   void MakeButtons();
   void ShowSteps();
+  void ShowPlace();
   void ShowStep(int step);
   void ShowFaces(const Segment& draft);
   void ShowForecast(const Segment& draft);
@@ -102,6 +103,7 @@ class StepScreen : public ui::Screen {
   ui::Array<ui::Label> lblsofar{"lblsofar", kLines, [this](const std::string& line, int) {
                                   return std::make_unique<ui::Label>(*this, line);
                                 }};
+  ui::Label lblplace{*this, "lblplace"};
   ui::Picture picfirst{*this, "picfirst"};
   ui::Picture picsecond{*this, "picsecond"};
   ui::Label lblwho{*this, "lblwho"};
