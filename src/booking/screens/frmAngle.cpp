@@ -127,6 +127,14 @@ class frmAnglePeople : public StepScreen {
     return there ? &candidates[static_cast<std::size_t>(at)] : nullptr;
   }
 
+  void cmb_Click(int box) {
+    const Candidate* candidate = Chosen(box);
+    const std::string marks = candidate ? MarksOf(candidate->Uid) : "";
+    lblpartner.Text = marks.empty() ? "" : candidate->Name + ": " + marks;
+    ShowAbout(box);
+    ShowOutlook();
+  }
+
   void ShowAbout(int box) {
     const Candidate* candidate = Chosen(box);
     lblabout(box).Text = candidate ? AboutCandidate(world(), At(box).Role, *candidate) : "";
@@ -176,10 +184,8 @@ class frmAnglePeople : public StepScreen {
   ui::Array<ui::Label> lbl = Labels("lbl");
   ui::Array<ui::ComboBox> cmb{"cmb", kAnglePlaces, [this](const std::string&, int box) {
                                 return std::make_unique<ui::ComboBox>(
-                                    *this, "cmb" + std::to_string(box), [this, box] {
-                                      ShowAbout(box);
-                                      ShowOutlook();
-                                    });
+                                    *this, "cmb" + std::to_string(box),
+                                    [this, box] { cmb_Click(box); });
                               }};
   ui::Array<ui::Label> lblabout = Labels("lblabout");
 };

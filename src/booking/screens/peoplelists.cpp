@@ -46,7 +46,8 @@ CellColumns<Worker> TableOf(int kind, bool narrow, const RosterMarks* marks) {
          return cell;
        }},
       ColumnOf({"Over", "Ov", "Popularity.", &Worker::Over}, narrow)};
-  if (!narrow)
+  // Talk stands or falls with one skill; of a match three lists abreast have no room for all.
+  if (!narrow || kind != kMatch)
     for (const Skill& skill :
          kind == kMatch ? std::span<const Skill>(kRingSkills) : std::span<const Skill>(kTalkSkills))
       table.push_back(ColumnOf(skill, narrow));

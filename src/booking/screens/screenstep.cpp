@@ -197,8 +197,17 @@ void StepScreen::ShowForecast(const Segment& draft) {
 
 void StepScreen::FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people,
                             bool none) {
+  grapplemont::FillPeople(list, people, buffer().Kind, Marks(), none);
+}
+
+const RosterMarks& StepScreen::Marks() {
   if (!marks_) marks_.emplace(world(), wizard().CurrentSlot);
-  grapplemont::FillPeople(list, people, buffer().Kind, *marks_, none);
+  return *marks_;
+}
+
+std::string StepScreen::MarksOf(int uid) {
+  const Worker* worker = world().FindWorker(uid);
+  return worker ? Joined(Marks().Of(*worker)) : std::string();
 }
 
 void StepScreen::FillRoster(ui::ListBox& list, std::vector<const Worker*> people, bool none) {

@@ -71,6 +71,9 @@ class StepScreen : public ui::Screen {
   void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none = false);
   void FillRoster(ui::ListBox& list, std::vector<const Worker*> people, bool none = false);
 
+  /// "Champion, Feud 71"; empty for nobody.
+  std::string MarksOf(int uid);
+
   /// Selects the row of this key, if there is one.
   template <class List>
   static void Choose(List& list, int key) {
@@ -85,6 +88,7 @@ class StepScreen : public ui::Screen {
  private:
   void Finish(bool goOn);
   void MakeButtons();
+  const RosterMarks& Marks();
   void ShowSteps();
   void ShowPlace();
   void ShowStep(int step);
