@@ -109,7 +109,7 @@ std::optional<Segment> Foreseen(const World& world, const Segment& segment,
 PriceTold TellPrice(const World& world, const Segment& segment, const Segment& paid) {
   if (segment.Kind == kMatch && !HasResult(segment)) return {"The result decides it.", true};
   const PriceOfBooking price = PriceOf(world, segment, paid);
-  PriceTold told{price.empty() ? "Nobody holds it against you." : "", price.empty()};
+  PriceTold told{price.empty() ? "Nobody holds this booking against you." : "", price.empty()};
   if (!price.empty() && RefusalsOf(world, segment).empty()) told.Text = "Nobody objects aloud.\n";
   if (price.size() > kNamed) {
     told.Text += HeldAgainstText(price) + ".";
