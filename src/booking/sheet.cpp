@@ -9,8 +9,11 @@
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modWresCheck.h"
+#include "records/segmentparts.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
+#include "show/titlechange.h"
+#include "show/turns.h"
 #include "storylines/feuds.h"
 #include "storylines/storynames.h"
 
@@ -65,12 +68,15 @@ std::vector<std::string> DetailsOfAngle(const World& world, const Segment& segme
 
 }  // namespace
 
+SheetTerms TermsOfSlot(std::string_view name) {
+  const auto slot = std::find(std::begin(kSlots), std::end(kSlots) - 1, name);
+  return kTvTerms[slot - std::begin(kSlots)];
+}
+
 SheetTerms TermsOf(const World& world, bool isEvent) {
   if (isEvent) return EventOfToday(world) ? kEventTerms : SheetTerms{};
   const Show* show = ShowOfToday(world);
-  if (!show) return {};
-  const auto slot = std::find(std::begin(kSlots), std::end(kSlots) - 1, show->Slot.View());
-  return kTvTerms[slot - std::begin(kSlots)];
+  return show ? TermsOfSlot(show->Slot) : SheetTerms{};
 }
 
 SheetCount CountSheet(const World& world, bool isEvent) {
@@ -116,11 +122,10 @@ std::string SheetHeading(const World& world, bool isEvent) {
          ShowName(world, isEvent);
 }
 
-std::string SheetWarning(const World& world, bool isEvent) {
+std::string SheetWarning(const SheetTerms& terms, bool isEvent) {
   if (isEvent)
     return "Warning : You must have a minimum of 4 matches, and 6 segments overall (not including "
            "the dark match).";
-  const SheetTerms terms = TermsOf(world, false);
   return "Warning : You must have a minimum of " + std::to_string(terms.MinMatches) +
          " matches, and a minimum of " + std::to_string(terms.MinSegments) + " segments overall.";
 }
@@ -179,6 +184,33 @@ std::vector<std::string> DetailsOfRow(const World& world, const Segment& segment
   if (segment.Kind == kMatch) return DetailsOfMatch(world, segment);
   if (segment.Kind == kAngle) return DetailsOfAngle(world, segment);
   return {};
+}
+
+std::vector<std::string> ChangesBy(const World& world, const Segment& segment) {
+  std::vector<std::string> changes;
+  if (segment.Kind == kEmptySegment) return changes;
+  if (const std::vector<int> won = NewChampions(world, segment); !won.empty())
+    changes.push_back(SideText(world, won) + (won.size() > 1 ? " win the " : " wins the ") +
+                      segment.TitleName + ".");
+  for (const TurnCall& turn : BookedTurns(world, segment))
+    changes.push_back(NameOf(world, turn.Turner) + " turns" +
+                      (turn.Other == 0 ? "" : " on " + NameOf(world, turn.Other)) + ".");
+  for (const int uid : EverybodyOf(segment))
+    if (const Worker* worker = world.FindWorker(uid); worker && !worker->Debuted)
+      changes.push_back(worker->Name + " is seen for the first time.");
+  if (segment.Kind == kMatch && PurposeOf(segment).Does == Aim::EndsFeud)
+    changes.emplace_back("The feud between them ends.");
+  return changes;
+}
+
+std::vector<std::string> ChangesBy(const World& world, const AutoCard& card) {
+  std::vector<std::string> changes;
+  for (std::size_t row = 0; row < card.Rows.size(); ++row) {
+    if (card.Reasons[row].empty()) continue;
+    for (const std::string& change : ChangesBy(world, card.Rows[row]))
+      changes.push_back("Row " + std::to_string(row + 1) + ": " + change);
+  }
+  return changes;
 }
 
 std::vector<const Worker*> NotOnTheCard(const World& world, bool isEvent) {

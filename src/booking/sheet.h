@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "booking/auto/autobooker.h"
@@ -20,6 +21,9 @@ inline constexpr int kDarkMatch = 1;
 /// of today nothing is open.
 SheetTerms TermsOf(const World& world, bool isEvent);
 
+/// Of a television show in this time slot, whenever it is.
+SheetTerms TermsOfSlot(std::string_view slot);
+
 /// What is booked of what counts.
 struct SheetCount {
   int Matches = 0;
@@ -38,7 +42,7 @@ int NewSegments(const World& world, const AutoCard& card);
 /// "Television Booking Sheet For Tidal Force".
 std::string SheetHeading(const World& world, bool isEvent);
 /// What the sheet warns of, with its minimum.
-std::string SheetWarning(const World& world, bool isEvent);
+std::string SheetWarning(const SheetTerms& terms, bool isEvent);
 /// "CWA Crown Title Match!"; empty where none is at stake.
 std::string TitleTip(const Segment& segment);
 
@@ -60,6 +64,11 @@ std::vector<std::string> SummaryOfRow(const World& world, const Segment& segment
 /// What these lines leave out, so that nothing of the row stays untold: who has entered a battle
 /// royal, who beats whom in a team, in which order people leave, who plays which part in an angle.
 std::vector<std::string> DetailsOfRow(const World& world, const Segment& segment);
+/// What the Segment would leave changed, a sentence each: a new champion, who turns, who is seen
+/// for the first time, a feud that it ends.
+std::vector<std::string> ChangesBy(const World& world, const Segment& segment);
+/// The same of the rows that a card adds: "Row 3: Bram Okafor wins the CWA Crown."
+std::vector<std::string> ChangesBy(const World& world, const AutoCard& card);
 /// Who may be booked and is not on the card yet, the most popular first.
 std::vector<const Worker*> NotOnTheCard(const World& world, bool isEvent);
 

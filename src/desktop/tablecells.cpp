@@ -19,7 +19,7 @@ namespace {
 using ui::ColumnKind;
 
 constexpr int kBarWidth = 56, kBarHeight = 6;
-constexpr int kTagHeight = 19, kTagSide = 6;
+constexpr int kTagHeight = 19, kTagSide = 6, kTagGap = 4;
 constexpr int kRowButton = 76;
 constexpr int kDrawn = 24;  // high
 constexpr int kStar = 18;   // wide, with its gap
@@ -56,6 +56,21 @@ void DrawTag(QPainter& painter, const QRect& room, const ui::Cell& cell, const C
   painter.setFont(TagFont());
   painter.setPen(tone == ui::Tone::Plain ? c.Soft : TextColour(c, tone));
   painter.drawText(box, Qt::AlignCenter, words);
+}
+
+int TagWidth(const QString& words) {
+  return QFontMetrics(TagFont()).horizontalAdvance(words) + 2 * Px(kTagSide);
+}
+
+/// One after the other; what has no room is told by the tip.
+void DrawTags(QPainter& painter, QRect room, const ui::Cell& cell, const ui::Column& column,
+              const Colours& c) {
+  for (const QString& word : Shown(cell.Text).split(", ", Qt::SkipEmptyParts)) {
+    if (room.width() < 3 * Px(kTagSide)) return;
+    const std::string says = word.toStdString();
+    DrawTag(painter, room, {says, column.ToneOf ? column.ToneOf(says) : cell.Colour}, c);
+    room.setLeft(room.left() + TagWidth(word) + Px(kTagGap));
+  }
 }
 
 void DrawBar(QPainter& painter, const QRect& room, const ui::Cell& cell, const Colours& c) {
@@ -127,8 +142,13 @@ int CellWidth(const ui::Cell& cell, ColumnKind kind) {
   const int sides = 2 * Px(kCellSide) + (cell.Best ? Px(kStar) : 0);
   const QString text = Shown(cell.Text);
   if (kind == ColumnKind::Button) return Px(kRowButton) + sides;
-  if (IsTag(cell, kind))
-    return QFontMetrics(TagFont()).horizontalAdvance(text) + 2 * Px(kTagSide) + sides + 2;
+  if (IsTag(cell, kind)) return TagWidth(text) + sides + 2;
+  if (kind == ColumnKind::Tags) {
+    int width = sides + 2;
+    for (const QString& word : text.split(", ", Qt::SkipEmptyParts))
+      width += TagWidth(word) + Px(kTagGap);
+    return width;
+  }
   const QFontMetrics metrics(TextFont());
   if (IsBar(cell, kind)) return Px(kBarWidth) + Px(8) + FiguresWidth(metrics, text) + sides;
   if (kind == ColumnKind::Number || kind == ColumnKind::Date)
@@ -187,6 +207,8 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
   }
   if (IsTag(cell, column.Kind)) {
     DrawTag(painter, room, cell, c);
+  } else if (column.Kind == ColumnKind::Tags) {
+    DrawTags(painter, room, cell, column, c);
   } else if (IsBar(cell, column.Kind)) {
     DrawBar(painter, room, cell, c);
   } else {

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
@@ -113,7 +114,9 @@ void TableGrid::mousePressEvent(QMouseEvent* event) {
   if (FollowAt(*event)) return;
   QTableView::mousePressEvent(event);
   const QModelIndex index = indexAt(event->position().toPoint());
-  if (event->button() == Qt::LeftButton && index.isValid()) PickAs(index.row(), event->modifiers());
+  if (event->button() != Qt::LeftButton || !index.isValid()) return;
+  if (model_.List().OnMove) dragged_ = index.row();
+  PickAs(index.row(), event->modifiers());
 }
 
 void TableGrid::PickAs(int row, Qt::KeyboardModifiers held) {
@@ -121,6 +124,12 @@ void TableGrid::PickAs(int row, Qt::KeyboardModifiers held) {
   if (extends && held.testFlag(Qt::ShiftModifier)) return Reached(row);
   if (extends && held.testFlag(Qt::ControlModifier)) return Added(row);
   Picked(row);
+}
+
+void TableGrid::mouseReleaseEvent(QMouseEvent* event) {
+  QTableView::mouseReleaseEvent(event);
+  const int from = std::exchange(dragged_, -1), to = indexAt(event->position().toPoint()).row();
+  if (from >= 0 && to >= 0 && from != to) Dragged(from, to);
 }
 
 void TableGrid::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -145,7 +154,10 @@ void TableGrid::mouseMoveEvent(QMouseEvent* event) {
   Hover(cell.row());
   const auto key = model_.List().Extends ? Qt::AltModifier : Qt::ControlModifier;
   const bool leads = event->modifiers().testFlag(key) && cell.isValid() && LinkOf(cell);
-  viewport()->setCursor(leads ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  viewport()->setCursor(leads ? Qt::PointingHandCursor
+                        : dragged_ >= 0 && cell.isValid() && cell.row() != dragged_
+                            ? Qt::ClosedHandCursor
+                            : Qt::ArrowCursor);
   if (event->buttons() == Qt::NoButton) QTableView::mouseMoveEvent(event);
 }
 

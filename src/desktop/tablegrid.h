@@ -61,6 +61,7 @@ class TableGrid : public QTableView {
   /// In a list that can have several rows: one more or one less, or all from the last picked on.
   std::function<void(int row)> Added, Reached;
   std::function<void()> AllPicked;
+  std::function<void(int row, int to)> Dragged;
   std::function<void(const QString& letters)> Typed;
   std::function<void()> Copied, Resized, Moved;
   /// The way to the link in a cell, by row and column of the list; empty for none.
@@ -74,6 +75,7 @@ class TableGrid : public QTableView {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -97,6 +99,7 @@ class TableGrid : public QTableView {
   TableHeading* heading_;
   QString empty_;
   int hover_ = -1;
+  int dragged_ = -1;  // the row that the mouse holds in a list whose rows can be moved
   bool painted_ = false;
 };
 

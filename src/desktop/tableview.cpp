@@ -120,6 +120,11 @@ void TableView::ConnectGrid() {
   grid_->Added = [this](int row) { AddRow(row); };
   grid_->Reached = [this](int row) { ReachRow(row); };
   grid_->AllPicked = [this] { PickAll(); };
+  grid_->Dragged = [this](int row, int to) {
+    currentKey_ = table_.RowAt(to).Key;
+    const auto& rows = table_.Rows();
+    Do<int, int>(ui::MoveRow, rows[Index(row)] + 1, rows[Index(to)] + 1);
+  };
   grid_->Copied = [this] { CopyCsv(); };
   grid_->Resized = [this] {
     if (table_.Follows()) FitColumns();

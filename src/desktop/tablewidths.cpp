@@ -75,8 +75,9 @@ std::vector<int> TableView::LeastWidths(const std::vector<int>& widths, int name
   for (const int column : table_.Columns()) {
     const std::size_t place = least.size();
     const int text = place == Index(table_.NamePlace()) ? name : other;
+    const ui::ColumnKind kind = model_.Column(column).Kind;
     least.push_back(
-        model_.Column(column).Kind != ui::ColumnKind::Text
+        kind != ui::ColumnKind::Text && kind != ui::ColumnKind::Tags
             ? widths[place]
             : std::min(widths[place], std::max(grid_->Heading().HeadingWidth(column), text)));
   }

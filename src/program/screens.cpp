@@ -45,6 +45,7 @@ namespace grapplemont {
   SCREEN(frmBooking)         \
   SCREEN(frmPPVBooking)      \
   SCREEN(frmAutoBook)        \
+  SCREEN(frmDrafts)          \
   SCREEN(frmDebut)           \
   SCREEN(frmAltRoster)       \
   SCREEN(frmAltBelts)        \

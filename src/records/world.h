@@ -104,6 +104,9 @@ class World {
   /// What has moved the morale of the player's people, oldest first.
   Records<MoodChange>& Moods() { return Of<MoodChange>(); }
   const Records<MoodChange>& Moods() const { return Of<MoodChange>(); }
+  /// The last cards that were held, and drafts.
+  Records<KeptRow>& KeptRows() { return Of<KeptRow>(); }
+  const Records<KeptRow>& KeptRows() const { return Of<KeptRow>(); }
   Records<GameInfo>& GameInfos() { return Of<GameInfo>(); }
   const Records<GameInfo>& GameInfos() const { return Of<GameInfo>(); }
   TextFile& Notes() { return std::get<TextFile>(tables_); }

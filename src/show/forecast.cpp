@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kRehearsals = 12;
 constexpr std::uint64_t kSeed = 20260301;
-constexpr int kTired = 60;
 constexpr int kTooOften = 3;
 
 /// What a road agent's note foretells when it comes in half of the rehearsals.
@@ -30,7 +29,8 @@ constexpr Omen kOmens[] = {
 
 /// What the slot keeps of its past says nothing of the show to come.
 constexpr std::string_view kPast[] = {"history.dat", "bouts.dat",   "tallies.dat", "reports.dat",
-                                      "awards.dat",  "yearend.dat", "months.dat",  "moods.dat"};
+                                      "awards.dat",  "yearend.dat", "months.dat",  "moods.dat",
+                                      "cards.dat"};
 
 bool IsPast(std::string_view file) {
   return std::find(std::begin(kPast), std::end(kPast), file) != std::end(kPast);
@@ -39,13 +39,14 @@ bool IsPast(std::string_view file) {
 /// A world to try a show in: as often as one likes from the same beginning.
 class Stage {
  public:
-  explicit Stage(const World& world)
+  Stage(const World& world, const std::vector<Segment>& sheet)
       : world_(std::make_unique<SeededDraws>(kSeed), std::make_unique<SeededDraws>(kSeed)) {
     std::map<std::string, Bytes> files;
     for (const Table* table : world.Tables())
       if (const ByteSpan bytes = table->Contents(); table->Exists() && !IsPast(table->File()))
         files.emplace(table->File(), Bytes(bytes.begin(), bytes.end()));
     world_.Load(files);
+    world_.Segments().Rewrite(sheet);
     world_.Session = world.Session;
     world_.MarkCommitted();
   }
@@ -66,8 +67,9 @@ void Widen(Forecast& range, int value, bool first) {
 /// Rehearses the show again and again and gathers what comes out.
 class Rehearsals {
  public:
-  Rehearsals(const World& world, bool isEvent, const CommentaryTeam& team)
-      : stage_(world), isEvent_(isEvent), team_(team) {
+  Rehearsals(const World& world, const std::vector<Segment>& sheet, bool isEvent,
+             const CommentaryTeam& team)
+      : stage_(world, sheet), isEvent_(isEvent), team_(team) {
     forecast_.Rows.resize(static_cast<std::size_t>(RowsOf(isEvent)));
   }
 
@@ -105,6 +107,10 @@ class Rehearsals {
   std::map<std::pair<int, std::size_t>, int> omens_;
 };
 
+std::vector<Segment> SheetOf(const World& world) {
+  return {world.Segments().begin(), world.Segments().end()};
+}
+
 bool IsAnythingBooked(const World& world, bool isEvent) {
   for (int number = 1; number <= LastRow(world, isEvent); ++number)
     if (world.Segments()[number].Kind != kEmptySegment) return true;
@@ -138,7 +144,7 @@ void WarnOfWorkers(const World& world, bool isEvent, std::vector<std::string>& w
   for (const Worker& worker : world.Workers()) {
     const auto found = seen.find(worker.Uid);
     if (found == seen.end() || worker.Uid == 0) continue;
-    if (worker.Condition < kTired)
+    if (worker.Condition < kTiredBelow)
       warnings.push_back(worker.Name + " is tired (condition " + std::to_string(worker.Condition) +
                          "%).");
     if (found->second >= kTooOften)
@@ -152,10 +158,20 @@ void WarnOfWorkers(const World& world, bool isEvent, std::vector<std::string>& w
 ShowForecast ForecastShow(const World& world, bool isEvent, const CommentaryTeam& team) {
   ShowForecast forecast;
   forecast.Rows.resize(static_cast<std::size_t>(RowsOf(isEvent)));
-  if (IsAnythingBooked(world, isEvent)) forecast = Rehearsals(world, isEvent, team).Hold();
+  if (IsAnythingBooked(world, isEvent))
+    forecast = Rehearsals(world, SheetOf(world), isEvent, team).Hold();
   WarnOfTable(world, team, forecast.Warnings);
   WarnOfWorkers(world, isEvent, forecast.Warnings);
   return forecast;
+}
+
+Forecast ForecastRow(const World& world, bool isEvent, int record, const Segment& segment) {
+  std::vector<Segment> sheet = SheetOf(world);
+  const auto row = static_cast<std::size_t>(record - 1);
+  if (record > LastRow(world, isEvent) || ShowName(world, isEvent).empty()) return {};
+  sheet[row] = segment;
+  // Who sits at the table moves the show's sum and no row.
+  return Rehearsals(world, sheet, isEvent, {}).Hold().Rows[row];
 }
 
 }  // namespace grapplemont

@@ -7,6 +7,9 @@
 
 namespace grapplemont {
 
+/// Below this condition somebody is tired, and careless in the ring.
+inline constexpr int kTiredBelow = 60;
+
 /// What a rating may come to.
 struct Forecast {
   int Low = 0, High = 0;
@@ -21,5 +24,7 @@ struct ShowForecast {
   std::vector<std::string> Warnings;  // what would hurt it
 };
 ShowForecast ForecastShow(const World& world, bool isEvent, const CommentaryTeam& team);
+/// The same of match.dat with another Segment in one of its records: what the row may come to.
+Forecast ForecastRow(const World& world, bool isEvent, int record, const Segment& segment);
 
 }  // namespace grapplemont

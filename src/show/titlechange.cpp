@@ -35,13 +35,18 @@ void Tell(SegmentRun& run, const Title& title, std::string_view what) {
   run.Notes += "The " + title.Name.Str() + std::string(what);
 }
 
+const Title* StakeOf(const World& world, const Segment& segment) {
+  if (segment.TitleName == "None") return nullptr;
+  for (const Title& title : world.Titles())
+    if (title.Owner == world.PlayerUid() && title.Name == segment.TitleName.View()) return &title;
+  return nullptr;
+}
+
 }  // namespace
 
 Title* TitleAtStake(World& world, const Segment& segment) {
-  if (segment.TitleName == "None") return nullptr;
-  for (Title& title : world.Titles())
-    if (title.Owner == world.PlayerUid() && title.Name == segment.TitleName.View()) return &title;
-  return nullptr;
+  const Title* title = StakeOf(world, segment);
+  return title ? &world.Titles()[world.Titles().NumberOf(*title)] : nullptr;
 }
 
 bool AreChampions(const Title& title, int one, int other) {
@@ -55,17 +60,22 @@ void PassTitle(SegmentRun& run, Title& title, int holder, int partner, std::stri
                TitleInProse(title.Name, title.Singles) + ". ";
 }
 
+std::vector<int> NewChampions(const World& world, const Segment& segment) {
+  const Title* title = StakeOf(world, segment);
+  if (!title || IsDraw(segment) || !TakesTitles(segment)) return {};
+  const std::vector<int> winners =
+      title->Singles ? std::vector<int>{segment.Winner} : WinnersOf(segment);
+  const bool stays = title->Singles
+                         ? title->Holder == winners[0]
+                         : winners.size() != 2 || AreChampions(*title, winners[0], winners[1]);
+  return stays ? std::vector<int>() : winners;
+}
+
 void ChangeTitle(SegmentRun& run) {
-  const Segment& segment = run.Segment;
-  Title* title = TitleAtStake(run.World, segment);
-  if (!title || IsDraw(segment) || !TakesTitles(segment)) return;
-  if (title->Singles) {
-    if (title->Holder != segment.Winner) PassTitle(run, *title, segment.Winner, 0, " won ");
-    return;
-  }
-  const std::vector<int> pair = WinnersOf(segment);
-  if (pair.size() == 2 && !AreChampions(*title, pair[0], pair[1]))
-    PassTitle(run, *title, pair[0], pair[1], " won ");
+  const std::vector<int> won = NewChampions(run.World, run.Segment);
+  if (won.empty()) return;
+  PassTitle(run, *TitleAtStake(run.World, run.Segment), won[0], won.size() > 1 ? won[1] : 0,
+            " won ");
 }
 
 void MoveTitleImage(SegmentRun& run) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "show/segmentrun.h"
 
 namespace grapplemont {
@@ -11,6 +13,9 @@ bool AreChampions(const Title& title, int one, int other);
 /// The Title gets new holders (`partner` 0 for a singles Title), and the notes tell it: " won " or
 /// another way in which they came by it.
 void PassTitle(SegmentRun& run, Title& title, int holder, int partner, std::string_view how);
+/// Who would hold the Title at stake after the match and does not now: a uid, or two of a team;
+/// nobody where it stays.
+std::vector<int> NewChampions(const World& world, const Segment& segment);
 /// The Title at stake goes to its new holders, if the result takes it there.
 void ChangeTitle(SegmentRun& run);
 /// Of a Title at stake, by the final rating.

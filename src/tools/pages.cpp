@@ -116,6 +116,7 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
 - `s1` to `s8` are the save slots. Each is a complete running world: the ten files, and those that only a game has:
   `gameinfo.dat` (a slot is in use exactly when it has one), `news.dat`, `notes.dat`, `feudinfo.dat`, `match.dat` while
   a show is booked, `showrun.dat` while one is under way, `incident.tmp` when something happened backstage,
+  `cards.dat` with the cards of the last shows and the drafts of those to come,
   `deeds.dat`, which keeps what the wrestling world did of late, `guide.dat`, how far the first week's guide has come,
   and the past:
   `history.dat` (every show of the player's, and how each promotion stood at every month end), `bouts.dat` (the player's

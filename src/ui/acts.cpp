@@ -172,6 +172,17 @@ std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, int row) 
   return OpenRow(desk, screen, name, Wanted{std::to_string(row), false});
 }
 
+std::string MoveRow(Desk& desk, Screen& screen, std::string_view name, int row, int to) {
+  return ReachA<ListBox>(screen, name, "put in another order", [&](ListBox& list) -> std::string {
+    if (!list.OnMove) return CannotBe(list, "put in another order");
+    for (const int wanted : {row, to})
+      if (wanted < 1 || wanted > list.Count()) return NoRow(list, {std::to_string(wanted), false});
+    const auto keyOf = [&](int at) { return list.Rows()[static_cast<std::size_t>(at - 1)].Key; };
+    desk.Event([&, from = keyOf(row), onto = keyOf(to)] { list.OnMove(from, onto); });
+    return {};
+  });
+}
+
 std::string Check(Desk& desk, Screen& screen, std::string_view name, bool on) {
   return Reach(screen, name, [&](Control& control) -> std::string {
     auto* box = dynamic_cast<CheckBox*>(&control);

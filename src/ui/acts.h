@@ -26,6 +26,8 @@ std::string PickRows(Desk& desk, Screen& screen, std::string_view name, std::vec
 /// Picks the row and opens it, as a double click does.
 std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, std::string_view rowOrText);
 std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, int row);
+/// Drags a row to another's place.
+std::string MoveRow(Desk& desk, Screen& screen, std::string_view name, int row, int to);
 std::string Check(Desk& desk, Screen& screen, std::string_view name, bool on);
 std::string Slide(Desk& desk, Screen& screen, std::string_view name, int value);
 /// Follows a link whose words are `words`, wherever the screen shows it: in a label, a report or a

@@ -202,6 +202,7 @@ enum class ColumnKind {
   Number,   // right-aligned, sorted by Cell::Number
   Percent,  // a bar with the number beside it, green to amber to red
   Tag,      // one of a few words in a frame, by the cell's tone
+  Tags,     // several, parted by ", ", each by Column::ToneOf
   Date,     // sorted by Cell::Number (day count)
   Button    // empty cells, in which the buttons of the rows stand (layout.h, WithButtons)
 };
@@ -213,6 +214,8 @@ struct Column {
   std::string Tip = {};
   /// The small picture before a cell's text, by the key of its row.
   std::function<Drawing(int key)> Draws = {};
+  /// What a word of Tags says by its colour.
+  Tone (*ToneOf)(std::string_view word) = nullptr;
 };
 
 struct Cell {
@@ -297,6 +300,8 @@ class ListBox : public Control {
   std::string EmptyText;  // what belongs here and how to get it
   Handler OnPick;
   Handler OnOpen;
+  /// A row is dragged to another's place, by their keys; empty where rows stay.
+  std::function<void(int from, int to)> OnMove;
 
  private:
   void ContentsChanged();

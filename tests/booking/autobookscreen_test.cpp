@@ -36,7 +36,10 @@ TEST(AutoBookScreen, ProposesACardAndLeavesTheSheetAlone) {
   ASSERT_EQ(play.Desk.TopName(), "frmAutoBook");
   EXPECT_EQ(Card(play).size(), 5u);
   EXPECT_EQ(Card(play)[1], "2 CWA Hand 29 over CWA Hand 30");
-  for (const Names& row : play.Desk.Rows("lstcard")) EXPECT_TRUE(row[5].ends_with("%")) << row[1];
+  for (const Names& row : play.Desk.Rows("lstcard")) {
+    EXPECT_TRUE(row[5].ends_with("%")) << row[1];
+    EXPECT_EQ(row[6].empty(), row[0] == "2") << "every row that it adds has its reason";
+  }
   EXPECT_TRUE(play.Desk.Text("lblrating").starts_with("Forecast "));
   play.Desk.Click("cmdagain");
   EXPECT_EQ(Card(play).size(), 5u);

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include "booking/keptcards.h"
 #include "booking/onsheet.h"
 #include "booking/sheet.h"
+#include "booking/wizard/segmentcheck.h"
 #include "records/angles.h"
 #include "show/forecast.h"
 #include "support/scripteddraws.h"
+#include "ui/acts.h"
 
 namespace grapplemont::test {
 namespace {
@@ -143,7 +146,7 @@ TEST(TelevisionSheet, TellsWhatIsBookedInARow) {
   EXPECT_NE(textOf(2).find("CWA Crown Title Match!"), std::string::npos);
   EXPECT_NE(textOf(3).find("\nWorker #1: CWA Hand 5\nWorker #2: CWA Hand 6\n"), std::string::npos)
       << textOf(3);
-  EXPECT_TRUE(textOf(4).ends_with("\nTo book something else in this row, remove it first."))
+  EXPECT_TRUE(textOf(4).ends_with("\nEdit changes a step of it, Remove empties the row."))
       << textOf(4);
   EXPECT_NE(textOf(1).find("Nothing is booked here."), std::string::npos);
 }
@@ -182,7 +185,7 @@ TEST(TelevisionSheet, BooksRemovesAndForgetsAfterAsking) {
   EXPECT_EQ(play.Desk.Selected("lstrows"), std::vector{6});
   play.Book(1, Singles(play.World(), "CWA Hand 1", "CWA Hand 2"));
   play.Book(2, Talk(play.World(), "CWA Hand 3"));
-  for (const int row : {1, 2, 7}) {  // the credits, a booked row, a closed one
+  for (const int row : {1, 7}) {  // the credits, a closed row
     play.Desk.OpenRow("lstrows", row);
     EXPECT_EQ(play.Desk.TopName(), "frmBooking") << row;
   }
@@ -202,6 +205,112 @@ TEST(TelevisionSheet, BooksRemovesAndForgetsAfterAsking) {
   play.Desk.Click("cmdnext");
   play.Desk.OpenRow("lstrows", 3);
   EXPECT_TRUE(play.Lies("frmBookSheet"));
+}
+
+TEST(TelevisionSheet, MovesEditsAndTakesBackItsRows) {
+  OnSheet play(Sunday("G"));
+  const auto sheet = [&] {
+    Names rows;
+    for (int record = 1; record <= 5; ++record)
+      if (play.World().Segments()[record].Kind != kEmptySegment)
+        rows.push_back(std::to_string(record) + " " + play.Row(record)[1]);
+    return rows;
+  };
+  for (const char* name : {"cmdedit", "cmdundo", "cmdredo"}) EXPECT_FALSE(play.Desk.Enabled(name));
+  Segment upset = Singles(play.World(), "CWA Hand 5", "CWA Hand 1");
+  upset.TitleName = "CWA Crown";
+  ASSERT_EQ(WhyNotBookable(play.World(), upset, {false, "All"}), Names());
+  play.Book(1, upset);
+  EXPECT_EQ(play.Row(1)[3], "New champion");
+  play.Desk.Pick("lstrows", 2);
+  EXPECT_NE(play.Desk.Text("txtrow").find("CWA Hand 5 wins the CWA Crown."), std::string::npos);
+  EXPECT_FALSE(play.Desk.Enabled("cmdup"));
+  play.Desk.Click("cmddown");
+  EXPECT_EQ(sheet(), Names{"2 CWA Hand 5 over CWA Hand 1"});
+  EXPECT_EQ(play.Desk.Selected("lstrows"), std::vector{3}) << "the selection goes along";
+  EXPECT_EQ(ui::MoveRow(play.Desk, *play.Desk.Top(), "lstrows", 3, 6), "");
+  EXPECT_EQ(sheet(), Names{"5 CWA Hand 5 over CWA Hand 1"});
+  EXPECT_FALSE(play.Desk.Enabled("cmddown"));
+  EXPECT_EQ(ui::MoveRow(play.Desk, *play.Desk.Top(), "lstrows", 6, 7), "");
+  EXPECT_EQ(sheet(), Names{"5 CWA Hand 5 over CWA Hand 1"}) << "a closed row takes nothing";
+
+  play.Desk.OpenRow("lstrows", 6);
+  EXPECT_EQ(play.Desk.TopName(), "frmBookSheet");
+  play.Desk.Click("cmdexit");
+  play.Desk.ExpectAsk("Remove?", kAnyText, true);
+  play.Desk.Click("cmdbook(5)");
+  EXPECT_EQ(sheet(), Names());
+  for (const char* stands : {"5 ", "2 ", "1 "}) {
+    play.Desk.Click("cmdundo");
+    EXPECT_EQ(sheet(), Names{stands + std::string("CWA Hand 5 over CWA Hand 1")});
+  }
+  play.Desk.Click("cmdredo");
+  EXPECT_EQ(sheet(), Names{"2 CWA Hand 5 over CWA Hand 1"});
+
+  // What does not hold any more is named and left out.
+  play.Desk.Event([&] {
+    Worker& hurt = Named(play.World().Workers(), "CWA Hand 5");
+    hurt.Status = "Inj";
+    hurt.StatusMonths = 2;
+    hurt.InjuryName = "Broken Leg";
+  });
+  play.Desk.ExpectSay("Undo",
+                      "Not everything holds any more:\nRow 1, CWA Hand 5 over CWA Hand 1: "
+                      "CWA Hand 5 cannot be booked for a match.");
+  play.Desk.Click("cmdundo");
+  EXPECT_EQ(sheet(), Names());
+}
+
+TEST(TelevisionSheet, LaysTheLastCardAndTheDraftOfItsDay) {
+  OnSheet play(Sunday("G"));
+  EXPECT_FALSE(play.Desk.Enabled("cmdlast"));
+  play.Desk.Event([&] {
+    World& world = play.World();
+    world.Segments()[2] = Singles(world, "CWA Hand 5", "CWA Hand 6");
+    world.Segments()[2].Rating = 40;
+    HistoryEntry held{};
+    held.On = kGameStart;
+    held.Kind = kPastTv;
+    held.Promotion = world.PlayerUid();
+    held.Name = "Tidal Force";
+    world.History().Append(held);
+    KeepLastCard(world);
+  });
+  play.Look();
+  play.Desk.ExpectAsk("Remove?", kAnyText, true);
+  play.Desk.Click("cmdbook(2)");
+  play.Desk.ExpectAsk("Last Card",
+                      "Lay the card of 01 March 2026 on the sheet? What is booked there now goes.",
+                      true);
+  play.Desk.Click("cmdlast");
+  EXPECT_EQ(play.Row(2)[1], "CWA Hand 5 over CWA Hand 6");
+  EXPECT_EQ(play.World().Segments()[2].Rating, 0);
+
+  // A week before its day: nobody's morale moves, and what is kept waits for the day.
+  play.Desk.CloseAll();
+  play.Desk.Open("frmDrafts");
+  play.Desk.Click("cmddraft");
+  EXPECT_EQ(play.Desk.Title(), "Draft For Tidal Force");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "Sunday, 08 March 2026, 5 rows");
+  play.Book(1, Singles(play.World(), "CWA Hand 7", "CWA Hand 8"));
+  play.Book(3, Singles(play.World(), "CWA Hand 9", "CWA Hand 10"));
+  play.Desk.Click("cmddoshow");
+  EXPECT_EQ(play.Desk.Rows("lstshows")[0].back(), "2 of 5 rows");
+  play.Desk.Event([&] {
+    play.World().Game().Today = kGameStart + std::chrono::days{7};
+    Worker& gone = Named(play.World().Workers(), "CWA Hand 10");
+    gone.Status = "Inj";
+    gone.StatusMonths = 2;
+    gone.InjuryName = "Broken Leg";
+  });
+  play.Desk.CloseAll();
+  play.Desk.ExpectAsk("Draft", kAnyText, true);
+  play.Desk.ExpectSay("Draft",
+                      "Not everything holds any more:\nRow 3, CWA Hand 9 over CWA Hand "
+                      "10: CWA Hand 10 cannot be booked for a match.");
+  play.Desk.Open("frmBooking");
+  EXPECT_EQ(play.Row(1)[1], "CWA Hand 7 over CWA Hand 8");
+  EXPECT_EQ(play.Row(3)[1], "<Nothing Booked>");
 }
 
 TEST(TelevisionSheet, HandsOverToTheShowWithTheCommentatorsOfItsRecord) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "booking/ring.h"
+#include "booking/wizard/earlier.h"
 #include "talkcompany.h"
 
 namespace grapplemont::test {
@@ -23,6 +24,7 @@ class Steps : public WizardHost {
 
   Wizard& State() override { return wizard_; }
   void StepStored(bool) override { StepDone(wizard_); }
+  void GoTo(int step) override { JumpTo(wizard_, step); }
   Steps& Open() {
     Desk.Open(MakeStepScreen(Play.Play, *this));
     return *this;

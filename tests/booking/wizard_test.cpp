@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "booking/ring.h"
 #include "booking/wizard/matchrules.h"
+#include "booking/wizard/objections.h"
 
 namespace grapplemont::test {
 namespace {
@@ -163,6 +166,98 @@ TEST(frmBookSheet, OpensOnlyWhatIsDue) {
   EXPECT_EQ(play.Desk.Text("txtdesc(5)"), "Result = Man 2 Wins");
   play.Desk.Click("cmdexit");
   EXPECT_EQ(play.Slot(2).Kind, kEmptySegment);
+}
+
+TEST(frmBookSheet, GoesBackToAStepAndKeepsWhatStillHolds) {
+  BookingPlay play(BookingRoster().Game("CWA"));
+  play.World().FindWorker(2)->Over = 95;
+  play.Book();
+  play.ChooseMatch("1 vs 1", "Singles");
+  play.ChoosePeople({"Man 1", "Man 3"});
+  play.Next();
+  play.Desk.Pick("cmbwinner", "Man 1");
+  for (int step = kResultStep; step <= kPurposeStep; ++step) play.Next();
+  play.Complete();
+  ASSERT_EQ(DescribeSegment(play.World(), play.Slot()), "Man 1 over Man 3");
+
+  play.Desk.Open(MakeEditSheet(play.Play, {1, false}));
+  EXPECT_TRUE(play.Desk.Enabled("cmdcomplete")) << "every step is done";
+  play.Desk.Click("cmdjump(3)");
+  EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1");
+  EXPECT_TRUE(play.Desk.Enabled("cmddone")) << "both are still chosen";
+  EXPECT_EQ(play.Desk.Text("lblsofar(6)"), "Result = Man 1 Wins");
+  play.Desk.Pick("lstwres2", "Man 4");
+  play.Next();
+  EXPECT_EQ(play.Desk.TopName(), "frmBookSheet");
+  EXPECT_EQ(play.Desk.Text("txtdesc(5)"), "Result = Man 1 Wins");
+  EXPECT_TRUE(play.Desk.Enabled("cmdcomplete"));
+
+  // Who would object is asked, however much of the rest holds.
+  play.Desk.Click("cmdjump(3)");
+  play.Desk.Pick("lstwres2", "Man 2");
+  play.Next();
+  ASSERT_EQ(play.Desk.TopName(), "frmBook1vs1Winner");
+  EXPECT_EQ(play.Desk.Text("cmbwinner"), "Man 1");
+  EXPECT_EQ(play.Desk.Text("lblprice"), "Man 2 will hold it against you: morale -15, 80 to 65.");
+  play.Desk.Pick("cmbwinner", "Man 2");
+  play.Next();
+  EXPECT_EQ(play.Desk.TopName(), "frmBookSheet");
+  EXPECT_EQ(play.Slot().Worker[1], 3) << "nothing is written before the end";
+  play.Complete();
+  EXPECT_EQ(DescribeSegment(play.World(), play.Slot()), "Man 2 over Man 1");
+}
+
+TEST(frmBookSheet, TakesMoraleOnceForARowThatIsEdited) {
+  World world = BookingRoster().Game("CWA");
+  Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 1", "Man 2"});
+  StoreResult(match, 1, {});
+  world.FindWorker(2)->Over = 85;
+  world.FindWorker(2)->Attitude = 60;
+  ApplyBookingGrievances(world, match);
+  EXPECT_EQ(world.FindWorker(2)->Morale, 70);
+  ApplyBookingGrievances(world, match, match);
+  EXPECT_EQ(world.FindWorker(2)->Morale, 70);
+  world.FindWorker(2)->Over = 100;
+  Segment paid = match;
+  StoreResult(paid, 2, {});
+  ApplyBookingGrievances(world, match, paid);
+  EXPECT_EQ(world.FindWorker(2)->Morale, 55) << "the row before cost him nothing";
+}
+
+TEST(frmBook1vs1, MarksWhatTheChoiceIsMadeOn) {
+  World world = BookingRoster()
+                    .Title("Crown", "Man 1")
+                    .Team("Odd Men", "Man 2", "Man 3")
+                    .Game("CWA")
+                    .Feud("Man 1", "Man 2", [](Feud& feud) { feud.Heat = 64; });
+  Named(world.Workers(), "Man 3").Condition = 24;
+  Named(world.Workers(), "Man 4").Debuted = false;
+  for (int bout = 0; bout < 3; ++bout) {
+    HeldMatch held{};
+    held.Promotion = world.PlayerUid();
+    held.Winners = 1;
+    held.Worker[0] = UidOf(world, "Man 7");
+    held.Worker[1] = UidOf(world, "Man 8");
+    world.Bouts().Append(held);
+  }
+  BookingPlay play(std::move(world));
+  play.Desk.Event([&] {
+    play.World().Segments()[2] = MatchOf(play.World(), kSingles, kPlainSingles, {"Man 5", "Man 6"});
+  });
+  play.Book();
+  play.ChooseMatch("1 vs 1", "Singles");
+  std::map<std::string, std::string> marks;
+  for (const Lines& row : play.Desk.Rows("lstwres1")) marks[row.front()] = row.back();
+  EXPECT_EQ(marks["Man 1"], "Champion, Feud 64");
+  EXPECT_EQ(marks["Man 2"], "Feud 64, Team");
+  EXPECT_EQ(marks["Man 3"], "Team, Tired");
+  EXPECT_EQ(marks["Man 4"], "Debut");
+  EXPECT_EQ(marks["Man 5"], "Row 2");
+  EXPECT_EQ(marks["Man 7"], "Hot");
+  EXPECT_EQ(marks["Man 8"], "");
+  play.Desk.Pick("lstwres1", "Man 3");
+  EXPECT_EQ(play.Desk.Text("lblforecast"), "Told once everybody is chosen.");
+  EXPECT_EQ(play.Desk.Text("lblwho"), "Man 3: Over 60, condition 24");
 }
 
 /// What Enter presses on the top screen.

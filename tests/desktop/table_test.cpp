@@ -177,6 +177,25 @@ TEST_F(TheTableInTheWindow, KeepsTheNameInPlaceWhileTheRestScrolls) {
   EXPECT_EQ(grid.horizontalScrollBar()->value(), 900);
 }
 
+TEST_F(TheTableInTheWindow, DragsARowToAnothersPlaceWhereTheListLetsIt) {
+  Open();
+  desktop::TableGrid& grid = Play.Grid("lstpeople");
+  const auto drag = [&](int from, int to) {
+    const auto at = [&](int row) { return grid.visualRect(grid.model()->index(row, 1)).center(); };
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, at(from));
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, at(to));
+  };
+  drag(1, 3);
+  EXPECT_EQ(Notes, Log({"picked 102"})) << "rows stay where nothing is said of moving them";
+  Page->lstpeople.OnMove = [&](int from, int to) {
+    Notes.push_back("moved " + std::to_string(from) + " to " + std::to_string(to));
+  };
+  drag(1, 3);
+  EXPECT_EQ(Notes.back(), "moved 102 to 104");
+  drag(2, 2);
+  EXPECT_EQ(Notes.back(), "picked 103");
+}
+
 TEST_F(TheTableInTheWindow, FollowsRowsThatComeAndGo) {
   Open();
   Play.ClickRow("lstpeople", 4);

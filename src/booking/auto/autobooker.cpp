@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <string_view>
 
 #include "booking/auto/autoplan.h"
 #include "storylines/feuds.h"
@@ -12,9 +14,22 @@ namespace {
 
 // What cannot wait comes first, so that the people it needs are still free; what only fills rows
 // comes last.
-constexpr void (*kSteps[])(AutoPlan&) = {EndFeuds,     DefendTitles,       AdvanceFeuds,
-                                         TurnWhoWaits, IntroduceNewcomers, BookTeams,
-                                         BookCrowds,   FillMatches};
+struct StepRow {
+  void (*Does)(AutoPlan&);
+  std::string_view Because;
+};
+constexpr StepRow kSteps[] = {
+    {EndFeuds, "The feud has had its time: this ends it."},
+    {DefendTitles, "The Title is due to be fought for."},
+    {AdvanceFeuds, "A feud that runs gets its part of every show."},
+    {TurnWhoWaits, "A turn has been prepared, and the fans would believe it by now."},
+    {IntroduceNewcomers, "Somebody waits to be seen for the first time."},
+    {BookTeams, "Two teams who are rested."},
+    {BookCrowds, "A match of more than two sides, for a change."},
+    {FillMatches, "Rested, close enough for a contest, and good against each other."},
+};
+constexpr std::string_view kNeeded = "The show could not start with fewer.";
+constexpr std::string_view kTalkBetween = "Talk between the matches, by those who can.";
 
 constexpr std::size_t kDarkMatch = 0;  // the first row of an Event
 
@@ -37,6 +52,7 @@ int Booked(const AutoPlan& plan, int kind = kEmptySegment) {
 
 /// Deeper and deeper into the roster, until the show has the matches that it cannot start without.
 void ReachForMatches(AutoPlan& plan, int matches) {
+  plan.Because = kNeeded;
   for (int depth = 1; depth <= kDeepest && matches > 0 && plan.RowsLeft() > 0; ++depth) {
     plan.Pool.Reach(kReserves[depth]);
     const auto before = static_cast<int>(plan.Matches.size());
@@ -49,8 +65,10 @@ void ReachForMatches(AutoPlan& plan, int matches) {
 /// What the one kind could not fill, the other may.
 void ShareRows(AutoPlan& plan) {
   plan.Pool.Reach(kReserves[0]);
+  plan.Because = std::end(kSteps)[-1].Because;
   plan.MatchesWanted = static_cast<int>(plan.Matches.size()) + plan.RowsLeft();
   FillMatches(plan);
+  plan.Because = kTalkBetween;
   plan.TalksWanted = static_cast<int>(plan.Talks.size()) + plan.RowsLeft();
   FillTalks(plan);
 }
@@ -73,6 +91,7 @@ void PlaceDarkMatch(AutoPlan& plan) {
   });
   if (dark == plan.Matches.end()) dark = plan.Matches.begin();
   plan.Rows[kDarkMatch] = dark->Segment;
+  plan.Reasons[kDarkMatch] = dark->Because;
   plan.Matches.erase(dark);
 }
 
@@ -119,13 +138,17 @@ std::string WhyNoTalk(const AutoPlan& plan) {
 
 AutoCard AutoBook(World& world, bool isEvent, int openRows) {
   AutoPlan plan(world, {isEvent, "All"}, openRows);
-  for (const auto step : kSteps) step(plan);
+  for (const StepRow& step : kSteps) {
+    plan.Because = step.Because;
+    step.Does(plan);
+  }
   ReachForMatches(plan, plan.LeastMatches - Booked(plan, kMatch));
+  plan.Because = kTalkBetween;
   FillTalks(plan);
   ShareRows(plan);
   ReachForMatches(plan, plan.LeastSegments - Booked(plan));
   PlaceOnRows(plan);
-  return {plan.Rows, WhatIsMissing(plan)};
+  return {plan.Rows, plan.Reasons, WhatIsMissing(plan)};
 }
 
 // Which row everything gets, and what is still missing then.
@@ -144,7 +167,9 @@ void PlaceOnRows(AutoPlan& plan) {
   std::size_t place = 0, match = 0, talk = 0;
   for (std::size_t row = plan.View.IsEvent ? 1 : 0; row < plan.Rows.size(); ++row) {
     if (plan.Rows[row].Kind != kEmptySegment || place == count) continue;
-    plan.Rows[row] = isTalk[place++] ? plan.Talks[talk++].Segment : plan.Matches[match++].Segment;
+    const Planned& next = isTalk[place++] ? plan.Talks[talk++] : plan.Matches[match++];
+    plan.Rows[row] = next.Segment;
+    plan.Reasons[row] = next.Because;
   }
   plan.Matches.clear();
   plan.Talks.clear();

@@ -22,6 +22,7 @@ inline constexpr SheetTerms kEventTerms = {9, 4, 6, 7};
 /// A card that the auto booker proposes.
 struct AutoCard {
   std::vector<Segment> Rows;         // a record of match.dat each, in order
+  std::vector<std::string> Reasons;  // why each is there; empty for what was booked before
   std::vector<std::string> Missing;  // what the roster could not fill; empty for a full card
 };
 

@@ -128,7 +128,8 @@ AutoPlan::AutoPlan(grapplemont::World& world, const BookingView& view, int openR
       View(view),
       Pool(world, view),
       MayUseAngles(EnoughWriters(world, view.IsEvent)),
-      Rows(SheetOf(world, openRows)) {
+      Rows(SheetOf(world, openRows)),
+      Reasons(Rows.size()) {
   const SheetTerms& terms = TermsOfRows(view.IsEvent, openRows);
   LeastMatches = terms.MinMatches;
   LeastSegments = terms.MinSegments;
@@ -168,13 +169,13 @@ bool Stands(const AutoPlan& plan, const Segment& segment) {
 }
 
 void PlanMatch(AutoPlan& plan, const Segment& match) {
-  plan.Matches.push_back({match, WeightOf(plan, match)});
+  plan.Matches.push_back({match, WeightOf(plan, match), plan.Because});
   CountIn(plan, match);
 }
 
 bool PlanTalk(AutoPlan& plan, const Segment& talk, int weight) {
   if (!Stands(plan, talk)) return false;
-  plan.Talks.push_back({talk, weight});
+  plan.Talks.push_back({talk, weight, plan.Because});
   CountIn(plan, talk);
   return true;
 }

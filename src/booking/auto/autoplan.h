@@ -79,6 +79,7 @@ class AutoPool {
 struct Planned {
   grapplemont::Segment Segment;
   int Weight = 0;
+  std::string Because = {};  // why it is on the card, a sentence
 };
 
 struct AutoPlan {
@@ -89,7 +90,9 @@ struct AutoPlan {
   AutoPool Pool;
   bool MayUseAngles;  // the writers are enough
 
-  std::vector<Segment> Rows;  // of the sheet, with what was booked before
+  std::vector<Segment> Rows;         // of the sheet, with what was booked before
+  std::vector<std::string> Reasons;  // of each row; empty for what was booked before
+  std::string Because;               // of the step that is at work
   std::vector<Planned> Matches, Talks;
 
   int MatchesWanted, TalksWanted;   // to be added, when the roster gives so much

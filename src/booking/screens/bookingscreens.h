@@ -1,5 +1,6 @@
 #pragma once
 
+#include "booking/keptcards.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -14,9 +15,22 @@ std::unique_ptr<ui::Screen> MakefrmDebut(Game& game, bool isEvent);
 /// The numbers of a worker, the player's most popular for uid 0.
 std::unique_ptr<ui::Screen> MakefrmQuickStat(Game& game, int workerUid);
 
+/// A record of match.dat, and what its sheet is for.
+struct SheetPlace {
+  int Record = 1;
+  bool IsEvent = false;
+  bool IsDraft = false;  // for a show to come
+};
 /// The wizard that fills this record of match.dat.
 std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, int slot, bool isEvent);
-/// The same on the desk, with its first step open over it.
+std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, const SheetPlace& place);
+/// The wizard filled with what is booked in the record.
+std::unique_ptr<ui::Screen> MakeEditSheet(Game& game, const SheetPlace& place);
+/// A wizard for an empty record on the desk, with its first step open over it.
 void OpenWizardAtOnce(Game& game, int slot, bool isEvent);
+void OpenWizardAtOnce(Game& game, const SheetPlace& place);
+
+/// The sheet of the draft for a show that is still to come.
+std::unique_ptr<ui::Screen> MakefrmDraft(Game& game, const ComingShow& show);
 
 }  // namespace grapplemont

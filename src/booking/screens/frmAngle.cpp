@@ -1,3 +1,5 @@
+#include <cstring>
+
 #include "booking/screens/screenstep.h"
 #include "booking/wizard/casting.h"
 #include "booking/wizard/roster.h"
@@ -47,6 +49,11 @@ class frmAngleType : public StepScreen {
 
   void lstangle_Click() {
     if (const Angle* angle = FindAngle(lstangle.Key())) lbldesc.Text = std::string(angle->Text);
+  }
+
+  void Recall(const Segment& earlier) override {
+    if (cmdnext->Enabled) Choose(lstangle, earlier.Style);
+    lstangle_Click();
   }
 
   bool Store() override {
@@ -120,15 +127,46 @@ class frmAnglePeople : public StepScreen {
     return there ? &candidates[static_cast<std::size_t>(at)] : nullptr;
   }
 
+  void cmb_Click(int box) {
+    const Candidate* candidate = Chosen(box);
+    const std::string marks = candidate ? MarksOf(candidate->Uid) : "";
+    lblpartner.Text = marks.empty() ? "" : candidate->Name + ": " + marks;
+    ShowAbout(box);
+    ShowOutlook();
+  }
+
   void ShowAbout(int box) {
     const Candidate* candidate = Chosen(box);
     lblabout(box).Text = candidate ? AboutCandidate(world(), At(box).Role, *candidate) : "";
   }
 
-  bool Store() override {
+  void Recall(const Segment& earlier) override {
+    if (earlier.Style != buffer().Style) return;
+    for (int box = 1; box <= kAnglePlaces; ++box) RecallBox(box, earlier);
+  }
+
+  /// Stables and Titles have no uid: they are known by their names.
+  void RecallBox(int box, const Segment& earlier) {
+    const auto& [role, candidates] = At(box);
+    int row = role.Optional ? 2 : 1;
+    for (const Candidate& candidate : candidates) {
+      Segment cast = earlier;
+      Cast(cast, role, candidate);
+      if (std::memcmp(&cast, &earlier, sizeof cast) == 0) cmb(box).Select(row);
+      ++row;
+    }
+    ShowAbout(box);
+  }
+
+  Segment Draft() override {
     Segment cast = buffer();
     for (int box = 1; box <= kAnglePlaces; ++box)
       if (const Candidate* candidate = Chosen(box)) Cast(cast, At(box).Role, *candidate);
+    return cast;
+  }
+
+  bool Store() override {
+    const Segment cast = Draft();
     if (const std::string why = WhyNotCast(world(), cast, wizard().View); !why.empty())
       return Fail(why);
     buffer() = cast;
@@ -147,7 +185,7 @@ class frmAnglePeople : public StepScreen {
   ui::Array<ui::ComboBox> cmb{"cmb", kAnglePlaces, [this](const std::string&, int box) {
                                 return std::make_unique<ui::ComboBox>(
                                     *this, "cmb" + std::to_string(box),
-                                    [this, box] { ShowAbout(box); });
+                                    [this, box] { cmb_Click(box); });
                               }};
   ui::Array<ui::Label> lblabout = Labels("lblabout");
 };

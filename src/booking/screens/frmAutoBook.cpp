@@ -32,13 +32,13 @@ class frmAutoBook : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page = PageOf(
-        ui::Columns(
-            {ui::Group("", {ui::Grow(lstcard)}).Grow(5),
-             ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(1),
-                       ui::Group("What it may come to", {lblrating, lblmissing}), ui::Spacer()})
-                 .Grow(2)}),
-        &lblfacts, {}, &cmdsheet);
+    ui::Page page =
+        PageOf(ui::Columns({ui::Group("", {ui::Grow(lstcard)}).Grow(5),
+                            ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(3),
+                                      ui::Group("What it changes", {ui::Grow(txtchanges)}).Grow(2),
+                                      ui::Group("What it may come to", {lblrating, lblmissing})})
+                                .Grow(2)}),
+               &lblfacts, {}, &cmdsheet);
     page.Actions = {&cmdback, &cmdagain, &cmdbook, &cmdsheet};
     return page;
   }
@@ -61,6 +61,7 @@ class frmAutoBook : public GameScreen {
     lblfacts.Text = show ? show->Name.Str() : "No show today";
     lblrating.Text = "Forecast " + RangeText(forecast_.Rating) + ".";
     FillRows();
+    ShowChanges();
     ShowMissing();
     const bool any = lstcard.Count() > 0;
     EnableUnless(cmdbook, WithCard(world(), card_, [&] { return MayStart(world(), false); }) ? ""
@@ -80,8 +81,19 @@ class frmAutoBook : public GameScreen {
   }
 
   CellColumns<SheetRow> Table() {
-    return SheetTable(world(), {{"#", ui::ColumnKind::Number},
-                                [](const SheetRow& row) { return ui::Cell(row.Record); }});
+    CellColumns<SheetRow> table = SheetTable(
+        world(),
+        {{"#", ui::ColumnKind::Number}, [](const SheetRow& row) { return ui::Cell(row.Record); }});
+    table.push_back({{"Why", ui::ColumnKind::Text, 1}, [this](const SheetRow& row) {
+                       return ui::Cell(card_.Reasons[static_cast<std::size_t>(row.Record - 1)],
+                                       ui::Tone::Muted);
+                     }});
+    return table;
+  }
+
+  void ShowChanges() {
+    const std::string lines = Joined(ChangesBy(world(), card_), "\n");
+    txtchanges.WriteLines(lines.empty() ? "No Title, no turn, no debut, no end of a feud." : lines);
   }
 
   void ShowMissing() {
@@ -94,7 +106,13 @@ class frmAutoBook : public GameScreen {
   void ShowRow() {
     const int record = lstcard.Key();
     if (record == 0) return txtrow.Write("");
-    txtrow.Write(ToldOf(world(), card_.Rows[static_cast<std::size_t>(record - 1)], false));
+    using Style = ui::Report::Style;
+    const auto row = static_cast<std::size_t>(record - 1);
+    std::vector<ui::Report::Paragraph> told = ToldOf(world(), card_.Rows[row], false);
+    const std::string& why = card_.Reasons[row];
+    told.push_back({Style::Strong, "Why"});
+    told.push_back({Style::Line, why.empty() ? "It stood on the sheet already." : why});
+    txtrow.Write(std::move(told));
   }
 
   void cmdbook_Click() {
@@ -116,6 +134,7 @@ class frmAutoBook : public GameScreen {
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstcard{*this, "lstcard", HeadingsOf(Table()), &frmAutoBook::ShowRow};
   ui::Report txtrow{*this, "txtrow"};
+  ui::Report txtchanges{*this, "txtchanges"};
   ui::Label lblrating{*this, "lblrating"};
   ui::Label lblmissing{*this, "lblmissing"};
   ui::Button cmdagain{*this, "cmdagain", "Another Card", &frmAutoBook::Propose};

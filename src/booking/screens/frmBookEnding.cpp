@@ -55,20 +55,25 @@ class frmBookWinner : public MatchStepScreen {
               uid);
   }
 
-  /// The others in their order; in a match of two sides those who do not stand beside the winner.
   void SuggestLosers() {
-    const auto sides = SidesOf(buffer());
-    const int winners = SideOf(buffer(), cmbwinner.Key());
-    std::vector<int> others;
-    for (const int uid : ResultCandidates(buffer()))
-      if (SideOf(buffer(), uid) != winners) others.push_back(uid);
+    const std::vector<int> others = SuggestedLosers(buffer(), cmbwinner.Key());
     for (int box = 1; box <= form_.Losers; ++box) {
       const auto i = static_cast<std::size_t>(box - 1);
       i < others.size() ? cmbloser(box).SelectKey(others[i]) : cmbloser(box).Select(1);
     }
   }
 
-  Segment Draft() {
+  void Recall(const Segment& earlier) override {
+    // A draw is the row of the key 0.
+    if (earlier.Winner != 0 || OffersDraw(buffer())) Choose(cmbwinner, earlier.Winner);
+    SuggestLosers();
+    const std::vector<int> losers = NamedLosers(earlier);
+    for (int box = 1; box <= form_.Losers && box <= std::ssize(losers); ++box)
+      Choose(cmbloser(box), losers[static_cast<std::size_t>(box - 1)]);
+    ShowPicks();
+  }
+
+  Segment Draft() override {
     Segment draft = buffer();
     std::vector<int> losers;
     for (int box = 1; box <= form_.Losers; ++box) losers.push_back(cmbloser(box).Key());
@@ -104,6 +109,7 @@ class frmBookWinner : public MatchStepScreen {
     const bool stands = SideOf(buffer(), lstring.Key()) == SideOf(buffer(), cmbwinner.Key());
     if (!form_.Teams || !stands) lstring.SelectKey(cmbwinner.Key());
     ShowObjections(Draft(), kResultStep);
+    ShowOutlook();
   }
 
   const ResultForm& form_;
@@ -152,7 +158,7 @@ class frmBookEnding : public MatchStepScreen {
     for (const int code : row_.Offers(world(), buffer()))
       lstcode.Add({PhraseText(world(), buffer(), phrases, code)}, code);
     lstcode.Select(FirstPick());
-    for (int list = 1; list <= runIns_; ++list) FillPeople(lstrun(list), RunIns(), true);
+    for (int list = 1; list <= runIns_; ++list) FillRoster(lstrun(list), RunIns(), true);
     ShowPicks();
   }
 
@@ -169,9 +175,7 @@ class frmBookEnding : public MatchStepScreen {
       runIns.push_back(ui::Group(kTitles[list - 1], {ui::Grow(lstrun(list))}).Grow());
     // One below the other: the words of the codes need the width.
     if (!runIns.empty()) tables.push_back(ui::Rows(std::move(runIns)).Grow());
-    return ui::Rows(
-        {ui::Columns(std::move(tables)).Grow(),
-         row_.Does == kPurposeStep ? ui::Group("What it costs", {txtsay}) : Objections()});
+    return ui::Rows({ui::Columns(std::move(tables)).Grow(), Objections()});
   }
 
   bool Store() override { return Accept(Draft(), row_.Does); }
@@ -191,12 +195,25 @@ class frmBookEnding : public MatchStepScreen {
                                     : NeedsAftermathRunIn(buffer().Style, lstcode.Key());
   }
 
-  Segment Draft() {
+  std::vector<Word*> RunInsOf(Segment& match) {
+    if (row_.Does == kAftermathStep) return AftermathRunIns(match);
+    return row_.Does == kFinishStep ? std::vector<Word*>{&match.Other1, &match.Other2}
+                                    : std::vector<Word*>();
+  }
+
+  void Recall(const Segment& earlier) override {
+    Segment held = row_.Does == kFinishStep ? BeforeAftermath(earlier) : earlier;
+    Choose(lstcode, held.*row_.Field);
+    const std::vector<Word*> fields = RunInsOf(held);
+    for (int list = 1; list <= runIns_ && list <= std::ssize(fields); ++list)
+      Choose(lstrun(list), *fields[static_cast<std::size_t>(list - 1)]);
+    ShowPicks();
+  }
+
+  Segment Draft() override {
     Segment draft = buffer();
     draft.*row_.Field = lstcode.Key();
-    std::vector<Word*> fields;
-    if (row_.Does == kFinishStep) fields = {&draft.Other1, &draft.Other2};
-    if (row_.Does == kAftermathStep) fields = AftermathRunIns(draft);
+    const std::vector<Word*> fields = RunInsOf(draft);
     for (int list = 1; list <= runIns_ && NeedsRunIn(); ++list)
       *fields[static_cast<std::size_t>(list - 1)] = lstrun(list).Key();
     return draft;
@@ -208,10 +225,8 @@ class frmBookEnding : public MatchStepScreen {
       lstrun(list).Enabled = needed;
       lstrun(list).Tip = needed ? "" : "Nobody runs in for this " + std::string(row_.Lowered) + ".";
     }
-    if (row_.Does == kPurposeStep)
-      ShowGrievances(txtsay, world(), Draft());
-    else
-      ShowObjections(Draft(), row_.Does);
+    ShowObjections(Draft(), row_.Does);
+    ShowOutlook();
   }
 
   const EndingRow& row_;

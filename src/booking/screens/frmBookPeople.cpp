@@ -2,8 +2,11 @@
 
 #include "booking/screens/screenstep.h"
 #include "booking/wizard/matchrules.h"
+#include "records/fields/wording.h"
+#include "records/modWresCheck.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
+#include "storylines/storynames.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
@@ -70,14 +73,25 @@ class frmBookChoice : public StepScreen {
 
   ui::Box Body() override { return ui::Group("", {ui::Grow(list_)}); }
 
+  void Recall(const Segment& earlier) override { Choose(list_, earlier.*row_.Field); }
+
+  Segment Draft() override {
+    Segment draft = buffer();
+    draft.*row_.Field = list_.Key();
+    return draft;
+  }
+
   bool Store() override {
-    buffer().*row_.Field = list_.Key();
+    buffer() = Draft();
     return true;
   }
 
   const ChoiceRow& row_;
-  ui::ListBox list_{
-      *this, std::string(row_.List), {{std::string(row_.Heading)}}, {}, [this] { GoOn(); }};
+  ui::ListBox list_{*this,
+                    std::string(row_.List),
+                    {{std::string(row_.Heading)}},
+                    [this] { ShowOutlook(); },
+                    [this] { GoOn(); }};
 };
 
 constexpr const char* kChooseAll = "Choose somebody in every list.";
@@ -93,8 +107,9 @@ class frmBookPeople : public MatchStepScreen {
     const auto roster = EligibleRoster(world(), wizard().View);
     for (int place = 1; place <= lstwres.Count(); ++place) {
       lstwres(place).EmptyText = "Nobody on the roster can be booked.";
-      FillPeople(lstwres(place), roster);
+      FillRoster(lstwres(place), roster);
     }
+    ShowWhoIsMissing();
     AllowDone(false, kChooseAll);
   }
 
@@ -106,10 +121,27 @@ class frmBookPeople : public MatchStepScreen {
         sides.push_back(SideBox(side));
       rows.push_back(ui::Columns(std::move(sides)).Grow());
     }
+    rows.push_back(lblmissing);
     return ui::Rows(std::move(rows));
   }
 
-  bool NeedsWidth() const override { return ListsAbreast() > 3; }
+  /// The most popular who cannot be chosen, with the reason, and how many they are.
+  void ShowWhoIsMissing() {
+    std::vector<const Worker*> missing = SeenOnShows(world());
+    std::erase_if(missing,
+                  [&](auto* worker) { return IsEligible(world(), *worker, wizard().View); });
+    lblmissing.Visible = !missing.empty();
+    if (missing.empty()) return;
+    const Worker& first = *missing.front();
+    const std::string why = first.Status != "Nor"            ? StatusLine(first)
+                            : first.Position == kNonWrestler ? "not in the ring on television"
+                                                             : "of another split";
+    const auto others = std::ssize(missing) - 1;
+    lblmissing.Text = "Not listed: " + first.Name.Str() + " (" + why + ")" +
+                      (others > 0 ? " and " + Counted(static_cast<int>(others), "other") : "") +
+                      ".";
+    lblmissing.Colour = ui::Tone::Muted;
+  }
 
   ui::Box SideBox(int side) {
     std::vector<ui::Box> lists;
@@ -120,11 +152,19 @@ class frmBookPeople : public MatchStepScreen {
     return ui::Group(title, {std::move(box).Grow()}).Grow();
   }
 
-  bool Store() override {
+  void Recall(const Segment& earlier) override {
+    for (int place = 1; place <= lstwres.Count(); ++place)
+      Choose(lstwres(place), UidAt(earlier, place));
+    AllowDone(!IsChosen(0), kChooseAll);
+  }
+
+  Segment Draft() override {
     Segment draft = buffer();
     std::ranges::copy(Chosen(), draft.Worker.begin());
-    return Accept(draft, kPeopleStep);
+    return draft;
   }
+
+  bool Store() override { return Accept(Draft(), kPeopleStep); }
 
   bool HasRowsOfMates() const { return style_.PerSide > 2; }
   /// Four alone stand two by two, so that the lists keep their width.
@@ -132,7 +172,7 @@ class frmBookPeople : public MatchStepScreen {
     if (HasRowsOfMates()) return 1;
     return style_.Code == kFourWay ? 2 : style_.Sides;
   }
-  int ListsAbreast() const { return HasRowsOfMates() ? style_.PerSide : SidesAbreast(); }
+  int ListsAbreast() const override { return HasRowsOfMates() ? style_.PerSide : SidesAbreast(); }
 
   /// Their uids by place; 0 for nobody yet.
   std::vector<int> Chosen() {
@@ -143,20 +183,32 @@ class frmBookPeople : public MatchStepScreen {
   bool IsChosen(int uid) { return std::ranges::count(Chosen(), uid) > 0; }
 
   void lstwres_Click(int place) {
-    if (style_.PerSide == 2 && place % 2 == 1 && lstwres(place + 1).Key() == 0)
-      SuggestPartner(lstwres(place).Key(), lstwres(place + 1));
+    lblpartner.Text = style_.PerSide > 1 ? OfferPartner(place) : "";
     AllowDone(!IsChosen(0), kChooseAll);
+    ShowOutlook();
   }
 
-  /// Who belongs to a Tag Team mostly stands beside their partner.
-  void SuggestPartner(int uid, ui::ListBox& partners) {
+  /// Who belongs to a Tag Team mostly stands beside their partner, as long as a place of the side
+  /// is free; says who was put there, or who could be.
+  std::string OfferPartner(int place) {
+    const int uid = lstwres(place).Key(), first = place - (place - 1) % style_.PerSide;
+    std::string told;
     for (const int partner : PartnersOf(world(), uid)) {
-      if (!IsChosen(partner)) partners.SelectKey(partner);
-      if (partners.Key() != 0) return;
+      const std::string team = SideText(world(), {uid, partner});
+      for (int beside = first; beside < first + style_.PerSide; ++beside) {
+        if (lstwres(beside).Key() == partner) return team + " stand together.";
+        if (style_.PerSide > 2 || lstwres(beside).Key() != 0 || IsChosen(partner)) continue;
+        lstwres(beside).SelectKey(partner);
+        if (lstwres(beside).Key() != 0)
+          return SideText(world(), {partner}) + " has been put beside the other of " + team + ".";
+      }
+      if (told.empty()) told = SideText(world(), {partner}) + " is the other of " + team + ".";
     }
+    return told;
   }
 
   const MatchStyleRow& style_;
+  ui::Label lblmissing{*this, "lblmissing"};
   ui::Array<ui::ListBox> lstwres{
       "lstwres", style_.Sides* style_.PerSide, [this](const std::string&, int place) {
         return std::make_unique<ui::ListBox>(
@@ -183,16 +235,29 @@ class frmBookSpecial : public MatchStepScreen {
                         ui::Rows({lblenter, ui::Grow(lstenter), cmdrem}).Grow()});
   }
 
-  bool Store() override {
-    Segment draft = buffer();
-    std::ranges::copy(entered_, draft.Worker.begin());
-    return Accept(draft, kPeopleStep);
+  void Recall(const Segment& earlier) override {
+    const auto roster = EligibleRoster(world(), wizard().View);
+    for (const int uid : PeopleOf(earlier))
+      if (std::ranges::any_of(roster, [&](auto* worker) { return worker->Uid == uid; }))
+        entered_.push_back(uid);
+    ShowLists();
   }
+
+  Segment Draft() override {
+    Segment draft = buffer();
+    const auto places = std::min(entered_.size(), draft.Worker.size());
+    std::copy_n(entered_.begin(), places, draft.Worker.begin());
+    return draft;
+  }
+
+  bool Store() override { return Accept(Draft(), kPeopleStep); }
+
+  int ListsAbreast() const override { return 2; }
 
   void ShowLists() {
     auto left = EligibleRoster(world(), wizard().View);
     std::erase_if(left, [&](auto* w) { return std::ranges::count(entered_, int(w->Uid)) > 0; });
-    FillPeople(lstroster, left);
+    FillRoster(lstroster, left);
     FillPeople(lstenter, WorkersOf(entered_));
     lblroster.Text = "Roster : " + std::to_string(left.size());
     lblenter.Text = "Entered : " + std::to_string(entered_.size());
@@ -201,6 +266,7 @@ class frmBookSpecial : public MatchStepScreen {
                                              " workers must be entered; so far it is " +
                                              std::to_string(entered_.size()) + ".");
     ShowButtons();
+    ShowOutlook();
   }
 
   void ShowButtons() {
@@ -243,6 +309,18 @@ class frmBookBelt : public MatchStepScreen {
 
   ui::Box Body() override { return ui::Group("", {ui::Grow(lsttitle)}); }
 
+  void Recall(const Segment& earlier) override {
+    if (const auto* title = FindTitle(world(), earlier.TitleName))
+      Choose(lsttitle, world().Titles().NumberOf(*title));
+  }
+
+  Segment Draft() override {
+    Segment draft = buffer();
+    draft.TitleName = "None";
+    if (lsttitle.Key() != 0) draft.TitleName = world().Titles()[lsttitle.Key()].Name;
+    return draft;
+  }
+
   bool Store() override {
     buffer().TitleName = "None";
     if (lsttitle.Key() == 0) return true;
@@ -261,7 +339,7 @@ class frmBookBelt : public MatchStepScreen {
   ui::ListBox lsttitle{*this,
                        "lsttitle",
                        {{"Title", K::Text, 4}, {"Holder", K::Text, 4}, {"Image", K::Percent, 2}},
-                       {},
+                       [this] { ShowOutlook(); },
                        [this] { GoOn(); }};
 };
 

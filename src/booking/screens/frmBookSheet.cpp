@@ -1,5 +1,8 @@
 #include "booking/screens/bookingscreens.h"
 #include "booking/screens/screenstep.h"
+#include "booking/sheet.h"
+#include "booking/wizard/earlier.h"
+#include "booking/wizard/foresight.h"
 #include "booking/wizard/objections.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -10,10 +13,10 @@ namespace {
 /// The wizard: one row a step, what has been chosen so far, and the way on and back.
 class frmBookSheet : public ui::Screen, public WizardHost {
  public:
-  frmBookSheet(Game& game, int slot, bool isEvent)
+  frmBookSheet(Game& game, Wizard wizard)
       : Screen(game.Desk(), "frmBookSheet", "Book A Segment", ui::Role::Dialog),
         game_(game),
-        wizard_(BeginBooking(slot, isEvent)) {
+        wizard_(std::move(wizard)) {
     cmbsplit.Tip = "Limit official competitors to roster split";
   }
 
@@ -31,9 +34,10 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     std::vector<ui::Box> rows;
     for (int step = 0; step < kRows; ++step)
       rows.push_back(ui::Columns({ui::Grow(At(txtstep, step), 3), ui::Grow(At(txtdesc, step), 5),
-                                  At(cmdback, step), At(cmdbook, step)}));
-    page.Body = ui::Rows({ui::Group("", {ui::Rows(std::move(rows))}), lblprice, ui::Spacer(),
-                          ui::Field("Limit official competitors to roster split", cmbsplit)});
+                                  At(cmdback, step), At(cmdbook, step), At(cmdjump, step)}));
+    page.Body =
+        ui::Rows({ui::Group("", {ui::Rows(std::move(rows))}), lblforecast, lblprice, ui::Spacer(),
+                  ui::Field("Limit official competitors to roster split", cmbsplit)});
     return page;
   }
 
@@ -52,8 +56,15 @@ class frmBookSheet : public ui::Screen, public WizardHost {
 
   void StepStored(bool goOn) override {
     StepDone(wizard_);
+    KeepWhatHolds(game_.World(), wizard_);
     RefreshWizard();
     if (goOn && !wizard_.SegmentComplete) OpenStep();
+  }
+
+  void GoTo(int step) override {
+    JumpTo(wizard_, step);
+    RefreshWizard();
+    OpenStep();
   }
 
   void OpenStep() {
@@ -76,10 +87,23 @@ class frmBookSheet : public ui::Screen, public WizardHost {
   void RefreshWizard() {
     for (int step = 0; step < kRows; ++step) ShowRow(step);
     lblfacts.Text = "Slot " + std::to_string(wizard_.CurrentSlot);
-    ShowGrievances(lblprice, game_.World(), wizard_.Buffer);
-    lblprice.Visible = wizard_.SegmentComplete;
+    ShowOutlook();
     cmdstep.Visible = !wizard_.SegmentComplete;
     EnableUnless(cmdcomplete, wizard_.SegmentComplete ? "" : "Every step must be done first.");
+  }
+
+  /// Of a finished booking.
+  void ShowOutlook() {
+    lblforecast.Visible = lblprice.Visible = wizard_.SegmentComplete;
+    if (!wizard_.SegmentComplete) return;
+    const World& world = game_.World();
+    const Forecast forecast =
+        ForecastRow(world, wizard_.View.IsEvent, wizard_.CurrentSlot, wizard_.Buffer);
+    lblforecast.Text = "Forecast: " + RangeText(forecast) + ".";
+    lblforecast.Visible = forecast != Forecast{};
+    const PriceTold price = TellPrice(world, wizard_.Buffer, wizard_.Paid);
+    lblprice.Text = price.Text;
+    lblprice.Colour = price.IsFree ? ui::Tone::Muted : ui::Tone::Amber;
   }
 
   void ShowRow(int step) {
@@ -91,21 +115,23 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     EnableUnless(At(cmdbook, step), step == CurrentRow() ? "" : "It is another step's turn.");
     EnableUnless(At(cmdback, step),
                  step == BackRow() ? "" : "Only the last step can be taken back.");
+    At(cmdjump, step).Visible = step < wizard_.Step;
   }
 
   /// On a finished booking the last step is done again.
   void cmdbook_Click() {
-    if (wizard_.SegmentComplete) StepBack(wizard_);
+    if (wizard_.SegmentComplete) JumpTo(wizard_, wizard_.Step - 1);
     OpenStep();
   }
 
   void cmdback_Click() {
     StepBack(wizard_);
+    wizard_.EarlierSteps = 0;
     RefreshWizard();
   }
 
   void cmdcomplete_Click() {
-    ApplyBookingGrievances(game_.World(), wizard_.Buffer);
+    if (!wizard_.IsDraft) ApplyBookingGrievances(game_.World(), wizard_.Buffer, wizard_.Paid);
     game_.World().Segments()[wizard_.CurrentSlot] = wizard_.Buffer;
     Close();
   }
@@ -128,6 +154,12 @@ class frmBookSheet : public ui::Screen, public WizardHost {
       ForRows<ui::Button>("cmdback", "Back", &frmBookSheet::cmdback_Click);
   ui::Array<ui::Button> cmdbook =
       ForRows<ui::Button>("cmdbook", "Select", &frmBookSheet::cmdbook_Click);
+  ui::Array<ui::Button> cmdjump{"", kRows, [this](const std::string&, int i) {
+                                  return std::make_unique<ui::Button>(
+                                      *this, "cmdjump(" + std::to_string(i - 1) + ")", "Change",
+                                      [this, i] { GoTo(i - 1); });
+                                }};
+  ui::Label lblforecast{*this, "lblforecast"};
   ui::Label lblprice{*this, "lblprice"};
   ui::ComboBox cmbsplit{*this, "cmbsplit", [this] { wizard_.View.Split = cmbsplit.Text; }};
   ui::Button cmdexit{*this, "cmdexit", "Exit", [this] { Close(); }};
@@ -138,17 +170,42 @@ class frmBookSheet : public ui::Screen, public WizardHost {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, int slot, bool isEvent) {
-  return std::make_unique<frmBookSheet>(game, slot, isEvent);
+namespace {
+
+Wizard AtPlace(Wizard wizard, const SheetPlace& place) {
+  wizard.IsDraft = place.IsDraft;
+  return wizard;
 }
 
-void OpenWizardAtOnce(Game& game, int slot, bool isEvent) {
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, const SheetPlace& place) {
+  return std::make_unique<frmBookSheet>(game,
+                                        AtPlace(BeginBooking(place.Record, place.IsEvent), place));
+}
+
+std::unique_ptr<ui::Screen> MakefrmBookSheet(Game& game, int slot, bool isEvent) {
+  return MakefrmBookSheet(game, {slot, isEvent});
+}
+
+std::unique_ptr<ui::Screen> MakeEditSheet(Game& game, const SheetPlace& place) {
+  const Segment& booked = game.World().Segments()[place.Record];
+  return std::make_unique<frmBookSheet>(
+      game, AtPlace(EditBooking(booked, place.Record, place.IsEvent), place));
+}
+
+void OpenWizardAtOnce(Game& game, const SheetPlace& place) {
   game.Desk().Event([&] {
-    auto wizard = std::make_unique<frmBookSheet>(game, slot, isEvent);
+    auto wizard = std::make_unique<frmBookSheet>(
+        game, AtPlace(BeginBooking(place.Record, place.IsEvent), place));
     frmBookSheet& sheet = *wizard;
     game.Desk().Open(std::move(wizard));
     sheet.OpenStep();
   });
+}
+
+void OpenWizardAtOnce(Game& game, int slot, bool isEvent) {
+  OpenWizardAtOnce(game, SheetPlace{slot, isEvent});
 }
 
 }  // namespace grapplemont

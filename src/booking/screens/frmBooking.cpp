@@ -22,6 +22,7 @@ class frmBooking : public SheetScreen {
  public:
   explicit frmBooking(Game& game) : SheetScreen(game, "frmBooking", false) {}
   void Load() override {
+    KeepLastCard(world());
     EmptySheet(world(), false);
     EnableUnless(cmdauto, HasAutoBooker(world())
                               ? ""
@@ -57,6 +58,7 @@ class frmPPVBooking : public SheetScreen {
  public:
   explicit frmPPVBooking(Game& game) : SheetScreen(game, "frmPPVBooking", true) {}
   void Load() override {
+    KeepLastCard(world());
     EmptySheet(world(), true);
     FillBox(cmbannouncer, CommentaryStaff(world()));
     FillColour();

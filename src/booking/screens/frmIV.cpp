@@ -31,7 +31,7 @@ class frmIVPeople : public StepScreen {
     for (int seat = 1; seat <= Seats(); ++seat) {
       const Role& is = Seat(seat);
       lstwres(seat).EmptyText = std::string(NobodyFor(is.From));
-      FillPeople(lstwres(seat), WorkersFor(world(), is.From, buffer(), wizard().View), is.Optional);
+      FillRoster(lstwres(seat), WorkersFor(world(), is.From, buffer(), wizard().View), is.Optional);
     }
   }
 
@@ -47,18 +47,36 @@ class frmIVPeople : public StepScreen {
     const Worker* worker = world().FindWorker(lstwres(seat).Key());
     if (!worker || Seat(seat).From != Casting::Talkers) return;
     const std::vector<int> partners = PartnersOf(world(), worker->Uid);
+    std::vector<std::string> along;
     for (int other = 1; other <= Seats(); ++other) {
       if (other == seat || chosen_[static_cast<std::size_t>(other)]) continue;
       const int partner = partners.empty() ? 0 : partners.front();
       const int uid = Seat(other).From == Casting::Talkers ? partner : int(worker->Manager);
       lstwres(other).Select(0);
       if (uid != 0) lstwres(other).SelectKey(uid);
+      if (lstwres(other).Key() != 0) along.push_back(SideText(world(), {lstwres(other).Key()}));
+    }
+    lblpartner.Text =
+        along.empty() ? "" : worker->Name + " brings along " + Joined(along, " and ") + ".";
+  }
+
+  int ListsAbreast() const override { return Seats(); }
+
+  void Recall(const Segment& earlier) override {
+    for (int seat = 1; seat <= Seats(); ++seat) {
+      Choose(lstwres(seat), UidAt(earlier, Seat(seat).Place));
+      chosen_[static_cast<std::size_t>(seat)] = true;
     }
   }
 
-  bool Store() override {
+  Segment Draft() override {
     Segment chosen = buffer();
     for (int seat = 1; seat <= Seats(); ++seat) Cast(chosen, Seat(seat), {{}, lstwres(seat).Key()});
+    return chosen;
+  }
+
+  bool Store() override {
+    const Segment chosen = Draft();
     const std::string why = asksTargets_ ? WhyNotTargets(chosen) : WhyNotSpeakers(world(), chosen);
     if (!why.empty()) return Fail(why);
     buffer() = chosen;
@@ -68,12 +86,17 @@ class frmIVPeople : public StepScreen {
   std::vector<Role> seats_;
   const bool asksTargets_;
   std::array<bool, 4> chosen_ = {};  // by seat
-  ui::Array<ui::ListBox> lstwres{
-      "lstwres", Seats(), [this](const std::string&, int seat) {
-        return std::make_unique<ui::ListBox>(
-            *this, (asksTargets_ ? "lstopp" : "lstwres") + std::to_string(seat),
-            PeopleColumns(Seats()), [this, seat] { Picked(seat); }, [this] { GoOn(); });
-      }};
+  ui::Array<ui::ListBox> lstwres{"lstwres", Seats(), [this](const std::string&, int seat) {
+                                   return std::make_unique<ui::ListBox>(
+                                       *this,
+                                       (asksTargets_ ? "lstopp" : "lstwres") + std::to_string(seat),
+                                       PeopleColumns(Seats()),
+                                       [this, seat] {
+                                         Picked(seat);
+                                         ShowOutlook();
+                                       },
+                                       [this] { GoOn(); });
+                                 }};
 };
 
 class frmIVPurpose : public StepScreen {
@@ -102,13 +125,22 @@ class frmIVPurpose : public StepScreen {
     return turns.empty() ? "" : "Who turns with \"Turn\": " + Joined(turns) + ".";
   }
 
+  void Recall(const Segment& earlier) override { Choose(cmbwinner, earlier.Purpose); }
+
+  Segment Draft() override {
+    Segment draft = buffer();
+    draft.Purpose = cmbwinner.Key();
+    return draft;
+  }
+
   bool Store() override {
-    buffer().Purpose = cmbwinner.Key();
+    buffer() = Draft();
     return true;
   }
 
   ui::Label lblturn{*this, "lblturn"};
-  ui::ListBox cmbwinner{*this, "cmbwinner", {{"Purpose"}}, {}, [this] { GoOn(); }};
+  ui::ListBox cmbwinner{
+      *this, "cmbwinner", {{"Purpose"}}, [this] { ShowOutlook(); }, [this] { GoOn(); }};
 };
 
 }  // namespace

@@ -1,9 +1,12 @@
 #include "booking/screens/screensheet.h"
 
+#include <algorithm>
+
 #include "booking/sheet.h"
 #include "records/fields/wording.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
+#include "show/titlechange.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -33,8 +36,10 @@ CellColumns<SheetRow> SheetTable(const World& world, const CellColumn<SheetRow>&
            }},
           {{"Kind", K::Tag}, [](const SheetRow& row) { return KindOfRow(row.Segment); }},
           {{"Title", K::Tag},
-           [](const SheetRow& row) {
-             return ui::Cell(TitleTip(row.Segment).empty() ? "" : "Title", ui::Tone::Gold);
+           [&](const SheetRow& row) {
+             if (TitleTip(row.Segment).empty()) return ui::Cell("");
+             return ui::Cell(NewChampions(world, row.Segment).empty() ? "Title" : "New champion",
+                             ui::Tone::Gold);
            }},
           {{"Feud", K::Tag},
            [&](const SheetRow& row) {
@@ -51,6 +56,8 @@ std::vector<ui::Report::Paragraph> ToldOf(const World& world, const Segment& seg
   std::vector<ui::Report::Paragraph> told{{Style::Strong, DescribeSegment(world, segment)}};
   for (std::string& line : SummaryOfRow(world, segment, isEvent))
     told.push_back({Style::Line, std::move(line)});
+  for (std::string& change : ChangesBy(world, segment))
+    told.push_back({Style::Strong, std::move(change)});
   return told;
 }
 
@@ -69,6 +76,7 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
   std::vector<ui::Column> headings = HeadingsOf(Table());
   headings.push_back({"", K::Button});
   lstrows.SetColumns(std::move(headings));
+  lstrows.OnMove = [this](int from, int to) { lstrows_Move(from, to); };
   lblwarn.Colour = ui::Tone::Amber;
   cmdcancel.Tip = isEvent_ ? "Calling it off costs image, and much of the money spent on it."
                            : "Calling it off costs image.";
@@ -84,7 +92,8 @@ ui::Page SheetScreen::Layout() {
   std::vector<ui::Button*> actions = FirstActions();
   actions.insert(actions.end(), {&cmdfill, &cmdcancel});
   std::vector<ui::Box> left{
-      ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(), lblwarn,
+      ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(),
+                     ui::Columns({cmdedit, cmdup, cmddown, cmdlast, cmdundo, cmdredo}), lblwarn,
                      ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblwarnings})
           .Grow()};
   for (ui::Box& below : BelowRows()) left.push_back(std::move(below));
@@ -105,17 +114,25 @@ void SheetScreen::ShowOpened() {
   Return();
   lstrows.SelectKey(1);
   ShowRow();
+  if (!IsDraft() && !Kept(true).Rows.empty()) LayKept(true);
 }
 
 int SheetScreen::OpenRows() {
-  return TermsOf(world(), isEvent_).OpenRows;
+  return Terms().OpenRows;
+}
+
+/// No rows when there is nothing; a draft is for its day alone.
+KeptCard SheetScreen::Kept(bool isDraft) {
+  KeptCard kept = FindCard(world(), {ShowName(world(), isEvent_), isEvent_, isDraft});
+  return isDraft && kept.On != world().Today() ? KeptCard() : kept;
 }
 
 void SheetScreen::Return() {
+  history_.Look(world());
   DropGone();
-  Title = SheetHeading(world(), isEvent_);
+  Title = Heading();
   lblfacts.Text = Facts();
-  lblwarn.Text = SheetWarning(world(), isEvent_);
+  lblwarn.Text = SheetWarning(Terms(), isEvent_);
   lblwarn.Colour = MayStart(world(), isEvent_) ? ui::Tone::Muted : ui::Tone::Amber;
   ShowForecast();
   ShowCounts();
@@ -134,10 +151,11 @@ void SheetScreen::ShowForecast() {
   const bool any = std::any_of(sheet.begin(), sheet.end(), [](const Segment& segment) {
     return segment.Kind != kEmptySegment;
   });
-  forecast_ =
-      any ? grapplemont::ForecastShow(world(), isEvent_, Team()) : grapplemont::ShowForecast();
-  lblforecast.Text =
-      any ? "Forecast " + RangeText(forecast_.Rating) + "." : "Nothing is booked yet.";
+  forecast_ = any && !IsDraft() ? grapplemont::ForecastShow(world(), isEvent_, Team())
+                                : grapplemont::ShowForecast();
+  lblforecast.Text = IsDraft() ? "Its forecast comes with its day."
+                     : any     ? "Forecast " + RangeText(forecast_.Rating) + "."
+                               : "Nothing is booked yet.";
   lblwarnings.Text = Joined(forecast_.Warnings, "\n");
   lblwarnings.Visible = !forecast_.Warnings.empty();
   FillRows();
@@ -175,13 +193,13 @@ void SheetScreen::ShowButton(int record) {
 }
 
 void SheetScreen::ShowCounts() {
-  const SheetTerms terms = TermsOf(world(), isEvent_);
+  const SheetTerms terms = Terms();
   const SheetCount count = CountSheet(world(), isEvent_);
   lblcount.Text = OfLeast(count.Matches, terms.MinMatches, "matches") + ", " +
                   OfLeast(count.Segments, terms.MinSegments, "segments") + " booked.";
-  EnableUnless(cmddoshow, MayStart(world(), isEvent_) ? ""
-                          : terms.OpenRows == 0       ? "There is no show today."
-                                                      : "Not enough yet: " + lblcount.Text.Get());
+  EnableUnless(cmddoshow, IsDraft() || MayStart(world(), isEvent_) ? ""
+                          : terms.OpenRows == 0                    ? "There is no show today."
+                                                : "Not enough yet: " + lblcount.Text.Get());
   EnableUnless(cmdfill, HasEmptyRow() ? "" : "No row is empty.");
 }
 
@@ -191,8 +209,27 @@ bool SheetScreen::HasEmptyRow() {
   return false;
 }
 
+/// What can be done with the selected row, and with the steps before.
+void SheetScreen::ShowRowActs() {
+  const int record = lstrows.Key();
+  const bool open = record >= 1 && record <= OpenRows();
+  EnableUnless(cmdedit, !open                               ? "Choose a row that is booked."
+                        : Row(record).Kind == kEmptySegment ? "Nothing is booked in this row."
+                                                            : "");
+  EnableUnless(cmdup, !open ? "Choose a row of the show." : record == 1 ? "It is the first." : "");
+  EnableUnless(cmddown, !open                  ? "Choose a row of the show."
+                        : record == OpenRows() ? "It is the last."
+                                               : "");
+  EnableUnless(cmdlast, IsDraft() || Kept(false).Rows.empty()
+                            ? "No card of this show has been kept yet."
+                            : "");
+  EnableUnless(cmdundo, history_.MayUndo() ? "" : "Nothing has been done on this sheet.");
+  EnableUnless(cmdredo, history_.MayRedo() ? "" : "Nothing has been taken back.");
+}
+
 /// What the selected row is about, without opening it.
 void SheetScreen::ShowRow() {
+  ShowRowActs();
   using Style = ui::Report::Style;
   const int record = lstrows.Key();
   if (record == 0)
@@ -208,15 +245,14 @@ void SheetScreen::ShowRow() {
   for (std::string& line : DetailsOfRow(world(), segment))
     told.push_back({Style::Line, std::move(line)});
   if (const std::string tip = TitleTip(segment); !tip.empty()) told.push_back({Style::Strong, tip});
-  told.push_back({Style::Muted, "To book something else in this row, remove it first."});
+  told.push_back({Style::Muted, "Edit changes a step of it, Remove empties the row."});
   txtrow.Write(std::move(told));
 }
 
 void SheetScreen::cmdbook_Click(int record) {
   lstrows.SelectKey(record);
   ShowRow();
-  if (Row(record).Kind == kEmptySegment)
-    return desk().Open(MakefrmBookSheet(game_, record, isEvent_));
+  if (Row(record).Kind == kEmptySegment) return desk().Open(MakefrmBookSheet(game_, At(record)));
   if (!desk().Ask("Remove?", "Are you sure you wish to remove this booking?")) return;
   ClearSegment(world().Segments()[record]);
   Return();
@@ -224,8 +260,54 @@ void SheetScreen::cmdbook_Click(int record) {
 
 void SheetScreen::lstrows_Open() {
   const int record = lstrows.Key();
-  if (record == 0 || record > OpenRows() || Row(record).Kind != kEmptySegment) return;
-  OpenWizardAtOnce(game_, record, isEvent_);
+  if (record == 0 || record > OpenRows()) return;
+  if (Row(record).Kind != kEmptySegment) return cmdedit_Click();
+  OpenWizardAtOnce(game_, At(record));
+}
+
+void SheetScreen::cmdedit_Click() {
+  desk().Open(MakeEditSheet(game_, At(lstrows.Key())));
+}
+
+void SheetScreen::lstrows_Move(int from, int to) {
+  if (from < 1 || to < 1 || std::max(from, to) > OpenRows()) return;
+  MoveRow(world(), from, to);
+  lstrows.SelectKey(to);
+  Return();
+}
+
+void SheetScreen::MoveBy(int rows) {
+  lstrows_Move(lstrows.Key(), lstrows.Key() + rows);
+}
+
+void SheetScreen::Tell(const std::string& title, const std::vector<std::string>& dropped) {
+  Return();
+  if (!dropped.empty())
+    desk().Say(title, "Not everything holds any more:\n" + Joined(dropped, "\n"));
+}
+
+void SheetScreen::LayKept(bool isDraft) {
+  const KeptCard kept = Kept(isDraft);
+  const std::string title = isDraft ? "Draft" : "Last Card";
+  std::string text =
+      "Lay " +
+      (isDraft ? std::string("the draft for today") : "the card of " + PlainDate(kept.On)) +
+      " on the sheet? What is booked there now goes.";
+  if (const std::string minded = MindedBy(world(), kept.Rows); !minded.empty())
+    text += "\n" + minded;
+  if (!desk().Ask(title, text)) return;
+  const Card before = CardOf(world());
+  const std::vector<std::string> dropped = LayCard(world(), kept.Rows, isEvent_, OpenRows());
+  PayForRows(world(), before);
+  Tell(title, dropped);
+}
+
+void SheetScreen::cmdundo_Click() {
+  Tell("Undo", history_.Undo(world(), isEvent_, OpenRows()));
+}
+
+void SheetScreen::cmdredo_Click() {
+  Tell("Redo", history_.Redo(world(), isEvent_, OpenRows()));
 }
 
 void SheetScreen::cmdfill_Click() {
@@ -234,9 +316,11 @@ void SheetScreen::cmdfill_Click() {
   const std::string missing = card.Missing.empty() ? "" : "\n" + Joined(card.Missing, "\n");
   if (fresh == 0)
     return desk().Say("Fill The Rest", "The roster has nothing to fill a row with." + missing);
+  const std::vector<std::string> changes = ChangesBy(world(), card);
   if (!desk().Ask("Fill The Rest",
                   "Book " + Counted(fresh, "segment") +
-                      " in the rows that are still empty? What you have booked stays." + missing))
+                      " in the rows that are still empty? What you have booked stays." +
+                      (changes.empty() ? "" : "\n" + Joined(changes, "\n")) + missing))
     return;
   TakeCard(world(), card);
   Return();

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "booking/card.h"
 #include "booking/screens/bookingscreens.h"
+#include "booking/sheet.h"
 #include "records/world.h"
 #include "show/forecast.h"
 #include "storylines/screens/screenpeople.h"
@@ -13,8 +15,8 @@ struct SheetRow {
   const grapplemont::Segment& Segment;
   const ShowForecast& Forecast;
 };
-/// Behind the first column: what is booked, of what kind, whether a Title is at stake, for which
-/// feud, and the forecast. Holds on to the world.
+/// Behind the first column: what is booked, of what kind, whether a Title is at stake or changes
+/// hands, for which feud, and the forecast. Holds on to the world.
 CellColumns<SheetRow> SheetTable(const World& world, const CellColumn<SheetRow>& first);
 /// What is booked, and the lines of the wizard's summary.
 std::vector<ui::Report::Paragraph> ToldOf(const World& world, const Segment& segment, bool isEvent);
@@ -38,13 +40,26 @@ class SheetScreen : public GameScreen {
   virtual std::string TopRow() = 0;
   /// Asks, and begins the show in the world; false when it does not come to that.
   virtual bool Begin() = 0;
+  /// How many rows it has and what it asks for.
+  virtual SheetTerms Terms() { return TermsOf(world(), isEvent_); }
+  virtual std::string Heading() { return SheetHeading(world(), isEvent_); }
+  /// The draft of a show to come: nothing is rehearsed for it, nobody's morale moves yet, and it
+  /// may be kept however short it is.
+  virtual bool IsDraft() const { return false; }
   /// Buttons that stand before the others, and boxes below the rows.
   virtual std::vector<ui::Button*> FirstActions() { return {}; }
   virtual std::vector<ui::Box> BelowRows() { return {}; }
 
   /// Shows a sheet that has just been opened, on an empty match.dat.
   void ShowOpened();
+  /// Lays what is kept of this show on the sheet, after asking.
+  void LayKept(bool isDraft);
+  /// What leaving it and starting it do.
+  void cmdback_Click() override;
+  virtual void cmddoshow_Click();
   void ShowForecast();
+  const bool isEvent_;
+
   ui::Handler Opens(const char* screen) {
     return [this, screen] { desk().Open(screen); };
   }
@@ -61,21 +76,36 @@ class SheetScreen : public GameScreen {
   void ShowRow();
   bool HasEmptyRow();
 
+  void ShowRowActs();
+  void Tell(const std::string& title, const std::vector<std::string>& dropped);
+
   void cmdbook_Click(int record);
   void lstrows_Open();
+  void lstrows_Move(int from, int to);
+  void MoveBy(int rows);
+  void cmdedit_Click();
+  void cmdundo_Click();
+  void cmdredo_Click();
   void cmdfill_Click();
-  void cmddoshow_Click();
-  void cmdback_Click() override;
   void cmdcancel_Click();
 
   using K = ui::ColumnKind;
-  const bool isEvent_;
+  SheetPlace At(int record) const { return {record, isEvent_, IsDraft()}; }
+  KeptCard Kept(bool isDraft);
+
   grapplemont::ShowForecast forecast_;
   std::vector<int> atHand_;  // who could be booked when the sheet was last shown
+  SheetHistory history_;
 
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstrows;
   ui::Array<ui::Button> cmdbook;
+  ui::Button cmdedit{*this, "cmdedit", "Edit", &SheetScreen::cmdedit_Click};
+  ui::Button cmdup{*this, "cmdup", "Move Up", [this] { MoveBy(-1); }};
+  ui::Button cmddown{*this, "cmddown", "Move Down", [this] { MoveBy(1); }};
+  ui::Button cmdlast{*this, "cmdlast", "Last Card", [this] { LayKept(false); }};
+  ui::Button cmdundo{*this, "cmdundo", "Undo", &SheetScreen::cmdundo_Click};
+  ui::Button cmdredo{*this, "cmdredo", "Redo", &SheetScreen::cmdredo_Click};
   ui::Label lblwarn{*this, "lblwarn"};
   ui::Label lblcount{*this, "lblcount"};
   ui::Report txtrow{*this, "txtrow"};
@@ -94,8 +124,10 @@ class SheetScreen : public GameScreen {
   ui::Button cmdturns{*this, "cmdturns", "Turns", Opens("frmTurn")};
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", Opens("frmNotepad")};
   ui::Button cmdfill{*this, "cmdfill", "Fill The Rest", &SheetScreen::cmdfill_Click};
+
+ protected:
   ui::Button cmdcancel{*this, "cmdcancel", "Cancel Show", &SheetScreen::cmdcancel_Click};
-  ui::Button cmddoshow{*this, "cmddoshow", "Start The Show!", &SheetScreen::cmddoshow_Click};
+  ui::Button cmddoshow{*this, "cmddoshow", "Start The Show!", [this] { cmddoshow_Click(); }};
 };
 
 }  // namespace grapplemont

@@ -1,11 +1,17 @@
 #include "booking/screens/screenstep.h"
 
 #include <algorithm>
+#include <cstring>
 #include <span>
 
+#include "booking/sheet.h"
+#include "booking/wizard/foresight.h"
 #include "booking/wizard/objections.h"
 #include "booking/wizard/refusals.h"
-#include "storylines/screens/screenpeople.h"
+#include "records/fields/wording.h"
+#include "show/titlechange.h"
+#include "storylines/storynames.h"
+#include "ui/likeness.h"
 
 namespace grapplemont {
 
@@ -17,27 +23,6 @@ constexpr StepMaker* kMatchSteps[] = {MakeChoiceStep, MakeChoiceStep, MakeChoice
 constexpr StepMaker* kInterviewSteps[] = {MakeChoiceStep, MakeChoiceStep, MakeSeatsStep,
                                           MakeSeatsStep, MakeTalkPurposeStep};
 constexpr StepMaker* kAngleSteps[] = {MakeChoiceStep, MakeAngleStep, MakeCastStep};
-
-constexpr int kNarrowName = 4;
-
-CellColumns<Worker> PeopleTableOf(bool narrow) {
-  using K = ui::ColumnKind;
-  const int wide = narrow ? 1 : 2;
-  return {{{"Name", K::Text, narrow ? kNarrowName : 6},
-           [](auto& worker) { return worker.Name.View(); }},
-          {{narrow ? "D." : "Disposition", K::Tag, narrow ? 1 : 3, "Face, Heel or Tweener."},
-           [narrow](auto& worker) {
-             ui::Cell cell = DispositionCell(worker);
-             if (narrow) cell.Text = worker.Disposition.Str();
-             return cell;
-           }},
-          {{narrow ? "Ov" : "Over", K::Number, wide, "Popularity."},
-           [](auto& worker) { return ui::Cell(worker.Over); }},
-          {{narrow ? "Con" : "Cond.", K::Number, wide, "Condition."},
-           [](auto& worker) { return ui::Cell(worker.Condition); }},
-          {{narrow ? "Mor" : "Mor.", K::Number, wide, "Morale."},
-           [](auto& worker) { return ui::Cell(worker.Morale); }}};
-}
 
 /// A battle royal may have many objections; these are read out beforehand.
 constexpr std::size_t kShown = 4;
@@ -52,35 +37,182 @@ StepScreen::StepScreen(Game& game, WizardHost& host)
 
 ui::Page StepScreen::Layout() {
   ui::Page page;
+  page.Facts = &lblplace;
   page.Actions = {cmdback.get(), cmddone.get(), cmdnext.get()};
   page.Main = cmdnext.get();
   page.Cancel = cmdback.get();
   page.Large = true;
-  std::vector<ui::Box> lines;
-  for (int line = 1; line <= kLines; ++line) lines.push_back(lblsofar(line));
-  lines.push_back(ui::Spacer());
-  page.Body = NeedsWidth()
-                  ? ui::Rows({ui::Group("", {ui::Columns(std::move(lines))}), Body().Grow()})
-                  : ui::Columns({ui::Group("So far", std::move(lines)).Grow(1), Body().Grow(4)});
+  std::vector<ui::Box> steps = StepBoxes();
+  if (ListsAbreast() == 1) {
+    steps.push_back(ui::Spacer());
+    page.Body = ui::Columns(
+        {ui::Group("Steps", std::move(steps)).Grow(2), Body().Grow(6), Outlook(false).Grow(2)});
+    return page;
+  }
+  const bool below = ListsAbreast() > 2;
+  ui::Box middle = below ? ui::Rows({Body().Grow(), Outlook(true)})
+                         : ui::Columns({Body().Grow(4), Outlook(false).Grow(1)});
+  page.Body = ui::Rows({ui::Group("", {ui::Columns(std::move(steps))}), std::move(middle).Grow()});
   return page;
 }
 
+/// A number to go back to the step by, and what was chosen there.
+std::vector<ui::Box> StepScreen::StepBoxes() {
+  std::vector<ui::Box> boxes;
+  const bool across = ListsAbreast() > 1;
+  for (int line = 1; line <= kLines; ++line) {
+    ui::Box number = (*cmdjump)(line), choice = ui::Grow(lblsofar(line));
+    if (across) {
+      boxes.push_back(std::move(number));
+      boxes.push_back(std::move(choice));
+    } else {
+      boxes.push_back(ui::Columns({std::move(number), std::move(choice)}));
+    }
+  }
+  return boxes;
+}
+
+/// Below the choice where that needs the width: then faces have no room.
+ui::Box StepScreen::Outlook(bool below) {
+  std::vector<ui::Box> cards = {
+      ui::Group("So far", {ui::Columns({picfirst, picsecond}), lblwho, lblpartner}).Grow(),
+      ui::Group("Forecast", {lblforecast}).Grow(below ? 1 : 0),
+      ui::Group("What it costs", {lblprice}).Grow(below ? 1 : 0)};
+  return below ? ui::Columns(std::move(cards)) : ui::Rows(std::move(cards));
+}
+
 void StepScreen::Load() {
+  MakeButtons();
+  ShowSteps();
+  lblpartner.Colour = ui::Tone::Blue;
+  Prepare();
+  const Wizard& at = wizard();
+  const bool alike = at.Earlier.Kind == at.Buffer.Kind || at.Step == kKindStep;
+  if (alike && at.Step < at.EarlierSteps) Recall(at.Earlier);
+  isReady_ = true;
+  ShowOutlook();
+}
+
+void StepScreen::MakeButtons() {
   cmdback = std::make_unique<ui::Button>(*this, "cmdback", "Back", [this] { Close(); });
   cmddone = std::make_unique<ui::Button>(*this, "cmddone", "Done", [this] { Finish(false); });
   cmdnext = std::make_unique<ui::Button>(*this, "cmdnext", "Next", [this] { Finish(true); });
-  ShowSoFar();
-  Prepare();
+  cmdjump = std::make_unique<ui::Array<ui::Button>>(
+      "cmdjump", kLines, [this](const std::string& name, int line) {
+        return std::make_unique<ui::Button>(*this, name, std::to_string(line), [this, line] {
+          Close();
+          host_.GoTo(line - 1);
+        });
+      });
 }
 
-void StepScreen::ShowSoFar() {
-  for (int step = 0; step < kLines; ++step) {
-    lblsofar(step + 1).Text = TextOfStep(world(), wizard(), step).Summary;
-    lblsofar(step + 1).Visible = step < wizard().Step;
+/// Which row it is for, and how far it is.
+void StepScreen::ShowPlace() {
+  const Wizard& at = wizard();
+  const std::string show = ShowName(world(), at.View.IsEvent);
+  lblplace.Text = "Row " + std::to_string(at.CurrentSlot) + (show.empty() ? "" : " of " + show) +
+                  ", step " + std::to_string(at.Step + 1) +
+                  (at.EarlierSteps > at.Step ? "; the later steps keep what still holds" : "");
+}
+
+void StepScreen::ShowSteps() {
+  ShowPlace();
+  for (int step = 0; step < kLines; ++step) ShowStep(step);
+}
+
+/// Done ones say what was chosen, the present one what it asks, and those that were done earlier
+/// what they are going to keep.
+void StepScreen::ShowStep(int step) {
+  Wizard earlier = wizard();
+  const bool kept = step > wizard().Step && step < wizard().EarlierSteps;
+  if (kept) {
+    earlier.Buffer = earlier.Earlier;
+    earlier.Step = earlier.EarlierSteps;
   }
-  if (wizard().Step > 0) return;
-  lblsofar(1).Text = "Nothing has been chosen yet.";
-  lblsofar(1).Visible = true;
+  const StepText text = TextOfStep(world(), earlier, step);
+  const bool isNow = step == wizard().Step, isDone = step < wizard().Step;
+  lblsofar(step + 1).Text = isNow ? text.Caption : text.Summary;
+  lblsofar(step + 1).Colour = isNow ? ui::Tone::Gold : kept ? ui::Tone::Muted : ui::Tone::Plain;
+  lblsofar(step + 1).Visible = isNow || isDone || kept;
+  ui::Button& jump = (*cmdjump)(step + 1);
+  jump.Visible = isNow || isDone || kept;
+  jump.Enabled = isDone;
+  jump.Tip = isDone  ? "Go back to this step. What the later ones hold stays as far as it can."
+             : isNow ? "This is the step that is open."
+                     : "Kept from before, if it still holds then.";
+}
+
+void StepScreen::ShowOutlook() {
+  if (!isReady_) return;
+  const Segment draft = Draft();
+  std::string lines = Joined(SoFar(world(), draft), "\n");
+  const std::vector<int> champions = NewChampions(world(), draft);
+  if (!champions.empty()) lines += "\nNew champion: " + SideText(world(), champions);
+  lblwho.Text = lines.empty() ? "Nobody has been chosen yet." : lines;
+  lblpartner.Visible = !lblpartner.Text->empty();
+  ShowFaces(draft);
+  ShowForecast(draft);
+  const PriceTold price = TellPrice(world(), draft, wizard().Paid);
+  lblprice.Text = price.Text;
+  lblprice.Colour = price.IsFree ? ui::Tone::Muted : ui::Tone::Amber;
+}
+
+/// The first of each side, or of those who talk.
+void StepScreen::ShowFaces(const Segment& draft) {
+  std::vector<int> faces;
+  if (draft.Kind != kMatch) faces = PeopleOf(draft);
+  if (draft.Kind == kMatch && draft.Style != kSpecial)
+    for (const std::vector<int>& side : SidesOf(draft)) faces.push_back(side.front());
+  faces.resize(2);
+  int at = 0;
+  for (ui::Picture* face : {&picfirst, &picsecond}) {
+    const Worker* worker = world().FindWorker(faces[static_cast<std::size_t>(at++)]);
+    face->Drawn = worker ? ui::Drawing(PortraitOf(*worker)) : ui::Drawing();
+    face->Visible = worker && ListsAbreast() <= 2;
+    face->Tip = worker ? worker->Name.Str() : std::string();
+    face->Height = 88;
+  }
+}
+
+void StepScreen::ShowForecast(const Segment& draft) {
+  const auto whole = Foreseen(world(), draft, wizard().View);
+  // A rehearsal takes its time, and most picks of a list's cursor change nothing.
+  if (whole && rehearsed_ && std::memcmp(&*whole, &*rehearsed_, sizeof(Segment)) == 0) return;
+  rehearsed_ = whole;
+  const Forecast now =
+      whole ? ForecastRow(world(), wizard().View.IsEvent, wizard().CurrentSlot, *whole)
+            : Forecast{};
+  lblforecast.Colour = now == Forecast{} ? ui::Tone::Muted : ui::Tone::Plain;
+  if (now == Forecast{}) {
+    lblforecast.Text = whole ? "There is no show today." : "Told once everybody is chosen.";
+    before_.reset();
+    return;
+  }
+  std::string text = RangeText(now);
+  const int change = before_ ? (now.Low + now.High - before_->Low - before_->High) / 2 : 0;
+  if (change != 0) text += (change > 0 ? ", +" : ", ") + std::to_string(change) + " with this pick";
+  lblforecast.Text = text;
+  before_ = now;
+}
+
+void StepScreen::FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people,
+                            bool none) {
+  grapplemont::FillPeople(list, people, buffer().Kind, Marks(), none);
+}
+
+const RosterMarks& StepScreen::Marks() {
+  if (!marks_) marks_.emplace(world(), wizard().CurrentSlot);
+  return *marks_;
+}
+
+std::string StepScreen::MarksOf(int uid) {
+  const Worker* worker = world().FindWorker(uid);
+  return worker ? Joined(Marks().Of(*worker)) : std::string();
+}
+
+void StepScreen::FillRoster(ui::ListBox& list, std::vector<const Worker*> people, bool none) {
+  SortByOver(people);
+  FillPeople(list, people, none);
 }
 
 std::vector<const Worker*> StepScreen::WorkersOf(const std::vector<int>& uids) {
@@ -121,25 +253,6 @@ std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host) {
   return step < steps.size() ? steps[step](game, host) : nullptr;
 }
 
-void ShowGrievances(ui::Label& label, const World& world, const Segment& booking) {
-  const std::string price = GrievanceText(world, booking);
-  label.Text = price.empty() ? "Nobody holds this booking against you." : "Morale: " + price + ".";
-  label.Colour = price.empty() ? ui::Tone::Muted : ui::Tone::Amber;
-}
-
-std::vector<ui::Column> PeopleColumns(int listsAbreast) {
-  return HeadingsOf(PeopleTableOf(listsAbreast > 2));
-}
-
-void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none) {
-  const auto columns = PeopleTableOf(list.Columns().front().Width == kNarrowName);
-  std::vector<ui::ListBox::Row> rows;
-  if (none) rows.push_back({{"None", "", "", "", ""}, 0});
-  for (const Worker* worker : people) rows.push_back(RowOf(columns, *worker, worker->Uid));
-  list.Fill(std::move(rows), false);
-  if (none) list.Select(1);
-}
-
 bool MatchStepScreen::Accept(const Segment& draft, MatchStep step) {
   if (const std::string why = WhyNotLeft(draft, step); !why.empty()) return Fail(why);
   for (const Refusal& refusal : RefusalsAt(world(), draft, step))
@@ -163,7 +276,7 @@ void MatchStepScreen::ShowObjections(const Segment& draft, MatchStep step) {
     refusals = RefusalsAt(world(), draft, step);
     // Where a purpose follows, its step tells the price.
     if (step == kResultStep && PurposesOf(draft.Style).empty())
-      price = HeldAgainstText(world(), draft);
+      price = HeldAgainstText(PriceOf(world(), draft, wizard().Paid));
   }
   std::string text;
   for (std::size_t i = 0; i < std::min(refusals.size(), kShown); ++i)

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "booking/screens/peoplelists.h"
 #include "booking/wizard/matchrules.h"
 #include "booking/wizard/refusals.h"
 #include "booking/wizard/wizard.h"
+#include "show/forecast.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -18,11 +21,15 @@ class WizardHost {
   virtual Wizard& State() = 0;
   /// A step has been stored: counts it and shows the wizard. `goOn` opens the next step at once.
   virtual void StepStored(bool goOn) = 0;
+  /// Goes back to a step that has been done, and opens it. What the later steps held is remembered.
+  virtual void GoTo(int step) = 0;
 };
 
-/// The step that the wizard stands at: a dialog over it. At its left is what has been chosen so
-/// far, at its right the step; Back leaves without storing, Done stores and shows the wizard, Next
-/// stores and goes straight on to the next step, as Enter does and a double click in a list.
+/// The step that the wizard stands at: a dialog over it. At its left are the steps, those done to
+/// go back to; in the middle is this one's choice; at its right what the picks make of the Segment:
+/// who is in it, its forecast, its price. Back leaves without storing, Done stores and shows the
+/// wizard, Next stores and goes straight on to the next step, as Enter and a double click in a list
+/// do.
 class StepScreen : public ui::Screen {
  public:
   StepScreen(Game& game, WizardHost& host);
@@ -39,10 +46,14 @@ class StepScreen : public ui::Screen {
 
   /// Fills the step's controls when it opens.
   virtual void Prepare() = 0;
-  /// The right-hand side.
+  /// Chooses again what was chosen before the step was gone back to, as far as it is still there.
+  virtual void Recall(const Segment& earlier) = 0;
+  /// The choice.
   virtual ui::Box Body() = 0;
-  /// Whether it wants the whole width: then what has been chosen so far stands above it.
-  virtual bool NeedsWidth() const { return false; }
+  /// How many lists of people stand side by side: two and more want the width of the steps.
+  virtual int ListsAbreast() const { return 1; }
+  /// The Segment with what is picked now.
+  virtual Segment Draft() { return buffer(); }
   /// Checks what is chosen and puts it into the buffer; false leaves the step open with nothing
   /// stored.
   virtual bool Store() = 0;
@@ -53,32 +64,68 @@ class StepScreen : public ui::Screen {
   void AllowDone(bool allowed, const std::string& why);
   bool Fail(const std::string& message);  // says it, titled "Error!"; always false
 
+  /// Columns for lists of people, and what fills them. A roster has the most popular on top.
+  std::vector<ui::Column> PeopleColumns(int listsAbreast = 1) {
+    return grapplemont::PeopleColumns(buffer().Kind, listsAbreast);
+  }
+  void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none = false);
+  void FillRoster(ui::ListBox& list, std::vector<const Worker*> people, bool none = false);
+
+  /// "Champion, Feud 71"; empty for nobody.
+  std::string MarksOf(int uid);
+
+  /// Selects the row of this key, if there is one.
+  template <class List>
+  static void Choose(List& list, int key) {
+    const int row = list.Selected();
+    list.SelectKey(key);
+    if (list.Selected() == 0) list.Select(row);
+  }
+
+  /// Shows what the picks make of the Segment; runs after each.
+  void ShowOutlook();
+
  private:
   void Finish(bool goOn);
-  void ShowSoFar();
+  void MakeButtons();
+  const RosterMarks& Marks();
+  void ShowSteps();
+  void ShowPlace();
+  void ShowStep(int step);
+  void ShowFaces(const Segment& draft);
+  void ShowForecast(const Segment& draft);
+  std::vector<ui::Box> StepBoxes();
+  ui::Box Outlook(bool below);
 
   Game& game_;
   WizardHost& host_;
-  static constexpr int kLines = 9;  // steps that can be done before this one
+  std::optional<RosterMarks> marks_;
+  std::optional<Forecast> before_;    // of the last pick
+  std::optional<Segment> rehearsed_;  // what it was given for
+  bool isReady_ = false;              // the step's controls are filled
+  static constexpr int kLines = 9;    // steps of the longest path
   ui::Array<ui::Label> lblsofar{"lblsofar", kLines, [this](const std::string& line, int) {
                                   return std::make_unique<ui::Label>(*this, line);
                                 }};
+  ui::Label lblplace{*this, "lblplace"};
+  ui::Picture picfirst{*this, "picfirst"};
+  ui::Picture picsecond{*this, "picsecond"};
+  ui::Label lblwho{*this, "lblwho"};
+  ui::Label lblforecast{*this, "lblforecast"};
+  ui::Label lblprice{*this, "lblprice"};
 
  protected:
+  /// Who belongs beside somebody who has been picked.
+  ui::Label lblpartner{*this, "lblpartner"};
   // Behind the step's own controls in the tab order.
   std::unique_ptr<ui::Button> cmdback, cmddone, cmdnext;
+
+ private:
+  std::unique_ptr<ui::Array<ui::Button>> cmdjump;
 };
 
 /// Makes the screen of the step that the wizard stands at; nullptr where it has no more.
 std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host);
-
-/// What the booking takes from somebody's Morale.
-void ShowGrievances(ui::Label& label, const World& world, const Segment& booking);
-
-/// A list of people: disposition, Over, condition and morale beside the name, in short words where
-/// more than two lists stand side by side. `none` puts "None" on top, preselected.
-std::vector<ui::Column> PeopleColumns(int listsAbreast = 1);
-void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none = false);
 
 /// A step of a match that somebody may object to.
 class MatchStepScreen : public StepScreen {

@@ -153,6 +153,16 @@ void StoreResult(Segment& match, int winner, const std::vector<int>& losers) {
   for (std::size_t i = 0; i < losers.size() && i < fields.size(); ++i) *fields[i] = losers[i];
 }
 
+std::vector<int> SuggestedLosers(const Segment& match, int winner) {
+  const int winners = SideOf(match, winner);
+  std::vector<int> others;
+  for (const int uid : ResultCandidates(match))
+    if (SideOf(match, uid) != winners) others.push_back(uid);
+  const auto boxes = static_cast<std::size_t>(ResultFormOf(match).Losers);
+  if (others.size() > boxes) others.resize(boxes);
+  return others;
+}
+
 std::string WhyNotLeft(const Segment& match, MatchStep step) {
   switch (step) {
     case kPeopleStep:

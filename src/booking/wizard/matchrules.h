@@ -47,6 +47,10 @@ std::vector<int> LosersInOrder(const Segment& match);  // of them, those that th
 /// Writes the result: winner 0 is a draw, `losers` are those of the boxes, 0 for an empty one.
 void StoreResult(Segment& match, int winner, const std::vector<int>& losers);
 
+/// Who would lose if the player names nobody, a uid a box: the others in their order, in a match of
+/// two sides those who do not stand beside the winner.
+std::vector<int> SuggestedLosers(const Segment& match, int winner);
+
 /// Why the step would not be left with what the Segment holds, as its message says it; empty when
 /// it would.
 std::string WhyNotLeft(const Segment& match, MatchStep step);

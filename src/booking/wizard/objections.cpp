@@ -195,34 +195,32 @@ std::map<int, int> GrievancesOf(const World& world, const Segment& match) {
   return levels;
 }
 
-std::string GrievanceText(const World& world, const Segment& match) {
-  const Levels levels = GrievancesOf(world, match);
-  std::vector<std::pair<int, int>> sorted(levels.begin(), levels.end());
-  std::stable_sort(sorted.begin(), sorted.end(),
-                   [](auto& a, auto& b) { return a.second > b.second; });
-  std::string text;
-  for (const auto& [uid, level] : sorted)
-    text += (text.empty() ? "" : ", ") + SideText(world, {uid}) + " -" +
-            std::to_string(MoralePrice(level));
-  return text;
-}
-
-std::string HeldAgainstText(const World& world, const Segment& match) {
+std::string HeldAgainstText(const PriceOfBooking& price) {
   std::map<int, int, std::greater<>> people;  // how many, by what it takes from each
-  for (const auto& [uid, level] : GrievancesOf(world, match)) ++people[MoralePrice(level)];
+  for (const auto& [uid, morale] : price) ++people[morale];
   std::string text;
-  for (const auto& [price, count] : people) {
+  for (const auto& [each, count] : people) {
     const std::string start = text.empty() ? " will hold it against you, " : " more ";
-    text += (text.empty() ? "" : ", ") + InWords(count) + start + std::to_string(price) +
+    text += (text.empty() ? "" : ", ") + InWords(count) + start + std::to_string(each) +
             (text.empty() ? " morale" : "") + (count == 1 ? "" : " each");
   }
   return text;
 }
 
-void ApplyBookingGrievances(World& world, const Segment& segment) {
-  for (const auto& [uid, level] : GrievancesOf(world, segment))
-    if (Worker* worker = world.FindWorker(uid))
-      MoveMorale(world, *worker, -MoralePrice(level), kMoodBooked);
+PriceOfBooking PriceOf(const World& world, const Segment& segment, const Segment& paid) {
+  PriceOfBooking price;
+  const Levels before = GrievancesOf(world, paid);
+  for (const auto& [uid, level] : GrievancesOf(world, segment)) {
+    const auto held = before.find(uid);
+    const int taken = held == before.end() ? 0 : MoralePrice(held->second);
+    if (MoralePrice(level) > taken) price[uid] = MoralePrice(level) - taken;
+  }
+  return price;
+}
+
+void ApplyBookingGrievances(World& world, const Segment& segment, const Segment& paid) {
+  for (const auto& [uid, morale] : PriceOf(world, segment, paid))
+    if (Worker* worker = world.FindWorker(uid)) MoveMorale(world, *worker, -morale, kMoodBooked);
 }
 
 }  // namespace grapplemont

@@ -67,11 +67,15 @@ std::vector<int> Objectors(const Segment& match);
 
 /// The level of each worker's grievance, 1 to 5, by their uid; who has none is not there.
 std::map<int, int> GrievancesOf(const World& world, const Segment& match);
-/// "Bram Okafor -15" for each of them, most first; empty when nobody minds.
-std::string GrievanceText(const World& world, const Segment& match);
+/// What a booking takes from Morale, by the worker's uid; who loses nothing is not there. What
+/// `paid`, the row that it replaces, has cost already is not taken twice.
+using PriceOfBooking = std::map<int, int>;
+PriceOfBooking PriceOf(const World& world, const Segment& segment,
+                       const Segment& paid = EmptySegment());
 /// By what it costs: "nine will hold it against you, 50 morale each, two more 15 each".
-std::string HeldAgainstText(const World& world, const Segment& match);
+std::string HeldAgainstText(const PriceOfBooking& price);
 /// What insisting costs the morale of those who objected. Runs once, when a booking is completed.
-void ApplyBookingGrievances(World& world, const Segment& segment);
+void ApplyBookingGrievances(World& world, const Segment& segment,
+                            const Segment& paid = EmptySegment());
 
 }  // namespace grapplemont

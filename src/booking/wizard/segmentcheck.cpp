@@ -30,7 +30,7 @@ std::string NameOf(const World& world, int uid) {
   return SideText(world, {uid});
 }
 
-void CheckType(Reasons& reasons, const World& world, const Segment& match) {
+void CheckType(Reasons& reasons, const World& world, const Segment& match, const BookingView&) {
   if (!FindMatchStyle(match.Style)) reasons.push_back("There is no such match style.");
   if (std::ranges::none_of(OfferedMatchTypes(world, match.Style),
                            [&](auto* row) { return row->Code == match.MatchType; }))
@@ -48,14 +48,14 @@ void CheckPeople(Reasons& reasons, const World& world, const Segment& match,
   Add(reasons, WhyNotLeft(match, kPeopleStep));
 }
 
-void CheckTitle(Reasons& reasons, const World& world, const Segment& match) {
+void CheckTitle(Reasons& reasons, const World& world, const Segment& match, const BookingView&) {
   if (match.TitleName != "None" &&
       std::ranges::none_of(OfferedTitles(world, match),
                            [&](auto* title) { return title->Name == match.TitleName; }))
     reasons.push_back(match.TitleName + " cannot be at stake in this match.");
 }
 
-void CheckResult(Reasons& reasons, const Segment& match) {
+void CheckResult(Reasons& reasons, const World&, const Segment& match, const BookingView&) {
   const ResultForm& form = ResultFormOf(match);
   const std::vector<int> candidates = ResultCandidates(match), losers = LosersInOrder(match);
   if (!HasResult(match)) reasons.push_back("The result has not been chosen.");
@@ -96,31 +96,45 @@ bool IsTakenUnlisted(const Segment& match) {
   return (match.Style == kSingles || match.Style == kTag) && match.Finish == kSportsEntertainment;
 }
 
-void CheckLaterCodes(Reasons& reasons, const World& world, const Segment& match) {
-  const auto check = [&](Phrases phrases, const std::vector<int>& offered, int code,
-                         const char* why) {
-    if (phrases.empty() ? code != 0 : !Holds(offered, code)) reasons.push_back(why);
-  };
-  if (!IsTakenUnlisted(match))
-    check(FinishesOf(match.Style), OfferedFinishes(world, match), match.Finish,
-          "The match cannot have this finish.");
-  check(AftermathsOf(match.Style), OfferedAftermaths(world, BeforeAftermath(match)),
-        match.Aftermath, "The match cannot have this aftermath.");
-  check(PurposesOf(match.Style), OfferedPurposes(world, match), match.Purpose,
-        "The match cannot have this purpose.");
+bool IsListed(Phrases phrases, const std::vector<int>& offered, int code) {
+  return phrases.empty() ? code == 0 : Holds(offered, code);
+}
+
+void CheckFinish(Reasons& reasons, const World& world, const Segment& match, const BookingView&) {
+  if (!IsTakenUnlisted(match) &&
+      !IsListed(FinishesOf(match.Style), OfferedFinishes(world, match), match.Finish))
+    reasons.push_back("The match cannot have this finish.");
   Add(reasons, WhyNotLeft(match, kFinishStep));
+}
+
+void CheckAftermath(Reasons& reasons, const World& world, const Segment& match,
+                    const BookingView&) {
+  if (!IsListed(AftermathsOf(match.Style), OfferedAftermaths(world, BeforeAftermath(match)),
+                match.Aftermath))
+    reasons.push_back("The match cannot have this aftermath.");
   Add(reasons, WhyNotLeft(match, kAftermathStep));
 }
 
+void CheckPurpose(Reasons& reasons, const World& world, const Segment& match, const BookingView&) {
+  if (!IsListed(PurposesOf(match.Style), OfferedPurposes(world, match), match.Purpose))
+    reasons.push_back("The match cannot have this purpose.");
+}
+
+using Check = void (*)(Reasons&, const World&, const Segment&, const BookingView&);
+/// What each step of a match asks, from the style on.
+constexpr Check kMatchChecks[] = {CheckType,   CheckPeople,    CheckTitle,  CheckResult,
+                                  CheckFinish, CheckAftermath, CheckPurpose};
+
 Reasons WhyNotMatch(const World& world, const Segment& match, const BookingView& view) {
+  // What stands against an earlier step makes a later one's answers worth nothing.
+  constexpr int kSpans[][2] = {
+      {kTypeStep, kTypeStep}, {kPeopleStep, kResultStep}, {kFinishStep, kPurposeStep}};
   Reasons reasons;
-  CheckType(reasons, world, match);
-  if (!reasons.empty()) return reasons;
-  CheckPeople(reasons, world, match, view);
-  CheckTitle(reasons, world, match);
-  CheckResult(reasons, match);
-  if (!reasons.empty()) return reasons;
-  CheckLaterCodes(reasons, world, match);
+  for (const auto& [first, last] : kSpans) {
+    for (int step = first; step <= last; ++step)
+      kMatchChecks[step - kTypeStep](reasons, world, match, view);
+    if (!reasons.empty() && last != kPurposeStep) return reasons;
+  }
   CheckRunIns(reasons, world, match, view);
   for (const Refusal& refusal : RefusalsOf(world, match))
     if (refusal.IsFinal || !refusal.Veto.empty()) reasons.push_back(refusal.Words);
@@ -166,19 +180,33 @@ void AddStrangers(Reasons& reasons, const World& world, const Segment& talk, Cas
       reasons.push_back(WhatIsCast(world, talk, seat) + fault);
 }
 
-void CheckInterview(Reasons& reasons, const World& world, const Segment& interview,
-                    const BookingView& view) {
-  constexpr std::pair<Casting, const char*> kFaults[] = {
-      {Casting::Talkers, " cannot be interviewed."},
-      {Casting::TalkManagers, " cannot speak for anybody."},
-      {Casting::Targets, " cannot be a target."}};
-  for (const auto& [from, fault] : kFaults)
-    AddStrangers(reasons, world, interview, from, fault, view);
+void CheckSpeakers(Reasons& reasons, const World& world, const Segment& interview,
+                   const BookingView& view) {
+  AddStrangers(reasons, world, interview, Casting::Talkers, " cannot be interviewed.", view);
+  AddStrangers(reasons, world, interview, Casting::TalkManagers, " cannot speak for anybody.",
+               view);
   Add(reasons, WhyNotSpeakers(world, interview));
+}
+
+void CheckTargets(Reasons& reasons, const World& world, const Segment& interview,
+                  const BookingView& view) {
+  AddStrangers(reasons, world, interview, Casting::Targets, " cannot be a target.", view);
   Add(reasons, WhyNotTargets(interview));
+}
+
+void CheckTalkPurpose(Reasons& reasons, const World& world, const Segment& interview,
+                      const BookingView&) {
   if (!Holds(OfferedTalkPurposes(world, interview), int(interview.Purpose)))
     reasons.push_back("The interview cannot have purpose " + std::to_string(interview.Purpose) +
                       ".");
+}
+
+/// What each step of an interview asks, from its people on.
+constexpr Check kTalkChecks[] = {CheckSpeakers, CheckTargets, CheckTalkPurpose};
+
+void CheckInterview(Reasons& reasons, const World& world, const Segment& interview,
+                    const BookingView& view) {
+  for (const Check check : kTalkChecks) check(reasons, world, interview, view);
   if (interview.TitleName != "None" || interview.Text != "None")
     reasons.push_back("An interview is for no Title and has no text.");
 }
@@ -192,12 +220,16 @@ bool HasLeftOvers(const Segment& segment) {
          rest.TitleName != "None" || rest.Text != "None" || rest.Purpose != 0;
 }
 
-void CheckAngle(Reasons& reasons, const World& world, const Angle& angle, const Segment& segment,
-                const BookingView& view) {
+void CheckAngleStyle(Reasons& reasons, const World& world, const Angle& angle,
+                     const BookingView& view) {
   if (!EnoughWriters(world, view.IsEvent))
     reasons.push_back("There are not enough writers for an angle.");
   if (!IsOffered(world, angle))
     reasons.push_back("The angle \"" + std::string(angle.Says) + "\" is not offered today.");
+}
+
+void CheckCast(Reasons& reasons, const World& world, const Segment& segment,
+               const BookingView& view) {
   for (const Role& seat : SeatsOf(segment))
     if (IsCast(segment, seat) && !IsCandidate(world, segment, seat, view))
       reasons.push_back(WhatIsCast(world, segment, seat) + " cannot be cast as \"" +
@@ -214,17 +246,34 @@ std::vector<std::string> WhyNotBookable(const World& world, const Segment& segme
   if (segment.Kind == kMatch) return WhyNotMatch(world, segment, view);
   const std::string style = std::to_string(segment.Style) + ".";
   Reasons reasons;
-  if (segment.Kind == kInterview && FindInterviewStyle(segment.Style))
+  if (segment.Kind == kInterview && FindInterviewStyle(segment.Style)) {
     CheckInterview(reasons, world, segment, view);
-  else if (segment.Kind == kInterview)
+  } else if (segment.Kind == kInterview) {
     reasons.push_back("There is no interview style " + style);
-  else if (segment.Kind != kAngle)
+  } else if (segment.Kind != kAngle) {
     return {"Nothing is booked."};
-  else if (const Angle* angle = FindAngle(segment.Style))
-    CheckAngle(reasons, world, *angle, segment, view);
-  else
+  } else if (const Angle* angle = FindAngle(segment.Style)) {
+    CheckAngleStyle(reasons, world, *angle, view);
+    CheckCast(reasons, world, segment, view);
+  } else {
     reasons.push_back("There is no angle " + style);
+  }
   if (HasMatchWords(segment)) reasons.push_back("The Segment holds what only a match has.");
+  return reasons;
+}
+
+std::vector<std::string> WhyNotAtStep(const World& world, const Segment& segment, int step,
+                                      const BookingView& view) {
+  Reasons reasons;
+  if (segment.Kind == kMatch && step >= kTypeStep && step <= kPurposeStep) {
+    kMatchChecks[step - kTypeStep](reasons, world, segment, view);
+    if (step == kFinishStep || step == kAftermathStep) CheckRunIns(reasons, world, segment, view);
+  } else if (segment.Kind == kInterview && step >= kTypeStep && step <= kTitleStep) {
+    kTalkChecks[step - kTypeStep](reasons, world, segment, view);
+  } else if (const Angle* angle = segment.Kind == kAngle ? FindAngle(segment.Style) : nullptr) {
+    if (step == kStyleStep) CheckAngleStyle(reasons, world, *angle, view);
+    if (step == kTypeStep) CheckCast(reasons, world, segment, view);
+  }
   return reasons;
 }
 

@@ -15,5 +15,8 @@ namespace grapplemont {
 /// reported like the rest.
 std::vector<std::string> WhyNotBookable(const World& world, const Segment& segment,
                                         const BookingView& view);
+/// The same of one step alone (Wizard::Step), with a Segment that holds nothing of later ones.
+std::vector<std::string> WhyNotAtStep(const World& world, const Segment& segment, int step,
+                                      const BookingView& view);
 
 }  // namespace grapplemont

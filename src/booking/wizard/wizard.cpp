@@ -11,20 +11,41 @@ namespace {
 
 constexpr const char* kNotReached = "???";
 
-void ClearResult(Segment& segment) {
-  for (Word* field : LoserFields(segment)) *field = 0;
-  segment.Winner = 0;
+// What a step has put into a Segment, taken from another.
+
+template <auto... fields>
+void Take(Segment& to, const Segment& from) {
+  ((to.*fields = from.*fields), ...);
 }
 
-void ClearTargets(Segment& segment) {
-  for (const Role& seat : SeatsOf(segment))
-    if (seat.From == Casting::Targets) segment.Worker[static_cast<std::size_t>(seat.Place - 1)] = 0;
+/// Of two the other one loses, whoever that is.
+void TakeResult(Segment& to, const Segment& from) {
+  if (to.Style == kSingles && from.Winner != 0) return StoreResult(to, from.Winner, {});
+  Segment copy = from;
+  const std::vector<Word*> fields = LoserFields(to), held = LoserFields(copy);
+  for (std::size_t i = 0; i < fields.size(); ++i) *fields[i] = *held[i];
+  to.Winner = from.Winner;
 }
 
-void ClearCast(Segment& segment) {
-  segment.Worker = {};
-  segment.TitleName = "None";
-  segment.Text = "None";
+/// Its run-ins share a field with those of the aftermath in a singles match.
+void TakeFinish(Segment& to, const Segment& from) {
+  Take<&Segment::Finish, &Segment::Other1, &Segment::Other2>(to, BeforeAftermath(from));
+}
+
+void TakeAftermath(Segment& to, const Segment& from) {
+  to = BeforeAftermath(to);
+  to.Aftermath = from.Aftermath;
+  Segment copy = from;
+  const std::vector<Word*> fields = AftermathRunIns(to), held = AftermathRunIns(copy);
+  for (std::size_t i = 0; i < fields.size(); ++i) *fields[i] = *held[i];
+}
+
+template <bool targets>
+void TakeSeats(Segment& to, const Segment& from) {
+  for (const Role& seat : SeatsOf(to)) {
+    const auto place = static_cast<std::size_t>(seat.Place - 1);
+    if ((seat.From == Casting::Targets) == targets) to.Worker[place] = from.Worker[place];
+  }
 }
 
 // The wizard's screens of the steps that look different from style to style.
@@ -103,61 +124,55 @@ std::string CastText(const World& world, const Segment& segment) {
 }
 
 /// One step of a path: what it is called, the screen that does it, by the Segment's style where
-/// there is a function for it, what takes it back, and what is said of it.
+/// there is a function for it, what it puts into a Segment, and what is said of it.
 struct StepRow {
   std::string_view Caption;
   std::string_view Screen;
   std::string_view (*ByStyle)(const Segment&);
-  void (*Undo)(Segment&);
+  void (*Takes)(Segment& to, const Segment& from);
   std::string_view Named;
   std::string (*Says)(const World&, const Segment&);
 };
 
-template <auto... fields>
-void Clear(Segment& segment) {
-  ((segment.*fields = {}), ...);
-}
-
 constexpr StepRow kKindRow = {
     "Select Segment Type", "frmBookStyle",    nullptr,
-    Clear<&Segment::Kind>, "Segment Type = ", TermText<kSegmentKinds, &Segment::Kind>};
+    Take<&Segment::Kind>,  "Segment Type = ", TermText<kSegmentKinds, &Segment::Kind>};
 constexpr StepRow kMatchSteps[] = {
     kKindRow,
-    {"Select Match Style", "frmBookType", nullptr, Clear<&Segment::Style>,
+    {"Select Match Style", "frmBookType", nullptr, Take<&Segment::Style>,
      "Match Style = ", StyleText<FindMatchStyle>},
-    {"Select Match Type", "frmBookMatchStyle", nullptr, Clear<&Segment::MatchType>, "Match Type = ",
+    {"Select Match Type", "frmBookMatchStyle", nullptr, Take<&Segment::MatchType>, "Match Type = ",
      [](const World&, const Segment& s) {
        return std::string(MatchTypeText(s.Style, s.MatchType));
      }},
-    {"Select Participants", "", ByForm<FindMatchForm, &MatchForm::People>, Clear<&Segment::Worker>,
+    {"Select Participants", "", ByForm<FindMatchForm, &MatchForm::People>, Take<&Segment::Worker>,
      "", PeopleText},
-    {"Select Title", "frmBookBelt", nullptr, [](Segment& s) { s.TitleName = "None"; },
+    {"Select Title", "frmBookBelt", nullptr, Take<&Segment::TitleName>,
      "Title = ", [](const World&, const Segment& s) { return s.TitleName.Str(); }},
-    {"Select Result", "", ByResult, ClearResult, "Result = ", ResultText},
-    {"Select Finish", "", ByForm<FindMatchForm, &MatchForm::Finish>,
-     Clear<&Segment::Finish, &Segment::Other1, &Segment::Other2>,
+    {"Select Result", "", ByResult, TakeResult, "Result = ", ResultText},
+    {"Select Finish", "", ByForm<FindMatchForm, &MatchForm::Finish>, TakeFinish,
      "Finish = ", CodeText<FinishesOf, &Segment::Finish>},
-    // Its run-ins share a field with those of the finish in a singles match.
-    {"Select Aftermath", "", ByForm<FindMatchForm, &MatchForm::Aftermath>,
-     [](Segment& s) { s = BeforeAftermath(s); }, "Aftermath = ", AftermathText},
-    {"Select Purpose", "", ByForm<FindMatchForm, &MatchForm::Purpose>, Clear<&Segment::Purpose>,
+    {"Select Aftermath", "", ByForm<FindMatchForm, &MatchForm::Aftermath>, TakeAftermath,
+     "Aftermath = ", AftermathText},
+    {"Select Purpose", "", ByForm<FindMatchForm, &MatchForm::Purpose>, Take<&Segment::Purpose>,
      "Purpose = ", CodeText<PurposesOf, &Segment::Purpose>},
 };
 constexpr StepRow kInterviewSteps[] = {
     kKindRow,
-    {"Select Interview Style", "frmIVType", nullptr, Clear<&Segment::Style>,
+    {"Select Interview Style", "frmIVType", nullptr, Take<&Segment::Style>,
      "Interview Style = ", StyleText<FindInterviewStyle>},
     {"Select Participants", "", ByForm<FindInterviewForm, &InterviewForm::SpeakersScreen>,
-     Clear<&Segment::Worker>, "Participants = ", SpeakersText},
-    {"Select Targets", "", ByForm<FindInterviewForm, &InterviewForm::TargetsScreen>, ClearTargets,
-     "Targets = ", TargetsText},
-    {"Select Interview Purpose", "frmIVPurpose", nullptr, Clear<&Segment::Purpose>,
+     TakeSeats<false>, "Participants = ", SpeakersText},
+    {"Select Targets", "", ByForm<FindInterviewForm, &InterviewForm::TargetsScreen>,
+     TakeSeats<true>, "Targets = ", TargetsText},
+    {"Select Interview Purpose", "frmIVPurpose", nullptr, Take<&Segment::Purpose>,
      "Purpose = ", TermText<kInterviewPurposes, &Segment::Purpose>},
 };
 constexpr StepRow kAngleSteps[] = {
     kKindRow,
-    {"Select Angle", "frmAngleType", nullptr, Clear<&Segment::Style>, "Angle = ", AngleText},
-    {"Select Participants", "frmAnglePeople", nullptr, ClearCast, "Participants = ", CastText},
+    {"Select Angle", "frmAngleType", nullptr, Take<&Segment::Style>, "Angle = ", AngleText},
+    {"Select Participants", "frmAnglePeople", nullptr,
+     Take<&Segment::Worker, &Segment::TitleName, &Segment::Text>, "Participants = ", CastText},
 };
 
 std::span<const StepRow> StepsOfKind(int kind) {
@@ -204,7 +219,11 @@ void StepBack(Wizard& wizard) {
   if (wizard.Step == 0) return;
   wizard.SegmentComplete = false;
   --wizard.Step;
-  if (const StepRow* row = RowOf(wizard.Buffer, wizard.Step)) row->Undo(wizard.Buffer);
+  TakeStep(wizard.Buffer, EmptySegment(), wizard.Step);
+}
+
+void TakeStep(Segment& to, const Segment& from, int step) {
+  if (const StepRow* row = RowOf(to, step)) row->Takes(to, from);
 }
 
 StepText TextOfStep(const World& world, const Wizard& wizard, int step) {

@@ -13,6 +13,11 @@ struct Wizard {
   bool SegmentComplete = false;  // the last step of the Segment's path has been done
   int CurrentSlot = 1;           // the record of match.dat that is to be filled
   BookingView View;
+  bool IsDraft = false;  // for a show to come: nobody's morale moves yet
+  // What had been chosen before a step was gone back to: later steps keep what of it still holds.
+  Segment Earlier = {};
+  int EarlierSteps = 0;  // of it
+  Segment Paid = {};     // the booked row that is edited: what it cost has been paid
 };
 
 /// A wizard in which nothing is chosen yet.
@@ -25,6 +30,8 @@ int StepsOf(const Segment& segment);
 void StepDone(Wizard& wizard);
 /// Undoes the last step: its fields are as if it had not been done. Does nothing at step 0.
 void StepBack(Wizard& wizard);
+/// Puts into a Segment what the step has put into another of the same kind and style.
+void TakeStep(Segment& to, const Segment& from, int step);
 
 /// What the wizard calls a step, and what its summary says of it once it is done.
 struct StepText {

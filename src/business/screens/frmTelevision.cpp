@@ -145,7 +145,7 @@ class frmTelevision : public GameScreen {
                        ui::Group("Attendance", {ui::Grow(txtattendance), ui::Grow(chtattendance)})
                            .Grow()})
                  .Grow(3)}),
-        &lblfacts, {&cmdranking, &cmdnetworks, &cmdshows}, &cmdpromo);
+        &lblfacts, {&cmdranking, &cmdnetworks, &cmdshows, &cmddrafts}, &cmdpromo);
   }
 
   void Return() override {
@@ -303,6 +303,7 @@ class frmTelevision : public GameScreen {
   ui::Button cmdnetworks{*this, "cmdnetworks", "Networks",
                          [this] { desk().Open("frmViewNetworks"); }};
   ui::Button cmdshows{*this, "cmdshows", "All Shows", [this] { desk().Open("frmViewShows"); }};
+  ui::Button cmddrafts{*this, "cmddrafts", "Drafts", [this] { desk().Open("frmDrafts"); }};
   ui::Button cmdpromo{*this, "cmdpromo", "Send Out Promo Tapes", &frmTelevision::cmdpromo_Click};
 };
 

@@ -291,7 +291,7 @@ Targets TargetsIn(const World& world) {
 
 /// The sheet of the last show lies about until the next is booked.
 bool MayBeStale(const RecordLayout& layout) {
-  return &layout == &LayoutOf<Segment>();
+  return &layout == &LayoutOf<Segment>() || &layout == &LayoutOf<KeptRow>();
 }
 
 const Target* TargetOf(const Targets& targets, const Place& place, const Field& field) {

@@ -1,5 +1,9 @@
 #include "records/fields/storyrecords.h"
 
+#include <algorithm>
+#include <array>
+#include <iterator>
+
 #include "records/fields/vocabulary.h"
 
 namespace grapplemont {
@@ -54,6 +58,21 @@ constexpr Field kSegmentFields[] = {
     GM_FIELD(Segment, Text).Means("A stable or a further name, or None."),
 };
 
+/// A Segment's, which stand first in the record, and what the row belongs to.
+constexpr auto kKeptFields = [] {
+  constexpr Field kMore[] = {
+      GM_FIELD(KeptRow, Show).Means("The show or Event."),
+      GM_FIELD(KeptRow, IsEvent).Means("An Event; else a television show."),
+      GM_FIELD(KeptRow, IsDraft).Means("For a show to come; else of the last one that was held."),
+      GM_FIELD(KeptRow, Row).In(1, 11).Means("Row of the sheet."),
+      GM_FIELD(KeptRow, On).Means("The day of the show."),
+  };
+  std::array<Field, std::size(kSegmentFields) + std::size(kMore)> fields{};
+  std::copy(std::begin(kMore), std::end(kMore),
+            std::copy(std::begin(kSegmentFields), std::end(kSegmentFields), fields.begin()));
+  return fields;
+}();
+
 constexpr Field kMailFields[] = {
     GM_FIELD(Mail, From).Means("Sender."),
     GM_FIELD(Mail, Date).Means("Day it came, dd/mm/yy."),
@@ -71,6 +90,8 @@ constexpr Field kIncidentFields[] = {
 
 GM_LAYOUT(Feud, "feudinfo.dat", kFeuds, kFeudFields)
 GM_LAYOUT(Segment, "match.dat", 11, kSegmentFields)
+// A card of every show and Event, and a draft beside it.
+GM_LAYOUT(KeptRow, "cards.dat", 600, kKeptFields)
 GM_LAYOUT(Mail, "news.dat", 20000, kMailFields)
 GM_LAYOUT(Incident, "incident.tmp", 10, kIncidentFields)
 

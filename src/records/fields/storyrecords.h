@@ -62,6 +62,18 @@ struct Segment {
 };
 GM_RECORD(Segment, 143);
 
+/// A row of a card that is kept beside the sheet: of the last one that a show of the player's was
+/// held with, or of the draft for one to come. A record of cards.dat.
+struct KeptRow {
+  Segment Booked;  // as in match.dat
+  Text<30> Show;   // or Event
+  Flag IsEvent;
+  Flag IsDraft;
+  Word Row;  // from 1
+  Date On;   // the day of the show
+};
+GM_RECORD(KeptRow, 187);
+
 /// A mail to the player: a record of news.dat.
 struct Mail {
   Text<30> From;

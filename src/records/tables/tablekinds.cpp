@@ -47,6 +47,10 @@ void Fill(Segment& segment) {
   segment.Text = "None";
 }
 
+void Fill(KeptRow& row) {
+  Fill(row.Booked);
+}
+
 void Fill(HeldMatch& bout) {
   bout.Title = "None";
 }
@@ -94,7 +98,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<Deed>("deeds.csv", true),
           Kind<GuideState>("guides.csv", true),
           Kind<WorkerMonths>("months.csv", true),
-          Kind<MoodChange>("moods.csv", true)};
+          Kind<MoodChange>("moods.csv", true),
+          Kind<KeptRow>("cards.csv", true)};
 }
 
 }  // namespace

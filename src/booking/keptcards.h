@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "booking/card.h"
+
+// Cards that are kept beside the sheet: the last one of each show, and drafts for shows to come.
+
+namespace grapplemont {
+
+/// A show of the player's that a card belongs to.
+struct CardOwner {
+  std::string Show;
+  bool IsEvent = false;
+  bool IsDraft = false;
+  friend bool operator==(const CardOwner&, const CardOwner&) = default;
+};
+
+/// A card that is kept, with the day of its show.
+struct KeptCard {
+  Card Rows;
+  Day On = {};
+};
+/// No rows where nothing is kept.
+KeptCard FindCard(const World& world, const CardOwner& owner);
+/// Keeps the card in place of the one before; an empty card takes that away.
+void KeepCard(World& world, const CardOwner& owner, const Card& card, Day on);
+
+/// Keeps what match.dat still holds of the player's last show, before a new sheet is opened. Does
+/// nothing for a card that has not been held.
+void KeepLastCard(World& world);
+
+/// A show that is still to come, and on how many rows something is drafted for it.
+struct ComingShow {
+  CardOwner Owner;
+  Day On = {};
+  std::string Slot;  // of a television show
+  int Drafted = 0;
+};
+/// The next of each television show and Event of the player's, the nearest first; today's are not
+/// among them.
+std::vector<ComingShow> ComingShows(const World& world);
+
+}  // namespace grapplemont

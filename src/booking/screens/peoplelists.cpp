@@ -1,0 +1,94 @@
+#include "booking/screens/peoplelists.h"
+
+#include <span>
+#include <utility>
+
+#include "records/fields/wording.h"
+#include "records/segments.h"
+#include "storylines/screens/screenpeople.h"
+
+namespace grapplemont {
+
+namespace {
+
+using K = ui::ColumnKind;
+
+constexpr int kNarrowName = 4, kWideName = 6;
+
+/// A number of the record, and what it is called.
+struct Skill {
+  const char* Title;
+  const char* Short;
+  const char* Tip;
+  Percent Worker::*Is;
+};
+constexpr Skill kRingSkills[] = {{"Brawl", "Br", "Brawling.", &Worker::Brawl},
+                                 {"Tech.", "Te", "Technical skill.", &Worker::Technical},
+                                 {"Speed", "Sp", "Speed.", &Worker::Speed}};
+constexpr Skill kTalkSkills[] = {
+    {"Char.", "Ch", "Charisma: what talk is made of.", &Worker::Charisma}};
+constexpr Skill kShape[] = {{"Cond.", "Con", "Condition.", &Worker::Condition},
+                            {"Mor.", "Mor", "Morale.", &Worker::Morale}};
+
+CellColumn<Worker> ColumnOf(const Skill& skill, bool narrow) {
+  return {{narrow ? skill.Short : skill.Title, K::Number, narrow ? 1 : 2, skill.Tip},
+          [is = skill.Is](const Worker& worker) { return ui::Cell(int(worker.*is)); }};
+}
+
+CellColumns<Worker> TableOf(int kind, bool narrow, const RosterMarks* marks) {
+  CellColumns<Worker> table = {
+      {{"Name", K::Text, narrow ? kNarrowName : kWideName},
+       [](const Worker& worker) { return worker.Name.View(); }},
+      {{narrow ? "D." : "Disp.", K::Tag, narrow ? 1 : 3, "Face, Heel or Tweener."},
+       [narrow](const Worker& worker) {
+         ui::Cell cell = DispositionCell(worker);
+         if (narrow) cell.Text = worker.Disposition.Str();
+         return cell;
+       }},
+      ColumnOf({"Over", "Ov", "Popularity.", &Worker::Over}, narrow)};
+  // Talk stands or falls with one skill; of a match three lists abreast have no room for all.
+  if (!narrow || kind != kMatch)
+    for (const Skill& skill :
+         kind == kMatch ? std::span<const Skill>(kRingSkills) : std::span<const Skill>(kTalkSkills))
+      table.push_back(ColumnOf(skill, narrow));
+  for (const Skill& skill : kShape) table.push_back(ColumnOf(skill, narrow));
+  ui::Column heading{"Marks", K::Tags, narrow ? 3 : 5,
+                     "Champion, feuds with their heat, Tag Team, rows of this card that they are "
+                     "booked in; Hot: has won the last three matches; Tired: condition under 60; "
+                     "Debut: not seen yet."};
+  heading.ToneOf = MarkTone;
+  table.push_back({std::move(heading), [marks](const Worker& worker) {
+                     return ui::Cell(marks ? Joined(marks->Of(worker), ", ") : std::string());
+                   }});
+  return table;
+}
+
+}  // namespace
+
+ui::Tone MarkTone(std::string_view mark) {
+  constexpr std::pair<std::string_view, ui::Tone> kTones[] = {{"Champion", ui::Tone::Gold},
+                                                              {"Feud", ui::Tone::Amber},
+                                                              {"Tired", ui::Tone::Red},
+                                                              {"Hot", ui::Tone::Green},
+                                                              {"Debut", ui::Tone::Green}};
+  for (const auto& [word, tone] : kTones)
+    if (mark.starts_with(word)) return tone;
+  return ui::Tone::Plain;
+}
+
+std::vector<ui::Column> PeopleColumns(int kind, int listsAbreast) {
+  return HeadingsOf(TableOf(kind, listsAbreast > 2, nullptr));
+}
+
+void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, int kind,
+                const RosterMarks& marks, bool none) {
+  const auto table = TableOf(kind, list.Columns().front().Width == kNarrowName, &marks);
+  std::vector<ui::ListBox::Row> rows;
+  if (none) rows.push_back({std::vector<ui::Cell>(table.size(), ui::Cell("")), 0});
+  if (none) rows.back().Cells.front() = "None";
+  for (const Worker* worker : people) rows.push_back(RowOf(table, *worker, worker->Uid));
+  list.Fill(std::move(rows), false);
+  if (none) list.Select(1);
+}
+
+}  // namespace grapplemont
