@@ -105,11 +105,7 @@ void MoveImage(World& world, Promotion& promotion, int step) {
 
 namespace {
 
-/// From this rating up comes the step; the rows fall, and one from 0 is for all that is left.
-struct ImageBand {
-  int From;
-  int Step;
-};
+/// The rows fall, and one from 0 is for all that is left.
 using Bands = std::array<ImageBand, 8>;
 
 // By HeldShow and by size, Global to Backyard. A Backyard television show of 90 jumps a class
@@ -157,6 +153,14 @@ int ImageStep(HeldShow kind, int size, int rating) {
   return std::ranges::find_if(
              bands, [&](const ImageBand& band) { return rating >= band.From || band.From == 0; })
       ->Step;
+}
+
+ImageBand NextImageBand(HeldShow kind, int size, int rating) {
+  const Bands& bands = BySize(kSteps[static_cast<std::size_t>(kind)], size);
+  ImageBand next{0, 0};
+  for (const ImageBand& band : bands)
+    if (band.From > rating) next = band;
+  return next;
 }
 
 Goodwill GoodwillBefore(const GameInfo& game, HeldShow kind) {

@@ -8,6 +8,7 @@
 #include "records/segmentparts.h"
 #include "roster/postings.h"
 #include "show/legend.h"
+#include "show/nightbook.h"
 #include "show/overchange.h"
 #include "show/ratings.h"
 
@@ -48,7 +49,10 @@ constexpr int kWinnersJoy = 3;
 void WearOut(SegmentRun& run, Worker& worker) {
   if (run.Strain < 1) return;
   const Wear& wear = kWear[std::min(run.Strain, static_cast<int>(std::size(kWear))) - 1];
+  const int before = worker.Condition;
   worker.Condition -= wear.Sure + run.World.RandomDraw(wear.Draw);
+  NoteStep(run, kNoteCondition, worker, worker.Condition - before, worker.Condition,
+           "a match of strain " + std::to_string(run.Strain));
 }
 
 int MoraleFrom(int attitude, int matchLevel, int workerLevel) {
@@ -127,25 +131,49 @@ CardPull CheckCardPosition(World& world, const Worker& worker) {
   return {};
 }
 
+/// Why it was moved last; empty for a number that was not.
+std::string LastWhy(const Score& score) {
+  return score.Steps().empty() ? std::string() : score.Steps().back().Why;
+}
+
+/// What moved the morale, one step after the other, as far as it can go.
+void NoteMood(SegmentRun& run, const Worker& worker, int before, const Score& morale) {
+  int mood = before;
+  bool first = before != 0;  // a score notes no step of 0
+  for (const ScoreStep& step : morale.Steps()) {
+    const int next = first ? mood : std::clamp(mood + step.Change, 0, 100);
+    NoteStep(run, kNoteMorale, worker, next - mood, next, step.Why);
+    mood = next;
+    first = false;
+  }
+  NoteStep(run, kNoteMorale, worker, worker.Morale - mood, worker.Morale, "limit");
+}
+
 }  // namespace
 
 void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
   const int matchLevel = WeighRating(run.Quality, run.Crowd) + kMatchAhead;
   const int workerLevel = WeighRating(BestSkill(worker), worker.Over);
-  int over = worker.Over, morale = worker.Morale;
+  const int overBefore = worker.Over, moraleBefore = worker.Morale;
+  Score over, morale;
+  over.Add(overBefore, "");
+  morale.Add(moraleBefore, "");
   if (isWinner) {
-    morale += run.World.RandomDraw(kWinnersJoy);
+    morale.Add(run.World.RandomDraw(kWinnersJoy), "won");
   } else {
     const CardPull pull = CheckCardPosition(run.World, worker);
-    over += pull.Over;
-    morale += pull.Morale;
+    over.Add(pull.Over, "pushed too high up the card");
+    morale.Add(pull.Morale, "held too low on the card");
     WearOut(run, worker);
-    morale += MoraleFrom(worker.Attitude, matchLevel, workerLevel);
+    morale.Add(MoraleFrom(worker.Attitude, matchLevel, workerLevel),
+               matchLevel > workerLevel ? "a match above their level" : "a match below their level");
   }
   for (const Showcase& showcase : kShowcases)
-    if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom) over += showcase.Gain;
-  ChangeOverAndTell(run, worker, over - worker.Over);
+    if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom)
+      over.Add(showcase.Gain, "a match of quality " + std::to_string(run.Quality));
+  ChangeOverAndTell(run, worker, over - overBefore, LastWhy(over));
   worker.Morale = morale;
+  NoteMood(run, worker, moraleBefore, morale);
 }
 
 namespace {
@@ -192,6 +220,8 @@ void DrawInjuries(SegmentRun& run) {
     const int odds = worker ? OddsOf(run, *worker) : 0;
     if (odds == 0 || run.World.RandomDraw(odds) != 1 || worker->Status == "Inj") continue;
     BreakSomething(run.World, *worker);
+    NoteFact(run, {kNoteInjury, worker->Name.Str(), worker->Uid}, worker->StatusMonths,
+             worker->Condition, worker->InjuryName.Str());
     run.Notes += worker->Name.Str() + " has sustained an injury as a result of a bad bump! " +
                  StatusLine(*worker) + ". ";
   }
@@ -232,8 +262,10 @@ void HurtOthers(SegmentRun& run, const Worker& stiff) {
     if (static_cast<int>(place) >= EntrantsOf(run.Segment) || !hurt || uid == stiff.Uid ||
         uid == partner)
       continue;
-    const int blow = run.World.RandomDraw(kHardestBlow);
+    const int blow = run.World.RandomDraw(kHardestBlow), before = hurt->Condition;
     hurt->Condition -= blow;
+    NoteStep(run, kNoteCondition, *hurt, hurt->Condition - before, hurt->Condition,
+             stiff.Name.Str() + " worked too stiffly");
     if (blow < kHardestBlow) continue;
     const Complaint& complaint = kComplaints[place];
     AddNews(run.World, hurt->Name,

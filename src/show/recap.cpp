@@ -52,13 +52,13 @@ std::string WonWhat(const Segment& segment) {
                                    : std::string();
 }
 
-std::string ResultText(const World& world, const Segment& segment) {
+}  // namespace
+
+std::string SegmentResult(const World& world, const Segment& segment) {
   const std::string won = WonWhat(segment);
   if (won.empty()) return DescribeSegment(world, segment);
   return SideText(world, WinnersOf(segment)) + " won a " + won;
 }
-
-}  // namespace
 
 RatingsSoFar RatingsOfShow(const World& world) {
   RatingsSoFar ratings;
@@ -77,7 +77,7 @@ ShowRecap RecapOf(const World& world) {
   recap.Rating = run.ShowSum;
   for (int number = 1; number <= LastRow(world, run.IsEvent); ++number)
     if (const Segment& segment = world.Segments()[number]; WasTold(world, segment))
-      recap.Lines.push_back({number, ResultText(world, segment), segment.Rating});
+      recap.Lines.push_back({number, SegmentResult(world, segment), segment.Rating});
   const auto byRating = [](const RecapLine& a, const RecapLine& b) { return a.Rating < b.Rating; };
   if (const auto [worst, best] =
           std::minmax_element(recap.Lines.begin(), recap.Lines.end(), byRating);

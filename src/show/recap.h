@@ -19,6 +19,9 @@ struct RatingsSoFar {
 };
 RatingsSoFar RatingsOfShow(const World& world);
 
+/// The one line of a sheet, told as a result.
+std::string SegmentResult(const World& world, const Segment& segment);
+
 struct RecapLine {
   int Number = 0;    // the row of the sheet
   std::string What;  // the one line of a sheet, told as a result

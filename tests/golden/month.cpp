@@ -80,7 +80,8 @@ class Player {
     MonthOutcome outcome{Differences(World(), *start_), told_.str()};
     if (!keepsReports_)
       std::erase_if(outcome.Changes, [](const Difference& change) {
-        return change.File == LayoutOf<ReportPart>().File;
+        return change.File == LayoutOf<ReportPart>().File ||
+               change.File == LayoutOf<ShowNote>().File;
       });
     game_->Desk.Finish();
     return outcome;
@@ -216,6 +217,7 @@ class Player {
     Desk().Click("cmddoshow");
     Until("frmPostShow click cmdnext");
     Desk().Click("cmdback");
+    if (Desk().TopName() == "frmMorning") Desk().Click("cmdback");
   }
 
   /// "30" passes days as somebody would who books by the auto booker and keeps the office going,

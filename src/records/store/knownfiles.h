@@ -20,7 +20,8 @@ using AllTables =
                Records<Worker>, Records<GameInfo>, Records<Mail>, TextFile, Records<Feud>,
                Records<Segment>, Records<Incident>, Records<ShowRun>, Records<HistoryEntry>,
                Records<HeldMatch>, Records<MatchTally>, Records<TitleReign>, Records<ReportPart>,
-               Records<YearAward>, Records<YearEnd>, Records<Deed>>;
+               Records<YearAward>, Records<YearEnd>, Records<Deed>, Records<ShowNote>,
+               Records<ReadMail>>;
 
 /// The files a folder may hold and how long each may be.
 const std::vector<KnownFile>& KnownFiles();

@@ -92,7 +92,9 @@ std::vector<TableKind> MakeKinds() {
           Kind<ReportPart>("reports.csv", true),
           Kind<YearAward>("awards.csv", true),
           Kind<YearEnd>("yearends.csv", true),
-          Kind<Deed>("deeds.csv", true)};
+          Kind<Deed>("deeds.csv", true),
+          Kind<ShowNote>("mornings.csv", true),
+          Kind<ReadMail>("mailread.csv", true)};
 }
 
 }  // namespace
