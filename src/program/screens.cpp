@@ -55,6 +55,7 @@ namespace grapplemont {
   SCREEN(frmResults)         \
   SCREEN(frmReports)         \
   SCREEN(frmAwards)          \
+  SCREEN(frmMorning)         \
   SCREEN(frmNews)            \
   SCREEN(frmNotepad)         \
   SCREEN(frmOptions)         \

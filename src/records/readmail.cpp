@@ -40,14 +40,10 @@ bool IsUnread(const World& world, const Mail& mail, const std::unordered_set<int
 
 }  // namespace
 
-bool IsUnread(const World& world, const Mail& mail) {
-  return IsUnread(world, mail, KeysRead(world));
-}
-
-void MarkRead(World& world, const std::vector<int>& numbers) {
+bool MarkRead(World& world, const std::vector<int>& numbers) {
   const std::unordered_set<int> read = KeysRead(world);
   const auto unread = [&](int number) { return IsUnread(world, world.News()[number], read); };
-  if (std::ranges::none_of(numbers, unread)) return;
+  if (std::ranges::none_of(numbers, unread)) return false;
   const std::set<int> now(numbers.begin(), numbers.end());
   // Mails that have gone leave the list with it.
   std::set<int> keys;
@@ -56,6 +52,7 @@ void MarkRead(World& world, const std::vector<int>& numbers) {
   std::vector<ReadMail> records;
   for (const int key : keys) records.emplace_back().Key = key;
   world.ReadMails().Rewrite(std::move(records));
+  return true;
 }
 
 bool IsWorldNews(const World& world, const Mail& mail) {

@@ -8,24 +8,24 @@
 
 namespace grapplemont {
 
-/// The player has not looked at it yet. In a slot that has never kept this, the mails of today and
-/// yesterday are unread.
-bool IsUnread(const World& world, const Mail& mail);
-/// Keeps that the mails of these numbers have been read. Changes nothing where all were.
-void MarkRead(World& world, const std::vector<int>& numbers);
+/// Keeps that the mails of these numbers have been read. False, and nothing changes, where all
+/// were.
+bool MarkRead(World& world, const std::vector<int>& numbers);
 
 /// News of somebody else's promotion: what no option of the player's own people sends.
 bool IsWorldNews(const World& world, const Mail& mail);
 
-/// The numbers of the unread mails, the newest first: the player's own, or the news of others.
+/// The numbers of the mails that the player has not looked at yet, the newest first: the player's
+/// own, or the news of others. In a slot that has never kept what was read, those of today and
+/// yesterday.
 std::vector<int> UnreadMails(const World& world, bool worldNews);
 
 /// The news of others that came on one day.
 struct Digest {
-  std::string Date;          // as mails have it
-  std::vector<int> Mails;    // their numbers, the newest first
-  std::string Words;         // "14 news from 9 promotions"
-  bool IsUnread = false;     // one of them is
+  std::string Date;        // as mails have it
+  std::vector<int> Mails;  // their numbers, the newest first
+  std::string Words;       // "14 news from 9 promotions"
+  bool IsUnread = false;   // one of them is
 };
 /// The latest day first.
 std::vector<Digest> DigestsOf(const World& world);

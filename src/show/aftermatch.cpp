@@ -165,8 +165,9 @@ void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
     over.Add(pull.Over, "pushed too high up the card");
     morale.Add(pull.Morale, "held too low on the card");
     WearOut(run, worker);
-    morale.Add(MoraleFrom(worker.Attitude, matchLevel, workerLevel),
-               matchLevel > workerLevel ? "a match above their level" : "a match below their level");
+    morale.Add(
+        MoraleFrom(worker.Attitude, matchLevel, workerLevel),
+        matchLevel > workerLevel ? "a match above their level" : "a match below their level");
   }
   for (const Showcase& showcase : kShowcases)
     if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom)

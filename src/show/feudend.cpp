@@ -139,10 +139,8 @@ Payout PayoutOf(const Feud& feud, const EndRule* rule) {
 
 void Pay(SegmentRun& run, const FeudSide& side, int change) {
   for (const int uid : {side.First, side.Second})
-    if (Worker* worker = run.World.FindWorker(uid)) {
-      const std::string fell = "the feud's end: " + std::string(change < 0 ? "it hurt" : "it paid");
-      ChangeOverAndTell(run, *worker, change, fell);
-    }
+    if (Worker* worker = run.World.FindWorker(uid))
+      ChangeOverAndTell(run, *worker, change, "how the feud ended");
 }
 
 /// Both sides by the record as it stands, the match that ends it included.
@@ -175,9 +173,9 @@ void EndFeudByMatch(SegmentRun& run) {
     PayOff(run, feud, side == 1);
   for (Word* worker : {&feud.Worker1, &feud.Worker2, &feud.Worker3, &feud.Worker4}) *worker = 0;
   run.FeudEnding = false;
-  NoteFact(run, {kNoteFeudEnd, name}, 0, heat, score.One + score.Two < kNoticed
-                                                   ? "ended before anybody had noticed it"
-                                                   : "ended by this match");
+  NoteFact(run, {kNoteFeudEnd, name}, 0, heat,
+           score.One + score.Two < kNoticed ? "ended before anybody had noticed it"
+                                            : "ended by this match");
 }
 
 }  // namespace grapplemont

@@ -97,7 +97,8 @@ void StartShow(World& world, bool isEvent, const CommentaryTeam& team) {
   const NoteOf rating = RatingNote(world);
   NoteStep(world, rating, run.AnnouncerCharge, announced,
            "Announcer " + AnnouncerName(world, team));
-  NoteStep(world, rating, run.ColourCharge, coloured, "Colour commentator " + ColourName(world, team));
+  NoteStep(world, rating, run.ColourCharge, coloured,
+           "Colour commentator " + ColourName(world, team));
 }
 
 void AddExtraBonus(World& world, int bonus) {

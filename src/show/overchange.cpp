@@ -215,10 +215,9 @@ void TalkOver(SegmentRun& run, int uid, bool isSecondary) {
   Worker* worker = run.World.FindWorker(uid);
   if (!worker) return;
   const int over = worker->Over;
-  ChangeOverAndTell(run, *worker,
-                    GainFrom(run, over, isSecondary) + LossFrom(run, over, isSecondary),
-                    "talk of " + std::to_string(run.Overall) + " against Over " +
-                        std::to_string(over));
+  ChangeOverAndTell(
+      run, *worker, GainFrom(run, over, isSecondary) + LossFrom(run, over, isSecondary),
+      "talk of " + std::to_string(run.Overall) + " against Over " + std::to_string(over));
 }
 
 void AfterInterview(SegmentRun& run) {

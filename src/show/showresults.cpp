@@ -149,8 +149,7 @@ void KeepRating(Show& show, int rating) {
   show.Rating3 = rating;
 }
 
-Score RatingOf(World& world, const Promotion& promotion, const Show& show,
-               const Network& network) {
+Score RatingOf(World& world, const Promotion& promotion, const Show& show, const Network& network) {
   const int cap = SlotAudience(network, show.Slot);
   Score rating = TvBaseRating(world, promotion.Size, promotion.Image);
   const auto limit = [&] {
@@ -177,10 +176,10 @@ ShowTakings EventReport(World& world, Promotion& promotion, const Event& event, 
   const Score people = EventAttendance(world, promotion, type);
   NoteOwn(world, promotion, kNoteViewers, buyRate);
   NoteOwn(world, promotion, kNoteCrowd, people);
-  const int ppvDollars =
-      isPayPerView ? TakeIn(world, promotion, &MonthBooks::PpvIncome, PpvIncome(buyRate),
-                            "Pay-per-view, buy rate " + RatingText(buyRate))
-                   : 0;
+  const int ppvDollars = isPayPerView
+                             ? TakeIn(world, promotion, &MonthBooks::PpvIncome, PpvIncome(buyRate),
+                                      "Pay-per-view, buy rate " + RatingText(buyRate))
+                             : 0;
   const int ticketDollars = SellTickets(world, promotion, people);
   const int costs = PayForProduction(world, promotion, type);
   if (isPayPerView)

@@ -2,8 +2,10 @@
 
 #include "info/results.h"
 #include "info/screens/infotables.h"
+#include "info/screens/pastscreens.h"
 #include "records/modVar.h"
 #include "report/report.h"
+#include "show/nightbook.h"
 #include "show/recap.h"
 #include "ui/game.h"
 
@@ -103,6 +105,10 @@ class frmReports : public GameScreen {
 }  // namespace
 
 SCREEN(frmReports)
+
+std::unique_ptr<ui::Screen> ReportScreen(Game& game, Day on, int promotionUid) {
+  return std::make_unique<frmReports>(game, on, promotionUid);
+}
 
 namespace {
 
@@ -225,7 +231,7 @@ class frmResults : public GameScreen {
                             ui::Columns({ui::Group("Who won", {ui::Grow(lstcard)}).Grow(3),
                                          ui::Group("Ratings", {ui::Grow(chtratings)}).Grow(2)})
                                 .Grow(4)}),
-                  &lblfacts, {&cmdreports, &cmdtitles, &cmdawards}, &cmdreport);
+                  &lblfacts, {&cmdreports, &cmdtitles, &cmdawards, &cmdmorning}, &cmdreport);
   }
 
   void Load() override {
@@ -296,11 +302,21 @@ class frmResults : public GameScreen {
                             : kept ? ""
                                    : "Only the reports of the last " + std::to_string(kKeptShows) +
                                          " shows are kept.");
+    EnableUnless(cmdmorning, !show ? "Choose a show first."
+                             : HasNight(world(), show->On, show->Promotion)
+                                 ? ""
+                                 : "What a show moved is kept of the last " +
+                                       std::to_string(kKeptShows) + " shows that were held.");
+  }
+
+  void cmdmorning_Click() {
+    if (const HistoryEntry* show = Chosen())
+      desk().Open(MorningScreen(game_, show->On, show->Promotion));
   }
 
   void cmdreport_Click() {
     if (const HistoryEntry* show = Chosen())
-      desk().Open(std::make_unique<frmReports>(game_, show->On, show->Promotion));
+      desk().Open(ReportScreen(game_, show->On, show->Promotion));
   }
   void lstshows_Open() {
     if (cmdreport.Enabled) cmdreport_Click();
@@ -316,6 +332,7 @@ class frmResults : public GameScreen {
   ui::Button cmdreport{*this, "cmdreport", "Read Report", &frmResults::cmdreport_Click};
   ui::Button cmdreports{*this, "cmdreports", "Report Column",
                         [this] { desk().Open("frmReports"); }};
+  ui::Button cmdmorning{*this, "cmdmorning", "Morning After", &frmResults::cmdmorning_Click};
   ui::Button cmdtitles{*this, "cmdtitles", "Reigns", [this] { desk().Open("frmReigns"); }};
   ui::Button cmdawards{*this, "cmdawards", "Awards", [this] { desk().Open("frmAwards"); }};
 };
