@@ -210,14 +210,15 @@ class Player {
     for (int left = kPatience; Desk().TopName() != "frmBooking" && !IsEvent(); --left) {
       if (left == 0 || testing::Test::HasFailure())
         throw std::logic_error("no show comes; there is " + Desk().TopName());
-      Desk().Click(Desk().TopName() == "frmIncident" ? "cmdignore" : "cmdnext");
+      Desk().Click(Desk().TopName() == "frmIncident"  ? "cmdignore"
+                   : Desk().TopName() == "frmMorning" ? "cmdback"
+                                                      : "cmdnext");
     }
     Sheet(rest);
     if (Desk().Enabled("cmdfill")) Desk().Click("cmdfill");
     Desk().Click("cmddoshow");
     Until("frmPostShow click cmdnext");
     Desk().Click("cmdback");
-    if (Desk().TopName() == "frmMorning") Desk().Click("cmdback");
   }
 
   /// "30" passes days as somebody would who books by the auto booker and keeps the office going,
