@@ -120,8 +120,9 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
   `deeds.dat`, which keeps what the wrestling world did of late, and the past:
   `history.dat` (every show of the player's, and how each promotion stood at every month end), `bouts.dat` (the player's
   matches), `tallies.dat` (what each worker's matches add up to), `reigns.dat` (the reigns of every Title in the world),
-  `reports.dat` (the words of the last twelve shows), `awards.dat` (the awards of the years) and `yearend.dat` (how
-  popular everybody was when the last year ended).
+  `reports.dat` (the words of the last twelve shows), `mornings.dat` (what these shows moved, step by step),
+  `mailread.dat` (which mails have been read), `awards.dat` (the awards of the years) and `yearend.dat` (how popular
+  everybody was when the last year ended).
 
 None of the past is needed to play: where one of its files is missing or cut short, the game goes on without what stood
 in it. A full file makes room by dropping its oldest records: a thousand of the history and of the reigns that have

@@ -158,8 +158,8 @@ TEST(frmNews, KeepsWhatWasReadAndGathersTheNewsOfOthers) {
   play.Desk.Pick("lstnews", 2);
   EXPECT_EQ(play.Desk.Badge("cmdread"), "6");
   play.Desk.Click("cmdback");
-  play.Reopen();
   play.Desk.CloseAll();
+  play.Reopen();
   play.Desk.Open("frmMainScreen");
   EXPECT_EQ(play.Desk.Badge("cmdnews"), "6");
   play.Desk.Click("cmdnews");

@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "calendar/advanceday.h"
+#include "records/modVar.h"
 #include "records/segments.h"
 #include "report/report.h"
 #include "show/holdshow.h"
