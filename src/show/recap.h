@@ -36,9 +36,6 @@ struct ShowRecap {
 /// Of the show that has just closed. Requires one.
 ShowRecap RecapOf(const World& world);
 
-/// A percentage and how it came about, a line a step: "Crowd Reaction 91 =", "76 draw of the two".
-std::string WhyText(std::string_view caption, const Score& score);
-
 // The report column: the words in which the last shows were told, as they were told.
 
 /// So many shows can be read again.

@@ -191,6 +191,8 @@ TEST(frmOtherContract, ShowsDemandsAndBeginsWithThem) {
             Names({"Main Event", "Upper Midcard", "Midcard", "Lower Midcard", "Opener", "Jobber",
                    "Manager", "Non-wrestler", "Training Camp", "Development Deal"}));
   EXPECT_EQ(play.Desk.FirstColumn("cmbnewdispo"), Names({"Face", "Tweener", "Heel"}));
+  play.Desk.Click("cmdwhy");
+  EXPECT_EQ(play.Desk.Text("txtwhy"), "Wage in $1000 10 =\n10 the last wage");
 }
 
 TEST(frmOtherContract, SignsUnderANewName) {
