@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <array>
 
 #include "info/morning.h"

@@ -17,6 +17,7 @@ namespace {
 class frmNews : public GameScreen {
  public:
   explicit frmNews(Game& game) : GameScreen(game, "frmNews", "News") {
+    lstdigest.EmptyText = "Choose a row \"Around the rings\" to read what others did that day.";
     lstnews.EmptyText = "No mail. What the world has to tell you arrives here.";
   }
 
