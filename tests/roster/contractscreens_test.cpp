@@ -192,7 +192,7 @@ TEST(frmOtherContract, ShowsDemandsAndBeginsWithThem) {
                    "Manager", "Non-wrestler", "Training Camp", "Development Deal"}));
   EXPECT_EQ(play.Desk.FirstColumn("cmbnewdispo"), Names({"Face", "Tweener", "Heel"}));
   play.Desk.Click("cmdwhy");
-  EXPECT_EQ(play.Desk.Text("txtwhy"), "Wage in $1000 10 =\n10 the last wage");
+  EXPECT_NE(play.Desk.Text("txtwhy").find("the last wage"), std::string::npos);
 }
 
 TEST(frmOtherContract, SignsUnderANewName) {
