@@ -125,11 +125,16 @@ int MerchandiseCap(int level) {
   return level * kSalesPerMerchandising;
 }
 
-int MerchandiseSales(const Promotion& promotion, int economy) {
-  if (promotion.Merchandising <= 0) return 0;
-  const int sales =
-      std::min(MerchBase(promotion.Size, promotion.Image), MerchandiseCap(promotion.Merchandising));
-  return ByEconomy(sales, kMerchandiseEconomy, economy);
+Score MerchandiseSales(const Promotion& promotion, int economy) {
+  Score sales;
+  if (promotion.Merchandising <= 0) return sales;
+  sales.Add(MerchBase(promotion.Size, promotion.Image), "size and image");
+  sales.Become(
+      std::min<int>(sales, MerchandiseCap(promotion.Merchandising)),
+      "merchandising of " + std::to_string(promotion.Merchandising) + "% can sell no more");
+  sales.Become(ByEconomy(sales, kMerchandiseEconomy, economy),
+               "economy " + std::to_string(economy));
+  return sales;
 }
 
 int AdvertisingCost(int level) {

@@ -7,6 +7,7 @@
 
 #include "records/arithmetic.h"
 #include "records/fields/companies.h"
+#include "records/score.h"
 #include "records/world.h"
 
 namespace grapplemont {
@@ -78,7 +79,7 @@ int MerchBase(int size, int image);
 /// The most that a level of merchandising can sell.
 int MerchandiseCap(int level);
 /// A month's sales, capped and by the economy; 0 for a promotion that has no merchandise.
-int MerchandiseSales(const Promotion& promotion, int economy);
+Score MerchandiseSales(const Promotion& promotion, int economy);
 
 int AdvertisingCost(int level);
 int MerchandisingCost(int level);

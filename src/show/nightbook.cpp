@@ -19,15 +19,21 @@ Night NightOf(const ShowNote& note) {
   return {note.On, note.Promotion};
 }
 
+bool IsOfAShow(const ShowNote& note) {
+  return note.Kind < kNoteMerch;
+}
+
 }  // namespace
 
 void BeginNight(World& world) {
   const Night today{world.Today(), world.PlayerUid()};
   std::set<Night> nights;
-  for (const ShowNote& note : world.ShowNotes()) nights.insert(NightOf(note));
+  for (const ShowNote& note : world.ShowNotes())
+    if (IsOfAShow(note)) nights.insert(NightOf(note));
   nights.erase(today);
   while (static_cast<int>(nights.size()) >= kKeptShows) nights.erase(nights.begin());
-  world.ShowNotes().Keep([&](const ShowNote& note) { return nights.contains(NightOf(note)); });
+  world.ShowNotes().Keep(
+      [&](const ShowNote& note) { return !IsOfAShow(note) || nights.contains(NightOf(note)); });
 }
 
 void NoteFact(World& world, const NoteOf& of, int change, int now, std::string_view why) {
@@ -53,6 +59,11 @@ void NoteSteps(World& world, const NoteOf& of, const Score& score, int from) {
     NoteStep(world, of, step.Change, from += step.Change, step.Why);
 }
 
+void NoteMonth(World& world, NoteKind kind, const Score& score) {
+  world.ShowNotes().Keep([&](const ShowNote& note) { return note.Kind != kind; });
+  NoteSteps(world, {kind, world.Player().Name.Str()}, score);
+}
+
 void NoteStep(SegmentRun& run, NoteKind kind, const Worker& worker, int change, int now,
               std::string_view why) {
   if (run.Row != 0)
@@ -76,7 +87,7 @@ const ShowNote& NotedNumber::Main() const {
 std::vector<NotedNumber> NightOf(const World& world, Day on, int promotionUid) {
   std::vector<NotedNumber> numbers;
   for (const ShowNote& note : world.ShowNotes()) {
-    if (NightOf(note) != Night{on, promotionUid}) continue;
+    if (!IsOfAShow(note) || NightOf(note) != Night{on, promotionUid}) continue;
     const auto known = std::ranges::find_if(numbers, [&](const NotedNumber& number) {
       return number.Kind == note.Kind && note.What == number.What;
     });
@@ -87,6 +98,10 @@ std::vector<NotedNumber> NightOf(const World& world, Day on, int promotionUid) {
     number.Steps.push_back(&note);
   }
   return numbers;
+}
+
+bool HasAnyNight(const World& world) {
+  return std::ranges::any_of(world.ShowNotes(), IsOfAShow);
 }
 
 bool HasNight(const World& world, Day on, int promotionUid) {

@@ -30,6 +30,9 @@ void NoteFact(World& world, const NoteOf& of, int change, int now, std::string_v
 /// Every step of a number that a rule has made from nothing, or from where it stood at `from`.
 void NoteSteps(World& world, const NoteOf& of, const Score& score, int from = 0);
 
+/// Notes the steps of a number that the month made; they take the place of the last month's.
+void NoteMonth(World& world, NoteKind kind, const Score& score);
+
 // The same by a Segment of a show that is told. A Segment that runs outside a show has no row, and
 // notes nothing.
 
@@ -60,5 +63,7 @@ struct NotedNumber {
 std::vector<NotedNumber> NightOf(const World& world, Day on, int promotionUid);
 /// Whether its steps are kept: the last twelve shows' are.
 bool HasNight(const World& world, Day on, int promotionUid);
+/// Whether those of any show are.
+bool HasAnyNight(const World& world);
 
 }  // namespace grapplemont

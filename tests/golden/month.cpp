@@ -78,10 +78,13 @@ class Player {
   }
   MonthOutcome Close() {
     MonthOutcome outcome{Differences(World(), *start_), told_.str()};
+    // What a show's rules noted tells no more than the records that they moved.
+    std::erase_if(outcome.Changes, [](const Difference& change) {
+      return change.File == LayoutOf<ShowNote>().File;
+    });
     if (!keepsReports_)
       std::erase_if(outcome.Changes, [](const Difference& change) {
-        return change.File == LayoutOf<ReportPart>().File ||
-               change.File == LayoutOf<ShowNote>().File;
+        return change.File == LayoutOf<ReportPart>().File;
       });
     game_->Desk.Finish();
     return outcome;

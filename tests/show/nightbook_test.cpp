@@ -116,5 +116,25 @@ TEST(TheNightBook, KeepsADozenShows) {
       << "a show that begins again takes its own place";
 }
 
+TEST(TheNightBook, KeepsTheLastMonthsMerchandiseBesideTheShows) {
+  World world = House(1);
+  for (const int sold : {100, 70}) {
+    Score sales;
+    sales.Add(sold, "size and image");
+    sales.Add(-20, "economy 15");
+    NoteMonth(world, kNoteMerch, sales);
+  }
+  Hold(world);
+  int steps = 0, sum = 0;
+  for (const ShowNote& note : world.ShowNotes())
+    if (note.Kind == kNoteMerch) {
+      ++steps;
+      sum += note.Change;
+    }
+  EXPECT_EQ(steps, 2);
+  EXPECT_EQ(sum, 50);
+  EXPECT_EQ(Noted(NightOf(world, world.Today(), world.PlayerUid()), kNoteMerch, "CWA"), nullptr);
+}
+
 }  // namespace
 }  // namespace grapplemont::test

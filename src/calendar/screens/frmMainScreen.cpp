@@ -207,7 +207,7 @@ class frmMainScreen : public ui::Screen {
     const bool isOver = HasEnded(world().Game());
     cmdbook.Visible = !isOver && HasShowTonight();
     cmdbook.Tip = TonightText(world());
-    cmdmorning.Visible = !isOver && world().ShowNotes().Count() > 0;
+    cmdmorning.Visible = !isOver && HasAnyNight(world());
     lblfacts.Text = HasEnded(world().Game()) ? kCareerIsOver
                     : today.empty()          ? "Nothing is due today."
                                              : "Due today: " + today + ".";

@@ -135,11 +135,12 @@ enum NoteKind {
   kNoteOver,        // a worker's, percent
   kNoteMorale,
   kNoteCondition,
-  kNoteInjury,     // Change: months
-  kNoteHeat,       // a feud's, percent
-  kNoteFeudEnd,    // Now: the heat at which it ended
-  kNoteTitle,      // a Title's new holder
-  kNoteTitleImage  // percent
+  kNoteInjury,      // Change: months
+  kNoteHeat,        // a feud's, percent
+  kNoteFeudEnd,     // Now: the heat at which it ended
+  kNoteTitle,       // a Title's new holder
+  kNoteTitleImage,  // percent
+  kNoteMerch        // dollars of the last month's merchandise, which is no show's
 };
 
 /// A step of a number that a show of the player's made or moved, as the rule computed it: a record
