@@ -50,7 +50,8 @@ class frmMorning : public GameScreen {
  public:
   /// Without a day it is about the last show.
   explicit frmMorning(Game& game, Day on = kDayZero, int promotionUid = 0)
-      : GameScreen(game, "frmMorning", "The morning after", {.Back = on == kDayZero ? "To The Desk" : "Back"}),
+      : GameScreen(game, "frmMorning", "The morning after",
+                   {.Back = on == kDayZero ? "To The Desk" : "Back"}),
         on_(on),
         promotion_(promotionUid) {
     lstpeople.EmptyText = "The show moved nobody.";
