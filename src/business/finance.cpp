@@ -205,10 +205,16 @@ int LoanTerm(int steps) {
   return RowUpTo(kSizesOfLoans, steps).Months;
 }
 
-long long LoanQuote(int dollars, int months, int difficulty) {
+long long LoanQuote(int dollars, int months, int difficulty, std::string* why) {
   const long long divisor = std::max(months, 1);
   const long long part = (dollars * 100LL + divisor / 2) / divisor;
-  return part + InterestOn(dollars, difficulty) * 100LL;
+  const long long interest = InterestOn(dollars, difficulty) * 100LL;
+  if (why)
+    *why = DollarsAndCents(part) + ", the equal part of " + std::to_string(divisor) + " months\n+" +
+           DollarsAndCents(interest) +
+           ", what the bank takes of the whole sum by the difficulty\n= " +
+           DollarsAndCents(part + interest);
+  return part + interest;
 }
 
 int MonthlyRepayment(const Promotion& promotion, int difficulty) {

@@ -137,8 +137,8 @@ inline constexpr int kMostLoanSteps = 100;
 /// Months that a loan of so many steps runs: 12, 24 or 36.
 int LoanTerm(int steps);
 /// What a loan costs each month, in cents: the equal part to the cent and, by the difficulty, a
-/// share of the whole sum. Months below 1 count as 1.
-long long LoanQuote(int dollars, int months, int difficulty);
+/// share of the whole sum. Months below 1 count as 1. `why` gets both, a line each, and the sum.
+long long LoanQuote(int dollars, int months, int difficulty, std::string* why = nullptr);
 /// What a bank takes each month, in whole dollars. 0 for no loan.
 int MonthlyRepayment(const Promotion& promotion, int difficulty);
 
