@@ -39,6 +39,6 @@ inline constexpr const char* kInGame[] = {
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
     "frmReigns",     "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
-    "frmInternet"};
+    "frmMorning",    "frmInternet"};
 
 }  // namespace grapplemont::test
