@@ -81,7 +81,7 @@ long long PaySponsors(World& world, Promotion& promotion, bool isEvent) {
 void MoveOwnImage(World& world, Promotion& player, int step, const std::string& why) {
   const int image = player.Image, size = player.Size;
   MoveImage(world, player, step);
-  NoteStep(world, {kNoteImage, player.Name.Str()}, player.Image - image, player.Image,
+  NoteFact(world, {kNoteImage, player.Name.Str()}, player.Image - image, player.Image,
            why + (player.Size == size ? "" : "; now " + std::string(SizeText(player.Size))));
 }
 
