@@ -2,6 +2,7 @@
 
 #include "booking/sheet.h"
 #include "records/modWresCheck.h"
+#include "show/nightbook.h"
 
 namespace grapplemont {
 
@@ -74,6 +75,8 @@ void StartEvent(World& world, const EventExtra* extra) {
   const int dollars = CostOfExtra(extra->Name);
   world.Player().Money -= dollars;
   world.ShowRuns()[1].ExtraCost = dollars;
+  NoteStep(world, {kNoteMoney, world.Player().Name.Str()}, -dollars, world.Player().Money,
+           "The extra of the Event");
   if (extra->Bonus > 0) AddExtraBonus(world, world.RandomDraw(extra->Bonus));
 }
 

@@ -125,11 +125,16 @@ int MerchandiseCap(int level) {
   return level * kSalesPerMerchandising;
 }
 
-int MerchandiseSales(const Promotion& promotion, int economy) {
-  if (promotion.Merchandising <= 0) return 0;
-  const int sales =
-      std::min(MerchBase(promotion.Size, promotion.Image), MerchandiseCap(promotion.Merchandising));
-  return ByEconomy(sales, kMerchandiseEconomy, economy);
+Score MerchandiseSales(const Promotion& promotion, int economy) {
+  Score sales;
+  if (promotion.Merchandising <= 0) return sales;
+  sales.Add(MerchBase(promotion.Size, promotion.Image), "size and image");
+  sales.Become(
+      std::min<int>(sales, MerchandiseCap(promotion.Merchandising)),
+      "merchandising of " + std::to_string(promotion.Merchandising) + "% can sell no more");
+  sales.Become(ByEconomy(sales, kMerchandiseEconomy, economy),
+               "economy " + std::to_string(economy));
+  return sales;
 }
 
 int AdvertisingCost(int level) {
@@ -200,10 +205,16 @@ int LoanTerm(int steps) {
   return RowUpTo(kSizesOfLoans, steps).Months;
 }
 
-long long LoanQuote(int dollars, int months, int difficulty) {
+long long LoanQuote(int dollars, int months, int difficulty, std::string* why) {
   const long long divisor = std::max(months, 1);
   const long long part = (dollars * 100LL + divisor / 2) / divisor;
-  return part + InterestOn(dollars, difficulty) * 100LL;
+  const long long interest = InterestOn(dollars, difficulty) * 100LL;
+  if (why)
+    *why = DollarsAndCents(part) + ", the equal part of " + std::to_string(divisor) + " months\n+" +
+           DollarsAndCents(interest) +
+           ", what the bank takes of the whole sum by the difficulty\n= " +
+           DollarsAndCents(part + interest);
+  return part + interest;
 }
 
 int MonthlyRepayment(const Promotion& promotion, int difficulty) {

@@ -7,6 +7,7 @@
 
 #include "records/arithmetic.h"
 #include "records/fields/companies.h"
+#include "records/score.h"
 #include "records/world.h"
 
 namespace grapplemont {
@@ -78,7 +79,7 @@ int MerchBase(int size, int image);
 /// The most that a level of merchandising can sell.
 int MerchandiseCap(int level);
 /// A month's sales, capped and by the economy; 0 for a promotion that has no merchandise.
-int MerchandiseSales(const Promotion& promotion, int economy);
+Score MerchandiseSales(const Promotion& promotion, int economy);
 
 int AdvertisingCost(int level);
 int MerchandisingCost(int level);
@@ -136,8 +137,8 @@ inline constexpr int kMostLoanSteps = 100;
 /// Months that a loan of so many steps runs: 12, 24 or 36.
 int LoanTerm(int steps);
 /// What a loan costs each month, in cents: the equal part to the cent and, by the difficulty, a
-/// share of the whole sum. Months below 1 count as 1.
-long long LoanQuote(int dollars, int months, int difficulty);
+/// share of the whole sum. Months below 1 count as 1. `why` gets both, a line each, and the sum.
+long long LoanQuote(int dollars, int months, int difficulty, std::string* why = nullptr);
 /// What a bank takes each month, in whole dollars. 0 for no loan.
 int MonthlyRepayment(const Promotion& promotion, int difficulty);
 

@@ -29,9 +29,11 @@ void MoveSponsor(Promotion& promotion, int sponsorUid, int place);
 /// The deal is over: no promotion lists the sponsor any more, and he is free. Nothing is paid.
 void LoseSponsor(World& world, Sponsor& sponsor);
 
-/// How a sponsor answers the player's offer, by the promotion's risk, then by its standing.
+/// How a sponsor answers the player's offer, by the promotion's risk, then by its standing. `why`
+/// gets each test with its numbers, a line each.
 enum class SponsorAnswer { Accepts, TooRisky, Declines };
-SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion);
+SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion,
+                       std::string* why = nullptr);
 
 /// Dollars that it costs to end a deal before its time.
 long long EndingCost(const Sponsor& sponsor);

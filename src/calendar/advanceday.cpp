@@ -127,17 +127,6 @@ bool NeedsThePlayer(const World& world) {
   return IsEventDay(world.Today()) || HasTvToday(world, world.PlayerUid());
 }
 
-int FreshMails(const World& world) {
-  const std::string today = ShortDate(world.Today());
-  const std::string yesterday = ShortDate(world.Today() - std::chrono::days{1});
-  int fresh = 0;
-  for (int number = world.News().Count(); number >= 1; --number, ++fresh) {
-    const Mail& mail = world.News()[number];
-    if (mail.Date != today && mail.Date != yesterday) break;
-  }
-  return fresh;
-}
-
 std::optional<Day> NextMeeting(const World& world) {
   const int wanted = DayNumber(world.Player().MeetingDay.View());
   if (wanted == 0) return std::nullopt;

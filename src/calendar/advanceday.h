@@ -88,8 +88,6 @@ std::vector<Appointment> ComingShows(const World& world, int days);
 
 /// Whether Today is a show day of the player's, or one that asks about a missing Event.
 bool NeedsThePlayer(const World& world);
-/// How many mails came with the day that has just passed, and since.
-int FreshMails(const World& world);
 
 // The promotion's weekly staff meeting.
 

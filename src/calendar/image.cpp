@@ -88,11 +88,24 @@ void SpendByStanding(Promotion& rival) {
   rival.TicketPrice = FairTicketPrice(rival.Size);
 }
 
-/// From this rating up comes the step; the rows fall, and one from 0 is for all that is left.
-struct ImageBand {
-  int From;
-  int Step;
-};
+}  // namespace
+
+void ChangeImage(World& world, Promotion& promotion, int amount, bool gain) {
+  promotion.Image += gain ? amount : -amount;
+  if (gain && promotion.Image == 100 && promotion.Size != kGlobal) RiseInClass(world, promotion);
+  if (!gain && promotion.Image == 0 && promotion.Size != kBackyard) FallInClass(world, promotion);
+  if (!IsPlayers(world, promotion)) SpendByStanding(promotion);
+  for (Event& event : world.Events())
+    if (event.Owner == promotion.Uid) event.Type = NewEventType(promotion);
+}
+
+void MoveImage(World& world, Promotion& promotion, int step) {
+  ChangeImage(world, promotion, step < 0 ? -step : step, step >= 0);
+}
+
+namespace {
+
+/// The rows fall, and one from 0 is for all that is left.
 using Bands = std::array<ImageBand, 8>;
 
 // By HeldShow and by size, Global to Backyard. A Backyard television show of 90 jumps a class
@@ -135,24 +148,19 @@ int WholeStep(const GameInfo& game, HeldShow kind, int size, int rating) {
 
 }  // namespace
 
-void ChangeImage(World& world, Promotion& promotion, int amount, bool gain) {
-  promotion.Image += gain ? amount : -amount;
-  if (gain && promotion.Image == 100 && promotion.Size != kGlobal) RiseInClass(world, promotion);
-  if (!gain && promotion.Image == 0 && promotion.Size != kBackyard) FallInClass(world, promotion);
-  if (!IsPlayers(world, promotion)) SpendByStanding(promotion);
-  for (Event& event : world.Events())
-    if (event.Owner == promotion.Uid) event.Type = NewEventType(promotion);
-}
-
-void MoveImage(World& world, Promotion& promotion, int step) {
-  ChangeImage(world, promotion, step < 0 ? -step : step, step >= 0);
-}
-
 int ImageStep(HeldShow kind, int size, int rating) {
   const Bands& bands = BySize(kSteps[static_cast<std::size_t>(kind)], size);
   return std::ranges::find_if(
              bands, [&](const ImageBand& band) { return rating >= band.From || band.From == 0; })
       ->Step;
+}
+
+ImageBand NextImageBand(HeldShow kind, int size, int rating) {
+  const Bands& bands = BySize(kSteps[static_cast<std::size_t>(kind)], size);
+  ImageBand next{0, 0};
+  for (const ImageBand& band : bands)
+    if (band.From > rating) next = band;
+  return next;
 }
 
 Goodwill GoodwillBefore(const GameInfo& game, HeldShow kind) {

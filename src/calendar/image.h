@@ -21,6 +21,14 @@ enum class HeldShow { Event, Television, RivalEvent, RivalTelevision };
 /// and by the rating of the player's show or the quality of a rival's.
 int ImageStep(HeldShow kind, int size, int rating);
 
+/// From this rating up comes the step.
+struct ImageBand {
+  int From;
+  int Step;
+};
+/// The band above that of a rating; a rating in the highest has none, From 0.
+ImageBand NextImageBand(HeldShow kind, int size, int rating);
+
 /// What the public thinks of a show of the player's before it has seen it, by the difficulty and
 /// the player's reputation: steps of the image in the order in which they are taken, 0 for none.
 using Goodwill = std::array<int, 3>;

@@ -12,6 +12,7 @@
 #include "roster/market.h"
 #include "roster/moods.h"
 #include "roster/talks.h"
+#include "show/nightbook.h"
 
 namespace grapplemont {
 
@@ -84,12 +85,13 @@ void LoanRepayments(World& world) {
 void MerchandiseIncome(World& world) {
   for (Promotion& promotion : world.Promotions()) {
     if (promotion.Merchandising <= 0) continue;
-    const int dollars = MerchandiseSales(promotion, world.Game().Economy);
+    const Score dollars = MerchandiseSales(promotion, world.Game().Economy);
     promotion.Money += dollars;
     promotion.ThisMonth.MerchIncome += dollars;
-    if (IsPlayers(world, promotion))
-      AddNews(world, kFinance,
-              "We made $" + std::to_string(dollars) + " off merchandise this month.");
+    if (!IsPlayers(world, promotion)) continue;
+    NoteMonth(world, kNoteMerch, dollars);
+    AddNews(world, kFinance,
+            "We made $" + std::to_string(dollars) + " off merchandise this month.");
   }
 }
 

@@ -11,6 +11,7 @@
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "rivals/rivals.h"
+#include "show/nightbook.h"
 #include "show/showresults.h"
 
 namespace grapplemont {
@@ -66,18 +67,38 @@ long long PaySponsors(World& world, Promotion& promotion, bool isEvent) {
   for (const Sponsor& sponsor : world.Sponsors()) {
     if (sponsor.Promotion != promotion.Uid) continue;
     const bool isMain = promotion.Sponsor[0] == sponsor.Uid;
-    dollars += 1000LL * (isEvent ? int(sponsor.Pay) : SponsorPayForTv(sponsor, isMain));
+    const long long pay = 1000LL * (isEvent ? int(sponsor.Pay) : SponsorPayForTv(sponsor, isMain));
+    dollars += pay;
+    if (promotion.Uid == world.PlayerUid())
+      NoteStep(world, {kNoteMoney, promotion.Name.Str()}, static_cast<int>(pay),
+               static_cast<int>(promotion.Money + dollars), "Sponsor " + sponsor.Name);
   }
   promotion.Money += dollars;
   promotion.ThisMonth.SponsorIncome += dollars;
   return dollars;
 }
 
+void MoveOwnImage(World& world, Promotion& player, int step, const std::string& why) {
+  const int image = player.Image, size = player.Size;
+  MoveImage(world, player, step);
+  NoteFact(world, {kNoteImage, player.Name.Str()}, player.Image - image, player.Image,
+           why + (player.Size == size ? "" : "; now " + std::string(SizeText(player.Size))));
+}
+
 /// What the public and the sponsors make of a show of the player's; gives what these paid.
 long long Judge(World& world, Promotion& player, HeldShow kind) {
-  for (const int step : GoodwillBefore(world.Game(), kind))
-    if (step != 0) MoveImage(world, player, step);
-  MoveImage(world, player, ImageStep(kind, player.Size, world.Session.ShowRating));
+  static constexpr const char* kGoodwill[] = {"the difficulty of the game", "your poor reputation",
+                                              "nobody knows you"};
+  const Goodwill before = GoodwillBefore(world.Game(), kind);
+  for (std::size_t i = 0; i < before.size(); ++i)
+    if (before[i] != 0) MoveOwnImage(world, player, before[i], kGoodwill[i]);
+  const int rating = world.Session.ShowRating;
+  if (const ImageBand next = NextImageBand(kind, player.Size, rating); next.From > rating)
+    NoteFact(world, {kNoteNextBand, player.Name.Str()}, next.Step, next.From,
+             "A rating of " + std::to_string(next.From) + "% moves the image by " +
+                 (next.Step > 0 ? "+" : "") + std::to_string(next.Step) + ".");
+  MoveOwnImage(world, player, ImageStep(kind, player.Size, rating),
+               "a show rated " + std::to_string(rating) + "%");
   return PaySponsors(world, player, kind == HeldShow::Event);
 }
 

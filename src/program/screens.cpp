@@ -59,6 +59,7 @@ namespace grapplemont {
   SCREEN(frmResults)         \
   SCREEN(frmReports)         \
   SCREEN(frmAwards)          \
+  SCREEN(frmMorning)         \
   SCREEN(frmNews)            \
   SCREEN(frmNotepad)         \
   SCREEN(frmOptions)         \

@@ -89,6 +89,7 @@ void ForgetInThePast(World& world, int uid) {
   for (MatchTally& tally : world.Tallies()) clear(tally.Worker);
   for (TitleReign& reign : world.Reigns()) clear(reign.Worker, reign.Partner);
   for (YearAward& award : world.Awards()) clear(award.Worker, award.Partner);
+  for (ShowNote& note : world.ShowNotes()) clear(note.Worker);
   const auto isOthers = [=](const auto& row) { return row.Worker != uid; };
   world.YearEnds().Keep(isOthers);
   world.Months().Keep(isOthers);

@@ -107,6 +107,12 @@ class World {
   /// The last cards that were held, and drafts.
   Records<KeptRow>& KeptRows() { return Of<KeptRow>(); }
   const Records<KeptRow>& KeptRows() const { return Of<KeptRow>(); }
+  /// What the last shows moved, in the order in which it happened.
+  Records<ShowNote>& ShowNotes() { return Of<ShowNote>(); }
+  const Records<ShowNote>& ShowNotes() const { return Of<ShowNote>(); }
+  /// What of the news the player has read (records/readmail.h).
+  Records<ReadMail>& ReadMails() { return Of<ReadMail>(); }
+  const Records<ReadMail>& ReadMails() const { return Of<ReadMail>(); }
   Records<GameInfo>& GameInfos() { return Of<GameInfo>(); }
   const Records<GameInfo>& GameInfos() const { return Of<GameInfo>(); }
   TextFile& Notes() { return std::get<TextFile>(tables_); }

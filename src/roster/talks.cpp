@@ -89,15 +89,20 @@ int MonthsWanted(int size, const Worker& worker) {
   return MonthsAt(kMiddleMonths, worker.Age);
 }
 
-int WageWanted(int size, const Worker& worker) {
+Score WageWanted(int size, const Worker& worker) {
   const int now = worker.Wage;
-  int wage = now;
-  if (size == kGlobal && worker.Age < 40) wage += PercentOf(now, 10);
-  if (size == kNational && worker.Age < 40) wage += PercentOf(now, 5);
-  if (size == kSmall && now >= 7) wage -= PercentOf(now, 5);
-  if (size == kBackyard && now >= 3) wage -= PercentOf(now, 10);
-  if (worker.Employer != 0) wage = PercentOf(wage, 120);
-  return std::min(wage, kHighestWage);
+  Score wage;
+  wage.Add(now, worker.Employer != 0 ? "the wage of the present contract" : "the last wage");
+  if (size == kGlobal && worker.Age < 40)
+    wage.Add(PercentOf(now, 10), "a Global promotion can pay");
+  if (size == kNational && worker.Age < 40)
+    wage.Add(PercentOf(now, 5), "a National promotion can pay");
+  if (size == kSmall && now >= 7) wage.Add(-PercentOf(now, 5), "a Small promotion has less");
+  if (size == kBackyard && now >= 3)
+    wage.Add(-PercentOf(now, 10), "a Backyard has next to nothing");
+  if (worker.Employer != 0) wage.Become(PercentOf(wage, 120), "a fifth more for leaving a job");
+  wage.Become(std::min<int>(wage, kHighestWage), "nobody earns more");
+  return wage;
 }
 
 bool WantsControl(const Worker& worker) {
@@ -115,6 +120,19 @@ int RenewalWage(const Worker& worker) {
   const int percent = position < kMidcard ? 10 : position <= kLowerMidcard ? 5 : 1;
   return std::clamp(worker.Wage + PercentOf(worker.Wage, percent), 1, kHighestWage);
 }
+
+}  // namespace
+
+Demands ContractDemands(const World& world, const Worker& worker) {
+  const int size = world.Player().Size;
+  Score wage = WageWanted(size, worker);
+  const int thousands = wage;
+  return {PositionWanted(size, worker), MonthsWanted(size, worker),
+          WantsWritten(size, worker),   thousands,
+          WantsControl(worker),         std::move(wage)};
+}
+
+namespace {
 
 struct Talk {
   const Worker& Who;
@@ -184,12 +202,6 @@ constexpr Objection kObjections[] = {
 };
 
 }  // namespace
-
-Demands ContractDemands(const World& world, const Worker& worker) {
-  const int size = world.Player().Size;
-  return {PositionWanted(size, worker), MonthsWanted(size, worker), WantsWritten(size, worker),
-          WageWanted(size, worker), WantsControl(worker)};
-}
 
 std::string WhyNoRenewal(const Worker& worker) {
   const int morale = worker.Morale, loyalty = worker.Loyalty;

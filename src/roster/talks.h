@@ -5,6 +5,7 @@
 
 #include "records/arithmetic.h"
 #include "records/fields/vocabulary.h"
+#include "records/score.h"
 #include "records/world.h"
 
 // What all contract talks share.
@@ -73,6 +74,7 @@ struct Demands {
   bool Written = true;
   int Wage = 0;  // thousands of dollars a month
   bool CreativeControl = false;
+  Score WageSteps = {};  // how the wage came about
 };
 /// Of the player's promotion.
 Demands ContractDemands(const World& world, const Worker& worker);

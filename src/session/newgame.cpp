@@ -207,10 +207,12 @@ void StartTitles(World& world) {
   }
 }
 
-/// The game's first year is compared with this day, and its Titles' reigns begin here.
+/// The game's first year is compared with this day, its Titles' reigns begin here, and no mail has
+/// been read.
 void BeginPast(World& world) {
   UpdateReigns(world);
   NoteYearEnd(world);
+  world.ReadMails().Rewrite({});
 }
 
 void WelcomeMail(World& world) {

@@ -11,6 +11,7 @@
 #include "roster/moods.h"
 #include "roster/postings.h"
 #include "show/legend.h"
+#include "show/nightbook.h"
 #include "show/overchange.h"
 #include "show/ratings.h"
 
@@ -51,7 +52,10 @@ constexpr int kWinnersJoy = 3;
 void WearOut(SegmentRun& run, Worker& worker) {
   if (run.Strain < 1) return;
   const Wear& wear = kWear[std::min(run.Strain, static_cast<int>(std::size(kWear))) - 1];
+  const int before = worker.Condition;
   worker.Condition -= wear.Sure + run.World.RandomDraw(wear.Draw);
+  NoteStep(run, kNoteCondition, worker, worker.Condition - before, worker.Condition,
+           "a match of strain " + std::to_string(run.Strain));
 }
 
 int MoraleFrom(int attitude, int matchLevel, int workerLevel) {
@@ -130,6 +134,11 @@ CardPull CheckCardPosition(World& world, const Worker& worker) {
   return {};
 }
 
+/// Why it was moved last; empty for a number that was not.
+std::string LastWhy(const Score& score) {
+  return score.Steps().empty() ? std::string() : score.Steps().back().Why;
+}
+
 struct Feeling {
   int Change = 0;
   MoodReason Why = kMoodWon;
@@ -137,14 +146,16 @@ struct Feeling {
 using Feelings = std::vector<Feeling>;
 
 /// Morale stops at its ends only once all have been added up, so the larger go last.
-void Feel(World& world, Worker& worker, Feelings feelings) {
+void Feel(SegmentRun& run, Worker& worker, Feelings feelings) {
   int left = 0;
   for (const Feeling& feeling : feelings) left += feeling.Change;
   const int end = std::clamp(worker.Morale + left, 0, 100);
   std::ranges::sort(feelings, {}, [](const Feeling& feeling) { return std::abs(feeling.Change); });
   for (std::size_t i = 0; i < feelings.size(); ++i) {
-    const bool isLast = i + 1 == feelings.size();
-    MoveMorale(world, worker, isLast ? end - worker.Morale : feelings[i].Change, feelings[i].Why);
+    const auto& [change, why] = feelings[i];
+    const int before = worker.Morale;
+    MoveMorale(run.World, worker, i + 1 == feelings.size() ? end - before : change, why);
+    NoteStep(run, kNoteMorale, worker, worker.Morale - before, worker.Morale, MoodReasonText(why));
   }
 }
 
@@ -153,21 +164,24 @@ void Feel(World& world, Worker& worker, Feelings feelings) {
 void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
   const int matchLevel = WeighRating(run.Quality, run.Crowd) + kMatchAhead;
   const int workerLevel = WeighRating(BestSkill(worker), worker.Over);
-  int over = worker.Over;
+  const int overBefore = worker.Over;
+  Score over;
+  over.Add(overBefore, "");
   Feelings feelings;
   if (isWinner) {
     feelings.push_back({run.World.RandomDraw(kWinnersJoy), kMoodWon});
   } else {
     const CardPull pull = CheckCardPosition(run.World, worker);
-    over += pull.Over;
+    over.Add(pull.Over, "pushed too high up the card");
     WearOut(run, worker);
     const int match = MoraleFrom(worker.Attitude, matchLevel, workerLevel);
     feelings = {{pull.Morale, kMoodHeldDown}, {match, match > 0 ? kMoodMatchGood : kMoodMatchBad}};
   }
   for (const Showcase& showcase : kShowcases)
-    if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom) over += showcase.Gain;
-  ChangeOverAndTell(run, worker, over - worker.Over);
-  Feel(run.World, worker, feelings);
+    if (over < showcase.OverBelow && run.Quality >= showcase.QualityFrom)
+      over.Add(showcase.Gain, "a match of quality " + std::to_string(run.Quality));
+  ChangeOverAndTell(run, worker, over - overBefore, LastWhy(over));
+  Feel(run, worker, std::move(feelings));
 }
 
 namespace {
@@ -214,6 +228,8 @@ void DrawInjuries(SegmentRun& run) {
     const int odds = worker ? OddsOf(run, *worker) : 0;
     if (odds == 0 || run.World.RandomDraw(odds) != 1 || worker->Status == "Inj") continue;
     BreakSomething(run.World, *worker);
+    NoteFact(run, {kNoteInjury, worker->Name.Str(), worker->Uid}, worker->StatusMonths,
+             worker->Condition, worker->InjuryName.Str());
     run.Notes += worker->Name.Str() + " has sustained an injury as a result of a bad bump! " +
                  StatusLine(*worker) + ". ";
   }
@@ -254,8 +270,10 @@ void HurtOthers(SegmentRun& run, const Worker& stiff) {
     if (static_cast<int>(place) >= EntrantsOf(run.Segment) || !hurt || uid == stiff.Uid ||
         uid == partner)
       continue;
-    const int blow = run.World.RandomDraw(kHardestBlow);
+    const int blow = run.World.RandomDraw(kHardestBlow), before = hurt->Condition;
     hurt->Condition -= blow;
+    NoteStep(run, kNoteCondition, *hurt, hurt->Condition - before, hurt->Condition,
+             stiff.Name.Str() + " worked too stiffly");
     if (blow < kHardestBlow) continue;
     const Complaint& complaint = kComplaints[place];
     AddNews(run.World, hurt->Name,

@@ -14,6 +14,8 @@ namespace grapplemont {
 
 namespace {
 
+constexpr const char* kSizeAndImage = "size, image and the day's luck";
+
 /// People by tenths of the image, from below 10 to 90 up.
 using Bands = std::array<int, 10>;
 struct CrowdRow {
@@ -123,7 +125,7 @@ int PeopleAtPrice(int people, int off) {
 
 Score GateOf(int crowd, const Gate& gate, std::span<const EconomyFactor> economy) {
   Score people;
-  people.Add(crowd, "size and image");
+  people.Add(crowd, kSizeAndImage);
   people.Become(ByEconomy(people, economy, gate.Economy),
                 "economy " + std::to_string(gate.Economy));
   const int off = gate.TicketPrice - FairTicketPrice(gate.Size);
@@ -212,6 +214,11 @@ constexpr CrowdsBySize kTvRatings = {{
 constexpr EconomyFactor kViewerEconomy[] = {
     {91, kAnyHigh, 120}, {81, 90, 110}, {10, 19, 90}, {kAnyLow, 9, 80}};
 
+void FollowEconomy(const World& world, Score& viewers, std::span<const EconomyFactor> factors) {
+  const int economy = world.Game().Economy;
+  viewers.Become(ByEconomy(viewers, factors, economy), "economy " + std::to_string(economy));
+}
+
 }  // namespace
 
 BaseAndDraw BuyRateBase(int size, int image) {
@@ -222,9 +229,11 @@ BaseAndDraw BuyRateBase(int size, int image) {
   return above == bands.begin() ? bands.front().Rate : above[-1].Rate;
 }
 
-int BuyRate(World& world, const Promotion& promotion) {
-  return ByEconomy(Drawn(world, BuyRateBase(promotion.Size, promotion.Image)), kBuyRateEconomy,
-                   world.Game().Economy);
+Score BuyRate(World& world, const Promotion& promotion) {
+  Score rate;
+  rate.Add(Drawn(world, BuyRateBase(promotion.Size, promotion.Image)), kSizeAndImage);
+  FollowEconomy(world, rate, kBuyRateEconomy);
+  return rate;
 }
 
 int PpvIncome(int buyRate) {
@@ -235,9 +244,11 @@ BaseAndDraw TvRatingBase(int size, int image) {
   return InBand(BySize(kTvRatings, size), image - 1);
 }
 
-int TvBaseRating(World& world, int size, int image) {
-  const int rating = Drawn(world, TvRatingBase(size, image));
-  return size >= kBackyard ? rating : ByEconomy(rating, kViewerEconomy, world.Game().Economy);
+Score TvBaseRating(World& world, int size, int image) {
+  Score rating;
+  rating.Add(Drawn(world, TvRatingBase(size, image)), kSizeAndImage);
+  if (size < kBackyard) FollowEconomy(world, rating, kViewerEconomy);
+  return rating;
 }
 
 }  // namespace grapplemont

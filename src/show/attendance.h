@@ -39,13 +39,13 @@ int EventProductionCost(int type);
 /// Pay-per-view, for sizes Global to Regional; 0 below, and nothing is drawn.
 BaseAndDraw BuyRateBase(int size, int image);
 /// Draws once. The present image counts, so the show must have moved it before.
-int BuyRate(World& world, const Promotion& promotion);
+Score BuyRate(World& world, const Promotion& promotion);
 /// Dollars for a buy rate.
 int PpvIncome(int buyRate);
 
 BaseAndDraw TvRatingBase(int size, int image);
 /// A television show's rating before networks and competitors have their say; the economy moves it
 /// but in a backyard. Draws once.
-int TvBaseRating(World& world, int size, int image);
+Score TvBaseRating(World& world, int size, int image);
 
 }  // namespace grapplemont

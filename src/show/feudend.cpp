@@ -1,6 +1,7 @@
 #include "records/modVar.h"
 #include "records/segmentparts.h"
 #include "show/legend.h"
+#include "show/nightbook.h"
 #include "show/overchange.h"
 #include "show/showfeuds.h"
 #include "storylines/feuds.h"
@@ -138,7 +139,8 @@ Payout PayoutOf(const Feud& feud, const EndRule* rule) {
 
 void Pay(SegmentRun& run, const FeudSide& side, int change) {
   for (const int uid : {side.First, side.Second})
-    if (Worker* worker = run.World.FindWorker(uid)) ChangeOverAndTell(run, *worker, change);
+    if (Worker* worker = run.World.FindWorker(uid))
+      ChangeOverAndTell(run, *worker, change, "how the feud ended");
 }
 
 /// Both sides by the record as it stands, the match that ends it included.
@@ -162,6 +164,8 @@ void EndFeudByMatch(SegmentRun& run) {
   MarkSlot(run, slot);
   Feud& feud = run.World.Feuds()[slot];
   const FeudScore score = FeudWins(feud);
+  const std::string name = FeudText(run.World, feud);
+  const int heat = feud.Heat;
   run.FeudEnding = true;
   // Without a winner there is no blow-off to pay for.
   if (const int side = FeudSideOf(feud, run.Segment.Winner);
@@ -169,6 +173,9 @@ void EndFeudByMatch(SegmentRun& run) {
     PayOff(run, feud, side == 1);
   for (Word* worker : {&feud.Worker1, &feud.Worker2, &feud.Worker3, &feud.Worker4}) *worker = 0;
   run.FeudEnding = false;
+  NoteFact(run, {kNoteFeudEnd, name}, 0, heat,
+           score.One + score.Two < kNoticed ? "ended before anybody had noticed it"
+                                            : "ended by this match");
 }
 
 }  // namespace grapplemont

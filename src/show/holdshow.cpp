@@ -12,8 +12,11 @@
 #include "records/segments.h"
 #include "roster/moods.h"
 #include "show/boutbook.h"
+#include "show/nightbook.h"
 #include "show/recap.h"
 #include "show/runsegment.h"
+#include "show/showfeuds.h"
+#include "storylines/feuds.h"
 
 namespace grapplemont {
 
@@ -29,6 +32,11 @@ bool IsOwnStable(const World& world, const Segment& segment) {
   for (const Stable& stable : world.Stables())
     if (stable.Owner == world.PlayerUid() && stable.Name == segment.Text) return true;
   return false;
+}
+
+/// The show's rating, or what a row of its sheet adds to it.
+NoteOf RatingNote(const World& world, int row = 0) {
+  return {kNoteRating, ShowName(world, world.ShowRuns()[1].IsEvent), 0, row};
 }
 
 }  // namespace
@@ -86,11 +94,18 @@ void StartShow(World& world, bool isEvent, const CommentaryTeam& team) {
   run.ColourCharge = coloured - announced;
   run.ShowSum = coloured;
   world.ShowRuns().Rewrite({run});
+  BeginNight(world);
+  const NoteOf rating = RatingNote(world);
+  NoteStep(world, rating, run.AnnouncerCharge, announced,
+           "Announcer " + AnnouncerName(world, team));
+  NoteStep(world, rating, run.ColourCharge, coloured,
+           "Colour commentator " + ColourName(world, team));
 }
 
 void AddExtraBonus(World& world, int bonus) {
   Run(world).ShowSum += bonus;
   Run(world).ExtraBonus = bonus;
+  NoteStep(world, RatingNote(world), bonus, Run(world).ShowSum, "The extra of the Event");
 }
 
 const ShowRun* ShowUnderWay(const World& world) {
@@ -121,9 +136,13 @@ int NextSegment(const World& world) {
 ToldSegment RunNextSegment(World& world, LineMemory* memory) {
   const int number = NextSegment(world);
   const bool first = Run(world).Current == 0;
-  const AtTheBell bell = LookAtTheBell(world, world.Segments()[number]);
+  const Segment& segment = world.Segments()[number];
+  const AtTheBell bell = LookAtTheBell(world, segment);
+  const int sum = Run(world).ShowSum;
   ToldSegment told = RunSegment(world, number, memory);
   Run(world).Current = number;
+  NoteStep(world, RatingNote(world, number), Run(world).ShowSum - sum, Run(world).ShowSum,
+           SegmentResult(world, segment));
   KeepBout(world, number, bell);
   if (memory) KeepReport(world, number, told, first);
   return told;
@@ -149,14 +168,20 @@ int Appearances(const World& world, int uid, bool isEvent) {
 }
 
 void TakeOverexposure(World& world, Worker& worker, int appearances) {
+  const int before = worker.Over;
   if (appearances == 3) worker.Over -= world.RandomDraw(2);
   if (appearances == 4) worker.Over -= 2 + world.RandomDraw(3);
   if (appearances >= 5) worker.Over -= 6;
+  NoteStep(world, {kNoteOver, worker.Name.Str(), worker.Uid}, worker.Over - before, worker.Over,
+           std::to_string(appearances) + " times on the card: the fans tire of that");
 }
 
 void FeelLeftOut(World& world, Worker& worker) {
-  if (worker.Position < kMidcard && worker.Condition >= 86)
-    MoveMorale(world, worker, -world.RandomDraw(8), kMoodLeftOut);
+  if (worker.Position >= kMidcard || worker.Condition < 86) return;
+  const int before = worker.Morale;
+  MoveMorale(world, worker, -world.RandomDraw(8), kMoodLeftOut);
+  NoteStep(world, {kNoteMorale, worker.Name.Str(), worker.Uid}, worker.Morale - before,
+           worker.Morale, "fit, and not on the card");
 }
 
 bool WasAtStake(const World& world, const Title& title) {
@@ -189,7 +214,12 @@ void CoolUnusedFeuds(World& world, const ShowRun& run) {
   for (int slot = 1; slot <= world.Feuds().Count(); ++slot) {
     if (run.FeudTouched[static_cast<std::size_t>(slot - 1)]) continue;
     Feud& feud = world.Feuds()[slot];
-    if (world.RandomDraw(3) == 2) feud.Heat -= feud.Heat / 10;
+    if (world.RandomDraw(3) != 2) continue;
+    const int before = feud.Heat;
+    feud.Heat -= feud.Heat / 10;
+    if (!IsFreeSlot(feud))
+      NoteStep(world, {kNoteHeat, FeudText(world, feud)}, feud.Heat - before, feud.Heat,
+               "not on the card of the Event");
   }
 }
 
@@ -197,7 +227,11 @@ void CoolUnusedFeuds(World& world, const ShowRun& run) {
 void FadeUnusedTitles(World& world) {
   for (Title& title : world.Titles()) {
     if (title.Owner != world.PlayerUid() || title.Suspended || WasAtStake(world, title)) continue;
-    if (world.RandomDraw(3) == 1) title.Image = title.Image * 9 / 10;
+    if (world.RandomDraw(3) != 1) continue;
+    const int before = title.Image;
+    title.Image = title.Image * 9 / 10;
+    NoteStep(world, {kNoteTitleImage, title.Name.Str()}, title.Image - before, title.Image,
+             "not at stake at the Event");
   }
 }
 
@@ -231,12 +265,20 @@ int EmptyChair(int sum, int number) {
 
 int CloseShow(World& world) {
   ShowRun& run = Run(world);
+  const NoteOf rating = RatingNote(world);
   run.ProductionCharge = ProductionCharge(world.Player());
   run.ShowSum += run.ProductionCharge;
+  NoteStep(world, rating, run.ProductionCharge, run.ShowSum,
+           "Production " + std::to_string(world.Player().Production) + ", too poor for this size");
   if (run.IsEvent) CoolUnusedFeuds(world, run);
   run.ShowSum += run.LastOverall;  // the closing Segment counts twice
+  NoteStep(world, rating, run.LastOverall, run.ShowSum, "The last row counts twice");
   run.ShowSegments += 1;
-  run.ShowSum = std::clamp(Score::Floor(run.ShowSum, run.ShowSegments), 0, 100);
+  const int sum = run.ShowSum;
+  run.ShowSum = std::clamp(Score::Floor(sum, run.ShowSegments), 0, 100);
+  NoteFact(world, rating, run.ShowSum - sum, run.ShowSum,
+           std::to_string(sum) + " points in " + std::to_string(run.ShowSegments) +
+               " counts, rounded down");
   AfterShow(world, run.IsEvent);
   if (run.IsEvent) FadeUnusedTitles(world);
   run.Stage = kShowClosed;

@@ -5,6 +5,7 @@
 
 #include "records/angles.h"
 #include "records/modWresCheck.h"
+#include "show/nightbook.h"
 #include "show/titlechange.h"
 #include "storylines/partners.h"
 
@@ -16,8 +17,9 @@ int ChangeOver(Worker& worker, int change) {
   return worker.Over - before;
 }
 
-void ReportOver(SegmentRun& run, const Worker& worker, int change) {
+void ReportOver(SegmentRun& run, const Worker& worker, int change, const std::string& why) {
   if (change == 0) return;
+  NoteStep(run, kNoteOver, worker, change, worker.Over, why);
   run.Notes += worker.Name.Str() + (change < 0 ? " lost " : " gained ");
   if (run.World.Game().Difficulty == kEasy)
     run.Notes += std::to_string(std::abs(change)) + (change == 1 ? " point of " : " points of ");
@@ -27,8 +29,8 @@ void ReportOver(SegmentRun& run, const Worker& worker, int change) {
                                             : "segment. ";
 }
 
-void ChangeOverAndTell(SegmentRun& run, Worker& worker, int change) {
-  ReportOver(run, worker, ChangeOver(worker, change));
+void ChangeOverAndTell(SegmentRun& run, Worker& worker, int change, const std::string& why) {
+  ReportOver(run, worker, ChangeOver(worker, change), why);
 }
 
 namespace {
@@ -63,7 +65,8 @@ constexpr int kLuck = 2;  // the draw on which a result counts
 void ShiftTeamMember(SegmentRun& run, Worker& worker, bool gap, int result, int draw) {
   const bool isLucky = run.World.RandomDraw(draw) == kLuck;
   const bool isClean = run.Segment.Finish == kClean, isLoud = run.Crowd > worker.Over;
-  ChangeOverAndTell(run, worker, gap ? result * (isLucky + isClean) + isLoud : 0);
+  ChangeOverAndTell(run, worker, gap ? result * (isLucky + isClean) + isLoud : 0,
+                    result > 0 ? "beat a more popular team" : "lost to a less popular team");
 }
 
 void ShiftOverSingles(SegmentRun& run, Worker& winner, Worker& loser) {
@@ -78,13 +81,13 @@ void ShiftOverSingles(SegmentRun& run, Worker& winner, Worker& loser) {
   if (isAbove(10) && isClean) --lost;
   if (isAbove(10) && run.Crowd > loser.Over) ++lost;
   lost += PenaltyOf(run, loser, kUnlikeLoser);
-  ReportOver(run, loser, ChangeOver(loser, lost));
+  ReportOver(run, loser, ChangeOver(loser, lost), "lost to " + winner.Name.Str());
 
   const bool isLucky = run.World.RandomDraw(5) == kLuck;
   int gained = isAbove(10) && isLucky ? 1 : 0;
   if (isAbove(7) && isClean) ++gained;
   if (isAbove(7) && run.Crowd > winner.Over) ++gained;
-  ReportOver(run, winner, ChangeOver(winner, gained) + penalty);
+  ReportOver(run, winner, ChangeOver(winner, gained) + penalty, "beat " + loser.Name.Str());
 }
 
 void ShiftOverTeams(SegmentRun& run, Worker& winner1, Worker& winner2, Worker& loser1,
@@ -197,8 +200,9 @@ void TalkOver(SegmentRun& run, int uid, bool isSecondary) {
   Worker* worker = run.World.FindWorker(uid);
   if (!worker) return;
   const int over = worker->Over;
-  ChangeOverAndTell(run, *worker,
-                    GainFrom(run, over, isSecondary) + LossFrom(run, over, isSecondary));
+  ChangeOverAndTell(
+      run, *worker, GainFrom(run, over, isSecondary) + LossFrom(run, over, isSecondary),
+      "talk of " + std::to_string(run.Overall) + " against Over " + std::to_string(over));
 }
 
 void AfterInterview(SegmentRun& run) {

@@ -9,10 +9,11 @@ namespace grapplemont {
 /// Applies a change to the worker's Over, held to 0..100, and gives what came of it.
 int ChangeOver(Worker& worker, int change);
 /// The same, and tells it in the notes.
-void ChangeOverAndTell(SegmentRun& run, Worker& worker, int change);
+void ChangeOverAndTell(SegmentRun& run, Worker& worker, int change, const std::string& why);
 
-/// One sentence behind a worker's name in the notes; nothing for a change of 0.
-void ReportOver(SegmentRun& run, const Worker& worker, int change);
+/// One sentence behind a worker's name in the notes, and a step for the morning after; nothing for
+/// a change of 0.
+void ReportOver(SegmentRun& run, const Worker& worker, int change, const std::string& why);
 
 /// Over by the result of a 1 vs 1 or 2 vs 2 match; nothing for a draw and for other styles.
 void ShiftOver(SegmentRun& run);

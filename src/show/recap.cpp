@@ -52,7 +52,9 @@ std::string WonWhat(const Segment& segment) {
                                    : std::string();
 }
 
-std::string ResultText(const World& world, const Segment& segment) {
+}  // namespace
+
+std::string SegmentResult(const World& world, const Segment& segment) {
   const std::string won = WonWhat(segment);
   if (won.empty()) return DescribeSegment(world, segment);
   return SideText(world, WinnersOf(segment)) + " won a " + won;
@@ -206,7 +208,7 @@ ShowRecap RecapOf(const World& world) {
   recap.Rating = run.ShowSum;
   for (int number = 1; number <= LastRow(world, run.IsEvent); ++number)
     if (const Segment& segment = world.Segments()[number]; WasTold(world, segment))
-      recap.Lines.push_back({number, ResultText(world, segment), segment.Rating});
+      recap.Lines.push_back({number, SegmentResult(world, segment), segment.Rating});
   const auto byRating = [](const RecapLine& a, const RecapLine& b) { return a.Rating < b.Rating; };
   if (const auto [worst, best] =
           std::minmax_element(recap.Lines.begin(), recap.Lines.end(), byRating);
@@ -216,15 +218,6 @@ ShowRecap RecapOf(const World& world) {
   }
   recap.Sum = SumOf(run, recap);
   return recap;
-}
-
-std::string WhyText(std::string_view caption, const Score& score) {
-  std::string text;
-  for (const ScoreStep& step : score.Steps()) {
-    const char* const sign = text.empty() || step.Change < 0 ? "" : "+";
-    text += sign + std::to_string(step.Change) + (text.empty() ? ": " : " ") + step.Why + "\n";
-  }
-  return text + "= " + std::to_string(score) + " " + std::string(caption);
 }
 
 std::vector<ReportPiece> CutToPieces(std::string_view text, std::size_t width) {

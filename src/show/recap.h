@@ -19,6 +19,9 @@ struct RatingsSoFar {
 };
 RatingsSoFar RatingsOfShow(const World& world);
 
+/// The one line of a sheet, told as a result.
+std::string SegmentResult(const World& world, const Segment& segment);
+
 struct RecapLine {
   int Number = 0;    // the row of the sheet
   std::string What;  // the one line of a sheet, told as a result
@@ -32,10 +35,6 @@ struct ShowRecap {
 };
 /// Of the show that has just closed. Requires one.
 ShowRecap RecapOf(const World& world);
-
-/// How a percentage came about, a line a step, and what it came to: "76: draw of the two", "+15
-/// feud of the two", "= 91 Crowd Reaction".
-std::string WhyText(std::string_view caption, const Score& score);
 
 // The report column: the words in which the last shows were told, as they were told.
 

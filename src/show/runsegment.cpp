@@ -110,7 +110,7 @@ std::span<const Step> StepsOf(const Segment& segment) {
 
 ToldSegment RunSegment(World& world, int number, LineMemory* memory) {
   Segment& segment = world.Segments()[number];
-  SegmentRun run{world, segment, world.ShowRuns()[1], {}, {}, {}, 1, false, {}};
+  SegmentRun run{world, segment, world.ShowRuns()[1], {}, {}, {}, 1, false, {}, number};
   Telling telling{run, number, memory, TitleAtStake(world, segment)};
   for (const Step step : StepsOf(segment)) step(telling);
   return {std::move(run.Quality), std::move(run.Crowd),      std::move(run.Overall),

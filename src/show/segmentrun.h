@@ -19,6 +19,7 @@ struct SegmentRun {
   int Strain = 1;           // how hard the match is on the body, 1 to 5; 0 for no wear at all
   bool FeudEnding = false;  // the consequences of an ended feud are being reported
   std::string Notes;        // of the road agent
+  int Row = 0;              // of the sheet; 0 outside a show
 };
 
 }  // namespace grapplemont

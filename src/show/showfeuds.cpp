@@ -7,6 +7,7 @@
 #include "records/angles.h"
 #include "records/segmentacts.h"
 #include "records/segmentparts.h"
+#include "show/nightbook.h"
 #include "show/ratings.h"
 #include "storylines/feuds.h"
 
@@ -39,7 +40,18 @@ void MarkSlot(SegmentRun& run, int slot) {
   run.Show.FeudTouched[static_cast<std::size_t>(slot - 1)] = true;
 }
 
+std::string FeudText(const World& world, const Feud& feud) {
+  const FeudSides sides = SidesOf(feud);
+  return SideName(world, sides.One) + " and " + SideName(world, sides.Two);
+}
+
 namespace {
+
+void SetHeat(SegmentRun& run, Feud& feud, int heat, const char* why) {
+  const int before = feud.Heat;
+  feud.Heat = heat;
+  NoteStep(run, kNoteHeat, FeudText(run.World, feud), feud.Heat - before, feud.Heat, why);
+}
 
 /// One test of a heat on the move: where it lies more than `Off` from its target it goes `By`.
 struct HeatStep {
@@ -56,11 +68,6 @@ constexpr int kTalkDraw = 15;
 constexpr int kTalkBonus = 15;
 /// Enemies who end up in each other's arms cool down, however well they do it.
 constexpr int kAngleTarget = 15;
-
-std::string FeudText(const World& world, const Feud& feud) {
-  const FeudSides sides = SidesOf(feud);
-  return SideName(world, sides.One) + " and " + SideName(world, sides.Two);
-}
 
 bool StandWhole(const Feud& feud, const Segment& segment) {
   const auto sideOf = [&](int place) { return FeudSideOf(feud, UidAt(segment, place)); };
@@ -99,6 +106,47 @@ int MoveHeat(int heat, int target, bool isTalk) {
   return std::clamp(heat, 0, 100);
 }
 
+}  // namespace
+
+int FeudSlotOf(const World& world, const Segment& segment, bool ofTeams) {
+  if (!ofTeams) return FeudSlotOf(world, UidAt(segment, 1), UidAt(segment, 2));
+  for (int slot = 1; slot <= world.Feuds().Count(); ++slot)
+    if (StandWhole(world.Feuds()[slot], segment)) return slot;
+  return 0;
+}
+
+void FeudLift(SegmentRun& run, int slot) {
+  if (slot == 0) return;
+  MarkSlot(run, slot);
+  const Feud& feud = run.World.Feuds()[slot];
+  if (run.Crowd >= feud.Heat) return;
+  const int lifted = run.Crowd + kLeastLift + run.World.RandomDraw(kLiftDraw);
+  run.Crowd.Become(
+      std::min<int>(lifted, feud.Heat),
+      "feud of " + FeudText(run.World, feud) + ", up to its heat " + std::to_string(feud.Heat));
+}
+
+void HeatFollowsMatch(SegmentRun& run) {
+  const int slot = FeudSlotOf(run.World, run.Segment, false);
+  if (slot == 0) return;
+  MarkSlot(run, slot);
+  Feud& feud = run.World.Feuds()[slot];
+  SetHeat(run, feud, MoveHeat(feud.Heat, WeighRating(run.Quality, run.Crowd), false),
+          "follows the match");
+}
+
+void HeatFollowsTalk(SegmentRun& run) {
+  const int target = TalkTarget(run);
+  for (int slot = 1; slot <= run.World.Feuds().Count(); ++slot) {
+    Feud& feud = run.World.Feuds()[slot];
+    if (!SpeakAgainst(feud, run.Segment)) continue;
+    MarkSlot(run, slot);
+    SetHeat(run, feud, MoveHeat(feud.Heat, target, true), "follows the talk");
+  }
+}
+
+namespace {
+
 /// So many clean wins, and a side begins to bore.
 constexpr int kCleanWins = 8;
 constexpr int kBored = 2;
@@ -118,14 +166,14 @@ Counters CountersOf(Feud& feud, int side) {
   return {feud.Clean2, feud.Dirty2, feud.Interference2, feud.Sneak2};
 }
 
-void Cool(Feud& feud) {
+void Cool(SegmentRun& run, Feud& feud) {
   const int winsA = feud.Clean1 + feud.Dirty1, winsB = feud.Clean2 + feud.Dirty2;
   int heat = feud.Heat;
   if (feud.Clean1 > kCleanWins) heat -= kBored;
   if (feud.Clean2 > kCleanWins) heat -= kBored;
   if (winsA > winsB + kRunaway && feud.Clean2 > 0) heat -= kRunawayCools;
   if (winsB > winsA + kRunaway && feud.Clean1 > 0) heat -= kRunawayCools;
-  feud.Heat = heat;
+  SetHeat(run, feud, heat, "one side wins too much");
 }
 
 /// Adds one to a counter of `uid` in the first feud against `enemy`; 0 where there is none, else
@@ -157,51 +205,15 @@ void TallyWin(SegmentRun& run, int winnerUid, int loserUid, bool isClean) {
               : +[](const Counters& side) -> Natural& { return side.Cheap; });
   if (slot == 0) return;
   MarkSlot(run, slot);
-  Cool(run.World.Feuds()[slot]);
+  Cool(run, run.World.Feuds()[slot]);
 }
 
 }  // namespace
 
-int FeudSlotOf(const World& world, const Segment& segment, bool ofTeams) {
-  if (!ofTeams) return FeudSlotOf(world, UidAt(segment, 1), UidAt(segment, 2));
-  for (int slot = 1; slot <= world.Feuds().Count(); ++slot)
-    if (StandWhole(world.Feuds()[slot], segment)) return slot;
-  return 0;
-}
-
-void FeudLift(SegmentRun& run, int slot) {
-  if (slot == 0) return;
-  MarkSlot(run, slot);
-  const Feud& feud = run.World.Feuds()[slot];
-  if (run.Crowd >= feud.Heat) return;
-  const int lifted = run.Crowd + kLeastLift + run.World.RandomDraw(kLiftDraw);
-  run.Crowd.Become(
-      std::min<int>(lifted, feud.Heat),
-      "feud of " + FeudText(run.World, feud) + ", up to its heat " + std::to_string(feud.Heat));
-}
-
-void HeatFollowsMatch(SegmentRun& run) {
-  const int slot = FeudSlotOf(run.World, run.Segment, false);
-  if (slot == 0) return;
-  MarkSlot(run, slot);
-  Feud& feud = run.World.Feuds()[slot];
-  feud.Heat = MoveHeat(feud.Heat, WeighRating(run.Quality, run.Crowd), false);
-}
-
-void HeatFollowsTalk(SegmentRun& run) {
-  const int target = TalkTarget(run);
-  for (int slot = 1; slot <= run.World.Feuds().Count(); ++slot) {
-    Feud& feud = run.World.Feuds()[slot];
-    if (!SpeakAgainst(feud, run.Segment)) continue;
-    MarkSlot(run, slot);
-    feud.Heat = MoveHeat(feud.Heat, target, true);
-  }
-}
-
 void TallyVerbal(SegmentRun& run, int speakerUid, int targetUid) {
   const int slot = Count(run.World, speakerUid, targetUid,
                          [](const Counters& side) -> Natural& { return side.Verbal; });
-  if (slot != 0) Cool(run.World.Feuds()[slot]);
+  if (slot != 0) Cool(run, run.World.Feuds()[slot]);
 }
 
 void TallyResult(SegmentRun& run) {

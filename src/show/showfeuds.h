@@ -7,6 +7,8 @@
 
 namespace grapplemont {
 
+/// "Bram Okafor and Ilya Marsh", with pairs by their teams' names.
+std::string FeudText(const World& world, const Feud& feud);
 /// Whether two are enemies in this feud. False for nobody.
 bool AreEnemies(const Feud& feud, int workerX, int workerY);
 /// The side of a feud this worker stands on: 1, 2, or 0 for none.

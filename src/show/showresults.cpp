@@ -6,6 +6,7 @@
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "show/attendance.h"
+#include "show/nightbook.h"
 
 namespace grapplemont {
 
@@ -42,21 +43,35 @@ std::string Got(const Promotion& promotion, const Voice& voice) {
   return (voice.Who == "We" ? voice.Who : promotion.Initials.Str()) + " got a ";
 }
 
+/// Of the player's own shows alone.
+void NoteOwn(World& world, const Promotion& promotion, NoteKind kind, const Score& number) {
+  if (IsPlayers(world, promotion)) NoteSteps(world, {kind, promotion.Name.Str()}, number);
+}
+
+void NoteMoney(World& world, const Promotion& promotion, int dollars, const std::string& why) {
+  if (IsPlayers(world, promotion))
+    NoteStep(world, {kNoteMoney, promotion.Name.Str()}, dollars, promotion.Money, why);
+}
+
 /// Puts dollars that came in into a book of the month; gives them.
-int TakeIn(Promotion& promotion, Cash MonthBooks::*book, int dollars) {
+int TakeIn(World& world, Promotion& promotion, Cash MonthBooks::*book, int dollars,
+           const std::string& why) {
   promotion.Money += dollars;
   promotion.ThisMonth.*book += dollars;
+  NoteMoney(world, promotion, dollars, why);
   return dollars;
 }
 
-int SellTickets(Promotion& promotion, int people) {
-  return TakeIn(promotion, &MonthBooks::TicketIncome, promotion.TicketPrice * people);
+int SellTickets(World& world, Promotion& promotion, int people) {
+  return TakeIn(world, promotion, &MonthBooks::TicketIncome, promotion.TicketPrice * people,
+                "Tickets: " + std::to_string(people) + " at " + Dollars(promotion.TicketPrice));
 }
 
-int PayForProduction(Promotion& promotion, int type) {
+int PayForProduction(World& world, Promotion& promotion, int type) {
   const int dollars = EventProductionCost(type);
   promotion.Money -= dollars;
   promotion.ThisMonth.ProductionCost += dollars;
+  NoteMoney(world, promotion, -dollars, "Putting on the Event");
   return dollars;
 }
 
@@ -134,11 +149,17 @@ void KeepRating(Show& show, int rating) {
   show.Rating3 = rating;
 }
 
-int RatingOf(World& world, const Promotion& promotion, const Show& show, const Network& network) {
+Score RatingOf(World& world, const Promotion& promotion, const Show& show, const Network& network) {
   const int cap = SlotAudience(network, show.Slot);
-  int rating = std::min(TvBaseRating(world, promotion.Size, promotion.Image), cap);
-  rating = std::min(HeadToHead(world, show, rating), cap);
-  return rating < 0 ? 1 : rating;
+  Score rating = TvBaseRating(world, promotion.Size, promotion.Image);
+  const auto limit = [&] {
+    rating.Become(std::min<int>(rating, cap), network.Name + " reaches no more at that hour");
+  };
+  limit();
+  rating.Become(HeadToHead(world, show, rating), "shows of others at the same hour");
+  limit();
+  if (rating < 0) rating.Become(1, "limit");
+  return rating;
 }
 
 }  // namespace
@@ -151,12 +172,16 @@ Show* ShowOn(World& world, int promotionUid, Day day) {
 
 ShowTakings EventReport(World& world, Promotion& promotion, const Event& event, int type) {
   const bool isPayPerView = type == kPayPerView && promotion.Size <= kRegional;
-  const int buyRate = isPayPerView ? BuyRate(world, promotion) : 0;
-  const int people = EventAttendance(world, promotion, type);
-  const int ppvDollars =
-      isPayPerView ? TakeIn(promotion, &MonthBooks::PpvIncome, PpvIncome(buyRate)) : 0;
-  const int ticketDollars = SellTickets(promotion, people);
-  const int costs = PayForProduction(promotion, type);
+  const Score buyRate = isPayPerView ? BuyRate(world, promotion) : Score();
+  const Score people = EventAttendance(world, promotion, type);
+  NoteOwn(world, promotion, kNoteViewers, buyRate);
+  NoteOwn(world, promotion, kNoteCrowd, people);
+  const int ppvDollars = isPayPerView
+                             ? TakeIn(world, promotion, &MonthBooks::PpvIncome, PpvIncome(buyRate),
+                                      "Pay-per-view, buy rate " + RatingText(buyRate))
+                             : 0;
+  const int ticketDollars = SellTickets(world, promotion, people);
+  const int costs = PayForProduction(world, promotion, type);
   if (isPayPerView)
     TellOfPayPerView(world, promotion, event, buyRate, people, ppvDollars, ticketDollars);
   else
@@ -179,13 +204,15 @@ ShowTakings TvReport(World& world, Promotion& promotion) {
   Show* show = ShowOn(world, promotion.Uid, world.Today());
   const Network* network = show ? world.FindNetwork(show->Network) : nullptr;
   if (!network) return {};
-  const int rating = RatingOf(world, promotion, *show, *network);
+  const Score rating = RatingOf(world, promotion, *show, *network);
+  NoteOwn(world, promotion, kNoteViewers, rating);
   const int floor = SlotAudience(*network, show->Slot) * 6 / 10;
   if (rating < floor && IsPlayers(world, promotion))
     AddNews(world, network->Name, "The ratings for " + show->Name.Str() + " need to improve.");
   KeepRating(*show, rating);
-  const int people = TvAttendance(world, promotion);
-  const int dollars = SellTickets(promotion, people);
+  const Score people = TvAttendance(world, promotion);
+  NoteOwn(world, promotion, kNoteCrowd, people);
+  const int dollars = SellTickets(world, promotion, people);
   const Voice voice = VoiceOf(world, promotion, "Television report", world.Game().MailTvShow);
   const bool own = voice.Who == "We";
   Tell(world, voice,

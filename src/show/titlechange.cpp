@@ -2,6 +2,7 @@
 
 #include "report/cast.h"
 #include "report/stages.h"
+#include "show/nightbook.h"
 #include "show/overchange.h"
 #include "storylines/titles.h"
 
@@ -55,7 +56,11 @@ bool AreChampions(const Title& title, int one, int other) {
 }
 
 void PassTitle(SegmentRun& run, Title& title, int holder, int partner, std::string_view how) {
+  const std::string former = title.Holder == 0 ? std::string() : ChampionText(run.World, title);
   Crown(run.World, title, holder, partner);
+  NoteFact(run, {kNoteTitle, title.Name.Str(), holder}, 0, title.Image,
+           ChampionText(run.World, title) +
+               (former.empty() ? " took what was vacant" : " from " + former));
   run.Notes += ChampionText(run.World, title) + std::string(how) +
                TitleInProse(title.Name, title.Singles) + ". ";
 }
@@ -84,6 +89,8 @@ void MoveTitleImage(SegmentRun& run) {
   const int image = title->Image;
   if (title->Holder == 0) {
     title->Image = Score::Floor(image * 3, 4);
+    NoteStep(run, kNoteTitleImage, title->Name.Str(), title->Image - image, title->Image,
+             "nobody holds it");
     return Tell(run, *title, kHasLost);
   }
   int sum = run.Overall, counted = 1;
@@ -92,10 +99,13 @@ void MoveTitleImage(SegmentRun& run) {
     if (!champion) continue;
     sum += champion->Over;
     ++counted;
-    ChangeOverAndTell(run, *champion, StepTowards(image, *champion));
+    ChangeOverAndTell(run, *champion, StepTowards(image, *champion),
+                      "the image of the Title, " + std::to_string(image));
   }
   const int change = ImageChange(Score::Floor(sum, counted), image);
   title->Image += change;
+  NoteStep(run, kNoteTitleImage, title->Name.Str(), title->Image - image, title->Image,
+           "mean of the match and its champion " + std::to_string(Score::Floor(sum, counted)));
   if (change > 0)
     Tell(run, *title,
          title->Singles ? " title has gained in image." : " titles have gained in image.");

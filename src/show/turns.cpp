@@ -6,6 +6,7 @@
 #include "records/segmentacts.h"
 #include "roster/moods.h"
 #include "show/anglerules.h"
+#include "show/nightbook.h"
 #include "show/overchange.h"
 #include "storylines/partners.h"
 
@@ -113,16 +114,18 @@ void CompleteTurn(SegmentRun& run, Worker& turner) {
                (turner.Gender ? "he " : "she ") + "is now a " + std::string(TurnedInto(turner));
   run.Crowd.Add(run.World.RandomDraw(10), "turn of " + turner.Name.Str());
   const int up = run.World.RandomDraw(10);
-  ChangeOverAndTell(run, turner, up - run.World.RandomDraw(3));
+  ChangeOverAndTell(run, turner, up - run.World.RandomDraw(3), "turned");
 }
 
 void FailTurn(SegmentRun& run, Worker& turner, const FailedTurn& price) {
   run.Notes += std::string(price.Before) + turner.Name.Str() + std::string(price.After);
   run.Crowd.Scale(price.CrowdTenths, 10, "failed turn of " + turner.Name.Str());
   const int drop = price.OverDraw == 0 ? 0 : run.World.RandomDraw(price.OverDraw);
-  ChangeOverAndTell(run, turner, price.Over - drop);
+  ChangeOverAndTell(run, turner, price.Over - drop, "failed to turn");
+  const int morale = turner.Morale;
   MoveMorale(run.World, turner, price.Morale - run.World.RandomDraw(price.MoraleDraw),
              kMoodTurnFailed);
+  NoteStep(run, kNoteMorale, turner, turner.Morale - morale, turner.Morale, "failed to turn");
 }
 
 using Calls = std::vector<TurnCall>;

@@ -103,7 +103,8 @@ void Game::MarkCommitted() {
 bool Game::MayChange(const std::vector<FileChange>& changes) const {
   if (!isOver_ || !HasEnded(world_->Game())) return true;
   return std::ranges::all_of(changes, [this](const FileChange& change) {
-    return change.Name == world_->News().File() || change.Name == world_->Notes().File();
+    return change.Name == world_->News().File() || change.Name == world_->ReadMails().File() ||
+           change.Name == world_->Notes().File();
   });
 }
 

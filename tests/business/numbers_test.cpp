@@ -135,6 +135,9 @@ TEST(Numbers, OfALoanGoByItsSizeAndTheDifficulty) {
   EXPECT_EQ(LoanTerm(1) + LoanTerm(11) + LoanTerm(26), 12 + 24 + 36);
   EXPECT_EQ(LoanQuote(2500000, 24, kEasy), 10416667) << "to the nearest cent";
   EXPECT_EQ(LoanQuote(1100000, 24, kEasy), 4583333);
+  std::string why;
+  EXPECT_EQ(LoanQuote(600000, 12, kEasy, &why), 5000000);
+  EXPECT_NE(why.find("$50000, the equal part of 12 months"), std::string::npos) << why;
   for (const auto& [difficulty, percent] :
        {std::pair(kEasy, 0), {kMedium, 2}, {kHard, 5}, {kRockHard, 8}})
     EXPECT_EQ(LoanQuote(600000, 12, difficulty), 5000000 + percent * 600000);

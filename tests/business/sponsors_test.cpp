@@ -194,6 +194,7 @@ TEST(frmFedSponsor, ListsThemHearsRefusalsAndSigns) {
     play.Desk.ExpectSay("Rejection!", "They reject the deal.");
     play.Desk.Click(offer);
   }
+  EXPECT_NE(play.Desk.Text("txtwhy").find("they pay $301,000."), std::string::npos);
   play.Desk.Pick("lstsponsors", "Gulp");
   EXPECT_EQ(play.Desk.Text("cmd1"), "Offer Main Sponsorship");
   EXPECT_EQ(play.Desk.Text("cmd2"), "Offer Minor Sponsorship");

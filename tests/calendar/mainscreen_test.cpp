@@ -49,6 +49,28 @@ TEST(MainScreen, CountsTheMailOfTheDayThatPassedAndOfToday) {
   EXPECT_EQ(play.Desk.Badge("cmdnews"), std::to_string(play.World().News().Count() - 1));
 }
 
+TEST(MainScreen, IsADeskWithWhatWantsLookingAt) {
+  World world = Playing(year{2026} / 3 / 6).Title("CWA Crown", "CWA Hand 1").Build();
+  Worker& hurt = Named(world.Workers(), "CWA Hand 2");
+  hurt.Status = "Inj";
+  hurt.InjuryName = "Torn Calf";
+  hurt.StatusMonths = 2;
+  Named(world.Workers(), "CWA Hand 3").Condition = 40;
+  Named(world.Workers(), "CWA Hand 4").Morale = 12;
+  Named(world.Workers(), "CWA Hand 5").ContractMonths = 1;
+  GameOnWorld play(std::move(world));
+  play.Desk.Open("frmMainScreen");
+  EXPECT_EQ(play.Desk.Rows("lstchampions").at(0)[1], "CWA Crown");
+  EXPECT_EQ(play.Desk.FirstColumn("lsthurt"),
+            (std::vector<std::string>{"CWA Hand 2", "CWA Hand 3"}));
+  EXPECT_EQ(play.Desk.FirstColumn("lstunhappy").at(0), "CWA Hand 4");
+  EXPECT_EQ(play.Desk.FirstColumn("lstcontracts").at(0), "CWA Hand 5");
+  ASSERT_TRUE(play.Desk.Visible("cmdbook"));
+  EXPECT_EQ(play.Desk.Rows("lstahead")[0].back().substr(0, 5), "0 of ");
+  play.Desk.Click("cmdbook");
+  EXPECT_EQ(play.Desk.TopName(), "frmBooking");
+}
+
 TEST(MainScreen, LeadsToEveryScreenOfTheSideBar) {
   GameOnWorld play(Playing(year{2026} / 3 / 2));  // the day of the staff meeting
   play.Desk.Open("frmMainScreen");

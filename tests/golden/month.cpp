@@ -83,8 +83,9 @@ class Player {
   }
   MonthOutcome Close() {
     MonthOutcome outcome{Differences(World(), *start_), told_.str()};
+    // What a show's rules noted tells no more than the records that they moved.
     std::erase_if(outcome.Changes, [this](const Difference& change) {
-      return IsRetold(change.File) ||
+      return IsRetold(change.File) || change.File == LayoutOf<ShowNote>().File ||
              (!keepsReports_ && change.File == LayoutOf<ReportPart>().File);
     });
     game_->Desk.Finish();
@@ -214,7 +215,9 @@ class Player {
     for (int left = kPatience; Desk().TopName() != "frmBooking" && !IsEvent(); --left) {
       if (left == 0 || testing::Test::HasFailure())
         throw std::logic_error("no show comes; there is " + Desk().TopName());
-      Desk().Click(Desk().TopName() == "frmIncident" ? "cmdignore" : "cmdnext");
+      Desk().Click(Desk().TopName() == "frmIncident"  ? "cmdignore"
+                   : Desk().TopName() == "frmMorning" ? "cmdback"
+                                                      : "cmdnext");
     }
     Sheet(rest);
     if (Desk().Enabled("cmdfill")) Desk().Click("cmdfill");

@@ -142,6 +142,38 @@ TEST(frmNews, FiltersBySender) {
   ExpectMails(play.Desk, {"6", "3", "2", "1"}, "6");
 }
 
+TEST(frmNews, KeepsWhatWasReadAndGathersTheNewsOfOthers) {
+  SmallWorld mails = SixMails();
+  mails.Mail("NEW News", "A signing.").Mail("Maeve", "7").Mail("OLD News", "A firing.");
+  GameOnWorld play(std::move(mails));
+  play.Desk.Open("frmMainScreen");
+  EXPECT_EQ(play.Desk.Badge("cmdnews"), "9");
+  EXPECT_EQ(play.Desk.Rows("lstmail").size(), 7u) << "what is for the player alone";
+  EXPECT_NE(play.Desk.Text("lblworld").find("2 news from 2 promotions"), std::string::npos);
+  play.Desk.Click("cmdworld");
+  ExpectMails(play.Desk, {"2 news from 2 promotions", "7", "6", "5", "4", "3", "2", "1"},
+              "A firing.");
+  play.Desk.Pick("lstdigest", 2);
+  EXPECT_EQ(play.Desk.Text("txtbody"), "A signing.");
+  play.Desk.Pick("lstnews", 2);
+  EXPECT_EQ(play.Desk.Badge("cmdread"), "6");
+  play.Desk.Click("cmdback");
+  play.Desk.CloseAll();
+  play.Reopen();
+  play.Desk.Open("frmMainScreen");
+  EXPECT_EQ(play.Desk.Badge("cmdnews"), "6");
+  play.Desk.Click("cmdnews");
+  play.Desk.Check("chkdigest", false);
+  ExpectMails(play.Desk, {"A firing.", "7", "A signing.", "6", "5", "4", "3", "2", "1"},
+              "A firing.");
+  play.Desk.Click("cmdread");
+  EXPECT_FALSE(play.Desk.Enabled("cmdread"));
+  play.Desk.Check("chkdigest");
+  play.Desk.Pick("lstnews", 1);
+  play.Desk.Click("cmddelete");
+  EXPECT_EQ(play.World().News().Count(), 7) << "the whole digest";
+}
+
 TEST(frmNews, EmptiesTheMailboxAfterAsking) {
   GameOnWorld play(SixMails());
   play.Desk.Open("frmMainScreen");

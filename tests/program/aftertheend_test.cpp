@@ -44,6 +44,7 @@ struct Over {
 std::map<std::string, Bytes> AllButTheDesk(Over& over) {
   auto files = BytesOf(over.Play.World());
   files.erase(std::string(over.Play.World().News().File()));
+  files.erase(std::string(over.Play.World().ReadMails().File()));
   files.erase(std::string(over.Play.World().Notes().File()));
   return files;
 }

@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "calendar/advanceday.h"
+#include "records/modVar.h"
 #include "records/segments.h"
 #include "report/report.h"
 #include "show/holdshow.h"
@@ -179,10 +180,32 @@ struct OnSunday : ShowPlay {
     EXPECT_EQ(Desk.TopName(), "frmPostShow");
     ExpectSameAsOther();
   }
+  /// Says what the show did, each number with steps that lead to it.
+  void ExpectTheMorning() {
+    ASSERT_EQ(Desk.TopName(), "frmMorning");
+    const HistoryEntry& show = Other.History()[Other.History().Count()];
+    EXPECT_EQ(Desk.Text("lblrating"), std::to_string(show.Rating) + "%");
+    EXPECT_EQ(Desk.Text("lblcrowd"), std::to_string(show.Attendance));
+    EXPECT_EQ(Desk.Text("lblviewers"), RatingText(show.Viewers));
+    EXPECT_EQ(Desk.Text("lblimage"), std::to_string(show.Image) + "%");
+    EXPECT_EQ(Desk.Text("lblmoney"), "+" + Dollars(show.Income - show.Costs));
+    for (const char* why : {"cmdwhy(1)", "cmdwhy(3)"}) {
+      Desk.Click(why);
+      const auto steps = Desk.Rows("lstwhy");
+      int sum = 0;
+      for (std::size_t i = 0; i + 1 < steps.size(); ++i) sum += std::stoi(steps[i].front());
+      EXPECT_EQ(sum, std::stoi(steps.back().front())) << why;
+    }
+    EXPECT_FALSE(Desk.Rows("lstpeople").empty());
+    Desk.Pick("lstpeople", 1);
+    EXPECT_EQ(Desk.Text("lblwhy"), "Why " + Desk.Rows("lstpeople").front().front() + "?");
+  }
   void GoOnToMonday() {
     Desk.Click("cmdback");
     LeaveShow(Other);
     AdvanceDay(Other, false);
+    ExpectTheMorning();
+    Desk.Click("cmdback");
     EXPECT_EQ(Desk.TopName(), "frmMainScreen");
     EXPECT_EQ(Desk.Text("txtdate"), "Monday, 02 March 2026");
     ExpectSameAsOther();

@@ -191,6 +191,8 @@ TEST(frmOtherContract, ShowsDemandsAndBeginsWithThem) {
             Names({"Main Event", "Upper Midcard", "Midcard", "Lower Midcard", "Opener", "Jobber",
                    "Manager", "Non-wrestler", "Training Camp", "Development Deal"}));
   EXPECT_EQ(play.Desk.FirstColumn("cmbnewdispo"), Names({"Face", "Tweener", "Heel"}));
+  play.Desk.Click("cmdwhy");
+  EXPECT_NE(play.Desk.Text("txtwhy").find("the last wage"), std::string::npos);
 }
 
 TEST(frmOtherContract, SignsUnderANewName) {

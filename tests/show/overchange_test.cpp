@@ -102,7 +102,7 @@ TEST(ReportOver, SaysWhatTheDifficultyAllows) {
     stage.W.Game().Difficulty = c.Difficulty;
     stage.Run.FeudEnding = c.FeudEnding;
     stage.S.Kind = c.IsMatch ? kMatch : kAngle;
-    ReportOver(stage.Run, stage["Ash"], c.Change);
+    ReportOver(stage.Run, stage["Ash"], c.Change, "");
     EXPECT_EQ(stage.Run.Notes, c.Says);
   }
 }

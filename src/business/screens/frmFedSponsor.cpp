@@ -88,6 +88,7 @@ class frmFedSponsor : public GameScreen {
  public:
   explicit frmFedSponsor(Game& game)
       : GameScreen(game, "frmFedSponsor", "Sponsors", {.Manages = true}) {
+    txtwhy.Brief = true;
     BackBefore(cmd1);
   }
 
@@ -99,9 +100,9 @@ class frmFedSponsor : public GameScreen {
         .Cancel = &cmdback,
         .Body = ui::Columns(
             {ui::Group("All sponsors", {chkfilter, ui::Grow(lstsponsors)}).Grow(3),
-             ui::Rows(
-                 {ui::Group("Our sponsors", {ui::Grow(lstplaces)}).Grow(2),
-                  ui::Group("The deal", {lblsponsor, lblslogan, lbldeal, ui::Spacer()}).Grow(1)})
+             ui::Rows({ui::Group("Our sponsors", {ui::Grow(lstplaces)}).Grow(2),
+                       ui::Group("The deal", {lblsponsor, lblslogan, lbldeal, txtwhy, ui::Spacer()})
+                           .Grow(1)})
                  .Grow(2)})};
   }
 
@@ -151,6 +152,7 @@ class frmFedSponsor : public GameScreen {
   }
 
   void ShowDeal(const Sponsor* sponsor, int place) {
+    txtwhy.Write("");
     lblsponsor.Text = sponsor ? sponsor->Name.Str() : "Choose a sponsor.";
     lblslogan.Text = sponsor ? sponsor->Slogan.Str() : "";
     lbldeal.Text = !sponsor ? ""
@@ -221,7 +223,10 @@ class frmFedSponsor : public GameScreen {
   }
 
   void Offer(Sponsor& sponsor, int place) {
-    switch (AnswerOf(sponsor, player())) {
+    std::string why;
+    const SponsorAnswer answer = AnswerOf(sponsor, player(), &why);
+    txtwhy.WriteLines(why);
+    switch (answer) {
       case SponsorAnswer::TooRisky:
         return desk().Say("Rejection!",
                           "They reject the deal. They feel the risky nature of your product could "
@@ -231,7 +236,8 @@ class frmFedSponsor : public GameScreen {
       case SponsorAnswer::Accepts:
         desk().Say("Accepted!", "They accept the deal. " + Welcome(world()));
         SignSponsor(world(), player(), sponsor, place);
-        return Return();
+        Return();
+        return txtwhy.WriteLines(why);
     }
   }
 
@@ -257,6 +263,7 @@ class frmFedSponsor : public GameScreen {
   ui::Label lblsponsor{*this, "lblsponsor"};
   ui::Label lblslogan{*this, "lblslogan"};
   ui::Label lbldeal{*this, "lbldeal"};
+  ui::Report txtwhy{*this, "txtwhy"};  // of their answer
   ui::Button cmd1{*this, "cmd1", "Offer Main Sponsorship", &frmFedSponsor::cmd1_Click};
   ui::Button cmd2{*this, "cmd2", "Offer Minor Sponsorship", &frmFedSponsor::cmd2_Click};
 };

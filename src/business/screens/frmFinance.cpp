@@ -218,11 +218,15 @@ std::string TermText(int months) {
 /// The bank: one loan at a time, its price each month, and the way to be rid of it.
 class frmLoan : public GameScreen {
  public:
-  explicit frmLoan(Game& game) : GameScreen(game, "frmLoan", "Loan") { BackBefore(cmddoit); }
+  explicit frmLoan(Game& game) : GameScreen(game, "frmLoan", "Loan") {
+    txtwhy.Brief = true;
+    BackBefore(cmddoit);
+  }
 
   ui::Page Layout() override {
     return PageOf(ui::Group("", {txtstatus, ui::Field("In steps of $100000", hsamount),
                                  ui::Field("Amount", lblamount), ui::Field("Each month", txtcost),
+                                 ui::Columns({cmdwhy, ui::Spacer()}), txtwhy,
                                  ui::Columns({lblfor, lblterm, ui::Spacer()}), lblstate}),
                   &lblmoney, {}, &cmddoit);
   }
@@ -255,7 +259,8 @@ class frmLoan : public GameScreen {
     const int months = loan ? int(p.LoanMonths) : LoanTerm(hsamount.Value);
     lblamount.Text = "$" + std::to_string(dollars);
     lblterm.Text = TermText(months);
-    txtcost.Text = DollarsAndCents(LoanQuote(dollars, months, difficulty()));
+    txtcost.Text = DollarsAndCents(LoanQuote(dollars, months, difficulty(), &why_));
+    txtwhy.Write("");
     lblstate.Text = loan ? LoanState() : "The bank takes whole dollars on the first of each month.";
   }
 
@@ -294,6 +299,9 @@ class frmLoan : public GameScreen {
   ui::Label lblfor{*this, "lblfor"};
   ui::Label lblterm{*this, "lblterm"};
   ui::Label txtcost{*this, "txtcost"};
+  ui::Button cmdwhy{*this, "cmdwhy", "Why?", [this] { txtwhy.WriteLines(why_); }};
+  ui::Report txtwhy{*this, "txtwhy"};
+  std::string why_;  // how the cost came about
   ui::Label lblstate{*this, "lblstate"};
   ui::Button cmddoit{*this, "cmddoit", "Apply For Loan", &frmLoan::cmddoit_Click};
 };

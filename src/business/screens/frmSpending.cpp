@@ -35,11 +35,14 @@ class frmFedMerch : public GameScreen {
   frmFedMerch(Game& game, const Spending& side)
       : GameScreen(game, "frmFedMerch", side.Title), side_(side) {
     lblmeans.Text = side.Means;
+    txtwhy.Brief = true;
+    cmdwhy.Visible = side.Level == &Promotion::Merchandising;
   }
 
   ui::Page Layout() override {
     return PageOf(ui::Group("", {ui::Field("Percent", hscurrent), ui::Field("Cost", lblcost),
-                                 ui::Field("Last month", lbllast), lblmeans}),
+                                 ui::Field("Last month", lbllast),
+                                 ui::Columns({cmdwhy, ui::Spacer()}), txtwhy, lblmeans}),
                   &lblmoney);
   }
 
@@ -61,6 +64,17 @@ class frmFedMerch : public GameScreen {
       lbllast.Text = lbllast.Text.Get() + ", sold for " + Dollars(last.MerchIncome);
   }
 
+  /// How the last sales came about, as they were counted.
+  void cmdwhy_Click() {
+    std::string steps;
+    for (const ShowNote& note : world().ShowNotes())
+      if (note.Kind == kNoteMerch && note.Promotion == world().PlayerUid())
+        steps += (note.Change > 0 && !steps.empty() ? "+" : "") + Dollars(note.Change) + ", " +
+                 note.Why.Str() + "\n";
+    txtwhy.WriteLines(steps.empty() ? "Nothing has been sold yet."
+                                    : steps + "= " + Dollars(player().LastMonth.MerchIncome));
+  }
+
   void hscurrent_Change() {
     player().*side_.Level = hscurrent.Value;
     Show();
@@ -71,6 +85,8 @@ class frmFedMerch : public GameScreen {
   ui::ScrollBar hscurrent{*this, "hscurrent", 0, kMostSpending, &frmFedMerch::hscurrent_Change};
   ui::Label lblcost{*this, "lblcost"};
   ui::Label lbllast{*this, "lbllast"};
+  ui::Button cmdwhy{*this, "cmdwhy", "Why?", &frmFedMerch::cmdwhy_Click};
+  ui::Report txtwhy{*this, "txtwhy"};
   ui::Label lblmeans{*this, "lblmeans"};
 };
 

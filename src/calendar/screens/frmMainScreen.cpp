@@ -2,14 +2,19 @@
 #include <array>
 
 #include "calendar/advanceday.h"
+#include "calendar/deskwork.h"
 #include "calendar/guide.h"
 #include "calendar/incidents.h"
 #include "calendar/screens/calendarscreens.h"
+#include "calendar/screens/screendesk.h"
 #include "calendar/screens/screenguide.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "records/readmail.h"
 #include "show/holdshow.h"
+#include "show/nightbook.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/acts.h"
 #include "ui/game.h"
@@ -52,16 +57,23 @@ constexpr std::array<Command, 19> kCommands = {{
     {"cmdoptions", "Options", "frmOptions", "Desk", "F12"},
 }};
 
-/// How many mails and how many days ahead the page shows.
-constexpr int kMailsShown = 12;
+/// How many mails and days ahead the page shows.
+constexpr std::size_t kMailsShown = 12;
 constexpr int kDaysShown = 35;
+
+ui::Tone ToneOf(const Appointment& show) {
+  if (show.Kind == "Event") return ui::Tone::Gold;
+  return show.Kind == "Television" ? ui::Tone::Plain : ui::Tone::Red;
+}
 
 class frmMainScreen : public ui::Screen {
  public:
   explicit frmMainScreen(Game& game)
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
     CommandNamed("cmdfed").Tip = "Click for promotional matters.";
-    lstmail.EmptyText = "No mail. What the world has to tell you arrives here.";
+    lstmail.EmptyText = "No unread mail. What is meant for you arrives here; F10 has all of it.";
+    lstahead.Room = 5;
+    lblworld.Colour = ui::Tone::Muted;
   }
 
   ui::Page Layout() override {
@@ -76,12 +88,11 @@ class frmMainScreen : public ui::Screen {
     page.Side.push_back({"", {{&cmdquit, "", Reach::Away}}});
     page.Top = {&txtdate, &lblpromotion, &lblimage, &lblmoney};
     page.TopActions = {&txtname, &cmduntil, &cmdnext};
+    page.Actions = {&cmdmorning, &cmdbook};
     page.Main = &cmdnext;
     page.Cancel = &cmdquit;
     page.Body = ui::Columns(
-        {ui::Rows({guide_.Layout(), ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow()})
-             .Grow(2),
-         ui::Group("Latest mail", {imgmail, ui::Grow(lstmail)}).Grow(3)});
+        {ui::Rows({guide_.Layout(), LeftHalf().Grow()}).Grow(), cards_.Layout().Grow()});
     return page;
   }
 
@@ -100,16 +111,26 @@ class frmMainScreen : public ui::Screen {
     ShowTheWorld();
   }
 
-  /// Ends the day under the waiting screen and shows the next.
+  /// Ends the day under the waiting screen and shows the next, after a show what it has done.
   void AdvanceDay(bool cancelled) {
     done_.clear();
+    const Day day = world().Today();
+    const int promotion = world().PlayerUid();
     Waiting waiting(game_);
     grapplemont::AdvanceDay(world(), cancelled, Teller(waiting));
     waiting.Done();
+    if (!cancelled && HasNight(world(), day, promotion)) desk().Open("frmMorning");
     RefreshMainScreen();
   }
 
  private:
+  ui::Box LeftHalf() {
+    return ui::Rows({ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow(2),
+                     ui::Group("Unread mail", {imgmail, ui::Grow(lstmail),
+                                               ui::Columns({ui::Grow(lblworld), cmdworld})})
+                         .Grow(3)});
+  }
+
   ui::Button& CommandNamed(std::string_view control) {
     for (int i = 1; i <= commands.Count(); ++i)
       if (commands(i).Name() == control) return commands(i);
@@ -128,6 +149,7 @@ class frmMainScreen : public ui::Screen {
     ShowMail();
     ShowMeeting();
     ShowAhead();
+    cards_.Show();
   }
 
   /// The staff meet once a week.
@@ -157,16 +179,29 @@ class frmMainScreen : public ui::Screen {
     const int count = world().News().Count();
     EnableUnless(imgmail, HasNews(world()) ? "" : "No mail.");
     imgmail.Text = Counted(count, "mail");
-    const int fresh = FreshMails(world());
-    CommandNamed("cmdnews").Badge = fresh == 0 ? std::string() : std::to_string(fresh);
+    const std::vector<int> own = UnreadMails(world(), false), others = UnreadMails(world(), true);
+    const std::size_t unread = own.size() + others.size();
+    CommandNamed("cmdnews").Badge = unread == 0 ? std::string() : std::to_string(unread);
+    ShowDigest(!others.empty());
     std::vector<ui::ListBox::Row> rows;
-    for (int number = count; number >= 1 && number > count - kMailsShown; --number) {
+    for (const int number : own) {
+      if (rows.size() == kMailsShown) break;
       const Mail& mail = world().News()[number];
       rows.push_back(
           {{mail.From.View(), ui::Cell(mail.Date.View(), ui::Tone::Muted), mail.Body.View()},
            number});
     }
     lstmail.Fill(std::move(rows));
+  }
+
+  /// One line for all that the latest day has told of other promotions.
+  void ShowDigest(bool unread) {
+    const std::vector<Digest> digests = DigestsOf(world());
+    lblworld.Visible = !digests.empty();
+    cmdworld.Visible = !digests.empty();
+    if (digests.empty()) return;
+    lblworld.Text = "Around the rings, " + digests.front().Date + ": " + digests.front().Words +
+                    (unread ? "" : ", all read");
   }
 
   void ShowAhead() {
@@ -176,19 +211,25 @@ class frmMainScreen : public ui::Screen {
       const int day = static_cast<int>((show.On - kDayZero).count());
       const bool isToday = show.On == world().Today();
       if (isToday) today += (today.empty() ? "" : ", ") + show.What;
-      rows.push_back({{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)),
-                       DayName(show.On), show.What, ui::Cell(show.Kind, ToneOf(show))},
-                      static_cast<int>(rows.size()) + 1});
+      rows.push_back(
+          {{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)), DayName(show.On),
+            show.What, ui::Cell(show.Kind, ToneOf(show)), BookedText(world(), show)},
+           static_cast<int>(rows.size()) + 1});
     }
     lstahead.Fill(std::move(rows), false);
+    const bool isOver = HasEnded(world().Game());
+    cmdbook.Visible = !isOver && HasShowTonight();
+    cmdbook.Tip = TonightText(world());
+    cmdmorning.Visible = !isOver && HasAnyNight(world());
     lblfacts.Text = HasEnded(world().Game()) ? kCareerIsOver
                     : today.empty()          ? "Nothing is due today." + done_
                                              : "Due today: " + today + "." + done_;
   }
 
-  static ui::Tone ToneOf(const Appointment& show) {
-    if (show.Kind == "Event") return ui::Tone::Gold;
-    return show.Kind == "Television" ? ui::Tone::Plain : ui::Tone::Red;
+  /// A show that has a sheet.
+  bool HasShowTonight() {
+    const auto shows = ComingShows(world(), 1);
+    return !shows.empty() && shows.front().Kind != "No Event";
   }
 
   /// What stops the game until the player has dealt with it.
@@ -245,11 +286,22 @@ class frmMainScreen : public ui::Screen {
     RefreshMainScreen();
   }
 
-  /// The mailbox lists the same mails in the same order.
-  void lstmail_Open() {
-    const int row = lstmail.Selected();
+  void lstmail_Open() { OpenMail(lstmail.Key()); }
+  void cmdworld_Click() {
+    const std::vector<Digest> digests = DigestsOf(world());
+    if (!digests.empty()) OpenMail(digests.front().Mails.front());
+  }
+
+  /// The mailbox lists mails under their numbers, and a day's digest under that of its latest.
+  void OpenMail(int number) {
     desk().Open("frmNews");
-    ui::Pick(desk(), *desk().Top(), "lstnews", row);
+    const auto* list = dynamic_cast<const ui::ListBox*>(desk().Top()->Find("lstnews"));
+    if (!list) return;
+    for (int row = 1; row <= list->Count(); ++row)
+      if (list->Rows()[static_cast<std::size_t>(row - 1)].Key == number) {
+        ui::Pick(desk(), *desk().Top(), "lstnews", row);
+        return;
+      }
   }
 
   void cmdquit_Click() {
@@ -280,10 +332,21 @@ class frmMainScreen : public ui::Screen {
       }};
   GuideCard guide_{*this, game_};
   ui::Label imgmail{*this, "imgmail"};
-  ui::ListBox lstahead{
-      *this, "lstahead", {{"Date", K::Number}, {"Day"}, {"Show"}, {"Kind", K::Tag}}};
+  ui::ListBox lstahead{*this,
+                       "lstahead",
+                       {{"Date", K::Number},
+                        {"Day"},
+                        {"Show"},
+                        {"Kind", K::Tag},
+                        {"Booked", K::Text, 0, "How far the card is."}}};
   ui::ListBox lstmail{
       *this, "lstmail", {{"From"}, {"Date"}, {"Mail"}}, ui::Handler{}, [this] { lstmail_Open(); }};
+  ui::Label lblworld{*this, "lblworld"};
+  ui::Button cmdworld{*this, "cmdworld", "Open", &frmMainScreen::cmdworld_Click};
+  ui::Button cmdbook{*this, "cmdbook", "Book", &frmMainScreen::cmdnext_Click};
+  ui::Button cmdmorning{*this, "cmdmorning", "Morning After",
+                        [this] { desk().Open("frmMorning"); }};
+  DeskCards cards_{*this, game_};
   ui::Button cmdquit{*this, "cmdquit", "Quit", &frmMainScreen::cmdquit_Click};
 };
 

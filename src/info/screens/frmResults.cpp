@@ -3,9 +3,11 @@
 #include "info/results.h"
 #include "info/screens/infoscreens.h"
 #include "info/screens/infotables.h"
+#include "info/screens/pastscreens.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "report/report.h"
+#include "show/nightbook.h"
 #include "show/recap.h"
 #include "ui/game.h"
 
@@ -106,9 +108,13 @@ class frmReports : public GameScreen {
 
 SCREEN(frmReports)
 
+std::unique_ptr<ui::Screen> ReportScreen(Game& game, Day on, int promotionUid) {
+  return std::make_unique<frmReports>(game, on, promotionUid);
+}
+
 void ConnectInfo(Game& game) {
   game.OpenReport = [&game](Day on, int promotionUid) {
-    game.Desk().Open(std::make_unique<frmReports>(game, on, promotionUid));
+    game.Desk().Open(ReportScreen(game, on, promotionUid));
   };
 }
 
@@ -233,7 +239,7 @@ class frmResults : public GameScreen {
                             ui::Columns({ui::Group("Who won", {ui::Grow(lstcard)}).Grow(3),
                                          ui::Group("Ratings", {ui::Grow(chtratings)}).Grow(2)})
                                 .Grow(4)}),
-                  &lblfacts, {&cmdreports, &cmdtitles, &cmdawards}, &cmdreport);
+                  &lblfacts, {&cmdreports, &cmdtitles, &cmdawards, &cmdmorning}, &cmdreport);
   }
 
   void Load() override {
@@ -304,11 +310,21 @@ class frmResults : public GameScreen {
                             : kept ? ""
                                    : "Only the reports of the last " + std::to_string(kKeptShows) +
                                          " shows are kept.");
+    EnableUnless(cmdmorning, !show ? "Choose a show first."
+                             : HasNight(world(), show->On, show->Promotion)
+                                 ? ""
+                                 : "What a show moved is kept of the last " +
+                                       std::to_string(kKeptShows) + " shows that were held.");
+  }
+
+  void cmdmorning_Click() {
+    if (const HistoryEntry* show = Chosen())
+      desk().Open(MorningScreen(game_, show->On, show->Promotion));
   }
 
   void cmdreport_Click() {
     if (const HistoryEntry* show = Chosen())
-      desk().Open(std::make_unique<frmReports>(game_, show->On, show->Promotion));
+      desk().Open(ReportScreen(game_, show->On, show->Promotion));
   }
   void lstshows_Open() {
     if (cmdreport.Enabled) cmdreport_Click();
@@ -324,6 +340,7 @@ class frmResults : public GameScreen {
   ui::Button cmdreport{*this, "cmdreport", "Read Report", &frmResults::cmdreport_Click};
   ui::Button cmdreports{*this, "cmdreports", "Report Column",
                         [this] { desk().Open("frmReports"); }};
+  ui::Button cmdmorning{*this, "cmdmorning", "Morning After", &frmResults::cmdmorning_Click};
   ui::Button cmdtitles{*this, "cmdtitles", "Reigns", [this] { desk().Open("frmReigns"); }};
   ui::Button cmdawards{*this, "cmdawards", "Awards", [this] { desk().Open("frmAwards"); }};
 };

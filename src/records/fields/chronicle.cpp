@@ -108,6 +108,35 @@ constexpr Field kYearEndFields[] = {
     YEAR_END(Over).Counts("percent").Means("Over when the last year ended, or the game began."),
 };
 
+constexpr Term kNotes[] = {{kNoteRating, "", "Rating of the show"},
+                           {kNoteImage, "", "Image"},
+                           {kNoteNextBand, "", "The better step of the image"},
+                           {kNoteCrowd, "", "Attendance"},
+                           {kNoteViewers, "", "Television rating or buy rate"},
+                           {kNoteMoney, "", "Money"},
+                           {kNoteOver, "", "Over"},
+                           {kNoteMorale, "", "Morale"},
+                           {kNoteCondition, "", "Condition"},
+                           {kNoteInjury, "", "Injury"},
+                           {kNoteHeat, "", "Heat of a feud"},
+                           {kNoteFeudEnd, "", "End of a feud"},
+                           {kNoteTitle, "", "Title won"},
+                           {kNoteTitleImage, "", "Image of a Title"},
+                           {kNoteMerch, "", "Merchandise of the last month"}};
+
+#define NOTE(member) GM_FIELD(ShowNote, member)
+constexpr Field kNoteFields[] = {
+    NOTE(On).Means("The day of the show, or the first of a month."),
+    NOTE(Promotion).In(0, 32767).Means("Uid of the promotion, which may be gone."),
+    NOTE(Kind).In(kNoteRating, kNoteMerch).From(kNotes).Means("What the number is."),
+    NOTE(Worker).LeadsTo(Refers::Worker).Means("Whose number; 0 for nobody's and who has gone."),
+    NOTE(Row).In(0, 11).Means("Row of the sheet; 0 for what happened beside it."),
+    NOTE(What).Means("Whose number it is, as it was called."),
+    NOTE(Change).Means("By how much the step moved it."),
+    NOTE(Now).Means("What it was after the step."),
+    NOTE(Why).Means("Why."),
+};
+
 }  // namespace
 
 // Five years of the busiest promotion, a dozen of one with a show a week: what goes beyond them
@@ -119,6 +148,8 @@ GM_LAYOUT(TitleReign, "reigns.dat", 12000, kReignFields)
 GM_LAYOUT(ReportPart, "reports.dat", 8000, kReportFields)
 GM_LAYOUT(YearAward, "awards.dat", 2000, kAwardFields)
 GM_LAYOUT(YearEnd, "yearend.dat", 25000, kYearEndFields)
+// A dozen shows of three hundred steps each.
+GM_LAYOUT(ShowNote, "mornings.dat", 4000, kNoteFields)
 
 std::string_view AwardName(int kind) {
   return Says(kAwards, kind);

@@ -170,6 +170,40 @@ GM_RECORD(MoodChange, 16);
 
 /// "won", "a match below their standing"; empty for an unknown code.
 std::string_view MoodReasonText(int why);
+/// ShowNote.Kind: what the number is.
+enum NoteKind {
+  kNoteRating = 1,  // points of the show's sum; its rating at last
+  kNoteImage,       // percent
+  kNoteNextBand,    // Change: the step of the image that a better rating brings; Now: from where on
+  kNoteCrowd,       // people
+  kNoteViewers,     // hundredths
+  kNoteMoney,       // dollars
+  kNoteOver,        // a worker's, percent
+  kNoteMorale,
+  kNoteCondition,
+  kNoteInjury,      // Change: months
+  kNoteHeat,        // a feud's, percent
+  kNoteFeudEnd,     // Now: the heat at which it ended
+  kNoteTitle,       // a Title's new holder
+  kNoteTitleImage,  // percent
+  kNoteMerch        // dollars of the last month's merchandise, which is no show's
+};
+
+/// A step of a number that a show of the player's made or moved, as the rule computed it: a record
+/// of mornings.dat. The steps of a number lie in their order, and each goes on where the last one
+/// ended.
+struct ShowNote {
+  Date On;
+  Word Promotion;  // uid
+  Word Kind;
+  Word Worker;    // uid; 0 for what is no worker's, and for who has gone
+  Word Row;       // of the sheet; 0 for what happened beside it
+  Text<54> What;  // whose number it is, as it was called
+  Long Change;
+  Long Now;  // after it
+  Text<80> Why;
+};
+GM_RECORD(ShowNote, 158);
 
 /// "Match of the Year"; empty for an unknown code.
 std::string_view AwardName(int kind);

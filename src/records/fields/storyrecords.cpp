@@ -79,6 +79,10 @@ constexpr Field kMailFields[] = {
     GM_FIELD(Mail, Body).InLines().Means("Text."),
 };
 
+constexpr Field kReadMailFields[] = {
+    GM_FIELD(ReadMail, Key).Means("Made from sender, date and text of a mail that was read."),
+};
+
 constexpr Field kIncidentFields[] = {
     GM_FIELD(Incident, Type).In(0, 6).From(kIncidents).Means("What happened."),
     GM_FIELD(Incident, Uid)
@@ -93,6 +97,7 @@ GM_LAYOUT(Segment, "match.dat", 11, kSegmentFields)
 // A card of every show and Event, and a draft beside it.
 GM_LAYOUT(KeptRow, "cards.dat", 600, kKeptFields)
 GM_LAYOUT(Mail, "news.dat", 20000, kMailFields)
+GM_LAYOUT(ReadMail, "mailread.dat", 20000, kReadMailFields)
 GM_LAYOUT(Incident, "incident.tmp", 10, kIncidentFields)
 
 }  // namespace grapplemont

@@ -82,6 +82,13 @@ struct Mail {
 };
 GM_RECORD(Mail, 290);
 
+/// A mail of news.dat that the player has read: a record of mailread.dat. Where that file is
+/// missing, all but the mails of today and yesterday count as read.
+struct ReadMail {
+  Long Key;  // made from sender, date and text
+};
+GM_RECORD(ReadMail, 4);
+
 /// What happened backstage today: one of the ten records of incident.tmp.
 struct Incident {
   Word Type;  // 0 for none

@@ -21,7 +21,8 @@ using AllTables =
                Records<Segment>, Records<Incident>, Records<ShowRun>, Records<HistoryEntry>,
                Records<HeldMatch>, Records<MatchTally>, Records<TitleReign>, Records<ReportPart>,
                Records<YearAward>, Records<YearEnd>, Records<Deed>, Records<GuideState>,
-               Records<WorkerMonths>, Records<MoodChange>, Records<KeptRow>>;
+               Records<WorkerMonths>, Records<MoodChange>, Records<KeptRow>, Records<ShowNote>,
+               Records<ReadMail>>;
 
 /// The files a folder may hold and how long each may be.
 const std::vector<KnownFile>& KnownFiles();

@@ -99,7 +99,9 @@ std::vector<TableKind> MakeKinds() {
           Kind<GuideState>("guides.csv", true),
           Kind<WorkerMonths>("months.csv", true),
           Kind<MoodChange>("moods.csv", true),
-          Kind<KeptRow>("cards.csv", true)};
+          Kind<KeptRow>("cards.csv", true),
+          Kind<ShowNote>("mornings.csv", true),
+          Kind<ReadMail>("mailread.csv", true)};
 }
 
 }  // namespace

@@ -98,6 +98,7 @@ class frmOtherContract : public TalkWith<Worker> {
  public:
   frmOtherContract(Game& game, const Worker& worker) : TalkWith(game, "frmOtherContract", worker) {
     BackBefore(cmdoffer);
+    txtwhy.Brief = true;
     for (const int position : kOfferedPositions)
       cmbnewposition.Add(std::string(PositionText(position)), position);
     for (const char* code : kOfferedDispositions)
@@ -107,7 +108,8 @@ class frmOtherContract : public TalkWith<Worker> {
   ui::Page Layout() override {
     std::vector<ui::Box> wanted = terms_.Fields(), offered = offer_.Fields();
     wanted.insert(wanted.begin(), ui::Field("Position", txtposition));
-    wanted.insert(wanted.end(), {ui::Field("Creative control", txtcreative), ui::Spacer()});
+    wanted.insert(wanted.end(), {ui::Field("Creative control", txtcreative),
+                                 ui::Columns({cmdwhy, ui::Spacer()}), txtwhy, ui::Spacer()});
     offered.emplace_back(chkcreative);
     return TalkPage({ui::Group("Wanted of you", std::move(wanted)),
                      ui::Rows({ui::Group("Your offer", std::move(offered)),
@@ -153,6 +155,13 @@ class frmOtherContract : public TalkWith<Worker> {
   }
 
  private:
+  /// How the wage came about that is wanted.
+  void cmdwhy_Click() {
+    const Worker* worker = Who();
+    if (worker)
+      txtwhy.WriteLines(WhyText("Wage in $1000", ContractDemands(world(), *worker).WageSteps));
+  }
+
   std::string FactsOf(const Worker& worker) {
     if (worker.Employer == 0) return "A free agent.";
     return "Works for " + PromotionName(world(), worker.Employer) +
@@ -187,6 +196,8 @@ class frmOtherContract : public TalkWith<Worker> {
   ui::ComboBox cmbnewdispo{*this, "cmbnewdispo"};
   ui::TextBox txtnewname{*this, "txtnewname", "", Text<25>::kWidth};
   ui::TextBox txtnewname2{*this, "txtnewname2", "", Text<10>::kWidth};
+  ui::Button cmdwhy{*this, "cmdwhy", "Why?", &frmOtherContract::cmdwhy_Click};
+  ui::Report txtwhy{*this, "txtwhy"};
   ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &frmOtherContract::cmdoffer_Click};
 };
 

@@ -1,0 +1,95 @@
+#include "calendar/deskwork.h"
+
+#include <algorithm>
+
+#include "booking/sheet.h"
+#include "records/modWresCheck.h"
+#include "show/holdshow.h"
+#include "storylines/feuds.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr std::size_t kListed = 5;
+constexpr int kWorn = 75, kContent = 65, kSoon = 6;
+
+bool IsEventAppointment(const Appointment& show) {
+  return show.Kind == "Event";
+}
+
+/// Those of the player's people who are wanted, by `order`, the lowest first.
+template <class Wanted, class Order>
+std::vector<const Worker*> People(const World& world, Wanted wanted, Order order) {
+  std::vector<const Worker*> people;
+  for (const Worker& worker : world.Workers())
+    if (WorksForPlayer(world, worker) && wanted(worker)) people.push_back(&worker);
+  std::ranges::stable_sort(people, {}, [&](const Worker* worker) { return order(*worker); });
+  if (people.size() > kListed) people.resize(kListed);
+  return people;
+}
+
+}  // namespace
+
+std::string BookedText(const World& world, const Appointment& show) {
+  if (show.On != world.Today() || show.Kind == "No Event") return {};
+  const bool isEvent = IsEventAppointment(show);
+  const SheetTerms terms = TermsOf(world, isEvent);
+  const int booked = world.Segments().Count() == 0 ? 0 : CountSheet(world, isEvent).Segments;
+  return std::to_string(booked) + " of " + std::to_string(terms.MinSegments);
+}
+
+std::string TonightText(const World& world) {
+  for (const Appointment& show : ComingShows(world, 1)) {
+    if (show.Kind == "No Event") return "No Event is planned for tonight.";
+    return "Tonight: " + show.What + ", " + BookedText(world, show) + " segments booked.";
+  }
+  return {};
+}
+
+std::vector<const Title*> HeldTitles(const World& world) {
+  std::vector<const Title*> titles;
+  for (const Title& title : world.Titles())
+    if (title.Owner == world.PlayerUid() && title.Holder != 0) titles.push_back(&title);
+  std::ranges::stable_sort(titles, {}, [](const Title* title) { return -title->Image; });
+  return titles;
+}
+
+int DaysHeld(const World& world, const Title& title) {
+  const Day won = title.Reigns[0].Won;
+  return won == kNoTitleDate ? -1 : static_cast<int>((world.Today() - won).count());
+}
+
+std::vector<const Feud*> HottestFeuds(const World& world) {
+  std::vector<const Feud*> feuds;
+  for (const Feud& feud : world.Feuds())
+    if (!IsFreeSlot(feud)) feuds.push_back(&feud);
+  std::ranges::stable_sort(feuds, {}, [](const Feud* feud) { return -feud->Heat; });
+  return feuds;
+}
+
+std::vector<const Worker*> HurtAndWorn(const World& world) {
+  const auto isAway = [](const Worker& worker) { return worker.StatusMonths > 0; };
+  return People(
+      world, [&](const Worker& worker) { return isAway(worker) || worker.Condition < kWorn; },
+      [&](const Worker& worker) {
+        return isAway(worker) ? -int(worker.StatusMonths) : int(worker.Condition);
+      });
+}
+
+std::vector<const Worker*> Unhappy(const World& world) {
+  return People(
+      world, [](const Worker& worker) { return worker.Morale < kContent; },
+      [](const Worker& worker) { return int(worker.Morale); });
+}
+
+std::vector<const Worker*> ContractsThatEnd(const World& world) {
+  return People(
+      world,
+      [](const Worker& worker) {
+        return worker.ContractMonths != kNoEnd && worker.ContractMonths <= kSoon;
+      },
+      [](const Worker& worker) { return int(worker.ContractMonths); });
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "calendar/advanceday.h"
+
+// What wants looking at when the day begins.
+
+namespace grapplemont {
+
+/// How far the card of a coming show is: "5 of 8" for today's, empty for what cannot be booked yet.
+std::string BookedText(const World& world, const Appointment& show);
+/// What is to be done on a show day: "Tonight: Friday Fire, 3 of 3 matches, 5 of 7 segments.";
+/// empty on another.
+std::string TonightText(const World& world);
+
+/// The player's Titles that somebody holds, the finest first.
+std::vector<const Title*> HeldTitles(const World& world);
+/// Days of the present reign; -1 for one from before the game.
+int DaysHeld(const World& world, const Title& title);
+/// The player's feuds, the hottest first.
+std::vector<const Feud*> HottestFeuds(const World& world);
+
+// The player's workers, those who want it most first; five at most.
+
+/// Who is hurt or away for another reason, then who is worn.
+std::vector<const Worker*> HurtAndWorn(const World& world);
+std::vector<const Worker*> Unhappy(const World& world);
+/// Whose contracts end within half a year.
+std::vector<const Worker*> ContractsThatEnd(const World& world);
+
+}  // namespace grapplemont

@@ -1,0 +1,141 @@
+#include "calendar/screens/screendesk.h"
+
+#include "business/past.h"
+#include "calendar/deskwork.h"
+#include "storylines/feuds.h"
+#include "storylines/titles.h"
+#include "ui/likeness.h"
+
+namespace grapplemont {
+
+namespace {
+
+using K = ui::ColumnKind;
+
+/// How many month ends the lines go back.
+constexpr std::size_t kMonthsShown = 12;
+
+const CellColumns<Worker> kHurt = {
+    {{"Hurt and worn", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
+    {{"Condition", K::Text, 4}, [](const Worker& worker) {
+       return worker.StatusMonths > 0 ? StatusCell(worker)
+                                      : ui::Cell(std::to_string(worker.Condition) + "%");
+     }}};
+const CellColumns<Worker> kUnhappy = {
+    {{"Unhappy", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
+    {{"Morale", K::Percent, 4}, [](const Worker& worker) { return int(worker.Morale); }}};
+const CellColumns<Worker> kEnding = {
+    {{"Contract ends", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
+    {{"Months", K::Number, 2, "Months left."}, [](const Worker& worker) {
+       return ui::Cell(int(worker.ContractMonths),
+                       worker.ContractMonths <= 1 ? ui::Tone::Red : ui::Tone::Plain);
+     }}};
+
+}  // namespace
+
+DeskCards::DeskCards(ui::Screen& screen, Game& game)
+    : game_(game),
+      lstchampions(screen, "lstchampions",
+                   {{"Champion", K::Text, 4, "", [this](int key) { return PlateOfRow(key); }},
+                    {"Title", K::Text, 4},
+                    {"Days", K::Number, 2, "Since the Title was won."},
+                    {"Image", K::Number, 2}},
+                   ui::Handler{}, [this] { game_.Desk().Open("frmBelts"); }),
+      lstfeuds(screen, "lstfeuds", {{"Feud", K::Text, 6}, {"Heat", K::Percent, 4}}, ui::Handler{},
+               [this] { game_.Desk().Open("frmFeuds"); }),
+      lsthurt(screen, "lsthurt", WithFaces(kHurt), ui::Handler{},
+              [this] { OpenWorkerOf(lsthurt); }),
+      lstunhappy(screen, "lstunhappy", WithFaces(kUnhappy), ui::Handler{},
+                 [this] { OpenWorkerOf(lstunhappy); }),
+      lstcontracts(screen, "lstcontracts", WithFaces(kEnding), ui::Handler{},
+                   [this] { OpenWorkerOf(lstcontracts); }),
+      chtimage(screen, "chtimage"),
+      chtmoney(screen, "chtmoney") {
+  lstchampions.EmptyText = "Nobody holds a Title. Titles (F4) names a champion or opens one.";
+  lstfeuds.EmptyText = "No feud is on. Feuds (F5) begins one.";
+  lsthurt.EmptyText = "Everybody is fit.";
+  lstunhappy.EmptyText = "Nobody is unhappy.";
+  lstcontracts.EmptyText = "No contract ends within half a year.";
+  for (ui::ListBox* list : {&lstchampions, &lstfeuds, &lsthurt, &lstunhappy, &lstcontracts})
+    list->Room = 5;
+}
+
+ui::Box DeskCards::Layout() {
+  return ui::Rows(
+      {ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(),
+                    ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow()})
+           .Grow(),
+       ui::Group(
+           "Wants looking at",
+           {ui::Columns({ui::Grow(lsthurt), ui::Grow(lstunhappy), ui::Grow(lstcontracts)}).Grow()})
+           .Grow(),
+       ui::Columns({ui::Group("Image", {ui::Grow(chtimage)}).Grow(),
+                    ui::Group("Money", {ui::Grow(chtmoney)}).Grow()})
+           .Grow()});
+}
+
+void DeskCards::ShowStories() {
+  std::vector<ui::ListBox::Row> champions, feuds;
+  for (const Title* title : HeldTitles(world())) {
+    const int days = DaysHeld(world(), *title);
+    champions.push_back({{ChampionText(world(), *title), title->Name.View(),
+                          days < 0 ? ui::Cell(0.0, "") : ui::Cell(days), int(title->Image)},
+                         world().Titles().NumberOf(*title)});
+  }
+  for (const Feud* feud : HottestFeuds(world())) {
+    const FeudSides sides = SidesOf(*feud);
+    feuds.push_back(
+        {{SideName(world(), sides.One) + " - " + SideName(world(), sides.Two), int(feud->Heat)},
+         world().Feuds().NumberOf(*feud)});
+  }
+  lstchampions.Fill(std::move(champions));
+  lstfeuds.Fill(std::move(feuds));
+}
+
+/// The last twelve month ends and today.
+void DeskCards::ShowLines() {
+  const auto standings = StandingsOf(world(), world().Player(), static_cast<int>(kMonthsShown) + 1);
+  std::vector<double> images, money;
+  std::vector<std::string> months;
+  for (const PastStanding& standing : standings) images.push_back(standing.Score());
+  chtimage.Captions = CaptionsOf(standings);
+  chtimage.Lines = std::vector<ui::Chart::Series>{{"", std::move(images), ui::Tone::Gold}};
+  chtimage.Tip = "A size class is worth 100 points, the image up to 100 more.";
+  const auto points = MoneyOverTime(world(), world().Player());
+  for (std::size_t i = points.size() > kMonthsShown + 1 ? points.size() - kMonthsShown - 1 : 0;
+       i < points.size(); ++i) {
+    money.push_back(points[i].Dollars);
+    months.push_back(points[i].When);
+  }
+  chtmoney.Captions = std::move(months);
+  chtmoney.Lines = std::vector<ui::Chart::Series>{{"", std::move(money)}};
+}
+
+void DeskCards::Show() {
+  ShowStories();
+  ShowLines();
+  FillTable(lsthurt, kHurt, HurtAndWorn(world()));
+  FillTable(lstunhappy, kUnhappy, Unhappy(world()));
+  FillTable(lstcontracts, kEnding, ContractsThatEnd(world()));
+}
+
+void DeskCards::OpenWorkerOf(const ui::ListBox& list) {
+  if (list.Key() != 0 && game_.OpenWorker) game_.OpenWorker(list.Key());
+}
+
+ui::Drawing DeskCards::PlateOfRow(int number) {
+  if (number < 1 || number > world().Titles().Count()) return {};
+  return PlateOf(world().Titles()[number], number);
+}
+
+/// The headings of a table of workers, with their faces before the names.
+std::vector<ui::Column> DeskCards::WithFaces(const CellColumns<Worker>& table) {
+  std::vector<ui::Column> columns = HeadingsOf(table);
+  columns.front().Draws = [this](int uid) {
+    const Worker* worker = world().FindWorker(uid);
+    return worker ? ui::Drawing(PortraitOf(*worker)) : ui::Drawing();
+  };
+  return columns;
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,337 @@
+#include <array>
+
+#include "info/morning.h"
+#include "info/screens/infotables.h"
+#include "info/screens/pastscreens.h"
+#include "records/modWresCheck.h"
+#include "show/recap.h"
+#include "storylines/screens/screenpeople.h"
+#include "ui/game.h"
+#include "ui/likeness.h"
+
+namespace grapplemont {
+
+namespace {
+
+using K = ui::ColumnKind;
+
+/// What the show came to, by the control that says it.
+struct Figure {
+  const char* Control;
+  const char* Caption;
+  NoteKind Kind;
+  bool IsChange;  // the number that counts is by how much it moved
+};
+constexpr std::array<Figure, 5> kFigures = {{{"lblrating", "Rating", kNoteRating, false},
+                                             {"lblimage", "Image", kNoteImage, false},
+                                             {"lblcrowd", "Attendance", kNoteCrowd, false},
+                                             {"lblviewers", "Viewers", kNoteViewers, false},
+                                             {"lblmoney", "Money", kNoteMoney, true}}};
+constexpr int kFigureCount = static_cast<int>(kFigures.size());
+
+const Figure& FigureAt(int i) {
+  return kFigures[static_cast<std::size_t>(i - 1)];
+}
+
+ui::Tone ToneOf(int change) {
+  return change > 0 ? ui::Tone::Green : change < 0 ? ui::Tone::Red : ui::Tone::Muted;
+}
+
+ui::Cell NowCell(const MovedFigure& figure) {
+  return figure.Moved ? ui::Cell(figure.Now) : ui::Cell(-1.0, "", ui::Tone::Muted);
+}
+ui::Cell ChangeCell(const MovedFigure& figure) {
+  return figure.Moved ? ui::Cell(figure.Change, Signed(figure.Change), ToneOf(figure.Change))
+                      : ui::Cell(0.0, "");
+}
+
+/// What a show of the player's made and moved, and why.
+class frmMorning : public GameScreen {
+ public:
+  /// Without a day it is about the last show.
+  explicit frmMorning(Game& game, Day on = kDayZero, int promotionUid = 0)
+      : GameScreen(game, "frmMorning", "The morning after",
+                   {.Back = on == kDayZero ? "To The Desk" : "Back"}),
+        on_(on),
+        promotion_(promotionUid) {
+    lstpeople.EmptyText = "The show moved nobody.";
+    lsttitles.EmptyText = "No Title was moved. A Title is moved by a match for it.";
+    lstfeuds.EmptyText = "No feud was moved. Book its people against each other.";
+    lsthurt.EmptyText = "Nobody was hurt.";
+    lstwhy.EmptyText = "Choose a number or a name to see where it came from.";
+    lsttitles.Room = lstfeuds.Room = lsthurt.Room = 4;
+  }
+
+  ui::Page Layout() override {
+    std::vector<ui::Box> figures;
+    for (int i = 1; i <= kFigureCount; ++i)
+      figures.push_back(ui::Group(FigureAt(i).Caption, {lblfigures(i), lblnotes(i),
+                                                        ui::Columns({cmdwhy(i), ui::Spacer()})})
+                            .Grow());
+    ui::Box moved = ui::Columns({ui::Group("Titles", {ui::Grow(lsttitles)}).Grow(),
+                                 ui::Group("Feuds", {ui::Grow(lstfeuds)}).Grow(),
+                                 ui::Group("Hurt", {ui::Grow(lsthurt)}).Grow()});
+    return PageOf(
+        ui::Rows({ui::Columns(std::move(figures)),
+                  ui::Columns(
+                      {ui::Rows({ui::Group("Who rose and who fell", {ui::Grow(lstpeople)}).Grow(3),
+                                 std::move(moved).Grow(2)})
+                           .Grow(5),
+                       ui::Rows({ui::Group("", {lblwhy, ui::Grow(lstwhy)}).Grow(3),
+                                 ui::Group("Row by row", {ui::Grow(chtrows), lblwanted}).Grow(2)})
+                           .Grow(3)})
+                      .Grow()}),
+        &lblfacts, {&cmdreport, &cmdresults});
+  }
+
+  void Return() override {
+    if (on_ == kDayZero) FindLast();
+    morning_ = MorningOf(world(), on_, promotion_);
+    ShowFacts();
+    for (int i = 1; i <= kFigureCount; ++i) ShowFigure(i);
+    ShowPeople();
+    ShowOthers();
+    ShowRows();
+    cmdwhy_Click(1);
+  }
+
+ private:
+  void FindLast() {
+    for (const ShowNote& note : world().ShowNotes()) {
+      if (note.Kind != kNoteRating) continue;
+      on_ = note.On;
+      promotion_ = note.Promotion;
+    }
+  }
+
+  void ShowFacts() {
+    const NotedNumber* rating = morning_.Of(kNoteRating);
+    lblfacts.Text = rating ? rating->What + " on " + LongDate(on_) + "."
+                           : "No show of yours has been held yet.";
+    EnableUnless(cmdreport, HasReport(world(), on_, promotion_)
+                                ? ""
+                                : "Only the reports of the last " + std::to_string(kKeptShows) +
+                                      " shows are kept.");
+    lblwanted.Text = WantedText(morning_);
+    lblwanted.Visible = !lblwanted.Text.Get().empty();
+  }
+
+  /// What stands below the number: where it came from, and how it was the last time.
+  std::string NoteText(const Figure& figure, const NotedNumber& number) {
+    if (figure.Kind == kNoteRating) return BandText(morning_);
+    if (figure.Kind == kNoteImage)
+      return ChangeText(kNoteImage, number.Change()) + " from " + std::to_string(number.Before());
+    if (figure.Kind == kNoteMoney) return "Now " + Dollars(number.After());
+    if (!morning_.Before) return "For the first time";
+    const int before = figure.Kind == kNoteCrowd ? int(morning_.Before->Attendance)
+                                                 : int(morning_.Before->Viewers);
+    return ChangeText(figure.Kind, number.After() - before) + " on the last one";
+  }
+
+  void ShowFigure(int i) {
+    const Figure& figure = FigureAt(i);
+    const NotedNumber* number = morning_.Of(figure.Kind);
+    EnableUnless(cmdwhy(i), number ? "" : "The show has not moved it.");
+    if (!number) {
+      lblfigures(i).Text = "-";
+      lblnotes(i).Text = "Not moved";
+      return;
+    }
+    lblfigures(i).Text = figure.IsChange ? ChangeText(figure.Kind, number->Change())
+                                         : NumberText(figure.Kind, number->After());
+    if (figure.IsChange) lblfigures(i).Colour = ToneOf(number->Change());
+    lblnotes(i).Text = NoteText(figure, *number);
+    lblnotes(i).Colour = ui::Tone::Muted;
+  }
+
+  void ShowPeople() {
+    people_ = PeopleMoved(morning_);
+    std::vector<ui::ListBox::Row> rows;
+    for (std::size_t i = 0; i < people_.size(); ++i) {
+      const PersonMoved& person = people_[i];
+      rows.push_back({{person.Name, NowCell(person.Over), ChangeCell(person.Over),
+                       NowCell(person.Morale), ChangeCell(person.Morale), NowCell(person.Condition),
+                       ChangeCell(person.Condition), person.Why},
+                      static_cast<int>(i) + 1});
+    }
+    lstpeople.Fill(std::move(rows));
+  }
+
+  /// Titles, feuds and injuries, each under the place of its number in the morning's.
+  void ShowOthers() {
+    std::vector<ui::ListBox::Row> titles, feuds, hurt;
+    for (std::size_t i = 0; i < morning_.Numbers.size(); ++i) {
+      const NotedNumber& number = morning_.Numbers[i];
+      const ShowNote& last = *number.Steps.back();
+      const int key = static_cast<int>(i) + 1;
+      if (number.Kind == kNoteTitle)
+        titles.push_back(
+            {{number.What, ui::Cell("New champion", ui::Tone::Gold), last.Why.View()}, key});
+      if (number.Kind == kNoteTitleImage)
+        titles.push_back({{number.What, Moved(number), last.Why.View()}, key});
+      if (number.Kind == kNoteHeat) feuds.push_back({{number.What, Moved(number)}, key});
+      if (number.Kind == kNoteFeudEnd)
+        feuds.push_back({{number.What, ui::Cell("Ended", ui::Tone::Gold)}, key});
+      if (number.Kind == kNoteInjury)
+        hurt.push_back(
+            {{number.What,
+              ui::Cell(last.Why.Str() + ", " + std::to_string(last.Change) + " m", ui::Tone::Red)},
+             key});
+    }
+    lsttitles.Fill(std::move(titles));
+    lstfeuds.Fill(std::move(feuds));
+    lsthurt.Fill(std::move(hurt));
+  }
+
+  static ui::Cell Moved(const NotedNumber& number) {
+    return {static_cast<double>(number.After()),
+            std::to_string(number.After()) + " (" + Signed(number.Change()) + ")",
+            ToneOf(number.Change())};
+  }
+
+  void ShowRows() {
+    std::vector<double> ratings;
+    std::vector<std::string> captions;
+    if (const NotedNumber* rating = morning_.Of(kNoteRating))
+      for (const ShowNote* step : rating->Steps) {
+        if (step->Row == 0) continue;
+        ratings.push_back(step->Change);
+        captions.push_back(std::to_string(step->Row));
+      }
+    chtrows.Captions = std::move(captions);
+    chtrows.Lines = std::vector<ui::Chart::Series>{{"", std::move(ratings)}};
+  }
+
+  /// The steps of the number, and where they lead.
+  void AddSteps(std::vector<ui::ListBox::Row>& rows, const NotedNumber& number,
+                const std::string& caption) {
+    if (number.Before() != 0)
+      rows.push_back({{NumberText(number.Kind, number.Before()), "", "Before"}});
+    for (const ShowNote* step : number.Steps)
+      rows.push_back(
+          {{ui::Cell(step->Change, ChangeText(number.Kind, step->Change), ToneOf(step->Change)),
+            step->Row == 0 ? ui::Cell(0.0, "") : ui::Cell(int(step->Row)), step->Why.View()}});
+    rows.push_back(
+        {{ui::Cell(number.After(), NumberText(number.Kind, number.After()), ui::Tone::Gold), "",
+          caption}});
+  }
+
+  void ShowWhy(const std::string& title, std::vector<ui::ListBox::Row> rows) {
+    lblwhy.Text = title;
+    for (std::size_t i = 0; i < rows.size(); ++i) rows[i].Key = static_cast<int>(i) + 1;
+    lstwhy.Fill(std::move(rows), false);
+  }
+
+  void cmdwhy_Click(int i) {
+    const Figure& figure = FigureAt(i);
+    const NotedNumber* number = morning_.Of(figure.Kind);
+    std::vector<ui::ListBox::Row> rows;
+    if (number) AddSteps(rows, *number, figure.Caption);
+    ShowWhy(number ? "Why " + NumberText(figure.Kind, number->After()) + "?" : "Why?",
+            std::move(rows));
+  }
+
+  void lstpeople_Click() {
+    const int key = lstpeople.Key();
+    if (key < 1 || key > static_cast<int>(people_.size())) return;
+    const std::string& name = people_[static_cast<std::size_t>(key - 1)].Name;
+    std::vector<ui::ListBox::Row> rows;
+    for (const NotedNumber* number : NumbersOf(morning_, name))
+      AddSteps(rows, *number,
+               number->Kind == kNoteOver     ? "Over"
+               : number->Kind == kNoteMorale ? "Morale"
+                                             : "Condition");
+    ShowWhy("Why " + name + "?", std::move(rows));
+  }
+  void lstpeople_Open() {
+    const int key = lstpeople.Key();
+    if (key < 1 || key > static_cast<int>(people_.size())) return;
+    const int uid = people_[static_cast<std::size_t>(key - 1)].Worker;
+    if (uid != 0 && game_.OpenWorker) game_.OpenWorker(uid);
+  }
+
+  void ShowOther(const ui::ListBox& list) {
+    const int key = list.Key();
+    if (key < 1 || key > static_cast<int>(morning_.Numbers.size())) return;
+    const NotedNumber& number = morning_.Numbers[static_cast<std::size_t>(key - 1)];
+    std::vector<ui::ListBox::Row> rows;
+    AddSteps(rows, number, number.What);
+    ShowWhy("Why " + number.What + "?", std::move(rows));
+  }
+  void lsttitles_Click() { ShowOther(lsttitles); }
+  void lstfeuds_Click() { ShowOther(lstfeuds); }
+  void lsthurt_Click() { ShowOther(lsthurt); }
+
+  ui::Drawing PortraitOfRow(int key) {
+    if (key < 1 || key > static_cast<int>(people_.size())) return {};
+    const Worker* worker = world().FindWorker(people_[static_cast<std::size_t>(key - 1)].Worker);
+    return worker ? ui::Drawing(PortraitOf(*worker)) : ui::Drawing();
+  }
+  ui::Drawing PlateOfRow(int key) {
+    if (key < 1 || key > static_cast<int>(morning_.Numbers.size())) return {};
+    const Title* title =
+        FindTitle(world(), morning_.Numbers[static_cast<std::size_t>(key - 1)].What);
+    return title ? ui::Drawing(PlateOf(*title, world().Titles().NumberOf(*title))) : ui::Drawing();
+  }
+
+  void cmdreport_Click() { desk().Open(ReportScreen(game_, on_, promotion_)); }
+
+  Day on_;
+  int promotion_;
+  Morning morning_;
+  std::vector<PersonMoved> people_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Array<ui::Label> lblfigures{"", kFigureCount, [this](const std::string&, int i) {
+                                    return std::make_unique<ui::Label>(*this, FigureAt(i).Control);
+                                  }};
+  ui::Array<ui::Label> lblnotes{"lblnote", kFigureCount, [this](const std::string& name, int) {
+                                  return std::make_unique<ui::Label>(*this, name);
+                                }};
+  ui::Array<ui::Button> cmdwhy{"cmdwhy", kFigureCount, [this](const std::string& name, int i) {
+                                 return std::make_unique<ui::Button>(
+                                     *this, name, "Why?", [this, i] { cmdwhy_Click(i); });
+                               }};
+  ui::ListBox lstpeople{*this,
+                        "lstpeople",
+                        {{"Name", K::Text, 5, "", [this](int key) { return PortraitOfRow(key); }},
+                         {"Over", K::Number, 2, "As the show left it."},
+                         {"+/- Over", K::Number, 2, "What the show changed."},
+                         {"Morale", K::Number, 2, "As the show left it."},
+                         {"+/- Morale", K::Number, 2, "What the show changed."},
+                         {"Condition", K::Number, 2, "As the show left it."},
+                         {"+/- Condition", K::Number, 2, "What the show changed."},
+                         {"Why", K::Text, 9}},
+                        &frmMorning::lstpeople_Click,
+                        &frmMorning::lstpeople_Open};
+  ui::ListBox lsttitles{*this,
+                        "lsttitles",
+                        {{"Title", K::Text, 4, "", [this](int key) { return PlateOfRow(key); }},
+                         {"Image", K::Tag, 3},
+                         {"Why", K::Text, 4}},
+                        &frmMorning::lsttitles_Click};
+  ui::ListBox lstfeuds{
+      *this, "lstfeuds", {{"Feud", K::Text, 5}, {"Heat", K::Tag, 3}}, &frmMorning::lstfeuds_Click};
+  ui::ListBox lsthurt{
+      *this, "lsthurt", {{"Name", K::Text, 4}, {"Injury", K::Tag, 5}}, &frmMorning::lsthurt_Click};
+  ui::Label lblwhy{*this, "lblwhy"};
+  ui::ListBox lstwhy{*this,
+                     "lstwhy",
+                     {{"Points", K::Number, 3, "What each step did, in its order."},
+                      {"Row", K::Number, 2, "Row of the sheet."},
+                      {"Why", K::Text, 8}}};
+  ui::Chart chtrows{*this, "chtrows", true};
+  ui::Label lblwanted{*this, "lblwanted"};
+  ui::Button cmdreport{*this, "cmdreport", "Read The Report", &frmMorning::cmdreport_Click};
+  ui::Button cmdresults{*this, "cmdresults", "Earlier Mornings",
+                        [this] { desk().Open("frmResults"); }};
+};
+
+}  // namespace
+
+SCREEN(frmMorning)
+
+std::unique_ptr<ui::Screen> MorningScreen(Game& game, Day on, int promotionUid) {
+  return std::make_unique<frmMorning>(game, on, promotionUid);
+}
+
+}  // namespace grapplemont
