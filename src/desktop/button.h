@@ -41,6 +41,8 @@ class PushButton : public BareButton {
   void SetGold(bool gold) { Change(gold_, gold); }
   /// Shows the sign of the Enter key behind the caption.
   void SetEnter(bool enter) { Change(enter_, enter); }
+  /// Words alone, as a link.
+  void SetPlain() { Change(plain_, true); }
   /// In drawn pixels.
   void SetLeast(int width, int height) { Change(least_, {Px(width), Px(height)}); }
   bool ShowsEnter() const { return enter_; }
@@ -59,11 +61,13 @@ class PushButton : public BareButton {
     QColor Fill, Edge, Ink;
   };
   Paints PaintsNow() const;
+  /// The room at either side of the caption, in drawn pixels.
+  int Side() const;
   QFont CaptionFont() const;
   /// What stands behind the caption, with the gaps before it.
   int TailWidth() const;
 
-  bool gold_ = false, enter_ = false, ring_ = false;
+  bool gold_ = false, enter_ = false, ring_ = false, plain_ = false;
   QSize least_;
 };
 

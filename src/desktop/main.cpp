@@ -32,12 +32,16 @@ int Play(QApplication& app) {
     }
   };
   desktop::Window window(desk, options);
+  game.KeepPage = [&window](const std::string& file) {
+    window.KeepPage(QString::fromStdString(file));
+  };
   window.show();
   desk.Event([&] { desk.Open("frmTitleScreen"); });
   window.Sync();
   if (desk.Empty()) return 1;
   const int result = QApplication::exec();
   desk.CloseAll();
+  game.KeepPage = nullptr;
   return result;
 }
 

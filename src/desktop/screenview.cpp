@@ -123,7 +123,7 @@ void ScreenView::DressPictures() {
     if (!picture) continue;
     if (&view->Shows() == behind_)
       picture->SetSeeThrough();
-    else if (behind_)
+    else if (behind_ && IsBackdropFile(dynamic_cast<ui::Picture&>(view->Shows()).File.Get()))
       picture->SetFading();
   }
 }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QTimer>
 #include <algorithm>
 
@@ -16,6 +17,7 @@ constexpr QSize kUsualSize(1280, 800), kLeastSize(1024, 640);
 constexpr qint64 kPatience = 200;  // milliseconds
 constexpr qint64 kFrame = 33;      // between two pictures of a long event
 constexpr int kHintTime = 6000;
+constexpr int kPageWidth = 272;  // of the picture of the last page
 
 }  // namespace
 
@@ -45,7 +47,12 @@ Window::~Window() {
 }
 
 QString Window::PictureFile(const std::string& name) const {
-  return options_.Pictures + "/" + Shown(name);
+  return QDir::cleanPath(options_.Pictures + "/" + Shown(name));
+}
+
+void Window::KeepPage(const QString& file) {
+  if (!ground_->size().isEmpty())
+    ground_->grab().scaledToWidth(kPageWidth, Qt::SmoothTransformation).save(file, "PNG");
 }
 
 bool Window::IsPatient(const ui::Screen& screen) {

@@ -45,6 +45,8 @@ class Window : public QMainWindow, public Stage {
 
   /// Brings what is shown to what lies on the desk.
   void Sync();
+  /// Keeps a small picture of what is shown.
+  void KeepPage(const QString& file);
 
   // What the desk asks for.
   /// Waits for the answer to a box: the place of its button from 0, the careful answer when there
