@@ -11,7 +11,10 @@ namespace grapplemont::desktop {
 class BareButton : public QAbstractButton {
  public:
   BareButton(QWidget* parent, const QString& caption);
-  void SetBadge(const QString& badge) { Change(badge_, badge); }
+  void SetBadge(const QString& badge) {
+    Change(badge_, badge);
+    setAccessibleName(badge.isEmpty() ? QString() : text() + ", " + badge);
+  }
 
  protected:
   /// Makes room for what has changed and shows it.

@@ -6,6 +6,7 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
+#include "desktop/spoken.h"
 #include "desktop/views.h"
 
 namespace grapplemont::desktop {
@@ -46,10 +47,17 @@ struct Scale {
   double LineAt(int line) const { return Low + line * Step; }
 };
 
+/// Several lines differ in stroke as well as in colour.
+Qt::PenStyle StrokeOf(std::size_t line) {
+  constexpr Qt::PenStyle kStrokes[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
+  return kStrokes[line % std::size(kStrokes)];
+}
+
 /// Lines or bars over time, with an axis, captions and the value under the pointer.
 class ChartView : public ViewOf<QWidget, ui::Chart> {
  public:
   ChartView(ui::Chart& chart, Stage& stage, QWidget* parent) : ViewOf(chart, stage, parent) {
+    Means(*this, QAccessible::Chart);
     setFont(TextFont(11));
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -58,7 +66,10 @@ class ChartView : public ViewOf<QWidget, ui::Chart> {
   QSize minimumSizeHint() const override { return {Px(160), Px(120)}; }
 
  protected:
-  void Show() override { Hover(-1); }
+  void Show() override {
+    setAccessibleDescription(WordsFor(control_));
+    Hover(-1);
+  }
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent*) override { Hover(-1); }
@@ -186,9 +197,10 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
 
 void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
+  std::size_t line = 0;
   for (const auto& series : control_.Lines.Get()) {
     painter.setPen(
-        QPen(TextColour(c, series.Colour), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        QPen(TextColour(c, series.Colour), 2, StrokeOf(line++), Qt::FlatCap, Qt::RoundJoin));
     QPolygonF run;
     const auto finish = [&] {
       painter.drawPolyline(run);
@@ -215,12 +227,20 @@ void ChartView::DrawNames(QPainter& painter) const {
   const Colours& c = ColoursOf(this);
   const QFontMetrics small = fontMetrics();
   double x = 0;
+  std::size_t line = 0;
   for (const auto& series : control_.Lines.Get()) {
+    const Qt::PenStyle stroke = StrokeOf(line++);
     if (series.Name.empty()) continue;
     const QString name = Shown(series.Name);
-    const QColor mark = control_.Bars ? FillColour(c, series.Colour) : TextColour(c, series.Colour);
-    DrawBox(painter, QRectF(x, small.height() / 2.0 - Px(4), Px(8), Px(8)), mark, QColor(), 2);
-    x += Px(8) + Px(6);
+    const int mark = Px(control_.Bars ? 8 : 18);
+    if (control_.Bars) {
+      DrawBox(painter, QRectF(x, small.height() / 2.0 - Px(4), mark, Px(8)),
+              FillColour(c, series.Colour), QColor(), 2);
+    } else {
+      painter.setPen(QPen(TextColour(c, series.Colour), 2, stroke, Qt::FlatCap));
+      painter.drawLine(QPointF(x, small.height() / 2.0), QPointF(x + mark, small.height() / 2.0));
+    }
+    x += mark + Px(6);
     painter.setPen(c.Muted);
     painter.drawText(QPointF(x, small.ascent()), name);
     x += small.horizontalAdvance(name) + Px(14);

@@ -33,6 +33,7 @@ void ControlView::Refresh() {
   QWidget* widget = Widget();
   widget->setEnabled(shows_.Enabled);
   widget->setToolTip(TipText(shows_.Tip));
+  FocusTarget()->setAccessibleDescription(Shown(shows_.Tip.Get()));
   Show();
   widget->setVisible(shows_.Visible);
   if (companion_) companion_->setVisible(shows_.Visible);

@@ -63,6 +63,9 @@ Finder::Finder(QWidget* ground, std::vector<Entry> entries)
   rows->addWidget(line_);
   rows->addWidget(list_, 1);
   line_->setPlaceholderText("Where to, or what to do?");
+  setAccessibleName("Search everything");
+  line_->setAccessibleName(line_->placeholderText());
+  list_->setAccessibleName("What was found");
   line_->installEventFilter(this);
   list_->setObjectName("finderlist");
   list_->setFrameShape(QFrame::NoFrame);

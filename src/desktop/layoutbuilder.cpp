@@ -9,6 +9,7 @@
 #include "desktop/button.h"
 #include "desktop/card.h"
 #include "desktop/pieces.h"
+#include "desktop/spoken.h"
 #include "desktop/tableview.h"
 
 namespace grapplemont::desktop {
@@ -121,6 +122,7 @@ TableView* OnlyTable(const std::vector<ControlView*>& views) {
 ControlView* LayoutBuilder::View(ui::Control& control) {
   ControlView* view = MakeView(control, stage_, holder_);
   views_.push_back(view);
+  if (!NamesItself(control.Is())) NameParts(*view->Widget(), heading_);
   return view;
 }
 
@@ -231,6 +233,8 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
 }
 
 void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
+  const QScopedValueRollback<QString> heading(heading_,
+                                              box.Title.empty() ? heading_ : Shown(box.Title));
   const QFont bold = TextFont(13, QFont::DemiBold);
   if (inCard_) {  // a card on a card is a heading with what belongs to it
     auto* part = NewLayout<QVBoxLayout>(nullptr, kClose);
@@ -239,6 +243,8 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
     return AddAll(box.Parts, part);
   }
   auto* card = new Card(holder_);
+  Means(*card, QAccessible::Grouping);
+  card->setAccessibleName(heading_);
   auto* inside = NewLayout<QVBoxLayout>(card, kClose, {kCardSide, kCardSide, kCardSide, kCardSide});
   auto* head = new QHBoxLayout;
   inside->addLayout(head);
@@ -269,7 +275,9 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   rows->addWidget(bar, 0, Qt::AlignLeft);
   rows->addWidget(pages, 1);
   const QScopedValueRollback<QWidget*> within(holder_);
+  bar->setAccessibleName(heading_);
   for (const Box& part : box.Parts) {
+    const QScopedValueRollback<QString> heading(heading_, Shown(part.Title));
     auto* page = new QWidget(pages);
     auto* inside = NewLayout<QVBoxLayout>(page, -1);
     holder_ = page;
@@ -292,6 +300,8 @@ void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
   int row = 0;
   bool grows = false;
   for (const Box* field : fields) {
+    const QScopedValueRollback<QString> heading(
+        heading_, field->Title.empty() ? heading_ : Shown(field->Title));
     ControlView* view = View(*field->Shown);
     auto* label = new WrappedLabel(holder_, Shown(field->Title));
     SetInk(*label, ColoursOf(holder_).Muted);

@@ -201,7 +201,8 @@ void ScreenView::BuildBody(QVBoxLayout* into) {
   auto* scroller = new Scroller(this, Grows(page_.Body));
   auto* body = new QWidget(scroller);
   auto* column = NewLayout<QVBoxLayout>(body, -1);
-  LayoutBuilder builder(stage_, body, screen_->Is() == ui::Role::Cover);
+  LayoutBuilder builder(stage_, body, screen_->Is() == ui::Role::Cover,
+                        Shown(screen_->Title.Get()));
   builder.Build(page_.Body, column);
   body->installEventFilter(scroller);
   scroller->Hold(body);

@@ -5,6 +5,7 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
+#include "desktop/spoken.h"
 
 namespace grapplemont::desktop {
 
@@ -17,7 +18,10 @@ constexpr int kLogo = 48, kGap = 8, kFoot = 12;  // what stands above and below 
 
 class Heading : public QWidget {
  public:
-  Heading(QWidget* parent, const QString& title) : QWidget(parent), title_(title.toUpper()) {}
+  Heading(QWidget* parent, const QString& title) : QWidget(parent), title_(title.toUpper()) {
+    Means(*this, QAccessible::Heading);
+    setAccessibleName(title);
+  }
 
  protected:
   void paintEvent(QPaintEvent*) override {

@@ -177,13 +177,17 @@ bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
 }
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)) return {};
+  if (!index.isValid()) return {};
+  if (role == Qt::AccessibleDescriptionRole)
+    return table_.RowAt(index.row()).Selected ? QString("selected") : QString();
+  if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
   return Shown(table_.At(index.row(), index.column()).Text);
 }
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section >= columnCount()) return {};
   if (role == Qt::DisplayRole) return Shown(Column(section).Title);
+  if (role == Qt::AccessibleTextRole) return Shown(ui::ColumnId(list_.Columns(), section));
   if (role == Qt::ToolTipRole && !Column(section).Tip.empty()) return Shown(Column(section).Tip);
   return {};
 }

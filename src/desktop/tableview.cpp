@@ -96,6 +96,7 @@ void TableView::BuildSearchRow() {
   search_->setMaximumWidth(Px(240));
   search_->setClearButtonEnabled(true);
   search_->setPlaceholderText(SearchHint(control_));
+  search_->setAccessibleName("Filter");
   search_->installEventFilter(this);
   columns_->setObjectName(name + "_columns");
   row->addWidget(count_);

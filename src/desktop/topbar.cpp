@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QRegularExpression>
 
+#include "desktop/spoken.h"
 #include "desktop/textviews.h"
 
 namespace grapplemont::desktop {
@@ -28,6 +29,7 @@ class TopLabel : public ViewOf<QWidget, ui::Label> {
  public:
   TopLabel(ui::Label& label, bool first, Stage& stage, QWidget* parent)
       : ViewOf(label, stage, parent), first_(first) {
+    Means(*this, QAccessible::StaticText);
     setObjectName(Shown(label.Name()));
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
   }
@@ -43,6 +45,7 @@ class TopLabel : public ViewOf<QWidget, ui::Label> {
  protected:
   void Show() override {
     TakeApart(Shown(control_.Text.Get()));
+    setAccessibleName(Shown(control_.Text.Get()));
     if (control_.Tip->empty()) setToolTip(Shown(control_.Text.Get()));
     if (control_.Trend != 0) pieces_.push_back({TrendSign(control_.Trend), false});
     updateGeometry();

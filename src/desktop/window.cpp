@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "desktop/pieces.h"
+#include "desktop/spoken.h"
 
 namespace grapplemont::desktop {
 
@@ -132,6 +133,7 @@ Window::Layer& Window::LayerOf(const Held& screen, const Scene& scene) {
     inside->addWidget(layer.View);
     layer.View->setMinimumWidth(Px(380));
     layer.Over->SetWanted(layer.View->DialogSize());
+    layer.Over->setAccessibleName(Shown(screen->Title.Get()));
   } else {
     layer.View = new ScreenView(screen, *this, ground_);
     Place(*layer.View, scene);
@@ -275,6 +277,7 @@ void Window::Hint(QWidget& beside, const QString& text) {
   hint_->move(at);
   hint_->show();
   hint_->raise();
+  Announce(*hint_);
   QTimer::singleShot(kHintTime, hint_.data(), &QObject::deleteLater);
 }
 
