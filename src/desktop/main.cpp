@@ -12,6 +12,17 @@ namespace {
 
 using namespace grapplemont;
 
+/// The scale that the player has set counts from the start on; what the environment says goes
+/// first.
+void ApplyScale() try {
+  const std::string home = FindHome(*RealDisk());
+  const int percent = desktop::Settings(QString::fromStdString(home + "/settings.ini")).Scale();
+  if (percent != 100 && !qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(percent / 100.0));
+} catch (const std::exception&) {
+  // What is wrong with the home is told once there is a window.
+}
+
 int Play(QApplication& app) {
   const std::unique_ptr<Disk> disk = RealDisk();
   const std::string home = FindHome(*disk);
@@ -48,6 +59,7 @@ int Play(QApplication& app) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  ApplyScale();
   QApplication app(argc, argv);
   QApplication::setApplicationName("Grapplemont");
   QApplication::setDesktopFileName("grapplemont");

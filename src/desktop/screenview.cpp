@@ -67,8 +67,7 @@ ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget
     : QWidget(parent), screen_(std::move(screen)), stage_(stage), page_(screen_->Layout()) {
   setObjectName(Shown(screen_->Name()));
   setFocusPolicy(Qt::ClickFocus);
-  // The pictures behind covers are dark, so what stands on them is light in both sets of colours.
-  if (HasBackdrop()) setPalette(PaletteOf(DarkColours()));
+  if (HasBackdrop()) setPalette(PaletteOf(CoverColours()));
   FindBackdrop();
   const ui::Role role = screen_->Is();
   if (role == ui::Role::Wait) {

@@ -140,7 +140,8 @@ SideBar::SideBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(
 
 void SideBar::AddCommand(const ui::SideGroup::Command& command, Stage& stage, QWidget* holder,
                          QVBoxLayout* into) {
-  auto* line = new Command(*command.Press, Shown(command.Key), stage, holder);
+  auto* line = new Command(*command.Press, stage.Kept().Key(command.Press->Name(), command.Key),
+                           stage, holder);
   connect(line, &QAbstractButton::clicked, this, [this, line] { Pressed(line->Presses()); });
   commands_.push_back(line);
   into->addWidget(line);

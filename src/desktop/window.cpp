@@ -36,6 +36,7 @@ Window::Window(WindowDesk& desk, Options options)
   setMinimumSize(kLeastSize);
   resize(kUsualSize);
   if (const QByteArray place = settings_.Place(); !place.isEmpty()) restoreGeometry(place);
+  if (settings_.Still()) SetStill(true);
   qApp->installEventFilter(this);
 }
 

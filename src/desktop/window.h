@@ -48,6 +48,14 @@ class Window : public QMainWindow, public Stage {
   /// Keeps a small picture of what is shown.
   void KeepPage(const QString& file);
 
+  // What the player sets about the window, in windowkeys.cpp.
+  void SetColours(Scheme scheme);
+  void SetZoom(int zoom);
+  void SetStill(bool still);
+  void TurnFullScreen();
+  /// All views are made again: their sizes and colours were taken when they were built.
+  void Relook();
+
   // What the desk asks for.
   /// Waits for the answer to a box: the place of its button from 0, the careful answer when there
   /// is none. With a line, that is offered and then holds what was typed.
@@ -116,8 +124,7 @@ class Window : public QMainWindow, public Stage {
   std::vector<OwnCommand> OwnCommands();
   bool HandleCommonKey(const QKeyEvent& event);
   void TurnColours();
-  void SetZoom(int zoom);
-  void Relook();
+  void OpenOptions();
   bool SwallowWhileBusy(QObject* watched, QEvent* event);
 
   WindowDesk& desk_;

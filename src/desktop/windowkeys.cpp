@@ -5,6 +5,7 @@
 
 #include "desktop/look.h"
 #include "desktop/window.h"
+#include "desktop/windowoptions.h"
 
 // The keys that mean the same everywhere, and input that comes at the wrong time.
 
@@ -20,7 +21,16 @@ void Window::keyPressEvent(QKeyEvent* event) {
 /// What the window does by itself, with Ctrl and a key or by search.
 std::vector<Window::OwnCommand> Window::OwnCommands() {
   const bool dark = IsDark(settings_.Colours());
+  const auto colours = [this](Scheme scheme) { return [this, scheme] { SetColours(scheme); }; };
   return {
+      {{Qt::Key_Comma}, "Window options", "Ctrl ,", [this] { OpenOptions(); }},
+      {{}, "Full screen", "F11", [this] { TurnFullScreen(); }},
+      {{}, "High contrast", {}, colours(Scheme::Contrast)},
+      {{}, "Colours as the desktop has them", {}, colours(Scheme::System)},
+      {{},
+       settings_.Still() ? "Let the cursor blink" : "Nothing moves by itself",
+       {},
+       [this] { SetStill(!settings_.Still()); }},
       {{Qt::Key_K}, {}, {}, [this] { OpenFinder(); }},
       {{Qt::Key_L}, dark ? "Light colours" : "Dark colours", "Ctrl L", [this] { TurnColours(); }},
       {{Qt::Key_Plus, Qt::Key_Equal},
@@ -34,7 +44,11 @@ std::vector<Window::OwnCommand> Window::OwnCommands() {
 bool Window::HandleCommonKey(const QKeyEvent& event) {
   if (box_ || finder_ || acting_ > 0) return false;
   const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
-  if (modifiers == Qt::NoModifier) return PressSideKey(event);
+  if (modifiers == Qt::NoModifier && event.key() == Qt::Key_F11 && !event.isAutoRepeat()) {
+    TurnFullScreen();
+    return true;
+  }
+  if (PressSideKey(event)) return true;
   if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier)) return false;
   if (event.key() == Qt::Key_F) return TopView() && TopView()->FocusSearch();
   for (const OwnCommand& own : OwnCommands())
@@ -46,8 +60,35 @@ bool Window::HandleCommonKey(const QKeyEvent& event) {
 }
 
 void Window::TurnColours() {
-  settings_.SetColours(IsDark(settings_.Colours()) ? Scheme::Light : Scheme::Dark);
+  SetColours(IsDark(settings_.Colours()) ? Scheme::Light : Scheme::Dark);
+}
+
+void Window::SetColours(Scheme scheme) {
+  settings_.SetColours(scheme);
   Relook();
+}
+
+void Window::TurnFullScreen() {
+  setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
+void Window::SetStill(bool still) {
+  static const int kUsualBlink = QApplication::cursorFlashTime();
+  settings_.SetStill(still);
+  QApplication::setCursorFlashTime(still ? 0 : kUsualBlink);
+}
+
+void Window::OpenOptions() {
+  if (desk_.Top() && desk_.Top()->Name() == kWindowOptions) return;
+  std::vector<KeyedCommand> commands;
+  if (const ScreenView* hub = HubView())
+    for (const auto& group : hub->Page().Side)
+      for (const auto& command : group.Commands)
+        commands.push_back({command.Press->Name(), command.Press->Text.Get(), command.Key});
+  Act([&] {
+    desk_.Event([&] { desk_.Open(NewWindowOptions(desk_, *this, std::move(commands))); });
+    return std::string();
+  });
 }
 
 void Window::SetZoom(int zoom) {
@@ -56,7 +97,6 @@ void Window::SetZoom(int zoom) {
   Relook();
 }
 
-/// All views are made again: their sizes and colours were taken when they were built.
 void Window::Relook() {
   RetireAll();
   ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());

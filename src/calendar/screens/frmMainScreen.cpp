@@ -44,7 +44,7 @@ constexpr std::array<Command, 19> kCommands = {{
     {"cmdnews", "News", "frmNews", "Desk", "F10"},
     {"cmdresults", "Results", "frmResults", "Desk", ""},
     {"cmdmeeting", "Meeting", "frmTalk", "Desk", ""},
-    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "F11"},
+    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N"},
     {"cmdoptions", "Options", "frmOptions", "Desk", "F12"},
 }};
 
