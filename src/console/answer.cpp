@@ -80,6 +80,7 @@ std::string OneControl(ui::Screen& screen, const std::string& name, int width) {
 std::string TextAnswer(const Answer& answer, int width) {
   if (!answer.Error.empty()) return "Error: " + answer.Error + "\n";
   if (!answer.Help.empty()) return answer.Help;
+  if (!answer.Shared.empty()) return answer.Shared;
   if (answer.Open) return ToUtf8(BoxText(*answer.Open, width));
   if (!answer.Top) return "The game has ended.\n";
   if (!answer.Only.empty()) return ToUtf8(OneControl(*answer.Top, answer.Only, width));
@@ -172,6 +173,7 @@ std::string JsonAnswer(const Answer& answer) {
   if (answer.Open) json["box"] = BoxJson(*answer.Open);
   if (!answer.Error.empty()) json["error"] = answer.Error;
   if (!answer.Help.empty()) json["help"] = answer.Help;
+  if (!answer.Shared.empty()) json["shared"] = answer.Shared;
   return json.dump();
 }
 

@@ -55,7 +55,7 @@ std::optional<std::string> Letters(const Line& line, std::string& why) {
 namespace {
 
 using A = Arguments;
-constexpr std::array<VerbRow, 15> kVerbs = {{
+constexpr std::array<VerbRow, 16> kVerbs = {{
     {Verb::Show, A::MaybeName, "show", "show [NAME]", "the top screen, or all of one control"},
     {Verb::Click, A::Name, "click", "click NAME", "press a button, a picture or a box"},
     {Verb::Type, A::NameAndMaybeText, "type", "type NAME TEXT",
@@ -67,6 +67,8 @@ constexpr std::array<VerbRow, 15> kVerbs = {{
     {Verb::Slide, A::NameAndText, "slide", "slide NAME VALUE", "move a scroll bar"},
     {Verb::Follow, A::Text, "follow", "follow NAME",
      "open the page of a worker or promotion whose name the screen shows"},
+    {Verb::Share, A::Text, "share", "share markdown|html|bbcode",
+     "what the top screen tells as a text for elsewhere"},
     {Verb::Ok, A::None, "ok", "ok", "to a message: go on"},
     {Verb::Yes, A::None, "yes", "yes", "to a question"},
     {Verb::No, A::None, "no", "no", "to a question"},

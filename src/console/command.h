@@ -33,6 +33,7 @@ enum class Verb {
   Check,
   Slide,
   Follow,
+  Share,
   Ok,
   Yes,
   No,

@@ -118,6 +118,8 @@ std::vector<Finder::Entry> Window::FinderEntries() {
   }
   for (const OwnCommand& own : OwnCommands())
     if (!own.Words.isEmpty()) entries.push_back({own.Words, "Window", own.Key, own.Run});
+  for (const OwnCommand& own : SharingCommands())
+    entries.push_back({own.Words, "This page", own.Key, own.Run});
   return entries;
 }
 

@@ -1,5 +1,8 @@
+#include <QApplication>
+#include <QClipboard>
 #include <QWidgetAction>
 
+#include "desktop/sharing.h"
 #include "desktop/tableview.h"
 
 // The names in a table's cells, which Ctrl and a click opens, and its menus: sort, filter, columns.
@@ -99,6 +102,9 @@ void TableView::AddColumnChoices(QMenu& menu) {
   });
   clear->setEnabled(!table_.State().Filters.empty() || !table_.State().Search.empty());
   menu.addAction("Copy as CSV\tCtrl C", this, [this] { CopyCsv(); });
+  AddSharing(menu, [this](ui::Form form) {
+    if (table_.Follows()) QApplication::clipboard()->setText(Shown(ui::Shared(table_, form)));
+  });
 }
 
 void TableView::AddFilterLine(QMenu& menu, int column) {

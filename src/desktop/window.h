@@ -12,6 +12,7 @@
 #include "desktop/box.h"
 #include "desktop/finder.h"
 #include "desktop/topbar.h"
+#include "ui/share.h"
 
 namespace grapplemont::desktop {
 
@@ -125,6 +126,11 @@ class Window : public QMainWindow, public Stage {
   bool HandleCommonKey(const QKeyEvent& event);
   void TurnColours();
   void OpenOptions();
+  // What the page tells, for elsewhere; in sharing.cpp.
+  std::vector<OwnCommand> SharingCommands();
+  void CopyPage(ui::Form form);
+  void CopyPicture();
+  void SavePage();
   bool SwallowWhileBusy(QObject* watched, QEvent* event);
 
   WindowDesk& desk_;

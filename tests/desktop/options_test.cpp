@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QFile>
 #include <memory>
 
 #include "desktop/player.h"
+#include "desktop/sharing.h"
 #include "support/scratchfolder.h"
 #include "ui/acts.h"
 
@@ -80,6 +83,33 @@ TEST_F(TheOptions, GiveACommandAnotherKey) {
   Play->Key(Qt::Key_Escape);
   Play->Key(Qt::Key_F2);
   EXPECT_EQ(Play->Top(), "frmPeople");
+}
+
+TEST_F(TheOptions, LeaveThePageItselfToBeShared) {
+  Begin();
+  Play->Open(std::make_unique<PeoplePage>(Play->Desk, Notes));
+  const auto find = [&](const char* letters) {
+    Play->Key(Qt::Key_K, Qt::ControlModifier);
+    Play->Type(letters);
+    Play->Key(Qt::Key_Return);
+  };
+  find("Copy this page as Markdown");
+  EXPECT_TRUE(QApplication::clipboard()->text().startsWith("# People\n\n| \\# | Name |"));
+  find("Copy this page as a picture");
+  EXPECT_FALSE(QApplication::clipboard()->image().isNull());
+  const QString file = QString::fromStdString(folder_ / "people.");
+  for (const auto& [ending, start] : {std::pair("md", "# People"),
+                                      {"html", "<!DOCTYPE html>"},
+                                      {"txt", "[size=150]"},
+                                      {"png", "\x89PNG"}}) {
+    EXPECT_EQ(desktop::WritePage(file + ending, *Play->Desk.Top(), *Play->See("frmPeople")), "");
+    QFile written(file + ending);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(written.readAll().startsWith(start)) << ending;
+  }
+  const QString nowhere = QString::fromStdString(folder_ / "no/where.md");
+  EXPECT_TRUE(desktop::WritePage(nowhere, *Play->Desk.Top(), *Play->See("frmPeople"))
+                  .startsWith("Could not write " + nowhere));
 }
 
 TEST_F(TheOptions, FillTheScreenByF11) {
