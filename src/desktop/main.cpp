@@ -20,7 +20,7 @@ void ApplyScale() try {
   if (percent != 100 && !qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
     qputenv("QT_SCALE_FACTOR", QByteArray::number(percent / 100.0));
 } catch (const std::exception&) {
-  // What is wrong with the home is told once there is a window.
+  // What is wrong with the home is said once there is a window.
 }
 
 int Play(QApplication& app) {

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPixmap>
 #include <QSaveFile>
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #include "desktop/spoken.h"
 
 #include <QAccessibleWidget>
+#include <QStringList>
 #include <QVariant>
 #include <algorithm>
 #include <cmath>
@@ -16,7 +17,7 @@ namespace {
 
 constexpr auto kRole = "spokenRole";
 
-QAccessibleInterface* Told(const QString&, QObject* object) {
+QAccessibleInterface* InterfaceOf(const QString&, QObject* object) {
   if (!object->isWidgetType()) return nullptr;
   const QVariant role = object->property(kRole);
   if (!role.isValid()) return nullptr;
@@ -26,8 +27,8 @@ QAccessibleInterface* Told(const QString&, QObject* object) {
 
 bool IsNamed(QWidget& widget) {
   if (!widget.accessibleName().isEmpty()) return true;
-  const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&widget);
-  return told && !told->text(QAccessible::Name).isEmpty();
+  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&widget);
+  return spoken && !spoken->text(QAccessible::Name).isEmpty();
 }
 
 QString Number(double value) {
@@ -38,7 +39,7 @@ QString Number(double value) {
 
 void Means(QWidget& widget, QAccessible::Role role) {
   [[maybe_unused]] static const bool kInstalled = [] {
-    QAccessible::installFactory(Told);
+    QAccessible::installFactory(InterfaceOf);
     return true;
   }();
   widget.setProperty(kRole, static_cast<int>(role));

@@ -6,7 +6,7 @@
 #include "ui/controls.h"
 #include "ui/drawings.h"
 
-// What a screen reader is told beyond what Qt knows of its own widgets.
+// What a screen reader hears beyond what Qt knows of its own widgets.
 
 namespace grapplemont::desktop {
 

@@ -10,12 +10,12 @@
 #include "support/homefolder.h"
 #include "ui/game.h"
 
-// What Qt tells screen readers of every screen, against what the screen model holds.
+// What screen readers hear of every screen, against what the screen model holds.
 
 namespace grapplemont::test {
 namespace {
 
-using QAccessible::Role;
+using Role = QAccessible::Role;
 
 struct Expected {
   ui::Kind Of;

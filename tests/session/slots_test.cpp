@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <functional>
 #include <sstream>
 
 #include "records/store/slotcare.h"
@@ -10,7 +11,6 @@
 #include "session/home.h"
 #include "support/cutdisk.h"
 #include "support/homefolder.h"
-#include "support/scripteddraws.h"
 #include "support/smallworld.h"
 #include "support/storeworld.h"
 

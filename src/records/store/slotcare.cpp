@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 
 #include "records/fields/charset.h"
 #include "records/store/knownfiles.h"
@@ -62,7 +63,8 @@ std::vector<NewFile> UnpackSlot(ByteSpan bytes, const std::string& path) {
   for (auto left = in.Get<std::uint32_t>(); sound && left > 0; --left) {
     const std::string name = in.GetText<std::uint16_t>();
     const ByteSpan contents = in.Take(in.Get<std::uint64_t>());
-    sound = in.Whole() && std::ssize(contents) <= MostBytesOf(name) && names.insert(name).second;
+    const std::int64_t most = MostBytesOf(name);  // 0 for what is no file of a slot
+    sound = in.Whole() && most > 0 && std::ssize(contents) <= most && names.insert(name).second;
     files.push_back({name, Bytes(contents.begin(), contents.end())});
   }
   if (!sound || !in.Whole() || !in.Left().empty())
