@@ -49,6 +49,11 @@ void CopyFolder(Disk& disk, const std::string& from, const std::string& to) {
       CopyFile(disk, from + "/" + name, to + "/" + name);
 }
 
+SlotSummary NotPlayable(const char* caption, std::string details = {}) {
+  return {caption, std::move(details), false, false};
+}
+constexpr const char* kUnreadable = "Slot Cannot Be Read";
+
 }  // namespace
 
 std::string FindHome(Disk& disk) {
@@ -87,11 +92,6 @@ std::string DrawWaitingPicture(Disk& disk, const std::string& pictureFolder, int
 }
 
 namespace {
-
-SlotSummary NotPlayable(const char* caption, std::string details = {}) {
-  return {caption, std::move(details), false, false};
-}
-constexpr const char* kUnreadable = "Slot Cannot Be Read";
 
 using SlotContents = std::map<std::string, Bytes>;
 
