@@ -4,6 +4,7 @@
 #include "session/newgame.h"
 #include "session/screens/frmLoadGame.h"
 #include "session/screens/slotscreen.h"
+#include "session/slots.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {
@@ -20,6 +21,7 @@ class frmPickSaveSlot : public SlotScreen {
     page.Facts = &lblfacts;
     page.Actions = {&cmdback};
     page.Cancel = &cmdback;
+    if (const auto free = FreeSlot(game_.Disk(), game_.Home())) page.Main = &ButtonOf(*free);
     page.Body = Cards();
     return page;
   }

@@ -14,6 +14,7 @@ class SlotScreen : public GameScreen {
  protected:
   /// All cards, four a row.
   ui::Box Cards();
+  ui::Button& ButtonOf(int slot) { return cmdload(slot); }
   const SlotSummary& In(int slot) const { return summaries_[static_cast<std::size_t>(slot - 1)]; }
   /// Says whether the slot's button can be pressed.
   virtual void Offer(ui::Button&, const SlotSummary&) {}
