@@ -167,6 +167,7 @@ Json BoxJson(const Box& box) {
 std::string TextAnswer(const Answer& answer, int width) {
   if (!answer.Error.empty()) return "Error: " + answer.Error + "\n";
   if (!answer.Help.empty()) return answer.Help;
+  if (!answer.Shared.empty()) return answer.Shared;
   if (answer.Open) return ToUtf8(BoxText(*answer.Open, width));
   if (answer.Found) return ToUtf8(FoundText(*answer.Found));
   if (!answer.Top) return "The game has ended.\n";
@@ -192,6 +193,7 @@ std::string JsonAnswer(const Answer& answer) {
   }
   if (!answer.Error.empty()) json["error"] = answer.Error;
   if (!answer.Help.empty()) json["help"] = answer.Help;
+  if (!answer.Shared.empty()) json["shared"] = answer.Shared;
   return json.dump();
 }
 

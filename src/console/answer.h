@@ -19,7 +19,7 @@ struct Answer {
   ui::Screen* Top = nullptr;  // nullptr when the program is at its end
   const Box* Open = nullptr;
   std::string Error = {};  // UTF-8, as are all answers
-  std::string Help = {};
+  std::string Help = {}, Shared = {};
   std::string Only = {};                            // the one control that was asked for
   const std::vector<ui::Finding>* Found = nullptr;  // what a search has brought
 };

@@ -37,6 +37,7 @@ enum class Verb {
   Find,
   Visit,
   Explain,
+  Share,
   Ok,
   Yes,
   No,

@@ -4,6 +4,7 @@
 #include "records/fields/charset.h"
 #include "ui/acts.h"
 #include "ui/asnumber.h"
+#include "ui/share.h"
 
 namespace grapplemont::console {
 
@@ -122,6 +123,12 @@ bool Console::Look(const Command& command) {
     answer_.Help = HelpText();
   } else if (command.Is == Verb::Find) {
     Find(command.Text);
+  } else if (command.Is == Verb::Share) {
+    const auto form = ui::FormNamed(command.Text);
+    if (!Top() || !form)
+      Refuse("Write it as \"" + std::string(RowOf(command.Is).Form) + "\".");
+    else
+      answer_.Shared = ToUtf8(ui::Shared(*Top(), *form));
   } else if (command.Is != Verb::Show) {
     return false;
   } else if (!command.Name.empty()) {

@@ -1,5 +1,6 @@
 #include "desktop/box.h"
 
+#include "desktop/spoken.h"
 #include "desktop/textviews.h"
 
 namespace grapplemont::desktop {
@@ -16,6 +17,8 @@ MessageBox::MessageBox(QWidget* ground, const QString& title, const QString& tex
       rows_(NewLayout<QVBoxLayout>(&Sheet(), 8, {20, 18, 20, 16})),
       foot_(NewLayout<QHBoxLayout>(nullptr, 12)) {
   setObjectName("box");
+  setAccessibleName(title);
+  setAccessibleDescription(text);
   auto* heading = new WrappedLabel(&Sheet(), title, TextFont(15, QFont::DemiBold));
   heading->setObjectName("boxtitle");
   heading->setMinimumWidth(Px(kLeastWidth));
@@ -46,12 +49,14 @@ void MessageBox::AddLine(const QString& offered, Stage& stage) {
   connect(line_, &QLineEdit::textEdited, this, [this, &stage] { KeepTyped(*line_, stage); });
   rows_->insertSpacing(kLinePlace, Px(4));
   rows_->insertWidget(kLinePlace + 1, line_);
+  line_->setAccessibleName(accessibleDescription());
 }
 
 std::optional<int> MessageBox::Run() {
   PlaceCard();
   show();
   raise();
+  Announce(*this);
   PlaceCard();
   if (line_) {
     line_->setFocus(Qt::OtherFocusReason);

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
@@ -12,7 +13,9 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kSide = 15;        // room beside the caption
+constexpr int kSide = 15;      // room beside the caption
+constexpr int kPlainSide = 3;  // of words without a frame
+constexpr int kHeight = 32, kPlainHeight = 24;
 constexpr int kEnterWidth = 12;  // of the sign
 constexpr int kGap = 8;
 constexpr int kBadgeHeight = 17;
@@ -79,9 +82,14 @@ int PushButton::TailWidth(bool enter) const {
          (enter ? Px(kGap) + Px(kEnterWidth) : 0);
 }
 
+int PushButton::Side() const {
+  return plain_ ? kPlainSide : kSide;
+}
+
 QSize PushButton::sizeHint() const {
   const int words = QFontMetrics(CaptionFont()).horizontalAdvance(text());
-  return QSize(words + 2 * Px(kSide) + TailWidth(gold_ || enter_), Px(32)).expandedTo(least_);
+  const int height = Px(plain_ ? kPlainHeight : kHeight);
+  return QSize(words + 2 * Px(Side()) + TailWidth(gold_ || enter_), height).expandedTo(least_);
 }
 
 PushButton::Paints PushButton::PaintsNow() const {
@@ -94,6 +102,10 @@ PushButton::Paints PushButton::PaintsNow() const {
     paints = {fill, QColor(), c.OnGold};
   }
   if (isDown()) paints.Fill = paints.Fill.darker(108);
+  if (plain_) {
+    const QColor ink = textColour_.isValid() ? textColour_ : c.Blue;
+    paints = {lit ? c.Hover : QColor(), QColor(), isEnabled() ? ink : c.Faint};
+  }
   return paints;
 }
 
@@ -103,7 +115,7 @@ void PushButton::paintEvent(QPaintEvent*) {
   DrawBox(painter, rect(), fill, edge, Px(6));
 
   const QFontMetrics metrics(CaptionFont());
-  const int room = width() - 2 * Px(8) - TailWidth(enter_);
+  const int room = width() - 2 * Px(std::min(8, Side())) - TailWidth(enter_);
   const QString caption = metrics.elidedText(text(), Qt::ElideRight, room);
   const int words = metrics.horizontalAdvance(caption);
   double x = (width() - words - TailWidth(enter_)) / 2.0;
@@ -128,6 +140,7 @@ void PushButton::focusInEvent(QFocusEvent* event) {
 
 ButtonView::ButtonView(ui::Button& button, Stage& stage, QWidget* parent)
     : ViewOf(button, stage, parent) {
+  if (button.Plain) SetPlain();
   connect(this, &QAbstractButton::clicked, this, [this] { Pressed ? Pressed() : Do(ui::Click); });
 }
 

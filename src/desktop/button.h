@@ -11,7 +11,10 @@ namespace grapplemont::desktop {
 class BareButton : public QAbstractButton {
  public:
   BareButton(QWidget* parent, const QString& caption);
-  void SetBadge(const QString& badge) { Change(badge_, badge); }
+  void SetBadge(const QString& badge) {
+    Change(badge_, badge);
+    setAccessibleName(badge.isEmpty() ? QString() : text() + ", " + badge);
+  }
 
  protected:
   /// Makes room for what has changed and shows it.
@@ -44,6 +47,8 @@ class PushButton : public BareButton {
   void SetGold(bool gold) { Change(gold_, gold); }
   /// Shows the sign of the Enter key behind the caption. A gold button keeps room for it.
   void SetEnter(bool enter) { Change(enter_, enter); }
+  /// Words alone, as a link.
+  void SetPlain() { Change(plain_, true); }
   /// In drawn pixels.
   void SetLeast(int width, int height) { Change(least_, {Px(width), Px(height)}); }
   bool ShowsEnter() const { return enter_; }
@@ -62,11 +67,13 @@ class PushButton : public BareButton {
     QColor Fill, Edge, Ink;
   };
   Paints PaintsNow() const;
+  /// The room at either side of the caption, in drawn pixels.
+  int Side() const;
   QFont CaptionFont() const;
   /// What stands behind the caption, with the gaps before it.
   int TailWidth(bool enter) const;
 
-  bool gold_ = false, enter_ = false, ring_ = false;
+  bool gold_ = false, enter_ = false, ring_ = false, plain_ = false;
   QSize least_;
 };
 

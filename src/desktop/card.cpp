@@ -8,6 +8,7 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
+#include "desktop/spoken.h"
 
 namespace grapplemont::desktop {
 
@@ -125,6 +126,7 @@ bool Veil::focusNextPrevChild(bool next) {
 }
 
 Veil::Veil(QWidget* ground) : QWidget(ground), card_(new Card(this)) {
+  Means(*this, QAccessible::Dialog);
   setFocusPolicy(Qt::ClickFocus);
   card_->installEventFilter(this);
   ground->installEventFilter(this);

@@ -7,6 +7,7 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
+#include "desktop/spoken.h"
 #include "desktop/views.h"
 
 namespace grapplemont::desktop {
@@ -69,6 +70,7 @@ struct Scale {
 class ChartView : public ViewOf<QWidget, ui::Chart> {
  public:
   ChartView(ui::Chart& chart, Stage& stage, QWidget* parent) : ViewOf(chart, stage, parent) {
+    Means(*this, QAccessible::Chart);
     setFont(TextFont(11));
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -77,7 +79,10 @@ class ChartView : public ViewOf<QWidget, ui::Chart> {
   QSize minimumSizeHint() const override { return {Px(160), Px(120)}; }
 
  protected:
-  void Show() override { Hover(-1); }
+  void Show() override {
+    setAccessibleDescription(WordsFor(control_));
+    Hover(-1);
+  }
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent*) override { Hover(-1); }

@@ -31,6 +31,7 @@ void ControlView::Refresh() {
   if (seen_ == shows_.Revision()) return;
   seen_ = shows_.Revision();
   ShowUse();
+  FocusTarget()->setAccessibleDescription(Shown(shows_.Tip.Get()));
   Show();
   Widget()->setVisible(shows_.Visible);
   if (companion_) companion_->setVisible(shows_.Visible);

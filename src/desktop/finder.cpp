@@ -101,6 +101,7 @@ Finder::Finder(QWidget* ground, Sources sources) : Veil(ground), from_(std::move
   rows->addWidget(line_);
   rows->addWidget(list_, 1);
   line_->setPlaceholderText("Whom, what or where to?");
+  setAccessibleName("Search everything");
   line_->setAccessibleName("Search everything");
   line_->installEventFilter(this);
   list_->setObjectName("finderlist");

@@ -109,11 +109,15 @@ bool Window::HubInReach() const {
 }
 
 bool Window::PressSideKey(const QKeyEvent& event) {
-  if (!HubInReach() || event.isAutoRepeat() || event.key() < Qt::Key_F1) return false;
+  // Letters are typed; only with Ctrl or Alt do they mean anything else.
+  const bool bare = !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+  if (!HubInReach() || event.isAutoRepeat() || (bare && event.key() < Qt::Key_F1)) return false;
+  const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier,
+                                static_cast<Qt::Key>(event.key()));
   for (const auto& group : HubView()->Page().Side)
     for (const auto& command : group.Commands) {
-      const QKeySequence keys(Shown(command.Key));
-      if (keys.isEmpty() || keys[0].key() != event.key()) continue;
+      const QKeySequence keys(settings_.Key(command.Press->Name(), command.Key));
+      if (keys.isEmpty() || keys[0] != pressed) continue;
       if (CanPress(command.Press))
         PressHub(*command.Press);
       else if (!command.Press->Tip->empty())
@@ -128,7 +132,8 @@ std::vector<Finder::Entry> Window::FinderEntries() {
   const auto add = [&](const char* heading, ui::Button* button, const std::string& where,
                        const std::string& key, const std::function<void()>& run) {
     if (CanPress(button))
-      entries.push_back({heading, Shown(button->Text.Get()), Shown(where), Shown(key), run});
+      entries.push_back({heading, Shown(button->Text.Get()), Shown(where),
+                         settings_.Key(button->Name(), key), run});
   };
   const auto addCommand = [&](ui::Button* command, const std::string& where,
                               const std::string& key) {
@@ -149,6 +154,8 @@ std::vector<Finder::Entry> Window::FinderEntries() {
   }
   for (const OwnCommand& own : OwnCommands())
     if (!own.Words.isEmpty()) entries.push_back({"Window", own.Words, {}, own.Key, own.Run});
+  for (const OwnCommand& own : SharingCommands())
+    entries.push_back({"This page", own.Words, {}, own.Key, own.Run});
   return entries;
 }
 

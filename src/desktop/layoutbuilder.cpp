@@ -10,6 +10,7 @@
 #include "desktop/button.h"
 #include "desktop/card.h"
 #include "desktop/pieces.h"
+#include "desktop/spoken.h"
 #include "desktop/tableview.h"
 #include "desktop/turninglayout.h"
 
@@ -136,6 +137,7 @@ TableView* OnlyTable(const std::vector<ControlView*>& views) {
 ControlView* LayoutBuilder::View(ui::Control& control) {
   ControlView* view = MakeView(control, stage_, holder_);
   views_.push_back(view);
+  if (!NamesItself(control.Is())) NameParts(*view->Widget(), heading_);
   return view;
 }
 
@@ -252,6 +254,8 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
 }
 
 void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
+  const QScopedValueRollback<QString> heading(heading_,
+                                              box.Title.empty() ? heading_ : Shown(box.Title));
   const QFont bold = TextFont(13, QFont::DemiBold);
   if (inCard_) {  // a card on a card is a heading with what belongs to it
     auto* part = NewLayout<QVBoxLayout>(nullptr, kClose);
@@ -262,6 +266,8 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   auto* card = new Card(holder_);
   if (std::exchange(calm_, false))
     card->setMaximumWidth(ReadableWidth() + 2 * Px(kCardSide) + Px(kScrollBar));
+  Means(*card, QAccessible::Grouping);
+  card->setAccessibleName(heading_);
   auto* inside = NewLayout<QVBoxLayout>(card, kClose, {kCardSide, kCardSide, kCardSide, kCardSide});
   auto* head = new TurningLayout(kClose);
   inside->addLayout(head);
@@ -299,7 +305,9 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   rows->addWidget(bar, 0, Qt::AlignLeft);
   rows->addWidget(pages, 1);
   const QScopedValueRollback<QWidget*> within(holder_);
+  bar->setAccessibleName(heading_);
   for (const Box& part : box.Parts) {
+    const QScopedValueRollback<QString> heading(heading_, Shown(part.Title));
     auto* page = new QWidget(pages);
     auto* inside = NewLayout<QVBoxLayout>(page, -1);
     holder_ = page;
@@ -322,6 +330,8 @@ void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
   int row = 0;
   bool grows = false;
   for (const Box* field : fields) {
+    const QScopedValueRollback<QString> heading(
+        heading_, field->Title.empty() ? heading_ : Shown(field->Title));
     ControlView* view = View(*field->Shown);
     auto* label = new WrappedLabel(holder_, Shown(field->Title));
     SetInk(*label, ColoursOf(holder_).Muted);

@@ -15,8 +15,9 @@ class TableView;
 class LayoutBuilder {
  public:
   /// On a cover, buttons are large and stand in the middle.
-  LayoutBuilder(Stage& stage, QWidget* holder, bool cover)
-      : stage_(stage), holder_(holder), cover_(cover) {}
+  /// `title` is what a control is called that has no label and stands below no heading.
+  LayoutBuilder(Stage& stage, QWidget* holder, bool cover, const QString& title)
+      : stage_(stage), holder_(holder), heading_(title), cover_(cover) {}
 
   /// Puts a box into a column, where it fills what room there is.
   void Build(const ui::Box& root, QVBoxLayout* into);
@@ -47,6 +48,7 @@ class LayoutBuilder {
 
   Stage& stage_;
   QWidget* holder_;
+  QString heading_;  // of what is being built
   bool cover_;
   bool inCard_ = false;
   bool calm_ = false;  // the next card takes no more width than its prose can be read in

@@ -14,35 +14,51 @@ namespace grapplemont::desktop {
 
 namespace {
 
-/// What a colour is in either set.
-struct Pair {
+/// What a colour is in each set.
+struct Shades {
   QColor Colours::*Which;
-  QRgb Dark, Light;
+  QRgb Dark, Light, Contrast;
 };
-constexpr Pair kPairs[] = {
-    {&Colours::Ground, 0x14161A, 0xF3F4F6},    {&Colours::Side, 0x0E1013, 0xE9EBEF},
-    {&Colours::Bar, 0x16191E, 0xF8F9FA},       {&Colours::Card, 0x191C22, 0xFFFFFF},
-    {&Colours::Line, 0x262A31, 0xD9DCE2},      {&Colours::RowLine, 0x22262D, 0xE6E8EC},
-    {&Colours::Edge, 0x343A44, 0xC3C8D1},      {&Colours::Button, 0x23272F, 0xF1F2F5},
-    {&Colours::Field, 0x1D2128, 0xFAFBFC},     {&Colours::Hover, 0x2B303A, 0xE4E7EC},
-    {&Colours::Chosen, 0x232A36, 0xE3EBF8},    {&Colours::Now, 0x1D2128, 0xFAFBFC},
-    {&Colours::Track, 0x2A2F38, 0xE0E3E8},     {&Colours::Text, 0xE8E6E1, 0x1B1D22},
-    {&Colours::Soft, 0xC9CCD1, 0x33373F},      {&Colours::Muted, 0x8D939D, 0x5A616C},
-    {&Colours::Faint, 0x5E646E, 0x9AA0AA},     {&Colours::Gold, 0xF2C14E, 0x7D5700},
-    {&Colours::Blue, 0x6AA6FF, 0x1B5CB8},      {&Colours::Green, 0x5CB97B, 0x23713F},
-    {&Colours::Amber, 0xE08A3C, 0x9A4C0B},     {&Colours::Red, 0xE8766F, 0xB3261E},
-    {&Colours::GoldFill, 0xF2C14E, 0xF2C14E},  {&Colours::OnGold, 0x1B1508, 0x1B1508},
-    {&Colours::DimGold, 0x7A6430, 0xF3E2B4},   {&Colours::BlueFill, 0x3A5F96, 0x7FA6DE},
-    {&Colours::GreenFill, 0x5CB97B, 0x3FA162}, {&Colours::AmberFill, 0xE08A3C, 0xE08A3C},
-    {&Colours::RedFill, 0xC8413B, 0xC8413B},   {&Colours::YellowFill, 0xF2C14E, 0xE5B23A},
-    {&Colours::BlueEdge, 0x4D86D6, 0x4D86D6},  {&Colours::RedEdge, 0xC8413B, 0xC8413B},
+constexpr Shades kShades[] = {
+    {&Colours::Ground, 0x14161A, 0xF3F4F6, 0x000000},
+    {&Colours::Side, 0x0E1013, 0xE9EBEF, 0x000000},
+    {&Colours::Bar, 0x16191E, 0xF8F9FA, 0x000000},
+    {&Colours::Card, 0x191C22, 0xFFFFFF, 0x000000},
+    {&Colours::Line, 0x262A31, 0xD9DCE2, 0x8A8A8A},
+    {&Colours::RowLine, 0x22262D, 0xE6E8EC, 0x5A5A5A},
+    {&Colours::Edge, 0x343A44, 0xC3C8D1, 0xFFFFFF},
+    {&Colours::Button, 0x23272F, 0xF1F2F5, 0x101010},
+    {&Colours::Field, 0x1D2128, 0xFAFBFC, 0x000000},
+    {&Colours::Hover, 0x2B303A, 0xE4E7EC, 0x2E2E2E},
+    {&Colours::Chosen, 0x232A36, 0xE3EBF8, 0x00264A},
+    {&Colours::Now, 0x1D2128, 0xFAFBFC, 0x1C1C1C},
+    {&Colours::Track, 0x2A2F38, 0xE0E3E8, 0x444444},
+    {&Colours::Text, 0xE8E6E1, 0x1B1D22, 0xFFFFFF},
+    {&Colours::Soft, 0xC9CCD1, 0x33373F, 0xFFFFFF},
+    {&Colours::Muted, 0x8D939D, 0x5A616C, 0xE0E0E0},
+    {&Colours::Faint, 0x5E646E, 0x9AA0AA, 0xA8A8A8},
+    {&Colours::Gold, 0xF2C14E, 0x7D5700, 0xFFD84A},
+    {&Colours::Blue, 0x6AA6FF, 0x1B5CB8, 0x8FC7FF},
+    {&Colours::Green, 0x5CB97B, 0x23713F, 0x7CF29A},
+    {&Colours::Amber, 0xE08A3C, 0x9A4C0B, 0xFFB366},
+    {&Colours::Red, 0xE8766F, 0xB3261E, 0xFFA8A2},
+    {&Colours::GoldFill, 0xF2C14E, 0xF2C14E, 0xFFD84A},
+    {&Colours::OnGold, 0x1B1508, 0x1B1508, 0x000000},
+    {&Colours::DimGold, 0x7A6430, 0xF3E2B4, 0xA8933A},
+    {&Colours::BlueFill, 0x3A5F96, 0x7FA6DE, 0x2F6FD6},
+    {&Colours::GreenFill, 0x5CB97B, 0x3FA162, 0x7CF29A},
+    {&Colours::AmberFill, 0xE08A3C, 0xE08A3C, 0xFFB366},
+    {&Colours::RedFill, 0xC8413B, 0xC8413B, 0xC8413B},
+    {&Colours::YellowFill, 0xF2C14E, 0xE5B23A, 0xFFD84A},
+    {&Colours::BlueEdge, 0x4D86D6, 0x4D86D6, 0x8FC7FF},
+    {&Colours::RedEdge, 0xC8413B, 0xC8413B, 0xFFA8A2},
 };
 
-Colours MakeColours(bool dark) {
+Colours MakeColours(QRgb Shades::*set) {
   Colours c{};
-  c.Dark = dark;
-  for (const Pair& pair : kPairs) c.*pair.Which = QColor::fromRgb(dark ? pair.Dark : pair.Light);
-  c.Shade = dark ? QColor(6, 7, 9, 170) : QColor(27, 29, 34, 120);
+  c.Dark = set != &Shades::Light;
+  for (const Shades& shades : kShades) c.*shades.Which = QColor::fromRgb(shades.*set);
+  c.Shade = c.Dark ? QColor(6, 7, 9, 170) : QColor(27, 29, 34, 120);
   return c;
 }
 
@@ -68,16 +84,22 @@ const ToneColours& Of(ui::Tone tone) {
 }  // namespace
 
 const Colours& DarkColours() {
-  static const Colours kColours = MakeColours(true);
+  static const Colours kColours = MakeColours(&Shades::Dark);
   return kColours;
 }
 
 const Colours& LightColours() {
-  static const Colours kColours = MakeColours(false);
+  static const Colours kColours = MakeColours(&Shades::Light);
+  return kColours;
+}
+
+const Colours& ContrastColours() {
+  static const Colours kColours = MakeColours(&Shades::Contrast);
   return kColours;
 }
 
 const Colours& ColoursOf(const QPalette& palette) {
+  if (palette.color(QPalette::WindowText) == ContrastColours().Text) return ContrastColours();
   return palette.color(QPalette::WindowText).lightness() >= 128 ? DarkColours() : LightColours();
 }
 
@@ -166,14 +188,21 @@ int DesktopText() {
   return desktop.Text;
 }
 
+const Colours& CoverColours() {
+  const Colours& c = ColoursOf(QApplication::palette());
+  return c.Dark ? c : DarkColours();
+}
+
 bool IsDark(Scheme scheme) {
-  return scheme == Scheme::System ? desktop.Dark : scheme == Scheme::Dark;
+  return scheme == Scheme::System ? desktop.Dark : scheme != Scheme::Light;
 }
 
 void ApplyLook(Scheme scheme, int textHeight) {
   if (!dynamic_cast<HouseStyle*>(QApplication::style())) QApplication::setStyle(new HouseStyle);
   QApplication::setFont(SansFont(std::clamp(textHeight, kSmallestText, kLargestText)));
-  QApplication::setPalette(PaletteOf(IsDark(scheme) ? DarkColours() : LightColours()));
+  QApplication::setPalette(PaletteOf(scheme == Scheme::Contrast ? ContrastColours()
+                                     : IsDark(scheme)           ? DarkColours()
+                                                                : LightColours()));
 }
 
 int Px(double drawn) {

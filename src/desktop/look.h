@@ -11,8 +11,8 @@
 
 #include "ui/controls.h"
 
-// The colours of the window, dark and light. A widget is painted in the set that its QPalette was
-// made from, so that a part of the window may keep to the dark one.
+// The colours of the window: dark, light and of high contrast. A widget is painted in the set that
+// its QPalette was made from, so that a part of the window may keep to the dark one.
 
 namespace grapplemont::desktop {
 
@@ -32,6 +32,9 @@ struct Colours {
 
 const Colours& DarkColours();
 const Colours& LightColours();
+const Colours& ContrastColours();  // dark, every text at least 7 : 1
+/// What stands on the pictures behind covers, which are dark in every set.
+const Colours& CoverColours();
 
 /// The set that a widget or a palette belongs to.
 const Colours& ColoursOf(const QPalette& palette);
@@ -49,7 +52,7 @@ QColor PercentColour(const Colours& colours, double percent);
 // Sizes and letters of the window. The look is drawn for text 13 pixels high; everything grows with
 // the player's text.
 
-enum class Scheme { System, Dark, Light };
+enum class Scheme { System, Dark, Light, Contrast };
 
 inline constexpr int kUsualText = 13;
 inline constexpr int kSmallestText = 11, kLargestText = 28;

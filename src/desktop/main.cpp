@@ -56,6 +56,17 @@ int FillAlbum(desktop::Window& window, desktop::WindowDesk& desk, Game& game,
   return 0;
 }
 
+/// The scale that the player has set counts from the start on; what the environment says goes
+/// first.
+void ApplyScale() try {
+  const std::string home = FindHome(*RealDisk());
+  const int percent = desktop::Settings(QString::fromStdString(home + "/settings.ini")).Scale();
+  if (percent != 100 && !qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(percent / 100.0));
+} catch (const std::exception&) {
+  // What is wrong with the home is said once there is a window.
+}
+
 int Play(QApplication& app) {
   const Arguments arguments = Read(app);
   const std::unique_ptr<Disk> disk = RealDisk();
@@ -82,6 +93,9 @@ int Play(QApplication& app) {
                      : desktop::OpenGame{QString("s%1").arg(slot), QString::number(world, 16)};
   };
   desktop::Window window(desk, options);
+  game.KeepPage = [&window](const std::string& file) {
+    window.KeepPage(QString::fromStdString(file));
+  };
   window.show();
   desk.Event([&] { desk.Open("frmTitleScreen"); });
   window.Sync();
@@ -91,6 +105,7 @@ int Play(QApplication& app) {
   if (!arguments.Pictures.isEmpty()) return FillAlbum(window, desk, game, arguments.Pictures);
   const int result = QApplication::exec();
   desk.CloseAll();
+  game.KeepPage = nullptr;
   return result;
 }
 
@@ -103,6 +118,7 @@ int main(int argc, char** argv) {
       QCoreApplication words(argc, argv);
       Read(words);
     }
+  ApplyScale();
   QApplication app(argc, argv);
   QApplication::setApplicationName("Grapplemont");
   QApplication::setDesktopFileName("grapplemont");

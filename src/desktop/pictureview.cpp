@@ -8,6 +8,7 @@
 #include "desktop/drawn/drawn.h"
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
+#include "desktop/spoken.h"
 #include "desktop/views.h"
 #include "ui/acts.h"
 
@@ -71,6 +72,7 @@ void Backdrop::Paint(QPainter& painter, const QWidget& on) {
 
 PictureView::PictureView(ui::Picture& picture, Stage& stage, QWidget* parent)
     : ViewOf(picture, stage, parent) {
+  Means(*this, Clickable() ? QAccessible::Button : QAccessible::Graphic);
   if (Clickable()) {
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
@@ -106,6 +108,7 @@ int PictureView::heightForWidth(int width) const {
 
 void PictureView::Show() {
   if (Drawn() > 0) {
+    setAccessibleName(WordsFor(control_.Drawn.Get()));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     updateGeometry();
     return update();

@@ -72,8 +72,7 @@ ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget
     : QWidget(parent), screen_(std::move(screen)), stage_(stage), page_(screen_->Layout()) {
   setObjectName(Shown(screen_->Name()));
   setFocusPolicy(Qt::ClickFocus);
-  // The pictures behind covers are dark, so what stands on them is light in both sets of colours.
-  if (HasBackdrop()) setPalette(PaletteOf(DarkColours()));
+  if (HasBackdrop()) setPalette(PaletteOf(CoverColours()));
   FindBackdrop();
   const ui::Role role = screen_->Is();
   if (role == ui::Role::Wait) {
@@ -128,7 +127,7 @@ void ScreenView::DressPictures() {
     if (!picture) continue;
     if (&view->Shows() == behind_)
       picture->SetSeeThrough();
-    else if (behind_)
+    else if (behind_ && IsBackdropFile(dynamic_cast<ui::Picture&>(view->Shows()).File.Get()))
       picture->SetFading();
   }
 }
@@ -211,7 +210,8 @@ void ScreenView::BuildBody(QVBoxLayout* into) {
   auto* scroller = new Scroller(this, Grows(page_.Body));
   auto* body = new QWidget(scroller);
   auto* column = NewLayout<QVBoxLayout>(body, -1);
-  LayoutBuilder builder(stage_, body, screen_->Is() == ui::Role::Cover);
+  LayoutBuilder builder(stage_, body, screen_->Is() == ui::Role::Cover,
+                        Shown(screen_->Title.Get()));
   builder.Build(page_.Body, column);
   body->installEventFilter(scroller);
   scroller->Hold(body);

@@ -1,6 +1,7 @@
 #include "desktop/settings.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "desktop/look.h"
 
@@ -9,6 +10,12 @@ namespace grapplemont::desktop {
 namespace {
 
 constexpr auto kColours = "window/colours";
+const QString kSchemes[] = {"system", "dark", "light", "contrast"};  // in the order of Scheme
+constexpr int kLeastScale = 75, kMostScale = 300;
+
+QString KeyKey(const std::string& command) {
+  return "keys/" + Shown(command);
+}
 
 }  // namespace
 
@@ -31,13 +38,27 @@ void Settings::Write(const QString& key, const QVariant& value) {
 }
 
 Scheme Settings::Colours() const {
-  const QString name = Read(kColours).toString();
-  if (name == "dark") return Scheme::Dark;
-  return name == "light" ? Scheme::Light : Scheme::System;
+  const auto kept = std::ranges::find(kSchemes, Read(kColours).toString());
+  return kept == std::end(kSchemes) ? Scheme::System
+                                    : static_cast<Scheme>(kept - std::begin(kSchemes));
 }
 
 void Settings::SetColours(Scheme scheme) {
-  Write(kColours, scheme == Scheme::Dark ? "dark" : scheme == Scheme::Light ? "light" : "system");
+  Write(kColours, kSchemes[static_cast<std::size_t>(scheme)]);
+}
+
+int Settings::Scale() const {
+  const int percent = Read(kScale).toInt();
+  return percent == 0 ? 100 : std::clamp(percent, kLeastScale, kMostScale);
+}
+
+QString Settings::Key(const std::string& command, const std::string& usual) const {
+  const QVariant kept = Read(KeyKey(command));
+  return kept.isValid() ? kept.toString() : Shown(usual);
+}
+
+void Settings::SetKey(const std::string& command, const QString& key) {
+  Write(KeyKey(command), key);
 }
 
 int Settings::Zoom() const {

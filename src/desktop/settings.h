@@ -29,6 +29,15 @@ class Settings {
   /// The player's step above or below the desktop's size of text, in pixels.
   int Zoom() const;
   void SetZoom(int zoom) { Write(kZoom, zoom); }
+  /// How much larger the whole window is, in percent; counts from the next start on.
+  int Scale() const;
+  void SetScale(int percent) { Write(kScale, percent); }
+  /// Nothing moves by itself: the cursor does not blink.
+  bool Still() const { return Read(kStill).toBool(); }
+  void SetStill(bool still) { Write(kStill, still); }
+  /// The key of a command of the side bar, where the player has set none the usual one.
+  QString Key(const std::string& command, const std::string& usual) const;
+  void SetKey(const std::string& command, const QString& key);
   QByteArray Place() const { return Read(kPlace).toByteArray(); }  // of the window
   void SetPlace(const QByteArray& place) { Write(kPlace, place); }
 
@@ -46,7 +55,8 @@ class Settings {
  private:
   static QString PassingOf(const ui::Screen& screen);
   void Erase(const QString& group);
-  static constexpr auto kZoom = "window/zoom", kPlace = "window/place";
+  static constexpr auto kZoom = "window/zoom", kPlace = "window/place", kScale = "window/scale",
+                        kStill = "window/still";
   QVariant Read(const QString& key) const;
   void Write(const QString& key, const QVariant& value);
 

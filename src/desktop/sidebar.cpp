@@ -5,6 +5,7 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
+#include "desktop/spoken.h"
 
 namespace grapplemont::desktop {
 
@@ -17,7 +18,10 @@ constexpr int kLogo = 48, kGap = 8, kFoot = 12;  // what stands above and below 
 
 class Heading : public QWidget {
  public:
-  Heading(QWidget* parent, const QString& title) : QWidget(parent), title_(title.toUpper()) {}
+  Heading(QWidget* parent, const QString& title) : QWidget(parent), title_(title.toUpper()) {
+    Means(*this, QAccessible::Heading);
+    setAccessibleName(title);
+  }
 
  protected:
   void paintEvent(QPaintEvent*) override {
@@ -156,7 +160,8 @@ SideBar::SideBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(
 
 void SideBar::AddCommand(const ui::SideGroup::Command& command, Stage& stage, QWidget* holder,
                          QVBoxLayout* into) {
-  auto* line = new Command(*command.Press, Shown(command.Key), stage, holder);
+  auto* line = new Command(*command.Press, stage.Kept().Key(command.Press->Name(), command.Key),
+                           stage, holder);
   connect(line, &QAbstractButton::clicked, this, [this, line] { Pressed(line->Presses()); });
   commands_.push_back(line);
   into->addWidget(line);

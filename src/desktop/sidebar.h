@@ -12,7 +12,10 @@ namespace grapplemont::desktop {
 class SideLine : public BareButton {
  public:
   explicit SideLine(QWidget* parent, const QString& caption = {});
-  void SetKey(const QString& key) { key_ = key; }
+  void SetKey(const QString& key) {
+    key_ = key;
+    setAccessibleDescription(key);
+  }
   void SetNow(bool now) { Change(now_, now); }
   void SetQuiet() { quiet_ = true; }
   bool IsNow() const { return now_; }

@@ -255,7 +255,10 @@ bool TableModel::IsPinned(int column) const {
 }
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)) return {};
+  if (!index.isValid()) return {};
+  if (role == Qt::AccessibleDescriptionRole)
+    return table_.RowAt(index.row()).Selected ? QString("selected") : QString();
+  if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
   const ui::Cell& cell = table_.At(index.row(), index.column());
   const bool tells = role == Qt::AccessibleTextRole && cell.Best;
   return tells ? Shown(cell.Text) + ", the best" : Shown(cell.Text);
@@ -274,6 +277,7 @@ QVariant TableModel::TipOf(int section) const {
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section >= columnCount()) return {};
   if (role == Qt::DisplayRole) return Shown(Column(section).Title);
+  if (role == Qt::AccessibleTextRole) return Shown(ui::ColumnId(list_.Columns(), section));
   if (role == Qt::ToolTipRole) return TipOf(section);
   return {};
 }

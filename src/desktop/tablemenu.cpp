@@ -1,6 +1,9 @@
+#include <QApplication>
+#include <QClipboard>
 #include <QWidgetAction>
 
 #include "desktop/button.h"
+#include "desktop/sharing.h"
 #include "desktop/tableview.h"
 #include "ui/acts.h"
 
@@ -181,6 +184,9 @@ void TableView::AddTableActs(QMenu& menu) {
       ->setEnabled(!table_.State().Filters.empty() || !table_.State().Search.empty());
   menu.addAction("Copy as CSV\tCtrl C", this, [this] { CopyCsv(); });
   menu.addAction("Save as CSV\u2026", this, [this] { SaveCsv(); });
+  AddSharing(menu, [this](ui::Form form) {
+    if (table_.Follows()) QApplication::clipboard()->setText(Shown(ui::Shared(table_, form)));
+  });
 }
 
 void TableView::AddFilterLine(QMenu& menu, int column) {

@@ -67,6 +67,7 @@ void TableView::BuildSearchRow() {
   search_->setClearButtonEnabled(true);
   search_->setProperty(kKeepsEnter, true);
   search_->setPlaceholderText(SearchHint(control_));
+  search_->setAccessibleName("Filter");
   search_->installEventFilter(this);
   columns_->setObjectName(name + "_columns");
   row->addStretch(1);

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "desktop/spoken.h"
 #include "desktop/textviews.h"
 
 namespace grapplemont::desktop {
@@ -54,6 +55,7 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
  public:
   Fact(ui::Label& label, bool first, Stage& stage, QWidget* parent)
       : ViewOf(label, stage, parent), first_(first) {
+    Means(*this, QAccessible::StaticText);
     setObjectName(Shown(label.Name()));
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
   }
@@ -85,6 +87,7 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
  protected:
   void Show() override {
     TakeApart(Shown(control_.Text.Get()));
+    setAccessibleName(Shown(control_.Text.Get()));
     if (control_.Tip->empty()) setToolTip(Shown(control_.Text.Get()));
     if (control_.Trend != 0) pieces_.push_back({TrendSign(control_.Trend), false});
     updateGeometry();

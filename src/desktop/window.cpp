@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QTimer>
 #include <algorithm>
 
 #include "desktop/pieces.h"
+#include "desktop/spoken.h"
 
 namespace grapplemont::desktop {
 
@@ -16,6 +18,7 @@ constexpr QSize kUsualSize(1280, 800), kLeastSize(1024, 640);
 constexpr qint64 kPatience = 200;  // milliseconds
 constexpr qint64 kFrame = 33;      // between two pictures of a long event
 constexpr int kHintTime = 6000;
+constexpr int kPageWidth = 272;  // of the picture of the last page
 
 }  // namespace
 
@@ -34,6 +37,7 @@ Window::Window(WindowDesk& desk, Options options)
   setMinimumSize(kLeastSize);
   resize(kUsualSize);
   if (const QByteArray place = settings_.Place(); !place.isEmpty()) restoreGeometry(place);
+  if (settings_.Still()) SetStill(true);
   qApp->installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this, [this] { ShowEnter(); });
 }
@@ -48,7 +52,12 @@ Window::~Window() {
 }
 
 QString Window::PictureFile(const std::string& name) const {
-  return options_.Pictures + "/" + Shown(name);
+  return QDir::cleanPath(options_.Pictures + "/" + Shown(name));
+}
+
+void Window::KeepPage(const QString& file) {
+  if (!ground_->size().isEmpty())
+    ground_->grab().scaledToWidth(kPageWidth, Qt::SmoothTransformation).save(file, "PNG");
 }
 
 bool Window::IsPatient(const ui::Screen& screen) {
@@ -135,6 +144,7 @@ Window::Layer& Window::LayerOf(const Held& screen, const Scene& scene) {
     inside->addWidget(layer.View);
     layer.View->setMinimumWidth(Px(380));
     layer.Over->SetWanted(layer.View->DialogSize());
+    layer.Over->setAccessibleName(Shown(screen->Title.Get()));
   } else {
     layer.View = new ScreenView(screen, *this, ground_);
     Place(*layer.View, scene);
@@ -278,6 +288,7 @@ void Window::Hint(QWidget& beside, const QString& text) {
   hint_->move(at);
   hint_->show();
   hint_->raise();
+  Announce(*hint_);
   QTimer::singleShot(kHintTime, hint_.data(), &QObject::deleteLater);
 }
 

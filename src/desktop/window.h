@@ -12,6 +12,7 @@
 #include "desktop/box.h"
 #include "desktop/finder.h"
 #include "desktop/topbar.h"
+#include "ui/share.h"
 
 namespace grapplemont::desktop {
 
@@ -48,6 +49,16 @@ class Window : public QMainWindow, public Stage {
   void Sync();
   /// Colours, and the step above or below the desktop's size of text.
   void SetLook(Scheme scheme, int zoom);
+  /// Keeps a small picture of what is shown.
+  void KeepPage(const QString& file);
+
+  // What the player sets about the window, in windowkeys.cpp.
+  void SetColours(Scheme scheme);
+  void SetZoom(int zoom);
+  void SetStill(bool still);
+  void TurnFullScreen();
+  /// All views are made again: their sizes and colours were taken when they were built.
+  void Relook();
 
   // What the desk asks for.
   /// Waits for the answer to a box: the place of its button from 0, the careful answer when there
@@ -131,8 +142,12 @@ class Window : public QMainWindow, public Stage {
   void OpenHelp();
   void OpenGlossary(const std::string& term);
   void TurnColours();
-  void SetZoom(int zoom);
-  void Relook();
+  void OpenOptions();
+  // What the page tells, for elsewhere; in sharing.cpp.
+  std::vector<OwnCommand> SharingCommands();
+  void CopyPage(ui::Form form);
+  void CopyPicture();
+  void SavePage();
   bool SwallowWhileBusy(QObject* watched, QEvent* event);
 
   WindowDesk& desk_;

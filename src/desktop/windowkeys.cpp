@@ -5,6 +5,7 @@
 
 #include "desktop/pieces.h"
 #include "desktop/window.h"
+#include "desktop/windowoptions.h"
 
 // The keys that mean the same everywhere, and input that comes at the wrong time.
 
@@ -54,7 +55,16 @@ void Window::ShowEnter() {
 /// What the window does by itself, with Ctrl and a key or by search.
 std::vector<Window::OwnCommand> Window::OwnCommands() {
   const bool dark = IsDark(settings_.Colours());
+  const auto colours = [this](Scheme scheme) { return [this, scheme] { SetColours(scheme); }; };
   return {
+      {{Qt::Key_Comma}, "Window options", "Ctrl ,", [this] { OpenOptions(); }},
+      {{}, "Full screen", "F11", [this] { TurnFullScreen(); }},
+      {{}, "High contrast", {}, colours(Scheme::Contrast)},
+      {{}, "Colours as the desktop has them", {}, colours(Scheme::System)},
+      {{},
+       settings_.Still() ? "Let the cursor blink" : "Nothing moves by itself",
+       {},
+       [this] { SetStill(!settings_.Still()); }},
       {{Qt::Key_K}, {}, {}, [this] { OpenFinder(); }},
       {{Qt::Key_L}, dark ? "Light colours" : "Dark colours", "Ctrl L", [this] { TurnColours(); }},
       {{Qt::Key_Plus, Qt::Key_Equal},
@@ -79,7 +89,11 @@ bool Window::HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event) {
     OpenHelp();
     return true;
   }
-  if (modifiers == Qt::NoModifier) return PressSideKey(event);
+  if (modifiers == Qt::NoModifier && event.key() == Qt::Key_F11 && !event.isAutoRepeat()) {
+    TurnFullScreen();
+    return true;
+  }
+  if (PressSideKey(event)) return true;
   if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier)) return false;
   if (event.key() == Qt::Key_F) return TopView() && TopView()->FocusSearch();
   for (const OwnCommand& own : OwnCommands())
@@ -105,8 +119,35 @@ void Window::OpenGlossary(const std::string& term) {
 }
 
 void Window::TurnColours() {
-  settings_.SetColours(IsDark(settings_.Colours()) ? Scheme::Light : Scheme::Dark);
+  SetColours(IsDark(settings_.Colours()) ? Scheme::Light : Scheme::Dark);
+}
+
+void Window::SetColours(Scheme scheme) {
+  settings_.SetColours(scheme);
   Relook();
+}
+
+void Window::TurnFullScreen() {
+  setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
+void Window::SetStill(bool still) {
+  static const int kUsualBlink = QApplication::cursorFlashTime();
+  settings_.SetStill(still);
+  QApplication::setCursorFlashTime(still ? 0 : kUsualBlink);
+}
+
+void Window::OpenOptions() {
+  if (desk_.Top() && desk_.Top()->Name() == kWindowOptions) return;
+  std::vector<KeyedCommand> commands;
+  if (const ScreenView* hub = HubView())
+    for (const auto& group : hub->Page().Side)
+      for (const auto& command : group.Commands)
+        commands.push_back({command.Press->Name(), command.Press->Text.Get(), command.Key});
+  Act([&] {
+    desk_.Event([&] { desk_.Open(NewWindowOptions(desk_, *this, std::move(commands))); });
+    return std::string();
+  });
 }
 
 void Window::SetZoom(int zoom) {
@@ -120,7 +161,6 @@ void Window::SetLook(Scheme scheme, int zoom) {
   SetZoom(zoom);
 }
 
-/// All views are made again: their sizes and colours were taken when they were built.
 void Window::Relook() {
   const ui::Control* const keyboard = TopView() ? TopView()->KeyboardOn() : nullptr;
   RetireAll();

@@ -117,11 +117,4 @@ void TakeOver(World& data, const World& made) {
   }
 }
 
-std::string PathInHome(const std::string& home, std::string_view typed) {
-  std::string path = ToUtf8(detail::Trimmed(typed));
-  if (!path.starts_with('/')) path = home + "/" + path;
-  while (path.size() > 1 && path.ends_with('/')) path.pop_back();
-  return path;
-}
-
 }  // namespace grapplemont

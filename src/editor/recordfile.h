@@ -67,8 +67,4 @@ TablesPreview LookAtTables(Disk& disk, const std::string& folder, const World& d
 /// The data become what the tables have made; the ten files and nothing else.
 void TakeOver(World& data, const World& made);
 
-/// The path, in UTF-8, of what a player typed: in the home unless it begins at the root; without
-/// slashes at its end.
-std::string PathInHome(const std::string& home, std::string_view typed);
-
 }  // namespace grapplemont

@@ -7,7 +7,9 @@
 
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
+#include "records/store/knownfiles.h"
 #include "records/store/slotfolder.h"
+#include "records/store/slotrescue.h"
 #include "records/tables/worldreport.h"
 
 namespace grapplemont {
@@ -97,6 +99,39 @@ std::string DrawWaitingPicture(Disk& disk, const std::string& pictureFolder, int
   return pictures[static_cast<std::size_t>(draws.Draw(static_cast<int>(pictures.size())) - 1)];
 }
 
+namespace {
+
+using SlotContents = std::map<std::string, Bytes>;
+
+/// The last record of a file that fits.
+template <class T, class Fits>
+std::optional<T> LastOf(const SlotContents& files, Fits fits) {
+  const auto file = files.find(std::string(LayoutOf<T>().File));
+  if (file == files.end()) return std::nullopt;
+  T record;
+  for (std::size_t left = file->second.size() / sizeof(T); left-- > 0;) {
+    std::memcpy(&record, file->second.data() + left * sizeof(T), sizeof(T));
+    if (fits(record)) return record;
+  }
+  return std::nullopt;
+}
+
+/// What a card shows beside the texts of the slot's button.
+void Describe(SlotSummary& summary, const GameInfo& game, const SlotContents& files) {
+  const int uid = game.PlayerPromotion;
+  summary.Today = LongDate(game.Today);
+  summary.Level = std::string(Says(kDifficulties, game.Difficulty)) + " level";
+  summary.Own = LastOf<Promotion>(files, [&](auto& held) { return held.Uid == uid; });
+  const auto isShow = [&](const HistoryEntry& held) {
+    return held.Promotion == uid && !held.CalledOff &&
+           (held.Kind == kPastTv || held.Kind == kPastEvent);
+  };
+  if (const auto show = LastOf<HistoryEntry>(files, isShow))
+    summary.LastShow = show->Name.Str() + " " + std::to_string(show->Rating) + "%";
+}
+
+}  // namespace
+
 SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
   const std::string name(LayoutOf<GameInfo>().File);
   const std::string standing = StandingFolder(disk, folder);
@@ -104,16 +139,19 @@ SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
   const Disk::Kind kind = disk.Look(standing + "/" + name);
   if (kind == Disk::Kind::Folder || kind == Disk::Kind::Other)
     return NotPlayable(kUnreadable, name + " is no plain file.");
-  const auto bytes = Slot::Peek(disk, folder, KnownFiles(), name);
-  if (!bytes) return {};
-  GameInfo game;
-  if (bytes->size() >= sizeof(GameInfo)) std::memcpy(&game, bytes->data(), sizeof(GameInfo));
+  const SlotContents files = ExamineSlot(disk, standing, KnownFiles()).Files;
+  if (!files.contains(name)) return {};
+  const auto found = LastOf<GameInfo>(files, [](const GameInfo&) { return true; });
+  const GameInfo game = found.value_or(GameInfo());
   if (game.Version != kVersion) return NotPlayable("Save Slot Not In 2.0 Format");
-  return {game.SaveName.Str(),
-          "( " + std::string(Says(kDifficulties, game.Difficulty)) + " level, started " +
-              MonthYear(game.StartDate) + ", current date " + MonthYear(game.Today) + ")" +
-              (HasEnded(game) ? " The career has ended." : ""),
-          false, true};
+  SlotSummary summary{game.SaveName.Str(),
+                      "( " + std::string(Says(kDifficulties, game.Difficulty)) +
+                          " level, started " + MonthYear(game.StartDate) + ", current date " +
+                          MonthYear(game.Today) + ")" +
+                          (HasEnded(game) ? " The career has ended." : ""),
+                      false, true};
+  Describe(summary, game, files);
+  return summary;
 } catch (const DiskError& fault) {
   return NotPlayable(kUnreadable, fault.what());
 }

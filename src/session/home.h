@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,15 +24,18 @@ std::string DrawWaitingPicture(Disk& disk, const std::string& pictureFolder, int
 
 inline constexpr int kSlots = 8;
 
-/// What a slot's button and the label beside it say.
+/// What a slot's button and the labels beside it say. What stands behind Playable is of a playable
+/// slot.
 struct SlotSummary {
   std::string Caption = "<<<Empty Slot>>>";
   std::string Details = {};
   bool Empty = true;
   bool Playable = false;
+  std::string Today = {}, Level = {}, LastShow = {};  // LastShow empty before the first
+  std::optional<Promotion> Own = {};                  // the player's
 };
 
-/// What loading the slot would find in its gameinfo.dat; a slot in use is exactly one that has it.
+/// What loading the slot would find; a slot in use is exactly one that has a gameinfo.dat.
 SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder);
 
 /// What to ask before a game begins in a slot without one whose folder holds something all the

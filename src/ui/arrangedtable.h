@@ -52,6 +52,7 @@ class Table {
   bool Follows() const { return seen_ == list_.Contents(); }
   const std::vector<int>& Rows() const { return rows_; }
   const std::vector<int>& Columns() const { return columns_; }
+  const std::vector<Column>& ListColumns() const { return list_.Columns(); }
   /// An empty cell where the row has none.
   const Cell& At(int shownRow, int listColumn) const;
   const ListBox::Row& RowAt(int shownRow) const;

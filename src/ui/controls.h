@@ -115,6 +115,7 @@ class Button : public Control {
   Handler OnClick;
   /// A short word or number in a spot beside the caption, such as the count of mails.
   Property<std::string> Badge{Changes(), {}};
+  bool Plain = false;  // words without a frame, for one of many small acts
 };
 
 class TextBox : public Control {

@@ -5,6 +5,7 @@
 
 #include "records/checks/checkworld.h"
 #include "records/store/slot.h"
+#include "records/store/slotcare.h"
 #include "records/store/slotfolder.h"
 #include "records/world.h"
 
@@ -53,6 +54,7 @@ std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   files->Forget();
   world->Session.StartSize = world->Player().Size;
   slot_ = std::move(files);
+  slotNumber_ = slot;
   world_ = std::move(world);
   opened_ = {slot, ReadWorldId(disk_, SlotFolder(slot)).value_or(0)};
   MarkCommitted();
@@ -61,8 +63,13 @@ std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   return remarks;
 }
 
+std::string Game::PageFile(int slot) const {
+  return PageOf(SlotFolder(slot));
+}
+
 void Game::CloseSlot() {
   if (!slot_) return;
+  if (KeepPage) KeepPage(PageFile(slotNumber_));
   const std::unique_ptr<Slot> closing = std::move(slot_);
   world_.reset();
   try {

@@ -41,6 +41,8 @@ class Game : public ui::Work {
   std::string PictureFolder() const { return Path("gfx"); }
   /// "s1" to "s8" in the home.
   std::string SlotFolder(int slot) const { return Path("s" + std::to_string(slot)); }
+  /// The picture of the page that was seen last in a slot; it need not be there.
+  std::string PageFile(int slot) const;
   Day PresentDay() const { return options_.Today(); }
   /// What chance is for; each has a stream of its own.
   enum Stream : std::uint64_t { kPlay, kProse, kWorldMaking, kWorldProse, kPictures };
@@ -67,6 +69,10 @@ class Game : public ui::Work {
   std::function<void(int uid)> OpenWorker, OpenPromotion;
   /// Opens the report of the promotion's show of a day, while its words are kept.
   std::function<void(Day on, int promotionUid)> OpenReport;
+
+  /// Keeps a picture of what is shown in a file; set by a shell that has pictures. Called when a
+  /// slot is left, and must not throw.
+  std::function<void(const std::string& file)> KeepPage;
 
   /// Makes the slot's world the open one. Throws SlotBusy, DiskError, WorldFault, and SlotDamaged
   /// unless the commits behind the damage may be dropped; then none is open. Gives what was left
@@ -103,6 +109,7 @@ class Game : public ui::Work {
   Options options_;
   std::unique_ptr<Slot> slot_;
   OpenGame opened_;
+  int slotNumber_ = 0;  // of slot_
   std::unique_ptr<grapplemont::World> world_;
   bool isOver_ = false;  // as of the last commit
   std::shared_ptr<ui::Work> joined_;

@@ -43,6 +43,12 @@ TEST(Commands, WorkTheControls) {
   for (const auto& [lines, said] : kRows) EXPECT_EQ(Served(lines, kJson).Log, said) << lines;
 }
 
+TEST(Commands, ShareWhatTheScreenTells) {
+  EXPECT_TRUE(
+      LastAnswer("share html").at("shared").get<std::string>().starts_with("<!DOCTYPE html>"));
+  EXPECT_TRUE(Served("share markdown").Out().starts_with("# "));
+}
+
 TEST(Commands, TypeATextAsItStands) {
   constexpr std::pair<const char*, const char*> kNames[] = {
       {"type txtname Sam Lee", "Sam Lee"},
@@ -62,6 +68,7 @@ TEST(Commands, TypeATextAsItStands) {
 TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
   const std::string nothingOpen = "No box is open.";
   const std::pair<std::string, std::string> kRows[] = {
+      {"share word", "Write it as \"share markdown|html|bbcode\"."},
       {"fly", "There is no command \"fly\"; \"help\" lists them."},
       {"click", "Write it as \"click NAME\"."},
       {"click cmddoit now", "frmSample has no control \"cmddoit now\"."},

@@ -23,7 +23,9 @@ double Contrast(const QColor& a, const QColor& b) {
 }
 
 TEST(TheColours, LetEveryTextBeRead) {
-  for (const Colours* c : {&desktop::DarkColours(), &desktop::LightColours()}) {
+  for (const Colours* c :
+       {&desktop::DarkColours(), &desktop::LightColours(), &desktop::ContrastColours()}) {
+    const double least = c == &desktop::ContrastColours() ? 7 : 4.5;
     const std::pair<const char*, QColor> texts[] = {
         {"text", c->Text}, {"soft", c->Soft},   {"muted", c->Muted}, {"gold", c->Gold},
         {"blue", c->Blue}, {"green", c->Green}, {"amber", c->Amber}, {"red", c->Red}};
@@ -32,8 +34,10 @@ TEST(TheColours, LetEveryTextBeRead) {
                                                       {"chosen", c->Chosen}, {"button", c->Button}};
     for (const auto& [text, ink] : texts)
       for (const auto& [ground, paper] : grounds)
-        EXPECT_GE(Contrast(ink, paper), 4.5)
+        EXPECT_GE(Contrast(ink, paper), least)
             << text << " on " << ground << (c->Dark ? ", dark" : ", light");
+    for (const auto& [ground, paper] : grounds)
+      EXPECT_GE(Contrast(c->Blue, paper), 3) << "the ring of the keyboard on " << ground;
     EXPECT_EQ(&desktop::ColoursOf(desktop::PaletteOf(*c)), c) << "the palette tells the set";
     EXPECT_GE(Contrast(c->OnGold, c->GoldFill), 4.5);
     EXPECT_GE(Contrast(c->Soft, c->Side), 4.5);

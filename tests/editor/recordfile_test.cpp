@@ -4,6 +4,7 @@
 #include "editor/merge.h"
 #include "editor/recordfile.h"
 #include "newrecords.h"
+#include "session/slots.h"
 #include "support/cutdisk.h"
 #include "support/defaultworld.h"
 #include "support/randomworld.h"

@@ -112,8 +112,48 @@ TEST(NewGameScreen, ShowsThePromotionPicked) {
     EXPECT_NE(std::find(roster.begin(), roster.end(), name), roster.end()) << name;
   home.Desk.Pick("cmbPromo", 2);
   EXPECT_EQ(home.Desk.Text("lblsize"), "Small");
+  EXPECT_EQ(home.Desk.Selected("lstpromos"), std::vector<int>{2});
   EXPECT_EQ(home.Desk.Rows("lstroster").size(), 4u);
   EXPECT_EQ(home.Desk.Text("lblowner"), "None");
+}
+
+TEST(NewGameScreen, SaysHowHardAChairIsAndWhatTheDifficultyChanges) {
+  World data = SmallWorld()
+                   .Network("Nine")
+                   .Promotion("CWA", kSmall,
+                              [](Promotion& p) {
+                                p.Money = 400;
+                                p.Image = 50;
+                              })
+                   .Owner("Ruth Vane")
+                   .Worker("Star", kOpener, 60)
+                   .Title("CWA Crown", "Star")
+                   .Show("Fire", "Friday", "Nine")
+                   .Promotion("NEW", kSmall,
+                              [](Promotion& p) {
+                                p.Money = 100;
+                                p.Image = 19;
+                              })
+                   .Worker("Hand", kOpener, 52)
+                   .Worker("Boss", kManager, 99);
+  HomeFolder home(std::move(data));
+  home.Desk.Open("frmNewGame");
+  const auto rows = home.Desk.Rows("lstpromos");
+  EXPECT_EQ(rows[0][4], "60");
+  EXPECT_EQ(rows[0][5], "Easy");
+  EXPECT_EQ(home.Desk.Text("lblstory"),
+            "Led by Ruth Vane; the crowd comes for Star, who holds the CWA Crown.");
+  EXPECT_EQ(home.Desk.Text("lblchanges"),
+            "Image before each Event: no change.\nImage before each television show: no change.\n"
+            "Interest on a loan: 2%.\nTo buy out a contract of a year: 6 monthly wages.");
+  home.Desk.Pick("lstpromos", 2);
+  EXPECT_EQ(home.Desk.Text("cmbPromo"), home.Desk.Rows("cmbPromo")[1][0]);
+  EXPECT_EQ(home.Desk.Text("lblstory"), "Nobody leads it; the crowd comes for Hand.");
+  EXPECT_EQ(home.Desk.Text("lblchair"),
+            "Desperate: little money, a weak roster, a low image, no television");
+  home.Desk.Pick("cmbdifficulty", "Easy");
+  EXPECT_TRUE(home.Desk.Text("lblchanges")
+                  .ends_with("1 monthly wage.\nReports say by how many points Over moves."));
 }
 
 TEST(NewGameScreen, SaysWhyNoGameCanBegin) {

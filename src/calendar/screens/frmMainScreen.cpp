@@ -53,7 +53,7 @@ constexpr std::array<Command, 19> kCommands = {{
     {"cmdnews", "News", "frmNews", "Desk", "F10", Reach::Tells},
     {"cmdresults", "Results", "frmResults", "Desk", "", Reach::Tells},
     {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", Reach::Today},
-    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "F11", Reach::Tells},
+    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N", Reach::Tells},
     {"cmdoptions", "Options", "frmOptions", "Desk", "F12"},
 }};
 

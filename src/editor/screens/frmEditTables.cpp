@@ -3,6 +3,7 @@
 #include "records/fields/charset.h"
 #include "records/fields/wording.h"
 #include "records/tables/worldreport.h"
+#include "session/slots.h"
 
 namespace grapplemont {
 

@@ -18,14 +18,6 @@ constexpr const char* kUntilMended =
 constexpr const char* kKeptUntilMended =
     "Your last step is kept, but nothing further can be until the disk answers again.";
 
-/// More than the longest record of these files and a usual journal before it.
-std::int64_t LongestJournal(const std::vector<KnownFile>& known, std::int64_t usual) {
-  std::int64_t bytes = usual + kJournalStart + kJournalBlock;
-  for (const KnownFile& file : known)
-    bytes += RoundedToBlocks(file.MaxBytes) + RoundedToBlocks(file.MaxBytes) / 64 + kJournalBlock;
-  return bytes;
-}
-
 }  // namespace
 
 SlotBusy::SlotBusy(const std::string& folder)
@@ -299,11 +291,7 @@ std::optional<Bytes> Slot::Peek(Disk& disk, const std::string& folder,
                                 const std::vector<KnownFile>& known, const std::string& name) {
   const std::string standing = StandingFolder(disk, folder);
   if (standing.empty()) return std::nullopt;
-  const SlotOptions usual;
-  JournalFile journal(disk, standing, usual.JournalBytes, usual.Quirks);
-  const StoredSlot stored = ReadStoredSlot(disk, standing, known,
-                                           journal.Read(LongestJournal(known, usual.JournalBytes)));
-  SlotFinding found = Examine(stored, known, usual);
+  SlotFinding found = ExamineSlot(disk, standing, known);
   const auto file = found.Files.find(name);
   if (file == found.Files.end()) return std::nullopt;
   return std::move(file->second);

@@ -250,6 +250,24 @@ StoredSlot ReadStoredSlot(Disk& disk, const std::string& folder,
   return stored;
 }
 
+std::int64_t LongestJournal(const std::vector<KnownFile>& known, std::int64_t usual) {
+  std::int64_t bytes = usual + kJournalStart + kJournalBlock;
+  for (const KnownFile& file : known)
+    bytes += RoundedToBlocks(file.MaxBytes) + RoundedToBlocks(file.MaxBytes) / 64 + kJournalBlock;
+  return bytes;
+}
+
+SlotFinding ExamineSlot(Disk& disk, const std::string& folder,
+                        const std::vector<KnownFile>& known) {
+  const SlotOptions usual;
+  JournalFile journal(disk, folder, usual.JournalBytes, usual.Quirks);
+  const StoredSlot stored =
+      ReadStoredSlot(disk, folder, known, journal.Read(LongestJournal(known, usual.JournalBytes)));
+  SlotFinding found = Examine(stored, known, usual);
+  found.Chain = {};  // it points into what is gone now
+  return found;
+}
+
 FilePatch PatchOf(const FileChange& change, const JournalQuirks& quirks) {
   FilePatch patch{change.Name, change.ExistsAfter, 0, {}};
   if (!change.ExistsAfter) return patch;

@@ -47,6 +47,12 @@ struct SlotFinding {
 SlotFinding Examine(const StoredSlot& stored, const std::vector<KnownFile>& known,
                     const SlotOptions& options);
 
+/// More than the longest record of these files and a usual journal before it.
+std::int64_t LongestJournal(const std::vector<KnownFile>& known, std::int64_t usual);
+/// The world of the slot in this folder as it stands, without its chain. Changes nothing. Throws
+/// DiskError.
+SlotFinding ExamineSlot(Disk& disk, const std::string& folder, const std::vector<KnownFile>& known);
+
 /// What a commit does to one file.
 FilePatch PatchOf(const FileChange& change, const JournalQuirks& quirks = {});
 /// What makes the finding's world of the stored files, those that are too long made shorter.

@@ -2,15 +2,15 @@
 
 #include <algorithm>
 
-#include "calendar/guide.h"
+#include "records/fields/charset.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/store/slot.h"
-#include "records/store/slotfolder.h"
-#include "session/home.h"
-#include "session/newgame.h"
+#include "records/world.h"
+#include "session/screens/slotscreen.h"
+#include "session/slots.h"
 #include "storylines/storynames.h"
-#include "ui/game.h"
+#include "ui/likeness.h"
 
 namespace grapplemont {
 
@@ -32,112 +32,6 @@ bool Open(Game& game, int slot) {
   return true;
 }
 
-/// The slots, a button each and beside it what is in them.
-class SlotScreen : public GameScreen {
- public:
-  SlotScreen(Game& game, std::string name, std::string title, std::string heading)
-      : GameScreen(game, std::move(name), std::move(title), {.Is = ui::Role::Cover}),
-        heading_(std::move(heading)) {}
-
-  ui::Page Layout() override {
-    ui::Page page;
-    page.Actions = {&cmdback};
-    page.Cancel = &cmdback;
-    std::vector<ui::Box> rows;
-    for (int slot = 1; slot <= kSlots; ++slot)
-      rows.push_back(ui::Columns({ui::Grow(cmdload(slot), 2), ui::Grow(lbldetails(slot), 3)}));
-    page.Body = ui::Rows({ui::Group(heading_, std::move(rows)), ui::Spacer()});
-    return page;
-  }
-
-  void Return() override {
-    for (int slot = 1; slot <= kSlots; ++slot) {
-      const SlotSummary summary = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot));
-      cmdload(slot).Text = summary.Caption;
-      lbldetails(slot).Text = summary.Details;
-      Offer(cmdload(slot), summary);
-    }
-  }
-
- private:
-  virtual void Offer(ui::Button&, const SlotSummary&) {}
-  virtual void cmdload_Click(int slot) = 0;
-
-  std::string heading_;
-  ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
-  ui::Array<ui::Button> cmdload{"cmdload", kSlots, [this](const std::string&, int slot) {
-                                  return std::make_unique<ui::Button>(
-                                      *this, "cmdload" + std::to_string(slot), "",
-                                      [this, slot] { cmdload_Click(slot); });
-                                }};
-  ui::Array<ui::Label> lbldetails{"lbldetails", kSlots, [this](const std::string&, int slot) {
-                                    return std::make_unique<ui::Label>(
-                                        *this, "lbldetails" + std::to_string(slot));
-                                  }};
-};
-
-class frmLoadGame : public SlotScreen {
- public:
-  explicit frmLoadGame(Game& game) : SlotScreen(game, "frmLoadGame", "Load Game", "Saved games") {}
-
- private:
-  void Offer(ui::Button& button, const SlotSummary& summary) override {
-    button.Enabled = summary.Playable;
-    button.Tip = summary.Empty      ? "No game is kept in this slot."
-                 : summary.Playable ? ""
-                                    : "This slot can't be loaded.";
-  }
-  void cmdload_Click(int slot) override { EnterSlot(game_, slot); }
-};
-
-class frmPickSaveSlot : public SlotScreen {
- public:
-  frmPickSaveSlot(Game& game, NewGameChoice choice)
-      : SlotScreen(game, "frmPickSaveSlot", "Pick A Save Slot", "Where is the game to be kept?"),
-        choice_(std::move(choice)) {}
-
- private:
-  void cmdload_Click(int slot) override {
-    {
-      const SlotLock free(game_.Disk(), game_.SlotFolder(slot));
-    }  // before any question: it may be busy
-    const bool empty = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot)).Empty;
-    const std::string question = empty ? QuestionOfLeavings(game_.Disk(), game_.SlotFolder(slot))
-                                       : "Are you sure you want to overwrite this slot?";
-    if (!question.empty() && !desk().Ask("Are you sure?", question, ui::Default::No)) return;
-    choice_.SaveName =
-        desk().Prompt("User Entry", "Save Game Name:", "Save Game " + std::to_string(slot));
-    if (detail::Trimmed(choice_.SaveName).empty()) return;
-    if (desk().Objects(WhyNotPlain(choice_.SaveName))) return;
-    World world(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse));
-    world.Load(ReadWorldFiles(game_.Disk(), game_.DataFolder()));
-    desk().Say("Database creation",
-               "The database for this game will now be created.\n"
-               "This process can take up to 10 minutes depending on the speed of your machine.\n"
-               "Do not press ctrl-alt-del while it is happening, as you will corrupt your data.");
-    Waiting waiting(game_);
-    const auto mended = NewGame(world, choice_, [&](std::string_view step) { waiting.Tell(step); });
-    BeginGuide(world);
-    Slot::Create(game_.Disk(), game_.SlotFolder(slot), FilesOf(world), game_.NewWorldId());
-    waiting.Done();
-    TellOfMending(mended);
-    EnterSlot(game_, slot);
-  }
-
-  /// What the clean-up of the data had to put right; a world in order is not worth a word.
-  void TellOfMending(const FaultList& mended) {
-    if (mended.empty()) return;
-    constexpr std::size_t kShown = 12;
-    std::string text = "The default data was not in order. For this game it was put right:";
-    const std::size_t shown = std::min(mended.First.size(), kShown);
-    for (std::size_t i = 0; i < shown; ++i) text += "\n" + mended.First[i].Line();
-    if (mended.Count > shown) text += "\nand " + std::to_string(mended.Count - shown) + " more.";
-    desk().Say("Database creation", text);
-  }
-
-  NewGameChoice choice_;
-};
-
 }  // namespace
 
 void EnterSlot(Game& game, int slot) {
@@ -150,12 +44,254 @@ void EnterSlot(Game& game, int slot) {
     game.CloseSlot();
     throw;
   }
+  RememberPlayed(game.Disk(), game.Home(), slot);
 }
+
+namespace {
+
+constexpr const char* kNoGame = "No game is kept in this slot.";
+constexpr const char* kAllInUse = "All slots are in use. Delete a game first.";
+constexpr const char* kExportEnding = ".grapplemont";
+
+/// "1 more day", "4 more days".
+std::string MoreDays(int days) {
+  return std::to_string(days) + (days == 1 ? " more day" : " more days");
+}
+
+class frmLoadGame : public SlotScreen {
+ public:
+  explicit frmLoadGame(Game& game) : SlotScreen(game, "frmLoadGame", "Load Game") {
+    imgplayed.Height = 112;
+    lblpromotion.Colour = ui::Tone::Gold;
+    lblplayed.Colour = ui::Tone::Muted;
+    cmdimport.Tip = "Puts a game that was exported to a file into the first empty slot.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Facts = &lblfacts;
+    page.Actions = {&cmdimport, &cmdnewgame, &cmdback};
+    page.Main = &cmdcontinue;
+    page.Cancel = &cmdback;
+    ui::Box card = ui::Group(
+        "", {ui::Columns(
+                {imgplayed,
+                 ui::Rows({lblplayed, lblpromotion, lbltoday,
+                           ui::Columns({ui::Field("Image", lblimage), ui::Field("Money", lblmoney),
+                                        ui::Field("Last show", lbllastshow), ui::Spacer()})})
+                     .Grow(),
+                 ui::Rows({imgpage, ui::Columns({cmdcontinue})})})});
+    page.Body = ui::Rows(
+        {std::move(card), ui::Columns({lbldeleted, ui::Grow(cmbdeleted), cmdrestore}), Cards()});
+    return page;
+  }
+
+  void Load() override {
+    ClearDeleted(game_.Disk(), game_.Home(), game_.PresentDay());
+    Return();
+  }
+
+  void Return() override {
+    SlotScreen::Return();
+    ShowPlayed();
+    ShowActs();
+    ShowDeleted();
+  }
+
+ private:
+  void Offer(ui::Button& button, const SlotSummary& summary) override {
+    button.Enabled = summary.Playable;
+    button.Tip = summary.Empty ? kNoGame : summary.Playable ? "" : "This slot can't be loaded.";
+  }
+  std::vector<ui::Box> Acts(int slot) override {
+    return {cmdcopy(slot), cmdrename(slot), cmdexport(slot), cmddelete(slot)};
+  }
+  void cmdload_Click(int slot) override { EnterSlot(game_, slot); }
+
+  /// The game that was played last; where that is not known or gone, the first that can be.
+  void ShowPlayed() {
+    played_ = LastPlayed(game_.Disk(), game_.Home());
+    for (int slot = 1; slot <= kSlots && (played_ == 0 || !In(played_).Playable); ++slot)
+      if (In(slot).Playable) played_ = slot;
+    const bool any = played_ > 0 && In(played_).Playable;
+    for (ui::Control* control : std::initializer_list<ui::Control*>{
+             &imgplayed, &imgpage, &lblplayed, &lblpromotion, &lbltoday, &lblimage, &lblmoney,
+             &lbllastshow, &cmdcontinue})
+      control->Visible = any;
+    if (!any) return;
+    const SlotSummary& summary = In(played_);
+    lblplayed.Text =
+        "Slot " + std::to_string(played_) + ", " + summary.Caption + ", " + summary.Level;
+    lblpromotion.Text = summary.Own ? summary.Own->Name.Str() : "";
+    lbltoday.Text = summary.Today;
+    for (ui::Control* fact : std::initializer_list<ui::Control*>{&lblimage, &lblmoney, &imgplayed})
+      fact->Visible = summary.Own.has_value();
+    if (summary.Own) {
+      lblimage.Text = std::to_string(summary.Own->Image) + "%";
+      lblmoney.Text = Dollars(summary.Own->Money);
+      imgplayed.Drawn = CrestOf(*summary.Own);
+    }
+    lbllastshow.Text = summary.LastShow;
+    lbllastshow.Visible = !summary.LastShow.empty();
+    const std::string page = game_.PageFile(played_);
+    imgpage.Visible = game_.Disk().Look(page) == Disk::Kind::File;
+    // Pictures are named from the folder of the program's own.
+    imgpage.File = "../" + page.substr(page.rfind('/') + 1);
+  }
+
+  void ShowActs() {
+    int used = 0;
+    for (int slot = 1; slot <= kSlots; ++slot) used += In(slot).Empty ? 0 : 1;
+    lblfacts.Text = std::to_string(used) + " of " + std::to_string(kSlots) +
+                    " slots in use. A game saves itself with every click.";
+    const bool room = FreeSlot(game_.Disk(), game_.Home()).has_value();
+    cmdimport.Enabled = room;
+    cmdimport.Tip =
+        room ? "Puts a game that was exported to a file into the first empty slot." : kAllInUse;
+    for (int slot = 1; slot <= kSlots; ++slot) {
+      const SlotSummary& summary = In(slot);
+      for (ui::Button* act : {&cmdcopy(slot), &cmdrename(slot), &cmdexport(slot), &cmddelete(slot)})
+        act->Visible = !summary.Empty;
+      for (ui::Button* act : {&cmdcopy(slot), &cmdrename(slot), &cmdexport(slot)}) {
+        act->Enabled = summary.Playable;
+        act->Tip = summary.Playable ? "" : "This slot can't be loaded.";
+      }
+      if (summary.Playable && !room) {
+        cmdcopy(slot).Enabled = false;
+        cmdcopy(slot).Tip = kAllInUse;
+      }
+    }
+  }
+
+  void ShowDeleted() {
+    deleted_ = DeletedSlots(game_.Disk(), game_.Home(), game_.PresentDay());
+    cmbdeleted.Clear();
+    for (const DeletedSlot& deleted : deleted_)
+      cmbdeleted.Add(deleted.Name + ", deleted on " + LongDate(deleted.Deleted) + ", kept for " +
+                     MoreDays(deleted.DaysLeft));
+    cmbdeleted.Select(deleted_.empty() ? 0 : 1);
+    for (ui::Control* control :
+         std::initializer_list<ui::Control*>{&lbldeleted, &cmbdeleted, &cmdrestore})
+      control->Visible = !deleted_.empty();
+    cmdrestore.Enabled = FreeSlot(game_.Disk(), game_.Home()).has_value();
+    cmdrestore.Tip = cmdrestore.Enabled ? "" : kAllInUse;
+  }
+
+  /// Asks for the name of a game; empty when the player would rather not.
+  std::string AskName(const std::string& title, const std::string& offered) {
+    const std::string name(detail::Trimmed(desk().Prompt(title, "Save Game Name:", offered)));
+    return name.empty() || desk().Objects(WhyNotPlain(name)) ? std::string() : name;
+  }
+
+  void cmdcontinue_Click() { EnterSlot(game_, played_); }
+  void cmdnewgame_Click() { desk().Open("frmNewGame"); }
+
+  void Copy(int slot) {
+    const std::string name = AskName("Duplicate", In(slot).Caption);
+    const auto to = FreeSlot(game_.Disk(), game_.Home());
+    if (name.empty() || !to) return;
+    CopySlot(game_.Disk(), game_.SlotFolder(slot), game_.SlotFolder(*to), name, game_.NewWorldId());
+    Return();
+    lblfacts.Text =
+        "Slot " + std::to_string(*to) + " now holds a copy of slot " + std::to_string(slot) + ".";
+  }
+
+  void Rename(int slot) {
+    const std::string name = AskName("Rename", In(slot).Caption);
+    if (name.empty()) return;
+    const auto remarks = RenameSlot(game_.Disk(), game_.SlotFolder(slot), name);
+    if (!remarks.empty()) desk().Say("Loading", Joined(remarks, "\n"));
+    Return();
+  }
+
+  std::string AskFile(const std::string& title, const std::string& text,
+                      const std::string& offered) {
+    const std::string typed(detail::Trimmed(desk().Prompt(title, text, offered)));
+    return typed.empty() ? std::string() : PathInHome(game_.Home(), typed);
+  }
+
+  void Export(int slot) {
+    std::string offered = In(slot).Caption + kExportEnding;
+    std::ranges::replace(offered, '/', '-');
+    const std::string path =
+        AskFile("Export", "The file to write, in the game's folder or a whole path:", offered);
+    if (path.empty()) return;
+    if (game_.Disk().Look(path) != Disk::Kind::Nothing &&
+        !desk().Ask("Replace?", ForScreen(path) + " is there already. Write over it?",
+                    ui::Default::No))
+      return;
+    ExportSlot(game_.Disk(), game_.SlotFolder(slot), path);
+    lblfacts.Text = "Wrote " + In(slot).Caption + " to " + ForScreen(path) + ".";
+  }
+
+  void cmdimport_Click() {
+    const std::string path =
+        AskFile("Import", "The file to read, in the game's folder or a whole path:", "");
+    const auto to = FreeSlot(game_.Disk(), game_.Home());
+    if (path.empty() || !to) return;
+    World scratch(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse));
+    ImportSlot(game_.Disk(), path, game_.SlotFolder(*to), game_.NewWorldId(), scratch);
+    Return();
+    lblfacts.Text = "Slot " + std::to_string(*to) + " now holds " + In(*to).Caption + ".";
+  }
+
+  void Delete(int slot) {
+    const std::string name = In(slot).Caption;
+    if (!desk().Ask("Delete?",
+                    "Are you sure you want to delete " + name + "?\nIt is kept for " +
+                        std::to_string(kDaysKept) + " days and can be brought back until then.",
+                    ui::Default::No))
+      return;
+    DeleteSlot(game_.Disk(), game_.SlotFolder(slot), game_.PresentDay());
+    Return();
+    lblfacts.Text = "Deleted " + name + ".";
+  }
+
+  void cmdrestore_Click() {
+    if (cmbdeleted.Selected() == 0) return;
+    const DeletedSlot deleted = deleted_[static_cast<std::size_t>(cmbdeleted.Selected() - 1)];
+    const int slot = RestoreSlot(game_.Disk(), game_.Home(), deleted);
+    Return();
+    lblfacts.Text = deleted.Name + " is back, in slot " + std::to_string(slot) + ".";
+  }
+
+  /// A link on each card.
+  ui::Array<ui::Button> EachAct(const std::string& name, const char* caption,
+                                void (frmLoadGame::*act)(int slot)) {
+    return {name, kSlots, [this, name, caption, act](const std::string&, int slot) {
+              auto button =
+                  std::make_unique<ui::Button>(*this, name + std::to_string(slot), caption,
+                                               [this, act, slot] { (this->*act)(slot); });
+              button->Plain = true;
+              return button;
+            }};
+  }
+
+  int played_ = 0;
+  std::vector<DeletedSlot> deleted_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Picture imgplayed{*this, "imgplayed"};
+  ui::Label lblplayed{*this, "lblplayed"};
+  ui::Label lblpromotion{*this, "lblpromotion"};
+  ui::Label lbltoday{*this, "lbltoday"};
+  ui::Label lblimage{*this, "lblimage"};
+  ui::Label lblmoney{*this, "lblmoney"};
+  ui::Label lbllastshow{*this, "lbllastshow"};
+  ui::Picture imgpage{*this, "imgpage"};
+  ui::Label lbldeleted{*this, "lbldeleted", "Deleted games"};
+  ui::ComboBox cmbdeleted{*this, "cmbdeleted"};
+  ui::Button cmdrestore{*this, "cmdrestore", "Bring Back", &frmLoadGame::cmdrestore_Click};
+  ui::Array<ui::Button> cmdcopy = EachAct("cmdcopy", "Duplicate", &frmLoadGame::Copy);
+  ui::Array<ui::Button> cmdrename = EachAct("cmdrename", "Rename", &frmLoadGame::Rename);
+  ui::Array<ui::Button> cmdexport = EachAct("cmdexport", "Export", &frmLoadGame::Export);
+  ui::Array<ui::Button> cmddelete = EachAct("cmddelete", "Delete", &frmLoadGame::Delete);
+  ui::Button cmdimport{*this, "cmdimport", "Import A File", &frmLoadGame::cmdimport_Click};
+  ui::Button cmdnewgame{*this, "cmdnewgame", "New Game", &frmLoadGame::cmdnewgame_Click};
+  ui::Button cmdcontinue{*this, "cmdcontinue", "Continue", &frmLoadGame::cmdcontinue_Click};
+};
+
+}  // namespace
 
 SCREEN(frmLoadGame)
-
-std::unique_ptr<ui::Screen> MakefrmPickSaveSlot(Game& game, NewGameChoice choice) {
-  return std::make_unique<frmPickSaveSlot>(game, std::move(choice));
-}
 
 }  // namespace grapplemont

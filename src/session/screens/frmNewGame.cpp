@@ -2,14 +2,17 @@
 
 #include "business/networks.h"
 #include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "session/chairs.h"
 #include "session/newgame.h"
 #include "session/screens/frmLoadGame.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
 #include "storylines/titles.h"
 #include "ui/game.h"
+#include "ui/likeness.h"
 
 namespace grapplemont {
 
@@ -32,6 +35,9 @@ class frmNewGame : public GameScreen {
       : GameScreen(game, "frmNewGame", "New Game", {.Is = ui::Role::Cover}) {
     BackBefore(cmdbegin);
     txtname.Hint = "Your name";
+    lstpromos.EmptyText = kNoPromotion;
+    lblchair.Tip = kWhatBurdensAChair;
+    for (ui::Label* label : {&lblchanges, &lblstory}) label->Colour = ui::Tone::Muted;
     lstshows.EmptyText = "No television shows.";
     lstbelts.EmptyText = "No Titles.";
     lststaff.EmptyText = "No staff.";
@@ -45,31 +51,49 @@ class frmNewGame : public GameScreen {
         ui::Columns(
             {ui::Rows(
                  {ui::Group("You", {ui::Field("Name", txtname), ui::Field("Promotion", cmbPromo),
-                                    ui::Field("Difficulty", cmbdifficulty)}),
-                  ui::Group("The promotion",
-                            {ui::Field("Size", lblsize), ui::Field("Image", lblimage),
-                             ui::Field("Money", lblmoney), ui::Field("Owner", lblowner)}),
-                  ui::Spacer()})
-                 .Grow(2),
-             ui::Rows({ui::Group("Television", {ui::Grow(lstshows)}).Grow(1),
-                       ui::Group("Titles", {ui::Grow(lstbelts)}).Grow(1),
-                       ui::Group("Staff", {ui::Grow(lststaff)}).Grow(2)})
-                 .Grow(3),
-             ui::Group("Roster", {ui::Grow(lstroster)}).Grow(3)}),
+                                    ui::Field("Difficulty", cmbdifficulty), lblchanges}),
+                  ui::Group("Promotions", {ui::Grow(lstpromos)}).Grow()})
+                 .Grow(5),
+             ui::Rows({ui::Group("The promotion",
+                                 {lblstory, ui::Field("Size", lblsize),
+                                  ui::Field("Image", lblimage), ui::Field("Money", lblmoney),
+                                  ui::Field("Owner", lblowner), ui::Field("Chair", lblchair)}),
+                       ui::Tabs({ui::Group("Roster", {ui::Grow(lstroster)}),
+                                 ui::Group("Television", {ui::Grow(lstshows)}),
+                                 ui::Group("Titles", {ui::Grow(lstbelts)}),
+                                 ui::Group("Staff", {ui::Grow(lststaff)})})
+                           .Grow()})
+                 .Grow(4)}),
         &lblfacts, {}, &cmdbegin);
   }
 
   void Load() override {
     world_.Load(ReadWorldFiles(game_.Disk(), game_.DataFolder()));
-    for (const Promotion& promotion : world_.Promotions())
-      if (!(promotion.Name == kToBeDeleted)) cmbPromo.Add(promotion.Name.Str(), promotion.Uid);
+    chairs_ = ChairsOf(world_);
+    for (const Chair& chair : chairs_) {
+      const Promotion& promotion = *chair.Of;
+      cmbPromo.Add(promotion.Name.Str(), promotion.Uid);
+      lstpromos.Add({promotion.Name.View(), SizeText(promotion.Size), ui::Cell(promotion.Image),
+                     ui::Cell(promotion.Money, Dollars(promotion.Money)), ui::Cell(chair.Strength),
+                     ui::Cell(chair.Burdens, std::string(ChairText(chair.Burdens)))},
+                    promotion.Uid);
+    }
     cmbPromo.Select(1);
     cmbPromo_Click();
+    ShowChanges();
   }
 
  private:
+  void lstpromos_Click() {
+    cmbPromo.SelectKey(lstpromos.Key());
+    cmbPromo_Click();
+  }
+
+  void ShowChanges() { lblchanges.Text = Joined(WhatDifficultyChanges(cmbdifficulty.Key()), "\n"); }
+
   void cmbPromo_Click() {
     const Promotion* promotion = world_.FindPromotion(cmbPromo.Key());
+    lstpromos.SelectKey(cmbPromo.Key());
     cmdbegin.Enabled = promotion != nullptr;
     cmdbegin.Tip = promotion ? "" : kNoPromotion;
     if (!promotion) {
@@ -82,6 +106,10 @@ class frmNewGame : public GameScreen {
     lblmoney.Text = Dollars(promotion->Money);
     const Staff* owner = OwnerOf(world_, promotion->Uid);
     lblowner.Text = owner ? owner->Name.Str() : "None";
+    const auto chair = std::ranges::find(chairs_, promotion, &Chair::Of);
+    lblstory.Text = chair->Story;
+    lblchair.Text =
+        std::string(ChairText(chair->Burdens)) + (chair->Burdens > 0 ? ": " + chair->Burdened : "");
     ShowShows(*promotion);
     ShowTitles(*promotion);
     ShowStaff(*promotion);
@@ -139,12 +167,30 @@ class frmNewGame : public GameScreen {
   }
 
   using K = ui::ColumnKind;
+  ui::Drawing CrestFor(int uid) const {
+    const Promotion* promotion = world_.FindPromotion(uid);
+    return promotion ? ui::Drawing(CrestOf(*promotion)) : ui::Drawing();
+  }
+
   World world_;
+  std::vector<Chair> chairs_;
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Label lblfacts{*this, "lblfacts"};
   ui::TextBox txtname{*this, "txtname", "", 25};
   ui::ComboBox cmbPromo{*this, "cmbPromo", &frmNewGame::cmbPromo_Click};
-  ui::ComboBox cmbdifficulty{*this, "cmbdifficulty"};
+  ui::ComboBox cmbdifficulty{*this, "cmbdifficulty", &frmNewGame::ShowChanges};
+  ui::Label lblchanges{*this, "lblchanges"};
+  ui::ListBox lstpromos{*this,
+                        "lstpromos",
+                        {{"Promotion", K::Text, 3, {}, [this](int uid) { return CrestFor(uid); }},
+                         {"Size", K::Tag},
+                         {"Image", K::Percent},
+                         {"Money", K::Number},
+                         {"Strength", K::Number, 0, "The mean Over of the ten best who wrestle."},
+                         {"Chair", K::Number, 0, kWhatBurdensAChair}},
+                        &frmNewGame::lstpromos_Click};
+  ui::Label lblstory{*this, "lblstory"};
+  ui::Label lblchair{*this, "lblchair"};
   ui::Label lblsize{*this, "lblsize"};
   ui::Label lblimage{*this, "lblimage"};
   ui::Label lblmoney{*this, "lblmoney"};

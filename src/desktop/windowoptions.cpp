@@ -1,0 +1,153 @@
+#include "desktop/windowoptions.h"
+
+#include <QKeySequence>
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "desktop/window.h"
+
+namespace grapplemont::desktop {
+
+namespace {
+
+/// In the order of Scheme.
+constexpr const char* kThemes[] = {"As the desktop has it", "Dark", "Light", "High contrast"};
+constexpr int kTexts[] = {85, 100, 115, 130, 150, 175, 200};   // percent of the usual size
+constexpr int kScales[] = {75, 100, 125, 150, 175, 200, 250};  // percent
+/// Keys that the window itself knows, beside all letters without Ctrl or Alt.
+constexpr const char* kTaken[] = {"F1",     "F11",    "Ctrl+K", "Ctrl+L",      "Ctrl+F", "Ctrl++",
+                                  "Ctrl+-", "Ctrl+0", "Ctrl+,", "Ctrl+Return", "Ctrl+C", "Ctrl+V",
+                                  "Ctrl+X", "Ctrl+A", "Ctrl+Z", "Ctrl+Y",      "Ctrl+="};
+
+/// The key that a text names, in Qt's own way of writing it; empty for none that can be pressed.
+QString KeyIn(const std::string& typed) {
+  const QKeySequence keys(Shown(typed).trimmed());
+  if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown) return {};
+  const bool held = keys[0].keyboardModifiers() & (Qt::ControlModifier | Qt::AltModifier);
+  const bool function = keys[0].key() >= Qt::Key_F1 && keys[0].key() <= Qt::Key_F35;
+  return held || function ? keys.toString(QKeySequence::PortableText) : QString();
+}
+
+class frmWindow : public ui::Screen {
+ public:
+  frmWindow(ui::Desk& desk, Window& window, std::vector<KeyedCommand> commands)
+      : Screen(desk, kWindowOptions, "Window Options", ui::Role::Dialog),
+        window_(window),
+        commands_(std::move(commands)) {
+    for (const char* theme : kThemes) cmbtheme.Add(theme);
+    for (const int text : kTexts) cmbtext.Add(std::to_string(text) + "%", text);
+    for (const int scale : kScales) cmbscale.Add(std::to_string(scale) + "%", scale);
+    cmbscale.Tip = "Counts from the next start of the game on.";
+    lstkeys.EmptyText = "The keys of the side bar are set while a game is open.";
+  }
+
+  ui::Page Layout() override {
+    ui::Page page;
+    page.Actions = {&cmdkey, &cmdusual, &cmdback};
+    page.Main = &cmdback;
+    page.Cancel = &cmdback;
+    page.Body = ui::Columns(
+        {ui::Rows({ui::Group("Look", {ui::Field("Colours", cmbtheme), ui::Field("Text", cmbtext),
+                                      ui::Field("Window scale", cmbscale), chkfull, chkstill})})
+             .Grow(2),
+         ui::Group("Keys", {ui::Grow(lstkeys)}).Grow(3)});
+    return page;
+  }
+
+  void Load() override {
+    Settings& kept = window_.Kept();
+    cmbtheme.Select(static_cast<int>(kept.Colours()) + 1);
+    const int now = (DesktopText() + kept.Zoom()) * 100 / kUsualText;
+    cmbtext.SelectKey(
+        *std::ranges::min_element(kTexts, {}, [now](int text) { return std::abs(text - now); }));
+    cmbscale.SelectKey(kept.Scale());
+    chkfull.Checked = window_.isFullScreen();
+    chkstill.Checked = kept.Still();
+    ShowKeys();
+  }
+
+ private:
+  std::string KeyOf(const KeyedCommand& command) const {
+    return window_.Kept().Key(command.Name, command.Usual).toStdString();
+  }
+
+  void ShowKeys() {
+    std::vector<ui::ListBox::Row> rows;
+    for (std::size_t i = 0; i < commands_.size(); ++i)
+      rows.push_back({{commands_[i].Caption, KeyOf(commands_[i])}, static_cast<int>(i) + 1});
+    lstkeys.Fill(std::move(rows));
+    if (lstkeys.Selected() == 0 && lstkeys.Count() > 0) lstkeys.Select(1);
+    for (ui::Button* act : {&cmdkey, &cmdusual}) {
+      act->Enabled = !commands_.empty();
+      act->Tip = commands_.empty() ? lstkeys.EmptyText : "";
+    }
+  }
+
+  void cmbtheme_Click() { window_.SetColours(static_cast<Scheme>(cmbtheme.Selected() - 1)); }
+  void cmbtext_Click() {
+    const int pixels = static_cast<int>(std::lround(kUsualText * cmbtext.Key() / 100.0));
+    window_.SetZoom(pixels - DesktopText());
+  }
+  void cmbscale_Click() { window_.Kept().SetScale(cmbscale.Key()); }
+  void chkfull_Click() { window_.TurnFullScreen(); }
+  void chkstill_Click() { window_.SetStill(chkstill.Checked); }
+
+  /// Why a command cannot have a key; empty when it can.
+  std::string WhyNot(const QString& key, const KeyedCommand& command) const {
+    if (key.isEmpty()) return "Write a key as \"F7\" or \"Ctrl+R\".";
+    if (std::ranges::any_of(kTaken, [&](const char* taken) { return key == taken; }))
+      return key.toStdString() + " is a key of the window.";
+    for (const KeyedCommand& other : commands_)
+      if (other.Name != command.Name && KeyOf(other) == key.toStdString())
+        return key.toStdString() + " is the key of " + other.Caption + ".";
+    return {};
+  }
+
+  void cmdkey_Click() {
+    if (lstkeys.Key() == 0) return;
+    const KeyedCommand& command = commands_[static_cast<std::size_t>(lstkeys.Key() - 1)];
+    const std::string typed =
+        desk().Prompt("Change Key", "The key for " + command.Caption + ":", KeyOf(command));
+    if (typed.empty()) return;
+    const QString key = KeyIn(typed);
+    if (desk().Objects(WhyNot(key, command))) return;
+    window_.Kept().SetKey(command.Name, key);
+    Changed();
+  }
+
+  void cmdusual_Click() {
+    for (const KeyedCommand& command : commands_)
+      window_.Kept().SetKey(command.Name, Shown(command.Usual));
+    Changed();
+  }
+
+  /// The side bar shows the keys too.
+  void Changed() {
+    ShowKeys();
+    window_.Relook();
+  }
+
+  Window& window_;
+  std::vector<KeyedCommand> commands_;
+  ui::ComboBox cmbtheme{*this, "cmbtheme", &frmWindow::cmbtheme_Click};
+  ui::ComboBox cmbtext{*this, "cmbtext", &frmWindow::cmbtext_Click};
+  ui::ComboBox cmbscale{*this, "cmbscale", &frmWindow::cmbscale_Click};
+  ui::CheckBox chkfull{*this, "chkfull", "Full screen (F11)", false, &frmWindow::chkfull_Click};
+  ui::CheckBox chkstill{*this, "chkstill", "Nothing moves by itself", false,
+                        &frmWindow::chkstill_Click};
+  ui::ListBox lstkeys{
+      *this, "lstkeys", {{"Command", ui::ColumnKind::Text, 3}, {"Key", ui::ColumnKind::Text, 1}}};
+  ui::Button cmdkey{*this, "cmdkey", "Change Key", &frmWindow::cmdkey_Click};
+  ui::Button cmdusual{*this, "cmdusual", "All Keys As They Were", &frmWindow::cmdusual_Click};
+  ui::Button cmdback{*this, "cmdback", "Close", [this] { Close(); }};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> NewWindowOptions(ui::Desk& desk, Window& window,
+                                             std::vector<KeyedCommand> commands) {
+  return std::make_unique<frmWindow>(desk, window, std::move(commands));
+}
+
+}  // namespace grapplemont::desktop

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ui/desk.h"
+
+namespace grapplemont::desktop {
+
+class Window;
+
+/// A command of the side bar with the key that it has unless the player sets another.
+struct KeyedCommand {
+  std::string Name, Caption, Usual;
+};
+
+inline constexpr const char* kWindowOptions = "frmWindow";
+
+/// What can be set about the window: colours, sizes, what moves, keys.
+std::unique_ptr<ui::Screen> NewWindowOptions(ui::Desk& desk, Window& window,
+                                             std::vector<KeyedCommand> commands);
+
+}  // namespace grapplemont::desktop

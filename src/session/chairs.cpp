@@ -1,0 +1,140 @@
+#include "session/chairs.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <numeric>
+
+#include "business/finance.h"
+#include "calendar/image.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "roster/leaving.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr std::size_t kBest = 10;
+constexpr int kWeakerBy = 4;
+constexpr int kLowImage = 20;
+constexpr std::array<std::string_view, 5> kChairs = {"Easy", "Fair", "Demanding", "Hard",
+                                                     "Desperate"};
+
+bool Wrestles(const Worker& worker) {
+  return worker.Position != kManager && worker.Position != kNonWrestler &&
+         worker.Position != kTrainingCamp && !IsSentAway(worker);
+}
+
+/// The people of each promotion who wrestle, the best first.
+std::map<int, std::vector<const Worker*>> RostersOf(const World& world) {
+  std::map<int, std::vector<const Worker*>> rosters;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer != 0 && Wrestles(worker)) rosters[worker.Employer].push_back(&worker);
+  for (auto& [uid, roster] : rosters)
+    std::ranges::stable_sort(roster, [](auto* a, auto* b) { return a->Over > b->Over; });
+  return rosters;
+}
+
+int StrengthOf(const std::vector<const Worker*>& roster) {
+  const std::size_t count = std::min(roster.size(), kBest);
+  if (count == 0) return 0;
+  const int sum = std::accumulate(roster.begin(), roster.begin() + static_cast<int>(count), 0,
+                                  [](int total, auto* worker) { return total + worker->Over; });
+  return sum / static_cast<int>(count);
+}
+
+std::string StoryOf(const World& world, const Promotion& promotion,
+                    const std::vector<const Worker*>& roster) {
+  const Staff* owner = OwnerOf(world, promotion.Uid);
+  std::string story = owner ? "Led by " + owner->Name.Str() : "Nobody leads it";
+  if (roster.empty()) return story + ", with nobody to wrestle for it.";
+  const Worker& star = *roster.front();
+  story += "; the crowd comes for " + star.Name.Str();
+  for (const Title& title : world.Titles())
+    if (title.Owner == promotion.Uid && title.Holder == star.Uid)
+      return story + ", who holds the " + title.Name.Str() + ".";
+  return story + ".";
+}
+
+/// What the promotions of one size have on the average.
+struct Peers {
+  long long Money = 0, Strength = 0, Count = 0;
+};
+
+void CountBurdens(const World& world, const Peers& peers, Chair& chair) {
+  const Promotion& own = *chair.Of;
+  const bool onAir =
+      std::ranges::any_of(world.Shows(), [&](const Show& show) { return show.Owner == own.Uid; });
+  const std::pair<bool, const char*> burdens[] = {
+      {own.Money * peers.Count * 2 < peers.Money, "little money"},
+      {(chair.Strength + kWeakerBy) * peers.Count <= peers.Strength, "a weak roster"},
+      {own.Image < kLowImage, "a low image"},
+      {!onAir, "no television"}};
+  std::vector<std::string> words;
+  for (const auto& [holds, word] : burdens)
+    if (holds) words.emplace_back(word);
+  chair.Burdens = static_cast<int>(words.size());
+  chair.Burdened = Joined(words);
+}
+
+}  // namespace
+
+std::vector<Chair> ChairsOf(const World& world) {
+  const auto rosters = RostersOf(world);
+  const std::vector<const Worker*> nobody;
+  std::vector<Chair> chairs;
+  std::map<int, Peers> peers;  // by size
+  for (const Promotion& promotion : world.Promotions()) {
+    if (promotion.Name == kToBeDeleted) continue;
+    const auto found = rosters.find(promotion.Uid);
+    const auto& roster = found == rosters.end() ? nobody : found->second;
+    chairs.push_back({&promotion, StrengthOf(roster), 0, {}, StoryOf(world, promotion, roster)});
+    Peers& alike = peers[promotion.Size];
+    alike.Money += promotion.Money;
+    alike.Strength += chairs.back().Strength;
+    ++alike.Count;
+  }
+  for (Chair& chair : chairs) CountBurdens(world, peers[chair.Of->Size], chair);
+  return chairs;
+}
+
+std::string_view ChairText(int burdens) {
+  return kChairs[static_cast<std::size_t>(
+      std::clamp(burdens, 0, static_cast<int>(kChairs.size()) - 1))];
+}
+
+namespace {
+
+/// "one point up", "2 points down".
+std::string Step(int step) {
+  if (step == 0) return "no change";
+  return std::to_string(std::abs(step)) + (std::abs(step) == 1 ? " point " : " points ") +
+         (step > 0 ? "up" : "down");
+}
+
+}  // namespace
+
+std::vector<std::string> WhatDifficultyChanges(int difficulty) {
+  constexpr int kHundred = 100, kYear = 12;
+  GameInfo game{};
+  game.Difficulty = difficulty;
+  game.Reputation = kHundred;
+  Promotion debtor{};
+  debtor.LoanAmount = kHundred;
+  const long long interest = PayOffCost(debtor, difficulty) - kHundred;
+  const long long wages = BuyOutCost(difficulty, 1, kYear) / 1000;
+  std::vector<std::string> lines = {
+      "Image before each Event: " + Step(GoodwillBefore(game, HeldShow::Event)[0]) + ".",
+      "Image before each television show: " + Step(GoodwillBefore(game, HeldShow::Television)[0]) +
+          ".",
+      "Interest on a loan: " + std::to_string(interest) + "%.",
+      "To buy out a contract of a year: " + std::to_string(wages) +
+          (wages == 1 ? " monthly wage." : " monthly wages.")};
+  if (difficulty == kEasy) lines.emplace_back("Reports say by how many points Over moves.");
+  return lines;
+}
+
+}  // namespace grapplemont

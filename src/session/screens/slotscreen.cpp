@@ -1,0 +1,69 @@
+#include "session/screens/slotscreen.h"
+
+#include "records/modVar.h"
+#include "ui/likeness.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kCardsARow = 4;
+constexpr int kCrestHeight = 50;
+
+}  // namespace
+
+SlotScreen::SlotScreen(Game& game, std::string name, std::string title)
+    : GameScreen(game, std::move(name), std::move(title), {.Is = ui::Role::Cover}),
+      summaries_(kSlots) {
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    imgfed(slot).Height = kCrestHeight;
+    for (ui::Label* label : {&lbldetails(slot), &lblworth(slot), &lbllast(slot)})
+      label->Colour = ui::Tone::Muted;
+  }
+}
+
+ui::Box SlotScreen::Card(int slot) {
+  std::vector<ui::Box> parts = {
+      ui::Columns({imgfed(slot), ui::Rows({ui::Grow(cmdload(slot)), lblfed(slot)}).Grow()}),
+      lbldetails(slot), lblworth(slot), lbllast(slot)};
+  std::vector<ui::Box> acts = Acts(slot);
+  if (!acts.empty()) parts.push_back(ui::Columns(std::move(acts)));
+  return ui::Group("", std::move(parts)).Grow();
+}
+
+ui::Box SlotScreen::Cards() {
+  std::vector<ui::Box> rows;
+  for (int first = 1; first <= kSlots; first += kCardsARow) {
+    std::vector<ui::Box> cards;
+    for (int slot = first; slot < first + kCardsARow; ++slot) cards.push_back(Card(slot));
+    rows.push_back(ui::Columns(std::move(cards)));
+  }
+  rows.push_back(ui::Spacer());
+  return ui::Rows(std::move(rows));
+}
+
+void SlotScreen::Show(int slot) {
+  const SlotSummary& summary = In(slot);
+  cmdload(slot).Text = summary.Caption;
+  lbldetails(slot).Text = summary.Details;
+  const auto& own = summary.Own;
+  imgfed(slot).Visible = own.has_value();
+  if (own) imgfed(slot).Drawn = CrestOf(*own);
+  lblfed(slot).Text = "Slot " + std::to_string(slot) + (own ? ", " + own->Name.Str() : "");
+  lblworth(slot).Text =
+      own ? "Image " + std::to_string(own->Image) + "%, money " + Dollars(own->Money) : "";
+  lbllast(slot).Text = summary.LastShow.empty() ? "" : "Last show " + summary.LastShow;
+  for (ui::Label* label : {&lbldetails(slot), &lblworth(slot), &lbllast(slot)})
+    label->Visible = !label->Text->empty();
+  Offer(cmdload(slot), summary);
+}
+
+void SlotScreen::Return() {
+  for (int slot = 1; slot <= kSlots; ++slot) {
+    summaries_[static_cast<std::size_t>(slot - 1)] =
+        ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot));
+    Show(slot);
+  }
+}
+
+}  // namespace grapplemont

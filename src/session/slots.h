@@ -1,0 +1,56 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "records/fields/fields.h"
+#include "records/store/disk.h"
+
+// What a player does to saved games without playing them. Everything throws what the store throws:
+// SlotBusy while a game is being played, DiskError, WorldFault for a file that is no game.
+
+namespace grapplemont {
+
+class World;
+
+/// How many days a deleted game can be brought back.
+inline constexpr int kDaysKept = 7;
+
+/// The path, in UTF-8, of what a player typed: in the home unless it begins at the root; without
+/// slashes at its end.
+std::string PathInHome(const std::string& home, std::string_view typed);
+
+/// The first slot of a home without a game and without a folder; nothing when all have one.
+std::optional<int> FreeSlot(Disk& disk, const std::string& home);
+
+/// The slot that was entered last, 1 to kSlots; 0 when that is not known.
+int LastPlayed(Disk& disk, const std::string& home);
+void RememberPlayed(Disk& disk, const std::string& home, int slot);
+
+/// Gives what was met and mended on the way, a line each.
+std::vector<std::string> RenameSlot(Disk& disk, const std::string& folder, std::string_view name);
+/// A second game that goes its own way from here. `worldId` is a number that no other world has.
+void CopySlot(Disk& disk, const std::string& from, const std::string& to, std::string_view name,
+              std::uint64_t worldId);
+void ExportSlot(Disk& disk, const std::string& folder, const std::string& path);
+/// `scratch` is a world to try the files on: what no game can be opened from is refused.
+void ImportSlot(Disk& disk, const std::string& path, const std::string& folder,
+                std::uint64_t worldId, World& scratch);
+
+/// A game that was deleted and can be brought back.
+struct DeletedSlot {
+  std::string Folder, Name;
+  int Slot = 0;  // where it was
+  Day Deleted{};
+  int DaysLeft = 0;
+};
+void DeleteSlot(Disk& disk, const std::string& folder, Day today);
+/// The latest first.
+std::vector<DeletedSlot> DeletedSlots(Disk& disk, const std::string& home, Day today);
+/// Removes those that were kept long enough; what the disk refuses is tried the next time.
+void ClearDeleted(Disk& disk, const std::string& home, Day today);
+/// To its own slot where that is free, else to the first that is; the slot it now is in.
+int RestoreSlot(Disk& disk, const std::string& home, const DeletedSlot& deleted);
+
+}  // namespace grapplemont

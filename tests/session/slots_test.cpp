@@ -1,0 +1,191 @@
+#include "session/slots.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <functional>
+#include <sstream>
+
+#include "records/store/slotcare.h"
+#include "records/world.h"
+#include "session/home.h"
+#include "support/cutdisk.h"
+#include "support/homefolder.h"
+#include "support/smallworld.h"
+#include "support/storeworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+World Data() {
+  return SmallWorld().Network("Nine").Promotion("CWA", kCult).Owner("Ruth Vane").Crew(6);
+}
+
+/// The slots on screen with one game, "First", in the first.
+class SavedGames : public testing::Test {
+ protected:
+  SavedGames() : home_(Data()) {
+    home_.StartNewGame();
+    home_.Play.World().Workers()[1].Over = 77;
+    home_.Play.Commit();
+    home_.Play.CloseSlot();
+    home_.Desk.CloseAll();
+    home_.Desk.Open("frmLoadGame");
+  }
+  /// What is kept in a slot beside its name.
+  int Over(int slot) {
+    home_.Play.OpenSlot(slot);
+    const int over = home_.Play.World().Workers()[1].Over;
+    home_.Play.CloseSlot();
+    return over;
+  }
+  std::string Read(const std::string& name) {
+    std::ostringstream text;
+    text << std::ifstream(home_.Path(name), std::ios::binary).rdbuf();
+    return text.str();
+  }
+
+  HomeFolder home_;
+};
+
+TEST_F(SavedGames, AreCardsWithTheLastOneOnTop) {
+  EXPECT_EQ(home_.Desk.Text("lblfacts"),
+            "1 of 8 slots in use. A game saves itself with every click.");
+  EXPECT_EQ(home_.Desk.Text("lblplayed"), "Slot 1, First, Medium level");
+  EXPECT_EQ(home_.Desk.Text("lblpromotion"), "CWA Wrestling");
+  EXPECT_EQ(home_.Desk.Text("lbltoday"), "Wednesday, 01 April 2026");
+  EXPECT_EQ(home_.Desk.Text("lblfed1"), "Slot 1, CWA Wrestling");
+  EXPECT_FALSE(home_.Desk.Visible("imgpage")) << "no page was kept";
+  EXPECT_FALSE(home_.Desk.Visible("cmddelete2"));
+  home_.Desk.ExpectPrompt("Duplicate", "Save Game Name:", "Second", "First");
+  home_.Desk.Click("cmdcopy1");
+  EXPECT_EQ(home_.Desk.Text("cmdload2"), "Second");
+  EXPECT_EQ(Over(2), 77);
+  home_.Desk.Click("cmdload2");
+  EXPECT_EQ(home_.Desk.TopName(), "frmMainScreen");
+  home_.Write("s2.png", "a page");
+  home_.Play.CloseSlot();
+  home_.Desk.CloseAll();
+  home_.Desk.Open("frmLoadGame");
+  EXPECT_EQ(home_.Desk.Text("lblplayed"), "Slot 2, Second, Medium level");
+  EXPECT_TRUE(home_.Desk.Visible("imgpage"));
+  home_.Desk.Click("cmdcontinue");
+  EXPECT_EQ(home_.Play.World().Game().SaveName.View(), "Second");
+}
+
+TEST_F(SavedGames, AreRenamedByOneStepThatIsKept) {
+  for (const char* name : {"", "Two\nlines"}) {
+    home_.Desk.ExpectPrompt("Rename", "Save Game Name:", name, "First");
+    if (*name) home_.Desk.ExpectSay("Error!", "A name is one line of plain text.");
+    home_.Desk.Click("cmdrename1");
+    EXPECT_EQ(home_.Desk.Text("cmdload1"), "First");
+  }
+  home_.Desk.ExpectPrompt("Rename", "Save Game Name:", "Harbor years", "First");
+  home_.Desk.Click("cmdrename1");
+  EXPECT_EQ(home_.Desk.Text("cmdload1"), "Harbor years");
+  EXPECT_EQ(Over(1), 77);
+}
+
+TEST_F(SavedGames, GoToAFileAndComeBackFromIt) {
+  home_.Desk.ExpectPrompt("Export", kAnyText, "First.grapplemont", "First.grapplemont");
+  home_.Desk.Click("cmdexport1");
+  const std::string packed = Read("First.grapplemont");
+  for (const bool over : {false, true}) {
+    home_.Desk.ExpectPrompt("Export", kAnyText, "First.grapplemont");
+    home_.Desk.ExpectAsk("Replace?", kAnyText, over, ui::Default::No);
+    home_.Desk.Click("cmdexport1");
+  }
+  EXPECT_EQ(packed, Read("First.grapplemont"));
+  std::string longer = packed + "x", changed = packed;
+  changed[packed.size() / 2] ^= 1;
+  const std::pair<std::string, const char*> kBad[] = {
+      {"", "no saved game"},
+      {"a diary", "no saved game"},
+      {packed.substr(0, packed.size() / 2), "spoiled"},
+      {longer, "spoiled"},
+      {changed, "spoiled"}};
+  for (const auto& [bytes, why] : kBad) {
+    home_.Write("bad.grapplemont", bytes);
+    home_.Desk.ExpectPrompt("Import", kAnyText, "bad.grapplemont");
+    home_.Desk.ExpectSay("Error!", kAnyText);
+    home_.Desk.Click("cmdimport");
+    EXPECT_NE(home_.Desk.Boxes().back().Text.find(why), std::string::npos) << why;
+    EXPECT_FALSE(home_.Desk.Enabled("cmdload2"));
+  }
+  home_.Desk.ExpectPrompt("Import", kAnyText, "First.grapplemont");
+  home_.Desk.Click("cmdimport");
+  EXPECT_EQ(home_.Desk.Text("cmdload2"), "First");
+  EXPECT_EQ(Over(2), 77);
+}
+
+TEST_F(SavedGames, AreKeptForAWeekOnceTheyAreDeleted) {
+  home_.Write("s1/diary.txt", "mine");
+  for (const bool sure : {false, true}) {
+    home_.Desk.ExpectAsk("Delete?", kAnyText, sure, ui::Default::No);
+    home_.Desk.Click("cmddelete1");
+    EXPECT_EQ(home_.Desk.Visible("cmdrestore"), sure);
+  }
+  EXPECT_FALSE(home_.Desk.Visible("cmdcontinue"));
+  EXPECT_EQ(home_.Desk.Rows("cmbdeleted")[0][0],
+            "First, deleted on Tuesday, 17 March 2026, kept for 7 more days");
+  home_.Desk.Click("cmdrestore");
+  EXPECT_EQ(home_.Desk.Text("cmdload1"), "First");
+  EXPECT_EQ(Over(1), 77);
+  EXPECT_EQ(Read("s1/diary.txt"), "mine");
+
+  // Put away on the day that makes it a week, and a day later.
+  const auto disk = RealDisk();
+  for (const char* day : {"2026-03-11", "2026-03-10"}) {
+    PutAway(*disk, home_.Path("s1"), home_.Path(std::string("s1.deleted.") + day));
+    home_.Desk.CloseAll();
+    home_.Desk.Open("frmLoadGame");
+    if (std::string_view(day) == "2026-03-11") home_.Desk.Click("cmdrestore");
+  }
+  EXPECT_FALSE(home_.Desk.Visible("cmdrestore"));
+  EXPECT_EQ(disk->List(home_.Path("s1.deleted.2026-03-10")),
+            (std::vector<std::string>{"diary.txt"}));
+}
+
+TEST_F(SavedGames, AreLeftAloneWhileTheyArePlayedElsewhere) {
+  const auto other = RealDisk();
+  const Slot held(*other, home_.Path("s1"), KnownFiles());
+  const std::pair<const char*, std::function<void()>> kActs[] = {
+      {"cmdcopy1", [&] { home_.Desk.ExpectPrompt("Duplicate", kAnyText, "Second"); }},
+      {"cmdrename1", [&] { home_.Desk.ExpectPrompt("Rename", kAnyText, "Second"); }},
+      {"cmdexport1", [&] { home_.Desk.ExpectPrompt("Export", kAnyText, "out"); }},
+      {"cmddelete1", [&] { home_.Desk.ExpectAsk("Delete?", kAnyText, true); }}};
+  for (const auto& [button, expect] : kActs) {
+    expect();
+    home_.Desk.ExpectSay("Error!", kAnyText);
+    home_.Desk.Click(button);
+    EXPECT_NE(home_.Desk.Boxes().back().Text.find("another program"), std::string::npos) << button;
+  }
+  EXPECT_EQ(home_.Desk.Text("cmdload1"), "First");
+  EXPECT_EQ(RealDisk()->Look(home_.Path("out")), Disk::Kind::Nothing);
+}
+
+/// However the power goes, a deleted game is in its slot or beside it, whole.
+TEST(ASlotThatIsPutAway, IsWholeInOneOfItsPlacesAfterAnyCut) {
+  CutDisk disk;
+  const auto worlds = RandomWorlds(3, 17);
+  Slot::Create(disk, "s1", NewFiles(worlds[0]), 1);
+  {
+    Slot slot(disk, "s1", StoreFiles());
+    slot.Commit(ChangesBetween(worlds[0], worlds[1]));
+  }
+  disk.Record();
+  PutAway(disk, "s1", "s1.deleted.2026-03-17");
+  BringBack(disk, "s1.deleted.2026-03-17", "s1");
+  int places = 0;
+  ForEveryCut(disk, 4, 17, [&](CutDisk& after, const Cut&) {
+    const bool home = after.Look("s1") == Disk::Kind::Folder;
+    ASSERT_NE(home, after.Look("s1.deleted.2026-03-17") == Disk::Kind::Folder);
+    places |= home ? 1 : 2;
+    if (!home) BringBack(after, "s1.deleted.2026-03-17", "s1");
+    EXPECT_EQ(worlds[1], Slot(after, "s1", StoreFiles()).Files());
+  });
+  EXPECT_EQ(places, 3);
+}
+
+}  // namespace
+}  // namespace grapplemont::test
