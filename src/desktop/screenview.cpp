@@ -138,7 +138,8 @@ void ScreenView::BuildPage() {
   auto* rows = NewLayout<QVBoxLayout>(this, kGap, {side, cover ? side : 18, side, side});
   rows->addLayout(BuildHead());
   BuildBody(rows);
-  tail_->addLayout(BuildActions());  // last in the order of Tab, too: what a page is about comes first
+  tail_->addLayout(
+      BuildActions());  // last in the order of Tab, too: what a page is about comes first
   const bool bare = cover && HasTitlePicture() && page_.Actions.empty();
   title_->setVisible(!bare);
   // The only table of a page has its search line beside the page's title.

@@ -230,9 +230,9 @@ class frmOtherWres : public WorkerListScreen {
 
   ui::Page Layout() override {
     return WithFilters(PageOf(
-        ui::Rows({FilterBox(),
-                  ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9), PageBox().Grow(4)})
-                      .Grow(1)}),
+        ui::Rows(
+            {FilterBox(),
+             ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9), PageBox().Grow(4)}).Grow(1)}),
         &lblfacts, {&cmdlist, &cmdshortlist}, &cmdcontract));
   }
 
