@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "booking/card.h"
+#include "booking/cardsteps.h"
 
 // Cards that are kept beside the sheet: the last one of each show, and drafts for shows to come.
 

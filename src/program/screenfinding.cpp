@@ -10,7 +10,7 @@
 #include "storylines/partners.h"
 #include "storylines/titles.h"
 #include "ui/acts.h"
-#include "ui/likeness.h"
+#include "ui/pictureof.h"
 
 namespace grapplemont {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "booking/card.h"
+#include "booking/cardsteps.h"
 #include "booking/screens/bookingscreens.h"
 #include "booking/sheet.h"
 #include "records/world.h"

@@ -11,7 +11,7 @@
 #include "records/fields/wording.h"
 #include "show/titlechange.h"
 #include "storylines/storynames.h"
-#include "ui/likeness.h"
+#include "ui/pictureof.h"
 
 namespace grapplemont {
 

@@ -4,7 +4,7 @@
 #include "calendar/deskwork.h"
 #include "storylines/feuds.h"
 #include "storylines/titles.h"
-#include "ui/likeness.h"
+#include "ui/pictureof.h"
 
 namespace grapplemont {
 

@@ -7,7 +7,7 @@
 #include "show/recap.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
-#include "ui/likeness.h"
+#include "ui/pictureof.h"
 
 namespace grapplemont {
 

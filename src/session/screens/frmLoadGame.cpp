@@ -10,7 +10,7 @@
 #include "session/screens/slotscreen.h"
 #include "session/slots.h"
 #include "storylines/storynames.h"
-#include "ui/likeness.h"
+#include "ui/pictureof.h"
 
 namespace grapplemont {
 

@@ -12,7 +12,7 @@
 #include "storylines/storynames.h"
 #include "storylines/titles.h"
 #include "ui/game.h"
-#include "ui/likeness.h"
+#include "ui/pictureof.h"
 
 namespace grapplemont {
 

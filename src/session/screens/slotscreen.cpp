@@ -1,7 +1,7 @@
 #include "session/screens/slotscreen.h"
 
 #include "records/modVar.h"
-#include "ui/likeness.h"
+#include "ui/pictureof.h"
 
 namespace grapplemont {
 

@@ -5,7 +5,7 @@
 #include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "storylines/titles.h"
-#include "ui/likeness.h"
+#include "ui/pictureof.h"
 
 namespace grapplemont {
 

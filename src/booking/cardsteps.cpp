@@ -1,4 +1,4 @@
-#include "booking/card.h"
+#include "booking/cardsteps.h"
 
 #include <algorithm>
 #include <cstring>
