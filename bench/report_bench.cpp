@@ -49,7 +49,7 @@ std::size_t TellEvent(World& world, const std::vector<Segment>& card) {
   LineMemory memory;
   std::size_t letters = 0;
   for (const Segment& segment : card)
-    letters += WriteReport(world, segment, {true, 0, 0}, memory).size();
+    letters += WriteReport(world, segment, {}, memory).size();
   return letters;
 }
 
