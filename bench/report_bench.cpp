@@ -48,8 +48,7 @@ std::vector<Segment> EventCard(const World& world) {
 std::size_t TellEvent(World& world, const std::vector<Segment>& card) {
   LineMemory memory;
   std::size_t letters = 0;
-  for (const Segment& segment : card)
-    letters += WriteReport(world, segment, {true, 0, 0}, memory).size();
+  for (const Segment& segment : card) letters += WriteReport(world, segment, {}, memory).size();
   return letters;
 }
 

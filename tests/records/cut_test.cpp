@@ -15,7 +15,7 @@ TEST(PowerCuts, LeaveACommittedWorldAtEveryMoment) {
   int cuts = 0;
   for (std::uint64_t seed = 1; seed <= 10; ++seed) {
     const Story story = TellStory(16, seed);
-    cuts += ForEveryCut(story.Recorded, 8, seed, [&](CutDisk& after, const Cut& cut) {
+    cuts += ForEveryCut(story.Recorded, 24, seed, [&](CutDisk& after, const Cut& cut) {
       std::string why;
       const int found = FoundWorld(after, story.Worlds, cut.Least, cut.Most, story.Options, &why);
       ASSERT_GE(found, 0) << "seed " << seed << ", call " << cut.Index << ", " << cut.Where << ": "
@@ -26,7 +26,7 @@ TEST(PowerCuts, LeaveACommittedWorldAtEveryMoment) {
     });
     ASSERT_FALSE(HasFailure());
   }
-  EXPECT_GE(cuts, 6600);
+  EXPECT_GE(cuts, 20000);
 }
 
 /// Opens the slot on a disk that is recorded meanwhile, and cuts that short too.
@@ -56,13 +56,13 @@ TEST(PowerCuts, WithinARecoveryDoNoHarm) {
   for (std::uint64_t seed = 21; seed <= 22; ++seed) {
     const Story story = TellStory(16, seed);
     ForEveryCut(story.Recorded, 1, seed, [&](CutDisk& after, const Cut& cut) {
-      afterCuts += CutTheRecovery(after, story, cut, 8);
+      afterCuts += CutTheRecovery(after, story, cut, 20);
     });
     ForEveryDeath(story.Recorded, [&](CutDisk& after, const Cut& cut) {
-      afterDeaths += CutTheRecovery(after, story, cut, 8);
+      afterDeaths += CutTheRecovery(after, story, cut, 20);
     });
   }
-  EXPECT_GE(std::min(afterCuts, afterDeaths), 2000);
+  EXPECT_GE(std::min(afterCuts, afterDeaths), 5000);
 }
 
 /// A new game over an old one (or over none), world 1 over world 0; with a swap in one step or
@@ -111,8 +111,8 @@ void CutACreation(bool overAnOldOne, bool inOneStep) {
     EXPECT_TRUE(IsFolder(after, std::string(kStore) + "/pictures"));
   };
   inner = 2;
-  EXPECT_GE(ForEveryCut(disk, 8, 43, check), 200);
-  inner = 20;
+  EXPECT_GE(ForEveryCut(disk, 20, 43, check), 500);
+  inner = 60;
   ForEveryDeath(disk, check);
 }
 
