@@ -64,7 +64,7 @@ std::vector<MoneyPoint> OnRecord(const Promotion& promotion, Day today) {
 }
 
 /// From which economy on.
-constexpr std::pair<int, const char*> kEconomy[] = {
+constexpr std::pair<int, const char*> kEconomyWords[] = {
     {90, "Booming"}, {81, "Strong"}, {30, "Steady"}, {20, "Slow"}, {10, "In a recession"}};
 
 }  // namespace
@@ -189,7 +189,7 @@ std::vector<std::string> CaptionsOf(const std::vector<PastStanding>& standings) 
 }
 
 std::string_view EconomyText(int economy) {
-  for (const auto& [from, words] : kEconomy)
+  for (const auto& [from, words] : kEconomyWords)
     if (economy >= from) return words;
   return "In a slump";
 }

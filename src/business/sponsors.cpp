@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kLeastMonths = 6;
 constexpr int kDrawnMonths = 18;
-constexpr int kThousand = 1000;
 
 Word& PlaceOf(Promotion& promotion, int place) {
   return promotion.Sponsor.at(static_cast<std::size_t>(place - 1));

@@ -10,6 +10,9 @@
 
 namespace grapplemont {
 
+/// Dollars. Pay and wages count in thousands.
+inline constexpr int kThousand = 1000;
+
 /// Places of a promotion's sponsors, numbered from 1; the first is the main one's.
 inline constexpr int kMainSponsor = 1;
 inline constexpr int kSponsorPlaces = 4;

@@ -23,7 +23,6 @@ constexpr std::array<int, 6> kFameWorth = {40, 12, 12, 12, 15, 4};
 
 constexpr int kYearMonths = 12, kYearWeeks = 52;  // nobody pays for what is further away
 constexpr int kDollarsPerRating = 300;            // a hundredth of a rating, for a week
-constexpr int kThousand = 1000;
 
 int MonthsThatCount(int contractMonths) {
   return contractMonths == kNoEnd ? kYearMonths : std::clamp(contractMonths, 0, kYearMonths);

@@ -12,7 +12,7 @@ namespace grapplemont::desktop {
 namespace {
 
 constexpr int kWidth = 188;
-constexpr int kLine = 26, kLeastLine = 21, kHeading = 28, kLeastHeading = 22;
+constexpr int kCommandLine = 26, kLeastLine = 21, kHeading = 28, kLeastHeading = 22;
 constexpr int kSide = 16;
 constexpr int kLogo = 48, kGap = 8, kFoot = 12;  // what stands above and below the lines
 
@@ -66,7 +66,7 @@ SideLine::SideLine(QWidget* parent, const QString& caption) : BareButton(parent,
 }
 
 QSize SideLine::sizeHint() const {
-  return {Px(kWidth), Px(kLine)};
+  return {Px(kWidth), Px(kCommandLine)};
 }
 
 QFont SideLine::CaptionFont() const {
@@ -190,15 +190,15 @@ void SideBar::FitLines() {
       commands_, [this](const Command* command) { return command->parentWidget() == middle_; }));
   const int headings = static_cast<int>(headings_.size());
   const int room = height() - Px(kLogo) - Px(kFoot) - Px(kGap) -
-                   Px(kLine) * (static_cast<int>(commands_.size()) - lines + 1);
-  const int wanted = lines * Px(kLine) + headings * Px(kHeading);
+                   Px(kCommandLine) * (static_cast<int>(commands_.size()) - lines + 1);
+  const int wanted = lines * Px(kCommandLine) + headings * Px(kHeading);
   const double fit = std::min(1.0, static_cast<double>(room) / std::max(1, wanted));
   const auto height = [fit](int usual, int least) {
     return std::max(Px(least), static_cast<int>(Px(usual) * fit));
   };
   for (Command* command : commands_)
-    command->setFixedHeight(command->parentWidget() == middle_ ? height(kLine, kLeastLine)
-                                                               : Px(kLine));
+    command->setFixedHeight(command->parentWidget() == middle_ ? height(kCommandLine, kLeastLine)
+                                                               : Px(kCommandLine));
   for (QWidget* heading : headings_) heading->setFixedHeight(height(kHeading, kLeastHeading));
 }
 

@@ -31,10 +31,6 @@ QString SearchHint(const ui::ListBox& list) {
   return "Filter\u2026";
 }
 
-std::size_t Index(int number) {
-  return static_cast<std::size_t>(number);
-}
-
 }  // namespace
 
 TableView::TableView(ui::ListBox& list, Stage& stage, QWidget* parent)

@@ -6,6 +6,11 @@
 
 namespace grapplemont::desktop {
 
+/// Toolkit numbers as places of a vector.
+inline std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
+
 class ButtonView;
 class PushButton;
 

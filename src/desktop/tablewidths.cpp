@@ -13,10 +13,6 @@ namespace {
 
 constexpr int kMeasuredRows = 200;  // rows that are measured one by one for a column's width
 
-std::size_t Index(int number) {
-  return static_cast<std::size_t>(number);
-}
-
 /// Hands out the room left over by shares.
 void Spread(int room, const std::vector<double>& shares, std::vector<int>& widths) {
   double all = std::accumulate(shares.begin(), shares.end(), 0.0);

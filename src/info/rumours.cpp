@@ -24,10 +24,10 @@ namespace {
 
 constexpr int kKnown = 50;  // the Over from which on people talk about somebody
 constexpr int kLastMonths = 2;
-constexpr int kUnhappyBelow = 40;
-constexpr int kNearTheTop = 90, kNearTheBottom = 10;
+constexpr int kGrumblesBelow = 40;
+constexpr int kAboutToRise = 90, kAboutToFall = 10;
 constexpr int kOld = 45;
-constexpr int kLongReign = 90;
+constexpr int kReignHeardOf = 90;
 constexpr int kShortDeal = 4;  // weeks
 constexpr int kBurning = 75;
 constexpr int kBadMonths = 2;
@@ -63,7 +63,7 @@ void HearOfRivalsStar(Whispers& heard, const Promotion& house, const Worker& wor
   heard.If(worker.ContractType == "Non" && !worker.Unsackable, Whisper::Handshake);
   heard.If(IsOnRoster(worker) && worker.Position - 1 > FittingPosition(house.Size, worker.Over),
            Whisper::HeldDown, {{"what", std::string(PositionText(worker.Position))}});
-  heard.If(worker.Morale < kUnhappyBelow, Whisper::Unhappy);
+  heard.If(worker.Morale < kGrumblesBelow, Whisper::Unhappy);
 }
 
 void HearOfAnybody(Whispers& heard, const World& world, const Worker& worker) {
@@ -100,9 +100,9 @@ void HearOfMoney(Whispers& heard, const Promotion& rival) {
 }
 
 void HearOfStanding(Whispers& heard, const Promotion& rival) {
-  heard.If(rival.Image >= kNearTheTop && rival.Size > kGlobal, Whisper::AboutToRise,
+  heard.If(rival.Image >= kAboutToRise && rival.Size > kGlobal, Whisper::AboutToRise,
            {{"what", std::string(SizeText(rival.Size - 1))}});
-  heard.If(rival.Image <= kNearTheBottom && rival.Size < kBackyard, Whisper::AboutToFall,
+  heard.If(rival.Image <= kAboutToFall && rival.Size < kBackyard, Whisper::AboutToFall,
            {{"what", std::string(SizeText(rival.Size + 1))}});
   heard.If(FallsInARow(rival) >= kBadMonths, Whisper::Slipping);
 }
@@ -129,7 +129,7 @@ void HearOfTitles(Ear& ear, const World& world) {
     if (title.Holder == 0 || won == kNoTitleDate) continue;
     // Counted to the month's first day, so that the words stay as they are.
     const auto days = static_cast<int>((MonthsBefore(world.Today(), 0) - won).count());
-    heard.If(days >= kLongReign, Whisper::LongReign,
+    heard.If(days >= kReignHeardOf, Whisper::LongReign,
              {{"who", ChampionText(world, title)}, {"n", "more than " + std::to_string(days)}});
   }
 }

@@ -229,7 +229,7 @@ constexpr Script kExchangeRows[] = {"AB#C2D", "B#AN#C", "EC#BD", "A2#B#CD"};
 using enum BoutShape;
 constexpr bool kNoPin = false;
 
-constexpr BoutRow kBouts[] = {
+constexpr BoutRow kBoutRows[] = {
     {kSingles, kPlainSingles, Duel, kSinglesRows},
     {kSingles, kSubmission, Duel, kGenericRows, kHoldSpot, kNoPin},
     {kSingles, kIronMan, IronMan, kFallRows, kClockSpot},
@@ -273,12 +273,12 @@ constexpr BoutRow kBouts[] = {
     {kSpecial, kTwentyMan, BattleRoyal, kExchangeRows, kHoldSpot, kNoPin},
     {kSpecial, kTenMan, BattleRoyal, kExchangeRows, kHoldSpot, kNoPin},
 };
-static_assert(std::size(kBouts) == std::size(kMatchTypes));
+static_assert(std::size(kBoutRows) == std::size(kMatchTypes));
 
 constexpr std::string_view kSteps = "ABCDE2N#RPTXLWKS~";
 
 constexpr bool KnowAllSteps() {
-  for (const BoutRow& bout : kBouts)
+  for (const BoutRow& bout : kBoutRows)
     for (const Script row : bout.Rows)
       for (const char step : row)
         if (kSteps.find(step) == std::string_view::npos) return false;
@@ -289,10 +289,10 @@ static_assert(KnowAllSteps());
 }  // namespace
 
 const BoutRow* FindBout(int style, int type) {
-  const auto found = std::find_if(std::begin(kBouts), std::end(kBouts), [&](auto& row) {
+  const auto found = std::find_if(std::begin(kBoutRows), std::end(kBoutRows), [&](auto& row) {
     return row.Style == style && row.Type == type;
   });
-  return found == std::end(kBouts) ? nullptr : &*found;
+  return found == std::end(kBoutRows) ? nullptr : &*found;
 }
 
 }  // namespace grapplemont

@@ -24,10 +24,10 @@ struct TalentLimits {
 };
 constexpr std::array<TalentLimits, 6> kTalent = {
     {{100, 70}, {100, 40}, {80, 30}, {60, 15}, {40, 0}, {20, 0}}};
-constexpr std::array<int, 6> kWageRise = {5, 4, 2, 1, 0, 0};
+constexpr std::array<int, 6> kStaffWageRise = {5, 4, 2, 1, 0, 0};
 
 constexpr int kHighestStaffWage = 100;  // thousands of dollars a month
-constexpr int kMoodSwing = 20;
+constexpr int kStaffMoodSwing = 20;
 constexpr int kUnsackableTalent = 101;
 constexpr int kAboveAllTalents = 102;
 
@@ -60,8 +60,8 @@ void SignStaff(World& world, const Promotion& rival, Staff& staff) {
   staff.ContractMonths = ContractMonthsAt(rival.Size);
   staff.ContractType = rival.Size < kCult ? "Wri" : "Non";
   staff.Unsackable = false;
-  staff.Morale += kMoodSwing;
-  staff.Wage = std::min(staff.Wage + BySize(kWageRise, rival.Size), kHighestStaffWage);
+  staff.Morale += kStaffMoodSwing;
+  staff.Wage = std::min(staff.Wage + BySize(kStaffWageRise, rival.Size), kHighestStaffWage);
   TellOf(world, world.Game().MailStaffHire, rival,
          rival.Initials + " have signed staff member " + staff.Name.Str() + "!");
 }
@@ -83,7 +83,7 @@ void FireStaff(World& world, const Promotion& rival, Staff& staff) {
   DismissStaff(world, staff);
   staff.ContractType = "Non";
   staff.Unsackable = false;
-  staff.Morale -= kMoodSwing;
+  staff.Morale -= kStaffMoodSwing;
   TellOf(world, world.Game().MailStaffFire, rival,
          rival.Initials + " have fired staff member " + staff.Name.Str() + "!");
 }

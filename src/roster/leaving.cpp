@@ -13,13 +13,13 @@ namespace grapplemont {
 namespace {
 
 /// What a promotion of a size pays at most, and whom it pays for.
-struct Market {
+struct WageCap {
   int WageLimit;  // thousands of dollars a month
   int OverMustExceed;
   int SignedWageCap;  // a thousand times the limit: it never bites, and wages stay as they were
 };
 // By size, Global to Backyard.
-constexpr std::array<Market, 6> kMarket = {{
+constexpr std::array<WageCap, 6> kWageCaps = {{
     {150, 80, 150000},
     {100, 65, 100000},
     {70, 50, 70000},
@@ -29,7 +29,7 @@ constexpr std::array<Market, 6> kMarket = {{
 }};
 
 bool CanPay(const Promotion& promotion, const Worker& worker) {
-  const Market& market = BySize(kMarket, promotion.Size);
+  const WageCap& market = BySize(kWageCaps, promotion.Size);
   const int asking = static_cast<int>(worker.Wage * 8LL / 10);
   return asking <= market.WageLimit && worker.Over > market.OverMustExceed;
 }
@@ -60,7 +60,7 @@ void SignWith(World& world, Worker& worker, const Promotion& rival) {
   worker.ContractMonths = ContractMonthsAt(rival.Size);
   worker.ContractType = rival.Size > kCult ? "Non" : "Wri";
   worker.Morale += 20;
-  worker.Wage = std::min<int>(worker.Wage, BySize(kMarket, rival.Size).SignedWageCap);
+  worker.Wage = std::min<int>(worker.Wage, BySize(kWageCaps, rival.Size).SignedWageCap);
 }
 
 constexpr int kPoorMarket = 40;  // of the economy

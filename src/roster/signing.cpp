@@ -49,7 +49,7 @@ bool IsTooBig(int size, int over) {
          (size == kRegional && over >= 71);
 }
 
-struct Talk {
+struct SigningTalk {
   const Worker& Who;
   const Demands& Wants;
   const SigningOffer& Offer;
@@ -63,59 +63,59 @@ struct Talk {
   bool Gets(int position) const { return Offer.Position == position; }
 };
 
-struct Objection {
-  bool (*Holds)(const Talk& t);
+struct SigningObjection {
+  bool (*Holds)(const SigningTalk& t);
   const char* Words;
 };
 
 // The last two turn down a wage above their figure.
-constexpr Objection kObjections[] = {
-    {[](const Talk& t) { return t.Wants.Written && !t.Offer.Written; },
+constexpr SigningObjection kSigningObjections[] = {
+    {[](const SigningTalk& t) { return t.Wants.Written && !t.Offer.Written; },
      "I want a written contract!"},
-    {[](const Talk& t) { return !t.Wants.Written && t.Offer.Written; },
+    {[](const SigningTalk& t) { return !t.Wants.Written && t.Offer.Written; },
      "I do not want a written contract!"},
-    {[](const Talk& t) { return t.Offer.Wage < t.Wants.Wage - PercentOf(t.Wants.Wage, 10); },
+    {[](const SigningTalk& t) { return t.Offer.Wage < t.Wants.Wage - PercentOf(t.Wants.Wage, 10); },
      "You are not offering me enough money!"},
-    {[](const Talk& t) {
+    {[](const SigningTalk& t) {
        return t.Wants.CreativeControl && !t.Offer.CreativeControl && !t.Pays(120);
      },
      "I want a creative control clause!"},
-    {[](const Talk& t) {
+    {[](const SigningTalk& t) {
        return t.Asks(kManager) && !t.Gets(kManager) && t.Tier() == 0 && !t.Pays(120);
      },
      "I only wish to work as a manager!"},
-    {[](const Talk& t) {
+    {[](const SigningTalk& t) {
        return !t.Asks(kManager) && t.Gets(kManager) && t.Tier() > 0 && !t.Pays(120);
      },
      "I do not want to become a manager!"},
-    {[](const Talk& t) {
+    {[](const SigningTalk& t) {
        return t.Asks(kNonWrestler) && !t.Gets(kNonWrestler) && (t.Tier() == 0 || t.Who.Age > 35) &&
               !t.Pays(140);
      },
      "I only wish to work as a non-wrestler!"},
-    {[](const Talk& t) {
+    {[](const SigningTalk& t) {
        return !t.Asks(kNonWrestler) && t.Gets(kNonWrestler) && t.Tier() > 0 && !t.Pays(130);
      },
      "I do not want to become a non-wrestler!"},
-    {[](const Talk& t) { return t.Gets(kTrainingCamp) && (t.Tier() > 0 || t.Who.Age > 24); },
+    {[](const SigningTalk& t) { return t.Gets(kTrainingCamp) && (t.Tier() > 0 || t.Who.Age > 24); },
      "I do not want to go to the training camp!"},
-    {[](const Talk& t) {
+    {[](const SigningTalk& t) {
        return t.Offer.Position > t.Wants.Position && t.Offer.Position < kDevelopmentDeal;
      },
      "I want to be positioned higher up the card!"},
-    {[](const Talk& t) { return t.Wants.Months == 6 && t.Offer.Months >= 13; },
+    {[](const SigningTalk& t) { return t.Wants.Months == 6 && t.Offer.Months >= 13; },
      "I do not want to sign such a long contract!"},
-    {[](const Talk& t) { return t.Wants.Months == 24 && t.Offer.Months == 6; },
+    {[](const SigningTalk& t) { return t.Wants.Months == 24 && t.Offer.Months == 6; },
      "I need job security. I want a longer contract!"},
-    {[](const Talk& t) { return t.Wants.Months >= 31 && t.Offer.Months < 25; },
+    {[](const SigningTalk& t) { return t.Wants.Months >= 31 && t.Offer.Months < 25; },
      "I need job security. I want a longer contract!"},
-    {[](const Talk& t) { return t.Wants.Months == 60 && t.Offer.Months < 37; },
+    {[](const SigningTalk& t) { return t.Wants.Months == 60 && t.Offer.Months < 37; },
      "I want a much longer contract!"},
-    {[](const Talk& t) {
+    {[](const SigningTalk& t) {
        return t.Wants.Months == 24 && t.Offer.Months > 48 && t.OffersMoreThan(15);
      },
      "I want extra money to sign for this amount of time!"},
-    {[](const Talk& t) {
+    {[](const SigningTalk& t) {
        return t.Wants.Months == 12 && t.Offer.Months > 30 && t.OffersMoreThan(20);
      },
      "I want extra money to sign for this amount of time!"},
@@ -168,8 +168,8 @@ std::string WhyNotAsOffered(const World& world, const Worker& worker, const Sign
 }
 
 std::string JudgeSigning(const Worker& worker, const Demands& demands, const SigningOffer& offer) {
-  const Talk talk{worker, demands, offer};
-  for (const Objection& objection : kObjections)
+  const SigningTalk talk{worker, demands, offer};
+  for (const SigningObjection& objection : kSigningObjections)
     if (objection.Holds(talk)) return objection.Words;
   return {};
 }

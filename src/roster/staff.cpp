@@ -72,7 +72,7 @@ std::string WhyNoRenewal(const Staff& staff) {
   return morale < 40 || loyalty < 40 ? HeOrShe(staff, " does not want to talk about staying.") : "";
 }
 
-struct Talk {
+struct StaffTalk {
   const Staff& Who;
   const StaffDemands& Wants;
   const ContractOffer& Offer;
@@ -80,29 +80,32 @@ struct Talk {
   bool IsOwn;
 };
 
-struct Objection {
-  bool (*Holds)(const Talk& t);
+struct StaffObjection {
+  bool (*Holds)(const StaffTalk& t);
   const char* Words;
 };
-constexpr Objection kObjections[] = {
-    {[](const Talk& t) {
+constexpr StaffObjection kStaffObjections[] = {
+    {[](const StaffTalk& t) {
        return t.IsOwn && t.Who.Talent > TalentCeiling(t.Size) + kPatience && t.Who.Loyalty < 70;
      },
      "No thanks, it is time for me to move on to a bigger promotion."},
-    {[](const Talk& t) { return t.Wants.Written && !t.Offer.Written; }, "I want that in writing."},
-    {[](const Talk& t) { return !t.Wants.Written && t.Offer.Written; },
+    {[](const StaffTalk& t) { return t.Wants.Written && !t.Offer.Written; },
+     "I want that in writing."},
+    {[](const StaffTalk& t) { return !t.Wants.Written && t.Offer.Written; },
      "I do not want to be bound by a written contract."},
-    {[](const Talk& t) { return t.IsOwn && t.Who.Loyalty < 50 && t.Offer.Wage < t.Wants.Wage; },
+    {[](const StaffTalk& t) {
+       return t.IsOwn && t.Who.Loyalty < 50 && t.Offer.Wage < t.Wants.Wage;
+     },
      "After all that i have done here, i want a raise."},
-    {[](const Talk& t) { return t.IsOwn && t.Offer.Wage < t.Who.Wage; },
+    {[](const StaffTalk& t) { return t.IsOwn && t.Offer.Wage < t.Who.Wage; },
      "I am not going to work for less."},
-    {[](const Talk& t) { return t.Offer.Wage < t.Wants.Wage - PercentOf(t.Wants.Wage, 10); },
+    {[](const StaffTalk& t) { return t.Offer.Wage < t.Wants.Wage - PercentOf(t.Wants.Wage, 10); },
      "I am worth more than that."},
-    {[](const Talk& t) { return t.Wants.Months == 6 && t.Offer.Months > 12; },
+    {[](const StaffTalk& t) { return t.Wants.Months == 6 && t.Offer.Months > 12; },
      "I do not want to bind myself for so long."},
-    {[](const Talk& t) { return t.Wants.Months >= 24 && t.Offer.Months < 12; },
+    {[](const StaffTalk& t) { return t.Wants.Months >= 24 && t.Offer.Months < 12; },
      "Half a year is no security. I want a longer contract."},
-    {[](const Talk& t) {
+    {[](const StaffTalk& t) {
        return t.Offer.Months > 36 && t.Offer.Wage < t.Wants.Wage + PercentOf(t.Wants.Wage, 20);
      },
      "For so many years i want a fifth on top."},
@@ -150,8 +153,8 @@ std::string WhyNoStaffOffer(const World& world, const Staff& staff) {
 
 std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
                             const ContractOffer& offer) {
-  const Talk talk{staff, demands, offer, world.Player().Size, WorksForPlayer(world, staff)};
-  for (const Objection& objection : kObjections)
+  const StaffTalk talk{staff, demands, offer, world.Player().Size, WorksForPlayer(world, staff)};
+  for (const StaffObjection& objection : kStaffObjections)
     if (objection.Holds(talk)) return objection.Words;
   return {};
 }

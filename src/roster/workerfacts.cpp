@@ -37,14 +37,11 @@ std::string StepOf(const Steps& steps, int value) {
   return steps[static_cast<std::size_t>(step > 4 ? 4 : step)];
 }
 
-std::string Number(int number) {
-  return std::to_string(number);
-}
-
 /// "A man of 34, born in June".
 template <class Person>
 std::string WhoHeIs(const Person& person) {
-  const std::string who = (person.Gender ? "A man of " : "A woman of ") + Number(person.Age);
+  const std::string who =
+      (person.Gender ? "A man of " : "A woman of ") + std::to_string(person.Age);
   const std::string month(MonthName(person.BirthMonth));
   return month.empty() ? who : who + ", born in " + month;
 }
@@ -55,7 +52,7 @@ std::string WhenTurned(const World& world, const Worker& worker) {
   const int weeks = days / 7;
   return weeks == 0   ? "Turned this week."
          : weeks == 1 ? "Turned a week ago."
-                      : "Turned " + Number(weeks) + " weeks ago.";
+                      : "Turned " + std::to_string(weeks) + " weeks ago.";
 }
 
 void AddIf(FactGroup& group, bool holds, std::string line) {
@@ -88,8 +85,9 @@ FactGroup Person(const World& world, const Worker& worker) {
   FactGroup group{worker.Name.Str(), {}};
   Add(group, WhoHeIs(worker) + (worker.Weight == "L" ? ", a lightweight." : ", a heavyweight."));
   Add(group, "Known as " + worker.ShortName + " for short.");
-  Add(group, std::string(DispositionText(worker.Disposition)) + ". Over " + Number(worker.Over) +
-                 ", charisma " + Number(worker.Charisma) + ".");
+  Add(group, std::string(DispositionText(worker.Disposition)) + ". Over " +
+                 std::to_string(worker.Over) + ", charisma " + std::to_string(worker.Charisma) +
+                 ".");
   Add(group, WhenTurned(world, worker));
   AddIf(group, worker.TurnPending, "A turn is being prepared.");
   AddIf(group, worker.SuperstarLook, "Looks like a superstar.");
@@ -97,7 +95,7 @@ FactGroup Person(const World& world, const Worker& worker) {
   Add(group, worker.Speaks ? "Can do interviews." : "Cannot do interviews.");
   AddIf(group, worker.OverFloor > 0,
         "The fans will always remember: a fall of the promotion never takes Over under " +
-            Number(worker.OverFloor) + ".");
+            std::to_string(worker.OverFloor) + ".");
   Add(group, PotentialWords(world, worker));
   AddIf(group, worker.RetiringSoon, "Has announced to retire soon.");
   AddIf(group, IsShortlisted(world, worker.Uid), "On your shortlist.");
@@ -111,13 +109,15 @@ std::string FinisherLine(const char* which, std::string_view name, FinisherType 
 
 FactGroup InTheRing(const Worker& worker) {
   FactGroup group{"In the ring", {}};
-  Add(group, "Brawl " + Number(worker.Brawl) + ", Technical " + Number(worker.Technical) +
-                 ", Speed " + Number(worker.Speed) + ".");
-  Add(group, "Stiffness " + Number(worker.Stiff) + ", selling " + Number(worker.Sell) + ".");
+  Add(group, "Brawl " + std::to_string(worker.Brawl) + ", Technical " +
+                 std::to_string(worker.Technical) + ", Speed " + std::to_string(worker.Speed) +
+                 ".");
+  Add(group, "Stiffness " + std::to_string(worker.Stiff) + ", selling " +
+                 std::to_string(worker.Sell) + ".");
   Add(group, worker.HighSpots ? "Takes the risk of high spots." : "Keeps to the ground.");
   Add(group, FinisherLine("Finisher: ", worker.Finisher1, FinisherTypeOf(worker, 1)));
   Add(group, FinisherLine("Second finisher: ", worker.Finisher2, FinisherTypeOf(worker, 2)));
-  Add(group, "Condition " + Number(worker.Condition) + "%. " + StatusLine(worker) + ".");
+  Add(group, "Condition " + std::to_string(worker.Condition) + "%. " + StatusLine(worker) + ".");
   return group;
 }
 
@@ -206,7 +206,7 @@ FactGroup Person(const Staff& staff) {
   FactGroup group{staff.Name.Str(),
                   {WhoHeIs(staff) + ".", std::string(PostText(staff.Position)) + "."}};
   AddIf(group, staff.Position != kOwner,
-        "Talent " + Number(staff.Talent) + ". " + StepOf(kTalent, staff.Talent));
+        "Talent " + std::to_string(staff.Talent) + ". " + StepOf(kTalent, staff.Talent));
   AddIf(group, staff.Booker, "Can book as well.");
   return group;
 }

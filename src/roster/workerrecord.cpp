@@ -11,18 +11,14 @@ namespace grapplemont {
 
 namespace {
 
-std::string Number(int number) {
-  return std::to_string(number);
-}
-
 std::string RecordLine(const World& world, const MatchTally& tally) {
   const int matches = tally.Won + tally.Lost + tally.Drawn;
   const std::string house = PromotionInitials(world, tally.Promotion);
   std::string text = house == "None" ? "Elsewhere" : house;
-  text += ": " + Number(tally.Won) + " won, " + Number(tally.Lost) + " lost, " +
-          Number(tally.Drawn) + " drawn";
-  if (tally.ForTitles > 0) text += ", " + Number(tally.ForTitles) + " for a Title";
-  return text + ". Rated " + Number(tally.Ratings / std::max(matches, 1)) + "% on average.";
+  text += ": " + std::to_string(tally.Won) + " won, " + std::to_string(tally.Lost) + " lost, " +
+          std::to_string(tally.Drawn) + " drawn";
+  if (tally.ForTitles > 0) text += ", " + std::to_string(tally.ForTitles) + " for a Title";
+  return text + ". Rated " + std::to_string(tally.Ratings / std::max(matches, 1)) + "% on average.";
 }
 
 bool WasIn(const HeldMatch& bout, int workerUid) {
@@ -48,7 +44,7 @@ std::string MatchLine(const FormLine& line) {
   const char* how = line.Outcome > 0 ? "beat " : line.Outcome < 0 ? "lost to " : "drew with ";
   std::string text = ShortDate(bout.On) + ": " + how + line.Against;
   if (bout.Title != "None") text += " for the " + bout.Title.Str();
-  return text + ", " + Number(bout.Rating) + "%.";
+  return text + ", " + std::to_string(bout.Rating) + "%.";
 }
 
 }  // namespace
@@ -101,7 +97,8 @@ std::vector<std::string> AwardLines(const World& world, const Worker& worker) {
   for (int number = world.Awards().Count(); number >= 1; --number) {
     const YearAward& award = world.Awards()[number];
     if (worker.Uid != 0 && (award.Worker == worker.Uid || award.Partner == worker.Uid))
-      lines.push_back(std::string(AwardName(award.Kind)) + " " + Number(YearOf(award.On)) + ".");
+      lines.push_back(std::string(AwardName(award.Kind)) + " " + std::to_string(YearOf(award.On)) +
+                      ".");
   }
   return lines;
 }

@@ -11,7 +11,7 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kDropped = 500;
+constexpr int kDroppedNotes = 500;
 
 using Night = std::pair<Day, int>;
 
@@ -47,7 +47,7 @@ void NoteFact(World& world, const NoteOf& of, int change, int now, std::string_v
   note.Change = change;
   note.Now = now;
   note.Why = why;
-  AppendRolling(world.ShowNotes(), note, kDropped);
+  AppendRolling(world.ShowNotes(), note, kDroppedNotes);
 }
 
 void NoteStep(World& world, const NoteOf& of, int change, int now, std::string_view why) {

@@ -64,7 +64,7 @@ constexpr HeatStep kHeatSteps[] = {{0, 1, 90}, {5, 4, 86}, {10, 4, 79}, {15, 6, 
 constexpr int kLeastLift = 5;
 constexpr int kLiftDraw = 5;
 
-constexpr int kTalkDraw = 15;
+constexpr int kFeudTalkDraw = 15;
 constexpr int kTalkBonus = 15;
 /// Enemies who end up in each other's arms cool down, however well they do it.
 constexpr int kAngleTarget = 15;
@@ -77,8 +77,8 @@ bool StandWhole(const Feud& feud, const Segment& segment) {
 
 int TalkTarget(SegmentRun& run) {
   if (run.Segment.Kind == kAngle) return kAngleTarget;
-  return std::min(Score::Floor(run.Crowd * 85, 100) + run.World.RandomDraw(kTalkDraw) + kTalkBonus,
-                  100);
+  return std::min(
+      Score::Floor(run.Crowd * 85, 100) + run.World.RandomDraw(kFeudTalkDraw) + kTalkBonus, 100);
 }
 
 /// By the places of an interview of that number, for angles too; the two people of an angle face

@@ -101,7 +101,7 @@ int Columns(const Arguments&, Shell& shell) {
   return 0;
 }
 
-constexpr std::string_view kIntroduction = R"(# File formats
+constexpr std::string_view kFormatsIntroduction = R"(# File formats
 
 This page is made by `grapplemont-world formats` from the lists of fields that the program itself works with.
 
@@ -223,7 +223,7 @@ std::string FileSection(const RecordLayout& layout) {
 }
 
 int Formats(const Arguments&, Shell& shell) {
-  shell.Out << kIntroduction;
+  shell.Out << kFormatsIntroduction;
   for (const TableKind& kind : TableKinds()) shell.Out << FileSection(*kind.Layout);
   return 0;
 }

@@ -14,7 +14,6 @@ constexpr int kFaceAgainstHeel = 20, kWithATweener = 10, kTwoAlike = -4, kTwoHee
 /// Further apart than this in Over, and nobody believes in the outcome.
 constexpr int kCloseCall = 8, kNoContestGap = 30;
 constexpr int kSameWeight = 3;
-constexpr int kVariety = 14;
 /// A star who is fresh and left out takes it to heart.
 constexpr int kRestless = 6, kFresh = 86;
 /// So many points of condition are worth one: everybody has his turn.

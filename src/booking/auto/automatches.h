@@ -22,6 +22,8 @@ bool InOneCorner(const World& world, const Worker& a, const Worker& b);
 int ContrastOf(const Worker& a, const Worker& b);
 /// How good a match the two would make; far below 0 for what nobody wants to see. Draws once.
 int PairScore(AutoPlan& plan, const Worker& a, const Worker& b);
+/// Luck of one worker or pair: 1 to this.
+inline constexpr int kVariety = 14;
 /// A score below this is no match.
 inline constexpr int kNoPair = -50;
 

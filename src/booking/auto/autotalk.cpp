@@ -107,7 +107,6 @@ Segment NewInterview(int style, const std::vector<int>& speakers, int manager,
   return talk;
 }
 
-constexpr int kVariety = 14;
 /// One who does not wrestle tonight should be seen all the same.
 constexpr int kUnseen = 10;
 /// How much of the talk is angles, in a hundred, where the writers allow them.

@@ -13,11 +13,11 @@ namespace {
 using Paragraph = ui::Report::Paragraph;
 using Style = ui::Report::Style;
 
-struct Skill {
+struct StatRow {
   const char* Name;
   Percent Worker::*Value;
 };
-constexpr Skill kSkills[] = {
+constexpr StatRow kSkills[] = {
     {"Over", &Worker::Over},           {"Brawl", &Worker::Brawl},
     {"Technical", &Worker::Technical}, {"Speed", &Worker::Speed},
     {"Stiff", &Worker::Stiff},         {"Sell", &Worker::Sell},
@@ -107,7 +107,7 @@ class frmQuickStat : public GameScreen {
   void ShowWorker() {
     const Worker* worker = world().FindWorker(lstwres.Key());
     std::vector<ui::ListBox::Row> rows;
-    for (const Skill& skill : kSkills)
+    for (const StatRow& skill : kSkills)
       if (worker)
         rows.push_back(
             {{skill.Name, ui::Cell(int(worker->*skill.Value))}, static_cast<int>(rows.size()) + 1});

@@ -120,10 +120,10 @@ void CheckPurpose(Reasons& reasons, const World& world, const Segment& match, co
     reasons.push_back("The match cannot have this purpose.");
 }
 
-using Check = void (*)(Reasons&, const World&, const Segment&, const BookingView&);
+using CheckOf = void (*)(Reasons&, const World&, const Segment&, const BookingView&);
 /// What each step of a match asks, from the style on.
-constexpr Check kMatchChecks[] = {CheckType,   CheckPeople,    CheckTitle,  CheckResult,
-                                  CheckFinish, CheckAftermath, CheckPurpose};
+constexpr CheckOf kMatchChecks[] = {CheckType,   CheckPeople,    CheckTitle,  CheckResult,
+                                    CheckFinish, CheckAftermath, CheckPurpose};
 
 Reasons WhyNotMatch(const World& world, const Segment& match, const BookingView& view) {
   // What stands against an earlier step makes a later one's answers worth nothing.
@@ -202,11 +202,11 @@ void CheckTalkPurpose(Reasons& reasons, const World& world, const Segment& inter
 }
 
 /// What each step of an interview asks, from its people on.
-constexpr Check kTalkChecks[] = {CheckSpeakers, CheckTargets, CheckTalkPurpose};
+constexpr CheckOf kTalkChecks[] = {CheckSpeakers, CheckTargets, CheckTalkPurpose};
 
 void CheckInterview(Reasons& reasons, const World& world, const Segment& interview,
                     const BookingView& view) {
-  for (const Check check : kTalkChecks) check(reasons, world, interview, view);
+  for (const CheckOf check : kTalkChecks) check(reasons, world, interview, view);
   if (interview.TitleName != "None" || interview.Text != "None")
     reasons.push_back("An interview is for no Title and has no text.");
 }

@@ -7,7 +7,6 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr double kMiddle = 50;
 const QColor kShirt(0xEDEAE2), kDarkCloth(0x2B2F37), kGreyCloth(0x4B515B), kMetal(0xC6CBD3);
 
 QPainterPath Polygon(std::initializer_list<QPointF> points) {

@@ -8,8 +8,6 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr double kMiddle = 50;
-
 /// Reads the numbers of a shape's text.
 class Reader {
  public:

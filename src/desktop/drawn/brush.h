@@ -9,6 +9,9 @@
 
 namespace grapplemont::desktop {
 
+/// Everything is drawn on a square of 100 by 100.
+inline constexpr double kMiddle = 50;
+
 /// A number from 0 to below 1 that belongs to a uid and a word, the same for ever. Each choice has
 /// a word of its own, so that a new one changes no old picture.
 double Lot(int uid, std::string_view word);

@@ -8,7 +8,7 @@ namespace {
 
 using ui::Mood;
 
-constexpr double kMiddle = 50, kEyeLine = 44.6;
+constexpr double kEyeLine = 44.6;
 const QColor kDark(0x241D1F), kWhite(0xF6F3EC), kTeeth(0xF4F1EA);
 
 /// How far from the middle the eyes stand.

@@ -6,7 +6,6 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr double kMiddle = 50;
 const QColor kDark(0x241D1F), kLens(0x23262C), kFrame(0x2A2D34), kFelt(0x5A4632);
 
 /// What is left when the crown has gone.

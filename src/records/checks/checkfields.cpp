@@ -15,15 +15,15 @@
 
 namespace grapplemont {
 
-namespace {
-
-std::string Quoted(std::string_view text) {
+std::string QuotedText(std::string_view text) {
   std::string quoted = "\"" + std::string(text) + "\"";
   std::replace_if(
       quoted.begin(), quoted.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; },
       ' ');
   return quoted;
 }
+
+namespace {
 
 Remedy MakeNumber(const Field& field, const Place& place, int index, long long value) {
   return {"made " + std::to_string(value),
@@ -102,8 +102,8 @@ void InspectText(Inspection& inspection, const Place& place, const Field& field,
   }
   if (field.Words.empty() || !Says(field.Words, text).empty()) return;
   const std::string code(field.Words[0].Stored);
-  inspection.NoteField(place, FieldName(field, index), "is " + Quoted(text) + ", no known code",
-                       {"made " + Quoted(code), [&field, &place, index, code] {
+  inspection.NoteField(place, FieldName(field, index), "is " + QuotedText(text) + ", no known code",
+                       {"made " + QuotedText(code), [&field, &place, index, code] {
                           SetFieldText(field, place.Record, index, code);
                         }});
 }

@@ -25,10 +25,6 @@ bool IsNone(std::string_view name) {
   return name.empty() || name == "None";
 }
 
-std::string Quoted(std::string_view text) {
-  return "\"" + std::string(text) + "\"";
-}
-
 }  // namespace
 
 void UnsackableHasEmployerAndNoEnd(Inspection& inspection) {
@@ -69,7 +65,7 @@ void StablesOfTheEmployer(Inspection& inspection) {
     if (std::any_of(begin, end, [&](auto& owned) { return owned.second == worker.Employer; }))
       continue;
     inspection.Note(world.Workers(), worker, "Stable",
-                    "is " + Quoted(worker.Stable) + ", no stable of his promotion",
+                    "is " + QuotedText(worker.Stable) + ", no stable of his promotion",
                     {"made \"None\"", [&worker] { worker.Stable = "None"; }});
   }
 }
@@ -83,7 +79,7 @@ void SplitsOfTheEmployer(Inspection& inspection) {
                                 [&](const auto& split) { return split == worker.Split; }))
       continue;
     inspection.Note(world.Workers(), worker, "Split",
-                    "is " + Quoted(worker.Split) + ", no part of his promotion's roster",
+                    "is " + QuotedText(worker.Split) + ", no part of his promotion's roster",
                     {"made \"None\"", [&worker] { worker.Split = "None"; }});
   }
 }

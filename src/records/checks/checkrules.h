@@ -17,6 +17,9 @@ void RemoveWrong(Inspection& inspection, Records<T>& records, std::string_view f
   removal.Apply();
 }
 
+/// A text of a record in quotes, without what a terminal would obey.
+std::string QuotedText(std::string_view text);
+
 // Files and fields, by the field lists.
 void WholeRecords(Inspection& inspection);
 void FieldsHoldWhatTheyMay(Inspection& inspection);

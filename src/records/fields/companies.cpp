@@ -22,7 +22,7 @@ namespace {
       BOOK(month, AdvertisingCost, name, "Advertising " when),    \
       BOOK(month, MerchCost, name, "Cost of merchandise " when)
 
-constexpr Field kFields[] = {
+constexpr Field kPromotionFields[] = {
     PROMOTION(Uid).In(1, 32767).Key().Means(
         "The number by which other records know the promotion."),
     PROMOTION(Active).Means("Set for every promotion that exists."),
@@ -63,7 +63,7 @@ constexpr Field kFields[] = {
 
 }  // namespace
 
-GM_LAYOUT(Promotion, "promos.dat", 35, kFields)
+GM_LAYOUT(Promotion, "promos.dat", 35, kPromotionFields)
 
 std::string_view SizeText(int size) {
   return Says(kSizes, size);

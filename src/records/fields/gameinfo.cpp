@@ -8,7 +8,7 @@ namespace {
 #define JOB(member) GM_PART(GameInfo, Jobs, Job, member, "Job#" #member)
 #define MAIL(member) GAME(member).In(0, 2).From(kMailOptions)
 
-constexpr Field kFields[] = {
+constexpr Field kGameInfoFields[] = {
     GAME(PlayerName).Means("The player's name."),
     GAME(Reputation).Counts("percent").Means("The player's standing."),
     GAME(StartDate).Means("The day the game began."),
@@ -49,7 +49,7 @@ constexpr Field kFields[] = {
 
 }  // namespace
 
-GM_LAYOUT(GameInfo, "gameinfo.dat", 1, kFields)
+GM_LAYOUT(GameInfo, "gameinfo.dat", 1, kGameInfoFields)
 
 bool HasEnded(const GameInfo& game) {
   return game.EndCode > kGoesOn && game.EndCode <= kLastEnd;

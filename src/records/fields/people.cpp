@@ -7,7 +7,7 @@ namespace grapplemont {
 namespace {
 
 #define WORKER(member) GM_FIELD(Worker, member)
-constexpr Field kFields[] = {
+constexpr Field kWorkerFields[] = {
     WORKER(Uid).In(1, 32767).Key().Means("The number by which other records know the worker."),
     WORKER(Name).Key().Means("Full name."),
     WORKER(ShortName).Means("The name that reports use."),
@@ -66,7 +66,7 @@ constexpr Field kFields[] = {
 
 }  // namespace
 
-GM_LAYOUT(Worker, "wrestler.dat", 25000, kFields)
+GM_LAYOUT(Worker, "wrestler.dat", 25000, kWorkerFields)
 
 bool IsRosterPosition(int position) {
   return position >= kMainEvent && position <= kJobber;

@@ -11,7 +11,7 @@ namespace grapplemont {
 
 namespace {
 
-constexpr std::string_view kMark = "GMFRSTEP";
+constexpr std::string_view kStepMark = "GMFRSTEP";
 constexpr std::uint64_t kWasThere = 1, kIsThere = 2;
 
 std::string StepPath(const std::string& folder) {
@@ -30,13 +30,13 @@ Bytes Pack(const DataStep& step) {
     if (file.After) body.Put(ByteSpan(*file.After));
   }
   Packer packed;
-  packed.Put(kMark);
+  packed.Put(kStepMark);
   packed.Put(Checksum(body.Packed()));
   packed.Put(ByteSpan(body.Packed()));
   return std::move(packed).Packed();
 }
 
-std::optional<StepFile> UnpackFile(Unpacker& in) {
+std::optional<StepFile> UnpackStep(Unpacker& in) {
   StepFile file;
   file.Name = in.GetText<std::uint64_t>();
   const auto flags = in.Get<std::uint64_t>(), before = in.Get<std::uint64_t>();
@@ -51,14 +51,14 @@ std::optional<StepFile> UnpackFile(Unpacker& in) {
 /// Nothing for bytes that are no whole step.
 std::optional<DataStep> Unpack(ByteSpan bytes) {
   Unpacker in(bytes);
-  const ByteSpan mark = in.Take(kMark.size());
+  const ByteSpan mark = in.Take(kStepMark.size());
   const auto sum = in.Get<std::uint64_t>();
-  if (!in.Whole() || std::memcmp(mark.data(), kMark.data(), kMark.size()) != 0 ||
+  if (!in.Whole() || std::memcmp(mark.data(), kStepMark.data(), kStepMark.size()) != 0 ||
       sum != Checksum(in.Left()))
     return std::nullopt;
   DataStep step;
   for (auto left = in.Get<std::uint64_t>(); left > 0; --left) {
-    auto file = UnpackFile(in);
+    auto file = UnpackStep(in);
     if (!file) return std::nullopt;
     step.push_back(*std::move(file));
   }

@@ -14,9 +14,9 @@ namespace grapplemont {
 
 namespace {
 
-constexpr std::string_view kMark = "GMFRSLOT";
-constexpr std::uint32_t kFormat = 1;
-constexpr std::size_t kHead = kMark.size() + sizeof(std::uint32_t) + sizeof(std::uint64_t);
+constexpr std::string_view kSlotMark = "GMFRSLOT";
+constexpr std::uint32_t kSlotFormat = 1;
+constexpr std::size_t kHead = kSlotMark.size() + sizeof(std::uint32_t) + sizeof(std::uint64_t);
 
 }  // namespace
 
@@ -35,8 +35,8 @@ std::vector<NewFile> ReadSlot(Disk& disk, const std::string& folder) {
 
 Bytes PackSlot(const std::vector<NewFile>& files) {
   Packer out;
-  out.Put(kMark);
-  out.Put(kFormat);
+  out.Put(kSlotMark);
+  out.Put(kSlotFormat);
   out.Put(std::uint64_t{0});
   out.Put(static_cast<std::uint32_t>(files.size()));
   for (const NewFile& file : files) {
@@ -52,9 +52,9 @@ Bytes PackSlot(const std::vector<NewFile>& files) {
 std::vector<NewFile> UnpackSlot(ByteSpan bytes, const std::string& path) {
   Unpacker in(bytes);
   const std::string file = ForScreen(path);
-  if (!std::ranges::equal(in.Take(kMark.size()), std::as_bytes(std::span(kMark))))
+  if (!std::ranges::equal(in.Take(kSlotMark.size()), std::as_bytes(std::span(kSlotMark))))
     throw WorldFault(file + " is no saved game that was exported. Choose another file.");
-  if (in.Get<std::uint32_t>() != kFormat)
+  if (in.Get<std::uint32_t>() != kSlotFormat)
     throw WorldFault(file + " was exported by another version of the game and cannot be read.");
   const auto checksum = in.Get<std::uint64_t>();
   bool sound = in.Whole() && checksum == Checksum(in.Left());

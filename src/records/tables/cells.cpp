@@ -19,7 +19,6 @@ namespace {
 constexpr char kLiteral = '\\';
 // A date that no calendar day with a fraction can express exactly is written as its bare day count.
 constexpr char kDayCount = '@';
-constexpr std::string_view kNone = "none";
 
 /// The field's letters without the blanks that fill it up; those in front belong to it.
 std::string_view RawText(const Column& column, const std::byte* record) {
@@ -101,11 +100,11 @@ Vocabulary WordsOf(const Field& field) {
 
 std::string RangeText(const Field& field) {
   return std::to_string(field.Min) + " to " + std::to_string(field.Max) +
-         (field.MayBeNone ? " or " + std::string(kNone) : "");
+         (field.MayBeNone ? " or " + std::string(kNoneCell) : "");
 }
 
 std::string TakeNumber(const Field& field, int index, std::string_view cell, std::byte* record) {
-  if (field.MayBeNone && SameWords(cell, kNone)) {
+  if (field.MayBeNone && SameWords(cell, kNoneCell)) {
     SetFieldNumber(field, record, index, kNoEnd);
     return {};
   }
@@ -156,7 +155,7 @@ std::string TakeText(const Field& field, int index, std::string_view cell, std::
 }
 
 std::string NumberText(const Field& field, long long number) {
-  if (field.MayBeNone && number == kNoEnd) return std::string(kNone);
+  if (field.MayBeNone && number == kNoEnd) return std::string(kNoneCell);
   const Vocabulary words = WordsOf(field);
   const std::string_view says =
       words.empty() ? std::string_view() : Says(words, static_cast<int>(number));

@@ -10,6 +10,9 @@
 
 namespace grapplemont {
 
+/// What a table says for a field that may hold nobody or no end.
+inline constexpr std::string_view kNoneCell = "none";
+
 /// The cell from which TakeCell makes the very same bytes again.
 std::string CellOf(const TableKind& kind, const Column& column, const std::byte* record);
 

@@ -29,7 +29,6 @@ constexpr std::array<Target, 5> kTargets = {
      {Refers::Sponsor, LayoutOf<Sponsor>, "Name", "sponsor", "name"}}};
 
 constexpr char kNumberMark = '#';
-constexpr std::string_view kNone = "none";
 /// Names that mistakes may be compared with in all.
 constexpr std::size_t kMostCompared = 100'000;
 
@@ -58,7 +57,7 @@ std::optional<int> NumberOf(std::string_view cell) {
 
 /// Whether a cell of this name is read as a name.
 bool ReadsAsName(std::string_view name) {
-  return !name.empty() && name.front() != kNumberMark && name != kNone;
+  return !name.empty() && name.front() != kNumberMark && name != kNoneCell;
 }
 
 }  // namespace
@@ -96,7 +95,7 @@ std::string TableNames::CellOf(const Column& column, const std::byte* record) co
   const Field& field = *column.Of;
   const int uid = static_cast<int>(FieldNumber(field, record, column.Index));
   if (uid == 0) return {};
-  if (field.MayBeNone && uid == kNoEnd) return std::string(kNone);
+  if (field.MayBeNone && uid == kNoEnd) return std::string(kNoneCell);
   const Index& index = IndexOf(field, record);
   const auto name = index.Names.find(uid);
   const bool byName =
@@ -113,7 +112,7 @@ bool TableNames::Take(const Column& column, std::string_view cell, std::byte* re
     return true;
   };
   if (cell.empty()) return put(0);
-  if (field.MayBeNone && cell == kNone) return put(kNoEnd);
+  if (field.MayBeNone && cell == kNoneCell) return put(kNoEnd);
   const Index& index = IndexOf(field, record);
   if (cell.front() == kNumberMark) {
     const auto uid = NumberOf(cell);

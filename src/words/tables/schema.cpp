@@ -246,6 +246,7 @@ TableFile Guide() {
                     {"Done", Choice, "GuideDone::Seen", "GuideDone::", {"Signed", "Feud", "Show"}},
                     {"Title"},
                     {"Says"}},
+        .Keys = {"Tour", "Title"},
         .Arrays =
             {{"guide", "GuideStep", "kGuideSteps", {"Tour", "Screen", "Done", "Title", "Says"}}}}},
       {}};
