@@ -69,5 +69,6 @@ function(words)
     DEPENDS embed-words ${texts}
     COMMENT "Reading words/"
     VERBATIM)
-  set_source_files_properties(${units} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+  set_source_files_properties(${units} PROPERTIES SKIP_PRECOMPILE_HEADERS ON
+                                                  SKIP_UNITY_BUILD_INCLUSION ON)
 endfunction()

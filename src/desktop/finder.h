@@ -25,7 +25,7 @@ class Finder : public Veil {
   };
   struct Sources {
     std::vector<Entry> Commands;
-    ui::Search Names;
+    ui::NameSearch Names;
     std::vector<Entry> Recent;  // the last first
   };
   Finder(QWidget* ground, Sources sources);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
-constexpr int kGap = 14;          // between head, body and foot
+constexpr int kPartGap = 14;      // between head, body and foot
 constexpr int kLeastTitle = 260;  // what the title has beside actions
 
 bool IsBackdropFile(const std::string& file) {
@@ -135,7 +135,7 @@ void ScreenView::DressPictures() {
 void ScreenView::BuildPage() {
   const bool cover = screen_->Is() == ui::Role::Cover;
   const int side = cover ? kCoverSide : kPageSide;
-  auto* rows = NewLayout<QVBoxLayout>(this, kGap, {side, cover ? side : 18, side, side});
+  auto* rows = NewLayout<QVBoxLayout>(this, kPartGap, {side, cover ? side : 18, side, side});
   rows->addLayout(BuildHead());
   BuildBody(rows);
   tail_->addLayout(
@@ -148,7 +148,7 @@ void ScreenView::BuildPage() {
 }
 
 void ScreenView::BuildDialog() {
-  auto* rows = NewLayout<QVBoxLayout>(this, kGap);
+  auto* rows = NewLayout<QVBoxLayout>(this, kPartGap);
   rows->addLayout(BuildHead());
   BuildBody(rows);
   rows->addLayout(BuildActions());

@@ -14,7 +14,7 @@ namespace {
 constexpr int kWidth = 188;
 constexpr int kCommandLine = 26, kLeastLine = 21, kHeading = 28, kLeastHeading = 22;
 constexpr int kSide = 16;
-constexpr int kLogo = 48, kGap = 8, kFoot = 12;  // what stands above and below the lines
+constexpr int kLogo = 48, kBarGap = 8, kFoot = 12;  // what stands above and below the lines
 
 class Heading : public QWidget {
  public:
@@ -74,8 +74,8 @@ QFont SideLine::CaptionFont() const {
 }
 
 int SideLine::TailWidth() const {
-  if (!badge_.isEmpty()) return BadgeWidth() + Px(kGap);
-  return key_.isEmpty() ? 0 : QFontMetrics(TextFont(11)).horizontalAdvance(key_) + Px(kGap);
+  if (!badge_.isEmpty()) return BadgeWidth() + Px(kBarGap);
+  return key_.isEmpty() ? 0 : QFontMetrics(TextFont(11)).horizontalAdvance(key_) + Px(kBarGap);
 }
 
 int SideLine::WidthWanted() const {
@@ -151,7 +151,7 @@ SideBar::SideBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(
   search->SetQuiet();
   search->setObjectName("searcheverything");
   connect(search, &QAbstractButton::clicked, this, [this] { Search(); });
-  rows->addSpacing(Px(kGap));
+  rows->addSpacing(Px(kBarGap));
   rows->addWidget(search);
   for (const ui::SideGroup& group : page.Side)
     if (group.Title.empty())
@@ -189,7 +189,7 @@ void SideBar::FitLines() {
   const int lines = static_cast<int>(std::ranges::count_if(
       commands_, [this](const Command* command) { return command->parentWidget() == middle_; }));
   const int headings = static_cast<int>(headings_.size());
-  const int room = height() - Px(kLogo) - Px(kFoot) - Px(kGap) -
+  const int room = height() - Px(kLogo) - Px(kFoot) - Px(kBarGap) -
                    Px(kCommandLine) * (static_cast<int>(commands_.size()) - lines + 1);
   const int wanted = lines * Px(kCommandLine) + headings * Px(kHeading);
   const double fit = std::min(1.0, static_cast<double>(room) / std::max(1, wanted));

@@ -15,7 +15,7 @@ constexpr std::string_view kOnAir = "show network weeks rating audience needed r
 
 // In the order of Point: what it is about, how urgent it is, who makes it, the screen where it is
 // done, what its lines in words/meeting.txt may name.
-constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
+constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kPointRows = {{
     {P::RosterSmall, Roster, Soon, kRoadAgent, "frmOtherWres", "people n least most missing"},
     {P::RosterLarge, Roster, Watch, kRoadAgent, "frmRoster", "n most loss"},
     {P::PositionThin, Roster, Soon, kRoadAgent, "frmRoster", "place n remedy"},
@@ -105,8 +105,8 @@ constexpr std::array<PointRow, static_cast<std::size_t>(P::kCount)> kRows = {{
 }};
 
 constexpr bool IsInOrder() {
-  for (std::size_t i = 0; i < kRows.size(); ++i)
-    if (kRows[i].Is != static_cast<Point>(i)) return false;
+  for (std::size_t i = 0; i < kPointRows.size(); ++i)
+    if (kPointRows[i].Is != static_cast<Point>(i)) return false;
   return true;
 }
 static_assert(IsInOrder());
@@ -132,11 +132,11 @@ constexpr StandIn kStandIns[] = {{kOwner, "The Board"},
 }  // namespace
 
 const PointRow& RowOf(Point point) {
-  return kRows[static_cast<std::size_t>(point)];
+  return kPointRows[static_cast<std::size_t>(point)];
 }
 
 std::span<const PointRow> PointRows() {
-  return kRows;
+  return kPointRows;
 }
 
 std::string_view StandInFor(int post) {

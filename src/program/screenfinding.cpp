@@ -205,7 +205,7 @@ void AddTerms(Game& game, std::string_view typed, std::size_t most,
 }  // namespace
 
 void ConnectFinding(Game& game) {
-  game.Desk().BeginSearch = [&game]() -> ui::Search {
+  game.Desk().BeginSearch = [&game]() -> ui::NameSearch {
     const auto names = game.HasWorld() ? std::make_shared<NameSearch>(game.World()) : nullptr;
     return [&game, names](std::string_view typed, std::size_t most) {
       std::vector<ui::Finding> findings;

@@ -10,6 +10,9 @@ namespace grapplemont {
 
 World::World(std::unique_ptr<Draws> chance, std::unique_ptr<Draws> prose)
     : chance_(std::move(chance)), prose_(std::move(prose)) {}
+World::World(World&&) = default;
+World& World::operator=(World&&) = default;
+World::~World() = default;
 
 GameInfo& World::Game() {
   return const_cast<GameInfo&>(std::as_const(*this).Game());

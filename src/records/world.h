@@ -34,6 +34,9 @@ class World {
   /// result.
   explicit World(std::unique_ptr<Draws> chance = std::make_unique<SeededDraws>(1),
                  std::unique_ptr<Draws> prose = std::make_unique<SeededDraws>(2));
+  World(World&&);
+  World& operator=(World&&);
+  ~World();
 
   template <class T>
   Records<T>& Of() {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "records/fields/companies.h"
 #include "records/fields/fields.h"
 #include "records/fields/outside.h"
 #include "records/store/disk.h"

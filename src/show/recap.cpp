@@ -60,6 +60,8 @@ std::string SegmentResult(const World& world, const Segment& segment) {
   return SideText(world, WinnersOf(segment)) + " won a " + won;
 }
 
+namespace {
+
 using ShowKey = std::pair<Day, int>;
 
 ShowKey KeyOf(const ReportPart& part) {

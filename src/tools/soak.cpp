@@ -82,7 +82,7 @@ Json PlayerState(const World& world) {
 }
 
 constexpr Day kStart{std::chrono::year{2026} / 1 / 1};
-constexpr std::uint64_t kMostSeeds = 10000, kMostDays = 40000;
+constexpr std::uint64_t kMostSeeds = 10000, kMostSoakDays = 40000;
 
 /// One career: whose chair, which chance, what becomes of its shows.
 struct Plan {
@@ -158,7 +158,7 @@ int Soak(const Arguments& arguments, Shell& shell) {
   if (data.HasGame())
     throw WorldFault(arguments.Place(0) + " holds a saved game, no default data.");
   const std::uint64_t seeds = arguments.Number("--seeds", 1, kMostSeeds).value_or(1);
-  const int days = static_cast<int>(arguments.Number("--days", 1, kMostDays).value_or(365));
+  const int days = static_cast<int>(arguments.Number("--days", 1, kMostSoakDays).value_or(365));
   Soaking soaking(data, shell);
   for (std::uint64_t seed = 1; seed <= seeds; ++seed)
     for (const Promotion& promotion : data.Promotions())

@@ -13,7 +13,7 @@ std::string Quoted(std::string_view text) {
 }
 
 /// Does an act to a control that is there for the player; else why it cannot be done.
-std::string Reach(Screen& screen, std::string_view name,
+std::string OnControl(Screen& screen, std::string_view name,
                   const std::function<std::string(Control&)>& act) {
   Control* control = screen.Find(name);
   if (!control) return screen.Name() + " has no control " + Quoted(name) + ".";
@@ -31,7 +31,7 @@ std::string CannotBe(const Control& control, std::string_view action) {
 template <class C>
 std::string ReachA(Screen& screen, std::string_view name, std::string_view action,
                    const std::function<std::string(C&)>& act) {
-  return Reach(screen, name, [&](Control& control) {
+  return OnControl(screen, name, [&](Control& control) {
     auto* of = dynamic_cast<C*>(&control);
     return of ? act(*of) : CannotBe(control, action);
   });
@@ -73,7 +73,7 @@ std::string NoRow(const Control& control, const Wanted& wanted) {
 }
 
 std::string PickRow(Desk& desk, Screen& screen, std::string_view name, const Wanted& wanted) {
-  return Reach(screen, name, [&](Control& control) -> std::string {
+  return OnControl(screen, name, [&](Control& control) -> std::string {
     auto* combo = dynamic_cast<ComboBox*>(&control);
     auto* list = dynamic_cast<ListBox*>(&control);
     if (!combo && !list) return CannotBe(control, "picked from");
@@ -125,7 +125,7 @@ std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, const Wan
 }  // namespace
 
 std::string Click(Desk& desk, Screen& screen, std::string_view name) {
-  return Reach(screen, name, [&](Control& control) -> std::string {
+  return OnControl(screen, name, [&](Control& control) -> std::string {
     auto* button = dynamic_cast<Button*>(&control);
     auto* picture = dynamic_cast<Picture*>(&control);
     if (const auto* box = dynamic_cast<CheckBox*>(&control))
@@ -184,7 +184,7 @@ std::string MoveRow(Desk& desk, Screen& screen, std::string_view name, int row, 
 }
 
 std::string Check(Desk& desk, Screen& screen, std::string_view name, bool on) {
-  return Reach(screen, name, [&](Control& control) -> std::string {
+  return OnControl(screen, name, [&](Control& control) -> std::string {
     auto* box = dynamic_cast<CheckBox*>(&control);
     auto* option = dynamic_cast<OptionButton*>(&control);
     if (!box && !option) return CannotBe(control, "checked");

@@ -86,7 +86,7 @@ std::vector<Link> Desk::LinksIn(std::string_view text) const {
   return FindLinks && !text.empty() ? FindLinks(text) : std::vector<Link>();
 }
 
-Search Desk::NewSearch() const {
+NameSearch Desk::NewSearch() const {
   if (BeginSearch) return BeginSearch();
   return [](std::string_view, std::size_t) { return std::vector<Finding>(); };
 }

@@ -29,7 +29,7 @@ struct Finding {
 };
 /// Finds by a few typed letters, the best first, at most so many under a heading. Made for one
 /// search: it knows the names as they were then.
-using Search = std::function<std::vector<Finding>(std::string_view typed, std::size_t most)>;
+using NameSearch = std::function<std::vector<Finding>(std::string_view typed, std::size_t most)>;
 
 /// Where help comes from, once there are pages for it.
 struct HelpPages {
@@ -101,9 +101,9 @@ class Desk {
   std::vector<Link> LinksIn(std::string_view text) const;
 
   /// Begins a search of all that has a name, a page or a meaning; set once there are pages.
-  std::function<Search()> BeginSearch;
+  std::function<NameSearch()> BeginSearch;
   /// One that finds nothing until BeginSearch has been set.
-  Search NewSearch() const;
+  NameSearch NewSearch() const;
 
   HelpPages Help;
   /// Opens the help for the top screen; false where there is none.

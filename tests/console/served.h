@@ -29,7 +29,7 @@ class Served {
         links.push_back({at, kBram.size(), [this] { Log.push_back("page of Bram"); }});
       return links;
     };
-    desk.BeginSearch = [this]() -> ui::Search {
+    desk.BeginSearch = [this]() -> ui::NameSearch {
       return [this](std::string_view typed, std::size_t) {
         std::vector<ui::Finding> found;
         if (typed == "bram")

@@ -247,7 +247,7 @@ TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
 }
 
 TEST_F(TheWindow, FindsNamesUnderHeadingsAndRemembersWhatWasChosen) {
-  Play.Desk.BeginSearch = [this]() -> ui::Search {
+  Play.Desk.BeginSearch = [this]() -> ui::NameSearch {
     return [this](std::string_view typed, std::size_t) {
       std::vector<ui::Finding> found;
       for (const char* name : {"Bram Okafor", "Bramwell Fox"})

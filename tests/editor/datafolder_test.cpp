@@ -161,7 +161,7 @@ void ExpectAsTold(const std::string& told, const Files& before, const Files& aft
 /// More than it makes, its backup included.
 constexpr int kCallsOfACommit = 250;
 
-class Failing : public testing::TestWithParam<std::tuple<Fault, bool>> {};
+class Failing : public testing::TestWithParam<std::tuple<DiskFault, bool>> {};
 
 TEST_P(Failing, DisksLeaveWhatThePlayerIsTold) {
   const auto [fault, forGood] = GetParam();
@@ -197,12 +197,12 @@ TEST_P(Failing, DisksLeaveWhatThePlayerIsTold) {
     DataFolder data(next, kData);
     ExpectAsTold(told, BytesOf(before), after, BytesOf(data.World()), std::to_string(call));
   }
-  EXPECT_GE(failures, fault == Fault::NoSpace ? 20 : 60);
+  EXPECT_GE(failures, fault == DiskFault::NoSpace ? 20 : 60);
   EXPECT_LT(failures, kCallsOfACommit) << "longer than every commit";
 }
 
 INSTANTIATE_TEST_SUITE_P(OnceOrForGood, Failing,
-                         testing::Combine(testing::Values(Fault::NoSpace, Fault::Broken),
+                         testing::Combine(testing::Values(DiskFault::NoSpace, DiskFault::Broken),
                                           testing::Bool()));
 
 /// Cuts the opening short too; then the old set or the new one is there, and is taken on from.
@@ -305,7 +305,7 @@ TEST(AFailedSave, IsToldTakenBackAndCanBeTriedAgain) {
     desk.Open("frmEditWres");
     desk.Click("cmdnew");
     desk.Type("txtname", "Bram Okafor");
-    disk.FailCall(call, Fault::Broken, false);
+    disk.FailCall(call, DiskFault::Broken, false);
     desk.ExpectSay("Error!", kAnyText);
     desk.Click("cmdsave");
     EXPECT_TRUE(disk.HasFailed());

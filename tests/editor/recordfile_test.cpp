@@ -41,7 +41,7 @@ TEST(RecordFile, ABrokenDiskIsARemark) {
   CutDisk disk;
   disk.MakeFolder("data");
   Put(disk, "data/newtv.dat", 100);
-  disk.FailCall(1, Fault::Broken, true);
+  disk.FailCall(1, DiskFault::Broken, true);
   const auto file = ReadRecordFile<Show>(disk, "data", "newtv.dat");
   EXPECT_TRUE(file.Records.empty());
   EXPECT_NE(file.Remark.find("data/newtv.dat"), std::string::npos) << file.Remark;
@@ -92,7 +92,7 @@ TEST(TablesFolder, AFolderThatCannotBeFilledIsGoneAgain) {
   ExportTables(counting, "tables", world);
   for (int call = 2; call < counting.Calls(); call += 7) {
     CutDisk disk;
-    disk.FailCall(call, Fault::NoSpace, true);
+    disk.FailCall(call, DiskFault::NoSpace, true);
     bool failed = false;
     try {
       ExportTables(disk, "tables", world);

@@ -138,12 +138,14 @@ CutDisk GameOnDisk() {
 }
 
 struct FaultCase {
-  Fault Kind;
+  DiskFault Kind;
   bool ForGood;
 };
 
-constexpr FaultCase kFaults[] = {
-    {Fault::NoSpace, false}, {Fault::NoSpace, true}, {Fault::Broken, false}, {Fault::Broken, true}};
+constexpr FaultCase kFaults[] = {{DiskFault::NoSpace, false},
+                                 {DiskFault::NoSpace, true},
+                                 {DiskFault::Broken, false},
+                                 {DiskFault::Broken, true}};
 
 /// The click fails at each of its disk calls in turn: there is a message, the world in memory and
 /// the one on disk are committed ones, and once the disk answers again the game goes on.

@@ -47,7 +47,9 @@ TEST_F(FindingTest, OpensThePageOrTheRowOfWhateverIsFound) {
     SCOPED_TRACE(row.Name);
     Open(row.Name);
     EXPECT_EQ(desk.TopName(), row.Screen);
-    if (*row.List) EXPECT_EQ(Picked(row.List), row.Name);
+    if (*row.List) {
+      EXPECT_EQ(Picked(row.List), row.Name);
+    }
     desk.Close(*desk.Top());
   }
   Open("Sunday Slam");

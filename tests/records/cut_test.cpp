@@ -167,7 +167,7 @@ BadCuts BadCutsAfterFailedSyncs(JournalQuirks quirks) {
   BadCuts all;
   for (int call = 1; call <= 240; ++call) {
     const Story story = TellStory(
-        8, 131, quirks, [&](CutDisk& disk) { disk.FailCall(call, Fault::Broken, false); });
+        8, 131, quirks, [&](CutDisk& disk) { disk.FailCall(call, DiskFault::Broken, false); });
     all.Add(CountBadCuts(story, 1, 131, story.Recorded.FailedAt()),
             "call " + std::to_string(call) + " failed; ");
   }

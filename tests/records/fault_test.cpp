@@ -12,7 +12,7 @@ namespace grapplemont::test {
 namespace {
 
 struct Trouble {
-  Fault Kind;
+  DiskFault Kind;
   bool ForGood;
 };
 
@@ -183,10 +183,10 @@ TEST_P(FaultyDisks, CostNoSlotOnACreation) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryCall, FaultyDisks,
-                         testing::Values(Trouble{Fault::NoSpace, false},
-                                         Trouble{Fault::NoSpace, true},
-                                         Trouble{Fault::Broken, false},
-                                         Trouble{Fault::Broken, true}));
+                         testing::Values(Trouble{DiskFault::NoSpace, false},
+                                         Trouble{DiskFault::NoSpace, true},
+                                         Trouble{DiskFault::Broken, false},
+                                         Trouble{DiskFault::Broken, true}));
 
 /// A sync fails, and the process dies before it can recover: the system shows pages that are not on
 /// disk and never will be. A new process builds on them, and then the power goes.
@@ -196,7 +196,7 @@ TEST(AFailedSyncThatNobodyRecoveredFrom, IsNotBuiltUpon) {
   int cuts = 0;
   for (int call = 1;; ++call) {
     CutDisk disk = start;
-    disk.FailCall(call, Fault::Broken, true);
+    disk.FailCall(call, DiskFault::Broken, true);
     std::vector<Files> possible{worlds[0]};
     try {
       Player player(disk, worlds, true);

@@ -229,7 +229,7 @@ TEST(ACopyBeside, IsWholeOrNotThere) {
   EXPECT_EQ(ReadFile(disk, "s1.damaged/wrestler.dat"), holes);
   int failures = 0;
   for (int call = 1; call < 60; ++call) {
-    disk.FailCall(call, Fault::Broken, false);
+    disk.FailCall(call, DiskFault::Broken, false);
     try {
       CopyBeside(disk, "s1", "s1.again");
     } catch (const DiskError&) {

@@ -16,8 +16,8 @@ Place PlaceOf(const std::string& path) {
                                     : Place{path.substr(0, slash), path.substr(slash + 1)};
 }
 
-const char* ReasonOf(Fault fault) {
-  return fault == Fault::NoSpace ? "No space left on device" : "Input/output error";
+const char* ReasonOf(DiskFault fault) {
+  return fault == DiskFault::NoSpace ? "No space left on device" : "Input/output error";
 }
 
 }  // namespace
@@ -29,7 +29,7 @@ void CutDisk::Record() {
   moments_.clear();
 }
 
-void CutDisk::FailCall(int n, Fault fault, bool forGood) {
+void CutDisk::FailCall(int n, DiskFault fault, bool forGood) {
   failAt_ = calls_ + n;
   fault_ = fault;
   failForGood_ = forGood;
@@ -39,7 +39,7 @@ void CutDisk::FailCall(int n, Fault fault, bool forGood) {
 bool CutDisk::Counts(Need need) {
   ++calls_;
   if (failAt_ == 0 || calls_ < failAt_ || (calls_ > failAt_ && !failForGood_)) return false;
-  if (fault_ == Fault::NoSpace && need == Need::Nothing) return false;
+  if (fault_ == DiskFault::NoSpace && need == Need::Nothing) return false;
   if (failedAt_ < 0) failedAt_ = static_cast<int>(moments_.size());
   return true;
 }
@@ -174,7 +174,7 @@ void CutDisk::Allocate(Handle file, std::int64_t size) {
   const OpenHandle& of = Of(file);
   Begin(of.Path, "reserve room for", Need::Room);
   if (room_ && size > std::max(*room_, state_.Contents(of.File).Size()))
-    throw DiskError(of.Path, "reserve room for", ReasonOf(Fault::NoSpace));
+    throw DiskError(of.Path, "reserve room for", ReasonOf(DiskFault::NoSpace));
 }
 
 void CutDisk::Resize(Handle file, std::int64_t size) {

@@ -34,7 +34,7 @@
 
 namespace grapplemont::test {
 
-enum class Fault { NoSpace, Broken };
+enum class DiskFault { NoSpace, Broken };
 
 class CutDisk : public Disk {
  public:
@@ -51,7 +51,7 @@ class CutDisk : public Disk {
   std::size_t LongestRead() const { return longestRead_; }
   /// Lets the n-th call from now on (from 1) fail, once or from then on for good. A full disk fails
   /// only calls that may need room, a broken one all that can fail.
-  void FailCall(int n, Fault fault, bool forGood);
+  void FailCall(int n, DiskFault fault, bool forGood);
   /// Whether a call has failed since FailCall.
   bool HasFailed() const { return failedAt_ >= 0; }
   /// After how many recorded calls that was.
@@ -118,7 +118,7 @@ class CutDisk : public Disk {
   bool exchanges_ = true;
   std::string ignoredSyncs_;
   int calls_ = 0, failAt_ = 0;
-  Fault fault_ = Fault::Broken;
+  DiskFault fault_ = DiskFault::Broken;
   std::optional<std::int64_t> room_;
   bool failForGood_ = false;
   int failedAt_ = -1;

@@ -113,7 +113,7 @@ constexpr int kUnseen = 10;
 constexpr int kAngleShare = 55;
 /// How much of that announces a match of tonight, or is the work of a stable where its leader
 /// has the word.
-constexpr int kAnnouncements = 12, kStableAttacks = 30;
+constexpr int kAnnouncements = 12, kStableRaids = 30;
 /// Angles are for those who come out best in them.
 constexpr std::size_t kStars = 6;
 
@@ -216,7 +216,7 @@ bool Stage(AutoPlan& plan, const Worker& star) {
   const Worker* ally = Chance(plan.World, 25) ? FriendOf(plan, star) : nullptr;
   if (ally && BookScene(plan, AngleScene::Allies, {star.Uid}, {ally->Uid})) return true;
   const Worker* rival = Chance(plan.World, 65) ? RivalOf(plan, star) : nullptr;
-  if (rival && Chance(plan.World, kStableAttacks) && BookStableAttack(plan, star, rival->Uid))
+  if (rival && Chance(plan.World, kStableRaids) && BookStableAttack(plan, star, rival->Uid))
     return true;
   if (rival && BookScene(plan, AngleScene::Words, {star.Uid}, {rival->Uid})) return true;
   return BookScene(plan, AngleScene::Solo, {star.Uid}, {});

@@ -11,6 +11,8 @@ namespace grapplemont::desktop {
 
 /// Everything is drawn on a square of 100 by 100.
 inline constexpr double kMiddle = 50;
+/// Pupils, lashes and outlines.
+inline const QColor kDark(0x241D1F);
 
 /// A number from 0 to below 1 that belongs to a uid and a word, the same for ever. Each choice has
 /// a word of its own, so that a new one changes no old picture.

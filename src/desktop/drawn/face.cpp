@@ -9,7 +9,7 @@ namespace {
 using ui::Mood;
 
 constexpr double kEyeLine = 44.6;
-const QColor kDark(0x241D1F), kWhite(0xF6F3EC), kTeeth(0xF4F1EA);
+const QColor kWhite(0xF6F3EC), kTeeth(0xF4F1EA);
 
 /// How far from the middle the eyes stand.
 double EyeAt(const Likeness& face) {

@@ -6,7 +6,7 @@ namespace grapplemont::desktop {
 
 namespace {
 
-const QColor kDark(0x241D1F), kLens(0x23262C), kFrame(0x2A2D34), kFelt(0x5A4632);
+const QColor kLens(0x23262C), kFrame(0x2A2D34), kFelt(0x5A4632);
 
 /// What is left when the crown has gone.
 constexpr std::string_view kSides = "M-1.05 47 C-1.14 40 -1.12 32 -.99 28 C-.9 33 -.93 40 -.92 47Z";

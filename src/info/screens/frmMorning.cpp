@@ -22,15 +22,15 @@ struct Figure {
   NoteKind Kind;
   bool IsChange;  // the number that counts is by how much it moved
 };
-constexpr std::array<Figure, 5> kFigures = {{{"lblrating", "Rating", kNoteRating, false},
-                                             {"lblimage", "Image", kNoteImage, false},
-                                             {"lblcrowd", "Attendance", kNoteCrowd, false},
-                                             {"lblviewers", "Viewers", kNoteViewers, false},
-                                             {"lblmoney", "Money", kNoteMoney, true}}};
-constexpr int kFigureCount = static_cast<int>(kFigures.size());
+constexpr std::array<Figure, 5> kShownFigures = {{{"lblrating", "Rating", kNoteRating, false},
+                                                  {"lblimage", "Image", kNoteImage, false},
+                                                  {"lblcrowd", "Attendance", kNoteCrowd, false},
+                                                  {"lblviewers", "Viewers", kNoteViewers, false},
+                                                  {"lblmoney", "Money", kNoteMoney, true}}};
+constexpr int kFigureCount = static_cast<int>(kShownFigures.size());
 
 const Figure& FigureAt(int i) {
-  return kFigures[static_cast<std::size_t>(i - 1)];
+  return kShownFigures[static_cast<std::size_t>(i - 1)];
 }
 
 ui::Tone ToneOf(int change) {
@@ -269,7 +269,7 @@ class frmMorning : public GameScreen {
   }
   ui::Drawing PlateOfRow(int key) {
     if (key < 1 || key > static_cast<int>(morning_.Numbers.size())) return {};
-    const Title* title =
+    const auto* title =
         FindTitle(world(), morning_.Numbers[static_cast<std::size_t>(key - 1)].What);
     return title ? ui::Drawing(PlateOf(*title, world().Titles().NumberOf(*title))) : ui::Drawing();
   }

@@ -2,6 +2,10 @@
 
 namespace grapplemont {
 
+#define GM_HERE(T) template class Records<T>;
+GM_EVERY_RECORD(GM_HERE)
+#undef GM_HERE
+
 const std::vector<KnownFile>& KnownFiles() {
   // Tables reserve room for all their records: they are asked once.
   static const std::vector<KnownFile> files = [] {
