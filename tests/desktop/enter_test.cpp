@@ -140,7 +140,7 @@ TEST_F(TheKeys, VisitRoomsFromTheBookingSheetAndComeBackToIt) {
   ASSERT_FALSE(people.empty());
   Play.See("cmddebut")->setFocus(Qt::TabFocusReason);
   EXPECT_FALSE(Play.See("cmdtv")->isEnabled());
-  for (const Qt::Key room : {Qt::Key_F2, Qt::Key_F5, Qt::Key_F8, Qt::Key_F9, Qt::Key_F11}) {
+  for (const Qt::Key room : {Qt::Key_F2, Qt::Key_F5, Qt::Key_F8, Qt::Key_F9}) {
     Play.Key(room);
     EXPECT_EQ(Play.Desk.Screens().size(), 3U) << room;
     Play.Key(Qt::Key_Escape);

@@ -7,7 +7,6 @@ GM_EVERY_RECORD(GM_HERE)
 #undef GM_HERE
 
 const std::vector<KnownFile>& KnownFiles() {
-  // Tables reserve room for all their records: they are asked once.
   static const std::vector<KnownFile> files = [] {
     std::vector<KnownFile> known;
     const auto add = [&](const Table& table) {

@@ -74,12 +74,11 @@ class TextFile : public Table {
   std::string text_;
 };
 
-/// The records of one file, numbered from 1. References stay valid across Append (room for all
-/// records a file may hold is reserved); Keep and Load move records.
+/// The records of one file, numbered from 1. References stay valid across Append (the first record
+/// reserves room for all that the file may hold); Keep and Load move records.
 template <class T>
 class Records : public Table {
  public:
-  Records() { records_.reserve(static_cast<std::size_t>(LayoutOf<T>().Limit) + 1); }
   std::string_view File() const override { return LayoutOf<T>().File; }
   const RecordLayout* Layout() const override { return &LayoutOf<T>(); }
 
@@ -95,15 +94,13 @@ class Records : public Table {
   /// Throws TableFull at the file's limit.
   T& Append(const T& record) {
     if (Full()) throw TableFull(LayoutOf<T>());
-    exists_ = true;
-    surplus_.clear();
+    Begin();
     return records_.emplace_back(record);
   }
   /// The file with these records and no others. Throws TableFull for more than the file's limit.
   void Rewrite(std::vector<T> records) {
     if (static_cast<int>(records.size()) > LayoutOf<T>().Limit) throw TableFull(LayoutOf<T>());
-    exists_ = true;
-    surplus_.clear();
+    Begin();
     records_.assign(records.begin(), records.end());
   }
   /// Compaction: the records that `stays` holds move together, in their order.
@@ -139,6 +136,13 @@ class Records : public Table {
   void Load(ByteSpan bytes) override;
 
  private:
+  /// Makes the file one that may take records.
+  void Begin() {
+    exists_ = true;
+    surplus_.clear();
+    if (records_.capacity() == 0)
+      records_.reserve(static_cast<std::size_t>(LayoutOf<T>().Limit) + 1);
+  }
   std::size_t Place(int number) const {
     if (number < 1 || number > Count())
       throw std::out_of_range(std::string(File()) + " has no record " + std::to_string(number));
@@ -156,11 +160,11 @@ void RequireWithinLimit(const RecordLayout& layout, std::size_t bytes);
 template <class T>
 void Records<T>::Load(ByteSpan bytes) {
   RequireWithinLimit(LayoutOf<T>(), bytes.size());
+  Begin();
   const std::size_t count = bytes.size() / sizeof(T);
   records_.resize(count);
   if (count > 0) std::memcpy(records_.data(), bytes.data(), count * sizeof(T));
   surplus_.assign(bytes.begin() + static_cast<std::ptrdiff_t>(count * sizeof(T)), bytes.end());
-  exists_ = true;
 }
 
 /// Appends to a file that need not keep everything: a full one loses `oldest` of its oldest records
