@@ -25,6 +25,7 @@ constexpr int kWide = 14, kClose = 8;  // between cards, within a card
 constexpr int kCardSide = 14;
 constexpr int kScrollBar = 16;
 constexpr int kLeastCard = 220;  // beside another; a narrower one stands below it
+constexpr std::size_t kFew = 3;  // parts that are never shared out among two lines
 
 bool IsButton(const Box& box) {
   return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
@@ -244,13 +245,39 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
   // Beside prose, what a wide window has to spare is for those who show more in it.
   const bool others =
       std::ranges::any_of(box.Parts, [](const Box& part) { return Grows(part) && !IsProse(part); });
+  const bool alike = std::ranges::all_of(box.Parts, [&](const Box& part) {
+    return part.Is == box.Parts.front().Is && (part.Is == Kind::Group || part.Is == Kind::Field);
+  });
   bool filled = cards;
+  if (alike && box.Parts.size() > kFew) {
+    AddAlike(box.Parts, columns);
+    filled = filled || std::ranges::any_of(box.Parts, Grows);
+    if (!filled) columns->addStretch(1);
+    return;
+  }
   for (const Box& part : box.Parts) {
     calm_ = others && !inCard_ && IsProse(part);
     filled = filled || part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
     Add(part, columns);
   }
   if (!filled) columns->addStretch(1);
+}
+
+/// Where many parts have no room in one line, half of them go into the next.
+void LayoutBuilder::AddAlike(std::span<const Box> parts, TurningLayout* into) {
+  if (parts.size() <= kFew) {
+    for (const Box& part : parts) Add(part, into);
+    return;
+  }
+  const std::size_t half = (parts.size() + 1) / 2;
+  for (const auto& line : {parts.first(half), parts.subspan(half)}) {
+    int share = 0;
+    for (const Box& part : line) share += ShareOf(part);
+    TurningLayout* const within = into->NewPart();
+    into->addLayout(within, share);
+    AddAlike(line, within);
+  }
+  into->KeepRowsWhole();
 }
 
 void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {

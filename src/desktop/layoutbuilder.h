@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QBoxLayout>
+#include <span>
 #include <vector>
 
 #include "desktop/card.h"
@@ -10,6 +11,7 @@
 namespace grapplemont::desktop {
 
 class TableView;
+class TurningLayout;
 
 /// Makes widgets and layouts of a screen's boxes.
 class LayoutBuilder {
@@ -40,6 +42,7 @@ class LayoutBuilder {
   void AddItem(const ui::Box& box, QBoxLayout* into);
   void AddRowButtons(const ui::Box& box, TableView& table);
   void AddColumns(const ui::Box& box, QBoxLayout* into);
+  void AddAlike(std::span<const ui::Box> parts, TurningLayout* into);
   void AddGroup(const ui::Box& box, QBoxLayout* into);
   void AddTabs(const ui::Box& box, QBoxLayout* into);
   void AddForm(const Run& fields, QBoxLayout* into);

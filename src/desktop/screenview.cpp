@@ -16,6 +16,7 @@ constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
 constexpr int kPartGap = 14;      // between head, body and foot
 constexpr int kLeastTitle = 260;  // what the title has beside actions
+constexpr int kLeastBody = 170;   // under a window's head, before all of the page scrolls
 
 bool IsBackdropFile(const std::string& file) {
   return file == "vxm_back.jpg" || file == "vxm_title.jpg";
@@ -36,7 +37,9 @@ class Scroller : public BareScroller {
     const QSize wanted = widget()->sizeHint();
     return tight_ ? QSize(wanted.width(), LeastHeight(std::max(width(), Px(480)))) : wanted;
   }
-  QSize minimumSizeHint() const override { return {Px(160), Px(80)}; }
+  QSize minimumSizeHint() const override {
+    return {Px(160), std::clamp(LeastHeight(std::max(width(), Px(480))), Px(80), Px(kLeastBody))};
+  }
 
  protected:
   void resizeEvent(QResizeEvent* event) override {
@@ -135,7 +138,7 @@ void ScreenView::DressPictures() {
 void ScreenView::BuildPage() {
   const bool cover = screen_->Is() == ui::Role::Cover;
   const int side = cover ? kCoverSide : kPageSide;
-  auto* rows = NewLayout<QVBoxLayout>(this, kPartGap, {side, cover ? side : 18, side, side});
+  QBoxLayout* const rows = BuildWhole({side, cover ? side : 18, side, side});
   rows->addLayout(BuildHead());
   BuildBody(rows);
   tail_->addLayout(
@@ -148,10 +151,22 @@ void ScreenView::BuildPage() {
 }
 
 void ScreenView::BuildDialog() {
-  auto* rows = NewLayout<QVBoxLayout>(this, kPartGap);
+  QBoxLayout* const rows =
+      DialogSize().isValid() ? BuildWhole({}) : NewLayout<QVBoxLayout>(this, kPartGap);
   rows->addLayout(BuildHead());
   BuildBody(rows);
   rows->addLayout(BuildActions());
+}
+
+/// Head, body and actions, which scroll together where the window is too low for them.
+QBoxLayout* ScreenView::BuildWhole(QMargins margins) {
+  auto* scroller = new Scroller(this, false);
+  auto* whole = new QWidget(scroller);
+  auto* rows = NewLayout<QVBoxLayout>(whole, kPartGap, margins);
+  whole->installEventFilter(scroller);
+  scroller->Hold(whole);
+  NewLayout<QVBoxLayout>(this, -1)->addWidget(scroller);
+  return rows;
 }
 
 void ScreenView::BuildWait() {
@@ -207,7 +222,7 @@ QLayout* ScreenView::BuildActions() {
   return actions;
 }
 
-void ScreenView::BuildBody(QVBoxLayout* into) {
+void ScreenView::BuildBody(QBoxLayout* into) {
   auto* scroller = new Scroller(this, Grows(page_.Body));
   auto* body = new QWidget(scroller);
   auto* column = NewLayout<QVBoxLayout>(body, -1);

@@ -50,9 +50,10 @@ class ScreenView : public QWidget {
  private:
   void BuildPage();
   void BuildDialog();
+  QBoxLayout* BuildWhole(QMargins margins);
   void BuildWait();
   QLayout* BuildHead();
-  void BuildBody(QVBoxLayout* into);
+  void BuildBody(QBoxLayout* into);
   QLayout* BuildActions();
   std::vector<ui::Button*> ActionsInOrder() const;
   bool HasBackdrop() const;

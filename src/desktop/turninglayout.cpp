@@ -20,7 +20,7 @@ int RowWidth(QLayoutItem& item) {
 }  // namespace
 
 TurningLayout::TurningLayout(int gap, int least)
-    : QBoxLayout(QBoxLayout::LeftToRight), least_(least) {
+    : QBoxLayout(QBoxLayout::LeftToRight), gap_(gap), least_(least) {
   setContentsMargins(0, 0, 0, 0);
   setSpacing(Px(gap));
 }

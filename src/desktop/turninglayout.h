@@ -9,6 +9,8 @@ class TurningLayout : public QBoxLayout {
  public:
   /// `least` is the width, in drawn pixels, that a part with a share needs beside others.
   explicit TurningLayout(int gap, int least = 0);
+  /// An empty one of its kind, to be a part of it.
+  TurningLayout* NewPart() const { return new TurningLayout(gap_, least_); }
   /// Turns rather than that a part which is itself a row, a FlowLayout or one of these, goes on in
   /// the next line.
   void KeepRowsWhole();
@@ -24,7 +26,7 @@ class TurningLayout : public QBoxLayout {
   /// Lets the rows in it be whole while it is a row itself.
   void HoldRows(bool oneRow);
 
-  int least_;
+  int gap_, least_;
   bool whole_ = false, oneRow_ = false;
 };
 
