@@ -202,6 +202,7 @@ int TopBar::FactsWidth(Form form) const {
 }
 
 void TopBar::Fit() {
+  if (!isPlaced_) return;
   constexpr std::pair<bool, Form> kWays[] = {{true, Form::Long},
                                              {true, Form::Short},
                                              {false, Form::Long},

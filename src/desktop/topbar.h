@@ -28,7 +28,10 @@ class TopBar : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent*) override { Fit(); }
+  void resizeEvent(QResizeEvent*) override {
+    isPlaced_ = true;
+    Fit();
+  }
 
  private:
   class Fact;
@@ -40,6 +43,7 @@ class TopBar : public QWidget {
   std::vector<Fact*> facts_;
   std::vector<ControlView*> views_;
   ButtonView* main_ = nullptr;
+  bool isPlaced_ = false;  // before that its width says nothing
   QBoxLayout* all_;
   FlowLayout* actions_;
 };
