@@ -59,13 +59,13 @@ void Album::Fill() {
   while (desk_.Top() && !taken_.contains(desk_.Top()->Name())) Visit();
 }
 
-/// A question gets the careful answer, unless somebody wants to leave.
+/// A question gets the usual answer, or a yes from whoever wants to leave.
 void Album::AnswerBox() {
   auto* box = dynamic_cast<MessageBox*>(window_.findChild<QWidget*>("box"));
   if (!box) return;
   auto* yes = box->findChild<QAbstractButton*>("boxyes");
   if (yes && saysYes_) return yes->click();
-  box->Dismiss();
+  yes ? box->TakeUsual() : box->Dismiss();
 }
 
 void Album::Take(const std::string& name) {

@@ -101,7 +101,7 @@ void MessageBox::keyPressEvent(QKeyEvent* event) {
   if (event->isAutoRepeat()) return;
   const int key = event->key();
   if (key == Qt::Key_Escape) return Dismiss();
-  if (IsEnter(key)) return Chosen().click();
+  if (IsEnter(key)) return TakeUsual();
   if (key == Qt::Key_Left || key == Qt::Key_Right) {
     focusNextPrevChild(key == Qt::Key_Right);
   } else {

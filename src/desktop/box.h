@@ -20,6 +20,8 @@ class MessageBox : public Veil {
   /// Waits; the answer of the button that was pressed, nothing when the box was dismissed.
   std::optional<int> Run();
   void Dismiss() { Answer({}); }
+  /// Does what Enter does.
+  void TakeUsual() { Chosen().click(); }
   QString Line() const { return line_ ? line_->text() : QString(); }
 
  protected:

@@ -236,8 +236,10 @@ void TableGrid::DrawCursor(QPainter& painter) {
 }
 
 void TableGrid::paintEvent(QPaintEvent* event) {
+  // Only now is it certain what room there is.
+  if (!std::exchange(painted_, true) && currentIndex().isValid())
+    scrollTo(currentIndex(), PositionAtCenter);
   QTableView::paintEvent(event);
-  painted_ = true;
   QPainter painter(viewport());
   DrawPinned(painter);
   DrawCursor(painter);
@@ -249,10 +251,11 @@ void TableGrid::paintEvent(QPaintEvent* event) {
 }
 
 void TableGrid::resizeEvent(QResizeEvent* event) {
+  const int place = rowViewportPosition(CurrentRow());
+  const bool inView = place >= 0 && place < event->oldSize().height();
   QTableView::resizeEvent(event);
   if (Resized) Resized();
-  // Before it has been seen a table has no size to scroll by.
-  if (!painted_ && currentIndex().isValid()) scrollTo(currentIndex(), PositionAtCenter);
+  if (currentIndex().isValid() && inView && painted_) scrollTo(currentIndex());
 }
 
 /// The cursor's line reaches over all cells, so scrolled pieces do not fit together.

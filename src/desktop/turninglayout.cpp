@@ -73,6 +73,7 @@ void TurningLayout::setGeometry(const QRect& rect) {
   if (wanted != direction()) {
     setDirection(wanted);
     HoldRows(wanted == LeftToRight);
+    update();  // what stands around it has another height to reckon with
   }
   QBoxLayout::setGeometry(rect);
 }

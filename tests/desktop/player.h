@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QElapsedTimer>
+#include <QScrollArea>
 #include <QTimer>
 #include <QtTest/QTest>
 #include <functional>
@@ -38,9 +39,11 @@ class Player {
   }
   bool Sees(const QString& name) { return Find(name); }
 
-  /// A click where the widget is, on whatever lies on top there.
+  /// A click where the widget is, on whatever lies on top there; who does not see it scrolls.
   void Click(const QString& name) {
     QWidget* seen = See(name);
+    for (QWidget* above = seen->parentWidget(); above; above = above->parentWidget())
+      if (auto* area = qobject_cast<QScrollArea*>(above)) area->ensureWidgetVisible(seen);
     QPoint place = seen->rect().center();
     // A box may be wider than its mark and caption, which alone are clicked.
     if (qobject_cast<QCheckBox*>(seen)) place.setX(8);
