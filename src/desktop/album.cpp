@@ -44,7 +44,7 @@ std::vector<std::string> WaysOn(ui::Screen& screen) {
 }
 
 void LetItPaint() {
-  for (int i = 0; i < 3; ++i) QApplication::processEvents();
+  for (int i = 0; i < 4; ++i) QApplication::processEvents();
 }
 
 }  // namespace

@@ -48,6 +48,7 @@ class Scroller : public BareScroller {
   }
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+      widget()->layout()->activate();  // else it would answer from what it knew before
       Fit();
       updateGeometry();
     }

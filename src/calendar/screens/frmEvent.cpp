@@ -24,12 +24,14 @@ class frmEvent : public GameScreen {
 
   ui::Page Layout() override {
     ui::Page page = PageOf(
-        ui::Columns({ui::Group("The year", {ui::Grow(lstevents)}).Grow(3),
-                     ui::Rows({ui::Group("The month's Event",
-                                         {lblmonth, ui::Field("Name", txtname), cmdrename,
-                                          ui::Field("Type", cmbtype), cmdtype, cmdadd, lblnote}),
-                               ui::Spacer()})
-                         .Grow(2)}),
+        ui::Columns(
+            {ui::Group("The year", {ui::Grow(lstevents)}).Grow(3),
+             ui::Rows(
+                 {ui::Group("The month's Event",
+                            {lblmonth, ui::Columns({ui::Field("Name", txtname), cmdrename}),
+                             ui::Columns({ui::Field("Type", cmbtype), cmdtype}), cmdadd, lblnote}),
+                  ui::Spacer()})
+                 .Grow(2)}),
         &lblfacts, {&cmddrop});
     page.Main = nullptr;  // Enter is the hub's
     return page;
