@@ -14,7 +14,7 @@ std::string Quoted(std::string_view text) {
 
 /// Does an act to a control that is there for the player; else why it cannot be done.
 std::string OnControl(Screen& screen, std::string_view name,
-                  const std::function<std::string(Control&)>& act) {
+                      const std::function<std::string(Control&)>& act) {
   Control* control = screen.Find(name);
   if (!control) return screen.Name() + " has no control " + Quoted(name) + ".";
   if (!control->Visible) return Quoted(name) + " is not visible.";
