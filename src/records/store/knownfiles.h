@@ -25,14 +25,14 @@ using AllTables =
                Records<ReadMail>>;
 
 // What all files of the house would compile again and again is compiled once, in knownfiles.cpp.
-#define GM_EVERY_RECORD(OF)                                                                    \
-  OF(Title)                                                                                    \
-  OF(Event)                                                                                    \
-  OF(Network) OF(Promotion) OF(Sponsor) OF(Stable) OF(Staff) OF(Team) OF(Show) OF(Worker)      \
-      OF(GameInfo) OF(Mail) OF(Feud) OF(Segment) OF(Incident) OF(ShowRun) OF(HistoryEntry)     \
-          OF(HeldMatch) OF(MatchTally) OF(TitleReign) OF(ReportPart) OF(YearAward) OF(YearEnd) \
-              OF(Deed) OF(GuideState) OF(WorkerMonths) OF(MoodChange) OF(KeptRow) OF(ShowNote) \
-                  OF(ReadMail)
+// clang-format off
+#define GM_EVERY_RECORD(OF) \
+  OF(Title) OF(Event) OF(Network) OF(Promotion) OF(Sponsor) OF(Stable) \
+  OF(Staff) OF(Team) OF(Show) OF(Worker) OF(GameInfo) OF(Mail) \
+  OF(Feud) OF(Segment) OF(Incident) OF(ShowRun) OF(HistoryEntry) OF(HeldMatch) \
+  OF(MatchTally) OF(TitleReign) OF(ReportPart) OF(YearAward) OF(YearEnd) OF(Deed) \
+  OF(GuideState) OF(WorkerMonths) OF(MoodChange) OF(KeptRow) OF(ShowNote) OF(ReadMail)
+// clang-format on
 #define GM_ELSEWHERE(T) extern template class Records<T>;
 GM_EVERY_RECORD(GM_ELSEWHERE)
 #undef GM_ELSEWHERE
