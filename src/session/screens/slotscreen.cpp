@@ -53,8 +53,7 @@ void SlotScreen::Show(int slot) {
   lblworth(slot).Text =
       own ? "Image " + std::to_string(own->Image) + "%, money " + Dollars(own->Money) : "";
   lbllast(slot).Text = summary.LastShow.empty() ? "" : "Last show " + summary.LastShow;
-  for (ui::Label* label : {&lblworth(slot), &lbllast(slot)})
-    label->Visible = !label->Text->empty();
+  for (ui::Label* label : {&lblworth(slot), &lbllast(slot)}) label->Visible = !label->Text->empty();
   Offer(cmdload(slot), summary);
 }
 
