@@ -111,8 +111,6 @@ bool Grows(const Box& box) {
     case Kind::Item:
     case Kind::Field:
       return GrowsByItself(*box.Shown) || (box.Stretch > 0 && box.Shown->Is() == ui::Kind::Picture);
-    case Kind::Spacer:
-      return false;
     case Kind::Tabs:
       return true;
     default:
@@ -230,11 +228,7 @@ void LayoutBuilder::AddRowButtons(const Box& box, TableView& table) {
 }
 
 void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
-  if (std::ranges::all_of(box.Parts, IsCalmButton)) {
-    Run buttons;
-    for (const Box& part : box.Parts) buttons.push_back(&part);
-    return AddButtons(buttons, into);
-  }
+  if (std::ranges::all_of(box.Parts, IsCalmButton)) return void(AddRun(box.Parts, 0, into));
   const bool cards = std::ranges::any_of(
       box.Parts, [](const Box& part) { return part.Is == Kind::Group || part.Is == Kind::Rows; });
   const bool fields =
@@ -245,21 +239,17 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
   // Beside prose, what a wide window has to spare is for those who show more in it.
   const bool others =
       std::ranges::any_of(box.Parts, [](const Box& part) { return Grows(part) && !IsProse(part); });
-  const bool alike = std::ranges::all_of(box.Parts, [&](const Box& part) {
-    return part.Is == box.Parts.front().Is && (part.Is == Kind::Group || part.Is == Kind::Field);
-  });
+  const bool alike =
+      box.Parts.size() > kFew && std::ranges::all_of(box.Parts, [&](const Box& part) {
+        return part.Is == box.Parts[0].Is && (part.Is == Kind::Group || part.Is == Kind::Field);
+      });
   bool filled = cards;
-  if (alike && box.Parts.size() > kFew) {
-    AddAlike(box.Parts, columns);
-    filled = filled || std::ranges::any_of(box.Parts, Grows);
-    if (!filled) columns->addStretch(1);
-    return;
-  }
   for (const Box& part : box.Parts) {
-    calm_ = others && !inCard_ && IsProse(part);
     filled = filled || part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
-    Add(part, columns);
+    calm_ = !alike && others && !inCard_ && IsProse(part);
+    if (!alike) Add(part, columns);
   }
+  if (alike) AddAlike(box.Parts, columns);
   if (!filled) columns->addStretch(1);
 }
 
