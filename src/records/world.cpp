@@ -8,8 +8,9 @@
 
 namespace grapplemont {
 
-World::World(std::unique_ptr<Draws> chance, std::unique_ptr<Draws> prose)
-    : chance_(std::move(chance)), prose_(std::move(prose)) {}
+World::World(std::unique_ptr<Draws> chance, std::unique_ptr<Draws> prose,
+             std::unique_ptr<Draws> life)
+    : chance_(std::move(chance)), prose_(std::move(prose)), life_(std::move(life)) {}
 World::World(World&&) = default;
 World& World::operator=(World&&) = default;
 World::~World() = default;
@@ -34,6 +35,17 @@ const Promotion& World::Player() const {
                      std::to_string(Game().PlayerPromotion) +
                      ". Put back the files of this game, or start a new one.");
   return *player;
+}
+
+SeededDraws World::Fate(std::string_view purpose, std::initializer_list<int> subject) const {
+  // FNV-1a, stirred at the end: neighbours by uid or by day have nothing in common.
+  std::uint64_t seed = 0xCBF29CE484222325;
+  const auto add = [&seed](std::uint64_t value) { seed = (seed ^ value) * 0x100000001B3; };
+  add(Keys().Count() > 0 ? static_cast<std::uint32_t>(int(Keys()[1].Key)) : 0);
+  for (const char letter : purpose) add(static_cast<unsigned char>(letter));
+  for (const int number : subject) add(static_cast<std::uint32_t>(number));
+  seed = (seed ^ (seed >> 30)) * 0xBF58476D1CE4E5B9;
+  return SeededDraws(seed ^ (seed >> 31));
 }
 
 std::array<Table*, World::kTables> World::Tables() {

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -31,9 +33,11 @@ struct SessionWords {
 class World {
  public:
   /// An empty world. Prose draws from a stream of its own, so that a new sentence never moves a
-  /// result.
+  /// result, and so does what the world does behind the player's back: a new habit of rivals moves
+  /// no show.
   explicit World(std::unique_ptr<Draws> chance = std::make_unique<SeededDraws>(1),
-                 std::unique_ptr<Draws> prose = std::make_unique<SeededDraws>(2));
+                 std::unique_ptr<Draws> prose = std::make_unique<SeededDraws>(2),
+                 std::unique_ptr<Draws> life = std::make_unique<SeededDraws>(3));
   World(World&&);
   World& operator=(World&&);
   ~World();
@@ -101,6 +105,9 @@ class World {
   /// One record where the game has a guide, else none.
   Records<GuideState>& Guides() { return Of<GuideState>(); }
   const Records<GuideState>& Guides() const { return Of<GuideState>(); }
+  /// One record where the game has a key, else none.
+  Records<WorldKey>& Keys() { return Of<WorldKey>(); }
+  const Records<WorldKey>& Keys() const { return Of<WorldKey>(); }
   /// How everybody stood on the firsts of twelve months, a record a worker.
   Records<WorkerMonths>& Months() { return Of<WorkerMonths>(); }
   const Records<WorkerMonths>& Months() const { return Of<WorkerMonths>(); }
@@ -158,7 +165,13 @@ class World {
   /// A whole number from 1 to n; 1 for n under 2.
   int RandomDraw(int n) { return chance_->Draw(n); }
   Draws& Prose() { return *prose_; }
+  /// Chance for careers, stories and habits that no rule of the player's promotion knows.
+  Draws& Life() { return *life_; }
+  /// Draws that are the same whenever this game asks for them: for what is worked out when it is
+  /// looked at, or has always been so. The numbers tell one subject from another.
+  SeededDraws Fate(std::string_view purpose, std::initializer_list<int> subject) const;
   void SetChance(std::unique_ptr<Draws> chance) { chance_ = std::move(chance); }
+  void SetLife(std::unique_ptr<Draws> life) { life_ = std::move(life); }
 
   SessionWords Session;
 
@@ -196,7 +209,7 @@ class World {
   mutable std::tuple<UidIndex<Worker>, UidIndex<Promotion>, UidIndex<Staff>, UidIndex<Network>,
                      UidIndex<Sponsor>>
       indices_;
-  std::unique_ptr<Draws> chance_, prose_;
+  std::unique_ptr<Draws> chance_, prose_, life_;
   SessionWords committedSession_;
 };
 

@@ -42,6 +42,8 @@ constexpr std::array<PostTarget, 8> kPostTargets = {{{45, 0, 45},
                                                      {0, 4, 150},
                                                      {0, 3, 120}}};
 
+constexpr int kMostKey = 2'000'000'000;
+
 void NewGameInfo(World& world, const NewGameChoice& choice) {
   GameInfo game;
   game.Version = kVersion;
@@ -64,6 +66,9 @@ void NewGameInfo(World& world, const NewGameChoice& choice) {
   game.EconomyRising = world.RandomDraw(2) == 1;
   for (std::size_t i = 1; i < game.Jobs.size(); ++i) game.Jobs[i].Promotion = "None";
   world.GameInfos().Rewrite({game});
+  WorldKey key{};
+  key.Key = world.Life().Draw(kMostKey);
+  world.Keys().Rewrite({key});
 }
 
 void EmptyFiles(World& world, const NewGameChoice& choice) {

@@ -68,7 +68,8 @@ World ReadDefaultWorld(Game& game) {
   if (!missing.empty())
     throw WorldFault(game.DataFolder() + "/" + missing.front() +
                      " is missing. Build the default world first.");
-  World world(game.NewDraws(Game::kWorldMaking), game.NewDraws(Game::kWorldProse));
+  World world(game.NewDraws(Game::kWorldMaking), game.NewDraws(Game::kWorldProse),
+              game.NewDraws(Game::kWorldLife));
   world.Load(ReadWorldFiles(game.Disk(), game.DataFolder()));
   return world;
 }
@@ -201,7 +202,7 @@ World CopyOfSlot(Game& game, int slot) {
   for (const KnownFile& file : known)
     if (auto contents = Slot::Peek(game.Disk(), game.SlotFolder(slot), known, file.Name))
       files.emplace(file.Name, std::move(*contents));
-  World world(game.NewDraws(Game::kPlay), game.NewDraws(Game::kProse));
+  World world(game.NewDraws(Game::kPlay), game.NewDraws(Game::kProse), game.NewDraws(Game::kLife));
   world.Load(std::move(files));
   return world;
 }

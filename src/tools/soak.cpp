@@ -94,7 +94,8 @@ struct Plan {
 
 World Begin(const World& data, const Plan& plan) {
   World world(std::make_unique<SeededDraws>(plan.Seed),
-              std::make_unique<SeededDraws>(plan.Seed + 1));
+              std::make_unique<SeededDraws>(plan.Seed + 1),
+              std::make_unique<SeededDraws>(plan.Seed + 2));
   std::map<std::string, Bytes> files;
   for (NewFile& file : FilesOf(data)) files[file.Name] = std::move(file.Contents);
   world.Load(files);

@@ -49,7 +49,8 @@ std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   CloseSlot();
   auto files = std::make_unique<Slot>(disk_, SlotFolder(slot), KnownFiles(),
                                       dropDamaged ? Damage::Drop : Damage::Refuse);
-  auto world = std::make_unique<grapplemont::World>(NewDraws(kPlay), NewDraws(kProse));
+  auto world =
+      std::make_unique<grapplemont::World>(NewDraws(kPlay), NewDraws(kProse), NewDraws(kLife));
   world->Load(files->Files());
   files->Forget();
   world->Session.StartSize = world->Player().Size;

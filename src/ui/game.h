@@ -45,7 +45,15 @@ class Game : public ui::Work {
   std::string PageFile(int slot) const;
   Day PresentDay() const { return options_.Today(); }
   /// What chance is for; each has a stream of its own.
-  enum Stream : std::uint64_t { kPlay, kProse, kWorldMaking, kWorldProse, kPictures };
+  enum Stream : std::uint64_t {
+    kPlay,
+    kProse,
+    kWorldMaking,
+    kWorldProse,
+    kPictures,
+    kLife,
+    kWorldLife
+  };
   /// A source of chance: from the seed if one was given, else from the operating system.
   std::unique_ptr<Draws> NewDraws(Stream stream);
 

@@ -99,4 +99,14 @@ constexpr Field kGuideFields[] = {
 
 GM_LAYOUT(GuideState, "guide.dat", 1, kGuideFields)
 
+namespace {
+
+constexpr Field kKeyFields[] = {
+    GM_FIELD(WorldKey, Key).Means("Sets this game's hidden gifts and unseen cards apart."),
+};
+
+}  // namespace
+
+GM_LAYOUT(WorldKey, "worldkey.dat", 1, kKeyFields)
+
 }  // namespace grapplemont

@@ -101,4 +101,11 @@ struct GuideState {
 };
 GM_RECORD(GuideState, 20);
 
+/// What makes two games of the same day and the same people differ in what nobody decides: who has
+/// a gift, how a card went that nobody saw. The one record of worldkey.dat, drawn with the game.
+struct WorldKey {
+  Long Key;
+};
+GM_RECORD(WorldKey, 4);
+
 }  // namespace grapplemont

@@ -22,7 +22,7 @@ using AllTables =
                Records<HeldMatch>, Records<MatchTally>, Records<TitleReign>, Records<ReportPart>,
                Records<YearAward>, Records<YearEnd>, Records<Deed>, Records<GuideState>,
                Records<WorkerMonths>, Records<MoodChange>, Records<KeptRow>, Records<ShowNote>,
-               Records<ReadMail>>;
+               Records<ReadMail>, Records<WorldKey>>;
 
 // What all files of the house would compile again and again is compiled once, in knownfiles.cpp.
 // clang-format off
@@ -31,7 +31,8 @@ using AllTables =
   OF(Staff) OF(Team) OF(Show) OF(Worker) OF(GameInfo) OF(Mail) \
   OF(Feud) OF(Segment) OF(Incident) OF(ShowRun) OF(HistoryEntry) OF(HeldMatch) \
   OF(MatchTally) OF(TitleReign) OF(ReportPart) OF(YearAward) OF(YearEnd) OF(Deed) \
-  OF(GuideState) OF(WorkerMonths) OF(MoodChange) OF(KeptRow) OF(ShowNote) OF(ReadMail)
+  OF(GuideState) OF(WorkerMonths) OF(MoodChange) OF(KeptRow) OF(ShowNote) OF(ReadMail) \
+  OF(WorldKey)
 // clang-format on
 #define GM_ELSEWHERE(T) extern template class Records<T>;
 GM_EVERY_RECORD(GM_ELSEWHERE)

@@ -101,7 +101,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<MoodChange>("moods.csv", true),
           Kind<KeptRow>("cards.csv", true),
           Kind<ShowNote>("mornings.csv", true),
-          Kind<ReadMail>("mailread.csv", true)};
+          Kind<ReadMail>("mailread.csv", true),
+          Kind<WorldKey>("worldkeys.csv", true)};
 }
 
 }  // namespace

@@ -229,7 +229,8 @@ class frmLoadGame : public SlotScreen {
         AskFile("Import", "The file to read, in the game's folder or a whole path:", "");
     const auto to = FreeSlot(game_.Disk(), game_.Home());
     if (path.empty() || !to) return;
-    World scratch(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse));
+    World scratch(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse),
+                  game_.NewDraws(Game::kWorldLife));
     ImportSlot(game_.Disk(), path, game_.SlotFolder(*to), game_.NewWorldId(), scratch);
     Return();
     lblfacts.Text = "Slot " + std::to_string(*to) + " now holds " + In(*to).Caption + ".";

@@ -40,7 +40,8 @@ class frmPickSaveSlot : public SlotScreen {
         desk().Prompt("User Entry", "Save Game Name:", "Save Game " + std::to_string(slot));
     if (detail::Trimmed(choice_.SaveName).empty()) return;
     if (desk().Objects(WhyNotPlain(choice_.SaveName))) return;
-    World world(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse));
+    World world(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse),
+                game_.NewDraws(Game::kWorldLife));
     world.Load(ReadWorldFiles(game_.Disk(), game_.DataFolder()));
     desk().Say("Database creation",
                "The database for this game will now be created.\n"
