@@ -16,19 +16,9 @@
 namespace grapplemont::test {
 namespace {
 
-/// Ash to Hal and hands up to 30; Ash holds the Crown, Cal and Dot the Ropes, and Eli has it in for
-/// Fay.
+/// Ash to Hal and hands up to 30.
 World House() {
-  World world = Cast(30)
-                    .Team("The Dots", "Cal", "Dot")
-                    .Title("Crown", "Ash")
-                    .Title("Ropes", "Cal", "Dot")
-                    .Network("Nine")
-                    .Show("Sunday Slam", "Sunday", "Nine")
-                    .Game("CWA")
-                    .Feud("Eli", "Fay", Hot(50));
-  world.SetChance(std::make_unique<SteadyDraws>(2));
-  return world;
+  return OnTheAir(Cast(30).Team("The Dots", "Cal", "Dot"), std::make_unique<SteadyDraws>(2));
 }
 
 Segment Won(Segment match, int winner, int loser, std::string_view title = "None") {

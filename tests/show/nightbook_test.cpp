@@ -10,26 +10,19 @@
 namespace grapplemont::test {
 namespace {
 
-/// People of all kinds; Ash holds the Crown, and Eli has it in for Fay.
+/// People of all kinds.
 World House(std::uint64_t seed) {
-  World world = Cast(12,
-                     [](Worker& w) {
-                       w.Over = 20 + 6 * w.Uid;
-                       w.Attitude = 8 * w.Uid;
-                       w.Condition = 100 - 5 * w.Uid;
-                       w.Morale = w.Uid % 3 == 0 ? 2 : 97;
-                       w.Stiff = w.Uid % 4 == 0 ? 95 : 50;
-                       w.Position = 1 + w.Uid % 6;
-                       w.Potential = 100;
-                     })
-                    .Title("Crown", "Ash")
-                    .Title("Ropes", "Cal", "Dot")
-                    .Network("Nine")
-                    .Show("Sunday Slam", "Sunday", "Nine")
-                    .Game("CWA")
-                    .Feud("Eli", "Fay", Hot(50));
-  world.SetChance(std::make_unique<SeededDraws>(seed));
-  return world;
+  return OnTheAir(Cast(12,
+                       [](Worker& w) {
+                         w.Over = 20 + 6 * w.Uid;
+                         w.Attitude = 8 * w.Uid;
+                         w.Condition = 100 - 5 * w.Uid;
+                         w.Morale = w.Uid % 3 == 0 ? 2 : 97;
+                         w.Stiff = w.Uid % 4 == 0 ? 95 : 50;
+                         w.Position = 1 + w.Uid % 6;
+                         w.Potential = 100;
+                       }),
+                  std::make_unique<SeededDraws>(seed));
 }
 
 Segment Won(int winner, int loser, std::string_view title = "None") {

@@ -146,4 +146,17 @@ inline Change<Feud> Hot(int heat) {
   return [=](Feud& feud) { feud.Heat = heat; };
 }
 
+/// The evening of a television show of theirs: Ash holds the Crown, Cal and Dot the Ropes, and Eli
+/// has it in for Fay.
+inline World OnTheAir(SmallWorld cast, std::unique_ptr<Draws> chance) {
+  World world = cast.Title("Crown", "Ash")
+                    .Title("Ropes", "Cal", "Dot")
+                    .Network("Nine")
+                    .Show("Sunday Slam", "Sunday", "Nine")
+                    .Game("CWA")
+                    .Feud("Eli", "Fay", Hot(50));
+  world.SetChance(std::move(chance));
+  return world;
+}
+
 }  // namespace grapplemont::test
