@@ -18,7 +18,8 @@ namespace {
 
 /// Ash to Hal and hands up to 30.
 World House() {
-  return OnTheAir(Cast(30).Team("The Dots", "Cal", "Dot"), std::make_unique<SteadyDraws>(2));
+  SmallWorld cast = Cast(30);
+  return OnTheAir(cast.Team("The Dots", "Cal", "Dot"), std::make_unique<SteadyDraws>(2));
 }
 
 Segment Won(Segment match, int winner, int loser, std::string_view title = "None") {

@@ -12,17 +12,16 @@ namespace {
 
 /// People of all kinds.
 World House(std::uint64_t seed) {
-  return OnTheAir(Cast(12,
-                       [](Worker& w) {
-                         w.Over = 20 + 6 * w.Uid;
-                         w.Attitude = 8 * w.Uid;
-                         w.Condition = 100 - 5 * w.Uid;
-                         w.Morale = w.Uid % 3 == 0 ? 2 : 97;
-                         w.Stiff = w.Uid % 4 == 0 ? 95 : 50;
-                         w.Position = 1 + w.Uid % 6;
-                         w.Potential = 100;
-                       }),
-                  std::make_unique<SeededDraws>(seed));
+  SmallWorld cast = Cast(12, [](Worker& w) {
+    w.Over = 20 + 6 * w.Uid;
+    w.Attitude = 8 * w.Uid;
+    w.Condition = 100 - 5 * w.Uid;
+    w.Morale = w.Uid % 3 == 0 ? 2 : 97;
+    w.Stiff = w.Uid % 4 == 0 ? 95 : 50;
+    w.Position = 1 + w.Uid % 6;
+    w.Potential = 100;
+  });
+  return OnTheAir(cast, std::make_unique<SeededDraws>(seed));
 }
 
 Segment Won(int winner, int loser, std::string_view title = "None") {

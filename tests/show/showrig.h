@@ -148,7 +148,7 @@ inline Change<Feud> Hot(int heat) {
 
 /// The evening of a television show of theirs: Ash holds the Crown, Cal and Dot the Ropes, and Eli
 /// has it in for Fay.
-inline World OnTheAir(SmallWorld cast, std::unique_ptr<Draws> chance) {
+inline World OnTheAir(SmallWorld& cast, std::unique_ptr<Draws> chance) {
   World world = cast.Title("Crown", "Ash")
                     .Title("Ropes", "Cal", "Dot")
                     .Network("Nine")
