@@ -10,6 +10,7 @@
 #include <functional>
 
 #include "desktop/office.h"
+#include "desktop/screenview.h"
 #include "desktop/tablegrid.h"
 #include "desktop/window.h"
 #include "support/checkout.h"
@@ -115,9 +116,13 @@ class Player {
   desktop::Window Window;
 
  private:
+  /// On the topmost screen first: a page below it may have one of the same name.
   QWidget* Find(const QString& name) {
-    for (QWidget* widget : Window.findChildren<QWidget*>(name))
-      if (widget->isVisible()) return widget;
+    const auto* top = Window.findChild<desktop::ScreenView*>(QString::fromStdString(Top()));
+    for (const QWidget* within :
+         {static_cast<const QWidget*>(top), static_cast<const QWidget*>(&Window)})
+      for (QWidget* widget : within ? within->findChildren<QWidget*>(name) : QList<QWidget*>())
+        if (widget->isVisible()) return widget;
     return nullptr;
   }
   QWidget* Focus() { return Window.focusWidget() ? Window.focusWidget() : &Window; }
