@@ -55,6 +55,7 @@ class Evening {
   void AnswerBox();
   /// From the wizard's first step to the sheet.
   void BookARow();
+  void GoHome();
   void Arrive(const std::string& screen);
 
   HomeFolder home_;
