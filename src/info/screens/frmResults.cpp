@@ -116,6 +116,7 @@ void ConnectInfo(Game& game) {
   game.OpenReport = [&game](Day on, int promotionUid) {
     game.Desk().Open(ReportScreen(game, on, promotionUid));
   };
+  game.OpenMail = [&game](int number) { game.Desk().Open(MailScreen(game, number)); };
 }
 
 namespace {
