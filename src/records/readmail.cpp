@@ -90,8 +90,7 @@ Reader::Reader(const World& world) {
   for (const Show& show : world.Shows())
     if (show.Owner == own->Uid) shows_.insert(show.Name.Str() + " ");
   for (const HistoryEntry& entry : world.History())
-    if (entry.Kind == kPastTv && entry.Promotion == own->Uid)
-      shows_.insert(entry.Name.Str() + " ");
+    if (entry.Kind == kPastTv && entry.Promotion == own->Uid) shows_.insert(entry.Name.Str() + " ");
   for (const Word& place : world.Game().Shortlist)
     if (const Worker* worker = world.FindWorker(place)) watched_.insert(worker->Name.Str() + " ");
 }

@@ -16,8 +16,8 @@ bool MarkRead(World& world, const std::vector<int>& numbers);
 void MarkAllRead(World& world);
 
 /// What the player has not looked at yet, by the numbers of the mails, the newest first: what is
-/// the player's own, and the news of others, which is read a day at a time. In a slot that has never
-/// kept what was read, that of today and yesterday.
+/// the player's own, and the news of others, which is read a day at a time. In a slot that has
+/// never kept what was read, that of today and yesterday.
 struct Unread {
   std::vector<int> Own, Others;
   int Days = 0;  // that have such news

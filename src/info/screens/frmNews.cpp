@@ -29,13 +29,12 @@ class frmNews : public GameScreen {
 
   ui::Page Layout() override {
     return PageOf(
-        ui::Columns(
-            {ui::Group("",
-                       {ui::Columns({ui::Field("From", cmbfrom), chkdigest}), ui::Grow(lstnews)})
-                 .Grow(3),
-             ui::Group("", {ui::Columns({ui::Rows({lblfrom, lbldate}).Grow(), cmdsubject}),
-                            ui::Grow(txtbody, 2), ui::Grow(lstdigest, 3)})
-                 .Grow(2)}),
+        ui::Columns({ui::Group("", {ui::Columns({ui::Field("From", cmbfrom), chkdigest}),
+                                    ui::Grow(lstnews)})
+                         .Grow(3),
+                     ui::Group("", {ui::Columns({ui::Rows({lblfrom, lbldate}).Grow(), cmdsubject}),
+                                    ui::Grow(txtbody, 2), ui::Grow(lstdigest, 3)})
+                         .Grow(2)}),
         &lblfacts, {&cmdread, &cmdempty, &cmddelete});
   }
 
@@ -97,7 +96,8 @@ class frmNews : public GameScreen {
   /// Of the row that a mail is in.
   int RowKeyOf(int number) const {
     for (const Digest& digest : digests_)
-      if (std::ranges::find(digest.Mails, number) != digest.Mails.end()) return digest.Mails.front();
+      if (std::ranges::find(digest.Mails, number) != digest.Mails.end())
+        return digest.Mails.front();
     return number;
   }
 
