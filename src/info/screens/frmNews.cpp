@@ -41,9 +41,13 @@ class frmNews : public GameScreen {
   void Return() override {
     ShowSenders();
     ShowMails();
-    if (first_ != 0) lstnews.SelectKey(RowKeyOf(std::exchange(first_, 0)));
+    const int wanted = std::exchange(first_, 0);
+    if (wanted != 0) lstnews.SelectKey(RowKeyOf(wanted));
     if (lstnews.Selected() == 0) lstnews.Select(1);
     lstnews_Click();
+    if (!lstdigest.Visible || wanted == 0) return;
+    lstdigest.SelectKey(wanted);
+    lstdigest_Click();
   }
 
  private:
