@@ -221,10 +221,10 @@ class frmMainScreen : public ui::Screen {
       const int day = static_cast<int>((show.On - kDayZero).count());
       const bool isToday = show.On == world().Today();
       if (isToday) today += (today.empty() ? "" : ", ") + show.What;
-      rows.push_back(
-          {{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)), show.What,
-            DayName(show.On), ui::Cell(show.Kind, ToneOf(show)), BookedText(world(), show)},
-           static_cast<int>(rows.size()) + 1});
+      rows.push_back({{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)),
+                       show.What, ui::Cell(day, std::string(DayName(show.On))),
+                       ui::Cell(show.Kind, ToneOf(show)), BookedText(world(), show)},
+                      static_cast<int>(rows.size()) + 1});
     }
     lstahead.Fill(std::move(rows), false);
     const bool isOver = HasEnded(world().Game());
@@ -347,7 +347,7 @@ class frmMainScreen : public ui::Screen {
                        "lstahead",
                        {{"Date", K::Number},
                         {"Show"},
-                        {"Day"},
+                        {"Day", K::Date},
                         {"Kind", K::Tag},
                         {"Booked", K::Text, 0, "How far the card is."}},
                        ui::Handler{},
