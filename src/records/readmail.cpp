@@ -45,6 +45,10 @@ class Reader {
  public:
   explicit Reader(const World& world);
   bool IsOthersNews(const Mail& mail) const;
+  /// Whether the sender writes of everybody.
+  static bool IsDesk(std::string_view from) {
+    return std::ranges::find(kDesks, from, &Desk::From) != kDesks.end();
+  }
 
  private:
   bool BeginsWithOne(const std::set<std::string>& names, std::string_view body) const {
@@ -148,9 +152,11 @@ std::vector<Digest> DigestsOf(const World& world) {
   std::vector<Digest> digests;
   std::set<std::string> senders;
   const auto close = [&] {
-    if (!digests.empty())
-      digests.back().Words = std::to_string(digests.back().Mails.size()) + " news from " +
-                             Counted(static_cast<int>(senders.size()), "promotion");
+    if (digests.empty()) return;
+    digests.back().Words = std::to_string(digests.back().Mails.size()) + " news";
+    // Desks tell of several at once.
+    if (std::ranges::none_of(senders, Reader::IsDesk))
+      digests.back().Words += " from " + Counted(static_cast<int>(senders.size()), "promotion");
     senders.clear();
   };
   for (int number = world.News().Count(); number >= 1; --number) {

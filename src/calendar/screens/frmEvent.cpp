@@ -16,10 +16,14 @@ constexpr std::size_t kEventsShown = 24;
 using EventCell = ui::ColumnKind;
 const CellColumns<HistoryEntry> kHeldTable = {
     {{"Date", EventCell::Date, 3}, [](const HistoryEntry& held) { return DayCell(held.On); }},
-    {{"Event", EventCell::Text, 4}, [](const HistoryEntry& held) { return held.Name.View(); }},
+    {{"Event", EventCell::Text, 4},
+     [](const HistoryEntry& held) {
+       return held.CalledOff ? ui::Cell(held.Name + ", called off", ui::Tone::Red)
+                             : ui::Cell(held.Name.View());
+     }},
     {{"Rating", EventCell::Percent, 3},
      [](const HistoryEntry& held) {
-       return held.CalledOff ? ui::Cell("called off", ui::Tone::Red) : ui::Cell(int(held.Rating));
+       return held.CalledOff ? ui::Cell("") : ui::Cell(int(held.Rating));
      }},
     {{"Gate", EventCell::Number, 2, "How many people came."},
      [](const HistoryEntry& held) { return ui::Cell(int(held.Attendance)); }},

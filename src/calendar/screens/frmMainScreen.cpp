@@ -17,7 +17,6 @@
 #include "show/holdshow.h"
 #include "show/nightbook.h"
 #include "storylines/screens/screenpeople.h"
-#include "ui/acts.h"
 #include "ui/game.h"
 
 namespace grapplemont {

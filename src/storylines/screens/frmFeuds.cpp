@@ -214,9 +214,9 @@ class frmFeuds : public GameScreen {
   void ShowPeople(const Feud& feud) {
     sides_ = SidesOf(feud);
     if (!IsFreeSlot(feud)) return FillTable(lstpeople, people_, PeopleOf(world(), feud));
-    std::vector<const Worker*> free = FeudRoster(world());
-    std::erase_if(free, [this](const Worker* worker) { return IsFeuding(world(), worker->Uid); });
-    FillTable(lstpeople, people_, free);
+    std::vector<const Worker*> people = FeudRoster(world());
+    std::erase_if(people, [this](const Worker* worker) { return IsFeuding(world(), worker->Uid); });
+    FillTable(lstpeople, people_, people);
   }
 
   ui::Cell SideCell(const Worker& worker) const {
