@@ -87,6 +87,14 @@ std::vector<const HistoryEntry*> MonthsOf(const World& world, int promotionUid) 
                  [](const HistoryEntry& entry) { return entry.Kind == kPastMonth; });
 }
 
+std::vector<const HistoryEntry*> EventsOf(const World& world, int promotionUid, int month) {
+  auto events = Entries(world, promotionUid, [&](const HistoryEntry& entry) {
+    return entry.Kind == kPastEvent && (month == 0 || MonthOf(entry.On) == month);
+  });
+  std::ranges::reverse(events);
+  return events;
+}
+
 HistoryEntry EntryOf(const World& world, const Promotion& promotion, HistoryKind kind) {
   HistoryEntry entry{};
   entry.On = world.Today();

@@ -20,6 +20,9 @@ bool IsShow(const HistoryEntry& entry);
 /// given, the latest entry of that. nullptr for none.
 const HistoryEntry* LastShowOf(const World& world, int promotionUid, Day from, int kind = 0);
 
+/// The promotion's Events of a month in all years, the latest first; of every month for 0.
+std::vector<const HistoryEntry*> EventsOf(const World& world, int promotionUid, int month = 0);
+
 /// An entry of today with the promotion's name, money, size and image as they are now.
 HistoryEntry EntryOf(const World& world, const Promotion& promotion, HistoryKind kind);
 /// Appends what has happened; a full file drops its thousand oldest entries.

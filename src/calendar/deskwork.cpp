@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "booking/keptcards.h"
 #include "booking/sheet.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "show/holdshow.h"
 #include "storylines/feuds.h"
@@ -11,7 +13,7 @@ namespace grapplemont {
 
 namespace {
 
-constexpr std::size_t kListed = 5;
+constexpr std::size_t kListed = 20;
 constexpr int kWorn = 75, kContent = 65, kSoon = 6;
 
 bool IsEventAppointment(const Appointment& show) {
@@ -29,10 +31,27 @@ std::vector<const Worker*> People(const World& world, Wanted wanted, Order order
   return people;
 }
 
+/// What is drafted for a show to come.
+std::string DraftedText(const World& world, const Appointment& show) {
+  for (const ComingShow& coming : ComingShows(world))
+    if (coming.On == show.On && coming.Owner.Show == show.What && coming.Drafted > 0)
+      return Counted(coming.Drafted, "row") + " drafted";
+  return {};
+}
+
 }  // namespace
 
+bool IsAway(const Worker& worker) {
+  return worker.StatusMonths > 0;
+}
+
+bool IsUnhappy(const Worker& worker) {
+  return worker.Morale < kContent;
+}
+
 std::string BookedText(const World& world, const Appointment& show) {
-  if (show.On != world.Today() || show.Kind == "No Event") return {};
+  if (show.Kind == "No Event") return {};
+  if (show.On != world.Today()) return DraftedText(world, show);
   const bool isEvent = IsEventAppointment(show);
   const SheetTerms terms = TermsOf(world, isEvent);
   const int booked = world.Segments().Count() == 0 ? 0 : CountSheet(world, isEvent).Segments;
@@ -69,18 +88,15 @@ std::vector<const Feud*> HottestFeuds(const World& world) {
 }
 
 std::vector<const Worker*> HurtAndWorn(const World& world) {
-  const auto isAway = [](const Worker& worker) { return worker.StatusMonths > 0; };
   return People(
-      world, [&](const Worker& worker) { return isAway(worker) || worker.Condition < kWorn; },
-      [&](const Worker& worker) {
-        return isAway(worker) ? -int(worker.StatusMonths) : int(worker.Condition);
+      world, [](const Worker& worker) { return IsAway(worker) || worker.Condition < kWorn; },
+      [](const Worker& worker) {
+        return IsAway(worker) ? -int(worker.StatusMonths) : int(worker.Condition);
       });
 }
 
 std::vector<const Worker*> Unhappy(const World& world) {
-  return People(
-      world, [](const Worker& worker) { return worker.Morale < kContent; },
-      [](const Worker& worker) { return int(worker.Morale); });
+  return People(world, IsUnhappy, [](const Worker& worker) { return int(worker.Morale); });
 }
 
 std::vector<const Worker*> ContractsThatEnd(const World& world) {

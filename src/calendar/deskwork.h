@@ -9,7 +9,8 @@
 
 namespace grapplemont {
 
-/// How far the card of a coming show is: "5 of 8" for today's, empty for what cannot be booked yet.
+/// How far the card of a coming show is: "5 of 8" for today's, "3 rows drafted" for a later one,
+/// empty where nothing is.
 std::string BookedText(const World& world, const Appointment& show);
 /// What is to be done on a show day: "Tonight: Friday Fire, 3 of 3 matches, 5 of 7 segments.";
 /// empty on another.
@@ -22,7 +23,12 @@ int DaysHeld(const World& world, const Title& title);
 /// The player's feuds, the hottest first.
 std::vector<const Feud*> HottestFeuds(const World& world);
 
-// The player's workers, those who want it most first; five at most.
+/// Out with an injury, or away for another reason.
+bool IsAway(const Worker& worker);
+/// Of a morale that wants looking at.
+bool IsUnhappy(const Worker& worker);
+
+// The player's workers, those who want it most first; twenty at most.
 
 /// Who is hurt or away for another reason, then who is worn.
 std::vector<const Worker*> HurtAndWorn(const World& world);

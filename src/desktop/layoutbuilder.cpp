@@ -25,6 +25,7 @@ constexpr int kWide = 14, kClose = 8;  // between cards, within a card
 constexpr int kCardSide = 14;
 constexpr int kScrollBar = 16;
 constexpr int kLeastCard = 220;  // beside another; a narrower one stands below it
+constexpr int kLetter = 7;
 constexpr std::size_t kFew = 3;  // parts that are never shared out among two lines
 
 bool IsButton(const Box& box) {
@@ -233,8 +234,9 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
       box.Parts, [](const Box& part) { return part.Is == Kind::Group || part.Is == Kind::Rows; });
   const bool fields =
       std::ranges::any_of(box.Parts, [](const Box& part) { return part.Is == Kind::Field; });
+  const int least = cards && !inCard_ ? kLeastCard : 0;
   auto* columns = new TurningLayout(fields || (cards && !inCard_) ? kWide : kClose,
-                                    cards && !inCard_ ? kLeastCard : 0);
+                                    box.Letters > 0 ? box.Letters * kLetter : least);
   into->addLayout(columns, ShareOf(box));
   // Beside prose, what a wide window has to spare is for those who show more in it.
   const bool others =
@@ -299,7 +301,7 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   const std::vector<ControlView*> views(views_.begin() + static_cast<std::ptrdiff_t>(before),
                                         views_.end());
   TableView* table = OnlyTable(views);
-  if (table && !box.Title.empty()) {
+  if (table && table->CanSearch() && !box.Title.empty()) {
     QWidget* const search = table->TakeSearchRow();
     // The panel below keeps its place when it comes and goes with the rows.
     QSizePolicy policy = search->sizePolicy();

@@ -54,7 +54,7 @@ QSize TableGrid::sizeHint() const {
 
 /// Whatever is in it: a panel keeps its size when its rows change.
 QSize TableGrid::minimumSizeHint() const {
-  const int rows = std::clamp(model_.List().Room, 2, 3);
+  const int rows = std::clamp(model_.List().Room, 2, model_.List().Least);
   return {Px(160), heading_->sizeHint().height() + rows * Px(kRowHeight) + 2};
 }
 

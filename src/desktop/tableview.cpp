@@ -13,8 +13,6 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kWorthSearching = 8;  // rows that can be overseen without a search line
-
 /// What the search line offers, in the table's own words.
 QString SearchHint(const ui::ListBox& list) {
   for (std::size_t i = 0; i < list.Columns().size(); ++i) {
@@ -186,7 +184,7 @@ bool TableView::ClearFilters() {
 
 void TableView::ShowSearchRow() {
   const bool filters = !table_.State().Search.empty() || !table_.State().Filters.empty();
-  const bool wide = control_.Count() > kWorthSearching && rowButtons_.empty();
+  const bool wide = CanSearch() && control_.Count() > kWorthSearching && rowButtons_.empty();
   searchRow_->setVisible(wide || filters || !control_.Views.empty());
   const bool all = static_cast<int>(table_.Columns().size()) == model_.columnCount();
   const QString view = Shown(table_.State().View);

@@ -11,6 +11,8 @@ inline std::size_t Index(int number) {
   return static_cast<std::size_t>(number);
 }
 
+inline constexpr int kWorthSearching = 8;  // rows that can be overseen without a search line
+
 class ButtonView;
 class PushButton;
 
@@ -22,6 +24,8 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   QWidget* FocusTarget() override { return grid_; }
   /// Keeps what the player has made of the table.
   void Leave() override;
+  /// Whether it may come to have rows enough for a search line.
+  bool CanSearch() const { return control_.Room > kWorthSearching || !control_.Views.empty(); }
   /// The search line's row, for a page that has a better place for it.
   QWidget* TakeSearchRow();
   /// Has these stand in the rows, by the rows' keys from 1.

@@ -45,12 +45,16 @@ int RowIn(const ui::ListBox& list, int key, std::string_view words) {
   return found == rows.end() ? 0 : static_cast<int>(found - rows.begin()) + 1;
 }
 
+/// False, after a word, where no room can be entered now.
+bool Enters(ui::Desk& desk) {
+  const bool may = MayEnterRooms(desk);
+  if (!may) desk.Say("Not now", "What is under way has to be seen through to its end first.");
+  return may;
+}
+
 /// Gives the room's screen, on top; nullptr, after a word, where it cannot be entered now.
 ui::Screen* Enter(ui::Desk& desk, const char* screen) {
-  if (!MayEnterRooms(desk)) {
-    desk.Say("Not now", "What is under way has to be seen through to its end first.");
-    return nullptr;
-  }
+  if (!Enters(desk)) return nullptr;
   if (!desk.Top() || desk.Top()->Name() != screen) desk.Open(screen);
   return desk.Top();
 }
@@ -149,7 +153,7 @@ void OpenFound(Game& game, const Found& found) {
     case Kind::Sponsor:
       return OpenSponsor(game, world.Sponsors()[found.Number]);
     case Kind::Mail:
-      return EnterAt(game.Desk(), {"frmNews", "lstnews"}, found.Number);
+      return Enters(game.Desk()) ? game.OpenMail(found.Number) : void();
   }
 }
 

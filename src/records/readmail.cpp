@@ -1,7 +1,9 @@
 #include "records/readmail.h"
 
 #include <algorithm>
+#include <array>
 #include <set>
+#include <string>
 #include <unordered_set>
 
 #include "records/fields/wording.h"
@@ -38,6 +40,73 @@ bool IsUnread(const World& world, const Mail& mail, const std::unordered_set<int
   return world.ReadMails().Exists() ? !read.contains(KeyOf(mail)) : IsOfTheseDays(world, mail);
 }
 
+/// Tells mails about the player's own from news of others, by what the player's are called.
+class Reader {
+ public:
+  explicit Reader(const World& world);
+  bool IsOthersNews(const Mail& mail) const;
+  /// Whether the sender writes of everybody.
+  static bool IsDesk(std::string_view from) {
+    return std::ranges::find(kDesks, from, &Desk::From) != kDesks.end();
+  }
+
+ private:
+  bool BeginsWithOne(const std::set<std::string>& names, std::string_view body) const {
+    return std::ranges::any_of(names, [&](const auto& name) { return body.starts_with(name); });
+  }
+  bool IsOwnTv(std::string_view body) const {
+    return body.starts_with(initials_ + "'s ") || body.find(" our ") != body.npos ||
+           BeginsWithOne(shows_, body);
+  }
+  bool IsOwnRetirement(std::string_view body) const {
+    const std::string leaves = " from " + initials_;
+    return body.find(leaves + "!") != body.npos || body.find(leaves + " in ") != body.npos ||
+           BeginsWithOne(watched_, body);
+  }
+  bool IsOwnTakeover(std::string_view body) const {
+    constexpr std::string_view kTaken = " has taken over control of ";
+    const auto at = body.find(kTaken);
+    return at == body.npos || body.substr(at + kTaken.size()).starts_with(name_);
+  }
+  bool IsNone(std::string_view) const { return false; }
+
+  /// A sender who writes of everybody, and which of that is the player's own.
+  struct Desk {
+    std::string_view From;
+    bool (Reader::*IsOwn)(std::string_view body) const;
+  };
+  static constexpr std::array<Desk, 5> kDesks = {{{"TV News", &Reader::IsOwnTv},
+                                                  {"Retirement!", &Reader::IsOwnRetirement},
+                                                  {"Retiring!", &Reader::IsOwnRetirement},
+                                                  {"News Desk", &Reader::IsOwnTakeover},
+                                                  {"New Promotion", &Reader::IsNone}}};
+
+  std::string initials_, name_;
+  std::set<std::string> shows_, watched_;
+};
+
+/// Shows that have gone off the air are still known by their past.
+Reader::Reader(const World& world) {
+  const Promotion* own = world.FindPromotion(world.PlayerUid());
+  if (!own) return;
+  initials_ = own->Initials.Str();
+  name_ = own->Name.Str();
+  for (const Show& show : world.Shows())
+    if (show.Owner == own->Uid) shows_.insert(show.Name.Str() + " ");
+  for (const HistoryEntry& entry : world.History())
+    if (entry.Kind == kPastTv && entry.Promotion == own->Uid) shows_.insert(entry.Name.Str() + " ");
+  for (const Word& place : world.Game().Shortlist)
+    if (const Worker* worker = world.FindWorker(place)) watched_.insert(worker->Name.Str() + " ");
+}
+
+bool Reader::IsOthersNews(const Mail& mail) const {
+  constexpr std::string_view kNews = " News";
+  const std::string_view from = mail.From.View();
+  for (const Desk& desk : kDesks)
+    if (from == desk.From) return !(this->*desk.IsOwn)(mail.Body.View());
+  return from.ends_with(kNews) && from != "Roster News" && from != initials_ + std::string(kNews);
+}
+
 }  // namespace
 
 bool MarkRead(World& world, const std::vector<int>& numbers) {
@@ -55,37 +124,44 @@ bool MarkRead(World& world, const std::vector<int>& numbers) {
   return true;
 }
 
-bool IsWorldNews(const World& world, const Mail& mail) {
-  constexpr std::string_view kNews = " News";
-  const std::string_view from = mail.From.View();
-  if (!from.ends_with(kNews) || from == "TV News" || from == "Roster News") return false;
-  const Promotion* own = world.FindPromotion(world.PlayerUid());
-  return !own || from != own->Initials + kNews;
+void MarkAllRead(World& world) {
+  std::vector<int> all;
+  for (int number = 1; number <= world.News().Count(); ++number) all.push_back(number);
+  MarkRead(world, all);
 }
 
-std::vector<int> UnreadMails(const World& world, bool worldNews) {
+Unread UnreadOf(const World& world) {
   const std::unordered_set<int> read = KeysRead(world);
-  std::vector<int> numbers;
-  for (int number = world.News().Count(); number >= 1; --number)
-    if (const Mail& mail = world.News()[number];
-        IsWorldNews(world, mail) == worldNews && IsUnread(world, mail, read))
-      numbers.push_back(number);
-  return numbers;
+  const Reader reader(world);
+  Unread unread;
+  std::set<std::string> days;
+  for (int number = world.News().Count(); number >= 1; --number) {
+    const Mail& mail = world.News()[number];
+    if (!IsUnread(world, mail, read)) continue;
+    const bool others = reader.IsOthersNews(mail);
+    (others ? unread.Others : unread.Own).push_back(number);
+    if (others) days.insert(mail.Date.Str());
+  }
+  unread.Days = static_cast<int>(days.size());
+  return unread;
 }
 
 std::vector<Digest> DigestsOf(const World& world) {
   const std::unordered_set<int> read = KeysRead(world);
+  const Reader reader(world);
   std::vector<Digest> digests;
   std::set<std::string> senders;
   const auto close = [&] {
-    if (!digests.empty())
-      digests.back().Words = std::to_string(digests.back().Mails.size()) + " news from " +
-                             Counted(static_cast<int>(senders.size()), "promotion");
+    if (digests.empty()) return;
+    digests.back().Words = std::to_string(digests.back().Mails.size()) + " news";
+    // Desks tell of several at once.
+    if (std::ranges::none_of(senders, Reader::IsDesk))
+      digests.back().Words += " from " + Counted(static_cast<int>(senders.size()), "promotion");
     senders.clear();
   };
   for (int number = world.News().Count(); number >= 1; --number) {
     const Mail& mail = world.News()[number];
-    if (!IsWorldNews(world, mail)) continue;
+    if (!reader.IsOthersNews(mail)) continue;
     if (digests.empty() || mail.Date != digests.back().Date) {
       close();
       digests.push_back({mail.Date.Str(), {}, {}, false});

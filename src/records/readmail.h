@@ -12,19 +12,25 @@ namespace grapplemont {
 /// were.
 bool MarkRead(World& world, const std::vector<int>& numbers);
 
-/// News of somebody else's promotion: what no option of the player's own people sends.
-bool IsWorldNews(const World& world, const Mail& mail);
+/// Everything that lies in the box has been read.
+void MarkAllRead(World& world);
 
-/// The numbers of the mails that the player has not looked at yet, the newest first: the player's
-/// own, or the news of others. In a slot that has never kept what was read, those of today and
-/// yesterday.
-std::vector<int> UnreadMails(const World& world, bool worldNews);
+/// What the player has not looked at yet, by the numbers of the mails, the newest first: what is
+/// the player's own, and the news of others, which is read a day at a time. In a slot that has
+/// never kept what was read, that of today and yesterday.
+struct Unread {
+  std::vector<int> Own, Others;
+  int Days = 0;  // that have such news
+  /// A day's news of others counts as one.
+  int Count() const { return static_cast<int>(Own.size()) + Days; }
+};
+Unread UnreadOf(const World& world);
 
 /// The news of others that came on one day.
 struct Digest {
   std::string Date;        // as mails have it
   std::vector<int> Mails;  // their numbers, the newest first
-  std::string Words;       // "14 news from 9 promotions"
+  std::string Words;       // "14 news from 9 promotions", or "14 news"
   bool IsUnread = false;   // one of them is
 };
 /// The latest day first.

@@ -10,6 +10,7 @@
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/readmail.h"
 #include "rivals/founding.h"
 #include "roster/invented.h"
 #include "storylines/lineages.h"
@@ -212,12 +213,13 @@ void StartTitles(World& world) {
   }
 }
 
-/// The game's first year is compared with this day, its Titles' reigns begin here, and no mail has
-/// been read.
+/// The game's first year is compared with this day, its Titles' reigns begin here, and what was
+/// news before it is no unread mail.
 void BeginPast(World& world) {
   UpdateReigns(world);
   NoteYearEnd(world);
   world.ReadMails().Rewrite({});
+  MarkAllRead(world);
 }
 
 void WelcomeMail(World& world) {

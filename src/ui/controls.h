@@ -298,6 +298,7 @@ class ListBox : public Control {
   };
   std::vector<View> Views;
   int Room = 12;          // the most rows that it asks room for
+  int Least = 3;          // the rows that it has room for in the smallest window
   std::string EmptyText;  // what belongs here and how to get it
   Handler OnPick;
   Handler OnOpen;

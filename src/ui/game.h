@@ -77,6 +77,8 @@ class Game : public ui::Work {
   std::function<void(int uid)> OpenWorker, OpenPromotion;
   /// Opens the report of the promotion's show of a day, while its words are kept.
   std::function<void(Day on, int promotionUid)> OpenReport;
+  /// Opens the mailbox at the mail of a number.
+  std::function<void(int number)> OpenMail;
 
   /// Keeps a picture of what is shown in a file; set by a shell that has pictures. Called when a
   /// slot is left, and must not throw.

@@ -18,6 +18,7 @@ struct Box {
   Control* Shown = nullptr;  // an Item's or a Field's control
   std::vector<Box> Parts = {};
   int Stretch = 0;  // share of the room left over; 0 takes what it needs
+  int Letters = 0;  // of Columns: the width of a part that may stand beside others; 0: the shell's
 
   Box() = default;
   Box(Control& control) : Is(Kind::Item), Shown(&control) {}
@@ -26,6 +27,11 @@ struct Box {
   /// The same box with a share of the room left over.
   Box Grow(int share = 1) && {
     Stretch = share;
+    return std::move(*this);
+  }
+  /// The same Columns, with parts below each other that would be narrower than so many letters.
+  Box Wide(int letters) && {
+    Letters = letters;
     return std::move(*this);
   }
 };

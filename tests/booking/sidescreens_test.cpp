@@ -69,6 +69,8 @@ TEST(frmDebut, KnowsWhichSheetItStandsBeside) {
     std::string told;
     for (const Names& way : play.Desk.Rows("lstways"))
       if (way[1] == "Debut Attack") told = way[2];
+    EXPECT_EQ(play.Desk.Text("txtworker").substr(0, 5), "Fresh");
+    EXPECT_EQ(play.Desk.Rows("lststats")[0], (Names{"Over", "40"}));
     EXPECT_EQ(told, isEvent ? "Today" : "There are not enough writers for angles.");
   }
 }

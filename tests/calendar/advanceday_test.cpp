@@ -3,6 +3,7 @@
 #include <iterator>
 #include <sstream>
 
+#include "business/past.h"
 #include "calendar/advanceday.h"
 #include "calendar/events.h"
 #include "records/checks/checkworld.h"
@@ -121,6 +122,29 @@ TEST(EventScreen, ShowsTheYearAndMarksTheOneThatIsDue) {
     EXPECT_EQ(rows[3][1], "Nothing planned") << "the rival's is not ours";
     EXPECT_EQ(play.Desk.Selected("lstevents"), std::vector<int>{3});
   }
+}
+
+TEST(EventScreen, ShowsWhatCameOfTheMonthsEarlierEvents) {
+  World world = Planned().Game("CWA", year{2026} / 3 / 1);
+  const std::pair<Day, const char*> kHeld[] = {{year{2024} / 3 / 31, "First Bash"},
+                                               {year{2025} / 3 / 30, "Bash"},
+                                               {year{2025} / 4 / 27, "Spring"}};
+  for (const auto& [on, name] : kHeld) {
+    HistoryEntry held = EntryOf(world, world.Player(), kPastEvent);
+    held.On = on;
+    held.Name = name;
+    held.Rating = 61;
+    held.Income = 5000;
+    held.Costs = 8000;
+    Remember(world, held);
+  }
+  GameOnWorld play(std::move(world));
+  play.Desk.Open("frmEvent");
+  const auto held = play.Desk.Rows("lstheld");
+  ASSERT_EQ(held.size(), 2u) << "those of March";
+  EXPECT_EQ(held[0][1], "Bash") << "the latest first";
+  EXPECT_EQ(held[1][1], "First Bash");
+  EXPECT_EQ(held[1][5], "-$3,000");
 }
 
 TEST(EventScreen, PlansRenamesChangesAndDrops) {

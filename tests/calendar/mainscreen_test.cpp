@@ -31,9 +31,9 @@ TEST(MainScreen, SaysWhoAndWhenAndWhatIsAhead) {
   EXPECT_TRUE(play.Desk.Enabled("imgmail"));
   EXPECT_EQ(play.Desk.Rows("lstmail")[0][2], "Hello.");
   const auto ahead = play.Desk.Rows("lstahead");
-  ASSERT_EQ(ahead.size(), 7u);
-  EXPECT_EQ(ahead[0][2], "Friday Fire");
-  EXPECT_EQ(ahead[1][2], "Marchmania");
+  ASSERT_EQ(ahead.size(), 13u);
+  EXPECT_EQ(ahead[0][1], "Friday Fire");
+  EXPECT_EQ(ahead[1][1], "Marchmania");
   EXPECT_EQ(ahead[1][3], "Event");
   EXPECT_EQ(ahead.back()[3], "No Event");
 }
@@ -67,8 +67,44 @@ TEST(MainScreen, IsADeskWithWhatWantsLookingAt) {
   EXPECT_EQ(play.Desk.FirstColumn("lstcontracts").at(0), "CWA Hand 5");
   ASSERT_TRUE(play.Desk.Visible("cmdbook"));
   EXPECT_EQ(play.Desk.Rows("lstahead")[0].back().substr(0, 5), "0 of ");
+  play.Desk.OpenRow("lstahead", 2);
+  EXPECT_EQ(play.Desk.TopName(), "frmDrafts");
+  play.Desk.Click("cmdback");
   play.Desk.Click("cmdbook");
   EXPECT_EQ(play.Desk.TopName(), "frmBooking");
+}
+
+TEST(MainScreen, HasALineOfFiguresThatOpenTheirPages) {
+  World world = Playing(year{2026} / 3 / 6)
+                    .Mail("Ruth Vane", "Hello.")
+                    .Mail("NEW News", "A signing.")
+                    .Mail("NEW News", "A firing.")
+                    .Build();
+  Promotion& player = world.Player();
+  player.Money = 12000;
+  player.MoneyBefore[0] = 15000;
+  player.Image = 37;
+  player.Rank[0] = StandingScore(player) - 12;
+  Worker& away = Named(world.Workers(), "CWA Hand 1");
+  away.Status = "Sus";
+  away.StatusMonths = 1;
+  GameOnWorld play(std::move(world));
+  play.Desk.Open("frmMainScreen");
+  const char* const kFigures[][3] = {{"Money $12,000", "-$3,000 this month", "frmFinance"},
+                                     {"Image 37%", "63 points short of National", "frmFed"},
+                                     {"Momentum +12", "No show yet", "frmResults"},
+                                     {"Mail 2 unread", "1 for you, 1 digest", "frmNews"},
+                                     {"Roster 6", "1 away, 0 unhappy", "frmRoster"}};
+  int place = 0;
+  for (const auto& figure : kFigures) {
+    const std::string number = "(" + std::to_string(++place) + ")";
+    EXPECT_EQ(play.Desk.Text("cmdtile" + number), figure[0]);
+    EXPECT_EQ(play.Desk.Text("lbltile" + number), figure[1]);
+    play.Desk.Click("cmdtile" + number);
+    EXPECT_EQ(play.Desk.TopName(), figure[2]);
+    play.Desk.Click(play.Desk.Top()->Layout().Cancel->Name());
+  }
+  EXPECT_EQ(play.Desk.Text("cmdtile(4)"), "Mail 1 unread") << "what was shown has been read";
 }
 
 TEST(MainScreen, LeadsToEveryScreenOfTheSideBar) {

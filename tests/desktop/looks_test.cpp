@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTextEdit>
+#include <set>
 
 #include "desktop/album.h"
 #include "desktop/player.h"
@@ -95,6 +96,32 @@ TEST(TheTopBar, KeepsItsFormFromDayToDay) {
     }
     EXPECT_EQ(places[0], places[2]) << size.width();
     EXPECT_EQ(places[1], places[3]) << size.width();
+  }
+}
+
+TEST(TheCards, StandInALineWhereEachHasTheLettersItNeeds) {
+  class Cards : public ui::Screen {
+   public:
+    explicit Cards(ui::Desk& desk) : Screen(desk, "frmCards", "Cards") {}
+    ui::Page Layout() override {
+      std::vector<ui::Box> cards;
+      for (int card = 1; card <= lstcard.Count(); ++card)
+        cards.push_back(ui::Group("Card", {ui::Grow(lstcard(card))}).Grow());
+      return {.Body = ui::Columns(std::move(cards)).Wide(50)};
+    }
+    ui::Array<ui::ListBox> lstcard{"lstcard", 4, [this](const std::string& name, int) {
+                                     return std::make_unique<ui::ListBox>(*this, name);
+                                   }};
+  };
+  Player play;
+  play.Open(std::make_unique<Cards>(play.Desk));
+  for (const auto& [width, lines] : {std::pair(1024, 2), std::pair(2400, 1)}) {
+    play.Window.resize(width, 800);
+    QApplication::processEvents();
+    std::set<int> tops;
+    for (const char* name : {"lstcard(1)", "lstcard(2)", "lstcard(3)", "lstcard(4)"})
+      tops.insert(play.See(name)->mapTo(&play.Window, QPoint()).y());
+    EXPECT_EQ(std::ssize(tops), lines) << width;
   }
 }
 

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "business/past.h"
 #include "info/mailbox.h"
+#include "records/modVar.h"
+#include "records/readmail.h"
 #include "support/gameonworld.h"
 #include "support/smallworld.h"
 
@@ -147,15 +150,16 @@ TEST(frmNews, KeepsWhatWasReadAndGathersTheNewsOfOthers) {
   mails.Mail("NEW News", "A signing.").Mail("Maeve", "7").Mail("OLD News", "A firing.");
   GameOnWorld play(std::move(mails));
   play.Desk.Open("frmMainScreen");
-  EXPECT_EQ(play.Desk.Badge("cmdnews"), "9");
+  EXPECT_EQ(play.Desk.Badge("cmdnews"), "8") << "a day's news of others are one";
   EXPECT_EQ(play.Desk.Rows("lstmail").size(), 7u) << "what is for the player alone";
   EXPECT_NE(play.Desk.Text("lblworld").find("2 news from 2 promotions"), std::string::npos);
   play.Desk.Click("cmdworld");
-  ExpectMails(play.Desk, {"2 news from 2 promotions", "7", "6", "5", "4", "3", "2", "1"},
+  ExpectMails(play.Desk, {"7", "6", "5", "4", "3", "2", "1", "2 news from 2 promotions"},
               "A firing.");
+  EXPECT_EQ(play.Desk.Badge("cmdread"), "7") << "the others have not been shown";
   play.Desk.Pick("lstdigest", 2);
   EXPECT_EQ(play.Desk.Text("txtbody"), "A signing.");
-  play.Desk.Pick("lstnews", 2);
+  play.Desk.Pick("lstnews", 1);
   EXPECT_EQ(play.Desk.Badge("cmdread"), "6");
   play.Desk.Click("cmdback");
   play.Desk.CloseAll();
@@ -169,9 +173,60 @@ TEST(frmNews, KeepsWhatWasReadAndGathersTheNewsOfOthers) {
   play.Desk.Click("cmdread");
   EXPECT_FALSE(play.Desk.Enabled("cmdread"));
   play.Desk.Check("chkdigest");
-  play.Desk.Pick("lstnews", 1);
+  play.Desk.Pick("lstnews", 8);
   play.Desk.Click("cmddelete");
   EXPECT_EQ(play.World().News().Count(), 7) << "the whole digest";
+}
+
+TEST(frmNews, LeadsFromANewsToWhomItIsAbout) {
+  SmallWorld small;
+  small.Promotion("CWA").Promotion("NEW").Game("CWA");
+  GameOnWorld play(small.Mail("NEW News", "NEW have risen to Cult level.").Mail("Maeve", "Well."));
+  play.Desk.Open("frmNews");
+  EXPECT_EQ(play.Desk.Tip("cmdsubject"), "Nobody in this mail has a page.");
+  play.Desk.Pick("lstnews", 2);
+  EXPECT_EQ(play.Desk.Text("cmdsubject"), "Open NEW");
+  play.Desk.OpenRow("lstdigest", 1);
+  EXPECT_EQ(play.Desk.TopName(), "frmPromotion");
+}
+
+TEST(Mails, AreThePlayersOwnOrNewsOfOthers) {
+  struct Case {
+    const char *From, *Body;
+    bool IsOwn;
+  };
+  constexpr Case kCases[] = {
+      {"TV News", "CWA's Fire has been renewed for a further 25 weeks!", true},
+      {"TV News", "Fire has been dropped by Nine!", true},
+      {"TV News", "Late Fire has been dropped by Nine!", true},
+      {"TV News", "Nine are not happy with the risky nature of our last show.", true},
+      {"TV News", "NEW have a new TV show on Mondays!", false},
+      {"Retirement!", "Old Hand has retired from CWA!", true},
+      {"Retirement!", "Old Hand has announced he will retire from CWA in one month.", true},
+      {"Retirement!", "Old Hand has retired from NEW!", false},
+      {"Retiring!", "Watched has announced he will retire in one month.", true},
+      {"Retiring!", "Somebody has announced he will retire in one month.", false},
+      {"News Desk", "Bo Crane has taken over control of CWA Wrestling!", true},
+      {"News Desk", "Bo Crane has taken over control of NEW Wrestling!", false},
+      {"News Desk", "Gulp have become our sponsor.", true},
+      {"New Promotion", "A new promotion, Fresh, has opened.", false},
+      {"Roster News", "Old Hand has returned from injury.", true},
+      {"CWA News", "Owner Bo Crane has quit CWA.", true},
+      {"NEW News", "NEW have risen to Cult level.", false}};
+  SmallWorld small;
+  small.Network("Nine").Promotion("CWA").Show("Fire", "Friday", "Nine").Promotion("NEW");
+  World world = small.OnTheMarket().Worker("Watched").Game("CWA").Build();
+  world.Game().Shortlist[0] = Named(world.Workers(), "Watched").Uid;
+  HistoryEntry gone = EntryOf(world, world.Player(), kPastTv);
+  gone.Name = "Late Fire";
+  Remember(world, gone);
+  for (const Case& c : kCases) {
+    world.News().Rewrite({});
+    AddNews(world, c.From, c.Body);
+    const Unread unread = UnreadOf(world);
+    EXPECT_EQ(unread.Own.size(), c.IsOwn ? 1u : 0u) << c.From << c.Body;
+    EXPECT_EQ(unread.Days, c.IsOwn ? 0 : 1) << c.From << c.Body;
+  }
 }
 
 TEST(frmNews, EmptiesTheMailboxAfterAsking) {

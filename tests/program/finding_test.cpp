@@ -11,7 +11,12 @@ namespace {
 class FindingTest : public testing::Test {
  protected:
   FindingTest()
-      : Play(RichWorld().Game("CWA").Mail("Ruth Vane", "Hello there.").Mail("Maeve", "Good day.")) {
+      : Play(RichWorld()
+                 .Game("CWA")
+                 .Mail("Ruth Vane", "Hello there.")
+                 .Mail("Maeve", "Good day.")
+                 .Mail("XWF News", "Ink is dry.")
+                 .Mail("XWF News", "A tie is bought.")) {
     Play.Desk.Open("frmMainScreen");
   }
   /// Opens the one that is called so.
@@ -60,6 +65,8 @@ TEST_F(FindingTest, OpensThePageOrTheRowOfWhateverIsFound) {
   Open("Hello there.");
   EXPECT_EQ(desk.TopName(), "frmNews");
   EXPECT_EQ(desk.Text("txtbody"), "Hello there.");
+  Open("Ink is dry.");
+  EXPECT_EQ(desk.Text("txtbody"), "Ink is dry.") << "in the row of its day";
   Open("Heat");
   EXPECT_EQ(desk.TopName(), "frmGlossary");
   EXPECT_EQ(Picked("lstterms"), "Heat");

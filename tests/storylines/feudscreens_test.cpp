@@ -52,10 +52,12 @@ TEST(frmFeuds, ShowsAllEightSlotsAndTheirNumbers) {
   EXPECT_EQ(desk.FirstColumn("lstscore"),
             (Names{"Clean wins", "Dirty wins", "Verbal attacks", "Sneak attacks", "Won"}));
   EXPECT_EQ(desk.Rows("lstscore")[2], (Names{"Verbal attacks", "3", "7"}));
+  EXPECT_EQ(desk.FirstColumn("lstpeople"), (Names{"Bram Okafor", "Cal Drift"}));
   desk.Pick("lstfeuds", 3);
   EXPECT_EQ(desk.Text("cmdask"), "Start Feud");
   EXPECT_EQ(desk.Tip("cmdend"), "There is no feud in this slot.");
   EXPECT_TRUE(desk.Rows("lstscore").empty());
+  EXPECT_EQ(desk.FirstColumn("lstpeople"), Names{"Low Down"}) << "the only one without a feud";
   desk.OpenRow("lstfeuds", 1);
   const std::pair<const char*, const char*> kShown[] = {{"lblfacts", "Bram Okafor vs Cal Drift"},
                                                         {"txtclean1", "1"},

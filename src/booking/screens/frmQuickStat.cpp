@@ -59,6 +59,47 @@ std::string FinishersOf(const Worker& worker) {
   return Joined(finishers);
 }
 
+std::string TitlesHeldBy(const World& world, const Worker& worker) {
+  std::vector<std::string> names;
+  for (const Title& title : world.Titles())
+    if (title.Holder == worker.Uid || title.Partner == worker.Uid)
+      names.push_back(title.Name.Str());
+  return Joined(names);
+}
+
+std::vector<Paragraph> WordsOn(const World& world, const Worker& worker) {
+  const Worker* manager = ManagerOf(world, worker);
+  std::vector<Paragraph> told{
+      {Style::Strong, worker.Name.Str()},
+      {Style::Muted, std::to_string(worker.Age) + ", " +
+                         std::string(worker.Weight == "L" ? "lightweight" : "heavyweight") + ", " +
+                         std::string(DispositionText(worker.Disposition))},
+      {Style::Line, std::string(PositionText(worker.Position)) + ", " +
+                        (worker.Employer == 0 ? std::string("on the free market")
+                                              : PromotionName(world, worker.Employer))},
+      {Style::Line, StatusLine(worker)}};
+  const std::pair<const char*, std::string> facts[] = {
+      {"Finishers: ", FinishersOf(worker)},
+      {"Manager: ", manager ? manager->Name.Str() : ""},
+      {"Stable: ", worker.Stable == "None" ? "" : worker.Stable.Str()},
+      {"Titles: ", TitlesHeldBy(world, worker)},
+      {"", TraitsOf(worker)}};
+  for (const auto& [label, fact] : facts)
+    if (!fact.empty()) told.push_back({Style::Line, label + fact});
+  return told;
+}
+
+/// Somebody's numbers and what is worth knowing beside them; of nobody neither.
+void ShowNumbers(const World& world, const Worker* worker, ui::ListBox& stats, ui::Report& words) {
+  std::vector<ui::ListBox::Row> rows;
+  for (const StatRow& skill : kSkills)
+    if (worker)
+      rows.push_back(
+          {{skill.Name, ui::Cell(int(worker->*skill.Value))}, static_cast<int>(rows.size()) + 1});
+  stats.Fill(std::move(rows));
+  words.Write(worker ? WordsOn(world, *worker) : std::vector<Paragraph>());
+}
+
 /// Anybody's numbers at a glance.
 class frmQuickStat : public GameScreen {
  public:
@@ -105,44 +146,7 @@ class frmQuickStat : public GameScreen {
   }
 
   void ShowWorker() {
-    const Worker* worker = world().FindWorker(lstwres.Key());
-    std::vector<ui::ListBox::Row> rows;
-    for (const StatRow& skill : kSkills)
-      if (worker)
-        rows.push_back(
-            {{skill.Name, ui::Cell(int(worker->*skill.Value))}, static_cast<int>(rows.size()) + 1});
-    lststats.Fill(std::move(rows));
-    txtworker.Write(worker ? Told(*worker) : std::vector<Paragraph>());
-  }
-
-  std::vector<Paragraph> Told(const Worker& worker) {
-    const Worker* manager = ManagerOf(world(), worker);
-    std::vector<Paragraph> told{
-        {Style::Strong, worker.Name.Str()},
-        {Style::Muted, std::to_string(worker.Age) + ", " +
-                           std::string(worker.Weight == "L" ? "lightweight" : "heavyweight") +
-                           ", " + std::string(DispositionText(worker.Disposition))},
-        {Style::Line, std::string(PositionText(worker.Position)) + ", " +
-                          (worker.Employer == 0 ? std::string("on the free market")
-                                                : PromotionName(world(), worker.Employer))},
-        {Style::Line, StatusLine(worker)}};
-    const std::pair<const char*, std::string> facts[] = {
-        {"Finishers: ", FinishersOf(worker)},
-        {"Manager: ", manager ? manager->Name.Str() : ""},
-        {"Stable: ", worker.Stable == "None" ? "" : worker.Stable.Str()},
-        {"Titles: ", TitlesOf(worker)},
-        {"", TraitsOf(worker)}};
-    for (const auto& [label, fact] : facts)
-      if (!fact.empty()) told.push_back({Style::Line, label + fact});
-    return told;
-  }
-
-  std::string TitlesOf(const Worker& worker) {
-    std::vector<std::string> names;
-    for (const grapplemont::Title& title : world().Titles())
-      if (title.Holder == worker.Uid || title.Partner == worker.Uid)
-        names.push_back(title.Name.Str());
-    return Joined(names);
+    ShowNumbers(world(), world().FindWorker(lstwres.Key()), lststats, txtworker);
   }
 
   using K = ui::ColumnKind;
@@ -161,14 +165,19 @@ class frmDebut : public GameScreen {
   explicit frmDebut(Game& game, bool isEvent = false)
       : GameScreen(game, "frmDebut", "Debuts"), isEvent_(isEvent) {
     lstwres.EmptyText = "Everybody on your roster has been seen. Whom you sign waits here.";
-    lstways.EmptyText = "Choose somebody to see how he can be brought out.";
+    lststats.EmptyText = "The numbers of whoever waits stand here.";
   }
 
   ui::Page Layout() override {
-    return WithoutMain(
-        PageOf(ui::Columns({ui::Group("Not seen yet", {ui::Grow(lstwres)}).Grow(3),
-                            ui::Group("Ways to a debut", {ui::Grow(lstways), lblnote}).Grow(4)}),
-               &lblfacts));
+    return WithoutMain(PageOf(
+        ui::Columns(
+            {ui::Group("Not seen yet", {ui::Grow(lstwres)}).Grow(3),
+             ui::Rows({ui::Group("Ways to a debut", {ui::Grow(lstways), lblnote}).Grow(),
+                       ui::Group("Who it is",
+                                 {ui::Columns({ui::Grow(lststats), ui::Grow(txtworker)}).Grow()})
+                           .Grow()})
+                 .Grow(4)}),
+        &lblfacts));
   }
 
   void Load() override {
@@ -190,12 +199,20 @@ class frmDebut : public GameScreen {
                                           " for a debut.";
   }
 
+  /// The ways of whoever is chosen; while nobody waits, all that there are.
   void ShowWays() {
-    std::vector<ui::ListBox::Row> rows;
-    if (const Worker* worker = world().FindWorker(lstwres.Key()))
-      for (const DebutWay& way : WaysToDebut(world(), *worker, isEvent_))
-        rows.push_back(RowOf(ways_, way, static_cast<int>(rows.size()) + 1));
-    lstways.Fill(std::move(rows));
+    const Worker* worker = world().FindWorker(lstwres.Key());
+    std::vector<DebutWay> ways = WaysToDebut(world(), worker ? *worker : Anybody(), isEvent_);
+    if (!worker)
+      for (DebutWay& way : ways) way.WhyNot = "Nobody waits.";
+    FillPlaces(lstways, ways_, ways);
+    ShowNumbers(world(), worker, lststats, txtworker);
+  }
+
+  static Worker Anybody() {
+    Worker anybody{};
+    anybody.Status = "Nor";
+    return anybody;
   }
 
   void lstwres_Open() { desk().Open(MakefrmQuickStat(game_, lstwres.Key())); }
@@ -217,6 +234,8 @@ class frmDebut : public GameScreen {
   ui::ListBox lstwres{*this, "lstwres", WithFaces(world(), HeadingsOf(columns_)),
                       &frmDebut::ShowWays, &frmDebut::lstwres_Open};
   ui::ListBox lstways{*this, "lstways", HeadingsOf(ways_)};
+  ui::ListBox lststats{*this, "lststats", {{"Skill", K::Text, 2}, {"", K::Percent, 2}}};
+  ui::Report txtworker{*this, "txtworker"};
   ui::Label lblnote{*this, "lblnote",
                     "Whoever appears in a match or an angle without one of these has been seen as "
                     "well, and the debut is spent."};

@@ -1,3 +1,4 @@
+#include "business/past.h"
 #include "calendar/events.h"
 #include "records/fields/fields.h"
 #include "records/modVar.h"
@@ -9,11 +10,40 @@ namespace grapplemont {
 
 namespace {
 
+/// How many Events the line of ratings goes back.
+constexpr std::size_t kEventsShown = 24;
+
+using EventCell = ui::ColumnKind;
+const CellColumns<HistoryEntry> kHeldTable = {
+    {{"Date", EventCell::Date, 3}, [](const HistoryEntry& held) { return DayCell(held.On); }},
+    {{"Event", EventCell::Text, 4},
+     [](const HistoryEntry& held) {
+       return held.CalledOff ? ui::Cell(held.Name + ", called off", ui::Tone::Red)
+                             : ui::Cell(held.Name.View());
+     }},
+    {{"Rating", EventCell::Percent, 3},
+     [](const HistoryEntry& held) {
+       return held.CalledOff ? ui::Cell("") : ui::Cell(int(held.Rating));
+     }},
+    {{"Gate", EventCell::Number, 2, "How many people came."},
+     [](const HistoryEntry& held) { return ui::Cell(int(held.Attendance)); }},
+    {{"Buy rate", EventCell::Number, 2},
+     [](const HistoryEntry& held) {
+       return ui::Cell(double(int(held.Viewers)), RatingText(held.Viewers));
+     }},
+    {{"Made", EventCell::Number, 2, "What it brought, less what it cost."},
+     [](const HistoryEntry& held) {
+       const long long made = static_cast<long long>(int(held.Income)) - int(held.Costs);
+       return ui::Cell(static_cast<double>(made), Dollars(made),
+                       made < 0 ? ui::Tone::Red : ui::Tone::Plain);
+     }}};
+
 /// The player's year, month by month: which Event ends it, and how big it is.
 class frmEvent : public GameScreen {
  public:
   explicit frmEvent(Game& game) : GameScreen(game, "frmEvent", "Events", {.Manages = true}) {
     lstevents.Room = 12;
+    lstheld.EmptyText = "No Event of this month has been held yet. What comes of it is kept here.";
     txtname.Hint = "Name of the Event";
     for (const Term& type : kEventTypes)
       cmbtype.Add(std::string(type.Says) + ", " + Dollars(EventProductionCost(type.Code)),
@@ -30,7 +60,8 @@ class frmEvent : public GameScreen {
                  {ui::Group("The month's Event",
                             {lblmonth, ui::Columns({ui::Field("Name", txtname), cmdrename}),
                              ui::Columns({ui::Field("Type", cmbtype), cmdtype}), cmdadd, lblnote}),
-                  ui::Spacer()})
+                  ui::Group("Held in this month", {ui::Grow(lstheld)}).Grow(3),
+                  ui::Group("Ratings of your Events", {ui::Grow(chtratings)}).Grow(2)})
                  .Grow(2)}),
         &lblfacts, {&cmddrop});
     page.Main = nullptr;  // Enter is the hub's
@@ -61,6 +92,22 @@ class frmEvent : public GameScreen {
     }
     lstevents.Fill(std::move(rows));
     lblfacts.Text = std::to_string(planned) + " of 12 months have an Event";
+    ShowRatings();
+  }
+
+  /// Of those that were held, the oldest first.
+  void ShowRatings() {
+    auto events = EventsOf(world(), world().PlayerUid());
+    std::erase_if(events, [](const HistoryEntry* event) { return bool(event->CalledOff); });
+    if (events.size() > kEventsShown) events.resize(kEventsShown);
+    std::vector<double> ratings;
+    std::vector<std::string> days;
+    for (auto event = events.rbegin(); event != events.rend(); ++event) {
+      ratings.push_back((*event)->Rating);
+      days.push_back(ShortDate((*event)->On));
+    }
+    chtratings.Captions = std::move(days);
+    chtratings.Lines = std::vector<ui::Chart::Series>{{"", std::move(ratings), ui::Tone::Gold}};
   }
 
   ui::ListBox::Row RowOf(int month) {
@@ -95,6 +142,9 @@ class frmEvent : public GameScreen {
                        ? std::string()
                        : world().Player().Initials + " in " + std::string(MonthName(Month()));
     cmbtype.SelectKey(event ? int(event->Type) : NewEventType(world().Player()));
+    FillPlaces(lstheld, kHeldTable,
+               Month() == 0 ? std::vector<const HistoryEntry*>()
+                            : EventsOf(world(), world().PlayerUid(), Month()));
     ShowButtons();
   }
 
@@ -157,6 +207,8 @@ class frmEvent : public GameScreen {
   ui::Button cmdtype{*this, "cmdtype", "Change Type", &frmEvent::cmdtype_Click};
   ui::Button cmdadd{*this, "cmdadd", "Plan It", &frmEvent::cmdadd_Click};
   ui::Label lblnote{*this, "lblnote"};
+  ui::ListBox lstheld{*this, "lstheld", HeadingsOf(kHeldTable)};
+  ui::Chart chtratings{*this, "chtratings"};
   ui::Button cmddrop{*this, "cmddrop", "Drop", &frmEvent::cmddrop_Click};
 };
 

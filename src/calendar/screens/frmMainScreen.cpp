@@ -8,6 +8,7 @@
 #include "calendar/screens/calendarscreens.h"
 #include "calendar/screens/screendesk.h"
 #include "calendar/screens/screenguide.h"
+#include "calendar/screens/screentiles.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
@@ -16,7 +17,6 @@
 #include "show/holdshow.h"
 #include "show/nightbook.h"
 #include "storylines/screens/screenpeople.h"
-#include "ui/acts.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -57,9 +57,11 @@ constexpr std::array<Command, 19> kCommands = {{
     {"cmdoptions", "Options", "frmOptions", "Desk", "F12"},
 }};
 
-/// How many mails and days ahead the page shows.
-constexpr std::size_t kMailsShown = 12;
-constexpr int kDaysShown = 35;
+/// How many mails and days ahead the page shows, and how many letters wide a card of them is at
+/// least.
+constexpr std::size_t kMailsShown = 40;
+constexpr int kDaysShown = 70;
+constexpr int kDeskLetters = 50;
 
 ui::Tone ToneOf(const Appointment& show) {
   if (show.Kind == "Event") return ui::Tone::Gold;
@@ -72,7 +74,8 @@ class frmMainScreen : public ui::Screen {
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
     CommandNamed("cmdfed").Tip = "Click for promotional matters.";
     lstmail.EmptyText = "No unread mail. What is meant for you arrives here; F10 has all of it.";
-    lstahead.Room = 5;
+    lstahead.EmptyText = "No show in sight. Television (F6) finds a network, Events plans a night.";
+    for (ui::ListBox* list : {&lstahead, &lstmail}) list->Room = list->Least = 5;
     lblworld.Colour = ui::Tone::Muted;
   }
 
@@ -91,8 +94,8 @@ class frmMainScreen : public ui::Screen {
     page.Actions = {&cmdmorning, &cmdbook};
     page.Main = &cmdnext;
     page.Cancel = &cmdquit;
-    page.Body = ui::Columns(
-        {ui::Rows({guide_.Layout(), LeftHalf().Grow()}).Grow(), cards_.Layout().Grow()});
+    page.Body = ui::Rows(
+        {figures_.Layout(), Due().Grow(4), cards_.People().Grow(2), cards_.Standing().Grow(2)});
     return page;
   }
 
@@ -124,11 +127,16 @@ class frmMainScreen : public ui::Screen {
   }
 
  private:
-  ui::Box LeftHalf() {
-    return ui::Rows({ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow(2),
-                     ui::Group("Unread mail", {imgmail, ui::Grow(lstmail),
-                                               ui::Columns({ui::Grow(lblworld), cmdworld})})
-                         .Grow(3)});
+  /// What is to be done and to be read.
+  ui::Box Due() {
+    return ui::Columns(
+               {ui::Rows(
+                    {guide_.Layout(), ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow()})
+                    .Grow(),
+                ui::Group("Unread mail",
+                          {ui::Grow(lstmail), ui::Columns({imgmail, ui::Grow(lblworld), cmdworld})})
+                    .Grow()})
+        .Wide(kDeskLetters);
   }
 
   ui::Button& CommandNamed(std::string_view control) {
@@ -146,6 +154,7 @@ class frmMainScreen : public ui::Screen {
     if (!game_.HasWorld()) return;
     ShowTopBar();
     guide_.Show();
+    figures_.Show();
     ShowMail();
     ShowMeeting();
     ShowAhead();
@@ -179,12 +188,12 @@ class frmMainScreen : public ui::Screen {
     const int count = world().News().Count();
     EnableUnless(imgmail, HasNews(world()) ? "" : "No mail.");
     imgmail.Text = Counted(count, "mail");
-    const std::vector<int> own = UnreadMails(world(), false), others = UnreadMails(world(), true);
-    const std::size_t unread = own.size() + others.size();
-    CommandNamed("cmdnews").Badge = unread == 0 ? std::string() : std::to_string(unread);
-    ShowDigest(!others.empty());
+    const Unread unread = UnreadOf(world());
+    CommandNamed("cmdnews").Badge =
+        unread.Count() == 0 ? std::string() : std::to_string(unread.Count());
+    ShowDigest();
     std::vector<ui::ListBox::Row> rows;
-    for (const int number : own) {
+    for (const int number : unread.Own) {
       if (rows.size() == kMailsShown) break;
       const Mail& mail = world().News()[number];
       rows.push_back(
@@ -195,13 +204,13 @@ class frmMainScreen : public ui::Screen {
   }
 
   /// One line for all that the latest day has told of other promotions.
-  void ShowDigest(bool unread) {
+  void ShowDigest() {
     const std::vector<Digest> digests = DigestsOf(world());
     lblworld.Visible = !digests.empty();
     cmdworld.Visible = !digests.empty();
     if (digests.empty()) return;
     lblworld.Text = "Around the rings, " + digests.front().Date + ": " + digests.front().Words +
-                    (unread ? "" : ", all read");
+                    (digests.front().IsUnread ? "" : ", all read");
   }
 
   void ShowAhead() {
@@ -211,10 +220,10 @@ class frmMainScreen : public ui::Screen {
       const int day = static_cast<int>((show.On - kDayZero).count());
       const bool isToday = show.On == world().Today();
       if (isToday) today += (today.empty() ? "" : ", ") + show.What;
-      rows.push_back(
-          {{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)), DayName(show.On),
-            show.What, ui::Cell(show.Kind, ToneOf(show)), BookedText(world(), show)},
-           static_cast<int>(rows.size()) + 1});
+      rows.push_back({{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)),
+                       show.What, ui::Cell(day, std::string(DayName(show.On))),
+                       ui::Cell(show.Kind, ToneOf(show)), BookedText(world(), show)},
+                      static_cast<int>(rows.size()) + 1});
     }
     lstahead.Fill(std::move(rows), false);
     const bool isOver = HasEnded(world().Game());
@@ -286,22 +295,22 @@ class frmMainScreen : public ui::Screen {
     RefreshMainScreen();
   }
 
+  /// Today's show opens its sheet, a later one what is drafted.
+  void lstahead_Open() {
+    const auto shows = ComingShows(world(), kDaysShown);
+    const auto place = static_cast<std::size_t>(lstahead.Key());
+    if (place < 1 || place > shows.size() || HasEnded(world().Game())) return;
+    if (shows[place - 1].On == world().Today()) return cmdnext_Click();
+    desk().Open("frmDrafts");
+  }
+
   void lstmail_Open() { OpenMail(lstmail.Key()); }
   void cmdworld_Click() {
     const std::vector<Digest> digests = DigestsOf(world());
     if (!digests.empty()) OpenMail(digests.front().Mails.front());
   }
-
-  /// The mailbox lists mails under their numbers, and a day's digest under that of its latest.
   void OpenMail(int number) {
-    desk().Open("frmNews");
-    const auto* list = dynamic_cast<const ui::ListBox*>(desk().Top()->Find("lstnews"));
-    if (!list) return;
-    for (int row = 1; row <= list->Count(); ++row)
-      if (list->Rows()[static_cast<std::size_t>(row - 1)].Key == number) {
-        ui::Pick(desk(), *desk().Top(), "lstnews", row);
-        return;
-      }
+    if (number != 0 && game_.OpenMail) game_.OpenMail(number);
   }
 
   void cmdquit_Click() {
@@ -331,14 +340,17 @@ class frmMainScreen : public ui::Screen {
                                             [this, &command] { desk().Open(command.Screen); });
       }};
   GuideCard guide_{*this, game_};
+  DeskFigures figures_{*this, game_};
   ui::Label imgmail{*this, "imgmail"};
   ui::ListBox lstahead{*this,
                        "lstahead",
                        {{"Date", K::Number},
-                        {"Day"},
                         {"Show"},
+                        {"Day", K::Date},
                         {"Kind", K::Tag},
-                        {"Booked", K::Text, 0, "How far the card is."}}};
+                        {"Booked", K::Text, 0, "How far the card is."}},
+                       ui::Handler{},
+                       [this] { lstahead_Open(); }};
   ui::ListBox lstmail{
       *this, "lstmail", {{"From"}, {"Date"}, {"Mail"}}, ui::Handler{}, [this] { lstmail_Open(); }};
   ui::Label lblworld{*this, "lblworld"};

@@ -15,17 +15,20 @@ using K = ui::ColumnKind;
 /// How many month ends the lines go back.
 constexpr std::size_t kMonthsShown = 12;
 
+/// What a champion, the Title and its figures need to stand in one line.
+constexpr int kLettersOfCard = 50;
+
 const CellColumns<Worker> kHurt = {
-    {{"Hurt and worn", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
+    {{"Worker", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
     {{"Condition", K::Text, 4}, [](const Worker& worker) {
        return worker.StatusMonths > 0 ? StatusCell(worker)
                                       : ui::Cell(std::to_string(worker.Condition) + "%");
      }}};
 const CellColumns<Worker> kUnhappy = {
-    {{"Unhappy", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
+    {{"Worker", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
     {{"Morale", K::Percent, 4}, [](const Worker& worker) { return int(worker.Morale); }}};
 const CellColumns<Worker> kEnding = {
-    {{"Contract ends", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
+    {{"Worker", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
     {{"Months", K::Number, 2, "Months left."}, [](const Worker& worker) {
        return ui::Cell(int(worker.ContractMonths),
                        worker.ContractMonths <= 1 ? ui::Tone::Red : ui::Tone::Plain);
@@ -36,7 +39,7 @@ const CellColumns<Worker> kEnding = {
 DeskCards::DeskCards(ui::Screen& screen, Game& game)
     : game_(game),
       lstchampions(screen, "lstchampions",
-                   {{"Champion", K::Text, 4, "", [this](int key) { return PlateOfRow(key); }},
+                   {{"Champion", K::Text, 5, "", [this](int key) { return PlateOfRow(key); }},
                     {"Title", K::Text, 4},
                     {"Days", K::Number, 2, "Since the Title was won."},
                     {"Image", K::Number, 2}},
@@ -57,21 +60,21 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
   lstunhappy.EmptyText = "Nobody is unhappy.";
   lstcontracts.EmptyText = "No contract ends within half a year.";
   for (ui::ListBox* list : {&lstchampions, &lstfeuds, &lsthurt, &lstunhappy, &lstcontracts})
-    list->Room = 5;
+    list->Room = list->Least = 4;
 }
 
-ui::Box DeskCards::Layout() {
-  return ui::Rows(
-      {ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(),
-                    ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow()})
-           .Grow(),
-       ui::Group(
-           "Wants looking at",
-           {ui::Columns({ui::Grow(lsthurt), ui::Grow(lstunhappy), ui::Grow(lstcontracts)}).Grow()})
-           .Grow(),
-       ui::Columns({ui::Group("Image", {ui::Grow(chtimage)}).Grow(),
-                    ui::Group("Money", {ui::Grow(chtmoney)}).Grow()})
-           .Grow()});
+ui::Box DeskCards::People() {
+  return ui::Columns({ui::Group("Hurt and worn", {ui::Grow(lsthurt)}).Grow(),
+                      ui::Group("Unhappy", {ui::Grow(lstunhappy)}).Grow(),
+                      ui::Group("Contracts that end", {ui::Grow(lstcontracts)}).Grow()});
+}
+
+ui::Box DeskCards::Standing() {
+  return ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(),
+                      ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow(),
+                      ui::Group("Image", {ui::Grow(chtimage)}).Grow(),
+                      ui::Group("Money", {ui::Grow(chtmoney)}).Grow()})
+      .Wide(kLettersOfCard);
 }
 
 void DeskCards::ShowStories() {

@@ -7,11 +7,14 @@
 
 namespace grapplemont {
 
-/// The half of the main screen that says how the house stands: champions, feuds, people, lines.
+/// What the main screen says of how the house stands: people, champions, feuds, lines.
 class DeskCards {
  public:
   DeskCards(ui::Screen& screen, Game& game);
-  ui::Box Layout();
+  /// Who wants looking at.
+  ui::Box People();
+  /// Champions, feuds and the lines of image and money.
+  ui::Box Standing();
   void Show();
 
  private:

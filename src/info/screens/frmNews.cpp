@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include "info/mailbox.h"
+#include "info/screens/infoscreens.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/readmail.h"
@@ -12,30 +14,40 @@ namespace grapplemont {
 
 namespace {
 
-/// The mailbox: the newest on top, the selected mail beside the list. What other promotions' news
-/// tell of one day is one row, under the number of the latest of them.
+/// The mailbox: the latest day on top and on each what is the player's own, the selected mail
+/// beside the list. What other promotions' news tell of one day is one row below it, under the
+/// number of the latest of them.
 class frmNews : public GameScreen {
  public:
-  explicit frmNews(Game& game) : GameScreen(game, "frmNews", "News") {
+  /// Open at a mail, or at the row that it is gathered in; 0 for the first row.
+  explicit frmNews(Game& game, int number = 0)
+      : GameScreen(game, "frmNews", "News"), first_(number) {
+    lstdigest.OpenWith(cmdsubject);
     lstdigest.EmptyText = "Choose a row \"Around the rings\" to read what others did that day.";
     lstnews.EmptyText = "No mail. What the world has to tell you arrives here.";
   }
 
   ui::Page Layout() override {
     return PageOf(
-        ui::Columns(
-            {ui::Group("",
-                       {ui::Columns({ui::Field("From", cmbfrom), chkdigest}), ui::Grow(lstnews)})
-                 .Grow(3),
-             ui::Group("", {lblfrom, lbldate, ui::Grow(txtbody), ui::Grow(lstdigest)}).Grow(2)}),
+        ui::Columns({ui::Group("", {ui::Columns({ui::Field("From", cmbfrom), chkdigest}),
+                                    ui::Grow(lstnews)})
+                         .Grow(3),
+                     ui::Group("", {ui::Columns({ui::Rows({lblfrom, lbldate}).Grow(), cmdsubject}),
+                                    ui::Grow(txtbody, 2), ui::Grow(lstdigest, 3)})
+                         .Grow(2)}),
         &lblfacts, {&cmdread, &cmdempty, &cmddelete});
   }
 
   void Return() override {
     ShowSenders();
     ShowMails();
+    const int wanted = std::exchange(first_, 0);
+    if (wanted != 0) lstnews.SelectKey(RowKeyOf(wanted));
     if (lstnews.Selected() == 0) lstnews.Select(1);
     lstnews_Click();
+    if (!lstdigest.Visible || wanted == 0) return;
+    lstdigest.SelectKey(wanted);
+    lstdigest_Click();
   }
 
  private:
@@ -57,19 +69,40 @@ class frmNews : public GameScreen {
   bool Gathers() const { return chkdigest.Checked && From().empty(); }
 
   void ShowMails() {
-    unread_.clear();
-    for (const bool worldNews : {false, true})
-      for (const int number : UnreadMails(world(), worldNews)) unread_.insert(number);
+    const Unread unread = UnreadOf(world());
+    unread_ = {unread.Own.begin(), unread.Own.end()};
+    unread_.insert(unread.Others.begin(), unread.Others.end());
+    count_ = Gathers() ? unread.Count() : static_cast<int>(unread_.size());
     digests_ = Gathers() ? DigestsOf(world()) : std::vector<Digest>{};
-    std::vector<ui::ListBox::Row> rows;
-    for (const int number : MailsNewestFirst(world(), From())) {
-      if (const Digest* digest = DigestAt(number))
-        rows.push_back(RowOf(*digest));
-      else if (!Gathers() || !IsWorldNews(world(), world().News()[number]))
-        rows.push_back(grapplemont::RowOf(mails_, world().News()[number], number));
-    }
-    lstnews.Fill(std::move(rows));
+    lstnews.Fill(Rows());
     ShowCount();
+  }
+
+  /// The news of others stand below all else that came on their day.
+  std::vector<ui::ListBox::Row> Rows() {
+    std::set<int> gathered;
+    for (const Digest& digest : digests_) gathered.insert(digest.Mails.begin(), digest.Mails.end());
+    std::vector<ui::ListBox::Row> rows;
+    const Digest* waits = nullptr;
+    const auto close = [&] {
+      if (const Digest* digest = std::exchange(waits, nullptr)) rows.push_back(RowOf(*digest));
+    };
+    for (const int number : MailsNewestFirst(world(), From())) {
+      const Mail& mail = world().News()[number];
+      if (waits && mail.Date != waits->Date) close();
+      if (const Digest* digest = DigestAt(number)) waits = digest;
+      if (!gathered.contains(number)) rows.push_back(grapplemont::RowOf(mails_, mail, number));
+    }
+    close();
+    return rows;
+  }
+
+  /// Of the row that a mail is in.
+  int RowKeyOf(int number) const {
+    for (const Digest& digest : digests_)
+      if (std::ranges::find(digest.Mails, number) != digest.Mails.end())
+        return digest.Mails.front();
+    return number;
   }
 
   /// The digest that stands in the place of this mail; nullptr for none.
@@ -99,7 +132,7 @@ class frmNews : public GameScreen {
     const int shown = static_cast<int>(MailsNewestFirst(world(), From()).size());
     if (shown < all) lblfacts.Text = std::to_string(shown) + " of " + lblfacts.Text.Get();
     EnableUnless(cmdread, unread_.empty() ? "Every mail has been read." : "");
-    cmdread.Badge = unread_.empty() ? std::string() : std::to_string(unread_.size());
+    cmdread.Badge = count_ == 0 ? std::string() : std::to_string(count_);
     EnableUnless(cmdempty, HasNews(world()) ? "" : "There is no mail to delete.");
   }
 
@@ -118,6 +151,29 @@ class frmNews : public GameScreen {
     lblfrom.Text = mail.From.Str();
     lbldate.Text = mail.Date.Str();
     txtbody.Write(mail.Body.View());
+    ShowSubject();
+  }
+
+  /// The first who has a page of those that the mail is about, else who sent it.
+  std::vector<ui::Link> Subject(std::string& words) {
+    for (const std::string& text : {txtbody.Text.Get(), lblfrom.Text.Get()}) {
+      words = text;
+      if (auto links = desk().LinksIn(text); !links.empty()) return links;
+    }
+    return {};
+  }
+
+  void ShowSubject() {
+    std::string words;
+    const std::vector<ui::Link> links = Subject(words);
+    cmdsubject.Text =
+        "Open" + (links.empty() ? "" : " " + words.substr(links[0].From, links[0].Length));
+    EnableUnless(cmdsubject, links.empty() ? "Nobody in this mail has a page." : "");
+  }
+
+  void cmdsubject_Click() {
+    std::string words;
+    if (const std::vector<ui::Link> links = Subject(words); !links.empty()) links[0].Open();
   }
 
   /// The day's news one below the other, each to be read alone.
@@ -140,7 +196,7 @@ class frmNews : public GameScreen {
   }
 
   void cmdread_Click() {
-    MarkRead(world(), MailsNewestFirst(world()));
+    MarkAllRead(world());
     Return();
     if (game_.RefreshMainScreen) game_.RefreshMainScreen();
   }
@@ -189,11 +245,14 @@ class frmNews : public GameScreen {
          return unread_.contains(world().News().NumberOf(mail)) ? ui::Cell("unread", ui::Tone::Gold)
                                                                 : ui::Cell("");
        }}};
+  int first_;
   std::vector<Digest> digests_;
   std::set<int> unread_;
+  int count_ = 0;  // of what is unread, as it is shown
   ui::ListBox lstnews{*this, "lstnews", HeadingsOf(mails_), &frmNews::lstnews_Click};
   ui::Label lblfrom{*this, "lblfrom"};
   ui::Label lbldate{*this, "lbldate"};
+  ui::Button cmdsubject{*this, "cmdsubject", "Open", &frmNews::cmdsubject_Click};
   ui::Report txtbody{*this, "txtbody"};
   ui::ListBox lstdigest{
       *this, "lstdigest", {{"From", K::Text, 2}, {"News", K::Text, 5}}, &frmNews::lstdigest_Click};
@@ -207,5 +266,9 @@ class frmNews : public GameScreen {
 }  // namespace
 
 SCREEN(frmNews)
+
+std::unique_ptr<ui::Screen> MailScreen(Game& game, int number) {
+  return std::make_unique<frmNews>(game, number);
+}
 
 }  // namespace grapplemont

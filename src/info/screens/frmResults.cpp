@@ -116,6 +116,11 @@ void ConnectInfo(Game& game) {
   game.OpenReport = [&game](Day on, int promotionUid) {
     game.Desk().Open(ReportScreen(game, on, promotionUid));
   };
+  game.OpenMail = [&game](int number) {
+    ui::Screen* const top = game.Desk().Top();
+    if (top && top->Name() == "frmNews") game.Desk().Close(*top);
+    game.Desk().Open(MailScreen(game, number));
+  };
 }
 
 namespace {

@@ -25,6 +25,22 @@ constexpr std::array<Counter, 4> kCounters = {{
     {"txtsneak", "Sneak attacks", &Feud::Sneak1, &Feud::Sneak2},
 }};
 
+/// Whoever stands on either side, the first side first.
+std::vector<const Worker*> PeopleOf(const World& world, const Feud& feud) {
+  const FeudSides sides = SidesOf(feud);
+  std::vector<const Worker*> people;
+  for (const int uid : {sides.One.First, sides.One.Second, sides.Two.First, sides.Two.Second})
+    if (const Worker* worker = uid == 0 ? nullptr : world.FindWorker(uid)) people.push_back(worker);
+  return people;
+}
+
+bool IsFeuding(const World& world, int uid) {
+  return std::ranges::any_of(world.Feuds(), [&](const Feud& feud) {
+    const FeudSides sides = SidesOf(feud);
+    return sides.One.Has(uid) || sides.Two.Has(uid);
+  });
+}
+
 /// Asks, and on Yes ends the feud off camera. True when it has ended.
 bool EndFeudAfterAsking(Game& game, int slot) {
   if (!game.Desk().Ask("End Feud?", "End this feud off-camera?", ui::Default::No)) return false;
@@ -104,7 +120,7 @@ class frmFeudStat : public GameScreen {
   ui::Button cmdend{*this, "cmdend", "End Feud", &frmFeudStat::cmdend_Click};
 };
 
-/// The eight feud slots as one table, the score of the selected feud beside it.
+/// The eight feud slots as one table, the score of the selected feud beside it, its people below.
 class frmFeuds : public GameScreen {
  public:
   explicit frmFeuds(Game& game) : GameScreen(game, "frmFeuds", "Feuds", {.Manages = true}) {
@@ -112,6 +128,8 @@ class frmFeuds : public GameScreen {
     lstscore.EmptyText =
         "Nobody feuds in this slot. Start a feud, then feed it with matches, "
         "interviews and angles.";
+    lstfeuds.Room = lstfeuds.Least = kFeuds;
+    lstpeople.EmptyText = "Nobody is free for a feud: it takes people who are fit and known.";
   }
 
   ui::Page Layout() override {
@@ -120,10 +138,13 @@ class frmFeuds : public GameScreen {
         .Actions = {&cmdback, &cmdend, &cmdstat, &cmdask},
         .Main = &cmdask,
         .Cancel = &cmdback,
-        .Body = ui::Columns({ui::Group("", {ui::Grow(lstfeuds)}).Grow(3),
-                             ui::Rows({ui::Group("The score so far", {ui::Grow(lstscore)}).Grow(3),
-                                       ui::Group("Maeve's advice", {ui::Grow(txtmaeve)}).Grow(2)})
-                                 .Grow(2)})};
+        .Body = ui::Columns(
+            {ui::Rows({ui::Group("", {ui::Grow(lstfeuds)}),
+                       ui::Group("Who is in it, or free for one", {ui::Grow(lstpeople)}).Grow(2)})
+                 .Grow(3),
+             ui::Rows({ui::Group("The score so far", {ui::Grow(lstscore)}).Grow(3),
+                       ui::Group("Maeve's advice", {ui::Grow(txtmaeve)}).Grow(2)})
+                 .Grow(2)})};
   }
 
   void Load() override {
@@ -171,6 +192,7 @@ class frmFeuds : public GameScreen {
     cmdask.Text = taken ? "Ask Maeve" : "Start Feud";
     EnableUnless({cmdstat, cmdend}, taken ? "" : "There is no feud in this slot.");
     ShowScore(feud);
+    ShowPeople(feud);
     txtmaeve.Write(taken ? "Ask her where this feud should go." : "");
   }
 
@@ -186,6 +208,25 @@ class frmFeuds : public GameScreen {
       lstscore.Add({counter.Caption, ui::Cell(feud.*counter.One), ui::Cell(feud.*counter.Two)});
     const FeudScore score = FeudWins(feud);
     lstscore.Add({"Won", ui::Cell(score.One), ui::Cell(score.Two)});
+  }
+
+  /// Of an empty slot those who could be put into it.
+  void ShowPeople(const Feud& feud) {
+    sides_ = SidesOf(feud);
+    if (!IsFreeSlot(feud)) return FillTable(lstpeople, people_, PeopleOf(world(), feud));
+    std::vector<const Worker*> people = FeudRoster(world());
+    std::erase_if(people, [this](const Worker* worker) { return IsFeuding(world(), worker->Uid); });
+    FillTable(lstpeople, people_, people);
+  }
+
+  ui::Cell SideCell(const Worker& worker) const {
+    return sides_.One.Has(worker.Uid)   ? ui::Cell("One")
+           : sides_.Two.Has(worker.Uid) ? ui::Cell("Two")
+                                        : ui::Cell("Free", ui::Tone::Muted);
+  }
+
+  void lstpeople_Open() {
+    if (lstpeople.Key() != 0 && game_.OpenWorker) game_.OpenWorker(lstpeople.Key());
   }
 
   void lstfeuds_DblClick() {
@@ -228,8 +269,15 @@ class frmFeuds : public GameScreen {
        [](const Feud& feud) { return CountCell(feud, FeudWins(feud).Two); }}};
   ui::ListBox lstfeuds{*this, "lstfeuds", HeadingsOf(feuds_), &frmFeuds::lstfeuds_Click,
                        &frmFeuds::lstfeuds_DblClick};
+  FeudSides sides_;  // of the selected feud
+  const CellColumns<Worker> people_ = PeopleTable(
+      {{{"Side", K::Tag}, [this](const Worker& worker) { return SideCell(worker); }},
+       {{"Morale", K::Percent, 2}, [](const Worker& worker) { return int(worker.Morale); }},
+       {{"", K::Tag, 2}, StatusCell}});
   ui::ListBox lstscore{*this, "lstscore"};
   ui::Report txtmaeve{*this, "txtmaeve"};
+  ui::ListBox lstpeople{*this, "lstpeople", WithFaces(world(), HeadingsOf(people_)), ui::Handler{},
+                        [this] { lstpeople_Open(); }};
   ui::Button cmdend{*this, "cmdend", "End Feud", &frmFeuds::cmdend_Click};
   ui::Button cmdstat{*this, "cmdstat", "Statistics", &frmFeuds::cmdstat_Click};
   ui::Button cmdask{*this, "cmdask", "Start Feud", &frmFeuds::cmdask_Click};

@@ -1,0 +1,81 @@
+#include "calendar/desktiles.h"
+
+#include "business/finance.h"
+#include "business/past.h"
+#include "calendar/deskwork.h"
+#include "records/fields/vocabulary.h"
+#include "records/fields/wording.h"
+#include "records/modVar.h"
+#include "records/modWresCheck.h"
+#include "records/readmail.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kHighest = 100;  // the image at which a promotion rises
+
+int SignOf(long long change) {
+  return change > 0 ? 1 : change < 0 ? -1 : 0;
+}
+std::string PlusIf(long long change) {
+  return change > 0 ? "+" : "";
+}
+
+/// Against the last month end; before the first, by the books.
+DeskTile MoneyTile(const Promotion& player) {
+  const long long now = player.Money, before = player.MoneyBefore[0];
+  const long long moved = before == kNoEnd ? Balance(player.ThisMonth) : now - before;
+  return {"Money " + Dollars(player.Money), PlusIf(moved) + Dollars(moved) + " this month",
+          SignOf(moved)};
+}
+
+DeskTile ImageTile(const Promotion& player) {
+  const std::string size(SizeText(player.Size - 1));
+  return {"Image " + std::to_string(player.Image) + "%",
+          player.Size == kGlobal ? "There is no size above yours"
+                                 : Counted(kHighest - player.Image, "point") + " short of " + size};
+}
+
+/// How the standing has moved since the last month end, and what the last show was worth.
+DeskTile MomentumTile(const World& world, const Promotion& player) {
+  const int moved = player.Rank[0] == kNoEnd ? 0 : StandingScore(player) - player.Rank[0];
+  const HistoryEntry* show = LastShowOf(world, player.Uid, MonthsBefore(world.Today(), 3));
+  return {"Momentum " + PlusIf(moved) + std::to_string(moved),
+          !show             ? "No show yet"
+          : show->CalledOff ? "The last show was called off"
+                            : "Last show " + std::to_string(show->Rating) + "%",
+          SignOf(moved)};
+}
+
+DeskTile MailTile(const World& world) {
+  const Unread unread = UnreadOf(world);
+  if (unread.Count() == 0) return {"Mail", "All of it is read"};
+  return {"Mail " + std::to_string(unread.Count()) + " unread",
+          std::to_string(unread.Own.size()) + " for you, " + Counted(unread.Days, "digest")};
+}
+
+DeskTile PeopleTile(const World& world) {
+  int people = 0, away = 0, unhappy = 0;
+  for (const Worker& worker : world.Workers()) {
+    if (!WorksForPlayer(world, worker)) continue;
+    ++people;
+    away += IsAway(worker);
+    unhappy += IsUnhappy(worker);
+  }
+  return {"Roster " + std::to_string(people),
+          away + unhappy == 0
+              ? "All fit and content"
+              : std::to_string(away) + " away, " + std::to_string(unhappy) + " unhappy",
+          away > 0 ? -1 : 0};
+}
+
+}  // namespace
+
+std::array<DeskTile, 5> DeskTiles(const World& world) {
+  const Promotion& player = world.Player();
+  return {MoneyTile(player), ImageTile(player), MomentumTile(world, player), MailTile(world),
+          PeopleTile(world)};
+}
+
+}  // namespace grapplemont
