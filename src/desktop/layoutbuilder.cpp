@@ -9,6 +9,7 @@
 
 #include "desktop/button.h"
 #include "desktop/card.h"
+#include "desktop/columns.h"
 #include "desktop/pieces.h"
 #include "desktop/spoken.h"
 #include "desktop/tableview.h"
@@ -50,22 +51,12 @@ bool IsPlainRow(const Box& box) {
          !std::ranges::all_of(box.Parts, IsButton);
 }
 
-/// A column among others. A calm one does not ask for more because of the stretch at its end; one
-/// of which all is hidden takes no room, whatever its share.
-class Column : public QVBoxLayout {
- public:
-  explicit Column(bool calm) : calm_(calm) {}
-  Qt::Orientations expandingDirections() const override {
-    const auto all = QVBoxLayout::expandingDirections();
-    return calm_ ? all & ~Qt::Vertical : all;
-  }
-  QSize maximumSize() const override {
-    return isEmpty() ? QSize(0, 0) : QVBoxLayout::maximumSize();
-  }
-
- private:
-  bool calm_;
-};
+/// A row of many cards on which nothing grows, such as one of several below each other.
+bool IsRowOfCards(const Box& box) {
+  return box.Is == Kind::Columns && box.Parts.size() > kFew &&
+         std::ranges::all_of(
+             box.Parts, [](const Box& part) { return part.Is == Kind::Group && !Grows(part); });
+}
 
 QGridLayout* NewGrid(int gap) {
   auto* grid = new QGridLayout;
@@ -170,7 +161,8 @@ std::size_t LayoutBuilder::AddRun(const std::vector<Box>& boxes, std::size_t fro
       {[](const Box& box, const Box& first) {
          return IsPlainRow(box) && box.Parts.size() == first.Parts.size();
        },
-       2, &LayoutBuilder::AddGrid}};
+       2, &LayoutBuilder::AddGrid},
+      {[](const Box& box, const Box&) { return IsRowOfCards(box); }, 2, &LayoutBuilder::AddCards}};
   for (const auto& [fits, least, add] : kAlike) {
     Run run;
     for (std::size_t i = from; i < boxes.size() && fits(boxes[i], boxes[from]); ++i)
@@ -285,7 +277,10 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
     card->setMaximumWidth(ReadableWidth() + 2 * Px(kCardSide) + Px(kScrollBar));
   Means(*card, QAccessible::Grouping);
   card->setAccessibleName(heading_);
-  auto* inside = NewLayout<QVBoxLayout>(card, kClose, {kCardSide, kCardSide, kCardSide, kCardSide});
+  QVBoxLayout* const inside =
+      peers_ ? new LevelColumn(card, peers_) : NewLayout<QVBoxLayout>(card, kClose);
+  inside->setSpacing(Px(kClose));
+  inside->setContentsMargins(Px(kCardSide), Px(kCardSide), Px(kCardSide), Px(kCardSide));
   auto* head = new TurningLayout(kClose);
   inside->addLayout(head);
   if (!box.Title.empty()) head->addWidget(new WrappedLabel(card, Shown(box.Title), bold), 1);
@@ -309,6 +304,12 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   }
   cards_.push_back({card, views});
   into->addWidget(card, ShareOf(box));
+}
+
+/// Cards of one kind in several rows are all of one height.
+void LayoutBuilder::AddCards(const Run& rows, QBoxLayout* into) {
+  const QScopedValueRollback<std::shared_ptr<Peers>> level(peers_, std::make_shared<Peers>());
+  for (const Box* row : rows) AddColumns(*row, into);
 }
 
 void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {

@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "desktop/tableview.h"
@@ -35,16 +36,18 @@ class Scroller : public BareScroller {
   }
   QSize sizeHint() const override {
     const QSize wanted = widget()->sizeHint();
-    return tight_ ? QSize(wanted.width(), LeastHeight(std::max(width(), Px(480)))) : wanted;
+    return tight_ ? QSize(wanted.width(), LeastHeight(WholeWidth())) : wanted;
   }
   QSize minimumSizeHint() const override {
-    return {Px(160), std::clamp(LeastHeight(std::max(width(), Px(480))), Px(80), Px(kLeastBody))};
+    return {Px(160), std::clamp(LeastHeight(WholeWidth()), Px(80), Px(kLeastBody))};
   }
 
  protected:
   void resizeEvent(QResizeEvent* event) override {
     QScrollArea::resizeEvent(event);
+    placed_ = true;
     Fit();
+    updateGeometry();  // what it asks for hangs on the width
   }
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
@@ -61,13 +64,27 @@ class Scroller : public BareScroller {
     return layout->hasHeightForWidth() ? layout->totalMinimumHeightForWidth(width)
                                        : layout->totalMinimumSize().height();
   }
+  int WholeWidth() const {
+    return placed_ ? std::max(maximumViewportSize().width(), widget()->minimumSizeHint().width())
+                   : Px(480);
+  }
+  /// Whether it must scroll is told from the width that it has without a bar. Else a row that turns
+  /// for want of the bar's width would need the bar that has turned it.
   void Fit() {
-    const QSize room = viewport()->size();
-    const int width = std::max(room.width(), widget()->minimumSizeHint().width());
-    widget()->resize(width, std::max(room.height(), LeastHeight(width)));
+    const QSize room = maximumViewportSize();
+    int width = WholeWidth();
+    const int bar = width > room.width() ? horizontalScrollBar()->sizeHint().height() : 0;
+    int height = LeastHeight(width);
+    if (height > room.height() - bar) {
+      const int beside = room.width() - verticalScrollBar()->sizeHint().width();
+      width = std::max(beside, widget()->minimumSizeHint().width());
+      height = LeastHeight(width);
+    }
+    widget()->resize(width, std::max(room.height() - bar, height));
   }
 
-  bool tight_;  // asks for what the body needs, not for what it would like
+  bool tight_;           // asks for what the body needs, not for what it would like
+  bool placed_ = false;  // before that its width says nothing
 };
 
 }  // namespace
@@ -184,12 +201,21 @@ QLayout* ScreenView::BuildHead() {
   title_ = new WrappedLabel(this, {}, TextFont(19, QFont::DemiBold));
   title_->setObjectName("title");
   words->addWidget(title_);
-  if (page_.Facts) {
-    auto* facts = dynamic_cast<LabelView*>(Add(*page_.Facts));
-    facts->SetUsual(ui::Tone::Muted);
-    words->addWidget(facts);
+  std::vector<ui::Label*> facts = page_.More;
+  if (page_.Facts) facts.insert(facts.begin(), page_.Facts);
+  for (ui::Label* fact : facts) {
+    auto* line = dynamic_cast<LabelView*>(Add(*fact));
+    line->SetUsual(fact == page_.Facts ? ui::Tone::Muted : ui::Tone::Plain);
+    words->addWidget(line);
   }
-  head->addLayout(words, 1);
+  if (page_.Face) {
+    auto* faced = NewLayout<QHBoxLayout>(nullptr, kPartGap);
+    faced->addWidget(Add(*page_.Face), 0, Qt::AlignTop);
+    faced->addLayout(words, 1);
+    head->addLayout(faced, 1);
+  } else {
+    head->addLayout(words, 1);
+  }
   if (screen_->Is() == ui::Role::Dialog) return head;
   auto* tail = new TurningLayout(12);
   tail->KeepRowsWhole();

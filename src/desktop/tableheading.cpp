@@ -16,6 +16,10 @@ QFont HeadingFont() {
   return TextFont(11, QFont::DemiBold);
 }
 
+QString WordsOf(const ui::Column& column) {
+  return Shown(column.Short.empty() ? column.Title : column.Short);
+}
+
 void DrawArrow(QPainter& painter, const QPointF& centre, bool down, const QColor& colour) {
   const double half = Px(4) * 0.9, height = Px(5);
   const double base = centre.y() + (down ? -height / 2 : height / 2);
@@ -50,8 +54,8 @@ int TableHeading::MarksWidth(int column) const {
 }
 
 int TableHeading::HeadingWidth(int column) const {
-  const QString title = Shown(model_.Column(column).Title);
-  return QFontMetrics(HeadingFont()).horizontalAdvance(title) + 2 * Px(kCellSide) + 2 +
+  const QString words = WordsOf(model_.Column(column));
+  return QFontMetrics(HeadingFont()).horizontalAdvance(words) + 2 * Px(kCellSide) + 2 +
          MarksWidth(column);
 }
 
@@ -94,7 +98,7 @@ void TableHeading::DrawHeading(QPainter& painter, const QRect& rect, int column)
   const QFontMetrics metrics(HeadingFont());
   const QRect room = rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
   const QString title =
-      metrics.elidedText(Shown(shown.Title), Qt::ElideRight, room.width() - marks + 1);
+      metrics.elidedText(WordsOf(shown), Qt::ElideRight, room.width() - marks + 1);
   const int width = metrics.horizontalAdvance(title);
   int x = AlignsRight(shown.Kind) ? room.right() + 1 - width - marks : room.left();
   painter.setFont(HeadingFont());

@@ -68,8 +68,53 @@ QSize TurningLayout::minimumSize() const {
   return least;
 }
 
+QBoxLayout::Direction TurningLayout::DirectionAt(int width) const {
+  return width < WidthAcross() ? TopToBottom : LeftToRight;
+}
+
+/// What is left over goes to those with a share, as near as it can be told before they are placed.
+std::vector<int> TurningLayout::WidthsAcross(int width) const {
+  std::vector<int> widths;
+  int rest = width, shares = 0;
+  for (int i = 0; i < count(); ++i) {
+    const bool shown = !itemAt(i)->isEmpty();
+    widths.push_back(shown ? itemAt(i)->minimumSize().width() : 0);
+    rest -= widths.back() + (shown && i > 0 ? spacing() : 0);
+    shares += shown ? stretch(i) : 0;
+  }
+  for (int i = 0; i < count() && rest > 0; ++i) {
+    int& part = widths[static_cast<std::size_t>(i)];
+    if (itemAt(i)->isEmpty()) continue;
+    const int more = shares > 0 ? rest * stretch(i) / shares
+                                : std::min(rest, itemAt(i)->sizeHint().width() - part);
+    part += std::max(0, more);
+    if (shares == 0) rest -= std::max(0, more);
+  }
+  return widths;
+}
+
+int TurningLayout::HeightAt(int width, bool least) const {
+  const Direction wanted = DirectionAt(width);
+  if (wanted == direction() && QBoxLayout::hasHeightForWidth())
+    return least ? QBoxLayout::minimumHeightForWidth(width) : QBoxLayout::heightForWidth(width);
+  const std::vector<int> across = WidthsAcross(width);
+  int height = 0;
+  for (int i = 0; i < count(); ++i) {
+    QLayoutItem& item = *itemAt(i);
+    if (item.isEmpty()) continue;
+    const int room = wanted == TopToBottom ? width : across[static_cast<std::size_t>(i)];
+    const int own = !item.hasHeightForWidth()
+                        ? (least ? item.minimumSize() : item.sizeHint()).height()
+                    : least ? item.minimumHeightForWidth(room)
+                            : item.heightForWidth(room);
+    height =
+        wanted == LeftToRight ? std::max(height, own) : height + own + (height > 0 ? spacing() : 0);
+  }
+  return height;
+}
+
 void TurningLayout::setGeometry(const QRect& rect) {
-  const Direction wanted = rect.width() < WidthAcross() ? TopToBottom : LeftToRight;
+  const Direction wanted = DirectionAt(rect.width());
   if (wanted != direction()) {
     setDirection(wanted);
     HoldRows(wanted == LeftToRight);
