@@ -25,8 +25,9 @@ using Kind = ui::Box::Kind;
 constexpr int kWide = 14, kClose = 8;  // between cards, within a card
 constexpr int kCardSide = 14;
 constexpr int kScrollBar = 16;
-constexpr int kLeastCard = 220;  // beside another; a narrower one stands below it
-constexpr std::size_t kFew = 3;  // parts that are never shared out among two lines
+constexpr int kLeastCard = 220;   // beside another; a narrower one stands below it
+constexpr int kLeastAlike = 180;  // the same of many that hold as little each
+constexpr std::size_t kFew = 3;   // parts that are never shared out among two lines
 
 bool IsButton(const Box& box) {
   return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
@@ -225,9 +226,6 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
       box.Parts, [](const Box& part) { return part.Is == Kind::Group || part.Is == Kind::Rows; });
   const bool fields =
       std::ranges::any_of(box.Parts, [](const Box& part) { return part.Is == Kind::Field; });
-  auto* columns = new TurningLayout(fields || (cards && !inCard_) ? kWide : kClose,
-                                    cards && !inCard_ ? kLeastCard : 0);
-  into->addLayout(columns, ShareOf(box));
   // Beside prose, what a wide window has to spare is for those who show more in it.
   const bool others =
       std::ranges::any_of(box.Parts, [](const Box& part) { return Grows(part) && !IsProse(part); });
@@ -235,6 +233,9 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
       box.Parts.size() > kFew && std::ranges::all_of(box.Parts, [&](const Box& part) {
         return part.Is == box.Parts[0].Is && (part.Is == Kind::Group || part.Is == Kind::Field);
       });
+  const int least = !cards || inCard_ ? 0 : alike ? kLeastAlike : kLeastCard;
+  auto* columns = new TurningLayout(fields || (cards && !inCard_) ? kWide : kClose, least);
+  into->addLayout(columns, ShareOf(box));
   bool filled = cards;
   for (const Box& part : box.Parts) {
     filled = filled || part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);

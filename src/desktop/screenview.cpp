@@ -2,9 +2,9 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScrollBar>
 #include <algorithm>
 
+#include "desktop/scroller.h"
 #include "desktop/tableview.h"
 #include "desktop/turninglayout.h"
 #include "ui/acts.h"
@@ -17,7 +17,6 @@ constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
 constexpr int kPartGap = 14;      // between head, body and foot
 constexpr int kLeastTitle = 260;  // what the title has beside actions
-constexpr int kLeastBody = 170;   // under a window's head, before all of the page scrolls
 
 bool IsBackdropFile(const std::string& file) {
   return file == "vxm_back.jpg" || file == "vxm_title.jpg";
@@ -27,65 +26,6 @@ template <class C>
 bool Contains(const std::vector<C*>& controls, const ui::Control* control) {
   return std::find(controls.begin(), controls.end(), control) != controls.end();
 }
-
-/// A body that scrolls when the window is too small for what it needs at least.
-class Scroller : public BareScroller {
- public:
-  Scroller(QWidget* parent, bool tight) : BareScroller(parent), tight_(tight) {
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);  // where even that is too wide for it
-  }
-  QSize sizeHint() const override {
-    const QSize wanted = widget()->sizeHint();
-    return tight_ ? QSize(wanted.width(), LeastHeight(WholeWidth())) : wanted;
-  }
-  QSize minimumSizeHint() const override {
-    return {Px(160), std::clamp(LeastHeight(WholeWidth()), Px(80), Px(kLeastBody))};
-  }
-
- protected:
-  void resizeEvent(QResizeEvent* event) override {
-    QScrollArea::resizeEvent(event);
-    placed_ = true;
-    Fit();
-    updateGeometry();  // what it asks for hangs on the width
-  }
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
-      widget()->layout()->activate();  // else it would answer from what it knew before
-      Fit();
-      updateGeometry();
-    }
-    return QScrollArea::eventFilter(watched, event);
-  }
-
- private:
-  int LeastHeight(int width) const {
-    const QLayout* layout = widget()->layout();
-    return layout->hasHeightForWidth() ? layout->totalMinimumHeightForWidth(width)
-                                       : layout->totalMinimumSize().height();
-  }
-  int WholeWidth() const {
-    return placed_ ? std::max(maximumViewportSize().width(), widget()->minimumSizeHint().width())
-                   : Px(480);
-  }
-  /// Whether it must scroll is told from the width that it has without a bar. Else a row that turns
-  /// for want of the bar's width would need the bar that has turned it.
-  void Fit() {
-    const QSize room = maximumViewportSize();
-    int width = WholeWidth();
-    const int bar = width > room.width() ? horizontalScrollBar()->sizeHint().height() : 0;
-    int height = LeastHeight(width);
-    if (height > room.height() - bar) {
-      const int beside = room.width() - verticalScrollBar()->sizeHint().width();
-      width = std::max(beside, widget()->minimumSizeHint().width());
-      height = LeastHeight(width);
-    }
-    widget()->resize(width, std::max(room.height() - bar, height));
-  }
-
-  bool tight_;           // asks for what the body needs, not for what it would like
-  bool placed_ = false;  // before that its width says nothing
-};
 
 }  // namespace
 
@@ -181,7 +121,6 @@ QBoxLayout* ScreenView::BuildWhole(QMargins margins) {
   auto* scroller = new Scroller(this, false);
   auto* whole = new QWidget(scroller);
   auto* rows = NewLayout<QVBoxLayout>(whole, kPartGap, margins);
-  whole->installEventFilter(scroller);
   scroller->Hold(whole);
   NewLayout<QVBoxLayout>(this, -1)->addWidget(scroller);
   return rows;
@@ -256,7 +195,6 @@ void ScreenView::BuildBody(QBoxLayout* into) {
   LayoutBuilder builder(stage_, body, screen_->Is() == ui::Role::Cover,
                         Shown(screen_->Title.Get()));
   builder.Build(page_.Body, column);
-  body->installEventFilter(scroller);
   scroller->Hold(body);
   into->addWidget(scroller, 1);
   views_.insert(views_.end(), builder.Views().begin(), builder.Views().end());

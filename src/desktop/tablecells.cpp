@@ -268,7 +268,8 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
 QVariant TableModel::TipOf(int section) const {
   const std::string meaning = MeaningOf ? MeaningOf(Column(section).Title) : std::string();
   QStringList lines;
-  const std::string whole = Column(section).Short.empty() ? std::string() : Column(section).Title;
+  const std::string &title = Column(section).Title, &heading = Column(section).Short;
+  const std::string whole = heading.empty() || heading == title ? std::string() : title;
   for (const std::string& line : {whole, Column(section).Tip, meaning})
     if (!line.empty()) lines.append(Shown(line).toHtmlEscaped());
   if (!meaning.empty()) lines.append("Right click, \"What it means\": the glossary.");

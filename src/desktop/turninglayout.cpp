@@ -72,24 +72,21 @@ QBoxLayout::Direction TurningLayout::DirectionAt(int width) const {
   return width < WidthAcross() ? TopToBottom : LeftToRight;
 }
 
-/// What is left over goes to those with a share, as near as it can be told before they are placed.
+/// Those without a share get what they ask for, the others what is left, as near as it can be told
+/// before they are placed.
 std::vector<int> TurningLayout::WidthsAcross(int width) const {
-  std::vector<int> widths;
-  int rest = width, shares = 0;
+  std::vector<int> widths(static_cast<std::size_t>(count()));
+  int rest = width + spacing(), shares = 0;
   for (int i = 0; i < count(); ++i) {
-    const bool shown = !itemAt(i)->isEmpty();
-    widths.push_back(shown ? itemAt(i)->minimumSize().width() : 0);
-    rest -= widths.back() + (shown && i > 0 ? spacing() : 0);
-    shares += shown ? stretch(i) : 0;
-  }
-  for (int i = 0; i < count() && rest > 0; ++i) {
-    int& part = widths[static_cast<std::size_t>(i)];
     if (itemAt(i)->isEmpty()) continue;
-    const int more = shares > 0 ? rest * stretch(i) / shares
-                                : std::min(rest, itemAt(i)->sizeHint().width() - part);
-    part += std::max(0, more);
-    if (shares == 0) rest -= std::max(0, more);
+    shares += stretch(i);
+    if (stretch(i) == 0) widths[static_cast<std::size_t>(i)] = itemAt(i)->sizeHint().width();
+    rest -= widths[static_cast<std::size_t>(i)] + spacing();
   }
+  for (int i = 0; i < count(); ++i)
+    if (stretch(i) > 0 && !itemAt(i)->isEmpty())
+      widths[static_cast<std::size_t>(i)] =
+          std::max(itemAt(i)->minimumSize().width(), rest * stretch(i) / shares);
   return widths;
 }
 

@@ -68,8 +68,9 @@ class frmMorning : public GameScreen {
     lsthurt.EmptyText = "Nobody was hurt.";
     lstwhy.EmptyText = "Choose a number or a name to see where it came from.";
     // All of it is seen at once in a window of the usual size.
-    lstpeople.Room = 5;
-    lsttitles.Room = lstfeuds.Room = lsthurt.Room = lstwhy.Room = 3;
+    lstpeople.Room = 4;
+    lsttitles.Room = lstfeuds.Room = lsthurt.Room = 3;
+    lstwhy.Room = 2;
   }
 
   ui::Page Layout() override {

@@ -51,12 +51,12 @@ class frmWorker : public GameScreen {
     lstcompany.EmptyText = "Alone: no feud, team, manager or stable.";
     txtcontract.Brief = true;
     picworker.Height = 96;
-    pictitle.Height = 56;
+    pictitle.Height = 36;
     // All of it is seen at once in a window of the usual size.
-    lstskills.Room = 8;
-    lstform.Room = 5;
+    lstskills.Room = 6;
+    lstform.Room = 4;
     lsttitles.Room = lstcompany.Room = 2;
-    txtwhy.Room = 4;
+    txtwhy.Room = 3;
   }
 
   int Uid() const { return uid_; }
