@@ -53,7 +53,7 @@ class frmWorker : public GameScreen {
     picworker.Height = 96;
     pictitle.Height = 36;
     // All of it is seen at once in a window of the usual size.
-    lstskills.Room = 6;
+    lstskills.Room = 5;
     lstform.Room = 4;
     lsttitles.Room = lstcompany.Room = 2;
     txtwhy.Room = 3;
