@@ -51,6 +51,8 @@ int WidestDate(const QFont& font, bool shortened, bool weekday) {
          metrics.horizontalAdvance("00  0000");
 }
 
+}  // namespace
+
 /// A label of the bar. Its weight tells what matters: "Image **62%**", "**The promotion** · Cult".
 class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
  public:
