@@ -84,13 +84,13 @@ TEST(TheTopBar, FoldsWhatHasNoRoomIntoAMenuAndTakesTwoLinesAtMost) {
   play.Window.SetLook(desktop::Scheme::Dark, 0);
 }
 
-/// Three cards of words that stand beside each other where they can, over a row of others.
+/// Three cards of words and buttons that stand beside each other where they can.
 class WordyPage : public ui::Screen {
  public:
   explicit WordyPage(ui::Desk& desk) : Screen(desk, "frmWordy", "Words") {
     for (int i = 1; i <= 3; ++i) {
       std::string words;
-      for (int k = 0; k < 24 * i; ++k) words += "The crowd has waited for this. ";
+      for (int k = 0; k < 2 * i; ++k) words += "The crowd has waited for this. ";
       lblwords(i).Text = words;
     }
   }
@@ -116,6 +116,8 @@ class WordyPage : public ui::Screen {
 TEST(ThePage, LooksTheSameHoweverTheWindowHasComeToItsSizeAndCutsNothing) {
   Player play;
   play.Open(std::make_unique<WordyPage>(play.Desk));
+  // With such a text the cards turn amid these widths.
+  play.Window.SetLook(desktop::Scheme::Dark, desktop::DesktopText() * 3 / 4);
   const auto look = [&](const QSize& size) {
     play.Window.resize(size);
     Settle();
@@ -133,6 +135,7 @@ TEST(ThePage, LooksTheSameHoweverTheWindowHasComeToItsSizeAndCutsNothing) {
     for (int width = 1024; width <= 1320; width += 8)
       EXPECT_EQ(look({width, height}), narrowing[width]) << width << " x " << height;
   }
+  play.Window.SetLook(desktop::Scheme::Dark, 0);
 }
 
 TEST(ThePage, CoversTheDialogThatItWasOpenedFrom) {
