@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "desktop/housestyle.h"
+#include "desktop/look.h"
 #include "desktop/tablegrid.h"
 
 namespace grapplemont::desktop {
