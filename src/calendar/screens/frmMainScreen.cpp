@@ -212,7 +212,7 @@ class frmMainScreen : public ui::Screen {
       const bool isToday = show.On == world().Today();
       if (isToday) today += (today.empty() ? "" : ", ") + show.What;
       rows.push_back({{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)),
-                       ui::Cell(day, DayName(show.On)), show.What,
+                       ui::Cell(day, std::string(DayName(show.On))), show.What,
                        ui::Cell(show.Kind, ToneOf(show)), BookedText(world(), show)},
                       static_cast<int>(rows.size()) + 1});
     }
