@@ -208,7 +208,9 @@ std::vector<Section> Sections(ui::Screen& screen) {
   const ui::Page page = screen.Layout();
   Arrangement all;
   for (const ui::Label* label : page.Top) all.Add(label);
+  all.Add(page.Face);
   all.Add(page.Facts);
+  for (const ui::Label* label : page.More) all.Add(label);
   all.Begin({});
   all.Add(page.Body);
   for (const ui::SideGroup& group : page.Side) {

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
@@ -32,6 +33,11 @@ void DrawEnterSign(QPainter& painter, const QRectF& where, const QColor& colour)
   path.lineTo(where.left(), y);
   path.lineTo(where.left() + head, y + head);
   DrawStroke(painter, path, colour, where.width() / 8);
+}
+
+/// In whole pixels, so that words are not cut in the room that they have asked for.
+int WordsWidth(const QFont& font, const QString& words) {
+  return static_cast<int>(std::ceil(QFontMetricsF(font).horizontalAdvance(words)));
 }
 
 QFont BadgeFont() {
@@ -87,7 +93,7 @@ int PushButton::Side() const {
 }
 
 QSize PushButton::sizeHint() const {
-  const int words = QFontMetrics(CaptionFont()).horizontalAdvance(text());
+  const int words = WordsWidth(CaptionFont(), text());
   const int height = Px(plain_ ? kPlainHeight : kHeight);
   return QSize(words + 2 * Px(Side()) + TailWidth(gold_ || enter_), height).expandedTo(least_);
 }
@@ -117,7 +123,7 @@ void PushButton::paintEvent(QPaintEvent*) {
   const QFontMetrics metrics(CaptionFont());
   const int room = width() - 2 * Px(std::min(8, Side())) - TailWidth(enter_);
   const QString caption = metrics.elidedText(text(), Qt::ElideRight, room);
-  const int words = metrics.horizontalAdvance(caption);
+  const int words = WordsWidth(CaptionFont(), caption);
   double x = (width() - words - TailWidth(enter_)) / 2.0;
   painter.setFont(CaptionFont());
   painter.setPen(ink);

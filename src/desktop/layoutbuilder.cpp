@@ -7,8 +7,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/boxshape.h"
 #include "desktop/button.h"
 #include "desktop/card.h"
+#include "desktop/columns.h"
 #include "desktop/pieces.h"
 #include "desktop/spoken.h"
 #include "desktop/tableview.h"
@@ -24,49 +26,15 @@ using Kind = ui::Box::Kind;
 constexpr int kWide = 14, kClose = 8;  // between cards, within a card
 constexpr int kCardSide = 14;
 constexpr int kScrollBar = 16;
-constexpr int kLeastCard = 220;  // beside another; a narrower one stands below it
 constexpr int kLetter = 7;
-constexpr std::size_t kFew = 3;  // parts that are never shared out among two lines
-
-bool IsButton(const Box& box) {
-  return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
-}
-
-/// A button that takes no more room than it needs.
-bool IsCalmButton(const Box& box) {
-  return IsButton(box) && box.Stretch == 0;
-}
+constexpr int kLeastCard = 220;   // beside another; a narrower one stands below it
+constexpr int kLeastAlike = 180;  // the same of many that hold as little each
 
 /// Lets a button with a share take it.
 void Widen(QWidget& widget, const Box& box) {
   if (IsButton(box) && box.Stretch > 0)
     widget.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
-
-/// A row of controls alone, such as one of several alike below each other.
-bool IsPlainRow(const Box& box) {
-  return box.Is == Kind::Columns && box.Parts.size() > 1 &&
-         std::ranges::all_of(
-             box.Parts, [](const Box& part) { return part.Is == Kind::Item && !Grows(part); }) &&
-         !std::ranges::all_of(box.Parts, IsButton);
-}
-
-/// A column among others. A calm one does not ask for more because of the stretch at its end; one
-/// of which all is hidden takes no room, whatever its share.
-class Column : public QVBoxLayout {
- public:
-  explicit Column(bool calm) : calm_(calm) {}
-  Qt::Orientations expandingDirections() const override {
-    const auto all = QVBoxLayout::expandingDirections();
-    return calm_ ? all & ~Qt::Vertical : all;
-  }
-  QSize maximumSize() const override {
-    return isEmpty() ? QSize(0, 0) : QVBoxLayout::maximumSize();
-  }
-
- private:
-  bool calm_;
-};
 
 QGridLayout* NewGrid(int gap) {
   auto* grid = new QGridLayout;
@@ -75,54 +43,7 @@ QGridLayout* NewGrid(int gap) {
   return grid;
 }
 
-bool GrowsByItself(const ui::Control& control) {
-  switch (control.Is()) {
-    case ui::Kind::ListBox:
-    case ui::Kind::Chart:
-      return true;
-    case ui::Kind::Report:
-      return !dynamic_cast<const ui::Report&>(control).Brief;
-    case ui::Kind::TextBox:
-      return dynamic_cast<const ui::TextBox&>(control).MultiLine;
-    default:
-      return false;
-  }
-}
-
-/// A card on which nothing grows but prose.
-bool IsProse(const Box& box) {
-  if (box.Is != Kind::Group) return false;
-  std::vector<ui::Control*> controls;
-  CollectControls(box, controls);
-  std::erase_if(controls, [](const ui::Control* control) { return !GrowsByItself(*control); });
-  return !controls.empty() && std::ranges::all_of(controls, [](const ui::Control* control) {
-    return control->Is() == ui::Kind::Report;
-  });
-}
-
-/// The share of the room left over that a box takes.
-int ShareOf(const Box& box) {
-  return std::max(box.Stretch, Grows(box) ? 1 : 0);
-}
-
 }  // namespace
-
-bool Grows(const Box& box) {
-  switch (box.Is) {
-    case Kind::Item:
-    case Kind::Field:
-      return GrowsByItself(*box.Shown) || (box.Stretch > 0 && box.Shown->Is() == ui::Kind::Picture);
-    case Kind::Tabs:
-      return true;
-    default:
-      return std::ranges::any_of(box.Parts, Grows);
-  }
-}
-
-void CollectControls(const Box& box, std::vector<ui::Control*>& controls) {
-  if (box.Shown) controls.push_back(box.Shown);
-  for (const Box& part : box.Parts) CollectControls(part, controls);
-}
 
 TableView* OnlyTable(const std::vector<ControlView*>& views) {
   TableView* only = nullptr;
@@ -171,7 +92,8 @@ std::size_t LayoutBuilder::AddRun(const std::vector<Box>& boxes, std::size_t fro
       {[](const Box& box, const Box& first) {
          return IsPlainRow(box) && box.Parts.size() == first.Parts.size();
        },
-       2, &LayoutBuilder::AddGrid}};
+       2, &LayoutBuilder::AddGrid},
+      {[](const Box& box, const Box&) { return IsRowOfCards(box); }, 2, &LayoutBuilder::AddCards}};
   for (const auto& [fits, least, add] : kAlike) {
     Run run;
     for (std::size_t i = from; i < boxes.size() && fits(boxes[i], boxes[from]); ++i)
@@ -234,10 +156,6 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
       box.Parts, [](const Box& part) { return part.Is == Kind::Group || part.Is == Kind::Rows; });
   const bool fields =
       std::ranges::any_of(box.Parts, [](const Box& part) { return part.Is == Kind::Field; });
-  const int least = cards && !inCard_ ? kLeastCard : 0;
-  auto* columns = new TurningLayout(fields || (cards && !inCard_) ? kWide : kClose,
-                                    box.Letters > 0 ? box.Letters * kLetter : least);
-  into->addLayout(columns, ShareOf(box));
   // Beside prose, what a wide window has to spare is for those who show more in it.
   const bool others =
       std::ranges::any_of(box.Parts, [](const Box& part) { return Grows(part) && !IsProse(part); });
@@ -245,6 +163,12 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
       box.Parts.size() > kFew && std::ranges::all_of(box.Parts, [&](const Box& part) {
         return part.Is == box.Parts[0].Is && (part.Is == Kind::Group || part.Is == Kind::Field);
       });
+  const int least = box.Letters > 0     ? box.Letters * kLetter
+                    : !cards || inCard_ ? 0
+                    : alike             ? kLeastAlike
+                                        : kLeastCard;
+  auto* columns = new TurningLayout(fields || (cards && !inCard_) ? kWide : kClose, least);
+  into->addLayout(columns, ShareOf(box));
   bool filled = cards;
   for (const Box& part : box.Parts) {
     filled = filled || part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
@@ -287,7 +211,10 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
     card->setMaximumWidth(ReadableWidth() + 2 * Px(kCardSide) + Px(kScrollBar));
   Means(*card, QAccessible::Grouping);
   card->setAccessibleName(heading_);
-  auto* inside = NewLayout<QVBoxLayout>(card, kClose, {kCardSide, kCardSide, kCardSide, kCardSide});
+  QVBoxLayout* const inside =
+      peers_ ? new LevelColumn(card, peers_) : NewLayout<QVBoxLayout>(card, kClose);
+  inside->setSpacing(Px(kClose));
+  inside->setContentsMargins(Px(kCardSide), Px(kCardSide), Px(kCardSide), Px(kCardSide));
   auto* head = new TurningLayout(kClose);
   inside->addLayout(head);
   if (!box.Title.empty()) head->addWidget(new WrappedLabel(card, Shown(box.Title), bold), 1);
@@ -311,6 +238,12 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   }
   cards_.push_back({card, views});
   into->addWidget(card, ShareOf(box));
+}
+
+/// Cards of one kind in several rows are all of one height.
+void LayoutBuilder::AddCards(const Run& rows, QBoxLayout* into) {
+  const QScopedValueRollback<std::shared_ptr<Peers>> level(peers_, std::make_shared<Peers>());
+  for (const Box* row : rows) AddColumns(*row, into);
 }
 
 void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {

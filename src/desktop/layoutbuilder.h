@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QBoxLayout>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -11,6 +12,7 @@
 namespace grapplemont::desktop {
 
 class TableView;
+class LevelColumn;
 class TurningLayout;
 
 /// Makes widgets and layouts of a screen's boxes.
@@ -34,6 +36,7 @@ class LayoutBuilder {
   const std::vector<CardContents>& Cards() const { return cards_; }
 
  private:
+  using Peers = std::vector<const LevelColumn*>;
   using Run = std::vector<const ui::Box*>;
   ControlView* View(ui::Control& control);
   void AddAll(const std::vector<ui::Box>& boxes, QBoxLayout* into);
@@ -48,22 +51,20 @@ class LayoutBuilder {
   void AddForm(const Run& fields, QBoxLayout* into);
   void AddButtons(const Run& buttons, QBoxLayout* into);
   void AddGrid(const Run& rows, QBoxLayout* into);
+  void AddCards(const Run& rows, QBoxLayout* into);
 
   Stage& stage_;
   QWidget* holder_;
   QString heading_;  // of what is being built
   bool cover_;
   bool inCard_ = false;
-  bool calm_ = false;  // the next card takes no more width than its prose can be read in
+  std::shared_ptr<Peers> peers_;  // of the next card; none for one that stands for itself
+  bool calm_ = false;             // the next card takes no more width than its prose can be read in
   std::vector<ControlView*> views_;
   std::vector<CardContents> cards_;
 };
 
-/// Whether a box makes use of more room than it needs, upright.
-bool Grows(const ui::Box& box);
 /// The table among the views; nullptr for none and for several.
 TableView* OnlyTable(const std::vector<ControlView*>& views);
-/// The controls of a box in order.
-void CollectControls(const ui::Box& box, std::vector<ui::Control*>& controls);
 
 }  // namespace grapplemont::desktop

@@ -17,6 +17,7 @@ namespace {
 using Style = ui::Report::Style;
 
 constexpr double kLine = 26.2;  // from one line of prose to the next, in drawn pixels
+constexpr int kAnyLine = 24;    // the same, of lines of any style
 
 QTextCharFormat LettersOf(Style style, const Colours& colours) {
   QTextCharFormat format;
@@ -48,7 +49,7 @@ QTextBlockFormat BlockOf(Style style, bool first) {
 class ReportView : public ViewOf<QTextEdit, ui::Report> {
  public:
   ReportView(ui::Report& report, Stage& stage, QWidget* parent);
-  QSize sizeHint() const override { return {Px(420), Px(240)}; }
+  QSize sizeHint() const override { return {Px(420), control_.Room * Px(kAnyLine)}; }
 
  protected:
   void Show() override;

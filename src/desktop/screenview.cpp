@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/boxshape.h"
+#include "desktop/scroller.h"
 #include "desktop/tableview.h"
 #include "desktop/turninglayout.h"
 #include "ui/acts.h"
@@ -16,7 +18,6 @@ constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
 constexpr int kPartGap = 14;      // between head, body and foot
 constexpr int kLeastTitle = 260;  // what the title has beside actions
-constexpr int kLeastBody = 170;   // under a window's head, before all of the page scrolls
 
 bool IsBackdropFile(const std::string& file) {
   return file == "vxm_back.jpg" || file == "vxm_title.jpg";
@@ -26,49 +27,6 @@ template <class C>
 bool Contains(const std::vector<C*>& controls, const ui::Control* control) {
   return std::find(controls.begin(), controls.end(), control) != controls.end();
 }
-
-/// A body that scrolls when the window is too small for what it needs at least.
-class Scroller : public BareScroller {
- public:
-  Scroller(QWidget* parent, bool tight) : BareScroller(parent), tight_(tight) {
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);  // where even that is too wide for it
-  }
-  QSize sizeHint() const override {
-    const QSize wanted = widget()->sizeHint();
-    return tight_ ? QSize(wanted.width(), LeastHeight(std::max(width(), Px(480)))) : wanted;
-  }
-  QSize minimumSizeHint() const override {
-    return {Px(160), std::clamp(LeastHeight(std::max(width(), Px(480))), Px(80), Px(kLeastBody))};
-  }
-
- protected:
-  void resizeEvent(QResizeEvent* event) override {
-    QScrollArea::resizeEvent(event);
-    Fit();
-  }
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
-      widget()->layout()->activate();  // else it would answer from what it knew before
-      Fit();
-      updateGeometry();
-    }
-    return QScrollArea::eventFilter(watched, event);
-  }
-
- private:
-  int LeastHeight(int width) const {
-    const QLayout* layout = widget()->layout();
-    return layout->hasHeightForWidth() ? layout->totalMinimumHeightForWidth(width)
-                                       : layout->totalMinimumSize().height();
-  }
-  void Fit() {
-    const QSize room = viewport()->size();
-    const int width = std::max(room.width(), widget()->minimumSizeHint().width());
-    widget()->resize(width, std::max(room.height(), LeastHeight(width)));
-  }
-
-  bool tight_;  // asks for what the body needs, not for what it would like
-};
 
 }  // namespace
 
@@ -164,7 +122,6 @@ QBoxLayout* ScreenView::BuildWhole(QMargins margins) {
   auto* scroller = new Scroller(this, false);
   auto* whole = new QWidget(scroller);
   auto* rows = NewLayout<QVBoxLayout>(whole, kPartGap, margins);
-  whole->installEventFilter(scroller);
   scroller->Hold(whole);
   NewLayout<QVBoxLayout>(this, -1)->addWidget(scroller);
   return rows;
@@ -184,12 +141,21 @@ QLayout* ScreenView::BuildHead() {
   title_ = new WrappedLabel(this, {}, TextFont(19, QFont::DemiBold));
   title_->setObjectName("title");
   words->addWidget(title_);
-  if (page_.Facts) {
-    auto* facts = dynamic_cast<LabelView*>(Add(*page_.Facts));
-    facts->SetUsual(ui::Tone::Muted);
-    words->addWidget(facts);
+  std::vector<ui::Label*> facts = page_.More;
+  if (page_.Facts) facts.insert(facts.begin(), page_.Facts);
+  for (ui::Label* fact : facts) {
+    auto* line = dynamic_cast<LabelView*>(Add(*fact));
+    line->SetUsual(fact == page_.Facts ? ui::Tone::Muted : ui::Tone::Plain);
+    words->addWidget(line);
   }
-  head->addLayout(words, 1);
+  if (page_.Face) {
+    auto* faced = NewLayout<QHBoxLayout>(nullptr, kPartGap);
+    faced->addWidget(Add(*page_.Face), 0, Qt::AlignTop);
+    faced->addLayout(words, 1);
+    head->addLayout(faced, 1);
+  } else {
+    head->addLayout(words, 1);
+  }
   if (screen_->Is() == ui::Role::Dialog) return head;
   auto* tail = new TurningLayout(12);
   tail->KeepRowsWhole();
@@ -230,7 +196,6 @@ void ScreenView::BuildBody(QBoxLayout* into) {
   LayoutBuilder builder(stage_, body, screen_->Is() == ui::Role::Cover,
                         Shown(screen_->Title.Get()));
   builder.Build(page_.Body, column);
-  body->installEventFilter(scroller);
   scroller->Hold(body);
   into->addWidget(scroller, 1);
   views_.insert(views_.end(), builder.Views().begin(), builder.Views().end());

@@ -268,7 +268,9 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
 QVariant TableModel::TipOf(int section) const {
   const std::string meaning = MeaningOf ? MeaningOf(Column(section).Title) : std::string();
   QStringList lines;
-  for (const std::string& line : {Column(section).Tip, meaning})
+  const std::string &title = Column(section).Title, &heading = Column(section).Short;
+  const std::string whole = heading.empty() || heading == title ? std::string() : title;
+  for (const std::string& line : {whole, Column(section).Tip, meaning})
     if (!line.empty()) lines.append(Shown(line).toHtmlEscaped());
   if (!meaning.empty()) lines.append("Right click, \"What it means\": the glossary.");
   return lines.isEmpty() ? QVariant() : QVariant("<p>" + lines.join("<br>") + "</p>");

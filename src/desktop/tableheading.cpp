@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "desktop/housestyle.h"
+#include "desktop/look.h"
 #include "desktop/tablegrid.h"
 
 namespace grapplemont::desktop {
@@ -14,6 +15,10 @@ constexpr int kMark = 12;  // room for an arrow or the spot of a filter
 
 QFont HeadingFont() {
   return TextFont(11, QFont::DemiBold);
+}
+
+QString WordsOf(const ui::Column& column) {
+  return Shown(column.Short.empty() ? column.Title : column.Short);
 }
 
 void DrawArrow(QPainter& painter, const QPointF& centre, bool down, const QColor& colour) {
@@ -50,8 +55,8 @@ int TableHeading::MarksWidth(int column) const {
 }
 
 int TableHeading::HeadingWidth(int column) const {
-  const QString title = Shown(model_.Column(column).Title);
-  return QFontMetrics(HeadingFont()).horizontalAdvance(title) + 2 * Px(kCellSide) + 2 +
+  const QString words = WordsOf(model_.Column(column));
+  return QFontMetrics(HeadingFont()).horizontalAdvance(words) + 2 * Px(kCellSide) + 2 +
          MarksWidth(column);
 }
 
@@ -94,7 +99,7 @@ void TableHeading::DrawHeading(QPainter& painter, const QRect& rect, int column)
   const QFontMetrics metrics(HeadingFont());
   const QRect room = rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
   const QString title =
-      metrics.elidedText(Shown(shown.Title), Qt::ElideRight, room.width() - marks + 1);
+      metrics.elidedText(WordsOf(shown), Qt::ElideRight, room.width() - marks + 1);
   const int width = metrics.horizontalAdvance(title);
   int x = AlignsRight(shown.Kind) ? room.right() + 1 - width - marks : room.left();
   painter.setFont(HeadingFont());

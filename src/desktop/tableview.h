@@ -62,7 +62,8 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void ShowSelection();
   void FitColumns();
   std::vector<int> NaturalWidths() const;
-  std::vector<int> LeastWidths(const std::vector<int>& widths, int name, int other) const;
+  bool IsText(std::size_t place) const;
+  std::size_t SentencePlace(const std::vector<int>& widths) const;
   int PinnedIn(const std::vector<int>& widths) const;
   void SqueezeTexts(int missing, std::vector<int>& widths);
   void ApplyColumns();

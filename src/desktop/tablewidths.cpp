@@ -12,6 +12,7 @@ namespace grapplemont::desktop {
 namespace {
 
 constexpr int kMeasuredRows = 200;  // rows that are measured one by one for a column's width
+constexpr int kSentence = 200;      // texts from this width on are read at length
 
 /// Hands out the room left over by shares.
 void Spread(int room, const std::vector<double>& shares, std::vector<int>& widths) {
@@ -64,30 +65,45 @@ std::vector<int> TableView::NaturalWidths() const {
   return widths;
 }
 
-/// The widths below which texts are not cut: the name's and that of the others, and no heading is
-/// ever cut. What is no text keeps its own.
-std::vector<int> TableView::LeastWidths(const std::vector<int>& widths, int name, int other) const {
-  std::vector<int> least;
-  for (const int column : table_.Columns()) {
-    const std::size_t place = least.size();
-    const int text = place == Index(table_.NamePlace()) ? name : other;
-    const ui::ColumnKind kind = model_.Column(column).Kind;
-    least.push_back(
-        kind != ui::ColumnKind::Text && kind != ui::ColumnKind::Tags
-            ? widths[place]
-            : std::min(widths[place], std::max(grid_->Heading().HeadingWidth(column), text)));
-  }
-  return least;
+bool TableView::IsText(std::size_t place) const {
+  const ui::ColumnKind kind = model_.Column(table_.Columns()[place]).Kind;
+  return kind == ui::ColumnKind::Text || kind == ui::ColumnKind::Tags;
 }
 
-/// What is read first gives way last. Where that is not enough the rest is scrolled beside it, and
-/// it is shown whole, as long as half of the room is left.
-void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
+/// The place of the sentences beside the name: the widest texts, if they are wide; else the name's.
+std::size_t TableView::SentencePlace(const std::vector<int>& widths) const {
   const std::size_t name = Index(table_.NamePlace());
+  std::size_t widest = name;
+  for (std::size_t place = 0; place < widths.size(); ++place)
+    if (place != name && IsText(place) && widths[place] > Px(kSentence) &&
+        (widest == name || widths[place] > widths[widest]))
+      widest = place;
+  return widest;
+}
+
+/// What is read first gives way last, and sentences before it, but not to nothing. No heading is
+/// ever cut, and what is no text keeps its width. Where that is not enough the rest is scrolled
+/// beside the name, which is shown whole, as long as half of the room is left.
+void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
+  const std::size_t name = Index(table_.NamePlace()), sentence = SentencePlace(widths);
   const int whole = widths[name];
-  missing = Squeeze(missing, LeastWidths(widths, whole, Px(72)), widths);
-  missing = Squeeze(missing, LeastWidths(widths, whole, Px(56)), widths);
-  missing = Squeeze(missing, LeastWidths(widths, Px(110), Px(56)), widths);
+  const struct {
+    int Name, Sentence, Other;
+  } steps[] = {{whole, Px(180), Px(72)},
+               {whole, Px(180), Px(56)},
+               {Px(220), Px(180), Px(56)},
+               {Px(220), Px(72), Px(56)},
+               {Px(110), Px(56), Px(56)}};
+  for (const auto& step : steps) {
+    std::vector<int> least = widths;
+    for (std::size_t place = 0; place < widths.size(); ++place) {
+      if (!IsText(place)) continue;
+      const int text = place == name ? step.Name : place == sentence ? step.Sentence : step.Other;
+      const int heading = grid_->Heading().HeadingWidth(table_.Columns()[place]);
+      least[place] = std::min(widths[place], std::max(heading, text));
+    }
+    missing = Squeeze(missing, least, widths);
+  }
   if (missing > 0)
     widths[name] = std::min(whole, std::max(widths[name], grid_->viewport()->width() * 45 / 100));
 }

@@ -30,9 +30,10 @@ constexpr int kHeight = 52, kSide = 20, kBetween = 18, kSecondRow = 10;
 constexpr int kEnterSign = 20;                  // what the sign adds to a button
 constexpr int kStep = 24;                       // a number's room grows by so much at once
 constexpr int kShortName = 96, kBareName = 88;  // what is left of a long name
+constexpr int kLeastName = 40;                  // less of it says nothing
 
 /// How wide a date may come to be.
-int WidestDate(const QFont& font, bool shortened) {
+int WidestDate(const QFont& font, bool shortened, bool weekday) {
   const QFontMetrics metrics(font);
   const auto widest = [&](auto nameOf, int count) {
     int width = 0;
@@ -43,9 +44,11 @@ int WidestDate(const QFont& font, bool shortened) {
     return width;
   };
   const QLocale english = QLocale::c();
-  return widest([&](int day) { return english.dayName(day); }, 7) +
+  return (weekday ? widest([&](int day) { return english.dayName(day); }, 7) +
+                        metrics.horizontalAdvance(", ")
+                  : 0) +
          widest([&](int month) { return english.monthName(month); }, 12) +
-         metrics.horizontalAdvance(", 00  0000");
+         metrics.horizontalAdvance("00  0000");
 }
 
 }  // namespace
@@ -60,16 +63,20 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
   }
   QSize sizeHint() const override {
-    const int most = IsName() && form_ != Form::Bare ? WidthOf(pieces_) + 2 : Least(form_);
-    return {most, Px(32)};
+    return {!IsName() || form_ == Form::Bare ? Least(form_)
+            : form_ == Form::Least           ? Px(kBareName)
+                                             : WidthOf(pieces_) + 2,
+            Px(32)};
   }
   QSize minimumSizeHint() const override { return {Least(form_), Px(32)}; }
   /// What it needs at least, whatever the day puts in.
   int Least(Form form) const {
     const int needed = WidthOf(InForm(form)) + 2;
     if (first_)
-      return std::max(needed, WidestDate(FontOf(pieces_.front()), form != Form::Long) + 2);
+      return std::max(
+          needed, WidestDate(FontOf(pieces_.front()), form != Form::Long, form != Form::Least) + 2);
     if (IsName()) {
+      if (form == Form::Least) return 0;
       const int cut =
           form == Form::Short ? Px(kShortName) + WidthOf({pieces_.back()}) : Px(kBareName);
       return form == Form::Long ? needed : std::min(needed, cut);
@@ -97,6 +104,7 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     const Colours& c = ColoursOf(this);
+    if (IsName() && width() < Px(kLeastName)) return;
     const Pieces pieces = InForm(form_);
     int rest = WidthOf(pieces), x = 0;
     for (const Piece& piece : pieces) {
@@ -128,13 +136,16 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
     return width;
   }
 
-  /// "Monday, 09 March 2026" as "Mon, 09 Mar 2026"; bare, what matters without its caption.
+  /// "Monday, 09 March 2026" as "Mon, 09 Mar 2026", at the least "09 Mar 2026"; bare, what matters
+  /// without its caption.
   Pieces InForm(Form form) const {
     Pieces pieces = pieces_;
-    static const QRegularExpression kLongWord("([A-Za-z]{3})[A-Za-z]+");
+    static const QRegularExpression kLongWord("([A-Za-z]{3})[A-Za-z]+"), kWeekday("^[A-Za-z]+, ");
     if (first_ && form != Form::Long)
       for (Piece& piece : pieces) piece.Words.replace(kLongWord, "\\1");
-    if (first_ || form != Form::Bare) return pieces;
+    if (first_ && form == Form::Least)
+      for (Piece& piece : pieces) piece.Words.remove(kWeekday);
+    if (first_ || form == Form::Long || form == Form::Short) return pieces;
     if (IsName()) pieces.pop_back();
     if (pieces.size() > 1 && !pieces.front().Matters) pieces.erase(pieces.begin());
     return pieces;
@@ -170,6 +181,7 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
 
 TopBar::TopBar(const ui::Page& page, Stage& stage, QWidget* parent)
     : QWidget(parent),
+      more_(new PushButton(this, QStringLiteral("More\u2026"))),
       all_(NewLayout<QHBoxLayout>(this, 0, {kSide, 0, kSide, 1})),
       actions_(new FlowLayout(Px(kBetween), Qt::AlignRight | Qt::AlignVCenter)) {
   setFixedHeight(Px(kHeight));
@@ -180,10 +192,15 @@ TopBar::TopBar(const ui::Page& page, Stage& stage, QWidget* parent)
     facts->addWidget(facts_.back());
   }
   facts->addStretch(1);
+  more_->setObjectName("topmore");
+  more_->hide();
+  connect(more_, &QAbstractButton::clicked, this, [this] { OpenMore(); });
+  actions_->addWidget(more_);
   for (ui::Button* action : page.TopActions) {
     auto* view = dynamic_cast<ButtonView*>(MakeView(*action, stage, this));
     view->Pressed = [this, action] { Pressed(*action); };
     views_.push_back(view);
+    buttons_.push_back(view);
     actions_->addWidget(view);
     if (action == page.Main) {
       main_ = view;
@@ -195,35 +212,72 @@ TopBar::TopBar(const ui::Page& page, Stage& stage, QWidget* parent)
   actions_->SetOneRow(true);
 }
 
+std::vector<ButtonView*> TopBar::Foldable() const {
+  std::vector<ButtonView*> foldable;
+  for (ButtonView* view : buttons_)
+    if (view != main_ && view->Shows().Visible) foldable.push_back(view);
+  return foldable;
+}
+
 int TopBar::FactsWidth(Form form) const {
   int width = 0;
   for (const Fact* fact : facts_) width += (width > 0 ? Px(kBetween) : 0) + fact->Least(form);
   return width;
 }
 
-void TopBar::Fit() {
-  if (!isPlaced_) return;
-  constexpr std::pair<bool, Form> kWays[] = {{true, Form::Long},
-                                             {true, Form::Short},
-                                             {false, Form::Long},
-                                             {false, Form::Short},
-                                             {false, Form::Bare}};
-  const int room = width() - 2 * Px(kSide);
-  const int enter = main_ && !main_->ShowsEnter() ? Px(kEnterSign) : 0;  // it comes and goes
-  const int actions = Px(kBetween) + actions_->sizeHint().width() + enter;
-  for (const auto& [oneRow, form] : kWays)
-    if (form == Form::Bare || FactsWidth(form) + (oneRow ? actions : 0) <= room)
-      return Take(oneRow, form);
+int TopBar::ActionsWidth(bool folded) const {
+  int width = main_ ? main_->sizeHint().width() : 0;
+  if (main_ && !main_->ShowsEnter()) width += Px(kEnterSign);  // it comes and goes
+  const std::vector<ButtonView*> others = Foldable();
+  if (folded && !others.empty()) width += more_->sizeHint().width() + Px(kBetween);
+  for (const ButtonView* view : others)
+    if (!folded) width += view->sizeHint().width() + Px(kBetween);
+  return width;
 }
 
-void TopBar::Take(bool oneRow, Form form) {
-  for (Fact* fact : facts_) fact->SetForm(form);
-  actions_->SetOneRow(oneRow);
-  all_->setDirection(oneRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+bool TopBar::Fits(const Way& way) const {
+  const int room = width() - 2 * Px(kSide);
+  const int facts = FactsWidth(way.Facts), actions = ActionsWidth(way.Folded);
+  return way.OneRow ? facts + Px(kBetween) + actions <= room : std::max(facts, actions) <= room;
+}
+
+/// In the first way that fits, else in the last.
+void TopBar::Fit() {
+  if (!isPlaced_) return;
+  static constexpr Way kWays[] = {
+      {true, Form::Long, false},  {true, Form::Short, false},  {true, Form::Short, true},
+      {true, Form::Bare, true},   {false, Form::Long, false},  {false, Form::Short, false},
+      {false, Form::Bare, false}, {false, Form::Least, false}, {false, Form::Least, true}};
+  const auto way = std::ranges::find_if(kWays, [this](const Way& each) { return Fits(each); });
+  Take(way == std::end(kWays) ? *std::prev(std::end(kWays)) : *way);
+}
+
+void TopBar::Take(const Way& way) {
+  for (Fact* fact : facts_) fact->SetForm(way.Facts);
+  QStringList hidden;
+  for (ButtonView* view : Foldable()) {
+    view->setVisible(!way.Folded);
+    hidden << view->text();
+  }
+  more_->setVisible(way.Folded && !hidden.isEmpty());
+  more_->setToolTip(hidden.join(", "));
+  actions_->SetOneRow(way.OneRow);
+  all_->setDirection(way.OneRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
   const int second =
-      oneRow ? 0 : actions_->heightForWidth(width() - 2 * Px(kSide)) + Px(kSecondRow);
-  all_->setContentsMargins(Px(kSide), 0, Px(kSide), oneRow ? 1 : Px(kSecondRow));
+      way.OneRow ? 0 : actions_->heightForWidth(width() - 2 * Px(kSide)) + Px(kSecondRow);
+  all_->setContentsMargins(Px(kSide), 0, Px(kSide), way.OneRow ? 1 : Px(kSecondRow));
   if (height() != Px(kHeight) + second) setFixedHeight(Px(kHeight) + second);
+}
+
+void TopBar::OpenMore() {
+  QMenu* menu = NewMenu(this, "topmenu");
+  menu->setToolTipsVisible(true);
+  for (ButtonView* view : Foldable()) {
+    QAction* action = menu->addAction(view->text(), this, [view] { view->Pressed(); });
+    action->setEnabled(view->isEnabled());
+    action->setToolTip(view->toolTip());
+  }
+  menu->popup(more_->mapToGlobal(QPoint(0, more_->height() + Px(4))));
 }
 
 void TopBar::Refresh() {

@@ -15,7 +15,8 @@ namespace grapplemont::desktop {
 
 /// What always stands above a game: the date, who one is, image, money, and what moves time. Its
 /// form hangs on the window's width alone, not on the day: where there is little room, the date is
-/// short, what one can do stands in a second row, and captions go.
+/// short, what can be done beside the main action goes into a menu, captions go, and what can be
+/// done stands in a second row. There is never a third.
 class TopBar : public QWidget {
  public:
   TopBar(const ui::Page& page, Stage& stage, QWidget* parent);
@@ -35,14 +36,26 @@ class TopBar : public QWidget {
 
  private:
   class Fact;
-  enum class Form { Long, Short, Bare };
+  enum class Form { Long, Short, Bare, Least };
+  struct Way {
+    bool OneRow;
+    Form Facts;
+    bool Folded;  // all actions but the main one stand in the menu
+  };
   int FactsWidth(Form form) const;
+  int ActionsWidth(bool folded) const;
+  bool Fits(const Way& way) const;
+  /// The visible actions that may stand in the menu.
+  std::vector<ButtonView*> Foldable() const;
   void Fit();
-  void Take(bool oneRow, Form form);
+  void Take(const Way& way);
+  void OpenMore();
 
   std::vector<Fact*> facts_;
   std::vector<ControlView*> views_;
+  std::vector<ButtonView*> buttons_;
   ButtonView* main_ = nullptr;
+  PushButton* more_;
   bool isPlaced_ = false;  // before that its width says nothing
   QBoxLayout* all_;
   FlowLayout* actions_;

@@ -68,8 +68,50 @@ QSize TurningLayout::minimumSize() const {
   return least;
 }
 
+QBoxLayout::Direction TurningLayout::DirectionAt(int width) const {
+  return width < WidthAcross() ? TopToBottom : LeftToRight;
+}
+
+/// Those without a share get what they ask for, the others what is left, as near as it can be told
+/// before they are placed.
+std::vector<int> TurningLayout::WidthsAcross(int width) const {
+  std::vector<int> widths(static_cast<std::size_t>(count()));
+  int rest = width + spacing(), shares = 0;
+  for (int i = 0; i < count(); ++i) {
+    if (itemAt(i)->isEmpty()) continue;
+    shares += stretch(i);
+    if (stretch(i) == 0) widths[static_cast<std::size_t>(i)] = itemAt(i)->sizeHint().width();
+    rest -= widths[static_cast<std::size_t>(i)] + spacing();
+  }
+  for (int i = 0; i < count(); ++i)
+    if (stretch(i) > 0 && !itemAt(i)->isEmpty())
+      widths[static_cast<std::size_t>(i)] =
+          std::max(itemAt(i)->minimumSize().width(), rest * stretch(i) / shares);
+  return widths;
+}
+
+int TurningLayout::HeightAt(int width, bool least) const {
+  const Direction wanted = DirectionAt(width);
+  if (wanted == direction() && QBoxLayout::hasHeightForWidth())
+    return least ? QBoxLayout::minimumHeightForWidth(width) : QBoxLayout::heightForWidth(width);
+  const std::vector<int> across = WidthsAcross(width);
+  int height = 0;
+  for (int i = 0; i < count(); ++i) {
+    QLayoutItem& item = *itemAt(i);
+    if (item.isEmpty()) continue;
+    const int room = wanted == TopToBottom ? width : across[static_cast<std::size_t>(i)];
+    const int own = !item.hasHeightForWidth()
+                        ? (least ? item.minimumSize() : item.sizeHint()).height()
+                    : least ? item.minimumHeightForWidth(room)
+                            : item.heightForWidth(room);
+    height =
+        wanted == LeftToRight ? std::max(height, own) : height + own + (height > 0 ? spacing() : 0);
+  }
+  return height;
+}
+
 void TurningLayout::setGeometry(const QRect& rect) {
-  const Direction wanted = rect.width() < WidthAcross() ? TopToBottom : LeftToRight;
+  const Direction wanted = DirectionAt(rect.width());
   if (wanted != direction()) {
     setDirection(wanted);
     HoldRows(wanted == LeftToRight);

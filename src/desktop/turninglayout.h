@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QBoxLayout>
+#include <vector>
 
 namespace grapplemont::desktop {
 
@@ -20,9 +21,18 @@ class TurningLayout : public QBoxLayout {
   /// The width from which on the parts stand in a row.
   int WidthAcross() const;
   QSize minimumSize() const override;
+  /// Its height hangs on the width even where its parts' do not.
+  bool hasHeightForWidth() const override { return count() > 1 || QBoxLayout::hasHeightForWidth(); }
+  int heightForWidth(int width) const override { return HeightAt(width, false); }
+  int minimumHeightForWidth(int width) const override { return HeightAt(width, true); }
   void setGeometry(const QRect& rect) override;
 
  private:
+  Direction DirectionAt(int width) const;
+  /// How high it will be once it has this width, whichever way it stands now.
+  int HeightAt(int width, bool least) const;
+  /// The widths of the parts in a row of this width.
+  std::vector<int> WidthsAcross(int width) const;
   /// Lets the rows in it be whole while it is a row itself.
   void HoldRows(bool oneRow);
 

@@ -203,6 +203,11 @@ void Window::ShowNow(const Scene& scene) {
   base->Refresh();
   full_->setCurrentWidget(framed ? frame_ : static_cast<QWidget*>(base));
   ScreenView* top = base;
+  // A page covers the dialogs that it was opened from.
+  for (const Layer& layer : layers_)
+    if (layer.Over &&
+        std::ranges::find(scene.Dialogs, layer.Screen, &Held::get) == scene.Dialogs.end())
+      layer.Over->hide();
   for (const Held& dialog : scene.Dialogs) {
     Layer& layer = LayerOf(dialog, scene);
     layer.View->Refresh();

@@ -217,6 +217,8 @@ struct Column {
   std::function<Drawing(int key)> Draws = {};
   /// What a word of Tags says by its colour.
   Tone (*ToneOf)(std::string_view word) = nullptr;
+  /// What stands above it where the column before it says the rest; empty: the title.
+  std::string Short = {};
 };
 
 struct Cell {
@@ -344,6 +346,7 @@ class Report : public Control {
   void WriteLines(std::string_view plain);  // the same in short facts
   const std::vector<Paragraph>& Paragraphs() const { return paragraphs_; }
   bool Brief = false;  // takes no more room than its words need
+  int Room = 10;       // the lines that it asks room for, else
 
  private:
   std::vector<Paragraph> paragraphs_;

@@ -85,12 +85,15 @@ struct SideGroup {
   std::vector<Command> Commands;
 };
 
-/// A screen's arrangement. Facts is the line under the title. Actions stand right of the title, in
-/// order; Main is gold, stands last and is what Enter does, whatever has the keyboard; Then takes
-/// its part while Main is hidden; Cancel is what Escape does. Main and Cancel need not be among
-/// Actions. On a page above the hub that has no Main, Enter does what the hub's Main does.
+/// A screen's arrangement. Facts is the line under the title, More are those under that, and Face
+/// stands before them all. Actions stand right of the title, in order; Main is gold, stands last
+/// and is what Enter does, whatever has the keyboard; Then takes its part while Main is hidden;
+/// Cancel is what Escape does. Main and Cancel need not be among Actions. On a page above the hub
+/// that has no Main, Enter does what the hub's Main does.
 struct Page {
   Label* Facts = nullptr;
+  std::vector<Label*> More = {};
+  Picture* Face = nullptr;
   std::vector<Button*> Actions = {};
   Button* Main = nullptr;
   Button* Then = nullptr;
@@ -113,8 +116,8 @@ struct Page {
 class Desk;
 
 /// What a shell makes of a screen: Cover fills the window (title, menu); the Hub gives side bar and
-/// top bar; a Page fills the room beside them; a Dialog stands over what is below it; Wait takes no
-/// input.
+/// top bar; a Page fills the room beside them; a Dialog, which asks for something, stands over what
+/// is below it; Wait takes no input.
 enum class Role { Cover, Hub, Page, Dialog, Wait };
 
 /// A window of the program: its controls are its members, its handlers ask rules and show answers.

@@ -242,7 +242,10 @@ std::string Shared(Screen& screen, Form form) {
   out.Document();
   out.Title(screen.Title.Get());
   const Page page = screen.Layout();
-  if (page.Facts && page.Facts->Visible) out.Paragraph(page.Facts->Text.Get());
+  std::vector<Label*> facts = page.More;
+  if (page.Facts) facts.insert(facts.begin(), page.Facts);
+  for (const Label* fact : facts)
+    if (fact->Visible) out.Paragraph(fact->Text.Get());
   Share(page.Body, form, out);
   return out.Text();
 }

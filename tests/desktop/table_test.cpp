@@ -268,6 +268,44 @@ TEST(TheSettings, KeepTheTablesOfPagesWithTheirGameAndOfNothingElse) {
   EXPECT_EQ(shown("s1", "a", ui::Role::Dialog, ""), 10U) << "a picker opens clean";
 }
 
+/// A table that is too narrow for its names and its sentences.
+class ReasonsPage : public ui::Screen {
+ public:
+  explicit ReasonsPage(ui::Desk& desk) : Screen(desk, "frmReasons", "Reasons") {
+    lstreasons.Add(
+        {"A confrontation of Mister Fabulous, Zane Tempest and Alexandra Archer", 5, "Angle",
+         "Talk between the matches, by those who can, and a word of why it is so"},
+        1);
+  }
+  ui::Page Layout() override {
+    return {.Body = ui::Columns({ui::Group("", {ui::Grow(lstreasons)}).Grow(1),
+                                 ui::Group("", {ui::Grow(lstother)}).Grow(1)})};
+  }
+  ui::ListBox lstreasons{
+      *this,
+      "lstreasons",
+      {{"Segment", ui::ColumnKind::Text, 1},
+       {.Title = "Change of the forecast", .Kind = ui::ColumnKind::Number, .Short = "+/-"},
+       {"Kind", ui::ColumnKind::Tag},
+       {"Why", ui::ColumnKind::Text, 1}}};
+  ui::ListBox lstother{*this, "lstother"};
+};
+
+TEST(TheWidths, LeaveRoomToReadForTheNameAndForTheSentenceBesideIt) {
+  Player play;
+  play.Open(std::make_unique<ReasonsPage>(play.Desk));
+  const desktop::TableGrid& grid = play.Grid("lstreasons");
+  for (const int width : {1024, 1280, 1920}) {
+    play.Window.resize(width, 800);
+    QApplication::processEvents();
+    EXPECT_GE(grid.columnWidth(0), desktop::Px(width > 1024 ? 220 : 180)) << width;
+    EXPECT_GE(grid.columnWidth(3), desktop::Px(width > 1024 ? 180 : 120)) << width;
+  }
+  EXPECT_LT(grid.columnWidth(1), desktop::Px(60)) << "by the short heading";
+  EXPECT_EQ(grid.model()->headerData(1, Qt::Horizontal, Qt::AccessibleTextRole).toString(),
+            "Change of the forecast");
+}
+
 // Buttons that stand in the rows of a table.
 
 /// A list of chores, each with a button; the rows count down, so that sorting turns them round.

@@ -17,7 +17,8 @@ void Gather(const ui::Box& box, std::set<const ui::Control*>& shown) {
 /// Every control that a screen's arrangement places somewhere.
 std::set<const ui::Control*> Placed(ui::Screen& screen) {
   const ui::Page page = screen.Layout();
-  std::set<const ui::Control*> placed{page.Facts, page.Main, page.Cancel};
+  std::set<const ui::Control*> placed{page.Facts, page.Face, page.Main, page.Cancel};
+  placed.insert(page.More.begin(), page.More.end());
   placed.insert(page.Actions.begin(), page.Actions.end());
   placed.insert(page.Top.begin(), page.Top.end());
   placed.insert(page.TopActions.begin(), page.TopActions.end());

@@ -84,7 +84,7 @@ class frmAutoBook : public GameScreen {
     CellColumns<SheetRow> table = SheetTable(
         world(),
         {{"#", ui::ColumnKind::Number}, [](const SheetRow& row) { return ui::Cell(row.Record); }});
-    table.push_back({{"Why", ui::ColumnKind::Text, 1}, [this](const SheetRow& row) {
+    table.push_back({{"Why", ui::ColumnKind::Text, 4}, [this](const SheetRow& row) {
                        return ui::Cell(card_.Reasons[static_cast<std::size_t>(row.Record - 1)],
                                        ui::Tone::Muted);
                      }});

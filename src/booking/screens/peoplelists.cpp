@@ -18,20 +18,26 @@ constexpr int kNarrowName = 4, kWideName = 6;
 /// A number of the record, and what it is called.
 struct Skill {
   const char* Title;
-  const char* Short;
+  const char* Wide;    // its heading in a list that stands alone
+  const char* Narrow;  // the same in one of several abreast
   const char* Tip;
   Percent Worker::*Is;
 };
-constexpr Skill kRingSkills[] = {{"Brawl", "Br", "Brawling.", &Worker::Brawl},
-                                 {"Tech.", "Te", "Technical skill.", &Worker::Technical},
-                                 {"Speed", "Sp", "Speed.", &Worker::Speed}};
+constexpr Skill kRingSkills[] = {
+    {"Brawl", "Brawl", "Br", "Brawling.", &Worker::Brawl},
+    {"Technical", "Tech.", "Te", "Technical skill.", &Worker::Technical},
+    {"Speed", "Speed", "Sp", "Speed.", &Worker::Speed}};
 constexpr Skill kTalkSkills[] = {
-    {"Char.", "Ch", "Charisma: what talk is made of.", &Worker::Charisma}};
-constexpr Skill kShape[] = {{"Cond.", "Con", "Condition.", &Worker::Condition},
-                            {"Mor.", "Mor", "Morale.", &Worker::Morale}};
+    {"Charisma", "Char.", "Ch", "Charisma: what talk is made of.", &Worker::Charisma}};
+constexpr Skill kShape[] = {{"Condition", "Cond.", "Con", "", &Worker::Condition},
+                            {"Morale", "Mor.", "Mor", "", &Worker::Morale}};
 
 CellColumn<Worker> ColumnOf(const Skill& skill, bool narrow) {
-  return {{narrow ? skill.Short : skill.Title, K::Number, narrow ? 1 : 2, skill.Tip},
+  return {{.Title = skill.Title,
+           .Kind = K::Number,
+           .Width = narrow ? 1 : 2,
+           .Tip = skill.Tip,
+           .Short = narrow ? skill.Narrow : skill.Wide},
           [is = skill.Is](const Worker& worker) { return ui::Cell(int(worker.*is)); }};
 }
 
@@ -39,13 +45,17 @@ CellColumns<Worker> TableOf(int kind, bool narrow, const RosterMarks* marks) {
   CellColumns<Worker> table = {
       {{"Name", K::Text, narrow ? kNarrowName : kWideName},
        [](const Worker& worker) { return worker.Name.View(); }},
-      {{narrow ? "D." : "Disp.", K::Tag, narrow ? 1 : 3, "Face, Heel or Tweener."},
+      {{.Title = "Disposition",
+        .Kind = K::Tag,
+        .Width = narrow ? 1 : 3,
+        .Tip = "Face, Heel or Tweener.",
+        .Short = narrow ? "D." : "Disp."},
        [narrow](const Worker& worker) {
          ui::Cell cell = DispositionCell(worker);
          if (narrow) cell.Text = worker.Disposition.Str();
          return cell;
        }},
-      ColumnOf({"Over", "Ov", "Popularity.", &Worker::Over}, narrow)};
+      ColumnOf({"Over", "Over", "Ov", "Popularity.", &Worker::Over}, narrow)};
   // Talk stands or falls with one skill; of a match three lists abreast have no room for all.
   if (!narrow || kind != kMatch)
     for (const Skill& skill :

@@ -155,16 +155,11 @@ const CellColumns<WorthLine> kWorthTable = {
 /// What the promotion is worth, and why.
 class frmFedValue : public GameScreen {
  public:
-  explicit frmFedValue(Game& game)
-      : GameScreen(game, "frmFedValue", "What We Are Worth", {.Is = ui::Role::Dialog}) {
+  explicit frmFedValue(Game& game) : GameScreen(game, "frmFedValue", "What We Are Worth") {
     lstworth.Room = 16;
   }
 
-  ui::Page Layout() override {
-    ui::Page page = PageOf(ui::Group("", {ui::Grow(lstworth)}), &lblworth);
-    page.Large = true;
-    return page;
-  }
+  ui::Page Layout() override { return PageOf(ui::Group("", {ui::Grow(lstworth)}), &lblworth); }
 
   void Return() override {
     const Promotion& player = world().Player();

@@ -45,6 +45,14 @@ ui::Cell ChangeCell(const MovedFigure& figure) {
                       : ui::Cell(0.0, "");
 }
 
+ui::Column NowColumn(const std::string& what) {
+  return {what, K::Number, 0, "As the show left it."};
+}
+ui::Column ChangeColumn(const std::string& what) {
+  return {
+      .Title = "+/- " + what, .Kind = K::Number, .Tip = "What the show changed.", .Short = "+/-"};
+}
+
 /// What a show of the player's made and moved, and why.
 class frmMorning : public GameScreen {
  public:
@@ -59,7 +67,10 @@ class frmMorning : public GameScreen {
     lstfeuds.EmptyText = "No feud was moved. Book its people against each other.";
     lsthurt.EmptyText = "Nobody was hurt.";
     lstwhy.EmptyText = "Choose a number or a name to see where it came from.";
-    lsttitles.Room = lstfeuds.Room = lsthurt.Room = 4;
+    // All of it is seen at once in a window of the usual size.
+    lstpeople.Room = 4;
+    lsttitles.Room = lstfeuds.Room = lsthurt.Room = 3;
+    lstwhy.Room = 2;
   }
 
   ui::Page Layout() override {
@@ -76,10 +87,10 @@ class frmMorning : public GameScreen {
                   ui::Columns(
                       {ui::Rows({ui::Group("Who rose and who fell", {ui::Grow(lstpeople)}).Grow(3),
                                  std::move(moved).Grow(2)})
-                           .Grow(5),
+                           .Grow(2),
                        ui::Rows({ui::Group("", {lblwhy, ui::Grow(lstwhy)}).Grow(3),
                                  ui::Group("Row by row", {ui::Grow(chtrows), lblwanted}).Grow(2)})
-                           .Grow(3)})
+                           .Grow(1)})
                       .Grow()}),
         &lblfacts, {&cmdreport, &cmdresults});
   }
@@ -293,14 +304,14 @@ class frmMorning : public GameScreen {
                                }};
   ui::ListBox lstpeople{*this,
                         "lstpeople",
-                        {{"Name", K::Text, 5, "", [this](int key) { return PortraitOfRow(key); }},
-                         {"Over", K::Number, 2, "As the show left it."},
-                         {"+/- Over", K::Number, 2, "What the show changed."},
-                         {"Morale", K::Number, 2, "As the show left it."},
-                         {"+/- Morale", K::Number, 2, "What the show changed."},
-                         {"Condition", K::Number, 2, "As the show left it."},
-                         {"+/- Condition", K::Number, 2, "What the show changed."},
-                         {"Why", K::Text, 9}},
+                        {{"Name", K::Text, 1, "", [this](int key) { return PortraitOfRow(key); }},
+                         NowColumn("Over"),
+                         ChangeColumn("Over"),
+                         NowColumn("Morale"),
+                         ChangeColumn("Morale"),
+                         NowColumn("Condition"),
+                         ChangeColumn("Condition"),
+                         {"Why", K::Text, 4}},
                         &frmMorning::lstpeople_Click,
                         &frmMorning::lstpeople_Open};
   ui::ListBox lsttitles{*this,
@@ -316,9 +327,9 @@ class frmMorning : public GameScreen {
   ui::Label lblwhy{*this, "lblwhy"};
   ui::ListBox lstwhy{*this,
                      "lstwhy",
-                     {{"Points", K::Number, 3, "What each step did, in its order."},
-                      {"Row", K::Number, 2, "Row of the sheet."},
-                      {"Why", K::Text, 8}}};
+                     {{"Points", K::Number, 0, "What each step did, in its order."},
+                      {"Row", K::Number, 0, "Row of the sheet."},
+                      {"Why", K::Text, 1}}};
   ui::Chart chtrows{*this, "chtrows", true};
   ui::Label lblwanted{*this, "lblwanted"};
   ui::Button cmdreport{*this, "cmdreport", "Read The Report", &frmMorning::cmdreport_Click};

@@ -291,17 +291,11 @@ class frmOtherFed : public GameScreen {
 class frmPromotion : public GameScreen {
  public:
   frmPromotion(Game& game, int uid)
-      : GameScreen(game, "frmPromotion", "Promotion", {.Is = ui::Role::Dialog}),
-        uid_(uid),
-        sheets(*this, game) {}
+      : GameScreen(game, "frmPromotion", "Promotion"), uid_(uid), sheets(*this, game) {}
 
   int Uid() const { return uid_; }
 
-  ui::Page Layout() override {
-    ui::Page page = PageOf(sheets.Layout().Grow(), &lblfacts, {&cmdbuyout});
-    page.Large = true;
-    return page;
-  }
+  ui::Page Layout() override { return PageOf(sheets.Layout().Grow(), &lblfacts, {&cmdbuyout}); }
 
   void Return() override {
     const Promotion* promotion = LivingPromotion(game_.World(), uid_);

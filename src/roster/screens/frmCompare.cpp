@@ -97,10 +97,12 @@ bool MarkBest(std::vector<ui::Cell>& cells, const std::vector<Measure>& measures
 /// Workers side by side, two to four of them.
 class frmCompare : public GameScreen {
  public:
-  frmCompare(Game& game, int uid)
-      : GameScreen(game, "frmCompare", "Compare", {.Is = ui::Role::Dialog}), uids_{uid} {
+  frmCompare(Game& game, int uid) : GameScreen(game, "frmCompare", "Compare"), uids_{uid} {
     lblhow.Colour = ui::Tone::Muted;
-    lstcompare.Room = 20;
+    // All of it is seen at once in a window of the usual size.
+    lstcompare.Room = 12;
+    lstmeetings.Room = 2;
+    txtword.Room = 3;
     lstmeetings.EmptyText = "Add somebody to see how they did against each other.";
   }
 
@@ -110,7 +112,7 @@ class frmCompare : public GameScreen {
       heads.push_back(
           ui::Columns({picworker(place), ui::Rows({lblworker(place), cmdremove(place)}).Grow(1)})
               .Grow(4));
-    ui::Page page = PageOf(
+    return PageOf(
         ui::Columns({ui::Group("", {ui::Columns(std::move(heads)), ui::Grow(lstcompare)}).Grow(7),
                      ui::Rows({ui::Group("Add a worker", {cmbadd}),
                                ui::Group("Over, last twelve months", {ui::Grow(chtover)}).Grow(2),
@@ -118,8 +120,6 @@ class frmCompare : public GameScreen {
                                ui::Group("In a word", {ui::Grow(txtword)}).Grow(2)})
                          .Grow(4)}),
         &lblfacts);
-    page.Large = true;
-    return page;
   }
 
   void Return() override {

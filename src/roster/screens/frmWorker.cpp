@@ -45,14 +45,18 @@ std::string LengthOf(const TitleReign& reign, Day today) {
 /// What is known of one worker, at a glance and in full.
 class frmWorker : public GameScreen {
  public:
-  frmWorker(Game& game, int uid)
-      : GameScreen(game, "frmWorker", "Worker", {.Is = ui::Role::Dialog}), uid_(uid) {
+  frmWorker(Game& game, int uid) : GameScreen(game, "frmWorker", "Worker"), uid_(uid) {
     lstform.EmptyText = "Matches on your shows stand here, with the way to their reports.";
     lsttitles.EmptyText = "No Title yet. One that is won on a show, or given, stands here.";
     lstcompany.EmptyText = "Alone: no feud, team, manager or stable.";
     txtcontract.Brief = true;
-    picworker.Height = 88;
-    pictitle.Height = 56;
+    picworker.Height = 96;
+    pictitle.Height = 36;
+    // All of it is seen at once in a window of the usual size.
+    lstskills.Room = 5;
+    lstform.Room = 4;
+    lsttitles.Room = lstcompany.Room = 2;
+    txtwhy.Room = 3;
   }
 
   int Uid() const { return uid_; }
@@ -60,10 +64,8 @@ class frmWorker : public GameScreen {
   ui::Page Layout() override {
     ui::Box glance(
         ui::Box::Kind::Columns, "At a glance",
-        {ui::Rows(
-             {ui::Group("", {ui::Columns({picworker, ui::Rows({lblmarks, lblfinishers}).Grow(1)})}),
-              ui::Group("What they can do", {ui::Grow(lstskills)}).Grow(),
-              ui::Group("Contract", {txtcontract, ui::Columns({cmdpromote, cmddemote})})})
+        {ui::Rows({ui::Group("What they can do", {ui::Grow(lstskills)}).Grow(),
+                   ui::Group("Contract", {txtcontract, ui::Columns({cmdpromote, cmddemote})})})
              .Grow(5),
          ui::Rows({ui::Group("Twelve months", {ui::Grow(chtmonths)}).Grow(2),
                    ui::Group("Last ten matches",
@@ -80,7 +82,8 @@ class frmWorker : public GameScreen {
     ui::Page page =
         PageOf(ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
                {&cmdprevious, &cmdnext, &cmdcompare, &cmdturn, &cmdshortlist}, &cmdcontract);
-    page.Large = true;
+    page.Face = &picworker;
+    page.More = {&lblmarks, &lblfinishers};
     return page;
   }
 
@@ -306,10 +309,10 @@ class frmWorker : public GameScreen {
   ui::ListBox lstskills{
       *this,
       "lstskills",
-      {{"Skill", K::Text, 3},
-       {"Level", K::Percent, 4, "The tick on the bar is the mean of your roster."},
-       {"Mean", K::Number, 2, "The mean of your roster."},
-       {"Which means", K::Text, 6}}};
+      {{"Skill", K::Text, 1},
+       {"Level", K::Percent, 0, "The tick on the bar is the mean of your roster."},
+       {"Mean", K::Number, 0, "The mean of your roster."},
+       {"Which means", K::Text, 4}}};
   ui::Report txtcontract{*this, "txtcontract"};
   ui::Button cmdpromote{*this, "cmdpromote", "Promote", [this] { Move(-1); }};
   ui::Button cmddemote{*this, "cmddemote", "Demote", [this] { Move(1); }};

@@ -109,11 +109,12 @@ void OfferReleases(Game& game, const std::vector<int>& uids,
 
 std::vector<ui::ListBox::View> WorkerViews() {
   return {{"Ring",
-           {"Name", "Emp.", "Position", "Disp.", "Over", "Condition", "Brawl", "Tech.", "Speed",
-            "Char.", "Status"}},
+           {"Name", "Emp.", "Position", "Disposition", "Over", "Condition", "Brawl", "Tech.",
+            "Speed", "Char.", "Status"}},
           {"Contract",
            {"Name", "Emp.", "Position", "Over", "Age", "Contract", "Months", "Wage", "Morale"}},
-          {"Mood", {"Name", "Disp.", "Over", "Morale", "Condition", "Turned", "Months", "Status"}},
+          {"Mood",
+           {"Name", "Disposition", "Over", "Morale", "Condition", "Turned", "Months", "Status"}},
           {"Money", {"Name", "Emp.", "Over", "Wage", "Contract", "Months", "Age", "Position"}}};
 }
 

@@ -43,7 +43,7 @@ ContractOffer OfferControls::Offer() const {
 }
 
 std::vector<ui::Box> OfferControls::Fields() {
-  return {ui::Field("Wage", hsnewwage), ui::Field("A month", txtnewwage),
+  return {ui::Field("Wage in $1000", hsnewwage), ui::Field("A month", txtnewwage),
           ui::Field("Length", cmbnewlength), ui::Field("Type", cmbnewtype)};
 }
 

@@ -127,7 +127,7 @@ constexpr PersonColumn<Worker> kWorkers[] = {
     {"Position", K::Date, "", true, true, Position},
     {"Disposition", K::Tag, "Face, Heel or Tweener.", true, true, Disposition},
     {"Over", K::Number, "Popularity.", true, true, Points<&Worker::Over>},
-    {"Condition", K::Percent, "Or why he cannot work.", true, false, Condition},
+    {"Condition", K::Percent, "Or why they cannot work.", true, false, Condition},
     {"Morale", K::Percent, "", true, false, Points<&Worker::Morale>},
     {"Months", K::Number, "Months left of the contract.", true, true, Months},
     {"Wage", K::Number, "Dollars a month.", true, true, Wage},

@@ -1,0 +1,80 @@
+#include "desktop/boxshape.h"
+
+#include <algorithm>
+
+namespace grapplemont::desktop {
+
+using ui::Box;
+using Kind = ui::Box::Kind;
+
+namespace {
+
+bool GrowsByItself(const ui::Control& control) {
+  switch (control.Is()) {
+    case ui::Kind::ListBox:
+    case ui::Kind::Chart:
+      return true;
+    case ui::Kind::Report:
+      return !dynamic_cast<const ui::Report&>(control).Brief;
+    case ui::Kind::TextBox:
+      return dynamic_cast<const ui::TextBox&>(control).MultiLine;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+bool IsButton(const Box& box) {
+  return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
+}
+
+bool IsCalmButton(const Box& box) {
+  return IsButton(box) && box.Stretch == 0;
+}
+
+bool IsPlainRow(const Box& box) {
+  return box.Is == Kind::Columns && box.Parts.size() > 1 &&
+         std::ranges::all_of(
+             box.Parts, [](const Box& part) { return part.Is == Kind::Item && !Grows(part); }) &&
+         !std::ranges::all_of(box.Parts, IsButton);
+}
+
+bool IsRowOfCards(const Box& box) {
+  return box.Is == Kind::Columns && box.Parts.size() > kFew &&
+         std::ranges::all_of(
+             box.Parts, [](const Box& part) { return part.Is == Kind::Group && !Grows(part); });
+}
+
+bool Grows(const Box& box) {
+  switch (box.Is) {
+    case Kind::Item:
+    case Kind::Field:
+      return GrowsByItself(*box.Shown) || (box.Stretch > 0 && box.Shown->Is() == ui::Kind::Picture);
+    case Kind::Tabs:
+      return true;
+    default:
+      return std::ranges::any_of(box.Parts, Grows);
+  }
+}
+
+bool IsProse(const Box& box) {
+  if (box.Is != Kind::Group) return false;
+  std::vector<ui::Control*> controls;
+  CollectControls(box, controls);
+  std::erase_if(controls, [](const ui::Control* control) { return !GrowsByItself(*control); });
+  return !controls.empty() && std::ranges::all_of(controls, [](const ui::Control* control) {
+    return control->Is() == ui::Kind::Report;
+  });
+}
+
+int ShareOf(const Box& box) {
+  return std::max(box.Stretch, Grows(box) ? 1 : 0);
+}
+
+void CollectControls(const Box& box, std::vector<ui::Control*>& controls) {
+  if (box.Shown) controls.push_back(box.Shown);
+  for (const Box& part : box.Parts) CollectControls(part, controls);
+}
+
+}  // namespace grapplemont::desktop

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QVBoxLayout>
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+// Columns of a page and of its cards.
+
+namespace grapplemont::desktop {
+
+/// A column among others. A calm one does not ask for more because of the stretch at its end; one
+/// of which all is hidden takes no room, whatever its share.
+class Column : public QVBoxLayout {
+ public:
+  explicit Column(bool calm) : calm_(calm) {}
+  Qt::Orientations expandingDirections() const override {
+    const auto all = QVBoxLayout::expandingDirections();
+    return calm_ ? all & ~Qt::Vertical : all;
+  }
+  QSize maximumSize() const override {
+    return isEmpty() ? QSize(0, 0) : QVBoxLayout::maximumSize();
+  }
+
+ private:
+  bool calm_;
+};
+
+/// What is on a card among others of its kind, all of which are as high as the highest.
+class LevelColumn : public QVBoxLayout {
+ public:
+  using Peers = std::vector<const LevelColumn*>;
+  LevelColumn(QWidget* card, std::shared_ptr<Peers> peers)
+      : QVBoxLayout(card), peers_(std::move(peers)) {
+    peers_->push_back(this);
+  }
+  ~LevelColumn() override { std::erase(*peers_, this); }
+
+  QSize sizeHint() const override {
+    return {QVBoxLayout::sizeHint().width(), Highest(&LevelColumn::OwnHint)};
+  }
+  QSize minimumSize() const override {
+    return {QVBoxLayout::minimumSize().width(), Highest(&LevelColumn::OwnLeast)};
+  }
+  bool hasHeightForWidth() const override { return true; }
+  int heightForWidth(int width) const override { return Highest(&LevelColumn::OwnAt, width); }
+  int minimumHeightForWidth(int width) const override {
+    return Highest(&LevelColumn::OwnLeastAt, width);
+  }
+
+ private:
+  int OwnHint() const { return QVBoxLayout::sizeHint().height(); }
+  int OwnLeast() const { return QVBoxLayout::minimumSize().height(); }
+  int OwnAt(int width) const {
+    return QVBoxLayout::hasHeightForWidth() ? QVBoxLayout::heightForWidth(width) : OwnHint();
+  }
+  int OwnLeastAt(int width) const {
+    return QVBoxLayout::hasHeightForWidth() ? QVBoxLayout::minimumHeightForWidth(width)
+                                            : OwnLeast();
+  }
+  template <class... At>
+  int Highest(int (LevelColumn::*own)(At...) const, At... at) const {
+    int most = 0;
+    for (const LevelColumn* peer : *peers_) most = std::max(most, (peer->*own)(at...));
+    return most;
+  }
+
+  std::shared_ptr<Peers> peers_;
+};
+
+}  // namespace grapplemont::desktop
