@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/dates.h"
 #include "desktop/tableview.h"
 #include "desktop/turninglayout.h"
 #include "ui/acts.h"
@@ -245,7 +246,7 @@ QSize ScreenView::DialogSize() const {
 void ScreenView::Refresh() {
   if (seen_ != screen_->Revision()) {
     seen_ = screen_->Revision();
-    if (title_) title_->setText(Shown(screen_->Title.Get()));
+    if (title_) title_->setText(Dated(screen_->Title.Get()));
   }
   if (behind_) {
     const QString file =

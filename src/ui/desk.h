@@ -43,6 +43,9 @@ struct HelpPages {
 
 enum class Default { Yes, No };
 
+/// What is heard in a hall.
+enum class Sound { Bell, Crowd };
+
 /// What an event is a transaction of. Commit and Rollback bring the world to a committed state or
 /// throw.
 class Work {
@@ -73,6 +76,8 @@ class Desk {
                              const std::string& offered) = 0;
   /// Says what stands against an act, titled "Error!"; false, without a box, when nothing does.
   bool Objects(const std::string& why);
+  /// Something is heard; a shell may play it. The same sound twice in an event is heard once.
+  virtual void Hear(Sound) {}
   /// Shows the present state in the midst of a long handler.
   virtual void Repaint() {}
 

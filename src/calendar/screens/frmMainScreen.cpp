@@ -211,10 +211,12 @@ class frmMainScreen : public ui::Screen {
       const int day = static_cast<int>((show.On - kDayZero).count());
       const bool isToday = show.On == world().Today();
       if (isToday) today += (today.empty() ? "" : ", ") + show.What;
-      rows.push_back(
-          {{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)), DayName(show.On),
-            show.What, ui::Cell(show.Kind, ToneOf(show)), BookedText(world(), show)},
-           static_cast<int>(rows.size()) + 1});
+      rows.push_back({{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)),
+                       {double(DayNumber(DayName(show.On))), std::string(DayName(show.On))},
+                       show.What,
+                       ui::Cell(show.Kind, ToneOf(show)),
+                       BookedText(world(), show)},
+                      static_cast<int>(rows.size()) + 1});
     }
     lstahead.Fill(std::move(rows), false);
     const bool isOver = HasEnded(world().Game());
@@ -335,7 +337,7 @@ class frmMainScreen : public ui::Screen {
   ui::ListBox lstahead{*this,
                        "lstahead",
                        {{"Date", K::Number},
-                        {"Day"},
+                        {"Day", K::Date},
                         {"Show"},
                         {"Kind", K::Tag},
                         {"Booked", K::Text, 0, "How far the card is."}}};
