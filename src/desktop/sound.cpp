@@ -152,9 +152,15 @@ Speaker::~Speaker() {
   if (!thread_->wait(kPatience)) thread_.release();
 }
 
+/// While the system is slow, the last call of a sound stands for those before it.
 void Speaker::Play(ui::Sound sound, int volume) {
+  std::atomic<int>& asked = asked_[static_cast<std::size_t>(sound)];
+  const int mine = ++asked;
   QMetaObject::invokeMethod(
-      voice_, [voice = voice_, sound, volume] { voice->Play(sound, volume); },
+      voice_,
+      [&asked, mine, voice = voice_, sound, volume] {
+        if (asked == mine) voice->Play(sound, volume);
+      },
       Qt::QueuedConnection);
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QThread>
+#include <array>
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -29,6 +31,7 @@ class Speaker {
 
  private:
   struct Voice;
+  std::array<std::atomic<int>, 2> asked_ = {};  // how often each sound has been asked for
   std::unique_ptr<QThread> thread_;
   Voice* voice_;  // lives in the thread
 };

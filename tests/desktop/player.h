@@ -22,7 +22,8 @@ class Player {
  public:
   explicit Player(const QString& settings = {})
       : Window(Desk, {QString::fromStdString(Checkout("/gfx")), settings, [this] { ++Closings; },
-                      [this] { return Game; }}) {
+                      [this] { return Game; },
+                      [this](ui::Sound sound, int volume) { Heard.emplace_back(sound, volume); }}) {
     Window.show();
   }
 
@@ -112,6 +113,7 @@ class Player {
   desktop::WindowDesk Desk;
   int Closings = 0;
   desktop::OpenGame Game;
+  std::vector<std::pair<ui::Sound, int>> Heard;  // with the volume
   desktop::Window Window;
 
  private:
