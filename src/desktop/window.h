@@ -12,8 +12,8 @@
 
 #include "desktop/box.h"
 #include "desktop/finder.h"
+#include "desktop/sharing.h"
 #include "desktop/topbar.h"
-#include "ui/share.h"
 
 namespace grapplemont::desktop {
 
@@ -158,9 +158,7 @@ class Window : public QMainWindow, public Stage {
   void OpenOptions();
   // What the page tells, for elsewhere; in sharing.cpp.
   std::vector<OwnCommand> SharingCommands();
-  void CopyPage(ui::Form form);
-  void CopyPicture();
-  void SavePage();
+  void SavePage(const Shareable& shared);
   bool SwallowWhileBusy(QObject* watched, QEvent* event);
 
   WindowDesk& desk_;

@@ -234,19 +234,26 @@ TEST_F(TheOptions, LeaveThePageItselfToBeShared) {
   EXPECT_TRUE(QApplication::clipboard()->text().startsWith("# People\n\n| \\# | Name |"));
   Find("Copy this page as a picture");
   EXPECT_FALSE(QApplication::clipboard()->image().isNull());
+  const auto height = [] { return QApplication::clipboard()->image().height(); };
+  Find("Copy all words of this page as a picture");
+  const int ofAll = height();
+  dynamic_cast<PeoplePage&>(*Play->Desk.Top()).lstpeople.Clear();
+  Play->Window.Sync();
+  Find("Copy all words of this page as a picture");
+  EXPECT_LT(height(), ofAll) << "the picture is as high as its words";
+  const desktop::Shareable page = desktop::PageToShare(*Play->Desk.Top(), *Play->See("frmPeople"));
   const QString file = QString::fromStdString(folder_ / "people.");
   for (const auto& [ending, start] : {std::pair("md", "# People"),
                                       {"html", "<!DOCTYPE html>"},
                                       {"txt", "[size=150]"},
                                       {"png", "\x89PNG"}}) {
-    EXPECT_EQ(desktop::WritePage(file + ending, *Play->Desk.Top(), *Play->See("frmPeople")), "");
+    EXPECT_EQ(desktop::WriteShared(file + ending, page), "");
     QFile written(file + ending);
     ASSERT_TRUE(written.open(QIODevice::ReadOnly));
     EXPECT_TRUE(written.readAll().startsWith(start)) << ending;
   }
   const QString nowhere = QString::fromStdString(folder_ / "no/where.md");
-  EXPECT_TRUE(desktop::WritePage(nowhere, *Play->Desk.Top(), *Play->See("frmPeople"))
-                  .startsWith("Could not write " + nowhere));
+  EXPECT_TRUE(desktop::WriteShared(nowhere, page).startsWith("Could not write " + nowhere));
 }
 
 TEST_F(TheOptions, FillTheScreenByF11) {
