@@ -242,7 +242,7 @@ TEST(NewFaces, AreKnownByTheLastYearsEnd) {
            row.Worker != Who(world, "Zed Free").Uid;
   });
   EXPECT_EQ(GivenFor(world, kRookieOfTheYear), "Cal Drift | Over 60");
-  EXPECT_EQ(GivenFor(world, kMostImproved), "nobody") << "he was not there a year ago";
+  EXPECT_EQ(GivenFor(world, kMostImproved), "nobody") << "they were not there a year ago";
   Who(world, "Ilya Marsh").Over = 54;
   EXPECT_EQ(GivenFor(world, kMostImproved), "nobody") << "4 points are not much";
   Who(world, "Ilya Marsh").Over = 55;

@@ -91,7 +91,7 @@ class Player {
     return cells;
   }
 
-  /// What the player will do at the next box, which waits amid the act that brings it.
+  /// What the player will do at the next box, which waits during the act that brings it.
   void AtNextBox(std::function<void()> answer) {
     constexpr int kPatience = 10000;  // milliseconds, on a busy machine
     ++awaited_;

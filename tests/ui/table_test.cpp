@@ -245,7 +245,7 @@ TEST_F(TheTable, IgnoresAStateOfColumnsThatAreGone) {
   state.Hidden = {"Gone", "Name", "Disp.", "Over", "Condition"};
   const ui::Table table(List, state);
   EXPECT_EQ(table.Rows().size(), 5U);
-  EXPECT_EQ(table.Columns().size(), 4U) << "all hidden is none hidden";
+  EXPECT_EQ(table.Columns().size(), 4U) << "they are not all hidden";
   EXPECT_EQ(table.Columns().front(), 2);
 }
 

@@ -53,7 +53,7 @@ std::vector<NewFile> UnpackSlot(ByteSpan bytes, const std::string& path) {
   Unpacker in(bytes);
   const std::string file = ForScreen(path);
   if (!std::ranges::equal(in.Take(kSlotMark.size()), std::as_bytes(std::span(kSlotMark))))
-    throw WorldFault(file + " is no saved game that was exported. Choose another file.");
+    throw WorldFault(file + " is not an exported saved game. Choose another file.");
   if (in.Get<std::uint32_t>() != kSlotFormat)
     throw WorldFault(file + " was exported by another version of the game and cannot be read.");
   const auto checksum = in.Get<std::uint64_t>();

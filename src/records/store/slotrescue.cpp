@@ -225,7 +225,7 @@ StoredSlot ReadStoredSlot(Disk& disk, const std::string& folder,
     const std::string path = folder + "/" + each.Name;
     const Disk::Kind kind = disk.Look(path);
     if (kind == Disk::Kind::Nothing) continue;
-    if (kind != Disk::Kind::File) throw DiskError(path, "open", "it is no plain file");
+    if (kind != Disk::Kind::File) throw DiskError(path, "open", "it is not a plain file");
     const OpenedFile file(disk, path, false);
     const std::int64_t size = disk.Size(file);
     if (size > each.MaxBytes) stored.TooLong[each.Name] = size;

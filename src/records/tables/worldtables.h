@@ -33,7 +33,7 @@ Tables ExportWorld(const World& world);
 /// What the records of the world are called in its tables.
 TableNames NamesIn(const World& world);
 
-/// Reads the tables of a folder; what is no table of a world stands among them without its text.
+/// Reads the tables of a folder; what is not a table of a world stands among them without its text.
 /// Throws DiskError, and WorldFault for tables that are too long.
 Tables ReadTables(Disk& disk, const std::string& folder);
 
