@@ -27,7 +27,7 @@ struct Finding {
   Drawing Picture;  // a small one; none for most
   Handler Open;
 };
-/// Finds by a few typed letters, the best first, at most so many under a heading. Made for one
+/// Finds by a few typed letters, the best first, at most `most` under a heading. Made for one
 /// search: it knows the names as they were then.
 using NameSearch = std::function<std::vector<Finding>(std::string_view typed, std::size_t most)>;
 
