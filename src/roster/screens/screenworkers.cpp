@@ -93,7 +93,7 @@ ui::Cell Disposition(const World&, const Worker& worker) {
 ui::Cell Status(const World&, const Worker& worker) {
   return StatusCell(worker);
 }
-/// Whoever cannot work has that said in the place of his condition.
+/// Whoever cannot work has that said in the place of their condition.
 ui::Cell Condition(const World&, const Worker& worker) {
   if (worker.Status == "Nor") return int(worker.Condition);
   const std::string months = ", " + std::to_string(worker.StatusMonths) + " m";
@@ -127,7 +127,7 @@ constexpr PersonColumn<Worker> kWorkers[] = {
     {"Position", K::Date, "", true, true, Position},
     {"Disposition", K::Tag, "Face, Heel or Tweener.", true, true, Disposition},
     {"Over", K::Number, "Popularity.", true, true, Points<&Worker::Over>},
-    {"Condition", K::Percent, "Or why he cannot work.", true, false, Condition},
+    {"Condition", K::Percent, "Or why they cannot work.", true, false, Condition},
     {"Morale", K::Percent, "", true, false, Points<&Worker::Morale>},
     {"Months", K::Number, "Months left of the contract.", true, true, Months},
     {"Wage", K::Number, "Dollars a month.", true, true, Wage},
