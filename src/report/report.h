@@ -13,7 +13,7 @@
 
 namespace grapplemont {
 
-/// "The Lamplighter", "Rafe Tolland", "QVD"; the first one's for a number that is none.
+/// "The Lamplighter", "Rafe Tolland", "QVD"; the first one's for an unknown number.
 std::string_view VoiceName(int voice);
 
 /// What the report knows beside the Segment itself.
