@@ -86,7 +86,7 @@ TurnOutcome RememberedTurn(World& world, const Worker& turner) {
   return TurnOutcome::Completed;
 }
 
-/// nullptr for a disposition that is none.
+/// nullptr for an unknown disposition.
 const TurnRow* FindTurn(const Worker& turner, const Worker& other) {
   const int turnerOver = turner.Over, otherOver = other.Over;
   for (const TurnRow& row : kTurns)
