@@ -16,7 +16,7 @@ struct Wish {
   bool MayDraw = false;   // better a draw than no match
 };
 
-/// Team mates and those of one stable; a manager and his client.
+/// Team mates and those of one stable; a manager and their client.
 bool InOneCorner(const World& world, const Worker& a, const Worker& b);
 /// Face against Heel draws, two Heels do not.
 int ContrastOf(const Worker& a, const Worker& b);

@@ -63,7 +63,7 @@ class AutoPool {
   std::vector<const Worker*> Newcomers() const;
 
  private:
-  /// Of nobody where the worker is none of them.
+  /// Of nobody where the worker is not one of them.
   const Hand& Find(int uid) const;
   bool MayWrestle(const Hand& hand) const;
 
