@@ -194,7 +194,7 @@ class frmMainScreen : public ui::Screen {
     lstmail.Fill(std::move(rows));
   }
 
-  /// One line for all that the latest day has told of other promotions.
+  /// One line for all news of other promotions from the latest day.
   void ShowDigest(bool unread) {
     const std::vector<Digest> digests = DigestsOf(world());
     lblworld.Visible = !digests.empty();
@@ -244,7 +244,7 @@ class frmMainScreen : public ui::Screen {
     if (endCode == 0 && HasIncident(world())) OpenUnlessOpen("frmIncident");
   }
 
-  /// Once is enough: afterwards the player reads the world as he left it.
+  /// Once is enough: afterwards the player reads the world as they left it.
   void TellTheEnd() {
     if (endIsTold_) return;
     endIsTold_ = true;
