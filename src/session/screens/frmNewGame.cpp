@@ -19,7 +19,7 @@ namespace grapplemont {
 namespace {
 
 constexpr const char* kNoPromotion =
-    "The default world has no promotion that can be played. Build it anew, or put back its files.";
+    "The default world has no promotion that can be played. Build it again, or put back its files.";
 
 std::string RoleSuffix(const Worker& worker) {
   if (worker.Position == kManager) return " (Manager)";
