@@ -63,7 +63,7 @@ int TagWidth(const QString& words) {
   return QFontMetrics(TagFont()).horizontalAdvance(words) + 2 * Px(kTagSide);
 }
 
-/// One after the other; what has no room is told by the tip.
+/// One after the other; what has no room stands in the tip.
 void DrawTags(QPainter& painter, QRect room, const ui::Cell& cell, const ui::Column& column,
               const Colours& c) {
   for (const QString& word : Shown(cell.Text).split(", ", Qt::SkipEmptyParts)) {

@@ -233,7 +233,7 @@ void Window::Act(const std::function<std::string()>& act) {
   Sync();
   if (!why.empty()) Hint(*this, Shown(why));
   // The program ends when nothing lies on the desk any more, or when the window was to be closed
-  // amid an event.
+  // during an event.
   if (desk_.Empty() || closing_) QTimer::singleShot(0, this, [this] { close(); });
 }
 
