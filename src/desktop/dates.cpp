@@ -86,8 +86,7 @@ int MonthNamed(const QString& letters, qsizetype least) {
 QDate DayOf(QStringView day, QStringView month, QStringView year) {
   constexpr int kFirstYear = 80;
   const int last = year.toInt();
-  const int century = year.size() > 2 ? 0 : last < kFirstYear ? 2000 : 1900;
-  return {century + last, month.toInt(), day.toInt()};
+  return {last + (last < kFirstYear ? 2000 : 1900), month.toInt(), day.toInt()};
 }
 
 const QRegularExpression& DatesInTexts() {
@@ -160,7 +159,7 @@ const DateSamples& SamplesOfDates() {
   DateSamples& samples = TheDates().Samples;
   if (!samples.Days.empty()) return samples;
   using namespace std::chrono;
-  for (unsigned month = 1; month <= 12; ++month)  // the fourth Wednesday, which has two figures
+  for (int month = 1; month <= 12; ++month)  // the fourth Wednesday, which has two figures
     samples.Months.push_back(Dated(LongDate(Day{year{2000} / month / Wednesday[4]})));
   for (int days = 0; days < 7; ++days)
     samples.Days.push_back(
