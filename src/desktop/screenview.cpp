@@ -333,7 +333,7 @@ bool ScreenView::HandleKey(int key) {
   // Where there is only one way to go, the space bar turns the page as well.
   if (key == Qt::Key_Space && !page_.Cancel) return Press(page_.Main);
   if (key == Qt::Key_Backspace) return ClearFilters();
-  // From the hub nothing leads back but the end of the game, which is no slip of the hand.
+  // From the hub nothing leads back but the end of the game, which is not a slip of the hand.
   return key == Qt::Key_Escape && !hub && PressCancel();
 }
 

@@ -65,7 +65,7 @@ std::vector<int> TableView::NaturalWidths() const {
 }
 
 /// The widths below which texts are not cut: the name's and that of the others, and no heading is
-/// ever cut. What is no text keeps its own.
+/// ever cut. What is not text keeps its own.
 std::vector<int> TableView::LeastWidths(const std::vector<int>& widths, int name, int other) const {
   std::vector<int> least;
   for (const int column : table_.Columns()) {

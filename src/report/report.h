@@ -42,7 +42,7 @@ class LineMemory {
 /// that a result never depends on it.
 std::string WriteReport(World& world, const Segment& segment, const Scene& scene,
                         LineMemory& memory);
-/// The second reporter's rating of a match; empty for the others and for what is no match. Draws
+/// The second reporter's rating of a match; empty for the others and for what is not a match. Draws
 /// from World::Prose.
 std::string Verdict(World& world, const Segment& segment, int overall);
 

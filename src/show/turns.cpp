@@ -141,7 +141,7 @@ int FirstOf(const std::vector<int>& people) {
 }
 
 /// On whom the one who is to turn commits an act: a uid, or 0 for nobody; nothing where there
-/// is no act. Of several acts the first at which a turn can come off.
+/// is not an act. Of several acts the first at which a turn can come off.
 std::optional<int> VictimOf(const World& world, const Segment& segment, int turner) {
   std::optional<int> victim;
   const Worker* worker = world.FindWorker(turner);

@@ -205,7 +205,7 @@ TEST(TheFeudOfTheYear, IsStillBetweenPairsWhenOneOfThemHasLeftTheWorld) {
   EXPECT_EQ(GivenFor(world, kFeudOfTheYear),
             "Cal Drift vs Joy Park | 3 matches, the best rated 70%");
   for (HeldMatch& bout : world.Bouts()) bout.Feud = {Word(0), Word(3), Word(0), Word(0)};
-  EXPECT_EQ(GivenFor(world, kFeudOfTheYear), "nobody") << "one side is no feud";
+  EXPECT_EQ(GivenFor(world, kFeudOfTheYear), "nobody") << "one side is not a feud";
 }
 
 TEST(ThePromotionOfTheYear, HasRisenTheMost) {

@@ -104,7 +104,7 @@ TEST(ChangeImage, LiftsNobodyWhoIsKeptAway) {
                       .Worker("Kept Away", kJobber, 40)
                       .Worker("At Hand", kManager, 97)
                       .Game("CWA");
-    Named(world.Workers(), "Kept Away").Position = position;  // 79 is no place, yet away
+    Named(world.Workers(), "Kept Away").Position = position;  // 79 is not a place, yet away
     ScriptDraws(world, {{5, 5}});
     ChangeImage(world, world.Player(), 1, true);
     EXPECT_EQ(Named(world.Workers(), "Kept Away").Over, 40) << position;

@@ -196,7 +196,7 @@ struct ShowNote {
   Date On;
   Word Promotion;  // uid
   Word Kind;
-  Word Worker;    // uid; 0 for what is no worker's, and for who has gone
+  Word Worker;    // uid; 0 where no worker is meant, and for who has gone
   Word Row;       // of the sheet; 0 for what happened beside it
   Text<54> What;  // whose number it is, as it was called
   Long Change;
