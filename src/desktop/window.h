@@ -96,7 +96,7 @@ class Window : public QMainWindow, public Stage {
     QPointer<Veil> Over;
   };
   using Held = std::shared_ptr<ui::Screen>;
-  /// Which screens of the desk are to be seen.
+  /// Which screens of the desk are visible.
   struct Scene {
     Held Base, Hub;
     std::vector<Held> Dialogs;

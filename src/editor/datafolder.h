@@ -62,7 +62,7 @@ class DataFolder {
 
   std::string BackupFolder() const { return folder_ + ".backup"; }
   std::string Lock() const { return folder_ + ".lock"; }
-  /// The files as they are on disk, but for those that cannot be read.
+  /// The files as they are on disk, except those that cannot be read.
   std::map<std::string, Bytes> FilesNow() const;
   void Read();
   void KeepBackup(const std::map<std::string, Bytes>& files);

@@ -78,7 +78,7 @@ class Desk {
   bool Objects(const std::string& why);
   /// Something is heard; a shell may play it. The same sound twice in an event is heard once.
   virtual void Hear(Sound) {}
-  /// Shows the present state in the midst of a long handler.
+  /// Shows the present state during a long handler.
   virtual void Repaint() {}
 
   // Screens that need no argument are opened by name, once the program has said how they are made.

@@ -172,7 +172,7 @@ class Examination {
       }
     }
     if (!proven) Take(stored_.Files, {});
-    // What a journal held that was cut short nobody knows, but for the seal.
+    // What a journal held that was cut short nobody knows, except for the seal.
     const bool mayBeOld = isCut_ && !applied_.empty() && !(seal && seal->Sequence == proven);
     const bool losesSteps = proven ? *proven < out_.Newest || mayBeOld : hasRecords;
     const std::string spoiled = proven ? "" : NotAsSealed();

@@ -23,7 +23,7 @@ struct Building {
 };
 
 /// The world that the tables tell, held to every rule of CheckWorld. Draws nothing. Other files
-/// among the tables are passed over, but for a table whose name is nearly one of a world's.
+/// among the tables are passed over, except a table whose name is nearly one of a world's.
 Building BuildWorld(const Tables& tables);
 
 /// The tables from which BuildWorld makes the same bytes again, for any world without faults.
