@@ -94,8 +94,9 @@ bool Table::Fits(const Search& search, const ListBox::Row& row) const {
 
 bool Table::Fits(const Filter& filter, const ListBox::Row& row, int listColumn) const {
   const ColumnKind kind = list_.Columns()[Index(listColumn)].Kind;
+  if (!reads_) return filter.Fits(CellOf(row, listColumn), kind);
   Cell cell = CellOf(row, listColumn);
-  if (reads_) cell.Text = reads_(cell, kind);
+  cell.Text = reads_(cell, kind);
   return filter.Fits(cell, kind);
 }
 
