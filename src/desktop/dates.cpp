@@ -1,5 +1,6 @@
 #include "desktop/dates.h"
 
+#include <QDate>
 #include <QLocale>
 #include <QRegularExpression>
 #include <algorithm>
