@@ -81,7 +81,7 @@ BENCHMARK(BM_CommitUnsynced)->Apply(Ages)->Iterations(kDays);
 BENCHMARK(BM_BaselineSyncEachFile)->Apply(Ages)->Iterations(kDays);
 BENCHMARK(BM_BaselineReplaceEachFile)->Apply(Ages)->Iterations(kDays);
 
-/// Left cleanly, or killed with so many days in the journal that are to be replayed.
+/// Left cleanly, or killed with days in the journal that are to be replayed.
 void BM_OpenSlot(benchmark::State& state) {
   const auto disk = RealDisk();
   const test::ScratchFolder home;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kWords = 5000;
 
-/// Prose of so many words, every tenth of which begins somebody's name.
+/// Prose of kWords words, every tenth of which begins somebody's name.
 std::string Prose(const World& world) {
   std::string text;
   for (int word = 0; word < kWords; ++word) {

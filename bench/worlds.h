@@ -19,7 +19,7 @@ World DataWorld(bool large);
 void Begin(World& data, Day start, const std::function<void(std::string_view)>& watcher = {});
 World StartedWorld(bool large, Day start);
 
-/// The worlds that are played: the default one after so many years, and the largest.
+/// The worlds that are played: the default one after some years, and the largest.
 enum Age { kNew, kTenYears, kTwentyYears, kLargest };
 /// The world at that age, its shows auto-booked from a fixed seed, and a month older: by then
 /// rivals have brought what a new game gave them to the size they want. Each is played once.

@@ -5,11 +5,11 @@
 
 #include "records/world.h"
 
-// Who has not been seen yet, and how a show can bring him out.
+// Who has not been seen yet, and how a show can bring them out.
 
 namespace grapplemont {
 
-/// Everybody of the player's who waits for his first appearance, the most popular first.
+/// Everybody of the player's who waits for their first appearance, the most popular first.
 std::vector<const Worker*> WaitingForDebut(const World& world);
 
 /// A way to bring somebody out.

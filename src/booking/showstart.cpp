@@ -32,7 +32,7 @@ constexpr EventExtra kEventExtras[] = {
     {kGlobal, "'Theme' The Entire Event", 3000000, 20},
 };
 
-/// The player's best announcer but for one; nullptr for none.
+/// The player's best announcer except this one; nullptr for none.
 const Staff* BestAnnouncer(const World& world, const Staff* except) {
   const Staff* best = nullptr;
   for (const Staff& staff : world.AllStaff())

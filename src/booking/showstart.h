@@ -27,7 +27,7 @@ int CostOfExtra(std::string_view name);
 /// with a bonus.
 void StartEvent(World& world, const EventExtra* extra);
 
-/// Who would sit at an Event's table: the best announcer on the staff, and beside him the best of
+/// Who would sit at an Event's table: the best announcer on the staff, and beside them the best of
 /// the other announcers and of the workers who can announce.
 CommentaryTeam BestTeam(const World& world);
 

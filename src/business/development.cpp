@@ -247,7 +247,7 @@ std::string WhyNotSplitName(const World& world, int place, std::string_view name
 void NameSplit(World& world, int place, std::string_view name) {
   const std::string before = SplitName(world.Player(), place);
   const std::string after(TrimmedName(name));
-  // Somebody may have brought this name along from where he worked before.
+  // Somebody may have brought this name along from where they worked before.
   if (before != after) MovePeople(world, after, "None");
   if (!before.empty()) MovePeople(world, before, after);
   SplitAt(world.Player(), place) = after;

@@ -58,7 +58,7 @@ struct OfficeSeeker {
 };
 /// In the order of the file.
 std::vector<OfficeSeeker> CandidatesFor(const World& world, Office office);
-/// Why the office cannot go to him; empty when it can. Nobody (uid 0) always can.
+/// Why the office cannot go to them; empty when it can. Nobody (uid 0) always can.
 std::string WhyNotAppoint(const World& world, Office office, int uid);
 void Appoint(World& world, Office office, int uid);
 

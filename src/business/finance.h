@@ -54,7 +54,7 @@ constexpr int ByEconomy(int amount, std::span<const EconomyFactor> factors, int 
   return amount;
 }
 
-/// The number of a table by an image's bands of so many points, the lowest first.
+/// The number of a table by an image's bands of `width` points, the lowest first.
 template <std::size_t N>
 constexpr int ByImage(const std::array<int, N>& bands, int image, int width) {
   return bands[std::min(static_cast<std::size_t>(std::max(image, 0) / width), N - 1)];
@@ -134,7 +134,7 @@ void Donate(World& world, int thousands);
 inline constexpr int kLoanStep = 100000;  // dollars
 inline constexpr int kMostLoanSteps = 100;
 
-/// Months that a loan of so many steps runs: 12, 24 or 36.
+/// Months that a loan of this many steps runs: 12, 24 or 36.
 int LoanTerm(int steps);
 /// What a loan costs each month, in cents: the equal part to the cent and, by the difficulty, a
 /// share of the whole sum. Months below 1 count as 1. `why` gets both, a line each, and the sum.
@@ -144,7 +144,7 @@ int MonthlyRepayment(const Promotion& promotion, int difficulty);
 
 /// The bank wants a quarter of the sum in hand.
 bool BankAccepts(const Promotion& promotion, int steps);
-/// Pays out a loan of so many steps. Requires that there is none.
+/// Pays out a loan of this many steps. Requires that there is none.
 void TakeLoan(Promotion& promotion, int steps);
 
 /// What it costs to be rid of the loan at once: the rest and, by the difficulty, a share of it.

@@ -33,7 +33,7 @@ void RememberMonth(World& world, const Promotion& promotion);
 
 // Months as the office's charts and books count them.
 
-/// The first of the month that lies so many months before the day's own.
+/// The first of the month that lies `months` before the day's own.
 Day MonthsBefore(Day day, int months);
 
 /// What a promotion had when a month was closed or a show was over.

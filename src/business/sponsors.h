@@ -24,12 +24,12 @@ int SponsorPlace(const Promotion& promotion, int sponsorUid);
 /// The first free place from `from` on, 0 for none. That of a sponsor who is gone is free.
 int FreeSponsorPlace(World& world, const Promotion& promotion, int from = kMainSponsor);
 
-/// The sponsor takes place 1 to 4, wherever he was before, for 7 to 24 months. Draws once, of 18.
+/// The sponsor takes place 1 to 4, wherever it was before, for 7 to 24 months. Draws once, of 18.
 void SignSponsor(World& world, Promotion& promotion, Sponsor& sponsor, int place);
-/// A sponsor of the promotion's own moves to another place; whoever has that place takes his. The
-/// deal runs on.
+/// A sponsor of the promotion's own moves to another place; whoever has that place takes the other.
+/// The deal runs on.
 void MoveSponsor(Promotion& promotion, int sponsorUid, int place);
-/// The deal is over: no promotion lists the sponsor any more, and he is free. Nothing is paid.
+/// The deal is over: no promotion lists the sponsor any more, and it is free. Nothing is paid.
 void LoseSponsor(World& world, Sponsor& sponsor);
 
 /// How a sponsor answers the player's offer, by the promotion's risk, then by its standing. `why`

@@ -14,7 +14,7 @@ namespace grapplemont {
 
 /// As many as a promotion may have.
 inline constexpr int kMostShows = 3;
-/// Why the player can have no more shows; empty when he can.
+/// Why the player can have no more shows; empty when they can.
 std::string WhyNoMoreShows(const World& world);
 
 /// A promotion's shows in the order of the file.
@@ -45,7 +45,7 @@ void AddShow(World& world, std::string_view name, const TvDeal& deal);
 /// Takes the show off the air at once. Requires a show of this world.
 void EndShow(World& world, Show& show);
 
-/// Tells the player about a promotion's television deal, as his mail option has it.
+/// Tells the player about a promotion's television deal, as their mail option has it.
 void TellOfDeal(World& world, const Promotion& owner, std::string_view text);
 
 // Who sits at the commentary table, who could, and what the public of a promotion expects of them.
@@ -58,7 +58,7 @@ std::vector<const Staff*> CommentaryStaff(const World& world);
 /// The player's workers who could do the colour.
 std::vector<const Worker*> CommentaryWorkers(const World& world);
 
-/// Somebody for the table: a member of staff by his talent, or a worker by his charisma.
+/// Somebody for the table: a member of staff by their talent, or a worker by their charisma.
 struct Commentator {
   std::string Name;
   int Uid = 0;
@@ -73,7 +73,7 @@ std::vector<Commentator> ColourMenToChoose(const World& world);
 /// Who sits there now; nothing for an empty chair and for somebody who is no more.
 std::optional<Commentator> AnnouncerOf(const World& world, const Show& show);
 std::optional<Commentator> ColourManOf(const World& world, const Show& show);
-/// His name; "None" for nobody.
+/// Their name; "None" for nobody.
 std::string NameOf(const std::optional<Commentator>& commentator);
 
 /// Why the two cannot share a table; empty when they can.

@@ -141,7 +141,7 @@ std::string TakenWords(std::string_view slot) {
 // By size, Global to Backyard.
 constexpr std::array<int, 6> kOfferedWeeks = {52, 24, 12, 12, 6, 6};
 
-/// One tape in so many that please a network becomes an offer.
+/// One tape in this many that please a network becomes an offer.
 constexpr int kOfferOdds = 4;
 constexpr int kOfferDraw = 2;
 
@@ -158,7 +158,7 @@ constexpr const char* kRefusals[] = {
     "Thanks for the promo tapes, but we really don't have any space in our schedule for you at "
     "the moment."};
 
-/// Nothing when the network could use the show. Of several reasons the last is told; a show that
+/// Nothing when the network could use the show. Of several reasons the last is given; a show that
 /// would draw too few gives none of its own.
 std::optional<Reason> RefusalOf(const World& world, const Promotion& promotion,
                                 const Network& network) {

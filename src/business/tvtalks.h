@@ -7,7 +7,7 @@
 
 #include "records/world.h"
 
-// What a network thinks of a show of the player's, and what it lets him do with the deal.
+// What a network thinks of a show of the player's, and what it lets them do with the deal.
 
 namespace grapplemont {
 

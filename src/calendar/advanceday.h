@@ -49,15 +49,15 @@ void EconomyDrift(World& world);
 
 // The first of a month.
 void PoorFormMorale(World& world);
-/// The player's workers in the territory learn from its booker, or fret where he has nothing left
-/// to teach them.
+/// The player's workers in the territory learn from its booker, or fret where they have nothing
+/// left to teach them.
 void DevelopmentMonth(World& world);
 /// The player's trainees learn from the head trainer of the camp.
 void TrainingCampMonth(World& world);
 /// Takes a month off every injury, rehab and suspension.
 void StatusCountdown(World& world);
-/// The birthdays of the month before: skills drift, careers end. Whoever has announced his end goes
-/// in the first month that is not that of his birthday, and somebody new takes his record.
+/// The birthdays of the month before: skills drift, careers end. Whoever has announced their end
+/// goes in the first month that is not that of their birthday, and somebody new takes their record.
 void AgeAndRetire(World& world);
 void PayWagesAndContracts(World& world);
 void LoanRepayments(World& world);
@@ -83,7 +83,7 @@ struct Appointment {
   std::string Kind;  // "Television", "Event", "No Event"
 };
 
-/// The player's show days from today on, for so many days.
+/// The player's show days from today on, for `days` days.
 std::vector<Appointment> ComingShows(const World& world, int days);
 
 /// Whether Today is a show day of the player's, or one that asks about a missing Event.

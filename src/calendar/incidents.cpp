@@ -23,7 +23,7 @@ bool IsAlive(const World& world, const Incident& incident) {
   return promotion && promotion->Uid != world.PlayerUid() && promotion->Name != kToBeDeleted;
 }
 
-/// Opening the list again finds him where it left him.
+/// Opening the list again finds them where it left them.
 void TakeOut(World& world, const Incident& incident) {
   Worker* worker = world.FindWorker(incident.Uid);
   if (!worker || worker->Status != "Nor") return;
@@ -92,7 +92,7 @@ constexpr int kOfferDraw = 180, kOfferHit = 5;
 constexpr int kQuietDays = 60;
 constexpr int kInjuryHit = 100;
 
-/// Out of so many; 0: never.
+/// Out of this many; 0: never.
 struct ConductRow {
   int Type;
   int Hit;

@@ -14,8 +14,8 @@ enum IncidentType { kFight = 1, kLate, kPolice, kRehab, kInjury, kJobOffer };
 /// Whether the list of the day holds any.
 bool HasIncident(const World& world);
 /// The first that waits for an answer; those about people or promotions who are gone are dropped.
-/// Somebody who has to go into rehab or is hurt does so now: his months, and the injury's name, are
-/// drawn. Nothing when all have been dealt with.
+/// Somebody who has to go into rehab or is hurt does so now: their months, and the injury's name,
+/// are drawn. Nothing when all have been dealt with.
 const Incident* FirstIncident(World& world);
 /// What it says to the player. Requires one that FirstIncident gave.
 std::string IncidentText(const World& world, const Incident& incident);
@@ -23,8 +23,8 @@ std::string IncidentText(const World& world, const Incident& incident);
 void CloseIncident(World& world);
 
 void Suspend(Worker& worker, int months);
-/// The player leaves his promotion to its own devices and takes over another: the job goes to the
-/// former ones, and his feuds end with it.
+/// The player leaves their promotion to its own devices and takes over another: the job goes to the
+/// former ones, and their feuds end with it.
 void ChangeJob(World& world, const Promotion& promotion);
 
 }  // namespace grapplemont

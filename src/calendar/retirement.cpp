@@ -18,10 +18,10 @@ namespace grapplemont {
 
 namespace {
 
-/// One who goes on whatever his age is.
+/// One who goes on whatever their age is.
 constexpr std::string_view kIronMan = "Tobias Fenn";
 
-/// At this age and above one in so many stops; 1 is everybody and needs no draw.
+/// At this age and above one in this many stops; 1 is everybody and needs no draw.
 struct AgeBand {
   int From;
   int OneIn;
@@ -36,7 +36,7 @@ bool DrawStop(World& world, int age, std::span<const AgeBand> bands) {
   return band->OneIn == 1 || world.RandomDraw(band->OneIn) == 1;
 }
 
-/// Everything about the player's own is told. Who works for nobody concerns no rival.
+/// Everything about the player's own is reported. Who works for nobody concerns no rival.
 bool MayTell(const World& world, int option, int employerUid) {
   if (employerUid != 0 && employerUid == world.PlayerUid()) return true;
   const Promotion* employer = world.FindPromotion(employerUid);

@@ -135,7 +135,7 @@ void RememberShow(World& world, const Promotion& player, HistoryKind kind, std::
 void EventDay(World& world, Promotion& player, bool cancelled) {
   const Event* event = PlayerEvent(world, MonthOf(world.Today()));
   if (!event || event->Type == 0) return ChangeImage(world, player, kNoEventImage, false);
-  const int type = event->Type;  // the image sets it anew
+  const int type = event->Type;  // the image sets it again
   ShowTakings takings;
   if (cancelled)
     takings.Costs = CallOffEvent(world, player, type);
@@ -154,7 +154,7 @@ void TvDay(World& world, Promotion& player, bool cancelled) {
     RememberShow(world, player, kPastTv, show->Name, cancelled, takings);
 }
 
-/// How often a worker counts in a show's mean, by his position; 0 for who does not carry a show.
+/// How often a worker counts in a show's mean, by their position; 0 for who does not carry a show.
 int EventWeight(int position) {
   if (position == kMainEvent) return 2;
   return position == kUpperMidcard || position == kMidcard || position == kNonWrestler ||

@@ -64,7 +64,7 @@ int UpTo(int limit, int value, int gain) {
   return value + gain > limit ? 0 : gain;
 }
 
-/// What he has learned, a piece each; empty for nothing.
+/// What they have learned, a piece each; empty for nothing.
 std::string Learn(World& world, Worker& worker, const Lesson& lesson) {
   const int over = UpTo(std::min<int>(worker.Potential, 100), worker.Over, lesson.Over.Draw(world));
   worker.Over += over;
@@ -104,8 +104,8 @@ constexpr std::array<int, 5> kCaps = {0, 1, 2, 3, 5};
 constexpr int kCampBasics = 2;  // selling and attitude, whoever teaches
 
 /// What a head trainer of at least this talent makes of the draws: a draw of none still is a point.
-/// From 60 to 70 he teaches no more than the untalented, having outgrown the drill and not found a
-/// method of his own.
+/// From 60 to 70 they teach no more than the untalented, having outgrown the drill and not found a
+/// method of their own.
 struct TrainerBand {
   int From;
   int Range;

@@ -13,7 +13,7 @@ namespace grapplemont {
 
 namespace {
 
-/// What a worker says when he goes, and how the legend says it.
+/// What a worker says when they go, and how the legend says it.
 struct Parting {
   std::string_view Words;
   std::string_view Legend;
@@ -36,7 +36,7 @@ bool MayRebel(const Worker& worker) {
   return worker.Status == "Nor" && !worker.Unsackable;
 }
 
-/// True when he has left.
+/// True when they have left.
 bool WalksOut(World& world, Worker& worker) {
   if (worker.ContractType != "Non" || !MayRebel(worker) || worker.Behaviour >= 80 ||
       worker.Morale >= 10)

@@ -47,7 +47,7 @@ std::optional<std::string> Letters(const Line& line, std::string& why) {
   } else if (const std::string foreign = FirstForeignLetter(line.Bytes); foreign == "?") {
     why = "The line is not UTF-8.";
   } else {
-    why = "The game writes Western European letters only; \"" + foreign + "\" is none of them.";
+    why = "The game writes Western European letters only; \"" + foreign + "\" is not one of them.";
   }
   return std::nullopt;
 }

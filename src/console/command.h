@@ -69,7 +69,7 @@ struct Command {
   std::string Text;  // as it was typed, with its blanks
 };
 
-/// Reads a line; an empty one shows. Nothing when it is no command; then `why` says so in a
+/// Reads a line; an empty one shows. Nothing when it is not a command; then `why` says so in a
 /// sentence.
 std::optional<Command> ReadCommand(std::string_view line, std::string& why);
 

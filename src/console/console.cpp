@@ -40,7 +40,8 @@ std::string Check(ui::Desk& desk, ui::Screen& screen, const Command& command) {
 
 std::string Slide(ui::Desk& desk, ui::Screen& screen, const Command& command) {
   const auto value = ui::AsNumber(command.Text);
-  if (!value) return "\"" + command.Text + "\" is no whole number that a scroll bar could go to.";
+  if (!value)
+    return "\"" + command.Text + "\" is not a whole number that a scroll bar could go to.";
   return ui::Slide(desk, screen, command.Name, *value);
 }
 

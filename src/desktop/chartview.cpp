@@ -5,6 +5,7 @@
 #include <iterator>
 #include <limits>
 
+#include "desktop/dates.h"
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
 #include "desktop/spoken.h"
@@ -160,7 +161,9 @@ void ChartView::DrawCaptions(QPainter& painter, const Scale& scale) const {
   if (count == 0) return;
   const QFontMetrics small = fontMetrics();
   painter.setPen(ColoursOf(this).Muted);
-  const auto words = [&](int place) { return Shown(captions[static_cast<std::size_t>(place)]); };
+  const auto words = [&](int place) {
+    return DatedAlone(captions[static_cast<std::size_t>(place)]);
+  };
   const auto spot = [&](int place) {
     const int width = small.horizontalAdvance(words(place));
     const double x = std::clamp(scale.X(place) - width / 2.0, 0.0,
@@ -265,7 +268,7 @@ void ChartView::DrawHover(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
   QStringList words;
   const auto at = static_cast<std::size_t>(hover_);
-  if (at < control_.Captions->size()) words << Shown(control_.Captions.Get()[at]);
+  if (at < control_.Captions->size()) words << DatedAlone(control_.Captions.Get()[at]);
   for (const auto& series : control_.Lines.Get()) {
     if (at >= series.Values.size() || !std::isfinite(series.Values[at])) continue;
     const QString number = QString::number(

@@ -4,6 +4,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 
+#include "desktop/dates.h"
 #include "desktop/drawn/drawn.h"
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
@@ -159,8 +160,8 @@ void Finder::FindNames(const QString& letters) {
   if (letters.isEmpty() || !from_.Names) return;
   for (ui::Finding& found : from_.Names(Keep(letters).Text, kMost))
     names_.push_back({Shown(found.Heading),
-                      Shown(found.Words),
-                      Shown(found.About),
+                      Dated(found.Words),
+                      Dated(found.About),
                       {},
                       {},
                       std::move(found.Open),

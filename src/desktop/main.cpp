@@ -9,6 +9,7 @@
 
 #include "desktop/album.h"
 #include "desktop/look.h"
+#include "desktop/sound.h"
 #include "desktop/window.h"
 #include "program/screens.h"
 #include "session/home.h"
@@ -91,6 +92,11 @@ int Play(QApplication& app) {
     const auto [slot, world] = game.Opened();
     return slot == 0 ? desktop::OpenGame()
                      : desktop::OpenGame{QString("s%1").arg(slot), QString::number(world, 16)};
+  };
+  std::optional<desktop::Speaker> speaker;  // once something is heard
+  options.Play = [&speaker](ui::Sound sound, int volume) {
+    if (!speaker) speaker.emplace();
+    speaker->Play(sound, volume);
   };
   desktop::Window window(desk, options);
   game.KeepPage = [&window](const std::string& file) {

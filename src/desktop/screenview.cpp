@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/boxshape.h"
+#include "desktop/dates.h"
 #include "desktop/scroller.h"
 #include "desktop/tableview.h"
 #include "desktop/turninglayout.h"
@@ -210,7 +211,7 @@ QSize ScreenView::DialogSize() const {
 void ScreenView::Refresh() {
   if (seen_ != screen_->Revision()) {
     seen_ = screen_->Revision();
-    if (title_) title_->setText(Shown(screen_->Title.Get()));
+    if (title_) title_->setText(Dated(screen_->Title.Get()));
   }
   if (behind_) {
     const QString file =
@@ -297,7 +298,7 @@ bool ScreenView::HandleKey(int key) {
   // Where there is only one way to go, the space bar turns the page as well.
   if (key == Qt::Key_Space && !page_.Cancel) return Press(page_.Main);
   if (key == Qt::Key_Backspace) return ClearFilters();
-  // From the hub nothing leads back but the end of the game, which is no slip of the hand.
+  // From the hub nothing leads back but the end of the game, which is not a slip of the hand.
   return key == Qt::Key_Escape && !hub && PressCancel();
 }
 

@@ -52,6 +52,24 @@ int Settings::Scale() const {
   return percent == 0 ? 100 : std::clamp(percent, kLeastScale, kMostScale);
 }
 
+int Settings::Volume() const {
+  constexpr int kUsualVolume = 50;
+  const QVariant percent = Read(kVolume);
+  return percent.isValid() ? std::clamp(percent.toInt(), 0, 100) : kUsualVolume;
+}
+
+DateForm Settings::Dates() const {
+  const std::string kept = Read(kDates).toString().toStdString();
+  const auto form =
+      std::ranges::find_if(kDateForms, [&](const auto& named) { return kept == named.Key; });
+  return form == std::end(kDateForms) ? DateForm::Game
+                                      : static_cast<DateForm>(form - std::begin(kDateForms));
+}
+
+void Settings::SetDates(DateForm form) {
+  Write(kDates, kDateForms[static_cast<std::size_t>(form)].Key);
+}
+
 QString Settings::Key(const std::string& command, const std::string& usual) const {
   const QVariant kept = Read(KeyKey(command));
   return kept.isValid() ? kept.toString() : Shown(usual);

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "desktop/dates.h"
 #include "desktop/look.h"
 #include "ui/arrangedtable.h"
 #include "ui/screen.h"
@@ -35,6 +36,13 @@ class Settings {
   /// Nothing moves by itself: the cursor does not blink.
   bool Still() const { return Read(kStill).toBool(); }
   void SetStill(bool still) { Write(kStill, still); }
+  /// Bell and crowd, off until the player turns them on; the volume is in percent.
+  bool Sounds() const { return Read(kSounds).toBool(); }
+  void SetSounds(bool on) { Write(kSounds, on); }
+  int Volume() const;
+  void SetVolume(int percent) { Write(kVolume, percent); }
+  DateForm Dates() const;
+  void SetDates(DateForm form);
   /// The key of a command of the side bar, where the player has set none the usual one.
   QString Key(const std::string& command, const std::string& usual) const;
   void SetKey(const std::string& command, const QString& key);
@@ -56,7 +64,8 @@ class Settings {
   static QString PassingOf(const ui::Screen& screen);
   void Erase(const QString& group);
   static constexpr auto kZoom = "window/zoom", kPlace = "window/place", kScale = "window/scale",
-                        kStill = "window/still";
+                        kStill = "window/still", kSounds = "sound/on", kVolume = "sound/volume",
+                        kDates = "window/dates";
   QVariant Read(const QString& key) const;
   void Write(const QString& key, const QVariant& value);
 

@@ -1,16 +1,19 @@
 #include "desktop/sharing.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPixmap>
+#include <QPainter>
 #include <QSaveFile>
+#include <QTextDocument>
 #include <algorithm>
 
+#include "desktop/pieces.h"
 #include "desktop/window.h"
 
-// The page that is seen, as a text or a picture: to the clipboard or a file.
+// What a page or a table says, as a text or a picture: to the clipboard or a file.
 
 namespace grapplemont::desktop {
 
@@ -27,67 +30,111 @@ constexpr Sharing kTexts[] = {{"Markdown", "md", ui::Form::Markdown},
                               {"HTML", "html", ui::Form::Html},
                               {"BBCode", "txt", ui::Form::BbCode}};
 
+/// As much of a picture as programs can be trusted to open.
+constexpr double kMostPixels = 30000;
+
+/// HTML on white paper, whole.
+QPixmap PaintedWords(const QString& html) {
+  constexpr int kSide = 24;
+  QTextDocument words;
+  words.setDefaultFont(TextFont());
+  words.setDocumentMargin(Px(kSide));
+  words.setHtml(html);
+  words.setTextWidth(ReadableWidth() + 2 * Px(kSide));
+  const QSizeF size = words.size().boundedTo({kMostPixels, kMostPixels});
+  QPixmap picture(size.toSize().expandedTo({1, 1}));
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  QAbstractTextDocumentLayout::PaintContext context;
+  context.palette.setColor(QPalette::Text, Qt::black);
+  context.clip = picture.rect();
+  words.documentLayout()->draw(&painter, context);
+  return picture;
+}
+
 }  // namespace
 
-QString WritePage(const QString& file, ui::Screen& screen, QWidget& view) {
+Shareable PageToShare(ui::Screen& screen, QWidget& view) {
+  return {[&screen](ui::Form form) { return ui::Shared(screen, form); },
+          [&view] { return view.grab(); }};
+}
+
+Shareable WordsToShare(std::function<std::string(ui::Form form)> text) {
+  return {text, [text] { return PaintedWords(Shown(text(ui::Form::Html))); }};
+}
+
+QString WriteShared(const QString& file, const Shareable& shared) {
   QSaveFile out(file);
   if (!out.open(QIODevice::WriteOnly))
     return "Could not write " + file + ": " + out.errorString() + ".";
   const QString ending = QFileInfo(file).suffix().toLower();
   bool written = true;
   if (ending == kPicture) {
-    written = view.grab().save(&out, "PNG");
+    written = shared.Picture().save(&out, "PNG");
   } else {
     const auto* text =
         std::ranges::find_if(kTexts, [&](const Sharing& row) { return ending == row.Ending; });
     const ui::Form form = text == std::end(kTexts) ? ui::Form::Markdown : text->As;
-    const QByteArray bytes = Shown(ui::Shared(screen, form)).toUtf8();
+    const QByteArray bytes = Shown(shared.Text(form)).toUtf8();
     written = out.write(bytes) == bytes.size();
   }
   if (written && out.commit()) return {};
   return "Could not write " + file + ": " + out.errorString() + ".";
 }
 
-void AddSharing(QMenu& menu, const std::function<void(ui::Form)>& share) {
-  for (const Sharing& row : kTexts)
-    menu.addAction(QString("Copy as ") + row.Words, &menu, [share, form = row.As] { share(form); });
-}
-
-std::vector<Window::OwnCommand> Window::SharingCommands() {
-  std::vector<OwnCommand> commands;
-  if (!TopView()) return commands;
-  for (const Sharing& row : kTexts)
-    commands.push_back({{}, QString("Copy this page as ") + row.Words, {}, [this, form = row.As] {
-                          CopyPage(form);
-                        }});
-  commands.push_back({{}, "Copy this page as a picture", {}, [this] { CopyPicture(); }});
-  commands.push_back({{}, "Save this page to a file", {}, [this] { SavePage(); }});
-  return commands;
-}
-
-void Window::CopyPage(ui::Form form) {
-  if (!top_) return;
-  QApplication::clipboard()->setText(Shown(ui::Shared(*top_, form)));
-  Hint(*this, "The page is in the clipboard.");
-}
-
-void Window::CopyPicture() {
-  if (ScreenView* view = TopView()) QApplication::clipboard()->setPixmap(view->grab());
-  Hint(*this, "The picture is in the clipboard.");
-}
-
-void Window::SavePage() {
-  ScreenView* view = TopView();
-  if (!view || !top_) return;
+QString SaveShared(QWidget* parent, const QString& name, const Shareable& shared) {
   QStringList kinds;
   for (const Sharing& row : kTexts)
     kinds << QString("%1 (*.%2)").arg(QString(row.Words), QString(row.Ending));
   kinds << QString("Picture (*.%1)").arg(kPicture);
   const QString file = QFileDialog::getSaveFileName(
-      this, "Save this page", Shown(top_->Title.Get()) + "." + kTexts[0].Ending, kinds.join(";;"));
-  if (file.isEmpty()) return;
-  const QString why = WritePage(file, *top_, *view);
-  Hint(*this, why.isEmpty() ? "Wrote " + file + "." : why);
+      parent, "Save to a file", name + "." + kTexts[0].Ending, kinds.join(";;"));
+  if (file.isEmpty()) return {};
+  const QString why = WriteShared(file, shared);
+  return why.isEmpty() ? "Wrote " + file + "." : why;
+}
+
+void CopyShared(const Shareable& shared, ui::Form form) {
+  QApplication::clipboard()->setText(Shown(shared.Text(form)));
+}
+
+void CopyPictureOf(const Shareable& shared) {
+  QApplication::clipboard()->setPixmap(shared.Picture());
+}
+
+void AddSharing(QMenu& menu, const Shareable& shared) {
+  for (const Sharing& row : kTexts)
+    menu.addAction(QString("Copy as ") + row.Words, &menu,
+                   [shared, form = row.As] { CopyShared(shared, form); });
+  menu.addAction("Copy as a picture", &menu, [shared] { CopyPictureOf(shared); });
+}
+
+/// A page as it is seen, and all its words: a long report is seen only in part.
+std::vector<Window::OwnCommand> Window::SharingCommands() {
+  std::vector<OwnCommand> commands;
+  if (!TopView() || !top_) return commands;
+  const Shareable page = PageToShare(*top_, *TopView()), words = WordsToShare(page.Text);
+  const auto add = [&](const QString& caption, const QString& done, std::function<void()> share) {
+    commands.push_back({{}, caption, {}, [this, done, share = std::move(share)] {
+                          share();
+                          Hint(*this, done);
+                        }});
+  };
+  for (const Sharing& row : kTexts)
+    add(QString("Copy this page as ") + row.Words, "The page is in the clipboard.",
+        [page, form = row.As] { CopyShared(page, form); });
+  const QString done = "The picture is in the clipboard.";
+  add("Copy this page as a picture", done, [page] { CopyPictureOf(page); });
+  add("Copy all words of this page as a picture", done, [words] { CopyPictureOf(words); });
+  commands.push_back({{}, "Save this page to a file", {}, [this, page] { SavePage(page); }});
+  commands.push_back(
+      {{}, "Save all words of this page to a file", {}, [this, words] { SavePage(words); }});
+  return commands;
+}
+
+void Window::SavePage(const Shareable& shared) {
+  const QString said = SaveShared(this, Shown(top_->Title.Get()), shared);
+  if (!said.isEmpty()) Hint(*this, said);
 }
 
 }  // namespace grapplemont::desktop

@@ -1,18 +1,34 @@
 #pragma once
 
 #include <QMenu>
+#include <QPixmap>
 #include <QString>
 #include <functional>
+#include <string>
 
 #include "ui/share.h"
 
 namespace grapplemont::desktop {
 
-/// Writes what the screen tells to a file, in the form that its ending means (md, html, txt for
-/// BBCode, png for a picture of `view`; Markdown for any other). Why it could not, empty if it has.
-QString WritePage(const QString& file, ui::Screen& screen, QWidget& view);
+/// What can be shared: its text in any form, and how it looks.
+struct Shareable {
+  std::function<std::string(ui::Form form)> Text;
+  std::function<QPixmap()> Picture;
+};
+/// A page, whose picture is `view` as it is seen.
+Shareable PageToShare(ui::Screen& screen, QWidget& view);
+/// The same with a picture of all its words, however far they would have to be scrolled.
+Shareable WordsToShare(std::function<std::string(ui::Form form)> text);
 
-/// An entry for each form of text.
-void AddSharing(QMenu& menu, const std::function<void(ui::Form form)>& share);
+/// Writes it to a file, in the form that its ending means (md, html, txt for BBCode, png for the
+/// picture; Markdown for any other). Why it could not, empty if it has.
+QString WriteShared(const QString& file, const Shareable& shared);
+/// Asks for a file and writes it. What is to be said of it, empty if no file was named.
+QString SaveShared(QWidget* parent, const QString& name, const Shareable& shared);
+void CopyShared(const Shareable& shared, ui::Form form);
+void CopyPictureOf(const Shareable& shared);
+
+/// An entry for each form of text, and one for the picture.
+void AddSharing(QMenu& menu, const Shareable& shared);
 
 }  // namespace grapplemont::desktop

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "desktop/dates.h"
 #include "desktop/drawn/drawn.h"
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
@@ -62,7 +63,7 @@ int TagWidth(const QString& words) {
   return QFontMetrics(TagFont()).horizontalAdvance(words) + 2 * Px(kTagSide);
 }
 
-/// One after the other; what has no room is told by the tip.
+/// One after the other; what has no room stands in the tip.
 void DrawTags(QPainter& painter, QRect room, const ui::Cell& cell, const ui::Column& column,
               const Colours& c) {
   for (const QString& word : Shown(cell.Text).split(", ", Qt::SkipEmptyParts)) {
@@ -107,7 +108,7 @@ void DrawStar(QPainter& painter, const QPointF& centre, const Colours& c) {
 
 void DrawText(QPainter& painter, const QRect& room, const ui::Cell& cell, ColumnKind kind) {
   // A row has room for one line, however many the text has.
-  const QString line = Shown(cell.Text).replace('\n', ' ');
+  const QString line = CellText(cell, kind).replace('\n', ' ');
   const QString text = painter.fontMetrics().elidedText(line, Qt::ElideRight, room.width() + 1);
   if (kind == ColumnKind::Number || kind == ColumnKind::Date) {
     DrawFigures(painter, room, AlignsRight(kind) ? Qt::AlignRight : Qt::AlignLeft, text);
@@ -140,7 +141,7 @@ bool AlignsRight(ColumnKind kind) {
 
 int CellWidth(const ui::Cell& cell, ColumnKind kind) {
   const int sides = 2 * Px(kCellSide) + (cell.Best ? Px(kStar) : 0);
-  const QString text = Shown(cell.Text);
+  const QString text = CellText(cell, kind);
   if (kind == ColumnKind::Button) return Px(kRowButton) + sides;
   if (IsTag(cell, kind)) return TagWidth(text) + sides + 2;
   if (kind == ColumnKind::Tags) {
@@ -232,7 +233,9 @@ bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
   if (!index.isValid() || event->type() != QEvent::ToolTip) return false;
   QStringList lines;
   if (sizeHint(option, index).width() > option.rect.width() + 2)
-    lines.append(Shown(model_.Table().At(index.row(), index.column()).Text).toHtmlEscaped());
+    lines.append(
+        CellText(model_.Table().At(index.row(), index.column()), model_.Column(index.column()).Kind)
+            .toHtmlEscaped());
   if (const QString hint = HintOf ? HintOf(index) : QString(); !hint.isEmpty())
     lines.append(hint.toHtmlEscaped());
   if (lines.isEmpty()) {
@@ -261,7 +264,8 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
   const ui::Cell& cell = table_.At(index.row(), index.column());
   const bool tells = role == Qt::AccessibleTextRole && cell.Best;
-  return tells ? Shown(cell.Text) + ", the best" : Shown(cell.Text);
+  const QString text = CellText(cell, Column(index.column()).Kind);
+  return tells ? text + ", the best" : text;
 }
 
 /// What the heading says itself, then what the glossary says of it.

@@ -1,5 +1,3 @@
-#include <QApplication>
-#include <QClipboard>
 #include <QWidgetAction>
 
 #include "desktop/button.h"
@@ -184,8 +182,13 @@ void TableView::AddTableActs(QMenu& menu) {
       ->setEnabled(!table_.State().Filters.empty() || !table_.State().Search.empty());
   menu.addAction("Copy as CSV\tCtrl C", this, [this] { CopyCsv(); });
   menu.addAction("Save as CSV\u2026", this, [this] { SaveCsv(); });
-  AddSharing(menu, [this](ui::Form form) {
-    if (table_.Follows()) QApplication::clipboard()->setText(Shown(ui::Shared(table_, form)));
+  const Shareable shared = WordsToShare([this](ui::Form form) {
+    return table_.Follows() ? ui::Shared(table_, form) : std::string();
+  });
+  AddSharing(menu, shared);
+  menu.addAction("Save to a file\u2026", this, [this, shared] {
+    const QString said = SaveShared(this, Shown(control_.Parent().Title.Get()), shared);
+    if (!said.isEmpty()) OnStage().Hint(*this, said);
   });
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/button.h"
+#include "desktop/dates.h"
 #include "desktop/views.h"
 #include "ui/acts.h"
 #include "ui/filter.h"
@@ -29,12 +30,18 @@ QString SearchHint(const ui::ListBox& list) {
   return "Filter\u2026";
 }
 
+/// Whoever looks for a date types what is shown of it.
+ui::CellReader CellsAreRead() {
+  if (DatesAreTheGames()) return {};
+  return [](const ui::Cell& cell, ui::ColumnKind kind) { return Keep(CellText(cell, kind)).Text; };
+}
+
 }  // namespace
 
 TableView::TableView(ui::ListBox& list, Stage& stage, QWidget* parent)
     : ViewOf(list, stage, parent),
       place_(stage.Kept().PlaceOf(list)),
-      table_(list, stage.Kept().Table(place_)),
+      table_(list, stage.Kept().Table(place_), CellsAreRead()),
       model_(list, table_),
       grid_(new TableGrid(model_, this)) {
   auto* column = NewLayout<QVBoxLayout>(this, 8);

@@ -51,7 +51,7 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void AddRow(int shownRow);
   void ReachRow(int shownRow);
   void PickAll();
-  /// Nobody acts on rows that he does not see.
+  /// Nobody acts on rows that they do not see.
   void DropUnseen();
   void PickShown(const std::vector<int>& shownRows);
   /// Shows the rows again; the cursor stays on its row.

@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <algorithm>
 
+#include "desktop/dates.h"
 #include "desktop/views.h"
 #include "ui/acts.h"
 
@@ -135,7 +136,7 @@ void LabelView::Colour() {
 }
 
 void LabelView::Show() {
-  setText(Shown(control_.Text.Get()) + TrendSign(control_.Trend));
+  setText(Dated(control_.Text.Get()) + TrendSign(control_.Trend));
   Colour();
   if (OnStage().Desk().LinksIn(control_.Text.Get()).empty()) {
     unsetCursor();

@@ -1,11 +1,11 @@
 #include "desktop/topbar.h"
 
 #include <QHBoxLayout>
-#include <QLocale>
 #include <QPainter>
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "desktop/dates.h"
 #include "desktop/spoken.h"
 #include "desktop/textviews.h"
 
@@ -32,23 +32,33 @@ constexpr int kStep = 24;                       // a number's room grows by so m
 constexpr int kShortName = 96, kBareName = 88;  // what is left of a long name
 constexpr int kLeastName = 40;                  // less of it says nothing
 
-/// How wide a date may come to be.
+/// "Monday, 09 March 2026" as "Mon, 09 Mar 2026".
+QString WithShortNames(QString date) {
+  static const QRegularExpression kLongWord(
+      "([A-Za-z\\x{C0}-\\x{24F}]{3})[A-Za-z\\x{C0}-\\x{24F}]+");
+  return date.replace(kLongWord, "\\1");
+}
+
+/// "Mon, 09 Mar 2026" as "09 Mar 2026".
+QString WithoutWeekday(QString date) {
+  static const QRegularExpression kWeekday("^[^\\d]+[, ]+(?=\\d)");
+  return date.remove(kWeekday);
+}
+
+/// How wide a date may come to be: the widest month with the widest day of the week.
 int WidestDate(const QFont& font, bool shortened, bool weekday) {
   const QFontMetrics metrics(font);
-  const auto widest = [&](auto nameOf, int count) {
+  const auto widest = [&](const std::vector<QString>& dates) {
     int width = 0;
-    for (int i = 1; i <= count; ++i) {
-      const QString name = nameOf(i);
-      width = std::max(width, metrics.horizontalAdvance(shortened ? name.left(3) : name));
+    for (QString date : dates) {
+      if (shortened) date = WithShortNames(date);
+      if (!weekday) date = WithoutWeekday(date);
+      width = std::max(width, metrics.horizontalAdvance(date));
     }
     return width;
   };
-  const QLocale english = QLocale::c();
-  return (weekday ? widest([&](int day) { return english.dayName(day); }, 7) +
-                        metrics.horizontalAdvance(", ")
-                  : 0) +
-         widest([&](int month) { return english.monthName(month); }, 12) +
-         metrics.horizontalAdvance("00  0000");
+  const DateSamples& samples = SamplesOfDates();
+  return widest(samples.Months) + widest(samples.Days) - widest({samples.Days.front()});
 }
 
 }  // namespace
@@ -93,9 +103,9 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
 
  protected:
   void Show() override {
-    TakeApart(Shown(control_.Text.Get()));
-    setAccessibleName(Shown(control_.Text.Get()));
-    if (control_.Tip->empty()) setToolTip(Shown(control_.Text.Get()));
+    TakeApart(Dated(control_.Text.Get()));
+    setAccessibleName(Dated(control_.Text.Get()));
+    if (control_.Tip->empty()) setToolTip(Dated(control_.Text.Get()));
     if (control_.Trend != 0) pieces_.push_back({TrendSign(control_.Trend), false});
     updateGeometry();
     update();
@@ -136,15 +146,14 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
     return width;
   }
 
-  /// "Monday, 09 March 2026" as "Mon, 09 Mar 2026", at the least "09 Mar 2026"; bare, what matters
-  /// without its caption.
+  /// A date with short names, at the least without the day of the week; bare, what matters without
+  /// its caption.
   Pieces InForm(Form form) const {
     Pieces pieces = pieces_;
-    static const QRegularExpression kLongWord("([A-Za-z]{3})[A-Za-z]+"), kWeekday("^[A-Za-z]+, ");
     if (first_ && form != Form::Long)
-      for (Piece& piece : pieces) piece.Words.replace(kLongWord, "\\1");
+      for (Piece& piece : pieces) piece.Words = WithShortNames(piece.Words);
     if (first_ && form == Form::Least)
-      for (Piece& piece : pieces) piece.Words.remove(kWeekday);
+      for (Piece& piece : pieces) piece.Words = WithoutWeekday(piece.Words);
     if (first_ || form == Form::Long || form == Form::Short) return pieces;
     if (IsName()) pieces.pop_back();
     if (pieces.size() > 1 && !pieces.front().Matters) pieces.erase(pieces.begin());

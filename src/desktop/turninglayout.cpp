@@ -9,7 +9,7 @@ namespace grapplemont::desktop {
 
 namespace {
 
-/// The width of a part that stays in one line; -1 for what is no row.
+/// The width of a part that stays in one line; -1 for what is not a row.
 int RowWidth(QLayoutItem& item) {
   if (const auto* turning = dynamic_cast<const TurningLayout*>(item.layout()))
     return turning->WidthAcross();

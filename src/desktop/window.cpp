@@ -30,6 +30,7 @@ Window::Window(WindowDesk& desk, Options options)
       full_(new QStackedLayout(ground_)) {
   desk_.window_ = this;
   settings_.Game = options_.Game;
+  UseDateForm(settings_.Dates());
   ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
   setPalette(QApplication::palette());
   setWindowTitle("Grapplemont");
@@ -231,12 +232,13 @@ ScreenView* Window::ViewFor(const ui::Screen* screen) const {
 void Window::Act(const std::function<std::string()>& act) {
   if (acting_ > 0 || syncing_) return;
   ++acting_;
+  heard_.clear();
   const std::string why = act();
   --acting_;
   Sync();
   if (!why.empty()) Hint(*this, Shown(why));
   // The program ends when nothing lies on the desk any more, or when the window was to be closed
-  // amid an event.
+  // during an event.
   if (desk_.Empty() || closing_) QTimer::singleShot(0, this, [this] { close(); });
 }
 
@@ -272,6 +274,11 @@ void Window::RepaintNow() {
   QApplication::processEvents();
   busy_ = false;
   lastPaint_.start();
+}
+
+void Window::Hear(ui::Sound sound) {
+  if (settings_.Sounds() && options_.Play && heard_.insert(sound).second)
+    options_.Play(sound, settings_.Volume());
 }
 
 void Window::Hint(QWidget& beside, const QString& text) {
@@ -326,6 +333,10 @@ std::string WindowDesk::Prompt(const std::string& title, const std::string& text
   std::string line = offered;
   const bool taken = window_ && window_->AnswerOf(title, text, {"Cancel", "OK"}, 1, &line) == 1;
   return taken ? line : std::string();
+}
+
+void WindowDesk::Hear(ui::Sound sound) {
+  if (window_) window_->Hear(sound);
 }
 
 void WindowDesk::Repaint() {

@@ -7,12 +7,13 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include "desktop/box.h"
 #include "desktop/finder.h"
+#include "desktop/sharing.h"
 #include "desktop/topbar.h"
-#include "ui/share.h"
 
 namespace grapplemont::desktop {
 
@@ -26,6 +27,7 @@ class WindowDesk : public ui::Desk {
   bool Ask(const std::string& title, const std::string& text, ui::Default answer) override;
   std::string Prompt(const std::string& title, const std::string& text,
                      const std::string& offered) override;
+  void Hear(ui::Sound sound) override;
   void Repaint() override;
 
  private:
@@ -41,6 +43,8 @@ class Window : public QMainWindow, public Stage {
     QString Settings;  // the file settings.ini; empty: nothing is kept
     std::function<void()> Closing;
     std::function<OpenGame()> Game = {};  // what is being played; without it no game is
+    /// Plays a sound at a volume in percent, without waiting for it; without it there is none.
+    std::function<void(ui::Sound sound, int volume)> Play = {};
   };
   Window(WindowDesk& desk, Options options);
   ~Window() override;
@@ -52,10 +56,14 @@ class Window : public QMainWindow, public Stage {
   /// Keeps a small picture of what is shown.
   void KeepPage(const QString& file);
 
-  // What the player sets about the window, in windowkeys.cpp.
+  // What the player sets about the window, in windowcommands.cpp.
   void SetColours(Scheme scheme);
   void SetZoom(int zoom);
+  void SetScale(int percent);
   void SetStill(bool still);
+  void SetSounds(bool on);
+  void SetVolume(int percent);
+  void SetDates(DateForm form);
   void TurnFullScreen();
   /// All views are made again: their sizes and colours were taken when they were built.
   void Relook();
@@ -66,6 +74,7 @@ class Window : public QMainWindow, public Stage {
   int AnswerOf(const std::string& title, const std::string& text, const QStringList& captions,
                int usual, std::string* line = nullptr);
   void RepaintNow();
+  void Hear(ui::Sound sound);
 
   // The stage of the views.
   ui::Desk& Desk() override { return desk_; }
@@ -87,7 +96,7 @@ class Window : public QMainWindow, public Stage {
     QPointer<Veil> Over;
   };
   using Held = std::shared_ptr<ui::Screen>;
-  /// Which screens of the desk are to be seen.
+  /// Which screens of the desk are visible.
   struct Scene {
     Held Base, Hub;
     std::vector<Held> Dialogs;
@@ -122,17 +131,21 @@ class Window : public QMainWindow, public Stage {
   /// Whether the side bar may be used: no dialog lies over it.
   bool HubInReach() const;
   bool PressSideKey(const QKeyEvent& event);
+  /// Presses the button of the top screen that has this key.
+  bool PressButtonKey(const QKeyEvent& event);
   void OpenFinder();
   std::vector<Finder::Entry> FinderEntries();
   void Remember(const Finder::Entry& chosen);
 
-  // Keys and the window's own commands, in windowkeys.cpp.
+  // Keys and the window's own commands, in windowkeys.cpp and windowcommands.cpp.
   struct OwnCommand {
     std::vector<int> Keys;  // with Ctrl
     QString Words, Key;     // as they are found; without words it is not
     std::function<void()> Run;
   };
   std::vector<OwnCommand> OwnCommands();
+  std::vector<OwnCommand> KeyedCommands();
+  std::vector<OwnCommand> SettingCommands();
   bool HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event);
   /// What Enter presses at present; nullptr for nothing.
   ui::Button* EnterButton() const;
@@ -145,9 +158,7 @@ class Window : public QMainWindow, public Stage {
   void OpenOptions();
   // What the page tells, for elsewhere; in sharing.cpp.
   std::vector<OwnCommand> SharingCommands();
-  void CopyPage(ui::Form form);
-  void CopyPicture();
-  void SavePage();
+  void SavePage(const Shareable& shared);
   bool SwallowWhileBusy(QObject* watched, QEvent* event);
 
   WindowDesk& desk_;
@@ -165,6 +176,7 @@ class Window : public QMainWindow, public Stage {
   QPointer<QLabel> hint_;
   std::map<std::string, std::string> commandOf_;  // screen to the command that opens it
   int acting_ = 0;
+  std::set<ui::Sound> heard_;  // in the event that is under way
   bool syncing_ = false, busy_ = false, closing_ = false;
   QElapsedTimer lastPaint_;
   QElapsedTimer waiting_;

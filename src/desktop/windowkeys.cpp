@@ -1,13 +1,14 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <algorithm>
 
 #include "desktop/pieces.h"
 #include "desktop/window.h"
-#include "desktop/windowoptions.h"
 
-// The keys that mean the same everywhere, and input that comes at the wrong time.
+// The keys that mean the same everywhere or belong to a button, and input that comes at the wrong
+// time.
 
 namespace grapplemont::desktop {
 
@@ -52,29 +53,19 @@ void Window::ShowEnter() {
   if (frame_) frame_->Top().SetEnter(pressed);
 }
 
-/// What the window does by itself, with Ctrl and a key or by search.
-std::vector<Window::OwnCommand> Window::OwnCommands() {
-  const bool dark = IsDark(settings_.Colours());
-  const auto colours = [this](Scheme scheme) { return [this, scheme] { SetColours(scheme); }; };
-  return {
-      {{Qt::Key_Comma}, "Window options", "Ctrl ,", [this] { OpenOptions(); }},
-      {{}, "Full screen", "F11", [this] { TurnFullScreen(); }},
-      {{}, "High contrast", {}, colours(Scheme::Contrast)},
-      {{}, "Colours as the desktop has them", {}, colours(Scheme::System)},
-      {{},
-       settings_.Still() ? "Let the cursor blink" : "Nothing moves by itself",
-       {},
-       [this] { SetStill(!settings_.Still()); }},
-      {{Qt::Key_K}, {}, {}, [this] { OpenFinder(); }},
-      {{Qt::Key_L}, dark ? "Light colours" : "Dark colours", "Ctrl L", [this] { TurnColours(); }},
-      {{Qt::Key_Plus, Qt::Key_Equal},
-       "Larger text",
-       "Ctrl +",
-       [this] { SetZoom(settings_.Zoom() + 1); }},
-      {{Qt::Key_Minus}, "Smaller text", "Ctrl -", [this] { SetZoom(settings_.Zoom() - 1); }},
-      {{Qt::Key_0}, "Text as the desktop has it", "Ctrl 0", [this] { SetZoom(0); }},
-      {{}, "Help for this page", "F1", [this] { OpenHelp(); }},
-      {{}, "Glossary", {}, [this] { OpenGlossary({}); }}};
+bool Window::PressButtonKey(const QKeyEvent& event) {
+  ScreenView* const top = TopView();
+  if (!top || event.isAutoRepeat()) return false;
+  const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier,
+                                static_cast<Qt::Key>(event.key()));
+  for (ui::Control* control : top->Shows().Controls()) {
+    auto* const button = dynamic_cast<ui::Button*>(control);
+    if (!button || button->Key.empty() || !button->Visible) continue;
+    if (QKeySequence(Shown(button->Key))[0] != pressed) continue;
+    if (!top->Press(button)) Hint(*this, Shown(button->Tip.Get()));
+    return true;
+  }
+  return false;
 }
 
 bool Window::HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event) {
@@ -93,7 +84,7 @@ bool Window::HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event) {
     TurnFullScreen();
     return true;
   }
-  if (PressSideKey(event)) return true;
+  if (PressButtonKey(event) || PressSideKey(event)) return true;
   if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier)) return false;
   if (event.key() == Qt::Key_F) return TopView() && TopView()->FocusSearch();
   for (const OwnCommand& own : OwnCommands())
@@ -102,72 +93,6 @@ bool Window::HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event) {
       return true;
     }
   return false;
-}
-
-void Window::OpenHelp() {
-  Act([this] {
-    desk_.OpenHelp();
-    return std::string();
-  });
-}
-
-void Window::OpenGlossary(const std::string& term) {
-  Act([&] {
-    desk_.OpenGlossary(term);
-    return std::string();
-  });
-}
-
-void Window::TurnColours() {
-  SetColours(IsDark(settings_.Colours()) ? Scheme::Light : Scheme::Dark);
-}
-
-void Window::SetColours(Scheme scheme) {
-  settings_.SetColours(scheme);
-  Relook();
-}
-
-void Window::TurnFullScreen() {
-  setWindowState(windowState() ^ Qt::WindowFullScreen);
-}
-
-void Window::SetStill(bool still) {
-  static const int kUsualBlink = QApplication::cursorFlashTime();
-  settings_.SetStill(still);
-  QApplication::setCursorFlashTime(still ? 0 : kUsualBlink);
-}
-
-void Window::OpenOptions() {
-  if (desk_.Top() && desk_.Top()->Name() == kWindowOptions) return;
-  std::vector<KeyedCommand> commands;
-  if (const ScreenView* hub = HubView())
-    for (const auto& group : hub->Page().Side)
-      for (const auto& command : group.Commands)
-        commands.push_back({command.Press->Name(), command.Press->Text.Get(), command.Key});
-  Act([&] {
-    desk_.Event([&] { desk_.Open(NewWindowOptions(desk_, *this, std::move(commands))); });
-    return std::string();
-  });
-}
-
-void Window::SetZoom(int zoom) {
-  const int text = std::clamp(DesktopText() + zoom, kSmallestText, kLargestText);
-  settings_.SetZoom(text - DesktopText());
-  Relook();
-}
-
-void Window::SetLook(Scheme scheme, int zoom) {
-  settings_.SetColours(scheme);
-  SetZoom(zoom);
-}
-
-void Window::Relook() {
-  const ui::Control* const keyboard = TopView() ? TopView()->KeyboardOn() : nullptr;
-  RetireAll();
-  ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
-  setPalette(QApplication::palette());
-  Sync();
-  if (keyboard && TopView()) TopView()->GiveKeyboard(*keyboard);
 }
 
 namespace {

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "desktop/window.h"
+#include "records/fields/fields.h"
 
 namespace grapplemont::desktop {
 
@@ -13,8 +14,7 @@ namespace {
 
 /// In the order of Scheme.
 constexpr const char* kThemes[] = {"As the desktop has it", "Dark", "Light", "High contrast"};
-constexpr int kTexts[] = {85, 100, 115, 130, 150, 175, 200};   // percent of the usual size
-constexpr int kScales[] = {75, 100, 125, 150, 175, 200, 250};  // percent
+constexpr int kTexts[] = {85, 100, 115, 130, 150, 175, 200};  // percent of the usual size
 /// Keys that the window itself knows, beside all letters without Ctrl or Alt.
 constexpr const char* kTaken[] = {"F1",     "F11",    "Ctrl+K", "Ctrl+L",      "Ctrl+F", "Ctrl++",
                                   "Ctrl+-", "Ctrl+0", "Ctrl+,", "Ctrl+Return", "Ctrl+C", "Ctrl+V",
@@ -38,6 +38,7 @@ class frmWindow : public ui::Screen {
     for (const char* theme : kThemes) cmbtheme.Add(theme);
     for (const int text : kTexts) cmbtext.Add(std::to_string(text) + "%", text);
     for (const int scale : kScales) cmbscale.Add(std::to_string(scale) + "%", scale);
+    for (const DateFormName& form : kDateForms) cmbdates.Add(form.Words);
     cmbscale.Tip = "Counts from the next start of the game on.";
     lstkeys.EmptyText = "The keys of the side bar are set while a game is open.";
   }
@@ -49,7 +50,9 @@ class frmWindow : public ui::Screen {
     page.Cancel = &cmdback;
     page.Body = ui::Columns(
         {ui::Rows({ui::Group("Look", {ui::Field("Colours", cmbtheme), ui::Field("Text", cmbtext),
-                                      ui::Field("Window scale", cmbscale), chkfull, chkstill})})
+                                      ui::Field("Window scale", cmbscale), chkfull, chkstill}),
+                   ui::Group("Dates", {ui::Field("Written", cmbdates), lblsample}),
+                   ui::Group("Sound", {chksound, ui::Field("Volume", hsvolume)})})
              .Grow(2),
          ui::Group("Keys", {ui::Grow(lstkeys)}).Grow(3)});
     return page;
@@ -64,6 +67,10 @@ class frmWindow : public ui::Screen {
     cmbscale.SelectKey(kept.Scale());
     chkfull.Checked = window_.isFullScreen();
     chkstill.Checked = kept.Still();
+    cmbdates.Select(static_cast<int>(kept.Dates()) + 1);
+    chksound.Checked = kept.Sounds();
+    hsvolume.Value = kept.Volume();
+    ShowVolume();
     ShowKeys();
   }
 
@@ -89,7 +96,17 @@ class frmWindow : public ui::Screen {
     const int pixels = static_cast<int>(std::lround(kUsualText * cmbtext.Key() / 100.0));
     window_.SetZoom(pixels - DesktopText());
   }
-  void cmbscale_Click() { window_.Kept().SetScale(cmbscale.Key()); }
+  void cmbscale_Click() { window_.SetScale(cmbscale.Key()); }
+  void cmbdates_Click() { window_.SetDates(static_cast<DateForm>(cmbdates.Selected() - 1)); }
+  void chksound_Click() {
+    window_.SetSounds(chksound.Checked);
+    ShowVolume();
+  }
+  void hsvolume_Change() { window_.SetVolume(hsvolume.Value); }
+  void ShowVolume() {
+    hsvolume.Enabled = chksound.Checked.Get();
+    hsvolume.Tip = chksound.Checked ? "" : "Turn the sound on first.";
+  }
   void chkfull_Click() { window_.TurnFullScreen(); }
   void chkstill_Click() { window_.SetStill(chkstill.Checked); }
 
@@ -136,6 +153,12 @@ class frmWindow : public ui::Screen {
   ui::CheckBox chkfull{*this, "chkfull", "Full screen (F11)", false, &frmWindow::chkfull_Click};
   ui::CheckBox chkstill{*this, "chkstill", "Nothing moves by itself", false,
                         &frmWindow::chkstill_Click};
+  ui::ComboBox cmbdates{*this, "cmbdates", &frmWindow::cmbdates_Click};
+  /// A date to see the form by.
+  ui::Label lblsample{*this, "lblsample", LongDate(Day{std::chrono::year{2002} / 7 / 8})};
+  ui::CheckBox chksound{*this, "chksound", "A bell and a crowd at your shows", false,
+                        &frmWindow::chksound_Click};
+  ui::ScrollBar hsvolume{*this, "hsvolume", 0, 100, &frmWindow::hsvolume_Change};
   ui::ListBox lstkeys{
       *this, "lstkeys", {{"Command", ui::ColumnKind::Text, 3}, {"Key", ui::ColumnKind::Text, 1}}};
   ui::Button cmdkey{*this, "cmdkey", "Change Key", &frmWindow::cmdkey_Click};

@@ -15,9 +15,13 @@ struct KeyedCommand {
   std::string Name, Caption, Usual;
 };
 
+/// Scales of the whole window to choose from, in percent.
+inline constexpr int kScales[] = {75, 100, 125, 150, 175, 200, 250};
+
 inline constexpr const char* kWindowOptions = "frmWindow";
 
-/// What can be set about the window: colours, sizes, what moves, keys.
+/// What can be set about the window: colours, sizes, what moves, sound, how dates are written,
+/// keys.
 std::unique_ptr<ui::Screen> NewWindowOptions(ui::Desk& desk, Window& window,
                                              std::vector<KeyedCommand> commands);
 

@@ -17,7 +17,7 @@ struct Choice {
 };
 
 /// What may stand in the field of this record as it is, by name; "None" is not among them. A
-/// commentator who is a worker has the negative of his uid.
+/// commentator who is a worker has the negative of their uid.
 std::vector<Choice> ChoicesFor(const World& world, RecordKind kind, const FieldPlace& place,
                                const std::byte* record);
 /// Whether what may stand there hangs on the record's other fields.

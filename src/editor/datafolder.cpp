@@ -67,7 +67,7 @@ void DataFolder::Read() {
     const Disk::Kind kind = disk_.Look(path);
     if (kind == Disk::Kind::Nothing) continue;
     if (kind != Disk::Kind::File) {
-      unreadable_.push_back({name, name + " is no plain file."});
+      unreadable_.push_back({name, name + " is not a plain file."});
     } else if (auto bytes = ReadWithin(disk_, path, MostBytesOf(name))) {
       files.emplace(name, *std::move(bytes));
     } else {

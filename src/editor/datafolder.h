@@ -30,7 +30,7 @@ struct UnreadableFile {
 class DataFolder {
  public:
   /// Opens the folder; a commit or restore that was cut short is brought to its end first. Throws
-  /// DataBusy, DiskError, and WorldFault where there is no folder.
+  /// DataBusy, DiskError, and WorldFault where there is not a folder.
   DataFolder(Disk& disk, std::string folder);
   ~DataFolder();
   DataFolder(const DataFolder&) = delete;
@@ -39,7 +39,7 @@ class DataFolder {
   grapplemont::World& World() { return world_; }
   const grapplemont::World& World() const { return world_; }
   const std::string& Folder() const { return folder_; }
-  /// Files that are too long or no plain files. Their records are missing in the World.
+  /// Files that are too long or not plain files. Their records are missing in the World.
   const std::vector<UnreadableFile>& Unreadable() const { return unreadable_; }
   bool IsReadable(std::string_view file) const;
 
@@ -54,7 +54,7 @@ class DataFolder {
   bool HasBackup() const;
   /// The backup and the data change places: what the data were becomes the backup, so that another
   /// restore undoes this one. False when both are the same, and nothing was done. Requires a
-  /// backup, and nothing uncommitted. Throws as Commit, and WorldFault for a backup that is none.
+  /// backup, and nothing uncommitted. Throws as Commit, and WorldFault for an invalid backup.
   bool Restore();
 
  private:
@@ -62,7 +62,7 @@ class DataFolder {
 
   std::string BackupFolder() const { return folder_ + ".backup"; }
   std::string Lock() const { return folder_ + ".lock"; }
-  /// The files as they are on disk, but for those that cannot be read.
+  /// The files as they are on disk, except those that cannot be read.
   std::map<std::string, Bytes> FilesNow() const;
   void Read();
   void KeepBackup(const std::map<std::string, Bytes>& files);

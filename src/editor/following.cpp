@@ -101,7 +101,7 @@ void FollowSplits(World& world, const Promotion& old, const Promotion& now) {
   }
 }
 
-/// Nobody talks beside the ring of a promotion that he has left.
+/// Nobody talks beside the ring of a promotion that they have left.
 template <class T>
 void LeaveShows(World& world, const T& who, std::vector<std::string>& also) {
   constexpr bool isWorker = std::is_same_v<T, Worker>;

@@ -138,7 +138,7 @@ int Put(World& world, RecordKind kind, int number, const Bytes& bytes) {
   });
 }
 
-/// What a field of a new record holds, where the table's default is no sensible beginning.
+/// What a field of a new record holds, where the table's default is not a sensible beginning.
 struct Beginning {
   std::string_view Field;
   int Number;

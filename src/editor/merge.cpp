@@ -53,7 +53,7 @@ void MendArrivals(World& world, Arrivals& arrivals) {
 }
 
 void MakeFreeAgent(World& world, Worker& worker) {
-  worker.Employer = 0;  // of the other world: nobody here lost him
+  worker.Employer = 0;  // of the other world: nobody here lost them
   SeverWorker(world, worker);
   worker.CreativeControl = false;
   worker.Split = "None";
@@ -148,7 +148,7 @@ class Merger {
                                      : nullptr;
   }
 
-  /// Where the fields of a record lead once everybody has his uid.
+  /// Where the fields of a record lead once everybody has their uid.
   template <class T>
   void FollowRecord(T& record, int number, const std::string& file) {
     auto* bytes = reinterpret_cast<std::byte*>(&record);

@@ -121,8 +121,8 @@ class Entrance {
     row.Becomes = row.Uid;
     if (row.Uid < 1 || free_.Has(row.Uid)) {
       row.Comes = Fate::Renumbered;
-      row.Why =
-          row.Uid < 1 ? "Its uid is none." : "Its uid belongs to " + Shown(holders_[row.Uid]) + ".";
+      row.Why = row.Uid < 1 ? "Its uid is invalid."
+                            : "Its uid belongs to " + Shown(holders_[row.Uid]) + ".";
       row.Becomes = free_.Take();
     }
     free_.Mark(row.Becomes);

@@ -32,7 +32,7 @@ void ReadWhole(FileBytes& file, Disk& disk, const std::string& path, const std::
   } else if (surplus != 0) {
     file.Whole.resize(file.Whole.size() - surplus);
     file.Remark = name + " ends in " + std::to_string(surplus) +
-                  " bytes that are no whole record; they are left aside.";
+                  " bytes that are not a whole record; they are left aside.";
   }
 }
 
@@ -54,7 +54,7 @@ FileBytes ReadFileBytes(Disk& disk, const std::string& folder, const std::string
     if (kind == Disk::Kind::File)
       ReadWhole(file, disk, path, name, layout);
     else if (file.Exists)
-      file.Remark = name + " is no plain file and is left aside.";
+      file.Remark = name + " is not a plain file and is left aside.";
   } catch (const DiskError& fault) {
     file.Whole.clear();
     file.Remark = fault.what();
@@ -82,7 +82,7 @@ std::vector<RecordCount> CountsOf(const World& now, const World* then) {
 TablesPreview LookAtTables(Disk& disk, const std::string& folder, const World& data) {
   TablesPreview preview;
   if (!IsFolder(disk, folder)) {
-    preview.WhyNot = ForScreen(folder) + " is no folder.";
+    preview.WhyNot = ForScreen(folder) + " is not a folder.";
     return preview;
   }
   const Tables tables = ReadTables(disk, folder);

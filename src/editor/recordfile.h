@@ -57,7 +57,7 @@ std::vector<RecordCount> CountsOf(const World& now, const World* then);
 
 /// Tables looked at before they take the place of the data.
 struct TablesPreview {
-  std::string WhyNot;                 // the folder is none, or its tables are of no use here
+  std::string WhyNot;                 // the folder is missing, or its tables are of no use here
   std::vector<std::string> Mistakes;  // what is wrong in them, a line each
   std::optional<World> Made;          // when nothing is
   std::vector<RecordCount> Counts;

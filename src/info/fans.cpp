@@ -128,7 +128,7 @@ void AddPlayers(const World& world, std::vector<ShowSeen>& shows) {
                    [](const ShowSeen& a, const ShowSeen& b) { return a.On > b.On; });
 }
 
-/// What a rival has last done on the air or at an Event, of late.
+/// What a rival has last done on the air or at an Event, lately.
 const Deed* LastHeldBy(const World& world, int promotionUid) {
   for (int number = world.Deeds().Count(); number >= 1; --number) {
     const Deed& deed = world.Deeds()[number];

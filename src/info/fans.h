@@ -28,7 +28,7 @@ struct ShowSeen {
   std::string Star;  // the most popular of those who were there; empty where nobody is known
 };
 /// The player's last show and Event, then the last shows of the three biggest rivals that have held
-/// one of late; each within the last two months.
+/// one lately; each within the last two months.
 std::vector<ShowSeen> ShowsSeen(const World& world);
 
 struct FanPost {

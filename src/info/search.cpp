@@ -20,7 +20,7 @@ constexpr int kInside = 3;      // the letters stand inside a word
 constexpr int kTypo = 10;       // a wrong letter is worse than any place in the name
 constexpr int kWorkless = 200;  // behind everybody who works somewhere
 
-/// A letter without its accent, small; a blank for what is no letter.
+/// A letter without its accent, small; a blank for what is not a letter.
 char Plain(char letter) {
   static constexpr std::string_view kBare =
       "aaaaaaaceeeeiiiidnooooo ouuuuypsaaaaaaaceeeeiiiidnooooo ouuuuypy";

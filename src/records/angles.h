@@ -14,7 +14,7 @@ inline constexpr int kAngles = static_cast<int>(std::size(kAllAngles));
 inline std::span<const Angle> AllAngles() {
   return kAllAngles;
 }
-/// nullptr for a number that is none.
+/// nullptr for an unknown number.
 inline const Angle* FindAngle(int number) {
   return number >= 1 && number <= kAngles ? &kAllAngles[number - 1] : nullptr;
 }

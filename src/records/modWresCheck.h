@@ -20,7 +20,7 @@ int NextSponsorUid(const World& world);
 bool WorkerNameFree(const World& world, std::string_view name);
 bool StaffNameFree(const World& world, std::string_view name);
 
-/// Whether the player's promotion employs him. Nobody works for a player without one.
+/// Whether the player's promotion employs them. Nobody works for a player without one.
 bool WorksForPlayer(const World& world, const Worker& worker);
 bool WorksForPlayer(const World& world, const Staff& staff);
 /// "None" for uid 0 and for a uid that leads nowhere.

@@ -28,7 +28,7 @@ struct Act {
 };
 
 /// Everything that is done in the finish and in the aftermath that a match of 1 vs 1 or of 2 vs 2
-/// is booked with, in that order; nothing for what is no such match.
+/// is booked with, in that order; nothing for what is not such a match.
 std::vector<Act> ActsOf(const Segment& segment);
 
 }  // namespace grapplemont

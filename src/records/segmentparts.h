@@ -14,7 +14,7 @@ enum class Part {
   LosersPartner,  // of a 2 vs 2 match
   WinningTeam,    // in a draw the first
   LosingTeam,     // in a draw the second
-  Attacked,       // by the run-ins of the finish: the loser, unless they meant to help him
+  Attacked,       // by the run-ins of the finish: the loser, unless they meant to help them
   AttackedTeam,   // nobody in a draw
   Helped,         // whom those run-ins meant to help; nobody where nobody runs in for a side
   HelpedTeam,

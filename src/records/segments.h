@@ -29,7 +29,7 @@ Phrases PurposesOf(int style);
 
 /// nullptr for nobody.
 const Worker* WorkerAt(const World& world, const Segment& segment, int place);
-/// How many take part in a match; 0 for what is no match.
+/// How many take part in a match; 0 for what is not a match.
 int EntrantsOf(const Segment& segment);
 /// The uids of all who take part by the Segment's places, in their order, without the empty ones:
 /// a match's entrants, an interview's speakers and targets, an angle's people.

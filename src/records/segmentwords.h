@@ -47,7 +47,7 @@ struct Phrase {
 };
 using Phrases = std::span<const Phrase>;
 
-/// How an interview's people stand in Segment.Worker: so many speakers, then so many targets.
+/// How an interview's people stand in Segment.Worker: first its speakers, then its targets.
 struct InterviewStyleRow {
   int Code;
   std::string_view Says;

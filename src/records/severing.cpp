@@ -31,15 +31,15 @@ int LossOf(const Title& title, TitleLoss loss) {
 /// The job offer among the incidents names a promotion.
 constexpr int kJobOfferIncident = 6;
 
-/// Nobody stands where he stood.
+/// Nobody stands where they stood.
 template <class Places>
 void LeavePlaces(Places& places, int uid) {
   std::replace_if(
       places.begin(), places.end(), [=](const Word& place) { return place == uid; }, Word());
 }
 
-/// What is booked with him is booked no more. A place that the style does not look at may still
-/// name him.
+/// What is booked with them is booked no more. A place that the style does not look at may still
+/// name them.
 void LeaveSegment(Segment& segment, int workerUid) {
   if (TakesPart(segment, workerUid)) segment = EmptySegment();
   LeavePlaces(segment.Worker, workerUid);
@@ -79,7 +79,7 @@ void LoseClients(World& world, const std::set<int>& managerUids) {
 
 namespace {
 
-/// What tells of him keeps his name, since his uid may be another's one day.
+/// What tells of them keeps their name, since their uid may be another's one day.
 void ForgetInThePast(World& world, int uid) {
   const auto clear = [uid](auto&... places) { ((places = places == uid ? 0 : int(places)), ...); };
   for (HeldMatch& bout : world.Bouts()) {

@@ -7,37 +7,37 @@
 
 namespace grapplemont {
 
-/// The worker leaves his employer for any reason: contract, stable, manager, feuds, Titles and
-/// commentary end. His place in development or camp becomes the roster position that his Over
+/// The worker leaves their employer for any reason: contract, stable, manager, feuds, Titles and
+/// commentary end. Their place in development or camp becomes the roster position that their Over
 /// earns.
 void SeverWorker(World& world, Worker& worker);
-/// The member of staff leaves his employer for any reason: contract, camp, territory and the
+/// The member of staff leaves their employer for any reason: contract, camp, territory and the
 /// announcer's chair of the player's shows.
 void SeverStaff(World& world, Staff& staff);
-/// The same for one who is fired, hired away or has served his time: no show anywhere keeps him,
+/// The same for one who is fired, hired away or has served their time: no show anywhere keeps them,
 /// neither as its announcer nor beside one.
 void DismissStaff(World& world, Staff& staff);
-/// Whatever else knows somebody who leaves the world for good loses him: teams end, clients are
-/// without their manager, shows without their voice, the shortlist forgets him, and so do the
-/// incidents of the day and what is booked with him; the past keeps his name alone. Requires that
-/// he has no employer any more.
+/// Whatever else knows somebody who leaves the world for good loses them: teams end, clients are
+/// without their manager, shows without their voice, the shortlist forgets them, and so do the
+/// incidents of the day and what is booked with them; the past keeps their name alone. Requires
+/// that they have no employer any more.
 void ForgetWorker(World& world, const Worker& worker);
 
-/// The roster position 2 to 6 that a worker out of development or camp gets from his Over.
+/// The roster position 2 to 6 that a worker out of development or camp gets from their Over.
 int PositionFromOver(int over);
-/// Ends a posting to development or camp: the roster position he came from, or the one he has
+/// Ends a posting to development or camp: the roster position they came from, or the one they have
 /// earned.
 void EndPosting(Worker& worker);
 /// The contract ends, and with it what came of it: stable, manager, a turn in preparation. Whoever
 /// sat it out is fit and in good spirits again.
 void EndContract(Worker& worker);
-/// No promotion has him as its Commissioner any more.
+/// No promotion has them as its Commissioner any more.
 void LeaveOffice(World& world, int workerUid);
 /// Nobody has one of them as a manager any more. It looks at everybody: call it once for many.
 void LoseClients(World& world, const std::set<int>& managerUids);
-/// The player's shows lose him as their colour commentator.
+/// The player's shows lose them as their colour commentator.
 void LeaveCommentary(World& world, int workerUid);
-/// All shows lose him, as announcer and as colour commentator.
+/// All shows lose them, as announcer and as colour commentator.
 void LeaveMicrophones(World& world, const Worker& worker);
 void LeaveMicrophones(World& world, const Staff& staff);
 /// Takes all four participants out of every feud that names the worker.
@@ -46,7 +46,7 @@ void LeaveFeuds(World& world, int workerUid);
 enum class TitleLoss { Twenty, ATenth };
 /// Vacates the Title: no holder, less image, a new reign of "Vacant" from today.
 void VacateTitle(World& world, Title& title, TitleLoss loss = TitleLoss::Twenty);
-/// Every Title that he holds, alone or with a partner.
+/// Every Title that they hold, alone or with a partner.
 void VacateTitlesOf(World& world, int workerUid, TitleLoss loss = TitleLoss::Twenty);
 
 // What removes the records of the gone. A Promotion or Show that has ceased to exist carries "To Be

@@ -121,7 +121,7 @@ std::map<std::string, Bytes> ReadWorldFiles(Disk& disk, const std::string& folde
     const Disk::Kind kind = disk.Look(path);
     if (kind == Disk::Kind::Nothing) continue;
     if (kind != Disk::Kind::File)
-      throw WorldFault(ForScreen(path) + " is no plain file. Put the real file in its place.");
+      throw WorldFault(ForScreen(path) + " is not a plain file. Put the real file in its place.");
     if (known.Fleeting) {
       files.emplace(known.Name, ReadStart(disk, path, known.MostBytes()));
       continue;

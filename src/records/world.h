@@ -99,7 +99,7 @@ class World {
   const Records<YearAward>& Awards() const { return Of<YearAward>(); }
   Records<YearEnd>& YearEnds() { return Of<YearEnd>(); }
   const Records<YearEnd>& YearEnds() const { return Of<YearEnd>(); }
-  /// What the wrestling world has done of late, oldest first.
+  /// What the wrestling world has done lately, oldest first.
   Records<Deed>& Deeds() { return Of<Deed>(); }
   const Records<Deed>& Deeds() const { return Of<Deed>(); }
   /// One record where the game has a guide, else none.
@@ -220,7 +220,7 @@ inline constexpr std::array<std::string_view, 10> kDataSet = {
     "stables.dat", "staff.dat", "teams.dat",   "tv.dat",     "wrestler.dat"};
 
 /// Reads the known files of a folder; others are left alone. A step that stands beside it counts
-/// (datastep.h). Throws DiskError, and WorldFault for a file that is too long or is none (a folder,
+/// (datastep.h). Throws DiskError, and WorldFault for what is too long or not a file (a folder,
 /// a link).
 std::map<std::string, Bytes> ReadWorldFiles(Disk& disk, const std::string& folder);
 

@@ -13,7 +13,7 @@
 
 namespace grapplemont {
 
-/// "The Lamplighter", "Rafe Tolland", "QVD"; the first one's for a number that is none.
+/// "The Lamplighter", "Rafe Tolland", "QVD"; the first one's for an unknown number.
 std::string_view VoiceName(int voice);
 
 /// What the report knows beside the Segment itself.
@@ -42,7 +42,7 @@ class LineMemory {
 /// that a result never depends on it.
 std::string WriteReport(World& world, const Segment& segment, const Scene& scene,
                         LineMemory& memory);
-/// The second reporter's rating of a match; empty for the others and for what is no match. Draws
+/// The second reporter's rating of a match; empty for the others and for what is not a match. Draws
 /// from World::Prose.
 std::string Verdict(World& world, const Segment& segment, int overall);
 

@@ -84,7 +84,7 @@ struct BoutRow {
   bool ByTable = false;  // ends with the loser going through a table
 };
 
-/// In the order of kMatchTypes' styles and types. nullptr for a match that is none.
+/// In the order of kMatchTypes' styles and types. nullptr for an unknown match.
 const BoutRow* FindBout(int style, int type);
 
 }  // namespace grapplemont

@@ -165,7 +165,7 @@ bool IsRoomFor(const World& world) {
   return !world.Promotions().Full() && !world.AllStaff().Full();
 }
 
-/// He is the owner, of whatever style, and the promotion is as risky as that.
+/// They are the owner, of whatever style, and the promotion is as risky as that.
 void Employ(World& world, Promotion& promotion) {
   Staff owner;
   owner.Uid = NextStaffUid(world);

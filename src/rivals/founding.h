@@ -23,9 +23,9 @@ void AwaitStranger(World& world);
 
 /// What the stranger says when they meet, a paragraph a line.
 std::string StrangersWords(const World& world);
-/// He founds his promotion with his own money, is its owner and buys stars for it wherever they
-/// work, by a draw each from the most popular down; the game goes on. Nothing but that
-/// where no promotion fits into the world any more.
+/// They found their promotion with their own money, are its owner and buy stars for it wherever
+/// they work, by a draw each from the most popular down; the game goes on. Nothing but that where
+/// no promotion fits into the world any more.
 void MeetStranger(World& world);
 
 }  // namespace grapplemont

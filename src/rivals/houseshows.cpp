@@ -86,8 +86,8 @@ int ChampionsOver(const World& world, const Title& title) {
 }
 
 /// Each Title of a rival's that is not suspended: a vacant one finds champions if anybody may hold
-/// it, the other changes hands in so many of a hundred defences, the sooner the longer it has not.
-/// Draws of a hundred for a defence, then once for who wins.
+/// it, the other changes hands in this many of a hundred defences, the sooner the longer it has
+/// not. Draws of a hundred for a defence, then once for who wins.
 void DefendRivalTitles(World& world) {
   for (Title& title : world.Titles()) {
     const Promotion* owner = world.FindPromotion(title.Owner);

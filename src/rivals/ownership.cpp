@@ -17,7 +17,7 @@ constexpr int kAnybody = -1;
 constexpr int kNever = 0;
 
 /// An owner of more talent than Above, and of no more than the row before it, comes on a 1 of a
-/// draw of so many.
+/// draw of In.
 struct TalentBand {
   int Above;
   int In;
@@ -83,7 +83,7 @@ constexpr const char* kWelcomes[] = {
     "I have taken over, and I am building for ten years. Show me the young ones.",
 };
 
-// By the owner's style: how risky he wants his shows.
+// By the owner's style: how risky they want their shows.
 constexpr std::array<int, 6> kRisks = {70, 30, 10, 40, 85, 20};
 
 /// What a new boss writes to the player.
@@ -120,8 +120,8 @@ int SkillBeforeOver(int skill, const Worker& worker) {
   return (skill * 3 + worker.Over) / 4;
 }
 
-/// A Diva counts as if she could do everything, any other woman as half a star; a man has his
-/// popularity alone.
+/// A Diva counts as if she could do everything, any other woman as half a star; of a man popularity
+/// alone counts.
 int WomenFirst(const Worker& worker) {
   if (worker.Diva) return (worker.Over + 300) / 4;
   return (worker.Over + (worker.Gender ? 0 : 50)) / 2;

@@ -51,7 +51,7 @@ void RivalSponsorSigning(World& world);
 /// The first who is free and willing; nullptr for nobody.
 Sponsor* SponsorForRival(World& world, const Promotion& rival);
 // Mondays.
-/// Everybody who works for a rival stands on the card where his popularity puts him.
+/// Everybody who works for a rival stands on the card where their popularity puts them.
 void RivalPositions(World& world);
 /// A house show a week, and, the day after an Event, what became of the Titles there.
 void RivalHouseShows(World& world);

@@ -20,7 +20,7 @@ class Posts {
 };
 
 /// Fills every post that lacks people until a try fails, and fires one for each that it has too
-/// many. Draws of five for everybody on the market in the post, each try anew.
+/// many. Draws of five for everybody on the market in the post, again at each try.
 void FitPosts(World& world, const Promotion& rival, const Posts& posts);
 
 /// The free one with the highest talent among those looked at whom a promotion of this size takes.

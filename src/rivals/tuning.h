@@ -23,16 +23,16 @@ inline constexpr std::array<int, 6> kTopWage = {300, 100, 80, 60, 30, 20};
 /// that has more, and has gained twice, spends.
 inline constexpr int kMonthsInHand = 6;
 
-/// At the end of a contract the least wanted so many in a hundred are let go.
+/// At the end of a contract the least wanted are let go, this many in a hundred.
 inline constexpr int kNotRenewed = 15;
 /// Staff of less talent than this share of their post's best are not renewed, in percent.
 inline constexpr int kStaffNotRenewed = 40;
 
-/// New talent comes while fewer than so many workers in a hundred are free, so many a month at
+/// New talent comes while fewer than this many workers in a hundred are free, so many a month at
 /// most.
 inline constexpr int kFreeWanted = 27;
 inline constexpr int kNewTalentAMonth = 8;
-/// Whoever waits for work asks for so many percent less every month, down to this wage.
+/// Whoever waits for work asks for this many percent less every month, down to this wage.
 inline constexpr int kWaitingDiscount = 5;
 inline constexpr int kLeastAsked = 2;
 
@@ -46,7 +46,7 @@ inline constexpr int kHouseShowWear = 3;
 inline constexpr int kTitleRoster = 8;
 /// Image of a Title that is founded.
 inline constexpr std::array<int, 6> kNewTitleImage = {60, 50, 40, 30, 20, 10};
-/// A rival's champion loses an Event's defence so often in a hundred, by the days of his reign.
+/// A rival's champion loses an Event's defence so often in a hundred, by the days of their reign.
 struct LongReign {
   int From;
   int LosesIn100;
@@ -55,12 +55,12 @@ inline constexpr LongReign kLongReigns[] = {{180, 50}, {90, 35}, {45, 18}, {0, 4
 /// Among how many of the best the champion is found.
 inline constexpr int kContenders = 6;
 
-/// A rich stranger comes in one of so many months to a player who has been alone at the top for
+/// A rich stranger comes in one of this many months to a player who has been alone at the top for
 /// five month ends.
 inline constexpr int kStrangerIn = 6;
 inline constexpr int kStrangersMoney = 40000000;
-/// He buys so many stars of more than this Over, one in so many of those he asks, and no more than
-/// so many from any promotion.
+/// They buy this many stars of more than this Over, one in this many of those they ask, and no more
+/// than this many from any promotion.
 inline constexpr int kStrangersStars = 16;
 inline constexpr int kStarsOver = 50;
 inline constexpr int kStarsAskedFor1 = 4;

@@ -33,7 +33,8 @@ constexpr int kMoodSwing = 20;
 constexpr int kSigningsInARow = 10;
 constexpr int kAboveAllScores = 102;
 
-/// The well-behaved leave only for a promotion so many classes bigger than their own and one more.
+/// The well-behaved leave only for a promotion this many classes bigger than their own and one
+/// more.
 int LoyaltyInClasses(int behaviour) {
   return behaviour > 90 ? 2 : behaviour >= 60 ? 1 : 0;
 }
@@ -47,7 +48,7 @@ void TellOfFiring(World& world, const Promotion& rival, const Worker& worker) {
                 worker.Name.Str() + "!");
 }
 
-/// Finds a candidate and signs him; false for none.
+/// Finds a candidate and signs them; false for none.
 bool SignOne(World& world, const Promotion& rival, Taste taste, Rosters& rosters) {
   Worker* candidate = FindCandidate(world, rival, taste);
   if (!candidate) return false;
@@ -164,8 +165,8 @@ int ScoreToStay(const World& world, const Promotion& rival, Taste taste) {
   return scores[at];
 }
 
-/// Half of the way from what he has to what he is worth there; nobody who has to save pays more
-/// than before.
+/// Half of the way from what they have to what they are worth there; nobody who has to save pays
+/// more than before.
 int NextWage(const Worker& worker, const Promotion& rival) {
   const int fair = GoingRate(rival.Size, worker.Over);
   const int met = std::min((worker.Wage + fair + 1) / 2, kHighestWage);
@@ -213,7 +214,7 @@ void RenewStaff(World& world, const Promotion& rival) {
   }
 }
 
-/// How much more he costs than his popularity is worth there.
+/// How much more they cost than their popularity is worth there.
 int Overpaid(const Worker& worker, int size) {
   return worker.Wage - GoingRate(size, worker.Over);
 }

@@ -8,18 +8,19 @@
 
 namespace grapplemont {
 
-/// The limits of a rival's size: what he asks for, how popular he is.
+/// The limits of a rival's size: what they ask for, how popular they are.
 bool IsWithinLimits(const Worker& worker, int size);
-/// Whether he would leave his employer for a promotion of this size; somebody free always would.
+/// Whether they would leave their employer for a promotion of this size; somebody free always
+/// would.
 bool IsOpenTo(const World& world, const Worker& worker, int size);
 
 /// A walk over everybody who is not with the rival, a draw of ten each: the best of those looked at
 /// that may be had; nullptr for none.
 Worker* FindCandidate(World& world, const Promotion& rival, Taste taste);
-/// He comes to the rival, from the market or from whoever employs him, and the world hears of it.
+/// They come to the rival, from the market or from whoever employs them, and the world hears of it.
 void SignFor(World& world, const Promotion& rival, Worker& worker);
 
-/// Those of the main roster who would go first, so many at most, in the order in which they go.
+/// Those of the main roster who would go first, `most` at most, in the order in which they go.
 std::vector<Worker*> FindWeakest(World& world, int promotionUid, Taste taste, int most);
 /// They go to the market, and the world hears of it.
 void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& workers);

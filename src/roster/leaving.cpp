@@ -94,14 +94,14 @@ int SmallestFor(int over) {
   return over >= 20 ? kSmall : kBackyard;
 }
 
-/// Whether any promotion there is, the player's included, is big enough for him.
+/// Whether any promotion there is, the player's included, is big enough for them.
 bool HasMarket(const World& world, const Worker& worker) {
   const int smallest = SmallestFor(worker.Over);
   return std::ranges::any_of(
       world.Promotions(), [=](const Promotion& promotion) { return promotion.Size <= smallest; });
 }
 
-/// Why he would go; nullptr when he would rather stay.
+/// Why they would go; nullptr when they would rather stay.
 const char* ReasonToGo(const World& world, const Worker& worker) {
   const Promotion& own = world.Player();
   if (own.Money < 0)
@@ -117,7 +117,7 @@ int HalfOf(int months) {
   return (months - (months < 0)) / 2;
 }
 
-/// A settled man of good conduct, let down while he does not feel well, makes it known.
+/// A settled worker of good conduct, let down while they do not feel well, makes it known.
 bool IsBetrayed(const Worker& worker) {
   return worker.Morale < 70 && worker.Behaviour >= 81 && worker.Age >= 36;
 }

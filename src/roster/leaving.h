@@ -9,14 +9,14 @@
 namespace grapplemont {
 
 /// The worker leaves the player's roster: contract, stable, manager, clients, feuds, Titles and
-/// commentary end. Draws of 3; on a 1 the market reacts, and a rival who can pay him may sign him
+/// commentary end. Draws of 3; on a 1 the market reacts, and a rival who can pay them may sign them
 /// on the spot.
 void ReleaseWorker(World& world, Worker& worker);
-/// The same without the market: he leaves whoever employs him, and nothing is drawn. A Title that
-/// he held loses a tenth of its image.
+/// The same without the market: they leave whoever employs them, and nothing is drawn. A Title that
+/// they held loses a tenth of its image.
 void PartWith(World& world, Worker& worker);
 
-// Offering a worker to let him go: he takes it only where he has somewhere to go.
+// Offering a worker to let them go: they take it only where they have somewhere to go.
 
 struct ReleaseAnswer {
   std::vector<Remark> Remarks;
@@ -35,20 +35,21 @@ template <class Person>
 long long BuyOutCost(const World& world, const Person& person) {
   return BuyOutCost(world.Game().Difficulty, person.Wage, person.ContractMonths);
 }
-/// Pays it, whatever is in the bank, and he feels it.
+/// Pays it, whatever is in the bank, and they feel it.
 template <class Person>
 void BuyOut(World& world, Person& person) {
   world.Player().Money -= BuyOutCost(world, person);
   person.Loyalty -= 30;
 }
 
-/// How he would go.
+/// How they would go.
 enum class Parting { BuyOut, Verbal, Gladly };
 Parting PartingOf(const Worker& worker);
 Parting PartingOf(const Staff& staff);
 /// What the player is asked before it happens.
 std::string TerminationQuestion(const World& world, const Worker& worker);
-/// Pays, whatever is in the bank, lets him feel it, and releases him. Draws as ReleaseWorker does.
+/// Pays, whatever is in the bank, lets them feel it, and releases them. Draws as ReleaseWorker
+/// does.
 void Terminate(World& world, Worker& worker);
 
 }  // namespace grapplemont

@@ -33,12 +33,12 @@ std::span<const FilterFamily> MarketFilters();
 bool IsShortlisted(const World& world, int workerUid);
 /// Those who are still in the world, in the order in which they were noted.
 std::vector<const Worker*> Shortlisted(const World& world);
-/// Why he cannot be noted; empty when he can.
+/// Why they cannot be noted; empty when they can.
 std::string WhyNotShortlist(const World& world, const Worker& worker);
 /// Takes the first free place, or that of somebody who has left the world.
 void AddToShortlist(World& world, int workerUid);
 void RemoveFromShortlist(World& world, int workerUid);
-/// Where he works and how long he is bound, in a sentence.
+/// Where they work and how long they are bound, in a sentence.
 std::string MarketStanding(const World& world, const Worker& worker);
 
 }  // namespace grapplemont

@@ -36,7 +36,7 @@ bool IsBoundAndContent(const Worker& worker) {
   return worker.ContractType == "Wri" && worker.Morale >= 61 && worker.ContractMonths >= 1;
 }
 
-/// The better he behaves, the further the player must stand above his employer.
+/// The better they behave, the further the player must stand above their employer.
 std::string WhyStays(const World& world, const Worker& worker, int size) {
   const Promotion* employer = world.FindPromotion(worker.Employer);
   if (!employer || !IsBoundAndContent(worker)) return {};
@@ -136,7 +136,7 @@ std::string WhyNotCalled(const World& world, const Worker& worker, const Signing
   return why.empty() ? WhyNoName(shortName, Text<10>::kWidth) : why;
 }
 
-/// He gives up what he was and had where he comes from.
+/// They give up what they were and had where they come from.
 void LeaveFormer(World& world, const Worker& worker) {
   LeaveOffice(world, worker.Uid);
   LoseClients(world, {worker.Uid});

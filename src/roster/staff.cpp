@@ -15,7 +15,7 @@ namespace {
 struct Market {
   int TalentCeiling;
   int Worth;   // percent of the full price of talent
-  int Moves;   // percent by which a wage changes when he comes
+  int Moves;   // percent by which a wage changes when they come
   int Months;  // wanted
 };
 // By size, Global to Backyard.
@@ -111,7 +111,7 @@ constexpr StaffObjection kStaffObjections[] = {
      "For so many years i want a fifth on top."},
 };
 
-/// What his talent is worth to a promotion of this size, thousands of dollars a month.
+/// What their talent is worth to a promotion of this size, thousands of dollars a month.
 int WorthOf(int size, int talent) {
   return PercentOf(talent, BySize(kMarket, size).Worth) / kTalentPerThousand;
 }

@@ -14,7 +14,8 @@ inline constexpr int kHighestStaffWage = 100;  // thousands of dollars a month
 
 /// An agreement without an end, as Owners have it too.
 bool IsEndless(const Staff& staff);
-/// Why he cannot be talked with at all: an Owner, an agreement without an end. Empty when he can.
+/// Why they cannot be talked with at all: an Owner, an agreement without an end. Empty when they
+/// can.
 std::string WhyNoStaffTalks(const Staff& staff);
 
 /// The most talent that would work for a promotion of this size.
@@ -25,23 +26,23 @@ struct StaffDemands {
   bool Written = true;
   int Wage = 0;  // thousands of dollars a month
 };
-/// For staying with the player's promotion where he works there, else for coming.
+/// For staying with the player's promotion where they work there, else for coming.
 StaffDemands StaffDemandsOf(const World& world, const Staff& staff);
 
-/// What closes the talks before they begin, a whole sentence; empty while he will listen.
+/// What closes the talks before they begin, a whole sentence; empty while they will listen.
 std::string WhyNoStaffOffer(const World& world, const Staff& staff);
-/// Why he says no to an offer; empty when it is a deal.
+/// Why they say no to an offer; empty when it is a deal.
 std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
                             const ContractOffer& offer);
 
-/// He leaves whoever employs him and works for the player from now on, in better spirits.
+/// They leave whoever employs them and work for the player from now on, in better spirits.
 void HireStaff(World& world, Staff& staff, const ContractOffer& offer);
 
 // Ending the contract of a member of the player's staff before its time: as with workers.
 
 /// What the player is asked before it happens.
 std::string FiringQuestion(const World& world, const Staff& staff);
-/// Pays, whatever is in the bank, and lets him go.
+/// Pays, whatever is in the bank, and lets them go.
 void FireStaff(World& world, Staff& staff);
 
 // How many hands the posts of a promotion need.

@@ -68,7 +68,7 @@ int PositionWanted(int size, const Worker& worker) {
   return kMainEvent + static_cast<int>(claim - claims.begin());
 }
 
-/// From this age up a big promotion is asked for so many months.
+/// From this age up a big promotion is asked for this many months.
 struct AgeMonths {
   int From, Months;
 };

@@ -81,7 +81,7 @@ Demands ContractDemands(const World& world, const Worker& worker);
 
 // Talks with a worker of the player's about staying.
 
-/// What closes the talks before they begin, with his name in front; empty while he will listen.
+/// What closes the talks before they begin, with their name in front; empty while they will listen.
 std::string WhyNoRenewal(const Worker& worker);
 
 /// What an offer is held against.
@@ -92,7 +92,7 @@ struct RenewalTerms {
 };
 RenewalTerms RenewalTermsOf(const World& world, const Worker& worker);
 
-/// What he says to an offer, box by box, and whether it is a deal.
+/// What they say to an offer, box by box, and whether it is a deal.
 struct RenewalAnswer {
   std::vector<Remark> Remarks;
   bool Accepted = false;
@@ -100,7 +100,7 @@ struct RenewalAnswer {
 RenewalAnswer JudgeRenewal(const Worker& worker, const RenewalTerms& terms,
                            const ContractOffer& offer);
 
-/// Puts the offer into his contract.
+/// Puts the offer into their contract.
 void Renew(Worker& worker, const ContractOffer& offer);
 
 }  // namespace grapplemont

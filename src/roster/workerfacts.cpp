@@ -62,14 +62,14 @@ void Add(FactGroup& group, std::string line) {
   AddIf(group, true, std::move(line));
 }
 
-/// Whoever teaches him; nullptr for nobody.
+/// Whoever teaches them; nullptr for nobody.
 const Staff* TeacherOf(const World& world, const Worker& worker) {
   if (!WorksForPlayer(world, worker)) return nullptr;
   if (IsInDevelopment(worker)) return world.FindStaff(world.Player().DevBooker);
   return IsInCamp(worker) ? world.FindStaff(world.Player().HeadTrainer) : nullptr;
 }
 
-/// How far he can rise, as his teacher sees it; empty where nobody can tell.
+/// How far they can rise, as their teacher sees it; empty where nobody can tell.
 std::string PotentialWords(const World& world, const Worker& worker) {
   const Staff* teacher = TeacherOf(world, worker);
   if (!teacher) return {};
@@ -170,7 +170,7 @@ FactGroup Titles(const World& world, const Worker& worker) {
   return group;
 }
 
-/// How many of his matches the page tells.
+/// How many of their matches the page tells.
 constexpr int kMatchesTold = 6;
 
 std::string TeamLine(const World& world, const Team& team, const Worker& worker) {
@@ -181,7 +181,7 @@ std::string TeamLine(const World& world, const Team& team, const Worker& worker)
          std::to_string(team.Experience) + finisher + ".";
 }
 
-/// His stable, his Tag Teams, his manager and those whom he manages.
+/// Their stable, their Tag Teams, their manager and those whom they manage.
 std::vector<std::string> CompanyOf(const World& world, const Worker& worker) {
   std::vector<std::string> company;
   if (worker.Stable != "None" && !worker.Stable.View().empty())

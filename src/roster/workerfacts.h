@@ -13,12 +13,12 @@ struct FactGroup {
   std::vector<std::string> Lines;
 };
 
-/// All that a player may know of somebody, in words; groups without a line are left out. How far he
-/// can rise is told only of the player's people in the territory or the camp, by whoever teaches
-/// them there.
+/// All that a player may know of somebody, in words; groups without a line are left out. How far
+/// they can rise is known only of the player's people in the territory or the camp, by whoever
+/// teaches them there.
 std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker);
 
-/// The feuds that he is in, whatever side, a sentence each.
+/// The feuds that they are in, whatever side, a sentence each.
 std::vector<std::string> FeudsOf(const World& world, const Worker& worker);
 
 // What is known of a member of staff, in words.

@@ -120,7 +120,7 @@ bool IsOneOfPair(std::string_view holder, const Worker& worker) {
          worker.ShortName == holder.substr(parts + kAnd.size());
 }
 
-/// Whether a line of the Title's past tells of him.
+/// Whether a line of the Title's past tells of them.
 bool IsHis(const World& world, const Title& title, const Reign& reign, const Worker& worker) {
   if (reign.Holder == "None" || reign.Holder == kVacantHolder) return false;
   const bool lasts = &reign == &title.Reigns.front();

@@ -9,7 +9,7 @@
 
 namespace grapplemont {
 
-/// His matches for each promotion the player has run: "CWA: 12 won, 5 lost, 1 drawn, 4 for a
+/// Their matches for each promotion the player has run: "CWA: 12 won, 5 lost, 1 drawn, 4 for a
 /// Title. Rated 61% on average."
 std::vector<std::string> RecordLines(const World& world, const Worker& worker);
 /// A match as it went for one who was in it.
@@ -19,7 +19,7 @@ struct FormLine {
   std::string Against;  // the others as they were called
   int Opponent = 0;     // uid of the first of them; 0 for who has gone
 };
-/// His last matches, the latest first, at most so many.
+/// Their last matches, the latest first, at most `most`.
 std::vector<FormLine> FormOf(const World& world, const Worker& worker, int most);
 /// The name of the show that a match was held on; empty where the history does not know it.
 std::string ShowNameOf(const World& world, const HeldMatch& match);
@@ -34,11 +34,11 @@ std::vector<std::string> LastMatchLines(const World& world, const Worker& worker
 /// The awards of the years, the latest first: "Wrestler of the Year 2026".
 std::vector<std::string> AwardLines(const World& world, const Worker& worker);
 
-/// The Titles that he holds, alone or with a partner.
+/// The Titles that they hold, alone or with a partner.
 std::vector<const Title*> TitlesHeldBy(const World& world, int workerUid);
-/// All his reigns, the latest first: "CWA Crown, 03 March 2026 to 12 March 2026 (9 days)". Of a
+/// All their reigns, the latest first: "CWA Crown, 03 March 2026 to 12 March 2026 (9 days)". Of a
 /// game whose past was not kept yet, what the Titles' own records remember: "CWA Crown, since 03
-/// March 2026"; those go by names, so a reign under a former name is not his.
+/// March 2026"; those go by names, so a reign under a former name is not theirs.
 std::vector<std::string> ReignsOf(const World& world, const Worker& worker);
 
 }  // namespace grapplemont

@@ -74,7 +74,7 @@ std::string FindHome(Disk& disk) {
 std::string HomeAt(Disk& disk, const std::string& folder) {
   // Behind the "/." a link to a folder counts as the folder.
   if (folder.empty() || disk.Look(folder + "/.") != Disk::Kind::Folder)
-    throw std::runtime_error("\"" + folder + "\" is no folder.");
+    throw std::runtime_error("\"" + folder + "\" is not a folder.");
   return folder;
 }
 
@@ -138,7 +138,7 @@ SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
   if (standing.empty()) return {};
   const Disk::Kind kind = disk.Look(standing + "/" + name);
   if (kind == Disk::Kind::Folder || kind == Disk::Kind::Other)
-    return NotPlayable(kUnreadable, name + " is no plain file.");
+    return NotPlayable(kUnreadable, name + " is not a plain file.");
   const SlotContents files = ExamineSlot(disk, standing, KnownFiles()).Files;
   if (!files.contains(name)) return {};
   const auto found = LastOf<GameInfo>(files, [](const GameInfo&) { return true; });
@@ -166,7 +166,8 @@ std::string QuestionOfLeavings(Disk& disk, const std::string& folder) {
   std::string question = "No game is kept in this slot, but its folder is not empty.";
   if (!go.empty())
     question += "\nWhat is left of a game that cannot be loaded is deleted: " + Listed(go) + ".";
-  if (!stay.empty()) question += "\nWhat is no game's stays in the folder: " + Listed(stay) + ".";
+  if (!stay.empty())
+    question += "\nWhat belongs to no game stays in the folder: " + Listed(stay) + ".";
   return question + "\nBegin the new game here?";
 }
 

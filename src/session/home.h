@@ -14,7 +14,7 @@ namespace grapplemont {
 /// The folder that holds data/, gfx/ and the slots: the working directory if it has data/, else the
 /// user's data folder, filled from the installed files the first time.
 std::string FindHome(Disk& disk);
-/// A home that was named; throws std::runtime_error when it is no folder.
+/// A home that was named; throws std::runtime_error when it is not a folder.
 std::string HomeAt(Disk& disk, const std::string& folder);
 
 /// The pictures of a gallery that are there: set 0 is the program's own "VXM_load1.jpg" to

@@ -8,7 +8,7 @@
 #include "records/store/disk.h"
 
 // What a player does to saved games without playing them. Everything throws what the store throws:
-// SlotBusy while a game is being played, DiskError, WorldFault for a file that is no game.
+// SlotBusy while a game is being played, DiskError, WorldFault for a file that is not a game.
 
 namespace grapplemont {
 

@@ -20,7 +20,7 @@ enum class AngleFeud {
   TeamsLift,  // the same, and the heat stays
 };
 
-/// What else counts: the production; whoever is no diva; that there was something to see.
+/// What else counts: the production; whoever is not a diva; that there was something to see.
 enum class AngleExtra { None, Video, Divas, Spectacle };
 
 /// Somebody who does something to another; kNobody behind the last one of a list.
@@ -36,7 +36,7 @@ struct AngleRules {
   AngleExtra Extra;
   std::array<AnglePair, 2> Turns;
 };
-/// nullptr for a number that is no angle.
+/// nullptr for a number that is not an angle.
 const AngleRules* FindAngleRules(int number);
 
 }  // namespace grapplemont

@@ -122,12 +122,13 @@ void WarnOfTable(const World& world, const CommentaryTeam& team,
   if (!world.FindStaff(team.Announcer))
     warnings.emplace_back("There is no announcer.");
   else if (WithAnnouncer(world, team.Announcer, 0) < 0)
-    warnings.push_back(AnnouncerName(world, team) + " is no announcer for a show of this size.");
+    warnings.push_back(AnnouncerName(world, team) +
+                       " is not an announcer for a show of this size.");
   if (ColourName(world, team) == "None")
     warnings.emplace_back("There is no colour commentator.");
   else if (WithColour(world, team.Colour, team.ColourIsWorker, 0) < 0)
     warnings.push_back(ColourName(world, team) +
-                       " is no colour commentator for a show of this size.");
+                       " is not a colour commentator for a show of this size.");
   if (ProductionCharge(world.Player()) < 0)
     warnings.emplace_back("The production is too poor for a promotion of this size.");
 }

@@ -68,7 +68,7 @@ void TallyAngle(SegmentRun& run, const AngleRules& angle) {
   }
 }
 
-/// Only whoever is no diva costs something.
+/// Only whoever is not a diva costs something.
 void AddDivas(SegmentRun& run) {
   for (const int place : {1, 2}) {
     const Worker* worker = WorkerAt(run.World, run.Segment, place);

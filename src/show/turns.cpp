@@ -86,7 +86,7 @@ TurnOutcome RememberedTurn(World& world, const Worker& turner) {
   return TurnOutcome::Completed;
 }
 
-/// nullptr for a disposition that is none.
+/// nullptr for an unknown disposition.
 const TurnRow* FindTurn(const Worker& turner, const Worker& other) {
   const int turnerOver = turner.Over, otherOver = other.Over;
   for (const TurnRow& row : kTurns)
@@ -141,7 +141,7 @@ int FirstOf(const std::vector<int>& people) {
 }
 
 /// On whom the one who is to turn commits an act: a uid, or 0 for nobody; nothing where there
-/// is no act. Of several acts the first at which a turn can come off.
+/// is not an act. Of several acts the first at which a turn can come off.
 std::optional<int> VictimOf(const World& world, const Segment& segment, int turner) {
   std::optional<int> victim;
   const Worker* worker = world.FindWorker(turner);

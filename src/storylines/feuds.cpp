@@ -11,7 +11,7 @@ namespace grapplemont {
 
 namespace {
 
-/// An opponent is too low when he is more than this below the worker; teams count it per head.
+/// An opponent is too low when they are more than this below the worker; teams count it per head.
 constexpr int kLeagueGap = 20;
 
 constexpr int kContrastBonus = 10;

@@ -36,7 +36,7 @@ std::vector<const Worker*> Of(std::vector<const Worker*> people, Stays stays) {
   return people;
 }
 
-/// How long the fans remember a turn: up to so many days.
+/// How long the fans remember a turn, in days.
 constexpr std::pair<int, const char*> kMemories[] = {
     {90, "The fans will not care for another turn so soon."},
     {180, "The fans most likely remember the last turn, and would not care for another."},

@@ -59,9 +59,9 @@ int BookedFor(const World& world, std::string_view stable);
 /// Its members are in none then, and what is booked for it is taken off the sheet.
 void DissolveStable(World& world, std::string_view stable);
 
-/// Whether he belongs to any stable.
+/// Whether they belong to any stable.
 bool IsInStable(const Worker& worker);
-/// Why the worker cannot join; empty when he can.
+/// Why the worker cannot join; empty when they can.
 std::string WhyNotJoin(const World& world, std::string_view stable, const Worker& worker);
 
 /// The most popular active member, the lower uid where two are alike; nullptr for none.
@@ -69,20 +69,20 @@ const Worker* StableLeader(const World& world, std::string_view stable);
 
 // Who stands in whose corner.
 
-/// The player's managers, and his wrestlers who may have one; the most popular first.
+/// The player's managers, and their wrestlers who may have one; the most popular first.
 std::vector<const Worker*> Managers(const World& world);
 std::vector<const Worker*> Clients(const World& world);
 /// The manager who works for the player and manages this worker; nullptr for none.
 const Worker* ManagerOf(const World& world, const Worker& client);
-/// Everybody whom he manages.
+/// Everybody whom they manage.
 std::vector<const Worker*> ClientsOf(const World& world, const Worker& manager);
 
-/// Why he cannot be given to the client; empty when he can.
+/// Why they cannot be given to the client; empty when they can.
 std::string WhyNotManage(const Worker& manager, const Worker& client);
 
-// Turns in preparation. A booking that turns somebody only works once his turn has been prepared.
+// Turns in preparation. A booking that turns somebody only works once their turn has been prepared.
 
-/// Days since his last turn; -1 when he has never turned.
+/// Days since their last turn; -1 when they have never turned.
 int DaysSinceTurn(const World& world, const Worker& worker);
 /// What the fans would make of a turn so soon after the last.
 std::string TurnAdvice(const World& world, const Worker& worker);

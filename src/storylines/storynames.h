@@ -15,7 +15,7 @@ inline constexpr int kNameLetters = 25;
 /// Why this can be no name at all, of at most `letters`: it is blank, too long, more than a line,
 /// or a word that the files mean something by. Empty when it can.
 std::string WhyNoName(std::string_view name, int letters = kNameLetters);
-/// Why a name of any kind is no line of plain text; empty when it is one.
+/// Why a name of any kind is not a line of plain text; empty when it is one.
 std::string WhyNotPlain(std::string_view name);
 /// Without blanks at its ends.
 std::string_view TrimmedName(std::string_view name);

@@ -48,7 +48,8 @@ std::string WhyNotHold(const World& world, const Title& title, int uid) {
   const Worker* worker = world.FindWorker(uid);
   if (!worker) return title.Singles ? "Choose somebody first." : "Choose two workers first.";
   if (!FitsTitle(title, *worker)) return worker->Name + " is not eligible for this title!";
-  return MayHold(world, title, *worker) ? "" : worker->Name + " is no fit wrestler of yours.";
+  return MayHold(world, title, *worker) ? ""
+                                        : worker->Name + " is not a wrestler of yours who is fit.";
 }
 
 }  // namespace

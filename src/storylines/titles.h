@@ -27,7 +27,7 @@ bool IsPlayers(const World& world, const Title& title);
 std::string ChampionText(const World& world, const Title& title);
 /// "Singles", "Women's Tag, light" and so on.
 std::string KindText(const Title& title);
-/// Whether the worker's weight and sex allow him to hold it.
+/// Whether the worker's weight and sex allow them to hold it.
 bool FitsTitle(const Title& title, const Worker& worker);
 
 /// What keeps its holders from defending it, as "injured" or "no wrestler"; empty when nothing

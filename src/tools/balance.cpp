@@ -23,7 +23,7 @@ namespace {
 constexpr int kEvenEconomy = 60;
 constexpr int kWeeks = 52, kMonths = 12;
 
-/// What its sponsors pay a promotion, in thousands, as sums over so many of their kind.
+/// What its sponsors pay a promotion, in thousands, as sums over a number of their kind.
 struct SponsorPay {
   long long AnEvent = 0, ATvShow = 0, Of = 1;
 };

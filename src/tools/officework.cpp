@@ -107,7 +107,7 @@ bool HoldTodays(World& world, DayKind kind, Shows shows) {
   return HoldAutoShow(world, kind == DayKind::Event, &memory);
 }
 
-/// A rival no bigger than the promotion that was left has a chair for him; false where none is.
+/// A rival no bigger than the promotion that was left has a chair for them; false where none is.
 bool TakeAnotherJob(World& world) {
   std::vector<const Promotion*> offers;
   for (const Promotion& promotion : world.Promotions())
@@ -148,7 +148,7 @@ int EndCodeOf(const World& world) {
 }
 
 void PlayDay(World& world, Shows shows, const StepWatcher& watcher) {
-  // Whoever waits to challenge him is heard out.
+  // Whoever waits to challenge them is heard out.
   if (world.Game().EndCode == kStrangerWaits) MeetStranger(world);
   world.Session.ShowRating = 0;
   world.Session.ShowFlag = 0;

@@ -11,12 +11,12 @@
 namespace grapplemont::tools {
 
 /// What a sensible player does beside the shows, once a day: fills the sponsors' places, looks
-/// after television, keeps the contracts of those he needs, the roster and the posts as full as a
+/// after television, keeps the contracts of those they need, the roster and the posts as full as a
 /// rival's, and spends by the promotion's standing, less when in debt.
 void WorkInTheOffice(World& world);
 
-/// What a sensible player does for his place on television, once a day: takes what networks offer,
-/// asks for more weeks in time, and sends a tape a month until he has a show.
+/// What a sensible player does for their place on television, once a day: takes what networks
+/// offer, asks for more weeks in time, and sends a tape a month until they have a show.
 void WorkOnTelevision(World& world);
 
 /// What becomes of the player's shows while nobody watches.

@@ -58,7 +58,8 @@ int ShowsOnAir(const World& world) {
                                         [](auto& show) { return show.Owner > 0; }));
 }
 
-/// Titles of living promotions, and how many reigns have begun since the day; a vacancy is none.
+/// Titles of living promotions, and how many reigns have begun since the day; a vacancy does not
+/// count.
 Json TitleCounts(const World& world, Day since) {
   int all = 0, held = 0, won = 0;
   for (const Title& title : world.Titles()) {

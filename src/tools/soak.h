@@ -16,7 +16,7 @@ namespace grapplemont::tools {
 ///  "mails":17}
 /// "meanOver" is of the employed, to two places; null when nobody is. "shows" are those on
 /// television; "won" counts the reigns that began since the first of the month before. "player" is
-/// null when his promotion is gone.
+/// null when their promotion is gone.
 std::string MonthSummary(const World& world);
 
 /// A file of summaries, one a line, that grows month by month.

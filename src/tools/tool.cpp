@@ -224,7 +224,7 @@ std::string WithoutSlashes(std::string folder) {
 
 std::string FolderName(Disk& disk, const std::string& folder) {
   if (folder.empty() || !IsFolder(disk, folder))
-    throw WorldFault("\"" + folder + "\" is no folder.");
+    throw WorldFault("\"" + folder + "\" is not a folder.");
   return WithoutSlashes(folder);
 }
 

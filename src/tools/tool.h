@@ -52,7 +52,7 @@ class Arguments {
   const std::string& Place(std::size_t index) const { return places_.at(index); }
   bool Has(std::string_view name) const;
   std::optional<std::string> Text(std::string_view name) const;
-  /// Throws UsageError for what is no whole number of the range.
+  /// Throws UsageError for what is not a whole number of the range.
   std::optional<std::uint64_t> Number(std::string_view name, std::uint64_t least,
                                       std::uint64_t most) const;
   std::optional<Day> Date(std::string_view name) const;

@@ -25,7 +25,8 @@ std::string ColumnId(const std::vector<Column>& columns, int column) {
   return title.empty() ? "#" + std::to_string(column + 1) : title;
 }
 
-Table::Table(const ListBox& list, TableState state) : list_(list), state_(std::move(state)) {
+Table::Table(const ListBox& list, TableState state, CellReader reads)
+    : list_(list), state_(std::move(state)), reads_(std::move(reads)) {
   Follow();
 }
 
@@ -75,12 +76,28 @@ void Table::ArrangeRows() {
   rows_.clear();
   for (int row = 0; row < list_.Count(); ++row) {
     const ListBox::Row& candidate = list_.Rows()[Index(row)];
-    const bool fits = std::ranges::all_of(filters, [&](const auto& filter) {
-      return filter.second.Fits(CellOf(candidate, filter.first), columns[Index(filter.first)].Kind);
-    });
-    if (fits && search.Fits(candidate.Cells, columns)) rows_.push_back(row);
+    const bool fits = std::ranges::all_of(
+        filters, [&](const auto& filter) { return Fits(filter.second, candidate, filter.first); });
+    if (fits && Fits(search, candidate)) rows_.push_back(row);
   }
   SortRows();
+}
+
+bool Table::Fits(const Search& search, const ListBox::Row& row) const {
+  const auto& columns = list_.Columns();
+  if (!reads_ || search.Empty()) return search.Fits(row.Cells, columns);
+  std::vector<Cell> cells = row.Cells;
+  for (std::size_t i = 0; i < cells.size() && i < columns.size(); ++i)
+    cells[i].Text = reads_(cells[i], columns[i].Kind);
+  return search.Fits(cells, columns);
+}
+
+bool Table::Fits(const Filter& filter, const ListBox::Row& row, int listColumn) const {
+  const ColumnKind kind = list_.Columns()[Index(listColumn)].Kind;
+  if (!reads_) return filter.Fits(CellOf(row, listColumn), kind);
+  Cell cell = CellOf(row, listColumn);
+  cell.Text = reads_(cell, kind);
+  return filter.Fits(cell, kind);
 }
 
 namespace {
@@ -228,10 +245,8 @@ int Table::NamePlace() const {
 
 int Table::RowsHidden(int listColumn) const {
   const Filter filter(FilterOf(listColumn));
-  const ColumnKind kind = list_.Columns()[Index(listColumn)].Kind;
-  return static_cast<int>(std::ranges::count_if(list_.Rows(), [&](const ListBox::Row& row) {
-    return !filter.Fits(CellOf(row, listColumn), kind);
-  }));
+  return static_cast<int>(std::ranges::count_if(
+      list_.Rows(), [&](const ListBox::Row& row) { return !Fits(filter, row, listColumn); }));
 }
 
 std::vector<Table::Hider> Table::Hiders() const {
@@ -239,7 +254,7 @@ std::vector<Table::Hider> Table::Hiders() const {
   std::vector<Hider> hiders;
   if (const Search search(state_.Search, columns); !search.Empty()) {
     const auto hidden = std::ranges::count_if(
-        list_.Rows(), [&](const ListBox::Row& row) { return !search.Fits(row.Cells, columns); });
+        list_.Rows(), [&](const ListBox::Row& row) { return !Fits(search, row); });
     hiders.push_back({"\"" + state_.Search + "\"", static_cast<int>(hidden)});
   }
   for (int column = 0; Index(column) < columns.size(); ++column)

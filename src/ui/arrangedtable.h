@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -12,6 +13,9 @@
 // shown, in which order.
 
 namespace grapplemont::ui {
+
+class Filter;
+class Search;
 
 /// What the player has made of a table. Columns go by their ids (see ColumnId).
 struct TableState {
@@ -41,10 +45,14 @@ TableState ReadTableState(std::string_view text);
 /// A column's title, or "#2" for the second when it has none.
 std::string ColumnId(const std::vector<Column>& columns, int column);
 
+/// What a shell shows in place of a cell's text: what is typed to find rows holds against it.
+using CellReader = std::function<std::string(const Cell& cell, ColumnKind kind)>;
+
 /// Rows and columns count from 0 here, in the list and as shown.
 class Table {
  public:
-  explicit Table(const ListBox& list, TableState state = {});
+  /// Without a reader what is shown are the texts themselves.
+  explicit Table(const ListBox& list, TableState state = {}, CellReader reads = {});
 
   /// Follows a change of the list's contents; true when there was one.
   bool Follow();
@@ -78,7 +86,8 @@ class Table {
   void ResetColumns();
   void SetWidth(int listColumn, int width);
   void SetPlace(int topRow, int currentKey);
-  /// The place, among the columns shown, of what is read first: the first text that is no number.
+  /// The place, among the columns shown, of what is read first: the first text that is not a
+  /// number.
   int NamePlace() const;
 
   /// A filter in force and how many rows it hides by itself.
@@ -108,10 +117,13 @@ class Table {
   void ArrangeRows();
   int RowsHidden(int listColumn) const;
   void SortRows();
+  bool Fits(const Search& search, const ListBox::Row& row) const;
+  bool Fits(const Filter& filter, const ListBox::Row& row, int listColumn) const;
   std::string Id(int listColumn) const { return ColumnId(list_.Columns(), listColumn); }
 
   const ListBox& list_;
   TableState state_;
+  CellReader reads_;
   unsigned seen_ = 0;
   std::vector<int> rows_, columns_;
 };

@@ -116,6 +116,7 @@ class Button : public Control {
   /// A short word or number in a spot beside the caption, such as the count of mails.
   Property<std::string> Badge{Changes(), {}};
   bool Plain = false;  // words without a frame, for one of many small acts
+  std::string Key;     // "Alt+3" presses it wherever the keyboard is; a shell may do so
 };
 
 class TextBox : public Control {

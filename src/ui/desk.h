@@ -27,7 +27,7 @@ struct Finding {
   Drawing Picture;  // a small one; none for most
   Handler Open;
 };
-/// Finds by a few typed letters, the best first, at most so many under a heading. Made for one
+/// Finds by a few typed letters, the best first, at most `most` under a heading. Made for one
 /// search: it knows the names as they were then.
 using NameSearch = std::function<std::vector<Finding>(std::string_view typed, std::size_t most)>;
 
@@ -42,6 +42,9 @@ struct HelpPages {
 };
 
 enum class Default { Yes, No };
+
+/// What is heard in a hall.
+enum class Sound { Bell, Crowd };
 
 /// What an event is a transaction of. Commit and Rollback bring the world to a committed state or
 /// throw.
@@ -73,7 +76,9 @@ class Desk {
                              const std::string& offered) = 0;
   /// Says what stands against an act, titled "Error!"; false, without a box, when nothing does.
   bool Objects(const std::string& why);
-  /// Shows the present state in the midst of a long handler.
+  /// Something is heard; a shell may play it. The same sound twice in an event is heard once.
+  virtual void Hear(Sound) {}
+  /// Shows the present state during a long handler.
   virtual void Repaint() {}
 
   // Screens that need no argument are opened by name, once the program has said how they are made.

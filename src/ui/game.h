@@ -23,7 +23,7 @@ inline constexpr const char* kCareerIsOver = "Your career is over: the world can
 
 /// The running program: its desk, its disk, its home folder, and the slot that is open. Every event
 /// of the desk is a commit of the open slot. Once the career has ended, what a player would change
-/// is taken back: all but his own mails and notes.
+/// is taken back: all but their own mails and notes.
 class Game : public ui::Work {
  public:
   struct Options {

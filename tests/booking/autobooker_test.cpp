@@ -131,7 +131,7 @@ TEST(AutoBooker, FillsAHalfBookedSheetAroundWhatIsThere) {
   CardsWith(world, true, kEventRows, [&](const AutoCard& card) {
     EXPECT_EQ("Hand 1 over Hand 2", DescribeSegment(world, card.Rows[8]));
     EXPECT_EQ(talk.Worker[1], card.Rows[3].Worker[1]);
-    EXPECT_EQ(2, PartsOf(card, champion)) << "he is on the card twice already";
+    EXPECT_EQ(2, PartsOf(card, champion)) << "they are on the card twice already";
     EXPECT_EQ(1, Count(card, [](const Segment& row) { return row.TitleName == "Crown"; }));
     EXPECT_TRUE(TitleMatch(card, "Belt"));
     EXPECT_EQ(7, CountKind(card, kMatch));
@@ -213,7 +213,7 @@ TEST(AutoChanges, AWaitingTurnIsMade) {
   for (const bool speaks : {true, false}) {
     World world = House(24).Worker("Mr. Silk", kManager, 60).Game("CWA");
     Worker& turner = Named(world.Workers(), "Hand 4");
-    turner.Manager = Uid(world, "Mr. Silk");  // who must not turn in his place
+    turner.Manager = Uid(world, "Mr. Silk");  // who must not turn in their place
     for (const char* name : {"Hand 4", "Mr. Silk"}) Named(world.Workers(), name).TurnPending = true;
     turner.Speaks = speaks;
     if (!speaks) DismissWriters(world);

@@ -82,7 +82,7 @@ int CardsWith(World& world, bool isEvent, int rows, Takes takes, std::uint64_t c
   return count;
 }
 
-/// A promotion of so many men, Faces and Heels in turn, with writers enough for one show.
+/// A promotion of `wrestlers` men, Faces and Heels in turn, with writers enough for one show.
 inline SmallWorld House(int wrestlers, int size = kCult, int risk = 50) {
   SmallWorld world;
   world.Promotion("CWA", size, [&](Promotion& promotion) { promotion.Risk = risk; });

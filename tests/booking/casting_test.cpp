@@ -13,7 +13,7 @@ constexpr BookingView kTv;
 
 constexpr const char* kOnTop[] = {"Ann Ace", "Bob Bold", "Cat Cold", "Dan Dark", "Eve East"};
 
-/// Five plain workers, a manager with his client, a stable of three (one of them hurt), a full
+/// Five plain workers, a manager with their client, a stable of three (one of them hurt), a full
 /// stable, Titles, and a Commissioner who wrestles too.
 World Company() {
   SmallWorld small;

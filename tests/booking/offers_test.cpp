@@ -28,7 +28,7 @@ Segment TagMatch(const World& world, int type, bool won) {
   return match;
 }
 
-/// What a list offers for a match that is as far as this, with so many run-ins at its finish.
+/// What a list offers for a match that is as far as this, with these run-ins at its finish.
 struct OfferRow {
   int Style, Type;
   bool Won;

@@ -57,7 +57,7 @@ class OnSheet : public GameOnWorld {
     Desk.Click("cmdback");
   }
   std::string Button(int record) { return "cmdbook(" + std::to_string(record) + ")"; }
-  /// The cells of a record's row: above the records stands one that is none.
+  /// The cells of a record's row: above the records stands one without a record.
   std::vector<std::string> Row(int record) {
     return Desk.Rows("lstrows").at(static_cast<std::size_t>(record));
   }

@@ -57,7 +57,7 @@ std::string GrudgeOf(const World& world, const AutoCard& card) {
   return FirstDifference(booked, world);
 }
 
-/// The card of the auto booker with some rows booked anew.
+/// The card of the auto booker with some rows booked again.
 void Book(World& world, Dice& dice, bool isEvent, std::uint64_t seed, Tally& tally) {
   const int rows = RowsOf(isEvent);
   world.Segments().Rewrite({});  // what the last show has left may not be booked again

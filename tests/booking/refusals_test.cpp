@@ -207,7 +207,7 @@ TEST(Refusals, OfWhoIsToBeStripped) {
 TEST(Refusals, OfTheFinish) {
   struct Row {
     int Style, Finish;
-    Numbers Loser;  // Man 1, as much as half of his team
+    Numbers Loser;  // Man 1, as much as half of their team
     int WinnerOver, RunInOver;
     Lines Says;
     int Level;
@@ -275,7 +275,7 @@ TEST(Refusals, OfTheAftermath) {
       {kLoserRuns, 2, "F", false, 29, {"Man 1" + kHeat, kRun}, {{1, 2}}},
       {kCheapShot, 2, "F", false, 96, {kCheap}, {{1, 2}}},
       {kCheapShot, 2, "F", true, 96, {}, {}},
-      // Whoever refuses the hand speaks, by his place; what it costs goes by who has won.
+      // Whoever refuses the hand speaks, by their place; what it costs goes by who has won.
       {kFirstRefusesHand, 1, "F", false, 96, {"Man 1" + kHand}, {{1, 2}}},
       {kFirstRefusesHand, 2, "F", false, 96, {"Man 1" + kHand}, {{2, 2}}},
       {kFirstRefusesHand, 1, "F", true, 96, {}, {}},

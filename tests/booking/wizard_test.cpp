@@ -221,7 +221,7 @@ TEST(frmBookSheet, TakesMoraleOnceForARowThatIsEdited) {
   Segment paid = match;
   StoreResult(paid, 2, {});
   ApplyBookingGrievances(world, match, paid);
-  EXPECT_EQ(world.FindWorker(2)->Morale, 55) << "the row before cost him nothing";
+  EXPECT_EQ(world.FindWorker(2)->Morale, 55) << "the row before cost them nothing";
 }
 
 TEST(frmBook1vs1, MarksWhatTheChoiceIsMadeOn) {

@@ -210,7 +210,7 @@ TEST(TvContractReview, EndsShows) {
     for (const int number : {1, 2}) {
       SCOPED_TRACE(std::to_string(c.Weeks) + " " + std::to_string(c.Strikes));
       World world = TwoShows();
-      world.Game().MailTv = number == 2 ? 2 : 1;  // he always hears of his own
+      world.Game().MailTv = number == 2 ? 2 : 1;  // they always hear of their own
       Show& show = world.Shows()[number];
       const std::string name = show.Name.Str();
       show.ContractWeeks = c.Weeks;

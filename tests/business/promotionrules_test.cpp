@@ -188,7 +188,7 @@ TEST(Development, SendsItsPeopleBackWhenItCloses) {
   EXPECT_EQ(world.Player().CampFacilities + world.Player().HeadTrainer, 0);
   CloseSite(world, Site::Territory);
   EXPECT_EQ(position("Deal"), kMidcard);
-  EXPECT_EQ(position("Sent"), kUpperMidcard) << "where he came from";
+  EXPECT_EQ(position("Sent"), kUpperMidcard) << "where they came from";
   EXPECT_EQ(world.Player().DevBooker, 0);
   EXPECT_FALSE(HasSite(world.Player(), Site::Camp) || HasSite(world.Player(), Site::Territory));
 }

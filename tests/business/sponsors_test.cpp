@@ -55,7 +55,7 @@ TEST(Sponsors, MoveWithinTheFourPlaces) {
   EXPECT_EQ(FreeSponsorPlace(world, player, 2), 3) << "whoever had it is gone";
 }
 
-// Who hears of a deal that ends: the player of his own, of a rival's as the option says.
+// Who hears of a deal that ends: the player of their own, of a rival's as the option says.
 struct Case {
   const char* Player;
   int Option, RivalSize;

@@ -5,7 +5,7 @@
 #include "business/tvshows.h"
 #include "support/gameonworld.h"
 
-// What a network says of a show of the player's and to his wishes, and what Maeve thinks of it.
+// What a network says of a show of the player's and to their wishes, and what Maeve thinks of it.
 
 namespace grapplemont::test {
 namespace {
@@ -218,7 +218,7 @@ TEST(Maeve, SpeaksOfTheTable) {
     s.Colour = 1;
     s.ColourIsWorker = true;
   };
-  EXPECT_EQ(Advice(bram), "Poor Colour Commentator! " + quiet) << "by his charisma";
+  EXPECT_EQ(Advice(bram), "Poor Colour Commentator! " + quiet) << "by their charisma";
   EXPECT_EQ(Advice(bram, kSmall), quiet) << "less is expected there";
 }
 

@@ -205,7 +205,7 @@ TEST(TheFeudOfTheYear, IsStillBetweenPairsWhenOneOfThemHasLeftTheWorld) {
   EXPECT_EQ(GivenFor(world, kFeudOfTheYear),
             "Cal Drift vs Joy Park | 3 matches, the best rated 70%");
   for (HeldMatch& bout : world.Bouts()) bout.Feud = {Word(0), Word(3), Word(0), Word(0)};
-  EXPECT_EQ(GivenFor(world, kFeudOfTheYear), "nobody") << "one side is no feud";
+  EXPECT_EQ(GivenFor(world, kFeudOfTheYear), "nobody") << "one side is not a feud";
 }
 
 TEST(ThePromotionOfTheYear, HasRisenTheMost) {
@@ -242,7 +242,7 @@ TEST(NewFaces, AreKnownByTheLastYearsEnd) {
            row.Worker != Who(world, "Zed Free").Uid;
   });
   EXPECT_EQ(GivenFor(world, kRookieOfTheYear), "Cal Drift | Over 60");
-  EXPECT_EQ(GivenFor(world, kMostImproved), "nobody") << "he was not there a year ago";
+  EXPECT_EQ(GivenFor(world, kMostImproved), "nobody") << "they were not there a year ago";
   Who(world, "Ilya Marsh").Over = 54;
   EXPECT_EQ(GivenFor(world, kMostImproved), "nobody") << "4 points are not much";
   Who(world, "Ilya Marsh").Over = 55;

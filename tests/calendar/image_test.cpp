@@ -48,15 +48,15 @@ TEST(ChangeImage, TakesThePlayerDownAClass) {
   EXPECT_EQ(world.Session.StartSize, kRegional);
   EXPECT_EQ(world.Game().EndCode, 0);
   EXPECT_EQ(Named(world.Workers(), "CWA Top").Over, 84);
-  EXPECT_EQ(Named(world.Workers(), "CWA Held").Over, 61) << "held by his floor";
+  EXPECT_EQ(Named(world.Workers(), "CWA Held").Over, 61) << "held by their floor";
   EXPECT_EQ(Named(world.Workers(), "CWA Low").Over, 0);
-  EXPECT_EQ(Named(world.Workers(), "CWA Away").Over, 40) << "under his floor already";
+  EXPECT_EQ(Named(world.Workers(), "CWA Away").Over, 40) << "under their floor already";
   EXPECT_EQ(Named(world.Workers(), "NEW Top").Over, 88);
   EXPECT_EQ(Named(world.AllStaff(), "CWA Boss").Employer, 0);
   EXPECT_NE(Named(world.AllStaff(), "NEW Boss").Employer, 0);
   EXPECT_EQ(NewsOf(world),
             "Maeve: We have fallen to Regional level.\nCWA News: Owner CWA Boss has quit CWA.\n");
-  EXPECT_EQ(world.Player().Advertising, 0) << "the player spends as he likes";
+  EXPECT_EQ(world.Player().Advertising, 0) << "the player spends as they like";
   EXPECT_EQ(world.Player().TicketPrice, 30);
 }
 
@@ -66,7 +66,7 @@ TEST(ChangeImage, MayCostThePlayerHisJob) {
   ScriptDraws(world, {{3, 3}, 1, 1, 1, 1});
   ChangeImage(world, world.Player(), 30, false);
   EXPECT_EQ(world.Game().EndCode, kEndBoard);
-  EXPECT_NE(Named(world.AllStaff(), "CWA Boss").Employer, 0) << "he stays";
+  EXPECT_NE(Named(world.AllStaff(), "CWA Boss").Employer, 0) << "they stay";
 }
 
 TEST(ChangeImage, TellsOfARivalUnderTheOptionsAndLetsItSpendByItsStanding) {
@@ -104,7 +104,7 @@ TEST(ChangeImage, LiftsNobodyWhoIsKeptAway) {
                       .Worker("Kept Away", kJobber, 40)
                       .Worker("At Hand", kManager, 97)
                       .Game("CWA");
-    Named(world.Workers(), "Kept Away").Position = position;  // 79 is no place, yet away
+    Named(world.Workers(), "Kept Away").Position = position;  // 79 is not a place, yet away
     ScriptDraws(world, {{5, 5}});
     ChangeImage(world, world.Player(), 1, true);
     EXPECT_EQ(Named(world.Workers(), "Kept Away").Over, 40) << position;

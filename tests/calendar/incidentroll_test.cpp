@@ -151,7 +151,7 @@ TEST(IncidentRoll, OffersAfterSixtyDaysWhatIsNotTooFarAbove) {
   constexpr Case kCases[] = {{kLater, kRegional, kNational, 2, true},
                              {kLater, kRegional, kGlobal, 2, false},
                              {kLater, kGlobal, kBackyard, 2, true},
-                             {kLater, kRegional, kNational, 1, false},  // his own
+                             {kLater, kRegional, kNational, 1, false},  // their own
                              {kLater - std::chrono::days{1}, kRegional, kNational, 2, false}};
   for (const Case& c : kCases) {
     World world = WithAgents(1).Promotion("NEW", c.Size).Game("CWA", c.On);

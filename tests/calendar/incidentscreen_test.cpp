@@ -211,7 +211,7 @@ TEST(IncidentScreen, AcceptsAJobAndMovesTheFormerOnesOn) {
   EXPECT_TRUE(bram.Debuted && !bram.TurnPending) << "a rival makes no use of what one had in mind";
   EXPECT_FALSE(play.World().Titles()[1].Suspended);
   EXPECT_EQ(play.World().Shows()[1].Announcer, show.Announcer);
-  EXPECT_EQ(play.World().Shows()[1].Colour, 0) << "he works elsewhere";
+  EXPECT_EQ(play.World().Shows()[1].Colour, 0) << "they work elsewhere";
   EXPECT_FALSE(play.World().Shows()[1].ColourIsWorker);
 }
 

@@ -208,7 +208,7 @@ TEST(Money, MovesThroughTheBooksAlone) {
 }
 
 /// "Bram Okafor" and "Pat Bell" at the player's CWA or at the rival NEW (both have $2000000), with
-/// so many months.
+/// this many months left.
 World Contracts(bool isPlayers, int months, const Change<Worker>& worker = {},
                 const Change<Staff>& staff = {}) {
   SmallWorld small;

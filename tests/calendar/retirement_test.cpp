@@ -120,7 +120,7 @@ TEST(Retirement, WaitsForTheMonthAfterABirthdayEvenIfAnnouncedBefore) {
     const int uid = Sol(world).Uid;
     ScriptDraws(world, Then({kSkillsStay}, {{40, drawn}}));
     AgeAndRetire(world);
-    EXPECT_EQ(Sol(world).Uid, uid) << "not gone in his own month";
+    EXPECT_EQ(Sol(world).Uid, uid) << "not gone in their own month";
     EXPECT_TRUE(Sol(world).RetiringSoon);
     EXPECT_EQ(world.News().Count(), drawn == 1 ? 1 : 0);
   }
@@ -174,7 +174,7 @@ TEST(Retirement, LeavesNoLinkBehind) {
   }
   struct Booked {
     int Style;
-    std::size_t Place;  // where he stands
+    std::size_t Place;  // where they stand
     bool RunsIn, Stays;
   };
   constexpr Booked kBooked[] = {{kSingles, 1, false, false},

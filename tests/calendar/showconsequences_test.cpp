@@ -175,7 +175,7 @@ struct Post {
   int Position, Over;
 };
 
-/// A rival "NEW" with these people, shows on Friday and Sunday, and a player who minds his own.
+/// A rival "NEW" with these people, shows on Friday and Sunday, and a player who minds their own.
 SmallWorld Rival(int size, const std::vector<Post>& people) {
   SmallWorld small;
   small.Network("Nine").Promotion("CWA", kRegional).Promotion("NEW", size);

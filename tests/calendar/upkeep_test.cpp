@@ -66,7 +66,7 @@ TEST(DailyUpkeep, LetsTheUnhappyWalkOutAndTheHopelessSitOut) {
     if (c.Leaves) continue;
     ScriptDraws(world, {{5, 1}});
     DailyWorkerUpkeep(world);
-    EXPECT_EQ(world.News().Count(), 1) << "he says so once";
+    EXPECT_EQ(world.News().Count(), 1) << "they say so once";
   }
 }
 
@@ -195,7 +195,7 @@ TEST(DevelopmentMonth, LetsTheOutgrownFret) {
   EXPECT_EQ(NewsOf(world),
             Improved("Over (2 points);") +
                 "Development: Sol Varga feels that Ohio Ring isn't helping his career much.\n")
-      << "already in the month in which he gets there";
+      << "already in the month in which they get there";
 }
 
 /// The player's CWA with a camp under a head trainer, and "Sol Varga" in it.

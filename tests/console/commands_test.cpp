@@ -79,9 +79,9 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
       {"check chkday maybe", "Write it as \"check NAME on|off\"."},
       {"follow ", "Write it as \"follow NAME\"."},
       {"follow Ilya Marsh", "frmSample shows no link \"Ilya Marsh\"."},
-      {"slide hsprice much", "\"much\" is no whole number that a scroll bar could go to."},
+      {"slide hsprice much", "\"much\" is not a whole number that a scroll bar could go to."},
       {"slide hsprice 5000000000",
-       "\"5000000000\" is no whole number that a scroll bar could go to."},
+       "\"5000000000\" is not a whole number that a scroll bar could go to."},
       {"show lstpeople Bram", "Write it as \"show [NAME]\"."},
       {"show lstghost", "There is no \"lstghost\" to be seen."},
       {"quit now", "Write it as \"quit\"."},
@@ -94,7 +94,7 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
        "The game writes Western European letters only; \"\xD0\x96\" is "
        "none of them."},
       {"type txtname \xF0\x9F\x98\x80",
-       "The game writes Western European letters only; \"\xF0\x9F\x98\x80\" is none of them."},
+       "The game writes Western European letters only; \"\xF0\x9F\x98\x80\" is not one of them."},
       {"type txtname \xFF\xFE", "The line is not UTF-8."},
       {"click cmdnone\xC3\x89", "frmSample has no control \"cmdnone\xC3\x89\"."},
   };

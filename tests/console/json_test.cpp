@@ -157,7 +157,7 @@ TEST(RunConsole, TellsInOneLineWhyItCannotStart) {
     const Outcome outcome = Played({"--json", "--home", home}, "show\n");
     EXPECT_EQ(outcome.Code, 1);
     EXPECT_EQ(outcome.Out, "");
-    EXPECT_EQ(outcome.Errors, "grapplemont-console: \"" + home + "\" is no folder.\n");
+    EXPECT_EQ(outcome.Errors, "grapplemont-console: \"" + home + "\" is not a folder.\n");
   }
   const Outcome outcome = Played({"--json", "--home", scratch / "."}, "show\nok\n");
   EXPECT_EQ(outcome.Code, 1) << "there are no pictures";

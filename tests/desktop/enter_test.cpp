@@ -122,6 +122,11 @@ TEST_F(TheKeys, VisitRoomsFromTheBookingSheetAndComeBackToIt) {
   ASSERT_EQ(Play.Top(), "frmBooking") << "nothing was chosen, so nothing is asked";
   Play.Click("cmdbook(1)");
   Play.Key(Qt::Key_Return);
+  Play.Key(Qt::Key_2, Qt::AltModifier);
+  EXPECT_EQ(Play.Top(), "frmBookType") << "its step is the one that is open";
+  Play.Key(Qt::Key_1, Qt::AltModifier);
+  EXPECT_EQ(Play.Top(), "frmBookStyle") << "a step that has been done is opened again";
+  Play.Key(Qt::Key_Return);
   Play.Click("cmddone");
   ASSERT_EQ(Play.Top(), "frmBookSheet");
   Play.AtNextBox([&] { Play.Key(Qt::Key_Return); });  // the careful answer

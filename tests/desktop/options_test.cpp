@@ -2,10 +2,13 @@
 
 #include <QClipboard>
 #include <QFile>
+#include <cmath>
 #include <memory>
 
 #include "desktop/player.h"
 #include "desktop/sharing.h"
+#include "desktop/sound.h"
+#include "records/fields/fields.h"
 #include "support/scratchfolder.h"
 #include "ui/acts.h"
 
@@ -13,6 +16,28 @@
 
 namespace grapplemont::test {
 namespace {
+
+/// A page with the same day of each month, and with dates in its labels.
+class YearPage : public ui::Screen {
+ public:
+  explicit YearPage(ui::Desk& desk) : Screen(desk, "frmYear", "The Year") {
+    for (int month = 1; month <= 12; ++month) {
+      const Day day{std::chrono::year{2026} / month / 9};
+      lstdays.Add({{double(month), PlainDate(day)}}, month);
+    }
+  }
+  ui::Page Layout() override {
+    return {.Actions = {&cmdback},
+            .Cancel = &cmdback,
+            .Body = ui::Rows({lblnext, lbltold, ui::Grow(lstdays)})};
+  }
+
+ private:
+  ui::Label lblnext{*this, "lblnext", "Monday, 09 March 2026, 7 rows"};
+  ui::Label lbltold{*this, "lbltold", "The staff meet on Monday, 09 March 2026."};
+  ui::ListBox lstdays{*this, "lstdays", {{"On", ui::ColumnKind::Date}}};
+  ui::Button cmdback{*this, "cmdback", "Back", [this] { Close(); }};
+};
 
 class TheOptions : public testing::Test {
  protected:
@@ -24,6 +49,11 @@ class TheOptions : public testing::Test {
   void OpenOptions() {
     Play->Key(Qt::Key_Comma, Qt::ControlModifier);
     ASSERT_EQ(Play->Top(), "frmWindow");
+  }
+  void Find(const char* letters) {
+    Play->Key(Qt::Key_K, Qt::ControlModifier);
+    Play->Type(letters);
+    Play->Key(Qt::Key_Return);
   }
   void Choose(const char* box, int row) {
     Play->Window.Act([&] { return ui::Pick(Play->Desk, *Play->Desk.Top(), box, row); });
@@ -85,31 +115,145 @@ TEST_F(TheOptions, GiveACommandAnotherKey) {
   EXPECT_EQ(Play->Top(), "frmPeople");
 }
 
+TEST_F(TheOptions, MakeShowsHeardOnceTheyAreTurnedOn) {
+  Begin();
+  const auto cheer = [&] {
+    Play->Window.Act([&] {
+      for (int twice = 0; twice < 2; ++twice) Play->Desk.Hear(ui::Sound::Crowd);
+      return std::string();
+    });
+  };
+  cheer();
+  EXPECT_TRUE(Play->Heard.empty()) << "silent until it is asked for";
+  Find("Sound on");
+  const std::vector<std::pair<ui::Sound, int>> atOnce = {{ui::Sound::Bell, 50}};
+  EXPECT_EQ(Play->Heard, atOnce);
+  OpenOptions();
+  EXPECT_TRUE(Play->See("chksound")->property("checked").toBool());
+  Play->Window.Act([&] { return ui::Slide(Play->Desk, *Play->Desk.Top(), "hsvolume", 80); });
+  Begin();
+  cheer();
+  const std::vector<std::pair<ui::Sound, int>> once = {{ui::Sound::Crowd, 80}};
+  EXPECT_EQ(Play->Heard, once);
+  OpenOptions();
+  Play->Click("chksound");
+  EXPECT_FALSE(Play->See("hsvolume")->isEnabled());
+  cheer();
+  EXPECT_EQ(Play->Heard, once);
+}
+
+TEST_F(TheOptions, WriteTheDatesOfListsAndHeadingsInAnotherLanguage) {
+  Begin();
+  Play->Open(std::make_unique<YearPage>(Play->Desk));
+  const auto dates = [&] { return Play->Column("lstdays", 0); };
+  EXPECT_EQ(dates().at(2), "09 March 2026");
+  Find("Dates: German");
+  EXPECT_EQ(dates().at(2), QString::fromUtf8("9. M\u00E4rz 2026"));
+  EXPECT_EQ(Play->TextOf("lblnext"), QString::fromUtf8("Montag, 9. M\u00E4rz 2026, 7 rows"));
+  EXPECT_EQ(Play->TextOf("lbltold"), "The staff meet on Monday, 09 March 2026.");
+  EXPECT_EQ(Play->See("txtdate")->accessibleName(), QString::fromUtf8("Montag, 9. M\u00E4rz 2026"));
+  EXPECT_EQ(Text("lblnext"), "Monday, 09 March 2026, 7 rows") << "the screen itself knows nothing";
+  Play->Grid("lstdays").setFocus();
+  Play->Type(QString::fromUtf8("m\u00E4rz"));
+  EXPECT_EQ(dates(), std::vector<QString>{QString::fromUtf8("9. M\u00E4rz 2026")})
+      << "what is typed is what is seen";
+  Begin();
+  EXPECT_EQ(Play->See("txtdate")->accessibleName(), QString::fromUtf8("Montag, 9. M\u00E4rz 2026"));
+  OpenOptions();
+  Choose("cmbdates", 2);
+  EXPECT_EQ(Play->TextOf("lblsample"), "Monday, 2002-07-08");
+  Choose("cmbdates", 1);
+  EXPECT_EQ(Play->TextOf("lblsample"), "Monday, 08 July 2002");
+}
+
+TEST(TheDates, AreWrittenAsEachLanguageDoes) {
+  using desktop::DateForm;
+  const struct {
+    DateForm Form;
+    const char *Long, *Plain, *Month, *Short;
+  } kForms[] = {
+      {DateForm::Iso, "Monday, 2002-07-08", "2002-07-08", "2002-07", "2002-07-08"},
+      {DateForm::French, "lundi 8 juillet 2002", "8 juillet 2002", "juillet 2002", "08/07/02"},
+      {DateForm::Spanish, "lunes, 8 de julio de 2002", "8 de julio de 2002", "julio de 2002",
+       "08/07/02"},
+      {DateForm::Italian, "luned\u00EC 8 luglio 2002", "8 luglio 2002", "luglio 2002", "08/07/02"},
+      {DateForm::Portuguese, "segunda-feira, 8 de julho de 2002", "8 de julho de 2002",
+       "julho de 2002", "08/07/02"},
+      {DateForm::Japanese, "2002\u5E747\u67088\u65E5\u6708\u66DC\u65E5", "2002\u5E747\u67088\u65E5",
+       "2002\u5E747\u6708", "02/07/08"},
+      {DateForm::Game, "Monday, 08 July 2002", "08 July 2002", "July 2002", "08/07/02"}};
+  for (const auto& form : kForms) {
+    desktop::UseDateForm(form.Form);
+    EXPECT_EQ(desktop::Dated("Monday, 08 July 2002"), QString::fromUtf8(form.Long));
+    EXPECT_EQ(desktop::Dated("since 08 July 2002"), QString::fromUtf8("since ") + form.Plain);
+    EXPECT_EQ(desktop::Dated("July 2002"), QString::fromUtf8(form.Month));
+    EXPECT_EQ(desktop::Dated("Mail, 08/07/02: 3"), QString("Mail, %1: 3").arg(form.Short));
+    for (const char* none : {"31 June 2002", "40/07/02", "7/10/02", "308/07/02"})
+      EXPECT_EQ(desktop::Dated(none), none);
+  }
+  desktop::UseDateForm(DateForm::French);
+  EXPECT_EQ(desktop::DatedAlone("July"), "juillet");
+  EXPECT_EQ(desktop::DatedAlone("Friday"), "vendredi");
+  EXPECT_EQ(desktop::DatedAlone("Main Event"), "Main Event");
+  EXPECT_EQ(desktop::Dated("July"), "July") << "it may be somebody's name";
+  desktop::UseDateForm(DateForm::Game);
+}
+
+TEST(TheSounds, AreABellThatDiesAwayAndACrowdThatSwells) {
+  const auto loudness = [](const std::vector<std::int16_t>& samples, double from, double to) {
+    double sum = 0;
+    for (double second = from; second < to; second += 1.0 / desktop::kSamplesASecond)
+      sum += std::abs(samples.at(static_cast<std::size_t>(second * desktop::kSamplesASecond)));
+    return sum / (to - from);
+  };
+  const auto bell = desktop::SamplesOf(ui::Sound::Bell),
+             crowd = desktop::SamplesOf(ui::Sound::Crowd);
+  EXPECT_GT(loudness(bell, 0, 0.2), 3 * loudness(bell, 1, 1.2));
+  EXPECT_GT(loudness(crowd, 0.8, 1), 3 * loudness(crowd, 0, 0.2));
+  EXPECT_GT(loudness(crowd, 0.8, 1), 3 * loudness(crowd, 3.5, 3.7));
+  for (const auto& samples : {bell, crowd}) EXPECT_EQ(samples.back(), 0);
+  EXPECT_EQ(crowd, desktop::SamplesOf(ui::Sound::Crowd));
+}
+
+TEST_F(TheOptions, AreFoundAsCommands) {
+  Begin();
+  Find("High contrast");
+  EXPECT_EQ(&desktop::ColoursOf(Play->See("cmdnext")), &desktop::ContrastColours());
+  Find("Window scale: 125%");
+  EXPECT_EQ(Play->Window.Kept().Scale(), 125);
+  Find("Full screen");
+  EXPECT_TRUE(Play->Window.isFullScreen());
+  Find("Change keys");
+  EXPECT_EQ(Play->Top(), "frmWindow");
+}
+
 TEST_F(TheOptions, LeaveThePageItselfToBeShared) {
   Begin();
   Play->Open(std::make_unique<PeoplePage>(Play->Desk, Notes));
-  const auto find = [&](const char* letters) {
-    Play->Key(Qt::Key_K, Qt::ControlModifier);
-    Play->Type(letters);
-    Play->Key(Qt::Key_Return);
-  };
-  find("Copy this page as Markdown");
+  Find("Copy this page as Markdown");
   EXPECT_TRUE(QApplication::clipboard()->text().startsWith("# People\n\n| \\# | Name |"));
-  find("Copy this page as a picture");
+  Find("Copy this page as a picture");
   EXPECT_FALSE(QApplication::clipboard()->image().isNull());
+  const auto height = [] { return QApplication::clipboard()->image().height(); };
+  Find("Copy all words of this page as a picture");
+  const int ofAll = height();
+  dynamic_cast<PeoplePage&>(*Play->Desk.Top()).lstpeople.Clear();
+  Play->Window.Sync();
+  Find("Copy all words of this page as a picture");
+  EXPECT_LT(height(), ofAll) << "the picture is as high as its words";
+  const desktop::Shareable page = desktop::PageToShare(*Play->Desk.Top(), *Play->See("frmPeople"));
   const QString file = QString::fromStdString(folder_ / "people.");
   for (const auto& [ending, start] : {std::pair("md", "# People"),
                                       {"html", "<!DOCTYPE html>"},
                                       {"txt", "[size=150]"},
                                       {"png", "\x89PNG"}}) {
-    EXPECT_EQ(desktop::WritePage(file + ending, *Play->Desk.Top(), *Play->See("frmPeople")), "");
+    EXPECT_EQ(desktop::WriteShared(file + ending, page), "");
     QFile written(file + ending);
     ASSERT_TRUE(written.open(QIODevice::ReadOnly));
     EXPECT_TRUE(written.readAll().startsWith(start)) << ending;
   }
   const QString nowhere = QString::fromStdString(folder_ / "no/where.md");
-  EXPECT_TRUE(desktop::WritePage(nowhere, *Play->Desk.Top(), *Play->See("frmPeople"))
-                  .startsWith("Could not write " + nowhere));
+  EXPECT_TRUE(desktop::WriteShared(nowhere, page).startsWith("Could not write " + nowhere));
 }
 
 TEST_F(TheOptions, FillTheScreenByF11) {

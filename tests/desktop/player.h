@@ -23,7 +23,8 @@ class Player {
  public:
   explicit Player(const QString& settings = {})
       : Window(Desk, {QString::fromStdString(Checkout("/gfx")), settings, [this] { ++Closings; },
-                      [this] { return Game; }}) {
+                      [this] { return Game; },
+                      [this](ui::Sound sound, int volume) { Heard.emplace_back(sound, volume); }}) {
     Window.show();
   }
 
@@ -91,7 +92,7 @@ class Player {
     return cells;
   }
 
-  /// What the player will do at the next box, which waits amid the act that brings it.
+  /// What the player will do at the next box, which waits during the act that brings it.
   void AtNextBox(std::function<void()> answer) {
     constexpr int kPatience = 10000;  // milliseconds, on a busy machine
     ++awaited_;
@@ -113,6 +114,7 @@ class Player {
   desktop::WindowDesk Desk;
   int Closings = 0;
   desktop::OpenGame Game;
+  std::vector<std::pair<ui::Sound, int>> Heard;  // with the volume
   desktop::Window Window;
 
  private:

@@ -91,7 +91,7 @@ TEST_F(TheWindow, TakesEnterForMainAndEscapeForCancel) {
   Play.Key(Qt::Key_Escape);
   EXPECT_EQ(Play.FocusName(), "cmdmore");
   Play.Key(Qt::Key_L, Qt::ControlModifier);
-  EXPECT_EQ(Play.FocusName(), "cmdmore") << "though all was drawn anew";
+  EXPECT_EQ(Play.FocusName(), "cmdmore") << "though all was drawn again";
   Play.Key(Qt::Key_Escape);
   EXPECT_EQ(Play.Top(), "frmHub");
   Play.Key(Qt::Key_Escape);

@@ -7,7 +7,7 @@
 #include "support/smallworld.h"
 
 // The default data while they are edited: whatever fails, dies or loses its power, the old set of
-// files or the new one is found, and what the player is told is what he finds.
+// files or the new one is found, and what the player is told is what they find.
 
 namespace grapplemont::test {
 namespace {

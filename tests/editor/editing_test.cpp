@@ -211,7 +211,7 @@ const RefusalCase kRefusals[] = {
      "Month has an Event of the promotion already."},
 };
 
-/// What no page shows: the editor's own, what one pick list says, and what a game writes anew.
+/// What no page shows: the editor's own, what one pick list says, and what a game writes again.
 const std::regex kLeftOut(
     "^(Uid|Active|Finisher.(TopRope|Ground)|ColourIsWorker|Momentum|Rank|Money|TicketIncome|"
     "MerchIncome|PpvIncome|SponsorIncome|WrestlerWages|StaffWages|ProductionCost|AdvertisingCost|"

@@ -88,7 +88,7 @@ TEST(FrmEditMaintain, ReportsBeforeItMendsAndThenFindsNothing) {
   ASSERT_EQ(faults.size(), 4u);
   EXPECT_EQ(faults[0], (Texts{"event.dat", "", "", "", "is missing"}));
   EXPECT_EQ(faults[1],
-            (Texts{"teams.dat", "", "", "", "ends in 3 bytes that are no whole record"}));
+            (Texts{"teams.dat", "", "", "", "ends in 3 bytes that are not a whole record"}));
   EXPECT_EQ(faults[2],
             (Texts{"wrestler.dat", "2", "CWA Hand 2", "BirthMonth", "is 999, outside 0 to 12"}));
   EXPECT_EQ(Cell(home.Desk, "lstdoings", 1, 5), "is missing; made without a record");
@@ -189,10 +189,10 @@ TEST(FrmEditMerge, TellsDamagedFilesAndDoesNotMind) {
                                                             {"newteams.dat", "0"},
                                                             {"newtv.dat", "0"}}));
   EXPECT_EQ(home.Desk.Text("lblremarks"),
-            "newwrestler.dat ends in 26 bytes that are no whole record; they are left aside.\n"
+            "newwrestler.dat ends in 26 bytes that are not a whole record; they are left aside.\n"
             "newstaff.dat has room for 10001 records and is left aside. Maximum 10,000 staff "
             "members per file!\n"
-            "newteams.dat is no plain file and is left aside.\n"
+            "newteams.dat is not a plain file and is left aside.\n"
             "newtv.dat is empty.");
   home.Desk.ExpectAsk("Merge?", kAnyText, true);
   home.Desk.Click("cmdmerge");
@@ -263,7 +263,7 @@ TEST(FrmEditImport, SaysWhereTheFileIsLookedForAndWhatIsWrongWithIt) {
   home.Write("data/wrestler2.dat", std::string(240, '\0'));
   home.Desk.Click("cmdlook");
   EXPECT_EQ(home.Desk.Text("lblfolder"),
-            "wrestler2.dat ends in 3 bytes that are no whole record; they are left aside.");
+            "wrestler2.dat ends in 3 bytes that are not a whole record; they are left aside.");
   home.Desk.Click("cmdall");
   EXPECT_EQ(home.Desk.Tip("cmdimport"), "None of the chosen can come in.");
   EXPECT_EQ(Cell(home.Desk, "lstrows", 1, 3), "It has no name.");
@@ -290,7 +290,7 @@ TEST(FrmEditTables, OutAndInGiveTheSameBytes) {
                       "1 staff in their place? What they are now is kept as a backup.",
                       true, ui::Default::No);
   home.Desk.Click("cmdimport");
-  EXPECT_EQ(home.Desk.Text("lblfacts"), "Built the data anew: 1 promotion, 3 workers, 1 staff.");
+  EXPECT_EQ(home.Desk.Text("lblfacts"), "Built the data again: 1 promotion, 3 workers, 1 staff.");
   ExpectSame(home.OnDisk(), Complete(Here()));
 }
 
@@ -302,7 +302,7 @@ TEST(FrmEditTables, ListsEveryMistakeAndReplacesNothing) {
   home.Write("world-tables/teems.csv", "");
   home.Desk.Click("cmdlook");
   EXPECT_EQ(home.Desk.FirstColumn("lstmistakes"),
-            (Texts{"teems.csv: is no table of a world; did you mean teams.csv?",
+            (Texts{"teems.csv: is not a table of a world; did you mean teams.csv?",
                    "events.csv: is missing; a table without records has only its header"}));
   EXPECT_EQ(home.Desk.Text("lblfacts"), "2 mistakes to mend before these tables can be taken in.");
   EXPECT_EQ(home.Desk.Tip("cmdimport"), "2 mistakes to mend before these tables can be taken in.");

@@ -137,8 +137,8 @@ TEST(Merge, TheFirstOfAUidIsMeantAndNobodyIsLedToAStranger) {
   // 45 is what Second gets, but not whom the third team means.
   EXPECT_EQ(Lines(arrivals),
             (Texts{"Worker First", "Worker Second 40>45: Its uid belongs to First.",
-                   "Worker First out: The name is taken.", "Worker Zero 0>46: Its uid is none.",
-                   "Worker Minus -7>47: Its uid is none.", "Worker Lost",
+                   "Worker First out: The name is taken.", "Worker Zero 0>46: Its uid is invalid.",
+                   "Worker Minus -7>47: Its uid is invalid.", "Worker Lost",
                    "Worker To Be Deleted out: It is marked as gone.",
                    "Worker  out: It has no name.", "Worker None out: It has no name.", "Team ",
                    "Team  out: The two are a team already.", "Team  out: It lacks a partner."}));

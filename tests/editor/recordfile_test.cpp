@@ -23,7 +23,7 @@ TEST(RecordFile, HasRoomForSoManyRecordsAndNoMore) {
     const char* Remark;
   } rows[] = {
       {100, 2, ""},
-      {1, 0, "newtv.dat ends in 1 bytes that are no whole record; they are left aside."},
+      {1, 0, "newtv.dat ends in 1 bytes that are not a whole record; they are left aside."},
       {50000, 1000, ""},
       {50050, 0,
        "newtv.dat has room for 1001 records and is left aside. Maximum 1,000 shows per file!"}};
@@ -78,7 +78,7 @@ TEST(TablesFolder, TakesOverTheTenFilesAndNothingElse) {
 TEST(TablesFolder, RefusesWhatIsNoWorldForTheData) {
   CutDisk disk;
   const World data = SmallWorld().Promotion("CWA").Build();
-  EXPECT_EQ(LookAtTables(disk, "none", data).WhyNot, "none is no folder.");
+  EXPECT_EQ(LookAtTables(disk, "none", data).WhyNot, "none is not a folder.");
   disk.MakeFolder("empty");
   EXPECT_EQ(LookAtTables(disk, "empty", data).WhyNot, "empty holds no tables.");
   ExportTables(disk, "saved", SmallWorld().Promotion("CWA").Game("CWA").Build());

@@ -49,7 +49,7 @@ std::map<std::string, Bytes> AllButTheDesk(Over& over) {
   return files;
 }
 
-// The ways out of the game are no changes of its world.
+// The ways out of the game are not changes of its world.
 constexpr std::string_view kWaysOut[] = {"cmdquit", "cmdmenu", "cmdmainmenu"};
 
 TEST(AfterTheEnd, EveryScreenOpensAndNoButtonChangesTheWorld) {

@@ -91,7 +91,7 @@ std::map<std::string, Bytes> Found(CutDisk& disk) {
   return slot.Files();
 }
 
-/// A run that was recorded, and the world after each of its clicks; world 0 is no slot at all.
+/// A run that was recorded, and the world after each of its clicks; world 0 is not a slot at all.
 struct Story {
   CutDisk Disk = FreshHome();
   std::vector<std::map<std::string, Bytes>> Worlds{{}};

@@ -76,6 +76,8 @@ struct ShowPlay : GameOnWorld {
     Desk.ExpectAsk("Sure?", "Are you sure you wish to start this show?", true);
     Desk.Click("cmddoshow");
     ASSERT_EQ(Desk.TopName(), "frmMatchOutput");
+    ASSERT_FALSE(Desk.Heard.empty());
+    EXPECT_EQ(Desk.Heard.front(), ui::Sound::Bell);
   }
 
   /// The screen shows what the other world's next Segment comes to, and why.
@@ -88,6 +90,7 @@ struct ShowPlay : GameOnWorld {
     ExpectSameAsOther();
     const Segment& segment = Other.Segments()[row];
     const bool isMatch = segment.Kind == kMatch;
+    EXPECT_EQ(std::ssize(Desk.Heard), bells_ += isMatch) << "a match ends with the bell";
     const SegmentDetails details = DetailsOf(Other, segment);
     const std::pair<const char*, std::string> kShown[] = {
         {"lblinfo", details.Heading},
@@ -140,6 +143,7 @@ struct ShowPlay : GameOnWorld {
     Other.SetChance(std::make_unique<SeededDraws>(draws_));
   }
   int draws_ = 40;
+  int bells_ = 1;  // the one that begins the show
 };
 
 /// The game starts on a Sunday, and five rows are booked on the sheet of its show.
@@ -178,6 +182,7 @@ struct OnSunday : ShowPlay {
     Desk.Click("cmdnext");
     CloseShow(Other);
     EXPECT_EQ(Desk.TopName(), "frmPostShow");
+    EXPECT_EQ(Desk.Heard.back(), ui::Sound::Crowd);
     ExpectSameAsOther();
   }
   /// Says what the show did, each number with steps that lead to it.

@@ -40,7 +40,7 @@ TEST(Charset, RefusesLettersBeyondItAndBrokenUtf8) {
       {"a\xBF", "?"},        // a letter's tail alone
       {"\xC3", "?"},         // cut short
       {"\xF0\x9F\x92", "?"},
-      {"\xC3(", "?"},  // a tail that is none
+      {"\xC3(", "?"},  // an invalid tail
       {"\xE2(\xAC", "?"},
       {"\xC1\xBF", "?"},  // longer than need be
       {"\xE0\x82\x80", "?"},

@@ -170,7 +170,7 @@ std::string Format(const char* format, const std::tm& parts) {
   return {text, std::strftime(text, sizeof text, format, &parts)};
 }
 
-/// A hundred years and more, with the year 2000 that is a leap year and 2100 that is none.
+/// A hundred years and more, with the year 2000 that is a leap year and 2100 that is not.
 TEST(Dates, AgreeWithAnotherCalendarAndReadAsTheScreensShowThem) {
   for (Day day = year{1995} / 1 / 1; day < Day{year{2105} / 1 / 1}; day += days{1}) {
     const std::tm parts = ByTheLibrary(day);

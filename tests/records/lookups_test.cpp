@@ -201,7 +201,7 @@ TEST(NameIndex, FindsWholeNamesTheLongestFirst) {
       {"It is Bram Okafor Jr. again", {"Bram Okafor Jr."}},
       {"It is Bram Okafor Jr again", {"Bram Okafor"}},
       {"Dani Okonkwo-Pratt, Pratt", {"Dani Okonkwo-Pratt", "Pratt"}},
-      // A piece of a word is no name.
+      // A piece of a word is not a name.
       {"XBram Okafor", {"Okafor"}},
       {"Pratt-Smith", {}},
       {"Ren\xE9 Bl\xE4tter", {}},

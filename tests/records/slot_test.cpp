@@ -317,7 +317,7 @@ TEST_F(ADamagedSlot, KnowsItsIdAgainFromSealAndJournal) {
 TEST_F(AForeignFolder, IsRefusedForLinksAndFolders) {
   for (const char* name : {"tv.dat", "journal", "world.id"}) {
     const std::string aside = scratch_ / "aside";
-    const std::string refusal = "Could not open " + At(name) + ": it is no plain file.";
+    const std::string refusal = "Could not open " + At(name) + ": it is not a plain file.";
     if (disk_->Look(At(name)) == Disk::Kind::Nothing) WriteFile(*disk_, At(name), {});
     disk_->Rename(At(name), aside);
     std::filesystem::create_symlink(aside, At(name));

@@ -107,14 +107,14 @@ TEST(Tables, NameEveryWrongCell) {
       {"workers.csv", "Lou Fay,Red", "#9,Red",
        "2, column Manager: there is no worker of the number 9"},
       {"workers.csv", "Lou Fay,Red", "#three,Red",
-       "2, column Manager: \"#three\" is no record's number; one is written like #17"},
+       "2, column Manager: \"#three\" is not the number of a record; one is written like #17"},
       {"workers.csv", ",Main Event", ",Main Evnt",
        "2, column Position: there is no \"Main Evnt\"; did you mean Main Event?"},
       {"workers.csv", "40,Heel", "40,",
        "3, column Disposition: is empty; it needs one of Face, Heel, Tweener"},
       {"workers.csv", "Opener,40", "Opener,140", "3, column Over: is 140, outside 0 to 100"},
       {"workers.csv", "2025-11-03", "2025-11-03+1.5",
-       "2, column LastTurn: \"2025-11-03+1.5\" is no date; a date is written like 2026-03-31"},
+       "2, column LastTurn: \"2025-11-03+1.5\" is not a date; a date is written like 2026-03-31"},
       {"workers.csv", "Ilya,male", "Ilya the Great,male",
        "3, column ShortName: \"Ilya the Great\" has 14 letters; there is room for 10"},
       {"workers.csv", "Ilya,male", "Il\xC5\x82,male",
@@ -163,7 +163,7 @@ TEST(Tables, NameWhatIsWrongWithTheirShape) {
   tables["worker.csv"] = tables["workers.csv"];
   tables.erase("workers.csv");
   EXPECT_EQ(
-      "worker.csv: is no table of a world; did you mean workers.csv?\n"
+      "worker.csv: is not a table of a world; did you mean workers.csv?\n"
       "workers.csv: is missing; a table without records has only its header",
       AllMistakes(BuildWorld(tables)));
 }
@@ -178,7 +178,7 @@ TEST(Tables, AreHeldToTheRulesOfAWorld) {
        "High Water,,3,Small\n,,,\n\nHigh Water,,3,Small\n",
        "5: High Water is the double of line 2"},
       {"teams.csv", ",Ilya Marsh", ",Bram Okafor",
-       "2, column Worker2: The Tide is the other partner himself"},
+       "2, column Worker2: The Tide is also the other partner"},
   });
 }
 
@@ -191,7 +191,7 @@ TEST(Tables, TellAllMistakesInTheirOrder) {
   EXPECT_EQ(
       "workers.csv, line 2, column Gender: there is no \"mole\"; did you mean male?\n"
       "workers.csv, line 2, column Manager: no worker has the name Lou Hay; did you mean Lou Fay?\n"
-      "workers.csv, line 5, column Over: \"ten\" is no whole number from 0 to 100\n"
+      "workers.csv, line 5, column Over: \"ten\" is not a whole number from 0 to 100\n"
       "staff.csv, line 2, column Position: there is no \"Boss\"; the nearest is Owner",
       AllMistakes(BuildWorld(tables)));
 }
@@ -252,7 +252,7 @@ TEST(Tables, SpeakUtf8OfWhatIsNone) {
   tables["t\xE4g.csv"] = "";
   const std::string all = AllMistakes(BuildWorld(tables));
   EXPECT_EQ(ValidUtf8(all), all);
-  for (const char* part : {"t\xC3\xA4g.csv: is no table", "column Caf\xC3\xA9: there is no such",
+  for (const char* part : {"t\xC3\xA4g.csv: is not a table", "column Caf\xC3\xA9: there is no such",
                            "has the name Ren\xC3\xA9;"})
     EXPECT_NE(all.find(part), std::string::npos) << part << " in\n" << all;
 }

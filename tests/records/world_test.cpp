@@ -119,7 +119,7 @@ TEST(World, TheFirstOfTwoWithOneUidIsTheOneFound) {
   World world = SmallWorld().Promotion("CWA").Crew(4);
   world.Workers()[3].Uid = 2;
   EXPECT_EQ(&world.Workers()[2], world.FindWorker(2));
-  EXPECT_EQ(&world.Workers()[4], world.FindWorker(4));  // builds the index anew
+  EXPECT_EQ(&world.Workers()[4], world.FindWorker(4));  // builds the index again
   EXPECT_EQ(&world.Workers()[2], world.FindWorker(2));
   world.Workers().Erase(2);
   EXPECT_EQ(&world.Workers()[2], world.FindWorker(2));

@@ -116,7 +116,7 @@ TEST(LineMemory, GivesNoLineAgainBeforeTheOthersOfItsBand) {
   EXPECT_EQ(memory.Pick(draws, &band, 3), 1);
   EXPECT_EQ(memory.Pick(draws, &band, 3), 2);  // used: the second of the two others
   EXPECT_EQ(memory.Pick(draws, &band, 3), 0);  // used: the only one left
-  EXPECT_EQ(memory.Pick(draws, &band, 3), 1);  // all were used: anew
+  EXPECT_EQ(memory.Pick(draws, &band, 3), 1);  // all were used: again
   EXPECT_EQ(memory.Pick(draws, &other, 3), 1);
 }
 

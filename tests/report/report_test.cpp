@@ -78,7 +78,7 @@ std::set<int> PeopleAnywhereIn(const Segment& s) {
 }
 
 /// Where the text has the wrong letter at the beginning of a word; npos for nowhere. Words in
-/// capitals and names may stand amid a sentence, pronouns and articles may not.
+/// capitals and names may stand within a sentence, pronouns and articles may not.
 std::size_t WrongCapital(const std::string& text) {
   for (std::size_t i = 2; i + 1 < text.size(); ++i) {
     if (!IsLetter(text[i]) || (text[i - 1] != ' ' && text[i - 1] != '\n')) continue;

@@ -211,7 +211,7 @@ TEST(RivalTitles, FindChampionsAmongThoseWhoMayHoldThem) {
   crown.Suspended = true;
   ScriptDraws(world, std::vector<int>{});
   RivalHouseShows(world);
-  EXPECT_EQ(Named(world.Titles(), "CWA Crown").Holder, 0) << "the player books his own";
+  EXPECT_EQ(Named(world.Titles(), "CWA Crown").Holder, 0) << "the player books their own";
 }
 
 }  // namespace

@@ -165,7 +165,7 @@ TEST(Challenge, FoundsARivalOfTheStrangersOwn) {
   const Promotion& opened = world.Promotions()[3];
   EXPECT_EQ(opened.Size, kNational);
   EXPECT_EQ(opened.Money, 40000000);
-  EXPECT_EQ(opened.Risk, 20) << "by his style";
+  EXPECT_EQ(opened.Risk, 20) << "by their style";
   EXPECT_EQ(world.AllStaff()[1].Employer, opened.Uid);
   EXPECT_EQ(world.AllStaff()[1].Name.Str(), "Lysander Pinkney");
   EXPECT_EQ(world.AllStaff()[1].Position, kOwner);

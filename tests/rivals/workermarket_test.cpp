@@ -19,7 +19,7 @@ Change<Worker> Of(int brawl, int over, int wage = 10) {
   };
 }
 
-/// The player is Cult; a rival of the size stands beside him, and everything is told.
+/// The player is Cult; a rival of the size stands beside them, and everything is told.
 SmallWorld Beside(int size, int playerSize = kCult) {
   SmallWorld small;
   small.Promotion("CWA", playerSize).Promotion("XWF", size).OnTheMarket();

@@ -164,7 +164,7 @@ TEST(frmWresContract, TerminatesDownToAnEmptyRoster) {
   play.Desk.Click("cmdterminate");
   EXPECT_EQ(play.World().Player().Money, money - 120000);
   EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({kBram, "Ilya Marsh"}));
-  EXPECT_EQ(play.Desk.Selected("lstwres"), std::vector{2}) << "the last takes his place";
+  EXPECT_EQ(play.Desk.Selected("lstwres"), std::vector{2}) << "the last takes their place";
 
   for (const char* name : {"Ilya Marsh", kBram}) {
     play.Desk.Click("cmdcontract");

@@ -73,7 +73,7 @@ TEST(AnswerToRelease, RefusesInAPoorMarketAndWithNowhereToGo) {
 TEST(AnswerToRelease, TakesTheFirstReasonToGo) {
   struct Case {
     int Size, Over, Morale, Money;
-    const char* Words;  // behind the name; nullptr when he stays
+    const char* Words;  // behind the name; nullptr when they stay
   };
   constexpr const char* kMoney =
       ": 'With the financial situation of the company the way it is, i accept!'";

@@ -156,7 +156,7 @@ TEST(Shortlist, HoldsFifteen) {
   AddToShortlist(world, rival(16).Uid);
   EXPECT_EQ(Shortlisted(world).at(1)->Name, "NEW Hand 16") << "the place that came free";
 
-  // Whoever has left the world leaves his place.
+  // Whoever has left the world leaves their place.
   rival(5).Uid = 900;
   ASSERT_EQ(WhyNotShortlist(world, rival(17)), "");
   AddToShortlist(world, rival(17).Uid);

@@ -86,7 +86,7 @@ struct Rival {
   int Size, Image;
 };
 
-/// Released to these rivals with the draws that follow the 1 of 3; the initials of who signs him,
+/// Released to these rivals with the draws that follow the 1 of 3; the initials of who signs them,
 /// empty for nobody.
 std::string SignedBy(const std::vector<Rival>& rivals, int over, int wage, std::vector<int> bids) {
   SmallWorld small = Employed([&](Worker& worker) {

@@ -263,7 +263,7 @@ TEST(frmWorker, OffersWhatAppliesAndSurvivesItsSubject) {
   play.Desk.Click("cmdshortlist");
   EXPECT_TRUE(Holds(play.Desk.Text("txtpage"), "On your shortlist."));
 
-  Named(play.World().Workers(), kRay).Uid = 900;  // somebody else has his record now
+  Named(play.World().Workers(), kRay).Uid = 900;  // somebody else has their record now
   play.Desk.Click("cmdshortlist");
   EXPECT_TRUE(Holds(play.Desk.Text("txtpage"), "not in the business any more"));
   EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
@@ -320,7 +320,7 @@ TEST(frmWorker, ShowsAtAGlanceAndLeadsOn) {
   EXPECT_EQ(play.Desk.TopName(), "frmReports");
   play.Desk.Click("cmdback");
 
-  EXPECT_FALSE(play.Desk.Enabled("cmdpromote")) << "he is at the top";
+  EXPECT_FALSE(play.Desk.Enabled("cmdpromote")) << "they are at the top";
   play.Desk.Click("cmddemote");
   EXPECT_EQ(bram.Position, kMainEvent + 1);
   play.Desk.Click("cmdturn");
@@ -393,7 +393,7 @@ TEST(Links, LeadFromAMailToThePageAndOn) {
   EXPECT_EQ(follow(""), "frmNews shows no link \"\".");
   EXPECT_EQ(follow(kBram), "");
   EXPECT_EQ(play.Desk.Title(), kBram);
-  EXPECT_EQ(follow("Ilya Marsh"), "") << "his partner";
+  EXPECT_EQ(follow("Ilya Marsh"), "") << "their partner";
   EXPECT_EQ(play.Desk.Title(), "Ilya Marsh");
   EXPECT_EQ(follow(kBram), "");
   EXPECT_EQ(play.Desk.Title(), kBram);

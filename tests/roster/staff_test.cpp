@@ -318,7 +318,7 @@ TEST(frmStaffContract, RenewsOnGoodTerms) {
   play.Desk.Pick("lststaff", kPen);
   play.Desk.Click("cmdcontract");
   ASSERT_EQ(play.Desk.TopName(), "frmStaffContract");
-  EXPECT_EQ(play.Desk.Text("txtwage"), "$5,000 a month") << "what he earns, not what he wants";
+  EXPECT_EQ(play.Desk.Text("txtwage"), "$5,000 a month") << "what they earn, not what they want";
   EXPECT_EQ(play.Desk.Text("cmbnewtype"), "Verbal");
   play.Desk.Slide("hsnewwage", 3);
   play.Desk.ExpectSay("Rejected!", "I am not going to work for less.");

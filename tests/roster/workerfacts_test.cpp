@@ -170,7 +170,7 @@ TEST(WorkerFacts, TellOfTitlesHeldAndReignsThatWere) {
             Lines({"CWA Crown, 04 May 2025 to 01 September 2025.",
                    "CWA Tag as Drift \\ Marsh, 04 May 2025 to 01 September 2025."}));
 
-  // The present reign goes by who holds the Title; the past knows him by his former name.
+  // The present reign goes by who holds the Title; the past knows them by their former name.
   Named(world.Workers(), kBram).Name = "Big Bram";
   EXPECT_EQ(Told(world, "Big Bram", "Titles"), Lines({"Holds the CWA Crown.", "Holds the CWA Tag.",
                                                       "CWA Crown, since 01 September 2025.",

@@ -162,7 +162,7 @@ TEST(NewGameScreen, SaysWhyNoGameCanBegin) {
   HomeFolder home(std::move(data));
   home.Desk.Open("frmNewGame");
   const char* why =
-      "The default world has no promotion that can be played. Build it anew, or put back its "
+      "The default world has no promotion that can be played. Build it again, or put back its "
       "files.";
   EXPECT_EQ(home.Desk.Text("lblfacts"), why);
   EXPECT_EQ(home.Desk.Tip("cmdbegin"), why);
@@ -195,7 +195,7 @@ TEST(NewGameScreen, SaysWhichFileOfTheDataIsNoFile) {
 constexpr const char* kLeavings =
     "No game is kept in this slot, but its folder is not empty.\n"
     "What is left of a game that cannot be loaded is deleted: news.dat.\n"
-    "What is no game's stays in the folder: diary.txt and pictures.\n"
+    "What belongs to no game stays in the folder: diary.txt and pictures.\n"
     "Begin the new game here?";
 
 TEST(PickSaveSlot, AsksAboutWhatLiesInAnEmptySlotAndKeepsWhatIsNoGames) {

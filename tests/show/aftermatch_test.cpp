@@ -101,7 +101,7 @@ TEST(CardPosition, SpeaksOfAWomanAsSuchAndLetsTheLegendSpeakHisWay) {
   wears(stage["Bea"], kJobber, 100, 50);
   wears(legend, kJobber - 2, 40, 61);
   wears(legend, kJobber - 2, 40, 60);
-  wears(legend, kMidcard, 35, 100);  // is never pushed too high, if you ask him
+  wears(legend, kMidcard, 35, 100);  // is never pushed too high, if you ask them
   EXPECT_EQ(NewsOf(stage.W),
             "Road Agent: Bea is losing heat because you are pushing her too much.\n"
             "Road Agent: Bea is losing morale because you are not pushing her enough.\n"

@@ -105,8 +105,8 @@ TEST(ForecastShow, WarnsOfTheTableAndTheProduction) {
             (Warnings{"There is no announcer.", "There is no colour commentator."}));
   const World poor = Booked(Ready(34, 34), ACard());
   EXPECT_EQ(ForecastShow(poor, false, kTable).Warnings,
-            (Warnings{"Milo Grant is no announcer for a show of this size.",
-                      "Pia Root is no colour commentator for a show of this size.",
+            (Warnings{"Milo Grant is not an announcer for a show of this size.",
+                      "Pia Root is not a colour commentator for a show of this size.",
                       "The production is too poor for a promotion of this size."}));
 }
 

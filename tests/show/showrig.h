@@ -125,7 +125,7 @@ struct Stage : Rig {
     Run.Crowd.Become(crowd, "");
     Run.Overall.Become(overall, "");
   }
-  /// Over of the first so many workers.
+  /// Over of the first `count` workers.
   std::vector<int> Overs(int count) const {
     std::vector<int> overs;
     for (int number = 1; number <= count; ++number) overs.push_back(W.Workers()[number].Over);

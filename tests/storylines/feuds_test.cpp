@@ -203,7 +203,7 @@ TEST(AssessFeud, SaysTheFirstSentenceThatApplies) {
   const Case kCases[] = {
       {{1, 0, 1, 0}, {0, 1, 0, 0}, noHeat},  // below four, whatever else is true
       {{4, 0, 0, 0}, {0, 0, 0, 0}, cheap},
-      {{2, 0, 9, 9}, {2, 0, 9, 9}, cheap},          // attacks are no wins
+      {{2, 0, 9, 9}, {2, 0, 9, 9}, cheap},          // attacks are not wins
       {{0, 0, 0, 0}, {0, 4, 1, 1}, poised("Ash")},  // nothing against six, four of them dirty
       {{0, 14, 0, 0}, {0, 0, 0, 0}, poised("Bea")},
       {{0, 0, 0, 0}, {2, 3, 1, 0}, loses("Bea")},

@@ -101,7 +101,7 @@ TEST(frmFeudStart, KnowsWhoMayAndWhoBelongsTogether) {
   EXPECT_EQ(desk.Text("lblheat"), "Starting heat 73%: mean Over 63, a Face against a Heel +10.");
   desk.Check("chksingles", false);
   desk.Pick("lstwres1", "Ilya Marsh");
-  EXPECT_EQ(desk.Selected("lstwres2"), std::vector{1}) << "Bram Okafor, his partner";
+  EXPECT_EQ(desk.Selected("lstwres2"), std::vector{1}) << "Bram Okafor, their partner";
   EXPECT_EQ(desk.Text("lblheat"), "Choose two teams of two.");
   desk.Pick("lstwres3", "Cal Drift");
   desk.Pick("lstwres4", "Mouth");

@@ -100,7 +100,7 @@ TEST(Titles, AreAwardedOnlyToWhomTheyFitWhileVacant) {
   for (const char* unfit : {"Hurt Hank", "Max Mouth", "Young Yan", "Al Other"}) {
     Named(world.Workers(), unfit).Gender = false;
     EXPECT_EQ(WhyNotAward(world, roses, UidOf(world, unfit), 0),
-              std::string(unfit) + " is no fit wrestler of yours.");
+              std::string(unfit) + " is not a wrestler of yours who is fit.");
   }
 }
 

@@ -147,7 +147,7 @@ using Check = std::function<void(CutDisk& after, const Cut& cut)>;
 /// from one on. Returns how many cuts that were.
 int ForEveryCut(const CutDisk& disk, int each, std::uint64_t seed, const Check& check,
                 int from = 0);
-/// `count` power cuts, each at a moment drawn anew.
+/// `count` power cuts, each at a moment that is drawn.
 int ForSomeCuts(const CutDisk& disk, int count, std::uint64_t seed, const Check& check);
 /// Kills the process after every recorded call.
 int ForEveryDeath(const CutDisk& disk, const Check& check);

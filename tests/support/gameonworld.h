@@ -30,7 +30,7 @@ class GameOnWorld {
   GameOnWorld& operator=(const GameOnWorld&) = delete;
 
   grapplemont::World& World() { return Play.World(); }
-  /// Leaves the slot and opens it again: the world as it stands on disk. Its draws begin anew.
+  /// Leaves the slot and opens it again: the world as it stands on disk. Its draws start again.
   void Reopen();
 
  private:

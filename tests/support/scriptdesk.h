@@ -82,6 +82,9 @@ class ScriptDesk : public ui::Desk {
   std::vector<std::string> FirstColumn(std::string_view name) const;
   std::vector<int> Selected(std::string_view name) const;  // from 1
 
+  /// What has been heard, in order.
+  std::vector<ui::Sound> Heard;
+
   /// Runs whenever a long handler shows its present state.
   std::function<void()> OnRepaint;
 
@@ -89,6 +92,7 @@ class ScriptDesk : public ui::Desk {
   bool Ask(const std::string& title, const std::string& text, ui::Default answer) override;
   std::string Prompt(const std::string& title, const std::string& text,
                      const std::string& offered) override;
+  void Hear(ui::Sound sound) override { Heard.push_back(sound); }
   void Repaint() override;
 
  private:

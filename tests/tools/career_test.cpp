@@ -246,7 +246,7 @@ TEST(Careers, KeepWhatTheyHaveBeenForTwoYears) {
   }
   for (const MatchTally& tally : world.Tallies())
     if (tally.Worker != 0) counted += tally.Won + tally.Lost + tally.Drawn;
-  EXPECT_EQ(parts, counted) << "everybody in a match has it in his record";
+  EXPECT_EQ(parts, counted) << "everybody in a match has it in their record";
   EXPECT_TRUE(std::includes(held.begin(), held.end(), fought.begin(), fought.end()));
   const auto kept = ShowsInTheColumn(world);
   ASSERT_EQ(static_cast<int>(kept.size()), kKeptShows);

@@ -59,7 +59,7 @@ TEST_F(GameCommands, NewSaysWhatIsNotThere) {
       "]=1",
       New("1", "1", "CWAA"));
   EXPECT_FALSE(std::filesystem::exists(In("s1")));
-  EXPECT_EQ("[grapplemont-world new: \"H/none\" is no folder.\n]=1",
+  EXPECT_EQ("[grapplemont-world new: \"H/none\" is not a folder.\n]=1",
             Say("new --home H/none --slot 1 --player P --promotion CWA"));
 }
 

@@ -113,7 +113,7 @@ TEST_F(TableCommands, CheckListsEveryFault) {
     }
   const std::string checked = Say("check H/odd");
   for (const char* line :
-       {"event.dat: is missing\n", "teams.dat: ends in 3 bytes that are no whole record\n",
+       {"event.dat: is missing\n", "teams.dat: ends in 3 bytes that are not a whole record\n",
         "wrestler.dat, record 2 (CWA Hand 2), Employer: is 99, but there is no such promotion\n",
         "tv.dat, record 1 (Friday Fire), Day: is \"Tonight\", no known code\n"})
     EXPECT_NE(std::string::npos, checked.find(line)) << line << "in\n" << checked;
@@ -128,13 +128,13 @@ TEST_F(TableCommands, SayWhatFolderIsNoneInUtf8WhateverIsTyped) {
   Write("file", "x");
   fs::create_directories(In("empty"));
   const std::pair<const char*, std::string> kRows[] = {
-      {"check H/nowhere", "check: \"H/nowhere\" is no folder."},
-      {"check H/file", "check: \"H/file\" is no folder."},
-      {"check H/caf\xE9", "check: \"H/caf\xC3\xA9\" is no folder."},
-      {"check H/caf\xC3\xA9", "check: \"H/caf\xC3\xA9\" is no folder."},
+      {"check H/nowhere", "check: \"H/nowhere\" is not a folder."},
+      {"check H/file", "check: \"H/file\" is not a folder."},
+      {"check H/caf\xE9", "check: \"H/caf\xC3\xA9\" is not a folder."},
+      {"check H/caf\xC3\xA9", "check: \"H/caf\xC3\xA9\" is not a folder."},
       {"check H/empty", "check: \"H/empty\" holds no file of a world."},
       {"export H/empty H/t", "export: \"H/empty\" holds no file of a world."},
-      {"build H/nowhere H/d", "build: \"H/nowhere\" is no folder."}};
+      {"build H/nowhere H/d", "build: \"H/nowhere\" is not a folder."}};
   for (const auto& [typed, why] : kRows)
     EXPECT_EQ("[grapplemont-world " + why + "\n]=1", Say(typed));
   Write("huge/wrestler.dat", std::string(std::size_t{237} * 25001, ' '));

@@ -161,7 +161,7 @@ TEST_F(TheTable, KeepsItsStateWhenTheRowsChange) {
   EXPECT_TRUE(Table.Follow());
   EXPECT_EQ(Keys(), Numbers({21, 23}));
   List.Select(2);
-  EXPECT_FALSE(Table.Follow()) << "picking is no change of contents";
+  EXPECT_FALSE(Table.Follow()) << "picking is not a change of contents";
 }
 
 TEST_F(TheTable, HidesAndMovesColumnsButNeverAll) {
@@ -197,7 +197,7 @@ TEST_F(TheTable, ShowsItsViewsAndThePlayersOwn) {
   Table.TakeView("Short");
   EXPECT_EQ(Table.Columns(), Numbers({2, 0}));
   Table.Show(3, true);
-  EXPECT_EQ(Table.State().View, "") << "changed, it is no view any more";
+  EXPECT_EQ(Table.State().View, "") << "changed, it is not a view any more";
   Table.TurnSort(2, false);
   Table.SetFilter(1, "Heel");
   Table.KeepView("Mine");
@@ -245,7 +245,7 @@ TEST_F(TheTable, IgnoresAStateOfColumnsThatAreGone) {
   state.Hidden = {"Gone", "Name", "Disp.", "Over", "Condition"};
   const ui::Table table(List, state);
   EXPECT_EQ(table.Rows().size(), 5U);
-  EXPECT_EQ(table.Columns().size(), 4U) << "all hidden is none hidden";
+  EXPECT_EQ(table.Columns().size(), 4U) << "they are not all hidden";
   EXPECT_EQ(table.Columns().front(), 2);
 }
 

@@ -163,7 +163,7 @@ TEST_F(EmbeddingTest, RefusesTablesThatDoNotSayWhatTheyMust) {
       {"angles.txt", "1 Joining, Stable (Stables)", "1 Joining, 2 Stable (Stables)",
        "Cast: no worker stands in the box \"Stable\", and so it has no place"},
       {"angles.txt", "1 Challenger, 2 Challengee |", "- |", "Cast: may not be empty"},
-      {"angles.txt", "1>3 2>4", "1>3 2", "Scores: \"2\" is no pair like 2>1"},
+      {"angles.txt", "1>3 2>4", "1>3 2", "Scores: \"2\" is not a pair like 2>1"},
       {"angles.txt", "| 1 Leader ", "| 1 Leaser ",
        "Talk: there is no such thing as \"Leaser\"; did you mean Leader?"},
       {"angles.txt", "29 | ", "28 | ",

@@ -16,7 +16,7 @@ constexpr int kCloseCall = 8, kNoContestGap = 30;
 constexpr int kSameWeight = 3;
 /// A star who is fresh and left out takes it to heart.
 constexpr int kRestless = 6, kFresh = 86;
-/// So many points of condition are worth one: everybody has his turn.
+/// So many points of condition are worth one: everybody has their turn.
 constexpr int kRested = 4;
 /// Enemies have had their part of the show.
 constexpr int kNotAgain = 30;
@@ -49,7 +49,7 @@ bool ShareAMember(const Team& a, const Team& b) {
          a.Worker2 == b.Worker2;
 }
 
-/// Tries a match of the lead with whoever suits him best.
+/// Tries a match of the lead with whoever suits them best.
 bool BookLead(AutoPlan& plan, const Worker& lead, const std::vector<const Worker*>& from) {
   for (const Worker* opponent : OpponentsFor(plan, lead, from)) {
     const Wish wish{.Feud = FeudExists(plan.World, lead.Uid, opponent->Uid)};

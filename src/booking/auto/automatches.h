@@ -16,7 +16,7 @@ struct Wish {
   bool MayDraw = false;   // better a draw than no match
 };
 
-/// Team mates and those of one stable; a manager and his client.
+/// Team mates and those of one stable; a manager and their client.
 bool InOneCorner(const World& world, const Worker& a, const Worker& b);
 /// Face against Heel draws, two Heels do not.
 int ContrastOf(const Worker& a, const Worker& b);
@@ -24,7 +24,7 @@ int ContrastOf(const Worker& a, const Worker& b);
 int PairScore(AutoPlan& plan, const Worker& a, const Worker& b);
 /// Luck of one worker or pair: 1 to this.
 inline constexpr int kVariety = 14;
-/// A score below this is no match.
+/// A score below this is not a match.
 inline constexpr int kNoPair = -50;
 
 /// The best opponents for `lead` among `from`, best first, four at most. Draws for each.

@@ -63,7 +63,7 @@ class AutoPool {
   std::vector<const Worker*> Newcomers() const;
 
  private:
-  /// Of nobody where the worker is none of them.
+  /// Of nobody where the worker is not one of them.
   const Hand& Find(int uid) const;
   bool MayWrestle(const Hand& hand) const;
 
@@ -127,7 +127,7 @@ std::vector<T> BestOf(std::vector<std::pair<int, T>> ranked, std::size_t most = 
   return best;
 }
 
-/// A Segment of these people in their order, empty but for them.
+/// A Segment of these people in their order, otherwise empty.
 Segment NewSegment(int kind, int style, const std::vector<int>& people);
 
 /// A chance in a hundred. Draws once.

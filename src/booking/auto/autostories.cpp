@@ -175,7 +175,7 @@ bool IsTimeToTurn(const World& world, const Worker& worker) {
   return worker.TurnPending && (world.Today() - Day(worker.LastTurn)).count() >= kFansRemember;
 }
 
-/// Somebody to turn on for a turn that the fans accept: his own kind for a Face or Heel, anybody
+/// Somebody to turn on for a turn that the fans accept: their own kind for a Face or Heel, anybody
 /// with a side for a Tweener. A team mate first, then the most popular.
 const Worker* WhomToTurnOn(const AutoPlan& plan, const Worker& turner) {
   const Worker* best = nullptr;
@@ -195,7 +195,7 @@ int TurnAngle(const AutoPlan& plan, const Worker& turner, const Worker& other) {
   return other.Disposition == "F" ? kHeelTurnAngle : kFaceTurnAngle;
 }
 
-/// The loser of a match with his own kind shows his true colours.
+/// The loser of a match with their own kind shows their true colours.
 bool TurnInMatch(AutoPlan& plan, const Worker& turner, const Worker& other) {
   if (!plan.WantsMatch() || !plan.Pool.MayWrestle({turner.Uid, other.Uid})) return false;
   Segment match = NewMatch(kSingles, kPlainSingles, {turner.Uid, other.Uid});
@@ -237,7 +237,7 @@ bool Introduce(AutoPlan& plan, const Worker& newcomer) {
          DebutInMatch(plan, newcomer);
 }
 
-/// A manager is introduced by his client.
+/// A manager is introduced by their client.
 bool IntroduceManager(AutoPlan& plan, const Worker& manager) {
   for (const Worker* client : plan.Pool.People())
     if (client->Manager == manager.Uid && client->Debuted && plan.WantsTalk() &&

@@ -83,7 +83,7 @@ const AngleTaste* DrawTaste(AutoPlan& plan, std::vector<const AngleTaste*>& tast
   return taste;
 }
 
-/// The manager both or the one have, when he may talk tonight; nullptr for none.
+/// The manager both or the one have, when they may talk tonight; nullptr for none.
 const Worker* ManagerOf(const AutoPlan& plan, const std::vector<int>& clients) {
   const Worker* first = plan.World.FindWorker(clients[0]);
   const Worker* manager = first ? plan.World.FindWorker(first->Manager) : nullptr;

@@ -29,7 +29,7 @@ bool BookScene(AutoPlan& plan, AngleScene scene, const std::vector<int>& actors,
 bool BookAngle(AutoPlan& plan, int number, const std::vector<int>& people, int weight);
 
 /// Plans that the stable which the worker leads lays a beating on the victim, once a show. False
-/// when he leads none.
+/// when they lead none.
 bool BookStableAttack(AutoPlan& plan, const Worker& leader, int victim);
 
 /// Plans an interview of one or of a team, the manager beside them when they have one who talks.

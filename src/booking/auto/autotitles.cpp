@@ -29,7 +29,7 @@ constexpr int kTopChance = 5;  // of the top Title on one of the week's shows
 constexpr int kLesserChance = 25;
 constexpr int kVacantChance = 50;
 constexpr int kFeudsForIt = 90;
-constexpr int kNeedNotRise = 20;  // a contender this far below the champion is none
+constexpr int kNeedNotRise = 20;  // this far below the champion nobody is a contender
 constexpr int kHasGold = 12;
 /// Not the same challenger month after month.
 constexpr int kNewBlood = 20;

@@ -155,9 +155,12 @@ class frmBookSheet : public ui::Screen, public WizardHost {
   ui::Array<ui::Button> cmdbook =
       ForRows<ui::Button>("cmdbook", "Select", &frmBookSheet::cmdbook_Click);
   ui::Array<ui::Button> cmdjump{"", kRows, [this](const std::string&, int i) {
-                                  return std::make_unique<ui::Button>(
+                                  auto jump = std::make_unique<ui::Button>(
                                       *this, "cmdjump(" + std::to_string(i - 1) + ")", "Change",
                                       [this, i] { GoTo(i - 1); });
+                                  jump->Key = "Alt+" + std::to_string(i);
+                                  jump->Tip = jump->Key + " changes this step.";
+                                  return jump;
                                 }};
   ui::Label lblforecast{*this, "lblforecast"};
   ui::Label lblprice{*this, "lblprice"};

@@ -106,7 +106,7 @@ class frmQuickStat : public GameScreen {
   explicit frmQuickStat(Game& game, int workerUid = 0)
       : GameScreen(game, "frmQuickStat", "Stats"), first_(workerUid) {
     lstwres.EmptyText = "Nobody is here.";
-    lststats.EmptyText = "Choose somebody to see his numbers.";
+    lststats.EmptyText = "Choose somebody to see their numbers.";
   }
 
   ui::Page Layout() override {
@@ -159,13 +159,14 @@ class frmQuickStat : public GameScreen {
   ui::Report txtworker{*this, "txtworker"};
 };
 
-/// Who waits for his first appearance, and the ways to it.
+/// Who waits for their first appearance, and the ways to it.
 class frmDebut : public GameScreen {
  public:
   explicit frmDebut(Game& game, bool isEvent = false)
       : GameScreen(game, "frmDebut", "Debuts"), isEvent_(isEvent) {
     lstwres.EmptyText = "Everybody on your roster has been seen. Whom you sign waits here.";
     lststats.EmptyText = "The numbers of whoever waits stand here.";
+    lstways.EmptyText = "Choose somebody to see how they can be brought out.";
   }
 
   ui::Page Layout() override {

@@ -36,7 +36,7 @@ class SheetScreen : public GameScreen {
   virtual CommentaryTeam Team() = 0;
   /// The line under the title.
   virtual std::string Facts() = 0;
-  /// Rows of the table that are no Segment, above them all.
+  /// Rows of the table that are not Segments, above them all.
   virtual std::string TopRow() = 0;
   /// Asks, and begins the show in the world; false when it does not come to that.
   virtual bool Begin() = 0;

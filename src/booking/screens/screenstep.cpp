@@ -99,10 +99,12 @@ void StepScreen::MakeButtons() {
   cmdnext = std::make_unique<ui::Button>(*this, "cmdnext", "Next", [this] { Finish(true); });
   cmdjump = std::make_unique<ui::Array<ui::Button>>(
       "cmdjump", kLines, [this](const std::string& name, int line) {
-        return std::make_unique<ui::Button>(*this, name, std::to_string(line), [this, line] {
+        auto jump = std::make_unique<ui::Button>(*this, name, std::to_string(line), [this, line] {
           Close();
           host_.GoTo(line - 1);
         });
+        jump->Key = "Alt+" + std::to_string(line);
+        return jump;
       });
 }
 
@@ -137,7 +139,9 @@ void StepScreen::ShowStep(int step) {
   ui::Button& jump = (*cmdjump)(step + 1);
   jump.Visible = isNow || isDone || kept;
   jump.Enabled = isDone;
-  jump.Tip = isDone  ? "Go back to this step. What the later ones hold stays as far as it can."
+  jump.Tip = isDone ? jump.Key +
+                          " goes back to this step. What the later ones hold stays as far as "
+                          "it can."
              : isNow ? "This is the step that is open."
                      : "Kept from before, if it still holds then.";
 }

@@ -55,7 +55,7 @@ std::vector<int> SuggestedLosers(const Segment& match, int winner);
 /// it would.
 std::string WhyNotLeft(const Segment& match, MatchStep step);
 
-/// The Title has a holder, and he does not stand in the match.
+/// The Title has a holder, and they do not stand in the match.
 bool IsChampionMissing(const Segment& match, const Title& title);
 
 }  // namespace grapplemont

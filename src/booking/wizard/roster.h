@@ -41,7 +41,7 @@ std::vector<const MatchTypeRow*> OfferedMatchTypes(const World& world, int style
 /// The player's Titles that a match may be for.
 std::vector<const Title*> OfferedTitles(const World& world, const Segment& match);
 
-/// The player's writers, and his television shows.
+/// The player's writers, and their television shows.
 int PlayerWriters(const World& world);
 int PlayerShows(const World& world);
 /// Whether they can write an angle: for an Event any writer will do.

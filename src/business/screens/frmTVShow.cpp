@@ -115,7 +115,7 @@ class frmShowName : public ShowScreen {
   }
 
   ui::TextBox txtname{*this, "txtname"};
-  ui::Label lblpast{*this, "lblpast", "Its charts begin anew: the past keeps the old name."};
+  ui::Label lblpast{*this, "lblpast", "Its charts start again: the past keeps the old name."};
   ui::Button cmdchange{*this, "cmdchange", "Change Name", &frmShowName::cmdchange_Click};
 };
 
@@ -126,7 +126,7 @@ ui::Cell KindCell(const Commentator& person) {
 const CellColumns<Commentator> kCommentatorTable = {
     {{"Name", K::Text, 4}, [](const Commentator& person) { return person.Name; }},
     {{"Is", K::Text, 2}, KindCell},
-    {{"Talent", K::Percent, 3, "A worker's is his charisma."},
+    {{"Talent", K::Percent, 3, "A worker's is their charisma."},
      [](const Commentator& person) {
        return person.Uid == 0 ? ui::Cell("") : ui::Cell(person.Skill);
      }},

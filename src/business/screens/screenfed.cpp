@@ -178,7 +178,7 @@ class FedSplits : public FedPart {
     Show();
   }
 
-  /// Those who are there already stay; the first who cannot go there is told about.
+  /// Those who are there already stay; the first who cannot go there is reported.
   void Assign(const std::string& split) {
     std::string why;
     for (const int uid : lstpeople.Keys()) {

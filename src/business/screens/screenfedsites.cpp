@@ -101,7 +101,7 @@ constexpr SiteKind kCamp = {
     "Nobody is in the camp. Send somebody young and raw there from the roster."};
 constexpr SiteKind kTerritory = {
     "dev", "Development territory", "development territory", Office::DevBooker,
-    "Nobody is in the territory. Send somebody there from the roster, or sign him to develop."};
+    "Nobody is in the territory. Send somebody there from the roster, or sign them to develop."};
 
 constexpr const char* kBest = "No camp in the world has better facilities.";
 

@@ -112,14 +112,15 @@ class frmEvent : public GameScreen {
 
   ui::ListBox::Row RowOf(int month) {
     const Day day = NextEventDay(world(), month);
+    const ui::Cell name{double(month), std::string(MonthName(month))};
     const ui::Cell date{static_cast<double>((day - kDayZero).count()), PlainDate(day)};
     const grapplemont::Event* event = PlayerEvent(world(), month);
     if (!event)
-      return {{MonthName(month), ui::Cell("Nothing planned", ui::Tone::Muted), "", "", date,
-               MarkOf(month, false)},
-              month};
+      return {
+          {name, ui::Cell("Nothing planned", ui::Tone::Muted), "", "", date, MarkOf(month, false)},
+          month};
     const int cost = EventProductionCost(event->Type);
-    return {{MonthName(month), event->Name.View(), Says(kEventTypes, event->Type),
+    return {{name, event->Name.View(), Says(kEventTypes, event->Type),
              ui::Cell(cost, Dollars(cost)), date, MarkOf(month, true)},
             month};
   }
@@ -193,7 +194,7 @@ class frmEvent : public GameScreen {
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstevents{*this,
                         "lstevents",
-                        {{"Month", K::Text, 3},
+                        {{"Month", K::Date, 3},
                          {"Event", K::Text, 5},
                          {"Type", K::Text, 3},
                          {"Cost", K::Number, 2, "What its production costs."},

@@ -203,7 +203,7 @@ class frmMainScreen : public ui::Screen {
     lstmail.Fill(std::move(rows));
   }
 
-  /// One line for all that the latest day has told of other promotions.
+  /// One line for all news of other promotions from the latest day.
   void ShowDigest() {
     const std::vector<Digest> digests = DigestsOf(world());
     lblworld.Visible = !digests.empty();
@@ -221,8 +221,10 @@ class frmMainScreen : public ui::Screen {
       const bool isToday = show.On == world().Today();
       if (isToday) today += (today.empty() ? "" : ", ") + show.What;
       rows.push_back({{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)),
-                       show.What, ui::Cell(day, std::string(DayName(show.On))),
-                       ui::Cell(show.Kind, ToneOf(show)), BookedText(world(), show)},
+                       show.What,
+                       {double(DayNumber(DayName(show.On))), std::string(DayName(show.On))},
+                       ui::Cell(show.Kind, ToneOf(show)),
+                       BookedText(world(), show)},
                       static_cast<int>(rows.size()) + 1});
     }
     lstahead.Fill(std::move(rows), false);
@@ -251,7 +253,7 @@ class frmMainScreen : public ui::Screen {
     if (endCode == 0 && HasIncident(world())) OpenUnlessOpen("frmIncident");
   }
 
-  /// Once is enough: afterwards the player reads the world as he left it.
+  /// Once is enough: afterwards the player reads the world as they left it.
   void TellTheEnd() {
     if (endIsTold_) return;
     endIsTold_ = true;

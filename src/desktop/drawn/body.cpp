@@ -44,7 +44,7 @@ QPainterPath Front(double inner, double outer, double low) {
   return path;
 }
 
-/// Everything, but for a neckline in the form of a V that ends at `low`.
+/// Everything, except a neckline in the form of a V that ends at `low`.
 QPainterPath Collar(double neck, double low) {
   return Polygon({{0, 60},
                   {kMiddle - neck - 3, 60},

@@ -111,7 +111,7 @@ class frmEditTables : public GameScreen {
       return;
     TakeOver(data(), *preview_.Made);
     Forget();
-    lblfacts.Text = "Built the data anew: " + ContentsOf(data()) + ".";
+    lblfacts.Text = "Built the data again: " + ContentsOf(data()) + ".";
   }
 
   using K = ui::ColumnKind;

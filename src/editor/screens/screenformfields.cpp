@@ -144,7 +144,7 @@ std::vector<Choice> FinisherTypes() {
 }
 
 /// One of several words: of a vocabulary, another record by name, or how a finisher is done. What
-/// the record holds is told as text: a code, a name, or a uid, of a worker who comments below 0.
+/// the record holds is shown as text: a code, a name, or a uid, of a worker who comments below 0.
 class PickEntry : public FormField {
  public:
   PickEntry(ui::Screen& screen, RecordKind kind, FieldPlace place, const FormEntry& entry,

@@ -54,7 +54,7 @@ class frmNews : public GameScreen {
   /// Empty for everybody.
   std::string From() const { return cmbfrom.Selected() <= 1 ? std::string() : cmbfrom.Text.Get(); }
 
-  /// A sender whose last mail has gone leaves the list, and the filter with him.
+  /// A sender whose last mail has gone leaves the list, and the filter with them.
   void ShowSenders() {
     const std::string kept = From();
     cmbfrom.Clear();

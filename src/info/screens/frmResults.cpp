@@ -200,7 +200,10 @@ ui::Cell MoneyCell(int dollars) {
 const CellColumns<HistoryEntry> kShows = {
     {{"Date", K::Date}, [](const HistoryEntry& show) { return ShortDayCell(show.On); }},
     {{"Show", K::Text, 4}, [](const HistoryEntry& show) { return show.Name.View(); }},
-    {{"Day"}, [](const HistoryEntry& show) { return DayName(show.On); }},
+    {{"Day", K::Date},
+     [](const HistoryEntry& show) {
+       return ui::Cell(double(DayNumber(DayName(show.On))), std::string(DayName(show.On)));
+     }},
     {{"Kind", K::Tag}, KindCell},
     {{"Rating", K::Percent},
      [](const HistoryEntry& show) { return HeldCell(show, int(show.Rating)); }},

@@ -89,7 +89,7 @@ class frmTalk : public GameScreen {
     desk().Open(advice->Screen);
   }
 
-  /// Where the roster is to be seen about one person alone, his page; else nothing.
+  /// Where what there is to see concerns one person alone, their page; else nothing.
   ui::Handler PageOfTheOne(const Advice& advice) {
     if (std::string_view(advice.Screen) != "frmRoster") return {};
     const std::string_view says = advice.Says;

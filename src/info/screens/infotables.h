@@ -3,7 +3,7 @@
 #include "records/fields/fields.h"
 #include "storylines/screens/screenpeople.h"
 
-// How what is told stands in tables.
+// How news and the past stand in tables.
 
 namespace grapplemont {
 

@@ -16,7 +16,7 @@ namespace grapplemont {
 namespace {
 
 void SweepPromotions(World& world) {
-  // A mark may share its uid with a promotion that lives; nobody loses his job over that.
+  // A mark may share its uid with a promotion that lives; nobody loses their job over that.
   for (Promotion& gone : world.Promotions())
     for (const Promotion& other : world.Promotions())
       if (gone.Name == kToBeDeleted && !(other.Name == kToBeDeleted) && gone.Uid == other.Uid)
@@ -105,7 +105,7 @@ void TitlesAgree(Inspection& inspection) {
     else if (title.Holder == 0)
       inspection.Note(titles, title, "Partner", "is set for a vacant Title", alone);
     else if (title.Holder == title.Partner)
-      inspection.Note(titles, title, "Partner", "is the holder himself", alone);
+      inspection.Note(titles, title, "Partner", "is also the holder", alone);
   }
 }
 
@@ -147,7 +147,7 @@ void TitlesAndStablesHaveOneName(Inspection& inspection) {
 void NobodyTeamsWithHimself(Inspection& inspection) {
   RemoveWrong(inspection, inspection.Of().Teams(), "Worker2", [](const Team& team) -> std::string {
     const bool isAlone = team.Worker1 != 0 && team.Worker1 == team.Worker2;
-    return isAlone ? "is the other partner himself" : "";
+    return isAlone ? "is also the other partner" : "";
   });
 }
 
@@ -289,7 +289,7 @@ void MailsAreDated(Inspection& inspection) {
   Records<Mail>& news = inspection.Of().News();
   for (Mail& mail : news)
     if (!IsMailDate(mail.Date))
-      inspection.Note(news, mail, "Date", "is no date like " + ShortDate(kNoTitleDate));
+      inspection.Note(news, mail, "Date", "is not a date like " + ShortDate(kNoTitleDate));
 }
 
 }  // namespace grapplemont

@@ -73,7 +73,7 @@ void InspectDate(Inspection& inspection, const Place& place, const Field& field,
   if (dayZero || (std::isfinite(days) && !asDay.IsNone())) return;
   const bool ofTitle = &place.Layout == &LayoutOf<Title>();
   const Day none = ofTitle ? kNoTitleDate : kDayZero;
-  inspection.NoteField(place, FieldName(field, index), "is no date of the calendar",
+  inspection.NoteField(place, FieldName(field, index), "is not a date of the calendar",
                        {"made " + IsoDate(none), [&field, &place, index, none] {
                           SetFieldDate(field, place.Record, index,
                                        static_cast<double>((none - kDayZero).count()));
@@ -220,7 +220,7 @@ void WholeRecords(Inspection& inspection) {
     if (bytes.size() % size == 0) continue;
     inspection.NoteFile(
         layout->File,
-        "ends in " + std::to_string(bytes.size() % size) + " bytes that are no whole record",
+        "ends in " + std::to_string(bytes.size() % size) + " bytes that are not a whole record",
         {"cut off", [&] {
            const Bytes whole(bytes.begin(),
                              bytes.begin() + static_cast<std::ptrdiff_t>(count * size));

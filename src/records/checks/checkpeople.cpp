@@ -65,7 +65,7 @@ void StablesOfTheEmployer(Inspection& inspection) {
     if (std::any_of(begin, end, [&](auto& owned) { return owned.second == worker.Employer; }))
       continue;
     inspection.Note(world.Workers(), worker, "Stable",
-                    "is " + QuotedText(worker.Stable) + ", no stable of his promotion",
+                    "is " + QuotedText(worker.Stable) + ", not a stable of their promotion",
                     {"made \"None\"", [&worker] { worker.Stable = "None"; }});
   }
 }
@@ -79,7 +79,7 @@ void SplitsOfTheEmployer(Inspection& inspection) {
                                 [&](const auto& split) { return split == worker.Split; }))
       continue;
     inspection.Note(world.Workers(), worker, "Split",
-                    "is " + QuotedText(worker.Split) + ", no part of his promotion's roster",
+                    "is " + QuotedText(worker.Split) + ", not a part of their promotion's roster",
                     {"made \"None\"", [&worker] { worker.Split = "None"; }});
   }
 }
@@ -94,7 +94,7 @@ void ManagersOfTheEmployer(Inspection& inspection) {
     return !byTrade || manager.Position == kManager;
   };
   ForWorkers(
-      inspection, "Manager", "is no manager of the same promotion", "made 0",
+      inspection, "Manager", "is not a manager of the same promotion", "made 0",
       [&](const Worker& worker) {
         const auto found = byUid.find(worker.Manager);
         const Worker* manager = found == byUid.end() ? nullptr : found->second;
@@ -124,7 +124,7 @@ void PotentialOfThirtyAndABirthday(Inspection& inspection) {
       [](const Worker& worker) { return worker.Potential < 30; },
       [](Worker& worker) { worker.Potential = 30; });
   ForWorkers(
-      inspection, "BirthMonth", "is 0, which a game draws anew when it begins", "",
+      inspection, "BirthMonth", "is 0, which a game draws again when it begins", "",
       [](const Worker& worker) { return worker.BirthMonth == 0; }, nullptr);
 }
 
@@ -149,7 +149,7 @@ void OfficesAreHeldByTheOwn(Inspection& inspection) {
     };
     const Worker* head = world.FindWorker(promotion.Commissioner);
     if (head && (head->Employer != promotion.Uid || head->Position != kNonWrestler))
-      note("Commissioner", "is no non-wrestler of the promotion", promotion.Commissioner);
+      note("Commissioner", "is not a non-wrestler of the promotion", promotion.Commissioner);
     const auto isForeign = [&](int uid) {
       const Staff* staff = world.FindStaff(uid);
       return staff && staff->Employer != promotion.Uid;

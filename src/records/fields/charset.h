@@ -12,13 +12,13 @@ namespace grapplemont {
 /// Every byte has a letter; the five that Windows-1252 leaves open become the control codes of the
 /// same number.
 std::string ToUtf8(std::string_view text);
-/// Nothing when the text is no UTF-8 or has a letter that Windows-1252 lacks.
+/// Nothing when the text is not UTF-8 or has a letter that Windows-1252 lacks.
 std::optional<std::string> FromUtf8(std::string_view utf8);
 /// The first letter that FromUtf8 cannot take, in UTF-8; empty when it takes all.
 std::string FirstForeignLetter(std::string_view utf8);
 
-// Names of files and cells of tables hold any bytes. What is no UTF-8 there was most likely written
-// in Windows-1252.
+// Names of files and cells of tables hold any bytes. What is not UTF-8 there was most likely
+// written in Windows-1252.
 
 /// A text from outside for a screen: a question mark for every letter that the program lacks and
 /// for control codes.

@@ -74,7 +74,7 @@ constexpr Field kReignFields[] = {
     REIGN(Initials).Means("Initials of the promotion."),
     REIGN(Worker).LeadsTo(Refers::Worker).Means("Holder; 0 for who has gone."),
     REIGN(Partner).LeadsTo(Refers::Worker).Means("The other half of a pair."),
-    REIGN(Holder).Means("The holder as he was called, or Vacant."),
+    REIGN(Holder).Means("The holder as they were called, or Vacant."),
     REIGN(Defences).Means("Defences on the player's shows; -1 not counted."),
     REIGN(End).In(kReignLasts, kReignDissolved).From(kEnds).Means("How it ended."),
 };
@@ -252,7 +252,7 @@ constexpr Field kDeedFields[] = {
     DEED(Promotion).In(0, 32767).Means("Uid of the promotion, which may be gone; 0 nobody's."),
     DEED(House).Means("The promotion's initials then."),
     DEED(Who).Means("The worker, owner or show, or the promotion's full name."),
-    DEED(Other).Means("Whom he was signed away from, the network, or the injury."),
+    DEED(Other).Means("Whom they were signed away from, the network, or the injury."),
     DEED(Number).Means("Months hurt, weeks on the air, size class reached, or a rival's draw."),
     DEED(Viewers).Counts("hundredths").Means("A show's rating, or its buy rate."),
     DEED(People).Counts("people").Means("A show's crowd."),

@@ -7,7 +7,7 @@
 
 // What a slot keeps of its past beside history.dat: matches and what they add up to, reigns, the
 // words of the last shows, the awards of the years. Names stand there as they were; whoever leaves
-// the world for good leaves his name behind and no uid.
+// the world for good leaves their name behind and no uid.
 
 namespace grapplemont {
 
@@ -58,7 +58,7 @@ struct TitleReign {
   Text<6> Initials;  // of the promotion
   Word Worker;       // uids; 0 for nobody and for who has gone
   Word Partner;
-  Text<25> Holder;                      // as the Title's own record names him; "Vacant"
+  Text<25> Holder;                      // as the Title's own record names them; "Vacant"
   RangedWord<0, 32767, true> Defences;  // on the player's shows; kNoEnd where nobody counts
   Word End;
 };
@@ -143,10 +143,10 @@ GM_RECORD(WorkerMonths, 74);
 
 /// MoodChange.Why.
 enum MoodReason {
-  kMoodMatchGood = 1,  // a match above his standing
+  kMoodMatchGood = 1,  // a match above their standing
   kMoodMatchBad,
   kMoodWon,
-  kMoodHeldDown,  // lost while his place on the card is too low
+  kMoodHeldDown,  // lost while their place on the card is too low
   kMoodBooked,    // holds a booking against the player
   kMoodLeftOut,   // a star who was on no show
   kMoodMovedUp,
@@ -196,7 +196,7 @@ struct ShowNote {
   Date On;
   Word Promotion;  // uid
   Word Kind;
-  Word Worker;    // uid; 0 for what is no worker's, and for who has gone
+  Word Worker;    // uid; 0 where no worker is meant, and for who has gone
   Word Row;       // of the sheet; 0 for what happened beside it
   Text<54> What;  // whose number it is, as it was called
   Long Change;
@@ -266,7 +266,7 @@ struct Deed {
   Word Promotion;  // uid; 0 nobody's; it may be gone
   Text<6> House;   // its initials then
   Text<40> Who;    // a worker, an owner, a show, or the promotion's full name
-  Text<40> Other;  // whom he was stolen from, the network, the injury
+  Text<40> Other;  // whom they were stolen from, the network, the injury
   RangedWord<-32768, 32767>
       Number;  // months hurt, weeks on the air, the size class reached, a rival's roster's draw
   Hundredths Viewers;                  // hundredths: of a show that was held

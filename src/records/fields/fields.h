@@ -156,7 +156,7 @@ class Date {
  public:
   Date() = default;
   explicit Date(Day day) { *this = day; }
-  /// The calendar day; day zero for a number that is none or lies outside the years 100 to 9999.
+  /// The calendar day; day zero for a number that is invalid or lies outside the years 100 to 9999.
   operator Day() const;
   Date& operator=(Day day);
   double Raw() const;

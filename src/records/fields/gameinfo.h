@@ -69,7 +69,7 @@ inline constexpr std::string_view kVersion = "Version 2.0";
 enum ShowStage { kNoShow = 0, kShowRuns, kShowClosed };
 
 /// A show that is under way: the one record of showrun.dat, there from "Start The Show!" until the
-/// day moves on. It is what a program that was killed amid a show needs to go on with the Segment
+/// day moves on. It is what a program that was killed during a show needs to go on with the Segment
 /// that was to come.
 struct ShowRun {
   Word Stage;

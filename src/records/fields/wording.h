@@ -58,7 +58,7 @@ struct CountedSlot {
   bool SaysCount = true;
 };
 
-/// Nothing where the slot is none of that kind.
+/// Nothing where the slot is not of that kind.
 inline std::optional<CountedSlot> ReadCounted(std::string_view slot) {
   const auto name = slot.find_first_of(":?"), bar = slot.find('|');
   if (name == slot.npos || bar == slot.npos || bar < name) return std::nullopt;

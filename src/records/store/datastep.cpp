@@ -48,7 +48,7 @@ std::optional<StepFile> UnpackStep(Unpacker& in) {
   return file;
 }
 
-/// Nothing for bytes that are no whole step.
+/// Nothing for bytes that are not a whole step.
 std::optional<DataStep> Unpack(ByteSpan bytes) {
   Unpacker in(bytes);
   const ByteSpan mark = in.Take(kStepMark.size());

@@ -157,7 +157,7 @@ class MachineDisk : public Disk {
     struct stat about {};
     if (::fstat(handle, &about) != 0 || !S_ISREG(about.st_mode)) {
       ::close(handle);
-      throw DiskError(path, "open", "it is no plain file");
+      throw DiskError(path, "open", "it is not a plain file");
     }
     paths_[handle] = path;
     return handle;

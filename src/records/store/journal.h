@@ -106,12 +106,12 @@ const KnownFile* FindFile(const std::vector<KnownFile>& known, std::string_view 
 
 /// One block.
 Bytes PackMarker(const JournalMarker& marker);
-/// Nothing where the block is no whole marker.
+/// Nothing where the block is not a whole marker.
 std::optional<JournalMarker> UnpackMarker(ByteSpan block);
 
 /// Whole blocks.
 Bytes PackSeal(const WorldSeal& seal);
-/// Nothing where the bytes are no whole seal.
+/// Nothing where the bytes are not a whole seal.
 std::optional<WorldSeal> UnpackSeal(ByteSpan bytes);
 
 /// The record's bytes, padded to whole blocks.

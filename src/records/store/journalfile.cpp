@@ -30,7 +30,7 @@ void JournalFile::Drop() {
 Bytes JournalFile::Read(std::int64_t limit) {
   const Disk::Kind kind = disk_.Look(path_);
   if (kind == Disk::Kind::Nothing) return {};
-  if (kind != Disk::Kind::File) throw DiskError(path_, "open", "it is no plain file");
+  if (kind != Disk::Kind::File) throw DiskError(path_, "open", "it is not a plain file");
   const Disk::Handle handle = Handle();
   Bytes bytes(static_cast<std::size_t>(std::min(size_, limit)));
   if (!bytes.empty()) disk_.ReadAt(handle, 0, bytes);

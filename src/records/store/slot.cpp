@@ -88,7 +88,7 @@ struct Slot::Insides {
 void Slot::Insides::Open(Damage damage) {
   FinishSwap(Disk, Folder);
   if (Disk.Look(Folder) != Disk::Kind::Folder)
-    throw DiskError(Folder, "open", "it is no plain folder");
+    throw DiskError(Folder, "open", "it is not a plain folder");
   LookOver();
   const StoredSlot stored = ReadStoredSlot(Disk, Folder, Known, ReadJournal());
   SlotFinding finding = Examine(stored, Known, Options);
@@ -123,7 +123,7 @@ void Slot::Insides::LookOver() {
     if (std::any_of(Known.begin(), Known.end(), is("")) || name == kWorldIdName ||
         name == kJournalName || name == kSealName) {
       if (Disk.Look(Path(name)) != Disk::Kind::File)
-        throw DiskError(Path(name), "open", "it is no plain file");
+        throw DiskError(Path(name), "open", "it is not a plain file");
     } else if (std::any_of(Known.begin(), Known.end(), is(kRoomSuffix)) ||
                name == kJournalName + std::string(kBesideSuffix) ||
                name == kWorldIdName + std::string(".tmp")) {
@@ -240,7 +240,7 @@ bool Slot::Insides::TryRecover() {
 void Slot::Insides::Require(const std::vector<FileChange>& changes) const {
   for (const FileChange& change : changes) {
     const KnownFile* known = FindFile(Known, change.Name);
-    if (!known) throw std::invalid_argument(change.Name + " is no file of a slot.");
+    if (!known) throw std::invalid_argument(change.Name + " is not a file of a slot.");
     if (std::ssize(change.After) > known->MaxBytes)
       throw std::invalid_argument(change.Name + " would be longer than its most of " +
                                   std::to_string(known->MaxBytes) + " bytes.");

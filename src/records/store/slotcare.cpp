@@ -53,7 +53,7 @@ std::vector<NewFile> UnpackSlot(ByteSpan bytes, const std::string& path) {
   Unpacker in(bytes);
   const std::string file = ForScreen(path);
   if (!std::ranges::equal(in.Take(kSlotMark.size()), std::as_bytes(std::span(kSlotMark))))
-    throw WorldFault(file + " is no saved game that was exported. Choose another file.");
+    throw WorldFault(file + " is not an exported saved game. Choose another file.");
   if (in.Get<std::uint32_t>() != kSlotFormat)
     throw WorldFault(file + " was exported by another version of the game and cannot be read.");
   const auto checksum = in.Get<std::uint64_t>();
@@ -63,7 +63,7 @@ std::vector<NewFile> UnpackSlot(ByteSpan bytes, const std::string& path) {
   for (auto left = in.Get<std::uint32_t>(); sound && left > 0; --left) {
     const std::string name = in.GetText<std::uint16_t>();
     const ByteSpan contents = in.Take(in.Get<std::uint64_t>());
-    const std::int64_t most = MostBytesOf(name);  // 0 for what is no file of a slot
+    const std::int64_t most = MostBytesOf(name);  // 0 for what is not a file of a slot
     sound = in.Whole() && most > 0 && std::ssize(contents) <= most && names.insert(name).second;
     files.push_back({name, Bytes(contents.begin(), contents.end())});
   }

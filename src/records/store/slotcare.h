@@ -22,7 +22,7 @@ std::vector<NewFile> ReadSlot(Disk& disk, const std::string& folder);
 
 /// A whole slot as the bytes of one file, for another home.
 Bytes PackSlot(const std::vector<NewFile>& files);
-/// The files in such bytes. Throws WorldFault, naming `path`, for bytes that are none or are
+/// The files in such bytes. Throws WorldFault, naming `path`, for bytes that are invalid or are
 /// spoiled.
 std::vector<NewFile> UnpackSlot(ByteSpan bytes, const std::string& path);
 /// No packed slot is longer.

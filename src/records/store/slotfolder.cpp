@@ -55,10 +55,10 @@ void ClearQuietly(Disk& disk, const std::string& path, const std::string& folder
 void RequirePlainFiles(Disk& disk, const std::string& folder) {
   const Disk::Kind there = disk.Look(folder);
   if (there == Disk::Kind::Nothing) return;
-  if (there != Disk::Kind::Folder) throw DiskError(folder, "replace", "it is no plain folder");
+  if (there != Disk::Kind::Folder) throw DiskError(folder, "replace", "it is not a plain folder");
   for (const std::string& name : disk.List(folder))
     if (IsOfSlot(name) && disk.Look(folder + "/" + name) != Disk::Kind::File)
-      throw DiskError(folder + "/" + name, "replace", "it is no plain file");
+      throw DiskError(folder + "/" + name, "replace", "it is not a plain file");
 }
 
 void PutInPlace(Disk& disk, const std::string& folder, const JournalQuirks& quirks) {

@@ -56,11 +56,11 @@ bool IsOfSlot(std::string_view name);
 void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
                  std::uint64_t worldId, std::int64_t journalBytes, const JournalQuirks& quirks);
 
-/// The same for a folder of record files that is no slot.
+/// The same for a folder of record files that is not a slot.
 void ReplaceFolder(Disk& disk, const std::string& folder, const std::vector<NewFile>& files);
 
 /// Brings a ReplaceSlot that was cut short to its end, or takes it back, and clears its leavings:
-/// what is no slot's among them goes to `folder`. Requires the lock.
+/// what does not belong to a slot among them goes to `folder`. Requires the lock.
 void FinishSwap(Disk& disk, const std::string& folder);
 
 /// Where the slot's files are at this moment, FinishSwap or not; "" when nowhere.

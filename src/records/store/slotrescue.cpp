@@ -172,7 +172,7 @@ class Examination {
       }
     }
     if (!proven) Take(stored_.Files, {});
-    // What a journal held that was cut short nobody knows, but for the seal.
+    // What a journal held that was cut short nobody knows, except for the seal.
     const bool mayBeOld = isCut_ && !applied_.empty() && !(seal && seal->Sequence == proven);
     const bool losesSteps = proven ? *proven < out_.Newest || mayBeOld : hasRecords;
     const std::string spoiled = proven ? "" : NotAsSealed();
@@ -225,7 +225,7 @@ StoredSlot ReadStoredSlot(Disk& disk, const std::string& folder,
     const std::string path = folder + "/" + each.Name;
     const Disk::Kind kind = disk.Look(path);
     if (kind == Disk::Kind::Nothing) continue;
-    if (kind != Disk::Kind::File) throw DiskError(path, "open", "it is no plain file");
+    if (kind != Disk::Kind::File) throw DiskError(path, "open", "it is not a plain file");
     const OpenedFile file(disk, path, false);
     const std::int64_t size = disk.Size(file);
     if (size > each.MaxBytes) stored.TooLong[each.Name] = size;

@@ -115,7 +115,7 @@ std::string TakeNumber(const Field& field, int index, std::string_view cell, std
     return {};
   }
   const auto number = Parse<long long>(cell);
-  if (!number) return QuotedCell(cell) + " is no whole number from " + RangeText(field);
+  if (!number) return QuotedCell(cell) + " is not a whole number from " + RangeText(field);
   if (*number < field.Min || *number > field.Max)
     return "is " + std::to_string(*number) + ", outside " + RangeText(field);
   SetFieldNumber(field, record, index, *number);
@@ -124,7 +124,7 @@ std::string TakeNumber(const Field& field, int index, std::string_view cell, std
 
 std::string TakeDate(const Field& field, int index, std::string_view cell, std::byte* record) {
   const auto days = DaysOfText(cell);
-  if (!days) return QuotedCell(cell) + " is no date; a date is written like 2026-03-31";
+  if (!days) return QuotedCell(cell) + " is not a date; a date is written like 2026-03-31";
   SetFieldDate(field, record, index, *days);
   return {};
 }

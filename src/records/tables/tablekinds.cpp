@@ -9,7 +9,7 @@ namespace grapplemont {
 
 namespace {
 
-// What a table leaves out is 0, "no", nobody or empty, but for what these say.
+// What a table leaves out is 0, "no", nobody or empty, except for what these say.
 
 void Fill(Worker& worker) {
   worker.ContractType = "Non";

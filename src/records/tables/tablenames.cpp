@@ -42,7 +42,7 @@ const Field& FieldOf(const RecordLayout& layout, std::string_view name) {
                        [&](const Field& field) { return field.Name == name; });
 }
 
-/// A commentator is a worker or staff, as his show says.
+/// A commentator is a worker or staff, as their show says.
 Refers Resolved(const Field& field, const std::byte* record) {
   if (field.To != Refers::Commentator) return field.To;
   return reinterpret_cast<const Show*>(record)->ColourIsWorker ? Refers::Worker : Refers::Staff;
@@ -127,7 +127,7 @@ std::string TableNames::WhyNot(const Column& column, std::string_view cell,
   cell = detail::Trimmed(cell);
   if (cell.front() != kNumberMark) return NobodyOf(*column.Of, cell, record);
   const auto uid = NumberOf(cell);
-  if (!uid) return QuotedCell(cell) + " is no record's number; one is written like #17";
+  if (!uid) return QuotedCell(cell) + " is not the number of a record; one is written like #17";
   return "there is no " + std::string(TargetOf(Resolved(*column.Of, record)).What) +
          " of the number " + std::to_string(*uid);
 }

@@ -30,7 +30,7 @@ class CsvReader {
  public:
   explicit CsvReader(std::string_view text);
   /// The next row, in place of what `row` holds; false behind the last one and from the first thing
-  /// on that is no such table.
+  /// on that is not such a table.
   bool Next(CsvRow& row);
   int FaultLine() const { return faultLine_; }  // 0: all went well so far
   const std::string& Fault() const { return fault_; }

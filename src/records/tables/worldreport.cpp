@@ -112,7 +112,7 @@ TablesPlace LookForExport(Disk& disk, const std::string& folder) {
   if (!IsFolder(disk, parent))
     return {"There is no folder " + ForScreen(parent) + " to put it in.", {}};
   if (disk.Look(folder) == Disk::Kind::Nothing) return {};
-  if (!IsFolder(disk, folder)) return {ForScreen(folder) + " is no folder.", {}};
+  if (!IsFolder(disk, folder)) return {ForScreen(folder) + " is not a folder.", {}};
   const bool ofGame = HoldsGame(disk, folder);
   TablesPlace place{{}, disk.List(folder)};
   for (const std::string& name : place.Present)

@@ -42,7 +42,7 @@ class Builder {
     for (const TableKind& kind : TableKinds()) names.push_back(kind.Name);
     for (const auto& [name, text] : tables_)
       if (!IsTable(name) && name.ends_with(".csv"))
-        general_.Note(name, 0, {}, "is no table of a world" + DidYouMean(name, names));
+        general_.Note(name, 0, {}, "is not a table of a world" + DidYouMean(name, names));
   }
 
   /// False when some record is not known by its name.

@@ -23,7 +23,7 @@ struct Building {
 };
 
 /// The world that the tables tell, held to every rule of CheckWorld. Draws nothing. Other files
-/// among the tables are passed over, but for a table whose name is nearly one of a world's.
+/// among the tables are passed over, except a table whose name is nearly one of a world's.
 Building BuildWorld(const Tables& tables);
 
 /// The tables from which BuildWorld makes the same bytes again, for any world without faults.
@@ -33,7 +33,7 @@ Tables ExportWorld(const World& world);
 /// What the records of the world are called in its tables.
 TableNames NamesIn(const World& world);
 
-/// Reads the tables of a folder; what is no table of a world stands among them without its text.
+/// Reads the tables of a folder; what is not a table of a world stands among them without its text.
 /// Throws DiskError, and WorldFault for tables that are too long.
 Tables ReadTables(Disk& disk, const std::string& folder);
 

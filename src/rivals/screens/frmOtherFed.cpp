@@ -164,12 +164,12 @@ class PromotionSheets {
   ui::ListBox lstshows{screen_,
                        "lstshows",
                        {{"Show", K::Text, 4},
-                        {"Day", K::Text, 2},
+                        {"Day", K::Date, 2},
                         {"Slot", K::Text, 2},
                         {"Network", K::Text, 3},
                         {"Last rating", K::Number, 2}}};
   ui::ListBox lstevents{
-      screen_, "lstevents", {{"Event", K::Text, 4}, {"Month", K::Number, 2}, {"Type", K::Text, 2}}};
+      screen_, "lstevents", {{"Event", K::Text, 4}, {"Month", K::Date, 2}, {"Type", K::Text, 2}}};
   ui::ListBox lsttitles{
       screen_,
       "lsttitles",

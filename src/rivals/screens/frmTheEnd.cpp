@@ -48,7 +48,7 @@ class frmTheEnd : public ui::Screen {
   ui::Button cmdmenu{*this, "cmdmenu", "Main Menu", &frmTheEnd::cmdmenu_Click};
 };
 
-/// The stranger's visit. However it is left, he opens his promotion.
+/// The stranger's visit. However it is left, they open their promotion.
 class frmPinky : public GameScreen {
  public:
   explicit frmPinky(Game& game)

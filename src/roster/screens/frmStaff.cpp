@@ -62,7 +62,7 @@ class StaffListScreen : public GameScreen {
     ShowActions(chosen);
   }
 
-  /// Why there can be no talks with him at this moment; empty when there can.
+  /// Why there can be no talks with them at this moment; empty when there can.
   static std::string WhyNot(const Staff* chosen) {
     return chosen ? WhyNoStaffTalks(*chosen) : "Choose somebody first.";
   }

@@ -354,7 +354,7 @@ class frmWorker : public GameScreen {
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmWorker::cmdcontract_Click};
 };
 
-/// His page, if only pages of workers lie above it.
+/// Their page, if only pages of workers lie above it.
 frmWorker* PageBelow(ui::Desk& desk, int uid) {
   const auto& screens = desk.Screens();
   for (auto screen = screens.rbegin(); screen != screens.rend(); ++screen) {

@@ -13,8 +13,8 @@ void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
 void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
                     const std::string& nobody);
 
-/// Two sheets side by side, under a title that names him already: who he is, his work and his skill
-/// at the left, everything else at the right.
+/// Two sheets side by side, under a title that names them already: who they are, their work and
+/// their skill at the left, everything else at the right.
 void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,
                       const std::string& nobody);
 

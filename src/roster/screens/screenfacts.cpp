@@ -16,7 +16,8 @@ namespace {
 using Style = ui::Report::Style;
 using Paragraphs = std::vector<ui::Report::Paragraph>;
 
-constexpr std::size_t kAtLeft = 3;  // groups that everybody has: himself, his work, his skill
+constexpr std::size_t kAtLeft =
+    3;  // groups that everybody has: themselves, their work, their skill
 
 Paragraphs Told(std::span<const FactGroup> groups) {
   Paragraphs words;

@@ -47,7 +47,7 @@ struct Counterpart {
   std::string Name;
   int Employer = 0;  // a Promotion's uid, 0 for a free agent
 };
-/// Why there is nobody to talk to any more: he is gone, works elsewhere, or is bound for good.
+/// Why there is nobody to talk to any more: they are gone, work elsewhere, or are bound for good.
 /// Empty while there is.
 template <class Person>
 std::string WhyTalksOver(const World& world, const Person* person, const Counterpart& was) {
@@ -60,7 +60,7 @@ std::string WhyTalksOver(const World& world, const Person* person, const Counter
   return {};
 }
 
-/// Talks with one person, as long as he is who he was and works where he worked.
+/// Talks with one person, as long as they are who they were and work where they worked.
 class TalkScreen : public GameScreen {
  public:
   TalkScreen(Game& game, std::string name, int uid, Counterpart with);
@@ -70,17 +70,17 @@ class TalkScreen : public GameScreen {
 
  protected:
   virtual std::string WhyOver() = 0;
-  /// The box in which he refuses to listen to any offer; without words when he listens.
+  /// The box in which they refuse to listen to any offer; without words when they listen.
   virtual Remark Refusal() = 0;
   /// Puts on the table what the talks begin with.
   virtual void Begin() = 0;
-  /// Shows him as he is, and opens or closes the table.
+  /// Shows them as they are, and opens or closes the table.
   virtual void Show() = 0;
 
   /// Otherwise says why not and closes.
   bool GoesOn();
   void SayAll(const std::vector<Remark>& remarks);
-  /// A large window: his page, and beside it what is talked about.
+  /// A large window: their page, and beside it what is talked about.
   ui::Page TalkPage(std::vector<ui::Box> beside, std::vector<ui::Button*> actions,
                     ui::Button& offer);
   /// The line under the title; what closed the talks goes before it.
@@ -90,7 +90,7 @@ class TalkScreen : public GameScreen {
 
   int uid_;
   Counterpart with_;
-  std::string closed_;  // what closed the talks; empty while he listens
+  std::string closed_;  // what closed the talks; empty while they listen
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Report txtpage{*this, "txtpage"};
 };
@@ -115,13 +115,13 @@ class TalkWith : public TalkScreen {
 
 inline constexpr const char* kTalksTitle = "Contract Negotiations";
 
-// The way from any worker's page to the talks with him.
+// The way from any worker's page to the talks with them.
 
 /// The tip of what needs a worker.
 inline constexpr const char* kNobodyChosen = "Choose a worker first.";
 /// Why nobody can be moved or made ready for a turn at this moment; empty outside a show.
 std::string WhyNotNow(Game& game);
-/// Why there can be no talks with him at this moment; empty when there can. nullptr for nobody
+/// Why there can be no talks with them at this moment; empty when there can. nullptr for nobody
 /// chosen.
 std::string WhyNoTalks(Game& game, const Worker* worker);
 /// The contract of one of the player's, or the talks with anybody else. Says why there can be none
@@ -129,7 +129,7 @@ std::string WhyNoTalks(Game& game, const Worker* worker);
 void OpenTalks(Game& game, const Worker& worker);
 void OpenTalks(Game& game, const Staff& staff);
 
-/// Puts him on the shortlist or takes him off; says why when there is no room.
+/// Puts them on the shortlist or takes them off; says why when there is no room.
 void TurnShortlist(Game& game, int workerUid);
 /// Shows on the button what it would do; nobody chosen disables it.
 void ShowShortlistButton(Game& game, const Worker* worker, ui::Button& button);

@@ -93,7 +93,7 @@ ui::Cell Disposition(const World&, const Worker& worker) {
 ui::Cell Status(const World&, const Worker& worker) {
   return StatusCell(worker);
 }
-/// Whoever cannot work has that said in the place of his condition.
+/// Whoever cannot work has that said in the place of their condition.
 ui::Cell Condition(const World&, const Worker& worker) {
   if (worker.Status == "Nor") return int(worker.Condition);
   const std::string months = ", " + std::to_string(worker.StatusMonths) + " m";

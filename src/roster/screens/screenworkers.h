@@ -9,7 +9,7 @@
 
 namespace grapplemont {
 
-/// Whose list it is: only the market's has employers to be told.
+/// Whose list it is: only the market's has employers to show.
 enum class PeopleList { Own, Market };
 
 std::vector<ui::Column> WorkerColumns(PeopleList list);

@@ -12,13 +12,13 @@
 namespace grapplemont {
 
 /// A table of workers under its quick filters, the page of the chosen one beside it. Rows are made
-/// when the list or a filter changes; picking one writes his page and no more.
+/// when the list or a filter changes; picking one writes their page and no more.
 class WorkerListScreen : public GameScreen {
  public:
   WorkerListScreen(Game& game, std::string name, std::string title, PeopleList list,
                    std::span<const FilterFamily> filters);
   void Load() override;
-  /// Where the chosen worker is listed no more, the next one takes his place.
+  /// Where the chosen worker is listed no more, the next one takes their place.
   void Return() override;
 
  protected:

@@ -19,7 +19,7 @@ namespace grapplemont {
 namespace {
 
 constexpr const char* kNoPromotion =
-    "The default world has no promotion that can be played. Build it anew, or put back its files.";
+    "The default world has no promotion that can be played. Build it again, or put back its files.";
 
 std::string RoleSuffix(const Worker& worker) {
   if (worker.Position == kManager) return " (Manager)";
@@ -120,7 +120,9 @@ class frmNewGame : public GameScreen {
     lstshows.Clear();
     for (const Show& show : world_.Shows()) {
       if (show.Owner != promotion.Uid) continue;
-      lstshows.Add({show.Name.View(), NetworkName(world_, show.Network), show.Day.View(),
+      lstshows.Add({show.Name.View(),
+                    NetworkName(world_, show.Network),
+                    {double(DayNumber(show.Day)), show.Day.Str()},
                     Says(kTimeSlots, show.Slot)});
     }
   }
@@ -195,7 +197,8 @@ class frmNewGame : public GameScreen {
   ui::Label lblimage{*this, "lblimage"};
   ui::Label lblmoney{*this, "lblmoney"};
   ui::Label lblowner{*this, "lblowner"};
-  ui::ListBox lstshows{*this, "lstshows", {{"Show"}, {"Network"}, {"Day"}, {"Slot"}}};
+  ui::ListBox lstshows{
+      *this, "lstshows", {{"Show"}, {"Network"}, {"Day", ui::ColumnKind::Date}, {"Slot"}}};
   ui::ListBox lstbelts{*this, "lstbelts", {{"Title"}, {"Holder"}, {"Image", K::Number}}};
   ui::ListBox lststaff{*this, "lststaff", {{"Name"}, {"Post"}, {"Talent", K::Number}}};
   ui::ListBox lstroster{

@@ -69,7 +69,10 @@ class frmMatchOutput : public ui::Screen {
   void Load() override {
     ShowFrame();
     if (ShowIsClosed(world())) return Finish();
-    if (world().ShowRuns()[1].Current == 0) return TellNext();
+    if (run().Current == 0) {
+      desk().Hear(ui::Sound::Bell);
+      return TellNext();
+    }
     ShowInterval();
   }
 
@@ -106,6 +109,7 @@ class frmMatchOutput : public ui::Screen {
   void TellNext() {
     if (NextSegment(world()) == 0) return Finish();
     told_ = RunNextSegment(world(), &memory_);
+    if (world().Segments()[run().Current].Kind == kMatch) desk().Hear(ui::Sound::Bell);
     ShowDetails();
     ShowProse();
     ShowFigures();
@@ -218,6 +222,7 @@ class frmPostShow : public GameScreen {
     lbltitle.Text = "Recap Sheet For " + ShowName(world(), run.IsEvent);
     Title = lbltitle.Text.Get();
     const ShowRecap recap = RecapOf(world());
+    desk().Hear(ui::Sound::Crowd);
     lblrating.Text = "The show is rated " + std::to_string(recap.Rating) + "%.";
     lblbest.Text = "Best: " + recap.Best;
     lblworst.Text = "Worst: " + recap.Worst;

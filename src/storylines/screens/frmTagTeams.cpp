@@ -149,7 +149,7 @@ class frmStables : public GameScreen {
  public:
   explicit frmStables(Game& game) : GameScreen(game, "frmStables", "Stables") {
     lststables.EmptyText = "You have no stable yet. Type a name below and found one.";
-    lstmembers.EmptyText = "Nobody is in this stable. Choose somebody at the right and add him.";
+    lstmembers.EmptyText = "Nobody is in this stable. Choose somebody at the right and add them.";
     lstwres.EmptyText = "Everybody you have is in this stable.";
     txtname.Hint = "Name";
   }

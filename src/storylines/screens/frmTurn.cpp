@@ -154,7 +154,7 @@ class frmTurn : public GameScreen {
     const Worker* worker = world().FindWorker(lstwres.Key());
     cmdturn.Text = worker && worker->TurnPending ? "Call The Turn Off" : "Prepare A Turn";
     EnableUnless(cmdturn, worker ? "" : "Choose somebody first.");
-    if (!worker) return txtturn.Write({{Style::Muted, "Choose somebody to read how he stands."}});
+    if (!worker) return txtturn.Write({{Style::Muted, "Choose somebody to read how they stand."}});
     const int days = DaysSinceTurn(world(), *worker);
     txtturn.Write({{Style::Strong, worker->Name.Str()},
                    {Style::Line, std::string(DispositionText(worker->Disposition)) +

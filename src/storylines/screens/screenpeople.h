@@ -69,7 +69,7 @@ void FillPlaces(ui::ListBox& list, const CellColumns<Record>& columns, const All
 ui::Tone DispositionTone(const Worker& worker);
 /// "Face" in blue, "Heel" in red, "Tweener" in grey.
 ui::Cell DispositionCell(const Worker& worker);
-/// Nothing for somebody who is fit, else why he is not, in red.
+/// Nothing for somebody who is fit, else why they are not, in red.
 ui::Cell StatusCell(const Worker& worker);
 
 /// Name, disposition and Over; then `more`.

@@ -93,7 +93,8 @@ std::string WhyNoPlaces(const std::string& cell, const Column& column) {
   for (const std::string& each : CellsOf(cell, ' ')) {
     const auto places = PlacesIn(each);
     if (places.size() != (arePairs ? 2 : 1))
-      return InQuotes(each) + (arePairs ? " is no pair like 2>1" : " is no place from 1 to 4");
+      return InQuotes(each) +
+             (arePairs ? " is not a pair like 2>1" : " is not a place from 1 to 4");
     for (const std::string& place : places)
       if (place.size() != 1 || place[0] < '1' || place[0] > '0' + kPlaces)
         if (std::string why = WhyNotOneOf(column.Choices, place); !why.empty()) return why;
@@ -184,7 +185,7 @@ class Reader {
                                                                    : std::string();
     switch (column.Is) {
       case Column::Number:
-        return IsNumber(cell) ? "" : InQuotes(cell) + " is no number";
+        return IsNumber(cell) ? "" : InQuotes(cell) + " is not a number";
       case Column::Phrase:
         return WhyNoPhrase(cell);
       case Column::RuleName:
