@@ -1,14 +1,39 @@
 #include "records/score.h"
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace grapplemont {
 
-std::string WhyText(std::string_view caption, const Score& score) {
-  std::string text;
+bool Verdict::IsYes() const {
+  return std::ranges::none_of(steps_, [](const ScoreStep& step) { return step.Change < 0; });
+}
+
+std::string PlainNumber(long long number) {
+  return std::to_string(number);
+}
+
+std::string InHundredths(long long number) {
+  const long long size = std::llabs(number);
+  const std::string cents = std::to_string(size % 100);
+  return (number < 0 ? "-" : "") + std::to_string(size / 100) + (size % 100 < 10 ? ".0" : ".") +
+         cents;
+}
+
+std::string WhyText(std::string_view caption, const Score& score, NumberWriter text) {
+  std::string lines;
   for (const ScoreStep& step : score.Steps()) {
-    const char* const sign = text.empty() || step.Change < 0 ? "" : "+";
-    text += sign + std::to_string(step.Change) + (text.empty() ? ": " : " ") + step.Why + "\n";
+    const char* const sign = lines.empty() || step.Change < 0 ? "" : "+";
+    lines += sign + text(step.Change) + (lines.empty() ? ": " : " ") + step.Why + "\n";
   }
-  return text + "= " + std::to_string(score) + " " + std::string(caption);
+  return lines + "= " + text(score.Whole()) + " " + std::string(caption);
+}
+
+std::string WhyText(std::string_view answer, const Verdict& verdict) {
+  std::string lines;
+  for (const ScoreStep& step : verdict.Steps())
+    lines += (step.Change < 0 ? "- " : "+ ") + step.Why + "\n";
+  return lines + "= " + std::string(answer);
 }
 
 }  // namespace grapplemont
