@@ -238,7 +238,7 @@ MoveTalk TalkOfMove(const World& world, const Promotion& promotion, const Show& 
   const std::string rating = ViewOfRating(show, network);
   if (move == std::end(kMoves)) {
     talk.Text = kRefuse;
-    talk.Why.Weigh(false, rating + ": nothing to move for from " + SlotNameOf(show.Slot));
+    talk.Why.Weigh(false, rating + ": no reason to move it from " + SlotNameOf(show.Slot));
     return talk;
   }
   talk.Why.Weigh(true, rating + ": " + SlotNameOf(move->To) + " would suit it");

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 
 namespace grapplemont {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "records/modVar.h"
+
 namespace grapplemont {
 
 bool Verdict::IsYes() const {
@@ -14,10 +16,7 @@ std::string PlainNumber(long long number) {
 }
 
 std::string InHundredths(long long number) {
-  const long long size = std::llabs(number);
-  const std::string cents = std::to_string(size % 100);
-  return (number < 0 ? "-" : "") + std::to_string(size / 100) + (size % 100 < 10 ? ".0" : ".") +
-         cents;
+  return (number < 0 ? "-" : "") + RatingText(static_cast<int>(std::llabs(number)));
 }
 
 std::string WhyText(std::string_view caption, const Score& score, NumberWriter text) {

@@ -73,7 +73,7 @@ inline bool Weigh(Verdict* verdict, bool isFor, std::string_view why) {
 /// How a number is written, with a minus below 0: Dollars.
 using NumberWriter = std::string (*)(long long number);
 std::string PlainNumber(long long number);
-/// What is counted in hundredths: "4.05".
+/// What is counted in hundredths, as RatingText writes it: "-2.50".
 std::string InHundredths(long long number);
 
 /// A number and how it came about, a line a step: "91: draw of the two", "+8 feud", "= 99 Crowd".

@@ -241,7 +241,7 @@ class frmTelevision : public GameScreen {
   std::string WhyNoSteps(const Show* show) {
     if (!show) return "There is no show on the air.";
     const Score rating = StepsOf(*show);
-    return !rating.Steps().empty() && rating == show->Rating3
+    return !rating.Steps().empty() && int(rating) == int(show->Rating3)
                ? ""
                : "How a rating came about is kept for the last shows that were held.";
   }
