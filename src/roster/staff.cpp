@@ -75,8 +75,8 @@ std::string WhyNoHire(const World& world, const Staff& staff, Verdict* why) {
   const int ceiling = TalentCeiling(world.Player().Size);
   const bool fits = staff.Talent <= ceiling;
   Weigh(why, fits,
-        "Talent " + std::to_string(staff.Talent) + ": up to " + std::to_string(ceiling) +
-            " people come to a promotion of our size");
+        "Talent " + std::to_string(staff.Talent) +
+            ": a promotion of our size gets people of up to " + std::to_string(ceiling));
   return fits ? "" : HeOrShe(staff, " does not think that your promotion is big enough.");
 }
 
