@@ -232,7 +232,7 @@ int MonthlyRepayment(const Promotion& promotion, int difficulty) {
   return static_cast<int>(std::min<long long>(whole, std::numeric_limits<int>::max()));
 }
 
-bool BankAccepts(const Promotion& promotion, int steps, Verdict* why) {
+bool BankAccepts(const Promotion& promotion, int steps, Decision* why) {
   const int quarter = steps * kLoanStep / 4;
   return Weigh(why, quarter <= promotion.Money,
                "The bank wants a quarter of the sum in hand, " + Dollars(quarter) + "; we have " +

@@ -145,7 +145,7 @@ Score LoanQuote(int dollars, int months, int difficulty);
 int MonthlyRepayment(const Promotion& promotion, int difficulty);
 
 /// The bank wants a quarter of the sum in hand. `why` gets what it weighed.
-bool BankAccepts(const Promotion& promotion, int steps, Verdict* why = nullptr);
+bool BankAccepts(const Promotion& promotion, int steps, Decision* why = nullptr);
 /// Pays out a loan of so many steps. Requires that there is none.
 void TakeLoan(Promotion& promotion, int steps);
 

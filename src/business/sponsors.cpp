@@ -88,7 +88,7 @@ void LoseSponsor(World& world, Sponsor& sponsor) {
   sponsor.ContractMonths = 0;
 }
 
-SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion, Verdict* why) {
+SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion, Decision* why) {
   const bool bears = BearsRisk(sponsor, promotion.Risk);
   Weigh(why, bears,
         "They bear a risk of " + std::to_string(100 - sponsor.Morality) + "%; ours is " +

@@ -36,7 +36,7 @@ void LoseSponsor(World& world, Sponsor& sponsor);
 /// How a sponsor answers the player's offer, by the promotion's risk, then by its standing. `why`
 /// gets what was weighed.
 enum class SponsorAnswer { Accepts, TooRisky, Declines };
-SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion, Verdict* why = nullptr);
+SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion, Decision* why = nullptr);
 
 /// Dollars that it costs to end a deal before its time.
 long long EndingCost(const Sponsor& sponsor);

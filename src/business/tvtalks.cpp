@@ -64,7 +64,7 @@ NetworkView ViewOf(const Show& show, const Network& network) {
 }
 
 std::vector<TvRemark> AskNetwork(const Promotion& promotion, const Show& show,
-                                 const Network& network, Verdict* why) {
+                                 const Network& network, Decision* why) {
   std::vector<TvRemark> remarks;
   const NetworkView view = ViewOf(show, network);
   if (view != kUnseen &&
@@ -202,7 +202,7 @@ constexpr const char* kRefusals[] = {
 /// Nothing when the network could use the show. Of several reasons the last is told; a show that
 /// would draw too few gives none of its own.
 std::optional<Reason> RefusalOf(const World& world, const Promotion& promotion,
-                                const Network& network, Verdict* why) {
+                                const Network& network, Decision* why) {
   std::optional<Reason> reason;
   if (!Weigh(why, promotion.Size <= kSmall, "Our size: they deal with Small promotions and up"))
     reason = kTooSmall;
@@ -270,7 +270,7 @@ void AnswerPromoTapes(World& world) {
   const Network* network = world.FindNetwork(game.TapeWait);
   DropOffer(world);
   if (!network) return;
-  Verdict why;
+  Decision why;
   const auto reason = RefusalOf(world, world.Player(), *network, &why);
   const bool isOffer =
       !reason && why.Weigh(world.RandomDraw(kOfferOdds) == kOfferDraw,

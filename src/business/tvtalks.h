@@ -24,13 +24,13 @@ struct TvRemark {
 
 /// What the network has to say about the show, box by box. `why` gets what it weighed.
 std::vector<TvRemark> AskNetwork(const Promotion& promotion, const Show& show,
-                                 const Network& network, Verdict* why = nullptr);
+                                 const Network& network, Decision* why = nullptr);
 
 /// What the network says to a wish for more weeks.
 struct ExtensionTalk {
   std::string Text;
   int Weeks = 0;  // offered; 0 is a rejection
-  Verdict Why = {};
+  Decision Why = {};
 };
 ExtensionTalk TalkOfExtension(const Promotion& promotion, const Show& show, const Network& network);
 
@@ -38,7 +38,7 @@ ExtensionTalk TalkOfExtension(const Promotion& promotion, const Show& show, cons
 struct EndingTalk {
   std::string Text;
   int Penalty = 0;  // dollars
-  Verdict Why = {};
+  Decision Why = {};
 };
 EndingTalk TalkOfEnding(const Promotion& promotion, const Show& show, const Network& network);
 /// Pays the penalty, whatever is in the bank, and takes the show off the air.
@@ -48,7 +48,7 @@ void EndDeal(World& world, Show& show, int penalty);
 struct MoveTalk {
   std::string Text;
   std::string_view Slot = {};  // offered; empty is a rejection
-  Verdict Why = {};
+  Decision Why = {};
 };
 MoveTalk TalkOfMove(const World& world, const Promotion& promotion, const Show& show,
                     const Network& network);

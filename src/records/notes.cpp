@@ -59,8 +59,8 @@ Score NotedScore(const World& world, NoteKind kind, std::optional<Day> on) {
   return score;
 }
 
-NotedVerdict NotedAnswer(const World& world, NoteKind kind) {
-  NotedVerdict answer;
+NotedDecision NotedAnswer(const World& world, NoteKind kind) {
+  NotedDecision answer;
   ForNotes(world, kind, [&](const ShowNote& note) {
     answer.Whose = note.What.Str();
     answer.Why.Weigh(note.Change > 0, note.Why.Str());

@@ -34,11 +34,11 @@ void NoteAnew(World& world, const NoteOf& of, const Explained& steps);
 /// without steps for none.
 Score NotedScore(const World& world, NoteKind kind, std::optional<Day> on = {});
 /// The same for an answer, and whose it was.
-struct NotedVerdict {
+struct NotedDecision {
   std::string Whose;
-  Verdict Why;
+  Decision Why;
 };
-NotedVerdict NotedAnswer(const World& world, NoteKind kind);
+NotedDecision NotedAnswer(const World& world, NoteKind kind);
 /// The last day on which a step of this number was noted; nothing for none.
 std::optional<Day> LastNoted(const World& world, NoteKind kind, std::string_view what);
 

@@ -7,7 +7,7 @@
 
 namespace grapplemont {
 
-bool Verdict::IsYes() const {
+bool Decision::IsYes() const {
   return std::ranges::none_of(steps_, [](const ScoreStep& step) { return step.Change < 0; });
 }
 
@@ -28,9 +28,9 @@ std::string WhyText(std::string_view caption, const Score& score, NumberWriter t
   return lines + "= " + text(score.Whole()) + " " + std::string(caption);
 }
 
-std::string WhyText(std::string_view answer, const Verdict& verdict) {
+std::string WhyText(std::string_view answer, const Decision& decision) {
   std::string lines;
-  for (const ScoreStep& step : verdict.Steps())
+  for (const ScoreStep& step : decision.Steps())
     lines += (step.Change < 0 ? "- " : "+ ") + step.Why + "\n";
   return lines + "= " + std::string(answer);
 }

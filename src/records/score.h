@@ -55,7 +55,7 @@ class Score : public Explained {
 };
 
 /// An answer in the making, with what spoke for a yes and what against it.
-class Verdict : public Explained {
+class Decision : public Explained {
  public:
   /// Notes what was looked at, and gives `isFor` back.
   bool Weigh(bool isFor, std::string why) {
@@ -65,9 +65,9 @@ class Verdict : public Explained {
   bool IsYes() const;
 };
 
-/// The same where nobody may want to know: without a verdict nothing is noted.
-inline bool Weigh(Verdict* verdict, bool isFor, std::string_view why) {
-  return verdict ? verdict->Weigh(isFor, std::string(why)) : isFor;
+/// The same where nobody may want to know: without a decision nothing is noted.
+inline bool Weigh(Decision* decision, bool isFor, std::string_view why) {
+  return decision ? decision->Weigh(isFor, std::string(why)) : isFor;
 }
 
 /// How a number is written, with a minus below 0: Dollars.
@@ -79,6 +79,6 @@ std::string InHundredths(long long number);
 /// A number and how it came about, a line a step: "91: draw of the two", "+8 feud", "= 99 Crowd".
 std::string WhyText(std::string_view caption, const Score& score, NumberWriter text = PlainNumber);
 /// An answer and what led to it, a line a step: "+ risk 40, they bear 50", "- ...", "= No.".
-std::string WhyText(std::string_view answer, const Verdict& verdict);
+std::string WhyText(std::string_view answer, const Decision& decision);
 
 }  // namespace grapplemont

@@ -24,7 +24,7 @@ struct Objection {
 
 /// Whether the objection holds; `why` gets what was weighed.
 template <class Talk>
-bool IsRaised(const Objection<Talk>& objection, const Talk& talk, Verdict* why) {
+bool IsRaised(const Objection<Talk>& objection, const Talk& talk, Decision* why) {
   const bool holds = objection.Holds(talk);
   const char* const text = holds ? objection.Against : objection.For;
   if (why && text)
@@ -34,7 +34,8 @@ bool IsRaised(const Objection<Talk>& objection, const Talk& talk, Verdict* why) 
 
 /// The words of the first that holds; empty when none does.
 template <class Talk, std::size_t N>
-std::string FirstObjection(const Objection<Talk> (&objections)[N], const Talk& talk, Verdict* why) {
+std::string FirstObjection(const Objection<Talk> (&objections)[N], const Talk& talk,
+                           Decision* why) {
   for (const Objection<Talk>& objection : objections)
     if (IsRaised(objection, talk, why)) return objection.Words;
   return {};

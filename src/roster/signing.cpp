@@ -38,7 +38,7 @@ bool IsBoundAndContent(const Worker& worker) {
 }
 
 /// The better he behaves, the further the player must stand above his employer.
-std::string WhyStays(const World& world, const Worker& worker, int size, Verdict* why) {
+std::string WhyStays(const World& world, const Worker& worker, int size, Decision* why) {
   const Promotion* employer = world.FindPromotion(worker.Employer);
   if (!employer || !IsBoundAndContent(worker)) {
     Weigh(why, true, employer ? "Not both bound in writing and content" : "Works for nobody");
@@ -172,7 +172,7 @@ void LeaveFormer(World& world, const Worker& worker) {
 
 }  // namespace
 
-std::string WhyNoSigning(const World& world, const Worker& worker, Verdict* why) {
+std::string WhyNoSigning(const World& world, const Worker& worker, Decision* why) {
   const int size = world.Player().Size;
   const bool talks = worker.Loyalty >= 40;
   if (!Weigh(why, talks, talks ? "Thinks well enough of you to talk" : "Thinks little of you"))
@@ -201,7 +201,7 @@ std::string WhyNotAsOffered(const World& world, const Worker& worker, const Sign
 }
 
 std::string JudgeSigning(const Worker& worker, const Demands& demands, const SigningOffer& offer,
-                         Verdict* why) {
+                         Decision* why) {
   return FirstObjection(kSigningObjections, SigningTalk{worker, demands, offer}, why);
 }
 

@@ -8,7 +8,7 @@ namespace grapplemont {
 
 /// What closes the talks before they begin; empty while he will listen. `why` gets what was
 /// weighed, here and below.
-std::string WhyNoSigning(const World& world, const Worker& worker, Verdict* why = nullptr);
+std::string WhyNoSigning(const World& world, const Worker& worker, Decision* why = nullptr);
 /// What somebody says who has a job and listens all the same.
 std::string MoreMoneyText(const Worker& worker);
 
@@ -22,7 +22,7 @@ struct SigningOffer : ContractOffer {
 std::string WhyNotAsOffered(const World& world, const Worker& worker, const SigningOffer& offer);
 /// Why he says no; empty when it is a deal.
 std::string JudgeSigning(const Worker& worker, const Demands& demands, const SigningOffer& offer,
-                         Verdict* why = nullptr);
+                         Decision* why = nullptr);
 
 /// He works for the player from now on and waits for his debut.
 void Sign(World& world, Worker& worker, const SigningOffer& offer);

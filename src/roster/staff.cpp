@@ -48,7 +48,7 @@ bool IsFarAbove(int size, int employerSize, int backstage) {
   return employerSize - steps > size;
 }
 
-std::string WhyStays(const World& world, const Staff& staff, Verdict* why) {
+std::string WhyStays(const World& world, const Staff& staff, Decision* why) {
   const Promotion* employer = world.FindPromotion(staff.Employer);
   if (!employer || staff.Morale < kHappy) {
     Weigh(why, true, employer ? "Not content where they work" : "Works for nobody");
@@ -67,7 +67,7 @@ std::string WhyStays(const World& world, const Staff& staff, Verdict* why) {
          " and sees no reason to leave for you.";
 }
 
-std::string WhyNoHire(const World& world, const Staff& staff, Verdict* why) {
+std::string WhyNoHire(const World& world, const Staff& staff, Decision* why) {
   const bool talks = staff.Loyalty >= 40;
   if (!Weigh(why, talks, talks ? "Thinks well enough of you to talk" : "Thinks little of you"))
     return HeOrShe(staff, " wants nothing to do with you.");
@@ -104,7 +104,7 @@ constexpr Objection<StaffOpening> kStaffOpenings[] = {
      "Thinks well enough of you to talk"},
 };
 
-std::string WhyNoRenewal(const Staff& staff, Verdict* why) {
+std::string WhyNoRenewal(const Staff& staff, Decision* why) {
   const std::string no = FirstObjection(kStaffOpenings, StaffOpening{staff}, why);
   return no.empty() ? no : HeOrShe(staff, no.c_str());
 }
@@ -207,12 +207,12 @@ StaffDemands StaffDemandsOf(const World& world, const Staff& staff) {
   return {BySize(kMarket, size).Months, size < kCult, thousands, std::move(wage)};
 }
 
-std::string WhyNoStaffOffer(const World& world, const Staff& staff, Verdict* why) {
+std::string WhyNoStaffOffer(const World& world, const Staff& staff, Decision* why) {
   return WorksForPlayer(world, staff) ? WhyNoRenewal(staff, why) : WhyNoHire(world, staff, why);
 }
 
 std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
-                            const ContractOffer& offer, Verdict* why) {
+                            const ContractOffer& offer, Decision* why) {
   return FirstObjection(
       kStaffObjections,
       StaffTalk{staff, demands, offer, world.Player().Size, WorksForPlayer(world, staff)}, why);

@@ -31,10 +31,10 @@ StaffDemands StaffDemandsOf(const World& world, const Staff& staff);
 
 /// What closes the talks before they begin, a whole sentence; empty while he will listen. `why`
 /// gets what was weighed, here and below.
-std::string WhyNoStaffOffer(const World& world, const Staff& staff, Verdict* why = nullptr);
+std::string WhyNoStaffOffer(const World& world, const Staff& staff, Decision* why = nullptr);
 /// Why he says no to an offer; empty when it is a deal.
 std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
-                            const ContractOffer& offer, Verdict* why = nullptr);
+                            const ContractOffer& offer, Decision* why = nullptr);
 
 /// He leaves whoever employs him and works for the player from now on, in better spirits.
 void HireStaff(World& world, Staff& staff, const ContractOffer& offer);

@@ -259,7 +259,7 @@ constexpr Objection<Opening> kOpenings[] = {
 
 }  // namespace
 
-std::string WhyNoRenewal(const Worker& worker, Verdict* why) {
+std::string WhyNoRenewal(const Worker& worker, Decision* why) {
   const std::string no = FirstObjection(kOpenings, Opening{worker}, why);
   return no.empty() ? no : worker.Name + no;
 }

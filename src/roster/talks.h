@@ -83,7 +83,7 @@ Demands ContractDemands(const World& world, const Worker& worker);
 
 /// What closes the talks before they begin, with his name in front; empty while he will listen.
 /// `why` gets what was weighed, here and with every answer below.
-std::string WhyNoRenewal(const Worker& worker, Verdict* why = nullptr);
+std::string WhyNoRenewal(const Worker& worker, Decision* why = nullptr);
 
 /// What an offer is held against.
 struct RenewalTerms {
@@ -98,7 +98,7 @@ RenewalTerms RenewalTermsOf(const World& world, const Worker& worker);
 struct RenewalAnswer {
   std::vector<Remark> Remarks;
   bool Accepted = false;
-  Verdict Why = {};
+  Decision Why = {};
 };
 RenewalAnswer JudgeRenewal(const Worker& worker, const RenewalTerms& terms,
                            const ContractOffer& offer);

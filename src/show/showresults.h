@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/score.h"
 #include "records/world.h"
 
 // What a show brings in: attendance, tickets, buy rates and television ratings, reported by mail.

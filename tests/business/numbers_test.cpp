@@ -125,7 +125,7 @@ TEST(Numbers, OfSponsorsGoByRiskAndPay) {
   sponsor.Pay = 401;
   std::string steps;
   const auto answer = [&] {
-    Verdict why;
+    Decision why;
     const SponsorAnswer said = AnswerOf(sponsor, promotion, &why);
     EXPECT_EQ(why.IsYes(), said == SponsorAnswer::Accepts);
     steps.clear();

@@ -119,7 +119,7 @@ TEST(TheNetwork, WeighsWhatItAnswers) {
           EXPECT_EQ(move.Why.IsYes(), !move.Slot.empty()) << WhyText(move.Text, move.Why);
           const EndingTalk end = TalkOfEnding(world.Player(), show, nine);
           EXPECT_EQ(end.Why.IsYes(), end.Penalty == 0) << WhyText(end.Text, end.Why);
-          Verdict why;
+          Decision why;
           AskNetwork(world.Player(), show, nine, &why);
           EXPECT_EQ(why.IsYes(), view >= kHappy && risk == 0) << WhyText("", why);
         }

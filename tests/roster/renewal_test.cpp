@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "decisions.h"
 #include "support/smallworld.h"
-#include "verdicts.h"
 
 // Staying: what opens the talks, and each objection to an offer at its edge.
 
@@ -180,7 +180,7 @@ TEST(WhyNoRenewal, ClosesTheTalksForThreeReasons) {
     worker.Morale = c.Morale;
     worker.Loyalty = c.Loyalty;
     worker.Status = c.Status;
-    Verdict why;
+    Decision why;
     EXPECT_EQ(WhyNoRenewal(worker, &why), c.Words)
         << c.Months << " " << c.Morale << " " << c.Loyalty << " " << c.Status;
     ExpectTells(why, std::string_view(c.Words).empty());

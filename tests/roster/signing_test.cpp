@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "decisions.h"
 #include "records/checks/checkworld.h"
 #include "support/smallworld.h"
-#include "verdicts.h"
 
 // Coming: what opens the talks, each objection at its edge, names, and what signing changes.
 
@@ -102,7 +102,7 @@ TEST(JudgeSigning, HearsTheFirstObjectionThatHolds) {
     worker.Age = c.Age;
     worker.Speed = c.Skill;
     SigningOffer offer{c.Offer, "", "", "", c.Position};
-    Verdict why;
+    Decision why;
     EXPECT_EQ(JudgeSigning(worker, c.Wants, offer, &why), c.Words) << "case " << number;
     ExpectTells(why, std::string_view(c.Words).empty());
     ++number;
@@ -155,7 +155,7 @@ TEST(WhyNoSigning, RefusesInTheWordsOfBothSexes) {
       ray.Loyalty = row.Loyalty;
       ray.Morale = row.Morale;
       ray.Behaviour = row.Behaviour;
-      Verdict why;
+      Decision why;
       EXPECT_EQ(WhyNoSigning(world, ray, &why), kAll[row.Words][man ? 0 : 1])
           << row.Size << " " << row.Over << " " << row.Loyalty << " " << row.Morale << " "
           << row.Behaviour << " " << row.EmployerSize;

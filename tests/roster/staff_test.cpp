@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "decisions.h"
 #include "records/checks/checkworld.h"
 #include "roster/staff.h"
 #include "support/gameonworld.h"
-#include "verdicts.h"
 
 // Talks with staff: what they want, what they refuse, hiring, firing, and how posts are filled.
 
@@ -88,7 +88,7 @@ TEST(WhyNoStaffOffer, ClosesTheTalksWithOnesOwn) {
     pen.ContractMonths = months;
     pen.Morale = morale;
     pen.Loyalty = loyalty;
-    Verdict why;
+    Decision why;
     EXPECT_EQ(WhyNoStaffOffer(world, pen, &why), words)
         << months << " " << morale << " " << loyalty;
     ExpectTells(why, std::string_view(words).empty());
@@ -125,7 +125,7 @@ TEST(WhyNoStaffOffer, ClosesTheTalksWithOthers) {
     doc.Backstage = c.Backstage;
     doc.Loyalty = c.Loyalty;
     doc.ContractType = c.Type;
-    Verdict why;
+    Decision why;
     EXPECT_EQ(WhyNoStaffOffer(world, doc, &why), c.Words)
         << c.Size << " " << c.EmployerSize << " " << c.Talent << " " << c.Morale << " "
         << c.Backstage << " " << c.Loyalty << c.Type;
@@ -192,7 +192,7 @@ TEST(JudgeStaffOffer, HearsEachObjectionAtItsEdge) {
     staff.Talent = c.Talent;
     staff.Loyalty = c.Loyalty;
     staff.Wage = c.Wage;
-    Verdict why;
+    Decision why;
     EXPECT_EQ(JudgeStaffOffer(world, staff, c.Wants, c.Offer, &why), c.Words)
         << "case " << ++number;
     ExpectTells(why, std::string_view(c.Words).empty());

@@ -223,11 +223,11 @@ class frmFedSponsor : public GameScreen {
   }
 
   void Offer(Sponsor& sponsor, int place) {
-    Verdict verdict;
-    const SponsorAnswer answer = AnswerOf(sponsor, player(), &verdict);
+    Decision decision;
+    const SponsorAnswer answer = AnswerOf(sponsor, player(), &decision);
     const std::string why = WhyText(
         answer == SponsorAnswer::Accepts ? "They accept the deal." : "They reject the deal.",
-        verdict);
+        decision);
     txtwhy.WriteLines(why);
     switch (answer) {
       case SponsorAnswer::TooRisky:

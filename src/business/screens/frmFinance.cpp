@@ -291,9 +291,9 @@ class frmLoan : public GameScreen {
 
   void Apply() {
     if (!desk().Ask("Apply for loan?", "Are you sure?")) return;
-    Verdict verdict;
-    if (!BankAccepts(player(), hsamount.Value, &verdict)) {
-      refused_ = std::move(verdict);
+    Decision decision;
+    if (!BankAccepts(player(), hsamount.Value, &decision)) {
+      refused_ = std::move(decision);
       ShowTerms();
       return desk().Say("Rejected!", kRejected);
     }
@@ -322,8 +322,8 @@ class frmLoan : public GameScreen {
   ui::Button cmdwhynot{*this, "cmdwhynot", "Why Not?",
                        [this] { txtwhy.WriteLines(WhyText(kRejected, *refused_)); }};
   ui::Report txtwhy{*this, "txtwhy"};
-  Score quote_;                     // of a month
-  std::optional<Verdict> refused_;  // the bank's last no
+  Score quote_;                      // of a month
+  std::optional<Decision> refused_;  // the bank's last no
   ui::Label lblstate{*this, "lblstate"};
   ui::Button cmddoit{*this, "cmddoit", "Apply For Loan", &frmLoan::cmddoit_Click};
 };

@@ -36,7 +36,7 @@ class frmTVContract : public ShowScreen {
 
  private:
   /// Keeps their answer for whoever asks why; empty while there is none.
-  void Answer(std::string words, Verdict why) {
+  void Answer(std::string words, Decision why) {
     EnableUnless(cmdwhy, words.empty() ? "Ask them something first." : "");
     txtwhy.Write("");
     said_ = std::move(words);
@@ -65,7 +65,7 @@ class frmTVContract : public ShowScreen {
   }
 
   void Ask(Show& show, const Network& network) {
-    Verdict why;
+    Decision why;
     const std::vector<TvRemark> remarks = AskNetwork(world().Player(), show, network, &why);
     Answer(remarks.back().Text, std::move(why));
     for (const TvRemark& remark : remarks) desk().Say(remark.Title, remark.Text);
@@ -102,7 +102,7 @@ class frmTVContract : public ShowScreen {
   ui::Button cmdwhy{*this, "cmdwhy", "Why?", [this] { txtwhy.WriteLines(WhyText(said_, why_)); }};
   ui::Report txtwhy{*this, "txtwhy"};
   std::string said_;  // their last answer
-  Verdict why_;       // and what they weighed
+  Decision why_;      // and what they weighed
   ui::Button cmdask{*this, "cmdask", "Ask The Network", About(&frmTVContract::Ask)};
   ui::Button cmdcontract{*this, "cmdcontract", "Extend The Deal", About(&frmTVContract::Extend)};
   ui::Button cmdtime{*this, "cmdtime", "Move The Slot", About(&frmTVContract::Move)};

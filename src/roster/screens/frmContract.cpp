@@ -36,7 +36,7 @@ class frmWresContract : public TalkWith<Worker> {
   }
 
  protected:
-  Remark Refusal(Verdict& why) override { return {kTalksTitle, WhyNoRenewal(*Who(), &why)}; }
+  Remark Refusal(Decision& why) override { return {kTalksTitle, WhyNoRenewal(*Who(), &why)}; }
   Score WageSteps() override { return RenewalTermsOf(world(), *Who()).WageSteps; }
 
   void Begin() override {
@@ -130,7 +130,7 @@ class frmOtherContract : public TalkWith<Worker> {
   }
 
  protected:
-  Remark Refusal(Verdict& why) override {
+  Remark Refusal(Decision& why) override {
     return {"Refusal!", WhyNoSigning(world(), *Who(), &why)};
   }
   Score WageSteps() override { return ContractDemands(world(), *Who()).WageSteps; }
@@ -179,7 +179,7 @@ class frmOtherContract : public TalkWith<Worker> {
     Worker& worker = *Who();
     const SigningOffer offer = Offered();
     if (desk().Objects(WhyNotAsOffered(world(), worker, offer))) return;
-    Verdict why;
+    Decision why;
     const std::string no = JudgeSigning(worker, ContractDemands(world(), worker), offer, &why);
     if (!no.empty()) return Refuse({{"Rejection!", no}}, std::move(why));
     Sign(world(), worker, offer);
@@ -219,7 +219,7 @@ class StaffTalk : public TalkWith<Staff> {
   }
 
  protected:
-  Remark Refusal(Verdict& why) override {
+  Remark Refusal(Decision& why) override {
     return {"Refusal!", WhyNoStaffOffer(world(), *Who(), &why)};
   }
   Score WageSteps() override { return StaffDemandsOf(world(), *Who()).WageSteps; }
@@ -253,7 +253,7 @@ class StaffTalk : public TalkWith<Staff> {
     if (!GoesOn()) return;
     Staff& staff = *Who();
     const ContractOffer offer = offer_.Offer();
-    Verdict why;
+    Decision why;
     const std::string no =
         JudgeStaffOffer(world(), staff, StaffDemandsOf(world(), staff), offer, &why);
     if (!no.empty()) return Refuse({{"Rejected!", no}}, std::move(why));

@@ -106,7 +106,7 @@ void TalkScreen::ShowWhyNot() {
   txtwhy.Write("");
 }
 
-void TalkScreen::Refuse(const std::vector<Remark>& remarks, Verdict why) {
+void TalkScreen::Refuse(const std::vector<Remark>& remarks, Decision why) {
   why_ = std::move(why);
   said_ = remarks.front().Text;
   ShowWhyNot();

@@ -73,7 +73,7 @@ class TalkScreen : public GameScreen {
   virtual std::string WhyOver() = 0;
   /// The box in which he refuses to listen to any offer; without words when he listens. `why` gets
   /// what he weighed.
-  virtual Remark Refusal(Verdict& why) = 0;
+  virtual Remark Refusal(Decision& why) = 0;
   /// How the wage came about with which the talks begin.
   virtual Score WageSteps() = 0;
   /// Puts on the table what the talks begin with.
@@ -92,7 +92,7 @@ class TalkScreen : public GameScreen {
   /// The ways to what stands behind the wage and behind a no, and where it is told.
   std::vector<ui::Box> WhyParts();
   /// Says no, and keeps what was weighed for whoever asks.
-  void Refuse(const std::vector<Remark>& remarks, Verdict why);
+  void Refuse(const std::vector<Remark>& remarks, Decision why);
   /// Says that it is a deal, and closes.
   void Agree(std::string_view name, bool written);
 
@@ -105,7 +105,7 @@ class TalkScreen : public GameScreen {
  private:
   void ShowWhyNot();
 
-  Verdict why_;       // of the last no
+  Decision why_;      // of the last no
   std::string said_;  // in which words; empty while there was none
   ui::Button cmdwhy{*this, "cmdwhy", "Why?", &TalkScreen::cmdwhy_Click};
   ui::Button cmdwhynot{*this, "cmdwhynot", "Why Not?", &TalkScreen::cmdwhynot_Click};

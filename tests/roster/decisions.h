@@ -8,7 +8,7 @@ namespace grapplemont::test {
 
 /// What was weighed speaks for the answer that was given, in whole words; a no has its reason last,
 /// and nothing but reasons for a yes before it.
-inline void ExpectTells(const Verdict& why, bool accepts) {
+inline void ExpectTells(const Decision& why, bool accepts) {
   ASSERT_FALSE(why.Steps().empty());
   EXPECT_EQ(why.IsYes(), accepts) << WhyText("", why);
   for (const ScoreStep& step : why.Steps()) {
