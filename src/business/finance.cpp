@@ -6,6 +6,8 @@
 #include <span>
 
 #include "records/arithmetic.h"
+#include "records/fields/wording.h"
+#include "records/modVar.h"
 
 namespace grapplemont {
 
@@ -146,7 +148,15 @@ int MerchandisingCost(int level) {
 }
 
 int ProductionCost(int level) {
-  return std::max(level, 0) * RowUpTo(kProductionRates, level).PerPoint;
+  return ProductionBill(level);
+}
+
+Score ProductionBill(int level) {
+  const int points = std::max(level, 0), rate = RowUpTo(kProductionRates, level).PerPoint;
+  Score bill;
+  bill.Add(points * rate, Counted(points, "point") + " of production at " + Dollars(rate) +
+                              " each; the higher the level, the dearer every point");
+  return bill;
 }
 
 int TargetAdvertising(int size, int image) {
@@ -205,16 +215,14 @@ int LoanTerm(int steps) {
   return RowUpTo(kSizesOfLoans, steps).Months;
 }
 
-long long LoanQuote(int dollars, int months, int difficulty, std::string* why) {
+Score LoanQuote(int dollars, int months, int difficulty) {
   const long long divisor = std::max(months, 1);
-  const long long part = (dollars * 100LL + divisor / 2) / divisor;
-  const long long interest = InterestOn(dollars, difficulty) * 100LL;
-  if (why)
-    *why = DollarsAndCents(part) + ", the equal part of " + std::to_string(divisor) + " months\n+" +
-           DollarsAndCents(interest) +
-           ", what the bank takes of the whole sum by the difficulty\n= " +
-           DollarsAndCents(part + interest);
-  return part + interest;
+  Score quote;
+  quote.Add((dollars * 100LL + divisor / 2) / divisor,
+            "the equal part of " + Counted(divisor, "month"));
+  quote.Add(InterestOn(dollars, difficulty) * 100LL,
+            "what the bank takes of the whole sum by the difficulty");
+  return quote;
 }
 
 int MonthlyRepayment(const Promotion& promotion, int difficulty) {
@@ -224,8 +232,11 @@ int MonthlyRepayment(const Promotion& promotion, int difficulty) {
   return static_cast<int>(std::min<long long>(whole, std::numeric_limits<int>::max()));
 }
 
-bool BankAccepts(const Promotion& promotion, int steps) {
-  return steps * kLoanStep / 4 <= promotion.Money;
+bool BankAccepts(const Promotion& promotion, int steps, Decision* why) {
+  const int quarter = steps * kLoanStep / 4;
+  return Weigh(why, quarter <= promotion.Money,
+               "The bank wants a quarter of the sum in hand, " + Dollars(quarter) + "; we have " +
+                   Dollars(promotion.Money) + ".");
 }
 
 void TakeLoan(Promotion& promotion, int steps) {
@@ -235,13 +246,16 @@ void TakeLoan(Promotion& promotion, int steps) {
   promotion.Money += steps * kLoanStep;
 }
 
-long long PayOffCost(const Promotion& promotion, int difficulty) {
+Score PayOffCost(const Promotion& promotion, int difficulty) {
   const int rest = std::max(promotion.LoanAmount - promotion.LoanRepaid, 0);
-  return static_cast<long long>(rest) + InterestOn(rest, difficulty);
+  Score cost;
+  cost.Add(rest, "what is still to be repaid");
+  cost.Add(InterestOn(rest, difficulty), "what the bank takes of it by the difficulty");
+  return cost;
 }
 
 bool PayOffLoan(Promotion& promotion, int difficulty) {
-  const long long cost = PayOffCost(promotion, difficulty);
+  const long long cost = PayOffCost(promotion, difficulty).Whole();
   if (cost > promotion.Money) return false;
   promotion.Money -= cost;
   ForgetLoan(promotion);

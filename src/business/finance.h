@@ -84,6 +84,8 @@ Score MerchandiseSales(const Promotion& promotion, int economy);
 int AdvertisingCost(int level);
 int MerchandisingCost(int level);
 int ProductionCost(int level);
+/// The same, and how it comes about.
+Score ProductionBill(int level);
 
 /// The level of advertising of a rival.
 int TargetAdvertising(int size, int image);
@@ -137,18 +139,18 @@ inline constexpr int kMostLoanSteps = 100;
 /// Months that a loan of this many steps runs: 12, 24 or 36.
 int LoanTerm(int steps);
 /// What a loan costs each month, in cents: the equal part to the cent and, by the difficulty, a
-/// share of the whole sum. Months below 1 count as 1. `why` gets both, a line each, and the sum.
-long long LoanQuote(int dollars, int months, int difficulty, std::string* why = nullptr);
+/// share of the whole sum. Months below 1 count as 1.
+Score LoanQuote(int dollars, int months, int difficulty);
 /// What a bank takes each month, in whole dollars. 0 for no loan.
 int MonthlyRepayment(const Promotion& promotion, int difficulty);
 
-/// The bank wants a quarter of the sum in hand.
-bool BankAccepts(const Promotion& promotion, int steps);
+/// The bank wants a quarter of the sum in hand. `why` gets what it weighed.
+bool BankAccepts(const Promotion& promotion, int steps, Decision* why = nullptr);
 /// Pays out a loan of this many steps. Requires that there is none.
 void TakeLoan(Promotion& promotion, int steps);
 
 /// What it costs to be rid of the loan at once: the rest and, by the difficulty, a share of it.
-long long PayOffCost(const Promotion& promotion, int difficulty);
+Score PayOffCost(const Promotion& promotion, int difficulty);
 /// False, and nothing has changed, when the money is short.
 bool PayOffLoan(Promotion& promotion, int difficulty);
 

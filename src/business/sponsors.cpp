@@ -88,18 +88,18 @@ void LoseSponsor(World& world, Sponsor& sponsor) {
   sponsor.ContractMonths = 0;
 }
 
-SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion, std::string* why) {
+SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion, Decision* why) {
   const bool bears = BearsRisk(sponsor, promotion.Risk);
-  const int limit = SponsorPayLimit(promotion.Size, promotion.Image);
-  if (why)
-    *why = "They bear a risk of " + std::to_string(100 - sponsor.Morality) + "%; ours is " +
-           std::to_string(promotion.Risk) + "%.";
+  Weigh(why, bears,
+        "They bear a risk of " + std::to_string(100 - sponsor.Morality) + "%; ours is " +
+            std::to_string(promotion.Risk) + "%.");
   if (!bears) return SponsorAnswer::TooRisky;
-  if (why)
-    *why += "\nOur size and image bring sponsors who pay less than " +
-            Dollars(1LL * limit * kThousand) + " a show; they pay " +
-            Dollars(1LL * sponsor.Pay * kThousand) + ".";
-  return sponsor.Pay < limit ? SponsorAnswer::Accepts : SponsorAnswer::Declines;
+  const int limit = SponsorPayLimit(promotion.Size, promotion.Image);
+  const bool accepts = sponsor.Pay < limit;
+  Weigh(why, accepts,
+        "Our size and image bring sponsors who pay less than " + Dollars(1LL * limit * kThousand) +
+            " a show; they pay " + Dollars(1LL * sponsor.Pay * kThousand) + ".");
+  return accepts ? SponsorAnswer::Accepts : SponsorAnswer::Declines;
 }
 
 long long EndingCost(const Sponsor& sponsor) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "records/fields/companies.h"
+#include "records/score.h"
 #include "records/world.h"
 
 // How sponsors and promotions, the player's and rivals' alike, come together and part.
@@ -33,10 +34,9 @@ void MoveSponsor(Promotion& promotion, int sponsorUid, int place);
 void LoseSponsor(World& world, Sponsor& sponsor);
 
 /// How a sponsor answers the player's offer, by the promotion's risk, then by its standing. `why`
-/// gets each test with its numbers, a line each.
+/// gets what was weighed.
 enum class SponsorAnswer { Accepts, TooRisky, Declines };
-SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion,
-                       std::string* why = nullptr);
+SponsorAnswer AnswerOf(const Sponsor& sponsor, const Promotion& promotion, Decision* why = nullptr);
 
 /// Dollars that it costs to end a deal before its time.
 long long EndingCost(const Sponsor& sponsor);

@@ -1,11 +1,14 @@
 #include "business/tvtalks.h"
 
+#include <algorithm>
 #include <array>
 
 #include "business/networks.h"
 #include "business/tvshows.h"
 #include "records/arithmetic.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
+#include "records/notes.h"
 
 namespace grapplemont {
 
@@ -32,6 +35,24 @@ bool IsTooRisky(const Promotion& promotion, const Show& show, const Network& net
   return promotion.Risk > SlotRisk(network, show.Slot);
 }
 
+std::string RiskOf(const Promotion& promotion, int limit, const char* bears = "they bear up to ") {
+  return "Our risk is " + std::to_string(promotion.Risk) + "; " + bears + std::to_string(limit);
+}
+
+std::string SlotRiskOf(const Promotion& promotion, const Show& show, const Network& network) {
+  return RiskOf(promotion, SlotRisk(network, show.Slot));
+}
+
+/// How the show does, as the network counts it.
+std::string ViewOfRating(const Show& show, const Network& network) {
+  constexpr const char* kReached[] = {"", "half of it at most", "above 50% of it",
+                                      "above 70% of it", "above 90% of it"};
+  const NetworkView view = ViewOf(show, network);
+  if (view == kUnseen) return "No show has been seen yet";
+  return "Measured against a rating of " + InHundredths(SlotAudience(network, show.Slot)) +
+         ", the last one of " + InHundredths(show.Rating3) + " is " + kReached[view];
+}
+
 }  // namespace
 
 NetworkView ViewOf(const Show& show, const Network& network) {
@@ -43,43 +64,59 @@ NetworkView ViewOf(const Show& show, const Network& network) {
 }
 
 std::vector<TvRemark> AskNetwork(const Promotion& promotion, const Show& show,
-                                 const Network& network) {
+                                 const Network& network, Decision* why) {
   std::vector<TvRemark> remarks;
   const NetworkView view = ViewOf(show, network);
-  if (view != kUnseen && IsTooRisky(promotion, show, network))
+  if (view != kUnseen &&
+      !Weigh(why, !IsTooRisky(promotion, show, network), SlotRiskOf(promotion, show, network)))
     remarks.push_back(
         {"Too risky!", "Network: 'We are not happy with the risky nature of your product.'"});
+  Weigh(why, view >= kHappy, ViewOfRating(show, network));
   remarks.push_back(kViewWords[view]);
   return remarks;
 }
 
 ExtensionTalk TalkOfExtension(const Promotion& promotion, const Show& show,
                               const Network& network) {
-  if (IsTooRisky(promotion, show, network))
-    return {"Network: 'We are not going to negotiate until you lower your product's risk value!'"};
   const NetworkView view = ViewOf(show, network);
+  ExtensionTalk talk;
+  const auto say = [&](const char* words, int weeks = 0) {
+    talk.Text = words;
+    talk.Weeks = weeks;
+    return talk;
+  };
+  if (!talk.Why.Weigh(!IsTooRisky(promotion, show, network), SlotRiskOf(promotion, show, network)))
+    return say(
+        "Network: 'We are not going to negotiate until you lower your product's risk value!'");
+  talk.Why.Weigh(view >= kHappy, ViewOfRating(show, network));
   if (view == kUnseen)
-    return {"Network: 'We are not going to negotiate without having seen a show!'"};
+    return say("Network: 'We are not going to negotiate without having seen a show!'");
   if (view < kHappy)
-    return {"Network: 'We are not looking to extend the contract at the present time.'"};
-  if (show.ContractWeeks > kTalkWeeks)
-    return {
+    return say("Network: 'We are not looking to extend the contract at the present time.'");
+  if (!talk.Why.Weigh(show.ContractWeeks <= kTalkWeeks,
+                      Counted(show.ContractWeeks, "week") + " to run; they talk about " +
+                          std::to_string(kTalkWeeks) + " or fewer"))
+    return say(
         "Network: 'We do not want to enter negotiations when the contract still has over 3 months "
-        "to run.'"};
+        "to run.'");
   if (view == kHappy)
-    return {"Network: 'We are willing to offer a 6 month extension on the deal.'", kHappyWeeks};
-  return {"Network: 'We are willing to offer a 9 month extension on the deal.'", kGreatWeeks};
+    return say("Network: 'We are willing to offer a 6 month extension on the deal.'", kHappyWeeks);
+  return say("Network: 'We are willing to offer a 9 month extension on the deal.'", kGreatWeeks);
 }
 
 EndingTalk TalkOfEnding(const Promotion& promotion, const Show& show, const Network& network) {
-  if (ViewOf(show, network) == kTerrible)
-    return {"Network: 'We are happy to mutually end this deal.'"};
-  const int penalty = BySize(kPenalties, promotion.Size);
-  return {
+  EndingTalk talk;
+  if (talk.Why.Weigh(ViewOf(show, network) == kTerrible, ViewOfRating(show, network))) {
+    talk.Text = "Network: 'We are happy to mutually end this deal.'";
+    return talk;
+  }
+  talk.Penalty = BySize(kPenalties, promotion.Size);
+  talk.Text =
       "Network: 'We do not wish to end this deal.If you breach the contract, we will sue you for "
       "$" +
-          std::to_string(penalty) + ".'",
-      penalty};
+      std::to_string(talk.Penalty) + ".'";
+  talk.Why.Weigh(false, "They sue a promotion of our size for " + Dollars(talk.Penalty));
+  return talk;
 }
 
 void EndDeal(World& world, Show& show, int penalty) {
@@ -133,6 +170,10 @@ constexpr SlotMove kMoves[] = {
      "Network: 'We would be willing to move this show forward, but only if your promotion reduced "
      "its risk level.'"}};
 
+std::string SlotNameOf(std::string_view slot) {
+  return std::string(SlotName(slot));
+}
+
 std::string TakenWords(std::string_view slot) {
   const std::string name = slot == "G" ? "graveyard" : slot == "L" ? "late night" : "prime time";
   return "Network: 'We would move you to a " + name + " slot, but we already have a show then.'";
@@ -161,13 +202,21 @@ constexpr const char* kRefusals[] = {
 /// Nothing when the network could use the show. Of several reasons the last is given; a show that
 /// would draw too few gives none of its own.
 std::optional<Reason> RefusalOf(const World& world, const Promotion& promotion,
-                                const Network& network) {
+                                const Network& network, Decision* why) {
   std::optional<Reason> reason;
-  if (promotion.Size > kSmall) reason = kTooSmall;
-  if (promotion.Risk > network.GraveRisk) reason = kTooRisky;
-  if (IsFull(world, network) && !network.Generic) reason = kNoSpace;
+  if (!Weigh(why, promotion.Size <= kSmall, "Our size: they deal with Small promotions and up"))
+    reason = kTooSmall;
+  if (!Weigh(why, promotion.Risk <= network.GraveRisk, RiskOf(promotion, network.GraveRisk)))
+    reason = kTooRisky;
+  const bool hasSpace = !IsFull(world, network) || network.Generic;
+  if (!Weigh(why, hasSpace, hasSpace ? "There is space for a show" : "Every spot is taken"))
+    reason = kNoSpace;
   const int potential = AudiencePotential(promotion, world.Game().Economy);
-  if (potential < PercentOf(network.GraveAudience, 60) && !reason) reason = kNoBenefit;
+  const int least = PercentOf(network.GraveAudience, 60);
+  const bool draws = Weigh(why, potential >= least,
+                           "We could draw a rating of " + InHundredths(potential) + "; they want " +
+                               InHundredths(least) + " at least");
+  if (!draws && !reason) reason = kNoBenefit;
   return reason;
 }
 
@@ -183,17 +232,28 @@ std::string_view OfferedSlot(const Network& network, int potential) {
 MoveTalk TalkOfMove(const World& world, const Promotion& promotion, const Show& show,
                     const Network& network) {
   const NetworkView view = ViewOf(show, network);
-  for (const SlotMove& move : kMoves) {
-    if (show.Slot != move.From || view != move.View) continue;
-    if (promotion.Risk >= network.*move.RiskBelow) return {move.TooRisky, {}};
-    if (SlotTaken(world, network, move.To)) return {TakenWords(move.To), {}};
-    return {move.Offer, move.To};
+  const auto* move = std::ranges::find_if(
+      kMoves, [&](const SlotMove& each) { return show.Slot == each.From && view == each.View; });
+  MoveTalk talk;
+  const std::string rating = ViewOfRating(show, network);
+  if (move == std::end(kMoves)) {
+    talk.Text = kRefuse;
+    talk.Why.Weigh(false, rating + ": no reason to move it from " + SlotNameOf(show.Slot));
+    return talk;
   }
-  return {kRefuse, {}};
+  talk.Why.Weigh(true, rating + ": " + SlotNameOf(move->To) + " would suit it");
+  const int risk = network.*move->RiskBelow;
+  const bool isTame =
+      talk.Why.Weigh(promotion.Risk < risk, RiskOf(promotion, risk, "it must be below "));
+  const bool isFree = isTame && talk.Why.Weigh(!SlotTaken(world, network, move->To),
+                                               SlotNameOf(move->To) + " must be free");
+  talk.Text = !isTame ? move->TooRisky : !isFree ? TakenWords(move->To) : move->Offer;
+  if (isFree) talk.Slot = move->To;
+  return talk;
 }
 
 bool CouldUseTape(const World& world, const Network& network) {
-  return !RefusalOf(world, world.Player(), network);
+  return !RefusalOf(world, world.Player(), network, nullptr);
 }
 
 std::string WhyNoTape(const World& world) {
@@ -210,13 +270,23 @@ void AnswerPromoTapes(World& world) {
   const Network* network = world.FindNetwork(game.TapeWait);
   DropOffer(world);
   if (!network) return;
-  if (const auto reason = RefusalOf(world, world.Player(), *network))
-    return AddNews(world, network->Name, kRefusals[*reason]);
-  if (world.RandomDraw(kOfferOdds) != kOfferDraw) return AddNews(world, network->Name, kNotLooking);
+  Decision why;
+  const auto reason = RefusalOf(world, world.Player(), *network, &why);
+  const bool isOffer =
+      !reason && why.Weigh(world.RandomDraw(kOfferOdds) == kOfferDraw,
+                           "A matter of luck: one such tape in " + std::to_string(kOfferOdds));
+  NoteAnew(world, {kNoteTape, network->Name.Str()}, why);
+  if (!isOffer) return AddNews(world, network->Name, reason ? kRefusals[*reason] : kNotLooking);
   game.TvOfferWait = int(network->Uid);
   AddNews(world, "Production",
           "We have recieved interest from " + network->Name.Str() +
               "! (Go to the 'Television' section)");
+}
+
+std::string WhyOfTape(const World& world) {
+  const auto [whose, why] = NotedAnswer(world, kNoteTape);
+  if (why.Steps().empty()) return {};
+  return WhyText(whose + (why.IsYes() ? " made an offer" : " turned the tape down"), why);
 }
 
 std::optional<TvOffer> OfferOnTheTable(const World& world) {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "records/score.h"
 #include "records/world.h"
 
 // What a network thinks of a show of the player's, and what it lets them do with the deal.
@@ -21,14 +22,15 @@ struct TvRemark {
   std::string Title, Text;
 };
 
-/// What the network has to say about the show, box by box.
+/// What the network has to say about the show, box by box. `why` gets what it weighed.
 std::vector<TvRemark> AskNetwork(const Promotion& promotion, const Show& show,
-                                 const Network& network);
+                                 const Network& network, Decision* why = nullptr);
 
 /// What the network says to a wish for more weeks.
 struct ExtensionTalk {
   std::string Text;
   int Weeks = 0;  // offered; 0 is a rejection
+  Decision Why = {};
 };
 ExtensionTalk TalkOfExtension(const Promotion& promotion, const Show& show, const Network& network);
 
@@ -36,6 +38,7 @@ ExtensionTalk TalkOfExtension(const Promotion& promotion, const Show& show, cons
 struct EndingTalk {
   std::string Text;
   int Penalty = 0;  // dollars
+  Decision Why = {};
 };
 EndingTalk TalkOfEnding(const Promotion& promotion, const Show& show, const Network& network);
 /// Pays the penalty, whatever is in the bank, and takes the show off the air.
@@ -44,7 +47,8 @@ void EndDeal(World& world, Show& show, int penalty);
 /// What the network says to a wish for another time slot.
 struct MoveTalk {
   std::string Text;
-  std::string_view Slot;  // offered; empty is a rejection
+  std::string_view Slot = {};  // offered; empty is a rejection
+  Decision Why = {};
 };
 MoveTalk TalkOfMove(const World& world, const Promotion& promotion, const Show& show,
                     const Network& network);
@@ -71,7 +75,9 @@ void DropOffer(World& world);
 void AcceptOffer(World& world, const TvOffer& offer, int day, std::string_view name);
 
 /// The network that has the player's tape answers: a step of the first of a month. Requires a tape
-/// under way.
+/// under way. What it weighs is noted.
 void AnswerPromoTapes(World& world);
+/// What the last network weighed that saw a tape, a line each; empty while none has.
+std::string WhyOfTape(const World& world);
 
 }  // namespace grapplemont

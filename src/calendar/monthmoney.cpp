@@ -6,13 +6,13 @@
 #include "calendar/advanceday.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/notes.h"
 #include "records/severing.h"
 #include "rivals/rivals.h"
 #include "roster/leaving.h"
 #include "roster/market.h"
 #include "roster/moods.h"
 #include "roster/talks.h"
-#include "show/nightbook.h"
 
 namespace grapplemont {
 
@@ -84,12 +84,12 @@ void LoanRepayments(World& world) {
 
 void MerchandiseIncome(World& world) {
   for (Promotion& promotion : world.Promotions()) {
-    if (promotion.Merchandising <= 0) continue;
     const Score dollars = MerchandiseSales(promotion, world.Game().Economy);
+    if (IsPlayers(world, promotion)) NoteAnew(world, {kNoteMerch, promotion.Name.Str()}, dollars);
+    if (promotion.Merchandising <= 0) continue;
     promotion.Money += dollars;
     promotion.ThisMonth.MerchIncome += dollars;
     if (!IsPlayers(world, promotion)) continue;
-    NoteMonth(world, kNoteMerch, dollars);
     AddNews(world, kFinance,
             "We made $" + std::to_string(dollars) + " off merchandise this month.");
   }

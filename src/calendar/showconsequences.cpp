@@ -25,19 +25,28 @@ constexpr int kEnoughPeople = 6;
 // By Event type from 1 to 4, in dollars.
 constexpr std::array<int, 4> kCancelCharges = {2000000, 1000000, 100000, 5000};
 
+/// A loss of image beside any show; the player's is noted.
+void LoseImage(World& world, Promotion& promotion, int loss, const char* why) {
+  const int image = promotion.Image;
+  ChangeImage(world, promotion, loss, false);
+  if (IsPlayers(world, promotion))
+    NoteFact(world, {kNoteStanding, promotion.Name.Str()}, promotion.Image - image, promotion.Image,
+             why);
+}
+
 /// Money by its type, and image. Gives the dollars it cost.
 int CallOffEvent(World& world, Promotion& promotion, int type) {
   const int dollars =
       type >= 1 && type <= 4 ? kCancelCharges[static_cast<std::size_t>(type - 1)] : 0;
   promotion.Money -= dollars;
-  ChangeImage(world, promotion, kCancelledImage, false);
+  LoseImage(world, promotion, kCancelledImage, "an Event called off");
   return dollars;
 }
 
 /// Image, and a strike with its network.
 void CallOffTv(World& world, Promotion& promotion) {
   if (Show* show = ShowOn(world, promotion.Uid, world.Today())) ++show->Rating4;
-  ChangeImage(world, promotion, kCancelledImage, false);
+  LoseImage(world, promotion, kCancelledImage, "a show called off");
 }
 
 /// A network looks at the promotion's show of today: too risky, too poorly produced. Each complaint
@@ -134,7 +143,8 @@ void RememberShow(World& world, const Promotion& player, HistoryKind kind, std::
 
 void EventDay(World& world, Promotion& player, bool cancelled) {
   const Event* event = PlayerEvent(world, MonthOf(world.Today()));
-  if (!event || event->Type == 0) return ChangeImage(world, player, kNoEventImage, false);
+  if (!event || event->Type == 0)
+    return LoseImage(world, player, kNoEventImage, "a month without an Event");
   const int type = event->Type;  // the image sets it again
   ShowTakings takings;
   if (cancelled)

@@ -4,6 +4,7 @@
 
 #include "records/modVar.h"
 #include "records/severing.h"
+#include "roster/objections.h"
 #include "roster/postings.h"
 #include "storylines/storynames.h"
 
@@ -37,11 +38,19 @@ bool IsBoundAndContent(const Worker& worker) {
 }
 
 /// The better they behave, the further the player must stand above their employer.
-std::string WhyStays(const World& world, const Worker& worker, int size) {
+std::string WhyStays(const World& world, const Worker& worker, int size, Decision* why) {
   const Promotion* employer = world.FindPromotion(worker.Employer);
-  if (!employer || !IsBoundAndContent(worker)) return {};
-  if (worker.Behaviour >= 91) return employer->Size - 2 <= size ? kNotWhileBound.Of(worker) : "";
-  return employer->Size - 1 <= size ? kStays.Of(worker) : "";
+  if (!employer || !IsBoundAndContent(worker)) {
+    Weigh(why, true, employer ? "Not both bound in writing and content" : "Works for nobody");
+    return {};
+  }
+  const bool isLoyal = worker.Behaviour >= 91;
+  const bool stays = employer->Size - (isLoyal ? 2 : 1) <= size;
+  Weigh(why, !stays,
+        "Bound in writing and content at " + employer->Initials.Str() + "; somebody of that " +
+            "conduct leaves it for a promotion " + (isLoyal ? "three" : "two") +
+            " classes above it, and no other");
+  return !stays ? "" : isLoyal ? kNotWhileBound.Of(worker) : kStays.Of(worker);
 }
 
 bool IsTooBig(int size, int over) {
@@ -59,66 +68,83 @@ struct SigningTalk {
   bool OffersMoreThan(int percentOnTop) const {
     return Wants.Wage + PercentOf(Wants.Wage, percentOnTop) < Offer.Wage;
   }
+  std::string Told(std::string_view slot) const {
+    if (slot == "months") return MonthsText(Offer.Months);
+    if (slot == "length") return MonthsText(Wants.Months);
+    return WageText(slot == "wanted" ? Wants.Wage : Offer.Wage);
+  }
   bool Asks(int position) const { return Wants.Position == position; }
   bool Gets(int position) const { return Offer.Position == position; }
 };
 
-struct SigningObjection {
-  bool (*Holds)(const SigningTalk& t);
-  const char* Words;
-};
-
 // The last two turn down a wage above their figure.
-constexpr SigningObjection kSigningObjections[] = {
+constexpr Objection<SigningTalk> kSigningObjections[] = {
     {[](const SigningTalk& t) { return t.Wants.Written && !t.Offer.Written; },
-     "I want a written contract!"},
+     "I want a written contract!", "A verbal contract offered: they want a written one"},
     {[](const SigningTalk& t) { return !t.Wants.Written && t.Offer.Written; },
-     "I do not want a written contract!"},
+     "I do not want a written contract!", "A written contract offered: they want a verbal one",
+     "The type of contract is the one they want"},
     {[](const SigningTalk& t) { return t.Offer.Wage < t.Wants.Wage - PercentOf(t.Wants.Wage, 10); },
-     "You are not offering me enough money!"},
+     "You are not offering me enough money!",
+     "{offered} offered of {wanted} wanted: a tenth less is the least they take",
+     "{offered} offered of {wanted} wanted"},
     {[](const SigningTalk& t) {
        return t.Wants.CreativeControl && !t.Offer.CreativeControl && !t.Pays(120);
      },
-     "I want a creative control clause!"},
+     "I want a creative control clause!",
+     "No creative control, and no fifth on top of {wanted} in its place"},
     {[](const SigningTalk& t) {
        return t.Asks(kManager) && !t.Gets(kManager) && t.Tier() == 0 && !t.Pays(120);
      },
-     "I only wish to work as a manager!"},
+     "I only wish to work as a manager!",
+     "Cannot wrestle, and does anything else only for a fifth on top of {wanted}"},
     {[](const SigningTalk& t) {
        return !t.Asks(kManager) && t.Gets(kManager) && t.Tier() > 0 && !t.Pays(120);
      },
-     "I do not want to become a manager!"},
+     "I do not want to become a manager!",
+     "Can wrestle, and manages only for a fifth on top of {wanted}"},
     {[](const SigningTalk& t) {
        return t.Asks(kNonWrestler) && !t.Gets(kNonWrestler) && (t.Tier() == 0 || t.Who.Age > 35) &&
               !t.Pays(140);
      },
-     "I only wish to work as a non-wrestler!"},
+     "I only wish to work as a non-wrestler!",
+     "Works outside the ring, and in it only for two fifths on top of {wanted}"},
     {[](const SigningTalk& t) {
        return !t.Asks(kNonWrestler) && t.Gets(kNonWrestler) && t.Tier() > 0 && !t.Pays(130);
      },
-     "I do not want to become a non-wrestler!"},
+     "I do not want to become a non-wrestler!",
+     "Can wrestle, and leaves the ring only for three tenths on top of {wanted}"},
     {[](const SigningTalk& t) { return t.Gets(kTrainingCamp) && (t.Tier() > 0 || t.Who.Age > 24); },
-     "I do not want to go to the training camp!"},
+     "I do not want to go to the training camp!",
+     "The training camp is for people of at most 24 who cannot wrestle yet"},
     {[](const SigningTalk& t) {
        return t.Offer.Position > t.Wants.Position && t.Offer.Position < kDevelopmentDeal;
      },
-     "I want to be positioned higher up the card!"},
+     "I want to be positioned higher up the card!",
+     "The position offered is below the one they want", "Nothing speaks against the position"},
     {[](const SigningTalk& t) { return t.Wants.Months == 6 && t.Offer.Months >= 13; },
-     "I do not want to sign such a long contract!"},
+     "I do not want to sign such a long contract!",
+     "{months} offered: they want {length}, and no more than 12"},
     {[](const SigningTalk& t) { return t.Wants.Months == 24 && t.Offer.Months == 6; },
-     "I need job security. I want a longer contract!"},
+     "I need job security. I want a longer contract!",
+     "{months} offered: they want {length}, and more than 6 at least"},
     {[](const SigningTalk& t) { return t.Wants.Months >= 31 && t.Offer.Months < 25; },
-     "I need job security. I want a longer contract!"},
+     "I need job security. I want a longer contract!",
+     "{months} offered: they want {length}, and more than 24 at least"},
     {[](const SigningTalk& t) { return t.Wants.Months == 60 && t.Offer.Months < 37; },
-     "I want a much longer contract!"},
+     "I want a much longer contract!",
+     "{months} offered: they want {length}, and more than 36 at least"},
     {[](const SigningTalk& t) {
        return t.Wants.Months == 24 && t.Offer.Months > 48 && t.OffersMoreThan(15);
      },
-     "I want extra money to sign for this amount of time!"},
+     "I want extra money to sign for this amount of time!",
+     "{months} offered: for that long they turn down more than 15% above {wanted}"},
     {[](const SigningTalk& t) {
        return t.Wants.Months == 12 && t.Offer.Months > 30 && t.OffersMoreThan(20);
      },
-     "I want extra money to sign for this amount of time!"},
+     "I want extra money to sign for this amount of time!",
+     "{months} offered: for that long they turn down more than a fifth above {wanted}",
+     "{months} suit them"},
 };
 
 bool IsNameOfAnother(const World& world, const Worker& worker, std::string_view name) {
@@ -146,11 +172,18 @@ void LeaveFormer(World& world, const Worker& worker) {
 
 }  // namespace
 
-std::string WhyNoSigning(const World& world, const Worker& worker) {
+std::string WhyNoSigning(const World& world, const Worker& worker, Decision* why) {
   const int size = world.Player().Size;
-  if (worker.Loyalty < 40) return kNotAtAll.Of(worker);
-  if (std::string why = WhyStays(world, worker, size); !why.empty()) return why;
-  return IsTooBig(size, worker.Over) ? kTooSmall.Of(worker) : "";
+  const bool talks = worker.Loyalty >= 40;
+  if (!Weigh(why, talks, talks ? "Thinks well enough of you to talk" : "Thinks little of you"))
+    return kNotAtAll.Of(worker);
+  if (std::string no = WhyStays(world, worker, size, why); !no.empty()) return no;
+  const bool fits = !IsTooBig(size, worker.Over);
+  Weigh(why, fits,
+        "Popularity " + std::to_string(worker.Over) +
+            (fits ? ": our size will do"
+                  : ": a Backyard gets up to 30, a Small promotion 50, a Regional one 70"));
+  return fits ? "" : kTooSmall.Of(worker);
 }
 
 std::string MoreMoneyText(const Worker& worker) {
@@ -167,11 +200,9 @@ std::string WhyNotAsOffered(const World& world, const Worker& worker, const Sign
   return {};
 }
 
-std::string JudgeSigning(const Worker& worker, const Demands& demands, const SigningOffer& offer) {
-  const SigningTalk talk{worker, demands, offer};
-  for (const SigningObjection& objection : kSigningObjections)
-    if (objection.Holds(talk)) return objection.Words;
-  return {};
+std::string JudgeSigning(const Worker& worker, const Demands& demands, const SigningOffer& offer,
+                         Decision* why) {
+  return FirstObjection(kSigningObjections, SigningTalk{worker, demands, offer}, why);
 }
 
 void Sign(World& world, Worker& worker, const SigningOffer& offer) {

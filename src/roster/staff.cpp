@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "roster/leaving.h"
+#include "roster/objections.h"
 
 namespace grapplemont {
 
@@ -46,30 +48,65 @@ bool IsFarAbove(int size, int employerSize, int backstage) {
   return employerSize - steps > size;
 }
 
-std::string WhyStays(const World& world, const Staff& staff) {
+std::string WhyStays(const World& world, const Staff& staff, Decision* why) {
   const Promotion* employer = world.FindPromotion(staff.Employer);
-  if (!employer || staff.Morale < kHappy) return {};
-  if (staff.ContractType == "Wri" && staff.ContractMonths >= 1)
+  if (!employer || staff.Morale < kHappy) {
+    Weigh(why, true, employer ? "Not content where they work" : "Works for nobody");
+    return {};
+  }
+  if (staff.ContractType == "Wri" && staff.ContractMonths >= 1) {
+    Weigh(why, false, "Content, and bound in writing");
     return HeOrShe(staff, " is under a written contract and happy with it.");
-  if (IsFarAbove(world.Player().Size, employer->Size, staff.Backstage)) return {};
+  }
+  const bool leaves = IsFarAbove(world.Player().Size, employer->Size, staff.Backstage);
+  Weigh(why, leaves,
+        "Content at " + employer->Initials.Str() +
+            ": the better the conduct, the further above it we must stand");
+  if (leaves) return {};
   return HeOrShe(staff, " is happy at ") + employer->Initials.Str() +
          " and sees no reason to leave for you.";
 }
 
-std::string WhyNoHire(const World& world, const Staff& staff) {
-  if (staff.Loyalty < 40) return HeOrShe(staff, " wants nothing to do with you.");
-  if (std::string why = WhyStays(world, staff); !why.empty()) return why;
-  return staff.Talent > TalentCeiling(world.Player().Size)
-             ? HeOrShe(staff, " does not think that your promotion is big enough.")
-             : "";
+std::string WhyNoHire(const World& world, const Staff& staff, Decision* why) {
+  const bool talks = staff.Loyalty >= 40;
+  if (!Weigh(why, talks, talks ? "Thinks well enough of you to talk" : "Thinks little of you"))
+    return HeOrShe(staff, " wants nothing to do with you.");
+  if (std::string no = WhyStays(world, staff, why); !no.empty()) return no;
+  const int ceiling = TalentCeiling(world.Player().Size);
+  const bool fits = staff.Talent <= ceiling;
+  Weigh(why, fits,
+        "Talent " + std::to_string(staff.Talent) +
+            ": a promotion of our size gets people of up to " + std::to_string(ceiling));
+  return fits ? "" : HeOrShe(staff, " does not think that your promotion is big enough.");
 }
 
-std::string WhyNoRenewal(const Staff& staff) {
-  const int morale = staff.Morale, loyalty = staff.Loyalty;
-  if (staff.ContractMonths > 24 && morale > 39 && loyalty > 39)
-    return HeOrShe(staff, " is happy with the contract as it is.");
-  if (morale < 20 || loyalty < 20) return HeOrShe(staff, " will not even sit down with you.");
-  return morale < 40 || loyalty < 40 ? HeOrShe(staff, " does not want to talk about staying.") : "";
+/// What is looked at before anybody speaks of money. The words follow "He" or "She".
+struct StaffOpening {
+  const Staff& Who;
+
+  bool IsContent() const { return Who.Morale > 39 && Who.Loyalty > 39; }
+  std::string Told(std::string_view) const { return MonthsText(Who.ContractMonths); }
+};
+
+constexpr const char* kWillNotSit = " will not even sit down with you.";
+constexpr const char* kWillNotStay = " does not want to talk about staying.";
+constexpr Objection<StaffOpening> kStaffOpenings[] = {
+    {[](const StaffOpening& o) { return o.Who.ContractMonths > 24 && o.IsContent(); },
+     " is happy with the contract as it is.",
+     "{left} left, and content: more than 24 are not talked about", "{left} left"},
+    {[](const StaffOpening& o) { return o.Who.Morale < 20; }, kWillNotSit,
+     "Wants to be anywhere but here"},
+    {[](const StaffOpening& o) { return o.Who.Loyalty < 20; }, kWillNotSit,
+     "Would never work for you"},
+    {[](const StaffOpening& o) { return o.Who.Morale < 40; }, kWillNotStay, "Unhappy here",
+     "Not unhappy here"},
+    {[](const StaffOpening& o) { return o.Who.Loyalty < 40; }, kWillNotStay, "Thinks little of you",
+     "Thinks well enough of you to talk"},
+};
+
+std::string WhyNoRenewal(const Staff& staff, Decision* why) {
+  const std::string no = FirstObjection(kStaffOpenings, StaffOpening{staff}, why);
+  return no.empty() ? no : HeOrShe(staff, no.c_str());
 }
 
 struct StaffTalk {
@@ -78,37 +115,50 @@ struct StaffTalk {
   const ContractOffer& Offer;
   int Size;
   bool IsOwn;
+
+  std::string Told(std::string_view slot) const {
+    if (slot == "talent") return std::to_string(Who.Talent);
+    if (slot == "months") return MonthsText(Offer.Months);
+    // The player's own keep to themselves what they want.
+    if (slot == "wanted") return IsOwn ? "what they have in mind" : WageText(Wants.Wage);
+    return WageText(slot == "now" ? int(Who.Wage) : Offer.Wage);
+  }
 };
 
-struct StaffObjection {
-  bool (*Holds)(const StaffTalk& t);
-  const char* Words;
-};
-constexpr StaffObjection kStaffObjections[] = {
+constexpr Objection<StaffTalk> kStaffObjections[] = {
     {[](const StaffTalk& t) {
        return t.IsOwn && t.Who.Talent > TalentCeiling(t.Size) + kPatience && t.Who.Loyalty < 70;
      },
-     "No thanks, it is time for me to move on to a bigger promotion."},
+     "No thanks, it is time for me to move on to a bigger promotion.",
+     "Talent {talent} is more than our size keeps, unless they think well of you"},
     {[](const StaffTalk& t) { return t.Wants.Written && !t.Offer.Written; },
-     "I want that in writing."},
+     "I want that in writing.",
+     "A verbal contract offered: of a promotion of our size they want a written one"},
     {[](const StaffTalk& t) { return !t.Wants.Written && t.Offer.Written; },
-     "I do not want to be bound by a written contract."},
+     "I do not want to be bound by a written contract.",
+     "A written contract offered: of a promotion of our size they want a verbal one",
+     "The type of contract is the one they want"},
     {[](const StaffTalk& t) {
        return t.IsOwn && t.Who.Loyalty < 50 && t.Offer.Wage < t.Wants.Wage;
      },
-     "After all that i have done here, i want a raise."},
+     "After all that i have done here, i want a raise.",
+     "{offered} offered is less than {wanted}, and they do not think that well of you"},
     {[](const StaffTalk& t) { return t.IsOwn && t.Offer.Wage < t.Who.Wage; },
-     "I am not going to work for less."},
+     "I am not going to work for less.", "{offered} offered is less than {now} now"},
     {[](const StaffTalk& t) { return t.Offer.Wage < t.Wants.Wage - PercentOf(t.Wants.Wage, 10); },
-     "I am worth more than that."},
+     "I am worth more than that.", "{offered} offered is more than a tenth below {wanted}",
+     "{offered} offered is close enough to {wanted}"},
     {[](const StaffTalk& t) { return t.Wants.Months == 6 && t.Offer.Months > 12; },
-     "I do not want to bind myself for so long."},
+     "I do not want to bind myself for so long.",
+     "{months} offered: of a promotion of our size they want 12 at most"},
     {[](const StaffTalk& t) { return t.Wants.Months >= 24 && t.Offer.Months < 12; },
-     "Half a year is no security. I want a longer contract."},
+     "Half a year is no security. I want a longer contract.",
+     "{months} offered: of a promotion of our size they want 12 at least"},
     {[](const StaffTalk& t) {
        return t.Offer.Months > 36 && t.Offer.Wage < t.Wants.Wage + PercentOf(t.Wants.Wage, 20);
      },
-     "For so many years i want a fifth on top."},
+     "For so many years i want a fifth on top.",
+     "{months} take a fifth on top of {wanted}; {offered} offered", "{months} suit them"},
 };
 
 /// What their talent is worth to a promotion of this size, thousands of dollars a month.
@@ -116,13 +166,21 @@ int WorthOf(int size, int talent) {
   return PercentOf(talent, BySize(kMarket, size).Worth) / kTalentPerThousand;
 }
 
-int WageWanted(const World& world, const Staff& staff) {
+Score WageWanted(const World& world, const Staff& staff) {
   const int size = world.Player().Size, now = staff.Wage;
   const bool own = WorksForPlayer(world, staff);
-  const int moved = now + PercentOf(now, own ? RaiseOf(staff.Talent) : BySize(kMarket, size).Moves);
-  int wage = std::max(moved, WorthOf(size, staff.Talent));
-  if (!own && staff.Employer != 0) wage = PercentOf(wage, 120);
-  return std::clamp(wage, 0, kHighestStaffWage);
+  Score wage;
+  wage.Add(now, staff.Employer != 0 ? "the wage of the present contract" : "the last wage");
+  if (own)
+    wage.Add(PercentOf(now, RaiseOf(staff.Talent)), "a raise by the talent");
+  else
+    wage.Add(PercentOf(now, BySize(kMarket, size).Moves), "what a promotion of our size can pay");
+  wage.Become(std::max<int>(wage, WorthOf(size, staff.Talent)),
+              "a talent of " + std::to_string(staff.Talent) + " is worth as much to us");
+  if (!own && staff.Employer != 0)
+    wage.Become(PercentOf(wage, 120), "a fifth more for leaving a job");
+  wage.Become(std::clamp<int>(wage, 0, kHighestStaffWage), "nobody asks for less or more");
+  return wage;
 }
 
 }  // namespace
@@ -144,19 +202,20 @@ int TalentCeiling(int size) {
 
 StaffDemands StaffDemandsOf(const World& world, const Staff& staff) {
   const int size = world.Player().Size;
-  return {BySize(kMarket, size).Months, size < kCult, WageWanted(world, staff)};
+  Score wage = WageWanted(world, staff);
+  const int thousands = wage;
+  return {BySize(kMarket, size).Months, size < kCult, thousands, std::move(wage)};
 }
 
-std::string WhyNoStaffOffer(const World& world, const Staff& staff) {
-  return WorksForPlayer(world, staff) ? WhyNoRenewal(staff) : WhyNoHire(world, staff);
+std::string WhyNoStaffOffer(const World& world, const Staff& staff, Decision* why) {
+  return WorksForPlayer(world, staff) ? WhyNoRenewal(staff, why) : WhyNoHire(world, staff, why);
 }
 
 std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
-                            const ContractOffer& offer) {
-  const StaffTalk talk{staff, demands, offer, world.Player().Size, WorksForPlayer(world, staff)};
-  for (const StaffObjection& objection : kStaffObjections)
-    if (objection.Holds(talk)) return objection.Words;
-  return {};
+                            const ContractOffer& offer, Decision* why) {
+  return FirstObjection(
+      kStaffObjections,
+      StaffTalk{staff, demands, offer, world.Player().Size, WorksForPlayer(world, staff)}, why);
 }
 
 void HireStaff(World& world, Staff& staff, const ContractOffer& offer) {

@@ -24,16 +24,18 @@ int TalentCeiling(int size);
 struct StaffDemands {
   int Months = 12;
   bool Written = true;
-  int Wage = 0;  // thousands of dollars a month
+  int Wage = 0;          // thousands of dollars a month
+  Score WageSteps = {};  // how the wage came about
 };
 /// For staying with the player's promotion where they work there, else for coming.
 StaffDemands StaffDemandsOf(const World& world, const Staff& staff);
 
-/// What closes the talks before they begin, a whole sentence; empty while they will listen.
-std::string WhyNoStaffOffer(const World& world, const Staff& staff);
+/// What closes the talks before they begin, a whole sentence; empty while they will listen. `why`
+/// gets what was weighed, here and below.
+std::string WhyNoStaffOffer(const World& world, const Staff& staff, Decision* why = nullptr);
 /// Why they say no to an offer; empty when it is a deal.
 std::string JudgeStaffOffer(const World& world, const Staff& staff, const StaffDemands& demands,
-                            const ContractOffer& offer);
+                            const ContractOffer& offer, Decision* why = nullptr);
 
 /// They leave whoever employs them and work for the player from now on, in better spirits.
 void HireStaff(World& world, Staff& staff, const ContractOffer& offer);

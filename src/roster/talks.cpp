@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/fields/wording.h"
+#include "roster/objections.h"
 
 namespace grapplemont {
 
@@ -115,10 +116,15 @@ bool WantsWritten(int size, const Worker& worker) {
   return size < kCult || (size == kCult && worker.Over <= 50);
 }
 
-int RenewalWage(const Worker& worker) {
+Score RenewalWage(const Worker& worker) {
   const int position = worker.Position;
   const int percent = position < kMidcard ? 10 : position <= kLowerMidcard ? 5 : 1;
-  return std::clamp(worker.Wage + PercentOf(worker.Wage, percent), 1, kHighestWage);
+  Score wage;
+  wage.Add(worker.Wage, "the wage of the present contract");
+  wage.Add(PercentOf(worker.Wage, percent),
+           std::to_string(percent) + "% by the place on the card: the higher, the more");
+  wage.Become(std::clamp<int>(wage, 1, kHighestWage), "nobody asks for less or more");
+  return wage;
 }
 
 }  // namespace
@@ -147,75 +153,122 @@ struct Talk {
   bool IsShort() const { return Offer.Months < 13; }
   bool IsEarner() const { return Now() >= 100; }
   bool IsDisloyal() const { return Who.Loyalty < 50; }
+  bool IsAlms() const { return Offered() < 5; }
+
+  std::string Told(std::string_view slot) const {
+    if (slot == "over") return std::to_string(Over());
+    if (slot == "months") return MonthsText(Offer.Months);
+    return WageText(slot == "now" ? Now() : Offered());
+  }
 };
 
-struct Objection {
-  bool (*Holds)(const Talk& t);
-  const char* Words;
-  bool (*IsSaidAnyway)(const Talk& t) = nullptr;  // even after another objection
-};
-
-constexpr Objection kObjections[] = {
+constexpr Objection<Talk> kObjections[] = {
     {[](const Talk& t) { return t.Wants.Size == kBackyard && t.Over() >= 21; },
-     "No thanks, i think i should move on to a bigger promotion."},
+     "No thanks, i think i should move on to a bigger promotion.",
+     "Popularity {over}: from 21 on a Backyard promotion is too small"},
     {[](const Talk& t) { return t.Wants.Size == kSmall && t.Over() >= 41; },
-     "No thanks, i want to move to a bigger promotion."},
+     "No thanks, i want to move to a bigger promotion.",
+     "Popularity {over}: from 41 on a Small promotion is too small"},
     {[](const Talk& t) { return t.Wants.Size == kRegional && t.Over() >= 56; },
-     "No thanks, i feel i'm ready to try and join one of the big promotions."},
+     "No thanks, i feel i'm ready to try and join one of the big promotions.",
+     "Popularity {over}: from 56 on a Regional promotion is too small",
+     "Popularity {over}: our size will do"},
     {[](const Talk& t) {
        return t.Wants.Size >= kRegional && t.Over() >= 46 && t.Offer.Months != 6;
      },
-     "This contract is too long."},
+     "This contract is too long.",
+     "{months} offered: from a popularity of 46 on, 6 months with a promotion of our size"},
     {[](const Talk& t) {
        return t.Who.CreativeControl && !t.Offer.CreativeControl && t.IsNoPrice();
      },
-     "I do not want to give up my creative control."},
+     "I do not want to give up my creative control.",
+     "Creative control goes only for a fifth more than they have in mind; {offered} offered"},
     {[](const Talk& t) {
        return t.Who.Age >= 31 && t.Who.Age <= 49 && t.Now() >= 250 && t.Who.Attitude < 40 &&
               t.Over() > 90 && !t.Offer.CreativeControl && t.IsNoPrice();
      },
-     "I want a creative control clause in my contract."},
+     "I want a creative control clause in my contract.",
+     "A star of that age and temper wants creative control, or a fifth more than they have in "
+     "mind"},
     {[](const Talk& t) { return t.Wants.Written && !t.Offer.Written; },
-     "I want a written contract."},
+     "I want a written contract.",
+     "A verbal contract offered: of a promotion of our size they want a written one"},
     {[](const Talk& t) { return !t.Wants.Written && t.Offer.Written; },
-     "I do not want a written contract."},
+     "I do not want a written contract.",
+     "A written contract offered: of a promotion of our size they want a verbal one",
+     "The type of contract is the one they want"},
     {[](const Talk& t) { return t.IsDisloyal() && t.Offered() < t.Wants.Wage; },
-     "I think i deserve a small pay increase."},
+     "I think i deserve a small pay increase.",
+     "{offered} offered is less than they have in mind, and they do not think that well of you"},
     {[](const Talk& t) { return t.IsDisloyal() && t.Offered() < t.Now(); },
-     "I do not accept this pay reduction."},
+     "I do not accept this pay reduction.",
+     "{offered} offered is less than {now} now, and they do not think that well of you"},
     {[](const Talk& t) { return t.Wants.Wage > t.Offered() && t.IsShort(); },
-     "I do not accept these conditions."},
+     "I do not accept these conditions.",
+     "{offered} offered is less than they have in mind, and {months} are too short for that"},
     {[](const Talk& t) { return t.Now() > t.Offered() && t.IsShort(); },
-     "I do not accept these conditions."},
-    {[](const Talk& t) { return t.Wants.Wage > t.Offered() + 10; },
-     "I think i deserve more money."},
+     "I do not accept these conditions.",
+     "{offered} offered is less than {now} now, and {months} are too short for that"},
+    {[](const Talk& t) { return t.Wants.Wage > t.Offered() + 10; }, "I think i deserve more money.",
+     "{offered} offered is more than $10,000 below what they have in mind"},
     {[](const Talk& t) { return t.Now() > t.Offered() + 10; },
-     "I do not accept this pay reduction."},
-    {[](const Talk& t) { return t.Now() > 19 && t.Offered() < 20; },
-     "I do not accept this pay reduction.", [](const Talk& t) { return t.Offered() < 5; }},
+     "I do not accept this pay reduction.",
+     "{offered} offered is more than $10,000 below {now} now"},
+    {[](const Talk& t) { return (t.Now() > 19 && t.Offered() < 20) || t.IsAlms(); },
+     "I do not accept this pay reduction.",
+     "{offered} offered is too little for anybody who earns {now}", nullptr,
+     [](const Talk& t) { return t.IsAlms(); }},
     {[](const Talk& t) { return t.Offer.Months > 36 && t.Offered() <= t.Wants.Wage + 20; },
-     "I want a substantial pay increase if i am to sign for this amount of time."},
+     "I want a substantial pay increase if i am to sign for this amount of time.",
+     "{months} take over $20,000 more than they have in mind; {offered} offered"},
     {[](const Talk& t) { return t.Offered() < t.Wants.Wage && !t.IsEarner(); },
-     "Under these conditions, i'd want more money to sign."},
+     "Under these conditions, i'd want more money to sign.",
+     "{offered} offered is less than they have in mind, which nobody below $100,000 takes"},
     {[](const Talk& t) { return t.Offered() < t.Now() && !t.IsEarner(); },
-     "I do not want a pay reduction under these conditions."},
+     "I do not want a pay reduction under these conditions.",
+     "{offered} offered is less than {now} now, which nobody below $100,000 takes",
+     "{offered} for {months} will do"},
+};
+
+/// What is looked at before anybody speaks of money. The words follow the name.
+struct Opening {
+  const Worker& Who;
+
+  bool IsContent() const { return Who.Morale > 39 && Who.Loyalty > 39; }
+  std::string Told(std::string_view slot) const {
+    return slot == "left" ? MonthsText(Who.ContractMonths) : std::to_string(Who.Morale);
+  }
+};
+
+constexpr const char* kContentWords = " is happy with the current contract.";
+constexpr const char* kRefusesWords = " refuses to even begin negotiations with you.";
+constexpr const char* kUnwillingWords = " does not want to negotiate.";
+constexpr Objection<Opening> kOpenings[] = {
+    {[](const Opening& o) { return o.Who.ContractMonths > 24 && o.IsContent(); }, kContentWords,
+     "{left} left, and content: more than 24 are not talked about", "{left} left"},
+    {[](const Opening& o) { return o.Who.Status == "Hom"; }, kRefusesWords, "Sits at home"},
+    {[](const Opening& o) { return o.Who.Loyalty < 20; }, kRefusesWords,
+     "Would never work for you"},
+    {[](const Opening& o) { return o.Who.Morale < 20; }, kRefusesWords,
+     "Morale {morale}: below 20 they do not even sit down"},
+    {[](const Opening& o) { return o.Who.Morale < 40; }, kUnwillingWords,
+     "Morale {morale}: below 40 they do not talk", "Morale {morale}: from 40 on they talk"},
+    {[](const Opening& o) { return o.Who.Loyalty < 40; }, kUnwillingWords, "Thinks little of you",
+     "Thinks well enough of you to talk"},
 };
 
 }  // namespace
 
-std::string WhyNoRenewal(const Worker& worker) {
-  const int morale = worker.Morale, loyalty = worker.Loyalty;
-  if (worker.ContractMonths > 24 && morale > 39 && loyalty > 39)
-    return worker.Name + " is happy with the current contract.";
-  if (worker.Status == "Hom" || loyalty < 20 || morale < 20)
-    return worker.Name + " refuses to even begin negotiations with you.";
-  if (morale < 40 || loyalty < 40) return worker.Name + " does not want to negotiate.";
-  return {};
+std::string WhyNoRenewal(const Worker& worker, Decision* why) {
+  const std::string no = FirstObjection(kOpenings, Opening{worker}, why);
+  return no.empty() ? no : worker.Name + no;
 }
 
 RenewalTerms RenewalTermsOf(const World& world, const Worker& worker) {
   const int size = world.Player().Size;
-  return {size, RenewalWage(worker), WantsWritten(size, worker)};
+  Score wage = RenewalWage(worker);
+  const int thousands = wage;
+  return {size, thousands, WantsWritten(size, worker), std::move(wage)};
 }
 
 RenewalAnswer JudgeRenewal(const Worker& worker, const RenewalTerms& terms,
@@ -225,10 +278,10 @@ RenewalAnswer JudgeRenewal(const Worker& worker, const RenewalTerms& terms,
   // Whoever sits out says so, and may yet be won over.
   if (worker.Status == "Hom")
     answer.Remarks.push_back({"Refusal", "I'm not negotiating with you."});
-  for (const Objection& objection : kObjections) {
-    const bool holds = (answer.Accepted && objection.Holds(talk)) ||
-                       (objection.IsSaidAnyway && objection.IsSaidAnyway(talk));
-    if (!holds) continue;
+  for (const Objection<Talk>& objection : kObjections) {
+    const bool isHeard =
+        answer.Accepted || (objection.IsSaidAnyway && objection.IsSaidAnyway(talk));
+    if (!isHeard || !IsRaised(objection, talk, &answer.Why)) continue;
     answer.Remarks.push_back({"Rejected!", objection.Words});
     answer.Accepted = false;
   }

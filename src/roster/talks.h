@@ -82,13 +82,15 @@ Demands ContractDemands(const World& world, const Worker& worker);
 // Talks with a worker of the player's about staying.
 
 /// What closes the talks before they begin, with their name in front; empty while they will listen.
-std::string WhyNoRenewal(const Worker& worker);
+/// `why` gets what was weighed, here and with every answer below.
+std::string WhyNoRenewal(const Worker& worker, Decision* why = nullptr);
 
 /// What an offer is held against.
 struct RenewalTerms {
   int Size = kGlobal;  // the promotion's
   int Wage = 0;        // wanted, thousands of dollars a month
   bool Written = true;
+  Score WageSteps = {};  // how the wage came about
 };
 RenewalTerms RenewalTermsOf(const World& world, const Worker& worker);
 
@@ -96,6 +98,7 @@ RenewalTerms RenewalTermsOf(const World& world, const Worker& worker);
 struct RenewalAnswer {
   std::vector<Remark> Remarks;
   bool Accepted = false;
+  Decision Why = {};
 };
 RenewalAnswer JudgeRenewal(const Worker& worker, const RenewalTerms& terms,
                            const ContractOffer& offer);

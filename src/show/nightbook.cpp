@@ -11,8 +11,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kDroppedNotes = 500;
-
 using Night = std::pair<Day, int>;
 
 Night NightOf(const ShowNote& note) {
@@ -32,36 +30,11 @@ void BeginNight(World& world) {
     if (IsOfAShow(note)) nights.insert(NightOf(note));
   nights.erase(today);
   while (static_cast<int>(nights.size()) >= kKeptShows) nights.erase(nights.begin());
-  world.ShowNotes().Keep(
-      [&](const ShowNote& note) { return !IsOfAShow(note) || nights.contains(NightOf(note)); });
-}
-
-void NoteFact(World& world, const NoteOf& of, int change, int now, std::string_view why) {
-  ShowNote note;
-  note.On = world.Today();
-  note.Promotion = world.PlayerUid();
-  note.Kind = of.Kind;
-  note.Worker = of.Worker;
-  note.Row = of.Row;
-  note.What = of.What;
-  note.Change = change;
-  note.Now = now;
-  note.Why = why;
-  AppendRolling(world.ShowNotes(), note, kDroppedNotes);
-}
-
-void NoteStep(World& world, const NoteOf& of, int change, int now, std::string_view why) {
-  if (change != 0) NoteFact(world, of, change, now, why);
-}
-
-void NoteSteps(World& world, const NoteOf& of, const Score& score, int from) {
-  for (const ScoreStep& step : score.Steps())
-    NoteStep(world, of, step.Change, from += step.Change, step.Why);
-}
-
-void NoteMonth(World& world, NoteKind kind, const Score& score) {
-  world.ShowNotes().Keep([&](const ShowNote& note) { return note.Kind != kind; });
-  NoteSteps(world, {kind, world.Player().Name.Str()}, score);
+  const auto stays = [&](const ShowNote& note) {
+    if (note.Kind == kNoteStanding) return nights.empty() || NightOf(note) >= *nights.begin();
+    return !IsOfAShow(note) || nights.contains(NightOf(note));
+  };
+  world.ShowNotes().Keep(stays);
 }
 
 void NoteStep(SegmentRun& run, NoteKind kind, const Worker& worker, int change, int now,

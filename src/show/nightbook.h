@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "records/notes.h"
 #include "records/world.h"
 #include "show/ratings.h"
 #include "show/segmentrun.h"
@@ -13,28 +14,11 @@
 
 namespace grapplemont {
 
-/// Which number a note is of.
-struct NoteOf {
-  NoteKind Kind;
-  std::string What;  // whose, as it is called
-  int Worker = 0;    // uid
-  int Row = 0;       // of the sheet
-};
-
 /// Makes room for today's show: the oldest of the kept shows goes, and what today has noted before.
 void BeginNight(World& world);
-/// Notes a step to `now`; nothing for a change of 0.
-void NoteStep(World& world, const NoteOf& of, int change, int now, std::string_view why);
-/// The same for what has no size: it is noted whatever the numbers are.
-void NoteFact(World& world, const NoteOf& of, int change, int now, std::string_view why);
-/// Every step of a number that a rule has made from nothing, or from where it stood at `from`.
-void NoteSteps(World& world, const NoteOf& of, const Score& score, int from = 0);
 
-/// Notes the steps of a number that the month made; they take the place of the last month's.
-void NoteMonth(World& world, NoteKind kind, const Score& score);
-
-// The same by a Segment of a show that is told. A Segment that runs outside a show has no row, and
-// notes nothing.
+// A step noted by a Segment of a show that is told. A Segment that runs outside a show has no row,
+// and notes nothing.
 
 void NoteStep(SegmentRun& run, NoteKind kind, const Worker& worker, int change, int now,
               std::string_view why);

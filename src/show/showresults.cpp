@@ -126,14 +126,13 @@ constexpr Contest kContests[] = {
      " are trying to compete with us, but are being destroyed in the ratings."},
 };
 
-int Compete(World& world, const Show& rival, int rating, int strength, bool tells) {
+void Compete(World& world, const Show& rival, Score& rating, int strength, bool tells) {
   for (const Contest& contest : kContests) {
     const int lead = contest.WeLead ? rating - strength : strength - rating;
     if (lead <= contest.Above || lead >= contest.Below) continue;
     if (tells) AddNews(world, "Maeve", contest.Before + rival.Name.Str() + contest.Behind);
-    return rating + contest.Change;
+    return rating.Add(contest.Change, rival.Name + " at the same hour");
   }
-  return rating;
 }
 
 /// What the competitor's show would get, cut to what its own network can reach in that slot.
@@ -156,7 +155,7 @@ Score RatingOf(World& world, const Promotion& promotion, const Show& show, const
     rating.Become(std::min<int>(rating, cap), network.Name + " reaches no more at that hour");
   };
   limit();
-  rating.Become(HeadToHead(world, show, rating), "shows of others at the same hour");
+  HeadToHead(world, show, rating);
   limit();
   if (rating < 0) rating.Become(1, "limit");
   return rating;
@@ -189,15 +188,14 @@ ShowTakings EventReport(World& world, Promotion& promotion, const Event& event, 
   return {people, buyRate, static_cast<long long>(ticketDollars) + ppvDollars, costs};
 }
 
-int HeadToHead(World& world, const Show& show, int rating) {
+void HeadToHead(World& world, const Show& show, Score& rating) {
   const bool tells = show.Owner == world.PlayerUid();
   for (const Show& rival : world.Shows()) {
     if (rival.Owner == show.Owner || !(rival.Day == show.Day) || !(rival.Slot == show.Slot))
       continue;
     const Promotion* owner = world.FindPromotion(rival.Owner);
-    if (owner) rating = Compete(world, rival, rating, StrengthOf(world, rival, *owner), tells);
+    if (owner) Compete(world, rival, rating, StrengthOf(world, rival, *owner), tells);
   }
-  return rating;
 }
 
 ShowTakings TvReport(World& world, Promotion& promotion) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/score.h"
 #include "records/world.h"
 
 // What a show brings in: attendance, tickets, buy rates and television ratings, reported by mail.
@@ -26,6 +27,6 @@ ShowTakings EventReport(World& world, Promotion& promotion, const Event& event, 
 ShowTakings TvReport(World& world, Promotion& promotion);
 /// What shows of other promotions on the same day and in the same slot do to the rating. Draws once
 /// for each, in the order of the file. Reports the player's own show alone.
-int HeadToHead(World& world, const Show& show, int rating);
+void HeadToHead(World& world, const Show& show, Score& rating);
 
 }  // namespace grapplemont

@@ -123,11 +123,23 @@ TEST(Numbers, OfSponsorsGoByRiskAndPay) {
   Promotion promotion = Standing(kRegional, 51);
   promotion.Risk = 31;
   sponsor.Pay = 401;
-  EXPECT_EQ(AnswerOf(sponsor, promotion), SponsorAnswer::TooRisky) << "before the pay";
+  std::string steps;
+  const auto answer = [&] {
+    Decision why;
+    const SponsorAnswer said = AnswerOf(sponsor, promotion, &why);
+    EXPECT_EQ(why.IsYes(), said == SponsorAnswer::Accepts);
+    steps.clear();
+    for (const ScoreStep& step : why.Steps()) steps += step.Change > 0 ? '+' : '-';
+    return said;
+  };
+  EXPECT_EQ(answer(), SponsorAnswer::TooRisky) << "before the pay";
+  EXPECT_EQ(steps, "-");
   promotion.Risk = 30;
-  EXPECT_EQ(AnswerOf(sponsor, promotion), SponsorAnswer::Declines);
+  EXPECT_EQ(answer(), SponsorAnswer::Declines);
+  EXPECT_EQ(steps, "+-");
   sponsor.Pay = 400;
-  EXPECT_EQ(AnswerOf(sponsor, promotion), SponsorAnswer::Accepts);
+  EXPECT_EQ(answer(), SponsorAnswer::Accepts);
+  EXPECT_EQ(steps, "++");
 }
 
 TEST(Numbers, OfALoanGoByItsSizeAndTheDifficulty) {
@@ -135,9 +147,10 @@ TEST(Numbers, OfALoanGoByItsSizeAndTheDifficulty) {
   EXPECT_EQ(LoanTerm(1) + LoanTerm(11) + LoanTerm(26), 12 + 24 + 36);
   EXPECT_EQ(LoanQuote(2500000, 24, kEasy), 10416667) << "to the nearest cent";
   EXPECT_EQ(LoanQuote(1100000, 24, kEasy), 4583333);
-  std::string why;
-  EXPECT_EQ(LoanQuote(600000, 12, kEasy, &why), 5000000);
-  EXPECT_NE(why.find("$50000, the equal part of 12 months"), std::string::npos) << why;
+  const std::string why = WhyText("a month", LoanQuote(600000, 12, kHard), DollarsAndCents);
+  EXPECT_TRUE(why.starts_with("$50000: the equal part of 12 months\n+$30000 ")) << why;
+  EXPECT_TRUE(why.ends_with("\n= $80000 a month")) << why;
+  EXPECT_EQ(LoanQuote(90'000'000, 1, kHard).Whole(), 9'450'000'000) << "more than an int holds";
   for (const auto& [difficulty, percent] :
        {std::pair(kEasy, 0), {kMedium, 2}, {kHard, 5}, {kRockHard, 8}})
     EXPECT_EQ(LoanQuote(600000, 12, difficulty), 5000000 + percent * 600000);

@@ -44,6 +44,8 @@ TEST(TheOffice, AsksBeforeMoneyGoesAndMindsWhatIsThere) {
   desk.Click("cmddonate");
   EXPECT_EQ(play.World().Game().Reputation, 70);
   desk.Open("frmFedProd");
+  desk.Click("cmdwhy");
+  EXPECT_TRUE(desk.Text("txtwhy").ends_with("\n= $165,000 a month")) << desk.Text("txtwhy");
   desk.ExpectAsk("Finance Report", "Pay $2800 for a 1% increase?", true);
   desk.ExpectSay("Finance Report", "You cannot afford this!");
   desk.Click("cmdraise(1)");
@@ -73,7 +75,15 @@ TEST(frmLoan, IsGrantedToWhoeverHasAQuarterOfIt) {
     play.Desk.ExpectSay(granted ? "Accepted!" : "Rejected!",
                         granted ? "The bank have accepted your loan application!"
                                 : "The bank have rejected your loan application!");
+    EXPECT_EQ(play.Desk.Tip("cmdwhynot"), "The bank has turned nothing down.");
     play.Desk.Click("cmddoit");
+    EXPECT_EQ(play.Desk.Enabled("cmdwhynot"), !granted);
+    if (!granted) {
+      play.Desk.Click("cmdwhynot");
+      EXPECT_EQ(play.Desk.Text("txtwhy"),
+                "- The bank wants a quarter of the sum in hand, $300,000; we have $299,999.\n"
+                "= The bank have rejected your loan application!");
+    }
     const Promotion& player = play.World().Player();
     EXPECT_EQ(player.Money, money + (granted ? 1'200'000 : 0));
     EXPECT_EQ(player.LoanAmount, granted ? 1'200'000 : 0);

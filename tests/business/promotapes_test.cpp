@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "records/notes.h"
 #include "support/gameonworld.h"
 #include "support/newsof.h"
 #include "support/scripteddraws.h"
@@ -78,6 +79,10 @@ TEST(AnswerPromoTapes, TellsTheLastReasonThatAppliesElseDraws) {
     EXPECT_NE(NewsOf(world).find(c.Says), std::string::npos) << c.Says << NewsOf(world);
     EXPECT_EQ(world.Game().TapeWait, 0);
     EXPECT_EQ(world.Game().TvOfferWait, c.Draw == 2 ? 1 : 0);
+    const auto [whose, why] = NotedAnswer(world, kNoteTape);
+    EXPECT_EQ(whose, "Nine");
+    EXPECT_EQ(why.IsYes(), c.Draw == 2) << WhyOfTape(world);
+    EXPECT_EQ(why.Steps().size(), c.Draw == 0 ? 4u : 5u) << WhyOfTape(world);
   }
   World world = TapeUnderWay({});
   world.Game().TapeWait = 5;  // a network that is gone

@@ -104,6 +104,39 @@ TEST(frmTVContract, ExtendsTheDealOrSaysWhyNot) {
   EXPECT_EQ(TalkOfExtension(happy.Player(), happy.Shows()[1], happy.Networks()[1]).Weeks, 24);
 }
 
+TEST(TheNetwork, WeighsWhatItAnswers) {
+  for (const char* slot : {"E", "P", "L", "G"})
+    for (const NetworkView view : {kUnseen, kTerrible, kLow, kHappy, kGreat})
+      for (const int risk : {0, 90})
+        for (const int weeks : {12, 13}) {
+          World world = OnTheAir(slot, view, risk);
+          world.Shows()[1].ContractWeeks = weeks;
+          const Show& show = world.Shows()[1];
+          const Network& nine = world.Networks()[1];
+          const ExtensionTalk more = TalkOfExtension(world.Player(), show, nine);
+          EXPECT_EQ(more.Why.IsYes(), more.Weeks > 0) << WhyText(more.Text, more.Why);
+          const MoveTalk move = TalkOfMove(world, world.Player(), show, nine);
+          EXPECT_EQ(move.Why.IsYes(), !move.Slot.empty()) << WhyText(move.Text, move.Why);
+          const EndingTalk end = TalkOfEnding(world.Player(), show, nine);
+          EXPECT_EQ(end.Why.IsYes(), end.Penalty == 0) << WhyText(end.Text, end.Why);
+          Decision why;
+          AskNetwork(world.Player(), show, nine, &why);
+          EXPECT_EQ(why.IsYes(), view >= kHappy && risk == 0) << WhyText("", why);
+        }
+}
+
+TEST(frmTVContract, OpensItsLastAnswer) {
+  Talks talks(OnTheAir("P", kLow, 50));
+  EXPECT_EQ(talks.Desk.Tip("cmdwhy"), "Ask them something first.");
+  talks.Desk.ExpectSay("Rejection!", kAnyText);
+  talks.Desk.Click("cmdcontract");
+  talks.Desk.Click("cmdwhy");
+  EXPECT_EQ(talks.Desk.Text("txtwhy"),
+            "+ Our risk is 50; they bear up to 50\n"
+            "- Measured against a rating of 4. 05, the last one of 2.83 is above 50% of it\n"
+            "= Network: 'We are not looking to extend the contract at the present time.'");
+}
+
 TEST(frmTVContract, EndsABadShowForNothingAndAnyOtherForAPenalty) {
   std::vector<int> penalties;
   for (int size = kGlobal; size <= kBackyard; ++size) {

@@ -81,9 +81,18 @@ TEST(frmWresContract, RejectsUntilTheOfferIsGood) {
   play.Desk.Slide("hsnewwage", 4);
   play.Desk.ExpectSay("Rejected!", "I do not want a written contract.");
   play.Desk.ExpectSay("Rejected!", "I do not accept this pay reduction.");
+  EXPECT_EQ(play.Desk.Tip("cmdwhynot"), "Nothing has been turned down yet.");
   play.Desk.Click("cmdoffer");
   ExpectSame(play.World(), before);
   EXPECT_EQ(play.Desk.TopName(), "frmWresContract");
+  play.Desk.Click("cmdwhynot");
+  EXPECT_EQ(play.Desk.Text("txtwhy"),
+            "+ Popularity 60: our size will do\n"
+            "- A written contract offered: of a promotion of our size they want a verbal one\n"
+            "- $4,000 offered is too little for anybody who earns $40,000\n"
+            "= I do not want a written contract.");
+  play.Desk.Click("cmdwhy");
+  EXPECT_TRUE(play.Desk.Text("txtwhy").ends_with("\n= 44 Wage in $1000"));
 
   play.Desk.Pick("cmbnewtype", "Verbal");
   play.Desk.Slide("hsnewwage", 45);
@@ -113,6 +122,9 @@ TEST(frmWresContract, ShutsTheOfferButNeitherReleaseNorTermination) {
     EXPECT_FALSE(play.Desk.Enabled(shut)) << shut;
     EXPECT_EQ(play.Desk.Tip(shut), "Bram Okafor does not want to negotiate.") << shut;
   }
+  play.Desk.Click("cmdwhynot");
+  EXPECT_NE(play.Desk.Text("txtwhy").find("\n- Morale 39: below 40 they do not talk\n"),
+            std::string::npos);
   EXPECT_TRUE(play.Desk.Enabled("cmdrelease"));
   EXPECT_TRUE(play.Desk.Enabled("cmdterminate"));
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "decisions.h"
 #include "support/smallworld.h"
 
 // Staying: what opens the talks, and each objection to an offer at its edge.
@@ -124,6 +125,7 @@ TEST(JudgeRenewal, HearsTheFirstObjectionThatHolds) {
     const RenewalAnswer answer = JudgeRenewal(worker, c.Wants, c.Offer);
     const bool accepts = std::string_view(c.Words).empty();
     EXPECT_EQ(answer.Accepted, accepts);
+    ExpectTells(answer.Why, accepts);
     EXPECT_EQ(answer.Remarks,
               accepts ? std::vector<Remark>() : std::vector<Remark>({{"Rejected!", c.Words}}));
   }
@@ -178,8 +180,10 @@ TEST(WhyNoRenewal, ClosesTheTalksForThreeReasons) {
     worker.Morale = c.Morale;
     worker.Loyalty = c.Loyalty;
     worker.Status = c.Status;
-    EXPECT_EQ(WhyNoRenewal(worker), c.Words)
+    Decision why;
+    EXPECT_EQ(WhyNoRenewal(worker, &why), c.Words)
         << c.Months << " " << c.Morale << " " << c.Loyalty << " " << c.Status;
+    ExpectTells(why, std::string_view(c.Words).empty());
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "decisions.h"
 #include "records/checks/checkworld.h"
 #include "support/smallworld.h"
 
@@ -101,7 +102,9 @@ TEST(JudgeSigning, HearsTheFirstObjectionThatHolds) {
     worker.Age = c.Age;
     worker.Speed = c.Skill;
     SigningOffer offer{c.Offer, "", "", "", c.Position};
-    EXPECT_EQ(JudgeSigning(worker, c.Wants, offer), c.Words) << "case " << number;
+    Decision why;
+    EXPECT_EQ(JudgeSigning(worker, c.Wants, offer, &why), c.Words) << "case " << number;
+    ExpectTells(why, std::string_view(c.Words).empty());
     ++number;
   }
 }
@@ -152,9 +155,11 @@ TEST(WhyNoSigning, RefusesInTheWordsOfBothSexes) {
       ray.Loyalty = row.Loyalty;
       ray.Morale = row.Morale;
       ray.Behaviour = row.Behaviour;
-      EXPECT_EQ(WhyNoSigning(world, ray), kAll[row.Words][man ? 0 : 1])
+      Decision why;
+      EXPECT_EQ(WhyNoSigning(world, ray, &why), kAll[row.Words][man ? 0 : 1])
           << row.Size << " " << row.Over << " " << row.Loyalty << " " << row.Morale << " "
           << row.Behaviour << " " << row.EmployerSize;
+      ExpectTells(why, row.Words == 0);
     }
 }
 

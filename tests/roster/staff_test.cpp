@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "decisions.h"
 #include "records/checks/checkworld.h"
 #include "roster/staff.h"
 #include "support/gameonworld.h"
@@ -87,7 +88,10 @@ TEST(WhyNoStaffOffer, ClosesTheTalksWithOnesOwn) {
     pen.ContractMonths = months;
     pen.Morale = morale;
     pen.Loyalty = loyalty;
-    EXPECT_EQ(WhyNoStaffOffer(world, pen), words) << months << " " << morale << " " << loyalty;
+    Decision why;
+    EXPECT_EQ(WhyNoStaffOffer(world, pen, &why), words)
+        << months << " " << morale << " " << loyalty;
+    ExpectTells(why, std::string_view(words).empty());
   }
 }
 
@@ -121,9 +125,11 @@ TEST(WhyNoStaffOffer, ClosesTheTalksWithOthers) {
     doc.Backstage = c.Backstage;
     doc.Loyalty = c.Loyalty;
     doc.ContractType = c.Type;
-    EXPECT_EQ(WhyNoStaffOffer(world, doc), c.Words)
+    Decision why;
+    EXPECT_EQ(WhyNoStaffOffer(world, doc, &why), c.Words)
         << c.Size << " " << c.EmployerSize << " " << c.Talent << " " << c.Morale << " "
         << c.Backstage << " " << c.Loyalty << c.Type;
+    ExpectTells(why, std::string_view(c.Words).empty());
   }
   doc.Employer = 0;
   world.Player().Size = kGlobal;
@@ -186,7 +192,10 @@ TEST(JudgeStaffOffer, HearsEachObjectionAtItsEdge) {
     staff.Talent = c.Talent;
     staff.Loyalty = c.Loyalty;
     staff.Wage = c.Wage;
-    EXPECT_EQ(JudgeStaffOffer(world, staff, c.Wants, c.Offer), c.Words) << "case " << ++number;
+    Decision why;
+    EXPECT_EQ(JudgeStaffOffer(world, staff, c.Wants, c.Offer, &why), c.Words)
+        << "case " << ++number;
+    ExpectTells(why, std::string_view(c.Words).empty());
   }
 }
 

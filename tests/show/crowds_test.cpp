@@ -170,8 +170,11 @@ TEST(HeadToHead, KeepsItsLimitsAndGaps) {
                         .Promotion("OTH")
                         .Game(isPlayers ? "CWA" : "OTH", kFriday);
       ScriptDraws(world, {{10, 3}});
-      EXPECT_EQ(HeadToHead(world, world.Shows()[1], 500 - c.Lead), 500 - c.Lead + c.Change)
-          << c.Lead;
+      Score rating;
+      rating.Add(500 - c.Lead, "on its own");
+      HeadToHead(world, world.Shows()[1], rating);
+      EXPECT_EQ(int(rating), 500 - c.Lead + c.Change);
+      if (c.Change != 0) EXPECT_EQ(rating.Steps().back().Why, "Rival Hour at the same hour");
       EXPECT_EQ(NewsOf(world), isPlayers ? c.News : "") << c.Lead;
     }
 }

@@ -114,7 +114,7 @@ TEST(TheNightBook, KeepsTheLastMonthsMerchandiseBesideTheShows) {
     Score sales;
     sales.Add(sold, "size and image");
     sales.Add(-20, "economy 15");
-    NoteMonth(world, kNoteMerch, sales);
+    NoteAnew(world, {kNoteMerch, "CWA"}, sales);
   }
   Hold(world);
   int steps = 0, sum = 0;

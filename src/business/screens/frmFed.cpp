@@ -6,6 +6,7 @@
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/notes.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -32,6 +33,7 @@ class frmFed : public GameScreen {
  public:
   explicit frmFed(Game& game) : GameScreen(game, "frmFed", "Promotion", {.Manages = true}) {
     for (const Term& day : kWeekDays) cmbmeeting.Add(std::string(day.Says), day.Code);
+    txtwhy.Brief = true;
   }
 
   ui::Page Layout() override {
@@ -60,8 +62,9 @@ class frmFed : public GameScreen {
     return ui::Rows(
         {ui::Group("The company",
                    {ui::Field("Name", lblname), ui::Field("Size", lblsize),
-                    ui::Field("Image", lblimage), ui::Field("Owner", lblowner),
-                    ui::Field("The economy", lbleconomy), ui::Field("Staff meeting", cmbmeeting),
+                    ui::Columns({ui::Field("Image", lblimage).Grow(), cmdwhy}), txtwhy,
+                    ui::Field("Owner", lblowner), ui::Field("The economy", lbleconomy),
+                    ui::Field("Staff meeting", cmbmeeting),
                     ui::Field("Commissioner", lblcommissioner), cmdcommissioner}),
          ui::Group("Spending", {ui::WithButtons(lstspending, {&cmdadvertising, &cmdmerch, &cmdprod,
                                                               &cmdtickets})})
@@ -80,6 +83,10 @@ class frmFed : public GameScreen {
     lblname.Text = player().Name + " (" + player().Initials.Str() + ")";
     lblsize.Text = std::string(SizeText(player().Size));
     lblimage.Text = std::to_string(player().Image) + "%";
+    EnableUnless(cmdwhy, ImageSteps(world()).Steps().empty()
+                             ? "Nothing has moved the image that is still remembered."
+                             : "");
+    txtwhy.Write("");
     lblowner.Text = owner ? owner->Name.Str() : "None";
     lbleconomy.Text = std::string(EconomyText(world().Game().Economy)) +
                       (world().Game().EconomyRising ? ", rising" : ", falling");
@@ -118,6 +125,9 @@ class frmFed : public GameScreen {
   ui::Label lblname{*this, "lblname"};
   ui::Label lblsize{*this, "lblsize"};
   ui::Label lblimage{*this, "lblimage"};
+  ui::Button cmdwhy{*this, "cmdwhy", "Why?",
+                    [this] { txtwhy.WriteLines(WhyText("image", ImageSteps(world()))); }};
+  ui::Report txtwhy{*this, "txtwhy"};
   ui::Label lblowner{*this, "lblowner"};
   ui::Label lbleconomy{*this, "lbleconomy"};
   ui::ComboBox cmbmeeting{*this, "cmbmeeting", &frmFed::cmbmeeting_Pick};

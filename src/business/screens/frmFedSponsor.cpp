@@ -223,8 +223,11 @@ class frmFedSponsor : public GameScreen {
   }
 
   void Offer(Sponsor& sponsor, int place) {
-    std::string why;
-    const SponsorAnswer answer = AnswerOf(sponsor, player(), &why);
+    Decision decision;
+    const SponsorAnswer answer = AnswerOf(sponsor, player(), &decision);
+    const std::string why = WhyText(
+        answer == SponsorAnswer::Accepts ? "They accept the deal." : "They reject the deal.",
+        decision);
     txtwhy.WriteLines(why);
     switch (answer) {
       case SponsorAnswer::TooRisky:

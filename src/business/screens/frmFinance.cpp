@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "business/finance.h"
 #include "business/past.h"
@@ -215,6 +217,8 @@ std::string TermText(int months) {
   return months == 12 ? "1 Year" : std::to_string(months / 12) + " Years";
 }
 
+constexpr const char* kRejected = "The bank have rejected your loan application!";
+
 /// The bank: one loan at a time, its price each month, and the way to be rid of it.
 class frmLoan : public GameScreen {
  public:
@@ -226,13 +230,14 @@ class frmLoan : public GameScreen {
   ui::Page Layout() override {
     return PageOf(ui::Group("", {txtstatus, ui::Field("In steps of $100000", hsamount),
                                  ui::Field("Amount", lblamount), ui::Field("Each month", txtcost),
-                                 ui::Columns({cmdwhy, ui::Spacer()}), txtwhy,
+                                 ui::Columns({cmdwhy, cmdwhynot, ui::Spacer()}), txtwhy,
                                  ui::Columns({lblfor, lblterm, ui::Spacer()}), lblstate}),
                   &lblmoney, {}, &cmddoit);
   }
 
   void Load() override {
     if (!HasLoan()) hsamount.Value = 1;
+    refused_.reset();
     Return();
   }
   void Return() override {
@@ -259,26 +264,40 @@ class frmLoan : public GameScreen {
     const int months = loan ? int(p.LoanMonths) : LoanTerm(hsamount.Value);
     lblamount.Text = "$" + std::to_string(dollars);
     lblterm.Text = TermText(months);
-    txtcost.Text = DollarsAndCents(LoanQuote(dollars, months, difficulty(), &why_));
+    quote_ = LoanQuote(dollars, months, difficulty());
+    txtcost.Text = DollarsAndCents(quote_.Whole());
     txtwhy.Write("");
+    EnableUnless(cmdwhynot, refused_ ? "" : "The bank has turned nothing down.");
     lblstate.Text = loan ? LoanState() : "The bank takes whole dollars on the first of each month.";
   }
 
   std::string LoanState() {
     const Promotion& p = player();
     std::string text = "Repaid so far " + Dollars(p.LoanRepaid) + ". To repay the rest now costs " +
-                       Dollars(PayOffCost(p, difficulty())) + ".";
+                       Dollars(PayOffCost(p, difficulty()).Whole()) + ".";
     if (p.LoanMissed > 0)
       text += " Payments missed: " + std::to_string(p.LoanMissed) + "; the third is one too many.";
     return text;
+  }
+
+  void cmdwhy_Click() {
+    std::string why = WhyText("each month", quote_, DollarsAndCents);
+    if (HasLoan())
+      why += "\n" + WhyText("to repay the rest now", PayOffCost(player(), difficulty()), Dollars);
+    txtwhy.WriteLines(why);
   }
 
   void cmddoit_Click() { HasLoan() ? Repay() : Apply(); }
 
   void Apply() {
     if (!desk().Ask("Apply for loan?", "Are you sure?")) return;
-    if (!BankAccepts(player(), hsamount.Value))
-      return desk().Say("Rejected!", "The bank have rejected your loan application!");
+    Decision decision;
+    if (!BankAccepts(player(), hsamount.Value, &decision)) {
+      refused_ = std::move(decision);
+      ShowTerms();
+      return desk().Say("Rejected!", kRejected);
+    }
+    refused_.reset();
     TakeLoan(player(), hsamount.Value);
     desk().Say("Accepted!", "The bank have accepted your loan application!");
     Return();
@@ -299,9 +318,12 @@ class frmLoan : public GameScreen {
   ui::Label lblfor{*this, "lblfor"};
   ui::Label lblterm{*this, "lblterm"};
   ui::Label txtcost{*this, "txtcost"};
-  ui::Button cmdwhy{*this, "cmdwhy", "Why?", [this] { txtwhy.WriteLines(why_); }};
+  ui::Button cmdwhy{*this, "cmdwhy", "Why?", &frmLoan::cmdwhy_Click};
+  ui::Button cmdwhynot{*this, "cmdwhynot", "Why Not?",
+                       [this] { txtwhy.WriteLines(WhyText(kRejected, *refused_)); }};
   ui::Report txtwhy{*this, "txtwhy"};
-  std::string why_;  // how the cost came about
+  Score quote_;                      // of a month
+  std::optional<Decision> refused_;  // the bank's last no
   ui::Label lblstate{*this, "lblstate"};
   ui::Button cmddoit{*this, "cmddoit", "Apply For Loan", &frmLoan::cmddoit_Click};
 };

@@ -17,10 +17,14 @@ class frmPromoTape : public GameScreen {
       : GameScreen(game, "frmPromoTape", "Promo Tape", {.Is = ui::Role::Dialog}) {
     BackBefore(cmdsend);
     lstnetworks.EmptyText = "None available";
+    txtwhy.Brief = true;
   }
 
   ui::Page Layout() override {
-    ui::Page page = PageOf(ui::Group("", {ui::Grow(lstnetworks)}), &lblfacts, {}, &cmdsend);
+    ui::Page page = PageOf(
+        ui::Rows({ui::Group("", {ui::Grow(lstnetworks)}).Grow(),
+                  ui::Group("The last answer", {ui::Columns({cmdwhy, ui::Spacer()}), txtwhy})}),
+        &lblfacts, {}, &cmdsend);
     page.Large = true;
     return page;
   }
@@ -32,6 +36,7 @@ class frmPromoTape : public GameScreen {
                     ". Our risk is " + std::to_string(player.Risk) +
                     ", our production values are " + std::to_string(player.Production) + ".";
     FillNetworks(lstnetworks, world());
+    EnableUnless(cmdwhy, WhyOfTape(world()).empty() ? "No network has answered a tape yet." : "");
     ShowSend();
   }
   void Return() override { Load(); }
@@ -50,6 +55,8 @@ class frmPromoTape : public GameScreen {
 
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstnetworks{*this, "lstnetworks", NetworkColumns(), &frmPromoTape::ShowSend, cmdsend};
+  ui::Button cmdwhy{*this, "cmdwhy", "Why?", [this] { txtwhy.WriteLines(WhyOfTape(world())); }};
+  ui::Report txtwhy{*this, "txtwhy"};
   ui::Button cmdsend{*this, "cmdsend", "Send Tape", &frmPromoTape::cmdsend_Click};
 };
 
@@ -61,6 +68,7 @@ class frmTvOffer : public GameScreen {
                    {.Is = ui::Role::Dialog, .Back = "Decide Later"}) {
     BackBefore(cmdreject);
     txtname.Hint = "Name of the new show";
+    txtwhy.Brief = true;
   }
 
   ui::Page Layout() override {
@@ -71,10 +79,12 @@ class frmTvOffer : public GameScreen {
             .Body = ui::Group(
                 "", {ui::Field("Network", txtnetwork), ui::Field("Length", txtlength),
                      ui::Field("Time slot", txttime), ui::Field("Audience wanted", txtaudience),
-                     ui::Field("Day", cmbdays), ui::Field("Name", txtname)})};
+                     ui::Field("Day", cmbdays), ui::Field("Name", txtname),
+                     ui::Columns({cmdwhy, ui::Spacer()}), txtwhy})};
   }
 
   void Return() override {
+    EnableUnless(cmdwhy, WhyOfTape(world()).empty() ? "What they weighed was not kept." : "");
     if (world().Game().TvOfferWait == 0) return ShowNone();
     if (const auto offer = OfferThatHolds()) ShowOffer(*offer);
   }
@@ -140,6 +150,8 @@ class frmTvOffer : public GameScreen {
   ui::Label txtaudience{*this, "txtaudience"};
   ui::ComboBox cmbdays{*this, "cmbdays"};
   ui::TextBox txtname{*this, "txtname"};
+  ui::Button cmdwhy{*this, "cmdwhy", "Why?", [this] { txtwhy.WriteLines(WhyOfTape(world())); }};
+  ui::Report txtwhy{*this, "txtwhy"};
   ui::Button cmdreject{*this, "cmdreject", "Reject", &frmTvOffer::cmdreject_Click};
   ui::Button cmdaccept{*this, "cmdaccept", "Accept", &frmTvOffer::cmdaccept_Click};
 };

@@ -4,6 +4,7 @@
 
 #include "business/finance.h"
 #include "records/modVar.h"
+#include "records/notes.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -60,19 +61,15 @@ class frmFedMerch : public GameScreen {
     lblcost.Text = SpendingText(level, side_.MonthlyCost(level));
     const MonthBooks& last = player().LastMonth;
     lbllast.Text = "spent " + Dollars(last.*side_.Cost);
+    const bool sold = !NotedScore(world(), kNoteMerch).Steps().empty();
+    EnableUnless(cmdwhy, sold ? "" : "Nothing was sold on the last first of a month.");
     if (side_.Level == &Promotion::Merchandising)
       lbllast.Text = lbllast.Text.Get() + ", sold for " + Dollars(last.MerchIncome);
   }
 
   /// How the last sales came about, as they were counted.
   void cmdwhy_Click() {
-    std::string steps;
-    for (const ShowNote& note : world().ShowNotes())
-      if (note.Kind == kNoteMerch && note.Promotion == world().PlayerUid())
-        steps += (note.Change > 0 && !steps.empty() ? "+" : "") + Dollars(note.Change) + ", " +
-                 note.Why.Str() + "\n";
-    txtwhy.WriteLines(steps.empty() ? "Nothing has been sold yet."
-                                    : steps + "= " + Dollars(player().LastMonth.MerchIncome));
+    txtwhy.WriteLines(WhyText("sold", NotedScore(world(), kNoteMerch), Dollars));
   }
 
   void hscurrent_Change() {
@@ -99,11 +96,14 @@ std::string PercentText(int number) {
 /// Better production, bought in steps.
 class frmFedProd : public GameScreen {
  public:
-  explicit frmFedProd(Game& game) : GameScreen(game, "frmFedProd", "Production") {}
+  explicit frmFedProd(Game& game) : GameScreen(game, "frmFedProd", "Production") {
+    txtwhy.Brief = true;
+  }
 
   ui::Page Layout() override {
     return PageOf(ui::Group("", {ui::Field("Production values", lblproduction),
-                                 ui::Field("Cost of running it", lblmonthly), cmdraise(1),
+                                 ui::Field("Cost of running it", lblmonthly),
+                                 ui::Columns({cmdwhy, ui::Spacer()}), txtwhy, cmdraise(1),
                                  cmdraise(2), cmdraise(3)}),
                   &lblmoney);
   }
@@ -112,6 +112,8 @@ class frmFedProd : public GameScreen {
     lblmoney.Text = FinanceText(player());
     lblproduction.Text = std::to_string(player().Production) + "%";
     lblmonthly.Text = Dollars(ProductionCost(player().Production)) + " p.m";
+    EnableUnless(cmdwhy, player().Production > 0 ? "" : "What is not there costs nothing.");
+    txtwhy.Write("");
     const bool best = player().Production >= kBestProduction;
     for (int number = 1; number <= kRaises; ++number) {
       cmdraise(number).Text =
@@ -136,6 +138,11 @@ class frmFedProd : public GameScreen {
   ui::Label lblmoney{*this, "lblmoney"};
   ui::Label lblproduction{*this, "lblproduction"};
   ui::Label lblmonthly{*this, "lblmonthly"};
+  ui::Button cmdwhy{
+      *this, "cmdwhy", "Why?", [this] {
+        txtwhy.WriteLines(WhyText("a month", ProductionBill(player().Production), Dollars));
+      }};
+  ui::Report txtwhy{*this, "txtwhy"};
   ui::Array<ui::Button> cmdraise{"cmdraise", kRaises, [this](const std::string& name, int number) {
                                    return std::make_unique<ui::Button>(
                                        *this, name, "", [this, number] { cmdraise_Click(number); });

@@ -15,21 +15,34 @@ class frmTVContract : public ShowScreen {
  public:
   frmTVContract(Game& game, std::string show)
       : ShowScreen(game, "frmTVContract", "Network Talks", std::move(show)) {
-    txtwants.Brief = true;
+    txtwants.Brief = txtwhy.Brief = true;
   }
 
   ui::Page Layout() override {
-    return WithoutEnter(
-        PageOf(ui::Rows({ui::Group("", {txtwants}),
-                         ui::Group("", {ui::Columns({cmdask, cmdcontract, cmdtime, cmdend})})}),
-               &lblfacts));
+    return WithoutEnter(PageOf(
+        ui::Rows({ui::Group("", {txtwants}),
+                  ui::Group("", {ui::Columns({cmdask, cmdcontract, cmdtime, cmdend})}),
+                  ui::Group("Their last answer", {ui::Columns({cmdwhy, ui::Spacer()}), txtwhy})}),
+        &lblfacts));
   }
 
+  void Load() override {
+    Answer("", {});
+    Return();
+  }
   void Return() override {
     if (const Show* show = FindShow()) ShowDeal(*show);
   }
 
  private:
+  /// Keeps their answer for whoever asks why; empty while there is none.
+  void Answer(std::string words, Decision why) {
+    EnableUnless(cmdwhy, words.empty() ? "Ask them something first." : "");
+    txtwhy.Write("");
+    said_ = std::move(words);
+    why_ = std::move(why);
+  }
+
   using Talk = void (frmTVContract::*)(Show& show, const Network& network);
   /// About the show and with its network, as long as both are there.
   ui::Handler About(Talk talk) {
@@ -52,12 +65,15 @@ class frmTVContract : public ShowScreen {
   }
 
   void Ask(Show& show, const Network& network) {
-    for (const TvRemark& remark : AskNetwork(world().Player(), show, network))
-      desk().Say(remark.Title, remark.Text);
+    Decision why;
+    const std::vector<TvRemark> remarks = AskNetwork(world().Player(), show, network, &why);
+    Answer(remarks.back().Text, std::move(why));
+    for (const TvRemark& remark : remarks) desk().Say(remark.Title, remark.Text);
   }
 
   void Extend(Show& show, const Network& network) {
     const ExtensionTalk talk = TalkOfExtension(world().Player(), show, network);
+    Answer(talk.Text, talk.Why);
     if (talk.Weeks == 0) return desk().Say("Rejection!", talk.Text);
     if (!desk().Ask("Offer!", talk.Text + "\nAccept?")) return;
     show.ContractWeeks += talk.Weeks;
@@ -66,6 +82,7 @@ class frmTVContract : public ShowScreen {
 
   void Move(Show& show, const Network& network) {
     const MoveTalk talk = TalkOfMove(world(), world().Player(), show, network);
+    Answer(talk.Text, talk.Why);
     if (talk.Slot.empty()) return desk().Say("Rejection!", talk.Text);
     if (!desk().Ask("Offer!", talk.Text + "\nContinue?")) return;
     show.Slot = talk.Slot;
@@ -74,6 +91,7 @@ class frmTVContract : public ShowScreen {
 
   void End(Show& show, const Network& network) {
     const EndingTalk talk = TalkOfEnding(world().Player(), show, network);
+    Answer(talk.Text, talk.Why);
     if (!desk().Ask("End Deal?", talk.Text + "\nContinue?", ui::Default::No)) return;
     EndDeal(world(), show, talk.Penalty);
     Close();
@@ -81,6 +99,10 @@ class frmTVContract : public ShowScreen {
 
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Report txtwants{*this, "txtwants"};
+  ui::Button cmdwhy{*this, "cmdwhy", "Why?", [this] { txtwhy.WriteLines(WhyText(said_, why_)); }};
+  ui::Report txtwhy{*this, "txtwhy"};
+  std::string said_;  // their last answer
+  Decision why_;      // and what they weighed
   ui::Button cmdask{*this, "cmdask", "Ask The Network", About(&frmTVContract::Ask)};
   ui::Button cmdcontract{*this, "cmdcontract", "Extend The Deal", About(&frmTVContract::Extend)};
   ui::Button cmdtime{*this, "cmdtime", "Move The Slot", About(&frmTVContract::Move)};

@@ -9,6 +9,7 @@
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/notes.h"
 
 namespace grapplemont {
 
@@ -130,7 +131,7 @@ class frmTelevision : public GameScreen {
   explicit frmTelevision(Game& game)
       : GameScreen(game, "frmTelevision", "Television", {.Manages = true}) {
     BackBefore(cmdpromo);
-    txtwants.Brief = true;
+    txtwants.Brief = txtwhy.Brief = true;
   }
 
   ui::Page Layout() override {
@@ -162,7 +163,8 @@ class frmTelevision : public GameScreen {
             ui::Field("On", txttime),
             ui::Field("Network", txtnetwork),
             ui::Field("Contract", txtcontract),
-            ui::Field("Last rating", txtlast),
+            ui::Columns({ui::Field("Last rating", txtlast).Grow(), cmdwhy}),
+            txtwhy,
             ui::Field("Highest", txthighest),
             ui::Field("Lowest", txtlowest),
             ui::Field("Announcer", txtannouncer),
@@ -213,6 +215,8 @@ class frmTelevision : public GameScreen {
     EnableUnless({cmdname, cmdchangea, cmdchangec, cmdrivals}, none);
     EnableUnless({cmdnegotiate, cmdmaeve}, show && !network ? "No network airs this show." : none);
     ShowFacts(show);
+    EnableUnless(cmdwhy, WhyNoSteps(show));
+    txtwhy.Write("");
     ShowWants(show, network);
     ShowPast(show);
   }
@@ -227,6 +231,19 @@ class frmTelevision : public GameScreen {
     txtlowest.Text = show ? RatingCell(*show, show->Rating2).Text : "";
     txtannouncer.Text = show ? NameOf(AnnouncerOf(world(), *show)) : "";
     txtcolour.Text = show ? NameOf(ColourManOf(world(), *show)) : "";
+  }
+
+  /// How the last rating came about; without steps where they are not kept.
+  Score StepsOf(const Show& show) {
+    const auto day = LastNoted(world(), kNoteRating, show.Name.View());
+    return day ? NotedScore(world(), kNoteViewers, *day) : Score();
+  }
+  std::string WhyNoSteps(const Show* show) {
+    if (!show) return "There is no show on the air.";
+    const Score rating = StepsOf(*show);
+    return !rating.Steps().empty() && int(rating) == int(show->Rating3)
+               ? ""
+               : "How a rating came about is kept for the last shows that were held.";
   }
 
   void ShowWants(const Show* show, const Network* network) {
@@ -281,6 +298,10 @@ class frmTelevision : public GameScreen {
   ui::Label txtnetwork{*this, "txtnetwork"};
   ui::Label txtcontract{*this, "txtcontract"};
   ui::Label txtlast{*this, "txtlast"};
+  ui::Button cmdwhy{*this, "cmdwhy", "Why?", [this] {
+                      txtwhy.WriteLines(WhyText("rating", StepsOf(*Chosen()), InHundredths));
+                    }};
+  ui::Report txtwhy{*this, "txtwhy"};
   ui::Label txthighest{*this, "txthighest"};
   ui::Label txtlowest{*this, "txtlowest"};
   ui::Label txtannouncer{*this, "txtannouncer"};

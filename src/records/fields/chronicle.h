@@ -186,7 +186,10 @@ enum NoteKind {
   kNoteFeudEnd,     // Now: the heat at which it ended
   kNoteTitle,       // a Title's new holder
   kNoteTitleImage,  // percent
-  kNoteMerch        // dollars of the last month's merchandise, which is no show's
+  // Of no show:
+  kNoteMerch,    // dollars of the last month's merchandise
+  kNoteTape,     // what a network weighed when it saw the last tape; Change: 1 for, -1 against
+  kNoteStanding  // percent of the image, moved beside any show
 };
 
 /// A step of a number that a show of the player's made or moved, as the rule computed it: a record

@@ -28,6 +28,7 @@ class frmWresContract : public TalkWith<Worker> {
     std::vector<ui::Box> now = terms_.Fields(), offered = offer_.Fields();
     now.emplace_back(lblcreative);
     offered.emplace_back(chkcreative);
+    for (ui::Box& part : WhyParts()) offered.push_back(std::move(part));
     return TalkPage({ui::Rows({ui::Group("The contract", std::move(now)),
                                ui::Group("Your offer", std::move(offered)), ui::Spacer()})
                          .Grow(1)},
@@ -35,7 +36,8 @@ class frmWresContract : public TalkWith<Worker> {
   }
 
  protected:
-  Remark Refusal() override { return {kTalksTitle, WhyNoRenewal(*Who())}; }
+  Remark Refusal(Decision& why) override { return {kTalksTitle, WhyNoRenewal(*Who(), &why)}; }
+  Score WageSteps() override { return RenewalTermsOf(world(), *Who()).WageSteps; }
 
   void Begin() override {
     const RenewalTerms terms = RenewalTermsOf(world(), *Who());
@@ -59,8 +61,8 @@ class frmWresContract : public TalkWith<Worker> {
     ContractOffer offer = offer_.Offer();
     offer.CreativeControl = chkcreative.Checked;
     const RenewalAnswer answer = JudgeRenewal(worker, RenewalTermsOf(world(), worker), offer);
+    if (!answer.Accepted) return Refuse(answer.Remarks, answer.Why);
     SayAll(answer.Remarks);
-    if (!answer.Accepted) return;
     Renew(worker, offer);
     Agree(worker.Name, offer.Written);
   }
@@ -98,7 +100,6 @@ class frmOtherContract : public TalkWith<Worker> {
  public:
   frmOtherContract(Game& game, const Worker& worker) : TalkWith(game, "frmOtherContract", worker) {
     BackBefore(cmdoffer);
-    txtwhy.Brief = true;
     for (const int position : kOfferedPositions)
       cmbnewposition.Add(std::string(PositionText(position)), position);
     for (const char* code : kOfferedDispositions)
@@ -108,8 +109,9 @@ class frmOtherContract : public TalkWith<Worker> {
   ui::Page Layout() override {
     std::vector<ui::Box> wanted = terms_.Fields(), offered = offer_.Fields();
     wanted.insert(wanted.begin(), ui::Field("Position", txtposition));
-    wanted.insert(wanted.end(), {ui::Field("Creative control", txtcreative),
-                                 ui::Columns({cmdwhy, ui::Spacer()}), txtwhy, ui::Spacer()});
+    wanted.push_back(ui::Field("Creative control", txtcreative));
+    for (ui::Box& part : WhyParts()) wanted.push_back(std::move(part));
+    wanted.push_back(ui::Spacer());
     offered.emplace_back(chkcreative);
     return TalkPage({ui::Group("Wanted of you", std::move(wanted)),
                      ui::Rows({ui::Group("Your offer", std::move(offered)),
@@ -128,7 +130,10 @@ class frmOtherContract : public TalkWith<Worker> {
   }
 
  protected:
-  Remark Refusal() override { return {"Refusal!", WhyNoSigning(world(), *Who())}; }
+  Remark Refusal(Decision& why) override {
+    return {"Refusal!", WhyNoSigning(world(), *Who(), &why)};
+  }
+  Score WageSteps() override { return ContractDemands(world(), *Who()).WageSteps; }
 
   void Begin() override {
     const Worker& worker = *Who();
@@ -155,13 +160,6 @@ class frmOtherContract : public TalkWith<Worker> {
   }
 
  private:
-  /// How the wage came about that is wanted.
-  void cmdwhy_Click() {
-    const Worker* worker = Who();
-    if (worker)
-      txtwhy.WriteLines(WhyText("Wage in $1000", ContractDemands(world(), *worker).WageSteps));
-  }
-
   std::string FactsOf(const Worker& worker) {
     if (worker.Employer == 0) return "A free agent.";
     return "Works for " + PromotionName(world(), worker.Employer) +
@@ -181,8 +179,9 @@ class frmOtherContract : public TalkWith<Worker> {
     Worker& worker = *Who();
     const SigningOffer offer = Offered();
     if (desk().Objects(WhyNotAsOffered(world(), worker, offer))) return;
-    const std::string no = JudgeSigning(worker, ContractDemands(world(), worker), offer);
-    if (!no.empty()) return desk().Say("Rejection!", no);
+    Decision why;
+    const std::string no = JudgeSigning(worker, ContractDemands(world(), worker), offer, &why);
+    if (!no.empty()) return Refuse({{"Rejection!", no}}, std::move(why));
     Sign(world(), worker, offer);
     Agree(worker.Name, offer.Written);
   }
@@ -196,8 +195,6 @@ class frmOtherContract : public TalkWith<Worker> {
   ui::ComboBox cmbnewdispo{*this, "cmbnewdispo"};
   ui::TextBox txtnewname{*this, "txtnewname", "", Text<25>::kWidth};
   ui::TextBox txtnewname2{*this, "txtnewname2", "", Text<10>::kWidth};
-  ui::Button cmdwhy{*this, "cmdwhy", "Why?", &frmOtherContract::cmdwhy_Click};
-  ui::Report txtwhy{*this, "txtwhy"};
   ui::Button cmdoffer{*this, "cmdoffer", "Make Offer", &frmOtherContract::cmdoffer_Click};
 };
 
@@ -213,14 +210,19 @@ class StaffTalk : public TalkWith<Staff> {
   }
 
   ui::Page Layout() override {
+    std::vector<ui::Box> offered = offer_.Fields();
+    for (ui::Box& part : WhyParts()) offered.push_back(std::move(part));
     return TalkPage({ui::Rows({ui::Group(own_ ? "The contract" : "Wanted of you", terms_.Fields()),
-                               ui::Group("Your offer", offer_.Fields()), ui::Spacer()})
+                               ui::Group("Your offer", std::move(offered)), ui::Spacer()})
                          .Grow(1)},
                     {}, cmdoffer);
   }
 
  protected:
-  Remark Refusal() override { return {"Refusal!", WhyNoStaffOffer(world(), *Who())}; }
+  Remark Refusal(Decision& why) override {
+    return {"Refusal!", WhyNoStaffOffer(world(), *Who(), &why)};
+  }
+  Score WageSteps() override { return StaffDemandsOf(world(), *Who()).WageSteps; }
 
   void Begin() override {
     const StaffDemands demands = StaffDemandsOf(world(), *Who());
@@ -251,8 +253,10 @@ class StaffTalk : public TalkWith<Staff> {
     if (!GoesOn()) return;
     Staff& staff = *Who();
     const ContractOffer offer = offer_.Offer();
-    const std::string no = JudgeStaffOffer(world(), staff, StaffDemandsOf(world(), staff), offer);
-    if (!no.empty()) return desk().Say("Rejected!", no);
+    Decision why;
+    const std::string no =
+        JudgeStaffOffer(world(), staff, StaffDemandsOf(world(), staff), offer, &why);
+    if (!no.empty()) return Refuse({{"Rejected!", no}}, std::move(why));
     own_ ? PutInto(staff, offer) : HireStaff(world(), staff, offer);
     Agree(staff.Name, offer.Written);
   }

@@ -63,13 +63,17 @@ std::vector<ui::Box> TermLabels::Fields() {
 TalkScreen::TalkScreen(Game& game, std::string name, int uid, Counterpart with)
     : GameScreen(game, std::move(name), with.Name, {.Is = ui::Role::Dialog}),
       uid_(uid),
-      with_(std::move(with)) {}
+      with_(std::move(with)) {
+  txtwhy.Brief = true;
+}
 
 void TalkScreen::Load() {
-  const Remark refusal = Refusal();
-  closed_ = refusal.Text;
+  why_ = {};
+  const Remark refusal = Refusal(why_);
+  closed_ = said_ = refusal.Text;
   Begin();
   Show();
+  ShowWhyNot();
   if (!closed_.empty()) desk().Say(refusal.Title, refusal.Text);
 }
 
@@ -91,6 +95,26 @@ ui::Page TalkScreen::TalkPage(std::vector<ui::Box> beside, std::vector<ui::Butto
   ui::Page page = PageOf(ui::Columns(std::move(beside)), &lblfacts, std::move(actions), &offer);
   page.Large = true;
   return page;
+}
+
+std::vector<ui::Box> TalkScreen::WhyParts() {
+  return {ui::Columns({cmdwhy, cmdwhynot, ui::Spacer()}), txtwhy};
+}
+
+void TalkScreen::ShowWhyNot() {
+  EnableUnless(cmdwhynot, said_.empty() ? "Nothing has been turned down yet." : "");
+  txtwhy.Write("");
+}
+
+void TalkScreen::Refuse(const std::vector<Remark>& remarks, Decision why) {
+  why_ = std::move(why);
+  said_ = remarks.front().Text;
+  ShowWhyNot();
+  SayAll(remarks);
+}
+
+void TalkScreen::cmdwhy_Click() {
+  if (GoesOn()) txtwhy.WriteLines(WhyText("Wage in $1000", WageSteps()));
 }
 
 void TalkScreen::ShowFacts(const std::string& facts) {

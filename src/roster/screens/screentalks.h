@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "records/fields/people.h"
+#include "records/score.h"
 #include "records/world.h"
 #include "roster/talks.h"
 #include "ui/game.h"
@@ -70,8 +71,11 @@ class TalkScreen : public GameScreen {
 
  protected:
   virtual std::string WhyOver() = 0;
-  /// The box in which they refuse to listen to any offer; without words when they listen.
-  virtual Remark Refusal() = 0;
+  /// The box in which they refuse to listen to any offer; without words when they listen. `why`
+  /// gets what they weighed.
+  virtual Remark Refusal(Decision& why) = 0;
+  /// How the wage came about with which the talks begin.
+  virtual Score WageSteps() = 0;
   /// Puts on the table what the talks begin with.
   virtual void Begin() = 0;
   /// Shows them as they are, and opens or closes the table.
@@ -85,6 +89,10 @@ class TalkScreen : public GameScreen {
                     ui::Button& offer);
   /// The line under the title; what closed the talks goes before it.
   void ShowFacts(const std::string& facts);
+  /// The ways to what stands behind the wage and behind a no, and where it is told.
+  std::vector<ui::Box> WhyParts();
+  /// Says no, and keeps what was weighed for whoever asks.
+  void Refuse(const std::vector<Remark>& remarks, Decision why);
   /// Says that it is a deal, and closes.
   void Agree(std::string_view name, bool written);
 
@@ -93,6 +101,17 @@ class TalkScreen : public GameScreen {
   std::string closed_;  // what closed the talks; empty while they listen
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Report txtpage{*this, "txtpage"};
+
+ private:
+  void ShowWhyNot();
+
+  Decision why_;      // of the last no
+  std::string said_;  // in which words; empty while there was none
+  ui::Button cmdwhy{*this, "cmdwhy", "Why?", &TalkScreen::cmdwhy_Click};
+  ui::Button cmdwhynot{*this, "cmdwhynot", "Why Not?", &TalkScreen::cmdwhynot_Click};
+  ui::Report txtwhy{*this, "txtwhy"};
+  void cmdwhy_Click();
+  void cmdwhynot_Click() { txtwhy.WriteLines(WhyText(said_, why_)); }
 };
 
 /// Talks with a worker or with a member of staff.

@@ -230,7 +230,8 @@ class frmPostShow : public GameScreen {
     for (const RecapLine& line : recap.Lines)
       lstrecap.Add({ui::Cell(line.Number), line.What,
                     ui::Cell(line.Rating, std::to_string(line.Rating) + "%")});
-    for (const ScoreStep& step : recap.Sum) lstsum.Add({step.Why, ui::Cell(step.Change)});
+    for (const ScoreStep& step : recap.Sum)
+      lstsum.Add({step.Why, ui::Cell(static_cast<int>(step.Change))});
     ShowRatings(world(), chtshow);
   }
 
