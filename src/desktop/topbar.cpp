@@ -26,7 +26,7 @@ HubFrame::HubFrame(const ui::Page& page, Stage& stage, QWidget* parent)
 
 namespace {
 
-constexpr int kHeight = 52, kSide = 20, kBetween = 18, kSecondRow = 10;
+constexpr int kBarHeight = 52, kSide = 20, kBetween = 18, kSecondRow = 10;
 constexpr int kEnterSign = 20;                  // what the sign adds to a button
 constexpr int kStep = 24;                       // a number's room grows by so much at once
 constexpr int kShortName = 96, kBareName = 88;  // what is left of a long name
@@ -193,7 +193,7 @@ TopBar::TopBar(const ui::Page& page, Stage& stage, QWidget* parent)
       more_(new PushButton(this, QStringLiteral("More\u2026"))),
       all_(NewLayout<QHBoxLayout>(this, 0, {kSide, 0, kSide, 1})),
       actions_(new FlowLayout(Px(kBetween), Qt::AlignRight | Qt::AlignVCenter)) {
-  setFixedHeight(Px(kHeight));
+  setFixedHeight(Px(kBarHeight));
   auto* facts = NewLayout<QHBoxLayout>(nullptr, kBetween);
   for (ui::Label* label : page.Top) {
     facts_.push_back(new Fact(*label, facts_.empty(), stage, this));
@@ -275,7 +275,7 @@ void TopBar::Take(const Way& way) {
   const int second =
       way.OneRow ? 0 : actions_->heightForWidth(width() - 2 * Px(kSide)) + Px(kSecondRow);
   all_->setContentsMargins(Px(kSide), 0, Px(kSide), way.OneRow ? 1 : Px(kSecondRow));
-  if (height() != Px(kHeight) + second) setFixedHeight(Px(kHeight) + second);
+  if (height() != Px(kBarHeight) + second) setFixedHeight(Px(kBarHeight) + second);
 }
 
 void TopBar::OpenMore() {
