@@ -16,8 +16,6 @@ struct RosterBand {
 inline constexpr std::array<RosterBand, 6> kRosters = {
     {{60, 64}, {40, 44}, {26, 30}, {17, 20}, {13, 15}, {10, 12}}};
 
-/// The wage, in thousands a month, of somebody with an Over of 100; it falls with the square.
-inline constexpr std::array<int, 6> kTopWage = {300, 100, 80, 60, 30, 20};
 
 /// A rival that has fewer months of wages in hand, and has lost money twice in a row, saves; one
 /// that has more, and has gained twice, spends.
@@ -65,5 +63,53 @@ inline constexpr int kStrangersStars = 16;
 inline constexpr int kStarsOver = 50;
 inline constexpr int kStarsAskedFor1 = 4;
 inline constexpr int kStarsFromOne = 3;
+
+// Money.
+
+/// The wage, in thousands a month, of somebody with an Over of 100 where a promotion has no books
+/// yet; it falls with the square. With books it is no less than this over kScaleSpan and no more
+/// than this times kScaleSpan.
+inline constexpr std::array<int, 6> kTopWage = {300, 100, 80, 60, 30, 20};
+inline constexpr int kScaleSpan = 3;
+/// What lies above or below a fair sum goes into or out of the wage budget in so many months.
+inline constexpr int kMonthsToFairSum = 24;
+
+/// How money is handled, by Hand.
+struct SpendingHabit {
+  int OfWhatIsLeft;  // percent of what all but workers' wages leaves over
+  int MostOfIncome;  // percent
+  bool MindsDebts;
+};
+inline constexpr std::array<SpendingHabit, 3> kHabits = {
+    {{85, 55, true}, {95, 60, true}, {125, 90, false}}};
+/// So many owners in a hundred are reckless, one fewer for each so many points of talent; and so
+/// many are careful.
+inline constexpr int kRecklessIn100 = 45;
+inline constexpr int kTalentToOneLess = 3;
+inline constexpr int kCarefulIn100 = 30;
+
+/// What sponsors that look for a promotion of a size pay, in thousands of dollars a show.
+struct PayBand {
+  int From;
+  int To;
+};
+inline constexpr std::array<PayBand, 6> kUsualPay = {
+    {{280, 1000}, {130, 700}, {70, 500}, {40, 400}, {40, 350}, {1, 40}}};
+
+/// A promotion goes after so many people a month where its budget has room, and one more a week
+/// where it prospers; one of so many talks succeeds.
+inline constexpr int kTalksAMonth = 6;
+inline constexpr int kTalksFor1 = 2;
+/// A contract can be talked about so many months before its end.
+inline constexpr int kMonthsBeforeTheEnd = 3;
+/// The most paid for somebody whose last wage is above the going rate, in percent of that.
+inline constexpr int kMostOfRate = 130;
+/// Whoever is offered so many percent of what the employer pays leaves at the end of the contract
+/// in one of so many cases.
+inline constexpr int kTemptingOffer = 125;
+inline constexpr int kTemptedIn = 2;
+/// A roster below its band takes so many a week whose Over is no more than this below its class.
+inline constexpr int kProspectsAWeek = 3;
+inline constexpr int kBelowClass = 25;
 
 }  // namespace grapplemont::tuning

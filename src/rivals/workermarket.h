@@ -10,6 +10,11 @@ namespace grapplemont {
 
 /// The limits of a rival's size: what he asks for, how popular he is.
 bool IsWithinLimits(const Worker& worker, int size);
+/// The same whatever he asks for.
+bool IsPopularEnough(const Worker& worker, int size);
+bool IsTooPopular(const Worker& worker, int size);
+/// Not popular enough yet, but near it.
+bool IsProspect(const Worker& worker, int size);
 /// Whether he would leave his employer for a promotion of this size; somebody free always would.
 bool IsOpenTo(const World& world, const Worker& worker, int size);
 
@@ -28,7 +33,10 @@ void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& 
 /// one that fails.
 void FitRoster(World& world, const Promotion& rival, Rosters& rosters);
 
-/// Contracts of the promotion's that have one month left are renewed by taste and budget or left to
+/// Whether it may go after people: it need not save, or its owner does not care.
+bool IsFreeToSpend(const World& world, const Promotion& promotion);
+
+/// Contracts of the promotion's that have one month left are renewed at the going rate or left to
 /// run out.
 void RenewContracts(World& world, const Promotion& promotion);
 

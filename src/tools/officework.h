@@ -12,7 +12,8 @@ namespace grapplemont::tools {
 
 /// What a sensible player does beside the shows, once a day: fills the sponsors' places, looks
 /// after television, keeps the contracts of those he needs, the roster and the posts as full as a
-/// rival's, and spends by the promotion's standing, less when in debt.
+/// rival's (where a rise is near, as those of the class above), and spends by the promotion's
+/// standing, less when in debt.
 void WorkInTheOffice(World& world);
 
 /// What a sensible player does for his place on television, once a day: takes what networks offer,
