@@ -182,7 +182,7 @@ CareerEnd PlayDays(Game& game, int days, Shows shows, const std::function<void(i
     PlayDay(world, shows);
     ++end.Days;
     end.EndCode = EndCodeOf(world);
-    if (end.EndCode != 0) end.Reasons.push_back(end.EndCode);
+    if (end.EndCode != 0) end.Reasons.emplace_back(end.EndCode, world.Today());
     if (end.EndCode != 0 && after == AfterTheEnd::AnotherJob && TakeAnotherJob(world))
       end.EndCode = 0;
     game.Commit();

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <iosfwd>
+#include <utility>
 #include <vector>
 
 #include "calendar/advanceday.h"
@@ -35,9 +36,10 @@ class EmptyDesk : public ui::Desk {
 
 /// How far a career went.
 struct CareerEnd {
-  int Days = 0;              // that passed
-  int EndCode = 0;           // 1 to 9: why it is over; 0: it goes on
-  std::vector<int> Reasons;  // the EndCode of each end on the way
+  int Days = 0;     // that passed
+  int EndCode = 0;  // 1 to 9: why it is over; 0: it goes on
+  /// The EndCode of each end on the way, and its day.
+  std::vector<std::pair<int, Day>> Reasons;
 };
 
 /// 1 to 9: why the career is over; 0: it goes on.

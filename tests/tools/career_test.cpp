@@ -266,7 +266,8 @@ TEST(Careers, GoesOnElsewhereWhereAnotherJobIsWanted) {
                          .Game("CWA", year{2026} / 3 / 31));
     const auto end = PlayDays(
         play.Play, 40, Shows::Cancel, [](int) {}, after);
-    EXPECT_EQ(end.Reasons, std::vector{2});
+    const Day ended{year{2026} / 4 / 1};
+    EXPECT_EQ(end.Reasons, (std::vector{std::pair(2, ended)}));
     const bool goesOn = after == tools::AfterTheEnd::AnotherJob;
     EXPECT_EQ(end.EndCode, goesOn ? 0 : 2);
     EXPECT_EQ(end.Days, goesOn ? 40 : 1);
