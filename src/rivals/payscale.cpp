@@ -65,7 +65,7 @@ long long BudgetByBooks(const Promotion& promotion, const tuning::SpendingHabit&
 
 Hand HandOf(const World& world, const Promotion& promotion) {
   const Staff* owner = OwnerOf(world, promotion.Uid);
-  if (!owner) return Hand::Even;
+  if (!owner || IsPlayers(world, promotion)) return Hand::Even;
   const int drawn = world.Fate("OwnersHand", {owner->Uid}).Draw(100);
   if (drawn <= tuning::kRecklessIn100 - owner->Talent / tuning::kTalentToOneLess)
     return Hand::Reckless;

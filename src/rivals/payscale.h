@@ -6,8 +6,8 @@
 
 namespace grapplemont {
 
-/// How whoever decides handles money: the owner by nature, the talented seldom badly; a board is
-/// even-handed.
+/// How whoever decides handles money: the owner by nature, the talented seldom badly; a board and
+/// the player are even-handed.
 enum class Hand { Careful, Even, Reckless };
 Hand HandOf(const World& world, const Promotion& promotion);
 

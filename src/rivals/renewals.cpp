@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "records/modWresCheck.h"
+#include "rivals/ambition.h"
 #include "rivals/founding.h"
 #include "rivals/ownership.h"
 #include "rivals/payscale.h"
@@ -71,6 +72,18 @@ bool IsTempted(World& world, const Worker& worker, const Renewing& terms, const 
          suitors->BestOfferFor(worker, terms.Employer) * 100 >=
              NextWage(worker, terms) * tuning::kTemptingOffer &&
          world.Life().Draw(tuning::kTemptedIn) == 1;
+}
+
+/// Whoever earns less than the going rate gets closer to it every month, from those who need not
+/// save.
+void RaiseWages(World& world, const Promotion& rival) {
+  if (PurseOf(rival) == Purse::Saving) return;
+  const PayScale scale(world, rival);
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer != rival.Uid || !IsOnMainRoster(worker)) continue;
+    const int gap = scale.For(worker.Over) - worker.Wage;
+    if (gap > 0) worker.Wage += (gap + tuning::kMonthsToRate - 1) / tuning::kMonthsToRate;
+  }
 }
 
 void RenewWorkers(World& world, const Promotion& rival, const Suitors* suitors) {
@@ -159,6 +172,7 @@ void RivalContractRenewals(World& world) {
   for (const Promotion& promotion : world.Promotions()) {
     if (!IsRival(world, promotion)) continue;
     RenewWorkers(world, promotion, &suitors);
+    RaiseWages(world, promotion);
     RenewStaff(world, promotion);
   }
 }
@@ -171,6 +185,7 @@ void RosterSizeReview(World& world) {
     if (!IsFreeToSpend(world, rival)) Save(world, rival, rosters);
     if (purse == Purse::Spending) GoAfterTalent(world, rival, 1, rosters);
     SignProspects(world, rival, tuning::kProspectsAWeek, rosters);
+    MindTheCard(world, rival, rosters);
     if (rosters.Of(rival.Uid) >= tuning::kTitleRoster && !HasTitles(world, rival.Uid))
       FoundTitles(world, rival);
   }

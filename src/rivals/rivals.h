@@ -56,7 +56,7 @@ bool FitsRival(const Sponsor& sponsor, const Promotion& rival);
 void RivalPositions(World& world);
 /// A house show a week, and, the day after an Event, what became of the Titles there.
 void RivalHouseShows(World& world);
-/// Rivals advertise by their standing, those in debt half as much.
+/// Rivals advertise by their standing, those in debt not at all, and the rich put on campaigns.
 void RivalAdvertising(World& world);
 /// Rivals that save let somebody go, those that prosper go after somebody, those with too few people
 /// take what they can get, and those that have become big enough found Titles.

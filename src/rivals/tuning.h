@@ -35,7 +35,7 @@ inline constexpr int kWaitingDiscount = 5;
 inline constexpr int kLeastAsked = 2;
 
 /// A week's house show, in dollars: half of it is sure and the rest a matter of image.
-inline constexpr std::array<int, 6> kHouseShow = {120000, 50000, 25000, 10000, 3000, 500};
+inline constexpr std::array<int, 6> kHouseShow = {120000, 50000, 40000, 30000, 12000, 500};
 /// Workers needed for one, and the most condition that it takes from each.
 inline constexpr int kHouseShowCrew = 8;
 inline constexpr int kHouseShowWear = 3;
@@ -74,6 +74,10 @@ inline constexpr int kScaleSpan = 3;
 /// What lies above or below a fair sum goes into or out of the wage budget in so many months.
 inline constexpr int kMonthsToFairSum = 24;
 
+/// What is in hand beyond so many fair sums goes into campaigns, one part in so many a week.
+inline constexpr int kFairSumsKept = 2;
+inline constexpr int kWeeksOfCampaigns = 40;
+
 /// How money is handled, by Hand.
 struct SpendingHabit {
   int OfWhatIsLeft;  // percent of what all but workers' wages leaves over
@@ -81,7 +85,7 @@ struct SpendingHabit {
   bool MindsDebts;
 };
 inline constexpr std::array<SpendingHabit, 3> kHabits = {
-    {{85, 55, true}, {95, 60, true}, {125, 90, false}}};
+    {{80, 50, true}, {92, 55, true}, {125, 85, false}}};
 /// So many owners in a hundred are reckless, one fewer for each so many points of talent; and so
 /// many are careful.
 inline constexpr int kRecklessIn100 = 45;
@@ -94,7 +98,7 @@ struct PayBand {
   int To;
 };
 inline constexpr std::array<PayBand, 6> kUsualPay = {
-    {{280, 1000}, {130, 700}, {70, 500}, {40, 400}, {40, 350}, {1, 40}}};
+    {{350, 1000}, {200, 920}, {120, 700}, {60, 600}, {40, 450}, {1, 50}}};
 
 /// A promotion goes after so many people a month where its budget has room, and one more a week
 /// where it prospers; one of so many talks succeeds.
@@ -103,7 +107,7 @@ inline constexpr int kTalksFor1 = 2;
 /// A contract can be talked about so many months before its end.
 inline constexpr int kMonthsBeforeTheEnd = 3;
 /// The most paid for somebody whose last wage is above the going rate, in percent of that.
-inline constexpr int kMostOfRate = 130;
+inline constexpr int kMostOfRate = 250;
 /// Whoever is offered so many percent of what the employer pays leaves at the end of the contract
 /// in one of so many cases.
 inline constexpr int kTemptingOffer = 125;
@@ -111,5 +115,24 @@ inline constexpr int kTemptedIn = 2;
 /// A roster below its band takes so many a week whose Over is no more than this below its class.
 inline constexpr int kProspectsAWeek = 3;
 inline constexpr int kBelowClass = 25;
+
+/// A wage below the going rate closes the gap by one part in so many a month.
+inline constexpr int kMonthsToRate = 6;
+
+/// From this image on a rise is near, up to that a fall.
+inline constexpr int kNearARise = 70;
+inline constexpr int kNearAFall = 35;
+/// So many places of the card change hands in a week to keep a rival in its class, and it keeps
+/// more than so many on the card.
+inline constexpr int kSwapsAWeek = 5;
+inline constexpr int kLeastCard = 10;
+/// Where there are no newcomers for the card, so many of the most popular go in a week.
+inline constexpr int kStarsAWeek = 2;
+/// A class with so many promotions is full.
+inline constexpr std::array<int, 6> kRoomInClass = {3, 4, 5, 9, 9, 30};
+/// The ten best of whoever wants to rise may be so much less popular than those of the class above,
+/// and of whoever wants to stay than those of its own.
+inline constexpr int kMayBeWeaker = 2;
+inline constexpr int kMayBeWeakerAtHome = 8;
 
 }  // namespace grapplemont::tuning

@@ -172,8 +172,12 @@ void RivalPositions(World& world) {
 void RivalAdvertising(World& world) {
   for (Promotion& rival : world.Promotions()) {
     if (!IsRival(world, rival)) continue;
-    const int target = TargetAdvertising(rival.Size, rival.Image);
-    rival.Advertising = rival.Money < 0 ? target / 2 : target;
+    rival.Advertising = rival.Money < 0 ? 0 : TargetAdvertising(rival.Size, rival.Image);
+    const long long kept = 1LL * tuning::kFairSumsKept * FairSum(rival.Size);
+    if (rival.Money <= kept) continue;
+    const int campaign = static_cast<int>((rival.Money - kept) / tuning::kWeeksOfCampaigns);
+    rival.Money -= campaign;
+    rival.ThisMonth.AdvertisingCost += campaign;
   }
 }
 

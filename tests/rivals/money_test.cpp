@@ -233,8 +233,9 @@ TEST(RivalContractRenewals, LeaveTheBandFullAndLoseTheTempted) {
   ScriptLife(world, {{tuning::kTemptedIn, 2}, {tuning::kTemptedIn, 1}});
   RivalContractRenewals(world);
   for (const Worker& worker : world.Workers())
-    if (worker.Employer == 3)
+    if (worker.Employer == 3) {
       EXPECT_EQ(worker.ContractMonths, worker.Name == "Tempted" ? 1 : 25) << worker.Name.View();
+    }
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include "records/checks/checkworld.h"
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
+#include "rivals/rivals.h"
 #include "session/newgame.h"
 #include "show/holdshow.h"
 #include "show/recap.h"
@@ -274,6 +275,21 @@ TEST(Careers, GoesOnElsewhereWhereAnotherJobIsWanted) {
     EXPECT_EQ(play.World().Player().Initials.Str(), goesOn ? "XWF" : "CWA");
     EXPECT_EQ(play.World().Game().Jobs[1].Promotion.Str(), goesOn ? "CWA Wrestling" : "None");
     ExpectSound(play.World());
+  }
+}
+
+TEST(Careers, LookForTheClassAboveWhereARiseIsNear) {
+  for (const bool near : {false, true}) {
+    World world = SmallWorld()
+                      .Promotion("CWA", kRegional,
+                                 [&](Promotion& p) { p.Image = near ? 75 : 74; })
+                      .Crew(17)
+                      .OnTheMarket()
+                      .Worker("Star", kMainEvent, 65)
+                      .Game("CWA", year{2026} / 3 / 2);
+    for (int week = 0; week < 50; ++week) tools::WorkInTheOffice(world);
+    EXPECT_EQ(Named(world.Workers(), "Star").Employer, near ? 1 : 0);
+    EXPECT_EQ(Rosters(world).Of(1), near ? 18 : 17);
   }
 }
 
