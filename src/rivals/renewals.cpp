@@ -80,7 +80,9 @@ void RaiseWages(World& world, const Promotion& rival) {
   if (PurseOf(rival) == Purse::Saving) return;
   const PayScale scale(world, rival);
   for (Worker& worker : world.Workers()) {
-    if (worker.Employer != rival.Uid || !IsOnMainRoster(worker)) continue;
+    if (worker.Employer != rival.Uid || !IsOnMainRoster(worker) ||
+        worker.ContractMonths == kLastMonth)
+      continue;
     const int gap = scale.For(worker.Over) - worker.Wage;
     if (gap > 0) worker.Wage += (gap + tuning::kMonthsToRate - 1) / tuning::kMonthsToRate;
   }

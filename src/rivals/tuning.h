@@ -16,7 +16,6 @@ struct RosterBand {
 inline constexpr std::array<RosterBand, 6> kRosters = {
     {{60, 64}, {40, 44}, {26, 30}, {17, 20}, {13, 15}, {10, 12}}};
 
-
 /// A rival that has fewer months of wages in hand, and has lost money twice in a row, saves; one
 /// that has more, and has gained twice, spends.
 inline constexpr int kMonthsInHand = 6;
@@ -29,13 +28,13 @@ inline constexpr int kStaffNotRenewed = 40;
 /// New talent comes while fewer than so many workers in a hundred are free, so many a month at
 /// most.
 inline constexpr int kFreeWanted = 27;
-inline constexpr int kNewTalentAMonth = 8;
+inline constexpr int kNewTalentAMonth = 12;
 /// Whoever waits for work asks for so many percent less every month, down to this wage.
 inline constexpr int kWaitingDiscount = 5;
 inline constexpr int kLeastAsked = 2;
 
 /// A week's house show, in dollars: half of it is sure and the rest a matter of image.
-inline constexpr std::array<int, 6> kHouseShow = {120000, 50000, 40000, 30000, 12000, 500};
+inline constexpr std::array<int, 6> kHouseShow = {120000, 50000, 40000, 70000, 40000, 500};
 /// Workers needed for one, and the most condition that it takes from each.
 inline constexpr int kHouseShowCrew = 8;
 inline constexpr int kHouseShowWear = 3;
@@ -75,7 +74,7 @@ inline constexpr int kScaleSpan = 3;
 inline constexpr int kMonthsToFairSum = 24;
 
 /// What is in hand beyond so many fair sums goes into campaigns, one part in so many a week.
-inline constexpr int kFairSumsKept = 2;
+inline constexpr int kFairSumsKept = 3;
 inline constexpr int kWeeksOfCampaigns = 40;
 
 /// How money is handled, by Hand.
@@ -88,7 +87,7 @@ inline constexpr std::array<SpendingHabit, 3> kHabits = {
     {{80, 50, true}, {92, 55, true}, {125, 85, false}}};
 /// So many owners in a hundred are reckless, one fewer for each so many points of talent; and so
 /// many are careful.
-inline constexpr int kRecklessIn100 = 45;
+inline constexpr int kRecklessIn100 = 30;
 inline constexpr int kTalentToOneLess = 3;
 inline constexpr int kCarefulIn100 = 30;
 
@@ -129,7 +128,7 @@ inline constexpr int kLeastCard = 10;
 /// Where there are no newcomers for the card, so many of the most popular go in a week.
 inline constexpr int kStarsAWeek = 2;
 /// A class with so many promotions is full.
-inline constexpr std::array<int, 6> kRoomInClass = {3, 4, 5, 9, 9, 30};
+inline constexpr std::array<int, 6> kRoomInClass = {3, 4, 4, 6, 6, 30};
 /// The ten best of whoever wants to rise may be so much less popular than those of the class above,
 /// and of whoever wants to stay than those of its own.
 inline constexpr int kMayBeWeaker = 2;

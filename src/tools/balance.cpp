@@ -154,7 +154,7 @@ two pairs of hands:
   who are willing and pay as is usual for its class. There are not enough of them for everybody: some places stay empty.
 
 Wages are those of the first day in both. A rival's people move towards the band of its size and the going rate within
-the first months, and one in debt advertises half as much.
+the first months. One in debt does not advertise, and a rich one spends more.
 
 Dollars throughout. *Costs per 100* is what it costs to earn a hundred dollars: under 100 a promotion grows richer.
 )";

@@ -126,7 +126,9 @@ TEST(RivalContractRenewals, KeepAllButTheLeastWantedTheOutgrownAndTheRetiring) {
         const Worker& worker = Named(world.Workers(), "Hand " + std::to_string(i));
         const bool stays = i > 3 && i < 18;
         EXPECT_EQ(worker.ContractMonths, stays ? 13 : i == 18 ? 2 : 1) << i;
-        EXPECT_EQ(worker.Wage, !stays ? wage : wage == 20 ? (20 + 9 + 1) / 2 : saves ? 3 : 9) << i;
+        const int renewed = wage == 20 ? (20 + 9 + 1) / 2 : saves ? 3 : 9;
+        const int runningOn = wage == 3 && !saves ? 3 + 1 : wage;
+        EXPECT_EQ(worker.Wage, stays ? renewed : i == 18 ? runningOn : wage) << i;
         EXPECT_EQ(worker.ContractType.Str(), stays ? "Non" : "Wri") << i;
       }
     }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "rivals/ambition.h"
 #include "rivals/faults.h"
 #include "rivals/payscale.h"
 #include "rivals/purse.h"
@@ -40,7 +41,6 @@ TEST(PayScale, SpreadsWhatTheBooksBearBySquaresOfOver) {
   Earn(rival, 1000000, 400000);
   EXPECT_EQ(WageBudget(world, rival), 4000 * even.OfWhatIsLeft);
   rival.LastMonth.WrestlerWages = 250000;
-  rival.LastMonth.MerchCost -= 250000;
   EXPECT_EQ(WageBudget(world, rival), 4000 * even.OfWhatIsLeft) << "wages are not in the way";
   rival.Money += tuning::kMonthsToFairSum * 1000;
   EXPECT_EQ(WageBudget(world, rival), 4000 * even.OfWhatIsLeft + 1000);
@@ -236,6 +236,83 @@ TEST(RivalContractRenewals, LeaveTheBandFullAndLoseTheTempted) {
     if (worker.Employer == 3) {
       EXPECT_EQ(worker.ContractMonths, worker.Name == "Tempted" ? 1 : 25) << worker.Name.View();
     }
+}
+
+/// A Cult rival on air with an image, and free people for the end of its card and below it.
+World NearTheEdge(int image, int others) {
+  SmallWorld small;
+  small.Network("Nine").Promotion("CWA");
+  for (int i = 0; i < others; ++i)
+    small.Promotion("P" + std::to_string(i), i == 0 ? kNational : kCult)
+        .Worker("Star " + std::to_string(i), Star(85, 10, "Wri", 9));
+  small.Promotion("XWF", kCult, [=](Promotion& p) { p.Image = image; }).Crew(24);
+  small.Show("Slam", "Monday", "Nine").OnTheMarket();
+  for (int i = 0; i < 9; ++i)
+    small.Worker("Low " + std::to_string(i), Star(25))
+        .Worker("Deep " + std::to_string(i), Star(15));
+  World world = small.Game("CWA");
+  ScriptDraws(world, std::vector<int>{});
+  ScriptLife(world, {});
+  return world;
+}
+
+/// How many free people of a kind the rival takes in a week.
+int Taken(World& world, std::string_view kind) {
+  Rosters rosters(world);
+  const int uid = RivalOf(world).Uid, before = rosters.Of(uid);
+  MindTheCard(world, RivalOf(world), rosters);
+  EXPECT_EQ(rosters.Of(uid), before);
+  return static_cast<int>(std::ranges::count_if(world.Workers(), [&](const Worker& worker) {
+    return worker.Employer == uid && worker.Name.View().starts_with(kind);
+  }));
+}
+
+TEST(RivalAmbition, LowersTheCardNearARiseItIsNotReadyFor) {
+  World calm = NearTheEdge(tuning::kNearARise - 1, 1);
+  EXPECT_EQ(Taken(calm, "Low"), 0);
+  World near = NearTheEdge(tuning::kNearARise, 1);
+  EXPECT_FALSE(IsReadyToRise(near, RivalOf(near)));
+  for (const char* name : {"XWF Hand 6", "XWF Hand 12"}) Named(near.Workers(), name).Over = 12;
+  EXPECT_EQ(Taken(near, "Low"), 2 + tuning::kStarsAWeek) << "two from below, then the stars";
+  EXPECT_EQ(Named(near.Workers(), "XWF Hand 1").Employer, 0);
+  EXPECT_EQ(FaultsOf(near), "");
+
+  RivalOf(near).Money = FairSum(kNational);
+  Named(near.Workers(), "Star 0").Over = 60;
+  EXPECT_TRUE(IsReadyToRise(near, RivalOf(near))) << "rich and as good as they are";
+  RivalOf(near).Money -= 1;
+  EXPECT_FALSE(IsReadyToRise(near, RivalOf(near)));
+  Named(near.Promotions(), "P0").Size = kCult;
+  EXPECT_TRUE(IsReadyToRise(near, RivalOf(near))) << "nobody is up there";
+}
+
+TEST(RivalAmbition, KeepsTheCardToItsNamesNearAFallWhereItIsAtHome) {
+  World weak = NearTheEdge(tuning::kNearAFall, 2);
+  EXPECT_FALSE(IsAtHome(weak, RivalOf(weak)));
+  EXPECT_EQ(Taken(weak, "Deep"), 0);
+  World calm = NearTheEdge(tuning::kNearAFall + 1, 1);
+  EXPECT_EQ(Taken(calm, "Deep"), 0);
+  World home = NearTheEdge(tuning::kNearAFall, 1);
+  EXPECT_TRUE(IsAtHome(home, RivalOf(home)));
+  EXPECT_EQ(Taken(home, "Deep"), std::min(8, tuning::kSwapsAWeek)) << "for those of 40 and 30";
+  EXPECT_EQ(FaultsOf(home), "");
+}
+
+TEST(RivalAdvertising, SpendsRichesOnCampaignsAndNothingInDebt) {
+  World world = SmallWorld().Promotion("CWA").Promotion("XWF", kRegional).Game("CWA");
+  Promotion& rival = RivalOf(world);
+  const int kept = tuning::kFairSumsKept * FairSum(kRegional);
+  rival.Money = kept + 1000 * tuning::kWeeksOfCampaigns;
+  RivalAdvertising(world);
+  EXPECT_EQ(rival.Money, kept + 1000 * (tuning::kWeeksOfCampaigns - 1));
+  EXPECT_EQ(rival.ThisMonth.AdvertisingCost, 1000);
+  EXPECT_GT(rival.Advertising, 0);
+  rival.Money = kept;
+  RivalAdvertising(world);
+  EXPECT_EQ(rival.Money, kept);
+  rival.Money = -1;
+  RivalAdvertising(world);
+  EXPECT_EQ(rival.Advertising, 0);
 }
 
 }  // namespace

@@ -281,8 +281,7 @@ TEST(Careers, GoesOnElsewhereWhereAnotherJobIsWanted) {
 TEST(Careers, LookForTheClassAboveWhereARiseIsNear) {
   for (const bool near : {false, true}) {
     World world = SmallWorld()
-                      .Promotion("CWA", kRegional,
-                                 [&](Promotion& p) { p.Image = near ? 75 : 74; })
+                      .Promotion("CWA", kRegional, [&](Promotion& p) { p.Image = near ? 75 : 74; })
                       .Crew(17)
                       .OnTheMarket()
                       .Worker("Star", kMainEvent, 65)
