@@ -35,7 +35,8 @@ Title* LeftBehind(World& world, std::string_view name) {
 template <class Taken>
 std::string NumberedName(const std::string& plain, Taken isTaken) {
   std::string name = plain;
-  for (const char* behind : {" II", " III", " IV"})
+  for (const char* behind :
+       {" II", " III", " IV", " V", " VI", " VII", " VIII", " IX", " X", " XI", " XII"})
     if (isTaken(name)) name = plain + behind;
   return name;
 }

@@ -11,7 +11,6 @@ namespace grapplemont {
 
 namespace {
 
-/// A fair sum to run a promotion of a size with, in dollars.
 constexpr std::array<int, 6> kFairSum = {20000000, 10000000, 5000000, 2000000, 1000000, 200000};
 
 struct MoneyWords {
@@ -64,10 +63,14 @@ Purse PurseOf(const Promotion& promotion) {
   return Purse::Steady;
 }
 
+int FairSum(int size) {
+  return BySize(kFairSum, size);
+}
+
 std::string MoneyInWords(int size, long long money) {
   if (money < BankruptcyLineOf(size).WarnedBelow) return "Close to bankruptcy";
   if (money < 0) return "In debt";
-  const long long percent = money * 100 / BySize(kFairSum, size);
+  const long long percent = money * 100 / FairSum(size);
   for (const MoneyWords& row : kWords)
     if (percent >= row.FromPercent) return row.Words;
   return {};

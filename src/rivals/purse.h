@@ -13,6 +13,8 @@ enum class Purse { Saving, Steady, Spending };
 /// By the money in hand and by what the last two months did to it.
 Purse PurseOf(const Promotion& promotion);
 
+/// Dollars that are enough to run a promotion of a size.
+int FairSum(int size);
 /// "Rich", "Comfortable" and so on, against what a promotion of the size needs.
 std::string MoneyInWords(int size, long long money);
 

@@ -3,6 +3,7 @@
 #include "business/sponsors.h"
 #include "records/modVar.h"
 #include "records/severing.h"
+#include "rivals/tuning.h"
 
 namespace grapplemont {
 
@@ -48,20 +49,33 @@ void PartWays(World& world, const std::vector<Worker*>& workers) {
   LoseClients(world, uids);
 }
 
-Sponsor* SponsorForRival(World& world, const Promotion& rival) {
-  const int limit = RivalSponsorPayLimit(rival.Size, rival.Image);
-  for (Sponsor& sponsor : world.Sponsors())
-    if (sponsor.Promotion == 0 && BearsRisk(sponsor, rival.Risk) && sponsor.Pay < limit)
-      return &sponsor;
-  return nullptr;
+bool FitsRival(const Sponsor& sponsor, const Promotion& rival) {
+  const tuning::PayBand& usual = BySize(tuning::kUsualPay, rival.Size);
+  return BearsRisk(sponsor, rival.Risk) &&
+         sponsor.Pay < RivalSponsorPayLimit(rival.Size, rival.Image) && sponsor.Pay >= usual.From &&
+         sponsor.Pay <= usual.To;
 }
+
+namespace {
+
+/// One of those who are free and fit, by a draw of World::Life; nullptr for nobody.
+Sponsor* DrawSponsor(World& world, const Promotion& rival) {
+  std::vector<Sponsor*> fitting;
+  for (Sponsor& sponsor : world.Sponsors())
+    if (sponsor.Promotion == 0 && FitsRival(sponsor, rival)) fitting.push_back(&sponsor);
+  if (fitting.empty()) return nullptr;
+  const int drawn = world.Life().Draw(static_cast<int>(fitting.size()));
+  return fitting[static_cast<std::size_t>(drawn - 1)];
+}
+
+}  // namespace
 
 void RivalSponsorSigning(World& world) {
   for (Promotion& rival : world.Promotions()) {
     if (!IsRival(world, rival)) continue;
     for (int slot = 1; slot <= static_cast<int>(rival.Sponsor.size()); ++slot) {
       if (SponsorAt(world, rival, slot)) continue;
-      Sponsor* sponsor = SponsorForRival(world, rival);
+      Sponsor* sponsor = DrawSponsor(world, rival);
       if (!sponsor) break;
       SignSponsor(world, rival, *sponsor, slot);
       TellOf(world, world.Game().MailSponsor, rival,

@@ -46,24 +46,25 @@ void PartWays(World& world, const std::vector<Worker*>& workers);
 void OwnerlessPromotions(World& world);
 void RivalWorkerHiring(World& world);
 void RivalStaffHiring(World& world);
-/// Each empty sponsor's place of a rival goes to the first sponsor who is free and willing.
+/// Each empty sponsor's place of a rival goes to one of the sponsors who are free, willing and fit
+/// its class.
 void RivalSponsorSigning(World& world);
-/// The first who is free and willing; nullptr for nobody.
-Sponsor* SponsorForRival(World& world, const Promotion& rival);
+/// Whether the sponsor is willing and pays as is usual for the rival's class.
+bool FitsRival(const Sponsor& sponsor, const Promotion& rival);
 // Mondays.
 /// Everybody who works for a rival stands on the card where their popularity puts them.
 void RivalPositions(World& world);
 /// A house show a week, and, the day after an Event, what became of the Titles there.
 void RivalHouseShows(World& world);
-/// Rivals advertise by their standing, those in debt half as much.
+/// Rivals advertise by their standing, those in debt not at all, and the rich put on campaigns.
 void RivalAdvertising(World& world);
-/// Rivals that save let somebody go, those that prosper sign somebody, and those that have become
-/// big enough found Titles.
+/// Rivals that save let somebody go, those that prosper go after somebody, those with too few people
+/// take what they can get, and those that have become big enough found Titles.
 void RosterSizeReview(World& world);
 // The first of a month.
 /// New talent comes while few are free, and whoever waits for work asks for less.
 void DiscoverFreeAgents(World& world);
-/// Rivals decide about the contracts that have one month left.
+/// Rivals go after who is free by now and decide about the contracts that have one month left.
 void RivalContractRenewals(World& world);
 /// Warns promotions that are deep in debt and closes those that are below the line; the player's
 /// own ends the career.

@@ -16,9 +16,6 @@ struct RosterBand {
 inline constexpr std::array<RosterBand, 6> kRosters = {
     {{60, 64}, {40, 44}, {26, 30}, {17, 20}, {13, 15}, {10, 12}}};
 
-/// The wage, in thousands a month, of somebody with an Over of 100; it falls with the square.
-inline constexpr std::array<int, 6> kTopWage = {300, 100, 80, 60, 30, 20};
-
 /// A rival that has fewer months of wages in hand, and has lost money twice in a row, saves; one
 /// that has more, and has gained twice, spends.
 inline constexpr int kMonthsInHand = 6;
@@ -28,16 +25,16 @@ inline constexpr int kNotRenewed = 15;
 /// Staff of less talent than this share of their post's best are not renewed, in percent.
 inline constexpr int kStaffNotRenewed = 40;
 
-/// New talent comes while fewer than this many workers in a hundred are free, so many a month at
+/// New talent comes while fewer than this many workers in a hundred are free, this many a month at
 /// most.
 inline constexpr int kFreeWanted = 27;
-inline constexpr int kNewTalentAMonth = 8;
+inline constexpr int kNewTalentAMonth = 12;
 /// Whoever waits for work asks for this many percent less every month, down to this wage.
 inline constexpr int kWaitingDiscount = 5;
 inline constexpr int kLeastAsked = 2;
 
 /// A week's house show, in dollars: half of it is sure and the rest a matter of image.
-inline constexpr std::array<int, 6> kHouseShow = {120000, 50000, 25000, 10000, 3000, 500};
+inline constexpr std::array<int, 6> kHouseShow = {120000, 50000, 40000, 70000, 40000, 500};
 /// Workers needed for one, and the most condition that it takes from each.
 inline constexpr int kHouseShowCrew = 8;
 inline constexpr int kHouseShowWear = 3;
@@ -65,5 +62,76 @@ inline constexpr int kStrangersStars = 16;
 inline constexpr int kStarsOver = 50;
 inline constexpr int kStarsAskedFor1 = 4;
 inline constexpr int kStarsFromOne = 3;
+
+// Money.
+
+/// The wage, in thousands a month, of somebody with an Over of 100 where a promotion has no books
+/// yet; it falls with the square. With books it is no less than this over kScaleSpan and no more
+/// than this times kScaleSpan.
+inline constexpr std::array<int, 6> kTopWage = {300, 100, 80, 60, 30, 20};
+inline constexpr int kScaleSpan = 3;
+/// What lies above or below a fair sum goes into or out of the wage budget in this many months.
+inline constexpr int kMonthsToFairSum = 24;
+
+/// What is in hand beyond this many fair sums goes into campaigns, one part in this many a week.
+inline constexpr int kFairSumsKept = 3;
+inline constexpr int kWeeksOfCampaigns = 40;
+
+/// How money is handled, by Hand.
+struct SpendingHabit {
+  int OfWhatIsLeft;  // percent of what all but workers' wages leaves over
+  int MostOfIncome;  // percent
+  bool MindsDebts;
+};
+inline constexpr std::array<SpendingHabit, 3> kHabits = {
+    {{80, 50, true}, {92, 55, true}, {125, 85, false}}};
+/// This many owners in a hundred are reckless, one fewer for each this many points of talent; and
+/// so many are careful.
+inline constexpr int kRecklessIn100 = 30;
+inline constexpr int kTalentToOneLess = 3;
+inline constexpr int kCarefulIn100 = 30;
+
+/// What sponsors that look for a promotion of a size pay, in thousands of dollars a show.
+struct PayBand {
+  int From;
+  int To;
+};
+inline constexpr std::array<PayBand, 6> kUsualPay = {
+    {{350, 1000}, {200, 920}, {120, 700}, {60, 600}, {40, 450}, {1, 50}}};
+
+/// A promotion goes after this many people a month where its budget has room, and one more a week
+/// where it prospers; one of this many talks succeeds.
+inline constexpr int kTalksAMonth = 6;
+inline constexpr int kTalksFor1 = 2;
+/// A contract can be talked about this many months before its end.
+inline constexpr int kMonthsBeforeTheEnd = 3;
+/// The most paid for somebody whose last wage is above the going rate, in percent of that.
+inline constexpr int kMostOfRate = 250;
+/// Whoever is offered this many percent of what the employer pays leaves at the end of the contract
+/// in one of this many cases.
+inline constexpr int kTemptingOffer = 125;
+inline constexpr int kTemptedIn = 2;
+/// A roster below its band takes this many a week whose Over is no more than this below its class.
+inline constexpr int kProspectsAWeek = 3;
+inline constexpr int kBelowClass = 25;
+
+/// A wage below the going rate closes the gap by one part in this many a month.
+inline constexpr int kMonthsToRate = 6;
+
+/// From this image on a rise is near, up to that a fall.
+inline constexpr int kNearARise = 70;
+inline constexpr int kNearAFall = 35;
+/// This many places of the card change hands in a week to keep a rival in its class, and it keeps
+/// more than this many on the card.
+inline constexpr int kSwapsAWeek = 5;
+inline constexpr int kLeastCard = 10;
+/// Where there are no newcomers for the card, this many of the most popular go in a week.
+inline constexpr int kStarsAWeek = 2;
+/// A class with this many promotions is full.
+inline constexpr std::array<int, 6> kRoomInClass = {3, 4, 4, 6, 6, 30};
+/// The ten best of whoever wants to rise may be this much less popular than those of the class
+/// above, and of whoever wants to stay than those of its own.
+inline constexpr int kMayBeWeaker = 2;
+inline constexpr int kMayBeWeakerAtHome = 8;
 
 }  // namespace grapplemont::tuning

@@ -61,9 +61,21 @@ bool SignOne(World& world, const Promotion& rival, Taste taste, Rosters& rosters
 }  // namespace
 
 bool IsWithinLimits(const Worker& worker, int size) {
+  return worker.Wage <= BySize(kLimits, size).WageAtMost && IsPopularEnough(worker, size);
+}
+
+bool IsPopularEnough(const Worker& worker, int size) {
   const MarketLimits& limits = BySize(kLimits, size);
-  return worker.Wage <= limits.WageAtMost && worker.Over <= limits.OverAtMost &&
-         worker.Over > limits.OverAbove;
+  return worker.Over <= limits.OverAtMost && worker.Over > limits.OverAbove;
+}
+
+bool IsTooPopular(const Worker& worker, int size) {
+  return worker.Over > BySize(kLimits, size).OverAtMost;
+}
+
+bool IsProspect(const Worker& worker, int size) {
+  const MarketLimits& limits = BySize(kLimits, size);
+  return worker.Over <= limits.OverAtMost && worker.Over > limits.OverAbove - tuning::kBelowClass;
 }
 
 bool IsOpenTo(const World& world, const Worker& worker, int size) {
@@ -144,120 +156,6 @@ void FitRoster(World& world, const Promotion& rival, Rosters& rosters) {
   FireFrom(world, rival, weakest);
 }
 
-namespace {
-
-constexpr int kLastMonth = 1;
-
-/// Thousands of dollars a month that a promotion of this size thinks fair for this Over.
-int GoingRate(int size, int over) {
-  return std::max(1, BySize(tuning::kTopWage, size) * over * over / 10000);
-}
-
-/// The score below which a roster's least wanted stand.
-int ScoreToStay(const World& world, const Promotion& rival, Taste taste) {
-  std::vector<int> scores;
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer == rival.Uid && IsOnMainRoster(worker))
-      scores.push_back(RosterScore(worker, taste));
-  if (scores.empty()) return 0;
-  const auto at = scores.size() * tuning::kNotRenewed / 100;
-  std::nth_element(scores.begin(), scores.begin() + static_cast<std::ptrdiff_t>(at), scores.end());
-  return scores[at];
-}
-
-/// Half of the way from what they have to what they are worth there; nobody who has to save pays
-/// more than before.
-int NextWage(const Worker& worker, const Promotion& rival) {
-  const int fair = GoingRate(rival.Size, worker.Over);
-  const int met = std::min((worker.Wage + fair + 1) / 2, kHighestWage);
-  return PurseOf(rival) == Purse::Saving ? std::min<int>(met, worker.Wage) : met;
-}
-
-bool IsOutgrown(const Worker& worker, int size) {
-  Worker asWanted = worker;
-  asWanted.Wage = 0;
-  return !IsWithinLimits(asWanted, size);
-}
-
-void Renew(Worker& worker, const Promotion& rival) {
-  worker.Wage = NextWage(worker, rival);
-  worker.ContractMonths = ContractMonthsAt(rival.Size) + kLastMonth;
-  worker.ContractType = rival.Size < kRegional ? "Wri" : "Non";
-}
-
-void RenewWorkers(World& world, const Promotion& rival) {
-  const Taste taste = TasteOf(world, rival.Uid);
-  const int scoreToStay = ScoreToStay(world, rival, taste);
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer != rival.Uid || worker.ContractMonths != kLastMonth || worker.RetiringSoon)
-      continue;
-    if (RosterScore(worker, taste) >= scoreToStay && !IsOutgrown(worker, rival.Size))
-      Renew(worker, rival);
-  }
-}
-
-/// The highest talent in each post of the promotion.
-std::map<int, int> BestInPosts(const World& world, int promotionUid) {
-  std::map<int, int> best;
-  for (const Staff& staff : world.AllStaff())
-    if (staff.Employer == promotionUid)
-      best[staff.Position] = std::max<int>(best[staff.Position], staff.Talent);
-  return best;
-}
-
-void RenewStaff(World& world, const Promotion& rival) {
-  std::map<int, int> best = BestInPosts(world, rival.Uid);
-  for (Staff& staff : world.AllStaff()) {
-    if (staff.Employer != rival.Uid || staff.ContractMonths != kLastMonth) continue;
-    if (staff.Talent * 100 >= best[staff.Position] * tuning::kStaffNotRenewed)
-      staff.ContractMonths = ContractMonthsAt(rival.Size) + kLastMonth;
-  }
-}
-
-/// How much more they cost than their popularity is worth there.
-int Overpaid(const Worker& worker, int size) {
-  return worker.Wage - GoingRate(size, worker.Over);
-}
-
-Worker* FindOverpaid(World& world, const Promotion& rival) {
-  Worker* found = nullptr;
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer != rival.Uid || !IsOnMainRoster(worker) || worker.Unsackable) continue;
-    if (!found || Overpaid(worker, rival.Size) > Overpaid(*found, rival.Size)) found = &worker;
-  }
-  return found;
-}
-
-void Save(World& world, const Promotion& rival, Rosters& rosters) {
-  if (rosters.Of(rival.Uid) <= BySize(tuning::kRosters, rival.Size).Least) return;
-  Worker* worker = FindOverpaid(world, rival);
-  if (!worker) return;
-  rosters.Move(*worker, rival.Uid, 0);
-  FireFrom(world, rival, {worker});
-}
-
-void Spend(World& world, const Promotion& rival, Rosters& rosters) {
-  if (rosters.Of(rival.Uid) < BySize(tuning::kRosters, rival.Size).Most)
-    SignOne(world, rival, TasteOf(world, rival.Uid), rosters);
-}
-
-bool HasTitles(const World& world, int promotionUid) {
-  return std::ranges::any_of(world.Titles(),
-                             [&](auto& title) { return title.Owner == promotionUid; });
-}
-
-}  // namespace
-
-void RenewContracts(World& world, const Promotion& promotion) {
-  RenewWorkers(world, promotion);
-  RenewStaff(world, promotion);
-}
-
-void RivalContractRenewals(World& world) {
-  for (const Promotion& promotion : world.Promotions())
-    if (IsRival(world, promotion)) RenewContracts(world, promotion);
-}
-
 void RivalWorkerHiring(World& world) {
   Rosters rosters(world);
   for (const Promotion& promotion : world.Promotions())
@@ -272,23 +170,15 @@ void RivalPositions(World& world) {
   }
 }
 
-void RosterSizeReview(World& world) {
-  Rosters rosters(world);
-  for (const Promotion& rival : world.Promotions()) {
-    if (!IsRival(world, rival)) continue;
-    const Purse purse = PurseOf(rival);
-    if (purse == Purse::Saving) Save(world, rival, rosters);
-    if (purse == Purse::Spending) Spend(world, rival, rosters);
-    if (rosters.Of(rival.Uid) >= tuning::kTitleRoster && !HasTitles(world, rival.Uid))
-      FoundTitles(world, rival);
-  }
-}
-
 void RivalAdvertising(World& world) {
   for (Promotion& rival : world.Promotions()) {
     if (!IsRival(world, rival)) continue;
-    const int target = TargetAdvertising(rival.Size, rival.Image);
-    rival.Advertising = rival.Money < 0 ? target / 2 : target;
+    rival.Advertising = rival.Money < 0 ? 0 : TargetAdvertising(rival.Size, rival.Image);
+    const long long kept = 1LL * tuning::kFairSumsKept * FairSum(rival.Size);
+    if (rival.Money <= kept) continue;
+    const int campaign = static_cast<int>((rival.Money - kept) / tuning::kWeeksOfCampaigns);
+    rival.Money -= campaign;
+    rival.ThisMonth.AdvertisingCost += campaign;
   }
 }
 

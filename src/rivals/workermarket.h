@@ -10,8 +10,12 @@ namespace grapplemont {
 
 /// The limits of a rival's size: what they ask for, how popular they are.
 bool IsWithinLimits(const Worker& worker, int size);
-/// Whether they would leave their employer for a promotion of this size; somebody free always
-/// would.
+/// The same whatever they ask for.
+bool IsPopularEnough(const Worker& worker, int size);
+bool IsTooPopular(const Worker& worker, int size);
+/// Not popular enough yet, but near it.
+bool IsProspect(const Worker& worker, int size);
+/// Whether they would leave their employer for a promotion of this size; somebody free always would.
 bool IsOpenTo(const World& world, const Worker& worker, int size);
 
 /// A walk over everybody who is not with the rival, a draw of ten each: the best of those looked at
@@ -29,7 +33,10 @@ void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& 
 /// one that fails.
 void FitRoster(World& world, const Promotion& rival, Rosters& rosters);
 
-/// Contracts of the promotion's that have one month left are renewed by taste and budget or left to
+/// Whether it may go after people: it need not save, or its owner does not care.
+bool IsFreeToSpend(const World& world, const Promotion& promotion);
+
+/// Contracts of the promotion's that have one month left are renewed at the going rate or left to
 /// run out.
 void RenewContracts(World& world, const Promotion& promotion);
 

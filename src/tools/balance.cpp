@@ -5,7 +5,6 @@
 #include "business/finance.h"
 #include "business/sponsors.h"
 #include "calendar/events.h"
-#include "editor/datafolder.h"
 #include "records/fields/charset.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -28,43 +27,21 @@ struct SponsorPay {
   long long AnEvent = 0, ATvShow = 0, Of = 1;
 };
 
-/// Those who say yes to a player, at their mean in each place.
-SponsorPay WillingSponsors(const World& world, const Promotion& promotion) {
-  const int limit = SponsorPayLimit(promotion.Size, promotion.Image);
-  long long willing = 0;
+/// Those of a kind, at their mean in each place.
+template <class Kind>
+SponsorPay MeanSponsors(const World& world, Kind isOne) {
+  long long count = 0;
   SponsorPay sum;
   for (const Sponsor& sponsor : world.Sponsors()) {
-    if (!BearsRisk(sponsor, promotion.Risk) || sponsor.Pay >= limit) continue;
-    ++willing;
+    if (!isOne(sponsor)) continue;
+    ++count;
     sum.AnEvent += sponsor.Pay;
     sum.ATvShow +=
         SponsorPayForTv(sponsor, true) + SponsorPayForTv(sponsor, false) * (kSponsorPlaces - 1);
   }
-  sum.AnEvent *= std::min<long long>(willing, kSponsorPlaces);
-  sum.Of = std::max(willing, 1LL);
+  sum.AnEvent *= std::min<long long>(count, kSponsorPlaces);
+  sum.Of = std::max(count, 1LL);
   return sum;
-}
-
-/// Those who sit in its places.
-SponsorPay SignedSponsors(World& market, const Promotion& promotion) {
-  SponsorPay sum;
-  for (int place = 1; place <= kSponsorPlaces; ++place)
-    if (const Sponsor* sponsor = SponsorAt(market, promotion, place)) {
-      sum.AnEvent += sponsor->Pay;
-      sum.ATvShow += SponsorPayForTv(*sponsor, place == 1);
-    }
-  return sum;
-}
-
-/// The world after its first day: every place that a sponsor will have is taken, as rivals take it.
-World AfterSigning(const World& world) {
-  World market = TrialCopyOf(world);
-  for (Promotion& promotion : market.Promotions())
-    for (int place = 1; place <= kSponsorPlaces; ++place)
-      if (Sponsor* sponsor =
-              SponsorAt(market, promotion, place) ? nullptr : SponsorForRival(market, promotion))
-        SignSponsor(market, promotion, *sponsor, place);
-  return market;
 }
 
 /// The same promotion in the player's hands or its own.
@@ -81,20 +58,22 @@ Hands PlayersHands(const World& world, const Promotion& promotion) {
   std::vector<int> types;
   for (const Event& event : world.Events())
     if (event.Owner == promotion.Uid) types.push_back(event.Type);
-  return {promotion.Advertising, promotion.Merchandising,
-          promotion.Production,  WillingSponsors(world, promotion),
-          std::move(types),      0};
+  const auto saysYes = [&](const Sponsor& sponsor) {
+    return AnswerOf(sponsor, promotion) == SponsorAnswer::Accepts;
+  };
+  return {promotion.Advertising,        promotion.Merchandising, promotion.Production,
+          MeanSponsors(world, saysYes), std::move(types),        0};
 }
 
-/// `promotion` is one of the market's.
-Hands RivalsHands(World& market, const Promotion& promotion) {
+Hands RivalsHands(const World& world, const Promotion& promotion) {
   const RivalSpending spending = RivalSpendingFor(promotion.Size);
+  const auto fits = [&](const Sponsor& sponsor) { return FitsRival(sponsor, promotion); };
   return {TargetAdvertising(promotion.Size, promotion.Image),
           spending.Merchandising,
           spending.Production,
-          SignedSponsors(market, promotion),
+          MeanSponsors(world, fits),
           std::vector<int>(kMonths, NewEventType(promotion)),
-          HouseShowIncome(promotion, HouseShowCrews(market)[promotion.Uid])};
+          HouseShowIncome(promotion, HouseShowCrews(world)[promotion.Uid])};
 }
 
 /// Television shows in a year: the last Sunday of a month is an Event's.
@@ -171,12 +150,11 @@ two pairs of hands:
 - **Player**: with the advertising, merchandise, production and Events that it has on the first day, and four sponsors
   of mean pay out of those who say yes to a player. Who picks sponsors well does better.
 - **Rival**: with what a rival of its size and image spends as soon as its first show has been seen, an Event of its
-  standing every month, a house show every week where eight wrestlers are fit, and the sponsors that a
-  rival has after the first day: each takes the first in the world's list that are free and say yes, the promotion that is
-  first in the world before all others. Later months bring more: an image that rises, and sponsors who follow it.
+  standing every month, a house show every week where eight wrestlers are fit, and four sponsors of mean pay out of those
+  who are willing and pay as is usual for its class. There are not enough of them for everybody: some places stay empty.
 
 Wages are those of the first day in both. A rival's people move towards the band of its size and the going rate within
-the first months, and one in debt advertises half as much.
+the first months. One in debt does not advertise, and a rich one spends more.
 
 Dollars throughout. *Costs per 100* is what it costs to earn a hundred dollars: under 100 a promotion grows richer.
 )";
@@ -265,13 +243,11 @@ int MonthMoney::CostsPerHundred() const {
 }
 
 std::vector<PromotionBalance> BalanceOf(const World& world) {
-  World market = AfterSigning(world);
   std::vector<PromotionBalance> balances;
   for (const Promotion& promotion : world.Promotions())
-    balances.push_back(
-        {&promotion, CardOf(world, promotion),
-         MonthOf(world, promotion, PlayersHands(world, promotion)),
-         MonthOf(world, promotion, RivalsHands(market, *market.FindPromotion(promotion.Uid)))});
+    balances.push_back({&promotion, CardOf(world, promotion),
+                        MonthOf(world, promotion, PlayersHands(world, promotion)),
+                        MonthOf(world, promotion, RivalsHands(world, promotion))});
   return balances;
 }
 

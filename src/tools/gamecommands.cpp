@@ -130,7 +130,8 @@ void RequireGame(Game& game, int slot) {
 
 void TellEnd(const World& world, const CareerEnd& end, std::ostream& out) {
   std::vector<std::string> reasons;
-  for (const int reason : end.Reasons) reasons.push_back(std::to_string(reason));
+  for (const auto& [reason, on] : end.Reasons)
+    reasons.push_back(std::to_string(reason) + " on " + IsoDate(on));
   if (end.EndCode == 0 && !reasons.empty())
     out << "Dismissed on the way (reason " << Joined(reasons) << ").\n";
   const std::string days = Counted(end.Days, "day");
@@ -155,7 +156,7 @@ int Run(const Arguments& arguments, Shell& shell) {
   if (const auto path = arguments.Text("--stats")) stats.emplace(*disk, *path);
   const World& world = game.World();
   const auto dayPassed = [&](int day) {
-    if (stats && IsFirstOfMonth(world.Today())) stats->Add(MonthSummary(world));
+    if (stats && IsFirstOfMonth(world.Today())) stats->Add(world);
     if (shell.Terminal)
       shell.Errors << "\r" << IsoDate(world.Today()) << ", day " << day << " of " << days
                    << std::flush;

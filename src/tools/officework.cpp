@@ -16,6 +16,7 @@
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
 #include "rivals/staffmarket.h"
+#include "rivals/talenthunt.h"
 #include "rivals/tuning.h"
 #include "rivals/workermarket.h"
 
@@ -52,11 +53,24 @@ void SpendByStanding(Promotion& player) {
   player.Advertising = player.Money < 0 ? 0 : TargetAdvertising(player.Size, player.Image) / 2;
 }
 
+/// The promotion as it will be where a rise is near: whoever looks for people then looks for those
+/// who will be needed up there.
+Promotion AsSoon(const Promotion& player) {
+  constexpr int kRiseIsNear = 75;
+  Promotion soon = player;
+  if (player.Size != kGlobal && player.Image >= kRiseIsNear) soon.Size -= 1;
+  return soon;
+}
+
 /// Whoever has to save lets the roster shrink to half of what a rival would have.
-bool MaySign(const World& world) {
-  const Promotion& player = world.Player();
-  return PurseOf(player) != Purse::Saving ||
-         Rosters(world).Of(player.Uid) * 2 < BySize(tuning::kRosters, player.Size).Least;
+void Recruit(World& world, const Promotion& as) {
+  constexpr int kTalksAWeek = 2;
+  Rosters rosters(world);
+  const bool saves = PurseOf(as) == Purse::Saving;
+  const int least = BySize(tuning::kRosters, as.Size).Least;
+  if (!saves) GoAfterTalent(world, as, kTalksAWeek, rosters);
+  if (!saves || rosters.Of(as.Uid) * 2 < least) FitRoster(world, as, rosters);
+  if (!saves) SignProspects(world, as, tuning::kProspectsAWeek, rosters);
 }
 
 /// "CWA Friday", or "CWA Friday 2" where that is taken.
@@ -130,11 +144,9 @@ void WorkInTheOffice(World& world) {
     SpendByStanding(world.Player());
   }
   if (!IsMonday(world.Today())) return;
-  if (MaySign(world)) {
-    Rosters rosters(world);
-    FitRoster(world, world.Player(), rosters);
-  }
-  FitPosts(world, world.Player(), Posts(world));
+  const Promotion soon = AsSoon(world.Player());
+  Recruit(world, soon);
+  FitPosts(world, soon, Posts(world));
 }
 
 void WorkOnTelevision(World& world) {
@@ -170,7 +182,7 @@ CareerEnd PlayDays(Game& game, int days, Shows shows, const std::function<void(i
     PlayDay(world, shows);
     ++end.Days;
     end.EndCode = EndCodeOf(world);
-    if (end.EndCode != 0) end.Reasons.push_back(end.EndCode);
+    if (end.EndCode != 0) end.Reasons.emplace_back(end.EndCode, world.Today());
     if (end.EndCode != 0 && after == AfterTheEnd::AnotherJob && TakeAnotherJob(world))
       end.EndCode = 0;
     game.Commit();

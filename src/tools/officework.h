@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <iosfwd>
+#include <utility>
 #include <vector>
 
 #include "calendar/advanceday.h"
@@ -12,7 +13,8 @@ namespace grapplemont::tools {
 
 /// What a sensible player does beside the shows, once a day: fills the sponsors' places, looks
 /// after television, keeps the contracts of those they need, the roster and the posts as full as a
-/// rival's, and spends by the promotion's standing, less when in debt.
+/// rival's (where a rise is near, as those of the class above), and spends by the promotion's
+/// standing, less when in debt.
 void WorkInTheOffice(World& world);
 
 /// What a sensible player does for their place on television, once a day: takes what networks
@@ -34,9 +36,10 @@ class EmptyDesk : public ui::Desk {
 
 /// How far a career went.
 struct CareerEnd {
-  int Days = 0;              // that passed
-  int EndCode = 0;           // 1 to 9: why it is over; 0: it goes on
-  std::vector<int> Reasons;  // the EndCode of each end on the way
+  int Days = 0;     // that passed
+  int EndCode = 0;  // 1 to 9: why it is over; 0: it goes on
+  /// The EndCode of each end on the way, and its day.
+  std::vector<std::pair<int, Day>> Reasons;
 };
 
 /// 1 to 9: why the career is over; 0: it goes on.

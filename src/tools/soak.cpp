@@ -61,15 +61,17 @@ int ShowsOnAir(const World& world) {
 /// Titles of living promotions, and how many reigns have begun since the day; a vacancy does not
 /// count.
 Json TitleCounts(const World& world, Day since) {
-  int all = 0, held = 0, won = 0;
+  int all = 0, held = 0, won = 0, tag = 0, tagVacant = 0;
   for (const Title& title : world.Titles()) {
     if (title.Owner <= 0) continue;
     ++all;
     held += title.Holder != 0;
+    tag += !title.Singles;
+    tagVacant += !title.Singles && title.Holder == 0;
     for (const Reign& reign : title.Reigns)
       won += Day(reign.Won) >= since && !(reign.Holder == kVacantHolder);
   }
-  return {{"all", all}, {"held", held}, {"won", won}};
+  return {{"all", all}, {"held", held}, {"won", won}, {"tag", tag}, {"tagVacant", tagVacant}};
 }
 
 Json PlayerState(const World& world) {
@@ -173,7 +175,9 @@ constexpr OptionKind kSoakOptions[] = {{"--seeds", "N"}, {"--days", "D"}};
 
 }  // namespace
 
-std::string MonthSummary(const World& world) {
+namespace {
+
+Json SummaryOf(const World& world) {
   return Json{{"date", IsoDate(world.Today())},
               {"economy", int(world.Game().Economy)},
               {"promotions", PromotionsBySize(world)},
@@ -181,16 +185,22 @@ std::string MonthSummary(const World& world) {
               {"shows", ShowsOnAir(world)},
               {"titles", TitleCounts(world, MonthBefore(world.Today()))},
               {"player", PlayerState(world)},
-              {"mails", world.News().Count()}}
-      .dump();
+              {"mails", world.News().Count()},
+              {"people", PeopleFigures(world)},
+              {"money", MoneyFigures(world)}};
 }
+
+}  // namespace
 
 StatsFile::StatsFile(Disk& disk, const std::string& path) : disk_(disk), file_(disk, path, true) {
   disk_.Resize(file_, 0);
 }
 
-void StatsFile::Add(const std::string& line) {
-  const std::string text = line + "\n";
+void StatsFile::Add(const World& world) {
+  watch_.Look(world);
+  Json month = SummaryOf(world);
+  month["since"] = watch_.Figures();
+  const std::string text = month.dump() + "\n";
   disk_.WriteAt(file_, end_, std::as_bytes(std::span(text)));
   end_ += static_cast<std::int64_t>(text.size());
 }

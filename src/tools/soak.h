@@ -4,32 +4,34 @@
 #include <string>
 
 #include "records/world.h"
+#include "tools/worldwatch.h"
 
 namespace grapplemont::tools {
-
-/// How the world stands at the beginning of a month, as one JSON object:
-/// {"date":"2026-04-01","economy":58,
-///  "promotions":{"Global":2,"National":3,"Cult":4,"Regional":4,"Small":3,"Backyard":2,"all":18},
-///  "workers":{"employed":412,"free":338,"meanOver":51.25},
-///  "shows":14,"titles":{"all":64,"held":61,"won":9},
-///  "player":{"promotion":"CWA","size":"Cult","image":52,"money":1250000,"reputation":80},
-///  "mails":17}
-/// "meanOver" is of the employed, to two places; null when nobody is. "shows" are those on
-/// television; "won" counts the reigns that began since the first of the month before. "player" is
-/// null when their promotion is gone.
-std::string MonthSummary(const World& world);
 
 /// A file of summaries, one a line, that grows month by month.
 class StatsFile {
  public:
   /// Begins a new file.
   StatsFile(Disk& disk, const std::string& path);
-  void Add(const std::string& line);
+  /// How the world stands at the beginning of a month, as one JSON object; those of all months, in
+  /// their order:
+  /// {"date":"2026-04-01","economy":58,
+  ///  "promotions":{"Global":2,"National":3,"Cult":4,"Regional":4,"Small":3,"Backyard":2,"all":18},
+  ///  "workers":{"employed":412,"free":338,"meanOver":51.25},
+  ///  "shows":14,"titles":{"all":64,"held":61,"won":9,"tag":12,"tagVacant":1},
+  ///  "player":{"promotion":"CWA","size":"Cult","image":52,"money":1250000,"reputation":80},
+  ///  "mails":17,"people":{...},"money":{...},"since":{...}}
+  /// "meanOver" is of the employed, to two places; null when nobody is. "shows" are those on
+  /// television; "won" counts the reigns that began since the first of the month before,
+  /// "tagVacant" the Titles of teams that nobody holds. "player" is null when their promotion is
+  /// gone. The last three are of worldwatch.h, "since" from the first of these lines on.
+  void Add(const World& world);
 
  private:
   Disk& disk_;
   OpenedFile file_;
   std::int64_t end_ = 0;
+  WorldWatch watch_;
 };
 
 }  // namespace grapplemont::tools

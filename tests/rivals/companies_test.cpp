@@ -87,9 +87,12 @@ TEST(RosterSizeReview, SignsSomebodyWhileItSpends) {
     free.Employer = 0;
     free.Over = 15;
     world.Workers().Append(free);
+    for (Worker& worker : world.Workers()) worker.Wage = 1;
     if (row.Spends) MakeSpending(world);
-    ScriptDraws(world,
-                row.Signs ? std::vector<ScriptedDraw>{{10, 1}} : std::vector<ScriptedDraw>{});
+    world.SetLife(std::make_unique<ScriptedDraws>(
+        row.Signs ? std::vector<ScriptedDraw>{{tuning::kTalksFor1, 1}}
+                  : std::vector<ScriptedDraw>{}));
+    ScriptDraws(world, std::vector<int>{});
     RosterSizeReview(world);
     EXPECT_EQ(world.FindWorker(90)->Employer, row.Signs ? 2 : 0);
   }
@@ -123,11 +126,9 @@ TEST(RivalContractRenewals, KeepAllButTheLeastWantedTheOutgrownAndTheRetiring) {
         const Worker& worker = Named(world.Workers(), "Hand " + std::to_string(i));
         const bool stays = i > 3 && i < 18;
         EXPECT_EQ(worker.ContractMonths, stays ? 13 : i == 18 ? 2 : 1) << i;
-        EXPECT_EQ(worker.Wage, !stays       ? wage
-                               : wage == 20 ? (20 + 9 + 1) / 2
-                               : saves      ? 3
-                                            : (3 + 9 + 1) / 2)
-            << i;
+        const int renewed = wage == 20 ? (20 + 9 + 1) / 2 : saves ? 3 : 9;
+        const int runningOn = wage == 3 && !saves ? 3 + 1 : wage;
+        EXPECT_EQ(worker.Wage, stays ? renewed : i == 18 ? runningOn : wage) << i;
         EXPECT_EQ(worker.ContractType.Str(), stays ? "Non" : "Wri") << i;
       }
     }

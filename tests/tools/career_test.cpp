@@ -13,6 +13,7 @@
 #include "records/checks/checkworld.h"
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
+#include "rivals/rivals.h"
 #include "session/newgame.h"
 #include "show/holdshow.h"
 #include "show/recap.h"
@@ -266,13 +267,28 @@ TEST(Careers, GoesOnElsewhereWhereAnotherJobIsWanted) {
                          .Game("CWA", year{2026} / 3 / 31));
     const auto end = PlayDays(
         play.Play, 40, Shows::Cancel, [](int) {}, after);
-    EXPECT_EQ(end.Reasons, std::vector{2});
+    const Day ended{year{2026} / 4 / 1};
+    EXPECT_EQ(end.Reasons, (std::vector{std::pair(2, ended)}));
     const bool goesOn = after == tools::AfterTheEnd::AnotherJob;
     EXPECT_EQ(end.EndCode, goesOn ? 0 : 2);
     EXPECT_EQ(end.Days, goesOn ? 40 : 1);
     EXPECT_EQ(play.World().Player().Initials.Str(), goesOn ? "XWF" : "CWA");
     EXPECT_EQ(play.World().Game().Jobs[1].Promotion.Str(), goesOn ? "CWA Wrestling" : "None");
     ExpectSound(play.World());
+  }
+}
+
+TEST(Careers, LookForTheClassAboveWhereARiseIsNear) {
+  for (const bool near : {false, true}) {
+    World world = SmallWorld()
+                      .Promotion("CWA", kRegional, [&](Promotion& p) { p.Image = near ? 75 : 74; })
+                      .Crew(17)
+                      .OnTheMarket()
+                      .Worker("Star", kMainEvent, 65)
+                      .Game("CWA", year{2026} / 3 / 2);
+    for (int week = 0; week < 50; ++week) tools::WorkInTheOffice(world);
+    EXPECT_EQ(Named(world.Workers(), "Star").Employer, near ? 1 : 0);
+    EXPECT_EQ(Rosters(world).Of(1), near ? 18 : 17);
   }
 }
 
