@@ -6,6 +6,7 @@
 #include "business/sponsors.h"
 #include "business/tvtalks.h"
 #include "calendar/awards.h"
+#include "calendar/board.h"
 #include "calendar/events.h"
 #include "calendar/incidents.h"
 #include "records/fields/fields.h"
@@ -46,8 +47,8 @@ constexpr Step kFirstOfMonth[] = {
 };
 
 constexpr Step kClosing[] = {
-    STEP(IncidentRoll), STEP(SweepDeadPromotions), STEP(SweepDeadShows),
-    STEP(UpdateReigns), STEP(GiveAwards),          STEP(NoteMonths),
+    STEP(IncidentRoll), STEP(SweepDeadPromotions), STEP(SweepDeadShows), STEP(UpdateReigns),
+    STEP(GiveAwards),   STEP(NoteMonths),          STEP(BoardWarning),
 };
 
 #undef STEP

@@ -65,6 +65,7 @@ namespace grapplemont {
   SCREEN(frmOptions)         \
   SCREEN(frmUser)            \
   SCREEN(frmTalk)            \
+  SCREEN(frmProspect)        \
   SCREEN(frmInternet)        \
   SCREEN(frmGlossary)        \
   SCREEN(frmEditMaintain)    \

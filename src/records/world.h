@@ -108,6 +108,9 @@ class World {
   /// One record where the game has a key, else none.
   Records<WorldKey>& Keys() { return Of<WorldKey>(); }
   const Records<WorldKey>& Keys() const { return Of<WorldKey>(); }
+  /// One record once the board has said something, else none.
+  Records<BoardState>& Boards() { return Of<BoardState>(); }
+  const Records<BoardState>& Boards() const { return Of<BoardState>(); }
   /// How everybody stood on the firsts of twelve months, a record a worker.
   Records<WorkerMonths>& Months() { return Of<WorkerMonths>(); }
   const Records<WorkerMonths>& Months() const { return Of<WorkerMonths>(); }
