@@ -111,6 +111,9 @@ class World {
   /// One record once the board has said something, else none.
   Records<BoardState>& Boards() { return Of<BoardState>(); }
   const Records<BoardState>& Boards() const { return Of<BoardState>(); }
+  /// What the owners have wished, oldest first.
+  Records<OwnerWish>& Wishes() { return Of<OwnerWish>(); }
+  const Records<OwnerWish>& Wishes() const { return Of<OwnerWish>(); }
   /// How everybody stood on the firsts of twelve months, a record a worker.
   Records<WorkerMonths>& Months() { return Of<WorkerMonths>(); }
   const Records<WorkerMonths>& Months() const { return Of<WorkerMonths>(); }

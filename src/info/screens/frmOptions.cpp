@@ -1,3 +1,6 @@
+#include <algorithm>
+
+#include "calendar/wishes.h"
 #include "info/mailbox.h"
 #include "info/results.h"
 #include "info/screens/infotables.h"
@@ -171,15 +174,51 @@ const CellColumns<JobLine> kJobs = {
     {{"Image after", K::Number, 1, "Today's for the present job."},
      [](const JobLine& job) { return job.EndImage; }}};
 
+struct ShownWish {
+  const World* In;
+  const OwnerWish* Is;
+};
+
+/// How a wish stands, in a word and its colour.
+ui::Cell WishStateCell(const ShownWish& wish) {
+  switch (int(wish.Is->State)) {
+    case kWishGranted:
+      return {"Fulfilled", ui::Tone::Green};
+    case kWishMissed:
+      return {"Missed", ui::Tone::Red};
+    case kWishDropped:
+      return {"Dropped", ui::Tone::Muted};
+    default:
+      return IsGranted(*wish.In, *wish.Is) ? ui::Cell("As wished", ui::Tone::Gold)
+                                           : ui::Cell("Open", ui::Tone::Gold);
+  }
+}
+
+const CellColumns<ShownWish> kWishTable = {
+    {{"Year", K::Number, 1}, [](const ShownWish& wish) { return YearOf(wish.Is->From); }},
+    {{"Wish", K::Text, 6}, [](const ShownWish& wish) { return WishText(*wish.Is); }},
+    {{"So far", K::Text, 3, "Or what it came to."},
+     [](const ShownWish& wish) {
+       return wish.Is->State == kWishDropped ? "" : WishProgress(*wish.In, *wish.Is);
+     }},
+    {{"Stands", K::Tag, 2}, WishStateCell}};
+
 /// The player's career.
 class frmUser : public GameScreen {
  public:
-  explicit frmUser(Game& game) : GameScreen(game, "frmUser", "Career") {}
+  explicit frmUser(Game& game) : GameScreen(game, "frmUser", "Career") {
+    lstwishes.EmptyText =
+        "No wishes yet. An owner tells three when a job or a year begins, and judges them on 31 "
+        "December.";
+  }
 
   ui::Page Layout() override {
-    return PageOf(ui::Columns({ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow(5),
-                               ui::Group("", {ui::Grow(txtuser)}).Grow(2)}),
-                  &lblfacts);
+    return PageOf(
+        ui::Columns({ui::Rows({ui::Group("What the owner wishes", {ui::Grow(lstwishes)}).Grow(),
+                               ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow()})
+                         .Grow(5),
+                     ui::Group("", {ui::Grow(txtuser)}).Grow(2)}),
+        &lblfacts);
   }
 
   void Return() override {
@@ -187,6 +226,7 @@ class frmUser : public GameScreen {
     lblfacts.Text = info.PlayerName + ", " + std::string(Says(kDifficulties, info.Difficulty)) +
                     ", since " + PlainDate(info.StartDate) + ".";
     lstjobs.Fill(NumberedRows(kJobs, CareerOf(world())));
+    ShowWishes();
     ShowRecord();
   }
 
@@ -208,12 +248,24 @@ class frmUser : public GameScreen {
     return lines;
   }
 
+  /// The latest year first.
+  void ShowWishes() {
+    std::vector<ShownWish> wishes;
+    for (int number = world().Wishes().Count(); number >= 1; --number)
+      wishes.push_back({&world(), &world().Wishes()[number]});
+    std::ranges::stable_sort(wishes, [](const ShownWish& a, const ShownWish& b) {
+      return YearOf(a.Is->From) > YearOf(b.Is->From);
+    });
+    lstwishes.Fill(NumberedRows(kWishTable, wishes));
+  }
+
   void ShowRecord() {
     using Style = ui::Report::Style;
     const GameInfo& info = world().Game();
     std::vector<ui::Report::Paragraph> words = {
         {Style::Heading, info.PlayerName.Str()},
         {Style::Line, ReputationText(info.Reputation) + "."},
+        {Style::Line, TrustLine(world())},
         {Style::Strong, "The present job"}};
     for (const std::string& line : LinesOf(RecordOfJob(world())))
       words.push_back({Style::Line, line});
@@ -222,6 +274,7 @@ class frmUser : public GameScreen {
 
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstjobs{*this, "lstjobs", HeadingsOf(kJobs)};
+  ui::ListBox lstwishes{*this, "lstwishes", HeadingsOf(kWishTable)};
   ui::Report txtuser{*this, "txtuser"};
 };
 

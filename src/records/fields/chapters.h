@@ -14,4 +14,43 @@ struct BoardState {
 };
 GM_RECORD(BoardState, 8);
 
+/// OwnerWish.Kind.
+enum WishKind {
+  kWishNewStars = 1,
+  kWishDefendWomens,
+  kWishDefendTitle,
+  kWishFewTalks,
+  kWishProfit,
+  kWishYoungChampion,
+  kWishBestShow,
+  kWishGoodShows,
+  kWishStanding,
+  kWishEvents,
+  kWishSponsors,
+  kWishSavings,
+  kWishWomensMatches,
+  kWishFeudMatches,
+  kWishOnAir,
+  kWishTamerProduct
+};
+
+/// OwnerWish.State.
+enum WishState { kWishOpen = 0, kWishGranted, kWishMissed, kWishDropped };
+
+/// Something that the owner of the player's promotion wishes of a year: a record of wishes.dat,
+/// appended and judged once.
+struct OwnerWish {
+  Date From;       // the day it was told
+  Date Until;      // the day it is judged
+  Word Promotion;  // uid; the promotion may be gone
+  Word Kind;
+  RangedLong<0, kMostDollars> Target;  // in the unit of the kind: times, percent, dollars, years
+  RangedLong<0, kMostDollars> Base;    // what it is compared with
+  RangedWord<0, 32767> Slips;          // what is counted day by day
+  Cash Came;                           // what it came to, once it has been judged
+  Word State;
+  Text<20> About;  // the Title that it is about
+};
+GM_RECORD(OwnerWish, 56);
+
 }  // namespace grapplemont

@@ -103,7 +103,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<ShowNote>("mornings.csv", true),
           Kind<ReadMail>("mailread.csv", true),
           Kind<WorldKey>("worldkeys.csv", true),
-          Kind<BoardState>("boards.csv", true)};
+          Kind<BoardState>("boards.csv", true),
+          Kind<OwnerWish>("wishes.csv", true)};
 }
 
 }  // namespace
