@@ -53,6 +53,7 @@ namespace grapplemont {
   SCREEN(frmOtherFed)        \
   SCREEN(frmTheEnd)          \
   SCREEN(frmPinky)           \
+  SCREEN(frmPlayOn)          \
   SCREEN(frmMainScreen)      \
   SCREEN(frmEvent)           \
   SCREEN(frmIncident)        \

@@ -39,7 +39,8 @@ inline constexpr const char* kInGame[] = {
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
     "frmReigns",     "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
-    "frmMorning",    "frmInternet",     "frmGlossary",   "frmDrafts",    "frmProspect"};
+    "frmMorning",    "frmInternet",     "frmGlossary",   "frmDrafts",    "frmProspect",
+    "frmPlayOn"};
 
 /// Those that come before one, and the editor's.
 inline constexpr const char* kBeforeGame[] = {

@@ -218,7 +218,7 @@ class frmUser : public GameScreen {
                                ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow()})
                          .Grow(5),
                      ui::Group("", {ui::Grow(txtuser)}).Grow(2)}),
-        &lblfacts);
+        &lblfacts, {}, HasEnded(world().Game()) ? &cmdplayon : nullptr);
   }
 
   void Return() override {
@@ -226,6 +226,7 @@ class frmUser : public GameScreen {
     lblfacts.Text = info.PlayerName + ", " + std::string(Says(kDifficulties, info.Difficulty)) +
                     ", since " + PlainDate(info.StartDate) + ".";
     lstjobs.Fill(NumberedRows(kJobs, CareerOf(world())));
+    cmdplayon.Visible = HasEnded(info);
     ShowWishes();
     ShowRecord();
   }
@@ -276,6 +277,7 @@ class frmUser : public GameScreen {
   ui::ListBox lstjobs{*this, "lstjobs", HeadingsOf(kJobs)};
   ui::ListBox lstwishes{*this, "lstwishes", HeadingsOf(kWishTable)};
   ui::Report txtuser{*this, "txtuser"};
+  ui::Button cmdplayon{*this, "cmdplayon", "Play On", [this] { desk().Open("frmPlayOn"); }};
 };
 
 }  // namespace
