@@ -24,7 +24,7 @@ namespace {
 
 constexpr std::uint64_t kTrial = 1;
 constexpr int kFullImage = 100;
-constexpr int kYear = 12;
+constexpr int kYearOfWages = 12;
 constexpr std::size_t kRecruits = 12;
 
 /// The world after the rise or the fall, with an Event in every month.
@@ -95,7 +95,8 @@ std::vector<RecruitThere> RecruitsOf(const World& there) {
   std::vector<RecruitThere> recruits;
   for (const Worker* worker : better) {
     const Demands wants = ContractDemands(there, *worker);
-    if (wants.Wage * 1000LL * kYear <= player.Money) recruits.push_back({worker->Uid, wants});
+    if (wants.Wage * 1000LL * kYearOfWages <= player.Money)
+      recruits.push_back({worker->Uid, wants});
     if (recruits.size() == kRecruits) break;
   }
   return recruits;

@@ -67,6 +67,7 @@ namespace grapplemont {
   SCREEN(frmUser)            \
   SCREEN(frmTalk)            \
   SCREEN(frmProspect)        \
+  SCREEN(frmMonth)           \
   SCREEN(frmInternet)        \
   SCREEN(frmGlossary)        \
   SCREEN(frmEditMaintain)    \

@@ -8,6 +8,11 @@ constexpr Field kBoardFields[] = {
     GM_FIELD(BoardState, Warned).Means("The day of the board's last warning of a fall."),
 };
 
+constexpr Field kPlanFields[] = {
+    GM_FIELD(MonthPlan, Month).Means("The first of the month."),
+    GM_NUMBERED(MonthPlan, Done).Means("The venture has been made this month."),
+};
+
 constexpr Term kWishKinds[] = {{kWishNewStars, "", "New main-eventers"},
                                {kWishDefendWomens, "", "Defend a women's Title at Events"},
                                {kWishDefendTitle, "", "Defend a Title at Events"},
@@ -48,6 +53,7 @@ constexpr Field kWishFields[] = {
 }  // namespace
 
 GM_LAYOUT(BoardState, "board.dat", 1, kBoardFields)
+GM_LAYOUT(MonthPlan, "monthplan.dat", 1, kPlanFields)
 GM_LAYOUT(OwnerWish, "wishes.dat", 900, kWishFields)
 
 }  // namespace grapplemont

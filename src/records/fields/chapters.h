@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "records/fields/field.h"
 #include "records/fields/vocabulary.h"
 
@@ -13,6 +15,13 @@ struct BoardState {
   Date Warned;  // the last warning of a fall
 };
 GM_RECORD(BoardState, 8);
+
+/// What a small promotion has done with its month: the one record of monthplan.dat.
+struct MonthPlan {
+  Date Month;                // its first
+  std::array<Flag, 8> Done;  // by the ventures of the page
+};
+GM_RECORD(MonthPlan, 24);
 
 /// OwnerWish.Kind.
 enum WishKind {

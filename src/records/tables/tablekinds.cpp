@@ -104,7 +104,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<ReadMail>("mailread.csv", true),
           Kind<WorldKey>("worldkeys.csv", true),
           Kind<BoardState>("boards.csv", true),
-          Kind<OwnerWish>("wishes.csv", true)};
+          Kind<OwnerWish>("wishes.csv", true),
+          Kind<MonthPlan>("monthplans.csv", true)};
 }
 
 }  // namespace
