@@ -8,6 +8,7 @@
 #include "calendar/incidents.h"
 #include "calendar/wishkinds.h"
 #include "records/fields/wording.h"
+#include "records/houserules.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
@@ -128,6 +129,7 @@ void JudgeTheYear(World& world) {
   }
   AddNews(world, VoiceOfBoard(world), Verdict(count, open.size()) + " Your career has the list.");
   if (count == kWishesAYear) OfferFromAbove(world);
+  if (count == 0 && Holds(world, HouseRule::HarderBoards)) world.Game().EndCode = kEndBoard;
 }
 
 // The year's beginning.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/houserules.h"
 #include "records/modVar.h"
 #include "records/severing.h"
 #include "roster/postings.h"
@@ -148,6 +149,7 @@ void LeaveFormer(World& world, const Worker& worker) {
 
 std::string WhyNoSigning(const World& world, const Worker& worker) {
   const int size = world.Player().Size;
+  if (std::string why = WhyNotInThisHouse(world, worker); !why.empty()) return why;
   if (worker.Loyalty < 40) return kNotAtAll.Of(worker);
   if (std::string why = WhyStays(world, worker, size); !why.empty()) return why;
   return IsTooBig(size, worker.Over) ? kTooSmall.Of(worker) : "";

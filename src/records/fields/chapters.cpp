@@ -8,6 +8,12 @@ constexpr Field kBoardFields[] = {
     GM_FIELD(BoardState, Warned).Means("The day of the board's last warning of a fall."),
 };
 
+constexpr Field kHouseFields[] = {
+    GM_NUMBERED(HouseRules, On)
+        .Means("The rule holds: 1 the economy cycles, 2 one talk a show, 3 homegrown only, 4 women "
+               "only, 5 no auto booker, 6 harder boards."),
+};
+
 constexpr Field kPlanFields[] = {
     GM_FIELD(MonthPlan, Month).Means("The first of the month."),
     GM_NUMBERED(MonthPlan, Done).Means("The venture has been made this month."),
@@ -53,6 +59,7 @@ constexpr Field kWishFields[] = {
 }  // namespace
 
 GM_LAYOUT(BoardState, "board.dat", 1, kBoardFields)
+GM_LAYOUT(HouseRules, "houserules.dat", 1, kHouseFields)
 GM_LAYOUT(MonthPlan, "monthplan.dat", 1, kPlanFields)
 GM_LAYOUT(OwnerWish, "wishes.dat", 900, kWishFields)
 

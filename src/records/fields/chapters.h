@@ -16,6 +16,13 @@ struct BoardState {
 };
 GM_RECORD(BoardState, 8);
 
+/// The rules of the house, as they were chosen with the game: the one record of houserules.dat. A
+/// game without any has none.
+struct HouseRules {
+  std::array<Flag, 8> On;  // by HouseRule
+};
+GM_RECORD(HouseRules, 16);
+
 /// What a small promotion has done with its month: the one record of monthplan.dat.
 struct MonthPlan {
   Date Month;                // its first

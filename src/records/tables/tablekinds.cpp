@@ -105,7 +105,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<WorldKey>("worldkeys.csv", true),
           Kind<BoardState>("boards.csv", true),
           Kind<OwnerWish>("wishes.csv", true),
-          Kind<MonthPlan>("monthplans.csv", true)};
+          Kind<MonthPlan>("monthplans.csv", true),
+          Kind<HouseRules>("houserules.csv", true)};
 }
 
 }  // namespace
