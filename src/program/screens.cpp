@@ -75,6 +75,7 @@ namespace grapplemont {
   SCREEN(frmEditImport)      \
   SCREEN(frmEditTables)      \
   SCREEN(frmEditor)          \
+  SCREEN(frmGodMode)         \
   SCREEN(frmTitleScreen)     \
   SCREEN(frmDisclaimer)      \
   SCREEN(frmGameMenu)        \

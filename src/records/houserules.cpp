@@ -19,7 +19,11 @@ constexpr HouseRuleRow kHouseRuleRows[] = {
      "is signed."},
     {HouseRule::NoAutoBooker, "no auto booker", "Every row is booked by hand."},
     {HouseRule::HarderBoards, "harder boards",
-     "A year without one wish fulfilled ends the career, and so does every fall of class."}};
+     "A year without one wish fulfilled ends the career, and so does every fall of class."},
+    {HouseRule::GodMode, "god mode",
+     "God Mode, under Options, changes any record of the running game. Whatever is changed marks "
+     "the "
+     "game for good."}};
 
 }  // namespace
 
@@ -40,6 +44,7 @@ std::string HouseRulesText(const HouseRules& rules) {
   std::string text;
   for (const HouseRuleRow& row : kHouseRuleRows)
     if (Holds(rules, row.Is)) text += (text.empty() ? "" : ", ") + std::string(row.Name);
+  if (rules.Edited) text += (text.empty() ? "" : ", ") + std::string("changed by hand");
   return text;
 }
 

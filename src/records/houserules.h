@@ -11,7 +11,15 @@
 namespace grapplemont {
 
 /// In the order of HouseRules.On.
-enum class HouseRule { EconomyCycles, OneTalk, Homegrown, WomenOnly, NoAutoBooker, HarderBoards };
+enum class HouseRule {
+  EconomyCycles,
+  OneTalk,
+  Homegrown,
+  WomenOnly,
+  NoAutoBooker,
+  HarderBoards,
+  GodMode
+};
 
 struct HouseRuleRow {
   HouseRule Is;
@@ -22,7 +30,7 @@ std::span<const HouseRuleRow> AllHouseRules();
 
 bool Holds(const HouseRules& rules, HouseRule rule);
 bool Holds(const World& world, HouseRule rule);
-/// "women only, harder boards"; empty for none.
+/// "women only, harder boards"; empty for none. A game that has been changed by hand says so.
 std::string HouseRulesText(const HouseRules& rules);
 
 /// Why the house's rules keep the player from signing somebody of others or of nobody; empty when

@@ -40,7 +40,7 @@ inline constexpr const char* kInGame[] = {
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
     "frmReigns",     "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
     "frmMorning",    "frmInternet",     "frmGlossary",   "frmDrafts",    "frmProspect",
-    "frmPlayOn",     "frmMonth"};
+    "frmPlayOn",     "frmMonth",        "frmGodMode"};
 
 /// Those that come before one, and the editor's.
 inline constexpr const char* kBeforeGame[] = {

@@ -8,6 +8,7 @@
 #include "calendar/wishes.h"
 #include "roster/signing.h"
 #include "session/newgame.h"
+#include "support/gameonworld.h"
 #include "support/homefolder.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -127,6 +128,30 @@ TEST(HouseRules, OneTalkAShowKeepsTheSheetShutAndNoAutoBookerTakesTheButton) {
   EXPECT_FALSE(MayStart(world, false));
   SetRule(world, HouseRule::NoAutoBooker);
   EXPECT_EQ(WhyNoAutoBooker(world), "A rule of the house: every row is booked by hand.");
+}
+
+TEST(GodMode, ChangesTheRunningGameAndMarksItForGood) {
+  World world = SmallWorld().Promotion("CWA", kCult).Crew(3).Game("CWA");
+  GameOnWorld play(std::move(world));
+  play.Desk.Open("frmOptions");
+  EXPECT_FALSE(play.Desk.Visible("cmdgod"));
+  SetRule(play.World(), HouseRule::GodMode);
+  play.Play.Commit();
+  play.Desk.Click("cmddone");
+  play.Desk.Open("frmOptions");
+  play.Desk.Click("cmdgod");
+  play.Desk.Pick("lstrecords", 2);
+  play.Desk.Pick("lstfields", "Over");
+  play.Desk.Type("txtvalue", "101");
+  play.Desk.ExpectSay("Error!", kAnyText);
+  play.Desk.Click("cmdset");
+  EXPECT_FALSE(play.World().Of<HouseRules>()[1].Edited);
+  play.Desk.Type("txtvalue", "91");
+  play.Desk.Click("cmdset");
+  EXPECT_EQ(play.World().Workers()[2].Over, 91);
+  play.Desk.Pick("lstfields", "Uid");
+  EXPECT_FALSE(play.Desk.Enabled("cmdset"));
+  EXPECT_EQ(HouseRulesText(play.World().Of<HouseRules>()[1]), "god mode, changed by hand");
 }
 
 TEST(HouseRules, HarderBoardsForgiveNeitherAFallNorAYearOfMissedWishes) {

@@ -5,6 +5,7 @@
 #include "info/results.h"
 #include "info/screens/infotables.h"
 #include "records/fields/wording.h"
+#include "records/houserules.h"
 #include "records/modVar.h"
 #include "ui/game.h"
 
@@ -50,10 +51,11 @@ class frmOptions : public GameScreen {
                   ui::Group("While time passes", {ui::Field("Loading screens", cmbload), cmdview}),
                   ui::Spacer()})
                  .Grow(2)}),
-        &lblfacts);
+        &lblfacts, {&cmdgod});
   }
 
   void Return() override {
+    cmdgod.Visible = Holds(world(), HouseRule::GodMode);
     for (int number = 1; number <= kOptions; ++number) {
       const MailOption& option = OptionOf(number);
       const int choice = state().*option.Choice;
@@ -90,6 +92,7 @@ class frmOptions : public GameScreen {
                        [this] { SetAll(kMailRivals); }};
   ui::Button cmdnever{*this, "cmdnever", "Never", [this] { SetAll(kMailNever); }};
   ui::Button cmdview{*this, "cmdview", "View", [this] { desk().Open("frmLoadingScreens"); }};
+  ui::Button cmdgod{*this, "cmdgod", "God Mode", [this] { desk().Open("frmGodMode"); }};
 };
 
 /// The player's own notes. What is typed is on disk with the same stroke, so that no way of closing

@@ -20,8 +20,9 @@ GM_RECORD(BoardState, 8);
 /// game without any has none.
 struct HouseRules {
   std::array<Flag, 8> On;  // by HouseRule
+  Flag Edited;             // the running game has been changed by hand
 };
-GM_RECORD(HouseRules, 16);
+GM_RECORD(HouseRules, 18);
 
 /// What a small promotion has done with its month: the one record of monthplan.dat.
 struct MonthPlan {
