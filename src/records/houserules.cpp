@@ -22,8 +22,10 @@ constexpr HouseRuleRow kHouseRuleRows[] = {
      "A year without one wish fulfilled ends the career, and so does every fall of class."},
     {HouseRule::GodMode, "god mode",
      "God Mode, under Options, changes any record of the running game. Whatever is changed marks "
-     "the "
-     "game for good."}};
+     "the game for good."},
+    {HouseRule::RandomWorld, "random world",
+     "Promotions, Titles, shows, workers and staff have other names, bodies and gifts than in the "
+     "default world, invented for this game."}};
 
 }  // namespace
 

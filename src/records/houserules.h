@@ -18,7 +18,8 @@ enum class HouseRule {
   WomenOnly,
   NoAutoBooker,
   HarderBoards,
-  GodMode
+  GodMode,
+  RandomWorld
 };
 
 struct HouseRuleRow {

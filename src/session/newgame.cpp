@@ -16,6 +16,7 @@
 #include "rivals/workermarket.h"
 #include "roster/invented.h"
 #include "roster/postings.h"
+#include "session/randomworld.h"
 #include "storylines/lineages.h"
 
 namespace grapplemont {
@@ -297,6 +298,7 @@ constexpr Preparation kPreparations[] = {
 FaultList NewGame(World& world, const NewGameChoice& choice,
                   const std::function<void(std::string_view)>& watcher) {
   EmptyFiles(world, choice);
+  if (Holds(choice.House, HouseRule::RandomWorld)) InventWorld(world);
   if (watcher) watcher("Clean-up");
   FaultList mended = MendWorld(world);
   for (const Preparation& step : kPreparations) {

@@ -109,6 +109,40 @@ TEST(HouseRules, WomenTakeTheMensPlacesBeforeTheGameBegins) {
   EXPECT_EQ(Named(world.Workers(), "Ada").Employer, choice.PromotionUid);
 }
 
+TEST(HouseRules, ARandomWorldKeepsItsOrderAndNoName) {
+  const auto begin = [](HouseRules house) {
+    World world = SmallWorld()
+                      .Network("Nine")
+                      .Promotion("CWA", kCult)
+                      .Owner("Ruth Vane")
+                      .Crew(6)
+                      .Title("Harbor Crown", "CWA Hand 1")
+                      .Show("Sunday Slam", "Sunday", "Nine")
+                      .Promotion("NEW", kSmall)
+                      .Crew(3);
+    NewGameChoice choice;
+    choice.PlayerName = "Pat Lee";
+    choice.PromotionUid = Named(world.Promotions(), "CWA").Uid;
+    choice.Start = kGameStart;
+    choice.House = house;
+    EXPECT_TRUE(NewGame(world, choice).empty()) << "a world in order";
+    return world;
+  };
+  const World plain = begin({}), random = begin(Only(HouseRule::RandomWorld));
+  ASSERT_TRUE(Holds(random, HouseRule::RandomWorld));
+  for (int number = 1; number <= 9; ++number) {
+    const Worker &before = plain.Workers()[number], &after = random.Workers()[number];
+    EXPECT_NE(before.Name.Str(), after.Name.Str());
+    EXPECT_EQ(before.Over, after.Over);
+    EXPECT_EQ(before.Employer, after.Employer);
+  }
+  const std::string initials = random.Player().Initials.Str();
+  EXPECT_NE(initials, "CWA");
+  EXPECT_EQ(random.Titles()[1].Name.Str(), initials + " Crown");
+  EXPECT_EQ(random.Shows()[1].Name.Str(), initials + " Sunday");
+  EXPECT_EQ(random.Game().Jobs[0].Promotion.Str(), random.Player().Name.Str());
+}
+
 TEST(HouseRules, OneTalkAShowKeepsTheSheetShutAndNoAutoBookerTakesTheButton) {
   World world = SmallWorld()
                     .Network("Nine")

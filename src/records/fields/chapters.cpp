@@ -11,7 +11,7 @@ constexpr Field kBoardFields[] = {
 constexpr Field kHouseFields[] = {
     GM_NUMBERED(HouseRules, On)
         .Means("The rule holds: 1 the economy cycles, 2 one talk a show, 3 homegrown only, 4 women "
-               "only, 5 no auto booker, 6 harder boards, 7 god mode."),
+               "only, 5 no auto booker, 6 harder boards, 7 god mode, 8 random world."),
     GM_FIELD(HouseRules, Edited).Means("The running game has been changed by hand."),
 };
 
