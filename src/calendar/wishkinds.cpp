@@ -8,6 +8,7 @@
 #include "business/past.h"
 #include "business/tvshows.h"
 #include "calendar/board.h"
+#include "records/arithmetic.h"
 #include "records/modWresCheck.h"
 #include "roster/postings.h"
 #include "storylines/titles.h"
@@ -23,7 +24,7 @@ int Share(int ofAYear, int months) {
   return std::max(2, (ofAYear * months + kYear - 1) / kYear);
 }
 
-bool Wish(OwnerWish& wish, long long target) {
+bool AskFor(OwnerWish& wish, long long target) {
   wish.Target = target;
   return true;
 }
@@ -71,7 +72,7 @@ bool IsStarOf(const Promotion& promotion, int over) {
 }
 
 bool PlanStars(World&, OwnerWish& wish, int) {
-  return Wish(wish, 2);
+  return AskFor(wish, 2);
 }
 long long StarsCame(const World& world, const OwnerWish& wish) {
   const Promotion* promotion = world.FindPromotion(wish.Promotion);
@@ -104,7 +105,7 @@ bool PlanDefences(World& world, OwnerWish& wish, int months) {
   const Title* title = FinestTitle(world, kWoman);
   if (!title) return false;
   wish.About = title->Name.View();
-  return Wish(wish, Share(kAYear, months));
+  return AskFor(wish, Share(kAYear, months));
 }
 long long DefencesCame(const World& world, const OwnerWish& wish) {
   std::set<Day> events;
@@ -118,7 +119,7 @@ long long DefencesCame(const World& world, const OwnerWish& wish) {
 constexpr int kYoung = 25, kNobodysAge = 99;
 
 bool PlanYoung(World& world, OwnerWish& wish, int) {
-  return (FinestTitle(world, false) || FinestTitle(world, true)) && Wish(wish, kYoung);
+  return (FinestTitle(world, false) || FinestTitle(world, true)) && AskFor(wish, kYoung);
 }
 long long YoungestChampion(const World& world, const OwnerWish& wish) {
   int youngest = kNobodysAge;
@@ -133,7 +134,7 @@ long long YoungestChampion(const World& world, const OwnerWish& wish) {
 // Cards.
 
 bool PlanTalks(World&, OwnerWish& wish, int) {
-  return Wish(wish, 2);
+  return AskFor(wish, 2);
 }
 long long SlipsCame(const World&, const OwnerWish& wish) {
   return wish.Slips;
@@ -144,7 +145,7 @@ bool PlanWomensMatches(World& world, OwnerWish& wish, int months) {
   const auto women = std::ranges::count_if(world.Workers(), [&](const Worker& worker) {
     return WorksForPlayer(world, worker) && !worker.Gender && IsOnRoster(worker);
   });
-  return women >= kFewest && Wish(wish, Share(kAYear, months));
+  return women >= kFewest && AskFor(wish, Share(kAYear, months));
 }
 long long WomensMatchesCame(const World& world, const OwnerWish& wish) {
   return MatchesSince(world, wish, [&](const HeldMatch& match) {
@@ -160,7 +161,7 @@ long long WomensMatchesCame(const World& world, const OwnerWish& wish) {
 
 bool PlanFeudMatches(World&, OwnerWish& wish, int months) {
   constexpr int kAYear = 8;
-  return Wish(wish, Share(kAYear, months));
+  return AskFor(wish, Share(kAYear, months));
 }
 long long FeudMatchesCame(const World& world, const OwnerWish& wish) {
   return MatchesSince(world, wish,
@@ -173,7 +174,7 @@ constexpr int kBetterShow = 12, kBetterMean = 3, kMostAsked = 90;
 
 bool PlanBestShow(World& world, OwnerWish& wish, int) {
   const int mean = MeanBefore(world);
-  return mean > 0 && Wish(wish, std::min(mean + kBetterShow, kMostAsked));
+  return mean > 0 && AskFor(wish, std::min(mean + kBetterShow, kMostAsked));
 }
 long long BestCame(const World& world, const OwnerWish& wish) {
   int best = 0;
@@ -183,7 +184,7 @@ long long BestCame(const World& world, const OwnerWish& wish) {
 }
 bool PlanGoodShows(World& world, OwnerWish& wish, int) {
   const int mean = MeanBefore(world);
-  return mean > 0 && Wish(wish, std::min(mean + kBetterMean, kMostAsked));
+  return mean > 0 && AskFor(wish, std::min(mean + kBetterMean, kMostAsked));
 }
 long long MeanCame(const World& world, const OwnerWish& wish) {
   long long sum = 0, count = 0;
@@ -194,7 +195,7 @@ long long MeanCame(const World& world, const OwnerWish& wish) {
   return count == 0 ? 0 : sum / count;
 }
 bool PlanEvents(World&, OwnerWish& wish, int months) {
-  return Wish(wish, std::max(2, months - 1));
+  return AskFor(wish, std::max(2, months - 1));
 }
 long long EventsCame(const World& world, const OwnerWish& wish) {
   long long count = 0;
@@ -208,7 +209,8 @@ bool PlanStanding(World& world, OwnerWish& wish, int months) {
   constexpr int kAYear = 20, kNoRoom = 80;
   const Promotion& player = world.Player();
   wish.Base = StandingScore(player);
-  return !(player.Size == kGlobal && player.Image >= kNoRoom) && Wish(wish, Share(kAYear, months));
+  return !(player.Size == kGlobal && player.Image >= kNoRoom) &&
+         AskFor(wish, Share(kAYear, months));
 }
 long long StandingCame(const World& world, const OwnerWish& wish) {
   const Promotion* promotion = world.FindPromotion(wish.Promotion);
@@ -219,7 +221,7 @@ long long StandingCame(const World& world, const OwnerWish& wish) {
 constexpr std::array<int, 6> kProfits = {4000000, 2000000, 800000, 300000, 60000, 12000};
 
 bool PlanProfit(World& world, OwnerWish& wish, int months) {
-  return Wish(wish, BySize(kProfits, world.Player().Size) / kYear * months);
+  return AskFor(wish, BySize(kProfits, world.Player().Size) / kYear * months);
 }
 long long ProfitCame(const World& world, const OwnerWish& wish) {
   long long profit = 0;
@@ -235,7 +237,7 @@ long long ProfitCame(const World& world, const OwnerWish& wish) {
 bool PlanSavings(World& world, OwnerWish& wish, int months) {
   const Promotion& player = world.Player();
   return player.Money >= 0 &&
-         Wish(wish, player.Money + BySize(kProfits, player.Size) / kYear * months);
+         AskFor(wish, player.Money + BySize(kProfits, player.Size) / kYear * months);
 }
 long long MoneyCame(const World& world, const OwnerWish& wish) {
   const Promotion* promotion = world.FindPromotion(wish.Promotion);
@@ -251,19 +253,19 @@ long long SponsorsCame(const World& world, const OwnerWish& wish) {
 bool PlanSponsors(World& world, OwnerWish& wish, int) {
   const auto have = SponsorsCame(world, wish);
   return have < std::ssize(world.Player().Sponsor) &&
-         Wish(wish, std::min<long long>(have + 2, std::ssize(world.Player().Sponsor)));
+         AskFor(wish, std::min<long long>(have + 2, std::ssize(world.Player().Sponsor)));
 }
 
 long long OnAirCame(const World& world, const OwnerWish& wish) {
   return ShowsOf(world, wish.Promotion).empty() ? 0 : 1;
 }
 bool PlanOnAir(World& world, OwnerWish& wish, int) {
-  return OnAirCame(world, wish) == 0 && world.Player().Size <= kRegional && Wish(wish, 1);
+  return OnAirCame(world, wish) == 0 && world.Player().Size <= kRegional && AskFor(wish, 1);
 }
 
 bool PlanTamer(World& world, OwnerWish& wish, int) {
   constexpr int kWild = 50, kTamerBy = 15;
-  return world.Player().Risk >= kWild && Wish(wish, world.Player().Risk - kTamerBy);
+  return world.Player().Risk >= kWild && AskFor(wish, world.Player().Risk - kTamerBy);
 }
 long long RiskCame(const World& world, const OwnerWish& wish) {
   const Promotion* promotion = world.FindPromotion(wish.Promotion);

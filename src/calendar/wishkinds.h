@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "records/world.h"
 #include "rivals/ownership.h"
 

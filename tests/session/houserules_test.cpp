@@ -96,7 +96,7 @@ TEST(HouseRules, WomenTakeTheMensPlacesBeforeTheGameBegins) {
                     .Crew(3)
                     .Worker("Corner", kManager, 50)
                     .OnTheMarket()
-                    .Worker("Ada", kMidcard, 55, [](Worker& w) { w.Gender = false; });
+                    .Worker("Ada", kMidcard, 79, [](Worker& w) { w.Gender = false; });
   NewGameChoice choice;
   choice.PlayerName = "Pat Lee";
   choice.PromotionUid = Named(world.Promotions(), "CWA").Uid;
