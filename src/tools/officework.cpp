@@ -8,6 +8,7 @@
 #include "business/tvshows.h"
 #include "business/tvtalks.h"
 #include "calendar/advanceday.h"
+#include "calendar/board.h"
 #include "calendar/incidents.h"
 #include "calendar/playon.h"
 #include "records/fields/fields.h"
@@ -58,6 +59,19 @@ bool MaySign(const World& world) {
   const Promotion& player = world.Player();
   return PurseOf(player) != Purse::Saving ||
          Rosters(world).Of(player.Uid) * 2 < BySize(tuning::kRosters, player.Size).Least;
+}
+
+/// With a rise in sight somebody comes each week who is good enough for the class above, as long as
+/// the roster has room.
+void StrengthenForTheRise(World& world) {
+  Promotion there = world.Player();
+  const int above = ClassInSight(there);
+  if (above == 0 || above > there.Size || PurseOf(there) == Purse::Saving ||
+      Rosters(world).Of(there.Uid) >= BySize(tuning::kRosters, there.Size).Most)
+    return;
+  there.Size = above;
+  if (Worker* worker = FindCandidate(world, there, TasteOf(world, there.Uid)))
+    SignFor(world, world.Player(), *worker);
 }
 
 /// "CWA Friday", or "CWA Friday 2" where that is taken.
@@ -131,6 +145,7 @@ void WorkInTheOffice(World& world) {
     Rosters rosters(world);
     FitRoster(world, world.Player(), rosters);
   }
+  StrengthenForTheRise(world);
   FitPosts(world, world.Player(), Posts(world));
 }
 
