@@ -34,9 +34,10 @@ constexpr VentureRow kVentures[] = {
      "Everybody's morale rises by 3 and their condition by 5.", ""},
     {Venture::Benefit, "A benefit for the town", 1000, 200, "Two points of your reputation.", ""}};
 
-constexpr int kTryoutPeople = 4, kTryoutMonths = 6;
+constexpr std::size_t kTryoutPeople = 4, kCourted = 12;
+constexpr int kTryoutMonths = 6;
 constexpr int kSmallTryoutOver = 45, kBackyardTryoutOver = 25;
-constexpr int kCourted = 12, kMoraleSure = 10, kMoraleDrawn = 10;
+constexpr int kMoraleSure = 10, kMoraleDrawn = 10;
 constexpr int kLeastLoyalty = 40;  // below it nobody talks with anybody
 constexpr std::size_t kEntrants = 8, kFewestEntrants = 4;
 constexpr int kWinnersMorale = 10, kTournamentWear = 5;

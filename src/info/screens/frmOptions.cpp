@@ -210,6 +210,7 @@ const CellColumns<ShownWish> kWishTable = {
 class frmUser : public GameScreen {
  public:
   explicit frmUser(Game& game) : GameScreen(game, "frmUser", "Career") {
+    BackBefore(cmdplayon);
     lstwishes.EmptyText =
         "No wishes yet. An owner tells three when a job or a year begins, and judges them on 31 "
         "December.";

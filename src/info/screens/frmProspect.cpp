@@ -46,7 +46,6 @@ const CellColumns<PlaceThere> kPlaceTable = {
 class frmProspect : public GameScreen {
  public:
   explicit frmProspect(Game& game) : GameScreen(game, "frmProspect", "The Next Class") {
-    BackBefore(lstbands);
     lstsign.EmptyText =
         "Nobody better than half of the roster would come whose first year the money in hand "
         "pays.";
