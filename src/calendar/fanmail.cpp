@@ -15,13 +15,15 @@ constexpr std::size_t kInARow = 3;
 /// The matches of one show of the player's that were not dark, in the order of the card.
 using PastShow = std::vector<const HeldMatch*>;
 
-/// The last shows that are kept, the latest first; one more than make a complaint.
-std::vector<PastShow> LastShows(const World& world) {
+/// The shows up to that day, the latest first; one more than make a complaint.
+std::vector<PastShow> ShowsUpTo(const World& world, Day last) {
   std::vector<PastShow> shows;
   Day on{};
   for (int number = world.Bouts().Count(); number >= 1; --number) {
     const HeldMatch& match = world.Bouts()[number];
-    if (match.Promotion != world.PlayerUid() || (match.IsEvent && match.Row == 1)) continue;
+    if (match.Promotion != world.PlayerUid() || (match.IsEvent && match.Row == 1) ||
+        Day(match.On) > last)
+      continue;
     if (shows.empty() || Day(match.On) != on) {
       if (shows.size() == kInARow + 1) break;
       shows.emplace_back();
@@ -81,10 +83,9 @@ bool HasJustTired(const std::vector<PastShow>& shows, const FanComplaint& compla
 
 }  // namespace
 
-std::vector<std::string> ComplaintsOf(const World& world) {
-  const std::vector<PastShow> shows = LastShows(world);
-  if (shows.size() < kInARow || Day(shows[0].back()->On) + std::chrono::days{1} != world.Today())
-    return {};
+std::vector<std::string> ComplaintsAfter(const World& world, Day show) {
+  const std::vector<PastShow> shows = ShowsUpTo(world, show);
+  if (shows.size() < kInARow || Day(shows[0].back()->On) != show) return {};
   std::vector<std::string> complaints;
   for (const FanComplaint& complaint : kComplaints)
     if (HasJustTired(shows, complaint)) complaints.emplace_back(complaint.Says);
@@ -92,7 +93,8 @@ std::vector<std::string> ComplaintsOf(const World& world) {
 }
 
 void FanMail(World& world) {
-  for (const std::string& words : ComplaintsOf(world)) AddNews(world, "Fan Mail", words);
+  const Day before = world.Today() - std::chrono::days{1};
+  for (const std::string& words : ComplaintsAfter(world, before)) AddNews(world, "Fan Mail", words);
 }
 
 }  // namespace grapplemont

@@ -7,12 +7,11 @@
 
 namespace grapplemont {
 
-/// What the fans complain of after the player's last show: what of the card has been the same three
-/// times in a row, and not four times, a sentence each. Empty where that show was not the day
-/// before.
-std::vector<std::string> ComplaintsOf(const World& world);
+/// What the fans complain of after the player's show of that day: what of the card has been the
+/// same three times in a row, and not four times, a sentence each. Empty for a day without a show.
+std::vector<std::string> ComplaintsAfter(const World& world, Day show);
 
-/// A mail for each complaint.
+/// A mail for each complaint about the show of the day before.
 void FanMail(World& world);
 
 }  // namespace grapplemont
