@@ -94,6 +94,8 @@ std::vector<std::string> ComplaintsAfter(const World& world, Day show) {
 
 void FanMail(World& world) {
   const Day before = world.Today() - std::chrono::days{1};
+  const int last = world.Bouts().Count();
+  if (last == 0 || Day(world.Bouts()[last].On) != before) return;
   for (const std::string& words : ComplaintsAfter(world, before)) AddNews(world, "Fan Mail", words);
 }
 

@@ -181,7 +181,7 @@ void KeepWish(World& world, const OwnerWish& wish) {
 
 void TellWishes(World& world) {
   const int months = MonthsOfYearLeft(world.Today());
-  if (months < kFewestMonths || !OwnerOf(world, world.PlayerUid()) || !OpenOnes(world).empty())
+  if (months < kFewestMonths || !OpenOnes(world).empty() || !OwnerOf(world, world.PlayerUid()))
     return;
   std::vector<PlannedWish> plans = PlansFor(world, months);
   std::string told;
