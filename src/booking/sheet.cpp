@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
 
 #include "booking/wizard/casting.h"
 #include "booking/wizard/matchrules.h"
 #include "booking/wizard/wizard.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
+#include "records/houserules.h"
 #include "records/modWresCheck.h"
 #include "records/segmentparts.h"
 #include "records/segments.h"
@@ -90,7 +92,23 @@ SheetCount CountSheet(const World& world, bool isEvent) {
   return count;
 }
 
+std::string WhyNotInThisHouse(const World& world) {
+  if (!Holds(world, HouseRule::OneTalk)) return {};
+  std::set<int> talked;
+  for (const Segment& segment : world.Segments()) {
+    if (segment.Kind != kInterview) continue;
+    const InterviewStyleRow* style = FindInterviewStyle(segment.Style);
+    for (int place = 1; style && place <= style->Speakers; ++place) {
+      const int uid = UidAt(segment, place);
+      if (uid != 0 && !talked.insert(uid).second)
+        return "A rule of the house: " + WorkerName(world, uid) + " talks more than once.";
+    }
+  }
+  return {};
+}
+
 bool MayStart(const World& world, bool isEvent) {
+  if (!WhyNotInThisHouse(world).empty()) return false;
   const SheetTerms terms = TermsOf(world, isEvent);
   const SheetCount count = CountSheet(world, isEvent);
   return terms.OpenRows > 0 && count.Matches >= terms.MinMatches &&
@@ -133,6 +151,12 @@ std::string SheetWarning(const SheetTerms& terms, bool isEvent) {
 std::string TitleTip(const Segment& segment) {
   if (segment.Kind == kEmptySegment || segment.TitleName == "None") return {};
   return segment.TitleName + (segment.Kind == kMatch ? " Title Match!" : " Title Segment!");
+}
+
+std::string WhyNoAutoBooker(const World& world) {
+  if (Holds(world, HouseRule::NoAutoBooker))
+    return "A rule of the house: every row is booked by hand.";
+  return HasAutoBooker(world) ? "" : "Nobody above the jobbers is fit, so there is nobody to book.";
 }
 
 bool HasAutoBooker(const World& world) {

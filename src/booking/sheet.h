@@ -30,6 +30,8 @@ struct SheetCount {
   int Segments = 0;
 };
 SheetCount CountSheet(const World& world, bool isEvent);
+/// What of the sheet goes against the rules of the house; empty when nothing does.
+std::string WhyNotInThisHouse(const World& world);
 bool MayStart(const World& world, bool isEvent);
 
 /// Writes match.dat with every record empty.
@@ -48,6 +50,8 @@ std::string TitleTip(const Segment& segment);
 
 /// Somebody above the jobbers is fit, so that there is something to book.
 bool HasAutoBooker(const World& world);
+/// Why the player cannot let it book; empty when they can.
+std::string WhyNoAutoBooker(const World& world);
 
 // What a sheet tells of a booked row beside its one line.
 

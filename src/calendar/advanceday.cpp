@@ -6,8 +6,11 @@
 #include "business/sponsors.h"
 #include "business/tvtalks.h"
 #include "calendar/awards.h"
+#include "calendar/board.h"
 #include "calendar/events.h"
+#include "calendar/fanmail.h"
 #include "calendar/incidents.h"
+#include "calendar/wishes.h"
 #include "records/fields/fields.h"
 #include "records/severing.h"
 #include "rivals/rivals.h"
@@ -45,9 +48,11 @@ constexpr Step kFirstOfMonth[] = {
     STEP(NewPromotionCheck),
 };
 
+// The year is judged before its end is noted as what the next one is compared with.
 constexpr Step kClosing[] = {
     STEP(IncidentRoll), STEP(SweepDeadPromotions), STEP(SweepDeadShows),
-    STEP(UpdateReigns), STEP(GiveAwards),          STEP(NoteMonths),
+    STEP(UpdateReigns), STEP(OwnersWishes),        STEP(GiveAwards),
+    STEP(NoteMonths),   STEP(BoardWarning),        STEP(FanMail),
 };
 
 #undef STEP

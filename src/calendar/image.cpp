@@ -8,6 +8,7 @@
 #include "calendar/events.h"
 #include "records/arithmetic.h"
 #include "records/fields/vocabulary.h"
+#include "records/houserules.h"
 #include "records/modVar.h"
 #include "rivals/rivals.h"
 #include "roster/invented.h"
@@ -52,7 +53,9 @@ void FallInClass(World& world, Promotion& promotion) {
   if (IsPlayers(world, promotion)) world.Session.StartSize = promotion.Size;
   NoteDeed(world, kDeedFallen, &promotion, promotion.Name, {}, promotion.Size);
   TellOfClass(world, promotion, " fallen to ");
-  if (IsPlayers(world, promotion) && world.RandomDraw(3) == 3) world.Game().EndCode = kEndBoard;
+  if (IsPlayers(world, promotion) &&
+      (world.RandomDraw(3) == 3 || Holds(world, HouseRule::HarderBoards)))
+    world.Game().EndCode = kEndBoard;
   for (Worker& worker : world.Workers())
     if (worker.Employer == promotion.Uid) FallWithIt(world, worker);
   OwnersQuit(world, promotion);

@@ -201,6 +201,10 @@ void IncidentRoll(World& world) {
     RollRoster(world);
 }
 
+void OfferJob(World& world, const Promotion& promotion) {
+  Book(world, kJobOffer, promotion.Uid);
+}
+
 void Suspend(Worker& worker, int months) {
   worker.Status = "Sus";
   worker.StatusMonths = months;

@@ -22,6 +22,9 @@ std::string IncidentText(const World& world, const Incident& incident);
 /// Takes the first off the list.
 void CloseIncident(World& world);
 
+/// A job offer of this promotion waits among what has happened today, where there is room for it.
+void OfferJob(World& world, const Promotion& promotion);
+
 void Suspend(Worker& worker, int months);
 /// The player leaves their promotion to its own devices and takes over another: the job goes to the
 /// former ones, and their feuds end with it.

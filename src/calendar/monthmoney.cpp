@@ -4,6 +4,7 @@
 #include "business/finance.h"
 #include "business/past.h"
 #include "calendar/advanceday.h"
+#include "calendar/board.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/notes.h"
@@ -266,8 +267,7 @@ void MonthlyReview(World& world) {
     Shift(promotion.MoneyBefore, promotion.Money);
   }
   const Promotion& player = world.Player();
-  const Staff* owner = OwnerOf(world, player.Uid);
-  TellTrend(world, owner ? owner->Name.Str() : "The Board", Trend(player.Rank), kImageWords);
+  TellTrend(world, VoiceOfBoard(world), Trend(player.Rank), kImageWords);
   TellTrend(world, kFinance, Trend(player.MoneyBefore), kMoneyWords);
 }
 

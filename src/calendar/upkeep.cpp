@@ -1,8 +1,11 @@
+#include <algorithm>
 #include <array>
 
 #include "booking/wizard/roster.h"
 #include "calendar/advanceday.h"
+#include "records/fields/fields.h"
 #include "records/fields/wording.h"
+#include "records/houserules.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/leaving.h"
@@ -132,7 +135,30 @@ void WriterWorkload(World& world) {
               ". Until we hire more, i can't put any angles on television.");
 }
 
+namespace {
+
+constexpr int kCycleWeeks = 208, kSlump = 5, kBoom = 95, kMostAWeek = 3;
+
+/// Where the cycle stands this week: as far up as down, from a beginning of this game's own.
+int CycleNow(const World& world) {
+  constexpr int kHalf = kCycleWeeks / 2;
+  const int begin = world.Fate("economy", {}).Draw(kCycleWeeks);
+  const auto week = static_cast<int>((world.Today() - kDayZero).count() / 7);
+  const int at = (week + begin) % kCycleWeeks;
+  return kSlump + (kBoom - kSlump) * (at < kHalf ? at : kCycleWeeks - at) / kHalf;
+}
+
+void FollowTheCycle(World& world) {
+  GameInfo& game = world.Game();
+  const int step = std::clamp(CycleNow(world) - game.Economy, -kMostAWeek, kMostAWeek);
+  if (step != 0) game.EconomyRising = step > 0;
+  game.Economy += step;
+}
+
+}  // namespace
+
 void EconomyDrift(World& world) {
+  if (Holds(world, HouseRule::EconomyCycles)) return FollowTheCycle(world);
   GameInfo& game = world.Game();
   int economy = game.Economy;
   const bool calm = economy >= 20 && economy <= 80;

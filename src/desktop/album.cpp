@@ -19,6 +19,9 @@ constexpr std::array<std::string_view, 6> kLast = {"cmdloadgame", "cmdauto",  "c
 /// What makes a screen worth a second picture in the first one's place.
 constexpr std::string_view kFills = "cmdfill";
 constexpr std::string_view kLeavesTheGame = "cmdquit";
+/// Doors to these open in some games only.
+constexpr std::array<const char*, 4> kRareScreens = {"frmProspect", "frmMonth", "frmPlayOn",
+                                                     "frmGodMode"};
 /// A new game needs a name.
 constexpr std::string_view kAsksForAName = "txtname", kName = "Pat Lee";
 
@@ -112,13 +115,19 @@ void Album::Visit() {
     Try(*screen, way);
     if (way == kFills && desk_.Top() == screen.get()) Take(screen->Name());
   }
-  if (desk_.Top() == screen.get() && screen->Is() == ui::Role::Hub) PlayOn(*screen);
+  if (desk_.Top() != screen.get() || screen->Is() != ui::Role::Hub) return;
+  OpenRareOnes(*screen);
+  PlayOn(*screen);
 }
 
 void Album::Try(ui::Screen& screen, const std::string& control) {
   const ui::Control* pressed = screen.Find(control);
   if (!pressed || !pressed->Enabled || !pressed->Visible) return;
   Click(screen, control);
+  ComeBackTo(screen);
+}
+
+void Album::ComeBackTo(ui::Screen& screen) {
   while (desk_.Top() && desk_.Top() != &screen && desk_.Holds(screen)) {
     if (!taken_.contains(desk_.Top()->Name()))
       Visit();
@@ -140,6 +149,15 @@ void Album::LeaveTop() {
   if (desk_.Top() != top.get()) return;
   desk_.Event([&] { desk_.Close(*top); });
   window_.Sync();
+}
+
+void Album::OpenRareOnes(ui::Screen& hub) {
+  for (const char* name : kRareScreens) {
+    if (desk_.Top() != &hub || taken_.contains(name) || !desk_.Knows(name)) continue;
+    desk_.Event([&] { desk_.Open(name); });
+    window_.Sync();
+    ComeBackTo(hub);
+  }
 }
 
 void Album::PlayOn(ui::Screen& hub) {

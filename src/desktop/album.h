@@ -35,6 +35,9 @@ class Album {
   void FillIn(ui::Screen& screen);
   /// Clicks a control; what lies above the screen then is visited and left again.
   void Try(ui::Screen& screen, const std::string& control);
+  /// Visits what lies above the screen, or leaves it where it is known.
+  void ComeBackTo(ui::Screen& screen);
+  void OpenRareOnes(ui::Screen& hub);
   void Click(ui::Screen& screen, const std::string& control);
   void LeaveTop();
   /// Days pass, and their shows, for the screens that only those bring.

@@ -5,6 +5,7 @@
 
 #include "business/past.h"
 #include "calendar/events.h"
+#include "calendar/fanmail.h"
 #include "info/infowords.h"
 #include "info/results.h"
 #include "info/worldnews.h"
@@ -210,6 +211,7 @@ std::vector<FanPost> PostsAbout(const World& world, const ShowSeen& show, Used& 
   PostAboutRows(thread, show);
   if (!show.Star.empty()) thread.Post(FanMood::Star, "who", show.Star);
   PostAboutTheCrowd(thread, world, show);
+  if (show.IsPlayers && !ComplaintsAfter(world, show.On).empty()) thread.Post(FanMood::Again);
   return thread.Posts();
 }
 

@@ -132,6 +132,7 @@ enum class FanMood {
   Star,
   Full,
   Empty,
+  Again,
   Handles
 };
 struct FanRow {
@@ -139,12 +140,19 @@ struct FanRow {
   std::string_view Slots;
 };
 inline constexpr FanRow kFanRows[] = {
-    {FanMood::Superb, "show house"},      {FanMood::Good, "show house"},
-    {FanMood::Fair, "show house"},        {FanMood::Weak, "show house"},
-    {FanMood::Awful, "show house"},       {FanMood::CalledOff, "show house"},
-    {FanMood::Stolen, "show house what"}, {FanMood::Bored, "show house what"},
-    {FanMood::Star, "show house who"},    {FanMood::Full, "show house"},
-    {FanMood::Empty, "show house"},       {FanMood::Handles, ""},
+    {FanMood::Superb, "show house"},
+    {FanMood::Good, "show house"},
+    {FanMood::Fair, "show house"},
+    {FanMood::Weak, "show house"},
+    {FanMood::Awful, "show house"},
+    {FanMood::CalledOff, "show house"},
+    {FanMood::Stolen, "show house what"},
+    {FanMood::Bored, "show house what"},
+    {FanMood::Star, "show house who"},
+    {FanMood::Full, "show house"},
+    {FanMood::Empty, "show house"},
+    {FanMood::Again, "show house"},
+    {FanMood::Handles, ""},
 };
 
 /// Names in a line, without their braces, and the words that go there.

@@ -107,12 +107,17 @@ bool WouldSign(const World& world, const Worker& worker, int months) {
   ContractOffer best{kHighestWage, months, terms.Written, true};
   return JudgeRenewal(worker, terms, best).Accepted;
 }
-bool MovesOn(const World& world, const Worker& worker) {
-  return !WouldSign(world, worker, kHalfAYear) && !WouldSign(world, worker, kYear);
-}
 bool SignsForHalfAYear(const World& world, const Worker& worker) {
   return WouldSign(world, worker, kHalfAYear) && !WouldSign(world, worker, kYear);
 }
+
+}  // namespace
+
+bool MovesOn(const World& world, const Worker& worker) {
+  return !WouldSign(world, worker, kHalfAYear) && !WouldSign(world, worker, kYear);
+}
+
+namespace {
 
 /// Whose contracts end after that many months, and who will talk about another.
 People Ending(const World& world, int from, int until) {

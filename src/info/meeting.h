@@ -99,6 +99,10 @@ std::string Number(Count count) {
   return std::to_string(count);
 }
 
+/// Whether somebody of the player's would sign for neither half a year nor a year, whatever the
+/// wage.
+bool MovesOn(const World& world, const Worker& worker);
+
 /// How often in a row the standing fell at the last month ends.
 int FallsInARow(const Promotion& promotion);
 

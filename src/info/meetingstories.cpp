@@ -1,6 +1,7 @@
 #include <optional>
 
 #include "business/past.h"
+#include "calendar/board.h"
 #include "calendar/events.h"
 #include "calendar/image.h"
 #include "info/meeting.h"
@@ -20,7 +21,6 @@ namespace grapplemont {
 namespace {
 
 constexpr int kFalls = 2;
-constexpr int kNearTheTop = 85, kNearTheBottom = 15;
 constexpr int kGreatShow = 90;
 constexpr int kFewFeuds = 2;
 constexpr int kColdHeat = 30, kHotHeat = 80, kFitForAnEvent = 60;
@@ -202,9 +202,8 @@ void TalkOfImage(Meeting& meeting) {
       {"below", std::string(SizeText(player.Size + 1))},
       {"step", Signed(WholeTvStep(world.Game(), player.Size, kGreatShow))}};
   if (falls > 0) meeting.Say(falls >= kFalls ? Point::ImageFalling : Point::ImageSlips, words);
-  if (player.Image <= kNearTheBottom && player.Size < kBackyard)
-    meeting.Say(Point::ImageDanger, words);
-  if (player.Image >= kNearTheTop && player.Size > kGlobal) meeting.Say(Point::ImageNext, words);
+  if (const int next = ClassInSight(player))
+    meeting.Say(next > player.Size ? Point::ImageDanger : Point::ImageNext, words);
   TalkOfLastShow(meeting);
 }
 

@@ -21,7 +21,7 @@ using Kind = Found::Kind;
 /// What is seen through to its end before another room is entered.
 constexpr std::string_view kSeenThrough[] = {"frmBooking",     "frmPPVBooking", "frmAutoBook",
                                              "frmMatchOutput", "frmPostShow",   "frmIncident",
-                                             "frmPinky",       "frmTheEnd"};
+                                             "frmPinky",       "frmTheEnd",     "frmPlayOn"};
 
 bool MayEnterRooms(const ui::Desk& desk) {
   return std::ranges::none_of(desk.Screens(), [](const auto& screen) {

@@ -53,6 +53,7 @@ namespace grapplemont {
   SCREEN(frmOtherFed)        \
   SCREEN(frmTheEnd)          \
   SCREEN(frmPinky)           \
+  SCREEN(frmPlayOn)          \
   SCREEN(frmMainScreen)      \
   SCREEN(frmEvent)           \
   SCREEN(frmIncident)        \
@@ -65,6 +66,8 @@ namespace grapplemont {
   SCREEN(frmOptions)         \
   SCREEN(frmUser)            \
   SCREEN(frmTalk)            \
+  SCREEN(frmProspect)        \
+  SCREEN(frmMonth)           \
   SCREEN(frmInternet)        \
   SCREEN(frmGlossary)        \
   SCREEN(frmEditMaintain)    \
@@ -72,6 +75,7 @@ namespace grapplemont {
   SCREEN(frmEditImport)      \
   SCREEN(frmEditTables)      \
   SCREEN(frmEditor)          \
+  SCREEN(frmGodMode)         \
   SCREEN(frmTitleScreen)     \
   SCREEN(frmDisclaimer)      \
   SCREEN(frmGameMenu)        \

@@ -108,6 +108,15 @@ class World {
   /// One record where the game has a key, else none.
   Records<WorldKey>& Keys() { return Of<WorldKey>(); }
   const Records<WorldKey>& Keys() const { return Of<WorldKey>(); }
+  /// One record once the board has said something, else none.
+  Records<BoardState>& Boards() { return Of<BoardState>(); }
+  const Records<BoardState>& Boards() const { return Of<BoardState>(); }
+  /// What the owners have wished, oldest first.
+  Records<OwnerWish>& Wishes() { return Of<OwnerWish>(); }
+  const Records<OwnerWish>& Wishes() const { return Of<OwnerWish>(); }
+  /// One record where a month of a small promotion has been planned, else none.
+  Records<MonthPlan>& MonthPlans() { return Of<MonthPlan>(); }
+  const Records<MonthPlan>& MonthPlans() const { return Of<MonthPlan>(); }
   /// How everybody stood on the firsts of twelve months, a record a worker.
   Records<WorkerMonths>& Months() { return Of<WorkerMonths>(); }
   const Records<WorkerMonths>& Months() const { return Of<WorkerMonths>(); }

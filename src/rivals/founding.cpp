@@ -85,15 +85,19 @@ Promotion NewPromotion(const World& world, std::string_view name, std::string_vi
   return promotion;
 }
 
-/// It opens today: spends as its size does, enters the file, and looks for workers and staff at
-/// once.
-Promotion& Open(World& world, Promotion promotion) {
+/// Spends as its size does and enters the file.
+Promotion& Enter(World& world, Promotion promotion) {
   const RivalSpending spending = RivalSpendingFor(promotion.Size);
   promotion.Merchandising = spending.Merchandising;
   promotion.Production = spending.Production;
   promotion.TicketPrice = FairTicketPrice(promotion.Size);
   promotion.Rank[0] = StandingScore(promotion);
-  Promotion& opened = world.Promotions().Append(promotion);
+  return world.Promotions().Append(promotion);
+}
+
+/// It opens today, and looks for workers and staff at once.
+Promotion& Open(World& world, const Promotion& promotion) {
+  Promotion& opened = Enter(world, promotion);
   Rosters rosters(world);
   FitRoster(world, opened, rosters);
   FitPosts(world, opened, Posts(world));
@@ -216,6 +220,28 @@ void BuyStars(World& world, const Promotion& promotion) {
 void FoundTitles(World& world, const Promotion& promotion) {
   FoundTitle(world, promotion, "Crown", true);
   FoundTitle(world, promotion, "Tag Titles", false);
+}
+
+std::string WhyNotFound(const World& world, std::string_view name, std::string_view initials) {
+  constexpr std::size_t kLongestName = 40, kLongestInitials = 6;
+  if (world.Promotions().Full()) return "The world holds no more promotions.";
+  if (name.empty() || initials.empty()) return "It needs a name and initials.";
+  if (name.size() > kLongestName || initials.size() > kLongestInitials)
+    return "A name has 40 letters at most, initials have 6.";
+  if (name == kToBeDeleted || name == "None" || !IsNameFree(world, name, initials))
+    return "There is a promotion of that name, or with those initials.";
+  return {};
+}
+
+Promotion& FoundOwn(World& world, std::string_view name, std::string_view initials) {
+  Promotion promotion = NewPromotion(world, name, initials);
+  promotion.Size = kBackyard;
+  promotion.Money = kOwnCapital;
+  promotion.Image = tuning::kOwnImage;
+  promotion.Momentum = tuning::kOwnMomentum;
+  promotion.Risk = tuning::kOwnRisk;
+  NoteDeed(world, kDeedFounded, &promotion, promotion.Name, {}, promotion.Size);
+  return Enter(world, promotion);
 }
 
 void NewPromotionCheck(World& world) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "records/world.h"
 
@@ -12,6 +13,16 @@ namespace grapplemont {
 /// that another promotion has left behind is taken up again; none is founded where no place is
 /// left.
 void FoundTitles(World& world, const Promotion& promotion);
+
+// A promotion of the player's own.
+
+/// Dollars that it begins with: half of what other Backyard promotions have.
+inline constexpr int kOwnCapital = 100000;
+/// Why none can be founded under these names; empty when one can.
+std::string WhyNotFound(const World& world, std::string_view name, std::string_view initials);
+/// A Backyard promotion without people, sponsors or Titles. Draws nothing. Requires that nothing
+/// stands against it.
+Promotion& FoundOwn(World& world, std::string_view name, std::string_view initials);
 
 // The stranger who cannot bear that the player is alone at the top.
 

@@ -52,6 +52,9 @@ inline constexpr LongReign kLongReigns[] = {{180, 50}, {90, 35}, {45, 18}, {0, 4
 /// Among how many of the best the champion is found.
 inline constexpr int kContenders = 6;
 
+/// How a promotion begins that the player founds.
+inline constexpr int kOwnImage = 20, kOwnMomentum = 2, kOwnRisk = 30;
+
 /// A rich stranger comes in one of this many months to a player who has been alone at the top for
 /// five month ends.
 inline constexpr int kStrangerIn = 6;

@@ -169,6 +169,21 @@ void NewWorkerAttributes(World& world, Worker& worker, Generation generation) {
   DrawTier(world, worker, build);
 }
 
+void InventName(World& world, Worker& worker) {
+  Worker named;
+  do DrawName(world, named);
+  while (named.Gender != worker.Gender);
+  worker.Name = named.Name.View();
+  worker.ShortName = named.ShortName.View();
+}
+
+void InventName(World& world, Staff& staff) {
+  Staff named;
+  do DrawName(world, named, StaffFirstNames, kLastMaleStaffFirstName, StaffNameFree);
+  while (named.Gender != staff.Gender);
+  staff.Name = named.Name.View();
+}
+
 Worker& NewFillerWorker(World& world) {
   Worker worker;
   DrawName(world, worker);

@@ -10,6 +10,9 @@ namespace grapplemont {
 enum class Generation { Filler, Rookie };  // a rookie is 19 to 22
 /// Age, body, skills, finishers, place and Over. Requires Gender.
 void NewWorkerAttributes(World& world, Worker& worker, Generation generation);
+/// Another name, and a short one, for somebody of the same sex.
+void InventName(World& world, Worker& worker);
+void InventName(World& world, Staff& staff);
 /// Appends a free worker with a new name and uid.
 Worker& NewFillerWorker(World& world);
 /// Appends a free member of staff for the post.

@@ -91,7 +91,7 @@ MoodStory MoodStoryOf(const World& world, const Worker& worker) {
   struct Sum {
     int Change = 0, Times = 0;
   };
-  std::array<Sum, kMoodStuck + 1> sums;  // the first is of what nobody has kept
+  std::array<Sum, kLastMood + 1> sums;  // the first is of what nobody has kept
   MoodStory story{kDayZero, worker.Morale, {}};
   const Day from = StoryFrom(world.Today());
   int running = worker.Morale;
@@ -109,7 +109,7 @@ MoodStory MoodStoryOf(const World& world, const Worker& worker) {
     running = change.After;
   }
   sums[0].Change += worker.Morale - running;
-  for (int why = 1; why <= kMoodStuck; ++why)
+  for (int why = 1; why <= kLastMood; ++why)
     if (const Sum& sum = sums[static_cast<std::size_t>(why)]; sum.Times > 0)
       story.Steps.push_back({sum.Change, std::string(MoodReasonText(why)) + Times(sum.Times)});
   std::ranges::stable_sort(story.Steps, std::ranges::greater(), &MoodStep::Change);

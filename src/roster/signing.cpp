@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/houserules.h"
 #include "records/modVar.h"
 #include "records/severing.h"
 #include "roster/objections.h"
@@ -174,6 +175,7 @@ void LeaveFormer(World& world, const Worker& worker) {
 
 std::string WhyNoSigning(const World& world, const Worker& worker, Decision* why) {
   const int size = world.Player().Size;
+  if (std::string no = WhyNotInThisHouse(world, worker); !no.empty()) return no;
   const bool talks = worker.Loyalty >= 40;
   if (!Weigh(why, talks, talks ? "Thinks well enough of you to talk" : "Thinks little of you"))
     return kNotAtAll.Of(worker);

@@ -7,6 +7,7 @@
 
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
+#include "records/houserules.h"
 #include "records/store/knownfiles.h"
 #include "records/store/slotfolder.h"
 #include "records/store/slotrescue.h"
@@ -122,6 +123,8 @@ void Describe(SlotSummary& summary, const GameInfo& game, const SlotContents& fi
   summary.Today = LongDate(game.Today);
   summary.Level = std::string(Says(kDifficulties, game.Difficulty)) + " level";
   summary.Own = LastOf<Promotion>(files, [&](auto& held) { return held.Uid == uid; });
+  const auto house = LastOf<HouseRules>(files, [](const HouseRules&) { return true; });
+  if (house) summary.House = HouseRulesText(*house);
   const auto isShow = [&](const HistoryEntry& held) {
     return held.Promotion == uid && !held.CalledOff &&
            (held.Kind == kPastTv || held.Kind == kPastEvent);

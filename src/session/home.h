@@ -33,6 +33,7 @@ struct SlotSummary {
   bool Empty = true;
   bool Playable = false;
   std::string Today = {}, Level = {}, LastShow = {};  // LastShow empty before the first
+  std::string House = {};                             // the rules of the house; empty for none
   std::optional<Promotion> Own = {};                  // the player's
 };
 

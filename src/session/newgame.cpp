@@ -8,11 +8,16 @@
 #include "calendar/events.h"
 #include "records/arithmetic.h"
 #include "records/fields/fields.h"
+#include "records/houserules.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/readmail.h"
 #include "rivals/founding.h"
+#include "rivals/rivals.h"
+#include "rivals/workermarket.h"
 #include "roster/invented.h"
+#include "roster/postings.h"
+#include "session/randomworld.h"
 #include "storylines/lineages.h"
 
 namespace grapplemont {
@@ -70,6 +75,7 @@ void NewGameInfo(World& world, const NewGameChoice& choice) {
   WorldKey key{};
   key.Key = world.Life().Draw(kMostKey);
   world.Keys().Rewrite({key});
+  if (!HouseRulesText(choice.House).empty()) world.Of<HouseRules>().Rewrite({choice.House});
 }
 
 void EmptyFiles(World& world, const NewGameChoice& choice) {
@@ -213,6 +219,44 @@ void StartTitles(World& world) {
   }
 }
 
+/// The men of the player's who wrestle.
+std::vector<Worker*> MenToGo(World& world) {
+  std::vector<Worker*> men;
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid() && worker.Gender && !worker.Unsackable &&
+        worker.Position != kManager && worker.Position != kNonWrestler)
+      men.push_back(&worker);
+  return men;
+}
+
+/// Women who work for nobody and suit a promotion of this size, the most popular first.
+std::vector<Worker*> WomenToCome(World& world, int size) {
+  std::vector<Worker*> women;
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == 0 && !worker.Gender && worker.Position != kManager &&
+        worker.Position != kNonWrestler && IsWithinLimits(worker, size))
+      women.push_back(&worker);
+  std::ranges::stable_sort(women, [](auto* a, auto* b) { return a->Over > b->Over; });
+  return women;
+}
+
+/// Where the house wants women only, they take the places of the men.
+void SetTheHouse(World& world) {
+  if (!Holds(world, HouseRule::WomenOnly)) return;
+  const int size = world.Player().Size;
+  const std::vector<Worker*> men = MenToGo(world);
+  std::vector<Worker*> women = WomenToCome(world, size);
+  if (women.size() > men.size()) women.resize(men.size());
+  PartWays(world, men);
+  for (Worker* woman : women) {
+    woman->Employer = world.PlayerUid();
+    woman->Position = PlacementPosition(*woman, size);
+    woman->ContractType = size < kRegional ? "Wri" : "Non";
+    woman->ContractMonths = world.Life().Draw(30) + 8;
+    woman->Debuted = true;
+  }
+}
+
 /// The game's first year is compared with this day, its Titles' reigns begin here, and what was
 /// news before it is no unread mail.
 void BeginPast(World& world) {
@@ -246,9 +290,9 @@ struct Preparation {
 // are known by the names of teams that stand.
 constexpr Preparation kPreparations[] = {
     {"Promotions", StartPromotions}, {"Challenge", MaybeChallenge}, {"Workers", StartWorkers},
-    {"New workers", FillWorkers},    {"Staff", StartStaff},         {"New staff", FillStaff},
-    {"Sponsors", StartSponsors},     {"Television", StartShows},    {"Titles", StartTitles},
-    {"The past", BeginPast},         {"Welcome", WelcomeMail},
+    {"New workers", FillWorkers},    {"House rules", SetTheHouse},  {"Staff", StartStaff},
+    {"New staff", FillStaff},        {"Sponsors", StartSponsors},   {"Television", StartShows},
+    {"Titles", StartTitles},         {"The past", BeginPast},       {"Welcome", WelcomeMail},
 };
 
 }  // namespace
@@ -256,6 +300,7 @@ constexpr Preparation kPreparations[] = {
 FaultList NewGame(World& world, const NewGameChoice& choice,
                   const std::function<void(std::string_view)>& watcher) {
   EmptyFiles(world, choice);
+  if (Holds(choice.House, HouseRule::RandomWorld)) InventWorld(world);
   if (watcher) watcher("Clean-up");
   FaultList mended = MendWorld(world);
   for (const Preparation& step : kPreparations) {

@@ -17,6 +17,7 @@ struct NewGameChoice {
   int Difficulty = 2;  // 1 easy to 4 rock hard
   Day Start{};         // the first of a month
   std::string SaveName;
+  HouseRules House = {};
 };
 
 /// Turns a world of default data into a fresh game: its contracts, conditions, made-up people, the

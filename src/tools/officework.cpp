@@ -9,6 +9,7 @@
 #include "business/tvtalks.h"
 #include "calendar/advanceday.h"
 #include "calendar/incidents.h"
+#include "calendar/playon.h"
 #include "records/fields/fields.h"
 #include "records/world.h"
 #include "report/report.h"
@@ -121,16 +122,12 @@ bool HoldTodays(World& world, DayKind kind, Shows shows) {
   return HoldAutoShow(world, kind == DayKind::Event, &memory);
 }
 
-/// A rival no bigger than the promotion that was left has a chair for them; false where none is.
+/// Any chair that is open to them; false where none is.
 bool TakeAnotherJob(World& world) {
-  std::vector<const Promotion*> offers;
-  for (const Promotion& promotion : world.Promotions())
-    if (IsRival(world, promotion) && promotion.Size >= world.Player().Size)
-      offers.push_back(&promotion);
-  if (offers.empty()) return false;
-  const int drawn = world.RandomDraw(static_cast<int>(offers.size()));
-  ChangeJob(world, *offers[static_cast<std::size_t>(drawn - 1)]);
-  world.Game().EndCode = 0;
+  const std::vector<const Promotion*> chairs = ChairsAfterTheEnd(world);
+  if (chairs.empty()) return false;
+  const int drawn = world.RandomDraw(static_cast<int>(chairs.size()));
+  TakeChair(world, *chairs[static_cast<std::size_t>(drawn - 1)]);
   return true;
 }
 

@@ -127,6 +127,42 @@ TEST(TalkScreen, KnowsEveryPlaceItLeadsTo) {
     EXPECT_TRUE(*row.Screen == 0 || play.Desk.Knows(row.Screen)) << row.Screen;
 }
 
+TEST(ProspectScreen, TriesTheNextClassOutAndLeavesTheWorldAsItIs) {
+  GameOnWorld play(CalmWorld());
+  play.World().Player().Image = 89;
+  play.Play.Commit();
+  play.Desk.Open("frmTalk");
+  EXPECT_FALSE(Has(play.Desk.Text("txtsays"), "Cult")) << "nothing is in sight at 89";
+  play.World().Player().Image = 92;
+  play.World().Player().Money = 9000000;
+  Named(play.World().Workers(), "NEW 1").Over = 70;
+  Named(play.World().Workers(), "NEW 1").Morale = 40;
+  play.Play.Commit();
+  const World before = CopyOf(play.World());
+  play.Desk.Click("cmdback");
+  play.Desk.Open("frmTalk");
+  const auto says = play.Desk.Rows("lsttalk");
+  const auto next = std::ranges::find_if(says, [](auto& row) { return Has(row[3], "Cult"); });
+  ASSERT_NE(next, says.end());
+  play.Desk.OpenRow("lsttalk", static_cast<int>(next - says.begin()) + 1);
+  ASSERT_EQ(play.Desk.TopName(), "frmProspect");
+  EXPECT_EQ(play.Desk.Title(), "Ready For Cult?");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "Our image is 92%; at 100% we rise to Cult.");
+  EXPECT_TRUE(Has(play.Desk.Text("txtprospect"), "An Event of ours would be rated "))
+      << play.Desk.Text("txtprospect");
+  const auto bands = play.Desk.Rows("lstbands");
+  EXPECT_EQ(bands.front()[0], "90 to 100");
+  EXPECT_EQ(std::ranges::count_if(bands, [](auto& row) { return row[3] == "Ours"; }), 1);
+  ASSERT_FALSE(play.Desk.Rows("lstsign").empty());
+  EXPECT_EQ(play.Desk.FirstColumn("lstsign").front(), "NEW 1");
+  ExpectSame(play.World(), before);
+  play.World().Player().Image = 10;
+  play.Play.Commit();
+  play.Desk.Click("cmdback");
+  play.Desk.Open("frmProspect");
+  EXPECT_EQ(play.Desk.Title(), "What Awaits Us At Small");
+}
+
 TEST(TalkScreen, LeadsToThePageOfWhomAPointIsAboutAndOfWhoeverIsNamed) {
   GameOnWorld play(CalmWorld());
   Named(play.World().Workers(), "CWA 9").ContractMonths = 1;

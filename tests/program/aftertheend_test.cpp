@@ -49,8 +49,9 @@ std::map<std::string, Bytes> AllButTheDesk(Over& over) {
   return files;
 }
 
-// The ways out of the game are not changes of its world.
-constexpr std::string_view kWaysOut[] = {"cmdquit", "cmdmenu", "cmdmainmenu"};
+// The ways out of the game are not changes of its world, and the ways on begin another career.
+constexpr std::string_view kWaysOut[] = {"cmdquit", "cmdmenu", "cmdmainmenu", "cmdtake",
+                                         "cmdfound"};
 
 TEST(AfterTheEnd, EveryScreenOpensAndNoButtonChangesTheWorld) {
   Over over;

@@ -39,7 +39,8 @@ inline constexpr const char* kInGame[] = {
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
     "frmReigns",     "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
-    "frmMorning",    "frmInternet",     "frmGlossary",   "frmDrafts"};
+    "frmMorning",    "frmInternet",     "frmGlossary",   "frmDrafts",    "frmProspect",
+    "frmPlayOn",     "frmMonth",        "frmGodMode"};
 
 /// Those that come before one, and the editor's.
 inline constexpr const char* kBeforeGame[] = {

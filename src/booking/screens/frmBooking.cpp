@@ -24,9 +24,7 @@ class frmBooking : public SheetScreen {
   void Load() override {
     KeepLastCard(world());
     EmptySheet(world(), false);
-    EnableUnless(cmdauto, HasAutoBooker(world())
-                              ? ""
-                              : "Nobody above the jobbers is fit, so there is nobody to book.");
+    EnableUnless(cmdauto, WhyNoAutoBooker(world()));
     ShowOpened();
   }
 

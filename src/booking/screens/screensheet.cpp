@@ -4,6 +4,7 @@
 
 #include "booking/sheet.h"
 #include "records/fields/wording.h"
+#include "records/houserules.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
 #include "show/titlechange.h"
@@ -197,10 +198,14 @@ void SheetScreen::ShowCounts() {
   const SheetCount count = CountSheet(world(), isEvent_);
   lblcount.Text = OfLeast(count.Matches, terms.MinMatches, "matches") + ", " +
                   OfLeast(count.Segments, terms.MinSegments, "segments") + " booked.";
+  const std::string house = WhyNotInThisHouse(world());
   EnableUnless(cmddoshow, IsDraft() || MayStart(world(), isEvent_) ? ""
                           : terms.OpenRows == 0                    ? "There is no show today."
-                                                : "Not enough yet: " + lblcount.Text.Get());
-  EnableUnless(cmdfill, HasEmptyRow() ? "" : "No row is empty.");
+                          : !house.empty()                         ? house
+                                           : "Not enough yet: " + lblcount.Text.Get());
+  EnableUnless(cmdfill, !HasEmptyRow()                            ? "No row is empty."
+                        : Holds(world(), HouseRule::NoAutoBooker) ? WhyNoAutoBooker(world())
+                                                                  : "");
 }
 
 bool SheetScreen::HasEmptyRow() {

@@ -99,7 +99,7 @@ class frmFedSponsor : public GameScreen {
         .Main = &cmd1,
         .Cancel = &cmdback,
         .Body = ui::Columns(
-            {ui::Group("All sponsors", {chkfilter, ui::Grow(lstsponsors)}).Grow(3),
+            {ui::Group("All sponsors", {chkfilter, chkwilling, ui::Grow(lstsponsors)}).Grow(3),
              ui::Rows({ui::Group("Our sponsors", {ui::Grow(lstplaces)}).Grow(2),
                        ui::Group("The deal", {lblsponsor, lblslogan, lbldeal, txtwhy, ui::Spacer()})
                            .Grow(1)})
@@ -119,13 +119,19 @@ class frmFedSponsor : public GameScreen {
   Sponsor* chosen() { return world().FindSponsor(lstsponsors.Key()); }
   int PlaceOf(const Sponsor* sponsor) { return sponsor ? SponsorPlace(player(), sponsor->Uid) : 0; }
 
+  bool IsShown(const Sponsor& sponsor) {
+    const bool isFree = sponsor.Promotion == 0;
+    if (chkwilling.Checked) return isFree && AnswerOf(sponsor, player()) == SponsorAnswer::Accepts;
+    return !chkfilter.Checked || isFree || sponsor.Promotion == player().Uid;
+  }
+
   void ShowSponsors() {
     std::vector<SponsorRow> rows;
     for (const Sponsor& sponsor : world().Sponsors())
-      if (!chkfilter.Checked || sponsor.Promotion == 0 || sponsor.Promotion == player().Uid)
-        rows.push_back({world(), sponsor});
-    lstsponsors.EmptyText = world().Sponsors().Count() == 0
-                                ? "There are no sponsors in this world."
+      if (IsShown(sponsor)) rows.push_back({world(), sponsor});
+    lstsponsors.EmptyText = world().Sponsors().Count() == 0 ? "There are no sponsors in this world."
+                            : chkwilling.Checked
+                                ? "Nobody would sign today. Image and a tamer product help."
                                 : "No sponsor is free. Show all of them to see whose they are.";
     FillTable(lstsponsors, kSponsorTable, rows,
               [](const SponsorRow& row) { return int(row.Of.Uid); });
@@ -259,6 +265,8 @@ class frmFedSponsor : public GameScreen {
   ui::Label lblfacts{*this, "lblfacts"};
   ui::CheckBox chkfilter{*this, "chkfilter", "Only those who are free, and ours", false,
                          &frmFedSponsor::Return};
+  ui::CheckBox chkwilling{*this, "chkwilling", "Only those who would sign today", false,
+                          &frmFedSponsor::Return};
   ui::ListBox lstsponsors{*this, "lstsponsors", HeadingsOf(kSponsorTable),
                           &frmFedSponsor::ShowChoice};
   ui::ListBox lstplaces{*this, "lstplaces", HeadingsOf(kPlaceTable),

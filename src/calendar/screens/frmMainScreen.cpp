@@ -91,7 +91,7 @@ class frmMainScreen : public ui::Screen {
     page.Side.push_back({"", {{&cmdquit, "", Reach::Away}}});
     page.Top = {&txtdate, &lblpromotion, &lblimage, &lblmoney};
     page.TopActions = {&txtname, &cmduntil, &cmdnext};
-    page.Actions = {&cmdmorning, &cmdbook};
+    page.Actions = {&cmdmonth, &cmdmorning, &cmdbook};
     page.Main = &cmdnext;
     page.Cancel = &cmdquit;
     page.Body = ui::Rows(
@@ -232,6 +232,7 @@ class frmMainScreen : public ui::Screen {
     cmdbook.Visible = !isOver && HasShowTonight();
     cmdbook.Tip = TonightText(world());
     cmdmorning.Visible = !isOver && HasAnyNight(world());
+    cmdmonth.Visible = !isOver && world().Player().Size >= kSmall;
     lblfacts.Text = HasEnded(world().Game()) ? kCareerIsOver
                     : today.empty()          ? "Nothing is due today." + done_
                                              : "Due today: " + today + "." + done_;
@@ -360,6 +361,8 @@ class frmMainScreen : public ui::Screen {
   ui::Button cmdbook{*this, "cmdbook", "Book", &frmMainScreen::cmdnext_Click};
   ui::Button cmdmorning{*this, "cmdmorning", "Morning After",
                         [this] { desk().Open("frmMorning"); }};
+  /// Small promotions have months of their own.
+  ui::Button cmdmonth{*this, "cmdmonth", "This Month", [this] { desk().Open("frmMonth"); }};
   DeskCards cards_{*this, game_};
   ui::Button cmdquit{*this, "cmdquit", "Quit", &frmMainScreen::cmdquit_Click};
 };

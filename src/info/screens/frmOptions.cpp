@@ -1,7 +1,11 @@
+#include <algorithm>
+
+#include "calendar/wishes.h"
 #include "info/mailbox.h"
 #include "info/results.h"
 #include "info/screens/infotables.h"
 #include "records/fields/wording.h"
+#include "records/houserules.h"
 #include "records/modVar.h"
 #include "ui/game.h"
 
@@ -47,10 +51,11 @@ class frmOptions : public GameScreen {
                   ui::Group("While time passes", {ui::Field("Loading screens", cmbload), cmdview}),
                   ui::Spacer()})
                  .Grow(2)}),
-        &lblfacts);
+        &lblfacts, {&cmdgod});
   }
 
   void Return() override {
+    cmdgod.Visible = Holds(world(), HouseRule::GodMode);
     for (int number = 1; number <= kOptions; ++number) {
       const MailOption& option = OptionOf(number);
       const int choice = state().*option.Choice;
@@ -87,6 +92,7 @@ class frmOptions : public GameScreen {
                        [this] { SetAll(kMailRivals); }};
   ui::Button cmdnever{*this, "cmdnever", "Never", [this] { SetAll(kMailNever); }};
   ui::Button cmdview{*this, "cmdview", "View", [this] { desk().Open("frmLoadingScreens"); }};
+  ui::Button cmdgod{*this, "cmdgod", "God Mode", [this] { desk().Open("frmGodMode"); }};
 };
 
 /// The player's own notes. What is typed is on disk with the same stroke, so that no way of closing
@@ -171,15 +177,52 @@ const CellColumns<JobLine> kJobs = {
     {{"Image after", K::Number, 1, "Today's for the present job."},
      [](const JobLine& job) { return job.EndImage; }}};
 
+struct ShownWish {
+  const World* In;
+  const OwnerWish* Is;
+};
+
+/// How a wish stands, in a word and its colour.
+ui::Cell WishStateCell(const ShownWish& wish) {
+  switch (int(wish.Is->State)) {
+    case kWishGranted:
+      return {"Fulfilled", ui::Tone::Green};
+    case kWishMissed:
+      return {"Missed", ui::Tone::Red};
+    case kWishDropped:
+      return {"Dropped", ui::Tone::Muted};
+    default:
+      return IsGranted(*wish.In, *wish.Is) ? ui::Cell("As wished", ui::Tone::Gold)
+                                           : ui::Cell("Open", ui::Tone::Gold);
+  }
+}
+
+const CellColumns<ShownWish> kWishTable = {
+    {{"Year", K::Number, 1}, [](const ShownWish& wish) { return YearOf(wish.Is->From); }},
+    {{"Wish", K::Text, 6}, [](const ShownWish& wish) { return WishText(*wish.Is); }},
+    {{"So far", K::Text, 3, "Or what it came to."},
+     [](const ShownWish& wish) {
+       return wish.Is->State == kWishDropped ? "" : WishProgress(*wish.In, *wish.Is);
+     }},
+    {{"Stands", K::Tag, 2}, WishStateCell}};
+
 /// The player's career.
 class frmUser : public GameScreen {
  public:
-  explicit frmUser(Game& game) : GameScreen(game, "frmUser", "Career") {}
+  explicit frmUser(Game& game) : GameScreen(game, "frmUser", "Career") {
+    BackBefore(cmdplayon);
+    lstwishes.EmptyText =
+        "No wishes yet. An owner tells three when a job or a year begins, and judges them on 31 "
+        "December.";
+  }
 
   ui::Page Layout() override {
-    return PageOf(ui::Columns({ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow(5),
-                               ui::Group("", {ui::Grow(txtuser)}).Grow(2)}),
-                  &lblfacts);
+    return PageOf(
+        ui::Columns({ui::Rows({ui::Group("What the owner wishes", {ui::Grow(lstwishes)}).Grow(),
+                               ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow()})
+                         .Grow(5),
+                     ui::Group("", {ui::Grow(txtuser)}).Grow(2)}),
+        &lblfacts, {}, HasEnded(world().Game()) ? &cmdplayon : nullptr);
   }
 
   void Return() override {
@@ -187,6 +230,8 @@ class frmUser : public GameScreen {
     lblfacts.Text = info.PlayerName + ", " + std::string(Says(kDifficulties, info.Difficulty)) +
                     ", since " + PlainDate(info.StartDate) + ".";
     lstjobs.Fill(NumberedRows(kJobs, CareerOf(world())));
+    cmdplayon.Visible = HasEnded(info);
+    ShowWishes();
     ShowRecord();
   }
 
@@ -208,12 +253,24 @@ class frmUser : public GameScreen {
     return lines;
   }
 
+  /// The latest year first.
+  void ShowWishes() {
+    std::vector<ShownWish> wishes;
+    for (int number = world().Wishes().Count(); number >= 1; --number)
+      wishes.push_back({&world(), &world().Wishes()[number]});
+    std::ranges::stable_sort(wishes, [](const ShownWish& a, const ShownWish& b) {
+      return YearOf(a.Is->From) > YearOf(b.Is->From);
+    });
+    lstwishes.Fill(NumberedRows(kWishTable, wishes));
+  }
+
   void ShowRecord() {
     using Style = ui::Report::Style;
     const GameInfo& info = world().Game();
     std::vector<ui::Report::Paragraph> words = {
         {Style::Heading, info.PlayerName.Str()},
         {Style::Line, ReputationText(info.Reputation) + "."},
+        {Style::Line, TrustLine(world())},
         {Style::Strong, "The present job"}};
     for (const std::string& line : LinesOf(RecordOfJob(world())))
       words.push_back({Style::Line, line});
@@ -222,7 +279,9 @@ class frmUser : public GameScreen {
 
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstjobs{*this, "lstjobs", HeadingsOf(kJobs)};
+  ui::ListBox lstwishes{*this, "lstwishes", HeadingsOf(kWishTable)};
   ui::Report txtuser{*this, "txtuser"};
+  ui::Button cmdplayon{*this, "cmdplayon", "Play On", [this] { desk().Open("frmPlayOn"); }};
 };
 
 }  // namespace

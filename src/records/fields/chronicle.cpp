@@ -170,7 +170,9 @@ constexpr Term kMoodReasons[] = {{kMoodMatchGood, "", "in matches above their st
                                  {kMoodTurnFailed, "", "a turn failed"},
                                  {kMoodPoorForm, "", "the promotion is losing ground"},
                                  {kMoodAway, "", "away in the territory"},
-                                 {kMoodStuck, "", "nothing left to learn there"}};
+                                 {kMoodStuck, "", "nothing left to learn there"},
+                                 {kMoodOuting, "", "a day out with everybody"},
+                                 {kMoodTown, "", "won the town's tournament"}};
 
 #define MONTHS(member) GM_NUMBERED(WorkerMonths, member).Counts("percent")
 constexpr Field kMonthsFields[] = {
@@ -184,7 +186,7 @@ constexpr Field kMonthsFields[] = {
 constexpr Field kMoodFields[] = {
     MOOD(On).Means("The day on which it happened."),
     MOOD(Worker).LeadsTo(Refers::Worker).Means("Whose morale."),
-    MOOD(Why).In(kMoodMatchGood, kMoodStuck).From(kMoodReasons).Means("What moved it."),
+    MOOD(Why).In(kMoodMatchGood, kLastMood).From(kMoodReasons).Means("What moved it."),
     MOOD(Change).Counts("percent").Means("By how much."),
     MOOD(After).Counts("percent").Means("Morale afterwards."),
 };

@@ -154,7 +154,10 @@ enum MoodReason {
   kMoodTurnFailed,
   kMoodPoorForm,  // the promotion keeps falling
   kMoodAway,      // in the development territory
-  kMoodStuck      // has nothing left to learn there
+  kMoodStuck,     // has nothing left to learn there
+  kMoodOuting,    // a day out with everybody
+  kMoodTown,      // won the town's tournament
+  kLastMood = kMoodTown
 };
 
 /// What moved the morale of one of the player's people: a record of moods.dat, appended and never

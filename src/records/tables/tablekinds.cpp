@@ -102,7 +102,11 @@ std::vector<TableKind> MakeKinds() {
           Kind<KeptRow>("cards.csv", true),
           Kind<ShowNote>("mornings.csv", true),
           Kind<ReadMail>("mailread.csv", true),
-          Kind<WorldKey>("worldkeys.csv", true)};
+          Kind<WorldKey>("worldkeys.csv", true),
+          Kind<BoardState>("boards.csv", true),
+          Kind<OwnerWish>("wishes.csv", true),
+          Kind<MonthPlan>("monthplans.csv", true),
+          Kind<HouseRules>("houserules.csv", true)};
 }
 
 }  // namespace

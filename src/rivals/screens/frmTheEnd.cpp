@@ -16,8 +16,8 @@ class frmTheEnd : public ui::Screen {
       : Screen(game.Desk(), "frmTheEnd", "The End", ui::Role::Cover), game_(game) {}
 
   ui::Page Layout() override {
-    return {.Actions = {&cmdlook, &cmdmenu},
-            .Main = &cmdmenu,
+    return {.Actions = {&cmdlook, &cmdmenu, &cmdplayon},
+            .Main = &cmdplayon,
             .Cancel = &cmdlook,
             .Body = ui::Columns({ui::Group("The Turnbuckle Courier", {ui::Grow(txtstory)}).Grow(3),
                                  ui::Group("Your career", {ui::Grow(txtcareer)}).Grow(2)})};
@@ -46,6 +46,7 @@ class frmTheEnd : public ui::Screen {
   ui::Report txtcareer{*this, "txtcareer"};
   ui::Button cmdlook{*this, "cmdlook", "Look Around", [this] { Close(); }};
   ui::Button cmdmenu{*this, "cmdmenu", "Main Menu", &frmTheEnd::cmdmenu_Click};
+  ui::Button cmdplayon{*this, "cmdplayon", "Play On", [this] { desk().Open("frmPlayOn"); }};
 };
 
 /// The stranger's visit. However it is left, they open their promotion.

@@ -3,6 +3,7 @@
 #include "business/networks.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
+#include "records/houserules.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "session/chairs.h"
@@ -61,7 +62,8 @@ class frmNewGame : public GameScreen {
                        ui::Tabs({ui::Group("Roster", {ui::Grow(lstroster)}),
                                  ui::Group("Television", {ui::Grow(lstshows)}),
                                  ui::Group("Titles", {ui::Grow(lstbelts)}),
-                                 ui::Group("Staff", {ui::Grow(lststaff)})})
+                                 ui::Group("Staff", {ui::Grow(lststaff)}),
+                                 ui::Group("House rules", HouseBoxes())})
                            .Grow()})
                  .Grow(4)}),
         &lblfacts, {}, &cmdbegin);
@@ -84,6 +86,20 @@ class frmNewGame : public GameScreen {
   }
 
  private:
+  std::vector<ui::Box> HouseBoxes() {
+    std::vector<ui::Box> boxes = {lblhouse};
+    for (int number = 1; number <= chkhouse.Count(); ++number) boxes.emplace_back(chkhouse(number));
+    boxes.push_back(ui::Spacer());
+    return boxes;
+  }
+
+  HouseRules ChosenHouse() {
+    HouseRules house{};
+    for (int number = 1; number <= chkhouse.Count(); ++number)
+      house.On[static_cast<std::size_t>(number - 1)] = chkhouse(number).Checked;
+    return house;
+  }
+
   void lstpromos_Click() {
     cmbPromo.SelectKey(lstpromos.Key());
     cmbPromo_Click();
@@ -165,7 +181,8 @@ class frmNewGame : public GameScreen {
                                             .PromotionUid = cmbPromo.Key(),
                                             .Difficulty = cmbdifficulty.Key(),
                                             .Start = NextFirst(game_.PresentDay()),
-                                            .SaveName = {}}));
+                                            .SaveName = {},
+                                            .House = ChosenHouse()}));
   }
 
   using K = ui::ColumnKind;
@@ -203,6 +220,15 @@ class frmNewGame : public GameScreen {
   ui::ListBox lststaff{*this, "lststaff", {{"Name"}, {"Post"}, {"Talent", K::Number}}};
   ui::ListBox lstroster{
       *this, "lstroster", {{"Name"}, {"Position"}, {"Disposition", K::Tag}, {"Over", K::Number}}};
+  ui::Label lblhouse{
+      *this, "lblhouse",
+      "What you agree with yourself for this game. All of it is off, and it cannot be "
+      "changed later."};
+  ui::Array<ui::CheckBox> chkhouse{
+      "chkhouse", static_cast<int>(AllHouseRules().size()), [this](const std::string& name, int i) {
+        const HouseRuleRow& row = AllHouseRules()[static_cast<std::size_t>(i - 1)];
+        return std::make_unique<ui::CheckBox>(*this, name, std::string(row.Says));
+      }};
   ui::Button cmdbegin{*this, "cmdbegin", "Begin", &frmNewGame::cmdbegin_Click};
 };
 

@@ -17,7 +17,7 @@ SlotScreen::SlotScreen(Game& game, std::string name, std::string title)
       summaries_(kSlots) {
   for (int slot = 1; slot <= kSlots; ++slot) {
     imgfed(slot).Height = kCrestHeight;
-    for (ui::Label* label : {&lbldetails(slot), &lblworth(slot), &lbllast(slot)})
+    for (ui::Label* label : {&lbldetails(slot), &lblworth(slot), &lbllast(slot), &lblhouse(slot)})
       label->Colour = ui::Tone::Muted;
   }
 }
@@ -25,7 +25,7 @@ SlotScreen::SlotScreen(Game& game, std::string name, std::string title)
 ui::Box SlotScreen::Card(int slot) {
   std::vector<ui::Box> parts = {
       ui::Columns({imgfed(slot), ui::Rows({ui::Grow(cmdload(slot)), lblfed(slot)}).Grow()}),
-      lbldetails(slot), lblworth(slot), lbllast(slot)};
+      lbldetails(slot), lblworth(slot), lbllast(slot), lblhouse(slot)};
   std::vector<ui::Box> acts = Acts(slot);
   if (!acts.empty()) parts.push_back(ui::Columns(std::move(acts)));
   return ui::Group("", std::move(parts)).Grow();
@@ -53,7 +53,9 @@ void SlotScreen::Show(int slot) {
   lblworth(slot).Text =
       own ? "Image " + std::to_string(own->Image) + "%, money " + Dollars(own->Money) : "";
   lbllast(slot).Text = summary.LastShow.empty() ? "" : "Last show " + summary.LastShow;
-  for (ui::Label* label : {&lblworth(slot), &lbllast(slot)}) label->Visible = !label->Text->empty();
+  lblhouse(slot).Text = summary.House.empty() ? "" : "House rules: " + summary.House;
+  for (ui::Label* label : {&lblworth(slot), &lbllast(slot), &lblhouse(slot)})
+    label->Visible = !label->Text->empty();
   Offer(cmdload(slot), summary);
 }
 

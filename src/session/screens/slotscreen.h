@@ -45,6 +45,7 @@ class SlotScreen : public GameScreen {
   ui::Array<ui::Label> lblfed = EachSlot<ui::Label>("lblfed");
   ui::Array<ui::Label> lblworth = EachSlot<ui::Label>("lblworth");
   ui::Array<ui::Label> lbllast = EachSlot<ui::Label>("lbllast");
+  ui::Array<ui::Label> lblhouse = EachSlot<ui::Label>("lblhouse");
 };
 
 }  // namespace grapplemont

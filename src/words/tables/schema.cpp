@@ -252,11 +252,29 @@ TableFile Guide() {
       {}};
 }
 
+TableFile Wishes() {
+  return {
+      "wishes.txt",
+      {{"wishes", {"calendar/wishwords.h"}}},
+      {{.Heading = "Wishes",
+        .Columns = {{"Kind",
+                     Choice,
+                     "",
+                     "kWish",
+                     {"NewStars", "DefendWomens", "DefendTitle", "FewTalks", "Profit",
+                      "YoungChampion", "BestShow", "GoodShows", "Standing", "Events", "Sponsors",
+                      "Savings", "WomensMatches", "FeudMatches", "OnAir", "TamerProduct"}},
+                    {"Says"}},
+        .Keys = {"Kind"},
+        .Arrays = {{"wishes", "WishWords", "kWishWords", {"Kind", "Says"}}}}},
+      {}};
+}
+
 }  // namespace
 
 const std::vector<TableFile>& AllTableFiles() {
   static const std::vector<TableFile> kFiles = {Segments(), Angles(),   NewPromotions(), Names(),
-                                                Help(),     Glossary(), Guide()};
+                                                Help(),     Glossary(), Guide(),         Wishes()};
   return kFiles;
 }
 

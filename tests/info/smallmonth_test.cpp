@@ -1,0 +1,129 @@
+#include "info/smallmonth.h"
+
+#include <gtest/gtest.h>
+
+#include "roster/market.h"
+#include "roster/talks.h"
+#include "support/gameonworld.h"
+#include "support/scripteddraws.h"
+#include "support/smallworld.h"
+
+namespace grapplemont::test {
+namespace {
+
+/// A Backyard promotion with $1,000, a rival of the class above, somebody young on the market.
+SmallWorld Backyard() {
+  SmallWorld small;
+  small
+      .Promotion("CWA", kBackyard,
+                 [](Promotion& p) {
+                   p.Money = 1000;
+                   p.Image = 20;
+                 })
+      .Worker("Ada Lane", kMidcard, 15, [](Worker& w) { w.Morale = 50; })
+      .Worker("Bo Drake", kMidcard, 14)
+      .Worker("Cy Finch", kMidcard, 13)
+      .Worker("Di Marsh", kMidcard, 12)
+      .Promotion("NEW", kSmall)
+      .Worker("Ed Stone", kMidcard, 25,
+              [](Worker& w) {
+                w.ContractType = "Wri";
+                w.ContractMonths = 9;
+                w.Morale = 70;
+              })
+      .OnTheMarket()
+      .Worker("Flo Reed", kMidcard, 10, [](Worker& w) { w.Wage = 6; })
+      .Sponsor("Gulp",
+               [](Sponsor& s) {
+                 s.Pay = 5;
+                 s.Morality = 10;
+               })
+      .Sponsor("Grand", [](Sponsor& s) { s.Pay = 900; })
+      .Game("CWA");
+  return small;
+}
+
+void DrawLife(World& world, std::initializer_list<ScriptedDraw> script) {
+  world.SetLife(std::make_unique<ScriptedDraws>(script));
+}
+int UidOf(const World& world, const char* name) {
+  return Named(world.Workers(), name).Uid;
+}
+
+TEST(SmallMonth, ATournamentPaysByTheImageAndIsHeldOnceAMonth) {
+  World world = Backyard();
+  DrawLife(world, {{60, 30}});
+  EXPECT_EQ(WhyNotVenture(world, Venture::Tournament, 0), "Choose somebody first.");
+  const int ada = UidOf(world, "Ada Lane");
+  ASSERT_EQ(WhyNotVenture(world, Venture::Tournament, ada), "");
+  Undertake(world, Venture::Tournament, ada);
+  EXPECT_EQ(world.Player().Money, 1000 - 600 + (20 + 30) * 12);
+  EXPECT_EQ(Named(world.Workers(), "Ada Lane").Morale, 60);
+  EXPECT_EQ(Named(world.Workers(), "Di Marsh").Condition, 95);
+  EXPECT_EQ(WhyNotVenture(world, Venture::Tournament, ada), "Once a month is enough.");
+  EXPECT_EQ(VenturesLeft(world), 5);
+  world.Game().Today = kGameStart + std::chrono::days{31};
+  EXPECT_EQ(VenturesLeft(world), 6);
+}
+
+TEST(SmallMonth, TryoutsSignForHalfAndScoutingUnsettles) {
+  World world = Backyard();
+  DrawLife(world, {{10, 4}});
+  const Worker& flo = Named(world.Workers(), "Flo Reed");
+  const int asked = ContractDemands(world, flo).Wage;
+  ASSERT_EQ(WhomFor(world, Venture::Tryout).size(), 1u);
+  Undertake(world, Venture::Tryout, flo.Uid);
+  EXPECT_EQ(flo.Employer, world.PlayerUid());
+  EXPECT_EQ(flo.Wage, asked / 2);
+  EXPECT_EQ(flo.ContractMonths, 6);
+  const Worker& ed = Named(world.Workers(), "Ed Stone");
+  ASSERT_EQ(WhyNotVenture(world, Venture::Scouting, ed.Uid), "");
+  Undertake(world, Venture::Scouting, ed.Uid);
+  EXPECT_EQ(ed.Morale, 56);
+  EXPECT_TRUE(IsShortlisted(world, ed.Uid));
+  EXPECT_TRUE(WhomFor(world, Venture::Scouting).empty()) << "they listen by themselves now";
+}
+
+TEST(SmallMonth, PostersMayBeRainedOffAndMoneyAndSizeSetLimits) {
+  World world = Backyard();
+  DrawLife(world, {{3, 3}, {3, 1}});
+  Undertake(world, Venture::Posters, 0);
+  EXPECT_EQ(world.Player().Image, 20);
+  world.MonthPlans().Rewrite({});
+  Undertake(world, Venture::Posters, 0);
+  EXPECT_EQ(world.Player().Image, 21);
+  world.MonthPlans().Rewrite({});
+  world.Player().Money = 299;
+  EXPECT_EQ(WhyNotVenture(world, Venture::Posters, 0), "You cannot afford this!");
+  world.Player().Size = kRegional;
+  EXPECT_NE(WhyNotVenture(world, Venture::Benefit, 0), "");
+  EXPECT_EQ(VenturesLeft(world), 0);
+  EXPECT_TRUE(LocalRumours(world).empty());
+}
+
+TEST(MonthScreen, OffersVenturesWithTheirPricesAndRumoursThatLeadSomewhere) {
+  GameOnWorld play(Backyard());
+  play.Desk.Open("frmMainScreen");
+  play.Desk.Click("cmdmonth");
+  ASSERT_EQ(play.Desk.TopName(), "frmMonth");
+  EXPECT_EQ(play.Desk.Rows("lstventures")[0],
+            (std::vector<std::string>{"Monthly tryout", "$300", "Open"}));
+  play.Desk.Pick("lstventures", "A benefit for the town");
+  EXPECT_FALSE(play.Desk.Visible("lstwhom"));
+  const int before = play.World().Game().Reputation;
+  play.Desk.Click("cmdventure");
+  EXPECT_EQ(play.World().Game().Reputation, before + 2);
+  EXPECT_TRUE(play.Desk.Visible("lblcame"));
+  EXPECT_FALSE(play.Desk.Enabled("cmdventure"));
+  EXPECT_EQ(play.Desk.Tip("cmdventure"), "Once a month is enough.");
+  ASSERT_FALSE(play.Desk.Rows("lstrumours").empty());
+  EXPECT_TRUE(play.Desk.FirstColumn("lstrumours")[0].starts_with("Gulp would put their name"));
+  play.Desk.OpenRow("lstrumours", 1);
+  ASSERT_EQ(play.Desk.TopName(), "frmFedSponsor");
+  EXPECT_EQ(play.Desk.Rows("lstsponsors").size(), 2u);
+  play.Desk.Check("chkwilling");
+  EXPECT_EQ(play.Desk.FirstColumn("lstsponsors"), (std::vector<std::string>{"Gulp"}));
+}
+
+}  // namespace
+}  // namespace grapplemont::test
