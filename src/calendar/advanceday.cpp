@@ -42,7 +42,7 @@ constexpr Step kFirstOfMonth[] = {
     STEP(LoanRepayments),        STEP(MerchandiseIncome),
     STEP(MonthlyCosts),          STEP(MonthlyReview),
     STEP(CloseMonthBooks),       STEP(BankruptcyCheck),
-    STEP(NewPromotionCheck),
+    STEP(NewPromotionCheck),     STEP(WorkersCareers),
 };
 
 constexpr Step kClosing[] = {
