@@ -45,7 +45,7 @@ constexpr Step kFirstOfMonth[] = {
     STEP(LoanRepayments),        STEP(MerchandiseIncome),
     STEP(MonthlyCosts),          STEP(MonthlyReview),
     STEP(CloseMonthBooks),       STEP(BankruptcyCheck),
-    STEP(NewPromotionCheck),
+    STEP(NewPromotionCheck),     STEP(WorkersCareers),
 };
 
 // The year is judged before its end is noted as what the next one is compared with.

@@ -7,6 +7,7 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/rivals.h"
+#include "roster/postings.h"
 
 namespace grapplemont {
 
@@ -112,10 +113,6 @@ constexpr std::array<const char*, 6> kTasteTexts = {
 constexpr int kYoung = 28;
 constexpr int kUnsackableScore = 101;
 
-int BestSkill(const Worker& worker) {
-  return std::max({int(worker.Brawl), int(worker.Technical), int(worker.Speed)});
-}
-
 int SkillBeforeOver(int skill, const Worker& worker) {
   return (skill * 3 + worker.Over) / 4;
 }
@@ -129,8 +126,8 @@ int WomenFirst(const Worker& worker) {
 
 /// The young count for what they may become, the others for half of what they are.
 int YouthFirst(const Worker& worker) {
-  if (worker.Age >= kYoung) return SkillBeforeOver(BestSkill(worker), worker) / 2;
-  return SkillBeforeOver(std::max<int>(BestSkill(worker), worker.Potential), worker);
+  if (worker.Age >= kYoung) return SkillBeforeOver(BestSkillOf(worker), worker) / 2;
+  return SkillBeforeOver(std::max<int>(BestSkillOf(worker), worker.Potential), worker);
 }
 
 }  // namespace
@@ -180,7 +177,7 @@ int WorkerScore(const Worker& worker, Taste taste) {
     case kAllRound:
       break;
   }
-  return SkillBeforeOver(BestSkill(worker), worker);
+  return SkillBeforeOver(BestSkillOf(worker), worker);
 }
 
 int RosterScore(const Worker& worker, Taste taste) {

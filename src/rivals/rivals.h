@@ -62,10 +62,13 @@ void RivalAdvertising(World& world);
 /// take what they can get, and those that have become big enough found Titles.
 void RosterSizeReview(World& world);
 // The first of a month.
-/// New talent comes while few are free, and whoever waits for work asks for less.
+/// Whoever waits for work asks for less or gives up, and new talent comes (newtalent.h).
 void DiscoverFreeAgents(World& world);
 /// Rivals go after who is free by now and decide about the contracts that have one month left.
 void RivalContractRenewals(World& world);
+/// Those who work for rivals, or for nobody, learn, peak, fade, get hurt and come back
+/// (careers.h).
+void WorkersCareers(World& world);
 /// Warns promotions that are deep in debt and closes those that are below the line; the player's
 /// own ends the career.
 void BankruptcyCheck(World& world);

@@ -89,7 +89,7 @@ struct SpendingHabit {
 inline constexpr std::array<SpendingHabit, 3> kHabits = {
     {{80, 50, true}, {92, 55, true}, {125, 85, false}}};
 /// This many owners in a hundred are reckless, one fewer for each this many points of talent; and
-/// so many are careful.
+/// this many are careful.
 inline constexpr int kRecklessIn100 = 30;
 inline constexpr int kTalentToOneLess = 3;
 inline constexpr int kCarefulIn100 = 30;
@@ -136,5 +136,80 @@ inline constexpr std::array<int, 6> kRoomInClass = {3, 4, 4, 6, 6, 30};
 /// above, and of whoever wants to stay than those of its own.
 inline constexpr int kMayBeWeaker = 2;
 inline constexpr int kMayBeWeakerAtHome = 8;
+
+// Careers.
+
+/// The best skill that practice brings: at least this, and two draws of this many on top.
+inline constexpr int kLeastCeiling = 48;
+inline constexpr int kCeilingDraw = 24;
+/// From these ceilings on a quarter brings up to three points and two; below, one.
+inline constexpr int kGreatGift = 84;
+inline constexpr int kFairGift = 60;
+/// Skills beside the strongest go this far, in percent of the ceiling.
+inline constexpr int kSideSkill = 65;
+/// In one of this many quarters of practice charisma gains a point.
+inline constexpr int kTalkLearnedIn = 5;
+/// One in this many blooms late, and one in this many is lost promise.
+inline constexpr int kStoriesIn = 12;
+/// What crowds see in somebody is at most this much more or less than they can do.
+inline constexpr int kStar = 10;
+/// The ages at which bodies start to fail, by the strongest skill, and after how many years more it
+/// goes twice as fast.
+inline constexpr int kFlyersFade = 36;
+inline constexpr int kBrawlersFade = 39;
+inline constexpr int kTechniciansFade = 41;
+inline constexpr int kHardYears = 10;
+
+/// Deserved Over is this many percent of talent, with what the class of the employer adds, and no
+/// more than it lets anybody have.
+inline constexpr int kTalentCounts = 125;
+struct Fame {
+  int Bonus;
+  int Most;
+};
+inline constexpr std::array<Fame, 6> kFame = {
+    {{-25, 100}, {-27, 97}, {-34, 88}, {-41, 70}, {-45, 52}, {-50, 36}}};
+inline constexpr Fame kFameOfTheFree = {-42, 46};
+inline constexpr int kLookBonus = 5;
+/// By the place on the card, Main Event to Jobber.
+inline constexpr std::array<int, 6> kPlaceBonus = {4, 2, 0, -2, -3, -4};
+/// What a year costs a wrestler whose body fails them.
+inline constexpr int kPastIt = 2;
+/// A voice alone is worth this many fifths of what voice and ring are together.
+inline constexpr int kVoiceAlone = 4;
+/// What it costs not to be seen in a ring.
+inline constexpr int kOutOfSight = 8;
+/// A month closes the gap to what is deserved by one part in this many.
+inline constexpr int kMonthsToRise = 14;
+inline constexpr int kMonthsToFade = 12;
+/// In one month of this many a crowd takes a fancy to somebody, in as many it tires of them.
+inline constexpr int kFancyIn = 8;
+
+/// One in this many fit workers of rivals is hurt in a month, for at most this many months.
+inline constexpr int kHurtIn = 110;
+inline constexpr int kLongestInjury = 9;
+/// From this many months on it costs each skill up to one less than this, and so may a comeback.
+inline constexpr int kLongInjury = 6;
+inline constexpr int kInjuryMark = 5;
+inline constexpr int kComebackGain = 5;
+inline constexpr int kComebackMorale = 10;
+/// One in this many changes sides in a month; one in this many of them to neither.
+inline constexpr int kSidesChangedIn = 120;
+inline constexpr int kTweenerIn = 6;
+
+// New people.
+
+/// While more than this many of a hundred workers are free, this many of them give up in a month:
+/// past this age and under this Over.
+inline constexpr int kFreeToSpare = 30;
+inline constexpr int kGiveUpAMonth = 2;
+inline constexpr int kGivesUpFrom = 27;
+inline constexpr int kGivesUpBelow = 40;
+/// Women are few under this many of a hundred; with enough of them one newcomer in this many is
+/// one.
+inline constexpr int kWomenWanted = 25;
+inline constexpr int kWomanOneIn = 5;
+/// From this many of a hundred on, lightweights alone give up.
+inline constexpr int kLightweightsEnough = 36;
 
 }  // namespace grapplemont::tuning

@@ -7,10 +7,10 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/founding.h"
+#include "rivals/newtalent.h"
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
 #include "rivals/tuning.h"
-#include "roster/invented.h"
 #include "roster/market.h"
 #include "roster/postings.h"
 #include "roster/talks.h"
@@ -182,32 +182,13 @@ void RivalAdvertising(World& world) {
   }
 }
 
-namespace {
-
-int CountFree(const World& world) {
-  return static_cast<int>(
-      std::ranges::count_if(world.Workers(), [](auto& worker) { return worker.Employer == 0; }));
-}
-
-/// Everybody who comes is free, so the share grows with both counts.
-int NewTalentNeeded(int free, int all) {
-  int needed = 0;
-  while (needed < tuning::kNewTalentAMonth &&
-         (free + needed) * 100 < tuning::kFreeWanted * (all + needed))
-    ++needed;
-  return needed;
-}
-
-}  // namespace
-
 void DiscoverFreeAgents(World& world) {
   for (Worker& worker : world.Workers())
     if (worker.Employer == 0 && worker.Wage > tuning::kLeastAsked)
       worker.Wage =
           std::max<int>(worker.Wage - std::max(1, worker.Wage * tuning::kWaitingDiscount / 100),
                         tuning::kLeastAsked);
-  const int needed = NewTalentNeeded(CountFree(world), world.Workers().Count());
-  for (int n = 0; n < needed && !world.Workers().Full(); ++n) NewFillerWorker(world);
+  FindNewTalent(world);
 }
 
 }  // namespace grapplemont

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+#include <vector>
 
 #include "records/modWresCheck.h"
 #include "words/names.h"
@@ -10,11 +12,21 @@ namespace grapplemont {
 
 namespace {
 
-/// The place of one of them, from 1.
-template <class Names>
-int DrawPlace(World& world, const Names& names) {
-  return world.RandomDraw(static_cast<int>(names.size()));
-}
+/// The draws of the rules, where somebody else may hand in others.
+class RuleDraws : public Draws {
+ public:
+  explicit RuleDraws(World& world) : world_(world) {}
+  int Draw(int n) override { return world_.RandomDraw(n); }
+
+ private:
+  World& world_;
+};
+
+/// Places in a table of first names, from 1 to the last; those of one sex stand together.
+struct Places {
+  int First;
+  int Last;
+};
 
 /// What a wrestler is built for.
 struct Build {
@@ -27,20 +39,20 @@ constexpr Build kBrawler{'B', &Worker::Brawl, {&Worker::Technical, &Worker::Spee
 constexpr Build kFlyer{'S', &Worker::Speed, {&Worker::Brawl, &Worker::Technical}};
 constexpr Build kTechnician{'T', &Worker::Technical, {&Worker::Brawl, &Worker::Speed}};
 
-const Build& DrawBuild(World& world, Worker& worker) {
-  const int kind = world.RandomDraw(10);
+const Build& DrawBuild(Draws& draws, Worker& worker) {
+  const int kind = draws.Draw(10);
   if (kind <= 5) {
     worker.Weight = "H";
-    worker.HighSpots = world.RandomDraw(6) == 1;
+    worker.HighSpots = draws.Draw(6) == 1;
     return kBrawler;
   }
   if (kind <= 8) {
     worker.Weight = "L";
-    worker.HighSpots = world.RandomDraw(3) < 3;
+    worker.HighSpots = draws.Draw(3) < 3;
     return kFlyer;
   }
-  worker.Weight = world.RandomDraw(2) < 2 ? "H" : "L";
-  worker.HighSpots = world.RandomDraw(4) < 3;
+  worker.Weight = draws.Draw(2) < 2 ? "H" : "L";
+  worker.HighSpots = draws.Draw(4) < 3;
   return kTechnician;
 }
 
@@ -65,8 +77,8 @@ constexpr std::array<Tier, 3> kTiers = {{
     {25, kJobber, 5, {15, 20}, {0, 5}, {0, 15}, {0, 25}},
 }};
 
-int DrawIn(World& world, Range range) {
-  return range.Base + world.RandomDraw(range.Draw);
+int DrawIn(Draws& draws, Range range) {
+  return range.Base + draws.Draw(range.Draw);
 }
 
 void CharismaBonus(Worker& worker) {
@@ -84,38 +96,39 @@ void CharismaBonus(Worker& worker) {
 }
 
 /// Names the finisher of slot 1 or 2 and sets how it is done, from the moves of a kind.
-void RandomMove(World& world, Worker& worker, char kind, int slot) {
+void RandomMove(Draws& draws, Worker& worker, char kind, int slot) {
   const auto isKind = [kind](const FinisherMove& move) { return move.Kind == kind; };
   const auto first = std::ranges::find_if(FinisherMoves, isKind);
   const auto last = std::find_if_not(first, FinisherMoves.end(), isKind);
-  const FinisherMove& move = first[world.RandomDraw(static_cast<int>(last - first)) - 1];
+  const FinisherMove& move = first[draws.Draw(static_cast<int>(last - first)) - 1];
   (slot == 1 ? worker.Finisher1 : worker.Finisher2) = move.Name;
   FinisherFlags(worker, slot, move.Type);
 }
 
-void DrawTier(World& world, Worker& worker, const Build& build) {
-  const int drawn = world.RandomDraw(25);
+void DrawTier(Draws& draws, Worker& worker, const Build& build) {
+  const int drawn = draws.Draw(25);
   const Tier& tier = *std::ranges::find_if(kTiers, [&](auto& t) { return drawn <= t.UpTo; });
-  RandomMove(world, worker, build.Moves, 1);
-  RandomMove(world, worker, build.Moves, 2);
+  RandomMove(draws, worker, build.Moves, 1);
+  RandomMove(draws, worker, build.Moves, 2);
   const bool mayManage = tier.Position == kJobber;
-  worker.Position = mayManage && world.RandomDraw(5) == 1 ? int(kManager) : tier.Position;
+  worker.Position = mayManage && draws.Draw(5) == 1 ? int(kManager) : tier.Position;
   worker.Wage = tier.Wage;
-  worker.*build.Strong = DrawIn(world, tier.Strong);
-  for (const auto weak : build.Weak) worker.*weak = DrawIn(world, tier.Weak);
-  worker.Over = DrawIn(world, build.Moves == 'B' ? tier.BrawlerOver : tier.OtherOver);
+  worker.*build.Strong = DrawIn(draws, tier.Strong);
+  for (const auto weak : build.Weak) worker.*weak = DrawIn(draws, tier.Weak);
+  worker.Over = DrawIn(draws, build.Moves == 'B' ? tier.BrawlerOver : tier.OtherOver);
   CharismaBonus(worker);
 }
 
 /// A name that nobody has, and the sex that comes with it: women's first names stand behind the
 /// last male one. Gives the surname.
 template <class Person, class Names>
-std::string_view DrawName(World& world, Person& person, const Names& firstNames, int lastMale,
+std::string_view DrawName(const World& world, Draws& draws, Person& person, const Names& firstNames,
+                          Places among, int lastMale,
                           bool (*isFree)(const World& world, std::string_view name)) {
   std::string_view surname;
   do {
-    surname = Surnames[static_cast<std::size_t>(DrawPlace(world, Surnames) - 1)];
-    const int first = DrawPlace(world, firstNames);
+    surname = Surnames[static_cast<std::size_t>(draws.Draw(static_cast<int>(Surnames.size())) - 1)];
+    const int first = among.First - 1 + draws.Draw(among.Last - among.First + 1);
     person.Name =
         std::string(firstNames[static_cast<std::size_t>(first - 1)]) + " " + std::string(surname);
     person.Gender = first <= lastMale;
@@ -123,29 +136,82 @@ std::string_view DrawName(World& world, Person& person, const Names& firstNames,
   return surname;
 }
 
-void DrawName(World& world, Worker& worker) {
-  worker.ShortName =
-      DrawName(world, worker, WorkerFirstNames, kLastMaleWorkerFirstName, WorkerNameFree);
+constexpr Places kAllFirstNames = {1, kWorkerFirstNames};
+constexpr Places kMensFirstNames = {1, kLastMaleWorkerFirstName};
+constexpr Places kWomensFirstNames = {kLastMaleWorkerFirstName + 1, kWorkerFirstNames};
+
+void DrawName(const World& world, Draws& draws, Worker& worker, Places among) {
+  worker.ShortName = DrawName(world, draws, worker, WorkerFirstNames, among,
+                              kLastMaleWorkerFirstName, WorkerNameFree);
 }
 
 /// Birthday, disposition and the four flags of somebody whom nobody employs.
-void DrawOnTheMarket(World& world, Worker& worker) {
-  worker.BirthMonth = world.RandomDraw(12);
+void DrawOnTheMarket(Draws& draws, Worker& worker) {
+  worker.BirthMonth = draws.Draw(12);
   worker.ContractType = "Non";
   worker.Status = "Nor";
   worker.Speaks = true;
-  worker.Disposition = world.RandomDraw(2) == 1 ? "F" : "H";
-  worker.Trainer = world.RandomDraw(35) == 1;
-  worker.SuperstarLook = world.RandomDraw(20) == 1 || worker.Diva;
-  worker.Booker = world.RandomDraw(70) == 1;
-  worker.Announcer = world.RandomDraw(70) == 1;
+  worker.Disposition = draws.Draw(2) == 1 ? "F" : "H";
+  worker.Trainer = draws.Draw(35) == 1;
+  worker.SuperstarLook = draws.Draw(20) == 1 || worker.Diva;
+  worker.Booker = draws.Draw(70) == 1;
+  worker.Announcer = draws.Draw(70) == 1;
   worker.Stable = "None";
   worker.Split = "None";
 }
 
+void DrawAttributes(Draws& draws, Worker& worker, Generation generation) {
+  worker.Age = 18 + draws.Draw(generation == Generation::Rookie ? 4 : 20);
+  worker.Stiff = 30 + draws.Draw(60);
+  worker.Sell = 30 + draws.Draw(60);
+  worker.Charisma = draws.Draw(95);
+  const Range character = worker.Age >= 22 ? Range{30, 65} : Range{40, 45};
+  worker.Attitude = DrawIn(draws, character);
+  worker.Behaviour = DrawIn(draws, character);
+  worker.Diva = !worker.Gender && draws.Draw(10) < 5;
+  worker.RetiringSoon = false;
+  worker.Debuted = true;
+  const Build& build = DrawBuild(draws, worker);
+  DrawTier(draws, worker, build);
+}
+
+/// What differs in somebody who is at their beginning.
+void DrawRookie(Draws& draws, Worker& rookie) {
+  DrawAttributes(draws, rookie, Generation::Rookie);
+  rookie.Diva = !rookie.Gender && draws.Draw(20) < 5;
+  DrawOnTheMarket(draws, rookie);
+  rookie.Condition = draws.Draw(14) + 75;
+  rookie.Morale = draws.Draw(14) + 75;
+  rookie.Loyalty = draws.Draw(30) + 70;
+  rookie.Potential = std::max(30, rookie.Over + draws.Draw(30));
+  rookie.OverFloor = rookie.Over - draws.Draw(30);
+}
+
+/// What reports may call somebody, the most usual first; cut to their field.
+std::vector<std::string> ShortNamesOf(const Worker& worker) {
+  const std::string name = worker.Name.Str(), surname = worker.ShortName.Str();
+  const std::string first = name.substr(0, name.find(' '));
+  constexpr auto kRoom = static_cast<std::size_t>(decltype(Worker::ShortName)::kWidth);
+  std::vector<std::string> names = {surname, first, first.substr(0, 1) + ". " + surname,
+                                    first + " " + surname.substr(0, 1) + "."};
+  std::erase_if(names, [](const std::string& words) { return words.size() > kRoom; });
+  return names;
+}
+
+/// Names until one is like no other; in a world where that is hard, the last one drawn.
+void DrawOwnNames(const World& world, Draws& draws, Worker& worker, Places among) {
+  constexpr int kTries = 20;
+  for (int n = 0; n < kTries; ++n) {
+    DrawName(world, draws, worker, among);
+    if (TellApart(world, worker)) return;
+  }
+}
+
 Staff NewStaffMember(World& world, int position) {
   Staff staff;
-  DrawName(world, staff, StaffFirstNames, kLastMaleStaffFirstName, StaffNameFree);
+  RuleDraws draws(world);
+  DrawName(world, draws, staff, StaffFirstNames, Places{1, kStaffFirstNames},
+           kLastMaleStaffFirstName, StaffNameFree);
   staff.Uid = NextStaffUid(world);
   staff.Position = position;
   NewStaffAttributes(world, staff);
@@ -155,18 +221,8 @@ Staff NewStaffMember(World& world, int position) {
 }  // namespace
 
 void NewWorkerAttributes(World& world, Worker& worker, Generation generation) {
-  worker.Age = 18 + world.RandomDraw(generation == Generation::Rookie ? 4 : 20);
-  worker.Stiff = 30 + world.RandomDraw(60);
-  worker.Sell = 30 + world.RandomDraw(60);
-  worker.Charisma = world.RandomDraw(95);
-  const Range character = worker.Age >= 22 ? Range{30, 65} : Range{40, 45};
-  worker.Attitude = DrawIn(world, character);
-  worker.Behaviour = DrawIn(world, character);
-  worker.Diva = !worker.Gender && world.RandomDraw(10) < 5;
-  worker.RetiringSoon = false;
-  worker.Debuted = true;
-  const Build& build = DrawBuild(world, worker);
-  DrawTier(world, worker, build);
+  RuleDraws draws(world);
+  DrawAttributes(draws, worker, generation);
 }
 
 void InventName(World& world, Worker& worker) {
@@ -185,32 +241,48 @@ void InventName(World& world, Staff& staff) {
 }
 
 Worker& NewFillerWorker(World& world) {
+  RuleDraws draws(world);
   Worker worker;
-  DrawName(world, worker);
+  DrawName(world, draws, worker, kAllFirstNames);
   worker.Uid = NextWorkerUid(world);
-  NewWorkerAttributes(world, worker, Generation::Filler);
-  DrawOnTheMarket(world, worker);
-  worker.Condition = 60 + world.RandomDraw(40);
-  worker.Morale = 60 + world.RandomDraw(40);
-  worker.Loyalty = 70 + world.RandomDraw(30);
+  DrawAttributes(draws, worker, Generation::Filler);
+  DrawOnTheMarket(draws, worker);
+  worker.Condition = 60 + draws.Draw(40);
+  worker.Morale = 60 + draws.Draw(40);
+  worker.Loyalty = 70 + draws.Draw(30);
   worker.OverFloor = OverFloorFor(worker.Over);
   worker.Potential = StartingPotential(world, worker.Over);
   return world.Workers().Append(worker);
 }
 
 void ReplaceByRookie(World& world, Worker& worker) {
+  RuleDraws draws(world);
   Worker rookie;
-  DrawName(world, rookie);
+  DrawOwnNames(world, draws, rookie, kAllFirstNames);
   rookie.Uid = NextWorkerUid(world);
-  NewWorkerAttributes(world, rookie, Generation::Rookie);
-  rookie.Diva = !rookie.Gender && world.RandomDraw(20) < 5;
-  DrawOnTheMarket(world, rookie);
-  rookie.Condition = world.RandomDraw(14) + 75;
-  rookie.Morale = world.RandomDraw(14) + 75;
-  rookie.Loyalty = world.RandomDraw(30) + 70;
-  rookie.Potential = std::max(30, rookie.Over + world.RandomDraw(30));
-  rookie.OverFloor = rookie.Over - world.RandomDraw(30);
+  DrawRookie(draws, rookie);
   worker = rookie;
+}
+
+Worker NewTalent(World& world, bool isWoman) {
+  Draws& life = world.Life();
+  Worker talent;
+  DrawOwnNames(world, life, talent, isWoman ? kWomensFirstNames : kMensFirstNames);
+  talent.Uid = NextWorkerUid(world);
+  DrawRookie(life, talent);
+  return talent;
+}
+
+bool TellApart(const World& world, Worker& worker) {
+  for (const std::string& name : ShortNamesOf(worker)) {
+    const auto bears = [&](const Worker& other) {
+      return &other != &worker && other.ShortName == name;
+    };
+    if (std::ranges::any_of(world.Workers(), bears)) continue;
+    worker.ShortName = name;
+    return true;
+  }
+  return false;
 }
 
 void NewStaffAttributes(World& world, Staff& staff) {

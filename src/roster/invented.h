@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+
 #include "records/world.h"
 
 // People whom the program makes up: to fill a new world, and in the place of the retired.
@@ -19,6 +20,11 @@ Worker& NewFillerWorker(World& world);
 Staff& NewFillerStaff(World& world, int position);
 /// A rookie takes the record of a worker who is gone: another name, another uid, nobody's employee.
 void ReplaceByRookie(World& world, Worker& worker);
+/// A rookie on the market whom nobody has replaced yet, drawn from the world's life; in no table.
+Worker NewTalent(World& world, bool isWoman);
+/// Gives somebody invented, who bears their surname as short name, another one where that is
+/// taken: the first name, an initial beside either. Where all are, it stays, and the answer is no.
+bool TellApart(const World& world, Worker& worker);
 /// Somebody new for the same post takes the record of a member of staff who is gone.
 void ReplaceByNewcomer(World& world, Staff& staff);
 /// Talent, wage and the other words of a new person in the post, who keeps name, uid, sex and post.

@@ -17,4 +17,10 @@ struct FinisherMove {
   std::string_view Name;
 };
 
+/// Where somebody may come from: "Halifax", "in Canada"; the country is part of some names.
+struct HomeTown {
+  std::string_view Where;
+  std::string_view Name;
+};
+
 }  // namespace grapplemont

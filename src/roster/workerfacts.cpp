@@ -6,6 +6,7 @@
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "roster/hometown.h"
 #include "roster/market.h"
 #include "roster/postings.h"
 #include "roster/staff.h"
@@ -85,6 +86,7 @@ FactGroup Person(const World& world, const Worker& worker) {
   FactGroup group{worker.Name.Str(), {}};
   Add(group, WhoHeIs(worker) + (worker.Weight == "L" ? ", a lightweight." : ", a heavyweight."));
   Add(group, "Known as " + worker.ShortName + " for short.");
+  Add(group, HomeLine(world, worker));
   Add(group, std::string(DispositionText(worker.Disposition)) + ". Over " +
                  std::to_string(worker.Over) + ", charisma " + std::to_string(worker.Charisma) +
                  ".");

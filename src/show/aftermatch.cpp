@@ -186,7 +186,7 @@ void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
 
 namespace {
 
-constexpr std::array<std::string_view, 12> kInjuries = {
+constexpr std::array<std::string_view, kInjuryKinds> kInjuries = {
     "Broken Arm",  "Broken Leg", "Back Injury", "Tricep Tear",  "Neck Injury",  "Eye Injury",
     "Broken Nose", "Torn Calf",  "Knee Injury", "Ankle Injury", "Damaged Hand", "Ripped Bicep"};
 constexpr int kLongestMonths = 6;
@@ -214,10 +214,14 @@ int OddsOf(const SegmentRun& run, const Worker& worker) {
 }  // namespace
 
 void BreakSomething(World& world, Worker& worker) {
+  const int kind = world.RandomDraw(kInjuryKinds);
+  Injure(world, worker, kind, world.RandomDraw(kLongestMonths));
+}
+
+void Injure(World& world, Worker& worker, int kind, int months) {
   worker.Status = "Inj";
-  worker.InjuryName =
-      kInjuries[static_cast<std::size_t>(world.RandomDraw(static_cast<int>(kInjuries.size())) - 1)];
-  worker.StatusMonths = world.RandomDraw(kLongestMonths);
+  worker.InjuryName = kInjuries[static_cast<std::size_t>(kind - 1)];
+  worker.StatusMonths = months;
   NoteDeed(world, kDeedInjured, world.FindPromotion(worker.Employer), worker.Name,
            worker.InjuryName, worker.StatusMonths);
 }

@@ -15,6 +15,10 @@ void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner);
 void DrawInjuries(SegmentRun& run);
 /// Draws which injury it is, and how many months it lasts.
 void BreakSomething(World& world, Worker& worker);
+/// Injuries have the numbers from 1 to this.
+inline constexpr int kInjuryKinds = 12;
+/// They are out with an injury for this many months, and the world hears of it.
+void Injure(World& world, Worker& worker, int kind, int months);
 /// A stiff worker hurts the others of their match.
 void HurtOthers(SegmentRun& run, const Worker& stiff);
 

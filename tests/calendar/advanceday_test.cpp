@@ -40,12 +40,12 @@ TEST(AdvanceDay, RunsItsBlocksInTheirFixedOrder) {
                   "StatusCountdown AgeAndRetire RivalNewTvShows PayWagesAndContracts "
                   "RivalContractRenewals SponsorContractCountdown LoanRepayments "
                   "MerchandiseIncome MonthlyCosts MonthlyReview CloseMonthBooks BankruptcyCheck "
-                  "NewPromotionCheck "
+                  "NewPromotionCheck WorkersCareers "
                   "IncidentRoll SweepDeadPromotions SweepDeadShows UpdateReigns GiveAwards "
                   "NoteMonths"));
   EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 3).size(), 5u + 6);
   EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9).size(), 5u + 8 + 6);
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1).size(), 5u + 17 + 6);
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1).size(), 5u + 18 + 6);
 }
 
 /// CWA with Events in March and May; a rival with one in April.

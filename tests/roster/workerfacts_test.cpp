@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "records/fields/fields.h"
 #include "records/modWresCheck.h"
+#include "roster/hometown.h"
 #include "support/smallworld.h"
 
 // What a worker's page says.
@@ -67,8 +70,9 @@ TEST(WorkerFacts, TellEveryFieldInWords) {
   EXPECT_EQ(
       Told(world, kBram, kBram),
       Lines({"A man of 34, born in June, a lightweight.", "Known as Okafor for short.",
-             "Heel. Over 66, charisma 71.", "Turned 2 weeks ago.", "A turn is being prepared.",
-             "Looks like a superstar.", "Cannot do interviews.",
+             HomeLine(world, Named(world.Workers(), kBram)), "Heel. Over 66, charisma 71.",
+             "Turned 2 weeks ago.", "A turn is being prepared.", "Looks like a superstar.",
+             "Cannot do interviews.",
              "The fans will always remember: a fall of the promotion never takes Over under 50.",
              "Has announced to retire soon."}));
   EXPECT_EQ(
@@ -88,6 +92,17 @@ TEST(WorkerFacts, TellEveryFieldInWords) {
             Lines({"Able to train others.", "Able to announce.", "Able to book."}));
 }
 
+TEST(HomeTowns, AreTheirOwnForEverybody) {
+  World world = SmallWorld().Promotion("CWA").Crew(40).Game("CWA");
+  std::set<std::string> homes;
+  for (const Worker& worker : world.Workers()) {
+    const std::string home = HomeLine(world, worker);
+    EXPECT_EQ(home, HomeLine(world, worker)) << "at every look";
+    homes.insert(home);
+  }
+  EXPECT_GE(homes.size(), 20u);
+}
+
 TEST(WorkerFacts, TellOfFreeAgents) {
   World world = SmallWorld()
                     .Promotion("CWA")
@@ -102,7 +117,7 @@ TEST(WorkerFacts, TellOfFreeAgents) {
             Lines({"Works for nobody. Last known as Midcard.", "Last earned $10,000 a month."}));
   EXPECT_EQ(Told(world, "Dot Hale", "Dot Hale").at(0),
             "A woman of 28, born in June, a heavyweight.");
-  EXPECT_EQ(Told(world, "Dot Hale", "Dot Hale").at(4), "Has sex appeal.");
+  EXPECT_EQ(Told(world, "Dot Hale", "Dot Hale").at(5), "Has sex appeal.");
   for (const char* heading : {"Titles", "Company", "Feuds", "Beside the ring"})
     EXPECT_TRUE(Told(world, "Dot Hale", heading).empty()) << heading;
 }

@@ -184,6 +184,19 @@ std::vector<NameArray::List> Moves() {
           {"Speed moves, ground", "'S', FinisherType::Ground, "}};
 }
 
+/// Towns by country; of countries with few, the country stands with the town.
+std::vector<NameArray::List> HomeTowns() {
+  return {{"Home towns in the United States", "\"in the United States\", "},
+          {"Home towns in Canada", "\"in Canada\", "},
+          {"Home towns in Mexico", "\"in Mexico\", "},
+          {"Home towns in Puerto Rico", "\"in Puerto Rico\", "},
+          {"Home towns in Great Britain", "\"in Great Britain\", "},
+          {"Home towns in Ireland", "\"in Ireland\", "},
+          {"Home towns in Japan", "\"in Japan\", "},
+          {"Home towns in Germany", "\"in Germany\", "},
+          {"Home towns in other countries", "\"\", "}};
+}
+
 /// The lengths leave room for a first name, a blank and a surname in 25 letters, and for a surname
 /// in the 10 of a short name. The numbers are rules: draws go by them.
 TableFile Names() {
@@ -204,7 +217,8 @@ TableFile Names() {
             14,
             {{"First names of men on the staff", "", 161, "kLastMaleStaffFirstName"},
              {"First names of women on the staff", "", 31}}},
-           {"FinisherMove", "FinisherMoves", 64, 25, Moves()}}};
+           {"FinisherMove", "FinisherMoves", 64, 25, Moves()},
+           {"HomeTown", "HomeTowns", 166, 28, HomeTowns()}}};
 }
 
 /// What a player is told about a screen and about a term, and the first week's steps.
