@@ -18,13 +18,14 @@ program(embed-tables src/words/tables/main.cpp words_tables)
 set_target_properties(embed-tables PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 
 set(tables "")
-foreach(name angles glossary guide help names promotions segments)
+foreach(name angles glossary guide help names promotions segments stories)
   list(APPEND tables ${PROJECT_SOURCE_DIR}/words/${name}.txt)
 endforeach()
 set(made ${CMAKE_BINARY_DIR}/tables/words)
 add_custom_command(
   OUTPUT ${made}/anglerules.h ${made}/angles.h ${made}/glossary.h ${made}/guide.h ${made}/help.h
          ${made}/names.h ${made}/promotions.h ${made}/purposes.h ${made}/segments.h
+         ${made}/stories.h
   COMMAND embed-tables ${PROJECT_SOURCE_DIR}/words ${made}
   DEPENDS embed-tables ${tables}
   COMMENT "Reading the tables of words/"

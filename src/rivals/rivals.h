@@ -53,8 +53,11 @@ Sponsor* SponsorForRival(World& world, const Promotion& rival);
 // Mondays.
 /// Everybody who works for a rival stands on the card where his popularity puts him.
 void RivalPositions(World& world);
-/// A house show a week, and, the day after an Event, what became of the Titles there.
+/// A house show a week.
 void RivalHouseShows(World& world);
+/// Teams, stables, managers and grudges come together and apart, Titles are made and rest, moves
+/// and names change.
+void RivalStories(World& world);
 /// Rivals advertise by their standing, those in debt half as much.
 void RivalAdvertising(World& world);
 /// Rivals that save let somebody go, those that prosper sign somebody, and those that have become

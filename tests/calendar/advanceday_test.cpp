@@ -35,6 +35,7 @@ TEST(AdvanceDay, RunsItsBlocksInTheirFixedOrder) {
                   "DailyWorkerUpkeep "
                   "RivalPositions RivalHouseShows WriterWorkload TvContractReview "
                   "SponsorRiskReview EconomyDrift RivalAdvertising RosterSizeReview "
+                  "RivalStories "
                   "PoorFormMorale DiscoverFreeAgents DevelopmentMonth TrainingCampMonth "
                   "StatusCountdown AgeAndRetire RivalNewTvShows PayWagesAndContracts "
                   "RivalContractRenewals SponsorContractCountdown LoanRepayments "
@@ -43,7 +44,7 @@ TEST(AdvanceDay, RunsItsBlocksInTheirFixedOrder) {
                   "IncidentRoll SweepDeadPromotions SweepDeadShows UpdateReigns GiveAwards "
                   "NoteMonths"));
   EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 3).size(), 5u + 6);
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9).size(), 5u + 8 + 6);
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9).size(), 5u + 9 + 6);
   EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1).size(), 5u + 17 + 6);
 }
 

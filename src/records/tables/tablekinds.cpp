@@ -102,7 +102,10 @@ std::vector<TableKind> MakeKinds() {
           Kind<KeptRow>("cards.csv", true),
           Kind<ShowNote>("mornings.csv", true),
           Kind<ReadMail>("mailread.csv", true),
-          Kind<WorldKey>("worldkeys.csv", true)};
+          Kind<WorldKey>("worldkeys.csv", true),
+          Kind<CardMatch>("rivalcards.csv", true),
+          Kind<Grudge>("grudges.csv", true),
+          Kind<RingName>("ringnames.csv", true)};
 }
 
 }  // namespace
