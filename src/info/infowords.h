@@ -61,6 +61,7 @@ inline constexpr DeedRow kDeedRows[] = {
     {kDeedGrudge, "Story", "who house other"},
     {kDeedSettled, "Story", "who house other"},
     {kDeedManaged, "Story", "who house other"},
+    {kDeedManager, "Story", "who house"},
     {kDeedTitleMade, "Title", "who house"},
     {kDeedRenamed, "Story", "who house other"},
 };

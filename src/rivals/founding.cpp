@@ -215,7 +215,7 @@ std::string FoundTitle(World& world, const Promotion& promotion, std::string_vie
 
 void FoundTitles(World& world, const Promotion& promotion) {
   FoundTitle(world, promotion, "Crown", {});
-  FoundTitle(world, promotion, "Tag Titles", {.Singles = false});
+  FoundTitle(world, promotion, "Tag Titles", {.Name = {}, .Singles = false});
 }
 
 void NewPromotionCheck(World& world) {

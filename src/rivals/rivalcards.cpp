@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "records/fields/fields.h"
@@ -133,10 +134,9 @@ class CardMaker {
   void BookTitle(Title& title) {
     const std::optional<Corner> champion = ChampionOf(title);
     if (title.Holder != 0 && !champion) return;
-    const Corner* red = champion ? &*champion : nullptr;
-    std::optional<Corner> first = champion ? champion : Contender(title, nullptr);
+    const std::optional<Corner> first = champion ? champion : Contender(title, nullptr);
     if (!first) return;
-    const std::optional<Corner> second = Contender(title, red ? red : &*first);
+    const std::optional<Corner> second = Contender(title, &*first);
     if (second) Add({*first, *second, &title, HeatBetween(*first, *second)});
   }
 
@@ -177,9 +177,11 @@ class CardMaker {
         found.push_back(team);
     if (found.size() > 1) return found;
     const std::vector<Corner> alone = Singles(title);
-    for (std::size_t i = 0; i + 1 < alone.size(); ++i)
-      if (alone[i].First->Gender == alone[i + 1].First->Gender)
-        found.push_back({alone[i].First, alone[i + 1].First}), ++i;
+    for (std::size_t i = 0; i + 1 < alone.size(); ++i) {
+      if (bool(alone[i].First->Gender) != bool(alone[i + 1].First->Gender)) continue;
+      found.push_back({alone[i].First, alone[i + 1].First});
+      ++i;
+    }
     return found;
   }
 

@@ -39,6 +39,29 @@ void TakeClient(World& world, const Promotion& rival, const Worker& manager, con
   NoteDeed(world, kDeedManaged, &rival, manager.Name, client->Name);
 }
 
+bool IsChampion(const World& world, const Worker& worker) {
+  return std::ranges::any_of(world.Titles(), [&](const Title& title) {
+    return title.Holder == worker.Uid || title.Partner == worker.Uid;
+  });
+}
+
+/// The lowest on the card of those who are old enough and can talk leaves the ring.
+void MakeManager(World& world, const Promotion& rival, const Troupe& troupe) {
+  const int wanted = static_cast<int>(troupe.Wrestlers.size()) / tuning::kWrestlersAManager;
+  if (static_cast<int>(troupe.Managers.size()) >= wanted || !Happens(world, tuning::kNewManagerIn))
+    return;
+  const auto old =
+      std::find_if(troupe.Wrestlers.rbegin(), troupe.Wrestlers.rend(), [&](const Worker* worker) {
+        return worker->Age >= tuning::kManagersAge && worker->Status == "Nor" &&
+               worker->Charisma >= tuning::kManagersCharisma && worker->Speaks &&
+               !troupe.Teamed.contains(worker->Uid) && !IsChampion(world, *worker);
+      });
+  if (old == troupe.Wrestlers.rend()) return;
+  (*old)->Position = kManager;
+  (*old)->Manager = 0;
+  NoteDeed(world, kDeedManager, &rival, (*old)->Name);
+}
+
 // Titles.
 
 bool IsForWomen(const Title& title) {
@@ -56,9 +79,10 @@ struct KindOfTitle {
   const char* What;
   TitleTerms Terms;
 };
-const KindOfTitle kKindsOfTitle[] = {{IsForWomen, "Women's Belt", {.Woman = true}},
-                                     {IsForLightweights, "Light Belt", {.Lightweight = true}},
-                                     {IsForTeams, "Tag Titles", {.Singles = false}}};
+const KindOfTitle kKindsOfTitle[] = {
+    {IsForWomen, "Women's Belt", {.Name = {}, .Woman = true}},
+    {IsForLightweights, "Light Belt", {.Name = {}, .Lightweight = true}},
+    {IsForTeams, "Tag Titles", {.Name = {}, .Singles = false}}};
 
 int MayFightFor(const Title& title, const Troupe& troupe) {
   return static_cast<int>(std::ranges::count_if(
@@ -112,12 +136,6 @@ void LearnMove(World& world, Worker& worker) {
   FinisherFlags(worker, slot, move.Type);
 }
 
-bool IsChampion(const World& world, const Worker& worker) {
-  return std::ranges::any_of(world.Titles(), [&](const Title& title) {
-    return title.Holder == worker.Uid || title.Partner == worker.Uid;
-  });
-}
-
 /// The surname stays, and the old name is kept.
 void ChangeName(World& world, const Promotion& rival, Worker& worker) {
   if (worker.Over > tuning::kKnownByName || IsChampion(world, worker)) return;
@@ -125,7 +143,8 @@ void ChangeName(World& world, const Promotion& rival, Worker& worker) {
   const std::size_t blank = before.rfind(' ');
   const std::string name = std::string(AnyOf(world, Nicknames)) + " " +
                            (blank == before.npos ? before : before.substr(blank + 1));
-  if (name.size() > decltype(Worker::Name)::kWidth || !WorkerNameFree(world, name)) return;
+  constexpr std::size_t kLetters = decltype(Worker::Name)::kWidth;
+  if (name.size() > kLetters || !WorkerNameFree(world, name)) return;
   RingName old{};
   old.Until = world.Today();
   old.Worker = worker.Uid;
@@ -138,6 +157,7 @@ void ChangeName(World& world, const Promotion& rival, Worker& worker) {
 void Tell(World& world, const Promotion& rival, Troupe& troupe) {
   FormTeam(world, rival, troupe);
   MoveStables(world, rival, troupe);
+  MakeManager(world, rival, troupe);
   for (const Worker* manager : troupe.Managers) TakeClient(world, rival, *manager, troupe);
   MakeTitles(world, rival, troupe);
   if (troupe.Wrestlers.empty()) return;

@@ -110,6 +110,12 @@ inline constexpr int kStableWants = 4;
 inline constexpr int kStableTakesIn = 10;
 /// Two stables of one roster begin to feud.
 inline constexpr int kStableFeudIn = 12;
+/// A rival wants a manager for every so many wrestlers. In one week of so many it makes one of a
+/// wrestler of that age and charisma.
+inline constexpr int kWrestlersAManager = 20;
+inline constexpr int kNewManagerIn = 8;
+inline constexpr int kManagersAge = 37;
+inline constexpr int kManagersCharisma = 50;
 /// A manager who has fewer clients than that takes one, in one week of so many.
 inline constexpr int kClientsWanted = 2;
 inline constexpr int kClientTakenIn = 4;

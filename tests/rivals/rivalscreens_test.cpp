@@ -96,7 +96,7 @@ TEST(frmCards, ShowsTheCardOfARivalsShow) {
   EXPECT_EQ(rows[0][3], "");
   EXPECT_EQ(rows[1][1], "Slam");
   EXPECT_EQ(rows[1][3], "44");
-  play.Desk.Pick("lstshows", rows[1][0]);
+  play.Desk.Pick("lstshows", 2);
   EXPECT_NE(play.Desk.Text("txtcard").find("A television rating of 2. 05. 300 people"),
             std::string::npos)
       << play.Desk.Text("txtcard");

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "records/modWresCheck.h"
 #include "rivals/faults.h"
 #include "rivals/rivals.h"
@@ -17,11 +19,11 @@ void ScriptLife(World& world, const std::vector<ScriptedDraw>& script) {
   world.SetLife(std::make_unique<ScriptedDraws>(script));
 }
 
-/// Six at the rival: Over 80 to 30, one a place of the card.
-SmallWorld Six() {
+/// Six at the rival, or more: Over 80 to 30, one a place of the card.
+SmallWorld Six(int crew = 6) {
   SmallWorld small;
   small.Promotion("CWA").Worker("Mine", kMainEvent, 90).Worker("Ours", kMainEvent, 80);
-  small.Team("The Own", "Mine", "Ours").Promotion("XWF", kCult).Crew(6);
+  small.Team("The Own", "Mine", "Ours").Promotion("XWF", kCult).Crew(crew);
   return small;
 }
 
@@ -88,7 +90,7 @@ TEST(RivalTeams, StayWhileTheyAreChampionsAndAreForgottenApart) {
 }
 
 TEST(RivalStables, BeginTakeInFallOutAndEnd) {
-  World world = Six().Crew(18).Game("CWA");  // 24 at the rival
+  World world = Six(24).Game("CWA");
   const Worker& leader = Named(world.Workers(), "XWF Hand 1");
   ScriptLife(world, {{4, 1}, {16, 1}, {2, 1}});
   MoveStables(world, XWF(world), TroupeOf(world));
@@ -130,6 +132,18 @@ TEST(RivalStories, GiveManagersClientsWhoCannotTalk) {
   Week(world, {{2, 2}, {4, 1}, {6, 1}, {6, 2}, {12, 2}, {300, 2}});
   EXPECT_EQ(quiet.Manager, Named(world.Workers(), "Mouth").Uid);
   EXPECT_EQ(LastDeed(world), kDeedManaged);
+}
+
+TEST(RivalStories, MakeManagersOfTheOldWhoCanTalk) {
+  World world = Six(20).Game("CWA");
+  Worker& old = Named(world.Workers(), "XWF Hand 8");
+  old.Age = 40;
+  old.Charisma = 70;
+  // A team is wanted, and a stable; neither comes about.
+  Week(world, {{2, 2}, {4, 2}, {8, 1}, {6, 2}, {12, 2}, {300, 2}});
+  EXPECT_EQ(old.Position, kManager);
+  EXPECT_EQ(LastDeed(world), kDeedManager);
+  EXPECT_EQ(FaultsOf(world), "");
 }
 
 TEST(RivalStories, MakeTitlesForWhomThereIsAndLetThemRest) {

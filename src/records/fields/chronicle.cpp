@@ -252,6 +252,7 @@ constexpr Term kDeedKinds[] = {{kDeedSigned, "", "Signed"},
                                {kDeedGrudge, "", "Grudge began"},
                                {kDeedSettled, "", "Grudge settled"},
                                {kDeedManaged, "", "Took a client"},
+                               {kDeedManager, "", "Became a manager"},
                                {kDeedTitleMade, "", "Title made"},
                                {kDeedRenamed, "", "Took a new ring name"}};
 

@@ -263,6 +263,7 @@ enum DeedKind {
   kDeedGrudge,
   kDeedSettled,
   kDeedManaged,
+  kDeedManager,
   kDeedTitleMade,
   kDeedRenamed
 };

@@ -35,7 +35,7 @@ class frmCards : public GameScreen {
     cmbfeds.Clear();
     for (const Promotion* promotion : PromotionsByStanding(world()))
       if (IsRival(world(), *promotion)) {
-        cmbfeds.Add(promotion->Name.View(), promotion->Uid);
+        cmbfeds.Add(promotion->Name.Str(), promotion->Uid);
         if (promotion->Uid == shown || cmbfeds.Count() == 1) cmbfeds.Select(cmbfeds.Count());
       }
     cmbfeds_Change();
