@@ -37,7 +37,7 @@ struct CardBout {
   int Heat = 0;  // of the grudge between the First of both; 0 for none
 
   /// What the bout is worth to the poster: it decides the place on the card.
-  int Weight() const { return Red.Over() + Blue.Over() + Heat / 2 + (Belt ? Belt->Image : 0); }
+  int Weight() const { return Red.Over() + Blue.Over() + Heat / 2 + (Belt ? int(Belt->Image) : 0); }
 };
 
 struct CardOutcome {

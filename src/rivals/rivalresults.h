@@ -14,10 +14,10 @@ struct RivalShow {
   Day On;
   int Is = kUnseenTv;  // UnseenShow
   std::string Name;
-  int Draw = kNoEnd;                      // percent; kNoEnd where nobody measured it
-  int Viewers = 0;                        // hundredths: a rating, or a buy rate
-  int People = 0;                         // 0 where nobody counted
-  std::vector<const CardMatch*> Matches;  // the main event last
+  int Draw = kNoEnd;                           // percent; kNoEnd where nobody measured it
+  int Viewers = 0;                             // hundredths: a rating, or a buy rate
+  int People = 0;                              // 0 where nobody counted
+  std::vector<const CardMatch*> Matches = {};  // the main event last
 };
 /// Those whose cards are kept, the latest first.
 std::vector<RivalShow> RivalShowsOf(const World& world, int promotionUid);

@@ -99,7 +99,7 @@ class frmCards : public GameScreen {
       {{"Show", K::Text, 6}, [](const RivalShow& show) { return ui::Cell(show.Name); }},
       {{"Kind", K::Tag, 4},
        [](const RivalShow& show) { return ui::Cell(UnseenShowText(show.Is)); }},
-      {{"Draw", K::Percent, 2, "What the roster was worth that day. Nobody measures house shows."},
+      {{"Draw", K::Number, 2, "What the roster was worth that day. Nobody measures house shows."},
        [](const RivalShow& show) {
          return show.Draw < 0 ? ui::Cell(-1.0, "") : ui::Cell(show.Draw);
        }},
