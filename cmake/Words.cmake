@@ -18,14 +18,14 @@ program(embed-tables src/words/tables/main.cpp words_tables)
 set_target_properties(embed-tables PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 
 set(tables "")
-foreach(name angles glossary guide help names promotions segments wishes)
+foreach(name angles glossary guide help names promotions segments stories wishes)
   list(APPEND tables ${PROJECT_SOURCE_DIR}/words/${name}.txt)
 endforeach()
 set(made ${CMAKE_BINARY_DIR}/tables/words)
 add_custom_command(
   OUTPUT ${made}/anglerules.h ${made}/angles.h ${made}/glossary.h ${made}/guide.h ${made}/help.h
          ${made}/names.h ${made}/promotions.h ${made}/purposes.h ${made}/segments.h
-         ${made}/wishes.h
+         ${made}/stories.h ${made}/wishes.h
   COMMAND embed-tables ${PROJECT_SOURCE_DIR}/words ${made}
   DEPENDS embed-tables ${tables}
   COMMENT "Reading the tables of words/"

@@ -32,8 +32,9 @@ constexpr Step kDaily[] = {
 };
 
 constexpr Step kMonday[] = {
-    STEP(RivalPositions),    STEP(RivalHouseShows), STEP(WriterWorkload),   STEP(TvContractReview),
-    STEP(SponsorRiskReview), STEP(EconomyDrift),    STEP(RivalAdvertising), STEP(RosterSizeReview),
+    STEP(RivalPositions),   STEP(RivalHouseShows),   STEP(WriterWorkload),
+    STEP(TvContractReview), STEP(SponsorRiskReview), STEP(EconomyDrift),
+    STEP(RivalAdvertising), STEP(RosterSizeReview),  STEP(RivalStories),
 };
 
 constexpr Step kFirstOfMonth[] = {

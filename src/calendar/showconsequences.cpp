@@ -10,6 +10,7 @@
 #include "calendar/image.h"
 #include "records/fields/fields.h"
 #include "records/modVar.h"
+#include "rivals/rivalcards.h"
 #include "rivals/rivals.h"
 #include "show/nightbook.h"
 #include "show/showresults.h"
@@ -203,6 +204,7 @@ void RivalEvent(World& world, Promotion& rival) {
     CallOffEvent(world, rival, type);
     return;
   }
+  HoldCard(world, rival, kUnseenEvent);
   MoveImage(world, rival, ImageStep(HeldShow::RivalEvent, rival.Size, *draw));
   PaySponsors(world, rival, true);
   const Event* event = EventOf(world, rival.Uid, MonthOf(world.Today()));
@@ -219,6 +221,7 @@ void RivalTv(World& world, Promotion& rival) {
     return CallOffTv(world, rival);
   }
   CheckShow(world, rival);
+  HoldCard(world, rival, kUnseenTv);
   MoveImage(world, rival, ImageStep(HeldShow::RivalTelevision, rival.Size, *draw));
   PaySponsors(world, rival, false);
   const Show* show = ShowOn(world, rival.Uid, world.Today());

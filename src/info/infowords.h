@@ -53,6 +53,17 @@ inline constexpr DeedRow kDeedRows[] = {
     {kDeedTvHeld, "Show", "who house rating people"},
     {kDeedEventHeld, "Event", "who house people"},
     {kDeedCalledOff, "Show", "who"},
+    {kDeedTeamed, "Story", "who house other"},
+    {kDeedTeamSplit, "Story", "who house other"},
+    {kDeedStableFounded, "Story", "who house other"},
+    {kDeedStableEnded, "Story", "who house"},
+    {kDeedJoined, "Story", "who house other"},
+    {kDeedGrudge, "Story", "who house other"},
+    {kDeedSettled, "Story", "who house other"},
+    {kDeedManaged, "Story", "who house other"},
+    {kDeedManager, "Story", "who house"},
+    {kDeedTitleMade, "Title", "who house"},
+    {kDeedRenamed, "Story", "who house other"},
 };
 /// What becomes of a Title, as headings of the news beside the kinds of deeds. {other} had it
 /// before.

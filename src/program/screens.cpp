@@ -51,6 +51,7 @@ namespace grapplemont {
   SCREEN(frmAltBelts)        \
   SCREEN(frmQuickStat)       \
   SCREEN(frmOtherFed)        \
+  SCREEN(frmCards)           \
   SCREEN(frmTheEnd)          \
   SCREEN(frmPinky)           \
   SCREEN(frmPlayOn)          \

@@ -90,10 +90,17 @@ void ForgetInThePast(World& world, int uid) {
   for (TitleReign& reign : world.Reigns()) clear(reign.Worker, reign.Partner);
   for (YearAward& award : world.Awards()) clear(award.Worker, award.Partner);
   for (ShowNote& note : world.ShowNotes()) clear(note.Worker);
+  for (CardMatch& match : world.RivalCards()) {
+    LeavePlaces(match.Worker, uid);
+    clear(match.Champion);
+  }
+  world.Grudges().Keep(
+      [=](const Grudge& grudge) { return grudge.One != uid && grudge.Two != uid; });
   const auto isOthers = [=](const auto& row) { return row.Worker != uid; };
   world.YearEnds().Keep(isOthers);
   world.Months().Keep(isOthers);
   world.Moods().Keep(isOthers);
+  world.RingNames().Keep(isOthers);
 }
 
 }  // namespace

@@ -117,6 +117,15 @@ class World {
   /// One record where a month of a small promotion has been planned, else none.
   Records<MonthPlan>& MonthPlans() { return Of<MonthPlan>(); }
   const Records<MonthPlan>& MonthPlans() const { return Of<MonthPlan>(); }
+  /// What rivals' last shows consisted of, oldest first.
+  Records<CardMatch>& RivalCards() { return Of<CardMatch>(); }
+  const Records<CardMatch>& RivalCards() const { return Of<CardMatch>(); }
+  /// Who is after whom at a rival's, in no order.
+  Records<Grudge>& Grudges() { return Of<Grudge>(); }
+  const Records<Grudge>& Grudges() const { return Of<Grudge>(); }
+  /// The names that people have given up, oldest first.
+  Records<RingName>& RingNames() { return Of<RingName>(); }
+  const Records<RingName>& RingNames() const { return Of<RingName>(); }
   /// How everybody stood on the firsts of twelve months, a record a worker.
   Records<WorkerMonths>& Months() { return Of<WorkerMonths>(); }
   const Records<WorkerMonths>& Months() const { return Of<WorkerMonths>(); }
@@ -180,6 +189,10 @@ class World {
   /// looked at, or has always been so. The numbers tell one subject from another.
   SeededDraws Fate(std::string_view purpose, std::initializer_list<int> subject) const;
   void SetChance(std::unique_ptr<Draws> chance) { chance_ = std::move(chance); }
+  /// The source that prose drew from until now; it draws from this one then.
+  std::unique_ptr<Draws> ExchangeProse(std::unique_ptr<Draws> prose) {
+    return std::exchange(prose_, std::move(prose));
+  }
   void SetLife(std::unique_ptr<Draws> life) { life_ = std::move(life); }
 
   SessionWords Session;

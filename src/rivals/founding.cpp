@@ -47,21 +47,6 @@ bool IsHeld(const World& world, std::string_view name) {
   });
 }
 
-/// A Title that comes back keeps its past.
-void FoundTitle(World& world, const Promotion& promotion, std::string_view what, bool singles) {
-  const std::string plain = promotion.Initials + " " + std::string(what);
-  const auto isHeld = [&](std::string_view name) { return IsHeld(world, name); };
-  const TitleTerms terms{.Name = NumberedName(plain, isHeld), .Singles = singles};
-  Title title =
-      VacantTitle(world, terms, promotion.Uid, BySize(tuning::kNewTitleImage, promotion.Size));
-  Title* before = LeftBehind(world, terms.Name);
-  if (before && before->Name == terms.Name && before->Holder == 0) title.Reigns = before->Reigns;
-  if (before)
-    *before = title;
-  else if (!world.Titles().Full())
-    world.Titles().Append(title);
-}
-
 /// Whether no promotion has the name or the initials, or had them until today.
 bool IsNameFree(const World& world, std::string_view name, std::string_view initials) {
   return std::ranges::none_of(world.Promotions(),
@@ -217,9 +202,25 @@ void BuyStars(World& world, const Promotion& promotion) {
 
 }  // namespace
 
+std::string FoundTitle(World& world, const Promotion& promotion, std::string_view what,
+                       TitleTerms terms) {
+  const std::string plain = promotion.Initials + " " + std::string(what);
+  terms.Name = NumberedName(plain, [&](std::string_view name) { return IsHeld(world, name); });
+  Title* before = LeftBehind(world, terms.Name);
+  if (!before && world.Titles().Full()) return {};
+  Title title =
+      VacantTitle(world, terms, promotion.Uid, BySize(tuning::kNewTitleImage, promotion.Size));
+  if (before && before->Name == terms.Name && before->Holder == 0) title.Reigns = before->Reigns;
+  if (before)
+    *before = title;
+  else
+    world.Titles().Append(title);
+  return title.Name.Str();
+}
+
 void FoundTitles(World& world, const Promotion& promotion) {
-  FoundTitle(world, promotion, "Crown", true);
-  FoundTitle(world, promotion, "Tag Titles", false);
+  FoundTitle(world, promotion, "Crown", {});
+  FoundTitle(world, promotion, "Tag Titles", {.Name = {}, .Singles = false});
 }
 
 std::string WhyNotFound(const World& world, std::string_view name, std::string_view initials) {

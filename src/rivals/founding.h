@@ -4,11 +4,17 @@
 #include <string_view>
 
 #include "records/world.h"
+#include "storylines/titles.h"
 
 // How promotions begin.
 
 namespace grapplemont {
 
+/// A Title of the promotion's, vacant until a show finds a champion; gives its name, "CWA Crown"
+/// for the Crown, or nothing where no place is left. One of the name that another promotion has
+/// left behind is taken up again with its past.
+std::string FoundTitle(World& world, const Promotion& promotion, std::string_view what,
+                       TitleTerms terms);
 /// Two Titles of a promotion that has none, vacant until an Event finds champions. One of the name
 /// that another promotion has left behind is taken up again; none is founded where no place is
 /// left.

@@ -54,8 +54,11 @@ bool FitsRival(const Sponsor& sponsor, const Promotion& rival);
 // Mondays.
 /// Everybody who works for a rival stands on the card where their popularity puts them.
 void RivalPositions(World& world);
-/// A house show a week, and, the day after an Event, what became of the Titles there.
+/// A house show a week.
 void RivalHouseShows(World& world);
+/// Teams, stables, managers and grudges come together and apart, Titles are made and rest, moves
+/// and names change.
+void RivalStories(World& world);
 /// Rivals advertise by their standing, those in debt not at all, and the rich put on campaigns.
 void RivalAdvertising(World& world);
 /// Rivals that save let somebody go, those that prosper go after somebody, those with too few people

@@ -212,4 +212,69 @@ inline constexpr int kWomanOneIn = 5;
 /// From this many of a hundred on, lightweights alone give up.
 inline constexpr int kLightweightsEnough = 36;
 
+// Cards and stories.
+
+/// Matches on a card, as far as the roster reaches.
+inline constexpr int kTvMatches = 5;
+inline constexpr int kEventMatches = 8;
+inline constexpr int kHouseShowMatches = 6;
+/// Outside an Event a Title is defended on one show in this many, and on television its champion
+/// loses it this often in a hundred; a vacant one is fought for on one show in this many.
+inline constexpr int kDefenceIn = 4;
+inline constexpr int kTvUpset = 4;
+inline constexpr int kVacancyIn = 2;
+/// Matches out of this many end without a winner.
+inline constexpr int kDrawIn = 20;
+/// Heels who win cheat once in this many matches.
+inline constexpr int kCheatsIn = 4;
+
+/// Grudges that a rival can tell of at once, and their heat: when one begins, a week without a
+/// match, a match, and the heat from which an Event settles it.
+inline constexpr int kGrudges = 3;
+inline constexpr int kGrudgeHeat = 30;
+inline constexpr int kGrudgeCools = 3;
+inline constexpr int kGrudgeMatch = 9;
+inline constexpr int kGrudgeRipe = 60;
+/// One begins after one cheated match in this many, and one lost Title in this many.
+inline constexpr int kGrudgeAfterCheatingIn = 8;
+inline constexpr int kGrudgeAfterTitleIn = 3;
+/// Two who have a grudge meet on one show in this many that are not Events.
+inline constexpr int kGrudgeMatchIn = 3;
+
+/// A rival wants a team and a stable for every this many wrestlers, and looks for what is missing
+/// in one week of this many.
+inline constexpr int kWrestlersATeam = 6;
+inline constexpr int kWrestlersAStable = 12;
+inline constexpr int kNewTeamIn = 2;
+inline constexpr int kNewStableIn = 4;
+/// What stands ends in one week of this many; a pair that works apart is forgotten sooner.
+inline constexpr int kTeamSplitsIn = 150;
+inline constexpr int kPairForgottenIn = 40;
+inline constexpr int kStableEndsIn = 200;
+/// A stable of fewer than this many takes somebody in, in one week of this many.
+inline constexpr int kStableWants = 4;
+inline constexpr int kStableTakesIn = 10;
+/// Two stables of one roster begin to feud.
+inline constexpr int kStableFeudIn = 12;
+/// A rival wants a manager for every this many wrestlers. In one week of this many it makes one of
+/// a wrestler of that age and charisma.
+inline constexpr int kWrestlersAManager = 20;
+inline constexpr int kNewManagerIn = 8;
+inline constexpr int kManagersAge = 37;
+inline constexpr int kManagersCharisma = 50;
+/// A manager who has fewer clients than that takes one, in one week of this many.
+inline constexpr int kClientsWanted = 2;
+inline constexpr int kClientTakenIn = 4;
+/// Women and lightweights for a Title of their own, and teams for a tag Title; it rests while fewer
+/// than two could fight for it. A rival looks at this in one week of this many.
+inline constexpr int kWomenForTitle = 6;
+inline constexpr int kLightweightsForTitle = 8;
+inline constexpr int kTeamsForTitle = 3;
+inline constexpr int kNewTitleIn = 6;
+/// One wrestler of a roster has a new finisher, or another name, in one week of this many. Nobody
+/// above that Over gives up a name.
+inline constexpr int kNewFinisherIn = 12;
+inline constexpr int kNewNameIn = 300;
+inline constexpr int kKnownByName = 60;
+
 }  // namespace grapplemont::tuning

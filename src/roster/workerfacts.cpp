@@ -183,9 +183,12 @@ std::string TeamLine(const World& world, const Team& team, const Worker& worker)
          std::to_string(team.Experience) + finisher + ".";
 }
 
-/// Their stable, their Tag Teams, their manager and those whom they manage.
+/// The names before, their stable, their Tag Teams, their manager and those whom they manage.
 std::vector<std::string> CompanyOf(const World& world, const Worker& worker) {
   std::vector<std::string> company;
+  for (const RingName& before : world.RingNames())
+    if (before.Worker == worker.Uid)
+      company.push_back("Was called " + before.Name + " until " + PlainDate(before.Until) + ".");
   if (worker.Stable != "None" && !worker.Stable.View().empty())
     company.push_back("Member of " + worker.Stable + ".");
   for (const Team& team : world.Teams())

@@ -120,17 +120,19 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
   `deeds.dat`, which keeps what the wrestling world did lately, `guide.dat`, how far the first week's guide has come,
   `worldkey.dat`, which sets this game's hidden gifts apart from another's, `board.dat` and `wishes.dat`, what the board
   has said and what owners have wished, `monthplan.dat`, what a small promotion has done with its month, `houserules.dat`
-  with the rules of the house, and the past:
+  with the rules of the house, `grudges.dat`, who is after whom at the rivals', and the past:
   `history.dat` (every show of the player's, and how each promotion stood at every month end), `bouts.dat` (the player's
   matches), `tallies.dat` (what each worker's matches add up to), `reigns.dat` (the reigns of every Title in the world),
   `reports.dat` (the words of the last twelve shows), `mornings.dat` (what these shows moved, step by step),
   `mailread.dat` (which mails have been read), `awards.dat` (the awards of the years), `yearend.dat` (how
-  popular everybody was when the last year ended), `months.dat` (how everybody stood on the firsts of twelve months) and
-  `moods.dat` (what moved the morale of the player's people).
+  popular everybody was when the last year ended), `months.dat` (how everybody stood on the firsts of twelve months),
+  `moods.dat` (what moved the morale of the player's people), `rivalcards.dat` (the matches of the rivals' last shows) and
+  `ringnames.dat` (names that people have given up).
 
 None of the past is needed to play: where one of its files is missing or cut short, the game goes on without what stood
 in it. A full file makes room by dropping its oldest records: a thousand of the history and of the reigns that have
-ended, five hundred matches (what they add up to stays in the tallies), a year of awards, five hundred moves of morale.
+ended, five hundred matches (what they add up to stays in the tallies), a year of awards, five hundred moves of morale,
+five hundred matches of rivals' cards, a hundred names.
 The words of a show take the places of the oldest one's, a month those of the same month a year before.
 
 ## The journal

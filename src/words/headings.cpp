@@ -75,7 +75,7 @@ WordsFile News() {
   constexpr std::size_t kDeed = std::string_view("Deed").size();
   WordsFile file{"news.txt", "words", "News", {}};
   for (const DeedRow& row : kDeedRows)
-    file.Headings.push_back(Named(EnumNameIn<kDeedSigned, kDeedCalledOff>(row.Kind).substr(kDeed),
+    file.Headings.push_back(Named(EnumNameIn<kDeedSigned, kDeedRenamed>(row.Kind).substr(kDeed),
                                   row.Kind, row.Slots, kLeast));
   AddRows<kTitleFound, kTitleWon>(file, kTitleNewsRows, kLeast);
   return file;

@@ -36,16 +36,17 @@ TEST(AdvanceDay, RunsItsBlocksInTheirFixedOrder) {
                   "DailyWorkerUpkeep "
                   "RivalPositions RivalHouseShows WriterWorkload TvContractReview "
                   "SponsorRiskReview EconomyDrift RivalAdvertising RosterSizeReview "
+                  "RivalStories "
                   "PoorFormMorale DiscoverFreeAgents DevelopmentMonth TrainingCampMonth "
                   "StatusCountdown AgeAndRetire RivalNewTvShows PayWagesAndContracts "
                   "RivalContractRenewals SponsorContractCountdown LoanRepayments "
                   "MerchandiseIncome MonthlyCosts MonthlyReview CloseMonthBooks BankruptcyCheck "
                   "NewPromotionCheck WorkersCareers "
-                  "IncidentRoll SweepDeadPromotions SweepDeadShows UpdateReigns GiveAwards "
-                  "NoteMonths"));
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 3).size(), 5u + 6);
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9).size(), 5u + 8 + 6);
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1).size(), 5u + 18 + 6);
+                  "IncidentRoll SweepDeadPromotions SweepDeadShows UpdateReigns "
+                  "OwnersWishes GiveAwards NoteMonths BoardWarning FanMail"));
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 3).size(), 5u + 9);
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9).size(), 5u + 9 + 9);
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1).size(), 5u + 18 + 9);
 }
 
 /// CWA with Events in March and May; a rival with one in April.

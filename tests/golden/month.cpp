@@ -86,7 +86,8 @@ class Player {
     // What a show's rules noted tells no more than the records that they moved.
     std::erase_if(outcome.Changes, [this](const Difference& change) {
       return IsRetold(change.File) || change.File == LayoutOf<ShowNote>().File ||
-             (!keepsReports_ && change.File == LayoutOf<ReportPart>().File);
+             (!keepsReports_ && (change.File == LayoutOf<ReportPart>().File ||
+                                 change.File == LayoutOf<CardMatch>().File));
     });
     game_->Desk.Finish();
     return outcome;

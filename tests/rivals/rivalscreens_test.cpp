@@ -1,7 +1,9 @@
 
 #include <gtest/gtest.h>
 
+#include "records/modVar.h"
 #include "rivals/faults.h"
+#include "rivals/rivalcards.h"
 #include "session/home.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
@@ -71,6 +73,33 @@ TEST(frmOtherFed, FollowsTheSelection) {
   EXPECT_EQ(play.Desk.Tip("cmdbuyout"), "This is your own promotion.");
   play.Desk.OpenRow("lstroster", "CWA Hand 1");
   EXPECT_EQ(play.Desk.TopName(), "frmWorker");
+}
+
+TEST(frmCards, ShowsTheCardOfARivalsShow) {
+  GameOnWorld play(TwoPromotions().Worker("Rookie", kOpener, 40).Worker("Veteran", kOpener, 41));
+  play.Desk.Open("frmOtherFed");
+  play.Desk.Pick("lstfeds", "CWA Wrestling");
+  EXPECT_EQ(play.Desk.Tip("cmdcards"), "Your own shows are under Results.");
+  play.Desk.Pick("lstfeds", "XWF Wrestling");
+  play.Desk.Click("cmdcards");
+  EXPECT_EQ(play.Desk.TopName(), "frmCards");
+  EXPECT_EQ(play.Desk.Rows("lstshows").size(), 0u);
+  play.Desk.Click("cmdback");
+  const Promotion& rival = play.World().Promotions()[2];
+  HoldCard(play.World(), rival, kUnseenTv);
+  NoteShow(play.World(), kDeedTvHeld, rival, "Slam", 44, 205, 300);
+  HoldCard(play.World(), rival, kUnseenHouseShow);
+  play.Desk.Click("cmdcards");
+  const std::vector<Names> rows = play.Desk.Rows("lstshows");
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[0][1], "House show");
+  EXPECT_EQ(rows[0][3], "");
+  EXPECT_EQ(rows[1][1], "Slam");
+  EXPECT_EQ(rows[1][3], "44");
+  play.Desk.Pick("lstshows", 2);
+  EXPECT_NE(play.Desk.Text("txtcard").find("A television rating of 2. 05. 300 people"),
+            std::string::npos)
+      << play.Desk.Text("txtcard");
 }
 
 TEST(frmOtherFed, RemembersMonthsByTheName) {

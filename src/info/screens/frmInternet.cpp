@@ -27,6 +27,7 @@ class frmInternet : public GameScreen {
     lstrank.EmptyText = "Nobody can be ranked here.";
     for (const Ranking& ranking : Rankings()) cmbrank.Add(ranking.Title, cmbrank.Count() + 1);
     cmbrank.Select(1);
+    BackBefore(cmdcards);
   }
 
   ui::Page Layout() override {
@@ -35,7 +36,7 @@ class frmInternet : public GameScreen {
                   ui::Group(kRankSite, {ui::Field("Ranking", cmbrank), ui::Grow(lstrank)}),
                   ui::Group(kRumourSite, {ui::Grow(txtrumours)}),
                   ui::Group(kFanSite, {ui::Grow(txtfans)})}),
-        &lblfacts);
+        &lblfacts, {&cmdcards});
   }
 
   void Return() override {
@@ -139,6 +140,7 @@ class frmInternet : public GameScreen {
   ui::ListBox lstrank{*this, "lstrank", {{"Place", K::Number}}};
   ui::Report txtrumours{*this, "txtrumours"};
   ui::Report txtfans{*this, "txtfans"};
+  ui::Button cmdcards{*this, "cmdcards", "Rivals' Shows", [this] { desk().Open("frmCards"); }};
 };
 
 }  // namespace

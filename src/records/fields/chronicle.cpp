@@ -247,12 +247,23 @@ constexpr Term kDeedKinds[] = {{kDeedSigned, "", "Signed"},
                                {kDeedOwnerQuit, "", "Owner gone"},
                                {kDeedTvHeld, "", "Television show held"},
                                {kDeedEventHeld, "", "Event held"},
-                               {kDeedCalledOff, "", "Show called off"}};
+                               {kDeedCalledOff, "", "Show called off"},
+                               {kDeedTeamed, "", "Tag Team formed"},
+                               {kDeedTeamSplit, "", "Tag Team split"},
+                               {kDeedStableFounded, "", "Stable founded"},
+                               {kDeedStableEnded, "", "Stable dissolved"},
+                               {kDeedJoined, "", "Joined a stable"},
+                               {kDeedGrudge, "", "Grudge began"},
+                               {kDeedSettled, "", "Grudge settled"},
+                               {kDeedManaged, "", "Took a client"},
+                               {kDeedManager, "", "Became a manager"},
+                               {kDeedTitleMade, "", "Title made"},
+                               {kDeedRenamed, "", "Took a new ring name"}};
 
 #define DEED(member) GM_FIELD(Deed, member)
 constexpr Field kDeedFields[] = {
     DEED(On).Means("The day on which it happened."),
-    DEED(Kind).In(kDeedSigned, kDeedCalledOff).From(kDeedKinds).Means("What has happened."),
+    DEED(Kind).In(kDeedSigned, kDeedRenamed).From(kDeedKinds).Means("What has happened."),
     DEED(Promotion).In(0, 32767).Means("Uid of the promotion, which may be gone; 0 nobody's."),
     DEED(House).Means("The promotion's initials then."),
     DEED(Who).Means("The worker, owner or show, or the promotion's full name."),

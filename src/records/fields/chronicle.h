@@ -260,7 +260,18 @@ enum DeedKind {
   kDeedOwnerQuit,
   kDeedTvHeld,
   kDeedEventHeld,
-  kDeedCalledOff
+  kDeedCalledOff,
+  kDeedTeamed,
+  kDeedTeamSplit,
+  kDeedStableFounded,
+  kDeedStableEnded,
+  kDeedJoined,
+  kDeedGrudge,
+  kDeedSettled,
+  kDeedManaged,
+  kDeedManager,
+  kDeedTitleMade,
+  kDeedRenamed
 };
 
 /// Something that the wrestling world did in public, the player's promotion or another. A record of

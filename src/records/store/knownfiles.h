@@ -8,6 +8,7 @@
 #include "records/fields/gameinfo.h"
 #include "records/fields/people.h"
 #include "records/fields/storyrecords.h"
+#include "records/fields/unseen.h"
 #include "records/store/journal.h"
 #include "records/store/table.h"
 
@@ -24,7 +25,8 @@ using AllTables =
                Records<YearAward>, Records<YearEnd>, Records<Deed>, Records<GuideState>,
                Records<WorkerMonths>, Records<MoodChange>, Records<KeptRow>, Records<ShowNote>,
                Records<ReadMail>, Records<WorldKey>, Records<BoardState>, Records<OwnerWish>,
-               Records<MonthPlan>, Records<HouseRules>>;
+               Records<MonthPlan>, Records<HouseRules>, Records<CardMatch>, Records<Grudge>,
+               Records<RingName>>;
 
 // What all files of the house would compile again and again is compiled once, in knownfiles.cpp.
 // clang-format off
@@ -34,7 +36,8 @@ using AllTables =
   OF(Feud) OF(Segment) OF(Incident) OF(ShowRun) OF(HistoryEntry) OF(HeldMatch) \
   OF(MatchTally) OF(TitleReign) OF(ReportPart) OF(YearAward) OF(YearEnd) OF(Deed) \
   OF(GuideState) OF(WorkerMonths) OF(MoodChange) OF(KeptRow) OF(ShowNote) OF(ReadMail) \
-  OF(WorldKey) OF(BoardState) OF(OwnerWish) OF(MonthPlan) OF(HouseRules)
+  OF(WorldKey) OF(BoardState) OF(OwnerWish) OF(MonthPlan) OF(HouseRules) OF(CardMatch) \
+  OF(Grudge) OF(RingName)
 // clang-format on
 #define GM_ELSEWHERE(T) extern template class Records<T>;
 GM_EVERY_RECORD(GM_ELSEWHERE)

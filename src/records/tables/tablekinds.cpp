@@ -106,7 +106,10 @@ std::vector<TableKind> MakeKinds() {
           Kind<BoardState>("boards.csv", true),
           Kind<OwnerWish>("wishes.csv", true),
           Kind<MonthPlan>("monthplans.csv", true),
-          Kind<HouseRules>("houserules.csv", true)};
+          Kind<HouseRules>("houserules.csv", true),
+          Kind<CardMatch>("rivalcards.csv", true),
+          Kind<Grudge>("grudges.csv", true),
+          Kind<RingName>("ringnames.csv", true)};
 }
 
 }  // namespace

@@ -204,6 +204,11 @@ std::string WhyNoBuyOut(const World& world, const Promotion* promotion) {
   return promotion->Uid == world.PlayerUid() ? "This is your own promotion." : "";
 }
 
+std::string WhyNoCards(const World& world, const Promotion* promotion) {
+  if (!promotion) return "Choose a promotion first.";
+  return promotion->Uid == world.PlayerUid() ? "Your own shows are under Results." : "";
+}
+
 /// The rival's answer; when it is a yes the deals are laid out.
 void AttemptBuyOut(Game& game, const Promotion& rival) {
   const bool owned = OwnerOf(game.World(), rival.Uid) != nullptr;
@@ -223,13 +228,13 @@ class frmOtherFed : public GameScreen {
   explicit frmOtherFed(Game& game)
       : GameScreen(game, "frmOtherFed", "Other Promotions", {.Manages = true}),
         sheets(*this, game) {
-    BackBefore(cmdbuyout);
+    BackBefore(cmdcards);
   }
 
   ui::Page Layout() override {
     ui::Page page =
         PageOf(ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()}),
-               &lblfacts, {&cmdbuyout});
+               &lblfacts, {&cmdcards, &cmdbuyout});
     page.Main = nullptr;  // Enter is the hub's
     return page;
   }
@@ -267,6 +272,7 @@ class frmOtherFed : public GameScreen {
 
   void lstfeds_Click() {
     sheets.Show(Chosen());
+    EnableUnless(cmdcards, WhyNoCards(world(), Chosen()));
     EnableUnless(cmdbuyout, WhyNoBuyOut(world(), Chosen()));
   }
   void cmdbuyout_Click() {
@@ -284,6 +290,8 @@ class frmOtherFed : public GameScreen {
                                             "Workers on the card, managers and the like."}}),
                       &frmOtherFed::lstfeds_Click};
   PromotionSheets sheets;
+  ui::Button cmdcards{*this, "cmdcards", "Last Shows",
+                      [this] { desk().Open(MakefrmCards(game_, lstfeds.Key())); }};
   ui::Button cmdbuyout{*this, "cmdbuyout", "Attempt Buy Out", &frmOtherFed::cmdbuyout_Click};
 };
 
@@ -295,7 +303,9 @@ class frmPromotion : public GameScreen {
 
   int Uid() const { return uid_; }
 
-  ui::Page Layout() override { return PageOf(sheets.Layout().Grow(), &lblfacts, {&cmdbuyout}); }
+  ui::Page Layout() override {
+    return PageOf(sheets.Layout().Grow(), &lblfacts, {&cmdcards, &cmdbuyout});
+  }
 
   void Return() override {
     const Promotion* promotion = LivingPromotion(game_.World(), uid_);
@@ -303,6 +313,8 @@ class frmPromotion : public GameScreen {
     lblfacts.Text = promotion ? promotion->Initials + ", " + std::string(SizeText(promotion->Size))
                               : std::string("It has closed its doors.");
     sheets.Show(promotion);
+    EnableUnless(cmdcards,
+                 promotion ? WhyNoCards(game_.World(), promotion) : "It has closed its doors.");
     EnableUnless(cmdbuyout,
                  promotion ? WhyNoBuyOut(game_.World(), promotion) : "It has closed its doors.");
   }
@@ -315,6 +327,8 @@ class frmPromotion : public GameScreen {
   int uid_;
   ui::Label lblfacts{*this, "lblfacts"};
   PromotionSheets sheets;
+  ui::Button cmdcards{*this, "cmdcards", "Last Shows",
+                      [this] { desk().Open(MakefrmCards(game_, uid_)); }};
   ui::Button cmdbuyout{*this, "cmdbuyout", "Attempt Buy Out", &frmPromotion::cmdbuyout_Click};
 };
 

@@ -9,6 +9,8 @@ void ConnectRivals(Game& game);
 
 /// The page of one promotion, by its uid.
 std::unique_ptr<ui::Screen> MakefrmPromotion(Game& game, int uid);
+/// The last shows of a rival, by its uid.
+std::unique_ptr<ui::Screen> MakefrmCards(Game& game, int promotionUid);
 /// Which way to take a rival over, by its uid.
 std::unique_ptr<ui::Screen> MakefrmTakeover(Game& game, int uid);
 

@@ -221,6 +221,21 @@ TableFile Names() {
            {"HomeTown", "HomeTowns", 166, 28, HomeTowns()}}};
 }
 
+/// What teams, stables and others at rivals are called: any epithet and any noun fit a name of 25
+/// letters, and so does any surname of ten with any following.
+TableFile Stories() {
+  constexpr std::string_view kName = "std::string_view";
+  return {"stories.txt",
+          {{"stories", {}}},
+          {},
+          {{kName, "StoryEpithets", 60, 10, {{"Epithets"}}},
+           {kName, "TeamNouns", 60, 10, {{"What a team is"}}},
+           {kName, "StableNouns", 24, 10, {{"What a stable is"}}},
+           {kName, "Followings", 16, 11, {{"What a leader has"}}},
+           {kName, "TeamMoves", 40, 25, {{"Moves of two"}}},
+           {kName, "Nicknames", 40, 14, {{"Nicknames"}}}}};
+}
+
 /// What a player is told about a screen and about a term, and the first week's steps.
 TableFile Help() {
   return {"help.txt",
@@ -287,8 +302,9 @@ TableFile Wishes() {
 }  // namespace
 
 const std::vector<TableFile>& AllTableFiles() {
-  static const std::vector<TableFile> kFiles = {Segments(), Angles(),   NewPromotions(), Names(),
-                                                Help(),     Glossary(), Guide(),         Wishes()};
+  static const std::vector<TableFile> kFiles = {Segments(), Angles(), NewPromotions(),
+                                                Names(),    Help(),   Glossary(),
+                                                Guide(),    Wishes(), Stories()};
   return kFiles;
 }
 
