@@ -120,9 +120,10 @@ std::vector<Worker*> Followers(const Troupe& troupe, const Worker& leader) {
   return found;
 }
 
-void EndStable(World& world, const Promotion& rival, const std::string& name,
-               const std::vector<Worker*>& members) {
-  for (Worker* member : members) member->Stable = "None";
+/// Whoever is in it, the young in the territory and the hurt among them.
+void EndStable(World& world, const Promotion& rival, const std::string& name) {
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == rival.Uid && worker.Stable == name) worker.Stable = "None";
   world.Stables().Keep(
       [&](const Stable& stable) { return stable.Owner != rival.Uid || stable.Name != name; });
   NoteDeed(world, kDeedStableEnded, &rival, name);
@@ -174,7 +175,7 @@ void MoveStables(World& world, const Promotion& rival, const Troupe& troupe) {
   for (const std::string& name : names) {
     const std::vector<Worker*> members = MembersOf(troupe, name);
     if (members.empty() || Happens(world, tuning::kStableEndsIn)) {
-      EndStable(world, rival, name, members);
+      EndStable(world, rival, name);
       continue;
     }
     ++standing;
