@@ -226,18 +226,15 @@ void NewWorkerAttributes(World& world, Worker& worker, Generation generation) {
 }
 
 void InventName(World& world, Worker& worker) {
-  Worker named;
-  do DrawName(world, named);
-  while (named.Gender != worker.Gender);
-  worker.Name = named.Name.View();
-  worker.ShortName = named.ShortName.View();
+  RuleDraws draws(world);
+  DrawOwnNames(world, draws, worker, worker.Gender ? kMensFirstNames : kWomensFirstNames);
 }
 
 void InventName(World& world, Staff& staff) {
-  Staff named;
-  do DrawName(world, named, StaffFirstNames, kLastMaleStaffFirstName, StaffNameFree);
-  while (named.Gender != staff.Gender);
-  staff.Name = named.Name.View();
+  RuleDraws draws(world);
+  const Places among = staff.Gender ? Places{1, kLastMaleStaffFirstName}
+                                    : Places{kLastMaleStaffFirstName + 1, kStaffFirstNames};
+  DrawName(world, draws, staff, StaffFirstNames, among, kLastMaleStaffFirstName, StaffNameFree);
 }
 
 Worker& NewFillerWorker(World& world) {
