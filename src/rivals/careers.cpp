@@ -35,9 +35,7 @@ bool IsOneIn(World& world, int n) {
 /// The most a quarter adds to the strongest skill.
 int PaceOf(const Worker& worker, const Gift& gift) {
   if (worker.Age < gift.BloomsAt) return 1;
-  const int pace = gift.Ceiling >= tuning::kGreatGift  ? 3
-                   : gift.Ceiling >= tuning::kFairGift ? 2
-                                                       : 1;
+  const int pace = gift.Ceiling >= tuning::kGreatGift ? 3 : 2;
   return gift.BloomsAt > 0 ? pace + 1 : pace;
 }
 

@@ -140,11 +140,10 @@ inline constexpr int kMayBeWeakerAtHome = 8;
 // Careers.
 
 /// The best skill that practice brings: at least this, and two draws of this many on top.
-inline constexpr int kLeastCeiling = 48;
-inline constexpr int kCeilingDraw = 24;
-/// From these ceilings on a quarter brings up to three points and two; below, one.
+inline constexpr int kLeastCeiling = 55;
+inline constexpr int kCeilingDraw = 21;
+/// From this ceiling on a quarter brings up to three points; below, two.
 inline constexpr int kGreatGift = 84;
-inline constexpr int kFairGift = 60;
 /// Skills beside the strongest go this far, in percent of the ceiling.
 inline constexpr int kSideSkill = 65;
 /// In one of this many quarters of practice charisma gains a point.
@@ -158,7 +157,7 @@ inline constexpr int kStar = 10;
 inline constexpr int kFlyersFade = 36;
 inline constexpr int kBrawlersFade = 39;
 inline constexpr int kTechniciansFade = 41;
-inline constexpr int kHardYears = 10;
+inline constexpr int kHardYears = 14;
 
 /// Deserved Over is this many percent of talent, with what the class of the employer adds, and no
 /// more than it lets anybody have.

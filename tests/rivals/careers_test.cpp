@@ -75,11 +75,11 @@ TEST(Gifts, AreTheSameAtEveryLookAndVaryByPerson) {
 TEST(Practice, BringsTheYoungToTheirCeilingAndNoFurther) {
   Career career(Skills(20, 38, 58, 25));
   const Gift gift{.Ceiling = 59, .LearnsUntil = 30};
-  // One point at most in each skill; speed is the style, and 38 is where the others end.
-  ScriptLife(career.Where, {{2, 2}, {2, 2}});
+  // Two points at most in each skill; speed is the style, and 38 is where the others end.
+  ScriptLife(career.Where, {{3, 2}, {3, 2}});
   Practise(career.Where, career.Who, gift);
   EXPECT_EQ(SkillsOf(career.Who), "21 38 59");
-  ScriptLife(career.Where, {{2, 1}});
+  ScriptLife(career.Where, {{3, 1}});
   Practise(career.Where, career.Who, gift);
   EXPECT_EQ(SkillsOf(career.Who), "21 38 59");
   career.Who.Age = 31;
