@@ -61,8 +61,8 @@ void RivalHouseShows(World& world);
 void RivalStories(World& world);
 /// Rivals advertise by their standing, those in debt not at all, and the rich put on campaigns.
 void RivalAdvertising(World& world);
-/// Rivals that save let somebody go, those that prosper go after somebody, those with too few people
-/// take what they can get, and those that have become big enough found Titles.
+/// Rivals that save let somebody go, those that prosper go after somebody, those with too few
+/// people take what they can get, and those that have become big enough found Titles.
 void RosterSizeReview(World& world);
 // The first of a month.
 /// Whoever waits for work asks for less or gives up, and new talent comes (newtalent.h).

@@ -15,7 +15,8 @@ bool IsPopularEnough(const Worker& worker, int size);
 bool IsTooPopular(const Worker& worker, int size);
 /// Not popular enough yet, but near it.
 bool IsProspect(const Worker& worker, int size);
-/// Whether they would leave their employer for a promotion of this size; somebody free always would.
+/// Whether they would leave their employer for a promotion of this size; somebody free always
+/// would.
 bool IsOpenTo(const World& world, const Worker& worker, int size);
 
 /// A walk over everybody who is not with the rival, a draw of ten each: the best of those looked at
