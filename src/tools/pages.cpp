@@ -118,7 +118,7 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
   a show is booked, `showrun.dat` while one is under way, `incident.tmp` when something happened backstage,
   `cards.dat` with the cards of the last shows and the drafts of those to come,
   `deeds.dat`, which keeps what the wrestling world did lately, `guide.dat`, how far the first week's guide has come,
-  and the past:
+  `worldkey.dat`, which sets this game's hidden gifts apart from another's, and the past:
   `history.dat` (every show of the player's, and how each promotion stood at every month end), `bouts.dat` (the player's
   matches), `tallies.dat` (what each worker's matches add up to), `reigns.dat` (the reigns of every Title in the world),
   `reports.dat` (the words of the last twelve shows), `mornings.dat` (what these shows moved, step by step),
