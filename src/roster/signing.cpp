@@ -4,8 +4,8 @@
 
 #include "records/modVar.h"
 #include "records/severing.h"
-#include "roster/objections.h"
 #include "roster/postings.h"
+#include "roster/refusals.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "records/fields/wording.h"
-#include "roster/objections.h"
+#include "roster/refusals.h"
 
 namespace grapplemont {
 
