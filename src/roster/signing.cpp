@@ -5,7 +5,7 @@
 #include "records/modVar.h"
 #include "records/severing.h"
 #include "roster/postings.h"
-#include "roster/refusals.h"
+#include "roster/talkobjections.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {
