@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QEvent>
 #include <QVBoxLayout>
+#include <QWidget>
 #include <algorithm>
 #include <memory>
 #include <vector>
@@ -33,6 +35,7 @@ class LevelColumn : public QVBoxLayout {
   LevelColumn(QWidget* card, std::shared_ptr<Peers> peers)
       : QVBoxLayout(card), peers_(std::move(peers)) {
     peers_->push_back(this);
+    card->installEventFilter(this);
   }
   ~LevelColumn() override { std::erase(*peers_, this); }
 
@@ -41,6 +44,13 @@ class LevelColumn : public QVBoxLayout {
   }
   QSize minimumSize() const override {
     return {QVBoxLayout::minimumSize().width(), Highest(&LevelColumn::OwnLeast)};
+  }
+  /// What changes on a card changes how high its peers are, which Qt keeps until it is said.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::LayoutRequest && watched == parentWidget())
+      for (const LevelColumn* peer : *peers_)
+        if (peer != this) peer->parentWidget()->updateGeometry();
+    return QVBoxLayout::eventFilter(watched, event);
   }
   bool hasHeightForWidth() const override { return true; }
   int heightForWidth(int width) const override { return Highest(&LevelColumn::OwnAt, width); }
