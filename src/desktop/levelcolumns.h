@@ -7,6 +7,8 @@
 #include <memory>
 #include <vector>
 
+#include "desktop/turninglayout.h"
+
 // Columns of a page and of its cards.
 
 namespace grapplemont::desktop {
@@ -22,6 +24,9 @@ class Column : public QVBoxLayout {
   }
   QSize maximumSize() const override {
     return isEmpty() ? QSize(0, 0) : QVBoxLayout::maximumSize();
+  }
+  void setGeometry(const QRect& rect) override {
+    if (!PlaceTight(*this, rect)) QVBoxLayout::setGeometry(rect);
   }
 
  private:
