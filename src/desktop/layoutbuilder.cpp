@@ -10,7 +10,7 @@
 #include "desktop/boxshape.h"
 #include "desktop/button.h"
 #include "desktop/card.h"
-#include "desktop/columns.h"
+#include "desktop/levelcolumns.h"
 #include "desktop/pieces.h"
 #include "desktop/spoken.h"
 #include "desktop/tableview.h"

@@ -26,7 +26,7 @@ HubFrame::HubFrame(const ui::Page& page, Stage& stage, QWidget* parent)
 
 namespace {
 
-constexpr int kBarHeight = 52, kSide = 20, kBetween = 18, kSecondRow = 10;
+constexpr int kTopHeight = 52, kTopSide = 20, kBetween = 18, kSecondRow = 10;
 constexpr int kEnterSign = 20;                  // what the sign adds to a button
 constexpr int kStep = 24;                       // a number's room grows by so much at once
 constexpr int kShortName = 96, kBareName = 88;  // what is left of a long name
@@ -191,9 +191,9 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
 TopBar::TopBar(const ui::Page& page, Stage& stage, QWidget* parent)
     : QWidget(parent),
       more_(new PushButton(this, QStringLiteral("More\u2026"))),
-      all_(NewLayout<QHBoxLayout>(this, 0, {kSide, 0, kSide, 1})),
+      all_(NewLayout<QHBoxLayout>(this, 0, {kTopSide, 0, kTopSide, 1})),
       actions_(new FlowLayout(Px(kBetween), Qt::AlignRight | Qt::AlignVCenter)) {
-  setFixedHeight(Px(kBarHeight));
+  setFixedHeight(Px(kTopHeight));
   auto* facts = NewLayout<QHBoxLayout>(nullptr, kBetween);
   for (ui::Label* label : page.Top) {
     facts_.push_back(new Fact(*label, facts_.empty(), stage, this));
@@ -245,7 +245,7 @@ int TopBar::ActionsWidth(bool folded) const {
 }
 
 bool TopBar::Fits(const Way& way) const {
-  const int room = width() - 2 * Px(kSide);
+  const int room = width() - 2 * Px(kTopSide);
   const int facts = FactsWidth(way.Facts), actions = ActionsWidth(way.Folded);
   return way.OneRow ? facts + Px(kBetween) + actions <= room : std::max(facts, actions) <= room;
 }
@@ -273,9 +273,9 @@ void TopBar::Take(const Way& way) {
   actions_->SetOneRow(way.OneRow);
   all_->setDirection(way.OneRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
   const int second =
-      way.OneRow ? 0 : actions_->heightForWidth(width() - 2 * Px(kSide)) + Px(kSecondRow);
-  all_->setContentsMargins(Px(kSide), 0, Px(kSide), way.OneRow ? 1 : Px(kSecondRow));
-  if (height() != Px(kBarHeight) + second) setFixedHeight(Px(kBarHeight) + second);
+      way.OneRow ? 0 : actions_->heightForWidth(width() - 2 * Px(kTopSide)) + Px(kSecondRow);
+  all_->setContentsMargins(Px(kTopSide), 0, Px(kTopSide), way.OneRow ? 1 : Px(kSecondRow));
+  if (height() != Px(kTopHeight) + second) setFixedHeight(Px(kTopHeight) + second);
 }
 
 void TopBar::OpenMore() {

@@ -19,6 +19,37 @@ int RowWidth(QLayoutItem& item) {
 
 }  // namespace
 
+bool PlaceTight(QBoxLayout& column, const QRect& rect) {
+  struct Part {
+    QLayoutItem* Item;
+    int Least, Wish;
+  };
+  std::vector<Part> parts;
+  int rest = rect.height() + column.spacing(), wishes = 0;
+  for (int i = 0; i < column.count(); ++i) {
+    QLayoutItem* item = column.itemAt(i);
+    if (item->isEmpty()) continue;
+    const bool bends = item->hasHeightForWidth();
+    const int least =
+        bends ? item->minimumHeightForWidth(rect.width()) : item->minimumSize().height();
+    const int liked = bends ? item->heightForWidth(rect.width()) : item->sizeHint().height();
+    parts.push_back({item, least, std::max(0, liked - least)});
+    rest -= least + column.spacing();
+    wishes += parts.back().Wish;
+  }
+  if (rest < 0 || wishes <= rest) return false;
+  column.QLayout::setGeometry(rect);
+  int top = rect.top();
+  for (const Part& part : parts) {
+    const int more = wishes > 0 ? rest * part.Wish / wishes : 0;
+    part.Item->setGeometry({rect.left(), top, rect.width(), part.Least + more});
+    top += part.Least + more + column.spacing();
+    rest -= more;
+    wishes -= part.Wish;
+  }
+  return true;
+}
+
 TurningLayout::TurningLayout(int gap, int least)
     : QBoxLayout(QBoxLayout::LeftToRight), gap_(gap), least_(least) {
   setContentsMargins(0, 0, 0, 0);
@@ -73,20 +104,32 @@ QBoxLayout::Direction TurningLayout::DirectionAt(int width) const {
 }
 
 /// Those without a share get what they ask for, the others what is left, as near as it can be told
-/// before they are placed.
+/// before they are placed. Whose share is less than they need takes it from the others' shares.
 std::vector<int> TurningLayout::WidthsAcross(int width) const {
   std::vector<int> widths(static_cast<std::size_t>(count()));
+  std::vector<int> sharing;
   int rest = width + spacing(), shares = 0;
   for (int i = 0; i < count(); ++i) {
     if (itemAt(i)->isEmpty()) continue;
-    shares += stretch(i);
-    if (stretch(i) == 0) widths[static_cast<std::size_t>(i)] = itemAt(i)->sizeHint().width();
-    rest -= widths[static_cast<std::size_t>(i)] + spacing();
+    rest -= spacing();
+    if (stretch(i) > 0) {
+      sharing.push_back(i);
+      shares += stretch(i);
+    } else {
+      rest -= widths[static_cast<std::size_t>(i)] = itemAt(i)->sizeHint().width();
+    }
   }
-  for (int i = 0; i < count(); ++i)
-    if (stretch(i) > 0 && !itemAt(i)->isEmpty())
-      widths[static_cast<std::size_t>(i)] =
-          std::max(itemAt(i)->minimumSize().width(), rest * stretch(i) / shares);
+  const auto needs = [&](int i) {
+    return itemAt(i)->minimumSize().width() > rest * stretch(i) / shares;
+  };
+  for (auto needy = std::ranges::find_if(sharing, needs); needy != sharing.end();
+       needy = std::ranges::find_if(sharing, needs)) {
+    rest -= widths[static_cast<std::size_t>(*needy)] = itemAt(*needy)->minimumSize().width();
+    shares -= stretch(*needy);
+    sharing.erase(needy);
+    if (shares == 0) break;
+  }
+  for (const int i : sharing) widths[static_cast<std::size_t>(i)] = rest * stretch(i) / shares;
   return widths;
 }
 
@@ -117,7 +160,7 @@ void TurningLayout::setGeometry(const QRect& rect) {
     HoldRows(wanted == LeftToRight);
     update();  // what stands around it has another height to reckon with
   }
-  QBoxLayout::setGeometry(rect);
+  if (wanted == LeftToRight || !PlaceTight(*this, rect)) QBoxLayout::setGeometry(rect);
 }
 
 }  // namespace grapplemont::desktop

@@ -5,6 +5,12 @@
 
 namespace grapplemont::desktop {
 
+/// Places the parts of a column that has room for what they need, though not for what they would
+/// like: each gets the one and its share of the rest. Qt would take parts that bend with the width
+/// for as high as they would like, and cut them all alike. False, with nothing placed, for any
+/// other room.
+bool PlaceTight(QBoxLayout& column, const QRect& rect);
+
 /// A row whose parts stand one below the other where they have no room beside each other.
 class TurningLayout : public QBoxLayout {
  public:

@@ -5,8 +5,8 @@
 #include "records/houserules.h"
 #include "records/modVar.h"
 #include "records/severing.h"
-#include "roster/objections.h"
 #include "roster/postings.h"
+#include "roster/talkobjections.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {

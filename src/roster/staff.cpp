@@ -7,7 +7,7 @@
 #include "records/modWresCheck.h"
 #include "records/severing.h"
 #include "roster/leaving.h"
-#include "roster/objections.h"
+#include "roster/talkobjections.h"
 
 namespace grapplemont {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "records/fields/wording.h"
-#include "roster/objections.h"
+#include "roster/talkobjections.h"
 
 namespace grapplemont {
 

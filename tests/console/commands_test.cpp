@@ -92,7 +92,7 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
       {"click cmd\x1B[2Jdoit", "The line holds a control character."},
       {"type txtname \xD0\x96",
        "The game writes Western European letters only; \"\xD0\x96\" is "
-       "none of them."},
+       "not one of them."},
       {"type txtname \xF0\x9F\x98\x80",
        "The game writes Western European letters only; \"\xF0\x9F\x98\x80\" is not one of them."},
       {"type txtname \xFF\xFE", "The line is not UTF-8."},

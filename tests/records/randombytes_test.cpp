@@ -153,9 +153,9 @@ int LoadAndLive(int cases, std::uint64_t seed, Files (*make)(Dice&)) {
 }
 
 TEST(RandomBytes, OfNoiseGiveAWorldOrAMessage) {
-  const int worlds = LoadAndLive(1500, 1000, Noise);
+  const int worlds = LoadAndLive(3000, 1000, Noise);
   EXPECT_GT(worlds, 200);
-  EXPECT_LT(worlds, 1500);
+  EXPECT_LT(worlds, 3000);
 }
 
 TEST(RandomBytes, InAGoodGameGiveAWorldOrAMessage) {

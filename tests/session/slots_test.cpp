@@ -99,8 +99,8 @@ TEST_F(SavedGames, GoToAFileAndComeBackFromIt) {
   std::string longer = packed + "x", changed = packed;
   changed[packed.size() / 2] ^= 1;
   const std::pair<std::string, const char*> kBad[] = {
-      {"", "no saved game"},
-      {"a diary", "no saved game"},
+      {"", "not an exported saved game"},
+      {"a diary", "not an exported saved game"},
       {packed.substr(0, packed.size() / 2), "spoiled"},
       {longer, "spoiled"},
       {changed, "spoiled"}};

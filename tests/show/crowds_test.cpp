@@ -174,7 +174,9 @@ TEST(HeadToHead, KeepsItsLimitsAndGaps) {
       rating.Add(500 - c.Lead, "on its own");
       HeadToHead(world, world.Shows()[1], rating);
       EXPECT_EQ(int(rating), 500 - c.Lead + c.Change);
-      if (c.Change != 0) EXPECT_EQ(rating.Steps().back().Why, "Rival Hour at the same hour");
+      if (c.Change != 0) {
+        EXPECT_EQ(rating.Steps().back().Why, "Rival Hour at the same hour");
+      }
       EXPECT_EQ(NewsOf(world), isPlayers ? c.News : "") << c.Lead;
     }
 }

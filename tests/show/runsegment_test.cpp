@@ -131,13 +131,13 @@ TEST(RunSegment, TellsStepsThatAddUpToTheNumbersShown) {
       SCOPED_TRACE("night " + std::to_string(night) + ", " + std::to_string(number));
       const ToldSegment told = RunSegment(world, number, nullptr);
       for (const Score* score : {&told.Quality, &told.Crowd, &told.Overall}) {
-        int sum = 0;
+        long long sum = 0;
         for (const ScoreStep& step : score->Steps()) {
           EXPECT_NE(step.Change, 0);
           EXPECT_NE(step.Why, "");
           sum += step.Change;
         }
-        EXPECT_EQ(sum, *score);
+        EXPECT_EQ(sum, score->Whole());
       }
       EXPECT_EQ(told.Overall, world.Segments()[number].Rating);
       EXPECT_TRUE(told.Overall >= 0 && told.Overall <= 100);

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QEvent>
 #include <QVBoxLayout>
+#include <QWidget>
 #include <algorithm>
 #include <memory>
 #include <vector>
+
+#include "desktop/turninglayout.h"
 
 // Columns of a page and of its cards.
 
@@ -21,6 +25,9 @@ class Column : public QVBoxLayout {
   QSize maximumSize() const override {
     return isEmpty() ? QSize(0, 0) : QVBoxLayout::maximumSize();
   }
+  void setGeometry(const QRect& rect) override {
+    if (!PlaceTight(*this, rect)) QVBoxLayout::setGeometry(rect);
+  }
 
  private:
   bool calm_;
@@ -33,6 +40,7 @@ class LevelColumn : public QVBoxLayout {
   LevelColumn(QWidget* card, std::shared_ptr<Peers> peers)
       : QVBoxLayout(card), peers_(std::move(peers)) {
     peers_->push_back(this);
+    card->installEventFilter(this);
   }
   ~LevelColumn() override { std::erase(*peers_, this); }
 
@@ -41,6 +49,13 @@ class LevelColumn : public QVBoxLayout {
   }
   QSize minimumSize() const override {
     return {QVBoxLayout::minimumSize().width(), Highest(&LevelColumn::OwnLeast)};
+  }
+  /// What changes on a card changes how high its peers are, which Qt keeps until it is said.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::LayoutRequest && watched == parentWidget())
+      for (const LevelColumn* peer : *peers_)
+        if (peer != this) peer->parentWidget()->updateGeometry();
+    return QVBoxLayout::eventFilter(watched, event);
   }
   bool hasHeightForWidth() const override { return true; }
   int heightForWidth(int width) const override { return Highest(&LevelColumn::OwnAt, width); }
