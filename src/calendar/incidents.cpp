@@ -120,7 +120,7 @@ int InjuryOdds(int condition) {
 }
 
 /// The day's list is filled from the front; what does not fit is dropped.
-void Book(World& world, int type, int uid) {
+void BookIncident(World& world, int type, int uid) {
   for (Incident& incident : world.Incidents()) {
     if (incident.Type != 0) continue;
     incident.Type = type;
@@ -139,7 +139,7 @@ void RollFor(World& world, const Worker& worker, bool isShort) {
     const int odds = row.Odds[band] - (isShort ? row.OffWhenShort : 0);
     if (world.RandomDraw(odds) == row.Hit && type == 0) type = row.Type;
   }
-  if (type != 0) Book(world, type, worker.Uid);
+  if (type != 0) BookIncident(world, type, worker.Uid);
 }
 
 bool IsAround(const Worker& worker) {
@@ -157,7 +157,7 @@ void RollOffer(World& world) {
   if (world.Promotions().Count() == 0) return;
   const Promotion& promotion = world.Promotions()[world.RandomDraw(world.Promotions().Count())];
   if (promotion.Uid != world.PlayerUid() && promotion.Size > world.Session.StartSize - 3)
-    Book(world, kJobOffer, promotion.Uid);
+    BookIncident(world, kJobOffer, promotion.Uid);
 }
 
 /// Rivals make no use of debuts, turns and suspended Titles that the player has had in mind.
@@ -202,7 +202,7 @@ void IncidentRoll(World& world) {
 }
 
 void OfferJob(World& world, const Promotion& promotion) {
-  Book(world, kJobOffer, promotion.Uid);
+  BookIncident(world, kJobOffer, promotion.Uid);
 }
 
 void Suspend(Worker& worker, int months) {
