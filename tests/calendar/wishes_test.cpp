@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "calendar/incidents.h"
+#include "records/segmentwords.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"

@@ -104,8 +104,9 @@ TEST(HouseRules, WomenTakeTheMensPlacesBeforeTheGameBegins) {
   choice.House = Only(HouseRule::WomenOnly);
   NewGame(world, choice);
   for (const Worker& worker : world.Workers())
-    if (worker.Employer == choice.PromotionUid && worker.Gender)
+    if (worker.Employer == choice.PromotionUid && worker.Gender) {
       EXPECT_EQ(worker.Name.Str(), "Corner");
+    }
   EXPECT_EQ(Named(world.Workers(), "Ada").Employer, choice.PromotionUid);
 }
 
