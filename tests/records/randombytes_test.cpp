@@ -31,11 +31,12 @@ Bytes RandomBytes(Dice& dice, std::size_t length) {
   return bytes;
 }
 
-/// Every file of noise, or none of it.
+/// Noise in some files or in nearly all of them, and nothing in the others.
 Files Noise(Dice& dice) {
   Files files;
+  const int sixths = dice.From(1, 5);
   for (const Table* table : Sample().Tables()) {
-    if (dice.OneIn(6)) continue;
+    if (dice.From(1, 6) > sixths) continue;
     const int record = table->Layout() ? table->Layout()->Size : 7;
     const int most = dice.OneIn(20) ? 40 * record : 6 * record;
     files[std::string(table->File())] =

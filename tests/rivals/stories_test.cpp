@@ -113,7 +113,7 @@ TEST(RivalStables, BeginTakeInFallOutAndEnd) {
   ASSERT_EQ(world.Grudges().Count(), 1);
   EXPECT_EQ(world.Grudges()[1].Why, kGrudgeStable);
   Named(world.Workers(), "XWF Hand 7").Position = kDevelopmentDeal;  // a member all the same
-  ScriptLife(world, {{200, 1}, {200, 2}, {10, 2}, {4, 2}});
+  ScriptLife(world, {{200, 1}, {200, 2}, {10, 2}});
   MoveStables(world, XWF(world), TroupeOf(world));
   EXPECT_EQ(members(), 0);
   EXPECT_EQ(world.Stables().Count(), 1);
