@@ -1,5 +1,9 @@
 #include "rivals/rivals.h"
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 #include "business/sponsors.h"
 #include "records/modVar.h"
 #include "records/severing.h"
@@ -49,21 +53,36 @@ void PartWays(World& world, const std::vector<Worker*>& workers) {
   LoseClients(world, uids);
 }
 
+namespace {
+
+bool IsWilling(const Sponsor& sponsor, const Promotion& rival) {
+  return BearsRisk(sponsor, rival.Risk) &&
+         sponsor.Pay < RivalSponsorPayLimit(rival.Size, rival.Image);
+}
+
+}  // namespace
+
 bool FitsRival(const Sponsor& sponsor, const Promotion& rival) {
   const tuning::PayBand& usual = BySize(tuning::kUsualPay, rival.Size);
-  return BearsRisk(sponsor, rival.Risk) &&
-         sponsor.Pay < RivalSponsorPayLimit(rival.Size, rival.Image) && sponsor.Pay >= usual.From &&
-         sponsor.Pay <= usual.To;
+  return IsWilling(sponsor, rival) && sponsor.Pay >= usual.From && sponsor.Pay <= usual.To;
 }
 
 namespace {
 
-/// One of those who are free and fit, by a draw of World::Life; nullptr for nobody.
-Sponsor* DrawSponsor(World& world, const Promotion& rival) {
+/// One of those who are free and fit, by a draw of World::Life. Whoever has no sponsor at all takes
+/// the dearest of those who pay less than is usual; nullptr for nobody.
+Sponsor* DrawSponsor(World& world, const Promotion& rival, bool hasOne) {
   std::vector<Sponsor*> fitting;
-  for (Sponsor& sponsor : world.Sponsors())
-    if (sponsor.Promotion == 0 && FitsRival(sponsor, rival)) fitting.push_back(&sponsor);
-  if (fitting.empty()) return nullptr;
+  Sponsor* dearest = nullptr;
+  for (Sponsor& sponsor : world.Sponsors()) {
+    if (sponsor.Promotion != 0 || !IsWilling(sponsor, rival)) continue;
+    if (FitsRival(sponsor, rival))
+      fitting.push_back(&sponsor);
+    else if (sponsor.Pay < BySize(tuning::kUsualPay, rival.Size).From &&
+             (!dearest || sponsor.Pay > dearest->Pay))
+      dearest = &sponsor;
+  }
+  if (fitting.empty()) return hasOne ? nullptr : dearest;
   const int drawn = world.Life().Draw(static_cast<int>(fitting.size()));
   return fitting[static_cast<std::size_t>(drawn - 1)];
 }
@@ -73,9 +92,10 @@ Sponsor* DrawSponsor(World& world, const Promotion& rival) {
 void RivalSponsorSigning(World& world) {
   for (Promotion& rival : world.Promotions()) {
     if (!IsRival(world, rival)) continue;
+    bool hasOne = std::ranges::any_of(rival.Sponsor, [](int uid) { return uid != 0; });
     for (int slot = 1; slot <= static_cast<int>(rival.Sponsor.size()); ++slot) {
       if (SponsorAt(world, rival, slot)) continue;
-      Sponsor* sponsor = DrawSponsor(world, rival);
+      Sponsor* sponsor = DrawSponsor(world, rival, std::exchange(hasOne, true));
       if (!sponsor) break;
       SignSponsor(world, rival, *sponsor, slot);
       TellOf(world, world.Game().MailSponsor, rival,

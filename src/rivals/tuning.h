@@ -34,7 +34,7 @@ inline constexpr int kWaitingDiscount = 5;
 inline constexpr int kLeastAsked = 2;
 
 /// A week's house show, in dollars: half of it is sure and the rest a matter of image.
-inline constexpr std::array<int, 6> kHouseShow = {120000, 50000, 40000, 70000, 40000, 500};
+inline constexpr std::array<int, 6> kHouseShow = {120000, 50000, 40000, 120000, 70000, 800};
 /// Workers needed for one, and the most condition that it takes from each.
 inline constexpr int kHouseShowCrew = 8;
 inline constexpr int kHouseShowWear = 3;
@@ -87,10 +87,10 @@ struct SpendingHabit {
   bool MindsDebts;
 };
 inline constexpr std::array<SpendingHabit, 3> kHabits = {
-    {{80, 50, true}, {92, 55, true}, {125, 85, false}}};
+    {{75, 45, true}, {88, 52, true}, {120, 80, false}}};
 /// This many owners in a hundred are reckless, one fewer for each this many points of talent; and
 /// this many are careful.
-inline constexpr int kRecklessIn100 = 30;
+inline constexpr int kRecklessIn100 = 25;
 inline constexpr int kTalentToOneLess = 3;
 inline constexpr int kCarefulIn100 = 30;
 
@@ -100,7 +100,7 @@ struct PayBand {
   int To;
 };
 inline constexpr std::array<PayBand, 6> kUsualPay = {
-    {{350, 1000}, {200, 920}, {120, 700}, {60, 600}, {40, 450}, {1, 50}}};
+    {{350, 1000}, {200, 920}, {90, 460}, {100, 560}, {80, 450}, {1, 60}}};
 
 /// A promotion goes after this many people a month where its budget has room, and one more a week
 /// where it prospers; one of this many talks succeeds.
@@ -131,7 +131,7 @@ inline constexpr int kLeastCard = 10;
 /// Where there are no newcomers for the card, this many of the most popular go in a week.
 inline constexpr int kStarsAWeek = 2;
 /// A class with this many promotions is full.
-inline constexpr std::array<int, 6> kRoomInClass = {3, 4, 4, 6, 6, 30};
+inline constexpr std::array<int, 6> kRoomInClass = {3, 4, 4, 6, 4, 30};
 /// The ten best of whoever wants to rise may be this much less popular than those of the class
 /// above, and of whoever wants to stay than those of its own.
 inline constexpr int kMayBeWeaker = 2;
@@ -173,7 +173,7 @@ inline constexpr int kLookBonus = 5;
 /// By the place on the card, Main Event to Jobber.
 inline constexpr std::array<int, 6> kPlaceBonus = {4, 2, 0, -2, -3, -4};
 /// What a year costs a wrestler whose body fails them.
-inline constexpr int kPastIt = 2;
+inline constexpr int kPastIt = 3;
 /// A voice alone is worth this many fifths of what voice and ring are together.
 inline constexpr int kVoiceAlone = 4;
 /// What it costs not to be seen in a ring.

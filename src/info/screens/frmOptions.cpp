@@ -217,12 +217,15 @@ class frmUser : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return PageOf(
+    ui::Page page = PageOf(
         ui::Columns({ui::Rows({ui::Group("What the owner wishes", {ui::Grow(lstwishes)}).Grow(),
                                ui::Group("Jobs", {ui::Grow(lstjobs)}).Grow()})
                          .Grow(5),
                      ui::Group("", {ui::Grow(txtuser)}).Grow(2)}),
-        &lblfacts, {}, HasEnded(world().Game()) ? &cmdplayon : nullptr);
+        &lblfacts);
+    page.Actions.push_back(&cmdplayon);
+    if (HasEnded(world().Game())) page.Main = &cmdplayon;
+    return page;
   }
 
   void Return() override {
