@@ -84,6 +84,13 @@ bool ScreenView::HasTitlePicture() const {
   });
 }
 
+int ScreenView::Floor() const {
+  for (ControlView* view : views_)
+    if (&view->Shows() == behind_ && behind_->File.Get() == "vxm_title.jpg")
+      return view->Widget()->mapTo(this, QPoint(0, view->Widget()->height())).y();
+  return height();
+}
+
 void ScreenView::DressPictures() {
   for (ControlView* view : views_) {
     auto* picture = dynamic_cast<PictureView*>(view);
@@ -329,7 +336,7 @@ void ScreenView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const Colours& c = ColoursOf(this);
   painter.fillRect(rect(), c.Ground);
-  backdrop_.Paint(painter, *this);
+  backdrop_.Paint(painter, *this, Floor());
   const bool waits = screen_->Is() == ui::Role::Wait;
   if (!waits && title_->isHidden()) return;
   // Words stand on the picture: it steps back, at the bottom alone while one waits.

@@ -60,6 +60,8 @@ class ScreenView : public QWidget {
   void FindBackdrop();
   void DressPictures();
   bool HasTitlePicture() const;
+  /// Above which the words of the picture behind stand.
+  int Floor() const;
   /// Makes a view of the control here and gives its widget.
   QWidget* Add(ui::Control& control);
   bool PressCancel();
