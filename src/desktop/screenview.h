@@ -8,6 +8,7 @@
 #include "desktop/button.h"
 #include "desktop/layoutbuilder.h"
 #include "desktop/pictureview.h"
+#include "desktop/scroller.h"
 #include "desktop/textviews.h"
 #include "ui/screen.h"
 
@@ -72,6 +73,7 @@ class ScreenView : public QWidget {
   ui::Page page_;
   std::vector<ControlView*> views_;
   std::vector<LayoutBuilder::CardContents> cards_;
+  Scroller* whole_ = nullptr;  // of head and body
   QLabel* title_ = nullptr;
   QBoxLayout* tail_ = nullptr;      // of the head: what is searched and done
   std::vector<ButtonView*> mains_;  // Main and Then

@@ -12,6 +12,9 @@ class Scroller : public BareScroller {
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  /// Has this one, which stands in the body, scroll by itself only where it has room enough for
+  /// that; else all of it scrolls with the rest.
+  void SetInner(Scroller& inner) { inner_ = &inner; }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -22,7 +25,14 @@ class Scroller : public BareScroller {
   /// The body's width without a scroll bar beside it.
   int WholeWidth() const;
   void Fit();
+  /// The least that it needs in order to scroll by itself.
+  int LeastRoom() const;
+  /// Shows all of its body, whose window has this height; 0: scrolls by itself.
+  void SetWhole(int window);
+  void FitInner(int width, int room);
 
+  Scroller* inner_ = nullptr;
+  int window_ = 0;
   bool tight_;
   bool placed_ = false;  // before that its width says nothing
 };
