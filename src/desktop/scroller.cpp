@@ -7,7 +7,9 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kLeastBody = 170;  // under a window's head, before all of the page scrolls
+// The least height of a body that scrolls by itself: alone, and in a scroller, before all of that
+// scrolls instead.
+constexpr int kLeast = 80, kLeastWithin = 170;
 
 }  // namespace
 
@@ -21,7 +23,7 @@ QSize Scroller::sizeHint() const {
 }
 
 int Scroller::LeastRoom() const {
-  return std::clamp(LeastHeight(WholeWidth()), Px(80), Px(kLeastBody));
+  return std::clamp(LeastHeight(WholeWidth()), Px(kLeast), Px(isWithin_ ? kLeastWithin : kLeast));
 }
 
 /// All of a body is as high as it likes to be, though hardly more than its window shows at once.

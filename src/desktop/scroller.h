@@ -14,7 +14,10 @@ class Scroller : public BareScroller {
   QSize minimumSizeHint() const override;
   /// Has this one, which stands in the body, scroll by itself only where it has room enough for
   /// that; else all of it scrolls with the rest.
-  void SetInner(Scroller& inner) { inner_ = &inner; }
+  void SetInner(Scroller& inner) {
+    inner_ = &inner;
+    inner.isWithin_ = true;
+  }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -33,7 +36,7 @@ class Scroller : public BareScroller {
 
   Scroller* inner_ = nullptr;
   int window_ = 0;
-  bool tight_;
+  bool tight_, isWithin_ = false;
   bool placed_ = false;  // before that its width says nothing
 };
 
