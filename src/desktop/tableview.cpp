@@ -21,10 +21,11 @@ QString SearchHint(const ui::ListBox& list) {
     const bool number =
         column.Kind == ui::ColumnKind::Number || column.Kind == ui::ColumnKind::Percent;
     // A place or a date is a number to the table, but nobody would look for one by its size.
+    const bool place = column.Title == "#" || column.Title == "Place";
     const bool plain =
         list.Count() == 0 || i >= list.Rows().front().Cells.size() ||
         list.Rows().front().Cells[i].Text.find_first_not_of("0123456789%") == std::string::npos;
-    if (number && plain && !column.Title.empty() && column.Title != "#")
+    if (number && plain && !place && !column.Title.empty())
       return "Filter: " + Shown(column.Title) + " >60\u2026";
   }
   return "Filter\u2026";
