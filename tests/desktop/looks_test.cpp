@@ -102,6 +102,32 @@ TEST(TheAlbum, ComesToTheScreensAndNothingOverlapsInASmallWindowWithLargeText) {
   game.CloseSlot();
 }
 
+TEST(TheFields, StandBelowTheirLabelsWhereTheyHaveNoRoomBesideThem) {
+  class Fields : public ui::Screen {
+   public:
+    explicit Fields(ui::Desk& desk) : Screen(desk, "frmFields", "Fields") {}
+    ui::Page Layout() override {
+      return {.Body = ui::Columns(
+                  {ui::Group("One", {ui::Field("The price of a ticket in dollars", hsprice)}),
+                   ui::Group("Two", {lblmore})})};
+    }
+    ui::ScrollBar hsprice{*this, "hsprice", 5, 100};
+    ui::Label lblmore{*this, "lblmore", "There is more."};
+  };
+  Log notes;
+  Player play;
+  play.Open(std::make_unique<Hub>(play.Desk, notes));
+  play.Open(std::make_unique<Fields>(play.Desk));
+  play.Window.resize(1024, 640);
+  for (const int percent : {100, 200}) {
+    play.Window.SetLook(desktop::Scheme::Dark, desktop::DesktopText() * (percent - 100) / 100);
+    for (int i = 0; i < 4; ++i) QApplication::processEvents();
+    const QWidget& price = *play.See("hsprice");
+    EXPECT_EQ(price.visibleRegion().boundingRect().width(), price.width()) << percent;
+  }
+  play.Window.SetLook(desktop::Scheme::Dark, 0);
+}
+
 TEST(TheTopBar, KeepsItsFormFromDayToDay) {
   Log notes;
   Player play;
@@ -150,32 +176,6 @@ TEST(TheCards, StandInALineWhereEachHasTheLettersItNeeds) {
       tops.insert(play.See(name)->mapTo(&play.Window, QPoint()).y());
     EXPECT_EQ(std::ssize(tops), lines) << width;
   }
-}
-
-TEST(TheFields, StandBelowTheirLabelsWhereTheyHaveNoRoomBesideThem) {
-  class Fields : public ui::Screen {
-   public:
-    explicit Fields(ui::Desk& desk) : Screen(desk, "frmFields", "Fields") {}
-    ui::Page Layout() override {
-      return {.Body = ui::Columns(
-                  {ui::Group("One", {ui::Field("The price of a ticket in dollars", hsprice)}),
-                   ui::Group("Two", {lblmore})})};
-    }
-    ui::ScrollBar hsprice{*this, "hsprice", 5, 100};
-    ui::Label lblmore{*this, "lblmore", "There is more."};
-  };
-  Log notes;
-  Player play;
-  play.Open(std::make_unique<Hub>(play.Desk, notes));
-  play.Open(std::make_unique<Fields>(play.Desk));
-  play.Window.resize(1024, 640);
-  for (const int percent : {100, 200}) {
-    play.Window.SetLook(desktop::Scheme::Dark, desktop::DesktopText() * (percent - 100) / 100);
-    for (int i = 0; i < 4; ++i) QApplication::processEvents();
-    const QWidget& price = *play.See("hsprice");
-    EXPECT_EQ(price.visibleRegion().boundingRect().width(), price.width()) << percent;
-  }
-  play.Window.SetLook(desktop::Scheme::Dark, 0);
 }
 
 TEST(TheLines, OfProseEndWhereTheyCanBeRead) {
