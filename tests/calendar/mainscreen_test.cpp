@@ -2,6 +2,7 @@
 
 #include "records/fields/fields.h"
 #include "records/modVar.h"
+#include "records/segments.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {
