@@ -227,11 +227,8 @@ class frmOtherFed : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page =
-        PageOf(ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()}),
-               &lblfacts, {&cmdbuyout});
-    page.Main = nullptr;  // Enter is the hub's
-    return page;
+    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()}),
+                  &lblfacts, {&cmdbuyout});
   }
 
   void Load() override {
