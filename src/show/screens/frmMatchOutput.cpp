@@ -23,6 +23,7 @@ constexpr std::array<Figure, 3> kFigures = {{
     {"txtoverall", "Overall Rating", &ToldSegment::Overall},
 }};
 constexpr int kFigureCount = 3, kOverallFigure = 3;
+constexpr int kLettersOfCard = 60;  // that stands beside another
 
 const Figure& FigureAt(int i) {
   return kFigures[static_cast<std::size_t>(i - 1)];
@@ -59,9 +60,11 @@ class frmMatchOutput : public ui::Screen {
         {ui::Group("", {lbltitle, ui::Columns({lblinfo, txtstyle, txttype, txtbelt, ui::Spacer()}),
                         txtstip, ui::Grow(txtreport), lblwinner})
              .Grow(9),
-         ui::Rows({ui::Group("", std::move(figures)).Grow(9),
-                   ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4),
-                   ui::Group("The show so far", {txtannouncers, ui::Grow(chtshow)}).Grow(3)})
+         ui::Columns({ui::Rows({ui::Group("", std::move(figures)).Grow(9),
+                                ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4)})
+                          .Grow(2),
+                      ui::Group("The show so far", {txtannouncers, ui::Grow(chtshow)}).Grow(1)})
+             .Wide(kLettersOfCard)
              .Grow(5)});
     return page;
   }
