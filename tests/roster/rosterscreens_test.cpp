@@ -377,6 +377,8 @@ TEST(frmWorker, HasNoTalksInTheMidstOfAShow) {
   ASSERT_EQ(play.Desk.TopName(), "frmWorker");
   for (const char* act : {"cmdcontract", "cmdturn", "cmddemote"})
     EXPECT_EQ(play.Desk.Tip(act), "There is a show to see to first.");
+  const ui::Page page = play.Desk.Top()->Layout();
+  EXPECT_EQ(page.Then, page.Cancel) << "Enter goes back";
 }
 
 TEST(Links, LeadFromAMailToThePageAndOn) {
