@@ -14,8 +14,8 @@ namespace grapplemont::desktop {
 namespace {
 
 /// What changes a screen so much that it is tried behind all else, in this order.
-constexpr std::array<std::string_view, 6> kLast = {"cmdloadgame", "cmdauto",  "cmdfill",
-                                                   "cmddoshow",   "cmduntil", "cmdnext"};
+constexpr std::array<std::string_view, 7> kLast = {
+    "cmdloadgame", "cmdcontinue", "cmdauto", "cmdfill", "cmddoshow", "cmduntil", "cmdnext"};
 /// What makes a screen worth a second picture in the first one's place.
 constexpr std::string_view kFills = "cmdfill";
 constexpr std::string_view kLeavesTheGame = "cmdquit";

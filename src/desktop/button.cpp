@@ -146,11 +146,11 @@ void PushButton::focusInEvent(QFocusEvent* event) {
 
 ButtonView::ButtonView(ui::Button& button, Stage& stage, QWidget* parent)
     : ViewOf(button, stage, parent) {
-  if (button.Plain) SetPlain();
   connect(this, &QAbstractButton::clicked, this, [this] { Pressed ? Pressed() : Do(ui::Click); });
 }
 
 void ButtonView::Show() {
+  SetPlain(control_.Plain);
   setText(Shown(control_.Text.Get()));
   SetBadge(Shown(control_.Badge.Get()));
   const ui::Tone tone = control_.Colour.Get();

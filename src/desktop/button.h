@@ -48,7 +48,7 @@ class PushButton : public BareButton {
   /// Shows the sign of the Enter key behind the caption. A gold button keeps room for it.
   void SetEnter(bool enter) { Change(enter_, enter); }
   /// Words alone, as a link.
-  void SetPlain() { Change(plain_, true); }
+  void SetPlain(bool plain) { Change(plain_, plain); }
   /// In drawn pixels.
   void SetLeast(int width, int height) { Change(least_, {Px(width), Px(height)}); }
   bool ShowsEnter() const { return enter_; }

@@ -28,8 +28,23 @@ constexpr int kWide = 14, kClose = 8;  // between cards, within a card
 constexpr int kCardSide = 14;
 constexpr int kScrollBar = 16;
 constexpr int kLetter = 7;
-constexpr int kLeastCard = 220;   // beside another; a narrower one stands below it
-constexpr int kLeastAlike = 180;  // the same of many that hold as little each
+constexpr int kWidestField = 420;
+constexpr int kFieldsShare = 1000;  // of a form's width, as long as they are not that wide
+constexpr int kLeastCard = 220;     // beside another; a narrower one stands below it
+constexpr int kLeastAlike = 180;    // the same of many that hold as little each
+
+/// What a line is typed into, chosen from or slid on needs no more width than what it can hold.
+bool IsNarrow(const ui::Control& control) {
+  return control.Is() == ui::Kind::ComboBox || control.Is() == ui::Kind::TextBox ||
+         control.Is() == ui::Kind::ScrollBar;
+}
+
+/// Leaves what is beyond that to a column behind it.
+void Narrow(QWidget& field, QGridLayout& form) {
+  field.setMaximumWidth(Px(kWidestField));
+  form.setColumnStretch(1, kFieldsShare);
+  form.setColumnStretch(2, 1);
+}
 
 /// Lets a button with a share take it.
 void Widen(QWidget& widget, const Box& box) {
@@ -292,6 +307,7 @@ void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
     view->SetCompanion(label);
     label->setBuddy(view->FocusTarget());
     const bool tall = Grows(*field);
+    if (!tall && IsNarrow(*field->Shown)) Narrow(*view->Widget(), *form);
     grows = grows || tall;
     form->addWidget(label, row, 0,
                     tall ? Qt::AlignTop | Qt::AlignLeft : Qt::AlignVCenter | Qt::AlignLeft);

@@ -16,8 +16,9 @@ namespace {
 
 constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
-constexpr int kPartGap = 14;      // between head, body and foot
-constexpr int kLeastTitle = 260;  // what the title has beside actions
+constexpr int kPartGap = 14;       // between head, body and foot
+constexpr int kWidestPage = 1160;  // of a page with nothing on it that would show more
+constexpr int kLeastTitle = 260;   // what the title has beside actions
 constexpr int kAllThereIs = 1 << 16;
 
 bool IsBackdropFile(const std::string& file) {
@@ -47,10 +48,8 @@ ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget
   }
   DressPictures();
   for (ControlView* view : views_)
-    if (&view->Shows() == page_.Main || &view->Shows() == page_.Then) {
+    if (&view->Shows() == page_.Main || &view->Shows() == page_.Then)
       mains_.push_back(dynamic_cast<ButtonView*>(view));
-      mains_.back()->SetGold(true);
-    }
   Refresh();
 }
 
@@ -206,6 +205,7 @@ void ScreenView::BuildBody(QBoxLayout* into) {
                         Shown(screen_->Title.Get()));
   builder.Build(page_.Body, column);
   scroller->Hold(body);
+  if (screen_->Is() == ui::Role::Page && !Grows(page_.Body)) body->setMaximumWidth(Px(kWidestPage));
   into->addWidget(scroller, 1);
   if (whole_) whole_->SetInner(*scroller);
   views_.insert(views_.end(), builder.Views().begin(), builder.Views().end());
@@ -233,6 +233,7 @@ void ScreenView::Refresh() {
     }
   }
   for (ControlView* view : views_) view->Refresh();
+  for (ButtonView* main : mains_) main->SetGold(&main->Shows() == MainNow());
   for (const auto& card : cards_)
     card.Sheet->setVisible(card.Views.empty() || std::ranges::any_of(card.Views, [](auto* view) {
                              return view->Shows().Visible.Get();
@@ -352,9 +353,9 @@ void ScreenView::paintEvent(QPaintEvent*) {
   // Words stand on the picture: it steps back, at the bottom alone while one waits.
   QLinearGradient veil(0, 0, 0, height());
   QColor shade = c.Ground;
-  shade.setAlphaF(waits ? 0.F : 0.45F);
+  shade.setAlphaF(waits ? 0.F : 0.7F);
   veil.setColorAt(waits ? 0.75 : 0, shade);
-  shade.setAlphaF(waits ? 0.85F : 0.55F);
+  shade.setAlphaF(waits ? 0.85F : 0.8F);
   veil.setColorAt(1, shade);
   painter.fillRect(rect(), veil);
 }

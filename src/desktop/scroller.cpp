@@ -60,8 +60,9 @@ int Scroller::LeastHeight(int width) const {
 }
 
 int Scroller::WholeWidth() const {
-  return placed_ ? std::max(maximumViewportSize().width(), widget()->minimumSizeHint().width())
-                 : Px(480);
+  if (!placed_) return Px(480);
+  return std::min(std::max(maximumViewportSize().width(), widget()->minimumSizeHint().width()),
+                  widget()->maximumWidth());
 }
 
 /// Whether it must scroll is told from the width that it has without a bar. Else a row that turns

@@ -22,8 +22,10 @@ using ui::ColumnKind;
 constexpr int kBarWidth = 56, kBarHeight = 6;
 constexpr int kTagHeight = 19, kTagSide = 6, kTagGap = 4;
 constexpr int kRowButton = 76;
-constexpr int kDrawn = 24;  // high
-constexpr int kStar = 18;   // wide, with its gap
+constexpr int kTableRow = 33, kCardRow = 74;
+constexpr int kDrawn = 24, kDrawnOnCard = 46;  // high
+constexpr int kUnder = 36;                     // two lines of a sentence
+constexpr int kStar = 18;                      // wide, with its gap
 
 bool IsFigure(const std::string& text) {
   return !text.empty() && text.find_first_not_of("0123456789.%-") == text.npos &&
@@ -122,14 +124,37 @@ int DrawSmall(QPainter* painter, const QRect& room, const ui::Column& column, in
   const ui::Drawing drawing = column.Draws ? column.Draws(key) : ui::Drawing();
   const double shape = ShapeOf(drawing);
   if (shape == 0) return 0;
-  const int width = static_cast<int>(Px(kDrawn) * shape);
+  const int height = Px(column.Under ? kDrawnOnCard : kDrawn);
+  const int width = static_cast<int>(height * shape);
   if (painter)
-    Draw(*painter, QRectF(room.left(), room.center().y() - Px(kDrawn) / 2.0 + 1, width, Px(kDrawn)),
+    Draw(*painter, QRectF(room.left(), room.center().y() - height / 2.0 + 1, width, height),
          drawing);
   return width + Px(8);
 }
 
+/// In two lines at the most; gives the room that is left above it.
+QRect DrawUnder(QPainter& painter, QRect room, const std::string& sentence, const Colours& c) {
+  room.adjust(0, Px(6), 0, -Px(6));
+  QRect below = room;
+  below.setTop(room.bottom() + 1 - Px(kUnder));
+  painter.setFont(TextFont(12));
+  painter.setPen(c.Muted);
+  const int wide = std::max(0, 2 * below.width() - Px(60));  // a line may break early
+  painter.drawText(below, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+                   painter.fontMetrics().elidedText(Shown(sentence), Qt::ElideRight, wide));
+  room.setBottom(below.top() - 1);
+  return room;
+}
+
 }  // namespace
+
+int RowHeight(const ui::ListBox& list) {
+  return std::ranges::any_of(
+             list.Columns(),
+             [](const ui::Column& column) { return static_cast<bool>(column.Under); })
+             ? kCardRow
+             : kTableRow;
+}
 
 int DrawnWidth(const ui::Column& column, int key) {
   return DrawSmall(nullptr, {}, column, key);
@@ -206,7 +231,9 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
   if (cut) room.setRight(edge);
   room.setLeft(room.left() +
                DrawSmall(&painter, room, column, model_.Table().RowAt(index.row()).Key));
-  painter.setFont(TextFont());
+  if (column.Under)
+    room = DrawUnder(painter, room, column.Under(model_.Table().RowAt(index.row()).Key), c);
+  painter.setFont(TextFont(kUsualText, column.Under ? QFont::DemiBold : QFont::Normal));
   if (cell.Best) {
     const int width = CellWidth(cell, column.Kind) - 2 * Px(kCellSide);
     DrawStar(painter, QPointF(room.left() + width - Px(kStar) / 3.0, room.center().y() + 1), c);
@@ -229,7 +256,7 @@ QSize TableCells::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index
   const ui::Column& column = model_.Column(index.column());
   const int drawn = DrawnWidth(column, model_.Table().RowAt(index.row()).Key);
   return {CellWidth(model_.Table().At(index.row(), index.column()), column.Kind) + drawn,
-          Px(kRowHeight)};
+          Px(RowHeight(model_.List()))};
 }
 
 /// The whole of a text that is cut; of a name also how its page is opened.
@@ -241,6 +268,8 @@ bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     lines.append(
         CellText(model_.Table().At(index.row(), index.column()), model_.Column(index.column()).Kind)
             .toHtmlEscaped());
+  if (const auto& under = model_.Column(index.column()).Under)
+    lines.append(Shown(under(model_.Table().RowAt(index.row()).Key)).toHtmlEscaped());
   if (const QString hint = HintOf ? HintOf(index) : QString(); !hint.isEmpty())
     lines.append(hint.toHtmlEscaped());
   if (lines.isEmpty()) {
@@ -269,7 +298,9 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
   const ui::Cell& cell = table_.At(index.row(), index.column());
   const bool tells = role == Qt::AccessibleTextRole && cell.Best;
-  const QString text = CellText(cell, Column(index.column()).Kind);
+  QString text = CellText(cell, Column(index.column()).Kind);
+  if (const auto& under = Column(index.column()).Under; under && role == Qt::AccessibleTextRole)
+    text += ". " + Shown(under(table_.RowAt(index.row()).Key));
   return tells ? text + ", the best" : text;
 }
 

@@ -85,7 +85,8 @@ int CellWidth(const ui::Cell& cell, ui::ColumnKind kind);
 int DrawnWidth(const ui::Column& column, int key);
 bool AlignsRight(ui::ColumnKind kind);
 
-inline constexpr int kRowHeight = 33;  // in drawn pixels
+/// In drawn pixels; rows with a sentence below a text are as high as cards.
+int RowHeight(const ui::ListBox& list);
 inline constexpr int kCellSide = 8;
 
 }  // namespace grapplemont::desktop

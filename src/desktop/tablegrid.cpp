@@ -34,7 +34,7 @@ TableGrid::TableGrid(TableModel& model, QWidget* parent)
   viewport()->setAutoFillBackground(false);
   verticalHeader()->hide();
   verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(Px(kRowHeight));
+  verticalHeader()->setDefaultSectionSize(Px(RowHeight(model_.List())));
   heading_->viewport()->setAutoFillBackground(false);
 }
 
@@ -54,13 +54,13 @@ bool TableGrid::SeesCursor(int height) const {
 
 QSize TableGrid::sizeHint() const {
   const int rows = std::clamp(model_.rowCount(), 2, std::max(2, model_.List().Room));
-  return {Px(240), heading_->sizeHint().height() + rows * Px(kRowHeight) + 2};
+  return {Px(240), heading_->sizeHint().height() + rows * Px(RowHeight(model_.List())) + 2};
 }
 
 /// Whatever is in it: a panel keeps its size when its rows change.
 QSize TableGrid::minimumSizeHint() const {
   const int rows = std::clamp(model_.List().Room, 2, model_.List().Least);
-  return {Px(160), heading_->sizeHint().height() + rows * Px(kRowHeight) + 2};
+  return {Px(160), heading_->sizeHint().height() + rows * Px(RowHeight(model_.List())) + 2};
 }
 
 void TableGrid::SetPinned(int count) {

@@ -65,6 +65,8 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   std::vector<int> NaturalWidths() const;
   bool IsText(std::size_t place) const;
   std::size_t SentencePlace(const std::vector<int>& widths) const;
+  bool IsEmpty(int column) const;
+  int DropEmpty(int room, std::vector<int>& widths) const;
   int PinnedIn(const std::vector<int>& widths) const;
   void SqueezeTexts(int missing, std::vector<int>& widths);
   void ApplyColumns();

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 #include "desktop/tableview.h"
 
@@ -92,11 +93,10 @@ void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
   const std::vector<int> asked = widths;
   const struct {
     int Name, Sentence, Other;
-  } steps[] = {{whole, Px(180), Px(72)},
-               {whole, Px(180), Px(56)},
-               {Px(220), Px(180), Px(56)},
-               {Px(220), Px(72), Px(56)},
-               {Px(110), Px(56), Px(56)}};
+  } steps[] = {{whole, Px(180), Px(110)},
+               {Px(220), Px(180), Px(80)},
+               {Px(220), Px(80), Px(80)},
+               {Px(170), Px(80), Px(80)}};
   for (const auto& step : steps) {
     std::vector<int> least = widths;
     for (std::size_t place = 0; place < widths.size(); ++place) {
@@ -119,6 +119,26 @@ int TableView::PinnedIn(const std::vector<int>& widths) const {
   const int pinned = widths.empty() ? 0 : table_.NamePlace() + 1;
   const int taken = std::accumulate(widths.begin(), widths.begin() + pinned, 0);
   return taken * 10 > grid_->viewport()->width() * 6 ? 0 : pinned;
+}
+
+/// Whether nothing stands below the heading.
+bool TableView::IsEmpty(int column) const {
+  for (int row = 0; row < model_.rowCount(); ++row)
+    if (!table_.At(row, column).Text.empty()) return false;
+  return model_.rowCount() > 0;
+}
+
+/// Where there is no room for all, columns in which nothing stands leave theirs to the others.
+/// Gives what is missing still, below 0.
+int TableView::DropEmpty(int room, std::vector<int>& widths) const {
+  for (std::size_t place = 0; room < 0 && place < widths.size(); ++place) {
+    const int column = table_.Columns()[place];
+    const ui::Column& shown = model_.Column(column);
+    const bool holdsMore = shown.Draws || shown.Kind == ui::ColumnKind::Button;
+    if (place == Index(table_.NamePlace()) || holdsMore || !IsEmpty(column)) continue;
+    room += std::exchange(widths[place], 0);
+  }
+  return room;
 }
 
 /// Each column gets what its contents ask for; what is left over goes to those with a share, else
@@ -144,9 +164,13 @@ void TableView::FitColumns() {
     room -= widths[i];
   }
   Spread(room, shares, widths);
+  room = DropEmpty(room, widths);
   if (room < 0 && !widths.empty()) SqueezeTexts(-room, widths);
   const QScopedValueRollback<bool> arranging(arranging_, true);
-  for (std::size_t i = 0; i < shown.size(); ++i) grid_->setColumnWidth(shown[i], widths[i]);
+  for (std::size_t i = 0; i < shown.size(); ++i) {
+    grid_->setColumnHidden(shown[i], widths[i] == 0);
+    if (widths[i] > 0) grid_->setColumnWidth(shown[i], widths[i]);
+  }
   grid_->SetPinned(rowButtons_.empty() ? PinnedIn(widths) : 0);
   PlaceRowButtons();
 }

@@ -20,6 +20,7 @@ namespace {
 constexpr std::size_t kBest = 10;
 constexpr int kWeakerBy = 4;
 constexpr int kLowImage = 20;
+constexpr int kOld = 40;  // years
 constexpr std::array<std::string_view, 5> kChairs = {"Easy", "Fair", "Demanding", "Hard",
                                                      "Desperate"};
 
@@ -46,17 +47,19 @@ int StrengthOf(const std::vector<const Worker*>& roster) {
   return sum / static_cast<int>(count);
 }
 
-std::string StoryOf(const World& world, const Promotion& promotion,
-                    const std::vector<const Worker*>& roster) {
-  const Staff* owner = OwnerOf(world, promotion.Uid);
-  std::string story = owner ? "Led by " + owner->Name.Str() : "Nobody leads it";
-  if (roster.empty()) return story + ", with nobody to wrestle for it.";
+/// Who draws the crowd, and whether they will for long.
+std::string StarOf(const World& world, const Promotion& promotion,
+                   const std::vector<const Worker*>& roster) {
+  if (roster.empty()) return " Nobody wrestles for it: it begins with the telephone.";
   const Worker& star = *roster.front();
-  story += "; the crowd comes for " + star.Name.Str();
+  std::string words = " The crowd comes for " + star.Name.Str();
   for (const Title& title : world.Titles())
-    if (title.Owner == promotion.Uid && title.Holder == star.Uid)
-      return story + ", who holds the " + title.Name.Str() + ".";
-  return story + ".";
+    if (title.Owner == promotion.Uid && title.Holder == star.Uid) {
+      words += ", who holds the " + title.Name.Str();
+      break;
+    }
+  if (star.Age >= kOld) words += ", at " + std::to_string(int(star.Age));
+  return words + ".";
 }
 
 /// What the promotions of one size have on the average.
@@ -64,20 +67,33 @@ struct Peers {
   long long Money = 0, Strength = 0, Count = 0;
 };
 
+/// The worst comes first.
 void CountBurdens(const World& world, const Peers& peers, Chair& chair) {
   const Promotion& own = *chair.Of;
   const bool onAir =
       std::ranges::any_of(world.Shows(), [&](const Show& show) { return show.Owner == own.Uid; });
-  const std::pair<bool, const char*> burdens[] = {
-      {own.Money * peers.Count * 2 < peers.Money, "little money"},
-      {(chair.Strength + kWeakerBy) * peers.Count <= peers.Strength, "a weak roster"},
-      {own.Image < kLowImage, "a low image"},
-      {!onAir, "no television"}};
+  const struct {
+    bool Holds;
+    const char *Word, *AtStake;
+  } burdens[] = {{own.Money * peers.Count * 2 < peers.Money, "little money",
+                  "A few empty halls, and the money is gone."},
+                 {(chair.Strength + kWeakerBy) * peers.Count <= peers.Strength, "a weak roster",
+                  "The others have the names: it has to make its own."},
+                 {own.Image < kLowImage, "a low image",
+                  "Hardly anybody has heard of it: every show has to win them."},
+                 {!onAir, "no television", "No network carries it: the road is all it has."}};
   std::vector<std::string> words;
-  for (const auto& [holds, word] : burdens)
-    if (holds) words.emplace_back(word);
+  for (const auto& [holds, word, atStake] : burdens) {
+    if (!holds) continue;
+    if (words.empty()) chair.Story = atStake;
+    words.emplace_back(word);
+  }
   chair.Burdens = static_cast<int>(words.size());
   chair.Burdened = Joined(words);
+  if (!words.empty()) return;
+  chair.Story = peers.Count > 1 && chair.Strength * peers.Count > peers.Strength
+                    ? "It has the better people of its size, and everybody after them."
+                    : "It lacks for nothing but a way to the top.";
 }
 
 }  // namespace
@@ -91,13 +107,17 @@ std::vector<Chair> ChairsOf(const World& world) {
     if (promotion.Name == kToBeDeleted) continue;
     const auto found = rosters.find(promotion.Uid);
     const auto& roster = found == rosters.end() ? nobody : found->second;
-    chairs.push_back({&promotion, StrengthOf(roster), 0, {}, StoryOf(world, promotion, roster)});
+    chairs.push_back({&promotion, StrengthOf(roster), 0, {}, {}});
     Peers& alike = peers[promotion.Size];
     alike.Money += promotion.Money;
     alike.Strength += chairs.back().Strength;
     ++alike.Count;
   }
-  for (Chair& chair : chairs) CountBurdens(world, peers[chair.Of->Size], chair);
+  for (Chair& chair : chairs) {
+    CountBurdens(world, peers[chair.Of->Size], chair);
+    const auto found = rosters.find(chair.Of->Uid);
+    chair.Story += StarOf(world, *chair.Of, found == rosters.end() ? nobody : found->second);
+  }
   return chairs;
 }
 

@@ -63,9 +63,13 @@ std::string PathInHome(const std::string& home, std::string_view typed) {
   return path;
 }
 
+bool IsFree(Disk& disk, const std::string& home, int slot) {
+  return StandingFolder(disk, FolderOf(home, slot)).empty();
+}
+
 std::optional<int> FreeSlot(Disk& disk, const std::string& home) {
   for (int slot = 1; slot <= kSlots; ++slot)
-    if (StandingFolder(disk, FolderOf(home, slot)).empty()) return slot;
+    if (IsFree(disk, home, slot)) return slot;
   return std::nullopt;
 }
 

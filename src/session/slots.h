@@ -21,7 +21,9 @@ inline constexpr int kDaysKept = 7;
 /// slashes at its end.
 std::string PathInHome(const std::string& home, std::string_view typed);
 
-/// The first slot of a home without a game and without a folder; nothing when all have one.
+/// Whether a slot has neither a game nor a folder.
+bool IsFree(Disk& disk, const std::string& home, int slot);
+/// The first such slot of a home; nothing when there is none.
 std::optional<int> FreeSlot(Disk& disk, const std::string& home);
 
 /// The slot that was entered last, 1 to kSlots; 0 when that is not known.

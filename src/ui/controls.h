@@ -115,8 +115,8 @@ class Button : public Control {
   Handler OnClick;
   /// A short word or number in a spot beside the caption, such as the count of mails.
   Property<std::string> Badge{Changes(), {}};
-  bool Plain = false;  // words without a frame, for one of many small acts
-  std::string Key;     // "Alt+3" presses it wherever the keyboard is; a shell may do so
+  Property<bool> Plain{Changes(), false};  // words without a frame, for one of many small acts
+  std::string Key;  // "Alt+3" presses it wherever the keyboard is; a shell may do so
 };
 
 class TextBox : public Control {
@@ -220,6 +220,8 @@ struct Column {
   Tone (*ToneOf)(std::string_view word) = nullptr;
   /// What stands above it where the column before it says the rest; empty: the title.
   std::string Short = {};
+  /// A sentence below a cell's text, by the key of its row; it makes cards of the rows.
+  std::function<std::string(int key)> Under = {};
 };
 
 struct Cell {

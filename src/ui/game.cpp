@@ -135,6 +135,15 @@ GameScreen::GameScreen(Game& game, std::string name, std::string title, const Fr
   KeepLast(cmdback);
 }
 
+/// Whether it is a page with nothing but the hub below it.
+bool GameScreen::LiesOnHub() {
+  const auto& screens = desk().Screens();
+  const auto at = std::ranges::find_if(
+      screens, [this](const std::shared_ptr<ui::Screen>& screen) { return screen.get() == this; });
+  return Is() == ui::Role::Page && at != screens.begin() && at != screens.end() &&
+         (*std::prev(at))->Is() == ui::Role::Hub;
+}
+
 ui::Page GameScreen::PageOf(ui::Box body, ui::Label* facts, std::vector<ui::Button*> actions,
                             ui::Button* main) {
   ui::Page page;
@@ -142,7 +151,9 @@ ui::Page GameScreen::PageOf(ui::Box body, ui::Label* facts, std::vector<ui::Butt
   page.Actions = std::move(actions);
   page.Actions.push_back(&cmdback);
   if (main) page.Actions.push_back(main);
-  page.Main = main ? main : &cmdback;
+  const bool justLeaves = cmdback.Text.Get() == "Back" || cmdback.Text.Get() == "Done";
+  const bool leavesEnter = justLeaves && LiesOnHub();
+  page.Main = main ? main : leavesEnter ? nullptr : &cmdback;
   page.Cancel = &cmdback;
   page.Body = std::move(body);
   return page;

@@ -143,7 +143,8 @@ class GameScreen : public ui::Screen {
  protected:
   World& world() { return game_.World(); }
   /// The actions, then the way back, which Escape presses; then `main`, which Enter presses.
-  /// Without one Enter goes back, too; Main may be taken off, which leaves Enter to the hub.
+  /// Without one Enter goes back, too, but for a page that lies on the hub and is left by a plain
+  /// "Back" or "Done": there Enter is the hub's.
   ui::Page PageOf(ui::Box body, ui::Label* facts = nullptr, std::vector<ui::Button*> actions = {},
                   ui::Button* main = nullptr);
   /// For a screen that has controls behind the way back, of which this is the first.
@@ -154,6 +155,8 @@ class GameScreen : public ui::Screen {
   ui::Button cmdback;
 
  private:
+  bool LiesOnHub();
+
   bool manages_;
 };
 

@@ -43,7 +43,7 @@ class TheKeys : public testing::Test {
       const ui::Page page = screen->Layout();
       for (ui::Control* control : screen->Controls())
         if (auto* button = dynamic_cast<ui::Button*>(control);
-            button && (button != page.Cancel || button == page.Main))
+            button && (button != page.Cancel || button == page.Main || button == page.Then))
           button->OnClick = [this, button] { Pressed.push_back(button->Name()); };
     }
     Pressed.clear();
@@ -108,6 +108,27 @@ TEST_F(TheKeys, EnterDoesWhatBearsItsSignInAGame) {
   EXPECT_EQ(Marked(), std::vector<std::string>{"cmdnext"});
   Open("frmFeuds");
   EXPECT_EQ(Marked(), std::vector<std::string>{"cmdask"});
+}
+
+TEST_F(TheKeys, EnterEndsTheDayFromARoomAndGoesBackFromAPageAboveIt) {
+  OpenSlot();
+  for (const std::string name : kInGame) {
+    SCOPED_TRACE(name);
+    Open(name);
+    if (name == "frmWait" || Play.Desk.Screens().size() != 2) continue;
+    const bool isRoom = !Play.Desk.Top()->Layout().Main;
+    if (isRoom) {
+      EXPECT_EQ(Marked(), std::vector<std::string>{"cmdnext"});
+    }
+    Play.Desk.CloseAll();
+    for (const char* below : {"frmMainScreen", "frmFinance", name.c_str()}) Play.Desk.Open(below);
+    Play.Window.Sync();
+    const ui::Page page = Play.Desk.Top()->Layout();
+    EXPECT_TRUE(page.Main);
+    if (isRoom) {
+      EXPECT_EQ(page.Main, page.Cancel);
+    }
+  }
 }
 
 TEST_F(TheKeys, VisitRoomsFromTheBookingSheetAndComeBackToIt) {

@@ -186,7 +186,11 @@ TEST_F(TheTableInTheWindow, KeepsTheNameInPlaceWhileTheRestScrolls) {
   std::vector<ui::Column> columns = Page->lstpeople.Columns();
   for (int more = 0; more < 30; ++more)
     columns.push_back({"A Long Heading " + std::to_string(more), ui::ColumnKind::Number});
+  std::vector<ui::ListBox::Row> rows = Page->lstpeople.Rows();
+  for (ui::ListBox::Row& row : rows) row.Cells.resize(columns.size(), ui::Cell(1));
+  columns.push_back({"Nothing"});
   Page->lstpeople.SetColumns(columns);
+  Page->lstpeople.Fill(std::move(rows));
   Play.Window.Sync();
   QApplication::processEvents();
   desktop::TableGrid& grid = Play.Grid("lstpeople");
@@ -195,6 +199,7 @@ TEST_F(TheTableInTheWindow, KeepsTheNameInPlaceWhileTheRestScrolls) {
   EXPECT_EQ(grid.indexAt(QPoint(name, row)).column(), 1);
   EXPECT_EQ(grid.visualRect(grid.indexAt(QPoint(name, row))).left(), grid.columnWidth(0));
   EXPECT_GT(grid.indexAt(QPoint(grid.viewport()->width() - 5, row)).column(), 5);
+  EXPECT_TRUE(grid.isColumnHidden(static_cast<int>(columns.size()) - 1)) << "nothing stands in it";
   QTest::mouseClick(grid.Heading().viewport(), Qt::LeftButton, {}, QPoint(name, 10));
   EXPECT_EQ(Names().front(), "Bram") << "its heading sorts by it";
   EXPECT_EQ(grid.horizontalScrollBar()->value(), 900);

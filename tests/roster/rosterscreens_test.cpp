@@ -313,7 +313,7 @@ TEST(frmWorker, ShowsAtAGlanceAndLeadsOn) {
   EXPECT_EQ(play.Desk.FirstColumn("lstskills")[0], "Brawl");
   EXPECT_EQ(play.Desk.Rows("lstskills")[0][1], std::to_string(bram.Brawl));
   EXPECT_EQ(play.Desk.Text("lblform"), "0 won, 1 lost, 0 drawn. Rated 71% on average.");
-  const Names lost = {"Ilya Marsh", "Lost", "Sunday Slam", "Title", "71", "01 March 2026"};
+  const Names lost = {"Ilya Marsh", "Lost", "71", "Sunday Slam (Title)", "01 March 2026"};
   EXPECT_EQ(play.Desk.Rows("lstform")[0], lost);
   EXPECT_FALSE(play.Desk.Enabled("cmdreport"));
   play.Desk.OpenRow("lstform", 1);
@@ -377,6 +377,8 @@ TEST(frmWorker, HasNoTalksInTheMidstOfAShow) {
   ASSERT_EQ(play.Desk.TopName(), "frmWorker");
   for (const char* act : {"cmdcontract", "cmdturn", "cmddemote"})
     EXPECT_EQ(play.Desk.Tip(act), "There is a show to see to first.");
+  const ui::Page page = play.Desk.Top()->Layout();
+  EXPECT_EQ(page.Then, page.Cancel) << "Enter goes back";
 }
 
 TEST(Links, LeadFromAMailToThePageAndOn) {

@@ -57,7 +57,7 @@ TEST_F(SavedGames, AreCardsWithTheLastOneOnTop) {
   EXPECT_EQ(home_.Desk.Text("lblfed1"), "Slot 1, CWA Wrestling");
   EXPECT_FALSE(home_.Desk.Visible("imgpage")) << "no page was kept";
   EXPECT_FALSE(home_.Desk.Visible("cmddelete2"));
-  home_.Desk.ExpectPrompt("Duplicate", "Save Game Name:", "Second", "First");
+  home_.Desk.ExpectPrompt("Duplicate", "Save Game Name:", "Second", "First copy");
   home_.Desk.Click("cmdcopy1");
   EXPECT_EQ(home_.Desk.Text("cmdload2"), "Second");
   EXPECT_EQ(Over(2), 77);
@@ -116,6 +116,10 @@ TEST_F(SavedGames, GoToAFileAndComeBackFromIt) {
   home_.Desk.Click("cmdimport");
   EXPECT_EQ(home_.Desk.Text("cmdload2"), "First");
   EXPECT_EQ(Over(2), 77);
+  EXPECT_FALSE(home_.Desk.Visible("cmdbring2"));
+  home_.Desk.ExpectPrompt("Import", kAnyText, "First.grapplemont");
+  home_.Desk.Click("cmdbring5");
+  EXPECT_EQ(home_.Desk.Text("cmdload5"), "First");
 }
 
 TEST_F(SavedGames, AreKeptForAWeekOnceTheyAreDeleted) {

@@ -95,12 +95,30 @@ TEST(GameMenu, OpensItsScreensAndAsksBeforeItEnds) {
   }
 }
 
+TEST(GameMenu, GoesOnWithTheGameThatWasPlayedLast) {
+  HomeFolder home(TwoPromotions());
+  home.Desk.Open("frmGameMenu");
+  EXPECT_FALSE(home.Desk.Visible("cmdcontinue"));
+  home.StartNewGame();
+  home.Desk.ExpectAsk("Quit?", kAnyText, true);
+  home.Desk.Click("cmdquit");
+  home.Desk.Click("cmdcontinue");
+  EXPECT_EQ(home.Play.World().Game().SaveName.View(), "First");
+  home.Desk.ExpectAsk("Quit?", kAnyText, true);
+  home.Desk.Click("cmdquit");
+  home.Remove("s1");
+  home.Desk.Click("cmdloadgame");
+  home.Desk.Click("cmdback");
+  EXPECT_FALSE(home.Desk.Visible("cmdcontinue"));
+}
+
 TEST(NewGameScreen, ShowsThePromotionPicked) {
   HomeFolder home(TwoPromotions());
   home.Desk.Open("frmNewGame");
   EXPECT_EQ(home.Desk.Text("lblsize"), "Cult");
   EXPECT_EQ(home.Desk.Text("cmbdifficulty"), "Medium");
-  EXPECT_EQ(home.Desk.Text("lblfacts"), "The game begins on Wednesday, 01 April 2026.");
+  EXPECT_EQ(home.Desk.Text("lblfacts"),
+            "The game begins on Wednesday, 01 April 2026, with CWA Wrestling.");
   EXPECT_EQ(home.Desk.Rows("lstshows"),
             (std::vector<std::vector<std::string>>{
                 {"Friday Fire", "Channel Nine", "Friday", home.Desk.Rows("lstshows")[0][3]}}));
@@ -142,13 +160,15 @@ TEST(NewGameScreen, SaysHowHardAChairIsAndWhatTheDifficultyChanges) {
   EXPECT_EQ(rows[0][4], "60");
   EXPECT_EQ(rows[0][5], "Easy");
   EXPECT_EQ(home.Desk.Text("lblstory"),
-            "Led by Ruth Vane; the crowd comes for Star, who holds the CWA Crown.");
+            "It has the better people of its size, and everybody after them. The crowd comes for "
+            "Star, who holds the CWA Crown.");
   EXPECT_EQ(home.Desk.Text("lblchanges"),
             "Image before each Event: no change.\nImage before each television show: no change.\n"
             "Interest on a loan: 2%.\nTo buy out a contract of a year: 6 monthly wages.");
   home.Desk.Pick("lstpromos", 2);
   EXPECT_EQ(home.Desk.Text("cmbPromo"), home.Desk.Rows("cmbPromo")[1][0]);
-  EXPECT_EQ(home.Desk.Text("lblstory"), "Nobody leads it; the crowd comes for Hand.");
+  EXPECT_EQ(home.Desk.Text("lblstory"),
+            "A few empty halls, and the money is gone. The crowd comes for Hand.");
   EXPECT_EQ(home.Desk.Text("lblchair"),
             "Desperate: little money, a weak roster, a low image, no television");
   home.Desk.Pick("cmbdifficulty", "Easy");

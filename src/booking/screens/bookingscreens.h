@@ -6,12 +6,6 @@
 
 namespace grapplemont {
 
-/// A page without a main action, for lists to look things up in.
-inline ui::Page WithoutMain(ui::Page page) {
-  page.Main = nullptr;
-  return page;
-}
-
 std::unique_ptr<ui::Screen> MakefrmDebut(Game& game, bool isEvent);
 /// The numbers of a worker, the player's most popular for uid 0.
 std::unique_ptr<ui::Screen> MakefrmQuickStat(Game& game, int workerUid);

@@ -21,7 +21,7 @@ class frmAltRoster : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutMain(PageOf(ui::Group("", {ui::Grow(lstwres)}), &lblfacts, {&cmdstats}));
+    return PageOf(ui::Group("", {ui::Grow(lstwres)}), &lblfacts, {&cmdstats});
   }
 
   void Return() override {
@@ -97,10 +97,9 @@ class frmAltBelts : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutMain(
-        PageOf(ui::Columns({ui::Group("", {ui::Grow(lsttitles)}).Grow(4),
-                            ui::Group("Who has held it", {ui::Grow(lsthistory)}).Grow(3)}),
-               &lblfacts));
+    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lsttitles)}).Grow(8),
+                               ui::Group("Who has held it", {ui::Grow(lsthistory)}).Grow(5)}),
+                  &lblfacts);
   }
 
   void Load() override {

@@ -110,10 +110,10 @@ class frmQuickStat : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutMain(PageOf(ui::Columns({ui::Group("Who", {chkall, ui::Grow(lstwres)}).Grow(3),
-                                           ui::Group("Numbers", {ui::Grow(lststats)}).Grow(2),
-                                           ui::Group("", {ui::Grow(txtworker)}).Grow(3)}),
-                              &lblfacts));
+    return PageOf(ui::Columns({ui::Group("Who", {chkall, ui::Grow(lstwres)}).Grow(3),
+                               ui::Group("Numbers", {ui::Grow(lststats)}).Grow(2),
+                               ui::Group("", {ui::Grow(txtworker)}).Grow(3)}),
+                  &lblfacts);
   }
 
   void Load() override {
@@ -170,7 +170,7 @@ class frmDebut : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutMain(PageOf(
+    return PageOf(
         ui::Columns(
             {ui::Group("Not seen yet", {ui::Grow(lstwres)}).Grow(3),
              ui::Rows({ui::Group("Ways to a debut", {ui::Grow(lstways), lblnote}).Grow(),
@@ -178,7 +178,7 @@ class frmDebut : public GameScreen {
                                  {ui::Columns({ui::Grow(lststats), ui::Grow(txtworker)}).Grow()})
                            .Grow()})
                  .Grow(4)}),
-        &lblfacts));
+        &lblfacts);
   }
 
   void Load() override {

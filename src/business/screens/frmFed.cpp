@@ -37,14 +37,14 @@ class frmFed : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutEnter(PageOf(
+    return PageOf(
         ui::Tabs(
-            {ui::Group("Overview", {ui::Columns({Facts().Grow(2), Charts().Grow(3)}).Grow()}),
+            {ui::Group("Overview", {ui::Columns({Facts().Grow(3), Charts().Grow(2)}).Grow()}),
              product_->Layout(), splits_->Layout(),
              ui::Group(
                  "Camp and territory",
                  {ui::Columns({camp_->Layout().Grow(), territory_->Layout().Grow()}).Grow()})}),
-        &lblmoney, {&cmdfinance, &cmdsponsor, &cmdvalue}));
+        &lblmoney, {&cmdfinance, &cmdsponsor, &cmdvalue});
   }
 
   void Return() override {

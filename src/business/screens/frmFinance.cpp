@@ -222,7 +222,7 @@ constexpr const char* kRejected = "The bank have rejected your loan application!
 /// The bank: one loan at a time, its price each month, and the way to be rid of it.
 class frmLoan : public GameScreen {
  public:
-  explicit frmLoan(Game& game) : GameScreen(game, "frmLoan", "Loan") {
+  explicit frmLoan(Game& game) : GameScreen(game, "frmLoan", "Loan", {.Is = ui::Role::Dialog}) {
     txtwhy.Brief = true;
     BackBefore(cmddoit);
   }

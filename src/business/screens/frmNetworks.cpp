@@ -164,9 +164,8 @@ class frmViewNetworks : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutEnter(
-        PageOf(ui::Rows({ui::Group("", {ui::Grow(lstnetworks)}).Grow(3),
-                         ui::Group("On the chosen network", {ui::Grow(lstshows)}).Grow(2)})));
+    return PageOf(ui::Rows({ui::Group("", {ui::Grow(lstnetworks)}).Grow(3),
+                            ui::Group("On the chosen network", {ui::Grow(lstshows)}).Grow(2)}));
   }
 
   void Load() override {
@@ -207,7 +206,7 @@ class AllShows : public GameScreen {
     lstshows.EmptyText = none;
   }
 
-  ui::Page Layout() override { return WithoutEnter(PageOf(ui::Group("", {ui::Grow(lstshows)}))); }
+  ui::Page Layout() override { return PageOf(ui::Group("", {ui::Grow(lstshows)})); }
 
   void Return() override {
     std::vector<const Show*> shows;

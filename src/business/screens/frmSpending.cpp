@@ -34,7 +34,7 @@ constexpr int kMostSpending = 100;
 class frmFedMerch : public GameScreen {
  public:
   frmFedMerch(Game& game, const Spending& side)
-      : GameScreen(game, "frmFedMerch", side.Title), side_(side) {
+      : GameScreen(game, "frmFedMerch", side.Title, {.Is = ui::Role::Dialog}), side_(side) {
     lblmeans.Text = side.Means;
     txtwhy.Brief = true;
     cmdwhy.Visible = side.Level == &Promotion::Merchandising;
@@ -96,7 +96,8 @@ std::string PercentText(int number) {
 /// Better production, bought in steps.
 class frmFedProd : public GameScreen {
  public:
-  explicit frmFedProd(Game& game) : GameScreen(game, "frmFedProd", "Production") {
+  explicit frmFedProd(Game& game)
+      : GameScreen(game, "frmFedProd", "Production", {.Is = ui::Role::Dialog}) {
     txtwhy.Brief = true;
   }
 
@@ -154,7 +155,8 @@ constexpr int kDearestTicket = 100;  // dollars
 /// What a ticket costs, and what people would say of another price.
 class frmTicket : public GameScreen {
  public:
-  explicit frmTicket(Game& game) : GameScreen(game, "frmTicket", "Ticket Prices") {
+  explicit frmTicket(Game& game)
+      : GameScreen(game, "frmTicket", "Ticket Prices", {.Is = ui::Role::Dialog}) {
     BackBefore(cmddoit);
   }
 
@@ -206,7 +208,8 @@ std::string DonationText(int thousands) {
 /// Money for a good cause, and for the player's good name.
 class frmCharity : public GameScreen {
  public:
-  explicit frmCharity(Game& game) : GameScreen(game, "frmCharity", "Charity") {
+  explicit frmCharity(Game& game)
+      : GameScreen(game, "frmCharity", "Charity", {.Is = ui::Role::Dialog}) {
     BackBefore(cmddonate);
   }
 

@@ -19,11 +19,11 @@ class frmTVContract : public ShowScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutEnter(PageOf(
+    return PageOf(
         ui::Rows({ui::Group("", {txtwants}),
                   ui::Group("", {ui::Columns({cmdask, cmdcontract, cmdtime, cmdend})}),
                   ui::Group("Their last answer", {ui::Columns({cmdwhy, ui::Spacer()}), txtwhy})}),
-        &lblfacts));
+        &lblfacts);
   }
 
   void Load() override {
@@ -231,10 +231,10 @@ class frmTVRivals : public ShowScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page = WithoutEnter(PageOf(
+    ui::Page page = PageOf(
         ui::Rows({ui::Group("Direct rivals: in the same time slot", {ui::Grow(lstdirect)}).Grow(),
                   ui::Group("Indirect rivals: on the same day", {ui::Grow(lstindirect)}).Grow()}),
-        &lblfacts));
+        &lblfacts);
     page.Large = true;
     return page;
   }

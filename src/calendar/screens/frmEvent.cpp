@@ -53,7 +53,7 @@ class frmEvent : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page = PageOf(
+    return PageOf(
         ui::Columns(
             {ui::Group("The year", {ui::Grow(lstevents)}).Grow(3),
              ui::Rows(
@@ -64,8 +64,6 @@ class frmEvent : public GameScreen {
                   ui::Group("Ratings of your Events", {ui::Grow(chtratings)}).Grow(2)})
                  .Grow(2)}),
         &lblfacts, {&cmddrop});
-    page.Main = nullptr;  // Enter is the hub's
-    return page;
   }
 
   void Load() override {

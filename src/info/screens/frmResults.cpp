@@ -136,7 +136,8 @@ const CellColumns<YearAward> kAwards = {
 class frmAwards : public GameScreen {
  public:
   explicit frmAwards(Game& game) : GameScreen(game, "frmAwards", "Awards") {
-    lstawards.EmptyText = "Awards are given on 31 December.";
+    lstawards.EmptyText =
+        "Nobody has an award yet. Good matches and Titles are what they are given for.";
   }
 
   ui::Page Layout() override {

@@ -232,11 +232,8 @@ class frmOtherFed : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page =
-        PageOf(ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()}),
-               &lblfacts, {&cmdcards, &cmdbuyout});
-    page.Main = nullptr;  // Enter is the hub's
-    return page;
+    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lstfeds)}).Grow(), sheets.Layout().Grow()}),
+                  &lblfacts, {&cmdcards, &cmdbuyout});
   }
 
   void Load() override {

@@ -42,8 +42,10 @@ Measure Points(const World&, const Worker& worker) {
   return Percentage(worker.*field);
 }
 
-Measure Side(const World&, const Worker& worker) {
-  return {DispositionCell(worker)};
+Measure Side(const World& world, const Worker& worker) {
+  ui::Cell side = DispositionCell(worker);
+  if (!TitlesHeldBy(world, worker.Uid).empty()) side.Text += ", champion";
+  return {side};
 }
 Measure Place(const World&, const Worker& worker) {
   return {PlaceText(worker)};
@@ -212,6 +214,8 @@ class frmCompare : public GameScreen {
           {Style::Line,
            At(i).Name.Str() + (leads_[i].empty() ? " leads in nothing."
                                                  : " leads in " + Joined(leads_[i]) + ".")});
+    if (words.empty())
+      words.push_back({Style::Muted, "Add somebody to see in what each of them leads."});
     txtword.Write(std::move(words));
   }
 

@@ -36,7 +36,7 @@ class frmRoster : public WorkerListScreen {
     return WithFilters(PageOf(
         ui::Rows({FilterBox({ui::Field("Split", cmbsplit)}),
                   ui::Columns(
-                      {ui::Group("", {ui::Grow(lstwres)}).Grow(9),
+                      {ui::Group("", {ui::Grow(lstwres)}).Grow(11),
                        ui::Rows({PageBox().Grow(1),
                                  ui::Group("Place",
                                            {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),

@@ -66,22 +66,23 @@ class frmWorker : public GameScreen {
         ui::Box::Kind::Columns, "At a glance",
         {ui::Rows({ui::Group("What they can do", {ui::Grow(lstskills)}).Grow(),
                    ui::Group("Contract", {txtcontract, ui::Columns({cmdpromote, cmddemote})})})
-             .Grow(5),
+             .Grow(10),
          ui::Rows({ui::Group("Twelve months", {ui::Grow(chtmonths)}).Grow(2),
                    ui::Group("Last ten matches",
                              {ui::Columns({ui::Grow(lblform), cmdreport}), ui::Grow(lstform)})
                        .Grow(3)})
-             .Grow(6),
-         ui::Rows({ui::Group("What they think of you, and why", {ui::Grow(txtwhy)}).Grow(3),
-                   ui::Group("Titles and reigns", {pictitle, ui::Grow(lsttitles)}).Grow(3),
+             .Grow(13),
+         ui::Rows({ui::Group("What they think of you, and why", {ui::Grow(txtwhy)}).Grow(5),
+                   ui::Group("Titles and reigns", {pictitle, ui::Grow(lsttitles)}).Grow(2),
                    ui::Group("Company", {ui::Grow(lstcompany)}).Grow(2)})
-             .Grow(5)});
+             .Grow(10)});
     ui::Box facts(
         ui::Box::Kind::Columns, "All the facts",
         {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});
     ui::Page page =
         PageOf(ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
                {&cmdprevious, &cmdnext, &cmdcompare, &cmdturn, &cmdshortlist}, &cmdcontract);
+    page.Then = &cmdback;  // for those who cannot be talked to
     page.Face = &picworker;
     page.More = {&lblmarks, &lblfinishers};
     return page;
@@ -127,11 +128,7 @@ class frmWorker : public GameScreen {
     for (const Ability& ability : Abilities()) {
       ui::Cell level(int(worker.*ability.Of));
       level.Tick = RosterMean(world(), ability.Of);
-      const std::string mean = level.Tick < 0 ? "" : std::to_string(level.Tick);
-      rows.push_back({{ability.Name,
-                       level,
-                       {1.0 * level.Tick, mean, ui::Tone::Muted},
-                       {WordsFor(ability, worker), ui::Tone::Muted}},
+      rows.push_back({{ability.Name, level, {WordsFor(ability, worker), ui::Tone::Muted}},
                       static_cast<int>(rows.size()) + 1});
     }
     lstskills.Fill(std::move(rows));
@@ -165,8 +162,13 @@ class frmWorker : public GameScreen {
     for (const FormLine& line : form) {
       const int number = world().Bouts().NumberOf(*line.Match);
       opponents_[number] = line.Opponent;
-      rows.push_back({{line.Against, OutcomeCell(line.Outcome), ShowNameOf(world(), *line.Match),
-                       StakeCell(*line.Match), int(line.Match->Rating), DayCell(line.Match->On)},
+      const ui::Cell stake = StakeCell(*line.Match);
+      const std::string show = ShowNameOf(world(), *line.Match);
+      rows.push_back({{line.Against,
+                       OutcomeCell(line.Outcome),
+                       int(line.Match->Rating),
+                       {stake.Text.empty() ? show : show + " (" + stake.Text + ")", stake.Colour},
+                       DayCell(line.Match->On)},
                       number});
     }
     lstform.Fill(std::move(rows));
@@ -311,7 +313,6 @@ class frmWorker : public GameScreen {
       "lstskills",
       {{"Skill", K::Text, 1},
        {"Level", K::Percent, 0, "The tick on the bar is the mean of your roster."},
-       {"Mean", K::Number, 0, "The mean of your roster."},
        {"Which means", K::Text, 4}}};
   ui::Report txtcontract{*this, "txtcontract"};
   ui::Button cmdpromote{*this, "cmdpromote", "Promote", [this] { Move(-1); }};
@@ -323,11 +324,10 @@ class frmWorker : public GameScreen {
       *this,
       "lstform",
       {{.Title = "Against", .Width = 6, .Draws = [this](int match) { return Opponent(match); }},
-       {"Result", K::Tag, 3},
-       {"Show", K::Text, 5},
-       {"For", K::Tag, 2},
-       {"Rating", K::Percent, 4},
-       {"Date", K::Date, 5}},
+       {"Result", K::Tag},
+       {"Rating", K::Percent},
+       {"Show", K::Text, 5, "And what the match was for."},
+       {"Date", K::Date}},
       &frmWorker::ShowReport,
       cmdreport};
   ui::Report txtwhy{*this, "txtwhy"};

@@ -28,11 +28,25 @@ Paragraphs Told(std::span<const FactGroup> groups) {
   return words;
 }
 
+/// Short sentences in a row are one paragraph: a card beside a list is low.
+Paragraphs RunTogether(const Paragraphs& words) {
+  Paragraphs fewer;
+  for (const auto& [as, text] : words) {
+    const bool goesOn = !fewer.empty() && as == Style::Line && fewer.back().As == Style::Line &&
+                        fewer.back().Words.ends_with('.') && text.ends_with('.');
+    if (goesOn)
+      fewer.back().Words += " " + text;
+    else
+      fewer.push_back({as, text});
+  }
+  return fewer;
+}
+
 /// The first group's heading is the title.
-void WriteFacts(ui::Report& page, std::span<const FactGroup> facts) {
+Paragraphs Titled(std::span<const FactGroup> facts) {
   Paragraphs words = Told(facts);
   words.front().As = Style::Heading;
-  page.Write(std::move(words));
+  return words;
 }
 
 }  // namespace
@@ -40,7 +54,7 @@ void WriteFacts(ui::Report& page, std::span<const FactGroup> facts) {
 void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
                      const std::string& nobody) {
   if (!worker) return page.Write({{Style::Muted, nobody}});
-  WriteFacts(page, WorkerFacts(world, *worker));
+  page.Write(RunTogether(Titled(WorkerFacts(world, *worker))));
 }
 
 void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,
@@ -63,7 +77,7 @@ Paragraphs LinesUnder(const World& world, const Worker& worker, std::string_view
   for (const FactGroup& group : WorkerFacts(world, worker))
     if (group.Heading == heading)
       for (const std::string& line : group.Lines) words.push_back({Style::Line, line});
-  return words;
+  return RunTogether(words);
 }
 
 }  // namespace
@@ -97,7 +111,7 @@ void WriteMood(ui::Report& page, const World& world, const Worker& worker) {
 void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
                     const std::string& nobody) {
   if (!staff) return page.Write({{Style::Muted, nobody}});
-  WriteFacts(page, StaffFacts(world, *staff));
+  page.Write(Titled(StaffFacts(world, *staff)));
 }
 
 namespace {

@@ -133,7 +133,7 @@ constexpr PersonColumn<Worker> kWorkers[] = {
     {"Wage", K::Number, "Dollars a month.", true, true, Wage},
     {"Age", K::Number, "", true, true, Age},
     {"Morale", K::Number, "", false, true, Points<&Worker::Morale>},
-    {"Status", K::Text, "Empty for who is available.", true, true, Status},
+    {"Status", K::Text, "Empty for who is available.", false, true, Status},
     {"Split", K::Text, "Part of a split roster.", true, false, Split},
     {"Brawl", K::Number, "", true, true, Points<&Worker::Brawl>},
     {"Tech.", K::Number, "Technical skill.", true, true, Points<&Worker::Technical>},

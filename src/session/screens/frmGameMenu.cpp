@@ -3,6 +3,8 @@
 #include "records/fields/wording.h"
 #include "records/world.h"
 #include "session/home.h"
+#include "session/screens/frmLoadGame.h"
+#include "session/slots.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -132,18 +134,31 @@ class frmDisclaimer : public ui::Screen {
 class frmGameMenu : public ui::Screen {
  public:
   explicit frmGameMenu(Game& game)
-      : Screen(game.Desk(), "frmGameMenu", "Grapplemont", ui::Role::Cover) {}
+      : Screen(game.Desk(), "frmGameMenu", "Grapplemont", ui::Role::Cover), game_(game) {
+    cmdcontinue.Visible = false;
+  }
 
   ui::Page Layout() override {
     ui::Page page;
-    page.Main = &cmdnewgame;
+    page.Main = &cmdcontinue;
+    page.Then = &cmdnewgame;
     page.Cancel = &cmdquit;
-    page.Body =
-        ui::Rows({ui::Grow(imgtitle), cmdnewgame, cmdloadgame, cmdeditor, cmdcredits, cmdquit});
+    page.Body = ui::Rows(
+        {ui::Grow(imgtitle), cmdcontinue, cmdnewgame, cmdloadgame, cmdeditor, cmdcredits, cmdquit});
     return page;
   }
 
+  void Load() override { Return(); }
+  void Return() override {
+    played_ = LastPlayed(game_.Disk(), game_.Home());
+    const SlotSummary last =
+        played_ == 0 ? SlotSummary() : ReadSlotSummary(game_.Disk(), game_.SlotFolder(played_));
+    cmdcontinue.Visible = last.Playable;
+    cmdcontinue.Tip = "Goes on with " + last.Caption + ", on " + last.Today + ".";
+  }
+
  private:
+  void cmdcontinue_Click() { EnterSlot(game_, played_); }
   void cmdnewgame_Click() { desk().Open("frmNewGame"); }
   void cmdloadgame_Click() { desk().Open("frmLoadGame"); }
   void cmdeditor_Click() { desk().Open("frmEditor"); }
@@ -152,8 +167,11 @@ class frmGameMenu : public ui::Screen {
     if (desk().Ask("Quit?", "Are you sure you want to quit?")) desk().CloseAll();
   }
 
+  Game& game_;
+  int played_ = 0;
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Picture imgtitle{*this, "imgtitle", "vxm_title.jpg"};
+  ui::Button cmdcontinue{*this, "cmdcontinue", "Continue", &frmGameMenu::cmdcontinue_Click};
   ui::Button cmdnewgame{*this, "cmdnewgame", "New Game", &frmGameMenu::cmdnewgame_Click};
   ui::Button cmdloadgame{*this, "cmdloadgame", "Load Game", &frmGameMenu::cmdloadgame_Click};
   ui::Button cmdeditor{*this, "cmdeditor", "File Editor", &frmGameMenu::cmdeditor_Click};

@@ -80,7 +80,7 @@ class frmLoadGame : public SlotScreen {
                            ui::Columns({ui::Field("Image", lblimage), ui::Field("Money", lblmoney),
                                         ui::Field("Last show", lbllastshow), ui::Spacer()})})
                      .Grow(),
-                 ui::Rows({imgpage, ui::Columns({cmdcontinue})})})});
+                 ui::Rows({imgpage, ui::Columns({ui::Spacer(), cmdcontinue})})})});
     page.Body = ui::Rows(
         {std::move(card), ui::Columns({lbldeleted, ui::Grow(cmbdeleted), cmdrestore}), Cards()});
     return page;
@@ -102,9 +102,14 @@ class frmLoadGame : public SlotScreen {
   void Offer(ui::Button& button, const SlotSummary& summary) override {
     button.Enabled = summary.Playable;
     button.Tip = summary.Empty ? kNoGame : summary.Playable ? "" : "This slot can't be loaded.";
+    button.Plain = summary.Empty;
+  }
+  std::string WhatGoesIn() const override {
+    return "A new game, a copy of another slot or a file goes here.";
   }
   std::vector<ui::Box> Acts(int slot) override {
-    return {cmdcopy(slot), cmdrename(slot), cmdexport(slot), cmddelete(slot)};
+    return {cmdcopy(slot),   cmdrename(slot), cmdexport(slot),
+            cmddelete(slot), cmdnew(slot),    cmdbring(slot)};
   }
   void cmdload_Click(int slot) override { EnterSlot(game_, slot); }
 
@@ -152,6 +157,11 @@ class frmLoadGame : public SlotScreen {
       const SlotSummary& summary = In(slot);
       for (ui::Button* act : {&cmdcopy(slot), &cmdrename(slot), &cmdexport(slot), &cmddelete(slot)})
         act->Visible = !summary.Empty;
+      for (ui::Button* act : {&cmdnew(slot), &cmdbring(slot)}) act->Visible = summary.Empty;
+      cmdbring(slot).Enabled = IsFree(game_.Disk(), game_.Home(), slot);
+      cmdbring(slot).Tip = cmdbring(slot).Enabled
+                               ? "Puts a game that was exported to a file into this slot."
+                               : "Its folder is not empty.";
       for (ui::Button* act : {&cmdcopy(slot), &cmdrename(slot), &cmdexport(slot)}) {
         act->Enabled = summary.Playable;
         act->Tip = summary.Playable ? "" : "This slot can't be loaded.";
@@ -187,7 +197,9 @@ class frmLoadGame : public SlotScreen {
   void cmdnewgame_Click() { desk().Open("frmNewGame"); }
 
   void Copy(int slot) {
-    const std::string name = AskName("Duplicate", In(slot).Caption);
+    const std::string &whole = In(slot).Caption, copy = whole + " copy";
+    const std::string name =
+        AskName("Duplicate", copy.size() > sizeof(GameInfo::SaveName) ? whole : copy);
     const auto to = FreeSlot(game_.Disk(), game_.Home());
     if (name.empty() || !to) return;
     CopySlot(game_.Disk(), game_.SlotFolder(slot), game_.SlotFolder(*to), name, game_.NewWorldId());
@@ -224,16 +236,21 @@ class frmLoadGame : public SlotScreen {
     lblfacts.Text = "Wrote " + In(slot).Caption + " to " + ForScreen(path) + ".";
   }
 
+  void New(int) { cmdnewgame_Click(); }
+
   void cmdimport_Click() {
+    if (const auto free = FreeSlot(game_.Disk(), game_.Home())) Import(*free);
+  }
+
+  void Import(int slot) {
     const std::string path =
         AskFile("Import", "The file to read, in the game's folder or a whole path:", "");
-    const auto to = FreeSlot(game_.Disk(), game_.Home());
-    if (path.empty() || !to) return;
+    if (path.empty()) return;
     World scratch(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse),
                   game_.NewDraws(Game::kWorldLife));
-    ImportSlot(game_.Disk(), path, game_.SlotFolder(*to), game_.NewWorldId(), scratch);
+    ImportSlot(game_.Disk(), path, game_.SlotFolder(slot), game_.NewWorldId(), scratch);
     Return();
-    lblfacts.Text = "Slot " + std::to_string(*to) + " now holds " + In(*to).Caption + ".";
+    lblfacts.Text = "Slot " + std::to_string(slot) + " now holds " + In(slot).Caption + ".";
   }
 
   void Delete(int slot) {
@@ -286,6 +303,8 @@ class frmLoadGame : public SlotScreen {
   ui::Array<ui::Button> cmdrename = EachAct("cmdrename", "Rename", &frmLoadGame::Rename);
   ui::Array<ui::Button> cmdexport = EachAct("cmdexport", "Export", &frmLoadGame::Export);
   ui::Array<ui::Button> cmddelete = EachAct("cmddelete", "Delete", &frmLoadGame::Delete);
+  ui::Array<ui::Button> cmdnew = EachAct("cmdnew", "New Game", &frmLoadGame::New);
+  ui::Array<ui::Button> cmdbring = EachAct("cmdbring", "Import", &frmLoadGame::Import);
   ui::Button cmdimport{*this, "cmdimport", "Import A File", &frmLoadGame::cmdimport_Click};
   ui::Button cmdnewgame{*this, "cmdnewgame", "New Game", &frmLoadGame::cmdnewgame_Click};
   ui::Button cmdcontinue{*this, "cmdcontinue", "Continue", &frmLoadGame::cmdcontinue_Click};

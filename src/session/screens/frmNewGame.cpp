@@ -53,19 +53,19 @@ class frmNewGame : public GameScreen {
             {ui::Rows(
                  {ui::Group("You", {ui::Field("Name", txtname), ui::Field("Promotion", cmbPromo),
                                     ui::Field("Difficulty", cmbdifficulty), lblchanges}),
-                  ui::Group("Promotions", {ui::Grow(lstpromos)}).Grow()})
-                 .Grow(5),
-             ui::Rows({ui::Group("The promotion",
-                                 {lblstory, ui::Field("Size", lblsize),
-                                  ui::Field("Image", lblimage), ui::Field("Money", lblmoney),
-                                  ui::Field("Owner", lblowner), ui::Field("Chair", lblchair)}),
-                       ui::Tabs({ui::Group("Roster", {ui::Grow(lstroster)}),
-                                 ui::Group("Television", {ui::Grow(lstshows)}),
-                                 ui::Group("Titles", {ui::Grow(lstbelts)}),
-                                 ui::Group("Staff", {ui::Grow(lststaff)}),
-                                 ui::Group("House rules", HouseBoxes())})
-                           .Grow()})
-                 .Grow(4)}),
+                  ui::Group("The promotion",
+                            {lblstory,
+                             ui::Columns({ui::Field("Size", lblsize), ui::Field("Image", lblimage),
+                                          ui::Field("Money", lblmoney)}),
+                             ui::Field("Owner", lblowner), ui::Field("Chair", lblchair)}),
+                  ui::Tabs({ui::Group("Roster", {ui::Grow(lstroster)}),
+                            ui::Group("Television", {ui::Grow(lstshows)}),
+                            ui::Group("Titles", {ui::Grow(lstbelts)}),
+                            ui::Group("Staff", {ui::Grow(lststaff)}),
+                            ui::Group("House rules", HouseBoxes())})
+                      .Grow()})
+                 .Grow(2),
+             ui::Group("Promotions", {ui::Grow(lstpromos)}).Grow(3)}),
         &lblfacts, {}, &cmdbegin);
   }
 
@@ -116,7 +116,9 @@ class frmNewGame : public GameScreen {
       lblfacts.Text = kNoPromotion;
       return;
     }
-    lblfacts.Text = "The game begins on " + LongDate(NextFirst(game_.PresentDay())) + ".";
+    // A filter may hide the row that is chosen: what Begin takes is said all the same.
+    lblfacts.Text = "The game begins on " + LongDate(NextFirst(game_.PresentDay())) + ", with " +
+                    promotion->Name.Str() + ".";
     lblsize.Text = SizeText(promotion->Size);
     lblimage.Text = std::to_string(promotion->Image) + "%";
     lblmoney.Text = Dollars(promotion->Money);
@@ -191,6 +193,12 @@ class frmNewGame : public GameScreen {
     return promotion ? ui::Drawing(CrestOf(*promotion)) : ui::Drawing();
   }
 
+  std::string StoryFor(int uid) const {
+    const auto chair =
+        std::ranges::find_if(chairs_, [&](const Chair& each) { return each.Of->Uid == uid; });
+    return chair == chairs_.end() ? std::string() : chair->Story;
+  }
+
   World world_;
   std::vector<Chair> chairs_;
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
@@ -201,7 +209,10 @@ class frmNewGame : public GameScreen {
   ui::Label lblchanges{*this, "lblchanges"};
   ui::ListBox lstpromos{*this,
                         "lstpromos",
-                        {{"Promotion", K::Text, 3, {}, [this](int uid) { return CrestFor(uid); }},
+                        {{.Title = "Promotion",
+                          .Width = 3,
+                          .Draws = [this](int uid) { return CrestFor(uid); },
+                          .Under = [this](int uid) { return StoryFor(uid); }},
                          {"Size", K::Tag},
                          {"Image", K::Percent},
                          {"Money", K::Number},

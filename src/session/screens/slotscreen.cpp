@@ -17,15 +17,18 @@ SlotScreen::SlotScreen(Game& game, std::string name, std::string title)
       summaries_(kSlots) {
   for (int slot = 1; slot <= kSlots; ++slot) {
     imgfed(slot).Height = kCrestHeight;
-    for (ui::Label* label : {&lbldetails(slot), &lblworth(slot), &lbllast(slot), &lblhouse(slot)})
-      label->Colour = ui::Tone::Muted;
+    for (ui::Label* label : {&lbldetails(slot), &lblhouse(slot)}) label->Colour = ui::Tone::Muted;
   }
 }
 
 ui::Box SlotScreen::Card(int slot) {
   std::vector<ui::Box> parts = {
       ui::Columns({imgfed(slot), ui::Rows({ui::Grow(cmdload(slot)), lblfed(slot)}).Grow()}),
-      lbldetails(slot), lblworth(slot), lbllast(slot), lblhouse(slot)};
+      ui::Field("Today", lblday(slot)),
+      ui::Field("Image, money", lblworth(slot)),
+      ui::Field("Last show", lbllast(slot)),
+      lbldetails(slot),
+      lblhouse(slot)};
   std::vector<ui::Box> acts = Acts(slot);
   if (!acts.empty()) parts.push_back(ui::Columns(std::move(acts)));
   return ui::Group("", std::move(parts)).Grow();
@@ -45,16 +48,16 @@ ui::Box SlotScreen::Cards() {
 void SlotScreen::Show(int slot) {
   const SlotSummary& summary = In(slot);
   cmdload(slot).Text = summary.Caption;
-  lbldetails(slot).Text = summary.Details;
+  lbldetails(slot).Text = summary.Empty ? WhatGoesIn() : summary.Details;
   const auto& own = summary.Own;
   imgfed(slot).Visible = own.has_value();
   if (own) imgfed(slot).Drawn = CrestOf(*own);
   lblfed(slot).Text = "Slot " + std::to_string(slot) + (own ? ", " + own->Name.Str() : "");
-  lblworth(slot).Text =
-      own ? "Image " + std::to_string(own->Image) + "%, money " + Dollars(own->Money) : "";
-  lbllast(slot).Text = summary.LastShow.empty() ? "" : "Last show " + summary.LastShow;
+  lblday(slot).Text = summary.Today;
+  lblworth(slot).Text = own ? std::to_string(own->Image) + "%, " + Dollars(own->Money) : "";
+  lbllast(slot).Text = summary.LastShow;
   lblhouse(slot).Text = summary.House.empty() ? "" : "House rules: " + summary.House;
-  for (ui::Label* label : {&lblworth(slot), &lbllast(slot), &lblhouse(slot)})
+  for (ui::Label* label : {&lblday(slot), &lblworth(slot), &lbllast(slot), &lblhouse(slot)})
     label->Visible = !label->Text->empty();
   Offer(cmdload(slot), summary);
 }

@@ -18,6 +18,8 @@ class SlotScreen : public GameScreen {
   const SlotSummary& In(int slot) const { return summaries_[static_cast<std::size_t>(slot - 1)]; }
   /// Says whether the slot's button can be pressed.
   virtual void Offer(ui::Button&, const SlotSummary&) {}
+  /// What goes into an empty slot.
+  virtual std::string WhatGoesIn() const { return "A new game goes here."; }
   /// What can be done with a slot beside that; a row of its card.
   virtual std::vector<ui::Box> Acts(int /*slot*/) { return {}; }
   virtual void cmdload_Click(int slot) = 0;
@@ -43,6 +45,7 @@ class SlotScreen : public GameScreen {
   ui::Array<ui::Label> lbldetails = EachSlot<ui::Label>("lbldetails");
   ui::Array<ui::Picture> imgfed = EachSlot<ui::Picture>("imgfed");
   ui::Array<ui::Label> lblfed = EachSlot<ui::Label>("lblfed");
+  ui::Array<ui::Label> lblday = EachSlot<ui::Label>("lblday");
   ui::Array<ui::Label> lblworth = EachSlot<ui::Label>("lblworth");
   ui::Array<ui::Label> lbllast = EachSlot<ui::Label>("lbllast");
   ui::Array<ui::Label> lblhouse = EachSlot<ui::Label>("lblhouse");

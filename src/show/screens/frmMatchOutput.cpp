@@ -13,6 +13,7 @@ namespace {
 /// Where the percentages stand.
 constexpr const char* kFigureControls[] = {"txtquality", "txtcrowd", "txtoverall"};
 constexpr int kFigureCount = 3, kOverallFigure = 3;
+constexpr int kLettersOfCard = 60;  // that stands beside another
 
 const ToldFigure& FigureAt(int i) {
   return kToldFigures[i - 1];
@@ -49,9 +50,11 @@ class frmMatchOutput : public ui::Screen {
         {ui::Group("", {lbltitle, ui::Columns({lblinfo, txtstyle, txttype, txtbelt, ui::Spacer()}),
                         txtstip, ui::Grow(txtreport), lblwinner})
              .Grow(9),
-         ui::Rows({ui::Group("", std::move(figures)).Grow(9),
-                   ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4),
-                   ui::Group("The show so far", {txtannouncers, ui::Grow(chtshow)}).Grow(3)})
+         ui::Columns({ui::Rows({ui::Group("", std::move(figures)).Grow(9),
+                                ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4)})
+                          .Grow(2),
+                      ui::Group("The show so far", {txtannouncers, ui::Grow(chtshow)}).Grow(1)})
+             .Wide(kLettersOfCard)
              .Grow(5)});
     return page;
   }

@@ -132,7 +132,7 @@ class frmBelts : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutEnter(PageOf(
+    return PageOf(
         ui::Columns(
             {ui::Rows({ui::Group("", {cmbwhose, ui::Grow(lsttitles)}).Grow(3),
                        ui::Group("Who has held it", {ui::Grow(lsthistory), cmdreigns}).Grow(2)})
@@ -142,7 +142,7 @@ class frmBelts : public GameScreen {
                                   cmdcreate}),
                        ui::Group("Award it without a match", {ui::Grow(lstwres), cmdaward}).Grow()})
                  .Grow(3)}),
-        &lblfacts, {&cmdsuspend, &cmdvacate, &cmddissolve}));
+        &lblfacts, {&cmdsuspend, &cmdvacate, &cmddissolve});
   }
 
   void Load() override {

@@ -20,7 +20,7 @@ class frmTagTeams : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutEnter(PageOf(
+    return PageOf(
         ui::Rows({ui::Group("Your teams", {ui::Grow(lstteams)}).Grow(2),
                   ui::Columns({ui::Group("First worker", {ui::Grow(lstwres(1))}).Grow(3),
                                ui::Group("Second worker", {ui::Grow(lstwres(2))}).Grow(3),
@@ -29,7 +29,7 @@ class frmTagTeams : public GameScreen {
                                                       cmdcreate, cmdrename, cmdfinisher})
                                    .Grow(3)})
                       .Grow(3)}),
-        &lblfacts, {&cmddissolve}));
+        &lblfacts, {&cmddissolve});
   }
 
   void Load() override {
@@ -155,13 +155,13 @@ class frmStables : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutEnter(
-        PageOf(ui::Columns({ui::Rows({ui::Group("Your stables", {ui::Grow(lststables)}).Grow(),
-                                      ui::Group("Name", {txtname, cmdcreate, cmdrename})})
-                                .Grow(3),
-                            ui::Group("Members", {ui::Grow(lstmembers), cmdremove}).Grow(3),
-                            ui::Group("Not in this stable", {ui::Grow(lstwres), cmdadd}).Grow(4)}),
-               &lblfacts, {&cmddissolve}));
+    return PageOf(
+        ui::Columns({ui::Rows({ui::Group("Your stables", {ui::Grow(lststables)}).Grow(),
+                               ui::Group("Name", {txtname, cmdcreate, cmdrename})})
+                         .Grow(4),
+                     ui::Group("Members", {ui::Grow(lstmembers), cmdremove}).Grow(5),
+                     ui::Group("Not in this stable", {ui::Grow(lstwres), cmdadd}).Grow(5)}),
+        &lblfacts, {&cmddissolve});
   }
 
   void Load() override {

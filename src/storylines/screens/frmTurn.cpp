@@ -24,12 +24,12 @@ class frmManagers : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutEnter(PageOf(
+    return PageOf(
         ui::Columns({ui::Group("Your wrestlers", {ui::Grow(lstclients), cmdtake}).Grow(3),
                      ui::Rows({ui::Group("Your managers", {ui::Grow(lstmanagers), cmdgive}).Grow(3),
                                ui::Group("Clients of this manager", {ui::Grow(lsthis)}).Grow(2)})
                          .Grow(3)}),
-        &lblfacts));
+        &lblfacts);
   }
 
   void Load() override {
@@ -118,10 +118,9 @@ class frmTurn : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return WithoutEnter(
-        PageOf(ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(3),
-                            ui::Group("The turn", {ui::Grow(txtturn), cmdturn}).Grow(2)}),
-               &lblfacts));
+    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(3),
+                               ui::Group("The turn", {ui::Grow(txtturn), cmdturn}).Grow(2)}),
+                  &lblfacts);
   }
 
   void Load() override {

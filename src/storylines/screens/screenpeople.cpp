@@ -121,11 +121,6 @@ void EnableUnless(Controls controls, const std::string& why) {
   for (ui::Control& control : controls) EnableUnless(control, why);
 }
 
-ui::Page WithoutEnter(ui::Page page) {
-  page.Main = nullptr;
-  return page;
-}
-
 CellColumns<Title> TitleTable(const World& world) {
   const ui::Column name{.Title = "Title",
                         .Draws = [&world](int number) { return PlateAt(world, number); }};

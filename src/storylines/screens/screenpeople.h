@@ -99,9 +99,6 @@ void EnableUnless(ui::Control& control, const std::string& why);
 using Controls = std::initializer_list<std::reference_wrapper<ui::Control>>;
 void EnableUnless(Controls controls, const std::string& why);
 
-/// The same page without a main action: Enter is the hub's.
-ui::Page WithoutEnter(ui::Page page);
-
 // How Titles stand in tables.
 
 /// Name, kind, holder, since when, image, and whether it can be fought for. Holds on to the world.
