@@ -102,6 +102,7 @@ class Control {
 class Label : public Control {
  public:
   Label(Screen& screen, std::string name, std::string text = {});
+  bool Large = false;  // a figure that stands out
   /// Where the number in the text is heading: an arrow up beside it above 0, down below 0.
   Property<int> Trend{Changes(), 0};
 };
@@ -222,6 +223,10 @@ struct Column {
   std::string Short = {};
   /// A sentence below a cell's text, by the key of its row; it makes cards of the rows.
   std::function<std::string(int key)> Under = {};
+  /// What the glossary calls it; empty: the title.
+  std::string Term = {};
+
+  const std::string& Meant() const { return Term.empty() ? Title : Term; }
 };
 
 struct Cell {
@@ -331,6 +336,9 @@ class Chart : public Control {
   bool Bars;
   Property<std::vector<std::string>> Captions{Changes(), {}};  // one a value, below the axis
   Property<std::vector<Series>> Lines{Changes(), {}};
+  /// Where a value stands along the axis, such as a day's number, one a value and none below the
+  /// one before; empty: all at equal distances.
+  Property<std::vector<double>> Places{Changes(), {}};
 };
 
 /// Long prose in paragraphs. `Text` holds the same, a paragraph a line.

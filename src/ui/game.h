@@ -68,6 +68,10 @@ class Game : public ui::Work {
   /// not throw.
   std::function<void()> Watch;
 
+  /// Runs after each commit that has changed a world, with its files: what is always in sight shows
+  /// the world as it is now. Must not throw.
+  std::function<void(const std::vector<FileChange>& changes)> Kept;
+
   /// Brings what the main screen shows up to date, and opens what waits for the player; screens
   /// that manage something call it when they close. Set when the main screen is registered.
   std::function<void()> RefreshMainScreen;
