@@ -130,8 +130,11 @@ std::string Game::Explain(const std::exception& fault) const {
 GameScreen::GameScreen(Game& game, std::string name, std::string title, const Frame& frame)
     : Screen(game.Desk(), std::move(name), std::move(title), frame.Is),
       game_(game),
+      lblguide(*this, "lblguide"),
       cmdback(*this, frame.BackName, frame.Back, [this] { cmdback_Click(); }),
       manages_(frame.Manages) {
+  lblguide.Colour = ui::Tone::Gold;
+  lblguide.Visible = false;
   KeepLast(cmdback);
 }
 
@@ -139,6 +142,9 @@ ui::Page GameScreen::PageOf(ui::Box body, ui::Label* facts, std::vector<ui::Butt
                             ui::Button* main) {
   ui::Page page;
   page.Facts = facts;
+  lblguide.Text = game_.NoteOn && game_.HasWorld() ? game_.NoteOn(Name()) : std::string();
+  lblguide.Visible = !lblguide.Text->empty();
+  page.More = {&lblguide};
   page.Actions = std::move(actions);
   page.Actions.push_back(&cmdback);
   if (main) page.Actions.push_back(main);

@@ -68,6 +68,10 @@ class Game : public ui::Work {
   /// not throw.
   std::function<void()> Watch;
 
+  /// What a page says under its title to somebody who is new, by the page's name; empty for
+  /// nothing.
+  std::function<std::string(std::string_view screen)> NoteOn;
+
   /// Brings what the main screen shows up to date, and opens what waits for the player; screens
   /// that manage something call it when they close. Set when the main screen is registered.
   std::function<void()> RefreshMainScreen;
@@ -151,6 +155,11 @@ class GameScreen : public ui::Screen {
   virtual void cmdback_Click();
 
   Game& game_;
+
+ private:
+  ui::Label lblguide;  // stands before the way back, which is the last
+
+ protected:
   ui::Button cmdback;
 
  private:

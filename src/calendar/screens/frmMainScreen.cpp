@@ -380,6 +380,7 @@ void ConnectCalendar(Game& game) {
     for (const auto& screen : game.Desk().Screens()) screens.push_back(screen->Name());
     WatchGuide(game.World(), screens);
   };
+  game.NoteOn = [&game](std::string_view screen) { return GuideOnPage(game.World(), screen); };
   game.RefreshMainScreen = [&game] {
     if (frmMainScreen* main = FindMainScreen(game)) main->RefreshMainScreen();
   };
