@@ -130,11 +130,8 @@ std::string Game::Explain(const std::exception& fault) const {
 GameScreen::GameScreen(Game& game, std::string name, std::string title, const Frame& frame)
     : Screen(game.Desk(), std::move(name), std::move(title), frame.Is),
       game_(game),
-      lblguide(*this, "lblguide"),
       cmdback(*this, frame.BackName, frame.Back, [this] { cmdback_Click(); }),
       manages_(frame.Manages) {
-  lblguide.Colour = ui::Tone::Gold;
-  lblguide.Visible = false;
   KeepLast(cmdback);
 }
 
@@ -142,9 +139,7 @@ ui::Page GameScreen::PageOf(ui::Box body, ui::Label* facts, std::vector<ui::Butt
                             ui::Button* main) {
   ui::Page page;
   page.Facts = facts;
-  lblguide.Text = game_.NoteOn && game_.HasWorld() ? game_.NoteOn(Name()) : std::string();
-  lblguide.Visible = !lblguide.Text->empty();
-  page.More = {&lblguide};
+  page.More = Notes();
   page.Actions = std::move(actions);
   page.Actions.push_back(&cmdback);
   if (main) page.Actions.push_back(main);
@@ -152,6 +147,16 @@ ui::Page GameScreen::PageOf(ui::Box body, ui::Label* facts, std::vector<ui::Butt
   page.Cancel = &cmdback;
   page.Body = std::move(body);
   return page;
+}
+
+std::vector<ui::Label*> GameScreen::Notes() {
+  const std::string note = game_.NoteOn && game_.HasWorld() ? game_.NoteOn(Name()) : std::string();
+  if (!lblguide_ && note.empty()) return {};
+  if (!lblguide_) lblguide_ = std::make_unique<ui::Label>(*this, "lblguide");
+  lblguide_->Colour = ui::Tone::Gold;
+  lblguide_->Text = note;
+  lblguide_->Visible = !note.empty();
+  return {lblguide_.get()};
 }
 
 void GameScreen::cmdback_Click() {

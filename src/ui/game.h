@@ -155,15 +155,13 @@ class GameScreen : public ui::Screen {
   virtual void cmdback_Click();
 
   Game& game_;
-
- private:
-  ui::Label lblguide;  // stands before the way back, which is the last
-
- protected:
   ui::Button cmdback;
 
  private:
+  std::vector<ui::Label*> Notes();
+
   bool manages_;
+  std::unique_ptr<ui::Label> lblguide_;  // once there has been a note on this page
 };
 
 /// Puts the waiting screen up and tells on it what is going on. A handler that throws takes it down
