@@ -27,13 +27,6 @@ const HistoryEntry* LastShow(const World& world) {
   return nullptr;
 }
 
-bool WasHeld(const World& world) {
-  const auto& sheet = world.Segments();
-  return std::any_of(sheet.begin(), sheet.end(), [](const Segment& segment) {
-    return segment.Kind != kEmptySegment && segment.Rating != 0;
-  });
-}
-
 ComingShow Coming(const World& world, CardOwner owner, Day on) {
   const KeptCard draft = FindCard(world, owner);
   const auto booked = std::ranges::count_if(
@@ -71,6 +64,13 @@ void KeepCard(World& world, const CardOwner& owner, const Card& card, Day on) {
     row.On = on;
     rows.Append(row);
   }
+}
+
+bool WasHeld(const World& world) {
+  const auto& sheet = world.Segments();
+  return std::any_of(sheet.begin(), sheet.end(), [](const Segment& segment) {
+    return segment.Kind != kEmptySegment && segment.Rating != 0;
+  });
 }
 
 void KeepLastCard(World& world) {

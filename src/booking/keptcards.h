@@ -27,6 +27,8 @@ KeptCard FindCard(const World& world, const CardOwner& owner);
 /// Keeps the card in place of the one before; an empty card takes that away.
 void KeepCard(World& world, const CardOwner& owner, const Card& card, Day on);
 
+/// What match.dat holds is a card that has been held, which lies there until the next sheet.
+bool WasHeld(const World& world);
 /// Keeps what match.dat still holds of the player's last show, before a new sheet is opened. Does
 /// nothing for a card that has not been held.
 void KeepLastCard(World& world);

@@ -31,11 +31,15 @@ std::vector<const Worker*> People(const World& world, Wanted wanted, Order order
   return people;
 }
 
-/// What is drafted for a show to come.
+std::string OfLeast(int booked, const SheetTerms& terms) {
+  return std::to_string(booked) + " of " + std::to_string(terms.MinSegments);
+}
+
+/// How much is drafted for a show to come. Only the next of each can be drafted.
 std::string DraftedText(const World& world, const Appointment& show) {
   for (const ComingShow& coming : ComingShows(world))
-    if (coming.On == show.On && coming.Owner.Show == show.What && coming.Drafted > 0)
-      return Counted(coming.Drafted, "row") + " drafted";
+    if (coming.On == show.On && coming.Owner.Show == show.What)
+      return OfLeast(coming.Drafted, coming.Owner.IsEvent ? kEventTerms : TermsOfSlot(coming.Slot));
   return {};
 }
 
@@ -53,9 +57,9 @@ std::string BookedText(const World& world, const Appointment& show) {
   if (show.Kind == "No Event") return {};
   if (show.On != world.Today()) return DraftedText(world, show);
   const bool isEvent = IsEventAppointment(show);
-  const SheetTerms terms = TermsOf(world, isEvent);
-  const int booked = world.Segments().Count() == 0 ? 0 : CountSheet(world, isEvent).Segments;
-  return std::to_string(booked) + " of " + std::to_string(terms.MinSegments);
+  // Until today's sheet is opened, the last show's card lies there.
+  const bool isOurs = world.Segments().Count() > 0 && !WasHeld(world);
+  return OfLeast(isOurs ? CountSheet(world, isEvent).Segments : 0, TermsOf(world, isEvent));
 }
 
 std::string TonightText(const World& world) {

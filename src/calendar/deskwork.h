@@ -9,8 +9,8 @@
 
 namespace grapplemont {
 
-/// How far the card of a coming show is: "5 of 8" for today's, "3 rows drafted" for a later one,
-/// empty where nothing is.
+/// How far the card of a coming show is, today's as it is booked and a later one as it is drafted,
+/// of the segments it needs: "5 of 8". Empty for a show that cannot be drafted yet.
 std::string BookedText(const World& world, const Appointment& show);
 /// What is to be done on a show day: "Tonight: Friday Fire, 3 of 3 matches, 5 of 7 segments.";
 /// empty on another.

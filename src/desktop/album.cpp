@@ -84,8 +84,10 @@ void Album::Take(const std::string& name) {
     }
 }
 
-/// What is chosen from a list is shown beside it.
+/// What is chosen from a list is shown beside it. Lists of the same people each have another chosen,
+/// as nobody stands against themselves.
 void Album::FillIn(ui::Screen& screen) {
+  std::vector<const ui::ListBox*> filled;
   for (const ui::Control* control : screen.Controls()) {
     if (control->Name() == kAsksForAName && control->Is() == ui::Kind::TextBox &&
         control->Enabled && control->Text->empty())
@@ -93,7 +95,13 @@ void Album::FillIn(ui::Screen& screen) {
     const auto* list = dynamic_cast<const ui::ListBox*>(control);
     if (!list || list->Multi || !list->Visible || !list->Enabled) continue;
     if (list->Count() == 0 || list->Selected() != 0) continue;
-    window_.Act([&] { return ui::Pick(desk_, screen, list->Name(), 1); });
+    const auto alike = std::ranges::count_if(filled, [&](const ui::ListBox* other) {
+      return other->Count() == list->Count() &&
+             other->Rows().front().Cells == list->Rows().front().Cells;
+    });
+    const int row = std::min(static_cast<int>(alike) + 1, list->Count());
+    window_.Act([&] { return ui::Pick(desk_, screen, list->Name(), row); });
+    filled.push_back(list);
   }
 }
 

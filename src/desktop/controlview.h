@@ -20,8 +20,9 @@ class Stage {
   /// Does what the player does, an act of ui/acts.h, and shows what has come of it. The views of
   /// closed screens live on until control returns to the event loop.
   virtual void Act(const std::function<std::string()>& act) = 0;
-  /// Says something short beside a widget for a few seconds.
-  virtual void Hint(QWidget& beside, const QString& text) = 0;
+  /// Says something short below a widget for a few seconds: why something cannot be, or that it is
+  /// done, which is no harm and not said in red.
+  virtual void Hint(QWidget& beside, const QString& text, ui::Tone tone = ui::Tone::Red) = 0;
 };
 
 /// What stands in the window for a control; its widget is one with it or owns it.

@@ -19,6 +19,7 @@ constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
 constexpr int kPartGap = 14;      // between head, body and foot
 constexpr int kLeastTitle = 260;  // what the title has beside actions
+constexpr int kAllThereIs = 1 << 16;
 
 bool IsBackdropFile(const std::string& file) {
   return file == "vxm_back.jpg" || file == "vxm_title.jpg";
@@ -203,7 +204,9 @@ void ScreenView::BuildBody(QBoxLayout* into) {
   cards_ = builder.Cards();
 }
 
+/// A large one takes what the window has, unless prose alone is in it.
 QSize ScreenView::DialogSize() const {
+  if (page_.Large && !IsProse(page_.Body)) return QSize(kAllThereIs, kAllThereIs);
   if (page_.Large) return QSize(1216, 704);
   return Grows(page_.Body) ? QSize(800, 560) : QSize();
 }
@@ -262,6 +265,12 @@ const ui::Control* ScreenView::KeyboardOn() const {
 void ScreenView::GiveKeyboard(const ui::Control& control) {
   for (ControlView* view : views_)
     if (&view->Shows() == &control) view->FocusTarget()->setFocus(Qt::ActiveWindowFocusReason);
+}
+
+QWidget* ScreenView::WidgetOf(const ui::Control& control) const {
+  for (ControlView* view : views_)
+    if (&view->Shows() == &control && view->Widget()->isVisible()) return view->Widget();
+  return nullptr;
 }
 
 void ScreenView::TakeKeyboard() {

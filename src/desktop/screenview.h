@@ -37,6 +37,8 @@ class ScreenView : public QWidget {
   /// The control here that has the keyboard; nullptr for none.
   const ui::Control* KeyboardOn() const;
   void GiveKeyboard(const ui::Control& control);
+  /// Where the control is seen here; nullptr where it is not.
+  QWidget* WidgetOf(const ui::Control& control) const;
   /// The space bar and Escape; true when the key meant something.
   bool HandleKey(int key);
   bool FocusSearch();

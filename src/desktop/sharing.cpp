@@ -82,7 +82,7 @@ QString WriteShared(const QString& file, const Shareable& shared) {
   return "Could not write " + file + ": " + out.errorString() + ".";
 }
 
-QString SaveShared(QWidget* parent, const QString& name, const Shareable& shared) {
+FileTold SaveShared(QWidget* parent, const QString& name, const Shareable& shared) {
   QStringList kinds;
   for (const Sharing& row : kTexts)
     kinds << QString("%1 (*.%2)").arg(QString(row.Words), QString(row.Ending));
@@ -91,7 +91,8 @@ QString SaveShared(QWidget* parent, const QString& name, const Shareable& shared
       parent, "Save to a file", name + "." + kTexts[0].Ending, kinds.join(";;"));
   if (file.isEmpty()) return {};
   const QString why = WriteShared(file, shared);
-  return why.isEmpty() ? "Wrote " + file + "." : why;
+  if (!why.isEmpty()) return {why, ui::Tone::Red};
+  return {"Wrote " + file + "."};
 }
 
 void CopyShared(const Shareable& shared, ui::Form form) {
@@ -117,7 +118,7 @@ std::vector<Window::OwnCommand> Window::SharingCommands() {
   const auto add = [&](const QString& caption, const QString& done, std::function<void()> share) {
     commands.push_back({{}, caption, {}, [this, done, share = std::move(share)] {
                           share();
-                          Hint(*this, done);
+                          Hint(*this, done, ui::Tone::Plain);
                         }});
   };
   for (const Sharing& row : kTexts)
@@ -133,8 +134,8 @@ std::vector<Window::OwnCommand> Window::SharingCommands() {
 }
 
 void Window::SavePage(const Shareable& shared) {
-  const QString said = SaveShared(this, Shown(top_->Title.Get()), shared);
-  if (!said.isEmpty()) Hint(*this, said);
+  const FileTold told = SaveShared(this, Shown(top_->Title.Get()), shared);
+  if (!told.Words.isEmpty()) Hint(*this, told.Words, told.As);
 }
 
 }  // namespace grapplemont::desktop

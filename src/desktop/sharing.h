@@ -23,8 +23,13 @@ Shareable WordsToShare(std::function<std::string(ui::Form form)> text);
 /// Writes it to a file, in the form that its ending means (md, html, txt for BBCode, png for the
 /// picture; Markdown for any other). Why it could not, empty if it has.
 QString WriteShared(const QString& file, const Shareable& shared);
-/// Asks for a file and writes it. What is to be said of it, empty if no file was named.
-QString SaveShared(QWidget* parent, const QString& name, const Shareable& shared);
+/// What is to be said of a file, in red if it could not be written; no words if none was named.
+struct FileTold {
+  QString Words = {};
+  ui::Tone As = ui::Tone::Plain;
+};
+/// Asks for a file and writes it.
+FileTold SaveShared(QWidget* parent, const QString& name, const Shareable& shared);
 void CopyShared(const Shareable& shared, ui::Form form);
 void CopyPictureOf(const Shareable& shared);
 

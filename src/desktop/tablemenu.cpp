@@ -187,8 +187,8 @@ void TableView::AddTableActs(QMenu& menu) {
   });
   AddSharing(menu, shared);
   menu.addAction("Save to a file\u2026", this, [this, shared] {
-    const QString said = SaveShared(this, Shown(control_.Parent().Title.Get()), shared);
-    if (!said.isEmpty()) OnStage().Hint(*this, said);
+    const FileTold told = SaveShared(this, Shown(control_.Parent().Title.Get()), shared);
+    if (!told.Words.isEmpty()) OnStage().Hint(*this, told.Words, told.As);
   });
 }
 

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kMeasuredRows = 200;  // rows that are measured one by one for a column's width
 constexpr int kSentence = 200;      // texts from this width on are read at length
+constexpr int kTagsRead = 124;      // two tags, or one and the beginning of the next
 
 /// Hands out the room left over by shares.
 void Spread(int room, const std::vector<double>& shares, std::vector<int>& widths) {
@@ -83,10 +84,12 @@ std::size_t TableView::SentencePlace(const std::vector<int>& widths) const {
 
 /// What is read first gives way last, and sentences before it, but not to nothing. No heading is
 /// ever cut, and what is no text keeps its width. Where that is not enough the rest is scrolled
-/// beside the name, which is shown whole, as long as half of the room is left.
+/// beside the name, which is shown whole, as long as half of the room is left; then tags are not
+/// cut to nothing either.
 void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
   const std::size_t name = Index(table_.NamePlace()), sentence = SentencePlace(widths);
   const int whole = widths[name];
+  const std::vector<int> asked = widths;
   const struct {
     int Name, Sentence, Other;
   } steps[] = {{whole, Px(180), Px(72)},
@@ -104,8 +107,11 @@ void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
     }
     missing = Squeeze(missing, least, widths);
   }
-  if (missing > 0)
-    widths[name] = std::min(whole, std::max(widths[name], grid_->viewport()->width() * 45 / 100));
+  if (missing <= 0) return;
+  widths[name] = std::min(whole, std::max(widths[name], grid_->viewport()->width() * 45 / 100));
+  for (std::size_t place = 0; place < widths.size(); ++place)
+    if (model_.Column(table_.Columns()[place]).Kind == ui::ColumnKind::Tags)
+      widths[place] = std::max(widths[place], std::min(asked[place], Px(kTagsRead)));
 }
 
 /// The columns up to the name, unless they take most of the room.

@@ -281,7 +281,7 @@ void Window::Hear(ui::Sound sound) {
     options_.Play(sound, settings_.Volume());
 }
 
-void Window::Hint(QWidget& beside, const QString& text) {
+void Window::Hint(QWidget& beside, const QString& text, ui::Tone tone) {
   if (hint_) hint_->deleteLater();
   hint_ = new WrappedLabel(ground_, text);
   hint_->setObjectName("hint");
@@ -290,7 +290,7 @@ void Window::Hint(QWidget& beside, const QString& text) {
   colours.setColor(QPalette::Window, c.Button);
   hint_->setPalette(colours);
   hint_->setAutoFillBackground(true);
-  SetInk(*hint_, c.Red);
+  SetInk(*hint_, TextColour(c, tone));
   hint_->setContentsMargins(Px(10), Px(6), Px(10), Px(6));
   hint_->adjustSize();
   QPoint at = &beside == this ? QPoint((ground_->width() - hint_->width()) / 2, Px(60))

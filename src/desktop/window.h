@@ -81,7 +81,7 @@ class Window : public QMainWindow, public Stage {
   Settings& Kept() override { return settings_; }
   QString PictureFile(const std::string& name) const override;
   void Act(const std::function<std::string()>& act) override;
-  void Hint(QWidget& beside, const QString& text) override;
+  void Hint(QWidget& beside, const QString& text, ui::Tone tone = ui::Tone::Red) override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -131,8 +131,10 @@ class Window : public QMainWindow, public Stage {
   /// Whether the side bar may be used: no dialog lies over it.
   bool HubInReach() const;
   bool PressSideKey(const QKeyEvent& event);
-  /// Presses the button of the top screen that has this key.
-  bool PressButtonKey(const QKeyEvent& event);
+  /// Presses the button of the top screen that has this key, unless what is typed in has it.
+  bool PressButtonKey(const QWidget& typedIn, const QKeyEvent& event);
+  /// Says why a button of the top screen cannot be pressed, where it stands.
+  void HintAt(const ui::Button& refused, const QString& why);
   void OpenFinder();
   std::vector<Finder::Entry> FinderEntries();
   void Remember(const Finder::Entry& chosen);

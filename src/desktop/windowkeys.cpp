@@ -2,6 +2,8 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <algorithm>
 
 #include "desktop/pieces.h"
@@ -40,9 +42,14 @@ void Window::PressEnter() {
     else
       PressHub(*button);
   } else if (const ui::Button* const main = top.MainNow(); main && !main->Enabled) {
-    Hint(*this, main->Tip->empty() ? Shown(main->Text.Get()) + " cannot be pressed now."
-                                   : Shown(main->Tip.Get()));
+    HintAt(*main, main->Tip->empty() ? Shown(main->Text.Get()) + " cannot be pressed now."
+                                     : Shown(main->Tip.Get()));
   }
+}
+
+void Window::HintAt(const ui::Button& refused, const QString& why) {
+  QWidget* const button = TopView()->WidgetOf(refused);
+  Hint(button ? *button : *this, why);
 }
 
 void Window::ShowEnter() {
@@ -53,16 +60,20 @@ void Window::ShowEnter() {
   if (frame_) frame_->Top().SetEnter(pressed);
 }
 
-bool Window::PressButtonKey(const QKeyEvent& event) {
+/// A box that is typed in takes back its own letters by Ctrl+Z.
+bool Window::PressButtonKey(const QWidget& typedIn, const QKeyEvent& event) {
   ScreenView* const top = TopView();
+  const bool types =
+      qobject_cast<const QLineEdit*>(&typedIn) || qobject_cast<const QPlainTextEdit*>(&typedIn);
   if (!top || event.isAutoRepeat()) return false;
+  if (types && event.modifiers().testFlag(Qt::ControlModifier)) return false;
   const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier,
                                 static_cast<Qt::Key>(event.key()));
   for (ui::Control* control : top->Shows().Controls()) {
     auto* const button = dynamic_cast<ui::Button*>(control);
     if (!button || button->Key.empty() || !button->Visible) continue;
     if (QKeySequence(Shown(button->Key))[0] != pressed) continue;
-    if (!top->Press(button)) Hint(*this, Shown(button->Tip.Get()));
+    if (!top->Press(button)) HintAt(*button, Shown(button->Tip.Get()));
     return true;
   }
   return false;
@@ -84,7 +95,7 @@ bool Window::HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event) {
     TurnFullScreen();
     return true;
   }
-  if (PressButtonKey(event) || PressSideKey(event)) return true;
+  if (PressButtonKey(typedIn, event) || PressSideKey(event)) return true;
   if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier)) return false;
   if (event.key() == Qt::Key_F) return TopView() && TopView()->FocusSearch();
   for (const OwnCommand& own : OwnCommands())

@@ -1,8 +1,10 @@
 #include "show/forecast.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <map>
 #include <set>
+#include <span>
 
 #include "records/segments.h"
 #include "show/holdshow.h"
@@ -14,6 +16,7 @@ namespace {
 
 constexpr int kRehearsals = 12;
 constexpr std::uint64_t kSeed = 20260301;
+constexpr std::uint64_t kSpread = 1099511628211;  // spreads a byte over all bits of a seed
 constexpr int kTooOften = 3;
 
 /// What a road agent's note foretells when it comes in half of the rehearsals.
@@ -59,6 +62,14 @@ class Stage {
   World world_;
 };
 
+/// The chance of a Segment in one of the rehearsals, from what is booked.
+std::uint64_t SeedOf(const Segment& segment, int turn) {
+  std::uint64_t seed = kSeed + static_cast<std::uint64_t>(turn);
+  for (const std::byte byte : std::as_bytes(std::span(&segment, 1)))
+    seed = (seed ^ std::to_integer<std::uint64_t>(byte)) * kSpread;
+  return seed;
+}
+
 void Widen(Forecast& range, int value, bool first) {
   range.Low = first ? value : std::min(range.Low, value);
   range.High = first ? value : std::max(range.High, value);
@@ -68,13 +79,13 @@ void Widen(Forecast& range, int value, bool first) {
 class Rehearsals {
  public:
   Rehearsals(const World& world, const std::vector<Segment>& sheet, bool isEvent,
-             const CommentaryTeam& team)
-      : stage_(world, sheet), isEvent_(isEvent), team_(team) {
+             const CommentaryTeam& team, int watched = 0)
+      : stage_(world, sheet), isEvent_(isEvent), team_(team), watched_(watched) {
     forecast_.Rows.resize(static_cast<std::size_t>(RowsOf(isEvent)));
   }
 
   ShowForecast Hold() {
-    for (int turn = 0; turn < kRehearsals; ++turn) HoldOne(turn == 0);
+    for (int turn = 0; turn < kRehearsals; ++turn) HoldOne(turn);
     for (const auto& [omen, times] : omens_)
       if (times * 2 >= kRehearsals)
         forecast_.Warnings.push_back("Row " + std::to_string(omen.first) + ": " +
@@ -82,15 +93,27 @@ class Rehearsals {
     return std::move(forecast_);
   }
 
+  /// How the row that is watched came to the middle of its ratings. Requires that it was held.
+  ToldSegment Typical() {
+    const auto middle = told_.begin() + std::ssize(told_) / 2;
+    std::ranges::nth_element(told_, middle, {}, [](const auto& told) { return int(told.Overall); });
+    return std::move(*middle);
+  }
+  bool WasHeld() const { return !told_.empty(); }
+
  private:
-  void HoldOne(bool first) {
+  void HoldOne(int turn) {
     World& world = stage_.Begin();
+    const bool first = turn == 0;
+    world.SetChance(std::make_unique<SeededDraws>(kSeed + static_cast<std::uint64_t>(turn)));
     StartShow(world, isEvent_, team_);
     world.ShowRuns()[1].FlatNight = false;  // one night in eight; a forecast tells of the others
     while (const int number = NextSegment(world)) {
-      const ToldSegment told = RunNextSegment(world, nullptr);
+      world.SetChance(std::make_unique<SeededDraws>(SeedOf(world.Segments()[number], turn)));
+      ToldSegment told = RunNextSegment(world, nullptr);
       Widen(forecast_.Rows[static_cast<std::size_t>(number - 1)], told.Overall, first);
       NoteOmens(number, told.Notes);
+      if (number == watched_) told_.push_back(std::move(told));
     }
     Widen(forecast_.Rating, CloseShow(world), first);
   }
@@ -103,7 +126,9 @@ class Rehearsals {
   Stage stage_;
   bool isEvent_;
   CommentaryTeam team_;
+  int watched_;  // a row; 0 for none
   ShowForecast forecast_;
+  std::vector<ToldSegment> told_;  // that row, as often as it was held
   std::map<std::pair<int, std::size_t>, int> omens_;
 };
 
@@ -166,13 +191,16 @@ ShowForecast ForecastShow(const World& world, bool isEvent, const CommentaryTeam
   return forecast;
 }
 
-Forecast ForecastRow(const World& world, bool isEvent, int record, const Segment& segment) {
+RowForecast ForecastRow(const World& world, bool isEvent, int record, const Segment& segment) {
   std::vector<Segment> sheet = SheetOf(world);
   const auto row = static_cast<std::size_t>(record - 1);
-  if (record > LastRow(world, isEvent) || ShowName(world, isEvent).empty()) return {};
+  if (record > LastRow(world, isEvent)) return {};
   sheet[row] = segment;
   // Who sits at the table moves the show's sum and no row.
-  return Rehearsals(world, sheet, isEvent, {}).Hold().Rows[row];
+  Rehearsals rehearsals(world, sheet, isEvent, {}, record);
+  const Forecast rating = rehearsals.Hold().Rows[row];
+  if (!rehearsals.WasHeld()) return {};
+  return {rating, rehearsals.Typical()};
 }
 
 }  // namespace grapplemont

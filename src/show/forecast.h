@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "show/holdshow.h"
+#include "show/runsegment.h"
 
 namespace grapplemont {
 
@@ -17,14 +18,20 @@ struct Forecast {
 };
 
 /// What match.dat as it stands may come to, from rehearsals on a copy of the world; neither the
-/// world nor its draws move.
+/// world nor its draws move. Chance is the same for the same Segment wherever it stands, so that a
+/// row's forecast moves only with what the other rows do to it.
 struct ShowForecast {
   std::vector<Forecast> Rows;         // a row each; 0 to 0 for an empty one
   Forecast Rating;                    // of the show
   std::vector<std::string> Warnings;  // what would hurt it
 };
 ShowForecast ForecastShow(const World& world, bool isEvent, const CommentaryTeam& team);
+/// One row of it, and the rehearsal of the middle rating with all its steps.
+struct RowForecast {
+  Forecast Rating;
+  ToldSegment Typical;
+};
 /// The same of match.dat with another Segment in one of its records: what the row may come to.
-Forecast ForecastRow(const World& world, bool isEvent, int record, const Segment& segment);
+RowForecast ForecastRow(const World& world, bool isEvent, int record, const Segment& segment);
 
 }  // namespace grapplemont

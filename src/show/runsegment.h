@@ -14,6 +14,15 @@ struct ToldSegment {
   std::string Verdict;
 };
 
+/// Its percentages, by what they are called.
+struct ToldFigure {
+  const char* Name;
+  Score ToldSegment::*Of;
+};
+inline constexpr ToldFigure kToldFigures[] = {{"Match Quality", &ToldSegment::Quality},
+                                              {"Crowd Reaction", &ToldSegment::Crowd},
+                                              {"Overall Rating", &ToldSegment::Overall}};
+
 class LineMemory;
 /// Runs record `number` of match.dat in the show under way: scores it, tells it, changes what it
 /// changes, adds it to the show's sum and writes its rating. `memory` is nullptr for a run without

@@ -87,7 +87,7 @@ struct SideGroup {
 
 /// A screen's arrangement. Facts is the line under the title, More are those under that, and Face
 /// stands before them all. Actions stand right of the title, in order; Main is gold, stands last
-/// and is what Enter does, whatever has the keyboard; Then takes its part while Main is hidden;
+/// and is what Enter does, whatever has the keyboard; Then takes its part while Main cannot;
 /// Cancel is what Escape does. Main and Cancel need not be among Actions. On a page above the hub
 /// that has no Main, Enter does what the hub's Main does.
 struct Page {

@@ -291,9 +291,11 @@ TEST(TelevisionSheet, LaysTheLastCardAndTheDraftOfItsDay) {
   play.Desk.Open("frmDrafts");
   play.Desk.Click("cmddraft");
   EXPECT_EQ(play.Desk.Title(), "Draft For Tidal Force");
+  EXPECT_TRUE(play.Desk.Enabled("cmdlast"));
   EXPECT_EQ(play.Desk.Text("lblfacts"), "Sunday, 08 March 2026, 5 rows");
   play.Book(1, Singles(play.World(), "CWA Hand 7", "CWA Hand 8"));
   play.Book(3, Singles(play.World(), "CWA Hand 9", "CWA Hand 10"));
+  EXPECT_TRUE(play.Desk.Text("lblforecast").ends_with("%, as things stand today."));
   play.Desk.Click("cmddoshow");
   EXPECT_EQ(play.Desk.Rows("lstshows")[0].back(), "2 of 5 rows");
   play.Desk.Event([&] {

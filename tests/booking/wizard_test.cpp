@@ -247,7 +247,7 @@ TEST(frmBook1vs1, MarksWhatTheChoiceIsMadeOn) {
   play.Book();
   play.ChooseMatch("1 vs 1", "Singles");
   std::map<std::string, std::string> marks;
-  for (const Lines& row : play.Desk.Rows("lstwres1")) marks[row.front()] = row.back();
+  for (const Lines& row : play.Desk.Rows("lstwres1")) marks[row.front()] = row[3];
   EXPECT_EQ(marks["Man 1"], "Champion, Feud 64");
   EXPECT_EQ(marks["Man 2"], "Feud 64, Team");
   EXPECT_EQ(marks["Man 3"], "Team, Tired");
@@ -256,8 +256,16 @@ TEST(frmBook1vs1, MarksWhatTheChoiceIsMadeOn) {
   EXPECT_EQ(marks["Man 7"], "Hot");
   EXPECT_EQ(marks["Man 8"], "");
   play.Desk.Pick("lstwres1", "Man 3");
-  EXPECT_EQ(play.Desk.Text("lblforecast"), "Told once everybody is chosen.");
+  EXPECT_TRUE(play.Desk.Text("lblforecast")
+                  .ends_with("%, with the most popular of the others in the free places"));
   EXPECT_EQ(play.Desk.Text("lblwho"), "Man 3: Over 60, condition 24");
+  play.Desk.Click("cmdwhy");
+  EXPECT_EQ(play.Desk.TopName(), "frmForecast");
+  EXPECT_TRUE(play.Desk.Text("txtwhy").ends_with(" Overall Rating"));
+  play.Desk.Click("cmdback");
+  play.Desk.Pick("lstwres2", "Man 3");
+  EXPECT_FALSE(play.Desk.Enabled("cmdnext")) << "the same on both sides";
+  EXPECT_TRUE(play.Desk.Enabled("cmddone")) << "which says so in a box";
 }
 
 /// What Enter presses on the top screen.

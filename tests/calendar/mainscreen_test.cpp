@@ -2,6 +2,7 @@
 
 #include "records/fields/fields.h"
 #include "records/modVar.h"
+#include "records/segments.h"
 #include "support/gameonworld.h"
 
 namespace grapplemont::test {
@@ -58,6 +59,10 @@ TEST(MainScreen, IsADeskWithWhatWantsLookingAt) {
   Named(world.Workers(), "CWA Hand 3").Condition = 40;
   Named(world.Workers(), "CWA Hand 4").Morale = 12;
   Named(world.Workers(), "CWA Hand 5").ContractMonths = 1;
+  Segment lastWeek = EmptySegment();
+  lastWeek.Kind = kMatch;
+  lastWeek.Rating = 40;
+  world.Segments().Rewrite(std::vector<Segment>(8, lastWeek));
   GameOnWorld play(std::move(world));
   play.Desk.Open("frmMainScreen");
   EXPECT_EQ(play.Desk.Rows("lstchampions").at(0)[1], "CWA Crown");
@@ -66,7 +71,8 @@ TEST(MainScreen, IsADeskWithWhatWantsLookingAt) {
   EXPECT_EQ(play.Desk.FirstColumn("lstunhappy").at(0), "CWA Hand 4");
   EXPECT_EQ(play.Desk.FirstColumn("lstcontracts").at(0), "CWA Hand 5");
   ASSERT_TRUE(play.Desk.Visible("cmdbook"));
-  EXPECT_EQ(play.Desk.Rows("lstahead")[0].back().substr(0, 5), "0 of ");
+  for (const std::size_t show : {0U, 1U})
+    EXPECT_EQ(play.Desk.Rows("lstahead")[show].back().substr(0, 5), "0 of ");
   play.Desk.OpenRow("lstahead", 2);
   EXPECT_EQ(play.Desk.TopName(), "frmDrafts");
   play.Desk.Click("cmdback");

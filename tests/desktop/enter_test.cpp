@@ -116,6 +116,7 @@ TEST_F(TheKeys, VisitRoomsFromTheBookingSheetAndComeBackToIt) {
   Play.Window.Sync();
   Play.Key(Qt::Key_Return);
   ASSERT_EQ(Play.Top(), "frmBooking") << "Sunday is a day of television";
+  EXPECT_EQ(Marked(), std::vector<std::string>{"cmdnextrow"}) << "the show may not start yet";
 
   Play.Click("cmdbook(1)");
   Play.Key(Qt::Key_Escape);
@@ -138,6 +139,10 @@ TEST_F(TheKeys, VisitRoomsFromTheBookingSheetAndComeBackToIt) {
 
   Play.AtNextBox([&] { Play.Click("boxyes"); });
   Play.Click("cmdfill");
+  EXPECT_EQ(Marked(), std::vector<std::string>{"cmddoshow"});
+  Play.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Marked(), std::vector<std::string>{"cmdnextrow"}) << "the card has been taken back";
+  Play.Key(Qt::Key_Y, Qt::ControlModifier);
   const auto card = [&] {
     return BytesOf(Game.World()).at(std::string(Game.World().Segments().File()));
   };

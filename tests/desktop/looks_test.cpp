@@ -125,6 +125,25 @@ TEST(TheCards, StandInALineWhereEachHasTheLettersItNeeds) {
   }
 }
 
+TEST(ALargeDialog, TakesTheRoomOfTheWindow) {
+  class Lists : public ui::Screen {
+   public:
+    Lists(ui::Desk& desk, ui::Role role, const std::string& list)
+        : Screen(desk, "frm" + list, "Lists", role), lstall(*this, list) {}
+    ui::Page Layout() override { return {.Large = true, .Body = ui::Rows({ui::Grow(lstall)})}; }
+    ui::ListBox lstall;
+  };
+  Player play;
+  play.Open(std::make_unique<Lists>(play.Desk, ui::Role::Page, "lstpage"));
+  play.Open(std::make_unique<Lists>(play.Desk, ui::Role::Dialog, "lstdialog"));
+  for (const QSize size : {QSize(1280, 800), QSize(2560, 1440)}) {
+    play.Window.resize(size);
+    QApplication::processEvents();
+    EXPECT_GT(play.See("lstdialog")->width(), size.width() - 200);
+    EXPECT_GT(play.See("lstdialog")->height(), size.height() - 320);
+  }
+}
+
 TEST(TheLines, OfProseEndWhereTheyCanBeRead) {
   class Prose : public ui::Screen {
    public:

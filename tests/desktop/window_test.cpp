@@ -107,6 +107,10 @@ TEST_F(TheWindow, SaysWhyEnterDoesNothing) {
   EXPECT_FALSE(BearsEnter("cmdnext")) << "a page with an action of its own never ends the day";
   Play.Key(Qt::Key_Return);
   EXPECT_EQ(Play.TextOf("hint"), "Nothing is chosen yet.");
+  const QWidget& done = *Play.See("cmddone");
+  EXPECT_NEAR(Play.See("hint")->mapTo(&Play.Window, QPoint()).y(),
+              done.mapTo(&Play.Window, QPoint(0, done.height())).y(), 10)
+      << "it stands below what refused";
   EXPECT_EQ(Notes, Log());
 }
 

@@ -64,6 +64,22 @@ TEST(ForecastShow, LeavesTheWorldAndItsDrawsAlone) {
   }
 }
 
+TEST(ForecastShow, MovesNoRowThatTheOthersDoNotTouch) {
+  std::vector<Segment> sheet = ACard();
+  sheet.pop_back();
+  const std::vector<Forecast> before = ForecastShow(Booked(Ready(), sheet), false, kTable).Rows;
+  // Whom the rows before do not need speaks first, and moves no crowd.
+  sheet.insert(sheet.begin(), SegmentOf(kInterview, kSingleTalk, 0, {1}));
+  const World world = Booked(Ready(), sheet);
+  const std::vector<Forecast> after = ForecastShow(world, false, kTable).Rows;
+  for (std::size_t row = 0; row + 1 < sheet.size(); ++row) EXPECT_EQ(before[row], after[row + 1]);
+  const RowForecast one = ForecastRow(world, false, 2, sheet[1]);
+  EXPECT_EQ(one.Rating, after[1]) << "the wizard foresees what the sheet does";
+  EXPECT_GE(int(one.Typical.Overall), one.Rating.Low);
+  EXPECT_LE(int(one.Typical.Overall), one.Rating.High);
+  EXPECT_FALSE(one.Typical.Overall.Steps().empty());
+}
+
 TEST(ForecastShow, HoldsWhatMostShowsComeTo) {
   const World booked = Booked(Ready(), ACard());
   const ShowForecast forecast = ForecastShow(booked, false, kTable);

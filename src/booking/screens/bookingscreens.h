@@ -1,6 +1,7 @@
 #pragma once
 
 #include "booking/keptcards.h"
+#include "show/runsegment.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -29,6 +30,9 @@ std::unique_ptr<ui::Screen> MakeEditSheet(Game& game, const SheetPlace& place);
 /// A wizard for an empty record on the desk, with its first step open over it.
 void OpenWizardAtOnce(Game& game, int slot, bool isEvent);
 void OpenWizardAtOnce(Game& game, const SheetPlace& place);
+
+/// The steps of a forecast, from one of its rehearsals.
+std::unique_ptr<ui::Screen> MakefrmForecast(Game& game, const ToldSegment& typical);
 
 /// The sheet of the draft for a show that is still to come.
 std::unique_ptr<ui::Screen> MakefrmDraft(Game& game, const ComingShow& show);

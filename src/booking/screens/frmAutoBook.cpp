@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "booking/screens/bookingscreens.h"
 #include "booking/screens/screensheet.h"
 #include "booking/sheet.h"
@@ -29,15 +31,16 @@ class frmAutoBook : public GameScreen {
     BackBefore(cmdagain);
     lstcard.EmptyText = "There is no show today to book a card for.";
     lblmissing.Colour = ui::Tone::Amber;
+    txtchanges.Brief = true;
   }
 
   ui::Page Layout() override {
     ui::Page page =
-        PageOf(ui::Columns({ui::Group("", {ui::Grow(lstcard)}).Grow(5),
-                            ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(3),
-                                      ui::Group("What it changes", {ui::Grow(txtchanges)}).Grow(2),
+        PageOf(ui::Columns({ui::Group("", {ui::Grow(lstcard)}).Grow(3),
+                            ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(),
+                                      ui::Group("What it changes", {txtchanges}),
                                       ui::Group("What it may come to", {lblrating, lblmissing})})
-                                .Grow(2)}),
+                                .Grow()}),
                &lblfacts, {}, &cmdsheet);
     page.Actions = {&cmdback, &cmdagain, &cmdbook, &cmdsheet};
     return page;
@@ -72,12 +75,32 @@ class frmAutoBook : public GameScreen {
 
   void FillRows() {
     std::vector<ui::ListBox::Row> rows;
-    const auto columns = Table();
+    const auto columns = WithoutEmptyTags(Table());
     for (int record = 1; record <= static_cast<int>(card_.Rows.size()); ++record)
       if (const Segment& segment = card_.Rows[static_cast<std::size_t>(record - 1)];
           segment.Kind != kEmptySegment)
         rows.push_back(RowOf(columns, {record, segment, forecast_}, record));
+    lstcard.SetColumns(HeadingsOf(columns));
     lstcard.Fill(std::move(rows));
+  }
+
+  /// A card without Titles or feuds has no columns for them: the reasons want the width.
+  CellColumns<SheetRow> WithoutEmptyTags(CellColumns<SheetRow> table) {
+    std::erase_if(table, [this](const CellColumn<SheetRow>& column) {
+      int record = 0;
+      return column.Heading.Kind == ui::ColumnKind::Tag &&
+             std::ranges::all_of(card_.Rows, [&](const Segment& segment) {
+               return column.Show({++record, segment, forecast_}).Text.empty();
+             });
+    });
+    return table;
+  }
+
+  /// Why a row of the card is there; empty for an empty one.
+  std::string ReasonOf(int record) const {
+    const auto row = static_cast<std::size_t>(record - 1);
+    if (card_.Rows[row].Kind == kEmptySegment) return {};
+    return card_.Reasons[row].empty() ? "It stood on the sheet already." : card_.Reasons[row];
   }
 
   CellColumns<SheetRow> Table() {
@@ -85,8 +108,7 @@ class frmAutoBook : public GameScreen {
         world(),
         {{"#", ui::ColumnKind::Number}, [](const SheetRow& row) { return ui::Cell(row.Record); }});
     table.push_back({{"Why", ui::ColumnKind::Text, 4}, [this](const SheetRow& row) {
-                       return ui::Cell(card_.Reasons[static_cast<std::size_t>(row.Record - 1)],
-                                       ui::Tone::Muted);
+                       return ui::Cell(ReasonOf(row.Record), ui::Tone::Muted);
                      }});
     return table;
   }
@@ -109,9 +131,8 @@ class frmAutoBook : public GameScreen {
     using Style = ui::Report::Style;
     const auto row = static_cast<std::size_t>(record - 1);
     std::vector<ui::Report::Paragraph> told = ToldOf(world(), card_.Rows[row], false);
-    const std::string& why = card_.Reasons[row];
     told.push_back({Style::Strong, "Why"});
-    told.push_back({Style::Line, why.empty() ? "It stood on the sheet already." : why});
+    told.push_back({Style::Line, ReasonOf(record)});
     txtrow.Write(std::move(told));
   }
 

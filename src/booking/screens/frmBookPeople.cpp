@@ -110,7 +110,7 @@ class frmBookPeople : public MatchStepScreen {
       FillRoster(lstwres(place), roster);
     }
     ShowWhoIsMissing();
-    AllowDone(false, kChooseAll);
+    AllowNext();
   }
 
   ui::Box Body() override {
@@ -155,7 +155,7 @@ class frmBookPeople : public MatchStepScreen {
   void Recall(const Segment& earlier) override {
     for (int place = 1; place <= lstwres.Count(); ++place)
       Choose(lstwres(place), UidAt(earlier, place));
-    AllowDone(!IsChosen(0), kChooseAll);
+    AllowNext();
   }
 
   Segment Draft() override {
@@ -184,8 +184,14 @@ class frmBookPeople : public MatchStepScreen {
 
   void lstwres_Click(int place) {
     lblpartner.Text = style_.PerSide > 1 ? OfferPartner(place) : "";
-    AllowDone(!IsChosen(0), kChooseAll);
+    AllowNext();
     ShowOutlook();
+  }
+
+  /// The way on is open once nobody is missing or there twice. Done says the same in a box.
+  void AllowNext() {
+    AllowDone(!IsChosen(0), kChooseAll);
+    if (!IsChosen(0)) EnableUnless(*cmdnext, WhyNotLeft(Draft(), kPeopleStep));
   }
 
   /// Who belongs to a Tag Team mostly stands beside their partner, as long as a place of the side

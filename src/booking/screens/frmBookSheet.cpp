@@ -98,8 +98,9 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     if (!wizard_.SegmentComplete) return;
     const World& world = game_.World();
     const Forecast forecast =
-        ForecastRow(world, wizard_.View.IsEvent, wizard_.CurrentSlot, wizard_.Buffer);
-    lblforecast.Text = "Forecast: " + RangeText(forecast) + ".";
+        ForecastRow(world, wizard_.View.IsEvent, wizard_.CurrentSlot, wizard_.Buffer).Rating;
+    lblforecast.Text =
+        "Forecast: " + RangeText(forecast) + (wizard_.IsDraft ? ", as things stand today." : ".");
     lblforecast.Visible = forecast != Forecast{};
     const PriceTold price = TellPrice(world, wizard_.Buffer, wizard_.Paid);
     lblprice.Text = price.Text;

@@ -3,6 +3,7 @@
 #include "booking/screens/bookingscreens.h"
 #include "booking/screens/screensheet.h"
 #include "booking/sheet.h"
+#include "booking/showstart.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "storylines/screens/screenpeople.h"
@@ -30,10 +31,18 @@ class frmDraft : public SheetScreen {
   }
 
  protected:
-  CommentaryTeam Team() override { return {}; }
+  /// Who would sit there: nobody has been named yet for an Event.
+  CommentaryTeam Team() override {
+    if (isEvent_) return BestTeam(world());
+    for (const Show& show : world().Shows())
+      if (show.Owner == world().PlayerUid() && show.Name == std::string_view(show_.Owner.Show))
+        return {show.Announcer, show.Colour, show.ColourIsWorker};
+    return {};
+  }
   bool Begin() override { return false; }
   bool IsDraft() const override { return true; }
-  std::string Heading() override { return "Draft For " + show_.Owner.Show; }
+  std::string Heading() override { return "Draft For " + Called(); }
+  std::string Called() override { return show_.Owner.Show; }
   std::string Facts() override {
     return LongDate(show_.On) + ", " + std::to_string(Terms().OpenRows) + " rows";
   }

@@ -20,7 +20,7 @@ struct StatRow {
 constexpr StatRow kSkills[] = {
     {"Over", &Worker::Over},           {"Brawl", &Worker::Brawl},
     {"Technical", &Worker::Technical}, {"Speed", &Worker::Speed},
-    {"Stiff", &Worker::Stiff},         {"Sell", &Worker::Sell},
+    {"Stiffness", &Worker::Stiff},     {"Selling", &Worker::Sell},
     {"Charisma", &Worker::Charisma},   {"Attitude", &Worker::Attitude},
     {"Behaviour", &Worker::Behaviour}, {"Condition", &Worker::Condition},
     {"Morale", &Worker::Morale},

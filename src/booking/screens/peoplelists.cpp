@@ -1,6 +1,5 @@
 #include "booking/screens/peoplelists.h"
 
-#include <span>
 #include <utility>
 
 #include "records/fields/wording.h"
@@ -27,10 +26,10 @@ constexpr Skill kRingSkills[] = {
     {"Brawl", "Brawl", "Br", "Brawling.", &Worker::Brawl},
     {"Technical", "Tech.", "Te", "Technical skill.", &Worker::Technical},
     {"Speed", "Speed", "Sp", "Speed.", &Worker::Speed}};
-constexpr Skill kTalkSkills[] = {
-    {"Charisma", "Char.", "Ch", "Charisma: what talk is made of.", &Worker::Charisma}};
-constexpr Skill kShape[] = {{"Condition", "Cond.", "Con", "", &Worker::Condition},
-                            {"Morale", "Mor.", "Mor", "", &Worker::Morale}};
+constexpr Skill kCharisma = {"Charisma", "Char.", "Ch", "Charisma: what talk is made of.",
+                             &Worker::Charisma};
+constexpr Skill kCondition = {"Condition", "Cond.", "Con", "", &Worker::Condition};
+constexpr Skill kMorale = {"Morale", "Mor.", "Mor", "", &Worker::Morale};
 
 CellColumn<Worker> ColumnOf(const Skill& skill, bool narrow) {
   return {{.Title = skill.Title,
@@ -41,6 +40,18 @@ CellColumn<Worker> ColumnOf(const Skill& skill, bool narrow) {
           [is = skill.Is](const Worker& worker) { return ui::Cell(int(worker.*is)); }};
 }
 
+CellColumn<Worker> MarksColumn(bool narrow, const RosterMarks* marks) {
+  ui::Column heading{"Marks", K::Tags, narrow ? 3 : 5,
+                     "Champion, feuds with their heat, Tag Team, rows of this card that they are "
+                     "booked in; Hot: has won the last three matches; Tired: condition under 60; "
+                     "Debut: not seen yet."};
+  heading.ToneOf = MarkTone;
+  return {std::move(heading), [marks](const Worker& worker) {
+            return ui::Cell(marks ? Joined(marks->Of(worker), ", ") : std::string());
+          }};
+}
+
+/// What the choice is made on comes first: lists abreast have no room for all.
 CellColumns<Worker> TableOf(int kind, bool narrow, const RosterMarks* marks) {
   CellColumns<Worker> table = {
       {{"Name", K::Text, narrow ? kNarrowName : kWideName},
@@ -56,20 +67,13 @@ CellColumns<Worker> TableOf(int kind, bool narrow, const RosterMarks* marks) {
          return cell;
        }},
       ColumnOf({"Over", "Over", "Ov", "Popularity.", &Worker::Over}, narrow)};
-  // Talk stands or falls with one skill; of a match three lists abreast have no room for all.
-  if (!narrow || kind != kMatch)
-    for (const Skill& skill :
-         kind == kMatch ? std::span<const Skill>(kRingSkills) : std::span<const Skill>(kTalkSkills))
-      table.push_back(ColumnOf(skill, narrow));
-  for (const Skill& skill : kShape) table.push_back(ColumnOf(skill, narrow));
-  ui::Column heading{"Marks", K::Tags, narrow ? 3 : 5,
-                     "Champion, feuds with their heat, Tag Team, rows of this card that they are "
-                     "booked in; Hot: has won the last three matches; Tired: condition under 60; "
-                     "Debut: not seen yet."};
-  heading.ToneOf = MarkTone;
-  table.push_back({std::move(heading), [marks](const Worker& worker) {
-                     return ui::Cell(marks ? Joined(marks->Of(worker), ", ") : std::string());
-                   }});
+  // Talk stands or falls with one skill.
+  if (kind != kMatch) table.push_back(ColumnOf(kCharisma, narrow));
+  table.push_back(MarksColumn(narrow, marks));
+  table.push_back(ColumnOf(kCondition, narrow));
+  if (kind == kMatch && !narrow)
+    for (const Skill& skill : kRingSkills) table.push_back(ColumnOf(skill, narrow));
+  table.push_back(ColumnOf(kMorale, narrow));
   return table;
 }
 

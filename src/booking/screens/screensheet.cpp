@@ -77,7 +77,8 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
   headings.push_back({"", K::Button});
   lstrows.SetColumns(std::move(headings));
   lstrows.OnMove = [this](int from, int to) { lstrows_Move(from, to); };
-  lblwarn.Colour = ui::Tone::Amber;
+  cmdundo.Key = "Ctrl+Z";
+  cmdredo.Key = "Ctrl+Y";
   cmdcancel.Tip = isEvent_ ? "Calling it off costs image, and much of the money spent on it."
                            : "Calling it off costs image.";
   lblcount.Colour = ui::Tone::Muted;
@@ -90,7 +91,7 @@ ui::Page SheetScreen::Layout() {
   std::vector<ui::Button*> buttons;
   for (int record = 1; record <= cmdbook.Count(); ++record) buttons.push_back(&cmdbook(record));
   std::vector<ui::Button*> actions = FirstActions();
-  actions.insert(actions.end(), {&cmdfill, &cmdcancel});
+  actions.insert(actions.end(), {&cmdfill, &cmdcancel, &cmdnextrow});
   std::vector<ui::Box> left{
       ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(),
                      ui::Columns({cmdedit, cmdup, cmddown, cmdlast, cmdundo, cmdredo}), lblwarn,
@@ -106,6 +107,7 @@ ui::Page SheetScreen::Layout() {
                                            cmdstats, cmdteams, cmdtitles, cmdturns, cmdnotepad})})
                .Grow(2)}),
       &lblfacts, std::move(actions), &cmddoshow);
+  page.Then = &cmdnextrow;
   page.Stays = "Not while today's show is being booked: it comes first, or is cancelled.";
   return page;
 }
@@ -123,7 +125,7 @@ int SheetScreen::OpenRows() {
 
 /// No rows when there is nothing; a draft is for its day alone.
 KeptCard SheetScreen::Kept(bool isDraft) {
-  KeptCard kept = FindCard(world(), {ShowName(world(), isEvent_), isEvent_, isDraft});
+  KeptCard kept = FindCard(world(), {Called(), isEvent_, isDraft});
   return isDraft && kept.On != world().Today() ? KeptCard() : kept;
 }
 
@@ -133,9 +135,8 @@ void SheetScreen::Return() {
   Title = Heading();
   lblfacts.Text = Facts();
   lblwarn.Text = SheetWarning(Terms(), isEvent_);
-  lblwarn.Colour = MayStart(world(), isEvent_) ? ui::Tone::Muted : ui::Tone::Amber;
-  ShowForecast();
   ShowCounts();
+  ShowForecast();
   FillShort(lstfree, NotOnTheCard(world(), isEvent_));
   atHand_ = AtHand(world(), isEvent_);
 }
@@ -151,11 +152,11 @@ void SheetScreen::ShowForecast() {
   const bool any = std::any_of(sheet.begin(), sheet.end(), [](const Segment& segment) {
     return segment.Kind != kEmptySegment;
   });
-  forecast_ = any && !IsDraft() ? grapplemont::ForecastShow(world(), isEvent_, Team())
-                                : grapplemont::ShowForecast();
-  lblforecast.Text = IsDraft() ? "Its forecast comes with its day."
-                     : any     ? "Forecast " + RangeText(forecast_.Rating) + "."
-                               : "Nothing is booked yet.";
+  forecast_ =
+      any ? grapplemont::ForecastShow(world(), isEvent_, Team()) : grapplemont::ShowForecast();
+  lblforecast.Text = !any ? "Nothing is booked yet."
+                          : "Forecast " + RangeText(forecast_.Rating) +
+                                (IsDraft() ? ", as things stand today." : ".");
   lblwarnings.Text = Joined(forecast_.Warnings, "\n");
   lblwarnings.Visible = !forecast_.Warnings.empty();
   FillRows();
@@ -197,16 +198,24 @@ void SheetScreen::ShowCounts() {
   const SheetCount count = CountSheet(world(), isEvent_);
   lblcount.Text = OfLeast(count.Matches, terms.MinMatches, "matches") + ", " +
                   OfLeast(count.Segments, terms.MinSegments, "segments") + " booked.";
+  const bool enough = count.Matches >= terms.MinMatches && count.Segments >= terms.MinSegments;
+  lblwarn.Colour = enough ? ui::Tone::Muted : ui::Tone::Amber;
   EnableUnless(cmddoshow, IsDraft() || MayStart(world(), isEvent_) ? ""
                           : terms.OpenRows == 0                    ? "There is no show today."
                                                 : "Not enough yet: " + lblcount.Text.Get());
-  EnableUnless(cmdfill, HasEmptyRow() ? "" : "No row is empty.");
+  EnableUnless(cmdfill, EmptyRow() != 0 ? "" : "No row is empty.");
 }
 
-bool SheetScreen::HasEmptyRow() {
+bool SheetScreen::IsEmptyRow(int record) {
+  return record >= 1 && record <= OpenRows() && Row(record).Kind == kEmptySegment;
+}
+
+/// The selected row if it is empty, else the first that is; 0 for none.
+int SheetScreen::EmptyRow() {
+  if (IsEmptyRow(lstrows.Key())) return lstrows.Key();
   for (int record = 1; record <= OpenRows(); ++record)
-    if (Row(record).Kind == kEmptySegment) return true;
-  return false;
+    if (IsEmptyRow(record)) return record;
+  return 0;
 }
 
 /// What can be done with the selected row, and with the steps before.
@@ -220,11 +229,11 @@ void SheetScreen::ShowRowActs() {
   EnableUnless(cmddown, !open                  ? "Choose a row of the show."
                         : record == OpenRows() ? "It is the last."
                                                : "");
-  EnableUnless(cmdlast, IsDraft() || Kept(false).Rows.empty()
-                            ? "No card of this show has been kept yet."
-                            : "");
+  EnableUnless(cmdlast, Kept(false).Rows.empty() ? "No card of this show has been kept yet." : "");
   EnableUnless(cmdundo, history_.MayUndo() ? "" : "Nothing has been done on this sheet.");
   EnableUnless(cmdredo, history_.MayRedo() ? "" : "Nothing has been taken back.");
+  cmdnextrow.Visible = !cmddoshow.Enabled && EmptyRow() != 0;
+  cmdnextrow.Text = "Book Row " + std::to_string(EmptyRow());
 }
 
 /// What the selected row is about, without opening it.
@@ -237,10 +246,10 @@ void SheetScreen::ShowRow() {
   if (record > OpenRows()) return txtrow.Write({{Style::Muted, std::string(kClosedRowTip)}});
   const Segment& segment = Row(record);
   if (segment.Kind == kEmptySegment)
-    return txtrow.Write(
-        {{Style::Strong, "Row " + std::to_string(record)},
-         {Style::Muted,
-          "Nothing is booked here. Book opens the wizard, opening the row its first step."}});
+    return txtrow.Write({{Style::Strong, "Row " + std::to_string(record)},
+                         {Style::Muted,
+                          "Nothing is booked here. Book opens the wizard, a double click its first "
+                          "step at once."}});
   std::vector<ui::Report::Paragraph> told = ToldOf(world(), segment, isEvent_);
   for (std::string& line : DetailsOfRow(world(), segment))
     told.push_back({Style::Line, std::move(line)});
@@ -293,12 +302,12 @@ void SheetScreen::LayKept(bool isDraft) {
       "Lay " +
       (isDraft ? std::string("the draft for today") : "the card of " + PlainDate(kept.On)) +
       " on the sheet? What is booked there now goes.";
-  if (const std::string minded = MindedBy(world(), kept.Rows); !minded.empty())
-    text += "\n" + minded;
+  const std::string minded = IsDraft() ? std::string() : MindedBy(world(), kept.Rows);
+  if (!minded.empty()) text += "\n" + minded;
   if (!desk().Ask(title, text)) return;
   const Card before = CardOf(world());
   const std::vector<std::string> dropped = LayCard(world(), kept.Rows, isEvent_, OpenRows());
-  PayForRows(world(), before);
+  if (!IsDraft()) PayForRows(world(), before);
   Tell(title, dropped);
 }
 

@@ -43,8 +43,10 @@ class SheetScreen : public GameScreen {
   /// How many rows it has and what it asks for.
   virtual SheetTerms Terms() { return TermsOf(world(), isEvent_); }
   virtual std::string Heading() { return SheetHeading(world(), isEvent_); }
-  /// The draft of a show to come: nothing is rehearsed for it, nobody's morale moves yet, and it
-  /// may be kept however short it is.
+  /// The name of the show, by which its cards are kept.
+  virtual std::string Called() { return ShowName(world(), isEvent_); }
+  /// The draft of a show to come: it is foreseen by what is so today, nobody's morale moves yet,
+  /// and it may be kept however short it is.
   virtual bool IsDraft() const { return false; }
   /// Buttons that stand before the others, and boxes below the rows.
   virtual std::vector<ui::Button*> FirstActions() { return {}; }
@@ -74,7 +76,8 @@ class SheetScreen : public GameScreen {
   void ShowButton(int record);
   void ShowCounts();
   void ShowRow();
-  bool HasEmptyRow();
+  bool IsEmptyRow(int record);
+  int EmptyRow();
 
   void ShowRowActs();
   void Tell(const std::string& title, const std::vector<std::string>& dropped);
@@ -124,6 +127,9 @@ class SheetScreen : public GameScreen {
   ui::Button cmdturns{*this, "cmdturns", "Turns", Opens("frmTurn")};
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", Opens("frmNotepad")};
   ui::Button cmdfill{*this, "cmdfill", "Fill The Rest", &SheetScreen::cmdfill_Click};
+  /// What is to be done while the show may not start.
+  ui::Button cmdnextrow{*this, "cmdnextrow", "Book Row 1",
+                        [this] { OpenWizardAtOnce(game_, At(EmptyRow())); }};
 
  protected:
   ui::Button cmdcancel{*this, "cmdcancel", "Cancel Show", &SheetScreen::cmdcancel_Click};

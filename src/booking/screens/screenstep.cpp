@@ -4,6 +4,7 @@
 #include <cstring>
 #include <span>
 
+#include "booking/screens/bookingscreens.h"
 #include "booking/sheet.h"
 #include "booking/wizard/foresight.h"
 #include "booking/wizard/objections.h"
@@ -42,43 +43,33 @@ ui::Page StepScreen::Layout() {
   page.Main = cmdnext.get();
   page.Cancel = cmdback.get();
   page.Large = true;
-  std::vector<ui::Box> steps = StepBoxes();
+  ui::Box steps = ui::Group("Steps", StepBoxes()).Grow(2);
+  std::vector<ui::Box> outlook = Outlook();
   if (ListsAbreast() == 1) {
-    steps.push_back(ui::Spacer());
+    outlook.push_back(ui::Spacer());
+    page.Body =
+        ui::Columns({std::move(steps), Body().Grow(6), ui::Rows(std::move(outlook)).Grow(2)});
+  } else {
     page.Body = ui::Columns(
-        {ui::Group("Steps", std::move(steps)).Grow(2), Body().Grow(6), Outlook(false).Grow(2)});
-    return page;
+        {std::move(steps), ui::Rows({Body().Grow(), ui::Columns(std::move(outlook))}).Grow(9)});
   }
-  const bool below = ListsAbreast() > 2;
-  ui::Box middle = below ? ui::Rows({Body().Grow(), Outlook(true)})
-                         : ui::Columns({Body().Grow(4), Outlook(false).Grow(1)});
-  page.Body = ui::Rows({ui::Group("", {ui::Columns(std::move(steps))}), std::move(middle).Grow()});
   return page;
 }
 
 /// A number to go back to the step by, and what was chosen there.
 std::vector<ui::Box> StepScreen::StepBoxes() {
   std::vector<ui::Box> boxes;
-  const bool across = ListsAbreast() > 1;
-  for (int line = 1; line <= kLines; ++line) {
-    ui::Box number = (*cmdjump)(line), choice = ui::Grow(lblsofar(line));
-    if (across) {
-      boxes.push_back(std::move(number));
-      boxes.push_back(std::move(choice));
-    } else {
-      boxes.push_back(ui::Columns({std::move(number), std::move(choice)}));
-    }
-  }
+  for (int line = 1; line <= kLines; ++line)
+    boxes.push_back(ui::Columns({(*cmdjump)(line), ui::Grow(lblsofar(line))}));
+  boxes.push_back(ui::Spacer());
   return boxes;
 }
 
-/// Below the choice where that needs the width: then faces have no room.
-ui::Box StepScreen::Outlook(bool below) {
-  std::vector<ui::Box> cards = {
-      ui::Group("So far", {ui::Columns({picfirst, picsecond}), lblwho, lblpartner}).Grow(),
-      ui::Group("Forecast", {lblforecast}).Grow(below ? 1 : 0),
-      ui::Group("What it costs", {lblprice}).Grow(below ? 1 : 0)};
-  return below ? ui::Columns(std::move(cards)) : ui::Rows(std::move(cards));
+std::vector<ui::Box> StepScreen::Outlook() {
+  const int share = ListsAbreast() > 1 ? 1 : 0;
+  return {ui::Group("So far", {ui::Columns({picfirst, picsecond}), lblwho, lblpartner}).Grow(share),
+          ui::Group("Forecast", {ui::Columns({ui::Grow(lblforecast), *cmdwhy})}).Grow(share),
+          ui::Group("What it costs", {lblprice}).Grow(share)};
 }
 
 void StepScreen::Load() {
@@ -97,6 +88,8 @@ void StepScreen::MakeButtons() {
   cmdback = std::make_unique<ui::Button>(*this, "cmdback", "Back", [this] { Close(); });
   cmddone = std::make_unique<ui::Button>(*this, "cmddone", "Done", [this] { Finish(false); });
   cmdnext = std::make_unique<ui::Button>(*this, "cmdnext", "Next", [this] { Finish(true); });
+  cmdwhy = std::make_unique<ui::Button>(*this, "cmdwhy", "Why?",
+                                        [this] { desk().Open(MakefrmForecast(game_, typical_)); });
   cmdjump = std::make_unique<ui::Array<ui::Button>>(
       "cmdjump", kLines, [this](const std::string& name, int line) {
         auto jump = std::make_unique<ui::Button>(*this, name, std::to_string(line), [this, line] {
@@ -172,31 +165,40 @@ void StepScreen::ShowFaces(const Segment& draft) {
   for (ui::Picture* face : {&picfirst, &picsecond}) {
     const Worker* worker = world().FindWorker(faces[static_cast<std::size_t>(at++)]);
     face->Drawn = worker ? ui::Drawing(PortraitOf(*worker)) : ui::Drawing();
-    face->Visible = worker && ListsAbreast() <= 2;
+    face->Visible = worker && ListsAbreast() == 1;  // else those in the lists have to do
     face->Tip = worker ? worker->Name.Str() : std::string();
     face->Height = 88;
   }
 }
 
 void StepScreen::ShowForecast(const Segment& draft) {
-  const auto whole = Foreseen(world(), draft, wizard().View);
+  auto foreseen = Foreseen(world(), draft, wizard().View);
+  const bool whole = foreseen.has_value();
+  if (!whole) foreseen = ForeseenWithOthers(world(), draft, wizard().View);
   // A rehearsal takes its time, and most picks of a list's cursor change nothing.
-  if (whole && rehearsed_ && std::memcmp(&*whole, &*rehearsed_, sizeof(Segment)) == 0) return;
-  rehearsed_ = whole;
-  const Forecast now =
-      whole ? ForecastRow(world(), wizard().View.IsEvent, wizard().CurrentSlot, *whole)
-            : Forecast{};
-  lblforecast.Colour = now == Forecast{} ? ui::Tone::Muted : ui::Tone::Plain;
-  if (now == Forecast{}) {
-    lblforecast.Text = whole ? "There is no show today." : "Told once everybody is chosen.";
-    before_.reset();
-    return;
-  }
+  const bool same = foreseen && rehearsed_ && whole == isWhole_ &&
+                    std::memcmp(&*foreseen, &*rehearsed_, sizeof(Segment)) == 0;
+  if (same) return;
+  rehearsed_ = foreseen;
+  isWhole_ = whole;
+  RowForecast now;
+  if (foreseen) now = ForecastRow(world(), wizard().View.IsEvent, wizard().CurrentSlot, *foreseen);
+  const bool any = now.Rating != Forecast{};
+  lblforecast.Colour = any ? ui::Tone::Plain : ui::Tone::Muted;
+  lblforecast.Text = any ? ForecastText(now.Rating) : "Told once people are chosen.";
+  EnableUnless(*cmdwhy, any ? "" : "Nothing has been foreseen yet.");
+  before_ = any && whole ? std::optional(now.Rating) : std::nullopt;
+  typical_ = std::move(now.Typical);
+}
+
+/// With what it moved by since the last pick, and with what it takes for granted.
+std::string StepScreen::ForecastText(const Forecast& now) {
   std::string text = RangeText(now);
+  if (wizard().IsDraft) text += " as things stand today";
+  if (!isWhole_) return text + ", with the most popular of the others in the free places";
   const int change = before_ ? (now.Low + now.High - before_->Low - before_->High) / 2 : 0;
   if (change != 0) text += (change > 0 ? ", +" : ", ") + std::to_string(change) + " with this pick";
-  lblforecast.Text = text;
-  before_ = now;
+  return text;
 }
 
 void StepScreen::FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people,

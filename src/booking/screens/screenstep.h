@@ -10,6 +10,7 @@
 #include "booking/wizard/refusals.h"
 #include "booking/wizard/wizard.h"
 #include "show/forecast.h"
+#include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -50,7 +51,8 @@ class StepScreen : public ui::Screen {
   virtual void Recall(const Segment& earlier) = 0;
   /// The choice.
   virtual ui::Box Body() = 0;
-  /// How many lists of people stand side by side: two and more want the width of the steps.
+  /// How many lists of people stand side by side: two and more want the width of the outlook, which
+  /// then stands below them.
   virtual int ListsAbreast() const { return 1; }
   /// The Segment with what is picked now.
   virtual Segment Draft() { return buffer(); }
@@ -66,7 +68,7 @@ class StepScreen : public ui::Screen {
 
   /// Columns for lists of people, and what fills them. A roster has the most popular on top.
   std::vector<ui::Column> PeopleColumns(int listsAbreast = 1) {
-    return grapplemont::PeopleColumns(buffer().Kind, listsAbreast);
+    return WithFaces(world(), grapplemont::PeopleColumns(buffer().Kind, listsAbreast));
   }
   void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, bool none = false);
   void FillRoster(ui::ListBox& list, std::vector<const Worker*> people, bool none = false);
@@ -94,14 +96,17 @@ class StepScreen : public ui::Screen {
   void ShowStep(int step);
   void ShowFaces(const Segment& draft);
   void ShowForecast(const Segment& draft);
+  std::string ForecastText(const Forecast& now);
   std::vector<ui::Box> StepBoxes();
-  ui::Box Outlook(bool below);
+  std::vector<ui::Box> Outlook();
 
   Game& game_;
   WizardHost& host_;
   std::optional<RosterMarks> marks_;
   std::optional<Forecast> before_;    // of the last pick
   std::optional<Segment> rehearsed_;  // what it was given for
+  ToldSegment typical_;               // how it came about
+  bool isWhole_ = false;              // everybody in it has been chosen
   bool isReady_ = false;              // the step's controls are filled
   static constexpr int kLines = 9;    // steps of the longest path
   ui::Array<ui::Label> lblsofar{"lblsofar", kLines, [this](const std::string& line, int) {
@@ -121,6 +126,7 @@ class StepScreen : public ui::Screen {
   std::unique_ptr<ui::Button> cmdback, cmddone, cmdnext;
 
  private:
+  std::unique_ptr<ui::Button> cmdwhy;
   std::unique_ptr<ui::Array<ui::Button>> cmdjump;
 };
 

@@ -1,6 +1,7 @@
 #include "booking/wizard/foresight.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "booking/wizard/casting.h"
 #include "booking/wizard/interviews.h"
@@ -8,6 +9,8 @@
 #include "booking/wizard/objections.h"
 #include "booking/wizard/offers.h"
 #include "booking/wizard/refusals.h"
+#include "booking/wizard/roster.h"
+#include "storylines/storynames.h"
 
 namespace grapplemont {
 
@@ -104,6 +107,24 @@ std::optional<Segment> Foreseen(const World& world, const Segment& segment,
   const bool cast = segment.Kind == kAngle && !PeopleOf(segment).empty() &&
                     WhyNotCast(world, segment, view).empty();
   return cast ? std::optional(segment) : std::nullopt;
+}
+
+std::optional<Segment> ForeseenWithOthers(const World& world, Segment match,
+                                          const BookingView& view) {
+  const std::vector<int> chosen = PeopleOf(match);
+  if (match.Kind != kMatch || chosen.empty()) return {};
+  std::vector<const Worker*> others = EligibleRoster(world, view);
+  std::erase_if(others, [&](const Worker* worker) {
+    return std::ranges::count(chosen, int(worker->Uid)) > 0;
+  });
+  SortByOver(others);
+  auto next = others.begin();
+  for (std::size_t place = 0; std::cmp_less(place, EntrantsOf(match)); ++place) {
+    if (match.Worker[place] != 0) continue;
+    if (next == others.end()) return {};
+    match.Worker[place] = (*next++)->Uid;
+  }
+  return Foreseen(world, match, view);
 }
 
 PriceTold TellPrice(const World& world, const Segment& segment, const Segment& paid) {

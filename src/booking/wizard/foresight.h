@@ -13,6 +13,10 @@ namespace grapplemont {
 /// The Segment with what its later steps preselect; nothing while its people are not chosen.
 std::optional<Segment> Foreseen(const World& world, const Segment& segment,
                                 const BookingView& view);
+/// The same of a match of which some are chosen, with the most popular of the others in the places
+/// that are free.
+std::optional<Segment> ForeseenWithOthers(const World& world, Segment match,
+                                          const BookingView& view);
 
 /// What it costs the morale of those in it, a sentence a line: who holds it against the player and
 /// how far their morale falls.

@@ -45,10 +45,24 @@ void AddPart(Paragraphs& words, const char* heading, Add add) {
   if (words.size() == before) words.pop_back();
 }
 
+/// Numbered steps are told together.
+void AddButtonKeys(Paragraphs& words, ui::Screen& screen) {
+  for (const ui::Control* control : screen.Controls()) {
+    const auto* button = dynamic_cast<const ui::Button*>(control);
+    if (!IsThere(button) || button->Key.empty()) continue;
+    if (button->Key == "Alt+1")
+      AddLine(words, "Alt+1, Alt+2 and on: back to that step");
+    else if (!button->Key.starts_with("Alt+"))
+      AddLine(words, button->Key + ": " + button->Text.Get());
+  }
+}
+
 /// The keys that do something on this page.
 void AddKeys(Paragraphs& words, ui::Screen& screen) {
   const ui::Page page = screen.Layout();
-  if (IsThere(page.Main)) AddLine(words, "Enter: " + page.Main->Text.Get());
+  const bool waits = IsThere(page.Then) && !(IsThere(page.Main) && page.Main->Enabled);
+  const ui::Button* const main = waits ? page.Then : page.Main;
+  if (IsThere(main)) AddLine(words, "Enter: " + main->Text.Get());
   if (IsThere(page.Cancel)) AddLine(words, "Escape: " + page.Cancel->Text.Get());
   bool opens = false, lists = false;
   for (const ui::Control* control : screen.Controls())
@@ -57,7 +71,8 @@ void AddKeys(Paragraphs& words, ui::Screen& screen) {
       opens = opens || list->OnOpen;
     }
   if (opens) AddLine(words, "Double click or Ctrl+Enter: open the row");
-  if (lists) AddLine(words, "Ctrl+F: filter the list");
+  if (lists) AddLine(words, "Ctrl+F: filter the list, Backspace: all of it again");
+  AddButtonKeys(words, screen);
   for (const ui::SideGroup& group : page.Side)
     for (const auto& command : group.Commands)
       if (!command.Key.empty()) AddLine(words, command.Key + ": " + command.Press->Text.Get());

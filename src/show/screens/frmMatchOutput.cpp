@@ -1,4 +1,3 @@
-#include <array>
 #include <optional>
 
 #include "report/report.h"
@@ -11,21 +10,12 @@ namespace grapplemont {
 
 namespace {
 
-/// The percentages, by what they are called and where a told Segment keeps them.
-struct Figure {
-  const char* Control;
-  const char* Caption;
-  Score ToldSegment::*Of;
-};
-constexpr std::array<Figure, 3> kFigures = {{
-    {"txtquality", "Match Quality", &ToldSegment::Quality},
-    {"txtcrowd", "Crowd Reaction", &ToldSegment::Crowd},
-    {"txtoverall", "Overall Rating", &ToldSegment::Overall},
-}};
+/// Where the percentages stand.
+constexpr const char* kFigureControls[] = {"txtquality", "txtcrowd", "txtoverall"};
 constexpr int kFigureCount = 3, kOverallFigure = 3;
 
-const Figure& FigureAt(int i) {
-  return kFigures[static_cast<std::size_t>(i - 1)];
+const ToldFigure& FigureAt(int i) {
+  return kToldFigures[i - 1];
 }
 
 void ShowRatings(World& world, ui::Chart& chart) {
@@ -53,7 +43,7 @@ class frmMatchOutput : public ui::Screen {
     std::vector<ui::Box> figures{lblanalysis};
     for (int i = 1; i <= kFigureCount; ++i)
       figures.push_back(
-          ui::Columns({ui::Field(FigureAt(i).Caption, txtfigures(i)).Grow(), cmdwhy(i)}));
+          ui::Columns({ui::Field(FigureAt(i).Name, txtfigures(i)).Grow(), cmdwhy(i)}));
     figures.push_back(ui::Grow(txtwhy));
     page.Body = ui::Columns(
         {ui::Group("", {lbltitle, ui::Columns({lblinfo, txtstyle, txttype, txtbelt, ui::Spacer()}),
@@ -156,8 +146,8 @@ class frmMatchOutput : public ui::Screen {
 
   void cmdwhy_Click(int i) {
     if (!told_) return txtwhy.Write("");
-    const Figure& figure = FigureAt(i);
-    txtwhy.WriteLines(WhyText(figure.Caption, (*told_).*figure.Of));
+    const ToldFigure& figure = FigureAt(i);
+    txtwhy.WriteLines(WhyText(figure.Name, (*told_).*figure.Of));
   }
 
   void Finish() {
@@ -182,7 +172,8 @@ class frmMatchOutput : public ui::Screen {
   ui::Label lblwinner{*this, "lblwinner"};
   ui::Label lblanalysis{*this, "lblanalysis", "Match Analysis"};
   ui::Array<ui::Label> txtfigures{"", kFigureCount, [this](const std::string&, int i) {
-                                    return std::make_unique<ui::Label>(*this, FigureAt(i).Control);
+                                    return std::make_unique<ui::Label>(*this,
+                                                                       kFigureControls[i - 1]);
                                   }};
   ui::Array<ui::Button> cmdwhy{"cmdwhy", kFigureCount, [this](const std::string& name, int i) {
                                  return std::make_unique<ui::Button>(

@@ -52,7 +52,7 @@ bool EndFeudAfterAsking(Game& game, int slot) {
 class frmFeudStat : public GameScreen {
  public:
   frmFeudStat(Game& game, int slot)
-      : GameScreen(game, "frmFeudStat", "Feud Statistics"), slot_(slot) {}
+      : GameScreen(game, "frmFeudStat", "Feud Stats"), slot_(slot) {}
 
   ui::Page Layout() override {
     return PageOf(ui::Rows({ui::Group("The feud", {ui::Field("Heat", txtheat),
@@ -193,7 +193,10 @@ class frmFeuds : public GameScreen {
     EnableUnless({cmdstat, cmdend}, taken ? "" : "There is no feud in this slot.");
     ShowScore(feud);
     ShowPeople(feud);
-    txtmaeve.Write(taken ? "Ask her where this feud should go." : "");
+    txtmaeve.Write({{ui::Report::Style::Muted,
+                     taken ? "Ask her where this feud should go."
+                           : "Of a feud that runs she tells where it should go. Start one, or "
+                             "choose one, and ask her."}});
   }
 
   void ShowScore(const Feud& feud) {
@@ -279,7 +282,7 @@ class frmFeuds : public GameScreen {
   ui::ListBox lstpeople{*this, "lstpeople", WithFaces(world(), HeadingsOf(people_)), ui::Handler{},
                         [this] { lstpeople_Open(); }};
   ui::Button cmdend{*this, "cmdend", "End Feud", &frmFeuds::cmdend_Click};
-  ui::Button cmdstat{*this, "cmdstat", "Statistics", &frmFeuds::cmdstat_Click};
+  ui::Button cmdstat{*this, "cmdstat", "Stats", &frmFeuds::cmdstat_Click};
   ui::Button cmdask{*this, "cmdask", "Start Feud", &frmFeuds::cmdask_Click};
 };
 
