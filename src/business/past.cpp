@@ -57,7 +57,8 @@ std::vector<MoneyPoint> OnRecord(const Promotion& promotion, Day today) {
   int months = 0;
   for (const Cash& money : promotion.MoneyBefore) {
     if (money == kNoEnd) break;
-    points.push_back({MonthClosedBefore(MonthsBefore(today, months++)), money});
+    const Day after = MonthsBefore(today, months++);
+    points.push_back({MonthClosedBefore(after), money, after});
   }
   std::reverse(points.begin(), points.end());
   return points;
@@ -127,7 +128,7 @@ Day MonthsBefore(Day day, int months) {
 std::vector<MoneyPoint> MoneyOverTime(const World& world, const Promotion& promotion) {
   std::vector<MoneyPoint> points;
   for (const HistoryEntry* entry : MonthsOf(world, promotion.Uid))
-    points.push_back({MonthClosedBefore(entry->On), entry->Money});
+    points.push_back({MonthClosedBefore(entry->On), entry->Money, entry->On});
   KeepLast(points, kMonthsShown);
   std::vector<MoneyPoint> record = OnRecord(promotion, world.Today());
   if (record.size() > points.size()) points = std::move(record);
@@ -135,8 +136,8 @@ std::vector<MoneyPoint> MoneyOverTime(const World& world, const Promotion& promo
   for (const HistoryEntry* show : Entries(world, promotion.Uid, [&](const HistoryEntry& entry) {
          return IsShow(entry) && Day(entry.On) >= first;
        }))
-    points.push_back({DayAndMonth(show->On), show->Money});
-  points.push_back({"Today", promotion.Money});
+    points.push_back({DayAndMonth(show->On), show->Money, show->On});
+  points.push_back({"Today", promotion.Money, world.Today()});
   return points;
 }
 
@@ -194,6 +195,16 @@ std::vector<std::string> CaptionsOf(const std::vector<PastStanding>& standings) 
   for (const PastStanding& standing : standings) captions.push_back(MonthClosedBefore(standing.On));
   if (!captions.empty()) captions.back() = "Today";
   return captions;
+}
+
+std::vector<double> PlacesOf(const std::vector<PastStanding>& standings) {
+  std::vector<double> places;
+  for (const PastStanding& standing : standings) places.push_back(PlaceOf(standing.On));
+  return places;
+}
+
+double PlaceOf(Day on) {
+  return static_cast<double>((on - kDayZero).count());
 }
 
 std::string_view EconomyText(int economy) {

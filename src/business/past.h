@@ -40,6 +40,7 @@ Day MonthsBefore(Day day, int months);
 struct MoneyPoint {
   std::string When;  // "Mar 2026", the month that was closed, or "09/04", the day of the show
   int Dollars;
+  Day On;
 };
 
 /// A promotion's money at the ends of the last five years' months, oldest first, after the present
@@ -85,6 +86,9 @@ PastStanding FromScore(Day on, int score);
 std::vector<PastStanding> StandingsOf(const World& world, const Promotion& promotion, int most);
 /// Below a chart: "Mar 2026", the month that ended before the day, or "Today" for the last of them.
 std::vector<std::string> CaptionsOf(const std::vector<PastStanding>& standings);
+/// Where they stand on a chart, by their days; of one day.
+std::vector<double> PlacesOf(const std::vector<PastStanding>& standings);
+double PlaceOf(Day on);
 
 /// The world's economy in words: "Booming" to "In a slump", by the bands that crowds and sales
 /// follow.

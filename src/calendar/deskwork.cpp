@@ -112,4 +112,14 @@ std::vector<const Worker*> ContractsThatEnd(const World& world) {
       [](const Worker& worker) { return int(worker.ContractMonths); });
 }
 
+std::string PeopleText(const World& world) {
+  const auto number = [](const std::vector<const Worker*>& people, const std::string& none) {
+    return people.empty() ? none : std::to_string(people.size());
+  };
+  const std::vector<const Worker*> ending = ContractsThatEnd(world);
+  return number(HurtAndWorn(world), "Nobody") + " hurt or worn, " +
+         number(Unhappy(world), "nobody") + " unhappy, " + number(ending, "no") +
+         (ending.size() > 1 ? " contracts end soon." : " contract ends soon.");
+}
+
 }  // namespace grapplemont

@@ -36,4 +36,7 @@ std::vector<const Worker*> Unhappy(const World& world);
 /// Whose contracts end within half a year.
 std::vector<const Worker*> ContractsThatEnd(const World& world);
 
+/// How many of each: "2 hurt or worn, nobody unhappy, no contract ends soon."
+std::string PeopleText(const World& world);
+
 }  // namespace grapplemont

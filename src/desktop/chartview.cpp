@@ -4,6 +4,7 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <span>
 
 #include "desktop/dates.h"
 #include "desktop/housestyle.h"
@@ -15,8 +16,12 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kSteps = 4;       // about how many lines go across the chart
-constexpr int kFewPlaces = 24;  // so few are marked one by one
+constexpr int kSteps = 4;        // about how many lines go across the chart
+constexpr int kFewPlaces = 24;   // so few are marked one by one
+constexpr int kLeastPlaces = 3;  // fewer make no line that says anything
+constexpr int kInset = 12;       // between the axis and the first of places that lie by date
+/// Part of the largest value that an axis spans at least, and how far one of whole numbers goes.
+constexpr double kLeastSpan = 0.1, kLeastWhole = 4;
 
 /// 1, 2 or 5 times a power of ten, at least `rough`.
 double RoundStep(double rough) {
@@ -53,9 +58,22 @@ struct Scale {
   QRectF Plot;
   int Count = 0;  // of places along the axis
   double Low = 0, High = 1, Step = 1;
+  std::span<const double> Places;  // along the axis; empty: at equal distances
 
   double Slot() const { return Plot.width() / std::max(1, Count); }
-  double X(int place) const { return Plot.left() + (place + 0.5) * Slot(); }
+  double X(int place) const {
+    if (Places.empty()) return Plot.left() + (place + 0.5) * Slot();
+    const double span = Places.back() - Places.front(), inset = Px(kInset);
+    const double part = (Places[static_cast<std::size_t>(place)] - Places.front()) / span;
+    return Plot.left() + inset + part * (Plot.width() - 2 * inset);
+  }
+  /// The place nearest to this spot.
+  int PlaceAt(double x) const {
+    int nearest = 0;
+    for (int place = 1; place < Count; ++place)
+      if (std::abs(X(place) - x) < std::abs(X(nearest) - x)) nearest = place;
+    return nearest;
+  }
   double Y(double value) const {
     return Plot.bottom() - (value - Low) / (High - Low) * Plot.height();
   }
@@ -91,6 +109,7 @@ class ChartView : public ViewOf<QWidget, ui::Chart> {
  private:
   Scale MakeScale() const;
   int Count() const;
+  int Told() const;  // places with a value
   void Hover(int place) {
     hover_ = place;
     update();
@@ -101,6 +120,7 @@ class ChartView : public ViewOf<QWidget, ui::Chart> {
   void DrawLines(QPainter& painter, const Scale& scale) const;
   void DrawNames(QPainter& painter) const;
   void DrawHover(QPainter& painter, const Scale& scale) const;
+  void DrawWords(QPainter& painter) const;
 
   int hover_ = -1;
 };
@@ -109,6 +129,26 @@ int ChartView::Count() const {
   std::size_t count = control_.Captions.Get().size();
   for (const auto& series : control_.Lines.Get()) count = std::max(count, series.Values.size());
   return static_cast<int>(count);
+}
+
+/// Makes room around values that lie close together: a small change is not to look like a plunge.
+void SpreadOut(double& low, double& high, bool whole) {
+  const double least =
+      std::max(kLeastSpan * std::max(std::abs(low), std::abs(high)), whole ? kLeastWhole : 0.0);
+  const double more = (least - (high - low)) / 2;
+  if (more <= 0) return;
+  const double down = low >= 0 ? std::min(more, low) : more;
+  low -= down;
+  high += 2 * more - down;
+}
+
+int ChartView::Told() const {
+  int told = 0;
+  for (std::size_t place = 0; place < static_cast<std::size_t>(Count()); ++place)
+    told += std::ranges::any_of(control_.Lines.Get(), [place](const auto& series) {
+      return place < series.Values.size() && std::isfinite(series.Values[place]);
+    });
+  return told;
 }
 
 Scale ChartView::MakeScale() const {
@@ -123,6 +163,7 @@ Scale ChartView::MakeScale() const {
     }
   if (low > high) low = 0, high = 1;
   if (control_.Bars) low = std::min(low, 0.0), high = std::max(high, 0.0);
+  if (!control_.Bars) SpreadOut(low, high, whole);
   if (high - low < 1e-9) low -= 1, high += 1;
   Scale scale;
   scale.Step = RoundStep((high - low) / kSteps);
@@ -130,6 +171,9 @@ Scale ChartView::MakeScale() const {
   scale.Low = std::floor(low / scale.Step) * scale.Step;
   scale.High = std::ceil(high / scale.Step) * scale.Step;
   scale.Count = Count();
+  const std::vector<double>& places = control_.Places;
+  if (std::ssize(places) == scale.Count && scale.Count > 1 && places.front() < places.back())
+    scale.Places = places;
   const QFontMetrics small = fontMetrics();
   int left = 0;
   for (int line = 0; line < scale.Lines(); ++line)
@@ -289,6 +333,23 @@ void ChartView::DrawHover(QPainter& painter, const Scale& scale) const {
   painter.drawText(box, Qt::AlignCenter, text);
 }
 
+/// In the place of a line, each value with what it is of.
+void ChartView::DrawWords(QPainter& painter) const {
+  const auto& captions = control_.Captions.Get();
+  QStringList lines;
+  for (std::size_t place = 0; place < static_cast<std::size_t>(Count()); ++place) {
+    QStringList words;
+    for (const auto& series : control_.Lines.Get())
+      if (place < series.Values.size() && std::isfinite(series.Values[place]))
+        words << (Shown(series.Name) + " " + Short(series.Values[place])).trimmed();
+    const QString when = place < captions.size() ? DatedAlone(captions[place]) + ": " : QString();
+    if (!words.isEmpty()) lines << when + words.join(", ");
+  }
+  painter.setFont(TextFont());
+  painter.setPen(ColoursOf(this).Muted);
+  painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, lines.join("\n"));
+}
+
 void ChartView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -299,6 +360,7 @@ void ChartView::paintEvent(QPaintEvent*) {
     painter.drawText(rect(), Qt::AlignCenter, "Nothing to show yet.");
     return;
   }
+  if (!control_.Bars && Told() < kLeastPlaces) return DrawWords(painter);
   DrawAxis(painter, scale);
   DrawCaptions(painter, scale);
   control_.Bars ? DrawBars(painter, scale) : DrawLines(painter, scale);
@@ -310,7 +372,7 @@ void ChartView::mouseMoveEvent(QMouseEvent* event) {
   const Scale scale = MakeScale();
   const double x = event->position().x();
   const bool within = scale.Count > 0 && x >= scale.Plot.left() && x < scale.Plot.right();
-  const int place = within ? static_cast<int>((x - scale.Plot.left()) / scale.Slot()) : -1;
+  const int place = within ? scale.PlaceAt(x) : -1;
   if (place != hover_) Hover(place);
 }
 

@@ -33,7 +33,7 @@ void ControlView::Refresh() {
   ShowUse();
   FocusTarget()->setAccessibleDescription(Shown(shows_.Tip.Get()));
   Show();
-  Widget()->setVisible(shows_.Visible);
+  Widget()->setVisible(shows_.Visible && HasWords());
   if (companion_) companion_->setVisible(shows_.Visible);
 }
 

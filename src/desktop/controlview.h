@@ -49,6 +49,8 @@ class ControlView {
 
  protected:
   virtual void Show() = 0;
+  /// Whether there is anything to see while the control is to be seen.
+  virtual bool HasWords() const { return true; }
   Stage& OnStage() const { return stage_; }
   /// Runs one of the acts that take a control's name.
   template <class... Value>

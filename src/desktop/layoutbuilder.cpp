@@ -1,6 +1,5 @@
 #include "desktop/layoutbuilder.h"
 
-#include <QGridLayout>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -293,11 +292,29 @@ void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
     grows = grows || tall;
     form->addWidget(label, row, 0,
                     tall ? Qt::AlignTop | Qt::AlignLeft : Qt::AlignVCenter | Qt::AlignLeft);
-    form->addWidget(view->Widget(), row, 1, tall ? Qt::Alignment() : Qt::AlignVCenter);
+    if (field->Parts.empty())
+      form->addWidget(view->Widget(), row, 1, tall ? Qt::Alignment() : Qt::AlignVCenter);
+    else
+      AddBeside(*field, *view->Widget(), *form, row);
     form->setRowStretch(row, tall ? 1 : 0);
     ++row;
   }
   into->addLayout(form, grows || across ? 1 : 0);
+}
+
+/// What a field shows with its buttons behind it, and the words that they open across the next row.
+void LayoutBuilder::AddBeside(const Box& field, QWidget& shown, QGridLayout& form, int& row) {
+  auto* line = NewLayout<QHBoxLayout>(nullptr, kWide);
+  line->addWidget(&shown);
+  form.addLayout(line, row, 1);
+  for (const Box& part : field.Parts) {
+    QWidget* widget = View(*part.Shown)->Widget();
+    if (IsButton(part))
+      line->addWidget(widget);
+    else
+      form.addWidget(widget, ++row, 0, 1, 2);
+  }
+  line->addStretch(1);
 }
 
 void LayoutBuilder::AddButtons(const Run& buttons, QBoxLayout* into) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QBoxLayout>
+#include <QGridLayout>
 #include <memory>
 #include <span>
 #include <vector>
@@ -49,6 +50,7 @@ class LayoutBuilder {
   void AddGroup(const ui::Box& box, QBoxLayout* into);
   void AddTabs(const ui::Box& box, QBoxLayout* into);
   void AddForm(const Run& fields, QBoxLayout* into);
+  void AddBeside(const ui::Box& field, QWidget& shown, QGridLayout& form, int& row);
   void AddButtons(const Run& buttons, QBoxLayout* into);
   void AddGrid(const Run& rows, QBoxLayout* into);
   void AddCards(const Run& rows, QBoxLayout* into);

@@ -53,6 +53,7 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
 
  protected:
   void Show() override;
+  bool HasWords() const override { return !control_.Brief || !control_.Text->empty(); }
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

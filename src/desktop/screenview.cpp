@@ -48,11 +48,15 @@ ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget
   }
   DressPictures();
   for (ControlView* view : views_)
-    if (&view->Shows() == page_.Main || &view->Shows() == page_.Then) {
+    if (IsMain(view->Shows())) {
       mains_.push_back(dynamic_cast<ButtonView*>(view));
       mains_.back()->SetGold(true);
     }
   Refresh();
+}
+
+bool ScreenView::IsMain(const ui::Control& control) const {
+  return &control == page_.Main || &control == page_.Then || &control == page_.First;
 }
 
 bool ScreenView::HasBackdrop() const {
@@ -235,7 +239,8 @@ void ScreenView::Leave() {
   for (ControlView* view : views_) view->Leave();
 }
 
-ui::Button* ScreenView::MainNow() const {
+ui::Button* ScreenView::MainNow(bool here) const {
+  if (here && page_.First && page_.First->Visible) return page_.First;
   ui::Button* seen = nullptr;
   for (ui::Button* main : {page_.Main, page_.Then}) {
     if (!main || !main->Visible) continue;

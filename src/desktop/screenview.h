@@ -25,8 +25,8 @@ class ScreenView : public QWidget {
   /// Remembers what is to be remembered; the view is taken away next.
   void Leave();
   /// What Enter does here, if it can be pressed: Main, or Then in its place; nullptr when neither
-  /// is to be seen.
-  ui::Button* MainNow() const;
+  /// is to be seen. On the hub's own page First goes before them; `here` tells whether it is meant.
+  ui::Button* MainNow(bool here = true) const;
   /// Shows the Enter sign on this button, if it is a main one of the page.
   void SetEnter(const ui::Button* pressed);
   /// False when the button cannot be pressed.
@@ -58,6 +58,7 @@ class ScreenView : public QWidget {
   void BuildBody(QBoxLayout* into);
   QLayout* BuildActions();
   std::vector<ui::Button*> ActionsInOrder() const;
+  bool IsMain(const ui::Control& control) const;
   bool HasBackdrop() const;
   void FindBackdrop();
   void DressPictures();
@@ -74,7 +75,7 @@ class ScreenView : public QWidget {
   std::vector<LayoutBuilder::CardContents> cards_;
   QLabel* title_ = nullptr;
   QBoxLayout* tail_ = nullptr;      // of the head: what is searched and done
-  std::vector<ButtonView*> mains_;  // Main and Then
+  std::vector<ButtonView*> mains_;  // Main, Then and First
   unsigned seen_ = 0;
   Backdrop backdrop_;
   ui::Picture* behind_ = nullptr;

@@ -270,7 +270,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
 
 /// What the heading says itself, then what the glossary says of it.
 QVariant TableModel::TipOf(int section) const {
-  const std::string meaning = MeaningOf ? MeaningOf(Column(section).Title) : std::string();
+  const std::string meaning = MeaningOf ? MeaningOf(Column(section).Meant()) : std::string();
   QStringList lines;
   const std::string &title = Column(section).Title, &heading = Column(section).Short;
   const std::string whole = heading.empty() || heading == title ? std::string() : title;

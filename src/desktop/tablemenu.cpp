@@ -59,7 +59,7 @@ void TableView::OpenHeadingMenu(const QPoint& at) {
   QMenu* menu = NewMenu(this, "headingmenu");
   AddFilterLine(*menu, column);
   menu->addSeparator();
-  const std::string title = model_.Column(column).Title;
+  const std::string title = model_.Column(column).Meant();
   if (!OnStage().Desk().MeaningOf(title).empty())
     menu->addAction("What it means", this, [this, title] {
       Follow([this, title] { OnStage().Desk().OpenGlossary(title); });

@@ -11,7 +11,9 @@ std::string KeepTyped(QLineEdit& line, Stage& stage);
 
 class LabelView : public ViewOf<WrappedLabel, ui::Label> {
  public:
-  using ViewOf::ViewOf;
+  LabelView(ui::Label& label, Stage& stage, QWidget* parent) : ViewOf(label, stage, parent) {
+    if (label.Large) setFont(TextFont(kLarge, QFont::DemiBold));
+  }
   /// The colour of a label whose tone is plain.
   void SetUsual(ui::Tone tone);
 
@@ -20,6 +22,7 @@ class LabelView : public ViewOf<WrappedLabel, ui::Label> {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  static constexpr int kLarge = 20;
   void Colour();
   ui::Tone usual_ = ui::Tone::Plain;
 };

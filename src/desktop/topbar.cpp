@@ -27,7 +27,6 @@ HubFrame::HubFrame(const ui::Page& page, Stage& stage, QWidget* parent)
 namespace {
 
 constexpr int kTopHeight = 52, kTopSide = 20, kBetween = 18, kSecondRow = 10;
-constexpr int kEnterSign = 20;                  // what the sign adds to a button
 constexpr int kStep = 24;                       // a number's room grows by so much at once
 constexpr int kShortName = 96, kBareName = 88;  // what is left of a long name
 constexpr int kLeastName = 40;                  // less of it says nothing
@@ -236,7 +235,6 @@ int TopBar::FactsWidth(Form form) const {
 
 int TopBar::ActionsWidth(bool folded) const {
   int width = main_ ? main_->sizeHint().width() : 0;
-  if (main_ && !main_->ShowsEnter()) width += Px(kEnterSign);  // it comes and goes
   const std::vector<ButtonView*> others = Foldable();
   if (folded && !others.empty()) width += more_->sizeHint().width() + Px(kBetween);
   for (const ButtonView* view : others)
@@ -250,15 +248,20 @@ bool TopBar::Fits(const Way& way) const {
   return way.OneRow ? facts + Px(kBetween) + actions <= room : std::max(facts, actions) <= room;
 }
 
-/// In the first way that fits, else in the last.
+/// In the first way that fits, else in the last. One that goes on fitting is kept while the window
+/// is as wide as it was.
 void TopBar::Fit() {
   if (!isPlaced_) return;
   static constexpr Way kWays[] = {
       {true, Form::Long, false},  {true, Form::Short, false},  {true, Form::Short, true},
       {true, Form::Bare, true},   {false, Form::Long, false},  {false, Form::Short, false},
       {false, Form::Bare, false}, {false, Form::Least, false}, {false, Form::Least, true}};
-  const auto way = std::ranges::find_if(kWays, [this](const Way& each) { return Fits(each); });
-  Take(way == std::end(kWays) ? *std::prev(std::end(kWays)) : *way);
+  if (!way_ || fittedTo_ != width() || !Fits(*way_)) {
+    const auto way = std::ranges::find_if(kWays, [this](const Way& each) { return Fits(each); });
+    way_ = way == std::end(kWays) ? std::prev(std::end(kWays)) : way;
+    fittedTo_ = width();
+  }
+  Take(*way_);
 }
 
 void TopBar::Take(const Way& way) {

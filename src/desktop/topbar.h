@@ -57,6 +57,8 @@ class TopBar : public QWidget {
   ButtonView* main_ = nullptr;
   PushButton* more_;
   bool isPlaced_ = false;  // before that its width says nothing
+  const Way* way_ = nullptr;
+  int fittedTo_ = 0;  // the width that it was chosen for
   QBoxLayout* all_;
   FlowLayout* actions_;
 };

@@ -30,7 +30,7 @@ ui::Button* Window::EnterButton() const {
   if (ui::Button* const main = top->MainNow()) return main->Enabled ? main : nullptr;
   if (!hub || top->Shows().Is() != ui::Role::Page || qobject_cast<QLineEdit*>(focusWidget()))
     return nullptr;
-  ui::Button* const next = hub->MainNow();
+  ui::Button* const next = hub->MainNow(false);
   return next && next->Enabled && WhyWaits(*next).empty() ? next : nullptr;
 }
 

@@ -112,8 +112,8 @@ std::string WantedText(const Morning& morning) {
   const int counts = CountsOf(*rating);
   const int sum = rating->After() - rating->Steps.back()->Change;
   return std::to_string(next->After()) + "% would have taken " +
-         Counted(next->After() * counts - sum, "more point", "more points") + " in the " +
-         std::to_string(counts) + " counts.";
+         Counted(next->After() * counts - sum, "more point", "more points") + " from " +
+         Counted(counts - 1, "row") + ", the last of which counts twice.";
 }
 
 std::string Signed(long long change) {
@@ -127,9 +127,9 @@ std::string NumberText(int kind, int number) {
 }
 
 std::string ChangeText(int kind, int change) {
-  const std::string sign = change < 0 ? "-" : "+";
-  if (kind == kNoteMoney) return (change < 0 ? "" : "+") + Dollars(change);
-  if (kind == kNoteViewers) return sign + RatingText(std::abs(change));
+  const std::string plus = change < 0 ? "" : "+";
+  if (kind == kNoteMoney) return plus + Dollars(change);
+  if (kind == kNoteViewers) return plus + InHundredths(change);
   return Signed(change);
 }
 

@@ -42,7 +42,7 @@ void NoteStep(World& world, const NoteOf& of, int change, int now, std::string_v
 void NoteSteps(World& world, const NoteOf& of, const Explained& steps, int from) {
   for (const ScoreStep& step : steps.Steps()) {
     const int change = static_cast<int>(step.Change);
-    NoteStep(world, of, change, from += change, step.Why);
+    NoteFact(world, of, change, from += change, step.Why);
   }
 }
 
@@ -54,7 +54,7 @@ void NoteAnew(World& world, const NoteOf& of, const Explained& steps) {
 Score NotedScore(const World& world, NoteKind kind, std::optional<Day> on) {
   Score score;
   ForNotes(world, kind, [&](const ShowNote& note) {
-    if (!on || Day(note.On) == *on) score.Add(note.Change, note.Why.Str());
+    if (!on || Day(note.On) == *on) score.Step(note.Change, note.Why.Str());
   });
   return score;
 }

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <set>
 #include <string>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 #include "records/fields/wording.h"
 
@@ -38,6 +41,46 @@ bool IsOfTheseDays(const World& world, const Mail& mail) {
 
 bool IsUnread(const World& world, const Mail& mail, const std::unordered_set<int>& read) {
   return world.ReadMails().Exists() ? !read.contains(KeyOf(mail)) : IsOfTheseDays(world, mail);
+}
+
+/// What a news is about, by words that are in it; the first that fits counts.
+struct NewsTopic {
+  std::string_view Words, One, Many;
+};
+constexpr NewsTopic kTopics[] = {{" sponsor", "sponsor", "sponsors"},
+                                 {" signed ", "signing", "signings"},
+                                 {" stolen ", "signing", "signings"},
+                                 {" fired ", "departure", "departures"},
+                                 {" released ", "departure", "departures"},
+                                 {" quit ", "departure", "departures"},
+                                 {" retire", "retirement", "retirements"},
+                                 {" rating for ", "show", "shows"},
+                                 {" buy rate ", "show", "shows"},
+                                 {" attended by ", "show", "shows"},
+                                 {" bankrupt", "bankruptcy", "bankruptcies"},
+                                 {" has taken over ", "new owner", "new owners"},
+                                 {" level", "change of size", "changes of size"},
+                                 {" TV show", "television deal", "television deals"},
+                                 {" renewed ", "television deal", "television deals"},
+                                 {" dropped ", "television deal", "television deals"},
+                                 {" promotion", "new promotion", "new promotions"}};
+
+/// " (5 signings, 2 shows)"; empty where nothing is known.
+std::string TopicsOf(const World& world, const std::vector<int>& mails) {
+  std::vector<std::pair<const NewsTopic*, int>> counts;
+  for (const int number : mails) {
+    const std::string_view body = world.News()[number].Body.View();
+    const auto topic = std::ranges::find_if(
+        kTopics, [&](const NewsTopic& each) { return body.find(each.Words) != body.npos; });
+    if (topic == std::end(kTopics)) continue;
+    const auto known = std::ranges::find_if(
+        counts, [&](const auto& count) { return count.first->One == topic->One; });
+    known == counts.end() ? counts.push_back({topic, 1}) : void(++known->second);
+  }
+  std::string text;
+  for (const auto& [topic, count] : counts)
+    text += (text.empty() ? " (" : ", ") + Counted(count, topic->One, topic->Many);
+  return text.empty() ? text : text + ")";
 }
 
 /// Tells mails about the player's own from news of others, by what the player's are called.
@@ -157,6 +200,7 @@ std::vector<Digest> DigestsOf(const World& world) {
     // Desks tell of several at once.
     if (std::ranges::none_of(senders, Reader::IsDesk))
       digests.back().Words += " from " + Counted(static_cast<int>(senders.size()), "promotion");
+    digests.back().Words += TopicsOf(world, digests.back().Mails);
     senders.clear();
   };
   for (int number = world.News().Count(); number >= 1; --number) {

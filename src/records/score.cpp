@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "records/modVar.h"
-
 namespace grapplemont {
 
 bool Decision::IsYes() const {
@@ -16,7 +14,8 @@ std::string PlainNumber(long long number) {
 }
 
 std::string InHundredths(long long number) {
-  return (number < 0 ? "-" : "") + RatingText(static_cast<int>(std::llabs(number)));
+  const std::string hundredths = std::to_string(100 + std::llabs(number) % 100).substr(1);
+  return (number < 0 ? "-" : "") + std::to_string(std::llabs(number) / 100) + "." + hundredths;
 }
 
 std::string WhyText(std::string_view caption, const Score& score, NumberWriter text) {

@@ -33,10 +33,15 @@ class Score : public Explained {
   long long Whole() const { return value_; }
 
   void Add(long long change, std::string why) {
-    if (change == 0) return;
+    if (change != 0) Step(change, std::move(why));
+  }
+  /// Notes the reason also where it changes nothing.
+  void Step(long long change, std::string why) {
     value_ += change;
     steps_.push_back({std::move(why), change});
   }
+  /// Becomes `value` for a reason that is worth knowing even if it changes nothing.
+  void Weigh(long long value, std::string why) { Step(value - value_, std::move(why)); }
   void Become(long long value, std::string why) { Add(value - value_, std::move(why)); }
   /// Times a fraction, floored at once: Scale(8, 10).
   void Scale(int numerator, int denominator, std::string why) {
@@ -73,7 +78,7 @@ inline bool Weigh(Decision* decision, bool isFor, std::string_view why) {
 /// How a number is written, with a minus below 0: Dollars.
 using NumberWriter = std::string (*)(long long number);
 std::string PlainNumber(long long number);
-/// What is counted in hundredths, as RatingText writes it: "-2.50".
+/// What is counted in hundredths, as a plain number: "-2.50", "0.04".
 std::string InHundredths(long long number);
 
 /// A number and how it came about, a line a step: "91: draw of the two", "+8 feud", "= 99 Crowd".

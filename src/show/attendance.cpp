@@ -14,8 +14,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr const char* kSizeAndImage = "size, image and the day's luck";
-
 /// People by tenths of the image, from below 10 to 90 up.
 using Bands = std::array<int, 10>;
 struct CrowdRow {
@@ -114,6 +112,7 @@ BaseAndDraw InBand(const CrowdRow& row, int image) {
 }
 
 std::string PriceInWords(int off) {
+  if (off == 0) return "tickets at the fair price";
   return "tickets " + Dollars(std::abs(off)) + (off < 0 ? " below" : " above") + " the fair price";
 }
 
@@ -123,13 +122,30 @@ int PeopleAtPrice(int people, int off) {
   return people;
 }
 
-Score GateOf(int crowd, const Gate& gate, std::span<const EconomyFactor> economy) {
-  Score people;
-  people.Add(crowd, kSizeAndImage);
-  people.Become(ByEconomy(people, economy, gate.Economy),
-                "economy " + std::to_string(gate.Economy));
+/// The base, then what chance puts on top of it. Draws as Drawn does.
+Score DrawnInSteps(World& world, BaseAndDraw amount, int size, int image) {
+  Score number;
+  number.Add(amount.Base,
+             std::string(SizeText(size)) + " with an image of " + std::to_string(image) + "%");
+  number.Add(Drawn(world, amount) - amount.Base,
+             "luck of the day, 1 to " + std::to_string(amount.Draw));
+  return number;
+}
+
+Score AsOne(int number) {
+  Score score;
+  score.Add(number, "the crowd");
+  return score;
+}
+
+void FollowEconomy(Score& number, std::span<const EconomyFactor> factors, int economy) {
+  number.Weigh(ByEconomy(number, factors, economy), "economy " + std::to_string(economy));
+}
+
+Score GateOf(Score people, const Gate& gate, std::span<const EconomyFactor> economy) {
+  FollowEconomy(people, economy, gate.Economy);
   const int off = gate.TicketPrice - FairTicketPrice(gate.Size);
-  people.Become(PeopleAtPrice(people, off), PriceInWords(off));
+  people.Weigh(PeopleAtPrice(people, off), PriceInWords(off));
   if (IsNobodysPrice(gate.Size, gate.TicketPrice))
     people.Become(0, "nobody pays " + Dollars(gate.TicketPrice));
   return people;
@@ -151,20 +167,23 @@ BaseAndDraw TvCrowd(int size, int image) {
 }
 
 Score EventGate(int crowd, const Gate& gate) {
-  return GateOf(crowd, gate, kEventEconomy);
+  return GateOf(AsOne(crowd), gate, kEventEconomy);
 }
 
 Score TvGate(int crowd, const Gate& gate) {
-  return GateOf(crowd, gate, kTvEconomy);
+  return GateOf(AsOne(crowd), gate, kTvEconomy);
 }
 
 Score EventAttendance(World& world, const Promotion& promotion, int type) {
-  return EventGate(Drawn(world, EventCrowd(type, promotion.Size, promotion.Image)),
-                   GateFor(world, promotion));
+  const int size = promotion.Size, image = promotion.Image;
+  return GateOf(DrawnInSteps(world, EventCrowd(type, size, image), size, image),
+                GateFor(world, promotion), kEventEconomy);
 }
 
 Score TvAttendance(World& world, const Promotion& promotion) {
-  return TvGate(Drawn(world, TvCrowd(promotion.Size, promotion.Image)), GateFor(world, promotion));
+  const int size = promotion.Size, image = promotion.Image;
+  return GateOf(DrawnInSteps(world, TvCrowd(size, image), size, image), GateFor(world, promotion),
+                kTvEconomy);
 }
 
 bool IsNobodysPrice(int size, int ticketPrice) {
@@ -214,11 +233,6 @@ constexpr CrowdsBySize kTvRatings = {{
 constexpr EconomyFactor kViewerEconomy[] = {
     {91, kAnyHigh, 120}, {81, 90, 110}, {10, 19, 90}, {kAnyLow, 9, 80}};
 
-void FollowEconomy(const World& world, Score& viewers, std::span<const EconomyFactor> factors) {
-  const int economy = world.Game().Economy;
-  viewers.Become(ByEconomy(viewers, factors, economy), "economy " + std::to_string(economy));
-}
-
 }  // namespace
 
 BaseAndDraw BuyRateBase(int size, int image) {
@@ -230,9 +244,9 @@ BaseAndDraw BuyRateBase(int size, int image) {
 }
 
 Score BuyRate(World& world, const Promotion& promotion) {
-  Score rate;
-  rate.Add(Drawn(world, BuyRateBase(promotion.Size, promotion.Image)), kSizeAndImage);
-  FollowEconomy(world, rate, kBuyRateEconomy);
+  const int size = promotion.Size, image = promotion.Image;
+  Score rate = DrawnInSteps(world, BuyRateBase(size, image), size, image);
+  FollowEconomy(rate, kBuyRateEconomy, world.Game().Economy);
   return rate;
 }
 
@@ -245,9 +259,8 @@ BaseAndDraw TvRatingBase(int size, int image) {
 }
 
 Score TvBaseRating(World& world, int size, int image) {
-  Score rating;
-  rating.Add(Drawn(world, TvRatingBase(size, image)), kSizeAndImage);
-  if (size < kBackyard) FollowEconomy(world, rating, kViewerEconomy);
+  Score rating = DrawnInSteps(world, TvRatingBase(size, image), size, image);
+  if (size < kBackyard) FollowEconomy(rating, kViewerEconomy, world.Game().Economy);
   return rating;
 }
 

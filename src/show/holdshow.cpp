@@ -277,8 +277,7 @@ int CloseShow(World& world) {
   const int sum = run.ShowSum;
   run.ShowSum = std::clamp(Score::Floor(sum, run.ShowSegments), 0, 100);
   NoteFact(world, rating, run.ShowSum - sum, run.ShowSum,
-           std::to_string(sum) + " points in " + std::to_string(run.ShowSegments) +
-               " counts, rounded down");
+           "Divided by " + std::to_string(run.ShowSegments) + ", rounded down");
   AfterShow(world, run.IsEvent);
   if (run.IsEvent) FadeUnusedTitles(world);
   run.Stage = kShowClosed;

@@ -102,6 +102,7 @@ class Control {
 class Label : public Control {
  public:
   Label(Screen& screen, std::string name, std::string text = {});
+  bool Large = false;  // a figure that stands out
   /// Where the number in the text is heading: an arrow up beside it above 0, down below 0.
   Property<int> Trend{Changes(), 0};
 };
@@ -220,6 +221,10 @@ struct Column {
   Tone (*ToneOf)(std::string_view word) = nullptr;
   /// What stands above it where the column before it says the rest; empty: the title.
   std::string Short = {};
+  /// What the glossary calls it; empty: the title.
+  std::string Term = {};
+
+  const std::string& Meant() const { return Term.empty() ? Title : Term; }
 };
 
 struct Cell {
@@ -329,6 +334,9 @@ class Chart : public Control {
   bool Bars;
   Property<std::vector<std::string>> Captions{Changes(), {}};  // one a value, below the axis
   Property<std::vector<Series>> Lines{Changes(), {}};
+  /// Where a value stands along the axis, such as a day's number, one a value and none below the
+  /// one before; empty: all at equal distances.
+  Property<std::vector<double>> Places{Changes(), {}};
 };
 
 /// Long prose in paragraphs. `Text` holds the same, a paragraph a line.

@@ -101,6 +101,7 @@ void Game::Commit() {
     throw;
   }
   MarkCommitted();
+  if (Kept) Kept(changes);
 }
 
 void Game::MarkCommitted() {

@@ -72,6 +72,10 @@ class Game : public ui::Work {
   /// nothing.
   std::function<std::string(std::string_view screen)> NoteOn;
 
+  /// Runs after each commit that has changed a world, with its files: what is always in sight shows
+  /// the world as it is now. Must not throw.
+  std::function<void(const std::vector<FileChange>& changes)> Kept;
+
   /// Brings what the main screen shows up to date, and opens what waits for the player; screens
   /// that manage something call it when they close. Set when the main screen is registered.
   std::function<void()> RefreshMainScreen;

@@ -14,10 +14,10 @@ namespace grapplemont::ui {
 struct Box {
   enum class Kind { Item, Field, Rows, Columns, Group, Tabs, Spacer };
   Kind Is = Kind::Spacer;
-  std::string Title = {};    // a Field's label, a Group's or a tab's heading
-  Control* Shown = nullptr;  // an Item's or a Field's control
-  std::vector<Box> Parts = {};
-  int Stretch = 0;  // share of the room left over; 0 takes what it needs
+  std::string Title = {};       // a Field's label, a Group's or a tab's heading
+  Control* Shown = nullptr;     // an Item's or a Field's control
+  std::vector<Box> Parts = {};  // of an Item or a Field: what stands within it or beside it
+  int Stretch = 0;              // share of the room left over; 0 takes what it needs
   int Letters = 0;  // of Columns: the width of a part that may stand beside others; 0: the shell's
 
   Box() = default;
@@ -55,6 +55,12 @@ inline Box Field(std::string label, Control& control) {
   Box box(control);
   box.Is = Box::Kind::Field;
   box.Title = std::move(label);
+  return box;
+}
+/// The same with buttons right behind what it shows, and below it the words that they open.
+inline Box Field(std::string label, Control& control, const std::vector<Control*>& beside) {
+  Box box = Field(std::move(label), control);
+  for (Control* part : beside) box.Parts.emplace_back(*part);
   return box;
 }
 inline Box Grow(Control& control, int share = 1) {
@@ -97,6 +103,7 @@ struct Page {
   std::vector<Button*> Actions = {};
   Button* Main = nullptr;
   Button* Then = nullptr;
+  Button* First = nullptr;  // the hub alone: in Main's place on its own page, while it is visible
   Button* Cancel = nullptr;
   /// What Escape would lose, as a question that it asks first; empty while there is nothing.
   std::function<std::string()> Loses = {};

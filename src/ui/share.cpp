@@ -221,7 +221,11 @@ void Share(const Control& control, const std::string& label, Writer& out) {
 }
 
 void Share(const Box& box, Form form, Writer& out) {
-  if (box.Shown) return Share(*box.Shown, box.Is == Box::Kind::Field ? box.Title : "", out);
+  if (box.Shown) {
+    Share(*box.Shown, box.Is == Box::Kind::Field ? box.Title : "", out);
+    for (const Box& part : box.Parts) Share(part, form, out);
+    return;
+  }
   Writer inside(form);
   for (const Box& part : box.Parts) Share(part, form, inside);
   if (inside.Text().empty()) return;  // no heading over nothing

@@ -210,6 +210,38 @@ TEST(TheCards, OfOneKindAreOfOneHeightAndTheirLinksAreWhole) {
             QFontMetricsF(desktop::TextFont()).horizontalAdvance("Export"));
 }
 
+TEST(TheFields, HaveTheirWhyRightBehindThemAndNoRoomForWordsThatAreClosed) {
+  class Facts : public ui::Screen {
+   public:
+    explicit Facts(ui::Desk& desk) : Screen(desk, "frmFacts", "Facts") { txtwhy.Brief = true; }
+    ui::Page Layout() override {
+      return {.Body =
+                  ui::Rows({ui::Group("Facts", {ui::Field("Image", lblimage, {&cmdwhy, &txtwhy}),
+                                                ui::Field("The owner", lblowner)}),
+                            ui::Spacer()})};
+    }
+    ui::Label lblimage{*this, "lblimage", "37%"};
+    ui::Button cmdwhy{*this, "cmdwhy", "Why?", [this] { txtwhy.WriteLines("37: as before"); }};
+    ui::Report txtwhy{*this, "txtwhy"};
+    ui::Label lblowner{*this, "lblowner", "Ruth Vane"};
+  };
+  Player play;
+  play.Open(std::make_unique<Facts>(play.Desk));
+  Settle();
+  const auto place = [&](const char* name) {
+    const QWidget* seen = play.See(name);
+    return QRect(seen->mapTo(&play.Window, QPoint()), seen->size());
+  };
+  EXPECT_LT(place("cmdwhy").left() - place("lblimage").right(), desktop::Px(24));
+  EXPECT_EQ(place("lblimage").left(), place("lblowner").left()) << "one column of labels";
+  EXPECT_FALSE(play.Sees("txtwhy"));
+  EXPECT_LT(place("lblowner").top() - place("cmdwhy").bottom(), desktop::Px(24));
+  play.Click("cmdwhy");
+  Settle();
+  EXPECT_GT(place("txtwhy").top(), place("cmdwhy").bottom());
+  EXPECT_GT(place("lblowner").top(), place("txtwhy").bottom());
+}
+
 TEST(TheWorkersPage, StandsBesideTheSideBarWithAllOfItSideBySide) {
   HomeFolder home(RichWorld().Build());
   home.StartNewGame();

@@ -229,6 +229,17 @@ TEST(Mails, AreThePlayersOwnOrNewsOfOthers) {
   }
 }
 
+TEST(Mails, OfADayAreGatheredUnderWhatTheyTell) {
+  SmallWorld small;
+  small.Promotion("CWA").Promotion("NEW").Promotion("OLD").Game("CWA");
+  World world = small.Mail("NEW News", "NEW have signed Al Bo!")
+                    .Mail("NEW News", "NEW have stolen Cy Do from OLD!")
+                    .Mail("OLD News", "OLD have fired Ed Fu!")
+                    .Mail("OLD News", "Well.")
+                    .Build();
+  EXPECT_EQ(DigestsOf(world).at(0).Words, "4 news from 2 promotions (1 departure, 2 signings)");
+}
+
 TEST(frmNews, EmptiesTheMailboxAfterAsking) {
   GameOnWorld play(SixMails());
   play.Desk.Open("frmMainScreen");

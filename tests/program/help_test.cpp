@@ -59,6 +59,15 @@ TEST(Help, TellsWhatAPageIsForItsKeysItsWordsAndWhatIsNotPossible) {
             std::string::npos);
 }
 
+TEST(Help, TellsTheImageOfATitleFromAPromotions) {
+  GameOnWorld play(RichWorld().Game("CWA"));
+  play.Desk.Open("frmBelts");
+  ASSERT_TRUE(play.Desk.OpenHelp());
+  const std::string text = play.Desk.Text("txthelp");
+  EXPECT_NE(text.find("\nTitle image: "), std::string::npos) << text;
+  EXPECT_EQ(text.find("\nImage: "), std::string::npos) << text;
+}
+
 TEST(Glossary, KnowsTheShortHeadingsAndEveryFieldItsTableNames) {
   const std::pair<const char*, const char*> kHeadings[] = {{"Disp.", "Disposition"},
                                                            {"cond.", "Condition"},
@@ -70,6 +79,7 @@ TEST(Glossary, KnowsTheShortHeadingsAndEveryFieldItsTableNames) {
   }
   EXPECT_EQ(FindTerm("Disposition")->Range, "Face, Heel or Tweener");
   EXPECT_FALSE(FindTerm("Gibberish"));
+  EXPECT_FALSE(FindTerm("Loading set")) << "only the program reads it";
   std::ifstream in(Checkout("/words/glossary.txt"));
   int rows = 0;
   for (std::string line; std::getline(in, line);) {

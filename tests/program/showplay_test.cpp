@@ -197,9 +197,11 @@ struct OnSunday : ShowPlay {
     for (const char* why : {"cmdwhy(1)", "cmdwhy(3)"}) {
       Desk.Click(why);
       const auto steps = Desk.Rows("lstwhy");
+      // Behind the sum of a rating stand the division and what comes of it.
+      const std::size_t total = steps.size() - (why == std::string("cmdwhy(1)") ? 3 : 1);
       int sum = 0;
-      for (std::size_t i = 0; i + 1 < steps.size(); ++i) sum += std::stoi(steps[i].front());
-      EXPECT_EQ(sum, std::stoi(steps.back().front())) << why;
+      for (std::size_t i = 0; i < total; ++i) sum += std::stoi(steps[i].front());
+      EXPECT_EQ(sum, std::stoi(steps[total].front())) << why;
     }
     EXPECT_FALSE(Desk.Rows("lstpeople").empty());
     Desk.Pick("lstpeople", 1);

@@ -92,7 +92,7 @@ TEST(frmWresContract, RejectsUntilTheOfferIsGood) {
             "- $4,000 offered is too little for anybody who earns $40,000\n"
             "= I do not want a written contract.");
   play.Desk.Click("cmdwhy");
-  EXPECT_TRUE(play.Desk.Text("txtwhy").ends_with("\n= 44 Wage in $1000"));
+  EXPECT_TRUE(play.Desk.Text("txtwhy").ends_with("\n= $44,000 a month"));
 
   play.Desk.Pick("cmbnewtype", "Verbal");
   play.Desk.Slide("hsnewwage", 45);

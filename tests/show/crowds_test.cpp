@@ -85,6 +85,17 @@ TEST(Crowds, FollowThePriceStepByStep) {
   EXPECT_GT(EventGate(10000, {kNational, 1000, 60}), 0);
 }
 
+TEST(Crowds, TellSizeLuckEconomyAndPriceApart) {
+  World world = SmallWorld().Promotion("CWA", kNational).Game("CWA");
+  world.Player().Image = 80;
+  world.Player().TicketPrice = 40;
+  world.Game().Economy = 60;
+  ScriptDraws(world, {{10, 7}});
+  EXPECT_EQ(WhyText("people", TvAttendance(world, world.Player())),
+            "3000: National with an image of 80%\n+7 luck of the day, 1 to 10\n+0 economy 60\n"
+            "+0 tickets at the fair price\n= 3007 people");
+}
+
 constexpr Day kFriday{std::chrono::year{2026} / 3 / 6};
 
 TEST(EventReport, OfAPayPerViewNeedsASizeThatHoldsOne) {

@@ -62,9 +62,8 @@ class frmFed : public GameScreen {
     return ui::Rows(
         {ui::Group("The company",
                    {ui::Field("Name", lblname), ui::Field("Size", lblsize),
-                    ui::Columns({ui::Field("Image", lblimage).Grow(), cmdwhy}), txtwhy,
-                    ui::Field("Owner", lblowner), ui::Field("The economy", lbleconomy),
-                    ui::Field("Staff meeting", cmbmeeting),
+                    ui::Field("Image", lblimage, {&cmdwhy, &txtwhy}), ui::Field("Owner", lblowner),
+                    ui::Field("The economy", lbleconomy), ui::Field("Staff meeting", cmbmeeting),
                     ui::Field("Commissioner", lblcommissioner), cmdcommissioner}),
          ui::Group("Spending", {ui::WithButtons(lstspending, {&cmdadvertising, &cmdmerch, &cmdprod,
                                                               &cmdtickets})})
@@ -114,8 +113,10 @@ class frmFed : public GameScreen {
       scores.push_back(standing.Score());
     }
     chtimage.Captions = CaptionsOf(standings);
+    chtimage.Places = PlacesOf(standings);
     chtimage.Lines = std::vector<ui::Chart::Series>{{"", images, ui::Tone::Blue}};
     chtstanding.Captions = CaptionsOf(standings);
+    chtstanding.Places = PlacesOf(standings);
     chtstanding.Lines = std::vector<ui::Chart::Series>{{"", scores, ui::Tone::Gold}};
   }
 

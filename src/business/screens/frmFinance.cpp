@@ -101,12 +101,15 @@ class frmFinance : public GameScreen {
 
   void ShowMoney(const Promotion& player) {
     std::vector<std::string> months;
+    std::vector<double> places;
     ui::Chart::Series money{"", {}, Tone::Green};
     for (const MoneyPoint& point : MoneyOverTime(world(), player)) {
       months.push_back(point.When);
+      places.push_back(PlaceOf(point.On));
       money.Values.push_back(point.Dollars);
     }
     chtmoney.Captions = std::move(months);
+    chtmoney.Places = std::move(places);
     chtmoney.Lines = std::vector<ui::Chart::Series>{std::move(money)};
     lstmonths.Clear();
     FillPlaces(lstmonths, kMonthTable, MoneyByMonth(world(), player));

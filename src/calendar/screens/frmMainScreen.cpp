@@ -8,12 +8,13 @@
 #include "calendar/screens/calendarscreens.h"
 #include "calendar/screens/screendesk.h"
 #include "calendar/screens/screenguide.h"
+#include "calendar/screens/screenmail.h"
 #include "calendar/screens/screentiles.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "records/readmail.h"
+#include "records/store/slot.h"
 #include "show/holdshow.h"
 #include "show/nightbook.h"
 #include "storylines/screens/screenpeople.h"
@@ -57,9 +58,7 @@ constexpr std::array<Command, 19> kCommands = {{
     {"cmdoptions", "Options", "frmOptions", "Desk", "F12"},
 }};
 
-/// How many mails and days ahead the page shows, and how many letters wide a card of them is at
-/// least.
-constexpr std::size_t kMailsShown = 40;
+/// How many days ahead the page shows, and how many letters wide a card of them is at least.
 constexpr int kDaysShown = 70;
 constexpr int kDeskLetters = 50;
 
@@ -73,10 +72,10 @@ class frmMainScreen : public ui::Screen {
   explicit frmMainScreen(Game& game)
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
     CommandNamed("cmdfed").Tip = "Click for promotional matters.";
-    lstmail.EmptyText = "No unread mail. What is meant for you arrives here; F10 has all of it.";
     lstahead.EmptyText = "No show in sight. Television (F6) finds a network, Events plans a night.";
-    for (ui::ListBox* list : {&lstahead, &lstmail}) list->Room = list->Least = 5;
-    lblworld.Colour = ui::Tone::Muted;
+    lstahead.Room = 3;
+    lstahead.Least = 2;
+    lbltonight.Colour = ui::Tone::Gold;
   }
 
   ui::Page Layout() override {
@@ -91,8 +90,9 @@ class frmMainScreen : public ui::Screen {
     page.Side.push_back({"", {{&cmdquit, "", Reach::Away}}});
     page.Top = {&txtdate, &lblpromotion, &lblimage, &lblmoney};
     page.TopActions = {&txtname, &cmduntil, &cmdnext};
-    page.Actions = {&cmdmorning, &cmdbook};
+    page.Actions = {&cmdmorning};
     page.Main = &cmdnext;
+    page.First = &cmdbook;
     page.Cancel = &cmdquit;
     page.Body = ui::Rows(
         {figures_.Layout(), Due().Grow(4), cards_.People().Grow(2), cards_.Standing().Grow(2)});
@@ -107,6 +107,16 @@ class frmMainScreen : public ui::Screen {
     if (!game_.HasWorld()) return;
     ShowTheWorld();
     OpenWhatWaits();
+  }
+
+  /// What stands beside and above every page.
+  void ShowBars(const std::vector<FileChange>& changes) {
+    if (!game_.HasWorld()) return;
+    ShowTopBar();
+    const auto isMail = [this](const FileChange& change) {
+      return change.Name == world().News().File() || change.Name == world().ReadMails().File();
+    };
+    if (std::ranges::any_of(changes, isMail)) ShowMail();
   }
 
   void Note(const std::string& line) {
@@ -130,12 +140,12 @@ class frmMainScreen : public ui::Screen {
   /// What is to be done and to be read.
   ui::Box Due() {
     return ui::Columns(
-               {ui::Rows(
-                    {guide_.Layout(), ui::Group("The weeks ahead", {ui::Grow(lstahead)}).Grow()})
+               {ui::Rows({guide_.Layout(), ui::Group("The weeks ahead",
+                                                     {ui::Columns({ui::Grow(lbltonight), cmdbook}),
+                                                      ui::Grow(lstahead)})
+                                               .Grow()})
                     .Grow(),
-                ui::Group("Unread mail",
-                          {ui::Grow(lstmail), ui::Columns({imgmail, ui::Grow(lblworld), cmdworld})})
-                    .Grow()})
+                mail_.Layout().Grow()})
         .Wide(kDeskLetters);
   }
 
@@ -185,32 +195,8 @@ class frmMainScreen : public ui::Screen {
   }
 
   void ShowMail() {
-    const int count = world().News().Count();
-    EnableUnless(imgmail, HasNews(world()) ? "" : "No mail.");
-    imgmail.Text = Counted(count, "mail");
-    const Unread unread = UnreadOf(world());
-    CommandNamed("cmdnews").Badge =
-        unread.Count() == 0 ? std::string() : std::to_string(unread.Count());
-    ShowDigest();
-    std::vector<ui::ListBox::Row> rows;
-    for (const int number : unread.Own) {
-      if (rows.size() == kMailsShown) break;
-      const Mail& mail = world().News()[number];
-      rows.push_back(
-          {{mail.From.View(), ui::Cell(mail.Date.View(), ui::Tone::Muted), mail.Body.View()},
-           number});
-    }
-    lstmail.Fill(std::move(rows));
-  }
-
-  /// One line for all news of other promotions from the latest day.
-  void ShowDigest() {
-    const std::vector<Digest> digests = DigestsOf(world());
-    lblworld.Visible = !digests.empty();
-    cmdworld.Visible = !digests.empty();
-    if (digests.empty()) return;
-    lblworld.Text = "Around the rings, " + digests.front().Date + ": " + digests.front().Words +
-                    (digests.front().IsUnread ? "" : ", all read");
+    const int unread = mail_.Show();
+    CommandNamed("cmdnews").Badge = unread == 0 ? std::string() : std::to_string(unread);
   }
 
   void ShowAhead() {
@@ -229,12 +215,17 @@ class frmMainScreen : public ui::Screen {
     }
     lstahead.Fill(std::move(rows), false);
     const bool isOver = HasEnded(world().Game());
-    cmdbook.Visible = !isOver && HasShowTonight();
-    cmdbook.Tip = TonightText(world());
+    const bool isDue = !isOver && HasShowTonight();
+    cmdbook.Visible = isDue;
+    lbltonight.Visible = isDue;
+    lbltonight.Text = TonightText(world());
     cmdmorning.Visible = !isOver && HasAnyNight(world());
-    lblfacts.Text = HasEnded(world().Game()) ? kCareerIsOver
-                    : today.empty()          ? "Nothing is due today." + done_
-                                             : "Due today: " + today + "." + done_;
+    if (WhyNoMeeting(world()).empty())
+      today += (today.empty() ? "" : ", ") + std::string("the staff meeting");
+    lblfacts.Text = isOver
+                        ? kCareerIsOver
+                        : (today.empty() ? "Nothing is due today." : "Due today: " + today + ".") +
+                              " " + PeopleText(world()) + done_;
   }
 
   /// A show that has a sheet.
@@ -306,15 +297,6 @@ class frmMainScreen : public ui::Screen {
     desk().Open("frmDrafts");
   }
 
-  void lstmail_Open() { OpenMail(lstmail.Key()); }
-  void cmdworld_Click() {
-    const std::vector<Digest> digests = DigestsOf(world());
-    if (!digests.empty()) OpenMail(digests.front().Mails.front());
-  }
-  void OpenMail(int number) {
-    if (number != 0 && game_.OpenMail) game_.OpenMail(number);
-  }
-
   void cmdquit_Click() {
     if (!desk().Ask("Quit?", "Are you sure you want to quit?")) return;
     game_.Commit();
@@ -343,7 +325,6 @@ class frmMainScreen : public ui::Screen {
       }};
   GuideCard guide_{*this, game_};
   DeskFigures figures_{*this, game_};
-  ui::Label imgmail{*this, "imgmail"};
   ui::ListBox lstahead{*this,
                        "lstahead",
                        {{"Date", K::Number},
@@ -353,10 +334,8 @@ class frmMainScreen : public ui::Screen {
                         {"Booked", K::Text, 0, "How far the card is."}},
                        ui::Handler{},
                        [this] { lstahead_Open(); }};
-  ui::ListBox lstmail{
-      *this, "lstmail", {{"From"}, {"Date"}, {"Mail"}}, ui::Handler{}, [this] { lstmail_Open(); }};
-  ui::Label lblworld{*this, "lblworld"};
-  ui::Button cmdworld{*this, "cmdworld", "Open", &frmMainScreen::cmdworld_Click};
+  DeskMail mail_{*this, game_};
+  ui::Label lbltonight{*this, "lbltonight"};
   ui::Button cmdbook{*this, "cmdbook", "Book", &frmMainScreen::cmdnext_Click};
   ui::Button cmdmorning{*this, "cmdmorning", "Morning After",
                         [this] { desk().Open("frmMorning"); }};
@@ -381,6 +360,9 @@ void ConnectCalendar(Game& game) {
     WatchGuide(game.World(), screens);
   };
   game.NoteOn = [&game](std::string_view screen) { return GuideOnPage(game.World(), screen); };
+  game.Kept = [&game](const std::vector<FileChange>& changes) {
+    if (frmMainScreen* main = FindMainScreen(game)) main->ShowBars(changes);
+  };
   game.RefreshMainScreen = [&game] {
     if (frmMainScreen* main = FindMainScreen(game)) main->RefreshMainScreen();
   };

@@ -15,14 +15,24 @@ using K = ui::ColumnKind;
 /// How many month ends the lines go back.
 constexpr std::size_t kMonthsShown = 12;
 
-/// What a champion, the Title and its figures need to stand in one line.
-constexpr int kLettersOfCard = 50;
+/// What a feud or a chart needs beside others.
+constexpr int kLettersOfCard = 30;
+
+/// What keeps somebody away, in a word or two.
+ui::Cell AwayCell(const Worker& worker) {
+  if (!IsAway(worker)) return std::to_string(worker.Condition) + "%";
+  return {worker.Status == "Inj"   ? worker.InjuryName.Str()
+          : worker.Status == "Sus" ? "Suspended"
+          : worker.Status == "Reh" ? "In rehab"
+                                   : "Sitting out",
+          ui::Tone::Red};
+}
 
 const CellColumns<Worker> kHurt = {
     {{"Worker", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
-    {{"Condition", K::Text, 4}, [](const Worker& worker) {
-       return worker.StatusMonths > 0 ? StatusCell(worker)
-                                      : ui::Cell(std::to_string(worker.Condition) + "%");
+    {{"Condition", K::Text, 4}, AwayCell},
+    {{"Months", K::Number, 2, "Until they are back."}, [](const Worker& worker) {
+       return IsAway(worker) ? ui::Cell(int(worker.StatusMonths)) : ui::Cell(0.0, "");
      }}};
 const CellColumns<Worker> kUnhappy = {
     {{"Worker", K::Text, 5}, [](const Worker& worker) { return worker.Name.View(); }},
@@ -42,7 +52,7 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
                    {{"Champion", K::Text, 5, "", [this](int key) { return PlateOfRow(key); }},
                     {"Title", K::Text, 4},
                     {"Days", K::Number, 2, "Since the Title was won."},
-                    {"Image", K::Number, 2}},
+                    {.Title = "Image", .Kind = K::Number, .Width = 2, .Term = "Title image"}},
                    ui::Handler{}, [this] { game_.Desk().Open("frmBelts"); }),
       lstfeuds(screen, "lstfeuds", {{"Feud", K::Text, 6}, {"Heat", K::Percent, 4}}, ui::Handler{},
                [this] { game_.Desk().Open("frmFeuds"); }),
@@ -60,7 +70,9 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
   lstunhappy.EmptyText = "Nobody is unhappy.";
   lstcontracts.EmptyText = "No contract ends within half a year.";
   for (ui::ListBox* list : {&lstchampions, &lstfeuds, &lsthurt, &lstunhappy, &lstcontracts})
-    list->Room = list->Least = 4;
+    list->Room = 4;
+  for (ui::ListBox* list : {&lstchampions, &lstfeuds}) list->Least = 3;
+  for (ui::ListBox* list : {&lsthurt, &lstunhappy, &lstcontracts}) list->Least = 2;
 }
 
 ui::Box DeskCards::People() {
@@ -70,10 +82,10 @@ ui::Box DeskCards::People() {
 }
 
 ui::Box DeskCards::Standing() {
-  return ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(),
-                      ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow(),
-                      ui::Group("Image", {ui::Grow(chtimage)}).Grow(),
-                      ui::Group("Money", {ui::Grow(chtmoney)}).Grow()})
+  return ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(4),
+                      ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow(3),
+                      ui::Group("Image", {ui::Grow(chtimage)}).Grow(2),
+                      ui::Group("Money", {ui::Grow(chtmoney)}).Grow(2)})
       .Wide(kLettersOfCard);
 }
 
@@ -98,19 +110,22 @@ void DeskCards::ShowStories() {
 /// The last twelve month ends and today.
 void DeskCards::ShowLines() {
   const auto standings = StandingsOf(world(), world().Player(), static_cast<int>(kMonthsShown) + 1);
-  std::vector<double> images, money;
+  std::vector<double> images, money, places;
   std::vector<std::string> months;
-  for (const PastStanding& standing : standings) images.push_back(standing.Score());
+  for (const PastStanding& standing : standings) images.push_back(standing.Image);
   chtimage.Captions = CaptionsOf(standings);
+  chtimage.Places = PlacesOf(standings);
   chtimage.Lines = std::vector<ui::Chart::Series>{{"", std::move(images), ui::Tone::Gold}};
-  chtimage.Tip = "A size class is worth 100 points, the image up to 100 more.";
+  chtimage.Tip = "In percent. At 100 the promotion rises to the next size, at 0 it falls.";
   const auto points = MoneyOverTime(world(), world().Player());
   for (std::size_t i = points.size() > kMonthsShown + 1 ? points.size() - kMonthsShown - 1 : 0;
        i < points.size(); ++i) {
     money.push_back(points[i].Dollars);
     months.push_back(points[i].When);
+    places.push_back(PlaceOf(points[i].On));
   }
   chtmoney.Captions = std::move(months);
+  chtmoney.Places = std::move(places);
   chtmoney.Lines = std::vector<ui::Chart::Series>{{"", std::move(money)}};
 }
 
@@ -120,6 +135,9 @@ void DeskCards::Show() {
   FillTable(lsthurt, kHurt, HurtAndWorn(world()));
   FillTable(lstunhappy, kUnhappy, Unhappy(world()));
   FillTable(lstcontracts, kEnding, ContractsThatEnd(world()));
+  // The line below the title says of whom there is nobody.
+  for (ui::ListBox* list : {&lsthurt, &lstunhappy, &lstcontracts})
+    list->Visible = list->Count() > 0;
 }
 
 void DeskCards::OpenWorkerOf(const ui::ListBox& list) {

@@ -57,6 +57,7 @@ void DeskFigures::Show() {
   int place = 0;
   for (const DeskTile& tile : DeskTiles(game_.World())) {
     cmdtile(++place).Text = tile.Says;
+    cmdtile(place).Tip = tile.Why.empty() ? TileAt(place).Tip : tile.Why + ". " + TileAt(place).Tip;
     lbltile(place).Text = tile.About;
     lbltile(place).Colour = tile.Trend > 0   ? ui::Tone::Green
                             : tile.Trend < 0 ? ui::Tone::Red

@@ -89,7 +89,7 @@ void AddWords(Paragraphs& words, ui::Screen& screen) {
   std::vector<std::string> headings;
   for (const ui::Control* control : screen.Controls())
     if (const auto* list = dynamic_cast<const ui::ListBox*>(control); IsThere(list))
-      for (const ui::Column& column : list->Columns()) headings.push_back(column.Title);
+      for (const ui::Column& column : list->Columns()) headings.push_back(column.Meant());
   AddLabels(screen.Layout().Body, headings);
   std::set<const GlossaryTerm*> told;
   for (const std::string& heading : headings)

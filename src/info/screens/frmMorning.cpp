@@ -37,12 +37,15 @@ ui::Tone ToneOf(int change) {
   return change > 0 ? ui::Tone::Green : change < 0 ? ui::Tone::Red : ui::Tone::Muted;
 }
 
-ui::Cell NowCell(const MovedFigure& figure) {
-  return figure.Moved ? ui::Cell(figure.Now) : ui::Cell(-1.0, "", ui::Tone::Muted);
+/// What did not move stands as it is now, as long as that is how the show left it.
+ui::Cell NowCell(const MovedFigure& figure, const Worker* worker, Percent Worker::*now) {
+  if (figure.Moved) return figure.Now;
+  return worker ? ui::Cell(int(worker->*now), ui::Tone::Muted)
+                : ui::Cell(-1.0, "-", ui::Tone::Muted);
 }
 ui::Cell ChangeCell(const MovedFigure& figure) {
   return figure.Moved ? ui::Cell(figure.Change, Signed(figure.Change), ToneOf(figure.Change))
-                      : ui::Cell(0.0, "");
+                      : ui::Cell(0.0, "-", ui::Tone::Muted);
 }
 
 ui::Column NowColumn(const std::string& what) {
@@ -70,7 +73,11 @@ class frmMorning : public GameScreen {
     // All of it is seen at once in a window of the usual size.
     lstpeople.Room = 4;
     lsttitles.Room = lstfeuds.Room = lsthurt.Room = 3;
-    lstwhy.Room = 2;
+    lstwhy.Room = 16;
+    for (int i = 1; i <= kFigureCount; ++i) {
+      lblfigures(i).Large = true;
+      cmdwhy(i).Plain = true;
+    }
   }
 
   ui::Page Layout() override {
@@ -89,7 +96,7 @@ class frmMorning : public GameScreen {
                                  std::move(moved).Grow(2)})
                            .Grow(2),
                        ui::Rows({ui::Group("", {lblwhy, ui::Grow(lstwhy)}).Grow(3),
-                                 ui::Group("Row by row", {ui::Grow(chtrows), lblwanted}).Grow(2)})
+                                 ui::Group("Row by row", {ui::Grow(chtrows), lblwanted}).Grow()})
                            .Grow(1)})
                       .Grow()}),
         &lblfacts, {&cmdreport, &cmdresults});
@@ -139,6 +146,11 @@ class frmMorning : public GameScreen {
     return ChangeText(figure.Kind, number.After() - before) + " on the last one";
   }
 
+  static std::string FigureText(const Figure& figure, const NotedNumber& number) {
+    return figure.IsChange ? ChangeText(figure.Kind, number.Change())
+                           : NumberText(figure.Kind, number.After());
+  }
+
   void ShowFigure(int i) {
     const Figure& figure = FigureAt(i);
     const NotedNumber* number = morning_.Of(figure.Kind);
@@ -148,8 +160,7 @@ class frmMorning : public GameScreen {
       lblnotes(i).Text = "Not moved";
       return;
     }
-    lblfigures(i).Text = figure.IsChange ? ChangeText(figure.Kind, number->Change())
-                                         : NumberText(figure.Kind, number->After());
+    lblfigures(i).Text = FigureText(figure, *number);
     if (figure.IsChange) lblfigures(i).Colour = ToneOf(number->Change());
     lblnotes(i).Text = NoteText(figure, *number);
     lblnotes(i).Colour = ui::Tone::Muted;
@@ -157,13 +168,17 @@ class frmMorning : public GameScreen {
 
   void ShowPeople() {
     people_ = PeopleMoved(morning_);
+    const bool isFresh = world().Today() - on_ <= std::chrono::days{1};
     std::vector<ui::ListBox::Row> rows;
     for (std::size_t i = 0; i < people_.size(); ++i) {
       const PersonMoved& person = people_[i];
-      rows.push_back({{person.Name, NowCell(person.Over), ChangeCell(person.Over),
-                       NowCell(person.Morale), ChangeCell(person.Morale), NowCell(person.Condition),
-                       ChangeCell(person.Condition), person.Why},
-                      static_cast<int>(i) + 1});
+      const Worker* worker = isFresh ? world().FindWorker(person.Worker) : nullptr;
+      rows.push_back(
+          {{person.Name, NowCell(person.Over, worker, &Worker::Over), ChangeCell(person.Over),
+            NowCell(person.Morale, worker, &Worker::Morale), ChangeCell(person.Morale),
+            NowCell(person.Condition, worker, &Worker::Condition), ChangeCell(person.Condition),
+            person.Why},
+           static_cast<int>(i) + 1});
     }
     lstpeople.Fill(std::move(rows));
   }
@@ -213,18 +228,32 @@ class frmMorning : public GameScreen {
     chtrows.Lines = std::vector<ui::Chart::Series>{{"", std::move(ratings)}};
   }
 
-  /// The steps of the number, and where they lead.
+  /// The steps of the number, and where they lead: to what it came to be, or to the change.
   void AddSteps(std::vector<ui::ListBox::Row>& rows, const NotedNumber& number,
-                const std::string& caption) {
-    if (number.Before() != 0)
+                const std::string& caption, bool toChange = false) {
+    if (number.Before() != 0 && !toChange)
       rows.push_back({{NumberText(number.Kind, number.Before()), "", "Before"}});
-    for (const ShowNote* step : number.Steps)
+    for (const ShowNote* step : number.Steps) {
+      if (number.Kind == kNoteRating && step == number.Steps.back()) {
+        AddMean(rows, *step);
+        continue;
+      }
       rows.push_back(
           {{ui::Cell(step->Change, ChangeText(number.Kind, step->Change), ToneOf(step->Change)),
             step->Row == 0 ? ui::Cell(0.0, "") : ui::Cell(int(step->Row)), step->Why.View()}});
-    rows.push_back(
-        {{ui::Cell(number.After(), NumberText(number.Kind, number.After()), ui::Tone::Gold), "",
-          caption}});
+    }
+    rows.push_back({{ui::Cell(number.After(),
+                              toChange ? ChangeText(number.Kind, number.Change())
+                                       : NumberText(number.Kind, number.After()),
+                              ui::Tone::Gold),
+                     "", caption}});
+  }
+
+  /// The last step of a rating takes the mean of all before.
+  static void AddMean(std::vector<ui::ListBox::Row>& rows, const ShowNote& step) {
+    const int sum = step.Now - step.Change;
+    rows.push_back({{ui::Cell(sum), "", "points in all"}});
+    rows.push_back({{ui::Cell(0.0, ""), "", step.Why.View()}});
   }
 
   void ShowWhy(const std::string& title, std::vector<ui::ListBox::Row> rows) {
@@ -237,9 +266,8 @@ class frmMorning : public GameScreen {
     const Figure& figure = FigureAt(i);
     const NotedNumber* number = morning_.Of(figure.Kind);
     std::vector<ui::ListBox::Row> rows;
-    if (number) AddSteps(rows, *number, figure.Caption);
-    ShowWhy(number ? "Why " + NumberText(figure.Kind, number->After()) + "?" : "Why?",
-            std::move(rows));
+    if (number) AddSteps(rows, *number, figure.Caption, figure.IsChange);
+    ShowWhy(number ? "Why " + FigureText(figure, *number) + "?" : "Why?", std::move(rows));
   }
 
   void lstpeople_Click() {
@@ -317,7 +345,7 @@ class frmMorning : public GameScreen {
   ui::ListBox lsttitles{*this,
                         "lsttitles",
                         {{"Title", K::Text, 4, "", [this](int key) { return PlateOfRow(key); }},
-                         {"Image", K::Tag, 3},
+                         {.Title = "Image", .Kind = K::Tag, .Width = 3, .Term = "Title image"},
                          {"Why", K::Text, 4}},
                         &frmMorning::lsttitles_Click};
   ui::ListBox lstfeuds{

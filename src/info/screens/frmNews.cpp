@@ -14,15 +14,19 @@ namespace grapplemont {
 
 namespace {
 
-/// The mailbox: the latest day on top and on each what is the player's own, the selected mail
-/// beside the list. What other promotions' news tell of one day is one row below it, under the
-/// number of the latest of them.
+/// The share of a day's news in the room that is left beside nothing.
+constexpr int kMostOfIt = 20;
+
+/// The mailbox: on top what is the player's own and was unread when the page came up, then day by
+/// day, on each the own before the rest; the selected mail beside the list. What other promotions'
+/// news tell of one day is one row below it, under the number of the latest of them.
 class frmNews : public GameScreen {
  public:
   /// Open at a mail, or at the row that it is gathered in; 0 for the first row.
   explicit frmNews(Game& game, int number = 0)
       : GameScreen(game, "frmNews", "News"), first_(number) {
     lstdigest.OpenWith(cmdsubject);
+    txtbody.Brief = true;
     lstdigest.EmptyText = "Choose a row \"Around the rings\" to read what others did that day.";
     lstnews.EmptyText = "No mail. What the world has to tell you arrives here.";
   }
@@ -33,16 +37,19 @@ class frmNews : public GameScreen {
                                     ui::Grow(lstnews)})
                          .Grow(3),
                      ui::Group("", {ui::Columns({ui::Rows({lblfrom, lbldate}).Grow(), cmdsubject}),
-                                    ui::Grow(txtbody, 2), ui::Grow(lstdigest, 3)})
+                                    txtbody, ui::Grow(lstdigest, kMostOfIt), ui::Spacer()})
                          .Grow(2)}),
         &lblfacts, {&cmdread, &cmdempty, &cmddelete});
   }
 
   void Return() override {
     ShowSenders();
+    const Unread unread = UnreadOf(world());
+    top_ = {unread.Own.begin(), unread.Own.end()};
     ShowMails();
     const int wanted = std::exchange(first_, 0);
     if (wanted != 0) lstnews.SelectKey(RowKeyOf(wanted));
+    if (lstnews.Selected() == 0) lstnews.SelectKey(firstOwn_);
     if (lstnews.Selected() == 0) lstnews.Select(1);
     lstnews_Click();
     if (!lstdigest.Visible || wanted == 0) return;
@@ -66,11 +73,16 @@ class frmNews : public GameScreen {
     }
   }
 
+  /// Gold for what is the player's own and unread.
+  ui::Tone ToneOf(const Mail& mail) {
+    return own_.contains(world().News().NumberOf(mail)) ? ui::Tone::Gold : ui::Tone::Plain;
+  }
+
   bool Gathers() const { return chkdigest.Checked && From().empty(); }
 
   void ShowMails() {
     const Unread unread = UnreadOf(world());
-    unread_ = {unread.Own.begin(), unread.Own.end()};
+    own_ = unread_ = {unread.Own.begin(), unread.Own.end()};
     unread_.insert(unread.Others.begin(), unread.Others.end());
     count_ = Gathers() ? unread.Count() : static_cast<int>(unread_.size());
     digests_ = Gathers() ? DigestsOf(world()) : std::vector<Digest>{};
@@ -78,11 +90,20 @@ class frmNews : public GameScreen {
     ShowCount();
   }
 
+  bool IsOnTop(int number) const { return Gathers() && top_.contains(number); }
+
   /// The news of others stand below all else that came on their day.
   std::vector<ui::ListBox::Row> Rows() {
     std::set<int> gathered;
     for (const Digest& digest : digests_) gathered.insert(digest.Mails.begin(), digest.Mails.end());
     std::vector<ui::ListBox::Row> rows;
+    const auto add = [&](int number) {
+      if (firstOwn_ == 0) firstOwn_ = number;
+      rows.push_back(grapplemont::RowOf(mails_, world().News()[number], number));
+    };
+    firstOwn_ = 0;
+    for (const int number : MailsNewestFirst(world(), From()))
+      if (IsOnTop(number)) add(number);
     const Digest* waits = nullptr;
     const auto close = [&] {
       if (const Digest* digest = std::exchange(waits, nullptr)) rows.push_back(RowOf(*digest));
@@ -91,7 +112,7 @@ class frmNews : public GameScreen {
       const Mail& mail = world().News()[number];
       if (waits && mail.Date != waits->Date) close();
       if (const Digest* digest = DigestAt(number)) waits = digest;
-      if (!gathered.contains(number)) rows.push_back(grapplemont::RowOf(mails_, mail, number));
+      if (!gathered.contains(number) && !IsOnTop(number)) add(number);
     }
     close();
     return rows;
@@ -113,9 +134,8 @@ class frmNews : public GameScreen {
   }
   static ui::ListBox::Row RowOf(const Digest& digest) {
     const int number = digest.Mails.front();
-    return {{ui::Cell("Around the rings", digest.IsUnread ? ui::Tone::Gold : ui::Tone::Plain),
-             ui::Cell(number, digest.Date, ui::Tone::Muted), digest.Words,
-             digest.IsUnread ? ui::Cell("unread", ui::Tone::Gold) : ui::Cell("")},
+    return {{"Around the rings", ui::Cell(number, digest.Date, ui::Tone::Muted), digest.Words,
+             digest.IsUnread ? "unread" : ""},
             number};
   }
   /// What the selected row stands for.
@@ -198,7 +218,6 @@ class frmNews : public GameScreen {
   void cmdread_Click() {
     MarkAllRead(world());
     Return();
-    if (game_.RefreshMainScreen) game_.RefreshMainScreen();
   }
 
   void cmbfrom_Click() {
@@ -212,12 +231,21 @@ class frmNews : public GameScreen {
   void cmddelete_Click() {
     const int place = lstnews.Selected();
     // From the last to the first, since those behind move up.
-    for (const int number : ChosenMails()) world().News().Erase(number);
+    for (const int number : ChosenMails()) Erase(number);
     lstnews.Select(0);
     ShowSenders();
     ShowMails();
     lstnews.Select(std::min(place, lstnews.Count()));
     lstnews_Click();
+  }
+
+  /// Those behind it move up by one.
+  void Erase(int number) {
+    world().News().Erase(number);
+    std::set<int> top;
+    for (const int each : top_)
+      if (each != number) top.insert(each - (each > number ? 1 : 0));
+    top_ = std::move(top);
   }
 
   void cmdempty_Click() {
@@ -235,20 +263,23 @@ class frmNews : public GameScreen {
   ui::ComboBox cmbfrom{*this, "cmbfrom", &frmNews::cmbfrom_Click};
   /// Sorted by date a mailbox is in the order in which the mails came.
   const CellColumns<Mail> mails_ = {
-      {{"From", K::Text, 2}, [](const Mail& mail) { return mail.From.View(); }},
+      {{"From", K::Text, 2},
+       [this](const Mail& mail) { return ui::Cell(mail.From.View(), ToneOf(mail)); }},
       {{"Date", K::Date, 1},
        [this](const Mail& mail) {
          return ui::Cell(world().News().NumberOf(mail), mail.Date.Str(), ui::Tone::Muted);
        }},
       {{"Mail", K::Text, 5}, [](const Mail& mail) { return mail.Body.View(); }},
       {{"", K::Tag, 1, "Whether it has been read."}, [this](const Mail& mail) {
-         return unread_.contains(world().News().NumberOf(mail)) ? ui::Cell("unread", ui::Tone::Gold)
+         return unread_.contains(world().News().NumberOf(mail)) ? ui::Cell("unread", ToneOf(mail))
                                                                 : ui::Cell("");
        }}};
   int first_;
   std::vector<Digest> digests_;
-  std::set<int> unread_;
-  int count_ = 0;  // of what is unread, as it is shown
+  std::set<int> unread_, own_;  // own_: those of them that are the player's own
+  std::set<int> top_;           // the player's own that were unread when the page came up
+  int firstOwn_ = 0;            // the first row that is no digest
+  int count_ = 0;               // of what is unread, as it is shown
   ui::ListBox lstnews{*this, "lstnews", HeadingsOf(mails_), &frmNews::lstnews_Click};
   ui::Label lblfrom{*this, "lblfrom"};
   ui::Label lbldate{*this, "lbldate"};

@@ -79,12 +79,23 @@ void Take(GlossaryTerm& term, const GlossaryRow& row) {
   }
 }
 
+/// A field without a row that says something by itself: of people, yes or no, a word, or percent.
+/// Numbers that only the program reads stay out.
+bool SpeaksForItself(const RecordLayout& layout, const Field& field) {
+  const bool isOfPeople =
+      layout.Name == LayoutOf<Worker>().Name || layout.Name == LayoutOf<Staff>().Name;
+  const bool isPlain =
+      field.Kind == FieldKind::Flag || !field.Words.empty() || field.Unit == "percent";
+  return isOfPeople && isPlain && !field.Name.starts_with("Finisher");
+}
+
 void AddFields(std::vector<GlossaryTerm>& terms, const RecordLayout& layout) {
   for (const Field& field : layout.Fields) {
-    if (field.Name == "Uid" || field.Help.empty()) continue;
+    const GlossaryRow* row = RowFor(layout, field);
+    if (!row && !SpeaksForItself(layout, field)) continue;
     GlossaryTerm term{
         NameOf(field), std::string(layout.Name), RangeOf(field), std::string(field.Help), {}, {}};
-    if (const GlossaryRow* row = RowFor(layout, field)) Take(term, *row);
+    if (row) Take(term, *row);
     terms.push_back(std::move(term));
   }
 }

@@ -15,7 +15,7 @@ struct GlossaryTerm {
   std::string Line() const;
 };
 
-/// Every field of a record that a player meets, and the numbers of the rules, by the alphabet.
+/// The fields and the numbers of the rules that a player reads, by the alphabet.
 const std::vector<GlossaryTerm>& Glossary();
 /// By its name or a short heading; of several of a name a worker's, then the first. nullptr for
 /// none.

@@ -139,6 +139,7 @@ class PromotionSheets {
     ui::Chart::Series line{"Standing", {}, ui::Tone::Gold};
     for (const PastStanding& then : standings) line.Values.push_back(then.Score());
     chtstanding.Captions = CaptionsOf(standings);
+    chtstanding.Places = PlacesOf(standings);
     chtstanding.Lines = std::vector{std::move(line)};
   }
 

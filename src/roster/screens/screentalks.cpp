@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/world.h"
 #include "roster/market.h"
@@ -114,7 +115,8 @@ void TalkScreen::Refuse(const std::vector<Remark>& remarks, Decision why) {
 }
 
 void TalkScreen::cmdwhy_Click() {
-  if (GoesOn()) txtwhy.WriteLines(WhyText("Wage in $1000", WageSteps()));
+  const NumberWriter inDollars = [](long long thousands) { return Dollars(thousands * 1000); };
+  if (GoesOn()) txtwhy.WriteLines(WhyText("a month", WageSteps(), inDollars));
 }
 
 void TalkScreen::ShowFacts(const std::string& facts) {

@@ -139,7 +139,10 @@ CellColumns<Title> TitleTable(const World& world) {
            [](const Title& title) {
              return title.Holder == 0 ? ui::Cell("") : DateCell(title.Reigns[0].Won, kFromTheStart);
            }},
-          {{"Image", K::Percent, 0, "How much the fans make of it."},
+          {{.Title = "Image",
+            .Kind = K::Percent,
+            .Tip = "How much the fans make of it.",
+            .Term = "Title image"},
            [](const Title& title) { return ui::Cell(title.Image); }},
           {{"State", K::Tag, 0, "Suspended, or what keeps its holder from defending it."},
            [&](const Title& title) { return StandingCell(world, title); }}};
