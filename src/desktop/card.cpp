@@ -99,7 +99,13 @@ int FlowLayout::Arrange(const QRect& room, bool place) const {
 
 namespace {
 
-constexpr int kMargin = 40;  // that a card keeps from the window's edge
+// What a card keeps from the window's edge, less where the window has not even this room for it.
+constexpr int kMargin = 40, kLeastMargin = 8;
+constexpr QSize kRoomy(860, 560);
+
+int MarginIn(int window, int roomy) {
+  return std::clamp((window - Px(roomy)) / 2, Px(kLeastMargin), Px(kMargin));
+}
 
 }  // namespace
 
@@ -134,7 +140,8 @@ Veil::Veil(QWidget* ground) : QWidget(ground), card_(new Card(this)) {
 }
 
 void Veil::PlaceCard() {
-  const QSize most = size() - QSize(2 * Px(kMargin), 2 * Px(kMargin));
+  const QSize most =
+      size() - 2 * QSize(MarginIn(width(), kRoomy.width()), MarginIn(height(), kRoomy.height()));
   QSize wanted = card_->sizeHint();
   if (wanted_.isValid()) wanted = wanted.expandedTo({Px(wanted_.width()), Px(wanted_.height())});
   wanted = wanted.boundedTo(most);

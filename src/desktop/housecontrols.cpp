@@ -64,6 +64,18 @@ void DrawTab(const QStyleOptionTab& option, QPainter& painter) {
     DrawFocus(painter, option.rect.adjusted(2, 2, -2, -4), Px(4), option.palette);
 }
 
+/// One of the arrows beside tabs that have no room.
+void DrawTabArrow(const QStyleOptionToolButton& option, QPainter& painter) {
+  const Colours& c = ColoursOf(option.palette);
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  painter.fillRect(option.rect, c.Ground);
+  painter.save();
+  painter.translate(QRectF(option.rect).center());
+  painter.rotate(option.arrowType == Qt::LeftArrow ? 90 : -90);
+  DrawChevron(painter, {}, Px(10), enabled ? c.Soft : c.Faint);
+  painter.restore();
+}
+
 void DrawMenuItem(const QStyleOptionMenuItem& option, QPainter& painter) {
   const Colours& c = ColoursOf(option.palette);
   const QRect rect = option.rect;
@@ -128,6 +140,10 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
   if (control == CC_ComboBox)
     if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option))
       return DrawCombo(*combo, *painter);
+  if (control == CC_ToolButton)
+    if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+        button && button->arrowType != Qt::NoArrow)
+      return DrawTabArrow(*button, *painter);
   if (control == CC_SpinBox) {
     QStyleOptionFrame field;
     field.QStyleOption::operator=(*option);

@@ -36,6 +36,7 @@ constexpr Metric kMetrics[] = {
     {QStyle::PM_TabBarTabShiftVertical, 0},
     {QStyle::PM_TabBarTabShiftHorizontal, 0},
     {QStyle::PM_TabBarBaseOverlap, 0},
+    {QStyle::PM_TabBarScrollButtonWidth, 28},
     {QStyle::PM_ButtonShiftHorizontal, 0},
     {QStyle::PM_ButtonShiftVertical, 0},
 };
@@ -73,6 +74,15 @@ void DrawDot(const QStyleOption& option, QPainter& painter) {
   const qreal inset = box.width() * 0.32;
   DrawBox(painter, box.adjusted(inset, inset, -inset, -inset), ColoursOf(option.palette).OnGold,
           QColor(), box.width() / 2);
+}
+
+/// Tabs that go on beyond the edge fade there.
+void DrawTear(const QRect& rect, bool toRight, QColor ground, QPainter& painter) {
+  QLinearGradient fade(rect.topLeft(), rect.topRight());
+  fade.setColorAt(toRight ? 1 : 0, ground);
+  ground.setAlpha(0);
+  fade.setColorAt(toRight ? 0 : 1, ground);
+  painter.fillRect(rect, fade);
 }
 
 }  // namespace
@@ -190,9 +200,11 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
       painter->setPen(c.Edge);
       painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
       return;
+    case PE_IndicatorTabTearLeft:
+    case PE_IndicatorTabTearRight:
+      return DrawTear(option->rect, element == PE_IndicatorTabTearRight, c.Ground, *painter);
     case PE_FrameMenu:
     case PE_FrameTabBarBase:
-    case PE_IndicatorTabTear:
     case PE_PanelScrollAreaCorner:
       return;
     case PE_PanelItemViewRow:

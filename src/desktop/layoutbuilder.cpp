@@ -9,6 +9,7 @@
 #include "desktop/boxshape.h"
 #include "desktop/button.h"
 #include "desktop/card.h"
+#include "desktop/formgrid.h"
 #include "desktop/levelcolumns.h"
 #include "desktop/pieces.h"
 #include "desktop/spoken.h"
@@ -35,8 +36,9 @@ void Widen(QWidget& widget, const Box& box) {
     widget.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-QGridLayout* NewGrid(int gap) {
-  auto* grid = new QGridLayout;
+template <class Grid = QGridLayout>
+Grid* NewGrid(int gap) {
+  auto* grid = new Grid;
   grid->setHorizontalSpacing(Px(gap));
   grid->setVerticalSpacing(Px(kClose));
   return grid;
@@ -276,7 +278,7 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
 /// its own.
 void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
   const bool across = into->direction() == QBoxLayout::LeftToRight;
-  QGridLayout* form = NewGrid(across ? kClose : kWide);
+  QGridLayout* form = across ? NewGrid(kClose) : NewGrid<FormGrid>(kWide);
   form->setColumnStretch(1, 1);
   int row = 0;
   bool grows = false;
@@ -299,7 +301,9 @@ void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
     form->setRowStretch(row, tall ? 1 : 0);
     ++row;
   }
-  into->addLayout(form, grows || across ? 1 : 0);
+  // In a row a drop-down is as wide as its longest choice.
+  const bool shares = across && fields.front()->Shown->Is() != ui::Kind::ComboBox;
+  into->addLayout(form, grows || shares ? 1 : 0);
 }
 
 /// What a field shows with its buttons behind it, and the words that they open across the next row.

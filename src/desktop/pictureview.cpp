@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 
 #include "desktop/drawn/drawn.h"
 #include "desktop/housestyle.h"
@@ -18,6 +19,7 @@ namespace {
 
 /// Widest that a picture asks for by itself; it takes more where it is given more.
 constexpr QSize kAskedFor(480, 300);
+constexpr double kWordsEnd = 0.89;  // of a backdrop's height
 
 /// Makes the outer tenth of a picture fade away.
 void FadeEdges(QImage& image) {
@@ -58,7 +60,7 @@ void Backdrop::SetFile(const QString& file) {
   for_ = {};
 }
 
-void Backdrop::Paint(QPainter& painter, const QWidget& on) {
+void Backdrop::Paint(QPainter& painter, const QWidget& on, int floor) {
   const double ratio = on.devicePixelRatioF();
   if (for_ != on.size()) {
     for_ = on.size();
@@ -66,8 +68,18 @@ void Backdrop::Paint(QPainter& painter, const QWidget& on) {
   }
   if (scaled_.isNull()) return;
   const QSizeF size = scaled_.deviceIndependentSize();
-  painter.drawPixmap(QPointF((on.width() - size.width()) / 2, (on.height() - size.height()) / 2),
-                     scaled_);
+  const double middle = (on.height() - size.height()) / 2;
+  const double lift = std::max(0.0, middle + size.height() * kWordsEnd - floor);
+  painter.drawPixmap(QPointF((on.width() - size.width()) / 2, middle - lift), scaled_);
+  const double end = middle + size.height() - lift;
+  if (end >= on.height()) return;
+  // The picture runs out into what is below it.
+  QColor ground = ColoursOf(&on).Ground;
+  QLinearGradient fade(0, end - Px(48), 0, end);
+  fade.setColorAt(1, ground);
+  ground.setAlpha(0);
+  fade.setColorAt(0, ground);
+  painter.fillRect(QRectF(0, end - Px(48), on.width(), on.height() - end + Px(48)), fade);
 }
 
 PictureView::PictureView(ui::Picture& picture, Stage& stage, QWidget* parent)

@@ -42,7 +42,8 @@ class Backdrop {
   explicit Backdrop(QString file = {}) : file_(std::move(file)) {}
   void SetFile(const QString& file);
   const QString& File() const { return file_; }
-  void Paint(QPainter& painter, const QWidget& on);
+  /// What the picture says at its foot is lifted above `floor`, where other things stand.
+  void Paint(QPainter& painter, const QWidget& on, int floor);
 
  private:
   QString file_;

@@ -6,7 +6,6 @@
 
 #include "desktop/boxshape.h"
 #include "desktop/dates.h"
-#include "desktop/scroller.h"
 #include "desktop/tableview.h"
 #include "desktop/turninglayout.h"
 #include "ui/acts.h"
@@ -89,6 +88,13 @@ bool ScreenView::HasTitlePicture() const {
   });
 }
 
+int ScreenView::Floor() const {
+  for (ControlView* view : views_)
+    if (&view->Shows() == behind_ && behind_->File.Get() == "vxm_title.jpg")
+      return view->Widget()->mapTo(this, QPoint(0, view->Widget()->height())).y();
+  return height();
+}
+
 void ScreenView::DressPictures() {
   for (ControlView* view : views_) {
     auto* picture = dynamic_cast<PictureView*>(view);
@@ -115,21 +121,22 @@ void ScreenView::BuildPage() {
     tail_->insertWidget(0, table->TakeSearchRow(), 0, Qt::AlignBottom);
 }
 
+/// Its actions are always in sight.
 void ScreenView::BuildDialog() {
   QBoxLayout* const rows =
       DialogSize().isValid() ? BuildWhole({}) : NewLayout<QVBoxLayout>(this, kPartGap);
   rows->addLayout(BuildHead());
   BuildBody(rows);
-  rows->addLayout(BuildActions());
+  static_cast<QBoxLayout*>(layout())->addLayout(BuildActions());
 }
 
-/// Head, body and actions, which scroll together where the window is too low for them.
+/// Head and body, which scroll together where the window is too low for them.
 QBoxLayout* ScreenView::BuildWhole(QMargins margins) {
-  auto* scroller = new Scroller(this, false);
-  auto* whole = new QWidget(scroller);
+  whole_ = new Scroller(this, false);
+  auto* whole = new QWidget(whole_);
   auto* rows = NewLayout<QVBoxLayout>(whole, kPartGap, margins);
-  scroller->Hold(whole);
-  NewLayout<QVBoxLayout>(this, -1)->addWidget(scroller);
+  whole_->Hold(whole);
+  NewLayout<QVBoxLayout>(this, kPartGap)->addWidget(whole_, 1);
   return rows;
 }
 
@@ -204,6 +211,7 @@ void ScreenView::BuildBody(QBoxLayout* into) {
   builder.Build(page_.Body, column);
   scroller->Hold(body);
   into->addWidget(scroller, 1);
+  if (whole_) whole_->SetInner(*scroller);
   views_.insert(views_.end(), builder.Views().begin(), builder.Views().end());
   cards_ = builder.Cards();
 }
@@ -343,7 +351,7 @@ void ScreenView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const Colours& c = ColoursOf(this);
   painter.fillRect(rect(), c.Ground);
-  backdrop_.Paint(painter, *this);
+  backdrop_.Paint(painter, *this, Floor());
   const bool waits = screen_->Is() == ui::Role::Wait;
   if (!waits && title_->isHidden()) return;
   // Words stand on the picture: it steps back, at the bottom alone while one waits.

@@ -8,6 +8,7 @@
 #include "desktop/button.h"
 #include "desktop/layoutbuilder.h"
 #include "desktop/pictureview.h"
+#include "desktop/scroller.h"
 #include "desktop/textviews.h"
 #include "ui/screen.h"
 
@@ -63,6 +64,8 @@ class ScreenView : public QWidget {
   void FindBackdrop();
   void DressPictures();
   bool HasTitlePicture() const;
+  /// Above which the words of the picture behind stand.
+  int Floor() const;
   /// Makes a view of the control here and gives its widget.
   QWidget* Add(ui::Control& control);
   bool PressCancel();
@@ -73,6 +76,7 @@ class ScreenView : public QWidget {
   ui::Page page_;
   std::vector<ControlView*> views_;
   std::vector<LayoutBuilder::CardContents> cards_;
+  Scroller* whole_ = nullptr;  // of head and body
   QLabel* title_ = nullptr;
   QBoxLayout* tail_ = nullptr;      // of the head: what is searched and done
   std::vector<ButtonView*> mains_;  // Main, Then and First

@@ -7,7 +7,9 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kLeastBody = 170;  // under a window's head, before all of the page scrolls
+// The least height of a body that scrolls by itself: alone, and in a scroller, before all of that
+// scrolls instead.
+constexpr int kLeast = 80, kLeastWithin = 170;
 
 }  // namespace
 
@@ -20,8 +22,35 @@ QSize Scroller::sizeHint() const {
   return tight_ ? QSize(wanted.width(), LeastHeight(WholeWidth())) : wanted;
 }
 
+int Scroller::LeastRoom() const {
+  return std::clamp(LeastHeight(WholeWidth()), Px(kLeast), Px(isWithin_ ? kLeastWithin : kLeast));
+}
+
+/// All of a body is as high as it likes to be, though hardly more than its window shows at once.
 QSize Scroller::minimumSizeHint() const {
-  return {Px(160), std::clamp(LeastHeight(WholeWidth()), Px(80), Px(kLeastBody))};
+  if (window_ == 0) return {Px(160), LeastRoom()};
+  const int width = WholeWidth(), least = LeastHeight(width);
+  const QLayout* layout = widget()->layout();
+  const int liked = layout->hasHeightForWidth() ? layout->totalHeightForWidth(width)
+                                                : layout->totalSizeHint().height();
+  const int bar =
+      width > maximumViewportSize().width() ? horizontalScrollBar()->sizeHint().height() : 0;
+  return {Px(160), std::max(least, std::min(liked, std::max(window_, least * 5 / 4))) + bar};
+}
+
+void Scroller::SetWhole(int window) {
+  if (window_ == window) return;
+  window_ = window;
+  updateGeometry();
+}
+
+/// Whether the body scrolls by itself is told from what it needs for that, however it is now.
+void Scroller::FitInner(int width, int room) {
+  const int head = LeastHeight(width) - inner_->minimumSizeHint().height();
+  const int window = head + inner_->LeastRoom() > room ? room : 0;
+  if (window == inner_->window_) return;
+  inner_->SetWhole(window);
+  widget()->layout()->invalidate();
 }
 
 int Scroller::LeastHeight(int width) const {
@@ -41,6 +70,7 @@ void Scroller::Fit() {
   const QSize room = maximumViewportSize();
   int width = WholeWidth();
   const int bar = width > room.width() ? horizontalScrollBar()->sizeHint().height() : 0;
+  if (inner_) FitInner(width, room.height());
   int height = LeastHeight(width);
   if (height > room.height() - bar) {
     const int beside = room.width() - verticalScrollBar()->sizeHint().width();

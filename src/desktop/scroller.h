@@ -12,6 +12,12 @@ class Scroller : public BareScroller {
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  /// Has this one, which stands in the body, scroll by itself only where it has room enough for
+  /// that; else all of it scrolls with the rest.
+  void SetInner(Scroller& inner) {
+    inner_ = &inner;
+    inner.isWithin_ = true;
+  }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -22,8 +28,15 @@ class Scroller : public BareScroller {
   /// The body's width without a scroll bar beside it.
   int WholeWidth() const;
   void Fit();
+  /// The least that it needs in order to scroll by itself.
+  int LeastRoom() const;
+  /// Shows all of its body, whose window has this height; 0: scrolls by itself.
+  void SetWhole(int window);
+  void FitInner(int width, int room);
 
-  bool tight_;
+  Scroller* inner_ = nullptr;
+  int window_ = 0;
+  bool tight_, isWithin_ = false;
   bool placed_ = false;  // before that its width says nothing
 };
 

@@ -132,8 +132,8 @@ SideBar::SideBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(
   connect(logo, &QAbstractButton::clicked, this, [this] { Home(); });
   rows->addWidget(logo);
 
-  auto* scroller = new BareScroller(this);
-  scroller->setWidgetResizable(true);
+  scroller_ = new BareScroller(this);
+  scroller_->setWidgetResizable(true);
   middle_ = new QWidget;
   auto* lines = NewLayout<QVBoxLayout>(middle_, 0);
   for (const ui::SideGroup& group : page.Side) {
@@ -143,8 +143,8 @@ SideBar::SideBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(
     for (const auto& command : group.Commands) AddCommand(command, stage, middle_, lines);
   }
   lines->addStretch(1);
-  scroller->Hold(middle_);
-  rows->addWidget(scroller, 1);
+  scroller_->Hold(middle_);
+  rows->addWidget(scroller_, 1);
 
   auto* search = new SideLine(this, "Search everything");
   search->SetKey("Ctrl K");
@@ -176,7 +176,24 @@ void SideBar::Hold(const std::function<std::string(const ui::Button& command)>& 
 }
 
 void SideBar::SetNow(const ui::Button* present) {
-  for (Command* command : commands_) command->SetNow(&command->Presses() == present);
+  bool moved = false;
+  for (Command* command : commands_) {
+    const bool now = &command->Presses() == present;
+    moved = moved || now != command->IsNow();
+    command->SetNow(now);
+  }
+  if (moved) ShowPresent();
+}
+
+void SideBar::ShowPresent() {
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        for (Command* command : commands_)
+          if (command->IsNow() && command->parentWidget() == middle_)
+            scroller_->ensureWidgetVisible(command, 0, command->height());
+      },
+      Qt::QueuedConnection);
 }
 
 void SideBar::FitWidth(int window) {

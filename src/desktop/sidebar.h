@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "desktop/button.h"
+#include "desktop/pieces.h"
 #include "ui/screen.h"
 
 namespace grapplemont::desktop {
@@ -50,16 +51,22 @@ class SideBar : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent*) override { FitLines(); }
+  void resizeEvent(QResizeEvent*) override {
+    FitLines();
+    ShowPresent();
+  }
 
  private:
   class Command;
   void AddCommand(const ui::SideGroup::Command& command, Stage& stage, QWidget* holder,
                   QVBoxLayout* into);
   void FitLines();
+  /// Scrolls to the present command, once the lines have their places.
+  void ShowPresent();
 
   std::vector<Command*> commands_;
   std::vector<QWidget*> headings_;
+  BareScroller* scroller_;
   QWidget* middle_;
 };
 

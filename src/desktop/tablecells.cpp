@@ -199,6 +199,11 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
   const ui::Cell& cell = model_.Table().At(index.row(), index.column());
   const ui::Column& column = model_.Column(index.column());
   QRect room = option.rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
+  // Where the table is cut, so that the words end there.
+  const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+  const int edge = view ? view->viewport()->width() - 1 : room.right();
+  const bool cut = room.right() > edge;
+  if (cut) room.setRight(edge);
   room.setLeft(room.left() +
                DrawSmall(&painter, room, column, model_.Table().RowAt(index.row()).Key));
   painter.setFont(TextFont());
@@ -210,7 +215,7 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
     DrawTag(painter, room, cell, c);
   } else if (column.Kind == ColumnKind::Tags) {
     DrawTags(painter, room, cell, column, c);
-  } else if (IsBar(cell, column.Kind)) {
+  } else if (IsBar(cell, column.Kind) && !cut) {
     DrawBar(painter, room, cell, c);
   } else {
     const bool link = cell.Colour == ui::Tone::Plain && IsLink(index);

@@ -47,6 +47,11 @@ void TableGrid::SetCurrentRow(int row) {
   setCurrentIndex(row < 0 ? QModelIndex() : model_.index(row, model_.Table().Columns().front()));
 }
 
+bool TableGrid::SeesCursor(int height) const {
+  const int place = rowViewportPosition(CurrentRow());
+  return currentIndex().isValid() && place >= 0 && place < height;
+}
+
 QSize TableGrid::sizeHint() const {
   const int rows = std::clamp(model_.rowCount(), 2, std::max(2, model_.List().Room));
   return {Px(240), heading_->sizeHint().height() + rows * Px(kRowHeight) + 2};
@@ -251,11 +256,10 @@ void TableGrid::paintEvent(QPaintEvent* event) {
 }
 
 void TableGrid::resizeEvent(QResizeEvent* event) {
-  const int place = rowViewportPosition(CurrentRow());
-  const bool inView = place >= 0 && place < event->oldSize().height();
+  const bool seen = SeesCursor(event->oldSize().height());
   QTableView::resizeEvent(event);
   if (Resized) Resized();
-  if (currentIndex().isValid() && inView && painted_) scrollTo(currentIndex());
+  if (seen && painted_) scrollTo(currentIndex());
 }
 
 /// The cursor's line reaches over all cells, so scrolled pieces do not fit together.

@@ -49,6 +49,8 @@ class TableGrid : public QTableView {
   /// -1 when there is none.
   int CurrentRow() const { return currentIndex().row(); }
   void SetCurrentRow(int row);
+  /// Whether the cursor's row begins in a viewport of this height.
+  bool SeesCursor(int height) const;
 
   /// So many of the first columns shown stay in place while the others scroll.
   void SetPinned(int count);

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
@@ -97,7 +98,8 @@ void TableHeading::DrawHeading(QPainter& painter, const QRect& rect, int column)
   const bool filtered = !table.FilterOf(column).empty();
   const int marks = MarksWidth(column);
   const QFontMetrics metrics(HeadingFont());
-  const QRect room = rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
+  QRect room = rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
+  room.setRight(std::min(room.right(), viewport()->width() - 1));
   const QString title =
       metrics.elidedText(WordsOf(shown), Qt::ElideRight, room.width() - marks + 1);
   const int width = metrics.horizontalAdvance(title);

@@ -40,12 +40,13 @@ void TableView::PickAll() {
 }
 
 void TableView::DropUnseen() {
-  const std::size_t chosen = control_.Extends ? control_.Keys().size() : 0;
-  if (chosen < 2) return;
+  const std::size_t chosen = control_.Multi ? 0 : control_.Keys().size();
   std::vector<int> seen;
   for (int row = 0; row < model_.rowCount(); ++row)
     if (table_.RowAt(row).Selected) seen.push_back(row);
-  if (seen.size() < chosen) PickShown(seen);
+  if (seen.size() == chosen || control_.Multi) return;
+  if (seen.empty() && model_.rowCount() > 0) return Act(0, false);
+  if (control_.Extends) PickShown(seen);
 }
 
 /// What is shown; where several rows are chosen, those.

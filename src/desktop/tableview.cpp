@@ -20,11 +20,12 @@ QString SearchHint(const ui::ListBox& list) {
     const ui::Column& column = list.Columns()[i];
     const bool number =
         column.Kind == ui::ColumnKind::Number || column.Kind == ui::ColumnKind::Percent;
-    // A date is a number to the table, but nobody would look for one by its size.
+    // A place or a date is a number to the table, but nobody would look for one by its size.
+    const bool place = column.Title == "#" || column.Title == "Place";
     const bool plain =
         list.Count() == 0 || i >= list.Rows().front().Cells.size() ||
         list.Rows().front().Cells[i].Text.find_first_not_of("0123456789%") == std::string::npos;
-    if (number && plain && !column.Title.empty())
+    if (number && plain && !place && !column.Title.empty())
       return "Filter: " + Shown(column.Title) + " >60\u2026";
   }
   return "Filter\u2026";
@@ -103,6 +104,7 @@ void TableView::Connect() {
   heading.Clicked = [this](int column, bool second) {
     table_.TurnSort(column, second);
     Rearrange();
+    grid_->scrollTo(grid_->currentIndex());
   };
   connect(&heading, &QHeaderView::sectionMoved, this, &TableView::TakeOrder);
   connect(&heading, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
@@ -156,6 +158,7 @@ void TableView::Rearrange() {
   const QScopedValueRollback<bool> arranging(arranging_, true);
   const int top = grid_->verticalScrollBar()->value(), before = grid_->CurrentRow();
   const int across = grid_->horizontalScrollBar()->value();
+  const bool seen = grid_->SeesCursor(grid_->viewport()->height());
   model_.Reset();
   ApplyColumns();
   FitColumns();
@@ -167,6 +170,7 @@ void TableView::Rearrange() {
   if (row < 0 && before >= 0) row = std::min(before, rows - 1);
   grid_->SetCurrentRow(row);
   grid_->verticalScrollBar()->setValue(top);
+  if (seen) grid_->scrollTo(grid_->currentIndex());
   grid_->horizontalScrollBar()->setValue(across);
   ShowSearchRow();
   ShowFilterRow();
@@ -243,9 +247,16 @@ void TableView::RestorePlace() {
   currentKey_ = table_.State().CurrentKey;
   const int top = table_.State().TopRow;
   Rearrange();
-  // The grid knows how far it can scroll once it has been laid out.
+  // The grid knows how far it can scroll once it has been laid out. What has been kept may hide
+  // what the page has chosen.
   QMetaObject::invokeMethod(
-      this, [this, top] { grid_->verticalScrollBar()->setValue(top); }, Qt::QueuedConnection);
+      this,
+      [this, top] {
+        grid_->verticalScrollBar()->setValue(top);
+        grid_->scrollTo(grid_->currentIndex());
+        if (isVisible() && table_.Follows()) DropUnseen();
+      },
+      Qt::QueuedConnection);
 }
 
 void TableView::Leave() {

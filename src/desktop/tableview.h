@@ -51,7 +51,8 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void AddRow(int shownRow);
   void ReachRow(int shownRow);
   void PickAll();
-  /// Nobody acts on rows that they do not see.
+  /// Nobody acts on rows that they do not see: of several those seen stay chosen, else the first
+  /// seen is chosen instead.
   void DropUnseen();
   void PickShown(const std::vector<int>& shownRows);
   /// Shows the rows again; the cursor stays on its row.

@@ -123,7 +123,7 @@ void Table::SortRows() {
   std::vector<SortColumn> keys;
   for (const auto& [id, descending] : state_.Sort)
     for (int column = 0; Index(column) < list_.Columns().size(); ++column) {
-      if (Id(column) != id) continue;
+      if (Id(column) != id || !Sorts(column)) continue;
       SortColumn& key = keys.emplace_back();
       key.Descending = descending;
       const bool numeric = IsNumeric(list_.Columns()[Index(column)].Kind);
@@ -142,7 +142,12 @@ void Table::SortRows() {
   });
 }
 
+bool Table::Sorts(int listColumn) const {
+  return !list_.OnMove && !list_.Columns()[Index(listColumn)].Title.empty();
+}
+
 void Table::TurnSort(int listColumn, bool second) {
+  if (!Sorts(listColumn)) return;
   const bool falls = IsNumeric(list_.Columns()[Index(listColumn)].Kind) &&
                      list_.Columns()[Index(listColumn)].Kind != ColumnKind::Date;
   const std::string id = Id(listColumn);
@@ -161,6 +166,7 @@ void Table::TurnSort(int listColumn, bool second) {
 }
 
 int Table::SortPlace(int listColumn) const {
+  if (!Sorts(listColumn)) return 0;
   const std::string id = Id(listColumn);
   for (std::size_t i = 0; i < state_.Sort.size(); ++i)
     if (state_.Sort[i].Column == id) return static_cast<int>(i) + 1;

@@ -69,6 +69,8 @@ class Table {
   bool Filtered() const { return rows_.size() != list_.Rows().size(); }
 
   const TableState& State() const { return state_; }
+  /// Rows that can be moved have an order of their own, and a column without a heading has none.
+  bool Sorts(int listColumn) const;
   /// The next of: the kind's own order (numbers fall, texts rise), the other way round, unsorted.
   /// `second` leaves the first key as it is.
   void TurnSort(int listColumn, bool second);

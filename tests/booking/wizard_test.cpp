@@ -207,6 +207,21 @@ TEST(frmBookSheet, GoesBackToAStepAndKeepsWhatStillHolds) {
   EXPECT_EQ(DescribeSegment(play.World(), play.Slot()), "Man 2 over Man 1");
 }
 
+TEST(frmBookSheet, KeepsThePicksOfAStepThatWasLeft) {
+  BookingPlay play(BookingRoster().Game("CWA"));
+  play.Book();
+  play.ChooseMatch("1 vs 1", "Singles");
+  const std::string nobody = play.Desk.Text("lblwho");
+  play.Desk.Pick("lstwres1", "Man 3");
+  play.Desk.Pick("lstwres2", "Man 4");
+  const std::string picked = play.Desk.Text("lblwho");
+  ASSERT_NE(picked, nobody);
+  play.Desk.Click("cmdback");
+  ASSERT_EQ(play.Desk.TopName(), "frmBookSheet");
+  play.Desk.Click("cmdbook(3)");
+  EXPECT_EQ(play.Desk.Text("lblwho"), picked);
+}
+
 TEST(frmBookSheet, TakesMoraleOnceForARowThatIsEdited) {
   World world = BookingRoster().Game("CWA");
   Segment match = MatchOf(world, kSingles, kPlainSingles, {"Man 1", "Man 2"});

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTextEdit>
 #include <set>
@@ -45,6 +46,29 @@ QStringList Overlaps(const QWidget& window) {
   return found;
 }
 
+/// What is wrong with the way in which the topmost screen scrolls: its main button is not whole in
+/// sight over a dialog, or what scrolls stands in what scrolls.
+QStringList BadlyScrolled(const desktop::Window& window, ui::Screen& top) {
+  QStringList found;
+  const auto* view = window.findChild<desktop::ScreenView*>(QString::fromStdString(top.Name()));
+  if (!view || !view->isVisible()) return found;
+  const auto scrolls = [](const QWidget* area) {
+    const auto* scroller = dynamic_cast<const desktop::Scroller*>(area);
+    return scroller && scroller->isVisible() && scroller->verticalScrollBar()->maximum() > 0;
+  };
+  for (const QWidget* inner : view->findChildren<QWidget*>())
+    for (const QWidget* outer = inner->parentWidget(); scrolls(inner) && outer != view;
+         outer = outer->parentWidget())
+      if (scrolls(outer)) found << "a scroller in a scroller";
+  const ui::Button* main = top.Is() == ui::Role::Dialog ? top.Layout().Main : nullptr;
+  const auto* gold = main && main->Visible
+                         ? view->findChild<QWidget*>(QString::fromStdString(main->Name()))
+                         : nullptr;
+  if (gold && gold->visibleRegion().boundingRect() != gold->rect())
+    found << gold->objectName() + " is cut";
+  return found;
+}
+
 TEST(TheAlbum, ComesToTheScreensAndNothingOverlapsInASmallWindowWithLargeText) {
   HomeFolder home(RichWorld().Build());
   home.StartNewGame();
@@ -64,6 +88,9 @@ TEST(TheAlbum, ComesToTheScreensAndNothingOverlapsInASmallWindowWithLargeText) {
     const QStringList overlaps = Overlaps(play.Window);
     EXPECT_TRUE(overlaps.isEmpty())
         << screen << " " << look.toStdString() << ": " << overlaps.join(", ").toStdString();
+    const QStringList scrolled = BadlyScrolled(play.Window, *play.Desk.Top());
+    EXPECT_TRUE(scrolled.isEmpty())
+        << screen << " " << look.toStdString() << ": " << scrolled.join(", ").toStdString();
   };
   desktop::Album album(play.Window, play.Desk, looks, check);
   album.Fill();
@@ -73,6 +100,32 @@ TEST(TheAlbum, ComesToTheScreensAndNothingOverlapsInASmallWindowWithLargeText) {
   play.Window.SetLook(desktop::Scheme::Dark, 0);
   play.Desk.CloseAll();
   game.CloseSlot();
+}
+
+TEST(TheFields, StandBelowTheirLabelsWhereTheyHaveNoRoomBesideThem) {
+  class Fields : public ui::Screen {
+   public:
+    explicit Fields(ui::Desk& desk) : Screen(desk, "frmFields", "Fields") {}
+    ui::Page Layout() override {
+      return {.Body = ui::Columns(
+                  {ui::Group("One", {ui::Field("The price of a ticket in dollars", hsprice)}),
+                   ui::Group("Two", {lblmore})})};
+    }
+    ui::ScrollBar hsprice{*this, "hsprice", 5, 100};
+    ui::Label lblmore{*this, "lblmore", "There is more."};
+  };
+  Log notes;
+  Player play;
+  play.Open(std::make_unique<Hub>(play.Desk, notes));
+  play.Open(std::make_unique<Fields>(play.Desk));
+  play.Window.resize(1024, 640);
+  for (const int percent : {100, 200}) {
+    play.Window.SetLook(desktop::Scheme::Dark, desktop::DesktopText() * (percent - 100) / 100);
+    for (int i = 0; i < 4; ++i) QApplication::processEvents();
+    const QWidget& price = *play.See("hsprice");
+    EXPECT_EQ(price.visibleRegion().boundingRect().width(), price.width()) << percent;
+  }
+  play.Window.SetLook(desktop::Scheme::Dark, 0);
 }
 
 TEST(TheTopBar, KeepsItsFormFromDayToDay) {

@@ -83,6 +83,29 @@ TEST_F(TheTableInTheWindow, FiltersByTheSearchLine) {
   EXPECT_EQ(Play.Desk.Top(), Page) << "the first Escape only empties the line";
 }
 
+TEST_F(TheTableInTheWindow, LeavesNobodyChosenWhomTheFilterHides) {
+  Open();
+  Play.ClickRow("lstpeople", 0);
+  Play.Key(Qt::Key_F, Qt::ControlModifier);
+  Play.Type("heel");
+  EXPECT_EQ(Page->lstpeople.Key(), 102) << "the first that is seen";
+  EXPECT_EQ(Notes.back(), "picked 102") << "so that what stands beside is about them";
+}
+
+TEST_F(TheTableInTheWindow, KeepsTheChosenRowInSightWhenItIsSorted) {
+  Page = new PeoplePage(Play.Desk, Notes, false);
+  for (int more = 0; more < 60; ++more) Page->lstpeople.Add({"", "More", "", 1}, 200 + more);
+  Play.Open(std::unique_ptr<ui::Screen>(Page));
+  QApplication::processEvents();
+  Play.ClickRow("lstpeople", 0);
+  Play.ClickHeading("lstpeople", 3);
+  Play.ClickHeading("lstpeople", 3);  // the least first
+  QApplication::processEvents();
+  desktop::TableGrid& grid = Play.Grid("lstpeople");
+  EXPECT_GT(grid.CurrentRow(), 50);
+  EXPECT_TRUE(grid.viewport()->rect().contains(grid.visualRect(grid.currentIndex())));
+}
+
 TEST_F(TheTableInTheWindow, FiltersAndHidesColumnsByItsMenusAndCopiesWhatIsShown) {
   Open();
   QHeaderView& heading = Play.Grid("lstpeople").Heading();

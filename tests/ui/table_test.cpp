@@ -164,6 +164,16 @@ TEST_F(TheTable, KeepsItsStateWhenTheRowsChange) {
   EXPECT_FALSE(Table.Follow()) << "picking is not a change of contents";
 }
 
+TEST_F(TheTable, LeavesRowsInTheirOrderWhereTheyCanBeMoved) {
+  Table.TurnSort(2, true);
+  Table.TurnSort(2, true);
+  ASSERT_EQ(Keys().front(), 14);
+  List.OnMove = [](int, int) {};
+  EXPECT_EQ(ui::Table(List, Table.State()).Rows(), Numbers({0, 1, 2, 3, 4})) << "though it is kept";
+  Table.TurnSort(0, false);
+  EXPECT_EQ(Table.SortPlace(0), 0);
+}
+
 TEST_F(TheTable, HidesAndMovesColumnsButNeverAll) {
   Table.SetOrder({2, 0, 1, 3});
   Table.Show(1, false);

@@ -79,13 +79,19 @@ void StepScreen::Load() {
   Prepare();
   const Wizard& at = wizard();
   const bool alike = at.Earlier.Kind == at.Buffer.Kind || at.Step == kKindStep;
-  if (alike && at.Step < at.EarlierSteps) Recall(at.Earlier);
+  const bool asLeft =
+      at.Left.Step == at.Step && std::memcmp(&at.Left.Buffer, &at.Buffer, sizeof(Segment)) == 0;
+  if (asLeft) {
+    Recall(at.Left.Picks);
+  } else if (alike && at.Step < at.EarlierSteps) {
+    Recall(at.Earlier);
+  }
   isReady_ = true;
   ShowOutlook();
 }
 
 void StepScreen::MakeButtons() {
-  cmdback = std::make_unique<ui::Button>(*this, "cmdback", "Back", [this] { Close(); });
+  cmdback = std::make_unique<ui::Button>(*this, "cmdback", "Back", [this] { Leave(); });
   cmddone = std::make_unique<ui::Button>(*this, "cmddone", "Done", [this] { Finish(false); });
   cmdnext = std::make_unique<ui::Button>(*this, "cmdnext", "Next", [this] { Finish(true); });
   cmdwhy = std::make_unique<ui::Button>(*this, "cmdwhy", "Why?",
@@ -99,6 +105,12 @@ void StepScreen::MakeButtons() {
         jump->Key = "Alt+" + std::to_string(line);
         return jump;
       });
+}
+
+/// What is picked is picked again when the step is opened again.
+void StepScreen::Leave() {
+  wizard().Left = {wizard().Step, buffer(), Draft()};
+  Close();
 }
 
 /// Which row it is for, and how far it is.

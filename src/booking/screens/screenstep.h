@@ -89,6 +89,7 @@ class StepScreen : public ui::Screen {
 
  private:
   void Finish(bool goOn);
+  void Leave();
   void MakeButtons();
   const RosterMarks& Marks();
   void ShowSteps();

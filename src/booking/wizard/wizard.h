@@ -18,6 +18,11 @@ struct Wizard {
   Segment Earlier = {};
   int EarlierSteps = 0;  // of it
   Segment Paid = {};     // the booked row that is edited: what it cost has been paid
+  /// What was picked in a step that was left without storing, and from where.
+  struct LeftStep {
+    int Step = -1;
+    Segment Buffer = {}, Picks = {};
+  } Left = {};
 };
 
 /// A wizard in which nothing is chosen yet.

@@ -64,12 +64,12 @@ class frmFinance : public GameScreen {
         .Actions = {&cmdback, &cmdnotepad, &cmdcharity, &cmdloan, &cmdwages, &cmdtickets},
         .Main = &cmdtickets,
         .Cancel = &cmdback,
-        .Body = ui::Columns({ui::Group("The books", {ui::Grow(lstbooks), lblbeside}).Grow(3),
+        .Body = ui::Columns({ui::Group("The books", {ui::Grow(lstbooks), lblbeside}).Grow(5),
                              ui::Rows({ui::Group("Money at month ends and after this month's shows",
                                                  {ui::Grow(chtmoney)})
                                            .Grow(3),
                                        ui::Group("Month by month", {ui::Grow(lstmonths)}).Grow(2)})
-                                 .Grow(2)})};
+                                 .Grow(6)})};
   }
 
   void Return() override {

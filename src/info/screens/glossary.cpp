@@ -48,7 +48,7 @@ std::string RangeOf(const Field& field) {
     case FieldKind::Date:
       return "a day";
     case FieldKind::Text:
-      return "a text";
+      return {};
     default:
       return NumbersOf(field);
   }

@@ -77,7 +77,7 @@ struct CompareRow {
   Measure (*Of)(const World& world, const Worker& worker);
 };
 constexpr CompareRow kBefore[] = {
-    {"Standing", Side}, {"Position", Place}, {"Over", Points<&Worker::Over>}};
+    {"Disposition", Side}, {"Position", Place}, {"Over", Points<&Worker::Over>}};
 constexpr CompareRow kAfter[] = {{"Condition", Points<&Worker::Condition>},
                                  {"Morale", Points<&Worker::Morale>},
                                  {"Last five", LastFive},

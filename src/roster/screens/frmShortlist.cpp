@@ -63,7 +63,7 @@ class frmShortlist : public GameScreen {
 
   ui::Label lblfacts{*this, "lblfacts"};
   const CellColumns<Worker> columns_ = PeopleTable(
-      {{{"Standing", ui::ColumnKind::Text, 6},
+      {{{"Contract", ui::ColumnKind::Text, 6},
         [this](const Worker& worker) { return MarketStanding(world(), worker); }},
        {{"Status", ui::ColumnKind::Text, 2, "Empty for who is available."}, StatusCell}});
   ui::ListBox lstwres{*this, "lstwres", WithFaces(world(), HeadingsOf(columns_)),

@@ -184,13 +184,13 @@ class frmWorker : public GameScreen {
       });
       rows.push_back({{{title->Name.View(), ui::Tone::Gold},
                        reign == reigns.end() ? "" : LengthOf(**reign, world().Today()),
-                       DateCell(title->Reigns[0].Won, "From the start")},
+                       DateCell(title->Reigns[0].Won, kBeforeTheGame)},
                       world().Titles().NumberOf(*title)});
     }
     for (const TitleReign* reign : reigns)
       if (reign->End != kReignLasts)
         rows.push_back({{reign->Title.View(), LengthOf(*reign, world().Today()),
-                         DateCell(reign->From, "From the start")},
+                         DateCell(reign->From, kBeforeTheGame)},
                         0});
     pictitle.Visible = !held.empty();
     pictitle.Drawn =

@@ -89,7 +89,7 @@ class frmReigns : public GameScreen {
          return ui::Cell(reign.Holder.View(), IsVacancy(reign) ? ui::Tone::Muted : ui::Tone::Plain);
        }},
       {{"From", K::Date, 3},
-       [](const TitleReign& reign) { return DateCell(reign.From, "Before the game"); }},
+       [](const TitleReign& reign) { return DateCell(reign.From, kBeforeTheGame); }},
       {{"Until", K::Date, 3},
        [](const TitleReign& reign) {
          return reign.End == kReignLasts ? ui::Cell(0.0, std::string())

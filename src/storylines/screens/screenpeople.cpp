@@ -13,9 +13,6 @@ namespace {
 
 using K = ui::ColumnKind;
 
-/// A reign that has lasted since before the game has no day.
-constexpr const char* kFromTheStart = "From the start";
-
 ui::Cell ChampionCell(const World& world, const Title& title) {
   return {ChampionText(world, title), title.Holder == 0 ? ui::Tone::Muted : ui::Tone::Plain};
 }
@@ -28,7 +25,7 @@ ui::Cell StandingCell(const World& world, const Title& title) {
 
 const CellColumns<Reign> kReignTable = {
     {{"Holder"}, [](const Reign& reign) { return reign.Holder.View(); }},
-    {{"Won", K::Date}, [](const Reign& reign) { return DateCell(reign.Won, kFromTheStart); }},
+    {{"Won", K::Date}, [](const Reign& reign) { return DateCell(reign.Won, kBeforeTheGame); }},
     {{"Lost", K::Date}, [](const Reign& reign) { return DateCell(reign.Lost, ""); }}};
 
 }  // namespace
@@ -137,7 +134,8 @@ CellColumns<Title> TitleTable(const World& world) {
           {{"Holder"}, [&](const Title& title) { return ChampionCell(world, title); }},
           {{"Since", K::Date},
            [](const Title& title) {
-             return title.Holder == 0 ? ui::Cell("") : DateCell(title.Reigns[0].Won, kFromTheStart);
+             return title.Holder == 0 ? ui::Cell("")
+                                      : DateCell(title.Reigns[0].Won, kBeforeTheGame);
            }},
           {{.Title = "Image",
             .Kind = K::Percent,

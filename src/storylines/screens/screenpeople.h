@@ -82,6 +82,8 @@ void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people);
 ui::Cell DayCell(Day day);
 /// The same of a Title's past, where a day may be unknown.
 ui::Cell DateCell(Day day, const char* unknown);
+/// Where a reign began that has lasted since before the game, and so has no day.
+inline constexpr const char* kBeforeTheGame = "Before the game";
 
 // Small pictures before a table's first words, by the keys of its rows. They hold on to the world.
 

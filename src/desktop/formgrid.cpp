@@ -1,0 +1,67 @@
+#include "desktop/formgrid.h"
+
+#include <algorithm>
+
+namespace grapplemont::desktop {
+
+namespace {
+
+int HeightOf(const QLayoutItem& item, int width, bool least) {
+  if (!item.hasHeightForWidth()) return (least ? item.minimumSize() : item.sizeHint()).height();
+  return least ? item.minimumHeightForWidth(width) : item.heightForWidth(width);
+}
+
+}  // namespace
+
+std::vector<std::pair<int, QLayoutItem*>> FormGrid::Parts() const {
+  std::vector<std::pair<int, QLayoutItem*>> parts;
+  for (int i = 0; i < count(); ++i) {
+    int row = 0, column = 0, rows = 0, columns = 0;
+    getItemPosition(i, &row, &column, &rows, &columns);
+    if (!itemAt(i)->isEmpty()) parts.emplace_back(row, itemAt(i));
+  }
+  return parts;
+}
+
+QSize FormGrid::minimumSize() const {
+  QSize least = QGridLayout::minimumSize();
+  int widest = 0;
+  for (const auto& [row, item] : Parts()) widest = std::max(widest, item->minimumSize().width());
+  least.setWidth(std::min(least.width(), widest));
+  return least;
+}
+
+int FormGrid::HeightAt(int width, bool least) const {
+  if (!Stacks(width)) {
+    if (!QGridLayout::hasHeightForWidth())
+      return (least ? QGridLayout::minimumSize() : sizeHint()).height();
+    return least ? QGridLayout::minimumHeightForWidth(width) : QGridLayout::heightForWidth(width);
+  }
+  int height = 0;
+  for (const auto& [row, item] : Parts())
+    height += HeightOf(*item, width, least) + (height > 0 ? verticalSpacing() : 0);
+  return height;
+}
+
+/// What can use more room than it needs has what is left over.
+void FormGrid::setGeometry(const QRect& rect) {
+  if (!Stacks(rect.width())) return QGridLayout::setGeometry(rect);
+  QLayout::setGeometry(rect);
+  const auto parts = Parts();
+  const auto grows = [this](const auto& part) {
+    return rowStretch(part.first) > 0 && part.second->expandingDirections().testFlag(Qt::Vertical);
+  };
+  const auto growing = static_cast<int>(std::ranges::count_if(parts, grows));
+  const int wished = HeightAt(rect.width(), false);
+  const bool least = wished > rect.height();
+  const int over = rect.height() - (least ? HeightAt(rect.width(), true) : wished);
+  int top = rect.top();
+  for (const auto& part : parts) {
+    int height = HeightOf(*part.second, rect.width(), least);
+    if (growing > 0 && over > 0 && grows(part)) height += over / growing;
+    part.second->setGeometry({rect.left(), top, rect.width(), height});
+    top += height + verticalSpacing();
+  }
+}
+
+}  // namespace grapplemont::desktop
