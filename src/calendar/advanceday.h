@@ -65,6 +65,9 @@ void MerchandiseIncome(World& world);
 void MonthlyCosts(World& world);
 void MonthlyReview(World& world);
 void CloseMonthBooks(World& world);
+/// What the next first of a month takes from the player as things stand, in dollars: wages, running
+/// costs and the repayment, less what merchandise brings then.
+long long DueOnTheFirst(const World& world);
 
 /// What pressing "Next Day" does.
 enum class DayKind { Plain = 1, Television = 2, Event = 3, Stay = 4 };

@@ -2,6 +2,7 @@
 
 #include "business/finance.h"
 #include "business/past.h"
+#include "calendar/advanceday.h"
 #include "calendar/deskwork.h"
 #include "records/fields/vocabulary.h"
 #include "records/fields/wording.h"
@@ -22,12 +23,23 @@ std::string PlusIf(long long change) {
   return change > 0 ? "+" : "";
 }
 
-/// Against the last month end; before the first, by the books.
-DeskTile MoneyTile(const Promotion& player) {
-  const long long now = player.Money, before = player.MoneyBefore[0];
-  const long long moved = before == kNoEnd ? Balance(player.ThisMonth) : now - before;
-  return {"Money " + Dollars(player.Money), PlusIf(moved) + Dollars(moved) + " this month",
-          SignOf(moved)};
+/// "+$160,760 this month", against the last month end; before the first, by the books. On the day
+/// after that what it took away.
+std::string MovedText(const Promotion& player, long long moved) {
+  const long long last = player.MoneyBefore[0], before = player.MoneyBefore[1];
+  const bool tellsLast = moved == 0 && last != kNoEnd && before != kNoEnd;
+  const long long told = tellsLast ? last - before : moved;
+  return PlusIf(told) + Dollars(told) + (tellsLast ? " last month" : " this month");
+}
+
+/// What counts is what is left when the first of the month has been paid.
+DeskTile MoneyTile(const World& world, const Promotion& player) {
+  const long long before = player.MoneyBefore[0], due = DueOnTheFirst(world);
+  const long long moved = before == kNoEnd ? Balance(player.ThisMonth) : player.Money - before;
+  return {"Money " + Dollars(player.Money),
+          MovedText(player, moved) + ", " + Dollars(due < 0 ? -due : due) +
+              (due < 0 ? " comes in" : " due") + " on the 1st",
+          SignOf(moved - due)};
 }
 
 DeskTile ImageTile(const Promotion& player) {
@@ -102,7 +114,7 @@ DeskTile PeopleTile(const World& world) {
 
 std::array<DeskTile, 5> DeskTiles(const World& world) {
   const Promotion& player = world.Player();
-  return {MoneyTile(player), ImageTile(player), StandingTile(world, player), MailTile(world),
+  return {MoneyTile(world, player), ImageTile(player), StandingTile(world, player), MailTile(world),
           PeopleTile(world)};
 }
 

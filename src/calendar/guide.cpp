@@ -58,16 +58,29 @@ std::vector<GuideLine> GuideLines(const World& world) {
   std::vector<GuideLine> lines;
   if (const GuideState* guide = OpenGuide(world))
     ForEachStep(*guide, [&](const GuideStep& step, std::size_t place) {
-      lines.push_back({step.Title, step.Says, guide->Done[place]});
+      lines.push_back({step.Page, step.Title, step.Says, guide->Done[place]});
     });
   return lines;
+}
+
+std::string GuideOnPage(const World& world, std::string_view screen) {
+  const std::vector<GuideLine> lines = GuideLines(world);
+  std::size_t step = 0;
+  while (step < lines.size() && lines[step].IsDone) ++step;
+  if (step == lines.size() || lines[step].Page != screen) {
+    if (step == 0 || lines[step - 1].Page != screen) return {};
+    --step;
+  }
+  return "Your first show, step " + std::to_string(step + 1) + ": " + std::string(lines[step].Says);
 }
 
 void WatchGuide(World& world, const std::vector<std::string_view>& screens) {
   GuideState* guide = OpenGuide(world);
   if (!guide) return;
   ForEachStep(*guide, [&](const GuideStep& step, std::size_t place) {
-    const bool isSeen = std::ranges::find(screens, step.Screen) != screens.end();
+    const bool isSeen = std::ranges::any_of(screens, [&](std::string_view screen) {
+      return step.Screen.find(screen) != step.Screen.npos;
+    });
     if (!guide->Done[place] && (isSeen || HasCome(world, step.Done))) guide->Done[place] = true;
   });
 }

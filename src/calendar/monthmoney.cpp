@@ -108,7 +108,33 @@ void MonthlyCosts(World& world) {
   }
 }
 
+long long DueOnTheFirst(const World& world) {
+  const Promotion& player = world.Player();
+  const WageBill wages = WagesOf(world, player.Uid);
+  long long due = wages.Workers + wages.Staff;
+  if (player.Advertising != 0) due += AdvertisingCost(player.Advertising);
+  if (player.Merchandising != 0) due += MerchandisingCost(player.Merchandising);
+  if (player.Production != 0) due += ProductionCost(player.Production);
+  if (player.LoanAmount > 0) due += MonthlyRepayment(player, world.Game().Difficulty);
+  const int sales = MerchandiseSales(player, world.Game().Economy);
+  return player.Merchandising > 0 ? due - sales : due;
+}
+
+namespace {
+
+void TellMonth(World& world, const MonthBooks& books) {
+  const long long in = TotalIn(books), out = TotalOut(books), left = in - out;
+  if (in == 0 && out == 0) return;
+  AddNews(world, kFinance,
+          "The month is closed: " + Dollars(in) + " came in, " + Dollars(out) +
+              " went out. It has " + (left < 0 ? "cost" : "earned") + " us " +
+              Dollars(left < 0 ? -left : left) + ".");
+}
+
+}  // namespace
+
 void CloseMonthBooks(World& world) {
+  TellMonth(world, world.Player().ThisMonth);
   for (Promotion& promotion : world.Promotions()) {
     promotion.LastMonth = promotion.ThisMonth;
     promotion.ThisMonth = {};

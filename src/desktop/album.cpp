@@ -18,6 +18,8 @@ constexpr std::array<std::string_view, 7> kLast = {
     "cmdloadgame", "cmdcontinue", "cmdauto", "cmdfill", "cmddoshow", "cmduntil", "cmdnext"};
 /// What makes a screen worth a second picture in the first one's place.
 constexpr std::string_view kFills = "cmdfill";
+/// What is taken rather than left, as a show cannot be held without a card.
+constexpr std::string_view kProposes = "frmFill";
 constexpr std::string_view kLeavesTheGame = "cmdquit";
 /// Doors to these open in some games only.
 constexpr std::array<const char*, 4> kRareScreens = {"frmProspect", "frmMonth", "frmPlayOn",
@@ -87,8 +89,8 @@ void Album::Take(const std::string& name) {
     }
 }
 
-/// What is chosen from a list is shown beside it. Lists of the same people each have another chosen,
-/// as nobody stands against themselves.
+/// What is chosen from a list is shown beside it. Lists of the same people each have another
+/// chosen, as nobody stands against themselves.
 void Album::FillIn(ui::Screen& screen) {
   std::vector<const ui::ListBox*> filled;
   for (const ui::Control* control : screen.Controls()) {
@@ -149,7 +151,9 @@ void Album::LeaveTop() {
   const QScopedValueRollback<bool> leaving(saysYes_, true);
   const std::shared_ptr<ui::Screen> top = desk_.Screens().back();
   const ui::Page page = top->Layout();
-  for (const ui::Button* way : {page.Cancel, page.Main})
+  std::array<const ui::Button*, 2> ways{page.Cancel, page.Main};
+  if (top->Name() == kProposes) std::swap(ways[0], ways[1]);
+  for (const ui::Button* way : ways)
     for (int i = 0; way && i < kMostClicks && desk_.Top() == top.get() && way->Enabled; ++i) {
       Click(*top, way->Name());
       if (way == page.Cancel) break;

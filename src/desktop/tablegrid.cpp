@@ -133,6 +133,7 @@ void TableGrid::PickAs(int row, Qt::KeyboardModifiers held) {
 
 void TableGrid::mouseReleaseEvent(QMouseEvent* event) {
   QTableView::mouseReleaseEvent(event);
+  DropAt(-1);
   const int from = std::exchange(dragged_, -1), to = indexAt(event->position().toPoint()).row();
   if (from >= 0 && to >= 0 && from != to) Dragged(from, to);
 }
@@ -157,6 +158,7 @@ void TableGrid::Hover(int row) {
 void TableGrid::mouseMoveEvent(QMouseEvent* event) {
   const QModelIndex cell = indexAt(event->position().toPoint());
   Hover(cell.row());
+  DropAt(dragged_ >= 0 ? cell.row() : -1);
   const auto key = model_.List().Extends ? Qt::AltModifier : Qt::ControlModifier;
   const bool leads = event->modifiers().testFlag(key) && cell.isValid() && LinkOf(cell);
   viewport()->setCursor(leads ? Qt::PointingHandCursor
@@ -231,13 +233,30 @@ void TableGrid::DrawPinned(QPainter& painter) {
 }
 
 void TableGrid::DrawCursor(QPainter& painter) {
-  if (!hasFocus() || CurrentRow() < 0) return;
+  if (!hasFocus()) return;
+  // Without a row the keyboard is still here.
+  if (CurrentRow() < 0)
+    return DrawFocus(painter, QRectF(viewport()->rect()).adjusted(0, 0, -1, -1), Px(3), palette());
   const QRect row(0, rowViewportPosition(CurrentRow()), viewport()->width(),
                   rowHeight(CurrentRow()));
   // A selected row stands out already.
   if (model_.Table().RowAt(CurrentRow()).Selected)
     return painter.fillRect(QRect(0, row.top(), Px(2), row.height() - 1), ColoursOf(this).Blue);
   DrawFocus(painter, QRectF(row).adjusted(0, 0, 0, -1), Px(3), palette());
+}
+
+/// Where the row that is dragged comes to stand.
+void TableGrid::DrawDrop(QPainter& painter) {
+  if (drop_ < 0 || drop_ == dragged_) return;
+  const int top = rowViewportPosition(drop_);
+  const int edge = drop_ < dragged_ ? top : top + rowHeight(drop_);
+  painter.fillRect(0, std::max(0, edge - Px(1)), viewport()->width(), Px(2), ColoursOf(this).Gold);
+}
+
+void TableGrid::DropAt(int row) {
+  if (row == drop_) return;
+  drop_ = row;
+  viewport()->update();
 }
 
 void TableGrid::paintEvent(QPaintEvent* event) {
@@ -248,6 +267,7 @@ void TableGrid::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   DrawPinned(painter);
   DrawCursor(painter);
+  DrawDrop(painter);
   if (model_.rowCount() > 0) return;
   painter.setFont(TextFont());
   painter.setPen(ColoursOf(this).Muted);

@@ -95,6 +95,8 @@ class TableGrid : public QTableView {
   void UpdatePinned();
   void DrawPinned(QPainter& painter);
   void DrawCursor(QPainter& painter);
+  void DrawDrop(QPainter& painter);
+  void DropAt(int row);
 
   TableModel& model_;
   TableCells* cells_;
@@ -102,6 +104,7 @@ class TableGrid : public QTableView {
   QString empty_;
   int hover_ = -1;
   int dragged_ = -1;  // the row that the mouse holds in a list whose rows can be moved
+  int drop_ = -1;     // the row in whose place it would come to stand
   bool painted_ = false;
 };
 

@@ -116,8 +116,8 @@ constexpr FilterFamily kRosterFilters[] = {
     {"cmbmonths", "Contract", kByMonths},
 };
 constexpr FilterFamily kMarketFilters[] = {
-    {"cmbbond", "Bond", kByBond},    {"cmbsex", "Sex", kBySex}, {"cmbwork", "Work", kByWork},
-    {"cmbskill", "Skill", kBySkill}, {"cmbage", "Age", kByAge},
+    {"cmbbond", "Contract", kByBond}, {"cmbsex", "Sex", kBySex}, {"cmbwork", "Work", kByWork},
+    {"cmbskill", "Skill", kBySkill},  {"cmbage", "Age", kByAge},
 };
 
 }  // namespace

@@ -25,7 +25,7 @@ struct FilterFamily {
 
 /// By position, sex, disposition, status and months left.
 std::span<const FilterFamily> RosterFilters();
-/// By bond, sex, kind of work, skill and age.
+/// By contract, sex, kind of work, skill and age.
 std::span<const FilterFamily> MarketFilters();
 
 // The workers of other promotions and of the market whom the player keeps an eye on.

@@ -26,6 +26,10 @@ constexpr Steps kMorale = {"Wants to be anywhere but here.", "Unhappy.",
 constexpr Steps kLoyalty = {"Would never work for you.", "Thinks little of you.",
                             "Has no strong feelings about you.", "Thinks well of you.",
                             "Would go through fire for you."};
+/// The same of whoever knows the player by name only.
+constexpr Steps kRepute = {"Would never work for you.", "Thinks little of you.",
+                           "Has no strong feelings about you.", "Has heard good of you.",
+                           "Has heard nothing but good of you."};
 constexpr Steps kAttitude = {"Impossible to work with.", "Hard to work with.",
                              "Works with most people.", "Easy to work with.",
                              "A joy to work with."};
@@ -123,9 +127,14 @@ FactGroup InTheRing(const Worker& worker) {
   return group;
 }
 
-FactGroup Character(const Worker& worker) {
+template <class Person>
+std::string OpinionOf(const World& world, const Person& person) {
+  return StepOf(WorksForPlayer(world, person) ? kLoyalty : kRepute, person.Loyalty);
+}
+
+FactGroup Character(const World& world, const Worker& worker) {
   return {"Character",
-          {StepOf(kMorale, worker.Morale), StepOf(kLoyalty, worker.Loyalty),
+          {StepOf(kMorale, worker.Morale), OpinionOf(world, worker),
            StepOf(kAttitude, worker.Attitude), StepOf(kBehaviour, worker.Behaviour)}};
 }
 
@@ -258,7 +267,7 @@ std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker) {
   std::vector<FactGroup> facts = {Person(world, worker),
                                   Contract(world, worker),
                                   InTheRing(worker),
-                                  Character(worker),
+                                  Character(world, worker),
                                   BesideTheRing(world, worker),
                                   Titles(world, worker),
                                   {"Awards", AwardLines(world, worker)},
@@ -290,7 +299,7 @@ std::vector<FactGroup> StaffFacts(const World& world, const Staff& staff) {
   std::vector<FactGroup> facts = {Person(staff),
                                   Contract(world, staff),
                                   {"Character",
-                                   {StepOf(kMorale, staff.Morale), StepOf(kLoyalty, staff.Loyalty),
+                                   {StepOf(kMorale, staff.Morale), OpinionOf(world, staff),
                                     StepOf(kBackstage, staff.Backstage)}},
                                   Offices(world, staff)};
   std::erase_if(facts, [](const FactGroup& group) { return group.Lines.empty(); });

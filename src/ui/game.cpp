@@ -149,6 +149,7 @@ ui::Page GameScreen::PageOf(ui::Box body, ui::Label* facts, std::vector<ui::Butt
                             ui::Button* main) {
   ui::Page page;
   page.Facts = facts;
+  page.More = Notes();
   page.Actions = std::move(actions);
   page.Actions.push_back(&cmdback);
   if (main) page.Actions.push_back(main);
@@ -158,6 +159,16 @@ ui::Page GameScreen::PageOf(ui::Box body, ui::Label* facts, std::vector<ui::Butt
   page.Cancel = &cmdback;
   page.Body = std::move(body);
   return page;
+}
+
+std::vector<ui::Label*> GameScreen::Notes() {
+  const std::string note = game_.NoteOn && game_.HasWorld() ? game_.NoteOn(Name()) : std::string();
+  if (!lblguide_ && note.empty()) return {};
+  if (!lblguide_) lblguide_ = std::make_unique<ui::Label>(*this, "lblguide");
+  lblguide_->Colour = ui::Tone::Gold;
+  lblguide_->Text = note;
+  lblguide_->Visible = !note.empty();
+  return {lblguide_.get()};
 }
 
 void GameScreen::cmdback_Click() {

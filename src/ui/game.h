@@ -68,6 +68,10 @@ class Game : public ui::Work {
   /// not throw.
   std::function<void()> Watch;
 
+  /// What a page says under its title to somebody who is new, by the page's name; empty for
+  /// nothing.
+  std::function<std::string(std::string_view screen)> NoteOn;
+
   /// Runs after each commit that has changed a world, with its files: what is always in sight shows
   /// the world as it is now. Must not throw.
   std::function<void(const std::vector<FileChange>& changes)> Kept;
@@ -160,8 +164,10 @@ class GameScreen : public ui::Screen {
 
  private:
   bool LiesOnHub();
+  std::vector<ui::Label*> Notes();
 
   bool manages_;
+  std::unique_ptr<ui::Label> lblguide_;  // once there has been a note on this page
 };
 
 /// Puts the waiting screen up and tells on it what is going on. A handler that throws takes it down

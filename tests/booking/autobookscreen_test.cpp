@@ -54,6 +54,10 @@ TEST(AutoBookScreen, RunsTheShowAndMovesOnToTheNextDay) {
   OnSheet play(Sunday());
   play.Desk.Click("cmdauto");
   ASSERT_TRUE(play.Desk.Enabled("cmdbook"));
+  play.Desk.ExpectAsk("Sure?", "Are you sure you wish to start this show?", false);
+  play.Desk.Click("cmdbook");
+  ASSERT_EQ(play.Desk.TopName(), "frmAutoBook");
+  play.Desk.ExpectAsk("Sure?", "Are you sure you wish to start this show?", true);
   play.Desk.ExpectSay("Show Rating", kAnyText);
   play.Desk.Click("cmdbook");
   const std::string text = play.Desk.Boxes().back().Text;

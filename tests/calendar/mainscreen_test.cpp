@@ -100,7 +100,10 @@ TEST(MainScreen, HasALineOfFiguresThatOpenTheirPages) {
   away.StatusMonths = 1;
   GameOnWorld play(std::move(world));
   play.Desk.Open("frmMainScreen");
-  const char* const kFigures[][3] = {{"Money $12,000", "-$3,000 this month", "frmFinance"},
+  const std::string money =
+      "-$3,000 this month, " + Dollars(DueOnTheFirst(play.World())) + " due on the 1st";
+  EXPECT_GE(DueOnTheFirst(play.World()), 60000) << "six wages of $10,000";
+  const char* const kFigures[][3] = {{"Money $12,000", money.c_str(), "frmFinance"},
                                      {"Image 37%", "63 points short of National", "frmFed"},
                                      {"Standing +12", "This month; no show yet", "frmResults"},
                                      {"Mail 2 unread", "1 for you, 1 digest", "frmNews"},

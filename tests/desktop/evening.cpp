@@ -184,11 +184,17 @@ void Evening::BookARow() {
   ASSERT_EQ(Top(), "frmBookSheet");
 }
 
+void Evening::FillTheRest() {
+  Press("cmdfill");
+  Arrive("frmFill");
+  Press("cmdsheet");
+}
+
 void Evening::BookAShow() {
   for (int day = 0; day < kLongestWait && Top() != "frmBooking"; ++day) Press("cmdnext");
   Arrive("frmBooking");
   Press("cmdbook(1)");
-  Arrive("frmBookSheet");
+  BookARow();
   for (int step = 0; step < kMostSteps && !play_.See("cmdcomplete")->isEnabled(); ++step) {
     Press("cmdstep");
     BookARow();
@@ -196,7 +202,7 @@ void Evening::BookAShow() {
   Press("cmdcomplete");
   Arrive("frmBooking");
   EXPECT_NE(TheWorld().Segments()[1].Kind, kEmptySegment);
-  Press("cmdfill");
+  FillTheRest();
   EXPECT_TRUE(play_.See("cmddoshow")->isEnabled());
 }
 
@@ -227,7 +233,7 @@ void Evening::ToTheMonthsEnd() {
   const int began = month();
   for (int act = 0; act < kMostSteps && month() == began; ++act) {
     if (Top() == "frmBooking" || Top() == "frmPPVBooking") {
-      Press("cmdfill");
+      FillTheRest();
       HoldIt();
     } else if (Top() == "frmMainScreen") {
       Press("cmdnext");

@@ -55,6 +55,8 @@ class Evening {
   void AnswerBox();
   /// From the wizard's first step to the sheet.
   void BookARow();
+  /// By the auto booker's proposal.
+  void FillTheRest();
   void GoHome();
   void Arrive(const std::string& screen);
 

@@ -222,6 +222,7 @@ class Player {
     }
     Sheet(rest);
     if (Desk().Enabled("cmdfill")) Desk().Click("cmdfill");
+    if (Desk().TopName() == "frmFill") Desk().Click("cmdsheet");
     Desk().Click("cmddoshow");
     Until("frmPostShow click cmdnext");
     Desk().Click("cmdback");

@@ -42,7 +42,6 @@ struct ShowPlay : GameOnWorld {
                const std::string& title = "None") {
     const std::string sheet = Desk.TopName();
     Desk.Click("cmdbook(" + std::to_string(row) + ")");
-    Desk.Click("cmdbook(0)");
     Desk.Pick("lststyle", other.empty() ? "Interview" : "Match");
     Desk.Click("cmdnext");
     for (int step = 0; step < 10 && Desk.TopName() != "frmBookSheet"; ++step) {
@@ -57,8 +56,9 @@ struct ShowPlay : GameOnWorld {
 
   /// Lets the sheet fill the rows that are empty.
   void FillTheRest() {
-    Desk.ExpectAsk("Fill The Rest", kAnyText, true);
     Desk.Click("cmdfill");
+    EXPECT_EQ(Desk.TopName(), "frmFill");
+    Desk.Click("cmdsheet");
   }
 
   /// But for the words: the other world is told nothing.

@@ -182,7 +182,7 @@ TEST(frmRoster, HasNoTalksWithTheUnsackable) {
   EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
   EXPECT_TRUE(Holds(play.Desk.Tip("cmdcontract"), "Low Down is unsackable"));
   play.Desk.OpenRow("lstwres", "Low Down");
-  EXPECT_EQ(play.Desk.TopName(), "frmRoster");
+  EXPECT_EQ(play.Desk.TopName(), "frmWorker") << "a row opens the page, whatever there is to talk";
 }
 
 TEST(frmRoster, MeetsSomebodyWhoVanishedMeanwhile) {
@@ -210,6 +210,12 @@ TEST(frmOtherWres, ShowsEverybodyElse) {
   EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Free Fred"}));
   EXPECT_EQ(play.Desk.Text("lblfacts"), "1 of 3 workers, 0 on your shortlist.");
   play.Desk.Pick("cmbbond", "All");
+  play.Desk.Pick("cmbtalks", "Would listen to us");
+  const Names listening = play.Desk.FirstColumn("lstwres");
+  EXPECT_EQ(std::ranges::count(listening, "Fixed Fay"), 0) << "bound for good";
+  EXPECT_EQ(std::ranges::count(listening, "Free Fred"), 1);
+  play.Desk.Click("cmdclear");
+  ASSERT_EQ(play.Desk.Rows("lstwres").size(), 3U);
   play.Desk.Pick("lstwres", "Fixed Fay");
   EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
 }

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "booking/auto/autoplan.h"
+#include "records/segments.h"
 #include "storylines/feuds.h"
 
 namespace grapplemont {
@@ -117,6 +118,23 @@ std::vector<bool> TalkPlaces(int count, int talks, bool isEvent) {
   return places;
 }
 
+bool ShareSomebody(const Segment& one, const Segment& other) {
+  if (one.Kind == kEmptySegment || other.Kind == kEmptySegment) return false;
+  const std::vector<int> people = EverybodyOf(one);
+  return std::ranges::any_of(
+      EverybodyOf(other), [&](int uid) { return std::ranges::find(people, uid) != people.end(); });
+}
+
+/// Brings to the front of the talk that is left what nobody in the rows beside it is part of.
+void ChooseTalk(std::vector<Planned>::iterator front, std::vector<Planned>::iterator end,
+                const std::vector<const Segment*>& beside) {
+  const auto chosen = std::find_if(front, end, [&](const Planned& talk) {
+    return std::ranges::none_of(
+        beside, [&](const Segment* row) { return ShareSomebody(talk.Segment, *row); });
+  });
+  if (chosen != end) std::rotate(front, chosen, chosen + 1);
+}
+
 std::string Count(int number, const char* one, const char* many) {
   constexpr std::array kWords = {"No",   "One", "Two",   "Three", "Four",
                                  "Five", "Six", "Seven", "Eight", "Nine"};
@@ -167,6 +185,13 @@ void PlaceOnRows(AutoPlan& plan) {
   std::size_t place = 0, match = 0, talk = 0;
   for (std::size_t row = plan.View.IsEvent ? 1 : 0; row < plan.Rows.size(); ++row) {
     if (plan.Rows[row].Kind != kEmptySegment || place == count) continue;
+    if (isTalk[place]) {
+      std::vector<const Segment*> beside;
+      if (row > 0) beside.push_back(&plan.Rows[row - 1]);
+      if (row + 1 < plan.Rows.size()) beside.push_back(&plan.Rows[row + 1]);
+      if (match < plan.Matches.size()) beside.push_back(&plan.Matches[match].Segment);
+      ChooseTalk(plan.Talks.begin() + static_cast<std::ptrdiff_t>(talk), plan.Talks.end(), beside);
+    }
     const Planned& next = isTalk[place++] ? plan.Talks[talk++] : plan.Matches[match++];
     plan.Rows[row] = next.Segment;
     plan.Reasons[row] = next.Because;

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <functional>
+
+#include "booking/auto/autobooker.h"
 #include "booking/keptcards.h"
+#include "show/holdshow.h"
 #include "show/runsegment.h"
 #include "ui/game.h"
 
@@ -24,6 +28,19 @@ std::unique_ptr<ui::Screen> MakeEditSheet(Game& game, const SheetPlace& place);
 /// A wizard for an empty record on the desk, with its first step open over it.
 void OpenWizardAtOnce(Game& game, int slot, bool isEvent);
 void OpenWizardAtOnce(Game& game, const SheetPlace& place);
+
+/// A sheet that asks the auto booker for what it has no rows for yet.
+struct FillOrder {
+  std::string Show = {};
+  bool IsEvent = false;
+  int OpenRows = 0;
+  CommentaryTeam Team = {};            // it is foreseen with
+  AutoCard First = {};                 // what is proposed at first
+  std::vector<std::string> Also = {};  // what else changes when it is taken, a sentence each
+  std::function<void()> Taken = {};    // runs when the card lies on the sheet
+};
+/// The proposal, with its reasons, before it is taken.
+std::unique_ptr<ui::Screen> MakefrmFill(Game& game, FillOrder order);
 
 /// The steps of a forecast, from one of its rehearsals.
 std::unique_ptr<ui::Screen> MakefrmForecast(Game& game, const ToldSegment& typical);

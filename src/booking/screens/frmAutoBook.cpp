@@ -23,11 +23,26 @@ auto WithCard(World& world, const AutoCard& card, Look look) {
   return seen;
 }
 
-/// A card for today's television show, proposed whole. What the sheet holds already stays in it;
-/// the sheet itself stays as it is until the player takes the card.
+FillOrder ForTonight(World& world) {
+  const Show* show = ShowOfToday(world);
+  return {.Show = show ? show->Name.Str() : "No show today",
+          .OpenRows = TermsOf(world, false).OpenRows,
+          .Team = show ? TvTeam(world) : CommentaryTeam()};
+}
+
+/// A card that is proposed whole. What the sheet holds already stays in it; the sheet itself stays
+/// as it is until the player takes the card.
 class frmAutoBook : public GameScreen {
  public:
-  explicit frmAutoBook(Game& game) : GameScreen(game, "frmAutoBook", "Auto Booker") {
+  /// For today's television show, which can be run from such a card at once.
+  explicit frmAutoBook(Game& game)
+      : frmAutoBook(game, "frmAutoBook", "Auto Booker", ForTonight(game.World())) {}
+  frmAutoBook(Game& game, FillOrder order)
+      : frmAutoBook(game, "frmFill", "Fill The Rest", std::move(order)) {
+    cmdbook.Visible = false;
+  }
+  frmAutoBook(Game& game, const char* name, const char* title, FillOrder order)
+      : GameScreen(game, name, title), order_(std::move(order)) {
     BackBefore(cmdagain);
     lstcard.EmptyText = "There is no show today to book a card for.";
     lblmissing.Colour = ui::Tone::Amber;
@@ -46,27 +61,31 @@ class frmAutoBook : public GameScreen {
     return page;
   }
 
-  void Load() override { Propose(); }
+  void Load() override { order_.First.Rows.empty() ? Propose() : Show(order_.First); }
   void Return() override { ShowCard(); }
 
  private:
-  void Propose() {
-    card_ = AutoBook(world(), false, TermsOf(world(), false).OpenRows);
+  void Propose() { Show(AutoBook(world(), order_.IsEvent, order_.OpenRows)); }
+
+  void Show(const AutoCard& card) {
+    card_ = card;
     ShowCard();
     lstcard.Select(1);
     ShowRow();
   }
 
   void ShowCard() {
-    forecast_ =
-        WithCard(world(), card_, [&] { return ForecastShow(world(), false, TvTeam(world())); });
-    const Show* show = ShowOfToday(world());
-    lblfacts.Text = show ? show->Name.Str() : "No show today";
+    forecast_ = WithCard(world(), card_,
+                         [&] { return ForecastShow(world(), order_.IsEvent, order_.Team); });
+    lblfacts.Text = order_.Show;
     lblrating.Text = "Forecast " + RangeText(forecast_.Rating) + ".";
     FillRows();
     ShowChanges();
     ShowMissing();
     const bool any = lstcard.Count() > 0;
+    EnableUnless(cmdagain, NewSegments(world(), card_) > 0
+                               ? ""
+                               : "Every row that could be filled is booked: it would be the same.");
     EnableUnless(cmdbook, WithCard(world(), card_, [&] { return MayStart(world(), false); }) ? ""
                           : any ? "The card is too short for the show to be held."
                                 : "There is no show today.");
@@ -114,7 +133,9 @@ class frmAutoBook : public GameScreen {
   }
 
   void ShowChanges() {
-    const std::string lines = Joined(ChangesBy(world(), card_), "\n");
+    std::vector<std::string> changes = ChangesBy(world(), card_);
+    changes.insert(changes.end(), order_.Also.begin(), order_.Also.end());
+    const std::string lines = Joined(changes, "\n");
     txtchanges.WriteLines(lines.empty() ? "No Title, no turn, no debut, no end of a feud." : lines);
   }
 
@@ -130,13 +151,20 @@ class frmAutoBook : public GameScreen {
     if (record == 0) return txtrow.Write("");
     using Style = ui::Report::Style;
     const auto row = static_cast<std::size_t>(record - 1);
-    std::vector<ui::Report::Paragraph> told = ToldOf(world(), card_.Rows[row], false);
+    std::vector<ui::Report::Paragraph> told = ToldOf(world(), card_.Rows[row], order_.IsEvent);
     told.push_back({Style::Strong, "Why"});
     told.push_back({Style::Line, ReasonOf(record)});
     txtrow.Write(std::move(told));
   }
 
+  void cmdsheet_Click() {
+    TakeCard(world(), card_);
+    if (order_.Taken) order_.Taken();
+    Close();
+  }
+
   void cmdbook_Click() {
+    if (!desk().Ask("Sure?", "Are you sure you wish to start this show?")) return;
     TakeCard(world(), card_);
     const std::string name = ShowOfToday(world())->Name.Str();
     LineMemory memory;  // written all the same: the report column keeps it
@@ -150,6 +178,7 @@ class frmAutoBook : public GameScreen {
     game_.AdvanceDay(false);
   }
 
+  FillOrder order_;
   AutoCard card_;
   ShowForecast forecast_;
   ui::Label lblfacts{*this, "lblfacts"};
@@ -159,15 +188,16 @@ class frmAutoBook : public GameScreen {
   ui::Label lblrating{*this, "lblrating"};
   ui::Label lblmissing{*this, "lblmissing"};
   ui::Button cmdagain{*this, "cmdagain", "Another Card", &frmAutoBook::Propose};
-  ui::Button cmdsheet{*this, "cmdsheet", "Send To The Sheet", [this] {
-                        TakeCard(world(), card_);
-                        Close();
-                      }};
+  ui::Button cmdsheet{*this, "cmdsheet", "Send To The Sheet", &frmAutoBook::cmdsheet_Click};
   ui::Button cmdbook{*this, "cmdbook", "Run This Show", &frmAutoBook::cmdbook_Click};
 };
 
 }  // namespace
 
 SCREEN(frmAutoBook)
+
+std::unique_ptr<ui::Screen> MakefrmFill(Game& game, FillOrder order) {
+  return std::make_unique<frmAutoBook>(game, std::move(order));
+}
 
 }  // namespace grapplemont

@@ -86,7 +86,7 @@ class frmBookSheet : public ui::Screen, public WizardHost {
 
   void RefreshWizard() {
     for (int step = 0; step < kRows; ++step) ShowRow(step);
-    lblfacts.Text = "Slot " + std::to_string(wizard_.CurrentSlot);
+    lblfacts.Text = "Row " + std::to_string(wizard_.CurrentSlot);
     ShowOutlook();
     cmdstep.Visible = !wizard_.SegmentComplete;
     EnableUnless(cmdcomplete, wizard_.SegmentComplete ? "" : "Every step must be done first.");

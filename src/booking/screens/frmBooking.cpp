@@ -68,6 +68,28 @@ class frmPPVBooking : public SheetScreen {
   CommentaryTeam Team() override {
     return {cmbannouncer.Key(), cmbcolour.Key(), chkcolour.Checked};
   }
+  CommentaryTeam FullTeam() override {
+    const CommentaryTeam best = BestTeam(world());
+    CommentaryTeam team = Team();
+    const bool hasTheirSeat = !team.ColourIsWorker && team.Colour == best.Announcer;
+    if (team.Announcer == 0 && !hasTheirSeat) team.Announcer = best.Announcer;
+    if (team.Colour != 0) return team;
+    // Nobody sits on both seats.
+    const bool isTaken = !best.ColourIsWorker && best.Colour == team.Announcer;
+    team.Colour = isTaken && best.Announcer != team.Announcer ? best.Announcer
+                  : isTaken                                   ? 0
+                                                              : best.Colour;
+    team.ColourIsWorker = best.ColourIsWorker;
+    return team;
+  }
+  void Seat(const CommentaryTeam& team) override {
+    cmbannouncer.SelectKey(team.Announcer);
+    if (chkcolour.Checked != team.ColourIsWorker) {
+      chkcolour.Checked = team.ColourIsWorker;
+      FillColour();
+    }
+    cmbcolour.SelectKey(team.Colour);
+  }
   std::string TopRow() override {
     const Show* show = ShowOfToday(world());
     return show ? show->Name + " Main Event Match Description" : "Pre-Show Match Description";

@@ -17,6 +17,10 @@ namespace {
 constexpr std::string_view kClosedRowTip = "Not Available In This TV Time Slot.";
 constexpr std::string_view kClosedRow = kClosedRowTip.substr(0, kClosedRowTip.size() - 1);
 
+constexpr const char* kDarkMatchTold =
+    "Row 1 is the dark match: it warms up the hall before the Event begins, and counts neither "
+    "for its rating nor among the matches and segments that it needs.";
+
 /// "2 of 4 matches", "6 matches (at least 4)".
 std::string OfLeast(int count, int least, const char* what) {
   const std::string some = std::to_string(count), needed = std::to_string(least);
@@ -148,11 +152,13 @@ void SheetScreen::DropGone() {
   if (!dropped.empty()) desk().Say("Booking", Joined(dropped, "\n"));
 }
 
+bool SheetScreen::IsAnyBooked() {
+  return std::ranges::any_of(world().Segments(),
+                             [](const Segment& segment) { return segment.Kind != kEmptySegment; });
+}
+
 void SheetScreen::ShowForecast() {
-  const auto& sheet = world().Segments();
-  const bool any = std::any_of(sheet.begin(), sheet.end(), [](const Segment& segment) {
-    return segment.Kind != kEmptySegment;
-  });
+  const bool any = IsAnyBooked();
   forecast_ =
       any ? grapplemont::ForecastShow(world(), isEvent_, Team()) : grapplemont::ShowForecast();
   lblforecast.Text = !any ? "Nothing is booked yet."
@@ -174,9 +180,18 @@ void SheetScreen::FillRows() {
   ShowRow();
 }
 
+/// On an Event's sheet the first row and the last are not like the others.
 CellColumns<SheetRow> SheetScreen::Table() {
-  return SheetTable(world(), {{"#", K::Text, 0, "Row of the sheet."},
-                              [](const SheetRow& row) { return std::to_string(row.Record); }});
+  CellColumns<SheetRow> table =
+      SheetTable(world(), {{"#", K::Text, 0, "Row of the sheet."},
+                           [](const SheetRow& row) { return std::to_string(row.Record); }});
+  if (!isEvent_) return table;
+  table.push_back({{"Place", K::Tag, 0, "The dark match counts for nothing, the last row twice."},
+                   [this](const SheetRow& row) {
+                     if (row.Record == kDarkMatch) return ui::Cell("Dark match", ui::Tone::Muted);
+                     return ui::Cell(row.Record == OpenRows() ? "Main event" : "", ui::Tone::Gold);
+                   }});
+  return table;
 }
 
 ui::ListBox::Row SheetScreen::RowOf(int record) {
@@ -254,15 +269,20 @@ void SheetScreen::ShowRow() {
   using Style = ui::Report::Style;
   const int record = lstrows.Key();
   if (record == 0)
-    return txtrow.Write({{Style::Muted, "Choose a row to read what is booked in it."}});
+    return txtrow.Write(
+        {{Style::Muted, "Choose a row to read what is booked in it."},
+         {Style::Muted, isEvent_ ? kDarkMatchTold : "The last row that is booked counts twice."}});
   if (record > OpenRows()) return txtrow.Write({{Style::Muted, std::string(kClosedRowTip)}});
   const Segment& segment = Row(record);
-  if (segment.Kind == kEmptySegment)
-    return txtrow.Write({{Style::Strong, "Row " + std::to_string(record)},
-                         {Style::Muted,
-                          "Nothing is booked here. Book opens the wizard, a double click its first "
-                          "step at once."}});
-  std::vector<ui::Report::Paragraph> told = ToldOf(world(), segment, isEvent_);
+  std::vector<ui::Report::Paragraph> told;
+  if (IsDark(record)) told.push_back({Style::Muted, kDarkMatchTold});
+  if (segment.Kind == kEmptySegment) {
+    told.insert(told.begin(), {Style::Strong, "Row " + std::to_string(record)});
+    told.push_back({Style::Muted, "Nothing is booked here. Book opens the wizard."});
+    return txtrow.Write(std::move(told));
+  }
+  std::vector<ui::Report::Paragraph> booked = ToldOf(world(), segment, isEvent_);
+  told.insert(told.begin(), booked.begin(), booked.end());
   for (std::string& line : DetailsOfRow(world(), segment))
     told.push_back({Style::Line, std::move(line)});
   if (const std::string tip = TitleTip(segment); !tip.empty()) told.push_back({Style::Strong, tip});
@@ -273,7 +293,7 @@ void SheetScreen::ShowRow() {
 void SheetScreen::cmdbook_Click(int record) {
   lstrows.SelectKey(record);
   ShowRow();
-  if (Row(record).Kind == kEmptySegment) return desk().Open(MakefrmBookSheet(game_, At(record)));
+  if (Row(record).Kind == kEmptySegment) return OpenWizardAtOnce(game_, At(record));
   if (!desk().Ask("Remove?", "Are you sure you wish to remove this booking?")) return;
   ClearSegment(world().Segments()[record]);
   Return();
@@ -313,7 +333,7 @@ void SheetScreen::LayKept(bool isDraft) {
   std::string text =
       "Lay " +
       (isDraft ? std::string("the draft for today") : "the card of " + PlainDate(kept.On)) +
-      " on the sheet? What is booked there now goes.";
+      " on the sheet?" + (IsAnyBooked() ? " What is booked there now goes." : "");
   const std::string minded = IsDraft() ? std::string() : MindedBy(world(), kept.Rows);
   if (!minded.empty()) text += "\n" + minded;
   if (!desk().Ask(title, text)) return;
@@ -331,20 +351,28 @@ void SheetScreen::cmdredo_Click() {
   Tell("Redo", history_.Redo(world(), isEvent_, OpenRows()));
 }
 
+/// Who takes the seats that are empty now.
+std::vector<std::string> SheetScreen::SeatsTaken(const CommentaryTeam& full) {
+  const CommentaryTeam now = Team();
+  std::vector<std::string> lines;
+  const Staff* announcer = world().FindStaff(full.Announcer);
+  if (now.Announcer == 0 && announcer) lines.push_back(announcer->Name + " calls the show.");
+  if (now.Colour != 0 || full.Colour == 0) return lines;
+  const std::string colour = full.ColourIsWorker ? SideText(world(), {full.Colour})
+                                                 : world().FindStaff(full.Colour)->Name.Str();
+  lines.push_back(colour + " does the colour commentary.");
+  return lines;
+}
+
 void SheetScreen::cmdfill_Click() {
   const AutoCard card = AutoBook(world(), isEvent_, OpenRows());
-  const int fresh = NewSegments(world(), card);
-  const std::string missing = card.Missing.empty() ? "" : "\n" + Joined(card.Missing, "\n");
-  if (fresh == 0)
-    return desk().Say("Fill The Rest", "The roster has nothing to fill a row with." + missing);
-  const std::vector<std::string> changes = ChangesBy(world(), card);
-  if (!desk().Ask("Fill The Rest",
-                  "Book " + Counted(fresh, "segment") +
-                      " in the rows that are still empty? What you have booked stays." +
-                      (changes.empty() ? "" : "\n" + Joined(changes, "\n")) + missing))
-    return;
-  TakeCard(world(), card);
-  Return();
+  if (NewSegments(world(), card) == 0)
+    return desk().Say("Fill The Rest", "The roster has nothing to fill a row with." +
+                                           (card.Missing.empty() ? "" : "\n") +
+                                           Joined(card.Missing, "\n"));
+  const CommentaryTeam full = FullTeam();
+  desk().Open(MakefrmFill(game_, {Called(), isEvent_, OpenRows(), full, card, SeatsTaken(full),
+                                  [this, full] { Seat(full); }}));
 }
 
 void SheetScreen::cmddoshow_Click() {

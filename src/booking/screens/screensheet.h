@@ -34,6 +34,9 @@ class SheetScreen : public GameScreen {
 
   /// Who sits at the table, as things stand on the sheet.
   virtual CommentaryTeam Team() = 0;
+  /// The same with the empty seats taken, and what seats it.
+  virtual CommentaryTeam FullTeam() { return Team(); }
+  virtual void Seat(const CommentaryTeam&) {}
   /// The line under the title.
   virtual std::string Facts() = 0;
   /// Rows of the table that are not Segments, above them all.
@@ -76,6 +79,9 @@ class SheetScreen : public GameScreen {
   void ShowButton(int record);
   void ShowCounts();
   void ShowRow();
+  bool IsAnyBooked();
+  bool IsDark(int record) const { return isEvent_ && record == kDarkMatch; }
+  std::vector<std::string> SeatsTaken(const CommentaryTeam& full);
   bool IsEmptyRow(int record);
   int EmptyRow();
 

@@ -362,6 +362,7 @@ void ConnectCalendar(Game& game) {
     for (const auto& screen : game.Desk().Screens()) screens.push_back(screen->Name());
     WatchGuide(game.World(), screens);
   };
+  game.NoteOn = [&game](std::string_view screen) { return GuideOnPage(game.World(), screen); };
   game.Kept = [&game](const std::vector<FileChange>& changes) {
     if (frmMainScreen* main = FindMainScreen(game)) main->ShowBars(changes);
   };

@@ -4,7 +4,7 @@
 
 namespace grapplemont {
 
-/// The card on the desk that leads through the first week; it is there while the guide is open.
+/// The card on the desk that leads to the first show; it is there while the guide is open.
 class GuideCard {
  public:
   GuideCard(ui::Screen& screen, Game& game);
@@ -14,10 +14,12 @@ class GuideCard {
 
  private:
   void Close();
+  void ShowWay();
 
   Game& game_;
   ui::Report txtguide;
-  ui::Button cmdguide;
+  ui::Button cmdstep, cmdguide;
+  std::string page_;  // of the step that comes next
 };
 
 }  // namespace grapplemont

@@ -7,6 +7,7 @@
 #include "roster/screens/screenmany.h"
 #include "roster/screens/screentalks.h"
 #include "roster/screens/workerlist.h"
+#include "roster/signing.h"
 #include "roster/talks.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -21,7 +22,7 @@ class frmRoster : public WorkerListScreen {
       : WorkerListScreen(game, "frmRoster", "Roster", PeopleList::Own, RosterFilters()) {
     BackBefore(cmdcontract);
     lstwres.EmptyText = "Nobody works for you yet. Look for people under Other Workers.";
-    lstwres.OpenWith(cmdcontract);
+    lstwres.OpenWith(cmdpage);
     lstwres.Acts = {{&cmdcontract},
                     {&cmdposition, &cmbnewposition},
                     {&cmdsplit, &cmbnewsplit},
@@ -34,7 +35,7 @@ class frmRoster : public WorkerListScreen {
 
   ui::Page Layout() override {
     return WithFilters(PageOf(
-        ui::Rows({FilterBox({ui::Field("Split", cmbsplit)}),
+        ui::Rows({FilterBox({ui::Field(std::string(OwnCaption()), cmbsplit)}),
                   ui::Columns(
                       {ui::Group("", {ui::Grow(lstwres)}).Grow(11),
                        ui::Rows({PageBox().Grow(1),
@@ -60,6 +61,7 @@ class frmRoster : public WorkerListScreen {
   }
 
   ui::ComboBox* OwnFilter() override { return &cmbsplit; }
+  std::string_view OwnCaption() const override { return "Split"; }
 
   std::string Facts(int listed) const override {
     return Counted(listed, "worker") + ", " +
@@ -224,20 +226,30 @@ class frmOtherWres : public WorkerListScreen {
                          MarketFilters()) {
     BackBefore(cmdcontract);
     lstwres.EmptyText = "There is nobody else who fits.";
-    lstwres.OpenWith(cmdcontract);
+    lstwres.OpenWith(cmdpage);
+    cmbtalks.Add("All");
+    cmbtalks.Add("Would listen to us");
+    cmbtalks.Select(1);
     lstwres.Acts = {{&cmdcontract}, {&cmdshortlist}};
   }
 
   ui::Page Layout() override {
     return WithFilters(PageOf(
         ui::Rows(
-            {FilterBox(),
+            {FilterBox({ui::Field(std::string(OwnCaption()), cmbtalks)}),
              ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(9), PageBox().Grow(4)}).Grow(1)}),
         &lblfacts, {&cmdlist, &cmdshortlist}, &cmdcontract));
   }
 
  protected:
   bool Belongs(const Worker& worker) const override { return !WorksForPlayer(world(), worker); }
+  bool Passes(const Worker& worker) const override {
+    return cmbtalks.Selected() <= 1 ||
+           (!IsSettled(worker) && WhyNoSigning(world(), worker).empty());
+  }
+
+  ui::ComboBox* OwnFilter() override { return &cmbtalks; }
+  std::string_view OwnCaption() const override { return "Talks"; }
 
   std::string Facts(int listed) const override {
     const bool some = lstwres.Count() < listed;
@@ -275,6 +287,7 @@ class frmOtherWres : public WorkerListScreen {
     ShowChoice();
   }
 
+  ui::ComboBox cmbtalks{*this, "cmbtalks", [this] { ShowList(); }};
   ui::Button cmdlist{*this, "cmdlist", "Shortlist", [this] { desk().Open("frmShortlist"); }};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Put On Shortlist",
                           &frmOtherWres::cmdshortlist_Click};

@@ -177,7 +177,7 @@ class frmOtherStaff : public StaffListScreen {
   ui::Page Layout() override {
     return PageOf(
         ui::Rows(
-            {ui::Group("", {ui::Columns({ui::Field("Bond", cmbbond), ui::Field("Post", cmbpost),
+            {ui::Group("", {ui::Columns({ui::Field("Contract", cmbbond), ui::Field("Post", cmbpost),
                                          ui::Field("Talent", cmbtalent), ui::Spacer()})}),
              ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
                           ui::Group("", {ui::Grow(txtpage)}).Grow(1)})

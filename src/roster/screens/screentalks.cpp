@@ -120,7 +120,8 @@ void TalkScreen::cmdwhy_Click() {
 }
 
 void TalkScreen::ShowFacts(const std::string& facts) {
-  lblfacts.Text = closed_.empty() ? facts : closed_;
+  lblfacts.Text =
+      closed_.empty() ? facts + " You have " + Dollars(world().Player().Money) + "." : closed_;
 }
 
 void TalkScreen::Agree(std::string_view name, bool written) {
@@ -156,7 +157,7 @@ std::string WhyNotNow(Game& game) {
 
 std::string WhyNoTalks(Game& game, const Worker* worker) {
   if (!worker) return kNobodyChosen;
-  if (worker->Unsackable && worker->Employer != 0)
+  if (IsSettled(*worker))
     return worker->Name + " is unsackable: the agreement has no end, and nothing to talk about.";
   return WhyNotNow(game);
 }

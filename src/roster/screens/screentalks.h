@@ -140,6 +140,10 @@ inline constexpr const char* kTalksTitle = "Contract Negotiations";
 inline constexpr const char* kNobodyChosen = "Choose a worker first.";
 /// Why nobody can be moved or made ready for a turn at this moment; empty outside a show.
 std::string WhyNotNow(Game& game);
+/// Bound to an employer for good: there is nothing to talk about.
+inline bool IsSettled(const Worker& worker) {
+  return worker.Unsackable && worker.Employer != 0;
+}
 /// Why there can be no talks with them at this moment; empty when there can. nullptr for nobody
 /// chosen.
 std::string WhyNoTalks(Game& game, const Worker* worker);

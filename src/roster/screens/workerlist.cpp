@@ -131,7 +131,7 @@ void WorkerListScreen::ShowFilters() {
   };
   for (int i = 1; i <= cmbfilters.Count(); ++i)
     add(filters_[Index(i)].Caption, cmbfilters(i), hidden_[Index(i)]);
-  if (const ui::ComboBox* own = OwnFilter()) add("Split", *own, hidden_.back());
+  if (const ui::ComboBox* own = OwnFilter()) add(OwnCaption(), *own, hidden_.back());
   lblfilters.Text =
       std::to_string(lstwres.Count()) + " of " + std::to_string(listed_) + ": " + words;
   lblfilters.Visible = !words.empty();

@@ -27,6 +27,7 @@ class WorkerListScreen : public GameScreen {
   /// What the screen's own filter says, and the box that it is chosen in; nullptr: it has none.
   virtual bool Passes(const Worker&) const { return true; }
   virtual ui::ComboBox* OwnFilter() { return nullptr; }
+  virtual std::string_view OwnCaption() const { return {}; }
   /// Brings the buttons to the chosen workers, of whom this is the first; nullptr for nobody.
   virtual void ShowActions(const Worker* chosen) = 0;
   virtual std::string Facts(int listed) const = 0;

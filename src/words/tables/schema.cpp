@@ -273,11 +273,14 @@ TableFile Guide() {
         .Columns = {{"Tour", Choice, "", "Tour::", {"Backyard", "Television"}},
                     {"Screen", Text, "{}"},
                     {"Done", Choice, "GuideDone::Seen", "GuideDone::", {"Signed", "Feud", "Show"}},
+                    {"Page"},
                     {"Title"},
                     {"Says"}},
         .Keys = {"Tour", "Title"},
-        .Arrays =
-            {{"guide", "GuideStep", "kGuideSteps", {"Tour", "Screen", "Done", "Title", "Says"}}}}},
+        .Arrays = {{"guide",
+                    "GuideStep",
+                    "kGuideSteps",
+                    {"Tour", "Screen", "Done", "Page", "Title", "Says"}}}}},
       {}};
 }
 
