@@ -214,23 +214,16 @@ void SheetScreen::ShowCounts() {
   const SheetCount count = CountSheet(world(), isEvent_);
   lblcount.Text = OfLeast(count.Matches, terms.MinMatches, "matches") + ", " +
                   OfLeast(count.Segments, terms.MinSegments, "segments") + " booked.";
-<<<<<<< HEAD
+  const bool enough = count.Matches >= terms.MinMatches && count.Segments >= terms.MinSegments;
+  lblwarn.Colour = enough ? ui::Tone::Muted : ui::Tone::Amber;
   const std::string house = WhyNotInThisHouse(world());
   EnableUnless(cmddoshow, IsDraft() || MayStart(world(), isEvent_) ? ""
                           : terms.OpenRows == 0                    ? "There is no show today."
                           : !house.empty()                         ? house
                                            : "Not enough yet: " + lblcount.Text.Get());
-  EnableUnless(cmdfill, !HasEmptyRow()                            ? "No row is empty."
+  EnableUnless(cmdfill, EmptyRow() == 0                           ? "No row is empty."
                         : Holds(world(), HouseRule::NoAutoBooker) ? WhyNoAutoBooker(world())
                                                                   : "");
-=======
-  const bool enough = count.Matches >= terms.MinMatches && count.Segments >= terms.MinSegments;
-  lblwarn.Colour = enough ? ui::Tone::Muted : ui::Tone::Amber;
-  EnableUnless(cmddoshow, IsDraft() || MayStart(world(), isEvent_) ? ""
-                          : terms.OpenRows == 0                    ? "There is no show today."
-                                                : "Not enough yet: " + lblcount.Text.Get());
-  EnableUnless(cmdfill, EmptyRow() != 0 ? "" : "No row is empty.");
->>>>>>> 28-booking
 }
 
 bool SheetScreen::IsEmptyRow(int record) {
