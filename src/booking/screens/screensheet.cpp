@@ -360,7 +360,7 @@ std::vector<std::string> SheetScreen::SeatsTaken(const CommentaryTeam& full) {
 void SheetScreen::cmdfill_Click() {
   const AutoCard card = AutoBook(world(), isEvent_, OpenRows());
   if (NewSegments(world(), card) == 0)
-    return desk().Say("Fill The Rest", "The roster has nothing to fill a row with." +
+    return desk().Say("Fill The Rest", std::string("The roster has nothing to fill a row with.") +
                                            (card.Missing.empty() ? "" : "\n") +
                                            Joined(card.Missing, "\n"));
   const CommentaryTeam full = FullTeam();
