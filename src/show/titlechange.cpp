@@ -104,7 +104,8 @@ void MoveTitleImage(SegmentRun& run) {
   }
   const int change = ImageChange(Score::Floor(sum, counted), image);
   title->Image += change;
-  NoteStep(run, kNoteTitleImage, title->Name.Str(), title->Image - image, title->Image,
+  // That it was at stake is told, too, where its image stays.
+  NoteFact(run, {kNoteTitleImage, title->Name.Str()}, title->Image - image, title->Image,
            "mean of the match and its champion " + std::to_string(Score::Floor(sum, counted)));
   if (change > 0)
     Tell(run, *title,

@@ -104,6 +104,21 @@ TEST(EventSheet, FillsTheColourListAnewWithStaffOrWorkers) {
   EXPECT_EQ(play.Desk.Rows("cmbcolour"), staff);
 }
 
+TEST(EventSheet, SeatsItsTableWhenTheRestIsFilled) {
+  OnSheet play(OnTheDay(Arena()));
+  EXPECT_EQ(play.Row(1).back(), "Dark match");
+  EXPECT_EQ(play.Row(9).back(), "Main event");
+  play.Desk.Click("cmdfill");
+  ASSERT_EQ(play.Desk.TopName(), "frmFill");
+  EXPECT_NE(play.Desk.Text("txtchanges").find(" calls the show."), std::string::npos);
+  play.Desk.Click("cmdsheet");
+  EXPECT_EQ(play.Desk.TopName(), "frmPPVBooking");
+  EXPECT_NE(play.World().Segments()[2].Kind, kEmptySegment);
+  EXPECT_NE(play.Desk.Text("cmbannouncer"), "None");
+  EXPECT_NE(play.Desk.Text("cmbcolour"), "None");
+  EXPECT_NE(play.Desk.Text("cmbannouncer"), play.Desk.Text("cmbcolour"));
+}
+
 TEST(EventSheet, AsksAboutItsCommentatorsBeforeItStarts) {
   struct Case {
     const char* Announcer;

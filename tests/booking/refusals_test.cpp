@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "booking/ring.h"
+#include "booking/wizard/foresight.h"
 #include "booking/wizard/objections.h"
 
 namespace grapplemont::test {
@@ -318,6 +319,11 @@ TEST(Refusals, GiveWhyTheyAreFinal) {
         RefusalsAt(world, Match(world, row.Style, row.Type, row.Winner, {1}), kResultStep);
     ASSERT_FALSE(refusals.empty());
     for (const Refusal& refusal : refusals) EXPECT_EQ(refusal.Veto, row.Veto);
+    const PriceTold told =
+        TellPrice(world, Match(world, row.Style, row.Type, row.Winner, {1}), EmptySegment());
+    EXPECT_TRUE(told.Text.starts_with("It cannot be booked so.\n")) << told.Text;
+    EXPECT_TRUE(told.Text.ends_with(row.Veto)) << told.Text;
+    EXPECT_FALSE(told.IsFree);
   }
 }
 

@@ -2,6 +2,8 @@
 
 #include "calendar/incidents.h"
 #include "records/checks/checkworld.h"
+#include "records/modVar.h"
+#include "roster/talks.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
 
@@ -117,6 +119,11 @@ TEST(IncidentScreen, GoesOnWhereItWasClosed) {
   GameOnWorld& play = backstage.Play;
   const std::string hurt = "Cal Drift has sustained an injury!\nBroken Arm, out for 4 months.";
   EXPECT_EQ(play.Desk.Text("lblleft"), "And 2 more.");
+  const std::string answers = play.Desk.Text("txtchoices");
+  EXPECT_NE(answers.find("Suspend 3 Months: not to be booked for so long, and " +
+                         Dollars(3LL * MonthlyWage(backstage.Who("Bram Okafor"))) + " paid"),
+            std::string::npos)
+      << answers;
   play.Desk.Click("cmdsuspend(1)");
   EXPECT_EQ(backstage.Told(), hurt);
   play.Desk.CloseAll();

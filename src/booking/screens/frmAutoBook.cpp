@@ -61,13 +61,13 @@ class frmAutoBook : public GameScreen {
     return page;
   }
 
-  void Load() override { order_.First.Rows.empty() ? Propose() : Show(order_.First); }
+  void Load() override { order_.First.Rows.empty() ? Propose() : Lay(order_.First); }
   void Return() override { ShowCard(); }
 
  private:
-  void Propose() { Show(AutoBook(world(), order_.IsEvent, order_.OpenRows)); }
+  void Propose() { Lay(AutoBook(world(), order_.IsEvent, order_.OpenRows)); }
 
-  void Show(const AutoCard& card) {
+  void Lay(const AutoCard& card) {
     card_ = card;
     ShowCard();
     lstcard.Select(1);

@@ -73,6 +73,7 @@ class frmPPVBooking : public SheetScreen {
     CommentaryTeam team = Team();
     const bool hasTheirSeat = !team.ColourIsWorker && team.Colour == best.Announcer;
     if (team.Announcer == 0 && !hasTheirSeat) team.Announcer = best.Announcer;
+    if (team.Announcer == 0 && !best.ColourIsWorker) team.Announcer = best.Colour;
     if (team.Colour != 0) return team;
     // Nobody sits on both seats.
     const bool isTaken = !best.ColourIsWorker && best.Colour == team.Announcer;

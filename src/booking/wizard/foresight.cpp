@@ -129,9 +129,15 @@ std::optional<Segment> ForeseenWithOthers(const World& world, Segment match,
 
 PriceTold TellPrice(const World& world, const Segment& segment, const Segment& paid) {
   if (segment.Kind == kMatch && !HasResult(segment)) return {"The result decides it.", true};
+  const std::vector<Refusal> refusals = RefusalsOf(world, segment);
+  for (const Refusal& refusal : refusals)
+    if (refusal.IsFinal || !refusal.Veto.empty())
+      return {"It cannot be booked so.\n" + refusal.Words +
+                  (refusal.Veto.empty() ? "" : "\n" + refusal.Veto),
+              false};
   const PriceOfBooking price = PriceOf(world, segment, paid);
   PriceTold told{price.empty() ? "Nobody holds this booking against you." : "", price.empty()};
-  if (!price.empty() && RefusalsOf(world, segment).empty()) told.Text = "Nobody objects aloud.\n";
+  if (!price.empty() && refusals.empty()) told.Text = "Nobody objects aloud.\n";
   if (price.size() > kNamed) {
     told.Text += HeldAgainstText(price) + ".";
   } else {

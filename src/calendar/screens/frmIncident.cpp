@@ -3,8 +3,10 @@
 #include "calendar/incidents.h"
 #include "calendar/screens/calendarscreens.h"
 #include "records/fields/wording.h"
+#include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/leaving.h"
+#include "roster/talks.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -18,7 +20,7 @@ class frmIncident : public ui::Screen {
  public:
   explicit frmIncident(Game& game)
       : Screen(game.Desk(), "frmIncident", "Backstage", ui::Role::Dialog), game_(game) {
-    txtincident.Brief = true;
+    txtincident.Brief = txtchoices.Brief = true;
     lbldone.Visible = false;
     lbldone.Colour = ui::Tone::Muted;
   }
@@ -30,8 +32,9 @@ class frmIncident : public ui::Screen {
     for (int i = 1; i <= cmdsuspend.Count(); ++i) page.Actions.push_back(&cmdsuspend(i));
     page.Actions.insert(page.Actions.end(), {&cmdignore, &cmdaccept});
     page.Main = &cmdaccept;
+    page.Then = &cmdignore;
     page.Cancel = &cmdignore;
-    page.Body = ui::Rows({lbldone, txtincident, lblabout});
+    page.Body = ui::Rows({lbldone, txtincident, lblabout, txtchoices});
     return page;
   }
 
@@ -51,6 +54,26 @@ class frmIncident : public ui::Screen {
     cmdignore.Text = isOffer ? "Decline" : incident->Type >= kRehab ? "Continue" : "Ignore";
     lblabout.Text = isOffer ? AboutPromotion(incident->Uid) : AboutWorker(incident->Uid);
     ShowSanctions(*incident);
+    txtchoices.WriteLines(isOffer ? "Accept: you leave for good, and your feuds end with it.\n"
+                                    "Decline: nothing changes."
+                                  : Consequences(*incident));
+  }
+
+  /// What each answer comes to.
+  std::string Consequences(const Incident& incident) {
+    const Worker& worker = *world().FindWorker(incident.Uid);
+    const int wage = MonthlyWage(worker);
+    std::string text = worker.Unsackable
+                           ? std::string()
+                           : "Fire: gone today, with their Titles and feuds, which saves " +
+                                 Dollars(wage) + " a month. A rival may sign them at once.\n";
+    if (incident.Type > kPolice)
+      return text + "Continue: the place is kept, and the wage of " + Dollars(wage) +
+             " a month paid.";
+    for (const int months : kSuspensions)
+      text += "Suspend " + Counted(months, "Month") + ": not to be booked for so long, and " +
+              Dollars(1LL * months * wage) + " paid for nothing.\n";
+    return text + "Ignore: nothing changes.";
   }
 
   void ShowSanctions(const Incident& incident) {
@@ -137,6 +160,7 @@ class frmIncident : public ui::Screen {
   ui::Label lbldone{*this, "lbldone"};
   ui::Report txtincident{*this, "txtincident"};
   ui::Label lblabout{*this, "lblabout"};
+  ui::Report txtchoices{*this, "txtchoices"};
   ui::Button cmdfire{*this, "cmdfire", "Fire", &frmIncident::cmdfire_Click};
   ui::Array<ui::Button> cmdsuspend{
       "cmdsuspend", static_cast<int>(kSuspensions.size()), [this](const std::string& name, int i) {

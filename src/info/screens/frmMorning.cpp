@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include "info/morning.h"
@@ -66,7 +67,7 @@ class frmMorning : public GameScreen {
         on_(on),
         promotion_(promotionUid) {
     lstpeople.EmptyText = "The show moved nobody.";
-    lsttitles.EmptyText = "No Title was moved. A Title is moved by a match for it.";
+    lsttitles.EmptyText = "No Title was at stake. A match for it moves its image.";
     lstfeuds.EmptyText = "No feud was moved. Book its people against each other.";
     lsthurt.EmptyText = "Nobody was hurt.";
     lstwhy.EmptyText = "Choose a number or a name to see where it came from.";
@@ -194,7 +195,7 @@ class frmMorning : public GameScreen {
         titles.push_back(
             {{number.What, ui::Cell("New champion", ui::Tone::Gold), last.Why.View()}, key});
       if (number.Kind == kNoteTitleImage)
-        titles.push_back({{number.What, Moved(number), last.Why.View()}, key});
+        titles.push_back({{number.What, ImageCell(number), WhyImage(number)}, key});
       if (number.Kind == kNoteHeat) feuds.push_back({{number.What, Moved(number)}, key});
       if (number.Kind == kNoteFeudEnd)
         feuds.push_back({{number.What, ui::Cell("Ended", ui::Tone::Gold)}, key});
@@ -207,6 +208,23 @@ class frmMorning : public GameScreen {
     lsttitles.Fill(std::move(titles));
     lstfeuds.Fill(std::move(feuds));
     lsthurt.Fill(std::move(hurt));
+  }
+
+  static ui::Cell ImageCell(const NotedNumber& number) {
+    return number.Change() == 0 ? ui::Cell(number.After(), "Unchanged", ui::Tone::Muted)
+                                : Moved(number);
+  }
+
+  /// A champion who was in a row for the Title and has not lost it has kept it.
+  std::string WhyImage(const NotedNumber& number) {
+    const ShowNote& last = *number.Steps.back();
+    const auto taken = morning_.AllOf(kNoteTitle);
+    const auto* title = FindTitle(world(), number.What);
+    const bool isKept = last.Row != 0 && title && title->Holder != 0 &&
+                        std::ranges::none_of(taken, [&](const NotedNumber* won) {
+                          return won->What == number.What;
+                        });
+    return (isKept ? "kept; " : "") + last.Why.Str();
   }
 
   static ui::Cell Moved(const NotedNumber& number) {
@@ -306,12 +324,6 @@ class frmMorning : public GameScreen {
     const Worker* worker = world().FindWorker(people_[static_cast<std::size_t>(key - 1)].Worker);
     return worker ? ui::Drawing(PortraitOf(*worker)) : ui::Drawing();
   }
-  ui::Drawing PlateOfRow(int key) {
-    if (key < 1 || key > static_cast<int>(morning_.Numbers.size())) return {};
-    const auto* title =
-        FindTitle(world(), morning_.Numbers[static_cast<std::size_t>(key - 1)].What);
-    return title ? ui::Drawing(PlateOf(*title, world().Titles().NumberOf(*title))) : ui::Drawing();
-  }
 
   void cmdreport_Click() { desk().Open(ReportScreen(game_, on_, promotion_)); }
 
@@ -332,7 +344,7 @@ class frmMorning : public GameScreen {
                                }};
   ui::ListBox lstpeople{*this,
                         "lstpeople",
-                        {{"Name", K::Text, 1, "", [this](int key) { return PortraitOfRow(key); }},
+                        {{"Name", K::Text, 0, "", [this](int key) { return PortraitOfRow(key); }},
                          NowColumn("Over"),
                          ChangeColumn("Over"),
                          NowColumn("Morale"),
@@ -342,16 +354,15 @@ class frmMorning : public GameScreen {
                          {"Why", K::Text, 4}},
                         &frmMorning::lstpeople_Click,
                         &frmMorning::lstpeople_Open};
-  ui::ListBox lsttitles{*this,
-                        "lsttitles",
-                        {{"Title", K::Text, 4, "", [this](int key) { return PlateOfRow(key); }},
-                         {.Title = "Image", .Kind = K::Tag, .Width = 3, .Term = "Title image"},
-                         {"Why", K::Text, 4}},
-                        &frmMorning::lsttitles_Click};
+  ui::ListBox lsttitles{
+      *this,
+      "lsttitles",
+      {{"Title"}, {.Title = "Image", .Kind = K::Tag, .Term = "Title image"}, {"Why", K::Text, 4}},
+      &frmMorning::lsttitles_Click};
   ui::ListBox lstfeuds{
-      *this, "lstfeuds", {{"Feud", K::Text, 5}, {"Heat", K::Tag, 3}}, &frmMorning::lstfeuds_Click};
+      *this, "lstfeuds", {{"Feud", K::Text, 1}, {"Heat", K::Tag}}, &frmMorning::lstfeuds_Click};
   ui::ListBox lsthurt{
-      *this, "lsthurt", {{"Name", K::Text, 4}, {"Injury", K::Tag, 5}}, &frmMorning::lsthurt_Click};
+      *this, "lsthurt", {{"Name"}, {"Injury", K::Tag, 1}}, &frmMorning::lsthurt_Click};
   ui::Label lblwhy{*this, "lblwhy"};
   ui::ListBox lstwhy{*this,
                      "lstwhy",
