@@ -40,6 +40,8 @@ class ScreenView : public QWidget {
   /// The space bar and Escape; true when the key meant something.
   bool HandleKey(int key);
   bool FocusSearch();
+  /// A list of the page as the player has arranged it; nullptr for none.
+  const ui::Table* TableOf(const ui::ListBox& list) const;
   /// How large a dialog wants to be, in drawn pixels; invalid: as its contents are.
   QSize DialogSize() const;
 
@@ -71,7 +73,7 @@ class ScreenView : public QWidget {
   std::vector<ControlView*> views_;
   std::vector<LayoutBuilder::CardContents> cards_;
   QLabel* title_ = nullptr;
-  QBoxLayout* tail_ = nullptr;      // of the head: what is searched and done
+  QBoxLayout* tail_ = nullptr;      // of the head: what is done
   std::vector<ButtonView*> mains_;  // Main and Then
   unsigned seen_ = 0;
   Backdrop backdrop_;

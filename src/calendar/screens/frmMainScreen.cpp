@@ -26,35 +26,43 @@ namespace {
 using ui::Reach;
 
 /// A command of the hub: the control, its caption, the screen it opens, its group and key in the
-/// side bar. What could take today's show, its Titles or its table away reaches into today.
+/// side bar, what else people call its room. What could take today's show, its Titles or its table
+/// away reaches into today.
 struct Command {
   const char* Control;
   const char* Caption;
   const char* Screen;
   const char* Group;
   const char* Key;
-  Reach Into = Reach::Company;
+  Reach Into;
+  const char* Also;
 };
 constexpr std::array<Command, 19> kCommands = {{
-    {"cmdroster", "Roster", "frmRoster", "People", "F2"},
-    {"cmdstaff", "Staff", "frmStaff", "People", "F3", Reach::Today},
-    {"cmdtag", "Tag Teams", "frmTagTeams", "People", ""},
-    {"cmdstables", "Stables", "frmStables", "People", ""},
-    {"cmdbelt", "Titles", "frmBelts", "People", "F4", Reach::Today},
-    {"cmdfeud", "Feuds", "frmFeuds", "People", "F5"},
-    {"cmdtv", "Television", "frmTelevision", "Business", "F6", Reach::Today},
-    {"cmdevents", "Events", "frmEvent", "Business", "", Reach::Today},
-    {"cmdfed", "", "frmFed", "Business", "F7"},
-    {"cmdfinance", "Finance", "frmFinance", "Business", "F8"},
-    {"cmdotherwres", "Other Workers", "frmOtherWres", "World", "F9"},
-    {"cmdotherstaff", "Other Staff", "frmOtherStaff", "World", ""},
-    {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", "", Reach::Today},
-    {"cmdnet", "Internet", "frmInternet", "World", "", Reach::Tells},
-    {"cmdnews", "News", "frmNews", "Desk", "F10", Reach::Tells},
-    {"cmdresults", "Results", "frmResults", "Desk", "", Reach::Tells},
-    {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", Reach::Today},
-    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N", Reach::Tells},
-    {"cmdoptions", "Options", "frmOptions", "Desk", "F12"},
+    {"cmdroster", "Roster", "frmRoster", "People", "F2", Reach::Company,
+     "people workers own wrestlers"},
+    {"cmdstaff", "Staff", "frmStaff", "People", "F3", Reach::Today, "writers medics agents"},
+    {"cmdtag", "Tag Teams", "frmTagTeams", "People", "", Reach::Company, "partners pairs"},
+    {"cmdstables", "Stables", "frmStables", "People", "", Reach::Company, "groups factions"},
+    {"cmdbelt", "Titles", "frmBelts", "People", "F4", Reach::Today,
+     "belts championships champions"},
+    {"cmdfeud", "Feuds", "frmFeuds", "People", "F5", Reach::Company, "rivalries"},
+    {"cmdtv", "Television", "frmTelevision", "Business", "F6", Reach::Today, "shows networks tv"},
+    {"cmdevents", "Events", "frmEvent", "Business", "", Reach::Today,
+     "pay per view ppv shows year calendar"},
+    {"cmdfed", "", "frmFed", "Business", "F7", Reach::Company, "promotion company image risk camp"},
+    {"cmdfinance", "Finance", "frmFinance", "Business", "F8", Reach::Company, "money books cash"},
+    {"cmdotherwres", "Other Workers", "frmOtherWres", "World", "F9", Reach::Company,
+     "market hire sign free agents"},
+    {"cmdotherstaff", "Other Staff", "frmOtherStaff", "World", "", Reach::Company, "hire market"},
+    {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", "", Reach::Today,
+     "rivals companies takeover"},
+    {"cmdnet", "Internet", "frmInternet", "World", "", Reach::Tells, "rumours fans polls"},
+    {"cmdnews", "News", "frmNews", "Desk", "F10", Reach::Tells, "mail inbox messages"},
+    {"cmdresults", "Results", "frmResults", "Desk", "", Reach::Tells, "past shows ratings history"},
+    {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", Reach::Today, "staff advice talk"},
+    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N", Reach::Tells, "notes"},
+    {"cmdoptions", "Options", "frmOptions", "Desk", "F12", Reach::Company,
+     "settings mail reporter"},
 }};
 
 /// How many mails and days ahead the page shows, and how many letters wide a card of them is at
@@ -86,7 +94,7 @@ class frmMainScreen : public ui::Screen {
       const Command& command = kCommands[static_cast<std::size_t>(i - 1)];
       if (page.Side.empty() || page.Side.back().Title != command.Group)
         page.Side.push_back({command.Group, {}});
-      page.Side.back().Commands.push_back({&commands(i), command.Key, command.Into});
+      page.Side.back().Commands.push_back({&commands(i), command.Key, command.Into, command.Also});
     }
     page.Side.push_back({"", {{&cmdquit, "", Reach::Away}}});
     page.Top = {&txtdate, &lblpromotion, &lblimage, &lblmoney};

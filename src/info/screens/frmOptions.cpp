@@ -47,10 +47,11 @@ class frmOptions : public GameScreen {
                   ui::Group("While time passes", {ui::Field("Loading screens", cmbload), cmdview}),
                   ui::Spacer()})
                  .Grow(2)}),
-        &lblfacts);
+        &lblfacts, {&cmdwindow});
   }
 
   void Return() override {
+    cmdwindow.Visible = static_cast<bool>(desk().OpenShellOptions);
     for (int number = 1; number <= kOptions; ++number) {
       const MailOption& option = OptionOf(number);
       const int choice = state().*option.Choice;
@@ -87,6 +88,7 @@ class frmOptions : public GameScreen {
                        [this] { SetAll(kMailRivals); }};
   ui::Button cmdnever{*this, "cmdnever", "Never", [this] { SetAll(kMailNever); }};
   ui::Button cmdview{*this, "cmdview", "View", [this] { desk().Open("frmLoadingScreens"); }};
+  ui::Button cmdwindow{*this, "cmdwindow", "Window Options", [this] { desk().OpenShellOptions(); }};
 };
 
 /// The player's own notes. What is typed is on disk with the same stroke, so that no way of closing

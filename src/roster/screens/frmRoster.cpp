@@ -22,7 +22,9 @@ class frmRoster : public WorkerListScreen {
     BackBefore(cmdcontract);
     lstwres.EmptyText = "Nobody works for you yet. Look for people under Other Workers.";
     lstwres.OpenWith(cmdcontract);
+    cmbsplit.Filters = true;
     lstwres.Acts = {{&cmdcontract},
+                    {&cmdcompare},
                     {&cmdposition, &cmbnewposition},
                     {&cmdsplit, &cmbnewsplit},
                     {&cmddevelopment},
@@ -225,7 +227,7 @@ class frmOtherWres : public WorkerListScreen {
     BackBefore(cmdcontract);
     lstwres.EmptyText = "There is nobody else who fits.";
     lstwres.OpenWith(cmdcontract);
-    lstwres.Acts = {{&cmdcontract}, {&cmdshortlist}};
+    lstwres.Acts = {{&cmdcontract}, {&cmdcompare}, {&cmdshortlist}};
   }
 
   ui::Page Layout() override {
