@@ -260,6 +260,13 @@ TEST_F(TheOptions, LeaveThePageItselfToBeShared) {
   Play->Window.Sync();
   Find("Copy all words of this page as a picture");
   EXPECT_LT(height(), ofAll) << "the picture is as high as its words";
+  const desktop::Shareable wide = desktop::WordsToShare([](ui::Form) {
+    std::string cells;
+    for (int column = 0; column < 20; ++column) cells += "<td>Champion</td>";
+    return "<table><tr>" + cells + "</tr></table>";
+  });
+  const int word = QFontMetrics(desktop::TextFont()).horizontalAdvance("Champion");
+  EXPECT_GT(wide.Picture().width(), 20 * word) << "no word is broken";
   const desktop::Shareable page = desktop::PageToShare(
       *Play->Desk.Top(), dynamic_cast<desktop::ScreenView&>(*Play->See("frmPeople")));
   const QString file = QString::fromStdString(folder_ / "people.");

@@ -34,35 +34,31 @@ struct Command {
   const char* Screen;
   const char* Group;
   const char* Key;
-  Reach Into;
   const char* Also;
+  Reach Into = Reach::Company;
 };
 constexpr std::array<Command, 19> kCommands = {{
-    {"cmdroster", "Roster", "frmRoster", "People", "F2", Reach::Company,
-     "people workers own wrestlers"},
-    {"cmdstaff", "Staff", "frmStaff", "People", "F3", Reach::Today, "writers medics agents"},
-    {"cmdtag", "Tag Teams", "frmTagTeams", "People", "", Reach::Company, "partners pairs"},
-    {"cmdstables", "Stables", "frmStables", "People", "", Reach::Company, "groups factions"},
-    {"cmdbelt", "Titles", "frmBelts", "People", "F4", Reach::Today,
-     "belts championships champions"},
-    {"cmdfeud", "Feuds", "frmFeuds", "People", "F5", Reach::Company, "rivalries"},
-    {"cmdtv", "Television", "frmTelevision", "Business", "F6", Reach::Today, "shows networks tv"},
-    {"cmdevents", "Events", "frmEvent", "Business", "", Reach::Today,
-     "pay per view ppv shows year calendar"},
-    {"cmdfed", "", "frmFed", "Business", "F7", Reach::Company, "promotion company image risk camp"},
-    {"cmdfinance", "Finance", "frmFinance", "Business", "F8", Reach::Company, "money books cash"},
-    {"cmdotherwres", "Other Workers", "frmOtherWres", "World", "F9", Reach::Company,
+    {"cmdroster", "Roster", "frmRoster", "People", "F2", "people workers own wrestlers"},
+    {"cmdstaff", "Staff", "frmStaff", "People", "F3", "writers medics agents", Reach::Today},
+    {"cmdtag", "Tag Teams", "frmTagTeams", "People", "", "partners pairs"},
+    {"cmdstables", "Stables", "frmStables", "People", "", "groups factions"},
+    {"cmdbelt", "Titles", "frmBelts", "People", "F4", "belts championships", Reach::Today},
+    {"cmdfeud", "Feuds", "frmFeuds", "People", "F5", "rivalries"},
+    {"cmdtv", "Television", "frmTelevision", "Business", "F6", "shows networks tv", Reach::Today},
+    {"cmdevents", "Events", "frmEvent", "Business", "", "pay per view ppv calendar", Reach::Today},
+    {"cmdfed", "", "frmFed", "Business", "F7", "promotion company image risk"},
+    {"cmdfinance", "Finance", "frmFinance", "Business", "F8", "money books cash"},
+    {"cmdotherwres", "Other Workers", "frmOtherWres", "World", "F9",
      "market hire sign free agents"},
-    {"cmdotherstaff", "Other Staff", "frmOtherStaff", "World", "", Reach::Company, "hire market"},
-    {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", "", Reach::Today,
-     "rivals companies takeover"},
-    {"cmdnet", "Internet", "frmInternet", "World", "", Reach::Tells, "rumours fans polls"},
-    {"cmdnews", "News", "frmNews", "Desk", "F10", Reach::Tells, "mail inbox messages"},
-    {"cmdresults", "Results", "frmResults", "Desk", "", Reach::Tells, "past shows ratings history"},
-    {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", Reach::Today, "staff advice talk"},
-    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N", Reach::Tells, "notes"},
-    {"cmdoptions", "Options", "frmOptions", "Desk", "F12", Reach::Company,
-     "settings mail reporter"},
+    {"cmdotherstaff", "Other Staff", "frmOtherStaff", "World", "", "hire market"},
+    {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", "", "rivals companies",
+     Reach::Today},
+    {"cmdnet", "Internet", "frmInternet", "World", "", "rumours fans polls", Reach::Tells},
+    {"cmdnews", "News", "frmNews", "Desk", "F10", "mail inbox messages", Reach::Tells},
+    {"cmdresults", "Results", "frmResults", "Desk", "", "past shows history", Reach::Tells},
+    {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", "staff advice talk", Reach::Today},
+    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N", "notes", Reach::Tells},
+    {"cmdoptions", "Options", "frmOptions", "Desk", "F12", "settings mail reporter"},
 }};
 
 /// How many mails and days ahead the page shows, and how many letters wide a card of them is at
