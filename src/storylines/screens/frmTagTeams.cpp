@@ -150,6 +150,7 @@ class frmStables : public GameScreen {
  public:
   explicit frmStables(Game& game) : GameScreen(game, "frmStables", "Stables") {
     lststables.Acts = {{&cmddissolve}};
+    lstmembers.Extends = lstwres.Extends = true;
     lstmembers.Acts = {{&cmdremove}};
     lstwres.Acts = {{&cmdadd}};
     lststables.EmptyText = "You have no stable yet. Type a name below and found one.";
@@ -260,14 +261,17 @@ class frmStables : public GameScreen {
   }
 
   void cmdadd_Click() {
-    Worker* worker = world().FindWorker(lstwres.Key());
-    if (!worker || desk().Objects(WhyNotJoin(world(), Chosen(), *worker))) return;
-    worker->Stable = Chosen();
+    for (const int uid : lstwres.Keys()) {
+      Worker* worker = world().FindWorker(uid);
+      if (!worker || desk().Objects(WhyNotJoin(world(), Chosen(), *worker))) break;
+      worker->Stable = Chosen();
+    }
     Return();
   }
 
   void cmdremove_Click() {
-    if (Worker* worker = world().FindWorker(lstmembers.Key())) worker->Stable = "None";
+    for (const int uid : lstmembers.Keys())
+      if (Worker* worker = world().FindWorker(uid)) worker->Stable = "None";
     Return();
   }
 
