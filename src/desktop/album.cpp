@@ -1,13 +1,16 @@
 #include "desktop/album.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QTimer>
 #include <algorithm>
 #include <array>
 
 #include "ui/acts.h"
+#include "words/help.h"
 
 namespace grapplemont::desktop {
 
@@ -21,14 +24,20 @@ constexpr std::string_view kFills = "cmdfill";
 /// What is taken rather than left, as a show cannot be held without a card.
 constexpr std::string_view kProposes = "frmFill";
 constexpr std::string_view kLeavesTheGame = "cmdquit";
-/// Doors to these open in some games only.
-constexpr std::array<const char*, 4> kRareScreens = {"frmProspect", "frmMonth", "frmPlayOn",
-                                                     "frmGodMode"};
 /// A new game needs a name.
 constexpr std::string_view kAsksForAName = "txtname", kName = "Pat Lee";
 
+/// What opens by its name alone, though doors to it open in some games only or luck brings it; the
+/// last leads out of the game.
+constexpr const char* kByName[] = {"frmProspect", "frmMonth", "frmPlayOn", "frmGodMode",
+                                   "frmTvOffer",  "frmPinky", "frmTheEnd"};
+/// What a game may never come to: it is passed in no time, or wants somebody's consent or riches.
+constexpr std::string_view kByLuck[] = {"frmWait",          "frmIncident", "frmTakeover",
+                                        "frmStaffContract", "frmFeudStat", "frmPPVBooking",
+                                        "frmAngle*",        "frmIV*"};
+
 constexpr int kMostClicks = 80;  // to get through a screen that has only one way
-constexpr int kShowDays = 16;    // that are played for what they may bring
+constexpr int kShowDays = 8;     // that are played for what they may bring
 constexpr int kBoxesEvery = 5;   // milliseconds
 
 /// The controls of a screen that lead on, in the order in which they are tried.
@@ -37,7 +46,9 @@ std::vector<std::string> WaysOn(ui::Screen& screen) {
   std::vector<std::string> ways, last;
   for (const ui::Control* control : screen.Controls()) {
     const auto* picture = dynamic_cast<const ui::Picture*>(control);
-    const bool leads = control->Is() == ui::Kind::Button || (picture && picture->OnClick);
+    const auto* list = dynamic_cast<const ui::ListBox*>(control);
+    const bool leads = control->Is() == ui::Kind::Button || (picture && picture->OnClick) ||
+                       (list && list->OnOpen && list->Count() > 0);
     if (!leads || control == back || control->Name() == kLeavesTheGame) continue;
     const bool isLast = std::ranges::find(kLast, control->Name()) != kLast.end();
     (isLast ? last : ways).push_back(control->Name());
@@ -64,27 +75,51 @@ void Album::Fill() {
   while (desk_.Top() && !taken_.contains(desk_.Top()->Name())) Visit();
 }
 
+std::vector<std::string> Album::Missing() const {
+  const auto isTaken = [this](std::string_view screen) {
+    if (!screen.ends_with('*')) return taken_.contains(std::string(screen));
+    screen.remove_suffix(1);
+    return std::ranges::any_of(taken_,
+                               [&](const std::string& taken) { return taken.starts_with(screen); });
+  };
+  std::vector<std::string> missing;
+  for (const HelpRow& row : kHelpRows)
+    if (std::ranges::find(kByLuck, row.Screen) == std::end(kByLuck) && !isTaken(row.Screen))
+      missing.emplace_back(row.Screen);
+  return missing;
+}
+
 /// A question gets the usual answer, or a yes from whoever wants to leave.
 void Album::AnswerBox() {
+  if (auto* files = qobject_cast<QDialog*>(QApplication::activeModalWidget())) files->reject();
   auto* box = dynamic_cast<MessageBox*>(window_.findChild<QWidget*>("box"));
   if (!box) return;
+  if (looking_) return;
+  if (onBox_) {
+    // Painting lets the timer run again.
+    const QScopedValueRollback<bool> looking(looking_, true);
+    onBox_();
+  }
   auto* yes = box->findChild<QAbstractButton*>("boxyes");
   if (yes && saysYes_) return yes->click();
   yes ? box->TakeUsual() : box->Dismiss();
 }
 
-void Album::Take(const std::string& name) {
+void Album::Take(const std::string& name, const Around& around) {
   for (const int text : looks_.Texts)
     for (const Scheme scheme : looks_.Schemes) {
       window_.SetLook(scheme, DesktopText() * (text - 100) / 100);
       for (const QSize& size : looks_.Sizes) {
         window_.resize(size);
-        LetItPaint();
-        shown_(name, QString("%1x%2-%3-%4")
-                         .arg(size.width())
-                         .arg(size.height())
-                         .arg(scheme == Scheme::Light ? "light" : "dark")
-                         .arg(text));
+        const QString look = QString("%1x%2-%3-%4")
+                                 .arg(size.width())
+                                 .arg(size.height())
+                                 .arg(scheme == Scheme::Light ? "light" : "dark")
+                                 .arg(text);
+        around([&] {
+          LetItPaint();
+          shown_(name, look);
+        });
       }
     }
 }
@@ -111,7 +146,10 @@ void Album::FillIn(ui::Screen& screen) {
 }
 
 void Album::Click(ui::Screen& screen, const std::string& control) {
-  window_.Act([&] { return ui::Click(desk_, screen, control); });
+  const bool isList = screen.Find(control)->Is() == ui::Kind::ListBox;
+  window_.Act([&] {
+    return isList ? ui::OpenRow(desk_, screen, control, 1) : ui::Click(desk_, screen, control);
+  });
   LetItPaint();
 }
 
@@ -125,19 +163,28 @@ void Album::Visit() {
     Try(*screen, way);
     if (way == kFills && desk_.Top() == screen.get()) Take(screen->Name());
   }
-  if (desk_.Top() != screen.get() || screen->Is() != ui::Role::Hub) return;
-  OpenRareOnes(*screen);
-  PlayOn(*screen);
+  if (screen->Is() != ui::Role::Hub) return;
+  if (desk_.Top() == screen.get()) PlayOn(*screen);
+  if (desk_.Top() == screen.get()) VisitTheRest(*screen);
 }
 
 void Album::Try(ui::Screen& screen, const std::string& control) {
   const ui::Control* pressed = screen.Find(control);
   if (!pressed || !pressed->Enabled || !pressed->Visible) return;
   Click(screen, control);
-  ComeBackTo(screen);
+  VisitAbove(screen);
 }
 
-void Album::ComeBackTo(ui::Screen& screen) {
+void Album::Try(ui::Screen& screen, const ui::Handler& opens) {
+  window_.Act([&] {
+    desk_.Event(opens);
+    return std::string();
+  });
+  LetItPaint();
+  VisitAbove(screen);
+}
+
+void Album::VisitAbove(const ui::Screen& screen) {
   while (desk_.Top() && desk_.Top() != &screen && desk_.Holds(screen)) {
     if (!taken_.contains(desk_.Top()->Name()))
       Visit();
@@ -146,8 +193,37 @@ void Album::ComeBackTo(ui::Screen& screen) {
   }
 }
 
+void Album::VisitTheRest(ui::Screen& hub) {
+  Try(hub, [this] { desk_.OpenHelp(); });
+  Try(hub, [this] { desk_.OpenGlossary({}); });
+  for (const ui::Finding& found : desk_.NewSearch()("w", 1))
+    if (desk_.Top() == &hub) Try(hub, found.Open);
+  Take("finder", [this](const Step& look) { LookAtFinder(look); });
+  Take("box", [this](const Step& look) { LookAtBox(look); });
+  for (const char* name : kByName)
+    if (desk_.Top() == &hub && !taken_.contains(name) && desk_.Knows(name))
+      Try(hub, [&] { desk_.Open(name); });
+}
+
+void Album::LookAtFinder(const Step& look) {
+  const auto press = [this](const QString& name, int key, Qt::KeyboardModifiers held) {
+    QKeyEvent pressed(QEvent::KeyPress, key, held);
+    if (auto* widget = window_.findChild<QWidget*>(name)) QApplication::sendEvent(widget, &pressed);
+  };
+  press(Shown(desk_.Top()->Name()), Qt::Key_K, Qt::ControlModifier);
+  look();
+  press("finderline", Qt::Key_Escape, Qt::NoModifier);
+}
+
+void Album::LookAtBox(const Step& look) {
+  onBox_ = look;
+  desk_.Say("A Box", "This is how the game speaks to you.");
+  onBox_ = {};
+}
+
 /// By its way back, else through its one way on, else it is taken away.
 void Album::LeaveTop() {
+  if (HoldShow()) return;
   const QScopedValueRollback<bool> leaving(saysYes_, true);
   const std::shared_ptr<ui::Screen> top = desk_.Screens().back();
   const ui::Page page = top->Layout();
@@ -163,17 +239,21 @@ void Album::LeaveTop() {
   window_.Sync();
 }
 
-void Album::OpenRareOnes(ui::Screen& hub) {
-  for (const char* name : kRareScreens) {
-    if (desk_.Top() != &hub || taken_.contains(name) || !desk_.Knows(name)) continue;
-    desk_.Event([&] { desk_.Open(name); });
-    window_.Sync();
-    ComeBackTo(hub);
+bool Album::HoldShow() {
+  const std::shared_ptr<ui::Screen> sheet = desk_.Screens().back();
+  if (!playsOn_ || !sheet->Find("cmddoshow")) return false;
+  for (const char* step : {"cmdfill", "cmddoshow"}) {
+    const ui::Control* const button = sheet->Find(step);
+    if (desk_.Top() == sheet.get() && button && button->Enabled && button->Visible)
+      Click(*sheet, step);
+    if (desk_.Top() != sheet.get() && desk_.Top()->Name() == kProposes) LeaveTop();
   }
+  return desk_.Top() != sheet.get();
 }
 
 void Album::PlayOn(ui::Screen& hub) {
-  const QScopedValueRollback<bool> yes(saysYes_, true);
+  const QScopedValueRollback<bool> yes(saysYes_, true), on(playsOn_, true);
+  window_.resize(looks_.Sizes.front());
   for (int day = 0; day < kShowDays && desk_.Top() == &hub; ++day)
     for (const char* step : {"cmduntil", "cmdnext"}) Try(hub, step);
 }

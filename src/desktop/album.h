@@ -28,18 +28,30 @@ class Album {
   void Fill();
   /// The screens that it has shown.
   const std::set<std::string>& Taken() const { return taken_; }
+  /// Those that have help and have not been shown, though they can be reached in every game.
+  std::vector<std::string> Missing() const;
 
  private:
+  using Step = std::function<void()>;
   void Visit();
-  void Take(const std::string& name);
+  /// Each look is taken by `look`, within what `around` does about it.
+  using Around = std::function<void(const Step& look)>;
+  void Take(
+      const std::string& name, const Around& around = [](const Step& look) { look(); });
+  /// What no button leads to: help, pages of names, what only time or luck brings, what lies over
+  /// the pages.
+  void VisitTheRest(ui::Screen& hub);
+  void LookAtFinder(const Step& look);
+  void LookAtBox(const Step& look);
   void FillIn(ui::Screen& screen);
   /// Clicks a control; what lies above the screen then is visited and left again.
   void Try(ui::Screen& screen, const std::string& control);
-  /// Visits what lies above the screen, or leaves it where it is known.
-  void ComeBackTo(ui::Screen& screen);
-  void OpenRareOnes(ui::Screen& hub);
+  void Try(ui::Screen& screen, const ui::Handler& opens);
+  void VisitAbove(const ui::Screen& screen);
   void Click(ui::Screen& screen, const std::string& control);
   void LeaveTop();
+  /// A sheet that has been seen is filled and its show held.
+  bool HoldShow();
   /// Days pass, and their shows, for the screens that only those bring.
   void PlayOn(ui::Screen& hub);
   void AnswerBox();
@@ -50,6 +62,9 @@ class Album {
   Watcher shown_;
   std::set<std::string> taken_;
   bool saysYes_ = false;  // to the questions of a screen that is left
+  bool playsOn_ = false;
+  Step onBox_;  // before it is answered
+  bool looking_ = false;
 };
 
 /// Keeps what the window shows as FOLDER/1280x800-dark-100/frmRoster.png. Throws when it cannot be

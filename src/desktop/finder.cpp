@@ -3,11 +3,14 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <iterator>
+#include <map>
 
 #include "desktop/dates.h"
 #include "desktop/drawn/drawn.h"
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
+#include "info/search.h"
 
 namespace grapplemont::desktop {
 
@@ -15,7 +18,7 @@ namespace {
 
 constexpr int kRow = 34, kHeading = 28, kPicture = 24;
 constexpr std::size_t kMost = 6;  // names under a heading
-constexpr int kNearly = 2;        // the letters stand together
+constexpr int kApart = 20;        // letters in their order alone are the weakest reason
 
 class EntryCells : public QStyledItemDelegate {
  public:
@@ -75,18 +78,17 @@ class EntryCells : public QStyledItemDelegate {
   const std::vector<Finder::Row>& rows_;
 };
 
-/// How well letters fit words: 0 not at all; the start counts more than the middle, and that more
-/// than letters in their order alone.
-int Fit(const QString& words, const QString& letters) {
-  if (words.startsWith(letters, Qt::CaseInsensitive)) return 4;
-  if (words.contains(" " + letters, Qt::CaseInsensitive)) return 3;
-  if (words.contains(letters, Qt::CaseInsensitive)) return 2;
+/// How far an entry is from what was typed; -1 for not at all.
+int FitOf(const Finder::Entry& entry, const QString& letters) {
+  const std::string typed = Keep(letters).Text;
+  const int fit = FitOfName(Keep(entry.Words).Text, Keep(entry.Also).Text, typed);
+  if (fit >= 0) return fit;
   qsizetype at = 0;
   for (const QChar letter : letters) {
-    at = words.indexOf(letter, at, Qt::CaseInsensitive) + 1;
-    if (at == 0) return 0;
+    at = entry.Words.indexOf(letter, at, Qt::CaseInsensitive) + 1;
+    if (at == 0) return -1;
   }
-  return 1;
+  return kApart;
 }
 
 }  // namespace
@@ -125,33 +127,23 @@ Finder::Finder(QWidget* ground, Sources sources) : Veil(ground), from_(std::move
 }
 
 void Finder::Filter(const QString& typed) {
-  constexpr int kAny = 1, kAll = 100;
   const QString letters = typed.trimmed();
   list_->clear();
   rows_.clear();
   FindNames(letters);
-  Entries names;
-  for (const Entry& name : names_) names.push_back(&name);
-  if (letters.isEmpty()) {
-    AddRecent();
-    AddRows(CommandsFor(letters, kAny, kAll));
-  } else {
-    // Letters far apart are the weakest reason.
-    AddRows(CommandsFor(letters, kNearly, kAll));
-    AddRows(std::move(names));
-    AddRows(CommandsFor(letters, kAny, kNearly));
-  }
+  if (letters.isEmpty()) AddRecent();
+  Entries entries = CommandsFor(letters);
+  for (const Entry& name : names_) entries.push_back(&name);
+  AddRows(std::move(entries));
   ShowRows(letters);
 }
 
-Finder::Entries Finder::CommandsFor(const QString& letters, int least, int below) const {
-  std::vector<std::pair<int, const Entry*>> fits;
-  for (const Entry& entry : from_.Commands)
-    if (const int fit = Fit(entry.Words, letters); fit >= least && fit < below)
-      fits.emplace_back(fit, &entry);
-  std::ranges::stable_sort(fits, [](const auto& a, const auto& b) { return a.first > b.first; });
+Finder::Entries Finder::CommandsFor(const QString& letters) {
   Entries entries;
-  for (const auto& [fit, entry] : fits) entries.push_back(entry);
+  for (Entry& entry : from_.Commands) {
+    entry.Fit = letters.isEmpty() ? 0 : FitOf(entry, letters);
+    if (entry.Fit >= 0) entries.push_back(&entry);
+  }
   return entries;
 }
 
@@ -165,7 +157,9 @@ void Finder::FindNames(const QString& letters) {
                       {},
                       {},
                       std::move(found.Open),
-                      found.Picture});
+                      found.Picture,
+                      {},
+                      found.Fit});
 }
 
 bool Finder::IsRecent(const Entry& entry) const {
@@ -185,16 +179,23 @@ void Finder::AddRecent() {
 }
 
 void Finder::AddRows(Entries entries) {
-  for (std::size_t at = 0; at < entries.size();) {
-    const QString heading = entries[at]->Heading;
-    const auto first = entries.begin() + static_cast<std::ptrdiff_t>(at);
-    // Commands are sorted by how well they fit: those of a heading come together here.
-    const auto last = std::stable_partition(
-        first, entries.end(), [&](const Entry* entry) { return entry->Heading == heading; });
-    std::stable_partition(first, last, [&](const Entry* entry) { return IsRecent(*entry); });
+  std::vector<QString> headings;  // in the order in which they were met
+  std::map<QString, int> best;
+  for (const Entry* entry : entries) {
+    const auto [held, isNew] = best.try_emplace(entry->Heading, entry->Fit);
+    if (isNew) headings.push_back(entry->Heading);
+    held->second = std::min(held->second, entry->Fit);
+  }
+  std::ranges::stable_sort(headings, {}, [&](const QString& heading) { return best[heading]; });
+  for (const QString& heading : headings) {
+    Entries under;
+    std::ranges::copy_if(entries, std::back_inserter(under),
+                         [&](const Entry* entry) { return entry->Heading == heading; });
+    std::ranges::stable_sort(under, {}, &Entry::Fit);
+    std::ranges::stable_partition(
+        under, [&](const Entry* entry) { return entry->Fit < kSureFit && IsRecent(*entry); });
     rows_.push_back({heading});
-    for (auto entry = first; entry != last; ++entry) rows_.push_back({{}, *entry});
-    at += static_cast<std::size_t>(last - first);
+    for (const Entry* entry : under) rows_.push_back({{}, entry});
   }
 }
 

@@ -19,6 +19,8 @@ class Finder : public Veil {
     std::function<void()> Run;
     ui::Handler Open = {};  // of what was found by its name, in place of Run
     ui::Drawing Picture = {};
+    QString Also = {};  // other words that people say for it
+    int Fit = 0;        // how far it is from what is typed; 0 is best
     friend bool Same(const Entry& a, const Entry& b) {
       return a.Heading == b.Heading && a.Words == b.Words;
     }
@@ -45,11 +47,12 @@ class Finder : public Veil {
  private:
   using Entries = std::vector<const Entry*>;
   void Filter(const QString& letters);
-  /// Commands whose letters fit so well at least, and less than `below`.
-  Entries CommandsFor(const QString& letters, int least, int below) const;
+  /// All that fit what is typed.
+  Entries CommandsFor(const QString& letters);
   void FindNames(const QString& letters);
   void AddRecent();
-  /// Adds entries below their headings; those that were chosen lately lead under each.
+  /// Adds entries below their headings, the heading of the best first; those that were chosen
+  /// lately lead under each.
   void AddRows(Entries entries);
   void ShowRows(const QString& letters);
   bool IsRecent(const Entry& entry) const;

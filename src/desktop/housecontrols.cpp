@@ -84,8 +84,9 @@ void DrawMenuItem(const QStyleOptionMenuItem& option, QPainter& painter) {
     return;
   }
   const bool enabled = Has(option, QStyle::State_Enabled);
-  if (enabled && Has(option, QStyle::State_Selected))
-    DrawBox(painter, rect.adjusted(Px(2), 0, -Px(2), 0), c.Hover, QColor(), Px(4));
+  const bool lit = enabled && Has(option, QStyle::State_Selected);
+  if (lit) DrawBox(painter, rect.adjusted(Px(2), 0, -Px(2), 0), c.Hover, QColor(), Px(4));
+  const QColor quiet = !enabled ? c.Faint : lit ? c.Soft : c.Muted;
   if (option.checkType != QStyleOptionMenuItem::NotCheckable && option.checked) {
     QStyleOption tick;
     tick.palette = option.palette;
@@ -98,8 +99,15 @@ void DrawMenuItem(const QStyleOptionMenuItem& option, QPainter& painter) {
   const auto parts = option.text.split('\t');
   const QRect text = rect.adjusted(Px(30), 0, -Px(12), 0);
   painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft, parts.front());
+  if (option.menuItemType == QStyleOptionMenuItem::SubMenu) {
+    painter.save();
+    painter.translate(rect.right() - Px(12), rect.center().y() + 1);
+    painter.rotate(-90);
+    DrawChevron(painter, {}, Px(8), quiet);
+    painter.restore();
+  }
   if (parts.size() < 2) return;
-  painter.setPen(c.Muted);
+  painter.setPen(quiet);
   painter.drawText(text, Qt::AlignVCenter | Qt::AlignRight, parts.back());
 }
 

@@ -127,35 +127,48 @@ bool Window::PressSideKey(const QKeyEvent& event) {
   return false;
 }
 
+void Window::AddPageActs(std::vector<Finder::Entry>& entries) {
+  const ScreenView* const view = TopView();
+  if (!view || !desk_.Top()) return;
+  const QString title = Shown(desk_.Top()->Title.Get());
+  for (ui::Button* action : view->Page().Actions)
+    if (CanPress(action))
+      entries.push_back({"On this page", Shown(action->Text.Get()), title, {}, [this, action] {
+                           Act([&] { return ui::Click(desk_, action->Parent(), action->Name()); });
+                         }});
+}
+
+/// One that waits says what for, and does so again when it is chosen.
+void Window::AddRooms(std::vector<Finder::Entry>& entries) {
+  const auto add = [&](ui::Button& command, const std::string& where, const std::string& key,
+                       const std::string& also) {
+    std::string why = WhyWaits(command);
+    if (!command.Enabled && why.empty()) why = command.Tip.Get();
+    if (!command.Visible || (!command.Enabled && why.empty())) return;
+    entries.push_back(
+        {"Rooms", Shown(command.Text.Get()), Shown(why.empty() ? where : "Not now: " + why),
+         settings_.Key(command.Name(), key),
+         [this, &command, why] { why.empty() ? PressHub(command) : Hint(*this, Shown(why)); }});
+    entries.back().Also = Shown(also);
+  };
+  const ui::Page& hub = HubView()->Page();
+  for (ui::Button* action : hub.TopActions) add(*action, {}, {}, {});
+  for (const auto& group : hub.Side)
+    for (const auto& command : group.Commands)
+      add(*command.Press, group.Title, command.Key, command.Also);
+}
+
 std::vector<Finder::Entry> Window::FinderEntries() {
   std::vector<Finder::Entry> entries;
-  const auto add = [&](const char* heading, ui::Button* button, const std::string& where,
-                       const std::string& key, const std::function<void()>& run) {
-    if (CanPress(button))
-      entries.push_back({heading, Shown(button->Text.Get()), Shown(where),
-                         settings_.Key(button->Name(), key), run});
+  const auto add = [&](const char* heading, const std::vector<OwnCommand>& commands) {
+    for (const OwnCommand& own : commands)
+      if (!own.Words.isEmpty())
+        entries.push_back({heading, own.Words, {}, own.Key, own.Run, {}, {}, own.Also});
   };
-  const auto addCommand = [&](ui::Button* command, const std::string& where,
-                              const std::string& key) {
-    if (WhyWaits(*command).empty())
-      add("Rooms", command, where, key, [this, command] { PressHub(*command); });
-  };
-  if (ScreenView* const view = TopView(); view && desk_.Top())
-    for (ui::Button* action : view->Page().Actions)
-      add("On this page", action, desk_.Top()->Title.Get(), {}, [this, action] {
-        Act([&] { return ui::Click(desk_, action->Parent(), action->Name()); });
-      });
-  if (HubInReach()) {
-    const ui::Page& hub = HubView()->Page();
-    for (ui::Button* action : hub.TopActions) addCommand(action, {}, {});
-    for (const auto& group : hub.Side)
-      for (const auto& command : group.Commands)
-        addCommand(command.Press, group.Title, command.Key);
-  }
-  for (const OwnCommand& own : OwnCommands())
-    if (!own.Words.isEmpty()) entries.push_back({"Window", own.Words, {}, own.Key, own.Run});
-  for (const OwnCommand& own : SharingCommands())
-    entries.push_back({"This page", own.Words, {}, own.Key, own.Run});
+  AddPageActs(entries);
+  if (HubInReach()) AddRooms(entries);
+  add("Window", OwnCommands());
+  add("Share this page", SharingCommands());
   return entries;
 }
 

@@ -52,9 +52,12 @@ int FillAlbum(desktop::Window& window, desktop::WindowDesk& desk, Game& game,
   });
   album.Fill();
   for (const std::string& screen : album.Taken()) std::cout << screen << "\n";
+  const std::vector<std::string> missing = album.Missing();
+  for (const std::string& screen : missing)
+    std::cerr << "The walk has not come to " << screen << ".\n";
   desk.CloseAll();
   game.CloseSlot();
-  return 0;
+  return missing.empty() ? 0 : 1;
 }
 
 /// The scale that the player has set counts from the start on; what the environment says goes

@@ -114,9 +114,6 @@ void ScreenView::BuildPage() {
       BuildActions());  // last in the order of Tab, too: what a page is about comes first
   const bool bare = cover && HasTitlePicture() && page_.Actions.empty();
   title_->setVisible(!bare);
-  // The only table of a page has its search line beside the page's title.
-  if (TableView* table = OnlyTable(views_); table && screen_->Is() == ui::Role::Page)
-    tail_->insertWidget(0, table->TakeSearchRow(), 0, Qt::AlignBottom);
 }
 
 /// Its actions are always in sight.
@@ -334,10 +331,20 @@ bool ScreenView::ClearFilters() {
 }
 
 bool ScreenView::FocusSearch() {
-  return std::ranges::any_of(views_, [](ControlView* view) {
+  return std::ranges::any_of(views_, [this](ControlView* view) {
     auto* table = dynamic_cast<TableView*>(view);
-    return table && table->isVisible() && table->FocusSearch();
+    if (!table || !table->isVisible()) return false;
+    const ui::TextBox* const own = dynamic_cast<ui::ListBox&>(view->Shows()).Search;
+    if (own) GiveKeyboard(*own);
+    return own || table->FocusSearch();
   });
+}
+
+const ui::Table* ScreenView::TableOf(const ui::ListBox& list) const {
+  for (const ControlView* view : views_)
+    if (const auto* table = dynamic_cast<const TableView*>(view); table && &view->Shows() == &list)
+      return table->Arranged();
+  return nullptr;
 }
 
 /// A click beside everything is one on the picture behind.

@@ -43,6 +43,8 @@ class ScreenView : public QWidget {
   /// The space bar and Escape; true when the key meant something.
   bool HandleKey(int key);
   bool FocusSearch();
+  /// A list of the page as the player has arranged it; nullptr for none.
+  const ui::Table* TableOf(const ui::ListBox& list) const;
   /// How large a dialog wants to be, in drawn pixels; invalid: as its contents are.
   QSize DialogSize() const;
 
@@ -78,7 +80,7 @@ class ScreenView : public QWidget {
   std::vector<LayoutBuilder::CardContents> cards_;
   Scroller* whole_ = nullptr;  // of head and body
   QLabel* title_ = nullptr;
-  QBoxLayout* tail_ = nullptr;      // of the head: what is searched and done
+  QBoxLayout* tail_ = nullptr;      // of the head: what is done
   std::vector<ButtonView*> mains_;  // Main, Then and First
   unsigned seen_ = 0;
   Backdrop backdrop_;

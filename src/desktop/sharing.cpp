@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QSaveFile>
 #include <QTextDocument>
+#include <QTextFrame>
+#include <QTextOption>
 #include <algorithm>
 
 #include "desktop/pieces.h"
@@ -33,14 +35,29 @@ constexpr Sharing kTexts[] = {{"Markdown", "md", ui::Form::Markdown},
 /// As much of a picture as programs can be trusted to open.
 constexpr double kMostPixels = 30000;
 
+/// Prose keeps to a width that can be read; a table has what its columns ask for, so far as there
+/// is a limit to it.
+void SetWidth(QTextDocument& words) {
+  constexpr int kWidest = 4;  // times as wide as prose
+  words.setTextWidth(kWidest * ReadableWidth());
+  double width = ReadableWidth() + 2 * words.documentMargin();
+  for (QTextFrame* table : words.rootFrame()->childFrames())
+    width = std::max(
+        width, words.documentLayout()->frameBoundingRect(table).right() + words.documentMargin());
+  words.setTextWidth(width);
+}
+
 /// HTML on white paper, whole.
 QPixmap PaintedWords(const QString& html) {
   constexpr int kSide = 24;
   QTextDocument words;
   words.setDefaultFont(TextFont());
   words.setDocumentMargin(Px(kSide));
+  QTextOption option = words.defaultTextOption();
+  option.setWrapMode(QTextOption::WordWrap);  // never amid a name
+  words.setDefaultTextOption(option);
   words.setHtml(html);
-  words.setTextWidth(ReadableWidth() + 2 * Px(kSide));
+  SetWidth(words);
   const QSizeF size = words.size().boundedTo({kMostPixels, kMostPixels});
   QPixmap picture(size.toSize().expandedTo({1, 1}));
   picture.fill(Qt::white);
@@ -54,8 +71,9 @@ QPixmap PaintedWords(const QString& html) {
 
 }  // namespace
 
-Shareable PageToShare(ui::Screen& screen, QWidget& view) {
-  return {[&screen](ui::Form form) { return ui::Shared(screen, form); },
+Shareable PageToShare(ui::Screen& screen, ScreenView& view) {
+  const ui::TableFinder arranged = [&view](const ui::ListBox& list) { return view.TableOf(list); };
+  return {[&screen, arranged](ui::Form form) { return ui::Shared(screen, form, arranged); },
           [&view] { return view.grab(); }};
 }
 
@@ -83,13 +101,20 @@ QString WriteShared(const QString& file, const Shareable& shared) {
 }
 
 FileTold SaveShared(QWidget* parent, const QString& name, const Shareable& shared) {
-  QStringList kinds;
-  for (const Sharing& row : kTexts)
-    kinds << QString("%1 (*.%2)").arg(QString(row.Words), QString(row.Ending));
-  kinds << QString("Picture (*.%1)").arg(kPicture);
-  const QString file = QFileDialog::getSaveFileName(
-      parent, "Save to a file", name + "." + kTexts[0].Ending, kinds.join(";;"));
+  QStringList kinds, endings;
+  const auto add = [&](const char* words, const char* ending) {
+    kinds << QString("%1 (*.%2)").arg(QString(words), QString(ending));
+    endings << ending;
+  };
+  for (const Sharing& row : kTexts) add(row.Words, row.Ending);
+  add("Picture", kPicture);
+  QString kind;
+  QString file = QFileDialog::getSaveFileName(parent, "Save to a file", name + "." + endings[0],
+                                              kinds.join(";;"), &kind);
   if (file.isEmpty()) return {};
+  // A name without an ending is of the kind that was chosen beside it.
+  if (QFileInfo(file).suffix().isEmpty())
+    file += "." + endings.value(kinds.indexOf(kind), endings[0]);
   const QString why = WriteShared(file, shared);
   if (!why.isEmpty()) return {why, ui::Tone::Red};
   return {"Wrote " + file + "."};

@@ -15,8 +15,10 @@ struct Shareable {
   std::function<std::string(ui::Form form)> Text;
   std::function<QPixmap()> Picture;
 };
-/// A page, whose picture is `view` as it is seen.
-Shareable PageToShare(ui::Screen& screen, QWidget& view);
+class ScreenView;
+
+/// A page, its lists as `view` has them arranged; its picture is `view` as it is seen.
+Shareable PageToShare(ui::Screen& screen, ScreenView& view);
 /// The same with a picture of all its words, however far they would have to be scrolled.
 Shareable WordsToShare(std::function<std::string(ui::Form form)> text);
 

@@ -203,6 +203,9 @@ void TableGrid::keyPressEvent(QKeyEvent* event) {
     return bar->setValue(bar->value() + (key == Qt::Key_Left ? -1 : 1) * Px(40));
   }
   const int row = CurrentRow();
+  // Not every keyboard has the key of menus.
+  if (key == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+    return emit customContextMenuRequested(visualRect(currentIndex()).center());
   if (IsEnter(key) && event->modifiers().testFlag(Qt::ControlModifier))
     return model_.List().OnOpen && row >= 0 && !event->isAutoRepeat() ? Opened(row) : void();
   if (key == Qt::Key_Space) return row >= 0 ? PickAs(row, event->modifiers()) : void();

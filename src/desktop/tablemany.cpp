@@ -49,9 +49,13 @@ void TableView::DropUnseen() {
   if (control_.Extends) PickShown(seen);
 }
 
-/// What is shown; where several rows are chosen, those.
+/// What leaves the program is what is shown; where several rows are chosen, those.
 std::string TableView::Csv() const {
-  return table_.Csv(control_.Extends && control_.Keys().size() > 1);
+  return table_.Csv(SeveralChosen());
+}
+
+bool TableView::SeveralChosen() const {
+  return control_.Extends && control_.Keys().size() > 1;
 }
 
 void TableView::CopyCsv() const {

@@ -59,11 +59,7 @@ void TableView::OpenHeadingMenu(const QPoint& at) {
   QMenu* menu = NewMenu(this, "headingmenu");
   AddFilterLine(*menu, column);
   menu->addSeparator();
-  const std::string title = model_.Column(column).Meant();
-  if (!OnStage().Desk().MeaningOf(title).empty())
-    menu->addAction("What it means", this, [this, title] {
-      Follow([this, title] { OnStage().Desk().OpenGlossary(title); });
-    });
+  AddMeaning(*menu, column, "What it means");
   AddChange(*menu, "Sort", [this, column] { table_.TurnSort(column, false); });
   AddChange(*menu, "Sort as the second key\tShift click",
             [this, column] { table_.TurnSort(column, true); });
@@ -79,9 +75,44 @@ void TableView::OpenHeadingMenu(const QPoint& at) {
   menu->popup(grid_->Heading().mapToGlobal(at));
 }
 
+void TableView::AddMeaning(QMenu& menu, int column, const QString& words) {
+  const std::string title = model_.Column(column).Meant();
+  if (!OnStage().Desk().MeaningOf(title).empty())
+    menu.addAction(words, this, [this, title] {
+      Follow([this, title] { OnStage().Desk().OpenGlossary(title); });
+    });
+}
+
+/// What a heading does by mouse, for the keyboard.
+void TableView::AddHeadings(QMenu& menu) {
+  QMenu *const sort = menu.addMenu("Sort by"), *const filter = menu.addMenu("Filter"),
+               *const means = menu.addMenu("What it means");
+  for (const int column : table_.Columns()) {
+    if (model_.Column(column).Kind == ui::ColumnKind::Button) continue;
+    const QString words = Shown(ui::ColumnId(control_.Columns(), column));
+    QAction* by = AddChange(*sort, words, [this, column] { table_.TurnSort(column, false); });
+    by->setCheckable(true);
+    by->setChecked(table_.SortPlace(column) > 0);
+    // Once this menu has gone.
+    connect(
+        filter->addAction(words), &QAction::triggered, this, [this, column] { OpenFilter(column); },
+        Qt::QueuedConnection);
+    AddMeaning(*means, column, words);
+  }
+  means->menuAction()->setVisible(!means->isEmpty());
+  menu.addSeparator();
+}
+
+void TableView::OpenFilter(int column) {
+  QMenu* menu = NewMenu(this, "filtermenu");
+  AddFilterLine(*menu, column);
+  menu->popup(grid_->viewport()->mapToGlobal(QPoint(0, 0)));
+}
+
 void TableView::OpenColumnsMenu(const QPoint& globally) {
   QMenu* menu = NewMenu(this, "columnsmenu");
   AddViews(*menu);
+  AddHeadings(*menu);
   AddColumnChoices(*menu);
   AddTableActs(*menu);
   menu->popup(globally);
@@ -101,6 +132,7 @@ void TableView::OpenRowMenu(const QPoint& at) {
   for (const NamedLink& link : LinksOfRow(grid_->indexAt(at)))
     menu->addAction("Open " + link.Words, this, [this, open = link.Open] { Follow(open); });
   if (!menu->isEmpty()) menu->addSeparator();
+  AddHeadings(*menu);
   AddColumnChoices(*menu->addMenu("Columns"));
   AddTableActs(*menu);
   menu->popup(grid_->viewport()->mapToGlobal(at));
@@ -183,7 +215,7 @@ void TableView::AddTableActs(QMenu& menu) {
   menu.addAction("Copy as CSV\tCtrl C", this, [this] { CopyCsv(); });
   menu.addAction("Save as CSV\u2026", this, [this] { SaveCsv(); });
   const Shareable shared = WordsToShare([this](ui::Form form) {
-    return table_.Follows() ? ui::Shared(table_, form) : std::string();
+    return table_.Follows() ? ui::Shared(table_, form, SeveralChosen()) : std::string();
   });
   AddSharing(menu, shared);
   menu.addAction("Save to a file\u2026", this, [this, shared] {

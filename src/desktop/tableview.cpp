@@ -136,7 +136,7 @@ void TableView::ConnectGrid() {
   grid_->Moved = [this] { PlaceRowButtons(); };
   ConnectLinks();
   grid_->Typed = [this](const QString& letters) {
-    if (searchRow_->isHidden()) return grid_->keyboardSearch(letters);
+    if (searchRow_->isHidden() || control_.Search) return grid_->keyboardSearch(letters);
     search_->setFocus(Qt::ShortcutFocusReason);
     search_->insert(letters);
   };
@@ -197,6 +197,7 @@ void TableView::ShowSearchRow() {
   const bool filters = !table_.State().Search.empty() || !table_.State().Filters.empty();
   const bool wide = CanSearch() && control_.Count() > kWorthSearching && rowButtons_.empty();
   searchRow_->setVisible(wide || filters || !control_.Views.empty());
+  search_->setVisible(!control_.Search);
   const bool all = static_cast<int>(table_.Columns().size()) == model_.columnCount();
   const QString view = Shown(table_.State().View);
   const QString words = !view.isEmpty() ? view : all ? "All" : "Yours";

@@ -26,7 +26,7 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void Leave() override;
   /// Whether it may come to have rows enough for a search line.
   bool CanSearch() const { return control_.Room > kWorthSearching || !control_.Views.empty(); }
-  /// The search line's row, for a page that has a better place for it.
+  /// The search line's row, for a card whose heading stands in the line above the table.
   QWidget* TakeSearchRow();
   /// Has these stand in the rows, by the rows' keys from 1.
   void SetRowButtons(std::vector<ButtonView*> buttons);
@@ -36,6 +36,8 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   bool FocusSearch();
   /// Shows all rows again; false when nothing filtered.
   bool ClearFilters();
+  /// As the player has arranged it; nullptr for a moment while the list has changed.
+  const ui::Table* Arranged() const { return table_.Follows() ? &table_ : nullptr; }
 
  protected:
   void Show() override;
@@ -73,6 +75,7 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void TakeOrder();
   void RestorePlace();
   std::string Csv() const;
+  bool SeveralChosen() const;
   void CopyCsv() const;
   void SaveCsv();
   void PlaceRowButtons();
@@ -98,6 +101,9 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void AddTableActs(QMenu& menu);
   void SaveView();
   void PressAct(ui::Button& button, ui::ComboBox* box, int row);
+  void AddMeaning(QMenu& menu, int column, const QString& words);
+  void AddHeadings(QMenu& menu);
+  void OpenFilter(int column);
   void AddFilterLine(QMenu& menu, int column);
   void MoveColumn(int column, int by);
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QFileDialog>
 #include <QTimer>
 #include <algorithm>
 
@@ -29,6 +30,7 @@ Window::Window(WindowDesk& desk, Options options)
       ground_(new QWidget(this)),
       full_(new QStackedLayout(ground_)) {
   desk_.window_ = this;
+  desk_.OpenShellOptions = [this] { ShowOptions(); };
   settings_.Game = options_.Game;
   UseDateForm(settings_.Dates());
   ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
@@ -49,6 +51,7 @@ Window::~Window() {
   // A field that is left tells what was typed in it; nobody listens any more.
   syncing_ = true;
   qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+  desk_.OpenShellOptions = {};
   desk_.window_ = nullptr;
 }
 
@@ -263,6 +266,22 @@ int Window::AnswerOf(const std::string& title, const std::string& text, const QS
   return answer;
 }
 
+/// The game itself asks before it writes over a file.
+std::string Window::FileFor(const std::string& title, const std::string& offered,
+                            ui::Desk::Use use) {
+  if (closing_) return {};
+  const bool busy = std::exchange(busy_, false);
+  const QString file = use == ui::Desk::Use::Read ? QFileDialog::getOpenFileName(this, Shown(title))
+                                                  : QFileDialog::getSaveFileName(
+                                                        this, Shown(title), Shown(offered), {},
+                                                        nullptr, QFileDialog::DontConfirmOverwrite);
+  busy_ = busy;
+  const Keepable kept = Keep(file);
+  if (kept.Refused.isEmpty()) return kept.Text;
+  Hint(*this, RefusalOf(kept.Refused));
+  return {};
+}
+
 void Window::RepaintNow() {
   if (busy_) return;
   const auto& screens = desk_.Screens();
@@ -333,6 +352,11 @@ std::string WindowDesk::Prompt(const std::string& title, const std::string& text
   std::string line = offered;
   const bool taken = window_ && window_->AnswerOf(title, text, {"Cancel", "OK"}, 1, &line) == 1;
   return taken ? line : std::string();
+}
+
+std::string WindowDesk::ChooseFile(const std::string& title, const std::string&,
+                                   const std::string& offered, Use use) {
+  return window_ ? window_->FileFor(title, offered, use) : std::string();
 }
 
 void WindowDesk::Hear(ui::Sound sound) {

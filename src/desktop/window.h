@@ -27,6 +27,8 @@ class WindowDesk : public ui::Desk {
   bool Ask(const std::string& title, const std::string& text, ui::Default answer) override;
   std::string Prompt(const std::string& title, const std::string& text,
                      const std::string& offered) override;
+  std::string ChooseFile(const std::string& title, const std::string& text,
+                         const std::string& offered, Use use) override;
   void Hear(ui::Sound sound) override;
   void Repaint() override;
 
@@ -73,6 +75,8 @@ class Window : public QMainWindow, public Stage {
   /// is none. With a line, that is offered and then holds what was typed.
   int AnswerOf(const std::string& title, const std::string& text, const QStringList& captions,
                int usual, std::string* line = nullptr);
+  /// The whole path of a file that the player chooses; empty for none.
+  std::string FileFor(const std::string& title, const std::string& offered, ui::Desk::Use use);
   void RepaintNow();
   void Hear(ui::Sound sound);
 
@@ -137,6 +141,8 @@ class Window : public QMainWindow, public Stage {
   void HintAt(const ui::Button& refused, const QString& why);
   void OpenFinder();
   std::vector<Finder::Entry> FinderEntries();
+  void AddPageActs(std::vector<Finder::Entry>& entries);
+  void AddRooms(std::vector<Finder::Entry>& entries);
   void Remember(const Finder::Entry& chosen);
 
   // Keys and the window's own commands, in windowkeys.cpp and windowcommands.cpp.
@@ -144,6 +150,7 @@ class Window : public QMainWindow, public Stage {
     std::vector<int> Keys;  // with Ctrl
     QString Words, Key;     // as they are found; without words it is not
     std::function<void()> Run;
+    QString Also = {};  // other words that people say for it
   };
   std::vector<OwnCommand> OwnCommands();
   std::vector<OwnCommand> KeyedCommands();
@@ -158,6 +165,7 @@ class Window : public QMainWindow, public Stage {
   void OpenGlossary(const std::string& term);
   void TurnColours();
   void OpenOptions();
+  void ShowOptions();
   // What the page tells, for elsewhere; in sharing.cpp.
   std::vector<OwnCommand> SharingCommands();
   void SavePage(const Shareable& shared);

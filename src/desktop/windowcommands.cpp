@@ -14,47 +14,73 @@ std::vector<Window::OwnCommand> Window::OwnCommands() {
   return commands;
 }
 
+namespace {
+
+// What people look for who do not know how a setting is called here.
+constexpr const char* kTextWords = "text size font letters zoom bigger";
+constexpr const char* kThemeWords = "theme colours dark light mode";
+constexpr const char* kSoundWords = "sound volume music bell crowd mute louder quieter";
+
+}  // namespace
+
 /// Those with a key.
 std::vector<Window::OwnCommand> Window::KeyedCommands() {
-  const bool dark = IsDark(settings_.Colours());
-  return {
-      {{Qt::Key_Comma}, "Window options", "Ctrl ,", [this] { OpenOptions(); }},
-      {{}, "Full screen", "F11", [this] { TurnFullScreen(); }},
-      {{Qt::Key_K}, {}, {}, [this] { OpenFinder(); }},
-      {{Qt::Key_L}, dark ? "Light colours" : "Dark colours", "Ctrl L", [this] { TurnColours(); }},
-      {{Qt::Key_Plus, Qt::Key_Equal},
-       "Larger text",
-       "Ctrl +",
-       [this] { SetZoom(settings_.Zoom() + 1); }},
-      {{Qt::Key_Minus}, "Smaller text", "Ctrl -", [this] { SetZoom(settings_.Zoom() - 1); }},
-      {{Qt::Key_0}, "Text as the desktop has it", "Ctrl 0", [this] { SetZoom(0); }},
-      {{}, "Help for this page", "F1", [this] { OpenHelp(); }},
-      {{}, "Glossary", {}, [this] { OpenGlossary({}); }}};
+  return {{{Qt::Key_Comma},
+           "Window options",
+           "Ctrl ,",
+           [this] { OpenOptions(); },
+           "settings preferences theme text size sound volume language dates animation scale keys"},
+          {{}, "Full screen", "F11", [this] { TurnFullScreen(); }, "window maximise"},
+          {{Qt::Key_K}, {}, {}, [this] { OpenFinder(); }},
+          {{Qt::Key_L}, {}, {}, [this] { TurnColours(); }},
+          {{Qt::Key_Plus, Qt::Key_Equal},
+           "Larger text",
+           "Ctrl +",
+           [this] { SetZoom(settings_.Zoom() + 1); },
+           kTextWords},
+          {{Qt::Key_Minus},
+           "Smaller text",
+           "Ctrl -",
+           [this] { SetZoom(settings_.Zoom() - 1); },
+           kTextWords},
+          {{Qt::Key_0}, "Text as the desktop has it", "Ctrl 0", [this] { SetZoom(0); }, kTextWords},
+          {{}, "Help for this page", "F1", [this] { OpenHelp(); }, "keys manual how to"},
+          {{}, "Glossary", {}, [this] { OpenGlossary({}); }, "terms words meaning"}};
 }
 
-/// What else the window options hold, as far as it is not as it is already.
+/// What else the window options hold: every set of colours, and what is not as it is already.
 std::vector<Window::OwnCommand> Window::SettingCommands() {
   constexpr int kLouder = 10;  // percent
   std::vector<OwnCommand> commands;
-  const auto add = [&](const QString& words, std::function<void()> run) {
-    commands.push_back({{}, words, {}, std::move(run)});
+  const auto add = [&](const QString& words, const char* also, std::function<void()> run) {
+    commands.push_back({{}, words, {}, std::move(run), also});
   };
-  add("High contrast", [this] { SetColours(Scheme::Contrast); });
-  add("Colours as the desktop has them", [this] { SetColours(Scheme::System); });
+  const auto addColours = [&](const char* words, Scheme scheme) {
+    add(words, kThemeWords, [this, scheme] { SetColours(scheme); });
+  };
+  addColours("Dark colours", Scheme::Dark);
+  addColours("Light colours", Scheme::Light);
+  // The key turns to the one that is not shown.
+  (commands.end() - (IsDark(settings_.Colours()) ? 1 : 2))->Key = "Ctrl L";
+  addColours("High contrast", Scheme::Contrast);
+  addColours("Colours as the desktop has them", Scheme::System);
   add(settings_.Still() ? "Let the cursor blink" : "Nothing moves by itself",
-      [this] { SetStill(!settings_.Still()); });
-  add(settings_.Sounds() ? "Sound off" : "Sound on", [this] { SetSounds(!settings_.Sounds()); });
+      "animation motion still", [this] { SetStill(!settings_.Still()); });
+  add(settings_.Sounds() ? "Sound off" : "Sound on", kSoundWords,
+      [this] { SetSounds(!settings_.Sounds()); });
   if (settings_.Sounds()) {
-    add("Louder sound", [this] { SetVolume(settings_.Volume() + kLouder); });
-    add("Quieter sound", [this] { SetVolume(settings_.Volume() - kLouder); });
+    add("Louder sound", kSoundWords, [this] { SetVolume(settings_.Volume() + kLouder); });
+    add("Quieter sound", kSoundWords, [this] { SetVolume(settings_.Volume() - kLouder); });
   }
   for (std::size_t i = 0; i < std::size(kDateForms); ++i)
     if (const auto form = static_cast<DateForm>(i); form != settings_.Dates())
-      add(QString("Dates: ") + kDateForms[i].Words, [this, form] { SetDates(form); });
+      add(QString("Dates: ") + kDateForms[i].Words, "language of dates format",
+          [this, form] { SetDates(form); });
   for (const int percent : kScales)
     if (percent != settings_.Scale())
-      add(QString("Window scale: %1%").arg(percent), [this, percent] { SetScale(percent); });
-  add("Change keys", [this] { OpenOptions(); });
+      add(QString("Window scale: %1%").arg(percent), "zoom size larger smaller",
+          [this, percent] { SetScale(percent); });
+  add("Change keys", "shortcuts keyboard rebind hotkeys", [this] { OpenOptions(); });
   return commands;
 }
 
@@ -117,16 +143,20 @@ void Window::SetDates(DateForm form) {
 }
 
 void Window::OpenOptions() {
+  Act([this] {
+    ShowOptions();
+    return std::string();
+  });
+}
+
+void Window::ShowOptions() {
   if (desk_.Top() && desk_.Top()->Name() == kWindowOptions) return;
   std::vector<KeyedCommand> commands;
   if (const ScreenView* hub = HubView())
     for (const auto& group : hub->Page().Side)
       for (const auto& command : group.Commands)
         commands.push_back({command.Press->Name(), command.Press->Text.Get(), command.Key});
-  Act([&] {
-    desk_.Event([&] { desk_.Open(NewWindowOptions(desk_, *this, std::move(commands))); });
-    return std::string();
-  });
+  desk_.Open(NewWindowOptions(desk_, *this, std::move(commands)));
 }
 
 void Window::SetZoom(int zoom) {

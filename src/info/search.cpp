@@ -16,9 +16,10 @@ namespace {
 
 using Kind = Found::Kind;
 
-constexpr int kInside = 3;      // the letters stand inside a word
-constexpr int kTypo = 10;       // a wrong letter is worse than any place in the name
-constexpr int kWorkless = 200;  // behind everybody who works somewhere
+constexpr int kInside = kSureFit;  // the letters stand inside a word
+constexpr int kTypo = 10;          // a wrong letter is worse than any place in the name
+constexpr int kBehindAll = 100;    // a mail holds many words: names come first
+constexpr int kWorkless = 200;     // behind everybody who works somewhere
 
 /// A letter without its accent, small; a blank for what is not a letter.
 char Plain(char letter) {
@@ -138,10 +139,12 @@ std::string AboutShow(const World& world, const Show& show) {
 }
 
 /// A mail has no name: how it begins.
-std::string BeginningOf(std::string_view body) {
+std::string BeginningOf(std::string body) {
   constexpr std::size_t kShown = 60;
-  if (body.size() <= kShown) return std::string(body);
-  return std::string(body.substr(0, body.rfind(' ', kShown))) + " ...";
+  std::ranges::replace_if(
+      body, [](char letter) { return letter == '\r' || letter == '\n'; }, ' ');
+  if (body.size() <= kShown) return body;
+  return body.substr(0, body.rfind(' ', kShown)) + " ...";
 }
 
 /// Hands the records of a kind to `visit`.
@@ -180,7 +183,7 @@ std::string NameOf(const World& world, Kind kind, int number) {
     if (number < 1 || number > records.Count()) return {};
     const auto& record = records[number];
     if constexpr (requires { record.Body; })
-      return BeginningOf(record.Body.View());
+      return BeginningOf(record.Body.Str());
     else
       return record.Name.Str();
   });
@@ -196,6 +199,15 @@ std::string_view KindOfFound(Kind kind) {
       "Workers", "Promotions", "Titles",   "Shows",    "Events", "Tag Teams",
       "Stables", "Staff",      "Networks", "Sponsors", "Mail"};
   return kKinds[static_cast<std::size_t>(kind)];
+}
+
+int FitOfName(std::string_view name, std::string_view also, std::string_view typed) {
+  const std::vector<std::string> words = TypedWords(typed);
+  if (words.empty()) return -1;
+  const int fit = FitOf(PlainWords(name), words, true);
+  const int other = FitOf(PlainWords(also), words, false) + 1;  // its own name goes first
+  const bool isOther = other > 0 && other <= kSureFit && (fit < 0 || other < fit);
+  return isOther ? other : fit;
 }
 
 NameSearch::NameSearch(const World& world) : world_(world) {
@@ -271,8 +283,9 @@ std::vector<NameSearch::Hit> NameSearch::HitsFor(const std::vector<std::string>&
                                                  bool forgiving) const {
   std::vector<Hit> hits;
   for (const Name& name : names_) {
-    const int fit = FitOf(name.Letters, words, forgiving && name.Is != Kind::Mail);
-    if (fit >= 0) hits.push_back({&name, fit});
+    const bool isMail = name.Is == Kind::Mail;
+    const int fit = FitOf(name.Letters, words, forgiving && !isMail);
+    if (fit >= 0) hits.push_back({&name, fit + (isMail ? kBehindAll : 0)});
   }
   return hits;
 }

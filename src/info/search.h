@@ -27,9 +27,15 @@ struct Found {
   Kind Is;
   int Number;  // of the record in its file
   std::string Name;
-  int Fit;  // 0 is best: how far the name is from what was typed
+  int Fit;  // 0 is best: how far the name is from what was typed; mail is behind all else
 };
 inline constexpr int kKindsOfFound = static_cast<int>(Found::Kind::Mail) + 1;
+
+/// How far a name is from what was typed: below kSureFit each typed word begins one of its words; a
+/// slip counts more than any place. -1 when it does not hold them at all. `also` are other words
+/// that people say for it, which forgive no slip.
+int FitOfName(std::string_view name, std::string_view also, std::string_view typed);
+inline constexpr int kSureFit = 3;
 
 /// The names of a world as they were when this was made. Small and capital letters and accents are
 /// all alike.

@@ -6,6 +6,7 @@
 #include "calendar/events.h"
 #include "info/screens/glossary.h"
 #include "info/search.h"
+#include "program/screenways.h"
 #include "records/modWresCheck.h"
 #include "storylines/partners.h"
 #include "storylines/titles.h"
@@ -17,17 +18,6 @@ namespace grapplemont {
 namespace {
 
 using Kind = Found::Kind;
-
-/// What is seen through to its end before another room is entered.
-constexpr std::string_view kSeenThrough[] = {"frmBooking",     "frmPPVBooking", "frmAutoBook",
-                                             "frmMatchOutput", "frmPostShow",   "frmIncident",
-                                             "frmPinky",       "frmTheEnd",     "frmPlayOn"};
-
-bool MayEnterRooms(const ui::Desk& desk) {
-  return std::ranges::none_of(desk.Screens(), [](const auto& screen) {
-    return std::ranges::find(kSeenThrough, screen->Name()) != std::end(kSeenThrough);
-  });
-}
 
 /// Where a kind of record is listed.
 struct Room {
@@ -43,20 +33,6 @@ int RowIn(const ui::ListBox& list, int key, std::string_view words) {
     return std::ranges::any_of(row.Cells, [&](const ui::Cell& cell) { return cell.Text == words; });
   });
   return found == rows.end() ? 0 : static_cast<int>(found - rows.begin()) + 1;
-}
-
-/// False, after a word, where no room can be entered now.
-bool Enters(ui::Desk& desk) {
-  const bool may = MayEnterRooms(desk);
-  if (!may) desk.Say("Not now", "What is under way has to be seen through to its end first.");
-  return may;
-}
-
-/// Gives the room's screen, on top; nullptr, after a word, where it cannot be entered now.
-ui::Screen* Enter(ui::Desk& desk, const char* screen) {
-  if (!Enters(desk)) return nullptr;
-  if (!desk.Top() || desk.Top()->Name() != screen) desk.Open(screen);
-  return desk.Top();
 }
 
 void EnterAt(ui::Desk& desk, const Room& room, int key, std::string_view words = {}) {
@@ -188,11 +164,9 @@ ui::Drawing PictureOf(const World& world, const Found& found) {
 void AddNames(Game& game, const NameSearch& names, std::string_view typed, std::size_t most,
               std::vector<ui::Finding>& findings) {
   for (Found& found : names.Find(typed, most)) {
-    ui::Finding finding{std::string(KindOfFound(found.Is)),
-                        found.Name,
-                        AboutFound(game.World(), found),
-                        PictureOf(game.World(), found),
-                        {}};
+    ui::Finding finding{
+        std::string(KindOfFound(found.Is)), found.Name, AboutFound(game.World(), found),
+        PictureOf(game.World(), found),     {},         found.Fit};
     finding.Open = [&game, found = std::move(found)] { OpenFound(game, found); };
     findings.push_back(std::move(finding));
   }
@@ -201,9 +175,12 @@ void AddNames(Game& game, const NameSearch& names, std::string_view typed, std::
 void AddTerms(Game& game, std::string_view typed, std::size_t most,
               std::vector<ui::Finding>& findings) {
   for (const GlossaryTerm* term : TermsLike(typed, most))
-    findings.push_back({"Glossary", term->Name, term->Of, {}, [&game, term] {
-                          game.Desk().OpenGlossary(term->Name);
-                        }});
+    findings.push_back({"Glossary",
+                        term->Name,
+                        term->Of,
+                        {},
+                        [&game, term] { game.Desk().OpenGlossary(term->Name); },
+                        std::max(0, FitOfName(term->Name, {}, typed))});
 }
 
 }  // namespace
@@ -213,6 +190,7 @@ void ConnectFinding(Game& game) {
     const auto names = game.HasWorld() ? std::make_shared<NameSearch>(game.World()) : nullptr;
     return [&game, names](std::string_view typed, std::size_t most) {
       std::vector<ui::Finding> findings;
+      AddPages(game, typed, most, findings);
       if (names && game.HasWorld()) AddNames(game, *names, typed, most, findings);
       AddTerms(game, typed, most, findings);
       return findings;

@@ -105,6 +105,7 @@ class Label : public Control {
   bool Large = false;  // a figure that stands out
   /// Where the number in the text is heading: an arrow up beside it above 0, down below 0.
   Property<int> Trend{Changes(), 0};
+  bool Fleeting = false;  // says how the page is being worked, which is no part of what it tells
 };
 
 class Button : public Control {
@@ -191,6 +192,7 @@ class ComboBox : public Control {
   /// Selects without telling the handler; 0 none.
   void Select(int row);
   void SelectKey(int key);
+  bool Filters = false;  // of a list on the page; the first row leaves all in it
   Handler OnPick;
 
  private:
@@ -307,9 +309,10 @@ class ListBox : public Control {
     std::vector<std::string> Columns;
   };
   std::vector<View> Views;
-  int Room = 12;          // the most rows that it asks room for
-  int Least = 3;          // the rows that it has room for in the smallest window
-  std::string EmptyText;  // what belongs here and how to get it
+  TextBox* Search = nullptr;  // the screen's own line to find rows by; none: a shell may have one
+  int Room = 12;              // the most rows that it asks room for
+  int Least = 3;              // the rows that it has room for in the smallest window
+  std::string EmptyText;      // what belongs here and how to get it
   Handler OnPick;
   Handler OnOpen;
   /// A row is dragged to another's place, by their keys; empty where rows stay.

@@ -26,6 +26,7 @@ struct Finding {
   std::string Heading, Words, About;
   Drawing Picture;  // a small one; none for most
   Handler Open;
+  int Fit = 0;  // how far it is from what was typed: 0 is best
 };
 /// Finds by a few typed letters, the best first, at most `most` under a heading. Made for one
 /// search: it knows the names as they were then.
@@ -74,6 +75,13 @@ class Desk {
                    Default answer = Default::Yes) = 0;
   virtual std::string Prompt(const std::string& title, const std::string& text,
                              const std::string& offered) = 0;
+  /// The file to be read, or to be written with a name to begin from: as typed, or as a shell has
+  /// it chosen. Empty when the player cancels.
+  enum class Use { Read, Write };
+  virtual std::string ChooseFile(const std::string& title, const std::string& text,
+                                 const std::string& offered, Use) {
+    return Prompt(title, text, offered);
+  }
   /// Says what stands against an act, titled "Error!"; false, without a box, when nothing does.
   bool Objects(const std::string& why);
   /// Something is heard; a shell may play it. The same sound twice in an event is heard once.
@@ -109,6 +117,9 @@ class Desk {
   std::function<NameSearch()> BeginSearch;
   /// One that finds nothing until BeginSearch has been set.
   NameSearch NewSearch() const;
+
+  /// Opens what can be set about the shell itself; a shell without such a thing has none.
+  Handler OpenShellOptions;
 
   HelpPages Help;
   /// Opens the help for the top screen; false where there is none.

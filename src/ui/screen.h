@@ -86,6 +86,7 @@ struct SideGroup {
     Button* Press;
     std::string Key = {};  // "F2"
     Reach Into = Reach::Company;
+    std::string Also = {};  // what else people call its room
   };
   std::string Title;
   std::vector<Command> Commands;

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "records/fields/charset.h"
-#include "ui/filter.h"
 
 namespace grapplemont::ui {
 
@@ -110,7 +109,7 @@ class Writer {
     text_ += ": " + Escaped(value, marks_.LineBreak);
     text_ += marks_.Paragraph.Close;
   }
-  void Rows(const ui::Table& table, const std::vector<Column>& columns);
+  void Rows(const ui::Table& table, bool chosenAlone = false);
   void Append(const std::string& written) { text_ += written; }
   const std::string& Text() const { return text_; }
 
@@ -139,7 +138,13 @@ class Writer {
   std::string text_;
 };
 
-void Writer::Rows(const ui::Table& table, const std::vector<Column>& columns) {
+/// Dates stand at the left, as they do in a table.
+bool IsFigure(ColumnKind kind) {
+  return kind == ColumnKind::Number || kind == ColumnKind::Percent;
+}
+
+void Writer::Rows(const ui::Table& table, bool chosenAlone) {
+  const std::vector<Column>& columns = table.ListColumns();
   const auto kind = [&](int column) { return columns[static_cast<std::size_t>(column)].Kind; };
   std::vector<int> shown;
   for (const int column : table.Columns())
@@ -150,14 +155,15 @@ void Writer::Rows(const ui::Table& table, const std::vector<Column>& columns) {
   text_ += marks_.Row.Close;
   if (marks_.RuleBelowHead) {
     text_ += marks_.Row.Open;
-    for (const int column : shown) text_ += IsNumeric(kind(column)) ? " ---: |" : " --- |";
+    for (const int column : shown) text_ += IsFigure(kind(column)) ? " ---: |" : " --- |";
     text_ += marks_.Row.Close;
   }
   const int count = static_cast<int>(table.Rows().size());
   for (int row = 0; row < count; ++row) {
+    if (chosenAlone && !table.RowAt(row).Selected) continue;
     text_ += marks_.Row.Open;
     for (const int column : shown)
-      Put(IsNumeric(kind(column)) ? marks_.NumberCell : marks_.Cell, table.At(row, column).Text);
+      Put(IsFigure(kind(column)) ? marks_.NumberCell : marks_.Cell, table.At(row, column).Text);
     text_ += marks_.Row.Close;
   }
   text_ += marks_.Table.Close;
@@ -189,9 +195,23 @@ void Share(const Chart& chart, Writer& out) {
   }
 }
 
+void Share(const ListBox& list, const TableFinder& arranged, Writer& out) {
+  if (list.Count() == 0) return out.Paragraph(list.EmptyText);
+  const Table* const table = arranged ? arranged(list) : nullptr;
+  table ? out.Rows(*table) : out.Rows(Table(list));
+}
+
+/// Says nothing of what the page tells: what is being done on it, a filter that is off.
+bool IsIdle(const Control& control) {
+  if (const auto* label = dynamic_cast<const Label*>(&control)) return label->Fleeting;
+  const auto* combo = dynamic_cast<const ComboBox*>(&control);
+  return combo && combo->Filters && combo->Selected() <= 1;
+}
+
 /// One control with the label that it may have.
-void Share(const Control& control, const std::string& label, Writer& out) {
-  if (!control.Visible) return;
+void Share(const Control& control, const std::string& label, const TableFinder& arranged,
+           Writer& out) {
+  if (!control.Visible || IsIdle(control)) return;
   switch (control.Is()) {
     case Kind::Label:
     case Kind::TextBox:
@@ -205,11 +225,8 @@ void Share(const Control& control, const std::string& label, Writer& out) {
       return;
     case Kind::ScrollBar:
       return out.Fact(label, std::to_string(dynamic_cast<const ScrollBar&>(control).Value.Get()));
-    case Kind::ListBox: {
-      const auto& list = dynamic_cast<const ListBox&>(control);
-      if (list.Count() == 0) return out.Paragraph(list.EmptyText);
-      return out.Rows(Table(list), list.Columns());
-    }
+    case Kind::ListBox:
+      return Share(dynamic_cast<const ListBox&>(control), arranged, out);
     case Kind::Chart:
       return Share(dynamic_cast<const Chart&>(control), out);
     case Kind::Report:
@@ -220,14 +237,14 @@ void Share(const Control& control, const std::string& label, Writer& out) {
   }
 }
 
-void Share(const Box& box, Form form, Writer& out) {
+void Share(const Box& box, Form form, const TableFinder& arranged, Writer& out) {
   if (box.Shown) {
-    Share(*box.Shown, box.Is == Box::Kind::Field ? box.Title : "", out);
-    for (const Box& part : box.Parts) Share(part, form, out);
+    Share(*box.Shown, box.Is == Box::Kind::Field ? box.Title : "", arranged, out);
+    for (const Box& part : box.Parts) Share(part, form, arranged, out);
     return;
   }
   Writer inside(form);
-  for (const Box& part : box.Parts) Share(part, form, inside);
+  for (const Box& part : box.Parts) Share(part, form, arranged, inside);
   if (inside.Text().empty()) return;  // no heading over nothing
   if (!box.Title.empty()) out.Heading(box.Title);
   out.Append(inside.Text());
@@ -241,7 +258,7 @@ std::optional<Form> FormNamed(std::string_view word) {
   return static_cast<Form>(marks - AllMarks().begin());
 }
 
-std::string Shared(Screen& screen, Form form) {
+std::string Shared(Screen& screen, Form form, const TableFinder& arranged) {
   Writer out(form);
   out.Document();
   out.Title(screen.Title.Get());
@@ -250,13 +267,13 @@ std::string Shared(Screen& screen, Form form) {
   if (page.Facts) facts.insert(facts.begin(), page.Facts);
   for (const Label* fact : facts)
     if (fact->Visible) out.Paragraph(fact->Text.Get());
-  Share(page.Body, form, out);
+  Share(page.Body, form, arranged, out);
   return out.Text();
 }
 
-std::string Shared(const Table& table, Form form) {
+std::string Shared(const Table& table, Form form, bool chosenAlone) {
   Writer out(form);
-  out.Rows(table, table.ListColumns());
+  out.Rows(table, chosenAlone);
   return out.Text();
 }
 

@@ -29,13 +29,16 @@ TEST(TheColours, LetEveryTextBeRead) {
     const std::pair<const char*, QColor> texts[] = {
         {"text", c->Text}, {"soft", c->Soft},   {"muted", c->Muted}, {"gold", c->Gold},
         {"blue", c->Blue}, {"green", c->Green}, {"amber", c->Amber}, {"red", c->Red}};
-    const std::pair<const char*, QColor> grounds[] = {{"ground", c->Ground}, {"card", c->Card},
-                                                      {"field", c->Field},   {"bar", c->Bar},
-                                                      {"chosen", c->Chosen}, {"button", c->Button}};
+    const std::pair<const char*, QColor> grounds[] = {
+        {"ground", c->Ground}, {"card", c->Card},     {"field", c->Field}, {"bar", c->Bar},
+        {"chosen", c->Chosen}, {"button", c->Button}, {"hover", c->Hover}, {"now", c->Now}};
     for (const auto& [text, ink] : texts)
       for (const auto& [ground, paper] : grounds)
-        EXPECT_GE(Contrast(ink, paper), least)
-            << text << " on " << ground << (c->Dark ? ", dark" : ", light");
+        // What is quiet is written soft below the mouse.
+        if (ink != c->Muted || paper != c->Hover) {
+          EXPECT_GE(Contrast(ink, paper), least)
+              << text << " on " << ground << (c->Dark ? ", dark" : ", light");
+        }
     for (const auto& [ground, paper] : grounds)
       EXPECT_GE(Contrast(c->Blue, paper), 3) << "the ring of the keyboard on " << ground;
     EXPECT_EQ(&desktop::ColoursOf(desktop::PaletteOf(*c)), c) << "the palette tells the set";

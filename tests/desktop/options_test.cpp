@@ -227,6 +227,25 @@ TEST_F(TheOptions, AreFoundAsCommands) {
   EXPECT_EQ(Play->Top(), "frmWindow");
 }
 
+TEST_F(TheOptions, AreFoundByWhatPeopleCallThem) {
+  Begin();
+  const std::pair<const char*, const char*> words[] = {{"theme", "High contrast"},
+                                                       {"dark", "Dark colours"},
+                                                       {"light", "Light colours"},
+                                                       {"text size", "Larger text"},
+                                                       {"volume", "Sound on"},
+                                                       {"language", "Dates: German"},
+                                                       {"animat", "Nothing moves by itself"},
+                                                       {"scale", "Window scale: 125%"}};
+  for (const auto& [typed, found] : words) {
+    Play->Key(Qt::Key_K, Qt::ControlModifier);
+    Play->Type(typed);
+    const auto* list = dynamic_cast<QListWidget*>(Play->See("finderlist"));
+    EXPECT_FALSE(list->findItems(found, Qt::MatchExactly).isEmpty()) << typed;
+    Play->Key(Qt::Key_Escape);
+  }
+}
+
 TEST_F(TheOptions, LeaveThePageItselfToBeShared) {
   Begin();
   Play->Open(std::make_unique<PeoplePage>(Play->Desk, Notes));
@@ -241,7 +260,15 @@ TEST_F(TheOptions, LeaveThePageItselfToBeShared) {
   Play->Window.Sync();
   Find("Copy all words of this page as a picture");
   EXPECT_LT(height(), ofAll) << "the picture is as high as its words";
-  const desktop::Shareable page = desktop::PageToShare(*Play->Desk.Top(), *Play->See("frmPeople"));
+  const desktop::Shareable wide = desktop::WordsToShare([](ui::Form) {
+    std::string cells;
+    for (int column = 0; column < 20; ++column) cells += "<td>Champion</td>";
+    return "<table><tr>" + cells + "</tr></table>";
+  });
+  const int word = QFontMetrics(desktop::TextFont()).horizontalAdvance("Champion");
+  EXPECT_GT(wide.Picture().width(), 20 * word) << "no word is broken";
+  const desktop::Shareable page = desktop::PageToShare(
+      *Play->Desk.Top(), dynamic_cast<desktop::ScreenView&>(*Play->See("frmPeople")));
   const QString file = QString::fromStdString(folder_ / "people.");
   for (const auto& [ending, start] : {std::pair("md", "# People"),
                                       {"html", "<!DOCTYPE html>"},

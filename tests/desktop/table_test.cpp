@@ -128,6 +128,29 @@ TEST_F(TheTableInTheWindow, FiltersAndHidesColumnsByItsMenusAndCopiesWhatIsShown
   EXPECT_EQ(QApplication::clipboard()->text(), "#,Name,Over\r\n10,Bram,50\r\n");
 }
 
+TEST_F(TheTableInTheWindow, SortsAndFiltersByKeysAlone) {
+  Open();
+  Play.Grid("lstpeople").setFocus();
+  Play.Key(Qt::Key_Down);
+  Play.Key(Qt::Key_F10, Qt::ShiftModifier);
+  const auto* menu = Play.Window.findChild<QMenu*>("rowmenu");
+  ASSERT_TRUE(menu);
+  const auto choose = [&](const char* act) {
+    for (QAction* part : menu->actions())
+      if (part->text() == act)
+        for (QAction* column : part->menu()->actions())
+          if (column->text() == "Name") column->trigger();
+  };
+  choose("Sort by");
+  EXPECT_EQ(Names()[1], "Dane");
+  choose("Filter");
+  QApplication::processEvents();
+  auto* line = Play.Window.findChild<QLineEdit*>("columnfilter");
+  ASSERT_TRUE(line);
+  QTest::keyClicks(line, "Kid");
+  EXPECT_EQ(Names(), std::vector<QString>{"Kid"});
+}
+
 TEST_F(TheTableInTheWindow, TogglesRowsOfAListThatTakesSeveral) {
   Open(true);
   Play.ClickRow("lstpeople", 0);

@@ -248,6 +248,12 @@ TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
   Play.Key(Qt::Key_Escape);
   EXPECT_FALSE(Play.Sees("finder"));
   EXPECT_EQ(Play.Top(), "frmPeople");
+  Play.Desk.Screens().front()->Find("cmdlater")->Tip = "Not before noon.";
+  Play.Click("searcheverything");
+  Play.Type("latre");
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Play.TextOf("hint"), "Not before noon.") << "a slip, and the reason";
+  EXPECT_EQ(Play.Top(), "frmPeople");
 }
 
 TEST_F(TheWindow, FindsNamesUnderHeadingsAndRemembersWhatWasChosen) {

@@ -24,7 +24,8 @@ World SomeWorld() {
       .Promotion("NEW", kSmall)
       .Worker("Bramwell Fox", kMainEvent, 95)
       .Game("CWA")
-      .Mail("Maeve", "The crown has lost its shine.");
+      .Mail("Maeve", "The crown has\nlost its shine.")
+      .Mail("Marsh Daily", "Nothing new.");
 }
 
 Names Called(const World& world, std::string_view typed, std::size_t most = 10) {
@@ -52,7 +53,16 @@ TEST(Search, FindsNamesByTheirBeginningsInAnyLettersAndForgivesSlips) {
       {" .,", {}},
   };
   for (const auto& row : rows) EXPECT_EQ(Called(world, row.Typed), row.Called) << row.Typed;
-  EXPECT_EQ(Called(world, "marsh", 1), (Names{"Marsh And Marsh", "Jos\xE9 Marsh"}));
+  EXPECT_EQ(Called(world, "marsh", 1), (Names{"Marsh And Marsh", "Jos\xE9 Marsh", "Nothing new."}))
+      << "mail is behind all names";
+}
+
+TEST(Search, KnowsOtherWordsForANameButForgivesNoSlipInThem) {
+  EXPECT_EQ(FitOfName("News", "mail inbox", "news"), 0);
+  EXPECT_EQ(FitOfName("News", "mail inbox", "inbox"), 2);
+  EXPECT_EQ(FitOfName("News", "mail inbox", "mial"), -1);
+  EXPECT_EQ(FitOfName("News", "mail inbox", " "), -1);
+  EXPECT_GT(FitOfName("Finance", "money", "finence"), kSureFit);
 }
 
 TEST(Search, KnowsWhatHasGoneSince) {

@@ -72,6 +72,24 @@ TEST_F(FindingTest, OpensThePageOrTheRowOfWhateverIsFound) {
   EXPECT_EQ(Picked("lstterms"), "Heat");
 }
 
+TEST_F(FindingTest, OpensPagesThatNoSideBarHasAndSaysWhatStandsAgainstOne) {
+  const std::pair<const char*, const char*> pages[] = {{"Awards", "frmAwards"},
+                                                       {"Loan", "frmLoan"},
+                                                       {"Drafts", "frmDrafts"},
+                                                       {"Merchandising", "frmFedMerch"},
+                                                       {"Compare", "frmCompare"}};
+  for (const auto& [page, screen] : pages) {
+    Open(page);
+    EXPECT_EQ(Play.Desk.TopName(), screen) << page;
+  }
+  Play.Desk.ExpectSay("Not now", "No show has been held yet.");
+  Open("The morning after");
+  Play.Desk.ExpectSay("Not now", kAnyText);
+  Open("Load Game");
+  EXPECT_EQ(Play.Desk.TopName(), "frmCompare");
+  EXPECT_EQ(Play.Desk.NewSearch()("bank", 1).front().Words, "Loan") << "by another word for it";
+}
+
 TEST_F(FindingTest, LeavesASheetAlone) {
   Play.Desk.Open("frmBooking");
   Play.Desk.ExpectSay("Not now", kAnyText);

@@ -133,8 +133,12 @@ TEST(frmRoster, ActsOnSeveralAndSaysToWhomAndToWhomNot) {
   };
   play.Desk.Open("frmRoster");
   choose({1, 2, 3});
-  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, $50,000 a month. 3 are chosen.");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, $50,000 a month.");
+  EXPECT_EQ(play.Desk.Text("lblchosen"), "3 are chosen.");
   EXPECT_EQ(play.Desk.Text("cmdposition"), "Move (3)");
+  play.Desk.Click("cmdcompare");
+  EXPECT_EQ(play.Desk.Rows("lstmeetings").size(), 3U) << "each of the chosen against each";
+  play.Desk.Click("cmdback");
   play.Desk.Pick("cmbnewposition", "Midcard");
   EXPECT_EQ(play.Desk.Text("lblmove"), "Morale: Bram Okafor -10, Low Down +5");
   play.Desk.ExpectSay("Move",
@@ -227,7 +231,8 @@ TEST(frmOtherWres, ShortlistsSeveralAtOnce) {
   play.Desk.ExpectSay("Put On Shortlist", "Done: Rival Ray, Free Fred.");
   play.Desk.Click("cmdshortlist");
   EXPECT_EQ(play.Desk.Text("cmdshortlist"), "Take Off Shortlist (2)");
-  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, 2 on your shortlist. 2 are chosen.");
+  EXPECT_EQ(play.Desk.Text("lblfacts"), "3 workers, 2 on your shortlist.");
+  EXPECT_EQ(play.Desk.Text("lblchosen"), "2 are chosen.");
 }
 
 TEST(frmOtherWres, KeepsTheShortlist) {

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "records/angles.h"
 #include "records/checks/checkworld.h"
 #include "records/segments.h"
 #include "storylines/partners.h"
 #include "support/gameonworld.h"
+#include "ui/acts.h"
 
 namespace grapplemont::test {
 namespace {
@@ -151,6 +154,14 @@ TEST(frmStables, TakeInNobodyWithoutAStableAndNoEleventh) {
   play.Desk.OpenRow("lstwres", "CWA Hand 1");
   EXPECT_EQ(play.Desk.Tip("cmdadd"), "Choose a stable first.");
   EXPECT_EQ(WhyNotJoin(world, "", world.Workers()[1]), "Choose a stable first.");
+  play.Desk.Type("txtname", "The Few");
+  play.Desk.Click("cmdcreate");
+  for (const auto& [list, act, members] :
+       {std::tuple("lstwres", "cmdadd", 2U), {"lstmembers", "cmdremove", 0U}}) {
+    EXPECT_EQ(ui::PickRows(play.Desk, *play.Desk.Top(), list, {1, 2}), "");
+    play.Desk.Click(act);
+    EXPECT_EQ(play.Desk.Rows("lstmembers").size(), members) << "all who are chosen";
+  }
   for (int uid = 1; uid <= 10; ++uid) {
     EXPECT_EQ(WhyNotJoin(world, "The Crowd", *world.FindWorker(uid)), "");
     world.FindWorker(uid)->Stable = "The Crowd";

@@ -13,6 +13,10 @@ class Yearbook : public ui::Screen {
   explicit Yearbook(ui::Desk& desk) : Screen(desk, "frmYear", "The [best] of *2026*") {
     lstnobody.EmptyText = "Nobody yet.";
     lblgone.Visible = false;
+    lblchosen.Fleeting = true;
+    cmbyear.Filters = true;
+    for (const char* year : {"All years", "2026"}) cmbyear.Add(year);
+    cmbyear.Select(1);
     lstpeople.Add({"Bram <the Ox>", 71, "", "$1,200"}, 1);
     lstpeople.Add({"Dane | Rory", 9, "", "$90"}, 2);
     rptyear.Write({{ui::Report::Style::Heading, "A year"},
@@ -26,8 +30,9 @@ class Yearbook : public ui::Screen {
             .Actions = {&cmdback},
             .Body = ui::Rows({ui::Group("People", {ui::Grow(lstpeople), lstnobody}),
                               ui::Group("Gone", {lblgone, cmdback}),
-                              ui::Group("Facts", {ui::Field("Owner", lblowner), chkopen}), rptyear,
-                              chtmoney})};
+                              ui::Group("Facts", {ui::Field("Owner", lblowner), chkopen,
+                                                  ui::Field("Year", cmbyear), lblchosen}),
+                              rptyear, chtmoney})};
   }
   using K = ui::ColumnKind;
   ui::Label lblfacts{*this, "lblfacts", "One line\nand another"};
@@ -36,6 +41,8 @@ class Yearbook : public ui::Screen {
   ui::ListBox lstnobody{*this, "lstnobody", {{"Name"}}};
   ui::Label lblgone{*this, "lblgone", "Hidden"};
   ui::Label lblowner{*this, "lblowner", "Ruth_Vane"};
+  ui::Label lblchosen{*this, "lblchosen", "2 are chosen."};
+  ui::ComboBox cmbyear{*this, "cmbyear"};
   ui::CheckBox chkopen{*this, "chkopen", "Open", true};
   ui::Report rptyear{*this, "rptyear"};
   ui::Chart chtmoney{*this, "chtmoney"};
@@ -80,6 +87,17 @@ TEST(ATable, IsSharedAsThePlayerHasArrangedIt) {
             "[table]\n[tr][th]Name[/th][th]Over[/th][/tr]\n"
             "[tr][td]Dane | Rory[/td][td]9[/td][/tr]\n"
             "[tr][td]Bram <the Ox>[/td][td]71[/td][/tr]\n[/table]\n\n");
+  year.lstpeople.Select(1);
+  EXPECT_EQ(ui::Shared(table, ui::Form::BbCode, true),
+            "[table]\n[tr][th]Name[/th][th]Over[/th][/tr]\n"
+            "[tr][td]Bram <the Ox>[/td][td]71[/td][/tr]\n[/table]\n\n");
+  year.cmbyear.Select(2);
+  const std::string page =
+      ui::Shared(year, ui::Form::Markdown, [&](const ui::ListBox& list) -> const ui::Table* {
+        return &list == &year.lstpeople ? &table : nullptr;
+      });
+  EXPECT_NE(page.find("| Name | Over |\n"), page.npos) << page;
+  EXPECT_NE(page.find("**Year**: 2026"), page.npos) << "a filter that hides something";
 }
 
 }  // namespace

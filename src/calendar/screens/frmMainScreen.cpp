@@ -27,35 +27,39 @@ namespace {
 using ui::Reach;
 
 /// A command of the hub: the control, its caption, the screen it opens, its group and key in the
-/// side bar. What could take today's show, its Titles or its table away reaches into today.
+/// side bar, what else people call its room. What could take today's show, its Titles or its table
+/// away reaches into today.
 struct Command {
   const char* Control;
   const char* Caption;
   const char* Screen;
   const char* Group;
   const char* Key;
+  const char* Also;
   Reach Into = Reach::Company;
 };
 constexpr std::array<Command, 19> kCommands = {{
-    {"cmdroster", "Roster", "frmRoster", "People", "F2"},
-    {"cmdstaff", "Staff", "frmStaff", "People", "F3", Reach::Today},
-    {"cmdtag", "Tag Teams", "frmTagTeams", "People", ""},
-    {"cmdstables", "Stables", "frmStables", "People", ""},
-    {"cmdbelt", "Titles", "frmBelts", "People", "F4", Reach::Today},
-    {"cmdfeud", "Feuds", "frmFeuds", "People", "F5"},
-    {"cmdtv", "Television", "frmTelevision", "Business", "F6", Reach::Today},
-    {"cmdevents", "Events", "frmEvent", "Business", "", Reach::Today},
-    {"cmdfed", "", "frmFed", "Business", "F7"},
-    {"cmdfinance", "Finance", "frmFinance", "Business", "F8"},
-    {"cmdotherwres", "Other Workers", "frmOtherWres", "World", "F9"},
-    {"cmdotherstaff", "Other Staff", "frmOtherStaff", "World", ""},
-    {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", "", Reach::Today},
-    {"cmdnet", "Internet", "frmInternet", "World", "", Reach::Tells},
-    {"cmdnews", "News", "frmNews", "Desk", "F10", Reach::Tells},
-    {"cmdresults", "Results", "frmResults", "Desk", "", Reach::Tells},
-    {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", Reach::Today},
-    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N", Reach::Tells},
-    {"cmdoptions", "Options", "frmOptions", "Desk", "F12"},
+    {"cmdroster", "Roster", "frmRoster", "People", "F2", "people workers own wrestlers"},
+    {"cmdstaff", "Staff", "frmStaff", "People", "F3", "writers medics agents", Reach::Today},
+    {"cmdtag", "Tag Teams", "frmTagTeams", "People", "", "partners pairs"},
+    {"cmdstables", "Stables", "frmStables", "People", "", "groups factions"},
+    {"cmdbelt", "Titles", "frmBelts", "People", "F4", "belts championships", Reach::Today},
+    {"cmdfeud", "Feuds", "frmFeuds", "People", "F5", "rivalries"},
+    {"cmdtv", "Television", "frmTelevision", "Business", "F6", "shows networks tv", Reach::Today},
+    {"cmdevents", "Events", "frmEvent", "Business", "", "pay per view ppv calendar", Reach::Today},
+    {"cmdfed", "", "frmFed", "Business", "F7", "promotion company image risk"},
+    {"cmdfinance", "Finance", "frmFinance", "Business", "F8", "money books cash"},
+    {"cmdotherwres", "Other Workers", "frmOtherWres", "World", "F9",
+     "market hire sign free agents"},
+    {"cmdotherstaff", "Other Staff", "frmOtherStaff", "World", "", "hire market"},
+    {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", "", "rivals companies",
+     Reach::Today},
+    {"cmdnet", "Internet", "frmInternet", "World", "", "rumours fans polls", Reach::Tells},
+    {"cmdnews", "News", "frmNews", "Desk", "F10", "mail inbox messages", Reach::Tells},
+    {"cmdresults", "Results", "frmResults", "Desk", "", "past shows history", Reach::Tells},
+    {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", "staff advice talk", Reach::Today},
+    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N", "notes", Reach::Tells},
+    {"cmdoptions", "Options", "frmOptions", "Desk", "F12", "settings mail reporter"},
 }};
 
 /// How many days ahead the page shows, and how many letters wide a card of them is at least.
@@ -85,7 +89,7 @@ class frmMainScreen : public ui::Screen {
       const Command& command = kCommands[static_cast<std::size_t>(i - 1)];
       if (page.Side.empty() || page.Side.back().Title != command.Group)
         page.Side.push_back({command.Group, {}});
-      page.Side.back().Commands.push_back({&commands(i), command.Key, command.Into});
+      page.Side.back().Commands.push_back({&commands(i), command.Key, command.Into, command.Also});
     }
     page.Side.push_back({"", {{&cmdquit, "", Reach::Away}}});
     page.Top = {&txtdate, &lblpromotion, &lblimage, &lblmoney};

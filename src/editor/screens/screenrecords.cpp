@@ -98,6 +98,7 @@ RecordScreen::RecordScreen(Game& game, const RecordPage& page)
   }
   lstrecords.SetColumns(std::move(headings));
   txtsearch.Hint = "Search in all columns";
+  lstrecords.Search = &txtsearch;
   txtsearch.OnChange = [this] { txtsearch_Change(); };
   lblfault.Colour = ui::Tone::Amber;
   lstrecords.Room = 30;
@@ -110,7 +111,7 @@ ui::Page RecordScreen::Layout() {
   page.Main = &cmdsave;
   page.Cancel = &cmdback;
   page.Body =
-      ui::Columns({ui::Rows({txtsearch, ui::Grow(lstrecords)}).Grow(5),
+      ui::Columns({ui::Group("", {txtsearch, ui::Grow(lstrecords)}).Grow(5),
                    ui::Rows({lblrecord, lblfault, form_.Body().Grow(), ui::Spacer()}).Grow(6)});
   return page;
 }

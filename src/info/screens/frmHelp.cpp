@@ -71,7 +71,11 @@ void AddKeys(Paragraphs& words, ui::Screen& screen) {
       opens = opens || list->OnOpen;
     }
   if (opens) AddLine(words, "Double click or Ctrl+Enter: open the row");
-  if (lists) AddLine(words, "Ctrl+F: filter the list, Backspace: all of it again");
+  if (lists) {
+    AddLine(words, "Ctrl+F: filter the list, Backspace: all of it again");
+    AddLine(words, "Menu key or Shift+F10: what can be done to the row; sort, filter, columns");
+    AddLine(words, "Ctrl+C: copy the list, or of it the chosen rows");
+  }
   AddButtonKeys(words, screen);
   for (const ui::SideGroup& group : page.Side)
     for (const auto& command : group.Commands)

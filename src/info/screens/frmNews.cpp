@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <functional>
 #include <set>
 #include <utility>
 
@@ -7,6 +8,7 @@
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/readmail.h"
+#include "roster/screens/screenmany.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
@@ -25,8 +27,11 @@ class frmNews : public GameScreen {
   /// Open at a mail, or at the row that it is gathered in; 0 for the first row.
   explicit frmNews(Game& game, int number = 0)
       : GameScreen(game, "frmNews", "News"), first_(number) {
+    lstnews.Extends = true;
+    lstnews.Acts = {{&cmdsubject}, {&cmdread}, {&cmddelete}};
     lstdigest.OpenWith(cmdsubject);
     txtbody.Brief = true;
+    cmbfrom.Filters = true;
     lstdigest.EmptyText = "Choose a row \"Around the rings\" to read what others did that day.";
     lstnews.EmptyText = "No mail. What the world has to tell you arrives here.";
   }
@@ -138,13 +143,23 @@ class frmNews : public GameScreen {
              digest.IsUnread ? "unread" : ""},
             number};
   }
-  /// What the selected row stands for.
-  std::vector<int> ChosenMails() const {
-    const int number = lstnews.Key();
+  /// What the row of a mail stands for.
+  std::vector<int> MailsOf(int number) const {
     if (number == 0) return {};
     const Digest* digest = DigestAt(number);
     return digest ? digest->Mails : std::vector<int>{number};
   }
+  /// Of all selected rows, from the last mail to the first.
+  std::vector<int> ChosenMails() const {
+    std::vector<int> chosen;
+    for (const int number : lstnews.Keys()) {
+      const std::vector<int> mails = MailsOf(number);
+      chosen.insert(chosen.end(), mails.begin(), mails.end());
+    }
+    std::ranges::sort(chosen, std::greater<>());
+    return chosen;
+  }
+  bool SeveralChosen() const { return lstnews.Keys().size() > 1; }
 
   void ShowCount() {
     const int all = world().News().Count();
@@ -152,18 +167,20 @@ class frmNews : public GameScreen {
     const int shown = static_cast<int>(MailsNewestFirst(world(), From()).size());
     if (shown < all) lblfacts.Text = std::to_string(shown) + " of " + lblfacts.Text.Get();
     EnableUnless(cmdread, unread_.empty() ? "Every mail has been read." : "");
+    cmdread.Text = SeveralChosen() ? CaptionFor("Mark Read", lstnews.Keys()) : "Mark All Read";
+    cmddelete.Text = CaptionFor("Delete", lstnews.Keys());
     cmdread.Badge = count_ == 0 ? std::string() : std::to_string(count_);
     EnableUnless(cmdempty, HasNews(world()) ? "" : "There is no mail to delete.");
   }
 
   /// What is shown has been read.
   void lstnews_Click() {
-    const std::vector<int> chosen = ChosenMails();
+    const std::vector<int> shown = MailsOf(lstnews.Key());
     const Digest* digest = DigestAt(lstnews.Key());
     ShowMail(lstnews.Key());
     ShowDigest(digest);
-    if (MarkRead(world(), chosen)) ShowMails();
-    EnableUnless(cmddelete, !chosen.empty() ? "" : "Pick a mail first.");
+    MarkRead(world(), shown) ? ShowMails() : ShowCount();
+    EnableUnless(cmddelete, !shown.empty() ? "" : "Pick a mail first.");
   }
 
   void ShowMail(int number) {
@@ -216,7 +233,10 @@ class frmNews : public GameScreen {
   }
 
   void cmdread_Click() {
-    MarkAllRead(world());
+    if (SeveralChosen())
+      MarkRead(world(), ChosenMails());
+    else
+      MarkAllRead(world());
     Return();
   }
 

@@ -51,11 +51,12 @@ class frmOptions : public GameScreen {
                   ui::Group("While time passes", {ui::Field("Loading screens", cmbload), cmdview}),
                   ui::Spacer()})
                  .Grow(2)}),
-        &lblfacts, {&cmdgod});
+        &lblfacts, {&cmdgod, &cmdwindow});
   }
 
   void Return() override {
     cmdgod.Visible = Holds(world(), HouseRule::GodMode);
+    cmdwindow.Visible = static_cast<bool>(desk().OpenShellOptions);
     for (int number = 1; number <= kOptions; ++number) {
       const MailOption& option = OptionOf(number);
       const int choice = state().*option.Choice;
@@ -93,6 +94,7 @@ class frmOptions : public GameScreen {
   ui::Button cmdnever{*this, "cmdnever", "Never", [this] { SetAll(kMailNever); }};
   ui::Button cmdview{*this, "cmdview", "View", [this] { desk().Open("frmLoadingScreens"); }};
   ui::Button cmdgod{*this, "cmdgod", "God Mode", [this] { desk().Open("frmGodMode"); }};
+  ui::Button cmdwindow{*this, "cmdwindow", "Window Options", [this] { desk().OpenShellOptions(); }};
 };
 
 /// The player's own notes. What is typed is on disk with the same stroke, so that no way of closing

@@ -154,6 +154,7 @@ class frmAwards : public GameScreen {
     cmbaward.Add("All awards");
     for (int kind = kWrestlerOfTheYear; kind <= kRookieOfTheYear; ++kind)
       cmbaward.Add(std::string(AwardName(kind)), kind);
+    for (ui::ComboBox* filter : {&cmbyear, &cmbaward}) filter->Filters = true;
     cmbyear.Select(cmbyear.Count() > 1 ? 2 : 1);
     cmbaward.Select(1);
     ShowAwards();
@@ -263,8 +264,10 @@ class frmResults : public GameScreen {
     for (const std::string& name : NamesOfPastShows(world())) cmbshow.Add(name);
     cmbyear.Add("All years");
     for (const int year : YearsOfPastShows(world())) cmbyear.Add(std::to_string(year), year);
-    cmbshow.Select(1);
-    cmbyear.Select(1);
+    for (ui::ComboBox* filter : {&cmbshow, &cmbyear}) {
+      filter->Filters = true;
+      filter->Select(1);
+    }
   }
 
   /// Their keys are the numbers of the history's records.

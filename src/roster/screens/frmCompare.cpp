@@ -99,7 +99,9 @@ bool MarkBest(std::vector<ui::Cell>& cells, const std::vector<Measure>& measures
 /// Workers side by side, two to four of them.
 class frmCompare : public GameScreen {
  public:
-  frmCompare(Game& game, int uid) : GameScreen(game, "frmCompare", "Compare"), uids_{uid} {
+  frmCompare(Game& game, std::vector<int> uids)
+      : GameScreen(game, "frmCompare", "Compare"), uids_(std::move(uids)) {
+    uids_.resize(std::min<std::size_t>(uids_.size(), kMost));
     lblhow.Colour = ui::Tone::Muted;
     // All of it is seen at once in a window of the usual size.
     lstcompare.Room = 12;
@@ -294,8 +296,8 @@ class frmCompare : public GameScreen {
 
 }  // namespace
 
-std::unique_ptr<ui::Screen> MakefrmCompare(Game& game, int uid) {
-  return std::make_unique<frmCompare>(game, uid);
+std::unique_ptr<ui::Screen> MakefrmCompare(Game& game, std::vector<int> uids) {
+  return std::make_unique<frmCompare>(game, std::move(uids));
 }
 
 }  // namespace grapplemont

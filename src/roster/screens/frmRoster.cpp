@@ -23,7 +23,9 @@ class frmRoster : public WorkerListScreen {
     BackBefore(cmdcontract);
     lstwres.EmptyText = "Nobody works for you yet. Look for people under Other Workers.";
     lstwres.OpenWith(cmdpage);
+    cmbsplit.Filters = true;
     lstwres.Acts = {{&cmdcontract},
+                    {&cmdcompare},
                     {&cmdposition, &cmbnewposition},
                     {&cmdsplit, &cmbnewsplit},
                     {&cmddevelopment},
@@ -230,7 +232,7 @@ class frmOtherWres : public WorkerListScreen {
     cmbtalks.Add("All");
     cmbtalks.Add("Would listen to us");
     cmbtalks.Select(1);
-    lstwres.Acts = {{&cmdcontract}, {&cmdshortlist}};
+    lstwres.Acts = {{&cmdcontract}, {&cmdcompare}, {&cmdshortlist}};
   }
 
   ui::Page Layout() override {

@@ -84,6 +84,7 @@ class frmStaff : public StaffListScreen {
   explicit frmStaff(Game& game) : StaffListScreen(game, "frmStaff", "Staff", PeopleList::Own) {
     BackBefore(cmdcontract);
     lststaff.OpenWith(cmdcontract);
+    lststaff.Acts = {{&cmdcontract}, {&cmdfire}};
     lststaff.EmptyText = "Nobody is on your staff yet. Look for people under Other Staff.";
   }
 
@@ -166,12 +167,16 @@ class frmOtherStaff : public StaffListScreen {
       : StaffListScreen(game, "frmOtherStaff", "Other Staff", PeopleList::Market) {
     BackBefore(cmdcontract);
     lststaff.OpenWith(cmdcontract);
+    lststaff.Acts = {{&cmdcontract}};
     lststaff.EmptyText = "There is nobody else who fits.";
     for (const StaffFilter& row : kByBond) cmbbond.Add(row.Label);
     for (const StaffFilter& row : kByTalent) cmbtalent.Add(row.Label);
     cmbpost.Add("All");
     for (const Term& post : kStaffPositions) cmbpost.Add(std::string(post.Says), post.Code);
-    for (ui::ComboBox* filter : {&cmbbond, &cmbpost, &cmbtalent}) filter->Select(1);
+    for (ui::ComboBox* filter : {&cmbbond, &cmbpost, &cmbtalent}) {
+      filter->Select(1);
+      filter->Filters = true;
+    }
   }
 
   ui::Page Layout() override {

@@ -348,7 +348,7 @@ class frmWorker : public GameScreen {
   ui::Button cmdprevious{*this, "cmdprevious", "Previous", [this] { Go(&Neighbours::Before); }};
   ui::Button cmdnext{*this, "cmdnext", "Next", [this] { Go(&Neighbours::After); }};
   ui::Button cmdcompare{*this, "cmdcompare", "Compare",
-                        [this] { desk().Open(MakefrmCompare(game_, uid_)); }};
+                        [this] { desk().Open(MakefrmCompare(game_, {uid_})); }};
   ui::Button cmdturn{*this, "cmdturn", "Prepare A Turn", &frmWorker::cmdturn_Click};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Shortlist", &frmWorker::cmdshortlist_Click};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmWorker::cmdcontract_Click};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "records/world.h"
 #include "ui/game.h"
@@ -27,8 +28,8 @@ void WriteMood(ui::Report& page, const World& world, const Worker& worker);
 /// there is nobody of this uid any more.
 void OpenWorkerPage(Game& game, int workerUid);
 
-/// Two to four side by side; the first is there from the beginning.
-std::unique_ptr<ui::Screen> MakefrmCompare(Game& game, int uid);
+/// Two to four side by side, the first four of these from the beginning.
+std::unique_ptr<ui::Screen> MakefrmCompare(Game& game, std::vector<int> uids);
 
 /// Gives the game its page of a worker, and makes every name of a worker or a promotion a link.
 void ConnectRoster(Game& game);

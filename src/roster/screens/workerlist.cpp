@@ -21,12 +21,14 @@ WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string tit
                                                                [this] { ShowList(); });
                    for (const WorkerFilter& row : family.Rows) combo->Add(std::string(row.Label));
                    combo->Select(1);
+                   combo->Filters = true;
                    return combo;
                  }),
       lstwres(*this, "lstwres", WithFaces(game.World(), WorkerColumns(list)),
               ui::Handler([this] { ShowChoice(); })),
       list_(list),
       filters_(filters) {
+  lblchosen.Fleeting = true;
   lstwres.Extends = true;
   lstwres.Views = WorkerViews();
 }
@@ -82,12 +84,13 @@ void WorkerListScreen::ShowChoice() {
 
 void WorkerListScreen::ShowFacts() {
   const std::size_t chosen = lstwres.Keys().size();
-  lblfacts.Text =
-      Facts(listed_) + (chosen > 1 ? " " + std::to_string(chosen) + " are chosen." : "");
+  lblfacts.Text = Facts(listed_);
+  lblchosen.Text = chosen > 1 ? std::to_string(chosen) + " are chosen." : "";
 }
 
 ui::Box WorkerListScreen::PageBox() {
-  return ui::Group("", {ui::Grow(txtpage), ui::Columns({cmdpage, cmdcompare})});
+  return ui::Group("",
+                   {ui::Grow(txtpage), ui::Columns({cmdpage, cmdcompare, ui::Grow(lblchosen)})});
 }
 
 void WorkerListScreen::Negotiate() {

@@ -58,7 +58,8 @@ class WorkerListScreen : public GameScreen {
   ui::Button cmdpage{*this, "cmdpage", "Open Page",
                      [this] { OpenWorkerPage(game_, lstwres.Key()); }};
   ui::Button cmdcompare{*this, "cmdcompare", "Compare",
-                        [this] { desk().Open(MakefrmCompare(game_, lstwres.Key())); }};
+                        [this] { desk().Open(MakefrmCompare(game_, AllChosen())); }};
+  ui::Label lblchosen{*this, "lblchosen"};
   ui::Label lblfilters{*this, "lblfilters"};
   ui::Button cmdclear{*this, "cmdclear", "Clear Filters", [this] { ClearFilters(); }};
 

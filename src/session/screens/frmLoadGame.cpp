@@ -216,9 +216,9 @@ class frmLoadGame : public SlotScreen {
     Return();
   }
 
-  std::string AskFile(const std::string& title, const std::string& text,
-                      const std::string& offered) {
-    const std::string typed(detail::Trimmed(desk().Prompt(title, text, offered)));
+  std::string AskFile(const std::string& title, const std::string& text, const std::string& offered,
+                      ui::Desk::Use use) {
+    const std::string typed(detail::Trimmed(desk().ChooseFile(title, text, offered, use)));
     return typed.empty() ? std::string() : PathInHome(game_.Home(), typed);
   }
 
@@ -226,7 +226,8 @@ class frmLoadGame : public SlotScreen {
     std::string offered = In(slot).Caption + kExportEnding;
     std::ranges::replace(offered, '/', '-');
     const std::string path =
-        AskFile("Export", "The file to write, in the game's folder or a whole path:", offered);
+        AskFile("Export", "The file to write, in the game's folder or a whole path:", offered,
+                ui::Desk::Use::Write);
     if (path.empty()) return;
     if (game_.Disk().Look(path) != Disk::Kind::Nothing &&
         !desk().Ask("Replace?", ForScreen(path) + " is there already. Write over it?",
@@ -244,7 +245,8 @@ class frmLoadGame : public SlotScreen {
 
   void Import(int slot) {
     const std::string path =
-        AskFile("Import", "The file to read, in the game's folder or a whole path:", "");
+        AskFile("Import", "The file to read, in the game's folder or a whole path:", "",
+                ui::Desk::Use::Read);
     if (path.empty()) return;
     World scratch(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse),
                   game_.NewDraws(Game::kWorldLife));

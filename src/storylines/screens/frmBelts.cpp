@@ -121,6 +121,7 @@ class frmBelts : public GameScreen {
  public:
   explicit frmBelts(Game& game) : GameScreen(game, "frmBelts", "Titles", {.Manages = true}) {
     lsthistory.EmptyText = "Choose a Title to see who has held it.";
+    lsttitles.Acts = {{&cmdreigns}, {&cmdsuspend}, {&cmdvacate}, {&cmddissolve}};
     lstwres.Multi = true;
     txtname.Hint = "Name";
     cmbwhose.Add("Your Titles", kYours);

@@ -127,6 +127,7 @@ class frmFeuds : public GameScreen {
     lstscore.EmptyText =
         "Nobody feuds in this slot. Start a feud, then feed it with matches, "
         "interviews and angles.";
+    lstfeuds.Acts = {{&cmdask}, {&cmdstat}, {&cmdend}};
     lstfeuds.Room = lstfeuds.Least = kFeuds;
     lstpeople.EmptyText = "Nobody is free for a feud: it takes people who are fit and known.";
   }

@@ -13,6 +13,7 @@ namespace {
 class frmTagTeams : public GameScreen {
  public:
   explicit frmTagTeams(Game& game) : GameScreen(game, "frmTagTeams", "Tag Teams") {
+    lstteams.Acts = {{&cmddissolve}};
     lstteams.EmptyText = "You have no team yet. Choose two workers below, name them, form a team.";
     for (int head : {1, 2}) lstwres(head).EmptyText = "Nobody works for you yet.";
     txtname.Hint = "Name of the team";
@@ -148,6 +149,10 @@ class frmTagTeams : public GameScreen {
 class frmStables : public GameScreen {
  public:
   explicit frmStables(Game& game) : GameScreen(game, "frmStables", "Stables") {
+    lststables.Acts = {{&cmddissolve}};
+    lstmembers.Extends = lstwres.Extends = true;
+    lstmembers.Acts = {{&cmdremove}};
+    lstwres.Acts = {{&cmdadd}};
     lststables.EmptyText = "You have no stable yet. Type a name below and found one.";
     lstmembers.EmptyText = "Nobody is in this stable. Choose somebody at the right and add them.";
     lstwres.EmptyText = "Everybody you have is in this stable.";
@@ -256,14 +261,17 @@ class frmStables : public GameScreen {
   }
 
   void cmdadd_Click() {
-    Worker* worker = world().FindWorker(lstwres.Key());
-    if (!worker || desk().Objects(WhyNotJoin(world(), Chosen(), *worker))) return;
-    worker->Stable = Chosen();
+    for (const int uid : lstwres.Keys()) {
+      Worker* worker = world().FindWorker(uid);
+      if (!worker || desk().Objects(WhyNotJoin(world(), Chosen(), *worker))) break;
+      worker->Stable = Chosen();
+    }
     Return();
   }
 
   void cmdremove_Click() {
-    if (Worker* worker = world().FindWorker(lstmembers.Key())) worker->Stable = "None";
+    for (const int uid : lstmembers.Keys())
+      if (Worker* worker = world().FindWorker(uid)) worker->Stable = "None";
     Return();
   }
 

@@ -18,6 +18,8 @@ using K = ui::ColumnKind;
 class frmManagers : public GameScreen {
  public:
   explicit frmManagers(Game& game) : GameScreen(game, "frmManagers", "Managers") {
+    lstclients.Acts = {{&cmdtake}};
+    lstmanagers.Acts = {{&cmdgive}};
     lstclients.EmptyText = "Nobody wrestles for you yet.";
     lstmanagers.EmptyText = "You have no manager. Hire one, or make one of a worker.";
     lsthis.EmptyText = "No client yet. Choose a wrestler, then give this manager.";
@@ -115,6 +117,7 @@ class frmTurn : public GameScreen {
  public:
   explicit frmTurn(Game& game) : GameScreen(game, "frmTurn", "Turns") {
     lstwres.EmptyText = "Nobody works for you yet.";
+    lstwres.Acts = {{&cmdturn}};
   }
 
   ui::Page Layout() override {
