@@ -359,10 +359,9 @@ std::vector<std::string> SheetScreen::SeatsTaken(const CommentaryTeam& full) {
 
 void SheetScreen::cmdfill_Click() {
   const AutoCard card = AutoBook(world(), isEvent_, OpenRows());
+  const std::string missing = card.Missing.empty() ? "" : "\n" + Joined(card.Missing, "\n");
   if (NewSegments(world(), card) == 0)
-    return desk().Say("Fill The Rest", std::string("The roster has nothing to fill a row with.") +
-                                           (card.Missing.empty() ? "" : "\n") +
-                                           Joined(card.Missing, "\n"));
+    return desk().Say("Fill The Rest", "The roster has nothing to fill a row with." + missing);
   const CommentaryTeam full = FullTeam();
   desk().Open(MakefrmFill(game_, {Called(), isEvent_, OpenRows(), full, card, SeatsTaken(full),
                                   [this, full] { Seat(full); }}));
