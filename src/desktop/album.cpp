@@ -84,8 +84,8 @@ void Album::Take(const std::string& name) {
     }
 }
 
-/// What is chosen from a list is shown beside it. Lists of the same people each have another chosen,
-/// as nobody stands against themselves.
+/// What is chosen from a list is shown beside it. Lists of the same people each have another
+/// chosen, as nobody stands against themselves.
 void Album::FillIn(ui::Screen& screen) {
   std::vector<const ui::ListBox*> filled;
   for (const ui::Control* control : screen.Controls()) {
