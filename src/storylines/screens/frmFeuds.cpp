@@ -51,8 +51,7 @@ bool EndFeudAfterAsking(Game& game, int slot) {
 /// The numbers of one feud, by its slot from 1. Requires a slot that is taken.
 class frmFeudStat : public GameScreen {
  public:
-  frmFeudStat(Game& game, int slot)
-      : GameScreen(game, "frmFeudStat", "Feud Stats"), slot_(slot) {}
+  frmFeudStat(Game& game, int slot) : GameScreen(game, "frmFeudStat", "Feud Stats"), slot_(slot) {}
 
   ui::Page Layout() override {
     return PageOf(ui::Rows({ui::Group("The feud", {ui::Field("Heat", txtheat),
