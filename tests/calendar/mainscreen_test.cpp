@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "calendar/advanceday.h"
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/segments.h"
