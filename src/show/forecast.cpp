@@ -14,7 +14,7 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kRehearsals = 12;
+constexpr int kRehearsals = 16;
 constexpr std::uint64_t kSeed = 20260301;
 constexpr std::uint64_t kSpread = 1099511628211;  // spreads a byte over all bits of a seed
 constexpr int kTooOften = 3;

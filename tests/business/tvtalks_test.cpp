@@ -133,7 +133,7 @@ TEST(frmTVContract, OpensItsLastAnswer) {
   talks.Desk.Click("cmdwhy");
   EXPECT_EQ(talks.Desk.Text("txtwhy"),
             "+ Our risk is 50; they bear up to 50\n"
-            "- Measured against a rating of 4. 05, the last one of 2.83 is above 50% of it\n"
+            "- Measured against a rating of 4.05, the last one of 2.83 is above 50% of it\n"
             "= Network: 'We are not looking to extend the contract at the present time.'");
 }
 

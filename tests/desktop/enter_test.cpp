@@ -117,7 +117,8 @@ TEST_F(TheKeys, EnterEndsTheDayFromARoomAndGoesBackFromAPageAboveIt) {
     Open(name);
     if (name == "frmWait" || Play.Desk.Screens().size() != 2) continue;
     const bool isRoom = !Play.Desk.Top()->Layout().Main;
-    if (isRoom) {
+    // Enter writes a line of the notes.
+    if (isRoom && name != "frmNotepad") {
       EXPECT_EQ(Marked(), std::vector<std::string>{"cmdnext"});
     }
     Play.Desk.CloseAll();

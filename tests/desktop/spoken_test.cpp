@@ -57,10 +57,12 @@ void ExpectTable(const ui::ListBox& list, QAccessibleInterface& told) {
     for (int column = 0; column < table->columnCount(); ++column) {
       QAccessibleInterface* cell = table->cellAt(row, column);
       ASSERT_TRUE(cell);
-      const auto& cells = list.Rows()[static_cast<std::size_t>(row)].Cells;
-      const std::string text = static_cast<std::size_t>(column) < cells.size()
-                                   ? cells[static_cast<std::size_t>(column)].Text
-                                   : "";
+      const ui::ListBox::Row& shown = list.Rows()[static_cast<std::size_t>(row)];
+      std::string text = static_cast<std::size_t>(column) < shown.Cells.size()
+                             ? shown.Cells[static_cast<std::size_t>(column)].Text
+                             : "";
+      if (const auto& under = list.Columns()[static_cast<std::size_t>(column)].Under)
+        text += ". " + under(shown.Key);
       EXPECT_EQ(cell->text(QAccessible::Name), desktop::Shown(text)) << row << ", " << column;
       EXPECT_EQ(cell->role(), QAccessible::Cell) << row << ", " << column;
     }
@@ -105,9 +107,8 @@ class ASpokenWindow : public testing::Test {
   /// What is shown now.
   void Hear() {
     for (const ui::Control* control : Play.Desk.Top()->Controls())
-      if (const QString shown = desktop::Shown(control->Name());
-          control->Visible && Play.Sees(shown))
-        Expect(*control, Play.See(shown));
+      if (QWidget* widget = control->Visible ? WidgetOf(*control) : nullptr)
+        Expect(*control, widget);
     for (QWidget* widget : Play.Window.findChildren<QWidget*>()) {
       const bool takesKeys = widget->isVisible() && widget->isEnabled() &&
                              (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
@@ -115,6 +116,18 @@ class ASpokenWindow : public testing::Test {
       EXPECT_FALSE(ToldOf(widget).text(QAccessible::Name).isEmpty())
           << widget->objectName().toStdString() << " takes the keyboard and has no name";
     }
+  }
+
+  /// Of the screen on top, since others may have controls of the same name; nullptr where it is not
+  /// shown.
+  QWidget* WidgetOf(const ui::Control& control) {
+    const ui::Screen& top = *Play.Desk.Top();
+    const QString name = desktop::Shown(control.Name());
+    if (top.Is() == ui::Role::Hub) return Play.Sees(name) ? Play.See(name) : nullptr;
+    for (const QWidget* view : Play.Window.findChildren<QWidget*>(desktop::Shown(top.Name())))
+      for (QWidget* widget : view->findChildren<QWidget*>(name))
+        if (widget->isVisible()) return widget;
+    return nullptr;
   }
 
   /// Whatever clicks lead to from what lies on the desk; gives what was heard.

@@ -108,12 +108,7 @@ class frmNotepad : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page;
-    page.Facts = &lblfacts;
-    page.Actions = {&cmdrevert, &cmdback};
-    page.Cancel = &cmdback;
-    page.Body = ui::Group("", {ui::Grow(txtnotes)});
-    return page;
+    return PageOf(ui::Group("", {ui::Grow(txtnotes)}), &lblfacts, {&cmdrevert});
   }
 
   void Load() override {
