@@ -96,7 +96,8 @@ void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
   } steps[] = {{whole, Px(180), Px(110)},
                {Px(220), Px(180), Px(80)},
                {Px(220), Px(80), Px(80)},
-               {Px(170), Px(80), Px(80)}};
+               {Px(170), Px(80), Px(80)},
+               {Px(110), Px(80), Px(80)}};
   for (const auto& step : steps) {
     std::vector<int> least = widths;
     for (std::size_t place = 0; place < widths.size(); ++place) {

@@ -227,14 +227,19 @@ void NewWorkerAttributes(World& world, Worker& worker, Generation generation) {
 
 void InventName(World& world, Worker& worker) {
   RuleDraws draws(world);
-  DrawOwnNames(world, draws, worker, worker.Gender ? kMensFirstNames : kWomensFirstNames);
+  Worker named = worker;  // a record of the world would stand in its own way
+  DrawOwnNames(world, draws, named, worker.Gender ? kMensFirstNames : kWomensFirstNames);
+  worker.Name = named.Name;
+  worker.ShortName = named.ShortName;
 }
 
 void InventName(World& world, Staff& staff) {
   RuleDraws draws(world);
   const Places among = staff.Gender ? Places{1, kLastMaleStaffFirstName}
                                     : Places{kLastMaleStaffFirstName + 1, kStaffFirstNames};
-  DrawName(world, draws, staff, StaffFirstNames, among, kLastMaleStaffFirstName, StaffNameFree);
+  Staff named = staff;
+  DrawName(world, draws, named, StaffFirstNames, among, kLastMaleStaffFirstName, StaffNameFree);
+  staff.Name = named.Name;
 }
 
 Worker& NewFillerWorker(World& world) {

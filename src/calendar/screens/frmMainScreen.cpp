@@ -368,6 +368,9 @@ void ConnectCalendar(Game& game) {
   };
   game.NoteOn = [&game](std::string_view screen) { return GuideOnPage(game.World(), screen); };
   game.Kept = [&game](const std::vector<FileChange>& changes) {
+    // What was kept may be a world that cannot be played.
+    const World& world = game.World();
+    if (!world.HasGame() || !world.FindPromotion(world.PlayerUid())) return;
     if (frmMainScreen* main = FindMainScreen(game)) main->ShowBars(changes);
   };
   game.RefreshMainScreen = [&game] {

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cctype>
 
 #include "business/networks.h"
 #include "records/fields/fields.h"
@@ -88,7 +89,10 @@ class frmNewGame : public GameScreen {
  private:
   std::vector<ui::Box> HouseBoxes() {
     std::vector<ui::Box> boxes = {lblhouse};
-    for (int number = 1; number <= chkhouse.Count(); ++number) boxes.emplace_back(chkhouse(number));
+    for (int number = 1; number <= chkhouse.Count(); ++number) {
+      boxes.emplace_back(chkhouse(number));
+      boxes.emplace_back(lblrule(number));
+    }
     boxes.push_back(ui::Spacer());
     return boxes;
   }
@@ -237,8 +241,16 @@ class frmNewGame : public GameScreen {
       "changed later."};
   ui::Array<ui::CheckBox> chkhouse{
       "chkhouse", static_cast<int>(AllHouseRules().size()), [this](const std::string& name, int i) {
-        const HouseRuleRow& row = AllHouseRules()[static_cast<std::size_t>(i - 1)];
-        return std::make_unique<ui::CheckBox>(*this, name, std::string(row.Says));
+        std::string words(AllHouseRules()[static_cast<std::size_t>(i - 1)].Name);
+        words.front() = static_cast<char>(std::toupper(words.front()));
+        return std::make_unique<ui::CheckBox>(*this, name, words);
+      }};
+  ui::Array<ui::Label> lblrule{
+      "lblrule", static_cast<int>(AllHouseRules().size()), [this](const std::string& name, int i) {
+        auto label = std::make_unique<ui::Label>(*this, name);
+        label->Text = AllHouseRules()[static_cast<std::size_t>(i - 1)].Says;
+        label->Colour = ui::Tone::Muted;
+        return label;
       }};
   ui::Button cmdbegin{*this, "cmdbegin", "Begin", &frmNewGame::cmdbegin_Click};
 };
