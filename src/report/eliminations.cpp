@@ -88,6 +88,7 @@ void TellSurvivor(Teller& teller, const BoutRow& bout) {
     const bool byWinner = isLast && std::find(rivals.begin(), rivals.end(), winner) != rivals.end();
     PlayOut(teller, ring, bout, person, byWinner ? winner : nullptr);
     if (!isLast) teller.Say(Family::SurvivorOut);
+    person->IsOut = !isLast;
     ring.Remove(person);
     teller.Paragraph();
   }
