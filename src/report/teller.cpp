@@ -134,6 +134,9 @@ void Teller::Move(Family family, const TaggedLine& line) {
     case Family::PutDown:
       Under = Footing::Down;
       return;
+    case Family::EliminationTry:
+      Under = Footing::Up;
+      return;
     case Family::TagOut:
       Under = Footing::Up;
       if (attacker) attacker->Trouble = 0;

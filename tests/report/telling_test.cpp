@@ -59,9 +59,10 @@ bool HasWord(const std::string& text, std::string_view word) {
 
 class Telling : public testing::TestWithParam<int> {
  protected:
-  std::string Tell(World& world, const Segment& segment, const Scene& scene = {}) {
+  std::string Tell(World& world, const Segment& segment, Scene scene = {}) {
     world.Game().Reporter = GetParam();
     memory_ = {};
+    scene.Feuds = FeudsAtTheBell(world);
     return WriteReport(world, segment, scene, memory_);
   }
   /// Expects that lines of this band were drawn, and of no other of the family.
@@ -73,6 +74,21 @@ class Telling : public testing::TestWithParam<int> {
         isDrawn |= memory_.Used(block, static_cast<int>(line));
       EXPECT_EQ(isDrawn, each == band) << HeadingOf(family) << " " << each << " in\n" << text;
     }
+  }
+
+  bool Drawn(const Block* block, int line) const { return memory_.Used(block, line); }
+  /// Whether nobody of the winner's and loser's sides is named last but those two.
+  static bool EndsWith(const std::string& bout, int winner, int loser) {
+    const auto last = [&](int uid) {
+      const char letter = static_cast<char>('A' + uid - 1);
+      return bout.rfind(std::string(1, letter) + static_cast<char>(letter + 32) + "x");
+    };
+    const auto partner = [](int uid) { return uid % 2 == 0 ? uid - 1 : uid + 1; };
+    const auto above = [&](int uid) {
+      const auto own = last(uid), other = last(partner(uid));
+      return other == std::string::npos || (own != std::string::npos && own > other);
+    };
+    return above(winner) && above(loser);
   }
 
  private:
@@ -162,20 +178,14 @@ TEST_P(Telling, SaysWhatAMatchWasBookedFor) {
 }
 
 struct TurnCase {
-  const char* Disposition;
-  bool Pending;
+  const char* Becomes;
   int Told;
 };
 
-TEST_P(Telling, TellsATurnByWhereTheTurnerStands) {
-  for (const TurnCase& each : {TurnCase{"F", true, kTurnsHeel},
-                               {"H", true, kTurnsFace},
-                               {"T", true, kTweenerTurns},
-                               {"F", false, kBaffling},
-                               {"T", false, kBaffling}}) {
+TEST_P(Telling, TellsATurnByWhatItMakesOfTheTurner) {
+  for (const TurnCase& each :
+       {TurnCase{"H", kTurnsHeel}, {"F", kTurnsFace}, {"T", kTurnsTweener}, {"", kBaffling}}) {
     World world = Ten().Game("CWA");
-    world.Workers()[1].Disposition = each.Disposition;
-    world.Workers()[1].TurnPending = each.Pending;
     Segment match = Match(kSingles);
     match.Purpose = purpose1::kTurnWinner;
     Segment talk = EmptySegment();
@@ -184,9 +194,67 @@ TEST_P(Telling, TellsATurnByWhereTheTurnerStands) {
     talk.Purpose = kTalkTurn;
     talk.Worker[0] = 1;
     for (const Segment& segment : {match, talk}) {
-      ExpectBand(Tell(world, segment, {0, 0, {1}}), Family::Turn, each.Told, kTurnsTold);
+      ExpectBand(Tell(world, segment, {0, 0, {{1, each.Becomes}}}), Family::Turn, each.Told,
+                 kTurnsTold);
       ExpectBand(Tell(world, segment), Family::Turn, kNothing, kTurnsTold);  // no occasion
     }
+  }
+}
+
+TEST_P(Telling, TellsAFeudAsTheirsWhoHaveIt) {
+  World world = Ten().Game("CWA").Feud("Aoe Aax", "Boe Bbx");
+  const std::string partners = Tell(world, Match(kFourOnFour));
+  ExpectBand(partners, Family::FeudPartners, 0, 1);
+  ExpectBand(partners, Family::FeudOpening, kNothing, kBoils + 1);
+  ExpectBand(partners, Family::FeudEnding, kNothing, kFeudIsOver + 1);
+  Segment apart = Match(kFourOnFour);
+  std::swap(apart.Worker[1], apart.Worker[4]);
+  const std::string text = Tell(world, apart);
+  ExpectBand(text, Family::FeudPartners, kNothing, 1);
+  const std::string ending = text.substr(text.rfind('\n'));
+  for (const char* name : {"Ccx", "Ddx", "Eex", "Ffx", "Ggx", "Hhx"})
+    EXPECT_FALSE(HasWord(ending, name)) << ending;
+}
+
+TEST_P(Telling, PraisesByTheRating) {
+  World world = Ten().Game("CWA");
+  Segment match = Match(kSingles);
+  match.Purpose = purpose1::kGoodMatch;
+  for (const auto& [overall, tag] : {std::pair(44, kLowTag), {45, kMidTag}, {81, kHighTag}})
+    for (int i = 0; i < 20; ++i) {
+      Scene scene;
+      scene.Overall = overall;
+      const std::string text = Tell(world, match, scene);
+      const Block* block = BlockOf(GetParam(), Family::PurposeEnding, kGoodMatchTold);
+      for (std::size_t line = 0; line < block->Lines.size(); ++line) {
+        const unsigned tags = ReadTags(block->Lines[line]).Tags & (kLowTag | kMidTag | kHighTag);
+        if (Drawn(block, static_cast<int>(line)))
+          EXPECT_TRUE(tags == 0 || (tags & tag) != 0) << block->Lines[line];
+      }
+    }
+}
+
+TEST_P(Telling, EndsATagMatchWithTheBookedTwo) {
+  World world = Ten().Game("CWA");
+  for (const auto& [winner, loser] : {std::pair(1, 3), {1, 4}, {2, 3}, {4, 1}})
+    for (int i = 0; i < 30; ++i) {
+      Segment match = Match(kTag);
+      match.Winner = winner;
+      match.Loser = loser;
+      const std::string text = Tell(world, match);
+      const auto body = text.find('\n') + 1;
+      const std::string bout = text.substr(body, text.find('\n', body) - body);
+      EXPECT_TRUE(EndsWith(bout, winner, loser)) << winner << " over " << loser << ": " << bout;
+    }
+}
+
+TEST_P(Telling, WritesOneStopBehindANameThatEndsInOne) {
+  World world = Ten().Game("CWA");
+  for (Worker& worker : world.Workers()) worker.ShortName = worker.ShortName.Str() + " Jr.";
+  for (const MatchTypeRow& type : kMatchTypes) {
+    const std::string text = Tell(world, Match(type.Style, type.Code));
+    for (auto at = text.find("Jr.."); at != std::string::npos; at = text.find("Jr..", at + 1))
+      EXPECT_EQ(text.substr(at, 5), "Jr...") << text;
   }
 }
 
