@@ -228,8 +228,9 @@ TEST_P(Telling, PraisesByTheRating) {
       const Block* block = BlockOf(GetParam(), Family::PurposeEnding, kGoodMatchTold);
       for (std::size_t line = 0; line < block->Lines.size(); ++line) {
         const unsigned tags = ReadTags(block->Lines[line]).Tags & (kLowTag | kMidTag | kHighTag);
-        if (Drawn(block, static_cast<int>(line)))
+        if (Drawn(block, static_cast<int>(line))) {
           EXPECT_TRUE(tags == 0 || (tags & tag) != 0) << block->Lines[line];
+        }
       }
     }
 }
