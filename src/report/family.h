@@ -36,6 +36,7 @@ enum class Family {
   ThreeCount,
   TapOut,
   PinNoRef,
+  PutDown,  // {a} gets {d} to the mat, who stood or was held until then
   RefBump,
   TagOut,      // {a} tags {b}
   DoubleTeam,  // {a} and {b} on {d}
@@ -53,16 +54,19 @@ enum class Family {
   EliminatedOne,   // {a} eliminates {d}
   EliminatedTeam,  // {a} pins {d}, and {X} leave
   SurvivorOut,     // {a} eliminates {d}
+  TurnReturns,     // {t}, who was out, comes back to see to it that {w} beats {l}
   Survivors,       // {Z} are left
   RumbleStart,     // {a} and {d} are the first two
   RumbleEntry,     // {a} enters as {no}
   EliminationTry,  // {a} nearly eliminates {d}
   Elimination,     // {a} eliminates {d}, {no}
   LastTwo,         // {w} and {l} are left
+  Beat,            // what a match has come to, between its steps
   // Around the bout.
   Opening,  // by style and type
   TitleOpening,
   FeudOpening,
+  FeudPartners,  // {F} and {S} have a feud, and stand on one side
   DebutOpening,
   ChampionNote,
   Closer,  // by style and type
@@ -85,6 +89,7 @@ enum class Family {
   // Talk and angles.
   TalkOpening,
   Speech,
+  SpeechAgain,  // {T} has nothing to add to what the show has heard
   TalkClosing,
   AngleText,
   // The second reporter's ratings.
@@ -129,6 +134,19 @@ enum Stipulation {
   kTlcSpot
 };
 
+/// Bands of Beat. Its lines go by the crowd's rating.
+enum BeatTold {
+  kComeback,   // {a} has turned it, who had taken a good deal
+  kInTrouble,  // {d} has taken a good deal
+  kFallLead,   // {a} covers {d} once more
+  kFallReaction,
+  kFallDoubt,  // behind the third near fall and later
+  kLegGoes,    // the leg of {d} that {a} has worked on
+  kArmGoes,
+  kBackGoes,
+  kBeats
+};
+
 /// Bands of TitleOpening, TitleEnding, FeudOpening, FeudEnding, PurposeEnding, Turn.
 enum TitleStake { kDefended, kVacant, kChampionAway, kTitleStakes };
 enum TitleOutcome {
@@ -150,7 +168,7 @@ enum PurposeTold {
   kRunInDebutTold,
   kPurposesTold
 };
-enum TurnTold { kTurnsHeel, kTurnsFace, kTweenerTurns, kBaffling, kTurnsTold };
+enum TurnTold { kTurnsHeel, kTurnsFace, kTurnsTweener, kBaffling, kTurnsTold };
 
 /// Bands of Verdict: the highest Overall that each rates.
 inline constexpr int kVerdictsUpTo[] = {15, 20, 25, 30, 35, 40, 45, 50, 55, 60, 66,

@@ -34,6 +34,7 @@ void TellBout(Teller& teller, const BoutRow& bout) {
 void TellMatch(Teller& teller) {
   const BoutRow* bout = FindBout(teller.segment.Style, teller.segment.MatchType);
   if (!bout) return;
+  teller.Counts = bout->Pinfall;
   TellOpening(teller);
   teller.Paragraph();
   TellBout(teller, *bout);
@@ -43,11 +44,9 @@ void TellMatch(Teller& teller) {
 }
 
 bool HasTurnPending(const Teller& teller) {
-  const auto& turners = teller.scene.Turners;
-  return std::any_of(turners.begin(), turners.end(), [&](int uid) {
-    const Worker* worker = teller.world.FindWorker(uid);
-    return worker && worker->TurnPending;
-  });
+  const auto& turns = teller.scene.Turns;
+  return std::any_of(turns.begin(), turns.end(),
+                     [](const Turning& turn) { return !turn.Becomes.empty(); });
 }
 
 }  // namespace
@@ -71,6 +70,33 @@ std::string WriteReport(World& world, const Segment& segment, const Scene& scene
   return teller.Text();
 }
 
+std::vector<Feud> FeudsAtTheBell(const World& world) {
+  std::vector<Feud> feuds;
+  for (const Feud& feud : world.Feuds())
+    if (feud.Worker1 != 0) feuds.push_back(feud);
+  return feuds;
+}
+
+int LineMemory::Pick(Draws& draws, const void* band, const std::vector<bool>& fits) {
+  const int lines = static_cast<int>(fits.size());
+  const auto fitting = std::count(fits.begin(), fits.end(), true);
+  if (fitting == 0 || fitting == lines) return Pick(draws, band, lines);
+  std::vector<bool>& used = used_[band];
+  used.resize(fits.size());
+  std::vector<int> choice;
+  for (const bool again : {false, true}) {
+    for (std::size_t line = 0; line < fits.size(); ++line) {
+      if (again && fits[line]) used[line] = false;
+      if (fits[line] && !used[line]) choice.push_back(static_cast<int>(line));
+    }
+    if (!choice.empty()) break;
+  }
+  const int picked =
+      choice[static_cast<std::size_t>(draws.Draw(static_cast<int>(choice.size())) - 1)];
+  used[static_cast<std::size_t>(picked)] = true;
+  return picked;
+}
+
 int LineMemory::Pick(Draws& draws, const void* band, int lines) {
   std::vector<bool>& used = used_[band];
   used.resize(static_cast<std::size_t>(lines));
@@ -87,6 +113,17 @@ int LineMemory::Pick(Draws& draws, const void* band, int lines) {
   return picked;
 }
 
+int LineMemory::PickFor(Draws& draws, const void* band, int lines, int speaker) {
+  std::vector<bool>& said = bySpeaker_[{band, speaker}];
+  said.resize(static_cast<std::size_t>(lines));
+  std::vector<bool> fits = said;
+  fits.flip();
+  const int picked = Pick(draws, band, fits);
+  if (said[static_cast<std::size_t>(picked)]) said.assign(said.size(), false);
+  said[static_cast<std::size_t>(picked)] = true;
+  return picked;
+}
+
 bool LineMemory::Used(const void* band, int line) const {
   const auto found = used_.find(band);
   return found != used_.end() && found->second[static_cast<std::size_t>(line)];
@@ -98,18 +135,27 @@ void TellInterview(Teller& teller) {
   const int purpose = segment.Purpose >= kVerbalAttack && segment.Purpose <= kTalkNone
                           ? int(segment.Purpose)
                           : int(kTalkNone);
-  teller.Say(Family::TalkOpening, segment.Style);
-  teller.Say(Family::Speech, TalkBand(segment.Style, purpose));
+  teller.SayAs('T', Family::TalkOpening, segment.Style);
+  // Nobody makes a speech that has been heard tonight.
+  if (!teller.SayNew(Family::Speech, TalkBand(segment.Style, purpose)))
+    teller.Say(Family::SpeechAgain);
   if (purpose == kTalkTurn) {
-    teller.cast.Set('t', teller.world, teller.scene.Turners);
+    std::vector<int> turners;
+    for (const Turning& turn : teller.scene.Turns) turners.push_back(turn.Uid);
+    teller.cast.Set('t', teller.world, turners);
     TellTurn(teller);
   }
-  teller.Say(Family::TalkClosing, purpose);
+  teller.SayAs('T', Family::TalkClosing, purpose);
 }
 
 void TellAngle(Teller& teller) {
   if (HasTurnPending(teller)) teller.cast.Set(Item::Turn, "turn");
   teller.Say(Family::AngleText, teller.segment.Style);
+  for (const Turning& turn : teller.scene.Turns) {
+    if (turn.Becomes.empty()) continue;
+    teller.cast.Set('t', teller.world, {turn.Uid});
+    TellTurn(teller);
+  }
 }
 
 namespace {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "records/fields/outside.h"
@@ -16,12 +18,25 @@ namespace grapplemont {
 /// "The Lamplighter", "Rafe Tolland", "QVD"; the first one's for an unknown number.
 std::string_view VoiceName(int voice);
 
-/// What the report knows beside the Segment itself.
-struct Scene {
-  int Champion = 0;               // who held the Title at stake when the bell rang; 0 for nobody
-  int CoChampion = 0;             // the other half of a tag champion
-  std::vector<int> Turners = {};  // uids of all whom the booking makes turn
+/// Somebody whom the booking makes turn.
+struct Turning {
+  int Uid = 0;
+  std::string Becomes = {};  // the disposition behind it; empty where nobody was prepared for it
 };
+
+constexpr int kUnrated = -1;
+
+/// What the report knows beside the Segment itself, since it is written when all has happened.
+struct Scene {
+  int Champion = 0;    // who held the Title at stake when the bell rang; 0 for nobody
+  int CoChampion = 0;  // the other half of a tag champion
+  std::vector<Turning> Turns = {};
+  std::vector<Feud> Feuds = {};  // as they stood when the bell rang
+  int Overall = kUnrated;        // what the match is rated, 0 to 100
+  int Crowd = kUnrated;          // the same of the crowd
+};
+/// The feuds of now, for a Scene.
+std::vector<Feud> FeudsAtTheBell(const World& world);
 
 /// Which lines a show has used, so that none comes again before the others of its band have.
 class LineMemory {
@@ -30,12 +45,18 @@ class LineMemory {
   /// already, one that a second draw picks among those it has not. Once all have been used, the
   /// band begins again. `band` tells the bands apart. Requires at least one line.
   int Pick(Draws& draws, const void* band, int lines);
+  /// The same among those that `fits` holds true, one for each line; among all where it holds none.
+  /// The band begins again only for lines that fit.
+  int Pick(Draws& draws, const void* band, const std::vector<bool>& fits);
+  /// The same, and as long as there are others none that this speaker has said tonight.
+  int PickFor(Draws& draws, const void* band, int lines, int speaker);
   /// Whether it was picked since the band last began. What a text says cannot tell: two bands may
   /// use the same words.
   bool Used(const void* band, int line) const;
 
  private:
   std::unordered_map<const void*, std::vector<bool>> used_;
+  std::map<std::pair<const void*, int>, std::vector<bool>> bySpeaker_;
 };
 
 /// The prose of a match, an interview or an angle, in paragraphs. Draws from World::Prose alone, so

@@ -40,18 +40,135 @@ Teller::Teller(World& w, const Segment& s, const Scene& sc, LineMemory& memory)
       memory_(memory),
       voice_(w.HasGame() ? int(w.Game().Reporter) : 0) {}
 
-bool Teller::Say(Family family, int band) {
+bool Teller::Say(Family family, int band, unsigned wants) {
   const Block* block = BlockOf(voice_, family, band);
   if (!block) return false;
-  const int line = memory_.Pick(world.Prose(), block, static_cast<int>(block->Lines.size()));
-  return Fill(cast, block->Lines[static_cast<std::size_t>(line)], text_);
+  std::vector<bool> fits = Fitting(*block, family, wants);
+  if (wants != 0 && std::count(fits.begin(), fits.end(), true) == 0)
+    fits = Fitting(*block, family, 0);
+  return SayLine(*block, family, memory_.Pick(world.Prose(), block, fits));
 }
 
-void Teller::SayOffence(Family family) {
+bool Teller::SayNew(Family family, int band) {
+  const Block* block = BlockOf(voice_, family, band);
+  if (!block) return false;
+  std::vector<bool> fits(block->Lines.size());
+  for (std::size_t line = 0; line < fits.size(); ++line)
+    fits[line] = !memory_.Used(block, static_cast<int>(line));
+  if (std::count(fits.begin(), fits.end(), true) == 0) return false;
+  return SayLine(*block, family, memory_.Pick(world.Prose(), block, fits));
+}
+
+bool Teller::SayAs(char part, Family family, int band) {
+  const Block* block = BlockOf(voice_, family, band);
+  const Person* speaker = cast.First(part);
+  if (!block || !speaker) return Say(family, band);
+  return SayLine(
+      *block, family,
+      memory_.PickFor(world.Prose(), block, static_cast<int>(block->Lines.size()), speaker->Uid));
+}
+
+bool Teller::SayLine(const Block& block, Family family, int line) {
+  const TaggedLine read = ReadTags(block.Lines[static_cast<std::size_t>(line)]);
+  const bool isSaid = Fill(cast, read.Text, text_);
+  Move(family, read);
+  return isSaid;
+}
+
+void Teller::SayOffence(Family family, unsigned wants) {
   const Party& attacker = cast.Of('a');
   if (attacker.People.empty()) return;
   if (const Worker* worker = world.FindWorker(attacker.People[0]->Uid))
-    Say(family, OffenceBandOf(world, *worker));
+    Say(family, OffenceBandOf(world, *worker), wants);
+}
+
+namespace {
+
+constexpr int kDeepTrouble = 3, kWornDown = 3;  // moves taken
+
+/// The tag of a percentage's level.
+unsigned LevelTag(int percent) {
+  constexpr int kMiddling = 45, kPraised = 81;
+  return percent < kMiddling ? kLowTag : percent < kPraised ? kMidTag : kHighTag;
+}
+
+/// Whose lines say whether they lead out of a hold.
+bool LeadsOutOfHolds(Family family) {
+  return family == Family::Counter || family == Family::PutDown;
+}
+
+}  // namespace
+
+std::vector<bool> Teller::Fitting(const Block& block, Family family, unsigned wants) const {
+  std::vector<bool> fits;
+  for (const std::string_view line : block.Lines)
+    fits.push_back(Fits(ReadTags(line), family, wants));
+  return fits;
+}
+
+bool Teller::Fits(const TaggedLine& line, Family family, unsigned wants) const {
+  constexpr unsigned kLevels = kLowTag | kMidTag | kHighTag;
+  if ((line.Tags & wants) != wants) return false;
+  if (LeadsOutOfHolds(family) && !line.Is(kAnywayTag) &&
+      line.Is(kHeldTag) != (Under == Footing::Held))
+    return false;
+  if (line.Is(kFloorTag) && Under != Footing::Down) return false;
+  if (line.Is(kPinTag) && !Counts) return false;
+  const Person *attacker = cast.First('a'), *defender = cast.First('d');
+  if (line.Is(kTroubleTag) && !(attacker && attacker->Trouble >= kDeepTrouble)) return false;
+  if (line.Is(kWornTag) && !(defender && defender->Taken >= kWornDown)) return false;
+  const unsigned levels = line.Tags & kLevels;
+  const int rated = family == Family::Beat ? scene.Crowd : scene.Overall;
+  return levels == 0 || rated == kUnrated || (levels & LevelTag(rated)) != 0;
+}
+
+void Teller::Move(Family family, const TaggedLine& line) {
+  const auto leave = [&](Footing otherwise) {
+    Under = line.Is(kDownTag) ? Footing::Down : line.Is(kHoldTag) ? Footing::Held : otherwise;
+  };
+  Person *attacker = cast.First('a'), *defender = cast.First('d');
+  switch (family) {
+    case Family::TwoCount:
+    case Family::NearFall:
+    case Family::PinNoRef:
+    case Family::PutDown:
+      Under = Footing::Down;
+      return;
+    case Family::EliminationTry:
+      Under = Footing::Up;
+      return;
+    case Family::TagOut:
+      Under = Footing::Up;
+      if (attacker) attacker->Trouble = 0;
+      return;
+    case Family::Counter:
+      return leave(Footing::Up);
+    case Family::LadderSpot:
+    case Family::WeaponSpot:
+    case Family::TableSpot:
+      leave(Footing::Down);
+      break;
+    case Family::OffenceA:
+    case Family::OffenceB:
+    case Family::OffenceC:
+    case Family::OffenceD:
+    case Family::OffenceE:
+    case Family::DoubleTeam:
+    case Family::BreakIn:
+    case Family::Spot:
+      leave(Footing::Up);
+      break;
+    default:
+      return;
+  }
+  if (attacker) attacker->Trouble = 0;
+  if (defender) {
+    ++defender->Taken;
+    ++defender->Trouble;
+    const LineTag limbs[] = {kLegTag, kArmTag, kBackTag};
+    for (std::size_t limb = 0; limb < std::size(limbs); ++limb)
+      defender->Limbs[limb] += line.Is(limbs[limb]);
+  }
 }
 
 void Teller::Paragraph() {
@@ -65,6 +182,8 @@ std::string Teller::Text() {
 }
 
 void Teller::Act(Person* attacker, Person* defender) {
+  const Person *a = cast.First('a'), *d = cast.First('d');
+  if (!(a == attacker && d == defender) && !(a == defender && d == attacker)) Under = Footing::Up;
   cast.Set('a', attacker);
   cast.Set('d', defender);
 }

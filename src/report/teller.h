@@ -1,13 +1,18 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "records/fields/wording.h"
 #include "report/cast.h"
 #include "report/family.h"
+#include "report/line.h"
 #include "report/report.h"
 
 namespace grapplemont {
+
+/// How the one who suffers is left by what was told last.
+enum class Footing { Up, Down, Held };
 
 /// One report while it grows: the voice that GameInfo.Reporter names, the cast, the text.
 class Teller {
@@ -16,9 +21,15 @@ class Teller {
 
   /// Appends a line of the family; false when nothing could be said, since the band does not exist
   /// or nobody is there to say it of.
-  bool Say(Family family, int band = 0);
+  /// Of the band's lines those are drawn from whose tags fit how the match stands and have all of
+  /// `wants`; where there are none, those that fit; where there are none of these, all.
+  bool Say(Family family, int band = 0, unsigned wants = 0);
+  /// The same, but only a line that the show has not had; false when it has had them all.
+  bool SayNew(Family family, int band);
+  /// The same as Say of whoever plays this part: a line that they have not been given tonight.
+  bool SayAs(char part, Family family, int band);
   /// The line of an offence family, by what the attacker is best at.
-  void SayOffence(Family family);
+  void SayOffence(Family family, unsigned wants = 0);
   /// Text that is the same in all voices.
   void Append(std::string_view text) { text_ += text; }
   /// What follows begins a new paragraph.
@@ -33,15 +44,22 @@ class Teller {
   const auto& OneOf(const Some& some) {
     return some[static_cast<std::size_t>(Draw(static_cast<int>(some.size())) - 1)];
   }
-  /// Sets {a} and {d}.
+  /// Sets {a} and {d}. Whoever was down or held stays it while the two are the same.
   void Act(Person* attacker, Person* defender);
 
   World& world;
   const Segment& segment;
   const Scene& scene;
   Cast cast;
+  Footing Under = Footing::Up;  // of {d}
+  bool Counts = true;           // the bout may end in a count
 
  private:
+  bool Fits(const TaggedLine& line, Family family, unsigned wants) const;
+  std::vector<bool> Fitting(const Block& block, Family family, unsigned wants) const;
+  bool SayLine(const Block& block, Family family, int line);
+  void Move(Family family, const TaggedLine& line);
+
   LineMemory& memory_;
   int voice_;
   std::string text_;

@@ -73,7 +73,8 @@ void WordsCheck::CheckIsNew(const WordsFile& file, const NumberedLine& line,
                             const Heading& heading) {
   const std::string& whole = heading.IsReport ? file.Module : heading.Name;
   const std::string place = file.Path + ":" + std::to_string(line.Number);
-  const auto [first, isNew] = said_.emplace(whole + "\n" + line.Text, place);
+  const std::string_view text = heading.IsReport ? ReadTags(line.Text).Text : line.Text;
+  const auto [first, isNew] = said_.emplace(whole + "\n" + std::string(text), place);
   if (!isNew) Report(file.Path, line.Number, "the same line stands in " + first->second);
 }
 
@@ -95,6 +96,14 @@ std::vector<std::string> LettersOf(std::string_view parts) {
   std::vector<std::string> letters;
   for (const char part : parts) letters.emplace_back(1, part);
   return letters;
+}
+
+/// "; there are down, hold and so on".
+std::string TagsKnown() {
+  std::string text;
+  for (const std::string_view tag : kLineTags)
+    text += (text.empty() ? "; there are " : ", ") + std::string(tag);
+  return text;
 }
 
 /// What may not stand behind the slot of who has lost, and what not before it.
@@ -187,7 +196,10 @@ class Reading {
 
 }  // namespace
 
-std::string WhyNoLine(std::string_view text, const Heading& heading) {
+std::string WhyNoLine(std::string_view line, const Heading& heading) {
+  const TaggedLine read = heading.IsReport ? ReadTags(line) : TaggedLine{0, line};
+  const std::string_view text = read.Text;
+  if (!read.Sound) return "there is no such tag" + TagsKnown();
   if (text.find("  ") != std::string_view::npos) return "two blanks in a row";
   if (heading.IsReport && HasSexedWord(text))
     return "write {a:himself}, with the letter of whoever it is: it goes by sex and number";

@@ -63,6 +63,9 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
       {"{T} here. {?m}{m} too.", "a condition is not closed: {.} is missing"},
       {"{T}. {?m}{m}. {!feud}Hm. {.}{.}", "a condition stands inside another"},
       {"{T} is here. {.}", "{.} ends no condition"},
+      {"<dwon> {T} is here, too.",
+       "there is no such tag; there are down, hold, floor, held, anyway, trouble, worn, pin, low, "
+       "mid, high, leg, arm, back"},
       {"{T} is in.  Camera on.", "two blanks in a row"},
       {"{T} talks to himself.",
        "write {a:himself}, with the letter of whoever it is: it goes by sex and number"},
