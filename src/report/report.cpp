@@ -5,6 +5,7 @@
 #include "records/angles.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
+#include "report/past.h"
 #include "report/stages.h"
 
 namespace grapplemont {
@@ -26,6 +27,7 @@ void TellBout(Teller& teller, const BoutRow& bout) {
     case BoutShape::Duel:
     case BoutShape::Scramble:
       TellBody(teller, bout);
+      teller.Pace.HoldBreath(teller);
       teller.Paragraph();
       TellFinish(teller, bout);
   }
@@ -35,9 +37,13 @@ void TellMatch(Teller& teller) {
   const BoutRow* bout = FindBout(teller.segment.Style, teller.segment.MatchType);
   if (!bout) return;
   TellOpening(teller);
+  TellPast(teller);
+  teller.Pace.Open(teller);
   teller.Paragraph();
   TellBout(teller, *bout);
   TellTitleEnding(teller);
+  TellPastEnding(teller);
+  teller.Pace.AfterBell(teller);
   teller.Paragraph();
   TellAftermath(teller);
 }
@@ -71,16 +77,23 @@ std::string WriteReport(World& world, const Segment& segment, const Scene& scene
   return teller.Text();
 }
 
-int LineMemory::Pick(Draws& draws, const void* band, int lines) {
+int LineMemory::Pick(Draws& draws, const void* band, int lines, std::span<const int> days) {
   std::vector<bool>& used = used_[band];
   used.resize(static_cast<std::size_t>(lines));
   if (std::find(used.begin(), used.end(), false) == used.end())
     used.assign(static_cast<std::size_t>(lines), false);
+  int longest = 0;
+  for (std::size_t line = 0; line < days.size(); ++line)
+    if (!used[line]) longest = std::max(longest, days[line]);
+  const auto isFree = [&](int line) {
+    const auto at = static_cast<std::size_t>(line);
+    return !used[at] && (days.empty() || days[at] == longest);
+  };
   int picked = draws.Draw(lines) - 1;
-  if (used[static_cast<std::size_t>(picked)]) {
+  if (!isFree(picked)) {
     std::vector<int> unused;
     for (int line = 0; line < lines; ++line)
-      if (!used[static_cast<std::size_t>(line)]) unused.push_back(line);
+      if (isFree(line)) unused.push_back(line);
     picked = unused[static_cast<std::size_t>(draws.Draw(static_cast<int>(unused.size())) - 1)];
   }
   used[static_cast<std::size_t>(picked)] = true;

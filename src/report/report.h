@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -8,6 +9,7 @@
 #include "records/segments.h"
 #include "records/world.h"
 #include "report/family.h"
+#include "report/saidlines.h"
 
 // A Segment told in prose, in the voice that the player has chosen.
 
@@ -16,11 +18,16 @@ namespace grapplemont {
 /// "The Lamplighter", "Rafe Tolland", "QVD"; the first one's for an unknown number.
 std::string_view VoiceName(int voice);
 
+inline constexpr int kUnrated = -1;
+
 /// What the report knows beside the Segment itself.
 struct Scene {
   int Champion = 0;               // who held the Title at stake when the bell rang; 0 for nobody
   int CoChampion = 0;             // the other half of a tag champion
   std::vector<int> Turners = {};  // uids of all whom the booking makes turn
+  int Row = 0;                    // of the sheet; 0 outside a show
+  bool IsLast = false, IsEvent = false;
+  int Overall = kUnrated, Crowd = kUnrated;
 };
 
 /// Which lines a show has used, so that none comes again before the others of its band have.
@@ -29,12 +36,17 @@ class LineMemory {
   /// A line of the band, from 0: the one that a draw of `lines` names, or, if the show has used it
   /// already, one that a second draw picks among those it has not. Once all have been used, the
   /// band begins again. `band` tells the bands apart. Requires at least one line.
-  int Pick(Draws& draws, const void* band, int lines);
+  /// `days` since shows said each of them; only the longest unused are drawn among. Empty where
+  /// nothing is remembered.
+  int Pick(Draws& draws, const void* band, int lines, std::span<const int> days = {});
   /// Whether it was picked since the band last began. What a text says cannot tell: two bands may
   /// use the same words.
   bool Used(const void* band, int line) const;
+  /// What the shows before have said.
+  SaidLines& Said() { return said_; }
 
  private:
+  SaidLines said_;
   std::unordered_map<const void*, std::vector<bool>> used_;
 };
 
@@ -44,7 +56,8 @@ std::string WriteReport(World& world, const Segment& segment, const Scene& scene
                         LineMemory& memory);
 /// The second reporter's rating of a match; empty for the others and for what is not a match. Draws
 /// from World::Prose.
-std::string Verdict(World& world, const Segment& segment, int overall);
+std::string Verdict(World& world, const Segment& segment, int overall,
+                    LineMemory* memory = nullptr);
 
 /// The lines above the prose.
 struct SegmentDetails {

@@ -113,7 +113,12 @@ void Ring::Begin(std::string_view script, const Person* last, const Person* unde
 void Ring::Play(std::string_view script, int spot, const Person* last, const Person* under) {
   if (!CanFight()) return;
   Begin(script, last, under);
-  for (const char step : script) Step(step, spot);
+  teller_.Pace.Begin(static_cast<int>(script.size()));
+  for (const char step : script) {
+    teller_.Pace.Before(teller_, step);
+    Step(step, spot);
+    teller_.Pace.After(teller_, step);
+  }
 }
 
 void Ring::Step(char step, int spot) {

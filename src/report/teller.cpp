@@ -43,8 +43,17 @@ Teller::Teller(World& w, const Segment& s, const Scene& sc, LineMemory& memory)
 bool Teller::Say(Family family, int band) {
   const Block* block = BlockOf(voice_, family, band);
   if (!block) return false;
-  const int line = memory_.Pick(world.Prose(), block, static_cast<int>(block->Lines.size()));
-  return Fill(cast, block->Lines[static_cast<std::size_t>(line)], text_);
+  const auto keys = KeysOf(voice_, family, band);
+  SaidLines& said = memory_.Said();
+  std::vector<int> days;
+  for (const std::int32_t key : keys) days.push_back(said.DaysSince(world, key));
+  const auto picked = static_cast<std::size_t>(
+      memory_.Pick(world.Prose(), block, static_cast<int>(block->Lines.size()), days));
+  const int way = said.Times(world, keys[picked]);
+  said.Say(world, keys[picked]);
+  const std::string_view line = block->Lines[picked];
+  return line.find('[') == line.npos ? Fill(cast, line, text_)
+                                     : Fill(cast, SaidIn(line, way), text_);
 }
 
 void Teller::SayOffence(Family family) {
@@ -80,23 +89,51 @@ int KnownVoice(int voice) {
 /// Every block of a voice by family and band.
 class Index {
  public:
-  explicit Index(std::initializer_list<Blocks> files) {
+  Index(int voice, std::initializer_list<Blocks> files) {
     for (const FamilyRow& row : AllFamilies())
       rows_[static_cast<std::size_t>(row.Of)].resize(static_cast<std::size_t>(row.Bands.Last) + 1);
     for (const Blocks blocks : files)
-      for (const Block& block : blocks)
-        rows_[static_cast<std::size_t>(block.Heading)][static_cast<std::size_t>(block.Band)] =
-            &block;
+      for (const Block& block : blocks) Add(voice, block);
   }
-  const Block* Find(Family family, int band) const {
+  struct Entry {
+    const Block* Lines = nullptr;
+    std::vector<std::int32_t> Keys = {};
+  };
+  const Entry& Find(Family family, int band) const {
+    static const Entry kNone;
     return RowOf(family).Has(band)
                ? rows_[static_cast<std::size_t>(family)][static_cast<std::size_t>(band)]
-               : nullptr;
+               : kNone;
   }
 
  private:
-  std::array<std::vector<const Block*>, kFamilies> rows_;
+  void Add(int voice, const Block& block) {
+    Entry& entry =
+        rows_[static_cast<std::size_t>(block.Heading)][static_cast<std::size_t>(block.Band)];
+    entry.Lines = &block;
+    for (const std::string_view line : block.Lines) entry.Keys.push_back(LineKey(voice, line));
+  }
+
+  std::array<std::vector<Entry>, kFamilies> rows_;
 };
+
+const Index::Entry& EntryOf(int voice, Family family, int band) {
+  static const std::array<Index, kVoiceCount> kIndex = {
+      Index{kLamplighter,
+            {modLamplighter::Offence(), modLamplighter::Bouts(), modLamplighter::Finishes(),
+             modLamplighter::Talk(), modLamplighter::Angles(), modLamplighter::Memory(),
+             modLamplighter::Beats()}},
+      Index{kTolland,
+            {modTolland::Offence(), modTolland::Bouts(), modTolland::Finishes(), modTolland::Talk(),
+             modTolland::Angles(), modTolland::Verdicts(), modTolland::Memory(),
+             modTolland::Beats()}},
+      Index{kQvd,
+            {modQVD::Offence(), modQVD::Bouts(), modQVD::Finishes(), modQVD::Talk(),
+             modQVD::Angles(), modQVD::Memory(), modQVD::Beats()}}};
+  const int only = RowOf(family).Only;
+  const int teller = only == kEveryVoice ? KnownVoice(voice) : only;
+  return kIndex[static_cast<std::size_t>(teller)].Find(family, band);
+}
 
 }  // namespace
 
@@ -105,28 +142,28 @@ std::string_view VoiceName(int voice) {
 }
 
 const Block* BlockOf(int voice, Family family, int band) {
-  static const std::array<Index, kVoiceCount> kIndex = {
-      Index{modLamplighter::Offence(), modLamplighter::Bouts(), modLamplighter::Finishes(),
-            modLamplighter::Talk(), modLamplighter::Angles()},
-      Index{modTolland::Offence(), modTolland::Bouts(), modTolland::Finishes(), modTolland::Talk(),
-            modTolland::Angles(), modTolland::Verdicts()},
-      Index{modQVD::Offence(), modQVD::Bouts(), modQVD::Finishes(), modQVD::Talk(),
-            modQVD::Angles()}};
-  const int only = RowOf(family).Only;
-  const int teller = only == kEveryVoice ? KnownVoice(voice) : only;
-  return kIndex[static_cast<std::size_t>(teller)].Find(family, band);
+  return EntryOf(voice, family, band).Lines;
 }
 
-std::string Verdict(World& world, const Segment& segment, int overall) {
+std::span<const std::int32_t> KeysOf(int voice, Family family, int band) {
+  return EntryOf(voice, family, band).Keys;
+}
+
+std::string Verdict(World& world, const Segment& segment, int overall, LineMemory* memory) {
   if (!world.HasGame() || world.Game().Reporter != kTolland || segment.Kind != kMatch) return {};
   if (segment.Style == kSpecial && segment.MatchType != kRoyalRumble)
     return std::string(BlockOf(kTolland, Family::NoVerdict, 0)->Lines[0]);
   const auto* last = std::end(kVerdictsUpTo) - 1;
   const auto band = std::lower_bound(std::begin(kVerdictsUpTo), last, overall);
-  const auto lines =
-      BlockOf(kTolland, Family::Verdict, static_cast<int>(band - kVerdictsUpTo))->Lines;
-  const int draw = world.Prose().Draw(static_cast<int>(lines.size()));
-  return std::string(lines[static_cast<std::size_t>(draw - 1)]);
+  const auto number = static_cast<int>(band - kVerdictsUpTo);
+  const auto lines = BlockOf(kTolland, Family::Verdict, number)->Lines;
+  const auto drawn =
+      static_cast<std::size_t>(world.Prose().Draw(static_cast<int>(lines.size())) - 1);
+  if (!memory) return SaidIn(lines[drawn], 0);
+  const std::int32_t key = KeysOf(kTolland, Family::Verdict, number)[drawn];
+  const int way = memory->Said().Times(world, key);
+  memory->Said().Say(world, key);
+  return SaidIn(lines[drawn], way);
 }
 
 }  // namespace grapplemont

@@ -5,6 +5,8 @@
 #include "records/fields/wording.h"
 #include "report/cast.h"
 #include "report/family.h"
+#include "report/pace.h"
+#include "report/past.h"
 #include "report/report.h"
 
 namespace grapplemont {
@@ -40,6 +42,8 @@ class Teller {
   const Segment& segment;
   const Scene& scene;
   Cast cast;
+  grapplemont::Pace Pace;
+  std::vector<PastFact> Told;  // what has been said of the past
 
  private:
   LineMemory& memory_;
@@ -57,6 +61,8 @@ int OffenceBandOf(World& world, const Worker& attacker);
 
 namespace modLamplighter {
 Blocks Offence();
+Blocks Memory();
+Blocks Beats();
 Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
@@ -65,6 +71,8 @@ Blocks Angles();
 
 namespace modTolland {
 Blocks Offence();
+Blocks Memory();
+Blocks Beats();
 Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
@@ -74,6 +82,8 @@ Blocks Verdicts();
 
 namespace modQVD {
 Blocks Offence();
+Blocks Memory();
+Blocks Beats();
 Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
@@ -83,5 +93,7 @@ Blocks Angles();
 /// The lines to draw from: the voice's, or those of the one voice that has the family for all.
 /// nullptr for a band that does not exist; the first voice stands in for an invalid number.
 const Block* BlockOf(int voice, Family family, int band);
+/// By which each of its lines is remembered (saidlines.h).
+std::span<const std::int32_t> KeysOf(int voice, Family family, int band);
 
 }  // namespace grapplemont

@@ -1,9 +1,11 @@
 #include "show/runsegment.h"
 
+#include <algorithm>
 #include <span>
 
 #include "report/report.h"
 #include "show/aftermatch.h"
+#include "show/holdshow.h"
 #include "show/matchscore.h"
 #include "show/overchange.h"
 #include "show/showfeuds.h"
@@ -32,9 +34,21 @@ void Do(Telling& telling) {
   Rule(telling.Run);
 }
 
+/// Nothing is booked behind this row.
+bool IsLastToCome(const World& world, int number, bool isEvent) {
+  const int last = LastRow(world, isEvent);
+  for (int row = number + 1; row <= last; ++row)
+    if (world.Segments()[row].Style != 0) return false;
+  return true;
+}
+
 void SetScene(Telling& telling) {
   for (const TurnCall& turn : BookedTurns(telling.Run.World, telling.Run.Segment))
     telling.Scene.Turners.push_back(turn.Turner);
+  const ShowRun& show = telling.Run.Show;
+  telling.Scene.Row = telling.Number;
+  telling.Scene.IsEvent = show.IsEvent;
+  telling.Scene.IsLast = IsLastToCome(telling.Run.World, telling.Number, show.IsEvent);
   if (!telling.AtStake) return;
   telling.Scene.Champion = telling.AtStake->Holder;
   telling.Scene.CoChampion = telling.AtStake->Partner;
@@ -45,9 +59,12 @@ void LookForChampion(Telling& telling) {
 }
 
 void WriteProse(Telling& telling) {
-  if (telling.Memory)
-    telling.Report =
-        WriteReport(telling.Run.World, telling.Run.Segment, telling.Scene, *telling.Memory);
+  if (!telling.Memory) return;
+  const int quality = telling.Run.Quality, crowd = telling.Run.Crowd;
+  telling.Scene.Crowd = std::clamp(crowd, 0, 100);
+  telling.Scene.Overall = std::clamp((quality + crowd) / 2, 0, 100);
+  telling.Report =
+      WriteReport(telling.Run.World, telling.Run.Segment, telling.Scene, *telling.Memory);
 }
 
 void LimitBoth(SegmentRun& run) {
@@ -57,7 +74,8 @@ void LimitBoth(SegmentRun& run) {
 
 void GiveVerdict(Telling& telling) {
   if (telling.Memory)
-    telling.Verdict = Verdict(telling.Run.World, telling.Run.Segment, telling.Run.Overall);
+    telling.Verdict =
+        Verdict(telling.Run.World, telling.Run.Segment, telling.Run.Overall, telling.Memory);
 }
 
 /// What opens an Event counts for nothing.

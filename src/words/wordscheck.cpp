@@ -185,9 +185,7 @@ class Reading {
   bool within_ = false;
 };
 
-}  // namespace
-
-std::string WhyNoLine(std::string_view text, const Heading& heading) {
+std::string WhyNotSaid(std::string_view text, const Heading& heading) {
   if (text.find("  ") != std::string_view::npos) return "two blanks in a row";
   if (heading.IsReport && HasSexedWord(text))
     return "write {a:himself}, with the letter of whoever it is: it goes by sex and number";
@@ -198,6 +196,17 @@ std::string WhyNoLine(std::string_view text, const Heading& heading) {
       text, [&](std::string_view words) { reading.Words(words); },
       [&](std::string_view slot) { reading.Slot(slot); });
   return reading.End();
+}
+
+}  // namespace
+
+/// Every way in which it can be said has to be sound.
+std::string WhyNoLine(std::string_view text, const Heading& heading) {
+  if (!heading.IsReport) return WhyNotSaid(text, heading);
+  std::string why = WhyNoWays(text);
+  for (int way = 0; why.empty() && way < WaysToSay(text); ++way)
+    why = WhyNotSaid(SaidIn(text, way), heading);
+  return why;
 }
 
 }  // namespace grapplemont
