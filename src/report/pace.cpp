@@ -18,8 +18,8 @@ constexpr int kPerHeat = 10, kPerOver = 4, kMostSwing = 40;
 constexpr int kBoutsToJudgeBy = 60;
 
 /// What a match has to matter for more than its row, and how its room grows from there.
-constexpr int kMattersFrom = 55, kRoomFrom = 42;
-constexpr double kRoomPerPoint = 1.1;
+constexpr int kMattersFrom = 55, kRoomFrom = 44;
+constexpr double kRoomPerPoint = 1.35;
 constexpr double kMostPerStep = 2, kLeastPerStep = 0.12;
 constexpr int kShort = 4;  // steps more that a row of few may have
 constexpr int kBig = 72, kHuge = 86;
@@ -71,8 +71,7 @@ int ImportanceOf(Teller& teller) {
                   [](const PastFact& fact) { return fact.Weight >= kOnceInACareer; }))
     points += kForCareer;
   if (scene.Overall != kUnrated)
-    points +=
-        std::clamp((scene.Overall - UsualRating(teller.world)) * 3 / 2, -kMostSwing, kMostSwing);
+    points += std::clamp((scene.Overall - UsualRating(teller.world)) * 2, -kMostSwing, kMostSwing);
   return std::clamp(points, 0, 100);
 }
 
