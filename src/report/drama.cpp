@@ -12,26 +12,27 @@ constexpr int kWorked = 2;  // moves on one limb
 
 }  // namespace
 
-void Drama::Before(char step) {
-  if (step == 'N' && falls_ > 0) teller_.Say(Family::Beat, kFallLead);
+bool Drama::Before(char step) {
   // Whoever suffers is about to turn it.
   const Person* defender = teller_.cast.First('d');
   if (step == '#') troubleBefore_ = defender ? defender->Trouble : 0;
+  return step == 'N' && falls_ > 0 && teller_.Say(Family::Beat, kFallLead);
 }
 
-void Drama::After(char step) {
+bool Drama::After(char step) {
   if (step == 'N' && ++falls_ > 1)
-    teller_.Say(Family::Beat, falls_ == 2 ? kFallReaction : kFallDoubt);
+    return teller_.Say(Family::Beat, falls_ == 2 ? kFallReaction : kFallDoubt);
   if (step == '#' && troubleBefore_ >= kDeep && !hasComeBack_) {
     hasComeBack_ = true;
-    teller_.Say(Family::Beat, kComeback);
+    return teller_.Say(Family::Beat, kComeback);
   }
   const Person* defender = teller_.cast.First('d');
   const bool isMove = step >= 'A' && step <= 'E';
   if (isMove && defender && defender->Trouble == kDeep && !hasBeenInTrouble_) {
     hasBeenInTrouble_ = true;
-    teller_.Say(Family::Beat, kInTrouble);
+    return teller_.Say(Family::Beat, kInTrouble);
   }
+  return false;
 }
 
 void TellLimb(Teller& teller) {

@@ -9,10 +9,10 @@ namespace grapplemont {
 class Drama {
  public:
   explicit Drama(Teller& teller) : teller_(teller) {}
-  /// Before a step is told, with its {a} and {d} set.
-  void Before(char step);
+  /// Before a step is told, with its {a} and {d} set. True when something was said.
+  bool Before(char step);
   /// Once it has been told.
-  void After(char step);
+  bool After(char step);
 
  private:
   Teller& teller_;

@@ -86,6 +86,10 @@ enum class Family {
   FeudEnding,
   PurposeEnding,
   Turn,
+  // Beside the row: what lies behind a match, and what comes of it; how it is going.
+  PastOpening,
+  PastEnding,
+  Interlude,
   // Talk and angles.
   TalkOpening,
   Speech,
@@ -169,6 +173,74 @@ enum PurposeTold {
   kPurposesTold
 };
 enum TurnTold { kTurnsHeel, kTurnsFace, kTurnsTweener, kBaffling, kTurnsTold };
+
+/// Bands of PastOpening. {F} is whom it is about, {S} the others.
+enum PastKind {
+  kMetFirst,
+  kMetLately,  // {F} won, {when}
+  kMetLongAgo,
+  kSeriesLevel,    // {count} wins each
+  kSeriesLed,      // {F} leads, {tally}
+  kMetTooOften,    // for the {nth} time in a year
+  kMetFiftyTimes,  // {nth}
+  kWinsInARow,     // {count}
+  kLossesInARow,
+  kReignLong,  // {F} champion for {count} days, {tally}
+  kReignNew,
+  kOnceChampion,   // {F} had the Title until {when}
+  kTitleAgain,     // {F} lost it to {S} {when}
+  kTitleNever,     // {F} has never had a match for a Title
+  kAwayLong,       // {F}, last seen {when}
+  kWasAttacked,    // {F} by {S}, {when}
+  kPartnerBeaten,  // {tally}, the partner of {F}, by {S}
+  kNewAtTheTop,    // {F}, in the {nth} match here
+  kLastMatch,
+  kThreatened,  // {F} threatened {S}
+  kSignedFor,
+  kManagerSpoke,  // {m} for {F}
+  kYearsBest,     // the two had one of the year's best {when}
+  kRoadHere       // a feud since {when}, {count} matches
+};
+/// Bands of PastEnding.
+enum PastOutcome {
+  kPaidBack,   // {F} wins what {S} began
+  kSameAgain,  // {F} beats {S} again
+  kRunGoesOn,
+  kRunEnds,  // of {F}, {count} wins
+  kSlumpEnds,
+  kSeriesTips,  // {F} is one ahead
+  kWordKept,
+  kWordEaten,  // by {F}, who spoke
+  kReignGrows,
+  kReignOver,  // of {F}, {count} days
+  kFirstCrown,
+  kCrownBack,
+  kEveryCrown,
+  kBackWithAWin,
+  kLastBow,
+  kFiftyDone,
+  kWentTooFar,    // {F} is badly hurt
+  kPerfectMatch,  // behind the rating
+};
+/// Bands of Interlude. {a} and {d} as in the step before.
+enum InterludeKind {
+  kWalkIn,
+  kTitleAir,
+  kFeeling,
+  kInControl,
+  kHurting,
+  kLoud,
+  kSplit,    // some like it, some do not
+  kDivided,  // one half for {a}, one for {d}
+  kQuiet,
+  kHope,
+  kDesperate,
+  kDoubt,
+  kLead,  // to a near fall
+  kGasp,  // behind it
+  kHeldBreath,
+  kAfterBell
+};
 
 /// Bands of Verdict: the highest Overall that each rates.
 inline constexpr int kVerdictsUpTo[] = {15, 20, 25, 30, 35, 40, 45, 50, 55, 60, 66,

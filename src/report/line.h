@@ -86,9 +86,23 @@ inline constexpr Sexed kSexed[] = {
 };
 
 /// What a report may hold beside its people.
-enum class Item { Title, Prize, No, Tally, Finisher, Promotion, Left, Turn, Feud };
-inline constexpr std::string_view kItems[] = {"title",     "prize", "no",   "tally", "finisher",
-                                              "promotion", "left",  "turn", "feud"};
+enum class Item {
+  Title,
+  Prize,
+  No,
+  Tally,
+  Finisher,
+  Promotion,
+  Left,
+  Turn,
+  Feud,
+  Count,
+  Nth,
+  When
+};
+inline constexpr std::string_view kItems[] = {"title",    "prize",     "no",   "tally",
+                                              "finisher", "promotion", "left", "turn",
+                                              "feud",     "count",     "nth",  "when"};
 
 struct Hole {
   enum Kind { Bad, Name, Full, Short, Members, Word, Thing, ThingWord, If, IfNot, End };

@@ -5,6 +5,7 @@
 #include "records/angles.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
+#include "report/past.h"
 #include "report/stages.h"
 
 namespace grapplemont {
@@ -26,6 +27,7 @@ void TellBout(Teller& teller, const BoutRow& bout) {
     case BoutShape::Duel:
     case BoutShape::Scramble:
       TellBody(teller, bout);
+      teller.Pace.HoldBreath(teller);
       teller.Paragraph();
       TellFinish(teller, bout);
   }
@@ -36,9 +38,13 @@ void TellMatch(Teller& teller) {
   if (!bout) return;
   teller.Counts = bout->Pinfall;
   TellOpening(teller);
+  TellPast(teller);
+  teller.Pace.Open(teller);
   teller.Paragraph();
   TellBout(teller, *bout);
   TellTitleEnding(teller);
+  TellPastEnding(teller);
+  teller.Pace.AfterBell(teller);
   teller.Paragraph();
   TellAftermath(teller);
 }
@@ -77,48 +83,44 @@ std::vector<Feud> FeudsAtTheBell(const World& world) {
   return feuds;
 }
 
-int LineMemory::Pick(Draws& draws, const void* band, const std::vector<bool>& fits) {
-  const int lines = static_cast<int>(fits.size());
-  const auto fitting = std::count(fits.begin(), fits.end(), true);
-  if (fitting == 0 || fitting == lines) return Pick(draws, band, lines);
+int LineMemory::Pick(Draws& draws, const void* band, std::vector<bool> fits,
+                     std::span<const int> days) {
+  if (std::count(fits.begin(), fits.end(), true) == 0) fits.flip();
   std::vector<bool>& used = used_[band];
   used.resize(fits.size());
-  std::vector<int> choice;
-  for (const bool again : {false, true}) {
-    for (std::size_t line = 0; line < fits.size(); ++line) {
-      if (again && fits[line]) used[line] = false;
-      if (fits[line] && !used[line]) choice.push_back(static_cast<int>(line));
-    }
-    if (!choice.empty()) break;
+  const auto isOpen = [&](std::size_t line) { return fits[line] && !used[line]; };
+  const auto longestOpen = [&] {
+    int longest = -1;
+    for (std::size_t line = 0; line < fits.size(); ++line)
+      if (isOpen(line)) longest = std::max(longest, days.empty() ? 0 : days[line]);
+    return longest;
+  };
+  int longest = longestOpen();
+  if (longest < 0) {
+    for (std::size_t line = 0; line < fits.size(); ++line)
+      if (fits[line]) used[line] = false;
+    longest = longestOpen();
   }
-  const int picked =
-      choice[static_cast<std::size_t>(draws.Draw(static_cast<int>(choice.size())) - 1)];
-  used[static_cast<std::size_t>(picked)] = true;
-  return picked;
+  const auto isFree = [&](std::size_t line) {
+    return isOpen(line) && (days.empty() || days[line] == longest);
+  };
+  auto picked = static_cast<std::size_t>(draws.Draw(static_cast<int>(fits.size())) - 1);
+  if (!isFree(picked)) {
+    std::vector<std::size_t> choice;
+    for (std::size_t line = 0; line < fits.size(); ++line)
+      if (isFree(line)) choice.push_back(line);
+    picked = choice[static_cast<std::size_t>(draws.Draw(static_cast<int>(choice.size())) - 1)];
+  }
+  used[picked] = true;
+  return static_cast<int>(picked);
 }
 
-int LineMemory::Pick(Draws& draws, const void* band, int lines) {
-  std::vector<bool>& used = used_[band];
-  used.resize(static_cast<std::size_t>(lines));
-  if (std::find(used.begin(), used.end(), false) == used.end())
-    used.assign(static_cast<std::size_t>(lines), false);
-  int picked = draws.Draw(lines) - 1;
-  if (used[static_cast<std::size_t>(picked)]) {
-    std::vector<int> unused;
-    for (int line = 0; line < lines; ++line)
-      if (!used[static_cast<std::size_t>(line)]) unused.push_back(line);
-    picked = unused[static_cast<std::size_t>(draws.Draw(static_cast<int>(unused.size())) - 1)];
-  }
-  used[static_cast<std::size_t>(picked)] = true;
-  return picked;
-}
-
-int LineMemory::PickFor(Draws& draws, const void* band, int lines, int speaker) {
+int LineMemory::PickFor(Draws& draws, const void* band, int speaker, std::span<const int> days) {
   std::vector<bool>& said = bySpeaker_[{band, speaker}];
-  said.resize(static_cast<std::size_t>(lines));
+  said.resize(days.size());
   std::vector<bool> fits = said;
   fits.flip();
-  const int picked = Pick(draws, band, fits);
+  const int picked = Pick(draws, band, std::move(fits), days);
   if (said[static_cast<std::size_t>(picked)]) said.assign(said.size(), false);
   said[static_cast<std::size_t>(picked)] = true;
   return picked;

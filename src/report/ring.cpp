@@ -132,15 +132,17 @@ void Ring::Play(std::string_view script, int spot, const Person* last, const Per
   Plan(script, last, under);
   Begin(script, plan_.back().Attacker, last);
   Begin(script, plan_.back().Defender, under);
+  Pace& pace = teller_.Pace;
+  pace.Begin(static_cast<int>(script.size()));
   Drama drama(teller_);
   for (std::size_t at = 0; at < script.size(); ++at) {
     attacker_ = plan_[at].Attacker;
     defender_ = plan_[at].Defender;
     Act();
     if (IsCount(script[at])) LayDown();
-    drama.Before(script[at]);
+    pace.Before(teller_, script[at], drama.Before(script[at]));
     Step(script, at, spot);
-    drama.After(script[at]);
+    pace.After(teller_, script[at], drama.After(script[at]));
   }
 }
 

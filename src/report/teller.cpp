@@ -46,7 +46,8 @@ bool Teller::Say(Family family, int band, unsigned wants) {
   std::vector<bool> fits = Fitting(*block, family, wants);
   if (wants != 0 && std::count(fits.begin(), fits.end(), true) == 0)
     fits = Fitting(*block, family, 0);
-  return SayLine(*block, family, memory_.Pick(world.Prose(), block, fits));
+  return SayLine(family, band,
+                 memory_.Pick(world.Prose(), block, std::move(fits), DaysUnsaid(family, band)));
 }
 
 bool Teller::SayNew(Family family, int band) {
@@ -56,21 +57,34 @@ bool Teller::SayNew(Family family, int band) {
   for (std::size_t line = 0; line < fits.size(); ++line)
     fits[line] = !memory_.Used(block, static_cast<int>(line));
   if (std::count(fits.begin(), fits.end(), true) == 0) return false;
-  return SayLine(*block, family, memory_.Pick(world.Prose(), block, fits));
+  return SayLine(family, band,
+                 memory_.Pick(world.Prose(), block, std::move(fits), DaysUnsaid(family, band)));
 }
 
 bool Teller::SayAs(char part, Family family, int band) {
   const Block* block = BlockOf(voice_, family, band);
   const Person* speaker = cast.First(part);
   if (!block || !speaker) return Say(family, band);
-  return SayLine(
-      *block, family,
-      memory_.PickFor(world.Prose(), block, static_cast<int>(block->Lines.size()), speaker->Uid));
+  return SayLine(family, band,
+                 memory_.PickFor(world.Prose(), block, speaker->Uid, DaysUnsaid(family, band)));
 }
 
-bool Teller::SayLine(const Block& block, Family family, int line) {
-  const TaggedLine read = ReadTags(block.Lines[static_cast<std::size_t>(line)]);
-  const bool isSaid = Fill(cast, read.Text, text_);
+std::vector<int> Teller::DaysUnsaid(Family family, int band) {
+  std::vector<int> days;
+  for (const std::int32_t key : KeysOf(voice_, family, band))
+    days.push_back(memory_.Said().DaysSince(world, key));
+  return days;
+}
+
+bool Teller::SayLine(Family family, int band, int line) {
+  const auto at = static_cast<std::size_t>(line);
+  const TaggedLine read = ReadTags(BlockOf(voice_, family, band)->Lines[at]);
+  const std::int32_t key = KeysOf(voice_, family, band)[at];
+  const int way = memory_.Said().Times(world, key);
+  memory_.Said().Say(world, key);
+  const bool hasWays = read.Text.find('[') != std::string_view::npos;
+  const bool isSaid =
+      hasWays ? Fill(cast, SaidIn(read.Text, way), text_) : Fill(cast, read.Text, text_);
   Move(family, read);
   return isSaid;
 }
@@ -199,23 +213,52 @@ int KnownVoice(int voice) {
 /// Every block of a voice by family and band.
 class Index {
  public:
-  explicit Index(std::initializer_list<Blocks> files) {
+  Index(int voice, std::initializer_list<Blocks> files) {
     for (const FamilyRow& row : AllFamilies())
       rows_[static_cast<std::size_t>(row.Of)].resize(static_cast<std::size_t>(row.Bands.Last) + 1);
     for (const Blocks blocks : files)
-      for (const Block& block : blocks)
-        rows_[static_cast<std::size_t>(block.Heading)][static_cast<std::size_t>(block.Band)] =
-            &block;
+      for (const Block& block : blocks) Add(voice, block);
   }
-  const Block* Find(Family family, int band) const {
+  struct Entry {
+    const Block* Lines = nullptr;
+    std::vector<std::int32_t> Keys = {};
+  };
+  const Entry& Find(Family family, int band) const {
+    static const Entry kNone;
     return RowOf(family).Has(band)
                ? rows_[static_cast<std::size_t>(family)][static_cast<std::size_t>(band)]
-               : nullptr;
+               : kNone;
   }
 
  private:
-  std::array<std::vector<const Block*>, kFamilies> rows_;
+  void Add(int voice, const Block& block) {
+    Entry& entry =
+        rows_[static_cast<std::size_t>(block.Heading)][static_cast<std::size_t>(block.Band)];
+    entry.Lines = &block;
+    for (const std::string_view line : block.Lines)
+      entry.Keys.push_back(LineKey(voice, ReadTags(line).Text));
+  }
+
+  std::array<std::vector<Entry>, kFamilies> rows_;
 };
+
+const Index::Entry& EntryOf(int voice, Family family, int band) {
+  static const std::array<Index, kVoiceCount> kIndex = {
+      Index{kLamplighter,
+            {modLamplighter::Offence(), modLamplighter::Bouts(), modLamplighter::Finishes(),
+             modLamplighter::Talk(), modLamplighter::Angles(), modLamplighter::Memory(),
+             modLamplighter::Beats()}},
+      Index{kTolland,
+            {modTolland::Offence(), modTolland::Bouts(), modTolland::Finishes(), modTolland::Talk(),
+             modTolland::Angles(), modTolland::Verdicts(), modTolland::Memory(),
+             modTolland::Beats()}},
+      Index{kQvd,
+            {modQVD::Offence(), modQVD::Bouts(), modQVD::Finishes(), modQVD::Talk(),
+             modQVD::Angles(), modQVD::Memory(), modQVD::Beats()}}};
+  const int only = RowOf(family).Only;
+  const int teller = only == kEveryVoice ? KnownVoice(voice) : only;
+  return kIndex[static_cast<std::size_t>(teller)].Find(family, band);
+}
 
 }  // namespace
 
@@ -224,28 +267,28 @@ std::string_view VoiceName(int voice) {
 }
 
 const Block* BlockOf(int voice, Family family, int band) {
-  static const std::array<Index, kVoiceCount> kIndex = {
-      Index{modLamplighter::Offence(), modLamplighter::Bouts(), modLamplighter::Finishes(),
-            modLamplighter::Talk(), modLamplighter::Angles()},
-      Index{modTolland::Offence(), modTolland::Bouts(), modTolland::Finishes(), modTolland::Talk(),
-            modTolland::Angles(), modTolland::Verdicts()},
-      Index{modQVD::Offence(), modQVD::Bouts(), modQVD::Finishes(), modQVD::Talk(),
-            modQVD::Angles()}};
-  const int only = RowOf(family).Only;
-  const int teller = only == kEveryVoice ? KnownVoice(voice) : only;
-  return kIndex[static_cast<std::size_t>(teller)].Find(family, band);
+  return EntryOf(voice, family, band).Lines;
 }
 
-std::string Verdict(World& world, const Segment& segment, int overall) {
+std::span<const std::int32_t> KeysOf(int voice, Family family, int band) {
+  return EntryOf(voice, family, band).Keys;
+}
+
+std::string Verdict(World& world, const Segment& segment, int overall, LineMemory* memory) {
   if (!world.HasGame() || world.Game().Reporter != kTolland || segment.Kind != kMatch) return {};
   if (segment.Style == kSpecial && segment.MatchType != kRoyalRumble)
     return std::string(BlockOf(kTolland, Family::NoVerdict, 0)->Lines[0]);
   const auto* last = std::end(kVerdictsUpTo) - 1;
   const auto band = std::lower_bound(std::begin(kVerdictsUpTo), last, overall);
-  const auto lines =
-      BlockOf(kTolland, Family::Verdict, static_cast<int>(band - kVerdictsUpTo))->Lines;
-  const int draw = world.Prose().Draw(static_cast<int>(lines.size()));
-  return std::string(lines[static_cast<std::size_t>(draw - 1)]);
+  const auto number = static_cast<int>(band - kVerdictsUpTo);
+  const auto lines = BlockOf(kTolland, Family::Verdict, number)->Lines;
+  const auto drawn =
+      static_cast<std::size_t>(world.Prose().Draw(static_cast<int>(lines.size())) - 1);
+  if (!memory) return SaidIn(lines[drawn], 0);
+  const std::int32_t key = KeysOf(kTolland, Family::Verdict, number)[drawn];
+  const int way = memory->Said().Times(world, key);
+  memory->Said().Say(world, key);
+  return SaidIn(lines[drawn], way);
 }
 
 }  // namespace grapplemont

@@ -7,6 +7,8 @@
 #include "report/cast.h"
 #include "report/family.h"
 #include "report/line.h"
+#include "report/pace.h"
+#include "report/past.h"
 #include "report/report.h"
 
 namespace grapplemont {
@@ -53,11 +55,14 @@ class Teller {
   Cast cast;
   Footing Under = Footing::Up;  // of {d}
   bool Counts = true;           // the bout may end in a count
+  grapplemont::Pace Pace;
+  std::vector<PastFact> Told;  // what has been said of the past
 
  private:
   bool Fits(const TaggedLine& line, Family family, unsigned wants) const;
   std::vector<bool> Fitting(const Block& block, Family family, unsigned wants) const;
-  bool SayLine(const Block& block, Family family, int line);
+  bool SayLine(Family family, int band, int line);
+  std::vector<int> DaysUnsaid(Family family, int band);
   void Move(Family family, const TaggedLine& line);
 
   LineMemory& memory_;
@@ -75,6 +80,8 @@ int OffenceBandOf(World& world, const Worker& attacker);
 
 namespace modLamplighter {
 Blocks Offence();
+Blocks Memory();
+Blocks Beats();
 Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
@@ -83,6 +90,8 @@ Blocks Angles();
 
 namespace modTolland {
 Blocks Offence();
+Blocks Memory();
+Blocks Beats();
 Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
@@ -92,6 +101,8 @@ Blocks Verdicts();
 
 namespace modQVD {
 Blocks Offence();
+Blocks Memory();
+Blocks Beats();
 Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
@@ -101,5 +112,7 @@ Blocks Angles();
 /// The lines to draw from: the voice's, or those of the one voice that has the family for all.
 /// nullptr for a band that does not exist; the first voice stands in for an invalid number.
 const Block* BlockOf(int voice, Family family, int band);
+/// By which each of its lines is remembered (saidlines.h).
+std::span<const std::int32_t> KeysOf(int voice, Family family, int band);
 
 }  // namespace grapplemont

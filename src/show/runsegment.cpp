@@ -5,6 +5,7 @@
 
 #include "report/report.h"
 #include "show/aftermatch.h"
+#include "show/holdshow.h"
 #include "show/matchscore.h"
 #include "show/overchange.h"
 #include "show/showfeuds.h"
@@ -33,8 +34,20 @@ void Do(Telling& telling) {
   Rule(telling.Run);
 }
 
+/// Nothing is booked behind this row.
+bool IsLastToCome(const World& world, int number, bool isEvent) {
+  const int last = LastRow(world, isEvent);
+  for (int row = number + 1; row <= last; ++row)
+    if (world.Segments()[row].Style != 0) return false;
+  return true;
+}
+
 void SetScene(Telling& telling) {
   telling.Scene.Feuds = FeudsAtTheBell(telling.Run.World);
+  const ShowRun& show = telling.Run.Show;
+  telling.Scene.Row = telling.Number;
+  telling.Scene.IsEvent = show.IsEvent;
+  telling.Scene.IsLast = IsLastToCome(telling.Run.World, telling.Number, show.IsEvent);
   if (!telling.AtStake) return;
   telling.Scene.Champion = telling.AtStake->Holder;
   telling.Scene.CoChampion = telling.AtStake->Partner;
@@ -74,7 +87,8 @@ void LimitBoth(SegmentRun& run) {
 
 void GiveVerdict(Telling& telling) {
   if (telling.Memory)
-    telling.Verdict = Verdict(telling.Run.World, telling.Run.Segment, telling.Run.Overall);
+    telling.Verdict =
+        Verdict(telling.Run.World, telling.Run.Segment, telling.Run.Overall, telling.Memory);
 }
 
 /// What opens an Event counts for nothing.

@@ -194,12 +194,7 @@ class Reading {
   bool within_ = false;
 };
 
-}  // namespace
-
-std::string WhyNoLine(std::string_view line, const Heading& heading) {
-  const TaggedLine read = heading.IsReport ? ReadTags(line) : TaggedLine{0, line};
-  const std::string_view text = read.Text;
-  if (!read.Sound) return "there is no such tag" + TagsKnown();
+std::string WhyNotSaid(std::string_view text, const Heading& heading) {
   if (text.find("  ") != std::string_view::npos) return "two blanks in a row";
   if (heading.IsReport && HasSexedWord(text))
     return "write {a:himself}, with the letter of whoever it is: it goes by sex and number";
@@ -210,6 +205,19 @@ std::string WhyNoLine(std::string_view line, const Heading& heading) {
       text, [&](std::string_view words) { reading.Words(words); },
       [&](std::string_view slot) { reading.Slot(slot); });
   return reading.End();
+}
+
+}  // namespace
+
+/// Every way in which it can be said has to be sound.
+std::string WhyNoLine(std::string_view line, const Heading& heading) {
+  if (!heading.IsReport) return WhyNotSaid(line, heading);
+  const TaggedLine read = ReadTags(line);
+  if (!read.Sound) return "there is no such tag" + TagsKnown();
+  std::string why = WhyNoWays(read.Text);
+  for (int way = 0; why.empty() && way < WaysToSay(read.Text); ++way)
+    why = WhyNotSaid(SaidIn(read.Text, way), heading);
+  return why;
 }
 
 }  // namespace grapplemont

@@ -22,7 +22,7 @@ using AllTables =
                Records<HeldMatch>, Records<MatchTally>, Records<TitleReign>, Records<ReportPart>,
                Records<YearAward>, Records<YearEnd>, Records<Deed>, Records<GuideState>,
                Records<WorkerMonths>, Records<MoodChange>, Records<KeptRow>, Records<ShowNote>,
-               Records<ReadMail>, Records<WorldKey>>;
+               Records<ReadMail>, Records<WorldKey>, Records<SaidLine>>;
 
 // What all files of the house would compile again and again is compiled once, in knownfiles.cpp.
 // clang-format off
@@ -32,7 +32,7 @@ using AllTables =
   OF(Feud) OF(Segment) OF(Incident) OF(ShowRun) OF(HistoryEntry) OF(HeldMatch) \
   OF(MatchTally) OF(TitleReign) OF(ReportPart) OF(YearAward) OF(YearEnd) OF(Deed) \
   OF(GuideState) OF(WorkerMonths) OF(MoodChange) OF(KeptRow) OF(ShowNote) OF(ReadMail) \
-  OF(WorldKey)
+  OF(WorldKey) OF(SaidLine)
 // clang-format on
 #define GM_ELSEWHERE(T) extern template class Records<T>;
 GM_EVERY_RECORD(GM_ELSEWHERE)

@@ -102,7 +102,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<KeptRow>("cards.csv", true),
           Kind<ShowNote>("mornings.csv", true),
           Kind<ReadMail>("mailread.csv", true),
-          Kind<WorldKey>("worldkeys.csv", true)};
+          Kind<WorldKey>("worldkeys.csv", true),
+          Kind<SaidLine>("said.csv", true)};
 }
 
 }  // namespace
