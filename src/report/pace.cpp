@@ -29,7 +29,8 @@ constexpr double kEarly = 0.3, kLate = 0.7;
 constexpr int kMostAtOnce = 2;
 /// Moves that make a momentum if no answer came, and moves that use somebody up.
 constexpr int kMomentum = 2, kSpent = 4;
-constexpr int kAlike = 8;  // of Over
+constexpr int kMostCrowds = 1;  // sentences about the hall in a match; one more in the greatest
+constexpr int kAlike = 8;       // of Over
 
 /// The mean rating of the player's last matches; the middle while there are few.
 int UsualRating(const World& world) {
@@ -89,6 +90,7 @@ int ImportanceOf(Teller& teller) {
 void Pace::Open(Teller& teller) {
   importance_ = ImportanceOf(teller);
   if (importance_ < kMattersFrom) return;
+  crowds_ = importance_ >= kHuge ? kMostCrowds + 1 : kMostCrowds;
   units_ = static_cast<int>((importance_ - kRoomFrom) * kRoomPerPoint);
   teller.Paragraph();
   Say(teller, kWalkIn);
@@ -111,6 +113,7 @@ void Pace::Begin(int steps) {
 void Pace::Say(Teller& teller, int beat) {
   teller.Say(Family::Interlude, beat);
   last_ = beat;
+  crowds_ -= beat >= kLoud && beat <= kQuiet;
 }
 
 void Pace::Before(Teller& teller, char step, bool isSaid) {
@@ -145,7 +148,7 @@ int Pace::CrowdBeat(Teller& teller) const {
   const Person *a = teller.cast.First('a'), *d = teller.cast.First('d');
   const Worker* one = a ? teller.world.FindWorker(a->Uid) : nullptr;
   const Worker* two = d ? teller.world.FindWorker(d->Uid) : nullptr;
-  if (one && two && AreLikedAlike(*one, *two) && last_ != kDivided) return kDivided;
+  if (one && two && AreLikedAlike(*one, *two) && crowds_ == kMostCrowds) return kDivided;
   return crowd >= kLoudCrowd ? kLoud : kSplit;
 }
 
@@ -158,7 +161,7 @@ int Pace::Choose(Teller& teller, char step) const {
   const bool isHard = kHard.find(step) != std::string_view::npos, isTurned = step == '#';
   const bool isFree = teller.Under != Footing::Held, isLate = part > kLate;
   Beats fits;
-  if (const int beat = CrowdBeat(teller); beat >= 0) fits.push_back(beat);
+  if (const int beat = CrowdBeat(teller); beat >= 0 && crowds_ > 0) fits.push_back(beat);
   if (part < kEarly && !isHard) fits.push_back(kFeeling);
   if (isTurned && a && a->Trouble >= kMomentum && !isLate) fits.push_back(kHope);
   if (!isTurned && d && d->Trouble >= kMomentum) fits.push_back(kInControl);

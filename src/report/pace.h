@@ -37,7 +37,8 @@ class Pace {
   int steps_ = 0, at_ = 0;  // of the row, and how many are through
   double rate_ = 0, due_ = 0;
   int last_ = -1;
-  int falls_ = 0;  // near falls of the row so far
+  int falls_ = 0;   // near falls of the row so far
+  int crowds_ = 0;  // sentences about the hall still to come
 };
 
 }  // namespace grapplemont
