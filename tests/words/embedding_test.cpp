@@ -74,7 +74,7 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
   const std::string heading = "== TalkOpening, SingleTalk\n", same = "{T} backstage. Mic on.";
   std::string lines = heading;
   for (const auto& row : rows) lines += std::string(row.Line) + "\n";
-  const int first = Replace("qvd/talk.txt", heading, lines + same + "\n") + 1;
+  const int first = Replace("qvd/talk.txt", heading, lines + same + "\n" + same + "\n") + 1;
   std::vector<std::string> expected = {
       At("qvd/bouts.txt", Replace("qvd/bouts.txt", "{w} gets", "{l} wins, {w} gets")) +
       "{l} or {L} has lost, and wins here"};
