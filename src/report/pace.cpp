@@ -1,6 +1,7 @@
 #include "report/pace.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <vector>
 
@@ -13,33 +14,44 @@ namespace grapplemont {
 namespace {
 
 constexpr int kMiddle = 50;
-constexpr int kForLast = 14, kForTitle = 10, kForEvent = 5, kForCareer = 15;
-constexpr int kPerHeat = 10, kPerOver = 4, kMostSwing = 40;
-constexpr int kBoutsToJudgeBy = 60;
+constexpr int kForLast = 9, kForTitle = 8, kForEvent = 4, kForCareer = 12;
+constexpr int kPerHeat = 12, kPerOver = 6;
+constexpr double kPerSpread = 21, kMostSpreads = 2, kLeastSpread = 4;
+constexpr int kBoutsToJudgeBy = 60, kFewBouts = 5;
 
 /// What a match has to matter for more than its row, and how its room grows from there.
-constexpr int kMattersFrom = 55, kRoomFrom = 44;
-constexpr double kRoomPerPoint = 1.35;
-constexpr double kMostPerStep = 2, kLeastPerStep = 0.12;
-constexpr int kShort = 4;  // steps more that a row of few may have
+constexpr int kMattersFrom = 54, kRoomFrom = 46;
+constexpr double kRoomPerPoint = 1.5;
+constexpr double kMostPerStep = 2, kLeastPerStep = 0.05;
+constexpr double kPerStepAndPoint = 0.02;  // what a row of many gets at least
+constexpr int kShort = 9;                  // steps more that a row of few may have
 constexpr int kBig = 72, kHuge = 86;
 
 constexpr int kLoudCrowd = 65, kSplitCrowd = 40;
 constexpr double kEarly = 0.3, kLate = 0.7;
-constexpr int kMostAtOnce = 2;
+constexpr int kMostAtOnce = 3;
 /// Moves that make a momentum if no answer came, and moves that use somebody up.
 constexpr int kMomentum = 2, kSpent = 4;
 constexpr int kMostCrowds = 1;  // sentences about the hall in a match; one more in the greatest
 constexpr int kAlike = 8;       // of Over
 
-/// The mean rating of the player's last matches; the middle while there are few.
-int UsualRating(const World& world) {
+/// How the player's last matches were rated; the middle of everything while there are few.
+struct Usual {
+  double Mean = kMiddle, Spread = 10;
+};
+Usual UsualRating(const World& world) {
   const auto& bouts = world.Bouts();
   const int first = std::max(1, bouts.Count() - kBoutsToJudgeBy + 1);
-  if (bouts.Count() - first < 5) return kMiddle;
-  int sum = 0;
-  for (int number = first; number <= bouts.Count(); ++number) sum += bouts[number].Rating;
-  return sum / (bouts.Count() - first + 1);
+  const int count = bouts.Count() - first + 1;
+  if (count < kFewBouts) return {};
+  double sum = 0, squares = 0;
+  for (int number = first; number <= bouts.Count(); ++number) {
+    const double rating = bouts[number].Rating;
+    sum += rating;
+    squares += rating * rating;
+  }
+  const double mean = sum / count;
+  return {mean, std::max(kLeastSpread, std::sqrt(std::max(0.0, squares / count - mean * mean)))};
 }
 
 /// How far the people of a match stand above the roster's mean.
@@ -82,8 +94,11 @@ int ImportanceOf(Teller& teller) {
   if (std::any_of(teller.Told.begin(), teller.Told.end(),
                   [](const PastFact& fact) { return fact.Weight >= kOnceInACareer; }))
     points += kForCareer;
-  if (scene.Overall != kUnrated)
-    points += std::clamp((scene.Overall - UsualRating(teller.world)) * 2, -kMostSwing, kMostSwing);
+  if (scene.Overall != kUnrated) {
+    const Usual usual = UsualRating(teller.world);
+    const double above = (scene.Overall - usual.Mean) / usual.Spread;
+    points += static_cast<int>(std::clamp(above, -kMostSpreads, kMostSpreads) * kPerSpread);
+  }
   return std::clamp(points, 0, 100);
 }
 
@@ -106,7 +121,8 @@ void Pace::Begin(int steps) {
   due_ = 0;
   if (!Matters()) return;
   const double most = kMostPerStep + static_cast<double>(kShort) / steps_;
-  rate_ = std::clamp(static_cast<double>(units_ - steps_) / steps_, kLeastPerStep, most);
+  const double least = kLeastPerStep + (importance_ - kRoomFrom) * kPerStepAndPoint;
+  rate_ = std::clamp(static_cast<double>(units_ - steps_) / steps_, least, std::max(least, most));
   units_ = std::max(1, units_ - static_cast<int>(steps_ * (1 + rate_)));
 }
 
