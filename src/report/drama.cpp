@@ -16,10 +16,12 @@ bool Drama::Before(char step) {
   // Whoever suffers is about to turn it.
   const Person* defender = teller_.cast.First('d');
   if (step == '#') troubleBefore_ = defender ? defender->Trouble : 0;
-  return step == 'N' && falls_ > 0 && teller_.Say(Family::Beat, kFallLead);
+  return step == 'N' && falls_ > 0 && !teller_.Pace.SaysLittle() &&
+         teller_.Say(Family::Beat, kFallLead);
 }
 
 bool Drama::After(char step) {
+  if (teller_.Pace.SaysLittle()) return false;
   if (step == 'N' && ++falls_ > 1)
     return teller_.Say(Family::Beat, falls_ == 2 ? kFallReaction : kFallDoubt);
   if (step == '#' && troubleBefore_ >= kDeep && !hasComeBack_) {

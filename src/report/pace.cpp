@@ -14,22 +14,21 @@ namespace grapplemont {
 namespace {
 
 constexpr int kMiddle = 50;
-constexpr int kForLast = 9, kForTitle = 8, kForEvent = 4, kForCareer = 12;
+constexpr int kForLast = 7, kForTitle = 6, kForEvent = 3, kForCareer = 10;
 constexpr int kPerHeat = 12, kPerOver = 6;
-constexpr double kPerSpread = 21, kMostSpreads = 2, kLeastSpread = 4;
+constexpr double kPerSpread = 24, kMostSpreads = 2, kLeastSpread = 4;
 constexpr int kBoutsToJudgeBy = 60, kFewBouts = 5;
 
 /// What a match has to matter for more than its row, and how its room grows from there.
-constexpr int kMattersFrom = 54, kRoomFrom = 46;
-constexpr double kRoomPerPoint = 1.5;
-constexpr double kMostPerStep = 2, kLeastPerStep = 0.05;
-constexpr double kPerStepAndPoint = 0.02;  // what a row of many gets at least
-constexpr int kShort = 9;                  // steps more that a row of few may have
+constexpr int kMattersFrom = 54, kRoomFrom = 46, kSaysLittle = 48;
+constexpr double kRoomPerPoint = 1.9;
+constexpr double kMostPerStep = 3, kLeastPerStep = 0.05;
+constexpr int kShort = 9;  // steps more that a row of few may have
 constexpr int kBig = 72, kHuge = 86;
 
 constexpr int kLoudCrowd = 65, kSplitCrowd = 40;
 constexpr double kEarly = 0.3, kLate = 0.7;
-constexpr int kMostAtOnce = 3;
+constexpr int kMostAtOnce = 3, kMostOfAKind = 4;
 /// Moves that make a momentum if no answer came, and moves that use somebody up.
 constexpr int kMomentum = 2, kSpent = 4;
 constexpr int kMostCrowds = 1;  // sentences about the hall in a match; one more in the greatest
@@ -121,14 +120,14 @@ void Pace::Begin(int steps) {
   due_ = 0;
   if (!Matters()) return;
   const double most = kMostPerStep + static_cast<double>(kShort) / steps_;
-  const double least = kLeastPerStep + (importance_ - kRoomFrom) * kPerStepAndPoint;
-  rate_ = std::clamp(static_cast<double>(units_ - steps_) / steps_, least, std::max(least, most));
+  rate_ = std::clamp(static_cast<double>(units_ - steps_) / steps_, kLeastPerStep, most);
   units_ = std::max(1, units_ - static_cast<int>(steps_ * (1 + rate_)));
 }
 
 void Pace::Say(Teller& teller, int beat) {
   teller.Say(Family::Interlude, beat);
   last_ = beat;
+  ++told_[static_cast<std::size_t>(beat)];
   crowds_ -= beat >= kLoud && beat <= kQuiet;
 }
 
@@ -186,7 +185,16 @@ int Pace::Choose(Teller& teller, char step) const {
   if (isLate && !isTurned && isFree && a && d && std::min(a->Taken, d->Taken) >= kMomentum)
     fits.push_back(kDoubt);
   std::erase(fits, last_);
+  // What the match has said least of comes first, and nothing over and over.
+  int least = kMostOfAKind;
+  const auto told = [&](int beat) { return told_[static_cast<std::size_t>(beat)]; };
+  for (const int beat : fits) least = std::min(least, told(beat));
+  std::erase_if(fits, [&](int beat) { return told(beat) > least || told(beat) >= kMostOfAKind; });
   return fits.empty() ? -1 : teller.OneOf(fits);
+}
+
+bool Pace::SaysLittle() const {
+  return importance_ < kSaysLittle;
 }
 
 void Pace::HoldBreath(Teller& teller) {

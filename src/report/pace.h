@@ -1,5 +1,9 @@
 #pragma once
 
+#include <array>
+
+#include "report/family.h"
+
 namespace grapplemont {
 
 class Teller;
@@ -24,6 +28,8 @@ class Pace {
   void HoldBreath(Teller& teller);
   /// Behind the result.
   void AfterBell(Teller& teller);
+  /// The match is worth less than usual: nothing is said beside its row.
+  bool SaysLittle() const;
 
  private:
   /// The match has sentences of its own between its steps.
@@ -37,8 +43,9 @@ class Pace {
   int steps_ = 0, at_ = 0;  // of the row, and how many are through
   double rate_ = 0, due_ = 0;
   int last_ = -1;
-  int falls_ = 0;   // near falls of the row so far
-  int crowds_ = 0;  // sentences about the hall still to come
+  int falls_ = 0;                              // near falls of the row so far
+  std::array<int, kAfterBell + 1> told_ = {};  // how often each kind has been said
+  int crowds_ = 0;                             // sentences about the hall still to come
 };
 
 }  // namespace grapplemont
