@@ -43,11 +43,11 @@ Teller::Teller(World& w, const Segment& s, const Scene& sc, LineMemory& memory)
 bool Teller::Say(Family family, int band, unsigned wants) {
   const Block* block = BlockOf(voice_, family, band);
   if (!block) return false;
-  std::vector<bool> fits = Fitting(*block, family, wants);
+  std::vector<bool> fits = Fitting(family, band, wants);
   if (wants != 0 && std::count(fits.begin(), fits.end(), true) == 0)
-    fits = Fitting(*block, family, 0);
-  return SayLine(family, band,
-                 memory_.Pick(world.Prose(), block, std::move(fits), DaysUnsaid(family, band)));
+    fits = Fitting(family, band, 0);
+  const std::vector<int> days = DaysUnsaid(family, band, fits);
+  return SayLine(family, band, memory_.Pick(world.Prose(), block, std::move(fits), days));
 }
 
 bool Teller::SayNew(Family family, int band) {
@@ -57,28 +57,30 @@ bool Teller::SayNew(Family family, int band) {
   for (std::size_t line = 0; line < fits.size(); ++line)
     fits[line] = !memory_.Used(block, static_cast<int>(line));
   if (std::count(fits.begin(), fits.end(), true) == 0) return false;
-  return SayLine(family, band,
-                 memory_.Pick(world.Prose(), block, std::move(fits), DaysUnsaid(family, band)));
+  const std::vector<int> days = DaysUnsaid(family, band, fits);
+  return SayLine(family, band, memory_.Pick(world.Prose(), block, std::move(fits), days));
 }
 
 bool Teller::SayAs(char part, Family family, int band) {
   const Block* block = BlockOf(voice_, family, band);
   const Person* speaker = cast.First(part);
   if (!block || !speaker) return Say(family, band);
-  return SayLine(family, band,
-                 memory_.PickFor(world.Prose(), block, speaker->Uid, DaysUnsaid(family, band)));
+  const std::vector<int> days =
+      DaysUnsaid(family, band, std::vector<bool>(block->Lines.size(), true));
+  return SayLine(family, band, memory_.PickFor(world.Prose(), block, speaker->Uid, days));
 }
 
-std::vector<int> Teller::DaysUnsaid(Family family, int band) {
-  std::vector<int> days;
-  for (const std::int32_t key : KeysOf(voice_, family, band))
-    days.push_back(memory_.Said().DaysSince(world, key));
+std::vector<int> Teller::DaysUnsaid(Family family, int band, const std::vector<bool>& of) {
+  const auto keys = KeysOf(voice_, family, band);
+  std::vector<int> days(keys.size());
+  for (std::size_t line = 0; line < keys.size(); ++line)
+    if (of[line]) days[line] = memory_.Said().DaysSince(world, keys[line]);
   return days;
 }
 
 bool Teller::SayLine(Family family, int band, int line) {
   const auto at = static_cast<std::size_t>(line);
-  const TaggedLine read = ReadTags(BlockOf(voice_, family, band)->Lines[at]);
+  const TaggedLine& read = ReadLinesOf(voice_, family, band)[at];
   const std::int32_t key = KeysOf(voice_, family, band)[at];
   const int way = memory_.Said().Times(world, key);
   memory_.Said().Say(world, key);
@@ -113,10 +115,10 @@ bool LeadsOutOfHolds(Family family) {
 
 }  // namespace
 
-std::vector<bool> Teller::Fitting(const Block& block, Family family, unsigned wants) const {
+std::vector<bool> Teller::Fitting(Family family, int band, unsigned wants) const {
   std::vector<bool> fits;
-  for (const std::string_view line : block.Lines)
-    fits.push_back(Fits(ReadTags(line), family, wants));
+  for (const TaggedLine& line : ReadLinesOf(voice_, family, band))
+    fits.push_back(Fits(line, family, wants));
   return fits;
 }
 
@@ -222,6 +224,7 @@ class Index {
   struct Entry {
     const Block* Lines = nullptr;
     std::vector<std::int32_t> Keys = {};
+    std::vector<TaggedLine> Read = {};
   };
   const Entry& Find(Family family, int band) const {
     static const Entry kNone;
@@ -235,8 +238,10 @@ class Index {
     Entry& entry =
         rows_[static_cast<std::size_t>(block.Heading)][static_cast<std::size_t>(block.Band)];
     entry.Lines = &block;
-    for (const std::string_view line : block.Lines)
-      entry.Keys.push_back(LineKey(voice, ReadTags(line).Text));
+    for (const std::string_view line : block.Lines) {
+      entry.Read.push_back(ReadTags(line));
+      entry.Keys.push_back(LineKey(voice, entry.Read.back().Text));
+    }
   }
 
   std::array<std::vector<Entry>, kFamilies> rows_;
@@ -272,6 +277,10 @@ const Block* BlockOf(int voice, Family family, int band) {
 
 std::span<const std::int32_t> KeysOf(int voice, Family family, int band) {
   return EntryOf(voice, family, band).Keys;
+}
+
+std::span<const TaggedLine> ReadLinesOf(int voice, Family family, int band) {
+  return EntryOf(voice, family, band).Read;
 }
 
 std::string Verdict(World& world, const Segment& segment, int overall, LineMemory* memory) {

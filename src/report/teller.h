@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -60,9 +61,10 @@ class Teller {
 
  private:
   bool Fits(const TaggedLine& line, Family family, unsigned wants) const;
-  std::vector<bool> Fitting(const Block& block, Family family, unsigned wants) const;
+  std::vector<bool> Fitting(Family family, int band, unsigned wants) const;
   bool SayLine(Family family, int band, int line);
-  std::vector<int> DaysUnsaid(Family family, int band);
+  /// For each line that `of` holds true.
+  std::vector<int> DaysUnsaid(Family family, int band, const std::vector<bool>& of);
   void Move(Family family, const TaggedLine& line);
 
   LineMemory& memory_;
@@ -114,5 +116,7 @@ Blocks Angles();
 const Block* BlockOf(int voice, Family family, int band);
 /// By which each of its lines is remembered (saidlines.h).
 std::span<const std::int32_t> KeysOf(int voice, Family family, int band);
+/// Each of them, apart from its tags.
+std::span<const TaggedLine> ReadLinesOf(int voice, Family family, int band);
 
 }  // namespace grapplemont
