@@ -86,7 +86,7 @@ TEST(Verdict, IsTheSecondVoicesOnMatchesByTheBandOfTheRating) {
       {kTolland, kMatch, kSingles, 1, 15, 2, 1, "MY EYES! MY EYES!"},
       {kTolland, kMatch, kSingles, 1, 16, 3, 1,
        "That gets a well-earned FIVE GIANT red-hot pokers"},
-      {kTolland, kMatch, kSingles, 1, 80, 3, 3, "*** rating. I put my pen down for a while"},
+      {kTolland, kMatch, kSingles, 1, 80, 3, 3, "*** rating: I put my pen down for a while"},
       {kTolland, kMatch, kSpecial, kRoyalRumble, 100, 3, 1, "Awesome, Match Of All Time Candidate"},
       {kTolland, kMatch, kSpecial, kTenMan, 100, 0, 0, "I don't rate battle royals. "},
       {kQvd, kMatch, kSingles, 1, 70, 0, 0, ""},
