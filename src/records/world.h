@@ -95,6 +95,9 @@ class World {
   /// The words of the last shows, in no order.
   Records<ReportPart>& Reports() { return Of<ReportPart>(); }
   const Records<ReportPart>& Reports() const { return Of<ReportPart>(); }
+  /// When the reports' lines were last said.
+  Records<SaidLine>& Said() { return Of<SaidLine>(); }
+  const Records<SaidLine>& Said() const { return Of<SaidLine>(); }
   Records<YearAward>& Awards() { return Of<YearAward>(); }
   const Records<YearAward>& Awards() const { return Of<YearAward>(); }
   Records<YearEnd>& YearEnds() { return Of<YearEnd>(); }

@@ -2,6 +2,7 @@
 
 #include "records/modWresCheck.h"
 #include "records/segments.h"
+#include "report/drama.h"
 #include "report/stages.h"
 
 namespace grapplemont {
@@ -81,6 +82,7 @@ void Decide(Teller& teller, const BoutRow& bout, bool byHold) {
 
 void TellSmallFinish(Teller& teller, const BoutRow& bout) {
   const int finish = FinishCode(teller);
+  if (bout.Style == kSingles && finish == kClean) TellLimb(teller);
   teller.Say(bout.Style == kSingles ? Family::SinglesFinish : Family::TagFinish, finish);
   if (finish == kDoubleDq) teller.Say(Family::DoubleDq);
   if (IsDrawCode(finish) || EndsWithoutFall(finish)) return;
@@ -91,10 +93,13 @@ void TellSmallFinish(Teller& teller, const BoutRow& bout) {
 Person* MateOf(Teller& teller, int uid) {
   for (const auto& side : SidesOf(teller.segment)) {
     if (std::find(side.begin(), side.end(), uid) == side.end()) continue;
+    Person* out = nullptr;  // nobody who is still in is passed over for them
     for (const int mate : side)
-      if (Person* person = mate == uid ? nullptr : teller.cast.Find(teller.world, mate))
-        return person;
-    return nullptr;
+      if (Person* person = mate == uid ? nullptr : teller.cast.Find(teller.world, mate)) {
+        if (!person->IsOut) return person;
+        if (!out) out = person;
+      }
+    return out;
   }
   return nullptr;
 }
@@ -113,7 +118,10 @@ void TellTurnFinish(Teller& teller, const BoutRow& bout, int turner) {
       SideOf(teller.segment, turner) == SideOf(teller.segment, teller.segment.Winner);
   const Person* loser = cast.First('l');
   const bool isLoser = loser && loser->Uid == turner;
-  if (!isWinning) teller.Say(isLoser ? Family::TurnWalksOut : Family::TurnCosts);
+  const bool isBack = cast.First('t')->IsOut;
+  if (cast.First('v') && cast.First('v')->IsOut && !isWinning) cast.Set('v', nullptr);
+  if (!isWinning)
+    teller.Say(isLoser ? Family::TurnWalksOut : isBack ? Family::TurnReturns : Family::TurnCosts);
   Decide(teller, bout, isWinning && TellFinisher(teller));
   if (!isWinning) return;
   teller.Paragraph();
@@ -193,6 +201,8 @@ void TellIronMan(Teller& teller, const BoutRow& bout) {
 }
 
 void TellFinish(Teller& teller, const BoutRow& bout) {
+  if (teller.cast.First('w') && teller.cast.First('l'))
+    teller.Act(teller.cast.First('w'), teller.cast.First('l'));
   if (bout.Style == kSingles || bout.Style == kTag) return TellSmallFinish(teller, bout);
   if (bout.Style == kThreeOnThree || bout.Style == kFourOnFour)
     return TellLargeFinish(teller, bout);

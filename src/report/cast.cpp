@@ -223,6 +223,9 @@ class Filler {
       if (text[i] == '\'' && lastWasName_ && out_.ends_with('s') && text.substr(i, 2) == "'s") {
         out_ += '\'';
         ++i;
+      } else if (text[i] == '.' && lastWasName_ && out_.ends_with('.') &&
+                 text.substr(i, 2) != "..") {
+        namesStop_ = 0;  // a name's own stop ends the sentence as well
       } else {
         out_ += text[i];
       }
@@ -235,6 +238,7 @@ class Filler {
   /// end nothing.
   bool AtSentenceEnd() const {
     std::size_t at = out_.size() - 1;
+    if (at == namesStop_) return false;
     while (at > sentence_ && (out_[at - 1] == '"' || out_[at - 1] == ')')) --at;
     if (at <= sentence_) return false;
     const char last = out_[at - 1];
@@ -282,6 +286,7 @@ class Filler {
       out_ += cast_.WordOf(hole.Part, hole.Number);
     else
       out_ += cast_.NameOf(hole.Part, hole.Is);
+    if (out_.ends_with('.')) namesStop_ = out_.size();
     lastWasName_ = hole.Is != Hole::Word && hole.Is != Hole::Thing && hole.Is != Hole::ThingWord;
     if (BeginsSentence(at) && at < out_.size() && out_[at] >= 'a' && out_[at] <= 'z')
       out_[at] = static_cast<char>(out_[at] - 32);
@@ -296,6 +301,7 @@ class Filler {
   Cast& cast_;
   std::string& out_;
   std::size_t sentence_;
+  std::size_t namesStop_ = 0;  // behind a name that ends in a stop, which ends no sentence
   bool hidden_ = false, broken_ = false, lastWasName_ = false;
 };
 

@@ -35,6 +35,10 @@ struct Person {
   bool IsMan = true;
   bool NeedsFull = false;  // another one has the same short name
   int Mentions = 0;
+  bool IsOut = false;  // eliminated
+  int Taken = 0;       // moves in the bout so far
+  int Trouble = 0;     // of those, since they had the upper hand or made a tag
+  int Limbs[3] = {};   // of those, on a leg, on an arm, on the back
 };
 
 /// One part: nobody, a person, or several, who may have a name of their own.

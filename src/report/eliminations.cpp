@@ -81,13 +81,20 @@ void TellEliminations(Teller& teller, const BoutRow& bout) {
 void TellSurvivor(Teller& teller, const BoutRow& bout) {
   Ring ring(teller);
   Person* winner = teller.cast.First('w');
-  const auto out = Booked(teller, ring, winner);
+  auto out = Booked(teller, ring, winner);
+  // With the last of the losing side the match is over, whoever is booked behind them.
+  const auto isBeaten = [&](const Person* person) {
+    return winner && SideOf(teller.segment, person->Uid) != SideOf(teller.segment, winner->Uid);
+  };
+  if (const auto last = std::find_if(out.rbegin(), out.rend(), isBeaten); last != out.rend())
+    std::rotate(last.base() - 1, last.base(), out.end());
   for (Person* person : out) {
     const auto rivals = ring.Against(person);
     const bool isLast = person == out.back();
     const bool byWinner = isLast && std::find(rivals.begin(), rivals.end(), winner) != rivals.end();
     PlayOut(teller, ring, bout, person, byWinner ? winner : nullptr);
     if (!isLast) teller.Say(Family::SurvivorOut);
+    person->IsOut = !isLast;
     ring.Remove(person);
     teller.Paragraph();
   }

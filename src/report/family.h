@@ -36,6 +36,7 @@ enum class Family {
   ThreeCount,
   TapOut,
   PinNoRef,
+  PutDown,  // {a} gets {d} to the mat, who stood or was held until then
   RefBump,
   TagOut,      // {a} tags {b}
   DoubleTeam,  // {a} and {b} on {d}
@@ -53,16 +54,19 @@ enum class Family {
   EliminatedOne,   // {a} eliminates {d}
   EliminatedTeam,  // {a} pins {d}, and {X} leave
   SurvivorOut,     // {a} eliminates {d}
+  TurnReturns,     // {t}, who was out, comes back to see to it that {w} beats {l}
   Survivors,       // {Z} are left
   RumbleStart,     // {a} and {d} are the first two
   RumbleEntry,     // {a} enters as {no}
   EliminationTry,  // {a} nearly eliminates {d}
   Elimination,     // {a} eliminates {d}, {no}
   LastTwo,         // {w} and {l} are left
+  Beat,            // what a match has come to, between its steps
   // Around the bout.
   Opening,  // by style and type
   TitleOpening,
   FeudOpening,
+  FeudPartners,  // {F} and {S} have a feud, and stand on one side
   DebutOpening,
   ChampionNote,
   Closer,  // by style and type
@@ -82,9 +86,14 @@ enum class Family {
   FeudEnding,
   PurposeEnding,
   Turn,
+  // Beside the row: what lies behind a match, and what comes of it; how it is going.
+  PastOpening,
+  PastEnding,
+  Interlude,
   // Talk and angles.
   TalkOpening,
   Speech,
+  SpeechAgain,  // {T} has nothing to add to what the show has heard
   TalkClosing,
   AngleText,
   // The second reporter's ratings.
@@ -129,6 +138,19 @@ enum Stipulation {
   kTlcSpot
 };
 
+/// Bands of Beat. Its lines go by the crowd's rating.
+enum BeatTold {
+  kComeback,   // {a} has turned it, who had taken a good deal
+  kInTrouble,  // {d} has taken a good deal
+  kFallLead,   // {a} covers {d} once more
+  kFallReaction,
+  kFallDoubt,  // behind the third near fall and later
+  kLegGoes,    // the leg of {d} that {a} has worked on
+  kArmGoes,
+  kBackGoes,
+  kBeats
+};
+
 /// Bands of TitleOpening, TitleEnding, FeudOpening, FeudEnding, PurposeEnding, Turn.
 enum TitleStake { kDefended, kVacant, kChampionAway, kTitleStakes };
 enum TitleOutcome {
@@ -150,7 +172,75 @@ enum PurposeTold {
   kRunInDebutTold,
   kPurposesTold
 };
-enum TurnTold { kTurnsHeel, kTurnsFace, kTweenerTurns, kBaffling, kTurnsTold };
+enum TurnTold { kTurnsHeel, kTurnsFace, kTurnsTweener, kBaffling, kTurnsTold };
+
+/// Bands of PastOpening. {F} is whom it is about, {S} the others.
+enum PastKind {
+  kMetFirst,
+  kMetLately,  // {F} won, {when}
+  kMetLongAgo,
+  kSeriesLevel,    // {count} wins each
+  kSeriesLed,      // {F} leads, {tally}
+  kMetTooOften,    // for the {nth} time in a year
+  kMetFiftyTimes,  // {nth}
+  kWinsInARow,     // {count}
+  kLossesInARow,
+  kReignLong,  // {F} champion for {count} days, {tally}
+  kReignNew,
+  kOnceChampion,   // {F} had the Title until {when}
+  kTitleAgain,     // {F} lost it to {S} {when}
+  kTitleNever,     // {F} has never had a match for a Title
+  kAwayLong,       // {F}, last seen {when}
+  kWasAttacked,    // {F} by {S}, {when}
+  kPartnerBeaten,  // {tally}, the partner of {F}, by {S}
+  kNewAtTheTop,    // {F}, in the {nth} match here
+  kLastMatch,
+  kThreatened,  // {F} threatened {S}
+  kSignedFor,
+  kManagerSpoke,  // {m} for {F}
+  kYearsBest,     // the two had one of the year's best {when}
+  kRoadHere       // a feud since {when}, {count} matches
+};
+/// Bands of PastEnding.
+enum PastOutcome {
+  kPaidBack,   // {F} wins what {S} began
+  kSameAgain,  // {F} beats {S} again
+  kRunGoesOn,
+  kRunEnds,  // of {F}, {count} wins
+  kSlumpEnds,
+  kSeriesTips,  // {F} is one ahead
+  kWordKept,
+  kWordEaten,  // by {F}, who spoke
+  kReignGrows,
+  kReignOver,  // of {F}, {count} days
+  kFirstCrown,
+  kCrownBack,
+  kEveryCrown,
+  kBackWithAWin,
+  kLastBow,
+  kFiftyDone,
+  kWentTooFar,    // {F} is badly hurt
+  kPerfectMatch,  // behind the rating
+};
+/// Bands of Interlude. {a} and {d} as in the step before.
+enum InterludeKind {
+  kWalkIn,
+  kTitleAir,
+  kFeeling,
+  kInControl,
+  kHurting,
+  kLoud,
+  kSplit,    // some like it, some do not
+  kDivided,  // one half for {a}, one for {d}
+  kQuiet,
+  kHope,
+  kDesperate,
+  kDoubt,
+  kLead,  // to a near fall
+  kGasp,  // behind it
+  kHeldBreath,
+  kAfterBell
+};
 
 /// Bands of Verdict: the highest Overall that each rates.
 inline constexpr int kVerdictsUpTo[] = {15, 20, 25, 30, 35, 40, 45, 50, 55, 60, 66,

@@ -16,6 +16,54 @@ namespace grapplemont {
 /// Letters of the parts that a cast may have.
 inline constexpr std::string_view kParts = "adbwlkj12345678opqrtvumcWLFSXYOQGTVUZC";
 
+/// What a line may say of itself in angle brackets before its text, "<floor down> {a} drops an
+/// elbow on {d}. ": first what it leaves {d} in, then what has to be the case for it to fit.
+enum LineTag : unsigned {
+  kDownTag = 1,      // {d} lies on the mat behind it
+  kHoldTag = 2,      // {a} has a hold on {d} behind it
+  kFloorTag = 4,     // {d} lies on the mat already
+  kHeldTag = 8,      // a hold is on; a Counter or a PutDown without it needs that none is
+  kAnywayTag = 16,   // the same, whether a hold is on or not
+  kTroubleTag = 32,  // {a} has been in trouble
+  kWornTag = 64,     // {d} has taken a good deal
+  kPinTag = 128,     // the bout may end in a count
+  kLowTag = 256,     // the match is rated low, in the middle, high: one of those that it names
+  kMidTag = 512,
+  kHighTag = 1024,
+  kLegTag = 2048,  // what of {d} it hurts
+  kArmTag = 4096,
+  kBackTag = 8192
+};
+inline constexpr std::string_view kLineTags[] = {"down",    "hold", "floor", "held", "anyway",
+                                                 "trouble", "worn", "pin",   "low",  "mid",
+                                                 "high",    "leg",  "arm",   "back"};
+
+struct TaggedLine {
+  unsigned Tags = 0;
+  std::string_view Text;  // without its tags
+  bool Sound = true;      // all tags are known
+  constexpr bool Is(LineTag tag) const { return (Tags & tag) != 0; }
+};
+
+/// A line of words/ apart from its tags.
+constexpr TaggedLine ReadTags(std::string_view line) {
+  const auto end = line.find("> ");
+  if (line.empty() || line[0] != '<' || end == std::string_view::npos) return {0, line};
+  TaggedLine read{0, line.substr(end + 2)};
+  for (std::string_view rest = line.substr(1, end - 1); !rest.empty();) {
+    const std::string_view word = rest.substr(0, rest.find(' '));
+    rest.remove_prefix(word.size() == rest.size() ? word.size() : word.size() + 1);
+    unsigned tag = 1, found = 0;
+    for (const std::string_view known : kLineTags) {
+      if (known == word) found = tag;
+      tag <<= 1;
+    }
+    read.Tags |= found;
+    read.Sound &= found != 0;
+  }
+  return read;
+}
+
 /// What a slot may say of a part instead of its name: of a man, a woman, several.
 struct Sexed {
   std::string_view Key, Man, Woman, Several;
@@ -38,9 +86,23 @@ inline constexpr Sexed kSexed[] = {
 };
 
 /// What a report may hold beside its people.
-enum class Item { Title, Prize, No, Tally, Finisher, Promotion, Left, Turn, Feud };
-inline constexpr std::string_view kItems[] = {"title",     "prize", "no",   "tally", "finisher",
-                                              "promotion", "left",  "turn", "feud"};
+enum class Item {
+  Title,
+  Prize,
+  No,
+  Tally,
+  Finisher,
+  Promotion,
+  Left,
+  Turn,
+  Feud,
+  Count,
+  Nth,
+  When
+};
+inline constexpr std::string_view kItems[] = {"title",    "prize",     "no",   "tally",
+                                              "finisher", "promotion", "left", "turn",
+                                              "feud",     "count",     "nth",  "when"};
 
 struct Hole {
   enum Kind { Bad, Name, Full, Short, Members, Word, Thing, ThingWord, If, IfNot, End };

@@ -5,6 +5,7 @@
 #include "records/angles.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
+#include "report/past.h"
 #include "report/stages.h"
 
 namespace grapplemont {
@@ -26,6 +27,7 @@ void TellBout(Teller& teller, const BoutRow& bout) {
     case BoutShape::Duel:
     case BoutShape::Scramble:
       TellBody(teller, bout);
+      teller.Pace.HoldBreath(teller);
       teller.Paragraph();
       TellFinish(teller, bout);
   }
@@ -34,20 +36,23 @@ void TellBout(Teller& teller, const BoutRow& bout) {
 void TellMatch(Teller& teller) {
   const BoutRow* bout = FindBout(teller.segment.Style, teller.segment.MatchType);
   if (!bout) return;
+  teller.Counts = bout->Pinfall;
   TellOpening(teller);
+  TellPast(teller);
+  teller.Pace.Open(teller);
   teller.Paragraph();
   TellBout(teller, *bout);
   TellTitleEnding(teller);
+  TellPastEnding(teller);
+  teller.Pace.AfterBell(teller);
   teller.Paragraph();
   TellAftermath(teller);
 }
 
 bool HasTurnPending(const Teller& teller) {
-  const auto& turners = teller.scene.Turners;
-  return std::any_of(turners.begin(), turners.end(), [&](int uid) {
-    const Worker* worker = teller.world.FindWorker(uid);
-    return worker && worker->TurnPending;
-  });
+  const auto& turns = teller.scene.Turns;
+  return std::any_of(turns.begin(), turns.end(),
+                     [](const Turning& turn) { return !turn.Becomes.empty(); });
 }
 
 }  // namespace
@@ -71,19 +76,53 @@ std::string WriteReport(World& world, const Segment& segment, const Scene& scene
   return teller.Text();
 }
 
-int LineMemory::Pick(Draws& draws, const void* band, int lines) {
+std::vector<Feud> FeudsAtTheBell(const World& world) {
+  std::vector<Feud> feuds;
+  for (const Feud& feud : world.Feuds())
+    if (feud.Worker1 != 0) feuds.push_back(feud);
+  return feuds;
+}
+
+int LineMemory::Pick(Draws& draws, const void* band, std::vector<bool> fits,
+                     std::span<const int> days) {
+  if (std::count(fits.begin(), fits.end(), true) == 0) fits.flip();
   std::vector<bool>& used = used_[band];
-  used.resize(static_cast<std::size_t>(lines));
-  if (std::find(used.begin(), used.end(), false) == used.end())
-    used.assign(static_cast<std::size_t>(lines), false);
-  int picked = draws.Draw(lines) - 1;
-  if (used[static_cast<std::size_t>(picked)]) {
-    std::vector<int> unused;
-    for (int line = 0; line < lines; ++line)
-      if (!used[static_cast<std::size_t>(line)]) unused.push_back(line);
-    picked = unused[static_cast<std::size_t>(draws.Draw(static_cast<int>(unused.size())) - 1)];
+  used.resize(fits.size());
+  const auto isOpen = [&](std::size_t line) { return fits[line] && !used[line]; };
+  const auto longestOpen = [&] {
+    int longest = -1;
+    for (std::size_t line = 0; line < fits.size(); ++line)
+      if (isOpen(line)) longest = std::max(longest, days.empty() ? 0 : days[line]);
+    return longest;
+  };
+  int longest = longestOpen();
+  if (longest < 0) {
+    for (std::size_t line = 0; line < fits.size(); ++line)
+      if (fits[line]) used[line] = false;
+    longest = longestOpen();
   }
-  used[static_cast<std::size_t>(picked)] = true;
+  const auto isFree = [&](std::size_t line) {
+    return isOpen(line) && (days.empty() || days[line] == longest);
+  };
+  auto picked = static_cast<std::size_t>(draws.Draw(static_cast<int>(fits.size())) - 1);
+  if (!isFree(picked)) {
+    std::vector<std::size_t> choice;
+    for (std::size_t line = 0; line < fits.size(); ++line)
+      if (isFree(line)) choice.push_back(line);
+    picked = choice[static_cast<std::size_t>(draws.Draw(static_cast<int>(choice.size())) - 1)];
+  }
+  used[picked] = true;
+  return static_cast<int>(picked);
+}
+
+int LineMemory::PickFor(Draws& draws, const void* band, int speaker, std::span<const int> days) {
+  std::vector<bool>& said = bySpeaker_[{band, speaker}];
+  said.resize(days.size());
+  std::vector<bool> fits = said;
+  fits.flip();
+  const int picked = Pick(draws, band, std::move(fits), days);
+  if (said[static_cast<std::size_t>(picked)]) said.assign(said.size(), false);
+  said[static_cast<std::size_t>(picked)] = true;
   return picked;
 }
 
@@ -98,18 +137,27 @@ void TellInterview(Teller& teller) {
   const int purpose = segment.Purpose >= kVerbalAttack && segment.Purpose <= kTalkNone
                           ? int(segment.Purpose)
                           : int(kTalkNone);
-  teller.Say(Family::TalkOpening, segment.Style);
-  teller.Say(Family::Speech, TalkBand(segment.Style, purpose));
+  teller.SayAs('T', Family::TalkOpening, segment.Style);
+  // Nobody makes a speech that has been heard tonight.
+  if (!teller.SayNew(Family::Speech, TalkBand(segment.Style, purpose)))
+    teller.Say(Family::SpeechAgain);
   if (purpose == kTalkTurn) {
-    teller.cast.Set('t', teller.world, teller.scene.Turners);
+    std::vector<int> turners;
+    for (const Turning& turn : teller.scene.Turns) turners.push_back(turn.Uid);
+    teller.cast.Set('t', teller.world, turners);
     TellTurn(teller);
   }
-  teller.Say(Family::TalkClosing, purpose);
+  teller.SayAs('T', Family::TalkClosing, purpose);
 }
 
 void TellAngle(Teller& teller) {
   if (HasTurnPending(teller)) teller.cast.Set(Item::Turn, "turn");
   teller.Say(Family::AngleText, teller.segment.Style);
+  for (const Turning& turn : teller.scene.Turns) {
+    if (turn.Becomes.empty()) continue;
+    teller.cast.Set('t', teller.world, {turn.Uid});
+    TellTurn(teller);
+  }
 }
 
 namespace {

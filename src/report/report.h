@@ -1,13 +1,17 @@
 #pragma once
 
+#include <map>
+#include <span>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "records/fields/outside.h"
 #include "records/segments.h"
 #include "records/world.h"
 #include "report/family.h"
+#include "report/saidlines.h"
 
 // A Segment told in prose, in the voice that the player has chosen.
 
@@ -16,12 +20,27 @@ namespace grapplemont {
 /// "The Lamplighter", "Rafe Tolland", "QVD"; the first one's for an unknown number.
 std::string_view VoiceName(int voice);
 
-/// What the report knows beside the Segment itself.
-struct Scene {
-  int Champion = 0;               // who held the Title at stake when the bell rang; 0 for nobody
-  int CoChampion = 0;             // the other half of a tag champion
-  std::vector<int> Turners = {};  // uids of all whom the booking makes turn
+/// Somebody whom the booking makes turn.
+struct Turning {
+  int Uid = 0;
+  std::string Becomes = {};  // the disposition behind it; empty where nobody was prepared for it
 };
+
+constexpr int kUnrated = -1;
+
+/// What the report knows beside the Segment itself, since it is written when all has happened.
+struct Scene {
+  int Champion = 0;    // who held the Title at stake when the bell rang; 0 for nobody
+  int CoChampion = 0;  // the other half of a tag champion
+  std::vector<Turning> Turns = {};
+  std::vector<Feud> Feuds = {};  // as they stood when the bell rang
+  int Row = 0;                   // of the sheet; 0 outside a show
+  bool IsLast = false, IsEvent = false;
+  int Overall = kUnrated;  // what the match is rated, 0 to 100
+  int Crowd = kUnrated;    // the same of the crowd
+};
+/// The feuds of now, for a Scene.
+std::vector<Feud> FeudsAtTheBell(const World& world);
 
 /// Which lines a show has used, so that none comes again before the others of its band have.
 class LineMemory {
@@ -29,13 +48,25 @@ class LineMemory {
   /// A line of the band, from 0: the one that a draw of `lines` names, or, if the show has used it
   /// already, one that a second draw picks among those it has not. Once all have been used, the
   /// band begins again. `band` tells the bands apart. Requires at least one line.
-  int Pick(Draws& draws, const void* band, int lines);
+  /// The same among those that `fits` holds true, one for each line; among all where it holds none.
+  /// The band begins again only for lines that fit. `days` since shows said each of them; only the
+  /// longest unused are drawn among. Empty where nothing is remembered.
+  int Pick(Draws& draws, const void* band, std::vector<bool> fits, std::span<const int> days = {});
+  int Pick(Draws& draws, const void* band, int lines, std::span<const int> days = {}) {
+    return Pick(draws, band, std::vector<bool>(static_cast<std::size_t>(lines), true), days);
+  }
+  /// The same, and as long as there are others none that this speaker has said tonight.
+  int PickFor(Draws& draws, const void* band, int speaker, std::span<const int> days);
   /// Whether it was picked since the band last began. What a text says cannot tell: two bands may
   /// use the same words.
   bool Used(const void* band, int line) const;
+  /// What the shows before have said.
+  SaidLines& Said() { return said_; }
 
  private:
+  SaidLines said_;
   std::unordered_map<const void*, std::vector<bool>> used_;
+  std::map<std::pair<const void*, int>, std::vector<bool>> bySpeaker_;
 };
 
 /// The prose of a match, an interview or an angle, in paragraphs. Draws from World::Prose alone, so
@@ -44,7 +75,8 @@ std::string WriteReport(World& world, const Segment& segment, const Scene& scene
                         LineMemory& memory);
 /// The second reporter's rating of a match; empty for the others and for what is not a match. Draws
 /// from World::Prose.
-std::string Verdict(World& world, const Segment& segment, int overall);
+std::string Verdict(World& world, const Segment& segment, int overall,
+                    LineMemory* memory = nullptr);
 
 /// The lines above the prose.
 struct SegmentDetails {

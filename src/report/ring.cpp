@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "records/segments.h"
+#include "report/drama.h"
 
 namespace grapplemont {
 
@@ -20,6 +21,10 @@ constexpr StepRow kSays[] = {
     {'D', Family::OffenceD, true}, {'E', Family::OffenceE, true}, {'2', Family::TwoCount},
     {'N', Family::NearFall},       {'R', Family::RefBump},        {'P', Family::PinNoRef},
     {'L', Family::LadderSpot},     {'W', Family::WeaponSpot},     {'K', Family::TableSpot}};
+
+bool IsCount(char step) {
+  return step == '2' || step == 'N' || step == 'P';
+}
 
 }  // namespace
 
@@ -94,64 +99,87 @@ int Ring::OtherSide(int side, int notThis) {
   return others.size() == 1 ? others[0] : teller_.OneOf(others);
 }
 
-/// Each counter changes hands once: an even number of them brings the beginner back on top.
-void Ring::Begin(std::string_view script, const Person* last, const Person* under) {
-  const auto put = [&](const Person* person, int side) {
-    Side& at = sides_[static_cast<std::size_t>(side)];
-    const auto found = std::find(at.People.begin(), at.People.end(), person);
-    at.Legal = found == at.People.end() ? 0 : static_cast<std::size_t>(found - at.People.begin());
-  };
+/// Backwards from the end: a counter turns a pair round, and whoever breaks in comes from outside
+/// the exchange that they end.
+void Ring::Plan(std::string_view script, const Person* last, const Person* under) {
+  Pairing now;
   const int top = last ? SideOf(last) : -1, bottom = under ? SideOf(under) : -1;
-  attacker_ = top >= 0 ? top : 0;
-  defender_ = bottom >= 0 && bottom != attacker_ ? bottom : OtherSide(attacker_);
-  put(last, attacker_);
-  put(under, defender_);
-  if (top >= 0 && std::count(script.begin(), script.end(), '#') % 2 == 1)
-    std::swap(attacker_, defender_);
+  now.Attacker = top >= 0 ? top : 0;
+  now.Defender = bottom >= 0 && bottom != now.Attacker ? bottom : OtherSide(now.Attacker);
+  plan_.assign(script.size() + 1, now);
+  for (std::size_t at = script.size(); at-- > 0;) {
+    if (script[at] == '#') std::swap(now.Attacker, now.Defender);
+    if (script[at] == '~') now = {now.Defender, OtherSide(now.Defender, now.Attacker)};
+    plan_[at] = now;
+  }
+}
+
+/// Puts the one into the ring after whom, by the tags to come, this person is in it at the end.
+void Ring::Begin(std::string_view script, int side, const Person* person) {
+  Side& of = sides_[static_cast<std::size_t>(side)];
+  const auto found = std::find(of.People.begin(), of.People.end(), person);
+  const auto count = of.People.size();
+  const auto last =
+      found == of.People.end() ? 0 : static_cast<std::size_t>(found - of.People.begin());
+  std::size_t tags = 0;
+  for (std::size_t at = 0; at < script.size(); ++at)
+    tags += script[at] == 'T' && plan_[at].Attacker == side;
+  of.Legal = (last + count - tags % count) % count;
 }
 
 void Ring::Play(std::string_view script, int spot, const Person* last, const Person* under) {
   if (!CanFight()) return;
-  Begin(script, last, under);
-  for (const char step : script) Step(step, spot);
+  Plan(script, last, under);
+  Begin(script, plan_.back().Attacker, last);
+  Begin(script, plan_.back().Defender, under);
+  Pace& pace = teller_.Pace;
+  pace.Begin(static_cast<int>(script.size()));
+  Drama drama(teller_);
+  for (std::size_t at = 0; at < script.size(); ++at) {
+    attacker_ = plan_[at].Attacker;
+    defender_ = plan_[at].Defender;
+    Act();
+    if (IsCount(script[at])) LayDown();
+    pace.Before(teller_, script[at], drama.Before(script[at]));
+    Step(script, at, spot);
+    pace.After(teller_, script[at], drama.After(script[at]));
+  }
 }
 
-void Ring::Step(char step, int spot) {
-  Act();
+void Ring::Step(std::string_view script, std::size_t at, int spot) {
+  const char step = script[at];
+  const bool isCovered = at + 1 < script.size() && IsCount(script[at + 1]);
+  const unsigned wants = isCovered ? kDownTag : 0U;
   for (const StepRow& row : kSays) {
     if (row.Step != step) continue;
-    if (row.IsOffence) return teller_.SayOffence(row.Calls);
-    teller_.Say(row.Calls);
+    if (row.IsOffence) return teller_.SayOffence(row.Calls, wants);
+    teller_.Say(row.Calls, 0, wants);
   }
   switch (step) {
     case '#':
-      std::swap(attacker_, defender_);
+    case '~':
+      attacker_ = plan_[at + 1].Attacker;
+      defender_ = plan_[at + 1].Defender;
       Act();
-      teller_.Say(Family::Counter);
+      teller_.Say(step == '#' ? Family::Counter : Family::BreakIn);
       break;
     case 'S':
-      teller_.Say(Family::Spot, spot);
+      teller_.Say(Family::Spot, spot, wants);
       break;
     case 'T':
       TagOut();
       break;
     case 'X':
-      DoubleTeam();
-      break;
-    case '~':
-      BreakIn();
+      DoubleTeam(wants);
       break;
     default:
       break;
   }
 }
 
-void Ring::BreakIn() {
-  const int old = attacker_;
-  attacker_ = OtherSide(old, defender_);
-  defender_ = old;
-  Act();
-  teller_.Say(Family::BreakIn);
+/// Nobody is covered who stands, or who is held.
+void Ring::LayDown() {
+  if (teller_.Under != Footing::Down) teller_.Say(Family::PutDown);
 }
 
 void Ring::TagOut() {
@@ -163,11 +191,11 @@ void Ring::TagOut() {
   side.Legal = (side.Legal + 1) % side.People.size();
 }
 
-void Ring::DoubleTeam() {
+void Ring::DoubleTeam(unsigned wants) {
   Person* partner = Partner(attacker_);
   if (!partner) return;
   teller_.cast.Set('b', partner);
-  teller_.Say(Family::DoubleTeam);
+  teller_.Say(Family::DoubleTeam, 0, wants);
 }
 
 Person* OneOf(Teller& teller, const std::vector<Person*>& people) {
@@ -196,7 +224,7 @@ static_assert(std::size(kSinglesRows) == kShapes * kVariants);
 // No counts in these: the stipulation decides.
 constexpr Script kGenericRows[] = {"AB#AS#BCS#DS", "BS#AC#SB#CD", "ASA#BSC#BDS", "A#BS#AS#CDS"};
 constexpr Script kHardcoreRows[] = {"WA#WB2#WC#WND", "AW#E2WS#CWN#KD", "SW#WS#B2#WCN#D"};
-constexpr Script kCageRows[] = {"AB#CS#B2S#DS", "AS#BCN#SE#CS#D", "BE#S2#CDS#BS"};
+constexpr Script kCageRows[] = {"AB#CS#BAS#DS", "AS#BCD#SE#CS#D", "BE#SC#CDS#BS"};
 constexpr Script kTexasRows[] = {"AB2S#C2S#DS", "BES#BC2S#W2S", "A#B2S#EC2S#DS"};
 constexpr Script kLastManRows[] = {"ABS#CS#WS#DS", "ES#BWS#CDS", "AC#BS#ES#WDS"};
 constexpr Script kAnywhereRows[] = {"ABS2#SC2#WN#SD", "SW#S2#CSN#BS2D", "AS#WS2#CN#SW"};
@@ -209,7 +237,7 @@ constexpr Script kDeathRows[] = {"WS#WKE2#SCN#SD", "SW#KS2#WSN#CD", "WSE#SW2#K#S
 constexpr Script kTagRows[] = {"ABTATATXC2TBCTDN#TBC2TX2DN#BTC#TX2#C",
                                "ABTATATXC2TBCTDN#TBC2TX2DN#BTC#TXD"};
 constexpr Script kTagHardcoreRows[] = {"WAX#WB2#TWCN#XWD", "AW#EWX2#WTC#KN#BD"};
-constexpr Script kTagCageRows[] = {"ABTS#XC2#TSB#XDS", "BXS#TCN#SET#XS#D"};
+constexpr Script kTagCageRows[] = {"ABTS#XCD#TSB#XDS", "BXS#TCD#SET#XS#D"};
 constexpr Script kTagLadderRows[] = {"ABXL#TCL#SXL#SLD", "LX#BLS#TXL#CSL"};
 constexpr Script kTagTablesRows[] = {"AXS#TBCS#XES#D", "ES#TXS#BCS#XS"};
 constexpr Script kTriangleRows[] = {"AB2~BC#A2~C#DN~C", "B#CN~A#B2~DN#C"};

@@ -39,19 +39,26 @@ class Ring {
     std::size_t Legal = 0;
   };
 
+  /// Whose side has the upper hand over whose.
+  struct Pairing {
+    int Attacker = 0, Defender = 1;
+  };
+
   int SideOf(const Person* person) const;
-  void Begin(std::string_view script, const Person* last, const Person* under);
+  void Plan(std::string_view script, const Person* last, const Person* under);
+  void Begin(std::string_view script, int side, const Person* person);
   int OtherSide(int side, int notThis = -1);
-  void Step(char step, int spot);
-  void BreakIn();
+  void Step(std::string_view script, std::size_t at, int spot);
+  void LayDown();
   void TagOut();
-  void DoubleTeam();
+  void DoubleTeam(unsigned wants);
   Person* Legal(int side) const;
   Person* Partner(int side) const;
   void Act();
 
   Teller& teller_;
   std::vector<Side> sides_;
+  std::vector<Pairing> plan_;  // before each step, and behind the last
   int attacker_ = 0, defender_ = 1;
 };
 

@@ -26,14 +26,21 @@ char LetterOf(Part part) {
 
 constexpr int kBoilingHeat = 50;
 
-bool SetsApart(const Feud& feud, const Party& one, const Party& two) {
-  const FeudSides sides = SidesOf(feud);
-  for (const Person* a : one.People)
-    for (const Person* b : two.People)
-      if ((sides.One.Has(a->Uid) && sides.Two.Has(b->Uid)) ||
-          (sides.Two.Has(a->Uid) && sides.One.Has(b->Uid)))
-        return true;
-  return false;
+/// Those of a feud's side who are in the match.
+std::vector<int> Present(const Teller& teller, const FeudSide& side) {
+  std::vector<int> there;
+  for (const int uid : {side.First, side.Second})
+    if (IsEntrant(teller.segment, uid)) there.push_back(uid);
+  return there;
+}
+
+/// Whether the match sets any of them against any of the others.
+bool AreOpponents(const Segment& segment, const std::vector<int>& ones,
+                  const std::vector<int>& others) {
+  return std::any_of(ones.begin(), ones.end(), [&](int one) {
+    return std::any_of(others.begin(), others.end(),
+                       [&](int other) { return SideOf(segment, one) != SideOf(segment, other); });
+  });
 }
 
 void TellStake(Teller& teller) {
@@ -69,27 +76,21 @@ void TellChampion(Teller& teller) {
     }
 }
 
-/// The sides as parties; everybody is a side of their own where all fight all.
-std::vector<Party> Parties(Teller& teller) {
-  std::vector<Party> parties;
-  for (const auto& side : SidesOf(teller.segment)) {
-    Party party = teller.cast.Together(teller.world, side);
-    if (!party.Empty()) parties.push_back(std::move(party));
-  }
-  return parties;
-}
-
 }  // namespace
 
 FeudOfSides FeudTold(Teller& teller) {
-  const auto parties = Parties(teller);
-  for (const Feud& feud : teller.world.Feuds()) {
-    if (feud.Worker1 == 0) continue;
-    for (std::size_t one = 0; one < parties.size(); ++one)
-      for (std::size_t two = one + 1; two < parties.size(); ++two)
-        if (SetsApart(feud, parties[one], parties[two])) return {&feud, parties[one], parties[two]};
+  FeudOfSides partners;
+  for (const Feud& feud : teller.scene.Feuds) {
+    const FeudSides sides = SidesOf(feud);
+    const auto ones = Present(teller, sides.One), others = Present(teller, sides.Two);
+    const Party one = teller.cast.Together(teller.world, ones),
+                two = teller.cast.Together(teller.world, others);
+    if (one.Empty() || two.Empty()) continue;
+    const bool apart = AreOpponents(teller.segment, ones, others);
+    if (apart) return {&feud, one, two, false};
+    if (!partners.Between) partners = {&feud, one, two, true};
   }
-  return {};
+  return partners;
 }
 
 void SayFeud(Teller& teller, const FeudOfSides& feud, Family family, int band) {
@@ -115,7 +116,9 @@ void TellOpening(Teller& teller) {
     TellStake(teller);
   else
     TellChampion(teller);
-  if (const FeudOfSides feud = FeudTold(teller); feud.Between)
+  if (const FeudOfSides feud = FeudTold(teller); feud.ArePartners)
+    SayFeud(teller, feud, Family::FeudPartners, 0);
+  else if (feud.Between)
     SayFeud(teller, feud, Family::FeudOpening,
             feud.Between->Heat >= kBoilingHeat ? kBoils : kSimmers);
   const PurposeRow purpose = PurposeOf(segment);
@@ -174,18 +177,31 @@ void TurnOf(Teller& teller, char part) {
   teller.cast.Of('t') = teller.cast.Of(part);
 }
 
+namespace {
+
+/// The band of a turn by what it makes of somebody.
+int TurnBand(std::string_view becomes) {
+  if (becomes.empty()) return kBaffling;
+  return becomes == "F" ? kTurnsFace : becomes == "T" ? kTurnsTweener : kTurnsHeel;
+}
+
+}  // namespace
+
 void TellTurn(Teller& teller) {
-  Party& turner = teller.cast.Of('t');
-  const auto& booked = teller.scene.Turners;
-  std::erase_if(turner.People, [&](const Person* person) {
-    return std::find(booked.begin(), booked.end(), person->Uid) == booked.end();
-  });
-  if (turner.People.empty()) return;
-  const Worker* worker = teller.world.FindWorker(turner.People[0]->Uid);
-  if (!worker) return;
-  int band = worker->Disposition == "F" ? kTurnsHeel : kTurnsFace;
-  if (worker->Disposition == "T") band = kTweenerTurns;
-  teller.Say(Family::Turn, worker->TurnPending ? band : int(kBaffling));
+  const Party turners = teller.cast.Of('t');
+  std::vector<std::string> told;
+  for (const Turning& first : teller.scene.Turns) {
+    Party alike;  // who become the same are told together
+    for (Person* person : turners.People)
+      for (const Turning& turn : teller.scene.Turns)
+        if (turn.Uid == person->Uid && turn.Becomes == first.Becomes)
+          alike.People.push_back(person);
+    if (alike.Empty() || std::find(told.begin(), told.end(), first.Becomes) != told.end()) continue;
+    told.push_back(first.Becomes);
+    if (alike.People.size() == turners.People.size()) alike.Name = turners.Name;
+    teller.cast.Of('t') = alike;
+    teller.Say(Family::Turn, TurnBand(first.Becomes));
+  }
 }
 
 void TellAftermath(Teller& teller) {
@@ -198,7 +214,7 @@ void TellAftermath(Teller& teller) {
   TellSideTurn(teller);
   const PurposeRow purpose = PurposeOf(segment);
   TellPurpose(teller, purpose);
-  if (const FeudOfSides feud = FeudTold(teller); feud.Between)
+  if (const FeudOfSides feud = FeudTold(teller); feud.Between && !feud.ArePartners)
     SayFeud(teller, feud, Family::FeudEnding,
             purpose.Does == Aim::EndsFeud ? kFeudIsOver : kFeudGoesOn);
 }

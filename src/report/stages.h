@@ -6,12 +6,14 @@
 
 namespace grapplemont {
 
-/// A feud and the two sides of the Segment that it sets against each other.
+/// A feud and those on either side of it who are in the match.
 struct FeudOfSides {
   const Feud* Between = nullptr;  // nullptr for none
   Party One, Two;
+  bool ArePartners = false;  // all of them stand on one side tonight
 };
-/// The first feud between any two of the Segment's sides.
+/// The first feud that sets two of the Segment's sides against each other; where there is none, the
+/// first between two who stand on the same.
 FeudOfSides FeudTold(Teller& teller);
 /// Says a line of the feud, with {F} and {S} for its two sides.
 void SayFeud(Teller& teller, const FeudOfSides& feud, Family family, int band);

@@ -40,18 +40,151 @@ Teller::Teller(World& w, const Segment& s, const Scene& sc, LineMemory& memory)
       memory_(memory),
       voice_(w.HasGame() ? int(w.Game().Reporter) : 0) {}
 
-bool Teller::Say(Family family, int band) {
+bool Teller::Say(Family family, int band, unsigned wants) {
   const Block* block = BlockOf(voice_, family, band);
   if (!block) return false;
-  const int line = memory_.Pick(world.Prose(), block, static_cast<int>(block->Lines.size()));
-  return Fill(cast, block->Lines[static_cast<std::size_t>(line)], text_);
+  std::vector<bool> fits = Fitting(family, band, wants);
+  if (wants != 0 && std::count(fits.begin(), fits.end(), true) == 0)
+    fits = Fitting(family, band, 0);
+  const std::vector<int> days = DaysUnsaid(family, band, fits);
+  return SayLine(family, band, memory_.Pick(world.Prose(), block, std::move(fits), days));
 }
 
-void Teller::SayOffence(Family family) {
+bool Teller::SayNew(Family family, int band) {
+  const Block* block = BlockOf(voice_, family, band);
+  if (!block) return false;
+  std::vector<bool> fits(block->Lines.size());
+  for (std::size_t line = 0; line < fits.size(); ++line)
+    fits[line] = !memory_.Used(block, static_cast<int>(line));
+  if (std::count(fits.begin(), fits.end(), true) == 0) return false;
+  const std::vector<int> days = DaysUnsaid(family, band, fits);
+  return SayLine(family, band, memory_.Pick(world.Prose(), block, std::move(fits), days));
+}
+
+bool Teller::SayAs(char part, Family family, int band) {
+  const Block* block = BlockOf(voice_, family, band);
+  const Person* speaker = cast.First(part);
+  if (!block || !speaker) return Say(family, band);
+  const std::vector<int> days =
+      DaysUnsaid(family, band, std::vector<bool>(block->Lines.size(), true));
+  return SayLine(family, band, memory_.PickFor(world.Prose(), block, speaker->Uid, days));
+}
+
+std::vector<int> Teller::DaysUnsaid(Family family, int band, const std::vector<bool>& of) {
+  const auto keys = KeysOf(voice_, family, band);
+  std::vector<int> days(keys.size());
+  for (std::size_t line = 0; line < keys.size(); ++line)
+    if (of[line]) days[line] = memory_.Said().DaysSince(world, keys[line]);
+  return days;
+}
+
+bool Teller::SayLine(Family family, int band, int line) {
+  const auto at = static_cast<std::size_t>(line);
+  const TaggedLine& read = ReadLinesOf(voice_, family, band)[at];
+  const std::int32_t key = KeysOf(voice_, family, band)[at];
+  const int way = memory_.Said().Times(world, key);
+  memory_.Said().Say(world, key);
+  const bool hasWays = read.Text.find('[') != std::string_view::npos;
+  const bool isSaid =
+      hasWays ? Fill(cast, SaidIn(read.Text, way), text_) : Fill(cast, read.Text, text_);
+  Move(family, read);
+  return isSaid;
+}
+
+void Teller::SayOffence(Family family, unsigned wants) {
   const Party& attacker = cast.Of('a');
   if (attacker.People.empty()) return;
   if (const Worker* worker = world.FindWorker(attacker.People[0]->Uid))
-    Say(family, OffenceBandOf(world, *worker));
+    Say(family, OffenceBandOf(world, *worker), wants);
+}
+
+namespace {
+
+constexpr int kDeepTrouble = 3, kWornDown = 3;  // moves taken
+
+/// The tag of a percentage's level.
+unsigned LevelTag(int percent) {
+  constexpr int kMiddling = 45, kPraised = 81;
+  return percent < kMiddling ? kLowTag : percent < kPraised ? kMidTag : kHighTag;
+}
+
+/// Whose lines say whether they lead out of a hold.
+bool LeadsOutOfHolds(Family family) {
+  return family == Family::Counter || family == Family::PutDown;
+}
+
+}  // namespace
+
+std::vector<bool> Teller::Fitting(Family family, int band, unsigned wants) const {
+  std::vector<bool> fits;
+  for (const TaggedLine& line : ReadLinesOf(voice_, family, band))
+    fits.push_back(Fits(line, family, wants));
+  return fits;
+}
+
+bool Teller::Fits(const TaggedLine& line, Family family, unsigned wants) const {
+  constexpr unsigned kLevels = kLowTag | kMidTag | kHighTag;
+  if ((line.Tags & wants) != wants) return false;
+  if (LeadsOutOfHolds(family) && !line.Is(kAnywayTag) &&
+      line.Is(kHeldTag) != (Under == Footing::Held))
+    return false;
+  if (line.Is(kFloorTag) && Under != Footing::Down) return false;
+  if (line.Is(kPinTag) && !Counts) return false;
+  const Person *attacker = cast.First('a'), *defender = cast.First('d');
+  if (line.Is(kTroubleTag) && !(attacker && attacker->Trouble >= kDeepTrouble)) return false;
+  if (line.Is(kWornTag) && !(defender && defender->Taken >= kWornDown)) return false;
+  const unsigned levels = line.Tags & kLevels;
+  const int rated = family == Family::Beat ? scene.Crowd : scene.Overall;
+  return levels == 0 || rated == kUnrated || (levels & LevelTag(rated)) != 0;
+}
+
+void Teller::Move(Family family, const TaggedLine& line) {
+  const auto leave = [&](Footing otherwise) {
+    Under = line.Is(kDownTag) ? Footing::Down : line.Is(kHoldTag) ? Footing::Held : otherwise;
+  };
+  Person *attacker = cast.First('a'), *defender = cast.First('d');
+  switch (family) {
+    case Family::TwoCount:
+    case Family::NearFall:
+    case Family::PinNoRef:
+    case Family::PutDown:
+      Under = Footing::Down;
+      return;
+    case Family::EliminationTry:
+      Under = Footing::Up;
+      return;
+    case Family::TagOut:
+      Under = Footing::Up;
+      if (attacker) attacker->Trouble = 0;
+      return;
+    case Family::Counter:
+      return leave(Footing::Up);
+    case Family::LadderSpot:
+    case Family::WeaponSpot:
+    case Family::TableSpot:
+      leave(Footing::Down);
+      break;
+    case Family::OffenceA:
+    case Family::OffenceB:
+    case Family::OffenceC:
+    case Family::OffenceD:
+    case Family::OffenceE:
+    case Family::DoubleTeam:
+    case Family::BreakIn:
+    case Family::Spot:
+      leave(Footing::Up);
+      break;
+    default:
+      return;
+  }
+  if (attacker) attacker->Trouble = 0;
+  if (defender) {
+    ++defender->Taken;
+    ++defender->Trouble;
+    const LineTag limbs[] = {kLegTag, kArmTag, kBackTag};
+    for (std::size_t limb = 0; limb < std::size(limbs); ++limb)
+      defender->Limbs[limb] += line.Is(limbs[limb]);
+  }
 }
 
 void Teller::Paragraph() {
@@ -65,6 +198,8 @@ std::string Teller::Text() {
 }
 
 void Teller::Act(Person* attacker, Person* defender) {
+  const Person *a = cast.First('a'), *d = cast.First('d');
+  if (!(a == attacker && d == defender) && !(a == defender && d == attacker)) Under = Footing::Up;
   cast.Set('a', attacker);
   cast.Set('d', defender);
 }
@@ -80,23 +215,55 @@ int KnownVoice(int voice) {
 /// Every block of a voice by family and band.
 class Index {
  public:
-  explicit Index(std::initializer_list<Blocks> files) {
+  Index(int voice, std::initializer_list<Blocks> files) {
     for (const FamilyRow& row : AllFamilies())
       rows_[static_cast<std::size_t>(row.Of)].resize(static_cast<std::size_t>(row.Bands.Last) + 1);
     for (const Blocks blocks : files)
-      for (const Block& block : blocks)
-        rows_[static_cast<std::size_t>(block.Heading)][static_cast<std::size_t>(block.Band)] =
-            &block;
+      for (const Block& block : blocks) Add(voice, block);
   }
-  const Block* Find(Family family, int band) const {
+  struct Entry {
+    const Block* Lines = nullptr;
+    std::vector<std::int32_t> Keys = {};
+    std::vector<TaggedLine> Read = {};
+  };
+  const Entry& Find(Family family, int band) const {
+    static const Entry kNone;
     return RowOf(family).Has(band)
                ? rows_[static_cast<std::size_t>(family)][static_cast<std::size_t>(band)]
-               : nullptr;
+               : kNone;
   }
 
  private:
-  std::array<std::vector<const Block*>, kFamilies> rows_;
+  void Add(int voice, const Block& block) {
+    Entry& entry =
+        rows_[static_cast<std::size_t>(block.Heading)][static_cast<std::size_t>(block.Band)];
+    entry.Lines = &block;
+    for (const std::string_view line : block.Lines) {
+      entry.Read.push_back(ReadTags(line));
+      entry.Keys.push_back(LineKey(voice, entry.Read.back().Text));
+    }
+  }
+
+  std::array<std::vector<Entry>, kFamilies> rows_;
 };
+
+const Index::Entry& EntryOf(int voice, Family family, int band) {
+  static const std::array<Index, kVoiceCount> kIndex = {
+      Index{kLamplighter,
+            {modLamplighter::Offence(), modLamplighter::Bouts(), modLamplighter::Finishes(),
+             modLamplighter::Talk(), modLamplighter::Angles(), modLamplighter::Memory(),
+             modLamplighter::Beats()}},
+      Index{kTolland,
+            {modTolland::Offence(), modTolland::Bouts(), modTolland::Finishes(), modTolland::Talk(),
+             modTolland::Angles(), modTolland::Verdicts(), modTolland::Memory(),
+             modTolland::Beats()}},
+      Index{kQvd,
+            {modQVD::Offence(), modQVD::Bouts(), modQVD::Finishes(), modQVD::Talk(),
+             modQVD::Angles(), modQVD::Memory(), modQVD::Beats()}}};
+  const int only = RowOf(family).Only;
+  const int teller = only == kEveryVoice ? KnownVoice(voice) : only;
+  return kIndex[static_cast<std::size_t>(teller)].Find(family, band);
+}
 
 }  // namespace
 
@@ -105,28 +272,32 @@ std::string_view VoiceName(int voice) {
 }
 
 const Block* BlockOf(int voice, Family family, int band) {
-  static const std::array<Index, kVoiceCount> kIndex = {
-      Index{modLamplighter::Offence(), modLamplighter::Bouts(), modLamplighter::Finishes(),
-            modLamplighter::Talk(), modLamplighter::Angles()},
-      Index{modTolland::Offence(), modTolland::Bouts(), modTolland::Finishes(), modTolland::Talk(),
-            modTolland::Angles(), modTolland::Verdicts()},
-      Index{modQVD::Offence(), modQVD::Bouts(), modQVD::Finishes(), modQVD::Talk(),
-            modQVD::Angles()}};
-  const int only = RowOf(family).Only;
-  const int teller = only == kEveryVoice ? KnownVoice(voice) : only;
-  return kIndex[static_cast<std::size_t>(teller)].Find(family, band);
+  return EntryOf(voice, family, band).Lines;
 }
 
-std::string Verdict(World& world, const Segment& segment, int overall) {
+std::span<const std::int32_t> KeysOf(int voice, Family family, int band) {
+  return EntryOf(voice, family, band).Keys;
+}
+
+std::span<const TaggedLine> ReadLinesOf(int voice, Family family, int band) {
+  return EntryOf(voice, family, band).Read;
+}
+
+std::string Verdict(World& world, const Segment& segment, int overall, LineMemory* memory) {
   if (!world.HasGame() || world.Game().Reporter != kTolland || segment.Kind != kMatch) return {};
   if (segment.Style == kSpecial && segment.MatchType != kRoyalRumble)
     return std::string(BlockOf(kTolland, Family::NoVerdict, 0)->Lines[0]);
   const auto* last = std::end(kVerdictsUpTo) - 1;
   const auto band = std::lower_bound(std::begin(kVerdictsUpTo), last, overall);
-  const auto lines =
-      BlockOf(kTolland, Family::Verdict, static_cast<int>(band - kVerdictsUpTo))->Lines;
-  const int draw = world.Prose().Draw(static_cast<int>(lines.size()));
-  return std::string(lines[static_cast<std::size_t>(draw - 1)]);
+  const auto number = static_cast<int>(band - kVerdictsUpTo);
+  const auto lines = BlockOf(kTolland, Family::Verdict, number)->Lines;
+  const auto drawn =
+      static_cast<std::size_t>(world.Prose().Draw(static_cast<int>(lines.size())) - 1);
+  if (!memory) return SaidIn(lines[drawn], 0);
+  const std::int32_t key = KeysOf(kTolland, Family::Verdict, number)[drawn];
+  const int way = memory->Said().Times(world, key);
+  memory->Said().Say(world, key);
+  return SaidIn(lines[drawn], way);
 }
 
 }  // namespace grapplemont

@@ -1,13 +1,21 @@
 #pragma once
 
+#include <span>
 #include <string>
+#include <vector>
 
 #include "records/fields/wording.h"
 #include "report/cast.h"
 #include "report/family.h"
+#include "report/line.h"
+#include "report/pace.h"
+#include "report/past.h"
 #include "report/report.h"
 
 namespace grapplemont {
+
+/// How the one who suffers is left by what was told last.
+enum class Footing { Up, Down, Held };
 
 /// One report while it grows: the voice that GameInfo.Reporter names, the cast, the text.
 class Teller {
@@ -16,9 +24,15 @@ class Teller {
 
   /// Appends a line of the family; false when nothing could be said, since the band does not exist
   /// or nobody is there to say it of.
-  bool Say(Family family, int band = 0);
+  /// Of the band's lines those are drawn from whose tags fit how the match stands and have all of
+  /// `wants`; where there are none, those that fit; where there are none of these, all.
+  bool Say(Family family, int band = 0, unsigned wants = 0);
+  /// The same, but only a line that the show has not had; false when it has had them all.
+  bool SayNew(Family family, int band);
+  /// The same as Say of whoever plays this part: a line that they have not been given tonight.
+  bool SayAs(char part, Family family, int band);
   /// The line of an offence family, by what the attacker is best at.
-  void SayOffence(Family family);
+  void SayOffence(Family family, unsigned wants = 0);
   /// Text that is the same in all voices.
   void Append(std::string_view text) { text_ += text; }
   /// What follows begins a new paragraph.
@@ -33,15 +47,26 @@ class Teller {
   const auto& OneOf(const Some& some) {
     return some[static_cast<std::size_t>(Draw(static_cast<int>(some.size())) - 1)];
   }
-  /// Sets {a} and {d}.
+  /// Sets {a} and {d}. Whoever was down or held stays it while the two are the same.
   void Act(Person* attacker, Person* defender);
 
   World& world;
   const Segment& segment;
   const Scene& scene;
   Cast cast;
+  Footing Under = Footing::Up;  // of {d}
+  bool Counts = true;           // the bout may end in a count
+  grapplemont::Pace Pace;
+  std::vector<PastFact> Told;  // what has been said of the past
 
  private:
+  bool Fits(const TaggedLine& line, Family family, unsigned wants) const;
+  std::vector<bool> Fitting(Family family, int band, unsigned wants) const;
+  bool SayLine(Family family, int band, int line);
+  /// For each line that `of` holds true.
+  std::vector<int> DaysUnsaid(Family family, int band, const std::vector<bool>& of);
+  void Move(Family family, const TaggedLine& line);
+
   LineMemory& memory_;
   int voice_;
   std::string text_;
@@ -57,6 +82,8 @@ int OffenceBandOf(World& world, const Worker& attacker);
 
 namespace modLamplighter {
 Blocks Offence();
+Blocks Memory();
+Blocks Beats();
 Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
@@ -65,6 +92,8 @@ Blocks Angles();
 
 namespace modTolland {
 Blocks Offence();
+Blocks Memory();
+Blocks Beats();
 Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
@@ -74,6 +103,8 @@ Blocks Verdicts();
 
 namespace modQVD {
 Blocks Offence();
+Blocks Memory();
+Blocks Beats();
 Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
@@ -83,5 +114,9 @@ Blocks Angles();
 /// The lines to draw from: the voice's, or those of the one voice that has the family for all.
 /// nullptr for a band that does not exist; the first voice stands in for an invalid number.
 const Block* BlockOf(int voice, Family family, int band);
+/// By which each of its lines is remembered (saidlines.h).
+std::span<const std::int32_t> KeysOf(int voice, Family family, int band);
+/// Each of them, apart from its tags.
+std::span<const TaggedLine> ReadLinesOf(int voice, Family family, int band);
 
 }  // namespace grapplemont

@@ -1,9 +1,11 @@
 #include "show/runsegment.h"
 
+#include <algorithm>
 #include <span>
 
 #include "report/report.h"
 #include "show/aftermatch.h"
+#include "show/holdshow.h"
 #include "show/matchscore.h"
 #include "show/overchange.h"
 #include "show/showfeuds.h"
@@ -32,12 +34,38 @@ void Do(Telling& telling) {
   Rule(telling.Run);
 }
 
+/// Nothing is booked behind this row.
+bool IsLastToCome(const World& world, int number, bool isEvent) {
+  const int last = LastRow(world, isEvent);
+  for (int row = number + 1; row <= last; ++row)
+    if (world.Segments()[row].Style != 0) return false;
+  return true;
+}
+
 void SetScene(Telling& telling) {
-  for (const TurnCall& turn : BookedTurns(telling.Run.World, telling.Run.Segment))
-    telling.Scene.Turners.push_back(turn.Turner);
+  telling.Scene.Feuds = FeudsAtTheBell(telling.Run.World);
+  const ShowRun& show = telling.Run.Show;
+  telling.Scene.Row = telling.Number;
+  telling.Scene.IsEvent = show.IsEvent;
+  telling.Scene.IsLast = IsLastToCome(telling.Run.World, telling.Number, show.IsEvent);
   if (!telling.AtStake) return;
   telling.Scene.Champion = telling.AtStake->Holder;
   telling.Scene.CoChampion = telling.AtStake->Partner;
+}
+
+/// Whoever waited for it becomes what the rules make of them.
+void MakeTurns(Telling& telling) {
+  const World& world = telling.Run.World;
+  std::vector<int> ready;
+  for (const TurnCall& turn : BookedTurns(world, telling.Run.Segment)) {
+    const Worker* worker = world.FindWorker(turn.Turner);
+    telling.Scene.Turns.push_back({turn.Turner});
+    if (worker && worker->TurnPending) ready.push_back(turn.Turner);
+  }
+  ApplyTurns(telling.Run);
+  for (Turning& turn : telling.Scene.Turns)
+    if (std::find(ready.begin(), ready.end(), turn.Uid) != ready.end())
+      turn.Becomes = world.FindWorker(turn.Uid)->Disposition.Str();
 }
 
 void LookForChampion(Telling& telling) {
@@ -45,9 +73,11 @@ void LookForChampion(Telling& telling) {
 }
 
 void WriteProse(Telling& telling) {
-  if (telling.Memory)
-    telling.Report =
-        WriteReport(telling.Run.World, telling.Run.Segment, telling.Scene, *telling.Memory);
+  if (!telling.Memory) return;
+  telling.Scene.Overall = telling.Run.Overall;
+  telling.Scene.Crowd = telling.Run.Crowd;
+  telling.Report =
+      WriteReport(telling.Run.World, telling.Run.Segment, telling.Scene, *telling.Memory);
 }
 
 void LimitBoth(SegmentRun& run) {
@@ -57,7 +87,8 @@ void LimitBoth(SegmentRun& run) {
 
 void GiveVerdict(Telling& telling) {
   if (telling.Memory)
-    telling.Verdict = Verdict(telling.Run.World, telling.Run.Segment, telling.Run.Overall);
+    telling.Verdict =
+        Verdict(telling.Run.World, telling.Run.Segment, telling.Run.Overall, telling.Memory);
 }
 
 /// What opens an Event counts for nothing.
@@ -71,26 +102,38 @@ void KeepRating(Telling& telling) {
   ++show.ShowSegments;
 }
 
-// The order is a rule: later steps read what earlier ones left. The champions of the scene are
-// those before the Title changes hands, the burn-out sees a crowd that turns have moved, a Title's
-// image and the verdict see the overall rating as it stands in the end. A talk is rated by a crowd
+// The order is a rule: later steps read what earlier ones left. The champions and feuds of the
+// scene are those before the match, the burn-out sees a crowd that turns have moved, a Title's
+// image and the words see the overall rating as it stands in the end. A talk is rated by a crowd
 // that may lie beyond its limits, which only what is shown keeps to.
 constexpr Step kMatchSteps[] = {
-    SetScene,        Do<RemarkOnShape>, Do<ScoreMatch>,         Do<MatchConsequences>,
-    Do<AddSelling>,  Do<AddStiffness>,  Do<GainTeamExperience>, LookForChampion,
-    Do<ChangeTitle>, WriteProse,        Do<ApplyTurns>,         Do<LimitBoth>,
-    Do<AddBurnOut>,  Do<WeighMatch>,    Do<MoveTitleImage>,     GiveVerdict,
+    SetScene,
+    Do<RemarkOnShape>,
+    Do<ScoreMatch>,
+    Do<MatchConsequences>,
+    Do<AddSelling>,
+    Do<AddStiffness>,
+    Do<GainTeamExperience>,
+    LookForChampion,
+    Do<ChangeTitle>,
+    MakeTurns,
+    Do<LimitBoth>,
+    Do<AddBurnOut>,
+    Do<WeighMatch>,
+    Do<MoveTitleImage>,
+    WriteProse,
+    GiveVerdict,
     KeepRating,
 };
 
 constexpr Step kInterviewSteps[] = {
-    SetScene,     Do<ScoreInterview>, WriteProse,           Do<ApplyTurns>,
-    Do<RateTalk>, Do<LimitBoth>,      Do<TalkConsequences>, KeepRating,
+    SetScene,      Do<ScoreInterview>,   MakeTurns,  WriteProse, Do<RateTalk>,
+    Do<LimitBoth>, Do<TalkConsequences>, KeepRating,
 };
 
 constexpr Step kAngleSteps[] = {
-    SetScene,     Do<ScoreAngle>, WriteProse,           Do<ApplyTurns>, Do<CapByWriters>,
-    Do<RateTalk>, Do<LimitBoth>,  Do<TalkConsequences>, KeepRating,
+    SetScene,      Do<ScoreAngle>,       MakeTurns,  WriteProse, Do<CapByWriters>, Do<RateTalk>,
+    Do<LimitBoth>, Do<TalkConsequences>, KeepRating,
 };
 
 std::span<const Step> StepsOf(const Segment& segment) {

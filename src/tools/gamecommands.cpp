@@ -103,6 +103,8 @@ int New(const Arguments& arguments, Shell& shell) {
   World world = ReadDefaultWorld(game);
   choice.PromotionUid = PromotionUid(world, *arguments.Text("--promotion"));
   const FaultList mended = Begin(world, choice);
+  if (const auto voice = arguments.Number("--voice", kLamplighter, kQvd))
+    world.Game().Reporter = static_cast<int>(*voice);
   for (const Fault& fault : mended) shell.Out << ToUtf8(fault.Line()) << "\n";
   if (mended.Count > mended.First.size())
     shell.Out << "and " << mended.Count - mended.First.size() << " more\n";
@@ -183,7 +185,8 @@ constexpr OptionKind kNewOptions[] = {{"--home", "H"},
                                       {"--promotion", "INITIALS", true},
                                       {"--difficulty", "1..4"},
                                       {"--start", "YYYY-MM-DD"},
-                                      {"--seed", "S"}};
+                                      {"--seed", "S"},
+                                      {"--voice", "0..2"}};
 constexpr OptionKind kRunOptions[] = {{"--home", "H"},
                                       {"--slot", "N", true},
                                       {"--days", "D", true},
@@ -263,7 +266,7 @@ constexpr OptionKind kTellOptions[] = {
 
 const Command kNew{"new",
                    "--home H --slot N --player NAME --promotion INITIALS --difficulty 1..4 --start "
-                   "YYYY-MM-DD --seed S",
+                   "YYYY-MM-DD --seed S [--voice 0..2]",
                    "Begins a game in a slot of the home H, in place of one that is there, on the "
                    "first of a month from the start on.",
                    0,

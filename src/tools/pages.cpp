@@ -123,7 +123,7 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
   with the rules of the house, `grudges.dat`, who is after whom at the rivals', and the past:
   `history.dat` (every show of the player's, and how each promotion stood at every month end), `bouts.dat` (the player's
   matches), `tallies.dat` (what each worker's matches add up to), `reigns.dat` (the reigns of every Title in the world),
-  `reports.dat` (the words of the last twelve shows), `mornings.dat` (what these shows moved, step by step),
+  `reports.dat` (the words of the last twelve shows), `said.dat` (when each line of the reports was last said), `mornings.dat` (what these shows moved, step by step),
   `mailread.dat` (which mails have been read), `awards.dat` (the awards of the years), `yearend.dat` (how
   popular everybody was when the last year ended), `months.dat` (how everybody stood on the firsts of twelve months),
   `moods.dat` (what moved the morale of the player's people), `rivalcards.dat` (the matches of the rivals' last shows) and

@@ -73,7 +73,8 @@ void WordsCheck::CheckIsNew(const WordsFile& file, const NumberedLine& line,
                             const Heading& heading) {
   const std::string& whole = heading.IsReport ? file.Module : heading.Name;
   const std::string place = file.Path + ":" + std::to_string(line.Number);
-  const auto [first, isNew] = said_.emplace(whole + "\n" + line.Text, place);
+  const std::string_view text = heading.IsReport ? ReadTags(line.Text).Text : line.Text;
+  const auto [first, isNew] = said_.emplace(whole + "\n" + std::string(text), place);
   if (!isNew) Report(file.Path, line.Number, "the same line stands in " + first->second);
 }
 
@@ -95,6 +96,14 @@ std::vector<std::string> LettersOf(std::string_view parts) {
   std::vector<std::string> letters;
   for (const char part : parts) letters.emplace_back(1, part);
   return letters;
+}
+
+/// "; there are down, hold and so on".
+std::string TagsKnown() {
+  std::string text;
+  for (const std::string_view tag : kLineTags)
+    text += (text.empty() ? "; there are " : ", ") + std::string(tag);
+  return text;
 }
 
 /// What may not stand behind the slot of who has lost, and what not before it.
@@ -185,9 +194,7 @@ class Reading {
   bool within_ = false;
 };
 
-}  // namespace
-
-std::string WhyNoLine(std::string_view text, const Heading& heading) {
+std::string WhyNotSaid(std::string_view text, const Heading& heading) {
   if (text.find("  ") != std::string_view::npos) return "two blanks in a row";
   if (heading.IsReport && HasSexedWord(text))
     return "write {a:himself}, with the letter of whoever it is: it goes by sex and number";
@@ -198,6 +205,19 @@ std::string WhyNoLine(std::string_view text, const Heading& heading) {
       text, [&](std::string_view words) { reading.Words(words); },
       [&](std::string_view slot) { reading.Slot(slot); });
   return reading.End();
+}
+
+}  // namespace
+
+/// Every way in which it can be said has to be sound.
+std::string WhyNoLine(std::string_view line, const Heading& heading) {
+  if (!heading.IsReport) return WhyNotSaid(line, heading);
+  const TaggedLine read = ReadTags(line);
+  if (!read.Sound) return "there is no such tag" + TagsKnown();
+  std::string why = WhyNoWays(read.Text);
+  for (int way = 0; why.empty() && way < WaysToSay(read.Text); ++way)
+    why = WhyNotSaid(SaidIn(read.Text, way), heading);
+  return why;
 }
 
 }  // namespace grapplemont

@@ -35,6 +35,6 @@ class WordsCheck {
 const Heading* FindHeading(const WordsFile& file, std::string_view name);
 
 /// Why a text cannot stand under a heading; empty for a sound line.
-std::string WhyNoLine(std::string_view text, const Heading& heading);
+std::string WhyNoLine(std::string_view line, const Heading& heading);
 
 }  // namespace grapplemont

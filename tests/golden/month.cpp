@@ -86,6 +86,7 @@ class Player {
     // What a show's rules noted tells no more than the records that they moved.
     std::erase_if(outcome.Changes, [this](const Difference& change) {
       return IsRetold(change.File) || change.File == LayoutOf<ShowNote>().File ||
+             change.File == LayoutOf<SaidLine>().File ||
              (!keepsReports_ && (change.File == LayoutOf<ReportPart>().File ||
                                  change.File == LayoutOf<CardMatch>().File));
     });

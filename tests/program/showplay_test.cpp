@@ -65,6 +65,8 @@ struct ShowPlay : GameOnWorld {
   void ExpectSameAsOther() {
     if (World().Reports().Exists())
       Other.Reports().Rewrite({World().Reports().begin(), World().Reports().end()});
+    if (World().Said().Exists())
+      Other.Said().Rewrite({World().Said().begin(), World().Said().end()});
     ExpectSame(World(), Other);
   }
 

@@ -86,7 +86,7 @@ TEST(Verdict, IsTheSecondVoicesOnMatchesByTheBandOfTheRating) {
       {kTolland, kMatch, kSingles, 1, 15, 2, 1, "MY EYES! MY EYES!"},
       {kTolland, kMatch, kSingles, 1, 16, 3, 1,
        "That gets a well-earned FIVE GIANT red-hot pokers"},
-      {kTolland, kMatch, kSingles, 1, 80, 3, 3, "*** rating. I put my pen down for a while"},
+      {kTolland, kMatch, kSingles, 1, 80, 3, 3, "*** rating: I put my pen down for a while"},
       {kTolland, kMatch, kSpecial, kRoyalRumble, 100, 3, 1, "Awesome, Match Of All Time Candidate"},
       {kTolland, kMatch, kSpecial, kTenMan, 100, 0, 0, "I don't rate battle royals. "},
       {kQvd, kMatch, kSingles, 1, 70, 0, 0, ""},
@@ -118,6 +118,18 @@ TEST(LineMemory, GivesNoLineAgainBeforeTheOthersOfItsBand) {
   EXPECT_EQ(memory.Pick(draws, &band, 3), 0);  // used: the only one left
   EXPECT_EQ(memory.Pick(draws, &band, 3), 1);  // all were used: again
   EXPECT_EQ(memory.Pick(draws, &other, 3), 1);
+}
+
+TEST(LineMemory, TakesOfTheLinesThatFit) {
+  LineMemory memory;
+  const int band = 0;
+  const std::vector<bool> lastTwo = {false, true, true};
+  ScriptedDraws draws{{3, 3}, {3, 3}, {1, 1}, {3, 1}, {2, 1}, {3, 3}, {3, 1}};
+  EXPECT_EQ(memory.Pick(draws, &band, lastTwo), 2);
+  EXPECT_EQ(memory.Pick(draws, &band, lastTwo), 1);  // the only one left of those that fit
+  EXPECT_EQ(memory.Pick(draws, &band, lastTwo), 1);  // both were used: these begin again
+  EXPECT_EQ(memory.Pick(draws, &band, {false, false, false}), 2);  // none fits: all
+  EXPECT_EQ(memory.Pick(draws, &band, {true, true, true}), 0);
 }
 
 }  // namespace

@@ -59,9 +59,10 @@ bool HasWord(const std::string& text, std::string_view word) {
 
 class Telling : public testing::TestWithParam<int> {
  protected:
-  std::string Tell(World& world, const Segment& segment, const Scene& scene = {}) {
+  std::string Tell(World& world, const Segment& segment, Scene scene = {}) {
     world.Game().Reporter = GetParam();
     memory_ = {};
+    scene.Feuds = FeudsAtTheBell(world);
     return WriteReport(world, segment, scene, memory_);
   }
   /// Expects that lines of this band were drawn, and of no other of the family.
@@ -74,6 +75,8 @@ class Telling : public testing::TestWithParam<int> {
       EXPECT_EQ(isDrawn, each == band) << HeadingOf(family) << " " << each << " in\n" << text;
     }
   }
+
+  bool Drawn(const Block* block, int line) const { return memory_.Used(block, line); }
 
  private:
   LineMemory memory_;
@@ -162,20 +165,14 @@ TEST_P(Telling, SaysWhatAMatchWasBookedFor) {
 }
 
 struct TurnCase {
-  const char* Disposition;
-  bool Pending;
+  const char* Becomes;
   int Told;
 };
 
-TEST_P(Telling, TellsATurnByWhereTheTurnerStands) {
-  for (const TurnCase& each : {TurnCase{"F", true, kTurnsHeel},
-                               {"H", true, kTurnsFace},
-                               {"T", true, kTweenerTurns},
-                               {"F", false, kBaffling},
-                               {"T", false, kBaffling}}) {
+TEST_P(Telling, TellsATurnByWhatItMakesOfTheTurner) {
+  for (const TurnCase& each :
+       {TurnCase{"H", kTurnsHeel}, {"F", kTurnsFace}, {"T", kTurnsTweener}, {"", kBaffling}}) {
     World world = Ten().Game("CWA");
-    world.Workers()[1].Disposition = each.Disposition;
-    world.Workers()[1].TurnPending = each.Pending;
     Segment match = Match(kSingles);
     match.Purpose = purpose1::kTurnWinner;
     Segment talk = EmptySegment();
@@ -184,9 +181,78 @@ TEST_P(Telling, TellsATurnByWhereTheTurnerStands) {
     talk.Purpose = kTalkTurn;
     talk.Worker[0] = 1;
     for (const Segment& segment : {match, talk}) {
-      ExpectBand(Tell(world, segment, {0, 0, {1}}), Family::Turn, each.Told, kTurnsTold);
+      ExpectBand(Tell(world, segment, {0, 0, {{1, each.Becomes}}}), Family::Turn, each.Told,
+                 kTurnsTold);
       ExpectBand(Tell(world, segment), Family::Turn, kNothing, kTurnsTold);  // no occasion
     }
+  }
+}
+
+TEST_P(Telling, TellsAFeudAsTheirsWhoHaveIt) {
+  World world = Ten().Game("CWA").Feud("Aoe Aax", "Boe Bbx");
+  const std::string partners = Tell(world, Match(kFourOnFour));
+  ExpectBand(partners, Family::FeudPartners, 0, 1);
+  ExpectBand(partners, Family::FeudOpening, kNothing, kBoils + 1);
+  ExpectBand(partners, Family::FeudEnding, kNothing, kFeudIsOver + 1);
+  Segment apart = Match(kFourOnFour);
+  std::swap(apart.Worker[1], apart.Worker[4]);
+  const std::string text = Tell(world, apart);
+  ExpectBand(text, Family::FeudPartners, kNothing, 1);
+  const std::string ending = text.substr(text.rfind('\n'));
+  for (const char* name : {"Ccx", "Ddx", "Eex", "Ffx", "Ggx", "Hhx"})
+    EXPECT_FALSE(HasWord(ending, name)) << ending;
+}
+
+TEST_P(Telling, PraisesByTheRating) {
+  World world = Ten().Game("CWA");
+  Segment match = Match(kSingles);
+  match.Purpose = purpose1::kGoodMatch;
+  for (const auto& [overall, tag] : {std::pair(44, kLowTag), {45, kMidTag}, {81, kHighTag}})
+    for (int i = 0; i < 20; ++i) {
+      Scene scene;
+      scene.Overall = overall;
+      const std::string text = Tell(world, match, scene);
+      const Block* block = BlockOf(GetParam(), Family::PurposeEnding, kGoodMatchTold);
+      for (std::size_t line = 0; line < block->Lines.size(); ++line) {
+        const unsigned tags = ReadTags(block->Lines[line]).Tags & (kLowTag | kMidTag | kHighTag);
+        if (Drawn(block, static_cast<int>(line))) {
+          EXPECT_TRUE(tags == 0 || (tags & tag) != 0) << block->Lines[line];
+        }
+      }
+    }
+}
+
+TEST_P(Telling, EndsEveryRowWithTheBookedTwo) {
+  World world = Ten().Game("CWA");
+  world.Game().Reporter = GetParam();
+  for (const MatchTypeRow& type : kMatchTypes) {
+    const BoutRow* bout = FindBout(type.Style, type.Code);
+    if (type.Style == kSpecial) continue;
+    const Segment match = Match(type.Style, type.Code);
+    for (const int winner : PeopleOf(match))
+      for (const int loser : PeopleOf(match)) {
+        if (SideOf(match, winner) == SideOf(match, loser)) continue;
+        for (const Script row : bout->Rows) {
+          const Scene scene;
+          LineMemory memory;
+          Teller teller(world, match, scene, memory);
+          Ring ring(teller);
+          Person *top = teller.cast.Find(world, winner), *under = teller.cast.Find(world, loser);
+          ring.Play(row, bout->Spot, top, under);
+          EXPECT_EQ(teller.cast.First('a'), top) << row << "\n" << teller.Text();
+          EXPECT_EQ(teller.cast.First('d'), under) << row << "\n" << teller.Text();
+        }
+      }
+  }
+}
+
+TEST_P(Telling, WritesOneStopBehindANameThatEndsInOne) {
+  World world = Ten().Game("CWA");
+  for (Worker& worker : world.Workers()) worker.ShortName = worker.ShortName.Str() + " Jr.";
+  for (const MatchTypeRow& type : kMatchTypes) {
+    const std::string text = Tell(world, Match(type.Style, type.Code));
+    for (auto at = text.find("Jr.."); at != std::string::npos; at = text.find("Jr..", at + 1))
+      EXPECT_EQ(text.substr(at, 5), "Jr...") << text;
   }
 }
 

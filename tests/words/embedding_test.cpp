@@ -63,6 +63,9 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
       {"{T} here. {?m}{m} too.", "a condition is not closed: {.} is missing"},
       {"{T}. {?m}{m}. {!feud}Hm. {.}{.}", "a condition stands inside another"},
       {"{T} is here. {.}", "{.} ends no condition"},
+      {"<dwon> {T} is here, too.",
+       "there is no such tag; there are down, hold, floor, held, anyway, trouble, worn, pin, low, "
+       "mid, high, leg, arm, back"},
       {"{T} is in.  Camera on.", "two blanks in a row"},
       {"{T} talks to himself.",
        "write {a:himself}, with the letter of whoever it is: it goes by sex and number"},
@@ -71,7 +74,7 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
   const std::string heading = "== TalkOpening, SingleTalk\n", same = "{T} backstage. Mic on.";
   std::string lines = heading;
   for (const auto& row : rows) lines += std::string(row.Line) + "\n";
-  const int first = Replace("qvd/talk.txt", heading, lines + same + "\n") + 1;
+  const int first = Replace("qvd/talk.txt", heading, lines + same + "\n" + same + "\n") + 1;
   std::vector<std::string> expected = {
       At("qvd/bouts.txt", Replace("qvd/bouts.txt", "{w} gets", "{l} wins, {w} gets")) +
       "{l} or {L} has lost, and wins here"};

@@ -91,6 +91,13 @@ constexpr Field kReportFields[] = {
     PART(Words).Means("The words."),
 };
 
+#define SAID(member) GM_FIELD(SaidLine, member)
+constexpr Field kSaidFields[] = {
+    SAID(Line).Means("A number made of the voice and the words of the line."),
+    SAID(On).Means("The day of the last show that said it."),
+    SAID(Times).Means("How often it has been said."),
+};
+
 #define AWARD(member) GM_FIELD(YearAward, member)
 constexpr Field kAwardFields[] = {
     AWARD(On).Means("31 December of the year."),
@@ -148,6 +155,8 @@ GM_LAYOUT(MatchTally, "tallies.dat", 10000, kTallyFields)
 // A hundred Titles that change hands three times a year fill it in forty years.
 GM_LAYOUT(TitleReign, "reigns.dat", 12000, kReignFields)
 GM_LAYOUT(ReportPart, "reports.dat", 8000, kReportFields)
+// Half as many again as the three voices have.
+GM_LAYOUT(SaidLine, "said.dat", 20000, kSaidFields)
 GM_LAYOUT(YearAward, "awards.dat", 2000, kAwardFields)
 GM_LAYOUT(YearEnd, "yearend.dat", 25000, kYearEndFields)
 // A dozen shows of three hundred steps each.

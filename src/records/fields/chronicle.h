@@ -92,6 +92,14 @@ struct ReportPart {
 };
 GM_RECORD(ReportPart, 220);
 
+/// When a line of the reports was last said, and how often: a record of said.dat.
+struct SaidLine {
+  Long Line;  // a number made of the voice and the line's words
+  Date On;
+  Natural Times;
+};
+GM_RECORD(SaidLine, 14);
+
 /// YearAward.Kind.
 enum AwardKind {
   kWrestlerOfTheYear = 1,

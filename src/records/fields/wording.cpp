@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <numeric>
 
 namespace grapplemont {
 
@@ -110,6 +111,63 @@ std::string Joined(const std::vector<std::string>& parts, std::string_view betwe
     text += part;
   }
   return text;
+}
+
+namespace {
+
+/// Hands a line over piece by piece: what stands outside brackets, and what within.
+template <class Outside, class Within>
+void ReadWays(std::string_view line, Outside outside, Within within) {
+  while (!line.empty()) {
+    const auto open = line.find('[');
+    const auto close = open == line.npos ? open : line.find(']', open);
+    outside(line.substr(0, close == line.npos ? line.size() : open));
+    if (close == line.npos) return;
+    within(line.substr(open + 1, close - open - 1));
+    line.remove_prefix(close + 1);
+  }
+}
+
+int CountOfWays(std::string_view choices) {
+  return 1 + static_cast<int>(std::count(choices.begin(), choices.end(), '|'));
+}
+
+std::string_view ChoiceAt(std::string_view choices, int number) {
+  for (; number > 0; --number) choices.remove_prefix(choices.find('|') + 1);
+  return choices.substr(0, choices.find('|'));
+}
+
+}  // namespace
+
+int WaysToSay(std::string_view line) {
+  int ways = 1;
+  ReadWays(
+      line, [](std::string_view) {},
+      [&](std::string_view choices) { ways = std::lcm(ways, CountOfWays(choices)); });
+  return ways;
+}
+
+std::string SaidIn(std::string_view line, int way) {
+  std::string said;
+  ReadWays(
+      line, [&](std::string_view words) { said += words; },
+      [&](std::string_view choices) { said += ChoiceAt(choices, way % CountOfWays(choices)); });
+  return said;
+}
+
+std::string WhyNoWays(std::string_view line) {
+  std::string why;
+  ReadWays(
+      line,
+      [&](std::string_view words) {
+        if (words.find_first_of("[]") != words.npos) why = "a square bracket is not closed";
+        if (words.find('|') != words.npos) why = "a bar stands outside of square brackets";
+      },
+      [&](std::string_view choices) {
+        if (choices.find('[') != choices.npos) why = "brackets stand inside of brackets";
+        if (CountOfWays(choices) < 2) why = "square brackets hold one choice alone";
+      });
+  return why;
 }
 
 }  // namespace grapplemont

@@ -51,6 +51,17 @@ std::string FillHoles(std::string_view text, Fill fill) {
   return filled;
 }
 
+// Alternatives in square brackets: "[Cover|Leg hooked], [two|no three]." The first of all brackets
+// belong together, the second of all and so on; where one has fewer, it begins again. They do not
+// stand inside each other.
+
+/// In how many ways a line can be said: 1 without brackets.
+int WaysToSay(std::string_view line);
+/// One of them, from 0; past the last the first comes again.
+std::string SaidIn(std::string_view line, int way);
+/// What is wrong with the brackets of a line; empty for nothing.
+std::string WhyNoWays(std::string_view line);
+
 /// A slot that chooses between two forms by a count: "n:contract ends|contracts end" says the count
 /// too, "n?has|have" only the word.
 struct CountedSlot {

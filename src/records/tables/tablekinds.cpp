@@ -109,7 +109,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<HouseRules>("houserules.csv", true),
           Kind<CardMatch>("rivalcards.csv", true),
           Kind<Grudge>("grudges.csv", true),
-          Kind<RingName>("ringnames.csv", true)};
+          Kind<RingName>("ringnames.csv", true),
+          Kind<SaidLine>("said.csv", true)};
 }
 
 }  // namespace

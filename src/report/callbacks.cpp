@@ -1,0 +1,109 @@
+#include <algorithm>
+
+#include "records/angles.h"
+#include "records/fields/fields.h"
+#include "records/segmentacts.h"
+#include "records/segmentforms.h"
+#include "records/segments.h"
+#include "report/pastlook.h"
+#include "report/teller.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kRecalled = 35;  // days
+constexpr int kContractSigning = 33;
+
+/// Angles in which somebody is beaten up: at which places those who do it stand, and whom they hit.
+struct AttackRow {
+  int Angle;
+  std::initializer_list<int> By, On;
+};
+const AttackRow kAttacks[] = {{kAmbush, {2, 3}, {1}}, {kGetTheTable, {3, 4}, {1, 2}},
+                              {13, {2}, {1}},         {14, {2}, {1}},
+                              {16, {2, 3}, {1}},      {kStrengthInNumbers, {2, 3, 4}, {1}},
+                              {25, {2}, {1}},         {27, {2}, {1}},
+                              {39, {2}, {1}},         {46, {1, 2}, {3, 4}},
+                              {47, {2, 3}, {1}},      {59, {1, 2}, {3, 4}}};
+
+std::vector<int> AtPlaces(const Segment& segment, std::initializer_list<int> places) {
+  std::vector<int> uids;
+  for (const int place : places)
+    if (const int uid = UidAt(segment, place); uid != 0) uids.push_back(uid);
+  return uids;
+}
+
+/// What a Segment of before holds for the two who meet now.
+class Recall {
+ public:
+  Recall(const std::vector<int>& one, const std::vector<int>& two) : one_(one), two_(two) {}
+
+  void Read(const Segment& segment, int daysAgo) {
+    if (segment.Kind == kAngle) ReadAngle(segment, daysAgo);
+    if (segment.Kind == kMatch)
+      for (const Act& act : ActsOf(segment))
+        if (act.Is(kFeudAttack))
+          Attack(PeopleOf(segment, act.By), PeopleOf(segment, act.On), daysAgo);
+    if (segment.Kind == kInterview) ReadTalk(segment, daysAgo);
+  }
+  std::vector<PastFact> Facts() { return std::move(facts_); }
+
+ private:
+  void ReadAngle(const Segment& segment, int daysAgo) {
+    for (const AttackRow& row : kAttacks)
+      if (row.Angle == segment.Style)
+        Attack(AtPlaces(segment, row.By), AtPlaces(segment, row.On), daysAgo);
+    if (segment.Style == kContractSigning &&
+        Between(AtPlaces(segment, {1}), AtPlaces(segment, {2})) != 0)
+      facts_.push_back({kSignedFor, 78, one_, two_, 0, daysAgo});
+  }
+
+  void ReadTalk(const Segment& segment, int daysAgo) {
+    const auto talkers = SeatedAs(segment, Casting::Talkers);
+    const int side = Between(talkers, SeatedAs(segment, Casting::Targets));
+    if (side == 0) return;
+    const auto managers = SeatedAs(segment, Casting::TalkManagers);
+    PastFact fact{managers.empty() ? kThreatened : kManagerSpoke,
+                  (daysAgo == 0 ? 84 : 64),
+                  side == 1 ? one_ : two_,
+                  side == 1 ? two_ : one_,
+                  0,
+                  daysAgo};
+    if (!managers.empty()) fact.Manager = managers[0];
+    facts_.push_back(std::move(fact));
+  }
+
+  void Attack(const std::vector<int>& by, const std::vector<int>& on, int daysAgo) {
+    const int side = Between(by, on);
+    if (side != 0)
+      facts_.push_back({kWasAttacked, daysAgo <= 10 ? 80 : 57, side == 1 ? two_ : one_,
+                        side == 1 ? one_ : two_, 0, daysAgo});
+  }
+
+  /// 1 or 2 for the side that does it to the other; 0 where it is between others.
+  int Between(const std::vector<int>& by, const std::vector<int>& on) const {
+    if (AnyOf(by, one_) && AnyOf(on, two_)) return 1;
+    return AnyOf(by, two_) && AnyOf(on, one_) ? 2 : 0;
+  }
+
+  const std::vector<int>&one_, &two_;
+  std::vector<PastFact> facts_;
+};
+
+}  // namespace
+
+std::vector<PastFact> CallbacksOf(Teller& teller, const std::vector<int>& one,
+                                  const std::vector<int>& two) {
+  const World& world = teller.world;
+  Recall recall(one, two);
+  for (int row = 1; row < teller.scene.Row; ++row) recall.Read(world.Segments()[row], 0);
+  for (const KeptRow& kept : world.KeptRows()) {
+    const auto days = (world.Today() - Day(kept.On)).count();
+    if (!kept.IsDraft && days > 0 && days <= kRecalled)
+      recall.Read(kept.Booked, static_cast<int>(days));
+  }
+  return recall.Facts();
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,150 @@
+#include "report/past.h"
+
+#include <algorithm>
+
+#include "records/fields/fields.h"
+#include "report/pastlook.h"
+#include "report/stages.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kMostFacts = 2;
+
+constexpr std::string_view kCounts[] = {"no",    "one",   "two",  "three", "four",   "five",  "six",
+                                        "seven", "eight", "nine", "ten",   "eleven", "twelve"};
+constexpr std::string_view kNths[] = {"",      "first",    "second",  "third",  "fourth",
+                                      "fifth", "sixth",    "seventh", "eighth", "ninth",
+                                      "tenth", "eleventh", "twelfth"};
+constexpr int kWritten = 12;
+
+struct Ago {
+  int Days;  // at most
+  std::string_view Says;
+};
+constexpr Ago kAgo[] = {{0, "earlier tonight"}, {6, "a few days ago"},   {10, "a week ago"},
+                        {17, "two weeks ago"},  {24, "three weeks ago"}, {45, "a month ago"}};
+constexpr int kNamesItsMonth = 330, kAYearAgo = 547, kYear = 365;
+
+/// Sets {F} and {S} for a line and takes them back behind it.
+void SayOf(Teller& teller, const PastFact& fact, Family family, int band) {
+  Cast& cast = teller.cast;
+  const Party first = cast.Of('F'), second = cast.Of('S'), manager = cast.Of('m');
+  cast.Set('F', teller.world, fact.One);
+  cast.Set('S', teller.world, fact.Two);
+  cast.Set('m', cast.Find(teller.world, fact.Manager));
+  cast.Set(Item::Count, fact.Count == 0 ? "" : CountText(fact.Count));
+  cast.Set(Item::Nth, fact.Count == 0 ? "" : NthText(fact.Count));
+  cast.Set(Item::When, fact.DaysAgo < 0 ? "" : AgoText(fact.DaysAgo, teller.world.Today()));
+  cast.Set(Item::Tally, fact.Tally);
+  if (!cast.Of('F').Empty()) teller.Say(family, band);
+  for (const Item item : {Item::Count, Item::Nth, Item::When, Item::Tally}) cast.Set(item, {});
+  cast.Of('F') = first;
+  cast.Of('S') = second;
+  cast.Of('m') = manager;
+}
+
+enum class Who { One, Two, Either };
+/// What comes of a fact: by which side the match was won, and whether it takes a Title for that.
+struct OutcomeRow {
+  PastKind After;
+  Who Wins;
+  bool WithTitle;
+  PastOutcome Tells;
+};
+constexpr OutcomeRow kOutcomes[] = {
+    {kMetLately, Who::One, false, kSameAgain},    {kMetLately, Who::Two, false, kPaidBack},
+    {kWasAttacked, Who::One, false, kPaidBack},   {kPartnerBeaten, Who::One, false, kPaidBack},
+    {kWinsInARow, Who::One, false, kRunGoesOn},   {kWinsInARow, Who::Two, false, kRunEnds},
+    {kLossesInARow, Who::One, false, kSlumpEnds}, {kSeriesLevel, Who::Either, false, kSeriesTips},
+    {kThreatened, Who::One, false, kWordKept},    {kThreatened, Who::Two, false, kWordEaten},
+    {kManagerSpoke, Who::One, false, kWordKept},  {kManagerSpoke, Who::Two, false, kWordEaten},
+    {kReignLong, Who::One, false, kReignGrows},   {kReignLong, Who::Two, true, kReignOver},
+    {kOnceChampion, Who::One, true, kCrownBack},  {kTitleAgain, Who::One, true, kCrownBack},
+    {kAwayLong, Who::One, false, kBackWithAWin},  {kMetFiftyTimes, Who::Either, false, kFiftyDone},
+};
+
+bool Share(const std::vector<int>& some, const std::vector<int>& others) {
+  return std::any_of(some.begin(), some.end(), [&](int uid) {
+    return std::find(others.begin(), others.end(), uid) != others.end();
+  });
+}
+
+const OutcomeRow* OutcomeOf(const PastFact& fact, const std::vector<int>& winners, bool changed) {
+  const bool one = Share(winners, fact.One), two = Share(winners, fact.Two);
+  for (const OutcomeRow& row : kOutcomes) {
+    if (row.After != fact.Is || (row.WithTitle && !changed)) continue;
+    if (row.Wins == Who::Either || (row.Wins == Who::One ? one : two)) return &row;
+  }
+  return nullptr;
+}
+
+/// The fact seen from the end: who has won comes first, unless it is about who has lost.
+PastFact AsEnded(const PastFact& fact, const OutcomeRow& row, const std::vector<int>& winners) {
+  PastFact ended = fact;
+  const bool aboutLoser = row.Tells == kRunEnds || row.Tells == kWordEaten ||
+                          row.Tells == kReignOver || row.Tells == kFiftyDone;
+  if (!aboutLoser && Share(winners, fact.Two)) std::swap(ended.One, ended.Two);
+  return ended;
+}
+
+}  // namespace
+
+std::string CountText(int count) {
+  return count >= 0 && count <= kWritten ? std::string(kCounts[count]) : std::to_string(count);
+}
+
+std::string NthText(int count) {
+  if (count >= 1 && count <= kWritten) return std::string(kNths[count]);
+  const int last = count % 10;
+  const bool plain = count % 100 / 10 == 1 || last == 0 || last > 3;
+  constexpr std::string_view kEndings[] = {"st", "nd", "rd"};
+  return std::to_string(count) + std::string(plain ? "th" : kEndings[last - 1]);
+}
+
+std::string AgoText(int days, Day today) {
+  for (const Ago& ago : kAgo)
+    if (days <= ago.Days) return std::string(ago.Says);
+  if (days <= kNamesItsMonth)
+    return "in " + std::string(MonthName(MonthOf(today - std::chrono::days(days))));
+  if (days <= kAYearAgo) return "a year ago";
+  return CountText((days + kYear / 2) / kYear) + " years ago";
+}
+
+std::vector<PastFact> PastOf(Teller& teller) {
+  if (teller.segment.Style == kSpecial || !teller.world.HasGame()) return {};
+  std::vector<PastFact> facts = LookBack(teller);
+  std::stable_sort(facts.begin(), facts.end(),
+                   [](const PastFact& a, const PastFact& b) { return a.Weight > b.Weight; });
+  return facts;
+}
+
+void TellPast(Teller& teller) {
+  teller.Told = PastOf(teller);
+  // Two of a kind would say the same of both sides.
+  const auto sameKind = [](const PastFact& a, const PastFact& b) { return a.Is == b.Is; };
+  auto& told = teller.Told;
+  told.erase(std::unique(told.begin(), told.end(), sameKind), told.end());
+  if (told.size() > kMostFacts) told.resize(kMostFacts);
+  for (const PastFact& fact : told) SayOf(teller, fact, Family::PastOpening, fact.Is);
+}
+
+void TellPastEnding(Teller& teller) {
+  const Segment& segment = teller.segment;
+  const auto winners = segment.Style == kSpecial ? std::vector<int>{} : WinnersOf(segment);
+  const bool changed = ChangesHands(teller);
+  int said = 0;
+  for (const PastMark& mark : MarksOf(teller, winners, changed)) {
+    if (said++ == kMostFacts) return;
+    SayOf(teller, mark.Of, Family::PastEnding, mark.Tells);
+  }
+  for (const PastFact& fact : teller.Told) {
+    const OutcomeRow* row = winners.empty() ? nullptr : OutcomeOf(fact, winners, changed);
+    if (!row || said == kMostFacts) continue;
+    SayOf(teller, AsEnded(fact, *row, winners), Family::PastEnding, row->Tells);
+    ++said;
+  }
+}
+
+}  // namespace grapplemont

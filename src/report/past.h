@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "records/fields/fields.h"
+#include "report/family.h"
+
+// What a match brings along from before its bell: earlier matches, runs, reigns, attacks, words.
+
+namespace grapplemont {
+
+class Teller;
+struct FeudOfSides;
+
+/// Something of the past, and whom it is about.
+struct PastFact {
+  PastKind Is{};
+  int Weight = 0;        // the more telling, the higher
+  std::vector<int> One;  // uids: who has won, waited, threatened
+  std::vector<int> Two;  // who has not; empty where nobody else is meant
+  int Count = 0;         // matches, days, wins; 0 for none to tell
+  int DaysAgo = -1;      // -1 where no day is meant
+  std::string Tally = {};
+  int Manager = 0;
+};
+
+/// From here on a fact is something that a career has once.
+inline constexpr int kOnceInACareer = 90;
+
+/// Everything that the records know, the most telling first; empty for a battle royal.
+std::vector<PastFact> PastOf(Teller& teller);
+
+/// "a week ago", "in March", "two years ago"; `today` names the month.
+std::string AgoText(int days, Day today);
+/// "three"; digits above twelve.
+std::string CountText(int count);
+/// "third", "21st".
+std::string NthText(int count);
+
+/// The two most telling facts, before the bell. Remembers them in teller.Told.
+void TellPast(Teller& teller);
+/// What the result makes of them, and what a career has once.
+void TellPastEnding(Teller& teller);
+
+}  // namespace grapplemont

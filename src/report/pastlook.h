@@ -1,0 +1,41 @@
+#pragma once
+
+#include <vector>
+
+#include "report/past.h"
+
+// How the records are read for what a match brings along.
+
+namespace grapplemont {
+
+/// In no order.
+std::vector<PastFact> LookBack(Teller& teller);
+
+/// What a result makes of a career, whatever came before.
+struct PastMark {
+  PastOutcome Tells;
+  PastFact Of;
+};
+std::vector<PastMark> MarksOf(Teller& teller, const std::vector<int>& winners, bool changed);
+/// Whether the booked result takes a Title from who held it at the bell, or fills a vacant one.
+bool ChangesHands(Teller& teller);
+
+/// What two sides have had with each other on the player's shows, draws included.
+struct Meetings {
+  int Met = 0, One = 0, Two = 0;  // matches, and those that each side has won
+  int LastYear = 0;
+  int LastDaysAgo = -1, LastWinner = 0;  // 0 for a draw
+  int BestRating = 0, BestDaysAgo = -1;  // of the present year
+};
+Meetings MeetingsOf(const World& world, int style, const std::vector<int>& one,
+                    const std::vector<int>& two);
+/// The worker's matches won in a row up to now; below 0 those lost; a draw ends either.
+int RunOf(const World& world, int uid);
+
+/// The attacks and signed contracts of the last five weeks' cards and of the rows before this one.
+std::vector<PastFact> CallbacksOf(Teller& teller, const std::vector<int>& one,
+                                  const std::vector<int>& two);
+/// Whether any of these is among the others.
+bool AnyOf(const std::vector<int>& some, const std::vector<int>& others);
+
+}  // namespace grapplemont
