@@ -18,7 +18,7 @@ namespace {
 
 constexpr VentureRow kVentures[] = {
     {Venture::Tryout, "Monthly tryout", 1500, 300,
-     "One of those who come signs for six months, for half of what they would ask.",
+     "One of those who come signs at once, on their own terms, for a tenth less than they ask.",
      "Who comes to the tryout"},
     {Venture::Scouting, "Scouting trip", 800, 150,
      "Somebody who is content elsewhere hears of you: their morale falls by 11 to 20, and below 61 "
@@ -35,7 +35,7 @@ constexpr VentureRow kVentures[] = {
     {Venture::Benefit, "A benefit for the town", 1000, 200, "Two points of your reputation.", ""}};
 
 constexpr std::size_t kTryoutPeople = 4, kCourted = 12;
-constexpr int kTryoutMonths = 6;
+constexpr int kTryoutRebate = 10;  // percent; the most that anybody gives in a talk
 constexpr int kSmallTryoutOver = 45, kBackyardTryoutOver = 25;
 constexpr int kMoraleSure = 10, kMoraleDrawn = 10;
 constexpr int kLeastLoyalty = 40;  // below it nobody talks with anybody
@@ -91,11 +91,34 @@ bool IsFreeAgent(const World& world, const Worker& worker) {
          WhyNoSigning(world, worker).empty();
 }
 
+/// What they ask, less what anybody gives in.
+SigningOffer TryoutOffer(const World& world, const Worker& worker) {
+  const Demands wants = ContractDemands(world, worker);
+  SigningOffer offer;
+  offer.Wage = wants.Wage - PercentOf(wants.Wage, kTryoutRebate);
+  offer.Months = wants.Months;
+  offer.Written = wants.Written;
+  offer.CreativeControl = wants.CreativeControl;
+  offer.Name = worker.Name.Str();
+  offer.ShortName = worker.ShortName.Str();
+  offer.Disposition = worker.Disposition.Str();
+  offer.Position = wants.Position;
+  return offer;
+}
+
+/// Only whoever would say yes in a talk comes to a tryout.
+bool WouldSign(const World& world, const Worker& worker) {
+  const SigningOffer offer = TryoutOffer(world, worker);
+  return WhyNotAsOffered(world, worker, offer).empty() &&
+         JudgeSigning(worker, ContractDemands(world, worker), offer).empty();
+}
+
 std::vector<const Worker*> ForTryout(const World& world) {
   const int most = ByClass(world, kSmallTryoutOver, kBackyardTryoutOver);
   std::vector<const Worker*> people;
   for (const Worker& worker : world.Workers())
-    if (worker.Over <= most && IsFreeAgent(world, worker)) people.push_back(&worker);
+    if (worker.Over <= most && IsFreeAgent(world, worker) && WouldSign(world, worker))
+      people.push_back(&worker);
   people = SomeByFate(world, "tryout", std::move(people), kTryoutPeople);
   SortByOver(people);
   return people;
@@ -120,17 +143,9 @@ std::vector<const Worker*> ForScouting(const World& world) {
 }
 
 std::string Try(World& world, Worker& worker) {
-  const Demands wants = ContractDemands(world, worker);
-  SigningOffer offer;
-  offer.Wage = wants.Wage / 2;
-  offer.Months = kTryoutMonths;
-  offer.Written = false;
-  offer.Name = worker.Name.Str();
-  offer.ShortName = worker.ShortName.Str();
-  offer.Disposition = worker.Disposition.Str();
-  offer.Position = PlacementPosition(worker, world.Player().Size);
+  const SigningOffer offer = TryoutOffer(world, worker);
   Sign(world, worker, offer);
-  return worker.Name + " signed for six months, at " + WageText(offer.Wage) +
+  return worker.Name + " signed for " + MonthsText(offer.Months) + ", at " + WageText(offer.Wage) +
          " a month, and waits for a debut.";
 }
 

@@ -98,11 +98,12 @@ enum class Item {
   Feud,
   Count,
   Nth,
-  When
+  When,
+  Since
 };
-inline constexpr std::string_view kItems[] = {"title",    "prize",     "no",   "tally",
-                                              "finisher", "promotion", "left", "turn",
-                                              "feud",     "count",     "nth",  "when"};
+inline constexpr std::string_view kItems[] = {"title",     "prize", "no",   "tally", "finisher",
+                                              "promotion", "left",  "turn", "feud",  "count",
+                                              "nth",       "when",  "since"};
 
 struct Hole {
   enum Kind { Bad, Name, Full, Short, Members, Word, Thing, ThingWord, If, IfNot, End };

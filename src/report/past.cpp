@@ -21,11 +21,23 @@ constexpr int kWritten = 12;
 
 struct Ago {
   int Days;  // at most
-  std::string_view Says;
+  std::string_view When, Since;
 };
-constexpr Ago kAgo[] = {{0, "earlier tonight"}, {6, "a few days ago"},   {10, "a week ago"},
-                        {17, "two weeks ago"},  {24, "three weeks ago"}, {45, "a month ago"}};
+constexpr Ago kAgo[] = {{0, "earlier tonight", "earlier tonight"},
+                        {6, "a few days ago", "the other day"},
+                        {10, "a week ago", "last week"},
+                        {17, "two weeks ago", "the week before last"},
+                        {24, "three weeks ago", "three weeks back"},
+                        {45, "a month ago", "last month"}};
 constexpr int kNamesItsMonth = 330, kAYearAgo = 547, kYear = 365;
+
+std::string MonthText(int daysAgo, Day today) {
+  return std::string(MonthName(MonthOf(today - std::chrono::days(daysAgo))));
+}
+
+std::string YearsText(int days) {
+  return CountText((days + kYear / 2) / kYear) + " years";
+}
 
 /// Sets {F} and {S} for a line and takes them back behind it.
 void SayOf(Teller& teller, const PastFact& fact, Family family, int band) {
@@ -36,10 +48,13 @@ void SayOf(Teller& teller, const PastFact& fact, Family family, int band) {
   cast.Set('m', cast.Find(teller.world, fact.Manager));
   cast.Set(Item::Count, fact.Count == 0 ? "" : CountText(fact.Count));
   cast.Set(Item::Nth, fact.Count == 0 ? "" : NthText(fact.Count));
-  cast.Set(Item::When, fact.DaysAgo < 0 ? "" : AgoText(fact.DaysAgo, teller.world.Today()));
+  const bool dated = fact.DaysAgo >= 0;
+  cast.Set(Item::When, dated ? AgoText(fact.DaysAgo, teller.world.Today()) : "");
+  cast.Set(Item::Since, dated ? SinceText(fact.DaysAgo, teller.world.Today()) : "");
   cast.Set(Item::Tally, fact.Tally);
   if (!cast.Of('F').Empty()) teller.Say(family, band);
-  for (const Item item : {Item::Count, Item::Nth, Item::When, Item::Tally}) cast.Set(item, {});
+  for (const Item item : {Item::Count, Item::Nth, Item::When, Item::Since, Item::Tally})
+    cast.Set(item, {});
   cast.Of('F') = first;
   cast.Of('S') = second;
   cast.Of('m') = manager;
@@ -105,11 +120,16 @@ std::string NthText(int count) {
 
 std::string AgoText(int days, Day today) {
   for (const Ago& ago : kAgo)
-    if (days <= ago.Days) return std::string(ago.Says);
-  if (days <= kNamesItsMonth)
-    return "in " + std::string(MonthName(MonthOf(today - std::chrono::days(days))));
-  if (days <= kAYearAgo) return "a year ago";
-  return CountText((days + kYear / 2) / kYear) + " years ago";
+    if (days <= ago.Days) return std::string(ago.When);
+  if (days <= kNamesItsMonth) return "in " + MonthText(days, today);
+  return days <= kAYearAgo ? "a year ago" : YearsText(days) + " ago";
+}
+
+std::string SinceText(int days, Day today) {
+  for (const Ago& ago : kAgo)
+    if (days <= ago.Days) return std::string(ago.Since);
+  if (days <= kNamesItsMonth) return MonthText(days, today);
+  return days <= kAYearAgo ? "last year" : YearsText(days) + " back";
 }
 
 std::vector<PastFact> PastOf(Teller& teller) {

@@ -38,6 +38,8 @@ std::string AgoText(int days, Day today);
 std::string CountText(int count);
 /// "third", "21st".
 std::string NthText(int count);
+/// The same behind "since", "until" or "of": "last week", "March", "two years back".
+std::string SinceText(int days, Day today);
 
 /// The two most telling facts, before the bell. Remembers them in teller.Told.
 void TellPast(Teller& teller);

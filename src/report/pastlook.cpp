@@ -185,7 +185,8 @@ class Look {
           Day(bout.On) >= Day(feud.Between->Started))
         ++met;
     const int days = DaysAgo(world_, feud.Between->Started);
-    if (days > kAMonth / 2) Add({kRoadHere, 82, one, two, met, days});
+    // One match is no number that is worth a word.
+    if (days > kAMonth / 2) Add({kRoadHere, 82, one, two, met > 1 ? met : 0, days});
   }
 
   /// The other one has lately beaten this one's partner.

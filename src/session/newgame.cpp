@@ -163,7 +163,7 @@ void StartWorkers(World& world) {
 
 void FillWorkers(World& world) {
   const int target = std::min(world.Promotions().Count() * 50, 750);
-  while (world.Workers().Count() < target) TellApart(world, NewFillerWorker(world));
+  while (world.Workers().Count() < target) NewFillerWorker(world);
 }
 
 void StartStaff(World& world) {

@@ -66,16 +66,16 @@ TEST(SmallMonth, ATournamentPaysByTheImageAndIsHeldOnceAMonth) {
   EXPECT_EQ(VenturesLeft(world), 6);
 }
 
-TEST(SmallMonth, TryoutsSignForHalfAndScoutingUnsettles) {
+TEST(SmallMonth, TryoutsSignForATenthLessAndScoutingUnsettles) {
   World world = Backyard();
   DrawLife(world, {{10, 4}});
   const Worker& flo = Named(world.Workers(), "Flo Reed");
-  const int asked = ContractDemands(world, flo).Wage;
+  const Demands asked = ContractDemands(world, flo);
   ASSERT_EQ(WhomFor(world, Venture::Tryout).size(), 1u);
   Undertake(world, Venture::Tryout, flo.Uid);
   EXPECT_EQ(flo.Employer, world.PlayerUid());
-  EXPECT_EQ(flo.Wage, asked / 2);
-  EXPECT_EQ(flo.ContractMonths, 6);
+  EXPECT_EQ(flo.Wage, asked.Wage - asked.Wage / 10);
+  EXPECT_EQ(flo.ContractMonths, asked.Months);
   const Worker& ed = Named(world.Workers(), "Ed Stone");
   ASSERT_EQ(WhyNotVenture(world, Venture::Scouting, ed.Uid), "");
   Undertake(world, Venture::Scouting, ed.Uid);

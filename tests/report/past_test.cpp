@@ -162,6 +162,9 @@ TEST(Past, SaysHowLongAgoAndHowOften) {
   EXPECT_EQ(AgoText(100, today), "in September");
   EXPECT_EQ(AgoText(400, today), "a year ago");
   EXPECT_EQ(AgoText(1000, today), "three years ago");
+  EXPECT_EQ(SinceText(7, today), "last week");
+  EXPECT_EQ(SinceText(100, today), "September");
+  EXPECT_EQ(SinceText(1000, today), "three years back");
   EXPECT_EQ(NthText(3), "third");
   EXPECT_EQ(NthText(21) + NthText(112) + NthText(50), "21st112th50th");
 }
@@ -180,7 +183,7 @@ TEST_P(Voices, TellThePastInWholeSentences) {
       for (int band = 0; band <= RowOf(family).Bands.Last; ++band) {
         Teller teller(world, segment, {}, memory);
         teller.cast.Set('m', teller.cast.Find(world, 2));
-        for (const Item item : {Item::Count, Item::Nth, Item::When, Item::Tally})
+        for (const Item item : {Item::Count, Item::Nth, Item::When, Item::Since, Item::Tally})
           teller.cast.Set(item, "three");
         EXPECT_TRUE(teller.Say(family, band)) << HeadingOf(family, band);
         EXPECT_EQ(teller.Text().find_first_of("[]{}|"), std::string::npos) << teller.Text();
