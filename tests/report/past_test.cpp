@@ -177,11 +177,12 @@ TEST_P(Voices, TellThePastInWholeSentences) {
   World world = Two();
   world.Game().Reporter = GetParam();
   const Segment segment = AdaBeatsBo("Crown");
+  const Scene scene;
   LineMemory memory;
   for (int round = 0; round < 8; ++round)
     for (const Family family : {Family::PastOpening, Family::PastEnding}) {
       for (int band = 0; band <= RowOf(family).Bands.Last; ++band) {
-        Teller teller(world, segment, {}, memory);
+        Teller teller(world, segment, scene, memory);
         teller.cast.Set('m', teller.cast.Find(world, 2));
         for (const Item item : {Item::Count, Item::Nth, Item::When, Item::Since, Item::Tally})
           teller.cast.Set(item, "three");
