@@ -121,7 +121,8 @@ class Look {
     if (had.LastYear >= kTooMany) Add({kMetTooOften, 70, one, two, had.LastYear + 1});
     const bool oneLeads = had.One > had.Two;
     const int high = std::max(had.One, had.Two), low = std::min(had.One, had.Two);
-    const std::string tally = CountText(high) + " to " + CountText(low);
+    const std::string tally =
+        CountText(high) + " to " + (low > 0 ? CountText(low) : std::string("nothing"));
     if (high == low && high >= 2) Add({kSeriesLevel, 55, one, two, high});
     if (high - low >= kALead)
       Add({kSeriesLed, 50, oneLeads ? one : two, oneLeads ? two : one, high, -1, tally});
