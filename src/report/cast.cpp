@@ -287,7 +287,7 @@ class Filler {
     else
       out_ += cast_.NameOf(hole.Part, hole.Is);
     if (out_.ends_with('.')) namesStop_ = out_.size();
-    lastWasName_ = hole.Is != Hole::Word && hole.Is != Hole::Thing && hole.Is != Hole::ThingWord;
+    lastWasName_ = hole.Is != Hole::Word && hole.Is != Hole::ThingWord;
     if (BeginsSentence(at) && at < out_.size() && out_[at] >= 'a' && out_[at] <= 'z')
       out_[at] = static_cast<char>(out_[at] - 32);
   }
