@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "records/segments.h"
-#include "report/past.h"
+#include "report/pasttold.h"
 #include "report/stages.h"
 
 namespace grapplemont {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "report/past.h"
+#include "report/pasttold.h"
 
 // How the records are read for what a match brings along.
 

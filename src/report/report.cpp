@@ -5,7 +5,7 @@
 #include "records/angles.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
-#include "report/past.h"
+#include "report/pasttold.h"
 #include "report/stages.h"
 
 namespace grapplemont {

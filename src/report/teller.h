@@ -9,7 +9,7 @@
 #include "report/family.h"
 #include "report/line.h"
 #include "report/pace.h"
-#include "report/past.h"
+#include "report/pasttold.h"
 #include "report/report.h"
 
 namespace grapplemont {

@@ -1,4 +1,4 @@
-#include "report/past.h"
+#include "report/pasttold.h"
 
 #include <algorithm>
 
