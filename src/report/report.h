@@ -45,6 +45,10 @@ std::vector<Feud> FeudsAtTheBell(const World& world);
 /// Which lines a show has used, so that none comes again before the others of its band have.
 class LineMemory {
  public:
+  LineMemory() = default;
+  /// For what must read the same whenever it is told: no other show counts, and no later one knows.
+  static LineMemory Apart() { return LineMemory(SaidLines(true)); }
+
   /// A line of the band, from 0: the one that a draw of `lines` names, or, if the show has used it
   /// already, one that a second draw picks among those it has not. Once all have been used, the
   /// band begins again. `band` tells the bands apart. Requires at least one line.
@@ -64,6 +68,8 @@ class LineMemory {
   SaidLines& Said() { return said_; }
 
  private:
+  explicit LineMemory(SaidLines said) : said_(std::move(said)) {}
+
   SaidLines said_;
   std::unordered_map<const void*, std::vector<bool>> used_;
   std::map<std::pair<const void*, int>, std::vector<bool>> bySpeaker_;

@@ -47,18 +47,18 @@ int SaidLines::NumberOf(const World& world, std::int32_t key) {
 }
 
 int SaidLines::DaysSince(const World& world, std::int32_t key) {
-  const int number = world.HasGame() ? NumberOf(world, key) : 0;
+  const int number = world.HasGame() && !apart_ ? NumberOf(world, key) : 0;
   if (number == 0) return kNever;
   return std::max(0, static_cast<int>((world.Today() - Day(world.Said()[number].On)).count()));
 }
 
 int SaidLines::Times(const World& world, std::int32_t key) {
-  const int number = NumberOf(world, key);
+  const int number = apart_ ? 0 : NumberOf(world, key);
   return number == 0 ? 0 : int(world.Said()[number].Times);
 }
 
 void SaidLines::Say(World& world, std::int32_t key) {
-  if (!world.HasGame()) return;
+  if (!world.HasGame() || apart_) return;
   if (const int number = NumberOf(world, key); number != 0) {
     SaidLine& line = world.Said()[number];
     line.On = world.Today();

@@ -14,6 +14,9 @@ std::int32_t LineKey(int voice, std::string_view line);
 /// The lines that the shows of a slot have said (said.dat). A world without a game remembers none.
 class SaidLines {
  public:
+  SaidLines() = default;
+  /// Apart from the slot none is remembered and none noted.
+  explicit SaidLines(bool apart) : apart_(apart) {}
   /// Days since a show said it; kNever for a line that none has.
   int DaysSince(const World& world, std::int32_t key);
   static constexpr int kNever = 1 << 30;
@@ -28,6 +31,7 @@ class SaidLines {
 
   std::unordered_map<std::int32_t, int> numbers_;  // of the records
   int read_ = 0;                                   // records that these are
+  bool apart_ = false;
 };
 
 }  // namespace grapplemont

@@ -113,7 +113,7 @@ std::string TellMatch(World& world, const CardMatch& match) {
   const int day = static_cast<int>((Day(match.On) - kDayZero).count());
   auto before = world.ExchangeProse(std::make_unique<SeededDraws>(
       world.Fate("rival's match", {match.Promotion, day, match.Show, match.Row})));
-  LineMemory memory;
+  LineMemory memory = LineMemory::Apart();
   std::string told = WriteReport(world, SegmentOf(match), SceneOf(match), memory);
   world.ExchangeProse(std::move(before));
   return told;
