@@ -90,6 +90,7 @@ enum class Family {
   PastOpening,
   PastEnding,
   Interlude,
+  Squash,  // {w} has {l} beaten for a Title in next to no time
   // Talk and angles.
   TalkOpening,
   Speech,
@@ -138,7 +139,7 @@ enum Stipulation {
   kTlcSpot
 };
 
-/// Bands of Beat. Its lines go by the crowd's rating.
+/// Bands of Beat.
 enum BeatTold {
   kComeback,   // {a} has turned it, who had taken a good deal
   kInTrouble,  // {d} has taken a good deal
@@ -172,7 +173,15 @@ enum PurposeTold {
   kRunInDebutTold,
   kPurposesTold
 };
-enum TurnTold { kTurnsHeel, kTurnsFace, kTurnsTweener, kBaffling, kTurnsTold };
+enum TurnTold {
+  kTurnsHeel,
+  kTurnsFace,
+  kTurnsTweener,
+  kBaffling,
+  kFellFlat,  // {?face}, {?heel} or {?tweener}
+  kTooSoon,
+  kTurnsTold
+};
 
 /// Bands of PastOpening. {F} is whom it is about, {S} the others.
 enum PastKind {
@@ -199,7 +208,8 @@ enum PastKind {
   kSignedFor,
   kManagerSpoke,  // {m} for {F}
   kYearsBest,     // the two had one of the year's best {when}
-  kRoadHere       // a feud since {when}, {count} matches
+  kRoadHere,      // a feud since {when}, {count} matches
+  kYearRecalled   // {F} beat {S} {when}, in the year's best: as December's Event opens
 };
 /// Bands of PastEnding.
 enum PastOutcome {
@@ -221,6 +231,7 @@ enum PastOutcome {
   kFiftyDone,
   kWentTooFar,    // {F} is badly hurt
   kPerfectMatch,  // behind the rating
+  kYearStands     // as December's Event closes, and none was better than that of {F} and {S}
 };
 /// Bands of Interlude. {a} and {d} as in the step before.
 enum InterludeKind {
@@ -233,6 +244,7 @@ enum InterludeKind {
   kSplit,    // some like it, some do not
   kDivided,  // one half for {a}, one for {d}
   kQuiet,
+  kWakes,  // once it has something to look at
   kHope,
   kDesperate,
   kDoubt,
@@ -242,6 +254,12 @@ enum InterludeKind {
   kAfterBell
 };
 
+/// Bands of Squash: before the few steps, and behind them.
+enum SquashTold { kSquashBegins, kSquashDone };
+
+/// What the second reporter calls a dud, no line praises, and what comes up to here none shrugs
+/// off.
+inline constexpr int kDudUpTo = 45, kFairUpTo = 80;
 /// Bands of Verdict: the highest Overall that each rates.
 inline constexpr int kVerdictsUpTo[] = {15, 20, 25, 30, 35, 40, 45, 50, 55, 60, 66,
                                         71, 75, 80, 84, 86, 90, 93, 97, 99, 100};
@@ -278,6 +296,8 @@ struct FamilyRow {
   int Lines = 0;           // of each band, at least
   bool Exact = false;      // not a line more
   int Only = kEveryVoice;  // the voice that has it for all
+  /// Bands that judge the match, a bit for each: every line of theirs says for which ratings.
+  std::uint32_t Rated = 0;
 
   constexpr bool Has(int band) const {
     return band >= Bands.First && band <= Bands.Last &&

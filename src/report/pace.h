@@ -13,7 +13,8 @@ class Teller;
 int ImportanceOf(Teller& teller);
 
 /// The room that a match gets. One that matters has sentences of its own between the steps of its
-/// row, three times as many as the row at most; any other is as short as its row.
+/// row, up to three a step and nine more a row, so that a short one has room too; any other is as
+/// short as its row.
 class Pace {
  public:
   /// Before the bell: sees what the match matters, and says what is in the air.
@@ -36,6 +37,8 @@ class Pace {
   bool Matters() const { return units_ > 0; }
   void Say(Teller& teller, int beat);
   int CrowdBeat(Teller& teller) const;
+  /// A warm crowd has seen something, and has not been told to wake.
+  bool IsToWake(const Teller& teller) const;
   int Choose(Teller& teller, char step) const;
 
   int importance_ = 0;

@@ -49,10 +49,15 @@ void TellMatch(Teller& teller) {
   TellAftermath(teller);
 }
 
-bool HasTurnPending(const Teller& teller) {
+/// What the turns of an angle make of those who turn, as far as the crowd goes along.
+void SetTurn(Teller& teller) {
   const auto& turns = teller.scene.Turns;
-  return std::any_of(turns.begin(), turns.end(),
-                     [](const Turning& turn) { return !turn.Becomes.empty(); });
+  if (std::any_of(turns.begin(), turns.end(), [](auto& turn) { return !turn.Becomes.empty(); }))
+    teller.cast.Set(Item::Turn, "turn");
+  const bool isHit = std::all_of(turns.begin(), turns.end(), [&](const Turning& turn) {
+    return !turn.FellFlat && !turn.CameTooSoon && turn.Becomes == turns.front().Becomes;
+  });
+  if (isHit && !turns.empty()) SetSide(teller, turns.front().Becomes);
 }
 
 }  // namespace
@@ -60,6 +65,7 @@ bool HasTurnPending(const Teller& teller) {
 std::string WriteReport(World& world, const Segment& segment, const Scene& scene,
                         LineMemory& memory) {
   Teller teller(world, segment, scene, memory);
+  if (scene.Row == 1) TellYear(teller, Family::PastOpening, kYearRecalled);
   switch (segment.Kind) {
     case kMatch:
       TellMatch(teller);
@@ -73,6 +79,7 @@ std::string WriteReport(World& world, const Segment& segment, const Scene& scene
     default:
       break;
   }
+  if (scene.IsLast) TellYear(teller, Family::PastEnding, kYearStands);
   return teller.Text();
 }
 
@@ -115,17 +122,6 @@ int LineMemory::Pick(Draws& draws, const void* band, std::vector<bool> fits,
   return static_cast<int>(picked);
 }
 
-int LineMemory::PickFor(Draws& draws, const void* band, int speaker, std::span<const int> days) {
-  std::vector<bool>& said = bySpeaker_[{band, speaker}];
-  said.resize(days.size());
-  std::vector<bool> fits = said;
-  fits.flip();
-  const int picked = Pick(draws, band, std::move(fits), days);
-  if (said[static_cast<std::size_t>(picked)]) said.assign(said.size(), false);
-  said[static_cast<std::size_t>(picked)] = true;
-  return picked;
-}
-
 bool LineMemory::Used(const void* band, int line) const {
   const auto found = used_.find(band);
   return found != used_.end() && found->second[static_cast<std::size_t>(line)];
@@ -151,7 +147,7 @@ void TellInterview(Teller& teller) {
 }
 
 void TellAngle(Teller& teller) {
-  if (HasTurnPending(teller)) teller.cast.Set(Item::Turn, "turn");
+  SetTurn(teller);
   teller.Say(Family::AngleText, teller.segment.Style);
   for (const Turning& turn : teller.scene.Turns) {
     if (turn.Becomes.empty()) continue;

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 #include "records/fields/outside.h"
@@ -24,6 +23,8 @@ std::string_view VoiceName(int voice);
 struct Turning {
   int Uid = 0;
   std::string Becomes = {};  // the disposition behind it; empty where nobody was prepared for it
+  bool FellFlat = false;     // the crowd did not like it
+  bool CameTooSoon = false;  // it remembered the last one
 };
 
 constexpr int kUnrated = -1;
@@ -36,8 +37,12 @@ struct Scene {
   std::vector<Feud> Feuds = {};  // as they stood when the bell rang
   int Row = 0;                   // of the sheet; 0 outside a show
   bool IsLast = false, IsEvent = false;
-  int Overall = kUnrated;  // what the match is rated, 0 to 100
-  int Crowd = kUnrated;    // the same of the crowd
+  int Overall = kUnrated;         // what the match is rated, 0 to 100
+  int Crowd = kUnrated;           // the same of the crowd
+  std::optional<Feud> Ends = {};  // the feud that the match was booked to end
+  /// A match on another promotion's card, read at any time behind its day; 0 on a show of ours.
+  int Promotion = 0;
+  Day On = {};
 };
 /// The feuds of now, for a Scene.
 std::vector<Feud> FeudsAtTheBell(const World& world);
@@ -59,8 +64,6 @@ class LineMemory {
   int Pick(Draws& draws, const void* band, int lines, std::span<const int> days = {}) {
     return Pick(draws, band, std::vector<bool>(static_cast<std::size_t>(lines), true), days);
   }
-  /// The same, and as long as there are others none that this speaker has said tonight.
-  int PickFor(Draws& draws, const void* band, int speaker, std::span<const int> days);
   /// Whether it was picked since the band last began. What a text says cannot tell: two bands may
   /// use the same words.
   bool Used(const void* band, int line) const;
@@ -72,7 +75,6 @@ class LineMemory {
 
   SaidLines said_;
   std::unordered_map<const void*, std::vector<bool>> used_;
-  std::map<std::pair<const void*, int>, std::vector<bool>> bySpeaker_;
 };
 
 /// The prose of a match, an interview or an angle, in paragraphs. Draws from World::Prose alone, so

@@ -132,6 +132,7 @@ void Ring::Play(std::string_view script, int spot, const Person* last, const Per
   Plan(script, last, under);
   Begin(script, plan_.back().Attacker, last);
   Begin(script, plan_.back().Defender, under);
+  teller_.Under = Footing::Up;  // a fall or an exchange begins
   Pace& pace = teller_.Pace;
   pace.Begin(static_cast<int>(script.size()));
   Drama drama(teller_);
@@ -142,7 +143,9 @@ void Ring::Play(std::string_view script, int spot, const Person* last, const Per
     if (IsCount(script[at])) LayDown();
     pace.Before(teller_, script[at], drama.Before(script[at]));
     Step(script, at, spot);
+    teller_.IsCoverNext = at + 1 < script.size() && IsCount(script[at + 1]);
     pace.After(teller_, script[at], drama.After(script[at]));
+    teller_.IsCoverNext = false;
   }
 }
 
@@ -160,7 +163,10 @@ void Ring::Step(std::string_view script, std::size_t at, int spot) {
     case '~':
       attacker_ = plan_[at + 1].Attacker;
       defender_ = plan_[at + 1].Defender;
-      Act();
+      if (step == '#')
+        teller_.TurnRound(Legal(attacker_), Legal(defender_));
+      else
+        Act();
       teller_.Say(step == '#' ? Family::Counter : Family::BreakIn);
       break;
     case 'S':

@@ -1,6 +1,5 @@
 #include "show/runsegment.h"
 
-#include <algorithm>
 #include <span>
 
 #include "report/report.h"
@@ -48,6 +47,8 @@ void SetScene(Telling& telling) {
   telling.Scene.Row = telling.Number;
   telling.Scene.IsEvent = show.IsEvent;
   telling.Scene.IsLast = IsLastToCome(telling.Run.World, telling.Number, show.IsEvent);
+  if (const int slot = FeudEndedBy(telling.Run.World, telling.Run.Segment); slot != 0)
+    telling.Scene.Ends = telling.Run.World.Feuds()[slot];
   if (!telling.AtStake) return;
   telling.Scene.Champion = telling.AtStake->Holder;
   telling.Scene.CoChampion = telling.AtStake->Partner;
@@ -55,17 +56,14 @@ void SetScene(Telling& telling) {
 
 /// Whoever waited for it becomes what the rules make of them.
 void MakeTurns(Telling& telling) {
-  const World& world = telling.Run.World;
-  std::vector<int> ready;
-  for (const TurnCall& turn : BookedTurns(world, telling.Run.Segment)) {
-    const Worker* worker = world.FindWorker(turn.Turner);
-    telling.Scene.Turns.push_back({turn.Turner});
-    if (worker && worker->TurnPending) ready.push_back(turn.Turner);
+  for (const TurnMade& made : ApplyTurns(telling.Run)) {
+    Turning turn{.Uid = made.Turner,
+                 .FellFlat = made.Outcome == TurnOutcome::Flat,
+                 .CameTooSoon = made.Outcome == TurnOutcome::TooSoon};
+    if (made.Outcome != TurnOutcome::Baffling)
+      turn.Becomes = telling.Run.World.FindWorker(made.Turner)->Disposition.Str();
+    telling.Scene.Turns.push_back(std::move(turn));
   }
-  ApplyTurns(telling.Run);
-  for (Turning& turn : telling.Scene.Turns)
-    if (std::find(ready.begin(), ready.end(), turn.Uid) != ready.end())
-      turn.Becomes = world.FindWorker(turn.Uid)->Disposition.Str();
 }
 
 void LookForChampion(Telling& telling) {

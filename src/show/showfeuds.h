@@ -47,6 +47,8 @@ void TallyVerbal(SegmentRun& run, int speakerUid, int targetUid);
 /// Every attack that a match's run-ins and aftermath stand for.
 void TallyAttacks(SegmentRun& run);
 
+/// The slot of the feud that a match is booked to end; 0 for none.
+int FeudEndedBy(const World& world, const Segment& segment);
 /// A match that is booked to end its workers' feud does: both sides gain or lose by how it went,
 /// some write about it, and its slot is free. Nothing for other matches.
 void EndFeudByMatch(SegmentRun& run);

@@ -14,8 +14,6 @@ namespace grapplemont {
 
 namespace {
 
-enum class TurnOutcome { Completed, Flat, TooSoon, Baffling };
-
 /// What the fans remember of a last turn: within Days of it, a draw of kMemory below Below spoils
 /// the new one.
 struct Memory {
@@ -246,7 +244,7 @@ bool IsSureToFail(const Worker& turner, const Worker* other) {
   return row && row->MayFallFlat && row->FlatWhen == Popularity::Any;
 }
 
-void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
+TurnOutcome ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
   TurnOutcome outcome = RememberedTurn(run.World, turner);
   if (!turner.TurnPending)
     outcome = TurnOutcome::Baffling;
@@ -258,6 +256,7 @@ void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
     CompleteTurn(run, turner);
   else
     FailTurn(run, turner, kFailedTurns[static_cast<int>(outcome) - 1]);
+  return outcome;
 }
 
 std::vector<TurnCall> BookedTurns(const World& world, const Segment& segment) {
@@ -268,10 +267,12 @@ std::vector<TurnCall> BookedTurns(const World& world, const Segment& segment) {
   return calls;
 }
 
-void ApplyTurns(SegmentRun& run) {
+std::vector<TurnMade> ApplyTurns(SegmentRun& run) {
+  std::vector<TurnMade> made;
   for (const TurnCall& call : BookedTurns(run.World, run.Segment))
     if (Worker* turner = run.World.FindWorker(call.Turner))
-      ApplyTurn(run, *turner, run.World.FindWorker(call.Other));
+      made.push_back({call.Turner, ApplyTurn(run, *turner, run.World.FindWorker(call.Other))});
+  return made;
 }
 
 }  // namespace grapplemont

@@ -132,7 +132,6 @@ class frmMatchOutput : public ui::Screen {
 
   void ShowFigures() {
     const bool isMatch = told_ && world().Segments()[run().Current].Kind == kMatch;
-    lblanalysis.Text = isMatch ? "Match Analysis" : "Analysis";
     for (int i = 1; i <= kFigureCount; ++i) {
       const bool shown = told_ && (isMatch || i != 1);
       txtfigures(i).Visible = shown;
