@@ -53,14 +53,14 @@ bool IsDisplayNamed() {
 
 void Take(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (type == QtDebugMsg || type == QtInfoMsg) return;
-  const std::string said = text.simplified().toStdString();
-  watched.Log->Note(said);
+  const std::string whole = qFormatLogMessage(type, context, text).toStdString();
+  watched.Log->Note(whole);
   if (watched.HasDisplay) {
-    std::cerr << qFormatLogMessage(type, context, text).toStdString() << std::endl;
+    std::cerr << whole << std::endl;
   } else if (type == QtFatalMsg) {
     GoOnWithout();
   } else {
-    watched.Last = said;
+    watched.Last = text.simplified().toStdString();
   }
 }
 
