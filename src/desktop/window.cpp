@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QTimer>
 #include <algorithm>
 
@@ -56,7 +57,10 @@ Window::~Window() {
 }
 
 QString Window::PictureFile(const std::string& name) const {
-  return QDir::cleanPath(options_.Pictures + "/" + Shown(name));
+  for (const QString& folder : options_.Pictures)
+    if (const QString file = folder + "/" + Shown(name); QFileInfo(file).isFile())
+      return QDir::cleanPath(file);
+  return {};
 }
 
 void Window::KeepPage(const QString& file) {

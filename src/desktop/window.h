@@ -41,8 +41,8 @@ class WindowDesk : public ui::Desk {
 class Window : public QMainWindow, public Stage {
  public:
   struct Options {
-    QString Pictures;  // the folder gfx/
-    QString Settings;  // the file settings.ini; empty: nothing is kept
+    QStringList Pictures;  // folders over each other, the uppermost first
+    QString Settings;      // the file settings.ini; empty: nothing is kept
     std::function<void()> Closing;
     std::function<OpenGame()> Game = {};  // what is being played; without it no game is
     /// Plays a sound at a volume in percent, without waiting for it; without it there is none.
@@ -67,6 +67,9 @@ class Window : public QMainWindow, public Stage {
   void SetVolume(int percent);
   void SetDates(DateForm form);
   void TurnFullScreen();
+  /// The desktop has turned dark or light; who has chosen its colours sees that, once what is under
+  /// way is done.
+  void FollowDesktop(bool dark);
   /// All views are made again: their sizes and colours were taken when they were built.
   void Relook();
 

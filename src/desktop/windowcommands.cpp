@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QTimer>
 #include <algorithm>
 
 #include "desktop/window.h"
@@ -99,12 +100,24 @@ void Window::OpenGlossary(const std::string& term) {
 }
 
 void Window::TurnColours() {
+  const bool followed = settings_.Colours() == Scheme::System;
   SetColours(IsDark(settings_.Colours()) ? Scheme::Light : Scheme::Dark);
+  if (followed)
+    Hint(*this, "Window Options (Ctrl ,) have the desktop's own colours again.", ui::Tone::Muted);
 }
 
 void Window::SetColours(Scheme scheme) {
   settings_.SetColours(scheme);
   Relook();
+}
+
+void Window::FollowDesktop(bool dark) {
+  constexpr int kLater = 250;  // milliseconds
+  if (acting_ > 0 || busy_ || box_) {
+    QTimer::singleShot(kLater, this, [this, dark] { FollowDesktop(dark); });
+    return;
+  }
+  if (HearDesktop(dark) && settings_.Colours() == Scheme::System) Relook();
 }
 
 void Window::TurnFullScreen() {

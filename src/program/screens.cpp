@@ -82,6 +82,7 @@ namespace grapplemont {
   SCREEN(frmGameMenu)        \
   SCREEN(frmCredits)         \
   SCREEN(frmCreditsXtra)     \
+  SCREEN(frmAbout)           \
   SCREEN(frmNewGame)         \
   SCREEN(frmLoadGame)        \
   SCREEN(frmWait)            \

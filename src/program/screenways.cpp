@@ -71,6 +71,8 @@ constexpr PageRow kStartPages[] = {
     {"Load Game", "continue save slots import export", "frmLoadGame"},
     {"File Editor", "data records change", "frmEditor"},
     {"Credits", "authors makers", "frmCredits"},
+    {"About Grapplemont", "version licence license libraries new changes log faults bug report",
+     "frmAbout"},
 };
 
 void OpenPage(Game& game, const PageRow& page, const std::string& why) {

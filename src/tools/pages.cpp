@@ -235,8 +235,7 @@ int Formats(const Arguments&, Shell& shell) {
 }  // namespace
 
 const Command kColumns{
-    "columns", "", "Prints the part of docs/world-making.md that tells every column.",
-    0,         {}, Columns};
-const Command kFormats{"formats", "", "Prints docs/file-formats.md.", 0, {}, Formats};
+    "columns", "", "Prints the part of docs/world-making.md that tells every column.", {}, Columns};
+const Command kFormats{"formats", "", "Prints docs/file-formats.md.", {}, Formats};
 
 }  // namespace grapplemont::tools

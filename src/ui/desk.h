@@ -121,6 +121,10 @@ class Desk {
   /// Opens what can be set about the shell itself; a shell without such a thing has none.
   Handler OpenShellOptions;
 
+  /// Hears of every fault that took an event back: the screen below it and the reason, for a log.
+  /// Must not throw.
+  std::function<void(const std::string& fault)> NoteFault;
+
   HelpPages Help;
   /// Opens the help for the top screen; false where there is none.
   bool OpenHelp();

@@ -167,5 +167,49 @@ TEST(Shortened, EndsInDotsWhereItIsCut) {
   EXPECT_EQ(console::Shortened("one\ntwo", 9), "one two");
 }
 
+TEST(Completion, KnowsTheCommandsAndTheControlsThatEachCanWork) {
+  std::istringstream in;
+  std::ostringstream out;
+  console::Console desk(in, out, {});
+  std::vector<std::string> clicks;
+  SampleScreen::On(desk, clicks);
+  using Words = std::vector<std::string>;
+  const std::pair<const char*, Words> kRows[] = {
+      {"cl", {"click"}},
+      {"s", {"share", "show", "slide"}},
+      {"click cmds", {"cmdsay"}},
+      {"click cmdo", {}},  // it is disabled
+      {"show cmdo", {"cmdoff"}},
+      {"show cmdh", {}},  // it is hidden
+      {"type ", {"txtname", "txtnotes"}},
+      {"pick ", {"cmbkind", "lstmany", "lstnone", "lstpeople"}},
+      {"open cmb", {}},
+      {"slide h", {"hsprice"}},
+      {"type txtname tx", {}},  // that is a text
+      {"nonsense c", {}}};
+  for (const auto& [before, words] : kRows) EXPECT_EQ(desk.CompletionsOf(before), words) << before;
+}
+
+TEST(Typing, TakesLinesFromThePersonOnlyBehindAPrompt) {
+  for (const bool prompt : {true, false}) {
+    std::vector<std::string> typed{"click cmddoit", "quit"}, clicks;
+    std::istringstream in("click cmdask\nyes\n");
+    std::ostringstream out;
+    console::Settings settings{.Prompt = prompt};
+    settings.Ask = [&](const std::string& asked, const console::Completions& completions) {
+      EXPECT_EQ(asked, "> ");
+      EXPECT_EQ(completions("qu"), std::vector<std::string>{"quit"});
+      console::Line line{typed.front()};
+      typed.erase(typed.begin());
+      return std::optional(line);
+    };
+    console::Console desk(in, out, settings);
+    SampleScreen::On(desk, clicks);
+    clicks.clear();
+    desk.Run();
+    EXPECT_EQ(clicks.front(), prompt ? "cmddoit" : "yes");
+  }
+}
+
 }  // namespace
 }  // namespace grapplemont::test

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <memory>
 
+#include "desktop/desktopcolours.h"
+#include "desktop/look.h"
 #include "desktop/player.h"
 #include "desktop/sharing.h"
 #include "desktop/sound.h"
@@ -289,6 +291,27 @@ TEST_F(TheOptions, FillTheScreenByF11) {
     Play->Key(Qt::Key_F11);
     EXPECT_EQ(Play->Window.isFullScreen(), full);
   }
+}
+
+TEST(TheDesktopsColours, AreFollowedWhileItRunsUntilThePlayerChoosesOthers) {
+  Player play;
+  desktop::DesktopColours desktop([&](bool dark) { play.Window.FollowDesktop(dark); });
+  const auto turn = [&](uint preference, const char* key = "color-scheme") {
+    desktop.Heard("org.freedesktop.appearance", key, QDBusVariant(preference));
+    return desktop::ColoursOf(&play.Window).Dark;
+  };
+  play.Window.SetColours(desktop::Scheme::System);
+  EXPECT_FALSE(turn(2));
+  EXPECT_FALSE(turn(1, "accent-color"));
+  EXPECT_FALSE(turn(0)) << "no preference is no change";
+  EXPECT_TRUE(turn(1));
+  desktop.Heard("org.freedesktop.appearance", "color-scheme",
+                QDBusVariant(QVariant::fromValue(QDBusVariant(2u))));
+  EXPECT_FALSE(desktop::ColoursOf(&play.Window).Dark) << "as the first answer is wrapped";
+  play.Window.SetColours(desktop::Scheme::Light);
+  EXPECT_FALSE(turn(1)) << "the player's own";
+  play.Window.SetColours(desktop::Scheme::System);
+  EXPECT_TRUE(desktop::ColoursOf(&play.Window).Dark) << "back to what the desktop has by now";
 }
 
 }  // namespace

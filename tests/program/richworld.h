@@ -44,10 +44,11 @@ inline constexpr const char* kInGame[] = {
 
 /// Those that come before one, and the editor's.
 inline constexpr const char* kBeforeGame[] = {
-    "frmTitleScreen",  "frmDisclaimer",   "frmGameMenu",   "frmCredits",        "frmCreditsXtra",
-    "frmNewGame",      "frmLoadGame",     "frmWait",       "frmLoadingScreens", "frmEditor",
-    "frmEditWres",     "frmEditPromo",    "frmEditOwners", "frmEditStaff",      "frmEditTeams",
-    "frmEditStables",  "frmEditBelts",    "frmEditTv",     "frmEditEvents",     "frmEditNetworks",
-    "frmEditSponsors", "frmEditMaintain", "frmEditMerge",  "frmEditImport",     "frmEditTables"};
+    "frmTitleScreen",  "frmDisclaimer",   "frmGameMenu",     "frmCredits",    "frmCreditsXtra",
+    "frmAbout",        "frmNewGame",      "frmLoadGame",     "frmWait",       "frmLoadingScreens",
+    "frmEditor",       "frmEditWres",     "frmEditPromo",    "frmEditOwners", "frmEditStaff",
+    "frmEditTeams",    "frmEditStables",  "frmEditBelts",    "frmEditTv",     "frmEditEvents",
+    "frmEditNetworks", "frmEditSponsors", "frmEditMaintain", "frmEditMerge",  "frmEditImport",
+    "frmEditTables"};
 
 }  // namespace grapplemont::test
