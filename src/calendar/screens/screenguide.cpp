@@ -18,23 +18,30 @@ ui::Box GuideCard::Layout() {
   return ui::Group("Your first show", {txtguide, ui::Columns({cmdstep, cmdguide, ui::Spacer()})});
 }
 
-/// What comes next stands out and is told in full; what is done says so.
+/// What comes next stands out and is told in full, between what is done and what comes later: the
+/// desk has room for no more.
 void GuideCard::Show() {
   using Style = ui::Report::Style;
+  std::string done, later;
   std::vector<ui::Report::Paragraph> words;
-  bool hasNext = false;
   page_.clear();
   int number = 0;
   for (const GuideLine& line : GuideLines(game_.World())) {
-    const bool isNext = !line.IsDone && !hasNext;
-    hasNext = hasNext || isNext;
-    const Style style = line.IsDone ? Style::Muted : isNext ? Style::Strong : Style::Line;
-    words.push_back({style, std::to_string(++number) + ". " + (line.IsDone ? "Done. " : "") +
-                                std::string(line.Title)});
-    if (!isNext) continue;
-    words.push_back({Style::Body, std::string(line.Says)});
-    page_ = line.Page;
+    const std::string title(line.Title), place = std::to_string(++number) + ". ";
+    const auto add = [](std::string& to, const std::string& step) {
+      to += (to.empty() ? "" : "  ") + step;
+    };
+    if (line.IsDone) {
+      add(done, place + "Done. " + title);
+    } else if (words.empty()) {
+      words = {{Style::Strong, place + title}, {Style::Body, std::string(line.Says)}};
+      page_ = line.Page;
+    } else {
+      add(later, place + title);
+    }
   }
+  if (!done.empty()) words.insert(words.begin(), {Style::Muted, done});
+  if (!later.empty()) words.push_back({Style::Muted, later});
   txtguide.Visible = !words.empty();
   cmdguide.Visible = !words.empty();
   txtguide.Write(std::move(words));
