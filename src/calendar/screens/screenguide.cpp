@@ -1,5 +1,7 @@
 #include "calendar/screens/screenguide.h"
 
+#include <algorithm>
+
 #include "calendar/guide.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -15,36 +17,24 @@ GuideCard::GuideCard(ui::Screen& screen, Game& game)
 }
 
 ui::Box GuideCard::Layout() {
-  return ui::Group("Your first show", {txtguide, ui::Columns({cmdstep, cmdguide, ui::Spacer()})});
+  return ui::Group("Your first show", {ui::Columns({ui::Grow(txtguide), cmdstep, cmdguide})});
 }
 
-/// What comes next stands out and is told in full, between what is done and what comes later: the
-/// desk has room for no more.
+/// The step that comes next alone: the desk has room for no more.
 void GuideCard::Show() {
   using Style = ui::Report::Style;
-  std::string done, later;
-  std::vector<ui::Report::Paragraph> words;
-  page_.clear();
-  int number = 0;
-  for (const GuideLine& line : GuideLines(game_.World())) {
-    const std::string title(line.Title), place = std::to_string(++number) + ". ";
-    const auto add = [](std::string& to, const std::string& step) {
-      to += (to.empty() ? "" : "  ") + step;
-    };
-    if (line.IsDone) {
-      add(done, place + "Done. " + title);
-    } else if (words.empty()) {
-      words = {{Style::Strong, place + title}, {Style::Body, std::string(line.Says)}};
-      page_ = line.Page;
-    } else {
-      add(later, place + title);
-    }
-  }
-  if (!done.empty()) words.insert(words.begin(), {Style::Muted, done});
-  if (!later.empty()) words.push_back({Style::Muted, later});
-  txtguide.Visible = !words.empty();
-  cmdguide.Visible = !words.empty();
-  txtguide.Write(std::move(words));
+  const std::vector<GuideLine> lines = GuideLines(game_.World());
+  const auto next = std::ranges::find_if(lines, [](const GuideLine& line) { return !line.IsDone; });
+  const bool hasNext = next != lines.end();
+  page_ = hasNext ? next->Page : std::string_view();
+  if (hasNext)
+    txtguide.Write(
+        {{Style::Strong, "Step " + std::to_string(next - lines.begin() + 1) + " of " +
+                             std::to_string(lines.size()) + ": " + std::string(next->Title)},
+         {Style::Body, std::string(next->Says)}});
+  else
+    txtguide.Write("All of it is done. The house is yours.");
+  txtguide.Visible = cmdguide.Visible = !lines.empty();
   ShowWay();
 }
 
