@@ -167,6 +167,17 @@ int DrawSmall(QPainter* painter, const QRect& room, const ui::Column& column, in
   return width + Px(8);
 }
 
+/// How many of the letters stand in a first line of this width: all, or whole words.
+qsizetype FirstLine(const QString& text, const QFontMetrics& metrics, int width) {
+  if (metrics.horizontalAdvance(text) <= width) return text.size();
+  qsizetype end = 0;
+  for (qsizetype blank = text.indexOf(' ');
+       blank >= 0 && metrics.horizontalAdvance(text.left(blank)) <= width;
+       blank = text.indexOf(' ', blank + 1))
+    end = blank + 1;
+  return end;
+}
+
 /// In two lines at the most; gives the room that is left above it.
 QRect DrawUnder(QPainter& painter, QRect room, const std::string& sentence, const Colours& c) {
   room.adjust(0, Px(6), 0, -Px(6));
@@ -174,9 +185,13 @@ QRect DrawUnder(QPainter& painter, QRect room, const std::string& sentence, cons
   below.setTop(room.bottom() + 1 - Px(kUnder));
   painter.setFont(TextFont(12));
   painter.setPen(c.Muted);
-  const int wide = std::max(0, 2 * below.width() - Px(60));  // a line may break early
-  painter.drawText(below, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-                   painter.fontMetrics().elidedText(Shown(sentence), Qt::ElideRight, wide));
+  const QFontMetrics metrics = painter.fontMetrics();
+  const QString text = Shown(sentence);
+  const qsizetype first = FirstLine(text, metrics, below.width());
+  painter.drawText(below, Qt::AlignLeft | Qt::AlignTop, text.left(first));
+  painter.drawText(below.adjusted(0, first > 0 ? metrics.height() : 0, 0, 0),
+                   Qt::AlignLeft | Qt::AlignTop,
+                   metrics.elidedText(text.mid(first), Qt::ElideRight, below.width()));
   room.setBottom(below.top() - 1);
   return room;
 }
