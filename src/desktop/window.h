@@ -159,7 +159,9 @@ class Window : public QMainWindow, public Stage {
     bool IsFound = true;     // by search
   };
   std::vector<OwnCommand> OwnCommands();
-  QString KeyOf(const OwnCommand& own) const { return settings_.Key(own.Id, own.Usual); }
+  QString KeyOf(const OwnCommand& own) const {
+    return own.Id.empty() ? Shown(own.Usual) : settings_.Key(own.Id, own.Usual);
+  }
   /// All that a key can be set for at present, and all that one has been set for.
   std::vector<KeyedCommand> KeyCommands();
   void AddPageKeys(std::vector<KeyedCommand>& commands);

@@ -39,8 +39,8 @@ class frmWindow : public ui::Screen {
     for (const int scale : kScales) cmbscale.Add(std::to_string(scale) + "%", scale);
     for (const DateFormName& form : kDateForms) cmbdates.Add(form.Words);
     cmbscale.Tip = "Counts from the next start of the game on.";
-    lblkeys.Text = "A page's own actions stand here too while it is open: come back from it with " +
-                   window_.KeyOfOptions() + ".";
+    lblkeys.Text = "For the actions of a page, come here from it by " + window_.KeyOfOptions() +
+                   ": they stand at the end.";
     lblkeys.Colour = ui::Tone::Muted;
   }
 
@@ -132,7 +132,8 @@ class frmWindow : public ui::Screen {
     for (const KeyedCommand& other : commands_)
       if (other.Id != command.Id && KeyOf(other) == typed && MayMeet(other, command))
         return typed + " is the key of " + other.Caption + ".";
-    if (typed != command.Usual && std::ranges::find(kTaken, typed) != std::end(kTaken))
+    if (typed != command.Usual &&
+        std::find(std::begin(kTaken), std::end(kTaken), typed) != std::end(kTaken))
       return typed + " is a key of tables and lines of text.";
     return {};
   }

@@ -142,7 +142,7 @@ TEST_F(TheOptions, GiveAPageAndTheWindowOtherKeys) {
   EXPECT_TRUE(Play->See("cmddone")->toolTip().contains("Ctrl+D"));
   const std::vector<std::string> lines = Play->Desk.Help.Keys(*Play->Desk.Top());
   for (const char* line : {"Ctrl+D: Done", "Ctrl+G: Search everything"})
-    EXPECT_NE(std::ranges::find(lines, line), lines.end()) << line;
+    EXPECT_NE(std::find(lines.begin(), lines.end(), line), lines.end()) << line;
   Notes.clear();
   Play->Key(Qt::Key_D, Qt::ControlModifier);
   EXPECT_EQ(Notes, Log({"done"}));
