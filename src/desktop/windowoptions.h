@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "desktop/settings.h"
 #include "ui/desk.h"
 
 namespace grapplemont::desktop {

@@ -111,7 +111,7 @@ std::string Is() {
 }
 
 // By slot.
-constexpr FigureRow kFigures[] = {
+constexpr FigureRow kGlossaryFigures[] = {
     {"advertising.cost", [] { return Dollars(AdvertisingCost(1)); }},
     {"camp.basics", Is<kCampBasics>},
     {"camp.most", [] { return std::to_string(MostOfCamp()); }},
@@ -195,8 +195,8 @@ constexpr FigureRow kFigures[] = {
 }  // namespace
 
 std::string GlossaryFigure(std::string_view slot) {
-  const auto figure = std::ranges::find(kFigures, slot, &FigureRow::Slot);
-  return figure == std::end(kFigures) ? std::string() : figure->Is();
+  const auto figure = std::ranges::find(kGlossaryFigures, slot, &FigureRow::Slot);
+  return figure == std::end(kGlossaryFigures) ? std::string() : figure->Is();
 }
 
 }  // namespace grapplemont
