@@ -144,6 +144,11 @@ void PushButton::focusInEvent(QFocusEvent* event) {
   QAbstractButton::focusInEvent(event);
 }
 
+std::string WhyNotPress(const ui::Button& button) {
+  if (button.Enabled) return {};
+  return button.Tip->empty() ? button.Text.Get() + " cannot be pressed now." : button.Tip.Get();
+}
+
 ButtonView::ButtonView(ui::Button& button, Stage& stage, QWidget* parent)
     : ViewOf(button, stage, parent) {
   connect(this, &QAbstractButton::clicked, this, [this] { Pressed ? Pressed() : Do(ui::Click); });

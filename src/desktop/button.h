@@ -77,6 +77,9 @@ class PushButton : public BareButton {
   QSize least_;
 };
 
+/// Why a button cannot be pressed, in its tip's words if it has one; empty when it can.
+std::string WhyNotPress(const ui::Button& button);
+
 class ButtonView : public ViewOf<PushButton, ui::Button> {
  public:
   ButtonView(ui::Button& button, Stage& stage, QWidget* parent);
@@ -85,6 +88,7 @@ class ButtonView : public ViewOf<PushButton, ui::Button> {
 
  protected:
   void Show() override;
+  QString KeyNow() const override { return OnStage().Kept().KeyOn(control_); }
 };
 
 }  // namespace grapplemont::desktop

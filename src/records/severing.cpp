@@ -25,7 +25,7 @@ void LeaveEmployersOffice(World& world, const Worker& worker) {
 
 /// What a Title loses of its image when it falls vacant.
 int LossOf(const Title& title, TitleLoss loss) {
-  return loss == TitleLoss::ATenth ? title.Image / 10 : 20;
+  return loss == TitleLoss::ATenth ? title.Image / 10 : kImageOfStripped;
 }
 
 /// The job offer among the incidents names a promotion.

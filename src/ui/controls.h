@@ -221,6 +221,9 @@ struct Column {
   std::function<Drawing(int key)> Draws = {};
   /// What a word of Tags says by its colour.
   Tone (*ToneOf)(std::string_view word) = nullptr;
+  /// The sign that a Tag, or a word of Tags, is drawn as, with the number behind the word; the
+  /// words are read out and told in tips. None: the word itself; nullptr: words alone.
+  Sign (*SignOf)(std::string_view word) = nullptr;
   /// What stands above it where the column before it says the rest; empty: the title.
   std::string Short = {};
   /// A sentence below a cell's text, by the key of its row; it makes cards of the rows.

@@ -40,6 +40,9 @@ struct HelpPages {
   std::function<std::unique_ptr<Screen>(std::string_view term)> Glossary;
   /// What a heading means, in a line; empty for one that the glossary does not know.
   std::function<std::string(std::string_view heading)> Meaning;
+  /// The keys of a shell that has keys, as the player has set them for this screen, in lines
+  /// "F2: Roster".
+  std::function<std::vector<std::string>(Screen& of)> Keys;
 };
 
 enum class Default { Yes, No };

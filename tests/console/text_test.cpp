@@ -25,14 +25,14 @@ TEST(TextAnswer, ShowsTheScreenAfterItsLayout) {
 
 Who
   txtname          TextBox      Name: "Pat"
-  lstpeople        ListBox      3 rows
+  lstpeople        ListBox      Who: 3 rows
         Name               Over
      1  Bram Okafor          88
      2  3                    40
      3  Ilya Marsh   $1,284,500
 
 How
-  cmbkind          ComboBox     Singles (1 of 2)
+  cmbkind          ComboBox     How: Singles (1 of 2)
     >1  Singles
      2  Tag Team
   chkday           CheckBox     [ ] Every day
@@ -40,11 +40,11 @@ How
   optheel          OptionButton ( ) Heel
 
 What
-  hsprice          ScrollBar    20, from 5 to 100
-  chtmoney         Chart
+  hsprice          ScrollBar    What: 20, from 5 to 100
+  chtmoney         Chart        What
     Jan: Money 1200, Image 61
     Feb: Money -50.25
-  rptshow          Report
+  rptshow          Report       What
     The bell rings.
     It is over.
 

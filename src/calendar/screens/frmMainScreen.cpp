@@ -98,8 +98,8 @@ class frmMainScreen : public ui::Screen {
     page.Main = &cmdnext;
     page.First = &cmdbook;
     page.Cancel = &cmdquit;
-    page.Body = ui::Rows(
-        {figures_.Layout(), Due().Grow(4), cards_.People().Grow(2), cards_.Standing().Grow(2)});
+    page.Body = ui::Rows({guide_.Layout(), figures_.Layout(), Due().Grow(4),
+                          cards_.People().Grow(2), cards_.Standing().Grow(2)});
     return page;
   }
 
@@ -143,13 +143,10 @@ class frmMainScreen : public ui::Screen {
  private:
   /// What is to be done and to be read.
   ui::Box Due() {
-    return ui::Columns(
-               {ui::Rows({guide_.Layout(), ui::Group("The weeks ahead",
-                                                     {ui::Columns({ui::Grow(lbltonight), cmdbook}),
+    return ui::Columns({ui::Group("The weeks ahead", {ui::Columns({ui::Grow(lbltonight), cmdbook}),
                                                       ui::Grow(lstahead)})
-                                               .Grow()})
-                    .Grow(),
-                mail_.Layout().Grow()})
+                            .Grow(),
+                        mail_.Layout().Grow()})
         .Wide(kDeskLetters);
   }
 

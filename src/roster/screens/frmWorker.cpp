@@ -25,6 +25,7 @@ namespace {
 using K = ui::ColumnKind;
 
 constexpr int kFormTold = 10;
+constexpr int kLettersOfColumn = 41;  // that stands beside another
 
 ui::Cell OutcomeCell(int outcome) {
   if (outcome == 0) return {"Drew", ui::Tone::Muted};
@@ -62,20 +63,24 @@ class frmWorker : public GameScreen {
   int Uid() const { return uid_; }
 
   ui::Page Layout() override {
+    // Where three columns would be narrow, two of them stand one below the other.
     ui::Box glance(
         ui::Box::Kind::Columns, "At a glance",
         {ui::Rows({ui::Group("What they can do", {ui::Grow(lstskills)}).Grow(),
                    ui::Group("Contract", {txtcontract, ui::Columns({cmdpromote, cmddemote})})})
              .Grow(10),
-         ui::Rows({ui::Group("Twelve months", {ui::Grow(chtmonths)}).Grow(2),
-                   ui::Group("Last ten matches",
-                             {ui::Columns({ui::Grow(lblform), cmdreport}), ui::Grow(lstform)})
-                       .Grow(3)})
-             .Grow(13),
-         ui::Rows({ui::Group("What they think of you, and why", {ui::Grow(txtwhy)}).Grow(5),
-                   ui::Group("Titles and reigns", {pictitle, ui::Grow(lsttitles)}).Grow(2),
-                   ui::Group("Company", {ui::Grow(lstcompany)}).Grow(2)})
-             .Grow(10)});
+         ui::Columns(
+             {ui::Rows({ui::Group("Twelve months", {ui::Grow(chtmonths)}).Grow(2),
+                        ui::Group("Last ten matches",
+                                  {ui::Columns({ui::Grow(lblform), cmdreport}), ui::Grow(lstform)})
+                            .Grow(3)})
+                  .Grow(13),
+              ui::Rows({ui::Group("What they think of you, and why", {ui::Grow(txtwhy)}).Grow(5),
+                        ui::Group("Titles and reigns", {pictitle, ui::Grow(lsttitles)}).Grow(2),
+                        ui::Group("Company", {ui::Grow(lstcompany)}).Grow(2)})
+                  .Grow(10)})
+             .Wide(kLettersOfColumn)
+             .Grow(23)});
     ui::Box facts(
         ui::Box::Kind::Columns, "All the facts",
         {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});

@@ -1,9 +1,11 @@
+#include <algorithm>
 #include <optional>
 
 #include "report/report.h"
 #include "show/holdshow.h"
 #include "show/recap.h"
 #include "show/runsegment.h"
+#include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -13,7 +15,14 @@ namespace {
 /// Where the percentages stand.
 constexpr const char* kFigureControls[] = {"txtquality", "txtcrowd", "txtoverall"};
 constexpr int kFigureCount = 3, kOverallFigure = 3;
-constexpr int kLettersOfCard = 60;  // that stands beside another
+constexpr int kLettersOfCard = 60;   // that stands beside another
+constexpr int kLettersOfWide = 190;  // of a page that has room for faces, too
+
+ui::Cell OutcomeIn(const Segment& segment, bool won) {
+  if (segment.Kind != kMatch) return "";
+  if (IsDraw(segment)) return {"Drew", ui::Tone::Muted};
+  return won ? ui::Cell("Won", ui::Tone::Green) : ui::Cell("Lost", ui::Tone::Red);
+}
 
 const ToldFigure& FigureAt(int i) {
   return kToldFigures[i - 1];
@@ -32,6 +41,7 @@ class frmMatchOutput : public ui::Screen {
       : Screen(game.Desk(), "frmMatchOutput", "Show Report"), game_(game) {
     lbltitle.Visible = false;  // the page's own heading says the same
     txtstip.Brief = true;
+    lstcast.EmptyText = "Whoever is in the next Segment stands here.";
   }
 
   ui::Page Layout() override {
@@ -50,6 +60,7 @@ class frmMatchOutput : public ui::Screen {
         {ui::Group("", {lbltitle, ui::Columns({lblinfo, txtstyle, txttype, txtbelt, ui::Spacer()}),
                         txtstip, ui::Grow(txtreport), lblwinner})
              .Grow(9),
+         ui::Group("Who is in it", {ui::Grow(lstcast)}).From(kLettersOfWide).Grow(4),
          ui::Columns({ui::Rows({ui::Group("", std::move(figures)).Grow(9),
                                 ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4)})
                           .Grow(2),
@@ -120,6 +131,22 @@ class frmMatchOutput : public ui::Screen {
     for (ui::Label* label : {&txtstyle, &txttype, &txtbelt, &lblwinner})
       label->Visible = !label->Text.Get().empty();
     txtstip.Write({{ui::Report::Style::Heading, details.Names}});
+    ShowCast(world().Segments()[run().Current]);
+  }
+
+  /// As they are after it, the winners first.
+  void ShowCast(const Segment& segment) {
+    const std::vector<int> winners = WinnersOf(segment);
+    const auto hasWon = [&](int uid) { return std::ranges::find(winners, uid) != winners.end(); };
+    std::vector<int> people = PeopleOf(segment);
+    std::ranges::stable_partition(people, hasWon);
+    std::vector<ui::ListBox::Row> rows;
+    for (const int uid : people)
+      if (const Worker* worker = world().FindWorker(uid))
+        rows.push_back({{worker->Name.View(), DispositionCell(*worker), int(worker->Over),
+                         int(worker->Condition), OutcomeIn(segment, hasWon(uid))},
+                        uid});
+    lstcast.Fill(std::move(rows), false);
   }
 
   void ShowProse() {
@@ -172,6 +199,13 @@ class frmMatchOutput : public ui::Screen {
   ui::Report txtstip{*this, "txtstip"};
   ui::Report txtreport{*this, "txtreport"};
   ui::Label lblwinner{*this, "lblwinner"};
+  ui::ListBox lstcast{*this, "lstcast",
+                      WithFaces(world(), {{"Who", ui::ColumnKind::Text, 4},
+                                          {"Disposition", ui::ColumnKind::Tag},
+                                          {"Over", ui::ColumnKind::Number},
+                                          {"Condition", ui::ColumnKind::Percent},
+                                          {"Result", ui::ColumnKind::Tag}}),
+                      ui::Handler{}, [this] { game_.OpenWorker(lstcast.Key()); }};
   ui::Label lblanalysis{*this, "lblanalysis", "Match Analysis"};
   ui::Array<ui::Label> txtfigures{"", kFigureCount, [this](const std::string&, int i) {
                                     return std::make_unique<ui::Label>(*this,
