@@ -2,6 +2,7 @@
 
 #include "calendar/screens/calendarscreens.h"
 #include "editor/screens/screenpages.h"
+#include "halls/screens/hallscreens.h"
 #include "info/screens/helpscreens.h"
 #include "info/screens/infoscreens.h"
 #include "program/screenfinding.h"
@@ -55,6 +56,10 @@ namespace grapplemont {
   SCREEN(frmTheEnd)          \
   SCREEN(frmPinky)           \
   SCREEN(frmPlayOn)          \
+  SCREEN(frmRecords)         \
+  SCREEN(frmHall)            \
+  SCREEN(frmYearbook)        \
+  SCREEN(frmFamilyTree)      \
   SCREEN(frmMainScreen)      \
   SCREEN(frmEvent)           \
   SCREEN(frmIncident)        \
@@ -97,6 +102,7 @@ void RegisterScreens(Game& game) {
   RegisterRecordPages(game);
   ConnectRoster(game);
   ConnectRivals(game);
+  ConnectHalls(game);
   ConnectCalendar(game);
   ConnectInfo(game);
   ConnectHelp(game);

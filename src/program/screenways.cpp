@@ -45,6 +45,8 @@ constexpr PageRow kInGamePages[] = {
     {"Charity", "donation give money", "frmCharity"},
     {"Compare", "versus side by side workers", "frmRoster", "cmdcompare"},
     {"Drafts", "plan ahead card coming shows booking", "frmDrafts"},
+    {"Family Trees", "Title lineage history champions teams partners", "frmFamilyTree"},
+    {"Hall of Fame", "legends honours greatest retired", "frmHall"},
     {"Loan", "bank borrow debt credit", "frmLoan"},
     {"Loading Screens", "pictures", "frmLoadingScreens"},
     {"Managers", "clients", "frmManagers"},
@@ -64,6 +66,7 @@ constexpr PageRow kInGamePages[] = {
     {"Ticket Prices", "seats gate admission", "frmTicket"},
     {"Turns", "heel face change sides", "frmTurn"},
     {"Wages", "salaries pay costs", "frmWages"},
+    {"Yearbook", "annual review past years history", "frmYearbook"},
     {"What We Are Worth", "value company worth", "frmFedValue"},
 };
 constexpr PageRow kStartPages[] = {

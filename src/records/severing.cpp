@@ -101,6 +101,11 @@ void ForgetInThePast(World& world, int uid) {
   world.Months().Keep(isOthers);
   world.Moods().Keep(isOthers);
   world.RingNames().Keep(isOthers);
+  for (Career& career : world.Of<Career>()) {
+    if (career.Worker != uid) continue;
+    career.Worker = 0;
+    if (world.HasGame()) career.Last = world.Today();
+  }
 }
 
 }  // namespace

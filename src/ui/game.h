@@ -96,6 +96,8 @@ class Game : public ui::Work {
   std::function<void(int uid)> OpenWorker, OpenPromotion;
   /// Opens the report of the promotion's show of a day, while its words are kept.
   std::function<void(Day on, int promotionUid)> OpenReport;
+  /// Opens the family tree of a promotion's Title.
+  std::function<void(int promotionUid, const std::string& title)> OpenTree;
   /// Opens the mailbox at the mail of a number.
   std::function<void(int number)> OpenMail;
 

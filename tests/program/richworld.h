@@ -40,7 +40,8 @@ inline constexpr const char* kInGame[] = {
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
     "frmReigns",     "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
     "frmMorning",    "frmInternet",     "frmGlossary",   "frmDrafts",    "frmProspect",
-    "frmPlayOn",     "frmMonth",        "frmGodMode"};
+    "frmPlayOn",     "frmMonth",        "frmGodMode",    "frmRecords",   "frmHall",
+    "frmYearbook",   "frmFamilyTree"};
 
 /// Those that come before one, and the editor's.
 inline constexpr const char* kBeforeGame[] = {

@@ -38,7 +38,7 @@ struct Command {
   const char* Also;
   Reach Into = Reach::Company;
 };
-constexpr std::array<Command, 19> kCommands = {{
+constexpr std::array<Command, 20> kCommands = {{
     {"cmdroster", "Roster", "frmRoster", "People", "F2", "people workers own wrestlers"},
     {"cmdstaff", "Staff", "frmStaff", "People", "F3", "writers medics agents", Reach::Today},
     {"cmdtag", "Tag Teams", "frmTagTeams", "People", "", "partners pairs"},
@@ -55,6 +55,8 @@ constexpr std::array<Command, 19> kCommands = {{
     {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", "", "rivals companies",
      Reach::Today},
     {"cmdnet", "Internet", "frmInternet", "World", "", "rumours fans polls", Reach::Tells},
+    {"cmdrecords", "Records", "frmRecords", "World", "",
+     "hall of fame yearbook family trees best all time history", Reach::Tells},
     {"cmdnews", "News", "frmNews", "Desk", "F10", "mail inbox messages", Reach::Tells},
     {"cmdresults", "Results", "frmResults", "Desk", "", "past shows history", Reach::Tells},
     {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", "staff advice talk", Reach::Today},

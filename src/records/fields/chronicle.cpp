@@ -75,7 +75,7 @@ constexpr Field kReignFields[] = {
     REIGN(Worker).LeadsTo(Refers::Worker).Means("Holder; 0 for who has gone."),
     REIGN(Partner).LeadsTo(Refers::Worker).Means("The other half of a pair."),
     REIGN(Holder).Means("The holder as they were called, or Vacant."),
-    REIGN(Defences).Means("Defences on the player's shows; -1 not counted."),
+    REIGN(Defences).Means("Defences in the ring; -1 not counted."),
     REIGN(End).In(kReignLasts, kReignDissolved).From(kEnds).Means("How it ended."),
 };
 

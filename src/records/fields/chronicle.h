@@ -59,7 +59,7 @@ struct TitleReign {
   Word Worker;       // uids; 0 for nobody and for who has gone
   Word Partner;
   Text<25> Holder;                      // as the Title's own record names them; "Vacant"
-  RangedWord<0, 32767, true> Defences;  // on the player's shows; kNoEnd where nobody counts
+  RangedWord<0, 32767, true> Defences;  // kNoEnd where nobody has counted
   Word End;
 };
 GM_RECORD(TitleReign, 77);

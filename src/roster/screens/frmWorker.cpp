@@ -84,9 +84,9 @@ class frmWorker : public GameScreen {
     ui::Box facts(
         ui::Box::Kind::Columns, "All the facts",
         {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});
-    ui::Page page =
-        PageOf(ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
-               {&cmdprevious, &cmdnext, &cmdcompare, &cmdturn, &cmdshortlist}, &cmdcontract);
+    ui::Page page = PageOf(ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
+                           {&cmdprevious, &cmdnext, &cmdhall, &cmdcompare, &cmdturn, &cmdshortlist},
+                           &cmdcontract);
     page.Then = &cmdback;  // for those who cannot be talked to
     page.Face = &picworker;
     page.More = {&lblmarks, &lblfinishers};
@@ -241,6 +241,7 @@ class frmWorker : public GameScreen {
     cmdcontract.Text = own ? "Contract" : "Talks";
     EnableUnless(cmdcontract, worker ? WhyNoTalks(game_, worker) : gone);
     EnableUnless(cmdcompare, worker ? "" : gone);
+    cmdhall.Visible = worker && ElectedIn(world(), uid_) != 0;
     cmdturn.Visible = cmdpromote.Visible = cmddemote.Visible = own;
     if (own) {
       cmdturn.Text = worker->TurnPending ? "Call The Turn Off" : "Prepare A Turn";
@@ -352,6 +353,7 @@ class frmWorker : public GameScreen {
   ui::Report txtmore{*this, "txtmore"};
   ui::Button cmdprevious{*this, "cmdprevious", "Previous", [this] { Go(&Neighbours::Before); }};
   ui::Button cmdnext{*this, "cmdnext", "Next", [this] { Go(&Neighbours::After); }};
+  ui::Button cmdhall{*this, "cmdhall", "Hall Of Fame", [this] { desk().Open("frmHall"); }};
   ui::Button cmdcompare{*this, "cmdcompare", "Compare",
                         [this] { desk().Open(MakefrmCompare(game_, {uid_})); }};
   ui::Button cmdturn{*this, "cmdturn", "Prepare A Turn", &frmWorker::cmdturn_Click};
