@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QTimer>
 
 #include "desktop/controlview.h"
 
@@ -85,6 +86,11 @@ class ButtonView : public ViewOf<PushButton, ui::Button> {
 
  protected:
   void Show() override;
+
+ private:
+  void KeepTime();
+
+  QTimer clock_;  // runs while the button is to be pressed by itself
 };
 
 }  // namespace grapplemont::desktop

@@ -37,8 +37,12 @@ class Teller {
   void Append(std::string_view text) { text_ += text; }
   /// What follows begins a new paragraph.
   void Paragraph();
+  /// Lines said since it began.
+  int LinesHere() const { return linesHere_; }
   /// The whole report, trimmed.
   std::string Text();
+  /// What it consists of.
+  const std::vector<SaidSentence>& Sentences() const { return sentences_; }
 
   /// A draw for the prose.
   int Draw(int n) { return world.Prose().Draw(n); }
@@ -70,6 +74,9 @@ class Teller {
   LineMemory& memory_;
   int voice_;
   std::string text_;
+  std::vector<SaidSentence> sentences_;
+  std::vector<std::size_t> ends_;  // of the sentences of the line that is said
+  int linesHere_ = 0;
 };
 
 /// The band of an offence line: Brawl, Technical and Speed each with a draw of 10 on top, the
@@ -116,6 +123,8 @@ Blocks Angles();
 const Block* BlockOf(int voice, Family family, int band);
 /// By which each of its lines is remembered (saidlines.h).
 std::span<const std::int32_t> KeysOf(int voice, Family family, int band);
+/// About how many letters each of them has.
+std::span<const int> LengthsOf(int voice, Family family, int band);
 /// Each of them, apart from its tags.
 std::span<const TaggedLine> ReadLinesOf(int voice, Family family, int band);
 

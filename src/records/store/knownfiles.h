@@ -26,7 +26,7 @@ using AllTables =
                Records<WorkerMonths>, Records<MoodChange>, Records<KeptRow>, Records<ShowNote>,
                Records<ReadMail>, Records<WorldKey>, Records<BoardState>, Records<OwnerWish>,
                Records<MonthPlan>, Records<HouseRules>, Records<CardMatch>, Records<Grudge>,
-               Records<RingName>, Records<SaidLine>>;
+               Records<RingName>, Records<SaidLine>, Records<TellingHabit>>;
 
 // What all files of the house would compile again and again is compiled once, in knownfiles.cpp.
 // clang-format off
@@ -37,7 +37,7 @@ using AllTables =
   OF(MatchTally) OF(TitleReign) OF(ReportPart) OF(YearAward) OF(YearEnd) OF(Deed) \
   OF(GuideState) OF(WorkerMonths) OF(MoodChange) OF(KeptRow) OF(ShowNote) OF(ReadMail) \
   OF(WorldKey) OF(BoardState) OF(OwnerWish) OF(MonthPlan) OF(HouseRules) OF(CardMatch) \
-  OF(Grudge) OF(RingName) OF(SaidLine)
+  OF(Grudge) OF(RingName) OF(SaidLine) OF(TellingHabit)
 // clang-format on
 #define GM_ELSEWHERE(T) extern template class Records<T>;
 GM_EVERY_RECORD(GM_ELSEWHERE)
