@@ -266,7 +266,22 @@ std::string ControlText(const Section::Part& part, bool whole, int width) {
   return text;
 }
 
+namespace {
+
+/// Where its line stands now.
+std::string ThinText(const ui::Chart& chart) {
+  std::string text;
+  for (const auto& series : chart.Lines.Get())
+    if (!series.Values.empty())
+      text += (text.empty() ? "" : "\n") + series.Name + (series.Name.empty() ? "" : ": ") +
+              Number(series.Values.back()) + " of 100";
+  return text;
+}
+
+}  // namespace
+
 std::string ChartText(const ui::Chart& chart) {
+  if (chart.Thin) return ThinText(chart);
   const std::vector<std::string>& captions = chart.Captions;
   std::size_t count = captions.size();
   for (const auto& series : chart.Lines.Get()) count = std::max(count, series.Values.size());

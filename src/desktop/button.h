@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QTimer>
 
 #include "desktop/controlview.h"
 
@@ -89,6 +90,11 @@ class ButtonView : public ViewOf<PushButton, ui::Button> {
  protected:
   void Show() override;
   QString KeyNow() const override { return OnStage().Kept().KeyOn(control_); }
+
+ private:
+  void KeepTime();
+
+  QTimer clock_;  // runs while the button is to be pressed by itself
 };
 
 }  // namespace grapplemont::desktop

@@ -98,6 +98,14 @@ constexpr Field kSaidFields[] = {
     SAID(Times).Means("How often it has been said."),
 };
 
+#define TELLING(member) GM_FIELD(TellingHabit, member)
+constexpr Field kTellingFields[] = {
+    TELLING(Version).Means(
+        "Of what the record means; a later one than the program's counts as none."),
+    TELLING(Live).Means("Reports appear sentence by sentence."),
+    TELLING(Pace).Means("0 by the reader's hand, 1 slow, 2 steady, 3 fast."),
+};
+
 #define AWARD(member) GM_FIELD(YearAward, member)
 constexpr Field kAwardFields[] = {
     AWARD(On).Means("31 December of the year."),
@@ -157,6 +165,7 @@ GM_LAYOUT(TitleReign, "reigns.dat", 12000, kReignFields)
 GM_LAYOUT(ReportPart, "reports.dat", 8000, kReportFields)
 // Half as many again as the three voices have.
 GM_LAYOUT(SaidLine, "said.dat", 20000, kSaidFields)
+GM_LAYOUT(TellingHabit, "telling.dat", 1, kTellingFields)
 GM_LAYOUT(YearAward, "awards.dat", 2000, kAwardFields)
 GM_LAYOUT(YearEnd, "yearend.dat", 25000, kYearEndFields)
 // A dozen shows of three hundred steps each.

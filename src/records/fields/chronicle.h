@@ -100,6 +100,17 @@ struct SaidLine {
 };
 GM_RECORD(SaidLine, 14);
 
+/// How the player has the shows told: the one record of telling.dat. A slot without it has never
+/// been asked: a Segment's words stand there at once.
+struct TellingHabit {
+  static constexpr int kKnownVersion = 1;
+
+  RangedWord<1, 32767> Version{kKnownVersion};  // of what the record means
+  Flag Live;                                    // sentence by sentence
+  RangedWord<0, 3> Pace;                        // 0 by the reader's hand, else from slow to fast
+};
+GM_RECORD(TellingHabit, 6);
+
 /// YearAward.Kind.
 enum AwardKind {
   kWrestlerOfTheYear = 1,

@@ -17,17 +17,19 @@ namespace grapplemont {
 
 /// A table for every file of a world, the ten of the data set first and in their fixed order, then
 /// those that only a running game has.
-using AllTables = std::tuple<
-    Records<Title>, Records<Event>, Records<Network>, Records<Promotion>, Records<Sponsor>,
-    Records<Stable>, Records<Staff>, Records<Team>, Records<Show>, Records<Worker>,
-    Records<GameInfo>, Records<Mail>, TextFile, Records<Feud>, Records<Segment>, Records<Incident>,
-    Records<ShowRun>, Records<HistoryEntry>, Records<HeldMatch>, Records<MatchTally>,
-    Records<TitleReign>, Records<ReportPart>, Records<YearAward>, Records<YearEnd>, Records<Deed>,
-    Records<GuideState>, Records<WorkerMonths>, Records<MoodChange>, Records<KeptRow>,
-    Records<ShowNote>, Records<ReadMail>, Records<WorldKey>, Records<BoardState>,
-    Records<OwnerWish>, Records<MonthPlan>, Records<HouseRules>, Records<CardMatch>,
-    Records<Grudge>, Records<RingName>, Records<SaidLine>, Records<TotalsState>, Records<Career>,
-    Records<Tenure>, Records<Partnership>, Records<Feat>, Records<YearLine>, Records<HallMember>>;
+using AllTables =
+    std::tuple<Records<Title>, Records<Event>, Records<Network>, Records<Promotion>,
+               Records<Sponsor>, Records<Stable>, Records<Staff>, Records<Team>, Records<Show>,
+               Records<Worker>, Records<GameInfo>, Records<Mail>, TextFile, Records<Feud>,
+               Records<Segment>, Records<Incident>, Records<ShowRun>, Records<HistoryEntry>,
+               Records<HeldMatch>, Records<MatchTally>, Records<TitleReign>, Records<ReportPart>,
+               Records<YearAward>, Records<YearEnd>, Records<Deed>, Records<GuideState>,
+               Records<WorkerMonths>, Records<MoodChange>, Records<KeptRow>, Records<ShowNote>,
+               Records<ReadMail>, Records<WorldKey>, Records<BoardState>, Records<OwnerWish>,
+               Records<MonthPlan>, Records<HouseRules>, Records<CardMatch>, Records<Grudge>,
+               Records<RingName>, Records<SaidLine>, Records<TotalsState>, Records<Career>,
+               Records<Tenure>, Records<Partnership>, Records<Feat>, Records<YearLine>,
+               Records<HallMember>, Records<TellingHabit>>;
 
 // What all files of the house would compile again and again is compiled once, in knownfiles.cpp.
 // clang-format off
@@ -39,7 +41,7 @@ using AllTables = std::tuple<
   OF(GuideState) OF(WorkerMonths) OF(MoodChange) OF(KeptRow) OF(ShowNote) OF(ReadMail) \
   OF(WorldKey) OF(BoardState) OF(OwnerWish) OF(MonthPlan) OF(HouseRules) OF(CardMatch) \
   OF(Grudge) OF(RingName) OF(SaidLine) OF(TotalsState) OF(Career) OF(Tenure) \
-  OF(Partnership) OF(Feat) OF(YearLine) OF(HallMember)
+  OF(Partnership) OF(Feat) OF(YearLine) OF(HallMember) OF(TellingHabit)
 // clang-format on
 #define GM_ELSEWHERE(T) extern template class Records<T>;
 GM_EVERY_RECORD(GM_ELSEWHERE)

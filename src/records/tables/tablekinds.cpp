@@ -117,7 +117,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<Partnership>("pairs.csv", true),
           Kind<Feat>("feats.csv", true),
           Kind<YearLine>("yearbook.csv", true),
-          Kind<HallMember>("hall.csv", true)};
+          Kind<HallMember>("hall.csv", true),
+          Kind<TellingHabit>("tellings.csv", true)};
 }
 
 }  // namespace
