@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "desktop/album.h"
+#include "desktop/bookpdf.h"
 #include "desktop/look.h"
 #include "desktop/sound.h"
 #include "desktop/window.h"
@@ -104,6 +105,9 @@ int Play(QApplication& app) {
   desktop::Window window(desk, options);
   game.KeepPage = [&window](const std::string& file) {
     window.KeepPage(QString::fromStdString(file));
+  };
+  game.WritePdf = [&game](const std::string& file, int voice) {
+    return desktop::WriteBookPdf(game.World(), file, voice);
   };
   window.show();
   desk.Event([&] { desk.Open("frmTitleScreen"); });

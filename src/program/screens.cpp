@@ -1,6 +1,7 @@
 #include "program/screens.h"
 
 #include "calendar/screens/calendarscreens.h"
+#include "chronicle/screens/chroniclescreens.h"
 #include "editor/screens/screenpages.h"
 #include "info/screens/helpscreens.h"
 #include "info/screens/infoscreens.h"
@@ -58,6 +59,7 @@ namespace grapplemont {
   SCREEN(frmMainScreen)      \
   SCREEN(frmEvent)           \
   SCREEN(frmIncident)        \
+  SCREEN(frmChronicle)       \
   SCREEN(frmResults)         \
   SCREEN(frmReports)         \
   SCREEN(frmAwards)          \
@@ -97,6 +99,7 @@ void RegisterScreens(Game& game) {
   ConnectRoster(game);
   ConnectRivals(game);
   ConnectCalendar(game);
+  ConnectChronicle(game);
   ConnectInfo(game);
   ConnectHelp(game);
   ConnectFinding(game);

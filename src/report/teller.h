@@ -88,6 +88,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 }  // namespace modLamplighter
 
 namespace modTolland {
@@ -98,6 +99,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 Blocks Verdicts();
 }  // namespace modTolland
 
@@ -109,6 +111,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 }  // namespace modQVD
 
 /// The lines to draw from: the voice's, or those of the one voice that has the family for all.

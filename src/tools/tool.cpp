@@ -21,9 +21,9 @@ namespace {
 
 constexpr std::string_view kProgram = "grapplemont-world";
 
-std::array<const Command*, 10> Commands() {
-  return {&kBuild, &kExport, &kCheck,   &kNew,     &kRun,
-          &kTell,  &kSoak,   &kFormats, &kColumns, &kBalance};
+std::array<const Command*, 11> Commands() {
+  return {&kBuild, &kExport, &kCheck,   &kNew,     &kRun,    &kTell,
+          &kBook,  &kSoak,   &kFormats, &kColumns, &kBalance};
 }
 
 void PrintUsage(std::ostream& out, const Command& command) {

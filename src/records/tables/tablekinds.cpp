@@ -110,7 +110,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<CardMatch>("rivalcards.csv", true),
           Kind<Grudge>("grudges.csv", true),
           Kind<RingName>("ringnames.csv", true),
-          Kind<SaidLine>("said.csv", true)};
+          Kind<SaidLine>("said.csv", true),
+          Kind<Annal>("annals.csv", true)};
 }
 
 }  // namespace
