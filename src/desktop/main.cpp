@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "desktop/album.h"
+#include "desktop/bookpdf.h"
 #include "desktop/desktopcolours.h"
 #include "desktop/look.h"
 #include "desktop/nodisplay.h"
@@ -149,6 +150,9 @@ int Play(QApplication& app, const Started& started) {
   app.setWindowIcon(QIcon(window.PictureFile("icon.png")));
   game.KeepPage = [&window](const std::string& file) {
     window.KeepPage(QString::fromStdString(file));
+  };
+  game.WritePdf = [&game](const std::string& file, int voice) {
+    return desktop::WriteBookPdf(game.World(), file, voice);
   };
   window.show();
   desk.Event([&] { desk.Open("frmTitleScreen"); });

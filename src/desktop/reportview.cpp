@@ -64,7 +64,9 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
  private:
   void FitWords();
   void ShowGrowth();
-  void Write(QTextCursor& cursor, const std::string& words, const QTextCharFormat& letters);
+  void Write(QTextCursor& cursor, const ui::Report::Paragraph& paragraph,
+             const QTextCharFormat& letters);
+  void WriteNames(QTextCursor& cursor, std::string_view text, const QTextCharFormat& letters);
   /// The link under the mouse; nullptr for none.
   const ui::Link* LinkAt(const QMouseEvent& event) const;
 
@@ -104,7 +106,7 @@ void ReportView::Show() {
     } else {
       cursor.insertBlock(block, letters);
     }
-    Write(cursor, paragraph.Words, letters);
+    Write(cursor, paragraph, letters);
     first = false;
   }
   moveCursor(QTextCursor::Start);  // a size that changes later keeps the cursor in sight
@@ -124,10 +126,26 @@ void ReportView::ShowGrowth() {
   if (!added.isEmpty()) Announce(*this);
 }
 
-/// Names that lead to a page stand out and can be clicked.
-void ReportView::Write(QTextCursor& cursor, const std::string& words,
+/// What leads somewhere can be clicked; it looks like all else.
+void ReportView::Write(QTextCursor& cursor, const ui::Report::Paragraph& paragraph,
                        const QTextCharFormat& letters) {
-  const std::string_view text = words;
+  const std::string_view words = paragraph.Words;
+  std::size_t written = 0;
+  for (const ui::Report::Lead& lead : paragraph.Leads) {
+    WriteNames(cursor, words.substr(written, lead.From - written), letters);
+    QTextCharFormat leads = letters;
+    leads.setAnchor(true);
+    leads.setAnchorHref(QString::number(links_.size()));
+    links_.push_back({lead.From, lead.Length, [this, key = lead.Key] { control_.OnLead(key); }});
+    WriteNames(cursor, words.substr(lead.From, lead.Length), leads);
+    written = lead.From + lead.Length;
+  }
+  WriteNames(cursor, words.substr(written), letters);
+}
+
+/// Names that lead to a page stand out and can be clicked.
+void ReportView::WriteNames(QTextCursor& cursor, std::string_view text,
+                            const QTextCharFormat& letters) {
   std::size_t written = 0;
   for (ui::Link& link : OnStage().Desk().LinksIn(text)) {
     QTextCharFormat linked = letters;

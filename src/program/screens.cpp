@@ -1,6 +1,7 @@
 #include "program/screens.h"
 
 #include "calendar/screens/calendarscreens.h"
+#include "chronicle/screens/chroniclescreens.h"
 #include "editor/screens/screenpages.h"
 #include "halls/screens/hallscreens.h"
 #include "info/screens/helpscreens.h"
@@ -63,6 +64,7 @@ namespace grapplemont {
   SCREEN(frmMainScreen)      \
   SCREEN(frmEvent)           \
   SCREEN(frmIncident)        \
+  SCREEN(frmChronicle)       \
   SCREEN(frmResults)         \
   SCREEN(frmReports)         \
   SCREEN(frmAwards)          \
@@ -104,6 +106,7 @@ void RegisterScreens(Game& game) {
   ConnectRivals(game);
   ConnectHalls(game);
   ConnectCalendar(game);
+  ConnectChronicle(game);
   ConnectInfo(game);
   ConnectHelp(game);
   ConnectFinding(game);

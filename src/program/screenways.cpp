@@ -43,6 +43,7 @@ constexpr PageRow kInGamePages[] = {
     {"Awards", "prizes year best of", "frmAwards"},
     {"Career", "user jobs reputation player me", "frmUser"},
     {"Charity", "donation give money", "frmCharity"},
+    {"Chronicle", "book history past story chapter chronicles", "frmChronicle"},
     {"Compare", "versus side by side workers", "frmRoster", "cmdcompare"},
     {"Drafts", "plan ahead card coming shows booking", "frmDrafts"},
     {"Family Trees", "Title lineage history champions teams partners", "frmFamilyTree"},

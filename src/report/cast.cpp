@@ -130,6 +130,13 @@ Person* Cast::Find(const World& world, int uid) {
   return people_.emplace_back(std::make_unique<Person>(std::move(person))).get();
 }
 
+Person* Cast::Called(std::string_view name, bool isMan) {
+  for (const auto& person : people_)
+    if (person->Uid == 0 && person->Full == name) return person.get();
+  const std::string full = OneSpaced(name);
+  return people_.emplace_back(std::make_unique<Person>(Person{0, full, full, isMan})).get();
+}
+
 void Cast::Set(char part, Person* person) {
   Party& party = Of(part);
   party.Name.clear();

@@ -56,6 +56,9 @@ class Cast {
   /// The person of this uid; nullptr for nobody and for a uid that leads nowhere or to no name.
   Person* Find(const World& world, int uid);
 
+  /// Somebody of whom only the name is known, and the sex where a line asks for it.
+  Person* Called(std::string_view name, bool isMan);
+
   /// The first of a part; nullptr for nobody.
   Person* First(char part) const {
     return Of(part).People.empty() ? nullptr : Of(part).People.front();

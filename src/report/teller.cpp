@@ -300,14 +300,14 @@ const Index::Entry& EntryOf(int voice, Family family, int band) {
       Index{kLamplighter,
             {modLamplighter::Offence(), modLamplighter::Bouts(), modLamplighter::Finishes(),
              modLamplighter::Talk(), modLamplighter::Angles(), modLamplighter::Memory(),
-             modLamplighter::Beats()}},
+             modLamplighter::Beats(), modLamplighter::Chronicle()}},
       Index{kTolland,
             {modTolland::Offence(), modTolland::Bouts(), modTolland::Finishes(), modTolland::Talk(),
              modTolland::Angles(), modTolland::Verdicts(), modTolland::Memory(),
-             modTolland::Beats()}},
+             modTolland::Beats(), modTolland::Chronicle()}},
       Index{kQvd,
             {modQVD::Offence(), modQVD::Bouts(), modQVD::Finishes(), modQVD::Talk(),
-             modQVD::Angles(), modQVD::Memory(), modQVD::Beats()}}};
+             modQVD::Angles(), modQVD::Memory(), modQVD::Beats(), modQVD::Chronicle()}}};
   const int only = RowOf(family).Only;
   const int teller = only == kEveryVoice ? KnownVoice(voice) : only;
   return kIndex[static_cast<std::size_t>(teller)].Find(family, band);

@@ -109,6 +109,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 }  // namespace modLamplighter
 
 namespace modTolland {
@@ -119,6 +120,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 Blocks Verdicts();
 }  // namespace modTolland
 
@@ -130,6 +132,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 }  // namespace modQVD
 
 /// The lines to draw from: the voice's, or those of the one voice that has the family for all.

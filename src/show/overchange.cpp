@@ -4,6 +4,7 @@
 #include <span>
 
 #include "records/angles.h"
+#include "records/keepannals.h"
 #include "records/modWresCheck.h"
 #include "show/nightbook.h"
 #include "show/titlechange.h"
@@ -130,6 +131,7 @@ void ChangeManager(SegmentRun& run, const Cast& cast) {
 void JoinStable(SegmentRun& run, const Cast& cast) {
   if (!cast.One) return;
   cast.One->Stable = run.Segment.Text.View();
+  KeepGroup(run.World, kAnnalJoined, run.Segment.Text, cast.One->Uid);
   Tell(run, cast.One->Name.View(), " joined ", run.Segment.Text.View());
 }
 

@@ -6,6 +6,7 @@
 #include <ranges>
 
 #include "records/fields/fields.h"
+#include "records/keepannals.h"
 #include "records/modWresCheck.h"
 #include "storylines/titles.h"
 
@@ -141,6 +142,10 @@ class Update {
   void Rename(const Name& before, std::string_view after) {
     for (TitleReign& reign : world_.Reigns())
       if (NameOf(reign) == before) reign.Title = after;
+    for (Annal& event : world_.Annals())
+      if (event.Kind == kAnnalTitle && event.Promotion == before.first &&
+          event.What == before.second)
+        event.What = after;
   }
 
   void Append(const TitleReign& reign) {

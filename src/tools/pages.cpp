@@ -124,6 +124,7 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
   `history.dat` (every show of the player's, and how each promotion stood at every month end), `bouts.dat` (the player's
   matches), `tallies.dat` (what each worker's matches add up to), `reigns.dat` (the reigns of every Title in the world),
   `reports.dat` (the words of the last twelve shows), `said.dat` (when each line of the reports was last said), `mornings.dat` (what these shows moved, step by step),
+  `annals.dat` (what has happened in the wrestling world, an event a record, from which chronicles are written),
   `mailread.dat` (which mails have been read), `awards.dat` (the awards of the years), `yearend.dat` (how
   popular everybody was when the last year ended), `months.dat` (how everybody stood on the firsts of twelve months),
   `moods.dat` (what moved the morale of the player's people), `rivalcards.dat` (the matches of the rivals' last shows),
@@ -135,7 +136,8 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
 None of the past is needed to play: where one of its files is missing or cut short, the game goes on without what stood
 in it. A full file makes room by dropping its oldest records: a thousand of the history and of the reigns that have
 ended, five hundred matches (what they add up to stays in the tallies), a year of awards, five hundred moves of morale,
-five hundred matches of rivals' cards, a hundred names.
+five hundred matches of rivals' cards, a hundred names. The annals keep some fifty years; their first record says since
+when, and in which version they are written.
 What adds up is brought up to date on every first of a month and at the end of a year; what has happened since is
 counted when it is looked at. Of those who have left the world the two thousand careers that were worth most are kept,
 of pairs the two thousand with the most days as champions and matches, of feats fifteen of a kind and promotion (three

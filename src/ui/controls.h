@@ -356,9 +356,16 @@ class Report : public Control {
  public:
   /// Body is prose; Line is a short fact in the letters of tables.
   enum class Style { Body, Heading, Strong, Muted, Line };
+  /// Some of the words lead somewhere, whatever they say; `Key` is the screen's.
+  struct Lead {
+    std::size_t From = 0, Length = 0;
+    int Key = 0;
+    friend bool operator==(const Lead&, const Lead&) = default;
+  };
   struct Paragraph {
     Style As = Style::Body;
     std::string Words;
+    std::vector<Lead> Leads = {};  // in their order; none overlaps another
     friend bool operator==(const Paragraph&, const Paragraph&) = default;
   };
   Report(Screen& screen, std::string name);
@@ -366,8 +373,9 @@ class Report : public Control {
   void Write(std::string_view plain);       // line breaks part paragraphs
   void WriteLines(std::string_view plain);  // the same in short facts
   const std::vector<Paragraph>& Paragraphs() const { return paragraphs_; }
-  bool Brief = false;  // takes no more room than its words need
-  int Room = 10;       // the lines that it asks room for, else
+  std::function<void(int key)> OnLead;  // the way of a Lead
+  bool Brief = false;                   // takes no more room than its words need
+  int Room = 10;                        // the lines that it asks room for, else
   bool Grows = false;  // what is written goes on from what stood there: its end stays in sight
 
  private:

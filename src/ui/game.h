@@ -101,6 +101,13 @@ class Game : public ui::Work {
   /// Opens the mailbox at the mail of a number.
   std::function<void(int number)> OpenMail;
 
+  /// Opens the chronicle at a chapter: of "Workers" or "Promotions" by uid, of "Titles" by the
+  /// promotion's uid and the name.
+  std::function<void(std::string_view kind, int number, std::string_view name)> OpenChapter;
+  /// Writes the whole chronicle in a voice's words into a file as PDF, and says why it could not;
+  /// set by a shell that can.
+  std::function<std::string(const std::string& file, int voice)> WritePdf;
+
   /// Keeps a picture of what is shown in a file; set by a shell that has pictures. Called when a
   /// slot is left, and must not throw.
   std::function<void(const std::string& file)> KeepPage;

@@ -38,7 +38,7 @@ inline constexpr const char* kInGame[] = {
     "frmFedProd",    "frmFedSponsor",   "frmTelevision", "frmPromoTape", "frmTvOffer",
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
-    "frmReigns",     "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
+    "frmReigns",     "frmChronicle",  "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
     "frmMorning",    "frmInternet",     "frmGlossary",   "frmDrafts",    "frmProspect",
     "frmPlayOn",     "frmMonth",        "frmGodMode",    "frmRecords",   "frmHall",
     "frmYearbook",   "frmFamilyTree"};

@@ -2,6 +2,7 @@
 
 #include <tuple>
 
+#include "records/fields/annals.h"
 #include "records/fields/chapters.h"
 #include "records/fields/chronicle.h"
 #include "records/fields/companies.h"
@@ -29,7 +30,7 @@ using AllTables =
                Records<MonthPlan>, Records<HouseRules>, Records<CardMatch>, Records<Grudge>,
                Records<RingName>, Records<SaidLine>, Records<TotalsState>, Records<Career>,
                Records<Tenure>, Records<Partnership>, Records<Feat>, Records<YearLine>,
-               Records<HallMember>, Records<TellingHabit>>;
+               Records<HallMember>, Records<TellingHabit>, Records<Annal>>;
 
 // What all files of the house would compile again and again is compiled once, in knownfiles.cpp.
 // clang-format off
@@ -41,7 +42,7 @@ using AllTables =
   OF(GuideState) OF(WorkerMonths) OF(MoodChange) OF(KeptRow) OF(ShowNote) OF(ReadMail) \
   OF(WorldKey) OF(BoardState) OF(OwnerWish) OF(MonthPlan) OF(HouseRules) OF(CardMatch) \
   OF(Grudge) OF(RingName) OF(SaidLine) OF(TotalsState) OF(Career) OF(Tenure) \
-  OF(Partnership) OF(Feat) OF(YearLine) OF(HallMember) OF(TellingHabit)
+  OF(Partnership) OF(Feat) OF(YearLine) OF(HallMember) OF(TellingHabit) OF(Annal)
 // clang-format on
 #define GM_ELSEWHERE(T) extern template class Records<T>;
 GM_EVERY_RECORD(GM_ELSEWHERE)

@@ -118,7 +118,8 @@ std::vector<TableKind> MakeKinds() {
           Kind<Feat>("feats.csv", true),
           Kind<YearLine>("yearbook.csv", true),
           Kind<HallMember>("hall.csv", true),
-          Kind<TellingHabit>("tellings.csv", true)};
+          Kind<TellingHabit>("tellings.csv", true),
+          Kind<Annal>("annals.csv", true)};
 }
 
 }  // namespace

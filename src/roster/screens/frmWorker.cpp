@@ -84,9 +84,10 @@ class frmWorker : public GameScreen {
     ui::Box facts(
         ui::Box::Kind::Columns, "All the facts",
         {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});
-    ui::Page page = PageOf(ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
-                           {&cmdprevious, &cmdnext, &cmdhall, &cmdcompare, &cmdturn, &cmdshortlist},
-                           &cmdcontract);
+    ui::Page page = PageOf(
+        ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
+        {&cmdprevious, &cmdnext, &cmdhall, &cmdcompare, &cmdturn, &cmdshortlist, &cmdchronicle},
+        &cmdcontract);
     page.Then = &cmdback;  // for those who cannot be talked to
     page.Face = &picworker;
     page.More = {&lblmarks, &lblfinishers};
@@ -358,6 +359,8 @@ class frmWorker : public GameScreen {
                         [this] { desk().Open(MakefrmCompare(game_, {uid_})); }};
   ui::Button cmdturn{*this, "cmdturn", "Prepare A Turn", &frmWorker::cmdturn_Click};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Shortlist", &frmWorker::cmdshortlist_Click};
+  ui::Button cmdchronicle{*this, "cmdchronicle", "Chronicle",
+                          [this] { game_.OpenChapter("Workers", uid_, ""); }};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmWorker::cmdcontract_Click};
 };
 

@@ -27,7 +27,7 @@ class frmReigns : public GameScreen {
     return PageOf(
         ui::Columns({ui::Group("", {ui::Field("Title", cmbtitle), ui::Grow(lstreigns)}).Grow(5),
                      ui::Group("Champions", {ui::Grow(lsttotals)}).Grow(3)}),
-        &lblfacts);
+        &lblfacts, {&cmdchronicle});
   }
 
   void Load() override {
@@ -74,8 +74,14 @@ class frmReigns : public GameScreen {
                 [&](const TitleReign& reign) { return world().Reigns().NumberOf(reign); });
       FillPlaces(lsttotals, totals_, TotalsOf(world(), lineage));
     }
+    EnableUnless(cmdchronicle, cmbtitle.Selected() != 0 ? "" : "There is no Title in the world.");
     lblfacts.Text = cmbtitle.Count() == 0 ? "There is no Title in the world."
                                           : Counted(lsttotals.Count(), "champion") + ".";
+  }
+
+  void cmdchronicle_Click() {
+    const Lineage& lineage = lineages_[static_cast<std::size_t>(cmbtitle.Selected() - 1)];
+    game_.OpenChapter("Titles", lineage.Owner, lineage.Title);
   }
 
   using K = ui::ColumnKind;
@@ -111,6 +117,7 @@ class frmReigns : public GameScreen {
        [](const ChampionTotal& total) { return CountCell(total.Defences); }}};
   ui::ListBox lstreigns{*this, "lstreigns", HeadingsOf(reigns_)};
   ui::ListBox lsttotals{*this, "lsttotals", HeadingsOf(totals_)};
+  ui::Button cmdchronicle{*this, "cmdchronicle", "Chronicle", &frmReigns::cmdchronicle_Click};
 };
 
 enum Whose { kYours = 1, kEverybodys };
