@@ -27,12 +27,9 @@ int WriteTheBook(const Arguments& arguments, Shell& shell) {
 
 }  // namespace
 
-const Command kBook{"book",
-                    "SLOT FILE [--voice 0..2]",
+const Command kBook{"book", "SLOT FILE",
                     "Writes the chronicle of the game in the folder SLOT into FILE, a page of "
                     "HTML: every sentence leads to the records that prove it.",
-                    2,
-                    kBookOptions,
-                    WriteTheBook};
+                    kBookOptions, WriteTheBook};
 
 }  // namespace grapplemont::tools
