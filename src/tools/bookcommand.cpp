@@ -16,7 +16,7 @@ int WriteTheBook(const Arguments& arguments, Shell& shell) {
   const int reporter = world.Game().Reporter;
   const auto voice = arguments.Number("--voice", kLamplighter, kQvd);
   const Archive archive(world);
-  const Book book = WriteBook(archive, voice ? static_cast<int>(*voice) : reporter);
+  const WorldBook book = WriteBook(archive, voice ? static_cast<int>(*voice) : reporter);
   const std::string html = HtmlOf(world, book, {SvgOf});
   WriteFile(*disk, arguments.Place(1), std::as_bytes(std::span(html)));
   std::size_t chapters = 0;
