@@ -75,9 +75,10 @@ constexpr PageRow kStartPages[] = {
     {"Load Game", "continue save slots import export", "frmLoadGame"},
     {"File Editor", "data records change", "frmEditor"},
     {"Credits", "authors makers", "frmCredits"},
-    {"About Grapplemont", "version licence license libraries new changes log faults bug report",
-     "frmAbout"},
 };
+constexpr PageRow kAbout{"About Grapplemont",
+                         "version licence license libraries new changes log faults bug report",
+                         "frmAbout"};
 
 void OpenPage(Game& game, const PageRow& page, const std::string& why) {
   if (!why.empty()) return game.Desk().Say("Not now", why);
@@ -124,6 +125,7 @@ void AddPages(Game& game, std::string_view typed, std::size_t most,
               pages);
   for (const PageRow& page : kStartPages)
     AddPage(game, page, typed, plays ? "Quit leads to the menu, where it stands." : "", pages);
+  AddPage(game, kAbout, typed, plays ? under : "", pages);
   std::ranges::stable_sort(pages, {}, &ui::Finding::Fit);
   pages.resize(std::min(pages.size(), most));
   findings.insert(findings.end(), pages.begin(), pages.end());

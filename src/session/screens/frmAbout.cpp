@@ -64,7 +64,7 @@ Paragraphs ParagraphsOf(std::string_view text) {
 
 class frmAbout : public GameScreen {
  public:
-  explicit frmAbout(Game& game) : GameScreen(game, "frmAbout", "About", {.Is = ui::Role::Cover}) {
+  explicit frmAbout(Game& game) : GameScreen(game, "frmAbout", "About") {
     rptabout.Write(AboutProgram());
     Tell(rptnew, "CHANGELOG.md", "What is new is told in the CHANGELOG of the program.");
     Tell(rptlicence, "LICENSE", "The licence can be read at gnu.org/licenses.");
@@ -104,7 +104,6 @@ class frmAbout : public GameScreen {
     report.Write(std::move(told));
   }
 
-  ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
   ui::Report rptabout{*this, "rptabout"}, rptnew{*this, "rptnew"};
   ui::Report rptlicence{*this, "rptlicence"}, rptfaults{*this, "rptfaults"};
   ui::Label lblfaults{*this, "lblfaults"};
