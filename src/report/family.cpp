@@ -44,6 +44,9 @@ constexpr BandRange kOne = {};
 constexpr BandRange kSkills = Named<kBrawlLow, kSpeedHigh>();
 constexpr BandRange kBouts = {0, static_cast<int>(std::size(kMatchTypes)) - 1, BoutName};
 constexpr BandRange kSpeeches = {0, TalkBand(kManagedTeamTalk, kTalkNone), SpeechName};
+constexpr BandRange kTellings = {static_cast<int>(Tells::WorksFor),
+                                 static_cast<int>(Tells::BeforeAnnals),
+                                 NameIn<Tells::WorksFor, Tells::BeforeAnnals>};
 constexpr BandRange kVerdicts = {0, static_cast<int>(std::size(kVerdictsUpTo)) - 1, VerdictName};
 constexpr std::uint32_t kNotInSingles = 1U << kMiscommunication | 1U << kPartnerTurns;
 constexpr bool kExact = true;
@@ -125,6 +128,7 @@ constexpr FamilyRow kRows[] = {
     {SpeechAgain, "talk", "T", "T", kOne, 3},
     {TalkClosing, "talk", "TV", "", Named<kVerbalAttack, kTalkNone>(), 2},
     {AngleText, "angles", "1234FSOG", "", {1, kAngles, AngleName}, 2},
+    {Chapter, "chronicle", "FSXG", "", kTellings, 6},
     {Verdict, "verdicts", "", "", kVerdicts, 2, false, kTolland},
     {NoVerdict, "verdicts", "", "", kOne, 1, kExact, kTolland},
 };

@@ -97,6 +97,7 @@ enum class Family {
   SpeechAgain,  // {T} has nothing to add to what the show has heard
   TalkClosing,
   AngleText,
+  Chapter,  // of a chronicle, by what it tells
   // The second reporter's ratings.
   Verdict,  // by kVerdictsUpTo
   NoVerdict,
@@ -260,6 +261,57 @@ enum SquashTold { kSquashBegins, kSquashDone };
 /// What the second reporter calls a dud, no line praises, and what comes up to here none shrugs
 /// off.
 inline constexpr int kDudUpTo = 45, kFairUpTo = 80;
+/// Bands of Chapter. What {count}, {tally} and {feud} hold, their units with them, stands behind.
+enum class Tells {
+  WorksFor,        // {F} for {promotion}; {count} of age
+  WorksForNobody,  // {count} of age
+  CareerOver,      // {F}, {when}
+  SignedUp,        // {F} for {promotion}
+  SignedAway,      // {F} from {G} for {promotion}
+  LetGo,
+  Left,
+  Hurt,          // {F}, {tally}, for {count}
+  NewName,       // {F}, who was {tally} until then
+  TeamedUp,      // {F} and {S} as {G}
+  TeamParted,    // the same
+  StableMade,    // {F}, {G}
+  StableJoined,  // {F}, {G}
+  CrownWon,      // {F} {title} from {S}, for {count}, until {X}, if anybody, took it
+  CrownFilled,   // {F} {title} that was vacant, the same
+  CrownOn,       // {F} still has {title}, since {since}, for {count}
+  CrownBefore,   // {F} had {title} before anybody kept count of days
+  CrownsInAll,   // {F}, {count} reigns, {tally} in all
+  AwardWon,      // {F}, {tally}
+  AwardGiven,    // {tally} to {feud}
+  FeudBegan,     // {F} and {S}
+  FeudWon,       // by {F} over {S}, after {count}, by {tally}
+  FeudCold,      // {F} and {S}, after {count}
+  FeudOn,        // {F} and {S}, since {since}
+  FeudMatch,     // {F} beat {S}, rated {count}
+  Record,        // {F} for {promotion}: {count}, {tally}
+  BestMatch,     // {F} against {S}, rated {count}
+  CrownStands,   // {title} of {promotion}, image {count}
+  CrownGone,     // {title} of {promotion}
+  CrownMade,
+  CrownYear,     // {title} changed hands {count} {when}: {tally}
+  CrownLongest,  // {F}, {count}, from {when}
+  CrownMost,     // {F}, {count}
+  HouseFounded,  // {promotion}, {tally}
+  HouseStands,   // {promotion}, {tally}, image {count}
+  HouseRisen,    // to {tally}
+  HouseFallen,
+  HouseClosed,
+  HouseBought,  // by {G}
+  HouseOwner,   // {tally}
+  HousePeak,    // {tally}, image {count}
+  HouseShow,    // {tally}, rated {count}
+  HouseMoves,   // {count} signed, {tally} gone
+  YearMoves,    // {count}
+  YearCrowns,   // {count}
+  YearRetired,  // {count}: {tally}
+  BeforeAnnals
+};
+
 /// Bands of Verdict: the highest Overall that each rates.
 inline constexpr int kVerdictsUpTo[] = {15, 20, 25, 30, 35, 40, 45, 50, 55, 60, 66,
                                         71, 75, 80, 84, 86, 90, 93, 97, 99, 100};

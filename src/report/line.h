@@ -44,6 +44,9 @@ inline constexpr std::string_view kLineTags[] = {
     "down", "hold", "floor", "held", "anyway", "trouble", "worn", "pin",  "low", "mid",
     "high", "leg",  "arm",   "back", "up",     "clean",   "cold", "warm", "hot"};
 
+/// What a line is wished to be where several would do.
+enum class LineWish { Any, Short, Long };
+
 struct TaggedLine {
   unsigned Tags = 0;
   std::string_view Text;  // without its tags

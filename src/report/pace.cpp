@@ -20,7 +20,7 @@ constexpr double kPerSpread = 24, kMostSpreads = 2, kLeastSpread = 4;
 constexpr int kBoutsToJudgeBy = 60, kFewBouts = 5;
 
 /// What a match has to matter for more than its row, and how its room grows from there.
-constexpr int kMattersFrom = 54, kRoomFrom = 46, kSaysLittle = 48;
+constexpr int kMattersFrom = 54, kRoomFrom = 46, kSaysLittle = 48, kSaysMuch = 62;
 constexpr double kRoomPerPoint = 1.9;
 constexpr double kMostPerStep = 3, kLeastPerStep = 0.05;
 constexpr int kShort = 9;  // steps more that a row of few may have
@@ -102,6 +102,7 @@ int ImportanceOf(Teller& teller) {
 
 void Pace::Open(Teller& teller) {
   importance_ = ImportanceOf(teller);
+  isOpen_ = true;
   if (importance_ < kMattersFrom) return;
   crowds_ = importance_ >= kHuge ? kMostCrowds + 1 : kMostCrowds;
   units_ = static_cast<int>((importance_ - kRoomFrom) * kRoomPerPoint);
@@ -206,6 +207,11 @@ int Pace::Choose(Teller& teller, char step) const {
 
 bool Pace::SaysLittle() const {
   return importance_ < kSaysLittle;
+}
+
+LineWish Pace::Wish() const {
+  if (!isOpen_) return LineWish::Any;
+  return SaysLittle() ? LineWish::Short : importance_ >= kSaysMuch ? LineWish::Long : LineWish::Any;
 }
 
 void Pace::HoldBreath(Teller& teller) {

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "report/family.h"
+#include "report/line.h"
 
 namespace grapplemont {
 
@@ -31,6 +32,8 @@ class Pace {
   void AfterBell(Teller& teller);
   /// The match is worth less than usual: nothing is said beside its row.
   bool SaysLittle() const;
+  /// Short lines for such a match, long ones for one that matters a good deal.
+  LineWish Wish() const;
 
  private:
   /// The match has sentences of its own between its steps.
@@ -41,6 +44,7 @@ class Pace {
   bool IsToWake(const Teller& teller) const;
   int Choose(Teller& teller, char step) const;
 
+  bool isOpen_ = false;  // Open has been called
   int importance_ = 0;
   int units_ = 0;           // steps and sentences that the whole match is to have
   int steps_ = 0, at_ = 0;  // of the row, and how many are through

@@ -5,6 +5,7 @@
 
 #include "records/segments.h"
 #include "report/drama.h"
+#include "report/stretches.h"
 
 namespace grapplemont {
 
@@ -136,7 +137,10 @@ void Ring::Play(std::string_view script, int spot, const Person* last, const Per
   Pace& pace = teller_.Pace;
   pace.Begin(static_cast<int>(script.size()));
   Drama drama(teller_);
+  const std::vector<Stretch> stretches = StretchesOf(script);
   for (std::size_t at = 0; at < script.size(); ++at) {
+    const bool isNew = at > 0 && stretches[at] != stretches[at - 1];
+    if (isNew || (at > 0 && IsEnough(script[at], teller_.LinesHere()))) teller_.Paragraph();
     attacker_ = plan_[at].Attacker;
     defender_ = plan_[at].Defender;
     Act();

@@ -48,7 +48,9 @@ bool Teller::Say(Family family, int band, unsigned wants) {
   if (wants != 0 && std::count(fits.begin(), fits.end(), true) == 0)
     fits = Fitting(family, band, 0);
   const std::vector<int> days = DaysUnsaid(family, band, fits);
-  return SayLine(family, band, memory_.Pick(world.Prose(), block, std::move(fits), days));
+  return SayLine(family, band,
+                 memory_.PickAsWished(world.Prose(), block, std::move(fits), days,
+                                      LengthsOf(voice_, family, band), Pace.Wish()));
 }
 
 bool Teller::SayNew(Family family, int band) {
@@ -98,8 +100,11 @@ bool Teller::SayLine(Family family, int band, int line) {
   const int way = memory_.Said().Times(world, key);
   memory_.Said().Say(world, key);
   const bool hasWays = read.Text.find('[') != std::string_view::npos;
-  const bool isSaid =
-      hasWays ? Fill(cast, SaidIn(read.Text, way), text_) : Fill(cast, read.Text, text_);
+  ends_.clear();
+  const bool isSaid = hasWays ? Fill(cast, SaidIn(read.Text, way), text_, ends_)
+                              : Fill(cast, read.Text, text_, ends_);
+  for (const std::size_t end : ends_) sentences_.push_back({end, family, band});
+  linesHere_ += isSaid;
   Move(family, read);
   return isSaid;
 }
@@ -224,6 +229,7 @@ void Teller::Move(Family family, const TaggedLine& line) {
 void Teller::Paragraph() {
   while (text_.ends_with(' ')) text_.pop_back();
   if (!text_.empty() && !text_.ends_with('\n')) text_ += '\n';
+  linesHere_ = 0;
 }
 
 std::string Teller::Text() {
@@ -249,6 +255,14 @@ int KnownVoice(int voice) {
   return voice >= 0 && voice < kVoiceCount ? voice : kLamplighter;
 }
 
+/// Of all ways to say it.
+int MeanLength(std::string_view line) {
+  const int ways = WaysToSay(line);
+  int letters = 0;
+  for (int way = 0; way < ways; ++way) letters += static_cast<int>(SaidIn(line, way).size());
+  return letters / ways;
+}
+
 /// Every block of a voice by family and band.
 class Index {
  public:
@@ -262,6 +276,7 @@ class Index {
     const Block* Lines = nullptr;
     std::vector<std::int32_t> Keys = {};
     std::vector<TaggedLine> Read = {};
+    std::vector<int> Lengths = {};
   };
   const Entry& Find(Family family, int band) const {
     static const Entry kNone;
@@ -277,7 +292,9 @@ class Index {
     entry.Lines = &block;
     for (const std::string_view line : block.Lines) {
       entry.Read.push_back(ReadTags(line));
-      entry.Keys.push_back(LineKey(voice, entry.Read.back().Text));
+      const std::string_view text = entry.Read.back().Text;
+      entry.Keys.push_back(LineKey(voice, text));
+      entry.Lengths.push_back(MeanLength(text));
     }
   }
 
@@ -289,14 +306,14 @@ const Index::Entry& EntryOf(int voice, Family family, int band) {
       Index{kLamplighter,
             {modLamplighter::Offence(), modLamplighter::Bouts(), modLamplighter::Finishes(),
              modLamplighter::Talk(), modLamplighter::Angles(), modLamplighter::Memory(),
-             modLamplighter::Beats()}},
+             modLamplighter::Beats(), modLamplighter::Chronicle()}},
       Index{kTolland,
             {modTolland::Offence(), modTolland::Bouts(), modTolland::Finishes(), modTolland::Talk(),
              modTolland::Angles(), modTolland::Verdicts(), modTolland::Memory(),
-             modTolland::Beats()}},
+             modTolland::Beats(), modTolland::Chronicle()}},
       Index{kQvd,
             {modQVD::Offence(), modQVD::Bouts(), modQVD::Finishes(), modQVD::Talk(),
-             modQVD::Angles(), modQVD::Memory(), modQVD::Beats()}}};
+             modQVD::Angles(), modQVD::Memory(), modQVD::Beats(), modQVD::Chronicle()}}};
   const int only = RowOf(family).Only;
   const int teller = only == kEveryVoice ? KnownVoice(voice) : only;
   return kIndex[static_cast<std::size_t>(teller)].Find(family, band);
@@ -314,6 +331,10 @@ const Block* BlockOf(int voice, Family family, int band) {
 
 std::span<const std::int32_t> KeysOf(int voice, Family family, int band) {
   return EntryOf(voice, family, band).Keys;
+}
+
+std::span<const int> LengthsOf(int voice, Family family, int band) {
+  return EntryOf(voice, family, band).Lengths;
 }
 
 std::span<const TaggedLine> ReadLinesOf(int voice, Family family, int band) {

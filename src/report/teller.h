@@ -41,8 +41,12 @@ class Teller {
   void Append(std::string_view text) { text_ += text; }
   /// What follows begins a new paragraph.
   void Paragraph();
+  /// Lines said since it began.
+  int LinesHere() const { return linesHere_; }
   /// The whole report, trimmed.
   std::string Text();
+  /// What it consists of.
+  const std::vector<SaidSentence>& Sentences() const { return sentences_; }
 
   /// A match on a show of the player's; of any other no more is known than its card and its Title.
   bool IsOurs() const { return scene.Promotion == 0; }
@@ -84,6 +88,9 @@ class Teller {
   LineMemory& memory_;
   int voice_;
   std::string text_;
+  std::vector<SaidSentence> sentences_;
+  std::vector<std::size_t> ends_;  // of the sentences of the line that is said
+  int linesHere_ = 0;
 };
 
 /// The band of an offence line: Brawl, Technical and Speed each with a draw of 10 on top, the
@@ -102,6 +109,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 }  // namespace modLamplighter
 
 namespace modTolland {
@@ -112,6 +120,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 Blocks Verdicts();
 }  // namespace modTolland
 
@@ -123,6 +132,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 }  // namespace modQVD
 
 /// The lines to draw from: the voice's, or those of the one voice that has the family for all.
@@ -130,6 +140,8 @@ Blocks Angles();
 const Block* BlockOf(int voice, Family family, int band);
 /// By which each of its lines is remembered (saidlines.h).
 std::span<const std::int32_t> KeysOf(int voice, Family family, int band);
+/// About how many letters each of them has.
+std::span<const int> LengthsOf(int voice, Family family, int band);
 /// Each of them, apart from its tags.
 std::span<const TaggedLine> ReadLinesOf(int voice, Family family, int band);
 

@@ -1,3 +1,4 @@
+#include "records/keepannals.h"
 #include "records/modVar.h"
 #include "records/segmentparts.h"
 #include "show/legend.h"
@@ -175,6 +176,8 @@ void EndFeudByMatch(SegmentRun& run) {
   if (const int side = FeudSideOf(feud, run.Segment.Winner);
       side != 0 && score.One + score.Two >= kNoticed)
     PayOff(run, feud, side == 1);
+  const int winners = FeudSideOf(feud, run.Segment.Winner);
+  KeepFeud(run.World, winners == 0 ? kAnnalFeudCold : kAnnalFeudOver, feud, winners == 2);
   for (Word* worker : {&feud.Worker1, &feud.Worker2, &feud.Worker3, &feud.Worker4}) *worker = 0;
   run.FeudEnding = false;
   NoteFact(run, {kNoteFeudEnd, name}, 0, heat,

@@ -2,7 +2,6 @@
 
 #include <span>
 
-#include "report/report.h"
 #include "show/aftermatch.h"
 #include "show/holdshow.h"
 #include "show/matchscore.h"
@@ -24,6 +23,7 @@ struct Telling {
   Title* AtStake;      // nullptr for no Title
   grapplemont::Scene Scene = {};
   std::string Report = {}, Verdict = {};
+  std::vector<SaidSentence> Sentences = {};
 };
 
 using Step = void (*)(Telling&);
@@ -74,8 +74,8 @@ void WriteProse(Telling& telling) {
   if (!telling.Memory) return;
   telling.Scene.Overall = telling.Run.Overall;
   telling.Scene.Crowd = telling.Run.Crowd;
-  telling.Report =
-      WriteReport(telling.Run.World, telling.Run.Segment, telling.Scene, *telling.Memory);
+  telling.Report = WriteReport(telling.Run.World, telling.Run.Segment, telling.Scene,
+                               *telling.Memory, &telling.Sentences);
 }
 
 void LimitBoth(SegmentRun& run) {
@@ -154,8 +154,9 @@ ToldSegment RunSegment(World& world, int number, LineMemory* memory) {
   SegmentRun run{world, segment, world.ShowRuns()[1], {}, {}, {}, 1, false, {}, number};
   Telling telling{run, number, memory, TitleAtStake(world, segment)};
   for (const Step step : StepsOf(segment)) step(telling);
-  return {std::move(run.Quality), std::move(run.Crowd),      std::move(run.Overall),
-          std::move(run.Notes),   std::move(telling.Report), std::move(telling.Verdict)};
+  return {std::move(run.Quality),      std::move(run.Crowd),      std::move(run.Overall),
+          std::move(run.Notes),        std::move(telling.Report), std::move(telling.Verdict),
+          std::move(telling.Sentences)};
 }
 
 void MatchConsequences(SegmentRun& run) {

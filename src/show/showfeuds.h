@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/span.h"
 #include "show/segmentrun.h"
 
 // Feuds as a show sees them. In a singles feud the two enemies are the sides; in a tag feud each
@@ -28,6 +29,10 @@ int FeudSlotOf(const World& world, const Segment& segment, bool ofTeams);
 /// Lifts the crowd towards the heat of the feud in this slot and marks it as used; nothing for slot
 /// 0. Draws once where the crowd is below the heat.
 void FeudLift(SegmentRun& run, int slot);
+
+/// By how much the heat of a feud goes at a time, and the heats at which talk alone lifts no more.
+Span HeatMoves();
+Span HeatOfTalk();
 
 /// The heat of the first feud of Worker1 and Worker2 follows the match as it is rated so far; in a
 /// tag match too, where the two are partners.

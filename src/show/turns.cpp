@@ -107,12 +107,14 @@ std::string_view TurnedInto(const Worker& turner) {
   return turner.Disposition == "F" ? "face. " : turner.Disposition == "T" ? "tweener. " : "heel. ";
 }
 
+constexpr int kTurnUp = 10, kTurnDown = 3;  // draws of Over
+
 void CompleteTurn(SegmentRun& run, Worker& turner) {
   run.Notes += turner.Name.Str() + "'s turn was completed, and " +
                (turner.Gender ? "he " : "she ") + "is now a " + std::string(TurnedInto(turner));
   run.Crowd.Add(run.World.RandomDraw(10), "turn of " + turner.Name.Str());
-  const int up = run.World.RandomDraw(10);
-  ChangeOverAndTell(run, turner, up - run.World.RandomDraw(3), "turned");
+  const int up = run.World.RandomDraw(kTurnUp);
+  ChangeOverAndTell(run, turner, up - run.World.RandomDraw(kTurnDown), "turned");
 }
 
 void FailTurn(SegmentRun& run, Worker& turner, const FailedTurn& price) {
@@ -238,6 +240,19 @@ void AddMatchTurns(Calls& calls, const World& world, const Segment& segment) {
 }
 
 }  // namespace
+
+int BestOfTurn() {
+  return kTurnUp - 1;
+}
+
+Span CostOfFailedTurn() {
+  Span cost{100, 0};
+  for (const FailedTurn& price : kFailedTurns) {
+    cost.Least = std::min(cost.Least, -price.Over + (price.OverDraw > 0 ? 1 : 0));
+    cost.Most = std::max(cost.Most, -price.Over + price.OverDraw);
+  }
+  return cost;
+}
 
 bool IsSureToFail(const Worker& turner, const Worker* other) {
   const TurnRow* row = FindTurn(turner, other ? *other : turner);

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "records/span.h"
 #include "show/segmentrun.h"
 
 namespace grapplemont {
@@ -13,6 +14,10 @@ enum class TurnOutcome { Completed, Flat, TooSoon, Baffling };
 /// follow, and the notes tell it. Draws once for each of the spans that the last turn lies within,
 /// unless it is very recent; then by the outcome.
 TurnOutcome ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other);
+
+/// The most Over that a turn which comes off gives, and what one that fails costs.
+int BestOfTurn();
+Span CostOfFailedTurn();
 
 /// Whether the crowd will not like this turn, however popular the two are.
 bool IsSureToFail(const Worker& turner, const Worker* other);

@@ -29,6 +29,9 @@ struct Feud {
   Natural Sneak2;
   Percent Heat;
   Date Started;
+
+  int WonOne() const { return Clean1 + Dirty1 + Interference1 + Sneak1; }
+  int WonTwo() const { return Clean2 + Dirty2 + Interference2 + Sneak2; }
 };
 GM_RECORD(Feud, 36);
 
