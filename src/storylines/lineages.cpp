@@ -15,6 +15,8 @@ namespace grapplemont {
 namespace {
 
 constexpr int kDropped = 1000;
+/// A reign that records may tell of for ever: so many days, or defences.
+constexpr int kGreatDays = 365, kGreatDefences = 30;
 
 /// A Title as the reigns know it.
 using Name = std::pair<int, std::string>;
@@ -43,6 +45,11 @@ std::pair<int, int> PeopleOf(const World& world, const Title& title, const Reign
   for (const Worker& worker : world.Workers())
     if (title.Singles && worker.Name == line.Holder) return {worker.Uid, 0};
   return {0, 0};
+}
+
+bool IsGreat(const TitleReign& reign) {
+  return !IsVacancy(reign) &&
+         (DaysOf(reign, reign.Until) >= kGreatDays || reign.Defences >= kGreatDefences);
 }
 
 /// Walks over the Titles and their reigns once.
@@ -150,10 +157,12 @@ class Update {
 
   void Append(const TitleReign& reign) {
     Records<TitleReign>& reigns = world_.Reigns();
-    if (reigns.Full()) {
+    for (const bool great : {true, false}) {  // those that records tell of go last
       int dropped = 0;
-      reigns.Keep(
-          [&](const TitleReign& old) { return old.End == kReignLasts || ++dropped > kDropped; });
+      if (!reigns.Full()) break;
+      reigns.Keep([&](const TitleReign& old) {
+        return old.End == kReignLasts || (great && IsGreat(old)) || ++dropped > kDropped;
+      });
     }
     if (!reigns.Full()) reigns.Append(reign);
   }
