@@ -24,9 +24,9 @@ constexpr PartRow kBookParts[] = {{About::Promotion, "Promotions", 100, 0},
 
 }  // namespace
 
-Book WriteBook(const Archive& archive, int voice) {
+WorldBook WriteBook(const Archive& archive, int voice) {
   const World& world = archive.Of();
-  Book book;
+  WorldBook book;
   book.Title = "The Chronicle of " + PromotionName(world, world.PlayerUid()) + " and Its World";
   book.Under = "Told by " + std::string(VoiceName(voice)) + ", " + PlainDate(world.Today());
   for (const PartRow& row : kBookParts) {
@@ -42,9 +42,9 @@ Book WriteBook(const Archive& archive, int voice) {
   return book;
 }
 
-Book BookOf(const Archive& archive, const Subject& subject, int voice) {
+WorldBook BookOf(const Archive& archive, const Subject& subject, int voice) {
   Chapter chapter = WriteChapter(archive, subject, voice);
-  Book book;
+  WorldBook book;
   book.Title = chapter.Heading;
   book.Under = "Told by " + std::string(VoiceName(voice)) + ", " + PlainDate(archive.Of().Today());
   chapter.Heading.clear();

@@ -14,15 +14,15 @@ struct BookPart {
   std::string Heading;
   std::vector<Chapter> Chapters;
 };
-struct Book {
+struct WorldBook {
   std::string Title, Under;
   std::vector<BookPart> Parts;
 };
 
 /// The book of the archive's world in a voice; what there is little to tell of is left out.
-Book WriteBook(const Archive& archive, int voice);
+WorldBook WriteBook(const Archive& archive, int voice);
 /// One chapter as a book.
-Book BookOf(const Archive& archive, const Subject& subject, int voice);
+WorldBook BookOf(const Archive& archive, const Subject& subject, int voice);
 
 /// How a book is written down.
 struct BookForm {
@@ -32,7 +32,7 @@ struct BookForm {
 };
 /// A whole document in UTF-8: a table of contents where there are several chapters, the chapters,
 /// and behind them the records, to which each sentence leads.
-std::string HtmlOf(const World& world, const Book& book, const BookForm& form);
+std::string HtmlOf(const World& world, const WorldBook& book, const BookForm& form);
 /// Lines and shapes of a picture as they stand in HTML.
 std::string SvgOf(const Figure& figure);
 

@@ -47,7 +47,7 @@ std::string Safe(std::string_view text) {
 
 class HtmlWriter {
  public:
-  HtmlWriter(const World& world, const Book& book, const BookForm& form)
+  HtmlWriter(const World& world, const WorldBook& book, const BookForm& form)
       : world_(world), book_(book), form_(form) {}
 
   std::string Write() {
@@ -152,7 +152,7 @@ class HtmlWriter {
   }
 
   const World& world_;
-  const Book& book_;
+  const WorldBook& book_;
   const BookForm& form_;
   std::string out_;
   std::map<std::string, int> places_;
@@ -161,7 +161,7 @@ class HtmlWriter {
 
 }  // namespace
 
-std::string HtmlOf(const World& world, const Book& book, const BookForm& form) {
+std::string HtmlOf(const World& world, const WorldBook& book, const BookForm& form) {
   return HtmlWriter(world, book, form).Write();
 }
 

@@ -101,7 +101,8 @@ void Scribe::Tell(const Telling& telling) {
   cast_.Set(Item::When, WhenText(telling));
   cast_.Set(Item::Since, telling.On ? MonthYear(*telling.On) : std::string());
   std::string words;
-  Fill(cast_, Again(telling, std::string(Choose(telling.Of))), words);
+  std::vector<std::size_t> ends;
+  Fill(cast_, Again(telling, std::string(Choose(telling.Of))), words, ends);
   while (words.ends_with(' ')) words.pop_back();
   if (words.empty()) return;
   if (telling.Runs) last_.reset();

@@ -98,7 +98,7 @@ std::vector<int> PagesOf(const QTextDocument& document) {
 }  // namespace
 
 std::string WriteBookPdf(const World& world, const std::string& file, int voice) {
-  const Book book = WriteBook(Archive(world), voice);
+  const WorldBook book = WriteBook(Archive(world), voice);
   QTextDocument document;
   document.setDefaultFont(QFont("Georgia", 10));
   int pictures = 0;

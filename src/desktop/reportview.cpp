@@ -8,6 +8,7 @@
 #include <map>
 
 #include "desktop/pieces.h"
+#include "desktop/spoken.h"
 #include "desktop/views.h"
 
 namespace grapplemont::desktop {
@@ -62,6 +63,7 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
 
  private:
   void FitWords();
+  void ShowGrowth();
   void Write(QTextCursor& cursor, const ui::Report::Paragraph& paragraph,
              const QTextCharFormat& letters);
   void WriteNames(QTextCursor& cursor, std::string_view text, const QTextCharFormat& letters);
@@ -70,6 +72,7 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
 
   std::vector<ui::Link> links_;  // of all paragraphs; an anchor's address is a place in here
   QPoint pressed_;
+  QString words_;  // of a report that grows, as they stood before
 };
 
 ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
@@ -109,6 +112,18 @@ void ReportView::Show() {
   moveCursor(QTextCursor::Start);  // a size that changes later keeps the cursor in sight
   verticalScrollBar()->setValue(0);
   FitWords();
+  if (control_.Grows) ShowGrowth();
+}
+
+/// The last words stay in sight, and a screen reader hears those that are new.
+void ReportView::ShowGrowth() {
+  const QString words = Shown(control_.Text.Get());
+  const auto [before, now] = std::ranges::mismatch(words_, words);
+  const QString added = words.sliced(now - words.begin()).trimmed();
+  words_ = words;
+  verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+  setAccessibleDescription(added);
+  if (!added.isEmpty()) Announce(*this);
 }
 
 /// What leads somewhere can be clicked; it looks like all else.

@@ -3,6 +3,7 @@
 #include "calendar/screens/calendarscreens.h"
 #include "chronicle/screens/chroniclescreens.h"
 #include "editor/screens/screenpages.h"
+#include "halls/screens/hallscreens.h"
 #include "info/screens/helpscreens.h"
 #include "info/screens/infoscreens.h"
 #include "program/screenfinding.h"
@@ -56,6 +57,10 @@ namespace grapplemont {
   SCREEN(frmTheEnd)          \
   SCREEN(frmPinky)           \
   SCREEN(frmPlayOn)          \
+  SCREEN(frmRecords)         \
+  SCREEN(frmHall)            \
+  SCREEN(frmYearbook)        \
+  SCREEN(frmFamilyTree)      \
   SCREEN(frmMainScreen)      \
   SCREEN(frmEvent)           \
   SCREEN(frmIncident)        \
@@ -84,6 +89,7 @@ namespace grapplemont {
   SCREEN(frmGameMenu)        \
   SCREEN(frmCredits)         \
   SCREEN(frmCreditsXtra)     \
+  SCREEN(frmAbout)           \
   SCREEN(frmNewGame)         \
   SCREEN(frmLoadGame)        \
   SCREEN(frmWait)            \
@@ -98,6 +104,7 @@ void RegisterScreens(Game& game) {
   RegisterRecordPages(game);
   ConnectRoster(game);
   ConnectRivals(game);
+  ConnectHalls(game);
   ConnectCalendar(game);
   ConnectChronicle(game);
   ConnectInfo(game);

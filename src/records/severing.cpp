@@ -26,7 +26,7 @@ void LeaveEmployersOffice(World& world, const Worker& worker) {
 
 /// What a Title loses of its image when it falls vacant.
 int LossOf(const Title& title, TitleLoss loss) {
-  return loss == TitleLoss::ATenth ? title.Image / 10 : 20;
+  return loss == TitleLoss::ATenth ? title.Image / 10 : kImageOfStripped;
 }
 
 /// The job offer among the incidents names a promotion.
@@ -106,6 +106,11 @@ void ForgetInThePast(World& world, int uid) {
   world.Months().Keep(isOthers);
   world.Moods().Keep(isOthers);
   world.RingNames().Keep(isOthers);
+  for (Career& career : world.Of<Career>()) {
+    if (career.Worker != uid) continue;
+    career.Worker = 0;
+    if (world.HasGame()) career.Last = world.Today();
+  }
 }
 
 }  // namespace

@@ -212,7 +212,8 @@ namespace {
 /// Writes one line's text behind what is there, sentence by sentence.
 class Filler {
  public:
-  Filler(Cast& cast, std::string& out) : cast_(cast), out_(out), sentence_(out.size()) {}
+  Filler(Cast& cast, std::string& out, std::vector<std::size_t>& ends)
+      : cast_(cast), out_(out), ends_(ends), sentence_(out.size()) {}
 
   void Write(std::string_view line) {
     ReadHoles(
@@ -256,6 +257,7 @@ class Filler {
   void EndSentence() {
     if (broken_) out_.resize(sentence_);
     broken_ = false;
+    if (out_.size() > sentence_) ends_.push_back(out_.size());
     sentence_ = out_.size();
   }
 
@@ -307,6 +309,7 @@ class Filler {
 
   Cast& cast_;
   std::string& out_;
+  std::vector<std::size_t>& ends_;
   std::size_t sentence_;
   std::size_t namesStop_ = 0;  // behind a name that ends in a stop, which ends no sentence
   bool hidden_ = false, broken_ = false, lastWasName_ = false;
@@ -314,9 +317,9 @@ class Filler {
 
 }  // namespace
 
-bool Fill(Cast& cast, std::string_view line, std::string& out) {
+bool Fill(Cast& cast, std::string_view line, std::string& out, std::vector<std::size_t>& ends) {
   const std::size_t before = out.size();
-  Filler(cast, out).Write(line);
+  Filler(cast, out, ends).Write(line);
   return out.size() > before;
 }
 

@@ -111,6 +111,7 @@ std::string WithoutThe(std::string_view name);
 /// Appends a line with its slots filled. A sentence that names a part nobody plays, or a thing that
 /// is not there, is left out. A word or name that begins a sentence gets a capital. False when
 /// nothing was said.
-bool Fill(Cast& cast, std::string_view line, std::string& out);
+/// `ends` takes where each sentence ends in `out`.
+bool Fill(Cast& cast, std::string_view line, std::string& out, std::vector<std::size_t>& ends);
 
 }  // namespace grapplemont

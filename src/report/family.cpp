@@ -52,7 +52,7 @@ constexpr std::uint32_t kNotInSingles = 1U << kMiscommunication | 1U << kPartner
 constexpr bool kExact = true;
 
 // Family, file, parts its lines may name, parts each of them names, bands, lines a band, exactly as
-// many, the only voice that has it.
+// many, the only voice that has it, the bands that judge.
 constexpr FamilyRow kRows[] = {
     {OffenceA, "offence", "ad", "a", kSkills, 10, kExact},
     {OffenceB, "offence", "ad", "a", kSkills, 10, kExact},
@@ -115,11 +115,14 @@ constexpr FamilyRow kRows[] = {
      Named<after2::kRevenge, after2::kRunInOnBoth>(), 2},
     {TitleEnding, "finishes", "cC", "", Named<kRetained, kWonInAbsence>(), 3},
     {FeudEnding, "finishes", "FS", "", Named<kFeudGoesOn, kFeudIsOver>(), 3},
-    {PurposeEnding, "finishes", "tFS", "", Named<kGoodMatchTold, kRunInDebutTold>(), 3},
-    {Turn, "finishes", "t", "t", Named<kTurnsHeel, kBaffling>(), 3},
-    {PastOpening, "memory", "FSm", "", Named<kMetFirst, kRoadHere>(), 8},
-    {PastEnding, "memory", "FS", "", Named<kPaidBack, kPerfectMatch>(), 8},
-    {Interlude, "beats", "adwlcFS", "", Named<kWalkIn, kAfterBell>(), 10},
+    {PurposeEnding, "finishes", "tFS", "", Named<kGoodMatchTold, kRunInDebutTold>(), 3, false,
+     kEveryVoice, (1U << kPurposesTold) - 1},
+    {Turn, "finishes", "t", "t", Named<kTurnsHeel, kTooSoon>(), 3},
+    {PastOpening, "memory", "FSm", "", Named<kMetFirst, kYearRecalled>(), 8},
+    {PastEnding, "memory", "FS", "", Named<kPaidBack, kYearStands>(), 8},
+    {Interlude, "beats", "adwlcFS", "", Named<kWalkIn, kAfterBell>(), 10, false, kEveryVoice,
+     1U << kAfterBell},
+    {Squash, "beats", "wl", "", Named<kSquashBegins, kSquashDone>(), 6},
     {TalkOpening, "talk", "Tm", "T", Named<kSingleTalk, kManagedTeamTalk>(), 3},
     {Speech, "talk", "TmV", "", kSpeeches, 2},
     {SpeechAgain, "talk", "T", "T", kOne, 3},

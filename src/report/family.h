@@ -90,6 +90,7 @@ enum class Family {
   PastOpening,
   PastEnding,
   Interlude,
+  Squash,  // {w} has {l} beaten for a Title in next to no time
   // Talk and angles.
   TalkOpening,
   Speech,
@@ -139,7 +140,7 @@ enum Stipulation {
   kTlcSpot
 };
 
-/// Bands of Beat. Its lines go by the crowd's rating.
+/// Bands of Beat.
 enum BeatTold {
   kComeback,   // {a} has turned it, who had taken a good deal
   kInTrouble,  // {d} has taken a good deal
@@ -173,7 +174,15 @@ enum PurposeTold {
   kRunInDebutTold,
   kPurposesTold
 };
-enum TurnTold { kTurnsHeel, kTurnsFace, kTurnsTweener, kBaffling, kTurnsTold };
+enum TurnTold {
+  kTurnsHeel,
+  kTurnsFace,
+  kTurnsTweener,
+  kBaffling,
+  kFellFlat,  // {?face}, {?heel} or {?tweener}
+  kTooSoon,
+  kTurnsTold
+};
 
 /// Bands of PastOpening. {F} is whom it is about, {S} the others.
 enum PastKind {
@@ -200,7 +209,8 @@ enum PastKind {
   kSignedFor,
   kManagerSpoke,  // {m} for {F}
   kYearsBest,     // the two had one of the year's best {when}
-  kRoadHere       // a feud since {when}, {count} matches
+  kRoadHere,      // a feud since {when}, {count} matches
+  kYearRecalled   // {F} beat {S} {when}, in the year's best: as December's Event opens
 };
 /// Bands of PastEnding.
 enum PastOutcome {
@@ -222,6 +232,7 @@ enum PastOutcome {
   kFiftyDone,
   kWentTooFar,    // {F} is badly hurt
   kPerfectMatch,  // behind the rating
+  kYearStands     // as December's Event closes, and none was better than that of {F} and {S}
 };
 /// Bands of Interlude. {a} and {d} as in the step before.
 enum InterludeKind {
@@ -234,6 +245,7 @@ enum InterludeKind {
   kSplit,    // some like it, some do not
   kDivided,  // one half for {a}, one for {d}
   kQuiet,
+  kWakes,  // once it has something to look at
   kHope,
   kDesperate,
   kDoubt,
@@ -243,6 +255,12 @@ enum InterludeKind {
   kAfterBell
 };
 
+/// Bands of Squash: before the few steps, and behind them.
+enum SquashTold { kSquashBegins, kSquashDone };
+
+/// What the second reporter calls a dud, no line praises, and what comes up to here none shrugs
+/// off.
+inline constexpr int kDudUpTo = 45, kFairUpTo = 80;
 /// Bands of Chapter. What {count}, {tally} and {feud} hold, their units with them, stands behind.
 enum class Tells {
   WorksFor,        // {F} for {promotion}; {count} of age
@@ -330,6 +348,8 @@ struct FamilyRow {
   int Lines = 0;           // of each band, at least
   bool Exact = false;      // not a line more
   int Only = kEveryVoice;  // the voice that has it for all
+  /// Bands that judge the match, a bit for each: every line of theirs says for which ratings.
+  std::uint32_t Rated = 0;
 
   constexpr bool Has(int band) const {
     return band >= Bands.First && band <= Bands.Last &&

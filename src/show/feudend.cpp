@@ -158,9 +158,13 @@ void PayOff(SegmentRun& run, const Feud& feud, bool firstWon) {
 
 }  // namespace
 
+int FeudEndedBy(const World& world, const Segment& segment) {
+  if (segment.Kind != kMatch || PurposeOf(segment).Does != Aim::EndsFeud) return 0;
+  return FeudSlotOf(world, segment, segment.Style == kTag);
+}
+
 void EndFeudByMatch(SegmentRun& run) {
-  if (PurposeOf(run.Segment).Does != Aim::EndsFeud) return;
-  const int slot = FeudSlotOf(run.World, run.Segment, run.Segment.Style == kTag);
+  const int slot = FeudEndedBy(run.World, run.Segment);
   if (slot == 0) return;
   MarkSlot(run, slot);
   Feud& feud = run.World.Feuds()[slot];

@@ -16,7 +16,7 @@ int WriteTheBook(const Arguments& arguments, Shell& shell) {
   const int reporter = world.Game().Reporter;
   const auto voice = arguments.Number("--voice", kLamplighter, kQvd);
   const Archive archive(world);
-  const Book book = WriteBook(archive, voice ? static_cast<int>(*voice) : reporter);
+  const WorldBook book = WriteBook(archive, voice ? static_cast<int>(*voice) : reporter);
   const std::string html = HtmlOf(world, book, {SvgOf});
   WriteFile(*disk, arguments.Place(1), std::as_bytes(std::span(html)));
   std::size_t chapters = 0;
@@ -27,12 +27,9 @@ int WriteTheBook(const Arguments& arguments, Shell& shell) {
 
 }  // namespace
 
-const Command kBook{"book",
-                    "SLOT FILE [--voice 0..2]",
+const Command kBook{"book", "SLOT FILE",
                     "Writes the chronicle of the game in the folder SLOT into FILE, a page of "
                     "HTML: every sentence leads to the records that prove it.",
-                    2,
-                    kBookOptions,
-                    WriteTheBook};
+                    kBookOptions, WriteTheBook};
 
 }  // namespace grapplemont::tools
