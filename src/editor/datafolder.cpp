@@ -17,23 +17,6 @@ constexpr const char* kKept = "Your change is kept.";
 constexpr const char* kNoUndo =
     "The backup has been restored, but what the data were before could not be kept.";
 
-/// What turns one set of files into another; before it, the checksums of the first.
-DataStep StepBetween(const std::map<std::string, Bytes>& before,
-                     const std::map<std::string, Bytes>& after) {
-  std::vector<FileChange> changes;
-  for (const std::string_view file : kDataSet) {
-    const std::string name(file);
-    const auto old = before.find(name), fresh = after.find(name);
-    FileChange change{name, old != before.end(), fresh != after.end(), {}, {}};
-    if (change.ExistsBefore) change.Before = old->second;
-    if (change.ExistsAfter) change.After = fresh->second;
-    const bool same = change.ExistsBefore == change.ExistsAfter &&
-                      std::ranges::equal(change.Before, change.After);
-    if (!same) changes.push_back(change);
-  }
-  return StepOf(changes);
-}
-
 }  // namespace
 
 DataBusy::DataBusy()
@@ -140,8 +123,16 @@ void DataFolder::Take(const DataStep& step, const std::function<void()>& made) {
 void DataFolder::Commit() {
   const auto changes = world_.Changes();
   if (changes.empty()) return;
-  if (!backedUp_) KeepBackup(FilesNow());
-  Take(StepOf(changes), [this] { world_.MarkCommitted(); });
+  const auto before = FilesNow();
+  if (!backedUp_) KeepBackup(before);
+  auto after = before;
+  for (const FileChange& change : changes) {
+    if (change.ExistsAfter)
+      after[change.Name].assign(change.After.begin(), change.After.end());
+    else
+      after.erase(change.Name);
+  }
+  Take(StepBetween(before, after), [&] { world_.MarkCommitted(changes); });
 }
 
 bool DataFolder::Restore() {

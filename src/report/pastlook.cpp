@@ -1,9 +1,11 @@
 #include "report/pastlook.h"
 
 #include <algorithm>
+#include <ranges>
 
 #include "records/fields/fields.h"
 #include "records/modWresCheck.h"
+#include "records/pastmatches.h"
 #include "records/segments.h"
 #include "report/stages.h"
 #include "storylines/feuds.h"
@@ -37,12 +39,6 @@ int FirstSide(const HeldMatch& bout, const Uids& one, const Uids& two) {
   if (one.size() != two.size() || one.empty()) return 0;
   if (holds(0, one)) return holds(one.size(), two) ? 1 : 0;
   return holds(0, two) && holds(one.size(), one) ? 2 : 0;
-}
-
-const MatchTally* TallyOf(const World& world, int uid) {
-  for (const MatchTally& tally : world.Tallies())
-    if (tally.Worker == uid && tally.Promotion == world.PlayerUid()) return &tally;
-  return nullptr;
 }
 
 int MatchesOf(const MatchTally* tally) {
@@ -247,7 +243,9 @@ bool AnyOf(const std::vector<int>& some, const std::vector<int>& others) {
 Meetings MeetingsOf(const World& world, int style, const std::vector<int>& one,
                     const std::vector<int>& two) {
   Meetings had;
-  for (const HeldMatch& bout : world.Bouts()) {
+  if (one.empty()) return had;
+  for (const int number : MatchesWith(world, one[0])) {
+    const HeldMatch& bout = world.Bouts()[number];
     if (bout.Style != style || bout.Promotion != world.PlayerUid()) continue;
     const int first = FirstSide(bout, one, two);
     if (first == 0) continue;
@@ -267,7 +265,7 @@ Meetings MeetingsOf(const World& world, int style, const std::vector<int>& one,
 
 int RunOf(const World& world, int uid) {
   int run = 0;
-  for (int number = world.Bouts().Count(); number > 0; --number) {
+  for (const int number : std::views::reverse(MatchesWith(world, uid))) {
     const HeldMatch& bout = world.Bouts()[number];
     if (bout.Style == kSpecial || bout.Promotion != world.PlayerUid()) continue;
     const auto* end = bout.Worker.begin() + 8;
