@@ -122,8 +122,8 @@ TEST_F(ASlot, IsNotMadeWhereSomethingElseStands) {
 TEST_F(ASlot, RefusesAFileThatIsNoneOfItsOwnBeforeItPromisesAnything) {
   const auto slot = Open();
   const Bytes huge(30000), little(1);
-  EXPECT_THROW(slot->Commit({{"passwd", false, true, {}, little}}), std::invalid_argument);
-  EXPECT_THROW(slot->Commit({{"tv.dat", false, true, {}, huge}}), std::invalid_argument);
+  EXPECT_THROW(slot->Commit({*ChangeBetween("passwd", nullptr, &little)}), std::invalid_argument);
+  EXPECT_THROW(slot->Commit({*ChangeBetween("tv.dat", nullptr, &huge)}), std::invalid_argument);
   EXPECT_FALSE(slot->Committed());
   slot->Commit({});
   EXPECT_TRUE(slot->Committed());

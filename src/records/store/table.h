@@ -63,7 +63,7 @@ class Table {
  protected:
   bool exists_ = false;
 
- private:
+  // How a kind of file knows its past; this one by an image of all its bytes.
   virtual std::int64_t CommittedLength() const { return std::ssize(image_); }
   virtual std::vector<JournalRange> ChangedSince() const {
     return ChangedRanges(image_, Contents());
@@ -71,6 +71,7 @@ class Table {
   virtual void TakeOver(const std::vector<JournalRange>& changed);
   virtual void Restore() { Load(image_); }
 
+ private:
   bool committedExists_ = false;
   Bytes image_;
 };
