@@ -95,8 +95,9 @@ constexpr NewsTopic kTopics[] = {{" sponsor", "sponsor", "sponsors"},
 const NewsTopic* TopicOf(std::string_view body) {
   const NewsTopic* found = std::end(kTopics);
   for (auto at = body.find(' '); at != body.npos; at = body.find(' ', at + 1))
-    for (const NewsTopic* topic = kTopics; topic != found; ++topic)
-      if (body.substr(at, topic->Words.size()) == topic->Words) found = topic;
+    found = std::find_if(std::begin(kTopics), found, [&](const NewsTopic& topic) {
+      return body.substr(at, topic.Words.size()) == topic.Words;
+    });
   return found == std::end(kTopics) ? nullptr : found;
 }
 
