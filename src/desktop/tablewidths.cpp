@@ -60,7 +60,7 @@ std::vector<int> TableView::MeasuredWidths() const {
   for (const int column : columns)
     widths.push_back(std::max(heading.HeadingWidth(column), heading.minimumSectionSize()));
   const auto widen = [&](std::size_t place, const ui::Cell& cell) {
-    widths[place] = std::max(widths[place], CellWidth(cell, model_.Column(columns[place]).Kind));
+    widths[place] = std::max(widths[place], CellWidth(cell, model_.Column(columns[place])));
   };
   std::vector<const ui::Cell*> longest(columns.size());
   const int rows = model_.rowCount();

@@ -26,6 +26,11 @@ std::int32_t LineKey(int voice, std::string_view line) {
   return static_cast<std::int32_t>(key);
 }
 
+std::int32_t SpeakerKey(std::int32_t line, int speaker) {
+  const auto of = static_cast<std::uint32_t>(line) ^ (static_cast<std::uint32_t>(speaker) << 8);
+  return static_cast<std::int32_t>(of * 16777619U);
+}
+
 int SaidLines::DaysSince(const World& world, std::int32_t key) const {
   const int number = world.HasGame() && !apart_ ? NumberOf(world, key) : 0;
   if (number == 0) return kNever;

@@ -43,6 +43,7 @@ struct Renewing {
   int ScoreToStay;
   PayScale Scale;
   Purse How;
+  Aim ForTheCard;
   int Spare;  // this many can go before the roster is below its band
 };
 
@@ -60,11 +61,13 @@ void Renew(Worker& worker, const Renewing& terms) {
   worker.ContractType = terms.Employer.Size < kRegional ? "Wri" : "Non";
 }
 
-/// Too popular for the class, or, where others are there to do it, not wanted enough.
-bool IsLetGo(const Worker& worker, const Renewing& terms) {
+/// Too popular for the class, or, where others are there to do it, not wanted enough or in the way
+/// of what the promotion would be.
+bool IsLetGo(const World& world, const Worker& worker, const Renewing& terms) {
   if (IsTooPopular(worker, terms.Employer.Size)) return true;
   return terms.Spare > 0 && (RosterScore(worker, terms.Likes) < terms.ScoreToStay ||
-                             !IsPopularEnough(worker, terms.Employer.Size));
+                             !IsPopularEnough(worker, terms.Employer.Size) ||
+                             IsInTheWay(world, terms.Employer, terms.ForTheCard, worker));
 }
 
 bool IsTempted(World& world, const Worker& worker, const Renewing& terms, const Suitors* suitors) {
@@ -95,11 +98,12 @@ void RenewWorkers(World& world, const Promotion& rival, const Suitors* suitors) 
                  ScoreToStay(world, rival, taste),
                  PayScale(world, rival),
                  PurseOf(rival),
+                 IsRival(world, rival) ? AimOf(world, rival) : Aim::None,
                  Rosters(world).Of(rival.Uid) - BySize(tuning::kRosters, rival.Size).Least};
   for (Worker& worker : world.Workers()) {
     if (worker.Employer != rival.Uid || worker.ContractMonths != kLastMonth || worker.RetiringSoon)
       continue;
-    if (IsLetGo(worker, terms) || IsTempted(world, worker, terms, suitors))
+    if (IsLetGo(world, worker, terms) || IsTempted(world, worker, terms, suitors))
       --terms.Spare;
     else
       Renew(worker, terms);
@@ -124,24 +128,12 @@ void RenewStaff(World& world, const Promotion& rival) {
   }
 }
 
-/// Whoever costs most more than the going rate.
-Worker* FindOverpaid(World& world, const Promotion& rival) {
-  const PayScale scale(world, rival);
-  const auto overpaid = [&](const Worker& worker) { return worker.Wage - scale.For(worker.Over); };
-  Worker* found = nullptr;
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer != rival.Uid || !IsOnMainRoster(worker) || worker.Unsackable) continue;
-    if (!found || overpaid(worker) > overpaid(*found)) found = &worker;
-  }
-  return found;
-}
-
 void Save(World& world, const Promotion& rival, Rosters& rosters) {
   if (rosters.Of(rival.Uid) <= BySize(tuning::kRosters, rival.Size).Least) return;
-  Worker* worker = FindOverpaid(world, rival);
-  if (!worker) return;
-  rosters.Move(*worker, rival.Uid, 0);
-  FireFrom(world, rival, {worker});
+  const auto weakest = FindWeakest(world, rival.Uid, TasteOf(world, rival.Uid), 1);
+  if (weakest.empty() || weakest.front()->Unsackable) return;
+  rosters.Move(*weakest.front(), rival.Uid, 0);
+  FireFrom(world, rival, weakest);
 }
 
 bool HasTitles(const World& world, int promotionUid) {
@@ -186,7 +178,6 @@ void RosterSizeReview(World& world) {
     const Purse purse = PurseOf(rival);
     if (!IsFreeToSpend(world, rival)) Save(world, rival, rosters);
     if (purse == Purse::Spending) GoAfterTalent(world, rival, 1, rosters);
-    SignProspects(world, rival, tuning::kProspectsAWeek, rosters);
     MindTheCard(world, rival, rosters);
     if (rosters.Of(rival.Uid) >= tuning::kTitleRoster && !HasTitles(world, rival.Uid))
       FoundTitles(world, rival);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "records/fields/fields.h"
+#include "records/keepannals.h"
 #include "records/modWresCheck.h"
 #include "storylines/titles.h"
 
@@ -122,7 +123,7 @@ class Update {
     reign.Worker = holder;
     reign.Partner = partner;
     reign.Holder = line.Holder;
-    reign.Defences = title.Owner == world_.PlayerUid() ? 0 : kNoEnd;
+    reign.Defences = 0;
     return reign;
   }
 
@@ -147,6 +148,10 @@ class Update {
     reigns_.EditEach([&](TitleReign& reign) {
       if (NameOf(reign) == before) reign.Title = after;
     });
+    for (Annal& event : world_.Annals())
+      if (event.Kind == kAnnalTitle && event.Promotion == before.first &&
+          event.What == before.second)
+        event.What = after;
   }
 
   void Append(const TitleReign& reign) {
@@ -179,14 +184,31 @@ void UpdateReigns(World& world) {
   Update(world).Run();
 }
 
-void CountDefence(World& world, std::string_view title) {
-  Records<TitleReign>& reigns = world.Reigns();
-  for (const TitleReign& reign : reigns) {
-    if (reign.End != kReignLasts || reign.Owner != world.PlayerUid() || reign.Title != title)
-      continue;
-    reigns.Change(reigns.NumberOf(reign)).Defences = std::max<int>(0, reign.Defences) + 1;
-    return;
+namespace {
+
+/// The number of the one that lasts; those are late in the file. 0 where the reigns lag behind the
+/// Title.
+int PresentReign(const World& world, const Title& title) {
+  const auto& reigns = world.Reigns();
+  for (int number = reigns.Count(); number >= 1; --number) {
+    const TitleReign& reign = reigns[number];
+    if (reign.End == kReignLasts && reign.Owner == title.Owner && reign.Title == title.Name)
+      return IsPresent(reign, title) ? number : 0;
   }
+  return 0;
+}
+
+}  // namespace
+
+void CountDefence(World& world, const Title& title) {
+  int number = PresentReign(world, title);
+  if (number == 0) {
+    UpdateReigns(world);
+    number = PresentReign(world, title);
+  }
+  if (number == 0) return;
+  TitleReign& reign = world.Reigns().Change(number);
+  reign.Defences = std::max<int>(0, reign.Defences) + 1;
 }
 
 std::vector<Lineage> LineagesOf(const World& world) {
