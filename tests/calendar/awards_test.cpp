@@ -197,7 +197,7 @@ TEST(TheFeudOfTheYear, IsStillBetweenPairsWhenOneOfThemHasLeftTheWorld) {
   World world = House();
   for (const int rating : {50, 60, 70}) {
     AddFeudMatch(world, 30, rating, 2, 3);
-    world.Bouts()[world.Bouts().Count()].Feud = {Word(2), Word(3), Word(0), Word(6)};
+    world.Bouts().Change(world.Bouts().Count()).Feud = {Word(2), Word(3), Word(0), Word(6)};
   }
   const std::string pair = GivenFor(world, kFeudOfTheYear);
   EXPECT_NE(pair.find(" vs Joy Park | 3 matches, the best rated 70%"), pair.npos) << pair;
