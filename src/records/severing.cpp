@@ -95,10 +95,10 @@ void ForgetInThePast(World& world, int uid) {
     LeavePlaces(match.Worker, uid);
     clear(match.Champion);
   });
-  for (Annal& event : world.Annals()) {
+  world.Annals().EditEach([=](Annal& event) {
     LeavePlaces(event.Who, uid);
     LeavePlaces(event.Whom, uid);
-  }
+  });
   world.Grudges().Keep(
       [=](const Grudge& grudge) { return grudge.One != uid && grudge.Two != uid; });
   const auto isOthers = [=](const auto& row) { return row.Worker != uid; };
@@ -106,11 +106,11 @@ void ForgetInThePast(World& world, int uid) {
   world.Months().Keep(isOthers);
   world.Moods().Keep(isOthers);
   world.RingNames().Keep(isOthers);
-  for (Career& career : world.Of<Career>()) {
-    if (career.Worker != uid) continue;
+  world.Of<Career>().EditEach([&](Career& career) {
+    if (career.Worker != uid) return;
     career.Worker = 0;
     if (world.HasGame()) career.Last = world.Today();
-  }
+  });
 }
 
 }  // namespace

@@ -16,6 +16,8 @@ namespace grapplemont {
 namespace {
 
 constexpr int kDropped = 1000;
+/// A reign that records may tell of for ever: so many days, or defences.
+constexpr int kGreatDays = 365, kGreatDefences = 30;
 
 /// A Title as the reigns know it.
 using Name = std::pair<int, std::string>;
@@ -44,6 +46,11 @@ std::pair<int, int> PeopleOf(const World& world, const Title& title, const Reign
   for (const Worker& worker : world.Workers())
     if (title.Singles && worker.Name == line.Holder) return {worker.Uid, 0};
   return {0, 0};
+}
+
+bool IsGreat(const TitleReign& reign) {
+  return !IsVacancy(reign) &&
+         (DaysOf(reign, reign.Until) >= kGreatDays || reign.Defences >= kGreatDefences);
 }
 
 /// Walks over the Titles and their reigns once.
@@ -148,17 +155,20 @@ class Update {
     reigns_.EditEach([&](TitleReign& reign) {
       if (NameOf(reign) == before) reign.Title = after;
     });
-    for (Annal& event : world_.Annals())
+    world_.Annals().EditEach([&](Annal& event) {
       if (event.Kind == kAnnalTitle && event.Promotion == before.first &&
           event.What == before.second)
         event.What = after;
+    });
   }
 
   void Append(const TitleReign& reign) {
-    if (reigns_.Full()) {
+    for (const bool great : {true, false}) {  // those that records tell of go last
       int dropped = 0;
-      reigns_.Keep(
-          [&](const TitleReign& old) { return old.End == kReignLasts || ++dropped > kDropped; });
+      if (!reigns_.Full()) break;
+      reigns_.Keep([&](const TitleReign& old) {
+        return old.End == kReignLasts || (great && IsGreat(old)) || ++dropped > kDropped;
+      });
     }
     if (!reigns_.Full()) reigns_.Append(reign);
   }

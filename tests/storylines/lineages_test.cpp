@@ -159,6 +159,9 @@ TEST(Lineages, DropTheOldestThatHaveEndedWhenTheFileIsFull) {
   TitleReign old = reigns[0];
   old.End = kReignLost;
   old.Title = "Old Crown";
+  reigns.push_back(old);
+  reigns.back().Title = "Great Crown";
+  reigns.back().Defences = 30;
   reigns.resize(static_cast<std::size_t>(LayoutOf<TitleReign>().Limit), old);
   world.Reigns().Rewrite(reigns);
   Crown(world, Named(world.Titles(), "CWA Crown"), UidOf(world, "Cal Drift"), 0);
@@ -166,6 +169,7 @@ TEST(Lineages, DropTheOldestThatHaveEndedWhenTheFileIsFull) {
   EXPECT_EQ(world.Reigns().Count(), LayoutOf<TitleReign>().Limit - 1000 + 1);
   EXPECT_EQ(PastOf(world, "CWA Crown"), "Cal Drift 1 lasts");
   EXPECT_EQ(PastOf(world, "NEW Crown", "NEW"), "Nat Other ? lasts");
+  EXPECT_NE(PastOf(world, "Great Crown", "NEW"), "") << "what records tell of stays";
 }
 
 TEST(Lineages, MendThemselvesWhenTheirFileWasDamaged) {
