@@ -111,7 +111,7 @@ void WorkerListScreen::ShowSkills(const Worker* chosen) {
 
 ui::Box WorkerListScreen::PageBox() {
   return ui::Rows(
-      {ui::Group("", {ui::Columns({picworker, ui::Grow(lstskills)})}).From(kLettersOfWide),
+      {ui::Group("Skills", {ui::Columns({picworker, ui::Grow(lstskills)})}).From(kLettersOfWide),
        ui::Group("", {ui::Grow(txtpage), ui::Columns({cmdpage, cmdcompare, ui::Grow(lblchosen)})})
            .Grow()});
 }
