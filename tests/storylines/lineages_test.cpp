@@ -174,10 +174,10 @@ TEST(Lineages, DropTheOldestThatHaveEndedWhenTheFileIsFull) {
 
 TEST(Lineages, MendThemselvesWhenTheirFileWasDamaged) {
   World world = Belts();
-  world.Reigns()[1].Holder = "\x01 rubbish";
-  world.Reigns()[1].Worker = -7;
-  world.Reigns()[2].End = 99;
-  world.Reigns()[3].From.SetRaw(-1e300);
+  world.Reigns().Change(1).Holder = "\x01 rubbish";
+  world.Reigns().Change(1).Worker = -7;
+  world.Reigns().Change(2).End = 99;
+  world.Reigns().Change(3).From.SetRaw(-1e300);
   PassDays(world, 1);
   for (const Lineage& lineage : LineagesOf(world))
     EXPECT_EQ(std::ranges::count(ReignsOf(world, lineage), int(kReignLasts),
