@@ -20,6 +20,8 @@ constexpr uint kPrefersDark = 1, kPrefersLight = 2;
 DesktopColours::DesktopColours(std::function<void(bool dark)> turned) : turned_(std::move(turned)) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
+  // Else Qt does not know the type by its name in the slot, connects nothing and says nothing.
+  qRegisterMetaType<QDBusVariant>();
   bus.connect(kService, kPath, kSettings, "SettingChanged", this,
               SLOT(Heard(QString, QString, QDBusVariant)));
   QDBusMessage question = QDBusMessage::createMethodCall(kService, kPath, kSettings, "Read");

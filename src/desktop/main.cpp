@@ -54,10 +54,14 @@ Wanted Read(int argc, char** argv) {
     option.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(option);
   }
-  parser.process(words);
-  if (!parser.positionalArguments().isEmpty()) {
-    std::cerr << "grapplemont: \"" << parser.positionalArguments().front().toStdString()
-              << "\" is one word too many\n";
+  const bool makesSense = parser.parse(words.arguments());
+  if (parser.isSet("version")) parser.showVersion();
+  if (parser.isSet("help") || parser.isSet("help-all")) parser.showHelp();
+  const QStringList surplus = parser.positionalArguments();
+  if (!makesSense || !surplus.isEmpty()) {
+    const QString why =
+        makesSense ? "\"" + surplus.front() + "\" is one word too many" : parser.errorText();
+    std::cerr << "grapplemont: " << why.toStdString() << "; --help lists what there is\n";
     std::exit(2);
   }
   Wanted wanted{{}, parser.value(pictures)};
