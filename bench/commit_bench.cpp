@@ -6,10 +6,11 @@
 #include "support/scratchfolder.h"
 #include "tools/officework.h"
 
-// The commit of a day, its show held and told, beside what a program without a journal does for it:
-// each changed file written in place and synced (a power cut leaves anything), each replaced by a
-// synced copy (a power cut leaves old files beside new ones). Then slots made and opened. TMPDIR
-// says which disk is measured.
+// The commit of a day, its show held and told, beside the least that any program can do to keep it
+// (the same bytes written to one file, and a sync), and what a program without a journal does for
+// it: each changed file written in place and synced (a power cut leaves anything), each replaced by
+// a synced copy (a power cut leaves old files beside new ones). The same for a click that changes
+// five records. Then slots made and opened. TMPDIR says which disk is measured.
 
 namespace grapplemont {
 namespace {
@@ -25,8 +26,7 @@ void KeepDays(benchmark::State& state, Syncs syncs, const Keep& keep) {
   for (auto _ : state) {
     tools::PlayDay(career.World(), tools::Shows::Auto);
     for (const FileChange& change : career.World().Changes())
-      for (const JournalRange& range : ChangedRanges(change.Before, change.After))
-        changed += range.Contents.size();
+      for (const JournalRange& range : change.Ranges) changed += range.Contents.size();
     bench::Time(state, [&] { keep(career.Play); });
     career.World().MarkCommitted();
   }
@@ -56,10 +56,89 @@ void KeepFiles(benchmark::State& state, const Act& act) {
   });
 }
 
+/// Room that was written before, as a journal's is, and is written again and again.
+class OneFile {
+ public:
+  OneFile() : file_(*disk_, folder_ / "file", true) {
+    disk_->WriteAt(file_, 0, Bytes(kRoom));
+    disk_->Sync(file_);
+  }
+  void Keep(ByteSpan bytes) {
+    if (end_ + bytes.size() > kRoom) end_ = 0;
+    disk_->WriteAt(file_, static_cast<std::int64_t>(end_), bytes);
+    disk_->Sync(file_);
+    end_ += bytes.size();
+  }
+
+ private:
+  static constexpr std::size_t kRoom = 16 << 20;
+  const test::ScratchFolder folder_;
+  const std::unique_ptr<Disk> disk_ = RealDisk();
+  const OpenedFile file_;
+  std::size_t end_ = 0;
+};
+
+/// The bytes that changes write, in whole blocks and with a block to tell what they are.
+Bytes BytesOf(const std::vector<FileChange>& changes) {
+  Bytes bytes(kJournalBlock);
+  for (const FileChange& change : changes)
+    for (const JournalRange& range : change.Ranges)
+      bytes.insert(bytes.end(), range.Contents.begin(), range.Contents.end());
+  bytes.resize(static_cast<std::size_t>(RoundedToBlocks(std::ssize(bytes))));
+  return bytes;
+}
+
+void BM_BaselineOneSync(benchmark::State& state) {
+  const int age = static_cast<int>(state.range(0));
+  World world = bench::Played(age);
+  world.MarkCommitted();
+  OneFile file;
+  for (auto _ : state) {
+    tools::PlayDay(world, tools::Shows::Auto);
+    const Bytes bytes = BytesOf(world.Changes());
+    bench::Time(state, [&] { file.Keep(bytes); });
+    world.MarkCommitted();
+  }
+  state.SetLabel(bench::AgeText(age));
+}
+
+/// Five workers far apart, another mood for each: 20 kB.
+void Click(World& world, int turn) {
+  const int step = std::max(1, world.Workers().Count() / 5);
+  for (int number = 1; number <= world.Workers().Count(); number += step)
+    world.Workers()[number].Morale = 40 + turn % 20;
+}
+
+void BM_Click(benchmark::State& state) {
+  const int age = static_cast<int>(state.range(0));
+  test::GameOnWorld career(bench::Played(age), RealDisk());
+  int turn = 0;
+  for (auto _ : state) {
+    Click(career.World(), ++turn);
+    bench::Time(state, [&] { career.Play.Commit(); });
+  }
+  state.SetLabel(bench::AgeText(age));
+}
+
+void BM_ClickBaselineOneSync(benchmark::State& state) {
+  const int age = static_cast<int>(state.range(0));
+  World world = bench::Played(age);
+  world.MarkCommitted();
+  OneFile file;
+  int turn = 0;
+  for (auto _ : state) {
+    Click(world, ++turn);
+    const Bytes bytes = BytesOf(world.Changes());
+    bench::Time(state, [&] { file.Keep(bytes); });
+    world.MarkCommitted();
+  }
+  state.SetLabel(bench::AgeText(age));
+}
+
 void BM_BaselineSyncEachFile(benchmark::State& state) {
   KeepFiles(state, [](Disk& disk, const std::string& path, const FileChange& change) {
     const OpenedFile file(disk, path, true);
-    for (const JournalRange& range : ChangedRanges(change.Before, change.After))
+    for (const JournalRange& range : change.Ranges)
       disk.WriteAt(file, range.Offset, range.Contents);
     disk.Resize(file, std::ssize(change.After));
     disk.Sync(file);
@@ -78,6 +157,9 @@ void Ages(benchmark::internal::Benchmark* figure) {
 }
 BENCHMARK(BM_Commit)->Apply(Ages)->Iterations(kDays);
 BENCHMARK(BM_CommitUnsynced)->Apply(Ages)->Iterations(kDays);
+BENCHMARK(BM_BaselineOneSync)->Apply(Ages)->Iterations(kDays);
+BENCHMARK(BM_Click)->Apply(Ages)->Iterations(200);
+BENCHMARK(BM_ClickBaselineOneSync)->Apply(Ages)->Iterations(200);
 BENCHMARK(BM_BaselineSyncEachFile)->Apply(Ages)->Iterations(kDays);
 BENCHMARK(BM_BaselineReplaceEachFile)->Apply(Ages)->Iterations(kDays);
 

@@ -5,20 +5,20 @@
 #include "support/gameonworld.h"
 #include "tools/officework.h"
 
-// A year with the player's shows booked by the auto booker and told in full, a commit a day without
-// syncing; beside it the walks of the same days done in the files.
+// A year with the player's shows booked by the auto booker and told in full, a commit a day,
+// without syncing and with; beside it the walks of the same days done in the files.
 
 namespace grapplemont {
 namespace {
 
 constexpr int kDays = 365;
 
-void BM_Year(benchmark::State& state) {
+void PlayYear(benchmark::State& state, Syncs syncs) {
   const int age = static_cast<int>(state.range(0));
   const auto shows = state.range(1) ? tools::Shows::Auto : tools::Shows::Cancel;
   int days = 0;
   for (auto _ : state) {
-    test::GameOnWorld career(bench::Played(age));
+    test::GameOnWorld career(bench::Played(age), RealDisk(syncs));
     bench::Time(state, [&] {
       days = tools::PlayDays(
                  career.Play, kDays, shows, [](int) {}, tools::AfterTheEnd::AnotherJob)
@@ -28,11 +28,24 @@ void BM_Year(benchmark::State& state) {
   state.SetLabel(std::to_string(days) + " days, shows " +
                  (state.range(1) ? "auto-booked, " : "cancelled, ") + bench::AgeText(age));
 }
+
+void BM_Year(benchmark::State& state) {
+  PlayYear(state, Syncs::None);
+}
+void BM_YearSynced(benchmark::State& state) {
+  PlayYear(state, Syncs::Real);
+}
 BENCHMARK(BM_Year)
     ->Args({bench::kNew, 0})
     ->Args({bench::kNew, 1})
     ->Args({bench::kTenYears, 1})
+    ->Args({bench::kTwentyYears, 1})
     ->Args({bench::kLargest, 1})
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime();
+BENCHMARK(BM_YearSynced)
+    ->Args({bench::kNew, 1})
+    ->Args({bench::kTwentyYears, 1})
     ->Unit(benchmark::kMicrosecond)
     ->UseManualTime();
 

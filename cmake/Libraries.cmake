@@ -6,6 +6,15 @@ find_library(XXHASH_LIBRARY xxhash)
 if(NOT XXHASH_HEADERS OR NOT XXHASH_LIBRARY)
   message(FATAL_ERROR "xxHash is missing, which all checksums are made with. Install libxxhash-dev.")
 endif()
+# It can choose the fastest code for the machine at hand where it was built so.
+include(CheckCXXSymbolExists)
+set(CMAKE_REQUIRED_LIBRARIES ${XXHASH_LIBRARY})
+check_cxx_symbol_exists(XXH3_64bits_dispatch xxh_x86dispatch.h FASTEST_HASH)
+unset(CMAKE_REQUIRED_LIBRARIES)
+if(FASTEST_HASH)
+  set_source_files_properties(${PROJECT_SOURCE_DIR}/src/records/store/packing.cpp PROPERTIES
+                              COMPILE_DEFINITIONS GRAPPLEMONT_FASTEST_HASH)
+endif()
 
 find_path(JSON_HEADERS nlohmann/json.hpp)
 if(NOT JSON_HEADERS)

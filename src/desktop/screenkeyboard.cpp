@@ -51,7 +51,8 @@ void ScreenView::HoldKeyboard(const ui::Control& control) {
 void ScreenView::TakeKeyboard() {
   if (keyboard_ && keyboard_->isEnabled() && keyboard_->isVisibleTo(window()))
     return keyboard_->setFocus(Qt::ActiveWindowFocusReason);  // as it was, with ring and cursor
-  if (screen_->Is() != ui::Role::Hub)
+  // Where there is only one way to go, no list keeps the space bar from it.
+  if (screen_->Is() != ui::Role::Hub && page_.Cancel)
     for (ControlView* view : views_) {
       const ui::Kind kind = view->Shows().Is();
       const bool begins = kind == ui::Kind::TextBox || kind == ui::Kind::ListBox;

@@ -161,6 +161,7 @@ void TableView::Rearrange() {
   const bool seen = grid_->SeesCursor(grid_->viewport()->height());
   model_.Reset();
   ApplyColumns();
+  natural_.clear();
   FitColumns();
   // The cursor stays with its row; where that is gone it stays at its place.
   const int rows = model_.rowCount();

@@ -64,7 +64,8 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void ShowFilterRow();
   void ShowSelection();
   void FitColumns();
-  std::vector<int> NaturalWidths() const;
+  const std::vector<int>& NaturalWidths();
+  std::vector<int> MeasuredWidths() const;
   bool IsText(std::size_t place) const;
   std::size_t SentencePlace(const std::vector<int>& widths) const;
   bool IsEmpty(int column) const;
@@ -118,6 +119,9 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   QLabel* filtered_;
   PushButton* clear_;
   std::vector<ButtonView*> rowButtons_;
+  // What the contents ask for, kept while the page is laid out around them.
+  std::vector<int> natural_;
+  int naturalScale_ = 0;
   bool arranging_ = false;
   int currentKey_ = 0;
   int anchorKey_ = 0;  // of the row that was picked last, from which Shift reaches

@@ -44,25 +44,37 @@ int Squeeze(int missing, const std::vector<int>& least, std::vector<int>& widths
 
 }  // namespace
 
-std::vector<int> TableView::NaturalWidths() const {
+const std::vector<int>& TableView::NaturalWidths() {
+  if (natural_.empty() || naturalScale_ != Px(kUsualText)) {
+    natural_ = MeasuredWidths();
+    naturalScale_ = Px(kUsualText);
+  }
+  return natural_;
+}
+
+/// Walks over the rows once, as they lie in memory.
+std::vector<int> TableView::MeasuredWidths() const {
+  const auto& columns = table_.Columns();
+  const TableHeading& heading = grid_->Heading();
   std::vector<int> widths;
-  for (const int column : table_.Columns()) {
-    const TableHeading& heading = grid_->Heading();
-    int width = std::max(heading.HeadingWidth(column), heading.minimumSectionSize());
-    const ui::Column& shown = model_.Column(column);
-    const ui::Cell* longest = nullptr;
-    const int rows = model_.rowCount();
-    for (int row = 0; row < rows; ++row) {
-      const ui::Cell& cell = table_.At(row, column);
-      if (row < kMeasuredRows) {
-        width = std::max(width, CellWidth(cell, shown));
-      } else if (!longest || cell.Text.size() > longest->Text.size()) {
-        longest = &cell;
-      }
+  for (const int column : columns)
+    widths.push_back(std::max(heading.HeadingWidth(column), heading.minimumSectionSize()));
+  const auto widen = [&](std::size_t place, const ui::Cell& cell) {
+    widths[place] = std::max(widths[place], CellWidth(cell, model_.Column(columns[place])));
+  };
+  std::vector<const ui::Cell*> longest(columns.size());
+  const int rows = model_.rowCount();
+  for (int row = 0; row < rows; ++row)
+    for (std::size_t place = 0; place < columns.size(); ++place) {
+      const ui::Cell& cell = table_.At(row, columns[place]);
+      if (row < kMeasuredRows)
+        widen(place, cell);
+      else if (!longest[place] || cell.Text.size() > longest[place]->Text.size())
+        longest[place] = &cell;
     }
-    if (longest) width = std::max(width, CellWidth(*longest, shown));
-    if (rows > 0) width += DrawnWidth(model_.Column(column), table_.RowAt(0).Key);
-    widths.push_back(width);
+  for (std::size_t place = 0; place < columns.size(); ++place) {
+    if (longest[place]) widen(place, *longest[place]);
+    if (rows > 0) widths[place] += DrawnWidth(model_.Column(columns[place]), table_.RowAt(0).Key);
   }
   return widths;
 }

@@ -27,6 +27,8 @@ class TurningLayout : public QBoxLayout {
   /// The width from which on the parts stand in a row.
   int WidthAcross() const;
   QSize minimumSize() const override;
+  /// One of which all is hidden takes no room, whatever its share.
+  QSize maximumSize() const override { return isEmpty() ? QSize(0, 0) : QBoxLayout::maximumSize(); }
   /// Its height hangs on the width even where its parts' do not.
   bool hasHeightForWidth() const override { return count() > 1 || QBoxLayout::hasHeightForWidth(); }
   int heightForWidth(int width) const override { return HeightAt(width, false); }

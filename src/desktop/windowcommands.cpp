@@ -103,7 +103,9 @@ void Window::TurnColours() {
   const bool followed = settings_.Colours() == Scheme::System;
   SetColours(IsDark(settings_.Colours()) ? Scheme::Light : Scheme::Dark);
   if (followed)
-    Hint(*this, "Window Options (Ctrl ,) have the desktop's own colours again.", ui::Tone::Muted);
+    Hint(*this,
+         "Window Options (" + Shown(KeyOfOptions()) + ") have the desktop's own colours again.",
+         ui::Tone::Muted);
 }
 
 void Window::SetColours(Scheme scheme) {

@@ -39,8 +39,8 @@ class frmWindow : public ui::Screen {
     for (const int scale : kScales) cmbscale.Add(std::to_string(scale) + "%", scale);
     for (const DateFormName& form : kDateForms) cmbdates.Add(form.Words);
     cmbscale.Tip = "Counts from the next start of the game on.";
-    lblkeys.Text = "For the actions of a page, come here from it by " + window_.KeyOfOptions() +
-                   ": they stand at the end.";
+    lblkeys.Text = "The actions of a page stand at the end when you come here from it: " +
+                   window_.KeyOfOptions();
     lblkeys.Colour = ui::Tone::Muted;
   }
 
@@ -179,7 +179,7 @@ class frmWindow : public ui::Screen {
   ui::ComboBox cmbtheme{*this, "cmbtheme", &frmWindow::cmbtheme_Click};
   ui::ComboBox cmbtext{*this, "cmbtext", &frmWindow::cmbtext_Click};
   ui::ComboBox cmbscale{*this, "cmbscale", &frmWindow::cmbscale_Click};
-  ui::CheckBox chkfull{*this, "chkfull", "Full screen (F11)", false, &frmWindow::chkfull_Click};
+  ui::CheckBox chkfull{*this, "chkfull", "Full screen", false, &frmWindow::chkfull_Click};
   ui::CheckBox chkstill{*this, "chkstill", "Nothing moves by itself", false,
                         &frmWindow::chkstill_Click};
   ui::ComboBox cmbdates{*this, "cmbdates", &frmWindow::cmbdates_Click};

@@ -17,23 +17,6 @@ constexpr const char* kKept = "Your change is kept.";
 constexpr const char* kNoUndo =
     "The backup has been restored, but what the data were before could not be kept.";
 
-/// What turns one set of files into another; before it, the checksums of the first.
-DataStep StepBetween(const std::map<std::string, Bytes>& before,
-                     const std::map<std::string, Bytes>& after) {
-  std::vector<FileChange> changes;
-  for (const std::string_view file : kDataSet) {
-    const std::string name(file);
-    const auto old = before.find(name), fresh = after.find(name);
-    FileChange change{name, old != before.end(), fresh != after.end(), {}, {}};
-    if (change.ExistsBefore) change.Before = old->second;
-    if (change.ExistsAfter) change.After = fresh->second;
-    const bool same = change.ExistsBefore == change.ExistsAfter &&
-                      std::ranges::equal(change.Before, change.After);
-    if (!same) changes.push_back(change);
-  }
-  return StepOf(changes);
-}
-
 }  // namespace
 
 DataBusy::DataBusy()
@@ -151,9 +134,17 @@ void DataFolder::Take(const DataStep& step, const std::function<void()>& made) {
 void DataFolder::Commit() {
   const auto changes = world_.Changes();
   if (changes.empty()) return;
-  if (!backedUp_) KeepBackup(FilesNow());
-  Take(WithAllOwn(StepOf(changes)), [this] {
-    world_.MarkCommitted();
+  const auto before = FilesNow();
+  if (!backedUp_) KeepBackup(before);
+  auto after = before;
+  for (const FileChange& change : changes) {
+    if (change.ExistsAfter)
+      after[change.Name].assign(change.After.begin(), change.After.end());
+    else
+      after.erase(change.Name);
+  }
+  Take(WithAllOwn(StepBetween(before, after)), [&] {
+    world_.MarkCommitted(changes);
     fromBelow_.clear();
   });
 }
@@ -163,10 +154,8 @@ DataStep DataFolder::WithAllOwn(DataStep step) const {
   for (StepFile& file : step)
     if (missing.erase(file.Name)) file.Before.reset();
   for (const Table* table : world_.Tables())
-    if (const std::string name(table->File()); missing.contains(name)) {
-      const ByteSpan bytes = table->Committed();
-      step.push_back({name, {}, Bytes(bytes.begin(), bytes.end())});
-    }
+    if (const std::string name(table->File()); missing.contains(name))
+      step.push_back({name, {}, table->Committed()});
   return step;
 }
 
@@ -185,12 +174,12 @@ void DataFolder::Uncover() {
   RefuseUnreadable();
   const auto own = FilesNow();
   const auto below = ReadWorldFiles(disk_, below_);
-  std::vector<FileChange> changes;
+  std::map<std::string, Bytes> going;
   for (const auto& [name, bytes] : own)
-    if (!fromBelow_.contains(name)) changes.push_back({name, true, false, bytes, {}});
+    if (!fromBelow_.contains(name)) going.emplace(name, bytes);
   // First, other than with Restore: nothing else keeps what is about to go.
   KeepBackup(own);
-  Take(StepOf(changes), [&] {
+  Take(StepBetween(going, {}), [&] {
     world_.Load(below);
     for (const auto& [name, bytes] : below) fromBelow_.insert(name);
   });

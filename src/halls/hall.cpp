@@ -30,8 +30,8 @@ constexpr std::array<HallMerit, kHallMerits> kMerits = {
       [](const Life& life) { return AwardsAt(life, kWrestlerOfTheYear, kWomanOfTheYear); }, 10, 1},
      {"Other awards", "4 for each",
       [](const Life& life) { return AwardsAt(life, kTeamOfTheYear, kRookieOfTheYear); }, 4, 1},
-     {"Great matches", "1 for each that was rated 90 or more",
-      [](const Life& life) { return int(life.Of->Great); }, 1, 1},
+     {"Great matches", "1 for 10 that were rated 90 or more",
+      [](const Life& life) { return int(life.Of->Great); }, 1, 10},
      {"Main events", "1 for 10", [](const Life& life) { return life.MainEvents; }, 1, 10},
      {"Months at the top", "1 for 3 months with Over at 80 or more",
       [](const Life& life) { return int(life.Of->Top); }, 1, 3}}};

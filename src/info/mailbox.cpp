@@ -1,6 +1,7 @@
 #include "info/mailbox.h"
 
 #include <set>
+#include <string_view>
 
 namespace grapplemont {
 
@@ -13,9 +14,9 @@ void SetAllMailOptions(GameInfo& game, int choice) {
 }
 
 std::vector<std::string> MailSenders(const World& world) {
-  std::set<std::string> senders;
+  std::set<std::string_view> senders;
   for (const Mail& mail : world.News())
-    if (!mail.From.View().empty()) senders.insert(mail.From.Str());
+    if (!mail.From.View().empty()) senders.insert(mail.From.View());
   return {senders.begin(), senders.end()};
 }
 

@@ -5,7 +5,6 @@
 #include <iterator>
 #include <set>
 #include <string>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -28,20 +27,47 @@ int KeyOf(const Mail& mail) {
   return static_cast<int>(key & 0x7FFFFFFFU);
 }
 
-std::unordered_set<int> KeysRead(const World& world) {
-  std::unordered_set<int> keys;
-  for (const ReadMail& read : world.ReadMails()) keys.insert(read.Key);
-  return keys;
+/// What is known of all mails, by their numbers less one, brought up to date.
+const World::MailMarks& MarksOfMails(const World& world) {
+  World::MailMarks& known = world.KnownMails();
+  const auto& news = world.News();
+  const auto& read = world.ReadMails();
+  if (known.Changes != news.Changes()) known = {news.Changes(), {}, 0, 0, {}};
+  if (known.Readings != read.Changes() || known.Read != read.Count()) known.IsRead.clear();
+  known.Readings = read.Changes();
+  known.Read = read.Count();
+  if (std::ssize(known.IsRead) == news.Count()) return known;
+  std::vector<int> keys;
+  for (const ReadMail& one : read) keys.push_back(one.Key);
+  if (!std::ranges::is_sorted(keys)) std::ranges::sort(keys);
+  for (auto at = known.Keys.size(); at < static_cast<std::size_t>(news.Count()); ++at)
+    known.Keys.push_back(KeyOf(news[static_cast<int>(at) + 1]));
+  for (auto at = known.IsRead.size(); at < known.Keys.size(); ++at)
+    known.IsRead.push_back(std::ranges::binary_search(keys, known.Keys[at]));
+  return known;
 }
 
-bool IsOfTheseDays(const World& world, const Mail& mail) {
-  return mail.Date == ShortDate(world.Today()) ||
-         mail.Date == ShortDate(world.Today() - std::chrono::days{1});
-}
+/// Tells which mails have been read.
+class Readings {
+ public:
+  explicit Readings(const World& world) : world_(world), marks_(MarksOfMails(world)) {
+    if (world.ReadMails().Exists()) return;
+    for (const int ago : {0, 1})
+      days_[Index(ago)] = ShortDate(world.Today() - std::chrono::days{ago});
+  }
+  bool IsUnread(int number) const {
+    if (world_.ReadMails().Exists()) return !marks_.IsRead[Index(number - 1)];
+    return std::ranges::find(days_, world_.News()[number].Date.View()) != days_.end();
+  }
+  int Key(int number) const { return marks_.Keys[Index(number - 1)]; }
 
-bool IsUnread(const World& world, const Mail& mail, const std::unordered_set<int>& read) {
-  return world.ReadMails().Exists() ? !read.contains(KeyOf(mail)) : IsOfTheseDays(world, mail);
-}
+ private:
+  static std::size_t Index(int number) { return static_cast<std::size_t>(number); }
+
+  const World& world_;
+  const World::MailMarks& marks_;
+  std::array<std::string, 2> days_;  // where nobody kept what was read: those that count as unread
+};
 
 /// What a news is about, by words that are in it; the first that fits counts.
 struct NewsTopic {
@@ -65,14 +91,22 @@ constexpr NewsTopic kTopics[] = {{" sponsor", "sponsor", "sponsors"},
                                  {" dropped ", "television deal", "television deals"},
                                  {" promotion", "new promotion", "new promotions"}};
 
+/// nullptr where no topic is in it. All their words begin with a blank, and a mail has few.
+const NewsTopic* TopicOf(std::string_view body) {
+  const NewsTopic* found = std::end(kTopics);
+  for (auto at = body.find(' '); at != body.npos; at = body.find(' ', at + 1))
+    found = std::find_if(std::begin(kTopics), found, [&](const NewsTopic& topic) {
+      return body.substr(at, topic.Words.size()) == topic.Words;
+    });
+  return found == std::end(kTopics) ? nullptr : found;
+}
+
 /// " (5 signings, 2 shows)"; empty where nothing is known.
 std::string TopicsOf(const World& world, const std::vector<int>& mails) {
   std::vector<std::pair<const NewsTopic*, int>> counts;
   for (const int number : mails) {
-    const std::string_view body = world.News()[number].Body.View();
-    const auto topic = std::ranges::find_if(
-        kTopics, [&](const NewsTopic& each) { return body.find(each.Words) != body.npos; });
-    if (topic == std::end(kTopics)) continue;
+    const NewsTopic* topic = TopicOf(world.News()[number].Body.View());
+    if (!topic) continue;
     const auto known = std::ranges::find_if(
         counts, [&](const auto& count) { return count.first->One == topic->One; });
     known == counts.end() ? counts.push_back({topic, 1}) : void(++known->second);
@@ -134,10 +168,12 @@ Reader::Reader(const World& world) {
   if (!own) return;
   initials_ = own->Initials.Str();
   name_ = own->Name.Str();
+  std::set<std::string_view> shows;
   for (const Show& show : world.Shows())
-    if (show.Owner == own->Uid) shows_.insert(show.Name.Str() + " ");
+    if (show.Owner == own->Uid) shows.insert(show.Name.View());
   for (const HistoryEntry& entry : world.History())
-    if (entry.Kind == kPastTv && entry.Promotion == own->Uid) shows_.insert(entry.Name.Str() + " ");
+    if (entry.Kind == kPastTv && entry.Promotion == own->Uid) shows.insert(entry.Name.View());
+  for (const std::string_view show : shows) shows_.insert(std::string(show) + " ");
   for (const Word& place : world.Game().Shortlist)
     if (const Worker* worker = world.FindWorker(place)) watched_.insert(worker->Name.Str() + " ");
 }
@@ -153,15 +189,20 @@ bool Reader::IsOthersNews(const Mail& mail) const {
 }  // namespace
 
 bool MarkRead(World& world, const std::vector<int>& numbers) {
-  const std::unordered_set<int> read = KeysRead(world);
-  const auto unread = [&](int number) { return IsUnread(world, world.News()[number], read); };
+  const Readings readings(world);
+  const auto unread = [&](int number) { return readings.IsUnread(number); };
   if (std::ranges::none_of(numbers, unread)) return false;
-  const std::set<int> now(numbers.begin(), numbers.end());
+  std::vector<bool> now(static_cast<std::size_t>(world.News().Count()) + 1);
+  for (const int number : numbers) now[static_cast<std::size_t>(number)] = true;
   // Mails that have gone leave the list with it.
-  std::set<int> keys;
+  std::vector<int> keys;
   for (int number = 1; number <= world.News().Count(); ++number)
-    if (now.contains(number) || !unread(number)) keys.insert(KeyOf(world.News()[number]));
+    if (now[static_cast<std::size_t>(number)] || !unread(number))
+      keys.push_back(readings.Key(number));
+  std::ranges::sort(keys);
+  keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
   std::vector<ReadMail> records;
+  records.reserve(keys.size());
   for (const int key : keys) records.emplace_back().Key = key;
   world.ReadMails().Rewrite(std::move(records));
   return true;
@@ -174,26 +215,26 @@ void MarkAllRead(World& world) {
 }
 
 Unread UnreadOf(const World& world) {
-  const std::unordered_set<int> read = KeysRead(world);
+  const Readings readings(world);
   const Reader reader(world);
   Unread unread;
-  std::set<std::string> days;
+  std::set<std::string_view> days;
   for (int number = world.News().Count(); number >= 1; --number) {
     const Mail& mail = world.News()[number];
-    if (!IsUnread(world, mail, read)) continue;
+    if (!readings.IsUnread(number)) continue;
     const bool others = reader.IsOthersNews(mail);
     (others ? unread.Others : unread.Own).push_back(number);
-    if (others) days.insert(mail.Date.Str());
+    if (others) days.insert(mail.Date.View());
   }
   unread.Days = static_cast<int>(days.size());
   return unread;
 }
 
-std::vector<Digest> DigestsOf(const World& world) {
-  const std::unordered_set<int> read = KeysRead(world);
+std::vector<Digest> DigestsOf(const World& world, std::size_t most) {
+  const Readings readings(world);
   const Reader reader(world);
   std::vector<Digest> digests;
-  std::set<std::string> senders;
+  std::set<std::string_view> senders;
   const auto close = [&] {
     if (digests.empty()) return;
     digests.back().Words = std::to_string(digests.back().Mails.size()) + " news";
@@ -208,11 +249,12 @@ std::vector<Digest> DigestsOf(const World& world) {
     if (!reader.IsOthersNews(mail)) continue;
     if (digests.empty() || mail.Date != digests.back().Date) {
       close();
+      if (digests.size() == most) return digests;
       digests.push_back({mail.Date.Str(), {}, {}, false});
     }
     digests.back().Mails.push_back(number);
-    digests.back().IsUnread |= IsUnread(world, mail, read);
-    senders.insert(mail.From.Str());
+    digests.back().IsUnread |= readings.IsUnread(number);
+    senders.insert(mail.From.View());
   }
   close();
   return digests;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <string>
 #include <vector>
 
 #include "records/world.h"
@@ -33,7 +35,7 @@ struct Digest {
   std::string Words;       // "14 news from 9 promotions (8 signings, 3 shows)", or "14 news"
   bool IsUnread = false;   // one of them is
 };
-/// The latest day first.
-std::vector<Digest> DigestsOf(const World& world);
+/// The latest day first, and no more than `most`.
+std::vector<Digest> DigestsOf(const World& world, std::size_t most = ~std::size_t{0});
 
 }  // namespace grapplemont

@@ -83,22 +83,22 @@ namespace {
 /// What tells of them keeps their name, since their uid may be another's one day.
 void ForgetInThePast(World& world, int uid) {
   const auto clear = [uid](auto&... places) { ((places = places == uid ? 0 : int(places)), ...); };
-  for (HeldMatch& bout : world.Bouts()) {
+  world.Bouts().EditEach([=](HeldMatch& bout) {
     LeavePlaces(bout.Worker, uid);
     LeavePlaces(bout.Feud, uid);
-  }
-  for (MatchTally& tally : world.Tallies()) clear(tally.Worker);
-  for (TitleReign& reign : world.Reigns()) clear(reign.Worker, reign.Partner);
-  for (YearAward& award : world.Awards()) clear(award.Worker, award.Partner);
-  for (ShowNote& note : world.ShowNotes()) clear(note.Worker);
-  for (CardMatch& match : world.RivalCards()) {
+  });
+  world.Tallies().EditEach([=](MatchTally& tally) { clear(tally.Worker); });
+  world.Reigns().EditEach([=](TitleReign& reign) { clear(reign.Worker, reign.Partner); });
+  world.Awards().EditEach([=](YearAward& award) { clear(award.Worker, award.Partner); });
+  world.ShowNotes().EditEach([=](ShowNote& note) { clear(note.Worker); });
+  world.RivalCards().EditEach([=](CardMatch& match) {
     LeavePlaces(match.Worker, uid);
     clear(match.Champion);
-  }
-  for (Annal& event : world.Annals()) {
+  });
+  world.Annals().EditEach([=](Annal& event) {
     LeavePlaces(event.Who, uid);
     LeavePlaces(event.Whom, uid);
-  }
+  });
   world.Grudges().Keep(
       [=](const Grudge& grudge) { return grudge.One != uid && grudge.Two != uid; });
   const auto isOthers = [=](const auto& row) { return row.Worker != uid; };
@@ -106,11 +106,11 @@ void ForgetInThePast(World& world, int uid) {
   world.Months().Keep(isOthers);
   world.Moods().Keep(isOthers);
   world.RingNames().Keep(isOthers);
-  for (Career& career : world.Of<Career>()) {
-    if (career.Worker != uid) continue;
+  world.Of<Career>().EditEach([&](Career& career) {
+    if (career.Worker != uid) return;
     career.Worker = 0;
     if (world.HasGame()) career.Last = world.Today();
-  }
+  });
 }
 
 }  // namespace

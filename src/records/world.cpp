@@ -75,17 +75,16 @@ void World::Load(const std::map<std::string, Bytes>& files) {
 
 std::vector<FileChange> World::Changes() const {
   std::vector<FileChange> changes;
-  for (const Table* table : Tables()) {
-    if (!table->Changed()) continue;
-    changes.push_back({std::string(table->File()), table->CommittedExists(), table->Exists(),
-                       table->Committed(), table->Contents()});
-  }
+  for (const Table* table : Tables())
+    if (auto change = table->Difference()) changes.push_back(*std::move(change));
   return changes;
 }
 
-void World::MarkCommitted() {
-  for (Table* table : Tables())
-    if (table->Changed()) table->MarkCommitted();
+void World::MarkCommitted(const std::vector<FileChange>& changes) {
+  for (Table* table : Tables()) {
+    const auto change = std::ranges::find(changes, table->File(), &FileChange::Name);
+    table->MarkCommitted(change == changes.end() ? std::vector<JournalRange>() : change->Ranges);
+  }
   committedSession_ = Session;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <initializer_list>
 #include <map>
 #include <memory>
@@ -11,6 +12,7 @@
 
 #include "records/fields/outside.h"
 #include "records/store/knownfiles.h"
+#include "records/store/numbersbykey.h"
 #include "records/store/slot.h"
 
 namespace grapplemont {
@@ -144,6 +146,20 @@ class World {
   /// What the last shows moved, in the order in which it happened.
   Records<ShowNote>& ShowNotes() { return Of<ShowNote>(); }
   const Records<ShowNote>& ShowNotes() const { return Of<ShowNote>(); }
+  /// What is known of each mail, worked out once (records/readmail.h).
+  struct MailMarks {
+    unsigned Changes = 0;      // of the news, when it was worked out
+    std::vector<int> Keys;     // the number that tells it from all others
+    unsigned Readings = 0;     // the changes of what was read
+    int Read = 0;              // records of that
+    std::vector<bool> IsRead;  // by those
+  };
+  MailMarks& KnownMails() const { return mailMarks_; }
+  /// The records that remember a line (report/saidlines.h), those that count a worker's matches,
+  /// and the matches themselves (records/pastmatches.h).
+  NumbersByKey& LineNumbers() const { return lineNumbers_; }
+  NumbersByKey& TallyNumbers() const { return tallyNumbers_; }
+  NumbersByKeys& MatchNumbers() const { return matchNumbers_; }
   /// What of the news the player has read (records/readmail.h).
   Records<ReadMail>& ReadMails() { return Of<ReadMail>(); }
   const Records<ReadMail>& ReadMails() const { return Of<ReadMail>(); }
@@ -212,7 +228,9 @@ class World {
   void Load(const std::map<std::string, Bytes>& files);
   /// What differs from the last commit; the spans hold until the next change.
   std::vector<FileChange> Changes() const;
-  void MarkCommitted();
+  void MarkCommitted() { MarkCommitted(Changes()); }
+  /// The same where Changes() has just given these.
+  void MarkCommitted(const std::vector<FileChange>& changes);
   void Rollback();
   /// "wrestler.dat, record 17, Morale: The value ..." for a field of this world, else the fault's
   /// own text.
@@ -237,6 +255,9 @@ class World {
   mutable std::tuple<UidIndex<Worker>, UidIndex<Promotion>, UidIndex<Staff>, UidIndex<Network>,
                      UidIndex<Sponsor>>
       indices_;
+  mutable MailMarks mailMarks_;
+  mutable NumbersByKey lineNumbers_, tallyNumbers_;
+  mutable NumbersByKeys matchNumbers_;
   std::unique_ptr<Draws> chance_, prose_, life_;
   SessionWords committedSession_;
 };

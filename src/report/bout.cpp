@@ -179,11 +179,10 @@ void TellBody(Teller& teller, const BoutRow& bout) {
   const bool isSingles = bout.Style == kSingles && bout.Type == kPlainSingles;
   const Script row =
       isSingles ? SinglesRow(teller, bout.Rows, winner == nullptr) : teller.OneOf(bout.Rows);
-  const bool isEvent =
+  teller.IsTitleSquash =
       isSingles && row.size() <= kSquashSteps && !teller.cast.Thing(Item::Title).empty();
-  if (isEvent) teller.Say(Family::Squash, kSquashBegins);
+  if (teller.IsTitleSquash) teller.Say(Family::Squash, kSquashBegins);
   ring.Play(row, bout.Spot, winner, loser);
-  if (isEvent) teller.Say(Family::Squash, kSquashDone);
 }
 
 /// The score is even until the last fall, which is the winner's. The sum of the falls stands behind

@@ -37,13 +37,13 @@ constexpr StirRow kStirs[] = {
     {Family::SurvivorOut, kAnyBand, 0.20},    {Family::LastTwo, kAnyBand, 0.20},
     {Family::IronFall, kAnyBand, 0.20},       {Family::Beat, kComeback, 0.25},
     {Family::Beat, kInTrouble, -0.05},        {Family::Beat, kAnyBand, 0.12},
-    {Family::Interlude, kLoud, 0.25},         {Family::Interlude, kDivided, 0.15},
-    {Family::Interlude, kSplit, -0.05},       {Family::Interlude, kQuiet, -0.30},
-    {Family::Interlude, kHope, 0.15},         {Family::Interlude, kGasp, 0.15},
-    {Family::Interlude, kHeldBreath, -0.30},  {Family::Interlude, kAnyBand, 0.04},
-    {Family::TitleEnding, kAnyBand, 0.15},    {Family::Turn, kAnyBand, 0.35},
-    {Family::TurnCosts, kAnyBand, 0.30},      {Family::Speech, kAnyBand, 0.20},
-    {Family::AngleText, kAnyBand, 0.20}};
+    {Family::Interlude, kLoud, 0.25},         {Family::Interlude, kWakes, 0.30},
+    {Family::Interlude, kDivided, 0.15},      {Family::Interlude, kSplit, -0.05},
+    {Family::Interlude, kQuiet, -0.30},       {Family::Interlude, kHope, 0.15},
+    {Family::Interlude, kGasp, 0.15},         {Family::Interlude, kHeldBreath, -0.30},
+    {Family::Interlude, kAnyBand, 0.04},      {Family::TitleEnding, kAnyBand, 0.15},
+    {Family::Turn, kAnyBand, 0.35},           {Family::TurnCosts, kAnyBand, 0.30},
+    {Family::Speech, kAnyBand, 0.20},         {Family::AngleText, kAnyBand, 0.20}};
 
 double StirOf(const SaidSentence& said) {
   for (const StirRow& row : kStirs)

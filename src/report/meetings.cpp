@@ -1,6 +1,8 @@
 #include <algorithm>
+#include <ranges>
 
 #include "records/fields/fields.h"
+#include "records/pastmatches.h"
 #include "records/segments.h"
 #include "records/world.h"
 #include "report/pastlook.h"
@@ -53,7 +55,9 @@ bool AnyOf(const std::vector<int>& some, const std::vector<int>& others) {
 Meetings MeetingsOf(const World& world, int style, const std::vector<int>& one,
                     const std::vector<int>& two) {
   Meetings had;
-  for (const HeldMatch& bout : world.Bouts()) {
+  if (one.empty()) return had;
+  for (const int number : MatchesWith(world, one[0])) {
+    const HeldMatch& bout = world.Bouts()[number];
     if (bout.Style != style || bout.Promotion != world.PlayerUid()) continue;
     const int first = FirstSide(bout, one, two);
     if (first == 0) continue;
@@ -73,7 +77,7 @@ Meetings MeetingsOf(const World& world, int style, const std::vector<int>& one,
 
 int RunOf(const World& world, int uid) {
   int run = 0;
-  for (int number = world.Bouts().Count(); number > 0; --number) {
+  for (const int number : std::views::reverse(MatchesWith(world, uid))) {
     const HeldMatch& bout = world.Bouts()[number];
     if (bout.Style == kSpecial || bout.Promotion != world.PlayerUid()) continue;
     const auto* end = bout.Worker.begin() + 8;

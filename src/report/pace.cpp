@@ -114,12 +114,13 @@ void Pace::Open(Teller& teller) {
     if (importance_ >= more) Say(teller, kWalkIn);
 }
 
-void Pace::Begin(int steps) {
+void Pace::Begin(int steps, bool isSquash) {
   steps_ = std::max(1, steps);
   at_ = falls_ = 0;
   due_ = 0;
   if (!Matters()) return;
-  const double most = kMostPerStep + static_cast<double>(kShort) / steps_;
+  // What is over at once has no time for looks around.
+  const double most = isSquash ? 1 : kMostPerStep + static_cast<double>(kShort) / steps_;
   rate_ = std::clamp(static_cast<double>(units_ - steps_) / steps_, kLeastPerStep, most);
   units_ = std::max(1, units_ - static_cast<int>(steps_ * (1 + rate_)));
 }

@@ -20,8 +20,8 @@ class Pace {
  public:
   /// Before the bell: sees what the match matters, and says what is in the air.
   void Open(Teller& teller);
-  /// A row of so many steps begins.
-  void Begin(int steps);
+  /// A row of so many steps begins; a squash for a Title has words of its own, and few of these.
+  void Begin(int steps, bool isSquash = false);
   /// Before and behind a step of it, with its {a} and {d}. `isSaid` where a sentence stands there
   /// already.
   void Before(Teller& teller, char step, bool isSaid);

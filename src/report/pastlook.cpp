@@ -1,9 +1,11 @@
 #include "report/pastlook.h"
 
 #include <algorithm>
+#include <ranges>
 
 #include "records/fields/fields.h"
 #include "records/modWresCheck.h"
+#include "records/pastmatches.h"
 #include "records/segments.h"
 #include "report/stages.h"
 #include "storylines/feuds.h"
@@ -31,12 +33,6 @@ bool IsAmong(const Uids& uids, int uid) {
 /// What has been written down since the day of a rival's match is not known there.
 bool HasBegun(const Teller& teller, const TitleReign& reign) {
   return teller.IsOurs() || Day(reign.From) < teller.Today();
-}
-
-const MatchTally* TallyOf(const World& world, int uid) {
-  for (const MatchTally& tally : world.Tallies())
-    if (tally.Worker == uid && tally.Promotion == world.PlayerUid()) return &tally;
-  return nullptr;
 }
 
 int MatchesOf(const MatchTally* tally) {

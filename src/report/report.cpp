@@ -30,9 +30,10 @@ void TellBout(Teller& teller, const BoutRow& bout) {
     case BoutShape::Duel:
     case BoutShape::Scramble:
       TellBody(teller, bout);
-      teller.Pace.HoldBreath(teller);
+      if (!teller.IsTitleSquash) teller.Pace.HoldBreath(teller);
       if (teller.LinesHere() >= kLinesApart) teller.Paragraph();
       TellFinish(teller, bout);
+      if (teller.IsTitleSquash) teller.Say(Family::Squash, kSquashDone);
   }
 }
 

@@ -135,7 +135,7 @@ void Ring::Play(std::string_view script, int spot, const Person* last, const Per
   Begin(script, plan_.back().Defender, under);
   teller_.Under = Footing::Up;  // a fall or an exchange begins
   Pace& pace = teller_.Pace;
-  pace.Begin(static_cast<int>(script.size()));
+  pace.Begin(static_cast<int>(script.size()), teller_.IsTitleSquash);
   Drama drama(teller_);
   const std::vector<Stretch> stretches = StretchesOf(script);
   for (std::size_t at = 0; at < script.size(); ++at) {

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <string_view>
-#include <unordered_map>
 
 #include "records/world.h"
 
@@ -21,19 +20,14 @@ class SaidLines {
   /// Apart from the slot none is remembered and none noted.
   explicit SaidLines(bool apart) : apart_(apart) {}
   /// Days since a show said it; kNever for a line that none has.
-  int DaysSince(const World& world, std::int32_t key);
+  int DaysSince(const World& world, std::int32_t key) const;
   static constexpr int kNever = 1 << 30;
   /// How often it has been said.
-  int Times(const World& world, std::int32_t key);
+  int Times(const World& world, std::int32_t key) const;
   /// It has been said on today's show.
-  void Say(World& world, std::int32_t key);
+  void Say(World& world, std::int32_t key) const;
 
  private:
-  int NumberOf(const World& world, std::int32_t key);
-  void Read(const World& world);
-
-  std::unordered_map<std::int32_t, int> numbers_;  // of the records
-  int read_ = 0;                                   // records that these are
   bool apart_ = false;
 };
 

@@ -168,6 +168,18 @@ bool Teller::FitsFooting(const TaggedLine& line, Family family) const {
   return !line.Is(kFloorTag) || Under == Footing::Down;
 }
 
+namespace {
+
+void Hurt(Person& defender, const TaggedLine& line) {
+  ++defender.Taken;
+  ++defender.Trouble;
+  const LineTag limbs[] = {kLegTag, kArmTag, kBackTag};
+  for (std::size_t limb = 0; limb < std::size(limbs); ++limb)
+    defender.Limbs[limb] += line.Is(limbs[limb]);
+}
+
+}  // namespace
+
 void Teller::Move(Family family, const TaggedLine& line) {
   const auto leave = [&](Footing otherwise) {
     Under = line.Is(kDownTag) ? Footing::Down : line.Is(kHoldTag) ? Footing::Held : otherwise;
@@ -211,13 +223,7 @@ void Teller::Move(Family family, const TaggedLine& line) {
       return;
   }
   if (attacker) attacker->Trouble = 0;
-  if (defender) {
-    ++defender->Taken;
-    ++defender->Trouble;
-    const LineTag limbs[] = {kLegTag, kArmTag, kBackTag};
-    for (std::size_t limb = 0; limb < std::size(limbs); ++limb)
-      defender->Limbs[limb] += line.Is(limbs[limb]);
-  }
+  if (defender) Hurt(*defender, line);
 }
 
 void Teller::Paragraph() {

@@ -6,6 +6,7 @@
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/pastmatches.h"
 #include "roster/talks.h"
 #include "roster/workerrecord.h"
 #include "storylines/feuds.h"
@@ -174,7 +175,8 @@ Neighbours NeighboursOf(const World& world, const Worker& worker) {
 
 Meetings MeetingsOf(const World& world, int firstUid, int secondUid) {
   Meetings meetings;
-  for (const HeldMatch& bout : world.Bouts()) {
+  for (const int number : MatchesWith(world, firstUid)) {
+    const HeldMatch& bout = world.Bouts()[number];
     const auto placeOf = [&](int uid) {
       const auto at = std::ranges::find_if(bout.Worker, [=](const Word& w) { return w == uid; });
       return static_cast<int>(at - bout.Worker.begin());

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <functional>
+#include <ranges>
 
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modWresCheck.h"
+#include "records/pastmatches.h"
 #include "storylines/lineages.h"
 
 namespace grapplemont {
@@ -20,11 +22,6 @@ std::string RecordLine(const World& world, const MatchTally& tally) {
           std::to_string(tally.Drawn) + " drawn";
   if (tally.ForTitles > 0) text += ", " + std::to_string(tally.ForTitles) + " for a Title";
   return text + ". Rated " + std::to_string(tally.Ratings / std::max(matches, 1)) + "% on average.";
-}
-
-bool WasIn(const HeldMatch& bout, int workerUid) {
-  return workerUid != 0 &&
-         std::find(bout.Worker.begin(), bout.Worker.end(), workerUid) != bout.Worker.end();
 }
 
 FormLine LineFor(const HeldMatch& bout, int uid) {
@@ -60,9 +57,8 @@ std::vector<std::string> RecordLines(const World& world, const Worker& worker) {
 
 std::vector<FormLine> FormOf(const World& world, const Worker& worker, int most) {
   std::vector<FormLine> form;
-  for (int number = world.Bouts().Count(); number >= 1 && std::ssize(form) < most; --number)
-    if (WasIn(world.Bouts()[number], worker.Uid))
-      form.push_back(LineFor(world.Bouts()[number], worker.Uid));
+  for (const int number : std::views::reverse(MatchesWith(world, worker.Uid)))
+    if (std::ssize(form) < most) form.push_back(LineFor(world.Bouts()[number], worker.Uid));
   return form;
 }
 

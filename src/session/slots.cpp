@@ -98,7 +98,7 @@ std::vector<std::string> RenameSlot(Disk& disk, const std::string& folder, std::
   const Bytes before = found->second;
   Bytes after = before;
   SetSaveName(after, name);
-  if (after != before) opened.Commit({{file, true, true, before, after}});
+  if (const auto change = ChangeBetween(file, &before, &after)) opened.Commit({*change});
   opened.Checkpoint();
   return opened.Remarks();
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/modWresCheck.h"
+#include "records/pastmatches.h"
 #include "records/segments.h"
 #include "records/store/table.h"
 #include "show/showfeuds.h"
@@ -26,10 +27,9 @@ void MakeRoom(Records<MatchTally>& tallies) {
   tallies.Erase(tallies.NumberOf(*oldest));
 }
 
-MatchTally& TallyOf(World& world, int uid) {
+MatchTally& OwnTally(World& world, int uid) {
   Records<MatchTally>& tallies = world.Tallies();
-  for (MatchTally& tally : tallies)
-    if (tally.Worker == uid && tally.Promotion == world.PlayerUid()) return tally;
+  if (const int number = TallyNumberOf(world, uid)) return tallies.Change(number);
   if (tallies.Full()) MakeRoom(tallies);
   MatchTally fresh;
   fresh.Promotion = world.PlayerUid();
@@ -38,7 +38,7 @@ MatchTally& TallyOf(World& world, int uid) {
 }
 
 void AddToTally(World& world, int uid, const HeldMatch& bout, bool won) {
-  MatchTally& tally = TallyOf(world, uid);
+  MatchTally& tally = OwnTally(world, uid);
   tally.Name = WorkerName(world, uid);
   ++(bout.Winners == 0 ? tally.Drawn : won ? tally.Won : tally.Lost);
   if (bout.Title != "None") ++tally.ForTitles;

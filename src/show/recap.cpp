@@ -79,8 +79,9 @@ std::set<ShowKey> KeysOf(const World& world) {
 }
 
 void Free(World& world, const ShowKey& show) {
-  for (ReportPart& part : world.Reports())
-    if (KeyOf(part) == show) part = ReportPart{};
+  Records<ReportPart>& parts = world.Reports();
+  for (int number = 1; number <= parts.Count(); ++number)
+    if (KeyOf(std::as_const(parts)[number]) == show) parts.Change(number) = ReportPart{};
 }
 
 /// Writes the texts of one row, into free places first.
@@ -105,20 +106,20 @@ class Writer {
     part.Kind = kind;
     part.Join = piece.Join;
     part.Words = piece.Words;
-    if (ReportPart* place = Place()) *place = part;
+    if (const int place = Place()) world_.Reports().Change(place) = part;
   }
 
-  /// nullptr when the file is full of today's show alone.
-  ReportPart* Place() {
+  /// The number of a free place; 0 when the file is full of today's show alone.
+  int Place() {
     Records<ReportPart>& parts = world_.Reports();
-    while (next_ <= parts.Count())
-      if (ReportPart& part = parts[next_++]; part.Kind == kNoReport) return &part;
+    for (; next_ <= parts.Count(); ++next_)
+      if (parts[next_].Kind == kNoReport) return next_++;
     if (!parts.Full()) {
-      next_ = parts.Count() + 2;
-      return &parts.Append(ReportPart{});
+      parts.Append(ReportPart{});
+      return next_++;
     }
     const std::set<ShowKey> keys = KeysOf(world_);
-    if (keys.empty() || *keys.begin() == KeyOfToday(world_)) return nullptr;
+    if (keys.empty() || *keys.begin() == KeyOfToday(world_)) return 0;
     Free(world_, *keys.begin());
     next_ = 1;
     return Place();

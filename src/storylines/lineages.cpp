@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <ranges>
+#include <utility>
 
 #include "records/fields/fields.h"
 #include "records/keepannals.h"
@@ -15,6 +16,8 @@ namespace grapplemont {
 namespace {
 
 constexpr int kDropped = 1000;
+/// A reign that records may tell of for ever: so many days, or defences.
+constexpr int kGreatDays = 365, kGreatDefences = 30;
 
 /// A Title as the reigns know it.
 using Name = std::pair<int, std::string>;
@@ -45,12 +48,17 @@ std::pair<int, int> PeopleOf(const World& world, const Title& title, const Reign
   return {0, 0};
 }
 
+bool IsGreat(const TitleReign& reign) {
+  return !IsVacancy(reign) &&
+         (DaysOf(reign, reign.Until) >= kGreatDays || reign.Defences >= kGreatDefences);
+}
+
 /// Walks over the Titles and their reigns once.
 class Update {
  public:
-  explicit Update(World& world) : world_(world) {
-    for (TitleReign& reign : world.Reigns())
-      if (reign.End == kReignLasts) open_.emplace(NameOf(reign), &reign);
+  explicit Update(World& world) : reigns_(world.Reigns()), world_(world) {
+    for (const TitleReign& reign : reigns_)
+      if (reign.End == kReignLasts) open_.emplace(NameOf(reign), reigns_.NumberOf(reign));
   }
 
   void Run() {
@@ -66,33 +74,36 @@ class Update {
       open_.erase(known);
     }
     for (const Title* title : strangers) Meet(*title);
-    for (const auto& [name, reign] : open_) Close(*reign, world_.Today(), kReignDissolved);
+    for (const auto& [name, reign] : open_)
+      Close(reigns_.Change(reign), world_.Today(), kReignDissolved);
     for (const TitleReign& reign : fresh_) Append(reign);
   }
 
  private:
   /// The lines of its record that are new since the reign began.
-  void Follow(const Title& title, TitleReign* reign) {
-    if (IsPresent(*reign, title)) return;
+  void Follow(const Title& title, int number) {
+    const TitleReign& reign = std::as_const(reigns_)[number];
+    if (IsPresent(reign, title)) return;
     std::size_t fresh = 0;
     while (fresh < title.Reigns.size() && IsUsed(title.Reigns[fresh]) &&
-           !IsLine(*reign, title.Reigns[fresh]))
+           !IsLine(reign, title.Reigns[fresh]))
       ++fresh;
     if (fresh == 0) fresh = 1;  // somebody has changed the line itself
-    Enter(title, fresh, reign);
+    Enter(title, fresh, number);
   }
 
   static bool IsLine(const TitleReign& reign, const Reign& line) {
     return reign.Holder == line.Holder && Day(reign.From) == Day(line.Won);
   }
 
-  /// Appends the first `count` lines, the oldest first, and ends what was there before each.
-  void Enter(const Title& title, std::size_t count, TitleReign* before) {
+  /// Appends the first `count` lines, the oldest first, and ends what was there before each:
+  /// `before` is the number of the reign before the first, 0 for none.
+  void Enter(const Title& title, std::size_t count, int before) {
     for (std::size_t i = count; i-- > 0;) {
       const Reign& line = title.Reigns[i];
-      if (before) Close(*before, line.Won, EndBefore(line));
+      if (before != 0) Close(reigns_.Change(before), line.Won, EndBefore(line));
       fresh_.push_back(ReignOf(title, line));
-      before = nullptr;
+      before = 0;
       if (i == 0) continue;
       const Reign& next = title.Reigns[i - 1];
       Close(fresh_.back(), line.Lost, EndBefore(next));
@@ -126,7 +137,8 @@ class Update {
   /// A Title nobody knows by its name: one of the promotion's under a new name, or a new one.
   void Meet(const Title& title) {
     const auto renamed = std::ranges::find_if(open_, [&](const auto& known) {
-      return known.first.first == title.Owner && IsPresent(*known.second, title);
+      return known.first.first == title.Owner &&
+             IsPresent(std::as_const(reigns_)[known.second], title);
     });
     if (renamed != open_.end()) {
       Rename(renamed->first, title.Name);
@@ -135,32 +147,36 @@ class Update {
     }
     std::size_t lines = 0;
     while (lines < title.Reigns.size() && IsUsed(title.Reigns[lines])) ++lines;
-    if (lines > 0) Enter(title, lines, nullptr);
+    if (lines > 0) Enter(title, lines, 0);
   }
 
   /// The past of a Title goes with its new name.
   void Rename(const Name& before, std::string_view after) {
-    for (TitleReign& reign : world_.Reigns())
+    reigns_.EditEach([&](TitleReign& reign) {
       if (NameOf(reign) == before) reign.Title = after;
-    for (Annal& event : world_.Annals())
+    });
+    world_.Annals().EditEach([&](Annal& event) {
       if (event.Kind == kAnnalTitle && event.Promotion == before.first &&
           event.What == before.second)
         event.What = after;
+    });
   }
 
   void Append(const TitleReign& reign) {
-    Records<TitleReign>& reigns = world_.Reigns();
-    if (reigns.Full()) {
+    for (const bool great : {true, false}) {  // those that records tell of go last
       int dropped = 0;
-      reigns.Keep(
-          [&](const TitleReign& old) { return old.End == kReignLasts || ++dropped > kDropped; });
+      if (!reigns_.Full()) break;
+      reigns_.Keep([&](const TitleReign& old) {
+        return old.End == kReignLasts || (great && IsGreat(old)) || ++dropped > kDropped;
+      });
     }
-    if (!reigns.Full()) reigns.Append(reign);
+    if (!reigns_.Full()) reigns_.Append(reign);
   }
 
+  Records<TitleReign>& reigns_;
   World& world_;
-  std::multimap<Name, TitleReign*> open_;  // those that last
-  std::vector<TitleReign> fresh_;          // appended at the end: an append may move the others
+  std::multimap<Name, int> open_;  // the numbers of those that last
+  std::vector<TitleReign> fresh_;  // appended at the end: an append may move the others
 };
 
 /// The latest first.
@@ -180,23 +196,29 @@ void UpdateReigns(World& world) {
 
 namespace {
 
-/// The one that lasts; those are late in the file. nullptr where the reigns lag behind the Title.
-TitleReign* PresentReign(World& world, const Title& title) {
-  for (TitleReign& reign : std::views::reverse(world.Reigns()))
+/// The number of the one that lasts; those are late in the file. 0 where the reigns lag behind the
+/// Title.
+int PresentReign(const World& world, const Title& title) {
+  const auto& reigns = world.Reigns();
+  for (int number = reigns.Count(); number >= 1; --number) {
+    const TitleReign& reign = reigns[number];
     if (reign.End == kReignLasts && reign.Owner == title.Owner && reign.Title == title.Name)
-      return IsPresent(reign, title) ? &reign : nullptr;
-  return nullptr;
+      return IsPresent(reign, title) ? number : 0;
+  }
+  return 0;
 }
 
 }  // namespace
 
 void CountDefence(World& world, const Title& title) {
-  TitleReign* reign = PresentReign(world, title);
-  if (!reign) {
+  int number = PresentReign(world, title);
+  if (number == 0) {
     UpdateReigns(world);
-    reign = PresentReign(world, title);
+    number = PresentReign(world, title);
   }
-  if (reign) reign->Defences = std::max<int>(0, reign->Defences) + 1;
+  if (number == 0) return;
+  TitleReign& reign = world.Reigns().Change(number);
+  reign.Defences = std::max<int>(0, reign.Defences) + 1;
 }
 
 std::vector<Lineage> LineagesOf(const World& world) {

@@ -180,6 +180,11 @@ void ListBox::Fill(std::vector<Row> rows, bool keepSelection) {
   ContentsChanged();
 }
 
+void ListBox::ChangeRow(int row, std::vector<Cell> cells) {
+  rows_.at(static_cast<std::size_t>(row - 1)).Cells = std::move(cells);
+  ContentsChanged();
+}
+
 int ListBox::Selected() const {
   const auto found = std::ranges::find_if(rows_, [](auto& r) { return r.Selected; });
   return found == rows_.end() ? 0 : static_cast<int>(found - rows_.begin()) + 1;

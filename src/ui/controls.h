@@ -287,6 +287,8 @@ class ListBox : public Control {
   void Add(std::vector<Cell> cells, int key = 0);
   /// Puts other rows in; the selection stays on the same key when `keepSelection`.
   void Fill(std::vector<Row> rows, bool keepSelection = true);
+  /// Puts other cells into one row, from 1; all else stays.
+  void ChangeRow(int row, std::vector<Cell> cells);
   int Count() const { return static_cast<int>(rows_.size()); }
   /// Grows with every change of columns or rows; picking leaves it as it is.
   unsigned Contents() const { return contents_; }

@@ -58,7 +58,7 @@ std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   slotNumber_ = slot;
   world_ = std::move(world);
   opened_ = {slot, ReadWorldId(disk_, SlotFolder(slot)).value_or(0)};
-  MarkCommitted();
+  MarkCommitted(world_->Changes());
   std::vector<std::string> remarks = slot_->Remarks();
   if (!isOver_) TellMended(MendNumbers(*world_), remarks);
   return remarks;
@@ -103,15 +103,15 @@ void Game::Commit() {
   try {
     slot_->Commit(changes);
   } catch (const DiskError&) {
-    if (slot_->Committed()) MarkCommitted();
+    if (slot_->Committed()) MarkCommitted(changes);
     throw;
   }
-  MarkCommitted();
+  MarkCommitted(changes);
   if (Kept) Kept(changes);
 }
 
-void Game::MarkCommitted() {
-  world_->MarkCommitted();
+void Game::MarkCommitted(const std::vector<FileChange>& changes) {
+  world_->MarkCommitted(changes);
   isOver_ = HasEnded(world_->Game());
 }
 

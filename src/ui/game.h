@@ -138,7 +138,7 @@ class Game : public ui::Work {
   std::string Explain(const std::exception& fault) const override;
 
  private:
-  void MarkCommitted();
+  void MarkCommitted(const std::vector<FileChange>& changes);
   bool MayChange(const std::vector<FileChange>& changes) const;
   std::string Path(const std::string& name) const { return options_.Home + "/" + name; }
   std::vector<std::string> Layers(const std::string& name) const;

@@ -100,11 +100,11 @@ TEST(TheWrestlerOfTheYear, IsWorthHisOverHisRiseAndHisTitles) {
        "Cal Drift | Over 75, 15 more than a year ago"},
       {"a rise counts 20 at most",
        [](World& w) {
-         w.YearEnds()[3].Over = 1;
+         w.YearEnds().Change(3).Over = 1;
          Who(w, "Bram Okafor").Over = 81;
        },
        "Bram Okafor | Over 81, 1 more than a year ago"},
-      {"alike: the more popular", [](World& w) { w.YearEnds()[3].Over = 20; },
+      {"alike: the more popular", [](World& w) { w.YearEnds().Change(3).Over = 20; },
        "Bram Okafor | Over 80"},
       {"who works for nobody has no year", [](World& w) { Who(w, "Bram Okafor").Employer = 0; },
        "Nat Other | Over 70"},
@@ -197,14 +197,14 @@ TEST(TheFeudOfTheYear, IsStillBetweenPairsWhenOneOfThemHasLeftTheWorld) {
   World world = House();
   for (const int rating : {50, 60, 70}) {
     AddFeudMatch(world, 30, rating, 2, 3);
-    world.Bouts()[world.Bouts().Count()].Feud = {Word(2), Word(3), Word(0), Word(6)};
+    world.Bouts().Change(world.Bouts().Count()).Feud = {Word(2), Word(3), Word(0), Word(6)};
   }
   const std::string pair = GivenFor(world, kFeudOfTheYear);
   EXPECT_NE(pair.find(" vs Joy Park | 3 matches, the best rated 70%"), pair.npos) << pair;
-  for (HeldMatch& bout : world.Bouts()) bout.Feud = {Word(0), Word(3), Word(0), Word(6)};
+  for (HeldMatch& bout : world.Bouts().Any()) bout.Feud = {Word(0), Word(3), Word(0), Word(6)};
   EXPECT_EQ(GivenFor(world, kFeudOfTheYear),
             "Cal Drift vs Joy Park | 3 matches, the best rated 70%");
-  for (HeldMatch& bout : world.Bouts()) bout.Feud = {Word(0), Word(3), Word(0), Word(0)};
+  for (HeldMatch& bout : world.Bouts().Any()) bout.Feud = {Word(0), Word(3), Word(0), Word(0)};
   EXPECT_EQ(GivenFor(world, kFeudOfTheYear), "nobody") << "one side is not a feud";
 }
 

@@ -43,7 +43,7 @@ TEST(MainScreen, SaysWhoAndWhenAndWhatIsAhead) {
 TEST(MainScreen, CountsTheMailOfTheDayThatPassedAndOfToday) {
   World world = Playing(year{2026} / 3 / 24).Mail("CWA News", "Old.").Build();
   AddNews(world, "CWA News", "Today.");
-  world.News()[1].Date = "22/03/26";
+  world.News().Change(1).Date = "22/03/26";
   GameOnWorld play(std::move(world));
   play.Desk.Open("frmMainScreen");
   EXPECT_EQ(play.Desk.Badge("cmdnews"), "1");

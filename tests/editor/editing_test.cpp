@@ -367,7 +367,7 @@ TEST(DamagedData, AreShownWithTheirFaultsAndKeptWhereNobodyTouchesThem) {
     World data = EditorData();
     Dice dice(seed);
     const auto scramble = [&]<class T>(Records<T>& records) {
-      for (T& record : records)
+      for (T& record : records.Any())
         for (const Field& field : LayoutOf<T>().Fields)
           if (dice.OneIn(3)) Scramble(dice, field, 0, reinterpret_cast<std::byte*>(&record));
     };

@@ -38,10 +38,10 @@ inline constexpr const char* kInGame[] = {
     "frmFedProd",    "frmFedSponsor",   "frmTelevision", "frmPromoTape", "frmTvOffer",
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
-    "frmReigns",     "frmChronicle",  "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
-    "frmMorning",    "frmInternet",     "frmGlossary",   "frmDrafts",    "frmProspect",
-    "frmPlayOn",     "frmMonth",        "frmGodMode",    "frmRecords",   "frmHall",
-    "frmYearbook",   "frmFamilyTree"};
+    "frmReigns",     "frmChronicle",    "frmResults",    "frmReports",   "frmAwards",
+    "frmTalk",       "frmMorning",      "frmInternet",   "frmGlossary",  "frmDrafts",
+    "frmProspect",   "frmPlayOn",       "frmMonth",      "frmGodMode",   "frmRecords",
+    "frmHall",       "frmYearbook",     "frmFamilyTree"};
 
 /// Those that come before one, and the editor's.
 inline constexpr const char* kBeforeGame[] = {

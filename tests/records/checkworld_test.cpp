@@ -40,7 +40,7 @@ template <class Visit>
 void VisitRecord(World& world, const BadField& bad, Visit visit) {
   world.ForEachFile([&]<class T>(Records<T>& records) {
     if (records.File() == bad.File)
-      visit(LayoutOf<T>(), reinterpret_cast<std::byte*>(&records[bad.Record]));
+      visit(LayoutOf<T>(), reinterpret_cast<std::byte*>(&records.Change(bad.Record)));
   });
 }
 
@@ -345,7 +345,7 @@ TEST(MendWorld, TouchesTheDataSetAlone) {
   World world = SoundGame();
   world.Game().EndCode = 77;
   world.Feuds().Rewrite({});
-  world.News()[1].Date = "yesterday";
+  world.News().Change(1).Date = "yesterday";
   world.Workers()[2].OverFloor = 51;  // what a game may carry, data may not
   World expected = CopyOf(world);
   expected.Workers()[2].OverFloor = 50;
@@ -364,7 +364,7 @@ TEST(CheckWorld, LetsAGameGoItsOwnWay) {
   world.Workers()[1].OverFloor = 90;
   world.Game().Economy = -700;
   world.Game().EndCode = 100;  // a challenge awaits
-  world.News()[1].Body = " has left.";
+  world.News().Change(1).Body = " has left.";
   // Closed promotions leave Titles of one name behind.
   world.Titles().Append(world.Titles()[3]).Owner = kNoEnd;
   world.Titles().Append(world.Titles()[4]);

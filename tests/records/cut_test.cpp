@@ -129,14 +129,16 @@ struct Variant {
   const char* Name;
   JournalQuirks Quirks;
   const char* IgnoredSyncs = "";  // of paths that end so
+  bool BareRanges = false;
 };
 
 /// The stories the variants are told in: many short ones over a small journal.
 BadCuts BadCutsOf(const Variant& variant) {
   BadCuts all;
   for (std::uint64_t seed = 101; seed < 105; ++seed) {
-    const Story story = TellStory(14, seed, variant.Quirks,
-                                  [&](CutDisk& disk) { disk.IgnoreSyncs(variant.IgnoredSyncs); });
+    const Story story = TellStory(
+        14, seed, variant.Quirks, [&](CutDisk& disk) { disk.IgnoreSyncs(variant.IgnoredSyncs); },
+        variant.BareRanges);
     all.Add(CountBadCuts(story, 6, seed));
   }
   return all;
@@ -152,7 +154,7 @@ TEST(Commits, WithoutAStepAreFound) {
   const Variant kVariants[] = {{"no sync of the journal", {}, "journal"},
                                {"no sync of the record files", {}, ".dat"},
                                {"emptied before the files are synced", {.EmptyBeforeFiles = true}},
-                               {"ranges not rounded to blocks", {.BareRanges = true}},
+                               {"ranges not rounded to blocks", {}, "", true},
                                {"no checksum", {.NoChecksum = true}},
                                {"no check of the sequence", {.NoSequence = true}},
                                {"no sync of the folder", {}, kStore}};

@@ -339,9 +339,8 @@ TEST(ASlotOfAGame, KeepsFilesThatAreLaterThanTheirJournal) {
       if (day == 5)
         for (const char* name : {"journal", "world.seal"})
           earlier[name] = ReadFile(disk, std::string("s1/") + name);
-      const Files before = game(day), after = game(day + 1);
-      slot.Commit(
-          {{"gameinfo.dat", true, true, before.at("gameinfo.dat"), after.at("gameinfo.dat")}});
+      const Bytes before = game(day).at("gameinfo.dat"), after = game(day + 1).at("gameinfo.dat");
+      slot.Commit({ChangeBetween("gameinfo.dat", &before, &after).value()});
     }
   }
   for (const bool sealed : {false, true}) {

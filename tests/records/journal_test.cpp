@@ -33,18 +33,21 @@ Bytes Sealed(Bytes bytes) {
   return bytes;
 }
 
-Bytes HandMadeMarker(std::uint64_t world, std::uint64_t sequence) {
-  return Sealed(Joined({BytesOf("GMFRMARK"), Number(1, 4), Number(0, 8), Number(world, 8),
-                        Number(sequence, 8), Number(7, 8)}));
+Bytes HandMadeMarker(std::uint64_t world, std::uint64_t sequence,
+                     DigestForm form = DigestForm::Blocks) {
+  return Sealed(Joined({BytesOf("GMFRMARK"), Number(static_cast<std::uint64_t>(form), 4),
+                        Number(0, 8), Number(world, 8), Number(sequence, 8), Number(7, 8)}));
 }
 
 Bytes HandMadeRecord(std::uint64_t world, std::uint64_t sequence, std::uint64_t files,
-                     const Bytes& body) {
+                     const Bytes& body, DigestForm form = DigestForm::Blocks) {
   const std::uint64_t length = (56 + body.size() + 4095) / 4096 * 4096;
-  return Sealed(
-      Joined({BytesOf("GMFRECRD"), Number(1, 4), Number(0, 8), Number(sequence, 8),
-              Number(world, 8), Number(length, 8), Number(7, 8), Number(files, 4), body}));
+  return Sealed(Joined({BytesOf("GMFRECRD"), Number(static_cast<std::uint64_t>(form), 4),
+                        Number(0, 8), Number(sequence, 8), Number(world, 8), Number(length, 8),
+                        Number(7, 8), Number(files, 4), body}));
 }
+
+constexpr DigestForm kForms[] = {DigestForm::Whole, DigestForm::Blocks};
 
 /// tv.dat becomes "abcdef" of which "cdef" is told, event.dat goes.
 Bytes TwoFiles() {
@@ -56,9 +59,12 @@ Bytes TwoFiles() {
 TEST(AJournalMarker, IsLaidOutToTheByteAndRefusedWithAnyWrong) {
   const Bytes good = HandMadeMarker(5, 9);
   EXPECT_EQ(good, PackMarker({5, 9, 7}));
-  const auto marker = UnpackMarker(good);
-  ASSERT_TRUE(marker);
-  EXPECT_EQ(good, PackMarker(*marker));
+  for (const DigestForm form : kForms) {
+    const auto marker = UnpackMarker(HandMadeMarker(5, 9, form));
+    ASSERT_TRUE(marker);
+    EXPECT_EQ(form, marker->Form);
+    EXPECT_EQ(HandMadeMarker(5, 9, form), PackMarker(*marker));
+  }
   for (std::size_t at = 0; at < good.size(); at += at < 48 ? 1 : 111) {
     Bytes bad = good;
     bad[at] ^= std::byte{0x40};
@@ -80,6 +86,10 @@ TEST(AJournalRecord, IsLaidOutToTheByteAndReadWhereItStands) {
   ASSERT_TRUE(entry);
   EXPECT_EQ(4096, entry->Size);
   EXPECT_EQ(9u, entry->Record.Sequence);
+  for (const DigestForm form : kForms)
+    EXPECT_EQ(form, UnpackRecord(HandMadeRecord(5, 9, 2, TwoFiles(), form), 0, StoreFiles())
+                        .value()
+                        .Record.Form);
   ASSERT_EQ(2u, entry->Record.Files.size());
   std::optional<Bytes> file = BytesOf("ab");
   ApplyTo(file, entry->Record.Files[0]);
@@ -158,6 +168,27 @@ TEST(ChangedRanges, AreWholeBlocks) {
     }
     EXPECT_EQ(each.Expected, found) << each.Case;
   }
+}
+
+TEST(AWorldDigest, FollowsWhatChangesAndFallsBackWhenThatFails) {
+  const auto worlds = RandomWorlds(40, 61);
+  WorldDigest digest = DigestOf(worlds[0]);
+  for (std::size_t world = 1; world < worlds.size(); ++world) {
+    const auto changes = ChangesBetween(worlds[world - 1], worlds[world]);
+    const std::uint64_t before = digest.Value();
+    {
+      const DigestAhead ahead(digest, changes);
+      EXPECT_EQ(DigestOf(worlds[world]).Value(), digest.Value());
+    }
+    EXPECT_EQ(before, digest.Value());
+    DigestAhead(digest, changes).Reach();
+    EXPECT_NE(before, digest.Value());
+  }
+  EXPECT_TRUE(digest.Differing(DigestOf(worlds.back())).empty());
+  // A file that is all there but for its end has another number.
+  Bytes longer(3 * 4096), shorter(2 * 4096 + 1);
+  EXPECT_NE(FileDigest(longer, DigestForm::Blocks).Value(),
+            FileDigest(shorter, DigestForm::Blocks).Value());
 }
 
 // The chain, from journals put together block by block.

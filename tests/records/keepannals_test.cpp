@@ -52,8 +52,8 @@ TEST(Annals, BeginWithTheirVersionAndKeepWhatIsWorthIt) {
   NoteDeed(world, kDeedOwner, &rival, "Ruth Vane");
   EXPECT_EQ(Last(world).Who[0], 0) << "owners are staff";
   EXPECT_NE(Last(world).Sex, kNobodysSex);
-  NoteDeed(world, kDeedRisen, &rival, "New Era Wrestling, Long As Names Can Be..", {}, kRegional);
-  EXPECT_EQ(Last(world).What, "New Era Wrestling, Long As Names Can Be..");
+  NoteDeed(world, kDeedRisen, &rival, "New Era Wrestling, Long As Names Can Be.", {}, kRegional);
+  EXPECT_EQ(Last(world).What, "New Era Wrestling, Long As Names Can Be.");
   EXPECT_EQ(Last(world).Name, "");
   EXPECT_EQ(Last(world).Number, kRegional);
 }

@@ -170,7 +170,7 @@ TEST(RandomFields, OfAllKindsAreMendedForGood) {
     Dice dice(seed);
     World world = test::RandomData(seed);
     world.ForEachFile([&]<class T>(Records<T>& records) {
-      for (T& record : records)
+      for (T& record : records.Any())
         for (const Field& field : LayoutOf<T>().Fields)
           if (dice.OneIn(40))
             test::Scramble(dice, field, dice.From(0, field.Count - 1),

@@ -122,8 +122,8 @@ TEST_F(ASlot, IsNotMadeWhereSomethingElseStands) {
 TEST_F(ASlot, RefusesAFileThatIsNoneOfItsOwnBeforeItPromisesAnything) {
   const auto slot = Open();
   const Bytes huge(30000), little(1);
-  EXPECT_THROW(slot->Commit({{"passwd", false, true, {}, little}}), std::invalid_argument);
-  EXPECT_THROW(slot->Commit({{"tv.dat", false, true, {}, huge}}), std::invalid_argument);
+  EXPECT_THROW(slot->Commit({*ChangeBetween("passwd", nullptr, &little)}), std::invalid_argument);
+  EXPECT_THROW(slot->Commit({*ChangeBetween("tv.dat", nullptr, &huge)}), std::invalid_argument);
   EXPECT_FALSE(slot->Committed());
   slot->Commit({});
   EXPECT_TRUE(slot->Committed());
@@ -347,10 +347,10 @@ TEST(AHugeCommit, IsAllOrNothingToo) {
   {
     Slot slot(disk, kStore, known, Damage::Refuse, options);
     disk.Begins(1);
-    slot.Commit({{"wrestler.dat", true, true, one, two}, {"staff.dat", false, true, {}, staff}});
+    slot.Commit(ChangesBetween(worlds[0], worlds[1]));
     disk.Shows(1);
     disk.Begins(2);
-    slot.Commit({{"wrestler.dat", true, true, two, one}});
+    slot.Commit(ChangesBetween(worlds[1], worlds[2]));
     disk.Shows(2);
   }
   ForEveryCut(disk, 4, 96, [&](CutDisk& after, const Cut& cut) {

@@ -41,11 +41,11 @@ TEST(World, TellsWhatHasChangedFileByFile) {
   EXPECT_EQ("wrestler.dat news.dat feudinfo.dat ", ChangedFiles(world));
   const auto changes = world.Changes();
   EXPECT_TRUE(changes[0].ExistsBefore && changes[0].ExistsAfter);
-  EXPECT_EQ(3 * sizeof(Worker), changes[0].Before.size());
+  EXPECT_EQ(std::ssize(changes[0].After), changes[0].LengthBefore);
   EXPECT_FALSE(changes[1].ExistsBefore);
   EXPECT_EQ(sizeof(Mail), changes[1].After.size());
   EXPECT_FALSE(changes[2].ExistsAfter);
-  EXPECT_EQ(8 * sizeof(Feud), changes[2].Before.size());
+  EXPECT_EQ(static_cast<std::int64_t>(8 * sizeof(Feud)), changes[2].LengthBefore);
   world.MarkCommitted();
   EXPECT_EQ("", ChangedFiles(world));
 }

@@ -76,8 +76,8 @@ TEST(Past, NamesThoseOfASideWhomItIsAbout) {
 TEST(Past, KnowsATitleOfTeamsAndOfThree) {
   World world = Four();
   Reign(world, 3, 300, 200);
-  world.Reigns()[1].Partner = 1;
-  world.Reigns()[1].End = kReignVacated;
+  world.Reigns().Change(1).Partner = 1;
+  world.Reigns().Change(1).End = kReignVacated;
   Reign(world, 2, 21, 0, 3);
   Segment three = AdaBeatsBo("Crown");
   three.Style = kThreeWay;
@@ -89,9 +89,9 @@ TEST(Past, KnowsATitleOfTeamsAndOfThree) {
   EXPECT_FALSE(past.Has(kTitleAgain)) << "nobody lost a vacated Title";
   for (int uid = 1; uid <= 4; ++uid) Tally(world, uid, 20, 7);
   Held(world, 1, 400);
-  world.Reigns()[1].Partner = 0;
+  world.Reigns().Change(1).Partner = 0;
   EXPECT_FALSE(Past(world, Teams("Crown"), {2}).Has(kTitleNever)) << "one of the two has had it";
-  world.Reigns()[1].Worker = 0;
+  world.Reigns().Change(1).Worker = 0;
   EXPECT_TRUE(Past(world, Teams("Crown"), {2}).Has(kTitleNever));
 }
 

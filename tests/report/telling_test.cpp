@@ -207,8 +207,8 @@ TEST_P(Telling, PraisesByTheRating) {
       const std::string text = Tell(world, match, scene);
       const Block* block = BlockOf(GetParam(), Family::PurposeEnding, kGoodMatchTold);
       for (std::size_t line = 0; line < block->Lines.size(); ++line) {
-        if (Drawn(block, static_cast<int>(line)))
-          EXPECT_NE(ReadTags(block->Lines[line]).Tags & tag, 0U) << block->Lines[line];
+        if (!Drawn(block, static_cast<int>(line))) continue;
+        EXPECT_NE(ReadTags(block->Lines[line]).Tags & tag, 0U) << block->Lines[line];
       }
     }
 }

@@ -159,6 +159,9 @@ TEST(Lineages, DropTheOldestThatHaveEndedWhenTheFileIsFull) {
   TitleReign old = reigns[0];
   old.End = kReignLost;
   old.Title = "Old Crown";
+  reigns.push_back(old);
+  reigns.back().Title = "Great Crown";
+  reigns.back().Defences = 30;
   reigns.resize(static_cast<std::size_t>(LayoutOf<TitleReign>().Limit), old);
   world.Reigns().Rewrite(reigns);
   Crown(world, Named(world.Titles(), "CWA Crown"), UidOf(world, "Cal Drift"), 0);
@@ -166,14 +169,15 @@ TEST(Lineages, DropTheOldestThatHaveEndedWhenTheFileIsFull) {
   EXPECT_EQ(world.Reigns().Count(), LayoutOf<TitleReign>().Limit - 1000 + 1);
   EXPECT_EQ(PastOf(world, "CWA Crown"), "Cal Drift 1 lasts");
   EXPECT_EQ(PastOf(world, "NEW Crown", "NEW"), "Nat Other ? lasts");
+  EXPECT_NE(PastOf(world, "Great Crown", "NEW"), "") << "what records tell of stays";
 }
 
 TEST(Lineages, MendThemselvesWhenTheirFileWasDamaged) {
   World world = Belts();
-  world.Reigns()[1].Holder = "\x01 rubbish";
-  world.Reigns()[1].Worker = -7;
-  world.Reigns()[2].End = 99;
-  world.Reigns()[3].From.SetRaw(-1e300);
+  world.Reigns().Change(1).Holder = "\x01 rubbish";
+  world.Reigns().Change(1).Worker = -7;
+  world.Reigns().Change(2).End = 99;
+  world.Reigns().Change(3).From.SetRaw(-1e300);
   PassDays(world, 1);
   for (const Lineage& lineage : LineagesOf(world))
     EXPECT_EQ(std::ranges::count(ReignsOf(world, lineage), int(kReignLasts),

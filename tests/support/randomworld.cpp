@@ -75,7 +75,7 @@ void FillFile(Dice& dice, Records<T>& records) {
   const Share& share = *std::find_if(std::begin(kShares), std::end(kShares),
                                      [&](const Share& s) { return s.File == layout.File; });
   records.Rewrite(std::vector<T>(static_cast<std::size_t>(dice.From(share.Least, share.Most))));
-  for (T& record : records) {
+  for (T& record : records.Any()) {
     auto* bytes = reinterpret_cast<std::byte*>(&record);
     for (const Field& field : layout.Fields)
       for (int index = 0; index < field.Count; ++index) Fill(dice, field, index, bytes);

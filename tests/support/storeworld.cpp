@@ -87,18 +87,15 @@ std::vector<Files> RandomWorlds(int count, std::uint64_t seed) {
   return worlds;
 }
 
-std::vector<FileChange> ChangesBetween(const Files& before, const Files& after) {
+std::vector<FileChange> ChangesBetween(const Files& before, const Files& after, bool bare) {
+  const auto in = [](const Files& files, const char* name) {
+    const auto found = files.find(name);
+    return found == files.end() ? nullptr : &found->second;
+  };
   std::vector<FileChange> changes;
-  for (const char* name : kNames) {
-    const auto was = before.find(name), is = after.find(name);
-    FileChange change{name, was != before.end(), is != after.end(), {}, {}};
-    if (change.ExistsBefore) change.Before = was->second;
-    if (change.ExistsAfter) change.After = is->second;
-    const bool same = change.ExistsBefore == change.ExistsAfter &&
-                      std::equal(change.Before.begin(), change.Before.end(), change.After.begin(),
-                                 change.After.end());
-    if (!same) changes.push_back(change);
-  }
+  for (const char* name : kNames)
+    if (auto change = ChangeBetween(name, in(before, name), in(after, name), bare))
+      changes.push_back(*std::move(change));
   return changes;
 }
 
@@ -151,7 +148,7 @@ Files FilesIn(Disk& disk, const std::string& folder) {
 }
 
 Story TellStory(int commits, std::uint64_t seed, JournalQuirks quirks,
-                const std::function<void(CutDisk&)>& prepare) {
+                const std::function<void(CutDisk&)>& prepare, bool bare) {
   const std::vector<Files> worlds = RandomWorlds(commits + 1, seed);
   Story story{CutDisk(), {worlds[0]}, SmallJournal(quirks)};
   CutDisk& disk = story.Recorded;
@@ -167,7 +164,7 @@ Story TellStory(int commits, std::uint64_t seed, JournalQuirks quirks,
     const Files before = story.Worlds.back();
     next(worlds[i]);
     try {
-      slot.Commit(ChangesBetween(before, worlds[i]));
+      slot.Commit(ChangesBetween(before, worlds[i], bare));
     } catch (const DiskError&) {
       if (!slot.Committed()) next(before);
     }

@@ -21,7 +21,8 @@ std::vector<KnownFile> StoreFiles();
 std::vector<Files> RandomWorlds(int count, std::uint64_t seed);
 /// Byte for byte, and faster than == between vectors.
 bool Same(const Files& a, const Files& b);
-std::vector<FileChange> ChangesBetween(const Files& before, const Files& after);
+/// `bare`: with bytes in place of blocks, which the cuts must notice.
+std::vector<FileChange> ChangesBetween(const Files& before, const Files& after, bool bare = false);
 std::vector<NewFile> NewFiles(const Files& files);
 Bytes BytesOf(std::string_view text);
 Bytes RandomBytes(Chance& chance, std::size_t count);
@@ -53,7 +54,7 @@ struct Story {
 /// `prepare` may make the disk lie or fail before the first commit. A commit that fails is followed
 /// by the world before it: once it has been taken back, it may not come up again.
 Story TellStory(int commits, std::uint64_t seed, JournalQuirks quirks = {},
-                const std::function<void(CutDisk&)>& prepare = {});
+                const std::function<void(CutDisk&)>& prepare = {}, bool bare = false);
 
 /// How many of the cuts (`each` at every moment from one on) leave something else than they may,
 /// and the first of them in words.

@@ -120,7 +120,7 @@ TEST(Careers, ReplaceWhoeverRetiresForTenYears) {
     // Somebody whom no record knows: the last made up for the market.
     if (nearTheLastUid) {
       world.Workers()[world.Workers().Count()].Uid = 32760;
-      world.YearEnds()[world.YearEnds().Count()].Worker = 32760;
+      world.YearEnds().Change(world.YearEnds().Count()).Worker = 32760;
     }
     const int staff = world.AllStaff().Count();
     const auto workersThen = NamesIn(world.Workers()), staffThen = NamesIn(world.AllStaff());

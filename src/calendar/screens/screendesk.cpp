@@ -50,7 +50,7 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
     : game_(game),
       lstchampions(screen, "lstchampions",
                    {{"Champion", K::Text, 5},
-                    {"Title", K::Text, 5, "", [this](int key) { return PlateOfRow(key); }},
+                    {"Title", K::Text, 5},
                     {.Title = "Image", .Kind = K::Number, .Width = 1, .Term = "Title image"}},
                    ui::Handler{}, [this] { game_.Desk().Open("frmBelts"); }),
       lstfeuds(screen, "lstfeuds", {{"Feud", K::Text, 6}, {"Heat", K::Percent, 4}}, ui::Handler{},
@@ -139,11 +139,6 @@ void DeskCards::Show() {
 
 void DeskCards::OpenWorkerOf(const ui::ListBox& list) {
   if (list.Key() != 0 && game_.OpenWorker) game_.OpenWorker(list.Key());
-}
-
-ui::Drawing DeskCards::PlateOfRow(int number) {
-  if (number < 1 || number > world().Titles().Count()) return {};
-  return PlateOf(world().Titles()[number], number);
 }
 
 /// The headings of a table of workers, with their faces before the names.

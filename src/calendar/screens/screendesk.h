@@ -22,7 +22,6 @@ class DeskCards {
   void ShowStories();
   void ShowLines();
   void OpenWorkerOf(const ui::ListBox& list);
-  ui::Drawing PlateOfRow(int number);
   std::vector<ui::Column> WithFaces(const CellColumns<Worker>& table);
 
   Game& game_;

@@ -20,7 +20,7 @@ DeskMail::DeskMail(ui::Screen& screen, Game& game)
               [this] { Open(lstmail.Key()); }),
       lblworld(screen, "lblworld"),
       cmdworld(screen, "cmdworld", "Open", [this] {
-        const std::vector<Digest> digests = DigestsOf(world());
+        const std::vector<Digest> digests = DigestsOf(world(), 1);
         if (!digests.empty()) Open(digests.front().Mails.front());
       }) {
   lstmail.EmptyText =
@@ -55,7 +55,7 @@ int DeskMail::Show() {
 
 /// One line for all news of other promotions from the latest day.
 void DeskMail::ShowDigest() {
-  const std::vector<Digest> digests = DigestsOf(world());
+  const std::vector<Digest> digests = DigestsOf(world(), 1);
   lblworld.Visible = !digests.empty();
   cmdworld.Visible = !digests.empty();
   if (digests.empty()) return;

@@ -53,7 +53,9 @@ void AddKeys(Paragraphs& words, ui::Screen& screen, const ShellKeys& keys) {
   const bool waits = IsThere(page.Then) && !(IsThere(page.Main) && page.Main->Enabled);
   const ui::Button* const main = waits ? page.Then : page.Main;
   if (IsThere(main)) AddLine(words, "Enter: " + main->Text.Get());
-  if (IsThere(page.Cancel)) AddLine(words, "Escape: " + page.Cancel->Text.Get());
+  // Nothing leads back from the hub.
+  if (IsThere(page.Cancel) && screen.Is() != ui::Role::Hub)
+    AddLine(words, "Escape: " + page.Cancel->Text.Get());
   bool opens = false, lists = false;
   for (const ui::Control* control : screen.Controls())
     if (const auto* list = dynamic_cast<const ui::ListBox*>(control); IsThere(list)) {

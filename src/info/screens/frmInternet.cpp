@@ -143,7 +143,7 @@ class frmInternet : public GameScreen {
        [](const NewsItem& item) { return ShortDayCell(item.On, ui::Tone::Muted); }},
       {{"What", K::Tag, 2},
        [this](const NewsItem& item) { return ui::Cell(item.What, ToneOf(item)); }},
-      {{"Who", K::Text, 2}, [](const NewsItem& item) { return item.House; }},
+      {{"Who", K::Tag, 2}, [](const NewsItem& item) { return item.House; }},
       {{"Story", K::Text, 14}, [](const NewsItem& item) { return item.Words; }}};
   ui::ListBox lstnews{*this, "lstnews", HeadingsOf(news_), ui::Handler{},
                       [this] { OpenChosen(lstnews, 3, 2); }};

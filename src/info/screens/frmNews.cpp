@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <functional>
-#include <set>
 #include <utility>
 
 #include "info/mailbox.h"
@@ -18,6 +17,39 @@ namespace {
 
 /// The share of a day's news in the room that is left beside nothing.
 constexpr int kMostOfIt = 20;
+
+/// Some of the mails, by their numbers.
+class MailSet {
+ public:
+  void Add(const std::vector<int>& numbers) {
+    for (const int number : numbers) {
+      const auto at = static_cast<std::size_t>(number);
+      if (at >= has_.size()) has_.resize(at + 1);
+      count_ += !has_[at];
+      has_[at] = true;
+    }
+  }
+  /// Those behind the mail move up by one.
+  void Erase(int number) {
+    if (static_cast<std::size_t>(number) >= has_.size()) return;
+    Drop(number);
+    has_.erase(has_.begin() + number);
+  }
+  void Drop(int number) {
+    if (!Has(number)) return;
+    has_[static_cast<std::size_t>(number)] = false;
+    --count_;
+  }
+  bool Has(int number) const {
+    const auto at = static_cast<std::size_t>(number);
+    return at < has_.size() && has_[at];
+  }
+  int Count() const { return count_; }
+
+ private:
+  std::vector<bool> has_;
+  int count_ = 0;
+};
 
 /// The mailbox: on top what is the player's own and was unread when the page came up, then day by
 /// day, on each the own before the rest; the selected mail beside the list. What other promotions'
@@ -50,8 +82,9 @@ class frmNews : public GameScreen {
   void Return() override {
     ShowSenders();
     const Unread unread = UnreadOf(world());
-    top_ = {unread.Own.begin(), unread.Own.end()};
-    ShowMails();
+    top_ = {};
+    top_.Add(unread.Own);
+    ShowMails(unread);
     const int wanted = std::exchange(first_, 0);
     if (wanted != 0) lstnews.SelectKey(RowKeyOf(wanted));
     if (lstnews.Selected() == 0) lstnews.SelectKey(firstOwn_);
@@ -80,44 +113,62 @@ class frmNews : public GameScreen {
 
   /// Gold for what is the player's own and unread.
   ui::Tone ToneOf(const Mail& mail) {
-    return own_.contains(world().News().NumberOf(mail)) ? ui::Tone::Gold : ui::Tone::Plain;
+    return own_.Has(world().News().NumberOf(mail)) ? ui::Tone::Gold : ui::Tone::Plain;
   }
 
   bool Gathers() const { return chkdigest.Checked && From().empty(); }
 
-  void ShowMails() {
-    const Unread unread = UnreadOf(world());
-    own_ = unread_ = {unread.Own.begin(), unread.Own.end()};
-    unread_.insert(unread.Others.begin(), unread.Others.end());
-    count_ = Gathers() ? unread.Count() : static_cast<int>(unread_.size());
+  void ShowMails(const Unread& unread) {
+    own_ = {};
+    own_.Add(unread.Own);
+    unread_ = own_;
+    unread_.Add(unread.Others);
     digests_ = Gathers() ? DigestsOf(world()) : std::vector<Digest>{};
     lstnews.Fill(Rows());
     ShowCount();
   }
 
-  bool IsOnTop(int number) const { return Gathers() && top_.contains(number); }
+  /// What the list shows has been read meanwhile.
+  void ShowRead(const std::vector<int>& numbers) {
+    for (const int number : numbers) {
+      own_.Drop(number);
+      unread_.Drop(number);
+    }
+    const int key = lstnews.Key();
+    if (const auto digest = FindDigest(key); digest != digests_.end()) {
+      digest->IsUnread = false;
+      lstnews.ChangeRow(lstnews.Selected(), RowOf(*digest).Cells);
+    } else {
+      lstnews.ChangeRow(lstnews.Selected(),
+                        grapplemont::RowOf(mails_, world().News()[key], key).Cells);
+    }
+    ShowCount();
+  }
+
+  bool IsOnTop(int number) const { return Gathers() && top_.Has(number); }
 
   /// The news of others stand below all else that came on their day.
   std::vector<ui::ListBox::Row> Rows() {
-    std::set<int> gathered;
-    for (const Digest& digest : digests_) gathered.insert(digest.Mails.begin(), digest.Mails.end());
+    MailSet gathered;
+    for (const Digest& digest : digests_) gathered.Add(digest.Mails);
     std::vector<ui::ListBox::Row> rows;
     const auto add = [&](int number) {
       if (firstOwn_ == 0) firstOwn_ = number;
       rows.push_back(grapplemont::RowOf(mails_, world().News()[number], number));
     };
     firstOwn_ = 0;
-    for (const int number : MailsNewestFirst(world(), From()))
+    const std::vector<int> numbers = MailsNewestFirst(world(), From());
+    for (const int number : numbers)
       if (IsOnTop(number)) add(number);
     const Digest* waits = nullptr;
     const auto close = [&] {
       if (const Digest* digest = std::exchange(waits, nullptr)) rows.push_back(RowOf(*digest));
     };
-    for (const int number : MailsNewestFirst(world(), From())) {
+    for (const int number : numbers) {
       const Mail& mail = world().News()[number];
       if (waits && mail.Date != waits->Date) close();
-      if (const Digest* digest = DigestAt(number)) waits = digest;
-      if (!gathered.contains(number) && !IsOnTop(number)) add(number);
+      if (const Digest* digest = gathered.Has(number) ? DigestAt(number) : nullptr) waits = digest;
+      if (!gathered.Has(number) && !IsOnTop(number)) add(number);
     }
     close();
     return rows;
@@ -133,9 +184,13 @@ class frmNews : public GameScreen {
 
   /// The digest that stands in the place of this mail; nullptr for none.
   const Digest* DigestAt(int number) const {
-    const auto found = std::ranges::find(digests_, number,
-                                         [](const Digest& digest) { return digest.Mails.front(); });
+    const auto found = const_cast<frmNews*>(this)->FindDigest(number);
     return found == digests_.end() ? nullptr : &*found;
+  }
+  std::vector<Digest>::iterator FindDigest(int number) {
+    const auto latest = [](const Digest& digest) { return digest.Mails.front(); };
+    const auto found = std::ranges::lower_bound(digests_, number, std::greater<>(), latest);
+    return found == digests_.end() || latest(*found) != number ? digests_.end() : found;
   }
   static ui::ListBox::Row RowOf(const Digest& digest) {
     const int number = digest.Mails.front();
@@ -164,12 +219,17 @@ class frmNews : public GameScreen {
   void ShowCount() {
     const int all = world().News().Count();
     lblfacts.Text = Counted(all, "mail") + ".";
-    const int shown = static_cast<int>(MailsNewestFirst(world(), From()).size());
+    const int shown =
+        From().empty() ? all : static_cast<int>(MailsNewestFirst(world(), From()).size());
     if (shown < all) lblfacts.Text = std::to_string(shown) + " of " + lblfacts.Text.Get();
-    EnableUnless(cmdread, unread_.empty() ? "Every mail has been read." : "");
+    EnableUnless(cmdread, unread_.Count() == 0 ? "Every mail has been read." : "");
     cmdread.Text = SeveralChosen() ? CaptionFor("Mark Read", lstnews.Keys()) : "Mark All Read";
     cmddelete.Text = CaptionFor("Delete", lstnews.Keys());
-    cmdread.Badge = count_ == 0 ? std::string() : std::to_string(count_);
+    const int waiting =
+        Gathers()
+            ? own_.Count() + static_cast<int>(std::ranges::count_if(digests_, &Digest::IsUnread))
+            : unread_.Count();
+    cmdread.Badge = waiting == 0 ? std::string() : std::to_string(waiting);
     EnableUnless(cmdempty, HasNews(world()) ? "" : "There is no mail to delete.");
   }
 
@@ -179,7 +239,7 @@ class frmNews : public GameScreen {
     const Digest* digest = DigestAt(lstnews.Key());
     ShowMail(lstnews.Key());
     ShowDigest(digest);
-    MarkRead(world(), shown) ? ShowMails() : ShowCount();
+    MarkRead(world(), shown) ? ShowRead(shown) : ShowCount();
     EnableUnless(cmddelete, !shown.empty() ? "" : "Pick a mail first.");
   }
 
@@ -242,7 +302,7 @@ class frmNews : public GameScreen {
 
   void cmbfrom_Click() {
     lstnews.Select(0);
-    ShowMails();
+    ShowMails(UnreadOf(world()));
     lstnews.Select(1);
     lstnews_Click();
   }
@@ -254,18 +314,14 @@ class frmNews : public GameScreen {
     for (const int number : ChosenMails()) Erase(number);
     lstnews.Select(0);
     ShowSenders();
-    ShowMails();
+    ShowMails(UnreadOf(world()));
     lstnews.Select(std::min(place, lstnews.Count()));
     lstnews_Click();
   }
 
-  /// Those behind it move up by one.
   void Erase(int number) {
     world().News().Erase(number);
-    std::set<int> top;
-    for (const int each : top_)
-      if (each != number) top.insert(each - (each > number ? 1 : 0));
-    top_ = std::move(top);
+    top_.Erase(number);
   }
 
   void cmdempty_Click() {
@@ -291,15 +347,14 @@ class frmNews : public GameScreen {
        }},
       {{"Mail", K::Text, 5}, [](const Mail& mail) { return mail.Body.View(); }},
       {{"", K::Tag, 1, "Whether it has been read."}, [this](const Mail& mail) {
-         return unread_.contains(world().News().NumberOf(mail)) ? ui::Cell("unread", ToneOf(mail))
-                                                                : ui::Cell("");
+         return unread_.Has(world().News().NumberOf(mail)) ? ui::Cell("unread", ToneOf(mail))
+                                                           : ui::Cell("");
        }}};
   int first_;
   std::vector<Digest> digests_;
-  std::set<int> unread_, own_;  // own_: those of them that are the player's own
-  std::set<int> top_;           // the player's own that were unread when the page came up
-  int firstOwn_ = 0;            // the first row that is no digest
-  int count_ = 0;               // of what is unread, as it is shown
+  MailSet unread_, own_;  // own_: those of them that are the player's own
+  MailSet top_;           // the player's own that were unread when the page came up
+  int firstOwn_ = 0;      // the first row that is no digest
   ui::ListBox lstnews{*this, "lstnews", HeadingsOf(mails_), &frmNews::lstnews_Click};
   ui::Label lblfrom{*this, "lblfrom"};
   ui::Label lbldate{*this, "lbldate"};

@@ -287,7 +287,7 @@ void FeudsAreEmptyOrComplete(Inspection& inspection) {
 
 void MailsAreDated(Inspection& inspection) {
   Records<Mail>& news = inspection.Of().News();
-  for (Mail& mail : news)
+  for (Mail& mail : news.Unwatched())
     if (!IsMailDate(mail.Date))
       inspection.Note(news, mail, "Date", "is not a date like " + ShortDate(kNoTitleDate));
 }

@@ -126,7 +126,7 @@ template <class Look>
 void ForEachField(Inspection& inspection, Look look) {
   ForEachFile(inspection, [&]<class T>(Records<T>& records) {
     const RecordLayout& layout = LayoutOf<T>();
-    for (T& record : records) {
+    for (T& record : records.Unwatched()) {
       const Place place{layout, records.NumberOf(record), reinterpret_cast<std::byte*>(&record)};
       for (const Field& field : layout.Fields)
         for (int index = 0; index < field.Count; ++index) look(place, field, index);
@@ -139,7 +139,7 @@ void InspectUids(Inspection& inspection, Records<T>& records) {
   std::unordered_map<int, int> firstWith;
   FreeUids free(records);
   Removal<T> removal(records);
-  for (T& record : records) {
+  for (T& record : records.Unwatched()) {
     const int number = records.NumberOf(record);
     const int uid = record.Uid;
     const auto renumber = [&] {
@@ -179,7 +179,7 @@ void InspectNames(Inspection& inspection, Records<T>& records, const Field& fiel
     const auto* bytes = reinterpret_cast<const std::byte*>(&record);
     firstWith.try_emplace(std::string(FieldText(field, bytes)), records.NumberOf(record));
   }
-  for (T& record : records) {
+  for (T& record : records.Unwatched()) {
     const Place place{LayoutOf<T>(), records.NumberOf(record),
                       reinterpret_cast<std::byte*>(&record)};
     const std::string name(FieldText(field, place.Record));
@@ -325,7 +325,7 @@ void ReferencesLeadSomewhere(Inspection& inspection) {
     const RecordLayout& layout = LayoutOf<T>();
     for (const Field& field : layout.Fields) {
       if (field.To == Refers::Nothing || MayBeStale(layout)) continue;
-      for (T& record : records) {
+      for (T& record : records.Unwatched()) {
         const Place place{layout, records.NumberOf(record), reinterpret_cast<std::byte*>(&record)};
         for (int index = 0; index < field.Count; ++index)
           InspectReference(inspection, targets, place, field, index);

@@ -11,7 +11,7 @@ namespace grapplemont {
 template <class T, class Wrong>
 void RemoveWrong(Inspection& inspection, Records<T>& records, std::string_view field, Wrong wrong) {
   Removal<T> removal(records);
-  for (T& record : records)
+  for (T& record : records.Unwatched())
     if (std::string what = wrong(record); !what.empty())
       inspection.Note(records, record, field, std::move(what), removal.Of(record));
   removal.Apply();

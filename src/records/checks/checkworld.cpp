@@ -156,6 +156,8 @@ void Inspection::Take(Fault fault, const Remedy& remedy) {
   if (wanted_ && !wanted_(fault)) return;
   if (purpose_ != Purpose::Check) {
     if (!remedy.Do) return;
+    for (Table* table : world_.Tables())
+      if (table->File() == fault.File) table->ExpectAnyChange();
     remedy.Do();
     fault.What += "; " + remedy.How;
   }

@@ -53,6 +53,7 @@ struct Annal {
   Word Number, Against, Days;
 };
 GM_RECORD(Annal, 124);
+GM_GROWS(Annal);
 
 /// "Signed"; empty for an unknown code.
 std::string_view AnnalText(int kind);

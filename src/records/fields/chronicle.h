@@ -29,6 +29,7 @@ struct HeldMatch {
   Text<54> Won, Lost;  // the winners and the others; of a draw the first side and the others
 };
 GM_RECORD(HeldMatch, 220);
+GM_GROWS(HeldMatch);
 
 /// What one worker's matches for one promotion add up to: a record of tallies.dat. It outlives the
 /// matches themselves.
@@ -44,6 +45,7 @@ struct MatchTally {
   Date Last;
 };
 GM_RECORD(MatchTally, 49);
+GM_GROWS(MatchTally);
 
 /// TitleReign.End.
 enum ReignEnd { kReignLasts = 0, kReignLost, kReignVacated, kReignDissolved };
@@ -63,6 +65,7 @@ struct TitleReign {
   Word End;
 };
 GM_RECORD(TitleReign, 77);
+GM_GROWS(TitleReign);
 
 /// ReportPart.Kind.
 enum ReportKind {
@@ -91,6 +94,7 @@ struct ReportPart {
   Text<200> Words;
 };
 GM_RECORD(ReportPart, 220);
+GM_GROWS(ReportPart);
 
 /// When a line of the reports was last said, and how often: a record of said.dat.
 struct SaidLine {
@@ -99,6 +103,7 @@ struct SaidLine {
   Natural Times;
 };
 GM_RECORD(SaidLine, 14);
+GM_GROWS(SaidLine);
 
 /// How the player has the shows told: the one record of telling.dat. A slot without it has never
 /// been asked: a Segment's words stand there at once.
@@ -135,6 +140,7 @@ struct YearAward {
   Text<100> For;    // what it was given for
 };
 GM_RECORD(YearAward, 176);
+GM_GROWS(YearAward);
 
 /// How a worker stood when the last year ended, or the game began: a record of yearend.dat.
 struct YearEnd {
@@ -142,6 +148,7 @@ struct YearEnd {
   Percent Over;
 };
 GM_RECORD(YearEnd, 4);
+GM_GROWS(YearEnd);
 
 /// How a worker stood on the first of each month: a record of months.dat. A month takes the place
 /// of the same one a year before.
@@ -159,6 +166,7 @@ struct WorkerMonths {
   Months Condition = Unkept();
 };
 GM_RECORD(WorkerMonths, 74);
+GM_GROWS(WorkerMonths);
 
 /// MoodChange.Why.
 enum MoodReason {
@@ -189,6 +197,7 @@ struct MoodChange {
   Percent After;
 };
 GM_RECORD(MoodChange, 16);
+GM_GROWS(MoodChange);
 
 /// "won", "a match below their standing"; empty for an unknown code.
 std::string_view MoodReasonText(int why);
@@ -229,6 +238,7 @@ struct ShowNote {
   Text<80> Why;
 };
 GM_RECORD(ShowNote, 158);
+GM_GROWS(ShowNote);
 
 /// "Match of the Year"; empty for an unknown code.
 std::string_view AwardName(int kind);
@@ -255,6 +265,7 @@ struct HistoryEntry {
   Percent Image;  // afterwards
 };
 GM_RECORD(HistoryEntry, 78);
+GM_GROWS(HistoryEntry);
 
 /// Deed.Kind.
 enum DeedKind {
@@ -309,5 +320,6 @@ struct Deed {
   RangedLong<0, kMostDollars> People;  // its crowd
 };
 GM_RECORD(Deed, 106);
+GM_GROWS(Deed);
 
 }  // namespace grapplemont

@@ -168,6 +168,14 @@ constexpr Field MakeNumbered(std::string_view name, std::size_t offset) {
 
 }  // namespace detail
 
+/// Files that mostly grow at their end and become long: whoever changes a record of theirs says so
+/// (Records::Change), and nobody has to look for changes in all of it. GM_GROWS marks them.
+template <class Record>
+inline constexpr bool kGrows = false;
+#define GM_GROWS(Record) \
+  template <>            \
+  inline constexpr bool kGrows<Record> = true
+
 // A record of that many bytes in its file; docs/file-formats.md has where each field stands.
 #define GM_RECORD(Record, Bytes)                                    \
   static_assert(sizeof(Record) == (Bytes) && alignof(Record) == 1); \

@@ -49,6 +49,7 @@ struct Career {
   Word Elected;  // the year they entered the hall of fame; 0 for who has not
 };
 GM_RECORD(Career, 103);
+GM_GROWS(Career);
 
 /// What a career's time with one promotion adds up to: a record of tenures.dat. Somebody who comes
 /// back goes on with the same record.
@@ -73,6 +74,7 @@ struct Tenure {
   Natural Wage;  // the highest, thousands of dollars a month
 };
 GM_RECORD(Tenure, 58);
+GM_GROWS(Tenure);
 
 /// Two who wrestled as a team: a record of pairs.dat.
 struct Partnership {
@@ -91,6 +93,7 @@ struct Partnership {
   Natural Defences;
 };
 GM_RECORD(Partnership, 71);
+GM_GROWS(Partnership);
 
 /// Feat.Kind.
 enum FeatKind {
@@ -117,6 +120,7 @@ struct Feat {
   Text<40> What;  // the show or the Title
 };
 GM_RECORD(Feat, 174);
+GM_GROWS(Feat);
 
 /// YearLine.Kind.
 enum YearLineKind {
@@ -151,6 +155,7 @@ struct YearLine {
   Text<60> What;
 };
 GM_RECORD(YearLine, 184);
+GM_GROWS(YearLine);
 
 inline constexpr int kHallMerits = 8;
 
@@ -166,6 +171,7 @@ struct HallMember {
   std::array<Natural, kHallMerits> Points;  // for it
 };
 GM_RECORD(HallMember, 79);
+GM_GROWS(HallMember);
 
 /// "Match", "Gate".
 std::string_view FeatName(int kind);

@@ -84,6 +84,7 @@ struct Mail {
   Text<250> Body;
 };
 GM_RECORD(Mail, 290);
+GM_GROWS(Mail);
 
 /// A mail of news.dat that the player has read: a record of mailread.dat. Where that file is
 /// missing, all but the mails of today and yesterday count as read.
@@ -91,6 +92,7 @@ struct ReadMail {
   Long Key;  // made from sender, date and text
 };
 GM_RECORD(ReadMail, 4);
+GM_GROWS(ReadMail);
 
 /// What happened backstage today: one of the ten records of incident.tmp.
 struct Incident {

@@ -29,6 +29,7 @@ struct CardMatch {
   Percent Rating;
 };
 GM_RECORD(CardMatch, 60);
+GM_GROWS(CardMatch);
 
 /// Grudge.Why.
 enum GrudgeReason { kGrudgeCard = 1, kGrudgeTitle, kGrudgeSplit, kGrudgeStable };
@@ -53,5 +54,6 @@ struct RingName {
   Text<25> Name;
 };
 GM_RECORD(RingName, 35);
+GM_GROWS(RingName);
 
 }  // namespace grapplemont

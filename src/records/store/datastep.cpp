@@ -91,13 +91,17 @@ bool IsAsBefore(Disk& disk, const std::string& folder, const StepFile& file, boo
 
 }  // namespace
 
-DataStep StepOf(const std::vector<FileChange>& changes) {
+DataStep StepBetween(const std::map<std::string, Bytes>& before,
+                     const std::map<std::string, Bytes>& after) {
   DataStep step;
-  for (const FileChange& change : changes) {
-    StepFile file{change.Name, {}, {}};
-    if (change.ExistsBefore) file.Before = Checksum(change.Before);
-    if (change.ExistsAfter) file.After.emplace(change.After.begin(), change.After.end());
-    step.push_back(std::move(file));
+  for (const auto& [name, contents] : before)
+    if (!after.contains(name)) step.push_back({name, Checksum(contents), std::nullopt});
+  for (const auto& [name, contents] : after) {
+    const auto old = before.find(name);
+    if (old == before.end())
+      step.push_back({name, std::nullopt, contents});
+    else if (old->second != contents)
+      step.push_back({name, Checksum(old->second), contents});
   }
   return step;
 }

@@ -23,7 +23,9 @@ struct StepFile {
 };
 using DataStep = std::vector<StepFile>;
 
-DataStep StepOf(const std::vector<FileChange>& changes);
+/// What turns one set of files into another; before it, the checksums of the first.
+DataStep StepBetween(const std::map<std::string, Bytes>& before,
+                     const std::map<std::string, Bytes>& after);
 
 /// Whether every file still is what the step was made from.
 bool StepFits(Disk& disk, const std::string& folder, const DataStep& step);

@@ -112,7 +112,7 @@ class MachineDisk : public Disk {
   explicit MachineDisk(Syncs syncs) : syncs_(syncs) {}
   ~MachineDisk() override {
     for (const auto& [path, handle] : locks_) ::close(handle);
-    for (const auto& [handle, path] : paths_) ::close(handle);
+    for (const auto& [handle, file] : files_) ::close(handle);
   }
   MachineDisk(const MachineDisk&) = delete;
   MachineDisk& operator=(const MachineDisk&) = delete;
@@ -159,12 +159,12 @@ class MachineDisk : public Disk {
       ::close(handle);
       throw DiskError(path, "open", "it is not a plain file");
     }
-    paths_[handle] = path;
+    files_[handle] = {path, about.st_dev, about.st_ino};
     return handle;
   }
 
   void Close(Handle file) override {
-    if (paths_.erase(file) > 0) ::close(file);
+    if (files_.erase(file) > 0) ::close(file);
   }
 
   std::int64_t Size(Handle file) override {
@@ -174,14 +174,14 @@ class MachineDisk : public Disk {
   }
 
   bool IsAt(Handle file, const std::string& path) override {
-    struct stat opened {
-    }, there{};
-    if (::fstat(file, &opened) != 0) Fail(PathOf(file), "look at");
+    const auto opened = files_.find(file);
+    if (opened == files_.end()) return false;
+    struct stat there {};
     if (::lstat(path.c_str(), &there) != 0) {
       if (errno == ENOENT || errno == ENOTDIR) return false;
       Fail(path, "look at");
     }
-    return opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
+    return opened->second.Device == there.st_dev && opened->second.Number == there.st_ino;
   }
 
   void ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) override {
@@ -282,12 +282,17 @@ class MachineDisk : public Disk {
 
  private:
   std::string PathOf(Handle file) const {
-    const auto path = paths_.find(file);
-    return path == paths_.end() ? "a closed file" : path->second;
+    const auto found = files_.find(file);
+    return found == files_.end() ? "a closed file" : found->second.Path;
   }
 
   Syncs syncs_;
-  std::map<Handle, std::string> paths_;
+  struct OpenFile {
+    std::string Path;
+    dev_t Device;
+    ino_t Number;
+  };
+  std::map<Handle, OpenFile> files_;
   std::map<std::string, Handle> locks_;
 };
 

@@ -1,9 +1,6 @@
 #include "records/store/journal.h"
 
 #include <algorithm>
-#include <cstring>
-#include <iterator>
-#include <set>
 
 #include "records/store/packing.h"
 
@@ -14,18 +11,17 @@ namespace {
 constexpr std::uint64_t kRecordMagic = 0x4452434552464D47;  // "GMFRECRD"
 constexpr std::uint64_t kMarkerMagic = 0x4B52414D52464D47;  // "GMFRMARK"
 constexpr std::uint64_t kSealMagic = 0x4C41455352464D47;    // "GMFRSEAL"
-constexpr std::uint32_t kFormat = 1;
 
 // All three begin with the magic, the format and the checksum of all that follows it.
 constexpr std::size_t kChecksumAt = 12, kChecked = 20;
 constexpr std::size_t kMarkerSize = 52, kRecordHeader = 56;
 constexpr std::size_t kLengthAt = 36;
 
-Packer Begun(std::uint64_t magic, std::size_t expected) {
+Packer Begun(std::uint64_t magic, DigestForm form, std::size_t expected) {
   Packer out;
   out.Reserve(expected);
   out.Put(magic);
-  out.Put(kFormat);
+  out.Put(static_cast<std::uint32_t>(form));
   out.Put(std::uint64_t{0});  // the checksum
   return out;
 }
@@ -46,10 +42,19 @@ Bytes Sealed(Packer out) {
   return std::move(out).Packed();
 }
 
-/// Whether what `in` reads begins as it must: its magic, its format, the checksum of all of it.
-bool Opens(Unpacker& in, std::uint64_t magic, ByteSpan whole) {
-  return in.Get<std::uint64_t>() == magic && in.Get<std::uint32_t>() == kFormat &&
-         in.Get<std::uint64_t>() == Checksum(whole.subspan(kChecked));
+/// Reads the magic and the format; nothing where either is another.
+std::optional<DigestForm> FormOf(Unpacker& in, std::uint64_t magic) {
+  if (in.Get<std::uint64_t>() != magic) return std::nullopt;
+  const auto form = static_cast<DigestForm>(in.Get<std::uint32_t>());
+  const bool isKnown = form == DigestForm::Whole || form == DigestForm::Blocks;
+  return isKnown ? std::optional(form) : std::nullopt;
+}
+
+/// The same, where the checksum of all that follows holds too.
+std::optional<DigestForm> Opened(Unpacker& in, std::uint64_t magic, ByteSpan whole) {
+  const auto form = FormOf(in, magic);
+  if (!form || in.Get<std::uint64_t>() != Checksum(whole.subspan(kChecked))) return std::nullopt;
+  return form;
 }
 
 FilePatch UnpackFile(Unpacker& in) {
@@ -94,7 +99,7 @@ const KnownFile* FindFile(const std::vector<KnownFile>& known, std::string_view 
 }
 
 Bytes PackMarker(const JournalMarker& marker) {
-  Packer out = Begun(kMarkerMagic, kJournalBlock);
+  Packer out = Begun(kMarkerMagic, marker.Form, kJournalBlock);
   out.Put(marker.World);
   out.Put(marker.Sequence);
   out.Put(marker.Digest);
@@ -106,8 +111,10 @@ std::optional<JournalMarker> UnpackMarker(ByteSpan block) {
   if (std::ssize(block) < kJournalBlock) return std::nullopt;
   const ByteSpan whole = block.first(kJournalBlock);
   Unpacker in(whole.first(kMarkerSize));
-  if (!Opens(in, kMarkerMagic, whole)) return std::nullopt;
+  const auto form = Opened(in, kMarkerMagic, whole);
+  if (!form) return std::nullopt;
   JournalMarker marker;
+  marker.Form = *form;
   marker.World = in.Get<std::uint64_t>();
   marker.Sequence = in.Get<std::uint64_t>();
   marker.Digest = in.Get<std::uint64_t>();
@@ -115,22 +122,24 @@ std::optional<JournalMarker> UnpackMarker(ByteSpan block) {
   return marker;
 }
 
-Bytes PackSeal(const WorldSeal& seal) {
-  Packer out = Begun(kSealMagic, kJournalBlock);
-  out.Put(seal.World);
-  out.Put(seal.Sequence);
-  out.Put(static_cast<std::uint32_t>(seal.Files.OfFiles().size()));
-  for (const auto& [name, digest] : seal.Files.OfFiles()) {
+Bytes PackSeal(std::uint64_t world, std::uint64_t sequence, const WorldDigest& files) {
+  Packer out = Begun(kSealMagic, files.Form(), kJournalBlock);
+  out.Put(world);
+  out.Put(sequence);
+  out.Put(static_cast<std::uint32_t>(files.Files().size()));
+  for (const auto& [name, digest] : files.Files()) {
     PutName(out, name);
-    out.Put(digest);
+    out.Put(digest.Value());
   }
   return Sealed(std::move(out));
 }
 
 std::optional<WorldSeal> UnpackSeal(ByteSpan bytes) {
   Unpacker in(bytes);
-  if (bytes.size() < kChecked || !Opens(in, kSealMagic, bytes)) return std::nullopt;
-  WorldSeal seal;
+  if (bytes.size() < kChecked) return std::nullopt;
+  const auto form = Opened(in, kSealMagic, bytes);
+  if (!form) return std::nullopt;
+  WorldSeal seal{0, 0, WorldDigest(*form)};
   seal.World = in.Get<std::uint64_t>();
   seal.Sequence = in.Get<std::uint64_t>();
   for (auto files = in.Get<std::uint32_t>(); files > 0 && in.Whole(); --files) {
@@ -142,7 +151,7 @@ std::optional<WorldSeal> UnpackSeal(ByteSpan bytes) {
 }
 
 Bytes PackRecord(const JournalRecord& record) {
-  Packer out = Begun(kRecordMagic, ExpectedSize(record));
+  Packer out = Begun(kRecordMagic, record.Form, ExpectedSize(record));
   out.Put(record.Sequence);
   out.Put(record.World);
   out.Put(std::uint64_t{0});  // the length
@@ -169,10 +178,11 @@ std::optional<JournalEntry> UnpackRecord(ByteSpan journal, std::int64_t offset,
   if (offset < 0 || offset + kJournalBlock > std::ssize(journal)) return std::nullopt;
   const ByteSpan rest = journal.subspan(static_cast<std::size_t>(offset));
   Unpacker header(rest);
-  if (header.Get<std::uint64_t>() != kRecordMagic || header.Get<std::uint32_t>() != kFormat)
-    return std::nullopt;
+  const auto form = FormOf(header, kRecordMagic);
+  if (!form) return std::nullopt;
   const auto checksum = header.Get<std::uint64_t>();
   JournalEntry entry;
+  entry.Record.Form = *form;
   entry.Record.Sequence = header.Get<std::uint64_t>();
   entry.Record.World = header.Get<std::uint64_t>();
   entry.Size = header.Get<std::int64_t>();
@@ -190,55 +200,6 @@ std::optional<JournalEntry> UnpackRecord(ByteSpan journal, std::int64_t offset,
   }
   if (!body.Whole()) return std::nullopt;
   return entry;
-}
-
-std::vector<JournalRange> ChangedRanges(ByteSpan before, ByteSpan after,
-                                        const JournalQuirks& quirks) {
-  constexpr auto kWhole = static_cast<std::size_t>(kJournalBlock);
-  const std::size_t step = quirks.BareRanges ? 1 : kWhole;
-  const auto part = [&](ByteSpan bytes, std::size_t at) {
-    return at >= bytes.size() ? ByteSpan() : bytes.subspan(at, std::min(step, bytes.size() - at));
-  };
-  std::vector<JournalRange> ranges;
-  for (std::size_t at = 0; at < after.size(); at += step) {
-    // A last block that was longer or shorter before is a change too: the system writes it.
-    const ByteSpan now = part(after, at), then = part(before, at);
-    if (now.size() == then.size() && std::memcmp(now.data(), then.data(), now.size()) == 0)
-      continue;
-    if (!ranges.empty() && ranges.back().Offset + std::ssize(ranges.back().Contents) ==
-                               static_cast<std::int64_t>(at)) {
-      ByteSpan& joined = ranges.back().Contents;
-      joined = after.subspan(at - joined.size(), joined.size() + now.size());
-    } else {
-      ranges.push_back({static_cast<std::int64_t>(at), now});
-    }
-  }
-  return ranges;
-}
-
-void WorldDigest::Set(const std::string& name, ByteSpan contents) {
-  files_[name] = Checksum(contents);
-}
-
-std::uint64_t WorldDigest::Value() const {
-  std::string all;
-  for (const auto& [name, digest] : files_) all += name + ":" + std::to_string(digest) + "\n";
-  return Checksum(std::as_bytes(std::span(all)));
-}
-
-std::vector<std::string> WorldDigest::Differing(const WorldDigest& other) const {
-  std::vector<std::pair<std::string, std::uint64_t>> differing;
-  std::set_symmetric_difference(files_.begin(), files_.end(), other.files_.begin(),
-                                other.files_.end(), std::back_inserter(differing));
-  std::set<std::string> names;
-  for (const auto& [name, digest] : differing) names.insert(name);
-  return {names.begin(), names.end()};
-}
-
-WorldDigest DigestOf(const std::map<std::string, Bytes>& files) {
-  WorldDigest digest;
-  for (const auto& [name, contents] : files) digest.Set(name, contents);
-  return digest;
 }
 
 }  // namespace grapplemont

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "records/store/disk.h"
+#include "records/store/changes.h"
+#include "records/store/digest.h"
 
 // The form of a journal: two blocks for its marker, then one record a commit, each padded to whole
 // blocks, one behind the other; and of the seal beside it. All numbers are little-endian.
@@ -14,7 +14,6 @@
 
 namespace grapplemont {
 
-inline constexpr std::int64_t kJournalBlock = 4096;
 /// Where the first record stands.
 inline constexpr std::int64_t kJournalStart = 2 * kJournalBlock;
 
@@ -25,7 +24,6 @@ constexpr std::int64_t RoundedToBlocks(std::int64_t size) {
 /// Steps of the protocol left out on purpose, by tests that must notice it. All false is right.
 struct JournalQuirks {
   bool EmptyBeforeFiles = false;  // the journal is emptied before the record files are synced
-  bool BareRanges = false;        // ranges are not rounded out to blocks
   bool NoChecksum = false;
   bool NoSequence = false;        // any record of the world is taken for the next one
   bool RetrySync = false;         // a failed sync is tried once more on the same handle
@@ -34,25 +32,6 @@ struct JournalQuirks {
   bool TrustTheChain = false;     // a chain without a gap is applied whatever the files hold
 };
 
-/// One number that stands for all files of a world: two worlds of the same digest are the same, as
-/// far as 64 bits can tell.
-class WorldDigest {
- public:
-  void Set(const std::string& name, ByteSpan contents);
-  void Set(std::string name, std::uint64_t digest) { files_[std::move(name)] = digest; }
-  void Remove(const std::string& name) { files_.erase(name); }
-  std::uint64_t Value() const;
-  /// One number for each file, by its name.
-  const std::map<std::string, std::uint64_t>& OfFiles() const { return files_; }
-  /// The names of the files that are not the same in both.
-  std::vector<std::string> Differing(const WorldDigest& other) const;
-
- private:
-  std::map<std::string, std::uint64_t> files_;
-};
-
-WorldDigest DigestOf(const std::map<std::string, Bytes>& files);
-
 /// Which world the journal belongs to, and the sequence up to which the record files themselves
 /// hold everything: the chain of records that counts begins with the next one.
 struct JournalMarker {
@@ -60,6 +39,7 @@ struct JournalMarker {
   std::uint64_t Sequence = 0;
   std::uint64_t Digest = 0;   // of the world at that sequence (WorldDigest)
   std::int64_t Reserved = 0;  // how long the journal is at least; 0 where nobody wrote it down
+  DigestForm Form = DigestForm::Blocks;
 };
 
 /// What the record files are being brought to: written before each commit's changes reach them.
@@ -68,12 +48,6 @@ struct WorldSeal {
   std::uint64_t World = 0;
   std::uint64_t Sequence = 0;
   WorldDigest Files;
-};
-
-/// A stretch of a file's new contents; begins on a block and ends on one, or with the file.
-struct JournalRange {
-  std::int64_t Offset = 0;
-  ByteSpan Contents;
 };
 
 /// What a commit does to one file.
@@ -89,6 +63,7 @@ struct JournalRecord {
   std::uint64_t Sequence = 0;
   std::uint64_t Digest = 0;  // of the world after this commit
   std::vector<FilePatch> Files;
+  DigestForm Form = DigestForm::Blocks;
 };
 
 /// A file that a slot may hold, and how long it may be.
@@ -110,7 +85,7 @@ Bytes PackMarker(const JournalMarker& marker);
 std::optional<JournalMarker> UnpackMarker(ByteSpan block);
 
 /// Whole blocks.
-Bytes PackSeal(const WorldSeal& seal);
+Bytes PackSeal(std::uint64_t world, std::uint64_t sequence, const WorldDigest& files);
 /// Nothing where the bytes are not a whole seal.
 std::optional<WorldSeal> UnpackSeal(ByteSpan bytes);
 
@@ -127,9 +102,5 @@ struct JournalEntry {
 std::optional<JournalEntry> UnpackRecord(ByteSpan journal, std::int64_t offset,
                                          const std::vector<KnownFile>& known,
                                          const JournalQuirks& quirks = {});
-
-/// The blocks of `after` that differ from `before`, joined where they touch.
-std::vector<JournalRange> ChangedRanges(ByteSpan before, ByteSpan after,
-                                        const JournalQuirks& quirks = {});
 
 }  // namespace grapplemont

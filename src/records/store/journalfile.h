@@ -74,6 +74,7 @@ struct JournalChain {
   /// The sequence and the digest of the world that marker and records lead to.
   std::uint64_t Last() const { return Records.empty() ? Marker.Sequence : Records.back().Sequence; }
   std::uint64_t Digest() const { return Records.empty() ? Marker.Digest : Records.back().Digest; }
+  DigestForm Form() const { return Records.empty() ? Marker.Form : Records.back().Form; }
   /// Whether Digest() says anything.
   bool Vouches() const { return MarkerRead || !Records.empty(); }
 };

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <xxhash.h>
-
+#include <array>
 #include <concepts>
 #include <cstdint>
 #include <span>
@@ -15,16 +14,17 @@
 
 namespace grapplemont {
 
-inline std::uint64_t Checksum(ByteSpan bytes) {
-  return XXH3_64bits(bytes.data(), bytes.size());
-}
+/// XXH3, 64 bits.
+std::uint64_t Checksum(ByteSpan bytes);
 
 class Packer {
  public:
   void Reserve(std::size_t expected) { bytes_.reserve(expected); }
   template <std::integral T>
   void Put(T value) {
-    for (std::size_t i = 0; i < sizeof(T); ++i) bytes_.push_back(ByteOf(value, i));
+    std::array<std::byte, sizeof(T)> bytes;
+    for (std::size_t i = 0; i < sizeof(T); ++i) bytes[i] = ByteOf(value, i);
+    bytes_.insert(bytes_.end(), bytes.begin(), bytes.end());
   }
   void Put(ByteSpan bytes) { bytes_.insert(bytes_.end(), bytes.begin(), bytes.end()); }
   void Put(std::string_view text) { Put(std::as_bytes(std::span(text))); }

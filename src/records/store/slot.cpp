@@ -53,7 +53,8 @@ struct Slot::Insides {
   SlotFiles Records;
   std::map<std::string, Bytes> Files;
   std::vector<std::string> Remarks;
-  WorldDigest Digest;
+  WorldDigest Digest;          // of the files; ahead of them while a commit is made
+  std::uint64_t Promised = 0;  // its value at Sequence
   std::uint64_t World = 0;
   std::uint64_t Sequence = 0;  // the last number spent; every commit up to it is on disk for good
   bool Committed = false;
@@ -137,6 +138,7 @@ void Slot::Insides::LookOver() {
 void Slot::Insides::GoOn(SlotFinding finding, const StoredSlot& stored) {
   Files = std::move(finding.Files);
   Digest = std::move(finding.Digest);
+  Promised = Digest.Value();
   Sequence = finding.Chain.Last();
   WriteSeal();
   Apply(finding.Chain.Records);
@@ -144,7 +146,7 @@ void Slot::Insides::GoOn(SlotFinding finding, const StoredSlot& stored) {
     if (const auto file = Files.find(name); file != Files.end())
       Records.Apply({name, true, std::ssize(file->second), {}});
   SyncAll();
-  Journal.Empty({World, Sequence, Digest.Value()});
+  Journal.Empty({World, Sequence, Promised});
 }
 
 void Slot::Insides::SyncAll() {
@@ -155,7 +157,7 @@ void Slot::Insides::SyncAll() {
 
 /// Comes before each change that reaches the files: see WorldSeal.
 void Slot::Insides::WriteSeal() {
-  const Bytes seal = PackSeal({World, Sequence, Digest});
+  const Bytes seal = PackSeal(World, Sequence, Digest);
   Records.Apply({kSealName, true, std::ssize(seal), {{0, seal}}});
 }
 
@@ -215,7 +217,7 @@ void Slot::Insides::Recover() {
   Apply(chain.Records);
   Records.Sync();
   const std::uint64_t spent = std::max(Sequence + 1, chain.Last());
-  Journal.Empty({World, spent, Digest.Value()});
+  Journal.Empty({World, spent, Promised});
   Sequence = spent;
   Broken = false;
 }
@@ -255,7 +257,7 @@ void Slot::Insides::MakeRoom(const std::vector<FileChange>& changes, ByteSpan re
       if (!change.ExistsAfter) continue;
       if (!change.ExistsBefore)
         Records.ReserveNew(change.Name, std::ssize(change.After));
-      else if (change.After.size() > change.Before.size())
+      else if (std::ssize(change.After) > change.LengthBefore)
         Records.Reserve(change.Name, std::ssize(change.After));
     }
   } catch (const DiskError&) {
@@ -269,7 +271,7 @@ void Slot::Insides::Checkpoint() {
   if (Journal.IsEmpty()) return;
   RequireInPlace();
   try {
-    const JournalMarker marker{World, Sequence, Digest.Value()};
+    const JournalMarker marker{World, Sequence, Promised};
     if (Options.Quirks.EmptyBeforeFiles) Journal.Empty(marker);
     Records.Sync();
     if (!Options.Quirks.EmptyBeforeFiles) Journal.Empty(marker);
@@ -338,21 +340,16 @@ void Slot::Commit(const std::vector<FileChange>& changes) {
     in.RequireInPlace();
     if (in.Broken) in.Recover();
     JournalRecord record{in.World, in.Sequence + 1, 0, {}};
-    WorldDigest digest = in.Digest;
-    for (const FileChange& change : changes) {
-      record.Files.push_back(PatchOf(change, in.Options.Quirks));
-      if (change.ExistsAfter)
-        digest.Set(change.Name, change.After);
-      else
-        digest.Remove(change.Name);
-    }
-    record.Digest = digest.Value();
+    for (const FileChange& change : changes) record.Files.push_back(PatchOf(change));
+    DigestAhead ahead(in.Digest, changes);
+    record.Digest = in.Digest.Value();
     const Bytes packed = PackRecord(record);
     in.MakeRoom(changes, packed);
     written = true;
     in.Journal.Append(packed);
     in.Sequence = record.Sequence;
-    in.Digest = std::move(digest);
+    in.Promised = record.Digest;
+    ahead.Reach();
     in.Committed = true;
     in.WriteSeal();
     for (const FilePatch& patch : record.Files) in.Records.Apply(patch);

@@ -12,13 +12,6 @@
 
 namespace grapplemont {
 
-/// One file of a world before and after an event.
-struct FileChange {
-  std::string Name;
-  bool ExistsBefore = false, ExistsAfter = false;
-  ByteSpan Before, After;  // whole contents; empty where it does not exist
-};
-
 /// One file of a world that is made whole.
 struct NewFile {
   std::string Name;
@@ -83,10 +76,10 @@ class Slot {
   /// damage), a line each for the player.
   const std::vector<std::string>& Remarks() const;
 
-  /// Puts the changes on disk, all or nothing; they are there, for good, when it returns. `Before`
-  /// is what the last commit left. Throws DiskError, whose text says what became of the step;
-  /// Committed() then tells whether the changes stand all the same (what failed came after the
-  /// commit itself). The slot has recovered by then, or does so before the next commit. Throws
+  /// Puts the changes on disk, all or nothing; they are there, for good, when it returns. They are
+  /// changes of what the last commit left. Throws DiskError, whose text says what became of the
+  /// step; Committed() then tells whether the changes stand all the same (what failed came after
+  /// the commit itself). The slot has recovered by then, or does so before the next commit. Throws
   /// std::invalid_argument for a file that the slot does not know or that is too long. Refuses the
   /// step once the slot's files have been removed or replaced from outside.
   void Commit(const std::vector<FileChange>& changes);

@@ -1,5 +1,6 @@
 #include "records/store/slotfolder.h"
 
+#include <algorithm>
 #include <functional>
 
 #include "records/store/journal.h"
@@ -134,15 +135,15 @@ bool IsOfSlot(std::string_view name) {
 void ReplaceSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
                  std::uint64_t worldId, std::int64_t journalBytes, const JournalQuirks& quirks) {
   Replace(disk, folder, quirks, [&](const std::string& built) {
-    WorldSeal seal{worldId, 0, {}};
+    WorldDigest digest;
     for (const NewFile& file : files) {
       WriteNewFile(disk, built + "/" + file.Name, file.Contents);
-      seal.Files.Set(file.Name, file.Contents);
+      digest.Set(file.Name, file.Contents);
     }
     WriteNewFile(disk, built + "/" + kWorldIdName, PackWorldId(worldId));
-    WriteNewFile(disk, built + "/" + kSealName, PackSeal(seal));
-    WriteJournal(disk, built + "/" + kJournalName, {worldId, 0, seal.Files.Value()}, {},
-                 journalBytes, journalBytes);
+    WriteNewFile(disk, built + "/" + kSealName, PackSeal(worldId, 0, digest));
+    WriteJournal(disk, built + "/" + kJournalName, {worldId, 0, digest.Value()}, {}, journalBytes,
+                 journalBytes);
   });
 }
 
@@ -215,7 +216,8 @@ SlotFiles::Opened& SlotFiles::Open(const std::string& name) {
     reserved_.erase(reserved);
   } else {
     const Disk::Handle handle = disk_.Open(Path(name), true);  // throws before there is an entry
-    open_[name] = {handle, 0};
+    Opened& file = open_[name] = {handle, 0, 0};
+    file.Length = disk_.Size(handle);
   }
   return open_[name];
 }
@@ -237,7 +239,7 @@ void SlotFiles::Reserve(const std::string& name, std::int64_t size) {
 
 void SlotFiles::ReserveNew(const std::string& name, std::int64_t size) {
   const Disk::Handle handle = disk_.Open(Path(name + kRoomSuffix), true);
-  reserved_[name] = {handle, size};
+  reserved_[name] = {handle, size, 0};
   disk_.Allocate(handle, size);
 }
 
@@ -266,9 +268,13 @@ void SlotFiles::Apply(const FilePatch& patch) {
     if (disk_.Look(Path(patch.Name)) != Disk::Kind::Nothing) disk_.Remove(Path(patch.Name));
     return;
   }
-  const Disk::Handle file = Open(patch.Name).Handle;
-  for (const JournalRange& range : patch.Ranges) disk_.WriteAt(file, range.Offset, range.Contents);
-  if (disk_.Size(file) != patch.Length) disk_.Resize(file, patch.Length);
+  Opened& file = Open(patch.Name);
+  for (const JournalRange& range : patch.Ranges) {
+    disk_.WriteAt(file.Handle, range.Offset, range.Contents);
+    file.Length = std::max(file.Length, range.Offset + std::ssize(range.Contents));
+  }
+  if (file.Length != patch.Length) disk_.Resize(file.Handle, patch.Length);
+  file.Length = patch.Length;
 }
 
 void SlotFiles::Sync() {

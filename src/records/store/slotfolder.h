@@ -103,7 +103,7 @@ class SlotFiles {
  private:
   struct Opened {
     Disk::Handle Handle;
-    std::int64_t Room;
+    std::int64_t Room, Length;
   };
   Opened& Open(const std::string& name);
   void Close(const std::string& name);

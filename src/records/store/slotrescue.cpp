@@ -92,6 +92,20 @@ class Examination {
     applied_ = records;
   }
 
+  static bool IsWorld(const Files& files, std::uint64_t digest, DigestForm form) {
+    return DigestOf(files, form).Value() == digest;
+  }
+
+  /// The files that are found, in the form of the seal.
+  WorldDigest AsSealed() const { return DigestOf(out_.Files, stored_.Seal->Files.Form()); }
+
+  /// Whether what is found is what the chain leads to.
+  bool IsOfChain() const {
+    const JournalChain& chain = out_.Chain;
+    return chain.Form() == out_.Digest.Form() ? out_.Digest.Value() == chain.Digest()
+                                              : IsWorld(out_.Files, chain.Digest(), chain.Form());
+  }
+
   bool IsFleeting(const std::string& name) const {
     const KnownFile* file = FindFile(known_, name);
     return file && file->Fleeting;
@@ -138,9 +152,9 @@ class Examination {
         (seal && seal->Sequence > chain.Last() && seal->Files.Value() != chain.Digest()))
       return Note("Its files" + DayOf(stored_.Files) + " hold more than its journal" +
                   DayOf(out_.Files) + ".");
-    if (!chain.Vouches() || out_.Digest.Value() == chain.Digest()) return;
+    if (!chain.Vouches() || IsOfChain()) return;
     if (seal && seal->Sequence == chain.Last()) {
-      const auto strangers = out_.Digest.Differing(seal->Files);
+      const auto strangers = AsSealed().Differing(seal->Files);
       if (std::all_of(strangers.begin(), strangers.end(),
                       [this](auto& name) { return IsFleeting(name); }))
         return;
@@ -157,16 +171,15 @@ class Examination {
     out_.Newest = std::max(last, seal ? seal->Sequence : 0);
     const bool hasRecords = !chain.Records.empty() || !run.empty();
     std::optional<std::uint64_t> proven;
-    if (chain.Vouches() && out_.Digest.Value() == chain.Digest() && !isBehind_)
-      proven = chain.Last();
-    if (seal && seal->Files.Value() == DigestOf(stored_.Files).Value() &&
+    if (chain.Vouches() && IsOfChain() && !isBehind_) proven = chain.Last();
+    if (seal && IsWorld(stored_.Files, seal->Files.Value(), seal->Files.Form()) &&
         (!proven || seal->Sequence >= *proven)) {
       proven = seal->Sequence;
       Take(stored_.Files, {});
     }
     if (!run.empty() && (!proven || last > *proven)) {
       Files behind = Applied(stored_.Files, run);
-      if (DigestOf(behind).Value() == run.back().Digest) {
+      if (IsWorld(behind, run.back().Digest, run.back().Form)) {
         proven = last;
         Take(std::move(behind), run);
       }
@@ -184,7 +197,7 @@ class Examination {
   std::string NotAsSealed() const {
     std::string names;
     if (stored_.Seal && stored_.Seal->Sequence == out_.Newest)
-      for (const std::string& name : out_.Digest.Differing(stored_.Seal->Files))
+      for (const std::string& name : AsSealed().Differing(stored_.Seal->Files))
         if (!IsFleeting(name)) names += (names.empty() ? "" : ", ") + name;
     return names;
   }
@@ -268,26 +281,25 @@ SlotFinding ExamineSlot(Disk& disk, const std::string& folder,
   return found;
 }
 
-FilePatch PatchOf(const FileChange& change, const JournalQuirks& quirks) {
-  FilePatch patch{change.Name, change.ExistsAfter, 0, {}};
-  if (!change.ExistsAfter) return patch;
-  patch.Length = std::ssize(change.After);
-  patch.Ranges = ChangedRanges(change.Before, change.After, quirks);
-  return patch;
+FilePatch PatchOf(const FileChange& change) {
+  return {change.Name, change.ExistsAfter, std::ssize(change.After), change.Ranges};
 }
 
 std::vector<FilePatch> PatchesTo(const SlotFinding& finding, const StoredSlot& stored) {
   std::set<std::string> names;
   for (const auto* files : {&stored.Files, &finding.Files})
     for (const auto& [name, contents] : *files) names.insert(name);
+  const auto in = [](const std::map<std::string, Bytes>& files, const std::string& name) {
+    const auto found = files.find(name);
+    return found == files.end() ? nullptr : &found->second;
+  };
   std::vector<FilePatch> patches;
   for (const std::string& name : names) {
-    const auto before = stored.Files.find(name), after = finding.Files.find(name);
-    FileChange change{name, before != stored.Files.end(), after != finding.Files.end(), {}, {}};
-    if (change.ExistsBefore) change.Before = before->second;
-    if (change.ExistsAfter) change.After = after->second;
-    const bool same = change.ExistsBefore && change.ExistsAfter && before->second == after->second;
-    if (!same || stored.TooLong.contains(name)) patches.push_back(PatchOf(change));
+    const Bytes* after = in(finding.Files, name);
+    if (const auto change = ChangeBetween(name, in(stored.Files, name), after))
+      patches.push_back(PatchOf(*change));
+    else if (stored.TooLong.contains(name))
+      patches.push_back({name, true, std::ssize(*after), {}});
   }
   return patches;
 }

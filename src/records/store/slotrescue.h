@@ -54,7 +54,7 @@ std::int64_t LongestJournal(const std::vector<KnownFile>& known, std::int64_t us
 SlotFinding ExamineSlot(Disk& disk, const std::string& folder, const std::vector<KnownFile>& known);
 
 /// What a commit does to one file.
-FilePatch PatchOf(const FileChange& change, const JournalQuirks& quirks = {});
+FilePatch PatchOf(const FileChange& change);
 /// What makes the finding's world of the stored files, those that are too long made shorter.
 std::vector<FilePatch> PatchesTo(const SlotFinding& finding, const StoredSlot& stored);
 

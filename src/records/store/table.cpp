@@ -1,26 +1,41 @@
 #include "records/store/table.h"
 
+#include <algorithm>
+
 namespace grapplemont {
 
 TableFull::TableFull(const RecordLayout& layout)
     : std::runtime_error(std::string(layout.File) + " is full: it holds its most of " +
                          std::to_string(layout.Limit) + " records.") {}
 
-bool Table::Changed() const {
-  const ByteSpan now = Contents();
-  if (exists_ != committedExists_ || now.size() != committed_.size()) return true;
-  return !now.empty() && std::memcmp(now.data(), committed_.data(), now.size()) != 0;
+std::optional<FileChange> Table::Difference() const {
+  FileChange change{std::string(File()), committedExists_, exists_,
+                    CommittedLength(),   Contents(),       ChangedSince()};
+  if (exists_ == committedExists_ && std::ssize(change.After) == change.LengthBefore &&
+      change.Ranges.empty())
+    return std::nullopt;
+  return change;
 }
 
 void Table::MarkCommitted() {
-  const ByteSpan now = Contents();
-  committed_.assign(now.begin(), now.end());
+  const auto change = Difference();
+  MarkCommitted(change ? change->Ranges : std::vector<JournalRange>());
+}
+
+void Table::MarkCommitted(const std::vector<JournalRange>& changed) {
+  TakeOver(changed);
   committedExists_ = exists_;
+}
+
+void Table::TakeOver(const std::vector<JournalRange>& changed) {
+  image_.resize(Contents().size());
+  for (const JournalRange& range : changed)
+    std::copy(range.Contents.begin(), range.Contents.end(), image_.begin() + range.Offset);
 }
 
 void Table::Rollback() {
   if (committedExists_) {
-    Load(committed_);
+    Restore();
   } else {
     Remove();
   }

@@ -2,14 +2,17 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "records/fields/field.h"
-#include "records/store/disk.h"
+#include "records/store/growing.h"
 
 namespace grapplemont {
 
@@ -26,7 +29,7 @@ class TableFull : public std::runtime_error {
   explicit TableFull(const RecordLayout& layout);
 };
 
-/// One file of a world in memory, beside the bytes that were committed last.
+/// One file of a world in memory, and what it was when it was committed last.
 class Table {
  public:
   virtual ~Table() = default;
@@ -42,19 +45,35 @@ class Table {
   virtual void Remove() = 0;
   /// Takes a file's bytes; throws WorldFault when there are more than the file may hold.
   virtual void Load(ByteSpan bytes) = 0;
+  /// Until the next commit its records may be changed in any way, without a word about each.
+  virtual void ExpectAnyChange() {}
 
-  bool Changed() const;
+  /// What differs from the last commit; nothing where nothing does. Its spans hold until the next
+  /// change.
+  std::optional<FileChange> Difference() const;
+  bool Changed() const { return Difference().has_value(); }
   bool CommittedExists() const { return committedExists_; }
-  const Bytes& Committed() const { return committed_; }
+  /// The whole contents at the last commit.
+  virtual Bytes Committed() const { return image_; }
   void MarkCommitted();
+  /// The same where Difference() has just given these ranges; none where there was none.
+  void MarkCommitted(const std::vector<JournalRange>& changed);
   void Rollback();
 
  protected:
   bool exists_ = false;
 
+  // How a kind of file knows its past; this one by an image of all its bytes.
+  virtual std::int64_t CommittedLength() const { return std::ssize(image_); }
+  virtual std::vector<JournalRange> ChangedSince() const {
+    return ChangedRanges(image_, Contents());
+  }
+  virtual void TakeOver(const std::vector<JournalRange>& changed);
+  virtual void Restore() { Load(image_); }
+
  private:
   bool committedExists_ = false;
-  Bytes committed_;
+  Bytes image_;
 };
 
 /// A plain text file; of a world, the player's notes.
@@ -75,23 +94,56 @@ class TextFile : public Table {
 };
 
 /// The records of one file, numbered from 1. References stay valid across Append (the first record
-/// reserves room for all that the file may hold); Keep and Load move records.
+/// reserves room for all that the file may hold); Keep and Load move records. The records of a
+/// growing file are read only: Change gives one that may be changed, until the next commit.
 template <class T>
 class Records : public Table {
+  static constexpr bool kIsGrowing = kGrows<T>;
+
  public:
   std::string_view File() const override { return LayoutOf<T>().File; }
   const RecordLayout* Layout() const override { return &LayoutOf<T>(); }
 
   int Count() const { return static_cast<int>(records_.size()); }
   bool Full() const { return Count() >= LayoutOf<T>().Limit; }
-  T& operator[](int number) { return records_[Place(number)]; }
+  T& operator[](int number) requires(!kIsGrowing) { return records_[Place(number)]; }
   const T& operator[](int number) const { return records_[Place(number)]; }
-  auto begin() { return records_.begin(); }
-  auto end() { return records_.end(); }
+  auto begin() requires(!kIsGrowing) { return records_.begin(); }
+  auto end() requires(!kIsGrowing) { return records_.end(); }
   auto begin() const { return records_.begin(); }
   auto end() const { return records_.end(); }
 
-  /// Throws TableFull at the file's limit.
+  /// The record, to be changed.
+  T& Change(int number) {
+    const std::size_t at = Place(number);
+    past_.NoteChange(at, records_[at]);
+    return records_[at];
+  }
+  /// Lets `edit` have a copy of every record, and takes those back that it changes.
+  template <class Edit>
+  void EditEach(Edit edit) {
+    for (int number = 1; number <= Count(); ++number) {
+      const T& record = std::as_const(*this)[number];
+      T edited = record;
+      edit(edited);
+      if (std::memcmp(&edited, &record, sizeof(T)) != 0) Change(number) = edited;
+    }
+  }
+  /// Of a growing file: grows with whatever happens to its records but an append. What is known of
+  /// each stays true while it does not.
+  unsigned Changes() const requires kIsGrowing { return past_.Changes(); }
+  /// The same, apart from single records that are changed where they stand.
+  unsigned Moves() const requires kIsGrowing { return past_.Moves(); }
+  void ExpectAnyChange() override { past_.NoteGone(records_, records_.size()); }
+  /// All records, to be changed once ExpectAnyChange was called.
+  std::span<T> Unwatched() { return records_; }
+  /// All records, to be changed in any way.
+  std::span<T> Any() {
+    ExpectAnyChange();
+    return records_;
+  }
+
+  /// The record may be changed until the next commit. Throws TableFull at the file's limit.
   T& Append(const T& record) {
     if (Full()) throw TableFull(LayoutOf<T>());
     Begin();
@@ -101,20 +153,40 @@ class Records : public Table {
   void Rewrite(std::vector<T> records) {
     if (static_cast<int>(records.size()) > LayoutOf<T>().Limit) throw TableFull(LayoutOf<T>());
     Begin();
+    ExpectAnyChange();
     records_.assign(records.begin(), records.end());
   }
   /// Compaction: the records that `stays` holds move together, in their order.
   template <class Stays>
   void Keep(Stays stays) {
-    const auto before = records_.size();
-    std::erase_if(records_, [&](const T& record) { return !stays(record); });
-    if (records_.size() != before) surplus_.clear();
+    const auto goes = [&](const T& record) { return !stays(record); };
+    const auto first = std::find_if(records_.begin(), records_.end(), goes);
+    if (first == records_.end()) return;
+    // Asked once each: `stays` may count.
+    std::vector<bool> gone(records_.size());
+    auto at = static_cast<std::size_t>(first - records_.begin());
+    gone[at] = true;
+    for (++at; at < records_.size(); ++at) gone[at] = goes(records_[at]);
+    ExpectAnyChange();
+    at = 0;
+    std::erase_if(records_, [&](const T&) { return gone[at++]; });
+    surplus_.clear();
+  }
+  /// The first `count` go.
+  void DropFirst(int count) {
+    const auto dropped = std::min(static_cast<std::size_t>(std::max(count, 0)), records_.size());
+    past_.NoteGone(records_, dropped);
+    records_.erase(records_.begin(), records_.begin() + static_cast<std::ptrdiff_t>(dropped));
+    surplus_.clear();
   }
   void Erase(int number) {
-    records_.erase(records_.begin() + static_cast<std::ptrdiff_t>(Place(number)));
+    const auto at = static_cast<std::ptrdiff_t>(Place(number));
+    ExpectAnyChange();
+    records_.erase(records_.begin() + at);
     surplus_.clear();
   }
   void Remove() override {
+    ExpectAnyChange();
     exists_ = false;
     records_.clear();
     surplus_.clear();
@@ -134,8 +206,40 @@ class Records : public Table {
     return static_cast<std::int64_t>(LayoutOf<T>().Limit) * LayoutOf<T>().Size + sizeof(T) - 1;
   }
   void Load(ByteSpan bytes) override;
+  Bytes Committed() const override {
+    if constexpr (kIsGrowing)
+      return past_.Contents(records_);
+    else
+      return Table::Committed();
+  }
 
  private:
+  std::int64_t CommittedLength() const override {
+    if constexpr (kIsGrowing)
+      return past_.Length();
+    else
+      return Table::CommittedLength();
+  }
+  std::vector<JournalRange> ChangedSince() const override {
+    if constexpr (kIsGrowing)
+      return past_.Changed(records_, Contents());
+    else
+      return Table::ChangedSince();
+  }
+  void TakeOver(const std::vector<JournalRange>& changed) override {
+    if constexpr (kIsGrowing)
+      past_.Commit(records_, surplus_);
+    else
+      Table::TakeOver(changed);
+  }
+  void Restore() override {
+    if constexpr (kIsGrowing) {
+      Begin();
+      past_.Restore(records_, surplus_);
+    } else {
+      Table::Restore();
+    }
+  }
   /// Makes the file one that may take records.
   void Begin() {
     exists_ = true;
@@ -150,6 +254,7 @@ class Records : public Table {
   }
 
   std::vector<T> records_;
+  [[no_unique_address]] std::conditional_t<kIsGrowing, GrowingPast<T>, NoPast<T>> past_;
   Bytes surplus_;  // behind the last whole record; the next append overwrites it
   mutable Bytes joined_;
 };
@@ -160,6 +265,7 @@ void RequireWithinLimit(const RecordLayout& layout, std::size_t bytes);
 template <class T>
 void Records<T>::Load(ByteSpan bytes) {
   RequireWithinLimit(LayoutOf<T>(), bytes.size());
+  ExpectAnyChange();
   Begin();
   const std::size_t count = bytes.size() / sizeof(T);
   records_.resize(count);
@@ -170,12 +276,9 @@ void Records<T>::Load(ByteSpan bytes) {
 /// Appends to a file that need not keep everything: a full one loses `oldest` of its oldest records
 /// first, many at once, since making room must not move the whole file with every record.
 template <class T>
-T& AppendRolling(Records<T>& records, const T& record, int oldest) {
-  if (records.Full()) {
-    int number = 0;
-    records.Keep([&](const T&) { return ++number > oldest; });
-  }
-  return records.Append(record);
+void AppendRolling(Records<T>& records, const T& record, int oldest) {
+  if (records.Full()) records.DropFirst(oldest);
+  records.Append(record);
 }
 
 /// Numbers for records whose own is none or taken: behind the highest, in gaps when there is

@@ -68,7 +68,7 @@ class frmWorker : public GameScreen {
         ui::Box::Kind::Columns, "At a glance",
         {ui::Rows({ui::Group("What they can do", {ui::Grow(lstskills)}).Grow(),
                    ui::Group("Contract", {txtcontract, ui::Columns({cmdpromote, cmddemote})})})
-             .Grow(10),
+             .Grow(13),
          ui::Columns(
              {ui::Rows({ui::Group("Twelve months", {ui::Grow(chtmonths)}).Grow(2),
                         ui::Group("Last ten matches",

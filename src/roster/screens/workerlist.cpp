@@ -34,9 +34,7 @@ WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string tit
       lstwres(*this, "lstwres", WithFaces(game.World(), WorkerColumns(list)),
               ui::Handler([this] { ShowChoice(); })),
       lstskills(*this, "lstskills",
-                {{"Skill", ui::ColumnKind::Text, 2},
-                 {"Level", ui::ColumnKind::Percent, 1},
-                 {"Which means", ui::ColumnKind::Text, 4}}),
+                {{"Skill", ui::ColumnKind::Text, 1}, {"Level", ui::ColumnKind::Percent, 1}}),
       list_(list),
       filters_(filters) {
   lblchosen.Fleeting = true;
@@ -107,15 +105,13 @@ void WorkerListScreen::ShowSkills(const Worker* chosen) {
   std::vector<ui::ListBox::Row> rows;
   if (chosen)
     for (const Ability& ability : Abilities())
-      rows.push_back(
-          {{ability.Name, int(chosen->*ability.Of), {WordsFor(ability, *chosen), ui::Tone::Muted}},
-           static_cast<int>(rows.size()) + 1});
+      rows.push_back({{ability.Name, int(chosen->*ability.Of)}, static_cast<int>(rows.size()) + 1});
   lstskills.Fill(std::move(rows), false);
 }
 
 ui::Box WorkerListScreen::PageBox() {
   return ui::Rows(
-      {ui::Group("", {ui::Columns({picworker, ui::Grow(lstskills)})}).From(kLettersOfWide),
+      {ui::Group("Skills", {ui::Columns({picworker, ui::Grow(lstskills)})}).From(kLettersOfWide),
        ui::Group("", {ui::Grow(txtpage), ui::Columns({cmdpage, cmdcompare, ui::Grow(lblchosen)})})
            .Grow()});
 }

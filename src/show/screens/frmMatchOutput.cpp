@@ -74,8 +74,8 @@ class frmMatchOutput : public ui::Screen {
                         ui::Columns(
                             {ui::Field("The hall", chthall).Grow(), ui::Field("Goes on", cmbpace)}),
                         lblwinner})
-             .Grow(9),
-         ui::Group("Who is in it", {ui::Grow(lstcast)}).From(kLettersOfWide).Grow(4),
+             .Grow(7),
+         ui::Group("Who is in it", {ui::Grow(lstcast)}).From(kLettersOfWide).Grow(6),
          ui::Columns({ui::Rows({ui::Group("", std::move(figures)).Grow(9),
                                 ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4)})
                           .Grow(2),
@@ -236,6 +236,8 @@ class frmMatchOutput : public ui::Screen {
 
   void ShowFigures() {
     const bool isMatch = told_ && world().Segments()[run().Current].Kind == kMatch;
+    lblanalysis.Text = isMatch ? "Match Analysis" : "Analysis";
+    lblanalysis.Visible = told_ && IsThrough();
     for (int i = 1; i <= kFigureCount; ++i) {
       const bool shown = told_ && IsThrough() && (isMatch || i != 1);
       txtfigures(i).Visible = shown;
