@@ -151,7 +151,7 @@ TEST(MainScreen, LeadsToEveryScreenOfTheSideBar) {
       EXPECT_EQ(play.Desk.TopName(), "frmMainScreen") << button;
       ++screens;
     }
-  EXPECT_EQ(screens, 19);
+  EXPECT_EQ(screens, 20);
 }
 
 TEST(MainScreen, MovesAPlainDayAndKeepsItOnDisk) {
