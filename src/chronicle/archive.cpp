@@ -145,6 +145,8 @@ void Archive::PairFeuds() {
       if (const auto found = open.find(key); found != open.end()) {
         feuds_[found->second].Ended = &event;
         open.erase(found);
+      } else {
+        feuds_.push_back({nullptr, &event});
       }
     }
   }
@@ -208,10 +210,11 @@ void Archive::AddFeuds(std::vector<Subject>& subjects) const {
   constexpr int kPlayers = 10000;
   for (const FeudPast& feud : feuds_) {
     const int matches = feud.Ended ? feud.Ended->Number + feud.Ended->Against : 0;
+    const Annal& first = feud.First();
     subjects.push_back({{},
-                        world_.Annals().NumberOf(*feud.Begun),
-                        feud.Begun->Name + " and " + feud.Begun->Other.Str(),
-                        matches + (feud.Begun->Promotion == world_.PlayerUid() ? kPlayers : 0)});
+                        world_.Annals().NumberOf(first),
+                        first.Name + " and " + first.Other.Str(),
+                        matches + (first.Promotion == world_.PlayerUid() ? kPlayers : 0)});
   }
 }
 

@@ -50,10 +50,11 @@ struct HeldCrown {
   const TitleReign* After() const;
 };
 
-/// How a feud began, and what is known of it since.
+/// A feud. Of rivals' ones only the end is kept, which says since when it had lasted.
 struct FeudPast {
   const Annal* Begun = nullptr;
   const Annal* Ended = nullptr;  // nullptr while it lasts
+  const Annal& First() const { return Begun ? *Begun : *Ended; }
 };
 
 class Archive {

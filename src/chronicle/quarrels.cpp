@@ -28,12 +28,12 @@ class FeudStory {
       : scribe_(scribe), archive_(archive), world_(archive.Of()), feud_(feud) {}
 
   void Write() {
-    const Annal& begun = *feud_.Begun;
+    const Annal& first = feud_.First();
     Telling telling{.Of = Tells::FeudBegan,
-                    .F = FirstOf(world_, begun),
-                    .S = SecondOf(world_, begun),
-                    .On = begun.On,
-                    .By = {ProofBy(world_, begun)}};
+                    .F = FirstOf(world_, first),
+                    .S = SecondOf(world_, first),
+                    .On = Day(first.On) - std::chrono::days(feud_.Begun ? 0 : int(first.Days)),
+                    .By = {ProofBy(world_, first)}};
     scribe_.Tell(telling);
     Matches();
     if (feud_.Ended) {
@@ -47,6 +47,7 @@ class FeudStory {
 
  private:
   void Matches() {
+    if (!feud_.Begun) return;
     const Annal& begun = *feud_.Begun;
     if (begun.Promotion != world_.PlayerUid()) return;
     for (const HeldMatch& bout : world_.Bouts()) {
@@ -76,10 +77,6 @@ class FeudStory {
           sides.Two == FeudSide{begun.Whom[0], begun.Whom[1]})
         return ProofBy(world_, feud);
     }
-    for (const Grudge& grudge : world_.Grudges())
-      if (grudge.Promotion == begun.Promotion && grudge.One == begun.Who[0] &&
-          grudge.Two == begun.Whom[0])
-        return ProofBy(world_, grudge);
     return std::nullopt;
   }
 
@@ -94,8 +91,9 @@ class FeudStory {
 void WriteFeud(Scribe& scribe, const Archive& archive, const Subject& subject) {
   const Records<Annal>& annals = archive.Of().Annals();
   if (subject.Number < 1 || subject.Number > annals.Count()) return;
-  const Annal* begun = &annals[subject.Number];
-  const auto feud = std::ranges::find(archive.Feuds(), begun, &FeudPast::Begun);
+  const Annal* first = &annals[subject.Number];
+  const auto feud = std::ranges::find_if(
+      archive.Feuds(), [=](const FeudPast& past) { return &past.First() == first; });
   if (feud != archive.Feuds().end()) FeudStory(scribe, archive, *feud).Write();
 }
 

@@ -19,7 +19,8 @@ std::string LabelOf(const ui::Control& control, const std::string& above) {
       kind == Kind::OptionButton)
     return {};
   const auto* box = dynamic_cast<const ui::TextBox*>(&control);
-  return box && !box->Hint.empty() ? box->Hint : above;
+  // In an empty box its hint is shown already.
+  return box && !box->Hint.empty() && !box->Text->empty() ? box->Hint : above;
 }
 
 class Arrangement {

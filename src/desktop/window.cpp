@@ -319,7 +319,10 @@ void Window::Hear(ui::Sound sound) {
 }
 
 void Window::Hint(QWidget& beside, const QString& text, ui::Tone tone) {
-  if (hint_) hint_->deleteLater();
+  if (hint_) {
+    hint_->hide();
+    hint_->deleteLater();
+  }
   hint_ = new WrappedLabel(ground_, text);
   hint_->setObjectName("hint");
   const Colours& c = ColoursOf(this);

@@ -14,14 +14,16 @@ constexpr int kDropped = 1000;
 
 /// Whom or what a deed's words name.
 enum class Names { Nothing, Worker, Owner, House, Injury, Words };
-/// A deed that is worth keeping, from a number on.
+/// A deed that is worth keeping: from a number on, and at rivals' of those whom the public knows.
 struct DeedKept {
   DeedKind Of;
   AnnalKind As;
   Names Who, Other;
   int Least = 0;
+  int LeastOver = 0;
 };
 constexpr int kBadlyHurt = 6;  // months
+constexpr int kKnown = 35;
 constexpr DeedKept kKept[] = {
     {kDeedFounded, kAnnalFounded, Names::House, Names::Nothing},
     {kDeedClosed, kAnnalClosed, Names::House, Names::Nothing},
@@ -29,14 +31,13 @@ constexpr DeedKept kKept[] = {
     {kDeedRisen, kAnnalRisen, Names::House, Names::Nothing},
     {kDeedFallen, kAnnalFallen, Names::House, Names::Nothing},
     {kDeedOwner, kAnnalOwner, Names::Owner, Names::Nothing},
-    {kDeedSigned, kAnnalSigned, Names::Worker, Names::Nothing},
-    {kDeedStolen, kAnnalStolen, Names::Worker, Names::Words},
-    {kDeedFired, kAnnalLetGo, Names::Worker, Names::Nothing},
-    {kDeedLeft, kAnnalLeft, Names::Worker, Names::Nothing},
+    {kDeedSigned, kAnnalSigned, Names::Worker, Names::Nothing, 0, kKnown},
+    {kDeedStolen, kAnnalStolen, Names::Worker, Names::Words, 0, kKnown},
+    {kDeedFired, kAnnalLetGo, Names::Worker, Names::Nothing, 0, kKnown},
+    {kDeedLeft, kAnnalLeft, Names::Worker, Names::Nothing, 0, kKnown},
     {kDeedRetired, kAnnalRetired, Names::Worker, Names::Nothing},
     {kDeedInjured, kAnnalHurt, Names::Worker, Names::Injury, kBadlyHurt},
     {kDeedRenamed, kAnnalRenamed, Names::Worker, Names::Words},
-    {kDeedGrudge, kAnnalFeud, Names::Worker, Names::Worker},
 };
 
 const Worker* WorkerCalled(const World& world, std::string_view name) {
@@ -66,7 +67,6 @@ void SetNamed(const World& world, Annal& event, Names what, const Deed& deed, co
     event.Name = "";
   }
   if (what == Names::Worker) {
-    if (!who) who = WorkerCalled(world, deed.Who);
     event.Who[0] = who ? int(who->Uid) : 0;
     event.Sex = who ? SexOf(who->Gender) : kNobodysSex;
   }
@@ -128,12 +128,13 @@ void KeepDeed(World& world, const Deed& deed, const Worker* who) {
   event.Promotion = deed.Promotion;
   event.House = deed.House;
   event.Number = deed.Number;
+  if (row->Who == Names::Worker && !who) who = WorkerCalled(world, deed.Who);
+  const bool isOwn = deed.Promotion == world.PlayerUid();
+  if (!isOwn && who && who->Over < row->LeastOver) return;
   SetNamed(world, event, row->Who, deed, who);
   if (row->Other == Names::Words)
     event.Other = deed.Other.View().substr(0, decltype(Annal::Other)::kWidth);
   if (row->Other == Names::Injury) event.What = deed.Other;
-  if (row->Other == Names::Worker)
-    if (const Worker* other = WorkerCalled(world, deed.Other)) SetWhom(world, event, other->Uid);
   Keep(world, event);
 }
 

@@ -4,10 +4,12 @@
 #include <functional>
 #include <vector>
 
+#include "records/modVar.h"
 #include "rivals/ownership.h"
 #include "rivals/purse.h"
 #include "rivals/tuning.h"
 #include "rivals/workermarket.h"
+#include "roster/market.h"
 #include "roster/postings.h"
 
 namespace grapplemont {
@@ -73,6 +75,42 @@ Worker* FindBelow(World& world, const Promotion& rival, int last) {
   return place > last && place <= kJobber ? weakest.front() : nullptr;
 }
 
+Worker* FindStar(World& world, const Promotion& rival) {
+  Worker* found = nullptr;
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == rival.Uid && IsOnRoster(worker) && !worker.Unsackable &&
+        PlaceAt(worker, rival) <= kUpperMidcard && (!found || worker.Over > found->Over))
+      found = &worker;
+  return found;
+}
+
+/// Nobody is fired: the contract ends by agreement, as if it had run out.
+void PartWithStars(World& world, const Promotion& rival, Rosters& rosters) {
+  for (int n = 0; n < tuning::kStarsAWeek; ++n) {
+    Worker* star = FindStar(world, rival);
+    if (!star) return;
+    NoteDeed(world, kDeedLeft, &rival, star->Name);
+    if (IsShortlisted(world, star->Uid) ||
+        ShouldTell(world, world.Game().MailWorkerFire, rival.Size))
+      AddNews(world, rival.Initials + " News",
+              star->Name + " has left " + rival.Initials.Str() + ".");
+    rosters.Move(*star, rival.Uid, 0);
+    PartWays(world, {star});
+  }
+}
+
+void SwapTheLast(World& world, const Promotion& rival, Rosters& rosters) {
+  const int last = LastPlaceThatCounts(world, rival);
+  for (int n = 0; n < tuning::kSwapsAWeek; ++n) {
+    Worker *out = FindBelow(world, rival, last), *in = FindForCard(world, rival, last);
+    if (!out || !in) return;
+    rosters.Move(*out, rival.Uid, 0);
+    FireFrom(world, rival, {out});
+    SignFor(world, rival, *in);
+    rosters.Move(*in, 0, rival.Uid);
+  }
+}
+
 }  // namespace
 
 bool IsReadyToRise(const World& world, const Promotion& rival) {
@@ -106,15 +144,8 @@ bool IsInTheWay(const World& world, const Promotion& rival, Aim aim, const Worke
 
 void MindTheCard(World& world, const Promotion& rival, Rosters& rosters) {
   if (AimOf(world, rival) != Aim::StayBelow) return;
-  const int last = LastPlaceThatCounts(world, rival);
-  for (int n = 0; n < tuning::kSwapsAWeek; ++n) {
-    Worker *out = FindBelow(world, rival, last), *in = FindForCard(world, rival, last);
-    if (!out || !in) return;
-    rosters.Move(*out, rival.Uid, 0);
-    FireFrom(world, rival, {out});
-    SignFor(world, rival, *in);
-    rosters.Move(*in, 0, rival.Uid);
-  }
+  SwapTheLast(world, rival, rosters);
+  if (rival.Size <= kCult) PartWithStars(world, rival, rosters);
 }
 
 }  // namespace grapplemont

@@ -25,7 +25,8 @@ bool IsInTheWay(const World& world, const Promotion& rival, Aim aim, const Worke
 
 /// A rival that would stay below gives the places of those who are the first to go anyway, as long
 /// as they stand below the card, to the least popular who count on it; so many a week, and the
-/// roster stays as large as it was. No draws.
+/// roster stays as large as it was. In the classes that live by television it also agrees with some
+/// of its stars that they leave. No draws.
 void MindTheCard(World& world, const Promotion& rival, Rosters& rosters);
 
 }  // namespace grapplemont

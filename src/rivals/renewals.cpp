@@ -145,7 +145,8 @@ bool HasTitles(const World& world, int promotionUid) {
 void GoAfterTheFree(World& world) {
   Rosters rosters(world);
   for (const Promotion* promotion : PromotionsByStanding(world))
-    if (IsRival(world, *promotion) && IsFreeToSpend(world, *promotion))
+    if (IsRival(world, *promotion) && IsFreeToSpend(world, *promotion) &&
+        AimOf(world, *promotion) != Aim::StayBelow)
       GoAfterTalent(world, *promotion, tuning::kTalksAMonth, rosters);
 }
 
@@ -177,7 +178,8 @@ void RosterSizeReview(World& world) {
     if (!IsRival(world, rival)) continue;
     const Purse purse = PurseOf(rival);
     if (!IsFreeToSpend(world, rival)) Save(world, rival, rosters);
-    if (purse == Purse::Spending) GoAfterTalent(world, rival, 1, rosters);
+    if (purse == Purse::Spending && AimOf(world, rival) != Aim::StayBelow)
+      GoAfterTalent(world, rival, 1, rosters);
     MindTheCard(world, rival, rosters);
     if (rosters.Of(rival.Uid) >= tuning::kTitleRoster && !HasTitles(world, rival.Uid))
       FoundTitles(world, rival);

@@ -123,6 +123,10 @@ inline constexpr int kNearARise = 70;
 inline constexpr int kNearAFall = 35;
 /// This many places of the card change hands in a week to keep a rival in its class.
 inline constexpr int kSwapsAWeek = 5;
+/// This many of its stars leave a rival in a week that would stay below, and its roster is full
+/// enough at this many percent of its band.
+inline constexpr int kStarsAWeek = 3;
+inline constexpr int kFullBelow = 50;
 /// A class with this many promotions is full.
 inline constexpr std::array<int, 6> kRoomInClass = {3, 4, 4, 6, 4, 30};
 /// The ten best of whoever wants to rise may be this much less popular than those of the class

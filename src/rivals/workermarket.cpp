@@ -7,6 +7,7 @@
 #include "records/houserules.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "rivals/ambition.h"
 #include "rivals/founding.h"
 #include "rivals/newtalent.h"
 #include "rivals/purse.h"
@@ -149,9 +150,12 @@ void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& 
 void FitRoster(World& world, const Promotion& rival, Rosters& rosters) {
   const tuning::RosterBand& band = BySize(tuning::kRosters, rival.Size);
   const int count = rosters.Of(rival.Uid);
-  if (count >= band.Least && count <= band.Most) return;
+  const bool staysBelow =
+      count < band.Least && IsRival(world, rival) && AimOf(world, rival) == Aim::StayBelow;
+  const int least = staysBelow ? band.Least * tuning::kFullBelow / 100 : band.Least;
+  if (count >= least && count <= band.Most) return;
   const Taste taste = TasteOf(world, rival.Uid);
-  const int signings = std::min(band.Least - count, kSigningsInARow);
+  const int signings = std::min(least - count, kSigningsInARow);
   for (int n = 0; n < signings; ++n)
     if (!SignOne(world, rival, taste, rosters)) break;
   if (count <= band.Most) return;

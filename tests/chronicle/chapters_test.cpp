@@ -141,7 +141,7 @@ TEST_F(Chronicles, TellAReignByItsDaysItsLoserAndItsEnd) {
 
 TEST_F(Chronicles, TellOfFeudsHousesAndYears) {
   LiveAYear();
-  const std::string feud = TextOf(Read(About::Feud, "Eli Fenn and Fay Loose", kTolland));
+  const std::string feud = TextOf(Read(About::Feud, "Fay Loose and Eli Fenn", kTolland));
   EXPECT_TRUE(Says(feud, "one to nothing")) << feud;
   EXPECT_TRUE(Says(feud, "60 days")) << feud;
   const std::string own = TextOf(Read(About::Feud, "Bram Okafor and Ilya Marsh", kTolland));

@@ -470,7 +470,7 @@ TEST(SignsInATable, TakeLittleRoomAndAreReadOutAsWords) {
   const ui::ListBox& list = dynamic_cast<MarkedPage&>(*play.Desk.Top()).lstmarks;
   const ui::Cell& cell = list.Rows()[0].Cells[1];
   EXPECT_LT(desktop::CellWidth(cell, list.Columns()[2]),
-            desktop::CellWidth(cell, list.Columns()[1]) * 3 / 4);
+            desktop::CellWidth(cell, list.Columns()[1]));
   const QModelIndex shown = play.Grid("lstmarks").model()->index(0, 2);
   EXPECT_EQ(shown.data(Qt::AccessibleTextRole), "Feud 71, Late");
   const auto pictureOf = [&](int column) {

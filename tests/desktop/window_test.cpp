@@ -263,7 +263,7 @@ TEST_F(TheWindow, TellsInTheSearchWhyAPagesActionCannotBeDone) {
   Play.Type("Done");
   const auto* list = dynamic_cast<QListWidget*>(Play.See("finderlist"));
   ASSERT_EQ(list->currentItem()->text(), "Done");
-  EXPECT_EQ(list->currentItem()->data(Qt::AccessibleDescriptionRole),
+  EXPECT_EQ(list->currentItem()->data(Qt::AccessibleDescriptionRole).toString(),
             "Not now: Nothing is chosen yet.");
   Play.Key(Qt::Key_Return);
   EXPECT_EQ(Play.TextOf("hint"), "Nothing is chosen yet.");

@@ -292,7 +292,7 @@ TEST(AShowToldLive, AppearsSentenceBySentenceAndItsPercentagesLast) {
     }
     EXPECT_GT(steps, 2);
     EXPECT_EQ(told, KeptWords(play.World(), row));
-    EXPECT_EQ(desk.Text("txtreport"), told);
+    EXPECT_EQ(detail::Trimmed(desk.Text("txtreport")), told);
     EXPECT_TRUE(desk.Visible("txtoverall"));
   }
   EXPECT_GT(breaths, 0) << "no count was waited for";

@@ -46,6 +46,12 @@ TEST(Annals, BeginWithTheirVersionAndKeepWhatIsWorthIt) {
   EXPECT_EQ(Last(world).What, "Leg");
   EXPECT_EQ(Last(world).House, "NEW");
 
+  Named(world.Workers(), "Eli Fenn").Over = 20;
+  const int before = world.Annals().Count();
+  NoteDeed(world, kDeedFired, &rival, "Eli Fenn");
+  EXPECT_EQ(world.Annals().Count(), before) << "the public does not know them";
+  NoteDeed(world, kDeedFired, &world.Player(), "Eli Fenn");
+  EXPECT_EQ(world.Annals().Count(), before + 1) << "the player does";
   NoteDeed(world, kDeedStolen, &rival, "Ilya Marsh", "CWA");
   EXPECT_EQ(Last(world).Sex, kWoman);
   EXPECT_EQ(Last(world).Other, "CWA");

@@ -271,9 +271,8 @@ World NearTheEdge(int image, int others) {
 /// Whom the rival takes in a week.
 std::string Taken(World& world) {
   Rosters rosters(world);
-  const int before = rosters.Of(RivalOf(world).Uid);
   MindTheCard(world, RivalOf(world), rosters);
-  EXPECT_EQ(rosters.Of(RivalOf(world).Uid), before);
+  EXPECT_EQ(rosters.Of(RivalOf(world).Uid), Rosters(world).Of(RivalOf(world).Uid));
   std::string names;
   for (const Worker& worker : world.Workers())
     if (worker.Employer == RivalOf(world).Uid && worker.Name.View().find("Hand") > 4)
@@ -294,7 +293,8 @@ TEST(RivalAmbition, LowersTheCardNearARiseItIsNotReadyFor) {
   const Worker& star = Named(near.Workers(), "XWF Hand 1");
   EXPECT_TRUE(IsInTheWay(near, RivalOf(near), Aim::StayBelow, star));
   EXPECT_EQ(Taken(near), "Fair 0;Fair 1;") << "who is below the class may not be had";
-  EXPECT_EQ(star.Employer, RivalOf(near).Uid);
+  EXPECT_EQ(star.Employer, 0) << "it is agreed that stars leave";
+  EXPECT_EQ(Rosters(near).Of(RivalOf(near).Uid), 24 - tuning::kStarsAWeek);
   EXPECT_EQ(FaultsOf(near), "");
 
   RivalOf(near).Money = FairSum(kNational);

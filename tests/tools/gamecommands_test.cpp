@@ -115,7 +115,8 @@ TEST_F(GameCommands, RunSumsUpEveryMonth) {
     }
   EXPECT_EQ(employed, last["workers"]["employed"]);
   EXPECT_EQ(world.Workers().Count() - employed, last["workers"]["free"]);
-  EXPECT_NEAR(double(over) / employed, last["workers"]["meanOver"].get<double>(), 0.005);
+  EXPECT_NEAR(double(over) / employed, last["workers"]["meanOver"].get<double>(), 0.005 + 1e-9)
+      << "rounded to two places";
 }
 
 TEST_F(GameCommands, RunStopsWhenTheCareerEnds) {
