@@ -31,12 +31,14 @@ class EditedLine {
     history(history_, &event, H_SETSIZE, kKept);
     history(history_, &event, H_SETUNIQUE, 1);
     el_set(editor_, EL_CLIENTDATA, this);
-    el_set(editor_, EL_PROMPT, +[](EditLine* editor) { return Of(editor).prompt_.data(); });
+    el_set(
+        editor_, EL_PROMPT, +[](EditLine* editor) { return Of(editor).prompt_.data(); });
     el_set(editor_, EL_EDITOR, "emacs");
     el_set(editor_, EL_SIGNAL, 1);
     el_set(editor_, EL_HIST, history, history_);
-    el_set(editor_, EL_ADDFN, "complete", "Completes a word",
-           +[](EditLine* editor, int) -> unsigned char { return Of(editor).Complete(); });
+    el_set(
+        editor_, EL_ADDFN, "complete", "Completes a word",
+        +[](EditLine* editor, int) -> unsigned char { return Of(editor).Complete(); });
     el_set(editor_, EL_BIND, "^I", "complete", nullptr);
     el_source(editor_, nullptr);
   }
