@@ -82,8 +82,6 @@ void MerchandiseIncome(World& world);
 void MonthlyCosts(World& world);
 void MonthlyReview(World& world);
 void CloseMonthBooks(World& world);
-/// On the first of a month, once its steps are over: a mail of what the books closed with.
-void TellOfTheMonth(World& world);
 /// What the next first of a month takes from the player as things stand, in dollars: wages, running
 /// costs and the repayment, less what merchandise brings then.
 long long DueOnTheFirst(const World& world);

@@ -5,7 +5,6 @@
 #include "business/past.h"
 #include "calendar/advanceday.h"
 #include "calendar/board.h"
-#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/notes.h"
@@ -121,9 +120,9 @@ long long DueOnTheFirst(const World& world) {
   return player.Merchandising > 0 ? due - sales : due;
 }
 
-void TellOfTheMonth(World& world) {
-  if (!IsFirstOfMonth(world.Today())) return;
-  const MonthBooks& books = world.Player().LastMonth;
+namespace {
+
+void TellMonth(World& world, const MonthBooks& books) {
   const long long in = TotalIn(books), out = TotalOut(books), left = in - out;
   if (in == 0 && out == 0) return;
   AddNews(world, kFinance,
@@ -132,7 +131,10 @@ void TellOfTheMonth(World& world) {
               Dollars(left < 0 ? -left : left) + ".");
 }
 
+}  // namespace
+
 void CloseMonthBooks(World& world) {
+  TellMonth(world, world.Player().ThisMonth);
   for (Promotion& promotion : world.Promotions()) {
     promotion.LastMonth = promotion.ThisMonth;
     promotion.ThisMonth = {};

@@ -4,12 +4,10 @@
 #include <functional>
 #include <vector>
 
-#include "records/modVar.h"
 #include "rivals/ownership.h"
 #include "rivals/purse.h"
 #include "rivals/tuning.h"
 #include "rivals/workermarket.h"
-#include "roster/market.h"
 #include "roster/postings.h"
 
 namespace grapplemont {
@@ -56,58 +54,66 @@ int LastPlaceThatCounts(const World& world, const Promotion& rival) {
   return onAir ? kLowerMidcard : kMidcard;
 }
 
-/// The least popular free worker whom the rival may sign for little, and who would count.
-Worker* FindForCard(World& world, const Promotion& rival, int last) {
+using Places = std::function<bool(int place)>;
+
+/// The least popular of the roster in such places who may be let go.
+Worker* FindToReplace(World& world, const Promotion& rival, const Places& places) {
   Worker* found = nullptr;
   for (Worker& worker : world.Workers())
-    if (worker.Employer == 0 && !worker.RetiringSoon && worker.Position <= kJobber &&
-        worker.Wage <= BySize(tuning::kTopWage, rival.Size) / 2 && PlaceAt(worker, rival) <= last &&
-        MayHave(world, rival, worker) && (!found || worker.Over < found->Over))
+    if (worker.Employer == rival.Uid && IsOnRoster(worker) && !worker.Unsackable &&
+        places(PlaceAt(worker, rival)) && (!found || worker.Over < found->Over))
       found = &worker;
   return found;
 }
 
-/// Whoever would be the first to go, if they stand below the card; nullptr otherwise.
-Worker* FindBelow(World& world, const Promotion& rival, int last) {
-  const auto weakest = FindWeakest(world, rival.Uid, TasteOf(world, rival.Uid), 1);
-  if (weakest.empty() || weakest.front()->Unsackable) return nullptr;
-  const int place = PlaceAt(*weakest.front(), rival);
-  return place > last && place <= kJobber ? weakest.front() : nullptr;
+/// The least popular free worker for such places.
+Worker* FindForPlace(World& world, const Promotion& rival, const Places& places) {
+  Worker* found = nullptr;
+  for (Worker& worker : world.Workers())
+    if (worker.Employer == 0 && !worker.RetiringSoon && worker.Position <= kJobber &&
+        worker.Wage <= BySize(tuning::kTopWage, rival.Size) / 2 && places(PlaceAt(worker, rival)) &&
+        (!found || worker.Over < found->Over))
+      found = &worker;
+  return found;
 }
 
 Worker* FindStar(World& world, const Promotion& rival) {
   Worker* found = nullptr;
   for (Worker& worker : world.Workers())
     if (worker.Employer == rival.Uid && IsOnRoster(worker) && !worker.Unsackable &&
-        PlaceAt(worker, rival) <= kUpperMidcard && (!found || worker.Over > found->Over))
+        (!found || worker.Over > found->Over))
       found = &worker;
   return found;
 }
 
-/// Nobody is fired: the contract ends by agreement, as if it had run out.
-void PartWithStars(World& world, const Promotion& rival, Rosters& rosters) {
-  for (int n = 0; n < tuning::kStarsAWeek; ++n) {
-    Worker* star = FindStar(world, rival);
-    if (!star) return;
-    NoteDeed(world, kDeedLeft, &rival, star->Name);
-    if (IsShortlisted(world, star->Uid) ||
-        ShouldTell(world, world.Game().MailWorkerFire, rival.Size))
-      AddNews(world, rival.Initials + " News",
-              star->Name + " has left " + rival.Initials.Str() + ".");
-    rosters.Move(*star, rival.Uid, 0);
-    PartWays(world, {star});
-  }
+int CountIn(const World& world, const Promotion& rival, const Places& places) {
+  return static_cast<int>(std::ranges::count_if(world.Workers(), [&](const Worker& worker) {
+    return worker.Employer == rival.Uid && IsOnRoster(worker) && places(PlaceAt(worker, rival));
+  }));
 }
 
-void SwapTheLast(World& world, const Promotion& rival, Rosters& rosters) {
-  const int last = LastPlaceThatCounts(world, rival);
+/// Somebody goes, somebody comes; false, and nobody does, where one of them is missing.
+bool Replace(World& world, const Promotion& rival, Worker* out, Worker* in, Rosters& rosters) {
+  if (!in || !out) return false;
+  rosters.Move(*out, rival.Uid, 0);
+  FireFrom(world, rival, {out});
+  SignFor(world, rival, *in);
+  rosters.Move(*in, 0, rival.Uid);
+  return true;
+}
+
+/// From places below the card to the lowest on it; where nobody is left for that, the most popular
+/// of the classes that live by television go instead.
+void LowerTheCard(World& world, const Promotion& rival, const Places& last, const Places& below,
+                  Rosters& rosters) {
   for (int n = 0; n < tuning::kSwapsAWeek; ++n) {
-    Worker *out = FindBelow(world, rival, last), *in = FindForCard(world, rival, last);
-    if (!out || !in) return;
-    rosters.Move(*out, rival.Uid, 0);
-    FireFrom(world, rival, {out});
-    SignFor(world, rival, *in);
-    rosters.Move(*in, 0, rival.Uid);
+    Worker* in = FindForPlace(world, rival, last);
+    if (Replace(world, rival, FindToReplace(world, rival, below), in, rosters)) continue;
+    const int stars = rival.Size <= kCult ? tuning::kStarsAWeek : 0;
+    for (int star = 0; star < stars; ++star)
+      Replace(world, rival, FindStar(world, rival),
+              in ? FindForPlace(world, rival, last) : FindForPlace(world, rival, below), rosters);
+    return;
   }
 }
 
@@ -129,23 +135,18 @@ bool IsAtHome(const World& world, const Promotion& rival) {
           MeanOfBestTen(world, rival.Uid) >= others.MeanOfBest - tuning::kMayBeWeakerAtHome);
 }
 
-Aim AimOf(const World& world, const Promotion& rival) {
-  if (rival.Image >= tuning::kNearARise && !IsReadyToRise(world, rival)) return Aim::StayBelow;
-  const bool isLow = rival.Image <= tuning::kNearAFall && rival.Size != kBackyard;
-  return isLow && IsAtHome(world, rival) ? Aim::StayUp : Aim::None;
-}
-
-bool IsInTheWay(const World& world, const Promotion& rival, Aim aim, const Worker& worker) {
-  if (aim == Aim::None || !IsOnRoster(worker)) return false;
-  const int place = PlaceAt(worker, rival);
-  return aim == Aim::StayBelow ? rival.Size <= kCult && place <= kUpperMidcard
-                               : place == LastPlaceThatCounts(world, rival);
-}
-
 void MindTheCard(World& world, const Promotion& rival, Rosters& rosters) {
-  if (AimOf(world, rival) != Aim::StayBelow) return;
-  SwapTheLast(world, rival, rosters);
-  if (rival.Size <= kCult) PartWithStars(world, rival, rosters);
+  const int last = LastPlaceThatCounts(world, rival);
+  const Places atTheEnd = [=](int place) { return place == last; };
+  const Places below = [=](int place) { return place > last && place <= kJobber; };
+  if (rival.Image >= tuning::kNearARise && !IsReadyToRise(world, rival))
+    return LowerTheCard(world, rival, atTheEnd, below, rosters);
+  if (rival.Image > tuning::kNearAFall || rival.Size == kBackyard || !IsAtHome(world, rival))
+    return;
+  const int counting = CountIn(world, rival, [=](int place) { return place <= last; });
+  for (int n = 0; n < std::min(tuning::kSwapsAWeek, counting - tuning::kLeastCard); ++n)
+    Replace(world, rival, FindToReplace(world, rival, atTheEnd), FindForPlace(world, rival, below),
+            rosters);
 }
 
 }  // namespace grapplemont

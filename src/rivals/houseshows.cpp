@@ -39,7 +39,7 @@ void RivalHouseShows(World& world) {
   for (Worker& worker : world.Workers()) {
     const Promotion* employer = world.FindPromotion(worker.Employer);
     if (employer && IsRival(world, *employer) && IsFit(worker) && IsEnough(crews[employer->Uid]))
-      worker.Condition -= world.Life().Draw(tuning::kHouseShowWear);
+      worker.Condition -= world.RandomDraw(tuning::kHouseShowWear);
   }
   for (const Promotion& promotion : world.Promotions())
     if (IsRival(world, promotion) && IsEnough(crews[promotion.Uid]))

@@ -43,7 +43,6 @@ struct Renewing {
   int ScoreToStay;
   PayScale Scale;
   Purse How;
-  Aim ForTheCard;
   int Spare;  // this many can go before the roster is below its band
 };
 
@@ -61,13 +60,11 @@ void Renew(Worker& worker, const Renewing& terms) {
   worker.ContractType = terms.Employer.Size < kRegional ? "Wri" : "Non";
 }
 
-/// Too popular for the class, or, where others are there to do it, not wanted enough or in the way
-/// of what the promotion would be.
-bool IsLetGo(const World& world, const Worker& worker, const Renewing& terms) {
+/// Too popular for the class, or, where others are there to do it, not wanted enough.
+bool IsLetGo(const Worker& worker, const Renewing& terms) {
   if (IsTooPopular(worker, terms.Employer.Size)) return true;
   return terms.Spare > 0 && (RosterScore(worker, terms.Likes) < terms.ScoreToStay ||
-                             !IsPopularEnough(worker, terms.Employer.Size) ||
-                             IsInTheWay(world, terms.Employer, terms.ForTheCard, worker));
+                             !IsPopularEnough(worker, terms.Employer.Size));
 }
 
 bool IsTempted(World& world, const Worker& worker, const Renewing& terms, const Suitors* suitors) {
@@ -98,12 +95,11 @@ void RenewWorkers(World& world, const Promotion& rival, const Suitors* suitors) 
                  ScoreToStay(world, rival, taste),
                  PayScale(world, rival),
                  PurseOf(rival),
-                 IsRival(world, rival) ? AimOf(world, rival) : Aim::None,
                  Rosters(world).Of(rival.Uid) - BySize(tuning::kRosters, rival.Size).Least};
   for (Worker& worker : world.Workers()) {
     if (worker.Employer != rival.Uid || worker.ContractMonths != kLastMonth || worker.RetiringSoon)
       continue;
-    if (IsLetGo(world, worker, terms) || IsTempted(world, worker, terms, suitors))
+    if (IsLetGo(worker, terms) || IsTempted(world, worker, terms, suitors))
       --terms.Spare;
     else
       Renew(worker, terms);
@@ -128,12 +124,24 @@ void RenewStaff(World& world, const Promotion& rival) {
   }
 }
 
+/// Whoever costs most more than the going rate.
+Worker* FindOverpaid(World& world, const Promotion& rival) {
+  const PayScale scale(world, rival);
+  const auto overpaid = [&](const Worker& worker) { return worker.Wage - scale.For(worker.Over); };
+  Worker* found = nullptr;
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer != rival.Uid || !IsOnMainRoster(worker) || worker.Unsackable) continue;
+    if (!found || overpaid(worker) > overpaid(*found)) found = &worker;
+  }
+  return found;
+}
+
 void Save(World& world, const Promotion& rival, Rosters& rosters) {
   if (rosters.Of(rival.Uid) <= BySize(tuning::kRosters, rival.Size).Least) return;
-  const auto weakest = FindWeakest(world, rival.Uid, TasteOf(world, rival.Uid), 1);
-  if (weakest.empty() || weakest.front()->Unsackable) return;
-  rosters.Move(*weakest.front(), rival.Uid, 0);
-  FireFrom(world, rival, weakest);
+  Worker* worker = FindOverpaid(world, rival);
+  if (!worker) return;
+  rosters.Move(*worker, rival.Uid, 0);
+  FireFrom(world, rival, {worker});
 }
 
 bool HasTitles(const World& world, int promotionUid) {
@@ -145,8 +153,7 @@ bool HasTitles(const World& world, int promotionUid) {
 void GoAfterTheFree(World& world) {
   Rosters rosters(world);
   for (const Promotion* promotion : PromotionsByStanding(world))
-    if (IsRival(world, *promotion) && IsFreeToSpend(world, *promotion) &&
-        AimOf(world, *promotion) != Aim::StayBelow)
+    if (IsRival(world, *promotion) && IsFreeToSpend(world, *promotion))
       GoAfterTalent(world, *promotion, tuning::kTalksAMonth, rosters);
 }
 
@@ -178,8 +185,8 @@ void RosterSizeReview(World& world) {
     if (!IsRival(world, rival)) continue;
     const Purse purse = PurseOf(rival);
     if (!IsFreeToSpend(world, rival)) Save(world, rival, rosters);
-    if (purse == Purse::Spending && AimOf(world, rival) != Aim::StayBelow)
-      GoAfterTalent(world, rival, 1, rosters);
+    if (purse == Purse::Spending) GoAfterTalent(world, rival, 1, rosters);
+    SignProspects(world, rival, tuning::kProspectsAWeek, rosters);
     MindTheCard(world, rival, rosters);
     if (rosters.Of(rival.Uid) >= tuning::kTitleRoster && !HasTitles(world, rival.Uid))
       FoundTitles(world, rival);

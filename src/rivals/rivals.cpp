@@ -1,6 +1,7 @@
 #include "rivals/rivals.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "business/sponsors.h"
@@ -68,18 +69,22 @@ bool FitsRival(const Sponsor& sponsor, const Promotion& rival) {
 
 namespace {
 
-/// One of those who are free and fit, else of those who are free and willing, by a draw of
-/// World::Life; nullptr for nobody.
-Sponsor* DrawSponsor(World& world, const Promotion& rival) {
-  std::vector<Sponsor*> fitting, willing;
+/// One of those who are free and fit, by a draw of World::Life. Whoever has no sponsor at all takes
+/// the dearest of those who pay less than is usual; nullptr for nobody.
+Sponsor* DrawSponsor(World& world, const Promotion& rival, bool hasOne) {
+  std::vector<Sponsor*> fitting;
+  Sponsor* dearest = nullptr;
   for (Sponsor& sponsor : world.Sponsors()) {
     if (sponsor.Promotion != 0 || !IsWilling(sponsor, rival)) continue;
-    (FitsRival(sponsor, rival) ? fitting : willing).push_back(&sponsor);
+    if (FitsRival(sponsor, rival))
+      fitting.push_back(&sponsor);
+    else if (sponsor.Pay < BySize(tuning::kUsualPay, rival.Size).From &&
+             (!dearest || sponsor.Pay > dearest->Pay))
+      dearest = &sponsor;
   }
-  const std::vector<Sponsor*>& among = fitting.empty() ? willing : fitting;
-  if (among.empty()) return nullptr;
-  const int drawn = world.Life().Draw(static_cast<int>(among.size()));
-  return among[static_cast<std::size_t>(drawn - 1)];
+  if (fitting.empty()) return hasOne ? nullptr : dearest;
+  const int drawn = world.Life().Draw(static_cast<int>(fitting.size()));
+  return fitting[static_cast<std::size_t>(drawn - 1)];
 }
 
 }  // namespace
@@ -87,9 +92,10 @@ Sponsor* DrawSponsor(World& world, const Promotion& rival) {
 void RivalSponsorSigning(World& world) {
   for (Promotion& rival : world.Promotions()) {
     if (!IsRival(world, rival)) continue;
+    bool hasOne = std::ranges::any_of(rival.Sponsor, [](int uid) { return uid != 0; });
     for (int slot = 1; slot <= static_cast<int>(rival.Sponsor.size()); ++slot) {
       if (SponsorAt(world, rival, slot)) continue;
-      Sponsor* sponsor = DrawSponsor(world, rival);
+      Sponsor* sponsor = DrawSponsor(world, rival, std::exchange(hasOne, true));
       if (!sponsor) break;
       SignSponsor(world, rival, *sponsor, slot);
       TellOf(world, world.Game().MailSponsor, rival,

@@ -46,8 +46,8 @@ void PartWays(World& world, const std::vector<Worker*>& workers);
 void OwnerlessPromotions(World& world);
 void RivalWorkerHiring(World& world);
 void RivalStaffHiring(World& world);
-/// Each empty sponsor's place of a rival goes to one of the sponsors who are free and willing, of
-/// those who fit its class where there are any.
+/// Each empty sponsor's place of a rival goes to one of the sponsors who are free, willing and fit
+/// its class.
 void RivalSponsorSigning(World& world);
 /// Whether the sponsor is willing and pays as is usual for the rival's class.
 bool FitsRival(const Sponsor& sponsor, const Promotion& rival);

@@ -114,6 +114,9 @@ inline constexpr int kMostOfRate = 250;
 /// in one of this many cases.
 inline constexpr int kTemptingOffer = 125;
 inline constexpr int kTemptedIn = 2;
+/// A roster below its band takes this many a week whose Over is no more than this below its class.
+inline constexpr int kProspectsAWeek = 3;
+inline constexpr int kBelowClass = 25;
 
 /// A wage below the going rate closes the gap by one part in this many a month.
 inline constexpr int kMonthsToRate = 6;
@@ -121,12 +124,12 @@ inline constexpr int kMonthsToRate = 6;
 /// From this image on a rise is near, up to that a fall.
 inline constexpr int kNearARise = 70;
 inline constexpr int kNearAFall = 35;
-/// This many places of the card change hands in a week to keep a rival in its class.
+/// This many places of the card change hands in a week to keep a rival in its class, and it keeps
+/// more than this many on the card.
 inline constexpr int kSwapsAWeek = 5;
-/// This many of its stars leave a rival in a week that would stay below, and its roster is full
-/// enough at this many percent of its band.
-inline constexpr int kStarsAWeek = 3;
-inline constexpr int kFullBelow = 50;
+inline constexpr int kLeastCard = 10;
+/// Where there are no newcomers for the card, this many of the most popular go in a week.
+inline constexpr int kStarsAWeek = 2;
 /// A class with this many promotions is full.
 inline constexpr std::array<int, 6> kRoomInClass = {3, 4, 4, 6, 4, 30};
 /// The ten best of whoever wants to rise may be this much less popular than those of the class
@@ -201,10 +204,10 @@ inline constexpr int kFreeToSpare = 30;
 inline constexpr int kGiveUpAMonth = 2;
 inline constexpr int kGivesUpFrom = 27;
 inline constexpr int kGivesUpBelow = 40;
-/// Women are few under this many of a hundred; then this many men are passed over, one after the
-/// other, before one is taken.
+/// Women are few under this many of a hundred; with enough of them one newcomer in this many is
+/// one.
 inline constexpr int kWomenWanted = 25;
-inline constexpr int kMenAskedToWait = 3;
+inline constexpr int kWomanOneIn = 5;
 /// From this many of a hundred on, lightweights alone give up.
 inline constexpr int kLightweightsEnough = 36;
 

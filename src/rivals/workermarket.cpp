@@ -4,10 +4,8 @@
 #include <vector>
 
 #include "business/finance.h"
-#include "records/houserules.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "rivals/ambition.h"
 #include "rivals/founding.h"
 #include "rivals/newtalent.h"
 #include "rivals/purse.h"
@@ -75,6 +73,11 @@ bool IsTooPopular(const Worker& worker, int size) {
   return worker.Over > BySize(kLimits, size).OverAtMost;
 }
 
+bool IsProspect(const Worker& worker, int size) {
+  const MarketLimits& limits = BySize(kLimits, size);
+  return worker.Over <= limits.OverAtMost && worker.Over > limits.OverAbove - tuning::kBelowClass;
+}
+
 bool IsOpenTo(const World& world, const Worker& worker, int size) {
   if (worker.Employer == 0) return true;
   if (worker.ContractType == "Wri" || worker.Unsackable) return false;
@@ -82,16 +85,12 @@ bool IsOpenTo(const World& world, const Worker& worker, int size) {
   return !employer || employer->Size - LoyaltyInClasses(worker.Behaviour) > size;
 }
 
-bool MayHave(const World& world, const Promotion& promotion, const Worker& worker) {
-  return IsWithinLimits(worker, promotion.Size) && IsOpenTo(world, worker, promotion.Size) &&
-         (!IsPlayers(world, promotion) || WhyNotInThisHouse(world, worker).empty());
-}
-
 Worker* FindCandidate(World& world, const Promotion& rival, Taste taste) {
   Worker* best = nullptr;
   int bestScore = 0;
   for (Worker& worker : world.Workers()) {
-    if (worker.Employer == rival.Uid || world.RandomDraw(10) != 1 || !MayHave(world, rival, worker))
+    if (worker.Employer == rival.Uid || world.RandomDraw(10) != 1 ||
+        !IsWithinLimits(worker, rival.Size) || !IsOpenTo(world, worker, rival.Size))
       continue;
     const int score = WorkerScore(worker, taste);
     if (best && score <= bestScore) continue;
@@ -99,10 +98,6 @@ Worker* FindCandidate(World& world, const Promotion& rival, Taste taste) {
     bestScore = score;
   }
   return best;
-}
-
-int WageOnceSigned(const Worker& worker, int size) {
-  return std::min(worker.Wage + BySize(kWageRise, size), kHighestWage);
 }
 
 void SignFor(World& world, const Promotion& rival, Worker& worker) {
@@ -119,7 +114,7 @@ void SignFor(World& world, const Promotion& rival, Worker& worker) {
   worker.ContractMonths = ContractMonthsAt(rival.Size);
   worker.ContractType = rival.Size < kRegional ? "Wri" : "Non";
   worker.Morale += kMoodSwing;
-  worker.Wage = WageOnceSigned(worker, rival.Size);
+  worker.Wage = std::min(worker.Wage + BySize(kWageRise, rival.Size), kHighestWage);
 }
 
 std::vector<Worker*> FindWeakest(World& world, int promotionUid, Taste taste, int most) {
@@ -150,12 +145,9 @@ void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& 
 void FitRoster(World& world, const Promotion& rival, Rosters& rosters) {
   const tuning::RosterBand& band = BySize(tuning::kRosters, rival.Size);
   const int count = rosters.Of(rival.Uid);
-  const bool staysBelow =
-      count < band.Least && IsRival(world, rival) && AimOf(world, rival) == Aim::StayBelow;
-  const int least = staysBelow ? band.Least * tuning::kFullBelow / 100 : band.Least;
-  if (count >= least && count <= band.Most) return;
+  if (count >= band.Least && count <= band.Most) return;
   const Taste taste = TasteOf(world, rival.Uid);
-  const int signings = std::min(least - count, kSigningsInARow);
+  const int signings = std::min(band.Least - count, kSigningsInARow);
   for (int n = 0; n < signings; ++n)
     if (!SignOne(world, rival, taste, rosters)) break;
   if (count <= band.Most) return;

@@ -8,24 +8,20 @@
 
 namespace grapplemont {
 
-/// The limits of a rival's size: what they ask for, how popular they are. Nobody is signed outside
-/// them, in whatever way.
+/// The limits of a rival's size: what they ask for, how popular they are.
 bool IsWithinLimits(const Worker& worker, int size);
 /// The same whatever they ask for.
 bool IsPopularEnough(const Worker& worker, int size);
 bool IsTooPopular(const Worker& worker, int size);
+/// Not popular enough yet, but near it.
+bool IsProspect(const Worker& worker, int size);
 /// Whether they would leave their employer for a promotion of this size; somebody free always
 /// would.
 bool IsOpenTo(const World& world, const Worker& worker, int size);
-/// Whether the promotion may sign them: within its limits, open to it, and, for the player's, not
-/// against the rules of the house.
-bool MayHave(const World& world, const Promotion& promotion, const Worker& worker);
 
 /// A walk over everybody who is not with the rival, a draw of ten each: the best of those looked at
 /// that may be had; nullptr for none.
 Worker* FindCandidate(World& world, const Promotion& rival, Taste taste);
-/// What they earn once they have been signed, in thousands a month.
-int WageOnceSigned(const Worker& worker, int size);
 /// They come to the rival, from the market or from whoever employs them, and the world hears of it.
 void SignFor(World& world, const Promotion& rival, Worker& worker);
 

@@ -266,10 +266,10 @@ void ReplaceByRookie(World& world, Worker& worker) {
   worker = rookie;
 }
 
-Worker NewTalent(World& world) {
+Worker NewTalent(World& world, bool isWoman) {
   Draws& life = world.Life();
   Worker talent;
-  DrawOwnNames(world, life, talent, kAllFirstNames);
+  DrawOwnNames(world, life, talent, isWoman ? kWomensFirstNames : kMensFirstNames);
   talent.Uid = NextWorkerUid(world);
   DrawRookie(life, talent);
   return talent;

@@ -8,7 +8,6 @@
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
-#include "records/houserules.h"
 #include "report/report.h"
 #include "session/home.h"
 #include "session/newgame.h"
@@ -161,10 +160,6 @@ int Run(const Arguments& arguments, Shell& shell) {
   std::optional<StatsFile> stats;
   if (const auto path = arguments.Text("--stats")) stats.emplace(*disk, *path);
   const World& world = game.World();
-  if (shows == Shows::Auto && Holds(world, HouseRule::NoAutoBooker))
-    throw WorldFault("Slot " + std::to_string(slot) +
-                     ": a rule of the house, every row is booked by hand. Run it with --shows "
-                     "cancel.");
   const auto dayPassed = [&](int day) {
     if (stats && IsFirstOfMonth(world.Today())) stats->Add(world);
     if (shell.Terminal)

@@ -71,6 +71,7 @@ void Recruit(World& world, const Promotion& as) {
   const int least = BySize(tuning::kRosters, as.Size).Least;
   if (!saves) GoAfterTalent(world, as, kTalksAWeek, rosters);
   if (!saves || rosters.Of(as.Uid) * 2 < least) FitRoster(world, as, rosters);
+  if (!saves) SignProspects(world, as, tuning::kProspectsAWeek, rosters);
 }
 
 /// "CWA Friday", or "CWA Friday 2" where that is taken.

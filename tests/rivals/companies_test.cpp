@@ -58,14 +58,15 @@ void MakeSpending(World& world) {
   for (std::size_t i = 0; i < 3; ++i) rival.MoneyBefore[i] = 900000 - 1000 * static_cast<int>(i);
 }
 
-TEST(RosterSizeReview, LetsTheLowestScoreGoWhileItSaves) {
+TEST(RosterSizeReview, LetsTheMostOverpaidGoWhileItSaves) {
   const int least = tuning::kRosters[kBackyard - 1].Least;
   World world = Backyard(least + 1);
   MakeSaving(world);
   Named(world.Workers(), "XWF Hand 4").Wage = 40;
-  Named(world.Workers(), "XWF Hand 6").Unsackable = true;
+  Named(world.Workers(), "XWF Hand 5").Wage = 50;
+  Named(world.Workers(), "XWF Hand 5").Unsackable = true;
   RosterSizeReview(world);
-  EXPECT_EQ(Named(world.Workers(), "XWF Hand 5").Employer, 0) << "of 40 there, not who costs most";
+  EXPECT_EQ(Named(world.Workers(), "XWF Hand 4").Employer, 0);
   EXPECT_EQ(Rosters(world).Of(2), least);
   RosterSizeReview(world);
   EXPECT_EQ(Rosters(world).Of(2), least) << "not below its band";

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "records/houserules.h"
 #include "rivals/ambition.h"
 #include "rivals/faults.h"
 #include "rivals/payscale.h"
@@ -102,15 +101,14 @@ TEST(RivalSponsorSigning, DrawsAmongTheWillingThatFitTheClass) {
                     .Sponsor("Too Cheap", pays(usual.From - 1))
                     .Sponsor("Fine C", pays(usual.From))
                     .Game("CWA");
-  ScriptDraws(world, {{18, 1}, {18, 1}, {18, 1}, {18, 1}});  // how long they sign for
-  ScriptLife(world, {{3, 2}, {2, 2}, {1, 1}, {1, 1}});
-  RivalOf(world).Sponsor[0] = 900;  // a sponsor who is no more
+  ScriptDraws(world, {{18, 1}, {18, 1}, {18, 1}});  // how long they sign for
+  ScriptLife(world, {{3, 2}, {2, 2}, {1, 1}});
   RivalSponsorSigning(world);
   const auto& places = RivalOf(world).Sponsor;
   EXPECT_EQ(places[0], Named(world.Sponsors(), "Fine B").Uid);
   EXPECT_EQ(places[1], Named(world.Sponsors(), "Fine C").Uid);
   EXPECT_EQ(places[2], Named(world.Sponsors(), "Fine A").Uid);
-  EXPECT_EQ(places[3], Named(world.Sponsors(), "Too Cheap").Uid) << "nobody else is willing";
+  EXPECT_EQ(places[3], 0) << "nobody else fits";
 }
 
 Change<Worker> Star(int over, int wage = 10, std::string_view contract = "Non", int months = 0) {
@@ -144,9 +142,8 @@ TEST(TalentHunt, AsksTheBestWithinTheBudgetAtTheGoingRate) {
                     .Worker("Good", Star(60))
                     .Worker("Better", Star(70))
                     .Worker("Best", Star(75))
-                    .Worker("Above It All", Star(81))
-                    .Worker("Beneath It", Star(40))
-                    .Worker("Greedy", Star(72, 81))
+                    .Worker("Above It All", Star(90))
+                    .Worker("Greedy", Star(72, 250))
                     .Worker("Leaving", Star(74))
                     .Game("CWA");
   Named(world.Workers(), "Leaving").RetiringSoon = true;
@@ -207,29 +204,21 @@ TEST(TalentHunt, AFullRosterWantsOnlyWhoeverIsBetterThanItsWeakest) {
   EXPECT_EQ(rosters.Of(3), most + 1) << "tomorrow the weakest goes";
 }
 
-TEST(TalentHunt, KeepsTheRulesOfTheHouseForThePlayer) {
-  World world = SmallWorld()
-                    .Promotion("SML", kBackyard)
-                    .Worker("Taken", Star(70, 10, "Non", 1))
-                    .Promotion("XWF", kCult)
-                    .Crew(20)
-                    .OnTheMarket()
-                    .Worker("Old", Star(75))
-                    .Worker("Young", Star(60))
-                    .Game("XWF");
-  Named(world.Workers(), "Taken").Age = Named(world.Workers(), "Young").Age = 23;
-  Named(world.Workers(), "Old").Age = 24;
-  HouseRules rules{};
-  rules.On[static_cast<std::size_t>(HouseRule::Homegrown)] = true;
-  world.Of<HouseRules>().Rewrite({rules});
-  Earn(RivalOf(world), 2000000, 1200000);
+TEST(TalentHunt, AShortRosterTakesTheBestOfWhoIsLeft) {
+  const int least = tuning::kRosters[kCult - 1].Least;
+  SmallWorld small;
+  small.Promotion("CWA").Promotion("SML", kSmall).Promotion("XWF", kCult).Crew(least - 2);
+  small.OnTheMarket().Worker("Green", Star(40 - tuning::kBelowClass));
+  for (const int over : {30, 40, 35}) small.Worker("Hope " + std::to_string(over), Star(over));
+  World world = small.Game("CWA");
+  ScriptDraws(world, std::vector<int>{});
   Rosters rosters(world);
-  ScriptDraws(world, {{10, 1}, {10, 1}, {10, 1}});
-  EXPECT_EQ(FindCandidate(world, RivalOf(world), kAllRound)->Name.Str(), "Young");
-  ScriptLife(world, {{tuning::kTalksFor1, 1}});
-  GoAfterTalent(world, RivalOf(world), 9, rosters);
-  EXPECT_EQ(Named(world.Workers(), "Young").Employer, 2);
-  EXPECT_EQ(rosters.Of(2), 21);
+  SignProspects(world, RivalOf(world), 1, rosters);
+  EXPECT_EQ(Newcomers(world).substr(0, 7), "Hope 40");
+  SignProspects(world, RivalOf(world), 9, rosters);
+  EXPECT_EQ(rosters.Of(3), least);
+  EXPECT_EQ(Named(world.Workers(), "Hope 30").Employer, 0);
+  EXPECT_EQ(FaultsOf(world), "");
 }
 
 TEST(RivalContractRenewals, LeaveTheBandFullAndLoseTheTempted) {
@@ -249,8 +238,7 @@ TEST(RivalContractRenewals, LeaveTheBandFullAndLoseTheTempted) {
     }
 }
 
-/// A Cult rival on air with an image and a crew from 30 to 80, and free people for the end of its
-/// card and below it.
+/// A Cult rival on air with an image, and free people for the end of its card and below it.
 World NearTheEdge(int image, int others) {
   SmallWorld small;
   small.Network("Nine").Promotion("CWA");
@@ -261,40 +249,32 @@ World NearTheEdge(int image, int others) {
   small.Show("Slam", "Monday", "Nine").OnTheMarket();
   for (int i = 0; i < 9; ++i)
     small.Worker("Low " + std::to_string(i), Star(25))
-        .Worker("Fair " + std::to_string(i), Star(41 + i));
+        .Worker("Deep " + std::to_string(i), Star(15));
   World world = small.Game("CWA");
   ScriptDraws(world, std::vector<int>{});
   ScriptLife(world, {});
   return world;
 }
 
-/// Whom the rival takes in a week.
-std::string Taken(World& world) {
+/// How many free people of a kind the rival takes in a week.
+int Taken(World& world, std::string_view kind) {
   Rosters rosters(world);
+  const int uid = RivalOf(world).Uid, before = rosters.Of(uid);
   MindTheCard(world, RivalOf(world), rosters);
-  EXPECT_EQ(rosters.Of(RivalOf(world).Uid), Rosters(world).Of(RivalOf(world).Uid));
-  std::string names;
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer == RivalOf(world).Uid && worker.Name.View().find("Hand") > 4)
-      names += worker.Name.Str() + ";";
-  return names;
+  EXPECT_EQ(rosters.Of(uid), before);
+  return static_cast<int>(std::ranges::count_if(world.Workers(), [&](const Worker& worker) {
+    return worker.Employer == uid && worker.Name.View().starts_with(kind);
+  }));
 }
 
 TEST(RivalAmbition, LowersTheCardNearARiseItIsNotReadyFor) {
   World calm = NearTheEdge(tuning::kNearARise - 1, 1);
-  EXPECT_EQ(AimOf(calm, RivalOf(calm)), Aim::None);
-  EXPECT_EQ(Taken(calm), "");
+  EXPECT_EQ(Taken(calm, "Low"), 0);
   World near = NearTheEdge(tuning::kNearARise, 1);
-  EXPECT_EQ(AimOf(near, RivalOf(near)), Aim::StayBelow);
+  EXPECT_FALSE(IsReadyToRise(near, RivalOf(near)));
   for (const char* name : {"XWF Hand 6", "XWF Hand 12"}) Named(near.Workers(), name).Over = 12;
-  for (Worker& worker : near.Workers())
-    if (worker.Employer == RivalOf(near).Uid)
-      worker.Brawl = worker.Technical = worker.Speed = worker.Over;
-  const Worker& star = Named(near.Workers(), "XWF Hand 1");
-  EXPECT_TRUE(IsInTheWay(near, RivalOf(near), Aim::StayBelow, star));
-  EXPECT_EQ(Taken(near), "Fair 0;Fair 1;") << "who is below the class may not be had";
-  EXPECT_EQ(star.Employer, 0) << "it is agreed that stars leave";
-  EXPECT_EQ(Rosters(near).Of(RivalOf(near).Uid), 24 - tuning::kStarsAWeek);
+  EXPECT_EQ(Taken(near, "Low"), 2 + tuning::kStarsAWeek) << "two from below, then the stars";
+  EXPECT_EQ(Named(near.Workers(), "XWF Hand 1").Employer, 0);
   EXPECT_EQ(FaultsOf(near), "");
 
   RivalOf(near).Money = FairSum(kNational);
@@ -308,13 +288,14 @@ TEST(RivalAmbition, LowersTheCardNearARiseItIsNotReadyFor) {
 
 TEST(RivalAmbition, KeepsTheCardToItsNamesNearAFallWhereItIsAtHome) {
   World weak = NearTheEdge(tuning::kNearAFall, 2);
-  EXPECT_EQ(AimOf(weak, RivalOf(weak)), Aim::None);
+  EXPECT_FALSE(IsAtHome(weak, RivalOf(weak)));
+  EXPECT_EQ(Taken(weak, "Deep"), 0);
   World calm = NearTheEdge(tuning::kNearAFall + 1, 1);
-  EXPECT_EQ(AimOf(calm, RivalOf(calm)), Aim::None);
+  EXPECT_EQ(Taken(calm, "Deep"), 0);
   World home = NearTheEdge(tuning::kNearAFall, 1);
-  EXPECT_EQ(AimOf(home, RivalOf(home)), Aim::StayUp);
-  EXPECT_TRUE(IsInTheWay(home, RivalOf(home), Aim::StayUp, Named(home.Workers(), "XWF Hand 6")));
-  EXPECT_FALSE(IsInTheWay(home, RivalOf(home), Aim::StayUp, Named(home.Workers(), "XWF Hand 1")));
+  EXPECT_TRUE(IsAtHome(home, RivalOf(home)));
+  EXPECT_EQ(Taken(home, "Deep"), std::min(8, tuning::kSwapsAWeek)) << "for those of 40 and 30";
+  EXPECT_EQ(FaultsOf(home), "");
 }
 
 TEST(RivalAdvertising, SpendsRichesOnCampaignsAndNothingInDebt) {
