@@ -137,7 +137,7 @@ TEST(RunConsole, RefusesWrongArguments) {
   for (const char* help : {"--help", "-h"}) {
     const std::string told = Played({"--json", help}).Out;
     EXPECT_TRUE(told.starts_with(usage)) << told;
-    EXPECT_NE(told.find("\n  --home FOLDER     the folder"), std::string::npos) << told;
+    EXPECT_NE(told.find("\n  --home FOLDER       the folder"), std::string::npos) << told;
   }
   EXPECT_EQ(Played({"--version"}).Out,
             std::string("grapplemont-console ") + kProgramVersion + "\n");

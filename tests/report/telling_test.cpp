@@ -24,7 +24,8 @@ class Telling : public testing::TestWithParam<int> {
     world.Game().Reporter = GetParam();
     memory_ = {};
     scene.Feuds = FeudsAtTheBell(world);
-    if (PurposeOf(segment).Does == Aim::EndsFeud) scene.Ends = scene.Feuds.back();
+    if (PurposeOf(segment).Does == Aim::EndsFeud && !scene.Feuds.empty())
+      scene.Ends = scene.Feuds.back();
     return WriteReport(world, segment, scene, memory_);
   }
   /// Expects that lines of this band were drawn, and of no other of the family.

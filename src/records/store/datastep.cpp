@@ -69,7 +69,7 @@ std::optional<DataStep> Unpack(ByteSpan bytes) {
 std::int64_t MostBytesOfStep() {
   constexpr std::int64_t kAround = 1024;  // names, sizes, checksums
   std::int64_t bytes = kAround;
-  for (const KnownFile& known : KnownFiles()) bytes += known.MaxBytes + kAround;
+  for (const std::string_view file : kDataSet) bytes += MostBytesOf(file) + kAround;
   return bytes;
 }
 
