@@ -29,7 +29,8 @@ std::set<std::string> NamesOfScreens() {
     const std::string text{std::istreambuf_iterator<char>(in), {}};
     for (auto at = text.find(kBefore); at != text.npos; at = text.find(kBefore, at + 1)) {
       std::string name = text.substr(at + 1, text.find('"', at + 1) - at - 1);
-      if (std::all_of(name.begin(), name.end(), [](char c) { return std::isalnum(c); }))
+      if (name.size() > 3 &&
+          std::all_of(name.begin(), name.end(), [](char c) { return std::isalnum(c); }))
         names.insert(std::move(name));
     }
   }

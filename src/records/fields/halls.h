@@ -14,10 +14,10 @@ namespace grapplemont {
 
 /// How far the totals have come, and in which form they are: the one record of totals.dat.
 struct TotalsState {
-  Word Version;     // kTotalsVersion
-  Date Since;       // the day counting began
-  Date Counted;     // what happened before this day is in the totals
-  Long LastCareer;  // the highest number that was given
+  Word Version;                            // kTotalsVersion
+  Date Since;                              // the day counting began
+  Date Counted;                            // what happened before this day is in the totals
+  RangedLong<0, kMostDollars> LastCareer;  // the highest number that was given
 };
 GM_RECORD(TotalsState, 22);
 inline constexpr int kTotalsVersion = 1;
@@ -36,10 +36,10 @@ struct Career {
   Natural Hurt;  // months injured
   Percent Peak;  // the highest Over at the first of a month
   Date PeakOn;
-  Long Renown;                       // days with a Title, each as much as its image
-  Natural Great;                     // matches rated 90 or more
-  RangedWord<-32768, 32767> Streak;  // matches won in a row, or lost below 0; a draw ends it
-  Natural MostWins;                  // the longest such rows
+  RangedLong<0, kMostDollars> Renown;  // days with a Title, each as much as its image
+  Natural Great;                       // matches rated 90 or more
+  RangedWord<-32768, 32767> Streak;    // matches won in a row, or lost below 0; a draw ends it
+  Natural MostWins;                    // the longest such rows
   Natural MostLosses;
   Word Rise;  // of Over, the most within a year
   Word RiseYear;
@@ -69,7 +69,7 @@ struct Tenure {
   RangedLong<0, kMostDollars> Ratings;  // the sum
   Percent Best;                         // the best rating
   Natural Reigns;
-  Long Days;  // as champion
+  RangedLong<0, kMostDollars> Days;  // as champion
   Natural Defences;
   Natural Wage;  // the highest, thousands of dollars a month
 };
@@ -89,7 +89,7 @@ struct Partnership {
   Natural Lost;
   Natural Drawn;
   Natural Reigns;
-  Long Days;  // as champions
+  RangedLong<0, kMostDollars> Days;  // as champions
   Natural Defences;
 };
 GM_RECORD(Partnership, 71);
