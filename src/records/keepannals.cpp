@@ -122,6 +122,7 @@ void SetWhom(const World& world, Annal& event, int worker, int partner) {
 }
 
 void KeepDeed(World& world, const Deed& deed, const Worker* who) {
+  if (!world.HasGame()) return;
   const auto row = std::ranges::find(kKept, int(deed.Kind), &DeedKept::Of);
   if (row == std::end(kKept) || deed.Number < row->Least) return;
   Annal event = NewAnnal(world, row->As, nullptr);
@@ -139,6 +140,7 @@ void KeepDeed(World& world, const Deed& deed, const Worker* who) {
 }
 
 void KeepFeud(World& world, AnnalKind kind, const Feud& feud, bool secondWon) {
+  if (!world.HasGame()) return;
   Annal event = NewAnnal(world, kind, world.FindPromotion(world.PlayerUid()));
   const bool pairs = !feud.Singles;
   int one[] = {feud.Worker1, pairs ? int(feud.Worker2) : 0};
@@ -158,6 +160,7 @@ void KeepFeud(World& world, AnnalKind kind, const Feud& feud, bool secondWon) {
 }
 
 void KeepGroup(World& world, AnnalKind kind, std::string_view name, int worker, int partner) {
+  if (!world.HasGame()) return;
   const Worker* one = world.FindWorker(worker);
   Annal event =
       NewAnnal(world, kind, world.FindPromotion(one ? int(one->Employer) : world.PlayerUid()));
@@ -170,6 +173,7 @@ void KeepGroup(World& world, AnnalKind kind, std::string_view name, int worker, 
 }
 
 void KeepNewName(World& world, const Worker& worker, std::string_view before) {
+  if (!world.HasGame()) return;
   Annal event = NewAnnal(world, kAnnalRenamed, world.FindPromotion(worker.Employer));
   SetWho(world, event, worker.Uid);
   event.Other = before;
@@ -177,6 +181,7 @@ void KeepNewName(World& world, const Worker& worker, std::string_view before) {
 }
 
 void KeepTitle(World& world, const Promotion* house, std::string_view title) {
+  if (!world.HasGame()) return;
   Annal event = NewAnnal(world, kAnnalTitle, house);
   event.What = title;
   Keep(world, event);

@@ -18,6 +18,8 @@ Annal NewAnnal(const World& world, AnnalKind kind, const Promotion* house);
 void SetWho(const World& world, Annal& event, int worker, int partner = 0);
 void SetWhom(const World& world, Annal& event, int worker, int partner = 0);
 
+// Nothing is kept of a world that nobody plays in, such as the editor's.
+
 /// What the annals keep of a deed, if anything. `who` is whom it is about; nullptr: whoever is
 /// called so.
 void KeepDeed(World& world, const Deed& deed, const Worker* who);
