@@ -15,10 +15,11 @@ namespace grapplemont {
 namespace {
 
 /// Mean Over of the ten most popular, or of as many as there are; 0 for nobody.
-int MeanOfBestTen(const World& world, int promotionUid) {
+int MeanOfBestTen(const World& world, int promotionUid, const Rosters& rosters) {
   std::vector<int> overs;
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer == promotionUid && IsOnMainRoster(worker)) overs.push_back(worker.Over);
+  for (const int number : rosters.NumbersOf(promotionUid))
+    if (const Worker& worker = world.Workers()[number]; IsOnMainRoster(worker))
+      overs.push_back(worker.Over);
   std::ranges::sort(overs, std::greater());
   const int count = std::min<int>(static_cast<int>(overs.size()), 10);
   int sum = 0;
@@ -31,12 +32,12 @@ struct OthersOfClass {
   int Count = 0;
   int MeanOfBest = 0;
 };
-OthersOfClass OthersIn(const World& world, int size, int butUid) {
+OthersOfClass OthersIn(const World& world, int size, int butUid, const Rosters& rosters) {
   OthersOfClass others;
   for (const Promotion& promotion : world.Promotions()) {
     if (!IsAlive(promotion) || promotion.Size != size || promotion.Uid == butUid) continue;
     ++others.Count;
-    others.MeanOfBest += MeanOfBestTen(world, promotion.Uid);
+    others.MeanOfBest += MeanOfBestTen(world, promotion.Uid, rosters);
   }
   if (others.Count > 0) others.MeanOfBest /= others.Count;
   return others;
@@ -66,8 +67,8 @@ Worker* FindForCard(World& world, const Promotion& rival, int last) {
 }
 
 /// Whoever would be the first to go, if they stand below the card; nullptr otherwise.
-Worker* FindBelow(World& world, const Promotion& rival, int last) {
-  const auto weakest = FindWeakest(world, rival.Uid, TasteOf(world, rival.Uid), 1);
+Worker* FindBelow(World& world, const Promotion& rival, int last, const Rosters& rosters) {
+  const auto weakest = FindWeakest(world, rosters, rival.Uid, TasteOf(world, rival.Uid), 1);
   if (weakest.empty() || weakest.front()->Unsackable) return nullptr;
   const int place = PlaceAt(*weakest.front(), rival);
   return place > last && place <= kJobber ? weakest.front() : nullptr;
@@ -75,26 +76,27 @@ Worker* FindBelow(World& world, const Promotion& rival, int last) {
 
 }  // namespace
 
-bool IsReadyToRise(const World& world, const Promotion& rival) {
+bool IsReadyToRise(const World& world, const Promotion& rival, const Rosters& rosters) {
   if (rival.Size == kGlobal) return true;
   const int above = rival.Size - 1;
-  const OthersOfClass there = OthersIn(world, above, rival.Uid);
+  const OthersOfClass there = OthersIn(world, above, rival.Uid, rosters);
   if (there.Count == 0) return true;
   return there.Count < BySize(tuning::kRoomInClass, above) && rival.Money >= FairSum(above) &&
-         MeanOfBestTen(world, rival.Uid) >= there.MeanOfBest - tuning::kMayBeWeaker;
+         MeanOfBestTen(world, rival.Uid, rosters) >= there.MeanOfBest - tuning::kMayBeWeaker;
 }
 
-bool IsAtHome(const World& world, const Promotion& rival) {
-  const OthersOfClass others = OthersIn(world, rival.Size, rival.Uid);
-  return others.Count == 0 ||
-         (others.Count < BySize(tuning::kRoomInClass, rival.Size) &&
-          MeanOfBestTen(world, rival.Uid) >= others.MeanOfBest - tuning::kMayBeWeakerAtHome);
+bool IsAtHome(const World& world, const Promotion& rival, const Rosters& rosters) {
+  const OthersOfClass others = OthersIn(world, rival.Size, rival.Uid, rosters);
+  return others.Count == 0 || (others.Count < BySize(tuning::kRoomInClass, rival.Size) &&
+                               MeanOfBestTen(world, rival.Uid, rosters) >=
+                                   others.MeanOfBest - tuning::kMayBeWeakerAtHome);
 }
 
-Aim AimOf(const World& world, const Promotion& rival) {
-  if (rival.Image >= tuning::kNearARise && !IsReadyToRise(world, rival)) return Aim::StayBelow;
+Aim AimOf(const World& world, const Promotion& rival, const Rosters& rosters) {
+  if (rival.Image >= tuning::kNearARise && !IsReadyToRise(world, rival, rosters))
+    return Aim::StayBelow;
   const bool isLow = rival.Image <= tuning::kNearAFall && rival.Size != kBackyard;
-  return isLow && IsAtHome(world, rival) ? Aim::StayUp : Aim::None;
+  return isLow && IsAtHome(world, rival, rosters) ? Aim::StayUp : Aim::None;
 }
 
 bool IsInTheWay(const World& world, const Promotion& rival, Aim aim, const Worker& worker) {
@@ -105,10 +107,10 @@ bool IsInTheWay(const World& world, const Promotion& rival, Aim aim, const Worke
 }
 
 void MindTheCard(World& world, const Promotion& rival, Rosters& rosters) {
-  if (AimOf(world, rival) != Aim::StayBelow) return;
+  if (AimOf(world, rival, rosters) != Aim::StayBelow) return;
   const int last = LastPlaceThatCounts(world, rival);
   for (int n = 0; n < tuning::kSwapsAWeek; ++n) {
-    Worker *out = FindBelow(world, rival, last), *in = FindForCard(world, rival, last);
+    Worker *out = FindBelow(world, rival, last, rosters), *in = FindForCard(world, rival, last);
     if (!out || !in) return;
     rosters.Move(*out, rival.Uid, 0);
     FireFrom(world, rival, {out});

@@ -9,15 +9,15 @@ namespace grapplemont {
 
 /// Whether it could live in the class above: that has room, a fair sum is in hand, and its ten best
 /// stand comparison with the ten best of those who are there. Where nobody is there, it could.
-bool IsReadyToRise(const World& world, const Promotion& rival);
+bool IsReadyToRise(const World& world, const Promotion& rival, const Rosters& rosters);
 /// Whether its ten best stand comparison with those of its own class, and that is not too full; of
 /// whoever is alone there they do.
-bool IsAtHome(const World& world, const Promotion& rival);
+bool IsAtHome(const World& world, const Promotion& rival, const Rosters& rosters);
 
 /// What a rival has in mind with its card: near a rise for which it is not ready it would stay
 /// below; near a fall, where it is at home, it would stay up.
 enum class Aim { None, StayBelow, StayUp };
-Aim AimOf(const World& world, const Promotion& rival);
+Aim AimOf(const World& world, const Promotion& rival, const Rosters& rosters);
 /// Whether somebody is in the way of the aim when their contract ends: one of the stars of a
 /// promotion that lives by television and would stay below, or one in the last place that counts
 /// where it would stay up.

@@ -25,10 +25,10 @@ namespace {
 constexpr int kLastMonth = 1;
 
 /// The score below which a roster's least wanted stand.
-int ScoreToStay(const World& world, const Promotion& rival, Taste taste) {
+int ScoreToStay(const World& world, const std::vector<int>& numbers, Taste taste) {
   std::vector<int> scores;
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer == rival.Uid && IsOnMainRoster(worker))
+  for (const int number : numbers)
+    if (const Worker& worker = world.Workers()[number]; IsOnMainRoster(worker))
       scores.push_back(RosterScore(worker, taste));
   if (scores.empty()) return 0;
   const auto at = scores.size() * tuning::kNotRenewed / 100;
@@ -79,30 +79,31 @@ bool IsTempted(World& world, const Worker& worker, const Renewing& terms, const 
 
 /// Whoever earns less than the going rate gets closer to it every month, from those who need not
 /// save.
-void RaiseWages(World& world, const Promotion& rival) {
+void RaiseWages(World& world, const Promotion& rival, const Rosters& rosters) {
   if (PurseOf(rival) == Purse::Saving) return;
-  const PayScale scale(world, rival);
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer != rival.Uid || !IsOnMainRoster(worker) ||
-        worker.ContractMonths == kLastMonth)
-      continue;
+  const PayScale scale(world, rival, rosters);
+  for (const int number : rosters.NumbersOf(rival.Uid)) {
+    Worker& worker = world.Workers()[number];
+    if (!IsOnMainRoster(worker) || worker.ContractMonths == kLastMonth) continue;
     const int gap = scale.For(worker.Over) - worker.Wage;
     if (gap > 0) worker.Wage += (gap + tuning::kMonthsToRate - 1) / tuning::kMonthsToRate;
   }
 }
 
-void RenewWorkers(World& world, const Promotion& rival, const Suitors* suitors) {
+void RenewWorkers(World& world, const Promotion& rival, const Rosters& rosters,
+                  const Suitors* suitors) {
   const Taste taste = TasteOf(world, rival.Uid);
+  const std::vector<int>& numbers = rosters.NumbersOf(rival.Uid);
   Renewing terms{rival,
                  taste,
-                 ScoreToStay(world, rival, taste),
-                 PayScale(world, rival),
+                 ScoreToStay(world, numbers, taste),
+                 PayScale(world, rival, rosters),
                  PurseOf(rival),
-                 IsRival(world, rival) ? AimOf(world, rival) : Aim::None,
-                 Rosters(world).Of(rival.Uid) - BySize(tuning::kRosters, rival.Size).Least};
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer != rival.Uid || worker.ContractMonths != kLastMonth || worker.RetiringSoon)
-      continue;
+                 IsRival(world, rival) ? AimOf(world, rival, rosters) : Aim::None,
+                 rosters.Of(rival.Uid) - BySize(tuning::kRosters, rival.Size).Least};
+  for (const int number : numbers) {
+    Worker& worker = world.Workers()[number];
+    if (worker.ContractMonths != kLastMonth || worker.RetiringSoon) continue;
     if (IsLetGo(world, worker, terms) || IsTempted(world, worker, terms, suitors))
       --terms.Spare;
     else
@@ -130,7 +131,7 @@ void RenewStaff(World& world, const Promotion& rival) {
 
 void Save(World& world, const Promotion& rival, Rosters& rosters) {
   if (rosters.Of(rival.Uid) <= BySize(tuning::kRosters, rival.Size).Least) return;
-  const auto weakest = FindWeakest(world, rival.Uid, TasteOf(world, rival.Uid), 1);
+  const auto weakest = FindWeakest(world, rosters, rival.Uid, TasteOf(world, rival.Uid), 1);
   if (weakest.empty() || weakest.front()->Unsackable) return;
   rosters.Move(*weakest.front(), rival.Uid, 0);
   FireFrom(world, rival, weakest);
@@ -142,8 +143,7 @@ bool HasTitles(const World& world, int promotionUid) {
 }
 
 /// Those who stand highest are asked first.
-void GoAfterTheFree(World& world) {
-  Rosters rosters(world);
+void GoAfterTheFree(World& world, Rosters& rosters) {
   for (const Promotion* promotion : PromotionsByStanding(world))
     if (IsRival(world, *promotion) && IsFreeToSpend(world, *promotion))
       GoAfterTalent(world, *promotion, tuning::kTalksAMonth, rosters);
@@ -156,17 +156,18 @@ bool IsFreeToSpend(const World& world, const Promotion& promotion) {
 }
 
 void RenewContracts(World& world, const Promotion& promotion) {
-  RenewWorkers(world, promotion, nullptr);
+  RenewWorkers(world, promotion, Rosters(world), nullptr);
   RenewStaff(world, promotion);
 }
 
 void RivalContractRenewals(World& world) {
-  GoAfterTheFree(world);
-  const Suitors suitors(world);
+  Rosters rosters(world);
+  GoAfterTheFree(world, rosters);
+  const Suitors suitors(world, rosters);
   for (const Promotion& promotion : world.Promotions()) {
     if (!IsRival(world, promotion)) continue;
-    RenewWorkers(world, promotion, &suitors);
-    RaiseWages(world, promotion);
+    RenewWorkers(world, promotion, rosters, &suitors);
+    RaiseWages(world, promotion, rosters);
     RenewStaff(world, promotion);
   }
 }

@@ -26,20 +26,39 @@ bool IsOnMainRoster(const Worker& worker) {
   return IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
 }
 
-Rosters::Rosters(const World& world) {
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer != 0 && IsOnMainRoster(worker)) ++counts_[worker.Employer];
+Rosters::Rosters(const World& world) : workers_(world.Workers()) {
+  for (int number = 1; number <= workers_.Count(); ++number) {
+    const Worker& worker = workers_[number];
+    if (worker.Employer == 0) continue;
+    House& house = houses_[worker.Employer];
+    house.Numbers.push_back(number);
+    house.OnMainRoster += IsOnMainRoster(worker);
+  }
 }
 
 int Rosters::Of(int promotionUid) const {
-  const auto found = counts_.find(promotionUid);
-  return found == counts_.end() ? 0 : found->second;
+  const auto found = houses_.find(promotionUid);
+  return found == houses_.end() ? 0 : found->second.OnMainRoster;
+}
+
+const std::vector<int>& Rosters::NumbersOf(int promotionUid) const {
+  static const std::vector<int> kNobody;
+  const auto found = houses_.find(promotionUid);
+  return found == houses_.end() ? kNobody : found->second.Numbers;
 }
 
 void Rosters::Move(const Worker& worker, int fromUid, int toUid) {
-  if (!IsOnMainRoster(worker)) return;
-  if (fromUid != 0) --counts_[fromUid];
-  if (toUid != 0) ++counts_[toUid];
+  const int number = static_cast<int>(&worker - &workers_[1]) + 1;
+  if (fromUid != 0) {
+    House& house = houses_[fromUid];
+    std::erase(house.Numbers, number);
+    house.OnMainRoster -= IsOnMainRoster(worker);
+  }
+  if (toUid != 0) {
+    House& house = houses_[toUid];
+    house.Numbers.insert(std::ranges::upper_bound(house.Numbers, number), number);
+    house.OnMainRoster += IsOnMainRoster(worker);
+  }
 }
 
 void PartWays(World& world, const std::vector<Worker*>& workers) {

@@ -23,16 +23,24 @@ bool IsRival(const World& world, const Promotion& promotion);
 /// development or at the camp.
 bool IsOnMainRoster(const Worker& worker);
 
-/// How many people are on the main roster of each promotion: counted once, kept up to date by
-/// whoever moves them.
+/// Who works for each promotion, and how many are on its main roster: looked up once, kept up to
+/// date by whoever moves them.
 class Rosters {
  public:
   explicit Rosters(const World& world);
+  /// How many are on the main roster.
   int Of(int promotionUid) const;
+  /// The record numbers of everybody whom it employs, in the order of the file.
+  const std::vector<int>& NumbersOf(int promotionUid) const;
   void Move(const Worker& worker, int fromUid, int toUid);
 
  private:
-  std::map<int, int> counts_;
+  struct House {
+    int OnMainRoster = 0;
+    std::vector<int> Numbers;
+  };
+  const Records<Worker>& workers_;
+  std::map<int, House> houses_;
 };
 
 /// The workers leave their employers, and all that tied them there ends: Titles, feuds, corner,

@@ -31,7 +31,7 @@ bool IsWorthIt(const Worker& worker, const PayScale& scale, int size) {
 /// The score that somebody new has to beat: that of the weakest where the roster is full.
 int ScoreToBeat(World& world, const Promotion& promotion, Taste taste, const Rosters& rosters) {
   if (rosters.Of(promotion.Uid) < BySize(tuning::kRosters, promotion.Size).Most) return -1;
-  const auto weakest = FindWeakest(world, promotion.Uid, taste, 1);
+  const auto weakest = FindWeakest(world, rosters, promotion.Uid, taste, 1);
   return weakest.empty() ? -1 : RosterScore(*weakest.front(), taste);
 }
 
@@ -44,7 +44,7 @@ void BringOver(World& world, const Promotion& promotion, Worker& worker, Rosters
 }  // namespace
 
 void GoAfterTalent(World& world, const Promotion& promotion, int talks, Rosters& rosters) {
-  PayScale scale(world, promotion);
+  PayScale scale(world, promotion, rosters);
   const Taste taste = TasteOf(world, promotion.Uid);
   const int toBeat = ScoreToBeat(world, promotion, taste, rosters);
   std::vector<std::pair<int, Worker*>> wanted;
@@ -64,10 +64,10 @@ void GoAfterTalent(World& world, const Promotion& promotion, int talks, Rosters&
   }
 }
 
-Suitors::Suitors(const World& world) {
+Suitors::Suitors(const World& world, const Rosters& rosters) {
   for (const Promotion& rival : world.Promotions())
     if (IsRival(world, rival) && PurseOf(rival) != Purse::Saving)
-      suitors_.push_back({&rival, PayScale(world, rival)});
+      suitors_.push_back({&rival, PayScale(world, rival, rosters)});
 }
 
 int Suitors::BestOfferFor(const Worker& worker, const Promotion& employer) const {

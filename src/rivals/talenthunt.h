@@ -19,7 +19,7 @@ void GoAfterTalent(World& world, const Promotion& promotion, int talks, Rosters&
 /// Who would pay whom: what a promotion other than their own offers a worker.
 class Suitors {
  public:
-  explicit Suitors(const World& world);
+  Suitors(const World& world, const Rosters& rosters);
   /// The best offer of a rival of no lower class, in thousands a month; 0 for none.
   int BestOfferFor(const Worker& worker, const Promotion& employer) const;
 

@@ -121,12 +121,14 @@ void SignFor(World& world, const Promotion& rival, Worker& worker) {
   worker.Wage = WageOnceSigned(worker, rival.Size);
 }
 
-std::vector<Worker*> FindWeakest(World& world, int promotionUid, Taste taste, int most) {
+std::vector<Worker*> FindWeakest(World& world, const Rosters& rosters, int promotionUid,
+                                 Taste taste, int most) {
   // Nobody's going changes the score of another, so one look at all ranks them. Pairs compare
   // places in the file where scores are equal.
   std::vector<std::pair<int, Worker*>> ranked;
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer != promotionUid || !IsOnMainRoster(worker)) continue;
+  for (const int number : rosters.NumbersOf(promotionUid)) {
+    Worker& worker = world.Workers()[number];
+    if (!IsOnMainRoster(worker)) continue;
     const int score = RosterScore(worker, taste);
     if (score < kAboveAllScores) ranked.emplace_back(score, &worker);
   }
@@ -155,7 +157,7 @@ void FitRoster(World& world, const Promotion& rival, Rosters& rosters) {
   for (int n = 0; n < signings; ++n)
     if (!SignOne(world, rival, taste, rosters)) break;
   if (count <= band.Most) return;
-  const auto weakest = FindWeakest(world, rival.Uid, taste, count - band.Most);
+  const auto weakest = FindWeakest(world, rosters, rival.Uid, taste, count - band.Most);
   for (const Worker* worker : weakest) rosters.Move(*worker, rival.Uid, 0);
   FireFrom(world, rival, weakest);
 }

@@ -30,7 +30,8 @@ int WageOnceSigned(const Worker& worker, int size);
 void SignFor(World& world, const Promotion& rival, Worker& worker);
 
 /// Those of the main roster who would go first, `most` at most, in the order in which they go.
-std::vector<Worker*> FindWeakest(World& world, int promotionUid, Taste taste, int most);
+std::vector<Worker*> FindWeakest(World& world, const Rosters& rosters, int promotionUid,
+                                 Taste taste, int most);
 /// They go to the market, and the world hears of it.
 void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& workers);
 

@@ -283,10 +283,10 @@ std::string Taken(World& world) {
 
 TEST(RivalAmbition, LowersTheCardNearARiseItIsNotReadyFor) {
   World calm = NearTheEdge(tuning::kNearARise - 1, 1);
-  EXPECT_EQ(AimOf(calm, RivalOf(calm)), Aim::None);
+  EXPECT_EQ(AimOf(calm, RivalOf(calm), Rosters(calm)), Aim::None);
   EXPECT_EQ(Taken(calm), "");
   World near = NearTheEdge(tuning::kNearARise, 1);
-  EXPECT_EQ(AimOf(near, RivalOf(near)), Aim::StayBelow);
+  EXPECT_EQ(AimOf(near, RivalOf(near), Rosters(near)), Aim::StayBelow);
   for (const char* name : {"XWF Hand 6", "XWF Hand 12"}) Named(near.Workers(), name).Over = 12;
   for (Worker& worker : near.Workers())
     if (worker.Employer == RivalOf(near).Uid)
@@ -299,20 +299,20 @@ TEST(RivalAmbition, LowersTheCardNearARiseItIsNotReadyFor) {
 
   RivalOf(near).Money = FairSum(kNational);
   Named(near.Workers(), "Star 0").Over = 60;
-  EXPECT_TRUE(IsReadyToRise(near, RivalOf(near))) << "rich and as good as they are";
+  EXPECT_TRUE(IsReadyToRise(near, RivalOf(near), Rosters(near))) << "rich and as good as they are";
   RivalOf(near).Money -= 1;
-  EXPECT_FALSE(IsReadyToRise(near, RivalOf(near)));
+  EXPECT_FALSE(IsReadyToRise(near, RivalOf(near), Rosters(near)));
   Named(near.Promotions(), "P0").Size = kCult;
-  EXPECT_TRUE(IsReadyToRise(near, RivalOf(near))) << "nobody is up there";
+  EXPECT_TRUE(IsReadyToRise(near, RivalOf(near), Rosters(near))) << "nobody is up there";
 }
 
 TEST(RivalAmbition, KeepsTheCardToItsNamesNearAFallWhereItIsAtHome) {
   World weak = NearTheEdge(tuning::kNearAFall, 2);
-  EXPECT_EQ(AimOf(weak, RivalOf(weak)), Aim::None);
+  EXPECT_EQ(AimOf(weak, RivalOf(weak), Rosters(weak)), Aim::None);
   World calm = NearTheEdge(tuning::kNearAFall + 1, 1);
-  EXPECT_EQ(AimOf(calm, RivalOf(calm)), Aim::None);
+  EXPECT_EQ(AimOf(calm, RivalOf(calm), Rosters(calm)), Aim::None);
   World home = NearTheEdge(tuning::kNearAFall, 1);
-  EXPECT_EQ(AimOf(home, RivalOf(home)), Aim::StayUp);
+  EXPECT_EQ(AimOf(home, RivalOf(home), Rosters(home)), Aim::StayUp);
   EXPECT_TRUE(IsInTheWay(home, RivalOf(home), Aim::StayUp, Named(home.Workers(), "XWF Hand 6")));
   EXPECT_FALSE(IsInTheWay(home, RivalOf(home), Aim::StayUp, Named(home.Workers(), "XWF Hand 1")));
 }
